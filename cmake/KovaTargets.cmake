@@ -1,0 +1,78 @@
+# How every target of this project is compiled, and what a "room" is.
+
+# Language level, warnings, visibility and instrumentation: one place for all targets.
+function(kova_compile_settings target)
+  target_compile_features(${target} PUBLIC cxx_std_20)
+  set_target_properties(${target} PROPERTIES
+    CXX_EXTENSIONS OFF
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON)
+  target_compile_definitions(${target} PRIVATE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+    QT_NO_KEYWORDS QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+  target_compile_options(${target} PRIVATE
+    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wnull-dereference -Wformat=2
+    -Wimplicit-fallthrough -Wextra-semi -Wundef
+    $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op -Wduplicated-branches -Wuseless-cast>
+    $<$<BOOL:${KOVA_WARNINGS_AS_ERRORS}>:-Werror>)
+  if(KOVA_SANITIZE)
+    target_compile_options(${target} PRIVATE -fsanitize=${KOVA_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(${target} PUBLIC -fsanitize=${KOVA_SANITIZE})
+  endif()
+  if(KOVA_COVERAGE)
+    target_compile_options(${target} PRIVATE --coverage -fprofile-update=atomic)
+    target_link_options(${target} PUBLIC --coverage)
+  endif()
+endfunction()
+
+# kova_room(<name> SOURCES <files> LINKS <libraries> [PCH <headers>])
+#
+# One folder below src/ as an object library `kova_<name>`. What a room does not list in LINKS it
+# can't use: headers are found below src/, but symbols and Qt modules come from LINKS alone.
+function(kova_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS;PCH" ${ARGN})
+  set(target kova_${name})
+  add_library(${target} OBJECT ${ROOM_SOURCES})
+  kova_compile_settings(${target})
+  target_compile_definitions(${target} PRIVATE KOVAVSFDataGridLib_EXPORTS)
+  target_include_directories(${target} PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src> $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
+  target_link_libraries(${target} PUBLIC ${ROOM_LINKS})
+  if(ROOM_PCH)
+    target_precompile_headers(${target} PRIVATE ${ROOM_PCH})
+  endif()
+endfunction()
+
+# kova_program(<name> SOURCES <files> LINKS <libraries>): an executable under the same settings.
+function(kova_program name)
+  cmake_parse_arguments(PROGRAM "" "" "SOURCES;LINKS;PCH" ${ARGN})
+  add_executable(${name} ${PROGRAM_SOURCES})
+  kova_compile_settings(${name})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include)
+  target_link_libraries(${name} PRIVATE ${PROGRAM_LINKS})
+  if(PROGRAM_PCH)
+    target_precompile_headers(${name} PRIVATE ${PROGRAM_PCH})
+  endif()
+endfunction()
+
+# kova_test(<name> SOURCES <files> ROOMS <rooms> LINKS <libraries>)
+#
+# One test program, one ctest entry, one process. ROOMS are compiled in directly, so that a room's
+# inner classes can be tested although the library hides them; tests of the control link the library.
+function(kova_test name)
+  cmake_parse_arguments(TEST "" "TIMEOUT" "SOURCES;ROOMS;LINKS;PCH;LABELS" ${ARGN})
+  set(rooms "")
+  foreach(room IN LISTS TEST_ROOMS)
+    list(APPEND rooms kova_${room})
+  endforeach()
+  kova_program(${name} SOURCES ${TEST_SOURCES} LINKS ${rooms} ${TEST_LINKS} kova_test_main PCH ${TEST_PCH})
+  if(NOT TEST_TIMEOUT)
+    set(TEST_TIMEOUT 300)
+  endif()
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${TEST_TIMEOUT} LABELS "${TEST_LABELS}"
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8"
+    SKIP_REGULAR_EXPRESSION "ALL TESTS SKIPPED")
+endfunction()

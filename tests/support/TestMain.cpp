@@ -1,0 +1,62 @@
+#include "support/ExpectedWarnings.h"
+
+#include <QtCore/QStandardPaths>
+#include <QtWidgets/QApplication>
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+namespace {
+
+QStringList &expected()
+{
+    static QStringList list;
+    return list;
+}
+
+// A warning that nobody announced is a defect of the code under test, so it fails the running test.
+void onMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    std::fprintf(stderr, "%s\n", qUtf8Printable(text));
+    if (type == QtDebugMsg || type == QtInfoMsg)
+        return;
+    for (const QString &part : expected()) {
+        if (text.contains(part))
+            return;
+    }
+    ADD_FAILURE() << "unexpected Qt message: " << qUtf8Printable(text);
+}
+
+} // namespace
+
+namespace KovaTest {
+
+ExpectedWarning::ExpectedWarning(const QString &part)
+    : m_part(part)
+{
+    expected().append(m_part);
+}
+
+ExpectedWarning::~ExpectedWarning()
+{
+    expected().removeOne(m_part);
+}
+
+} // namespace KovaTest
+
+int main(int argc, char **argv)
+{
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("kova-tests"));
+    // Tests never touch the settings of the person who runs them.
+    QStandardPaths::setTestModeEnabled(true);
+    testing::InitGoogleTest(&argc, argv);
+    qInstallMessageHandler(onMessage);
+    const int result = RUN_ALL_TESTS();
+    qInstallMessageHandler(nullptr);
+    const auto &unit = *testing::UnitTest::GetInstance();
+    if (result == 0 && unit.test_to_run_count() > 0 && unit.skipped_test_count() == unit.test_to_run_count())
+        std::puts("ALL TESTS SKIPPED");
+    return result;
+}
