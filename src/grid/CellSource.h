@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/Qt>
+
+namespace KOVAVSFDataGridLib {
+
+// Where a flex grid gets its cells from. Rows and columns count from 0 and include the headings: row 0
+// holds the column headings and, in a grid with a fixed column, column 0 the row headings.
+//
+// Reading a cell has no side effect. `row` is in 0 ... rows() - 1 and `col` in 0 ... cols() - 1.
+class CellSource
+{
+public:
+    CellSource() = default;
+    virtual ~CellSource() = default;
+    Q_DISABLE_COPY_MOVE(CellSource)
+
+    virtual int rows() const = 0;
+    virtual int cols() const = 0;
+    virtual QString text(int row, int col) const = 0;
+    // Whether the column holds numbers, which stand to the right.
+    virtual bool isNumeric(int col) const = 0;
+    // False when the source can't be written.
+    virtual bool setText(int row, int col, const QString &text) = 0;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,276 @@
+#include "grid/FlexGrid.h"
+
+#include "grid/FlexGridModel.h"
+#include "grid/TextCells.h"
+#include "grid/Twips.h"
+
+#include <QtCore/QEvent>
+#include <QtCore/QScopedValueRollback>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace KOVAVSFDataGridLib {
+
+FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
+    : QTableView(parent), m_model(new FlexGridModel(fixedCols, this))
+{
+    setMouseTracking(true);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(ContiguousSelection);
+    setAlternatingRowColors(true);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    horizontalHeader()->setMinimumSectionSize(0);
+    horizontalHeader()->setHighlightSections(false);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+    verticalHeader()->setHighlightSections(false);
+    setModel(m_model);
+    m_widths.assign(static_cast<std::size_t>(Cols()), UseDefaultWidth);
+    applyWidths();
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int section, int, int size) { onSectionResized(section, size); });
+}
+
+FlexGrid::~FlexGrid() = default;
+
+int FlexGrid::Rows() const
+{
+    return m_model->source().rows();
+}
+
+void FlexGrid::PutRows(int rows)
+{
+    if (rows < 1)
+        throw std::out_of_range("a grid has at least one row");
+    Show(std::make_unique<TextCells>(rows, Cols()));
+}
+
+int FlexGrid::Cols() const
+{
+    return m_model->source().cols();
+}
+
+void FlexGrid::PutCols(int cols)
+{
+    if (cols < 1)
+        throw std::out_of_range("a grid has at least one column");
+    Show(std::make_unique<TextCells>(Rows(), cols));
+}
+
+void FlexGrid::PutRow(int row)
+{
+    checkRow(row);
+    makeCurrent(row, m_col == 0 && row > 0 && Cols() > m_model->fixedCols() ? m_model->fixedCols() : m_col);
+}
+
+void FlexGrid::PutCol(int col)
+{
+    checkCol(col);
+    makeCurrent(m_row, col);
+}
+
+// Headings can be current in the grid's vocabulary but not in the view: the numbers are kept here and
+// the view shows no current cell meanwhile.
+void FlexGrid::makeCurrent(int row, int col)
+{
+    const bool isCell = row > 0 && col >= m_model->fixedCols();
+    setCurrentIndex(isCell ? m_model->index(row - 1, section(col)) : QModelIndex());
+    m_row = row;
+    m_col = col;
+}
+
+void FlexGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (current.isValid()) {
+        m_row = current.row() + 1;
+        m_col = current.column() + m_model->fixedCols();
+    }
+}
+
+int FlexGrid::RowSel() const
+{
+    const QModelIndex current = currentIndex();
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
+        if (range.contains(current))
+            return (current.row() == range.top() ? range.bottom() : range.top()) + 1;
+    }
+    return m_row;
+}
+
+int FlexGrid::ColSel() const
+{
+    const QModelIndex current = currentIndex();
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
+        if (range.contains(current))
+            return (current.column() == range.left() ? range.right() : range.left()) + m_model->fixedCols();
+    }
+    return m_col;
+}
+
+int FlexGrid::TopRow() const
+{
+    return rowAt(0) + 1;
+}
+
+void FlexGrid::PutTopRow(int row)
+{
+    checkRow(row);
+    if (row > 0)
+        scrollTo(m_model->index(row - 1, std::max(0, currentIndex().column())), PositionAtTop);
+}
+
+bool FlexGrid::RowIsVisible(int row) const
+{
+    checkRow(row);
+    if (row == 0)
+        return true;
+    const int top = rowViewportPosition(row - 1);
+    return top + rowHeight(row - 1) > 0 && top < viewport()->height();
+}
+
+QString FlexGrid::TextMatrix(int row, int col) const
+{
+    checkRow(row);
+    checkCol(col);
+    return m_model->source().text(row, col);
+}
+
+void FlexGrid::PutTextMatrix(int row, int col, const QString &text)
+{
+    checkRow(row);
+    checkCol(col);
+    m_model->setText(row, col, text);
+}
+
+QString FlexGrid::Text() const
+{
+    return TextMatrix(m_row, m_col);
+}
+
+int FlexGrid::ColWidth(int col) const
+{
+    checkCol(col);
+    return m_widths[static_cast<std::size_t>(col)];
+}
+
+void FlexGrid::PutColWidth(int col, int twips)
+{
+    checkCol(col);
+    m_widths[static_cast<std::size_t>(col)] = std::max(twips, UseDefaultWidth);
+    applyWidth(col);
+}
+
+int FlexGrid::ColWidthInUse(int col) const
+{
+    const int width = ColWidth(col);
+    return width == UseDefaultWidth ? DefaultColWidth : width;
+}
+
+void FlexGrid::Clear()
+{
+    Show(std::make_unique<TextCells>(Rows(), Cols()));
+}
+
+void FlexGrid::Refresh()
+{
+    viewport()->update();
+    horizontalHeader()->viewport()->update();
+    verticalHeader()->viewport()->update();
+}
+
+QColor FlexGrid::BackColor() const
+{
+    return palette().color(QPalette::Base);
+}
+
+void FlexGrid::PutBackColor(const QColor &colour)
+{
+    QPalette changed = palette();
+    changed.setColor(QPalette::Base, colour);
+    setPalette(changed);
+}
+
+void FlexGrid::Show(std::unique_ptr<CellSource> source)
+{
+    // The view restores section sizes of its own on a reset; ours are the exact ones.
+    const QScopedValueRollback<bool> applying(m_isApplyingWidths, true);
+    m_model->setSource(std::move(source));
+    m_row = 0;
+    m_col = 0;
+    m_widths.resize(static_cast<std::size_t>(Cols()), UseDefaultWidth);
+    applyWidths();
+}
+
+bool FlexGrid::event(QEvent *event)
+{
+    // A window that moved to a screen of another resolution.
+    if (event->type() == QEvent::ScreenChangeInternal)
+        applyWidths();
+    return QTableView::event(event);
+}
+
+void FlexGrid::checkRow(int row) const
+{
+    if (row < 0 || row >= Rows())
+        throw std::out_of_range("row outside the grid");
+}
+
+void FlexGrid::checkCol(int col) const
+{
+    if (col < 0 || col >= Cols())
+        throw std::out_of_range("column outside the grid");
+}
+
+int FlexGrid::section(int col) const
+{
+    return col - m_model->fixedCols();
+}
+
+void FlexGrid::applyWidths()
+{
+    const QScopedValueRollback<bool> applying(m_isApplyingWidths, true);
+    horizontalHeader()->setDefaultSectionSize(Twips::toPixels(DefaultColWidth, *this));
+    for (int col = 0; col < Cols(); ++col)
+        applyWidth(col);
+}
+
+void FlexGrid::applyWidth(int col)
+{
+    const QScopedValueRollback<bool> applying(m_isApplyingWidths, true);
+    const int width = m_widths[static_cast<std::size_t>(col)];
+    if (col < m_model->fixedCols()) {
+        // The row headings fit their numbers unless a width was asked for.
+        verticalHeader()->setVisible(width != 0);
+        if (width > 0)
+            verticalHeader()->setFixedWidth(Twips::toPixels(width, *this));
+        return;
+    }
+    setColumnHidden(section(col), width == 0);
+    if (width != 0)
+        setColumnWidth(section(col), Twips::toPixels(ColWidthInUse(col), *this));
+}
+
+void FlexGrid::onSectionResized(int section, int size)
+{
+    if (m_isApplyingWidths)
+        return;
+    const int col = section + m_model->fixedCols();
+    const int twips = Twips::fromPixels(size, *this);
+    m_widths[static_cast<std::size_t>(col)] = twips;
+    Q_EMIT ColWidthChanged(col, twips);
+}
+
+MSFlexGrid::MSFlexGrid(QWidget *parent)
+    : FlexGrid(0, parent)
+{
+    verticalHeader()->hide();
+    horizontalHeader()->setStretchLastSection(true);
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "grid/CellSource.h"
+
+#include <QtWidgets/QTableView>
+
+#include <memory>
+#include <vector>
+
+namespace KOVAVSFDataGridLib {
+
+class FlexGridModel;
+
+// A table view that speaks the flex-grid vocabulary: rows and columns count from 0 with the headings
+// as row 0 (and, in a VSFlexGrid, column 0), widths are twips.
+//
+// A row or column outside the grid is an error: reads and writes of it throw std::out_of_range and
+// change nothing.
+class FlexGrid : public QTableView
+{
+    Q_OBJECT
+
+public:
+    static constexpr int DefaultColWidth = 960; // twips
+    static constexpr int UseDefaultWidth = -1;  // as a column's width: the default
+
+    ~FlexGrid() override;
+
+    // Rows and columns, headings included. Writing them empties the grid's cells; at least 1.
+    int Rows() const;
+    void PutRows(int rows);
+    int Cols() const;
+    void PutCols(int cols);
+
+    // The current cell; 0 while a heading (or nothing) is current.
+    int Row() const { return m_row; }
+    void PutRow(int row);
+    int Col() const { return m_col; }
+    void PutCol(int col);
+    // The far corner of the selection that holds the current cell; Row and Col when one cell is selected.
+    int RowSel() const;
+    int ColSel() const;
+    // The first row in view, 0 in a grid without data rows. Writing scrolls it to the top.
+    int TopRow() const;
+    void PutTopRow(int row);
+    // True when any of the row can be seen. Row 0, the heading, always can.
+    bool RowIsVisible(int row) const;
+
+    QString TextMatrix(int row, int col) const;
+    void PutTextMatrix(int row, int col, const QString &text);
+    // The current cell's text.
+    QString Text() const;
+
+    // Twips exactly as last set, whatever the screen's resolution; UseDefaultWidth when never set,
+    // 0 for a hidden column.
+    int ColWidth(int col) const;
+    void PutColWidth(int col, int twips);
+    // What a column's width comes to: like ColWidth, with the default's 960 in place of -1.
+    int ColWidthInUse(int col) const;
+
+    bool Redraw() const { return updatesEnabled(); }
+    void PutRedraw(bool on) { setUpdatesEnabled(on); }
+    // Empties all cells and headings, keeping the number of rows and columns.
+    void Clear();
+    void Refresh();
+    QColor BackColor() const;
+    void PutBackColor(const QColor &colour);
+
+    // Shows the cells of `source` (not null) instead of the grid's own. Columns that stay within the
+    // number of columns keep their widths; nothing is current afterwards.
+    void Show(std::unique_ptr<CellSource> source);
+
+Q_SIGNALS:
+    // The user gave a column another width.
+    void ColWidthChanged(int col, int twips);
+
+protected:
+    FlexGrid(int fixedCols, QWidget *parent);
+
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    bool event(QEvent *event) override;
+
+private:
+    void checkRow(int row) const;
+    void checkCol(int col) const;
+    void makeCurrent(int row, int col);
+    int section(int col) const;
+    void applyWidths();
+    void applyWidth(int col);
+    void onSectionResized(int section, int size);
+
+    FlexGridModel *m_model;
+    std::vector<int> m_widths; // twips by grid column
+    int m_row = 0;
+    int m_col = 0;
+    bool m_isApplyingWidths = false;
+};
+
+// The main grid: row 0 and column 0 are headings.
+class VSFlexGrid final : public FlexGrid
+{
+    Q_OBJECT
+
+public:
+    explicit VSFlexGrid(QWidget *parent = nullptr)
+        : FlexGrid(1, parent)
+    {
+    }
+};
+
+// The list of one record: two columns, both data; row 0 is the heading.
+class MSFlexGrid final : public FlexGrid
+{
+    Q_OBJECT
+
+public:
+    explicit MSFlexGrid(QWidget *parent = nullptr);
+};
+
+} // namespace KOVAVSFDataGridLib
