@@ -1,0 +1,97 @@
+#include "control/GridParts.h"
+
+#include "ado/Adodc.h"
+#include "control/GridTexts.h"
+#include "control/GridToolbar.h"
+#include "grid/FlexGrid.h"
+#include "grid/Twips.h"
+
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int GridLeft = 7;        // twips
+constexpr int GridWidthMargin = 67; // twips
+constexpr int Gap = 6;             // pixels at 96 DPI, between the parts of the foot
+
+template<typename Widget>
+Widget *named(Widget *widget, const QString &name)
+{
+    widget->setObjectName(name);
+    return widget;
+}
+
+} // namespace
+
+GridParts::GridParts(QWidget &control)
+    : picMainBack(named(new QWidget(&control), u"picMainBack"_s)),
+      Toolbar1(new GridToolbar(picMainBack)),
+      vsfgDataGrid(named(new VSFlexGrid(picMainBack), u"vsfgDataGrid"_s)),
+      MSFlexGrid1(named(new MSFlexGrid(picMainBack), u"MSFlexGrid1"_s)),
+      txtEdit(named(new QLineEdit(picMainBack), u"txtEdit"_s)),
+      txtPage(named(new QLineEdit(picMainBack), u"txtPage"_s)),
+      cmdPgae(named(new QPushButton(GridTexts::GoToPage.toString(), picMainBack), u"cmdPgae"_s)),
+      lblFieldCount(named(new QLabel(picMainBack), u"lblFieldCount"_s)),
+      CheckSelAllRow(named(new QCheckBox(GridTexts::SelectWholeRows.toString(), picMainBack), u"CheckSelAllRow"_s)),
+      Adodc1(named(new ADODB::Adodc(&control), u"Adodc1"_s))
+{
+    picMainBack->setAutoFillBackground(true);
+    MSFlexGrid1->hide();
+    txtEdit->hide();
+    txtPage->setAlignment(Qt::AlignRight);
+    txtPage->setAccessibleName(GridTexts::PageBoxHint.toString());
+    txtPage->setToolTip(GridTexts::PageBoxHint.toString());
+    lblFieldCount->setTextFormat(Qt::PlainText);
+}
+
+void GridParts::layOut(int width, int height)
+{
+    picMainBack->setGeometry(0, 0, width, height);
+    const int toolbarHeight = Toolbar1->sizeHint().height();
+    Toolbar1->setGeometry(0, 0, width, toolbarHeight);
+
+    const int foot = footHeight();
+    const int left = Twips::toPixels(GridLeft, *picMainBack);
+    const int gridWidth = width - Twips::toPixels(GridWidthMargin, *picMainBack);
+    const int gridHeight = std::max(0, height - toolbarHeight - foot);
+    vsfgDataGrid->setGeometry(left, toolbarHeight, gridWidth, gridHeight);
+    MSFlexGrid1->setGeometry(vsfgDataGrid->geometry());
+    txtEdit->hide();
+    layOutFoot(height - foot, foot, width);
+}
+
+int GridParts::footHeight() const
+{
+    return std::max({txtPage->sizeHint().height(), cmdPgae->sizeHint().height(),
+                     CheckSelAllRow->sizeHint().height()})
+        + Gap;
+}
+
+// The page box, its button and the label from the left, the check box at the right edge; the label gives
+// way when it gets narrow.
+void GridParts::layOutFoot(int top, int height, int width)
+{
+    const int partHeight = height - Gap;
+    int x = Gap;
+    const auto place = [&](QWidget *part, int partWidth) {
+        part->setGeometry(x, top + Gap / 2, partWidth, partHeight);
+        x += partWidth + Gap;
+    };
+    const int checkWidth = std::min(CheckSelAllRow->sizeHint().width(), width - 2 * Gap);
+    place(txtPage, txtPage->fontMetrics().horizontalAdvance(u'0') * 8);
+    place(cmdPgae, cmdPgae->sizeHint().width());
+    place(lblFieldCount, std::max(0, width - checkWidth - 2 * Gap - x));
+    x = width - checkWidth - Gap;
+    place(CheckSelAllRow, checkWidth);
+}
+
+} // namespace KOVAVSFDataGridLib

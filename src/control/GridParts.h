@@ -1,0 +1,50 @@
+#pragma once
+
+#include <memory>
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QWidget;
+
+namespace ADODB {
+class Adodc;
+}
+
+namespace KOVAVSFDataGridLib {
+
+class GridToolbar;
+class MSFlexGrid;
+class VSFlexGrid;
+
+// The parts that the control is put together from, under the names by which hosts and tests find them,
+// and their places on it. The control, as their parent, owns them.
+class GridParts
+{
+public:
+    static constexpr int MinimumWidth = 3000;  // twips
+    static constexpr int MinimumHeight = 1500; // twips
+
+    explicit GridParts(QWidget &control);
+
+    QWidget *picMainBack;
+    GridToolbar *Toolbar1;
+    VSFlexGrid *vsfgDataGrid;
+    MSFlexGrid *MSFlexGrid1;
+    QLineEdit *txtEdit;
+    QLineEdit *txtPage;
+    QPushButton *cmdPgae;
+    QLabel *lblFieldCount;
+    QCheckBox *CheckSelAllRow;
+    ADODB::Adodc *Adodc1;
+
+    // Places everything on a control of the given size.
+    void layOut(int width, int height);
+
+private:
+    int footHeight() const;
+    void layOutFoot(int top, int height, int width);
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QtWidgets/QToolBar>
+
+#include <map>
+
+namespace KOVAVSFDataGridLib {
+
+// The toolbar of the control and of its full-screen viewer: one button per command, known by its key.
+//
+// A button's enabled state is the one it was given by itself; it is not touched by a disabled toolbar
+// or a hidden button. A key that no button has is ignored, and reads as off.
+class GridToolbar final : public QToolBar
+{
+    Q_OBJECT
+
+public:
+    explicit GridToolbar(QWidget *parent = nullptr);
+
+    QStringList keys() const;
+    bool isButtonEnabled(const QString &key) const;
+    void setButtonEnabled(const QString &key, bool on);
+    void setAllButtonsEnabled(bool on);
+    bool isButtonVisible(const QString &key) const;
+    void setButtonVisible(const QString &key, bool on);
+    bool isButtonPressed(const QString &key) const;
+    // Shows a checkable button as pressed or not without running its command.
+    void setButtonPressed(const QString &key, bool on);
+
+Q_SIGNALS:
+    // The user pressed the button (by mouse, keyboard or shortcut) while it was enabled.
+    void buttonClicked(const QString &key);
+
+private:
+    struct Button
+    {
+        QAction *action = nullptr;
+        bool isEnabled = true;
+        bool isVisible = true;
+    };
+
+    const Button *find(const QString &key) const;
+    Button *find(const QString &key);
+    void apply(const Button &button);
+
+    std::map<QString, Button> m_buttons;
+};
+
+} // namespace KOVAVSFDataGridLib

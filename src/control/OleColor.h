@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QtCore/QtTypes>
+#include <QtGui/QColor>
+
+class QPalette;
+
+namespace KOVAVSFDataGridLib {
+
+// A colour as automation carries it: 0x00BBGGRR, or 0x80000000 plus the index of a system colour, which
+// follows the palette.
+class OleColor
+{
+public:
+    static constexpr quint32 SystemColourBit = 0x80000000u;
+    static constexpr quint32 ButtonFace = 0x8000000Fu;
+
+    explicit constexpr OleColor(quint32 number)
+        : m_number(number)
+    {
+    }
+    explicit OleColor(const QColor &colour);
+
+    constexpr quint32 number() const { return m_number; }
+    // System colours without a counterpart in a palette count as the button face.
+    QColor in(const QPalette &palette) const;
+
+private:
+    quint32 m_number;
+};
+
+} // namespace KOVAVSFDataGridLib

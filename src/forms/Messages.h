@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QtWidgets/QMessageBox>
+
+class QWidget;
+
+// Every message box of the library is made here: plain text, a title always set (the application's
+// display name when none is given), modal above the window of `parent`.
+namespace KOVAVSFDataGridLib::Messages {
+
+// Shows a text with an OK button.
+void tell(QWidget *parent, const QString &text, const QString &title = {},
+          QMessageBox::Icon icon = QMessageBox::NoIcon);
+
+// Asks with the buttons Yes and No; true for Yes. Closing the box counts as No.
+bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon);
+
+} // namespace KOVAVSFDataGridLib::Messages
