@@ -19,9 +19,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int GridLeft = 7;        // twips
+constexpr int GridLeft = 7;         // twips
 constexpr int GridWidthMargin = 67; // twips
-constexpr int Gap = 6;             // pixels at 96 DPI, between the parts of the foot
+constexpr int Gap = 6;              // pixels at 96 DPI, between the parts of the foot
 
 template<typename Widget>
 Widget *named(Widget *widget, const QString &name)
@@ -39,17 +39,17 @@ GridParts::GridParts(QWidget &control)
       MSFlexGrid1(named(new MSFlexGrid(picMainBack), u"MSFlexGrid1"_s)),
       txtEdit(named(new QLineEdit(picMainBack), u"txtEdit"_s)),
       txtPage(named(new QLineEdit(picMainBack), u"txtPage"_s)),
-      cmdPgae(named(new QPushButton(GridTexts::GoToPage.toString(), picMainBack), u"cmdPgae"_s)),
+      cmdPgae(named(new QPushButton(GridTexts::GoToPage, picMainBack), u"cmdPgae"_s)),
       lblFieldCount(named(new QLabel(picMainBack), u"lblFieldCount"_s)),
-      CheckSelAllRow(named(new QCheckBox(GridTexts::SelectWholeRows.toString(), picMainBack), u"CheckSelAllRow"_s)),
+      CheckSelAllRow(named(new QCheckBox(GridTexts::SelectWholeRows, picMainBack), u"CheckSelAllRow"_s)),
       Adodc1(named(new ADODB::Adodc(&control), u"Adodc1"_s))
 {
     picMainBack->setAutoFillBackground(true);
     MSFlexGrid1->hide();
     txtEdit->hide();
     txtPage->setAlignment(Qt::AlignRight);
-    txtPage->setAccessibleName(GridTexts::PageBoxHint.toString());
-    txtPage->setToolTip(GridTexts::PageBoxHint.toString());
+    txtPage->setAccessibleName(GridTexts::PageBoxHint);
+    txtPage->setToolTip(GridTexts::PageBoxHint);
     lblFieldCount->setTextFormat(Qt::PlainText);
 }
 
@@ -72,8 +72,8 @@ void GridParts::layOut(int width, int height)
 int GridParts::footHeight() const
 {
     return std::max({txtPage->sizeHint().height(), cmdPgae->sizeHint().height(),
-                     CheckSelAllRow->sizeHint().height()})
-        + Gap;
+                     CheckSelAllRow->sizeHint().height()}) +
+           Gap;
 }
 
 // The page box, its button and the label from the left, the check box at the right edge; the label gives

@@ -9,8 +9,7 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-GridToolbar::GridToolbar(QWidget *parent)
-    : QToolBar(parent)
+GridToolbar::GridToolbar(QWidget *parent) : QToolBar(parent)
 {
     setObjectName(u"Toolbar1"_s);
     setIconSize(QSize(16, 16));
@@ -18,10 +17,10 @@ GridToolbar::GridToolbar(QWidget *parent)
     for (const GridTexts::Button &text : GridTexts::Buttons) {
         if (text.beginsGroup)
             addSeparator();
-        const QString key = text.key.toString();
-        QAction *action = addAction(text.caption.toString());
+        const QString key = text.key;
+        QAction *action = addAction(text.caption);
         action->setObjectName(key);
-        action->setToolTip(text.toolTip.toString());
+        action->setToolTip(text.toolTip);
         connect(action, &QAction::triggered, this, [this, key] { Q_EMIT buttonClicked(key); });
         if (key == u"All" || key == u"Part") {
             action->setCheckable(true);
@@ -39,7 +38,7 @@ QStringList GridToolbar::keys() const
 {
     QStringList keys;
     for (const GridTexts::Button &text : GridTexts::Buttons)
-        keys.append(text.key.toString());
+        keys.append(text.key);
     return keys;
 }
 

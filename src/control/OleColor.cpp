@@ -27,8 +27,8 @@ QPalette::ColorRole roleOf(quint32 systemIndex)
 } // namespace
 
 OleColor::OleColor(const QColor &colour)
-    : m_number(static_cast<quint32>(colour.red()) | static_cast<quint32>(colour.green()) << 8
-               | static_cast<quint32>(colour.blue()) << 16)
+    : m_number(static_cast<quint32>(colour.red()) | static_cast<quint32>(colour.green()) << 8 |
+               static_cast<quint32>(colour.blue()) << 16)
 {
 }
 

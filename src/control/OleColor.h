@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QtTypes>
+#include <QtCore/qglobal.h>
 #include <QtGui/QColor>
 
 class QPalette;
@@ -15,10 +15,7 @@ public:
     static constexpr quint32 SystemColourBit = 0x80000000u;
     static constexpr quint32 ButtonFace = 0x8000000Fu;
 
-    explicit constexpr OleColor(quint32 number)
-        : m_number(number)
-    {
-    }
+    explicit constexpr OleColor(quint32 number) : m_number(number) {}
     explicit OleColor(const QColor &colour);
 
     constexpr quint32 number() const { return m_number; }

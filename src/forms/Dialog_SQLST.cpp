@@ -17,10 +17,10 @@ Dialog_SQLST::Dialog_SQLST(QWidget *parent)
     : QDialog(parent),
       m_label(new QLabel(this)),
       m_text(new QLineEdit(this)),
-      m_allowEdit(new QCheckBox(FormTexts::AllowEditing.toString(), this))
+      m_allowEdit(new QCheckBox(FormTexts::AllowEditing, this))
 {
     setObjectName(u"Dialog_SQLST"_s);
-    setWindowTitle(FormTexts::SqlDialogTitle.toString());
+    setWindowTitle(FormTexts::SqlDialogTitle);
     m_label->setObjectName(u"Label_what"_s);
     m_label->setTextFormat(Qt::PlainText);
     m_label->setBuddy(m_text);
@@ -29,14 +29,14 @@ Dialog_SQLST::Dialog_SQLST(QWidget *parent)
     m_text->setMinimumWidth(fontMetrics().averageCharWidth() * 70);
     m_allowEdit->setObjectName(u"Check_AllowEd"_s);
 
-    auto *hint = new QLabel(FormTexts::AllowEditingHint.toString(), this);
+    auto *hint = new QLabel(FormTexts::AllowEditingHint, this);
     hint->setObjectName(u"Label2"_s);
     hint->setForegroundRole(QPalette::PlaceholderText);
 
-    auto *ok = new QPushButton(FormTexts::Ok.toString(), this);
+    auto *ok = new QPushButton(FormTexts::Ok, this);
     ok->setObjectName(u"OKButton"_s);
     ok->setDefault(true);
-    auto *cancel = new QPushButton(FormTexts::Cancel.toString(), this);
+    auto *cancel = new QPushButton(FormTexts::Cancel, this);
     cancel->setObjectName(u"CancelButton"_s);
 
     auto *buttons = new QHBoxLayout;

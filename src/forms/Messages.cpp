@@ -28,8 +28,8 @@ void tell(QWidget *parent, const QString &text, const QString &title, QMessageBo
 
 bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon)
 {
-    return show(parent, text, title, icon, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
-        == QMessageBox::Yes;
+    return show(parent, text, title, icon, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
+           QMessageBox::Yes;
 }
 
 } // namespace KOVAVSFDataGridLib::Messages

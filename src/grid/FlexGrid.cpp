@@ -266,8 +266,7 @@ void FlexGrid::onSectionResized(int section, int size)
     Q_EMIT ColWidthChanged(col, twips);
 }
 
-MSFlexGrid::MSFlexGrid(QWidget *parent)
-    : FlexGrid(0, parent)
+MSFlexGrid::MSFlexGrid(QWidget *parent) : FlexGrid(0, parent)
 {
     verticalHeader()->hide();
     horizontalHeader()->setStretchLastSection(true);

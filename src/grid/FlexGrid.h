@@ -102,10 +102,7 @@ class VSFlexGrid final : public FlexGrid
     Q_OBJECT
 
 public:
-    explicit VSFlexGrid(QWidget *parent = nullptr)
-        : FlexGrid(1, parent)
-    {
-    }
+    explicit VSFlexGrid(QWidget *parent = nullptr) : FlexGrid(1, parent) {}
 };
 
 // The list of one record: two columns, both data; row 0 is the heading.

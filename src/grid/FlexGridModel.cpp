@@ -52,7 +52,8 @@ QVariant FlexGridModel::data(const QModelIndex &index, int role) const
     if (role == Qt::DisplayRole)
         return m_source->text(index.row() + 1, col);
     if (role == Qt::TextAlignmentRole)
-        return QVariant::fromValue(Qt::AlignVCenter | (m_source->isNumeric(col) ? Qt::AlignRight : Qt::AlignLeft));
+        return QVariant::fromValue(Qt::AlignVCenter |
+                                   (m_source->isNumeric(col) ? Qt::AlignRight : Qt::AlignLeft));
     return {};
 }
 

@@ -13,10 +13,7 @@ quint64 keyOf(int row, int col)
 
 } // namespace
 
-TextCells::TextCells(int rows, int cols)
-    : m_rows(std::max(rows, 1)), m_cols(std::max(cols, 1))
-{
-}
+TextCells::TextCells(int rows, int cols) : m_rows(std::max(rows, 1)), m_cols(std::max(cols, 1)) {}
 
 QString TextCells::text(int row, int col) const
 {

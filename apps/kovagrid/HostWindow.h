@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Options.h"
+
+#include <QtWidgets/QMainWindow>
+
+class EventLog;
+class KOVAVSFDataGrid;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+
+// A form with the grid on it: what to load above, the picture of the record and the raised events beside.
+class HostWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit HostWindow(const Options &options);
+    ~HostWindow() override;
+
+    // Loads what stands in the form. False when it could not be loaded; the grid has told the user why.
+    bool load();
+    KOVAVSFDataGrid *grid() const { return m_grid; }
+    double secondsOfLastLoad() const { return m_seconds; }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    QWidget *makeForm(const Options &options);
+    void makeDocks();
+    void listenToGrid();
+    void showPicture();
+
+    KOVAVSFDataGrid *m_grid;
+    QLineEdit *m_connection;
+    QComboBox *m_dbType;
+    QLineEdit *m_sql;
+    QLineEdit *m_part;
+    QLineEdit *m_sort;
+    QLabel *m_picture;
+    EventLog *m_log;
+    qint32 m_tableType;
+    double m_seconds = 0;
+};

@@ -1,0 +1,107 @@
+#include "Options.h"
+
+#include <QtCore/QCommandLineParser>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList DbTypes{u"access"_s, u"oracle"_s, u"sqlserver"_s};
+const QStringList TableTypes{u"table"_s, u"view"_s, u"sql"_s};
+const QStringList Keys{
+    u"All"_s,      u"Part"_s,       u"SingleRecord"_s, u"AllRecord"_s,   u"Filter"_s,     u"Sort"_s,
+    u"First"_s,    u"Previous"_s,   u"Next"_s,         u"Last"_s,        u"FullScreen"_s, u"ToPreview"_s,
+    u"ToOrigin"_s, u"FromResult"_s, u"CompressView"_s, u"ToFullTable"_s, u"SelField"_s,   u"QuickFilter"_s};
+
+bool isNumber(const QString &text)
+{
+    bool ok = false;
+    text.toInt(&ok);
+    return ok;
+}
+
+// The number behind --print may be missing, which the parser can't express.
+QStringList withExplicitPrintRows(const QStringList &arguments)
+{
+    QStringList result;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        if (arguments.at(i) != u"--print") {
+            result.append(arguments.at(i));
+        } else if (i + 1 < arguments.size() && isNumber(arguments.at(i + 1))) {
+            result.append(u"--print="_s + arguments.at(++i));
+        } else {
+            result.append(u"--print=all"_s);
+        }
+    }
+    return result;
+}
+
+} // namespace
+
+QString Options::usage()
+{
+    return u"usage: kovagrid [--connection TEXT] [--db-type access|oracle|sqlserver] [--sql TEXT] [--part "
+           u"TEXT]\n"
+           "                [--sort TEXT] [--table-type table|view|sql] [--do KEY[,KEY...]] [--print "
+           "[ROWS]]\n"
+           "                [--screenshot FILE]\n"
+           "Without --connection it opens a sample database, which it makes on first use."_s;
+}
+
+std::optional<Options> Options::parse(const QStringList &arguments, QString &error)
+{
+    QCommandLineParser parser;
+    const auto add = [&parser](const QString &name) {
+        parser.addOption(QCommandLineOption(name, {}, u"value"_s));
+    };
+    for (const QString &name : {u"connection"_s, u"db-type"_s, u"sql"_s, u"part"_s, u"sort"_s,
+                                u"table-type"_s, u"do"_s, u"print"_s, u"screenshot"_s})
+        add(name);
+    if (!parser.parse(QStringList{u"kovagrid"_s} + withExplicitPrintRows(arguments))) {
+        error = parser.errorText();
+        return {};
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        error = u"unexpected argument: "_s + parser.positionalArguments().constFirst();
+        return {};
+    }
+
+    Options options;
+    options.connection = parser.value(u"connection"_s);
+    options.sql = parser.value(u"sql"_s);
+    options.part = parser.value(u"part"_s);
+    options.sort = parser.value(u"sort"_s);
+    options.screenshot = parser.value(u"screenshot"_s);
+    options.print = parser.isSet(u"print"_s);
+
+    const auto choice = [&](const QString &name, const QStringList &names, qint32 &value, qint32 first) {
+        if (!parser.isSet(name))
+            return true;
+        const qsizetype index = names.indexOf(parser.value(name).toLower());
+        value = static_cast<qint32>(index) + first;
+        if (index < 0)
+            error = u"--%1 must be one of %2"_s.arg(name, names.join(u", "));
+        return index >= 0;
+    };
+    if (!choice(u"db-type"_s, DbTypes, options.dbType, 1) ||
+        !choice(u"table-type"_s, TableTypes, options.tableType, 0))
+        return {};
+
+    if (options.print && parser.value(u"print"_s) != u"all") {
+        bool ok = false;
+        const int rows = parser.value(u"print"_s).toInt(&ok);
+        if (!ok || rows < 0) {
+            error = u"--print takes a number of rows"_s;
+            return {};
+        }
+        options.printRows = rows;
+    }
+    options.keys = parser.value(u"do"_s).split(u',', Qt::SkipEmptyParts);
+    for (const QString &key : std::as_const(options.keys)) {
+        if (!Keys.contains(key)) {
+            error = u"--do: there is no button "_s + key;
+            return {};
+        }
+    }
+    return options;
+}

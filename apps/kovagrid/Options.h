@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <optional>
+
+// What the command line asks for.
+struct Options
+{
+    // Each is empty when it was not given.
+    QString connection;
+    QString sql;
+    QString part;
+    QString sort;
+    QStringList keys; // toolbar buttons to press after the load
+    QString screenshot;
+    qint32 dbType = 1;    // AllDBType
+    qint32 tableType = 0; // TBLType
+    bool print = false;
+    std::optional<int> printRows; // all of them when not given
+
+    // Nothing when the arguments (without the program's name) make no sense; `error` then says why.
+    static std::optional<Options> parse(const QStringList &arguments, QString &error);
+    static QString usage();
+};

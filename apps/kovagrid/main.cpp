@@ -1,0 +1,126 @@
+#include "HostWindow.h"
+#include "Options.h"
+#include "SampleDatabase.h"
+#include "Unattended.h"
+
+#include <KOVAVSFDataGrid>
+
+#include <QtCore/QLibraryInfo>
+#include <QtCore/QTranslator>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QTableView>
+#include <QtWidgets/QToolBar>
+
+#include <cstdio>
+#include <exception>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum ExitCode { Done = 0, Failed = 1, BadUsage = 2 };
+
+// On Unix a program without a display can still load, print and take its picture.
+bool hasDisplay()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+#else
+    return true;
+#endif
+}
+
+void useSampleDatabase(Options &options)
+{
+    options.connection = u"Provider=SQLite;Data Source="_s + SampleDatabase::path();
+    if (options.sql.isEmpty()) {
+        options.sql = SampleDatabase::defaultStatement();
+        if (options.part.isEmpty())
+            options.part = SampleDatabase::defaultPartStatement();
+    }
+}
+
+void pressButtons(const KOVAVSFDataGrid &grid, const QStringList &keys)
+{
+    const auto *toolbar = grid.findChild<QToolBar *>(u"Toolbar1"_s);
+    for (const QString &key : keys) {
+        if (auto *action = toolbar->findChild<QAction *>(key))
+            action->trigger();
+    }
+}
+
+int failed(const QString &text)
+{
+    std::fprintf(stderr, "%s\n", qUtf8Printable(text));
+    return Failed;
+}
+
+// Loads, does what was asked for and leaves.
+int runUnattended(HostWindow &window, const Options &options)
+{
+    const Unattended unattended;
+    window.show();
+    if (!window.load())
+        return failed(unattended.messages());
+    pressButtons(*window.grid(), options.keys);
+    QCoreApplication::processEvents();
+
+    const auto *table = window.grid()->findChild<QTableView *>(u"vsfgDataGrid"_s);
+    const QString summary = u"Loaded %1 records, %2 fields in %3 s"_s
+                                .arg(window.grid()->RecordSet()->property("RecordCount").toLongLong())
+                                .arg(table->model()->columnCount())
+                                .arg(window.secondsOfLastLoad(), 0, 'f', 2);
+    // Standard output belongs to the records when they are asked for.
+    std::fprintf(options.print ? stderr : stdout, "%s\n", qUtf8Printable(summary));
+    if (options.print)
+        Unattended::print(*table, options.printRows);
+    if (!options.screenshot.isEmpty() && !window.grab().save(options.screenshot))
+        return failed(u"can't write "_s + options.screenshot);
+    if (!unattended.messages().isEmpty())
+        return failed(unattended.messages());
+    window.close();
+    return Done;
+}
+
+int run(int argc, char **argv)
+{
+    const bool isWatched = hasDisplay();
+    if (!isWatched && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(u"kovagrid"_s);
+    QApplication::setApplicationDisplayName(u"KOVAVSFDataGrid"_s);
+    const QLocale chinese(QLocale::Chinese, QLocale::China);
+    QLocale::setDefault(chinese);
+    QTranslator translator;
+    if (translator.load(chinese, u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&translator);
+
+    QString error;
+    std::optional<Options> options = Options::parse(QApplication::arguments().mid(1), error);
+    if (!options) {
+        std::fprintf(stderr, "%s\n%s\n", qUtf8Printable(error), qUtf8Printable(Options::usage()));
+        return BadUsage;
+    }
+    if (options->connection.isEmpty())
+        useSampleDatabase(*options);
+
+    HostWindow window(*options);
+    if (!isWatched || options->print || !options->screenshot.isEmpty())
+        return runUnattended(window, *options);
+    window.show();
+    window.load();
+    pressButtons(*window.grid(), options->keys);
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    try {
+        return run(argc, argv);
+    } catch (const std::exception &error) {
+        return failed(QString::fromUtf8(error.what()));
+    }
+}

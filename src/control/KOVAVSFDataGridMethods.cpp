@@ -1,0 +1,208 @@
+#include "ado/Adodc.h"
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "control/GridTexts.h"
+#include "control/GridToolbar.h"
+#include "control/KOVAVSFDataGridPrivate.h"
+#include "forms/Dialog_SQLST.h"
+#include "forms/Messages.h"
+#include "grid/FlexGrid.h"
+
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QPushButton>
+
+#include <stdexcept>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+// The methods of the interface; its properties are in KOVAVSFDataGrid.cpp.
+
+void KOVAVSFDataGrid::Refresh()
+{
+    const bool isIncomplete = d->connectionString.isEmpty() || d->recordSource.trimmed().isEmpty();
+    if (isIncomplete && d->errorHint) {
+        Messages::tell(this, GridTexts::NothingToLink, GridTexts::NothingToLinkTitle, QMessageBox::Critical);
+    }
+}
+
+bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
+{
+    VSFlexGrid &grid = *d->parts.vsfgDataGrid;
+    if (lRecordRow <= 0 || lRecordRow > grid.Rows())
+        return false;
+    if (lRecordRow < 2 || !d->result.isOpen())
+        return true;
+    ADODB::Recordset &recordset = *d->result.recordset();
+    if (lRecordRow == recordset.AbsolutePosition() || lRecordRow > recordset.RecordCount())
+        return true;
+    if (d->pages.currentPage() > 1)
+        d->showPage(1);
+    if (lRecordRow == grid.Rows())
+        return true;
+    try {
+        const QSignalBlocker onlyOurOwnEvent(d->parts.Adodc1);
+        recordset.MoveFirst();
+        recordset.Move(lRecordRow - 1);
+    } catch (const ADODB::Error &) {
+        return true; // a pending edit could not be saved: its record stays the current one
+    }
+    grid.PutRow(lRecordRow);
+    grid.PutCol(1);
+    if (!grid.RowIsVisible(lRecordRow))
+        grid.PutTopRow(lRecordRow);
+    Q_EMIT RecordChanged(3, lRecordRow - 1);
+    grid.Refresh();
+    return true;
+}
+
+void KOVAVSFDataGrid::ShowConnectionString()
+{
+    d->showText(u"Show Connection String", u"ConnectionString:"_s, d->connectionString);
+}
+
+void KOVAVSFDataGrid::ShowRecordSource()
+{
+    d->showText(u"Show Record Source", u"RecordSource:"_s, d->recordSource);
+}
+
+void KOVAVSFDataGrid::ShowSQLShow()
+{
+    d->showText(u"Show SQL Show", u"SQLShow:"_s, d->sqlShow);
+}
+
+void KOVAVSFDataGrid::ShowPartDisplay()
+{
+    d->showText(u"Show Part Display", u"SQLPartDisplay:"_s, d->sqlPartDisplay);
+}
+
+void KOVAVSFDataGrid::ShowFilterCondtion()
+{
+    d->showText(u"Show Filter Condtion", u"SQLFilter:"_s, d->sqlFilter);
+}
+
+void KOVAVSFDataGrid::ShowSort()
+{
+    d->showText(u"Show Sort", u"SQLSort:"_s, d->sqlSort);
+}
+
+void KOVAVSFDataGrid::GetConnection() {}
+
+void KOVAVSFDataGrid::SetFieldName() {}
+
+void KOVAVSFDataGrid::SetSQLShow()
+{
+    d->runSteps(u"Set SQL Show", {[this] {
+                    if (const auto text = d->editText(u"SQLShow:"_s, d->sqlShow))
+                        PutSQLShow(*text);
+                }});
+}
+
+void KOVAVSFDataGrid::SetSQLFilter()
+{
+    d->runSteps(u"Set SQL Filter", {[this] {
+                    if (const auto text = d->editText(u"SQLFilter:"_s, d->sqlFilter))
+                        PutSQLFilter(*text);
+                }});
+}
+
+void KOVAVSFDataGrid::SetSortFN() {}
+
+void KOVAVSFDataGrid::SetGridCol(const qint32 &Col)
+{
+    try {
+        d->parts.vsfgDataGrid->PutCol(Col);
+    } catch (const std::out_of_range &) {
+        Messages::tell(this, GridTexts::WrongCol, u"Set Grid Col"_s);
+    }
+}
+
+QString KOVAVSFDataGrid::CellText(const qint16 &n_row, const qint16 &n_col)
+{
+    return d->cellText(n_row, n_col, u"Get CellText"_s);
+}
+
+void KOVAVSFDataGrid::Clear()
+{
+    d->result.close();
+    d->emptyGrid();
+    if (!d->parts.MSFlexGrid1->isHidden()) {
+        d->parts.MSFlexGrid1->Clear();
+        d->parts.MSFlexGrid1->hide();
+        d->parts.vsfgDataGrid->show();
+    }
+    CloseAllAction();
+}
+
+void KOVAVSFDataGrid::ClearAll()
+{
+    if (!d->recordSource.isEmpty() && d->result.isOpen()) {
+        d->result.close();
+        d->emptyGrid();
+    }
+    CloseAllAction();
+}
+
+QObject *KOVAVSFDataGrid::GetBond()
+{
+    return d->parts.Adodc1;
+}
+
+qint16 KOVAVSFDataGrid::GetGridCol()
+{
+    return static_cast<qint16>(d->parts.vsfgDataGrid->Col());
+}
+
+void KOVAVSFDataGrid::SetGridRow(const qint32 &Row)
+{
+    try {
+        d->parts.vsfgDataGrid->PutRow(Row);
+    } catch (const std::out_of_range &) {
+        Messages::tell(this, GridTexts::WrongRow, u"Set Grid Row"_s);
+    }
+}
+
+qint16 KOVAVSFDataGrid::GetGridRow()
+{
+    return static_cast<qint16>(d->parts.vsfgDataGrid->Row());
+}
+
+void KOVAVSFDataGrid::CloseAllAction()
+{
+    d->parts.vsfgDataGrid->setEnabled(false);
+    d->parts.cmdPgae->setEnabled(false);
+    d->parts.Toolbar1->setEnabled(false);
+    d->parts.Toolbar1->setAllButtonsEnabled(false);
+}
+
+bool KOVAVSFDataGrid::IsLoadData()
+{
+    if (!d->openAndShow(d->sqlShow)) {
+        Messages::tell(this, GridTexts::OpenFailed);
+        return false;
+    }
+    d->recordSource = d->sqlShow;
+    d->parts.vsfgDataGrid->setEnabled(true);
+    d->parts.cmdPgae->setEnabled(true);
+    d->parts.Toolbar1->setEnabled(true);
+    d->parts.Toolbar1->setAllButtonsEnabled(true);
+    return true;
+}
+
+void KOVAVSFDataGrid::SeeCompressView() {}
+
+void KOVAVSFDataGrid::ClearObject()
+{
+    d->emptyGrid();
+    d->result.close();
+}
+
+QString KOVAVSFDataGrid::CellTextL(const qint32 &n_row, const qint32 &n_col)
+{
+    return d->cellText(n_row, n_col, u"Get CellTextL"_s);
+}
+
+qint32 KOVAVSFDataGrid::GetGridRowL()
+{
+    return d->parts.vsfgDataGrid->Row();
+}

@@ -1,0 +1,126 @@
+#include "control/KOVAVSFDataGridPrivate.h"
+
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "control/DesignMode.h"
+#include "control/GridTexts.h"
+#include "control/GridToolbar.h"
+#include "forms/Dialog_SQLST.h"
+#include "forms/Messages.h"
+#include "grid/FlexGrid.h"
+#include "grid/TextCells.h"
+#include "grid/Twips.h"
+
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+#include <stdexcept>
+
+using namespace KOVAVSFDataGridLib;
+
+KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
+    : q(control), parts(control), result(*parts.Adodc1), pages(parts, result)
+{
+    connect(parts.cmdPgae, &QPushButton::clicked, &q, [this] { goToTypedPage(); });
+    connect(parts.txtPage, &QLineEdit::returnPressed, parts.cmdPgae, &QPushButton::click);
+}
+
+bool KOVAVSFDataGrid::Private::isUserMode() const
+{
+    return userMode.value_or(!isInFormEditor(q));
+}
+
+void KOVAVSFDataGrid::Private::applyBackColor()
+{
+    QPalette palette = parts.picMainBack->palette();
+    palette.setColor(QPalette::Window, backColor.in(q.palette()));
+    parts.picMainBack->setPalette(palette);
+}
+
+bool KOVAVSFDataGrid::Private::openAndShow(const QString &statement)
+{
+    try {
+        result.open(connectionString, statement, shared.dbType);
+    } catch (const ADODB::Error &error) {
+        Messages::tell(&q, GridTexts::OpenErrorPrefix + error.Description());
+        return false;
+    }
+    showPage(1);
+    return true;
+}
+
+void KOVAVSFDataGrid::Private::showPage(qint64 page)
+{
+    pages.setCurrentPage(page);
+    pages.fill(picField);
+}
+
+void KOVAVSFDataGrid::Private::goToTypedPage()
+{
+    const qint32 page = PageView::pageFromText(parts.txtPage->text());
+    if (page < 1)
+        Messages::tell(&q, GridTexts::NotAPageNumber);
+    else
+        showPage(page);
+}
+
+void KOVAVSFDataGrid::Private::runSteps(QStringView title, std::initializer_list<std::function<void()>> steps)
+{
+    for (const auto &step : steps) {
+        qint32 number = 0;
+        QString description;
+        try {
+            step();
+            continue;
+        } catch (const ADODB::Error &error) {
+            number = error.Number();
+            description = error.Description();
+        } catch (const std::exception &error) {
+            description = QString::fromUtf8(error.what());
+        }
+        const QString text = QString::number(number) + u'\r' + description + GridTexts::AskContinue;
+        if (!Messages::ask(&q, text, title.toString(), QMessageBox::Critical))
+            return;
+    }
+}
+
+void KOVAVSFDataGrid::Private::showText(QStringView title, const QString &label, const QString &text)
+{
+    runSteps(title, {[&] { shared.scratch = text; },
+                     [&] {
+                         Dialog_SQLST dialog(&q);
+                         dialog.SetLabel(label);
+                         dialog.SetText(shared.scratch);
+                         dialog.SetEditing(false, false);
+                         dialog.exec();
+                     }});
+}
+
+std::optional<QString> KOVAVSFDataGrid::Private::editText(const QString &label, const QString &text)
+{
+    Dialog_SQLST dialog(&q);
+    dialog.SetLabel(label);
+    dialog.SetText(text);
+    dialog.SetEditing(true, false);
+    dialog.exec();
+    if (dialog.result())
+        shared.scratch = *dialog.result();
+    return dialog.result();
+}
+
+QString KOVAVSFDataGrid::Private::cellText(int row, int col, const QString &title)
+{
+    try {
+        return parts.vsfgDataGrid->TextMatrix(row, col);
+    } catch (const std::out_of_range &) {
+        Messages::tell(&q, GridTexts::WrongCell, title);
+        return {};
+    }
+}
+
+void KOVAVSFDataGrid::Private::emptyGrid()
+{
+    parts.vsfgDataGrid->Show(std::make_unique<TextCells>(2, 2));
+    parts.vsfgDataGrid->PutColWidth(1, FlexGrid::DefaultColWidth);
+}

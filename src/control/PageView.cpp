@@ -1,0 +1,100 @@
+#include "control/PageView.h"
+
+#include "ado/Adodc.h"
+#include "ado/Recordset.h"
+#include "control/GridParts.h"
+#include "control/GridTexts.h"
+#include "control/ResultSet.h"
+#include "control/SharedValues.h"
+#include "grid/FlexGrid.h"
+#include "grid/RecordWindow.h"
+#include "grid/TextCells.h"
+
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+QString pageLabel(const QString &page, const QString &pageCount)
+{
+    return GridTexts::PagePrefix + page + GridTexts::PageCountPrefix + pageCount + GridTexts::PageCapPrefix +
+           QString::number(SharedValues::RecordCap) + GridTexts::PageCapSuffix;
+}
+
+int indexOfField(const ADODB::Fields &fields, const QString &name)
+{
+    for (int i = 0; i < fields.Count(); ++i) {
+        if (fields.Item(i).Name() == name)
+            return i;
+    }
+    return -1;
+}
+
+} // namespace
+
+PageView::PageView(const GridParts &parts, const ResultSet &result) : m_parts(parts), m_result(result)
+{
+    m_parts.lblFieldCount->setText(pageLabel({}, {}));
+}
+
+bool PageView::canShowPage() const
+{
+    return m_result.isOpen() && !m_result.recordset()->isEOF();
+}
+
+void PageView::setCurrentPage(qint64 page)
+{
+    const qint64 pageCount = m_result.isOpen() ? m_result.recordset()->PageCount() : 0;
+    m_currentPage = canShowPage() ? static_cast<int>(std::min(page, pageCount)) : 0;
+    m_parts.txtPage->setText(QString::number(m_currentPage));
+    m_parts.lblFieldCount->setText(pageLabel(QString::number(m_currentPage), QString::number(pageCount)));
+}
+
+void PageView::fill(const QString &pictureField)
+{
+    VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    m_pictureFieldIndex = -1;
+    if (!m_result.isOpen()) {
+        grid.Show(std::make_unique<TextCells>(1, grid.Cols()));
+        return;
+    }
+    ADODB::Recordset &recordset = *m_result.recordset();
+    m_pictureFieldIndex = indexOfField(recordset.Fields(), pictureField);
+
+    const qint64 first = recordOfRow(1);
+    const qint64 count = m_currentPage > 0 ? std::clamp<qint64>(recordset.RecordCount() - first + 1, 0,
+                                                                SharedValues::RecordCap)
+                                           : 0;
+    grid.PutRedraw(false);
+    grid.Show(std::make_unique<RecordWindow>(m_result.recordset(), static_cast<int>(first),
+                                             static_cast<int>(count)));
+    if (count > 0) {
+        const QSignalBlocker silent(m_parts.Adodc1);
+        recordset.PutAbsolutePosition(first);
+        grid.PutRow(1);
+    }
+    grid.PutRedraw(true);
+}
+
+qint64 PageView::recordOfRow(int row) const
+{
+    return static_cast<qint64>(std::max(m_currentPage, 1) - 1) * SharedValues::RecordCap + row;
+}
+
+qint32 PageView::pageFromText(QString text)
+{
+    for (text = text.trimmed(); !text.isEmpty(); text.chop(1)) {
+        bool isNumber = false;
+        const qint32 page = text.toInt(&isNumber);
+        if (isNumber)
+            return page;
+    }
+    return 0;
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,11 @@
+#include "control/SharedValues.h"
+
+namespace KOVAVSFDataGridLib {
+
+SharedValues &SharedValues::instance()
+{
+    static SharedValues values;
+    return values;
+}
+
+} // namespace KOVAVSFDataGridLib
