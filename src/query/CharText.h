@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <algorithm>
+
+// Cutting and finding by 1-based character positions; position 0 means "not there".
+namespace KOVAVSFDataGridLib::CharText {
+
+// Precondition of both: count >= 0. A count beyond the text's length gives the whole text.
+inline QString First(const QString &text, qsizetype count)
+{
+    Q_ASSERT(count >= 0);
+    return text.first(std::min(count, text.size()));
+}
+
+inline QString Last(const QString &text, qsizetype count)
+{
+    Q_ASSERT(count >= 0);
+    return text.last(std::min(count, text.size()));
+}
+
+// The characters from `position` (>= 1) on; empty behind the end.
+inline QString From(const QString &text, qsizetype position)
+{
+    Q_ASSERT(position >= 1);
+    return text.mid(position - 1);
+}
+
+// Position of the first `part` at or behind `from`, letter for letter. An empty part is found where the
+// search begins, but nothing is found in an empty text.
+inline qsizetype Find(const QString &text, const QString &part, qsizetype from = 1)
+{
+    return text.isEmpty() ? 0 : text.indexOf(part, from - 1) + 1;
+}
+
+// Position of the first `word`, both read in capitals. Characters are capitalised one by one, because the
+// capitals of a whole text can be longer than the text ("ß" becomes "SS") and every later cut would be
+// shifted.
+inline qsizetype FindUpper(const QString &text, const QString &word)
+{
+    const auto sameLetter = [](QChar a, QChar b) { return a == b || a.toUpper() == b.toUpper(); };
+    const auto found = std::search(text.cbegin(), text.cend(), word.cbegin(), word.cend(), sameLetter);
+    return found == text.cend() ? 0 : found - text.cbegin() + 1;
+}
+
+// The text without the blanks (U+0020, nothing else) at both ends.
+inline QString Trim(const QString &text)
+{
+    const auto isBlank = [](QChar c) { return c == u' '; };
+    const auto begin = std::find_if_not(text.cbegin(), text.cend(), isBlank);
+    const auto end = std::find_if_not(text.crbegin(), std::make_reverse_iterator(begin), isBlank).base();
+    return text.mid(begin - text.cbegin(), end - begin);
+}
+
+} // namespace KOVAVSFDataGridLib::CharText

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "query/AllDBType.h"
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <optional>
+#include <span>
+
+// The conditions that users build without writing SQL: the quick filter over all fields or one, and the
+// filter on the selected cell.
+namespace KOVAVSFDataGridLib {
+
+struct TypedField
+{
+    QString name;                  // as the catalogue gives it
+    std::optional<qint32> adoType; // nothing when nobody knows it
+};
+
+// The pieces before each separator, empty ones too, and what is left over if it isn't empty. With
+// `keepsSeparator` each piece ends in its separator. A text without separator, or an empty separator, gives
+// the text itself.
+QStringList SplitText(const QString &text, const QString &separator, bool keepsSeparator = false);
+
+// "1" for numbers, "2" for texts, "3" for dates, "0" for everything else.
+QString ClassifyFieldType(qint32 adoType);
+
+// The text between FROM and WHERE, ORDER BY or the end, without blanks around it. The keywords are looked for
+// in capitals, and in any case when there is no FROM in capitals; without any FROM the text is empty. Nothing
+// when the condition or the sort stands before FROM.
+std::optional<QString> GetTableOfSQL(const QString &strSQL);
+
+// A condition that each word of the text ("%" stands between words) occurs in some field. True with an empty
+// condition when the text is empty. False, with the condition as it was, when there is nothing to search in:
+// a word without any field that can be searched, an unknown database, for Access a type that nobody knows, or
+// a statement that GetTableOfSQL can't read.
+bool BuildLikeCondition(const QString &strText, std::span<const TypedField> fields, const QString &strSQL,
+                        AllDBType database, QString &strCondition);
+// The same in one field.
+bool BuildLikeAllCondition(const QString &strText, const TypedField &field, const QString &strSQL,
+                           AllDBType database, QString &strCondition);
+
+// A condition that the field equals the cell's text, or what to tell the user instead. Both are empty when
+// there is nothing to filter by.
+struct CellFilter
+{
+    QString condition;
+    QString message;
+};
+
+// `cellText` is nothing for a Null value. An unknown type, or a field without a real name, gives an empty
+// answer.
+CellFilter BuildCellFilter(const QString &realName, std::optional<qint32> adoType,
+                           const std::optional<QString> &cellText);
+
+} // namespace KOVAVSFDataGridLib

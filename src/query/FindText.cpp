@@ -1,0 +1,39 @@
+#include "query/FindText.h"
+
+#include "query/CharText.h"
+#include "query/QueryTexts.h"
+
+namespace KOVAVSFDataGridLib {
+
+std::optional<QString> PrepareFindText(const QString &typed)
+{
+    const QString trimmed = CharText::Trim(typed);
+    if (trimmed.isEmpty())
+        return std::nullopt;
+    QString text;
+    for (const QChar c : trimmed) {
+        const bool isSeparator = c == u'%' || c == u' ' || c == u'\u3000';
+        if (!isSeparator)
+            text += c;
+        else if (!text.endsWith(u'%'))
+            text += u'%';
+    }
+    return text;
+}
+
+FindAnswer PressFind(const QString &typed, const QString &fieldComboText)
+{
+    FindAnswer answer;
+    const auto text = PrepareFindText(typed);
+    if (!text)
+        return answer;
+    answer.strFindText = *text;
+    if (CharText::Trim(fieldComboText).isEmpty())
+        return answer;
+    answer.strFieldName = fieldComboText;
+    answer.bIsAppointField = fieldComboText != QueryTexts::AllFields();
+    answer.unloads = true;
+    return answer;
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,56 @@
+#include "query/SelectionText.h"
+
+#include "query/CharText.h"
+#include "query/QueryTexts.h"
+#include "query/SqlText.h"
+
+#include <QtCore/QSet>
+
+namespace KOVAVSFDataGridLib {
+
+QString ComposeFieldList(const QList<ListedField> &rows)
+{
+    QStringList names;
+    for (const ListedField &row : rows) {
+        if (!row.isChecked)
+            continue;
+        const bool isSpecial = row.name.contains(u' ') || row.name.contains(u'(');
+        const bool isBracketed = row.name.startsWith(u'[') || row.name.endsWith(u']');
+        names.append(isSpecial && !isBracketed ? u'[' + row.name + u']' : row.name);
+    }
+    return names.join(u',');
+}
+
+QList<bool> SetListFieldCheck(const QStringList &rowTexts, const QStringList &partFields)
+{
+    QSet<QString> asWritten;
+    QSet<QString> withoutQuotes;
+    for (const QString &field : partFields) {
+        asWritten.insert(field);
+        withoutQuotes.insert(CutStringEnds(field, QStringLiteral("\""), 3));
+    }
+    QList<bool> checks;
+    for (const QString &row : rowTexts)
+        checks.append(asWritten.contains(u'[' + row + u']') || withoutQuotes.contains(row));
+    return checks;
+}
+
+SortTerm SplitSortTerm(const QString &term)
+{
+    const auto descending = CharText::FindUpper(term, QStringLiteral(" DESC"));
+    if (descending == 0)
+        return {term, QueryTexts::Ascending()};
+    return {CharText::First(term, descending - 1), QueryTexts::Descending()};
+}
+
+QString ComposeSortList(const QList<SortTerm> &terms)
+{
+    QStringList written;
+    for (const SortTerm &term : terms) {
+        const bool isDescending = term.orderWord == QueryTexts::Descending();
+        written.append(isDescending ? term.field + QStringLiteral(" DESC") : term.field);
+    }
+    return written.join(u',');
+}
+
+} // namespace KOVAVSFDataGridLib

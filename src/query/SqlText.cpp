@@ -1,0 +1,172 @@
+#include "query/SqlText.h"
+
+#include "query/CharText.h"
+
+namespace KOVAVSFDataGridLib {
+
+using namespace CharText;
+
+namespace {
+
+const QString kFrom = QStringLiteral(" FROM ");
+const QString kWhere = QStringLiteral(" WHERE ");
+const QString kOrderBy = QStringLiteral(" ORDER BY ");
+
+// The statement before its sort (with the blank that stands there) and before its condition (without).
+QString HeadWithoutConditions(const QString &statement)
+{
+    QString head = statement;
+    if (const auto order = FindUpper(head, kOrderBy); order > 0)
+        head = First(head, order);
+    if (const auto where = FindUpper(head, kWhere); where > 0)
+        head = First(head, where - 1);
+    return head;
+}
+
+QChar ClosingQuote(QChar opening)
+{
+    switch (opening.unicode()) {
+    case u'\'':
+    case u'"':
+        return opening;
+    case u'[':
+        return u']';
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+std::optional<KeywordCut> SplitByKeyword(const QString &text, const QString &keyword)
+{
+    if (text.isEmpty() || keyword.isEmpty())
+        return std::nullopt;
+    const auto position = FindUpper(text, keyword);
+    if (position == 0)
+        return KeywordCut{text, {}};
+    return KeywordCut{First(text, position), Last(text, text.size() - position)};
+}
+
+std::optional<SQLSentence> SplitSQLSentence(const QString &statement)
+{
+    const auto byOrder = SplitByKeyword(statement, kOrderBy);
+    if (!byOrder)
+        return std::nullopt;
+    // What stands before a keyword holds at least the keyword's own blank, so there is always a text to
+    // split.
+    const auto byWhere = SplitByKeyword(byOrder->before, kWhere);
+    return SQLSentence{byWhere->before, byWhere->after, byOrder->after};
+}
+
+QString JoinSQLSentence(const SQLSentence &sentence)
+{
+    return sentence.fields + u' ' + sentence.where + u' ' + sentence.order;
+}
+
+QString ComposeSQL(const QString &head, const QString &where, const QString &order)
+{
+    QString text = head;
+    for (const QString &part : {where, order}) {
+        if (!part.isEmpty())
+            text += u' ' + part;
+    }
+    return text;
+}
+
+void AddCondition(SQLSentence &sentence, const QString &condition)
+{
+    if (condition.isEmpty())
+        return;
+    if (Trim(sentence.where).isEmpty())
+        sentence.where = kWhere + condition;
+    else
+        sentence.where += QStringLiteral(" AND ") + condition;
+}
+
+QString ReplaceSQLFieldPart(const QString &statement, const QString &fieldStatement)
+{
+    auto sentence = SplitSQLSentence(statement);
+    const auto newFields = SplitSQLSentence(fieldStatement);
+    if (!sentence || !newFields)
+        return {};
+    sentence->fields = newFields->fields;
+    return JoinSQLSentence(*sentence);
+}
+
+QString AppendOrderWord(const QString &statement, const QString &sortList)
+{
+    if (statement.isEmpty() || sortList.isEmpty() || FindUpper(statement, kOrderBy) > 0)
+        return statement;
+    return statement + kOrderBy + sortList;
+}
+
+QString ReplaceOrderWord(const QString &statement, const QString &sortList)
+{
+    QString text = statement;
+    if (const auto order = FindUpper(text, kOrderBy); order > 0)
+        text = First(text, order);
+    return sortList.isEmpty() ? text : text + kOrderBy + sortList;
+}
+
+QString GetNoRowSQL(const QString &statement)
+{
+    const QString head = HeadWithoutConditions(statement);
+    return head.isEmpty() ? head : head + QStringLiteral(" WHERE 0=1");
+}
+
+QString GetSQLTableName(const QString &statement)
+{
+    const QString head = HeadWithoutConditions(statement);
+    const auto from = FindUpper(head, kFrom);
+    return from == 0 ? head : From(head, from + kFrom.size());
+}
+
+QString GetFromPart(const QString &statement)
+{
+    const auto from = FindUpper(statement, kFrom);
+    return from == 0 ? QString() : From(statement, from);
+}
+
+QString CutStringEnds(const QString &text, const QString &affix, int mode)
+{
+    if (text.isEmpty() || affix.isEmpty())
+        return {};
+    QString rest = text;
+    if ((mode == 1 || mode == 3) && rest.startsWith(affix))
+        rest.remove(0, affix.size());
+    if ((mode == 2 || mode == 3) && rest.endsWith(affix))
+        rest.chop(affix.size());
+    return rest;
+}
+
+QString JoinStatementLines(const QString &statement)
+{
+    const auto isBreak = [](QChar c) { return c == u'\n' || c == u'\r' || c == u'\t'; };
+    QString joined;
+    joined.reserve(statement.size());
+    for (qsizetype i = 0; i < statement.size();) {
+        const QChar c = statement.at(i);
+        if (const QChar closing = ClosingQuote(c); !closing.isNull()) {
+            const auto end = statement.indexOf(closing, i + 1);
+            const auto size = end < 0 ? statement.size() - i : end + 1 - i;
+            joined += QStringView(statement).mid(i, size);
+            i += size;
+        } else if (QStringView(statement).mid(i).startsWith(u"--")) {
+            while (i < statement.size() && statement.at(i) != u'\n' && statement.at(i) != u'\r')
+                ++i;
+        } else if (c == u' ' || isBreak(c)) {
+            const auto start = i;
+            bool hasBreak = false;
+            for (; i < statement.size() && (statement.at(i) == u' ' || isBreak(statement.at(i))); ++i)
+                hasBreak = hasBreak || isBreak(statement.at(i));
+            joined += hasBreak ? QStringView(u" ") : QStringView(statement).mid(start, i - start);
+        } else {
+            joined += c;
+            ++i;
+        }
+    }
+    return joined;
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <optional>
+
+// Taking SELECT statements apart and putting them together again, as plain text: a keyword counts where it
+// stands with exactly one blank on each side, in any letter case, and only its first occurrence from the left
+// does. What is cut out keeps the case and the blanks in which it was written, because the pieces are joined
+// again.
+namespace KOVAVSFDataGridLib {
+
+struct KeywordCut
+{
+    QString before; // up to and with the keyword's first character, or the whole text
+    QString after;  // from the keyword's second character on, or empty
+};
+
+struct SQLSentence
+{
+    QString fields; // SELECT list and FROM part, with the blank that stands before the next keyword
+    QString where;  // from the word WHERE on, with the blank that stands before ORDER BY
+    QString order;  // from the words ORDER BY on
+};
+
+// Nothing when text or keyword is empty. A keyword that doesn't occur is no failure: all is `before`.
+std::optional<KeywordCut> SplitByKeyword(const QString &text, const QString &keyword);
+
+// Nothing when the statement is empty.
+std::optional<SQLSentence> SplitSQLSentence(const QString &statement);
+
+// The three parts with exactly one blank between them, empty parts too: joining what was split loses nothing.
+QString JoinSQLSentence(const SQLSentence &sentence);
+
+// The head, followed by one blank and the part for each of the other parts that isn't empty.
+QString ComposeSQL(const QString &head, const QString &where, const QString &order);
+
+// One more condition: the first one brings the word WHERE (and a blank before it), each further one AND.
+// An empty condition changes nothing.
+void AddCondition(SQLSentence &sentence, const QString &condition);
+
+// The statement with the head of `fieldStatement` in place of its own; empty when either text is empty.
+QString ReplaceSQLFieldPart(const QString &statement, const QString &fieldStatement);
+
+// The statement with " ORDER BY " and the sort list behind it, unless it is sorted already or one text is
+// empty.
+QString AppendOrderWord(const QString &statement, const QString &sortList);
+
+// The statement's ORDER BY part, if any, gives way to the sort list; an empty list leaves it unsorted.
+QString ReplaceOrderWord(const QString &statement, const QString &sortList);
+
+// A statement with the same fields that yields no row; empty when nothing stands before the first keyword.
+QString GetNoRowSQL(const QString &statement);
+
+// What stands behind " from ", without the condition and the sort. Without FROM the whole head.
+QString GetSQLTableName(const QString &statement);
+
+// From the blank before FROM to the end; empty without FROM.
+QString GetFromPart(const QString &statement);
+
+// Removes one `affix` at the text's begin (mode 1), end (mode 2) or both (mode 3); any other mode changes
+// nothing. An empty affix empties the result.
+QString CutStringEnds(const QString &text, const QString &affix, int mode);
+
+// The text with each run of line breaks and tabs (and the blanks around them) as one blank, so that the
+// keywords of a statement written over several lines are found. Quoted and bracketed text stays as it is. A
+// "--" comment is dropped up to its line's end: on one line it would swallow the rest of the statement.
+QString JoinStatementLines(const QString &statement);
+
+} // namespace KOVAVSFDataGridLib

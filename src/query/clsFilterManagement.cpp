@@ -1,0 +1,259 @@
+#include "query/clsFilterManagement.h"
+
+#include "query/CharText.h"
+#include "query/FieldNames.h"
+
+namespace KOVAVSFDataGridLib {
+
+using namespace CharText;
+
+clsFilterManagement::clsFilterManagement(FieldReader *reader, FieldChooser *chooser)
+{
+    SetFieldReader(reader);
+    SetFieldChooser(chooser);
+}
+
+void clsFilterManagement::SetFieldReader(FieldReader *reader)
+{
+    m_history.SetFieldReader(reader);
+    m_tableFields.SetFieldReader(reader);
+}
+
+void clsFilterManagement::SetDBType(AllDBType type)
+{
+    m_dbType = type;
+    m_history.SetDBType(type);
+}
+
+void clsFilterManagement::SetOriginFilter(const QString &statement)
+{
+    m_memory.originFilter = statement;
+    m_memory.previousFilter = statement;
+    m_memory.lastUseFilter = statement;
+    m_memory.filterStack.append(statement);
+}
+
+bool clsFilterManagement::SetSQLInitData()
+{
+    m_history.SetConnString(m_dbConnString);
+    return m_history.SetSQLInitData(m_allFields, m_showFields, {}, m_orderFields, m_showFields);
+}
+
+bool clsFilterManagement::LetNewFilter(const QString &strNewFilter, QString &strCurrentFilter)
+{
+    auto sentence = SplitSQLSentence(Trim(m_memory.lastUseFilter));
+    if (!sentence)
+        return false;
+    AddCondition(*sentence, strNewFilter);
+    strCurrentFilter = JoinSQLSentence(*sentence);
+    MakeCurrent(strCurrentFilter);
+    m_memory.currentStatement = strCurrentFilter;
+    return true;
+}
+
+bool clsFilterManagement::LetNewSQLStr(const QString &strNewSQL)
+{
+    if (strNewSQL.isEmpty())
+        return false;
+    MakeCurrent(strNewSQL);
+    return true;
+}
+
+bool clsFilterManagement::GetPreviewFilter(QString &PassFilter)
+{
+    QStringList &stack = m_memory.filterStack;
+    if (m_memory.previousFilter.isEmpty() || stack.isEmpty())
+        return false;
+    m_memory.lastUseFilter = m_memory.previousFilter;
+    PassFilter = m_memory.previousFilter;
+    const auto count = stack.size();
+    if (count == 1)
+        return true;
+    m_memory.previousFilter = stack.at(count == 2 ? 0 : count - 3);
+    stack.removeLast();
+    return true;
+}
+
+bool clsFilterManagement::IsCanPreviewFilter(QString &PassFilter)
+{
+    PassFilter.clear();
+    return GetPreviewFilter(PassFilter);
+}
+
+QString clsFilterManagement::GetCurrentSQL(qint32 SQLType)
+{
+    return MakeDerivedCurrent(SQLType, false);
+}
+
+QString clsFilterManagement::GetCurrentSQL20(qint32 SQLType)
+{
+    return MakeDerivedCurrent(SQLType, true);
+}
+
+bool clsFilterManagement::GetPartShowSelFields(const QString &strAllFields, const QString &strPartField,
+                                               const QString &strCurrentSQL, QString &strRetFields)
+{
+    m_tableFields.InitData();
+    m_tableFields.ConnString = m_dbConnString;
+    m_tableFields.AllFieldString = strAllFields;
+    m_tableFields.PartFieldString = strPartField;
+    QString chosen;
+    if (!m_tableFields.GetPartSelFields(strAllFields, strPartField, chosen))
+        return false;
+    QString source = GetFromPart(strCurrentSQL);
+    if (m_dbType == dbOracle) {
+        // Oracle doesn't know brackets. List and source are rewritten apart, so that a lone apostrophe in a
+        // name doesn't pair up with one behind FROM.
+        chosen = BracketsToQuotes(chosen);
+        source = BracketsToQuotes(source);
+    }
+    strRetFields = QStringLiteral("SELECT ") + chosen + source;
+    m_memory.currentStatement = strRetFields;
+    return true;
+}
+
+bool clsFilterManagement::GetPartSortSelFields(const QString &strAllFields, const QString &strSortField,
+                                               QString &strRetFields)
+{
+    m_tableFields.InitData();
+    m_tableFields.ConnString = m_dbConnString;
+    m_tableFields.AllFieldString = strAllFields;
+    m_tableFields.SortFieldString = strSortField;
+    return m_tableFields.GetSortSelFields(strAllFields, strSortField, strRetFields);
+}
+
+bool clsFilterManagement::GetPartShowFields(QString &strRetSelFields)
+{
+    return GetPartShowSelFields(m_allFields, m_showFields, m_memory.currentStatement, strRetSelFields);
+}
+
+bool clsFilterManagement::GetPartSortFields(QString &strRetSelFields)
+{
+    return GetPartSortSelFields(m_allFields, m_orderFields, strRetSelFields);
+}
+
+bool clsFilterManagement::GetRequirePartSQL(const QString &strOrgSQL, qint32 lngSelPart,
+                                            QString &strRetSQL) const
+{
+    strRetSQL.clear();
+    const auto sentence = SplitSQLSentence(strOrgSQL);
+    if (!sentence)
+        return false;
+    const bool keepsCondition = lngSelPart == 1 || lngSelPart == 2;
+    const bool keepsSort = lngSelPart == 1 || lngSelPart == 3;
+    if (keepsCondition || keepsSort) {
+        strRetSQL = ComposeSQL(sentence->fields, keepsCondition ? sentence->where : QString(),
+                               keepsSort ? sentence->order : QString());
+    }
+    return true;
+}
+
+QString clsFilterManagement::GetSelFieldRealName(const QString &strConnString, qint32 FieldIndex)
+{
+    return m_tableFields.GetSelFieldRealName(strConnString, FieldIndex, m_memory.currentStatement);
+}
+
+void clsFilterManagement::GotoOrignState()
+{
+    m_memory.previousFilter = m_memory.originFilter;
+    m_memory.lastUseFilter = m_memory.originFilter;
+    m_memory.filterStack = {m_memory.originFilter};
+}
+
+void clsFilterManagement::ClearFilter()
+{
+    m_allFields.clear();
+    m_showFields.clear();
+    m_orderFields.clear();
+    const bool isFirstUsed = m_memory.isFirstUsed;
+    m_memory = {};
+    m_memory.isFirstUsed = isFirstUsed;
+    m_history.Clear();
+}
+
+void clsFilterManagement::ClearCurrMess()
+{
+    m_memory.isFirstUsed = false;
+    m_memory.currentStatement.clear();
+    m_memory.currentPartFields.clear();
+    m_memory.currentSortFields.clear();
+}
+
+void clsFilterManagement::ClearObject()
+{
+    m_history.Clear();
+    m_tableFields.ClearObject();
+    m_memory.filterStack.clear();
+}
+
+QString clsFilterManagement::FieldListWithCurrentSource(const QString &fieldStatement) const
+{
+    const QString from = QStringLiteral(" FROM ");
+    const auto end = FindUpper(fieldStatement, from);
+    if (end < 2)
+        return m_memory.originFilter;
+    // Without a FROM of its own the statement shown follows as a whole.
+    const QString &shown = m_memory.lastUseFilter;
+    const auto begin = FindUpper(shown, from);
+    return First(fieldStatement, end - 1) + Last(shown, shown.size() - begin + 1);
+}
+
+void clsFilterManagement::MakeCurrent(const QString &statement)
+{
+    m_memory.lastUseFilter = statement;
+    m_memory.previousFilter = m_memory.filterStack.isEmpty() ? QString() : m_memory.filterStack.last();
+    m_memory.filterStack.append(statement);
+}
+
+QString clsFilterManagement::MakeDerivedCurrent(qint32 SQLType, bool isDerivedByHistory)
+{
+    const auto derived = Derive(SQLType, isDerivedByHistory);
+    if (!derived)
+        return {};
+    if (SQLType != 3)
+        LetNewSQLStr(AppendOrderWord(*derived, m_orderFields));
+    m_memory.currentStatement = m_memory.lastUseFilter;
+    return m_memory.currentStatement;
+}
+
+std::optional<QString> clsFilterManagement::Derive(qint32 SQLType, bool isDerivedByHistory)
+{
+    QString text;
+    switch (SQLType) {
+    case 0:
+        return std::exchange(m_memory.isFirstUsed, true) ? QString() : m_allFields;
+    case 1:
+    case 2:
+        return isDerivedByHistory ? DeriveFromHistory(SQLType) : DeriveFromCurrent(SQLType);
+    case 3:
+        return GetPreviewFilter(text) ? std::optional(text) : std::nullopt;
+    case 4:
+        if (!GetPartShowSelFields(m_allFields, m_memory.currentPartFields, m_memory.currentStatement, text))
+            return std::nullopt;
+        m_memory.currentPartFields = text;
+        return text;
+    case 5:
+        if (!GetPartSortSelFields(m_allFields, m_memory.currentSortFields, text))
+            return std::nullopt;
+        m_memory.currentSortFields = text;
+        return ReplaceOrderWord(m_memory.currentStatement, text);
+    default:
+        return QString();
+    }
+}
+
+QString clsFilterManagement::DeriveFromCurrent(qint32 SQLType) const
+{
+    const QString &partFields =
+        m_memory.currentPartFields.isEmpty() ? m_showFields : m_memory.currentPartFields;
+    return ReplaceSQLFieldPart(m_memory.currentStatement, SQLType == 1 ? m_allFields : partFields);
+}
+
+QString clsFilterManagement::DeriveFromHistory(qint32 SQLType) const
+{
+    QString statement;
+    m_history.GetNextShowSQL(SQLType, statement);
+    return statement;
+}
+
+} // namespace KOVAVSFDataGridLib

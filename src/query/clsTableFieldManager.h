@@ -1,0 +1,44 @@
+#pragma once
+
+#include "query/FieldChooser.h"
+#include "query/FieldReader.h"
+
+namespace KOVAVSFDataGridLib {
+
+// Reads the field names of statements and lets the user choose among them.
+class clsTableFieldManager
+{
+public:
+    QString ConnString;
+    QString AllFieldString;
+    QString PartFieldString;
+    QString SortFieldString;
+
+    // Neither is owned; both must outlive the manager. Without a reader nothing can be read, without a
+    // chooser every choice is cancelled.
+    void SetFieldReader(FieldReader *reader) { m_reader = reader; }
+    void SetFieldChooser(FieldChooser *chooser) { m_chooser = chooser; }
+
+    void InitData() { m_fieldNames.clear(); }
+    void ClearObject() { InitData(); }
+
+    // The name of the statement's field at a position counted from 1; empty when there is none.
+    QString GetSelFieldRealName(const QString &strConnString, qint32 FieldIndex, const QString &PassSQL);
+
+    // Let the user choose the visible fields or the sort of a statement, read through ConnString. False, with
+    // an empty output, when the fields can't be read, the statement has no table or the user cancels. A part
+    // statement that is empty or can't be read only means that nothing is chosen yet.
+    bool GetPartSelFields(const QString &strAllField, const QString &strPartField, QString &strRetSelFields);
+    bool GetSortSelFields(const QString &strAllField, const QString &strSortField, QString &strRetSelFields);
+
+private:
+    // Fills the working names; false when they can't be read or there is nobody to ask.
+    bool IsReadyToChoose(const QString &strAllField);
+    std::optional<QStringList> ReadNames(const QString &connectionString, const QString &statement);
+
+    FieldReader *m_reader = nullptr;
+    FieldChooser *m_chooser = nullptr;
+    QStringList m_fieldNames;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,290 @@
+#include "query/colShowSQLSentences.h"
+
+#include "query/FieldNames.h"
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+constexpr qint32 kLongVarBinary = 205;
+
+QStringList NamesOf(const std::vector<SourceField> &fields)
+{
+    QStringList names;
+    for (const SourceField &field : fields)
+        names.append(field.name);
+    return names;
+}
+
+} // namespace
+
+bool colShowSQLSentences::SetSQLInitData(const QString &strAllFields, const QString &strShowFieds,
+                                         const QString &strFilterWord, const QString &strOrderWord,
+                                         const QString &strOriginFilter)
+{
+    m_allFields = strAllFields;
+    m_showFieds = strShowFieds;
+    m_filterWord = strFilterWord;
+    m_orderWord = strOrderWord;
+    m_originFilter = strOriginFilter;
+    return true;
+}
+
+bool colShowSQLSentences::AddSimpleSQLMess(const QString &strOrgSQL, const QString &strShowSQL,
+                                           qint32 lngIsShowAllFields, QString *PassKey)
+{
+    return AddSQLMess(strOrgSQL, strShowSQL, lngIsShowAllFields, {}, {}, {}, {}, {}, PassKey);
+}
+
+bool colShowSQLSentences::AddSQLMess(const QString &strOrgSQL, const QString &strShowSQL,
+                                     qint32 lngIsShowAllFields, const QString &strAllFields,
+                                     const QString &strPartFields, const QString &strOrderFields,
+                                     const QString &strCurrPartFields, const QString &strCurrOrderFields,
+                                     QString *PassKey)
+{
+    return AddAllSQLMess({}, {}, {}, strOrgSQL, strShowSQL, lngIsShowAllFields, strAllFields, strPartFields,
+                         strOrderFields, strCurrPartFields, strCurrOrderFields, PassKey);
+}
+
+bool colShowSQLSentences::AddAllSQLMess(const QString &strSQLFields, const QString &strSQLWhere,
+                                        const QString &strSQLOrder, const QString &strOrgSQL,
+                                        const QString &strShowSQL, qint32 lngIsShowAllFields,
+                                        const QString &strAllFields, const QString &strPartFields,
+                                        const QString &strOrderFields, const QString &strCurrPartFields,
+                                        const QString &strCurrOrderFields, QString *PassKey)
+{
+    clsShowSQLSentence entry;
+    entry.UpdateSQLCompoment(strSQLFields, strSQLWhere, strSQLOrder);
+    entry.OrgSQL = strOrgSQL;
+    entry.ShowSQL = strShowSQL;
+    entry.IsShowAllFields = lngIsShowAllFields;
+    entry.AllFields = strAllFields;
+    entry.PartFields = strPartFields;
+    entry.OrderFields = strOrderFields;
+    entry.CurrPartFields = strCurrPartFields;
+    entry.CurrOrderFields = strCurrOrderFields;
+
+    QString key = PassKey ? *PassKey : QString();
+    const bool isAdded = m_entries.Append(std::move(entry), &clsShowSQLSentence::SQLKey, key);
+    if (PassKey)
+        *PassKey = key;
+    return isAdded;
+}
+
+bool colShowSQLSentences::AddCurrentSQL(const QString &strShowSQL, qint32 lngIsShowAllFields,
+                                        const QString &strCurrPartFields, const QString &strCurrSortFields,
+                                        QString *PassKey)
+{
+    if (strShowSQL.isEmpty())
+        return false;
+    const clsShowSQLSentence *const latest = Latest();
+    QString partFields = strCurrPartFields;
+    if (partFields == NoPartField())
+        partFields = latest ? latest->CurrPartFields : QString();
+    QString sortFields = strCurrSortFields;
+    if (sortFields == NoSort())
+        sortFields = latest ? latest->CurrOrderFields : QString();
+    return AddSQLMess(m_originFilter, strShowSQL, lngIsShowAllFields, m_allFields, m_showFieds, m_orderWord,
+                      partFields, sortFields, PassKey);
+}
+
+bool colShowSQLSentences::GetLatestSQL(QString &PassFilter, QString *PassKey) const
+{
+    const clsShowSQLSentence *const latest = Latest();
+    if (!latest)
+        return false;
+    PassFilter = latest->ShowSQL;
+    if (PassKey)
+        *PassKey = latest->SQLKey;
+    return true;
+}
+
+bool colShowSQLSentences::RemoveLatestSQL()
+{
+    return m_entries.Remove(Count());
+}
+
+bool colShowSQLSentences::GetPreviewSQL(QString &PassFilter, QString &PassKey)
+{
+    return StepBackTo(std::max<qsizetype>(1, Count() - 1), PassFilter, PassKey);
+}
+
+bool colShowSQLSentences::GetFirstSQL(QString &PassFilter, QString &PassKey)
+{
+    return StepBackTo(1, PassFilter, PassKey);
+}
+
+bool colShowSQLSentences::GetNextSQLByFilter(const QString &strNewFilter, QString &strCurrentFilter) const
+{
+    strCurrentFilter.clear();
+    auto sentence = SplitLatest();
+    if (!sentence)
+        return false;
+    AddCondition(*sentence, strNewFilter);
+    strCurrentFilter = JoinSQLSentence(*sentence);
+    return true;
+}
+
+bool colShowSQLSentences::GetNextSQLBySort(const QString &strNewSort, QString &strCurrentFilter) const
+{
+    strCurrentFilter.clear();
+    auto sentence = SplitLatest();
+    if (!sentence)
+        return false;
+    sentence->order = strNewSort.isEmpty() ? QString() : QStringLiteral(" ORDER BY ") + strNewSort;
+    strCurrentFilter = JoinSQLSentence(*sentence);
+    return true;
+}
+
+bool colShowSQLSentences::GetNextShowSQL(qint32 SQLType, QString &PassSQL) const
+{
+    PassSQL.clear();
+    const clsShowSQLSentence *const latest = Latest();
+    if (!latest)
+        return false;
+    if (SQLType != 1 && SQLType != 2)
+        return true;
+    QString fieldStatement = latest->AllFields;
+    if (SQLType == 2)
+        latest->GetCurrUsePartFieldSQL(fieldStatement);
+    const QString statement = ReplaceSQLFieldPart(latest->ShowSQL, fieldStatement);
+    if (statement.isEmpty())
+        return false;
+    PassSQL = AppendOrderWord(statement, m_orderWord);
+    return true;
+}
+
+bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, const QString &strOrgSQL,
+                                             QString &strRetSQL) const
+{
+    strRetSQL.clear();
+    if (strPassConnString.isEmpty() || strOrgSQL.isEmpty())
+        return false;
+    if (!strOrgSQL.contains(u'*')) {
+        strRetSQL = strOrgSQL;
+        return true;
+    }
+    const auto fields = m_reader ? m_reader->Read(strPassConnString, strOrgSQL) : std::nullopt;
+    if (!fields || fields->empty())
+        return false;
+    QStringList names;
+    QStringList longBinaryNames;
+    for (const SourceField &field : *fields) {
+        QStringList &list = field.adoType == kLongVarBinary ? longBinaryNames : names;
+        list.append(u'"' + field.name + u'"');
+    }
+    auto sentence = SplitSQLSentence(strOrgSQL);
+    sentence->fields.replace(u'*', (names + longBinaryNames).join(u','));
+    strRetSQL = JoinSQLSentence(*sentence);
+    return true;
+}
+
+bool colShowSQLSentences::GetCurrSQLFieldsStatus(const QString &PassConnString)
+{
+    const clsShowSQLSentence *const latest = Latest();
+    return latest && BringInStepWith(*latest, PassConnString.isEmpty() ? m_connString : PassConnString);
+}
+
+bool colShowSQLSentences::UpdateSelPartFields(const QString &strPassPartFields)
+{
+    m_showFieds = strPassPartFields;
+    return true;
+}
+
+bool colShowSQLSentences::UpdateSelSortFields(const QString &strPassSortFields)
+{
+    m_orderWord = strPassSortFields;
+    return true;
+}
+
+QString colShowSQLSentences::GetSelFieldRealName(const QString &strFieldName) const
+{
+    return m_catalogue.GetSelFieldRealName(strFieldName);
+}
+
+bool colShowSQLSentences::IsSelFieldPartField(const QString &strFieldName) const
+{
+    return m_catalogue.IsSelFieldPartField(strFieldName);
+}
+
+bool colShowSQLSentences::GetCurrShowFieldsCount(qint32 &PassCount) const
+{
+    const clsShowSQLSentence *const latest = Latest();
+    if (!latest)
+        return false;
+    if (latest->IsShowAllFields != 1)
+        return m_catalogue.GetCurrShowFieldsCount(PassCount);
+    PassCount = static_cast<qint32>(m_catalogue.Count());
+    return true;
+}
+
+bool colShowSQLSentences::Clear()
+{
+    colShowSQLSentences empty(m_reader);
+    empty.m_database = m_database;
+    *this = std::move(empty);
+    return true;
+}
+
+std::optional<SQLSentence> colShowSQLSentences::SplitLatest() const
+{
+    const clsShowSQLSentence *const latest = Latest();
+    return SplitSQLSentence(latest ? latest->ShowSQL : QString());
+}
+
+// The step is tried on the entry to go back to before anything is removed, so that a lost connection leaves
+// the user where he is.
+bool colShowSQLSentences::StepBackTo(qsizetype position, QString &PassFilter, QString &PassKey)
+{
+    PassFilter.clear();
+    PassKey.clear();
+    const clsShowSQLSentence *const target = Item(position);
+    if (!target || !BringInStepWith(*target, m_connString))
+        return false;
+    while (Count() > position)
+        m_entries.Remove(Count());
+    return GetLatestSQL(PassFilter, &PassKey);
+}
+
+bool colShowSQLSentences::BringInStepWith(const clsShowSQLSentence &entry, const QString &connectionString)
+{
+    if (!m_reader || !m_reader->Open(connectionString))
+        return false;
+    if (m_catalogue.Count() == 0 && !FillCatalogue(connectionString, entry.AllFields))
+        return false;
+    QString partStatement;
+    if (!entry.GetCurrUsePartFieldSQL(partStatement))
+        return true;
+    const auto partFields = m_reader->Read(connectionString, partStatement);
+    return partFields && m_catalogue.SetPartFieldStatusByCol(NamesOf(*partFields));
+}
+
+// The names are the database's own, so that each grid column finds its field; an alias is a name like any
+// other. The whole names are those that the statement lists, because a condition on T.Name must not become
+// one on Name.
+bool colShowSQLSentences::FillCatalogue(const QString &connectionString, const QString &statement)
+{
+    const auto fields = m_reader->Read(connectionString, statement);
+    if (!fields || !m_catalogue.AddFieldsByCol(NamesOf(*fields)))
+        return false;
+    qsizetype position = 0;
+    for (const SourceField &source : *fields) {
+        if (source.name.isEmpty())
+            continue;
+        m_catalogue.Update(m_catalogue.Item(++position)->FieldKey, [&](clsDataField &field) {
+            field.FieldWholeName = QuotedFieldName(m_database, source.name);
+            field.FieldType = source.adoType;
+        });
+    }
+    const QStringList writtenFields = WrittenFields(statement);
+    for (const QString &written : writtenFields) {
+        if (const clsDataField *const named = m_catalogue.Find(LastNamePart(written)))
+            m_catalogue.Update(named->FieldKey, [&](clsDataField &field) { field.FieldWholeName = written; });
+    }
+    m_catalogue.AppendFieldRealNameByCol(writtenFields);
+    return true;
+}
+
+} // namespace KOVAVSFDataGridLib

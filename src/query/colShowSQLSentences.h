@@ -1,0 +1,139 @@
+#pragma once
+
+#include "query/AllDBType.h"
+#include "query/FieldReader.h"
+#include "query/KeyedList.h"
+#include "query/SqlText.h"
+#include "query/clsShowSQLSentence.h"
+#include "query/colDataFields.h"
+
+namespace KOVAVSFDataGridLib {
+
+// The history: the statements that the grid has shown, oldest first, and the field catalogue of the newest
+// one. Functions answer True when done and False otherwise, with the outputs as far as they were set; none
+// throws. Positions count from 1; the latest entry is the one at Count().
+class colShowSQLSentences
+{
+public:
+    using const_iterator = KeyedList<clsShowSQLSentence>::const_iterator;
+
+    // Markers for "as in the latest entry" in AddCurrentSQL.
+    static QString NoPartField() { return QStringLiteral("NoPartField"); }
+    static QString NoSort() { return QStringLiteral("NoSort"); }
+
+    // `reader` isn't owned and must outlive the history; without one, nothing can be read through a
+    // connection.
+    explicit colShowSQLSentences(FieldReader *reader = nullptr) : m_reader(reader) {}
+
+    void SetFieldReader(FieldReader *reader) { m_reader = reader; }
+    // Decides how names that have to be quoted are quoted.
+    void SetDBType(AllDBType type) { m_database = type; }
+
+    const QString &ConnString() const { return m_connString; }
+    void SetConnString(const QString &text) { m_connString = text; }
+    const QString &AllFields() const { return m_allFields; }
+    void SetAllFields(const QString &text) { m_allFields = text; }
+    const QString &ShowFieds() const { return m_showFieds; }
+    void SetShowFieds(const QString &text) { m_showFieds = text; }
+    const QString &CurrFieds() const { return m_currFieds; }
+    void SetCurrFieds(const QString &text) { m_currFieds = text; }
+    const QString &FilterWord() const { return m_filterWord; }
+    void SetFilterWord(const QString &text) { m_filterWord = text; }
+    const QString &OrderWord() const { return m_orderWord; }
+    void SetOrderWord(const QString &text) { m_orderWord = text; }
+    const QString &OriginFilter() const { return m_originFilter; }
+    void SetOriginFilter(const QString &text) { m_originFilter = text; }
+    const colDataFields &DataFields() const { return m_catalogue; }
+    colDataFields &DataFields() { return m_catalogue; }
+    void SetDataFields(const colDataFields &catalogue) { m_catalogue = catalogue; }
+
+    bool SetSQLInitData(const QString &strAllFields, const QString &strShowFieds,
+                        const QString &strFilterWord, const QString &strOrderWord,
+                        const QString &strOriginFilter);
+
+    // Each adds an entry. An empty *PassKey (or none) gets a new key, which it then holds; a given one is
+    // used as it is. False when the key is taken.
+    bool AddSimpleSQLMess(const QString &strOrgSQL, const QString &strShowSQL, qint32 lngIsShowAllFields,
+                          QString *PassKey = nullptr);
+    bool AddSQLMess(const QString &strOrgSQL, const QString &strShowSQL, qint32 lngIsShowAllFields,
+                    const QString &strAllFields, const QString &strPartFields, const QString &strOrderFields,
+                    const QString &strCurrPartFields = {}, const QString &strCurrOrderFields = {},
+                    QString *PassKey = nullptr);
+    bool AddAllSQLMess(const QString &strSQLFields, const QString &strSQLWhere, const QString &strSQLOrder,
+                       const QString &strOrgSQL, const QString &strShowSQL, qint32 lngIsShowAllFields,
+                       const QString &strAllFields, const QString &strPartFields,
+                       const QString &strOrderFields, const QString &strCurrPartFields = {},
+                       const QString &strCurrOrderFields = {}, QString *PassKey = nullptr);
+    // Adds what the grid shows now, with the set-up values of the history; the markers above keep the user's
+    // choices of the latest entry. False when the statement is empty.
+    bool AddCurrentSQL(const QString &strShowSQL, qint32 lngIsShowAllFields,
+                       const QString &strCurrPartFields = {}, const QString &strCurrSortFields = {},
+                       QString *PassKey = nullptr);
+
+    bool GetLatestSQL(QString &PassFilter, QString *PassKey = nullptr) const;
+    bool RemoveLatestSQL();
+    // One step back, and back to the first entry; the first is never removed. When the catalogue can't be
+    // brought in step with the entry to go back to, the answer is False and no entry is removed.
+    bool GetPreviewSQL(QString &PassFilter, QString &PassKey);
+    bool GetFirstSQL(QString &PassFilter, QString &PassKey);
+
+    // Statements derived from the latest entry; they add no entry. `SQLType` 1 shows all fields, 2 the part
+    // fields; any other answers True with an empty statement.
+    bool GetNextSQLByFilter(const QString &strNewFilter, QString &strCurrentFilter) const;
+    bool GetNextSQLBySort(const QString &strNewSort, QString &strCurrentFilter) const;
+    bool GetNextShowSQL(qint32 SQLType, QString &PassSQL) const;
+
+    // The statement with each "*" of its head replaced by the source's fields in double quotes, long binary
+    // fields last. A statement without "*" comes back as it is.
+    bool GetAllFieldNameSQL(const QString &strPassConnString, const QString &strOrgSQL,
+                            QString &strRetSQL) const;
+
+    // Brings the catalogue in step with the latest entry: fills it when it is empty, marks the part fields
+    // when the entry has some. False when the connection can't be opened or a statement's fields can't be
+    // read.
+    bool GetCurrSQLFieldsStatus(const QString &PassConnString = {});
+
+    bool UpdateSelPartFields(const QString &strPassPartFields);
+    bool UpdateSelSortFields(const QString &strPassSortFields);
+
+    QString GetSelFieldRealName(const QString &strFieldName) const;
+    bool IsSelFieldPartField(const QString &strFieldName) const;
+    // How many fields the latest entry shows; False when there is no entry.
+    bool GetCurrShowFieldsCount(qint32 &PassCount) const;
+
+    qsizetype Count() const { return m_entries.Count(); }
+    // Null when there is none. The pointer lasts until the history changes.
+    clsShowSQLSentence *Item(qsizetype position) { return m_entries.Item(position); }
+    clsShowSQLSentence *Item(const QString &key) { return Item(m_entries.PositionOf(key)); }
+    const clsShowSQLSentence *Item(qsizetype position) const { return m_entries.Item(position); }
+    const clsShowSQLSentence *Item(const QString &key) const { return Item(m_entries.PositionOf(key)); }
+    // Nothing happens when there is no such entry.
+    void Remove(qsizetype position) { m_entries.Remove(position); }
+    void Remove(const QString &key) { Remove(m_entries.PositionOf(key)); }
+    // Empties history, catalogue and all texts; keys start again.
+    bool Clear();
+
+    const_iterator begin() const { return m_entries.begin(); }
+    const_iterator end() const { return m_entries.end(); }
+
+private:
+    const clsShowSQLSentence *Latest() const { return Item(Count()); }
+    std::optional<SQLSentence> SplitLatest() const;
+    bool StepBackTo(qsizetype position, QString &PassFilter, QString &PassKey);
+    bool BringInStepWith(const clsShowSQLSentence &entry, const QString &connectionString);
+    bool FillCatalogue(const QString &connectionString, const QString &statement);
+
+    FieldReader *m_reader = nullptr;
+    AllDBType m_database = dbAccess;
+    KeyedList<clsShowSQLSentence> m_entries{QStringLiteral("ForDel")};
+    colDataFields m_catalogue;
+    QString m_connString;
+    QString m_allFields;
+    QString m_showFieds;
+    QString m_currFieds;
+    QString m_filterWord;
+    QString m_orderWord;
+    QString m_originFilter;
+};
+
+} // namespace KOVAVSFDataGridLib
