@@ -1,0 +1,170 @@
+// The control's face as its hosts see it: every name, type and order.
+#include <KOVAVSFDataGrid>
+
+#include <QtCore/QMetaMethod>
+#include <QtCore/QMetaProperty>
+#include <gtest/gtest.h>
+
+namespace {
+
+const QMetaObject &face = KOVAVSFDataGrid::staticMetaObject;
+
+struct PropertyFacts
+{
+    const char *name;
+    const char *type;
+    bool isWritable;
+    bool isStored;
+};
+
+constexpr PropertyFacts Properties[] = {
+    {"STR_SQLTEMP", "QString", true, false},
+    {"Enabled", "bool", true, false},
+    {"BackColor", "QColor", true, true},
+    {"DisplayEable", "bool", true, false},
+    {"FilterEnable", "bool", true, false},
+    {"SortEnable", "bool", true, false},
+    {"DataBackColor", "QColor", true, false},
+    {"DataFont", "QFont", true, false},
+    {"UseModel", "KOVAVSFDataGrid::UseModelChoose", true, false},
+    {"ShowModel", "KOVAVSFDataGrid::ShowModelChoose", true, false},
+    {"ConnectionString", "QString", true, false},
+    {"SQLShow", "QString", true, false},
+    {"RecordSet", "QObject*", false, false},
+    {"RecordSource", "QString", false, false},
+    {"SQLPartDisplay", "QString", true, false},
+    {"SQLFilter", "QString", true, false},
+    {"SQLSort", "QString", true, false},
+    {"TableType", "KOVAVSFDataGrid::TBLType", true, false},
+    {"ErrorHint", "bool", true, false},
+    {"DBType", "KOVAVSFDataGrid::AllDBType", true, false},
+    {"SysDBCnn", "QString", true, false},
+    {"SysDBMode", "QString", true, false},
+    {"PassQurryFilter", "QString", true, false},
+    {"CurrPosition", "int", false, false},
+    {"PicField", "QString", true, false},
+    {"UserMode", "bool", true, false},
+};
+
+constexpr const char *Methods[] = {
+    "int GetBindFieldIndex(QString)",
+    "void Refresh()",
+    "bool LocateSelRecord(int)",
+    "void ShowConnectionString()",
+    "void ShowRecordSource()",
+    "void ShowSQLShow()",
+    "void ShowPartDisplay()",
+    "void ShowFilterCondtion()",
+    "void ShowSort()",
+    "void GetConnection()",
+    "void SetFieldName()",
+    "void SetSQLShow()",
+    "void SetSQLFilter()",
+    "void SetSortFN()",
+    "void SetGridCol(int)",
+    "QString CellText(short,short)",
+    "void Clear()",
+    "void ClearAll()",
+    "QObject* GetBond()",
+    "short GetGridCol()",
+    "void SetGridRow(int)",
+    "short GetGridRow()",
+    "void CloseAllAction()",
+    "bool IsLoadData()",
+    "void SeeCompressView()",
+    "void ClearObject()",
+    "QString CellTextL(int,int)",
+    "int GetGridRowL()",
+};
+
+constexpr const char *Events[] = {
+    "DataMouseDown(qint16&,qint16&,float&,float&)",
+    "DataMouseUp(qint16&,qint16&,float&,float&)",
+    "DataMouseMove(qint16&,qint16&,float&,float&)",
+    "Error(qint16,qint16&)",
+    "HeadClick(qint16)",
+    "DataClick()",
+    "DataDblClick()",
+    "DataKeyDown(qint16&,qint16&)",
+    "MouseUp(qint16&,qint16&,float&,float&)",
+    "ShowFieldsChange(QString)",
+    "QurryFilter(qint32&,QString)",
+    "RecordChanged(qint32,qint32)",
+    "RecordsetChanged(qint32)",
+    "DataDBLClickOneCell(qint32,qint32)",
+    "DataDBLClickOneRow(qint32)",
+    "PropertyChanged(QString)",
+    "HostError(qint32,QString)",
+};
+
+std::string typesOf(const QMetaMethod &method)
+{
+    std::string text = std::string(method.returnMetaType().name()) + ' ' + method.name().constData() + '(';
+    for (int i = 0; i < method.parameterCount(); ++i)
+        text += (i ? "," : "") + std::string(method.parameterMetaType(i).name());
+    return text + ')';
+}
+
+void expectEnumeration(const char *name, const std::vector<std::pair<std::string, int>> &members)
+{
+    const int index = face.indexOfEnumerator(name);
+    ASSERT_GE(index, 0) << name;
+    const QMetaEnum enumeration = face.enumerator(index);
+    std::vector<std::pair<std::string, int>> found;
+    for (int i = 0; i < enumeration.keyCount(); ++i)
+        found.emplace_back(enumeration.key(i), enumeration.value(i));
+    EXPECT_EQ(found, members) << name;
+}
+
+} // namespace
+
+TEST(Interface, HasThePropertiesInTheirOrder)
+{
+    ASSERT_EQ(face.propertyCount() - face.propertyOffset(), static_cast<int>(std::size(Properties)));
+    for (std::size_t i = 0; i < std::size(Properties); ++i) {
+        const QMetaProperty property = face.property(face.propertyOffset() + static_cast<int>(i));
+        EXPECT_STREQ(property.name(), Properties[i].name);
+        EXPECT_STREQ(property.metaType().name(), Properties[i].type) << Properties[i].name;
+        EXPECT_EQ(property.isWritable(), Properties[i].isWritable) << Properties[i].name;
+        EXPECT_EQ(property.isStored(), Properties[i].isStored) << Properties[i].name;
+        EXPECT_TRUE(property.isReadable());
+    }
+}
+
+TEST(Interface, HasTheMethodsInTheirOrder)
+{
+    std::vector<std::string> found;
+    for (int i = face.methodOffset(); i < face.methodCount(); ++i) {
+        if (face.method(i).methodType() != QMetaMethod::Signal)
+            found.push_back(typesOf(face.method(i)));
+    }
+    EXPECT_EQ(found, std::vector<std::string>(std::begin(Methods), std::end(Methods)));
+}
+
+TEST(Interface, HasTheEventsInTheirOrder)
+{
+    std::vector<std::string> found;
+    for (int i = face.methodOffset(); i < face.methodCount(); ++i) {
+        if (face.method(i).methodType() == QMetaMethod::Signal)
+            found.push_back(face.method(i).methodSignature().toStdString());
+    }
+    EXPECT_EQ(found, std::vector<std::string>(std::begin(Events), std::end(Events)));
+}
+
+TEST(Interface, HasTheEnumerationsWithTheirNumbers)
+{
+    expectEnumeration("UseModelChoose", {{"ModelUsing", 0}, {"ModelDefine", 1}});
+    expectEnumeration("ShowModelChoose", {{"ModelAll", 0}, {"ModelPart", 1}});
+    expectEnumeration("backstyleChoose", {{"Transparent", 0}, {"Opaque", 1}});
+    expectEnumeration("AppearanceChoose", {{"Flat", 0}, {"Cascade", 1}});
+    expectEnumeration("AllDBType", {{"dbAccess", 1}, {"dbOracle", 2}, {"dbSQLServer", 3}});
+    expectEnumeration("TBLType", {{"DataTable", 0}, {"DataView", 1}, {"DefSQL", 2}});
+}
+
+TEST(Interface, IsReachedThroughTheAbstractClass)
+{
+    KOVAVSFDataGrid grid;
+    IKOVAVSFDataGrid &face = grid;
+    face.PutSQLSort(QStringLiteral("NAME DESC"));
+    EXPECT_EQ(grid.SQLSort(), QStringLiteral("NAME DESC"));
+}

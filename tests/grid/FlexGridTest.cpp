@@ -1,0 +1,215 @@
+#include "grid/FlexGrid.h"
+#include "grid/TextCells.h"
+#include "grid/Twips.h"
+
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+#include <QtWidgets/QHeaderView>
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Grid : testing::Test
+{
+    Grid()
+    {
+        auto cells = std::make_unique<TextCells>(101, 6);
+        for (int row = 0; row < cells->rows(); ++row) {
+            for (int col = 0; col < cells->cols(); ++col)
+                cells->setText(row, col, u"r%1c%2"_s.arg(row).arg(col));
+        }
+        grid.resize(500, 300);
+        grid.Show(std::move(cells));
+        grid.show();
+    }
+
+    QPoint centreOf(int row, int col) const
+    {
+        return grid.visualRect(grid.model()->index(row - 1, col - 1)).center();
+    }
+
+    VSFlexGrid grid;
+};
+
+} // namespace
+
+TEST_F(Grid, HeadingsAreRowAndColumnZero)
+{
+    EXPECT_EQ(grid.Rows(), 101);
+    EXPECT_EQ(grid.Cols(), 6);
+    EXPECT_EQ(grid.TextMatrix(0, 2), u"r0c2"_s);
+    EXPECT_EQ(grid.TextMatrix(3, 0), u"r3c0"_s);
+    EXPECT_EQ(grid.TextMatrix(100, 5), u"r100c5"_s);
+    EXPECT_EQ(grid.model()->index(99, 4).data().toString(), u"r100c5"_s);
+}
+
+TEST_F(Grid, NothingIsCurrentAtFirst)
+{
+    EXPECT_EQ(grid.Row(), 0);
+    EXPECT_EQ(grid.Col(), 0);
+}
+
+TEST_F(Grid, RowAndColFollowTheCurrentCellBothWays)
+{
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, centreOf(4, 3));
+    EXPECT_EQ(grid.Row(), 4);
+    EXPECT_EQ(grid.Col(), 3);
+    EXPECT_EQ(grid.Text(), u"r4c3"_s);
+    grid.PutRow(7);
+    grid.PutCol(2);
+    EXPECT_EQ(grid.currentIndex(), grid.model()->index(6, 1));
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(grid.Row(), 8);
+    EXPECT_EQ(grid.Col(), 2);
+}
+
+TEST_F(Grid, MakingARowCurrentFromNothingTakesTheFirstDataColumn)
+{
+    grid.PutRow(5);
+    EXPECT_EQ(grid.Row(), 5);
+    EXPECT_EQ(grid.Col(), 1);
+}
+
+TEST_F(Grid, AHeadingCanBeCurrent)
+{
+    grid.PutRow(5);
+    grid.PutRow(0);
+    EXPECT_EQ(grid.Row(), 0);
+    EXPECT_FALSE(grid.currentIndex().isValid());
+    grid.PutCol(4);
+    grid.PutRow(6);
+    EXPECT_EQ(grid.currentIndex(), grid.model()->index(5, 3));
+}
+
+TEST_F(Grid, SelectionHasAFarCorner)
+{
+    grid.PutRow(2);
+    EXPECT_EQ(grid.RowSel(), 2);
+    EXPECT_EQ(grid.ColSel(), 1);
+    QTest::mouseClick(grid.verticalHeader()->viewport(), Qt::LeftButton, {},
+                      QPoint(5, grid.rowViewportPosition(3) + 3));
+    EXPECT_EQ(grid.Row(), 4);
+    EXPECT_EQ(grid.Col(), 1);
+    EXPECT_EQ(grid.ColSel(), 5);
+    EXPECT_EQ(grid.RowSel(), 4);
+}
+
+TEST_F(Grid, TopRowScrollsAndVisibilityFollows)
+{
+    EXPECT_EQ(grid.TopRow(), 1);
+    EXPECT_TRUE(grid.RowIsVisible(0));
+    EXPECT_TRUE(grid.RowIsVisible(1));
+    EXPECT_FALSE(grid.RowIsVisible(60));
+    grid.PutTopRow(60);
+    EXPECT_EQ(grid.TopRow(), 60);
+    EXPECT_TRUE(grid.RowIsVisible(60));
+    EXPECT_FALSE(grid.RowIsVisible(1));
+}
+
+TEST_F(Grid, WidthsAreKeptExactlyInTwips)
+{
+    EXPECT_EQ(grid.ColWidth(2), -1);
+    EXPECT_EQ(grid.ColWidthInUse(2), 960);
+    EXPECT_EQ(grid.columnWidth(1), Twips::toPixels(960, grid));
+    for (const int twips : {1, 100, 961, 967, 5003}) {
+        grid.PutColWidth(2, twips);
+        EXPECT_EQ(grid.ColWidth(2), twips);
+        EXPECT_EQ(grid.columnWidth(1), Twips::toPixels(twips, grid));
+    }
+    grid.PutColWidth(2, -1);
+    EXPECT_EQ(grid.ColWidth(2), -1);
+    EXPECT_EQ(grid.columnWidth(1), Twips::toPixels(960, grid));
+}
+
+TEST_F(Grid, AWidthOfNoneHidesTheColumn)
+{
+    grid.PutColWidth(3, 0);
+    EXPECT_TRUE(grid.isColumnHidden(2));
+    EXPECT_EQ(grid.ColWidth(3), 0);
+    grid.PutColWidth(3, 1500);
+    EXPECT_FALSE(grid.isColumnHidden(2));
+    EXPECT_EQ(grid.columnWidth(2), Twips::toPixels(1500, grid));
+}
+
+TEST_F(Grid, DraggingAColumnEdgeTellsTheNewWidth)
+{
+    QSignalSpy changed(&grid, &FlexGrid::ColWidthChanged);
+    QHeaderView *header = grid.horizontalHeader();
+    const QPoint edge(header->sectionViewportPosition(1) - 1, header->height() / 2);
+    QTest::mousePress(header->viewport(), Qt::LeftButton, {}, edge);
+    QTest::mouseMove(header->viewport(), edge + QPoint(20, 0));
+    QTest::mouseMove(header->viewport(), edge + QPoint(40, 0));
+    QTest::mouseRelease(header->viewport(), Qt::LeftButton, {}, edge + QPoint(40, 0));
+    ASSERT_FALSE(changed.isEmpty());
+    EXPECT_EQ(changed.last().at(0).toInt(), 1);
+    EXPECT_EQ(grid.ColWidth(1), Twips::fromPixels(grid.columnWidth(0), grid));
+    EXPECT_GT(grid.ColWidth(1), 960);
+}
+
+TEST_F(Grid, RefillingKeepsWidths)
+{
+    grid.PutColWidth(1, 1111);
+    grid.PutColWidth(2, 0);
+    grid.Show(std::make_unique<TextCells>(11, 6));
+    EXPECT_EQ(grid.ColWidth(1), 1111);
+    EXPECT_EQ(grid.columnWidth(0), Twips::toPixels(1111, grid));
+    EXPECT_TRUE(grid.isColumnHidden(1));
+    EXPECT_EQ(grid.ColWidth(3), -1);
+    EXPECT_EQ(grid.Row(), 0);
+}
+
+TEST_F(Grid, ClearKeepsTheShape)
+{
+    grid.Clear();
+    EXPECT_EQ(grid.Rows(), 101);
+    EXPECT_EQ(grid.Cols(), 6);
+    EXPECT_EQ(grid.TextMatrix(0, 1), QString());
+    grid.PutRows(2);
+    grid.PutCols(2);
+    EXPECT_EQ(grid.Rows(), 2);
+    EXPECT_EQ(grid.Cols(), 2);
+}
+
+TEST_F(Grid, WhatIsOutsideThrowsAndChangesNothing)
+{
+    grid.PutRow(3);
+    EXPECT_THROW(grid.PutRow(101), std::out_of_range);
+    EXPECT_THROW(grid.PutRow(-1), std::out_of_range);
+    EXPECT_THROW(grid.PutCol(6), std::out_of_range);
+    EXPECT_THROW(grid.PutCol(-1), std::out_of_range);
+    EXPECT_THROW(static_cast<void>(grid.TextMatrix(0, 6)), std::out_of_range);
+    EXPECT_THROW(static_cast<void>(grid.TextMatrix(101, 0)), std::out_of_range);
+    EXPECT_THROW(grid.PutColWidth(6, 5), std::out_of_range);
+    EXPECT_THROW(grid.PutRows(0), std::out_of_range);
+    EXPECT_EQ(grid.Row(), 3);
+    EXPECT_EQ(grid.Col(), 1);
+}
+
+TEST_F(Grid, ColoursAndRedraw)
+{
+    grid.PutBackColor(QColor(1, 2, 3));
+    EXPECT_EQ(grid.BackColor(), QColor(1, 2, 3));
+    grid.PutRedraw(false);
+    EXPECT_FALSE(grid.Redraw());
+    grid.PutRedraw(true);
+    EXPECT_TRUE(grid.Redraw());
+    EXPECT_TRUE(grid.hasMouseTracking());
+}
+
+TEST(MSFlexGrid, BothColumnsAreData)
+{
+    MSFlexGrid grid;
+    grid.PutRows(3);
+    grid.PutTextMatrix(0, 0, u"字段名称"_s);
+    grid.PutTextMatrix(0, 1, u"字段内容"_s);
+    grid.PutTextMatrix(2, 1, u"值"_s);
+    EXPECT_EQ(grid.model()->columnCount(), 2);
+    EXPECT_EQ(grid.model()->rowCount(), 2);
+    EXPECT_EQ(grid.model()->headerData(0, Qt::Horizontal).toString(), u"字段名称"_s);
+    EXPECT_EQ(grid.model()->index(1, 1).data().toString(), u"值"_s);
+}

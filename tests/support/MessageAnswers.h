@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtWidgets/QMessageBox>
+
+#include <vector>
+
+namespace KovaTest {
+
+// What a message box showed.
+struct ShownMessage
+{
+    QString text;
+    QString title;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QMessageBox::StandardButtons buttons;
+    Qt::TextFormat format = Qt::AutoText;
+};
+
+// While one lives, every message box is answered by a click as soon as it shows: the boxes in order get
+// the given answers, and those behind the last one OK or, where there is none, No.
+class MessageAnswers : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit MessageAnswers(std::vector<QMessageBox::StandardButton> answers = {});
+    ~MessageAnswers() override;
+
+    const std::vector<ShownMessage> &shown() const { return m_shown; }
+    QStringList texts() const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void answer(QMessageBox &box);
+
+    std::vector<QMessageBox::StandardButton> m_answers;
+    std::vector<ShownMessage> m_shown;
+};
+
+} // namespace KovaTest
