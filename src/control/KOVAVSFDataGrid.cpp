@@ -8,8 +8,11 @@
 #include "control/GridToolbar.h"
 #include "control/KOVAVSFDataGridPrivate.h"
 #include "control/PropertyBag.h"
+#include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
+#include "query/SqlText.h"
+#include "query/modQNVSFHFDataMain.h"
 
 #include <QtGui/QResizeEvent>
 #include <QtWidgets/QPushButton>
@@ -182,10 +185,12 @@ void KOVAVSFDataGrid::PutConnectionString(const QString &text)
 {
     d->put(d->connectionString, text, "ConnectionString");
     PutSQLShow({});
+    ClearSQLFieldList();
     PutSQLFilter({});
     PutSQLSort({});
     PutSQLPartDisplay({});
     d->shared.connectionString = text;
+    d->filterManager().ClearFilter();
 }
 
 QString KOVAVSFDataGrid::SQLShow() const
@@ -218,7 +223,15 @@ QString KOVAVSFDataGrid::SQLPartDisplay() const
 
 void KOVAVSFDataGrid::PutSQLPartDisplay(const QString &statement)
 {
-    d->put(d->sqlPartDisplay, statement, "SQLPartDisplay");
+    d->sqlPartDisplay = statement;
+    const auto failure = ParseSQLFieldList(JoinStatementLines(statement),
+                                           static_cast<KOVAVSFDataGridLib::AllDBType>(DBType()));
+    if (failure) {
+        Messages::tell(this, GridTexts::FieldListFailed, GridTexts::FieldListFailedTitle,
+                       QMessageBox::Critical);
+        Messages::tell(this, failure->source + failure->description);
+    }
+    Q_EMIT PropertyChanged(u"SQLPartDisplay"_s);
 }
 
 QString KOVAVSFDataGrid::SQLFilter() const

@@ -1,6 +1,8 @@
 #include "ado/Adodc.h"
+#include "ado/ConnectionFactory.h"
 #include "ado/Error.h"
 #include "ado/Recordset.h"
+#include "control/Configuration.h"
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
 #include "control/KOVAVSFDataGridPrivate.h"
@@ -9,6 +11,7 @@
 #include "grid/FlexGrid.h"
 
 #include <QtCore/QSignalBlocker>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QPushButton>
 
 #include <stdexcept>
@@ -177,24 +180,25 @@ void KOVAVSFDataGrid::CloseAllAction()
 
 bool KOVAVSFDataGrid::IsLoadData()
 {
-    if (!d->openAndShow(d->sqlShow)) {
-        Messages::tell(this, GridTexts::OpenFailed);
-        return false;
-    }
-    d->recordSource = d->sqlShow;
-    d->parts.vsfgDataGrid->setEnabled(true);
-    d->parts.cmdPgae->setEnabled(true);
-    d->parts.Toolbar1->setEnabled(true);
-    d->parts.Toolbar1->setAllButtonsEnabled(true);
-    return true;
+    return d->load();
 }
 
-void KOVAVSFDataGrid::SeeCompressView() {}
+void KOVAVSFDataGrid::SeeCompressView()
+{
+    if (!d->isSingleRecordShown())
+        d->columns().fitColumns();
+}
 
 void KOVAVSFDataGrid::ClearObject()
 {
+    saveSelectWholeRows(d->parts.CheckSelAllRow->isChecked());
     d->emptyGrid();
     d->result.close();
+    d->reader.forget();
+    ADODB::ConnectionFactory::setInstance(nullptr);
+    if (d->filter)
+        d->filter->ClearObject();
+    d->filter.reset();
 }
 
 QString KOVAVSFDataGrid::CellTextL(const qint32 &n_row, const qint32 &n_col)

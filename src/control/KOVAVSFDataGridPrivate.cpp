@@ -1,7 +1,10 @@
 #include "control/KOVAVSFDataGridPrivate.h"
 
+#include "ado/Adodc.h"
+#include "ado/ConnectionFactory.h"
 #include "ado/Error.h"
 #include "ado/Recordset.h"
+#include "control/Configuration.h"
 #include "control/DesignMode.h"
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
@@ -11,6 +14,7 @@
 #include "grid/TextCells.h"
 #include "grid/Twips.h"
 
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -20,9 +24,26 @@
 using namespace KOVAVSFDataGridLib;
 
 KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
-    : q(control), parts(control), result(*parts.Adodc1), pages(parts, result)
+    : q(control),
+      parts(control),
+      result(*parts.Adodc1),
+      pages(parts, result),
+      reader(result),
+      events(control, parts, result, pages)
 {
     connect(parts.cmdPgae, &QPushButton::clicked, &q, [this] { goToTypedPage(); });
+    connect(parts.CheckSelAllRow, &QCheckBox::toggled, &q, [this](bool on) {
+        parts.vsfgDataGrid->setSelectionBehavior(on ? QAbstractItemView::SelectRows
+                                                    : QAbstractItemView::SelectItems);
+    });
+    parts.CheckSelAllRow->setChecked(readSelectWholeRows());
+    ADODB::ConnectionFactory::instance().SetThreeTier(Read3TierSwitch() != 0);
+    connect(parts.Adodc1, &ADODB::Adodc::MoveComplete, &q, [this](ADODB::EventReasonEnum reason) {
+        if (result.isOpen() && result.recordset()->RecordCount() != 0)
+            Q_EMIT q.RecordChanged(reason, static_cast<qint32>(result.recordset()->AbsolutePosition()));
+    });
+    connect(parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, &q,
+            [this](ADODB::EventReasonEnum reason) { Q_EMIT q.RecordsetChanged(reason); });
     connect(parts.txtPage, &QLineEdit::returnPressed, parts.cmdPgae, &QPushButton::click);
 }
 
@@ -36,24 +57,6 @@ void KOVAVSFDataGrid::Private::applyBackColor()
     QPalette palette = parts.picMainBack->palette();
     palette.setColor(QPalette::Window, backColor.in(q.palette()));
     parts.picMainBack->setPalette(palette);
-}
-
-bool KOVAVSFDataGrid::Private::openAndShow(const QString &statement)
-{
-    try {
-        result.open(connectionString, statement, shared.dbType);
-    } catch (const ADODB::Error &error) {
-        Messages::tell(&q, GridTexts::OpenErrorPrefix + error.Description());
-        return false;
-    }
-    showPage(1);
-    return true;
-}
-
-void KOVAVSFDataGrid::Private::showPage(qint64 page)
-{
-    pages.setCurrentPage(page);
-    pages.fill(picField);
 }
 
 void KOVAVSFDataGrid::Private::goToTypedPage()

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "control/ColumnLayout.h"
+#include "control/ConnectionFieldReader.h"
+#include "control/GridEvents.h"
 #include "control/GridParts.h"
 #include "control/KOVAVSFDataGrid.h"
 #include "control/OleColor.h"
 #include "control/PageView.h"
 #include "control/ResultSet.h"
-#include "control/SharedValues.h"
+#include "query/SharedValues.h"
+#include "query/clsFilterManagement.h"
 
 #include <functional>
 #include <initializer_list>
@@ -28,9 +32,21 @@ public:
 
     bool isUserMode() const;
     void applyBackColor();
-    // Opens the statement and shows its first page; a failure is told to the user and changes nothing.
-    bool openAndShow(const QString &statement);
+    // The filter manager, made on first use.
+    KOVAVSFDataGridLib::clsFilterManagement &filterManager();
+    KOVAVSFDataGridLib::ColumnLayout columns();
+
+    // The whole load; see IsLoadData.
+    bool load();
+    // Opens the statement as the current result. A failure is told to the user and changes nothing.
+    bool open(const QString &statement);
     void showPage(qint64 page);
+    // Takes the open result's number of records and position into the shared values.
+    void updateRecordPosition();
+    // 1 presses "All", 2 "Part"; anything else does nothing.
+    void setPartAllButton(qint32 mode);
+    bool isSingleRecordShown() const;
+    void showMultiRecordView();
     void goToTypedPage();
     // Runs the steps one after the other. A failing one is told with the question whether to continue:
     // Yes goes on with the next, No ends.
@@ -42,11 +58,23 @@ public:
     QString cellText(int row, int col, const QString &title);
     void emptyGrid();
 
+private:
+    std::unique_ptr<KOVAVSFDataGridLib::clsFilterManagement> newFilterManager();
+    std::unique_ptr<KOVAVSFDataGridLib::clsFilterManagement> filterManagerForLoad();
+    // Nothing when the load ends silently.
+    std::optional<QString> statementToOpen(KOVAVSFDataGridLib::clsFilterManagement &manager) const;
+    void enableForData();
+    void layOutColumns(const QString &statement);
+
+public:
     KOVAVSFDataGrid &q;
     KOVAVSFDataGridLib::SharedValues &shared = KOVAVSFDataGridLib::SharedValues::instance();
     KOVAVSFDataGridLib::GridParts parts;
     KOVAVSFDataGridLib::ResultSet result;
     KOVAVSFDataGridLib::PageView pages;
+    KOVAVSFDataGridLib::ConnectionFieldReader reader;
+    std::unique_ptr<KOVAVSFDataGridLib::clsFilterManagement> filter;
+    KOVAVSFDataGridLib::GridEvents events;
 
     KOVAVSFDataGridLib::OleColor backColor{KOVAVSFDataGridLib::OleColor::ButtonFace};
     std::optional<bool> userMode; // as the host said

@@ -5,10 +5,10 @@
 #include "control/GridParts.h"
 #include "control/GridTexts.h"
 #include "control/ResultSet.h"
-#include "control/SharedValues.h"
 #include "grid/FlexGrid.h"
 #include "grid/RecordWindow.h"
 #include "grid/TextCells.h"
+#include "query/SharedValues.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QLabel>

@@ -4,15 +4,10 @@
 #include "ado/Connection.h"
 #include "ado/ConnectionFactory.h"
 #include "ado/Recordset.h"
-#include "control/SharedValues.h"
+#include "query/AllDBType.h"
+#include "query/SharedValues.h"
 
 namespace KOVAVSFDataGridLib {
-
-namespace {
-
-constexpr qint32 Access = 1;
-
-} // namespace
 
 ResultSet::ResultSet(ADODB::Adodc &adodc) : m_adodc(adodc) {}
 
@@ -20,10 +15,9 @@ ResultSet::~ResultSet() = default;
 
 void ResultSet::open(const QString &connectionString, const QString &statement, qint32 dbType)
 {
-    auto &factory = ADODB::ConnectionFactory::instance();
-    auto connection =
-        dbType == Access ? std::make_shared<ADODB::Connection>() : factory.newConnection(dbType);
-    auto recordset = dbType == Access ? std::make_shared<ADODB::Recordset>() : factory.newRecordset(dbType);
+    auto connection = newConnection(dbType);
+    auto recordset = dbType == dbAccess ? std::make_shared<ADODB::Recordset>()
+                                        : ADODB::ConnectionFactory::instance().newRecordset(dbType);
 
     recordset->PutCursorLocation(ADODB::adUseClient);
     connection->PutConnectionString(connectionString);
@@ -33,8 +27,21 @@ void ResultSet::open(const QString &connectionString, const QString &statement, 
 
     close();
     m_connection = std::move(connection);
+    m_connectionString = connectionString;
     m_recordset = std::move(recordset);
     m_adodc.PutRecordset(m_recordset);
+}
+
+std::shared_ptr<ADODB::Connection> ResultSet::newConnection(qint32 dbType)
+{
+    return dbType == dbAccess ? std::make_shared<ADODB::Connection>()
+                              : ADODB::ConnectionFactory::instance().newConnection(dbType);
+}
+
+bool ResultSet::isConnectedTo(const QString &connectionString) const
+{
+    return m_connection && m_connection->State() == ADODB::adStateOpen &&
+           m_connectionString == connectionString;
 }
 
 void ResultSet::close()

@@ -87,9 +87,13 @@ void FlexGrid::makeCurrent(int row, int col)
 void FlexGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     QTableView::currentChanged(current, previous);
-    if (current.isValid()) {
-        m_row = current.row() + 1;
-        m_col = current.column() + m_model->fixedCols();
+    if (!current.isValid())
+        return;
+    m_col = current.column() + m_model->fixedCols();
+    const int row = current.row() + 1;
+    if (m_row != row) {
+        m_row = row;
+        Q_EMIT CurrentRowChanged(row);
     }
 }
 
@@ -169,7 +173,15 @@ void FlexGrid::PutColWidth(int col, int twips)
 int FlexGrid::ColWidthInUse(int col) const
 {
     const int width = ColWidth(col);
+    if (col < m_model->fixedCols() && width == UseDefaultWidth)
+        return Twips::fromPixels(verticalHeader()->width(), *this);
     return width == UseDefaultWidth ? DefaultColWidth : width;
+}
+
+void FlexGrid::ResetColWidths()
+{
+    m_widths.assign(m_widths.size(), UseDefaultWidth);
+    applyWidths();
 }
 
 void FlexGrid::Clear()

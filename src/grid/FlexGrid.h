@@ -55,8 +55,11 @@ public:
     // 0 for a hidden column.
     int ColWidth(int col) const;
     void PutColWidth(int col, int twips);
-    // What a column's width comes to: like ColWidth, with the default's 960 in place of -1.
+    // What a column's width comes to: like ColWidth, with the default's 960 in place of -1 (the row headings
+    // are as wide as their numbers need by default).
     int ColWidthInUse(int col) const;
+    // All columns take the default width again.
+    void ResetColWidths();
 
     bool Redraw() const { return updatesEnabled(); }
     void PutRedraw(bool on) { setUpdatesEnabled(on); }
@@ -71,6 +74,8 @@ public:
     void Show(std::unique_ptr<CellSource> source);
 
 Q_SIGNALS:
+    // Another data row became current, by mouse, key or program.
+    void CurrentRowChanged(int row);
     // The user gave a column another width.
     void ColWidthChanged(int col, int twips);
 

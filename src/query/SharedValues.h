@@ -19,6 +19,11 @@ struct SharedValues
     qint32 recordCount = 0; // of the last load, at most RecordCap
     qint32 hasRecords = 0;  // 1 when recordCount is at least 1
     QString scratch;        // what the text dialogs take and give
+    // The open result as last looked at: its number of records and the current one, 0 before the first.
+    qint32 recordCountSnapshot = 0;
+    qint32 recordPosition = 0;
+    QString lastFilter;            // the condition that the last filter left
+    QString previousShowStatement; // what was shown before the last reload
 
     static SharedValues &instance();
 };

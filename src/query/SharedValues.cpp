@@ -1,4 +1,4 @@
-#include "control/SharedValues.h"
+#include "query/SharedValues.h"
 
 namespace KOVAVSFDataGridLib {
 

@@ -1,0 +1,108 @@
+#include "control/ColumnLayout.h"
+
+#include "grid/FlexGrid.h"
+#include "grid/Twips.h"
+#include "query/colShowSQLSentences.h"
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+// Kept free when columns are fitted: the row numbers and the scroll bar. Twips.
+constexpr int RowNumberMargin = 600;
+constexpr int ScrollBarMargin = 260;
+
+} // namespace
+
+ColumnLayout::ColumnLayout(VSFlexGrid &grid, colShowSQLSentences &history) : m_grid(grid), m_history(history)
+{
+}
+
+bool ColumnLayout::RecordShowSQL(const QString &strSQL, qint32 lngIsShowAllFields, qint32 vSaveWidths,
+                                 const QString &strCurrPartFields, const QString &strCurrOrderFields,
+                                 const QString &connectionString)
+{
+    if (strSQL.isEmpty())
+        return false;
+    m_history.AddCurrentSQL(strSQL, lngIsShowAllFields, strCurrPartFields, strCurrOrderFields);
+    m_history.SetConnString(connectionString);
+    m_history.GetCurrSQLFieldsStatus();
+    if (vSaveWidths != 0)
+        SaveColumnWidths(1);
+    if (lngIsShowAllFields == 0)
+        ShowPartFieldColumns(1);
+    else
+        ShowAllFieldColumns();
+    return true;
+}
+
+void ColumnLayout::SaveColumnWidths(qint32 mode)
+{
+    colDataFields &fields = m_history.DataFields();
+    for (int col = 1; col < m_grid.Cols(); ++col) {
+        int width = m_grid.ColWidth(col);
+        if (width == FlexGrid::UseDefaultWidth || (width == 0 && mode == 1))
+            width = FlexGrid::DefaultColWidth;
+        QString key;
+        if (width >= 1 && fields.GetSelFieldKey(m_grid.TextMatrix(0, col), key))
+            fields.Update(key, [width](clsDataField &field) { field.FieldWidth = width; });
+    }
+}
+
+void ColumnLayout::ShowPartFieldColumns(qint32 mode)
+{
+    const colDataFields &fields = m_history.DataFields();
+    bool hasPartField = false;
+    for (int col = 1; col < m_grid.Cols() && !hasPartField; ++col)
+        hasPartField = m_history.IsSelFieldPartField(m_grid.TextMatrix(0, col));
+    if (!hasPartField)
+        return;
+    for (int col = 1; col < m_grid.Cols(); ++col) {
+        const QString name = m_grid.TextMatrix(0, col);
+        if (!m_history.IsSelFieldPartField(name)) {
+            m_grid.PutColWidth(col, 0);
+        } else if (mode == 1) {
+            const clsDataField *field = fields.Find(name);
+            if (field && field->FieldWidth >= 1)
+                m_grid.PutColWidth(col, field->FieldWidth);
+        }
+    }
+}
+
+void ColumnLayout::ShowAllFieldColumns()
+{
+    const colDataFields &fields = m_history.DataFields();
+    for (int col = 1; col < m_grid.Cols(); ++col) {
+        const clsDataField *field = fields.Find(m_grid.TextMatrix(0, col));
+        if (!field)
+            continue;
+        const int width =
+            field->FieldWidth == FlexGrid::UseDefaultWidth ? FlexGrid::DefaultColWidth : field->FieldWidth;
+        if (width > 0)
+            m_grid.PutColWidth(col, width);
+    }
+}
+
+bool ColumnLayout::columnsFit() const
+{
+    int sum = 0;
+    for (int col = 0; col < m_grid.Cols(); ++col)
+        sum += m_grid.ColWidthInUse(col);
+    return sum <= Twips::fromPixels(m_grid.width(), m_grid);
+}
+
+void ColumnLayout::fitColumns()
+{
+    qint32 shown = 0;
+    if (!m_history.GetCurrShowFieldsCount(shown) || shown < 1)
+        return;
+    const int width = (Twips::fromPixels(m_grid.width(), m_grid) - ScrollBarMargin - RowNumberMargin) / shown;
+    if (width < 1)
+        return; // no room at all: better too wide than gone
+    for (int col = 1; col < m_grid.Cols(); ++col) {
+        if (m_grid.ColWidth(col) != 0)
+            m_grid.PutColWidth(col, width);
+    }
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QtCore/QString>
+
+namespace KOVAVSFDataGridLib {
+
+class VSFlexGrid;
+class colShowSQLSentences;
+
+// The grid has a column for each field of the result; which ones are seen and how wide they are stands in
+// the field catalogue of the history. These routines keep both in step. A column belongs to the catalogue's
+// field of the name in its heading; widths are twips and 0 hides a column.
+class ColumnLayout
+{
+public:
+    // Both must outlive this object, which is made for the moment.
+    ColumnLayout(VSFlexGrid &grid, colShowSQLSentences &history);
+
+    // Records the statement that the grid shows and lays its columns out: all fields when
+    // `lngIsShowAllFields` is not 0, else the part fields. `vSaveWidths` other than 0 takes the grid's
+    // widths over into the new entry first. The texts may be the history's markers for "unchanged". False
+    // when the statement is empty.
+    bool RecordShowSQL(const QString &strSQL, qint32 lngIsShowAllFields, qint32 vSaveWidths,
+                       const QString &strCurrPartFields, const QString &strCurrOrderFields,
+                       const QString &connectionString);
+
+    // Keeps the grid's widths in the catalogue. A hidden column is left out, or with mode 1 kept as one of
+    // the default width.
+    void SaveColumnWidths(qint32 mode);
+    // Hides what is no part field; with mode 1 the part fields also get their kept widths. Nothing is hidden
+    // while no column belongs to a part field.
+    void ShowPartFieldColumns(qint32 mode);
+    // Gives every field its kept width, which shows it.
+    void ShowAllFieldColumns();
+
+    // Shares the grid's width out among its shown columns, when the history says that fields are shown.
+    void fitColumns();
+    bool columnsFit() const;
+
+private:
+    VSFlexGrid &m_grid;
+    colShowSQLSentences &m_history;
+};
+
+} // namespace KOVAVSFDataGridLib

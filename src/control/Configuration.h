@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QtCore/QString>
+
+// What the control reads and keeps outside its host: an INI file beside the library, and one setting of
+// the user.
+namespace KOVAVSFDataGridLib {
+
+// The value of an entry of an INI file without blanks around it, or "Return Err" when the file, the
+// section or the key is missing. Names count in any letter case.
+QString ReadProfileValue(const QString &section, const QString &key, const QString &filePath);
+
+// 1 when the file MERIXUSER3TIER.cfg beside the library switches the middle tier on, else 0.
+qint32 Read3TierSwitch();
+
+// Whether a click selects the whole row, as the user last left it; on at first.
+bool readSelectWholeRows();
+void saveSelectWholeRows(bool on);
+
+} // namespace KOVAVSFDataGridLib

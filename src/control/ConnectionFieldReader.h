@@ -1,0 +1,45 @@
+#pragma once
+
+#include "query/FieldReader.h"
+
+#include <QtCore/QHash>
+
+#include <memory>
+
+namespace ADODB {
+class Connection;
+}
+
+namespace KOVAVSFDataGridLib {
+
+class ResultSet;
+
+// Reads field names and types through the control's own connection where that leads to the same database
+// (a second connection to a far server is a wait, and one to a database in memory another database), else
+// through a connection of its own. What it has read it remembers until forget().
+class ConnectionFieldReader final : public FieldReader
+{
+public:
+    // `result` must outlive the reader.
+    explicit ConnectionFieldReader(const ResultSet &result);
+    ~ConnectionFieldReader() override;
+
+    bool Open(const QString &connectionString) override;
+    std::optional<std::vector<SourceField>> Read(const QString &connectionString,
+                                                 const QString &statement) override;
+
+    // Closes its own connection and forgets all names, since the tables may have changed.
+    void forget();
+
+private:
+    // Throws ADODB::Error.
+    ADODB::Connection &connect(const QString &connectionString);
+
+    const ResultSet &m_result;
+    std::shared_ptr<ADODB::Connection> m_own;
+    QString m_ownText;
+    QHash<std::pair<QString, QString>, std::vector<SourceField>>
+        m_known; // by connection string and statement
+};
+
+} // namespace KOVAVSFDataGridLib

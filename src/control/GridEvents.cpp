@@ -1,0 +1,220 @@
+#include "control/GridEvents.h"
+
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "ado/Stream.h"
+#include "control/GridParts.h"
+#include "control/KOVAVSFDataGrid.h"
+#include "control/KeyCodes.h"
+#include "control/PageView.h"
+#include "control/ResultSet.h"
+#include "grid/FlexGrid.h"
+#include "grid/Twips.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QScopedValueRollback>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QHeaderView>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What a mouse event carries to the host, in twips from the widget's corner. A handler may change it.
+struct MouseArguments
+{
+    MouseArguments(const QWidget &source, const QMouseEvent &event, const QWidget &origin)
+        : button(buttonState(event.type() == QEvent::MouseMove ? event.buttons() : event.button())),
+          shift(shiftState(event.modifiers()))
+    {
+        const QPoint position = source.mapTo(&origin, event.position().toPoint());
+        x = static_cast<float>(Twips::fromPixels(position.x(), origin));
+        y = static_cast<float>(Twips::fromPixels(position.y(), origin));
+    }
+
+    qint16 button;
+    qint16 shift;
+    float x = 0;
+    float y = 0;
+};
+
+} // namespace
+
+GridEvents::GridEvents(KOVAVSFDataGrid &control, const GridParts &parts, const ResultSet &result,
+                       const PageView &pages)
+    : m_control(control), m_parts(parts), m_result(result), m_pages(pages)
+{
+    VSFlexGrid &grid = *parts.vsfgDataGrid;
+    for (QWidget *surface :
+         {grid.viewport(), grid.horizontalHeader()->viewport(), grid.verticalHeader()->viewport()}) {
+        surface->setMouseTracking(true);
+        surface->installEventFilter(this);
+    }
+    grid.installEventFilter(this);
+    parts.picMainBack->installEventFilter(this);
+    connect(grid.horizontalHeader(), &QHeaderView::sectionClicked, this,
+            [this](int section) { Q_EMIT m_control.HeadClick(static_cast<qint16>(section + 1)); });
+    connect(&grid, &FlexGrid::CurrentRowChanged, this, &GridEvents::followGridRow);
+}
+
+QString GridEvents::pictureFile()
+{
+    return QDir(QCoreApplication::applicationDirPath()).filePath(u"PicRecord.bmp"_s);
+}
+
+bool GridEvents::isGridSurface(const QObject *object) const
+{
+    const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    return object == grid.viewport() || object == grid.horizontalHeader()->viewport() ||
+           object == grid.verticalHeader()->viewport();
+}
+
+bool GridEvents::eventFilter(QObject *watched, QEvent *event)
+{
+    // Presses are told before the grid acts on them, releases after it.
+    if (isGridSurface(watched)) {
+        auto &source = *static_cast<QWidget *>(watched);
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+            mousePressed(source, *static_cast<QMouseEvent *>(event));
+            break;
+        case QEvent::MouseMove:
+            mouseMoved(source, *static_cast<QMouseEvent *>(event));
+            break;
+        case QEvent::MouseButtonRelease:
+            mouseReleased(source, *static_cast<QMouseEvent *>(event));
+            break;
+        case QEvent::MouseButtonDblClick:
+            doubleClicked(source, *static_cast<QMouseEvent *>(event));
+            break;
+        default:
+            break;
+        }
+    } else if (watched == m_parts.vsfgDataGrid && event->type() == QEvent::KeyPress) {
+        return keyPressed(*static_cast<QKeyEvent *>(event));
+    } else if (watched == m_parts.picMainBack && event->type() == QEvent::MouseButtonRelease) {
+        panelReleased(*static_cast<QMouseEvent *>(event));
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void GridEvents::mousePressed(QWidget &source, QMouseEvent &event)
+{
+    MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
+    Q_EMIT m_control.DataMouseDown(arguments.button, arguments.shift, arguments.x, arguments.y);
+}
+
+void GridEvents::mouseMoved(QWidget &source, QMouseEvent &event)
+{
+    MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
+    Q_EMIT m_control.DataMouseMove(arguments.button, arguments.shift, arguments.x, arguments.y);
+}
+
+void GridEvents::mouseReleased(QWidget &source, QMouseEvent &event)
+{
+    const Place place = placeOf(source, event);
+    MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
+    if (event.button() == Qt::RightButton && place == Place::Data)
+        Q_EMIT menuWanted(event.globalPosition().toPoint());
+    if (event.button() == Qt::LeftButton)
+        clicked(place);
+    Q_EMIT m_control.DataMouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
+}
+
+// On the data (cells and row numbers), on the column headings, or beside both.
+GridEvents::Place GridEvents::placeOf(const QWidget &source, const QMouseEvent &event) const
+{
+    const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    const QPoint position = event.position().toPoint();
+    if (&source == grid.horizontalHeader()->viewport())
+        return Place::Heading;
+    if (&source == grid.verticalHeader()->viewport())
+        return grid.rowAt(position.y()) >= 0 ? Place::Data : Place::None;
+    return grid.indexAt(position).isValid() ? Place::Data : Place::None;
+}
+
+void GridEvents::clicked(Place place)
+{
+    QFile::remove(pictureFile());
+    if (place != Place::Data || m_parts.vsfgDataGrid->Row() == 0 || !m_result.isOpen())
+        return;
+    followGridRow();
+    writePicture();
+    Q_EMIT m_control.DataClick();
+}
+
+void GridEvents::followGridRow()
+{
+    VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    if (m_isFollowing || grid.Row() == 0 || !m_result.isOpen())
+        return;
+    const QScopedValueRollback<bool> following(m_isFollowing, true);
+    ADODB::Recordset &recordset = *m_result.recordset();
+    const qint64 record = m_pages.recordOfRow(grid.Row());
+    try {
+        if (record <= recordset.RecordCount() && record != recordset.AbsolutePosition())
+            recordset.PutAbsolutePosition(record);
+    } catch (const ADODB::Error &) {
+        const qint64 row = recordset.AbsolutePosition() - m_pages.recordOfRow(1) + 1;
+        if (row >= 1 && row < grid.Rows())
+            grid.PutRow(static_cast<int>(row));
+    }
+}
+
+void GridEvents::writePicture()
+{
+    const int index = m_pages.pictureFieldIndex();
+    if (index < 0)
+        return;
+    try {
+        const QVariant picture = m_result.recordset()->Fields().Item(index).Value();
+        if (!picture.isValid())
+            return;
+        ADODB::Stream stream;
+        stream.PutType(ADODB::adTypeBinary);
+        stream.Open();
+        stream.Write(picture.toByteArray());
+        stream.SaveToFile(pictureFile(), ADODB::adSaveCreateNotExist);
+        stream.Close();
+    } catch (const ADODB::Error &) {
+        // No picture then: the host finds no file, as for a record without one.
+    }
+}
+
+void GridEvents::doubleClicked(QWidget &source, QMouseEvent &event)
+{
+    Q_EMIT m_control.DataDblClick();
+    const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    if (placeOf(source, event) != Place::Data || grid.Row() == 0)
+        return;
+    const bool isWholeRow = m_parts.CheckSelAllRow->isChecked() || (grid.Col() == 1 && grid.ColSel() != 1);
+    if (isWholeRow)
+        Q_EMIT m_control.DataDBLClickOneRow(grid.Row());
+    else
+        Q_EMIT m_control.DataDBLClickOneCell(grid.Col(), grid.Row());
+}
+
+bool GridEvents::keyPressed(QKeyEvent &event)
+{
+    const qint16 code = virtualKey(event);
+    if (code == 0)
+        return false;
+    qint16 keyCode = code;
+    qint16 shift = shiftState(event.modifiers());
+    Q_EMIT m_control.DataKeyDown(keyCode, shift);
+    return keyCode == 0; // set by a handler that wants the grid to ignore the key
+}
+
+void GridEvents::panelReleased(QMouseEvent &event)
+{
+    MouseArguments arguments(*m_parts.picMainBack, event, *m_parts.picMainBack);
+    Q_EMIT m_control.MouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
+}
+
+} // namespace KOVAVSFDataGridLib

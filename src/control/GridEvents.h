@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+class KOVAVSFDataGrid;
+class QKeyEvent;
+class QMouseEvent;
+
+namespace KOVAVSFDataGridLib {
+
+class GridParts;
+class PageView;
+class ResultSet;
+
+// Turns what the user does on the grid with mouse and keys into the control's events, moves the recordset
+// along with the grid's current row, and leaves a clicked record's picture in a file for the host.
+class GridEvents : public QObject
+{
+    Q_OBJECT
+
+public:
+    // All must outlive this object.
+    GridEvents(KOVAVSFDataGrid &control, const GridParts &parts, const ResultSet &result,
+               const PageView &pages);
+
+    // Moves the recordset to the record of the grid's current row; the data control tells of the move. A
+    // record that can't be left (its edit can't be saved) stays current, in the grid as well.
+    void followGridRow();
+
+    // Where a clicked record's picture is left: in the folder of the host program.
+    static QString pictureFile();
+
+Q_SIGNALS:
+    // The right button came up on data: the place for a menu. `position` is on the screen.
+    void menuWanted(const QPoint &position);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    enum class Place { None, Heading, Data };
+
+    void mousePressed(QWidget &source, QMouseEvent &event);
+    void mouseMoved(QWidget &source, QMouseEvent &event);
+    void mouseReleased(QWidget &source, QMouseEvent &event);
+    void doubleClicked(QWidget &source, QMouseEvent &event);
+    // True when the host took the key for itself.
+    bool keyPressed(QKeyEvent &event);
+    void panelReleased(QMouseEvent &event);
+    void clicked(Place place);
+    void writePicture();
+    bool isGridSurface(const QObject *object) const;
+    Place placeOf(const QWidget &source, const QMouseEvent &event) const;
+
+    KOVAVSFDataGrid &m_control;
+    const GridParts &m_parts;
+    const ResultSet &m_result;
+    const PageView &m_pages;
+    bool m_isFollowing = false;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,176 @@
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "control/GridTexts.h"
+#include "control/GridToolbar.h"
+#include "control/KOVAVSFDataGridPrivate.h"
+#include "forms/Messages.h"
+#include "grid/FlexGrid.h"
+#include "query/SqlText.h"
+
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+#include <algorithm>
+
+// The load: from the host's texts to a filled grid with the first entry of the history.
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+std::unique_ptr<clsFilterManagement> KOVAVSFDataGrid::Private::newFilterManager()
+{
+    return std::make_unique<clsFilterManagement>(&reader);
+}
+
+clsFilterManagement &KOVAVSFDataGrid::Private::filterManager()
+{
+    if (!filter)
+        filter = newFilterManager();
+    return *filter;
+}
+
+std::unique_ptr<clsFilterManagement> KOVAVSFDataGrid::Private::filterManagerForLoad()
+{
+    const QString allFields = JoinStatementLines(sqlShow);
+    auto manager = newFilterManager();
+    manager->SetDBType(static_cast<KOVAVSFDataGridLib::AllDBType>(shared.dbType));
+    manager->SetTBLType(tableType);
+    manager->SetFieldStatus(showModel);
+    manager->SetDBConnString(connectionString);
+    manager->SetAllFields(allFields);
+    manager->SetOriginFilter(allFields);
+    manager->SetShowFields(JoinStatementLines(sqlPartDisplay));
+    manager->SetOrderFields(JoinStatementLines(sqlSort));
+    manager->SetSQLInitData();
+    return manager;
+}
+
+// For Oracle the field list is spelled out, so that each field can be named and long binary ones come last.
+std::optional<QString> KOVAVSFDataGrid::Private::statementToOpen(clsFilterManagement &manager) const
+{
+    const QString first = manager.GetCurrentSQL20(0);
+    if (shared.dbType != dbOracle)
+        return first;
+    QString rewritten;
+    if (!manager.SQLManager().GetAllFieldNameSQL(connectionString, first, rewritten) || rewritten.isEmpty())
+        return {};
+    manager.SetAllFields(rewritten);
+    manager.SetOriginFilter(rewritten);
+    manager.SetSQLInitData();
+    return rewritten;
+}
+
+// Everything is made ready beside what is shown and takes its place only when the statement has opened, so
+// that a failed load leaves grid, history and position as they were.
+bool KOVAVSFDataGrid::Private::load()
+{
+    reader.forget();
+    auto manager = filterManagerForLoad();
+    const std::optional<QString> statement = statementToOpen(*manager);
+    if (!statement)
+        return false;
+    if (!open(*statement)) {
+        Messages::tell(&q, GridTexts::OpenFailed);
+        return false;
+    }
+    filter = std::move(manager);
+    recordSource = *statement;
+
+    parts.vsfgDataGrid->ResetColWidths();
+    showPage(1);
+    showMultiRecordView();
+    enableForData();
+
+    shared.recordCount =
+        static_cast<qint32>(std::min<qint64>(result.recordset()->RecordCount(), SharedValues::RecordCap));
+    shared.hasRecords = shared.recordCount >= 1 ? 1 : 0;
+    if (shared.hasRecords && parts.vsfgDataGrid->Cols() > 1) {
+        parts.vsfgDataGrid->PutRow(1);
+        parts.vsfgDataGrid->PutCol(1);
+    }
+    setPartAllButton(showModel + 1);
+    layOutColumns(*statement);
+    if (!isSingleRecordShown() && columns().columnsFit())
+        columns().fitColumns();
+    updateRecordPosition();
+    return true;
+}
+
+bool KOVAVSFDataGrid::Private::open(const QString &statement)
+{
+    try {
+        result.open(connectionString, statement, shared.dbType);
+        return true;
+    } catch (const ADODB::Error &error) {
+        Messages::tell(&q, GridTexts::OpenErrorPrefix + error.Description());
+        return false;
+    }
+}
+
+void KOVAVSFDataGrid::Private::enableForData()
+{
+    parts.vsfgDataGrid->setEnabled(true);
+    parts.Toolbar1->setEnabled(true);
+    parts.cmdPgae->setEnabled(true);
+    parts.Toolbar1->setAllButtonsEnabled(true);
+    if (tableType == DefSQL)
+        parts.Toolbar1->setButtonEnabled(u"ToFullTable"_s, false);
+}
+
+void KOVAVSFDataGrid::Private::layOutColumns(const QString &statement)
+{
+    const bool isAllFields = statement.trimmed().toUpper().startsWith(u"SELECT *");
+    columns().RecordShowSQL(statement, isAllFields ? 1 : 0, 1, colShowSQLSentences::NoPartField(),
+                            colShowSQLSentences::NoSort(), connectionString);
+    // The entry keeps what the statement says; what is seen is what the pressed button says.
+    if (showModel == ModelPart)
+        columns().ShowPartFieldColumns(1);
+    else
+        columns().ShowAllFieldColumns();
+}
+
+ColumnLayout KOVAVSFDataGrid::Private::columns()
+{
+    return ColumnLayout(*parts.vsfgDataGrid, filterManager().SQLManager());
+}
+
+void KOVAVSFDataGrid::Private::showPage(qint64 page)
+{
+    pages.setCurrentPage(page);
+    pages.fill(picField);
+}
+
+void KOVAVSFDataGrid::Private::updateRecordPosition()
+{
+    if (!result.isOpen())
+        return;
+    const ADODB::Recordset &recordset = *result.recordset();
+    const qint64 count = recordset.RecordCount();
+    qint64 position = 0;
+    if (!recordset.isBOF())
+        position = recordset.isEOF() ? count : recordset.AbsolutePosition();
+    shared.recordCountSnapshot = static_cast<qint32>(count);
+    shared.recordPosition = static_cast<qint32>(std::clamp<qint64>(position, 0, count));
+}
+
+void KOVAVSFDataGrid::Private::setPartAllButton(qint32 mode)
+{
+    if (mode == 1)
+        parts.Toolbar1->setButtonPressed(u"All"_s, true);
+    else if (mode == 2)
+        parts.Toolbar1->setButtonPressed(u"Part"_s, true);
+}
+
+bool KOVAVSFDataGrid::Private::isSingleRecordShown() const
+{
+    return !parts.Toolbar1->isButtonVisible(u"SingleRecord"_s);
+}
+
+void KOVAVSFDataGrid::Private::showMultiRecordView()
+{
+    parts.vsfgDataGrid->show();
+    parts.MSFlexGrid1->hide();
+    parts.txtEdit->hide();
+    parts.Toolbar1->setButtonVisible(u"SingleRecord"_s, true);
+    parts.Toolbar1->setButtonVisible(u"AllRecord"_s, false);
+}
