@@ -1,0 +1,45 @@
+#pragma once
+
+#include "KovaExport.h"
+#include "ado/RecordsetObserver.h"
+
+#include <memory>
+
+namespace ADODB {
+
+class Recordset;
+
+// The data control: it stands between a recordset and those who want to hear of its moves and changes.
+// A QSignalBlocker on it silences a block of moves.
+class KOVA_EXPORT Adodc : public QObject, private RecordsetObserver
+{
+    Q_OBJECT
+    Q_PROPERTY(QObject *Recordset READ recordsetObject NOTIFY RecordsetReplaced)
+
+public:
+    explicit Adodc(QObject *parent = nullptr);
+    ~Adodc() override;
+
+    // Null until one is put. Putting one that is open tells RecordsetChangeComplete(adRsnRequery) and
+    // MoveComplete(adRsnMove).
+    const std::shared_ptr<ADODB::Recordset> &Recordset() const { return m_recordset; }
+    void PutRecordset(std::shared_ptr<ADODB::Recordset> recordset);
+    // The same one by ADO's member names; see automation().
+    QObject *recordsetObject() const;
+
+Q_SIGNALS:
+    // See RecordsetObserver for what each one means and which reasons it has.
+    void MoveComplete(ADODB::EventReasonEnum adReason);
+    void RecordChangeComplete(ADODB::EventReasonEnum adReason);
+    void RecordsetChangeComplete(ADODB::EventReasonEnum adReason);
+    void RecordsetReplaced();
+
+private:
+    void moveComplete(EventReasonEnum reason) override;
+    void recordChangeComplete(EventReasonEnum reason) override;
+    void recordsetChangeComplete(EventReasonEnum reason) override;
+
+    std::shared_ptr<ADODB::Recordset> m_recordset;
+};
+
+} // namespace ADODB

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "KovaExport.h"
+
+#include <QtCore/qglobal.h>
+
+#include <memory>
+
+namespace ADODB {
+
+class Connection;
+class Recordset;
+
+// Hands out the connections and recordsets of a process. A host that reaches its databases another way
+// installs a factory of its own.
+class KOVA_EXPORT ConnectionFactory
+{
+public:
+    virtual ~ConnectionFactory();
+
+    // Whether connections go to a middle tier rather than to the database itself.
+    virtual void SetThreeTier(bool on) = 0;
+    virtual bool ThreeTier() const = 0;
+    // New, closed objects for a database type (1 Access, 2 Oracle, 3 SQL Server). Never null.
+    virtual std::shared_ptr<Connection> newConnection(qint32 dbType) = 0;
+    virtual std::shared_ptr<Recordset> newRecordset(qint32 dbType) = 0;
+
+    // The one of this process; a plain one is made on first use.
+    static ConnectionFactory &instance();
+    // Replaces it; null releases it, and the next use makes a plain one again.
+    static void setInstance(std::unique_ptr<ConnectionFactory> factory);
+};
+
+} // namespace ADODB

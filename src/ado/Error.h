@@ -1,0 +1,53 @@
+#pragma once
+
+#include "KovaExport.h"
+#include "ado/Enums.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+#include <exception>
+
+namespace ADODB {
+
+// The one exception of the data access. Every member of this namespace that can fail throws it and leaves its
+// object, and the database, as they were before the call. A description never contains a password.
+class KOVA_EXPORT Error : public std::exception
+{
+public:
+    // An error of ADO itself: Number() is 0x800A0000 + `number`.
+    Error(ErrorValueEnum number, const QString &description);
+    // An error of a provider. `sqlState` has five characters or is empty; `nativeError` is the number that
+    // the database library gave, 0 when it was not asked.
+    Error(ProviderErrorEnum number, const QString &description, const QString &source = {},
+          const QString &sqlState = {}, qint32 nativeError = 0);
+    Error(ErrorValueEnum number, const QString &description, const QString &source, const QString &sqlState,
+          qint32 nativeError);
+    ~Error() override;
+
+    qint32 Number() const { return m_number; }
+    // One or two Simplified Chinese sentences for the person at the screen, followed where it helps by the
+    // database's own words.
+    QString Description() const { return m_description; }
+    QString Source() const { return m_source; }
+    QString SQLState() const { return m_sqlState; }
+    qint32 NativeError() const { return m_nativeError; }
+
+    bool is(ErrorValueEnum number) const { return m_number == hresult(number); }
+    bool is(ProviderErrorEnum number) const { return m_number == number; }
+    // The full number under which an ADO error is seen by a host: 3021 is 0x800A0BCD.
+    static constexpr qint32 hresult(ErrorValueEnum number) { return -2146828288 + number; }
+
+    // Description() in UTF-8.
+    const char *what() const noexcept override { return m_what.constData(); }
+
+private:
+    qint32 m_number;
+    qint32 m_nativeError = 0;
+    QString m_description;
+    QString m_source;
+    QString m_sqlState;
+    QByteArray m_what;
+};
+
+} // namespace ADODB

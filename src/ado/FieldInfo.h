@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ado/Enums.h"
+
+#include <QtCore/QString>
+
+namespace ADODB {
+
+// What a provider says about one column of a statement.
+struct FieldInfo
+{
+    QString name;
+    DataTypeEnum type = adVarWChar;
+    qint32 definedSize = 0;  // characters or bytes; 0 when unlimited or unknown
+    qint32 precision = 0;    // decimal digits of a number, else 0
+    qint32 numericScale = 0; // digits behind the decimal point, else 0
+    qint32 attributes = 0;   // FieldAttributeEnum bits
+    QString baseTable;       // the table column behind it; both empty for an expression
+    QString baseColumn;
+};
+
+} // namespace ADODB

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ado/Field.h"
+
+#include <vector>
+
+namespace ADODB {
+
+// The columns of a recordset; empty while it is closed. Owned by the recordset.
+class KOVA_EXPORT Fields
+{
+public:
+    qint32 Count() const { return static_cast<qint32>(m_fields.size()); }
+    // By 0-based index, or by name in any letter case (the first one when a name occurs twice). Throws 3265
+    // when there is no such field.
+    Field &Item(int index);
+    const Field &Item(int index) const;
+    Field &Item(const QString &name);
+    const Field &Item(const QString &name) const;
+    // The 0-based index of a name, -1 when there is none.
+    int IndexOf(const QString &name) const;
+
+private:
+    friend class Recordset;
+    void reset(Recordset &owner, const std::vector<FieldInfo> &infos);
+
+    std::vector<Field> m_fields;
+    std::vector<QString> m_names;
+};
+
+} // namespace ADODB

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "ado/Enums.h"
+
+namespace ADODB {
+
+// Told after a recordset has changed; see Recordset::AddObserver. An observer must not throw.
+class RecordsetObserver
+{
+public:
+    // The current record moved, or tried to and stands at the beginning or end. Opening counts as adRsnMove.
+    virtual void moveComplete(EventReasonEnum reason) = 0;
+    // One record changed: adRsnAddNew, adRsnUpdate, adRsnDelete, adRsnUndoUpdate, adRsnUndoAddNew,
+    // adRsnFirstChange.
+    virtual void recordChangeComplete(EventReasonEnum reason) = 0;
+    // The whole set changed: adRsnRequery after it was opened, adRsnClose after it was closed.
+    virtual void recordsetChangeComplete(EventReasonEnum reason) = 0;
+
+protected:
+    ~RecordsetObserver() = default;
+};
+
+} // namespace ADODB

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "KovaExport.h"
+#include "ado/Enums.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+namespace ADODB {
+
+// Bytes in memory with a position, for carrying a binary field into a file.
+// Members throw Error; 3704 when they need an open stream and it is closed.
+class KOVA_EXPORT Stream
+{
+public:
+    // adTypeBinary or adTypeText (the default, as in ADO); can be written while closed, or open at position
+    // 0.
+    StreamTypeEnum Type() const { return m_type; }
+    void PutType(StreamTypeEnum type);
+    ObjectStateEnum State() const { return m_open ? adStateOpen : adStateClosed; }
+
+    void Open(); // empty; throws 3705 when open
+    void Close();
+
+    qint64 Size() const;
+    // 0…Size, in bytes; writing a larger position lengthens the stream with zero bytes.
+    qint64 Position() const;
+    void PutPosition(qint64 position);
+
+    // Binary streams only (3219 otherwise). Writing replaces bytes from Position on; reading takes at most
+    // `count` bytes, or all that are left. Both advance Position.
+    void Write(const QByteArray &bytes);
+    QByteArray Read(qint64 count = adReadAll);
+    // Text streams only (3219 otherwise): the same in UTF-8.
+    void WriteText(const QString &text);
+    QString ReadText();
+
+    // Writes the whole stream to a file, all or nothing. adSaveCreateNotExist throws 3004 when the file
+    // exists, adSaveCreateOverWrite replaces it. Position is 0 afterwards.
+    void SaveToFile(const QString &fileName, SaveOptionsEnum options = adSaveCreateNotExist);
+
+private:
+    void needOpen() const;
+    void needType(StreamTypeEnum type) const;
+    void put(const QByteArray &bytes);
+    QByteArray take(qint64 count);
+
+    QByteArray m_bytes;
+    qint64 m_position = 0;
+    StreamTypeEnum m_type = adTypeText;
+    bool m_open = false;
+};
+
+} // namespace ADODB

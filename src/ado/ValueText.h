@@ -1,0 +1,15 @@
+#pragma once
+
+#include "KovaExport.h"
+
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+
+namespace ADODB {
+
+// The one text form of a field's value: Null "", text as it is, integers in decimal, floating point with at
+// most 15 significant digits, "True"/"False", yyyy-MM-dd, HH:mm:ss and both with a blank between (a fraction
+// of a second only when there is one), GUID in braces, binary "<n 字节>".
+KOVA_EXPORT QString ValueText(const QVariant &value);
+
+} // namespace ADODB

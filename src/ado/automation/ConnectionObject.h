@@ -1,0 +1,40 @@
+#pragma once
+
+#include "KovaExport.h"
+
+#include <QtCore/QObject>
+
+#include <memory>
+
+namespace ADODB {
+
+class Connection;
+
+// A connection by ADO's member names; see RecordsetObject. It shares the connection with whoever else holds
+// it.
+class KOVA_EXPORT ConnectionObject : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString ConnectionString READ connectionString WRITE setConnectionString)
+    Q_PROPERTY(qint32 State READ state)
+
+public:
+    explicit ConnectionObject(std::shared_ptr<Connection> connection, QObject *parent = nullptr);
+
+    Q_INVOKABLE void Open(const QString &connectionString = {}, const QString &user = {},
+                          const QString &password = {}, qint32 options = -1);
+    Q_INVOKABLE void Close();
+
+    QString connectionString();
+    void setConnectionString(const QString &text);
+    qint32 state();
+    const std::shared_ptr<Connection> &connection() const { return m_connection; }
+
+Q_SIGNALS:
+    void HostError(qint32 Number, const QString &Description);
+
+private:
+    std::shared_ptr<Connection> m_connection;
+};
+
+} // namespace ADODB

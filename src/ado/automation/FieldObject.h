@@ -1,0 +1,45 @@
+#pragma once
+
+#include "KovaExport.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QVariant>
+
+namespace ADODB {
+
+class Recordset;
+
+// One field by ADO's member names; see RecordsetObject. It stands for a column number, so it stays usable
+// when the recordset is opened again.
+class KOVA_EXPORT FieldObject : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString Name READ name)
+    Q_PROPERTY(qint32 Type READ type)
+    Q_PROPERTY(QVariant Value READ value WRITE setValue)
+    Q_PROPERTY(qint32 DefinedSize READ definedSize)
+    Q_PROPERTY(qint32 Precision READ precision)
+    Q_PROPERTY(qint32 NumericScale READ numericScale)
+    Q_PROPERTY(qint32 Attributes READ attributes)
+
+public:
+    FieldObject(Recordset &recordset, int index, QObject *parent);
+
+    QString name();
+    qint32 type();
+    QVariant value();
+    void setValue(const QVariant &value);
+    qint32 definedSize();
+    qint32 precision();
+    qint32 numericScale();
+    qint32 attributes();
+
+Q_SIGNALS:
+    void HostError(qint32 Number, const QString &Description);
+
+private:
+    Recordset &m_recordset;
+    int m_index;
+};
+
+} // namespace ADODB
