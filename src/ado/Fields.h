@@ -2,6 +2,7 @@
 
 #include "ado/Field.h"
 
+#include <unordered_map>
 #include <vector>
 
 namespace ADODB {
@@ -23,9 +24,10 @@ public:
 private:
     friend class Recordset;
     void reset(Recordset &owner, const std::vector<FieldInfo> &infos);
+    void clear();
 
     std::vector<Field> m_fields;
-    std::vector<QString> m_names;
+    std::unordered_map<QString, int> m_indexes; // by name in folded case
 };
 
 } // namespace ADODB

@@ -8,10 +8,7 @@
 namespace ADODB {
 
 class Connection;
-class RecordEditor;
-class RecordPosition;
 class RecordsetObserver;
-class Snapshot;
 
 // The result of one statement, read whole into memory when it is opened (a client-side cursor), with a
 // current record. Hold it by std::shared_ptr. Use it from one thread at a time.
@@ -37,7 +34,8 @@ public:
     QString Source() const;
 
     // Called while Open reads, at least every 20 ms, with the number of rows read so far; answering false
-    // ends Open with dbErrCancelled and the recordset stays closed. It must not touch this recordset.
+    // ends Open with dbErrCancelled and the recordset stays closed. It must not touch this recordset and must
+    // not throw.
     void SetProgress(std::function<bool(qint64 rowsRead)> progress);
 
     // Runs `source`, which must be one statement that returns rows and changes nothing; anything else is
@@ -104,10 +102,21 @@ public:
     void AddObserver(RecordsetObserver *observer);
     void RemoveObserver(RecordsetObserver *observer);
 
+    // An object that lives exactly as long as this recordset: its face for late-bound hosts; see
+    // automation().
+    QObject *Companion() const;
+    void SetCompanion(std::unique_ptr<QObject> companion);
+
 private:
     friend class Field;
-    friend class RecordsetObject;
-    friend class RecordsetObject *automation(const std::shared_ptr<Recordset> &recordset);
+    const FieldInfo &fieldInfo(int column) const;
+    QVariant currentValue(int column) const;
+    void putCurrentValue(int column, const QVariant &value);
+
+    void leaveRecord();
+    void moveTo(qint64 record, EventReasonEnum reason);
+    void moveBy(qint64 records, BookmarkEnum start, EventReasonEnum reason);
+    bool hasCell(qint64 record, int column) const;
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -7,6 +7,7 @@
 
 namespace ADODB {
 
+class Field;
 class Recordset;
 
 // One field by ADO's member names; see RecordsetObject. It stands for a column number, so it stays usable
@@ -38,6 +39,8 @@ Q_SIGNALS:
     void HostError(qint32 Number, const QString &Description);
 
 private:
+    Field &field() const;
+
     Recordset &m_recordset;
     int m_index;
 };

@@ -33,6 +33,8 @@ Q_SIGNALS:
     void HostError(qint32 Number, const QString &Description);
 
 private:
+    FieldObject *itemAt(int index);
+
     Recordset &m_recordset;
     std::vector<FieldObject *> m_items; // children, by index; null until asked for
 };

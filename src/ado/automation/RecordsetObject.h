@@ -50,8 +50,7 @@ public:
     Q_INVOKABLE void Open(const QString &source, QObject *connection, qint32 cursorType = -1,
                           qint32 lockType = -1, qint32 options = -1);
     Q_INVOKABLE void Close();
-    Q_INVOKABLE void Move(qint32 records);
-    Q_INVOKABLE void Move(qint32 records, qint32 start);
+    Q_INVOKABLE void Move(qint32 records, qint32 start = 0);
     Q_INVOKABLE void MoveFirst();
     Q_INVOKABLE void MoveNext();
     Q_INVOKABLE void MovePrevious();

@@ -1,0 +1,81 @@
+#include "ado/Connection.h"
+
+#include "ado/ConnectionString.h"
+#include "ado/Error.h"
+#include "ado/Texts.h"
+#include "ado/providers/Provider.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+// A connection string can say this in several ways; an argument must replace them all.
+void replaceKeyword(ADODB::ConnectionString &text, const QString &keyword, const QString &synonym,
+                    const QString &value)
+{
+    if (value.isEmpty())
+        return;
+    text.remove(synonym);
+    text.set(keyword, value);
+}
+
+} // namespace
+
+Connection::Connection() = default;
+
+Connection::~Connection()
+{
+    if (m_session)
+        m_session->close();
+}
+
+QString Connection::ConnectionString() const
+{
+    return m_session ? ADODB::ConnectionString(m_text).textWithoutPassword() : m_text;
+}
+
+void Connection::PutConnectionString(const QString &text)
+{
+    if (m_session)
+        throw Error(adErrObjectOpen, Texts::connectionOpen());
+    m_text = text;
+}
+
+void Connection::Open(const QString &connectionString, const QString &user, const QString &password, qint32)
+{
+    if (m_session)
+        throw Error(adErrObjectOpen, Texts::connectionOpen());
+    const QString text = connectionString.isEmpty() ? m_text : connectionString;
+    ADODB::ConnectionString parsed(text);
+    replaceKeyword(parsed, u"User ID"_s, u"UID"_s, user);
+    replaceKeyword(parsed, u"Password"_s, u"PWD"_s, password);
+    m_session = openSession(parsed);
+    m_text = text;
+}
+
+void Connection::Close()
+{
+    session()->close();
+    m_session.reset();
+}
+
+ObjectStateEnum Connection::State() const
+{
+    return m_session ? adStateOpen : adStateClosed;
+}
+
+std::vector<FieldInfo> Connection::Describe(const QString &sql) const
+{
+    return session()->prepare(sql, Access::ReadOnly)->fields();
+}
+
+const std::shared_ptr<Session> &Connection::session() const
+{
+    if (!m_session)
+        throw Error(adErrObjectClosed, Texts::connectionClosed());
+    return m_session;
+}
+
+} // namespace ADODB

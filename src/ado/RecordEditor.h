@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ado/Enums.h"
+
+#include <QtCore/QVariant>
+
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace ADODB {
+
+class RowWriter;
+class Snapshot;
+struct Change;
+
+// The pending edit of a recordset: the values that were written to fields and not yet to the database.
+class RecordEditor
+{
+public:
+    // `writer` is null for a result that can't be written; `whyReadOnly` then says why.
+    RecordEditor(std::unique_ptr<RowWriter> writer, const QString &whyReadOnly);
+    ~RecordEditor();
+
+    EditModeEnum mode() const { return m_mode; }
+    bool isEmpty() const { return m_values.empty(); }
+    // The pending value of a column, null when it has none.
+    const QVariant *pending(int column) const;
+
+    void beginNew(); // throws 3251
+    // `snapshot` tells the field's name and type. Throws 3251 and 3421 and then begins nothing.
+    void set(int column, const QVariant &value, const Snapshot &snapshot);
+    void cancel();
+
+    // Both end the edit when they succeed and keep it when they throw.
+    void saveNew(Snapshot &snapshot);
+    void saveChanges(Snapshot &snapshot, qint64 record);
+    // Deletes a record, whatever is pending.
+    void remove(Snapshot &snapshot, qint64 record);
+
+private:
+    RowWriter &writer() const;
+    std::vector<Change> changes() const;
+
+    std::unique_ptr<RowWriter> m_writer;
+    QString m_whyReadOnly;
+    EditModeEnum m_mode = adEditNone;
+    std::map<int, QVariant> m_values;
+};
+
+} // namespace ADODB

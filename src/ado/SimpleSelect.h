@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <vector>
+
+namespace ADODB {
+
+class SqlScanner;
+
+// What a statement's text says about writing its result back: only a SELECT of single rows of one named table
+// can be, since each of its rows then is one row there. Whether that name is a table is for the database to
+// say.
+struct SimpleSelect
+{
+    struct FunctionCall
+    {
+        QString name;
+        int arguments = 0;
+    };
+
+    // Why it is no such SELECT, for a person to read; empty when it is one. The rest is set only then.
+    QString reason;
+    QString schema; // empty unless written
+    QString table;
+    QString alias;           // as which the statement knows the table; its own name when there is no alias
+    qsizetype listEnd = 0;   // where the select list ends in the text
+    qsizetype sourceEnd = 0; // where the table with its alias ends
+    // The functions the statement calls outside of subqueries; an aggregate among them folds the rows.
+    std::vector<FunctionCall> functions;
+
+    static SimpleSelect parse(const SqlScanner &statement);
+};
+
+} // namespace ADODB

@@ -1,0 +1,46 @@
+#include "ado/automation/FieldsObject.h"
+
+#include "ado/Recordset.h"
+#include "ado/automation/FieldObject.h"
+#include "ado/automation/Guarded.h"
+
+namespace ADODB {
+
+FieldsObject::FieldsObject(Recordset &recordset, QObject *parent) : QObject(parent), m_recordset(recordset) {}
+
+QObject *FieldsObject::Item(const QString &name)
+{
+    return guarded(this, [&]() -> QObject * { return itemAt(m_recordset.Fields().Item(name).Index()); });
+}
+
+QObject *FieldsObject::Item(qint32 index)
+{
+    return guarded(this, [&]() -> QObject * { return itemAt(m_recordset.Fields().Item(index).Index()); });
+}
+
+QObject *FieldsObject::Item(const QVariant &nameOrIndex)
+{
+    if (nameOrIndex.typeId() == QMetaType::QString)
+        return Item(nameOrIndex.toString());
+    return Item(nameOrIndex.toInt());
+}
+
+FieldObject *FieldsObject::itemAt(int index)
+{
+    const auto place = static_cast<std::size_t>(index);
+    if (m_items.size() <= place)
+        m_items.resize(place + 1);
+    FieldObject *&item = m_items[place];
+    if (!item) {
+        item = new FieldObject(m_recordset, index, this);
+        connect(item, &FieldObject::HostError, this, &FieldsObject::HostError);
+    }
+    return item;
+}
+
+qint32 FieldsObject::count()
+{
+    return m_recordset.Fields().Count();
+}
+
+} // namespace ADODB

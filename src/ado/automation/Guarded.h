@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ado/Error.h"
+
+#include <utility>
+
+namespace ADODB {
+
+// Nothing may be thrown at a late-bound caller: runs `action` for `object` and turns what it throws into the
+// object's HostError signal and the neutral value of the result.
+template<typename Object, typename Action>
+auto guarded(Object *object, Action &&action) -> decltype(action())
+{
+    try {
+        return std::forward<Action>(action)();
+    } catch (const Error &error) {
+        Q_EMIT object->HostError(error.Number(), error.Description());
+    } catch (const std::exception &error) {
+        Q_EMIT object->HostError(dbErrFailed, QString::fromUtf8(error.what()));
+    }
+    return decltype(action())();
+}
+
+// A count or position in the 32 bits that a late-bound host can take.
+inline qint32 narrowed(qint64 number)
+{
+    return static_cast<qint32>(qMin<qint64>(number, 0x7fffffff));
+}
+
+} // namespace ADODB

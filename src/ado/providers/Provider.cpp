@@ -1,0 +1,36 @@
+#include "ado/providers/Provider.h"
+
+#include "ado/ConnectionString.h"
+#include "ado/Error.h"
+#include "ado/Texts.h"
+#include "ado/providers/sqlite/SqliteProvider.h"
+
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+RowWriter::~RowWriter() = default;
+Statement::~Statement() = default;
+Session::~Session() = default;
+Provider::~Provider() = default;
+
+std::shared_ptr<Session> openSession(const ConnectionString &connection)
+{
+    static const SqliteProvider sqlite;
+    static const std::array<const Provider *, 1> providers{&sqlite};
+
+    QStringList names;
+    for (const Provider *provider : providers) {
+        if (provider->claims(connection))
+            return provider->open(connection);
+        names += provider->name();
+    }
+    const QString wanted = connection.value(u"Provider"_s);
+    const QString known = names.join(u"、"_s);
+    throw Error(adErrProviderNotFound, wanted.isEmpty() ? Texts::noProvider().arg(known)
+                                                        : Texts::unknownProvider().arg(wanted, known));
+}
+
+} // namespace ADODB

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "ado/FieldInfo.h"
+#include "ado/RawValue.h"
+
+#include <QtCore/QStringList>
+#include <QtCore/QVariant>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+// What a database engine has to offer to be reached through Connection and Recordset. Each engine has its own
+// folder beside this file and is listed in Providers.cpp. Everything throws Error.
+namespace ADODB {
+
+class ConnectionString;
+class RowStore;
+
+// One value for one column of a statement, as FieldValue::toStorage() gives it.
+struct Change
+{
+    int column;
+    QVariant value;
+};
+
+// Writes rows of one result back to the one table they come from. Each call is a transaction of its own: it
+// changes exactly one row, or throws and has changed nothing. A `row` has all columns of the result, hidden
+// ones too; `stored` receives the row as the database then has it.
+class RowWriter
+{
+public:
+    virtual ~RowWriter();
+    // Whether a column can be given a value.
+    virtual bool isWritable(int column) const = 0;
+    virtual void insert(const std::vector<Change> &changes, RowStore &stored) = 0;
+    virtual void update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
+                        RowStore &stored) = 0;
+    virtual void remove(const std::vector<RawValue> &row) = 0;
+};
+
+// A statement that was checked to return rows and to change nothing. It must not outlive its session's close.
+class Statement
+{
+public:
+    virtual ~Statement();
+    // The columns to show. Where a type is only known from the values, it is final once fetch() has returned.
+    virtual const std::vector<FieldInfo> &fields() const = 0;
+    // All columns: those of fields(), then hidden ones that serve the writer as key.
+    virtual int columns() const = 0;
+    // Runs the statement and appends all its rows. Asks at least every 20 ms whether to go on; throws
+    // dbErrCancelled when not.
+    virtual void fetch(RowStore &rows, const std::function<bool()> &goOn) = 0;
+    // Null when rows can't be written back; whyReadOnly() then says why.
+    virtual std::unique_ptr<RowWriter> takeWriter() = 0;
+    virtual QString whyReadOnly() const = 0;
+};
+
+enum class Access { ReadOnly, ReadWrite };
+
+// One open connection. Statements and writers share it, so it lives as long as they do.
+class Session
+{
+public:
+    virtual ~Session();
+    // Refuses what is not one statement that returns rows and changes nothing, before running any of it. With
+    // ReadWrite the statement is prepared for writing back as far as it allows that.
+    virtual std::unique_ptr<Statement> prepare(const QString &sql, Access access) = 0;
+    // The statement that reads a whole table.
+    virtual QString tableStatement(const QString &table) const = 0;
+    // Ends the connection; writers that still hold the session throw from then on.
+    virtual void close() = 0;
+};
+
+class Provider
+{
+public:
+    virtual ~Provider();
+    // Its name in a connection string, as a message lists it.
+    virtual QString name() const = 0;
+    // Whether a connection string is meant for it, by its Provider or, where it names none, by what it does
+    // name.
+    virtual bool claims(const ConnectionString &connection) const = 0;
+    virtual std::shared_ptr<Session> open(const ConnectionString &connection) const = 0;
+};
+
+// The session for a connection string. Throws 3706 when no provider claims it.
+std::shared_ptr<Session> openSession(const ConnectionString &connection);
+
+} // namespace ADODB

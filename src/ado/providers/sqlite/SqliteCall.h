@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ado/RawValue.h"
+#include "ado/providers/sqlite/SqliteSession.h"
+
+namespace ADODB {
+
+// A statement of the provider's own with its parameters, which are bound from left to right. What is bound
+// must live until the call has been run.
+class SqliteCall
+{
+public:
+    SqliteCall(const SqliteSession &session, const QString &sql);
+
+    void bind(const RawValue &value);
+    // One of Null, qlonglong, double, QString, QByteArray.
+    void bind(const QVariant &value);
+    // Runs it up to its next row; false when there is none.
+    bool step() { return stepRow(m_statement); }
+    // Runs it and throws unless it changed exactly one row.
+    void changeOneRow();
+    sqlite3_stmt *handle() const { return m_statement.get(); }
+
+private:
+    SqliteHandle m_statement;
+    int m_bound = 0;
+};
+
+} // namespace ADODB

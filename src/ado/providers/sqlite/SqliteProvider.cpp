@@ -1,0 +1,79 @@
+#include "ado/providers/sqlite/SqliteProvider.h"
+
+#include "ado/ConnectionString.h"
+#include "ado/Error.h"
+#include "ado/Texts.h"
+#include "ado/providers/sqlite/SqliteSession.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+constexpr double defaultTimeout = 2;
+
+bool isAccessFile(const QString &path)
+{
+    return path.endsWith(".mdb"_L1, Qt::CaseInsensitive) || path.endsWith(".accdb"_L1, Qt::CaseInsensitive);
+}
+
+// SQLite would take a missing or empty file for a new database and any other file for a damaged one, so the
+// file is looked at first.
+QString checkedPath(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString shown = QDir::toNativeSeparators(info.absoluteFilePath());
+    if (!info.exists())
+        throw Error(adErrOpeningFile, Texts::fileMissing().arg(shown));
+    if (info.isDir())
+        throw Error(adErrOpeningFile, Texts::fileIsFolder().arg(shown));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw Error(adErrOpeningFile, Texts::fileUnreadable().arg(shown, file.errorString()));
+    const QByteArray header = QByteArrayLiteral("SQLite format 3\0");
+    if (file.read(header.size()) != header)
+        throw Error(adErrOpeningFile, Texts::notADatabase().arg(shown));
+    // An absolute path can't be mistaken for a URI with options of its own.
+    return info.absoluteFilePath();
+}
+
+int timeoutInMilliseconds(const ConnectionString &connection)
+{
+    bool ok = true;
+    const QString text = connection.value(u"Connect Timeout"_s);
+    const double seconds = text.isEmpty() ? defaultTimeout : text.toDouble(&ok);
+    if (!ok || !(seconds >= 0 && seconds <= 24 * 60 * 60))
+        throw Error(adErrInvalidArgument, Texts::badTimeout());
+    return static_cast<int>(seconds * 1000);
+}
+
+} // namespace
+
+QString SqliteProvider::name() const
+{
+    return u"SQLite"_s;
+}
+
+bool SqliteProvider::claims(const ConnectionString &connection) const
+{
+    const QString provider = connection.value(u"Provider"_s);
+    if (!provider.isEmpty())
+        return provider.compare(name(), Qt::CaseInsensitive) == 0;
+    return connection.contains(u"Data Source"_s) && !isAccessFile(connection.value(u"Data Source"_s));
+}
+
+std::shared_ptr<Session> SqliteProvider::open(const ConnectionString &connection) const
+{
+    const QString source = connection.value(u"Data Source"_s);
+    if (source.isEmpty())
+        throw Error(adErrInvalidArgument, Texts::noDataSource());
+    const int timeout = timeoutInMilliseconds(connection);
+    return std::make_shared<SqliteSession>(source == ":memory:"_L1 ? source : checkedPath(source), timeout);
+}
+
+} // namespace ADODB

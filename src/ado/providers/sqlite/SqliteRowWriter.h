@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ado/providers/Provider.h"
+#include "ado/providers/sqlite/SqliteTarget.h"
+
+namespace ADODB {
+
+class SqliteCall;
+
+class SqliteRowWriter : public RowWriter
+{
+public:
+    SqliteRowWriter(std::shared_ptr<SqliteSession> session, SqliteTarget target,
+                    const std::vector<FieldInfo> &fields);
+
+    bool isWritable(int column) const override;
+    void insert(const std::vector<Change> &changes, RowStore &stored) override;
+    void update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
+                RowStore &stored) override;
+    void remove(const std::vector<RawValue> &row) override;
+
+private:
+    QString keyCondition(const QString &prefix) const;
+    void bindKey(SqliteCall &call, const std::vector<RawValue> &row,
+                 const std::vector<Change> &changes) const;
+    void readBack(SqliteCall &call, RowStore &stored) const;
+
+    std::shared_ptr<SqliteSession> m_session;
+    SqliteTarget m_target;
+    std::vector<QString> m_baseColumns; // quoted; empty for a column that can't be written
+};
+
+} // namespace ADODB

@@ -1,0 +1,176 @@
+#include "ado/providers/sqlite/SqliteSession.h"
+
+#include "ado/Error.h"
+#include "ado/SqlScanner.h"
+#include "ado/Texts.h"
+#include "ado/providers/sqlite/SqliteError.h"
+#include "ado/providers/sqlite/SqliteStatement.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <string_view>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+// The pragmas that only tell something; all others could change the database or the connection.
+bool isReadingPragma(std::string_view name)
+{
+    static constexpr std::string_view names[] = {
+        "collation_list", "compile_options", "database_list", "foreign_key_list",
+        "function_list",  "index_info",      "index_list",    "index_xinfo",
+        "module_list",    "table_info",      "table_list",    "table_xinfo",
+    };
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
+// Called by SQLite while it compiles a user's statement, for each thing that the statement would do.
+int allowReading(void *, int action, const char *first, const char *, const char *, const char *)
+{
+    switch (action) {
+    case SQLITE_SELECT:
+    case SQLITE_READ:
+    case SQLITE_FUNCTION:
+    case SQLITE_RECURSIVE:
+        return SQLITE_OK;
+    case SQLITE_PRAGMA:
+        return isReadingPragma(first) ? SQLITE_OK : SQLITE_DENY;
+    default:
+        return SQLITE_DENY;
+    }
+}
+
+// The watch stands only while a user's statement is compiled; what this provider writes itself is not
+// watched.
+class ReadingOnly
+{
+public:
+    explicit ReadingOnly(sqlite3 *db) : m_db(db) { sqlite3_set_authorizer(m_db, allowReading, nullptr); }
+    ~ReadingOnly() { sqlite3_set_authorizer(m_db, nullptr, nullptr); }
+    Q_DISABLE_COPY_MOVE(ReadingOnly)
+
+private:
+    sqlite3 *m_db;
+};
+
+SqliteHandle compile(sqlite3 *db, const QByteArray &sql, const char **tail)
+{
+    sqlite3_stmt *statement = nullptr;
+    const int code = sqlite3_prepare_v2(db, sql.constData(), static_cast<int>(sql.size()), &statement, tail);
+    if (code != SQLITE_OK)
+        throwSqliteError(db, code);
+    return SqliteHandle(statement);
+}
+
+Error refusal(ProviderErrorEnum number, const QString &description)
+{
+    return Error(number, description, u"SQLite"_s, u"42000"_s);
+}
+
+} // namespace
+
+void SqliteFinalizer::operator()(sqlite3_stmt *statement) const
+{
+    sqlite3_finalize(statement);
+}
+
+SqliteSession::SqliteSession(const QString &path, int timeoutInMilliseconds)
+{
+    // One thread at a time is this layer's contract, so SQLite's own locking would only cost time.
+    const int flags = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+    const QByteArray name = path.toUtf8();
+    int code = sqlite3_open_v2(name.constData(), &m_db, flags | SQLITE_OPEN_READWRITE, nullptr);
+    if (code != SQLITE_OK) {
+        close();
+        code = sqlite3_open_v2(name.constData(), &m_db, flags | SQLITE_OPEN_READONLY, nullptr);
+    }
+    try {
+        if (code != SQLITE_OK)
+            throwSqliteError(m_db, code);
+        sqlite3_busy_timeout(m_db, timeoutInMilliseconds);
+        sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_FKEY, 1, nullptr);
+        // The first look into the file: a locked, encrypted or damaged one shows here rather than at the
+        // first statement.
+        stepRow(prepareOwn(u"SELECT 1 FROM sqlite_master LIMIT 1"_s));
+    } catch (...) {
+        close();
+        throw;
+    }
+}
+
+SqliteSession::~SqliteSession()
+{
+    close();
+}
+
+std::unique_ptr<Statement> SqliteSession::prepare(const QString &sql, Access access)
+{
+    return std::make_unique<SqliteStatement>(shared_from_this(), sql, access);
+}
+
+QString SqliteSession::tableStatement(const QString &table) const
+{
+    return "SELECT * FROM "_L1 + quotedName(table);
+}
+
+void SqliteSession::close()
+{
+    // A statement that is still being read keeps the handle alive until it ends.
+    sqlite3_close_v2(m_db);
+    m_db = nullptr;
+}
+
+sqlite3 *SqliteSession::db() const
+{
+    if (!m_db)
+        throw Error(adErrInvalidConnection, Texts::connectionClosed());
+    return m_db;
+}
+
+SqliteHandle SqliteSession::prepareQuery(const QString &sql) const
+{
+    const QByteArray text = sql.toUtf8();
+    const char *tail = nullptr;
+    SqliteHandle statement;
+    {
+        const ReadingOnly watch(db());
+        statement = compile(m_db, text, &tail);
+    }
+    if (!statement)
+        throw refusal(dbErrInCommand, Texts::emptyStatement());
+    const QByteArray rest = text.sliced(tail - text.constData());
+    if (SqlScanner(QString::fromUtf8(rest)).count() > 0)
+        throw refusal(dbErrMultipleStatements, Texts::secondStatement());
+    if (!sqlite3_stmt_readonly(statement.get()) || sqlite3_column_count(statement.get()) == 0)
+        throw refusal(dbErrPermissionDenied, Texts::notAQuery());
+    if (sqlite3_bind_parameter_count(statement.get()) > 0) {
+        const char *name = sqlite3_bind_parameter_name(statement.get(), 1);
+        throw refusal(dbErrInCommand,
+                      Texts::parameterInStatement().arg(name ? QString::fromUtf8(name) : u"?"_s));
+    }
+    return statement;
+}
+
+SqliteHandle SqliteSession::prepareOwn(const QString &sql) const
+{
+    return compile(db(), sql.toUtf8(), nullptr);
+}
+
+QString quotedName(const QString &name)
+{
+    return u'"' + QString(name).replace(u'"', "\"\""_L1) + u'"';
+}
+
+bool stepRow(const SqliteHandle &statement)
+{
+    const int code = sqlite3_step(statement.get());
+    if (code != SQLITE_ROW && code != SQLITE_DONE)
+        throwSqliteError(sqlite3_db_handle(statement.get()), code);
+    return code == SQLITE_ROW;
+}
+
+} // namespace ADODB

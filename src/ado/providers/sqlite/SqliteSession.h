@@ -1,0 +1,47 @@
+#pragma once
+
+#include "ado/providers/Provider.h"
+
+#include <QtCore/QByteArray>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace ADODB {
+
+struct SqliteFinalizer
+{
+    void operator()(sqlite3_stmt *statement) const;
+};
+using SqliteHandle = std::unique_ptr<sqlite3_stmt, SqliteFinalizer>;
+
+// An open SQLite database with foreign keys enforced.
+class SqliteSession : public Session, public std::enable_shared_from_this<SqliteSession>
+{
+public:
+    SqliteSession(const QString &path, int timeoutInMilliseconds);
+    ~SqliteSession() override;
+    Q_DISABLE_COPY_MOVE(SqliteSession)
+
+    std::unique_ptr<Statement> prepare(const QString &sql, Access access) override;
+    QString tableStatement(const QString &table) const override;
+    void close() override;
+
+    // Throws 3709 once it is closed.
+    sqlite3 *db() const;
+    // A user's statement, refused unless it is one query.
+    SqliteHandle prepareQuery(const QString &sql) const;
+    // A statement of this provider's own; whatever stands in it is meant.
+    SqliteHandle prepareOwn(const QString &sql) const;
+
+private:
+    sqlite3 *m_db = nullptr;
+};
+
+// `name` in double quotes.
+QString quotedName(const QString &name);
+
+// Steps a statement and answers whether it stands on a row.
+bool stepRow(const SqliteHandle &statement);
+
+} // namespace ADODB

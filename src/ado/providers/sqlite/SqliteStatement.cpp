@@ -1,0 +1,170 @@
+#include "ado/providers/sqlite/SqliteStatement.h"
+
+#include "ado/Error.h"
+#include "ado/RowStore.h"
+#include "ado/Texts.h"
+#include "ado/providers/sqlite/SqliteRowWriter.h"
+#include "ado/providers/sqlite/SqliteTypes.h"
+
+#include <sqlite3.h>
+
+namespace ADODB {
+
+namespace {
+
+// How often to ask whether to go on. Counted in steps of SQLite's virtual machine for a statement that
+// computes for long without giving a row, and in bytes for rows that carry much; either takes a few
+// milliseconds at most.
+constexpr int stepsPerQuestion = 20'000;
+constexpr qint64 bytesPerQuestion = 1024 * 1024;
+
+int stopWhenAsked(void *goOn)
+{
+    return (*static_cast<const std::function<bool()> *>(goOn))() ? 0 : 1;
+}
+
+class ProgressWatch
+{
+public:
+    ProgressWatch(sqlite3 *db, std::function<bool()> goOn) : m_db(db), m_goOn(std::move(goOn))
+    {
+        sqlite3_progress_handler(m_db, stepsPerQuestion, stopWhenAsked, &m_goOn);
+    }
+    ~ProgressWatch() { sqlite3_progress_handler(m_db, 0, nullptr, nullptr); }
+    Q_DISABLE_COPY_MOVE(ProgressWatch)
+
+private:
+    sqlite3 *m_db;
+    std::function<bool()> m_goOn;
+};
+
+RawValue currentValue(sqlite3_stmt *statement, int column)
+{
+    switch (sqlite3_column_type(statement, column)) {
+    case SQLITE_INTEGER:
+        return RawValue::fromInteger(sqlite3_column_int64(statement, column));
+    case SQLITE_FLOAT:
+        return RawValue::fromReal(sqlite3_column_double(statement, column));
+    case SQLITE_TEXT: {
+        const void *text = sqlite3_column_text(statement, column);
+        return RawValue::fromText({static_cast<const char *>(text), sqlite3_column_bytes(statement, column)});
+    }
+    case SQLITE_BLOB: {
+        const void *bytes = sqlite3_column_blob(statement, column);
+        return RawValue::fromBlob(
+            {static_cast<const char *>(bytes), sqlite3_column_bytes(statement, column)});
+    }
+    default:
+        return {};
+    }
+}
+
+QString utf8(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+} // namespace
+
+SqliteStatement::SqliteStatement(std::shared_ptr<SqliteSession> session, const QString &sql, Access access)
+    : m_session(std::move(session)), m_statement(m_session->prepareQuery(sql))
+{
+    describe();
+    if (access == Access::ReadWrite)
+        prepareWriter(sql);
+    else
+        m_whyReadOnly = Texts::openedReadOnly();
+}
+
+SqliteStatement::~SqliteStatement() = default;
+
+int SqliteStatement::columns() const
+{
+    return sqlite3_column_count(m_statement.get());
+}
+
+void SqliteStatement::describe()
+{
+    const int count = columns();
+    for (int i = 0; i < count; ++i) {
+        FieldInfo field;
+        field.name = utf8(sqlite3_column_name(m_statement.get(), i));
+        field.baseTable = utf8(sqlite3_column_table_name(m_statement.get(), i));
+        field.baseColumn = utf8(sqlite3_column_origin_name(m_statement.get(), i));
+        field.attributes = adFldIsNullable | adFldMayBeNull;
+        if (!field.baseColumn.isEmpty()) {
+            int notNull = 0;
+            int key = 0;
+            sqlite3_table_column_metadata(m_session->db(), sqlite3_column_database_name(m_statement.get(), i),
+                                          sqlite3_column_table_name(m_statement.get(), i),
+                                          sqlite3_column_origin_name(m_statement.get(), i), nullptr, nullptr,
+                                          &notNull, &key, nullptr);
+            if (notNull)
+                field.attributes = 0;
+            if (key)
+                field.attributes |= adFldKeyColumn;
+        }
+        const QString declaration = utf8(sqlite3_column_decltype(m_statement.get(), i));
+        if (declaration.isEmpty())
+            m_untyped.push_back(i);
+        else
+            SqliteTypes::applyDeclaration(field, declaration);
+        m_fields.push_back(std::move(field));
+    }
+}
+
+void SqliteStatement::prepareWriter(const QString &sql)
+{
+    SqliteTarget target = SqliteTarget::find(*m_session, sql, m_fields);
+    m_whyReadOnly = target.whyReadOnly;
+    if (!m_whyReadOnly.isEmpty())
+        return;
+    // The statement that also gives the hidden key takes the place of the user's.
+    if (target.hiddenKey)
+        m_statement = m_session->prepareQuery(target.statement);
+    auto writer = std::make_unique<SqliteRowWriter>(m_session, std::move(target), m_fields);
+    for (std::size_t i = 0; i < m_fields.size(); ++i) {
+        if (writer->isWritable(static_cast<int>(i)))
+            m_fields[i].attributes |= adFldUpdatable;
+    }
+    m_writer = std::move(writer);
+}
+
+void SqliteStatement::learnTypes()
+{
+    std::erase_if(m_untyped, [this](int column) {
+        const RawValue value = currentValue(m_statement.get(), column);
+        if (value.kind == RawValue::Kind::Null)
+            return false;
+        SqliteTypes::applyValue(m_fields[static_cast<std::size_t>(column)], value);
+        return true;
+    });
+}
+
+void SqliteStatement::fetch(RowStore &rows, const std::function<bool()> &goOn)
+{
+    sqlite3 *const db = sqlite3_db_handle(m_statement.get());
+    const ProgressWatch watch(db, goOn);
+    qint64 nextQuestion = 0;
+    while (stepRow(m_statement)) {
+        if (!m_untyped.empty())
+            learnTypes();
+        appendCurrentRow(m_statement.get(), rows);
+        if (rows.bytesWritten() >= nextQuestion) {
+            nextQuestion = rows.bytesWritten() + bytesPerQuestion;
+            if (!goOn())
+                throw Error(dbErrCancelled, Texts::cancelled());
+        }
+    }
+    sqlite3_reset(m_statement.get());
+}
+
+void appendCurrentRow(sqlite3_stmt *statement, RowStore &rows)
+{
+    const int count = rows.columns();
+    for (int i = 0; i < count; ++i)
+        rows.add(currentValue(statement, i));
+    rows.endRow();
+}
+
+} // namespace ADODB

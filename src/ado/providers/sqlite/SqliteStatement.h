@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ado/providers/sqlite/SqliteSession.h"
+
+namespace ADODB {
+
+class SqliteStatement : public Statement
+{
+public:
+    SqliteStatement(std::shared_ptr<SqliteSession> session, const QString &sql, Access access);
+    ~SqliteStatement() override;
+
+    const std::vector<FieldInfo> &fields() const override { return m_fields; }
+    int columns() const override;
+    void fetch(RowStore &rows, const std::function<bool()> &goOn) override;
+    std::unique_ptr<RowWriter> takeWriter() override { return std::move(m_writer); }
+    QString whyReadOnly() const override { return m_whyReadOnly; }
+
+private:
+    void describe();
+    void prepareWriter(const QString &sql);
+    void learnTypes();
+
+    std::shared_ptr<SqliteSession> m_session;
+    SqliteHandle m_statement;
+    std::vector<FieldInfo> m_fields;
+    std::vector<int> m_untyped; // columns whose type waits for their first value
+    std::unique_ptr<RowWriter> m_writer;
+    QString m_whyReadOnly;
+};
+
+// Appends the row that a statement stands on.
+void appendCurrentRow(sqlite3_stmt *statement, RowStore &rows);
+
+} // namespace ADODB

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ado/FieldInfo.h"
+
+#include <vector>
+
+namespace ADODB {
+
+class SqliteSession;
+
+// Where the rows of a statement can be written back to, and how one of them is found there again.
+struct SqliteTarget
+{
+    struct KeyColumn
+    {
+        QString name; // as it stands in a statement
+        int column;   // of the result
+    };
+
+    QString whyReadOnly; // empty when they can be; the rest is set only then
+    QString statement;   // the user's, which gives the hidden key as its last column if there is one
+    bool hiddenKey = false;
+    QString table; // as it stands in a statement
+    QString alias;
+    QString rowId;     // the name of the rowid; empty for a table without one
+    QString selectRow; // the statement up to where the condition for one row follows
+    std::vector<KeyColumn> key;
+
+    static SqliteTarget find(const SqliteSession &session, const QString &sql,
+                             const std::vector<FieldInfo> &fields);
+};
+
+} // namespace ADODB

@@ -1,0 +1,100 @@
+#include "query/modQNVSFHFDataMain.h"
+
+#include "query/CharText.h"
+#include "query/SqlText.h"
+
+#include <stdexcept>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace CharText;
+
+namespace {
+
+constexpr auto kInvalidArgument = "Invalid procedure call or argument";
+// A statement is taken to begin with SELECT and one blank, so its list begins here.
+constexpr qsizetype kListPosition = 8;
+
+// The trimmed statement, or an empty text when it is no SELECT.
+QString SelectStatement(const QString &statement)
+{
+    const QString trimmed = Trim(statement);
+    return FindUpper(trimmed, QStringLiteral("SELECT")) > 0 ? trimmed : QString();
+}
+
+QString WithoutBrackets(QString name)
+{
+    if (name.startsWith(u'['))
+        name.remove(0, 1);
+    if (name.endsWith(u']'))
+        name.chop(1);
+    return name;
+}
+
+} // namespace
+
+ParsedStatements &SharedParsedStatements()
+{
+    static ParsedStatements parsed;
+    return parsed;
+}
+
+std::optional<ParseFailure> ParseSQLFieldList(const QString &statement, AllDBType database)
+{
+    QString text = SelectStatement(statement);
+    if (text.isEmpty())
+        return std::nullopt;
+    if (database != dbOracle) {
+        if (const auto where = FindUpper(text, QStringLiteral(" WHERE ")); where > 0)
+            text = First(text, where - 1);
+    }
+
+    ParsedStatements &parsed = SharedParsedStatements();
+    parsed.strSQLTable = GetSQLTableName(text);
+    const auto blankBeforeFrom = FindUpper(text, QStringLiteral(" FROM "));
+    if (blankBeforeFrom < kListPosition)
+        return ParseFailure{QStringLiteral("KOVAVSFDataGridLib"), QString::fromLatin1(kInvalidArgument)};
+    const QString list = First(From(text, kListPosition), blankBeforeFrom - kListPosition);
+
+    ClearSQLFieldList();
+    QStringList items = list.split(u',');
+    const QString last = items.takeLast();
+    for (const QString &written : items) {
+        const QString item = Trim(written);
+        parsed.colSQLFields.append(database == dbOracle ? item : WithoutBrackets(item));
+    }
+    // The last item differs from the others: elsewhere than on Oracle it keeps its blanks, which also shield
+    // its "[".
+    if (!last.contains(u'*'))
+        parsed.colSQLFields.append(database == dbOracle ? Trim(last) : WithoutBrackets(last));
+    return std::nullopt;
+}
+
+void ClearSQLFieldList()
+{
+    SharedParsedStatements().colSQLFields.clear();
+}
+
+void ParseSelFieldList(const QString &statement)
+{
+    const QString text = SelectStatement(statement);
+    if (text.isEmpty())
+        return;
+    const auto blankBeforeFrom = FindUpper(text, QStringLiteral(" FROM "));
+    if (blankBeforeFrom < kListPosition)
+        throw std::invalid_argument(kInvalidArgument);
+    const QString list = First(From(text, kListPosition), blankBeforeFrom - kListPosition);
+
+    QStringList &fields = SharedParsedStatements().colSelFields;
+    fields.clear();
+    QStringList items = list.split(u',');
+    const bool isListCut = items.last().isEmpty();
+    if (isListCut)
+        items.removeLast();
+    for (const QString &item : items)
+        fields.append(Trim(item));
+    if (isListCut)
+        throw std::invalid_argument(kInvalidArgument);
+}
+
+} // namespace KOVAVSFDataGridLib
