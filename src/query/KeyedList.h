@@ -14,6 +14,7 @@ template<typename T>
 class KeyedList
 {
 public:
+    using iterator = typename std::vector<T>::iterator;
     using const_iterator = typename std::vector<T>::const_iterator;
 
     // Keys that the list makes itself are a running number followed by `keySuffix`.
@@ -61,6 +62,8 @@ public:
 
     const_iterator begin() const { return m_values.cbegin(); }
     const_iterator end() const { return m_values.cend(); }
+    iterator begin() { return m_values.begin(); }
+    iterator end() { return m_values.end(); }
 
 private:
     static std::size_t Index(qsizetype position) { return static_cast<std::size_t>(position - 1); }

@@ -56,8 +56,8 @@ bool colDataFields::SetPartFieldStatusByCol(const QStringList &FieldNameCol)
 {
     if (FieldNameCol.isEmpty())
         return false;
-    for (qsizetype position = 1; position <= Count(); ++position)
-        m_fields.Item(position)->IsPartField = 0;
+    for (clsDataField &field : m_fields)
+        field.IsPartField = 0;
     for (const QString &name : FieldNameCol) {
         clsDataField *const field = name.isEmpty() ? nullptr : Named(name);
         if (field)
@@ -130,8 +130,12 @@ clsDataField *colDataFields::Named(const QString &strFieldName)
 void colDataFields::IndexNames()
 {
     m_firstByName.clear();
-    for (auto position = Count(); position >= 1; --position)
-        m_firstByName.insert(m_fields.Item(position)->FieldName, position);
+    qsizetype position = 0;
+    for (const clsDataField &field : m_fields) {
+        ++position;
+        if (!m_firstByName.contains(field.FieldName))
+            m_firstByName.insert(field.FieldName, position);
+    }
 }
 
 } // namespace KOVAVSFDataGridLib

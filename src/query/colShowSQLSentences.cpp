@@ -267,16 +267,15 @@ bool colShowSQLSentences::BringInStepWith(const clsShowSQLSentence &entry, const
 bool colShowSQLSentences::FillCatalogue(const QString &connectionString, const QString &statement)
 {
     const auto fields = m_reader->Read(connectionString, statement);
-    if (!fields || !m_catalogue.AddFieldsByCol(NamesOf(*fields)))
+    if (!fields || fields->empty())
         return false;
-    qsizetype position = 0;
+    m_catalogue.Clear();
     for (const SourceField &source : *fields) {
         if (source.name.isEmpty())
             continue;
-        m_catalogue.Update(m_catalogue.Item(++position)->FieldKey, [&](clsDataField &field) {
-            field.FieldWholeName = QuotedFieldName(m_database, source.name);
-            field.FieldType = source.adoType;
-        });
+        QString key;
+        m_catalogue.AddFieldNameMess(source.name, QuotedFieldName(m_database, source.name), &key);
+        m_catalogue.Update(key, [&](clsDataField &field) { field.FieldType = source.adoType; });
     }
     const QStringList writtenFields = WrittenFields(statement);
     for (const QString &written : writtenFields) {
