@@ -73,6 +73,6 @@ function(kova_test name)
   endif()
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT ${TEST_TIMEOUT} LABELS "${TEST_LABELS}"
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8"
+    ENVIRONMENT "LC_ALL=C.UTF-8"
     SKIP_REGULAR_EXPRESSION "ALL TESTS SKIPPED")
 endfunction()

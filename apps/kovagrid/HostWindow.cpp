@@ -71,15 +71,18 @@ void HostWindow::makeDocks()
 {
     m_picture = new QLabel(u"（无图片）"_s);
     m_picture->setAlignment(Qt::AlignCenter);
-    m_picture->setMinimumSize(160, 130);
+    m_picture->setMinimumSize(160, 96);
     m_log = new EventLog;
     const auto addDock = [this](const QString &title, QWidget *widget) {
         auto *dock = new QDockWidget(title, this);
         dock->setWidget(widget);
-        addDockWidget(Qt::RightDockWidgetArea, dock);
+        addDockWidget(Qt::BottomDockWidgetArea, dock);
+        return dock;
     };
-    addDock(u"图片"_s, m_picture);
-    addDock(u"事件"_s, m_log);
+    QDockWidget *picture = addDock(u"图片"_s, m_picture);
+    QDockWidget *log = addDock(u"事件"_s, m_log);
+    resizeDocks({picture, log}, {1, 3}, Qt::Horizontal);
+    resizeDocks({picture, log}, {130, 130}, Qt::Vertical);
 }
 
 // Every event but DataMouseMove, which would drown the others.

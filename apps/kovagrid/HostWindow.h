@@ -10,7 +10,7 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 
-// A form with the grid on it: what to load above, the picture of the record and the raised events beside.
+// A form with the grid on it: what to load above, the record's picture and the raised events below.
 class HostWindow : public QMainWindow
 {
     Q_OBJECT

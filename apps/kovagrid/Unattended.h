@@ -18,6 +18,7 @@ public:
 
     // The texts of all message boxes, in order, on one line; empty when there were none.
     QString messages() const;
+    void forgetMessages() { m_messages.clear(); }
 
     // Writes the shown columns of a grid as tab-separated text, headings first.
     static void print(const QTableView &grid, std::optional<int> rows);

@@ -49,6 +49,18 @@ void pressButtons(const KOVAVSFDataGrid &grid, const QStringList &keys)
     }
 }
 
+// Chinese first: a system's default font may draw it in another country's shapes.
+void useChinese(QTranslator &translator)
+{
+    const QLocale chinese(QLocale::Chinese, QLocale::China);
+    QLocale::setDefault(chinese);
+    if (translator.load(chinese, u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&translator);
+    QFont font = QApplication::font();
+    font.setFamilies({u"Noto Sans CJK SC"_s, u"Microsoft YaHei UI"_s, u"PingFang SC"_s, font.family()});
+    QApplication::setFont(font);
+}
+
 int failed(const QString &text)
 {
     std::fprintf(stderr, "%s\n", qUtf8Printable(text));
@@ -58,10 +70,12 @@ int failed(const QString &text)
 // Loads, does what was asked for and leaves.
 int runUnattended(HostWindow &window, const Options &options)
 {
-    const Unattended unattended;
+    Unattended unattended;
     window.show();
-    if (!window.load())
+    const bool isLoaded = window.load();
+    if (!isLoaded)
         return failed(unattended.messages());
+    unattended.forgetMessages(); // only about the texts, which could be loaded all the same
     pressButtons(*window.grid(), options.keys);
     QCoreApplication::processEvents();
 
@@ -90,11 +104,8 @@ int run(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(u"kovagrid"_s);
     QApplication::setApplicationDisplayName(u"KOVAVSFDataGrid"_s);
-    const QLocale chinese(QLocale::Chinese, QLocale::China);
-    QLocale::setDefault(chinese);
     QTranslator translator;
-    if (translator.load(chinese, u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&translator);
+    useChinese(translator);
 
     QString error;
     std::optional<Options> options = Options::parse(QApplication::arguments().mid(1), error);

@@ -29,29 +29,28 @@ void KOVAVSFDataGrid::Refresh()
     }
 }
 
+// The row is one of page 1, whichever page is shown: there it is the record's number as well.
 bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
 {
     VSFlexGrid &grid = *d->parts.vsfgDataGrid;
-    if (lRecordRow <= 0 || lRecordRow > grid.Rows())
+    const qint32 rows = d->result.isOpen() ? d->pages.rowsOfPage(1) + 1 : grid.Rows();
+    if (lRecordRow <= 0 || lRecordRow > rows)
         return false;
-    if (lRecordRow < 2 || !d->result.isOpen())
+    if (lRecordRow < 2 || lRecordRow == rows || !d->result.isOpen() ||
+        lRecordRow == d->result.recordset()->AbsolutePosition())
         return true;
-    ADODB::Recordset &recordset = *d->result.recordset();
-    if (lRecordRow == recordset.AbsolutePosition() || lRecordRow > recordset.RecordCount())
-        return true;
-    if (d->pages.currentPage() > 1)
+    if (d->pages.currentPage() != 1)
         d->showPage(1);
-    if (lRecordRow == grid.Rows())
-        return true;
     try {
         const QSignalBlocker onlyOurOwnEvent(d->parts.Adodc1);
+        ADODB::Recordset &recordset = *d->result.recordset();
         recordset.MoveFirst();
         recordset.Move(lRecordRow - 1);
+        grid.PutRow(lRecordRow);
+        grid.PutCol(1);
     } catch (const ADODB::Error &) {
-        return true; // a pending edit could not be saved: its record stays the current one
+        return true; // an edit could not be saved: its record stays the current one
     }
-    grid.PutRow(lRecordRow);
-    grid.PutCol(1);
     if (!grid.RowIsVisible(lRecordRow))
         grid.PutTopRow(lRecordRow);
     Q_EMIT RecordChanged(3, lRecordRow - 1);

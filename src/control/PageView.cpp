@@ -67,18 +67,22 @@ void PageView::fill(const QString &pictureField)
     m_pictureFieldIndex = indexOfField(recordset.Fields(), pictureField);
 
     const qint64 first = recordOfRow(1);
-    const qint64 count = m_currentPage > 0 ? std::clamp<qint64>(recordset.RecordCount() - first + 1, 0,
-                                                                SharedValues::RecordCap)
-                                           : 0;
+    const int count = m_currentPage > 0 ? rowsOfPage(m_currentPage) : 0;
     grid.PutRedraw(false);
-    grid.Show(std::make_unique<RecordWindow>(m_result.recordset(), static_cast<int>(first),
-                                             static_cast<int>(count)));
+    grid.Show(std::make_unique<RecordWindow>(m_result.recordset(), static_cast<int>(first), count));
     if (count > 0) {
         const QSignalBlocker silent(m_parts.Adodc1);
         recordset.PutAbsolutePosition(first);
         grid.PutRow(1);
     }
     grid.PutRedraw(true);
+}
+
+int PageView::rowsOfPage(int page) const
+{
+    const qint64 before = static_cast<qint64>(page - 1) * SharedValues::RecordCap;
+    return static_cast<int>(
+        std::clamp<qint64>(m_result.recordset()->RecordCount() - before, 0, SharedValues::RecordCap));
 }
 
 qint64 PageView::recordOfRow(int row) const

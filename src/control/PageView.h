@@ -25,6 +25,8 @@ public:
     // 0-based; -1 when the result has no picture field.
     int pictureFieldIndex() const { return m_pictureFieldIndex; }
 
+    // How many records a page shows; the result must be open.
+    int rowsOfPage(int page) const;
     // The record behind a grid row of the current page, from 1.
     qint64 recordOfRow(int row) const;
 

@@ -79,7 +79,9 @@ void FlexGrid::PutCol(int col)
 void FlexGrid::makeCurrent(int row, int col)
 {
     const bool isCell = row > 0 && col >= m_model->fixedCols();
+    setAutoScroll(false); // what is in view is TopRow's affair
     setCurrentIndex(isCell ? m_model->index(row - 1, section(col)) : QModelIndex());
+    setAutoScroll(true);
     m_row = row;
     m_col = col;
 }

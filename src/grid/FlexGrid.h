@@ -32,7 +32,7 @@ public:
     int Cols() const;
     void PutCols(int cols);
 
-    // The current cell; 0 while a heading (or nothing) is current.
+    // The current cell; 0 while a heading (or nothing) is current. Writing does not scroll.
     int Row() const { return m_row; }
     void PutRow(int row);
     int Col() const { return m_col; }

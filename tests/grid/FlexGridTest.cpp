@@ -92,7 +92,7 @@ TEST_F(Grid, SelectionHasAFarCorner)
     EXPECT_EQ(grid.RowSel(), 2);
     EXPECT_EQ(grid.ColSel(), 1);
     QTest::mouseClick(grid.verticalHeader()->viewport(), Qt::LeftButton, {},
-                      QPoint(5, grid.rowViewportPosition(3) + 3));
+                      QPoint(5, grid.rowViewportPosition(3) + grid.rowHeight(3) / 2));
     EXPECT_EQ(grid.Row(), 4);
     EXPECT_EQ(grid.Col(), 1);
     EXPECT_EQ(grid.ColSel(), 5);

@@ -32,7 +32,7 @@ struct Window : testing::Test
     std::shared_ptr<ADODB::Recordset> recordset = std::make_shared<ADODB::Recordset>();
 };
 
-struct MoveCounter : ADODB::RecordsetObserver
+struct MoveCounter final : ADODB::RecordsetObserver
 {
     void moveComplete(ADODB::EventReasonEnum) override { ++moves; }
     void recordChangeComplete(ADODB::EventReasonEnum) override {}

@@ -20,6 +20,9 @@ void onMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
     std::fprintf(stderr, "%s\n", qUtf8Printable(text));
     if (type == QtDebugMsg || type == QtInfoMsg)
         return;
+    // The off-screen platform says this of every dialog with a smallest size.
+    if (text == QLatin1StringView("This plugin does not support propagateSizeHints()"))
+        return;
     for (const QString &part : expected()) {
         if (text.contains(part))
             return;
@@ -46,6 +49,9 @@ ExpectedWarning::~ExpectedWarning()
 
 int main(int argc, char **argv)
 {
+    // No test needs a display.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kova-tests"));
