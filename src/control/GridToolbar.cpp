@@ -1,6 +1,7 @@
 #include "control/GridToolbar.h"
 
 #include "control/GridTexts.h"
+#include "control/ToolbarIcons.h"
 
 #include <QtGui/QAction>
 #include <QtGui/QActionGroup>
@@ -20,6 +21,7 @@ GridToolbar::GridToolbar(QWidget *parent) : QToolBar(parent)
         const QString key = text.key;
         QAction *action = addAction(text.caption);
         action->setObjectName(key);
+        action->setIcon(toolbarIcon(key));
         action->setToolTip(text.toolTip);
         connect(action, &QAction::triggered, this, [this, key] { Q_EMIT buttonClicked(key); });
         if (key == u"All" || key == u"Part") {
