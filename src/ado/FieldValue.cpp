@@ -4,7 +4,6 @@
 #include "ado/ValueText.h"
 
 #include <cmath>
-#include <limits>
 
 namespace ADODB::FieldValue {
 

@@ -104,6 +104,13 @@ TEST(Automation, ReportsFailuresByASignalAndAnswersNeutrally)
     EXPECT_EQ(errors[0][0], QVariant(static_cast<qint32>(0x800A0CC1)));
     EXPECT_TRUE(errors[0][1].toString().contains(u"nothing"));
 
+    QObject *none = host;
+    EXPECT_TRUE(QMetaObject::invokeMethod(host, "Fields", Q_RETURN_ARG(QObject *, none),
+                                          Q_ARG(QVariant, QVariant())));
+    EXPECT_EQ(none, nullptr);
+    ASSERT_EQ(errors.size(), 2);
+    errors.removeLast();
+
     call(host, "MovePrevious");
     call(host, "MovePrevious");
     ASSERT_EQ(errors.size(), 2);
