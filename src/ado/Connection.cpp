@@ -25,11 +25,8 @@ void replaceKeyword(ADODB::ConnectionString &text, const QString &keyword, const
 
 Connection::Connection() = default;
 
-Connection::~Connection()
-{
-    if (m_session)
-        m_session->close();
-}
+// The session lives on while a recordset needs it to write, as ADO's recordsets keep their connection.
+Connection::~Connection() = default;
 
 QString Connection::ConnectionString() const
 {

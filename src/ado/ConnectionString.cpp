@@ -57,7 +57,7 @@ private:
         if (first == u'{')
             return readQuoted(u'}');
         const qsizetype end = m_text.indexOf(u';', m_at);
-        const QString value = m_text.mid(m_at, end < 0 ? -1 : end - m_at).trimmed();
+        QString value = m_text.mid(m_at, end < 0 ? -1 : end - m_at).trimmed();
         m_at = end < 0 ? m_text.size() : end;
         return value;
     }

@@ -4,7 +4,6 @@
 #include "ado/ValueText.h"
 
 #include <cmath>
-#include <limits>
 
 namespace ADODB::FieldValue {
 
@@ -122,7 +121,7 @@ QVariant toInteger(const QVariant &value, bool *ok)
 QVariant toReal(const QVariant &value, bool *ok)
 {
     // A whole number stays one, so that it keeps all its digits.
-    const QVariant whole = toInteger(value, ok);
+    QVariant whole = toInteger(value, ok);
     if (*ok)
         return whole;
     return value.typeId() == QMetaType::QString ? value.toString().trimmed().toDouble(ok)
@@ -150,7 +149,7 @@ QVariant fromRaw(const RawValue &raw, DataTypeEnum type)
         if (shape == Shape::BigInteger)
             return raw.integer;
     } else if (raw.kind == RawValue::Kind::Text) {
-        if (const QVariant value = readText(raw.bytes, shape); value.isValid())
+        if (QVariant value = readText(raw.bytes, shape); value.isValid())
             return value;
     }
     return asStored(raw);
@@ -174,7 +173,7 @@ QVariant convert(const QVariant &value, DataTypeEnum type, bool *ok)
     case Shape::Boolean: {
         if (value.typeId() == QMetaType::Bool)
             return value;
-        const QVariant read = readText(ValueText(value).toUtf8(), shape);
+        QVariant read = readText(ValueText(value).toUtf8(), shape);
         if (read.isValid())
             return read;
         return toInteger(value, ok).toLongLong() != 0;
@@ -198,7 +197,7 @@ QVariant convert(const QVariant &value, DataTypeEnum type, bool *ok)
     case Shape::Any:
         return value;
     }
-    const QVariant read = readText(ValueText(value).trimmed().toUtf8(), shape);
+    QVariant read = readText(ValueText(value).trimmed().toUtf8(), shape);
     *ok = read.isValid();
     return read;
 }

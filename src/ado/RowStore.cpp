@@ -6,7 +6,7 @@ namespace ADODB {
 
 namespace {
 
-constexpr qsizetype blockSize = 4 * 1024 * 1024;
+constexpr qsizetype blockSize = qsizetype{4} << 20;
 
 template<typename T>
 T numberAt(const char *at)

@@ -76,7 +76,7 @@ void Stream::put(const QByteArray &bytes)
 
 QByteArray Stream::take(qint64 count)
 {
-    const QByteArray bytes = m_bytes.mid(m_position, count);
+    QByteArray bytes = m_bytes.mid(m_position, count);
     m_position += bytes.size();
     return bytes;
 }

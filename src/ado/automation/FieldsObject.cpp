@@ -22,7 +22,9 @@ QObject *FieldsObject::Item(const QVariant &nameOrIndex)
 {
     if (nameOrIndex.typeId() == QMetaType::QString)
         return Item(nameOrIndex.toString());
-    return Item(nameOrIndex.toInt());
+    bool isNumber = false;
+    const qint32 index = nameOrIndex.toInt(&isNumber);
+    return Item(isNumber ? index : -1);
 }
 
 FieldObject *FieldsObject::itemAt(int index)

@@ -16,7 +16,7 @@ namespace {
 // computes for long without giving a row, and in bytes for rows that carry much; either takes a few
 // milliseconds at most.
 constexpr int stepsPerQuestion = 20'000;
-constexpr qint64 bytesPerQuestion = 1024 * 1024;
+constexpr qint64 bytesPerQuestion = qint64{1} << 20;
 
 int stopWhenAsked(void *goOn)
 {

@@ -114,8 +114,14 @@ SqliteTarget SqliteTarget::find(const SqliteSession &session, const QString &sql
     const SimpleSelect select = SimpleSelect::parse(SqlScanner(sql));
     SqliteTarget target;
     target.whyReadOnly = select.reason;
+    // What the database says of the columns must agree with what was read from the text.
+    const auto isForeign = [&](const FieldInfo &field) {
+        return !field.baseTable.isEmpty() && field.baseTable.compare(select.table, Qt::CaseInsensitive) != 0;
+    };
     if (target.whyReadOnly.isEmpty() && !isTable(session, select))
         target.whyReadOnly = Texts::readOnlyView().arg(select.table);
+    if (target.whyReadOnly.isEmpty() && std::any_of(fields.begin(), fields.end(), isForeign))
+        target.whyReadOnly = Texts::readOnlyJoin();
     const auto folds = [&](const SimpleSelect::FunctionCall &call) { return isAggregate(session, call); };
     if (target.whyReadOnly.isEmpty() && std::any_of(select.functions.begin(), select.functions.end(), folds))
         target.whyReadOnly = Texts::readOnlyGrouped();

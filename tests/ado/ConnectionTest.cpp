@@ -1,0 +1,162 @@
+#include "TestDatabase.h"
+#include "Throwing.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace ADODB;
+using AdoTest::OtherProgram;
+using AdoTest::TestDatabase;
+
+namespace {
+
+TEST(Connection, OpensAndClosesAFile)
+{
+    const TestDatabase database;
+    Connection connection;
+    connection.PutConnectionString(database.connectionString());
+    EXPECT_EQ(connection.State(), adStateClosed);
+    connection.Open({}, {}, {}, adConnectUnspecified);
+    EXPECT_EQ(connection.State(), adStateOpen);
+    EXPECT_ADO_ERROR(adErrObjectOpen, connection.Open());
+    EXPECT_ADO_ERROR(adErrObjectOpen, connection.PutConnectionString(u"x=1"_s));
+    connection.Close();
+    EXPECT_EQ(connection.State(), adStateClosed);
+    EXPECT_ADO_ERROR(adErrObjectClosed, connection.Close());
+    connection.Open();
+    EXPECT_EQ(connection.State(), adStateOpen);
+}
+
+TEST(Connection, FindsTheProviderByNameOrByFile)
+{
+    const TestDatabase database;
+    for (const QString &text : {u"provider = sqlite ; DATA SOURCE='%1'"_s, u"Data Source=%1"_s}) {
+        Connection connection;
+        connection.Open(text.arg(database.path()));
+        EXPECT_EQ(connection.State(), adStateOpen);
+    }
+    Connection memory;
+    memory.Open(u"Provider=SQLite;Data Source=:memory:"_s);
+    EXPECT_EQ(memory.State(), adStateOpen);
+}
+
+TEST(Connection, RefusesAnUnknownProvider)
+{
+    Connection connection;
+    const Error error = AdoTest::errorOf([&] { connection.Open(u"Provider=Nonsense.1;Data Source=x"_s); });
+    EXPECT_TRUE(error.is(adErrProviderNotFound));
+    EXPECT_EQ(error.Number(), static_cast<qint32>(0x800A0E7A));
+    EXPECT_TRUE(error.Description().contains(u"Nonsense.1")) << error.what();
+    EXPECT_TRUE(error.Description().contains(u"SQLite")) << error.what();
+    EXPECT_ADO_ERROR(adErrProviderNotFound, connection.Open(QString()));
+    EXPECT_ADO_ERROR(adErrProviderNotFound, connection.Open(u"Data Source=a.mdb"_s));
+    EXPECT_EQ(connection.State(), adStateClosed);
+}
+
+TEST(Connection, NamesAMissingFileAndMakesNone)
+{
+    const TestDatabase database;
+    const QString path = database.filePath(u"没有.db"_s);
+    Connection connection;
+    const Error error = AdoTest::errorOf([&] { connection.Open(u"Provider=SQLite;Data Source="_s + path); });
+    EXPECT_TRUE(error.is(adErrOpeningFile));
+    EXPECT_TRUE(error.Description().contains(QDir::toNativeSeparators(path))) << error.what();
+    EXPECT_FALSE(QFile::exists(path));
+    EXPECT_EQ(connection.State(), adStateClosed);
+}
+
+TEST(Connection, RefusesWhatIsNoDatabaseAndLeavesItAlone)
+{
+    const TestDatabase database;
+    const QString path = database.filePath(u"notes.db"_s);
+    for (const QByteArray &content : {QByteArray(), QByteArray("some notes"), QByteArray(5000, 'x')}) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        Connection connection;
+        EXPECT_ADO_ERROR(adErrOpeningFile, connection.Open(u"Provider=SQLite;Data Source="_s + path));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_EQ(file.readAll(), content);
+    }
+    Connection connection;
+    EXPECT_ADO_ERROR(adErrOpeningFile,
+                     connection.Open(u"Provider=SQLite;Data Source="_s + database.filePath(QString())));
+    EXPECT_ADO_ERROR(adErrInvalidArgument, connection.Open(u"Provider=SQLite"_s));
+}
+
+TEST(Connection, SaysThatAFileIsDamaged)
+{
+    const TestDatabase database(u"CREATE TABLE t(a);"_s);
+    QByteArray bytes = database.fileBytes();
+    bytes.replace(100, 900, QByteArray(900, '\x7f'));
+    QFile file(database.path());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    file.close();
+    Connection connection;
+    EXPECT_ADO_ERROR(adErrOpeningFile, connection.Open(database.connectionString()));
+    EXPECT_EQ(database.fileBytes(), bytes);
+}
+
+TEST(Connection, SaysThatAFileIsLocked)
+{
+    const TestDatabase database(u"CREATE TABLE t(a);"_s);
+    const QByteArray before = database.fileBytes();
+    const OtherProgram other(database, "BEGIN EXCLUSIVE");
+    Connection connection;
+    EXPECT_ADO_ERROR(adErrResourceLocked, connection.Open(database.connectionString()));
+    EXPECT_EQ(connection.State(), adStateClosed);
+    EXPECT_EQ(database.fileBytes(), before);
+}
+
+TEST(Connection, WaitsAsLongAsItIsTold)
+{
+    const TestDatabase database;
+    Connection connection;
+    for (const QString &seconds : {u"soon"_s, u"-1"_s, u"nan"_s}) {
+        EXPECT_ADO_ERROR(adErrInvalidArgument, connection.Open(u"Connect Timeout=%1;Data Source=%2"_s.arg(
+                                                   seconds, database.path())));
+    }
+}
+
+TEST(Connection, NeverShowsAPassword)
+{
+    const TestDatabase database;
+    const QString marker = u"marker-7x"_s;
+    Connection connection;
+    for (const QString &text :
+         {u"Provider=Nope;Password=%1"_s, u"Provider=SQLite;Data Source=/nowhere;PWD=%1"_s,
+          u"Provider=SQLite;Password=%1"_s, u"Provider=SQLite;Password=a;%1"_s}) {
+        const Error error = AdoTest::errorOf([&] { connection.Open(text.arg(marker), u"me"_s, marker); });
+        EXPECT_FALSE(error.Description().contains(marker)) << error.what();
+    }
+    connection.Open(database.connectionString() + u";Password="_s + marker);
+    EXPECT_FALSE(connection.ConnectionString().contains(marker));
+    EXPECT_TRUE(connection.ConnectionString().contains(database.path()));
+}
+
+TEST(Connection, DescribesAStatementWithoutReadingARow)
+{
+    const TestDatabase database(u"CREATE TABLE t(id INTEGER PRIMARY KEY, name VARCHAR(20) NOT NULL, x);"_s);
+    const auto connection = database.connect();
+    const auto fields = connection->Describe(u"SELECT id, name AS 名称, x, id * 2 AS twice FROM t"_s);
+    ASSERT_EQ(fields.size(), 4U);
+    EXPECT_EQ(fields[0].name, u"id"_s);
+    EXPECT_EQ(fields[0].type, adInteger);
+    EXPECT_NE(fields[0].attributes & adFldKeyColumn, 0);
+    EXPECT_EQ(fields[1].name, u"名称"_s);
+    EXPECT_EQ(fields[1].type, adVarWChar);
+    EXPECT_EQ(fields[1].definedSize, 20);
+    EXPECT_EQ(fields[1].baseTable, u"t"_s);
+    EXPECT_EQ(fields[1].baseColumn, u"name"_s);
+    EXPECT_EQ(fields[1].attributes & adFldIsNullable, 0);
+    EXPECT_EQ(fields[2].type, adVarWChar);
+    EXPECT_EQ(fields[3].baseColumn, QString());
+    EXPECT_ADO_ERROR(dbErrMultipleStatements, connection->Describe(u"SELECT 1; SELECT 2"_s));
+    connection->Close();
+    EXPECT_ADO_ERROR(adErrObjectClosed, connection->Describe(u"SELECT 1"_s));
+}
+
+} // namespace

@@ -1,0 +1,200 @@
+#include "Printing.h"
+
+#include "ado/RowStore.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <random>
+
+using namespace ADODB;
+
+namespace {
+
+// A row as plain as can be, to compare the packed one with.
+using PlainRow = std::vector<QVariant>;
+
+RawValue rawOf(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::LongLong:
+        return RawValue::fromInteger(value.toLongLong());
+    case QMetaType::Double:
+        return RawValue::fromReal(value.toDouble());
+    case QMetaType::QByteArray: {
+        // The tests keep texts as bytes too; the first byte tells which is meant.
+        const auto *bytes = static_cast<const QByteArray *>(value.constData());
+        return bytes->startsWith('T') ? RawValue::fromText(*bytes) : RawValue::fromBlob(*bytes);
+    }
+    default:
+        return {};
+    }
+}
+
+QVariant plainOf(const RawValue &raw)
+{
+    switch (raw.kind) {
+    case RawValue::Kind::Null:
+        return {};
+    case RawValue::Kind::Integer:
+        return raw.integer;
+    case RawValue::Kind::Real:
+        return raw.real;
+    case RawValue::Kind::Text:
+        EXPECT_TRUE(raw.bytes.startsWith("T"));
+        return raw.bytes.toByteArray();
+    case RawValue::Kind::Blob:
+        EXPECT_FALSE(raw.bytes.startsWith("T"));
+        return raw.bytes.toByteArray();
+    }
+    return {};
+}
+
+class Generator
+{
+public:
+    explicit Generator(unsigned seed) : m_engine(seed) {}
+
+    qint64 number(qint64 low, qint64 high)
+    {
+        return std::uniform_int_distribution<qint64>(low, high)(m_engine);
+    }
+
+    QVariant cell()
+    {
+        switch (number(0, 6)) {
+        case 0:
+            return {};
+        case 1:
+            return qlonglong{number(-200, 200)};
+        case 2:
+            return qlonglong{number(-70000, 70000)};
+        case 3:
+            return qlonglong{number(std::numeric_limits<qint64>::min(), std::numeric_limits<qint64>::max())};
+        case 4:
+            return static_cast<double>(number(-1000, 1000)) / 8;
+        case 5:
+            return QByteArray("T") + QByteArray(number(0, 600), 'x');
+        default:
+            return QByteArray("B") + QByteArray(number(0, 600), '\0');
+        }
+    }
+
+    PlainRow row(int columns)
+    {
+        PlainRow row;
+        for (int i = 0; i < columns; ++i)
+            row.push_back(cell());
+        return row;
+    }
+
+private:
+    std::mt19937 m_engine;
+};
+
+void append(RowStore &store, const PlainRow &row)
+{
+    for (const QVariant &cell : row)
+        store.add(rawOf(cell));
+    store.endRow();
+}
+
+void replace(RowStore &store, qint64 at, const PlainRow &row)
+{
+    std::vector<RawValue> cells;
+    for (const QVariant &cell : row)
+        cells.push_back(rawOf(cell));
+    store.replace(at, cells);
+}
+
+void expectSame(const RowStore &store, const std::vector<PlainRow> &model)
+{
+    ASSERT_EQ(store.rows(), static_cast<qint64>(model.size()));
+    for (std::size_t r = 0; r < model.size(); ++r) {
+        const auto row = store.row(static_cast<qint64>(r));
+        for (std::size_t c = 0; c < model[r].size(); ++c) {
+            ASSERT_EQ(plainOf(row[c]), model[r][c]) << r << ',' << c;
+            ASSERT_EQ(plainOf(store.cell(static_cast<qint64>(r), static_cast<int>(c))), model[r][c]);
+        }
+    }
+}
+
+TEST(RowStore, StaysEqualToAPlainTableUnderRandomEdits)
+{
+    for (unsigned seed = 1; seed <= 20; ++seed) {
+        Generator random(seed);
+        const int columns = static_cast<int>(random.number(1, 12));
+        RowStore store(columns);
+        std::vector<PlainRow> model;
+        for (int step = 0; step < 600; ++step) {
+            const qint64 action = random.number(0, 9);
+            if (action < 6 || model.empty()) {
+                const PlainRow row = random.row(columns);
+                append(store, row);
+                model.push_back(row);
+                continue;
+            }
+            const qint64 at = random.number(0, static_cast<qint64>(model.size()) - 1);
+            if (action < 8) {
+                store.remove(at);
+                model.erase(model.begin() + at);
+            } else {
+                const PlainRow row = random.row(columns);
+                replace(store, at, row);
+                model[static_cast<std::size_t>(at)] = row;
+            }
+        }
+        ASSERT_NO_FATAL_FAILURE(expectSame(store, model)) << "seed " << seed;
+    }
+}
+
+TEST(RowStore, KeepsTheLimitsOfEveryWidth)
+{
+    std::vector<PlainRow> model{PlainRow()};
+    for (int bits : {7, 8, 15, 16, 31, 32, 62}) {
+        const qint64 edge = qint64{1} << bits;
+        for (const qint64 value : {edge - 1, edge, -edge, -edge - 1})
+            model[0].push_back(qlonglong{value});
+    }
+    model[0].push_back(qlonglong{std::numeric_limits<qint64>::max()});
+    model[0].push_back(qlonglong{std::numeric_limits<qint64>::min()});
+    for (qsizetype size : {0, 1, 254, 255, 256, 65535, 65536})
+        model[0].push_back(QByteArray("T") + QByteArray(size, 'x'));
+    RowStore store(static_cast<int>(model[0].size()));
+    append(store, model[0]);
+    expectSame(store, model);
+}
+
+TEST(RowStore, MovesARowThatOutgrowsItsBlock)
+{
+    // Rows of about 1 MB fill blocks unevenly; one row of 30 MB needs a block of its own.
+    RowStore store(3);
+    std::vector<PlainRow> model;
+    for (qsizetype size : {1'000'000, 1'500'000, 900'000, 10'000'000, 5, 4'194'303, 7}) {
+        model.push_back({QByteArray("T") + QByteArray(size, 'a'), qlonglong{size},
+                         QByteArray("B") + QByteArray(size * 2, 'b')});
+        append(store, model.back());
+    }
+    expectSame(store, model);
+    EXPECT_GT(store.bytesWritten(), 3 * 10'000'000);
+}
+
+TEST(RowStore, CountsTheBytesItHolds)
+{
+    RowStore store(2);
+    store.addInteger(1);
+    store.addNull();
+    store.endRow();
+    EXPECT_EQ(store.bytesWritten(), 3);
+}
+
+TEST(RowStore, TakesRowsWithoutColumns)
+{
+    RowStore store(0);
+    store.endRow();
+    store.endRow();
+    EXPECT_EQ(store.rows(), 2);
+    EXPECT_TRUE(store.row(1).empty());
+}
+
+} // namespace

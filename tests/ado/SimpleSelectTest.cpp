@@ -1,0 +1,98 @@
+#include "Printing.h"
+
+#include "ado/SimpleSelect.h"
+#include "ado/SqlScanner.h"
+#include "ado/Texts.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace ADODB;
+
+namespace {
+
+SimpleSelect parse(const QString &sql)
+{
+    return SimpleSelect::parse(SqlScanner(sql));
+}
+
+struct Accepted
+{
+    QString sql;
+    QString schema;
+    QString table;
+    QString alias;
+    QString head;   // up to the end of the select list
+    QString source; // from there to the end of the table
+};
+
+TEST(SimpleSelect, FindsThePartsOfASelectOfOneTable)
+{
+    const std::vector<Accepted> cases{
+        {u"select * from t"_s, QString(), u"t"_s, u"t"_s, u"select *"_s, u" from t"_s},
+        {u"SELECT a, (select max(x) from u) AS b FROM t AS k WHERE a > 1"_s, QString(), u"t"_s, u"k"_s,
+         u"SELECT a, (select max(x) from u) AS b"_s, u" FROM t AS k"_s},
+        {u"select all a from main.[my t] x order by 1;"_s, u"main"_s, u"my t"_s, u"x"_s, u"select all a"_s,
+         u" from main.[my t] x"_s},
+        {u"select a /* from u */ from t -- where\n limit 3"_s, QString(), u"t"_s, u"t"_s, u"select a"_s,
+         u" /* from u */ from t"_s},
+        {u"select a from t indexed by i where a=1"_s, QString(), u"t"_s, u"t"_s, u"select a"_s,
+         u" from t indexed by i"_s},
+        {u"select a from t not indexed"_s, QString(), u"t"_s, u"t"_s, u"select a"_s,
+         u" from t not indexed"_s},
+        {u"select a from \"where\" where b in (select 1 union select 2)"_s, QString(), u"where"_s, u"where"_s,
+         u"select a"_s, u" from \"where\""_s},
+    };
+    for (const Accepted &c : cases) {
+        const SimpleSelect select = parse(c.sql);
+        EXPECT_EQ(select.reason, QString()) << c.sql.toStdString();
+        EXPECT_EQ(select.schema, c.schema) << c.sql.toStdString();
+        EXPECT_EQ(select.table, c.table) << c.sql.toStdString();
+        EXPECT_EQ(select.alias, c.alias) << c.sql.toStdString();
+        EXPECT_EQ(c.sql.left(select.listEnd), c.head);
+        EXPECT_EQ(c.sql.mid(select.listEnd, select.sourceEnd - select.listEnd), c.source);
+    }
+}
+
+struct Refused
+{
+    QString sql;
+    QString reason;
+};
+
+TEST(SimpleSelect, SaysWhyARowCantBeFoundAgain)
+{
+    const std::vector<Refused> cases{
+        {QString(), Texts::readOnlyNoTable()},
+        {u"select"_s, Texts::readOnlyNoTable()},
+        {u"select 1"_s, Texts::readOnlyNoTable()},
+        {u"select a from"_s, Texts::readOnlyNoTable()},
+        {u"values (1)"_s, Texts::readOnlyNoTable()},
+        {u"with c as (select 1) select * from c"_s, Texts::readOnlyNoTable()},
+        {u"select * from json_each('[]')"_s, Texts::readOnlyNoTable()},
+        {u"select distinct a from t"_s, Texts::readOnlyDistinct()},
+        {u"select a from t union select b from u"_s, Texts::readOnlyCompound()},
+        {u"select a from t group by a"_s, Texts::readOnlyGrouped()},
+        {u"select a from t, u"_s, Texts::readOnlyJoin()},
+        {u"select a from t x left join u on 1"_s, Texts::readOnlyJoin()},
+        {u"select a from t natural join u"_s, Texts::readOnlyJoin()},
+        {u"select a from (select a from t)"_s, Texts::readOnlyJoin()},
+        {u"select a from (t)"_s, Texts::readOnlyJoin()},
+    };
+    for (const Refused &c : cases)
+        EXPECT_EQ(parse(c.sql).reason, c.reason) << c.sql.toStdString();
+}
+
+TEST(SimpleSelect, ListsTheFunctionsOutsideOfSubqueries)
+{
+    const SimpleSelect select =
+        parse(u"select max(a, b), upper(trim(c)), count(*), now(), (select sum(x) from u) from t"_s);
+    QStringList calls;
+    for (const auto &call : select.functions)
+        calls += u"%1/%2"_s.arg(call.name).arg(call.arguments);
+    EXPECT_EQ(calls.join(u' '), u"max/2 upper/1 trim/1 count/1 now/0"_s);
+}
+
+} // namespace

@@ -1,0 +1,109 @@
+#include "TestDatabase.h"
+
+#include "Printing.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QStringList>
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace AdoTest {
+
+namespace {
+
+sqlite3 *openFile(const QString &path)
+{
+    sqlite3 *db = nullptr;
+    EXPECT_EQ(sqlite3_open(path.toUtf8().constData(), &db), SQLITE_OK);
+    return db;
+}
+
+void run(sqlite3 *db, const QByteArray &script)
+{
+    EXPECT_EQ(sqlite3_exec(db, script.constData(), nullptr, nullptr, nullptr), SQLITE_OK)
+        << sqlite3_errmsg(db) << " in " << script.constData();
+}
+
+} // namespace
+
+TestDatabase::TestDatabase(const QString &script) : m_path(m_folder.filePath(u"测试.db"_s))
+{
+    execute(u"PRAGMA user_version = 1;"_s + script);
+}
+
+QString TestDatabase::connectionString() const
+{
+    return u"Provider=SQLite;Connect Timeout=0;Data Source="_s + m_path;
+}
+
+void TestDatabase::execute(const QString &script) const
+{
+    sqlite3 *db = openFile(m_path);
+    // A test's file need not survive a power cut.
+    run(db, "PRAGMA synchronous = OFF;" + script.toUtf8());
+    sqlite3_close(db);
+}
+
+QString TestDatabase::ask(const QString &sql) const
+{
+    sqlite3 *db = openFile(m_path);
+    sqlite3_stmt *statement = nullptr;
+    EXPECT_EQ(sqlite3_prepare_v2(db, sql.toUtf8().constData(), -1, &statement, nullptr), SQLITE_OK)
+        << sqlite3_errmsg(db);
+    QString answer = u"none"_s;
+    if (sqlite3_step(statement) == SQLITE_ROW) {
+        const void *text = sqlite3_column_text(statement, 0);
+        answer = text ? QString::fromUtf8(static_cast<const char *>(text)) : u"NULL"_s;
+    }
+    sqlite3_finalize(statement);
+    sqlite3_close(db);
+    return answer;
+}
+
+QByteArray TestDatabase::fileBytes() const
+{
+    QFile file(m_path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+std::shared_ptr<ADODB::Connection> TestDatabase::connect() const
+{
+    auto connection = std::make_shared<ADODB::Connection>();
+    connection->Open(connectionString());
+    return connection;
+}
+
+std::shared_ptr<ADODB::Recordset> TestDatabase::open(const QString &sql, ADODB::LockTypeEnum lock) const
+{
+    auto recordset = std::make_shared<ADODB::Recordset>();
+    recordset->Open(sql, connect(), ADODB::adOpenKeyset, lock, ADODB::adCmdText);
+    // The connection is kept by nobody but the recordset, as when a host lets go of it.
+    return recordset;
+}
+
+OtherProgram::OtherProgram(const TestDatabase &database, const char *lock) : m_db(openFile(database.path()))
+{
+    run(m_db, lock);
+}
+
+OtherProgram::~OtherProgram()
+{
+    sqlite3_close(m_db);
+}
+
+QString cellTexts(const ADODB::Recordset &recordset)
+{
+    QStringList records;
+    for (qint64 record = 1; record <= recordset.RecordCount(); ++record) {
+        QStringList cells;
+        for (int column = 0; column < recordset.Fields().Count(); ++column)
+            cells += recordset.CellText(record, column);
+        records += cells.join(u'|');
+    }
+    return records.join(u'\n');
+}
+
+} // namespace AdoTest
