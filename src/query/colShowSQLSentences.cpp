@@ -220,6 +220,16 @@ bool colShowSQLSentences::GetCurrShowFieldsCount(qint32 &PassCount) const
     return true;
 }
 
+clsShowSQLSentence *colShowSQLSentences::Item(qsizetype position)
+{
+    return m_entries.Item(position);
+}
+
+const clsShowSQLSentence *colShowSQLSentences::Item(qsizetype position) const
+{
+    return m_entries.Item(position);
+}
+
 bool colShowSQLSentences::Clear()
 {
     colShowSQLSentences empty(m_reader);
