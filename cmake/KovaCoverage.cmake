@@ -3,7 +3,7 @@
 # kova_coverage(<name> TEST <test program> FOLDER <folder below the project>)
 #
 # A target that runs one test program and prints line and branch coverage of one folder; `coverage` makes all of
-# them. Branches that only an exception can take don't count.
+# them. Branches that only an exception or a broken assertion can take don't count.
 function(kova_coverage name)
   cmake_parse_arguments(COVERAGE "" "TEST;FOLDER" "" ${ARGN})
   if(NOT KOVA_COVERAGE)
@@ -21,7 +21,7 @@ function(kova_coverage name)
     COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
             $<TARGET_FILE:${COVERAGE_TEST}> --gtest_brief=1
     COMMAND ${KOVA_GCOVR} --root ${folder} --filter ${folder}/ --branches --exclude-throw-branches
-            --exclude-unreachable-branches --print-summary ${PROJECT_BINARY_DIR}
+            --exclude-unreachable-branches --exclude-lines-by-pattern ".*Q_ASSERT.*" --print-summary ${PROJECT_BINARY_DIR}
     COMMENT "Coverage of ${COVERAGE_FOLDER}"
     USES_TERMINAL VERBATIM)
   add_dependencies(${name} ${COVERAGE_TEST})

@@ -133,7 +133,9 @@ bool colShowSQLSentences::GetNextSQLBySort(const QString &strNewSort, QString &s
     auto sentence = SplitLatest();
     if (!sentence)
         return false;
-    sentence->order = strNewSort.isEmpty() ? QString() : QStringLiteral(" ORDER BY ") + strNewSort;
+    sentence->order.clear();
+    if (!strNewSort.isEmpty())
+        sentence->order = QStringLiteral(" ORDER BY ") + strNewSort;
     strCurrentFilter = JoinSQLSentence(*sentence);
     return true;
 }
