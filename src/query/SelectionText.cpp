@@ -16,7 +16,10 @@ QString ComposeFieldList(const QList<ListedField> &rows)
             continue;
         const bool isSpecial = row.name.contains(u' ') || row.name.contains(u'(');
         const bool isBracketed = row.name.startsWith(u'[') || row.name.endsWith(u']');
-        names.append(isSpecial && !isBracketed ? u'[' + row.name + u']' : row.name);
+        if (isSpecial && !isBracketed)
+            names.append(u'[' + row.name + u']');
+        else
+            names.append(row.name);
     }
     return names.join(u',');
 }
@@ -47,8 +50,10 @@ QString ComposeSortList(const QList<SortTerm> &terms)
 {
     QStringList written;
     for (const SortTerm &term : terms) {
-        const bool isDescending = term.orderWord == QueryTexts::Descending();
-        written.append(isDescending ? term.field + QStringLiteral(" DESC") : term.field);
+        QString text = term.field;
+        if (term.orderWord == QueryTexts::Descending())
+            text += QStringLiteral(" DESC");
+        written.append(text);
     }
     return written.join(u',');
 }

@@ -106,13 +106,17 @@ QString ReplaceOrderWord(const QString &statement, const QString &sortList)
     QString text = statement;
     if (const auto order = FindUpper(text, kOrderBy); order > 0)
         text = First(text, order);
-    return sortList.isEmpty() ? text : text + kOrderBy + sortList;
+    if (!sortList.isEmpty())
+        text += kOrderBy + sortList;
+    return text;
 }
 
 QString GetNoRowSQL(const QString &statement)
 {
     const QString head = HeadWithoutConditions(statement);
-    return head.isEmpty() ? head : head + QStringLiteral(" WHERE 0=1");
+    if (head.isEmpty())
+        return {};
+    return head + QStringLiteral(" WHERE 0=1");
 }
 
 QString GetSQLTableName(const QString &statement)

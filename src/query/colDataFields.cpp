@@ -92,6 +92,16 @@ bool colDataFields::GetCurrShowFieldsCount(qint32 &PassCount) const
     return true;
 }
 
+const clsDataField *colDataFields::Item(qsizetype position) const
+{
+    return m_fields.Item(position);
+}
+
+const clsDataField *colDataFields::Item(const QString &key) const
+{
+    return m_fields.Item(m_fields.PositionOf(key));
+}
+
 const clsDataField *colDataFields::Find(const QString &strFieldName) const
 {
     return m_fields.Item(m_firstByName.value(strFieldName, 0));

@@ -44,8 +44,8 @@ public:
     bool GetCurrShowFieldsCount(qint32 &PassCount) const;
 
     // Null when there is none. The pointer lasts until the catalogue changes.
-    const clsDataField *Item(qsizetype position) const { return m_fields.Item(position); }
-    const clsDataField *Item(const QString &key) const { return m_fields.Item(m_fields.PositionOf(key)); }
+    const clsDataField *Item(qsizetype position) const;
+    const clsDataField *Item(const QString &key) const;
     const clsDataField *Find(const QString &strFieldName) const;
 
     // Lets `change` work on the field with that key, so that searches by name stay right when it renames the

@@ -133,7 +133,9 @@ bool colShowSQLSentences::GetNextSQLBySort(const QString &strNewSort, QString &s
     auto sentence = SplitLatest();
     if (!sentence)
         return false;
-    sentence->order = strNewSort.isEmpty() ? QString() : QStringLiteral(" ORDER BY ") + strNewSort;
+    sentence->order.clear();
+    if (!strNewSort.isEmpty())
+        sentence->order = QStringLiteral(" ORDER BY ") + strNewSort;
     strCurrentFilter = JoinSQLSentence(*sentence);
     return true;
 }
@@ -218,6 +220,16 @@ bool colShowSQLSentences::GetCurrShowFieldsCount(qint32 &PassCount) const
         return m_catalogue.GetCurrShowFieldsCount(PassCount);
     PassCount = static_cast<qint32>(m_catalogue.Count());
     return true;
+}
+
+clsShowSQLSentence *colShowSQLSentences::Item(qsizetype position)
+{
+    return m_entries.Item(position);
+}
+
+const clsShowSQLSentence *colShowSQLSentences::Item(qsizetype position) const
+{
+    return m_entries.Item(position);
 }
 
 bool colShowSQLSentences::Clear()

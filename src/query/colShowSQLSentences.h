@@ -103,9 +103,9 @@ public:
 
     qsizetype Count() const { return m_entries.Count(); }
     // Null when there is none. The pointer lasts until the history changes.
-    clsShowSQLSentence *Item(qsizetype position) { return m_entries.Item(position); }
+    clsShowSQLSentence *Item(qsizetype position);
     clsShowSQLSentence *Item(const QString &key) { return Item(m_entries.PositionOf(key)); }
-    const clsShowSQLSentence *Item(qsizetype position) const { return m_entries.Item(position); }
+    const clsShowSQLSentence *Item(qsizetype position) const;
     const clsShowSQLSentence *Item(const QString &key) const { return Item(m_entries.PositionOf(key)); }
     // Nothing happens when there is no such entry.
     void Remove(qsizetype position) { m_entries.Remove(position); }

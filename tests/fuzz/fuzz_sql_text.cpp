@@ -1,0 +1,76 @@
+#include "FuzzInput.h"
+
+#include "query/FieldNames.h"
+#include "query/SqlText.h"
+#include "query/clsStringComFuncs.h"
+#include "query/modQNVSFHFDataMain.h"
+
+#include <stdexcept>
+
+using namespace KOVAVSFDataGridLib;
+using KovaTest::Require;
+
+namespace {
+
+void SplitAndJoin(const QString &statement, const QString &other)
+{
+    const auto sentence = SplitSQLSentence(statement);
+    Require(sentence.has_value() == !statement.isEmpty());
+    if (sentence)
+        Require(sentence->fields + sentence->where + sentence->order == statement);
+    const auto cut = SplitByKeyword(statement, other);
+    if (cut)
+        Require(cut->before + cut->after == statement);
+
+    const QString sorted = AppendOrderWord(statement, other);
+    Require(AppendOrderWord(sorted, other) == sorted);
+    Require(ReplaceSQLFieldPart(statement, other).isEmpty() == (statement.isEmpty() || other.isEmpty()));
+    Require(statement.contains(GetFromPart(statement)));
+    Require(statement.contains(GetSQLTableName(statement)));
+    GetNoRowSQL(statement);
+    ReplaceOrderWord(statement, other);
+    const QString joined = JoinStatementLines(statement);
+    Require(joined.size() <= statement.size());
+    for (int mode = 0; mode <= 4; ++mode)
+        Require(CutStringEnds(statement, other, mode).size() <= statement.size());
+}
+
+void ParseLists(const QString &statement)
+{
+    for (const AllDBType database : {dbAccess, dbOracle, dbSQLServer})
+        ParseSQLFieldList(statement, database);
+    try {
+        ParseSelFieldList(statement);
+    } catch (const std::invalid_argument &) {
+        // The declared answer to a list that can't be read.
+    }
+    for (const QString &field : WrittenFields(statement)) {
+        ShortFieldName(field);
+        LastNamePart(field);
+    }
+    BracketsToQuotes(statement);
+}
+
+void SplitStrings(const QString &text, const QString &prefix, const QString &suffix)
+{
+    QStringList pieces;
+    for (const bool flag : {false, true}) {
+        clsStringComFuncs().QNComSplitString1(text, pieces, prefix, suffix, flag);
+        clsStringComFuncs().QNComSplitString2(text, pieces, prefix, flag);
+    }
+    QString name;
+    QString content;
+    clsStringComFuncs().QNComSplitString3(text, name, content, prefix);
+    Require(text.startsWith(name) && text.endsWith(content));
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QStringList texts = KovaTest::TextsOf(data, size);
+    SplitAndJoin(texts.value(0), texts.value(1));
+    ParseLists(texts.value(0));
+    SplitStrings(texts.value(0), texts.value(1), texts.value(2));
+    return 0;
+}

@@ -1,0 +1,101 @@
+#include "query/FieldNames.h"
+#include "query/SqlText.h"
+
+#include "CaseFile.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <random>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Statements glued from pieces that matter, well-formed or not.
+class StatementMaker
+{
+public:
+    QString operator()()
+    {
+        static const std::array<QString, 20> pieces{
+            u"select "_s,    u" from "_s,     u" FROM "_s, u" where "_s, u" Where "_s,
+            u" order by "_s, u" ORDER BY "_s, u"T"_s,      u"[A B]"_s,   u"\"x\""_s,
+            u"'y'"_s,        u","_s,          u" "_s,      u"\n"_s,      u"ß"_s,
+            u"İ"_s,          u"客户"_s,       u"."_s,      u"["_s,       u"where"_s};
+        QString statement;
+        for (auto count = m_random() % 12; count > 0; --count)
+            statement += pieces.at(m_random() % pieces.size());
+        return statement;
+    }
+
+private:
+    std::mt19937 m_random{20240517};
+};
+
+} // namespace
+
+TEST(SqlTextProperties, SplittingThenJoiningLosesNothing)
+{
+    StatementMaker make;
+    for (int i = 0; i < 20000; ++i) {
+        const QString statement = make();
+        const auto sentence = SplitSQLSentence(statement);
+        ASSERT_EQ(sentence.has_value(), !statement.isEmpty());
+        if (!sentence)
+            continue;
+        ASSERT_EQ(sentence->fields + sentence->where + sentence->order, statement);
+        ASSERT_EQ(JoinSQLSentence(*sentence),
+                  sentence->fields + u' ' + sentence->where + u' ' + sentence->order);
+    }
+}
+
+TEST(SqlTextProperties, SplittingAWholeAgainGivesTheSameConditionAndSort)
+{
+    StatementMaker make;
+    for (int i = 0; i < 20000; ++i) {
+        // A keyword at the very end only becomes one by the blank that joining puts behind it.
+        const QString statement = make() + u' ';
+        const auto sentence = SplitSQLSentence(statement);
+        // A sort in front of the condition holds the word WHERE itself, so it can't be told apart again.
+        if (!sentence || sentence->order.contains(u" where "_s, Qt::CaseInsensitive))
+            continue;
+        const auto again = SplitSQLSentence(JoinSQLSentence(*sentence));
+        ASSERT_TRUE(again);
+        ASSERT_EQ(again->where.trimmed(), sentence->where.trimmed()) << statement.toStdString();
+        ASSERT_EQ(again->order.trimmed(), sentence->order.trimmed()) << statement.toStdString();
+    }
+}
+
+TEST(SqlTextProperties, AppendingASortTwiceIsAppendingItOnce)
+{
+    StatementMaker make;
+    for (int i = 0; i < 20000; ++i) {
+        const QString sorted = AppendOrderWord(make(), u"A"_s);
+        ASSERT_EQ(AppendOrderWord(sorted, u"B"_s), sorted);
+    }
+}
+
+TEST(SqlTextProperties, JoiningLinesTwiceIsJoiningThemOnce)
+{
+    StatementMaker make;
+    for (int i = 0; i < 20000; ++i) {
+        const QString joined = JoinStatementLines(make());
+        ASSERT_EQ(JoinStatementLines(joined), joined);
+    }
+}
+
+TEST(SqlTextProperties, NameRoutinesTakeAnyText)
+{
+    StatementMaker make;
+    for (int i = 0; i < 20000; ++i) {
+        const QString text = make();
+        ASSERT_LE(ShortFieldName(text).size(), text.size());
+        ASSERT_LE(LastNamePart(text).size(), text.size());
+        for (const AllDBType database : {dbAccess, dbOracle, dbSQLServer})
+            ASSERT_GE(QuotedFieldName(database, text).size(), text.size());
+        for (const QString &written : WrittenFields(text))
+            ASSERT_FALSE(written.contains(u','));
+    }
+}

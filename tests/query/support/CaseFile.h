@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QtCore/QHash>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <ostream>
+#include <vector>
+
+QT_BEGIN_NAMESPACE
+inline void PrintTo(const QString &text, std::ostream *out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+QT_END_NAMESPACE
+
+namespace KovaTest {
+
+// A block of "name: value" lines of a case file. In values "·" is a blank, "⏎" a line feed, "→" a tab, so
+// that what counts can be seen; a line that begins with "#" is a remark.
+struct Case
+{
+    QString place; // file and line, for messages
+    QHash<QString, QString> values;
+
+    QString operator[](const QString &name) const { return values.value(name); }
+    bool Has(const QString &name) const { return values.contains(name); }
+    // A value written as a | b | c; no value is an empty list.
+    QStringList List(const QString &name) const;
+};
+
+// All cases of a file in tests/query/data. The test fails when there is none.
+std::vector<Case> ReadCases(const QString &fileName);
+
+} // namespace KovaTest

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "query/FieldChooser.h"
+#include "query/FieldReader.h"
+
+#include <QtCore/QHash>
+
+namespace KovaTest {
+
+// A database of a few statements that can be unplugged.
+class MemoryReader : public KOVAVSFDataGridLib::FieldReader
+{
+public:
+    using Fields = std::vector<KOVAVSFDataGridLib::SourceField>;
+
+    bool isPluggedIn = true;
+    int reads = 0;
+    QHash<QString, Fields> fieldsByStatement;
+
+    bool Open(const QString &connectionString) override { return isPluggedIn && !connectionString.isEmpty(); }
+    std::optional<Fields> Read(const QString &connectionString, const QString &statement) override
+    {
+        ++reads;
+        if (!Open(connectionString) || !fieldsByStatement.contains(statement))
+            return std::nullopt;
+        return fieldsByStatement.value(statement);
+    }
+};
+
+// A user whose choice is known beforehand; remembers what he was shown.
+class MemoryChooser : public KOVAVSFDataGridLib::FieldChooser
+{
+public:
+    std::optional<QString> choice;
+    QString title;
+    QStringList allFields;
+    QStringList present;
+
+    std::optional<QString> ChooseVisibleFields(const QString &shownTitle, const QStringList &shownFields,
+                                               const QStringList &partFields) override
+    {
+        return Choose(shownTitle, shownFields, partFields);
+    }
+    std::optional<QString> ChooseSort(const QString &shownTitle, const QStringList &shownFields,
+                                      const QStringList &sortTerms) override
+    {
+        return Choose(shownTitle, shownFields, sortTerms);
+    }
+
+private:
+    std::optional<QString> Choose(const QString &shownTitle, const QStringList &shownFields,
+                                  const QStringList &shownChoice)
+    {
+        title = shownTitle;
+        allFields = shownFields;
+        present = shownChoice;
+        return choice;
+    }
+};
+
+} // namespace KovaTest
