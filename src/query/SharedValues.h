@@ -1,11 +1,20 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 namespace KOVAVSFDataGridLib {
 
+// What the statements of the controls were last parsed into; see modQNVSFHFDataMain.h.
+struct ParsedStatements
+{
+    QString strSQLTable;      // the FROM text of the statement last given to ParseSQLFieldList
+    QStringList colSQLFields; // its field names, in statement order
+    QStringList colSelFields; // the field names of the statement last given to ParseSelFieldList
+};
+
 // What all controls of a process and their dialogs share. Whoever wrote a value last has set it for all;
-// a control must not take one of them for its own.
+// a control must not take one of them for its own. Everything runs on the GUI thread, so there are no locks.
 struct SharedValues
 {
     static constexpr qint32 RecordCap = 999999; // also the number of records on a page
@@ -22,6 +31,7 @@ struct SharedValues
     // The open result as last looked at: its number of records and the current one, 0 before the first.
     qint32 recordCountSnapshot = 0;
     qint32 recordPosition = 0;
+    ParsedStatements parsed;
     QString lastFilter;            // the condition that the last filter left
     QString previousShowStatement; // what was shown before the last reload
 

@@ -33,12 +33,6 @@ QString WithoutBrackets(QString name)
 
 } // namespace
 
-ParsedStatements &SharedParsedStatements()
-{
-    static ParsedStatements parsed;
-    return parsed;
-}
-
 std::optional<ParseFailure> ParseSQLFieldList(const QString &statement, AllDBType database)
 {
     QString text = SelectStatement(statement);
@@ -49,7 +43,7 @@ std::optional<ParseFailure> ParseSQLFieldList(const QString &statement, AllDBTyp
             text = First(text, where - 1);
     }
 
-    ParsedStatements &parsed = SharedParsedStatements();
+    ParsedStatements &parsed = SharedValues::instance().parsed;
     parsed.strSQLTable = GetSQLTableName(text);
     const auto blankBeforeFrom = FindUpper(text, QStringLiteral(" FROM "));
     if (blankBeforeFrom < kListPosition)
@@ -72,7 +66,7 @@ std::optional<ParseFailure> ParseSQLFieldList(const QString &statement, AllDBTyp
 
 void ClearSQLFieldList()
 {
-    SharedParsedStatements().colSQLFields.clear();
+    SharedValues::instance().parsed.colSQLFields.clear();
 }
 
 void ParseSelFieldList(const QString &statement)
@@ -85,7 +79,7 @@ void ParseSelFieldList(const QString &statement)
         throw std::invalid_argument(kInvalidArgument);
     const QString list = First(From(text, kListPosition), blankBeforeFrom - kListPosition);
 
-    QStringList &fields = SharedParsedStatements().colSelFields;
+    QStringList &fields = SharedValues::instance().parsed.colSelFields;
     fields.clear();
     QStringList items = list.split(u',');
     const bool isListCut = items.last().isEmpty();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "query/AllDBType.h"
+#include "query/SharedValues.h"
 
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -9,24 +10,13 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What the statements of the control were last parsed into. There is one for the whole process, shared by all
-// controls and windows; everything runs on the user-interface thread, so it needs no lock.
-struct ParsedStatements
-{
-    QString strSQLTable;      // the FROM text of the statement last given to ParseSQLFieldList
-    QStringList colSQLFields; // its field names, in statement order
-    QStringList colSelFields; // the field names of the statement last given to ParseSelFieldList
-};
-
-ParsedStatements &SharedParsedStatements();
-
 struct ParseFailure
 {
     QString source;
     QString description;
 };
 
-// Fills strSQLTable and colSQLFields. A text that is no SELECT leaves both as they are; a "*" behind the last
+// Fills strSQLTable and colSQLFields of the shared values. A text that is no SELECT leaves both as they are; a "*" behind the last
 // comma adds no name. Other databases than Oracle lose the condition first and the brackets around each name.
 // On failure (FROM missing, or too early) colSQLFields keeps its names, strSQLTable is already the new one,
 // and the answer is what to tell the developer.

@@ -15,7 +15,7 @@ namespace {
 class StatementLists : public testing::Test
 {
 protected:
-    ParsedStatements &parsed = SharedParsedStatements();
+    ParsedStatements &parsed = SharedValues::instance().parsed;
 
     void SetUp() override { parsed = {u"Old"_s, {u"Before"_s}, {u"Before"_s}}; }
     void TearDown() override { parsed = {}; }

@@ -30,7 +30,7 @@ QJsonArray JsonOf(const QStringList &texts)
 
 QJsonValue ParseSQLFieldListCase(const Arguments &arguments)
 {
-    ParsedStatements &parsed = SharedParsedStatements();
+    ParsedStatements &parsed = SharedValues::instance().parsed;
     parsed.strSQLTable = arguments.Text(2);
     parsed.colSQLFields = arguments.Texts(3);
     const bool isFailed = ParseSQLFieldList(arguments.Text(1), DatabaseOf(arguments)).has_value();
@@ -41,7 +41,7 @@ QJsonValue ParseSQLFieldListCase(const Arguments &arguments)
 
 QJsonValue ParseSelFieldListCase(const Arguments &arguments)
 {
-    ParsedStatements &parsed = SharedParsedStatements();
+    ParsedStatements &parsed = SharedValues::instance().parsed;
     parsed.colSelFields = arguments.Texts(1);
     bool isFailed = false;
     try {
