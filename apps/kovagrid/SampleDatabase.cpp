@@ -19,30 +19,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Version = 2; // raise it when the tables change, so that old files are made anew
+constexpr int Version = 4; // raise it when the tables change, so that old files are made anew
 constexpr int CustomerCount = 240;
 constexpr int OrderCount = 120000;
 
-constexpr auto Schema = R"sql(
-PRAGMA foreign_keys = ON;
-CREATE TABLE 客户 (
-    客户编号 INTEGER PRIMARY KEY,
-    客户名称 VARCHAR(60) NOT NULL UNIQUE,
-    联系人 VARCHAR(20),
-    城市 VARCHAR(20) NOT NULL,
-    电话 VARCHAR(20),
-    "信用额度(元)" NUMERIC(12,2),
-    重点客户 BOOLEAN NOT NULL
-);
-CREATE TABLE 产品(产品编号 INTEGER PRIMARY KEY, 产品名称 VARCHAR(60) NOT NULL UNIQUE,
-                  类别 VARCHAR(20) NOT NULL, "单价(元)" NUMERIC(10, 2) NOT NULL, 库存 INTEGER NOT NULL,
-                  停售 BOOLEAN NOT NULL, 图片 BLOB);
-CREATE TABLE 订单(订单编号 INTEGER PRIMARY KEY, 下单日期 DATE NOT NULL,
-                  客户编号 INTEGER NOT NULL REFERENCES 客户, 客户名称 VARCHAR(60) NOT NULL,
-                  产品编号 INTEGER NOT NULL REFERENCES 产品, 产品名称 VARCHAR(60) NOT NULL,
-                  数量 INTEGER NOT NULL, "单价(元)" NUMERIC(10, 2) NOT NULL, 金额 NUMERIC(12, 2) NOT NULL,
-                  已付款 BOOLEAN NOT NULL, 发货时间 TIMESTAMP, "送货 城市" VARCHAR(20) NOT NULL, 备注 TEXT);
-)sql";
+QByteArray schema()
+{
+    QFile file(u":/sample.sql"_s);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 struct Product
 {
@@ -130,6 +115,7 @@ public:
     template<typename... Values>
     void row(const Values &...values)
     {
+        Q_ASSERT(sqlite3_bind_parameter_count(m_statement) == sizeof...(values));
         int index = 0;
         (bind(++index, values), ...);
         if (sqlite3_step(m_statement) != SQLITE_DONE)
@@ -243,10 +229,10 @@ void fillOrders(Database &database, Dice &dice, const std::vector<QString> &cust
                                           u" %1:%2:00"_s.arg(8 + dice.below(10), 2, 10, QLatin1Char('0'))
                                               .arg(dice.below(60), 2, 10, QLatin1Char('0'))
                                     : QString();
-        insert.row(i + 1, day.toString(Qt::ISODate), customer + 1,
-                   customers[static_cast<std::size_t>(customer)], number + 1, product.name, quantity,
-                   product.cents / 100.0, quantity * product.cents / 100.0, dice.below(4) == 0 ? 0 : 1,
-                   shipped, dice.oneOf(Cities), dice.below(6) == 0 ? dice.oneOf(Notes) : QString());
+        insert.row(i + 1, day.toString(Qt::ISODate), customers[static_cast<std::size_t>(customer)],
+                   product.name, quantity, product.cents / 100.0, quantity * product.cents / 100.0,
+                   dice.below(4) == 0 ? 0 : 1, shipped, dice.oneOf(Cities),
+                   dice.below(6) == 0 ? dice.oneOf(Notes) : QString());
     }
 }
 
@@ -269,8 +255,8 @@ void SampleDatabase::create(const QString &fileName)
 {
     QFile::remove(fileName);
     Database database(fileName);
-    database.run("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; BEGIN");
-    database.run(Schema);
+    database.run("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA foreign_keys = ON; BEGIN");
+    database.run(schema());
     Dice dice;
     const std::vector<QString> customers = fillCustomers(database, dice);
     fillProducts(database, dice);

@@ -1,7 +1,6 @@
 #include "Unattended.h"
 
 #include <QtCore/QEvent>
-#include <QtCore/QLoggingCategory>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QTableView>
@@ -14,8 +13,6 @@ using namespace Qt::StringLiterals;
 Unattended::Unattended()
 {
     qApp->installEventFilter(this);
-    // What an off-screen platform can't do is no news here.
-    QLoggingCategory::setFilterRules(u"default.warning=false"_s);
 }
 
 QString Unattended::messages() const

@@ -6,6 +6,7 @@
 #include <KOVAVSFDataGrid>
 
 #include <QtCore/QLibraryInfo>
+#include <QtCore/QLoggingCategory>
 #include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QTableView>
@@ -99,8 +100,12 @@ int runUnattended(HostWindow &window, const Options &options)
 int run(int argc, char **argv)
 {
     const bool isWatched = hasDisplay();
-    if (!isWatched && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!isWatched) {
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        // What the off-screen platform can't do is no news here.
+        QLoggingCategory::setFilterRules(u"default.warning=false"_s);
+    }
     QApplication app(argc, argv);
     QApplication::setApplicationName(u"kovagrid"_s);
     QApplication::setApplicationDisplayName(u"KOVAVSFDataGrid"_s);

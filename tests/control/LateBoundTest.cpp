@@ -58,7 +58,8 @@ TEST_F(LateBound, CallsMethodsWithPlainNumbers)
     ASSERT_TRUE(isLoaded);
 
     bool isLocated = false;
-    EXPECT_TRUE(QMetaObject::invokeMethod(grid, "LocateSelRecord", Q_RETURN_ARG(bool, isLocated), Q_ARG(qint32, 3)));
+    EXPECT_TRUE(
+        QMetaObject::invokeMethod(grid, "LocateSelRecord", Q_RETURN_ARG(bool, isLocated), Q_ARG(qint32, 3)));
     EXPECT_TRUE(isLocated);
     EXPECT_TRUE(QMetaObject::invokeMethod(grid, "SetGridCol", Q_ARG(int, 2)));
     QString text;
@@ -97,7 +98,7 @@ TEST_F(LateBound, EnumerationsAreWrittenByNumberAndByName)
 TEST_F(LateBound, SeesEventsByName)
 {
     QWidget *grid = control.get();
-    QSignalSpy located(grid, SIGNAL(RecordChanged(qint32,qint32)));
+    QSignalSpy located(grid, SIGNAL(RecordChanged(qint32, qint32)));
     EXPECT_TRUE(located.isValid());
     grid->setProperty("ConnectionString", database.connectionString());
     grid->setProperty("SQLShow", u"select * from T"_s);

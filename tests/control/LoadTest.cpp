@@ -19,8 +19,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Script = u"CREATE TABLE T (ID INTEGER PRIMARY KEY, \"Full Name\" VARCHAR(20), 价格 NUMERIC(8,2), 日期 DATE);"
-                       "INSERT INTO T VALUES (1,'王芳',12.5,'2024-02-29'),(2,NULL,NULL,NULL),(3,'O''Neil',-3,'1999-12-31');"_s;
+const QString Script =
+    u"CREATE TABLE T (ID INTEGER PRIMARY KEY, \"Full Name\" VARCHAR(20), 价格 NUMERIC(8,2), 日期 DATE);"
+    "INSERT INTO T VALUES (1,'王芳',12.5,'2024-02-29'),(2,NULL,NULL,NULL),(3,'O''Neil',-3,'1999-12-31');"_s;
 
 struct Load : testing::Test
 {
@@ -132,8 +133,9 @@ struct FailedLoad : Load, testing::WithParamInterface<const char *>
 
 INSTANTIATE_TEST_SUITE_P(Statements, FailedLoad,
                          testing::Values("", "selec", "select * from Nowhere", "delete from T",
-                                         "select 1; drop table T", "select * from T; select 1", "drop table T",
-                                         "update T set ID = 9", "attach 'x.db' as y", "pragma user_version = 7",
+                                         "select 1; drop table T", "select * from T; select 1",
+                                         "drop table T", "update T set ID = 9", "attach 'x.db' as y",
+                                         "pragma user_version = 7",
                                          "insert into T values (9,'x',1,'2000-01-01') returning ID"));
 
 TEST_P(FailedLoad, IsToldAndChangesNothing)

@@ -201,7 +201,8 @@ TEST_F(Misuse, SQLShowIsEditedOnceEditingIsAllowed)
         auto *text = dialog.findChild<QLineEdit *>(u"Text_SQL"_s);
         QTest::keyClicks(text, u"ignored"_s);
         EXPECT_EQ(text->text(), u"select * from T"_s) << "not yet allowed";
-        QTest::mouseClick(dialog.findChild<QCheckBox *>(u"Check_AllowEd"_s), Qt::LeftButton, {}, QPoint(5, 8));
+        QTest::mouseClick(dialog.findChild<QCheckBox *>(u"Check_AllowEd"_s), Qt::LeftButton, {},
+                          QPoint(5, 8));
         text->selectAll();
         QTest::keyClicks(text, u"select Name from T"_s);
         clickIn(dialog, u"OKButton"_s);
@@ -216,7 +217,8 @@ TEST_F(Misuse, ACancelledEditChangesNothing)
     grid.PutSQLFilter(u"before"_s);
     onNextDialog([](QDialog &dialog) {
         EXPECT_EQ(dialog.findChild<QLabel *>(u"Label_what"_s)->text(), u"SQLFilter:"_s);
-        QTest::mouseClick(dialog.findChild<QCheckBox *>(u"Check_AllowEd"_s), Qt::LeftButton, {}, QPoint(5, 8));
+        QTest::mouseClick(dialog.findChild<QCheckBox *>(u"Check_AllowEd"_s), Qt::LeftButton, {},
+                          QPoint(5, 8));
         QTest::keyClicks(dialog.findChild<QLineEdit *>(u"Text_SQL"_s), u"after"_s);
         clickIn(dialog, u"CancelButton"_s);
     });

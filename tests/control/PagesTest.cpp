@@ -20,8 +20,8 @@ namespace {
 // Numbers from 1 without a table behind them.
 QString numbers(int count)
 {
-    return u"with recursive N(n) as (select 1 union all select n + 1 from N where n < %1) select n as 编号 from N"_s.arg(
-        count);
+    return u"with recursive N(n) as (select 1 union all select n + 1 from N where n < %1) select n as 编号 from N"_s
+        .arg(count);
 }
 
 struct Pages : testing::Test
@@ -117,8 +117,9 @@ struct TypedPage : Pages, testing::WithParamInterface<std::pair<const char *, in
 
 INSTANTIATE_TEST_SUITE_P(Texts, TypedPage,
                          testing::Values(std::pair("1", 1), std::pair("1x", 1), std::pair("12abc", 1),
-                                         std::pair("0", 0), std::pair("-3", 0), std::pair("abc", 0), std::pair("", 0),
-                                         std::pair(" 1 ", 1), std::pair("99999999999999", 1)));
+                                         std::pair("0", 0), std::pair("-3", 0), std::pair("abc", 0),
+                                         std::pair("", 0), std::pair(" 1 ", 1),
+                                         std::pair("99999999999999", 1)));
 
 TEST_P(TypedPage, ShowsAPageOrAsksForAPositiveNumber)
 {

@@ -40,7 +40,10 @@ struct Properties : testing::Test
     {
         return grid.findChild<Part *>(QLatin1StringView(name));
     }
-    QAction *button(const char *key) const { return part<QToolBar>("Toolbar1")->findChild<QAction *>(QLatin1StringView(key)); }
+    QAction *button(const char *key) const
+    {
+        return part<QToolBar>("Toolbar1")->findChild<QAction *>(QLatin1StringView(key));
+    }
     QStringList marks() const
     {
         QStringList names;
@@ -88,8 +91,9 @@ TEST_F(Properties, MarkThemselvesAsChangedEachTimeTheyAreWritten)
     grid.PutSysDBCnn(u"c"_s);
     grid.PutSysDBMode(u"d"_s);
     grid.PutBackColor(Qt::red);
-    EXPECT_EQ(marks(), QStringList({u"SQLFilter"_s, u"SQLFilter"_s, u"SQLSort"_s, u"SQLPartDisplay"_s, u"TableType"_s,
-                                    u"ErrorHint"_s, u"DBType"_s, u"SysDBCnn"_s, u"SysDBMode"_s, u"BackColor"_s}));
+    EXPECT_EQ(marks(),
+              QStringList({u"SQLFilter"_s, u"SQLFilter"_s, u"SQLSort"_s, u"SQLPartDisplay"_s, u"TableType"_s,
+                           u"ErrorHint"_s, u"DBType"_s, u"SysDBCnn"_s, u"SysDBMode"_s, u"BackColor"_s}));
     grid.PutDBType(KOVAVSFDataGrid::dbAccess);
 }
 
@@ -126,8 +130,8 @@ TEST_F(Properties, ConnectionStringEmptiesTheTextsEvenWhenItStaysTheSame)
         grid.PutSQLSort(u"s"_s);
         changed.clear();
         grid.PutConnectionString(u"Provider=SQLite;Data Source=x"_s);
-        EXPECT_EQ(marks(), QStringList({u"ConnectionString"_s, u"SQLShow"_s, u"SQLPartDisplay"_s, u"SQLFilter"_s,
-                                        u"SQLSort"_s, u"SQLPartDisplay"_s}));
+        EXPECT_EQ(marks(), QStringList({u"ConnectionString"_s, u"SQLShow"_s, u"SQLPartDisplay"_s,
+                                        u"SQLFilter"_s, u"SQLSort"_s, u"SQLPartDisplay"_s}));
         EXPECT_EQ(grid.SQLShow(), QString());
         EXPECT_EQ(grid.SQLPartDisplay(), QString());
         EXPECT_EQ(grid.SQLFilter(), QString());

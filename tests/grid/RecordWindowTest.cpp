@@ -24,10 +24,9 @@ struct Window : testing::Test
         recordset->Open(u"select * from T order by ID"_s, connection);
     }
 
-    TestDatabase database{
-        u"CREATE TABLE T (ID INTEGER PRIMARY KEY, Name TEXT, 价格 NUMERIC(8,2));"
-        "WITH RECURSIVE N(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM N WHERE n < 20)"
-        "INSERT INTO T SELECT n, iif(n = 3, NULL, '名' || n), n / 4.0 FROM N"_s};
+    TestDatabase database{u"CREATE TABLE T (ID INTEGER PRIMARY KEY, Name TEXT, 价格 NUMERIC(8,2));"
+                          "WITH RECURSIVE N(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM N WHERE n < 20)"
+                          "INSERT INTO T SELECT n, iif(n = 3, NULL, '名' || n), n / 4.0 FROM N"_s};
     std::shared_ptr<ADODB::Connection> connection = std::make_shared<ADODB::Connection>();
     std::shared_ptr<ADODB::Recordset> recordset = std::make_shared<ADODB::Recordset>();
 };

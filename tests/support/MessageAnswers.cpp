@@ -27,7 +27,8 @@ bool MessageAnswers::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Show) {
         if (auto *box = qobject_cast<QMessageBox *>(watched))
-            QMetaObject::invokeMethod(box, [this, box] { answer(*box); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                box, [this, box] { answer(*box); }, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
 }

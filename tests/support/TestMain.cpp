@@ -34,8 +34,7 @@ void onMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
 
 namespace KovaTest {
 
-ExpectedWarning::ExpectedWarning(const QString &part)
-    : m_part(part)
+ExpectedWarning::ExpectedWarning(const QString &part) : m_part(part)
 {
     expected().append(m_part);
 }

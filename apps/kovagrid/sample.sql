@@ -1,0 +1,33 @@
+CREATE TABLE 客户 (
+    客户编号 INTEGER PRIMARY KEY,
+    客户名称 VARCHAR(60) NOT NULL UNIQUE,
+    联系人 VARCHAR(20),
+    城市 VARCHAR(20) NOT NULL,
+    电话 VARCHAR(20),
+    "信用额度(元)" NUMERIC(12,2),
+    重点客户 BOOLEAN NOT NULL
+);
+
+CREATE TABLE 产品 (
+    产品编号 INTEGER PRIMARY KEY,
+    产品名称 VARCHAR(60) NOT NULL UNIQUE,
+    类别 VARCHAR(20) NOT NULL,
+    "单价(元)" NUMERIC(10,2) NOT NULL,
+    库存 INTEGER NOT NULL,
+    停售 BOOLEAN NOT NULL,
+    图片 BLOB
+);
+
+CREATE TABLE 订单 (
+    订单编号 INTEGER PRIMARY KEY,
+    下单日期 DATE NOT NULL,
+    客户名称 VARCHAR(60) NOT NULL REFERENCES 客户 (客户名称),
+    产品名称 VARCHAR(60) NOT NULL REFERENCES 产品 (产品名称),
+    数量 INTEGER NOT NULL,
+    "单价(元)" NUMERIC(10,2) NOT NULL,
+    金额 NUMERIC(12,2) NOT NULL,
+    已付款 BOOLEAN NOT NULL,
+    发货时间 TIMESTAMP,
+    "送货 城市" VARCHAR(20) NOT NULL,
+    备注 TEXT
+);
