@@ -68,7 +68,7 @@ QVariant FlexGridModel::headerData(int section, Qt::Orientation orientation, int
         return m_fixedCols > 0 ? m_source->text(section + 1, 0) : QString();
     }
     if (role == Qt::TextAlignmentRole)
-        return QVariant::fromValue(Qt::AlignVCenter | (Qt::AlignHCenter));
+        return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
     return {};
 }
 
