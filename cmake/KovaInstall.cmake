@@ -23,5 +23,6 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/KOVAVSFDataGridLibConfigV
 install(FILES ${PROJECT_BINARY_DIR}/KOVAVSFDataGridLibConfig.cmake
   ${PROJECT_BINARY_DIR}/KOVAVSFDataGridLibConfigVersion.cmake DESTINATION ${package_dir})
 if(TARGET kovagrid)
+  set_target_properties(kovagrid PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
   install(TARGETS kovagrid RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()

@@ -1,6 +1,7 @@
 // LocateSelRecord, the row and column accessors, and the messages for their misuse.
 #include <KOVAVSFDataGrid>
 
+#include "ado/Error.h"
 #include "support/MessageAnswers.h"
 #include "support/TestDatabase.h"
 
@@ -210,6 +211,34 @@ TEST_F(Misuse, SQLShowIsEditedOnceEditingIsAllowed)
     grid.SetSQLShow();
     EXPECT_EQ(grid.SQLShow(), u"select Name from T"_s);
     EXPECT_EQ(grid.SQLPartDisplay(), u"select Name from T"_s);
+}
+
+// A host's handler that throws stands for whatever may go wrong inside a method.
+struct FailingStep : Misuse, testing::WithParamInterface<QMessageBox::StandardButton>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Answers, FailingStep, testing::Values(QMessageBox::Yes, QMessageBox::No));
+
+TEST_P(FailingStep, IsToldWithItsNumberAndTheQuestionWhetherToContinue)
+{
+    QObject::connect(&grid, &KOVAVSFDataGrid::PropertyChanged, &grid,
+                     [] { throw ADODB::Error(ADODB::adErrNoCurrentRecord, u"no record"_s); });
+    MessageAnswers answers({GetParam()});
+    onNextDialog([](QDialog &dialog) {
+        QTest::mouseClick(dialog.findChild<QCheckBox *>(u"Check_AllowEd"_s), Qt::LeftButton, {},
+                          QPoint(5, 8));
+        clickIn(dialog, u"OKButton"_s);
+    });
+    EXPECT_NO_THROW(grid.SetSQLFilter());
+    ASSERT_EQ(answers.shown().size(), 1u);
+    const ShownMessage &message = answers.shown().front();
+    EXPECT_EQ(message.text, QString::number(ADODB::Error::hresult(ADODB::adErrNoCurrentRecord)) +
+                                u"\rno recordContinue?"_s);
+    EXPECT_EQ(message.title, u"Set SQL Filter"_s);
+    EXPECT_EQ(message.buttons, QMessageBox::Yes | QMessageBox::No);
+    EXPECT_EQ(message.icon, QMessageBox::Critical);
+    grid.disconnect();
 }
 
 TEST_F(Misuse, ACancelledEditChangesNothing)

@@ -1,0 +1,39 @@
+#include "control/KOVAVSFDataGrid.h"
+
+#include <gtest/gtest.h>
+
+// Stands for Qt Designer's form: the control asks its ancestors for a class of this name.
+class QDesignerFormWindowInterface : public QWidget
+{
+    Q_OBJECT
+};
+
+TEST(DesignMode, IsFoundOutOnAForm)
+{
+    QDesignerFormWindowInterface form;
+    auto *container = new QWidget(&form);
+    auto *grid = new KOVAVSFDataGrid(container);
+    EXPECT_FALSE(grid->UserMode());
+    EXPECT_NO_THROW(grid->PutUseModel(KOVAVSFDataGrid::ModelDefine));
+    EXPECT_EQ(grid->UseModel(), KOVAVSFDataGrid::ModelDefine);
+}
+
+TEST(DesignMode, EndsWhenTheControlLeavesTheForm)
+{
+    QDesignerFormWindowInterface form;
+    KOVAVSFDataGrid grid(&form);
+    EXPECT_FALSE(grid.UserMode());
+    grid.setParent(nullptr);
+    EXPECT_TRUE(grid.UserMode());
+}
+
+TEST(DesignMode, IsWhatTheHostSays)
+{
+    KOVAVSFDataGrid grid;
+    EXPECT_TRUE(grid.UserMode());
+    EXPECT_TRUE(grid.setProperty("UserMode", false));
+    EXPECT_FALSE(grid.property("UserMode").toBool());
+    EXPECT_NO_THROW(static_cast<void>(grid.UseModel()));
+}
+
+#include "DesignModeTest.moc"
