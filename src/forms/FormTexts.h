@@ -15,4 +15,54 @@ inline const QString SqlDialogTitle = u"文本"_s;
 inline const QString AllowEditing = u"允许编辑(&E)"_s;
 inline const QString AllowEditingHint = u"勾选“允许编辑”后可以修改；不勾选时只供查看和复制。"_s;
 
+// frmSelShowFields
+inline const QString SelectFieldsTitle = u"选择显示字段"_s;
+inline const QString FieldNameColumn = u"字段名称"_s;
+inline const QString SearchField = u"查找(&S):"_s;
+inline const QString SearchFieldHint = u"输入字段名称的一部分"_s;
+inline const QString CheckAll = u"全选(&A)"_s;
+inline const QString CheckNone = u"全不选(&N)"_s;
+inline const QString CheckInvert = u"反选(&I)"_s;
+inline const QString ChecksActOnListed = u"只作用于列出的字段"_s;
+inline const QString CheckedCount = u"已选 %1 个，共 %2 个"_s;
+inline const QString AtLeastOneField = u"至少选择一列"_s;
+
+// frmSelSortFields
+inline const QString SelectSortTitle = u"选择排序字段"_s;
+inline const QString SortFieldColumn = u"排序字段"_s;
+inline const QString OrderColumn = u"次序"_s;
+inline const QString SortField = u"字段(&F):"_s;
+inline const QString SortOrder = u"次序(&R):"_s;
+inline const QString AddSortField = u"添加(&A)"_s;
+inline const QString AlreadyInSort = u"该字段已在排序列表中"_s;
+inline const QString DeleteSortField = u"删除(&D)"_s;
+inline const QString MoveSortFieldUp = u"上移(&U)"_s;
+inline const QString MoveSortFieldDown = u"下移(&W)"_s;
+inline const QString SortListHint = u"双击或按空格键切换升序和降序，拖动改变先后。"_s;
+
+// Both selection dialogs
+inline const QString TableName = u"数据表"_s;
+
+// FindDialog
+inline const QString FindTitle = u"查找"_s;
+inline const QString FindHint = u"输入查询内容（以空格分隔）"_s;
+inline const QString FindWhat = u"查询内容(&W):"_s;
+inline const QString FindInField = u"指定的字段名称（默认：全部）(&N):"_s;
+inline const QString FindInFieldName = u"指定的字段名称（默认：全部）"_s;
+inline const QString Find = u"查找(&F)"_s;
+
+// ConnectDialog, which only the host's developer meets
+inline const QString ConnectTitle = u"Connection"_s;
+inline const QString BuildConnection = u"&Build the connection string"_s;
+inline const QString TypeConnection = u"&Type the connection string"_s;
+inline const QString InputConnectionString = u"Input ConnectionString:"_s;
+inline const QString InputSqlShow = u"Input SQLShow:"_s;
+inline const QString ConnectionStringHint = u"For example: Provider=SQLite;Data Source=shop.db"_s;
+inline const QString SqlShowHint = u"For example: select * from Orders"_s;
+inline const QString AskSqlShowToo = u"Then enter the &SQLShow statement"_s;
+inline const QString LinkButton = u"B&uild…"_s;
+inline const QString LinkButtonHint = u"Opens the connection builder and takes over what it builds."_s;
+inline const QString NoConnectionBuilder =
+    u"No connection builder is available here; type the connection string."_s;
+
 } // namespace KOVAVSFDataGridLib::FormTexts

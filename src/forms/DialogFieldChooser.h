@@ -1,0 +1,28 @@
+#pragma once
+
+#include "query/FieldChooser.h"
+
+#include <QtCore/QPointer>
+
+class QWidget;
+
+namespace KOVAVSFDataGridLib {
+
+// Asks the user with the two selection dialogs, modally above a window.
+class DialogFieldChooser final : public FieldChooser
+{
+public:
+    // `parent` is not owned and may go before the chooser does.
+    explicit DialogFieldChooser(QWidget *parent = nullptr);
+    ~DialogFieldChooser() override;
+
+    std::optional<QString> ChooseVisibleFields(const QString &title, const QStringList &allFields,
+                                               const QStringList &partFields) override;
+    std::optional<QString> ChooseSort(const QString &title, const QStringList &allFields,
+                                      const QStringList &sortTerms) override;
+
+private:
+    QPointer<QWidget> m_parent;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,195 @@
+#include "forms/FindDialog.h"
+
+#include "forms/FormTexts.h"
+#include "query/FindText.h"
+#include "query/QueryTexts.h"
+#include "query/colDataFields.h"
+
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void setTextColour(QLineEdit &edit, QPalette::ColorRole role)
+{
+    QPalette palette = edit.palette();
+    palette.setColor(QPalette::Text, edit.window()->palette().color(role));
+    edit.setPalette(palette);
+}
+
+// Keys that a person presses on the way to something else.
+bool isTyped(int key)
+{
+    switch (key) {
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Meta:
+    case Qt::Key_CapsLock:
+    case Qt::Key_NumLock:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return false;
+    default:
+        return true;
+    }
+}
+
+bool carriesText(const QInputMethodEvent &event)
+{
+    return !event.preeditString().isEmpty() || !event.commitString().isEmpty();
+}
+
+} // namespace
+
+FindDialog::FindDialog(QWidget *parent)
+    : QDialog(parent),
+      m_input(new QComboBox(this)),
+      m_fields(new QComboBox(this)),
+      m_find(new QPushButton(FormTexts::Find, this))
+{
+    setObjectName(u"FindDialog"_s);
+    setWindowTitle(FormTexts::FindTitle);
+    setSizeGripEnabled(true);
+    m_input->setObjectName(u"InputCombo1"_s);
+    m_input->setAccessibleName(FormTexts::FindTitle);
+    m_input->setEditable(true);
+    m_input->setInsertPolicy(QComboBox::NoInsert);
+    m_input->setMinimumContentsLength(36);
+    m_input->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_fields->setObjectName(u"FieldCombo1"_s);
+    m_fields->setAccessibleName(FormTexts::FindInFieldName);
+    m_fields->setToolTip(FormTexts::FindInFieldName);
+    m_fields->setMaxVisibleItems(20);
+    m_fields->setMinimumContentsLength(36);
+    m_fields->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_find->setObjectName(u"FindBtn"_s);
+    m_find->setDefault(true);
+    auto *cancel = new QPushButton(FormTexts::Cancel, this);
+    cancel->setObjectName(u"CancelBtn"_s);
+
+    auto *inputLabel = new QLabel(FormTexts::FindWhat, this);
+    inputLabel->setBuddy(m_input);
+    auto *fieldLabel = new QLabel(FormTexts::FindInField, this);
+    fieldLabel->setBuddy(m_fields);
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(m_find);
+    buttons->addWidget(cancel);
+    auto *rows = new QVBoxLayout(this);
+    rows->addWidget(inputLabel);
+    rows->addWidget(m_input);
+    rows->addWidget(fieldLabel);
+    rows->addWidget(m_fields);
+    rows->addStretch();
+    rows->addLayout(buttons);
+
+    showHint();
+    // Keys reach the line edit, or the box itself when they are sent to it.
+    m_input->installEventFilter(this);
+    m_input->lineEdit()->installEventFilter(this);
+    connect(m_input, &QComboBox::editTextChanged, this, &FindDialog::onInputChanged);
+    connect(m_find, &QPushButton::clicked, this, &FindDialog::find);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    m_input->setFocus();
+}
+
+bool FindDialog::InitFrm(const colDataFields *colFields, QString *ErrInfo)
+{
+    if (ErrInfo)
+        ErrInfo->clear();
+    m_fields->clear();
+    if (!colFields || colFields->Count() == 0)
+        return false;
+    m_fields->addItem(QueryTexts::AllFields());
+    for (const clsDataField &field : *colFields)
+        m_fields->addItem(field.FieldName);
+    m_fields->setCurrentIndex(0);
+    return true;
+}
+
+void FindDialog::showHint()
+{
+    m_input->setEditText(FormTexts::FindHint);
+    m_input->lineEdit()->setCursorPosition(0);
+    // A system's border colour can hardly be read as text; the palette has one for hints.
+    setTextColour(*m_input->lineEdit(), QPalette::PlaceholderText);
+    m_isHintShown = true;
+    m_find->setEnabled(false);
+    m_fields->setEnabled(false);
+}
+
+void FindDialog::removeHint()
+{
+    if (!m_isHintShown)
+        return;
+    m_isHintShown = false;
+    m_input->clearEditText();
+    setTextColour(*m_input->lineEdit(), QPalette::ButtonText);
+    m_find->setEnabled(true);
+    m_fields->setEnabled(true);
+}
+
+// A paste or a drop changes the text without a key; what it brought stays when the hint goes.
+void FindDialog::onInputChanged(const QString &text)
+{
+    if (!m_isHintShown)
+        return;
+    QString brought = text;
+    brought.remove(FormTexts::FindHint);
+    removeHint();
+    m_input->setEditText(brought);
+}
+
+bool FindDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress && onKey(static_cast<QKeyEvent *>(event)->key()))
+        return true;
+    if (event->type() == QEvent::InputMethod && carriesText(*static_cast<QInputMethodEvent *>(event)))
+        removeHint();
+    return QDialog::eventFilter(watched, event);
+}
+
+// True when the key is dealt with.
+bool FindDialog::onKey(int key)
+{
+    if (key == Qt::Key_Escape) {
+        reject();
+        return true;
+    }
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        if (m_isHintShown)
+            reject();
+        else
+            find();
+        return true;
+    }
+    if (isTyped(key))
+        removeHint();
+    return false;
+}
+
+void FindDialog::find()
+{
+    const FindAnswer answer = PressFind(m_input->currentText(), m_fields->currentText());
+    if (answer.strFindText.isEmpty())
+        return;
+    m_strFindText = answer.strFindText;
+    if (!answer.unloads)
+        return;
+    m_strFieldName = answer.strFieldName;
+    m_bIsAppointField = answer.bIsAppointField;
+    accept();
+}
+
+} // namespace KOVAVSFDataGridLib

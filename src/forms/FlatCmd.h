@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QtWidgets/QPushButton>
+
+namespace KOVAVSFDataGridLib {
+
+// A push button that stays flat until the mouse, the keyboard focus or a press is on it.
+class FlatCmd final : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    explicit FlatCmd(const QString &text, QWidget *parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,96 @@
+#include "forms/SelectionDialog.h"
+
+#include "forms/FormTexts.h"
+#include "forms/GradualControl.h"
+
+#include <QtGui/QCloseEvent>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QVBoxLayout>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+SelectionDialog::SelectionDialog(const QString &name, const QString &caption, const QString &bandName,
+                                 QWidget *parent)
+    // No close box is shown where the platform can leave it out, since it would do nothing.
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint),
+      m_tableName(new QLineEdit(this)),
+      m_content(new QVBoxLayout),
+      m_buttons(new QHBoxLayout)
+{
+    setObjectName(name);
+    setWindowTitle(caption);
+    setSizeGripEnabled(true);
+
+    auto *body = new QVBoxLayout;
+    body->addLayout(m_content);
+    body->addLayout(m_buttons);
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+    body->setContentsMargins(margin, 0, margin, margin);
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins({});
+    rows->addWidget(makeBand(bandName));
+    rows->addLayout(body);
+}
+
+void SelectionDialog::addButtons()
+{
+    auto *ok = new QPushButton(FormTexts::Ok, this);
+    ok->setObjectName(u"cmdOK"_s);
+    ok->setDefault(true);
+    auto *cancel = new QPushButton(FormTexts::Cancel, this);
+    cancel->setObjectName(u"cmdCancel"_s);
+    m_buttons->addStretch();
+    m_buttons->addWidget(ok);
+    m_buttons->addWidget(cancel);
+
+    connect(ok, &QPushButton::clicked, this, &SelectionDialog::takeChoice);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+QWidget *SelectionDialog::makeBand(const QString &bandName)
+{
+    auto *band = new GradualControl(this);
+    band->setObjectName(bandName);
+    auto *picture = new QLabel(band);
+    picture->setObjectName(u"Picture1"_s);
+    picture->setPixmap(style()->standardIcon(QStyle::SP_FileDialogDetailedView).pixmap(16));
+
+    m_tableName->setObjectName(u"txtTableName"_s);
+    m_tableName->setAccessibleName(FormTexts::TableName);
+    m_tableName->setReadOnly(true);
+    m_tableName->setFrame(false);
+    m_tableName->setFocusPolicy(Qt::ClickFocus);
+    QPalette clear = m_tableName->palette();
+    clear.setColor(QPalette::Base, Qt::transparent);
+    clear.setColor(QPalette::Text, clear.color(QPalette::WindowText));
+    m_tableName->setPalette(clear);
+    QFont bold = m_tableName->font();
+    bold.setBold(true);
+    m_tableName->setFont(bold);
+
+    auto *row = new QHBoxLayout(band);
+    row->addWidget(picture);
+    row->addWidget(m_tableName, 1);
+    return band;
+}
+
+void SelectionDialog::SetTitle(const QString &strTitle)
+{
+    if (strTitle.isEmpty())
+        return;
+    m_tableName->setText(strTitle);
+    m_tableName->setCursorPosition(0);
+}
+
+void SelectionDialog::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
+}
+
+} // namespace KOVAVSFDataGridLib

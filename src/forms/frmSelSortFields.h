@@ -1,0 +1,56 @@
+#pragma once
+
+#include "forms/SelectionDialog.h"
+
+#include <QtCore/QStringList>
+
+class QComboBox;
+class QPushButton;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace KOVAVSFDataGridLib {
+
+// Lets the user choose sort fields and their order. Fill it in this order: SetTitle, AppendListFields,
+// AppendListSortFields, AppendSortOrder; strRetFields() is then the sort as it stands behind ORDER BY.
+class frmSelSortFields final : public SelectionDialog
+{
+    Q_OBJECT
+
+public:
+    explicit frmSelSortFields(QWidget *parent = nullptr);
+
+    // The present sort's terms. False, changing nothing, when there is no list.
+    bool AppendListSortFields(const QStringList *PassSortFields);
+    // The fields to choose from. False, changing nothing, when there is no list or nothing in it.
+    bool AppendListFields(const QStringList *PassAllFields);
+    // The two order words; always True.
+    bool AppendSortOrder();
+
+private:
+    QWidget *makeAddRow();
+    QWidget *makeList();
+    void connectKeys();
+    void takeChoice() override;
+
+    void appendRow(const QString &field, const QString &orderWord);
+    void addField();
+    void deleteField();
+    // Moves the selected row up (-1) or down (1).
+    void moveField(int by);
+    void flipOrder(QTreeWidgetItem *item);
+    bool isInSort(const QString &field) const;
+    int selectedRow() const; // -1 when there is none
+    void enableButtons();
+
+    // In the order in which the tab key reaches them.
+    QComboBox *m_fields;
+    QComboBox *m_order;
+    QPushButton *m_add;
+    QTreeWidget *m_sort;
+    QPushButton *m_up;
+    QPushButton *m_down;
+    QPushButton *m_delete;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,44 @@
+#include "forms/FlatCmd.h"
+#include "forms/GradualControl.h"
+
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+#include <gtest/gtest.h>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+TEST(GradualControl, RunsFromATintOfTheHighlightIntoTheWindow)
+{
+    GradualControl band;
+    QPalette palette = band.palette();
+    palette.setColor(QPalette::Window, Qt::white);
+    palette.setColor(QPalette::Highlight, Qt::blue);
+    band.setPalette(palette);
+    band.resize(200, 20);
+    const QImage image = band.grab().toImage();
+    const QColor left = image.pixelColor(0, image.height() / 2);
+    const QColor right = image.pixelColor(image.width() - 1, image.height() / 2);
+    EXPECT_LT(left.red(), 200);
+    EXPECT_EQ(left.blue(), 255);
+    EXPECT_GT(right.red(), 245);
+}
+
+TEST(FlatCmd, IsFlatUntilItHasTheFocusAndIsPressedLikeAnyButton)
+{
+    QWidget window;
+    FlatCmd button(u"上移"_s, &window);
+    button.setGeometry(200, 200, 90, 30); // away from where the mouse may stand
+    window.resize(400, 300);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    button.clearFocus();
+    const QImage flat = button.grab().toImage();
+    button.setFocus();
+    EXPECT_NE(button.grab().toImage(), flat);
+    EXPECT_FALSE(button.autoDefault());
+
+    QSignalSpy clicked(&button, &QPushButton::clicked);
+    QTest::keyClick(&button, Qt::Key_Space);
+    EXPECT_EQ(clicked.count(), 1);
+}

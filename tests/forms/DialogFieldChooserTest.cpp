@@ -1,0 +1,59 @@
+#include "forms/DialogFieldChooser.h"
+
+#include "support/Dialogs.h"
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QTreeWidget>
+#include <gtest/gtest.h>
+
+#include <functional>
+
+using namespace KOVAVSFDataGridLib;
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Does something with the modal dialog as soon as it is shown.
+void onDialog(const std::function<void(QWidget &)> &act)
+{
+    QTimer::singleShot(0, qApp, [act] {
+        ASSERT_NE(QApplication::activeModalWidget(), nullptr);
+        act(*QApplication::activeModalWidget());
+    });
+}
+
+} // namespace
+
+TEST(DialogFieldChooser, AnswersTheTickedFields)
+{
+    onDialog([](QWidget &dialog) {
+        EXPECT_EQ(dialog.objectName(), u"frmSelShowFields"_s);
+        EXPECT_EQ(part<QTreeWidget>(dialog, "lvSelField").topLevelItem(1)->checkState(0), Qt::Checked);
+        press(dialog, "cmdCheckInvert");
+        press(dialog, "cmdOK");
+    });
+    DialogFieldChooser chooser;
+    EXPECT_EQ(chooser.ChooseVisibleFields(u"T"_s, {u"A"_s, u"B"_s, u"C"_s}, {u"[B]"_s}), u"A,C"_s);
+}
+
+TEST(DialogFieldChooser, AnswersTheSort)
+{
+    onDialog([](QWidget &dialog) {
+        EXPECT_EQ(dialog.objectName(), u"frmSelSortFields"_s);
+        press(dialog, "cmdAddField");
+        press(dialog, "cmdOK");
+    });
+    DialogFieldChooser chooser;
+    EXPECT_EQ(chooser.ChooseSort(u"T"_s, {u"A"_s, u"B"_s}, {u"B DESC"_s}), u"B DESC,A"_s);
+}
+
+TEST(DialogFieldChooser, CancellingAnswersNothing)
+{
+    DialogFieldChooser chooser;
+    onDialog([](QWidget &dialog) { press(dialog, "cmdCancel"); });
+    EXPECT_FALSE(chooser.ChooseVisibleFields(u"T"_s, {u"A"_s}, {u"A"_s}));
+    onDialog([](QWidget &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    EXPECT_FALSE(chooser.ChooseSort(u"T"_s, {u"A"_s}, {u"A"_s}));
+}

@@ -1,0 +1,178 @@
+#include "forms/FindDialog.h"
+
+#include "query/colDataFields.h"
+#include "support/Dialogs.h"
+
+#include <QtGui/QClipboard>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
+#include <gtest/gtest.h>
+
+using namespace KOVAVSFDataGridLib;
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString Hint = u"输入查询内容（以空格分隔）"_s;
+
+struct Find : testing::Test
+{
+    Find()
+    {
+        fields.AddFieldsByCol({u"编号"_s, u"名称"_s});
+        EXPECT_TRUE(dialog.InitFrm(&fields));
+        present(dialog);
+    }
+    QComboBox &input() const { return part<QComboBox>(dialog, "InputCombo1"); }
+    QComboBox &field() const { return part<QComboBox>(dialog, "FieldCombo1"); }
+    bool isEnabled(const char *name) const { return part(dialog, name).isEnabled(); }
+    void expectHint(bool isShown) const
+    {
+        EXPECT_EQ(input().currentText() == Hint, isShown);
+        EXPECT_EQ(isEnabled("FindBtn"), !isShown);
+        EXPECT_EQ(isEnabled("FieldCombo1"), !isShown);
+    }
+    QColor inputColour() const { return input().lineEdit()->palette().color(QPalette::Text); }
+
+    colDataFields fields;
+    FindDialog dialog;
+};
+
+} // namespace
+
+TEST_F(Find, OffersAllFieldsFirstThenEachInOrder)
+{
+    ASSERT_EQ(field().count(), 3);
+    EXPECT_EQ(field().currentText(), u"全部"_s);
+    EXPECT_EQ(field().itemText(1), u"编号"_s);
+    EXPECT_EQ(field().itemText(2), u"名称"_s);
+}
+
+TEST(FindDialogFields, AMissingOrEmptyCatalogueIsRefusedAndLeavesTheComboEmpty)
+{
+    FindDialog dialog;
+    colDataFields none;
+    QString error = u"old"_s;
+    EXPECT_FALSE(dialog.InitFrm(nullptr, &error));
+    EXPECT_TRUE(error.isEmpty());
+    EXPECT_FALSE(dialog.InitFrm(&none));
+    EXPECT_EQ(part<QComboBox>(dialog, "FieldCombo1").count(), 0);
+}
+
+TEST(FindDialogFields, WithoutFieldsTheTextIsKeptButTheDialogStaysOpen)
+{
+    FindDialog dialog;
+    present(dialog);
+    QTest::keyClicks(dialog.focusWidget(), u"abc"_s);
+    press(dialog, "FindBtn");
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(dialog.strFindText(), u"abc"_s);
+    EXPECT_TRUE(dialog.strFieldName().isEmpty());
+}
+
+TEST_F(Find, BeginsWithAHintAndNothingToPress)
+{
+    expectHint(true);
+    EXPECT_TRUE(dialog.strFindText().isEmpty());
+    EXPECT_EQ(inputColour(), dialog.palette().color(QPalette::PlaceholderText));
+}
+
+TEST_F(Find, TheFirstKeyTakesTheHintsPlace)
+{
+    QTest::keyClicks(dialog.focusWidget(), u"ab"_s);
+    EXPECT_EQ(input().currentText(), u"ab"_s);
+    expectHint(false);
+    EXPECT_EQ(inputColour(), dialog.palette().color(QPalette::ButtonText));
+}
+
+TEST_F(Find, KeysSentToTheBoxItselfCountAsWell)
+{
+    QTest::keyClick(&input(), Qt::Key_A);
+    EXPECT_EQ(input().currentText(), u"a"_s);
+    expectHint(false);
+}
+
+TEST_F(Find, AnInputMethodTakesTheHintsPlace)
+{
+    compose(*input().lineEdit(), u"北京"_s);
+    EXPECT_EQ(input().currentText(), u"北京"_s);
+    expectHint(false);
+}
+
+TEST_F(Find, WhatIsPastedByTheMouseStaysWhenTheHintGoes)
+{
+    QGuiApplication::clipboard()->setText(u"上海"_s);
+    input().lineEdit()->paste();
+    EXPECT_EQ(input().currentText(), u"上海"_s);
+    expectHint(false);
+}
+
+TEST_F(Find, ModifiersAndTabLeaveTheHint)
+{
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Shift);
+    key(dialog, Qt::Key_Tab);
+    expectHint(true);
+}
+
+TEST_F(Find, EnterCancelsWhileTheHintIsShown)
+{
+    key(dialog, Qt::Key_Return);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    EXPECT_TRUE(dialog.strFindText().isEmpty());
+}
+
+TEST_F(Find, EnterFindsOnceSomethingIsTyped)
+{
+    compose(*input().lineEdit(), u" a  b\u3000c "_s);
+    key(dialog, Qt::Key_Return);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(dialog.strFindText(), u"a%b%c"_s);
+    EXPECT_EQ(dialog.strFieldName(), u"全部"_s);
+    EXPECT_FALSE(dialog.bIsAppointField());
+}
+
+TEST_F(Find, EscAndCancelLeaveNoResult)
+{
+    QTest::keyClicks(dialog.focusWidget(), u"a"_s);
+    key(dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+    present(dialog);
+    press(dialog, "CancelBtn");
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_TRUE(dialog.strFindText().isEmpty());
+}
+
+TEST_F(Find, OnlyBlanksDoNothing)
+{
+    QTest::keyClicks(dialog.focusWidget(), u"   "_s);
+    press(dialog, "FindBtn");
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_TRUE(dialog.strFindText().isEmpty());
+}
+
+TEST_F(Find, TwoFullWidthBlanksBecomeOneSeparator)
+{
+    compose(*input().lineEdit(), u"a\u3000\u3000b"_s);
+    press(dialog, "FindBtn");
+    EXPECT_EQ(dialog.strFindText(), u"a%b"_s);
+}
+
+TEST_F(Find, AChosenFieldIsAppointed)
+{
+    QTest::keyClicks(dialog.focusWidget(), u"x"_s);
+    field().setFocus();
+    key(dialog, Qt::Key_Down);
+    key(dialog, Qt::Key_Down);
+    press(dialog, "FindBtn");
+    EXPECT_EQ(dialog.strFieldName(), u"名称"_s);
+    EXPECT_TRUE(dialog.bIsAppointField());
+}
+
+TEST_F(Find, TheFieldNameCanBeWritten)
+{
+    dialog.PutStrFieldName(u"名称"_s);
+    EXPECT_EQ(dialog.strFieldName(), u"名称"_s);
+    EXPECT_FALSE(dialog.bIsAppointField());
+}
