@@ -1,0 +1,118 @@
+#include "filter/FilterCondition.h"
+
+#include "filter/FilterTexts.h"
+#include "filter/FilterValue.h"
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString equals(const QString &field, const FilterValue &value)
+{
+    if (value.nextDay.isEmpty())
+        return field + " = "_L1 + value.literal;
+    return u"(%1 >= %2 AND %1 < %3)"_s.arg(field, value.literal, value.nextDay);
+}
+
+QString compare(const QString &field, FilterOperator op, const FilterValue &value)
+{
+    const bool isDay = !value.nextDay.isEmpty();
+    switch (op) {
+    case FilterOperator::NotEquals:
+        return isDay ? u"(%1 < %2 OR %1 >= %3)"_s.arg(field, value.literal, value.nextDay)
+                     : field + " <> "_L1 + value.literal;
+    case FilterOperator::Greater:
+        return field + (isDay ? " >= "_L1 + value.nextDay : " > "_L1 + value.literal);
+    case FilterOperator::Less:
+        return field + " < "_L1 + value.literal;
+    case FilterOperator::AtLeast:
+        return field + " >= "_L1 + value.literal;
+    case FilterOperator::AtMost:
+        return field + (isDay ? " < "_L1 + value.nextDay : " <= "_L1 + value.literal);
+    default:
+        return equals(field, value);
+    }
+}
+
+FilterCondition between(const FilterSql::Dialect &dialect, const FilterChoice &choice)
+{
+    const auto first = ReadFilterValue(dialect, choice.field.fieldClass, choice.value);
+    const auto last = ReadFilterValue(dialect, choice.field.fieldClass, choice.lastValue);
+    if (!first || choice.value.isEmpty())
+        return {{}, WhyNoFilterValue(choice.field.fieldClass, choice.value)};
+    if (!last || choice.lastValue.isEmpty())
+        return {{}, WhyNoFilterValue(choice.field.fieldClass, choice.lastValue)};
+    if (first->rank && last->rank && *last->rank < *first->rank)
+        return {{}, FilterTexts::EndBeforeStart};
+    return {u'(' + compare(choice.field.written, FilterOperator::AtLeast, *first) + " AND "_L1 +
+                compare(choice.field.written, FilterOperator::AtMost, *last) + u')',
+            {}};
+}
+
+FilterCondition inList(const FilterSql::Dialect &dialect, const FilterChoice &choice)
+{
+    QStringList literals;
+    QStringList days;
+    for (const QString &item : SplitFilterList(choice.value)) {
+        const auto value = ReadFilterValue(dialect, choice.field.fieldClass, item);
+        if (!value)
+            return {{}, WhyNoFilterValue(choice.field.fieldClass, item)};
+        if (value->nextDay.isEmpty())
+            literals.append(value->literal);
+        else
+            days.append(equals(choice.field.written, *value));
+    }
+    if (!literals.isEmpty())
+        days.prepend(choice.field.written + " IN ("_L1 + literals.join(", "_L1) + u')');
+    if (days.isEmpty())
+        return {{}, FilterTexts::NoValue};
+    return {days.size() == 1 ? days.constFirst() : u'(' + days.join(" OR "_L1) + u')', {}};
+}
+
+QString isEmpty(const FilterSql::Dialect &dialect, const FilterField &field, bool wanted)
+{
+    if (field.fieldClass != FieldClass::Text)
+        return field.written + (wanted ? " IS NULL"_L1 : " IS NOT NULL"_L1);
+    return wanted ? FilterSql::IsEmptyText(field.written) : FilterSql::IsNotEmptyText(dialect, field.written);
+}
+
+} // namespace
+
+FilterCondition ConditionOf(const FilterSql::Dialect &dialect, const FilterChoice &choice)
+{
+    const FilterField &field = choice.field;
+    if (field.written.isEmpty())
+        return {{}, FilterTexts::NoField};
+    switch (choice.op) {
+    case FilterOperator::IsEmpty:
+    case FilterOperator::IsNotEmpty:
+        return {isEmpty(dialect, field, choice.op == FilterOperator::IsEmpty), {}};
+    case FilterOperator::Between:
+        return between(dialect, choice);
+    case FilterOperator::InList:
+        return inList(dialect, choice);
+    default:
+        break;
+    }
+    const auto value = ReadFilterValue(dialect, field.fieldClass, choice.value);
+    if (!value || choice.value.isEmpty())
+        return {{}, WhyNoFilterValue(field.fieldClass, choice.value)};
+    if (field.fieldClass == FieldClass::Boolean) {
+        const bool wanted = value->isTrue == (choice.op == FilterOperator::Equals);
+        return {FilterSql::IsTrue(dialect, field.written, wanted), {}};
+    }
+    switch (choice.op) {
+    case FilterOperator::Contains:
+        return {FilterSql::Like(dialect, field.written, choice.value, FilterSql::Anchor::None), {}};
+    case FilterOperator::BeginsWith:
+        return {FilterSql::Like(dialect, field.written, choice.value, FilterSql::Anchor::Begin), {}};
+    case FilterOperator::EndsWith:
+        return {FilterSql::Like(dialect, field.written, choice.value, FilterSql::Anchor::End), {}};
+    default:
+        return {compare(field.written, choice.op, *value), {}};
+    }
+}
+
+} // namespace KOVAVSFDataGridLib

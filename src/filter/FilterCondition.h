@@ -1,0 +1,33 @@
+#pragma once
+
+#include "filter/FilterOperator.h"
+#include "filter/FilterSql.h"
+
+namespace KOVAVSFDataGridLib {
+
+struct FilterField
+{
+    QString caption; // as the user reads it
+    QString written; // as it stands in a statement
+    FieldClass fieldClass = FieldClass::Text;
+};
+
+// What one row of the builder says.
+struct FilterChoice
+{
+    FilterField field;
+    FilterOperator op = FilterOperator::Equals;
+    QString value;
+    QString lastValue; // of "between"
+};
+
+// A condition, or in one line why there is none.
+struct FilterCondition
+{
+    QString sql;
+    QString fault;
+};
+
+FilterCondition ConditionOf(const FilterSql::Dialect &dialect, const FilterChoice &choice);
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "filter/FilterCondition.h"
+
+#include <QtWidgets/QWidget>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QComboBox;
+class QLabel;
+class QToolButton;
+
+namespace KOVAVSFDataGridLib {
+
+class ValueEdit;
+
+// What the rows of a builder are made for.
+struct FilterRowContext
+{
+    std::vector<FilterField> fields;
+    FilterSql::Dialect dialect;
+    // The values that a field has; see ValueEdit.
+    std::function<QStringList(const FilterField &)> readValues;
+};
+
+// One condition: brackets, field, operator, values, and how it goes on with the next one.
+class FilterRow final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int MostBrackets = 3;
+
+    explicit FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *parent = nullptr);
+
+    // Gives the parts their names; counted from 1.
+    void setNumber(int number);
+    // Whether a further row follows, and whether the row may be deleted.
+    void setPlace(bool isLast, bool isOnly);
+
+    // The row's condition as it stands now; without touching what is shown.
+    FilterCondition condition() const;
+    // The same, and shows what is wrong with it.
+    FilterCondition checkedCondition();
+    void showFault(const QString &fault);
+    // A fault of the brackets is one of all rows together, so a change in any row takes it away.
+    void clearBracketFault();
+    // Brackets and join, with an empty condition.
+    FilterSql::Term frame() const;
+    void setBrackets(int opens, int closes);
+
+    void focusFirstPart();
+    void focusFault();
+
+Q_SIGNALS:
+    void changed();
+    void deleteRequested();
+
+private:
+    void makeParts();
+    void layOut();
+    ValueEdit *makeValue(const QString &accessibleName);
+    QComboBox *makeBrackets(QChar bracket, const QString &accessibleName);
+    void onFieldChanged();
+    void onOperatorChanged();
+    void onEdited();
+    void onEditingFinished();
+    FilterField field() const;
+    FilterOperator op() const;
+    bool isStarted() const;
+
+    std::shared_ptr<const FilterRowContext> m_context;
+    QComboBox *m_opens;
+    QComboBox *m_field;
+    QComboBox *m_operator;
+    ValueEdit *m_value;
+    QLabel *m_to;
+    ValueEdit *m_lastValue;
+    QComboBox *m_closes;
+    QComboBox *m_join;
+    QToolButton *m_delete;
+    QLabel *m_fault;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,113 @@
+#include "filter/FilterRows.h"
+
+#include "filter/FilterTexts.h"
+
+#include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+FilterRows::FilterRows(QWidget *parent) : QWidget(parent), m_layout(new QVBoxLayout(this))
+{
+    m_layout->addStretch();
+    start(std::make_shared<FilterRowContext>());
+}
+
+void FilterRows::start(std::shared_ptr<const FilterRowContext> context)
+{
+    m_context = std::move(context);
+    qDeleteAll(m_rows);
+    m_rows.clear();
+    add();
+}
+
+FilterRow *FilterRows::add()
+{
+    auto *row = new FilterRow(m_context, this);
+    connect(row, &FilterRow::changed, this, &FilterRows::onRowChanged);
+    connect(row, &FilterRow::deleteRequested, this, [this, row] { remove(row); });
+    m_layout->insertWidget(static_cast<int>(m_rows.size()), row);
+    m_rows.append(row);
+    arrange();
+    return row;
+}
+
+void FilterRows::remove(FilterRow *row)
+{
+    const qsizetype at = m_rows.indexOf(row);
+    m_rows.removeAt(at);
+    // Brackets that reach beyond the row stay around what is left.
+    FilterSql::Term gone = row->frame();
+    const int own = std::min(gone.opens, gone.closes);
+    if (at < m_rows.size()) {
+        const FilterSql::Term next = m_rows.at(at)->frame();
+        m_rows.at(at)->setBrackets(next.opens + gone.opens - own, next.closes);
+    }
+    if (at > 0) {
+        const FilterSql::Term previous = m_rows.at(at - 1)->frame();
+        m_rows.at(at - 1)->setBrackets(previous.opens, previous.closes + gone.closes - own);
+    }
+    // Its parts must not be found any more, but the click that brought this about is still under way in it.
+    row->hide();
+    row->setParent(nullptr);
+    row->deleteLater();
+    arrange();
+    m_rows.at(std::min(at, m_rows.size() - 1))->focusFirstPart();
+}
+
+void FilterRows::arrange()
+{
+    for (qsizetype i = 0; i < m_rows.size(); ++i) {
+        m_rows.at(i)->setNumber(static_cast<int>(i) + 1);
+        m_rows.at(i)->setPlace(i + 1 == m_rows.size(), m_rows.size() == 1);
+    }
+    onRowChanged();
+}
+
+void FilterRows::onRowChanged()
+{
+    for (FilterRow *row : std::as_const(m_rows))
+        row->clearBracketFault();
+    Q_EMIT changed();
+}
+
+QString FilterRows::preview() const
+{
+    QList<FilterSql::Term> terms;
+    for (const FilterRow *row : m_rows) {
+        FilterSql::Term term = row->frame();
+        term.condition = row->condition().sql;
+        if (!term.condition.isEmpty())
+            terms.append(term);
+    }
+    return FilterSql::Join(terms);
+}
+
+QString FilterRows::checkedText()
+{
+    FilterRow *firstFault = nullptr;
+    for (FilterRow *row : std::as_const(m_rows)) {
+        if (!row->checkedCondition().fault.isEmpty() && !firstFault)
+            firstFault = row;
+    }
+    if (firstFault) {
+        firstFault->focusFault();
+        return {};
+    }
+    return markUnmatchedBracket() ? QString() : preview();
+}
+
+bool FilterRows::markUnmatchedBracket()
+{
+    QList<FilterSql::Term> terms;
+    for (const FilterRow *row : std::as_const(m_rows))
+        terms.append(row->frame());
+    const qsizetype at = FilterSql::UnmatchedBracket(terms);
+    if (at < 0)
+        return false;
+    m_rows.at(at)->showFault(FilterTexts::UnmatchedBracket);
+    return true;
+}
+
+} // namespace KOVAVSFDataGridLib

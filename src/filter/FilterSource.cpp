@@ -1,0 +1,102 @@
+#include "filter/FilterSource.h"
+
+#include "ado/Connection.h"
+#include "ado/ConnectionFactory.h"
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+
+#include <QtCore/QSet>
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+void FilterSource::setConnection(std::shared_ptr<ADODB::Connection> connection)
+{
+    m_connection = std::move(connection);
+    m_connectionString = m_connection ? m_connection->ConnectionString() : QString();
+}
+
+void FilterSource::setConnectionString(const QString &text)
+{
+    m_connection.reset();
+    m_connectionString = text;
+}
+
+void FilterSource::setTable(const QString &fromText)
+{
+    m_fromText = fromText.trimmed();
+}
+
+FilterSql::Dialect FilterSource::dialect() const
+{
+    return FilterSql::DialectOf(m_database, m_connectionString);
+}
+
+const std::shared_ptr<ADODB::Connection> &FilterSource::connection()
+{
+    if (!m_connection) {
+        auto connection = ADODB::ConnectionFactory::instance().newConnection(m_database);
+        connection->Open(m_connectionString);
+        m_connection = std::move(connection);
+    }
+    return m_connection;
+}
+
+std::vector<FilterField> FilterSource::readFields()
+{
+    std::vector<ADODB::FieldInfo> infos;
+    const QString everything = u"SELECT * FROM "_s;
+    try {
+        infos = connection()->Describe(everything + m_fromText);
+    } catch (const ADODB::Error &) {
+        // A plain name that SQL can't read without brackets or quotes.
+        const QString written = FilterSql::FieldName(dialect(), m_fromText);
+        if (written == m_fromText)
+            throw;
+        infos = connection()->Describe(everything + written);
+        m_fromText = written;
+    }
+
+    const auto isNamed = [](const QString &name) {
+        return [name](const ADODB::FieldInfo &info) {
+            return info.name.compare(name, Qt::CaseInsensitive) == 0;
+        };
+    };
+    std::vector<FilterField> fields;
+    QSet<QString> captions;
+    for (const ADODB::FieldInfo &info : infos) {
+        QString written = FilterSql::FieldName(dialect(), info.name);
+        QString caption = info.name;
+        if (!info.baseTable.isEmpty() && std::ranges::count_if(infos, isNamed(info.name)) > 1) {
+            written = FilterSql::FieldName(dialect(), info.baseTable) + u'.' + written;
+            caption = info.baseTable + u'.' + caption;
+        }
+        if (!captions.contains(caption)) {
+            captions.insert(caption);
+            fields.push_back({caption, written, FieldClassOf(info.type)});
+        }
+    }
+    return fields;
+}
+
+QStringList FilterSource::readValues(const FilterField &field)
+{
+    ADODB::Recordset values;
+    values.Open(FilterSql::DistinctValues(dialect(), field.written, m_fromText, MostValues), connection());
+    QStringList texts;
+    for (qint64 record = 1; record <= values.RecordCount(); ++record) {
+        if (const QString text = values.CellText(record, 0); !text.isEmpty())
+            texts.append(text);
+    }
+    return texts;
+}
+
+void FilterSource::check(const QString &condition)
+{
+    connection()->Describe(u"SELECT * FROM "_s + m_fromText + " WHERE "_L1 + condition);
+}
+
+} // namespace KOVAVSFDataGridLib

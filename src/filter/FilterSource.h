@@ -1,0 +1,47 @@
+#pragma once
+
+#include "filter/FilterCondition.h"
+
+#include <memory>
+#include <vector>
+
+namespace ADODB {
+class Connection;
+}
+
+namespace KOVAVSFDataGridLib {
+
+// Where the builder's fields and values come from. Reads nothing before it is asked. The reading functions
+// throw ADODB::Error.
+class FilterSource
+{
+public:
+    static constexpr int MostValues = 200;
+
+    void setDatabase(AllDBType database) { m_database = database; }
+    // One of the two. A connection must be open, and is shared; a string is opened on first use.
+    void setConnection(std::shared_ptr<ADODB::Connection> connection);
+    void setConnectionString(const QString &text);
+    // As it stands behind FROM: a table's name, written as SQL needs it or plain, or several tables joined.
+    void setTable(const QString &fromText);
+
+    bool hasTable() const { return !m_fromText.isEmpty(); }
+    FilterSql::Dialect dialect() const;
+
+    // The table's fields in its order. A name that several tables share is told apart by the table's.
+    std::vector<FilterField> readFields();
+    // At most MostValues values that the field has, in order.
+    QStringList readValues(const FilterField &field);
+    // Lets the database look at a condition without running it.
+    void check(const QString &condition);
+
+private:
+    const std::shared_ptr<ADODB::Connection> &connection();
+
+    AllDBType m_database = dbAccess;
+    QString m_connectionString;
+    std::shared_ptr<ADODB::Connection> m_connection;
+    QString m_fromText;
+};
+
+} // namespace KOVAVSFDataGridLib

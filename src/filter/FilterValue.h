@@ -1,0 +1,38 @@
+#pragma once
+
+#include "filter/FieldClass.h"
+#include "filter/FilterSql.h"
+
+#include <optional>
+
+namespace KOVAVSFDataGridLib {
+
+// A typed value as it stands in a condition.
+struct FilterValue
+{
+    QString literal = {};
+    // Only for a moment of which just the day was typed: the moment at which the next day begins.
+    QString nextDay = {};
+    bool isTrue = false;             // of a Boolean
+    std::optional<double> rank = {}; // for telling which of two values is larger, where that is known
+};
+
+// Nothing when the text is no value of that class. Digits and signs may be full-width, as Chinese input
+// methods give them. Text is taken as it was typed, with its blanks.
+std::optional<FilterValue> ReadFilterValue(const FilterSql::Dialect &dialect, FieldClass fieldClass,
+                                           const QString &typed);
+
+// The day that a text is or begins with; invalid when there is none.
+QDate DayOf(const QString &typed);
+
+// What to tell somebody who typed no such value.
+QString WhyNoFilterValue(FieldClass fieldClass, const QString &typed);
+
+// The values of a list, which are separated by commas, narrow or full-width; one in double quotes may hold
+// commas itself. Empty values are left out.
+QStringList SplitFilterList(const QString &typed);
+
+// A value as it can be typed into a list.
+QString FilterListItem(const QString &value);
+
+} // namespace KOVAVSFDataGridLib

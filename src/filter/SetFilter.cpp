@@ -1,0 +1,225 @@
+#include "filter/SetFilter.h"
+
+#include "ado/Error.h"
+#include "filter/FilterRows.h"
+#include "filter/FilterTexts.h"
+#include "forms/FlatCmd.h"
+
+#include <QtCore/QRegularExpression>
+#include <QtCore/QTimer>
+#include <QtGui/QGuiApplication>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QVBoxLayout>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Shows that the user has to wait while it lives.
+struct WaitCursor
+{
+    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+    Q_DISABLE_COPY_MOVE(WaitCursor)
+};
+
+} // namespace
+
+SetFilter::SetFilter(QWidget *parent)
+    : QWidget(parent),
+      m_table(new QLabel(this)),
+      m_scroll(new QScrollArea(this)),
+      m_rows(new FilterRows),
+      m_add(new FlatCmd(FilterTexts::AddRow, this)),
+      m_condition(new QLineEdit(this)),
+      m_backToRows(new FlatCmd(FilterTexts::BackToRows, this)),
+      m_notice(new QLabel(this))
+{
+    m_table->setObjectName(u"lblTable"_s);
+    m_table->setTextFormat(Qt::PlainText);
+    m_scroll->setWidget(m_rows);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_add->setObjectName(u"cmdAddRow"_s);
+    m_condition->setObjectName(u"txtCondition"_s);
+    m_condition->setAccessibleName(FilterTexts::ConditionName);
+    m_condition->setPlaceholderText(FilterTexts::ConditionHint);
+    m_backToRows->setObjectName(u"cmdBackToRows"_s);
+    m_backToRows->hide();
+    m_notice->setObjectName(u"lblNotice"_s);
+    m_notice->setTextFormat(Qt::PlainText);
+    m_notice->setWordWrap(true);
+    layOut();
+
+    connect(m_rows, &FilterRows::changed, this, &SetFilter::onRowsChanged);
+    connect(m_add, &QPushButton::clicked, this, &SetFilter::addRow);
+    connect(m_condition, &QLineEdit::textEdited, this, &SetFilter::onConditionEdited);
+    connect(m_backToRows, &QPushButton::clicked, this, &SetFilter::backToRows);
+}
+
+void SetFilter::layOut()
+{
+    auto *conditionLabel = new QLabel(FilterTexts::Condition, this);
+    conditionLabel->setBuddy(m_condition);
+    auto *addRow = new QHBoxLayout;
+    addRow->addWidget(m_add);
+    addRow->addStretch();
+    auto *conditionRow = new QHBoxLayout;
+    conditionRow->addWidget(conditionLabel);
+    conditionRow->addWidget(m_condition, 1);
+    conditionRow->addWidget(m_backToRows);
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins({});
+    rows->addWidget(m_table);
+    rows->addWidget(m_scroll, 1);
+    rows->addLayout(addRow);
+    rows->addLayout(conditionRow);
+    rows->addWidget(m_notice);
+    // Room for the notice from the beginning, so that nothing jumps when there is one.
+    m_notice->setMinimumHeight(fontMetrics().lineSpacing());
+    m_scroll->setMinimumWidth(m_rows->minimumSizeHint().width() + 2 * m_scroll->frameWidth() +
+                              style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+}
+
+void SetFilter::Initialize(const QString &caption, AllDBType database)
+{
+    m_caption = caption;
+    m_source.setDatabase(database);
+}
+
+void SetFilter::SetConnection(std::shared_ptr<ADODB::Connection> connection)
+{
+    m_source.setConnection(std::move(connection));
+}
+
+void SetFilter::SetConnectionString(const QString &text)
+{
+    m_source.setConnectionString(text);
+}
+
+void SetFilter::SetCurrentTable(const QString &name)
+{
+    m_table->setText(name.isEmpty() ? m_caption : m_caption + u'：' + name);
+}
+
+void SetFilter::SetTableName(const QString &fromText)
+{
+    auto context = std::make_shared<FilterRowContext>();
+    QString fault;
+    m_source.setTable(fromText);
+    m_knownValues.clear();
+    try {
+        const WaitCursor waiting;
+        context->fields = m_source.readFields();
+    } catch (const ADODB::Error &error) {
+        fault = FilterTexts::FieldsUnreadable.arg(error.Description());
+    }
+    context->dialect = m_source.dialect();
+    context->readValues = [this](const FilterField &field) { return valuesOf(field); };
+    m_rows->start(std::move(context));
+    tell(fault);
+}
+
+QStringList SetFilter::valuesOf(const FilterField &field)
+{
+    if (const auto known = m_knownValues.constFind(field.written); known != m_knownValues.constEnd())
+        return *known;
+    try {
+        const WaitCursor waiting;
+        const QStringList values = m_source.readValues(field);
+        tell(values.isEmpty() ? FilterTexts::NoValues : QString());
+        m_knownValues.insert(field.written, values);
+        return values;
+    } catch (const ADODB::Error &error) {
+        tell(FilterTexts::ValuesUnreadable.arg(error.Description()));
+        return {};
+    }
+}
+
+void SetFilter::addRow()
+{
+    FilterRow *row = m_rows->add();
+    row->focusFirstPart();
+    // The row has its place only once the layout has run.
+    QTimer::singleShot(0, row, [this, row] { m_scroll->ensureWidgetVisible(row); });
+}
+
+void SetFilter::onRowsChanged()
+{
+    if (m_isByHand)
+        return;
+    tell({});
+    m_condition->setText(m_rows->preview());
+    m_condition->setToolTip(m_condition->text());
+    m_condition->setCursorPosition(0);
+}
+
+void SetFilter::onConditionEdited()
+{
+    // Typing goes on here, wherever the keyboard was when this began.
+    m_condition->setFocus();
+    setByHand(true);
+    tell(FilterTexts::ByHand);
+}
+
+void SetFilter::backToRows()
+{
+    setByHand(false);
+    onRowsChanged();
+    m_rows->setFocus();
+}
+
+// What stands in the rows stays there meanwhile, and shows by its paleness that it does not count.
+void SetFilter::setByHand(bool isByHand)
+{
+    m_isByHand = isByHand;
+    m_rows->setEnabled(!isByHand);
+    m_add->setEnabled(!isByHand);
+    m_backToRows->setVisible(isByHand);
+}
+
+QString SetFilter::ConditionText()
+{
+    if (m_isByHand)
+        return conditionByHand();
+    const QString text = m_rows->checkedText();
+    if (text.isEmpty())
+        tell(FilterTexts::CorrectRows);
+    return text;
+}
+
+QString SetFilter::conditionByHand()
+{
+    QString text = m_condition->text().trimmed();
+    if (text.isEmpty()) {
+        tell(FilterTexts::NoCondition);
+        return {};
+    }
+    // Further conditions are joined by AND, which binds closer.
+    static const QRegularExpression orWord(u"\\bOR\\b"_s, QRegularExpression::CaseInsensitiveOption);
+    if (text.contains(orWord))
+        text = u'(' + text + u')';
+    if (!m_source.hasTable())
+        return text;
+    try {
+        const WaitCursor waiting;
+        m_source.check(text);
+        return text;
+    } catch (const ADODB::Error &error) {
+        tell(error.Description());
+        return {};
+    }
+}
+
+void SetFilter::tell(const QString &notice)
+{
+    m_notice->setText(notice);
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "filter/FilterSource.h"
+
+#include <QtCore/QHash>
+#include <QtWidgets/QWidget>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QScrollArea;
+
+namespace KOVAVSFDataGridLib {
+
+class FilterRows;
+
+// Builds a condition for the rows of a table. Prepare it in this order: Initialize, one of SetConnection and
+// SetConnectionString, SetCurrentTable, SetTableName; ConditionText() then answers what was built.
+class SetFilter final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SetFilter(QWidget *parent = nullptr);
+
+    // `caption` stands before the table's name.
+    void Initialize(const QString &caption, AllDBType database);
+    // An open connection, which is shared, or a string that is opened when it is needed.
+    void SetConnection(std::shared_ptr<ADODB::Connection> connection);
+    void SetConnectionString(const QString &text);
+    // What the user is told is filtered.
+    void SetCurrentTable(const QString &name);
+    // The text behind FROM whose fields are offered; reads them. When that fails the builder says why, and a
+    // condition can still be typed.
+    void SetTableName(const QString &fromText);
+
+    // The condition, ready to be joined to others by AND. Empty when there is none or something is wrong with
+    // it, which is then shown.
+    QString ConditionText();
+
+private:
+    void layOut();
+    void addRow();
+    void onRowsChanged();
+    void onConditionEdited();
+    void backToRows();
+    void setByHand(bool isByHand);
+    QString conditionByHand();
+    QStringList valuesOf(const FilterField &field);
+    void tell(const QString &notice);
+
+    FilterSource m_source;
+    QHash<QString, QStringList> m_knownValues; // by the field as written
+    QString m_caption;
+    QLabel *m_table;
+    QScrollArea *m_scroll;
+    FilterRows *m_rows;
+    QPushButton *m_add;
+    QLineEdit *m_condition;
+    QPushButton *m_backToRows;
+    QLabel *m_notice;
+    bool m_isByHand = false;
+};
+
+} // namespace KOVAVSFDataGridLib

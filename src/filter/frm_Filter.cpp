@@ -1,0 +1,80 @@
+#include "filter/frm_Filter.h"
+
+#include "filter/FilterTexts.h"
+#include "filter/SetFilter.h"
+#include "forms/GradualControl.h"
+
+#include <QtWidgets/QFrame>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QVBoxLayout>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+frm_Filter::frm_Filter(QWidget *parent) : QDialog(parent), m_builder(new SetFilter(this))
+{
+    setObjectName(u"frm_Filter"_s);
+    setWindowTitle(FilterTexts::Title);
+    setSizeGripEnabled(true);
+    m_builder->setObjectName(u"SetFilter1"_s);
+    auto *back = new QFrame(this);
+    back->setObjectName(u"pic_BackGround1"_s);
+    auto *backRows = new QVBoxLayout(back);
+    backRows->setContentsMargins({});
+    backRows->addWidget(m_builder);
+
+    auto *filter = new QPushButton(FilterTexts::Filter, this);
+    filter->setObjectName(u"cmd_Filter"_s);
+    filter->setDefault(true);
+    auto *cancel = new QPushButton(FilterTexts::Cancel, this);
+    cancel->setObjectName(u"cmd_Cancel"_s);
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(filter);
+    buttons->addWidget(cancel);
+
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+    auto *body = new QVBoxLayout;
+    body->setContentsMargins(margin, 0, margin, margin);
+    body->addWidget(back, 1);
+    body->addLayout(buttons);
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins({});
+    rows->addWidget(makeBand());
+    rows->addLayout(body);
+    resize(sizeHint().width(), fontMetrics().height() * 24);
+
+    connect(filter, &QPushButton::clicked, this, &frm_Filter::filter);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+QWidget *frm_Filter::makeBand()
+{
+    auto *band = new GradualControl(this);
+    band->setObjectName(u"GradualControl1"_s);
+    auto *picture = new QLabel(band);
+    picture->setObjectName(u"Picture2"_s);
+    picture->setPixmap(style()->standardIcon(QStyle::SP_FileDialogContentsView).pixmap(16));
+    auto *explanation = new QLabel(FilterTexts::Explanation, band);
+    explanation->setObjectName(u"Label2"_s);
+    QFont bold = explanation->font();
+    bold.setBold(true);
+    explanation->setFont(bold);
+    auto *row = new QHBoxLayout(band);
+    row->addWidget(picture);
+    row->addWidget(explanation, 1);
+    return band;
+}
+
+void frm_Filter::filter()
+{
+    m_strFilterCondition = m_builder->ConditionText();
+    if (!m_strFilterCondition.isEmpty())
+        accept();
+}
+
+} // namespace KOVAVSFDataGridLib

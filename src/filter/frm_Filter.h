@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QtWidgets/QDialog>
+
+namespace KOVAVSFDataGridLib {
+
+class SetFilter;
+
+// Shows the filter builder until the user has a condition or cancels.
+class frm_Filter final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit frm_Filter(QWidget *parent = nullptr);
+
+    SetFilter &SetFilter1() { return *m_builder; }
+    // Empty when the dialog was cancelled.
+    const QString &strFilterCondition() const { return m_strFilterCondition; }
+
+private:
+    QWidget *makeBand();
+    void filter();
+
+    SetFilter *m_builder;
+    QString m_strFilterCondition;
+};
+
+} // namespace KOVAVSFDataGridLib

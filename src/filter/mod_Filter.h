@@ -1,0 +1,66 @@
+#pragma once
+
+#include "query/AllDBType.h"
+#include "query/FilterTableName.h"
+
+#include <QtCore/QPointer>
+
+#include <memory>
+
+class QWidget;
+
+namespace ADODB {
+class Connection;
+}
+
+namespace KOVAVSFDataGridLib {
+
+class frm_Filter;
+
+// What a filter dialog is prepared from.
+struct FilterRequest
+{
+    QString connectionString;
+    AllDBType dbType = dbAccess;
+    qint32 tableType = 0; // 0 a table, 1 a view, 2 a statement of the host's own
+    QString sqlShow;      // the statement whose table is filtered
+    // For table type 2, where the connection string alone may not lead to the same data; may be null.
+    std::shared_ptr<ADODB::Connection> connection;
+};
+
+// Runs the filter dialog and keeps what it left. One object can run any number of dialogs, one after another.
+class mod_Filter
+{
+public:
+    explicit mod_Filter(QWidget *parent = nullptr);
+    ~mod_Filter();
+    Q_DISABLE_COPY_MOVE(mod_Filter)
+
+    // Forgets the last condition and makes the dialog ready.
+    void PrepareFilterDialog(const FilterRequest &request);
+    // Shows it modally; answers strFilterCondition().
+    QString ShowFilterDialog();
+
+    // Empty when the dialog was cancelled.
+    const QString &strFilterCondition() const { return m_strFilterCondition; }
+
+    // The current table's name, and what is made of it.
+    const QString &strTableName() const { return m_strTableName; }
+    void PutStrTableName(const QString &name) { m_strTableName = name; }
+    // Removes the brackets around the name and counts the table as known.
+    void SetFilterTableName();
+    // Takes owner and table apart where the name has a ".".
+    void SplitFilterTableName();
+    const FilterTableName &NameParts() const { return m_nameParts; }
+    bool IsTableKnown() const { return m_isTableKnown; }
+
+private:
+    QPointer<QWidget> m_parent;
+    std::unique_ptr<frm_Filter> m_dialog;
+    QString m_strFilterCondition;
+    QString m_strTableName;
+    FilterTableName m_nameParts;
+    bool m_isTableKnown = false;
+};
+
+} // namespace KOVAVSFDataGridLib

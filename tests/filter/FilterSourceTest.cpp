@@ -1,0 +1,92 @@
+#include "filter/FilterSource.h"
+
+#include "ado/Connection.h"
+#include "ado/Error.h"
+#include "support/TestDatabase.h"
+
+#include <gtest/gtest.h>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Source : testing::Test
+{
+    Source() { source.setConnectionString(database.connectionString()); }
+
+    QStringList written(const QString &fromText)
+    {
+        source.setTable(fromText);
+        QStringList names;
+        for (const FilterField &field : source.readFields())
+            names.append(field.written);
+        return names;
+    }
+
+    KovaTest::TestDatabase database{
+        u"CREATE TABLE [订单 明细] (编号 INTEGER, 名称 VARCHAR(20), [单价(元)] NUMERIC, 日期 DATE, 时刻 "
+        u"TIMESTAMP,"
+        " 钟点 TIME, 停售 BOOLEAN, 图 BLOB);"
+        "CREATE TABLE A (ID INTEGER, X TEXT); CREATE TABLE B (ID INTEGER, Y TEXT);"
+        "CREATE TABLE Many (V TEXT);"
+        "WITH RECURSIVE N(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM N WHERE n < 300)"
+        " INSERT INTO Many SELECT printf('v%03d', n % 250) FROM N;"
+        "INSERT INTO Many VALUES (NULL), ('');"_s};
+    FilterSource source;
+};
+
+} // namespace
+
+TEST_F(Source, KnowsTheClassOfEachField)
+{
+    source.setTable(u"[订单 明细]"_s);
+    QList<FieldClass> classes;
+    for (const FilterField &field : source.readFields())
+        classes.append(field.fieldClass);
+    using enum FieldClass;
+    EXPECT_EQ(classes, (QList<FieldClass>{Number, Text, Number, Date, Moment, Time, Boolean, Other}));
+}
+
+TEST_F(Source, FindsATableThatIsNamedWithoutItsBrackets)
+{
+    EXPECT_EQ(written(u"订单 明细"_s).at(2), u"[单价(元)]"_s);
+}
+
+TEST_F(Source, TellsFieldsOfSeveralTablesApart)
+{
+    EXPECT_EQ(written(u"A, B"_s), (QStringList{u"A.ID"_s, u"X"_s, u"B.ID"_s, u"Y"_s}));
+    EXPECT_EQ(written(u"A inner join B on A.ID = B.ID"_s).size(), 4);
+}
+
+TEST_F(Source, AMissingTableIsAnError)
+{
+    source.setTable(u"没有"_s);
+    EXPECT_THROW(source.readFields(), ADODB::Error);
+}
+
+TEST_F(Source, ReadsAtMostTwoHundredDifferentValuesInOrder)
+{
+    source.setTable(u"Many"_s);
+    const QStringList values = source.readValues({u"V"_s, u"V"_s, FieldClass::Text});
+    EXPECT_EQ(values.size(), 199); // 200 with the empty one, which can't be typed
+    EXPECT_EQ(values.constFirst(), u"v000"_s);
+    EXPECT_EQ(values.constLast(), u"v198"_s);
+}
+
+TEST_F(Source, UsesAConnectionThatItIsGiven)
+{
+    const auto connection = std::make_shared<ADODB::Connection>();
+    connection->Open(database.connectionString());
+    source.setConnection(connection);
+    EXPECT_EQ(written(u"A"_s).size(), 2);
+    EXPECT_EQ(connection->State(), ADODB::adStateOpen);
+}
+
+TEST_F(Source, LetsTheDatabaseLookAtACondition)
+{
+    source.setTable(u"A"_s);
+    EXPECT_NO_THROW(source.check(u"ID > 5 OR X LIKE 'a%'"_s));
+    EXPECT_THROW(source.check(u"ID >"_s), ADODB::Error);
+    EXPECT_THROW(source.check(u"Z = 1"_s), ADODB::Error);
+}

@@ -1,0 +1,107 @@
+#include "filter/FilterValue.h"
+
+#include <gtest/gtest.h>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr FilterSql::Dialect Sqlite{dbAccess, false};
+
+// The literal; "-" when the text is no such value.
+std::string literal(FieldClass fieldClass, const QString &typed)
+{
+    const auto value = ReadFilterValue(Sqlite, fieldClass, typed);
+    return value ? value->literal.toStdString() : "-";
+}
+
+} // namespace
+
+TEST(FilterValue, NumbersKeepEveryDigitThatWasTyped)
+{
+    const FieldClass number = FieldClass::Number;
+    EXPECT_EQ(literal(number, u" 12 "_s), "12");
+    EXPECT_EQ(literal(number, u"+7"_s), "7");
+    EXPECT_EQ(literal(number, u"-0.10"_s), "-0.10");
+    EXPECT_EQ(literal(number, u"12345678901234567890.123"_s), "12345678901234567890.123");
+    EXPECT_EQ(literal(number, u"1e-5"_s), "1e-5");
+    EXPECT_EQ(literal(number, u"－１２．５"_s), "-12.5"); // full-width
+    EXPECT_EQ(literal(number, u"\u2212"
+                              "3"_s),
+              "-3");
+}
+
+TEST(FilterValue, OtherTextsAreNoNumbers)
+{
+    for (const QString &typed :
+         {u""_s, u"abc"_s, u"1,000"_s, u"--1"_s, u"1.2.3"_s, u"0x10"_s, u"nan"_s, u"1 OR 1"_s})
+        EXPECT_EQ(literal(FieldClass::Number, typed), "-") << qUtf8Printable(typed);
+}
+
+TEST(FilterValue, DaysAreReadInTheUsualForms)
+{
+    for (const QString &typed : {u"2024-01-05"_s, u"2024-1-5"_s, u"2024/1/5"_s, u"2024.01.05"_s,
+                                 u"20240105"_s, u"2024年1月5日"_s, u"２０２４－０１－０５"_s})
+        EXPECT_EQ(literal(FieldClass::Date, typed), "'2024-01-05'") << qUtf8Printable(typed);
+    for (const QString &typed :
+         {u"2024-13-01"_s, u"2023-02-29"_s, u"5.1.2024"_s, u"2024-01-05 08:00"_s, u"today"_s})
+        EXPECT_EQ(literal(FieldClass::Date, typed), "-") << qUtf8Printable(typed);
+}
+
+TEST(FilterValue, TimesAndMomentsAreRead)
+{
+    EXPECT_EQ(literal(FieldClass::Time, u"8:30"_s), "'08:30:00'");
+    EXPECT_EQ(literal(FieldClass::Time, u"08：30：05"_s), "'08:30:05'");
+    EXPECT_EQ(literal(FieldClass::Time, u"25:00"_s), "-");
+    EXPECT_EQ(literal(FieldClass::Moment, u"2024-01-05 8:30"_s), "'2024-01-05 08:30:00'");
+    EXPECT_EQ(literal(FieldClass::Moment, u"2024-01-05T08:30:01.5"_s), "'2024-01-05 08:30:01.500'");
+    EXPECT_EQ(literal(FieldClass::Moment, u"8:30"_s), "-");
+}
+
+TEST(FilterValue, ADayInAMomentFieldKnowsWhereItEnds)
+{
+    const auto value = ReadFilterValue(Sqlite, FieldClass::Moment, u"2023-12-31"_s);
+    ASSERT_TRUE(value);
+    EXPECT_EQ(value->nextDay, u"'2024-01-01'"_s);
+}
+
+TEST(FilterValue, TextIsTakenAsTyped)
+{
+    EXPECT_EQ(literal(FieldClass::Text, u" a'b "_s), "' a''b '");
+    EXPECT_EQ(literal(FieldClass::Text, u"１２"_s), "'１２'");
+}
+
+TEST(FilterValue, YesAndNoAreReadInSeveralWords)
+{
+    for (const QString &typed : {u"是"_s, u"True"_s, u"1"_s, u"-1"_s, u"１"_s})
+        EXPECT_TRUE(ReadFilterValue(Sqlite, FieldClass::Boolean, typed)->isTrue) << qUtf8Printable(typed);
+    for (const QString &typed : {u"否"_s, u"FALSE"_s, u"0"_s})
+        EXPECT_FALSE(ReadFilterValue(Sqlite, FieldClass::Boolean, typed)->isTrue) << qUtf8Printable(typed);
+    EXPECT_EQ(literal(FieldClass::Boolean, u"maybe"_s), "-");
+}
+
+TEST(FilterValue, WhatIsMissingOrWrongIsSaidInOneLine)
+{
+    EXPECT_EQ(WhyNoFilterValue(FieldClass::Number, u" "_s), u"请输入值。"_s);
+    EXPECT_EQ(WhyNoFilterValue(FieldClass::Number, u"abc"_s), u"“abc”不是数字。"_s);
+    EXPECT_TRUE(WhyNoFilterValue(FieldClass::Date, u"x"_s).contains(u"2024-01-31"_s));
+}
+
+TEST(FilterValue, ListsAreSplitAtNarrowAndWideCommas)
+{
+    EXPECT_EQ(SplitFilterList(u" a, b，c ,,"_s), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+    EXPECT_EQ(SplitFilterList(u"\"a,b\", \"say \"\"hi\"\"\",c"_s),
+              (QStringList{u"a,b"_s, u"say \"hi\""_s, u"c"_s}));
+    EXPECT_TRUE(SplitFilterList(u" ， "_s).isEmpty());
+}
+
+TEST(FilterValue, AnyValueSurvivesTheWayIntoAListAndBack)
+{
+    for (const QString &value :
+         {u"plain"_s, u"a,b"_s, u"甲，乙"_s, u" edge "_s, u"\"quoted\""_s, u"it's"_s, u"a\"b"_s}) {
+        EXPECT_EQ(SplitFilterList(u"x, "_s + FilterListItem(value) + u", y"_s),
+                  (QStringList{u"x"_s, value, u"y"_s}))
+            << qUtf8Printable(value);
+    }
+}

@@ -1,0 +1,72 @@
+#include "filter/frm_Filter.h"
+
+#include "filter/SetFilter.h"
+#include "support/Dialogs.h"
+#include "support/TestDatabase.h"
+
+#include <QtWidgets/QLineEdit>
+#include <gtest/gtest.h>
+
+using namespace KOVAVSFDataGridLib;
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct FilterForm : testing::Test
+{
+    FilterForm()
+    {
+        dialog.SetFilter1().Initialize(u"当前使用数据表"_s, dbAccess);
+        dialog.SetFilter1().SetConnectionString(database.connectionString());
+        dialog.SetFilter1().SetTableName(u"T"_s);
+        present(dialog);
+    }
+    QLineEdit &value() const { return part<QLineEdit>(dialog, "txtValue1"); }
+
+    TestDatabase database{u"CREATE TABLE T (ID INTEGER)"_s};
+    frm_Filter dialog;
+};
+
+} // namespace
+
+TEST_F(FilterForm, AConditionEndsIt)
+{
+    QTest::keyClicks(&value(), u"3"_s);
+    press(dialog, "cmd_Filter");
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(dialog.strFilterCondition(), u"ID = 3"_s);
+}
+
+TEST_F(FilterForm, EnterFilters)
+{
+    QTest::keyClicks(&value(), u"3"_s);
+    QTest::keyClick(&value(), Qt::Key_Return);
+    EXPECT_EQ(dialog.strFilterCondition(), u"ID = 3"_s);
+}
+
+TEST_F(FilterForm, WithoutAConditionItStaysOpen)
+{
+    press(dialog, "cmd_Filter");
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_TRUE(dialog.strFilterCondition().isEmpty());
+}
+
+TEST_F(FilterForm, CancelEscAndTheCloseBoxLeaveNoCondition)
+{
+    QTest::keyClicks(&value(), u"3"_s);
+    press(dialog, "cmd_Cancel");
+    EXPECT_FALSE(dialog.isVisible());
+    present(dialog);
+    QTest::keyClick(&value(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+    present(dialog);
+    EXPECT_TRUE(dialog.close());
+    EXPECT_TRUE(dialog.strFilterCondition().isEmpty());
+}
+
+TEST_F(FilterForm, HasItsDecoration)
+{
+    for (const char *name : {"GradualControl1", "pic_BackGround1", "Picture2", "Label2", "SetFilter1"})
+        EXPECT_TRUE(part(dialog, name).isVisible()) << name;
+}
