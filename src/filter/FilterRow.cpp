@@ -5,11 +5,10 @@
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
-#include <QtWidgets/QVBoxLayout>
 
 namespace KOVAVSFDataGridLib {
 
@@ -68,12 +67,12 @@ void FilterRow::layOut()
 {
     // Widths that do not depend on a row's contents, so that the rows stand in columns.
     m_field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_field->setMinimumWidth(fontMetrics().averageCharWidth() * 20);
+    m_field->setMinimumWidth(fontMetrics().averageCharWidth() * 22);
     m_operator->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_operator->setMinimumContentsLength(11);
+    m_operator->setMinimumContentsLength(8);
     m_operator->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto *values = new QWidget(this);
-    values->setMinimumWidth(fontMetrics().averageCharWidth() * 34);
+    values->setMinimumWidth(fontMetrics().averageCharWidth() * 56);
     auto *valueRow = new QHBoxLayout(values);
     valueRow->setContentsMargins({});
     valueRow->addWidget(m_value, 1);
@@ -83,19 +82,18 @@ void FilterRow::layOut()
     staying.setRetainSizeWhenHidden(true);
     m_join->setSizePolicy(staying);
 
-    auto *row = new QHBoxLayout;
-    row->addWidget(m_opens);
-    row->addWidget(m_field, 3);
-    row->addWidget(m_operator);
-    row->addWidget(values, 5);
-    row->addWidget(m_closes);
-    row->addWidget(m_join);
-    row->addWidget(m_delete);
-    auto *rows = new QVBoxLayout(this);
-    rows->setContentsMargins({});
-    rows->setSpacing(2);
-    rows->addLayout(row);
-    rows->addWidget(m_fault);
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins({});
+    grid->setVerticalSpacing(2);
+    int column = 0;
+    for (QWidget *part :
+         std::initializer_list<QWidget *>{m_opens, m_field, m_operator, values, m_closes, m_join, m_delete})
+        grid->addWidget(part, 0, column++);
+    constexpr int fieldColumn = 1;
+    constexpr int valueColumn = 3;
+    grid->setColumnStretch(fieldColumn, 3);
+    grid->setColumnStretch(valueColumn, 5);
+    grid->addWidget(m_fault, 1, fieldColumn, 1, column - fieldColumn);
 }
 
 ValueEdit *FilterRow::makeValue(const QString &accessibleName)

@@ -107,6 +107,7 @@ bool FilterRows::markUnmatchedBracket()
     if (at < 0)
         return false;
     m_rows.at(at)->showFault(FilterTexts::UnmatchedBracket);
+    m_rows.at(at)->focusFirstPart();
     return true;
 }
 

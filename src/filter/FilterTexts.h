@@ -66,6 +66,5 @@ inline const QString Title = u"筛选"_s;
 inline const QString Explanation = u"只显示符合下列条件的记录"_s;
 inline const QString TableCaption = u"当前使用数据表"_s;
 inline const QString Filter = u"筛选(&F)"_s;
-inline const QString Cancel = u"取消"_s;
 
 } // namespace KOVAVSFDataGridLib::FilterTexts

@@ -6,12 +6,12 @@
 #include "forms/FlatCmd.h"
 
 #include <QtCore/QRegularExpression>
-#include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QVBoxLayout>
 
 namespace KOVAVSFDataGridLib {
@@ -35,7 +35,7 @@ SetFilter::SetFilter(QWidget *parent)
       m_table(new QLabel(this)),
       m_scroll(new QScrollArea(this)),
       m_rows(new FilterRows),
-      m_add(new FlatCmd(FilterTexts::AddRow, this)),
+      m_add(new QPushButton(FilterTexts::AddRow, this)),
       m_condition(new QLineEdit(this)),
       m_backToRows(new FlatCmd(FilterTexts::BackToRows, this)),
       m_notice(new QLabel(this))
@@ -47,6 +47,7 @@ SetFilter::SetFilter(QWidget *parent)
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_add->setObjectName(u"cmdAddRow"_s);
+    m_add->setAutoDefault(false);
     m_condition->setObjectName(u"txtCondition"_s);
     m_condition->setAccessibleName(FilterTexts::ConditionName);
     m_condition->setPlaceholderText(FilterTexts::ConditionHint);
@@ -58,6 +59,8 @@ SetFilter::SetFilter(QWidget *parent)
     layOut();
 
     connect(m_rows, &FilterRows::changed, this, &SetFilter::onRowsChanged);
+    // A new row, or what is said below one, has its place only once the area has grown.
+    connect(m_scroll->verticalScrollBar(), &QScrollBar::rangeChanged, this, &SetFilter::showFocusedPart);
     connect(m_add, &QPushButton::clicked, this, &SetFilter::addRow);
     connect(m_condition, &QLineEdit::textEdited, this, &SetFilter::onConditionEdited);
     connect(m_backToRows, &QPushButton::clicked, this, &SetFilter::backToRows);
@@ -144,10 +147,13 @@ QStringList SetFilter::valuesOf(const FilterField &field)
 
 void SetFilter::addRow()
 {
-    FilterRow *row = m_rows->add();
-    row->focusFirstPart();
-    // The row has its place only once the layout has run.
-    QTimer::singleShot(0, row, [this, row] { m_scroll->ensureWidgetVisible(row); });
+    m_rows->add()->focusFirstPart();
+}
+
+void SetFilter::showFocusedPart()
+{
+    if (QWidget *focused = m_rows->focusWidget())
+        m_scroll->ensureWidgetVisible(focused);
 }
 
 void SetFilter::onRowsChanged()
@@ -189,8 +195,10 @@ QString SetFilter::ConditionText()
     if (m_isByHand)
         return conditionByHand();
     const QString text = m_rows->checkedText();
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         tell(FilterTexts::CorrectRows);
+        showFocusedPart();
+    }
     return text;
 }
 

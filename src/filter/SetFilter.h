@@ -41,6 +41,7 @@ public:
 private:
     void layOut();
     void addRow();
+    void showFocusedPart();
     void onRowsChanged();
     void onConditionEdited();
     void backToRows();

@@ -2,6 +2,7 @@
 
 #include "filter/FilterTexts.h"
 #include "filter/SetFilter.h"
+#include "forms/FormTexts.h"
 #include "forms/GradualControl.h"
 
 #include <QtWidgets/QFrame>
@@ -30,7 +31,7 @@ frm_Filter::frm_Filter(QWidget *parent) : QDialog(parent), m_builder(new SetFilt
     auto *filter = new QPushButton(FilterTexts::Filter, this);
     filter->setObjectName(u"cmd_Filter"_s);
     filter->setDefault(true);
-    auto *cancel = new QPushButton(FilterTexts::Cancel, this);
+    auto *cancel = new QPushButton(FormTexts::Cancel, this);
     cancel->setObjectName(u"cmd_Cancel"_s);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -46,7 +47,7 @@ frm_Filter::frm_Filter(QWidget *parent) : QDialog(parent), m_builder(new SetFilt
     rows->setContentsMargins({});
     rows->addWidget(makeBand());
     rows->addLayout(body);
-    resize(sizeHint().width(), fontMetrics().height() * 24);
+    resize(sizeHint().width(), fontMetrics().height() * 28);
 
     connect(filter, &QPushButton::clicked, this, &frm_Filter::filter);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);

@@ -54,10 +54,10 @@ ConnectDialog::ConnectDialog(ConnectionBuilder builder, QWidget *parent)
 
 void ConnectDialog::layOut()
 {
-    auto *ok = new QPushButton(FormTexts::Ok, this);
+    auto *ok = new QPushButton(FormTexts::ConnectOk, this);
     ok->setObjectName(u"OKButton"_s);
     ok->setDefault(true);
-    auto *cancel = new QPushButton(FormTexts::Cancel, this);
+    auto *cancel = new QPushButton(FormTexts::ConnectCancel, this);
     cancel->setObjectName(u"CancelButton"_s);
     connect(ok, &QPushButton::clicked, this, &ConnectDialog::takeText);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);

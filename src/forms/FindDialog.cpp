@@ -99,6 +99,8 @@ FindDialog::FindDialog(QWidget *parent)
     m_input->installEventFilter(this);
     m_input->lineEdit()->installEventFilter(this);
     connect(m_input, &QComboBox::editTextChanged, this, &FindDialog::onInputChanged);
+    connect(m_input->lineEdit(), &QLineEdit::cursorPositionChanged, this, &FindDialog::keepOutOfHint);
+    connect(m_input->lineEdit(), &QLineEdit::selectionChanged, this, &FindDialog::keepOutOfHint);
     connect(m_find, &QPushButton::clicked, this, &FindDialog::find);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     m_input->setFocus();
@@ -138,6 +140,14 @@ void FindDialog::removeHint()
     setTextColour(*m_input->lineEdit(), QPalette::ButtonText);
     m_find->setEnabled(true);
     m_fields->setEnabled(true);
+}
+
+// The hint is no text to select or to write into.
+void FindDialog::keepOutOfHint()
+{
+    QLineEdit *edit = m_input->lineEdit();
+    if (m_isHintShown && (edit->hasSelectedText() || edit->cursorPosition() != 0))
+        edit->setCursorPosition(0);
 }
 
 // A paste or a drop changes the text without a key; what it brought stays when the hint goes.

@@ -36,6 +36,7 @@ private:
     bool onKey(int key);
     void showHint();
     void removeHint();
+    void keepOutOfHint();
     void onInputChanged(const QString &text);
     void find();
 

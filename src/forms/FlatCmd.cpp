@@ -16,9 +16,15 @@ void FlatCmd::paintEvent(QPaintEvent *)
 {
     QStyleOptionButton option;
     initStyleOption(&option);
-    if (!isEnabled() || !(underMouse() || isDown() || isChecked() || hasFocus()))
+    QStylePainter painter(this);
+    if (!isEnabled() || !(underMouse() || isDown() || isChecked() || hasFocus())) {
         option.features |= QStyleOptionButton::Flat;
-    QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(option.palette.color(QPalette::Midlight).darker(115));
+        constexpr qreal rounding = 3;
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), rounding, rounding);
+    }
+    painter.drawControl(QStyle::CE_PushButton, option);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -4,7 +4,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A push button that stays flat until the mouse, the keyboard focus or a press is on it.
+// A push button that is a mere outline until the mouse, the keyboard focus or a press is on it.
 class FlatCmd final : public QPushButton
 {
     Q_OBJECT

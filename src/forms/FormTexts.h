@@ -53,6 +53,8 @@ inline const QString Find = u"查找(&F)"_s;
 
 // ConnectDialog, which only the host's developer meets
 inline const QString ConnectTitle = u"Connection"_s;
+inline const QString ConnectOk = u"OK"_s;
+inline const QString ConnectCancel = u"Cancel"_s;
 inline const QString BuildConnection = u"&Build the connection string"_s;
 inline const QString TypeConnection = u"&Type the connection string"_s;
 inline const QString InputConnectionString = u"Input ConnectionString:"_s;

@@ -173,6 +173,25 @@ TEST_F(Builder, TheOnlyRowCanNotBeDeleted)
     EXPECT_TRUE(combo("cmbJoin1").isVisible());
 }
 
+TEST_F(Builder, TheNewestRowAndTheFirstFaultAreScrolledIntoView)
+{
+    for (int further = 0; further < 30; ++further)
+        press(dialog, "cmdAddRow");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return combo("cmbField1").visibleRegion().isEmpty(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !combo("cmbField31").visibleRegion().isEmpty(); }));
+    EXPECT_EQ(answer(), ""); // no row has a value
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !text("txtValue1").visibleRegion().isEmpty(); }));
+}
+
+TEST_F(Builder, ARowAddedAndDeletedAtOnceLeavesNothingBehind)
+{
+    press(dialog, "cmdAddRow");
+    press(dialog, "cmdDeleteRow2");
+    delete builder;
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(exists("cmbField1"));
+}
+
 TEST_F(Builder, AMissingValueIsSaidOnlyOnceTheConditionIsWanted)
 {
     text("txtValue1").setFocus();

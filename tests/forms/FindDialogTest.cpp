@@ -75,6 +75,7 @@ TEST_F(Find, BeginsWithAHintAndNothingToPress)
 {
     expectHint(true);
     EXPECT_TRUE(dialog.strFindText().isEmpty());
+    EXPECT_FALSE(input().lineEdit()->hasSelectedText());
     EXPECT_EQ(inputColour(), dialog.palette().color(QPalette::PlaceholderText));
 }
 
@@ -106,6 +107,14 @@ TEST_F(Find, WhatIsPastedByTheMouseStaysWhenTheHintGoes)
     input().lineEdit()->paste();
     EXPECT_EQ(input().currentText(), u"上海"_s);
     expectHint(false);
+}
+
+TEST_F(Find, NothingIsWrittenIntoTheMiddleOfTheHint)
+{
+    QTest::mouseClick(input().lineEdit(), Qt::LeftButton, {}, QPoint(60, 8));
+    EXPECT_EQ(input().lineEdit()->cursorPosition(), 0);
+    input().lineEdit()->insert(u"广州"_s);
+    EXPECT_EQ(input().currentText(), u"广州"_s);
 }
 
 TEST_F(Find, ModifiersAndTabLeaveTheHint)

@@ -1,0 +1,181 @@
+// dialog_shots FOLDER: shows each dialog with plausible contents and saves it as a PNG file in the folder, at
+// the scale of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
+#include "filter/SetFilter.h"
+#include "filter/frm_Filter.h"
+#include "forms/ConnectDialog.h"
+#include "forms/Dialog_SQLST.h"
+#include "forms/FindDialog.h"
+#include "forms/frmSelShowFields.h"
+#include "forms/frmSelSortFields.h"
+#include "query/colDataFields.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QLibraryInfo>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QTranslator>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QTreeWidget>
+
+#include <sqlite3.h>
+
+#include <cstdio>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList Fields{u"订单编号"_s, u"下单日期"_s,  u"客户编号"_s, u"客户名称"_s, u"产品编号"_s,
+                         u"产品名称"_s, u"数量"_s,      u"单价(元)"_s, u"金额"_s,     u"已付款"_s,
+                         u"发货时间"_s, u"送货 城市"_s, u"备注"_s};
+
+QString makeDatabase(const QString &folder)
+{
+    const QString path = folder + u"/shop.db"_s;
+    sqlite3 *db = nullptr;
+    sqlite3_open(path.toUtf8().constData(), &db);
+    const char *const script =
+        "CREATE TABLE 订单 (订单编号 INTEGER, 下单日期 DATE, 客户编号 INTEGER, 客户名称 VARCHAR(60),"
+        " 产品编号 INTEGER, 产品名称 VARCHAR(60), 数量 INTEGER, [单价(元)] NUMERIC(10,2), 金额 NUMERIC(12,2),"
+        " 已付款 BOOLEAN, 发货时间 TIMESTAMP, [送货 城市] VARCHAR(20), 备注 TEXT);"
+        "INSERT INTO 订单 ([送货 城市]) VALUES ('北京'), ('上海'), ('广州'), ('深圳'), ('杭州'), ('成都')";
+    sqlite3_exec(db, script, nullptr, nullptr, nullptr);
+    sqlite3_close(db);
+    return u"Provider=SQLite;Data Source="_s + path;
+}
+
+class Photographer
+{
+public:
+    explicit Photographer(const QString &folder) : m_folder(folder) {}
+
+    void take(QWidget &window, const QString &name)
+    {
+        window.show();
+        window.activateWindow();
+        QApplication::processEvents();
+        const QString file = m_folder.filePath(name + u".png"_s);
+        m_isDone &= window.grab().save(file);
+        std::puts(qUtf8Printable(file));
+    }
+    bool isDone() const { return m_isDone; }
+
+private:
+    QDir m_folder;
+    bool m_isDone = true;
+};
+
+template<typename T>
+T &part(const QWidget &dialog, const QString &name)
+{
+    return *dialog.findChild<T *>(name);
+}
+
+void takeSelections(Photographer &photographer)
+{
+    const QStringList shown{u"订单编号"_s, u"下单日期"_s, u"客户名称"_s, u"[单价(元)]"_s, u"金额"_s};
+    frmSelShowFields show;
+    show.SetTitle(u"订单"_s);
+    show.AppendListFields(&Fields);
+    show.SetListFieldCheck(&shown);
+    photographer.take(show, u"frmSelShowFields"_s);
+
+    const QStringList terms{u"下单日期 DESC"_s, u"客户名称"_s, u"金额 DESC"_s};
+    frmSelSortFields sort;
+    sort.SetTitle(u"订单"_s);
+    sort.AppendListFields(&Fields);
+    sort.AppendListSortFields(&terms);
+    sort.AppendSortOrder();
+    auto &list = part<QTreeWidget>(sort, u"lvSortFields"_s);
+    list.setCurrentItem(list.topLevelItem(1));
+    photographer.take(sort, u"frmSelSortFields"_s);
+}
+
+void takeFind(Photographer &photographer)
+{
+    colDataFields fields;
+    fields.AddFieldsByCol(Fields);
+    FindDialog find;
+    find.InitFrm(&fields);
+    photographer.take(find, u"FindDialog"_s);
+    part<QComboBox>(find, u"InputCombo1"_s).setEditText(u"北京 龙井茶"_s);
+    photographer.take(find, u"FindDialog-typed"_s);
+}
+
+void takeTexts(Photographer &photographer)
+{
+    ConnectDialog connection([](QWidget *, const QString &) { return std::optional<QString>(); });
+    connection.SetConnectionString(u"Provider=SQLite;Data Source=shop.db"_s);
+    photographer.take(connection, u"ConnectDialog"_s);
+
+    Dialog_SQLST statement;
+    statement.SetLabel(u"SQLShow"_s);
+    statement.SetText(u"select 订单编号, 客户名称, 金额 from 订单 where 金额 > 100"_s);
+    statement.SetEditing(true, true);
+    photographer.take(statement, u"Dialog_SQLST"_s);
+}
+
+void fillRow(const QWidget &dialog, int number, const QString &field, const QString &op, const QString &value)
+{
+    const QString suffix = QString::number(number);
+    part<QComboBox>(dialog, u"cmbField"_s + suffix).setCurrentText(field);
+    part<QComboBox>(dialog, u"cmbOperator"_s + suffix).setCurrentText(op);
+    part<QLineEdit>(dialog, u"txtValue"_s + suffix).setText(value);
+}
+
+void takeFilter(Photographer &photographer)
+{
+    const QTemporaryDir folder;
+    frm_Filter filter;
+    SetFilter &builder = filter.SetFilter1();
+    builder.Initialize(u"当前使用数据表"_s, dbAccess);
+    builder.SetConnectionString(makeDatabase(folder.path()));
+    builder.SetCurrentTable(u"订单"_s);
+    builder.SetTableName(u"订单"_s);
+    photographer.take(filter, u"frm_Filter-empty"_s);
+
+    auto &add = part<QAbstractButton>(filter, u"cmdAddRow"_s);
+    for (int further = 0; further < 3; ++further)
+        add.click();
+    fillRow(filter, 1, u"下单日期"_s, u"介于"_s, u"2024-01-01"_s);
+    part<QLineEdit>(filter, u"txtValue1b"_s).setText(u"2024-03-31"_s);
+    fillRow(filter, 2, u"送货 城市"_s, u"在列表中"_s, u"北京, 上海"_s);
+    part<QComboBox>(filter, u"cmbOpen2"_s).setCurrentIndex(1);
+    part<QComboBox>(filter, u"cmbJoin2"_s).setCurrentIndex(1);
+    fillRow(filter, 3, u"备注"_s, u"包含"_s, u"100%"_s);
+    part<QComboBox>(filter, u"cmbClose3"_s).setCurrentIndex(1);
+    fillRow(filter, 4, u"金额"_s, u"大于"_s, u"100"_s);
+    photographer.take(filter, u"frm_Filter"_s);
+
+    fillRow(filter, 4, u"金额"_s, u"大于"_s, u"一百"_s);
+    builder.ConditionText();
+    photographer.take(filter, u"frm_Filter-fault"_s);
+    fillRow(filter, 4, u"金额"_s, u"大于"_s, u"100"_s);
+    auto &condition = part<QLineEdit>(filter, u"txtCondition"_s);
+    condition.setText(u"金额 > 100 AND 已付款 = 0"_s);
+    Q_EMIT condition.textEdited(condition.text());
+    photographer.take(filter, u"frm_Filter-by-hand"_s);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QApplication app(argc, argv);
+    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
+        std::fputs("usage: dialog_shots FOLDER\n", stderr);
+        return 2;
+    }
+    QTranslator texts;
+    if (texts.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&texts);
+    Photographer photographer(QString::fromLocal8Bit(argv[1]));
+    takeSelections(photographer);
+    takeFind(photographer);
+    takeTexts(photographer);
+    takeFilter(photographer);
+    return photographer.isDone() ? 0 : 1;
+}
