@@ -66,7 +66,7 @@ struct Selected : testing::Test
                 row.flag ? QString::number(*row.flag ? 1 : 0) : u"NULL"_s);
             rows.push_back(row);
         }
-        database.run(script);
+        database.run(u"BEGIN;"_s + script + u"COMMIT;"_s); // one wait for the disk instead of 400
         connection->Open(database.connectionString());
     }
 
