@@ -44,7 +44,10 @@ QWidget *HostWindow::makeForm(const Options &options)
     m_part = new QLineEdit(options.part);
     m_sort = new QLineEdit(options.sort);
     auto *loadButton = new QPushButton(u"加载(&L)"_s);
-    connect(loadButton, &QPushButton::clicked, this, &HostWindow::load);
+    connect(loadButton, &QPushButton::clicked, this, [this] {
+        setUpGrid();
+        load();
+    });
 
     auto *form = new QWidget;
     auto *grid = new QGridLayout(form);
@@ -131,7 +134,7 @@ void HostWindow::listenToGrid()
 
 // All that a host has to do: say what to show, then load. ConnectionString comes first, since writing it
 // empties the texts of the statement.
-bool HostWindow::load()
+void HostWindow::setUpGrid()
 {
     m_grid->PutConnectionString(m_connection->text());
     m_grid->PutDBType(m_dbType->currentData().toInt());
@@ -140,7 +143,10 @@ bool HostWindow::load()
     m_grid->PutSQLPartDisplay(m_part->text());
     m_grid->PutSQLSort(m_sort->text());
     m_grid->PutPicField(SampleDatabase::pictureField());
+}
 
+bool HostWindow::load()
+{
     QElapsedTimer timer;
     timer.start();
     const bool isLoaded = m_grid->IsLoadData();

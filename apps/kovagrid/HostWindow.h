@@ -19,7 +19,9 @@ public:
     explicit HostWindow(const Options &options);
     ~HostWindow() override;
 
-    // Loads what stands in the form. False when it could not be loaded; the grid has told the user why.
+    // Hands what stands in the form to the grid, which tells at once of a statement it can't make out.
+    void setUpGrid();
+    // Loads it. False when it could not be loaded; the grid has told the user why.
     bool load();
     KOVAVSFDataGrid *grid() const { return m_grid; }
     double secondsOfLastLoad() const { return m_seconds; }

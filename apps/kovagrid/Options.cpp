@@ -8,11 +8,6 @@ namespace {
 
 const QStringList DbTypes{u"access"_s, u"oracle"_s, u"sqlserver"_s};
 const QStringList TableTypes{u"table"_s, u"view"_s, u"sql"_s};
-const QStringList Keys{
-    u"All"_s,      u"Part"_s,       u"SingleRecord"_s, u"AllRecord"_s,   u"Filter"_s,     u"Sort"_s,
-    u"First"_s,    u"Previous"_s,   u"Next"_s,         u"Last"_s,        u"FullScreen"_s, u"ToPreview"_s,
-    u"ToOrigin"_s, u"FromResult"_s, u"CompressView"_s, u"ToFullTable"_s, u"SelField"_s,   u"QuickFilter"_s};
-
 bool isNumber(const QString &text)
 {
     bool ok = false;
@@ -97,11 +92,5 @@ std::optional<Options> Options::parse(const QStringList &arguments, QString &err
         options.printRows = rows;
     }
     options.keys = parser.value(u"do"_s).split(u',', Qt::SkipEmptyParts);
-    for (const QString &key : std::as_const(options.keys)) {
-        if (!Keys.contains(key)) {
-            error = u"--do: there is no button "_s + key;
-            return {};
-        }
-    }
     return options;
 }

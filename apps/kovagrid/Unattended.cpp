@@ -31,7 +31,7 @@ bool Unattended::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-void Unattended::print(const QTableView &grid, std::optional<int> rows)
+bool Unattended::print(const QTableView &grid, std::optional<int> rows)
 {
     const QAbstractItemModel &model = *grid.model();
     QList<int> columns;
@@ -43,10 +43,12 @@ void Unattended::print(const QTableView &grid, std::optional<int> rows)
         QStringList cells;
         for (const int column : std::as_const(columns))
             cells.append(textOf(column).toString().replace(u'\t', u' ').replace(u'\n', u' ').remove(u'\r'));
-        std::puts(cells.join(u'\t').toUtf8().constData());
+        const QByteArray line = cells.join(u'\t').toUtf8() + '\n';
+        std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stdout);
     };
     printLine([&](int column) { return model.headerData(column, Qt::Horizontal); });
     const int count = std::min(rows.value_or(model.rowCount()), model.rowCount());
     for (int row = 0; row < count; ++row)
         printLine([&](int column) { return model.index(row, column).data(); });
+    return std::fflush(stdout) == 0;
 }

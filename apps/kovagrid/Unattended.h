@@ -20,8 +20,9 @@ public:
     QString messages() const;
     void forgetMessages() { m_messages.clear(); }
 
-    // Writes the shown columns of a grid as tab-separated text, headings first.
-    static void print(const QTableView &grid, std::optional<int> rows);
+    // Writes the shown columns of a grid to standard output as tab-separated text, headings first. False
+    // when that can't be written.
+    static bool print(const QTableView &grid, std::optional<int> rows);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

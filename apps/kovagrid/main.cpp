@@ -41,13 +41,15 @@ void useSampleDatabase(Options &options)
     }
 }
 
+QAction *button(const KOVAVSFDataGrid &grid, const QString &key)
+{
+    return grid.findChild<QToolBar *>(u"Toolbar1"_s)->findChild<QAction *>(key);
+}
+
 void pressButtons(const KOVAVSFDataGrid &grid, const QStringList &keys)
 {
-    const auto *toolbar = grid.findChild<QToolBar *>(u"Toolbar1"_s);
-    for (const QString &key : keys) {
-        if (auto *action = toolbar->findChild<QAction *>(key))
-            action->trigger();
-    }
+    for (const QString &key : keys)
+        button(grid, key)->trigger();
 }
 
 // Chinese first: a system's default font may draw it in another country's shapes.
@@ -68,15 +70,21 @@ int failed(const QString &text)
     return Failed;
 }
 
+int badUsage(const QString &error)
+{
+    std::fprintf(stderr, "%s\n%s\n", qUtf8Printable(error), qUtf8Printable(Options::usage()));
+    return BadUsage;
+}
+
 // Loads, does what was asked for and leaves.
 int runUnattended(HostWindow &window, const Options &options)
 {
     Unattended unattended;
     window.show();
-    const bool isLoaded = window.load();
-    if (!isLoaded)
+    window.setUpGrid();
+    unattended.forgetMessages(); // whether a text can be loaded shows in a moment
+    if (!window.load())
         return failed(unattended.messages());
-    unattended.forgetMessages(); // only about the texts, which could be loaded all the same
     pressButtons(*window.grid(), options.keys);
     QCoreApplication::processEvents();
 
@@ -87,8 +95,8 @@ int runUnattended(HostWindow &window, const Options &options)
                                 .arg(window.secondsOfLastLoad(), 0, 'f', 2);
     // Standard output belongs to the records when they are asked for.
     std::fprintf(options.print ? stderr : stdout, "%s\n", qUtf8Printable(summary));
-    if (options.print)
-        Unattended::print(*table, options.printRows);
+    if (options.print && !Unattended::print(*table, options.printRows))
+        return failed(u"can't write the records"_s);
     if (!options.screenshot.isEmpty() && !window.grab().save(options.screenshot))
         return failed(u"can't write "_s + options.screenshot);
     if (!unattended.messages().isEmpty())
@@ -112,19 +120,26 @@ int run(int argc, char **argv)
     QTranslator translator;
     useChinese(translator);
 
+    if (QApplication::arguments().contains(u"--help"_s)) {
+        std::puts(qUtf8Printable(Options::usage()));
+        return Done;
+    }
     QString error;
     std::optional<Options> options = Options::parse(QApplication::arguments().mid(1), error);
-    if (!options) {
-        std::fprintf(stderr, "%s\n%s\n", qUtf8Printable(error), qUtf8Printable(Options::usage()));
-        return BadUsage;
-    }
+    if (!options)
+        return badUsage(error);
     if (options->connection.isEmpty())
         useSampleDatabase(*options);
 
     HostWindow window(*options);
+    for (const QString &key : std::as_const(options->keys)) {
+        if (!button(*window.grid(), key))
+            return badUsage(u"--do: there is no button "_s + key);
+    }
     if (!isWatched || options->print || !options->screenshot.isEmpty())
         return runUnattended(window, *options);
     window.show();
+    window.setUpGrid();
     window.load();
     pressButtons(*window.grid(), options->keys);
     return QApplication::exec();

@@ -84,7 +84,8 @@ public:
     // The condition of a host that filters in place of the built-in dialog; set it inside QurryFilter.
     virtual QString PassQurryFilter() const = 0;
     virtual void PutPassQurryFilter(const QString &condition) = 0;
-    // The current record's number, from 1; 0 when nothing is open.
+    // The current record's number, from 1; 0 when nothing is open, and below 0 when the open recordset stands
+    // on no record (ADO's PositionEnum).
     virtual qint32 CurrPosition() const = 0;
     // The first data column whose heading is exactly `strFieldName`, or -1.
     virtual qint32 GetBindFieldIndex(const QString &strFieldName) const = 0;
@@ -94,7 +95,9 @@ public:
 
     // Checks that there is something to load, and loads nothing; see IsLoadData.
     virtual void Refresh() = 0;
-    // Makes a row and its record current. False when the row is below 1 or above the number of rows.
+    // Makes a row of the first page and its record current; another page gives way to the first. False when
+    // the row is below 1 or above the number of rows. Row 1, a row that equals the number of rows and the
+    // current row give True and change nothing.
     virtual bool LocateSelRecord(qint32 lRecordRow) = 0;
     // Show one of the texts in a dialog, to be read and copied.
     virtual void ShowConnectionString() = 0;
@@ -119,6 +122,7 @@ public:
     virtual QObject *GetBond() = 0;
     virtual qint16 GetGridCol() = 0;
     virtual void SetGridRow(const qint32 &Row) = 0;
+    // Rows above 32767 don't fit: see GetGridRowL.
     virtual qint16 GetGridRow() = 0;
     virtual void CloseAllAction() = 0;
     // Opens SQLShow through ConnectionString and shows it. False when it could not be opened; the grid

@@ -1,7 +1,6 @@
 #include "control/KOVAVSFDataGrid.h"
 
 #include "ado/Adodc.h"
-#include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "control/ControlError.h"
 #include "control/GridTexts.h"
@@ -28,10 +27,19 @@ bool isExplicitlyEnabled(const QWidget &widget)
     return !widget.testAttribute(Qt::WA_ForceDisabled);
 }
 
+// Lets those who listen by name read the arguments that come by reference.
+void registerReferenceTypes()
+{
+    QMetaType::registerNormalizedTypedef("qint16&", QMetaType::fromType<qint16>());
+    QMetaType::registerNormalizedTypedef("qint32&", QMetaType::fromType<qint32>());
+    QMetaType::registerNormalizedTypedef("float&", QMetaType::fromType<float>());
+}
+
 } // namespace
 
 KOVAVSFDataGrid::KOVAVSFDataGrid(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(*this))
 {
+    registerReferenceTypes();
     setMinimumSize(Twips::toPixels(GridParts::MinimumWidth, *this),
                    Twips::toPixels(GridParts::MinimumHeight, *this));
     d->applyBackColor();
@@ -68,7 +76,7 @@ QColor KOVAVSFDataGrid::BackColor() const
 
 void KOVAVSFDataGrid::PutBackColor(const QColor &colour)
 {
-    d->put(d->backColor, OleColor(colour), "BackColor");
+    d->put(d->backColor, colour.isValid() ? OleColor(colour) : OleColor(OleColor::ButtonFace), "BackColor");
     d->applyBackColor();
 }
 

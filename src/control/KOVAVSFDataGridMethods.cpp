@@ -23,9 +23,18 @@ using namespace Qt::StringLiterals;
 
 void KOVAVSFDataGrid::Refresh()
 {
-    const bool isIncomplete = d->connectionString.isEmpty() || d->recordSource.trimmed().isEmpty();
-    if (isIncomplete && d->errorHint) {
-        Messages::tell(this, GridTexts::NothingToLink, GridTexts::NothingToLinkTitle, QMessageBox::Critical);
+    try {
+        const bool isIncomplete = d->connectionString.isEmpty() || d->recordSource.trimmed().isEmpty();
+        if (isIncomplete && d->errorHint) {
+            Messages::tell(this, GridTexts::NothingToLink, GridTexts::NothingToLinkTitle,
+                           QMessageBox::Critical);
+        }
+    } catch (const std::exception &) {
+        const bool wantsToLook =
+            d->errorHint &&
+            Messages::ask(this, GridTexts::UpdateFailed, GridTexts::UpdateFailedTitle, QMessageBox::NoIcon);
+        if (wantsToLook)
+            d->editText(GridTexts::FindRecordSourceError, d->recordSource);
     }
 }
 
@@ -33,23 +42,24 @@ void KOVAVSFDataGrid::Refresh()
 bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
 {
     VSFlexGrid &grid = *d->parts.vsfgDataGrid;
-    const qint32 rows = d->result.isOpen() ? d->pages.rowsOfPage(1) + 1 : grid.Rows();
+    const bool isOtherPage = d->result.isOpen() && d->pages.currentPage() != 1;
+    const qint32 rows = isOtherPage ? d->pages.rowsOfPage(1) + 1 : grid.Rows();
     if (lRecordRow <= 0 || lRecordRow > rows)
         return false;
     if (lRecordRow < 2 || lRecordRow == rows || !d->result.isOpen() ||
         lRecordRow == d->result.recordset()->AbsolutePosition())
         return true;
-    if (d->pages.currentPage() != 1)
-        d->showPage(1);
     try {
         const QSignalBlocker onlyOurOwnEvent(d->parts.Adodc1);
         ADODB::Recordset &recordset = *d->result.recordset();
         recordset.MoveFirst();
+        if (isOtherPage)
+            d->showPage(1);
         recordset.Move(lRecordRow - 1);
         grid.PutRow(lRecordRow);
         grid.PutCol(1);
-    } catch (const ADODB::Error &) {
-        return true; // an edit could not be saved: its record stays the current one
+    } catch (const std::exception &) {
+        return true; // an edit could not be saved, say: its record stays the current one
     }
     if (!grid.RowIsVisible(lRecordRow))
         grid.PutTopRow(lRecordRow);

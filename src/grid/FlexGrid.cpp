@@ -1,5 +1,6 @@
 #include "grid/FlexGrid.h"
 
+#include "grid/CellDelegate.h"
 #include "grid/FlexGridModel.h"
 #include "grid/TextCells.h"
 #include "grid/Twips.h"
@@ -29,6 +30,7 @@ FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
     verticalHeader()->setHighlightSections(false);
+    setItemDelegate(new CellDelegate(this));
     setModel(m_model);
     m_widths.assign(static_cast<std::size_t>(Cols()), UseDefaultWidth);
     applyWidths();
@@ -74,13 +76,13 @@ void FlexGrid::PutCol(int col)
     makeCurrent(m_row, col);
 }
 
-// Headings can be current in the grid's vocabulary but not in the view: the numbers are kept here and
-// the view shows no current cell meanwhile.
+// Headings and hidden columns can be current in the grid's vocabulary but not in the view, whose keys would
+// be dead there. The numbers are kept here; the view stands on the nearest column that can be seen.
 void FlexGrid::makeCurrent(int row, int col)
 {
     const bool isCell = row > 0 && col >= m_model->fixedCols();
     setAutoScroll(false); // what is in view is TopRow's affair
-    setCurrentIndex(isCell ? m_model->index(row - 1, section(col)) : QModelIndex());
+    setCurrentIndex(isCell ? m_model->index(row - 1, nearestShownSection(section(col))) : QModelIndex());
     setAutoScroll(true);
     m_row = row;
     m_col = col;
@@ -128,7 +130,7 @@ void FlexGrid::PutTopRow(int row)
 {
     checkRow(row);
     if (row > 0)
-        scrollTo(m_model->index(row - 1, std::max(0, currentIndex().column())), PositionAtTop);
+        verticalScrollBar()->setValue(row - 1);
 }
 
 bool FlexGrid::RowIsVisible(int row) const
@@ -170,6 +172,8 @@ void FlexGrid::PutColWidth(int col, int twips)
     checkCol(col);
     m_widths[static_cast<std::size_t>(col)] = std::max(twips, UseDefaultWidth);
     applyWidth(col);
+    if (currentIndex().isValid() && isColumnHidden(currentIndex().column()))
+        makeCurrent(m_row, m_col);
 }
 
 int FlexGrid::ColWidthInUse(int col) const
@@ -200,13 +204,14 @@ void FlexGrid::Refresh()
 
 QColor FlexGrid::BackColor() const
 {
-    return palette().color(QPalette::Base);
+    return palette().color(QPalette::Active, QPalette::Base);
 }
 
 void FlexGrid::PutBackColor(const QColor &colour)
 {
     QPalette changed = palette();
     changed.setColor(QPalette::Base, colour);
+    changed.setColor(QPalette::AlternateBase, colour.darker(103)); // every second row
     setPalette(changed);
 }
 
@@ -239,6 +244,17 @@ void FlexGrid::checkCol(int col) const
 {
     if (col < 0 || col >= Cols())
         throw std::out_of_range("column outside the grid");
+}
+
+int FlexGrid::nearestShownSection(int section) const
+{
+    for (int distance = 0; distance < m_model->columnCount(); ++distance) {
+        for (const int candidate : {section + distance, section - distance}) {
+            if (candidate >= 0 && candidate < m_model->columnCount() && !isColumnHidden(candidate))
+                return candidate;
+        }
+    }
+    return section;
 }
 
 int FlexGrid::section(int col) const

@@ -90,6 +90,7 @@ private:
     void checkCol(int col) const;
     void makeCurrent(int row, int col);
     int section(int col) const;
+    int nearestShownSection(int section) const;
     void applyWidths();
     void applyWidth(int col);
     void onSectionResized(int section, int size);

@@ -144,6 +144,20 @@ TEST_F(Kovagrid, AWrongPathIsOneLineAndMakesNoFile)
     EXPECT_FALSE(QFile::exists(missing));
 }
 
+TEST_F(Kovagrid, HelpsOnRequest)
+{
+    const Outcome outcome = run({u"--help"_s});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_TRUE(outcome.output.startsWith(u"usage: kovagrid"_s));
+}
+
+TEST_F(Kovagrid, AStatementWithoutFromIsPrintedLikeAnyOther)
+{
+    const Outcome outcome = runOnOrders({u"--sql"_s, u"select 1 as one"_s, u"--print"_s});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.output, u"one\n1\n"_s);
+}
+
 struct BadUsage : Kovagrid, testing::WithParamInterface<QStringList>
 {
 };

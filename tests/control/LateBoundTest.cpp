@@ -4,6 +4,8 @@
 #include "support/TestDatabase.h"
 
 #include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+#include <QtWidgets/QTableView>
 #include <gtest/gtest.h>
 
 using namespace KovaTest;
@@ -99,7 +101,9 @@ TEST_F(LateBound, SeesEventsByName)
 {
     QWidget *grid = control.get();
     QSignalSpy located(grid, SIGNAL(RecordChanged(qint32, qint32)));
+    QSignalSpy pressed(grid, SIGNAL(DataMouseDown(qint16 &, qint16 &, float &, float &)));
     EXPECT_TRUE(located.isValid());
+    EXPECT_TRUE(pressed.isValid());
     grid->setProperty("ConnectionString", database.connectionString());
     grid->setProperty("SQLShow", u"select * from T"_s);
     bool isLoaded = false;
@@ -107,4 +111,9 @@ TEST_F(LateBound, SeesEventsByName)
     bool isLocated = false;
     QMetaObject::invokeMethod(grid, "LocateSelRecord", Q_RETURN_ARG(bool, isLocated), Q_ARG(qint32, 2));
     EXPECT_EQ(located.last(), QList<QVariant>({3, 1}));
+    QTest::mouseClick(grid->findChild<QTableView *>(u"vsfgDataGrid"_s)->viewport(), Qt::LeftButton,
+                      Qt::ControlModifier, QPoint(20, 10));
+    ASSERT_EQ(pressed.count(), 1);
+    EXPECT_EQ(pressed.at(0).at(0).toInt(), 1);
+    EXPECT_EQ(pressed.at(0).at(1).toInt(), 2);
 }

@@ -146,6 +146,18 @@ TEST_F(Misuse, LocatingOutsideIsRefused)
     EXPECT_TRUE(messages.shown().empty());
 }
 
+TEST_F(Misuse, LocatingNeverThrowsWhateverTheHostDidToTheRecordset)
+{
+    QObject *recordset = grid.RecordSet();
+    ASSERT_NE(recordset, nullptr);
+    while (!recordset->property("EOF").toBool())
+        QMetaObject::invokeMethod(recordset, "MoveNext");
+    QTest::mouseClick(grid.findChild<QPushButton *>(u"cmdPgae"_s), Qt::LeftButton);
+    EXPECT_NO_THROW(grid.LocateSelRecord(2));
+    EXPECT_EQ(grid.CurrPosition(), 2);
+    EXPECT_EQ(grid.GetGridRow(), 2);
+}
+
 TEST_F(Misuse, BindFieldIndexLooksForTheExactHeading)
 {
     EXPECT_EQ(grid.GetBindFieldIndex(u"ID"_s), 1);

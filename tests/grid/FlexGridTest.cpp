@@ -1,4 +1,5 @@
 #include "grid/FlexGrid.h"
+#include "grid/CellDelegate.h"
 #include "grid/TextCells.h"
 #include "grid/Twips.h"
 
@@ -136,6 +137,21 @@ TEST_F(Grid, AWidthOfNoneHidesTheColumn)
     EXPECT_EQ(grid.columnWidth(2), Twips::toPixels(1500, grid));
 }
 
+TEST_F(Grid, AHiddenCurrentColumnLeavesKeysAndScrollingAlive)
+{
+    grid.PutRow(1);
+    grid.PutCol(1);
+    grid.PutColWidth(1, 0);
+    EXPECT_EQ(grid.Col(), 1);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(grid.Row(), 2);
+    grid.PutCol(1);
+    EXPECT_EQ(grid.Col(), 1);
+    EXPECT_EQ(grid.Text(), u"r2c1"_s);
+    grid.PutTopRow(60);
+    EXPECT_EQ(grid.TopRow(), 60);
+}
+
 TEST_F(Grid, DraggingAColumnEdgeTellsTheNewWidth)
 {
     QSignalSpy changed(&grid, &FlexGrid::ColWidthChanged);
@@ -199,6 +215,18 @@ TEST_F(Grid, ColoursAndRedraw)
     grid.PutRedraw(true);
     EXPECT_TRUE(grid.Redraw());
     EXPECT_TRUE(grid.hasMouseTracking());
+}
+
+TEST(CellDelegate, DrawsTheFirstLineAndNoMoreThanCanBeSeen)
+{
+    const CellDelegate delegate;
+    const QLocale locale;
+    EXPECT_EQ(delegate.displayText(u"短"_s, locale), u"短"_s);
+    EXPECT_EQ(delegate.displayText(u"first\nsecond"_s, locale), u"first…"_s);
+    EXPECT_EQ(delegate.displayText(u"first\r\nsecond"_s, locale), u"first…"_s);
+    EXPECT_EQ(delegate.displayText(QString(CellDelegate::LongestText, u'x'), locale).size(),
+              CellDelegate::LongestText);
+    EXPECT_EQ(delegate.displayText(QString(1000000, u'x'), locale).size(), CellDelegate::LongestText + 1);
 }
 
 TEST(MSFlexGrid, BothColumnsAreData)

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QtWidgets/QStyledItemDelegate>
+
+namespace KOVAVSFDataGridLib {
+
+// Draws no more of a cell's text than can be seen: the first line, and of that so much that no column is
+// wide enough for more. A view shapes and elides the whole text on every paint, which takes seconds for
+// pages of memo fields.
+class CellDelegate final : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    static constexpr int LongestText = 400; // characters
+
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant &value, const QLocale &locale) const override;
+};
+
+} // namespace KOVAVSFDataGridLib
