@@ -8,6 +8,7 @@
 namespace KOVAVSFDataGridLib {
 
 using namespace CharText;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,6 +30,17 @@ QString Enclosed(QChar opening, QString name, QChar closing)
     return opening + name.replace(closing, QString(2, closing)) + closing;
 }
 
+// "DISTINCT T.A" lists T.A.
+QString WithoutListWords(QString item)
+{
+    for (const auto &[word, blanks] :
+         {std::pair(u"DISTINCT "_s, 1), std::pair(u"ALL "_s, 1), std::pair(u"TOP "_s, 2)}) {
+        if (FindUpper(item, word) == 1)
+            item = Trim(item.section(u' ', blanks, -1, QString::SectionSkipEmpty));
+    }
+    return item;
+}
+
 } // namespace
 
 QString ShortFieldName(const QString &writtenName)
@@ -44,7 +56,9 @@ QString LastNamePart(const QString &writtenName)
     if (opening.isNull())
         return writtenName.mid(writtenName.lastIndexOf(u'.') + 1);
     const QString name = writtenName.chopped(1);
-    return name.mid(name.lastIndexOf(opening) + 1);
+    const auto open = name.lastIndexOf(opening);
+    const bool isAlias = open > 0 && name.at(open - 1) != u'.';
+    return isAlias ? QString() : name.mid(open + 1);
 }
 
 QStringList WrittenFields(const QString &statement)
@@ -57,6 +71,7 @@ QStringList WrittenFields(const QString &statement)
     QStringList items = trimmed.mid(selectLength, from - 1 - selectLength).split(u',');
     for (QString &item : items)
         item = Trim(item);
+    items.front() = WithoutListWords(items.front());
     return items;
 }
 

@@ -11,11 +11,12 @@ namespace KOVAVSFDataGridLib {
 // The name behind the first "." of a written name, without one leading "[" and one trailing "]".
 QString ShortFieldName(const QString &writtenName);
 
-// The last part of a written name without its brackets or double quotes: "Name" for dbo.T."Name".
+// The last part of a written name without its brackets or double quotes: "Name" for dbo.T."Name". Empty when
+// an alias in brackets or quotes stands behind it.
 QString LastNamePart(const QString &writtenName);
 
 // The items between "Select " (its seven characters) and " from ", cut at every comma, without blanks at
-// their ends. Empty when there is no such list.
+// their ends; DISTINCT, ALL or TOP n in front belongs to no item. Empty when there is no such list.
 QStringList WrittenFields(const QString &statement);
 
 // True for a letter or "_" followed by letters and numbers of any script, "_", "$" and "#".

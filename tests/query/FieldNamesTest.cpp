@@ -24,6 +24,8 @@ TEST(FieldNames, LastPartLosesItsQuotes)
     EXPECT_EQ(LastNamePart(u"dbo.T.Name"_s), u"Name"_s);
     EXPECT_EQ(LastNamePart(u"Name"_s), u"Name"_s);
     EXPECT_EQ(LastNamePart(u"\""_s), QString());
+    EXPECT_EQ(LastNamePart(u"T.A as [x y]"_s), QString()) << "an alias is no part of a name";
+    EXPECT_EQ(LastNamePart(u"T.A \"x\""_s), QString());
     EXPECT_EQ(LastNamePart({}), QString());
 }
 
@@ -61,4 +63,13 @@ TEST(FieldNames, BracketsBecomeQuotesOutsideQuotes)
     EXPECT_EQ(BracketsToQuotes(u"where a like '[x]%' and \"[b]\"=[c\"d]"_s),
               u"where a like '[x]%' and \"[b]\"=\"c\"\"d\""_s);
     EXPECT_EQ(BracketsToQuotes(u"O'Neil,[A],[B"_s), u"O'Neil,\"A\",[B"_s) << "what never ends is no quote";
+}
+
+TEST(FieldNames, WordsInFrontOfTheListBelongToNoItem)
+{
+    EXPECT_EQ(WrittenFields(u"select DISTINCT T.A, C from T"_s), QStringList({u"T.A"_s, u"C"_s}));
+    EXPECT_EQ(WrittenFields(u"select all  [A b] from T"_s), QStringList(u"[A b]"_s));
+    EXPECT_EQ(WrittenFields(u"select distinct TOP 5 T.A from T"_s), QStringList(u"T.A"_s));
+    EXPECT_EQ(WrittenFields(u"select Distinction,Topic from T"_s),
+              QStringList({u"Distinction"_s, u"Topic"_s}));
 }
