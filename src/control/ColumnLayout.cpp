@@ -74,10 +74,10 @@ void ColumnLayout::ShowAllFieldColumns()
     const colDataFields &fields = m_history.DataFields();
     for (int col = 1; col < m_grid.Cols(); ++col) {
         const clsDataField *field = fields.Find(m_grid.TextMatrix(0, col));
-        if (!field)
-            continue;
-        const int width =
-            field->FieldWidth == FlexGrid::UseDefaultWidth ? FlexGrid::DefaultColWidth : field->FieldWidth;
+        int width = field ? field->FieldWidth : 0;
+        const bool isHiddenForGood = !field && m_grid.ColWidth(col) == 0;
+        if (width == FlexGrid::UseDefaultWidth || isHiddenForGood)
+            width = FlexGrid::DefaultColWidth;
         if (width > 0)
             m_grid.PutColWidth(col, width);
     }

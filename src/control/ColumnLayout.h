@@ -30,7 +30,8 @@ public:
     // Hides what is no part field; with mode 1 the part fields also get their kept widths. Nothing is hidden
     // while no column belongs to a part field.
     void ShowPartFieldColumns(qint32 mode);
-    // Gives every field its kept width, which shows it.
+    // Gives every field its kept width, which shows it. A column without a field keeps its own, unless it is
+    // hidden: nothing else could bring it back.
     void ShowAllFieldColumns();
 
     // Shares the grid's width out among its shown columns, when the history says that fields are shown.

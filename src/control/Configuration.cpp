@@ -3,7 +3,9 @@
 #include "control/platform/ModuleFolder.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtCore/QSettings>
+#include <QtCore/QTextStream>
 
 namespace KOVAVSFDataGridLib {
 
@@ -13,19 +15,45 @@ namespace {
 
 const QString Application = u"KOVAVSFDataGrid"_s;
 const QString SelectWholeRowsKey = u"Settings/ResChkSelAllRow"_s;
+const QString MissingEntry = u"Return Err"_s;
+constexpr qsizetype LongestValue = 254; // characters
+
+bool isSameName(QStringView written, const QString &name)
+{
+    return written.trimmed().compare(name, Qt::CaseInsensitive) == 0;
+}
+
+QString withoutQuotes(const QString &value)
+{
+    const bool isQuoted = value.size() >= 2 && value.front() == value.back() &&
+                          (value.front() == u'"' || value.front() == u'\'');
+    return isQuoted ? value.mid(1, value.size() - 2) : value;
+}
 
 } // namespace
 
+// Read line by line, because an INI file of this kind knows no escapes: a backslash in it is a backslash. As
+// everywhere with such files the first entry of a name counts, ";" begins a comment only at a line's begin
+// and quotes around a value aren't part of it.
 QString ReadProfileValue(const QString &section, const QString &key, const QString &filePath)
 {
-    const QSettings file(filePath, QSettings::IniFormat);
-    const QString wanted = section + u'/' + key;
-    for (const QString &name : file.allKeys()) {
-        // A value with a comma is read as a list.
-        if (name.compare(wanted, Qt::CaseInsensitive) == 0)
-            return file.value(name).toStringList().join(u',').trimmed();
+    QFile file(filePath);
+    if (!file.open(QIODevice::ReadOnly))
+        return MissingEntry;
+    QTextStream lines(&file); // in UTF-8, or as its byte order mark says
+    bool isInSection = false;
+    QString line;
+    while (lines.readLineInto(&line)) {
+        line = line.trimmed();
+        if (line.startsWith(u'[')) {
+            isInSection = isSameName(QStringView(line).mid(1, line.indexOf(u']') - 1), section);
+            continue;
+        }
+        const qsizetype equals = line.indexOf(u'=');
+        if (isInSection && equals > 0 && isSameName(QStringView(line).first(equals), key))
+            return withoutQuotes(line.mid(equals + 1).trimmed()).left(LongestValue).trimmed();
     }
-    return u"Return Err"_s;
+    return MissingEntry;
 }
 
 qint32 Read3TierSwitch()

@@ -7,7 +7,7 @@
 namespace KOVAVSFDataGridLib {
 
 // The value of an entry of an INI file without blanks around it, or "Return Err" when the file, the
-// section or the key is missing. Names count in any letter case.
+// section or the key is missing. Names count in any letter case. A value is at most 254 characters long.
 QString ReadProfileValue(const QString &section, const QString &key, const QString &filePath);
 
 // 1 when the file MERIXUSER3TIER.cfg beside the library switches the middle tier on, else 0.

@@ -26,8 +26,10 @@ ConnectionFieldReader::~ConnectionFieldReader() = default;
 
 ADODB::Connection &ConnectionFieldReader::connect(const QString &connectionString)
 {
-    if (m_result.isConnectedTo(connectionString))
+    if (m_result.isConnectedTo(connectionString)) {
+        closeOwn();
         return *m_result.connection();
+    }
     if (!m_own || m_ownText != connectionString) {
         auto connection = ResultSet::newConnection(SharedValues::instance().dbType);
         connection->PutConnectionString(connectionString);
@@ -72,9 +74,14 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
 
 void ConnectionFieldReader::forget()
 {
+    closeOwn();
+    m_known.clear();
+}
+
+void ConnectionFieldReader::closeOwn()
+{
     m_own.reset();
     m_ownText.clear();
-    m_known.clear();
 }
 
 } // namespace KOVAVSFDataGridLib

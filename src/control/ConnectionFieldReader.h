@@ -16,7 +16,7 @@ class ResultSet;
 
 // Reads field names and types through the control's own connection where that leads to the same database
 // (a second connection to a far server is a wait, and one to a database in memory another database), else
-// through a connection of its own. What it has read it remembers until forget().
+// through a connection of its own, kept no longer than needed. What it has read it remembers until forget().
 class ConnectionFieldReader final : public FieldReader
 {
 public:
@@ -34,6 +34,7 @@ public:
 private:
     // Throws ADODB::Error.
     ADODB::Connection &connect(const QString &connectionString);
+    void closeOwn();
 
     const ResultSet &m_result;
     std::shared_ptr<ADODB::Connection> m_own;

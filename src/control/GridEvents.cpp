@@ -4,6 +4,7 @@
 #include "ado/Recordset.h"
 #include "ado/Stream.h"
 #include "control/GridParts.h"
+#include "control/GridToolbar.h"
 #include "control/KOVAVSFDataGrid.h"
 #include "control/KeyCodes.h"
 #include "control/PageView.h"
@@ -19,6 +20,8 @@
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHeaderView>
+
+#include <utility>
 
 namespace KOVAVSFDataGridLib {
 
@@ -77,7 +80,9 @@ bool GridEvents::isGridSurface(const QObject *object) const
 
 bool GridEvents::eventFilter(QObject *watched, QEvent *event)
 {
-    // Presses are told before the grid acts on them, releases after it.
+    // The host is told before the grid itself acts. A disabled grid has nothing to tell.
+    if (!m_parts.vsfgDataGrid->isEnabled() && watched != m_parts.picMainBack)
+        return QObject::eventFilter(watched, event);
     if (isGridSurface(watched)) {
         auto &source = *static_cast<QWidget *>(watched);
         switch (event->type()) {
@@ -98,6 +103,9 @@ bool GridEvents::eventFilter(QObject *watched, QEvent *event)
         }
     } else if (watched == m_parts.vsfgDataGrid && event->type() == QEvent::KeyPress) {
         return keyPressed(*static_cast<QKeyEvent *>(event));
+    } else if (watched == m_parts.vsfgDataGrid && event->type() == QEvent::ContextMenu) {
+        if (static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard)
+            menuKeyPressed();
     } else if (watched == m_parts.picMainBack && event->type() == QEvent::MouseButtonRelease) {
         panelReleased(*static_cast<QMouseEvent *>(event));
     }
@@ -106,6 +114,7 @@ bool GridEvents::eventFilter(QObject *watched, QEvent *event)
 
 void GridEvents::mousePressed(QWidget &source, QMouseEvent &event)
 {
+    m_isPressed = event.button() == Qt::LeftButton;
     MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
     Q_EMIT m_control.DataMouseDown(arguments.button, arguments.shift, arguments.x, arguments.y);
 }
@@ -120,14 +129,15 @@ void GridEvents::mouseReleased(QWidget &source, QMouseEvent &event)
 {
     const Place place = placeOf(source, event);
     MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
-    if (event.button() == Qt::RightButton && place == Place::Data)
-        Q_EMIT menuWanted(event.globalPosition().toPoint());
-    if (event.button() == Qt::LeftButton)
+    if (isData(place))
+        followGridRow();
+    if (event.button() == Qt::LeftButton && std::exchange(m_isPressed, false))
         clicked(place);
+    if (event.button() == Qt::RightButton && isData(place))
+        askForMenu(event.globalPosition().toPoint());
     Q_EMIT m_control.DataMouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
 }
 
-// On the data (cells and row numbers), on the column headings, or beside both.
 GridEvents::Place GridEvents::placeOf(const QWidget &source, const QMouseEvent &event) const
 {
     const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
@@ -135,16 +145,15 @@ GridEvents::Place GridEvents::placeOf(const QWidget &source, const QMouseEvent &
     if (&source == grid.horizontalHeader()->viewport())
         return Place::Heading;
     if (&source == grid.verticalHeader()->viewport())
-        return grid.rowAt(position.y()) >= 0 ? Place::Data : Place::None;
-    return grid.indexAt(position).isValid() ? Place::Data : Place::None;
+        return grid.rowAt(position.y()) >= 0 ? Place::RowNumber : Place::None;
+    return grid.indexAt(position).isValid() ? Place::Cell : Place::None;
 }
 
 void GridEvents::clicked(Place place)
 {
     QFile::remove(pictureFile());
-    if (place != Place::Data || m_parts.vsfgDataGrid->Row() == 0 || !m_result.isOpen())
+    if (!isData(place) || m_parts.vsfgDataGrid->Row() == 0 || !m_result.isOpen())
         return;
-    followGridRow();
     writePicture();
     Q_EMIT m_control.DataClick();
 }
@@ -189,11 +198,17 @@ void GridEvents::writePicture()
 
 void GridEvents::doubleClicked(QWidget &source, QMouseEvent &event)
 {
+    if (event.button() != Qt::LeftButton)
+        return;
+    m_isPressed = false;
     Q_EMIT m_control.DataDblClick();
     const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
-    if (placeOf(source, event) != Place::Data || grid.Row() == 0)
+    const Place place = placeOf(source, event);
+    if (!isData(place) || grid.Row() == 0)
         return;
-    const bool isWholeRow = m_parts.CheckSelAllRow->isChecked() || (grid.Col() == 1 && grid.ColSel() != 1);
+    // On a row number all of the row is meant even when its first columns are scrolled away or hidden.
+    const bool isWholeRow = m_parts.CheckSelAllRow->isChecked() || place == Place::RowNumber ||
+                            (grid.Col() == 1 && grid.ColSel() != 1);
     if (isWholeRow)
         Q_EMIT m_control.DataDBLClickOneRow(grid.Row());
     else
@@ -209,6 +224,22 @@ bool GridEvents::keyPressed(QKeyEvent &event)
     qint16 shift = shiftState(event.modifiers());
     Q_EMIT m_control.DataKeyDown(keyCode, shift);
     return keyCode == 0; // set by a handler that wants the grid to ignore the key
+}
+
+// Below the current cell, as if it had been clicked.
+void GridEvents::menuKeyPressed()
+{
+    const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    if (!grid.currentIndex().isValid())
+        return;
+    followGridRow();
+    askForMenu(grid.viewport()->mapToGlobal(grid.visualRect(grid.currentIndex()).bottomLeft()));
+}
+
+void GridEvents::askForMenu(const QPoint &position)
+{
+    if (m_parts.Toolbar1->isEnabled() && m_result.isOpen() && m_result.recordset()->RecordCount() > 0)
+        Q_EMIT menuWanted(position);
 }
 
 void GridEvents::panelReleased(QMouseEvent &event)

@@ -31,14 +31,16 @@ public:
     static QString pictureFile();
 
 Q_SIGNALS:
-    // The right button came up on data: the place for a menu. `position` is on the screen.
+    // The right button came up on data (or the menu key was pressed) while there are records and the toolbar
+    // is enabled: time for the menu. `position` is on the screen.
     void menuWanted(const QPoint &position);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    enum class Place { None, Heading, Data };
+    enum class Place { None, Heading, RowNumber, Cell };
+    static bool isData(Place place) { return place == Place::RowNumber || place == Place::Cell; }
 
     void mousePressed(QWidget &source, QMouseEvent &event);
     void mouseMoved(QWidget &source, QMouseEvent &event);
@@ -46,7 +48,9 @@ private:
     void doubleClicked(QWidget &source, QMouseEvent &event);
     // True when the host took the key for itself.
     bool keyPressed(QKeyEvent &event);
+    void menuKeyPressed();
     void panelReleased(QMouseEvent &event);
+    void askForMenu(const QPoint &position);
     void clicked(Place place);
     void writePicture();
     bool isGridSurface(const QObject *object) const;
@@ -57,6 +61,7 @@ private:
     const ResultSet &m_result;
     const PageView &m_pages;
     bool m_isFollowing = false;
+    bool m_isPressed = false; // the left button, and no double-click has come of it
 };
 
 } // namespace KOVAVSFDataGridLib

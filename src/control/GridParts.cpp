@@ -21,7 +21,7 @@ namespace {
 
 constexpr int GridLeft = 7;         // twips
 constexpr int GridWidthMargin = 67; // twips
-constexpr int Gap = 6;              // pixels at 96 DPI, between the parts of the foot
+constexpr int FootGap = 90;         // twips, between the parts of the foot
 
 template<typename Widget>
 Widget *named(Widget *widget, const QString &name)
@@ -73,24 +73,30 @@ int GridParts::footHeight() const
 {
     return std::max({txtPage->sizeHint().height(), cmdPgae->sizeHint().height(),
                      CheckSelAllRow->sizeHint().height()}) +
-           Gap;
+           gap();
+}
+
+int GridParts::gap() const
+{
+    return Twips::toPixels(FootGap, *picMainBack);
 }
 
 // The page box, its button and the label from the left, the check box at the right edge; the label gives
 // way when it gets narrow.
 void GridParts::layOutFoot(int top, int height, int width)
 {
-    const int partHeight = height - Gap;
-    int x = Gap;
+    const int gap = this->gap();
+    const int partHeight = height - gap;
+    int x = gap;
     const auto place = [&](QWidget *part, int partWidth) {
-        part->setGeometry(x, top + Gap / 2, partWidth, partHeight);
-        x += partWidth + Gap;
+        part->setGeometry(x, top + gap / 2, partWidth, partHeight);
+        x += partWidth + gap;
     };
-    const int checkWidth = std::min(CheckSelAllRow->sizeHint().width(), width - 2 * Gap);
+    const int checkWidth = std::min(CheckSelAllRow->sizeHint().width(), width - 2 * gap);
     place(txtPage, txtPage->fontMetrics().horizontalAdvance(u'0') * 8);
     place(cmdPgae, cmdPgae->sizeHint().width());
-    place(lblFieldCount, std::max(0, width - checkWidth - 2 * Gap - x));
-    x = width - checkWidth - Gap;
+    place(lblFieldCount, std::max(0, width - checkWidth - 2 * gap - x));
+    x = width - checkWidth - gap;
     place(CheckSelAllRow, checkWidth);
 }
 

@@ -44,6 +44,7 @@ public:
 
 private:
     int footHeight() const;
+    int gap() const;
     void layOutFoot(int top, int height, int width);
 };
 

@@ -51,6 +51,10 @@ inline const QString SelectWholeRows = u"整行选择(&R)"_s;
 // Loading.
 inline const QString OpenErrorPrefix = u"错误描述为："_s;
 inline const QString OpenFailed = u"数据库打开失败。"_s;
+inline const QString RecordsRead = u"已读取 %1 条记录"_s;
+inline const QString CancelOpening = u"取消"_s;
+inline const QString CancelOpeningHint = u"停止读取记录（Esc）"_s;
+inline const QString PageErrorPrefix = u"无法翻页："_s;
 
 // Misuse of a method, told to the developer.
 inline const QString WrongCol = u"Wrong Col Number!"_s;

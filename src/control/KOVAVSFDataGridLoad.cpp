@@ -3,6 +3,7 @@
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
 #include "control/KOVAVSFDataGridPrivate.h"
+#include "control/LoadProgress.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "query/SqlText.h"
@@ -64,7 +65,10 @@ std::optional<QString> KOVAVSFDataGrid::Private::statementToOpen(clsFilterManage
 // that a failed load leaves grid, history and position as they were.
 bool KOVAVSFDataGrid::Private::load()
 {
+    if (shared.isOpening)
+        return false;
     reader.forget();
+    giveThreeTierSwitch();
     auto manager = filterManagerForLoad();
     const std::optional<QString> statement = statementToOpen(*manager);
     if (!statement)
@@ -76,8 +80,12 @@ bool KOVAVSFDataGrid::Private::load()
     filter = std::move(manager);
     recordSource = *statement;
 
-    parts.vsfgDataGrid->ResetColWidths();
+    parts.layOut(q.width(), q.height()); // the columns are fitted even before the control is first shown
+    const QStringList fieldsBefore = parts.vsfgDataGrid->Headings();
     showPage(1);
+    // Widths belong to fields: the same ones loaded again keep theirs.
+    if (parts.vsfgDataGrid->Headings() != fieldsBefore)
+        parts.vsfgDataGrid->ResetColWidths();
     showMultiRecordView();
     enableForData();
 
@@ -98,13 +106,22 @@ bool KOVAVSFDataGrid::Private::load()
 
 bool KOVAVSFDataGrid::Private::open(const QString &statement)
 {
+    if (shared.isOpening)
+        return false;
     try {
-        result.open(connectionString, statement, shared.dbType);
-        return true;
+        result.replaceBy(read(statement));
+        return result.isOpen(); // unless the host has closed it when it was told of it
     } catch (const ADODB::Error &error) {
         Messages::tell(&q, GridTexts::OpenErrorPrefix + error.Description());
         return false;
     }
+}
+
+ResultSet::Opened KOVAVSFDataGrid::Private::read(const QString &statement)
+{
+    LoadProgress progress(q);
+    return ResultSet::open(connectionString, statement, shared.dbType,
+                           [&progress](qint64 rowsRead) { return progress.goOn(rowsRead); });
 }
 
 void KOVAVSFDataGrid::Private::enableForData()
@@ -136,8 +153,14 @@ ColumnLayout KOVAVSFDataGrid::Private::columns()
 
 void KOVAVSFDataGrid::Private::showPage(qint64 page)
 {
+    const int pageBefore = pages.currentPage();
     pages.setCurrentPage(page);
-    pages.fill(picField);
+    try {
+        pages.fill(picField);
+    } catch (const ADODB::Error &error) {
+        pages.setCurrentPage(pageBefore);
+        Messages::tell(&q, GridTexts::PageErrorPrefix + error.Description());
+    }
 }
 
 void KOVAVSFDataGrid::Private::updateRecordPosition()

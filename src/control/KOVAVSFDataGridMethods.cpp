@@ -52,7 +52,7 @@ bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
     try {
         const QSignalBlocker onlyOurOwnEvent(d->parts.Adodc1);
         ADODB::Recordset &recordset = *d->result.recordset();
-        recordset.MoveFirst();
+        recordset.MoveFirst(); // a host may have left it behind the last record, where no page can be shown
         if (isOtherPage)
             d->showPage(1);
         recordset.Move(lRecordRow - 1);
@@ -202,7 +202,7 @@ void KOVAVSFDataGrid::ClearObject()
 {
     saveSelectWholeRows(d->parts.CheckSelAllRow->isChecked());
     d->emptyGrid();
-    d->result.close();
+    d->result.release();
     d->reader.forget();
     ADODB::ConnectionFactory::setInstance(nullptr);
     if (d->filter)

@@ -36,7 +36,7 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
                                                     : QAbstractItemView::SelectItems);
     });
     parts.CheckSelAllRow->setChecked(readSelectWholeRows());
-    ADODB::ConnectionFactory::instance().SetThreeTier(Read3TierSwitch() != 0);
+    giveThreeTierSwitch();
     connect(parts.Adodc1, &ADODB::Adodc::MoveComplete, &q, [this](ADODB::EventReasonEnum reason) {
         if (result.isOpen() && result.recordset()->RecordCount() != 0)
             Q_EMIT q.RecordChanged(reason, static_cast<qint32>(result.recordset()->AbsolutePosition()));
@@ -44,6 +44,11 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
     connect(parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, &q,
             [this](ADODB::EventReasonEnum reason) { Q_EMIT q.RecordsetChanged(reason); });
     connect(parts.txtPage, &QLineEdit::returnPressed, parts.cmdPgae, &QPushButton::click);
+}
+
+void KOVAVSFDataGrid::Private::giveThreeTierSwitch()
+{
+    ADODB::ConnectionFactory::instance().SetThreeTier(Read3TierSwitch() != 0);
 }
 
 bool KOVAVSFDataGrid::Private::isUserMode() const

@@ -38,9 +38,13 @@ public:
 
     // The whole load; see IsLoadData.
     bool load();
-    // Opens the statement as the current result. A failure is told to the user and changes nothing.
+    // Opens the statement as the current result. A failure is told to the user and changes nothing. False at
+    // once while a statement is being opened, by this control or another.
     bool open(const QString &statement);
+    // Stays where it is, and tells why, when an edit of the current record can't be saved.
     void showPage(qint64 page);
+    // Hands the middle-tier switch to the connection factory, which may have been made anew.
+    void giveThreeTierSwitch();
     // Takes the open result's number of records and position into the shared values.
     void updateRecordPosition();
     // 1 presses "All", 2 "Part"; anything else does nothing.
@@ -63,6 +67,7 @@ private:
     std::unique_ptr<KOVAVSFDataGridLib::clsFilterManagement> filterManagerForLoad();
     // Nothing when the load ends silently.
     std::optional<QString> statementToOpen(KOVAVSFDataGridLib::clsFilterManagement &manager) const;
+    KOVAVSFDataGridLib::ResultSet::Opened read(const QString &statement);
     void enableForData();
     void layOutColumns(const QString &statement);
 

@@ -68,13 +68,13 @@ void PageView::fill(const QString &pictureField)
 
     const qint64 first = recordOfRow(1);
     const int count = m_currentPage > 0 ? rowsOfPage(m_currentPage) : 0;
+    const QSignalBlocker silent(m_parts.Adodc1);
+    if (count > 0)
+        recordset.PutAbsolutePosition(first);
     grid.PutRedraw(false);
     grid.Show(std::make_unique<RecordWindow>(m_result.recordset(), static_cast<int>(first), count));
-    if (count > 0) {
-        const QSignalBlocker silent(m_parts.Adodc1);
-        recordset.PutAbsolutePosition(first);
+    if (count > 0)
         grid.PutRow(1);
-    }
     grid.PutRedraw(true);
 }
 
@@ -92,6 +92,8 @@ qint64 PageView::recordOfRow(int row) const
 
 qint32 PageView::pageFromText(QString text)
 {
+    // Chinese input methods type digits of full width.
+    text = text.normalized(QString::NormalizationForm_KC);
     for (text = text.trimmed(); !text.isEmpty(); text.chop(1)) {
         bool isNumber = false;
         const qint32 page = text.toInt(&isNumber);

@@ -20,6 +20,7 @@ public:
 
     // Fills the grid with the current page, or cuts it to its heading row when nothing is open, and makes
     // the first row current. The recordset then stands on that row's record; it tells nobody of the move.
+    // Throws ADODB::Error, and changes nothing, when an edit of the current record can't be saved.
     // `pictureField` is the exact name of the field that holds a picture.
     void fill(const QString &pictureField);
     // 0-based; -1 when the result has no picture field.

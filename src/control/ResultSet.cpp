@@ -13,7 +13,8 @@ ResultSet::ResultSet(ADODB::Adodc &adodc) : m_adodc(adodc) {}
 
 ResultSet::~ResultSet() = default;
 
-void ResultSet::open(const QString &connectionString, const QString &statement, qint32 dbType)
+ResultSet::Opened ResultSet::open(const QString &connectionString, const QString &statement, qint32 dbType,
+                                  const std::function<bool(qint64)> &progress)
 {
     auto connection = newConnection(dbType);
     auto recordset = dbType == dbAccess ? std::make_shared<ADODB::Recordset>()
@@ -22,13 +23,19 @@ void ResultSet::open(const QString &connectionString, const QString &statement, 
     recordset->PutCursorLocation(ADODB::adUseClient);
     connection->PutConnectionString(connectionString);
     connection->Open();
+    recordset->SetProgress(progress);
     recordset->Open(statement, connection, ADODB::adOpenKeyset, ADODB::adLockOptimistic, ADODB::adCmdText);
+    recordset->SetProgress({});
     recordset->PutPageSize(SharedValues::RecordCap);
+    return {connectionString, std::move(connection), std::move(recordset)};
+}
 
+void ResultSet::replaceBy(Opened opened)
+{
     close();
-    m_connection = std::move(connection);
-    m_connectionString = connectionString;
-    m_recordset = std::move(recordset);
+    m_connectionString = std::move(opened.connectionString);
+    m_connection = std::move(opened.connection);
+    m_recordset = std::move(opened.recordset);
     m_adodc.PutRecordset(m_recordset);
 }
 
@@ -50,6 +57,15 @@ void ResultSet::close()
         m_recordset->Close();
     if (m_connection && m_connection->State() != ADODB::adStateClosed)
         m_connection->Close();
+}
+
+void ResultSet::release()
+{
+    close();
+    m_connectionString.clear();
+    m_connection.reset();
+    m_recordset.reset();
+    m_adodc.PutRecordset(nullptr);
 }
 
 bool ResultSet::isOpen() const

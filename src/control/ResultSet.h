@@ -2,6 +2,7 @@
 
 #include <QtCore/QString>
 
+#include <functional>
 #include <memory>
 
 namespace ADODB {
@@ -21,19 +22,31 @@ public:
     ~ResultSet();
     Q_DISABLE_COPY_MOVE(ResultSet)
 
-    // Opens `statement` through a new connection and only then lets go of the old result, so that a failure
-    // (thrown as ADODB::Error) leaves everything as it was. `dbType` is AllDBType.
-    void open(const QString &connectionString, const QString &statement, qint32 dbType);
+    // A result that was opened beside the shown one, to take its place.
+    struct Opened
+    {
+        QString connectionString;
+        std::shared_ptr<ADODB::Connection> connection;
+        std::shared_ptr<ADODB::Recordset> recordset;
+    };
+    // Opens `statement` through a new connection and touches nothing else; throws ADODB::Error. `dbType` is
+    // AllDBType; `progress` as in ADODB::Recordset::SetProgress.
+    static Opened open(const QString &connectionString, const QString &statement, qint32 dbType,
+                       const std::function<bool(qint64 rowsRead)> &progress);
+    // Closes the old result and shows the new one; whoever listens to the data control is told of both.
+    void replaceBy(Opened opened);
     // A closed connection for a database type: plain ones for Access, the others from the factory.
     static std::shared_ptr<ADODB::Connection> newConnection(qint32 dbType);
 
     // Closes the recordset and the connection, if open.
     void close();
+    // Closes them and lets go of both, and of the connection string.
+    void release();
 
     bool isOpen() const;
     // Whether the open connection was made from exactly this text.
     bool isConnectedTo(const QString &connectionString) const;
-    // Null before the first open.
+    // Null before the first result and after release().
     const std::shared_ptr<ADODB::Recordset> &recordset() const { return m_recordset; }
     const std::shared_ptr<ADODB::Connection> &connection() const { return m_connection; }
 

@@ -15,6 +15,12 @@
 
 namespace KOVAVSFDataGridLib {
 
+namespace {
+
+constexpr int RowPadding = 120; // twips, above and below a row's text together
+
+} // namespace
+
 FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
     : QTableView(parent), m_model(new FlexGridModel(fixedCols, this))
 {
@@ -28,9 +34,12 @@ FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
     horizontalHeader()->setMinimumSectionSize(0);
     horizontalHeader()->setHighlightSections(false);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
     verticalHeader()->setHighlightSections(false);
     setItemDelegate(new CellDelegate(this));
+    // A heading is no cell: pressing it makes nothing current and selects nothing.
+    disconnect(horizontalHeader(), &QHeaderView::sectionPressed, this, nullptr);
+    disconnect(horizontalHeader(), &QHeaderView::sectionEntered, this, nullptr);
+    applyRowHeight();
     setModel(m_model);
     m_widths.assign(static_cast<std::size_t>(Cols()), UseDefaultWidth);
     applyWidths();
@@ -161,6 +170,14 @@ QString FlexGrid::Text() const
     return TextMatrix(m_row, m_col);
 }
 
+QStringList FlexGrid::Headings() const
+{
+    QStringList texts;
+    for (int col = m_model->fixedCols(); col < Cols(); ++col)
+        texts.append(m_model->source().text(0, col));
+    return texts;
+}
+
 int FlexGrid::ColWidth(int col) const
 {
     checkCol(col);
@@ -229,9 +246,18 @@ void FlexGrid::Show(std::unique_ptr<CellSource> source)
 bool FlexGrid::event(QEvent *event)
 {
     // A window that moved to a screen of another resolution.
-    if (event->type() == QEvent::ScreenChangeInternal)
+    if (event->type() == QEvent::ScreenChangeInternal) {
+        applyRowHeight();
         applyWidths();
+    }
     return QTableView::event(event);
+}
+
+void FlexGrid::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        applyRowHeight();
 }
 
 void FlexGrid::checkRow(int row) const
@@ -260,6 +286,11 @@ int FlexGrid::nearestShownSection(int section) const
 int FlexGrid::section(int col) const
 {
     return col - m_model->fixedCols();
+}
+
+void FlexGrid::applyRowHeight()
+{
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Twips::toPixels(RowPadding, *this));
 }
 
 void FlexGrid::applyWidths()

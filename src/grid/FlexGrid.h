@@ -50,6 +50,8 @@ public:
     void PutTextMatrix(int row, int col, const QString &text);
     // The current cell's text.
     QString Text() const;
+    // The texts of row 0, without the heading of the row headings.
+    QStringList Headings() const;
 
     // Twips exactly as last set, whatever the screen's resolution; UseDefaultWidth when never set,
     // 0 for a hidden column.
@@ -84,6 +86,7 @@ protected:
 
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void checkRow(int row) const;
@@ -91,6 +94,7 @@ private:
     void makeCurrent(int row, int col);
     int section(int col) const;
     int nearestShownSection(int section) const;
+    void applyRowHeight();
     void applyWidths();
     void applyWidth(int col);
     void onSectionResized(int section, int size);

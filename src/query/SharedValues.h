@@ -27,6 +27,7 @@ struct SharedValues
     qint16 dbType16 = 1;
     qint32 recordCount = 0; // of the last load, at most RecordCap
     qint32 hasRecords = 0;  // 1 when recordCount is at least 1
+    bool isOpening = false; // while a statement is opened, when no other may be
     QString scratch;        // what the text dialogs take and give
     // The open result as last looked at: its number of records and the current one, 0 before the first.
     qint32 recordCountSnapshot = 0;

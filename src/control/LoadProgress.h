@@ -1,0 +1,56 @@
+#pragma once
+
+#include "query/SharedValues.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+#include <QtCore/QScopedValueRollback>
+
+#include <memory>
+
+class QLabel;
+class QProgressBar;
+class QWidget;
+
+namespace KOVAVSFDataGridLib {
+
+// Lives while a statement is opened, which happens on the GUI thread. At first it shows the wait cursor.
+// After half a second a line along the lower edge of the control says how many records have been read and
+// offers to cancel, by its button or Esc.
+//
+// From then on the application's events are dispatched, so that windows are drawn and timers run, but
+// nothing except the line takes the user's input (a modal dialog that a timer has opened meanwhile does).
+// Only one can live in a process: make none while SharedValues::isOpening.
+class LoadProgress final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // `control` must outlive this object.
+    explicit LoadProgress(QWidget &control);
+    ~LoadProgress() override;
+
+    // To be called every few milliseconds; false once the user has cancelled. It doesn't throw.
+    bool goOn(qint64 rowsRead);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void showLine();
+    void placeLine();
+    bool isForLine(const QObject &watched, const QEvent &event) const;
+
+    QScopedValueRollback<bool> m_opening{SharedValues::instance().isOpening, true};
+    QWidget &m_control;
+    std::unique_ptr<QWidget> m_line; // null during the first half second
+    QLabel *m_count = nullptr;
+    QProgressBar *m_bar = nullptr;
+    QPointer<QWidget> m_modalBefore;
+    QElapsedTimer m_sinceBegin;
+    QElapsedTimer m_sinceEvents;
+    bool m_isCancelled = false;
+};
+
+} // namespace KOVAVSFDataGridLib
