@@ -201,9 +201,10 @@ void GridEvents::doubleClicked(QWidget &source, QMouseEvent &event)
     if (event.button() != Qt::LeftButton)
         return;
     m_isPressed = false;
+    const Place place = placeOf(source, event);
+    makeCurrent(place, event.position().toPoint());
     Q_EMIT m_control.DataDblClick();
     const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
-    const Place place = placeOf(source, event);
     if (!isData(place) || grid.Row() == 0)
         return;
     // On a row number all of the row is meant even when its first columns are scrolled away or hidden.
@@ -213,6 +214,16 @@ void GridEvents::doubleClicked(QWidget &source, QMouseEvent &event)
         Q_EMIT m_control.DataDBLClickOneRow(grid.Row());
     else
         Q_EMIT m_control.DataDBLClickOneCell(grid.Col(), grid.Row());
+}
+
+// The second press can come down beside the cell of the first; the grid follows only after the host is told.
+void GridEvents::makeCurrent(Place place, const QPoint &position)
+{
+    VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    if (place == Place::Cell && grid.indexAt(position) != grid.currentIndex())
+        grid.setCurrentIndex(grid.indexAt(position));
+    else if (place == Place::RowNumber && grid.rowAt(position.y()) != grid.currentIndex().row())
+        grid.selectRow(grid.rowAt(position.y()));
 }
 
 bool GridEvents::keyPressed(QKeyEvent &event)

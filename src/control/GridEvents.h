@@ -50,6 +50,7 @@ private:
     bool keyPressed(QKeyEvent &event);
     void menuKeyPressed();
     void panelReleased(QMouseEvent &event);
+    void makeCurrent(Place place, const QPoint &position);
     void askForMenu(const QPoint &position);
     void clicked(Place place);
     void writePicture();
