@@ -73,6 +73,7 @@ bool KOVAVSFDataGrid::Private::load()
     const std::optional<QString> statement = statementToOpen(*manager);
     if (!statement)
         return false;
+    const QStringList fieldsBefore = parts.vsfgDataGrid->Headings();
     if (!open(*statement)) {
         Messages::tell(&q, GridTexts::OpenFailed);
         return false;
@@ -81,7 +82,6 @@ bool KOVAVSFDataGrid::Private::load()
     recordSource = *statement;
 
     parts.layOut(q.width(), q.height()); // the columns are fitted even before the control is first shown
-    const QStringList fieldsBefore = parts.vsfgDataGrid->Headings();
     showPage(1);
     // Widths belong to fields: the same ones loaded again keep theirs.
     if (parts.vsfgDataGrid->Headings() != fieldsBefore)

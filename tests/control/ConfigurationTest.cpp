@@ -1,0 +1,122 @@
+// The INI file beside the library and the one setting of the user.
+#include "control/Configuration.h"
+#include "ado/ConnectionFactory.h"
+#include "control/KOVAVSFDataGrid.h"
+#include "control/platform/ModuleFolder.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QSettings>
+#include <gtest/gtest.h>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The library's file is this program here, so the INI file is one beside the program.
+struct ThreeTierFile : testing::Test
+{
+    ThreeTierFile() { QFile::remove(path); }
+    ~ThreeTierFile() override { QFile::remove(path); }
+
+    void write(const QByteArray &text) const
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+
+    const QString path = QDir(moduleFolder()).filePath(u"MERIXUSER3TIER.cfg"_s);
+};
+
+struct SwitchCase
+{
+    const char *text;
+    qint32 isOn;
+};
+
+struct ThreeTierSwitch : ThreeTierFile, testing::WithParamInterface<SwitchCase>
+{
+};
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, ThreeTierSwitch,
+    testing::Values(
+        SwitchCase{"[Use3Tier]\nMERIX=yes\n", 1}, SwitchCase{"[Use3Tier]\nMERIX=YES \n", 1},
+        SwitchCase{"[Use3Tier]\nMERIX=Yes", 1}, SwitchCase{"[USE3TIER]\r\nmerix = yes\r\n", 1},
+        SwitchCase{"[ Use3Tier ]\n  MERIX\t=\t yEs\t\n", 1}, SwitchCase{"[Use3Tier]\nMERIX=\"YES\"\n", 1},
+        SwitchCase{"[Use3Tier]\nMERIX=\"YES \"\n", 1}, SwitchCase{"\xEF\xBB\xBF[Use3Tier]\nMERIX=YES\n", 1},
+        SwitchCase{"; note\n[Other]\nMERIX=NO\n\n[Use3Tier]\n;MERIX=NO\nX=1\nMERIX=YES\n", 1},
+        SwitchCase{"[Use3Tier]\nMERIX=YES\nMERIX=NO\n", 1},
+        SwitchCase{"[Use3Tier]\nMERIX=NO\nMERIX=YES\n", 0}, SwitchCase{"[MERIX]\nUse3Tier=YES\n", 0},
+        SwitchCase{"MERIX=YES\n", 0}, SwitchCase{"[Use3Tier]\n[Other]\nMERIX=YES\n", 0},
+        SwitchCase{"[Use3Tier]\nMERIX=NO\n", 0}, SwitchCase{"[Use3Tier]\nMERIX=\n", 0},
+        SwitchCase{"[Use3Tier]\nMERIX\n", 0}, SwitchCase{"[Use3Tier]\nMERIXX=YES\n", 0},
+        SwitchCase{"[Use3Tier]\nMERIX=YES, really\n", 0}, SwitchCase{"[Use3Tier]\n;MERIX=YES\n", 0},
+        SwitchCase{"", 0}));
+
+TEST_P(ThreeTierSwitch, IsOnForYesUnderItsSectionAndKeyAlone)
+{
+    write(GetParam().text);
+    EXPECT_EQ(Read3TierSwitch(), GetParam().isOn);
+}
+
+TEST_F(ThreeTierFile, MissingMeansOff)
+{
+    EXPECT_EQ(Read3TierSwitch(), 0);
+    EXPECT_EQ(ReadProfileValue(u"Use3Tier"_s, u"MERIX"_s, path), u"Return Err"_s);
+}
+
+TEST_F(ThreeTierFile, ValuesAreReadAsTheyStand)
+{
+    write("[Paths]\nFolder=C:\\new\\table; all %20, 中文 = \"x\"\nEmpty=\nLong=" + QByteArray(400, 'x') +
+          "\n");
+    EXPECT_EQ(ReadProfileValue(u"Paths"_s, u"Folder"_s, path), u"C:\\new\\table; all %20, 中文 = \"x\""_s);
+    EXPECT_EQ(ReadProfileValue(u"Paths"_s, u"Empty"_s, path), QString());
+    EXPECT_EQ(ReadProfileValue(u"Paths"_s, u"Missing"_s, path), u"Return Err"_s);
+    EXPECT_EQ(ReadProfileValue(u"Paths"_s, u"Long"_s, path).size(), 254);
+}
+
+TEST_F(ThreeTierFile, AFileInUtf16IsReadByItsByteOrderMark)
+{
+    const QString text = u"\uFEFF[Use3Tier]\r\nMERIX=YES\r\n"_s;
+    write(QByteArray(reinterpret_cast<const char *>(text.utf16()), text.size() * 2));
+    EXPECT_EQ(Read3TierSwitch(), 1);
+}
+
+TEST_F(ThreeTierFile, TheFactoryIsToldWhenAControlIsMade)
+{
+    write("[Use3Tier]\nMERIX=YES\n");
+    ADODB::ConnectionFactory::setInstance(nullptr);
+    KOVAVSFDataGrid grid;
+    EXPECT_TRUE(ADODB::ConnectionFactory::instance().ThreeTier());
+
+    // A new factory is told by the next load.
+    grid.ClearObject();
+    EXPECT_FALSE(ADODB::ConnectionFactory::instance().ThreeTier());
+    grid.PutConnectionString(u"Provider=SQLite;Data Source=:memory:"_s);
+    grid.PutSQLShow(u"select 1 as A from (select 2)"_s);
+    ASSERT_TRUE(grid.IsLoadData());
+    EXPECT_TRUE(ADODB::ConnectionFactory::instance().ThreeTier());
+
+    write("[Use3Tier]\nMERIX=NO\n");
+    const KOVAVSFDataGrid another;
+    EXPECT_FALSE(ADODB::ConnectionFactory::instance().ThreeTier());
+}
+
+TEST(SelectWholeRows, IsOnUntilTheUserSaysOtherwise)
+{
+    QSettings settings(u"KOVAVSFDataGrid"_s, u"KOVAVSFDataGrid"_s);
+    settings.remove(u"Settings/ResChkSelAllRow"_s);
+    settings.sync();
+    EXPECT_TRUE(readSelectWholeRows());
+    saveSelectWholeRows(false);
+    EXPECT_FALSE(readSelectWholeRows());
+    settings.sync();
+    EXPECT_EQ(settings.value(u"Settings/ResChkSelAllRow"_s).toString(), u"0"_s);
+    saveSelectWholeRows(true);
+    EXPECT_TRUE(readSelectWholeRows());
+}

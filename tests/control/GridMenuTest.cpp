@@ -1,0 +1,110 @@
+// When the grid asks for its menu.
+#include "GridFixture.h"
+#include "control/GridEvents.h"
+#include "control/GridParts.h"
+#include "control/GridToolbar.h"
+#include "control/PageView.h"
+#include "control/ResultSet.h"
+#include "grid/FlexGrid.h"
+
+#include <QtTest/QSignalSpy>
+
+using namespace KOVAVSFDataGridLib;
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The parts of a second control, put together by hand, whose events go to the first one.
+struct GridMenu : testing::Test
+{
+    GridMenu()
+    {
+        window.resize(600, 400);
+        parts.layOut(600, 400);
+        window.show();
+        QObject::connect(&control, &KOVAVSFDataGrid::DataMouseUp, &window,
+                         [this] { menusAtMouseUp = menus.count(); });
+    }
+
+    void fill(const QString &statement)
+    {
+        result.replaceBy(ResultSet::open(database.connectionString(), statement, 1, {}));
+        pages.setCurrentPage(1);
+        pages.fill({});
+    }
+    QPoint rowPlace(int row) const
+    {
+        return parts.vsfgDataGrid->visualRect(parts.vsfgDataGrid->model()->index(row - 1, 0)).center();
+    }
+    void click(Qt::MouseButton button, const QPoint &place)
+    {
+        QTest::mouseClick(parts.vsfgDataGrid->viewport(), button, {}, place);
+    }
+
+    TestDatabase database{u"CREATE TABLE T (ID); INSERT INTO T VALUES (1),(2),(3)"_s};
+    KOVAVSFDataGrid control;
+    QWidget window;
+    GridParts parts{window};
+    ResultSet result{*parts.Adodc1};
+    PageView pages{parts, result};
+    GridEvents events{control, parts, result, pages};
+    QSignalSpy menus{&events, &GridEvents::menuWanted};
+    qsizetype menusAtMouseUp = -1;
+};
+
+} // namespace
+
+TEST_F(GridMenu, ComesWithTheRightButtonOnDataBeforeTheHostIsTold)
+{
+    fill(u"select ID from T"_s);
+    click(Qt::RightButton, rowPlace(2));
+    ASSERT_EQ(menus.count(), 1);
+    EXPECT_EQ(menus.at(0).at(0).toPoint(), parts.vsfgDataGrid->viewport()->mapToGlobal(rowPlace(2)));
+    EXPECT_EQ(parts.vsfgDataGrid->Row(), 2) << "it acts on the record under the pointer";
+    EXPECT_EQ(menusAtMouseUp, 1);
+}
+
+TEST_F(GridMenu, ComesWithNoOtherButtonOrPlace)
+{
+    fill(u"select ID from T"_s);
+    click(Qt::LeftButton, rowPlace(2));
+    click(Qt::MiddleButton, rowPlace(2));
+    click(Qt::RightButton, {10, parts.vsfgDataGrid->viewport()->height() - 3});
+    QTest::mouseClick(parts.vsfgDataGrid->horizontalHeader()->viewport(), Qt::RightButton, {}, {5, 5});
+    EXPECT_EQ(menus.count(), 0);
+    EXPECT_EQ(menusAtMouseUp, 0) << "the host is told all the same";
+}
+
+TEST_F(GridMenu, ComesOnlyWhileTheToolbarIsEnabled)
+{
+    fill(u"select ID from T"_s);
+    parts.Toolbar1->setEnabled(false);
+    click(Qt::RightButton, rowPlace(1));
+    EXPECT_EQ(menus.count(), 0);
+    EXPECT_EQ(menusAtMouseUp, 0);
+    parts.Toolbar1->setEnabled(true);
+    click(Qt::RightButton, rowPlace(1));
+    EXPECT_EQ(menus.count(), 1);
+}
+
+TEST_F(GridMenu, DoesNotComeOnAnEmptyOrClosedResult)
+{
+    fill(u"select ID from T where ID > 5"_s);
+    click(Qt::RightButton, {10, 10});
+    fill(u"select ID from T"_s);
+    result.close();
+    click(Qt::RightButton, rowPlace(1));
+    EXPECT_EQ(menus.count(), 0);
+}
+
+TEST_F(GridMenu, ComesWithTheMenuKeyBelowTheCurrentCell)
+{
+    fill(u"select ID from T"_s);
+    parts.vsfgDataGrid->PutRow(3);
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, {});
+    QApplication::sendEvent(parts.vsfgDataGrid, &key);
+    ASSERT_EQ(menus.count(), 1);
+    const QRect cell = parts.vsfgDataGrid->visualRect(parts.vsfgDataGrid->currentIndex());
+    EXPECT_EQ(menus.at(0).at(0).toPoint(), parts.vsfgDataGrid->viewport()->mapToGlobal(cell.bottomLeft()));
+}

@@ -1,0 +1,199 @@
+// A load that takes long: the line that tells of it, cancelling, and what the rest of the application may do
+// meanwhile.
+#include "GridFixture.h"
+#include "support/MessageAnswers.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QTimer>
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QPushButton>
+
+#include <functional>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct LoadProgressTest : GridFixture
+{
+    LoadProgressTest()
+        : GridFixture(u"CREATE TABLE T (ID INTEGER PRIMARY KEY); INSERT INTO T VALUES (1),(2),(3)"_s)
+    {
+        EXPECT_TRUE(load(u"select * from T"_s));
+        grid.SetGridRow(2);
+    }
+
+    // Loads more records than there is time for. `act` runs as soon as the application's events do, and then
+    // the load is cancelled if `act` hasn't done so.
+    bool loadForever(const std::function<void()> &act)
+    {
+        QTimer::singleShot(0, &grid, [this, act] {
+            EXPECT_TRUE(line()) << "no events run before the line shows";
+            act();
+            if (line())
+                pressEscape();
+        });
+        return load(u"with recursive N(n) as (select 1 union all select n + 1 from N) select n from N"_s);
+    }
+    bool line() const { return grid.findChild<QProgressBar *>() != nullptr; }
+    QPushButton *cancelButton() const
+    {
+        for (QPushButton *button : grid.findChildren<QPushButton *>()) {
+            if (button->text() == u"取消")
+                return button;
+        }
+        return nullptr;
+    }
+    void pressEscape() { QTest::keyClick(&grid, Qt::Key_Escape); }
+    void expectCancelled()
+    {
+        EXPECT_EQ(messages.texts(), QStringList({u"错误描述为：操作已取消。"_s, u"数据库打开失败。"_s}));
+        EXPECT_FALSE(line());
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    }
+
+    MessageAnswers messages;
+};
+
+} // namespace
+
+TEST_F(LoadProgressTest, TheLineTellsHowManyRecordsHaveBeenRead)
+{
+    int value = 0;
+    QString text;
+    QRect place;
+    bool hasWaitCursor = true;
+    EXPECT_FALSE(loadForever([&] {
+        const auto *bar = grid.findChild<QProgressBar *>();
+        value = bar->value();
+        text = bar->parentWidget()->findChild<QLabel *>()->text();
+        place = QRect(bar->parentWidget()->mapTo(&grid, QPoint()), bar->parentWidget()->size());
+        hasWaitCursor = QApplication::overrideCursor() != nullptr;
+        EXPECT_TRUE(bar->isVisible());
+        EXPECT_TRUE(cancelButton()->isVisible());
+    }));
+    EXPECT_GT(value, 1000);
+    EXPECT_EQ(text, u"已读取 %1 条记录"_s.arg(value));
+    EXPECT_EQ(place.width(), grid.width());
+    EXPECT_EQ(place.bottom(), grid.rect().bottom());
+    EXPECT_LT(place.height(), 60) << "a slim line";
+    EXPECT_FALSE(hasWaitCursor) << "the pointer shall invite to press the button";
+}
+
+TEST_F(LoadProgressTest, TheButtonCancelsAsAFailedOpen)
+{
+    EXPECT_FALSE(loadForever([this] { QTest::mouseClick(cancelButton(), Qt::LeftButton); }));
+    expectCancelled();
+    EXPECT_EQ(table->model()->rowCount(), 3);
+    EXPECT_EQ(grid.GetGridRow(), 2);
+    EXPECT_EQ(grid.CurrPosition(), 2);
+    EXPECT_EQ(grid.RecordSource(), u"select * from T"_s);
+    EXPECT_TRUE(grid.LocateSelRecord(3));
+    EXPECT_EQ(grid.CurrPosition(), 3);
+}
+
+TEST_F(LoadProgressTest, EscapeCancelsWhereverTheFocusIs)
+{
+    QLineEdit elsewhere(u"text"_s);
+    elsewhere.show();
+    EXPECT_FALSE(loadForever([&] { QTest::keyClick(&elsewhere, Qt::Key_Escape); }));
+    expectCancelled();
+}
+
+TEST_F(LoadProgressTest, CancellingEndsTheOpenAtOnce)
+{
+    QElapsedTimer timer;
+    qint64 elapsed = -1;
+    QObject::connect(qApp, &QApplication::focusWindowChanged, &grid, [&] {
+        if (elapsed < 0 && timer.isValid())
+            elapsed = timer.elapsed(); // the message box has come
+    });
+    EXPECT_FALSE(loadForever([&] {
+        pressEscape();
+        timer.start();
+    }));
+    if (elapsed < 0)
+        elapsed = timer.elapsed();
+    RecordProperty("milliseconds", static_cast<int>(elapsed));
+    EXPECT_LT(elapsed, 1000) << "200 on a machine that does nothing else";
+}
+
+TEST_F(LoadProgressTest, NothingElseTakesInput)
+{
+    QLineEdit text;
+    QPushButton button;
+    text.show();
+    button.show();
+    QSignalSpy clicks(&button, &QPushButton::clicked);
+    EXPECT_FALSE(loadForever([&] {
+        QTest::keyClicks(&text, u"abc"_s);
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QTest::keyClick(&button, Qt::Key_Space);
+        QTest::mouseClick(part<QPushButton>("cmdPgae"), Qt::LeftButton);
+        click(3, 1);
+    }));
+    EXPECT_EQ(text.text(), QString());
+    EXPECT_EQ(clicks.count(), 0);
+    EXPECT_EQ(grid.GetGridRow(), 2);
+    expectCancelled();
+
+    QTest::keyClicks(&text, u"abc"_s);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(text.text(), u"abc"_s);
+    EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST_F(LoadProgressTest, ASecondLoadAnswersFalseAtOnce)
+{
+    KOVAVSFDataGrid second;
+    second.PutConnectionString(database.connectionString());
+    second.PutSQLShow(u"select ID from T"_s);
+    bool isLoaded = true;
+    bool isLoadedAgain = true;
+    QStringList told;
+    EXPECT_FALSE(loadForever([&] {
+        isLoaded = second.IsLoadData();
+        isLoadedAgain = grid.IsLoadData();
+        told = messages.texts();
+    }));
+    EXPECT_FALSE(isLoaded);
+    EXPECT_FALSE(isLoadedAgain);
+    EXPECT_EQ(told, QStringList());
+    EXPECT_TRUE(second.IsLoadData());
+}
+
+TEST_F(LoadProgressTest, ADialogThatOpensMeanwhileCanBeAnswered)
+{
+    QMessageBox::StandardButton answer = QMessageBox::NoButton;
+    EXPECT_FALSE(loadForever([&] { answer = QMessageBox::question(nullptr, u"title"_s, u"meanwhile"_s); }));
+    EXPECT_EQ(answer, QMessageBox::No) << "the one that answers clicks a real button";
+    EXPECT_EQ(messages.texts(),
+              QStringList({u"meanwhile"_s, u"错误描述为：操作已取消。"_s, u"数据库打开失败。"_s}));
+}
+
+TEST_F(LoadProgressTest, AShortLoadShowsNoLine)
+{
+    bool isSeen = false;
+    QTimer::singleShot(0, &grid, [&] { isSeen = true; });
+    EXPECT_TRUE(load(u"select * from T order by ID desc"_s));
+    EXPECT_FALSE(isSeen) << "no events run during it";
+    EXPECT_FALSE(line());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(LoadProgressTest, ALongLoadThatIsLetGoOnSucceeds)
+{
+    bool isSeen = false;
+    QTimer::singleShot(0, &grid, [&] { isSeen = line(); });
+    // Takes long whatever the machine: every record is a wait of its own until the line has shown.
+    EXPECT_TRUE(load(u"with recursive N(n) as (select 1 union all select n + 1 from N where n < 6000000) "
+                     "select max(n) as M from N"_s));
+    EXPECT_TRUE(isSeen);
+    EXPECT_EQ(grid.CellTextL(1, 1), u"6000000"_s);
+    EXPECT_FALSE(line());
+    EXPECT_EQ(messages.texts(), QStringList());
+}

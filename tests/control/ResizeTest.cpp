@@ -1,0 +1,89 @@
+// Where the parts of the control stand, in twips, at the resolution that the environment asks for.
+#include <KOVAVSFDataGrid>
+
+#include <QtTest/QTest>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTableView>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Resize : testing::Test
+{
+    Resize() { grid.show(); }
+
+    int pixels(double twips) const
+    {
+        return static_cast<int>(std::lround(twips * grid.logicalDpiX() / 1440));
+    }
+    const QWidget &part(const QString &name) const { return *grid.findChild<QWidget *>(name); }
+    QRect placeOf(const QString &name) const { return part(name).geometry(); }
+
+    KOVAVSFDataGrid grid;
+};
+
+} // namespace
+
+TEST_F(Resize, RunsAtTheResolutionItIsMeantFor)
+{
+    const int wanted = qEnvironmentVariableIntValue("QT_FONT_DPI");
+    EXPECT_EQ(grid.logicalDpiX(), wanted ? wanted : 96);
+}
+
+TEST_F(Resize, TheControlIsNeverSmallerThan3000By1500Twips)
+{
+    grid.resize(pixels(2000), pixels(1000));
+    EXPECT_EQ(grid.size(), QSize(pixels(3000), pixels(1500)));
+    EXPECT_EQ(placeOf(u"picMainBack"_s), grid.rect());
+    grid.resize(pixels(2000), pixels(6000));
+    EXPECT_EQ(grid.size(), QSize(pixels(3000), pixels(6000)));
+    grid.resize(pixels(9000), pixels(1000));
+    EXPECT_EQ(grid.size(), QSize(pixels(9000), pixels(1500)));
+}
+
+TEST_F(Resize, TheGridFillsThePanelBetweenToolbarAndFoot)
+{
+    for (const QSize size : {QSize(9000, 6000), QSize(3000, 1500), QSize(20000, 9000)}) {
+        grid.resize(pixels(size.width()), pixels(size.height()));
+        const QRect panel = placeOf(u"picMainBack"_s);
+        const QRect table = placeOf(u"vsfgDataGrid"_s);
+        EXPECT_EQ(panel, grid.rect());
+        EXPECT_EQ(table.left(), std::max(1, pixels(7)));
+        EXPECT_EQ(table.width(), panel.width() - pixels(67));
+        EXPECT_EQ(table.top(), placeOf(u"Toolbar1"_s).bottom() + 1);
+        EXPECT_EQ(placeOf(u"MSFlexGrid1"_s), table);
+        EXPECT_FALSE(part(u"txtEdit"_s).isVisible());
+    }
+}
+
+TEST_F(Resize, ThePageControlsStandBelowTheGridSideBySide)
+{
+    grid.resize(pixels(12000), pixels(6000));
+    const QRect table = placeOf(u"vsfgDataGrid"_s);
+    const QRect box = placeOf(u"txtPage"_s);
+    const QRect button = placeOf(u"cmdPgae"_s);
+    const QRect label = placeOf(u"lblFieldCount"_s);
+    const QRect check = placeOf(u"CheckSelAllRow"_s);
+    for (const QRect &place : {box, button, label, check}) {
+        EXPECT_GT(place.top(), table.bottom());
+        EXPECT_LE(place.bottom(), grid.rect().bottom());
+        EXPECT_GT(place.width(), 0);
+    }
+    EXPECT_GT(button.left(), box.right());
+    EXPECT_GT(label.left(), button.right());
+    EXPECT_GT(check.left(), label.right());
+    EXPECT_LE(check.right(), grid.rect().right());
+}
+
+TEST_F(Resize, MovingTheEdgeHidesTheCellEditor)
+{
+    auto *edit = grid.findChild<QLineEdit *>(u"txtEdit"_s);
+    edit->show();
+    grid.resize(grid.width() + 10, grid.height());
+    EXPECT_FALSE(edit->isVisible());
+}
