@@ -7,6 +7,7 @@
 #include "control/ResultSet.h"
 #include "grid/FlexGrid.h"
 
+#include <QtGui/QContextMenuEvent>
 #include <QtTest/QSignalSpy>
 
 using namespace KOVAVSFDataGridLib;
@@ -102,7 +103,7 @@ TEST_F(GridMenu, ComesWithTheMenuKeyBelowTheCurrentCell)
 {
     fill(u"select ID from T"_s);
     parts.vsfgDataGrid->PutRow(3);
-    QContextMenuEvent key(QContextMenuEvent::Keyboard, {});
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(), QPoint());
     QApplication::sendEvent(parts.vsfgDataGrid, &key);
     ASSERT_EQ(menus.count(), 1);
     const QRect cell = parts.vsfgDataGrid->visualRect(parts.vsfgDataGrid->currentIndex());
