@@ -69,6 +69,12 @@ void GridParts::layOut(int width, int height)
     layOutFoot(height - foot, foot, width);
 }
 
+QRect GridParts::foot() const
+{
+    const int height = footHeight();
+    return {0, picMainBack->height() - height, picMainBack->width(), height};
+}
+
 int GridParts::footHeight() const
 {
     return std::max({txtPage->sizeHint().height(), cmdPgae->sizeHint().height(),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <memory>
+#include <QtCore/QRect>
 
 class QCheckBox;
 class QLabel;
@@ -41,6 +41,8 @@ public:
 
     // Places everything on a control of the given size.
     void layOut(int width, int height);
+    // The line below the grid, on the control.
+    QRect foot() const;
 
 private:
     int footHeight() const;

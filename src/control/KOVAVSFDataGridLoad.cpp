@@ -119,7 +119,7 @@ bool KOVAVSFDataGrid::Private::open(const QString &statement)
 
 ResultSet::Opened KOVAVSFDataGrid::Private::read(const QString &statement)
 {
-    LoadProgress progress(q);
+    LoadProgress progress(q, parts);
     return ResultSet::open(connectionString, statement, shared.dbType,
                            [&progress](qint64 rowsRead) { return progress.goOn(rowsRead); });
 }

@@ -1,5 +1,6 @@
 #include "control/LoadProgress.h"
 
+#include "control/GridParts.h"
 #include "control/GridTexts.h"
 
 #include <QtGui/QKeyEvent>
@@ -37,8 +38,8 @@ bool isInput(const QEvent &event)
 
 } // namespace
 
-LoadProgress::LoadProgress(QWidget &control)
-    : m_control(control), m_modalBefore(QApplication::activeModalWidget())
+LoadProgress::LoadProgress(QWidget &control, const GridParts &parts)
+    : m_control(control), m_parts(parts), m_modalBefore(QApplication::activeModalWidget())
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     m_sinceBegin.start();
@@ -57,9 +58,7 @@ bool LoadProgress::goOn(qint64 rowsRead)
         showLine();
     if (m_isCancelled || !m_line || !m_sinceEvents.hasExpired(EventsInterval))
         return !m_isCancelled;
-    placeLine();
-    m_count->setText(GridTexts::RecordsRead.arg(rowsRead));
-    m_bar->setValue(static_cast<int>(std::min<qint64>(rowsRead, std::numeric_limits<int>::max())));
+    updateLine(rowsRead);
     QCoreApplication::processEvents();
     m_sinceEvents.start();
     return !m_isCancelled;
@@ -83,19 +82,21 @@ void LoadProgress::showLine()
     connect(cancel, &QPushButton::clicked, this, [this] { m_isCancelled = true; });
 
     auto *layout = new QHBoxLayout(m_line.get());
-    layout->setContentsMargins(6, 0, 6, 0);
+    layout->setContentsMargins(6, 0, 6, 0); // pixels, as a style's own margins
     layout->addWidget(m_bar, 1);
     layout->addWidget(m_count);
     layout->addWidget(cancel);
-    placeLine();
+    updateLine(0);
     m_line->show();
     qApp->installEventFilter(this);
 }
 
-void LoadProgress::placeLine()
+void LoadProgress::updateLine(qint64 rowsRead)
 {
-    const int height = m_line->sizeHint().height();
-    m_line->setGeometry(0, m_control.height() - height, m_control.width(), height);
+    m_count->setText(GridTexts::RecordsRead.arg(rowsRead));
+    m_bar->setValue(static_cast<int>(std::min<qint64>(rowsRead, std::numeric_limits<int>::max())));
+    m_line->setGeometry(m_parts.foot()); // the control can have been resized
+    m_line->layout()->activate();
 }
 
 bool LoadProgress::eventFilter(QObject *watched, QEvent *event)

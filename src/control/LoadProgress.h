@@ -15,8 +15,10 @@ class QWidget;
 
 namespace KOVAVSFDataGridLib {
 
+class GridParts;
+
 // Lives while a statement is opened, which happens on the GUI thread. At first it shows the wait cursor.
-// After half a second a line along the lower edge of the control says how many records have been read and
+// After half a second a line over the control's foot says how many records have been read and
 // offers to cancel, by its button or Esc.
 //
 // From then on the application's events are dispatched, so that windows are drawn and timers run, but
@@ -27,8 +29,8 @@ class LoadProgress final : public QObject
     Q_OBJECT
 
 public:
-    // `control` must outlive this object.
-    explicit LoadProgress(QWidget &control);
+    // `control` is what the parts are those of; both must outlive this object.
+    LoadProgress(QWidget &control, const GridParts &parts);
     ~LoadProgress() override;
 
     // To be called every few milliseconds; false once the user has cancelled. It doesn't throw.
@@ -39,11 +41,12 @@ protected:
 
 private:
     void showLine();
-    void placeLine();
+    void updateLine(qint64 rowsRead);
     bool isForLine(const QObject &watched, const QEvent &event) const;
 
     QScopedValueRollback<bool> m_opening{SharedValues::instance().isOpening, true};
     QWidget &m_control;
+    const GridParts &m_parts;
     std::unique_ptr<QWidget> m_line; // null during the first half second
     QLabel *m_count = nullptr;
     QProgressBar *m_bar = nullptr;

@@ -106,20 +106,15 @@ TEST_F(LoadProgressTest, EscapeCancelsWhereverTheFocusIs)
 
 TEST_F(LoadProgressTest, CancellingEndsTheOpenAtOnce)
 {
-    QElapsedTimer timer;
-    qint64 elapsed = -1;
-    QObject::connect(qApp, &QApplication::focusWindowChanged, &grid, [&] {
-        if (elapsed < 0 && timer.isValid())
-            elapsed = timer.elapsed(); // the message box has come
-    });
+    QElapsedTimer sinceCancel;
     EXPECT_FALSE(loadForever([&] {
+        sinceCancel.start();
         pressEscape();
-        timer.start();
     }));
-    if (elapsed < 0)
-        elapsed = timer.elapsed();
-    RecordProperty("milliseconds", static_cast<int>(elapsed));
-    EXPECT_LT(elapsed, 1000) << "200 on a machine that does nothing else";
+    // With both messages answered; the rest up to a second is for a machine that is busy with other things.
+    const auto milliseconds = static_cast<int>(sinceCancel.elapsed());
+    RecordProperty("milliseconds", milliseconds);
+    EXPECT_LT(milliseconds, 1000);
 }
 
 TEST_F(LoadProgressTest, NothingElseTakesInput)
@@ -189,7 +184,7 @@ TEST_F(LoadProgressTest, ALongLoadThatIsLetGoOnSucceeds)
 {
     bool isSeen = false;
     QTimer::singleShot(0, &grid, [&] { isSeen = line(); });
-    // Takes long whatever the machine: every record is a wait of its own until the line has shown.
+    // Long enough for the line on the fastest of machines, and the aggregate keeps it small.
     EXPECT_TRUE(load(u"with recursive N(n) as (select 1 union all select n + 1 from N where n < 6000000) "
                      "select max(n) as M from N"_s));
     EXPECT_TRUE(isSeen);

@@ -179,6 +179,34 @@ TEST_F(Grid, RefillingKeepsWidths)
     EXPECT_EQ(grid.Row(), 0);
 }
 
+TEST_F(Grid, HeadingsAreThoseOfTheColumns)
+{
+    EXPECT_EQ(grid.Headings(), QStringList({u"r0c1"_s, u"r0c2"_s, u"r0c3"_s, u"r0c4"_s, u"r0c5"_s}));
+}
+
+TEST_F(Grid, PressingAHeadingSelectsNothingAndMovesNothing)
+{
+    grid.PutRow(3);
+    grid.PutCol(2);
+    const QModelIndexList selected = grid.selectionModel()->selectedIndexes();
+    QHeaderView *header = grid.horizontalHeader();
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, {header->sectionPosition(4) + 5, 5});
+    EXPECT_EQ(grid.Row(), 3);
+    EXPECT_EQ(grid.Col(), 2);
+    EXPECT_EQ(grid.selectionModel()->selectedIndexes(), selected);
+}
+
+TEST_F(Grid, RowsAreAsHighAsTheFontNeeds)
+{
+    QFont font = grid.font();
+    font.setPointSize(30);
+    grid.setFont(font);
+    EXPECT_GT(grid.rowHeight(0), QFontMetrics(font).height());
+    font.setPointSize(8);
+    grid.setFont(font);
+    EXPECT_LT(grid.rowHeight(0), 2 * QFontMetrics(font).height());
+}
+
 TEST_F(Grid, ClearKeepsTheShape)
 {
     grid.Clear();
