@@ -195,6 +195,34 @@ TEST_F(HandBack, WhatTheControlDoesNotOfferTheViewerDoesNotEither)
     });
 }
 
+TEST_F(HandBack, AHostThatReloadsMeanwhileEndsTheVisit)
+{
+    load(u"select * from T"_s);
+    const auto outcome = visit([this](const ViewerUser &user) {
+        result.open(database.connectionString(), u"select Name from T"_s, dbAccess);
+        EXPECT_FALSE(user.grid().isVisible());
+        user.toolbar().findChild<QAction *>(u"All"_s)->trigger();
+    });
+    EXPECT_FALSE(outcome);
+    EXPECT_EQ(result.recordset()->Fields().Count(), 1) << "what the host opened stays";
+    EXPECT_EQ(history().Count(), 1);
+}
+
+TEST_F(HandBack, AHostThatReloadsBehindTheFilterDialogEndsTheVisit)
+{
+    load(u"select * from T"_s);
+    FullScreenRequest reloading = request();
+    reloading.askCondition = [this](QWidget *) {
+        result.open(database.connectionString(), u"select Name from T"_s, dbAccess);
+        return u"ID > 1"_s;
+    };
+    QTimer::singleShot(0, &control,
+                       [] { ViewerUser(*QApplication::activeModalWidget()).press(u"Filter"_s); });
+    EXPECT_FALSE(ShowFullScreen(reloading));
+    EXPECT_EQ(result.recordset()->RecordCount(), 5);
+    EXPECT_EQ(history().Count(), 1);
+}
+
 TEST_F(HandBack, AControlThatIsDestroyedMeanwhileTakesTheViewerAlong)
 {
     load(u"select * from T"_s);

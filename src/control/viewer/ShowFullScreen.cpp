@@ -1,5 +1,6 @@
 #include "control/viewer/ShowFullScreen.h"
 
+#include "ado/Adodc.h"
 #include "ado/Recordset.h"
 #include "control/ColumnLayout.h"
 #include "control/GridParts.h"
@@ -11,6 +12,7 @@
 #include "query/clsFilterManagement.h"
 
 #include <QtCore/QPointer>
+#include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QPushButton>
 
 namespace KOVAVSFDataGridLib {
@@ -25,9 +27,10 @@ bool isOffered(const GridToolbar &toolbar, const QString &key)
 }
 
 // The control's own grid goes along at once, because its rows are read from the result that was replaced.
-ViewerHost hostFor(const FullScreenRequest &control)
+ViewerHost hostFor(const FullScreenRequest &control, bool &isOpening)
 {
-    const auto open = [&control](const QString &statement) {
+    const auto open = [&control, &isOpening](const QString &statement) {
+        const QScopedValueRollback<bool> opening(isOpening, true);
         control.result.open(control.connectionString, statement, control.dbType);
         control.parts.vsfgDataGrid->ResetColWidths();
         control.pages.setCurrentPage(1);
@@ -74,8 +77,18 @@ std::optional<FullScreenOutcome> ShowFullScreen(const FullScreenRequest &control
     ColumnLayout(*control.parts.vsfgDataGrid, control.filter.SQLManager()).SaveColumnWidths(0);
 
     // On the heap, because a host that closes its window under the viewer destroys it as well.
-    auto *viewer = new frm_FullScreen(hostFor(control), control.parts.picMainBack);
+    bool isOpening = false;
+    auto *viewer = new frm_FullScreen(hostFor(control, isOpening), control.parts.picMainBack);
     const QPointer<frm_FullScreen> alive = viewer;
+    // A host that reloads the control meanwhile, from a timer say, takes result and filter manager away.
+    bool isObsolete = false;
+    QObject::connect(control.parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, viewer, [&, viewer] {
+        if (isOpening)
+            return;
+        isObsolete = true;
+        viewer->ClearRefObject();
+        viewer->reject();
+    });
     viewer->PutFilterManager(control.filter);
     viewer->GetData(control.result.connection(), control.result.recordset(), control.pages.currentPage(),
                     control.connectionString, control.statement, true, control.sqlSort, wasAll,
@@ -84,12 +97,13 @@ std::optional<FullScreenOutcome> ShowFullScreen(const FullScreenRequest &control
     viewer->exec();
     if (!alive)
         return std::nullopt;
+    const std::unique_ptr<frm_FullScreen> owned(viewer);
+    if (isObsolete)
+        return std::nullopt;
 
     takeOver(control, *viewer, wasAll);
     viewer->ClearRefObject();
-    const FullScreenOutcome outcome{viewer->IsAll(), viewer->IsRequeried(), viewer->CurrentSQL()};
-    delete viewer;
-    return outcome;
+    return FullScreenOutcome{viewer->IsAll(), viewer->IsRequeried(), viewer->CurrentSQL()};
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -44,8 +44,8 @@ struct FullScreenOutcome
 // and the field catalogue go along by themselves, as they belong to the filter manager.
 //
 // The caller leaves the single-record view first and takes the outcome into its properties. Nothing when
-// there are no records to show, or when the control was destroyed meanwhile: then the request's parts are
-// gone.
+// there are no records to show, when the host opened or closed a result of the control meanwhile (the control
+// then shows that one), or when it destroyed the control: then the request's parts are gone.
 std::optional<FullScreenOutcome> ShowFullScreen(const FullScreenRequest &control);
 
 } // namespace KOVAVSFDataGridLib

@@ -34,7 +34,8 @@ void frm_FullScreen::press(const QString &key)
         {"Part"_L1, true, [](Viewer &v) { return v.showPartFields(); }},
         {"SelField"_L1, true, [](Viewer &v) { return v.selectFields(); }},
         {"Filter"_L1, true, [](Viewer &v) { return v.ShowFilterDialog(); }},
-        {"CellFilter"_L1, true, [](Viewer &v) { return v.filterBySelectedCell(); }},
+        {"CellFilter"_L1, true, // the menu's alone
+         [](Viewer &v) { return v.filterBySelectedCell(); }},
         {"Sort"_L1, false, [](Viewer &v) { return v.sort(); }},
         {"ToPreview"_L1, false, [](Viewer &v) { return v.stepBack(&colShowSQLSentences::GetPreviewSQL); }},
         {"ToOrigin"_L1, false, [](Viewer &v) { return v.stepBack(&colShowSQLSentences::GetFirstSQL); }},
@@ -50,7 +51,7 @@ void frm_FullScreen::press(const QString &key)
         SeeCompressView();
     } else if (command != std::end(commands) && m_filter && (!command->needsRecords || hasRecords())) {
         const clsFilterManagement before = *m_filter;
-        if (!command->run(*this))
+        if (!command->run(*this) && m_filter)
             *m_filter = before;
     }
     // A click has pressed "All" or "Part" already, whatever came of it.
@@ -186,7 +187,7 @@ bool frm_FullScreen::sort()
 bool frm_FullScreen::ShowFilterDialog()
 {
     const QString condition = m_host.askCondition(this).trimmed();
-    return !condition.isEmpty() && filterBy(condition);
+    return m_filter && !condition.isEmpty() && filterBy(condition);
 }
 
 bool frm_FullScreen::filterBySelectedCell()
