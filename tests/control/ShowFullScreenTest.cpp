@@ -5,6 +5,7 @@
 #include "ado/Recordset.h"
 #include "control/GridToolbar.h"
 #include "control/viewer/ShowFullScreen.h"
+#include "forms/DialogFieldChooser.h"
 #include "grid/FlexGrid.h"
 
 #include <QtCore/QTimer>
@@ -193,6 +194,27 @@ TEST_F(HandBack, WhatTheControlDoesNotOfferTheViewerDoesNotEither)
         for (const QString &key : {u"Filter"_s, u"Sort"_s, u"ToFullTable"_s})
             EXPECT_FALSE(user.toolbar().isButtonEnabled(key)) << qPrintable(key);
     });
+}
+
+TEST_F(HandBack, TheSelectionDialogsStandAboveTheViewer)
+{
+    load(u"select * from T"_s);
+    DialogFieldChooser dialogs(&control);
+    filter.SetFieldChooser(&dialogs);
+    for (const QString &key : {u"Sort"_s, u"SelField"_s}) {
+        visit([&](const ViewerUser &user) {
+            const QWidget *viewer = QApplication::activeModalWidget();
+            int shown = 0;
+            QTimer::singleShot(0, &control, [&] {
+                QWidget *dialog = QApplication::activeModalWidget();
+                shown += dialog != viewer && dialog->parentWidget() == viewer;
+                QTest::keyClick(dialog, Qt::Key_Escape);
+            });
+            user.press(key);
+            EXPECT_EQ(shown, 1) << qPrintable(key);
+        });
+    }
+    EXPECT_EQ(history().Count(), 1);
 }
 
 TEST_F(HandBack, AHostThatReloadsMeanwhileEndsTheVisit)

@@ -25,7 +25,8 @@ struct frm_FullScreen::Command
     bool (*run)(frm_FullScreen &viewer);
 };
 
-// A command that fails gives the filter manager and its history back as they were.
+// A command that fails gives the filter manager and its history back as they were. The cell filter has a key
+// for the menu's sake; no button has it.
 void frm_FullScreen::press(const QString &key)
 {
     using Viewer = frm_FullScreen;
@@ -34,8 +35,7 @@ void frm_FullScreen::press(const QString &key)
         {"Part"_L1, true, [](Viewer &v) { return v.showPartFields(); }},
         {"SelField"_L1, true, [](Viewer &v) { return v.selectFields(); }},
         {"Filter"_L1, true, [](Viewer &v) { return v.ShowFilterDialog(); }},
-        {"CellFilter"_L1, true, // the menu's alone
-         [](Viewer &v) { return v.filterBySelectedCell(); }},
+        {"CellFilter"_L1, true, [](Viewer &v) { return v.filterBySelectedCell(); }},
         {"Sort"_L1, false, [](Viewer &v) { return v.sort(); }},
         {"ToPreview"_L1, false, [](Viewer &v) { return v.stepBack(&colShowSQLSentences::GetPreviewSQL); }},
         {"ToOrigin"_L1, false, [](Viewer &v) { return v.stepBack(&colShowSQLSentences::GetFirstSQL); }},
