@@ -176,6 +176,18 @@ TEST_F(HandBack, TheChosenFieldsGoAlong)
     EXPECT_EQ(row(1), u"2001-01-01 1"_s);
 }
 
+TEST_F(HandBack, AColumnOfAnotherFieldIsNotHiddenByTheOneThatWasInItsPlace)
+{
+    load(u"select * from T"_s, u"select Name from T"_s);
+    forgetWidths();
+    ColumnLayout(*parts.vsfgDataGrid, history()).ShowPartFieldColumns(0);
+    ASSERT_EQ(row(0), u"Name"_s);
+    parts.Toolbar1->setButtonPressed(u"Part"_s, true);
+    chooser.answer = u"[Born],[ID]"_s;
+    visit([](const ViewerUser &user) { user.press(u"SelField"_s); });
+    EXPECT_EQ(row(0), u"Born ID"_s);
+}
+
 TEST_F(HandBack, TheWidthsThatTheUserSeesGoIn)
 {
     load(u"select * from T"_s);

@@ -61,12 +61,13 @@ void LoadedParts::load(const QString &sql, const QString &partStatement, const Q
                        connection);
 }
 
-QString LoadedParts::record(qint64 number) const
+void LoadedParts::forgetWidths()
 {
-    QStringList texts;
-    for (int field = 0; field < result.recordset()->Fields().Count(); ++field)
-        texts.append(result.recordset()->CellText(number, field));
-    return texts.join(u' ');
+    QStringList keys;
+    for (const clsDataField &field : history().DataFields())
+        keys.append(field.FieldKey);
+    for (const QString &key : keys)
+        history().DataFields().Update(key, [](clsDataField &field) { field.FieldWidth = 0; });
 }
 
 qint64 LoadedParts::position() const

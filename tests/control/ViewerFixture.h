@@ -42,8 +42,8 @@ struct LoadedParts : testing::Test
     LoadedParts();
 
     void load(const QString &statement, const QString &partStatement = {}, const QString &sort = {});
-    // A record of the result: its texts with a blank between them.
-    QString record(qint64 number) const;
+    // Leaves the field catalogue without any width.
+    void forgetWidths();
     qint64 position() const;
     KOVAVSFDataGridLib::colShowSQLSentences &history() { return filter.SQLManager(); }
     QString latestStatement() const;

@@ -180,9 +180,10 @@ TEST_F(Viewer, OnAOnePageResultNextAndLastDoNothing)
     load(u"select * from T"_s);
     show();
     for (const QString &key : {u"Next"_s, u"Last"_s, u"Previous"_s, u"First"_s}) {
+        user.grid().PutRow(3);
         user.press(key);
         EXPECT_EQ(user.label(), u"第1页共1页"_s) << qPrintable(key);
-        EXPECT_EQ(user.rows(), 5);
+        EXPECT_EQ(user.grid().Row(), 3) << "nothing is filled anew";
     }
 }
 
@@ -398,6 +399,17 @@ TEST_F(Viewer, SelFieldShowsTheChosenFieldsInTheirOrder)
     EXPECT_EQ(user.rows(), 3);
 }
 
+TEST_F(Viewer, AColumnOfAnotherFieldIsNotHiddenByTheOneThatWasInItsPlace)
+{
+    load(u"select * from T"_s, u"select Name from T"_s);
+    forgetWidths();
+    show(1, false);
+    EXPECT_EQ(user.row(0), u"Name"_s);
+    chooser.answer = u"[Born],[ID]"_s;
+    user.press(u"SelField"_s);
+    EXPECT_EQ(user.row(0), u"Born ID"_s);
+}
+
 TEST_F(Viewer, SortReordersAndIsRemembered)
 {
     load(u"select * from T"_s, {}, u"ID"_s);
@@ -440,6 +452,20 @@ TEST_F(Viewer, FilterNarrowsWhatIsShown)
     user.press(u"Filter"_s);
     EXPECT_EQ(user.rows(), 0) << "the conditions add up";
     EXPECT_EQ(user.label(), u"第0页共0页"_s);
+}
+
+TEST_F(Viewer, FilterNarrowsWhatTheControlFilteredBefore)
+{
+    load(u"select * from T"_s);
+    QString filtered;
+    ASSERT_TRUE(history().GetNextSQLByFilter(u"ID > 2"_s, filtered));
+    load(filtered);
+    filter.SetOriginFilter(u"select * from T"_s);
+    show();
+    condition = u"Name like 'Anna'"_s;
+    user.press(u"Filter"_s);
+    EXPECT_EQ(user.rows(), 1);
+    EXPECT_EQ(user.row(1), u"4 Anna 40 2004-04-04"_s);
 }
 
 TEST_F(Viewer, AFilterThatCantBeReadIsToldAndKeepsWhatIsShown)
@@ -573,9 +599,22 @@ TEST_F(Viewer, ARightClickMakesItsCellCurrentAndOffersTheMenu)
     user.rightClick(3, 2);
     EXPECT_EQ(user.grid().Row(), 3);
     EXPECT_EQ(user.grid().Col(), 2);
-    EXPECT_TRUE(user.menu().isVisible());
+    ASSERT_TRUE(user.menu().isVisible());
     for (int index : {1, 2, 4, 5, 7})
         EXPECT_TRUE(user.menuItem(index)->isEnabled()) << index;
+}
+
+TEST_F(Viewer, TheCellWhereTheRightButtonComesUpIsTheOneMeant)
+{
+    load(u"select * from T"_s);
+    show();
+    const auto place = [this](int row) {
+        return user.grid().visualRect(user.grid().model()->index(row - 1, 1)).center();
+    };
+    QTest::mousePress(user.grid().viewport(), Qt::RightButton, {}, place(5));
+    QTest::mouseRelease(user.grid().viewport(), Qt::RightButton, {}, place(4));
+    EXPECT_EQ(user.grid().Row(), 4);
+    EXPECT_TRUE(user.menuItem(4)->isEnabled());
 }
 
 TEST_F(Viewer, TheMenuFollowsTheButtonsAndTheCell)
