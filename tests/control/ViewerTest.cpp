@@ -392,7 +392,8 @@ TEST_F(Viewer, SelFieldShowsTheChosenFieldsInTheirOrder)
     EXPECT_EQ(user.rows(), 3) << "the condition stays";
     EXPECT_FALSE(viewer.IsAll());
     EXPECT_TRUE(user.toolbar().isButtonPressed(u"Part"_s));
-    EXPECT_EQ(history().Item(2)->CurrPartFields, viewer.CurrentSQL());
+    EXPECT_EQ(history().Item(2)->CurrPartFields.trimmed(), u"SELECT [Born],[ID] from T"_s);
+    EXPECT_TRUE(viewer.CurrentSQL().startsWith(history().Item(2)->CurrPartFields));
 
     user.press(u"All"_s);
     EXPECT_EQ(user.row(0), u"ID Name Price Born"_s);
@@ -637,8 +638,7 @@ TEST_F(Viewer, TheMenuKeyOffersTheMenuAtTheCurrentCell)
     load(u"select * from T"_s);
     show();
     user.grid().PutRow(2);
-    QContextMenuEvent byKey(QContextMenuEvent::Keyboard, {}, {});
-    QApplication::sendEvent(&user.grid(), &byKey);
+    QTest::keyClick(&user.grid(), Qt::Key_Menu);
     EXPECT_TRUE(user.menu().isVisible());
     EXPECT_TRUE(user.menuItem(4)->isEnabled());
 }

@@ -4,6 +4,7 @@
 #include "ado/Recordset.h"
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
+#include "control/MenuKey.h"
 #include "control/StoreRecordPosition.h"
 #include "control/viewer/TypedPage.h"
 #include "control/viewer/ViewerMenu.h"
@@ -14,7 +15,7 @@
 #include "grid/TextCells.h"
 #include "query/SharedValues.h"
 
-#include <QtGui/QContextMenuEvent>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -209,13 +210,13 @@ bool frm_FullScreen::eventFilter(QObject *watched, QEvent *event)
                 grid.setCurrentIndex(cell);
             popUp(mouse.globalPosition().toPoint(), cell.isValid());
         }
-    } else if (watched == &grid && event->type() == QEvent::ContextMenu) {
-        const auto &menuEvent = *static_cast<QContextMenuEvent *>(event);
-        if (menuEvent.reason() == QContextMenuEvent::Keyboard) {
-            const QRect cell = grid.visualRect(grid.currentIndex());
-            popUp(grid.viewport()->mapToGlobal(cell.center()), grid.Row() > 0);
+    } else if (watched == &grid && event->type() == QEvent::KeyPress) {
+        if (isMenuKey(*static_cast<QKeyEvent *>(event))) {
+            popUp(menuPlace(grid), grid.Row() > 0);
             return true;
         }
+    } else if (watched == &grid && event->type() == QEvent::ContextMenu) {
+        return true; // the menu key comes as a key as well, and once is enough
     }
     return QDialog::eventFilter(watched, event);
 }

@@ -8,6 +8,7 @@
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "query/Conditions.h"
+#include "query/SqlText.h"
 #include "query/clsFilterManagement.h"
 
 #include <algorithm>
@@ -159,7 +160,7 @@ bool frm_FullScreen::selectFields()
     if (!Requery(chosen))
         return false;
     m_isAll = false;
-    RecordInHistory(chosen, colShowSQLSentences::NoSort());
+    RecordInHistory(SplitSQLSentence(chosen)->fields, colShowSQLSentences::NoSort());
     return true;
 }
 
