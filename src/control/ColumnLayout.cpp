@@ -91,17 +91,25 @@ bool ColumnLayout::columnsFit() const
     return sum <= Twips::fromPixels(m_grid.width(), m_grid);
 }
 
-void ColumnLayout::fitColumns()
+std::optional<double> ColumnLayout::shareOfWidth() const
 {
     qint32 shown = 0;
     if (!m_history.GetCurrShowFieldsCount(shown) || shown < 1)
+        return std::nullopt;
+    const int room = Twips::fromPixels(m_grid.width(), m_grid) - ScrollBarMargin - RowNumberMargin;
+    if (room < shown)
+        return std::nullopt; // no room at all: better too wide than gone
+    return static_cast<double>(room) / shown;
+}
+
+void ColumnLayout::fitColumns()
+{
+    const std::optional<double> share = shareOfWidth();
+    if (!share)
         return;
-    const int width = (Twips::fromPixels(m_grid.width(), m_grid) - ScrollBarMargin - RowNumberMargin) / shown;
-    if (width < 1)
-        return; // no room at all: better too wide than gone
     for (int col = 1; col < m_grid.Cols(); ++col) {
         if (m_grid.ColWidth(col) != 0)
-            m_grid.PutColWidth(col, width);
+            m_grid.PutColWidth(col, static_cast<int>(*share));
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include <QtCore/QString>
 
+#include <optional>
+
 namespace KOVAVSFDataGridLib {
 
 class VSFlexGrid;
@@ -34,7 +36,10 @@ public:
     // hidden: nothing else could bring it back.
     void ShowAllFieldColumns();
 
-    // Shares the grid's width out among its shown columns, when the history says that fields are shown.
+    // What each column gets of the grid's width when the fields that the history says are shown share it, in
+    // twips; nothing when none is shown or there is no room.
+    std::optional<double> shareOfWidth() const;
+    // Gives each column that is not hidden its share.
     void fitColumns();
     bool columnsFit() const;
 

@@ -4,6 +4,7 @@
 #include "control/GridToolbar.h"
 #include "control/KOVAVSFDataGridPrivate.h"
 #include "control/LoadProgress.h"
+#include "control/StoreRecordPosition.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "query/SqlText.h"
@@ -165,15 +166,8 @@ void KOVAVSFDataGrid::Private::showPage(qint64 page)
 
 void KOVAVSFDataGrid::Private::updateRecordPosition()
 {
-    if (!result.isOpen())
-        return;
-    const ADODB::Recordset &recordset = *result.recordset();
-    const qint64 count = recordset.RecordCount();
-    qint64 position = 0;
-    if (!recordset.isBOF())
-        position = recordset.isEOF() ? count : recordset.AbsolutePosition();
-    shared.recordCountSnapshot = static_cast<qint32>(count);
-    shared.recordPosition = static_cast<qint32>(std::clamp<qint64>(position, 0, count));
+    if (result.isOpen())
+        StoreRecordPosition(*result.recordset());
 }
 
 void KOVAVSFDataGrid::Private::setPartAllButton(qint32 mode)

@@ -3,6 +3,8 @@
 #include "forms/frmSelShowFields.h"
 #include "forms/frmSelSortFields.h"
 
+#include <QtWidgets/QApplication>
+
 namespace KOVAVSFDataGridLib {
 
 namespace {
@@ -20,11 +22,18 @@ DialogFieldChooser::DialogFieldChooser(QWidget *parent) : m_parent(parent) {}
 
 DialogFieldChooser::~DialogFieldChooser() = default;
 
+// A window that is modal itself, the full-screen viewer say, would cover a dialog above any other.
+QWidget *DialogFieldChooser::windowBelow() const
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    return modal ? modal : m_parent.data();
+}
+
 std::optional<QString> DialogFieldChooser::ChooseVisibleFields(const QString &title,
                                                                const QStringList &allFields,
                                                                const QStringList &partFields)
 {
-    frmSelShowFields dialog(m_parent);
+    frmSelShowFields dialog(windowBelow());
     dialog.SetTitle(title);
     dialog.AppendListFields(&allFields);
     dialog.SetListFieldCheck(&partFields);
@@ -34,7 +43,7 @@ std::optional<QString> DialogFieldChooser::ChooseVisibleFields(const QString &ti
 std::optional<QString> DialogFieldChooser::ChooseSort(const QString &title, const QStringList &allFields,
                                                       const QStringList &sortTerms)
 {
-    frmSelSortFields dialog(m_parent);
+    frmSelSortFields dialog(windowBelow());
     dialog.SetTitle(title);
     dialog.AppendListFields(&allFields);
     dialog.AppendListSortFields(&sortTerms);

@@ -8,7 +8,8 @@ class QWidget;
 
 namespace KOVAVSFDataGridLib {
 
-// Asks the user with the two selection dialogs, modally above a window.
+// Asks the user with the two selection dialogs, modally above a window, or above the one that is modal
+// already.
 class DialogFieldChooser final : public FieldChooser
 {
 public:
@@ -22,6 +23,8 @@ public:
                                       const QStringList &sortTerms) override;
 
 private:
+    QWidget *windowBelow() const;
+
     QPointer<QWidget> m_parent;
 };
 

@@ -1,0 +1,45 @@
+#include "control/viewer/ViewerMenu.h"
+
+#include "control/GridToolbar.h"
+#include "control/viewer/ViewerTexts.h"
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString actionName(int index)
+{
+    return u"PopMnuAction"_s + QString::number(index);
+}
+
+} // namespace
+
+ViewerMenu::ViewerMenu(QWidget *parent) : QMenu(parent)
+{
+    setObjectName(u"PopMnu"_s);
+    const auto add = [this](QAction *action, int index) {
+        action->setObjectName(actionName(index));
+        action->setData(index);
+    };
+    int next = 1;
+    for (const ViewerTexts::MenuItem &item : ViewerTexts::MenuItems) {
+        for (; next < item.index; ++next)
+            add(addSeparator(), next);
+        add(addAction(item.caption), next++);
+    }
+    connect(this, &QMenu::triggered, this,
+            [this](const QAction *action) { Q_EMIT chosen(action->data().toInt()); });
+}
+
+void ViewerMenu::EnablePopupItems(const GridToolbar &toolbar, bool hasCellText)
+{
+    for (const ViewerTexts::MenuItem &item : ViewerTexts::MenuItems) {
+        const bool isUsable = item.key.isEmpty() || toolbar.isButtonEnabled(item.key);
+        findChild<QAction *>(actionName(item.index))
+            ->setEnabled(isUsable && (item.index != CellFilter || hasCellText));
+    }
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,106 @@
+#include "control/viewer/ViewerParts.h"
+
+#include "control/GridTexts.h"
+#include "control/GridToolbar.h"
+#include "control/viewer/ViewerTexts.h"
+#include "grid/FlexGrid.h"
+
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Gap = 6; // pixels at 96 DPI, around the bars above and below the grid
+constexpr int PageDigits = 30;
+
+} // namespace
+
+ViewerParts::ViewerParts(QDialog &window)
+    : picBox(new QWidget(&window)),
+      fraTitle(new QFrame(picBox)),
+      Toolbar1(new GridToolbar(fraTitle)),
+      cmdClose(new QPushButton(ViewerTexts::Close, fraTitle)),
+      vsfgShowData(new VSFlexGrid(picBox)),
+      txtPage(new QLineEdit(picBox)),
+      cmdPgae(new QPushButton(GridTexts::GoToPage, picBox)),
+      lblPageCount(new QLabel(picBox))
+{
+    nameParts();
+    hideUnusedButtons();
+    layOut(window);
+    vsfgShowData->setFrameShape(QFrame::NoFrame);
+    txtPage->setAlignment(Qt::AlignRight);
+    txtPage->setMaxLength(PageDigits);
+    lblPageCount->setTextFormat(Qt::PlainText);
+    // Enter belongs to the page box and must not press a button beside it.
+    cmdPgae->setAutoDefault(false);
+    cmdClose->setAutoDefault(false);
+    QObject::connect(txtPage, &QLineEdit::returnPressed, cmdPgae, &QPushButton::click);
+}
+
+void ViewerParts::nameParts()
+{
+    picBox->setObjectName(u"picBox"_s);
+    fraTitle->setObjectName(u"fraTitle"_s);
+    cmdClose->setObjectName(u"cmdClose"_s);
+    cmdClose->setToolTip(ViewerTexts::CloseHint);
+    vsfgShowData->setObjectName(u"vsfgShowData"_s);
+    vsfgShowData->setAccessibleName(ViewerTexts::Data);
+    txtPage->setObjectName(u"txtPage"_s);
+    txtPage->setAccessibleName(GridTexts::PageBoxHint);
+    txtPage->setToolTip(GridTexts::PageBoxHint);
+    cmdPgae->setObjectName(u"cmdPgae"_s);
+    cmdPgae->setToolTip(ViewerTexts::GoToPageHint);
+    lblPageCount->setObjectName(u"lblPageCount"_s);
+    Toolbar1->setAccessibleName(ViewerTexts::Title);
+}
+
+// What the viewer has no command for isn't offered, nor a separator with nothing behind the one before it.
+void ViewerParts::hideUnusedButtons()
+{
+    for (const QString &key : {u"SingleRecord"_s, u"QuickFilter"_s, u"FromResult"_s, u"FullScreen"_s})
+        Toolbar1->setButtonVisible(key, false);
+    bool isGroupEmpty = true;
+    for (QAction *action : Toolbar1->actions()) {
+        if (action->isSeparator())
+            action->setVisible(!isGroupEmpty);
+        if (action->isVisible())
+            isGroupEmpty = action->isSeparator();
+    }
+}
+
+void ViewerParts::layOut(QDialog &window)
+{
+    auto *title = new QHBoxLayout(fraTitle);
+    title->setContentsMargins(0, 0, Gap, 0);
+    title->addWidget(Toolbar1, 1);
+    title->addWidget(cmdClose);
+
+    auto *foot = new QHBoxLayout;
+    foot->setContentsMargins(Gap, Gap, Gap, Gap);
+    foot->setSpacing(Gap);
+    txtPage->setFixedWidth(txtPage->fontMetrics().horizontalAdvance(u'0') * 8);
+    foot->addWidget(txtPage);
+    foot->addWidget(cmdPgae);
+    foot->addWidget(lblPageCount, 1);
+
+    auto *box = new QVBoxLayout(picBox);
+    box->setContentsMargins({});
+    box->setSpacing(0);
+    box->addWidget(fraTitle);
+    box->addWidget(vsfgShowData, 1);
+    box->addLayout(foot);
+
+    auto *whole = new QVBoxLayout(&window);
+    whole->setContentsMargins({});
+    whole->addWidget(picBox);
+}
+
+} // namespace KOVAVSFDataGridLib

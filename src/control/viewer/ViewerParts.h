@@ -1,0 +1,37 @@
+#pragma once
+
+class QDialog;
+class QFrame;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QWidget;
+
+namespace KOVAVSFDataGridLib {
+
+class GridToolbar;
+class VSFlexGrid;
+
+// The parts of the full-screen viewer under the names by which tests find them, laid out over its whole
+// window, which owns them.
+class ViewerParts
+{
+public:
+    explicit ViewerParts(QDialog &window);
+
+    QWidget *picBox;
+    QFrame *fraTitle;
+    GridToolbar *Toolbar1;
+    QPushButton *cmdClose;
+    VSFlexGrid *vsfgShowData;
+    QLineEdit *txtPage;
+    QPushButton *cmdPgae;
+    QLabel *lblPageCount;
+
+private:
+    void nameParts();
+    void hideUnusedButtons();
+    void layOut(QDialog &window);
+};
+
+} // namespace KOVAVSFDataGridLib
