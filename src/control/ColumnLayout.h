@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 namespace KOVAVSFDataGridLib {
 
@@ -32,6 +33,11 @@ public:
     void ShowPartFieldColumns(qint32 mode);
     // Gives every field its kept width, which shows it.
     void ShowAllFieldColumns();
+
+    // The fields that are seen when all are shown, or else the part fields.
+    QStringList fieldsShownBy(qint32 lngIsShowAllFields) const;
+    // Whether each of these fields has a column, seen or not.
+    bool hasColumnsFor(const QStringList &fields) const;
 
     // Shares the grid's width out among its shown columns, when the history says that fields are shown.
     void fitColumns();

@@ -6,6 +6,7 @@
 #include "control/GridParts.h"
 #include "control/KOVAVSFDataGrid.h"
 #include "control/KeyCodes.h"
+#include "control/MenuKey.h"
 #include "control/PageView.h"
 #include "control/ResultSet.h"
 #include "grid/FlexGrid.h"
@@ -208,7 +209,13 @@ bool GridEvents::keyPressed(QKeyEvent &event)
     qint16 keyCode = code;
     qint16 shift = shiftState(event.modifiers());
     Q_EMIT m_control.DataKeyDown(keyCode, shift);
-    return keyCode == 0; // set by a handler that wants the grid to ignore the key
+    if (keyCode == 0)
+        return true; // set by a handler that wants the grid to ignore the key
+    const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    if (!isMenuKey(event) || grid.Row() == 0)
+        return false;
+    Q_EMIT menuWanted(menuPlace(grid));
+    return true;
 }
 
 void GridEvents::panelReleased(QMouseEvent &event)

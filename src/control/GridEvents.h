@@ -31,7 +31,8 @@ public:
     static QString pictureFile();
 
 Q_SIGNALS:
-    // The right button came up on data: the place for a menu. `position` is on the screen.
+    // The right button came up on data, or the menu key was pressed: the place for a menu. `position` is on
+    // the screen.
     void menuWanted(const QPoint &position);
 
 protected:
@@ -44,7 +45,7 @@ private:
     void mouseMoved(QWidget &source, QMouseEvent &event);
     void mouseReleased(QWidget &source, QMouseEvent &event);
     void doubleClicked(QWidget &source, QMouseEvent &event);
-    // True when the host took the key for itself.
+    // True when the key is dealt with: the host took it for itself, or it asked for the menu.
     bool keyPressed(QKeyEvent &event);
     void panelReleased(QMouseEvent &event);
     void clicked(Place place);

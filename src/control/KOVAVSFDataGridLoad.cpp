@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 std::unique_ptr<clsFilterManagement> KOVAVSFDataGrid::Private::newFilterManager()
 {
-    return std::make_unique<clsFilterManagement>(&reader);
+    return std::make_unique<clsFilterManagement>(&reader, &chooser);
 }
 
 clsFilterManagement &KOVAVSFDataGrid::Private::filterManager()
@@ -69,21 +69,20 @@ bool KOVAVSFDataGrid::Private::load()
     const std::optional<QString> statement = statementToOpen(*manager);
     if (!statement)
         return false;
-    if (!open(*statement)) {
+    if (!open(*statement, shared.dbType)) {
         Messages::tell(&q, GridTexts::OpenFailed);
         return false;
     }
     filter = std::move(manager);
     recordSource = *statement;
+    commands.statement.setCurrent(*statement);
 
     parts.vsfgDataGrid->ResetColWidths();
     showPage(1);
     showMultiRecordView();
     enableForData();
 
-    shared.recordCount =
-        static_cast<qint32>(std::min<qint64>(result.recordset()->RecordCount(), SharedValues::RecordCap));
-    shared.hasRecords = shared.recordCount >= 1 ? 1 : 0;
+    takeRecordCount();
     if (shared.hasRecords && parts.vsfgDataGrid->Cols() > 1) {
         parts.vsfgDataGrid->PutRow(1);
         parts.vsfgDataGrid->PutCol(1);
@@ -96,10 +95,10 @@ bool KOVAVSFDataGrid::Private::load()
     return true;
 }
 
-bool KOVAVSFDataGrid::Private::open(const QString &statement)
+bool KOVAVSFDataGrid::Private::open(const QString &statement, qint32 dbType)
 {
     try {
-        result.open(connectionString, statement, shared.dbType);
+        result.open(connectionString, statement, dbType);
         return true;
     } catch (const ADODB::Error &error) {
         Messages::tell(&q, GridTexts::OpenErrorPrefix + error.Description());
@@ -151,6 +150,20 @@ void KOVAVSFDataGrid::Private::updateRecordPosition()
         position = recordset.isEOF() ? count : recordset.AbsolutePosition();
     shared.recordCountSnapshot = static_cast<qint32>(count);
     shared.recordPosition = static_cast<qint32>(std::clamp<qint64>(position, 0, count));
+    tellStatement();
+}
+
+void KOVAVSFDataGrid::Private::takeRecordCount()
+{
+    shared.recordCount =
+        static_cast<qint32>(std::min<qint64>(result.recordset()->RecordCount(), SharedValues::RecordCap));
+    shared.hasRecords = shared.recordCount >= 1 ? 1 : 0;
+}
+
+bool KOVAVSFDataGrid::Private::hasRecords()
+{
+    updateRecordPosition();
+    return result.isOpen() && shared.recordCountSnapshot != 0;
 }
 
 void KOVAVSFDataGrid::Private::setPartAllButton(qint32 mode)

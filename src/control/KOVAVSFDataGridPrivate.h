@@ -8,6 +8,8 @@
 #include "control/OleColor.h"
 #include "control/PageView.h"
 #include "control/ResultSet.h"
+#include "control/commands/ControlFieldChooser.h"
+#include "control/commands/GridCommands.h"
 #include "query/SharedValues.h"
 #include "query/clsFilterManagement.h"
 
@@ -38,16 +40,22 @@ public:
 
     // The whole load; see IsLoadData.
     bool load();
-    // Opens the statement as the current result. A failure is told to the user and changes nothing.
-    bool open(const QString &statement);
+    // Opens the statement as the current result through a connection for `dbType` (AllDBType). A failure is
+    // told to the user and changes nothing.
+    bool open(const QString &statement, qint32 dbType);
     void showPage(qint64 page);
     // Takes the open result's number of records and position into the shared values.
     void updateRecordPosition();
+    // Keeps the open result's number of records for all to see, as a load does.
+    void takeRecordCount();
+    // Read afresh, because the shared number may be another control's. False while nothing is open.
+    bool hasRecords();
     // 1 presses "All", 2 "Part"; anything else does nothing.
     void setPartAllButton(qint32 mode);
     bool isSingleRecordShown() const;
     void showMultiRecordView();
-    void goToTypedPage();
+    // Tells below the grid where the user is and what is shown.
+    void tellStatement();
     // Runs the steps one after the other. A failing one is told with the question whether to continue:
     // Yes goes on with the next, No ends.
     void runSteps(QStringView title, std::initializer_list<std::function<void()>> steps);
@@ -73,6 +81,7 @@ public:
     KOVAVSFDataGridLib::ResultSet result;
     KOVAVSFDataGridLib::PageView pages;
     KOVAVSFDataGridLib::ConnectionFieldReader reader;
+    KOVAVSFDataGridLib::ControlFieldChooser chooser;
     std::unique_ptr<KOVAVSFDataGridLib::clsFilterManagement> filter;
     KOVAVSFDataGridLib::GridEvents events;
 
@@ -93,4 +102,6 @@ public:
     QString sysDBMode;
     QString passQurryFilter;
     QString picField;
+
+    KOVAVSFDataGridLib::GridCommands commands;
 };
