@@ -4,6 +4,10 @@
 #include "grid/Twips.h"
 #include "query/colShowSQLSentences.h"
 
+#include <QtCore/QSet>
+
+#include <algorithm>
+
 namespace KOVAVSFDataGridLib {
 
 namespace {
@@ -81,6 +85,25 @@ void ColumnLayout::ShowAllFieldColumns()
         if (width > 0)
             m_grid.PutColWidth(col, width);
     }
+}
+
+QStringList ColumnLayout::fieldsShownBy(qint32 lngIsShowAllFields) const
+{
+    QStringList names;
+    for (const clsDataField &field : m_history.DataFields()) {
+        if (lngIsShowAllFields != 0 || field.IsPartField != 0)
+            names.append(field.FieldName);
+    }
+    return names;
+}
+
+bool ColumnLayout::hasColumnsFor(const QStringList &fields) const
+{
+    QSet<QString> headings;
+    for (int col = 1; col < m_grid.Cols(); ++col)
+        headings.insert(m_grid.TextMatrix(0, col));
+    return std::all_of(fields.cbegin(), fields.cend(),
+                       [&](const QString &field) { return headings.contains(field); });
 }
 
 bool ColumnLayout::columnsFit() const

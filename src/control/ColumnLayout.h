@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <optional>
 
@@ -35,6 +36,11 @@ public:
     // Gives every field its kept width, which shows it. A column without a field keeps its own, unless it is
     // hidden: nothing else could bring it back.
     void ShowAllFieldColumns();
+
+    // The fields that are seen when all are shown, or else the part fields.
+    QStringList fieldsShownBy(qint32 lngIsShowAllFields) const;
+    // Whether each of these fields has a column, seen or not.
+    bool hasColumnsFor(const QStringList &fields) const;
 
     // What each column gets of the grid's width when the fields that the history says are shown share it, in
     // twips; nothing when none is shown or there is no room.

@@ -7,6 +7,7 @@
 #include "control/GridToolbar.h"
 #include "control/KOVAVSFDataGrid.h"
 #include "control/KeyCodes.h"
+#include "control/MenuKey.h"
 #include "control/PageView.h"
 #include "control/ResultSet.h"
 #include "grid/FlexGrid.h"
@@ -103,9 +104,6 @@ bool GridEvents::eventFilter(QObject *watched, QEvent *event)
         }
     } else if (watched == m_parts.vsfgDataGrid && event->type() == QEvent::KeyPress) {
         return keyPressed(*static_cast<QKeyEvent *>(event));
-    } else if (watched == m_parts.vsfgDataGrid && event->type() == QEvent::ContextMenu) {
-        if (static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard)
-            menuKeyPressed();
     } else if (watched == m_parts.picMainBack && event->type() == QEvent::MouseButtonRelease) {
         panelReleased(*static_cast<QMouseEvent *>(event));
     }
@@ -234,17 +232,13 @@ bool GridEvents::keyPressed(QKeyEvent &event)
     qint16 keyCode = code;
     qint16 shift = shiftState(event.modifiers());
     Q_EMIT m_control.DataKeyDown(keyCode, shift);
-    return keyCode == 0; // set by a handler that wants the grid to ignore the key
-}
-
-// Below the current cell, as if it had been clicked.
-void GridEvents::menuKeyPressed()
-{
-    const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
-    if (!grid.currentIndex().isValid())
-        return;
+    if (keyCode == 0)
+        return true; // set by a handler that wants the grid to ignore the key
+    if (!isMenuKey(event) || m_parts.vsfgDataGrid->Row() == 0)
+        return false;
     followGridRow();
-    askForMenu(grid.viewport()->mapToGlobal(grid.visualRect(grid.currentIndex()).bottomLeft()));
+    askForMenu(menuPlace(*m_parts.vsfgDataGrid));
+    return true;
 }
 
 void GridEvents::askForMenu(const QPoint &position)

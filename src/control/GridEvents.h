@@ -46,9 +46,8 @@ private:
     void mouseMoved(QWidget &source, QMouseEvent &event);
     void mouseReleased(QWidget &source, QMouseEvent &event);
     void doubleClicked(QWidget &source, QMouseEvent &event);
-    // True when the host took the key for itself.
+    // True when the key is dealt with: the host took it for itself, or it asked for the menu.
     bool keyPressed(QKeyEvent &event);
-    void menuKeyPressed();
     void panelReleased(QMouseEvent &event);
     void makeCurrent(Place place, const QPoint &position);
     void askForMenu(const QPoint &position);

@@ -3,6 +3,7 @@
 #include "ado/Adodc.h"
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
+#include "control/StatementLine.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
 
@@ -41,6 +42,7 @@ GridParts::GridParts(QWidget &control)
       txtPage(named(new QLineEdit(picMainBack), u"txtPage"_s)),
       cmdPgae(named(new QPushButton(GridTexts::GoToPage, picMainBack), u"cmdPgae"_s)),
       lblFieldCount(named(new QLabel(picMainBack), u"lblFieldCount"_s)),
+      lblStatement(new StatementLine(picMainBack)),
       CheckSelAllRow(named(new QCheckBox(GridTexts::SelectWholeRows, picMainBack), u"CheckSelAllRow"_s)),
       Adodc1(named(new ADODB::Adodc(&control), u"Adodc1"_s))
 {
@@ -50,7 +52,11 @@ GridParts::GridParts(QWidget &control)
     txtPage->setAlignment(Qt::AlignRight);
     txtPage->setAccessibleName(GridTexts::PageBoxHint);
     txtPage->setToolTip(GridTexts::PageBoxHint);
+    cmdPgae->setToolTip(GridTexts::GoToPageTip);
     lblFieldCount->setTextFormat(Qt::PlainText);
+    Toolbar1->setAccessibleName(GridTexts::ToolbarName);
+    vsfgDataGrid->setAccessibleName(GridTexts::GridName);
+    MSFlexGrid1->setAccessibleName(GridTexts::SingleRecordName);
 }
 
 void GridParts::layOut(int width, int height)
@@ -87,8 +93,8 @@ int GridParts::gap() const
     return Twips::toPixels(FootGap, *picMainBack);
 }
 
-// The page box, its button and the label from the left, the check box at the right edge; the label gives
-// way when it gets narrow.
+// The page box, its button, the label and the statement from the left, the check box at the right edge; when
+// it gets narrow, first the statement gives way and then the label.
 void GridParts::layOutFoot(int top, int height, int width)
 {
     const int gap = this->gap();
@@ -101,7 +107,10 @@ void GridParts::layOutFoot(int top, int height, int width)
     const int checkWidth = std::min(CheckSelAllRow->sizeHint().width(), width - 2 * gap);
     place(txtPage, txtPage->fontMetrics().horizontalAdvance(u'0') * 8);
     place(cmdPgae, cmdPgae->sizeHint().width());
-    place(lblFieldCount, std::max(0, width - checkWidth - 2 * gap - x));
+    const int room = std::max(0, width - checkWidth - 2 * gap - x);
+    const int labelWidth = std::min(room, lblFieldCount->sizeHint().width());
+    place(lblFieldCount, labelWidth);
+    place(lblStatement, std::max(0, room - labelWidth - gap));
     x = width - checkWidth - gap;
     place(CheckSelAllRow, checkWidth);
 }

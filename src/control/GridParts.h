@@ -16,6 +16,7 @@ namespace KOVAVSFDataGridLib {
 
 class GridToolbar;
 class MSFlexGrid;
+class StatementLine;
 class VSFlexGrid;
 
 // The parts that the control is put together from, under the names by which hosts and tests find them,
@@ -36,6 +37,7 @@ public:
     QLineEdit *txtPage;
     QPushButton *cmdPgae;
     QLabel *lblFieldCount;
+    StatementLine *lblStatement;
     QCheckBox *CheckSelAllRow;
     ADODB::Adodc *Adodc1;
 

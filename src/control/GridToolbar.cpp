@@ -22,8 +22,14 @@ GridToolbar::GridToolbar(QWidget *parent) : QToolBar(parent)
         QAction *action = addAction(text.caption);
         action->setObjectName(key);
         action->setIcon(toolbarIcon(key));
-        action->setToolTip(text.toolTip);
-        connect(action, &QAction::triggered, this, [this, key] { Q_EMIT buttonClicked(key); });
+        action->setShortcut(QKeySequence(text.shortcut));
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        action->setToolTip(
+            u"%1 (%2)"_s.arg(text.toolTip, action->shortcut().toString(QKeySequence::NativeText)));
+        connect(action, &QAction::triggered, this, [this, key] {
+            showPressed();
+            Q_EMIT buttonClicked(key);
+        });
         if (key == u"All" || key == u"Part") {
             action->setCheckable(true);
             views->addAction(action);
@@ -88,8 +94,20 @@ bool GridToolbar::isButtonPressed(const QString &key) const
 
 void GridToolbar::setButtonPressed(const QString &key, bool on)
 {
-    if (Button *button = find(key))
-        button->action->setChecked(on);
+    Button *pressed = find(key);
+    if (!pressed)
+        return;
+    pressed->action->setChecked(on);
+    for (auto &[each, button] : m_buttons)
+        button.isPressed = button.action->isChecked(); // another one of its group came up
+}
+
+void GridToolbar::showPressed()
+{
+    for (auto &[key, button] : m_buttons) {
+        if (button.action->isChecked() != button.isPressed)
+            button.action->setChecked(button.isPressed);
+    }
 }
 
 const GridToolbar::Button *GridToolbar::find(const QString &key) const

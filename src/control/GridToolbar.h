@@ -24,7 +24,8 @@ public:
     bool isButtonVisible(const QString &key) const;
     void setButtonVisible(const QString &key, bool on);
     bool isButtonPressed(const QString &key) const;
-    // Shows a checkable button as pressed or not without running its command.
+    // Shows a checkable button as pressed or not without running its command. A click does not change it:
+    // the command that runs knows what is pressed then.
     void setButtonPressed(const QString &key, bool on);
 
 Q_SIGNALS:
@@ -37,11 +38,13 @@ private:
         QAction *action = nullptr;
         bool isEnabled = true;
         bool isVisible = true;
+        bool isPressed = false;
     };
 
     const Button *find(const QString &key) const;
     Button *find(const QString &key);
     void apply(const Button &button);
+    void showPressed();
 
     std::map<QString, Button> m_buttons;
 };

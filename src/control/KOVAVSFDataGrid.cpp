@@ -389,6 +389,7 @@ QSize KOVAVSFDataGrid::sizeHint() const
 void KOVAVSFDataGrid::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
+    d->commands.singleRecord.editor().take(true); // before the editor is put away
     d->parts.layOut(event->size().width(), event->size().height());
 }
 

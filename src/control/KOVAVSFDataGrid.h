@@ -156,6 +156,9 @@ public:
 
     QSize sizeHint() const override;
 
+    // What is behind the face; only the control's own sources know more of it.
+    class Private;
+
 Q_SIGNALS:
     // The events, in their fixed order. What comes by reference may be changed by a directly connected
     // handler. Positions are twips; Button is 1 left, 2 right, 4 middle; Shift is the sum of 1 Shift,
@@ -194,6 +197,5 @@ private:
     TBLType tableTypeChoice() const { return static_cast<TBLType>(TableType()); }
     AllDBType dbTypeChoice() const { return static_cast<AllDBType>(DBType()); }
 
-    class Private;
     const std::unique_ptr<Private> d;
 };

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 std::unique_ptr<clsFilterManagement> KOVAVSFDataGrid::Private::newFilterManager()
 {
-    return std::make_unique<clsFilterManagement>(&reader);
+    return std::make_unique<clsFilterManagement>(&reader, &chooser);
 }
 
 clsFilterManagement &KOVAVSFDataGrid::Private::filterManager()
@@ -75,12 +75,13 @@ bool KOVAVSFDataGrid::Private::load()
     if (!statement)
         return false;
     const QStringList fieldsBefore = parts.vsfgDataGrid->Headings();
-    if (!open(*statement)) {
+    if (!open(*statement, shared.dbType)) {
         Messages::tell(&q, GridTexts::OpenFailed);
         return false;
     }
     filter = std::move(manager);
     recordSource = *statement;
+    commands.statement.setCurrent(*statement);
 
     parts.layOut(q.width(), q.height()); // the columns are fitted even before the control is first shown
     showPage(1);
@@ -90,9 +91,7 @@ bool KOVAVSFDataGrid::Private::load()
     showMultiRecordView();
     enableForData();
 
-    shared.recordCount =
-        static_cast<qint32>(std::min<qint64>(result.recordset()->RecordCount(), SharedValues::RecordCap));
-    shared.hasRecords = shared.recordCount >= 1 ? 1 : 0;
+    takeRecordCount();
     if (shared.hasRecords && parts.vsfgDataGrid->Cols() > 1) {
         parts.vsfgDataGrid->PutRow(1);
         parts.vsfgDataGrid->PutCol(1);
@@ -105,23 +104,25 @@ bool KOVAVSFDataGrid::Private::load()
     return true;
 }
 
-bool KOVAVSFDataGrid::Private::open(const QString &statement)
+bool KOVAVSFDataGrid::Private::open(const QString &statement, qint32 dbType)
 {
     if (shared.isOpening)
         return false;
     try {
-        result.replaceBy(read(statement));
+        result.replaceBy(read(statement, dbType));
         return result.isOpen(); // unless the host has closed it when it was told of it
     } catch (const ADODB::Error &error) {
         Messages::tell(&q, GridTexts::OpenErrorPrefix + error.Description());
-        return false;
+    } catch (const std::exception &error) { // from a connection factory of the host's
+        Messages::tell(&q, GridTexts::OpenErrorPrefix + QString::fromUtf8(error.what()));
     }
+    return false;
 }
 
-ResultSet::Opened KOVAVSFDataGrid::Private::read(const QString &statement)
+ResultSet::Opened KOVAVSFDataGrid::Private::read(const QString &statement, qint32 dbType)
 {
     LoadProgress progress(q, parts);
-    return ResultSet::open(connectionString, statement, shared.dbType,
+    return ResultSet::open(connectionString, statement, dbType,
                            [&progress](qint64 rowsRead) { return progress.goOn(rowsRead); });
 }
 
@@ -166,8 +167,23 @@ void KOVAVSFDataGrid::Private::showPage(qint64 page)
 
 void KOVAVSFDataGrid::Private::updateRecordPosition()
 {
-    if (result.isOpen())
-        StoreRecordPosition(*result.recordset());
+    if (!result.isOpen())
+        return;
+    StoreRecordPosition(*result.recordset());
+    tellStatement();
+}
+
+void KOVAVSFDataGrid::Private::takeRecordCount()
+{
+    shared.recordCount =
+        static_cast<qint32>(std::min<qint64>(result.recordset()->RecordCount(), SharedValues::RecordCap));
+    shared.hasRecords = shared.recordCount >= 1 ? 1 : 0;
+}
+
+bool KOVAVSFDataGrid::Private::hasRecords()
+{
+    updateRecordPosition();
+    return result.isOpen() && shared.recordCountSnapshot != 0;
 }
 
 void KOVAVSFDataGrid::Private::setPartAllButton(qint32 mode)

@@ -6,7 +6,7 @@
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
 #include "control/KOVAVSFDataGridPrivate.h"
-#include "forms/Dialog_SQLST.h"
+#include "forms/ConnectDialog.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 
@@ -98,9 +98,25 @@ void KOVAVSFDataGrid::ShowSort()
     d->showText(u"Show Sort", u"SQLSort:"_s, d->sqlSort);
 }
 
-void KOVAVSFDataGrid::GetConnection() {}
+void KOVAVSFDataGrid::GetConnection()
+{
+    ConnectDialog dialog({}, this);
+    d->runSteps(u"Get Connection",
+                {[&] { dialog.SetConnectionString(d->connectionString); }, [&] { dialog.exec(); },
+                 [&] {
+                     if (dialog.connectionString())
+                         PutConnectionString(*dialog.connectionString());
+                 },
+                 [&] {
+                     if (dialog.sqlShow())
+                         PutSQLShow(*dialog.sqlShow());
+                 }});
+}
 
-void KOVAVSFDataGrid::SetFieldName() {}
+void KOVAVSFDataGrid::SetFieldName()
+{
+    d->commands.run(u"SelField"_s);
+}
 
 void KOVAVSFDataGrid::SetSQLShow()
 {
@@ -118,7 +134,10 @@ void KOVAVSFDataGrid::SetSQLFilter()
                 }});
 }
 
-void KOVAVSFDataGrid::SetSortFN() {}
+void KOVAVSFDataGrid::SetSortFN()
+{
+    d->commands.run(u"Sort"_s);
+}
 
 void KOVAVSFDataGrid::SetGridCol(const qint32 &Col)
 {
@@ -138,10 +157,9 @@ void KOVAVSFDataGrid::Clear()
 {
     d->result.close();
     d->emptyGrid();
-    if (!d->parts.MSFlexGrid1->isHidden()) {
+    if (d->isSingleRecordShown()) {
         d->parts.MSFlexGrid1->Clear();
-        d->parts.MSFlexGrid1->hide();
-        d->parts.vsfgDataGrid->show();
+        d->showMultiRecordView();
     }
     CloseAllAction();
 }

@@ -8,6 +8,7 @@
 #include "control/DesignMode.h"
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
+#include "control/StatementLine.h"
 #include "forms/Dialog_SQLST.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
@@ -18,6 +19,7 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
+#include <algorithm>
 #include <stdexcept>
 
 using namespace KOVAVSFDataGridLib;
@@ -28,9 +30,11 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
       result(*parts.Adodc1),
       pages(parts, result),
       reader(result),
-      events(control, parts, result, pages)
+      chooser(&control),
+      events(control, parts, result, pages),
+      commands(*this)
 {
-    connect(parts.cmdPgae, &QPushButton::clicked, &q, [this] { goToTypedPage(); });
+    connect(parts.cmdPgae, &QPushButton::clicked, &q, [this] { commands.goToTypedPage(); });
     connect(parts.CheckSelAllRow, &QCheckBox::toggled, &q, [this](bool on) {
         parts.vsfgDataGrid->setSelectionBehavior(on ? QAbstractItemView::SelectRows
                                                     : QAbstractItemView::SelectItems);
@@ -44,6 +48,7 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
     connect(parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, &q,
             [this](ADODB::EventReasonEnum reason) { Q_EMIT q.RecordsetChanged(reason); });
     connect(parts.txtPage, &QLineEdit::returnPressed, parts.cmdPgae, &QPushButton::click);
+    connect(&q, &KOVAVSFDataGrid::RecordChanged, &q, [this] { tellStatement(); });
 }
 
 void KOVAVSFDataGrid::Private::giveThreeTierSwitch()
@@ -63,13 +68,13 @@ void KOVAVSFDataGrid::Private::applyBackColor()
     parts.picMainBack->setPalette(palette);
 }
 
-void KOVAVSFDataGrid::Private::goToTypedPage()
+void KOVAVSFDataGrid::Private::tellStatement()
 {
-    const qint32 page = PageView::pageFromText(parts.txtPage->text());
-    if (page < 1)
-        Messages::tell(&q, GridTexts::NotAPageNumber);
-    else
-        showPage(page);
+    QString statement;
+    const bool isOpen = result.isOpen() && filter && filter->SQLManager().GetLatestSQL(statement);
+    const qint64 count = isOpen ? result.recordset()->RecordCount() : 0;
+    const qint64 position = isOpen ? std::max<qint64>(0, result.recordset()->AbsolutePosition()) : 0;
+    parts.lblStatement->tell(position, count, isOpen ? statement : QString());
 }
 
 void KOVAVSFDataGrid::Private::runSteps(QStringView title, std::initializer_list<std::function<void()>> steps)

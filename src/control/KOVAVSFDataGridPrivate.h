@@ -8,6 +8,8 @@
 #include "control/OleColor.h"
 #include "control/PageView.h"
 #include "control/ResultSet.h"
+#include "control/commands/ControlFieldChooser.h"
+#include "control/commands/GridCommands.h"
 #include "query/SharedValues.h"
 #include "query/clsFilterManagement.h"
 
@@ -38,20 +40,26 @@ public:
 
     // The whole load; see IsLoadData.
     bool load();
-    // Opens the statement as the current result. A failure is told to the user and changes nothing. False at
-    // once while a statement is being opened, by this control or another.
-    bool open(const QString &statement);
+    // Opens the statement as the current result through a connection for `dbType` (AllDBType). A failure is
+    // told to the user and changes nothing. False at once while a statement is being opened, by this control
+    // or another.
+    bool open(const QString &statement, qint32 dbType);
     // Stays where it is, and tells why, when an edit of the current record can't be saved.
     void showPage(qint64 page);
     // Hands the middle-tier switch to the connection factory, which may have been made anew.
     void giveThreeTierSwitch();
     // Takes the open result's number of records and position into the shared values.
     void updateRecordPosition();
+    // Keeps the open result's number of records for all to see, as a load does.
+    void takeRecordCount();
+    // Read afresh, because the shared number may be another control's. False while nothing is open.
+    bool hasRecords();
     // 1 presses "All", 2 "Part"; anything else does nothing.
     void setPartAllButton(qint32 mode);
     bool isSingleRecordShown() const;
     void showMultiRecordView();
-    void goToTypedPage();
+    // Tells below the grid where the user is and what is shown.
+    void tellStatement();
     // Runs the steps one after the other. A failing one is told with the question whether to continue:
     // Yes goes on with the next, No ends.
     void runSteps(QStringView title, std::initializer_list<std::function<void()>> steps);
@@ -67,7 +75,7 @@ private:
     std::unique_ptr<KOVAVSFDataGridLib::clsFilterManagement> filterManagerForLoad();
     // Nothing when the load ends silently.
     std::optional<QString> statementToOpen(KOVAVSFDataGridLib::clsFilterManagement &manager) const;
-    KOVAVSFDataGridLib::ResultSet::Opened read(const QString &statement);
+    KOVAVSFDataGridLib::ResultSet::Opened read(const QString &statement, qint32 dbType);
     void enableForData();
     void layOutColumns(const QString &statement);
 
@@ -78,6 +86,7 @@ public:
     KOVAVSFDataGridLib::ResultSet result;
     KOVAVSFDataGridLib::PageView pages;
     KOVAVSFDataGridLib::ConnectionFieldReader reader;
+    KOVAVSFDataGridLib::ControlFieldChooser chooser;
     std::unique_ptr<KOVAVSFDataGridLib::clsFilterManagement> filter;
     KOVAVSFDataGridLib::GridEvents events;
 
@@ -98,4 +107,6 @@ public:
     QString sysDBMode;
     QString passQurryFilter;
     QString picField;
+
+    KOVAVSFDataGridLib::GridCommands commands;
 };

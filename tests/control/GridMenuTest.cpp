@@ -7,7 +7,6 @@
 #include "control/ResultSet.h"
 #include "grid/FlexGrid.h"
 
-#include <QtGui/QContextMenuEvent>
 #include <QtTest/QSignalSpy>
 
 using namespace KOVAVSFDataGridLib;
@@ -103,8 +102,7 @@ TEST_F(GridMenu, ComesWithTheMenuKeyBelowTheCurrentCell)
 {
     fill(u"select ID from T"_s);
     parts.vsfgDataGrid->PutRow(3);
-    QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(), QPoint());
-    QApplication::sendEvent(parts.vsfgDataGrid, &key);
+    QTest::keyClick(parts.vsfgDataGrid, Qt::Key_Menu);
     ASSERT_EQ(menus.count(), 1);
     const QRect cell = parts.vsfgDataGrid->visualRect(parts.vsfgDataGrid->currentIndex());
     EXPECT_EQ(menus.at(0).at(0).toPoint(), parts.vsfgDataGrid->viewport()->mapToGlobal(cell.bottomLeft()));

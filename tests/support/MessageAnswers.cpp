@@ -15,6 +15,12 @@ MessageAnswers::MessageAnswers(std::vector<QMessageBox::StandardButton> answers)
 
 MessageAnswers::~MessageAnswers() = default;
 
+void MessageAnswers::answerNext(QMessageBox::StandardButton answer)
+{
+    m_answers.resize(m_shown.size(), QMessageBox::Ok);
+    m_answers.push_back(answer);
+}
+
 QStringList MessageAnswers::texts() const
 {
     QStringList texts;

@@ -27,6 +27,9 @@ public:
     explicit MessageAnswers(std::vector<QMessageBox::StandardButton> answers = {});
     ~MessageAnswers() override;
 
+    // The next box gets this answer.
+    void answerNext(QMessageBox::StandardButton answer);
+
     const std::vector<ShownMessage> &shown() const { return m_shown; }
     QStringList texts() const;
 

@@ -31,7 +31,7 @@ ViewerHost hostFor(const FullScreenRequest &control, bool &isOpening)
 {
     const auto open = [&control, &isOpening](const QString &statement) {
         const QScopedValueRollback<bool> opening(isOpening, true);
-        control.result.open(control.connectionString, statement, control.dbType);
+        control.result.replaceBy(ResultSet::open(control.connectionString, statement, control.dbType, {}));
         control.parts.vsfgDataGrid->ResetColWidths();
         control.pages.setCurrentPage(1);
         control.pages.fill(control.pictureField);

@@ -1,0 +1,23 @@
+#include "control/commands/ControlFieldChooser.h"
+
+#include "query/FieldNames.h"
+
+namespace KOVAVSFDataGridLib {
+
+std::optional<QString> ControlFieldChooser::ChooseVisibleFields(const QString &title,
+                                                                const QStringList &allFields,
+                                                                const QStringList &partFields)
+{
+    return m_dialogs.ChooseVisibleFields(title, allFields, partFields);
+}
+
+std::optional<QString> ControlFieldChooser::ChooseSort(const QString &title, const QStringList &allFields,
+                                                       const QStringList &sortTerms)
+{
+    QStringList written;
+    for (const QString &name : allFields)
+        written.append(QuotedFieldName(m_database, name));
+    return m_dialogs.ChooseSort(title, written, sortTerms);
+}
+
+} // namespace KOVAVSFDataGridLib

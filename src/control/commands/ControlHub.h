@@ -1,0 +1,11 @@
+#pragma once
+
+#include "control/KOVAVSFDataGrid.h"
+
+namespace KOVAVSFDataGridLib {
+
+// What a control keeps behind its face, and what its commands work on. Only a command's source file needs
+// the whole of it (control/KOVAVSFDataGridPrivate.h).
+using ControlHub = KOVAVSFDataGrid::Private;
+
+} // namespace KOVAVSFDataGridLib

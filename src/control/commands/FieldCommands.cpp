@@ -1,0 +1,101 @@
+#include "control/commands/FieldCommands.h"
+
+#include "control/KOVAVSFDataGridPrivate.h"
+#include "control/commands/FilterManagerRollback.h"
+#include "query/SqlText.h"
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+// The kinds of statement that the filter manager derives.
+constexpr qint32 AllFieldsStatement = 1;
+constexpr qint32 PartFieldsStatement = 2;
+
+bool hasPartStatement(const colShowSQLSentences &history)
+{
+    const clsShowSQLSentence *latest = history.Item(history.Count());
+    QString partStatement;
+    return latest && latest->GetCurrUsePartFieldSQL(partStatement);
+}
+
+QStringList namesOf(ControlHub &hub, const QString &statement)
+{
+    QStringList names;
+    for (const SourceField &field :
+         hub.reader.Read(hub.connectionString, statement).value_or(std::vector<SourceField>()))
+        names.append(field.name);
+    return names;
+}
+
+// What "All" and "Part" share once they know their statement.
+void showFields(ControlHub &hub, const QString &statement, KOVAVSFDataGrid::ShowModelChoose model)
+{
+    FilterManagerRollback rollback(hub);
+    ShownStatement &shown = hub.commands.statement;
+    const QStringList fields = hub.columns().fieldsShownBy(GetShowAllFieldsFlag(model));
+    if (!statement.isEmpty() && !hub.columns().hasColumnsFor(fields) && !shown.OpenShowSQL(statement))
+        return;
+    rollback.keepChanges();
+    shown.setCurrent(statement);
+    hub.setPartAllButton(model + 1);
+    hub.showModel = model;
+    hub.commands.singleRecord.refillIfShown();
+    shown.record(statement, colShowSQLSentences::NoPartField(), colShowSQLSentences::NoSort());
+}
+
+} // namespace
+
+void ShowAllFields(ControlHub &hub)
+{
+    hub.columns().SaveColumnWidths(0);
+    showFields(hub, hub.filterManager().GetCurrentSQL20(AllFieldsStatement), KOVAVSFDataGrid::ModelAll);
+}
+
+void ShowPartFields(ControlHub &hub)
+{
+    hub.columns().SaveColumnWidths(0);
+    const QString statement = hasPartStatement(hub.filterManager().SQLManager())
+                                  ? hub.filterManager().GetCurrentSQL20(PartFieldsStatement)
+                                  : QString();
+    if (statement.isEmpty())
+        hub.setPartAllButton(1);
+    else
+        showFields(hub, statement, KOVAVSFDataGrid::ModelPart);
+}
+
+void SelectShowFields(ControlHub &hub, QString &strSQL)
+{
+    FilterManagerRollback rollback(hub);
+    clsFilterManagement &manager = hub.filterManager();
+    colShowSQLSentences &history = manager.SQLManager();
+    manager.SetDBConnString(hub.connectionString);
+    QString latest;
+    QString key;
+    if (!history.GetLatestSQL(latest, &key))
+        return;
+    const QString allFields = history.Item(key)->AllFields;
+    QString partFields;
+    history.Item(key)->GetCurrUsePartFieldSQL(partFields);
+
+    QString statement;
+    if (!manager.GetPartShowSelFields(allFields, partFields, latest, statement) || statement.isEmpty() ||
+        !rollback.isResultUntouched())
+        return;
+    const QString chosenFields = SplitSQLSentence(statement)->fields;
+    hub.columns().SaveColumnWidths(0);
+    if (!hub.columns().hasColumnsFor(namesOf(hub, chosenFields)) &&
+        !hub.commands.statement.OpenShowSQL(statement))
+        return;
+    rollback.keepChanges();
+    hub.q.PutSQLFilter(statement);
+    hub.setPartAllButton(2);
+    hub.showModel = KOVAVSFDataGrid::ModelPart;
+    hub.commands.statement.record(statement, chosenFields, colShowSQLSentences::NoSort());
+    strSQL = hub.sqlFilter;
+    Q_EMIT hub.q.ShowFieldsChange(statement);
+    if (hub.isSingleRecordShown())
+        hub.showMultiRecordView();
+}
+
+} // namespace KOVAVSFDataGridLib

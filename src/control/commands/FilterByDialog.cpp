@@ -1,0 +1,56 @@
+#include "control/KOVAVSFDataGridPrivate.h"
+#include "control/commands/FilterCommands.h"
+#include "control/commands/FilterManagerRollback.h"
+#include "filter/mod_Filter.h"
+#include "query/SqlText.h"
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+QString askUser(ControlHub &hub)
+{
+    FilterRequest request;
+    request.connectionString = hub.connectionString;
+    request.dbType = hub.filterManager().DBType();
+    request.tableType = hub.tableType;
+    request.sqlShow = JoinStatementLines(hub.sqlShow);
+    request.connection = hub.result.connection();
+    mod_Filter filter(&hub.q);
+    filter.PrepareFilterDialog(request);
+    return filter.ShowFilterDialog();
+}
+
+} // namespace
+
+void FilterByDialog(ControlHub &hub)
+{
+    if (!hub.hasRecords())
+        return;
+    hub.q.PutPassQurryFilter({});
+    FilterManagerRollback rollback(hub);
+    QString base;
+    QString key;
+    colShowSQLSentences &history = hub.filterManager().SQLManager();
+    if (!(hub.commands.isFromResult() ? history.GetLatestSQL(base, &key) : history.GetFirstSQL(base, key)))
+        return;
+
+    constexpr qint32 leftToTheDialog = 1;
+    qint32 cancel = leftToTheDialog;
+    Q_EMIT hub.q.QurryFilter(cancel, base);
+    if (!rollback.isResultUntouched())
+        return;
+    hub.shared.lastFilter = cancel == leftToTheDialog ? askUser(hub) : hub.passQurryFilter;
+    if (!rollback.isResultUntouched())
+        return;
+    if (hub.shared.lastFilter.trimmed().isEmpty()) {
+        hub.q.PutSQLFilter({});
+        return;
+    }
+    QString statement;
+    if (hub.filterManager().SQLManager().GetNextSQLByFilter(hub.shared.lastFilter, statement) &&
+        hub.commands.statement.reloadFiltered(statement, ShownStatement::Previous::Keep))
+        rollback.keepChanges();
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,257 @@
+#include "control/commands/GridCommands.h"
+
+#include "ado/Adodc.h"
+#include "ado/Recordset.h"
+#include "control/GridTexts.h"
+#include "control/GridToolbar.h"
+#include "control/KOVAVSFDataGridPrivate.h"
+#include "control/KeyCodes.h"
+#include "control/commands/FieldCommands.h"
+#include "control/commands/FilterCommands.h"
+#include "control/commands/FullScreenCommand.h"
+#include "control/commands/HistoryCommands.h"
+#include "control/commands/PageCommands.h"
+#include "control/commands/RecordCommands.h"
+#include "control/commands/SortByDialog.h"
+#include "forms/Messages.h"
+#include "grid/FlexGrid.h"
+
+#include <QtGui/QAction>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QLineEdit>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What has to hold before a command runs.
+enum class Needs { Nothing, Records };
+// Whether the record that is being edited stays the one shown; if not, it is saved first.
+enum class Record { Stays, IsLeft };
+
+struct ToolbarCommand
+{
+    QString key;
+    Needs needs;
+    Record record;
+    void (*run)(ControlHub &hub);
+};
+
+struct MenuCommand
+{
+    int index;
+    Record record;
+    void (*run)(ControlHub &hub);
+};
+
+void selectShowFields(ControlHub &hub)
+{
+    QString statement;
+    SelectShowFields(hub, statement);
+}
+
+void sortByDialog(ControlHub &hub)
+{
+    QString sort;
+    bool ok = false;
+    SortByDialog(hub, sort, ok);
+}
+
+void showSingleRecord(ControlHub &hub)
+{
+    if (!hub.commands.statement.current().trimmed().isEmpty())
+        hub.commands.singleRecord.ShowSingleRecord();
+}
+
+void showAllRecords(ControlHub &hub)
+{
+    hub.commands.singleRecord.ShowAllRecords();
+}
+
+// Only where many records are shown already, so that the single record stays.
+void filterByDialog(ControlHub &hub)
+{
+    if (!hub.parts.Toolbar1->isButtonVisible(u"AllRecord"_s))
+        showAllRecords(hub);
+    FilterByDialog(hub);
+}
+
+void leaveSingleRecord(ControlHub &hub)
+{
+    if (hub.isSingleRecordShown())
+        showAllRecords(hub);
+}
+
+const ToolbarCommand ToolbarCommands[] = {
+    {u"All"_s, Needs::Records, Record::Stays, ShowAllFields},
+    {u"Part"_s, Needs::Records, Record::Stays, ShowPartFields},
+    {u"SingleRecord"_s, Needs::Records, Record::Stays, showSingleRecord},
+    {u"AllRecord"_s, Needs::Records, Record::IsLeft, showAllRecords},
+    {u"Filter"_s, Needs::Nothing, Record::IsLeft, filterByDialog},
+    {u"Sort"_s, Needs::Nothing, Record::IsLeft, sortByDialog},
+    {u"First"_s, Needs::Nothing, Record::IsLeft, [](ControlHub &hub) { GotoPage(hub, 1); }},
+    {u"Previous"_s, Needs::Nothing, Record::IsLeft, [](ControlHub &hub) { GotoPage(hub, 2); }},
+    {u"Next"_s, Needs::Nothing, Record::IsLeft, [](ControlHub &hub) { GotoPage(hub, 3); }},
+    {u"Last"_s, Needs::Nothing, Record::IsLeft, [](ControlHub &hub) { GotoPage(hub, 4); }},
+    {u"FullScreen"_s, Needs::Records, Record::IsLeft, ShowFullScreen},
+    {u"ToPreview"_s, Needs::Nothing, Record::IsLeft, GotoPreviewSQL},
+    {u"ToOrigin"_s, Needs::Nothing, Record::IsLeft, GotoOriginSQL},
+    {u"FromResult"_s, Needs::Nothing, Record::Stays,
+     [](ControlHub &hub) { hub.commands.toggleFromResult(); }},
+    {u"CompressView"_s, Needs::Nothing, Record::Stays, [](ControlHub &hub) { hub.q.SeeCompressView(); }},
+    {u"ToFullTable"_s, Needs::Nothing, Record::IsLeft, ShowFullTable},
+    {u"SelField"_s, Needs::Nothing, Record::IsLeft, selectShowFields},
+    {u"QuickFilter"_s, Needs::Records, Record::IsLeft, QuickFilter},
+};
+
+// The indexes left out are separators.
+const MenuCommand MenuCommands[] = {
+    {1, Record::Stays, ShowAllFields},
+    {2, Record::Stays, ShowPartFields},
+    {4, Record::IsLeft, ShowFullScreen},
+    {5, Record::Stays, showSingleRecord},
+    {6, Record::IsLeft, showAllRecords},
+    {8, Record::Stays, InsertRecord},
+    {9, Record::Stays, DeleteRecord},
+    {11, Record::IsLeft,
+     [](ControlHub &hub) {
+         leaveSingleRecord(hub);
+         FilterByDialog(hub);
+     }},
+    {12, Record::IsLeft,
+     [](ControlHub &hub) {
+         leaveSingleRecord(hub);
+         sortByDialog(hub);
+     }},
+    {14, Record::IsLeft, FilterBySelectedCell},
+    {15, Record::IsLeft, ShowFullTable},
+};
+
+} // namespace
+
+GridCommands::GridCommands(ControlHub &hub)
+    : statement(hub), singleRecord(hub), m_hub(hub), m_menu(hub.q, *hub.parts.Toolbar1)
+{
+    for (QAction *action : hub.parts.Toolbar1->actions()) {
+        if (!action->shortcut().isEmpty())
+            hub.q.addAction(action);
+    }
+    hub.parts.vsfgDataGrid->installEventFilter(this);
+    connect(hub.parts.Toolbar1, &GridToolbar::buttonClicked, this, &GridCommands::run);
+    connect(&m_menu, &PopupMenu::PopMnuDataActionClicked, this, [this](int index) {
+        bool ok = false;
+        DoDataAction(index, ok);
+    });
+    connect(&hub.events, &GridEvents::menuWanted, this, &GridCommands::showMenu);
+    connect(&singleRecord, &SingleRecordView::menuWanted, this, &GridCommands::showMenu);
+    connect(&singleRecord, &SingleRecordView::cancelWanted, this, [this] { CancelRecord(m_hub); });
+    connect(hub.parts.Adodc1, &ADODB::Adodc::MoveComplete, this, &GridCommands::followRecord);
+}
+
+void GridCommands::run(const QString &key)
+{
+    if (!m_hub.parts.Toolbar1->isEnabled())
+        return; // a shortcut, which does not know of it
+    const auto *command = std::find_if(std::begin(ToolbarCommands), std::end(ToolbarCommands),
+                                       [&](const ToolbarCommand &each) { return each.key == key; });
+    if (command != std::end(ToolbarCommands) && (command->record == Record::Stays || SaveRecord(m_hub)) &&
+        (command->needs == Needs::Nothing || m_hub.hasRecords()))
+        command->run(m_hub);
+    m_hub.updateRecordPosition();
+    m_menu.PreparePopupMenu();
+}
+
+void GridCommands::DoDataAction(int index, bool &ok)
+{
+    const auto *command = std::find_if(std::begin(MenuCommands), std::end(MenuCommands),
+                                       [&](const MenuCommand &each) { return each.index == index; });
+    ok = m_hub.parts.Toolbar1->isEnabled() && command != std::end(MenuCommands) && m_hub.result.isOpen() &&
+         (command->record == Record::Stays || SaveRecord(m_hub));
+    if (ok)
+        command->run(m_hub);
+    m_hub.updateRecordPosition();
+    m_menu.PreparePopupMenu();
+}
+
+void GridCommands::goToTypedPage()
+{
+    const qint32 page = PageView::pageFromText(m_hub.parts.txtPage->text());
+    if (page < 1)
+        Messages::tell(&m_hub.q, GridTexts::NotAPageNumber);
+    else if (SaveRecord(m_hub))
+        TurnToPage(m_hub, page);
+    m_hub.updateRecordPosition();
+}
+
+void GridCommands::toggleFromResult()
+{
+    m_isFromResult = !m_isFromResult;
+    m_hub.parts.Toolbar1->setButtonPressed(u"FromResult"_s, m_isFromResult);
+}
+
+void GridCommands::showMenu(const QPoint &position)
+{
+    if (!m_hub.hasRecords() || !m_hub.parts.Toolbar1->isEnabled())
+        return;
+    // A row heading does not become current by the right button of itself.
+    VSFlexGrid &grid = *m_hub.parts.vsfgDataGrid;
+    if (!m_hub.isSingleRecordShown()) {
+        const int row = grid.rowAt(grid.viewport()->mapFromGlobal(position).y()) + 1;
+        if (row >= 1 && row != grid.Row())
+            grid.PutRow(row);
+    }
+    m_menu.show(position);
+}
+
+// The host moved the recordset: the row under the cursor is the record meant.
+void GridCommands::followRecord()
+{
+    if (!m_hub.result.isOpen())
+        return;
+    VSFlexGrid &grid = *m_hub.parts.vsfgDataGrid;
+    const qint64 row = m_hub.result.recordset()->AbsolutePosition() - m_hub.pages.recordOfRow(1) + 1;
+    if (row >= 1 && row < grid.Rows() && row != grid.Row())
+        grid.PutRow(static_cast<int>(row));
+}
+
+bool GridCommands::isShortcut(const QKeyEvent &event) const
+{
+    const QKeySequence pressed(event.keyCombination());
+    const QList<QAction *> actions = m_hub.q.actions();
+    return std::any_of(actions.cbegin(), actions.cend(), [&](const QAction *action) {
+        return action->isEnabled() && action->shortcuts().contains(pressed);
+    });
+}
+
+// A key that is a command's shortcut never gets as far as a key press; the host is told of it all the same,
+// and may keep it from the command.
+bool GridCommands::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto &key = *static_cast<QKeyEvent *>(event);
+        if (isShortcut(key)) {
+            qint16 keyCode = virtualKey(key);
+            qint16 shift = shiftState(key.modifiers());
+            Q_EMIT m_hub.q.DataKeyDown(keyCode, shift);
+            m_isKeyTaken = keyCode == 0;
+            if (m_isKeyTaken) {
+                event->accept();
+                return true;
+            }
+        }
+    }
+    if (event->type() == QEvent::KeyPress && std::exchange(m_isKeyTaken, false))
+        return true;
+    // The menu key comes as a key as well, and once is enough.
+    if (event->type() == QEvent::ContextMenu)
+        return true;
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "control/commands/ControlHub.h"
+#include "control/commands/PopupMenu.h"
+#include "control/commands/ShownStatement.h"
+#include "control/commands/SingleRecordView.h"
+
+#include <QtCore/QObject>
+
+class QKeyEvent;
+
+namespace KOVAVSFDataGridLib {
+
+// The commands of one control: what its toolbar, its popup menu and their shortcuts run.
+class GridCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit GridCommands(ControlHub &hub);
+
+    // Runs the command of a toolbar button. A key that no button has runs nothing.
+    void run(const QString &key);
+    // Runs the command of a menu item; `ok` receives whether there is one and it could begin.
+    void DoDataAction(int index, bool &ok);
+    // Makes the page typed into the page box the one that is shown; below 1 is told to the user.
+    void goToTypedPage();
+
+    // Whether "Filter" filters what is shown rather than the first statement.
+    bool isFromResult() const { return m_isFromResult; }
+    void toggleFromResult();
+
+    ShownStatement statement;
+    SingleRecordView singleRecord;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void showMenu(const QPoint &position);
+    bool isShortcut(const QKeyEvent &event) const;
+    void followRecord();
+
+    ControlHub &m_hub;
+    PopupMenu m_menu;
+    bool m_isFromResult = false;
+    bool m_isKeyTaken = false; // the host kept the last shortcut from its command
+};
+
+} // namespace KOVAVSFDataGridLib

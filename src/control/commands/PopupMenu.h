@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+class QAction;
+class QMenu;
+class QPoint;
+class QWidget;
+
+namespace KOVAVSFDataGridLib {
+
+class GridToolbar;
+
+// PopMnuData: the commands on the data under the pointer, each known by its index from 1 to 15. An item that
+// repeats a toolbar button is shown and enabled as that button is.
+class PopupMenu : public QObject
+{
+    Q_OBJECT
+
+public:
+    PopupMenu(QWidget &control, const GridToolbar &toolbar);
+
+    // Brings the items in step with the buttons.
+    void PreparePopupMenu();
+    // Shows the menu at a place on the screen until the user has chosen or gone elsewhere.
+    void show(const QPoint &position);
+
+Q_SIGNALS:
+    // An item was chosen, in the menu or by its shortcut.
+    void PopMnuDataActionClicked(int index);
+
+private:
+    const GridToolbar &m_toolbar;
+    QMenu *m_menu;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,133 @@
+#include "control/commands/RecordCommands.h"
+
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "control/GridTexts.h"
+#include "control/KOVAVSFDataGridPrivate.h"
+#include "control/commands/PageCommands.h"
+#include "forms/Messages.h"
+#include "grid/FlexGrid.h"
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+bool isAdding(ADODB::Recordset &recordset)
+{
+    return recordset.EditMode() == ADODB::adEditAdd;
+}
+
+bool hasNoValue(ADODB::Recordset &recordset)
+{
+    for (int i = 0; i < recordset.Fields().Count(); ++i) {
+        if (recordset.Fields().Item(i).Value().isValid())
+            return false;
+    }
+    return true;
+}
+
+void cancel(ControlHub &hub)
+{
+    hub.result.recordset()->CancelUpdate();
+    if (hub.isSingleRecordShown() && hub.result.recordset()->RecordCount() == 0)
+        hub.commands.singleRecord.ShowAllRecords(); // there is no single record to show
+    hub.commands.singleRecord.refillIfShown();
+}
+
+// Throws ADODB::Error when the database refuses.
+void save(ControlHub &hub)
+{
+    ADODB::Recordset &recordset = *hub.result.recordset();
+    const bool isNew = isAdding(recordset);
+    if (isNew && hasNoValue(recordset))
+        return cancel(hub);
+    recordset.Update();
+    if (isNew)
+        RefillAtRecord(hub, recordset.AbsolutePosition());
+    else
+        hub.parts.vsfgDataGrid->Refresh();
+    hub.commands.singleRecord.refillIfShown();
+}
+
+void deleteCurrentRecord(ControlHub &hub)
+{
+    ADODB::Recordset &recordset = *hub.result.recordset();
+    hub.commands.singleRecord.editor().close();
+    if (isAdding(recordset)) {
+        CancelRecord(hub);
+        return;
+    }
+    const qint64 position = recordset.AbsolutePosition();
+    recordset.Delete(ADODB::adAffectCurrent);
+    const qint64 next = std::min(position, recordset.RecordCount());
+    if (next < 1)
+        recordset.MoveFirst(); // off the deleted record: nothing is left
+    RefillAtRecord(hub, next);
+    if (next >= 1)
+        recordset.PutAbsolutePosition(next);
+    else if (hub.isSingleRecordShown())
+        hub.commands.singleRecord.ShowAllRecords();
+    hub.parts.vsfgDataGrid->Refresh();
+}
+
+} // namespace
+
+bool SaveRecord(ControlHub &hub)
+{
+    if (!hub.commands.singleRecord.editor().take())
+        return false;
+    if (!hub.result.isOpen())
+        return true;
+    const ADODB::EditModeEnum mode = hub.result.recordset()->EditMode();
+    if (mode != ADODB::adEditAdd && mode != ADODB::adEditInProgress)
+        return true;
+    try {
+        save(hub);
+        return true;
+    } catch (const ADODB::Error &error) {
+        Messages::tell(&hub.q, GridTexts::NotSavedPrefix + error.Description());
+        return false;
+    }
+}
+
+void CancelRecord(ControlHub &hub)
+{
+    hub.commands.singleRecord.editor().close();
+    if (hub.result.isOpen())
+        cancel(hub);
+}
+
+void InsertRecord(ControlHub &hub)
+{
+    if (!hub.result.isOpen() || !hub.commands.singleRecord.editor().take())
+        return;
+    ADODB::Recordset &recordset = *hub.result.recordset();
+    if (recordset.EditMode() == ADODB::adEditInProgress && !SaveRecord(hub))
+        return;
+    try {
+        if (isAdding(recordset) && !hasNoValue(recordset))
+            save(hub);
+        recordset.AddNew();
+        hub.commands.singleRecord.ShowSingleRecord();
+    } catch (const ADODB::Error &error) {
+        if (isAdding(recordset) || error.is(ADODB::dbErrCancelled))
+            Messages::tell(&hub.q, GridTexts::InsertCancelled);
+    }
+}
+
+void DeleteRecord(ControlHub &hub)
+{
+    if (!hub.result.isOpen() || (!hub.hasRecords() && !isAdding(*hub.result.recordset())) ||
+        !Messages::ask(&hub.q, GridTexts::AskDelete, GridTexts::AskDeleteTitle, QMessageBox::Question) ||
+        !hub.result.isOpen())
+        return;
+    try {
+        deleteCurrentRecord(hub);
+    } catch (const ADODB::Error &) {
+        Messages::tell(&hub.q, GridTexts::DeleteRefused);
+    }
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,38 @@
+#include "control/commands/SortByDialog.h"
+
+#include "control/KOVAVSFDataGridPrivate.h"
+#include "control/commands/FilterManagerRollback.h"
+
+namespace KOVAVSFDataGridLib {
+
+void SortByDialog(ControlHub &hub, QString &strSort, bool &ok)
+{
+    FilterManagerRollback rollback(hub);
+    clsFilterManagement &manager = hub.filterManager();
+    colShowSQLSentences &history = manager.SQLManager();
+    manager.SetDBConnString(hub.connectionString);
+    hub.chooser.setDatabase(manager.DBType());
+    QString latest;
+    QString key;
+    if (!history.GetLatestSQL(latest, &key))
+        return;
+    const QString allFields = history.Item(key)->AllFields;
+    QString currentSort;
+    history.Item(key)->GetCurrUseOrderFieldSQL(currentSort);
+
+    QString newSort;
+    QString statement;
+    if (!manager.GetPartSortSelFields(allFields, currentSort, newSort) || !rollback.isResultUntouched() ||
+        !history.GetNextSQLBySort(newSort, statement) || statement.isEmpty())
+        return;
+    hub.columns().SaveColumnWidths(0);
+    hub.commands.statement.rememberAsPrevious();
+    if (!hub.commands.statement.OpenShowSQL(statement))
+        return;
+    rollback.keepChanges();
+    hub.commands.statement.record(statement, colShowSQLSentences::NoPartField(), newSort);
+    strSort = newSort;
+    ok = true;
+}
+
+} // namespace KOVAVSFDataGridLib

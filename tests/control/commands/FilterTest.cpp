@@ -1,0 +1,229 @@
+// The filter dialog and the host's filter, the quick filter and the filter on the selected cell.
+#include "Shop.h"
+
+#include "support/Dialogs.h"
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Filters = Shop;
+
+void takeOver(KOVAVSFDataGrid &grid, const QString &condition)
+{
+    QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid,
+                     [&grid, condition](qint32 &cancel, const QString &) {
+                         EXPECT_EQ(cancel, 1);
+                         EXPECT_EQ(grid.PassQurryFilter(), QString()) << "cleared before the host is asked";
+                         grid.PutPassQurryFilter(condition);
+                         cancel = 0;
+                     });
+}
+
+} // namespace
+
+TEST_F(Filters, TheDialogsConditionIsAppliedAndRecorded)
+{
+    ASSERT_TRUE(load());
+    QStringList bases;
+    QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid,
+                     [&](qint32 &, const QString &base) { bases.append(base); });
+    WindowAnswers dialogs({[](QDialog &dialog) { filter(dialog, u"ID > 9"_s); }});
+    click(u"Filter"_s);
+    EXPECT_EQ(rows(), 3);
+    EXPECT_EQ(grid.SQLFilter(), u"SELECT * FROM 商品  WHERE ID > 9 "_s);
+    EXPECT_EQ(bases, QStringList(statementOfAll()));
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), Records);
+}
+
+TEST_F(Filters, FromTheOriginStartsAgainAndFromTheResultRefines)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) { filter(dialog, u"ID > 9"_s); },
+                           [](QDialog &dialog) { filter(dialog, u"ID < 3"_s); },
+                           [](QDialog &dialog) { filter(dialog, u"ID = 2"_s); }});
+    click(u"Filter"_s);
+    click(u"Filter"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"1"_s, u"2"_s})) << "from the first statement";
+    click(u"FromResult"_s);
+    click(u"Filter"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList(u"2"_s));
+    click(u"ToPreview"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"1"_s, u"2"_s}));
+}
+
+TEST_F(Filters, ACancelledDialogLosesNoHistory)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"茶"_s); },
+                           [](QDialog &dialog) { find(dialog, u"杭州"_s); }, cancel});
+    click(u"QuickFilter"_s);
+    click(u"QuickFilter"_s);
+    const QString shown = statement();
+    click(u"Filter"_s);
+    EXPECT_EQ(grid.SQLFilter(), QString());
+    EXPECT_EQ(statement(), shown);
+    EXPECT_EQ(rows(), 2);
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), 6);
+}
+
+TEST_F(Filters, AHostsOwnConditionNeedsNoDialog)
+{
+    ASSERT_TRUE(load());
+    takeOver(grid, u"城市 = '大连'"_s);
+    click(u"Filter"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"5"_s, u"8"_s}));
+    EXPECT_EQ(grid.PassQurryFilter(), u"城市 = '大连'"_s);
+}
+
+TEST_F(Filters, AHostsBlankConditionReloadsNothing)
+{
+    ASSERT_TRUE(load());
+    grid.PutSQLFilter(u"SELECT 1"_s);
+    QSignalSpy replaced(&grid, &KOVAVSFDataGrid::RecordsetChanged);
+    takeOver(grid, u"  "_s);
+    click(u"Filter"_s);
+    EXPECT_EQ(grid.SQLFilter(), QString());
+    EXPECT_EQ(replaced.count(), 0);
+    EXPECT_EQ(rows(), Records);
+}
+
+TEST_F(Filters, AHostsWrongConditionIsToldAndLosesNothing)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"茶"_s); }});
+    click(u"QuickFilter"_s);
+    takeOver(grid, u"没有的字段 = 1"_s);
+    click(u"Filter"_s);
+    ASSERT_EQ(messages.shown().size(), 1u);
+    EXPECT_TRUE(messages.texts().first().startsWith(u"错误描述为："_s));
+    EXPECT_EQ(rows(), 6);
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), Records);
+}
+
+TEST_F(Filters, AHostMayLoadSomethingElseFromTheEvent)
+{
+    ASSERT_TRUE(load());
+    QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid, [this](qint32 &cancel, const QString &) {
+        grid.PutSQLShow(u"SELECT ID FROM 订单"_s);
+        EXPECT_TRUE(grid.IsLoadData());
+        grid.PutPassQurryFilter(u"ID = 99"_s);
+        cancel = 0;
+    });
+    click(u"Filter"_s);
+    EXPECT_EQ(rows(), 1);
+    EXPECT_EQ(statement(), u"SELECT ID FROM 订单"_s);
+}
+
+TEST_F(Filters, AHostMayClearTheControlFromTheEvent)
+{
+    ASSERT_TRUE(load());
+    QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid,
+                     [this](qint32 &, const QString &) { grid.ClearObject(); });
+    click(u"Filter"_s);
+    EXPECT_EQ(grid.RecordSet(), nullptr);
+}
+
+TEST_F(Filters, QuickFilterSearchesEveryFieldForEveryWord)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"茶 8"_s); }});
+    click(u"QuickFilter"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"1"_s, u"10"_s}));
+    EXPECT_TRUE(grid.SQLFilter().contains(u" (商品.[ID] LIKE '%茶%' OR 商品.[名称] LIKE '%茶%' "_s));
+    EXPECT_FALSE(grid.SQLFilter().contains(u"停用"_s)) << "a Boolean is not searched";
+    EXPECT_TRUE(grid.SQLFilter().contains(u") And  ("_s));
+}
+
+TEST_F(Filters, QuickFilterInOneField)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"大"_s, u"名称"_s); }});
+    click(u"QuickFilter"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList(u"5"_s));
+}
+
+TEST_F(Filters, QuickFilterForSqlServerWritesNamesWithoutTable)
+{
+    grid.PutDBType(KOVAVSFDataGrid::dbSQLServer);
+    ASSERT_TRUE(load(u"SELECT ID,名称 FROM 商品"_s));
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"ab cd"_s); }});
+    click(u"QuickFilter"_s);
+    grid.PutDBType(KOVAVSFDataGrid::dbAccess);
+    EXPECT_TRUE(grid.SQLFilter().contains(
+        u" (ID LIKE '%ab%' OR 名称 LIKE '%ab%' ) And  (ID LIKE '%cd%' OR 名称 LIKE '%cd%' ) "_s))
+        << qUtf8Printable(grid.SQLFilter());
+}
+
+TEST_F(Filters, ACancelledQuickFilterClearsTheFilterTextAlone)
+{
+    ASSERT_TRUE(load());
+    grid.PutSQLFilter(u"x"_s);
+    WindowAnswers dialogs({cancel});
+    click(u"QuickFilter"_s);
+    EXPECT_EQ(grid.SQLFilter(), QString());
+    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(statement(), statementOfAll());
+}
+
+TEST_F(Filters, TheCellsOwnTypeAndTextDecide)
+{
+    ASSERT_TRUE(load());
+    choose(14, 3, 1);
+    EXPECT_EQ(texts(u"ID"_s), QStringList(u"3"_s));
+    EXPECT_TRUE(grid.SQLFilter().contains(u"WHERE ID like 3"_s)) << qUtf8Printable(grid.SQLFilter());
+    click(u"ToPreview"_s);
+    choose(14, 5, 4);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"5"_s, u"8"_s}));
+    EXPECT_TRUE(grid.SQLFilter().contains(u"WHERE 城市 like '大连'"_s));
+}
+
+TEST_F(Filters, ACellOfAFieldWithABlankIsFilteredByItsQuotedName)
+{
+    ASSERT_TRUE(load());
+    choose(14, 6, 3);
+    EXPECT_EQ(texts(u"ID"_s), QStringList(u"6"_s));
+}
+
+TEST_F(Filters, ANullCellKeepsTheNulls)
+{
+    ASSERT_TRUE(load());
+    choose(14, 9, 4);
+    EXPECT_EQ(texts(u"ID"_s), QStringList(u"9"_s));
+    EXPECT_TRUE(messages.shown().empty());
+}
+
+TEST_F(Filters, AnApostropheInTheCellIsTold)
+{
+    ASSERT_TRUE(load());
+    choose(14, 10, 2);
+    EXPECT_EQ(messages.texts(), QStringList(u"对不起，过滤内容中不能含有\"  ' \"符号!"_s));
+    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(grid.SQLFilter(), QString());
+}
+
+TEST_F(Filters, ACellOfAnotherTypeIsTold)
+{
+    ASSERT_TRUE(load());
+    const QString refusal = u"对不起，过滤操作不支持选中内容的数据类型！"_s;
+    choose(14, 1, 5);
+    choose(14, 1, 6);
+    EXPECT_EQ(messages.texts(), QStringList({refusal, refusal}));
+    EXPECT_EQ(messages.shown().front().buttons, QMessageBox::Ok);
+    EXPECT_EQ(rows(), Records);
+}
+
+TEST_F(Filters, TheCellFilterOfTheListUsesItsField)
+{
+    ASSERT_TRUE(load());
+    clickCell(8, 1);
+    click(u"SingleRecord"_s);
+    choose(14, listedRow(u"城市"_s) + 1);
+    EXPECT_TRUE(isSingleRecordShown());
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"5"_s, u"8"_s}));
+    EXPECT_EQ(listed(u"ID"_s), u"5"_s);
+}

@@ -1,0 +1,347 @@
+// The popup menu, and what changes the records: deleting and adding.
+#include "Shop.h"
+
+#include "support/Dialogs.h"
+
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QScrollBar>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class RecordsOf : public Shop
+{
+protected:
+    QString count() const { return database.ask(u"SELECT count(*) FROM 商品"_s); }
+    void remove(int row, QMessageBox::StandardButton answer = QMessageBox::Yes)
+    {
+        messages.answerNext(answer);
+        choose(9, row);
+    }
+    void write(const QString &field, const QString &text)
+    {
+        list->setCurrentIndex(list->model()->index(listedRow(field), 1));
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_F2);
+        ASSERT_TRUE(edit->isVisible());
+        compose(*edit, text);
+        QTest::keyClick(edit, Qt::Key_Return);
+    }
+
+    QMenu *menu = grid.findChild<QMenu *>(u"PopMnuData"_s);
+};
+
+} // namespace
+
+TEST_F(RecordsOf, TheMenuHasFifteenItemsWithTheirIndexes)
+{
+    ASSERT_EQ(menu->actions().size(), 15);
+    for (int i = 0; i < 15; ++i) {
+        const QAction *action = menu->actions().at(i);
+        EXPECT_EQ(action->objectName(), u"PopMnuDataAction%1"_s.arg(i + 1));
+        EXPECT_EQ(action->data().toInt(), i + 1);
+        EXPECT_EQ(action->isSeparator(), i == 2 || i == 6 || i == 9 || i == 12) << i + 1;
+    }
+}
+
+TEST_F(RecordsOf, TheMenuShowsTheWayToTheOtherView)
+{
+    ASSERT_TRUE(load());
+    choose(5, 3);
+    EXPECT_TRUE(isSingleRecordShown());
+    EXPECT_EQ(listed(u"ID"_s), u"3"_s) << "the row under the pointer is the one meant";
+    EXPECT_FALSE(menu->actions().at(4)->isVisible());
+    choose(6, 1);
+    EXPECT_FALSE(isSingleRecordShown());
+    EXPECT_FALSE(menu->actions().at(5)->isVisible());
+}
+
+TEST_F(RecordsOf, TheMenuRepeatsTheToolbar)
+{
+    ASSERT_TRUE(load());
+    choose(2, 1);
+    EXPECT_TRUE(isPressed(u"Part"_s));
+    choose(1, 1);
+    EXPECT_TRUE(isPressed(u"All"_s));
+    choose(15, 1);
+    EXPECT_EQ(rows(), Records);
+    choose(5, 2);
+    {
+        WindowAnswers menuAndDialog({[](QDialog &dialog) { filter(dialog, u"ID < 3"_s); }});
+        menuAndDialog.clickInMenu(u"PopMnuDataAction11"_s);
+        clickCell(1, 1, Qt::RightButton);
+    }
+    EXPECT_FALSE(isSingleRecordShown()) << "the menu's filter leaves the single record";
+    EXPECT_EQ(rows(), 2);
+    WindowAnswers menuAndDialog({[](QDialog &dialog) { sort(dialog, {u"ID"_s}, true); }});
+    menuAndDialog.clickInMenu(u"PopMnuDataAction12"_s);
+    clickCell(1, 1, Qt::RightButton);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"2"_s, u"1"_s}));
+}
+
+TEST_F(RecordsOf, TheMenuFollowsTheButtonsState)
+{
+    grid.PutTableType(KOVAVSFDataGrid::DefSQL);
+    ASSERT_TRUE(load());
+    grid.PutFilterEnable(false);
+    choose(0, 1);
+    EXPECT_FALSE(menu->actions().at(10)->isEnabled());
+    EXPECT_FALSE(menu->actions().at(14)->isEnabled()) << "a statement of the host has no full table";
+    EXPECT_TRUE(menu->actions().at(11)->isEnabled());
+}
+
+TEST_F(RecordsOf, ARightClickOnAnEmptyResultOpensNoMenu)
+{
+    ASSERT_TRUE(load(u"SELECT * FROM 商品 WHERE ID > 100"_s));
+    WindowAnswers windows;
+    QTest::mouseClick(table->viewport(), Qt::RightButton, {}, {20, 10});
+    EXPECT_FALSE(windows.wasMenuShown());
+}
+
+TEST_F(RecordsOf, ARightClickWithTheToolbarDisabledOpensNoMenu)
+{
+    ASSERT_TRUE(load());
+    grid.PutDisplayEable(false);
+    WindowAnswers windows;
+    int up = 0;
+    QObject::connect(&grid, &KOVAVSFDataGrid::DataMouseUp, &grid, [&] { ++up; });
+    clickCell(1, 1, Qt::RightButton);
+    EXPECT_FALSE(windows.wasMenuShown());
+    EXPECT_EQ(up, 1);
+}
+
+TEST_F(RecordsOf, ARowHeadingsRowBecomesCurrentBeforeTheMenu)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers windows;
+    windows.clickInMenu(u"PopMnuDataAction5"_s);
+    const QHeaderView *heading = table->verticalHeader();
+    QTest::mouseClick(heading->viewport(), Qt::RightButton, {}, {5, heading->sectionPosition(6) + 5});
+    EXPECT_EQ(listed(u"ID"_s), u"7"_s);
+}
+
+TEST_F(RecordsOf, TheMenuKeyOpensTheMenu)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 1);
+    table->setFocus();
+    for (const auto key : {Qt::Key_Menu, Qt::Key_F10}) {
+        WindowAnswers windows;
+        QTest::keyClick(table, key, key == Qt::Key_F10 ? Qt::ShiftModifier : Qt::NoModifier);
+        EXPECT_TRUE(windows.wasMenuShown());
+    }
+    click(u"SingleRecord"_s);
+    WindowAnswers windows;
+    windows.clickInMenu(u"PopMnuDataAction6"_s);
+    QTest::keyClick(list, Qt::Key_Menu);
+    EXPECT_FALSE(isSingleRecordShown());
+}
+
+TEST_F(RecordsOf, MouseUpIsToldAfterTheMenu)
+{
+    ASSERT_TRUE(load());
+    bool wasShownBefore = false;
+    QObject::connect(&grid, &KOVAVSFDataGrid::DataMouseUp, &grid,
+                     [&](qint16 &button, qint16 &, float &, float &) {
+                         wasShownBefore = button == 2 && isSingleRecordShown();
+                     });
+    choose(5, 1);
+    EXPECT_TRUE(wasShownBefore);
+}
+
+TEST_F(RecordsOf, DeletingTakesTheOneRecordAndTheNextBecomesCurrent)
+{
+    ASSERT_TRUE(load());
+    QSignalSpy moves(&grid, &KOVAVSFDataGrid::RecordChanged);
+    clickCell(5, 1);
+    moves.clear();
+    remove(5);
+    ASSERT_EQ(messages.shown().size(), 1u);
+    EXPECT_EQ(messages.shown().front().text, u"确实要删除该记录?"_s);
+    EXPECT_EQ(messages.shown().front().title, u"删除记录"_s);
+    EXPECT_EQ(messages.shown().front().buttons, QMessageBox::Yes | QMessageBox::No);
+    EXPECT_EQ(count(), u"11"_s);
+    EXPECT_EQ(rows(), 11);
+    EXPECT_EQ(texts(u"ID"_s).join(u','), u"1,2,3,4,6,7,8,9,10,11,12"_s);
+    EXPECT_EQ(grid.CellTextL(11, 0), u"11"_s) << "row numbers without a gap";
+    EXPECT_EQ(grid.GetGridRow(), 5);
+    EXPECT_EQ(grid.CurrPosition(), 5);
+    EXPECT_EQ(moves.count(), 1);
+    const auto line = grid.findChild<QLabel *>(u"lblStatement"_s);
+    EXPECT_TRUE(line->text().startsWith(u"第 5 条，共 11 条"_s));
+}
+
+TEST_F(RecordsOf, DeletingTheFirstAndTheLast)
+{
+    ASSERT_TRUE(load());
+    remove(1);
+    EXPECT_EQ(grid.GetGridRow(), 1);
+    EXPECT_EQ(grid.CellTextL(1, 1), u"2"_s);
+    remove(11);
+    EXPECT_EQ(grid.GetGridRow(), 10) << "the last one that is left";
+    EXPECT_EQ(grid.CurrPosition(), 10);
+    EXPECT_EQ(grid.CellTextL(10, 1), u"11"_s);
+}
+
+TEST_F(RecordsOf, DeletingAllLeavesAnEmptyResult)
+{
+    ASSERT_TRUE(load(u"SELECT * FROM 商品 WHERE ID > 11"_s));
+    click(u"SingleRecord"_s);
+    remove(1);
+    EXPECT_EQ(count(), u"11"_s);
+    EXPECT_EQ(rows(), 0);
+    EXPECT_EQ(grid.GetGridRow(), 0);
+    EXPECT_FALSE(isSingleRecordShown());
+    EXPECT_EQ(pageLabel->text(), u"第0页共0页  只显示999999条以内的记录"_s);
+    WindowAnswers windows;
+    clickCell(1, 1, Qt::RightButton);
+    EXPECT_FALSE(windows.wasMenuShown());
+}
+
+TEST_F(RecordsOf, AnsweringNoLeavesTheRecordAndTheGrid)
+{
+    ASSERT_TRUE(load());
+    remove(4, QMessageBox::No);
+    EXPECT_EQ(count(), u"12"_s);
+    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(grid.GetGridRow(), 4);
+    EXPECT_EQ(messages.shown().size(), 1u);
+}
+
+TEST_F(RecordsOf, ARecordThatOthersReferToStays)
+{
+    ASSERT_TRUE(load());
+    remove(3);
+    ASSERT_EQ(messages.shown().size(), 2u);
+    EXPECT_EQ(messages.texts().last(), u"删除操作与数据库的约束冲突，不能删除此记录！"_s);
+    EXPECT_EQ(messages.shown().back().buttons, QMessageBox::Ok);
+    EXPECT_EQ(count(), u"12"_s);
+    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(grid.GetGridRow(), 3);
+    EXPECT_EQ(grid.CurrPosition(), 3);
+}
+
+TEST_F(RecordsOf, DeletingKeepsTheScrollPosition)
+{
+    database.run(u"WITH RECURSIVE n(i) AS (SELECT 100 UNION ALL SELECT i+1 FROM n WHERE i < 400)"
+                 " INSERT INTO 商品(ID,名称) SELECT i, 'x' FROM n"_s);
+    ASSERT_TRUE(load());
+    table->verticalScrollBar()->setValue(120);
+    const QModelIndex seen = table->indexAt({5, 50});
+    messages.answerNext(QMessageBox::Yes);
+    choose(9, seen.row() + 1);
+    EXPECT_EQ(table->verticalScrollBar()->value(), 120);
+    EXPECT_EQ(rows(), Records + 300);
+    EXPECT_EQ(grid.GetGridRow(), seen.row() + 1);
+}
+
+TEST_F(RecordsOf, DeletingInTheListShowsTheNextRecordThere)
+{
+    ASSERT_TRUE(load());
+    clickCell(6, 1);
+    click(u"SingleRecord"_s);
+    remove(1);
+    EXPECT_TRUE(isSingleRecordShown());
+    EXPECT_EQ(listed(u"ID"_s), u"7"_s);
+    EXPECT_EQ(database.ask(u"SELECT count(*) FROM 商品 WHERE ID = 6"_s), u"0"_s);
+}
+
+TEST_F(RecordsOf, ANewRecordIsFilledInTheListAndSaved)
+{
+    ASSERT_TRUE(load());
+    choose(8, 1);
+    EXPECT_TRUE(isSingleRecordShown());
+    EXPECT_EQ(listed(u"名称"_s), u""_s);
+    write(u"ID"_s, u"50"_s);
+    write(u"名称"_s, u"新茶"_s);
+    EXPECT_EQ(count(), u"12"_s);
+    click(u"AllRecord"_s);
+    EXPECT_EQ(count(), u"13"_s);
+    EXPECT_EQ(rows(), 13);
+    EXPECT_EQ(grid.GetGridRow(), 13);
+    EXPECT_EQ(grid.CurrPosition(), 13);
+    EXPECT_EQ(texts(u"名称"_s).last(), u"新茶"_s);
+}
+
+TEST_F(RecordsOf, AnEmptyNewRecordIsDropped)
+{
+    ASSERT_TRUE(load());
+    clickCell(4, 1);
+    choose(8, 4);
+    click(u"AllRecord"_s);
+    EXPECT_EQ(count(), u"12"_s);
+    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(grid.CurrPosition(), 4);
+    EXPECT_TRUE(messages.shown().empty());
+}
+
+TEST_F(RecordsOf, AddingAgainSavesTheNewRecordFirst)
+{
+    ASSERT_TRUE(load());
+    choose(8, 1);
+    write(u"ID"_s, u"50"_s);
+    write(u"名称"_s, u"甲"_s);
+    choose(8, 1);
+    EXPECT_EQ(count(), u"13"_s);
+    EXPECT_EQ(listed(u"ID"_s), u""_s);
+    write(u"ID"_s, u"51"_s);
+    write(u"名称"_s, u"乙"_s);
+    click(u"AllRecord"_s);
+    EXPECT_EQ(count(), u"14"_s);
+    EXPECT_EQ(rows(), 14);
+}
+
+TEST_F(RecordsOf, AddingAgainToAnEmptyOrRefusedRecordIsCancelled)
+{
+    ASSERT_TRUE(load());
+    choose(8, 1);
+    choose(8, 1);
+    EXPECT_EQ(messages.texts(), QStringList(u"再次插入空行操作已被取消"_s));
+    write(u"ID"_s, u"50"_s); // and no 名称, which must not be Null
+    choose(8, 1);
+    EXPECT_EQ(messages.texts().size(), 2);
+    EXPECT_EQ(messages.texts().last(), u"再次插入空行操作已被取消"_s);
+    EXPECT_EQ(listed(u"ID"_s), u"50"_s) << "what was typed stays";
+    EXPECT_EQ(count(), u"12"_s);
+    click(u"AllRecord"_s);
+    EXPECT_TRUE(isSingleRecordShown());
+    EXPECT_TRUE(messages.texts().last().startsWith(u"记录没有保存："_s));
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Escape);
+    click(u"AllRecord"_s);
+    EXPECT_FALSE(isSingleRecordShown());
+    EXPECT_EQ(count(), u"12"_s);
+}
+
+TEST_F(RecordsOf, ANewRecordOfAnEmptyResultCanBeGivenUp)
+{
+    ASSERT_TRUE(load(u"SELECT * FROM 商品 WHERE ID > 100"_s));
+    table->setFocus();
+    menu->actions().at(7)->trigger();
+    EXPECT_TRUE(isSingleRecordShown());
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Escape);
+    EXPECT_FALSE(isSingleRecordShown());
+}
+
+TEST_F(RecordsOf, AddingToWhatCannotBeWrittenEndsSilently)
+{
+    ASSERT_TRUE(load(u"SELECT 城市, count(*) FROM 商品 GROUP BY 城市"_s, {}));
+    choose(8, 1);
+    EXPECT_FALSE(isSingleRecordShown());
+    EXPECT_TRUE(messages.shown().empty());
+}
+
+TEST_F(RecordsOf, DeletingTheNewRecordGivesItUp)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 1);
+    choose(8, 2);
+    write(u"名称"_s, u"x"_s);
+    remove(1);
+    EXPECT_EQ(count(), u"12"_s);
+    EXPECT_EQ(listed(u"ID"_s), u"2"_s);
+}

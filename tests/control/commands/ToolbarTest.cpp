@@ -1,0 +1,388 @@
+// The toolbar's commands one by one, by clicks.
+#include "Shop.h"
+
+#include "support/Dialogs.h"
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList AllColumns{u"ID"_s, u"名称"_s, u"Unit Price"_s, u"城市"_s, u"日期"_s, u"停用"_s, u"图片"_s};
+constexpr qint16 ControlKey = 17;
+const QStringList PartColumns{u"ID"_s, u"名称"_s};
+
+using Toolbar = Shop;
+
+} // namespace
+
+TEST_F(Toolbar, PartHidesWhatIsNoPartFieldAndAllShowsItAgain)
+{
+    ASSERT_TRUE(load());
+    EXPECT_EQ(columns(), AllColumns);
+    QSignalSpy replaced(&grid, &KOVAVSFDataGrid::RecordsetChanged);
+    click(u"Part"_s);
+    EXPECT_EQ(columns(), PartColumns);
+    EXPECT_TRUE(isPressed(u"Part"_s));
+    EXPECT_FALSE(isPressed(u"All"_s));
+    EXPECT_EQ(grid.ShowModel(), KOVAVSFDataGrid::ModelPart);
+    EXPECT_TRUE(statement().startsWith(u"SELECT ID,名称 FROM 商品"_s)) << qUtf8Printable(statement());
+    click(u"All"_s);
+    EXPECT_EQ(columns(), AllColumns);
+    EXPECT_TRUE(isPressed(u"All"_s));
+    EXPECT_FALSE(isPressed(u"Part"_s));
+    EXPECT_EQ(grid.ShowModel(), KOVAVSFDataGrid::ModelAll);
+    EXPECT_EQ(replaced.count(), 0) << "only the layout changed";
+}
+
+TEST_F(Toolbar, PartWithoutPartFieldsPressesAllAndLeavesTheGridAsItIs)
+{
+    ASSERT_TRUE(load(statementOfAll(), {}));
+    const QString before = statement();
+    click(u"Part"_s);
+    EXPECT_TRUE(isPressed(u"All"_s));
+    EXPECT_FALSE(isPressed(u"Part"_s));
+    EXPECT_EQ(columns(), AllColumns);
+    EXPECT_EQ(statement(), before);
+    EXPECT_EQ(grid.ShowModel(), KOVAVSFDataGrid::ModelAll);
+}
+
+TEST_F(Toolbar, AllOpensItsStatementWhenTheResultHasFewerFields)
+{
+    ASSERT_TRUE(load());
+    click(u"Part"_s);
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"茶"_s); }});
+    click(u"QuickFilter"_s); // opened from the part statement
+    EXPECT_EQ(table->model()->columnCount(), 2);
+    click(u"All"_s);
+    EXPECT_EQ(columns(), AllColumns);
+    EXPECT_EQ(rows(), 6) << "the condition stays";
+    EXPECT_TRUE(isPressed(u"All"_s));
+}
+
+TEST_F(Toolbar, AColumnKeepsItsWidthThroughPartAndReload)
+{
+    ASSERT_TRUE(load());
+    table->setColumnWidth(1, 200);
+    table->setColumnWidth(3, 150);
+    click(u"Part"_s);
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"茶"_s); }});
+    click(u"QuickFilter"_s);
+    EXPECT_EQ(table->columnWidth(1), 200);
+    click(u"All"_s);
+    EXPECT_EQ(table->columnWidth(1), 200);
+    EXPECT_EQ(table->columnWidth(3), 150);
+}
+
+TEST_F(Toolbar, SortOrdersAndKeepsTheCondition)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"大连"_s); },
+                           [](QDialog &dialog) { sort(dialog, {u"ID"_s}, true); },
+                           [](QDialog &dialog) { cancel(dialog); }});
+    click(u"QuickFilter"_s);
+    click(u"Sort"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"8"_s, u"5"_s}));
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY ID DESC"_s)) << qUtf8Printable(statement());
+    const QString sorted = statement();
+    click(u"Sort"_s); // cancelled
+    EXPECT_EQ(statement(), sorted);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"8"_s, u"5"_s}));
+}
+
+TEST_F(Toolbar, AFieldNameWithABlankIsSortedByInBrackets)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) { sort(dialog, {u"[Unit Price]"_s}, true); },
+                           [](QDialog &dialog) {
+                               auto *rows = dialog.findChild<QAbstractItemView *>(u"lvSortFields"_s)->model();
+                               EXPECT_EQ(rows->index(0, 0).data().toString(), u"[Unit Price]"_s);
+                               cancel(dialog);
+                           }});
+    click(u"Sort"_s);
+    EXPECT_EQ(texts(u"ID"_s).first(), u"2"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY [Unit Price] DESC"_s));
+    click(u"Sort"_s);
+}
+
+TEST_F(Toolbar, SelFieldShowsTheChosenFieldsWithoutReopening)
+{
+    ASSERT_TRUE(load());
+    QSignalSpy changed(&grid, &KOVAVSFDataGrid::ShowFieldsChange);
+    QSignalSpy replaced(&grid, &KOVAVSFDataGrid::RecordsetChanged);
+    WindowAnswers dialogs({[](QDialog &dialog) { tick(dialog, {u"ID"_s, u"Unit Price"_s}); }});
+    click(u"SelField"_s);
+    EXPECT_EQ(columns(), QStringList({u"ID"_s, u"Unit Price"_s}));
+    EXPECT_TRUE(isPressed(u"Part"_s));
+    EXPECT_EQ(grid.ShowModel(), KOVAVSFDataGrid::ModelPart);
+    ASSERT_EQ(changed.count(), 1);
+    EXPECT_EQ(changed.at(0).at(0).toString(), u"SELECT ID,[Unit Price] FROM 商品"_s);
+    EXPECT_EQ(grid.SQLFilter(), u"SELECT ID,[Unit Price] FROM 商品"_s);
+    EXPECT_EQ(statement(), grid.SQLFilter());
+    EXPECT_EQ(replaced.count(), 0);
+    click(u"All"_s);
+    click(u"Part"_s);
+    EXPECT_EQ(columns(), QStringList({u"ID"_s, u"Unit Price"_s})) << "the later choice wins";
+}
+
+TEST_F(Toolbar, ACancelledFieldChoiceChangesNothing)
+{
+    ASSERT_TRUE(load());
+    QSignalSpy changed(&grid, &KOVAVSFDataGrid::ShowFieldsChange);
+    WindowAnswers dialogs({cancel});
+    click(u"SelField"_s);
+    EXPECT_EQ(columns(), AllColumns);
+    EXPECT_TRUE(isPressed(u"All"_s));
+    EXPECT_EQ(changed.count(), 0);
+    EXPECT_EQ(grid.SQLFilter(), QString());
+}
+
+TEST_F(Toolbar, SelFieldOpensItsStatementWhenAChosenFieldHasNoColumn)
+{
+    ASSERT_TRUE(load());
+    click(u"Part"_s);
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"茶"_s); },
+                           [](QDialog &dialog) {
+                               tick(dialog, {u"ID"_s, u"城市"_s});
+                           }});
+    click(u"QuickFilter"_s);
+    click(u"SelField"_s);
+    EXPECT_EQ(columns(), QStringList({u"ID"_s, u"城市"_s}));
+    EXPECT_EQ(texts(u"城市"_s).first(), u"杭州"_s);
+    EXPECT_EQ(rows(), 6);
+}
+
+TEST_F(Toolbar, FromResultFollowsItsFlag)
+{
+    ASSERT_TRUE(load());
+    EXPECT_FALSE(isPressed(u"FromResult"_s));
+    click(u"FromResult"_s);
+    EXPECT_TRUE(isPressed(u"FromResult"_s));
+    click(u"FromResult"_s);
+    EXPECT_FALSE(isPressed(u"FromResult"_s));
+}
+
+TEST_F(Toolbar, BackAndOriginWalkTheHistory)
+{
+    ASSERT_TRUE(load());
+    const QString first = statement();
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"茶"_s); },
+                           [](QDialog &dialog) { find(dialog, u"杭州"_s); },
+                           [](QDialog &dialog) { find(dialog, u"绿"_s); }});
+    click(u"QuickFilter"_s);
+    const QString second = statement();
+    click(u"QuickFilter"_s);
+    EXPECT_EQ(rows(), 2);
+    click(u"QuickFilter"_s);
+    EXPECT_EQ(rows(), 1);
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), 2);
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), 6);
+    EXPECT_EQ(statement(), second);
+    EXPECT_EQ(grid.SQLFilter().simplified(), second);
+    click(u"ToOrigin"_s);
+    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(statement(), first);
+    click(u"ToPreview"_s); // nowhere to go: the first one again
+    EXPECT_EQ(statement(), first);
+    EXPECT_EQ(rows(), Records);
+}
+
+TEST_F(Toolbar, BackShowsTheFieldsAsTheyWereThen)
+{
+    ASSERT_TRUE(load());
+    click(u"Part"_s);
+    click(u"All"_s);
+    click(u"ToPreview"_s);
+    EXPECT_EQ(columns(), PartColumns);
+    EXPECT_TRUE(isPressed(u"Part"_s));
+    EXPECT_EQ(grid.ShowModel(), KOVAVSFDataGrid::ModelPart);
+    click(u"ToOrigin"_s);
+    EXPECT_EQ(columns(), AllColumns);
+    EXPECT_TRUE(isPressed(u"All"_s));
+}
+
+TEST_F(Toolbar, ToFullTableDropsTheConditionAndKeepsTheSort)
+{
+    ASSERT_TRUE(load(u"SELECT * FROM 商品 WHERE ID > 9 ORDER BY ID DESC"_s));
+    EXPECT_EQ(rows(), 3);
+    click(u"ToFullTable"_s);
+    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(texts(u"ID"_s).first(), u"12"_s);
+    EXPECT_TRUE(isPressed(u"All"_s));
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), 3);
+}
+
+TEST_F(Toolbar, ToFullTablePressesTheButtonOfItsEntry)
+{
+    ASSERT_TRUE(load());
+    click(u"Part"_s);
+    click(u"ToFullTable"_s);
+    EXPECT_TRUE(isPressed(u"Part"_s));
+    EXPECT_EQ(columns(), PartColumns);
+}
+
+TEST_F(Toolbar, PagesAreLeftAloneWhereThereIsOne)
+{
+    ASSERT_TRUE(load());
+    grid.SetGridRow(5);
+    for (const QString &key : {u"First"_s, u"Previous"_s, u"Next"_s, u"Last"_s}) {
+        click(key);
+        EXPECT_EQ(grid.GetGridRow(), 5) << qUtf8Printable(key);
+    }
+    EXPECT_EQ(pageLabel->text(), u"第1页共1页  只显示999999条以内的记录"_s);
+}
+
+TEST_F(Toolbar, CompressViewFitsTheShownColumns)
+{
+    ASSERT_TRUE(load());
+    click(u"Part"_s);
+    table->setColumnWidth(0, 3000);
+    click(u"CompressView"_s);
+    EXPECT_LT(table->columnWidth(0), 1400);
+    EXPECT_EQ(table->columnWidth(0), table->columnWidth(1));
+    EXPECT_EQ(columns(), PartColumns) << "hidden columns stay hidden";
+}
+
+// What leaves an empty result as it is, and what still works there.
+TEST_F(Toolbar, AnEmptyResultLeavesMostCommandsIdle)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"没有这个"_s); }, cancel, cancel});
+    click(u"QuickFilter"_s);
+    EXPECT_EQ(rows(), 0);
+    EXPECT_EQ(columns(), AllColumns);
+    const QString empty = statement();
+    int asked = 0;
+    QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid, [&] { ++asked; });
+    for (const QString &key :
+         {u"All"_s, u"Part"_s, u"SingleRecord"_s, u"Filter"_s, u"FullScreen"_s, u"QuickFilter"_s}) {
+        click(key);
+        EXPECT_EQ(statement(), empty) << qUtf8Printable(key);
+        EXPECT_TRUE(isPressed(u"All"_s)) << qUtf8Printable(key);
+        EXPECT_FALSE(isPressed(u"Part"_s)) << qUtf8Printable(key);
+        EXPECT_FALSE(isSingleRecordShown()) << qUtf8Printable(key);
+    }
+    EXPECT_EQ(asked, 0);
+    click(u"Sort"_s);     // asks
+    click(u"SelField"_s); // asks
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), Records);
+}
+
+TEST_F(Toolbar, AFailedStepIsToldAndLosesNothing)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"茶"_s); }});
+    click(u"QuickFilter"_s);
+    const QString shown = statement();
+    const QString filterBefore = grid.SQLFilter();
+    database.run(u"ALTER TABLE 商品 RENAME TO 别处"_s);
+    grid.SetGridRow(3);
+    for (const QString &key : {u"ToPreview"_s, u"ToOrigin"_s, u"ToFullTable"_s}) {
+        click(key);
+        EXPECT_TRUE(messages.texts().isEmpty() || messages.texts().last().startsWith(u"错误描述为："_s));
+        EXPECT_EQ(statement(), shown) << qUtf8Printable(key);
+        EXPECT_EQ(rows(), 6) << qUtf8Printable(key);
+        EXPECT_EQ(grid.GetGridRow(), 3) << qUtf8Printable(key);
+        EXPECT_EQ(grid.SQLFilter(), filterBefore) << qUtf8Printable(key);
+    }
+    EXPECT_GE(messages.shown().size(), 1u);
+    database.run(u"ALTER TABLE 别处 RENAME TO 商品"_s);
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), Records) << "the way back is still there";
+}
+
+TEST_F(Toolbar, ACommandMovesThePositionThatOthersRead)
+{
+    ASSERT_TRUE(load());
+    clickCell(4, 1);
+    EXPECT_EQ(grid.CurrPosition(), 4);
+    click(u"FromResult"_s);
+    const auto line = grid.findChild<QLabel *>(u"lblStatement"_s);
+    EXPECT_TRUE(line->text().startsWith(u"第 4 条，共 12 条"_s)) << qUtf8Printable(line->text());
+    EXPECT_TRUE(line->toolTip().contains(statement()));
+}
+
+TEST_F(Toolbar, AnotherControlCannotBlockThisOne)
+{
+    ASSERT_TRUE(load());
+    TestDatabase other(u"CREATE TABLE U (X TEXT)"_s);
+    KOVAVSFDataGrid second;
+    second.PutConnectionString(other.connectionString());
+    second.PutSQLShow(u"SELECT X FROM U"_s);
+    ASSERT_TRUE(second.IsLoadData()); // without a record
+    click(u"Part"_s);
+    EXPECT_EQ(columns(), PartColumns);
+    click(u"SingleRecord"_s);
+    EXPECT_TRUE(isSingleRecordShown());
+}
+
+TEST_F(Toolbar, ADisabledToolbarRunsNothingByShortcut)
+{
+    ASSERT_TRUE(load());
+    table->setFocus();
+    grid.PutDisplayEable(false);
+    QTest::keyClick(table, Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(columns(), AllColumns);
+}
+
+TEST_F(Toolbar, ShortcutsRunTheirCommandsAndTheHostHearsOfTheKey)
+{
+    ASSERT_TRUE(load());
+    table->setFocus();
+    QList<std::pair<int, int>> keys;
+    QObject::connect(&grid, &KOVAVSFDataGrid::DataKeyDown, &grid, [&](qint16 &code, qint16 &shift) {
+        if (code != ControlKey)
+            keys.append({code, shift});
+    });
+    QTest::keyClick(table, Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(columns(), PartColumns);
+    QTest::keyClick(table, Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(columns(), AllColumns);
+    EXPECT_EQ(keys, (QList<std::pair<int, int>>{{'2', 2}, {'1', 2}}));
+}
+
+TEST_F(Toolbar, AHostCanKeepAShortcutFromItsCommand)
+{
+    ASSERT_TRUE(load());
+    table->setFocus();
+    int told = 0;
+    QObject::connect(&grid, &KOVAVSFDataGrid::DataKeyDown, &grid, [&](qint16 &code, qint16 &) {
+        if (code == '2')
+            ++told;
+        code = 0;
+    });
+    QTest::keyClick(table, Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(columns(), AllColumns);
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(Toolbar, EveryButtonHasANameAToolTipAndAShortcutOfItsOwn)
+{
+    QSet<QString> shortcuts;
+    for (const QAction *action : toolbar->actions()) {
+        if (action->isSeparator())
+            continue;
+        EXPECT_FALSE(action->text().isEmpty());
+        const QString shortcut = action->shortcut().toString(QKeySequence::NativeText);
+        EXPECT_FALSE(shortcut.isEmpty());
+        EXPECT_TRUE(action->toolTip().contains(shortcut));
+        EXPECT_FALSE(shortcuts.contains(shortcut)) << qUtf8Printable(shortcut);
+        shortcuts.insert(shortcut);
+    }
+    EXPECT_EQ(shortcuts.size(), 18);
+}
+
+TEST_F(Toolbar, SetFieldNameAndSetSortFnAskAsTheButtonsDo)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) { tick(dialog, {u"名称"_s}); },
+                           [](QDialog &dialog) { sort(dialog, {u"ID"_s}, true); }});
+    grid.SetFieldName();
+    EXPECT_EQ(columns(), QStringList(u"名称"_s));
+    grid.SetSortFN();
+    EXPECT_EQ(texts(u"名称"_s).first(), u"白茶"_s);
+}
