@@ -6,9 +6,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-namespace {
-
-QString askUser(ControlHub &hub)
+QString AskForCondition(ControlHub &hub, QWidget *parent)
 {
     FilterRequest request;
     request.connectionString = hub.connectionString;
@@ -16,12 +14,10 @@ QString askUser(ControlHub &hub)
     request.tableType = hub.tableType;
     request.sqlShow = JoinStatementLines(hub.sqlShow);
     request.connection = hub.result.connection();
-    mod_Filter filter(&hub.q);
+    mod_Filter filter(parent);
     filter.PrepareFilterDialog(request);
     return filter.ShowFilterDialog();
 }
-
-} // namespace
 
 void FilterByDialog(ControlHub &hub)
 {
@@ -40,7 +36,7 @@ void FilterByDialog(ControlHub &hub)
     Q_EMIT hub.q.QurryFilter(cancel, base);
     if (!rollback.isResultUntouched())
         return;
-    hub.shared.lastFilter = cancel == leftToTheDialog ? askUser(hub) : hub.passQurryFilter;
+    hub.shared.lastFilter = cancel == leftToTheDialog ? AskForCondition(hub, &hub.q) : hub.passQurryFilter;
     if (!rollback.isResultUntouched())
         return;
     if (hub.shared.lastFilter.trimmed().isEmpty()) {

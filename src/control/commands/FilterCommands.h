@@ -6,6 +6,9 @@
 // cancels, and when no statement can be derived.
 namespace KOVAVSFDataGridLib {
 
+// Lets the user build a condition in the filter dialog above `parent`; an empty text when he cancels.
+QString AskForCondition(ControlHub &hub, QWidget *parent);
+
 // Asks the host for a condition by its event QurryFilter, and the user by the filter dialog unless the host
 // took over. Filters what is shown while the "FromResult" button is pressed, else the first statement.
 void FilterByDialog(ControlHub &hub);

@@ -1,6 +1,8 @@
 #include "control/commands/FullScreenCommand.h"
 
 #include "control/KOVAVSFDataGridPrivate.h"
+#include "control/commands/FilterCommands.h"
+#include "control/viewer/ShowFullScreen.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -10,6 +12,16 @@ void ShowFullScreen(ControlHub &hub)
         return;
     if (hub.isSingleRecordShown())
         hub.showMultiRecordView();
+    const auto outcome =
+        ShowFullScreen({hub.parts, hub.result, hub.pages, hub.filterManager(), hub.connectionString,
+                        hub.filterManager().DBType(), hub.commands.statement.current(), hub.sqlSort,
+                        hub.picField, [&hub](QWidget *parent) { return AskForCondition(hub, parent); }});
+    if (!outcome)
+        return;
+    hub.showModel = outcome->isAll ? KOVAVSFDataGrid::ModelAll : KOVAVSFDataGrid::ModelPart;
+    hub.commands.statement.setCurrent(outcome->statement);
+    if (outcome->isRequeried)
+        hub.q.PutSQLFilter(outcome->statement);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -74,7 +74,6 @@ private:
     void ApplyAllFieldWidths();
     void ApplyPartFieldWidths();
     void applyFieldWidths();
-    bool hasColumnForEachPartField() const;
 
     // Commands; those that answer say whether what they derived is shown now.
     void press(const QString &key);

@@ -137,7 +137,7 @@ bool frm_FullScreen::showPartFields()
         return false;
     SaveColumnWidths();
     const QString statement = m_filter->GetCurrentSQL20(2);
-    if (statement.isEmpty() || (!hasColumnForEachPartField() && !Requery(statement)))
+    if (statement.isEmpty() || (!columns().hasColumnsFor(columns().fieldsShownBy(0)) && !Requery(statement)))
         return false;
     m_currentSQL = statement;
     m_isAll = false;
@@ -276,21 +276,6 @@ void frm_FullScreen::applyFieldWidths()
         ApplyAllFieldWidths();
     else
         ApplyPartFieldWidths();
-}
-
-bool frm_FullScreen::hasColumnForEachPartField() const
-{
-    const colDataFields &fields = m_filter->SQLManager().DataFields();
-    const VSFlexGrid &grid = *m_parts.vsfgShowData;
-    return std::ranges::all_of(fields, [&grid](const clsDataField &field) {
-        if (field.IsPartField != 1)
-            return true;
-        for (int col = 1; col < grid.Cols(); ++col) {
-            if (grid.TextMatrix(0, col) == field.FieldName)
-                return true;
-        }
-        return false;
-    });
 }
 
 void frm_FullScreen::SeeCompressView()
