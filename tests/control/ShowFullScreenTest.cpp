@@ -233,7 +233,7 @@ TEST_F(HandBack, AHostThatReloadsMeanwhileEndsTheVisit)
 {
     load(u"select * from T"_s);
     const auto outcome = visit([this](const ViewerUser &user) {
-        result.open(database.connectionString(), u"select Name from T"_s, dbAccess);
+        result.replaceBy(ResultSet::open(database.connectionString(), u"select Name from T"_s, dbAccess, {}));
         EXPECT_FALSE(user.grid().isVisible());
         user.toolbar().findChild<QAction *>(u"All"_s)->trigger();
     });
@@ -247,7 +247,7 @@ TEST_F(HandBack, AHostThatReloadsBehindTheFilterDialogEndsTheVisit)
     load(u"select * from T"_s);
     FullScreenRequest reloading = request();
     reloading.askCondition = [this](QWidget *) {
-        result.open(database.connectionString(), u"select Name from T"_s, dbAccess);
+        result.replaceBy(ResultSet::open(database.connectionString(), u"select Name from T"_s, dbAccess, {}));
         return u"ID > 1"_s;
     };
     QTimer::singleShot(0, &control,
@@ -264,11 +264,11 @@ TEST_F(HandBack, AControlThatIsDestroyedMeanwhileTakesTheViewerAlong)
     GridParts others(*form);
     ResultSet otherResult(*others.Adodc1);
     PageView otherPages(others, otherResult);
-    otherResult.open(database.connectionString(), statement, dbAccess);
+    otherResult.replaceBy(ResultSet::open(database.connectionString(), statement, dbAccess, {}));
     otherPages.setCurrentPage(1);
     otherPages.fill({});
     otherResult.close();
-    otherResult.open(database.connectionString(), statement, dbAccess);
+    otherResult.replaceBy(ResultSet::open(database.connectionString(), statement, dbAccess, {}));
     QTimer::singleShot(0, form, [form] { delete form; });
     EXPECT_FALSE(ShowFullScreen({others,
                                  otherResult,

@@ -46,7 +46,7 @@ void LoadedParts::load(const QString &sql, const QString &partStatement, const Q
 {
     const QString connection = database.connectionString();
     statement = sql;
-    result.open(connection, statement, dbAccess);
+    result.replaceBy(ResultSet::open(connection, statement, dbAccess, {}));
     filter.SetDBType(dbAccess);
     filter.SetDBConnString(connection);
     filter.SetAllFields(statement);

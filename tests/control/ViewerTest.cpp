@@ -29,7 +29,7 @@ struct Viewer : LoadedParts
     {
         return {[this](const QString &sql) {
                     ++openings;
-                    result.open(database.connectionString(), sql, dbAccess);
+                    result.replaceBy(ResultSet::open(database.connectionString(), sql, dbAccess, {}));
                     return ViewerHost::Opened{result.connection(), result.recordset()};
                 },
                 [this](QWidget *) { return condition; }};
@@ -347,7 +347,7 @@ TEST_F(Viewer, PartHidesTheOtherFieldsWithoutOpeningAnything)
 TEST_F(Viewer, PartOpensItsStatementWhenAFieldHasNoColumn)
 {
     load(u"select * from T"_s, u"select Name, Born from T"_s);
-    result.open(database.connectionString(), u"select ID, Name from T"_s, dbAccess);
+    result.replaceBy(ResultSet::open(database.connectionString(), u"select ID, Name from T"_s, dbAccess, {}));
     show();
     EXPECT_EQ(user.row(0), u"ID Name"_s);
     user.press(u"Part"_s);
