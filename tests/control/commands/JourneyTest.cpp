@@ -49,7 +49,11 @@ TEST_F(Journey, ThroughEveryCommandAndBackToTheStart)
                            },
                            [](QDialog &dialog) { filter(dialog, u"ID > 2"_s); },
                            [](QDialog &dialog) { sort(dialog, {u"ID"_s}, true); },
-                           [](QDialog &dialog) { find(dialog, u"大连"_s); }});
+                           [](QDialog &dialog) { find(dialog, u"大连"_s); },
+                           [](QDialog &viewer) {
+                               EXPECT_EQ(viewer.objectName(), u"frm_FullScreen"_s);
+                               QTest::keyClick(&viewer, Qt::Key_Escape);
+                           }});
     ASSERT_TRUE(load());
     expectSeen(12, allFields, true, u"FROM 商品"_s);
     click(u"Part"_s);
@@ -75,6 +79,8 @@ TEST_F(Journey, ThroughEveryCommandAndBackToTheStart)
     click(u"ToOrigin"_s);
     expectSeen(12, allFields, true, u"FROM 商品"_s);
     click(u"ToFullTable"_s);
+    expectSeen(12, allFields, true, u"FROM 商品"_s);
+    click(u"FullScreen"_s);
     expectSeen(12, allFields, true, u"FROM 商品"_s);
 }
 

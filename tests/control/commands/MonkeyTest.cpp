@@ -45,10 +45,18 @@ protected:
         else if (name == u"frm_Filter")
             filter(dialog,
                    oneOf({u"ID > 3"_s, u"城市 IS NULL"_s, u"ID < 9 OR ID > 11"_s, u"名称 LIKE '%茶%'"_s}));
+        else if (name == u"frm_FullScreen")
+            walkIn(dialog);
         else
             cancel(dialog);
         if (dialog.isVisible())
             dialog.reject();
+    }
+
+    void walkIn(QDialog &viewer)
+    {
+        for (int left = pick(5); left > 0 && viewer.isVisible(); --left)
+            pressAnyButton(*viewer.findChild<QToolBar *>(u"Toolbar1"_s));
     }
 
     // Catches every dialog and menu as it opens.
@@ -83,12 +91,12 @@ protected:
 
     QTableView &front() { return isSingleRecordShown() ? *list : *table; }
 
-    void pressAnyButton()
+    void pressAnyButton(const QToolBar &buttons)
     {
         QList<QWidget *> there;
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-        for (QAction *action : toolbar->actions()) {
-            if (QWidget *widget = toolbar->widgetForAction(action);
+        for (QAction *action : buttons.actions()) {
+            if (QWidget *widget = buttons.widgetForAction(action);
                 widget && widget->isVisible() && !action->isSeparator())
                 there.append(widget);
         }
@@ -148,7 +156,7 @@ protected:
         messages.answerNext(pick(2) == 0 ? QMessageBox::Yes : QMessageBox::No);
         const int what = pick(100);
         if (what < 45) {
-            pressAnyButton();
+            pressAnyButton(*toolbar);
             return "button";
         }
         if (what < 60) {
