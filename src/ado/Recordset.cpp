@@ -313,10 +313,23 @@ EditModeEnum Recordset::EditMode() const
     return d->edit().mode();
 }
 
+// A new record that can't be saved keeps the place that another one would take.
+void Recordset::saveBeforeAddNew()
+{
+    if (d->edit().isEmpty())
+        throw Error(dbErrCancelled, Texts::emptyRecordAgain());
+    try {
+        Update();
+    } catch (const Error &error) {
+        throw Error(dbErrCancelled, error.Description(), error.Source(), error.SQLState(),
+                    error.NativeError());
+    }
+}
+
 void Recordset::AddNew()
 {
-    if (d->isAdding() && d->edit().isEmpty())
-        throw Error(dbErrCancelled, Texts::emptyRecordAgain());
+    if (d->isAdding())
+        saveBeforeAddNew();
     Update();
     d->edit().beginNew();
     d->tellChanged(adRsnAddNew);

@@ -81,8 +81,8 @@ public:
     // Editing. Writing a field's Value or calling AddNew begins an edit; Update writes it to the database, in
     // a transaction, and shows what the database stored; CancelUpdate forgets it. A failed Update leaves the
     // edit pending. A result that can't be written (read-only, join, view, aggregate, distinct, union) throws
-    // 3251. A new record is counted once it is saved; one without any value is dropped by a move, and another
-    // AddNew on it throws dbErrCancelled.
+    // 3251. A new record is counted once it is saved; one without any value is dropped by a move. Another
+    // AddNew on a new record saves it first, and throws dbErrCancelled when it is refused or has no value.
     EditModeEnum EditMode() const;
     void AddNew();
     void Update();
@@ -114,6 +114,7 @@ private:
     void putCurrentValue(int column, const QVariant &value);
 
     void leaveRecord();
+    void saveBeforeAddNew();
     void moveTo(qint64 record, EventReasonEnum reason);
     void moveBy(qint64 records, BookmarkEnum start, EventReasonEnum reason);
     bool hasCell(qint64 record, int column) const;

@@ -201,6 +201,8 @@ TEST(WriteBack, KeepsAFailedInsertPendingUntilItIsCancelled)
     EXPECT_ADO_ERROR(dbErrIntegrity, recordset->Update());
     EXPECT_EQ(recordset->EditMode(), adEditAdd);
     EXPECT_ADO_ERROR(dbErrIntegrity, recordset->MoveFirst());
+    EXPECT_ADO_ERROR(dbErrCancelled, recordset->AddNew());
+    EXPECT_EQ(recordset->EditMode(), adEditAdd) << "the refused one stays";
     put(*recordset, u"id"_s, 9);
     recordset->CancelUpdate();
     EXPECT_EQ(recordset->AbsolutePosition(), 2) << "back where it was";

@@ -21,6 +21,12 @@ void MessageAnswers::answerNext(QMessageBox::StandardButton answer)
     m_answers.push_back(answer);
 }
 
+void MessageAnswers::clear()
+{
+    m_answers.clear();
+    m_shown.clear();
+}
+
 QStringList MessageAnswers::texts() const
 {
     QStringList texts;

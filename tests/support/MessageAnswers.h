@@ -32,6 +32,8 @@ public:
 
     const std::vector<ShownMessage> &shown() const { return m_shown; }
     QStringList texts() const;
+    // Forgets what was shown and the answers that are left.
+    void clear();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
