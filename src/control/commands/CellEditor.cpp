@@ -91,6 +91,10 @@ bool CellEditor::take(bool isQuiet)
 {
     if (!isOpen() || m_isTaking)
         return true;
+    if (!m_hub.result.isOpen()) {
+        close(); // the record went away with its result
+        return true;
+    }
     const QScopedValueRollback<bool> taking(m_isTaking, true);
     try {
         putValue(m_hub.parts.txtEdit->text());
