@@ -140,6 +140,23 @@ TEST(Automation, EndsAWalkOverAClosedRecordset)
     EXPECT_EQ(errors[0][0], QVariant(static_cast<qint32>(0x800A0E78)));
 }
 
+TEST(Automation, WritesAStreamFromBytesAsFromAVariant)
+{
+    ADODB::StreamObject streamObject;
+    QObject *stream = &streamObject;
+    QSignalSpy errors(stream, SIGNAL(HostError(qint32, QString)));
+    stream->setProperty("Type", 1);
+    call(stream, "Open");
+    const QByteArray bytes("\xff\0a", 3);
+    EXPECT_TRUE(QMetaObject::invokeMethod(stream, "Write", Q_ARG(QByteArray, bytes)));
+    EXPECT_TRUE(QMetaObject::invokeMethod(stream, "Write", Q_ARG(QVariant, QVariant(bytes))));
+    stream->setProperty("Position", 0);
+    QVariant read;
+    EXPECT_TRUE(QMetaObject::invokeMethod(stream, "Read", Q_RETURN_ARG(QVariant, read), Q_ARG(qint32, -1)));
+    EXPECT_EQ(read.toByteArray(), bytes + bytes);
+    EXPECT_EQ(errors.size(), 0);
+}
+
 TEST(Automation, OpensThroughAConnectionObject)
 {
     const TestDatabase database(script);
