@@ -15,7 +15,9 @@ struct FieldInfo
     qint32 precision = 0;    // decimal digits of a number, else 0
     qint32 numericScale = 0; // digits behind the decimal point, else 0
     qint32 attributes = 0;   // FieldAttributeEnum bits
-    QString baseTable;       // the table column behind it; both empty for an expression
+    // The table column its values come from; both empty for an expression. A subquery can have taken the
+    // value from any row there, so this alone does not make a field one that can be written.
+    QString baseTable;
     QString baseColumn;
 };
 

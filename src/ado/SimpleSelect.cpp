@@ -33,24 +33,48 @@ qsizetype endOfParentheses(const SqlScanner &statement, qsizetype open)
     return close;
 }
 
-std::vector<SimpleSelect::FunctionCall> functionCalls(const SqlScanner &statement)
+// Window functions see the other rows of the result, so a row can't be computed again by itself. Those of a
+// subquery see only its own rows.
+bool hasWindow(const SqlScanner &statement)
 {
-    std::vector<SimpleSelect::FunctionCall> calls;
     for (qsizetype i = 1; i < statement.count(); ++i) {
-        if (!statement.isSymbol(i, u'('))
-            continue;
-        const qsizetype close = endOfParentheses(statement, i);
-        if (statement.isWord(i + 1, u"SELECT") || statement.isWord(i + 1, u"WITH")) {
-            i = close;
-        } else if (statement.isName(i - 1)) {
-            const int depth = statement.at(i).depth + 1;
-            int arguments = close > i + 1 ? 1 : 0;
-            for (qsizetype j = i + 1; j < close; ++j)
-                arguments += statement.isSymbol(j, u',') && statement.at(j).depth == depth ? 1 : 0;
-            calls.push_back({statement.name(i - 1), arguments});
+        if (statement.isSymbol(i, u'(') && isOneOf(statement, i + 1, {u"SELECT", u"WITH"}))
+            i = endOfParentheses(statement, i);
+        if (statement.isSymbol(i, u')') && statement.isWord(i + 1, u"OVER"))
+            return true;
+    }
+    return false;
+}
+
+// The item at [first, end) of the statement: whatever is not surely a column is taken for computed.
+SimpleSelect::Item itemAt(const SqlScanner &statement, qsizetype first, qsizetype end)
+{
+    qsizetype next = first;
+    while (statement.isName(next) && statement.isSymbol(next + 1, u'.'))
+        next += 2; // a schema or a table
+    if (next + 1 == end && statement.isSymbol(next, u'*'))
+        return {true, {}};
+    if (next >= end || !statement.isName(next))
+        return {};
+    const QString column = statement.name(next++);
+    if (next < end && statement.isWord(next, u"AS"))
+        ++next;
+    const bool hasAlias =
+        next + 1 == end && (statement.isName(next) || statement.at(next).kind == SqlToken::Kind::String);
+    return {false, next == end || hasAlias ? column : QString()};
+}
+
+std::vector<SimpleSelect::Item> itemsBefore(const SqlScanner &statement, qsizetype from)
+{
+    std::vector<SimpleSelect::Item> items;
+    qsizetype first = statement.isWord(1, u"ALL") ? 2 : 1;
+    for (qsizetype i = first; i <= from; ++i) {
+        if (i == from || (statement.isSymbol(i, u',') && statement.at(i).depth == 0)) {
+            items.push_back(itemAt(statement, first, i));
+            first = i + 1;
         }
     }
-    return calls;
+    return items;
 }
 
 // Why what surrounds the table folds or combines rows; empty when nothing does.
@@ -66,7 +90,7 @@ QString folding(const SqlScanner &statement)
         if (isOneOf(statement, i, {u"GROUP", u"HAVING"}))
             return Texts::readOnlyGrouped();
     }
-    return {};
+    return hasWindow(statement) ? Texts::readOnlyGrouped() : QString();
 }
 
 qsizetype indexOfFrom(const SqlScanner &statement)
@@ -121,7 +145,7 @@ SimpleSelect SimpleSelect::parse(const SqlScanner &statement)
     const bool ends = next >= statement.count() || statement.isSymbol(next, u';');
     if (!ends && !isOneOf(statement, next, {u"WHERE", u"ORDER", u"LIMIT"}))
         select.reason = Texts::readOnlyJoin();
-    select.functions = functionCalls(statement);
+    select.items = itemsBefore(statement, from);
     return select;
 }
 

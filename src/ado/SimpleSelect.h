@@ -13,10 +13,11 @@ class SqlScanner;
 // say.
 struct SimpleSelect
 {
-    struct FunctionCall
+    // One entry of the select list.
+    struct Item
     {
-        QString name;
-        int arguments = 0;
+        bool all = false; // * or T.*
+        QString column;   // the name of a plain column; empty for anything that is computed
     };
 
     // Why it is no such SELECT, for a person to read; empty when it is one. The rest is set only then.
@@ -26,8 +27,7 @@ struct SimpleSelect
     QString alias;           // as which the statement knows the table; its own name when there is no alias
     qsizetype listEnd = 0;   // where the select list ends in the text
     qsizetype sourceEnd = 0; // where the table with its alias ends
-    // The functions the statement calls outside of subqueries; an aggregate among them folds the rows.
-    std::vector<FunctionCall> functions;
+    std::vector<Item> items;
 
     static SimpleSelect parse(const SqlScanner &statement);
 };

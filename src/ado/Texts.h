@@ -74,6 +74,7 @@ KOVA_TEXT(badValue, "值“%1”不适合字段“%2”的数据类型。")
 KOVA_TEXT(binaryValue, "二进制数据")
 KOVA_TEXT(emptyRecordAgain, "新记录还没有填写任何内容，再次插入空行的操作已取消。")
 KOVA_TEXT(rowGone, "记录已被其他用户修改或删除，没有保存任何更改，请刷新后重试。")
+KOVA_TEXT(tableAltered, "表的结构已被其他程序更改，没有保存任何更改，请刷新后重试。")
 KOVA_TEXT(rowNotUnique, "无法唯一确定要修改的记录（有 %1 条相同的记录），没有保存任何更改。")
 
 // Streams

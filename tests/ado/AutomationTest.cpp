@@ -121,9 +121,40 @@ TEST(Automation, ReportsFailuresByASignalAndAnswersNeutrally)
     EXPECT_EQ(errors.size(), 4);
     call(host, "Close");
     EXPECT_EQ(get(host, "RecordCount"), QVariant(0));
-    EXPECT_EQ(get(host, "EOF"), QVariant(false));
-    EXPECT_EQ(errors.size(), 6);
+    EXPECT_EQ(errors.size(), 5);
     EXPECT_EQ(get(host, "State"), QVariant(0));
+}
+
+TEST(Automation, EndsAWalkOverAClosedRecordset)
+{
+    const TestDatabase database(script);
+    const auto recordset = database.open(u"SELECT * FROM t"_s);
+    QObject *host = automation(recordset);
+    QSignalSpy errors(host, SIGNAL(HostError(qint32, QString)));
+    EXPECT_EQ(get(host, "EOF"), QVariant(false));
+    EXPECT_EQ(get(host, "BOF"), QVariant(false));
+    call(host, "Close");
+    EXPECT_EQ(get(host, "EOF"), QVariant(true));
+    EXPECT_EQ(get(host, "BOF"), QVariant(true));
+    ASSERT_EQ(errors.size(), 2) << "it is told nevertheless";
+    EXPECT_EQ(errors[0][0], QVariant(static_cast<qint32>(0x800A0E78)));
+}
+
+TEST(Automation, WritesAStreamFromBytesAsFromAVariant)
+{
+    ADODB::StreamObject streamObject;
+    QObject *stream = &streamObject;
+    QSignalSpy errors(stream, SIGNAL(HostError(qint32, QString)));
+    stream->setProperty("Type", 1);
+    call(stream, "Open");
+    const QByteArray bytes("\xff\0a", 3);
+    EXPECT_TRUE(QMetaObject::invokeMethod(stream, "Write", Q_ARG(QByteArray, bytes)));
+    EXPECT_TRUE(QMetaObject::invokeMethod(stream, "Write", Q_ARG(QVariant, QVariant(bytes))));
+    stream->setProperty("Position", 0);
+    QVariant read;
+    EXPECT_TRUE(QMetaObject::invokeMethod(stream, "Read", Q_RETURN_ARG(QVariant, read), Q_ARG(qint32, -1)));
+    EXPECT_EQ(read.toByteArray(), bytes + bytes);
+    EXPECT_EQ(errors.size(), 0);
 }
 
 TEST(Automation, OpensThroughAConnectionObject)

@@ -85,14 +85,26 @@ TEST(SimpleSelect, SaysWhyARowCantBeFoundAgain)
         EXPECT_EQ(parse(c.sql).reason, c.reason) << c.sql.toStdString();
 }
 
-TEST(SimpleSelect, ListsTheFunctionsOutsideOfSubqueries)
+TEST(SimpleSelect, TellsPlainColumnsFromWhatIsComputed)
 {
-    const SimpleSelect select =
-        parse(u"select max(a, b), upper(trim(c)), count(*), now(), (select sum(x) from u) from t"_s);
-    QStringList calls;
-    for (const auto &call : select.functions)
-        calls += u"%1/%2"_s.arg(call.name).arg(call.arguments);
-    EXPECT_EQ(calls.join(u' '), u"max/2 upper/1 trim/1 count/1 now/0"_s);
+    const SimpleSelect select = parse(
+        u"select all *, k.*, main.t.*, a, k.b, main.t.[c d], \"e\"\"f\" as g, h 'i', j AS \"l\", `m` n,"
+        " o + 1, -p, (q), (select r from t) as r, (select s from t), upper(u), 'v', 7, w collate nocase,"
+        " case when x then y end, a.b.c + 1, max(a, b), k.* + 1 from t k"_s);
+    QStringList items;
+    for (const SimpleSelect::Item &item : select.items)
+        items += item.all ? u"*"_s : item.column;
+    EXPECT_EQ(items.join(u'|'), u"*|*|*|a|b|c d|e\"f|h|j|m|||||||||||||"_s);
+}
+
+TEST(SimpleSelect, RefusesWindowsExceptInSubqueries)
+{
+    for (const QString &sql : {u"select sum(v) over () from t"_s, u"select (sum(v) over w) + 1 from t"_s,
+                               u"select a from t order by row_number() over (order by a)"_s})
+        EXPECT_EQ(parse(sql).reason, Texts::readOnlyGrouped()) << sql.toStdString();
+    for (const QString &sql :
+         {u"select a, (select sum(v) over () from u limit 1) from t"_s, u"select over from t"_s})
+        EXPECT_EQ(parse(sql).reason, QString()) << sql.toStdString();
 }
 
 } // namespace

@@ -26,6 +26,20 @@ void run(sqlite3 *db, const QByteArray &script)
         << sqlite3_errmsg(db) << " in " << script.constData();
 }
 
+// Until `see` answers false.
+template<typename See>
+void forEachRow(const QString &path, const QString &sql, See &&see)
+{
+    sqlite3 *db = openFile(path);
+    sqlite3_stmt *statement = nullptr;
+    EXPECT_EQ(sqlite3_prepare_v2(db, sql.toUtf8().constData(), -1, &statement, nullptr), SQLITE_OK)
+        << sqlite3_errmsg(db) << " in " << sql.toStdString();
+    while (sqlite3_step(statement) == SQLITE_ROW && see(statement)) {
+    }
+    sqlite3_finalize(statement);
+    sqlite3_close(db);
+}
+
 } // namespace
 
 TestDatabase::TestDatabase(const QString &script) : m_path(m_folder.filePath(u"测试.db"_s))
@@ -48,18 +62,30 @@ void TestDatabase::execute(const QString &script) const
 
 QString TestDatabase::ask(const QString &sql) const
 {
-    sqlite3 *db = openFile(m_path);
-    sqlite3_stmt *statement = nullptr;
-    EXPECT_EQ(sqlite3_prepare_v2(db, sql.toUtf8().constData(), -1, &statement, nullptr), SQLITE_OK)
-        << sqlite3_errmsg(db);
     QString answer = u"none"_s;
-    if (sqlite3_step(statement) == SQLITE_ROW) {
+    forEachRow(m_path, sql, [&](sqlite3_stmt *statement) {
         const void *text = sqlite3_column_text(statement, 0);
         answer = text ? QString::fromUtf8(static_cast<const char *>(text)) : u"NULL"_s;
-    }
-    sqlite3_finalize(statement);
-    sqlite3_close(db);
+        return false;
+    });
     return answer;
+}
+
+QList<QStringList> TestDatabase::rows(const QString &sql) const
+{
+    QList<QStringList> rows;
+    forEachRow(m_path, sql, [&](sqlite3_stmt *statement) {
+        QStringList cells;
+        for (int i = 0; i < sqlite3_column_count(statement); ++i) {
+            // Told apart by their types: 1, '1' and 1.0 are different values.
+            const void *text = sqlite3_column_text(statement, i);
+            cells += QString::number(sqlite3_column_type(statement, i)) + u':' +
+                     QString::fromUtf8(static_cast<const char *>(text));
+        }
+        rows += cells;
+        return true;
+    });
+    return rows;
 }
 
 QByteArray TestDatabase::fileBytes() const

@@ -5,6 +5,7 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtCore/QTemporaryDir>
 
 #include <memory>
@@ -26,6 +27,8 @@ public:
     void execute(const QString &script) const;
     // The first column of the first row as text; "NULL" for Null, "none" when there is no row.
     QString ask(const QString &sql) const;
+    // All rows; a cell is the number of its type, a colon and its text.
+    QList<QStringList> rows(const QString &sql) const;
     QByteArray fileBytes() const;
 
     std::shared_ptr<ADODB::Connection> connect() const;

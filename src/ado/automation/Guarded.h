@@ -21,6 +21,14 @@ auto guarded(Object *object, Action &&action) -> decltype(action())
     return decltype(action())();
 }
 
+// The same with a neutral value of the caller's choice.
+template<typename Object, typename Result, typename Action>
+Result guardedOr(Object *object, Result neutral, Action &&action)
+{
+    guarded(object, [&] { neutral = action(); });
+    return neutral;
+}
+
 // A count or position in the 32 bits that a late-bound host can take.
 inline qint32 narrowed(qint64 number)
 {

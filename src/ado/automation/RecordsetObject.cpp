@@ -95,12 +95,12 @@ void RecordsetObject::Delete(qint32 affectRecords)
 
 bool RecordsetObject::isBOF()
 {
-    return guarded(this, [&] { return m_recordset.isBOF(); });
+    return guardedOr(this, true, [&] { return m_recordset.isBOF(); });
 }
 
 bool RecordsetObject::isEOF()
 {
-    return guarded(this, [&] { return m_recordset.isEOF(); });
+    return guardedOr(this, true, [&] { return m_recordset.isEOF(); });
 }
 
 qint32 RecordsetObject::recordCount()

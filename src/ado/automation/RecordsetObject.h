@@ -17,8 +17,8 @@ class FieldsObject;
 class Recordset;
 
 // A recordset by ADO's member names, for hosts that know nothing but a QObject and names. Nothing is thrown:
-// a call that fails emits HostError and answers the neutral value of its type. Failures of its fields are
-// emitted here too.
+// a call that fails emits HostError and answers the neutral value of its type; BOF and EOF then answer true,
+// so that every walk over the records ends. Failures of its fields are emitted here too.
 class KOVA_EXPORT RecordsetObject : public QObject
 {
     Q_OBJECT

@@ -16,9 +16,14 @@ void StreamObject::Close()
     guarded(this, [&] { m_stream.Close(); });
 }
 
+void StreamObject::Write(const QByteArray &bytes)
+{
+    guarded(this, [&] { m_stream.Write(bytes); });
+}
+
 void StreamObject::Write(const QVariant &bytes)
 {
-    guarded(this, [&] { m_stream.Write(bytes.toByteArray()); });
+    Write(bytes.toByteArray());
 }
 
 QVariant StreamObject::Read(qint32 count)

@@ -21,6 +21,7 @@ public:
 
     Q_INVOKABLE void Open();
     Q_INVOKABLE void Close();
+    Q_INVOKABLE void Write(const QByteArray &bytes);
     Q_INVOKABLE void Write(const QVariant &bytes);
     Q_INVOKABLE QVariant Read(qint32 count = -1);
     Q_INVOKABLE void WriteText(const QString &text);

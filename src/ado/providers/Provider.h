@@ -11,7 +11,7 @@
 #include <vector>
 
 // What a database engine has to offer to be reached through Connection and Recordset. Each engine has its own
-// folder beside this file and is listed in Providers.cpp. Everything throws Error.
+// folder beside this file and is listed in Provider.cpp. Everything throws Error.
 namespace ADODB {
 
 class ConnectionString;

@@ -42,39 +42,59 @@ private:
 
 } // namespace
 
-SqliteRowWriter::SqliteRowWriter(std::shared_ptr<SqliteSession> session, SqliteTarget target,
-                                 const std::vector<FieldInfo> &fields)
+SqliteRowWriter::SqliteRowWriter(std::shared_ptr<SqliteSession> session, SqliteTarget target)
     : m_session(std::move(session)), m_target(std::move(target))
 {
-    for (const FieldInfo &field : fields)
-        m_baseColumns.push_back(field.baseColumn.isEmpty() ? QString() : quotedName(field.baseColumn));
+}
+
+const QString &SqliteRowWriter::nameOf(int column) const
+{
+    return m_target.columns[static_cast<std::size_t>(column)];
 }
 
 bool SqliteRowWriter::isWritable(int column) const
 {
-    return !m_baseColumns[static_cast<std::size_t>(column)].isEmpty();
+    return !nameOf(column).isEmpty();
 }
 
 // IS rather than =, because a key can hold Null.
 QString SqliteRowWriter::keyCondition(const QString &prefix) const
 {
     QStringList terms;
-    for (const auto &[name, column] : m_target.key)
-        terms += prefix + name + " IS ?"_L1;
+    for (const auto &key : m_target.key)
+        terms += prefix + key.name + " IS ?"_L1;
     return terms.join(" AND "_L1);
 }
 
 void SqliteRowWriter::bindKey(SqliteCall &call, const std::vector<RawValue> &row,
                               const std::vector<Change> &changes) const
 {
-    for (const auto &[name, column] : m_target.key) {
-        const auto change = std::find_if(changes.begin(), changes.end(),
-                                         [wanted = column](const Change &c) { return c.column == wanted; });
-        if (change != changes.end())
+    for (const auto &key : m_target.key) {
+        // The last one, because that is the one that counts where two fields show the same column.
+        const auto change = std::find_if(changes.rbegin(), changes.rend(), [&](const Change &candidate) {
+            return nameOf(candidate.column) == key.written;
+        });
+        if (change != changes.rend())
             call.bind(change->value);
         else
-            call.bind(row.empty() ? RawValue() : row[static_cast<std::size_t>(column)]);
+            call.bind(row.empty() ? RawValue() : row[static_cast<std::size_t>(key.column)]);
     }
+}
+
+QString SqliteRowWriter::seenCondition(const std::vector<int> &unchanged) const
+{
+    QString condition = keyCondition({});
+    for (const int column : unchanged)
+        condition += " AND "_L1 + nameOf(column) + " IS ?"_L1;
+    return condition;
+}
+
+void SqliteRowWriter::bindSeen(SqliteCall &call, const std::vector<RawValue> &row,
+                               const std::vector<int> &unchanged) const
+{
+    bindKey(call, row, {});
+    for (const int column : unchanged)
+        call.bind(row[static_cast<std::size_t>(column)]);
 }
 
 void SqliteRowWriter::readBack(SqliteCall &call, RowStore &stored) const
@@ -82,6 +102,10 @@ void SqliteRowWriter::readBack(SqliteCall &call, RowStore &stored) const
     if (!call.step())
         throw Error(dbErrConcurrency, Texts::rowGone(), u"SQLite"_s, u"01001"_s);
     appendCurrentRow(call.handle(), stored);
+    // Without a key the row can have become equal to another; which of the two was read is then anyone's
+    // guess.
+    if (call.step())
+        throw Error(dbErrConcurrency, Texts::rowNotUnique().arg(2), u"SQLite"_s, u"01001"_s);
 }
 
 void SqliteRowWriter::insert(const std::vector<Change> &changes, RowStore &stored)
@@ -90,7 +114,7 @@ void SqliteRowWriter::insert(const std::vector<Change> &changes, RowStore &store
     QStringList names;
     QStringList places;
     for (const Change &change : changes) {
-        names += m_baseColumns[static_cast<std::size_t>(change.column)];
+        names += nameOf(change.column);
         places += u"?"_s;
     }
     const QString values = changes.empty()
@@ -119,19 +143,16 @@ void SqliteRowWriter::update(const std::vector<RawValue> &row, const std::vector
 {
     Transaction transaction(*m_session);
     QStringList assignments;
-    QString unchanged; // what this edit replaces must still be what its author saw
+    std::vector<int> unchanged = m_target.witnesses;
     for (const Change &change : changes) {
-        const QString &name = m_baseColumns[static_cast<std::size_t>(change.column)];
-        assignments += name + " = ?"_L1;
-        unchanged += " AND "_L1 + name + " IS ?"_L1;
+        assignments += nameOf(change.column) + " = ?"_L1;
+        unchanged.push_back(change.column); // what this edit replaces must still be what its author saw
     }
     SqliteCall writing(*m_session, u"UPDATE %1 SET "_s.arg(m_target.table) + assignments.join(", "_L1) +
-                                       " WHERE "_L1 + keyCondition({}) + unchanged);
+                                       " WHERE "_L1 + seenCondition(unchanged));
     for (const Change &change : changes)
         writing.bind(change.value);
-    bindKey(writing, row, {});
-    for (const Change &change : changes)
-        writing.bind(row[static_cast<std::size_t>(change.column)]);
+    bindSeen(writing, row, unchanged);
     writing.changeOneRow();
 
     SqliteCall reading(*m_session, m_target.selectRow + keyCondition(m_target.alias + u'.'));
@@ -143,8 +164,9 @@ void SqliteRowWriter::update(const std::vector<RawValue> &row, const std::vector
 void SqliteRowWriter::remove(const std::vector<RawValue> &row)
 {
     Transaction transaction(*m_session);
-    SqliteCall deletion(*m_session, u"DELETE FROM %1 WHERE "_s.arg(m_target.table) + keyCondition({}));
-    bindKey(deletion, row, {});
+    SqliteCall deletion(*m_session,
+                        u"DELETE FROM %1 WHERE "_s.arg(m_target.table) + seenCondition(m_target.witnesses));
+    bindSeen(deletion, row, m_target.witnesses);
     deletion.changeOneRow();
     transaction.commit();
 }

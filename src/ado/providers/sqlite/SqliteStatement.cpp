@@ -8,6 +8,8 @@
 
 #include <sqlite3.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace ADODB {
 
 namespace {
@@ -122,12 +124,9 @@ void SqliteStatement::prepareWriter(const QString &sql)
     // The statement that also gives the hidden key takes the place of the user's.
     if (target.hiddenKey)
         m_statement = m_session->prepareQuery(target.statement);
-    auto writer = std::make_unique<SqliteRowWriter>(m_session, std::move(target), m_fields);
-    for (std::size_t i = 0; i < m_fields.size(); ++i) {
-        if (writer->isWritable(static_cast<int>(i)))
-            m_fields[i].attributes |= adFldUpdatable;
-    }
-    m_writer = std::move(writer);
+    for (const int field : target.writable())
+        m_fields[static_cast<std::size_t>(field)].attributes |= adFldUpdatable;
+    m_writer = std::make_unique<SqliteRowWriter>(m_session, std::move(target));
 }
 
 void SqliteStatement::learnTypes()
@@ -162,6 +161,10 @@ void SqliteStatement::fetch(RowStore &rows, const std::function<bool()> &goOn)
 void appendCurrentRow(sqlite3_stmt *statement, RowStore &rows)
 {
     const int count = rows.columns();
+    // A * gives other columns once another program has altered the table; the hidden key would be one of
+    // them.
+    if (sqlite3_data_count(statement) != count)
+        throw Error(dbErrConcurrency, Texts::tableAltered(), u"SQLite"_s, u"01001"_s);
     for (int i = 0; i < count; ++i)
         rows.add(currentValue(statement, i));
     rows.endRow();

@@ -13,8 +13,9 @@ struct SqliteTarget
 {
     struct KeyColumn
     {
-        QString name; // as it stands in a statement
-        int column;   // of the result
+        QString name;    // as it stands in a statement
+        QString written; // the column that a change of the key is written to; empty if there is none
+        int column;      // of the result
     };
 
     QString whyReadOnly; // empty when they can be; the rest is set only then
@@ -24,7 +25,17 @@ struct SqliteTarget
     QString alias;
     QString rowId;     // the name of the rowid; empty for a table without one
     QString selectRow; // the statement up to where the condition for one row follows
+    // For each field the table's column, as it stands in a statement, that takes its values; empty for a
+    // field that is computed.
+    std::vector<QString> columns;
+    // What tells the row from all others.
     std::vector<KeyColumn> key;
+    // Fields that must still be what they were when they were read, because the key alone may by now belong
+    // to another row.
+    std::vector<int> witnesses;
+
+    // The fields that take values.
+    std::vector<int> writable() const;
 
     static SqliteTarget find(const SqliteSession &session, const QString &sql,
                              const std::vector<FieldInfo> &fields);
