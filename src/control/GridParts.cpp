@@ -72,7 +72,7 @@ void GridParts::layOut(int width, int height)
     vsfgDataGrid->setGeometry(left, toolbarHeight, gridWidth, gridHeight);
     MSFlexGrid1->setGeometry(vsfgDataGrid->geometry());
     txtEdit->hide();
-    layOutFoot(height - foot, foot, width);
+    layOutFoot();
 }
 
 QRect GridParts::foot() const
@@ -95,10 +95,13 @@ int GridParts::gap() const
 
 // The page box, its button, the label and the statement from the left, the check box at the right edge; when
 // it gets narrow, first the statement gives way and then the label.
-void GridParts::layOutFoot(int top, int height, int width)
+void GridParts::layOutFoot() const
 {
+    const QRect strip = foot();
+    const int top = strip.top();
+    const int width = strip.width();
     const int gap = this->gap();
-    const int partHeight = height - gap;
+    const int partHeight = strip.height() - gap;
     int x = gap;
     const auto place = [&](QWidget *part, int partWidth) {
         part->setGeometry(x, top + gap / 2, partWidth, partHeight);

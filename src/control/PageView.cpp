@@ -53,6 +53,7 @@ void PageView::setCurrentPage(qint64 page)
     m_currentPage = canShowPage() ? static_cast<int>(std::min(page, pageCount)) : 0;
     m_parts.txtPage->setText(QString::number(m_currentPage));
     m_parts.lblFieldCount->setText(pageLabel(QString::number(m_currentPage), QString::number(pageCount)));
+    m_parts.layOutFoot();
 }
 
 void PageView::fill(const QString &pictureField)

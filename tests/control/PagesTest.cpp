@@ -87,6 +87,13 @@ TEST_F(Pages, OneMoreMakesASecondPageOfOneRow)
     EXPECT_EQ(grid.CellTextL(2, 1), u"2"_s);
 }
 
+TEST_F(Pages, TheLabelIsSeenWhole)
+{
+    ASSERT_TRUE(load(numbers(1000000)));
+    const auto *shown = grid.findChild<QLabel *>(u"lblFieldCount"_s);
+    EXPECT_GE(shown->width(), shown->sizeHint().width());
+}
+
 TEST_F(Pages, APageBehindTheLastBecomesTheLast)
 {
     ASSERT_TRUE(load(numbers(1000000)));
