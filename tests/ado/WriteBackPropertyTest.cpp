@@ -6,6 +6,7 @@
 #include "Throwing.h"
 
 #include <algorithm>
+#include <functional>
 #include <random>
 #include <vector>
 
@@ -129,7 +130,7 @@ private:
                                           u"{alias}.{column} AS {column}"_s}),
                           alias, made.table->name, column);
         case 4:
-            if (below(3) > 0)
+            if (made.isRefused || below(3) > 0) // SQLite takes no two of them that differ in kind
                 break;
             made.fields += QString();
             made.isRefused = true;

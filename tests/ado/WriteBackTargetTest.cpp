@@ -3,8 +3,6 @@
 #include "TestDatabase.h"
 #include "Throwing.h"
 
-#include <vector>
-
 using namespace Qt::Literals::StringLiterals;
 using namespace ADODB;
 using AdoTest::cellTexts;
@@ -55,7 +53,6 @@ TEST(WriteBackTarget, TakesNoValueForAColumnThatASubqueryReads)
 
 TEST(WriteBackTarget, ReachesTheRowBehindFieldsThatOnlyLookLikeColumns)
 {
-    const TestDatabase database(script);
     for (const QString &item :
          {u"(SELECT x.id FROM S x WHERE x.id = 4) AS id"_s, u"(SELECT x.id FROM S x ORDER BY 1 DESC) id"_s,
           u"(SELECT id FROM seen ORDER BY 1) AS id"_s, u"(SELECT max(x.id) FROM S x) AS id"_s,
@@ -65,18 +62,18 @@ TEST(WriteBackTarget, ReachesTheRowBehindFieldsThatOnlyLookLikeColumns)
           u"CAST(id AS INTEGER) AS id"_s, u"id COLLATE NOCASE AS id"_s, u"(SELECT S.id) AS id"_s,
           u"(SELECT v FROM W) AS id"_s, u"'id' AS id"_s, u"max(id, 4) AS id"_s}) {
         SCOPED_TRACE(item.toStdString());
-        const TestDatabase fresh(script);
-        const auto recordset = fresh.open(u"SELECT %1, name FROM S ORDER BY S.id"_s.arg(item));
+        const TestDatabase database(script);
+        const auto recordset = database.open(u"SELECT %1, name FROM S ORDER BY S.id"_s.arg(item));
         EXPECT_EQ(recordset->Fields().Item(0).Attributes() & adFldUpdatable, 0);
         EXPECT_NE(recordset->Fields().Item(1).Attributes() & adFldUpdatable, 0);
         EXPECT_ADO_ERROR(adErrFeatureNotAvailable, put(*recordset, u"id"_s, 9));
         recordset->MoveNext();
         put(*recordset, u"name"_s, u"new"_s);
         recordset->Update();
-        EXPECT_EQ(fresh.ask(u"SELECT group_concat(id || name) FROM (SELECT * FROM S ORDER BY id)"_s),
+        EXPECT_EQ(database.ask(u"SELECT group_concat(id || name) FROM (SELECT * FROM S ORDER BY id)"_s),
                   u"1a,2new,3c,4d"_s);
         recordset->Delete();
-        EXPECT_EQ(idsOf(fresh), u"1,3,4"_s);
+        EXPECT_EQ(idsOf(database), u"1,3,4"_s);
     }
 }
 
