@@ -143,7 +143,10 @@ GridCommands::GridCommands(ControlHub &hub)
             hub.q.addAction(action);
     }
     hub.parts.vsfgDataGrid->installEventFilter(this);
-    connect(hub.parts.Toolbar1, &GridToolbar::buttonClicked, this, &GridCommands::run);
+    connect(hub.parts.Toolbar1, &GridToolbar::buttonClicked, this, [this](const QString &key) {
+        if (m_hub.parts.Toolbar1->isEnabled()) // a shortcut does not know
+            run(key);
+    });
     connect(&m_menu, &PopupMenu::PopMnuDataActionClicked, this, [this](int index) {
         bool ok = false;
         DoDataAction(index, ok);
@@ -152,12 +155,16 @@ GridCommands::GridCommands(ControlHub &hub)
     connect(&singleRecord, &SingleRecordView::menuWanted, this, &GridCommands::showMenu);
     connect(&singleRecord, &SingleRecordView::cancelWanted, this, [this] { CancelRecord(m_hub); });
     connect(hub.parts.Adodc1, &ADODB::Adodc::MoveComplete, this, &GridCommands::followRecord);
+    connect(hub.parts.Adodc1, &ADODB::Adodc::RecordChangeComplete, this,
+            [this](ADODB::EventReasonEnum reason) {
+                // Later, because the host may be in the middle of several changes.
+                if (reason == ADODB::adRsnUpdate || reason == ADODB::adRsnDelete)
+                    QMetaObject::invokeMethod(this, &GridCommands::followChange, Qt::QueuedConnection);
+            });
 }
 
 void GridCommands::run(const QString &key)
 {
-    if (!m_hub.parts.Toolbar1->isEnabled())
-        return; // a shortcut, which does not know of it
     const auto *command = std::find_if(std::begin(ToolbarCommands), std::end(ToolbarCommands),
                                        [&](const ToolbarCommand &each) { return each.key == key; });
     if (command != std::end(ToolbarCommands) && (command->record == Record::Stays || SaveRecord(m_hub)) &&
@@ -218,6 +225,27 @@ void GridCommands::followRecord()
     const qint64 row = m_hub.result.recordset()->AbsolutePosition() - m_hub.pages.recordOfRow(1) + 1;
     if (row >= 1 && row < grid.Rows() && row != grid.Row())
         grid.PutRow(static_cast<int>(row));
+}
+
+// The host changed, deleted or added a record: the grid shows as many rows as there are. What the commands
+// themselves change they have shown already.
+void GridCommands::followChange()
+{
+    if (!m_hub.result.isOpen() || m_hub.result.recordset()->EditMode() == ADODB::adEditAdd)
+        return;
+    VSFlexGrid &grid = *m_hub.parts.vsfgDataGrid;
+    ADODB::Recordset &recordset = *m_hub.result.recordset();
+    const int page = m_hub.pages.currentPage();
+    const int rowCount = page > 0 ? m_hub.pages.rowsOfPage(page) : 0;
+    if (rowCount + 1 != grid.Rows()) {
+        const qint64 position = std::max<qint64>(recordset.AbsolutePosition(), 0);
+        const qint64 wanted = position > 0 ? position : m_hub.pages.recordOfRow(std::max(grid.Row(), 1));
+        RefillAtRecord(m_hub, std::min(wanted, recordset.RecordCount()));
+    }
+    grid.Refresh();
+    if (!singleRecord.editor().isOpen())
+        singleRecord.refillIfShown();
+    m_hub.updateRecordPosition();
 }
 
 bool GridCommands::isShortcut(const QKeyEvent &event) const

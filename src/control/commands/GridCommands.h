@@ -19,7 +19,8 @@ class GridCommands : public QObject
 public:
     explicit GridCommands(ControlHub &hub);
 
-    // Runs the command of a toolbar button. A key that no button has runs nothing.
+    // Runs the command of a toolbar button, whether or not that is enabled. A key that no button has runs
+    // nothing.
     void run(const QString &key);
     // Runs the command of a menu item; `ok` receives whether there is one and it could begin.
     void DoDataAction(int index, bool &ok);
@@ -40,6 +41,7 @@ private:
     void showMenu(const QPoint &position);
     bool isShortcut(const QKeyEvent &event) const;
     void followRecord();
+    void followChange();
 
     ControlHub &m_hub;
     PopupMenu m_menu;

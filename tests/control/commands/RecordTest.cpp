@@ -335,6 +335,21 @@ TEST_F(RecordsOf, AddingToWhatCannotBeWrittenEndsSilently)
     EXPECT_TRUE(messages.shown().empty());
 }
 
+TEST_F(RecordsOf, WhatTheHostChangesIsShown)
+{
+    ASSERT_TRUE(load());
+    clickCell(3, 1);
+    QObject *recordset = grid.RecordSet();
+    ASSERT_TRUE(QMetaObject::invokeMethod(recordset, "MoveLast"));
+    EXPECT_EQ(grid.GetGridRow(), 12);
+    ASSERT_TRUE(QMetaObject::invokeMethod(recordset, "Delete"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(rows(), 11);
+    EXPECT_EQ(grid.GetGridRow(), 11);
+    EXPECT_EQ(grid.CurrPosition(), 11);
+    EXPECT_EQ(count(), u"11"_s);
+}
+
 TEST_F(RecordsOf, DeletingTheNewRecordGivesItUp)
 {
     ASSERT_TRUE(load());
