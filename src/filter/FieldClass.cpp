@@ -1,25 +1,14 @@
 #include "filter/FieldClass.h"
 
+#include "ado/NumericTypes.h"
+
 namespace KOVAVSFDataGridLib {
 
 FieldClass FieldClassOf(ADODB::DataTypeEnum type)
 {
-    switch (type) {
-    case ADODB::adSmallInt:
-    case ADODB::adInteger:
-    case ADODB::adSingle:
-    case ADODB::adDouble:
-    case ADODB::adCurrency:
-    case ADODB::adDecimal:
-    case ADODB::adTinyInt:
-    case ADODB::adUnsignedTinyInt:
-    case ADODB::adUnsignedSmallInt:
-    case ADODB::adUnsignedInt:
-    case ADODB::adBigInt:
-    case ADODB::adUnsignedBigInt:
-    case ADODB::adNumeric:
-    case ADODB::adVarNumeric:
+    if (ADODB::isNumericType(type))
         return FieldClass::Number;
+    switch (type) {
     case ADODB::adBoolean:
         return FieldClass::Boolean;
     case ADODB::adDBDate:
