@@ -5,6 +5,7 @@
 
 #include <KOVAVSFDataGrid>
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtWidgets/QBoxLayout>

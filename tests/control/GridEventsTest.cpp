@@ -3,6 +3,7 @@
 #include "support/MessageAnswers.h"
 
 #include <QtWidgets/QCheckBox>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QToolBar>
 
 #include <cmath>

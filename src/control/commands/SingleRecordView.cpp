@@ -12,6 +12,7 @@
 #include "grid/TextCells.h"
 #include "grid/Twips.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QHeaderView>
