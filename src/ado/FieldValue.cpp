@@ -148,6 +148,8 @@ QVariant fromRaw(const RawValue &raw, DataTypeEnum type)
             return raw.integer != 0;
         if (shape == Shape::BigInteger)
             return raw.integer;
+    } else if (raw.kind == RawValue::Kind::Real && type == adSingle) {
+        return static_cast<float>(raw.real); // shown with the digits that it has
     } else if (raw.kind == RawValue::Kind::Text) {
         if (QVariant value = readText(raw.bytes, shape); value.isValid())
             return value;

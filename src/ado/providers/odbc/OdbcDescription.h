@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ado/FieldInfo.h"
+#include "ado/providers/odbc/OdbcTypes.h"
 
 #include <vector>
 
@@ -8,7 +9,8 @@ namespace ADODB {
 
 class OdbcHandle;
 
-// What a prepared statement's columns are.
+// What a prepared statement says about its columns.
 std::vector<FieldInfo> describeColumns(const OdbcHandle &statement);
+OdbcTypes::Declared declaredType(const OdbcHandle &statement, int column);
 
 } // namespace ADODB

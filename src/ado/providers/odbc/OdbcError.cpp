@@ -4,6 +4,7 @@
 #include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcHandle.h"
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -39,6 +40,27 @@ Diagnosis diagnose(SQLSMALLINT handleType, SQLHANDLE handle)
     return diagnosis;
 }
 
+// SQLite's driver gives SQLite's own numbers under one general state.
+void refineSqlite(Diagnosis &diagnosis)
+{
+    struct Meaning
+    {
+        SQLINTEGER native;
+        QStringView state;
+    };
+    static constexpr Meaning meanings[] = {
+        {1, u"42000"}, {5, u"40001"}, {6, u"40001"}, {8, u"25006"}, {19, u"23000"},
+    };
+    if (diagnosis.state != "HY000"_L1 || !diagnosis.words.startsWith("[SQLite]"_L1))
+        return;
+    for (const Meaning &meaning : meanings) {
+        if (meaning.native == diagnosis.native)
+            diagnosis.state = meaning.state.toString();
+    }
+    if (diagnosis.words.contains("no such table"_L1))
+        diagnosis.state = u"42S02"_s;
+}
+
 // The native numbers by which MariaDB and MySQL say that the server went away, under a general state.
 bool isLoss(const Diagnosis &diagnosis)
 {
@@ -56,7 +78,8 @@ bool startsWithAny(const QString &state, std::initializer_list<QLatin1StringView
 
 void throwOdbcError(SQLSMALLINT handleType, SQLHANDLE handle, OdbcConnection &connection, OdbcWork work)
 {
-    const Diagnosis diagnosis = diagnose(handleType, handle);
+    Diagnosis diagnosis = diagnose(handleType, handle);
+    refineSqlite(diagnosis);
     const QString &state = diagnosis.state;
     const QString words = withoutSecrets(diagnosis.words, connection.secrets());
     const auto fail = [&](auto number, const QString &text) {

@@ -4,34 +4,14 @@
 #include "ado/RowStore.h"
 #include "ado/SqlScanner.h"
 #include "ado/Texts.h"
-#include "ado/providers/odbc/OdbcBlockReader.h"
-#include "ado/providers/odbc/OdbcDescription.h"
 #include "ado/providers/odbc/OdbcHandle.h"
+#include "ado/providers/odbc/OdbcQuery.h"
 #include "ado/providers/odbc/OdbcRefusal.h"
-#include "ado/providers/odbc/OdbcValueReader.h"
-#include "ado/providers/odbc/OdbcWatch.h"
-
-#include <algorithm>
+#include "ado/providers/odbc/OdbcRowWriter.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
-
-namespace {
-
-bool isDay(const FieldInfo &field)
-{
-    return field.type == adDBDate || field.type == adDBTimeStamp;
-}
-
-// The statement without a semicolon at its end.
-QString withoutEnd(const SqlScanner &statement)
-{
-    const qsizetype last = statement.count() - 1;
-    return statement.isSymbol(last, u';') ? statement.sql().left(statement.at(last).start) : statement.sql();
-}
-
-} // namespace
 
 OdbcStatement::OdbcStatement(std::shared_ptr<OdbcSession> session, const QString &sql, Access access)
     : m_session(std::move(session))
@@ -40,70 +20,49 @@ OdbcStatement::OdbcStatement(std::shared_ptr<OdbcSession> session, const QString
     const SqlScanner scanner(sql, engine.dialect);
     refuseUnlessQuery(scanner);
     m_reading.emplace(m_session->connection(), engine);
-    prepareQuery(sql);
-    m_fields = describeColumns(*m_statement);
-    for (const FieldInfo &field : m_fields)
-        m_columns.push_back({OdbcTypes::formOf(field.type, engine.looseTypes), field.definedSize});
-    m_whyReadOnly = access == Access::ReadOnly ? Texts::openedReadOnly() : Texts::readOnlyNoTable();
-    if (engine.bendsDates && std::any_of(m_fields.begin(), m_fields.end(), isDay))
-        askForDatesAsText(scanner);
+    m_query = std::make_unique<OdbcQuery>(m_session->connection(), engine, sql);
+    m_fields = m_query->fields();
+    if (m_fields.empty())
+        throw Error(dbErrPermissionDenied, Texts::notAQuery(), u"ODBC"_s, u"42000"_s);
+    if (m_query->parameters() > 0)
+        throw Error(dbErrInCommand, Texts::parameterInStatement().arg(u'?'), u"ODBC"_s, u"07002"_s);
+    if (access == Access::ReadWrite)
+        prepareWriter(scanner);
+    else
+        m_whyReadOnly = Texts::openedReadOnly();
 }
 
 OdbcStatement::~OdbcStatement() = default;
 
-void OdbcStatement::prepareQuery(const QString &sql)
+int OdbcStatement::columns() const
 {
-    m_statement = std::make_unique<OdbcHandle>(m_session->connection());
-    m_statement->prepare(sql);
-    if (m_statement->columns() == 0)
-        throw Error(dbErrPermissionDenied, Texts::notAQuery(), u"ODBC"_s, u"42000"_s);
-    SQLSMALLINT parameters = 0;
-    m_statement->check(SQLNumParams(m_statement->get(), &parameters));
-    if (parameters > 0)
-        throw Error(dbErrInCommand, Texts::parameterInStatement().arg(u'?'), u"ODBC"_s, u"07002"_s);
+    return static_cast<int>(m_query->fields().size());
 }
 
-// The server's own texts hold what the driver can't, and what it would silently make another date of. The
-// order of the rows is the user's statement's, because nothing around it asks for another.
-void OdbcStatement::askForDatesAsText(const SqlScanner &statement)
+void OdbcStatement::prepareWriter(const SqlScanner &statement)
 {
-    QStringList names;
-    QStringList values;
-    for (const FieldInfo &field : m_fields) {
-        names += u"c%1"_s.arg(names.size());
-        values += isDay(field) ? names.last() + "::text"_L1 : names.last();
+    OdbcTarget target = OdbcTarget::find(*m_session, statement, m_fields);
+    m_whyReadOnly = target.whyReadOnly;
+    if (!m_whyReadOnly.isEmpty())
+        return;
+    // The statement that also gives the hidden key takes the place of the user's.
+    if (!target.statement.isEmpty())
+        m_query = std::make_unique<OdbcQuery>(m_session->connection(), m_session->engine(), target.statement);
+    for (std::size_t i = 0; i < m_fields.size(); ++i) {
+        if (!target.columns[i].isEmpty())
+            m_fields[i].attributes |= adFldUpdatable;
     }
-    prepareQuery("SELECT "_L1 + values.join(", "_L1) + " FROM (\n"_L1 + withoutEnd(statement) +
-                 "\n) AS kova("_L1 + names.join(", "_L1) + u')');
+    for (const auto &key : target.key) {
+        if (target.isRealKey && key.column < static_cast<int>(m_fields.size()))
+            m_fields[static_cast<std::size_t>(key.column)].attributes |= adFldKeyColumn;
+    }
+    m_writer = std::make_unique<OdbcRowWriter>(m_session, std::move(target), m_query->types());
 }
 
 void OdbcStatement::fetch(RowStore &rows, const std::function<bool()> &goOn)
 {
-    const OdbcWatch watch(*m_statement, goOn, m_session->commandTimeout());
-    bool done = false;
-    if (OdbcBlockReader::canRead(*m_statement, m_columns)) {
-        OdbcBlockReader reader(*m_statement, m_columns);
-        done = readAll(reader, rows, watch);
-    }
-    if (!done) {
-        rows = RowStore(columns());
-        OdbcValueReader reader(*m_statement, m_columns);
-        readAll(reader, rows, watch);
-    }
-    SQLFreeStmt(m_statement->get(), SQL_CLOSE);
+    m_query->read(rows, goOn, m_session->commandTimeout());
     m_reading.reset();
-}
-
-bool OdbcStatement::readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch)
-{
-    SQLHSTMT const statement = m_statement->get();
-    m_statement->check(watch.run([statement] { return SQLExecute(statement); }));
-    while (reader.fetch(watch)) {
-        if (!reader.append(rows))
-            return false;
-        watch.ask();
-    }
-    return true;
 }
 
 } // namespace ADODB

@@ -107,7 +107,6 @@ Form formOf(DataTypeEnum type, bool loose)
     case adUnsignedBigInt: // can be too large for an integer
         return Form::Whole;
     case adSingle:
-        return loose ? Form::Approximate : Form::Single;
     case adDouble:
         return loose ? Form::Approximate : Form::Real;
     case adBoolean:

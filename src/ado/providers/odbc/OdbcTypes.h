@@ -21,7 +21,6 @@ void apply(FieldInfo &field, const Declared &declared);
 enum class Form {
     Integer,
     Real,
-    Single,
     Boolean,
     Digits, // the text of a number or a date, which is plain ASCII
     Guid,

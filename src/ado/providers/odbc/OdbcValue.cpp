@@ -47,8 +47,6 @@ OdbcLayout OdbcLayout::of(Form form)
         return {SQL_C_SBIGINT, sizeof(qint64), 0};
     case Form::Real:
         return {SQL_C_DOUBLE, sizeof(double), 0};
-    case Form::Single:
-        return {SQL_C_FLOAT, sizeof(float), 0};
     case Form::Boolean:
         return {SQL_C_BIT, 1, 0};
     case Form::Digits:
@@ -71,8 +69,6 @@ void OdbcValue::append(RowStore &rows, Form form, const char *value, SQLLEN leng
         return rows.addInteger(numberAt<qint64>(value));
     case Form::Real:
         return rows.addReal(numberAt<double>(value));
-    case Form::Single:
-        return rows.addReal(double{numberAt<float>(value)});
     case Form::Boolean:
         return rows.addInteger(*value != 0 ? 1 : 0);
     case Form::Digits:
