@@ -26,7 +26,8 @@ FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *p
       m_closes(makeBrackets(u')', FilterTexts::CloseBracket)),
       m_join(new QComboBox(this)),
       m_delete(new QToolButton(this)),
-      m_fault(new QLabel(this))
+      m_fault(new QLabel(this)),
+      m_valueAtFault(m_value)
 {
     makeParts();
     layOut();
@@ -137,6 +138,16 @@ void FilterRow::setPlace(bool isLast, bool isOnly)
     m_delete->setEnabled(!isOnly);
 }
 
+void FilterRow::followInTabOrder(const FilterRow &previous)
+{
+    QWidget *last = previous.m_delete;
+    for (QWidget *part : std::initializer_list<QWidget *>{m_opens, m_field, m_operator, m_value, m_lastValue,
+                                                          m_closes, m_join, m_delete}) {
+        setTabOrder(last, part);
+        last = part;
+    }
+}
+
 FilterField FilterRow::field() const
 {
     const int index = m_field->currentIndex();
@@ -200,6 +211,7 @@ FilterCondition FilterRow::checkedCondition()
 {
     const FilterCondition found = condition();
     showFault(found.fault);
+    m_valueAtFault = found.isLastValueAtFault ? m_lastValue : m_value;
     return found;
 }
 
@@ -237,7 +249,7 @@ void FilterRow::focusFirstPart()
 
 void FilterRow::focusFault()
 {
-    m_value->setFocus();
+    m_valueAtFault->setFocus();
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -225,6 +225,10 @@ TEST_F(Builder, AnEndBeforeItsStartIsMarked)
     type("txtValue1b", u"2024-01-01"_s);
     EXPECT_EQ(answer(), "");
     EXPECT_EQ(fault("lblFault1"), "结束值小于开始值。");
+    EXPECT_EQ(dialog.focusWidget(), &text("txtValue1b"));
+    text("txtValue1").clear();
+    EXPECT_EQ(answer(), "");
+    EXPECT_EQ(dialog.focusWidget(), &text("txtValue1"));
 }
 
 TEST_F(Builder, AnotherFieldKeepsOperatorAndValueWhereItCan)
@@ -311,6 +315,7 @@ TEST_F(Builder, AConditionTypedByHandCountsUntilTheRowsAreWantedBack)
     EXPECT_FALSE(part(dialog, "cmdAddRow").isEnabled());
     press(dialog, "cmdBackToRows");
     EXPECT_TRUE(text("txtValue1").isEnabled());
+    EXPECT_EQ(dialog.focusWidget(), &combo("cmbField1"));
     EXPECT_EQ(answer(), "编号 = 1");
 }
 
@@ -325,6 +330,51 @@ TEST_F(Builder, AWrongConditionTypedByHandIsExplainedByTheDatabase)
     EXPECT_EQ(fault("lblNotice"), "请输入条件。");
 }
 
+TEST_F(Builder, AConditionTypedByHandStaysOneConditionWhateverIsJoinedToIt)
+{
+    const struct
+    {
+        QString typed;
+        const char *answer;
+    } cases[] = {
+        {u"编号 = 1 -- 说明"_s, "编号 = 1"},
+        {u"编号 =\n1"_s, "编号 = 1"},
+        {u"城市 = '--' or 编号 = 1"_s, "(城市 = '--' or 编号 = 1)"},
+        {u"编号 = 1) or (编号 = 2"_s, ""},
+        {u"编号 = 1 /* 说明"_s, ""},
+        {u"编号 = 1 limit 1"_s, ""},
+        {u"编号 = 1; select 1"_s, ""},
+    };
+    for (const auto &c : cases) {
+        type("txtCondition", {});
+        text("txtCondition").insert(c.typed);
+        EXPECT_EQ(answer(), c.answer) << qUtf8Printable(c.typed);
+        EXPECT_NE(fault("lblNotice"), "");
+    }
+    // The words by which the statement's sort is found, be it in a value.
+    type("txtCondition", u"城市 = '1 Order by 2'"_s);
+    EXPECT_EQ(answer(), "");
+    EXPECT_EQ(fault("lblNotice"), "条件语句中不能出现“ORDER BY”。");
+}
+
+TEST_F(Builder, TheKeyboardWalksThroughItFromLeftToRight)
+{
+    press(dialog, "cmdAddRow");
+    choose("cmbOperator1", u"介于"_s);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return combo("cmbField2").isVisible(); }));
+    part(dialog, "cmbOpen1").setFocus();
+    QStringList order;
+    for (int step = 0; step < 16; ++step) {
+        order.append(dialog.focusWidget()->objectName());
+        key(dialog, Qt::Key_Tab);
+    }
+    EXPECT_STREQ(qUtf8Printable(order.join(u' ')),
+                 "cmbOpen1 cmbField1 cmbOperator1 txtValue1 txtValue1b cmbClose1 cmbJoin1 cmdDeleteRow1 "
+                 "cmbOpen2 cmbField2 cmbOperator2 txtValue2 cmbClose2 cmdDeleteRow2 cmdAddRow txtCondition");
+    for (const QString &name : std::as_const(order).first(14))
+        EXPECT_FALSE(part(dialog, qUtf8Printable(name)).accessibleName().isEmpty()) << qUtf8Printable(name);
+}
+
 TEST(BuilderWithoutDatabase, SaysWhyThereAreNoFieldsAndStillTakesACondition)
 {
     QDialog dialog;
@@ -337,6 +387,9 @@ TEST(BuilderWithoutDatabase, SaysWhyThereAreNoFieldsAndStillTakesACondition)
     EXPECT_FALSE(notice.contains(u"secret"_s));
     EXPECT_TRUE(builder.ConditionText().isEmpty());
     EXPECT_EQ(part<QLabel>(dialog, "lblFault1").text(), u"没有可以筛选的字段。"_s);
+    EXPECT_FALSE(part(dialog, "cmdAddRow").isEnabled());
+    EXPECT_FALSE(part(dialog, "cmbField1").isEnabled());
+    EXPECT_TRUE(part(dialog, "txtCondition").isEnabled());
 }
 
 TEST(BuilderWithoutTable, TakesAConditionAsItIsTyped)
