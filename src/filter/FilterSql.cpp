@@ -137,8 +137,8 @@ QString Like(const Dialect &dialect, const QString &field, const QString &text, 
 
 QString IsTrue(const Dialect &dialect, const QString &field, bool wanted)
 {
-    // Servers with a real Boolean type compare it with a text, those of numbers convert the text.
-    if (dialect.isOdbc && dialect.database == dbOracle)
+    // Servers with a real Boolean type compare it with a text, those of bits and numbers convert the text.
+    if (dialect.isOdbc && dialect.database != dbAccess)
         return field + (wanted ? " = '1'"_L1 : " = '0'"_L1);
     // True is 1 here and -1 there.
     return field + (wanted ? " <> 0"_L1 : " = 0"_L1);

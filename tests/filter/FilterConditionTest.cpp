@@ -68,6 +68,8 @@ TEST(FilterCondition, YesAndNoAreToldByNumberOrOnServersByText)
     EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"是"_s), "F <> 0");
     EXPECT_EQ(sql(FieldClass::Boolean, NotEquals, u"是"_s), "F = 0");
     EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"否"_s, {}, OracleServer), "F = '0'");
+    EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"是"_s, {}, {dbSQLServer, true}), "F = '1'");
+    EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"是"_s, {}, {dbAccess, true}), "F <> 0");
 }
 
 TEST(FilterCondition, FaultsAreSaidInsteadOfACondition)
