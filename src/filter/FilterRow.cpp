@@ -2,6 +2,7 @@
 
 #include "filter/FilterTexts.h"
 #include "filter/ValueEdit.h"
+#include "forms/FieldCombo.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QComboBox>
@@ -18,7 +19,7 @@ FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *p
     : QWidget(parent),
       m_context(std::move(context)),
       m_opens(makeBrackets(u'(', FilterTexts::OpenBracket)),
-      m_field(new QComboBox(this)),
+      m_field(new FieldCombo(this)),
       m_operator(new QComboBox(this)),
       m_value(makeValue(FilterTexts::Value)),
       m_to(new QLabel(FilterTexts::To, this)),
@@ -41,7 +42,6 @@ FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *p
 void FilterRow::makeParts()
 {
     m_field->setAccessibleName(FilterTexts::Field);
-    m_field->setMaxVisibleItems(20);
     for (const FilterField &field : m_context->fields)
         m_field->addItem(field.caption);
     m_operator->setAccessibleName(FilterTexts::Operator);

@@ -50,11 +50,12 @@ const std::shared_ptr<ADODB::Connection> &FilterSource::connection()
 // It depends on the server's settings and the session's, so no name of a driver tells it.
 bool FilterSource::askWhetherBackslashEscapes()
 {
+    const auto &open = connection(); // a server out of reach is an error here as well
     if (!dialect().isOdbc)
         return false;
     try {
         ADODB::Recordset backslashes;
-        backslashes.Open(uR"(SELECT '\\')"_s, connection());
+        backslashes.Open(uR"(SELECT '\\')"_s, open);
         return backslashes.RecordCount() == 1 && backslashes.CellText(1, 0) == u'\\';
     } catch (const ADODB::Error &) {
         return false; // a database that selects from tables only, Oracle say; none of these has such escapes

@@ -37,7 +37,7 @@ SetFilter::SetFilter(QWidget *parent)
       m_table(new QLabel(this)),
       m_scroll(new QScrollArea(this)),
       m_rows(new FilterRows(m_scroll)),
-      m_add(new QPushButton(FilterTexts::AddRow, this)),
+      m_add(new FlatCmd(FilterTexts::AddRow, this)),
       m_condition(new QLineEdit(this)),
       m_backToRows(new FlatCmd(FilterTexts::BackToRows, this)),
       m_notice(new QLabel(this))
@@ -49,7 +49,6 @@ SetFilter::SetFilter(QWidget *parent)
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_add->setObjectName(u"cmdAddRow"_s);
-    m_add->setAutoDefault(false);
     m_condition->setObjectName(u"txtCondition"_s);
     m_condition->setAccessibleName(FilterTexts::ConditionName);
     m_condition->setPlaceholderText(FilterTexts::ConditionHint);

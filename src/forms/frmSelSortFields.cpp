@@ -1,5 +1,6 @@
 #include "forms/frmSelSortFields.h"
 
+#include "forms/FieldCombo.h"
 #include "forms/FlatCmd.h"
 #include "forms/FormTexts.h"
 #include "forms/SortList.h"
@@ -16,16 +17,15 @@ using namespace Qt::StringLiterals;
 
 frmSelSortFields::frmSelSortFields(QWidget *parent)
     : SelectionDialog(u"frmSelSortFields"_s, FormTexts::SelectSortTitle, u"picBack"_s, parent),
-      m_fields(new QComboBox(this)),
+      m_fields(new FieldCombo(this)),
       m_order(new QComboBox(this)),
-      m_add(new QPushButton(FormTexts::AddSortField, this)),
+      m_add(new FlatCmd(FormTexts::AddSortField, this)),
       m_sort(new SortList(this)),
       m_up(new FlatCmd(FormTexts::MoveSortFieldUp, this)),
       m_down(new FlatCmd(FormTexts::MoveSortFieldDown, this)),
       m_delete(new FlatCmd(FormTexts::DeleteSortField, this))
 {
     m_add->setObjectName(u"cmdAddField"_s);
-    m_add->setAutoDefault(false);
     m_delete->setObjectName(u"cmdDeleteField"_s);
     m_up->setObjectName(u"cmdUpField"_s);
     m_down->setObjectName(u"cmdDownField"_s);
@@ -65,7 +65,6 @@ QWidget *frmSelSortFields::makeAddRow()
     add(m_fields, u"cmbFields"_s, FormTexts::SortField, 1);
     add(m_order, u"cmbOrder"_s, FormTexts::SortOrder, 0);
     layout->addWidget(m_add);
-    m_fields->setMaxVisibleItems(20);
     m_fields->setMinimumContentsLength(12);
     m_order->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     return row;

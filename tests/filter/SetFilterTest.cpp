@@ -5,6 +5,7 @@
 #include "support/ExpectedWarnings.h"
 #include "support/TestDatabase.h"
 
+#include <QtGui/QScreen>
 #include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QCompleter>
@@ -116,6 +117,13 @@ TEST_F(Builder, TheKeyboardAloneBuildsACondition)
     key(dialog, Qt::Key_Tab);
     QTest::keyClicks(dialog.focusWidget(), u"100"_s);
     EXPECT_EQ(answer(), "金额 > 100");
+}
+
+TEST_F(Builder, AFieldIsFoundByTheBeginningOfItsNameInChineseToo)
+{
+    compose(combo("cmbField1"), u"下单"_s);
+    EXPECT_EQ(combo("cmbField1").currentText(), u"下单日期"_s);
+    EXPECT_EQ(part<QLineEdit>(dialog, "txtValue1").placeholderText(), u"例如 2024-01-31"_s);
 }
 
 TEST_F(Builder, BetweenTakesTwoValues)
@@ -297,6 +305,22 @@ TEST_F(Builder, ADayIsPickedFromACalendarAndKeepsTheTimeBehindIt)
     QTest::keyClick(calendar->focusWidget() ? calendar->focusWidget() : calendar, Qt::Key_Right);
     QTest::keyClick(calendar->focusWidget() ? calendar->focusWidget() : calendar, Qt::Key_Return);
     EXPECT_EQ(answer(), "发货时间 = '2024-01-06 08:30:00'");
+}
+
+TEST_F(Builder, TheCalendarStaysOnTheScreen)
+{
+    const QRect free = dialog.screen()->availableGeometry();
+    choose("cmbField1", u"下单日期"_s);
+    for (const QPoint corner : {free.topLeft(), free.bottomRight() - QPoint(300, 60)}) {
+        dialog.move(corner);
+        QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+        const QWidget *calendar = QApplication::activePopupWidget();
+        ASSERT_NE(calendar, nullptr);
+        EXPECT_TRUE(free.contains(calendar->frameGeometry()));
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+        EXPECT_TRUE(dialog.isVisible());
+    }
 }
 
 TEST_F(Builder, NumbersHaveNoListToOpen)

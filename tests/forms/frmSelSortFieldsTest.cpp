@@ -128,6 +128,20 @@ TEST_F(SortFields, AddsTheChosenFieldWithTheChosenOrder)
     EXPECT_EQ(accepted(), u"AGE DESC"_s);
 }
 
+TEST_F(SortFields, TypingTheBeginningOfANameFindsItAmongFiveHundred)
+{
+    QStringList all;
+    for (int i = 1; i <= 499; ++i)
+        all.append(u"字段%1"_s.arg(i));
+    fill(all + QStringList{u"订单金额"_s});
+    compose(combo("cmbFields"), u"订单"_s);
+    EXPECT_EQ(combo("cmbFields").currentText(), u"订单金额"_s);
+    press(dialog, "cmdAddField");
+    compose(combo("cmbFields"), u"没有"_s); // stays where nothing is found
+    EXPECT_EQ(accepted(), u"订单金额"_s);
+    EXPECT_EQ(combo("cmbFields").currentText(), u"订单金额"_s);
+}
+
 TEST_F(SortFields, AFieldThatIsInTheSortAlreadyIsNotAddedAgain)
 {
     fill({u"NAME"_s, u"AGE"_s}, {u"NAME"_s});
@@ -293,6 +307,15 @@ TEST_F(SortFields, MnemonicsReachEveryButton)
     EXPECT_EQ(dialog.focusWidget(), &combo("cmbOrder"));
     key(dialog, Qt::Key_F, Qt::AltModifier);
     EXPECT_EQ(dialog.focusWidget(), &combo("cmbFields"));
+}
+
+TEST_F(SortFields, EnterOnAButtonPressesThatButton)
+{
+    fill({u"A"_s});
+    part(dialog, "cmdAddField").setFocus();
+    key(dialog, Qt::Key_Return);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(rows(), QStringList{u"A 升序"_s});
 }
 
 TEST_F(SortFields, TellsItsPartsByName)
