@@ -67,20 +67,14 @@ TEST_F(FilterForm, CancelEscAndTheCloseBoxLeaveNoCondition)
 
 TEST_F(FilterForm, TheKeyboardBeginsWithTheFieldAndEndsWithTheButtons)
 {
-    QStringList order;
-    for (int step = 0; step < 8; ++step) {
-        order.append(dialog.focusWidget()->objectName());
-        key(dialog, Qt::Key_Tab);
-    }
-    EXPECT_STREQ(qUtf8Printable(order.join(u' ')),
-                 "cmbField1 cmbOperator1 txtValue1 cmbClose1 cmdAddRow txtCondition cmd_Filter cmd_Cancel");
+    EXPECT_EQ(walkedByTab(dialog, 8),
+              "cmbField1 cmbOperator1 txtValue1 cmbClose1 cmdAddRow txtCondition cmd_Filter cmd_Cancel");
 }
 
 TEST_F(FilterForm, AltF4LeavesNoCondition)
 {
     QTest::keyClicks(&value(), u"3"_s);
-    QCloseEvent fromTheWindowSystem; // what it arrives as
-    QCoreApplication::sendEvent(dialog.windowHandle(), &fromTheWindowSystem);
+    closeFromTheFrame(dialog);
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
     EXPECT_TRUE(dialog.strFilterCondition().isEmpty());

@@ -156,8 +156,7 @@ TEST_F(Find, EscAndCancelLeaveNoResult)
 TEST_F(Find, AltF4LeavesNoResult)
 {
     QTest::keyClicks(dialog.focusWidget(), u"a"_s);
-    QCloseEvent fromTheWindowSystem; // what it arrives as
-    QCoreApplication::sendEvent(dialog.windowHandle(), &fromTheWindowSystem);
+    closeFromTheFrame(dialog);
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
     EXPECT_TRUE(dialog.strFindText().isEmpty());
@@ -166,12 +165,7 @@ TEST_F(Find, AltF4LeavesNoResult)
 TEST_F(Find, MnemonicsAndTheTabKeyReachEveryPart)
 {
     QTest::keyClicks(dialog.focusWidget(), u"a"_s);
-    QStringList order;
-    for (int step = 0; step < 4; ++step) {
-        order.append(dialog.focusWidget()->objectName());
-        key(dialog, Qt::Key_Tab);
-    }
-    EXPECT_STREQ(qUtf8Printable(order.join(u' ')), "InputCombo1 FieldCombo1 FindBtn CancelBtn");
+    EXPECT_EQ(walkedByTab(dialog, 4), "InputCombo1 FieldCombo1 FindBtn CancelBtn");
     key(dialog, Qt::Key_N, Qt::AltModifier);
     EXPECT_EQ(dialog.focusWidget(), &field());
     key(dialog, Qt::Key_W, Qt::AltModifier);

@@ -140,8 +140,7 @@ TEST_F(ShowFields, ClosingTheWindowIsRefused)
     QSignalSpy finished(&dialog, &QDialog::finished);
     // What both the frame's close box and Alt+F4 arrive as.
     EXPECT_FALSE(dialog.close());
-    QCloseEvent fromTheWindowSystem;
-    QCoreApplication::sendEvent(dialog.windowHandle(), &fromTheWindowSystem);
+    closeFromTheFrame(dialog);
     key(dialog, Qt::Key_F4, Qt::AltModifier); // where it arrives as keys
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(finished.count(), 0);
@@ -163,13 +162,8 @@ TEST_F(ShowFields, FillingAgainListsOnlyWhatIsSearchedFor)
 TEST_F(ShowFields, TheKeyboardBeginsInTheListAndWalksOnFromTopToBottom)
 {
     fill({u"A"_s, u"B"_s}, {u"A"_s});
-    QStringList order;
-    for (int step = 0; step < 7; ++step) {
-        order.append(dialog.focusWidget()->objectName());
-        key(dialog, Qt::Key_Tab);
-    }
-    EXPECT_STREQ(qUtf8Printable(order.join(u' ')),
-                 "lvSelField cmdCheckAll cmdCheckNone cmdCheckInvert cmdOK cmdCancel txtSearchField");
+    EXPECT_EQ(walkedByTab(dialog, 7),
+              "lvSelField cmdCheckAll cmdCheckNone cmdCheckInvert cmdOK cmdCancel txtSearchField");
 }
 
 TEST_F(ShowFields, MnemonicsCheckAndSearch)

@@ -282,9 +282,7 @@ TEST_F(SortFields, ClosingTheWindowIsRefused)
     fill({u"A"_s}, {u"A"_s});
     QSignalSpy finished(&dialog, &QDialog::finished);
     EXPECT_FALSE(dialog.close());
-    // What both the frame's close box and Alt+F4 arrive as, and Alt+F4 where it arrives as keys.
-    QCloseEvent fromTheWindowSystem;
-    QCoreApplication::sendEvent(dialog.windowHandle(), &fromTheWindowSystem);
+    closeFromTheFrame(dialog);
     key(dialog, Qt::Key_F4, Qt::AltModifier);
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(finished.count(), 0);
@@ -332,12 +330,7 @@ TEST_F(SortFields, TheKeyboardWalksThroughItFromTopToBottom)
     fill({u"A"_s, u"B"_s}, {u"B"_s, u"C"_s});
     select(0);
     combo("cmbFields").setFocus();
-    QStringList order;
-    for (int step = 0; step < 8; ++step) {
-        order.append(dialog.focusWidget()->objectName());
-        key(dialog, Qt::Key_Tab);
-    }
-    EXPECT_STREQ(qUtf8Printable(order.join(u' ')),
-                 "cmbFields cmbOrder cmdAddField lvSortFields cmdDownField cmdDeleteField cmdOK "
-                 "cmdCancel");
+    EXPECT_EQ(walkedByTab(dialog, 8),
+              "cmbFields cmbOrder cmdAddField lvSortFields cmdDownField cmdDeleteField cmdOK "
+              "cmdCancel");
 }
