@@ -80,12 +80,12 @@ ConnectionBuilder::ConnectionBuilder(const Outside &outside, QWidget *parent)
     m_target->setFocus();
 }
 
-QLineEdit *ConnectionBuilder::addField(QFormLayout *form, const QString &label, const QString &name)
+QLineEdit *ConnectionBuilder::addField(const QString &label, const QString &name)
 {
     auto *field = new QLineEdit(this);
     field->setObjectName(name);
     field->setAccessibleName(withoutMnemonic(label));
-    form->addRow(label, field);
+    m_form->addRow(label, field);
     return field;
 }
 
@@ -108,16 +108,15 @@ void ConnectionBuilder::layOut()
     auto *fileLabel = new QLabel(ConnectionTexts::File, this);
     fileLabel->setBuddy(m_file);
     m_form->addRow(fileLabel, m_fileRow);
-    m_server = addField(m_form, ConnectionTexts::Server, u"txtServer"_s);
-    m_port = addField(m_form, ConnectionTexts::Port, u"txtPort"_s);
+    m_server = addField(ConnectionTexts::Server, u"txtServer"_s);
+    m_port = addField(ConnectionTexts::Port, u"txtPort"_s);
     m_port->setPlaceholderText(ConnectionTexts::PortHint);
-    m_database = addField(m_form, ConnectionTexts::Database, u"txtDatabase"_s);
-    m_user = addField(m_form, ConnectionTexts::User, u"txtUser"_s);
-    m_password = addField(m_form, ConnectionTexts::Password, u"txtPassword"_s);
+    m_database = addField(ConnectionTexts::Database, u"txtDatabase"_s);
+    m_user = addField(ConnectionTexts::User, u"txtUser"_s);
+    m_password = addField(ConnectionTexts::Password, u"txtPassword"_s);
     m_password->setEchoMode(QLineEdit::Password);
 
-    auto *resultForm = new QFormLayout;
-    m_result = addField(resultForm, ConnectionTexts::Result, u"txtResult"_s);
+    m_result = addField(ConnectionTexts::Result, u"txtResult"_s);
     m_result->setReadOnly(true);
     m_result->setToolTip(ConnectionTexts::ResultHint);
     m_tested->setObjectName(u"lblTest"_s);
@@ -143,9 +142,7 @@ void ConnectionBuilder::layOut()
 
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(m_form);
-    rows->addStretch();
-    rows->addLayout(resultForm);
-    rows->addWidget(m_tested);
+    rows->addWidget(m_tested, 1);
     rows->addLayout(buttons);
     resize(fontMetrics().averageCharWidth() * 80, sizeHint().height());
 }

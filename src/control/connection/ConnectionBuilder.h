@@ -39,7 +39,7 @@ public:
     QString connectionString() const;
 
 private:
-    QLineEdit *addField(QFormLayout *form, const QString &label, const QString &name);
+    QLineEdit *addField(const QString &label, const QString &name);
     void layOut();
     void offer(const ConnectionTarget &target, const QString &caption);
     const ConnectionTarget &target() const;
