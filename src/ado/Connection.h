@@ -33,6 +33,7 @@ public:
               qint32 options = adConnectUnspecified);
     // Throws 3704 when already closed.
     void Close();
+    // Closed also once a server is found to have gone away; it can be opened again then.
     ObjectStateEnum State() const;
 
     // The columns of a statement, found by preparing it; no row is fetched. Throws 3704 when closed, else as

@@ -14,6 +14,12 @@ namespace ADODB {
 class KOVA_EXPORT ConnectionString
 {
 public:
+    struct Part
+    {
+        QString keyword;
+        QString value;
+    };
+
     ConnectionString() = default;
     // Throws 3001 when the text is malformed, telling which part it is but never what it says.
     explicit ConnectionString(const QString &text);
@@ -23,16 +29,14 @@ public:
     void set(const QString &keyword, const QString &value);
     void remove(const QString &keyword);
 
+    // In the order of the text, each keyword once.
+    const std::vector<Part> &parts() const { return m_parts; }
+
     // One text again, with quotes where a value needs them.
     QString text() const;
     QString textWithoutPassword() const;
 
 private:
-    struct Part
-    {
-        QString keyword;
-        QString value;
-    };
     std::vector<Part> m_parts;
 };
 

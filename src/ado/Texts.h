@@ -30,6 +30,21 @@ KOVA_TEXT(fileUnreadable, "无法读取数据库文件：%1（%2）")
 KOVA_TEXT(notADatabase, "文件不是 SQLite 数据库，或者已加密：%1")
 KOVA_TEXT(badTimeout, "连接字符串中的 Connect Timeout 必须是不小于 0 的秒数。")
 
+// Database servers
+KOVA_TEXT(noDriver, "没有安装名为“%1”的 ODBC 驱动程序，已安装的有：%2。")
+KOVA_TEXT(noOdbcSource, "找不到名为“%1”的 ODBC 数据源，可用的数据源有：%2。")
+KOVA_TEXT(badSeconds, "连接字符串中的 %1 必须是不小于 0 的秒数。")
+KOVA_TEXT(noneInstalled, "（无）")
+KOVA_TEXT(cannotConnect, "无法连接数据库服务器：%1")
+KOVA_TEXT(connectTimedOut, "连接数据库服务器超时，请检查服务器地址和网络。（%1）")
+KOVA_TEXT(authenticationFailed, "数据库服务器拒绝登录，请检查用户名和密码。（%1）")
+KOVA_TEXT(connectionLost, "与数据库服务器的连接已断开，请在服务器恢复后重试。（%1）")
+KOVA_TEXT(timedOut, "数据库服务器没有在限定时间内完成操作。（%1）")
+KOVA_TEXT(secondsLimit, "限定为 %1 秒")
+KOVA_TEXT(permissionDenied, "没有执行此操作的数据库权限。（%1）")
+KOVA_TEXT(readOnlyQuery, "只能打开返回记录的查询语句；该语句会修改数据库，没有执行。（%1）")
+KOVA_TEXT(cancelledByServer, "数据库服务器中止了操作。（%1）")
+
 // Statements
 KOVA_TEXT(emptyStatement, "没有可执行的 SQL 语句。")
 KOVA_TEXT(secondStatement, "一次只能打开一条 SQL 语句，第一条语句之后还有其他内容；没有执行任何操作。")

@@ -3,6 +3,7 @@
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
 #include "ado/Texts.h"
+#include "ado/providers/odbc/OdbcProvider.h"
 #include "ado/providers/sqlite/SqliteProvider.h"
 
 #include <array>
@@ -18,8 +19,10 @@ Provider::~Provider() = default;
 
 std::shared_ptr<Session> openSession(const ConnectionString &connection)
 {
+    static const OdbcProvider odbc;
     static const SqliteProvider sqlite;
-    static const std::array<const Provider *, 1> providers{&sqlite};
+    // SQLite takes any data source that nobody before it does.
+    static const std::array<const Provider *, 2> providers{&odbc, &sqlite};
 
     QStringList names;
     for (const Provider *provider : providers) {
