@@ -57,7 +57,9 @@ struct LoadedParts : testing::Test
     KOVAVSFDataGridLib::PageView pages{parts, result};
     KOVAVSFDataGridLib::ConnectionFieldReader reader{result};
     PreparedChooser chooser;
-    KOVAVSFDataGridLib::clsFilterManagement filter{&reader, &chooser};
+    std::shared_ptr<KOVAVSFDataGridLib::clsFilterManagement> manager =
+        std::make_shared<KOVAVSFDataGridLib::clsFilterManagement>(&reader, &chooser);
+    KOVAVSFDataGridLib::clsFilterManagement &filter = *manager;
     QString statement;
     QString condition; // what the filter dialog gives
 };

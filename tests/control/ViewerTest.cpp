@@ -27,9 +27,9 @@ struct Viewer : LoadedParts
 {
     ViewerHost host()
     {
-        return {[this](const QString &sql) {
+        return {[this](const QString &sql, const std::function<bool(qint64)> &progress) {
                     ++openings;
-                    result.replaceBy(ResultSet::open(database.connectionString(), sql, dbAccess, {}));
+                    result.replaceBy(ResultSet::open(database.connectionString(), sql, dbAccess, progress));
                     return ViewerHost::Opened{result.connection(), result.recordset()};
                 },
                 [this](QWidget *) { return condition; }};
@@ -37,7 +37,7 @@ struct Viewer : LoadedParts
 
     void show(qint32 page = 1, bool isAll = true)
     {
-        viewer.PutFilterManager(filter);
+        viewer.PutFilterManager(manager);
         viewer.GetData(result.connection(), result.recordset(), page, database.connectionString(), statement,
                        true, {}, isAll, true, true, true);
         viewer.show();
@@ -302,7 +302,7 @@ TEST_F(Viewer, PagesThroughOneAndAHalfMillionRecords)
 TEST_F(Viewer, TakesTheButtonStatesThatItIsGiven)
 {
     load(u"select * from T"_s);
-    viewer.PutFilterManager(filter);
+    viewer.PutFilterManager(manager);
     viewer.GetData(result.connection(), result.recordset(), 1, database.connectionString(), statement, false,
                    {}, false, false, true, false);
     EXPECT_FALSE(user.toolbar().isButtonEnabled(u"Filter"_s));
