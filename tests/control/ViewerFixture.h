@@ -93,4 +93,25 @@ private:
     QWidget &m_viewer;
 };
 
+// The viewer alone, without a control around it.
+struct Viewer : LoadedParts
+{
+    void show(qint32 page = 1, bool isAll = true);
+    // The table is gone, so that no statement can be opened any more.
+    void breakDatabase() { database.run(QStringLiteral("ALTER TABLE T RENAME TO Away")); }
+
+    int openings = 0;
+    KOVAVSFDataGridLib::frm_FullScreen viewer{host()};
+    ViewerUser user{viewer};
+
+private:
+    KOVAVSFDataGridLib::ViewerHost host();
+};
+
+// Five records, two on a page.
+struct PagedViewer : Viewer
+{
+    PagedViewer();
+};
+
 } // namespace KovaTest
