@@ -2,6 +2,7 @@
 
 #include "control/KOVAVSFDataGridPrivate.h"
 #include "control/commands/FilterManagerRollback.h"
+#include "control/commands/RecordCommands.h"
 #include "query/SqlText.h"
 
 namespace KOVAVSFDataGridLib {
@@ -34,7 +35,8 @@ void showFields(ControlHub &hub, const QString &statement, KOVAVSFDataGrid::Show
 {
     ShownStatement &shown = hub.commands.statement;
     const QStringList fields = hub.columns().fieldsShownBy(GetShowAllFieldsFlag(model));
-    if (!statement.isEmpty() && !hub.columns().hasColumnsFor(fields) && !shown.OpenShowSQL(statement))
+    const bool needsOpening = !statement.isEmpty() && !hub.columns().hasColumnsFor(fields);
+    if (needsOpening && !(SaveRecord(hub) && shown.OpenShowSQL(statement)))
         return;
     rollback.keepChanges();
     shown.setCurrent(statement);
