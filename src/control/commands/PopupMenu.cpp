@@ -15,6 +15,7 @@ PopupMenu::PopupMenu(QWidget &control, const GridToolbar &toolbar)
     : m_toolbar(toolbar), m_menu(new QMenu(&control))
 {
     m_menu->setObjectName(u"PopMnuData"_s);
+    m_menu->setAccessibleName(GridTexts::MenuName);
     int index = 0;
     for (const GridTexts::PopupItem &item : GridTexts::PopupItems) {
         QAction *action = item.caption.isEmpty() ? m_menu->addSeparator() : m_menu->addAction(item.caption);

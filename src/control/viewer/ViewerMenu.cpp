@@ -1,5 +1,6 @@
 #include "control/viewer/ViewerMenu.h"
 
+#include "control/GridTexts.h"
 #include "control/GridToolbar.h"
 #include "control/viewer/ViewerTexts.h"
 
@@ -19,6 +20,7 @@ QString actionName(int index)
 ViewerMenu::ViewerMenu(QWidget *parent) : QMenu(parent)
 {
     setObjectName(u"PopMnu"_s);
+    setAccessibleName(GridTexts::MenuName);
     const auto add = [this](QAction *action, int index) {
         action->setObjectName(actionName(index));
         action->setData(index);
