@@ -52,6 +52,14 @@ TEST_F(Viewer, TheMenuFollowsTheButtonsAndTheCell)
     EXPECT_TRUE(user.menuItem(7)->isEnabled());
 }
 
+TEST_F(Viewer, TheMenuTellsTheShortcutsOfItsButtons)
+{
+    EXPECT_TRUE(user.menuItem(1)->text().endsWith(u"\tCtrl+1"_s)) << qPrintable(user.menuItem(1)->text());
+    EXPECT_TRUE(user.menuItem(5)->text().endsWith(u"\tCtrl+0"_s));
+    EXPECT_FALSE(user.menuItem(4)->text().contains(u'\t')) << "it is not what the filter button does";
+    EXPECT_FALSE(user.menuItem(1)->icon().isNull());
+}
+
 TEST_F(Viewer, TheMenuKeyOffersTheMenuAtTheCurrentCell)
 {
     load(u"select * from T"_s);

@@ -1,8 +1,8 @@
 #include "control/commands/PopupMenu.h"
 
+#include "control/ButtonItem.h"
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
-#include "control/ToolbarIcons.h"
 
 #include <QtGui/QAction>
 #include <QtWidgets/QMenu>
@@ -23,10 +23,7 @@ PopupMenu::PopupMenu(QWidget &control, const GridToolbar &toolbar)
         action->setData(index);
         action->setProperty("key", item.key);
         if (!item.key.isEmpty()) {
-            // The button owns the shortcut; here it is only told.
-            action->setIcon(toolbarIcon(item.key));
-            const QKeySequence shortcut(GridTexts::buttonOf(item.key).shortcut);
-            action->setText(item.caption + u'\t' + shortcut.toString(QKeySequence::NativeText));
+            dressAsButton(*action, item.key);
         } else if (!item.shortcut.isEmpty()) {
             action->setShortcut(QKeySequence(item.shortcut));
             action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
