@@ -17,8 +17,8 @@ public:
     // One `Keyword=value`.
     struct Part
     {
-        QString keyword;
-        QString value;
+        QString keyword; // as it is written, in any letter case
+        QString value;   // without quotes
     };
 
     // Without any keyword.

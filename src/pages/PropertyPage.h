@@ -30,6 +30,7 @@ public:
     // Without one the page writes with QObject::setProperty.
     void SetWriter(Writer writer);
 
+    // See the property.
     bool Changed() const { return m_isChanged; }
     void PutChanged(bool on);
 
@@ -40,6 +41,7 @@ public:
     Q_INVOKABLE bool ApplyChanges();
 
 Q_SIGNALS:
+    // Changed has another value now.
     void ChangedChanged(bool isChanged);
 
 protected:
@@ -47,7 +49,9 @@ protected:
     PropertyPage(const QString &property, const QString &textBox, const QString &label, const QString &hint,
                  QWidget *parent);
 
+    // The first of the selected controls; null without one, or once it is destroyed.
     QObject *control() const { return m_control; }
+    // The text box.
     QLineEdit &text() const { return *m_text; }
     // For what a page has besides its text box.
     QVBoxLayout &rows() const { return *m_rows; }

@@ -11,6 +11,7 @@ class KOVA_EXPORT RecordSource final : public PropertyPage
     Q_OBJECT
 
 public:
+    // Empty until controls are selected.
     explicit RecordSource(QWidget *parent = nullptr);
 };
 

@@ -10,6 +10,7 @@ class KOVA_EXPORT SQLShow final : public PropertyPage
     Q_OBJECT
 
 public:
+    // Empty until controls are selected.
     explicit SQLShow(QWidget *parent = nullptr);
 };
 
