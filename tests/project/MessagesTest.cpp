@@ -15,15 +15,15 @@ QString contentOf(const QString &path)
     return QString::fromUtf8(file.readAll());
 }
 
-// A hint is there before anything happens; a message ends a sentence, or goes on with a reason.
+// Hints and captions are there before anything happens; a message ends a sentence, or goes on with a reason.
 bool isMessage(const QString &name, const QString &text)
 {
     static const QStringList withoutFullStop{u"InsertCancelled"_s, u"AtLeastOneField"_s,
                                              u"CantReadAtRunTime"_s, u"CantSetAtRunTime"_s};
     static const QRegularExpression sentence(u"([。！!？?.](（%\\d）)?|：(%\\d(（%\\d）)?)?)\\s*$"_s);
-    static const QRegularExpression partOfAnother(u"^（|Hint$|Tip$"_s);
-    return withoutFullStop.contains(name) || (sentence.match(text).hasMatch() &&
-                                              !name.contains(partOfAnother) && !text.contains(partOfAnother));
+    static const QRegularExpression noMessage(u"^（|Hint$|Tip$|^DataSource$|^Driver$"_s);
+    return withoutFullStop.contains(name) ||
+           (sentence.match(text).hasMatch() && !name.contains(noMessage) && !text.contains(noMessage));
 }
 
 // The texts of a table `…Texts.h`, by name, in each of the forms that the tables have.
