@@ -17,8 +17,8 @@ public:
     // One `Keyword=value`.
     struct Part
     {
-        QString keyword; // as it is written, in any letter case
-        QString value;   // without quotes
+        QString keyword; // as written
+        QString value;   // without its quotes
     };
 
     // Without any keyword.

@@ -18,7 +18,7 @@ public:
     // when that was cancelled.
     using Builder = std::function<std::optional<QString>(QWidget *parent, const QString &present)>;
 
-    // Empty until controls are selected.
+    // Shows nothing until a control is selected.
     explicit ConnectionString(QWidget *parent = nullptr);
 
     // Without one, cmd_link is disabled.

@@ -17,7 +17,7 @@ namespace KOVAVSFDataGridLib {
 class KOVA_EXPORT PropertyPage : public QWidget
 {
     Q_OBJECT
-    // True from the first change of the text until it was applied or another control was selected.
+    // See Changed().
     Q_PROPERTY(bool Changed READ Changed WRITE PutChanged NOTIFY ChangedChanged)
 
 public:
@@ -30,7 +30,7 @@ public:
     // Without one the page writes with QObject::setProperty.
     void SetWriter(Writer writer);
 
-    // See the property.
+    // True from the first change of the text until it was applied or another control was selected.
     bool Changed() const { return m_isChanged; }
     void PutChanged(bool on);
 
@@ -41,7 +41,7 @@ public:
     Q_INVOKABLE bool ApplyChanges();
 
 Q_SIGNALS:
-    // Changed has another value now.
+    // Changed() is another value now.
     void ChangedChanged(bool isChanged);
 
 protected:
@@ -49,9 +49,9 @@ protected:
     PropertyPage(const QString &property, const QString &textBox, const QString &label, const QString &hint,
                  QWidget *parent);
 
-    // The first of the selected controls; null without one, or once it is destroyed.
+    // The control that is shown and written; null without one.
     QObject *control() const { return m_control; }
-    // The text box.
+    // The page's text box.
     QLineEdit &text() const { return *m_text; }
     // For what a page has besides its text box.
     QVBoxLayout &rows() const { return *m_rows; }

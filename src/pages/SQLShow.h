@@ -10,7 +10,7 @@ class KOVA_EXPORT SQLShow final : public PropertyPage
     Q_OBJECT
 
 public:
-    // Empty until controls are selected.
+    // Shows nothing until a control is selected.
     explicit SQLShow(QWidget *parent = nullptr);
 };
 
