@@ -28,7 +28,8 @@ std::shared_ptr<ADODB::Connection> openAccess(const QString &path)
     return connection;
 }
 
-std::shared_ptr<ADODB::Recordset> query(const std::shared_ptr<ADODB::Connection> &connection, const QString &sql)
+std::shared_ptr<ADODB::Recordset> query(const std::shared_ptr<ADODB::Connection> &connection,
+                                        const QString &sql)
 {
     auto recordset = std::make_shared<ADODB::Recordset>();
     recordset->Open(sql, connection, ADODB::adOpenKeyset, ADODB::adLockOptimistic, ADODB::adCmdText);

@@ -34,7 +34,6 @@ struct AccessColumn
     int declaredSize = 0; // the same, but of a text in characters
     int precision = 0;
     int scale = 0;
-    bool isRequired = false;
     bool isAutoNumber = false;
     bool isKey = false;
 

@@ -26,7 +26,8 @@ struct Words
     QStringView access;
     QLatin1StringView sqlite;
 };
-constexpr std::array constants{Words{u"TRUE", "-1"_L1}, Words{u"FALSE", "0"_L1}};
+constexpr std::array constants{Words{u"TRUE", "-1"_L1}, Words{u"YES", "-1"_L1}, Words{u"FALSE", "0"_L1},
+                               Words{u"NO", "0"_L1}};
 // What are words of SQLite's grammar are functions only in quotes.
 constexpr std::array functions{Words{u"LEFT", "\"Left\""_L1}, Words{u"RIGHT", "\"Right\""_L1},
                                Words{u"ISNULL", "\"IsNull\""_L1}};

@@ -3,11 +3,13 @@
 #include "ado/Error.h"
 #include "ado/Texts.h"
 #include "ado/providers/DatabaseFile.h"
+#include "ado/providers/access/AccessNamedReader.h"
 
 #include <QtCore/QFile>
 
 #include <mdbtools.h>
 
+#include <algorithm>
 #include <cstring>
 
 using namespace Qt::Literals::StringLiterals;
@@ -16,8 +18,8 @@ namespace ADODB {
 
 namespace {
 
-constexpr quint8 dataPage = 1;
-constexpr quint8 definitionPage = 2;
+constexpr quint8 definitionPageKind = 2;
+constexpr quint32 objectsPage = 2; // the table of all objects, itself among them
 constexpr int jet3PageSize = 2048;
 constexpr int jet4PageSize = 4096;
 constexpr quint8 newestVersion = MDB_VER_ACCDB_2019;
@@ -55,9 +57,9 @@ AccessColumn columnOf(const MdbColumn &column, bool isJet3)
     result.declaredSize = result.type == AccessType::Text && !isJet3 ? column.col_size / 2 : column.col_size;
     result.precision = column.col_prec;
     result.scale = column.col_scale;
-    const char *required = mdb_col_get_prop(&column, "Required");
-    result.isAutoNumber = column.is_long_auto || column.is_uuid_auto;
-    result.isRequired = result.isAutoNumber || (required && *required == 'y');
+    // In older files both marks mean something else for columns of other types.
+    result.isAutoNumber = (result.type == AccessType::LongInteger && column.is_long_auto) ||
+                          (result.type == AccessType::Guid && column.is_uuid_auto);
     result.number = column.col_num;
     result.isFixed = column.is_fixed != 0;
     result.fixedOffset = column.fixed_offset;
@@ -117,13 +119,16 @@ AccessFile::AccessFile(const QString &path) : m_handle(std::make_unique<Handle>(
     if (!m_handle->mdb)
         throw Error(adErrOpeningFile, Texts::accessDamaged().arg(file.shown));
     try {
-        readTables();
+        m_objects = readObjects();
     } catch (const Error &) {
-        m_tables.clear();
-    }
-    // Every file has its list of objects, itself among them.
-    if (m_systemTables.empty())
         throw Error(adErrOpeningFile, Texts::accessDamaged().arg(file.shown));
+    }
+    for (const AccessObject &object : m_objects) {
+        if (object.type != AccessObject::Table || object.isSystem)
+            continue;
+        if (auto table = readTable(object.name, object.definitionPage()))
+            m_tables.push_back(std::move(*table));
+    }
 }
 
 AccessFile::~AccessFile() = default;
@@ -133,36 +138,60 @@ bool AccessFile::isJet3() const
     return IS_JET3(m_handle->mdb);
 }
 
-void AccessFile::readTables()
+std::vector<AccessObject> AccessFile::readObjects() const
 {
-    MdbHandle *const mdb = m_handle->mdb.get();
-    const GPtrArray *catalog = mdb_read_catalog(mdb, MDB_TABLE);
-    for (guint i = 0; catalog && i < catalog->len; ++i) {
-        auto *const entry = static_cast<MdbCatalogEntry *>(g_ptr_array_index(catalog, i));
-        const QByteArrayView name(entry->object_name);
-        const bool isSystem = name == "MSysObjects" || name == "MSysQueries";
-        if (!isSystem && !mdb_is_user_table(entry))
-            continue;
-        try {
-            AccessPage page;
-            readPage(static_cast<quint32>(entry->table_pg), page);
-            if (AccessBytes::number<quint8>(page.bytes(), 0) != definitionPage)
-                continue;
-            const std::unique_ptr<MdbTableDef, Freer> definition(mdb_read_table(entry));
-            if (definition)
-                (isSystem ? m_systemTables : m_tables).push_back(readTable(*definition));
-        } catch (const Error &) {
-            // The other tables are still worth reading.
-        }
+    constexpr qint64 systemFlags = 0x80000002;
+    const auto table = readTable(u"MSysObjects"_s, objectsPage);
+    if (!table)
+        AccessBytes::throwDamaged("the list of tables is missing");
+    std::vector<AccessObject> objects;
+    AccessNamedReader reader(*this, *table);
+    while (reader.next()) {
+        AccessObject object;
+        object.id = reader.integer("Id"_L1);
+        object.type = reader.integer("Type"_L1);
+        object.isSystem = (reader.integer("Flags"_L1) & systemFlags) != 0;
+        object.name = reader.text("Name"_L1);
+        objects.push_back(std::move(object));
+    }
+    return objects;
+}
+
+std::optional<AccessTable> AccessFile::systemTable(QLatin1StringView name) const
+{
+    const auto object = std::find_if(m_objects.begin(), m_objects.end(), [&](const AccessObject &candidate) {
+        return candidate.type == AccessObject::Table && candidate.name == name;
+    });
+    return object == m_objects.end() ? std::nullopt : readTable(object->name, object->definitionPage());
+}
+
+// libmdb complains on standard error about what it does not like, so the page is looked at first.
+std::optional<AccessTable> AccessFile::readTable(const QString &name, quint32 definitionPage) const
+{
+    try {
+        AccessPage page;
+        readPage(definitionPage, page);
+        if (AccessBytes::number<quint8>(page.bytes(), 0) != definitionPageKind)
+            return {};
+        MdbCatalogEntry entry{};
+        entry.mdb = m_handle->mdb.get();
+        entry.table_pg = definitionPage;
+        const std::unique_ptr<MdbTableDef, Freer> definition(mdb_read_table(&entry));
+        if (!definition)
+            return {};
+        AccessTable table = described(*definition);
+        table.name = name;
+        table.definitionPage = definitionPage;
+        return table;
+    } catch (const Error &) {
+        return {};
     }
 }
 
-AccessTable AccessFile::readTable(MdbTableDef &definition) const
+AccessTable AccessFile::described(MdbTableDef &definition) const
 {
     AccessTable table;
-    table.name = QString::fromUtf8(definition.name);
     table.rows = definition.num_rows;
-    table.definitionPage = static_cast<quint32>(definition.entry->table_pg);
     table.hasVariableColumns = definition.num_var_cols > 0;
     const GPtrArray *columns = mdb_read_columns(&definition);
     if (!columns || columns->len == 0)
@@ -170,7 +199,8 @@ AccessTable AccessFile::readTable(MdbTableDef &definition) const
     for (guint i = 0; i < columns->len; ++i)
         table.columns.push_back(
             columnOf(*static_cast<const MdbColumn *>(g_ptr_array_index(columns, i)), isJet3()));
-    markKey(mdb_read_indices(&definition), table.columns);
+    mdb_read_indices(&definition);
+    markKey(definition.indices, table.columns);
     const void *map = definition.usage_map;
     table.pages = rowPages({static_cast<const char *>(map), static_cast<qsizetype>(definition.map_sz)});
     return table;

@@ -4,15 +4,32 @@
 #include "ado/providers/access/AccessPage.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QString>
 
 #include <memory>
+#include <optional>
+#include <vector>
 
 struct S_MdbTableDef;
 
 namespace ADODB {
 
-// An Access database file, open for reading. Its definitions are read by libmdb when it is opened; rows are
-// read page by page when they are asked for. Throws Error.
+// What the file lists: its tables, queries, forms and so on.
+struct AccessObject
+{
+    enum Type : qint64 { Table = 1, Query = 5 };
+
+    qint64 id = 0;
+    qint64 type = 0;
+    bool isSystem = false; // a table of Access's own
+    QString name;
+
+    // Of a table.
+    quint32 definitionPage() const { return static_cast<quint32>(id & 0xffffff); }
+};
+
+// An Access database file, open for reading. libmdb reads the pages and the definitions of tables,
+// which it does when the file is opened; rows are read page by page when they are asked for. Throws Error.
 class AccessFile
 {
 public:
@@ -21,9 +38,11 @@ public:
     ~AccessFile();
     Q_DISABLE_COPY_MOVE(AccessFile)
 
-    // A table whose definition can't be read is left out.
+    const std::vector<AccessObject> &objects() const { return m_objects; }
+    // The users' tables. One whose definition can't be read is left out.
     const std::vector<AccessTable> &tables() const { return m_tables; }
-    const std::vector<AccessTable> &systemTables() const { return m_systemTables; }
+    // Nothing when there is no such table or it can't be read.
+    std::optional<AccessTable> systemTable(QLatin1StringView name) const;
 
     // Whether it is in the format up to Access 97.
     bool isJet3() const;
@@ -36,13 +55,14 @@ public:
 private:
     struct Handle;
 
-    void readTables();
-    AccessTable readTable(S_MdbTableDef &definition) const;
+    std::vector<AccessObject> readObjects() const;
+    std::optional<AccessTable> readTable(const QString &name, quint32 definitionPage) const;
+    AccessTable described(S_MdbTableDef &definition) const;
     std::vector<quint32> rowPages(QByteArrayView usageMap) const;
 
     std::unique_ptr<Handle> m_handle;
+    std::vector<AccessObject> m_objects;
     std::vector<AccessTable> m_tables;
-    std::vector<AccessTable> m_systemTables;
 };
 
 } // namespace ADODB

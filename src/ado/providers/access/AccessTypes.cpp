@@ -53,12 +53,16 @@ const Type &typeOf(AccessType type)
     return found == std::end(types) ? unknown : *found;
 }
 
-// The longest one that fits, because TEXT also ends other names.
+// The longest one that fits, because LONG also begins another name.
 const Type &typeOf(const QString &declaration)
 {
-    const auto *found = std::find_if(std::begin(types), std::end(types),
-                                     [&](const Type &t) { return declaration.startsWith(t.name); });
-    return found == std::end(types) ? unknown : *found;
+    const Type *longest = &unknown;
+    for (const Type &type : types) {
+        const bool isLonger = longest == &unknown || type.name.size() > longest->name.size();
+        if (declaration.startsWith(type.name) && isLonger)
+            longest = &type;
+    }
+    return *longest;
 }
 
 } // namespace
@@ -97,7 +101,7 @@ QString declaration(const AccessColumn &column)
         text += u"(%1,%2)"_s.arg(column.precision).arg(column.scale);
     else if (type.bytes == 0 && column.declaredSize > 0)
         text += u"(%1)"_s.arg(column.declaredSize);
-    if (column.isRequired)
+    if (column.isAutoNumber || column.isKey)
         text += " NOT NULL"_L1;
     return text + " COLLATE "_L1 + QLatin1StringView(collation(column.type));
 }
