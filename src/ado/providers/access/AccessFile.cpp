@@ -169,9 +169,7 @@ std::optional<AccessTable> AccessFile::systemTable(QLatin1StringView name) const
 std::optional<AccessTable> AccessFile::readTable(const QString &name, quint32 definitionPage) const
 {
     try {
-        AccessPage page;
-        readPage(definitionPage, page);
-        if (AccessBytes::number<quint8>(page.bytes(), 0) != definitionPageKind)
+        if (AccessBytes::number<quint8>(page(definitionPage)->bytes(), 0) != definitionPageKind)
             return {};
         MdbCatalogEntry entry{};
         entry.mdb = m_handle->mdb.get();
@@ -222,14 +220,11 @@ std::vector<quint32> AccessFile::rowPages(QByteArrayView usageMap) const
         addBits(AccessBytes::part(usageMap, 5, usageMap.size() - 5),
                 AccessBytes::number<quint32>(usageMap, 1));
     } else if (kind == 1) {
-        AccessPage page;
         qint64 first = 0;
         for (qsizetype at = 1; at + 4 <= usageMap.size() && first <= last; at += 4) {
             const auto bitsPage = AccessBytes::number<quint32>(usageMap, at);
-            if (bitsPage != 0) {
-                readPage(bitsPage, page);
-                addBits(page.bytes().sliced(4), first);
-            }
+            if (bitsPage != 0)
+                addBits(page(bitsPage)->bytes().sliced(4), first);
             first += (m_handle->mdb->fmt->pg_size - 4) * 8;
         }
     } else {
@@ -238,16 +233,22 @@ std::vector<quint32> AccessFile::rowPages(QByteArrayView usageMap) const
     return pages;
 }
 
-void AccessFile::readPage(quint32 number, AccessPage &page) const
+std::shared_ptr<const AccessPage> AccessFile::page(quint32 number) const
 {
+    std::shared_ptr<const AccessPage> &cached = m_cache[number % CachedPages];
+    if (cached && cached->number == number)
+        return cached;
     MdbHandle *const mdb = m_handle->mdb.get();
-    page.number = 0;
-    page.size = static_cast<int>(mdb->fmt->pg_size);
-    page.rowCountOffset = mdb->fmt->row_count_offset;
-    if (number == 0 || number >= m_handle->size / page.size || mdb_read_pg(mdb, number) != page.size)
+    const auto size = mdb->fmt->pg_size;
+    if (number == 0 || number >= m_handle->size / size || mdb_read_pg(mdb, number) != size)
         AccessBytes::throwDamaged("a page is missing");
-    std::memcpy(page.buffer.data(), mdb->pg_buf, static_cast<std::size_t>(page.size));
-    page.number = number;
+    auto page = std::make_shared<AccessPage>();
+    page->number = number;
+    page->size = static_cast<int>(size);
+    page->rowCountOffset = mdb->fmt->row_count_offset;
+    std::memcpy(page->buffer.data(), mdb->pg_buf, static_cast<std::size_t>(size));
+    cached = std::move(page);
+    return cached;
 }
 
 QByteArray AccessFile::longValue(QByteArrayView field) const
@@ -264,12 +265,11 @@ QByteArray AccessFile::longValue(QByteArrayView field) const
         return AccessBytes::part(field, headSize, std::min(size, field.size() - headSize)).toByteArray();
 
     QByteArray value;
-    AccessPage page;
     auto next = AccessBytes::number<quint32>(field, 4);
     while (value.size() < size) {
         const AccessAddress address(next);
-        readPage(address.page, page);
-        QByteArrayView piece = page.row(address.row).bytes;
+        const auto holder = page(address.page);
+        QByteArrayView piece = holder->row(address.row).bytes;
         if (!(head & isOnePiece)) {
             next = AccessBytes::number<quint32>(piece, 0);
             piece = piece.sliced(4);

@@ -46,7 +46,7 @@ public:
 
     // Whether it is in the format up to Access 97.
     bool isJet3() const;
-    void readPage(quint32 number, AccessPage &page) const;
+    std::shared_ptr<const AccessPage> page(quint32 number) const;
     // All bytes of a Memo or OLE object, whose field in the row is given.
     QByteArray longValue(QByteArrayView field) const;
     // The UTF-8 of a text's bytes.
@@ -55,12 +55,16 @@ public:
 private:
     struct Handle;
 
+    // Joins come back to the same pages again and again.
+    static constexpr quint32 CachedPages = 512;
+
     std::vector<AccessObject> readObjects() const;
     std::optional<AccessTable> readTable(const QString &name, quint32 definitionPage) const;
     AccessTable described(S_MdbTableDef &definition) const;
     std::vector<quint32> rowPages(QByteArrayView usageMap) const;
 
     std::unique_ptr<Handle> m_handle;
+    mutable std::vector<std::shared_ptr<const AccessPage>> m_cache{CachedPages}; // by number % CachedPages
     std::vector<AccessObject> m_objects;
     std::vector<AccessTable> m_tables;
 };

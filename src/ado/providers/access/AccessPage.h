@@ -41,7 +41,7 @@ public:
         bool isElsewhere; // the bytes say where: see AccessAddress
     };
 
-    quint32 number = 0; // 0 until it is read; page 0 is the head of the file and has no rows
+    quint32 number = 0; // in the file, whose page 0 is its head and has no rows
     int size = 0;
     int rowCountOffset = 0;
     std::array<char, LargestSize> buffer{};

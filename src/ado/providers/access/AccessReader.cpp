@@ -17,8 +17,8 @@ void AccessReader::rewind()
 bool AccessReader::isDataPage() const
 {
     constexpr quint8 dataPage = 1;
-    return AccessBytes::number<quint8>(m_page.bytes(), 0) == dataPage &&
-           AccessBytes::number<quint32>(m_page.bytes(), 4) == m_table.definitionPage;
+    return AccessBytes::number<quint8>(m_page->bytes(), 0) == dataPage &&
+           AccessBytes::number<quint32>(m_page->bytes(), 4) == m_table.definitionPage;
 }
 
 bool AccessReader::next()
@@ -27,11 +27,11 @@ bool AccessReader::next()
         while (m_nextRow == m_rows) {
             if (m_nextPage == m_table.pages.size())
                 return false;
-            m_file.readPage(m_table.pages[m_nextPage++], m_page);
-            m_rows = isDataPage() ? m_page.rows() : 0;
+            m_page = m_file.page(m_table.pages[m_nextPage++]);
+            m_rows = isDataPage() ? m_page->rows() : 0;
             m_nextRow = 0;
         }
-        const AccessPage::Row row = m_page.row(m_nextRow++);
+        const AccessPage::Row row = m_page->row(m_nextRow++);
         if (!row.isDeleted) {
             take(row);
             return true;
@@ -41,16 +41,16 @@ bool AccessReader::next()
 
 qint64 AccessReader::position() const
 {
-    return qint64{m_page.number} * AccessPage::MostRows + m_nextRow - 1;
+    return qint64{m_page->number} * AccessPage::MostRows + m_nextRow - 1;
 }
 
 void AccessReader::seek(qint64 position)
 {
     const auto page = static_cast<quint32>(position / AccessPage::MostRows);
-    if (page != m_page.number)
-        m_file.readPage(page, m_page);
+    if (!m_page || page != m_page->number)
+        m_page = m_file.page(page);
     m_nextRow = static_cast<int>(position % AccessPage::MostRows) + 1;
-    take(m_page.row(m_nextRow - 1));
+    take(m_page->row(m_nextRow - 1));
 }
 
 void AccessReader::take(const AccessPage::Row &row)
@@ -58,8 +58,8 @@ void AccessReader::take(const AccessPage::Row &row)
     QByteArrayView bytes = row.bytes;
     if (row.isElsewhere) {
         const AccessAddress address(AccessBytes::number<quint32>(bytes, 0));
-        m_file.readPage(address.page, m_elsewhere);
-        bytes = m_elsewhere.row(address.row).bytes;
+        m_elsewhere = m_file.page(address.page);
+        bytes = m_elsewhere->row(address.row).bytes;
     }
     m_row = AccessRow(bytes, m_table.hasVariableColumns, m_file.isJet3());
 }

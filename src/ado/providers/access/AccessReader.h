@@ -35,8 +35,8 @@ private:
     std::size_t m_nextPage = 0;
     int m_nextRow = 0;
     int m_rows = 0; // of the page
-    AccessPage m_page;
-    AccessPage m_elsewhere; // holds the row when it did not fit into its page any more
+    std::shared_ptr<const AccessPage> m_page;
+    std::shared_ptr<const AccessPage> m_elsewhere; // holds the row when it did not fit into its page any more
     AccessRow m_row;
     QByteArray m_bytes;
 };
