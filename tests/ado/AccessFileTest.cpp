@@ -48,8 +48,7 @@ void readAll(const QString &path, int &refused)
         const QString names = cells(connection, u"SELECT name FROM sqlite_master"_s);
         for (const QString &name : names.split(u'\n', Qt::SkipEmptyParts)) {
             try {
-                cells(connection,
-                      u"SELECT * FROM \""_s + QString(name).replace(u'"', u"\"\""_s) + u"\" LIMIT 5000"_s);
+                query(connection, u"SELECT * FROM \""_s + QString(name).replace(u'"', u"\"\""_s) + u'"');
             } catch (const Error &error) {
                 ++refused;
                 EXPECT_FALSE(error.Description().isEmpty());
@@ -124,14 +123,14 @@ TEST_P(DamagedAccessFileTest, CutOffFilesAreRefused)
     }
     // At the end of a page nothing tells at once that more is missing.
     int refused = 0;
-    for (qsizetype size = 4096; size < whole.size(); size += (whole.size() / 40 / 4096 + 1) * 4096)
+    for (qsizetype size = 4096; size < whole.size(); size += (whole.size() / 12 / 4096 + 1) * 4096)
         readAll(write(whole.first(size), u"cut.mdb"_s), refused);
     EXPECT_GT(refused, 0);
 }
 
 TEST_P(DamagedAccessFileTest, WrongBytesDoNoHarm)
 {
-    const int rounds = qEnvironmentVariable("KOVA_DAMAGE_ROUNDS", u"60"_s).toInt();
+    const int rounds = qEnvironmentVariable("KOVA_DAMAGE_ROUNDS", u"40"_s).toInt();
     QRandomGenerator random(qEnvironmentVariable("KOVA_DAMAGE_SEED", u"1"_s).toUInt());
     int refused = 0;
     for (int round = 0; round < rounds; ++round) {
