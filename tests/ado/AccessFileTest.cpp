@@ -65,9 +65,9 @@ class DamagedAccessFileTest : public AccessFileTest, public testing::WithParamIn
 protected:
     void SetUp() override
     {
-        const QString path = accessSample(QLatin1StringView(GetParam()));
+        const QString path = KovaTest::sampleFile(QLatin1StringView(GetParam()));
         if (path.isEmpty())
-            GTEST_SKIP() << GetParam() << " is not here; see accessSample()";
+            GTEST_SKIP() << GetParam() << " is not here; see sampleFile()";
         whole = contents(path);
     }
 

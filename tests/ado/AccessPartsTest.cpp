@@ -48,9 +48,9 @@ class AccessValueTest : public testing::Test
 protected:
     void SetUp() override
     {
-        const QString path = accessSample(u"sample.accdb"_s);
+        const QString path = KovaTest::sampleFile(u"sample.accdb"_s);
         if (path.isEmpty())
-            GTEST_SKIP() << "sample.accdb is not here; see accessSample()";
+            GTEST_SKIP() << "sample.accdb is not here; see sampleFile()";
         file = std::make_unique<AccessFile>(path);
     }
 

@@ -1,25 +1,10 @@
 #include "AccessSamples.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QFileInfo>
 #include <QtCore/QStringList>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace AdoTest {
-
-QString accessSample(const QString &name)
-{
-    if (const QString folder = qEnvironmentVariable("KOVA_TEST_DATA"); !folder.isEmpty())
-        return QFileInfo::exists(folder + u'/' + name) ? folder + u'/' + name : QString();
-    QDir folder(QStringLiteral(KOVA_SOURCE_DIR));
-    do {
-        const QString path = folder.filePath(u"shared/data/"_s + name);
-        if (QFileInfo::exists(path))
-            return path;
-    } while (folder.cdUp());
-    return {};
-}
 
 std::shared_ptr<ADODB::Connection> openAccess(const QString &path)
 {

@@ -59,7 +59,7 @@ class AccessSamplesTest : public testing::TestWithParam<const char *>
 
 TEST_P(AccessSamplesTest, EveryTableReadsAsMdbExportPrintsIt)
 {
-    const QString path = accessSample(QLatin1StringView(GetParam()));
+    const QString path = KovaTest::sampleFile(QLatin1StringView(GetParam()));
     if (path.isEmpty() || QStandardPaths::findExecutable(u"mdb-export"_s).isEmpty())
         GTEST_SKIP() << GetParam() << " or mdb-export is not here";
     const auto connection = openAccess(path);

@@ -16,9 +16,9 @@ class AccessTest : public testing::Test
 protected:
     void SetUp() override
     {
-        const QString path = accessSample(u"nwind.mdb"_s);
+        const QString path = KovaTest::sampleFile(u"nwind.mdb"_s);
         if (path.isEmpty())
-            GTEST_SKIP() << "nwind.mdb is not here; see accessSample()";
+            GTEST_SKIP() << "nwind.mdb is not here; see sampleFile()";
         connection = openAccess(path);
     }
 
