@@ -28,6 +28,9 @@ KOVA_TEXT(fileMissing, "找不到数据库文件：%1")
 KOVA_TEXT(fileIsFolder, "这是文件夹，不是数据库文件：%1")
 KOVA_TEXT(fileUnreadable, "无法读取数据库文件：%1（%2）")
 KOVA_TEXT(notADatabase, "文件不是 SQLite 数据库，或者已加密：%1")
+KOVA_TEXT(notAnAccessFile, "文件不是 Access 数据库：%1")
+KOVA_TEXT(accessTooNew, "该 Access 数据库的版本太新，无法读取：%1")
+KOVA_TEXT(accessDamaged, "Access 数据库已损坏、不完整或者已加密，无法读取：%1")
 KOVA_TEXT(badTimeout, "连接字符串中的 Connect Timeout 必须是不小于 0 的秒数。")
 
 // Database servers
@@ -78,6 +81,7 @@ KOVA_TEXT(notAConnection, "打开记录集需要一个连接对象。")
 
 // Writing back
 KOVA_TEXT(openedReadOnly, "记录集以只读方式打开，不能修改。")
+KOVA_TEXT(accessReadOnly, "Access 数据库在此系统上只能读取，不能修改或删除记录。")
 KOVA_TEXT(readOnlyNoTable, "查询结果不是直接来自数据库表，不能修改。")
 KOVA_TEXT(readOnlyJoin, "查询结果来自多个表的连接或子查询，不能修改。")
 KOVA_TEXT(readOnlyView, "查询结果来自视图“%1”，不能修改。")
