@@ -45,23 +45,19 @@ SQLLEN widthOf(const OdbcColumn &column)
     return layout.cType == SQL_C_WCHAR ? (units + 1) * layout.terminator : units;
 }
 
-bool canAskAgain(const OdbcHandle &statement)
-{
-    constexpr SQLUINTEGER needed = SQL_GD_BLOCK | SQL_GD_BOUND | SQL_GD_ANY_COLUMN | SQL_GD_ANY_ORDER;
-    return (statement.connection()->number(SQL_GETDATA_EXTENSIONS) & needed) == needed;
-}
-
 } // namespace
 
 OdbcReader::~OdbcReader() = default;
 
-OdbcBlockReader::OdbcBlockReader(const OdbcHandle &statement, const std::vector<OdbcColumn> &columns)
-    : m_statement(statement), m_canAskAgain(canAskAgain(statement))
+OdbcBlockReader::OdbcBlockReader(const OdbcHandle &statement, const std::vector<OdbcColumn> &columns,
+                                 bool canAskAgain)
+    : m_statement(statement), m_canAskAgain(canAskAgain)
 {
     SQLLEN rowBytes = 0;
     for (const OdbcColumn &column : columns)
         rowBytes += widthOf(column) + SQLLEN{sizeof(SQLLEN)};
-    const auto rows = static_cast<std::size_t>(std::clamp<SQLLEN>(blockBytes / rowBytes, 1, mostRows));
+    const auto rows =
+        static_cast<std::size_t>(std::clamp<SQLLEN>(blockBytes / std::max<SQLLEN>(rowBytes, 1), 1, mostRows));
     m_states.resize(rows);
     m_statement.set(SQL_ATTR_ROW_ARRAY_SIZE, rows);
     m_statement.set(SQL_ATTR_ROW_STATUS_PTR, m_states.data());
@@ -88,9 +84,9 @@ OdbcBlockReader::~OdbcBlockReader()
     SQLSetStmtAttrW(m_statement.get(), SQL_ATTR_ROWS_FETCHED_PTR, nullptr, 0);
 }
 
-bool OdbcBlockReader::canRead(const OdbcHandle &statement, const std::vector<OdbcColumn> &columns)
+bool OdbcBlockReader::haveRoom(const std::vector<OdbcColumn> &columns)
 {
-    return canAskAgain(statement) || std::all_of(columns.begin(), columns.end(), fits);
+    return std::all_of(columns.begin(), columns.end(), fits);
 }
 
 bool OdbcBlockReader::fetch(const OdbcWatch &watch)

@@ -10,12 +10,12 @@ namespace ADODB {
 class OdbcBlockReader : public OdbcReader
 {
 public:
-    OdbcBlockReader(const OdbcHandle &statement, const std::vector<OdbcColumn> &columns);
+    OdbcBlockReader(const OdbcHandle &statement, const std::vector<OdbcColumn> &columns, bool canAskAgain);
     ~OdbcBlockReader() override;
     Q_DISABLE_COPY_MOVE(OdbcBlockReader)
 
-    // Whether no value should come cut, or those that do can be had whole.
-    static bool canRead(const OdbcHandle &statement, const std::vector<OdbcColumn> &columns);
+    // Whether no value should outgrow its place, by what the columns say.
+    static bool haveRoom(const std::vector<OdbcColumn> &columns);
 
     bool fetch(const OdbcWatch &watch) override;
     bool append(RowStore &rows) override;

@@ -8,24 +8,34 @@ namespace ADODB {
 
 namespace {
 
-constexpr SQLUSMALLINT numberOf(int column)
+// One of a driver's answers about a column. The name is always asked for, because there are drivers that fail
+// when it is not.
+struct Answer
 {
-    return static_cast<SQLUSMALLINT>(column + 1);
-}
+    std::array<char16_t, 512> name{};
+    SQLSMALLINT sqlType = 0;
+    SQLULEN size = 0;
+    SQLSMALLINT scale = 0;
+    SQLSMALLINT nullable = SQL_NULLABLE_UNKNOWN;
+
+    Answer(const OdbcHandle &statement, int column)
+    {
+        SQLSMALLINT length = 0;
+        statement.check(SQLDescribeColW(
+            statement.get(), static_cast<SQLUSMALLINT>(column + 1), reinterpret_cast<SQLWCHAR *>(name.data()),
+            static_cast<SQLSMALLINT>(name.size()), &length, &sqlType, &size, &scale, &nullable));
+    }
+};
 
 FieldInfo describe(const OdbcHandle &statement, int column)
 {
-    std::array<char16_t, 512> name{};
-    SQLSMALLINT nullable = SQL_NULLABLE_UNKNOWN;
-    statement.check(SQLDescribeColW(
-        statement.get(), numberOf(column), reinterpret_cast<SQLWCHAR *>(name.data()),
-        static_cast<SQLSMALLINT>(name.size()), nullptr, nullptr, nullptr, nullptr, &nullable));
+    const Answer answer(statement, column);
     FieldInfo field;
-    field.name = QString::fromUtf16(name.data());
+    field.name = QString::fromUtf16(answer.name.data());
     field.baseTable = statement.columnText(column, SQL_DESC_BASE_TABLE_NAME);
     field.baseColumn =
         field.baseTable.isEmpty() ? QString() : statement.columnText(column, SQL_DESC_BASE_COLUMN_NAME);
-    field.attributes = nullable == SQL_NO_NULLS ? 0 : adFldIsNullable | adFldMayBeNull;
+    field.attributes = answer.nullable == SQL_NO_NULLS ? 0 : adFldIsNullable | adFldMayBeNull;
     OdbcTypes::apply(field, declaredType(statement, column));
     return field;
 }
@@ -34,12 +44,8 @@ FieldInfo describe(const OdbcHandle &statement, int column)
 
 OdbcTypes::Declared declaredType(const OdbcHandle &statement, int column)
 {
-    SQLSMALLINT sqlType = 0;
-    SQLULEN size = 0;
-    SQLSMALLINT scale = 0;
-    statement.check(SQLDescribeColW(statement.get(), numberOf(column), nullptr, 0, nullptr, &sqlType, &size,
-                                    &scale, nullptr));
-    return {sqlType, static_cast<qint64>(size), scale,
+    const Answer answer(statement, column);
+    return {answer.sqlType, static_cast<qint64>(answer.size), answer.scale,
             statement.columnNumber(column, SQL_DESC_UNSIGNED) == SQL_TRUE};
 }
 

@@ -41,7 +41,8 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         engine.endReading = u"ROLLBACK"_s;
         engine.lockRow = u" FOR UPDATE"_s;
         engine.returning = true;
-        engine.bendsDates = connection.info(SQL_DRIVER_NAME).contains("psqlodbc"_L1, Qt::CaseInsensitive);
+        engine.asksAgain = engine.bendsDates =
+            connection.info(SQL_DRIVER_NAME).contains("psqlodbc"_L1, Qt::CaseInsensitive);
         break;
     case Kind::MariaDb:
     case Kind::MySql:
@@ -49,12 +50,12 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         engine.beginReading = u"START TRANSACTION READ ONLY"_s;
         engine.endReading = u"ROLLBACK"_s;
         engine.lockRow = u" FOR UPDATE"_s;
-        engine.returning = engine.kind == Kind::MariaDb;
+        engine.newKey = u"SELECT LAST_INSERT_ID()"_s;
         break;
     case Kind::Sqlite:
         engine.beginReading = u"PRAGMA query_only = ON"_s;
         engine.endReading = u"PRAGMA query_only = OFF"_s;
-        engine.returning = true;
+        engine.newKey = u"SELECT last_insert_rowid()"_s; // its driver sees no rows in RETURNING
         engine.looseTypes = true;
         break;
     case Kind::SqlServer:

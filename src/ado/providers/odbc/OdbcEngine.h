@@ -23,8 +23,14 @@ struct OdbcEngine
     QString lockRow; // behind a SELECT: keeps the row from others until the transaction ends
     // INSERT … RETURNING gives the columns of the new row.
     bool returning = false;
+    // Otherwise the statement that gives the key which the database made for the row just inserted here;
+    // empty where there is none.
+    QString newKey;
     // A column can hold values of any type, whatever it is declared as.
     bool looseTypes = false;
+    // Within a block of rows, the driver gives single values once more and then fetches on where it was. Some
+    // claim that and lose rows instead, so only those count that were tried.
+    bool asksAgain = false;
     // The driver turns dates that it can't hold (infinity, before Christ) into others.
     bool bendsDates = false;
 

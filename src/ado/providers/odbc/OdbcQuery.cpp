@@ -23,6 +23,7 @@ bool isDay(const FieldInfo &field)
     return field.type == adDBDate || field.type == adDBTimeStamp;
 }
 
+// A comment behind the semicolon is another statement to some drivers.
 QString withoutSemicolon(const SqlScanner &statement)
 {
     const qsizetype last = statement.count() - 1;
@@ -35,7 +36,8 @@ OdbcQuery::OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const Od
                      const QString &sql)
     : m_connection(connection), m_engine(engine), m_statement(std::make_unique<OdbcHandle>(connection))
 {
-    m_statement->prepare(sql);
+    const QString text = withoutSemicolon(SqlScanner(sql, m_engine.dialect));
+    m_statement->prepare(text);
     m_fields = describeColumns(*m_statement);
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
         m_types.push_back(declaredType(*m_statement, static_cast<int>(i)));
@@ -43,7 +45,7 @@ OdbcQuery::OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const Od
             {OdbcTypes::formOf(m_fields[i].type, m_engine.looseTypes), m_fields[i].definedSize});
     }
     if (m_engine.bendsDates && std::any_of(m_fields.begin(), m_fields.end(), isDay))
-        askForDatesAsText(sql);
+        askForDatesAsText(text);
 }
 
 OdbcQuery::~OdbcQuery() = default;
@@ -66,8 +68,7 @@ void OdbcQuery::askForDatesAsText(const QString &sql)
         values += isDay(field) ? names.last() + "::text"_L1 : names.last();
     }
     m_statement = std::make_unique<OdbcHandle>(m_connection);
-    m_statement->prepare("SELECT "_L1 + values.join(", "_L1) + " FROM (\n"_L1 +
-                         withoutSemicolon(SqlScanner(sql, m_engine.dialect)) + "\n) AS kova("_L1 +
+    m_statement->prepare("SELECT "_L1 + values.join(", "_L1) + " FROM (\n"_L1 + sql + "\n) AS kova("_L1 +
                          names.join(", "_L1) + u')');
 }
 
@@ -75,8 +76,8 @@ void OdbcQuery::read(RowStore &rows, const std::function<bool()> &goOn, int time
 {
     const OdbcWatch watch(*m_statement, goOn, timeout);
     bool done = false;
-    if (OdbcBlockReader::canRead(*m_statement, m_columns)) {
-        OdbcBlockReader reader(*m_statement, m_columns);
+    if (m_engine.asksAgain || OdbcBlockReader::haveRoom(m_columns)) {
+        OdbcBlockReader reader(*m_statement, m_columns, m_engine.asksAgain);
         done = readAll(reader, rows, watch);
     }
     if (!done) {

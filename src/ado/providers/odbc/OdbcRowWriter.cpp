@@ -141,6 +141,34 @@ void OdbcRowWriter::insertAndReturnKey(const QString &insertion, const std::vect
         key, [] { return true; }, m_session->commandTimeout());
 }
 
+void OdbcRowWriter::insertAndFindKey(const QString &insertion, const std::vector<Change> &changes,
+                                     RowStore &key) const
+{
+    const OdbcEngine &engine = m_session->engine();
+    const auto given = [&](const OdbcTarget::KeyColumn &column) { return changeOf(changes, column.column); };
+    const auto missing = std::find_if_not(m_target.key.begin(), m_target.key.end(), given);
+    const bool isMade = m_target.isRealKey && m_target.key.size() == 1 && !engine.newKey.isEmpty();
+    if (missing != m_target.key.end() && !isMade)
+        throw Error(adErrFeatureNotAvailable, Texts::newRowWithoutKey().arg(missing->name));
+
+    const OdbcHandle statement(m_session->connection());
+    statement.prepare(insertion);
+    OdbcParameters parameters(statement);
+    bindChanges(parameters, changes);
+    changeOneRow(statement);
+    if (missing != m_target.key.end()) {
+        OdbcQuery(m_session->connection(), engine, engine.newKey)
+            .read(
+                key, [] { return true; }, m_session->commandTimeout());
+        return;
+    }
+    for (const OdbcTarget::KeyColumn &column : m_target.key) {
+        QByteArray bytes;
+        key.add(rawValue(given(column)->value, bytes));
+    }
+    key.endRow();
+}
+
 void OdbcRowWriter::insert(const std::vector<Change> &changes, RowStore &stored)
 {
     const OdbcEngine &engine = m_session->engine();
@@ -157,27 +185,15 @@ void OdbcRowWriter::insert(const std::vector<Change> &changes, RowStore &stored)
                                : u"(%1) VALUES (%2)"_s.arg(names.join(", "_L1), places.join(", "_L1));
     const QString insertion = "INSERT INTO "_L1 + m_target.table + u' ' + values;
 
-    const std::size_t count = m_target.key.size();
-    Key key;
-    KeyValues kept(count);
-    RowStore returned(static_cast<int>(count));
-    if (engine.returning) {
-        insertAndReturnKey(insertion, changes, returned);
-        key = returned.row(0);
-    } else {
-        for (std::size_t i = 0; i < count; ++i) {
-            const Change *change = changeOf(changes, m_target.key[i].column);
-            if (!change)
-                throw Error(adErrFeatureNotAvailable, Texts::newRowWithoutKey().arg(m_target.key[i].name));
-            key.push_back(kept.keep(i, change->value));
-        }
-        const OdbcHandle statement(m_session->connection());
-        statement.prepare(insertion);
-        OdbcParameters parameters(statement);
-        bindChanges(parameters, changes);
-        changeOneRow(statement);
-    }
-    readRow(key, stored);
+    RowStore key(static_cast<int>(m_target.key.size()));
+    if (engine.returning)
+        insertAndReturnKey(insertion, changes, key);
+    else
+        insertAndFindKey(insertion, changes, key);
+    // A trigger or a rule can have put the row elsewhere.
+    if (key.rows() != 1)
+        throw rowGone();
+    readRow(key.row(0), stored);
     transaction.commit();
 }
 

@@ -34,9 +34,10 @@ private:
     void changeOneRow(const OdbcHandle &statement) const;
     // The one row with that key, locked where the engine can.
     void readRow(const Key &key, RowStore &stored) const;
-    // The key of the row that the statement inserts, into `stored`.
+    // Both run the statement and give the new row's key, as the database answers it or as it was given.
     void insertAndReturnKey(const QString &insertion, const std::vector<Change> &changes,
                             RowStore &key) const;
+    void insertAndFindKey(const QString &insertion, const std::vector<Change> &changes, RowStore &key) const;
 
     std::shared_ptr<OdbcSession> m_session;
     OdbcTarget m_target;
