@@ -50,7 +50,7 @@ void print(const QWidget &grid)
 {
     const auto *records = grid.property("RecordSet").value<QObject *>();
     std::printf("%d records; filter: %s\n", records ? records->property("RecordCount").toInt() : 0,
-                qUtf8Printable(grid.property("SQLFilter").toString()));
+                qUtf8Printable(grid.property("SQLFilter").toString().simplified()));
 }
 
 } // namespace

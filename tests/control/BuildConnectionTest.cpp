@@ -1,10 +1,12 @@
 // From GetConnection through the connection builder and back.
 #include <KOVAVSFDataGrid>
 
+#include "ado/OdbcCatalogue.h"
 #include "support/Dialogs.h"
 #include "support/TestDatabase.h"
 #include "support/WindowAnswers.h"
 
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <gtest/gtest.h>
@@ -38,6 +40,26 @@ TEST_F(BuildConnection, WhatWasBuiltAndTriedBecomesTheConnectionString)
                            }});
     grid.GetConnection();
     EXPECT_EQ(grid.ConnectionString(), database.connectionString());
+}
+
+TEST_F(BuildConnection, OffersTheDriversOfThisMachine)
+{
+    WindowAnswers windows({[](QDialog &connect) {
+                               press(connect, "OptionLINK");
+                               press(connect, "cmd_link");
+                               press(connect, "CancelButton");
+                           },
+                           [](QDialog &builder) {
+                               const auto &targets = part<QComboBox>(builder, "cmbTarget");
+                               const QStringList drivers = ADODB::odbcDrivers();
+                               for (const QString &driver : drivers)
+                                   EXPECT_GE(targets.findText(u"ODBC 驱动程序："_s + driver), 0)
+                                       << qPrintable(driver);
+                               const auto sources = static_cast<qsizetype>(ADODB::odbcDataSources().size());
+                               EXPECT_EQ(targets.count(), 2 + drivers.size() + sources);
+                               press(builder, "CancelButton");
+                           }});
+    grid.GetConnection();
 }
 
 TEST_F(BuildConnection, AFailedTestTellsWhyAndCancelKeepsTheOldString)
