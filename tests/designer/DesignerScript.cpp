@@ -7,8 +7,11 @@
 #include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
+#include <QtDesigner/QDesignerWidgetDataBaseInterface>
+#include <QtDesigner/QDesignerWidgetDataBaseItemInterface>
 #include <QtGui/QAction>
 #include <QtGui/QColor>
+#include <QtGui/QIcon>
 #include <QtGui/QUndoStack>
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
@@ -79,12 +82,25 @@ void DesignerScript::run()
 
 void DesignerScript::play()
 {
+    tellWidgetBox();
     openForm();
     tellDesignMode();
     editSqlShow();
     undoAndRedo();
     previewData();
     save();
+}
+
+void DesignerScript::tellWidgetBox()
+{
+    const QDesignerWidgetDataBaseInterface &known = *m_core.widgetDataBase();
+    const QDesignerWidgetDataBaseItemInterface *grid =
+        known.item(known.indexOfClassName(u"KOVAVSFDataGrid"_s));
+    require(grid, "the grid is known");
+    tell(u"group"_s, grid->group());
+    tell(u"toolTip"_s, grid->toolTip());
+    tell(u"includeFile"_s, grid->includeFile());
+    tell(u"iconSizes"_s, QString::number(grid->icon().availableSizes().size()));
 }
 
 void DesignerScript::openForm()

@@ -23,6 +23,7 @@ public:
 
 private:
     void play();
+    void tellWidgetBox();
     void openForm();
     void tellDesignMode();
     void editSqlShow();

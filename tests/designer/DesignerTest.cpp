@@ -88,6 +88,14 @@ struct Designer : testing::Test
 
 } // namespace
 
+TEST_F(Designer, OffersTheGridInItsWidgetBox)
+{
+    EXPECT_EQ(seen(u"group"_s), u"Database"_s);
+    EXPECT_EQ(seen(u"toolTip"_s), u"SQL result grid"_s);
+    EXPECT_EQ(seen(u"includeFile"_s), u"<KOVAVSFDataGrid>"_s);
+    EXPECT_GT(seen(u"iconSizes"_s).toInt(), 0) << "the widget box shows no icon without sizes";
+}
+
 TEST_F(Designer, OpensAFormWithTheGrid)
 {
     EXPECT_EQ(seen(u"class"_s), u"KOVAVSFDataGrid"_s);
