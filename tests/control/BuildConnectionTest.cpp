@@ -94,7 +94,7 @@ TEST_F(BuildConnection, OffersTheDriversOfThisMachine)
                                const auto &targets = part<QComboBox>(builder, "cmbTarget");
                                const QStringList drivers = ADODB::odbcDrivers();
                                for (const QString &driver : drivers)
-                                   EXPECT_GE(targets.findText(u"ODBC 驱动程序："_s + driver), 0)
+                                   EXPECT_GE(targets.findText(u"ODBC 驱动程序 "_s + driver), 0)
                                        << qPrintable(driver);
                                const auto sources = static_cast<qsizetype>(ADODB::odbcDataSources().size());
                                EXPECT_EQ(targets.count(), 2 + drivers.size() + sources);
