@@ -1,5 +1,7 @@
 #pragma once
 
+#include "filter/EngineOf.h"
+
 #include <QtCore/QString>
 
 #include <functional>
@@ -49,6 +51,8 @@ public:
     // Null before the first result and after release().
     const std::shared_ptr<ADODB::Recordset> &recordset() const { return m_recordset; }
     const std::shared_ptr<ADODB::Connection> &connection() const { return m_connection; }
+    // What the open connection leads to.
+    Engine engine() const { return EngineOf(m_connection); }
 
 private:
     ADODB::Adodc &m_adodc;
