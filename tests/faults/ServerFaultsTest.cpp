@@ -110,6 +110,13 @@ TEST_F(ServerFaults, ResetBeforeADeletion)
     EXPECT_EQ(hands->messages.texts().size(), 2) << qUtf8Printable(hands->messages.texts().join(u'|'));
     expectAsLoaded();
     EXPECT_EQ(ask(u"SELECT count(*) FROM faults"_s), u"1000"_s);
+
+    // What the engine needs is not forgotten with the connection.
+    hands->messages.clear();
+    WindowAnswers dialogs({[](QDialog &dialog) { Hands::find(dialog, u"77"_s, u"id"_s); }});
+    hands->click(u"QuickFilter"_s);
+    EXPECT_EQ(hands->texts(u"id"_s).first(), u"77"_s) << qUtf8Printable(hands->statement());
+    EXPECT_TRUE(hands->messages.shown().empty()) << qUtf8Printable(hands->messages.texts().join(u'|'));
 }
 
 TEST_F(ServerFaults, WrongPassword)
