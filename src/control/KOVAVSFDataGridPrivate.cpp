@@ -53,7 +53,9 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
 
 void KOVAVSFDataGrid::Private::giveThreeTierSwitch()
 {
-    ADODB::ConnectionFactory::instance().SetThreeTier(Read3TierSwitch() != 0);
+    ADODB::ConnectionFactory &factory = ADODB::ConnectionFactory::instance();
+    factory.SetThreeTier(Read3TierSwitch() != 0);
+    factory.SetMiddleTier(readMiddleTier());
 }
 
 bool KOVAVSFDataGrid::Private::isUserMode() const

@@ -4,6 +4,7 @@
 #include "ado/Connection.h"
 #include "ado/ConnectionFactory.h"
 #include "ado/Recordset.h"
+#include "filter/EngineOf.h"
 #include "query/AllDBType.h"
 #include "query/SharedValues.h"
 
@@ -36,6 +37,7 @@ void ResultSet::replaceBy(Opened opened)
     m_connectionString = std::move(opened.connectionString);
     m_connection = std::move(opened.connection);
     m_recordset = std::move(opened.recordset);
+    m_engine = EngineOf(m_connection);
     m_adodc.PutRecordset(m_recordset);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "query/Engine.h"
+
 #include <QtCore/QString>
 
 #include <functional>
@@ -49,10 +51,13 @@ public:
     // Null before the first result and after release().
     const std::shared_ptr<ADODB::Recordset> &recordset() const { return m_recordset; }
     const std::shared_ptr<ADODB::Connection> &connection() const { return m_connection; }
+    // What the connection leads to; still known when the server has gone away.
+    Engine engine() const { return m_engine; }
 
 private:
     ADODB::Adodc &m_adodc;
     std::shared_ptr<ADODB::Connection> m_connection;
+    Engine m_engine = Engine::Other;
     QString m_connectionString;
     std::shared_ptr<ADODB::Recordset> m_recordset;
 };
