@@ -12,7 +12,7 @@ class ConnectionString;
 // instead. Either a server, or a whole connection string; the latter counts when both are given.
 struct KOVA_EXPORT MiddleTier
 {
-    QString server;
+    QString server;     // host name or address
     QString port;       // empty: the one in the connection string stays
     QString connection; // `Keyword=value;…`
 
