@@ -211,7 +211,7 @@ struct BigResult : testing::Test
     BigResult()
         : database(u"CREATE TABLE big(i INTEGER PRIMARY KEY, name TEXT);"
                    "WITH RECURSIVE s(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM s WHERE i < %1)"
-                   "INSERT INTO big SELECT i, substr(hex(zeroblob(50)) || i * 7, -100) FROM s"_s.arg(count))
+                   "INSERT INTO big SELECT i, substr(hex(zeroblob(50)) || (i * 7), -100) FROM s"_s.arg(count))
     {
         recordset.PutMemoryLimit(0);
     }
