@@ -62,8 +62,8 @@ GridEvents::GridEvents(KOVAVSFDataGrid &control, const GridParts &parts, const R
     }
     grid.installEventFilter(this);
     parts.picMainBack->installEventFilter(this);
-    connect(grid.horizontalHeader(), &QHeaderView::sectionClicked, this,
-            [this](int section) { Q_EMIT m_control.HeadClick(static_cast<qint16>(section + 1)); });
+    connect(&grid, &FlexGrid::HeadingClicked, this,
+            [this](int col) { Q_EMIT m_control.HeadClick(static_cast<qint16>(col)); });
     connect(&grid, &FlexGrid::CurrentRowChanged, this, &GridEvents::followGridRow);
 }
 
@@ -226,9 +226,9 @@ void GridEvents::makeCurrent(Place place, const QPoint &position)
 {
     VSFlexGrid &grid = *m_parts.vsfgDataGrid;
     if (place == Place::Cell && grid.indexAt(position) != grid.currentIndex())
-        grid.setCurrentIndex(grid.indexAt(position));
+        grid.tellAfter([&] { grid.setCurrentIndex(grid.indexAt(position)); });
     else if (place == Place::RowNumber && grid.rowAt(position.y()) != grid.currentIndex().row())
-        grid.selectRow(grid.rowAt(position.y()));
+        grid.tellAfter([&] { grid.selectRow(grid.rowAt(position.y())); });
 }
 
 bool GridEvents::keyPressed(QKeyEvent &event)

@@ -9,6 +9,7 @@
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QMenu>
@@ -91,6 +92,7 @@ void doubleClick(const QWidget &widget, const QPoint &point)
 
 void doubleClickCell(Grid &grid)
 {
+    grid.findChild<QCheckBox *>(u"CheckSelAllRow"_s)->setChecked(false);
     doubleClick(*tableOf(grid).viewport(), cellPoint(grid, 2, 1));
 }
 
@@ -128,6 +130,7 @@ const Occasion Occasions[] = {
     {"DataMouseUp", "RightClick", rightClickCell},
     {"DataMouseMove", "Move",
      [](Grid &grid) {
+         QTest::mouseMove(windowOf(grid), {1, 1});
          QTest::mouseMove(windowOf(grid),
                           tableOf(grid).viewport()->mapTo(grid.window(), cellPoint(grid, 2, 1)));
      }},
@@ -150,11 +153,7 @@ const Occasion Occasions[] = {
     {"RecordChanged", "SetGridRow", [](Grid &grid) { grid.SetGridRow(3); }},
     {"RecordChanged", "LocateSelRecord", [](Grid &grid) { grid.LocateSelRecord(3); }},
     {"RecordChanged", "Load", load},
-    {"RecordChanged", "Menu",
-     [](Grid &grid) {
-         grid.SetGridRow(2);
-         rightClickCell(grid);
-     }},
+    {"RecordChanged", "RightClick", rightClickCell},
     {"RecordsetChanged", "Load", load},
     {"RecordsetChanged", "Clear", [](Grid &grid) { grid.Clear(); }},
     {"RecordsetChanged", "ClearObject", [](Grid &grid) { grid.ClearObject(); }},
