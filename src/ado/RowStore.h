@@ -28,6 +28,9 @@ public:
     // Full blocks take no more than `memoryLimit` bytes of memory.
     explicit RowStore(int columns, qint64 memoryLimit = defaultMemoryLimit);
 
+    // Forgets all rows.
+    void clear() { *this = RowStore(m_columns, m_memoryLimit); }
+
     int columns() const { return m_columns; }
     qint64 rows() const { return m_stored - static_cast<qint64>(m_removed.size()); }
     // All that was written so far, in bytes; grows with every cell.

@@ -223,6 +223,12 @@ TEST(RowStore, ReadsBackWhatIsTooMuchForMemoryAndLeavesNoFile)
         for (int i = 0; i < 5; ++i)
             appendBigRows(store, model);
         EXPECT_GT(store.bytesSpilled(), 30'000'000);
+        store.clear();
+        EXPECT_EQ(store.rows(), 0);
+        model.clear();
+        for (int i = 0; i < 5; ++i)
+            appendBigRows(store, model);
+        EXPECT_GT(store.bytesSpilled(), 30'000'000) << "the limit is still the same";
         EXPECT_GE(store.bytesSpilled() + smallLimit + (4 << 20), store.bytesWritten());
 #if defined(Q_OS_UNIX)
         EXPECT_EQ(folder.names(), QStringList()) << "not even while it is in use";
