@@ -51,18 +51,21 @@ private:
 
 } // namespace
 
-TEST_F(BuildConnection, TheConnectionComesFromTheFactoryForItsDatabase)
+TEST_F(BuildConnection, OnlyOraclesConnectionComesFromTheFactory)
 {
     QList<qint32> asked;
     ADODB::ConnectionFactory::setInstance(std::make_unique<NotingFactory>(asked));
-    grid.PutDBType(KOVAVSFDataGrid::dbOracle);
-    WindowAnswers windows({[](QDialog &connect) {
-                               press(connect, "OptionLINK");
-                               press(connect, "cmd_link");
-                               press(connect, "CancelButton");
-                           },
-                           [](QDialog &builder) { press(builder, "CancelButton"); }});
-    grid.GetConnection();
+    for (const auto type :
+         {KOVAVSFDataGrid::dbAccess, KOVAVSFDataGrid::dbOracle, KOVAVSFDataGrid::dbSQLServer}) {
+        grid.PutDBType(type);
+        WindowAnswers windows({[](QDialog &connect) {
+                                   press(connect, "OptionLINK");
+                                   press(connect, "cmd_link");
+                                   press(connect, "CancelButton");
+                               },
+                               [](QDialog &builder) { press(builder, "CancelButton"); }});
+        grid.GetConnection();
+    }
     EXPECT_EQ(asked, QList<qint32>({2}));
     ADODB::ConnectionFactory::setInstance(nullptr);
     grid.PutDBType(KOVAVSFDataGrid::dbAccess);
@@ -82,6 +85,7 @@ TEST_F(BuildConnection, AFactoryThatFailsIsToldAndLeavesTheString)
     };
     QList<qint32> asked;
     ADODB::ConnectionFactory::setInstance(std::make_unique<FailingFactory>(asked));
+    grid.PutDBType(KOVAVSFDataGrid::dbOracle);
     grid.PutConnectionString(u"DSN=old"_s);
     MessageAnswers messages;
     WindowAnswers windows({[](QDialog &connect) {
@@ -93,6 +97,7 @@ TEST_F(BuildConnection, AFactoryThatFailsIsToldAndLeavesTheString)
     EXPECT_EQ(messages.texts(), QStringList(u"连接失败：the tier is away"_s));
     EXPECT_EQ(grid.ConnectionString(), u"DSN=old"_s);
     ADODB::ConnectionFactory::setInstance(nullptr);
+    grid.PutDBType(KOVAVSFDataGrid::dbAccess);
 }
 
 TEST_F(BuildConnection, WhatWasBuiltAndTriedBecomesTheConnectionString)

@@ -7,6 +7,7 @@
 #include "control/connection/ConnectionBuilder.h"
 #include "control/connection/ConnectionTexts.h"
 #include "forms/Messages.h"
+#include "query/AllDBType.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -39,9 +40,12 @@ QStringList dataSourceNames()
     return names;
 }
 
-// A host's own factory may have to reach something first. Null after telling that it failed.
+// Building a connection to Oracle goes through the factory, which may lead it elsewhere; a host's own may
+// have to reach something first. Null after telling that it failed.
 std::shared_ptr<ADODB::Connection> newConnection(QWidget *parent, qint32 dbType)
 {
+    if (dbType != dbOracle)
+        return std::make_shared<ADODB::Connection>();
     try {
         return ADODB::ConnectionFactory::instance().newConnection(dbType);
     } catch (const std::exception &error) {
