@@ -6,6 +6,8 @@
 #include "query/SharedValues.h"
 #include "query/SqlText.h"
 
+#include <exception>
+
 namespace KOVAVSFDataGridLib {
 
 namespace {
@@ -30,7 +32,7 @@ ADODB::Connection &ConnectionFieldReader::connect(const QString &connectionStrin
         closeOwn();
         return *m_result.connection();
     }
-    if (!m_own || m_ownText != connectionString) {
+    if (!m_own || m_own->State() != ADODB::adStateOpen || m_ownText != connectionString) {
         auto connection = ResultSet::newConnection(SharedValues::instance().dbType);
         connection->PutConnectionString(connectionString);
         connection->Open();
@@ -45,7 +47,7 @@ bool ConnectionFieldReader::Open(const QString &connectionString)
     try {
         connect(connectionString);
         return true;
-    } catch (const ADODB::Error &) {
+    } catch (const std::exception &) {
         return false;
     }
 }
@@ -53,6 +55,7 @@ bool ConnectionFieldReader::Open(const QString &connectionString)
 std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QString &connectionString,
                                                                     const QString &statement)
 {
+    m_failure.clear();
     const std::pair key(connectionString, statement);
     if (const auto known = m_known.constFind(key); known != m_known.constEnd())
         return *known;
@@ -63,11 +66,13 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
             fields = describe(connection, GetNoRowSQL(statement));
         } catch (const ADODB::Error &) {
             // Grouped or united statements, say, have no such form; the statement itself is only prepared.
-            fields = describe(connection, statement);
+            // It goes over another connection where this one turned out to be lost.
+            fields = describe(connect(connectionString), statement);
         }
         m_known.insert(key, fields);
         return fields;
-    } catch (const ADODB::Error &) {
+    } catch (const std::exception &error) {
+        m_failure = QString::fromUtf8(error.what());
         return {};
     }
 }
@@ -76,6 +81,7 @@ void ConnectionFieldReader::forget()
 {
     closeOwn();
     m_known.clear();
+    m_failure.clear();
 }
 
 void ConnectionFieldReader::closeOwn()

@@ -28,17 +28,21 @@ public:
     std::optional<std::vector<SourceField>> Read(const QString &connectionString,
                                                  const QString &statement) override;
 
+    // Why the last reading failed, as a sentence for the user; empty when it did not.
+    const QString &Failure() const { return m_failure; }
+
     // Closes its own connection and forgets all names, since the tables may have changed.
     void forget();
 
 private:
-    // Throws ADODB::Error.
+    // Throws ADODB::Error, and what a connection factory of the host's throws.
     ADODB::Connection &connect(const QString &connectionString);
     void closeOwn();
 
     const ResultSet &m_result;
     std::shared_ptr<ADODB::Connection> m_own;
     QString m_ownText;
+    QString m_failure;
     QHash<std::pair<QString, QString>, std::vector<SourceField>>
         m_known; // by connection string and statement
 };

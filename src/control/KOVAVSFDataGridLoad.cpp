@@ -52,10 +52,11 @@ std::unique_ptr<clsFilterManagement> KOVAVSFDataGrid::Private::filterManagerForL
 std::optional<QString> KOVAVSFDataGrid::Private::statementToOpen(clsFilterManagement &manager) const
 {
     const QString first = manager.GetCurrentSQL20(0);
-    if (shared.dbType != dbOracle)
+    // What is missing is told when the statement is opened.
+    if (shared.dbType != dbOracle || connectionString.isEmpty() || first.isEmpty())
         return first;
     QString rewritten;
-    if (!manager.SQLManager().GetAllFieldNameSQL(connectionString, first, rewritten) || rewritten.isEmpty())
+    if (!manager.SQLManager().GetAllFieldNameSQL(connectionString, first, rewritten))
         return {};
     manager.SetAllFields(rewritten);
     manager.SetOriginFilter(rewritten);
@@ -73,11 +74,9 @@ bool KOVAVSFDataGrid::Private::load()
     giveThreeTierSwitch();
     auto manager = filterManagerForLoad();
     const std::optional<QString> statement = statementToOpen(*manager);
-    if (!statement)
-        return false;
     const QStringList fieldsBefore = parts.vsfgDataGrid->Headings();
     const QPointer<KOVAVSFDataGrid> alive(&q);
-    switch (open(*statement, shared.dbType)) {
+    switch (statement ? open(*statement, shared.dbType) : tellOpenError(reader.Failure())) {
     case Opening::Done:
         break;
     case Opening::Failed:
@@ -131,8 +130,12 @@ KOVAVSFDataGrid::Private::Opening KOVAVSFDataGrid::Private::open(const QString &
     } catch (const std::exception &error) { // from a connection factory of the host's
         failure = QString::fromUtf8(error.what());
     }
-    if (alive)
-        Messages::tell(&q, GridTexts::OpenErrorPrefix + failure);
+    return alive ? tellOpenError(failure) : Opening::Failed;
+}
+
+KOVAVSFDataGrid::Private::Opening KOVAVSFDataGrid::Private::tellOpenError(const QString &description)
+{
+    Messages::tell(&q, GridTexts::OpenErrorPrefix + description);
     return Opening::Failed;
 }
 

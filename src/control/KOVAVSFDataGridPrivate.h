@@ -85,8 +85,10 @@ public:
 private:
     std::unique_ptr<KOVAVSFDataGridLib::clsFilterManagement> newFilterManager();
     std::unique_ptr<KOVAVSFDataGridLib::clsFilterManagement> filterManagerForLoad();
-    // Nothing when the load ends silently.
+    // Nothing when it can't be spelt out, for the reason that `reader` tells.
     std::optional<QString> statementToOpen(KOVAVSFDataGridLib::clsFilterManagement &manager) const;
+    // The user can have destroyed the control meanwhile. Always Failed.
+    Opening tellOpenError(const QString &description);
     KOVAVSFDataGridLib::ResultSet::Opened read(const QString &statement, qint32 dbType);
     void enableForData();
     void layOutColumns(const QString &statement);

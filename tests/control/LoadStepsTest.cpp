@@ -164,15 +164,33 @@ TEST_F(LoadSteps, SpellOutTheFieldsForOracleWithLongBinaryOnesLast)
     EXPECT_EQ(grid.RecordSource(), u"select A from T"_s) << "nothing to spell out";
 }
 
-TEST_F(LoadSteps, EndSilentlyWhenOraclesFieldsCantBeRead)
+TEST_F(LoadSteps, TellWhyWhenOraclesFieldsCantBeRead)
 {
     ASSERT_TRUE(load(u"select * from T"_s));
     grid.PutDBType(KOVAVSFDataGrid::dbOracle);
     MessageAnswers messages;
     EXPECT_FALSE(load(u"select * from Nowhere"_s));
-    EXPECT_EQ(messages.texts(), QStringList());
+    ASSERT_EQ(messages.texts().size(), 2);
+    EXPECT_TRUE(messages.texts().front().startsWith(u"错误描述为：找不到表或视图"_s))
+        << messages.texts().front().toStdString();
+    EXPECT_EQ(messages.texts().back(), u"数据库打开失败。"_s);
     EXPECT_EQ(grid.RecordSource(), u"select * from T"_s);
     EXPECT_EQ(table->model()->rowCount(), 3);
+}
+
+TEST_F(LoadSteps, TellWhyWhenOraclesDatabaseCantBeReached)
+{
+    for (const QString &nowhere : {u"Provider=SQLite;Data Source=/nowhere/none.db"_s, QString()}) {
+        grid.PutConnectionString(nowhere);
+        grid.PutDBType(KOVAVSFDataGrid::dbOracle);
+        grid.PutSQLShow(u"select * from T"_s);
+        MessageAnswers messages;
+        EXPECT_FALSE(grid.IsLoadData());
+        ASSERT_EQ(messages.texts().size(), 2);
+        EXPECT_GT(messages.texts().front().size(), u"错误描述为："_s.size());
+        EXPECT_TRUE(messages.texts().front().startsWith(u"错误描述为："_s));
+        EXPECT_EQ(messages.texts().back(), u"数据库打开失败。"_s);
+    }
 }
 
 TEST_F(LoadSteps, FailOverAShownResultWithoutTouchingIt)

@@ -33,7 +33,6 @@ void FaultFixture::SetUp()
         GTEST_SKIP() << "KOVA_TEST_POSTGRESQL is not set";
     run(u"DROP TABLE IF EXISTS faults"_s);
     run(u"CREATE TABLE faults AS SELECT g AS id, 'name ' || g AS name FROM generate_series(1, 1000) g"_s);
-    // The type that tells of every failure; with Oracle's a load that can't read the fields ends silently.
     hands.emplace(connection(), KOVAVSFDataGrid::dbSQLServer);
     ASSERT_TRUE(load(harmless)); // what libraries open once and for all is open now
     handlesBefore = openHandles();
@@ -52,6 +51,7 @@ void FaultFixture::TearDown()
         EXPECT_FALSE(text.contains(markerPassword())) << "in the window";
     hands->messages.clear();
     hands->grid.PutConnectionString(connection());
+    hands->grid.PutDBType(KOVAVSFDataGrid::dbSQLServer);
     EXPECT_TRUE(load(harmless)) << "the next command works";
     EXPECT_EQ(hands->rows(), 3);
     EXPECT_EQ(openHandles(), handlesBefore) << "no file or socket is left open";

@@ -48,6 +48,30 @@ TEST_F(ServerFaults, StoppedBeforeALoad)
     expectAsLoaded();
 }
 
+// Whose fields are read before the statement is opened.
+TEST_F(ServerFaults, StoppedBeforeALoadForOracle)
+{
+    ASSERT_TRUE(load());
+    hands->grid.PutDBType(KOVAVSFDataGrid::dbOracle);
+    controlServer("stop", "postgresql");
+    EXPECT_FALSE(hands->grid.IsLoadData());
+    EXPECT_TRUE(loadError().startsWith(u"无法连接数据库服务器"));
+    expectAsLoaded();
+    controlServer("start", "postgresql");
+    EXPECT_TRUE(hands->grid.IsLoadData());
+    EXPECT_EQ(hands->grid.RecordSource().simplified(), u"SELECT \"id\",\"name\" FROM faults"_s);
+}
+
+TEST_F(ServerFaults, ResetBeforeALoadForOracle)
+{
+    hands->grid.PutDBType(KOVAVSFDataGrid::dbOracle);
+    ASSERT_TRUE(load());
+    ask(endOthers);
+    EXPECT_TRUE(hands->grid.IsLoadData());
+    EXPECT_TRUE(hands->messages.shown().empty()) << qUtf8Printable(hands->messages.texts().join(u'|'));
+    EXPECT_EQ(hands->rows(), 1000);
+}
+
 TEST_F(ServerFaults, StoppedInTheMiddleOfAFetch)
 {
     ASSERT_TRUE(load());
