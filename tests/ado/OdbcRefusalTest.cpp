@@ -53,4 +53,21 @@ TEST(OdbcRefusal, RefusesWhatRunsInsideAQuery)
     EXPECT_NO_THROW(check("select insert('abc', 1, 1, 'x'), (update_count) from t", SqlDialect::MySql));
 }
 
+TEST(OdbcRefusal, SeesStatementsThatNothingParts)
+{
+    for (const char *sql :
+         {"select * from t delete from t", "select 1 exec p", "select 1exec p",
+          "select 1\nupdate t set a = 1", "select a from t where b = 1 truncate table t",
+          "with x as (select 1 as a) delete x", "select 1 merge t using s on 1 = 1 when matched then delete",
+          "select 1 if 1 = 1 drop table t"})
+        EXPECT_ADO_ERROR(dbErrPermissionDenied, check(sql, SqlDialect::SqlServer));
+    for (const char *sql :
+         {"select [delete], t.[update], into_x, \"drop\" from t", "select 'exec p' -- drop\n",
+          "select * from a inner merge join b on a.i = b.i option (merge join)",
+          "select 1 union select 2 option (merge union)", "select * from a option (hash join, merge join)"})
+        EXPECT_NO_THROW(check(sql, SqlDialect::SqlServer)) << sql;
+    // Elsewhere they can be names.
+    EXPECT_NO_THROW(check("select t.id, delete from t", SqlDialect::Standard));
+}
+
 } // namespace

@@ -168,9 +168,68 @@ TEST_P(OnPostgreSql, SeesASecondStatementThroughItsOwnQuotes)
     EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s);
 }
 
+// The scanner takes them for part of the text, as servers do unless told otherwise.
+TEST_P(OnPostgreSql, ChangesNothingWhereBackslashesEndNoText)
+{
+    execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY)"_s);
+    execute(u"INSERT INTO kova_a VALUES (1)"_s);
+    execute(u"ALTER ROLE kova SET standard_conforming_strings = off"_s);
+    for (const char *sql :
+         {R"(select 'a\'' ; delete from kova_a -- ')", R"(select 'a\'' ; commit; delete from kova_a -- ')",
+          R"(select 'a\'' ; rollback; begin; delete from kova_a; commit; select 1 -- ')"}) {
+        EXPECT_EQ(open(QString::fromUtf8(sql))->RecordCount(), 1) << "one text: " << sql;
+        EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s) << sql;
+    }
+    execute(u"ALTER ROLE kova RESET standard_conforming_strings"_s);
+}
+
+TEST_P(OnPostgreSql, GivesTextsOfAnyLengthWhole)
+{
+    execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY, a TEXT, b VARCHAR, c VARCHAR(5000))"_s);
+    execute(u"INSERT INTO kova_a SELECT g, repeat('长', g), repeat('文', g), left(repeat('c', g), 5000)"
+            " FROM unnest(ARRAY[1, 127, 128, 255, 256, 257, 8190, 8191, 300000]) g"_s);
+    const auto connection = connect();
+    const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s, connection);
+    for (const int column : {1, 2, 3})
+        EXPECT_EQ(recordset->Fields().Item(column).Type(), adVarWChar) << column;
+    for (qint64 row = 1; row <= recordset->RecordCount(); ++row) {
+        const auto length = recordset->CellText(row, 0).toInt();
+        EXPECT_EQ(recordset->CellText(row, 1), QString(length, u'长'));
+        EXPECT_EQ(recordset->CellText(row, 2), QString(length, u'文'));
+        EXPECT_EQ(recordset->CellText(row, 3), QString(std::min(length, 5000), u'c'));
+    }
+    recordset->MoveFirst();
+    recordset->Fields().Item(1).PutValue(QString(200000, u'新'));
+    recordset->Update();
+    EXPECT_EQ(ask(u"SELECT length(a) FROM kova_a WHERE id = 1"_s), u"200000"_s);
+}
+
 TEST_P(OnPostgreSql, RefusesAResultWithoutColumns)
 {
     EXPECT_ADO_ERROR(dbErrPermissionDenied, open(u"SELECT"_s));
+}
+
+class OnMariaDb : public OnServer
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Servers, OnMariaDb, testing::Values(servers[1]),
+                         [](const auto &engine) { return std::string(engine.param.name); });
+
+TEST_P(OnMariaDb, ChangesNothingWhereBackslashesEndNoText)
+{
+    execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY)"_s);
+    execute(u"INSERT INTO kova_a VALUES (1)"_s);
+    constexpr int severalStatements = 67108864;
+    const auto connection = std::make_shared<Connection>();
+    connection->Open(connectionString() +
+                     u";Option=%1;InitStmt={SET sql_mode='NO_BACKSLASH_ESCAPES'}"_s.arg(severalStatements));
+    for (const char *sql :
+         {R"(select '\' ; delete from kova_a -- ')", R"(select '\' ; commit; delete from kova_a -- ')",
+          "select 1 /*!999999 ; delete from kova_a */", "select 1 /*! ; delete from kova_a */"}) {
+        EXPECT_ANY_THROW(open(QString::fromUtf8(sql), connection)) << sql;
+        EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s) << sql;
+    }
 }
 
 } // namespace

@@ -38,7 +38,9 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
     switch (engine.kind) {
     case Kind::PostgreSql:
         engine.dialect = SqlDialect::PostgreSql;
-        engine.beginReading = u"BEGIN READ ONLY"_s;
+        // A server can be told to read backslashes in texts as escapes; a statement that was scanned without
+        // them could then hold another one.
+        engine.beginReading = u"BEGIN READ ONLY; SET LOCAL standard_conforming_strings = on"_s;
         engine.endReading = u"ROLLBACK"_s;
         engine.lockRow = u" FOR UPDATE"_s;
         engine.returning = true;

@@ -168,12 +168,14 @@ bool OdbcLogin::addPostgreSqlDefaults()
         QStringView value;
     };
     // Without the first two the driver keeps a whole result in memory; without the last it gives other line
-    // ends than the database holds.
+    // ends than the database holds. PostgreSQL's usual texts have no length, and VARCHAR may be as long as
+    // given here: none of them is a long text, and none is cut.
     static constexpr Default defaults[] = {
-        {u"UseDeclareFetch", u"B6", u"1"},      {u"Fetch", u"A7", u"5000"},
-        {u"UseServerSidePrepare", u"C8", u"1"}, {u"BoolsAsChar", u"B9", u"0"},
-        {u"TextAsLongVarchar", u"B7", u"1"},    {u"UnknownsAsLongVarchar", u"B8", u"1"},
-        {u"ByteaAsLongVarBinary", u"C9", u"1"}, {u"LFConversion", u"C5", u"0"},
+        {u"UseDeclareFetch", u"B6", u"1"},       {u"Fetch", u"A7", u"5000"},
+        {u"UseServerSidePrepare", u"C8", u"1"},  {u"BoolsAsChar", u"B9", u"0"},
+        {u"TextAsLongVarchar", u"B7", u"0"},     {u"MaxVarcharSize", u"B0", u"10485760"},
+        {u"UnknownsAsLongVarchar", u"B8", u"1"}, {u"ByteaAsLongVarBinary", u"C9", u"1"},
+        {u"LFConversion", u"C5", u"0"},
     };
     const std::size_t before = m_parts.size();
     for (const Default &standard : defaults) {
