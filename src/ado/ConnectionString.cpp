@@ -18,12 +18,6 @@ bool sameKeyword(const QString &a, const QString &b)
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
-bool isPassword(const QString &keyword)
-{
-    return sameKeyword(keyword, u"Password"_s) || sameKeyword(keyword, u"Pwd"_s) ||
-           keyword.endsWith("Password"_L1, Qt::CaseInsensitive);
-}
-
 // Reads the text from left to right. It counts the parts, because an error may name a part but not quote it:
 // what looks like a stray part can be the rest of a password with a semicolon in it.
 class Reader
@@ -105,6 +99,17 @@ QString quoted(const QString &value)
     return u'"' + QString(value).replace(u'"', "\"\""_L1) + u'"';
 }
 
+// A connection string within one. What can't be read as such says nothing about where a password stands in
+// it.
+QString nestedWithoutPassword(const QString &text)
+{
+    try {
+        return ConnectionString(text).textWithoutPassword();
+    } catch (const Error &) {
+        return {};
+    }
+}
+
 } // namespace
 
 ConnectionString::ConnectionString(const QString &text)
@@ -158,7 +163,18 @@ QString ConnectionString::textWithoutPassword() const
 {
     ConnectionString open = *this;
     std::erase_if(open.m_parts, [](const Part &part) { return isPassword(part.keyword); });
+    for (Part &part : open.m_parts) {
+        if (sameKeyword(part.keyword, u"Extended Properties"_s))
+            part.value = nestedWithoutPassword(part.value);
+    }
     return open.text();
+}
+
+bool ConnectionString::isPassword(const QString &keyword)
+{
+    return keyword.endsWith("PWD"_L1, Qt::CaseInsensitive) ||
+           keyword.contains("Password"_L1, Qt::CaseInsensitive) ||
+           keyword.contains("Passphrase"_L1, Qt::CaseInsensitive);
 }
 
 } // namespace ADODB

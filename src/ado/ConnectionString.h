@@ -42,6 +42,8 @@ public:
     QString text() const;
     // The same, to be shown or kept.
     QString textWithoutPassword() const;
+    // Whether the value of the keyword is a secret, in the words of any driver.
+    static bool isPassword(const QString &keyword);
 
 private:
     std::vector<Part> m_parts;

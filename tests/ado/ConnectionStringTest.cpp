@@ -76,6 +76,15 @@ TEST(ConnectionString, LeavesOutEveryPassword)
     EXPECT_EQ(text.textWithoutPassword(), u"Data Source=a.mdb;User ID=me"_s);
 }
 
+TEST(ConnectionString, LeavesOutPasswordsThatStandDeeper)
+{
+    const ConnectionString text(
+        u"Provider=MSDASQL;Extended Properties=\"DSN=shop;UID=me;PWD=marker;TlsKeyPwd=marker\""_s);
+    EXPECT_EQ(text.textWithoutPassword(), u"Provider=MSDASQL;Extended Properties=\"DSN=shop;UID=me\""_s);
+    const ConnectionString unreadable(u"Data Source=a.xls;Extended Properties=\"Excel 8.0;PWD=marker\""_s);
+    EXPECT_FALSE(unreadable.textWithoutPassword().contains(u"marker"_s));
+}
+
 TEST(ConnectionString, ReplacesAndRemovesInAnyLetterCase)
 {
     ConnectionString text(u"UID=a;Data Source=b"_s);

@@ -39,8 +39,6 @@ constexpr QStringView adoOnly[] = {
     u"Extended Properties",
 };
 
-constexpr QStringView passwords[] = {u"PWD", u"Password"};
-
 // ADO's names for what ODBC calls otherwise. A data source is a server where a driver is named; see take().
 constexpr std::pair<QStringView, QStringView> synonyms[] = {
     {u"User ID", u"UID"},       {u"User", u"UID"}, {u"Password", u"PWD"}, {u"Initial Catalog", u"Database"},
@@ -141,8 +139,7 @@ QStringList OdbcLogin::secrets() const
 {
     QStringList secrets;
     for (const auto &[keyword, value] : m_parts) {
-        if (!value.isEmpty() &&
-            (isOneOf(keyword, passwords) || keyword.endsWith("Password"_L1, Qt::CaseInsensitive)))
+        if (!value.isEmpty() && ConnectionString::isPassword(keyword))
             secrets += {quoted(keyword, value), value};
     }
     return secrets;
