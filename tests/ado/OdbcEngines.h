@@ -33,7 +33,8 @@ protected:
 
     bool is(const char *name) const { return qstrcmp(GetParam().name, name) == 0; }
     QString connectionString() const { return m_text; }
-    // Both past the code under test, with ODBC's own calls. ask() answers the first value of the first row.
+    // Both past the code under test, with ODBC's own calls. ask() answers the first value of the first row,
+    // empty when there is none.
     void execute(const QString &sql) const;
     QString ask(const QString &sql) const;
 
