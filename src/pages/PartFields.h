@@ -1,0 +1,28 @@
+#pragma once
+
+#include "query/AllDBType.h"
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <optional>
+
+// What the page for the part fields reads from statements and writes into one.
+namespace KOVAVSFDataGridLib::PartFields {
+
+struct NamedFields
+{
+    QStringList fields; // as written, but for dbAccess without the brackets around a whole name
+    QString table;      // the FROM text, without blanks at its ends
+};
+
+// The fields that a SELECT names; "*" and "T.*" name none. Nothing when the statement has no table.
+std::optional<NamedFields> read(const QString &statement, AllDBType database);
+
+// The SELECT of these fields; empty without fields. For dbAccess each name is enclosed in "[" and "]".
+QString compose(const QStringList &fields, const QString &table, AllDBType database);
+
+// Whether both are the same field, brackets or not.
+bool isSame(const QString &a, const QString &b);
+
+} // namespace KOVAVSFDataGridLib::PartFields

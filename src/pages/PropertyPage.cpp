@@ -1,0 +1,92 @@
+#include "pages/PropertyPage.h"
+
+#include "forms/Messages.h"
+#include "pages/PageTexts.h"
+
+#include <QtCore/QMetaProperty>
+#include <QtCore/QVariant>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QVBoxLayout>
+
+#include <utility>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+// A property that its class declares without a way to write it; any other name can be written.
+bool isReadOnly(const QObject &object, const QByteArray &name)
+{
+    const int index = object.metaObject()->indexOfProperty(name);
+    return index >= 0 && !object.metaObject()->property(index).isWritable();
+}
+
+} // namespace
+
+PropertyPage::PropertyPage(const QString &property, const QString &textBox, const QString &label,
+                           const QString &hint, QWidget *parent)
+    : QWidget(parent), m_property(property), m_text(new QLineEdit(this)), m_rows(new QVBoxLayout(this))
+{
+    m_text->setObjectName(textBox);
+    m_text->setAccessibleName(property);
+    m_text->setAccessibleDescription(hint);
+    m_text->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+    m_text->setEnabled(false);
+    setFocusProxy(m_text);
+    auto *above = new QLabel(label, this);
+    above->setBuddy(m_text);
+    auto *below = new QLabel(hint, this);
+    below->setForegroundRole(QPalette::PlaceholderText);
+    m_rows->addWidget(above);
+    m_rows->addWidget(m_text);
+    m_rows->addWidget(below);
+    connect(m_text, &QLineEdit::textChanged, this, [this] { PutChanged(true); });
+}
+
+void PropertyPage::SetSelectedControls(const QList<QObject *> &controls)
+{
+    m_control = controls.isEmpty() ? nullptr : controls.first();
+    m_text->setEnabled(m_control);
+    SelectionChanged();
+}
+
+void PropertyPage::SetWriter(Writer writer)
+{
+    m_writer = std::move(writer);
+}
+
+void PropertyPage::PutChanged(bool on)
+{
+    if (on == std::exchange(m_isChanged, on))
+        return;
+    Q_EMIT ChangedChanged(on);
+}
+
+void PropertyPage::SelectionChanged()
+{
+    m_text->setText(m_control ? m_control->property(m_property.toLatin1()).toString() : QString());
+    m_text->setCursorPosition(0);
+    PutChanged(false);
+}
+
+bool PropertyPage::ApplyChanges()
+{
+    if (!m_control)
+        return false;
+    const QByteArray name = m_property.toLatin1();
+    if (isReadOnly(*m_control, name)) {
+        if (m_control->property(name).toString() != m_text->text()) {
+            Messages::tell(this, PageTexts::IsReadOnly.arg(m_property), m_property, QMessageBox::Warning);
+            return false;
+        }
+    } else if (m_writer) {
+        m_writer(*m_control, m_property, m_text->text());
+    } else {
+        m_control->setProperty(name, m_text->text());
+    }
+    PutChanged(false);
+    return true;
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "pages/PropertyPage.h"
+
+namespace KOVAVSFDataGridLib {
+
+// Shows "RecordSource", the statement that the last load opened. On the grid it is read-only: applying
+// another text is refused with a message, and the text stays for the developer to copy.
+class KOVA_EXPORT RecordSource final : public PropertyPage
+{
+    Q_OBJECT
+
+public:
+    explicit RecordSource(QWidget *parent = nullptr);
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "pages/PropertyPage.h"
+
+namespace KOVAVSFDataGridLib {
+
+// Edits "SQLShow", the statement to show.
+class KOVA_EXPORT SQLShow final : public PropertyPage
+{
+    Q_OBJECT
+
+public:
+    explicit SQLShow(QWidget *parent = nullptr);
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,65 @@
+#include "pages/PartFields.h"
+
+#include <gtest/gtest.h>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString listed(const QString &statement, AllDBType database = dbAccess)
+{
+    const auto named = PartFields::read(statement, database);
+    return named ? named->fields.join(u'|') + u" @ "_s + named->table : u"nothing"_s;
+}
+
+} // namespace
+
+TEST(PartFields, AreReadWithTheirTable)
+{
+    EXPECT_EQ(listed(u"select ID, Name from Customers where Age > 30 order by Name"_s),
+              u"ID|Name @ Customers"_s);
+    EXPECT_EQ(listed(u"SELECT a FROM Orders o ORDER BY a"_s), u"a @ Orders o"_s);
+    EXPECT_EQ(listed(u"select a,\n\tb\nfrom T\nwhere a = 1"_s), u"a|b @ T"_s);
+}
+
+TEST(PartFields, LoseBracketsOnlyForAccessWhichGetsThemBack)
+{
+    const QString statement = u"select ID, [Full Name], T.[A] from T"_s;
+    EXPECT_EQ(listed(statement, dbAccess), u"ID|Full Name|T.[A] @ T"_s);
+    EXPECT_EQ(listed(statement, dbSQLServer), u"ID|[Full Name]|T.[A] @ T"_s);
+}
+
+TEST(PartFields, AStarNamesNone)
+{
+    EXPECT_EQ(listed(u"select * from T"_s), u" @ T"_s);
+    EXPECT_EQ(listed(u"select T.*, b from T"_s), u"b @ T"_s);
+}
+
+TEST(PartFields, AreNotReadWithoutATable)
+{
+    for (const QString &statement :
+         {u""_s, u"delete from T"_s, u"select 1"_s, u"select a, from T"_s, u"from T"_s})
+        EXPECT_EQ(listed(statement), u"nothing"_s) << qPrintable(statement);
+}
+
+TEST(PartFields, AreComposedWithBracketsForAccess)
+{
+    const QStringList fields{u"ID"_s, u"Full Name"_s};
+    EXPECT_EQ(PartFields::compose(fields, u"T"_s, dbAccess), u"select [ID],[Full Name] from T"_s);
+    EXPECT_EQ(PartFields::compose(fields, u"T"_s, dbOracle), u"select ID,Full Name from T"_s);
+    EXPECT_EQ(PartFields::compose({}, u"T"_s, dbAccess), QString());
+}
+
+TEST(PartFields, WhatIsMoreThanANameStaysAsItIs)
+{
+    EXPECT_EQ(
+        PartFields::compose({u"T.A"_s, u"T.[B]"_s, u"count(x)"_s, u"a AS b"_s, u"'x'"_s}, u"T"_s, dbAccess),
+        u"select [T].[A],T.[B],count(x),a AS b,'x' from T"_s);
+}
+
+TEST(PartFields, AreTheSameWithAndWithoutBrackets)
+{
+    EXPECT_TRUE(PartFields::isSame(u"[Full Name]"_s, u"full name"_s));
+    EXPECT_FALSE(PartFields::isSame(u"Name"_s, u"Names"_s));
+}
