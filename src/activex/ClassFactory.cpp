@@ -2,7 +2,7 @@
 
 #include "activex/GridControl.h"
 #include "activex/Guids.h"
-#include "activex/PropertyPage.h"
+#include "activex/OlePropertyPage.h"
 #include "activex/QtRuntime.h"
 #include "activex/TypeLibrary.h"
 
@@ -13,7 +13,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 ClassFactory::Create ClassFactory::creatorOf(REFCLSID id)
 {
-    return id == ControlId ? &GridControl::create : PropertyPage::creatorOf(id);
+    return id == ControlId ? &GridControl::create : OlePropertyPage::creatorOf(id);
 }
 
 STDMETHODIMP ClassFactory::CreateInstance(IUnknown *outer, REFIID iid, void **object)

@@ -5,7 +5,7 @@
 #include "activex/TypeLibrary.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
@@ -35,13 +35,13 @@ STDMETHODIMP PropertyPageList::GetPages(CAUUID *pages)
 {
     if (!pages)
         return E_POINTER;
-    constexpr std::array ids{ConnectionStringPageId, RecordSourcePageId, SQLShowPageId, PartDisplayFieldPageId};
+    constexpr std::size_t count = std::size(PageClasses);
     pages->cElems = 0;
-    pages->pElems = static_cast<GUID *>(CoTaskMemAlloc(sizeof ids));
+    pages->pElems = static_cast<GUID *>(CoTaskMemAlloc(count * sizeof(GUID)));
     if (!pages->pElems)
         return E_OUTOFMEMORY;
-    std::ranges::copy(ids, pages->pElems);
-    pages->cElems = static_cast<ULONG>(ids.size());
+    std::ranges::transform(PageClasses, pages->pElems, &PageClass::id);
+    pages->cElems = static_cast<ULONG>(count);
     return S_OK;
 }
 

@@ -6,8 +6,8 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// A COM object of its own that offers these interfaces. It starts with one reference, which belongs to whoever
-// made it with `new`, and deletes itself with the last one.
+// A COM object of its own that offers these interfaces. It starts with one reference, which belongs to
+// whoever made it with `new`, and deletes itself with the last one.
 template<class First, class... Others>
 class ComObject : public First, public Others...
 {
@@ -28,10 +28,7 @@ public:
         AddRef();
         return S_OK;
     }
-    STDMETHODIMP_(ULONG) AddRef() override
-    {
-        return static_cast<ULONG>(InterlockedIncrement(&m_references));
-    }
+    STDMETHODIMP_(ULONG) AddRef() override { return static_cast<ULONG>(InterlockedIncrement(&m_references)); }
     STDMETHODIMP_(ULONG) Release() override
     {
         const LONG left = InterlockedDecrement(&m_references);

@@ -9,8 +9,8 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// One outgoing interface of the control and the clients that listen to it. Part of the control: it lives as long,
-// and keeps its container only by the container's own reference.
+// One outgoing interface of the control and the clients that listen to it. Part of the control: it lives as
+// long, and keeps its container only by the container's own reference.
 class ConnectionPoint final : public IConnectionPoint
 {
 public:

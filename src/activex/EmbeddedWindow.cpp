@@ -47,7 +47,8 @@ void EmbeddedWindow::place(const RECT &position, const RECT *clip)
     SetWindowPos(handle(), nullptr, position.left, position.top, position.right - position.left,
                  position.bottom - position.top, SWP_NOZORDER | SWP_NOACTIVATE);
     RECT visible{};
-    if (clip && !IsRectEmpty(clip) && IntersectRect(&visible, &position, clip) && !EqualRect(&visible, &position)) {
+    if (clip && !IsRectEmpty(clip) && IntersectRect(&visible, &position, clip) &&
+        !EqualRect(&visible, &position)) {
         OffsetRect(&visible, -position.left, -position.top);
         SetWindowRgn(handle(), CreateRectRgnIndirect(&visible), TRUE); // the system owns the region now
     } else {
@@ -104,7 +105,8 @@ bool EmbeddedWindow::tabStaysInside(bool backwards) const
         next = backwards ? next->previousInFocusChain() : next->nextInFocusChain();
         if (next == &m_widget || next == focused)
             return false;
-        if (next->isVisible() && next->isEnabled() && (next->focusPolicy() & Qt::TabFocus) && !next->focusProxy())
+        if (next->isVisible() && next->isEnabled() && (next->focusPolicy() & Qt::TabFocus) &&
+            !next->focusProxy())
             return true;
     }
 }

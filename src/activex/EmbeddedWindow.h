@@ -11,8 +11,8 @@ class QWindow;
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// A widget as a child of a window that Qt knows nothing about. The container's message loop drives it: Qt's own
-// windows take their messages from whatever loop runs on the thread.
+// A widget as a child of a window that Qt knows nothing about. The container's message loop drives it: Qt's
+// own windows take their messages from whatever loop runs on the thread.
 class EmbeddedWindow : public QObject
 {
 public:

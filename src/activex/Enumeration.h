@@ -13,7 +13,10 @@ template<class Interface, class Item, class Kept, class Traits>
 class Enumeration final : public ComObject<Interface>
 {
 public:
-    explicit Enumeration(std::vector<Kept> items, std::size_t next = 0) : m_items(std::move(items)), m_next(next) {}
+    explicit Enumeration(std::vector<Kept> items, std::size_t next = 0)
+        : m_items(std::move(items)), m_next(next)
+    {
+    }
 
     STDMETHODIMP Next(ULONG count, Item *items, ULONG *fetched) override
     {

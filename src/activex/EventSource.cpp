@@ -44,7 +44,8 @@ EventSource::EventSource(const QObject &object, ITypeInfo &events, ConnectionPoi
         MEMBERID id = MEMBERID_NIL;
         if (FAILED(events.GetIDsOfNames(&wide, 1, &id)))
             continue;
-        QMetaObject::connect(&object, i, this, firstId + static_cast<int>(m_events.size()), Qt::DirectConnection);
+        QMetaObject::connect(&object, i, this, firstId + static_cast<int>(m_events.size()),
+                             Qt::DirectConnection);
         m_events.push_back({id, signal});
     }
 }
@@ -80,8 +81,8 @@ void EventSource::tell(const Event &event, void **arguments)
         }
         DISPPARAMS parameters{passed.data(), nullptr, static_cast<UINT>(count), 0};
         // A listener that fails does not concern the control or the other listeners.
-        listener->Invoke(event.id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr, nullptr,
-                         nullptr);
+        listener->Invoke(event.id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr,
+                         nullptr, nullptr);
     }
 }
 

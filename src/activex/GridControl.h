@@ -16,14 +16,15 @@ class KOVAVSFDataGrid;
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// The control as COM sees it: one identity over the interfaces that containers and scripts ask for. Each of them
-// is a small class of its own; this one holds the widget and what they share. May be aggregated.
+// The control as COM sees it: one identity over the interfaces that containers and scripts ask for. Each of
+// them is a small class of its own; this one holds the widget and what they share. May be aggregated.
 //
 // Lives on the thread of the first one made in the process, as the widget does.
 class GridControl final : private IUnknown
 {
 public:
-    // With one reference, the caller's, on the interface asked for. `outer` is the aggregating object or null.
+    // With one reference, the caller's, on the interface asked for. `outer` is the aggregating object or
+    // null.
     static HRESULT create(IUnknown *outer, REFIID iid, void **object);
 
     KOVAVSFDataGrid &grid() { return *m_grid; }

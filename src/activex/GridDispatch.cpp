@@ -39,8 +39,8 @@ STDMETHODIMP GridDispatch::GetIDsOfNames(REFIID, LPOLESTR *names, UINT count, LC
     return m_info->GetIDsOfNames(names, count, ids);
 }
 
-STDMETHODIMP GridDispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS *parameters, VARIANT *result,
-                                  EXCEPINFO *exception, UINT *badArgument)
+STDMETHODIMP GridDispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS *parameters,
+                                  VARIANT *result, EXCEPINFO *exception, UINT *badArgument)
 {
     if (!parameters)
         return E_POINTER;

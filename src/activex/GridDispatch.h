@@ -21,8 +21,8 @@ public:
     STDMETHODIMP GetTypeInfoCount(UINT *count) override;
     STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo **info) override;
     STDMETHODIMP GetIDsOfNames(REFIID iid, LPOLESTR *names, UINT count, LCID locale, DISPID *ids) override;
-    STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS *parameters, VARIANT *result,
-                        EXCEPINFO *exception, UINT *badArgument) override;
+    STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS *parameters,
+                        VARIANT *result, EXCEPINFO *exception, UINT *badArgument) override;
 
     DISPID idOf(const QString &name) const { return m_members.idOf(name); }
 

@@ -19,7 +19,9 @@ namespace {
 class ContainerBag final : public PropertyBag
 {
 public:
-    ContainerBag(IPropertyBag &bag, IErrorLog *log, bool saveAll) : m_bag(bag), m_log(log), m_saveAll(saveAll) {}
+    ContainerBag(IPropertyBag &bag, IErrorLog *log, bool saveAll) : m_bag(bag), m_log(log), m_saveAll(saveAll)
+    {
+    }
 
     QVariant ReadProperty(const QString &name, const QVariant &byDefault) const override
     {

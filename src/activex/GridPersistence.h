@@ -10,7 +10,8 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 class GridControl;
 
-// What a container keeps of the control between two runs: the background colour and nothing else. To a stream…
+// What a container keeps of the control between two runs: the background colour and nothing else. To a
+// stream…
 class StreamPersistence final : public Part<IPersistStreamInit>
 {
 public:

@@ -5,7 +5,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 HostErrorCatcher::HostErrorCatcher(QObject &object)
 {
     if (object.metaObject()->indexOfSignal("HostError(qint32,QString)") >= 0)
-        connect(&object, SIGNAL(HostError(qint32,QString)), this, SLOT(take(qint32,QString)));
+        connect(&object, SIGNAL(HostError(qint32, QString)), this, SLOT(take(qint32, QString)));
 }
 
 void HostErrorCatcher::take(qint32 number, const QString &description)

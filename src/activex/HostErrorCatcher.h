@@ -4,8 +4,8 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// Keeps the first error that an object tells its host through the signal HostError while this lives. An object
-// without that signal tells none.
+// Keeps the first error that an object tells its host through the signal HostError while this lives. An
+// object without that signal tells none.
 class HostErrorCatcher : public QObject
 {
     Q_OBJECT

@@ -22,7 +22,8 @@ HRESULT giveWindow(const EmbeddedWindow &window, HWND *handle)
 
 } // namespace
 
-InPlaceObject::InPlaceObject(GridControl &control, InPlace &inPlace) : Part(control.identity()), m_inPlace(inPlace)
+InPlaceObject::InPlaceObject(GridControl &control, InPlace &inPlace)
+    : Part(control.identity()), m_inPlace(inPlace)
 {
 }
 

@@ -9,7 +9,8 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// What a client can reach under one name: a property, or the methods of that name with their overloads, or both.
+// What a client can reach under one name: a property, or the methods of that name with their overloads, or
+// both.
 struct Member
 {
     QString name;
@@ -22,8 +23,8 @@ struct Member
 class MemberTable
 {
 public:
-    // Numbered from 1 as they are declared. DISPID_VALUE stands for "Value", "Item" or "Fields", whichever the
-    // class has.
+    // Numbered from 1 as they are declared. DISPID_VALUE stands for "Value", "Item" or "Fields", whichever
+    // the class has.
     explicit MemberTable(const QMetaObject &type);
     // Numbered as a type library does; what it does not know is left out.
     MemberTable(const QMetaObject &type, ITypeInfo &numbers);

@@ -89,7 +89,8 @@ public:
         const bool whole = type.id() == QMetaType::QVariant;
         QVariant answer = whole || type.id() == QMetaType::Void ? QVariant() : QVariant(type);
         m_pointers[0] = whole ? &answer : type.id() == QMetaType::Void ? nullptr : answer.data();
-        QMetaObject::metacall(&object, QMetaObject::InvokeMetaMethod, m_method.methodIndex(), m_pointers.data());
+        QMetaObject::metacall(&object, QMetaObject::InvokeMetaMethod, m_method.methodIndex(),
+                              m_pointers.data());
         return answer;
     }
 
@@ -104,7 +105,8 @@ bool isNumber(const VARIANT &value)
 {
     const VARIANT &direct = value.vt == (VT_BYREF | VT_VARIANT) ? *value.pvarVal : value;
     const auto type = static_cast<VARTYPE>(direct.vt & ~VT_BYREF);
-    return type == VT_I2 || type == VT_I4 || type == VT_INT || type == VT_UI1 || type == VT_R8 || type == VT_I8;
+    return type == VT_I2 || type == VT_I4 || type == VT_INT || type == VT_UI1 || type == VT_R8 ||
+           type == VT_I8;
 }
 
 // The overload for these arguments: the number of them decides, then whether the first one is a number.
@@ -114,8 +116,9 @@ const QMetaMethod *overloadFor(const Member &member, const Arguments &arguments)
     for (const QMetaMethod &method : member.methods) {
         if (static_cast<std::size_t>(method.parameterCount()) != arguments.size())
             continue;
-        const bool exact = !arguments.empty() &&
-                           (method.parameterType(0) == (isNumber(*arguments[0]) ? QMetaType::Int : QMetaType::QString));
+        const bool exact =
+            !arguments.empty() &&
+            (method.parameterType(0) == (isNumber(*arguments[0]) ? QMetaType::Int : QMetaType::QString));
         if (!best || exact)
             best = &method;
     }

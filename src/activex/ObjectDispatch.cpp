@@ -73,8 +73,8 @@ STDMETHODIMP ObjectDispatch::GetIDsOfNames(REFIID, LPOLESTR *names, UINT count, 
     return ids[0] == DISPID_UNKNOWN || count > 1 ? DISP_E_UNKNOWNNAME : S_OK;
 }
 
-STDMETHODIMP ObjectDispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS *parameters, VARIANT *result,
-                                    EXCEPINFO *exception, UINT *badArgument)
+STDMETHODIMP ObjectDispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS *parameters,
+                                    VARIANT *result, EXCEPINFO *exception, UINT *badArgument)
 {
     if (!parameters)
         return E_POINTER;

@@ -48,8 +48,8 @@ void OleControl::readAmbients()
     Variant value;
     QVariant userMode;
     // A container that does not know the property only ever runs.
-    if (FAILED(ambients->Invoke(DISPID_AMBIENT_USERMODE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none,
-                                value.get(), nullptr, nullptr)) ||
+    if (FAILED(ambients->Invoke(DISPID_AMBIENT_USERMODE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET,
+                                &none, value.get(), nullptr, nullptr)) ||
         FAILED(toQt(*value, QMetaType(QMetaType::Bool), &userMode)))
         userMode = true;
     m_control.grid().PutUserMode(userMode.toBool());

@@ -45,8 +45,9 @@ HRESULT fontFromObject(IUnknown *object, QFont *font)
         return DISP_E_TYPEMISMATCH;
     const QString family = toQString(name ? name : L"");
     SysFreeString(name);
-    if (FAILED(source->get_Size(&size)) || FAILED(source->get_Weight(&weight)) || FAILED(source->get_Italic(&italic)) ||
-        FAILED(source->get_Underline(&underline)) || FAILED(source->get_Strikethrough(&strikeOut)))
+    if (FAILED(source->get_Size(&size)) || FAILED(source->get_Weight(&weight)) ||
+        FAILED(source->get_Italic(&italic)) || FAILED(source->get_Underline(&underline)) ||
+        FAILED(source->get_Strikethrough(&strikeOut)))
         return DISP_E_TYPEMISMATCH;
 
     *font = QFont(family);

@@ -40,7 +40,8 @@ public:
 
     // What the control wants of a container; also registered.
     static constexpr DWORD MiscStatus = OLEMISC_RECOMPOSEONRESIZE | OLEMISC_ACTIVATEWHENVISIBLE |
-                                        OLEMISC_INSIDEOUT | OLEMISC_CANTLINKINSIDE | OLEMISC_SETCLIENTSITEFIRST;
+                                        OLEMISC_INSIDEOUT | OLEMISC_CANTLINKINSIDE |
+                                        OLEMISC_SETCLIENTSITEFIRST;
 
     IOleClientSite *site() const { return m_site.Get(); }
 

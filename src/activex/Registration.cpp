@@ -17,16 +17,6 @@ namespace {
 constexpr wchar_t progId[] = L"KOVAVSFDataGridLib.KOVAVSFDataGrid";
 constexpr wchar_t controlName[] = L"KOVAVSFDataGrid";
 
-struct Page
-{
-    GUID id;
-    const wchar_t *name;
-};
-constexpr std::array pages{Page{ConnectionStringPageId, L"KOVAVSFDataGrid ConnectionString"},
-                           Page{RecordSourcePageId, L"KOVAVSFDataGrid RecordSource"},
-                           Page{SQLShowPageId, L"KOVAVSFDataGrid SQLShow"},
-                           Page{PartDisplayFieldPageId, L"KOVAVSFDataGrid PartDisplayField"}};
-
 struct Entry
 {
     std::wstring key;
@@ -70,8 +60,8 @@ std::vector<Entry> entries()
                            {key + L"\\ToolboxBitmap32", {}, modulePath() + L",1"},
                            {progId, {}, controlName},
                            {std::wstring(progId) + L"\\CLSID", {}, text(ControlId)}});
-    for (const Page &page : pages) {
-        for (Entry &entry : serverEntries(page.id, page.name))
+    for (const PageClass &page : PageClasses) {
+        for (Entry &entry : serverEntries(page.id, std::wstring(controlName) + L" " + page.name))
             all.push_back(std::move(entry));
     }
     return all;
@@ -85,8 +75,11 @@ HRESULT fromError(LSTATUS error)
 class Classes
 {
 public:
-    explicit Classes(HKEY root) { m_outcome = RegCreateKeyExW(root, L"Software\\Classes", 0, nullptr, 0,
-                                                              KEY_READ | KEY_WRITE, nullptr, &m_key, nullptr); }
+    explicit Classes(HKEY root)
+    {
+        m_outcome = RegCreateKeyExW(root, L"Software\\Classes", 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr,
+                                    &m_key, nullptr);
+    }
     ~Classes()
     {
         if (m_key)
@@ -136,7 +129,7 @@ void removeEntries(HKEY root)
         return;
     classes.remove(progId);
     classes.remove(classKey(ControlId));
-    for (const Page &page : pages)
+    for (const PageClass &page : PageClasses)
         classes.remove(classKey(page.id));
 }
 

@@ -41,8 +41,8 @@ STDAPI DllGetClassObject(REFCLSID id, REFIID iid, void **object)
 
 STDAPI DllCanUnloadNow()
 {
-    // Qt cannot be taken out of a running process again. Once it is there, the server stays, even when no object
-    // is left.
+    // Qt cannot be taken out of a running process again. Once it is there, the server stays, even when no
+    // object is left.
     return ModuleUse::count() == 0 && !QCoreApplication::instance() ? S_OK : S_FALSE;
 }
 

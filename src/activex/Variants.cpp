@@ -95,8 +95,8 @@ HRESULT putInteger(qint64 number, VARIANT *result)
 // The value as one of automation's basic types, whatever it came as.
 HRESULT change(const VARIANT &value, VARTYPE type, Variant &changed)
 {
-    return VariantChangeTypeEx(changed.get(), const_cast<VARIANT *>(&value), LOCALE_INVARIANT, VARIANT_ALPHABOOL,
-                               type);
+    return VariantChangeTypeEx(changed.get(), const_cast<VARIANT *>(&value), LOCALE_INVARIANT,
+                               VARIANT_ALPHABOOL, type);
 }
 
 template<typename T>
@@ -264,8 +264,9 @@ HRESULT fromQt(const QVariant &value, VARIANT *result)
     case QMetaType::QDate:
     case QMetaType::QTime:
     case QMetaType::QDateTime: {
-        const QDateTime moment = value.metaType().id() == QMetaType::QTime ? QDateTime(dayZero, value.toTime())
-                                                                           : value.toDateTime();
+        const QDateTime moment = value.metaType().id() == QMetaType::QTime
+                                     ? QDateTime(dayZero, value.toTime())
+                                     : value.toDateTime();
         // Automation's calendar has no other years.
         if (moment.date().year() < 100 || moment.date().year() > 9999)
             return putText(value.toString(), result);

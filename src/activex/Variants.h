@@ -24,13 +24,13 @@ private:
     VARIANT m_value;
 };
 
-// The value as a QVariant of the wanted type. Numbers of every width, texts and Booleans change into one another
-// as automation changes them; colours are OLE_COLORs and fonts IFontDisp objects. Answers DISP_E_TYPEMISMATCH or
-// DISP_E_OVERFLOW when it does not fit.
+// The value as a QVariant of the wanted type. Numbers of every width, texts and Booleans change into one
+// another as automation changes them; colours are OLE_COLORs and fonts IFontDisp objects. Answers
+// DISP_E_TYPEMISMATCH or DISP_E_OVERFLOW when it does not fit.
 HRESULT toQt(const VARIANT &value, QMetaType wanted, QVariant *result);
 
-// The value for a client, into a VARIANT that holds nothing. Every type here is one that scripts can carry: whole
-// numbers too large for 32 bits travel as VT_DECIMAL. An invalid QVariant is Null.
+// The value for a client, into a VARIANT that holds nothing. Every type here is one that scripts can carry:
+// whole numbers too large for 32 bits travel as VT_DECIMAL. An invalid QVariant is Null.
 HRESULT fromQt(const QVariant &value, VARIANT *result);
 
 inline QString toQString(const wchar_t *text)

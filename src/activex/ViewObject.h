@@ -18,8 +18,8 @@ public:
     STDMETHODIMP Draw(DWORD aspect, LONG index, void *aspectInfo, DVTARGETDEVICE *target, HDC targetContext,
                       HDC context, LPCRECTL bounds, LPCRECTL windowBounds, BOOL(CALLBACK *goOn)(ULONG_PTR),
                       ULONG_PTR goOnArgument) override;
-    STDMETHODIMP GetColorSet(DWORD aspect, LONG index, void *aspectInfo, DVTARGETDEVICE *target, HDC targetContext,
-                             LOGPALETTE **colours) override;
+    STDMETHODIMP GetColorSet(DWORD aspect, LONG index, void *aspectInfo, DVTARGETDEVICE *target,
+                             HDC targetContext, LOGPALETTE **colours) override;
     STDMETHODIMP Freeze(DWORD aspect, LONG index, void *aspectInfo, DWORD *key) override;
     STDMETHODIMP Unfreeze(DWORD key) override;
     STDMETHODIMP SetAdvise(DWORD aspects, DWORD flags, IAdviseSink *sink) override;

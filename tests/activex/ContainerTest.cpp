@@ -1,0 +1,304 @@
+#include "Container.h"
+#include "SampleFile.h"
+
+#include <array>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <map>
+#include <olectl.h>
+
+using Microsoft::WRL::ComPtr;
+using namespace Late;
+
+namespace {
+
+// Where pictures of the windows go; empty: none are made.
+std::wstring pictureFolder()
+{
+    const wchar_t *folder = _wgetenv(L"KOVA_PICTURES");
+    return folder ? folder : L"";
+}
+
+void picture(const Container &container, const wchar_t *name)
+{
+    if (!pictureFolder().empty())
+        EXPECT_TRUE(container.saveScreen(pictureFolder() + L"\\" + name + L".bmp"));
+}
+
+void load(Container &container)
+{
+    put(container.control(), L"ConnectionString", sampleConnection().c_str());
+    put(container.control(), L"DBType", 3);
+    put(container.control(), L"SQLShow", L"select id, name, born, big from people order by id");
+    ASSERT_TRUE(get(container.control(), L"IsLoadData").isTrue());
+    container.run();
+}
+
+// A point in the first data row.
+constexpr int rowX = 120;
+int rowY(const Container &container);
+
+class MemoryBag final : public IPropertyBag
+{
+public:
+    std::map<std::wstring, long> values;
+
+    STDMETHODIMP QueryInterface(REFIID, void **object) override
+    {
+        *object = this;
+        return S_OK;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return 1; }
+    STDMETHODIMP_(ULONG) Release() override { return 1; }
+    STDMETHODIMP Read(LPCOLESTR name, VARIANT *value, IErrorLog *) override
+    {
+        const auto found = values.find(name);
+        if (found == values.end())
+            return E_INVALIDARG;
+        value->vt = VT_I4;
+        value->lVal = found->second;
+        return S_OK;
+    }
+    STDMETHODIMP Write(LPCOLESTR name, VARIANT *value) override
+    {
+        values[name] = value->vt == VT_I4 ? value->lVal : -1;
+        return S_OK;
+    }
+};
+
+TEST(ContainerTest, ShowsTheControlInItsWindow)
+{
+    Container container(800, 500);
+    const HWND window = container.controlWindow();
+    ASSERT_TRUE(IsWindow(window));
+    EXPECT_EQ(GetAncestor(window, GA_PARENT), container.window());
+    RECT inside{};
+    GetClientRect(window, &inside);
+    EXPECT_EQ(inside.right, 800);
+    EXPECT_EQ(inside.bottom, 500);
+    load(container);
+    picture(container, L"loaded");
+
+    const RECT smaller{10, 20, 610, 420};
+    ASSERT_EQ(container.as<IOleInPlaceObject>()->SetObjectRects(&smaller, &smaller), S_OK);
+    container.run();
+    RECT placed{};
+    GetWindowRect(window, &placed);
+    MapWindowPoints(nullptr, container.window(), reinterpret_cast<POINT *>(&placed), 2);
+    EXPECT_TRUE(EqualRect(&placed, &smaller));
+    picture(container, L"moved");
+}
+
+TEST(ContainerTest, TellsTheEventsOfTheMouse)
+{
+    Container container(800, 500);
+    load(container);
+    container.forget();
+    container.click(rowX, rowY(container));
+    ASSERT_EQ(container.countOf(1), 1); // DataMouseDown
+    ASSERT_EQ(container.countOf(2), 1); // DataMouseUp
+    EXPECT_GE(container.countOf(3), 1); // DataMouseMove
+    EXPECT_EQ(container.countOf(6), 1); // DataClick
+    for (const Event &event : container.events()) {
+        if (event.id == 1) {
+            ASSERT_EQ(event.numbers.size(), 4u);
+            EXPECT_EQ(event.numbers[0], 1); // the left button
+            EXPECT_EQ(event.numbers[1], 0);
+            EXPECT_GT(event.numbers[2], 0); // twips
+        }
+    }
+    EXPECT_TRUE(container.hasUi());
+
+    container.forget();
+    container.doubleClick(rowX, rowY(container));
+    EXPECT_EQ(container.countOf(7), 1);
+    EXPECT_EQ(container.countOf(14) + container.countOf(15), 1);
+}
+
+TEST(ContainerTest, HandsKeysToTheGrid)
+{
+    Container container(800, 500);
+    load(container);
+    container.click(rowX, rowY(container));
+    const long before = get(container.control(), L"GetGridRowL").number();
+    container.forget();
+    container.key(VK_DOWN);
+    ASSERT_EQ(container.countOf(8), 1);
+    EXPECT_EQ(container.events().front().numbers[0], VK_DOWN);
+    EXPECT_EQ(get(container.control(), L"GetGridRowL").number(), before + 1);
+}
+
+TEST(ContainerTest, AHandlerChangesWhatTheFilterDoes)
+{
+    Container container(800, 500);
+    load(container);
+    container.forget();
+    put(container.control(), L"PassQurryFilter", L"id > 1");
+    container.answerQurryFilter(0);
+    // The toolbar is at the top; its buttons are tried from the left until the filter's answers.
+    for (int x = 12; x < 400 && container.countOf(11) == 0; x += 12)
+        container.click(x, 14);
+    ASSERT_EQ(container.countOf(11), 1);
+    EXPECT_EQ(get(get(container.control(), L"RecordSet").object(), L"RecordCount").number(), 2);
+    picture(container, L"filtered");
+}
+
+TEST(ContainerTest, FrozenEventsAreNotTold)
+{
+    Container container(800, 500);
+    load(container);
+    container.forget();
+    container.as<IOleControl>()->FreezeEvents(TRUE);
+    container.click(rowX, rowY(container));
+    EXPECT_TRUE(container.events().empty());
+    container.as<IOleControl>()->FreezeEvents(FALSE);
+    container.click(rowX, rowY(container));
+    EXPECT_FALSE(container.events().empty());
+}
+
+TEST(ContainerTest, TellsWhichPropertyHasChanged)
+{
+    Container container(400, 300);
+    put(container.control(), L"SQLFilter", L"x");
+    EXPECT_EQ(container.changedProperties(), std::vector<DISPID>{16});
+}
+
+TEST(ContainerTest, InDesignModeUseModelCanBeWritten)
+{
+    Container container(400, 300, false);
+    EXPECT_EQ(put(container.control(), L"UseModel", 1).outcome, S_OK);
+    EXPECT_EQ(get(container.control(), L"UseModel").number(), 1);
+    container.setUserMode(true);
+    EXPECT_EQ(put(container.control(), L"UseModel", 0).outcome, DISP_E_EXCEPTION);
+}
+
+TEST(ContainerTest, KeepsOnlyTheBackgroundColourInAPropertyBag)
+{
+    MemoryBag bag;
+    {
+        Container container(400, 300);
+        put(container.control(), L"SQLShow", L"select 1");
+        put(container.control(), L"BackColor", 0x00336699);
+        EXPECT_EQ(container.as<IPersistStreamInit>()->IsDirty(), S_OK);
+        ASSERT_EQ(container.as<IPersistPropertyBag>()->Save(&bag, TRUE, TRUE), S_OK);
+        EXPECT_EQ(container.as<IPersistStreamInit>()->IsDirty(), S_FALSE);
+    }
+    EXPECT_EQ(bag.values, (std::map<std::wstring, long>{{L"BackColor", 0x00336699}}));
+    Container restored(400, 300);
+    ASSERT_EQ(restored.as<IPersistPropertyBag>()->Load(&bag, nullptr), S_OK);
+    EXPECT_EQ(get(restored.control(), L"BackColor").number(), 0x00336699);
+    EXPECT_EQ(get(restored.control(), L"SQLShow").text(), L"");
+}
+
+TEST(ContainerTest, AnAbsentEntryGivesTheButtonFaceColour)
+{
+    MemoryBag empty;
+    Container container(400, 300);
+    const long face = get(container.control(), L"BackColor").number();
+    put(container.control(), L"BackColor", 0x00010203);
+    ASSERT_EQ(container.as<IPersistPropertyBag>()->Load(&empty, nullptr), S_OK);
+    EXPECT_EQ(get(container.control(), L"BackColor").number(), face);
+}
+
+TEST(ContainerTest, KeepsTheBackgroundColourInAStream)
+{
+    ComPtr<IStream> stream;
+    ASSERT_EQ(CreateStreamOnHGlobal(nullptr, TRUE, &stream), S_OK);
+    {
+        Container container(400, 300);
+        put(container.control(), L"BackColor", 0x00112233);
+        ASSERT_EQ(container.as<IPersistStreamInit>()->Save(stream.Get(), TRUE), S_OK);
+    }
+    stream->Seek({}, STREAM_SEEK_SET, nullptr);
+    Container restored(400, 300);
+    ASSERT_EQ(restored.as<IPersistStreamInit>()->Load(stream.Get()), S_OK);
+    EXPECT_EQ(get(restored.control(), L"BackColor").number(), 0x00112233);
+    EXPECT_TRUE(FAILED(restored.as<IPersistStreamInit>()->Load(stream.Get()))); // at its end
+}
+
+TEST(ContainerTest, DrawsItselfWithoutAWindow)
+{
+    Container container(400, 300);
+    container.doVerb(OLEIVERB_HIDE);
+    SIZEL extent{};
+    ASSERT_EQ(container.as<IViewObject2>()->GetExtent(DVASPECT_CONTENT, -1, nullptr, &extent), S_OK);
+    EXPECT_GT(extent.cx, 0);
+    const HDC screen = GetDC(nullptr);
+    const HDC memory = CreateCompatibleDC(screen);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, 400, 300);
+    const HGDIOBJ before = SelectObject(memory, bitmap);
+    PatBlt(memory, 0, 0, 400, 300, BLACKNESS);
+    const RECTL bounds{0, 0, 400, 300};
+    EXPECT_EQ(container.as<IViewObject2>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, memory,
+                                                 &bounds, nullptr, nullptr, 0),
+              S_OK);
+    EXPECT_NE(GetPixel(memory, 200, 150), RGB(0, 0, 0));
+    SelectObject(memory, before);
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+    ReleaseDC(nullptr, screen);
+}
+
+TEST(ContainerTest, APropertyPageWritesTheProperty)
+{
+    Container container(500, 300);
+    CAUUID pages{};
+    ASSERT_EQ(container.as<ISpecifyPropertyPages>()->GetPages(&pages), S_OK);
+    ASSERT_EQ(pages.cElems, 4u);
+    ComPtr<IPropertyPage> page;
+    ASSERT_EQ(CoCreateInstance(pages.pElems[2], nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&page)), S_OK);
+    CoTaskMemFree(pages.pElems);
+    PROPPAGEINFO info{};
+    info.cb = sizeof info;
+    ASSERT_EQ(page->GetPageInfo(&info), S_OK);
+    EXPECT_STREQ(info.pszTitle, L"SQLShow");
+    CoTaskMemFree(info.pszTitle);
+
+    put(container.control(), L"SQLShow", L"select id from people");
+    IUnknown *object = container.control().Get();
+    ASSERT_EQ(page->SetObjects(1, &object), S_OK);
+    const RECT place{10, 10, 480, 200};
+    ASSERT_EQ(page->Activate(container.window(), &place, FALSE), S_OK);
+    ASSERT_EQ(page->Show(SW_SHOWNORMAL), S_OK);
+    container.run();
+    EXPECT_EQ(page->IsPageDirty(), S_FALSE);
+    container.key(VK_END);
+    container.key('1');
+    EXPECT_EQ(page->IsPageDirty(), S_OK);
+    picture(container, L"page");
+    EXPECT_EQ(page->Apply(), S_OK);
+    EXPECT_EQ(get(container.control(), L"SQLShow").text(), L"select id from people1");
+    page->Deactivate();
+    page->SetObjects(0, nullptr);
+}
+
+TEST(ContainerTest, LeavesNothingBehind)
+{
+    Container container(400, 300);
+    load(container);
+    container.click(rowX, rowY(container));
+    EXPECT_TRUE(container.release());
+    // What is left is the container's own reference to itself.
+    EXPECT_EQ(container.references(), 1u);
+}
+
+TEST(ContainerTest, TwoControlsLiveBesideEachOther)
+{
+    Container first(400, 300);
+    Container second(400, 300);
+    put(first.control(), L"STR_SQLTEMP", L"one");
+    put(second.control(), L"STR_SQLTEMP", L"two");
+    EXPECT_EQ(get(first.control(), L"STR_SQLTEMP").text(), L"one");
+    EXPECT_TRUE(second.release());
+    EXPECT_EQ(get(first.control(), L"STR_SQLTEMP").text(), L"one");
+}
+
+int rowY(const Container &container)
+{
+    // Below toolbar and headings; the same for every container of these tests.
+    RECT inside{};
+    GetClientRect(container.controlWindow(), &inside);
+    return 85;
+}
+
+} // namespace
