@@ -2,6 +2,8 @@
 
 #include "activex/Enumeration.h"
 
+#include <olectl.h>
+
 namespace KOVAVSFDataGridLib::ActiveX {
 
 using Microsoft::WRL::ComPtr;

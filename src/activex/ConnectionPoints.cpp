@@ -6,6 +6,8 @@
 
 #include <KOVAVSFDataGrid>
 
+#include <olectl.h>
+
 namespace KOVAVSFDataGridLib::ActiveX {
 
 using Microsoft::WRL::ComPtr;

@@ -6,6 +6,7 @@
 #include <QtCore/QLocale>
 #include <QtCore/QThread>
 #include <QtCore/QTranslator>
+#include <QtGui/QFont>
 #include <QtWidgets/QApplication>
 
 #include <array>

@@ -10,11 +10,20 @@
 #include <string>
 #include <vector>
 
+// In the import library, but not in the headers of mingw-w64.
+extern "C" {
+HRESULT WINAPI RegisterTypeLibForUser(ITypeLib *library, OLECHAR *path, OLECHAR *helpFolder);
+HRESULT WINAPI UnRegisterTypeLibForUser(REFGUID id, WORD major, WORD minor, LCID locale, SYSKIND kind);
+}
+
 namespace KOVAVSFDataGridLib::ActiveX {
 
 namespace {
 
 constexpr wchar_t progId[] = L"KOVAVSFDataGridLib.KOVAVSFDataGrid";
+// The component category of everything that can be placed on a form.
+constexpr GUID controlCategory = {
+    0x40fc6ed4, 0x2438, 0x11cf, {0xa3, 0xdb, 0x08, 0x00, 0x36, 0xf1, 0x25, 0x02}};
 constexpr wchar_t controlName[] = L"KOVAVSFDataGrid";
 
 struct Entry
@@ -48,18 +57,19 @@ std::vector<Entry> entries()
 {
     const std::wstring key = classKey(ControlId);
     std::vector<Entry> all = serverEntries(ControlId, controlName);
-    all.insert(all.end(), {{key + L"\\ProgID", {}, progId},
-                           {key + L"\\VersionIndependentProgID", {}, progId},
-                           {key + L"\\TypeLib", {}, text(LibraryId)},
-                           {key + L"\\Version", {}, L"1.0"},
-                           {key + L"\\Control", {}, {}},
-                           {key + L"\\Programmable", {}, {}},
-                           {key + L"\\Implemented Categories\\" + text(CATID_Control), {}, {}},
-                           {key + L"\\MiscStatus", {}, L"0"},
-                           {key + L"\\MiscStatus\\1", {}, std::to_wstring(OleObject::MiscStatus)},
-                           {key + L"\\ToolboxBitmap32", {}, modulePath() + L",1"},
-                           {progId, {}, controlName},
-                           {std::wstring(progId) + L"\\CLSID", {}, text(ControlId)}});
+    all.insert(all.end(), std::initializer_list<Entry>{
+                              {key + L"\\ProgID", {}, progId},
+                              {key + L"\\VersionIndependentProgID", {}, progId},
+                              {key + L"\\TypeLib", {}, text(LibraryId)},
+                              {key + L"\\Version", {}, L"1.0"},
+                              {key + L"\\Control", {}, {}},
+                              {key + L"\\Programmable", {}, {}},
+                              {key + L"\\Implemented Categories\\" + text(controlCategory), {}, {}},
+                              {key + L"\\MiscStatus", {}, L"0"},
+                              {key + L"\\MiscStatus\\1", {}, std::to_wstring(OleObject::MiscStatus)},
+                              {key + L"\\ToolboxBitmap32", {}, modulePath() + L",1"},
+                              {progId, {}, controlName},
+                              {std::wstring(progId) + L"\\CLSID", {}, text(ControlId)}});
     for (const PageClass &page : PageClasses) {
         for (Entry &entry : serverEntries(page.id, std::wstring(controlName) + L" " + page.name))
             all.push_back(std::move(entry));

@@ -27,7 +27,7 @@ QDateTime toDateTime(DATE date)
     // Days before day 0 are negative, the time of day always counts forwards.
     const double days = std::trunc(date);
     const double fraction = std::abs(date - days);
-    const auto milliseconds = static_cast<qint64>(std::llround(fraction * 86'400'000.0));
+    const auto milliseconds = qint64(std::llround(fraction * 86'400'000.0));
     return dayZero.addDays(static_cast<qint64>(days)).startOfDay().addMSecs(milliseconds);
 }
 
@@ -127,7 +127,7 @@ QVariant anything(const VARIANT &value, HRESULT *outcome)
     case VT_UINT:
     case VT_I8:
         *outcome = change(value, VT_I8, changed);
-        return static_cast<qlonglong>(changed->llVal);
+        return changed->llVal;
     case VT_R4:
     case VT_R8:
         *outcome = change(value, VT_R8, changed);
@@ -194,7 +194,7 @@ HRESULT toQtPlain(const VARIANT &value, QMetaType wanted, QVariant *result)
         return outcome;
     case QMetaType::Short:
         outcome = change(value, VT_I2, changed);
-        *result = numberAs(wanted, static_cast<qint16>(changed->iVal));
+        *result = numberAs(wanted, changed->iVal);
         return outcome;
     case QMetaType::Float:
         outcome = change(value, VT_R4, changed);

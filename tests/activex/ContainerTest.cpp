@@ -21,8 +21,9 @@ std::wstring pictureFolder()
 
 void picture(const Container &container, const wchar_t *name)
 {
-    if (!pictureFolder().empty())
-        EXPECT_TRUE(container.saveScreen(pictureFolder() + L"\\" + name + L".bmp"));
+    if (pictureFolder().empty())
+        return;
+    EXPECT_TRUE(container.saveScreen(pictureFolder() + L"\\" + name + L".bmp"));
 }
 
 void load(Container &container)
