@@ -1,28 +1,46 @@
-# What `cmake --install` lays down: the library, its public headers and the CMake package.
+# What `cmake --install` lays down, in three components that are also the three Debian packages:
+#   runtime   the library and the host program with its desktop entry
+#   dev       the public headers and what CMake and pkg-config need to find the library
+#   designer  the form editor's plugin, declared where the plugin is built
 include(CMakePackageConfigHelpers)
 
+set(KOVA_INSTALL_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR}/KOVAVSFDataGridLib)
+
 install(TARGETS KOVAVSFDataGridLib EXPORT KOVAVSFDataGridLibTargets
-  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/KOVAVSFDataGridLib)
-install(FILES ${PROJECT_SOURCE_DIR}/include/KOVAVSFDataGrid
-  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/KOVAVSFDataGridLib)
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev
+  INCLUDES DESTINATION ${KOVA_INSTALL_INCLUDEDIR})
+
+install(FILES ${PROJECT_SOURCE_DIR}/include/KOVAVSFDataGrid DESTINATION ${KOVA_INSTALL_INCLUDEDIR} COMPONENT dev)
 foreach(header IN LISTS KOVA_PUBLIC_HEADERS)
   cmake_path(GET header PARENT_PATH folder)
   install(FILES ${PROJECT_SOURCE_DIR}/src/${header}
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/KOVAVSFDataGridLib/${folder})
+    DESTINATION ${KOVA_INSTALL_INCLUDEDIR}/${folder} COMPONENT dev)
 endforeach()
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/KOVAVSFDataGridLib)
-install(EXPORT KOVAVSFDataGridLibTargets NAMESPACE KOVAVSFDataGridLib:: DESTINATION ${package_dir})
+install(EXPORT KOVAVSFDataGridLibTargets NAMESPACE KOVAVSFDataGridLib:: DESTINATION ${package_dir} COMPONENT dev)
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/KOVAVSFDataGridLibConfig.cmake.in
   ${PROJECT_BINARY_DIR}/KOVAVSFDataGridLibConfig.cmake INSTALL_DESTINATION ${package_dir})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/KOVAVSFDataGridLibConfigVersion.cmake
   COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/KOVAVSFDataGridLibConfig.cmake
-  ${PROJECT_BINARY_DIR}/KOVAVSFDataGridLibConfigVersion.cmake DESTINATION ${package_dir})
+  ${PROJECT_BINARY_DIR}/KOVAVSFDataGridLibConfigVersion.cmake DESTINATION ${package_dir} COMPONENT dev)
+
+# The prefix is found from the place of the .pc file, so that an installation can be moved.
+set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
+  BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${pkgconfig_dir} OUTPUT_VARIABLE KOVA_PREFIX_FROM_PC)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/KOVAVSFDataGridLib.pc.in
+  ${PROJECT_BINARY_DIR}/KOVAVSFDataGridLib.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/KOVAVSFDataGridLib.pc DESTINATION ${pkgconfig_dir} COMPONENT dev)
+
 if(TARGET kovagrid)
   set_target_properties(kovagrid PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
-  install(TARGETS kovagrid RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(TARGETS kovagrid RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
+  set(kovagrid_dir ${PROJECT_SOURCE_DIR}/apps/kovagrid)
+  install(FILES ${kovagrid_dir}/kovagrid.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT runtime)
+  install(FILES ${kovagrid_dir}/kovagrid.svg
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT runtime)
 endif()

@@ -8,6 +8,7 @@
 #include <QtCore/QLibraryInfo>
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QTranslator>
+#include <QtGui/QIcon>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QTableView>
 #include <QtWidgets/QToolBar>
@@ -117,6 +118,8 @@ int run(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(u"kovagrid"_s);
     QApplication::setApplicationDisplayName(u"KOVAVSFDataGrid"_s);
+    QApplication::setDesktopFileName(u"kovagrid"_s);
+    QApplication::setWindowIcon(QIcon(u":/kovagrid.svg"_s));
     QTranslator translator;
     useChinese(translator);
 

@@ -14,24 +14,30 @@ class Recordset;
 class KOVA_EXPORT Adodc : public QObject, private RecordsetObserver
 {
     Q_OBJECT
+    // The recordset by ADO's member names, a RecordsetObject; null until one is put.
     Q_PROPERTY(QObject *Recordset READ recordsetObject NOTIFY RecordsetReplaced)
 
 public:
+    // Without a recordset.
     explicit Adodc(QObject *parent = nullptr);
     ~Adodc() override;
 
-    // Null until one is put. Putting one that is open tells RecordsetChangeComplete(adRsnRequery) and
-    // MoveComplete(adRsnMove).
+    // Null until one is put. Shared with whoever else holds it.
     const std::shared_ptr<ADODB::Recordset> &Recordset() const { return m_recordset; }
+    // Null lets go of the one there is. Putting one that is open tells RecordsetChangeComplete(adRsnRequery)
+    // and MoveComplete(adRsnMove).
     void PutRecordset(std::shared_ptr<ADODB::Recordset> recordset);
     // The same one by ADO's member names; see automation().
     QObject *recordsetObject() const;
 
 Q_SIGNALS:
-    // See RecordsetObserver for what each one means and which reasons it has.
+    // See RecordsetObserver::moveComplete.
     void MoveComplete(ADODB::EventReasonEnum adReason);
+    // See RecordsetObserver::recordChangeComplete.
     void RecordChangeComplete(ADODB::EventReasonEnum adReason);
+    // See RecordsetObserver::recordsetChangeComplete.
     void RecordsetChangeComplete(ADODB::EventReasonEnum adReason);
+    // Another recordset, or none, was put.
     void RecordsetReplaced();
 
 private:

@@ -30,19 +30,19 @@ Connection::~Connection() = default;
 
 QString Connection::ConnectionString() const
 {
-    return m_session ? ADODB::ConnectionString(m_text).textWithoutPassword() : m_text;
+    return State() == adStateOpen ? ADODB::ConnectionString(m_text).textWithoutPassword() : m_text;
 }
 
 void Connection::PutConnectionString(const QString &text)
 {
-    if (m_session)
+    if (State() == adStateOpen)
         throw Error(adErrObjectOpen, Texts::connectionOpen());
     m_text = text;
 }
 
 void Connection::Open(const QString &connectionString, const QString &user, const QString &password, qint32)
 {
-    if (m_session)
+    if (State() == adStateOpen)
         throw Error(adErrObjectOpen, Texts::connectionOpen());
     const QString text = connectionString.isEmpty() ? m_text : connectionString;
     ADODB::ConnectionString parsed(text);
@@ -60,7 +60,7 @@ void Connection::Close()
 
 ObjectStateEnum Connection::State() const
 {
-    return m_session ? adStateOpen : adStateClosed;
+    return m_session && m_session->isOpen() ? adStateOpen : adStateClosed;
 }
 
 std::vector<FieldInfo> Connection::Describe(const QString &sql) const
@@ -70,7 +70,7 @@ std::vector<FieldInfo> Connection::Describe(const QString &sql) const
 
 const std::shared_ptr<Session> &Connection::session() const
 {
-    if (!m_session)
+    if (State() == adStateClosed)
         throw Error(adErrObjectClosed, Texts::connectionClosed());
     return m_session;
 }

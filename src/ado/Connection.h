@@ -17,14 +17,16 @@ class Session;
 class KOVA_EXPORT Connection
 {
 public:
+    // A closed one.
     Connection();
     ~Connection();
     Q_DISABLE_COPY_MOVE(Connection)
 
     // `Keyword=value;…`, keywords in any letter case; see ConnectionString.h. Reading it back gives it
     // without the password once the connection is open, as ADO does.
+    // Writing throws 3705 while open.
     QString ConnectionString() const;
-    void PutConnectionString(const QString &text); // 3705 while open
+    void PutConnectionString(const QString &text);
 
     // Opens the database; an argument that is not empty replaces the property or the keyword of that name.
     // `options` is ConnectOptionEnum; opening is always synchronous. Never creates a file. Throws 3705 when
@@ -33,6 +35,7 @@ public:
               qint32 options = adConnectUnspecified);
     // Throws 3704 when already closed.
     void Close();
+    // Whether it is open. Closed also once a server is found to have gone away; it can be opened again then.
     ObjectStateEnum State() const;
 
     // The columns of a statement, found by preparing it; no row is fetched. Throws 3704 when closed, else as

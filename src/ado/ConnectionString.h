@@ -14,25 +14,36 @@ namespace ADODB {
 class KOVA_EXPORT ConnectionString
 {
 public:
+    // One `Keyword=value`.
+    struct Part
+    {
+        QString keyword; // as written
+        QString value;   // without its quotes
+    };
+
+    // Without any keyword.
     ConnectionString() = default;
     // Throws 3001 when the text is malformed, telling which part it is but never what it says.
     explicit ConnectionString(const QString &text);
 
+    // Whether the keyword stands there.
     bool contains(const QString &keyword) const;
-    QString value(const QString &keyword) const; // empty when there is none
+    // Its value without quotes; empty when there is none.
+    QString value(const QString &keyword) const;
+    // Replaces its value, or adds it at the end.
     void set(const QString &keyword, const QString &value);
+    // Takes it out, wherever it stands.
     void remove(const QString &keyword);
+
+    // In the order of the text, each keyword once.
+    const std::vector<Part> &parts() const { return m_parts; }
 
     // One text again, with quotes where a value needs them.
     QString text() const;
+    // The same, to be shown or kept.
     QString textWithoutPassword() const;
 
 private:
-    struct Part
-    {
-        QString keyword;
-        QString value;
-    };
     std::vector<Part> m_parts;
 };
 

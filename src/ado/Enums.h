@@ -10,177 +10,226 @@
 namespace ADODB {
 Q_NAMESPACE_EXPORT(KOVA_EXPORT)
 
-enum ObjectStateEnum : qint32 { adStateClosed = 0, adStateOpen = 1 };
+// Whether a connection, a recordset or a stream is open.
+enum ObjectStateEnum : qint32 {
+    adStateClosed = 0, // closed
+    adStateOpen = 1    // open
+};
 Q_ENUM_NS(ObjectStateEnum)
 
-enum ConnectOptionEnum : qint32 { adConnectUnspecified = -1 };
+// How a connection opens.
+enum ConnectOptionEnum : qint32 {
+    adConnectUnspecified = -1 // synchronously, the only way here
+};
 Q_ENUM_NS(ConnectOptionEnum)
 
-enum CursorLocationEnum : qint32 { adUseServer = 2, adUseClient = 3 };
+// Where a result is kept.
+enum CursorLocationEnum : qint32 {
+    adUseServer = 2, // at the server; accepted, but opened as adUseClient
+    adUseClient = 3  // here, as a snapshot
+};
 Q_ENUM_NS(CursorLocationEnum)
 
+// How a result follows changes; every one is opened as adOpenStatic.
 enum CursorTypeEnum : qint32 {
-    adOpenUnspecified = -1,
-    adOpenForwardOnly = 0,
-    adOpenKeyset = 1,
-    adOpenDynamic = 2,
-    adOpenStatic = 3
+    adOpenUnspecified = -1, // not said
+    adOpenForwardOnly = 0,  // forwards only
+    adOpenKeyset = 1,       // rows fixed, values live
+    adOpenDynamic = 2,      // all live
+    adOpenStatic = 3        // a snapshot
 };
 Q_ENUM_NS(CursorTypeEnum)
 
+// Whether a result can be written.
 enum LockTypeEnum : qint32 {
-    adLockUnspecified = -1,
-    adLockReadOnly = 1,
-    adLockPessimistic = 2,
-    adLockOptimistic = 3,
-    adLockBatchOptimistic = 4
+    adLockUnspecified = -1,   // not said: read-only
+    adLockReadOnly = 1,       // read-only
+    adLockPessimistic = 2,    // each record when its edit begins; written as adLockOptimistic
+    adLockOptimistic = 3,     // each record when it is saved
+    adLockBatchOptimistic = 4 // several at once; written as adLockOptimistic
 };
 Q_ENUM_NS(LockTypeEnum)
 
+// What the text handed to Open is.
 enum CommandTypeEnum : qint32 {
-    adCmdUnspecified = -1,
-    adCmdText = 1,
-    adCmdTable = 2,
-    adCmdStoredProc = 4,
-    adCmdUnknown = 8,
-    adCmdFile = 256,
-    adCmdTableDirect = 512
+    adCmdUnspecified = -1, // not said: a statement
+    adCmdText = 1,         // a statement
+    adCmdTable = 2,        // a table's name
+    adCmdStoredProc = 4,   // taken as a statement
+    adCmdUnknown = 8,      // taken as a statement
+    adCmdFile = 256,       // taken as a statement
+    adCmdTableDirect = 512 // a table's name
 };
 Q_ENUM_NS(CommandTypeEnum)
 
-enum AffectEnum : qint32 { adAffectCurrent = 1, adAffectGroup = 2, adAffectAll = 3, adAffectAllChapters = 4 };
+// Which records Delete takes.
+enum AffectEnum : qint32 {
+    adAffectCurrent = 1,    // the current one
+    adAffectGroup = 2,      // those of the filter; refused
+    adAffectAll = 3,        // all; refused
+    adAffectAllChapters = 4 // those of all chapters; refused
+};
 Q_ENUM_NS(AffectEnum)
 
 // What AbsolutePosition and AbsolutePage answer when they do not stand on a record.
-enum PositionEnum : qint32 { adPosUnknown = -1, adPosBOF = -2, adPosEOF = -3 };
+enum PositionEnum : qint32 {
+    adPosUnknown = -1, // on a deleted or a not yet saved record
+    adPosBOF = -2,     // before the first record
+    adPosEOF = -3      // behind the last record
+};
 Q_ENUM_NS(PositionEnum)
 
-enum BookmarkEnum : qint32 { adBookmarkCurrent = 0, adBookmarkFirst = 1, adBookmarkLast = 2 };
+// Where Move counts from.
+enum BookmarkEnum : qint32 {
+    adBookmarkCurrent = 0, // the current record
+    adBookmarkFirst = 1,   // the first record
+    adBookmarkLast = 2     // the last record
+};
 Q_ENUM_NS(BookmarkEnum)
 
-enum EditModeEnum : qint32 { adEditNone = 0, adEditInProgress = 1, adEditAdd = 2, adEditDelete = 4 };
+// What a recordset is in the middle of.
+enum EditModeEnum : qint32 {
+    adEditNone = 0,       // nothing
+    adEditInProgress = 1, // the current record has changed values
+    adEditAdd = 2,        // a new record is not saved yet
+    adEditDelete = 4      // the current record was deleted
+};
 Q_ENUM_NS(EditModeEnum)
 
+// Why an event came.
 enum EventReasonEnum : qint32 {
-    adRsnAddNew = 1,
-    adRsnDelete = 2,
-    adRsnUpdate = 3,
-    adRsnUndoUpdate = 4,
-    adRsnUndoAddNew = 5,
-    adRsnUndoDelete = 6,
-    adRsnRequery = 7,
-    adRsnResynch = 8,
-    adRsnClose = 9,
-    adRsnMove = 10,
-    adRsnFirstChange = 11,
-    adRsnMoveFirst = 12,
-    adRsnMoveNext = 13,
-    adRsnMovePrevious = 14,
-    adRsnMoveLast = 15
+    adRsnAddNew = 1,        // a record was added
+    adRsnDelete = 2,        // a record was deleted
+    adRsnUpdate = 3,        // a record was saved
+    adRsnUndoUpdate = 4,    // an edit was given up
+    adRsnUndoAddNew = 5,    // a new record was given up
+    adRsnUndoDelete = 6,    // a deletion was given up
+    adRsnRequery = 7,       // the result was opened
+    adRsnResynch = 8,       // the result was read again
+    adRsnClose = 9,         // the result was closed
+    adRsnMove = 10,         // the current record moved
+    adRsnFirstChange = 11,  // the first change to a record's values
+    adRsnMoveFirst = 12,    // MoveFirst
+    adRsnMoveNext = 13,     // MoveNext
+    adRsnMovePrevious = 14, // MovePrevious
+    adRsnMoveLast = 15      // MoveLast
 };
 Q_ENUM_NS(EventReasonEnum)
 
+// Types of fields. Not every one is used by a provider here.
 enum DataTypeEnum : qint32 {
-    adEmpty = 0,
-    adSmallInt = 2,
-    adInteger = 3,
-    adSingle = 4,
-    adDouble = 5,
-    adCurrency = 6,
-    adDate = 7,
-    adBSTR = 8,
-    adIDispatch = 9,
-    adError = 10,
-    adBoolean = 11,
-    adVariant = 12,
-    adIUnknown = 13,
-    adDecimal = 14,
-    adTinyInt = 16,
-    adUnsignedTinyInt = 17,
-    adUnsignedSmallInt = 18,
-    adUnsignedInt = 19,
-    adBigInt = 20,
-    adUnsignedBigInt = 21,
-    adFileTime = 64,
-    adGUID = 72,
-    adBinary = 128,
-    adChar = 129,
-    adWChar = 130,
-    adNumeric = 131,
-    adUserDefined = 132,
-    adDBDate = 133,
-    adDBTime = 134,
-    adDBTimeStamp = 135,
-    adChapter = 136,
-    adPropVariant = 138,
-    adVarNumeric = 139,
-    adVarChar = 200,
-    adLongVarChar = 201,
-    adVarWChar = 202,
-    adLongVarWChar = 203,
-    adVarBinary = 204,
-    adLongVarBinary = 205
+    adEmpty = 0,             // no value
+    adSmallInt = 2,          // 16-bit integer
+    adInteger = 3,           // 32-bit integer
+    adSingle = 4,            // 32-bit floating point
+    adDouble = 5,            // 64-bit floating point
+    adCurrency = 6,          // money, four digits behind the point
+    adDate = 7,              // date and time as a number of days
+    adBSTR = 8,              // text
+    adIDispatch = 9,         // an object
+    adError = 10,            // an error number
+    adBoolean = 11,          // True or False
+    adVariant = 12,          // a value of any type
+    adIUnknown = 13,         // an object without names
+    adDecimal = 14,          // exact number
+    adTinyInt = 16,          // 8-bit integer
+    adUnsignedTinyInt = 17,  // 8-bit integer without sign
+    adUnsignedSmallInt = 18, // 16-bit integer without sign
+    adUnsignedInt = 19,      // 32-bit integer without sign
+    adBigInt = 20,           // 64-bit integer
+    adUnsignedBigInt = 21,   // 64-bit integer without sign
+    adFileTime = 64,         // 100 ns since 1601
+    adGUID = 72,             // GUID
+    adBinary = 128,          // bytes of fixed length
+    adChar = 129,            // text of fixed length
+    adWChar = 130,           // Unicode text of fixed length
+    adNumeric = 131,         // exact number of fixed scale
+    adUserDefined = 132,     // the database's own type
+    adDBDate = 133,          // date
+    adDBTime = 134,          // time of day
+    adDBTimeStamp = 135,     // date and time
+    adChapter = 136,         // records below a record
+    adPropVariant = 138,     // a value of any type, for automation
+    adVarNumeric = 139,      // exact number of any length
+    adVarChar = 200,         // text
+    adLongVarChar = 201,     // long text
+    adVarWChar = 202,        // Unicode text
+    adLongVarWChar = 203,    // long Unicode text
+    adVarBinary = 204,       // bytes
+    adLongVarBinary = 205    // many bytes
 };
 Q_ENUM_NS(DataTypeEnum)
 
 // Bits of Field::Attributes().
 enum FieldAttributeEnum : qint32 {
-    adFldUnspecified = -1,
-    adFldMayDefer = 0x2,
-    adFldUpdatable = 0x4,
-    adFldUnknownUpdatable = 0x8,
-    adFldFixed = 0x10,
-    adFldIsNullable = 0x20,
-    adFldMayBeNull = 0x40,
-    adFldLong = 0x80,
-    adFldRowID = 0x100,
-    adFldRowVersion = 0x200,
-    adFldKeyColumn = 0x8000
+    adFldUnspecified = -1,       // not known
+    adFldMayDefer = 0x2,         // read from the database only when asked for
+    adFldUpdatable = 0x4,        // can be written
+    adFldUnknownUpdatable = 0x8, // perhaps can be written
+    adFldFixed = 0x10,           // of fixed length
+    adFldIsNullable = 0x20,      // takes Null
+    adFldMayBeNull = 0x40,       // can be Null when read
+    adFldLong = 0x80,            // long text or bytes
+    adFldRowID = 0x100,          // the row's own number
+    adFldRowVersion = 0x200,     // changes with every write to the row
+    adFldKeyColumn = 0x8000      // part of the key
 };
 Q_ENUM_NS(FieldAttributeEnum)
 
-enum StreamTypeEnum : qint32 { adTypeBinary = 1, adTypeText = 2 };
+// What a stream holds.
+enum StreamTypeEnum : qint32 {
+    adTypeBinary = 1, // bytes
+    adTypeText = 2    // text, kept as UTF-8
+};
 Q_ENUM_NS(StreamTypeEnum)
 
-enum StreamReadEnum : qint32 { adReadAll = -1, adReadLine = -2 };
+// How much Read takes.
+enum StreamReadEnum : qint32 {
+    adReadAll = -1, // all that is left
+    adReadLine = -2 // one line; refused
+};
 Q_ENUM_NS(StreamReadEnum)
 
-enum SaveOptionsEnum : qint32 { adSaveCreateNotExist = 1, adSaveCreateOverWrite = 2 };
+// What SaveToFile does with a file that exists.
+enum SaveOptionsEnum : qint32 {
+    adSaveCreateNotExist = 1, // throws 3004
+    adSaveCreateOverWrite = 2 // replaces it
+};
 Q_ENUM_NS(SaveOptionsEnum)
 
 // ADO's own error numbers. Error::Number() carries them as 0x800A0000 + number; see Error.h.
 enum ErrorValueEnum : qint32 {
-    adErrInvalidArgument = 3001,
-    adErrOpeningFile = 3002,
-    adErrReadFile = 3003,
-    adErrWriteFile = 3004,
-    adErrNoCurrentRecord = 3021,
-    adErrIllegalOperation = 3219,
-    adErrFeatureNotAvailable = 3251,
-    adErrItemNotFound = 3265,
-    adErrDataConversion = 3421,
-    adErrObjectClosed = 3704,
-    adErrObjectOpen = 3705,
-    adErrProviderNotFound = 3706,
-    adErrInvalidConnection = 3709,
-    adErrIntegrityViolation = 3719,
-    adErrPermissionDenied = 3720,
-    adErrResourceLocked = 3730
+    adErrInvalidArgument = 3001,     // an argument is out of its range
+    adErrOpeningFile = 3002,         // a database file can't be opened
+    adErrReadFile = 3003,            // a file can't be read
+    adErrWriteFile = 3004,           // a file can't be written
+    adErrNoCurrentRecord = 3021,     // there is no current record
+    adErrIllegalOperation = 3219,    // not allowed in this state
+    adErrFeatureNotAvailable = 3251, // not possible with this result or database
+    adErrItemNotFound = 3265,        // no field of this name or number
+    adErrDataConversion = 3421,      // a value does not fit the field's type
+    adErrObjectClosed = 3704,        // needs an open object
+    adErrObjectOpen = 3705,          // needs a closed object
+    adErrProviderNotFound = 3706,    // no such provider
+    adErrInvalidConnection = 3709,   // no usable connection
+    adErrIntegrityViolation = 3719,  // against the database's constraints
+    adErrPermissionDenied = 3720,    // not permitted
+    adErrResourceLocked = 3730       // locked by another program
 };
 Q_ENUM_NS(ErrorValueEnum)
 
 // The numbers that ADO passes through from a provider, as Error::Number() carries them.
 enum ProviderErrorEnum : qint32 {
     dbErrFailed = -2147467259,            // 80004005: the provider gave no closer number
-    dbErrPermissionDenied = -2147217911,  // 80040E09
+    dbErrPermissionDenied = -2147217911,  // 80040E09: not permitted
     dbErrInCommand = -2147217900,         // 80040E14: the statement is wrong
-    dbErrDeletedRow = -2147217885,        // 80040E23
-    dbErrIntegrity = -2147217873,         // 80040E2F
-    dbErrNoTable = -2147217865,           // 80040E37
+    dbErrDeletedRow = -2147217885,        // 80040E23: the current record was deleted
+    dbErrIntegrity = -2147217873,         // 80040E2F: against the database's constraints
+    dbErrNoTable = -2147217865,           // 80040E37: no such table or view
     dbErrConcurrency = -2147217864,       // 80040E38: the row is not there (or not alone) any more
-    dbErrAuthFailed = -2147217843,        // 80040E4D
-    dbErrCancelled = -2147217842,         // 80040E4E
-    dbErrMultipleStatements = -2147217841 // 80040E4F
+    dbErrAuthFailed = -2147217843,        // 80040E4D: user or password refused
+    dbErrCancelled = -2147217842,         // 80040E4E: the user or the program stopped it
+    dbErrMultipleStatements = -2147217841 // 80040E4F: more than one statement
 };
 Q_ENUM_NS(ProviderErrorEnum)
 

@@ -25,14 +25,19 @@ public:
           qint32 nativeError);
     ~Error() override;
 
+    // The number that a host sees: 0x800A0000 + ErrorValueEnum, or a ProviderErrorEnum.
     qint32 Number() const { return m_number; }
     // One or two Simplified Chinese sentences for the person at the screen, followed where it helps by the
     // database's own words.
     QString Description() const { return m_description; }
+    // Who answered: the database's name, empty for an error of ADO itself.
     QString Source() const { return m_source; }
+    // Five characters, or empty when the database gave none.
     QString SQLState() const { return m_sqlState; }
+    // The database library's own number, 0 when it was not asked.
     qint32 NativeError() const { return m_nativeError; }
 
+    // Whether it is this error.
     bool is(ErrorValueEnum number) const { return m_number == hresult(number); }
     bool is(ProviderErrorEnum number) const { return m_number == number; }
     // The full number under which an ADO error is seen by a host: 3021 is 0x800A0BCD.

@@ -14,17 +14,27 @@ class Recordset;
 class KOVA_EXPORT Field
 {
 public:
+    // Made by Recordset alone.
     Field(Recordset &owner, int index);
 
+    // The column's heading.
     QString Name() const;
+    // The type of its values, as the database declares it; a cell of SQLite can hold another.
     DataTypeEnum Type() const;
+    // The most that a value takes: characters of a text, bytes of a binary value; 0 when unlimited or
+    // unknown.
     qint32 DefinedSize() const;
+    // Decimal digits of a number, else 0.
     qint32 Precision() const;
+    // Digits behind the decimal point, else 0.
     qint32 NumericScale() const;
-    qint32 Attributes() const; // FieldAttributeEnum bits
+    // FieldAttributeEnum bits.
+    qint32 Attributes() const;
+    // The table and the column that the values come from; both empty for an expression.
     QString BaseTableName() const;
     QString BaseColumnName() const;
-    int Index() const { return m_index; } // 0-based
+    // The 0-based column number.
+    int Index() const { return m_index; }
 
     // Null is an invalid QVariant. Numbers are int, qlonglong or double, Boolean is bool, text QString,
     // binary QByteArray, dates and times QDate, QTime and QDateTime (UTC, so that no clock change touches

@@ -3,7 +3,9 @@
 #include "ado/DateText.h"
 #include "ado/ValueText.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace ADODB::FieldValue {
 
@@ -118,14 +120,29 @@ QVariant toInteger(const QVariant &value, bool *ok)
     return value.toLongLong(ok);
 }
 
-QVariant toReal(const QVariant &value, bool *ok)
+// Whether a type holds all digits of a decimal, which a double does not.
+bool isExact(DataTypeEnum type)
+{
+    return type == adNumeric || type == adDecimal || type == adVarNumeric;
+}
+
+bool hasMoreDigitsThanADouble(const QString &number)
+{
+    constexpr auto exact = std::numeric_limits<double>::digits10;
+    return std::count_if(number.begin(), number.end(), [](QChar c) { return c.isDigit(); }) > exact;
+}
+
+QVariant toReal(const QVariant &value, DataTypeEnum type, bool *ok)
 {
     // A whole number stays one, so that it keeps all its digits.
     QVariant whole = toInteger(value, ok);
     if (*ok)
         return whole;
-    return value.typeId() == QMetaType::QString ? value.toString().trimmed().toDouble(ok)
-                                                : value.toDouble(ok);
+    if (value.typeId() != QMetaType::QString)
+        return value.toDouble(ok);
+    const QString text = value.toString().trimmed();
+    const double real = text.toDouble(ok);
+    return isExact(type) && hasMoreDigitsThanADouble(text) ? QVariant(text) : QVariant(real);
 }
 
 QVariant narrow(const QVariant &integer)
@@ -148,6 +165,8 @@ QVariant fromRaw(const RawValue &raw, DataTypeEnum type)
             return raw.integer != 0;
         if (shape == Shape::BigInteger)
             return raw.integer;
+    } else if (raw.kind == RawValue::Kind::Real && type == adSingle) {
+        return static_cast<float>(raw.real); // shown with the digits that it has
     } else if (raw.kind == RawValue::Kind::Text) {
         if (QVariant value = readText(raw.bytes, shape); value.isValid())
             return value;
@@ -169,7 +188,7 @@ QVariant convert(const QVariant &value, DataTypeEnum type, bool *ok)
     case Shape::BigInteger:
         return toInteger(value, ok);
     case Shape::Real:
-        return toReal(value, ok);
+        return toReal(value, type, ok);
     case Shape::Boolean: {
         if (value.typeId() == QMetaType::Bool)
             return value;

@@ -11,6 +11,7 @@ namespace ADODB {
 class KOVA_EXPORT Fields
 {
 public:
+    // How many there are.
     qint32 Count() const { return static_cast<qint32>(m_fields.size()); }
     // By 0-based index, or by name in any letter case (the first one when a name occurs twice). Throws 3265
     // when there is no such field.

@@ -18,6 +18,7 @@ class RecordsetObserver;
 class KOVA_EXPORT Recordset
 {
 public:
+    // A closed one.
     Recordset();
     ~Recordset();
     Q_DISABLE_COPY_MOVE(Recordset)
@@ -31,6 +32,8 @@ public:
     void PutCursorType(CursorTypeEnum type);
     LockTypeEnum LockType() const;
     void PutLockType(LockTypeEnum type);
+
+    // The statement it was opened with; empty before.
     QString Source() const;
 
     // Called while Open reads, at least every 20 ms, with the number of rows read so far; answering false
@@ -46,10 +49,13 @@ public:
               qint32 options = adCmdUnspecified);
     // Forgets a pending edit. Throws 3704 when already closed.
     void Close();
+    // Whether it is open.
     ObjectStateEnum State() const;
 
+    // The columns; empty while closed.
     ADODB::Fields &Fields();
     const ADODB::Fields &Fields() const;
+    // How many records there are, without a new one that is not saved yet.
     qint64 RecordCount() const;
 
     // Before the first and behind the last record; both true for an empty set. On a record that was just
@@ -78,7 +84,7 @@ public:
     qint64 AbsolutePage() const;
     void PutAbsolutePage(qint64 page);
 
-    // Editing. Writing a field's Value or calling AddNew begins an edit; Update writes it to the database, in
+    // Writing a field's Value or calling AddNew begins an edit; Update writes it to the database, in
     // a transaction, and shows what the database stored; CancelUpdate forgets it. A failed Update leaves the
     // edit pending. A result that can't be written (read-only, join, view, aggregate, distinct, union) throws
     // 3251. A new record is counted once it is saved; one without any value is dropped by a move. Another

@@ -131,11 +131,16 @@ SimpleSelect SimpleSelect::parse(const SqlScanner &statement)
         select.reason = Texts::readOnlyNoTable(); // a function that gives rows
         return select;
     }
+    const qsizetype tableStart = statement.at(from + 1).start;
+    select.tableText = statement.sql().sliced(tableStart, statement.at(next - 1).end() - tableStart);
     select.alias = select.table;
+    select.aliasText = statement.text(next - 1).toString();
     if (statement.isWord(next, u"AS"))
         ++next;
-    if (isAlias(statement, next))
+    if (isAlias(statement, next)) {
+        select.aliasText = statement.text(next).toString();
         select.alias = statement.name(next++);
+    }
     if (statement.isWord(next, u"INDEXED"))
         next += 3; // INDEXED BY name
     else if (statement.isWord(next, u"NOT"))

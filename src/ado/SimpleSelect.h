@@ -24,7 +24,9 @@ struct SimpleSelect
     QString reason;
     QString schema; // empty unless written
     QString table;
-    QString alias;           // as which the statement knows the table; its own name when there is no alias
+    QString alias;     // as which the statement knows the table; its own name when there is no alias
+    QString tableText; // the table and its alias as they are written, with their quotes
+    QString aliasText;
     qsizetype listEnd = 0;   // where the select list ends in the text
     qsizetype sourceEnd = 0; // where the table with its alias ends
     std::vector<Item> items;

@@ -19,13 +19,16 @@ struct SqlToken
     qsizetype end() const { return start + length; }
 };
 
+// What a quote or a comment is. Standard is SQLite's reading of it.
+enum class SqlDialect { Standard, PostgreSql, MySql, SqlServer };
+
 // A statement cut into tokens: comments and blanks are left out; quoted names ("a", [a], `a`) and strings are
 // one token each, with their quotes. A quote or comment that is not closed reaches to the end. Knows no
 // grammar.
 class SqlScanner
 {
 public:
-    explicit SqlScanner(QString sql);
+    explicit SqlScanner(QString sql, SqlDialect dialect = SqlDialect::Standard);
 
     const QString &sql() const { return m_sql; }
     qsizetype count() const { return static_cast<qsizetype>(m_tokens.size()); }
@@ -41,9 +44,14 @@ public:
 private:
     void scan();
     qsizetype skipComment(qsizetype from) const;
+    qsizetype endOfBlockComment(qsizetype from) const;
+    bool isNameQuote(QChar c) const;
+    bool hasBackslashEscapes(qsizetype quote) const;
     qsizetype endOfQuoted(qsizetype from, QChar close) const;
+    qsizetype endOfDollarQuoted(qsizetype from) const;
 
     QString m_sql;
+    SqlDialect m_dialect;
     std::vector<SqlToken> m_tokens;
 };
 

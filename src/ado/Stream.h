@@ -17,11 +17,15 @@ public:
     // 0.
     StreamTypeEnum Type() const { return m_type; }
     void PutType(StreamTypeEnum type);
+    // Whether it is open.
     ObjectStateEnum State() const { return m_open ? adStateOpen : adStateClosed; }
 
-    void Open(); // empty; throws 3705 when open
+    // Opens it empty. Throws 3705 when open.
+    void Open();
+    // Forgets its bytes.
     void Close();
 
+    // In bytes.
     qint64 Size() const;
     // 0…Size, in bytes; writing a larger position lengthens the stream with zero bytes.
     qint64 Position() const;

@@ -13,16 +13,21 @@ namespace KOVAVSFDataGridLib {
 class KOVA_EXPORT ControlError : public std::exception
 {
 public:
+    // The numbers that there are.
     enum Number : qint32 {
-        SetNotSupportedAtRuntime = 382,
-        GetNotSupportedAtRuntime = 393,
+        SetNotSupportedAtRuntime = 382, // a property that only a form editor may write
+        GetNotSupportedAtRuntime = 393, // a property that only a form editor may read
     };
 
+    // `description` is English: only a host's developer meets it.
     ControlError(qint32 number, const QString &description);
     ~ControlError() override;
 
+    // One of Number.
     qint32 number() const { return m_number; }
+    // What went wrong.
     QString description() const { return m_description; }
+    // description() in UTF-8.
     const char *what() const noexcept override { return m_what.constData(); }
 
 private:

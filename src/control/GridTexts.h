@@ -97,6 +97,7 @@ inline const QString CopyStatement = u"复制语句(&C)"_s;
 // What a screen reader calls the parts that have no caption.
 inline const QString ToolbarName = u"数据命令"_s;
 inline const QString GridName = u"数据"_s;
+inline const QString MenuName = u"数据菜单"_s;
 inline const QString SingleRecordName = u"当前记录"_s;
 
 // Page box and label.

@@ -20,6 +20,7 @@ class KOVA_EXPORT KOVAVSFDataGrid : public QWidget, public IKOVAVSFDataGrid
 {
     Q_OBJECT
     // Only BackColor is kept in a form file: a host sets everything else in code before IsLoadData.
+
     Q_PROPERTY(QString STR_SQLTEMP READ STR_SQLTEMP WRITE PutSTR_SQLTEMP STORED false)
     Q_PROPERTY(bool Enabled READ Enabled WRITE PutEnabled STORED false)
     Q_PROPERTY(QColor BackColor READ BackColor WRITE PutBackColor RESET ResetBackColor)
@@ -45,22 +46,56 @@ class KOVA_EXPORT KOVAVSFDataGrid : public QWidget, public IKOVAVSFDataGrid
     Q_PROPERTY(QString PassQurryFilter READ PassQurryFilter WRITE PutPassQurryFilter STORED false)
     Q_PROPERTY(qint32 CurrPosition READ CurrPosition STORED false)
     Q_PROPERTY(QString PicField READ PicField WRITE PutPicField STORED false)
+    // True at run time, False while the control is being designed. The control finds out for itself whether
+    // it sits in a form editor; a host can say otherwise.
     Q_PROPERTY(bool UserMode READ UserMode WRITE PutUserMode STORED false DESIGNABLE false)
 
 public:
-    enum UseModelChoose : qint32 { ModelUsing = 0, ModelDefine = 1 };
+    // Who filters and sorts.
+    enum UseModelChoose : qint32 {
+        ModelUsing = 0, // the user, by the toolbar
+        ModelDefine = 1 // the host: the buttons "Filter" and "Sort" are hidden
+    };
     Q_ENUM(UseModelChoose)
-    enum ShowModelChoose : qint32 { ModelAll = 0, ModelPart = 1 };
+
+    // Which fields a load shows.
+    enum ShowModelChoose : qint32 {
+        ModelAll = 0, // all of the statement
+        ModelPart = 1 // those of SQLPartDisplay
+    };
     Q_ENUM(ShowModelChoose)
-    enum backstyleChoose : qint32 { Transparent = 0, Opaque = 1 };
+
+    // For hosts' own use; no property has this type.
+    enum backstyleChoose : qint32 {
+        Transparent = 0, // what is behind shows through
+        Opaque = 1       // covers what is behind
+    };
     Q_ENUM(backstyleChoose)
-    enum AppearanceChoose : qint32 { Flat = 0, Cascade = 1 };
+
+    // For hosts' own use; no property has this type.
+    enum AppearanceChoose : qint32 {
+        Flat = 0,   // without depth
+        Cascade = 1 // with depth
+    };
     Q_ENUM(AppearanceChoose)
-    enum AllDBType : qint32 { dbAccess = 1, dbOracle = 2, dbSQLServer = 3 };
+
+    // Whose form of SQL derived statements take: how names, texts, dates and LIKE are written.
+    enum AllDBType : qint32 {
+        dbAccess = 1,   // Access; SQLite reads the same form
+        dbOracle = 2,   // Oracle; a load spells the field list out
+        dbSQLServer = 3 // SQL Server
+    };
     Q_ENUM(AllDBType)
-    enum TBLType : qint32 { DataTable = 0, DataView = 1, DefSQL = 2 };
+
+    // What the statement stands for.
+    enum TBLType : qint32 {
+        DataTable = 0, // one table
+        DataView = 1,  // one view
+        DefSQL = 2     // a statement of its own, so that there is no table to show in full
+    };
     Q_ENUM(TBLType)
 
+    // An empty grid with everything disabled until IsLoadData.
     explicit KOVAVSFDataGrid(QWidget *parent = nullptr);
     ~KOVAVSFDataGrid() override;
 
@@ -141,19 +176,24 @@ public:
     Q_INVOKABLE QString CellTextL(const qint32 &n_row, const qint32 &n_col) override;
     Q_INVOKABLE qint32 GetGridRowL() override;
 
-    // False while the control is being designed: True at run time. The control finds out for itself
-    // whether it sits in a form editor; a host can say otherwise.
+    // See the property.
     bool UserMode() const;
     void PutUserMode(bool on);
 
-    // The system's button-face colour, which follows the palette.
+    // Gives BackColor the system's button-face colour, which follows the palette.
     void ResetBackColor();
 
-    // Called by the container: for a new control on a form, and to restore and keep one.
+    // Called by the container for a new control on a form: empties the statement texts and the grid, and sets
+    // UseModel and ShowModel to 0.
     void InitProperties();
+    // Called by the container to restore a control from a form: reads BackColor, the button-face colour by
+    // default.
     void ReadProperties(const KOVAVSFDataGridLib::PropertyBag &bag);
+    // Called by the container to keep a control with its form: writes BackColor and nothing else, as a 32-bit
+    // number.
     void WriteProperties(KOVAVSFDataGridLib::PropertyBag &bag) const;
 
+    // Three times the least size, which is 3000 x 1500 twips.
     QSize sizeHint() const override;
 
     // What is behind the face; only the control's own sources know more of it.
@@ -161,33 +201,56 @@ public:
 
 Q_SIGNALS:
     // The events, in their fixed order. What comes by reference may be changed by a directly connected
-    // handler. Positions are twips; Button is 1 left, 2 right, 4 middle; Shift is the sum of 1 Shift,
-    // 2 Ctrl, 4 Alt.
+    // handler. Positions are twips, 1440 to the inch, from the grid's corner; Button is 1 left, 2 right, 4
+    // middle; Shift is the sum of 1 Shift, 2 Ctrl, 4 Alt.
+
+    // A mouse button went down on the grid, headings included; told before the grid acts on it.
     void DataMouseDown(qint16 &Button, qint16 &Shift, float &x, float &y);
+    // A mouse button came up on the grid; the record has followed the row by then, and the menu is closed
+    // again.
     void DataMouseUp(qint16 &Button, qint16 &Shift, float &x, float &y);
+    // The mouse moved over the grid, with or without a button; Button is the sum of those that are down.
     void DataMouseMove(qint16 &Button, qint16 &Shift, float &x, float &y);
-    void Error(qint16 DataError, qint16 &Response); // never raised
+    // Never raised; kept for hosts that have a handler for it.
+    void Error(qint16 DataError, qint16 &Response);
+    // A column heading was clicked; the column counts from 1. Nothing else happens on that click.
     void HeadClick(qint16 ColIndex);
+    // A record was clicked and is current. The file of PicField has been written.
     void DataClick();
+    // The grid was double-clicked; comes before DataDBLClickOneCell or DataDBLClickOneRow, and alone beside
+    // the records.
     void DataDblClick();
+    // A key went down in the grid, as a virtual-key number: Enter 13, Esc 27, F1 112, letters as in upper
+    // case. A handler that sets KeyCode to 0 keeps the key from the grid.
     void DataKeyDown(qint16 &KeyCode, qint16 &Shift);
+    // A mouse button came up beside the grid, on the panel; positions count from the panel's corner.
     void MouseUp(qint16 &Button, qint16 &Shift, float &x, float &y);
+    // The user chose the fields to show; carries the new statement.
     void ShowFieldsChange(const QString &strSQL);
-    // Before a filter is applied: leave Cancel at 1 for the built-in dialog, or set PassQurryFilter and
-    // change Cancel.
+    // The user asked for the filter; strLastFilter is the statement that it will refine. Leave Cancel at 1
+    // for the built-in dialog; or set PassQurryFilter and Cancel to 0 to filter by that condition. An empty
+    // condition filters nothing.
     void QurryFilter(qint32 &Cancel, const QString &strLastFilter);
+    // Another record is current. ChangeReason is a number of ADODB::EventReasonEnum, or 3 from
+    // LocateSelRecord; CurrPosition is the record's number from 1, or one less from LocateSelRecord.
     void RecordChanged(qint32 ChangeReason, qint32 CurrPosition);
+    // The result was replaced or closed; ChangeReason is a number of ADODB::EventReasonEnum.
     void RecordsetChanged(qint32 ChangeReason);
+    // A cell was double-clicked; column and row count from 1.
     void DataDBLClickOneCell(qint32 Col, qint32 Row);
+    // A row was double-clicked: on its number, or anywhere while whole rows are selected. Counts from 1.
     void DataDBLClickOneRow(qint32 Row);
 
-    // A property was written; carries its name.
+    // A property was written; carries its name. Not every property tells: STR_SQLTEMP, Enabled, the
+    // properties of the toolbar and of the grid, UseModel, ShowModel, PassQurryFilter and PicField don't.
     void PropertyChanged(const QString &name);
-    // An error of a property that a late-bound host read or wrote; see ControlError.
+    // An error of a property that a late-bound host read or wrote; see KOVAVSFDataGridLib::ControlError.
     void HostError(qint32 Number, const QString &Description);
 
 protected:
+    // Lays the parts out in the new size.
     void resizeEvent(QResizeEvent *event) override;
+    // Lets BackColor follow the palette.
     void changeEvent(QEvent *event) override;
 
 private:

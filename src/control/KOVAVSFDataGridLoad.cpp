@@ -24,11 +24,11 @@ std::unique_ptr<clsFilterManagement> KOVAVSFDataGrid::Private::newFilterManager(
     return std::make_unique<clsFilterManagement>(&reader, &chooser);
 }
 
-clsFilterManagement &KOVAVSFDataGrid::Private::filterManager()
+const std::shared_ptr<clsFilterManagement> &KOVAVSFDataGrid::Private::filterManagerToShare()
 {
     if (!filter)
         filter = newFilterManager();
-    return *filter;
+    return filter;
 }
 
 std::unique_ptr<clsFilterManagement> KOVAVSFDataGrid::Private::filterManagerForLoad()
@@ -80,6 +80,7 @@ bool KOVAVSFDataGrid::Private::load()
         return false;
     }
     filter = std::move(manager);
+    chooser.setDatabase(filter->DBType());
     recordSource = *statement;
     commands.statement.setCurrent(*statement);
 
@@ -121,7 +122,7 @@ bool KOVAVSFDataGrid::Private::open(const QString &statement, qint32 dbType)
 
 ResultSet::Opened KOVAVSFDataGrid::Private::read(const QString &statement, qint32 dbType)
 {
-    LoadProgress progress(q, parts);
+    LoadProgress progress(q, [this] { return parts.foot(); });
     return ResultSet::open(connectionString, statement, dbType,
                            [&progress](qint64 rowsRead) { return progress.goOn(rowsRead); });
 }

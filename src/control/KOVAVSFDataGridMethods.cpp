@@ -6,6 +6,7 @@
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
 #include "control/KOVAVSFDataGridPrivate.h"
+#include "control/connection/BuildConnection.h"
 #include "forms/ConnectDialog.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
@@ -100,7 +101,11 @@ void KOVAVSFDataGrid::ShowSort()
 
 void KOVAVSFDataGrid::GetConnection()
 {
-    ConnectDialog dialog({}, this);
+    ConnectDialog dialog(
+        [this](QWidget *parent, const QString &present) {
+            return BuildConnection(parent, present, DBType());
+        },
+        this);
     d->runSteps(u"Get Connection",
                 {[&] { dialog.SetConnectionString(d->connectionString); }, [&] { dialog.exec(); },
                  [&] {

@@ -15,6 +15,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <memory>
 #include <optional>
 
 // What the public class keeps behind its face: the property texts, the parts and the routines that
@@ -35,7 +36,9 @@ public:
     bool isUserMode() const;
     void applyBackColor();
     // The filter manager, made on first use.
-    KOVAVSFDataGridLib::clsFilterManagement &filterManager();
+    KOVAVSFDataGridLib::clsFilterManagement &filterManager() { return *filterManagerToShare(); }
+    // The same for one who needs it even when a load has put another one in its place.
+    const std::shared_ptr<KOVAVSFDataGridLib::clsFilterManagement> &filterManagerToShare();
     KOVAVSFDataGridLib::ColumnLayout columns();
 
     // The whole load; see IsLoadData.
@@ -87,7 +90,7 @@ public:
     KOVAVSFDataGridLib::PageView pages;
     KOVAVSFDataGridLib::ConnectionFieldReader reader;
     KOVAVSFDataGridLib::ControlFieldChooser chooser;
-    std::unique_ptr<KOVAVSFDataGridLib::clsFilterManagement> filter;
+    std::shared_ptr<KOVAVSFDataGridLib::clsFilterManagement> filter;
     KOVAVSFDataGridLib::GridEvents events;
 
     KOVAVSFDataGridLib::OleColor backColor{KOVAVSFDataGridLib::OleColor::ButtonFace};

@@ -1,6 +1,5 @@
 #include "control/LoadProgress.h"
 
-#include "control/GridParts.h"
 #include "control/GridTexts.h"
 
 #include <QtGui/QKeyEvent>
@@ -12,6 +11,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace KOVAVSFDataGridLib {
 
@@ -38,8 +38,8 @@ bool isInput(const QEvent &event)
 
 } // namespace
 
-LoadProgress::LoadProgress(QWidget &control, const GridParts &parts)
-    : m_control(control), m_parts(parts), m_modalBefore(QApplication::activeModalWidget())
+LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place)
+    : m_window(window), m_place(std::move(place)), m_modalBefore(QApplication::activeModalWidget())
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     m_sinceBegin.start();
@@ -68,7 +68,7 @@ bool LoadProgress::goOn(qint64 rowsRead)
 void LoadProgress::showLine()
 {
     QApplication::restoreOverrideCursor();
-    m_line = std::make_unique<QWidget>(&m_control);
+    m_line = std::make_unique<QWidget>(&m_window);
     m_line->setAutoFillBackground(true);
     m_bar = new QProgressBar;
     m_bar->setRange(0, 0); // nobody knows how many there will be
@@ -95,7 +95,7 @@ void LoadProgress::updateLine(qint64 rowsRead)
 {
     m_count->setText(GridTexts::RecordsRead.arg(rowsRead));
     m_bar->setValue(static_cast<int>(std::min<qint64>(rowsRead, std::numeric_limits<int>::max())));
-    m_line->setGeometry(m_parts.foot()); // the control can have been resized
+    m_line->setGeometry(m_place()); // the window can have been resized
     m_line->layout()->activate();
 }
 

@@ -5,8 +5,10 @@
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
+#include <QtCore/QRect>
 #include <QtCore/QScopedValueRollback>
 
+#include <functional>
 #include <memory>
 
 class QLabel;
@@ -15,10 +17,8 @@ class QWidget;
 
 namespace KOVAVSFDataGridLib {
 
-class GridParts;
-
 // Lives while a statement is opened, which happens on the GUI thread. At first it shows the wait cursor.
-// After half a second a line over the control's foot says how many records have been read and
+// After half a second a line over the window's foot says how many records have been read and
 // offers to cancel, by its button or Esc.
 //
 // From then on the application's events are dispatched, so that windows are drawn and timers run, but
@@ -29,8 +29,9 @@ class LoadProgress final : public QObject
     Q_OBJECT
 
 public:
-    // `control` is what the parts are those of; both must outlive this object.
-    LoadProgress(QWidget &control, const GridParts &parts);
+    // The line covers `place` on `window`, which is asked for again as the window can be resized. The window
+    // must outlive this object.
+    LoadProgress(QWidget &window, std::function<QRect()> place);
     ~LoadProgress() override;
 
     // To be called every few milliseconds; false once the user has cancelled. It doesn't throw.
@@ -45,8 +46,8 @@ private:
     bool isForLine(const QObject &watched, const QEvent &event) const;
 
     QScopedValueRollback<bool> m_opening{SharedValues::instance().isOpening, true};
-    QWidget &m_control;
-    const GridParts &m_parts;
+    QWidget &m_window;
+    const std::function<QRect()> m_place;
     std::unique_ptr<QWidget> m_line; // null during the first half second
     QLabel *m_count = nullptr;
     QProgressBar *m_bar = nullptr;

@@ -43,9 +43,12 @@ FilterCondition between(const FilterSql::Dialect &dialect, const FilterChoice &c
     if (!first || choice.value.isEmpty())
         return {{}, WhyNoFilterValue(choice.field.fieldClass, choice.value)};
     if (!last || choice.lastValue.isEmpty())
-        return {{}, WhyNoFilterValue(choice.field.fieldClass, choice.lastValue)};
-    if (first->rank && last->rank && *last->rank < *first->rank)
-        return {{}, FilterTexts::EndBeforeStart};
+        return {{}, WhyNoFilterValue(choice.field.fieldClass, choice.lastValue), true};
+    // A day ends a moment before the next one.
+    constexpr double millisecondsToDayEnd = 24 * 60 * 60 * 1000 - 1;
+    const double lastExtent = last->nextDay.isEmpty() ? 0 : millisecondsToDayEnd;
+    if (first->rank && last->rank && *last->rank + lastExtent < *first->rank)
+        return {{}, FilterTexts::EndBeforeStart, true};
     return {u'(' + compare(choice.field.written, FilterOperator::AtLeast, *first) + " AND "_L1 +
                 compare(choice.field.written, FilterOperator::AtMost, *last) + u')',
             {}};

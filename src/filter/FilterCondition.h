@@ -26,6 +26,7 @@ struct FilterCondition
 {
     QString sql;
     QString fault;
+    bool isLastValueAtFault = false; // rather than the only or the first one
 };
 
 FilterCondition ConditionOf(const FilterSql::Dialect &dialect, const FilterChoice &choice);

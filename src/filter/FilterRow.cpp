@@ -2,6 +2,7 @@
 
 #include "filter/FilterTexts.h"
 #include "filter/ValueEdit.h"
+#include "forms/FieldCombo.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QComboBox>
@@ -18,7 +19,7 @@ FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *p
     : QWidget(parent),
       m_context(std::move(context)),
       m_opens(makeBrackets(u'(', FilterTexts::OpenBracket)),
-      m_field(new QComboBox(this)),
+      m_field(new FieldCombo(this)),
       m_operator(new QComboBox(this)),
       m_value(makeValue(FilterTexts::Value)),
       m_to(new QLabel(FilterTexts::To, this)),
@@ -26,7 +27,8 @@ FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *p
       m_closes(makeBrackets(u')', FilterTexts::CloseBracket)),
       m_join(new QComboBox(this)),
       m_delete(new QToolButton(this)),
-      m_fault(new QLabel(this))
+      m_fault(new QLabel(this)),
+      m_valueAtFault(m_value)
 {
     makeParts();
     layOut();
@@ -40,7 +42,6 @@ FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *p
 void FilterRow::makeParts()
 {
     m_field->setAccessibleName(FilterTexts::Field);
-    m_field->setMaxVisibleItems(20);
     for (const FilterField &field : m_context->fields)
         m_field->addItem(field.caption);
     m_operator->setAccessibleName(FilterTexts::Operator);
@@ -137,6 +138,16 @@ void FilterRow::setPlace(bool isLast, bool isOnly)
     m_delete->setEnabled(!isOnly);
 }
 
+void FilterRow::followInTabOrder(const FilterRow &previous)
+{
+    QWidget *last = previous.m_delete;
+    for (QWidget *part : std::initializer_list<QWidget *>{m_opens, m_field, m_operator, m_value, m_lastValue,
+                                                          m_closes, m_join, m_delete}) {
+        setTabOrder(last, part);
+        last = part;
+    }
+}
+
 FilterField FilterRow::field() const
 {
     const int index = m_field->currentIndex();
@@ -200,6 +211,7 @@ FilterCondition FilterRow::checkedCondition()
 {
     const FilterCondition found = condition();
     showFault(found.fault);
+    m_valueAtFault = found.isLastValueAtFault ? m_lastValue : m_value;
     return found;
 }
 
@@ -237,7 +249,7 @@ void FilterRow::focusFirstPart()
 
 void FilterRow::focusFault()
 {
-    m_value->setFocus();
+    m_valueAtFault->setFocus();
 }
 
 } // namespace KOVAVSFDataGridLib

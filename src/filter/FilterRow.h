@@ -39,6 +39,8 @@ public:
     void setNumber(int number);
     // Whether a further row follows, and whether the row may be deleted.
     void setPlace(bool isLast, bool isOnly);
+    // The tab key walks through this row after the other one.
+    void followInTabOrder(const FilterRow &previous);
 
     // The row's condition as it stands now; without touching what is shown.
     FilterCondition condition() const;
@@ -82,6 +84,7 @@ private:
     QComboBox *m_join;
     QToolButton *m_delete;
     QLabel *m_fault;
+    ValueEdit *m_valueAtFault; // what was last found wrong
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -5,6 +5,7 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace KOVAVSFDataGridLib {
 
@@ -17,9 +18,12 @@ FilterRows::FilterRows(QWidget *parent) : QWidget(parent), m_layout(new QVBoxLay
 void FilterRows::start(std::shared_ptr<const FilterRowContext> context)
 {
     m_context = std::move(context);
-    qDeleteAll(m_rows);
-    m_rows.clear();
-    add();
+    const QList<FilterRow *> previous = std::exchange(m_rows, {});
+    FilterRow *first = add();
+    // Between what stands before and behind the rows, which a new part alone would come after.
+    if (!previous.isEmpty())
+        first->followInTabOrder(*previous.constLast());
+    qDeleteAll(previous);
 }
 
 FilterRow *FilterRows::add()
@@ -27,10 +31,17 @@ FilterRow *FilterRows::add()
     auto *row = new FilterRow(m_context, this);
     connect(row, &FilterRow::changed, this, &FilterRows::onRowChanged);
     connect(row, &FilterRow::deleteRequested, this, [this, row] { remove(row); });
+    if (!m_rows.isEmpty())
+        row->followInTabOrder(*m_rows.constLast());
     m_layout->insertWidget(static_cast<int>(m_rows.size()), row);
     m_rows.append(row);
     arrange();
     return row;
+}
+
+void FilterRows::focusFirstPart()
+{
+    m_rows.constFirst()->focusFirstPart();
 }
 
 void FilterRows::remove(FilterRow *row)

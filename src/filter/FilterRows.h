@@ -17,6 +17,7 @@ public:
     // Begins anew with one row over these fields.
     void start(std::shared_ptr<const FilterRowContext> context);
     FilterRow *add();
+    void focusFirstPart();
 
     // The rows that are complete, joined.
     QString preview() const;

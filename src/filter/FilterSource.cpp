@@ -32,7 +32,9 @@ void FilterSource::setTable(const QString &fromText)
 
 FilterSql::Dialect FilterSource::dialect() const
 {
-    return FilterSql::DialectOf(m_database, m_connectionString);
+    FilterSql::Dialect dialect = FilterSql::DialectOf(m_database, m_connectionString);
+    dialect.escapesByBackslash = m_escapesByBackslash;
+    return dialect;
 }
 
 const std::shared_ptr<ADODB::Connection> &FilterSource::connection()
@@ -45,8 +47,24 @@ const std::shared_ptr<ADODB::Connection> &FilterSource::connection()
     return m_connection;
 }
 
+// It depends on the server's settings and the session's, so no name of a driver tells it.
+bool FilterSource::askWhetherBackslashEscapes()
+{
+    const auto &open = connection(); // a server out of reach is an error here as well
+    if (!dialect().isOdbc)
+        return false;
+    try {
+        ADODB::Recordset backslashes;
+        backslashes.Open(uR"(SELECT '\\')"_s, open);
+        return backslashes.RecordCount() == 1 && backslashes.CellText(1, 0) == u'\\';
+    } catch (const ADODB::Error &) {
+        return false; // a database that selects from tables only, Oracle say; none of these has such escapes
+    }
+}
+
 std::vector<FilterField> FilterSource::readFields()
 {
+    m_escapesByBackslash = askWhetherBackslashEscapes();
     std::vector<ADODB::FieldInfo> infos;
     const QString everything = u"SELECT * FROM "_s;
     try {

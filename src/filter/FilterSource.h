@@ -26,6 +26,8 @@ public:
     void setTable(const QString &fromText);
 
     bool hasTable() const { return !m_fromText.isEmpty(); }
+    // How conditions are written. What the database has to be asked for is known once readFields() was
+    // called.
     FilterSql::Dialect dialect() const;
 
     // The table's fields in its order. A name that several tables share is told apart by the table's.
@@ -37,11 +39,13 @@ public:
 
 private:
     const std::shared_ptr<ADODB::Connection> &connection();
+    bool askWhetherBackslashEscapes();
 
     AllDBType m_database = dbAccess;
     QString m_connectionString;
     std::shared_ptr<ADODB::Connection> m_connection;
     QString m_fromText;
+    bool m_escapesByBackslash = false;
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -2,9 +2,10 @@
 
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
+#include "filter/ReservedWords.h"
 #include "query/FieldNames.h"
 
-#include <QtCore/QSet>
+#include <QtCore/QRegularExpression>
 
 #include <algorithm>
 
@@ -14,31 +15,37 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Plain names that a database would take for a word of its language.
-bool isKeyword(const QString &name)
-{
-    static const QSet<QString> words = [] {
-        const QString all =
-            u"ACCESS ADD ALL ALTER AND ANY AS ASC BEGIN BETWEEN BY CASE CAST CHECK COLUMN COMMENT COMMIT "
-            u"CONSTRAINT "
-            "CREATE CROSS CURRENT DATE DEFAULT DELETE DESC DISTINCT DROP ELSE END ESCAPE EXCEPT EXISTS FETCH "
-            "FILE "
-            "FOR FOREIGN FROM FULL GRANT GROUP HAVING IN INDEX INNER INSERT INTERSECT INTERVAL INTO IS JOIN "
-            "KEY "
-            "LEFT LEVEL LIKE LIMIT LOCK MODE NATURAL NOT NULL NUMBER OF OFFSET ON OPTION OR ORDER OUTER "
-            "PERCENT "
-            "PRIMARY PUBLIC RANGE REFERENCES REPLACE RIGHT ROW ROWS SELECT SESSION SET SIZE START TABLE THEN "
-            "TIME "
-            "TIMESTAMP TO TOP TRANSACTION TRIGGER UNION UNIQUE UPDATE USER USING VALUE VALUES VIEW WHEN WHERE WITH"_s;
-        const QStringList list = all.split(u' ');
-        return QSet<QString>(list.begin(), list.end());
-    }();
-    return words.contains(name.toUpper());
-}
-
 QString quoted(QString text)
 {
     return u'\'' + text.replace(u'\'', "''"_L1) + u'\'';
+}
+
+QString textLiteral(const Dialect &dialect, QString text)
+{
+    // SQL Server would squeeze anything else through its own code page first.
+    const bool needsUnicode = dialect.isOdbc && dialect.database == dbSQLServer &&
+                              !dialect.escapesByBackslash &&
+                              std::any_of(text.begin(), text.end(), [](QChar c) { return c > u'~'; });
+    if (dialect.escapesByBackslash)
+        text.replace(u'\\', u"\\\\"_s);
+    return needsUnicode ? u'N' + quoted(text) : quoted(text);
+}
+
+// The text in pieces of which none holds a word that begins a clause: the clauses of a statement are told
+// apart by these words wherever they stand, so a value must not hold one.
+QStringList piecesWithoutClauseWords(const QString &text)
+{
+    static const QRegularExpression insideOfWord(
+        u"(?<=F)ROM |(?<=W)HERE |(?<=O)RDER BY |(?i:(?<= o)rder by )"_s);
+    QStringList pieces;
+    qsizetype begin = 0;
+    for (auto found = insideOfWord.globalMatch(text); found.hasNext();) {
+        const qsizetype end = found.next().capturedStart();
+        pieces.append(text.sliced(begin, end - begin));
+        begin = end;
+    }
+    pieces.append(text.sliced(begin));
+    return pieces;
 }
 
 // `kind` is the letter or letters of the ODBC escape: d, t or ts.
@@ -69,17 +76,27 @@ Dialect DialectOf(AllDBType database, const QString &connectionString)
 
 QString FieldName(const Dialect &dialect, const QString &name)
 {
-    if (!isKeyword(name))
-        return QuotedFieldName(dialect.database, name);
-    return dialect.database == dbOracle ? u'"' + name + u'"' : u'[' + name + u']';
+    if (QuotedFieldName(dialect.database, name) == name && !IsReservedWord(name))
+        return name;
+    // Inside brackets there is no way to write "]" that every database reads.
+    if (dialect.database == dbAccess && !name.contains(u']'))
+        return u'[' + name + u']';
+    return u'"' + QString(name).replace(u'"', "\"\""_L1) + u'"';
 }
 
 QString Text(const Dialect &dialect, const QString &text)
 {
-    // SQL Server would squeeze anything else through its own code page first.
-    const bool needsUnicode = dialect.isOdbc && dialect.database == dbSQLServer &&
-                              std::any_of(text.begin(), text.end(), [](QChar c) { return c > u'~'; });
-    return needsUnicode ? u'N' + quoted(text) : quoted(text);
+    QString joined;
+    for (const QString &piece : piecesWithoutClauseWords(text)) {
+        const QString literal = textLiteral(dialect, piece);
+        if (joined.isEmpty())
+            joined = literal;
+        else if (dialect.isOdbc)
+            joined = u"{fn CONCAT(%1, %2)}"_s.arg(joined, literal);
+        else
+            joined = u"(%1 || %2)"_s.arg(joined, literal);
+    }
+    return joined;
 }
 
 QString Date(const Dialect &dialect, QDate date)
@@ -109,19 +126,19 @@ QString Like(const Dialect &dialect, const QString &field, const QString &text, 
             pattern += escape;
         pattern += c;
     }
-    const bool isEscaped = pattern.size() > text.size();
+    // Some databases read a backslash in a pattern as an escape unless they are told of another one.
+    const bool isEscaped = pattern.size() > text.size() || text.contains(u'\\');
     if (anchor != Anchor::Begin)
         pattern.prepend(u'%');
     if (anchor != Anchor::End)
         pattern.append(u'%');
-    // A text that only holds the escape character itself needs no ESCAPE clause, but none suffers from it.
     return field + " LIKE "_L1 + Text(dialect, pattern) + (isEscaped ? " ESCAPE '!'"_L1 : ""_L1);
 }
 
 QString IsTrue(const Dialect &dialect, const QString &field, bool wanted)
 {
-    // Servers with a real Boolean type compare it with a text, those of numbers convert the text.
-    if (dialect.isOdbc && dialect.database == dbOracle)
+    // Servers with a real Boolean type compare it with a text, those of bits and numbers convert the text.
+    if (dialect.isOdbc && dialect.database != dbAccess)
         return field + (wanted ? " = '1'"_L1 : " = '0'"_L1);
     // True is 1 here and -1 there.
     return field + (wanted ? " <> 0"_L1 : " = 0"_L1);

@@ -15,15 +15,20 @@ struct Dialect
 {
     AllDBType database = dbAccess;
     bool isOdbc = false;
+    // Whether a backslash in a text is the beginning of an escape, as MariaDB has it unless it is told not
+    // to.
+    bool escapesByBackslash = false;
 };
 
-// Reads off the connection string whether ODBC is used. A malformed one counts as not.
+// Reads off the connection string whether ODBC is used. A malformed one counts as not. Backslashes are left
+// to FilterSource, which can ask the database.
 Dialect DialectOf(AllDBType database, const QString &connectionString);
 
-// The name, in brackets or quotes where it needs them, be it for its characters or because it is a word of
-// the language.
+// The name, in brackets (for dbAccess) or double quotes where it needs them, be it for its characters or
+// because it is a word of the language.
 QString FieldName(const Dialect &dialect, const QString &name);
 
+// The text as a literal, or as several put together where the statement's own words would be found in one.
 QString Text(const Dialect &dialect, const QString &text);
 QString Date(const Dialect &dialect, QDate date);
 QString Time(const Dialect &dialect, QTime time);

@@ -56,6 +56,7 @@ inline const QString ConditionHint = u"随上面的条件自动生成，熟悉 S
 inline const QString ByHand = u"条件语句已手工修改，上面的条件暂不起作用。"_s;
 inline const QString BackToRows = u"恢复自动生成(&R)"_s;
 inline const QString NoCondition = u"请输入条件。"_s;
+inline const QString NoOrderBy = u"条件语句中不能出现“ORDER BY”。"_s;
 inline const QString CorrectRows = u"请先改正标出的条件。"_s;
 inline const QString FieldsUnreadable = u"无法读取字段：%1"_s;
 inline const QString ValuesUnreadable = u"无法读取已有的值：%1"_s;

@@ -4,6 +4,7 @@
 #include "filter/FilterRows.h"
 #include "filter/FilterTexts.h"
 #include "forms/FlatCmd.h"
+#include "query/SqlText.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtGui/QGuiApplication>
@@ -35,8 +36,8 @@ SetFilter::SetFilter(QWidget *parent)
     : QWidget(parent),
       m_table(new QLabel(this)),
       m_scroll(new QScrollArea(this)),
-      m_rows(new FilterRows),
-      m_add(new QPushButton(FilterTexts::AddRow, this)),
+      m_rows(new FilterRows(m_scroll)),
+      m_add(new FlatCmd(FilterTexts::AddRow, this)),
       m_condition(new QLineEdit(this)),
       m_backToRows(new FlatCmd(FilterTexts::BackToRows, this)),
       m_notice(new QLabel(this))
@@ -48,7 +49,6 @@ SetFilter::SetFilter(QWidget *parent)
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_add->setObjectName(u"cmdAddRow"_s);
-    m_add->setAutoDefault(false);
     m_condition->setObjectName(u"txtCondition"_s);
     m_condition->setAccessibleName(FilterTexts::ConditionName);
     m_condition->setPlaceholderText(FilterTexts::ConditionHint);
@@ -58,6 +58,7 @@ SetFilter::SetFilter(QWidget *parent)
     m_notice->setTextFormat(Qt::PlainText);
     m_notice->setWordWrap(true);
     layOut();
+    enableParts();
 
     connect(m_rows, &FilterRows::changed, this, &SetFilter::onRowsChanged);
     // A new row, or what is said below one, has its place only once the area has grown.
@@ -124,9 +125,15 @@ void SetFilter::SetTableName(const QString &fromText)
     } catch (const ADODB::Error &error) {
         fault = FilterTexts::FieldsUnreadable.arg(error.Description());
     }
+    m_hasFields = !context->fields.empty();
     context->dialect = m_source.dialect();
     context->readValues = [this](const FilterField &field) { return valuesOf(field); };
     m_rows->start(std::move(context));
+    enableParts();
+    if (m_hasFields)
+        m_rows->focusFirstPart();
+    else
+        m_condition->setFocus();
     tell(fault);
 }
 
@@ -179,16 +186,22 @@ void SetFilter::backToRows()
 {
     setByHand(false);
     onRowsChanged();
-    m_rows->setFocus();
+    m_rows->focusFirstPart();
 }
 
 // What stands in the rows stays there meanwhile, and shows by its paleness that it does not count.
 void SetFilter::setByHand(bool isByHand)
 {
     m_isByHand = isByHand;
-    m_rows->setEnabled(!isByHand);
-    m_add->setEnabled(!isByHand);
     m_backToRows->setVisible(isByHand);
+    enableParts();
+}
+
+// Without fields only a condition by hand is left.
+void SetFilter::enableParts()
+{
+    m_rows->setEnabled(m_hasFields && !m_isByHand);
+    m_add->setEnabled(m_hasFields && !m_isByHand);
 }
 
 QString SetFilter::ConditionText()
@@ -205,20 +218,29 @@ QString SetFilter::ConditionText()
 
 QString SetFilter::conditionByHand()
 {
-    QString text = m_condition->text().trimmed();
-    if (text.isEmpty()) {
+    const QString typed = JoinStatementLines(m_condition->text()).trimmed();
+    if (typed.isEmpty()) {
         tell(FilterTexts::NoCondition);
         return {};
     }
+    // The statement's sort is found by these words, wherever they stand.
+    const QString betweenBlanks = u' ' + typed + u' ';
+    if (betweenBlanks.contains(" ORDER BY "_L1, Qt::CaseInsensitive)) {
+        tell(FilterTexts::NoOrderBy);
+        return {};
+    }
     // Further conditions are joined by AND, which binds closer.
-    static const QRegularExpression orWord(u"\\bOR\\b"_s, QRegularExpression::CaseInsensitiveOption);
-    if (text.contains(orWord))
-        text = u'(' + text + u')';
+    static const QRegularExpression looseWord(uR"(\bX?OR\b|\|\|)"_s,
+                                              QRegularExpression::CaseInsensitiveOption);
+    const QString enclosed = u'(' + typed + u')';
+    const QString text = typed.contains(looseWord) ? enclosed : typed;
     if (!m_source.hasTable())
         return text;
     try {
         const WaitCursor waiting;
-        m_source.check(text);
+        // Its brackets match by themselves, and nothing stands behind it that is no condition.
+        m_source.check(typed);
+        m_source.check(enclosed);
         return text;
     } catch (const ADODB::Error &error) {
         tell(error.Description());

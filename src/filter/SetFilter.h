@@ -46,6 +46,7 @@ private:
     void onConditionEdited();
     void backToRows();
     void setByHand(bool isByHand);
+    void enableParts();
     QString conditionByHand();
     QStringList valuesOf(const FilterField &field);
     void tell(const QString &notice);
@@ -60,6 +61,7 @@ private:
     QLineEdit *m_condition;
     QPushButton *m_backToRows;
     QLabel *m_notice;
+    bool m_hasFields = false;
     bool m_isByHand = false;
 };
 

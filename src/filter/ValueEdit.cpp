@@ -8,9 +8,12 @@
 #include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
+#include <QtGui/QScreen>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QCompleter>
+
+#include <algorithm>
 
 namespace KOVAVSFDataGridLib {
 
@@ -149,9 +152,20 @@ void ValueEdit::offerCalendar()
     }
     if (const QDate typed = DayOf(text()); typed.isValid())
         m_calendar->setSelectedDate(typed);
-    m_calendar->move(mapToGlobal(rect().bottomLeft()));
-    m_calendar->show();
+    m_calendar->show(); // only now does it have its size
+    m_calendar->move(placeOf(m_calendar->size()));
     m_calendar->setFocus();
+}
+
+// Below the editor, or above where the screen ends too soon.
+QPoint ValueEdit::placeOf(QSize popup) const
+{
+    const QRect free = screen()->availableGeometry();
+    QPoint place = mapToGlobal(rect().bottomLeft());
+    if (place.y() + popup.height() > free.bottom())
+        place.setY(mapToGlobal(rect().topLeft()).y() - popup.height());
+    place.setX(std::max(free.left(), std::min(place.x(), free.right() - popup.width())));
+    return place;
 }
 
 void ValueEdit::takeDay(QDate day)

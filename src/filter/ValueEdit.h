@@ -34,6 +34,7 @@ private:
     void offer();
     void offerList(const QStringList &values);
     void offerCalendar();
+    QPoint placeOf(QSize popup) const;
     void take(const QString &picked);
     void takeDay(QDate day);
 

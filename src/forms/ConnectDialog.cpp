@@ -16,7 +16,7 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-ConnectDialog::ConnectDialog(ConnectionBuilder builder, QWidget *parent)
+ConnectDialog::ConnectDialog(Builder builder, QWidget *parent)
     : QDialog(parent),
       m_builder(std::move(builder)),
       m_link(new QRadioButton(FormTexts::BuildConnection, this)),

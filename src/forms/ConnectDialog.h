@@ -22,10 +22,10 @@ class ConnectDialog final : public QDialog
 public:
     // Lets the developer build a connection in a window above `parent`, beginning with `present`; nothing
     // when that was cancelled. It closes what it opens.
-    using ConnectionBuilder = std::function<std::optional<QString>(QWidget *parent, const QString &present)>;
+    using Builder = std::function<std::optional<QString>(QWidget *parent, const QString &present)>;
 
     // Without a builder the string can only be typed.
-    explicit ConnectDialog(ConnectionBuilder builder, QWidget *parent = nullptr);
+    explicit ConnectDialog(Builder builder, QWidget *parent = nullptr);
 
     void SetConnectionString(const QString &text);
 
@@ -42,7 +42,7 @@ private:
     void askSqlShow();
     void enableParts();
 
-    ConnectionBuilder m_builder;
+    Builder m_builder;
     QRadioButton *m_link;
     QRadioButton *m_type;
     QLineEdit *m_text;

@@ -1,5 +1,6 @@
 #include "forms/FindDialog.h"
 
+#include "forms/FieldCombo.h"
 #include "forms/FormTexts.h"
 #include "query/FindText.h"
 #include "query/QueryTexts.h"
@@ -55,7 +56,7 @@ bool carriesText(const QInputMethodEvent &event)
 FindDialog::FindDialog(QWidget *parent)
     : QDialog(parent),
       m_input(new QComboBox(this)),
-      m_fields(new QComboBox(this)),
+      m_fields(new FieldCombo(this)),
       m_find(new QPushButton(FormTexts::Find, this))
 {
     setObjectName(u"FindDialog"_s);
@@ -70,7 +71,6 @@ FindDialog::FindDialog(QWidget *parent)
     m_fields->setObjectName(u"FieldCombo1"_s);
     m_fields->setAccessibleName(FormTexts::FindInFieldName);
     m_fields->setToolTip(FormTexts::FindInFieldName);
-    m_fields->setMaxVisibleItems(20);
     m_fields->setMinimumContentsLength(36);
     m_fields->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_find->setObjectName(u"FindBtn"_s);

@@ -1,5 +1,6 @@
 #include "forms/FlatCmd.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QStyleOptionButton>
 #include <QtWidgets/QStylePainter>
 
@@ -10,6 +11,15 @@ FlatCmd::FlatCmd(const QString &text, QWidget *parent) : QPushButton(text, paren
     setAttribute(Qt::WA_Hover);
     // Never the button that Enter presses from elsewhere: these are helpers beside a dialog's own buttons.
     setAutoDefault(false);
+}
+
+// A dialog would press its default button instead, and be done where the user wants to go on.
+void FlatCmd::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
 }
 
 void FlatCmd::paintEvent(QPaintEvent *)

@@ -43,18 +43,18 @@ frmSelShowFields::frmSelShowFields(QWidget *parent)
 QWidget *frmSelShowFields::makeSearchRow()
 {
     auto *row = new QWidget(this);
-    auto *search = new QLineEdit(row);
-    search->setObjectName(u"txtSearchField"_s);
-    search->setPlaceholderText(FormTexts::SearchFieldHint);
-    search->setClearButtonEnabled(true);
-    search->installEventFilter(this);
+    m_search = new QLineEdit(row);
+    m_search->setObjectName(u"txtSearchField"_s);
+    m_search->setPlaceholderText(FormTexts::SearchFieldHint);
+    m_search->setClearButtonEnabled(true);
+    m_search->installEventFilter(this);
     auto *label = new QLabel(FormTexts::SearchField, row);
-    label->setBuddy(search);
+    label->setBuddy(m_search);
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins({});
     layout->addWidget(label);
-    layout->addWidget(search, 1);
-    connect(search, &QLineEdit::textChanged, this, &frmSelShowFields::listOnly);
+    layout->addWidget(m_search, 1);
+    connect(m_search, &QLineEdit::textChanged, this, &frmSelShowFields::listOnly);
     return row;
 }
 
@@ -111,8 +111,7 @@ bool frmSelShowFields::AppendListFields(const QStringList *PassAllFields)
             item->setCheckState(0, Qt::Unchecked);
         }
     }
-    m_list->setCurrentItem(m_list->topLevelItem(0));
-    countChecks();
+    listOnly(m_search->text());
     return true;
 }
 

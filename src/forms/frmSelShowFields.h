@@ -5,6 +5,7 @@
 #include <QtCore/QStringList>
 
 class QLabel;
+class QLineEdit;
 class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -40,6 +41,7 @@ private:
     void changeChecks(bool (*change)(bool isChecked));
     void countChecks();
 
+    QLineEdit *m_search = nullptr;
     QTreeWidget *m_list;
     QLabel *m_count;
     QPushButton *m_all = nullptr;

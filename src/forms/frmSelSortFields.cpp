@@ -1,16 +1,15 @@
 #include "forms/frmSelSortFields.h"
 
+#include "forms/FieldCombo.h"
 #include "forms/FlatCmd.h"
 #include "forms/FormTexts.h"
+#include "forms/SortList.h"
 #include "query/QueryTexts.h"
-#include "query/SelectionText.h"
 
 #include <QtGui/QShortcut>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QTreeWidget>
 
 namespace KOVAVSFDataGridLib {
 
@@ -18,16 +17,15 @@ using namespace Qt::StringLiterals;
 
 frmSelSortFields::frmSelSortFields(QWidget *parent)
     : SelectionDialog(u"frmSelSortFields"_s, FormTexts::SelectSortTitle, u"picBack"_s, parent),
-      m_fields(new QComboBox(this)),
+      m_fields(new FieldCombo(this)),
       m_order(new QComboBox(this)),
-      m_add(new QPushButton(FormTexts::AddSortField, this)),
-      m_sort(new QTreeWidget(this)),
+      m_add(new FlatCmd(FormTexts::AddSortField, this)),
+      m_sort(new SortList(this)),
       m_up(new FlatCmd(FormTexts::MoveSortFieldUp, this)),
       m_down(new FlatCmd(FormTexts::MoveSortFieldDown, this)),
       m_delete(new FlatCmd(FormTexts::DeleteSortField, this))
 {
     m_add->setObjectName(u"cmdAddField"_s);
-    m_add->setAutoDefault(false);
     m_delete->setObjectName(u"cmdDeleteField"_s);
     m_up->setObjectName(u"cmdUpField"_s);
     m_down->setObjectName(u"cmdDownField"_s);
@@ -44,10 +42,8 @@ frmSelSortFields::frmSelSortFields(QWidget *parent)
     connect(m_up, &QPushButton::clicked, this, [this] { moveField(-1); });
     connect(m_down, &QPushButton::clicked, this, [this] { moveField(1); });
     connect(m_fields, &QComboBox::currentTextChanged, this, &frmSelSortFields::enableButtons);
-    connect(m_sort, &QTreeWidget::itemSelectionChanged, this, &frmSelSortFields::enableButtons);
-    connect(m_sort, &QTreeWidget::itemDoubleClicked, this, &frmSelSortFields::flipOrder);
-    // A drag takes the row out and puts it in again.
-    connect(m_sort->model(), &QAbstractItemModel::rowsInserted, this, &frmSelSortFields::enableButtons);
+    connect(m_sort, &SortList::itemSelectionChanged, this, &frmSelSortFields::enableButtons);
+    connect(m_sort, &SortList::itemDoubleClicked, this, &SortList::flipOrder);
     connectKeys();
     enableButtons();
     m_fields->setFocus();
@@ -69,7 +65,6 @@ QWidget *frmSelSortFields::makeAddRow()
     add(m_fields, u"cmbFields"_s, FormTexts::SortField, 1);
     add(m_order, u"cmbOrder"_s, FormTexts::SortOrder, 0);
     layout->addWidget(m_add);
-    m_fields->setMaxVisibleItems(20);
     m_fields->setMinimumContentsLength(12);
     m_order->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     return row;
@@ -87,18 +82,6 @@ QWidget *frmSelSortFields::makeList()
     buttons->addWidget(m_delete);
     buttons->addStretch();
     layout->addLayout(buttons);
-
-    m_sort->setObjectName(u"lvSortFields"_s);
-    m_sort->setAccessibleName(FormTexts::SelectSortTitle);
-    m_sort->setHeaderLabels({FormTexts::SortFieldColumn, FormTexts::OrderColumn});
-    m_sort->header()->setStretchLastSection(false);
-    m_sort->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_sort->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-    m_sort->setRootIsDecorated(false);
-    m_sort->setUniformRowHeights(true);
-    m_sort->setAlternatingRowColors(true);
-    m_sort->setDragDropMode(QAbstractItemView::InternalMove);
-    m_sort->setExpandsOnDoubleClick(false);
     return area;
 }
 
@@ -109,8 +92,8 @@ void frmSelSortFields::connectKeys()
                 this, act);
     };
     onKey(Qt::Key_Space, [this] {
-        if (selectedRow() >= 0)
-            flipOrder(m_sort->currentItem());
+        if (m_sort->selectedRow() >= 0)
+            SortList::flipOrder(m_sort->topLevelItem(m_sort->selectedRow()));
     });
     onKey(QKeySequence::Delete, [this] { deleteField(); });
     onKey(Qt::ALT | Qt::Key_Up, [this] { moveField(-1); });
@@ -122,10 +105,8 @@ bool frmSelSortFields::AppendListSortFields(const QStringList *PassSortFields)
     if (!PassSortFields)
         return false;
     m_sort->clear();
-    for (const QString &term : *PassSortFields) {
-        const SortTerm split = SplitSortTerm(term);
-        appendRow(split.field, split.orderWord);
-    }
+    for (const QString &term : *PassSortFields)
+        m_sort->append(SplitSortTerm(term));
     enableButtons();
     return true;
 }
@@ -149,62 +130,31 @@ bool frmSelSortFields::AppendSortOrder()
     return true;
 }
 
-void frmSelSortFields::appendRow(const QString &field, const QString &orderWord)
-{
-    auto *item = new QTreeWidgetItem({field, orderWord});
-    // Nothing can be dropped on a row, only between rows.
-    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled |
-                   Qt::ItemNeverHasChildren);
-    m_sort->addTopLevelItem(item);
-}
-
-bool frmSelSortFields::isInSort(const QString &field) const
-{
-    return !m_sort->findItems(field, Qt::MatchExactly | Qt::MatchCaseSensitive).isEmpty();
-}
-
-int frmSelSortFields::selectedRow() const
-{
-    const auto selected = m_sort->selectedItems();
-    return selected.isEmpty() ? -1 : m_sort->indexOfTopLevelItem(selected.constFirst());
-}
-
 void frmSelSortFields::addField()
 {
-    if (isInSort(m_fields->currentText()))
+    if (m_sort->contains(m_fields->currentText()))
         return;
-    appendRow(m_fields->currentText(), m_order->currentText());
+    m_sort->append({m_fields->currentText(), m_order->currentText()});
     m_sort->setCurrentItem(m_sort->topLevelItem(m_sort->topLevelItemCount() - 1));
 }
 
 void frmSelSortFields::deleteField()
 {
-    if (const int row = selectedRow(); row >= 0)
-        delete m_sort->takeTopLevelItem(row);
+    if (const int row = m_sort->selectedRow(); row >= 0)
+        m_sort->removeRow(row);
     enableButtons();
 }
 
 void frmSelSortFields::moveField(int by)
 {
-    const int row = selectedRow();
-    const int target = row + by;
-    if (row < 0 || target < 0 || target >= m_sort->topLevelItemCount())
-        return;
-    QTreeWidgetItem *item = m_sort->takeTopLevelItem(row);
-    m_sort->insertTopLevelItem(target, item);
-    m_sort->setCurrentItem(item);
-}
-
-void frmSelSortFields::flipOrder(QTreeWidgetItem *item)
-{
-    const bool isDescending = item->text(1) == QueryTexts::Descending();
-    item->setText(1, isDescending ? QueryTexts::Ascending() : QueryTexts::Descending());
+    const int row = m_sort->selectedRow();
+    m_sort->moveRow(row, row + by);
 }
 
 void frmSelSortFields::enableButtons()
 {
-    const int row = selectedRow();
-    const bool isListed = isInSort(m_fields->currentText());
+    const int row = m_sort->selectedRow();
+    const bool isListed = m_sort->contains(m_fields->currentText());
     m_add->setEnabled(m_fields->count() > 0 && m_order->count() > 0 && !isListed);
     m_add->setToolTip(isListed ? FormTexts::AlreadyInSort : QString());
     m_delete->setEnabled(row >= 0);
@@ -214,12 +164,7 @@ void frmSelSortFields::enableButtons()
 
 void frmSelSortFields::takeChoice()
 {
-    QList<SortTerm> terms;
-    for (int row = 0; row < m_sort->topLevelItemCount(); ++row) {
-        const QTreeWidgetItem *item = m_sort->topLevelItem(row);
-        terms.append({item->text(0), item->text(1)});
-    }
-    setResultText(ComposeSortList(terms));
+    setResultText(ComposeSortList(m_sort->terms()));
     accept();
 }
 

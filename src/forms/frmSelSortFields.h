@@ -6,10 +6,10 @@
 
 class QComboBox;
 class QPushButton;
-class QTreeWidget;
-class QTreeWidgetItem;
 
 namespace KOVAVSFDataGridLib {
+
+class SortList;
 
 // Lets the user choose sort fields and their order. Fill it in this order: SetTitle, AppendListFields,
 // AppendListSortFields, AppendSortOrder; strRetFields() is then the sort as it stands behind ORDER BY.
@@ -33,21 +33,17 @@ private:
     void connectKeys();
     void takeChoice() override;
 
-    void appendRow(const QString &field, const QString &orderWord);
     void addField();
     void deleteField();
     // Moves the selected row up (-1) or down (1).
     void moveField(int by);
-    void flipOrder(QTreeWidgetItem *item);
-    bool isInSort(const QString &field) const;
-    int selectedRow() const; // -1 when there is none
     void enableButtons();
 
     // In the order in which the tab key reaches them.
     QComboBox *m_fields;
     QComboBox *m_order;
     QPushButton *m_add;
-    QTreeWidget *m_sort;
+    SortList *m_sort;
     QPushButton *m_up;
     QPushButton *m_down;
     QPushButton *m_delete;

@@ -89,7 +89,7 @@ void FlexGrid::PutCol(int col)
 // be dead there. The numbers are kept here; the view stands on the nearest column that can be seen.
 void FlexGrid::makeCurrent(int row, int col)
 {
-    const bool isCell = row > 0 && col >= m_model->fixedCols();
+    const bool isCell = row > 0 && m_model->columnCount() > 0;
     setAutoScroll(false); // what is in view is TopRow's affair
     setCurrentIndex(isCell ? m_model->index(row - 1, nearestShownSection(section(col))) : QModelIndex());
     setAutoScroll(true);

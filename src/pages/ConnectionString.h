@@ -18,6 +18,7 @@ public:
     // when that was cancelled.
     using Builder = std::function<std::optional<QString>(QWidget *parent, const QString &present)>;
 
+    // Shows nothing until a control is selected.
     explicit ConnectionString(QWidget *parent = nullptr);
 
     // Without one, cmd_link is disabled.

@@ -13,6 +13,7 @@ class KOVA_EXPORT PartDisplayField final : public PropertyPage
     Q_OBJECT
 
 public:
+    // Shows nothing until a control is selected.
     explicit PartDisplayField(QWidget *parent = nullptr);
 
     // A statement without a table leaves the lists as they are.

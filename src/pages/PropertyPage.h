@@ -17,7 +17,7 @@ namespace KOVAVSFDataGridLib {
 class KOVA_EXPORT PropertyPage : public QWidget
 {
     Q_OBJECT
-    // True from the first change of the text until it was applied or another control was selected.
+    // See Changed().
     Q_PROPERTY(bool Changed READ Changed WRITE PutChanged NOTIFY ChangedChanged)
 
 public:
@@ -30,6 +30,7 @@ public:
     // Without one the page writes with QObject::setProperty.
     void SetWriter(Writer writer);
 
+    // True from the first change of the text until it was applied or another control was selected.
     bool Changed() const { return m_isChanged; }
     void PutChanged(bool on);
 
@@ -40,6 +41,7 @@ public:
     Q_INVOKABLE bool ApplyChanges();
 
 Q_SIGNALS:
+    // Changed() is another value now.
     void ChangedChanged(bool isChanged);
 
 protected:
@@ -47,7 +49,9 @@ protected:
     PropertyPage(const QString &property, const QString &textBox, const QString &label, const QString &hint,
                  QWidget *parent);
 
+    // The control that is shown and written; null without one.
     QObject *control() const { return m_control; }
+    // The page's text box.
     QLineEdit &text() const { return *m_text; }
     // For what a page has besides its text box.
     QVBoxLayout &rows() const { return *m_rows; }

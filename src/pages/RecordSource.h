@@ -11,6 +11,7 @@ class KOVA_EXPORT RecordSource final : public PropertyPage
     Q_OBJECT
 
 public:
+    // Shows nothing until a control is selected.
     explicit RecordSource(QWidget *parent = nullptr);
 };
 

@@ -10,6 +10,7 @@ class KOVA_EXPORT SQLShow final : public PropertyPage
     Q_OBJECT
 
 public:
+    // Shows nothing until a control is selected.
     explicit SQLShow(QWidget *parent = nullptr);
 };
 

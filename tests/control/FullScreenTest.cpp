@@ -1,15 +1,20 @@
 // The "FullScreen" button of a control, and coming back from the viewer.
 #include <KOVAVSFDataGrid>
 
+#include "support/Dialogs.h"
 #include "support/ExpectedWarnings.h"
 #include "support/TestDatabase.h"
+#include "support/WindowAnswers.h"
 
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableView>
 #include <QtWidgets/QToolBar>
 #include <gtest/gtest.h>
@@ -100,6 +105,72 @@ TEST_F(FullScreen, WhatTheUserFilteredThereIsShownHere)
     EXPECT_TRUE(grid.SQLFilter().contains(u"B like 'x'"_s)) << qPrintable(grid.SQLFilter());
     press(grid, "ToPreview");
     EXPECT_EQ(grid.CellTextL(2, 1), u"2"_s) << "the history goes along";
+}
+
+TEST_F(FullScreen, TheFilterButtonAsksInTheDialogAboveTheViewer)
+{
+    ASSERT_TRUE(grid.IsLoadData());
+    WindowAnswers dialogs({[](QDialog &viewer) {
+                               press(viewer, "Filter");
+                               EXPECT_EQ(seen(viewer, u"vsfgShowData"_s), u"A B C"_s);
+                               QTest::keyClick(&viewer, Qt::Key_Escape);
+                           },
+                           [](QDialog &dialog) {
+                               EXPECT_EQ(dialog.objectName(), u"frm_Filter"_s);
+                               EXPECT_EQ(dialog.parentWidget()->objectName(), u"frm_FullScreen"_s);
+                               compose(part<QLineEdit>(dialog, "txtCondition"), u"C > 10"_s);
+                               KovaTest::press(dialog, "cmd_Filter");
+                           }});
+    press(grid, "FullScreen");
+    EXPECT_EQ(grid.CellTextL(1, 1), u"2"_s);
+    EXPECT_TRUE(grid.SQLFilter().contains(u"WHERE C > 10"_s)) << qPrintable(grid.SQLFilter());
+    press(grid, "ToPreview");
+    EXPECT_EQ(grid.CellTextL(1, 1), u"1"_s) << "it is an entry of the history";
+}
+
+TEST_F(FullScreen, ShortcutsWorkThereToo)
+{
+    ASSERT_TRUE(grid.IsLoadData());
+    visit([](QDialog &viewer) {
+        auto *view = viewer.findChild<QTableView *>(u"vsfgShowData"_s);
+        viewer.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&viewer));
+        EXPECT_TRUE(view->hasFocus());
+        QTest::keyClick(view, Qt::Key_2, Qt::ControlModifier);
+        EXPECT_EQ(seen(viewer, u"vsfgShowData"_s), u"A C"_s);
+        QTest::keyClick(view, Qt::Key_1, Qt::ControlModifier);
+        EXPECT_EQ(seen(viewer, u"vsfgShowData"_s), u"A B C"_s);
+    });
+    EXPECT_EQ(seen(grid, u"vsfgDataGrid"_s), u"A B C"_s);
+}
+
+TEST_F(FullScreen, AResultThatTakesLongCanBeCancelled)
+{
+    database.run(u"CREATE TABLE S (N INTEGER PRIMARY KEY);"
+                 "WITH RECURSIVE I(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM I WHERE i < 2000)"
+                 " INSERT INTO S SELECT i FROM I;"
+                 "CREATE VIEW Many AS SELECT A.N AS N, B.N AS M FROM S A, S B, S C"_s);
+    grid.PutSQLShow(u"select * from Many where N = 1 and M = 2"_s);
+    ASSERT_TRUE(grid.IsLoadData());
+    int lines = 0;
+    visit([&](QDialog &viewer) {
+        QTimer::singleShot(0, &viewer, [&] { // comes when the line shows
+            ASSERT_TRUE(viewer.findChild<QProgressBar *>());
+            for (QPushButton *button : viewer.findChildren<QPushButton *>()) {
+                if (button->text() == u"取消") {
+                    ++lines;
+                    QTest::mouseClick(button, Qt::LeftButton);
+                }
+            }
+        });
+        press(viewer, "ToFullTable");
+        EXPECT_FALSE(viewer.findChild<QProgressBar *>());
+        EXPECT_EQ(viewer.findChild<QTableView *>(u"vsfgShowData"_s)->model()->rowCount(), 2000);
+    });
+    EXPECT_EQ(lines, 1);
+    EXPECT_EQ(grid.findChild<QTableView *>(u"vsfgDataGrid"_s)->model()->rowCount(), 2000);
+    EXPECT_EQ(grid.SQLFilter(), QString());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(FullScreen, ThePartFieldViewComesBack)

@@ -38,8 +38,8 @@ struct HandBack : LoadedParts
 
     FullScreenRequest request()
     {
-        return {parts,    result,    pages,   filter, database.connectionString(),
-                dbAccess, statement, u"ID"_s, {},     [this](QWidget *) { return condition; }};
+        return {parts,    result,    pages,   manager, database.connectionString(),
+                dbAccess, statement, u"ID"_s, {},      [this](QWidget *) { return condition; }};
     }
 
     QString row(int row) const
@@ -273,7 +273,7 @@ TEST_F(HandBack, AControlThatIsDestroyedMeanwhileTakesTheViewerAlong)
     EXPECT_FALSE(ShowFullScreen({others,
                                  otherResult,
                                  otherPages,
-                                 filter,
+                                 manager,
                                  database.connectionString(),
                                  dbAccess,
                                  statement,

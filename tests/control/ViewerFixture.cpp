@@ -160,4 +160,28 @@ void ViewerUser::choose(int menuIndex) const
     QTest::mouseClick(&menu(), Qt::LeftButton, {}, menu().actionGeometry(menuItem(menuIndex)).center());
 }
 
+ViewerHost Viewer::host()
+{
+    return {[this](const QString &sql, const std::function<bool(qint64)> &progress) {
+                ++openings;
+                result.replaceBy(ResultSet::open(database.connectionString(), sql, dbAccess, progress));
+                return ViewerHost::Opened{result.connection(), result.recordset()};
+            },
+            [this](QWidget *) { return condition; }};
+}
+
+void Viewer::show(qint32 page, bool isAll)
+{
+    viewer.PutFilterManager(manager);
+    viewer.GetData(result.connection(), result.recordset(), page, database.connectionString(), statement,
+                   true, {}, isAll, true, true, true);
+    viewer.show();
+}
+
+PagedViewer::PagedViewer()
+{
+    load(u"select * from T"_s);
+    result.recordset()->PutPageSize(2);
+}
+
 } // namespace KovaTest

@@ -57,7 +57,9 @@ struct LoadedParts : testing::Test
     KOVAVSFDataGridLib::PageView pages{parts, result};
     KOVAVSFDataGridLib::ConnectionFieldReader reader{result};
     PreparedChooser chooser;
-    KOVAVSFDataGridLib::clsFilterManagement filter{&reader, &chooser};
+    std::shared_ptr<KOVAVSFDataGridLib::clsFilterManagement> manager =
+        std::make_shared<KOVAVSFDataGridLib::clsFilterManagement>(&reader, &chooser);
+    KOVAVSFDataGridLib::clsFilterManagement &filter = *manager;
     QString statement;
     QString condition; // what the filter dialog gives
 };
@@ -89,6 +91,27 @@ private:
     Part &part(const char *name) const;
 
     QWidget &m_viewer;
+};
+
+// The viewer alone, without a control around it.
+struct Viewer : LoadedParts
+{
+    void show(qint32 page = 1, bool isAll = true);
+    // The table is gone, so that no statement can be opened any more.
+    void breakDatabase() { database.run(QStringLiteral("ALTER TABLE T RENAME TO Away")); }
+
+    int openings = 0;
+    KOVAVSFDataGridLib::frm_FullScreen viewer{host()};
+    ViewerUser user{viewer};
+
+private:
+    KOVAVSFDataGridLib::ViewerHost host();
+};
+
+// Five records, two on a page.
+struct PagedViewer : Viewer
+{
+    PagedViewer();
 };
 
 } // namespace KovaTest

@@ -68,6 +68,8 @@ TEST(FilterCondition, YesAndNoAreToldByNumberOrOnServersByText)
     EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"是"_s), "F <> 0");
     EXPECT_EQ(sql(FieldClass::Boolean, NotEquals, u"是"_s), "F = 0");
     EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"否"_s, {}, OracleServer), "F = '0'");
+    EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"是"_s, {}, {dbSQLServer, true}), "F = '1'");
+    EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"是"_s, {}, {dbAccess, true}), "F <> 0");
 }
 
 TEST(FilterCondition, FaultsAreSaidInsteadOfACondition)
@@ -83,6 +85,13 @@ TEST(FilterCondition, FaultsAreSaidInsteadOfACondition)
     EXPECT_EQ(sql(FieldClass::Date, Between, u"2024-02-01"_s, u"2024-1-31"_s), "fault: 结束值小于开始值。");
     EXPECT_EQ(sql(FieldClass::Moment, Between, u"2024-02-01"_s, u"2024-02-01"_s),
               "(F >= '2024-02-01' AND F < '2024-02-02')");
+    // The day lasts until its end.
+    EXPECT_EQ(sql(FieldClass::Moment, Between, u"2024-02-01 12:00"_s, u"2024-02-01"_s),
+              "(F >= '2024-02-01 12:00:00' AND F < '2024-02-02')");
+    EXPECT_EQ(sql(FieldClass::Moment, Between, u"2024-02-02"_s, u"2024-02-01"_s),
+              "fault: 结束值小于开始值。");
+    EXPECT_EQ(sql(FieldClass::Moment, Between, u"2024-02-02 00:00"_s, u"2024-02-01"_s),
+              "fault: 结束值小于开始值。");
     EXPECT_EQ(ConditionOf(Sqlite, {}).fault, u"没有可以筛选的字段。"_s);
 }
 

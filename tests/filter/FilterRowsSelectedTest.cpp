@@ -3,6 +3,8 @@
 
 #include "ado/Connection.h"
 #include "ado/Recordset.h"
+#include "query/Conditions.h"
+#include "query/SqlText.h"
 #include "support/TestDatabase.h"
 
 #include <gtest/gtest.h>
@@ -27,8 +29,10 @@ struct Row
 // One of the pieces that are dangerous in a statement or a pattern, again and again.
 QString randomText(std::mt19937 &random)
 {
-    static const QStringList pieces{u"'"_s, u"%"_s, u"_"_s, u"["_s,    u"]"_s,  u"!"_s,  u"\\"_s,  u"\""_s,
-                                    u" "_s, u"a"_s, u"B"_s, u"北京"_s, u"，"_s, u"--"_s, u"x%y"_s, u"𠮷"_s};
+    static const QStringList pieces{u"'"_s,  u"%"_s,          u"_"_s,     u"["_s,       u"]"_s,
+                                    u"!"_s,  u"\\"_s,         u"\""_s,    u" "_s,       u"a"_s,
+                                    u"B"_s,  u" order by "_s, u"FROM "_s, u" Where "_s, u"北京"_s,
+                                    u"，"_s, u"--"_s,         u"x%y"_s,   u"𠮷"_s};
     QString text;
     for (auto count = random() % 5; count > 0; --count)
         text += pieces.at(static_cast<qsizetype>(random() % static_cast<unsigned>(pieces.size())));
@@ -75,6 +79,18 @@ struct Selected : testing::Test
         return {name, FilterSql::FieldName(dialect, name), fieldClass};
     }
 
+    // As filtering a sorted result and then filtering what is found once more writes it.
+    static QString thatFiltersTwice(const QString &condition)
+    {
+        QString statement = u"select ID from T order by ID"_s;
+        for (const QString &further : {condition, u"ID >= 0"_s}) {
+            auto parts = SplitSQLSentence(statement);
+            AddCondition(*parts, further);
+            statement = JoinSQLSentence(*parts);
+        }
+        return statement;
+    }
+
     void expectSame(const FilterChoice &choice, const std::function<bool(const Row &)> &wanted)
     {
         const FilterCondition condition = ConditionOf(dialect, choice);
@@ -84,8 +100,10 @@ struct Selected : testing::Test
             if (wanted(rows[id]))
                 expected.append(QString::number(id));
         }
+        const QString statement = thatFiltersTwice(condition.sql);
+        EXPECT_EQ(GetTableOfSQL(statement), u"T"_s);
         ADODB::Recordset found;
-        found.Open(u"SELECT ID FROM T WHERE "_s + condition.sql + u" ORDER BY ID"_s, connection);
+        found.Open(statement, connection);
         QStringList ids;
         for (qint64 record = 1; record <= found.RecordCount(); ++record)
             ids.append(found.CellText(record, 0));

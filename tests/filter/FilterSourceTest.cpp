@@ -59,6 +59,18 @@ TEST_F(Source, TellsFieldsOfSeveralTablesApart)
     EXPECT_EQ(written(u"A inner join B on A.ID = B.ID"_s).size(), 4);
 }
 
+TEST_F(Source, FieldsNamedLikeWordsOfTheLanguageCanBeFilteredBy)
+{
+    database.run(
+        uR"(CREATE TABLE Words ("Order" INTEGER, "Collate" INTEGER, "Returning" INTEGER, "IsNull" INTEGER,
+        "a]b" INTEGER, "a""b" INTEGER, "Current_Date" INTEGER); INSERT INTO Words VALUES (1, 1, 1, 1, 1, 1, 1))"_s);
+    QStringList conditions;
+    for (const QString &name : written(u"Words"_s))
+        conditions.append(name + u" = 1"_s);
+    EXPECT_EQ(conditions.size(), 7);
+    EXPECT_EQ(database.ask(u"SELECT count(*) FROM Words WHERE "_s + conditions.join(u" AND "_s)), u"1"_s);
+}
+
 TEST_F(Source, AMissingTableIsAnError)
 {
     source.setTable(u"没有"_s);

@@ -12,6 +12,7 @@ constexpr Dialect SqliteFile{dbAccess, false};
 constexpr Dialect AccessServer{dbAccess, true};
 constexpr Dialect OracleServer{dbOracle, true};
 constexpr Dialect SqlServer{dbSQLServer, true};
+constexpr Dialect MariaDb{dbSQLServer, true, true};
 
 void expectText(const QString &text, const char *expected)
 {
@@ -37,23 +38,26 @@ TEST(FilterSql, NamesAreEnclosedWhereTheyNeedIt)
         QString name;
         const char *access;
         const char *oracle;
+        const char *sqlServer;
     };
     const Case cases[] = {
-        {u"NAME"_s, "NAME", "NAME"},
-        {u"客户名称"_s, "客户名称", "客户名称"},
-        {u"Unit Price"_s, "[Unit Price]", "\"Unit Price\""},
-        {u"单价(元)"_s, "[单价(元)]", "\"单价(元)\""},
-        {u"Mixed"_s, "Mixed", "\"Mixed\""},
-        {u"2024"_s, "[2024]", "\"2024\""},
-        {u"Order"_s, "[Order]", "\"Order\""},
-        {u"ORDER"_s, "[ORDER]", "\"ORDER\""},
-        {u"desc"_s, "[desc]", "\"desc\""},
-        {u"a\"b"_s, "[a\"b]", "\"a\"\"b\""},
+        {u"NAME"_s, "NAME", "NAME", "NAME"},
+        {u"客户名称"_s, "客户名称", "客户名称", "客户名称"},
+        {u"Unit Price"_s, "[Unit Price]", "\"Unit Price\"", "\"Unit Price\""},
+        {u"单价(元)"_s, "[单价(元)]", "\"单价(元)\"", "\"单价(元)\""},
+        {u"Mixed"_s, "Mixed", "\"Mixed\"", "Mixed"},
+        {u"2024"_s, "[2024]", "\"2024\"", "\"2024\""},
+        {u"Order"_s, "[Order]", "\"Order\"", "\"Order\""},
+        {u"ORDER"_s, "[ORDER]", "\"ORDER\"", "\"ORDER\""},
+        {u"desc"_s, "[desc]", "\"desc\"", "\"desc\""},
+        {u"Current_Date"_s, "[Current_Date]", "\"Current_Date\"", "\"Current_Date\""},
+        {u"a\"b"_s, "[a\"b]", "\"a\"\"b\"", "\"a\"\"b\""},
+        {u"a]b"_s, "\"a]b\"", "\"a]b\"", "\"a]b\""},
     };
     for (const Case &c : cases) {
         expectText(FieldName(SqliteFile, c.name), c.access);
         expectText(FieldName(OracleServer, c.name), c.oracle);
-        expectText(FieldName(SqlServer, c.name), c.access);
+        expectText(FieldName(SqlServer, c.name), c.sqlServer);
     }
 }
 
@@ -70,6 +74,41 @@ TEST(FilterSql, OnlySqlServerNeedsToBeToldOfUnicode)
     expectText(Text(SqlServer, u"Beijing"_s), "'Beijing'");
     expectText(Text(OracleServer, u"北京"_s), "'北京'");
     expectText(Text({dbSQLServer, false}, u"北京"_s), "'北京'");
+}
+
+TEST(FilterSql, WordsThatBeginAClauseAreTakenApartSoThatNoStatementIsCutThere)
+{
+    struct Case
+    {
+        QString text;
+        const char *sqlite;
+        const char *server;
+    };
+    const Case cases[] = {
+        {u"a order by b"_s, "('a o' || 'rder by b')", "{fn CONCAT('a o', 'rder by b')}"},
+        {u" Order By b"_s, "(' O' || 'rder By b')", "{fn CONCAT(' O', 'rder By b')}"},
+        {u"FROM 北京"_s, "('F' || 'ROM 北京')", "{fn CONCAT('F', 'ROM 北京')}"},
+        {u"WHERE ORDER BY "_s, "(('W' || 'HERE O') || 'RDER BY ')",
+         "{fn CONCAT({fn CONCAT('W', 'HERE O')}, 'RDER BY ')}"},
+        {u"letter from where"_s, "'letter from where'", "'letter from where'"},
+        {u"order by"_s, "'order by'", "'order by'"},
+    };
+    for (const Case &c : cases) {
+        expectText(Text(SqliteFile, c.text), c.sqlite);
+        expectText(Text(OracleServer, c.text), c.server);
+    }
+    expectText(Like(SqliteFile, u"F"_s, u"x order by 5%"_s, Anchor::None),
+               "F LIKE ('%x o' || 'rder by 5!%%') ESCAPE '!'");
+}
+
+TEST(FilterSql, ABackslashIsMatchedAsItself)
+{
+    expectText(Text(OracleServer, uR"(C:\temp\)"_s), R"('C:\temp\')");
+    expectText(Text(MariaDb, uR"(C:\temp\)"_s), R"('C:\\temp\\')");
+    expectText(Text(MariaDb, uR"(\'北)"_s), R"('\\''北')");
+    // PostgreSQL's and MariaDB's patterns have it as an escape where no other one is named.
+    expectText(Like(OracleServer, u"F"_s, uR"(a\b)"_s, Anchor::Begin), R"(F LIKE 'a\b%' ESCAPE '!')");
+    expectText(Like(MariaDb, u"F"_s, uR"(a\%)"_s, Anchor::End), R"(F LIKE '%a\\!%' ESCAPE '!')");
 }
 
 TEST(FilterSql, DatesAreIsoTextOrOdbcEscapes)

@@ -5,6 +5,7 @@
 #include "support/ExpectedWarnings.h"
 #include "support/TestDatabase.h"
 
+#include <QtGui/QScreen>
 #include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QCompleter>
@@ -118,6 +119,13 @@ TEST_F(Builder, TheKeyboardAloneBuildsACondition)
     EXPECT_EQ(answer(), "金额 > 100");
 }
 
+TEST_F(Builder, AFieldIsFoundByTheBeginningOfItsNameInChineseToo)
+{
+    compose(combo("cmbField1"), u"下单"_s);
+    EXPECT_EQ(combo("cmbField1").currentText(), u"下单日期"_s);
+    EXPECT_EQ(part<QLineEdit>(dialog, "txtValue1").placeholderText(), u"例如 2024-01-31"_s);
+}
+
 TEST_F(Builder, BetweenTakesTwoValues)
 {
     choose("cmbOperator1", u"介于"_s);
@@ -225,6 +233,10 @@ TEST_F(Builder, AnEndBeforeItsStartIsMarked)
     type("txtValue1b", u"2024-01-01"_s);
     EXPECT_EQ(answer(), "");
     EXPECT_EQ(fault("lblFault1"), "结束值小于开始值。");
+    EXPECT_EQ(dialog.focusWidget(), &text("txtValue1b"));
+    text("txtValue1").clear();
+    EXPECT_EQ(answer(), "");
+    EXPECT_EQ(dialog.focusWidget(), &text("txtValue1"));
 }
 
 TEST_F(Builder, AnotherFieldKeepsOperatorAndValueWhereItCan)
@@ -295,6 +307,22 @@ TEST_F(Builder, ADayIsPickedFromACalendarAndKeepsTheTimeBehindIt)
     EXPECT_EQ(answer(), "发货时间 = '2024-01-06 08:30:00'");
 }
 
+TEST_F(Builder, TheCalendarStaysOnTheScreen)
+{
+    const QRect free = dialog.screen()->availableGeometry();
+    choose("cmbField1", u"下单日期"_s);
+    for (const QPoint corner : {free.topLeft(), free.bottomRight() - QPoint(300, 60)}) {
+        dialog.move(corner);
+        QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+        const QWidget *calendar = QApplication::activePopupWidget();
+        ASSERT_NE(calendar, nullptr);
+        EXPECT_TRUE(free.contains(calendar->frameGeometry()));
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+        EXPECT_TRUE(dialog.isVisible());
+    }
+}
+
 TEST_F(Builder, NumbersHaveNoListToOpen)
 {
     choose("cmbField1", u"金额"_s);
@@ -311,6 +339,7 @@ TEST_F(Builder, AConditionTypedByHandCountsUntilTheRowsAreWantedBack)
     EXPECT_FALSE(part(dialog, "cmdAddRow").isEnabled());
     press(dialog, "cmdBackToRows");
     EXPECT_TRUE(text("txtValue1").isEnabled());
+    EXPECT_EQ(dialog.focusWidget(), &combo("cmbField1"));
     EXPECT_EQ(answer(), "编号 = 1");
 }
 
@@ -325,6 +354,47 @@ TEST_F(Builder, AWrongConditionTypedByHandIsExplainedByTheDatabase)
     EXPECT_EQ(fault("lblNotice"), "请输入条件。");
 }
 
+TEST_F(Builder, AConditionTypedByHandStaysOneConditionWhateverIsJoinedToIt)
+{
+    const struct
+    {
+        QString typed;
+        const char *answer;
+    } cases[] = {
+        {u"编号 = 1 -- 说明"_s, "编号 = 1"},
+        {u"编号 =\n1"_s, "编号 = 1"},
+        {u"城市 = '--' or 编号 = 1"_s, "(城市 = '--' or 编号 = 1)"},
+        {u"编号 = 1) or (编号 = 2"_s, ""},
+        {u"编号 = 1 /* 说明"_s, ""},
+        {u"编号 = 1 limit 1"_s, ""},
+        {u"编号 = 1; select 1"_s, ""},
+    };
+    for (const auto &c : cases) {
+        type("txtCondition", {});
+        text("txtCondition").insert(c.typed);
+        EXPECT_EQ(answer(), c.answer) << qUtf8Printable(c.typed);
+        EXPECT_NE(fault("lblNotice"), "");
+    }
+    // The words by which the statement's sort is found, be it in a value.
+    type("txtCondition", u"城市 = '1 Order by 2'"_s);
+    EXPECT_EQ(answer(), "");
+    EXPECT_EQ(fault("lblNotice"), "条件语句中不能出现“ORDER BY”。");
+}
+
+TEST_F(Builder, TheKeyboardWalksThroughItFromLeftToRight)
+{
+    press(dialog, "cmdAddRow");
+    choose("cmbOperator1", u"介于"_s);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return combo("cmbField2").isVisible(); }));
+    part(dialog, "cmbOpen1").setFocus();
+    EXPECT_EQ(walkedByTab(dialog, 16),
+              "cmbOpen1 cmbField1 cmbOperator1 txtValue1 txtValue1b cmbClose1 cmbJoin1 cmdDeleteRow1 "
+              "cmbOpen2 cmbField2 cmbOperator2 txtValue2 cmbClose2 cmdDeleteRow2 cmdAddRow txtCondition");
+    for (const char *name : {"cmbOpen1", "cmbField1", "cmbOperator1", "txtValue1", "txtValue1b", "cmbClose1",
+                             "cmbJoin1", "cmdDeleteRow1", "txtCondition"})
+        EXPECT_FALSE(part(dialog, name).accessibleName().isEmpty()) << name;
+}
+
 TEST(BuilderWithoutDatabase, SaysWhyThereAreNoFieldsAndStillTakesACondition)
 {
     QDialog dialog;
@@ -337,6 +407,9 @@ TEST(BuilderWithoutDatabase, SaysWhyThereAreNoFieldsAndStillTakesACondition)
     EXPECT_FALSE(notice.contains(u"secret"_s));
     EXPECT_TRUE(builder.ConditionText().isEmpty());
     EXPECT_EQ(part<QLabel>(dialog, "lblFault1").text(), u"没有可以筛选的字段。"_s);
+    EXPECT_FALSE(part(dialog, "cmdAddRow").isEnabled());
+    EXPECT_FALSE(part(dialog, "cmbField1").isEnabled());
+    EXPECT_TRUE(part(dialog, "txtCondition").isEnabled());
 }
 
 TEST(BuilderWithoutTable, TakesAConditionAsItIsTyped)

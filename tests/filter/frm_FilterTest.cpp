@@ -65,6 +65,34 @@ TEST_F(FilterForm, CancelEscAndTheCloseBoxLeaveNoCondition)
     EXPECT_TRUE(dialog.strFilterCondition().isEmpty());
 }
 
+TEST_F(FilterForm, TheKeyboardBeginsWithTheFieldAndEndsWithTheButtons)
+{
+    EXPECT_EQ(walkedByTab(dialog, 8),
+              "cmbField1 cmbOperator1 txtValue1 cmbClose1 cmdAddRow txtCondition cmd_Filter cmd_Cancel");
+}
+
+TEST_F(FilterForm, AltF4LeavesNoCondition)
+{
+    QTest::keyClicks(&value(), u"3"_s);
+    closeFromTheFrame(dialog);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    EXPECT_TRUE(dialog.strFilterCondition().isEmpty());
+}
+
+TEST_F(FilterForm, MnemonicsAddARowAndFilter)
+{
+    key(dialog, Qt::Key_D, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return dialog.findChild<QWidget *>(u"cmbField2"_s) != nullptr; }));
+    press(dialog, "cmdDeleteRow2");
+    QTest::keyClicks(&value(), u"3"_s);
+    key(dialog, Qt::Key_T, Qt::AltModifier);
+    EXPECT_EQ(dialog.focusWidget(), &part(dialog, "txtCondition"));
+    key(dialog, Qt::Key_F, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !dialog.isVisible(); }));
+    EXPECT_EQ(dialog.strFilterCondition(), u"ID = 3"_s);
+}
+
 TEST_F(FilterForm, HasItsDecoration)
 {
     for (const char *name : {"GradualControl1", "pic_BackGround1", "Picture2", "Label2", "SetFilter1"})

@@ -41,4 +41,6 @@ TEST(FlatCmd, IsFlatUntilItHasTheFocusAndIsPressedLikeAnyButton)
     QSignalSpy clicked(&button, &QPushButton::clicked);
     QTest::keyClick(&button, Qt::Key_Space);
     EXPECT_EQ(clicked.count(), 1);
+    QTest::keyClick(&button, Qt::Key_Return);
+    EXPECT_EQ(clicked.count(), 2);
 }

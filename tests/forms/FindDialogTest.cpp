@@ -153,6 +153,35 @@ TEST_F(Find, EscAndCancelLeaveNoResult)
     EXPECT_TRUE(dialog.strFindText().isEmpty());
 }
 
+TEST_F(Find, AltF4LeavesNoResult)
+{
+    QTest::keyClicks(dialog.focusWidget(), u"a"_s);
+    closeFromTheFrame(dialog);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    EXPECT_TRUE(dialog.strFindText().isEmpty());
+}
+
+TEST_F(Find, MnemonicsAndTheTabKeyReachEveryPart)
+{
+    QTest::keyClicks(dialog.focusWidget(), u"a"_s);
+    EXPECT_EQ(walkedByTab(dialog, 4), "InputCombo1 FieldCombo1 FindBtn CancelBtn");
+    key(dialog, Qt::Key_N, Qt::AltModifier);
+    EXPECT_EQ(dialog.focusWidget(), &field());
+    key(dialog, Qt::Key_W, Qt::AltModifier);
+    EXPECT_EQ(dialog.focusWidget(), &input());
+    key(dialog, Qt::Key_F, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !dialog.isVisible(); }));
+    EXPECT_EQ(dialog.strFindText(), u"a"_s);
+}
+
+TEST_F(Find, TellsItsPartsByName)
+{
+    EXPECT_FALSE(input().accessibleName().isEmpty());
+    EXPECT_FALSE(field().accessibleName().isEmpty());
+    EXPECT_EQ(field().toolTip(), u"指定的字段名称（默认：全部）"_s);
+}
+
 TEST_F(Find, OnlyBlanksDoNothing)
 {
     QTest::keyClicks(dialog.focusWidget(), u"   "_s);

@@ -140,10 +140,45 @@ TEST_F(ShowFields, ClosingTheWindowIsRefused)
     QSignalSpy finished(&dialog, &QDialog::finished);
     // What both the frame's close box and Alt+F4 arrive as.
     EXPECT_FALSE(dialog.close());
-    QCloseEvent fromTheWindowSystem;
-    QCoreApplication::sendEvent(dialog.windowHandle(), &fromTheWindowSystem);
+    closeFromTheFrame(dialog);
+    key(dialog, Qt::Key_F4, Qt::AltModifier); // where it arrives as keys
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(finished.count(), 0);
+    press(dialog, "cmdOK");
+    EXPECT_EQ(dialog.strRetFields(), u"A"_s); // it still works
+}
+
+TEST_F(ShowFields, FillingAgainListsOnlyWhatIsSearchedFor)
+{
+    fill({u"Alpha"_s});
+    QTest::keyClicks(&part<QLineEdit>(dialog, "txtSearchField"), u"be"_s);
+    EXPECT_TRUE(listed().isEmpty());
+    EXPECT_FALSE(isEnabled("cmdCheckInvert"));
+    fill({u"Gamma"_s, u"Beta"_s});
+    EXPECT_EQ(listed(), QStringList{u"Beta"_s});
+    EXPECT_EQ(list().currentItem()->text(0), u"Beta"_s);
+}
+
+TEST_F(ShowFields, TheKeyboardBeginsInTheListAndWalksOnFromTopToBottom)
+{
+    fill({u"A"_s, u"B"_s}, {u"A"_s});
+    EXPECT_EQ(walkedByTab(dialog, 7),
+              "lvSelField cmdCheckAll cmdCheckNone cmdCheckInvert cmdOK cmdCancel txtSearchField");
+}
+
+TEST_F(ShowFields, MnemonicsCheckAndSearch)
+{
+    fill({u"A"_s, u"B"_s}, {u"A"_s});
+    // A mnemonic shows the button pressed for a moment before it acts.
+    const auto press = [this](Qt::Key letter, const QStringList &expected) {
+        key(dialog, letter, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return checked() == expected; })) << static_cast<char>(letter);
+    };
+    press(Qt::Key_I, {u"B"_s});
+    press(Qt::Key_A, {u"A"_s, u"B"_s});
+    press(Qt::Key_N, {});
+    key(dialog, Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(dialog.focusWidget(), &part(dialog, "txtSearchField"));
 }
 
 TEST_F(ShowFields, ChecksAllNoneAndTheOthers)

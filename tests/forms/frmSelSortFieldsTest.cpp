@@ -1,17 +1,29 @@
 #include "forms/frmSelSortFields.h"
 
+#include "forms/SortList.h"
 #include "support/Dialogs.h"
 
+#include <QtCore/QMimeData>
+#include <QtGui/QDropEvent>
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QTreeWidget>
 #include <gtest/gtest.h>
+
+#include <memory>
 
 using namespace KOVAVSFDataGridLib;
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// Qt passes a drop on only after a drag of its own, which there is none of without a window system.
+struct ReachableDrop : SortList
+{
+    using SortList::dropEvent;
+};
 
 struct SortFields : testing::Test
 {
@@ -23,7 +35,7 @@ struct SortFields : testing::Test
         EXPECT_TRUE(dialog.AppendSortOrder());
         present(dialog);
     }
-    QTreeWidget &list() const { return part<QTreeWidget>(dialog, "lvSortFields"); }
+    SortList &list() const { return part<SortList>(dialog, "lvSortFields"); }
     QComboBox &combo(const char *name) const { return part<QComboBox>(dialog, name); }
     bool isEnabled(const char *name) const { return part(dialog, name).isEnabled(); }
     // One "field order" text for each row.
@@ -36,6 +48,15 @@ struct SortFields : testing::Test
     }
     QPoint middleOf(int row) const { return list().visualItemRect(list().topLevelItem(row)).center(); }
     void select(int row) { QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, middleOf(row)); }
+    // Ends a drag of the selected row at a place in the list.
+    void drop(QPoint place) const
+    {
+        const std::unique_ptr<QMimeData> dragged(
+            list().model()->mimeData(list().selectionModel()->selectedIndexes()));
+        QDropEvent event(place, list().model()->supportedDragActions(), dragged.get(), Qt::LeftButton, {});
+        (list().*&ReachableDrop::dropEvent)(&event);
+        EXPECT_TRUE(event.isAccepted());
+    }
     QString accepted()
     {
         press(dialog, "cmdOK");
@@ -105,6 +126,20 @@ TEST_F(SortFields, AddsTheChosenFieldWithTheChosenOrder)
     EXPECT_EQ(rows(), QStringList{u"AGE 降序"_s});
     EXPECT_TRUE(list().topLevelItem(0)->isSelected());
     EXPECT_EQ(accepted(), u"AGE DESC"_s);
+}
+
+TEST_F(SortFields, TypingTheBeginningOfANameFindsItAmongFiveHundred)
+{
+    QStringList all;
+    for (int i = 1; i <= 499; ++i)
+        all.append(u"字段%1"_s.arg(i));
+    fill(all + QStringList{u"订单金额"_s});
+    compose(combo("cmbFields"), u"订单"_s);
+    EXPECT_EQ(combo("cmbFields").currentText(), u"订单金额"_s);
+    press(dialog, "cmdAddField");
+    compose(combo("cmbFields"), u"没有"_s); // stays where nothing is found
+    EXPECT_EQ(accepted(), u"订单金额"_s);
+    EXPECT_EQ(combo("cmbFields").currentText(), u"订单金额"_s);
 }
 
 TEST_F(SortFields, AFieldThatIsInTheSortAlreadyIsNotAddedAgain)
@@ -177,12 +212,57 @@ TEST_F(SortFields, ADoubleClickOrTheSpaceBarFlipsTheOrder)
     EXPECT_EQ(rows(), (QStringList{u"B 升序"_s, u"A 升序"_s}));
 }
 
-TEST_F(SortFields, RowsCanBeDroppedBetweenRowsOnly)
+TEST_F(SortFields, ADraggedRowStaysSelectedWhereItIsDropped)
+{
+    fill({u"A"_s}, {u"甲"_s, u"乙 DESC"_s, u"丙"_s, u"丁"_s});
+    const int half = list().visualItemRect(list().topLevelItem(0)).height() / 2;
+    select(1);
+    drop(middleOf(3) + QPoint(0, half - 1));
+    EXPECT_EQ(rows(), (QStringList{u"甲 升序"_s, u"丙 升序"_s, u"丁 升序"_s, u"乙 降序"_s}));
+    EXPECT_EQ(list().currentIndex().row(), 3);
+    EXPECT_TRUE(list().topLevelItem(3)->isSelected());
+    EXPECT_FALSE(isEnabled("cmdDownField"));
+    EXPECT_TRUE(isEnabled("cmdUpField"));
+
+    drop(middleOf(0) - QPoint(0, half - 1));
+    EXPECT_EQ(rows().constFirst(), u"乙 降序"_s);
+    EXPECT_FALSE(isEnabled("cmdUpField"));
+    drop(middleOf(1) + QPoint(0, half - 1)); // down by one
+    EXPECT_EQ(rows(), (QStringList{u"甲 升序"_s, u"乙 降序"_s, u"丙 升序"_s, u"丁 升序"_s}));
+    drop(QPoint(20, list().viewport()->height() - 2)); // below all rows
+    EXPECT_EQ(rows().constLast(), u"乙 降序"_s);
+    EXPECT_EQ(accepted(), u"甲,丙,丁,乙 DESC"_s);
+}
+
+TEST_F(SortFields, ARowDroppedOnItselfStays)
+{
+    fill({u"A"_s}, {u"A"_s, u"B"_s});
+    select(0);
+    drop(middleOf(0) + QPoint(0, 2));
+    drop(middleOf(0) - QPoint(0, 2));
+    EXPECT_EQ(rows(), (QStringList{u"A 升序"_s, u"B 升序"_s}));
+    EXPECT_TRUE(list().topLevelItem(0)->isSelected());
+}
+
+TEST_F(SortFields, ADragThatIsNotDroppedChangesNothing)
+{
+    fill({u"A"_s}, {u"A"_s, u"B"_s});
+    QTest::mousePress(list().viewport(), Qt::LeftButton, {}, middleOf(0));
+    QTest::mouseMove(list().viewport(), middleOf(0) + QPoint(0, QApplication::startDragDistance() + 1));
+    QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, middleOf(1));
+    EXPECT_EQ(rows(), (QStringList{u"A 升序"_s, u"B 升序"_s}));
+    EXPECT_TRUE(list().topLevelItem(0)->isSelected());
+}
+
+TEST_F(SortFields, ADragIsAMoveInsideTheListAndBetweenRowsOnly)
 {
     fill({u"A"_s}, {u"A"_s, u"B"_s});
     EXPECT_EQ(list().dragDropMode(), QAbstractItemView::InternalMove);
     EXPECT_TRUE(list().topLevelItem(0)->flags().testFlag(Qt::ItemIsDragEnabled));
     EXPECT_FALSE(list().topLevelItem(0)->flags().testFlag(Qt::ItemIsDropEnabled));
+    select(0);
+    drop(middleOf(1) + QPoint(0, 3));
+    EXPECT_EQ(rows(), (QStringList{u"B 升序"_s, u"A 升序"_s}));
 }
 
 TEST_F(SortFields, CancelAndEscLeaveNoResult)
@@ -199,9 +279,50 @@ TEST_F(SortFields, CancelAndEscLeaveNoResult)
 
 TEST_F(SortFields, ClosingTheWindowIsRefused)
 {
-    fill({u"A"_s});
+    fill({u"A"_s}, {u"A"_s});
+    QSignalSpy finished(&dialog, &QDialog::finished);
     EXPECT_FALSE(dialog.close());
+    closeFromTheFrame(dialog);
+    key(dialog, Qt::Key_F4, Qt::AltModifier);
     EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(finished.count(), 0);
+    EXPECT_EQ(accepted(), u"A"_s); // it still works
+}
+
+TEST_F(SortFields, MnemonicsReachEveryButton)
+{
+    fill({u"A"_s, u"B"_s}, {u"B"_s});
+    // A mnemonic shows the button pressed for a moment before it acts.
+    const auto press = [this](Qt::Key letter, const QStringList &expected) {
+        key(dialog, letter, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return rows() == expected; })) << static_cast<char>(letter);
+    };
+    press(Qt::Key_A, {u"B 升序"_s, u"A 升序"_s});
+    press(Qt::Key_U, {u"A 升序"_s, u"B 升序"_s});
+    press(Qt::Key_W, {u"B 升序"_s, u"A 升序"_s});
+    press(Qt::Key_D, {u"B 升序"_s});
+    key(dialog, Qt::Key_R, Qt::AltModifier);
+    EXPECT_EQ(dialog.focusWidget(), &combo("cmbOrder"));
+    key(dialog, Qt::Key_F, Qt::AltModifier);
+    EXPECT_EQ(dialog.focusWidget(), &combo("cmbFields"));
+}
+
+TEST_F(SortFields, EnterOnAButtonPressesThatButton)
+{
+    fill({u"A"_s});
+    part(dialog, "cmdAddField").setFocus();
+    key(dialog, Qt::Key_Return);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(rows(), QStringList{u"A 升序"_s});
+}
+
+TEST_F(SortFields, TellsItsPartsByName)
+{
+    fill({u"A"_s});
+    EXPECT_FALSE(list().accessibleName().isEmpty());
+    EXPECT_FALSE(part<QLineEdit>(dialog, "txtTableName").accessibleName().isEmpty());
+    for (const char *name : {"picBack", "Picture1"})
+        EXPECT_TRUE(part(dialog, name).isVisible()) << name;
 }
 
 TEST_F(SortFields, TheKeyboardWalksThroughItFromTopToBottom)
@@ -209,12 +330,7 @@ TEST_F(SortFields, TheKeyboardWalksThroughItFromTopToBottom)
     fill({u"A"_s, u"B"_s}, {u"B"_s, u"C"_s});
     select(0);
     combo("cmbFields").setFocus();
-    QStringList order;
-    for (int step = 0; step < 8; ++step) {
-        order.append(dialog.focusWidget()->objectName());
-        key(dialog, Qt::Key_Tab);
-    }
-    EXPECT_STREQ(qUtf8Printable(order.join(u' ')),
-                 "cmbFields cmbOrder cmdAddField lvSortFields cmdDownField cmdDeleteField cmdOK "
-                 "cmdCancel");
+    EXPECT_EQ(walkedByTab(dialog, 8),
+              "cmbFields cmbOrder cmdAddField lvSortFields cmdDownField cmdDeleteField cmdOK "
+              "cmdCancel");
 }

@@ -55,6 +55,19 @@ TEST_F(Grid, NothingIsCurrentAtFirst)
     EXPECT_EQ(grid.Col(), 0);
 }
 
+TEST_F(Grid, TheHeadingColumnIsCurrentWithoutLosingTheKeyboard)
+{
+    grid.PutRow(3);
+    grid.PutCol(0);
+    EXPECT_EQ(grid.Col(), 0);
+    EXPECT_EQ(grid.Text(), u"r3c0"_s);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(grid.Row(), 4);
+    EXPECT_EQ(grid.Col(), 1);
+    grid.PutRow(0);
+    EXPECT_FALSE(grid.currentIndex().isValid()) << "the row of headings is no place for a cursor";
+}
+
 TEST_F(Grid, RowAndColFollowTheCurrentCellBothWays)
 {
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, centreOf(4, 3));

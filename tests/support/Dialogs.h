@@ -39,6 +39,24 @@ inline void key(const QDialog &dialog, Qt::Key key, Qt::KeyboardModifiers modifi
     QTest::keyClick(dialog.focusWidget(), key, modifiers);
 }
 
+// The names of the parts that the tab key reaches from where the keyboard is, with a blank between them.
+inline std::string walkedByTab(const QDialog &dialog, int steps)
+{
+    QStringList names;
+    for (; steps > 0; --steps) {
+        names.append(dialog.focusWidget()->objectName());
+        key(dialog, Qt::Key_Tab);
+    }
+    return names.join(QLatin1Char(' ')).toStdString();
+}
+
+// What the frame's close box and Alt+F4 arrive as.
+inline void closeFromTheFrame(const QDialog &dialog)
+{
+    QCloseEvent event;
+    QCoreApplication::sendEvent(dialog.windowHandle(), &event);
+}
+
 // Text as an input method for Chinese commits it, first shown as letters being composed.
 inline void compose(QWidget &editor, const QString &text)
 {

@@ -1,5 +1,6 @@
 // dialog_shots FOLDER: shows each dialog with plausible contents and saves it as a PNG file in the folder, at
 // the scale of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
+#include "control/connection/ConnectionBuilder.h"
 #include "filter/SetFilter.h"
 #include "filter/frm_Filter.h"
 #include "forms/ConnectDialog.h"
@@ -7,6 +8,10 @@
 #include "forms/FindDialog.h"
 #include "forms/frmSelShowFields.h"
 #include "forms/frmSelSortFields.h"
+#include "pages/ConnectionString.h"
+#include "pages/PageDialog.h"
+#include "pages/PropertyPage.h"
+#include "pages/PropertyPages.h"
 #include "query/colDataFields.h"
 
 #include <QtCore/QDir>
@@ -118,6 +123,39 @@ void takeTexts(Photographer &photographer)
     photographer.take(statement, u"Dialog_SQLST"_s);
 }
 
+void takeBuilder(Photographer &photographer)
+{
+    ConnectionBuilder builder(
+        {{u"MariaDB Unicode"_s, u"PostgreSQL Unicode"_s}, {u"网上商店"_s}, [](const QString &) {
+             return u"FATAL: password authentication failed for user \"kova\""_s;
+         }});
+    builder.SetConnectionString(u"Provider=SQLite;Data Source=/srv/数据/shop.db"_s);
+    photographer.take(builder, u"ConnectionBuilder-file"_s);
+    builder.SetConnectionString(
+        u"Driver=PostgreSQL Unicode;Server=db.example.com;Port=5432;Database=shop;UID=kova;PWD=secret"_s);
+    photographer.take(builder, u"ConnectionBuilder"_s);
+    part<QAbstractButton>(builder, u"cmdTest"_s).click();
+    photographer.take(builder, u"ConnectionBuilder-refused"_s);
+}
+
+void takePages(Photographer &photographer)
+{
+    QObject control;
+    control.setProperty("DBType", 1);
+    control.setProperty("ConnectionString", u"Provider=SQLite;Data Source=shop.db"_s);
+    control.setProperty("SQLShow", u"select 订单编号, 客户名称, [送货 城市], 金额 from 订单"_s);
+    control.setProperty("RecordSource", u"select 订单编号, 客户名称, [送货 城市], 金额 from 订单"_s);
+    control.setProperty("SQLPartDisplay", u"select [订单编号],[金额] from 订单"_s);
+    for (const QString &name : PropertyPageNames()) {
+        PropertyPage *page = NewPropertyPage(name);
+        PageDialog dialog(page);
+        page->SetSelectedControls({&control});
+        if (auto *connection = qobject_cast<ConnectionString *>(page))
+            connection->SetBuilder([](QWidget *, const QString &) { return std::optional<QString>(); });
+        photographer.take(dialog, u"page-"_s + name);
+    }
+}
+
 void fillRow(const QWidget &dialog, int number, const QString &field, const QString &op, const QString &value)
 {
     const QString suffix = QString::number(number);
@@ -176,6 +214,8 @@ int main(int argc, char **argv)
     takeSelections(photographer);
     takeFind(photographer);
     takeTexts(photographer);
+    takeBuilder(photographer);
+    takePages(photographer);
     takeFilter(photographer);
     return photographer.isDone() ? 0 : 1;
 }

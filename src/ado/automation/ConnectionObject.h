@@ -15,22 +15,28 @@ class Connection;
 class KOVA_EXPORT ConnectionObject : public QObject
 {
     Q_OBJECT
+    // As the members of Connection with these names.
     Q_PROPERTY(QString ConnectionString READ connectionString WRITE setConnectionString)
     Q_PROPERTY(qint32 State READ state)
 
 public:
+    // `connection` is never null.
     explicit ConnectionObject(std::shared_ptr<Connection> connection, QObject *parent = nullptr);
 
+    // As the members of Connection with these names.
     Q_INVOKABLE void Open(const QString &connectionString = {}, const QString &user = {},
                           const QString &password = {}, qint32 options = -1);
     Q_INVOKABLE void Close();
 
+    // Behind the properties.
     QString connectionString();
     void setConnectionString(const QString &text);
     qint32 state();
+    // For C++ callers: what this object stands for.
     const std::shared_ptr<Connection> &connection() const { return m_connection; }
 
 Q_SIGNALS:
+    // A call by name failed; the number and the text are those of ADODB::Error.
     void HostError(qint32 Number, const QString &Description);
 
 private:

@@ -15,6 +15,7 @@ class Recordset;
 class KOVA_EXPORT FieldObject : public QObject
 {
     Q_OBJECT
+    // As the members of Field with these names.
     Q_PROPERTY(QString Name READ name)
     Q_PROPERTY(qint32 Type READ type)
     Q_PROPERTY(QVariant Value READ value WRITE setValue)
@@ -24,8 +25,10 @@ class KOVA_EXPORT FieldObject : public QObject
     Q_PROPERTY(qint32 Attributes READ attributes)
 
 public:
+    // Made by FieldsObject alone.
     FieldObject(Recordset &recordset, int index, QObject *parent);
 
+    // Behind the properties.
     QString name();
     qint32 type();
     QVariant value();
@@ -36,6 +39,7 @@ public:
     qint32 attributes();
 
 Q_SIGNALS:
+    // A call by name failed; the number and the text are those of ADODB::Error.
     void HostError(qint32 Number, const QString &Description);
 
 private:

@@ -16,9 +16,11 @@ class Recordset;
 class KOVA_EXPORT FieldsObject : public QObject
 {
     Q_OBJECT
+    // How many there are; 0 while the recordset is closed.
     Q_PROPERTY(qint32 Count READ count)
 
 public:
+    // Made by RecordsetObject alone.
     FieldsObject(Recordset &recordset, QObject *parent);
 
     // By name or by 0-based index; null (and HostError) when there is no such field. A field's object is made
@@ -27,9 +29,11 @@ public:
     Q_INVOKABLE QObject *Item(qint32 index);
     Q_INVOKABLE QObject *Item(const QVariant &nameOrIndex);
 
+    // Behind the property.
     qint32 count();
 
 Q_SIGNALS:
+    // A call by name failed; the number and the text are those of ADODB::Error.
     void HostError(qint32 Number, const QString &Description);
 
 private:

@@ -22,6 +22,7 @@ class Recordset;
 class KOVA_EXPORT RecordsetObject : public QObject
 {
     Q_OBJECT
+    // As the members of Recordset with these names; BOF and EOF are isBOF and isEOF there.
     Q_PROPERTY(bool BOF READ isBOF)
     Q_PROPERTY(bool EOF READ isEOF)
     Q_PROPERTY(qint32 RecordCount READ recordCount)
@@ -38,6 +39,7 @@ class KOVA_EXPORT RecordsetObject : public QObject
     Q_PROPERTY(QObject *Fields READ fields)
 
 public:
+    // Made by automation() alone.
     explicit RecordsetObject(Recordset &recordset);
     ~RecordsetObject() override;
 
@@ -46,9 +48,10 @@ public:
     Q_INVOKABLE QObject *Fields(qint32 index);
     Q_INVOKABLE QObject *Fields(const QVariant &nameOrIndex);
 
-    // `connection` is a ConnectionObject.
+    // As Recordset::Open; `connection` is a ConnectionObject.
     Q_INVOKABLE void Open(const QString &source, QObject *connection, qint32 cursorType = -1,
                           qint32 lockType = -1, qint32 options = -1);
+    // As the members of Recordset with these names.
     Q_INVOKABLE void Close();
     Q_INVOKABLE void Move(qint32 records, qint32 start = 0);
     Q_INVOKABLE void MoveFirst();
@@ -60,6 +63,7 @@ public:
     Q_INVOKABLE void CancelUpdate();
     Q_INVOKABLE void Delete(qint32 affectRecords = 1);
 
+    // Behind the properties.
     bool isBOF();
     bool isEOF();
     qint32 recordCount();
@@ -82,6 +86,8 @@ public:
     QObject *fields();
 
 Q_SIGNALS:
+    // A call by name, on this object or on one of its fields, failed; the number and the text are those of
+    // ADODB::Error.
     void HostError(qint32 Number, const QString &Description);
 
 private:

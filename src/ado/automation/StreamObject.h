@@ -11,14 +11,17 @@ namespace ADODB {
 class KOVA_EXPORT StreamObject : public QObject
 {
     Q_OBJECT
+    // As the members of Stream with these names.
     Q_PROPERTY(qint32 Type READ type WRITE setType)
     Q_PROPERTY(qint32 State READ state)
     Q_PROPERTY(qint32 Size READ size)
     Q_PROPERTY(qint32 Position READ position WRITE setPosition)
 
 public:
+    // A closed stream.
     explicit StreamObject(QObject *parent = nullptr);
 
+    // As the members of Stream with these names.
     Q_INVOKABLE void Open();
     Q_INVOKABLE void Close();
     Q_INVOKABLE void Write(const QByteArray &bytes);
@@ -28,6 +31,7 @@ public:
     Q_INVOKABLE QString ReadText();
     Q_INVOKABLE void SaveToFile(const QString &fileName, qint32 options = 1);
 
+    // Behind the properties.
     qint32 type();
     void setType(qint32 type);
     qint32 state();
@@ -36,6 +40,7 @@ public:
     void setPosition(qint32 position);
 
 Q_SIGNALS:
+    // A call by name failed; the number and the text are those of ADODB::Error.
     void HostError(qint32 Number, const QString &Description);
 
 private:

@@ -3,7 +3,11 @@
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
 #include "ado/Texts.h"
+#include "ado/providers/odbc/OdbcProvider.h"
 #include "ado/providers/sqlite/SqliteProvider.h"
+#ifdef KOVA_WITH_LIBMDB
+#include "ado/providers/access/AccessProvider.h"
+#endif
 
 #include <array>
 
@@ -18,8 +22,15 @@ Provider::~Provider() = default;
 
 std::shared_ptr<Session> openSession(const ConnectionString &connection)
 {
+    static const OdbcProvider odbc;
     static const SqliteProvider sqlite;
-    static const std::array<const Provider *, 1> providers{&sqlite};
+    // SQLite takes any data source that nobody before it does.
+#ifdef KOVA_WITH_LIBMDB
+    static const AccessProvider access;
+    static const std::array<const Provider *, 3> providers{&access, &odbc, &sqlite};
+#else
+    static const std::array<const Provider *, 2> providers{&odbc, &sqlite};
+#endif
 
     QStringList names;
     for (const Provider *provider : providers) {

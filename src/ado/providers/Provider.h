@@ -70,6 +70,8 @@ public:
     virtual QString tableStatement(const QString &table) const = 0;
     // Ends the connection; writers that still hold the session throw from then on.
     virtual void close() = 0;
+    // False once it is closed or its server went away; nothing more can be done with it then.
+    virtual bool isOpen() const { return true; }
 };
 
 class Provider

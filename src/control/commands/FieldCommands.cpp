@@ -2,6 +2,7 @@
 
 #include "control/KOVAVSFDataGridPrivate.h"
 #include "control/commands/FilterManagerRollback.h"
+#include "control/commands/RecordCommands.h"
 #include "query/SqlText.h"
 
 namespace KOVAVSFDataGridLib {
@@ -29,12 +30,13 @@ QStringList namesOf(ControlHub &hub, const QString &statement)
 }
 
 // What "All" and "Part" share once they know their statement.
-void showFields(ControlHub &hub, const QString &statement, KOVAVSFDataGrid::ShowModelChoose model)
+void showFields(ControlHub &hub, const QString &statement, KOVAVSFDataGrid::ShowModelChoose model,
+                FilterManagerRollback &rollback)
 {
-    FilterManagerRollback rollback(hub);
     ShownStatement &shown = hub.commands.statement;
     const QStringList fields = hub.columns().fieldsShownBy(GetShowAllFieldsFlag(model));
-    if (!statement.isEmpty() && !hub.columns().hasColumnsFor(fields) && !shown.OpenShowSQL(statement))
+    const bool needsOpening = !statement.isEmpty() && !hub.columns().hasColumnsFor(fields);
+    if (needsOpening && !(SaveRecord(hub) && shown.OpenShowSQL(statement)))
         return;
     rollback.keepChanges();
     shown.setCurrent(statement);
@@ -49,25 +51,28 @@ void showFields(ControlHub &hub, const QString &statement, KOVAVSFDataGrid::Show
 void ShowAllFields(ControlHub &hub)
 {
     hub.columns().SaveColumnWidths(0);
-    showFields(hub, hub.filterManager().GetCurrentSQL20(AllFieldsStatement), KOVAVSFDataGrid::ModelAll);
+    FilterManagerRollback rollback(hub);
+    showFields(hub, rollback.manager().GetCurrentSQL20(AllFieldsStatement), KOVAVSFDataGrid::ModelAll,
+               rollback);
 }
 
 void ShowPartFields(ControlHub &hub)
 {
     hub.columns().SaveColumnWidths(0);
-    const QString statement = hasPartStatement(hub.filterManager().SQLManager())
-                                  ? hub.filterManager().GetCurrentSQL20(PartFieldsStatement)
+    FilterManagerRollback rollback(hub);
+    const QString statement = hasPartStatement(rollback.manager().SQLManager())
+                                  ? rollback.manager().GetCurrentSQL20(PartFieldsStatement)
                                   : QString();
     if (statement.isEmpty())
         hub.setPartAllButton(1);
     else
-        showFields(hub, statement, KOVAVSFDataGrid::ModelPart);
+        showFields(hub, statement, KOVAVSFDataGrid::ModelPart, rollback);
 }
 
 void SelectShowFields(ControlHub &hub, QString &strSQL)
 {
     FilterManagerRollback rollback(hub);
-    clsFilterManagement &manager = hub.filterManager();
+    clsFilterManagement &manager = rollback.manager();
     colShowSQLSentences &history = manager.SQLManager();
     manager.SetDBConnString(hub.connectionString);
     QString latest;
@@ -93,9 +98,10 @@ void SelectShowFields(ControlHub &hub, QString &strSQL)
     hub.showModel = KOVAVSFDataGrid::ModelPart;
     hub.commands.statement.record(statement, chosenFields, colShowSQLSentences::NoSort());
     strSQL = hub.sqlFilter;
+    const QPointer<KOVAVSFDataGrid> alive(&hub.q);
     Q_EMIT hub.q.ShowFieldsChange(statement);
-    if (hub.isSingleRecordShown())
-        hub.showMultiRecordView();
+    if (alive)
+        hub.commands.singleRecord.leave();
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -27,7 +27,7 @@ void FilterByDialog(ControlHub &hub)
     FilterManagerRollback rollback(hub);
     QString base;
     QString key;
-    colShowSQLSentences &history = hub.filterManager().SQLManager();
+    colShowSQLSentences &history = rollback.manager().SQLManager();
     if (!(hub.commands.isFromResult() ? history.GetLatestSQL(base, &key) : history.GetFirstSQL(base, key)))
         return;
 
@@ -36,15 +36,16 @@ void FilterByDialog(ControlHub &hub)
     Q_EMIT hub.q.QurryFilter(cancel, base);
     if (!rollback.isResultUntouched())
         return;
-    hub.shared.lastFilter = cancel == leftToTheDialog ? AskForCondition(hub, &hub.q) : hub.passQurryFilter;
+    const QString condition = cancel == leftToTheDialog ? AskForCondition(hub, &hub.q) : hub.passQurryFilter;
     if (!rollback.isResultUntouched())
         return;
+    hub.shared.lastFilter = condition;
     if (hub.shared.lastFilter.trimmed().isEmpty()) {
         hub.q.PutSQLFilter({});
         return;
     }
     QString statement;
-    if (hub.filterManager().SQLManager().GetNextSQLByFilter(hub.shared.lastFilter, statement) &&
+    if (history.GetNextSQLByFilter(hub.shared.lastFilter, statement) &&
         hub.commands.statement.reloadFiltered(statement, ShownStatement::Previous::Keep))
         rollback.keepChanges();
 }

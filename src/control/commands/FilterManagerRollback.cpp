@@ -6,7 +6,10 @@ namespace KOVAVSFDataGridLib {
 
 FilterManagerRollback::FilterManagerRollback(ControlHub &hub)
     : m_hub(hub),
-      m_before(hub.filterManager()),
+      m_control(&hub.q),
+      m_manager(hub.filterManagerToShare()),
+      m_before(*m_manager),
+      m_connectionString(hub.connectionString),
       m_recordset(hub.result.recordset()),
       m_wasOpen(hub.result.isOpen())
 {
@@ -15,12 +18,13 @@ FilterManagerRollback::FilterManagerRollback(ControlHub &hub)
 FilterManagerRollback::~FilterManagerRollback()
 {
     if (!m_keepsChanges && isResultUntouched())
-        m_hub.filterManager() = m_before;
+        *m_manager = m_before;
 }
 
 bool FilterManagerRollback::isResultUntouched() const
 {
-    return m_hub.result.isOpen() == m_wasOpen && m_hub.result.recordset() == m_recordset;
+    return m_control && m_hub.filter == m_manager && m_hub.connectionString == m_connectionString &&
+           m_hub.result.isOpen() == m_wasOpen && m_hub.result.recordset() == m_recordset;
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -3,6 +3,8 @@
 #include "control/commands/ControlHub.h"
 #include "query/clsFilterManagement.h"
 
+#include <QtCore/QPointer>
+
 #include <memory>
 
 namespace ADODB {
@@ -20,15 +22,21 @@ public:
     ~FilterManagerRollback();
     Q_DISABLE_COPY_MOVE(FilterManagerRollback)
 
+    // The control's filter manager. It lives as long as this object, even when the host loads another result
+    // from inside a dialog that the filter manager is showing.
+    clsFilterManagement &manager() const { return *m_manager; }
     // What was asked for is shown; nothing is put back.
     void keepChanges() { m_keepsChanges = true; }
-    // False when the host opened or closed a result meanwhile (from an event, or behind a dialog). A command
-    // then has lost its ground and ends.
+    // False when the host meanwhile (from an event, or behind a dialog) opened or closed a result, gave
+    // another connection or destroyed the control. A command then has lost its ground and ends.
     bool isResultUntouched() const;
 
 private:
     ControlHub &m_hub;
+    const QPointer<KOVAVSFDataGrid> m_control;
+    const std::shared_ptr<clsFilterManagement> m_manager;
     const clsFilterManagement m_before;
+    const QString m_connectionString;
     const std::shared_ptr<ADODB::Recordset> m_recordset;
     const bool m_wasOpen;
     bool m_keepsChanges = false;

@@ -10,10 +10,9 @@ void ShowFullScreen(ControlHub &hub)
 {
     if (!hub.hasRecords())
         return;
-    if (hub.isSingleRecordShown())
-        hub.showMultiRecordView();
+    hub.commands.singleRecord.leave();
     const auto outcome =
-        ShowFullScreen({hub.parts, hub.result, hub.pages, hub.filterManager(), hub.connectionString,
+        ShowFullScreen({hub.parts, hub.result, hub.pages, hub.filterManagerToShare(), hub.connectionString,
                         hub.filterManager().DBType(), hub.commands.statement.current(), hub.sqlSort,
                         hub.picField, [&hub](QWidget *parent) { return AskForCondition(hub, parent); }});
     if (!outcome)

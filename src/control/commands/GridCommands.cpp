@@ -16,11 +16,13 @@
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
 
 #include <algorithm>
+#include <exception>
 #include <iterator>
 #include <utility>
 
@@ -32,8 +34,9 @@ namespace {
 
 // What has to hold before a command runs.
 enum class Needs { Nothing, Records };
-// Whether the record that is being edited stays the one shown; if not, it is saved first.
-enum class Record { Stays, IsLeft };
+// What becomes of the record that is being edited: it is left alone; it is listed anew, so that a value being
+// typed is taken first; or it is left for another one, so that it is saved first.
+enum class Record { Stays, IsListedAnew, IsLeft };
 
 struct ToolbarCommand
 {
@@ -49,6 +52,19 @@ struct MenuCommand
     Record record;
     void (*run)(ControlHub &hub);
 };
+
+// False when what was typed can't be taken or saved, which the user has been told.
+bool isReady(ControlHub &hub, Record record)
+{
+    switch (record) {
+    case Record::IsListedAnew:
+        return hub.commands.singleRecord.editor().take();
+    case Record::IsLeft:
+        return SaveRecord(hub);
+    default:
+        return true;
+    }
+}
 
 void selectShowFields(ControlHub &hub)
 {
@@ -82,15 +98,9 @@ void filterByDialog(ControlHub &hub)
     FilterByDialog(hub);
 }
 
-void leaveSingleRecord(ControlHub &hub)
-{
-    if (hub.isSingleRecordShown())
-        showAllRecords(hub);
-}
-
 const ToolbarCommand ToolbarCommands[] = {
-    {u"All"_s, Needs::Records, Record::Stays, ShowAllFields},
-    {u"Part"_s, Needs::Records, Record::Stays, ShowPartFields},
+    {u"All"_s, Needs::Records, Record::IsListedAnew, ShowAllFields},
+    {u"Part"_s, Needs::Records, Record::IsListedAnew, ShowPartFields},
     {u"SingleRecord"_s, Needs::Records, Record::Stays, showSingleRecord},
     {u"AllRecord"_s, Needs::Records, Record::IsLeft, showAllRecords},
     {u"Filter"_s, Needs::Nothing, Record::IsLeft, filterByDialog},
@@ -112,8 +122,8 @@ const ToolbarCommand ToolbarCommands[] = {
 
 // The indexes left out are separators.
 const MenuCommand MenuCommands[] = {
-    {1, Record::Stays, ShowAllFields},
-    {2, Record::Stays, ShowPartFields},
+    {1, Record::IsListedAnew, ShowAllFields},
+    {2, Record::IsListedAnew, ShowPartFields},
     {4, Record::IsLeft, ShowFullScreen},
     {5, Record::Stays, showSingleRecord},
     {6, Record::IsLeft, showAllRecords},
@@ -121,12 +131,12 @@ const MenuCommand MenuCommands[] = {
     {9, Record::Stays, DeleteRecord},
     {11, Record::IsLeft,
      [](ControlHub &hub) {
-         leaveSingleRecord(hub);
+         hub.commands.singleRecord.leave();
          FilterByDialog(hub);
      }},
     {12, Record::IsLeft,
      [](ControlHub &hub) {
-         leaveSingleRecord(hub);
+         hub.commands.singleRecord.leave();
          sortByDialog(hub);
      }},
     {14, Record::IsLeft, FilterBySelectedCell},
@@ -167,11 +177,9 @@ void GridCommands::run(const QString &key)
 {
     const auto *command = std::find_if(std::begin(ToolbarCommands), std::end(ToolbarCommands),
                                        [&](const ToolbarCommand &each) { return each.key == key; });
-    if (command != std::end(ToolbarCommands) && (command->record == Record::Stays || SaveRecord(m_hub)) &&
-        (command->needs == Needs::Nothing || m_hub.hasRecords()))
-        command->run(m_hub);
-    m_hub.updateRecordPosition();
-    m_menu.PreparePopupMenu();
+    const bool runs = command != std::end(ToolbarCommands) && isReady(m_hub, command->record) &&
+                      (command->needs == Needs::Nothing || m_hub.hasRecords());
+    perform(runs ? command->run : nullptr);
 }
 
 void GridCommands::DoDataAction(int index, bool &ok)
@@ -179,9 +187,22 @@ void GridCommands::DoDataAction(int index, bool &ok)
     const auto *command = std::find_if(std::begin(MenuCommands), std::end(MenuCommands),
                                        [&](const MenuCommand &each) { return each.index == index; });
     ok = m_hub.parts.Toolbar1->isEnabled() && command != std::end(MenuCommands) && m_hub.result.isOpen() &&
-         (command->record == Record::Stays || SaveRecord(m_hub));
-    if (ok)
-        command->run(m_hub);
+         isReady(m_hub, command->record);
+    perform(ok ? command->run : nullptr);
+}
+
+// A command that fails ends silently; what the user should know it has told. The host can have destroyed the
+// control meanwhile, from an event or behind a dialog.
+void GridCommands::perform(void (*command)(ControlHub &))
+{
+    const QPointer<GridCommands> alive(this);
+    try {
+        if (command)
+            command(m_hub);
+    } catch (const std::exception &) {
+    }
+    if (!alive)
+        return;
     m_hub.updateRecordPosition();
     m_menu.PreparePopupMenu();
 }

@@ -38,6 +38,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void perform(void (*command)(ControlHub &));
     void showMenu(const QPoint &position);
     bool isShortcut(const QKeyEvent &event) const;
     void followRecord();

@@ -26,8 +26,7 @@ void goBack(ControlHub &hub, StepBack stepBack)
         hub.columns().ShowPartFieldColumns(1);
     hub.showModel = showsAll ? KOVAVSFDataGrid::ModelAll : KOVAVSFDataGrid::ModelPart;
     hub.setPartAllButton(hub.showModel + 1);
-    if (hub.isSingleRecordShown())
-        hub.showMultiRecordView();
+    hub.commands.singleRecord.leave();
 }
 
 } // namespace

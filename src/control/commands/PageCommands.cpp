@@ -61,8 +61,9 @@ void RefillAtRecord(ControlHub &hub, qint64 record)
     const int x = grid.horizontalScrollBar()->value();
     const int y = grid.verticalScrollBar()->value();
     hub.showPage((std::max<qint64>(record, 1) - 1) / SharedValues::RecordCap + 1);
-    if (record > 0) {
-        grid.PutRow(static_cast<int>(record - hub.pages.recordOfRow(1) + 1));
+    const qint64 row = record - hub.pages.recordOfRow(1) + 1;
+    if (record > 0 && row >= 1 && row < grid.Rows()) { // the page stays when an edit can't be saved
+        grid.PutRow(static_cast<int>(row));
         grid.PutCol(col);
     }
     grid.horizontalScrollBar()->setValue(x);

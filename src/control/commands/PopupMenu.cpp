@@ -1,8 +1,8 @@
 #include "control/commands/PopupMenu.h"
 
+#include "control/ButtonItem.h"
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
-#include "control/ToolbarIcons.h"
 
 #include <QtGui/QAction>
 #include <QtWidgets/QMenu>
@@ -15,6 +15,7 @@ PopupMenu::PopupMenu(QWidget &control, const GridToolbar &toolbar)
     : m_toolbar(toolbar), m_menu(new QMenu(&control))
 {
     m_menu->setObjectName(u"PopMnuData"_s);
+    m_menu->setAccessibleName(GridTexts::MenuName);
     int index = 0;
     for (const GridTexts::PopupItem &item : GridTexts::PopupItems) {
         QAction *action = item.caption.isEmpty() ? m_menu->addSeparator() : m_menu->addAction(item.caption);
@@ -22,10 +23,7 @@ PopupMenu::PopupMenu(QWidget &control, const GridToolbar &toolbar)
         action->setData(index);
         action->setProperty("key", item.key);
         if (!item.key.isEmpty()) {
-            // The button owns the shortcut; here it is only told.
-            action->setIcon(toolbarIcon(item.key));
-            const QKeySequence shortcut(GridTexts::buttonOf(item.key).shortcut);
-            action->setText(item.caption + u'\t' + shortcut.toString(QKeySequence::NativeText));
+            dressAsButton(*action, item.key);
         } else if (!item.shortcut.isEmpty()) {
             action->setShortcut(QKeySequence(item.shortcut));
             action->setShortcutContext(Qt::WidgetWithChildrenShortcut);

@@ -30,19 +30,19 @@ std::vector<TypedField> searchedFields(const FindDialog &dialog, const colDataFi
     return searched;
 }
 
-// Nothing when the words can't be searched for.
-std::optional<QString> askUser(ControlHub &hub, const QString &latest)
+// Nothing when the words can't be searched for, or not any more.
+std::optional<QString> askUser(ControlHub &hub, const FilterManagerRollback &ground, const QString &latest)
 {
-    const colDataFields catalogue = hub.filterManager().SQLManager().DataFields();
-    const auto recordset = hub.result.recordset();
-    const AllDBType database = hub.filterManager().DBType();
+    const colDataFields catalogue = ground.manager().SQLManager().DataFields();
     FindDialog dialog(&hub.q);
     if (!dialog.InitFrm(&catalogue))
         return {};
     dialog.exec();
     QString condition;
-    if (!BuildLikeCondition(dialog.strFindText(), searchedFields(dialog, catalogue, recordset->Fields()),
-                            latest, database, condition))
+    if (!ground.isResultUntouched() ||
+        !BuildLikeCondition(dialog.strFindText(),
+                            searchedFields(dialog, catalogue, hub.result.recordset()->Fields()), latest,
+                            ground.manager().DBType(), condition))
         return {};
     return condition;
 }
@@ -55,10 +55,10 @@ void QuickFilter(ControlHub &hub)
         return;
     FilterManagerRollback rollback(hub);
     QString latest;
-    if (!hub.filterManager().SQLManager().GetLatestSQL(latest))
+    if (!rollback.manager().SQLManager().GetLatestSQL(latest))
         return;
-    const std::optional<QString> condition = askUser(hub, latest);
-    if (!condition || !rollback.isResultUntouched())
+    const std::optional<QString> condition = askUser(hub, rollback, latest);
+    if (!condition)
         return;
     hub.shared.lastFilter = *condition;
     if (condition->trimmed().isEmpty()) {
@@ -66,7 +66,7 @@ void QuickFilter(ControlHub &hub)
         return;
     }
     QString statement;
-    if (hub.filterManager().SQLManager().GetNextSQLByFilter(*condition, statement) &&
+    if (rollback.manager().SQLManager().GetNextSQLByFilter(*condition, statement) &&
         hub.commands.statement.reloadFiltered(statement, ShownStatement::Previous::Keep))
         rollback.keepChanges();
 }

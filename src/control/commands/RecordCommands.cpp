@@ -8,6 +8,8 @@
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 
+#include <QtCore/QPointer>
+
 #include <algorithm>
 
 namespace KOVAVSFDataGridLib {
@@ -31,8 +33,8 @@ bool hasNoValue(ADODB::Recordset &recordset)
 void cancel(ControlHub &hub)
 {
     hub.result.recordset()->CancelUpdate();
-    if (hub.isSingleRecordShown() && hub.result.recordset()->RecordCount() == 0)
-        hub.commands.singleRecord.ShowAllRecords(); // there is no single record to show
+    if (hub.result.recordset()->RecordCount() == 0)
+        hub.commands.singleRecord.leave(); // there is no single record to show
     hub.commands.singleRecord.refillIfShown();
 }
 
@@ -51,6 +53,18 @@ void save(ControlHub &hub)
     hub.commands.singleRecord.refillIfShown();
 }
 
+// The answer is meant for the record that was current when the question came up, and for no other that the
+// host has made current meanwhile.
+bool askToDelete(ControlHub &hub)
+{
+    const QPointer<KOVAVSFDataGrid> alive(&hub.q);
+    const auto recordset = hub.result.recordset();
+    const qint64 position = recordset->AbsolutePosition();
+    return Messages::ask(&hub.q, GridTexts::AskDelete, GridTexts::AskDeleteTitle, QMessageBox::Question) &&
+           alive && hub.result.isOpen() && hub.result.recordset() == recordset &&
+           recordset->AbsolutePosition() == position;
+}
+
 void deleteCurrentRecord(ControlHub &hub)
 {
     ADODB::Recordset &recordset = *hub.result.recordset();
@@ -67,8 +81,8 @@ void deleteCurrentRecord(ControlHub &hub)
     RefillAtRecord(hub, next);
     if (next >= 1)
         recordset.PutAbsolutePosition(next);
-    else if (hub.isSingleRecordShown())
-        hub.commands.singleRecord.ShowAllRecords();
+    else
+        hub.commands.singleRecord.leave();
     hub.parts.vsfgDataGrid->Refresh();
 }
 
@@ -120,8 +134,7 @@ void InsertRecord(ControlHub &hub)
 void DeleteRecord(ControlHub &hub)
 {
     if (!hub.result.isOpen() || (!hub.hasRecords() && !isAdding(*hub.result.recordset())) ||
-        !Messages::ask(&hub.q, GridTexts::AskDelete, GridTexts::AskDeleteTitle, QMessageBox::Question) ||
-        !hub.result.isOpen())
+        !askToDelete(hub))
         return;
     try {
         deleteCurrentRecord(hub);

@@ -83,6 +83,12 @@ void SingleRecordView::ShowAllRecords()
         m_hub.parts.vsfgDataGrid->setFocus();
 }
 
+void SingleRecordView::leave()
+{
+    if (m_hub.isSingleRecordShown())
+        ShowAllRecords();
+}
+
 void SingleRecordView::FillSingleRecordView()
 {
     m_editor.close();
@@ -152,7 +158,8 @@ bool SingleRecordView::eventFilter(QObject *watched, QEvent *event)
             return false;
         return QCoreApplication::sendEvent(m_hub.parts.txtEdit, event);
     case QEvent::MouseButtonDblClick:
-        doubleClicked(*source, *static_cast<QMouseEvent *>(event));
+        if (static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
+            doubleClicked(*source, *static_cast<QMouseEvent *>(event));
         return false;
     case QEvent::ContextMenu:
         // The menu key comes as a key, and the right button is told below: once each.

@@ -22,6 +22,8 @@ public:
 
     void ShowSingleRecord();
     void ShowAllRecords();
+    // The same, but nothing happens where many records are shown already.
+    void leave();
     // Lists the open result's current record; a result without one gives fields without values.
     void FillSingleRecordView();
     void refillIfShown();

@@ -8,10 +8,9 @@ namespace KOVAVSFDataGridLib {
 void SortByDialog(ControlHub &hub, QString &strSort, bool &ok)
 {
     FilterManagerRollback rollback(hub);
-    clsFilterManagement &manager = hub.filterManager();
+    clsFilterManagement &manager = rollback.manager();
     colShowSQLSentences &history = manager.SQLManager();
     manager.SetDBConnString(hub.connectionString);
-    hub.chooser.setDatabase(manager.DBType());
     QString latest;
     QString key;
     if (!history.GetLatestSQL(latest, &key))

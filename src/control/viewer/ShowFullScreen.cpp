@@ -26,12 +26,23 @@ bool isOffered(const GridToolbar &toolbar, const QString &key)
     return toolbar.isButtonEnabled(key) && toolbar.isButtonVisible(key);
 }
 
-// The control's own grid goes along at once, because its rows are read from the result that was replaced.
-ViewerHost hostFor(const FullScreenRequest &control, bool &isOpening)
+// What happens to the control's result while the viewer is shown.
+struct Visit
 {
-    const auto open = [&control, &isOpening](const QString &statement) {
-        const QScopedValueRollback<bool> opening(isOpening, true);
-        control.result.replaceBy(ResultSet::open(control.connectionString, statement, control.dbType, {}));
+    bool isOpening = false;  // the viewer itself puts another result in its place
+    bool isObsolete = false; // the host has done so, or has closed it
+};
+
+// The control's own grid goes along at once, because its rows are read from the result that was replaced.
+ViewerHost hostFor(const FullScreenRequest &control, Visit &visit)
+{
+    const auto open = [&control, &visit](const QString &statement,
+                                         const std::function<bool(qint64)> &progress) {
+        auto opened =
+            ResultSet::open(control.connectionString, statement, control.dbType,
+                            [&](qint64 rowsRead) { return progress(rowsRead) && !visit.isObsolete; });
+        const QScopedValueRollback<bool> opening(visit.isOpening, true);
+        control.result.replaceBy(std::move(opened));
         control.parts.vsfgDataGrid->ResetColWidths();
         control.pages.setCurrentPage(1);
         control.pages.fill(control.pictureField);
@@ -42,7 +53,7 @@ ViewerHost hostFor(const FullScreenRequest &control, bool &isOpening)
 
 void layOutColumns(const FullScreenRequest &control, bool isAll)
 {
-    ColumnLayout columns(*control.parts.vsfgDataGrid, control.filter.SQLManager());
+    ColumnLayout columns(*control.parts.vsfgDataGrid, control.filter->SQLManager());
     if (isAll)
         columns.ShowAllFieldColumns();
     else
@@ -74,18 +85,17 @@ std::optional<FullScreenOutcome> ShowFullScreen(const FullScreenRequest &control
     const GridToolbar &toolbar = *control.parts.Toolbar1;
     const bool wasAll = toolbar.isButtonPressed(u"All"_s);
     // The viewer opens with the widths that the user sees.
-    ColumnLayout(*control.parts.vsfgDataGrid, control.filter.SQLManager()).SaveColumnWidths(0);
+    ColumnLayout(*control.parts.vsfgDataGrid, control.filter->SQLManager()).SaveColumnWidths(0);
 
     // On the heap, because a host that closes its window under the viewer destroys it as well.
-    bool isOpening = false;
-    auto *viewer = new frm_FullScreen(hostFor(control, isOpening), control.parts.picMainBack);
+    Visit visit;
+    auto *viewer = new frm_FullScreen(hostFor(control, visit), control.parts.picMainBack);
     const QPointer<frm_FullScreen> alive = viewer;
-    // A host that reloads the control meanwhile, from a timer say, takes result and filter manager away.
-    bool isObsolete = false;
+    // A host that reloads the control meanwhile, from a timer say, takes its result and its history away.
     QObject::connect(control.parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, viewer, [&, viewer] {
-        if (isOpening)
+        if (visit.isOpening)
             return;
-        isObsolete = true;
+        visit.isObsolete = true;
         viewer->ClearRefObject();
         viewer->reject();
     });
@@ -98,7 +108,7 @@ std::optional<FullScreenOutcome> ShowFullScreen(const FullScreenRequest &control
     if (!alive)
         return std::nullopt;
     const std::unique_ptr<frm_FullScreen> owned(viewer);
-    if (isObsolete)
+    if (visit.isObsolete)
         return std::nullopt;
 
     takeOver(control, *viewer, wasAll);

@@ -3,6 +3,7 @@
 #include <QtCore/QString>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 class QWidget;
@@ -20,7 +21,7 @@ struct FullScreenRequest
     GridParts &parts;
     ResultSet &result;
     PageView &pages;
-    clsFilterManagement &filter;
+    std::shared_ptr<clsFilterManagement> filter;
     QString connectionString;
     qint32 dbType;     // AllDBType
     QString statement; // the one shown

@@ -23,9 +23,11 @@ struct ViewerHost
         std::shared_ptr<ADODB::Recordset> recordset;
     };
 
-    // Opens a statement in place of the one that is open, both in the control and for the viewer. When that
-    // fails it throws ADODB::Error, and what was open still is.
-    std::function<Opened(const QString &statement)> open;
+    // Opens a statement in place of the one that is open, both in the control and for the viewer; `progress`
+    // as in ADODB::Recordset::SetProgress. When that fails it throws ADODB::Error, and what was open still
+    // is.
+    std::function<Opened(const QString &statement, const std::function<bool(qint64 rowsRead)> &progress)>
+        open;
     // Lets the user build a condition in a dialog above `parent`; an empty text when he cancels.
     std::function<QString(QWidget *parent)> askCondition;
 };

@@ -1,5 +1,7 @@
 #include "control/viewer/ViewerMenu.h"
 
+#include "control/ButtonItem.h"
+#include "control/GridTexts.h"
 #include "control/GridToolbar.h"
 #include "control/viewer/ViewerTexts.h"
 
@@ -19,6 +21,7 @@ QString actionName(int index)
 ViewerMenu::ViewerMenu(QWidget *parent) : QMenu(parent)
 {
     setObjectName(u"PopMnu"_s);
+    setAccessibleName(GridTexts::MenuName);
     const auto add = [this](QAction *action, int index) {
         action->setObjectName(actionName(index));
         action->setData(index);
@@ -27,7 +30,11 @@ ViewerMenu::ViewerMenu(QWidget *parent) : QMenu(parent)
     for (const ViewerTexts::MenuItem &item : ViewerTexts::MenuItems) {
         for (; next < item.index; ++next)
             add(addSeparator(), next);
-        add(addAction(item.caption), next++);
+        QAction *action = addAction(item.caption);
+        // The filter on the cell shares the state of its button and nothing more.
+        if (!item.key.isEmpty() && item.index != CellFilter)
+            dressAsButton(*action, item.key);
+        add(action, next++);
     }
     connect(this, &QMenu::triggered, this,
             [this](const QAction *action) { Q_EMIT chosen(action->data().toInt()); });

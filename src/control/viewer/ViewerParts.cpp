@@ -76,6 +76,13 @@ void ViewerParts::hideUnusedButtons()
     }
 }
 
+QRect ViewerParts::foot() const
+{
+    QRect foot = picBox->rect();
+    foot.setTop(vsfgShowData->geometry().bottom() + 1);
+    return foot;
+}
+
 void ViewerParts::layOut(QDialog &window)
 {
     auto *title = new QHBoxLayout(fraTitle);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtCore/QRect>
+
 class QDialog;
 class QFrame;
 class QLabel;
@@ -27,6 +29,9 @@ public:
     QLineEdit *txtPage;
     QPushButton *cmdPgae;
     QLabel *lblPageCount;
+
+    // The bar below the grid, on the window.
+    QRect foot() const;
 
 private:
     void nameParts();

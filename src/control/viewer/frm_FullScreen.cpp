@@ -33,6 +33,7 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
     setObjectName(u"frm_FullScreen"_s);
     setWindowTitle(ViewerTexts::Title);
     fillScreen();
+    addActions(m_parts.Toolbar1->actions()); // so that their shortcuts work wherever the keyboard is
     connect(m_parts.Toolbar1, &GridToolbar::buttonClicked, this, &frm_FullScreen::press);
     connect(m_parts.cmdPgae, &QPushButton::clicked, this, &frm_FullScreen::goToTypedPage);
     connect(m_parts.cmdClose, &QPushButton::clicked, this, &QDialog::accept);
@@ -169,7 +170,7 @@ void frm_FullScreen::UpdateRecordPosition()
 void frm_FullScreen::makeShownCellCurrent()
 {
     VSFlexGrid &grid = *m_parts.vsfgShowData;
-    if (grid.Rows() < 2 || grid.Cols() < 2)
+    if (!isOpen() || grid.Rows() < 2 || grid.Cols() < 2)
         return;
     if (grid.Row() == 0) {
         const qint64 row = m_recordset->AbsolutePosition() - firstRecord() + 1;

@@ -5,11 +5,15 @@
 
 #include <QtWidgets/QDialog>
 
+#include <memory>
+#include <optional>
+
 namespace KOVAVSFDataGridLib {
 
 class ColumnLayout;
 class ViewerMenu;
 class clsFilterManagement;
+class clsShowSQLSentence;
 class colShowSQLSentences;
 
 // Shows a control's result on the whole screen. It pages through the control's own recordset without ever
@@ -25,16 +29,15 @@ public:
     explicit frm_FullScreen(ViewerHost host, QWidget *parent = nullptr);
     ~frm_FullScreen() override;
 
-    // Not owned; it must live until ClearRefObject.
-    void PutFilterManager(clsFilterManagement &manager) { m_filter = &manager; }
+    void PutFilterManager(std::shared_ptr<clsFilterManagement> manager) { m_filter = std::move(manager); }
     // Takes over what the control shows and shows it. Pages count from 1; `bUpdate` has no meaning. The
     // viewer opens with the row of the current record if the page has it.
     void GetData(const std::shared_ptr<ADODB::Connection> &newConnection,
                  const std::shared_ptr<ADODB::Recordset> &newTable, qint32 nCurPageIndex,
                  const QString &newConnectionString, const QString &NewSQL, bool bUpdate,
                  const QString &SortString, bool IsAll, bool bCanFilte, bool bCanSort, bool bCanFull);
-    // Lets go of the filter manager; commands do nothing from then on.
-    void ClearRefObject() { m_filter = nullptr; }
+    // Lets go of the filter manager; commands do nothing from then on, and one that is under way ends.
+    void ClearRefObject() { m_filter.reset(); }
 
     // The page shown, 0 when none is.
     qint32 GetPageIndex() const { return m_page; }
@@ -79,6 +82,8 @@ private:
     void press(const QString &key);
     void SetPartButton(int mode);
     colShowSQLSentences &history();
+    std::optional<clsShowSQLSentence> latestEntry();
+    void runCommand(const Command &command);
     bool showAllFields();
     bool showPartFields();
     bool selectFields();
@@ -100,7 +105,7 @@ private:
     const ViewerHost m_host;
     const ViewerParts m_parts;
     ViewerMenu *m_menu;
-    clsFilterManagement *m_filter = nullptr;
+    std::shared_ptr<clsFilterManagement> m_filter;
     std::shared_ptr<ADODB::Connection> m_connection;
     std::shared_ptr<ADODB::Recordset> m_recordset;
     QString m_connectionString;

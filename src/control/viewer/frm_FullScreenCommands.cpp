@@ -2,16 +2,19 @@
 #include "ado/Recordset.h"
 #include "control/ColumnLayout.h"
 #include "control/GridToolbar.h"
+#include "control/LoadProgress.h"
 #include "control/viewer/ViewerMenu.h"
 #include "control/viewer/ViewerTexts.h"
 #include "control/viewer/frm_FullScreen.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "query/Conditions.h"
+#include "query/SharedValues.h"
 #include "query/SqlText.h"
 #include "query/clsFilterManagement.h"
 
 #include <algorithm>
+#include <exception>
 
 // The viewer's commands: from a key to another statement, and what it leaves in the history and the columns.
 
@@ -51,14 +54,28 @@ void frm_FullScreen::press(const QString &key)
     } else if (key == u"CompressView") {
         SeeCompressView();
     } else if (command != std::end(commands) && m_filter && (!command->needsRecords || hasRecords())) {
-        const clsFilterManagement before = *m_filter;
-        if (!command->run(*this) && m_filter)
-            *m_filter = before;
+        runCommand(*command);
     }
     // A click has pressed "All" or "Part" already, whatever came of it.
     SetPartButton(m_isAll ? 1 : 2);
     makeShownCellCurrent();
     UpdateRecordPosition();
+}
+
+// The host can load another result of the control from behind a dialog: the filter manager that the command
+// works on is then another's no more, but it lives until the command has ended.
+void frm_FullScreen::runCommand(const Command &command)
+{
+    const auto manager = m_filter;
+    const clsFilterManagement before = *manager;
+    bool isShown = false;
+    try {
+        isShown = command.run(*this);
+    } catch (const std::exception &) {
+        // It ends quietly, like one that derives nothing.
+    }
+    if (!isShown)
+        *manager = before;
 }
 
 void frm_FullScreen::RunPopupAction(int index)
@@ -89,10 +106,21 @@ colShowSQLSentences &frm_FullScreen::history()
     return m_filter->SQLManager();
 }
 
+// By value: the history can be cleared behind a dialog.
+std::optional<clsShowSQLSentence> frm_FullScreen::latestEntry()
+{
+    const clsShowSQLSentence *latest = history().Item(history().Count());
+    return latest ? std::optional(*latest) : std::nullopt;
+}
+
 bool frm_FullScreen::ReopenRecordset(const QString &statement)
 {
+    if (SharedValues::instance().isOpening)
+        return false;
     try {
-        const ViewerHost::Opened opened = m_host.open(statement);
+        LoadProgress progress(*this, [this] { return m_parts.foot(); });
+        const ViewerHost::Opened opened =
+            m_host.open(statement, [&progress](qint64 rowsRead) { return progress.goOn(rowsRead); });
         m_connection = opened.connection;
         m_recordset = opened.recordset;
         return true;
@@ -131,7 +159,7 @@ bool frm_FullScreen::showAllFields()
 // The fields not chosen are only hidden, unless a chosen one has no column.
 bool frm_FullScreen::showPartFields()
 {
-    const clsShowSQLSentence *latest = history().Item(history().Count());
+    const auto latest = latestEntry();
     QString partStatement;
     if (!latest || !latest->GetCurrUsePartFieldSQL(partStatement))
         return false;
@@ -148,13 +176,14 @@ bool frm_FullScreen::showPartFields()
 bool frm_FullScreen::selectFields()
 {
     m_filter->SetDBConnString(m_connectionString);
-    const clsShowSQLSentence *latest = history().Item(history().Count());
+    const auto latest = latestEntry();
     if (!latest)
         return false;
     QString partStatement;
     latest->GetCurrUsePartFieldSQL(partStatement);
     QString chosen;
-    if (!m_filter->GetPartShowSelFields(latest->AllFields, partStatement, latest->ShowSQL, chosen))
+    if (!m_filter->GetPartShowSelFields(latest->AllFields, partStatement, latest->ShowSQL, chosen) ||
+        !m_filter)
         return false;
     SaveColumnWidths();
     if (!Requery(chosen))
@@ -167,7 +196,7 @@ bool frm_FullScreen::selectFields()
 bool frm_FullScreen::sort()
 {
     m_filter->SetDBConnString(m_connectionString);
-    const clsShowSQLSentence *latest = history().Item(history().Count());
+    const auto latest = latestEntry();
     if (!latest)
         return false;
     QString present;
@@ -176,7 +205,7 @@ bool frm_FullScreen::sort()
     QString statement;
     if (!m_filter->GetPartSortSelFields(latest->AllFields, present.isEmpty() ? m_sortString : present,
                                         chosen) ||
-        !history().GetNextSQLBySort(chosen, statement))
+        !m_filter || !history().GetNextSQLBySort(chosen, statement))
         return false;
     SaveColumnWidths();
     if (!Requery(statement))
@@ -214,7 +243,8 @@ bool frm_FullScreen::filterBy(const QString &condition)
         return false;
     SaveColumnWidths();
     if (!Requery(statement)) {
-        Messages::tell(this, ViewerTexts::ReadFailed);
+        if (m_filter) // else the host has ended the visit
+            Messages::tell(this, ViewerTexts::ReadFailed);
         return false;
     }
     RecordInHistory(colShowSQLSentences::NoPartField(), colShowSQLSentences::NoSort());

@@ -128,6 +128,18 @@ TEST_F(Filters, AHostMayClearTheControlFromTheEvent)
     EXPECT_EQ(grid.RecordSet(), nullptr);
 }
 
+TEST_F(Filters, TheHostIsNotAskedForTheQuickFilterNorForTheCellFilter)
+{
+    ASSERT_TRUE(load());
+    int asked = 0;
+    QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid, [&] { ++asked; });
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"茶"_s); }});
+    click(u"QuickFilter"_s);
+    choose(14, 1);
+    EXPECT_EQ(rows(), 1);
+    EXPECT_EQ(asked, 0);
+}
+
 TEST_F(Filters, QuickFilterSearchesEveryFieldForEveryWord)
 {
     ASSERT_TRUE(load());

@@ -149,6 +149,8 @@ TEST_F(SingleRecord, ADoubleClickTellsTheFieldsColumnAndTheGridsRow)
     EXPECT_EQ(twice.count(), 3);
     EXPECT_EQ(row.count(), 1);
     EXPECT_EQ(cell.count(), 1);
+    QTest::mouseDClick(heading->viewport(), Qt::RightButton, {}, {5, y});
+    EXPECT_EQ(twice.count(), 3) << "the left button alone";
 }
 
 TEST_F(SingleRecord, AValueIsEditedAndSavedOnLeaving)
@@ -195,6 +197,51 @@ TEST_F(SingleRecord, ChineseCanBeTypedToBegin)
     EXPECT_EQ(edit->text(), u"碧螺春"_s);
     click(u"AllRecord"_s); // takes what stands in the box, too
     EXPECT_EQ(stored(u"名称"_s, 1), u"碧螺春"_s);
+}
+
+TEST_F(SingleRecord, AllAndPartTakeWhatIsBeingTyped)
+{
+    ASSERT_TRUE(load());
+    click(u"SingleRecord"_s);
+    for (const QString &key : {u"Part"_s, u"All"_s}) {
+        stand(u"名称"_s);
+        QTest::keyClick(list, Qt::Key_F2);
+        compose(*edit, key);
+        click(key);
+        EXPECT_EQ(listed(u"名称"_s), key);
+        EXPECT_TRUE(isSingleRecordShown());
+    }
+    EXPECT_EQ(stored(u"名称"_s, 1), u"龙井茶"_s) << "not before the record is left";
+    click(u"AllRecord"_s);
+    EXPECT_EQ(stored(u"名称"_s, 1), u"All"_s);
+}
+
+TEST_F(SingleRecord, WhatWasEditedIsSavedWhenAllHasToOpenAnotherResult)
+{
+    ASSERT_TRUE(load());
+    click(u"Part"_s);
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"龙井"_s); }});
+    click(u"QuickFilter"_s); // opened from the part statement
+    click(u"SingleRecord"_s);
+    ASSERT_EQ(listedRow(u"城市"_s), -1);
+    write(u"名称"_s, u"龙井新茶"_s);
+    click(u"All"_s);
+    EXPECT_EQ(listed(u"城市"_s), u"杭州"_s);
+    EXPECT_EQ(listed(u"名称"_s), u"龙井新茶"_s);
+    EXPECT_EQ(stored(u"名称"_s, 1), u"龙井新茶"_s);
+}
+
+TEST_F(SingleRecord, LeavingItGivesTheKeyboardToTheGrid)
+{
+    ASSERT_TRUE(load());
+    for (const QString &key : {u"AllRecord"_s, u"ToPreview"_s, u"ToOrigin"_s}) {
+        table->setFocus();
+        click(u"SingleRecord"_s);
+        EXPECT_TRUE(list->hasFocus());
+        click(key);
+        EXPECT_FALSE(isSingleRecordShown());
+        EXPECT_TRUE(table->hasFocus()) << qUtf8Printable(key);
+    }
 }
 
 TEST_F(SingleRecord, EscInTheListGivesUpTheWholeRecord)

@@ -105,6 +105,48 @@ TEST_F(Toolbar, AFieldNameWithABlankIsSortedByInBrackets)
     click(u"Sort"_s);
 }
 
+// Oracle knows no brackets. Its way of quoting is tried on a database that takes it as well.
+class OracleSort : public Toolbar
+{
+protected:
+    OracleSort()
+    {
+        grid.PutDBType(KOVAVSFDataGrid::dbOracle);
+        EXPECT_TRUE(load(statementOfAll(), {}));
+    }
+    ~OracleSort() override { grid.PutDBType(KOVAVSFDataGrid::dbAccess); }
+    static void sortByPrice(QDialog &dialog) { sort(dialog, {u"\"Unit Price\""_s}, true); }
+};
+
+TEST_F(OracleSort, AFieldNameWithABlankComesAndGoesInDoubleQuotes)
+{
+    WindowAnswers dialogs({sortByPrice, [](QDialog &dialog) {
+                               auto *rows = dialog.findChild<QAbstractItemView *>(u"lvSortFields"_s)->model();
+                               EXPECT_EQ(rows->index(0, 0).data().toString(), u"\"Unit Price\""_s);
+                               EXPECT_EQ(rows->rowCount(), 1);
+                               cancel(dialog);
+                           }});
+    click(u"Sort"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY \"Unit Price\" DESC"_s)) << qUtf8Printable(statement());
+    EXPECT_EQ(texts(u"ID"_s).first(), u"2"_s);
+    click(u"Sort"_s);
+}
+
+TEST_F(OracleSort, TheViewersDialogQuotesAlike)
+{
+    WindowAnswers dialogs({[](QDialog &viewer) {
+                               auto *buttons = viewer.findChild<QToolBar *>(u"Toolbar1"_s);
+                               QTest::mouseClick(
+                                   buttons->widgetForAction(buttons->findChild<QAction *>(u"Sort"_s)),
+                                   Qt::LeftButton);
+                               viewer.reject();
+                           },
+                           sortByPrice});
+    click(u"FullScreen"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY \"Unit Price\" DESC"_s)) << qUtf8Printable(statement());
+    EXPECT_EQ(texts(u"ID"_s).first(), u"2"_s);
+}
+
 TEST_F(Toolbar, SelFieldShowsTheChosenFieldsWithoutReopening)
 {
     ASSERT_TRUE(load());

@@ -3,11 +3,8 @@
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
 #include "ado/Texts.h"
+#include "ado/providers/DatabaseFile.h"
 #include "ado/providers/sqlite/SqliteSession.h"
-
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,29 +14,14 @@ namespace {
 
 constexpr double defaultTimeout = 2;
 
-bool isAccessFile(const QString &path)
-{
-    return path.endsWith(".mdb"_L1, Qt::CaseInsensitive) || path.endsWith(".accdb"_L1, Qt::CaseInsensitive);
-}
-
-// SQLite would take a missing or empty file for a new database and any other file for a damaged one, so the
-// file is looked at first.
 QString checkedPath(const QString &path)
 {
-    const QFileInfo info(path);
-    const QString shown = QDir::toNativeSeparators(info.absoluteFilePath());
-    if (!info.exists())
-        throw Error(adErrOpeningFile, Texts::fileMissing().arg(shown));
-    if (info.isDir())
-        throw Error(adErrOpeningFile, Texts::fileIsFolder().arg(shown));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw Error(adErrOpeningFile, Texts::fileUnreadable().arg(shown, file.errorString()));
     const QByteArray header = QByteArrayLiteral("SQLite format 3\0");
-    if (file.read(header.size()) != header)
-        throw Error(adErrOpeningFile, Texts::notADatabase().arg(shown));
+    const DatabaseFile file(path, header.size());
+    if (file.header != header)
+        throw Error(adErrOpeningFile, Texts::notADatabase().arg(file.shown));
     // An absolute path can't be mistaken for a URI with options of its own.
-    return info.absoluteFilePath();
+    return file.path;
 }
 
 int timeoutInMilliseconds(const ConnectionString &connection)
@@ -64,7 +46,7 @@ bool SqliteProvider::claims(const ConnectionString &connection) const
     const QString provider = connection.value(u"Provider"_s);
     if (!provider.isEmpty())
         return provider.compare(name(), Qt::CaseInsensitive) == 0;
-    return connection.contains(u"Data Source"_s) && !isAccessFile(connection.value(u"Data Source"_s));
+    return connection.contains(u"Data Source"_s) && !isAccessFileName(connection.value(u"Data Source"_s));
 }
 
 std::shared_ptr<Session> SqliteProvider::open(const ConnectionString &connection) const

@@ -5,6 +5,7 @@
 #include "ado/Texts.h"
 #include "ado/providers/sqlite/SqliteError.h"
 #include "ado/providers/sqlite/SqliteStatement.h"
+#include "ado/providers/sqlite/SqliteTypes.h"
 
 #include <sqlite3.h>
 
@@ -27,6 +28,9 @@ bool isReadingPragma(std::string_view name)
     };
     return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
+
+// One thread at a time is this layer's contract, so SQLite's own locking would only cost time.
+constexpr int openFlags = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
 
 // Called by SQLite while it compiles a user's statement, for each thing that the statement would do.
 int allowReading(void *, int action, const char *first, const char *, const char *, const char *)
@@ -83,14 +87,13 @@ void SqliteFinalizer::operator()(sqlite3_stmt *statement) const
 }
 
 SqliteSession::SqliteSession(const QString &path, int timeoutInMilliseconds)
+    : m_engine{SqliteTypes::applyDeclaration, {}}
 {
-    // One thread at a time is this layer's contract, so SQLite's own locking would only cost time.
-    const int flags = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
     const QByteArray name = path.toUtf8();
-    int code = sqlite3_open_v2(name.constData(), &m_db, flags | SQLITE_OPEN_READWRITE, nullptr);
+    int code = sqlite3_open_v2(name.constData(), &m_db, openFlags | SQLITE_OPEN_READWRITE, nullptr);
     if (code != SQLITE_OK) {
         close();
-        code = sqlite3_open_v2(name.constData(), &m_db, flags | SQLITE_OPEN_READONLY, nullptr);
+        code = sqlite3_open_v2(name.constData(), &m_db, openFlags | SQLITE_OPEN_READONLY, nullptr);
     }
     try {
         if (code != SQLITE_OK)
@@ -100,6 +103,20 @@ SqliteSession::SqliteSession(const QString &path, int timeoutInMilliseconds)
         // The first look into the file: a locked, encrypted or damaged one shows here rather than at the
         // first statement.
         stepRow(prepareOwn(u"SELECT 1 FROM sqlite_master LIMIT 1"_s));
+    } catch (...) {
+        close();
+        throw;
+    }
+}
+
+SqliteSession::SqliteSession(SqliteEngine engine) : m_engine(std::move(engine))
+{
+    const int code =
+        sqlite3_open_v2(":memory:", &m_db, openFlags | SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    if (code == SQLITE_OK)
+        return;
+    try {
+        throwSqliteError(m_db, code);
     } catch (...) {
         close();
         throw;

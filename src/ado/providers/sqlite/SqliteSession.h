@@ -15,6 +15,14 @@ struct SqliteFinalizer
 };
 using SqliteHandle = std::unique_ptr<sqlite3_stmt, SqliteFinalizer>;
 
+// What differs where SQLite runs the statements for a database of another kind.
+struct SqliteEngine
+{
+    // Sets type, size, precision and scale of a field from its column's declared type.
+    void (*applyDeclaration)(FieldInfo &, const QString &);
+    QString whyReadOnly; // set where nothing can be written back at all
+};
+
 // An open SQLite database with foreign keys enforced.
 class SqliteSession : public Session, public std::enable_shared_from_this<SqliteSession>
 {
@@ -27,6 +35,7 @@ public:
     QString tableStatement(const QString &table) const override;
     void close() override;
 
+    const SqliteEngine &engine() const { return m_engine; }
     // Throws 3709 once it is closed.
     sqlite3 *db() const;
     // A user's statement, refused unless it is one query.
@@ -34,7 +43,12 @@ public:
     // A statement of this provider's own; whatever stands in it is meant.
     SqliteHandle prepareOwn(const QString &sql) const;
 
+protected:
+    // An empty database in memory, for an engine that adds what it reads.
+    explicit SqliteSession(SqliteEngine engine);
+
 private:
+    SqliteEngine m_engine;
     sqlite3 *m_db = nullptr;
 };
 

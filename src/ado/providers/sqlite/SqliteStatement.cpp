@@ -72,10 +72,9 @@ SqliteStatement::SqliteStatement(std::shared_ptr<SqliteSession> session, const Q
     : m_session(std::move(session)), m_statement(m_session->prepareQuery(sql))
 {
     describe();
-    if (access == Access::ReadWrite)
+    m_whyReadOnly = access == Access::ReadWrite ? m_session->engine().whyReadOnly : Texts::openedReadOnly();
+    if (m_whyReadOnly.isEmpty())
         prepareWriter(sql);
-    else
-        m_whyReadOnly = Texts::openedReadOnly();
 }
 
 SqliteStatement::~SqliteStatement() = default;
@@ -110,7 +109,7 @@ void SqliteStatement::describe()
         if (declaration.isEmpty())
             m_untyped.push_back(i);
         else
-            SqliteTypes::applyDeclaration(field, declaration);
+            m_session->engine().applyDeclaration(field, declaration);
         m_fields.push_back(std::move(field));
     }
 }

@@ -1,0 +1,17 @@
+# The target `docs`: the reference as HTML in docs/reference/ of the build folder, made from the public headers.
+find_package(Doxygen 1.9)
+if(DOXYGEN_FOUND)
+  set(KOVA_REFERENCE_DIR ${PROJECT_BINARY_DIR}/docs/reference)
+  set(inputs ${PROJECT_SOURCE_DIR}/docs/reference.md)
+  foreach(header IN LISTS KOVA_PUBLIC_HEADERS)
+    list(APPEND inputs ${PROJECT_SOURCE_DIR}/src/${header})
+  endforeach()
+  list(TRANSFORM inputs REPLACE "(.+)" "\"\\1\"" OUTPUT_VARIABLE quoted)
+  list(JOIN quoted " " KOVA_REFERENCE_INPUT)
+  configure_file(${PROJECT_SOURCE_DIR}/docs/Doxyfile.in ${PROJECT_BINARY_DIR}/docs/Doxyfile @ONLY)
+  file(MAKE_DIRECTORY ${KOVA_REFERENCE_DIR})
+  add_custom_target(docs
+    COMMAND Doxygen::doxygen ${PROJECT_BINARY_DIR}/docs/Doxyfile
+    COMMENT "The reference in ${KOVA_REFERENCE_DIR}/index.html"
+    VERBATIM)
+endif()

@@ -1,0 +1,82 @@
+# `cpack` makes one Debian package of each component: cmake --workflow --preset packages
+# Included last, so that every component is known.
+set(KOVA_PACKAGE_CONTACT "KOVAVSFDataGrid maintainers <maintainers@kovavsfdatagrid.example>"
+  CACHE STRING "Who answers for the Debian packages: Name <address>")
+
+set(library_package libkovavsfdatagridlib${PROJECT_VERSION_MAJOR}) # changes with the soname
+get_cmake_property(CPACK_COMPONENTS_ALL COMPONENTS)
+list(REMOVE_ITEM CPACK_COMPONENTS_ALL Unspecified)
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME kovavsfdatagrid)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "embeddable SQL result grid for Qt 6")
+set(CPACK_PACKAGE_CONTACT "${KOVA_PACKAGE_CONTACT}")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+# The designer plugin uses the library, which is packed beside it and not installed yet.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/src)
+
+set(what_it_is "Users reshape a query's result without writing SQL: they choose fields and
+sort order, filter, look at single records and step back. Every step is a
+derived statement that runs on the database itself.")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${library_package})
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(control_dir ${PROJECT_BINARY_DIR}/packages/control)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/packages/shlibs.in ${control_dir}/shlibs @ONLY)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/packages/triggers ${control_dir}/triggers COPYONLY)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${control_dir}/shlibs ${control_dir}/triggers)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "fonts-noto-cjk, qt6-translations-l10n")
+set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "${what_it_is}
+.
+This package holds the shared library, and kovagrid, a program to look at
+any database with it.")
+
+set(CPACK_DEBIAN_DEV_PACKAGE_NAME libkovavsfdatagridlib-dev)
+set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "${library_package} (= ${PROJECT_VERSION}-1), qt6-base-dev (>= 6.4)")
+set(CPACK_DEBIAN_DEV_DESCRIPTION "${what_it_is}
+.
+This package holds the headers and what CMake and pkg-config need.")
+
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_NAME kovavsfdatagrid-designer)
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_SECTION devel)
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_DEPENDS "${library_package} (= ${PROJECT_VERSION}-1)")
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_ENHANCES designer-qt6)
+set(CPACK_DEBIAN_DESIGNER_DESCRIPTION "${what_it_is}
+.
+This package lets Qt Designer place the grid on a form, and programs load
+such forms at run time.")
+
+# What Debian wants beside the files, compressed as it wants it: licence and history of every package, and the
+# program's manual page.
+find_program(KOVA_GZIP gzip)
+function(kova_install_compressed file folder component)
+  if(KOVA_GZIP)
+    cmake_path(GET file FILENAME name)
+    set(compressed ${PROJECT_BINARY_DIR}/packages/${component}/${name}.gz)
+    execute_process(COMMAND ${KOVA_GZIP} -9nc ${file} OUTPUT_FILE ${compressed} COMMAND_ERROR_IS_FATAL ANY)
+    install(FILES ${compressed} DESTINATION ${folder} COMPONENT ${component})
+  endif()
+endfunction()
+
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+  string(TOUPPER ${component} COMPONENT)
+  set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${COMPONENT}_PACKAGE_NAME})
+  set(changelog ${PROJECT_BINARY_DIR}/packages/${component}/changelog.Debian)
+  configure_file(${CMAKE_CURRENT_LIST_DIR}/packages/changelog.in ${changelog} @ONLY)
+  kova_install_compressed(${changelog} ${doc_dir} ${component})
+  install(FILES ${CMAKE_CURRENT_LIST_DIR}/packages/copyright DESTINATION ${doc_dir} COMPONENT ${component})
+endforeach()
+if(TARGET kovagrid)
+  kova_install_compressed(${PROJECT_SOURCE_DIR}/apps/kovagrid/kovagrid.1 ${CMAKE_INSTALL_MANDIR}/man1 runtime)
+endif()
+
+include(CPack)

@@ -1,0 +1,66 @@
+#include "designer/GridTaskMenu.h"
+
+#include "control/connection/BuildConnection.h"
+#include "designer/DataPreview.h"
+#include "designer/DesignerTexts.h"
+#include "pages/ConnectionString.h"
+#include "pages/PageDialog.h"
+#include "pages/PropertyPages.h"
+
+#include <QtCore/QVariant>
+#include <QtDesigner/QDesignerFormWindowCursorInterface>
+#include <QtDesigner/QDesignerFormWindowInterface>
+#include <QtGui/QAction>
+#include <QtWidgets/QWidget>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Through the form's command history, so that the developer can undo it and the property editor follows.
+void writeThroughForm(QObject &control, const QString &property, const QVariant &value)
+{
+    auto *widget = qobject_cast<QWidget *>(&control);
+    if (auto *form = QDesignerFormWindowInterface::findFormWindow(widget))
+        form->cursor()->setWidgetProperty(widget, property, value);
+    else
+        control.setProperty(property.toLatin1(), value);
+}
+
+} // namespace
+
+GridTaskMenu::GridTaskMenu(QWidget &grid, QObject *parent) : QObject(parent), m_grid(grid)
+{
+    for (const QString &name : PropertyPageNames()) {
+        auto *action = new QAction(DesignerTexts::PageAction.arg(name), this);
+        action->setObjectName(name);
+        connect(action, &QAction::triggered, this, [this, name] { openPage(name); });
+        m_actions += action;
+        if (name == "SQLShow"_L1)
+            m_preferred = action;
+    }
+    auto *separator = new QAction(this);
+    separator->setSeparator(true);
+    auto *preview = new QAction(DesignerTexts::PreviewAction, this);
+    preview->setObjectName(u"PreviewData"_s);
+    connect(preview, &QAction::triggered, this, [this] { DataPreview(m_grid).run(); });
+    m_actions += {separator, preview};
+}
+
+void GridTaskMenu::openPage(const QString &name)
+{
+    PropertyPage *page = NewPropertyPage(name);
+    PageDialog dialog(page, m_grid.window());
+    page->SetWriter(writeThroughForm);
+    if (auto *connection = qobject_cast<ConnectionString *>(page)) {
+        connection->SetBuilder([this](QWidget *parent, const QString &present) {
+            return BuildConnection(parent, present, m_grid.property("DBType").toInt());
+        });
+    }
+    page->SetSelectedControls({&m_grid});
+    dialog.exec();
+}
+
+} // namespace KOVAVSFDataGridLib

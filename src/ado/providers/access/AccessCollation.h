@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtCore/QByteArrayView>
+#include <QtCore/QString>
+
+struct sqlite3;
+
+// How Access compares texts: letter case does not count, in any script.
+namespace ADODB::AccessCollation {
+
+inline constexpr char TextName[] = "ACCESS_TEXT";
+inline constexpr char DateName[] = "ACCESS_DATE";
+
+// Negative, zero or positive.
+int compareTexts(QByteArrayView a, QByteArrayView b);
+// The same for dates as AccessValue writes them; one without a time is that day at 0:00.
+int compareDates(QByteArrayView a, QByteArrayView b);
+// A date as it is compared.
+QByteArrayView comparedDate(QByteArrayView date);
+
+// Whether a text is like a pattern of % and _, both in UTF-8; an `escape` before one of the two takes its
+// meaning away, 0 is none.
+bool isLike(QByteArrayView text, QByteArrayView pattern, char32_t escape);
+
+// Offers both orders, by their names, and LIKE.
+void install(sqlite3 *db);
+
+} // namespace ADODB::AccessCollation

@@ -1,0 +1,304 @@
+#include "ado/providers/access/AccessFile.h"
+
+#include "ado/Error.h"
+#include "ado/Texts.h"
+#include "ado/providers/DatabaseFile.h"
+#include "ado/providers/access/AccessNamedReader.h"
+
+#include <QtCore/QFile>
+
+#include <mdbtools.h>
+
+#include <algorithm>
+#include <cstring>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+constexpr quint8 definitionPageKind = 2;
+constexpr quint32 objectsPage = 2; // the table of all objects, itself among them
+constexpr int jet3PageSize = 2048;
+constexpr int jet4PageSize = 4096;
+constexpr quint8 newestVersion = MDB_VER_ACCDB_2019;
+
+struct Freer
+{
+    void operator()(MdbHandle *handle) const { mdb_close(handle); }
+    void operator()(MdbTableDef *table) const { mdb_free_tabledef(table); }
+};
+
+// libmdb takes a file of another kind for a damaged one of its own, and looks at pages that a cut off file
+// doesn't have, so the file is looked at first.
+DatabaseFile checked(const QString &path)
+{
+    constexpr qsizetype versionOffset = 0x14;
+    DatabaseFile file(path, versionOffset + 1);
+    const QByteArray kind = file.header.mid(4, 15);
+    if (file.header.size() <= versionOffset || !file.header.startsWith(QByteArrayView("\0\1\0\0", 4)) ||
+        (kind != "Standard Jet DB" && kind != "Standard ACE DB"))
+        throw Error(adErrOpeningFile, Texts::notAnAccessFile().arg(file.shown));
+    const auto version = static_cast<quint8>(file.header.at(versionOffset));
+    if (version > newestVersion)
+        throw Error(adErrOpeningFile, Texts::accessTooNew().arg(file.shown));
+    if (file.size % (version == MDB_VER_JET3 ? jet3PageSize : jet4PageSize) != 0)
+        throw Error(adErrOpeningFile, Texts::accessDamaged().arg(file.shown));
+    return file;
+}
+
+AccessColumn columnOf(const MdbColumn &column, bool isJet3)
+{
+    AccessColumn result;
+    result.name = QString::fromUtf8(column.name);
+    result.type = static_cast<AccessType>(column.col_type);
+    result.size = column.col_size;
+    result.declaredSize = result.type == AccessType::Text && !isJet3 ? column.col_size / 2 : column.col_size;
+    result.precision = column.col_prec;
+    result.scale = column.col_scale;
+    // In older files both marks mean something else for columns of other types.
+    result.isAutoNumber = (result.type == AccessType::LongInteger && column.is_long_auto) ||
+                          (result.type == AccessType::Guid && column.is_uuid_auto);
+    result.number = column.col_num;
+    result.isFixed = column.is_fixed != 0;
+    result.fixedOffset = column.fixed_offset;
+    result.variableNumber = static_cast<int>(column.var_col_num);
+    return result;
+}
+
+void markKey(const GPtrArray *indices, std::vector<AccessColumn> &columns)
+{
+    constexpr int primaryKey = 1;
+    for (guint i = 0; indices && i < indices->len; ++i) {
+        const auto *index = static_cast<const MdbIndex *>(g_ptr_array_index(indices, i));
+        if (!index || index->index_type != primaryKey)
+            continue;
+        for (guint key = 0; key < index->num_keys && key < MDB_MAX_IDX_COLS; ++key) {
+            const int column = index->key_col_num[key] - 1;
+            if (column >= 0 && column < static_cast<int>(columns.size()))
+                columns[static_cast<std::size_t>(column)].isKey = true;
+        }
+    }
+}
+
+// What Jet 4 writes in one byte where a text has only Latin letters; a zero byte switches between that and
+// UTF-16.
+QString uncompressed(QByteArrayView bytes)
+{
+    QString text;
+    text.reserve(bytes.size());
+    bool isCompressed = true;
+    for (qsizetype i = 0; i < bytes.size();) {
+        if (bytes[i] == 0) {
+            isCompressed = !isCompressed;
+            ++i;
+        } else if (isCompressed) {
+            text += QLatin1Char(bytes[i++]);
+        } else {
+            text += QChar(AccessBytes::number<quint16>(bytes, i));
+            i += 2;
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+struct AccessFile::Handle
+{
+    std::unique_ptr<MdbHandle, Freer> mdb;
+    qint64 size = 0;
+};
+
+AccessFile::AccessFile(const QString &path) : m_handle(std::make_unique<Handle>())
+{
+    const DatabaseFile file = checked(path);
+    m_handle->size = file.size;
+    m_handle->mdb.reset(mdb_open(QFile::encodeName(file.path).constData(), MDB_NOFLAGS));
+    if (!m_handle->mdb)
+        throw Error(adErrOpeningFile, Texts::accessDamaged().arg(file.shown));
+    try {
+        m_objects = readObjects();
+    } catch (const Error &) {
+        throw Error(adErrOpeningFile, Texts::accessDamaged().arg(file.shown));
+    }
+    for (const AccessObject &object : m_objects) {
+        if (object.type != AccessObject::Table || object.isSystem)
+            continue;
+        if (auto table = readTable(object.name, object.definitionPage()))
+            m_tables.push_back(std::move(*table));
+    }
+}
+
+AccessFile::~AccessFile() = default;
+
+bool AccessFile::isJet3() const
+{
+    return IS_JET3(m_handle->mdb);
+}
+
+std::vector<AccessObject> AccessFile::readObjects() const
+{
+    constexpr qint64 systemFlags = 0x80000002;
+    const auto table = readTable(u"MSysObjects"_s, objectsPage);
+    if (!table)
+        AccessBytes::throwDamaged("the list of tables is missing");
+    std::vector<AccessObject> objects;
+    AccessNamedReader reader(*this, *table);
+    while (reader.next()) {
+        AccessObject object;
+        object.id = reader.integer("Id"_L1);
+        object.type = reader.integer("Type"_L1);
+        object.isSystem = (reader.integer("Flags"_L1) & systemFlags) != 0;
+        object.name = reader.text("Name"_L1);
+        objects.push_back(std::move(object));
+    }
+    return objects;
+}
+
+std::optional<AccessTable> AccessFile::systemTable(QLatin1StringView name) const
+{
+    const auto object = std::find_if(m_objects.begin(), m_objects.end(), [&](const AccessObject &candidate) {
+        return candidate.type == AccessObject::Table && candidate.name == name;
+    });
+    return object == m_objects.end() ? std::nullopt : readTable(object->name, object->definitionPage());
+}
+
+// libmdb complains on standard error about what it does not like, so the page is looked at first.
+std::optional<AccessTable> AccessFile::readTable(const QString &name, quint32 definitionPage) const
+{
+    try {
+        if (AccessBytes::number<quint8>(page(definitionPage)->bytes(), 0) != definitionPageKind)
+            return {};
+        MdbCatalogEntry entry{};
+        entry.mdb = m_handle->mdb.get();
+        entry.table_pg = definitionPage;
+        const std::unique_ptr<MdbTableDef, Freer> definition(mdb_read_table(&entry));
+        if (!definition)
+            return {};
+        AccessTable table = described(*definition);
+        table.name = name;
+        table.definitionPage = definitionPage;
+        return table;
+    } catch (const Error &) {
+        return {};
+    }
+}
+
+AccessTable AccessFile::described(MdbTableDef &definition) const
+{
+    AccessTable table;
+    table.rows = definition.num_rows;
+    table.hasVariableColumns = definition.num_var_cols > 0;
+    const GPtrArray *columns = mdb_read_columns(&definition);
+    if (!columns || columns->len == 0)
+        AccessBytes::throwDamaged("a table has no columns");
+    for (guint i = 0; i < columns->len; ++i)
+        table.columns.push_back(
+            columnOf(*static_cast<const MdbColumn *>(g_ptr_array_index(columns, i)), isJet3()));
+    mdb_read_indices(&definition);
+    markKey(definition.indices, table.columns);
+    const void *map = definition.usage_map;
+    table.pages = rowPages({static_cast<const char *>(map), static_cast<qsizetype>(definition.map_sz)});
+    return table;
+}
+
+// The map is a bit for each page, either at once or as a list of pages that hold the bits.
+std::vector<quint32> AccessFile::rowPages(QByteArrayView usageMap) const
+{
+    std::vector<quint32> pages;
+    const qint64 last = m_handle->size / m_handle->mdb->fmt->pg_size - 1;
+    const auto addBits = [&](QByteArrayView bits, qint64 first) {
+        for (qsizetype i = 0; i < bits.size() * 8; ++i) {
+            if (bits[i / 8] >> (i % 8) & 1 && first + i <= last)
+                pages.push_back(static_cast<quint32>(first + i));
+        }
+    };
+    const auto kind = AccessBytes::number<quint8>(usageMap, 0);
+    if (kind == 0) {
+        addBits(AccessBytes::part(usageMap, 5, usageMap.size() - 5),
+                AccessBytes::number<quint32>(usageMap, 1));
+    } else if (kind == 1) {
+        qint64 first = 0;
+        for (qsizetype at = 1; at + 4 <= usageMap.size() && first <= last; at += 4) {
+            const auto bitsPage = AccessBytes::number<quint32>(usageMap, at);
+            if (bitsPage != 0)
+                addBits(page(bitsPage)->bytes().sliced(4), first);
+            first += (m_handle->mdb->fmt->pg_size - 4) * 8;
+        }
+    } else {
+        AccessBytes::throwDamaged("the pages of a table are not listed");
+    }
+    return pages;
+}
+
+std::shared_ptr<const AccessPage> AccessFile::page(quint32 number) const
+{
+    std::shared_ptr<const AccessPage> &cached = m_cache[number % CachedPages];
+    if (cached && cached->number == number)
+        return cached;
+    MdbHandle *const mdb = m_handle->mdb.get();
+    const auto size = mdb->fmt->pg_size;
+    if (number == 0 || number >= m_handle->size / size || mdb_read_pg(mdb, number) != size)
+        AccessBytes::throwDamaged("a page is missing");
+    auto page = std::make_shared<AccessPage>();
+    page->number = number;
+    page->size = static_cast<int>(size);
+    page->rowCountOffset = mdb->fmt->row_count_offset;
+    std::memcpy(page->buffer.data(), mdb->pg_buf, static_cast<std::size_t>(size));
+    cached = std::move(page);
+    return cached;
+}
+
+QByteArray AccessFile::longValue(QByteArrayView field) const
+{
+    constexpr quint32 sizeBits = 0x3fffffff;
+    constexpr quint32 isInline = 0x80000000;
+    constexpr quint32 isOnePiece = 0x40000000;
+    constexpr qsizetype headSize = 12;
+    const auto head = AccessBytes::number<quint32>(field, 0);
+    const qsizetype size = head & sizeBits;
+    if (size > m_handle->size)
+        AccessBytes::throwDamaged("a long value is longer than the file");
+    if (head & isInline)
+        return AccessBytes::part(field, headSize, std::min(size, field.size() - headSize)).toByteArray();
+
+    QByteArray value;
+    auto next = AccessBytes::number<quint32>(field, 4);
+    while (value.size() < size) {
+        const AccessAddress address(next);
+        const auto holder = page(address.page);
+        QByteArrayView piece = holder->row(address.row).bytes;
+        if (!(head & isOnePiece)) {
+            next = AccessBytes::number<quint32>(piece, 0);
+            piece = piece.sliced(4);
+        }
+        if (piece.isEmpty())
+            AccessBytes::throwDamaged("a long value is cut off");
+        value += piece.first(std::min(piece.size(), size - value.size()));
+        if (head & isOnePiece && value.size() < size)
+            AccessBytes::throwDamaged("a long value is cut off");
+    }
+    return value;
+}
+
+QByteArray AccessFile::text(QByteArrayView bytes) const
+{
+    if (isJet3()) {
+        constexpr std::size_t mostBytesPerLetter = 4;
+        const auto size = static_cast<std::size_t>(bytes.size());
+        QByteArray utf8(static_cast<qsizetype>(size * mostBytesPerLetter + 1), Qt::Uninitialized);
+        const int written = mdb_unicode2ascii(m_handle->mdb.get(), bytes.data(), size, utf8.data(),
+                                              static_cast<std::size_t>(utf8.size()));
+        utf8.resize(written);
+        return utf8;
+    }
+    if (bytes.startsWith("\xff\xfe"))
+        return uncompressed(bytes.sliced(2)).toUtf8();
+    QString text(bytes.size() / 2, Qt::Uninitialized);
+    qFromLittleEndian<char16_t>(bytes.data(), text.size(), text.data());
+    return text.toUtf8();
+}
+
+} // namespace ADODB

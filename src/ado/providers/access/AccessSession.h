@@ -1,0 +1,18 @@
+#pragma once
+
+#include "ado/providers/sqlite/SqliteSession.h"
+
+namespace ADODB {
+
+// An open Access file. SQLite runs the statements, in memory, over the tables of the file, which is only
+// read.
+class AccessSession : public SqliteSession
+{
+public:
+    explicit AccessSession(const QString &path);
+
+    // Understands, beyond SQLite's SQL, what AccessDialect translates.
+    std::unique_ptr<Statement> prepare(const QString &sql, Access access) override;
+};
+
+} // namespace ADODB

@@ -1,0 +1,79 @@
+#include "ado/providers/odbc/OdbcEngine.h"
+
+#include "ado/providers/odbc/OdbcHandle.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+OdbcEngine::Kind kindOf(const QString &name)
+{
+    using Kind = OdbcEngine::Kind;
+    struct Known
+    {
+        QLatin1StringView part;
+        Kind kind;
+    };
+    static constexpr Known known[] = {
+        {"PostgreSQL"_L1, Kind::PostgreSql}, {"MariaDB"_L1, Kind::MariaDb},      {"MySQL"_L1, Kind::MySql},
+        {"SQLite"_L1, Kind::Sqlite},         {"SQL Server"_L1, Kind::SqlServer}, {"Oracle"_L1, Kind::Oracle},
+    };
+    for (const Known &candidate : known) {
+        if (name.contains(candidate.part, Qt::CaseInsensitive))
+            return candidate.kind;
+    }
+    return Kind::Other;
+}
+
+} // namespace
+
+OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
+{
+    OdbcEngine engine;
+    engine.kind = kindOf(connection.info(SQL_DBMS_NAME));
+    engine.quote = connection.info(SQL_IDENTIFIER_QUOTE_CHAR).trimmed();
+    switch (engine.kind) {
+    case Kind::PostgreSql:
+        engine.dialect = SqlDialect::PostgreSql;
+        engine.beginReading = u"BEGIN READ ONLY"_s;
+        engine.endReading = u"ROLLBACK"_s;
+        engine.lockRow = u" FOR UPDATE"_s;
+        engine.returning = true;
+        engine.asksAgain = engine.bendsDates =
+            connection.info(SQL_DRIVER_NAME).contains("psqlodbc"_L1, Qt::CaseInsensitive);
+        break;
+    case Kind::MariaDb:
+    case Kind::MySql:
+        engine.dialect = SqlDialect::MySql;
+        engine.beginReading = u"START TRANSACTION READ ONLY"_s;
+        engine.endReading = u"ROLLBACK"_s;
+        engine.lockRow = u" FOR UPDATE"_s;
+        engine.newKey = u"SELECT LAST_INSERT_ID()"_s;
+        break;
+    case Kind::Sqlite:
+        engine.beginReading = u"PRAGMA query_only = ON"_s;
+        engine.endReading = u"PRAGMA query_only = OFF"_s;
+        engine.newKey = u"SELECT last_insert_rowid()"_s; // its driver sees no rows in RETURNING
+        engine.looseTypes = true;
+        break;
+    case Kind::SqlServer:
+        engine.dialect = SqlDialect::SqlServer;
+        break;
+    case Kind::Oracle:
+        engine.lockRow = u" FOR UPDATE"_s;
+        break;
+    case Kind::Other:
+        break;
+    }
+    return engine;
+}
+
+QString OdbcEngine::quoted(const QString &name) const
+{
+    const QString close = quote == "["_L1 ? u"]"_s : quote;
+    return quote + QString(name).replace(close, close + close) + close;
+}
+
+} // namespace ADODB

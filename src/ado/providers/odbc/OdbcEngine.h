@@ -1,0 +1,43 @@
+#pragma once
+
+#include "ado/SqlScanner.h"
+
+#include <QtCore/QStringList>
+
+namespace ADODB {
+
+class OdbcConnection;
+
+// What one database engine does in its own way.
+struct OdbcEngine
+{
+    enum class Kind { Other, PostgreSql, MySql, MariaDb, Sqlite, SqlServer, Oracle };
+
+    Kind kind = Kind::Other;
+    SqlDialect dialect = SqlDialect::Standard;
+    QString quote; // around a name; empty where names can't be quoted
+    // Between these two no statement, nor any function that it calls, can change data. Empty where the engine
+    // itself keeps functions in a query from that (SQL Server, Oracle) or knows no such thing.
+    QString beginReading;
+    QString endReading;
+    QString lockRow; // behind a SELECT: keeps the row from others until the transaction ends
+    // INSERT … RETURNING gives the columns of the new row.
+    bool returning = false;
+    // Otherwise the statement that gives the key which the database made for the row just inserted here;
+    // empty where there is none.
+    QString newKey;
+    // A column can hold values of any type, whatever it is declared as.
+    bool looseTypes = false;
+    // Within a block of rows, the driver gives single values once more and then fetches on where it was. Some
+    // claim that and lose rows instead, so only those count that were tried.
+    bool asksAgain = false;
+    // The driver turns dates that it can't hold (infinity, before Christ) into others.
+    bool bendsDates = false;
+
+    static OdbcEngine of(const OdbcConnection &connection);
+
+    // `name` in the engine's quotes.
+    QString quoted(const QString &name) const;
+};
+
+} // namespace ADODB

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "ado/providers/odbc/OdbcApi.h"
+
+#include <QtCore/QStringList>
+
+#include <memory>
+
+namespace ADODB {
+
+// The environment and connection handles of one connection. Its statements share it, so that a connection
+// that is closed while one of them still reads ends when that one does.
+class OdbcConnection
+{
+public:
+    OdbcConnection();
+    ~OdbcConnection();
+    Q_DISABLE_COPY_MOVE(OdbcConnection)
+
+    // Throws what the driver says, never any of `secrets`, which are kept for all later errors as well.
+    void connect(const QString &text, int timeoutInSeconds, const QStringList &secrets);
+
+    SQLHDBC handle() const { return m_connection; }
+    const QStringList &secrets() const { return m_secrets; }
+    QString info(SQLUSMALLINT what) const;
+    SQLUINTEGER number(SQLUSMALLINT what) const;
+    SQLUSMALLINT shortNumber(SQLUSMALLINT what) const;
+
+    // Set when the server went away; nothing can be asked of it any more.
+    bool isLost() const { return m_lost; }
+    void setLost() { m_lost = true; }
+    // How many OdbcReading there are.
+    int readings() const { return m_readings; }
+    void setReadings(int readings) { m_readings = readings; }
+
+private:
+    void release();
+
+    SQLHENV m_environment = SQL_NULL_HANDLE;
+    SQLHDBC m_connection = SQL_NULL_HANDLE;
+    bool m_connected = false;
+    bool m_lost = false;
+    int m_readings = 0;
+    QStringList m_secrets;
+};
+
+// A statement handle of a connection, which it keeps open.
+class OdbcHandle
+{
+public:
+    explicit OdbcHandle(std::shared_ptr<OdbcConnection> connection);
+    ~OdbcHandle();
+    Q_DISABLE_COPY_MOVE(OdbcHandle)
+
+    SQLHSTMT get() const { return m_statement; }
+    const std::shared_ptr<OdbcConnection> &connection() const { return m_connection; }
+
+    // Throws the driver's error when a call on this statement did not succeed.
+    void check(SQLRETURN code) const;
+    void set(SQLINTEGER attribute, std::uintptr_t value) const;
+    void set(SQLINTEGER attribute, void *address) const;
+
+    void prepare(const QString &sql) const;
+    void execute(const QString &sql) const;
+    // False when there is no further row.
+    bool fetch() const;
+    int columns() const;
+    QString columnText(int column, SQLUSMALLINT what) const; // empty where the driver does not know it
+    qint64 columnNumber(int column, SQLUSMALLINT what) const;
+
+private:
+    std::shared_ptr<OdbcConnection> m_connection;
+    SQLHSTMT m_statement = SQL_NULL_HANDLE;
+};
+
+} // namespace ADODB

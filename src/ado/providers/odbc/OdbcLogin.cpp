@@ -1,0 +1,186 @@
+#include "ado/providers/odbc/OdbcLogin.h"
+
+#include "ado/ConnectionString.h"
+#include "ado/Error.h"
+#include "ado/OdbcCatalogue.h"
+#include "ado/Texts.h"
+
+#include <QtCore/QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+bool sameWord(QStringView a, QStringView b)
+{
+    return a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+template<typename Words>
+bool isOneOf(QStringView word, const Words &words)
+{
+    return std::any_of(std::begin(words), std::end(words),
+                       [&](QStringView candidate) { return sameWord(word, candidate); });
+}
+
+// What ADO itself understands and a driver would not.
+constexpr QStringView adoOnly[] = {
+    u"Provider",
+    u"Persist Security Info",
+    u"Connect Timeout",
+    u"Connection Timeout",
+    u"Command Timeout",
+    u"General Timeout",
+    u"Mode",
+    u"Extended Properties",
+};
+
+constexpr QStringView passwords[] = {u"PWD", u"Password"};
+
+// ADO's names for what ODBC calls otherwise. A data source is a server where a driver is named; see take().
+constexpr std::pair<QStringView, QStringView> synonyms[] = {
+    {u"User ID", u"UID"},       {u"User", u"UID"}, {u"Password", u"PWD"}, {u"Initial Catalog", u"Database"},
+    {u"Servername", u"Server"},
+};
+
+int seconds(const ConnectionString &connection, std::initializer_list<QLatin1StringView> keywords)
+{
+    for (const QLatin1StringView keyword : keywords) {
+        if (!connection.contains(keyword))
+            continue;
+        bool ok = false;
+        const double given = connection.value(keyword).toDouble(&ok);
+        if (!ok || !(given >= 0 && given <= 24 * 60 * 60))
+            throw Error(adErrInvalidArgument, Texts::badSeconds().arg(keyword));
+        // Half a second must not become none, which means for ever.
+        return static_cast<int>(given + 0.999);
+    }
+    return 0;
+}
+
+// Drivers know no other quotes than braces, and some do not know those, so they are used only where needed.
+QString quoted(const QString &keyword, const QString &value)
+{
+    static constexpr QStringView special = u"[]{}(),;?*=!@\"'";
+    const bool needed = sameWord(keyword, u"Driver") || value.trimmed() != value ||
+                        std::any_of(value.begin(), value.end(), [](QChar c) { return special.contains(c); });
+    return needed ? u'{' + QString(value).replace(u'}', "}}"_L1) + u'}' : value;
+}
+
+void checkInstalled(const QString &driver)
+{
+    const QStringList installed = odbcDrivers();
+    if (installed.contains(driver, Qt::CaseInsensitive) || QFileInfo(driver).isFile())
+        return;
+    throw Error(adErrProviderNotFound,
+                Texts::noDriver().arg(driver, installed.isEmpty() ? Texts::noneInstalled()
+                                                                  : installed.join(u"、"_s)));
+}
+
+} // namespace
+
+OdbcLogin::OdbcLogin(const ConnectionString &connection)
+    : m_connectTimeout(seconds(connection, {"Connect Timeout"_L1, "Connection Timeout"_L1})),
+      m_commandTimeout(seconds(connection, {"Command Timeout"_L1, "General Timeout"_L1}))
+{
+    take(connection);
+    // A connection string within one, which is how MSDASQL is given what only the driver knows.
+    if (connection.contains(u"Extended Properties"_s))
+        take(ConnectionString(connection.value(u"Extended Properties"_s)));
+    const QString source = connection.value(u"Data Source"_s);
+    if (!source.isEmpty())
+        put(contains(u"Driver") ? u"Server"_s : u"DSN"_s, source);
+    if (contains(u"Driver"))
+        checkInstalled(value(u"Driver"));
+}
+
+void OdbcLogin::take(const ConnectionString &connection)
+{
+    for (const auto &[keyword, value] : connection.parts()) {
+        if (isOneOf(keyword, adoOnly) || sameWord(keyword, u"Data Source"))
+            continue;
+        const auto synonym = std::find_if(std::begin(synonyms), std::end(synonyms),
+                                          [&](const auto &pair) { return sameWord(keyword, pair.first); });
+        put(synonym == std::end(synonyms) ? keyword : synonym->second.toString(), value);
+    }
+}
+
+// What was said first stays.
+void OdbcLogin::put(const QString &keyword, const QString &value)
+{
+    if (!contains(keyword))
+        m_parts.emplace_back(keyword, value);
+}
+
+bool OdbcLogin::contains(QStringView keyword) const
+{
+    return std::any_of(m_parts.begin(), m_parts.end(),
+                       [&](const auto &part) { return sameWord(part.first, keyword); });
+}
+
+QString OdbcLogin::value(QStringView keyword) const
+{
+    const auto found = std::find_if(m_parts.begin(), m_parts.end(),
+                                    [&](const auto &part) { return sameWord(part.first, keyword); });
+    return found == m_parts.end() ? QString() : found->second;
+}
+
+QString OdbcLogin::text() const
+{
+    QString text;
+    for (const auto &[keyword, value] : m_parts)
+        text += keyword + u'=' + quoted(keyword, value) + u';';
+    return text;
+}
+
+QStringList OdbcLogin::secrets() const
+{
+    QStringList secrets;
+    for (const auto &[keyword, value] : m_parts) {
+        if (!value.isEmpty() &&
+            (isOneOf(keyword, passwords) || keyword.endsWith("Password"_L1, Qt::CaseInsensitive)))
+            secrets += {quoted(keyword, value), value};
+    }
+    return secrets;
+}
+
+bool OdbcLogin::looksLikePostgreSql() const
+{
+    QString driver = value(u"Driver");
+    for (const OdbcDataSource &source : odbcDataSources()) {
+        if (driver.isEmpty() && sameWord(source.name, dataSource()))
+            driver = source.driver;
+    }
+    return driver.contains("postgres"_L1, Qt::CaseInsensitive) ||
+           driver.contains("psql"_L1, Qt::CaseInsensitive);
+}
+
+bool OdbcLogin::addPostgreSqlDefaults()
+{
+    struct Default
+    {
+        QStringView keyword;
+        QStringView shortName; // by which the driver knows it too
+        QStringView value;
+    };
+    // Without the first two the driver keeps a whole result in memory; without the last it gives other line
+    // ends than the database holds.
+    static constexpr Default defaults[] = {
+        {u"UseDeclareFetch", u"B6", u"1"},      {u"Fetch", u"A7", u"5000"},
+        {u"UseServerSidePrepare", u"C8", u"1"}, {u"BoolsAsChar", u"B9", u"0"},
+        {u"TextAsLongVarchar", u"B7", u"1"},    {u"UnknownsAsLongVarchar", u"B8", u"1"},
+        {u"ByteaAsLongVarBinary", u"C9", u"1"}, {u"LFConversion", u"C5", u"0"},
+    };
+    const std::size_t before = m_parts.size();
+    for (const Default &standard : defaults) {
+        if (!contains(standard.shortName))
+            put(standard.keyword.toString(), standard.value.toString());
+    }
+    return m_parts.size() > before;
+}
+
+} // namespace ADODB

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QtCore/QStringList>
+
+#include <utility>
+#include <vector>
+
+namespace ADODB {
+
+class ConnectionString;
+
+// What an ADO connection string asks for, in the words of ODBC.
+class OdbcLogin
+{
+public:
+    // Throws 3001 for a time limit that is no number, 3706 for a driver that is not installed.
+    explicit OdbcLogin(const ConnectionString &connection);
+
+    // The text for the driver manager. It holds the password.
+    QString text() const;
+    QStringList secrets() const;                            // as they could stand in a driver's message
+    int connectTimeout() const { return m_connectTimeout; } // seconds, 0 for the driver's own
+    int commandTimeout() const { return m_commandTimeout; } // seconds, 0 for none
+
+    // Adds what PostgreSQL's driver needs in order to fetch a result in portions, to cut nothing and to call
+    // a Boolean one; what the text says itself stays. False when it was all there already.
+    bool addPostgreSqlDefaults();
+    // Whether the text names PostgreSQL's driver, as far as can be told before connecting.
+    bool looksLikePostgreSql() const;
+    QString dataSource() const { return value(u"DSN"); }
+
+private:
+    QString value(QStringView keyword) const;
+    bool contains(QStringView keyword) const;
+    void put(const QString &keyword, const QString &value);
+    void take(const ConnectionString &connection);
+
+    std::vector<std::pair<QString, QString>> m_parts;
+    int m_connectTimeout = 0;
+    int m_commandTimeout = 0;
+};
+
+} // namespace ADODB

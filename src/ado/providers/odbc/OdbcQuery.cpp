@@ -1,0 +1,104 @@
+#include "ado/providers/odbc/OdbcQuery.h"
+
+#include "ado/SqlScanner.h"
+#include "ado/providers/odbc/OdbcBlockReader.h"
+#include "ado/providers/odbc/OdbcDescription.h"
+#include "ado/providers/odbc/OdbcEngine.h"
+#include "ado/providers/odbc/OdbcHandle.h"
+#include "ado/providers/odbc/OdbcValueReader.h"
+#include "ado/providers/odbc/OdbcWatch.h"
+
+#include <QtCore/QStringList>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+bool isDay(const FieldInfo &field)
+{
+    return field.type == adDBDate || field.type == adDBTimeStamp;
+}
+
+// A comment behind the semicolon is another statement to some drivers.
+QString withoutSemicolon(const SqlScanner &statement)
+{
+    const qsizetype last = statement.count() - 1;
+    return statement.isSymbol(last, u';') ? statement.sql().left(statement.at(last).start) : statement.sql();
+}
+
+} // namespace
+
+OdbcQuery::OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
+                     const QString &sql)
+    : m_connection(connection), m_engine(engine), m_statement(std::make_unique<OdbcHandle>(connection))
+{
+    const QString text = withoutSemicolon(SqlScanner(sql, m_engine.dialect));
+    m_statement->prepare(text);
+    m_fields = describeColumns(*m_statement);
+    for (std::size_t i = 0; i < m_fields.size(); ++i) {
+        m_types.push_back(declaredType(*m_statement, static_cast<int>(i)));
+        m_columns.push_back(
+            {OdbcTypes::formOf(m_fields[i].type, m_engine.looseTypes), m_fields[i].definedSize});
+    }
+    if (m_engine.bendsDates && std::any_of(m_fields.begin(), m_fields.end(), isDay))
+        askForDatesAsText(text);
+}
+
+OdbcQuery::~OdbcQuery() = default;
+
+int OdbcQuery::parameters() const
+{
+    SQLSMALLINT count = 0;
+    m_statement->check(SQLNumParams(m_statement->get(), &count));
+    return count;
+}
+
+// The server's own texts hold what the driver can't, and what it would silently make another date of. The
+// order of the rows stays, because nothing around the statement asks for another.
+void OdbcQuery::askForDatesAsText(const QString &sql)
+{
+    QStringList names;
+    QStringList values;
+    for (const FieldInfo &field : m_fields) {
+        names += u"c%1"_s.arg(names.size());
+        values += isDay(field) ? names.last() + "::text"_L1 : names.last();
+    }
+    m_statement = std::make_unique<OdbcHandle>(m_connection);
+    m_statement->prepare("SELECT "_L1 + values.join(", "_L1) + " FROM (\n"_L1 + sql + "\n) AS kova("_L1 +
+                         names.join(", "_L1) + u')');
+}
+
+void OdbcQuery::read(RowStore &rows, const std::function<bool()> &goOn, int timeout)
+{
+    const OdbcWatch watch(*m_statement, goOn, timeout);
+    bool done = false;
+    if (m_engine.asksAgain || OdbcBlockReader::haveRoom(m_columns)) {
+        OdbcBlockReader reader(*m_statement, m_columns, m_engine.asksAgain);
+        done = readAll(reader, rows, watch);
+    }
+    if (!done) {
+        rows = RowStore(rows.columns());
+        OdbcValueReader reader(*m_statement, m_columns);
+        readAll(reader, rows, watch);
+    }
+    SQLFreeStmt(m_statement->get(), SQL_CLOSE);
+}
+
+// False when the rows have to be read anew, value by value.
+bool OdbcQuery::readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch)
+{
+    SQLHSTMT const statement = m_statement->get();
+    m_statement->check(watch.run([statement] { return SQLExecute(statement); }));
+    while (reader.fetch(watch)) {
+        if (!reader.append(rows))
+            return false;
+        watch.ask();
+    }
+    return true;
+}
+
+} // namespace ADODB

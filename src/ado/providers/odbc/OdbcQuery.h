@@ -1,0 +1,46 @@
+#pragma once
+
+#include "ado/FieldInfo.h"
+#include "ado/providers/odbc/OdbcReader.h"
+
+#include <functional>
+#include <memory>
+
+namespace ADODB {
+
+class OdbcConnection;
+class OdbcHandle;
+struct OdbcEngine;
+
+// A prepared statement that gives rows, read so that every value comes whole and as the server means it.
+class OdbcQuery
+{
+public:
+    OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
+              const QString &sql);
+    ~OdbcQuery();
+    Q_DISABLE_COPY_MOVE(OdbcQuery)
+
+    // What the driver says about the columns of the text that was given. None when it gives no rows.
+    const std::vector<FieldInfo> &fields() const { return m_fields; }
+    const std::vector<OdbcTypes::Declared> &types() const { return m_types; }
+    int parameters() const;
+    // For binding parameters.
+    const OdbcHandle &handle() const { return *m_statement; }
+
+    // Runs it and appends all rows. `timeout` is in seconds, 0 for none; see OdbcWatch for the errors.
+    void read(RowStore &rows, const std::function<bool()> &goOn, int timeout);
+
+private:
+    void askForDatesAsText(const QString &sql);
+    bool readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch);
+
+    std::shared_ptr<OdbcConnection> m_connection;
+    const OdbcEngine &m_engine;
+    std::unique_ptr<OdbcHandle> m_statement;
+    std::vector<FieldInfo> m_fields;
+    std::vector<OdbcTypes::Declared> m_types;
+    std::vector<OdbcColumn> m_columns;
+};
+
+} // namespace ADODB

@@ -1,0 +1,68 @@
+#include "ado/providers/odbc/OdbcStatement.h"
+
+#include "ado/Error.h"
+#include "ado/RowStore.h"
+#include "ado/SqlScanner.h"
+#include "ado/Texts.h"
+#include "ado/providers/odbc/OdbcHandle.h"
+#include "ado/providers/odbc/OdbcQuery.h"
+#include "ado/providers/odbc/OdbcRefusal.h"
+#include "ado/providers/odbc/OdbcRowWriter.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+OdbcStatement::OdbcStatement(std::shared_ptr<OdbcSession> session, const QString &sql, Access access)
+    : m_session(std::move(session))
+{
+    const OdbcEngine &engine = m_session->engine();
+    const SqlScanner scanner(sql, engine.dialect);
+    refuseUnlessQuery(scanner);
+    m_reading.emplace(m_session->connection(), engine);
+    m_query = std::make_unique<OdbcQuery>(m_session->connection(), engine, sql);
+    m_fields = m_query->fields();
+    if (m_fields.empty())
+        throw Error(dbErrPermissionDenied, Texts::notAQuery(), u"ODBC"_s, u"42000"_s);
+    if (m_query->parameters() > 0)
+        throw Error(dbErrInCommand, Texts::parameterInStatement().arg(u'?'), u"ODBC"_s, u"07002"_s);
+    if (access == Access::ReadWrite)
+        prepareWriter(scanner);
+    else
+        m_whyReadOnly = Texts::openedReadOnly();
+}
+
+OdbcStatement::~OdbcStatement() = default;
+
+int OdbcStatement::columns() const
+{
+    return static_cast<int>(m_query->fields().size());
+}
+
+void OdbcStatement::prepareWriter(const SqlScanner &statement)
+{
+    OdbcTarget target = OdbcTarget::find(*m_session, statement, m_fields);
+    m_whyReadOnly = target.whyReadOnly;
+    if (!m_whyReadOnly.isEmpty())
+        return;
+    // The statement that also gives the hidden key takes the place of the user's.
+    if (!target.statement.isEmpty())
+        m_query = std::make_unique<OdbcQuery>(m_session->connection(), m_session->engine(), target.statement);
+    for (std::size_t i = 0; i < m_fields.size(); ++i) {
+        if (!target.columns[i].isEmpty())
+            m_fields[i].attributes |= adFldUpdatable;
+    }
+    for (const auto &key : target.key) {
+        if (target.isRealKey && key.column < static_cast<int>(m_fields.size()))
+            m_fields[static_cast<std::size_t>(key.column)].attributes |= adFldKeyColumn;
+    }
+    m_writer = std::make_unique<OdbcRowWriter>(m_session, std::move(target), m_query->types());
+}
+
+void OdbcStatement::fetch(RowStore &rows, const std::function<bool()> &goOn)
+{
+    m_query->read(rows, goOn, m_session->commandTimeout());
+    m_reading.reset();
+}
+
+} // namespace ADODB

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ado/FieldInfo.h"
+
+#include <QtCore/QStringList>
+
+#include <memory>
+#include <vector>
+
+namespace ADODB {
+
+class OdbcConnection;
+struct SimpleSelect;
+
+// What the database's catalogue says about the table of a statement.
+struct OdbcTable
+{
+    bool isTable = false; // not a view; the rest is set only then
+    QStringList columns;
+    QStringList comparable; // those of them that can be told apart by an equals sign
+    // What tells a row from all others: the primary key, else a unique index without Nulls. Empty if there is
+    // none.
+    QStringList key;
+    bool givesOrigins = false; // the driver tells which columns a statement's values come from
+
+    static OdbcTable find(const std::shared_ptr<OdbcConnection> &connection, const SimpleSelect &select);
+};
+
+} // namespace ADODB

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "ado/FieldInfo.h"
+
+#include <vector>
+
+namespace ADODB {
+
+class OdbcSession;
+class SqlScanner;
+
+// Where the rows of a statement can be written back to, and how one of them is found there again.
+struct OdbcTarget
+{
+    struct KeyColumn
+    {
+        QString name; // as it stands in a statement
+        int column;   // of the result
+    };
+
+    QString whyReadOnly; // empty when they can be; the rest is set only then
+    QString statement;   // the user's with the hidden key behind its last column; empty if nothing is hidden
+    QString table;       // as it stands in a statement
+    QString alias;
+    QString selectRow; // the statement up to where the condition for one row follows
+    // For each field the table's column, as it stands in a statement, that takes its values; empty for a
+    // field that is computed.
+    std::vector<QString> columns;
+    // What tells the row from all others. It is a real key where the database says so, else all that the
+    // result shows of the row.
+    std::vector<KeyColumn> key;
+    bool isRealKey = false;
+
+    static OdbcTarget find(const OdbcSession &session, const SqlScanner &statement,
+                           const std::vector<FieldInfo> &fields);
+};
+
+} // namespace ADODB

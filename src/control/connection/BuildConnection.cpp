@@ -1,0 +1,45 @@
+#include "control/connection/BuildConnection.h"
+
+#include "ado/Connection.h"
+#include "ado/ConnectionFactory.h"
+#include "ado/Error.h"
+#include "control/connection/ConnectionBuilder.h"
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A person waits for the answer, so a server that says nothing is given up sooner than by a load.
+constexpr int secondsToConnect = 10;
+
+QString tryOut(ADODB::Connection &connection, const QString &text)
+{
+    try {
+        ADODB::ConnectionString parts(text);
+        if (!parts.contains(u"Connect Timeout"_s))
+            parts.set(u"Connect Timeout"_s, QString::number(secondsToConnect));
+        connection.Open(parts.text());
+        connection.Close();
+        return {};
+    } catch (const ADODB::Error &error) {
+        return error.Description();
+    }
+}
+
+} // namespace
+
+std::optional<QString> BuildConnection(QWidget *parent, const QString &present, qint32 dbType)
+{
+    const auto connection = ADODB::ConnectionFactory::instance().newConnection(dbType);
+    ConnectionBuilder builder({{}, {}, [&](const QString &text) { return tryOut(*connection, text); }},
+                              parent);
+    builder.SetConnectionString(present);
+    if (builder.exec() != QDialog::Accepted)
+        return std::nullopt;
+    connection->PutConnectionString(builder.connectionString());
+    return connection->ConnectionString();
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,97 @@
+#include "control/connection/ConnectionSettings.h"
+
+#include <QtCore/QStringList>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+using Kind = ConnectionTarget::Kind;
+
+namespace {
+
+const QString sqliteProvider = u"SQLite"_s;
+const QString accessProvider = u"Microsoft.ACE.OLEDB.12.0"_s;
+
+// Each field's keywords; the first is the one that is written.
+const QStringList providerKeywords{u"Provider"_s};
+const QStringList fileKeywords{u"Data Source"_s};
+const QStringList dataSourceKeywords{u"DSN"_s};
+const QStringList driverKeywords{u"Driver"_s};
+const QStringList serverKeywords{u"Server"_s, u"ServerName"_s};
+const QStringList portKeywords{u"Port"_s};
+const QStringList databaseKeywords{u"Database"_s, u"Initial Catalog"_s};
+const QStringList userKeywords{u"UID"_s, u"User ID"_s};
+const QStringList passwordKeywords{u"PWD"_s, u"Password"_s};
+
+QString valueOf(const ADODB::ConnectionString &connection, const QStringList &keywords)
+{
+    for (const QString &keyword : keywords) {
+        if (connection.contains(keyword))
+            return connection.value(keyword);
+    }
+    return {};
+}
+
+bool isAccess(const QString &provider, const QString &file)
+{
+    if (!provider.isEmpty())
+        return provider.startsWith("Microsoft."_L1, Qt::CaseInsensitive);
+    return file.endsWith(".mdb"_L1, Qt::CaseInsensitive) || file.endsWith(".accdb"_L1, Qt::CaseInsensitive);
+}
+
+ConnectionTarget targetOf(const ADODB::ConnectionString &connection)
+{
+    if (const QString name = valueOf(connection, dataSourceKeywords); !name.isEmpty())
+        return {Kind::DataSource, name};
+    if (const QString name = valueOf(connection, driverKeywords); !name.isEmpty())
+        return {Kind::Driver, name};
+    const bool isAccessFile =
+        isAccess(valueOf(connection, providerKeywords), valueOf(connection, fileKeywords));
+    return {isAccessFile ? Kind::AccessFile : Kind::SqliteFile, {}};
+}
+
+} // namespace
+
+ConnectionSettings ConnectionSettings::read(const ADODB::ConnectionString &connection)
+{
+    ConnectionSettings settings;
+    settings.target = targetOf(connection);
+    settings.file = settings.target.isFile() ? valueOf(connection, fileKeywords) : QString();
+    settings.server = valueOf(connection, serverKeywords);
+    settings.port = valueOf(connection, portKeywords);
+    settings.database = valueOf(connection, databaseKeywords);
+    settings.user = valueOf(connection, userKeywords);
+    settings.password = valueOf(connection, passwordKeywords);
+    return settings;
+}
+
+ADODB::ConnectionString ConnectionSettings::write(const ADODB::ConnectionString &others) const
+{
+    ADODB::ConnectionString connection = others;
+    for (const QStringList &keywords :
+         {providerKeywords, fileKeywords, dataSourceKeywords, driverKeywords, serverKeywords, portKeywords,
+          databaseKeywords, userKeywords, passwordKeywords}) {
+        for (const QString &keyword : keywords)
+            connection.remove(keyword);
+    }
+    const auto put = [&](const QStringList &keywords, const QString &value) {
+        if (!value.isEmpty())
+            connection.set(keywords.first(), value);
+    };
+    if (target.isFile()) {
+        put(providerKeywords, target.kind == Kind::AccessFile ? accessProvider : sqliteProvider);
+        put(fileKeywords, file);
+        return connection;
+    }
+    put(target.kind == Kind::Driver ? driverKeywords : dataSourceKeywords, target.name);
+    if (target.kind == Kind::Driver) {
+        put(serverKeywords, server);
+        put(portKeywords, port);
+        put(databaseKeywords, database);
+    }
+    put(userKeywords, user);
+    put(passwordKeywords, password);
+    return connection;
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,71 @@
+#include "Printing.h"
+
+#include "ado/providers/access/AccessDialect.h"
+
+#include <gtest/gtest.h>
+
+using namespace ADODB;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString sqlite(const QString &access)
+{
+    return AccessDialect::toSqlite(access);
+}
+
+} // namespace
+
+TEST(AccessDialectTest, PlainStatementsStayAsTheyAre)
+{
+    for (const QString &sql :
+         {u"SELECT * FROM [Order Details] WHERE [a#b] LIKE '%#%&True%' ORDER BY 1 -- & #1/1/20#"_s,
+          u"SELECT a != b, T.[True], T.True, Mod FROM T"_s, u"SELECT * FROM A LEFT JOIN B ON A.x = B.x"_s,
+          u"SELECT TOP FROM T"_s, u"SELECT TOP 5 PERCENT * FROM T"_s, u"#"_s, u"&"_s.left(0)})
+        EXPECT_EQ(sqlite(sql), sql);
+}
+
+TEST(AccessDialectTest, ConstantsAndOperatorsAreTranslated)
+{
+    EXPECT_EQ(sqlite(u"SELECT True, FALSE, yes, No FROM T!A"_s), u"SELECT -1, 0, -1, 0 FROM T.A"_s);
+    EXPECT_EQ(sqlite(u"a MOD 2"_s), u"a % 2"_s);
+    EXPECT_EQ(sqlite(u"SELECT Left(a,1), RIGHT (b,2), IsNull(c) FROM T"_s),
+              u"SELECT \"Left\"(a,1), \"Right\" (b,2), \"IsNull\"(c) FROM T"_s);
+}
+
+TEST(AccessDialectTest, ConcatenationTakesWholeExpressions)
+{
+    EXPECT_EQ(sqlite(u"SELECT a & b + 1 & c AS d, e FROM T"_s),
+              u"SELECT access_concat(a , b + 1 , c) AS d, e FROM T"_s);
+    EXPECT_EQ(
+        sqlite(u"WHERE a & b = c & d AND f(a & (b & c)) LIKE '&'"_s),
+        u"WHERE access_concat(a , b) = access_concat(c , d) AND f(access_concat(a , (access_concat(b , c)))) LIKE '&'"_s);
+}
+
+TEST(AccessDialectTest, TopBecomesLimit)
+{
+    EXPECT_EQ(sqlite(u"SELECT TOP 5 a FROM T ORDER BY a;"_s), u"SELECT   a FROM T ORDER BY a LIMIT 5;"_s);
+    EXPECT_EQ(sqlite(u"SELECT * FROM (SELECT DISTINCTROW TOP 2 a & b FROM T) AS S"_s),
+              u"SELECT * FROM (SELECT    access_concat(a , b) FROM T LIMIT 2) AS S"_s);
+}
+
+TEST(AccessDialectTest, DatesAreReadMonthFirst)
+{
+    const std::pair<QString, QString> dates[] = {{u"1/31/2020"_s, u"2020-01-31 00:00:00"_s},
+                                                 {u"31/1/2020"_s, u"2020-01-31 00:00:00"_s},
+                                                 {u"2/1/20"_s, u"2020-02-01 00:00:00"_s},
+                                                 {u"2/1/95"_s, u"1995-02-01 00:00:00"_s},
+                                                 {u"2020-02-29"_s, u"2020-02-29 00:00:00"_s},
+                                                 {u"2020/2/9 7:05"_s, u"2020-02-09 07:05:00"_s},
+                                                 {u" 1/2/2020 12:00:01 AM "_s, u"2020-01-02 00:00:01"_s},
+                                                 {u"1/2/2020 1:30 pm"_s, u"2020-01-02 13:30:00"_s},
+                                                 {u"13:30"_s, u"1899-12-30 13:30:00"_s},
+                                                 {u"2019-02-29"_s, {}},
+                                                 {u"1/2/2020 25:00"_s, {}},
+                                                 {u""_s, {}},
+                                                 {u"x"_s, {}},
+                                                 {u"1/2/20203"_s, {}}};
+    for (const auto &[literal, expected] : dates)
+        EXPECT_EQ(AccessDialect::dateText(literal), expected) << literal.toStdString();
+    EXPECT_EQ(sqlite(u"d >= #1/31/2020# AND d < #bad#"_s), u"d >= '2020-01-31 00:00:00' AND d < #bad#"_s);
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "support/SampleFiles.h"
+
+#include "ado/Connection.h"
+#include "ado/Recordset.h"
+
+#include <QtCore/QString>
+#include <QtCore/QTemporaryDir>
+
+#include <memory>
+
+namespace AdoTest {
+
+std::shared_ptr<ADODB::Connection> openAccess(const QString &path);
+std::shared_ptr<ADODB::Recordset> query(const std::shared_ptr<ADODB::Connection> &connection,
+                                        const QString &sql);
+// All cells, columns parted by | and records by a line break.
+QString cells(const std::shared_ptr<ADODB::Connection> &connection, const QString &sql);
+
+} // namespace AdoTest
+
+// Leaves the test, saying so, where a sample is missing.
+#define REQUIRE_SAMPLE(path, name)                                                                           \
+    const QString path = KovaTest::sampleFile(QStringLiteral(name));                                         \
+    if (path.isEmpty())                                                                                      \
+    GTEST_SKIP() << name " is not here; see sampleFile()"

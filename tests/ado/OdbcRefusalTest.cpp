@@ -1,0 +1,56 @@
+#include "ado/providers/odbc/OdbcRefusal.h"
+
+#include "Throwing.h"
+#include "ado/SqlScanner.h"
+
+using namespace ADODB;
+
+namespace {
+
+void check(const char *sql, SqlDialect dialect)
+{
+    refuseUnlessQuery(SqlScanner(QString::fromUtf8(sql), dialect));
+}
+
+TEST(OdbcRefusal, ReadsQuotesAndCommentsAsTheEngineDoes)
+{
+    using enum SqlDialect;
+    struct Case
+    {
+        const char *sql;
+        SqlDialect dialect;
+        bool twoStatements;
+    };
+    const Case cases[] = {
+        {"select '\\'' ; delete from t -- '", MySql, true},
+        {"select '\\'' ; delete from t -- '", Standard, false},
+        {"select `a;b` # ; delete", MySql, false},
+        {"select 5--1 ; delete from t", MySql, true},
+        {"select 5--1 ; delete from t", Standard, false},
+        {"select [a]]' ] ; delete from t --'", SqlServer, true},
+        {"select [a;b], \"c;d\"", SqlServer, false},
+        {"select a[1], ']' ; delete from t", PostgreSql, true},
+        {"select $1$ ; delete from t", PostgreSql, true},
+        {"select name$ ';' ", PostgreSql, false},
+        {"select te'\\' ; delete from t --'", PostgreSql, true},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.sql);
+        if (c.twoStatements)
+            EXPECT_ADO_ERROR(dbErrMultipleStatements, check(c.sql, c.dialect));
+        else
+            EXPECT_NO_THROW(check(c.sql, c.dialect));
+    }
+}
+
+TEST(OdbcRefusal, RefusesWhatRunsInsideAQuery)
+{
+    for (const char *sql : {"select 1 into outfile '/tmp/x'", "select 1 /*!50000 into outfile '/tmp/x' */",
+                            "(select 1 into @a)", "select 1 /*M!100000 into outfile '/tmp/x' */", "call p()",
+                            "show tables into x"})
+        EXPECT_ADO_ERROR(dbErrPermissionDenied, check(sql, SqlDialect::MySql));
+    EXPECT_NO_THROW(check("(select t.into, 'into' from t) union (select 1, 2)", SqlDialect::MySql));
+    EXPECT_NO_THROW(check("select insert('abc', 1, 1, 'x'), (update_count) from t", SqlDialect::MySql));
+}
+
+} // namespace

@@ -1,0 +1,176 @@
+#include "OdbcEngines.h"
+#include "TestDatabase.h"
+#include "Throwing.h"
+
+#include "ado/ConnectionString.h"
+#include "ado/OdbcCatalogue.h"
+
+using namespace Qt::Literals::StringLiterals;
+using namespace ADODB;
+using AdoTest::cellTexts;
+using AdoTest::errorOf;
+
+namespace {
+
+const QString marker = u"Geheim}wort;4711"_s;
+
+TEST(OdbcConnecting, NamesTheInstalledDriversWhenOneIsUnknown)
+{
+    Connection connection;
+    const Error error =
+        errorOf([&] { connection.Open(u"Driver={No such driver};Server=x;Password=\"%1\""_s.arg(marker)); });
+    EXPECT_TRUE(error.is(adErrProviderNotFound)) << error.what();
+    EXPECT_TRUE(error.Description().contains(u"No such driver"));
+    EXPECT_FALSE(error.Description().contains(u"4711"));
+    for (const QString &driver : odbcDrivers())
+        EXPECT_TRUE(error.Description().contains(driver)) << error.what();
+}
+
+TEST(OdbcConnecting, SaysThatADataSourceIsUnknown)
+{
+    Connection connection;
+    for (const char *text : {"DSN=kova no such", "Provider=MSDASQL;Data Source=kova no such",
+                             "Provider=MSDASQL.1;DSN=kova no such"}) {
+        const Error error = errorOf([&] { connection.Open(QString::fromUtf8(text)); });
+        EXPECT_EQ(error.SQLState(), u"IM002"_s);
+        EXPECT_TRUE(error.Description().contains(u"kova no such")) << error.what();
+    }
+}
+
+TEST(OdbcConnecting, ListsTheProvidersWhenOneIsUnknown)
+{
+    Connection connection;
+    const Error error = errorOf([&] { connection.Open(u"Provider=Nobody;Data Source=x"_s); });
+    EXPECT_TRUE(error.is(adErrProviderNotFound));
+    EXPECT_TRUE(error.Description().contains(u"MSDASQL") && error.Description().contains(u"SQLite"));
+}
+
+TEST(OdbcConnecting, TakesOnlySecondsForATimeLimit)
+{
+    Connection connection;
+    EXPECT_ADO_ERROR(adErrInvalidArgument, connection.Open(u"DSN=x;Connect Timeout=soon"_s));
+    EXPECT_ADO_ERROR(adErrInvalidArgument, connection.Open(u"DSN=x;Command Timeout=-1"_s));
+}
+
+using OnServer = AdoTest::OnOdbc;
+
+constexpr AdoTest::OdbcEngineCase servers[] = {
+    {"PostgreSQL", "KOVA_TEST_POSTGRESQL", "", "", ""},
+    {"MariaDB", "KOVA_TEST_MARIADB", "", "", ""},
+};
+
+class OdbcServer : public OnServer
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Servers, OdbcServer, testing::ValuesIn(servers),
+                         [](const auto &engine) { return std::string(engine.param.name); });
+
+TEST_P(OdbcServer, TellsNoPasswordWhenItRefusesOne)
+{
+    Connection connection;
+    const Error error = errorOf([&] { connection.Open(connectionString(), {}, marker); });
+    EXPECT_TRUE(error.is(dbErrAuthFailed)) << error.what();
+    EXPECT_FALSE(error.Description().contains(u"4711")) << error.what();
+    EXPECT_EQ(connection.State(), adStateClosed);
+    connection.Open(connectionString());
+    EXPECT_FALSE(connection.ConnectionString().contains(u"PWD", Qt::CaseInsensitive));
+}
+
+TEST_P(OdbcServer, TellsNoPasswordThatStandsInAStatement)
+{
+    const ADODB::ConnectionString text(connectionString());
+    const QString password = text.value(u"PWD"_s) + text.value(u"Password"_s);
+    ASSERT_FALSE(password.isEmpty());
+    const Error error = errorOf([&] { open(u"SELECT * FROM \"%1\""_s.arg(password)); });
+    EXPECT_FALSE(error.Description().contains(password)) << error.what();
+    EXPECT_TRUE(error.Description().contains(u"***")) << error.what();
+}
+
+TEST_P(OdbcServer, UnderstandsAdosKeywords)
+{
+    ADODB::ConnectionString text(connectionString());
+    const auto rename = [&](const QString &from, const QString &to) {
+        if (!text.contains(from))
+            return;
+        text.set(to, text.value(from));
+        text.remove(from);
+    };
+    rename(u"Server"_s, u"Data Source"_s);
+    rename(u"Database"_s, u"Initial Catalog"_s);
+    rename(u"UID"_s, u"User ID"_s);
+    rename(u"PWD"_s, u"Password"_s);
+    text.set(u"Provider"_s, u"MSDASQL"_s);
+    Connection connection;
+    connection.Open(text.text());
+    EXPECT_EQ(connection.State(), adStateOpen);
+}
+
+TEST_P(OdbcServer, IsClosedOnceTheServerEndedItAndCanBeOpenedAgain)
+{
+    const auto connection = connect();
+    const QString id =
+        open(is("MariaDB") ? u"SELECT connection_id()"_s : u"SELECT pg_backend_pid()"_s, connection)
+            ->CellText(1, 0);
+    execute((is("MariaDB") ? u"KILL %1"_s : u"SELECT pg_terminate_backend(%1)"_s).arg(id));
+    const Error error = errorOf([&] { open(u"SELECT 1"_s, connection); });
+    EXPECT_TRUE(error.Description().contains(u"连接已断开"))
+        << error.what() << ' ' << error.SQLState().toStdString();
+    EXPECT_EQ(connection->State(), adStateClosed);
+    connection->Open();
+    EXPECT_EQ(open(u"SELECT 1"_s, connection)->CellText(1, 0), u"1"_s);
+}
+
+TEST_P(OdbcServer, LetsNoFunctionInAQueryChangeData)
+{
+    execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY)"_s);
+    execute(u"DROP FUNCTION IF EXISTS kova_change"_s);
+    execute(is("MariaDB")
+                ? u"CREATE FUNCTION kova_change() RETURNS INTEGER BEGIN INSERT INTO kova_a VALUES (1);"
+                  " RETURN 1; END"_s
+                : u"CREATE FUNCTION kova_change() RETURNS INTEGER LANGUAGE plpgsql AS "
+                  "'BEGIN INSERT INTO kova_a VALUES (1); RETURN 1; END'"_s);
+    EXPECT_ADO_ERROR(dbErrPermissionDenied, open(u"SELECT kova_change()"_s));
+    EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"0"_s);
+    execute(u"DROP FUNCTION kova_change"_s);
+}
+
+class OnPostgreSql : public OnServer
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Servers, OnPostgreSql, testing::Values(servers[0]),
+                         [](const auto &engine) { return std::string(engine.param.name); });
+
+TEST_P(OnPostgreSql, ShowsDatesThatTheDriverCannotHoldAsTheServerWritesThem)
+{
+    const auto recordset =
+        open(u"SELECT 'infinity'::date, '0044-03-15 BC'::date, '0044-03-15 10:00:00 BC'::timestamp,"
+             " '24:00:00'::time, '10000-01-01'::timestamp, '-infinity'::timestamp,"
+             " '2024-02-29 01:02:03.123456'::timestamp, '2024-02-29'::date; -- all"_s);
+    EXPECT_EQ(cellTexts(*recordset),
+              u"infinity|0044-03-15 BC|0044-03-15 10:00:00 BC|24:00:00|10000-01-01 00:00:00|"
+              "-infinity|2024-02-29 01:02:03.123456|2024-02-29"_s);
+    EXPECT_EQ(recordset->CellValue(1, 7), QVariant(QDate(2024, 2, 29)));
+}
+
+TEST_P(OnPostgreSql, SeesASecondStatementThroughItsOwnQuotes)
+{
+    execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY)"_s);
+    execute(u"INSERT INTO kova_a VALUES (1)"_s);
+    for (const char *sql :
+         {"select E'\\'' ; delete from kova_a -- '", "select $$ ' $$ ; delete from kova_a -- '",
+          "select $a$ $$ ' $a$ ; delete from kova_a -- '"})
+        EXPECT_ADO_ERROR(dbErrMultipleStatements, open(QString::fromUtf8(sql)));
+    for (const char *sql : {"select $$ ; delete from kova_a $$", "select E'\\' ; delete from kova_a'",
+                            "select 1 /* /* */ ; delete from kova_a */"})
+        EXPECT_EQ(open(QString::fromUtf8(sql))->RecordCount(), 1);
+    EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s);
+}
+
+TEST_P(OnPostgreSql, RefusesAResultWithoutColumns)
+{
+    EXPECT_ADO_ERROR(dbErrPermissionDenied, open(u"SELECT"_s));
+}
+
+} // namespace

@@ -1,0 +1,11 @@
+#pragma once
+
+// Has a member without a comment.
+class Gap
+{
+public:
+    // This one has a comment.
+    void told();
+
+    void untold();
+};
