@@ -1,34 +1,59 @@
 #include "forms/Messages.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 
 namespace KOVAVSFDataGridLib::Messages {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-int show(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon,
-         QMessageBox::StandardButtons buttons, QMessageBox::StandardButton onEscape)
+struct Message
 {
-    QMessageBox box(parent);
-    box.setTextFormat(Qt::PlainText);
-    box.setText(text);
-    box.setIcon(icon);
-    box.setWindowTitle(title.isEmpty() ? QApplication::applicationDisplayName() : title);
-    box.setStandardButtons(buttons);
-    box.setEscapeButton(onEscape);
-    return box.exec();
+    QString text;
+    QString title;
+    QString cause;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+};
+
+int show(QWidget *parent, const Message &message, QMessageBox::StandardButtons buttons,
+         QMessageBox::StandardButton onEscape)
+{
+    // On the heap, because the parent owns it as well: either may go first.
+    const QPointer<QMessageBox> box = new QMessageBox(parent);
+    box->setTextFormat(Qt::PlainText);
+    box->setText(message.text);
+    box->setInformativeText(message.cause);
+    if (auto *cause = box->findChild<QLabel *>(u"qt_msgbox_informativelabel"_s))
+        cause->setTextFormat(Qt::PlainText); // the box sets it for the text alone
+    box->setIcon(message.icon);
+    box->setWindowTitle(message.title.isEmpty() ? QApplication::applicationDisplayName() : message.title);
+    box->setStandardButtons(buttons);
+    box->setEscapeButton(onEscape);
+    const int answer = box->exec();
+    if (!box)
+        return onEscape;
+    delete box;
+    return answer;
 }
 
 } // namespace
 
 void tell(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon)
 {
-    show(parent, text, title, icon, QMessageBox::Ok, QMessageBox::Ok);
+    show(parent, {text, title, {}, icon}, QMessageBox::Ok, QMessageBox::Ok);
+}
+
+void tellWithCause(QWidget *parent, const QString &text, const QString &cause)
+{
+    show(parent, {text, {}, cause}, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon)
 {
-    return show(parent, text, title, icon, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
+    return show(parent, {text, title, {}, icon}, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
            QMessageBox::Yes;
 }
 

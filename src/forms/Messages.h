@@ -5,12 +5,16 @@
 class QWidget;
 
 // Every message box of the library is made here: plain text, a title always set (the application's
-// display name when none is given), modal above the window of `parent`.
+// display name when none is given), modal above the window of `parent`. When `parent` is destroyed under an
+// open box, the box goes with it and counts as closed.
 namespace KOVAVSFDataGridLib::Messages {
 
 // Shows a text with an OK button.
 void tell(QWidget *parent, const QString &text, const QString &title = {},
           QMessageBox::Icon icon = QMessageBox::NoIcon);
+
+// The same with the cause below the text, in the data access' own words.
+void tellWithCause(QWidget *parent, const QString &text, const QString &cause);
 
 // Asks with the buttons Yes and No; true for Yes. Closing the box counts as No.
 bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon);

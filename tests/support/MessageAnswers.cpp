@@ -48,7 +48,8 @@ bool MessageAnswers::eventFilter(QObject *watched, QEvent *event)
 void MessageAnswers::answer(QMessageBox &box)
 {
     const std::size_t index = m_shown.size();
-    m_shown.push_back({box.text(), box.windowTitle(), box.icon(), box.standardButtons(), box.textFormat()});
+    m_shown.push_back({box.text(), box.windowTitle(), box.icon(), box.standardButtons(), box.textFormat(),
+                       box.informativeText()});
     QAbstractButton *button = box.button(index < m_answers.size() ? m_answers[index] : QMessageBox::Ok);
     if (!button)
         button = box.button(QMessageBox::No);

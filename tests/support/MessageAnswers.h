@@ -15,6 +15,7 @@ struct ShownMessage
     QMessageBox::Icon icon = QMessageBox::NoIcon;
     QMessageBox::StandardButtons buttons;
     Qt::TextFormat format = Qt::AutoText;
+    QString cause; // below the text
 };
 
 // While one lives, every message box is answered by a click as soon as it shows: the boxes in order get

@@ -138,8 +138,9 @@ void DeleteRecord(ControlHub &hub)
         return;
     try {
         deleteCurrentRecord(hub);
-    } catch (const ADODB::Error &) {
-        Messages::tell(&hub.q, GridTexts::DeleteRefused);
+    } catch (const ADODB::Error &error) {
+        // Not every refusal is a constraint: the file may be read-only, the record changed by somebody else.
+        Messages::tellWithCause(&hub.q, GridTexts::DeleteRefused, error.Description());
     }
 }
 

@@ -86,6 +86,8 @@ TEST_F(AccessJourney, ADeletionIsRefusedAndNothingIsLost)
     choose(9, 1);
     ASSERT_EQ(messages.shown().size(), 2U);
     EXPECT_EQ(messages.texts().last(), u"删除操作与数据库的约束冲突，不能删除此记录！"_s);
+    EXPECT_TRUE(messages.shown().back().cause.contains(u"只能读取"_s))
+        << qUtf8Printable(messages.shown().back().cause);
     EXPECT_EQ(texts(u"ProductName"_s), before);
     click(u"Part"_s);
     EXPECT_EQ(rows(), Products);
