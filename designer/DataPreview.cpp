@@ -25,6 +25,7 @@ DataPreview::DataPreview(const QWidget &designed)
 {
     setObjectName(u"DataPreview"_s);
     setWindowTitle(DesignerTexts::PreviewTitle.arg(designed.objectName()));
+    setModal(true); // from the first moment on, also while the data are loaded
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});

@@ -39,9 +39,14 @@ QString GridPlugin::includeFile() const
     return u"<KOVAVSFDataGrid>"_s;
 }
 
+// The widget box takes an icon without sizes, as a scalable one is, for none at all.
 QIcon GridPlugin::icon() const
 {
-    return QIcon(u":/KOVAVSFDataGridLib/designer/KOVAVSFDataGrid.svg"_s);
+    const QIcon scalable(u":/KOVAVSFDataGridLib/designer/KOVAVSFDataGrid.svg"_s);
+    QIcon icon;
+    for (const int size : {16, 22, 32, 44, 64})
+        icon.addPixmap(scalable.pixmap(QSize(size, size), 1.0));
+    return icon;
 }
 
 // Statements and connection strings are for no translator.

@@ -1,10 +1,15 @@
 // From GetConnection through the connection builder and back.
 #include <KOVAVSFDataGrid>
 
+#include "ado/Connection.h"
+#include "ado/ConnectionFactory.h"
+#include "ado/OdbcCatalogue.h"
+#include "ado/Recordset.h"
 #include "support/Dialogs.h"
 #include "support/TestDatabase.h"
 #include "support/WindowAnswers.h"
 
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <gtest/gtest.h>
@@ -20,7 +25,45 @@ struct BuildConnection : testing::Test
     KOVAVSFDataGrid grid;
 };
 
+// Hands out connections as ever and notes for which database.
+class NotingFactory final : public ADODB::ConnectionFactory
+{
+public:
+    explicit NotingFactory(QList<qint32> &asked) : m_asked(asked) {}
+    void SetThreeTier(bool) override {}
+    bool ThreeTier() const override { return true; }
+    std::shared_ptr<ADODB::Connection> newConnection(qint32 dbType) override
+    {
+        m_asked += dbType;
+        return std::make_shared<ADODB::Connection>();
+    }
+    std::shared_ptr<ADODB::Recordset> newRecordset(qint32) override
+    {
+        return std::make_shared<ADODB::Recordset>();
+    }
+
+private:
+    QList<qint32> &m_asked;
+};
+
 } // namespace
+
+TEST_F(BuildConnection, TheConnectionComesFromTheFactoryForItsDatabase)
+{
+    QList<qint32> asked;
+    ADODB::ConnectionFactory::setInstance(std::make_unique<NotingFactory>(asked));
+    grid.PutDBType(KOVAVSFDataGrid::dbOracle);
+    WindowAnswers windows({[](QDialog &connect) {
+                               press(connect, "OptionLINK");
+                               press(connect, "cmd_link");
+                               press(connect, "CancelButton");
+                           },
+                           [](QDialog &builder) { press(builder, "CancelButton"); }});
+    grid.GetConnection();
+    EXPECT_EQ(asked, QList<qint32>({2}));
+    ADODB::ConnectionFactory::setInstance(nullptr);
+    grid.PutDBType(KOVAVSFDataGrid::dbAccess);
+}
 
 TEST_F(BuildConnection, WhatWasBuiltAndTriedBecomesTheConnectionString)
 {
@@ -38,6 +81,26 @@ TEST_F(BuildConnection, WhatWasBuiltAndTriedBecomesTheConnectionString)
                            }});
     grid.GetConnection();
     EXPECT_EQ(grid.ConnectionString(), database.connectionString());
+}
+
+TEST_F(BuildConnection, OffersTheDriversOfThisMachine)
+{
+    WindowAnswers windows({[](QDialog &connect) {
+                               press(connect, "OptionLINK");
+                               press(connect, "cmd_link");
+                               press(connect, "CancelButton");
+                           },
+                           [](QDialog &builder) {
+                               const auto &targets = part<QComboBox>(builder, "cmbTarget");
+                               const QStringList drivers = ADODB::odbcDrivers();
+                               for (const QString &driver : drivers)
+                                   EXPECT_GE(targets.findText(u"ODBC 驱动程序 "_s + driver), 0)
+                                       << qPrintable(driver);
+                               const auto sources = static_cast<qsizetype>(ADODB::odbcDataSources().size());
+                               EXPECT_EQ(targets.count(), 2 + drivers.size() + sources);
+                               press(builder, "CancelButton");
+                           }});
+    grid.GetConnection();
 }
 
 TEST_F(BuildConnection, AFailedTestTellsWhyAndCancelKeepsTheOldString)

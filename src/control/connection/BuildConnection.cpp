@@ -3,6 +3,7 @@
 #include "ado/Connection.h"
 #include "ado/ConnectionFactory.h"
 #include "ado/Error.h"
+#include "ado/OdbcCatalogue.h"
 #include "control/connection/ConnectionBuilder.h"
 
 namespace KOVAVSFDataGridLib {
@@ -28,12 +29,21 @@ QString tryOut(ADODB::Connection &connection, const QString &text)
     }
 }
 
+QStringList dataSourceNames()
+{
+    QStringList names;
+    for (const ADODB::OdbcDataSource &source : ADODB::odbcDataSources())
+        names += source.name;
+    return names;
+}
+
 } // namespace
 
 std::optional<QString> BuildConnection(QWidget *parent, const QString &present, qint32 dbType)
 {
     const auto connection = ADODB::ConnectionFactory::instance().newConnection(dbType);
-    ConnectionBuilder builder({{}, {}, [&](const QString &text) { return tryOut(*connection, text); }},
+    ConnectionBuilder builder({ADODB::odbcDrivers(), dataSourceNames(),
+                               [&](const QString &text) { return tryOut(*connection, text); }},
                               parent);
     builder.SetConnectionString(present);
     if (builder.exec() != QDialog::Accepted)
