@@ -5,10 +5,13 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
+#include <utility>
+
 namespace KOVAVSFDataGridLib::ActiveX {
 
-EmbeddedWindow::EmbeddedWindow(QWidget &widget, std::function<void()> entered)
-    : m_widget(widget), m_entered(std::move(entered))
+EmbeddedWindow::EmbeddedWindow(QWidget &widget, std::function<void()> entered,
+                               std::function<void(bool)> blocked)
+    : m_widget(widget), m_entered(std::move(entered)), m_blocked(std::move(blocked))
 {
     m_widget.setWindowFlags(Qt::FramelessWindowHint);
 }
@@ -33,6 +36,7 @@ void EmbeddedWindow::detach()
 {
     if (!m_parent)
         return;
+    unblock();
     m_widget.hide();
     m_widget.windowHandle()->removeEventFilter(this);
     m_widget.windowHandle()->setParent(nullptr);
@@ -111,6 +115,24 @@ bool EmbeddedWindow::tabStaysInside(bool backwards) const
     }
 }
 
+// Qt keeps its own windows from the user while a modal dialog is open, and knows nothing of the host's.
+void EmbeddedWindow::block()
+{
+    const HWND top = GetAncestor(handle(), GA_ROOT);
+    if (EnableWindow(top, FALSE))
+        return; // a dialog of the host's own is open already
+    m_disabled = top;
+    m_blocked(true);
+}
+
+void EmbeddedWindow::unblock()
+{
+    if (!m_disabled)
+        return;
+    EnableWindow(std::exchange(m_disabled, nullptr), TRUE);
+    m_blocked(false);
+}
+
 bool EmbeddedWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonPress) {
@@ -119,6 +141,10 @@ bool EmbeddedWindow::eventFilter(QObject *watched, QEvent *event)
         m_entered();
     } else if (event->type() == QEvent::FocusIn) {
         m_entered();
+    } else if (event->type() == QEvent::WindowBlocked) {
+        block();
+    } else if (event->type() == QEvent::WindowUnblocked) {
+        unblock();
     }
     return QObject::eventFilter(watched, event);
 }

@@ -16,8 +16,9 @@ namespace KOVAVSFDataGridLib::ActiveX {
 class EmbeddedWindow : public QObject
 {
 public:
-    // `entered` is called when the user clicks into the widget or the keyboard arrives in it.
-    EmbeddedWindow(QWidget &widget, std::function<void()> entered);
+    // `entered` is called when the user clicks into the widget or the keyboard arrives in it; `blocked` when
+    // a modal dialog of Qt's opens (true) and when the last one has gone (false).
+    EmbeddedWindow(QWidget &widget, std::function<void()> entered, std::function<void(bool)> blocked);
     ~EmbeddedWindow() override;
 
     // Positions are pixels of the parent window's client area. An empty clip does not clip.
@@ -35,10 +36,14 @@ protected:
 
 private:
     bool tabStaysInside(bool backwards) const;
+    void block();
+    void unblock();
 
     QWidget &m_widget;
     const std::function<void()> m_entered;
+    const std::function<void(bool)> m_blocked;
     std::unique_ptr<QWindow> m_parent;
+    HWND m_disabled = nullptr; // the host's window that a modal dialog keeps from the user
 };
 
 } // namespace KOVAVSFDataGridLib::ActiveX

@@ -3,6 +3,8 @@
 #include "activex/ConnectionPoint.h"
 #include "activex/Variants.h"
 
+#include <QtCore/QPointer>
+
 #include <algorithm>
 
 namespace KOVAVSFDataGridLib::ActiveX {
@@ -67,6 +69,10 @@ int EventSource::qt_metacall(QMetaObject::Call call, int id, void **arguments)
 
 void EventSource::tell(const Event &event, void **arguments)
 {
+    // A listener may let go of the control; the others are told all the same.
+    ComPtr<IConnectionPoint> alive(&m_point);
+    const QPointer<EventSource> self(this);
+    ++m_telling;
     const auto count = static_cast<std::size_t>(event.signal.parameterCount());
     for (const ComPtr<IUnknown> &sink : m_point.sinks()) {
         ComPtr<IDispatch> listener;
@@ -84,6 +90,9 @@ void EventSource::tell(const Event &event, void **arguments)
         listener->Invoke(event.id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr,
                          nullptr, nullptr);
     }
+    alive.Reset();
+    if (self)
+        --m_telling;
 }
 
 } // namespace KOVAVSFDataGridLib::ActiveX

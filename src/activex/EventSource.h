@@ -20,6 +20,8 @@ public:
 
     // While frozen nothing is told; freezes count.
     void freeze(bool on);
+    // Whether a listener is being told something at the moment.
+    bool isTelling() const { return m_telling > 0; }
 
     // Receives every connected signal, so no slot has to be written for any of them.
     int qt_metacall(QMetaObject::Call call, int id, void **arguments) override;
@@ -35,6 +37,7 @@ private:
     ConnectionPoint &m_point;
     std::vector<Event> m_events;
     int m_frozen = 0;
+    int m_telling = 0;
 };
 
 } // namespace KOVAVSFDataGridLib::ActiveX

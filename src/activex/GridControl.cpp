@@ -86,8 +86,12 @@ STDMETHODIMP_(ULONG) GridControl::Release()
     if (left == 0) {
         // Ending calls out to listeners and containers; they may take and give back references meanwhile.
         m_references = 1;
+        const bool isInEvent = m_connectionPoints.events().isTelling();
         m_inPlace.end();
         m_connectionPoints.end();
+        // A widget that is in the middle of a signal of its own cannot go yet.
+        if (isInEvent)
+            m_grid.release()->deleteLater();
         delete this;
     }
     return static_cast<ULONG>(left);

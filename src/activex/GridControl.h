@@ -51,7 +51,7 @@ private:
     ModuleUse m_use;
     LONG m_references = 1;
     IUnknown *const m_outer; // not counted: it owns this
-    const std::unique_ptr<KOVAVSFDataGrid> m_grid;
+    std::unique_ptr<KOVAVSFDataGrid> m_grid;
 
     GridDispatch m_dispatch;
     ConnectionPoints m_connectionPoints;

@@ -106,7 +106,8 @@ InPlace::InPlace(GridControl &control)
     : m_control(control),
       m_object(control, *this),
       m_activeObject(control, *this),
-      m_window(control.grid(), [this] { activateUi(); })
+      m_window(
+          control.grid(), [this] { activateUi(); }, [this](bool on) { dialogOpen(on); })
 {
 }
 
@@ -190,6 +191,12 @@ void InPlace::end()
     m_frame.Reset();
     m_document.Reset();
     m_site.Reset();
+}
+
+void InPlace::dialogOpen(bool on)
+{
+    if (m_frame)
+        m_frame->EnableModeless(!on);
 }
 
 HRESULT InPlace::translate(MSG &message)

@@ -70,6 +70,8 @@ public:
 
 private:
     HRESULT activateUi();
+    // The container's modeless windows must rest while a dialog of the control is open.
+    void dialogOpen(bool on);
 
     GridControl &m_control;
     InPlaceObject m_object;

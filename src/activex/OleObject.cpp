@@ -15,6 +15,8 @@ OleObject::OleObject(GridControl &control) : Part(control.identity()), m_control
 
 STDMETHODIMP OleObject::SetClientSite(IOleClientSite *site)
 {
+    if (site != m_site.Get())
+        m_control.inPlace().deactivate(); // its window belongs to the place that it leaves
     m_site = site;
     if (site)
         m_control.oleControl().readAmbients();

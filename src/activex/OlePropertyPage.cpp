@@ -53,7 +53,9 @@ ClassFactory::Create OlePropertyPage::creatorOf(REFCLSID id)
 }
 
 OlePropertyPage::OlePropertyPage(const QString &title, std::unique_ptr<KOVAVSFDataGridLib::PropertyPage> page)
-    : m_page(std::move(page)), m_window(*m_page, [] {})
+    : m_page(std::move(page)),
+      m_window(
+          *m_page, [] {}, [](bool) {})
 {
     m_page->setWindowTitle(title);
     m_page->resize(m_page->sizeHint());

@@ -1,5 +1,6 @@
 #include "activex/QtRuntime.h"
 
+#include "activex/ModuleUse.h"
 #include "control/platform/ModuleFolder.h"
 
 #include <QtCore/QFileInfo>
@@ -16,6 +17,15 @@ namespace KOVAVSFDataGridLib::ActiveX {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// COM frees a server when it leaves a thread, whatever the server says. Qt would be left with pointers to
+// types, resources and window procedures that are gone.
+void stayLoaded()
+{
+    HMODULE pinned = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
+                       reinterpret_cast<LPCWSTR>(moduleInstance), &pinned);
+}
 
 QByteArray hostProgram()
 {
@@ -41,6 +51,7 @@ void useChinese()
 
 HRESULT startQt()
 {
+    stayLoaded();
     if (!QCoreApplication::instance()) {
         // The platform plugin lies beside this file, wherever the host program is.
         QCoreApplication::addLibraryPath(moduleFolder());

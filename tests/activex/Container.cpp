@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <olectl.h>
 #include <stdexcept>
+#include <utility>
 
 using Microsoft::WRL::ComPtr;
 
@@ -154,14 +155,46 @@ void Container::doubleClick(int x, int y)
     run();
 }
 
-void Container::key(WORD virtualKey)
+void Container::press(WORD virtualKey, const std::vector<WORD> &modifiers)
 {
-    INPUT input[2]{};
-    input[0].type = input[1].type = INPUT_KEYBOARD;
-    input[0].ki.wVk = input[1].ki.wVk = virtualKey;
-    input[1].ki.dwFlags = KEYEVENTF_KEYUP;
-    SendInput(2, input, sizeof(INPUT));
+    std::vector<INPUT> input;
+    const auto add = [&input](WORD key, DWORD flags) {
+        INPUT one{};
+        one.type = INPUT_KEYBOARD;
+        one.ki.wVk = key;
+        one.ki.dwFlags = flags;
+        input.push_back(one);
+    };
+    for (const WORD modifier : modifiers)
+        add(modifier, 0);
+    add(virtualKey, 0);
+    add(virtualKey, KEYEVENTF_KEYUP);
+    for (const WORD modifier : modifiers)
+        add(modifier, KEYEVENTF_KEYUP);
+    SendInput(static_cast<UINT>(input.size()), input.data(), sizeof(INPUT));
+}
+
+void Container::key(WORD virtualKey, const std::vector<WORD> &modifiers)
+{
+    press(virtualKey, modifiers);
     run();
+}
+
+void Container::whenDialogIsOpen(std::function<void()> action)
+{
+    constexpr UINT longEnough = 1000; // milliseconds
+    static std::function<void()> pending;
+    pending = std::move(action);
+    SetTimer(nullptr, 0, longEnough, [](HWND, UINT, UINT_PTR timer, DWORD) {
+        KillTimer(nullptr, timer);
+        std::exchange(pending, nullptr)();
+    });
+}
+
+void Container::answerQurryFilter(long cancel, const wchar_t *condition)
+{
+    m_cancel = cancel;
+    m_condition = condition;
 }
 
 void Container::run(const std::function<bool()> &done, DWORD most)
@@ -283,6 +316,12 @@ STDMETHODIMP Container::SetActiveObject(IOleInPlaceActiveObject *active, LPCOLES
     return S_OK;
 }
 
+STDMETHODIMP Container::EnableModeless(BOOL enable)
+{
+    m_isModeless = enable != FALSE;
+    return S_OK;
+}
+
 STDMETHODIMP Container::GetExtendedControl(IDispatch **control)
 {
     *control = nullptr;
@@ -325,7 +364,12 @@ STDMETHODIMP Container::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS *parame
         }
     }
     m_events.push_back(event);
-    if (id == qurryFilter)
+    if (id == qurryFilter) {
+        if (!m_condition.empty())
+            Late::put(m_control, L"PassQurryFilter", m_condition.c_str());
         *parameters->rgvarg[1].plVal = m_cancel;
+    }
+    if (m_handler)
+        m_handler(id);
     return S_OK;
 }

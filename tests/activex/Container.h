@@ -45,22 +45,30 @@ public:
     bool release();
 
     void setUserMode(bool on);
-    // The value that a handler of QurryFilter writes to Cancel.
-    void answerQurryFilter(long cancel) { m_cancel = cancel; }
+    // What a handler of QurryFilter writes to Cancel, and its own condition, which it hands to the control.
+    void answerQurryFilter(long cancel, const wchar_t *condition);
+    // Called for every event, after it was noted.
+    void onEvent(std::function<void(DISPID)> handler) { m_handler = std::move(handler); }
 
     const std::vector<Event> &events() const { return m_events; }
     int countOf(DISPID id) const;
     void forget() { m_events.clear(); }
     const std::vector<DISPID> &changedProperties() const { return m_changed; }
     bool hasUi() const { return m_hasUi; }
+    bool isModeless() const { return m_isModeless; }
     ULONG references() const { return m_references; }
 
     // Input as the user gives it, at a point of the control's window.
     void click(int x, int y);
     void doubleClick(int x, int y);
-    void key(WORD virtualKey);
+    void key(WORD virtualKey, const std::vector<WORD> &modifiers = {});
+    // What the user does in the modal dialog that the next input opens. Called from that dialog's own loop,
+    // so it may give input but must not wait for it.
+    static void whenDialogIsOpen(std::function<void()> action);
+    static void press(WORD virtualKey, const std::vector<WORD> &modifiers = {});
     // Runs the message loop until it has been idle for a while, or until `done`.
     void run(const std::function<bool()> &done = {}, DWORD most = 5000);
+    // The container's window with whatever lies over it.
     bool saveScreen(const std::wstring &file) const;
 
     // IUnknown
@@ -98,7 +106,7 @@ public:
     STDMETHODIMP SetMenu(HMENU, HOLEMENU, HWND) override { return S_OK; }
     STDMETHODIMP RemoveMenus(HMENU) override { return S_OK; }
     STDMETHODIMP SetStatusText(LPCOLESTR) override { return S_OK; }
-    STDMETHODIMP EnableModeless(BOOL) override { return S_OK; }
+    STDMETHODIMP EnableModeless(BOOL enable) override;
     STDMETHODIMP TranslateAccelerator(LPMSG, WORD) override { return S_FALSE; }
     // IOleControlSite
     STDMETHODIMP OnControlInfoChanged() override { return S_OK; }
@@ -128,7 +136,10 @@ private:
     HWND m_window = nullptr;
     bool m_userMode;
     bool m_hasUi = false;
+    bool m_isModeless = true;
     long m_cancel = 1;
+    std::wstring m_condition;
+    std::function<void(DISPID)> m_handler;
     Late::Object m_control;
     Microsoft::WRL::ComPtr<IOleInPlaceActiveObject> m_active;
     Microsoft::WRL::ComPtr<IConnectionPoint> m_eventPoint;

@@ -35,9 +35,25 @@ void load(Container &container)
     container.run();
 }
 
-// A point in the first data row.
-constexpr int rowX = 120;
-int rowY(const Container &container);
+// Points of the control at 800 x 500 pixels, 96 dots to the inch.
+constexpr int rowX = 120; // in the first data row
+constexpr int rowY = 85;
+constexpr int headingY = 60;
+constexpr int toolbarY = 14;
+constexpr int singleRecordX = 100;
+constexpr int filterX = 160;
+constexpr int panelX = 400; // beside the grid
+constexpr int panelY = 490;
+
+// The numbers that the first event of this kind carried.
+std::vector<double> numbersOf(const Container &container, DISPID id)
+{
+    for (const Event &event : container.events()) {
+        if (event.id == id)
+            return event.numbers;
+    }
+    return {};
+}
 
 class MemoryBag final : public IPropertyBag
 {
@@ -95,7 +111,7 @@ TEST(ContainerTest, TellsTheEventsOfTheMouse)
     Container container(800, 500);
     load(container);
     container.forget();
-    container.click(rowX, rowY(container));
+    container.click(rowX, rowY);
     ASSERT_EQ(container.countOf(1), 1); // DataMouseDown
     ASSERT_EQ(container.countOf(2), 1); // DataMouseUp
     EXPECT_GE(container.countOf(3), 1); // DataMouseMove
@@ -111,7 +127,7 @@ TEST(ContainerTest, TellsTheEventsOfTheMouse)
     EXPECT_TRUE(container.hasUi());
 
     container.forget();
-    container.doubleClick(rowX, rowY(container));
+    container.doubleClick(rowX, rowY);
     EXPECT_EQ(container.countOf(7), 1);
     EXPECT_EQ(container.countOf(14) + container.countOf(15), 1);
 }
@@ -120,7 +136,7 @@ TEST(ContainerTest, HandsKeysToTheGrid)
 {
     Container container(800, 500);
     load(container);
-    container.click(rowX, rowY(container));
+    container.click(rowX, rowY);
     const long before = get(container.control(), L"GetGridRowL").number();
     container.forget();
     container.key(VK_DOWN);
@@ -129,19 +145,128 @@ TEST(ContainerTest, HandsKeysToTheGrid)
     EXPECT_EQ(get(container.control(), L"GetGridRowL").number(), before + 1);
 }
 
-TEST(ContainerTest, AHandlerChangesWhatTheFilterDoes)
+TEST(ContainerTest, TellsAClickOnAHeading)
 {
     Container container(800, 500);
     load(container);
     container.forget();
-    put(container.control(), L"PassQurryFilter", L"id > 1");
-    container.answerQurryFilter(0);
-    // The toolbar is at the top; its buttons are tried from the left until the filter's answers.
-    for (int x = 12; x < 400 && container.countOf(11) == 0; x += 12)
-        container.click(x, 14);
+    container.click(rowX, headingY);
+    ASSERT_EQ(container.countOf(5), 1);
+    EXPECT_GT(numbersOf(container, 5).at(0), 0);
+}
+
+TEST(ContainerTest, TellsWhenTheResultAndTheRecordChange)
+{
+    Container container(800, 500);
+    container.forget();
+    load(container);
+    EXPECT_GE(container.countOf(13), 1); // RecordsetChanged
+    container.click(rowX, rowY);
+    container.forget();
+    container.key(VK_DOWN);
+    ASSERT_EQ(container.countOf(12), 1); // RecordChanged
+    EXPECT_EQ(numbersOf(container, 12).at(1), 2);
+}
+
+TEST(ContainerTest, TellsAMouseButtonThatComesUpBesideTheGrid)
+{
+    Container container(800, 500);
+    load(container);
+    container.forget();
+    container.click(panelX, panelY);
+    ASSERT_EQ(container.countOf(9), 1);
+    EXPECT_EQ(numbersOf(container, 9).at(0), 1);
+    EXPECT_EQ(container.countOf(2), 0);
+}
+
+TEST(ContainerTest, AHandlerFiltersWithItsOwnCondition)
+{
+    Container container(800, 500);
+    load(container);
+    container.forget();
+    container.answerQurryFilter(0, L"id > 1");
+    container.click(filterX, toolbarY); // no dialog opens
     ASSERT_EQ(container.countOf(11), 1);
+    EXPECT_EQ(numbersOf(container, 11), std::vector<double>{1});
+    EXPECT_NE(container.events().front().text.find(L"people"), std::wstring::npos);
     EXPECT_EQ(get(get(container.control(), L"RecordSet").object(), L"RecordCount").number(), 2);
     picture(container, L"filtered");
+}
+
+TEST(ContainerTest, AHandlerCancelsTheFilter)
+{
+    Container container(800, 500);
+    load(container);
+    container.forget();
+    container.answerQurryFilter(0, L"");
+    container.click(filterX, toolbarY);
+    ASSERT_EQ(container.countOf(11), 1);
+    EXPECT_EQ(get(get(container.control(), L"RecordSet").object(), L"RecordCount").number(), 3);
+}
+
+TEST(ContainerTest, ADialogOfTheControlKeepsTheContainerFromTheUser)
+{
+    Container container(800, 500);
+    load(container);
+    container.click(rowX, rowY);
+    container.forget();
+    bool wasOpen = false;
+    Container::whenDialogIsOpen([&] {
+        wasOpen = true;
+        EXPECT_FALSE(IsWindowEnabled(container.window()));
+        EXPECT_FALSE(container.isModeless());
+        picture(container, L"dialog");
+        for (const WORD key : {VK_HOME, VK_SPACE, VK_RETURN}) // another choice, accepted
+            Container::press(key);
+    });
+    container.key('L', {VK_CONTROL});
+    container.run([&] { return wasOpen && IsWindowEnabled(container.window()); });
+    EXPECT_TRUE(wasOpen);
+    EXPECT_TRUE(IsWindowEnabled(container.window()));
+    EXPECT_TRUE(container.isModeless());
+    EXPECT_EQ(container.countOf(10), 1); // ShowFieldsChange
+    EXPECT_EQ(GetForegroundWindow(), container.window());
+    picture(container, L"fields chosen");
+}
+
+TEST(ContainerTest, ToolbarCommandsWorkInPlace)
+{
+    Container container(800, 500);
+    load(container);
+    container.click(singleRecordX, toolbarY);
+    picture(container, L"single record");
+    container.forget();
+    container.doubleClick(rowX, rowY); // now in the list of one record's fields
+    EXPECT_EQ(container.countOf(7), 1);
+    EXPECT_EQ(container.countOf(1), 0);
+}
+
+TEST(ContainerTest, AHandlerMayLetGoOfTheControl)
+{
+    Container container(800, 500);
+    load(container);
+    container.onEvent([&](DISPID id) {
+        if (id == 6)
+            container.release();
+    });
+    container.click(rowX, rowY);
+    EXPECT_FALSE(container.control());
+    EXPECT_EQ(container.references(), 1u);
+}
+
+TEST(ContainerTest, ShowsItsPropertyPagesOnRequest)
+{
+    Container container(800, 500);
+    put(container.control(), L"SQLShow", L"select id from people");
+    bool wasOpen = false;
+    Container::whenDialogIsOpen([&] {
+        wasOpen = true;
+        picture(container, L"property frame");
+        Container::press(VK_ESCAPE);
+    });
+    EXPECT_EQ(container.doVerb(OLEIVERB_PROPERTIES), S_OK);
+    EXPECT_TRUE(wasOpen);
+    EXPECT_EQ(get(container.control(), L"SQLShow").text(), L"select id from people");
 }
 
 TEST(ContainerTest, FrozenEventsAreNotTold)
@@ -150,10 +275,10 @@ TEST(ContainerTest, FrozenEventsAreNotTold)
     load(container);
     container.forget();
     container.as<IOleControl>()->FreezeEvents(TRUE);
-    container.click(rowX, rowY(container));
+    container.click(rowX, rowY);
     EXPECT_TRUE(container.events().empty());
     container.as<IOleControl>()->FreezeEvents(FALSE);
-    container.click(rowX, rowY(container));
+    container.click(rowX, rowY);
     EXPECT_FALSE(container.events().empty());
 }
 
@@ -277,7 +402,7 @@ TEST(ContainerTest, LeavesNothingBehind)
 {
     Container container(400, 300);
     load(container);
-    container.click(rowX, rowY(container));
+    container.click(rowX, rowY);
     EXPECT_TRUE(container.release());
     // What is left is the container's own reference to itself.
     EXPECT_EQ(container.references(), 1u);
@@ -292,14 +417,6 @@ TEST(ContainerTest, TwoControlsLiveBesideEachOther)
     EXPECT_EQ(get(first.control(), L"STR_SQLTEMP").text(), L"one");
     EXPECT_TRUE(second.release());
     EXPECT_EQ(get(first.control(), L"STR_SQLTEMP").text(), L"one");
-}
-
-int rowY(const Container &container)
-{
-    // Below toolbar and headings; the same for every container of these tests.
-    RECT inside{};
-    GetClientRect(container.controlWindow(), &inside);
-    return 85;
 }
 
 } // namespace
