@@ -78,10 +78,11 @@ STDMETHODIMP ObjectDispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPAR
 {
     if (!parameters)
         return E_POINTER;
-    if (!m_object)
+    QObject *const object = m_object;
+    if (!object)
         return objectGone(exception);
-    const Member *member = MemberTable::of(*m_object->metaObject()).member(id);
-    return member ? metaCall(*m_object, *member, flags, *parameters, result, exception, badArgument)
+    const Member *member = MemberTable::of(*object->metaObject()).member(id);
+    return member ? metaCall(*object, *member, flags, *parameters, result, exception, badArgument)
                   : DISP_E_MEMBERNOTFOUND;
 }
 

@@ -216,7 +216,7 @@ TEST(ContainerTest, ADialogOfTheControlKeepsTheContainerFromTheUser)
         EXPECT_FALSE(IsWindowEnabled(container.window()));
         EXPECT_FALSE(container.isModeless());
         picture(container, L"dialog");
-        for (const WORD key : {VK_HOME, VK_SPACE, VK_RETURN}) // another choice, accepted
+        for (const WORD key : std::array<WORD, 3>{VK_HOME, VK_SPACE, VK_RETURN}) // another choice, accepted
             Container::press(key);
     });
     container.key('L', {VK_CONTROL});
@@ -226,7 +226,7 @@ TEST(ContainerTest, ADialogOfTheControlKeepsTheContainerFromTheUser)
     EXPECT_TRUE(container.isModeless());
     EXPECT_EQ(container.countOf(10), 1); // ShowFieldsChange
     EXPECT_EQ(GetForegroundWindow(), container.window());
-    picture(container, L"fields chosen");
+    picture(container, L"fields-chosen");
 }
 
 TEST(ContainerTest, ToolbarCommandsWorkInPlace)
@@ -234,7 +234,7 @@ TEST(ContainerTest, ToolbarCommandsWorkInPlace)
     Container container(800, 500);
     load(container);
     container.click(singleRecordX, toolbarY);
-    picture(container, L"single record");
+    picture(container, L"single-record");
     container.forget();
     container.doubleClick(rowX, rowY); // now in the list of one record's fields
     EXPECT_EQ(container.countOf(7), 1);
@@ -261,7 +261,7 @@ TEST(ContainerTest, ShowsItsPropertyPagesOnRequest)
     bool wasOpen = false;
     Container::whenDialogIsOpen([&] {
         wasOpen = true;
-        picture(container, L"property frame");
+        picture(container, L"property-frame");
         Container::press(VK_ESCAPE);
     });
     EXPECT_EQ(container.doVerb(OLEIVERB_PROPERTIES), S_OK);
