@@ -37,13 +37,13 @@ void load(Container &container)
 
 // Points of the control at 800 x 500 pixels, 96 dots to the inch.
 constexpr int rowX = 120; // in the first data row
-constexpr int rowY = 85;
-constexpr int headingY = 60;
-constexpr int toolbarY = 14;
-constexpr int singleRecordX = 100;
-constexpr int filterX = 160;
-constexpr int panelX = 400; // beside the grid
-constexpr int panelY = 490;
+constexpr int rowY = 63;
+constexpr int headingY = 39;
+constexpr int toolbarY = 13;
+constexpr int singleRecordX = 88;
+constexpr int filterX = 117;
+constexpr int panelX = 57; // beside the grid
+constexpr int panelY = 485;
 
 // The numbers that the first event of this kind carried.
 std::vector<double> numbersOf(const Container &container, DISPID id)
@@ -262,7 +262,9 @@ TEST(ContainerTest, ShowsItsPropertyPagesOnRequest)
     Container::whenDialogIsOpen([&] {
         wasOpen = true;
         picture(container, L"property-frame");
-        Container::press(VK_ESCAPE);
+        const HWND frame = FindWindowW(L"#32770", nullptr); // the system's class of dialogs
+        EXPECT_TRUE(frame);
+        PostMessageW(frame, WM_COMMAND, IDCANCEL, 0);
     });
     EXPECT_EQ(container.doVerb(OLEIVERB_PROPERTIES), S_OK);
     EXPECT_TRUE(wasOpen);
