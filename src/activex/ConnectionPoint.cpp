@@ -66,13 +66,15 @@ STDMETHODIMP ConnectionPoint::Advise(IUnknown *sink, DWORD *cookie)
     if (!sink || !cookie)
         return E_POINTER;
     *cookie = 0;
-    void *listener = nullptr;
+    ComPtr<IUnknown> listener;
+    const auto ask = [&](REFIID iid) {
+        return SUCCEEDED(sink->QueryInterface(iid, reinterpret_cast<void **>(listener.GetAddressOf())));
+    };
     // A listener to events may know them under IDispatch only.
-    if (FAILED(sink->QueryInterface(m_outgoing, &listener)) &&
-        (m_outgoing == IID_IPropertyNotifySink || FAILED(sink->QueryInterface(IID_IDispatch, &listener))))
+    if (!ask(m_outgoing) && (m_outgoing == IID_IPropertyNotifySink || !ask(IID_IDispatch)))
         return CONNECT_E_CANNOTCONNECT;
     *cookie = ++m_lastCookie;
-    m_sinks[*cookie].Attach(static_cast<IUnknown *>(listener));
+    m_sinks[*cookie] = listener; // ComPtr::Attach counts once too often in mingw-w64
     return S_OK;
 }
 

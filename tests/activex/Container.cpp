@@ -201,12 +201,13 @@ void Container::run(const std::function<bool()> &done, DWORD most)
 {
     constexpr DWORD idle = 120; // milliseconds without a message
     const DWORD start = GetTickCount();
-    while (GetTickCount() - start < most && !(done && done())) {
+    const auto isInTime = [&] { return GetTickCount() - start < most; };
+    while (isInTime() && !(done && done())) {
         const DWORD woken = MsgWaitForMultipleObjects(0, nullptr, FALSE, idle, QS_ALLINPUT);
         if (woken == WAIT_TIMEOUT && !done)
             return;
         MSG message{};
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        while (isInTime() && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
             const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
             if (isKey && m_active && m_active->TranslateAccelerator(&message) == S_OK)
                 continue;
