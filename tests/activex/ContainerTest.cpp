@@ -305,7 +305,7 @@ TEST(ContainerTest, KeepsOnlyTheBackgroundColourInAPropertyBag)
     MemoryBag bag;
     {
         Container container(400, 300);
-        put(container.control(), L"SQLShow", L"select 1");
+        put(container.control(), L"SQLShow", L"select id from people");
         put(container.control(), L"BackColor", 0x00336699);
         EXPECT_EQ(container.as<IPersistStreamInit>()->IsDirty(), S_OK);
         ASSERT_EQ(container.as<IPersistPropertyBag>()->Save(&bag, TRUE, TRUE), S_OK);
