@@ -14,6 +14,8 @@ EmbeddedWindow::EmbeddedWindow(QWidget &widget, std::function<void()> entered,
     : m_widget(widget), m_entered(std::move(entered)), m_blocked(std::move(blocked))
 {
     m_widget.setWindowFlags(Qt::FramelessWindowHint);
+    // The container decides on the size; what insists on more is cut off at the edge.
+    m_widget.setMinimumSize(1, 1);
 }
 
 EmbeddedWindow::~EmbeddedWindow()
