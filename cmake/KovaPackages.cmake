@@ -34,6 +34,7 @@ configure_file(${CMAKE_CURRENT_LIST_DIR}/packages/shlibs.in ${control_dir}/shlib
 configure_file(${CMAKE_CURRENT_LIST_DIR}/packages/triggers ${control_dir}/triggers COPYONLY)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${control_dir}/shlibs ${control_dir}/triggers)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "fonts-noto-cjk, qt6-translations-l10n")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "odbc-mariadb, odbc-postgresql")
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "${what_it_is}
 .
 This package holds the shared library, and kovagrid, a program to look at

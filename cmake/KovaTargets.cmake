@@ -57,12 +57,13 @@ function(kova_program name)
   endif()
 endfunction()
 
-# kova_test(<name> SOURCES <files> ROOMS <rooms> LINKS <libraries>)
+# kova_test(<name> SOURCES <files> ROOMS <rooms> LINKS <libraries> [RUN_BY <command>])
 #
 # One test program, one ctest entry, one process. ROOMS are compiled in directly, so that a room's
-# inner classes can be tested although the library hides them; tests of the control link the library.
+# inner classes can be tested although the library hides them; tests of the control link the library. RUN_BY
+# is put before the program, to start what it needs.
 function(kova_test name)
-  cmake_parse_arguments(TEST "" "TIMEOUT" "SOURCES;ROOMS;LINKS;PCH;LABELS" ${ARGN})
+  cmake_parse_arguments(TEST "" "TIMEOUT" "SOURCES;ROOMS;LINKS;PCH;LABELS;RUN_BY" ${ARGN})
   set(rooms "")
   foreach(room IN LISTS TEST_ROOMS)
     list(APPEND rooms kova_${room})
@@ -71,7 +72,7 @@ function(kova_test name)
   if(NOT TEST_TIMEOUT)
     set(TEST_TIMEOUT 300)
   endif()
-  add_test(NAME ${name} COMMAND ${name})
+  add_test(NAME ${name} COMMAND ${TEST_RUN_BY} $<TARGET_FILE:${name}>)
   set_tests_properties(${name} PROPERTIES TIMEOUT ${TEST_TIMEOUT} LABELS "${TEST_LABELS}"
     ENVIRONMENT "LC_ALL=C.UTF-8"
     SKIP_REGULAR_EXPRESSION "ALL TESTS SKIPPED")

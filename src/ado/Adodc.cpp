@@ -3,6 +3,8 @@
 #include "ado/Recordset.h"
 #include "ado/automation/RecordsetObject.h"
 
+#include <QtCore/QPointer>
+
 namespace ADODB {
 
 Adodc::Adodc(QObject *parent) : QObject(parent) {}
@@ -19,14 +21,19 @@ void Adodc::PutRecordset(std::shared_ptr<ADODB::Recordset> recordset)
         return;
     if (m_recordset)
         m_recordset->RemoveObserver(this);
-    m_recordset = std::move(recordset);
+    m_recordset = recordset;
     if (m_recordset)
         m_recordset->AddObserver(this);
+    // Whoever is told may put another one, close this one or delete the data control.
+    const QPointer<Adodc> alive(this);
+    const auto isStillOpen = [&] {
+        return alive && m_recordset && m_recordset == recordset && recordset->State() == adStateOpen;
+    };
     Q_EMIT RecordsetReplaced();
-    if (m_recordset && m_recordset->State() == adStateOpen) {
+    if (isStillOpen())
         Q_EMIT RecordsetChangeComplete(adRsnRequery);
+    if (isStillOpen())
         Q_EMIT MoveComplete(adRsnMove);
-    }
 }
 
 QObject *Adodc::recordsetObject() const

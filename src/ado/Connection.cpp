@@ -48,7 +48,7 @@ void Connection::Open(const QString &connectionString, const QString &user, cons
     ADODB::ConnectionString parsed(text);
     replaceKeyword(parsed, u"User ID"_s, u"UID"_s, user);
     replaceKeyword(parsed, u"Password"_s, u"PWD"_s, password);
-    m_session = openSession(parsed);
+    m_session = openSession(m_middleTier.rewritten(parsed));
     m_text = text;
 }
 
@@ -61,6 +61,11 @@ void Connection::Close()
 ObjectStateEnum Connection::State() const
 {
     return m_session && m_session->isOpen() ? adStateOpen : adStateClosed;
+}
+
+QString Connection::EngineName() const
+{
+    return session()->engineName();
 }
 
 std::vector<FieldInfo> Connection::Describe(const QString &sql) const

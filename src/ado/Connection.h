@@ -2,6 +2,7 @@
 
 #include "KovaExport.h"
 #include "ado/FieldInfo.h"
+#include "ado/MiddleTier.h"
 
 #include <memory>
 #include <vector>
@@ -28,6 +29,9 @@ public:
     QString ConnectionString() const;
     void PutConnectionString(const QString &text);
 
+    // Opens through a middle tier from now on; the property keeps the database's own text.
+    void PutMiddleTier(const MiddleTier &tier) { m_middleTier = tier; }
+
     // Opens the database; an argument that is not empty replaces the property or the keyword of that name.
     // `options` is ConnectOptionEnum; opening is always synchronous. Never creates a file. Throws 3705 when
     // already open, 3706 for an unknown provider, 3002 for a missing or unusable file, 3730 for a locked one.
@@ -38,6 +42,10 @@ public:
     // Whether it is open. Closed also once a server is found to have gone away; it can be opened again then.
     ObjectStateEnum State() const;
 
+    // The name of the engine, as its driver gives it ("SQLite", "PostgreSQL"); empty when that gives none.
+    // Throws 3704 when closed.
+    QString EngineName() const;
+
     // The columns of a statement, found by preparing it; no row is fetched. Throws 3704 when closed, else as
     // Recordset::Open does. A column without a declared type is described as adVarWChar.
     std::vector<FieldInfo> Describe(const QString &sql) const;
@@ -47,6 +55,7 @@ public:
 
 private:
     QString m_text;
+    MiddleTier m_middleTier;
     std::shared_ptr<Session> m_session;
 };
 

@@ -1,6 +1,7 @@
 #include "ado/ConnectionFactory.h"
 
 #include "ado/Connection.h"
+#include "ado/MiddleTier.h"
 #include "ado/Recordset.h"
 
 namespace ADODB {
@@ -12,11 +13,20 @@ class PlainFactory : public ConnectionFactory
 public:
     void SetThreeTier(bool on) override { m_threeTier = on; }
     bool ThreeTier() const override { return m_threeTier; }
-    std::shared_ptr<Connection> newConnection(qint32) override { return std::make_shared<Connection>(); }
+    void SetMiddleTier(const MiddleTier &tier) override { m_middleTier = tier; }
+    std::shared_ptr<Connection> newConnection(qint32 dbType) override
+    {
+        constexpr qint32 access = 1; // files, which no tier stands in front of
+        auto connection = std::make_shared<Connection>();
+        if (m_threeTier && dbType != access)
+            connection->PutMiddleTier(m_middleTier);
+        return connection;
+    }
     std::shared_ptr<Recordset> newRecordset(qint32) override { return std::make_shared<Recordset>(); }
 
 private:
     bool m_threeTier = false;
+    MiddleTier m_middleTier;
 };
 
 std::unique_ptr<ConnectionFactory> &theFactory()
@@ -28,6 +38,8 @@ std::unique_ptr<ConnectionFactory> &theFactory()
 } // namespace
 
 ConnectionFactory::~ConnectionFactory() = default;
+
+void ConnectionFactory::SetMiddleTier(const MiddleTier &) {}
 
 ConnectionFactory &ConnectionFactory::instance()
 {

@@ -2,13 +2,14 @@
 
 #include "KovaExport.h"
 
-#include <QtCore/qglobal.h>
+#include <QtCore/QString>
 
 #include <memory>
 
 namespace ADODB {
 
 class Connection;
+struct MiddleTier;
 class Recordset;
 
 // Hands out the connections and recordsets of a process. A host that reaches its databases another way
@@ -21,6 +22,9 @@ public:
     // Whether connections go to a middle tier rather than to the database itself.
     virtual void SetThreeTier(bool on) = 0;
     virtual bool ThreeTier() const = 0;
+    // The middle tier that the configuration names, if it does; only counts while the switch is on. The plain
+    // factory hands out connections that lead through it, except for Access. By default nothing is done.
+    virtual void SetMiddleTier(const MiddleTier &tier);
     // New, closed objects for a database type (1 Access, 2 Oracle, 3 SQL Server). Never null.
     virtual std::shared_ptr<Connection> newConnection(qint32 dbType) = 0;
     virtual std::shared_ptr<Recordset> newRecordset(qint32 dbType) = 0;

@@ -10,8 +10,8 @@ namespace ADODB {
 class Connection;
 class RecordsetObserver;
 
-// The result of one statement, read whole into memory when it is opened (a client-side cursor), with a
-// current record. Hold it by std::shared_ptr. Use it from one thread at a time.
+// The result of one statement, read whole when it is opened (a client-side cursor), with a current record.
+// Hold it by std::shared_ptr. Use it from one thread at a time.
 //
 // Records are counted from 1, in the live sequence: a deleted record is not counted, a new one is the last.
 // Members throw Error; 3704 when they need an open recordset and it is closed.
@@ -40,6 +40,11 @@ public:
     // ends Open with dbErrCancelled and the recordset stays closed. It must not touch this recordset and must
     // not throw.
     void SetProgress(std::function<bool(qint64 rowsRead)> progress);
+
+    // How many bytes of records, packed, an open recordset keeps in memory: 512 MiB unless set, 0 or more.
+    // What is more stands in temporary files of the system, unlinked where it can be, until the recordset is
+    // closed; Open throws dbErrFailed when they can't be written. Throws 3705 while open.
+    void PutMemoryLimit(qint64 bytes);
 
     // Runs `source`, which must be one statement that returns rows and changes nothing; anything else is
     // refused before it runs. adCmdTable and adCmdTableDirect take a table's name instead. On success the

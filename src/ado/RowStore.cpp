@@ -7,6 +7,7 @@ namespace ADODB {
 namespace {
 
 constexpr qsizetype blockSize = qsizetype{4} << 20;
+constexpr qsizetype startSize = sizeof(quint32);
 
 template<typename T>
 T numberAt(const char *at)
@@ -18,7 +19,13 @@ T numberAt(const char *at)
 
 } // namespace
 
-RowStore::RowStore(int columns) : m_columns(columns) {}
+RowStore::RowStore(int columns, qint64 memoryLimit) : m_columns(columns), m_memoryLimit(memoryLimit) {}
+
+const char *RowStore::Block::start(qint64 storedRow) const
+{
+    const char *const slot = bytes + size - (storedRow - firstRow + 1) * startSize;
+    return bytes + numberAt<quint32>(slot);
+}
 
 void RowStore::add(const RawValue &value)
 {
@@ -38,40 +45,56 @@ void RowStore::add(const RawValue &value)
 
 void RowStore::endRow()
 {
-    // A row without any column still takes a block to have a start in.
-    if (m_blocks.empty())
-        newBlock(1);
-    m_blocks.back().starts.push_back(static_cast<quint32>(m_rowStart - m_blockStart));
+    // A row without any column still takes room for its start.
+    if (m_blocks.empty() || m_end < m_write)
+        newBlock(0);
+    const auto start = static_cast<quint32>(m_rowStart - m_blockStart);
+    std::memcpy(m_end, &start, sizeof start);
     m_rowStart = m_write;
     ++m_stored;
     // Behind a row that outgrew the usual block nothing more is put, so that starts always fit 32 bits.
-    if (m_end - m_blockStart > blockSize)
-        m_end = m_write;
+    m_end = m_blocks.back().size > blockSize ? m_write : m_end - startSize;
 }
 
 // The row that is being written moves along, so a row never spans two blocks.
 void RowStore::newBlock(qsizetype room)
 {
     const qsizetype begun = m_write - m_rowStart;
-    const qsizetype size = std::max(blockSize, begun + std::max(begun, room));
     Block block;
-    block.bytes = std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(size));
+    block.size = std::max(blockSize, begun + std::max(begun, room) + startSize);
+    block.memory = std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(block.size));
+    block.bytes = block.memory.get();
     block.firstRow = m_stored;
-    char *const start = block.bytes.get();
+    char *const start = block.memory.get();
     if (begun > 0)
         std::memcpy(start, m_rowStart, static_cast<std::size_t>(begun));
-    m_closedBytes += m_rowStart - m_blockStart;
-    if (!m_blocks.empty() && m_blocks.back().starts.empty()) {
-        m_blocks.back() = std::move(block); // it held nothing but this row's beginning
-    } else {
-        if (!m_blocks.empty())
-            m_blocks.back().starts.shrink_to_fit();
-        m_blocks.push_back(std::move(block));
+    if (!m_blocks.empty() && m_blocks.back().firstRow == m_stored) {
+        m_blocks.pop_back(); // it held nothing but this row's beginning
+    } else if (!m_blocks.empty()) {
+        keepOrSpill(m_blocks.back());
+        m_closedBytes += m_rowStart - m_blockStart;
     }
+    m_end = start + block.size - startSize;
+    m_blocks.push_back(std::move(block));
     m_blockStart = start;
     m_rowStart = start;
     m_write = start + begun;
-    m_end = start + size;
+}
+
+void RowStore::keepOrSpill(Block &block)
+{
+    if (m_memoryBytes + block.size <= m_memoryLimit) {
+        m_memoryBytes += block.size;
+        return;
+    }
+    if (!m_spill)
+        m_spill = std::make_unique<SpillFile>();
+    // What memory happened to hold in the gap is nobody's business on a disk.
+    char *const starts = block.memory.get() + block.size - (m_stored - block.firstRow) * startSize;
+    std::fill(m_rowStart, starts, '\0');
+    block.bytes = m_spill->append({block.bytes, block.size});
+    block.memory.reset();
+    m_spilledBytes += block.size;
 }
 
 const char *RowStore::nextCell(const char *cell)
@@ -189,8 +212,7 @@ const char *RowStore::rowStart(qint64 row) const
     const auto next =
         std::upper_bound(m_blocks.begin(), m_blocks.end(), stored,
                          [](qint64 wanted, const Block &block) { return wanted < block.firstRow; });
-    const Block &block = *std::prev(next);
-    return block.bytes.get() + block.starts[static_cast<std::size_t>(stored - block.firstRow)];
+    return std::prev(next)->start(stored);
 }
 
 } // namespace ADODB

@@ -43,6 +43,7 @@ void Snapshot::replace(qint64 record, const RowStore &stored)
 
 void Snapshot::append(const RowStore &stored)
 {
+    m_rows.dropBegunRow(); // what is left of one that the disk had no room for
     for (const RawValue &cell : stored.row(0))
         m_rows.add(cell);
     m_rows.endRow();

@@ -55,6 +55,7 @@ KOVA_TEXT(notAQuery, "只能打开返回记录的查询语句；该语句会修�
 KOVA_TEXT(parameterInStatement, "SQL 语句含有没有值的参数“%1”。")
 KOVA_TEXT(cancelled, "操作已取消。")
 KOVA_TEXT(outOfMemory, "内存不足，无法读取全部记录。")
+KOVA_TEXT(spillFailed, "记录太多，内存放不下，又无法写入临时文件夹：%1（%2）")
 
 // What a database answered
 KOVA_TEXT(statementFailed, "SQL 语句有误：%1")

@@ -7,6 +7,8 @@
 #include <QtCore/QSettings>
 #include <QtCore/QTextStream>
 
+#include <optional>
+
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
@@ -15,6 +17,7 @@ namespace {
 
 const QString Application = u"KOVAVSFDataGrid"_s;
 const QString SelectWholeRowsKey = u"Settings/ResChkSelAllRow"_s;
+const QString ThreeTierSection = u"Use3Tier"_s;
 const QString MissingEntry = u"Return Err"_s;
 constexpr qsizetype LongestValue = 254; // characters
 
@@ -30,16 +33,14 @@ QString withoutQuotes(const QString &value)
     return isQuoted ? value.mid(1, value.size() - 2) : value;
 }
 
-} // namespace
-
 // Read line by line, because an INI file of this kind knows no escapes: a backslash in it is a backslash. As
 // everywhere with such files the first entry of a name counts, ";" begins a comment only at a line's begin
 // and quotes around a value aren't part of it.
-QString ReadProfileValue(const QString &section, const QString &key, const QString &filePath)
+std::optional<QString> readEntry(const QString &section, const QString &key, const QString &filePath)
 {
     QFile file(filePath);
     if (!file.open(QIODevice::ReadOnly))
-        return MissingEntry;
+        return {};
     QTextStream lines(&file); // in UTF-8, or as its byte order mark says
     bool isInSection = false;
     QString line;
@@ -51,15 +52,36 @@ QString ReadProfileValue(const QString &section, const QString &key, const QStri
         }
         const qsizetype equals = line.indexOf(u'=');
         if (isInSection && equals > 0 && isSameName(QStringView(line).first(equals), key))
-            return withoutQuotes(line.mid(equals + 1).trimmed()).left(LongestValue).trimmed();
+            return withoutQuotes(line.mid(equals + 1).trimmed());
     }
-    return MissingEntry;
+    return {};
+}
+
+QString threeTierFile()
+{
+    return QDir(moduleFolder()).filePath(u"MERIXUSER3TIER.cfg"_s);
+}
+
+} // namespace
+
+QString ReadProfileValue(const QString &section, const QString &key, const QString &filePath)
+{
+    const std::optional<QString> value = readEntry(section, key, filePath);
+    return value ? value->left(LongestValue).trimmed() : MissingEntry;
 }
 
 qint32 Read3TierSwitch()
 {
-    const QString file = QDir(moduleFolder()).filePath(u"MERIXUSER3TIER.cfg"_s);
-    return ReadProfileValue(u"Use3Tier"_s, u"MERIX"_s, file).toUpper() == u"YES" ? 1 : 0;
+    return ReadProfileValue(ThreeTierSection, u"MERIX"_s, threeTierFile()).toUpper() == u"YES" ? 1 : 0;
+}
+
+// Whole, because a connection string cut off leads elsewhere.
+ADODB::MiddleTier readMiddleTier()
+{
+    const auto entry = [](const QString &key) {
+        return readEntry(ThreeTierSection, key, threeTierFile()).value_or(QString()).trimmed();
+    };
+    return {entry(u"Server"_s), entry(u"Port"_s), entry(u"Connection"_s)};
 }
 
 bool readSelectWholeRows()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ado/MiddleTier.h"
+
 #include <QtCore/QString>
 
 // What the control reads and keeps outside its host: an INI file beside the library, and one setting of
@@ -12,6 +14,10 @@ QString ReadProfileValue(const QString &section, const QString &key, const QStri
 
 // 1 when the file MERIXUSER3TIER.cfg beside the library switches the middle tier on, else 0.
 qint32 Read3TierSwitch();
+
+// The middle tier that the switch's section names: `Server` and `Port`, or a whole `Connection` string. What
+// isn't there is empty.
+ADODB::MiddleTier readMiddleTier();
 
 // Whether a click selects the whole row, as the user last left it; on at first.
 bool readSelectWholeRows();

@@ -16,7 +16,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
-#include <QtCore/QScopedValueRollback>
+#include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QCheckBox>
@@ -62,8 +62,8 @@ GridEvents::GridEvents(KOVAVSFDataGrid &control, const GridParts &parts, const R
     }
     grid.installEventFilter(this);
     parts.picMainBack->installEventFilter(this);
-    connect(grid.horizontalHeader(), &QHeaderView::sectionClicked, this,
-            [this](int section) { Q_EMIT m_control.HeadClick(static_cast<qint16>(section + 1)); });
+    connect(&grid, &FlexGrid::HeadingClicked, this,
+            [this](int col) { Q_EMIT m_control.HeadClick(static_cast<qint16>(col)); });
     connect(&grid, &FlexGrid::CurrentRowChanged, this, &GridEvents::followGridRow);
 }
 
@@ -84,6 +84,8 @@ bool GridEvents::eventFilter(QObject *watched, QEvent *event)
     // The host is told before the grid itself acts. A disabled grid has nothing to tell.
     if (!m_parts.vsfgDataGrid->isEnabled() && watched != m_parts.picMainBack)
         return QObject::eventFilter(watched, event);
+    const QPointer<KOVAVSFDataGrid> alive(&m_control);
+    bool isTaken = false;
     if (isGridSurface(watched)) {
         auto &source = *static_cast<QWidget *>(watched);
         switch (event->type()) {
@@ -103,11 +105,11 @@ bool GridEvents::eventFilter(QObject *watched, QEvent *event)
             break;
         }
     } else if (watched == m_parts.vsfgDataGrid && event->type() == QEvent::KeyPress) {
-        return keyPressed(*static_cast<QKeyEvent *>(event));
+        isTaken = keyPressed(*static_cast<QKeyEvent *>(event));
     } else if (watched == m_parts.picMainBack && event->type() == QEvent::MouseButtonRelease) {
         panelReleased(*static_cast<QMouseEvent *>(event));
     }
-    return QObject::eventFilter(watched, event);
+    return isTaken || !alive; // an event for a widget that is no more goes nowhere
 }
 
 void GridEvents::mousePressed(QWidget &source, QMouseEvent &event)
@@ -125,15 +127,17 @@ void GridEvents::mouseMoved(QWidget &source, QMouseEvent &event)
 
 void GridEvents::mouseReleased(QWidget &source, QMouseEvent &event)
 {
+    const QPointer<KOVAVSFDataGrid> alive(&m_control);
     const Place place = placeOf(source, event);
     MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
     if (isData(place))
         followGridRow();
-    if (event.button() == Qt::LeftButton && std::exchange(m_isPressed, false))
+    if (alive && event.button() == Qt::LeftButton && std::exchange(m_isPressed, false))
         clicked(place);
-    if (event.button() == Qt::RightButton && isData(place))
+    if (alive && event.button() == Qt::RightButton && isData(place))
         askForMenu(event.globalPosition().toPoint());
-    Q_EMIT m_control.DataMouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
+    if (alive)
+        Q_EMIT m_control.DataMouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
 }
 
 GridEvents::Place GridEvents::placeOf(const QWidget &source, const QMouseEvent &event) const
@@ -159,9 +163,8 @@ void GridEvents::clicked(Place place)
 void GridEvents::followGridRow()
 {
     VSFlexGrid &grid = *m_parts.vsfgDataGrid;
-    if (m_isFollowing || grid.Row() == 0 || !m_result.isOpen())
+    if (grid.Row() == 0 || !m_result.isOpen())
         return;
-    const QScopedValueRollback<bool> following(m_isFollowing, true);
     ADODB::Recordset &recordset = *m_result.recordset();
     const qint64 record = m_pages.recordOfRow(grid.Row());
     try {
@@ -199,9 +202,13 @@ void GridEvents::doubleClicked(QWidget &source, QMouseEvent &event)
     if (event.button() != Qt::LeftButton)
         return;
     m_isPressed = false;
+    const QPointer<KOVAVSFDataGrid> alive(&m_control);
     const Place place = placeOf(source, event);
     makeCurrent(place, event.position().toPoint());
-    Q_EMIT m_control.DataDblClick();
+    if (alive)
+        Q_EMIT m_control.DataDblClick();
+    if (!alive)
+        return;
     const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
     if (!isData(place) || grid.Row() == 0)
         return;
@@ -219,9 +226,9 @@ void GridEvents::makeCurrent(Place place, const QPoint &position)
 {
     VSFlexGrid &grid = *m_parts.vsfgDataGrid;
     if (place == Place::Cell && grid.indexAt(position) != grid.currentIndex())
-        grid.setCurrentIndex(grid.indexAt(position));
+        grid.tellAfter([&] { grid.setCurrentIndex(grid.indexAt(position)); });
     else if (place == Place::RowNumber && grid.rowAt(position.y()) != grid.currentIndex().row())
-        grid.selectRow(grid.rowAt(position.y()));
+        grid.tellAfter([&] { grid.selectRow(grid.rowAt(position.y())); });
 }
 
 bool GridEvents::keyPressed(QKeyEvent &event)
@@ -229,15 +236,17 @@ bool GridEvents::keyPressed(QKeyEvent &event)
     const qint16 code = virtualKey(event);
     if (code == 0)
         return false;
+    const QPointer<KOVAVSFDataGrid> alive(&m_control);
     qint16 keyCode = code;
     qint16 shift = shiftState(event.modifiers());
     Q_EMIT m_control.DataKeyDown(keyCode, shift);
-    if (keyCode == 0)
+    if (!alive || keyCode == 0)
         return true; // set by a handler that wants the grid to ignore the key
     if (!isMenuKey(event) || m_parts.vsfgDataGrid->Row() == 0)
         return false;
     followGridRow();
-    askForMenu(menuPlace(*m_parts.vsfgDataGrid));
+    if (alive)
+        askForMenu(menuPlace(*m_parts.vsfgDataGrid));
     return true;
 }
 

@@ -14,6 +14,8 @@ class ResultSet;
 
 // Turns what the user does on the grid with mouse and keys into the control's events, moves the recordset
 // along with the grid's current row, and leaves a clicked record's picture in a file for the host.
+//
+// A host may delete the control in any handler; what raises an event looks whether it is still there.
 class GridEvents : public QObject
 {
     Q_OBJECT
@@ -60,7 +62,6 @@ private:
     const GridParts &m_parts;
     const ResultSet &m_result;
     const PageView &m_pages;
-    bool m_isFollowing = false;
     bool m_isPressed = false; // the left button, and no double-click has come of it
 };
 

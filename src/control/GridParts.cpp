@@ -93,8 +93,8 @@ int GridParts::gap() const
     return Twips::toPixels(FootGap, *picMainBack);
 }
 
-// The page box, its button, the label and the statement from the left, the check box at the right edge; when
-// it gets narrow, first the statement gives way and then the label.
+// The page box, its button, the label and the statement from the left, the check box at the right edge. When
+// it gets narrow, the statement gives way, then the label, then box and button, and the check box last.
 void GridParts::layOutFoot() const
 {
     const QRect strip = foot();
@@ -107,9 +107,13 @@ void GridParts::layOutFoot() const
         part->setGeometry(x, top + gap / 2, partWidth, partHeight);
         x += partWidth + gap;
     };
-    const int checkWidth = std::min(CheckSelAllRow->sizeHint().width(), width - 2 * gap);
-    place(txtPage, txtPage->fontMetrics().horizontalAdvance(u'0') * 8);
-    place(cmdPgae, cmdPgae->sizeHint().width());
+    const int digit = txtPage->fontMetrics().horizontalAdvance(u'0');
+    const int caption = cmdPgae->fontMetrics().horizontalAdvance(cmdPgae->text());
+    const bool isNarrow =
+        8 * digit + cmdPgae->sizeHint().width() + CheckSelAllRow->sizeHint().width() + 4 * gap > width;
+    place(txtPage, (isNarrow ? 4 : 8) * digit);
+    place(cmdPgae, isNarrow ? caption + 2 * gap : cmdPgae->sizeHint().width());
+    const int checkWidth = std::min(CheckSelAllRow->sizeHint().width(), width - gap - x);
     const int room = std::max(0, width - checkWidth - 2 * gap - x);
     const int labelWidth = std::min(room, lblFieldCount->sizeHint().width());
     place(lblFieldCount, labelWidth);

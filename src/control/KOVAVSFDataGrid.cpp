@@ -14,6 +14,7 @@
 #include "query/modQNVSFHFDataMain.h"
 
 #include <QtGui/QResizeEvent>
+#include <QtWidgets/QDialog>
 #include <QtWidgets/QPushButton>
 
 using namespace KOVAVSFDataGridLib;
@@ -46,7 +47,16 @@ KOVAVSFDataGrid::KOVAVSFDataGrid(QWidget *parent) : QWidget(parent), d(std::make
     CloseAllAction();
 }
 
-KOVAVSFDataGrid::~KOVAVSFDataGrid() = default;
+KOVAVSFDataGrid::~KOVAVSFDataGrid()
+{
+    // Dialogs that are open just now stand on the stack of whoever asked. They end as cancelled, and must not
+    // be deleted a second time as children of this control.
+    const auto dialogs = findChildren<QDialog *>();
+    for (QDialog *dialog : dialogs) {
+        dialog->setParent(nullptr, dialog->windowFlags());
+        dialog->done(QDialog::Rejected);
+    }
+}
 
 QString KOVAVSFDataGrid::STR_SQLTEMP() const
 {

@@ -203,6 +203,9 @@ Q_SIGNALS:
     // The events, in their fixed order. What comes by reference may be changed by a directly connected
     // handler. Positions are twips, 1440 to the inch, from the grid's corner; Button is 1 left, 2 right, 4
     // middle; Shift is the sum of 1 Shift, 2 Ctrl, 4 Alt.
+    //
+    // A handler of one of these may load again, tear down or delete the control; only while the right button
+    // goes down the latter has to be deleteLater(), because Qt uses the pressed widget once more.
 
     // A mouse button went down on the grid, headings included; told before the grid acts on it.
     void DataMouseDown(qint16 &Button, qint16 &Shift, float &x, float &y);

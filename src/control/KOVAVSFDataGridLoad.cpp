@@ -9,6 +9,7 @@
 #include "grid/FlexGrid.h"
 #include "query/SqlText.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
@@ -75,9 +76,16 @@ bool KOVAVSFDataGrid::Private::load()
     if (!statement)
         return false;
     const QStringList fieldsBefore = parts.vsfgDataGrid->Headings();
-    if (!open(*statement, shared.dbType)) {
-        Messages::tell(&q, GridTexts::OpenFailed);
+    const QPointer<KOVAVSFDataGrid> alive(&q);
+    switch (open(*statement, shared.dbType)) {
+    case Opening::Done:
+        break;
+    case Opening::Failed:
+        if (alive)
+            Messages::tell(&q, GridTexts::OpenFailed);
         return false;
+    case Opening::Overtaken:
+        return alive && result.isOpen(); // by another load, say, which has done all that follows
     }
     filter = std::move(manager);
     chooser.setDatabase(filter->DBType());
@@ -105,19 +113,34 @@ bool KOVAVSFDataGrid::Private::load()
     return true;
 }
 
-bool KOVAVSFDataGrid::Private::open(const QString &statement, qint32 dbType)
+KOVAVSFDataGrid::Private::Opening KOVAVSFDataGrid::Private::open(const QString &statement, qint32 dbType)
 {
     if (shared.isOpening)
-        return false;
+        return Opening::Failed;
+    const QPointer<KOVAVSFDataGrid> alive(&q);
+    QString failure;
     try {
-        result.replaceBy(read(statement, dbType));
-        return result.isOpen(); // unless the host has closed it when it was told of it
+        const ResultSet::Opened opened = read(statement, dbType);
+        if (!alive)
+            return Opening::Failed;
+        result.replaceBy(opened);
+        const bool isShown = alive && result.recordset() == opened.recordset && result.isOpen();
+        return isShown ? Opening::Done : Opening::Overtaken;
     } catch (const ADODB::Error &error) {
-        Messages::tell(&q, GridTexts::OpenErrorPrefix + error.Description());
+        failure = error.Description();
     } catch (const std::exception &error) { // from a connection factory of the host's
-        Messages::tell(&q, GridTexts::OpenErrorPrefix + QString::fromUtf8(error.what()));
+        failure = QString::fromUtf8(error.what());
     }
-    return false;
+    if (alive)
+        Messages::tell(&q, GridTexts::OpenErrorPrefix + failure);
+    return Opening::Failed;
+}
+
+bool KOVAVSFDataGrid::Private::closeResult()
+{
+    const QPointer<KOVAVSFDataGrid> alive(&q);
+    result.close();
+    return alive && !result.isOpen();
 }
 
 ResultSet::Opened KOVAVSFDataGrid::Private::read(const QString &statement, qint32 dbType)

@@ -64,8 +64,8 @@ bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
     }
     if (!grid.RowIsVisible(lRecordRow))
         grid.PutTopRow(lRecordRow);
-    Q_EMIT RecordChanged(3, lRecordRow - 1);
     grid.Refresh();
+    Q_EMIT RecordChanged(3, lRecordRow - 1); // last, because the host may delete the control
     return true;
 }
 
@@ -160,7 +160,8 @@ QString KOVAVSFDataGrid::CellText(const qint16 &n_row, const qint16 &n_col)
 
 void KOVAVSFDataGrid::Clear()
 {
-    d->result.close();
+    if (!d->closeResult())
+        return;
     d->emptyGrid();
     if (d->isSingleRecordShown()) {
         d->parts.MSFlexGrid1->Clear();
@@ -172,7 +173,8 @@ void KOVAVSFDataGrid::Clear()
 void KOVAVSFDataGrid::ClearAll()
 {
     if (!d->recordSource.isEmpty() && d->result.isOpen()) {
-        d->result.close();
+        if (!d->closeResult())
+            return;
         d->emptyGrid();
     }
     CloseAllAction();
@@ -225,6 +227,8 @@ void KOVAVSFDataGrid::ClearObject()
 {
     saveSelectWholeRows(d->parts.CheckSelAllRow->isChecked());
     d->emptyGrid();
+    if (!d->closeResult())
+        return;
     d->result.release();
     d->reader.forget();
     ADODB::ConnectionFactory::setInstance(nullptr);

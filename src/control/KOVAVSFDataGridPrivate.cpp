@@ -15,6 +15,7 @@
 #include "grid/TextCells.h"
 #include "grid/Twips.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -53,7 +54,9 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
 
 void KOVAVSFDataGrid::Private::giveThreeTierSwitch()
 {
-    ADODB::ConnectionFactory::instance().SetThreeTier(Read3TierSwitch() != 0);
+    ADODB::ConnectionFactory &factory = ADODB::ConnectionFactory::instance();
+    factory.SetThreeTier(Read3TierSwitch() != 0);
+    factory.SetMiddleTier(readMiddleTier());
 }
 
 bool KOVAVSFDataGrid::Private::isUserMode() const
@@ -79,11 +82,14 @@ void KOVAVSFDataGrid::Private::tellStatement()
 
 void KOVAVSFDataGrid::Private::runSteps(QStringView title, std::initializer_list<std::function<void()>> steps)
 {
+    const QPointer<KOVAVSFDataGrid> alive(&q);
     for (const auto &step : steps) {
         qint32 number = 0;
         QString description;
         try {
             step();
+            if (!alive) // the host has deleted the control behind the dialog that the step showed
+                return;
             continue;
         } catch (const ADODB::Error &error) {
             number = error.Number();
@@ -92,7 +98,7 @@ void KOVAVSFDataGrid::Private::runSteps(QStringView title, std::initializer_list
             description = QString::fromUtf8(error.what());
         }
         const QString text = QString::number(number) + u'\r' + description + GridTexts::AskContinue;
-        if (!Messages::ask(&q, text, title.toString(), QMessageBox::Critical))
+        if (!Messages::ask(&q, text, title.toString(), QMessageBox::Critical) || !alive)
             return;
     }
 }

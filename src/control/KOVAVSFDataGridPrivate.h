@@ -43,10 +43,19 @@ public:
 
     // The whole load; see IsLoadData.
     bool load();
-    // Opens the statement as the current result through a connection for `dbType` (AllDBType). A failure is
-    // told to the user and changes nothing. False at once while a statement is being opened, by this control
-    // or another.
-    bool open(const QString &statement, qint32 dbType);
+    enum class Opening {
+        Done,
+        Failed,   // told to the user; nothing has changed
+        Overtaken // the host, when it was told, has put something else in the result's place
+    };
+    // Opens the statement as the current result through a connection for `dbType` (AllDBType). Fails silently
+    // while a statement is being opened, by this control or another.
+    //
+    // Whenever the host is told of something it may delete the control: members that do so are followed by a
+    // look at a QPointer wherever there is more to do. Overtaken stands for that as well.
+    Opening open(const QString &statement, qint32 dbType);
+    // False when the host, told of it, has put something else in the result's place or deleted the control.
+    bool closeResult();
     // Stays where it is, and tells why, when an edit of the current record can't be saved.
     void showPage(qint64 page);
     // Hands the middle-tier switch to the connection factory, which may have been made anew.

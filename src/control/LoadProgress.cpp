@@ -30,7 +30,7 @@ bool isInput(const QEvent &event)
     case QEvent::Drop:
         return true;
     case QEvent::Close:
-        return event.spontaneous(); // by the user
+        return event.spontaneous(); // by the user, or by close() of a window that is seen
     default:
         return event.isInputEvent();
     }
@@ -48,18 +48,20 @@ LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place)
 
 LoadProgress::~LoadProgress()
 {
-    if (!m_line)
+    if (!m_isLineShown)
         QApplication::restoreOverrideCursor();
+    delete m_line;
 }
 
 bool LoadProgress::goOn(qint64 rowsRead)
 {
-    if (!m_isCancelled && !m_line && m_sinceBegin.hasExpired(Patience))
+    if (!m_isCancelled && !m_isLineShown && m_sinceBegin.hasExpired(Patience))
         showLine();
     if (m_isCancelled || !m_line || !m_sinceEvents.hasExpired(EventsInterval))
         return !m_isCancelled;
     updateLine(rowsRead);
     QCoreApplication::processEvents();
+    m_isCancelled |= m_line.isNull(); // the window went away, and with it the line
     m_sinceEvents.start();
     return !m_isCancelled;
 }
@@ -68,7 +70,8 @@ bool LoadProgress::goOn(qint64 rowsRead)
 void LoadProgress::showLine()
 {
     QApplication::restoreOverrideCursor();
-    m_line = std::make_unique<QWidget>(&m_window);
+    m_isLineShown = true;
+    m_line = new QWidget(&m_window);
     m_line->setAutoFillBackground(true);
     m_bar = new QProgressBar;
     m_bar->setRange(0, 0); // nobody knows how many there will be
@@ -81,7 +84,7 @@ void LoadProgress::showLine()
     cancel->setToolTip(GridTexts::CancelOpeningHint);
     connect(cancel, &QPushButton::clicked, this, [this] { m_isCancelled = true; });
 
-    auto *layout = new QHBoxLayout(m_line.get());
+    auto *layout = new QHBoxLayout(m_line);
     layout->setContentsMargins(6, 0, 6, 0); // pixels, as a style's own margins
     layout->addWidget(m_bar, 1);
     layout->addWidget(m_count);
@@ -112,16 +115,17 @@ bool LoadProgress::eventFilter(QObject *watched, QEvent *event)
 
 bool LoadProgress::isForLine(const QObject &watched, const QEvent &event) const
 {
-    if (!m_line || !event.isPointerEvent())
+    const QWidget *const line = m_line;
+    if (!line || !event.isPointerEvent())
         return false;
     if (watched.isWidgetType()) {
         const auto &widget = static_cast<const QWidget &>(watched);
-        return &widget == m_line.get() || m_line->isAncestorOf(&widget);
+        return &widget == line || line->isAncestorOf(&widget);
     }
     // On its way to a widget a pointer event comes by the window first.
     const auto &points = static_cast<const QPointerEvent &>(event).points();
     return !points.isEmpty() &&
-           m_line->rect().contains(m_line->mapFromGlobal(points.front().globalPosition()).toPoint());
+           line->rect().contains(line->mapFromGlobal(points.front().globalPosition()).toPoint());
 }
 
 } // namespace KOVAVSFDataGridLib

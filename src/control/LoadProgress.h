@@ -7,13 +7,12 @@
 #include <QtCore/QPointer>
 #include <QtCore/QRect>
 #include <QtCore/QScopedValueRollback>
+#include <QtWidgets/QWidget>
 
 #include <functional>
-#include <memory>
 
 class QLabel;
 class QProgressBar;
-class QWidget;
 
 namespace KOVAVSFDataGridLib {
 
@@ -29,8 +28,8 @@ class LoadProgress final : public QObject
     Q_OBJECT
 
 public:
-    // The line covers `place` on `window`, which is asked for again as the window can be resized. The window
-    // must outlive this object.
+    // The line covers `place` on `window`, which is asked for again as the window can be resized. When the
+    // window is deleted in one of the events, the load is cancelled.
     LoadProgress(QWidget &window, std::function<QRect()> place);
     ~LoadProgress() override;
 
@@ -48,12 +47,13 @@ private:
     QScopedValueRollback<bool> m_opening{SharedValues::instance().isOpening, true};
     QWidget &m_window;
     const std::function<QRect()> m_place;
-    std::unique_ptr<QWidget> m_line; // null during the first half second
+    QPointer<QWidget> m_line; // null during the first half second; a child of the window
     QLabel *m_count = nullptr;
     QProgressBar *m_bar = nullptr;
     QPointer<QWidget> m_modalBefore;
     QElapsedTimer m_sinceBegin;
     QElapsedTimer m_sinceEvents;
+    bool m_isLineShown = false;
     bool m_isCancelled = false;
 };
 

@@ -4,14 +4,32 @@
 #include "ado/Connection.h"
 #include "ado/ConnectionFactory.h"
 #include "ado/Recordset.h"
+#include "filter/EngineOf.h"
 #include "query/AllDBType.h"
 #include "query/SharedValues.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
+
+#include <utility>
 
 namespace KOVAVSFDataGridLib {
 
 ResultSet::ResultSet(ADODB::Adodc &adodc) : m_adodc(adodc) {}
 
-ResultSet::~ResultSet() = default;
+ResultSet::~ResultSet()
+{
+    letGo(std::move(m_recordset));
+}
+
+// A host's handler may replace the recordset that is just telling of its own move: that one stays until the
+// event loop runs again.
+void ResultSet::letGo(std::shared_ptr<ADODB::Recordset> recordset)
+{
+    if (recordset && QCoreApplication::instance())
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(), [recordset] {}, Qt::QueuedConnection);
+}
 
 ResultSet::Opened ResultSet::open(const QString &connectionString, const QString &statement, qint32 dbType,
                                   const std::function<bool(qint64)> &progress)
@@ -32,10 +50,15 @@ ResultSet::Opened ResultSet::open(const QString &connectionString, const QString
 
 void ResultSet::replaceBy(Opened opened)
 {
+    const QPointer<ADODB::Adodc> alive(&m_adodc);
     close();
+    if (!alive) // the host has deleted the control when it was told
+        return;
+    letGo(std::move(m_recordset));
     m_connectionString = std::move(opened.connectionString);
     m_connection = std::move(opened.connection);
     m_recordset = std::move(opened.recordset);
+    m_engine = EngineOf(m_connection);
     m_adodc.PutRecordset(m_recordset);
 }
 
@@ -53,18 +76,22 @@ bool ResultSet::isConnectedTo(const QString &connectionString) const
 
 void ResultSet::close()
 {
+    const auto connection = m_connection;
     if (isOpen())
-        m_recordset->Close();
-    if (m_connection && m_connection->State() != ADODB::adStateClosed)
-        m_connection->Close();
+        m_recordset->Close(); // and that is told, so this object may be gone
+    if (connection && connection->State() != ADODB::adStateClosed)
+        connection->Close();
 }
 
 void ResultSet::release()
 {
+    const QPointer<ADODB::Adodc> alive(&m_adodc);
     close();
+    if (!alive)
+        return;
     m_connectionString.clear();
     m_connection.reset();
-    m_recordset.reset();
+    letGo(std::move(m_recordset));
     m_adodc.PutRecordset(nullptr);
 }
 

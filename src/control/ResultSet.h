@@ -1,5 +1,7 @@
 #pragma once
 
+#include "query/Engine.h"
+
 #include <QtCore/QString>
 
 #include <functional>
@@ -33,12 +35,13 @@ public:
     // AllDBType; `progress` as in ADODB::Recordset::SetProgress.
     static Opened open(const QString &connectionString, const QString &statement, qint32 dbType,
                        const std::function<bool(qint64 rowsRead)> &progress);
-    // Closes the old result and shows the new one; whoever listens to the data control is told of both.
+    // Closes the old result and shows the new one; whoever listens to the data control is told of both, and
+    // may by then have deleted the control and this object with it.
     void replaceBy(Opened opened);
     // A closed connection for a database type: plain ones for Access, the others from the factory.
     static std::shared_ptr<ADODB::Connection> newConnection(qint32 dbType);
 
-    // Closes the recordset and the connection, if open.
+    // Closes the recordset and the connection, if open; that is told as well, as by release().
     void close();
     // Closes them and lets go of both, and of the connection string.
     void release();
@@ -49,10 +52,15 @@ public:
     // Null before the first result and after release().
     const std::shared_ptr<ADODB::Recordset> &recordset() const { return m_recordset; }
     const std::shared_ptr<ADODB::Connection> &connection() const { return m_connection; }
+    // What the connection leads to; still known when the server has gone away.
+    Engine engine() const { return m_engine; }
 
 private:
+    static void letGo(std::shared_ptr<ADODB::Recordset> recordset);
+
     ADODB::Adodc &m_adodc;
     std::shared_ptr<ADODB::Connection> m_connection;
+    Engine m_engine = Engine::Other;
     QString m_connectionString;
     std::shared_ptr<ADODB::Recordset> m_recordset;
 };

@@ -78,7 +78,8 @@ QString isEmpty(const FilterSql::Dialect &dialect, const FilterField &field, boo
 {
     if (field.fieldClass != FieldClass::Text)
         return field.written + (wanted ? " IS NULL"_L1 : " IS NOT NULL"_L1);
-    return wanted ? FilterSql::IsEmptyText(field.written) : FilterSql::IsNotEmptyText(dialect, field.written);
+    return wanted ? FilterSql::IsEmptyText(dialect, field.written)
+                  : FilterSql::IsNotEmptyText(dialect, field.written);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "ado/ConnectionFactory.h"
 #include "ado/Error.h"
 #include "ado/Recordset.h"
+#include "filter/EngineOf.h"
 
 #include <QtCore/QSet>
 
@@ -33,6 +34,7 @@ void FilterSource::setTable(const QString &fromText)
 FilterSql::Dialect FilterSource::dialect() const
 {
     FilterSql::Dialect dialect = FilterSql::DialectOf(m_database, m_connectionString);
+    dialect.engine = EngineOf(m_connection);
     dialect.escapesByBackslash = m_escapesByBackslash;
     return dialect;
 }

@@ -24,7 +24,7 @@ QString textLiteral(const Dialect &dialect, QString text)
 {
     // SQL Server would squeeze anything else through its own code page first.
     const bool needsUnicode = dialect.isOdbc && dialect.database == dbSQLServer &&
-                              !dialect.escapesByBackslash &&
+                              dialect.engine == Engine::Other && !dialect.escapesByBackslash &&
                               std::any_of(text.begin(), text.end(), [](QChar c) { return c > u'~'; });
     if (dialect.escapesByBackslash)
         text.replace(u'\\', u"\\\\"_s);
@@ -132,32 +132,35 @@ QString Like(const Dialect &dialect, const QString &field, const QString &text, 
         pattern.prepend(u'%');
     if (anchor != Anchor::End)
         pattern.append(u'%');
-    return field + " LIKE "_L1 + Text(dialect, pattern) + (isEscaped ? " ESCAPE '!'"_L1 : ""_L1);
+    return LikeOperand(dialect.engine, field) + " LIKE "_L1 + Text(dialect, pattern) +
+           (isEscaped ? " ESCAPE '!'"_L1 : ""_L1);
 }
 
 QString IsTrue(const Dialect &dialect, const QString &field, bool wanted)
 {
     // Servers with a real Boolean type compare it with a text, those of bits and numbers convert the text.
-    if (dialect.isOdbc && dialect.database != dbAccess)
+    if (dialect.engine == Engine::PostgreSQL || (dialect.isOdbc && dialect.database != dbAccess))
         return field + (wanted ? " = '1'"_L1 : " = '0'"_L1);
     // True is 1 here and -1 there.
     return field + (wanted ? " <> 0"_L1 : " = 0"_L1);
 }
 
-QString IsEmptyText(const QString &field)
+QString IsEmptyText(const Dialect &dialect, const QString &field)
 {
-    return u'(' + field + " IS NULL OR "_L1 + field + " = '')"_L1;
+    return u'(' + field + " IS NULL OR "_L1 + LikeOperand(dialect.engine, field) + " = '')"_L1;
 }
 
 QString IsNotEmptyText(const Dialect &dialect, const QString &field)
 {
     // To Oracle '' is Null, and nothing differs from Null.
-    return field + (dialect.database == dbOracle ? " LIKE '_%'"_L1 : " <> ''"_L1);
+    return LikeOperand(dialect.engine, field) +
+           (dialect.database == dbOracle ? " LIKE '_%'"_L1 : " <> ''"_L1);
 }
 
 QString DistinctValues(const Dialect &dialect, const QString &field, const QString &table, int count)
 {
-    const QString limit = dialect.isOdbc ? u"OFFSET 0 ROWS FETCH NEXT %1 ROWS ONLY"_s : u"LIMIT %1"_s;
+    const bool knowsLimit = !dialect.isOdbc || dialect.engine != Engine::Other;
+    const QString limit = knowsLimit ? u"LIMIT %1"_s : u"OFFSET 0 ROWS FETCH NEXT %1 ROWS ONLY"_s;
     return u"SELECT DISTINCT "_s + field + " FROM "_L1 + table + " WHERE "_L1 + field +
            " IS NOT NULL ORDER BY "_L1 + field + u' ' + limit.arg(count);
 }

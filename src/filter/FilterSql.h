@@ -1,6 +1,7 @@
 #pragma once
 
 #include "query/AllDBType.h"
+#include "query/Engine.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QString>
@@ -10,7 +11,7 @@
 namespace KOVAVSFDataGridLib::FilterSql {
 
 // `database` decides how names are written, and together with `isOdbc` how values are: what is not reached
-// through ODBC (SQLite and Access files) is read by SQLite.
+// through ODBC (SQLite and Access files) is read by SQLite. `engine` says more, where it is known.
 struct Dialect
 {
     AllDBType database = dbAccess;
@@ -18,6 +19,7 @@ struct Dialect
     // Whether a backslash in a text is the beginning of an escape, as MariaDB has it unless it is told not
     // to.
     bool escapesByBackslash = false;
+    Engine engine = Engine::Other;
 };
 
 // Reads off the connection string whether ODBC is used. A malformed one counts as not. Backslashes are left
@@ -41,7 +43,7 @@ QString Like(const Dialect &dialect, const QString &field, const QString &text, 
 QString IsTrue(const Dialect &dialect, const QString &field, bool wanted);
 
 // A text field that holds no character, or some.
-QString IsEmptyText(const QString &field);
+QString IsEmptyText(const Dialect &dialect, const QString &field);
 QString IsNotEmptyText(const Dialect &dialect, const QString &field);
 
 // At most `count` different values of a field, in order, without Null.

@@ -2,16 +2,19 @@
 
 #include "grid/CellDelegate.h"
 #include "grid/FlexGridModel.h"
+#include "grid/FlexHeader.h"
 #include "grid/TextCells.h"
 #include "grid/Twips.h"
 
 #include <QtCore/QEvent>
+#include <QtCore/QPointer>
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 namespace KOVAVSFDataGridLib {
 
@@ -24,6 +27,8 @@ constexpr int RowPadding = 120; // twips, above and below a row's text together
 FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
     : QTableView(parent), m_model(new FlexGridModel(fixedCols, this))
 {
+    setHorizontalHeader(new FlexHeader(Qt::Horizontal, *this));
+    setVerticalHeader(new FlexHeader(Qt::Vertical, *this));
     setMouseTracking(true);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ContiguousSelection);
@@ -45,6 +50,8 @@ FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
     applyWidths();
     connect(horizontalHeader(), &QHeaderView::sectionResized, this,
             [this](int section, int, int size) { onSectionResized(section, size); });
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
+            [this](int section) { m_clickedCol = section + m_model->fixedCols(); });
 }
 
 FlexGrid::~FlexGrid() = default;
@@ -90,11 +97,13 @@ void FlexGrid::PutCol(int col)
 void FlexGrid::makeCurrent(int row, int col)
 {
     const bool isCell = row > 0 && m_model->columnCount() > 0;
-    setAutoScroll(false); // what is in view is TopRow's affair
-    setCurrentIndex(isCell ? m_model->index(row - 1, nearestShownSection(section(col))) : QModelIndex());
-    setAutoScroll(true);
-    m_row = row;
-    m_col = col;
+    tellAfter([&] {
+        setAutoScroll(false); // what is in view is TopRow's affair
+        setCurrentIndex(isCell ? m_model->index(row - 1, nearestShownSection(section(col))) : QModelIndex());
+        setAutoScroll(true);
+        m_row = row;
+        m_col = col;
+    });
 }
 
 void FlexGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
@@ -106,8 +115,46 @@ void FlexGrid::currentChanged(const QModelIndex &current, const QModelIndex &pre
     const int row = current.row() + 1;
     if (m_row != row) {
         m_row = row;
-        Q_EMIT CurrentRowChanged(row);
+        if (m_isActing)
+            m_hasNewRow = true;
+        else
+            Q_EMIT CurrentRowChanged(row);
     }
+}
+
+void FlexGrid::tellAfter(const std::function<void()> &act)
+{
+    if (m_isActing)
+        return act();
+    m_isActing = true;
+    act();
+    m_isActing = false;
+    const std::optional<int> clickedCol = std::exchange(m_clickedCol, std::nullopt);
+    const QPointer<FlexGrid> alive(this);
+    if (std::exchange(m_hasNewRow, false))
+        Q_EMIT CurrentRowChanged(m_row);
+    if (alive && clickedCol)
+        Q_EMIT HeadingClicked(*clickedCol);
+}
+
+void FlexGrid::mousePressEvent(QMouseEvent *event)
+{
+    tellAfter([&] { QTableView::mousePressEvent(event); });
+}
+
+void FlexGrid::mouseMoveEvent(QMouseEvent *event)
+{
+    tellAfter([&] { QTableView::mouseMoveEvent(event); });
+}
+
+void FlexGrid::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    tellAfter([&] { QTableView::mouseDoubleClickEvent(event); });
+}
+
+void FlexGrid::keyPressEvent(QKeyEvent *event)
+{
+    tellAfter([&] { QTableView::keyPressEvent(event); });
 }
 
 int FlexGrid::RowSel() const

@@ -4,7 +4,9 @@
 
 #include <QtWidgets/QTableView>
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace KOVAVSFDataGridLib {
@@ -71,13 +73,20 @@ public:
     QColor BackColor() const;
     void PutBackColor(const QColor &colour);
 
+    // Runs `act`, in which Qt's own code makes a cell current or deals with an event, and tells of what has
+    // come of it only then, as whoever is told may delete the grid.
+    void tellAfter(const std::function<void()> &act);
+
     // Shows the cells of `source` (not null) instead of the grid's own. Columns that stay within the
     // number of columns keep their widths; nothing is current afterwards.
     void Show(std::unique_ptr<CellSource> source);
 
 Q_SIGNALS:
-    // Another data row became current, by mouse, key or program.
+    // Another data row became current, by mouse, key or program. Like HeadingClicked it may delete the grid:
+    // when it comes of mouse or key, all else that the event does is done.
     void CurrentRowChanged(int row);
+    // A column's heading was clicked.
+    void HeadingClicked(int col);
     // The user gave a column another width.
     void ColWidthChanged(int col, int twips);
 
@@ -85,6 +94,10 @@ protected:
     FlexGrid(int fixedCols, QWidget *parent);
 
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -104,6 +117,9 @@ private:
     int m_row = 0;
     int m_col = 0;
     bool m_isApplyingWidths = false;
+    bool m_isActing = false;  // in tellAfter()
+    bool m_hasNewRow = false; // to be told of, as is the next one
+    std::optional<int> m_clickedCol;
 };
 
 // The main grid: row 0 and column 0 are headings.

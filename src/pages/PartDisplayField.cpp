@@ -91,6 +91,7 @@ void PartDisplayField::SelectionChanged()
 {
     PropertyPage::SelectionChanged();
     text().setText(text().text().trimmed());
+    text().setCursorPosition(0);
     listFields();
     PutChanged(false);
 }

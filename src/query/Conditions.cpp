@@ -43,9 +43,17 @@ QString TableQualifier(const QString &fromText)
     return match.captured(match.lastCapturedIndex() == 2 ? 2 : 1);
 }
 
-// The field as it stands before LIKE; empty when it can't be searched, nothing when nobody can tell.
-std::optional<QString> SearchedField(const TypedField &field, AllDBType database, const QString &qualifier)
+bool IsBinary(std::optional<qint32> adoType)
 {
+    return adoType == 128 || adoType == 204 || adoType == 205;
+}
+
+// The field as it is written; empty when it can't be searched, nothing when nobody can tell.
+std::optional<QString> SearchedField(const TypedField &field, AllDBType database, const QString &qualifier,
+                                     Engine engine)
+{
+    if (LikesTextsOnly(engine) && IsBinary(field.adoType))
+        return QString();
     if (database == dbOracle || database == dbSQLServer)
         return QuotedFieldName(database, field.name);
     if (database != dbAccess)
@@ -58,7 +66,7 @@ std::optional<QString> SearchedField(const TypedField &field, AllDBType database
 }
 
 std::optional<QStringList> SearchedFields(std::span<const TypedField> fields, AllDBType database,
-                                          const QString &strSQL)
+                                          const QString &strSQL, Engine engine)
 {
     const auto table = GetTableOfSQL(strSQL);
     if (!table)
@@ -66,20 +74,34 @@ std::optional<QStringList> SearchedFields(std::span<const TypedField> fields, Al
     const QString qualifier = database == dbAccess ? TableQualifier(*table) : QString();
     QStringList searched;
     for (const TypedField &field : fields) {
-        const auto name = SearchedField(field, database, qualifier);
+        const auto name = SearchedField(field, database, qualifier, engine);
         if (!name)
             return std::nullopt;
         if (!name->isEmpty())
-            searched.append(*name);
+            searched.append(LikeOperand(engine, *name));
     }
     return searched;
 }
 
-QString WordCondition(const QStringList &searchedFields, QString word)
+QString WordCondition(const QStringList &searchedFields, const QString &word, Engine engine)
 {
-    const QString pattern = QStringLiteral(" LIKE '%") +
-                            word.replace(QStringLiteral("'"), QStringLiteral("''")) + QStringLiteral("%' ");
+    const QString pattern =
+        QStringLiteral(" LIKE ") + TextLiteral(engine, u'%' + LikePattern(engine, word) + u'%') + u' ';
     return searchedFields.join(pattern + QStringLiteral("OR ")) + pattern;
+}
+
+// Numbers are compared as numbers where LIKE takes none: as texts they may end in more digits than are shown.
+QString NumberCondition(const QString &field, qint32 adoType, const QString &cellText, Engine engine)
+{
+    constexpr qint32 single = 4;
+    constexpr qint32 guid = 72;
+    if (!LikesTextsOnly(engine))
+        return field + QStringLiteral(" like ") + cellText;
+    if (adoType == guid)
+        return field + QStringLiteral(" = ") + TextLiteral(engine, cellText);
+    // Only as a number of the same few digits it is the same number.
+    return field + QStringLiteral(" = ") +
+           (adoType == single ? QStringLiteral("CAST(%1 AS REAL)").arg(cellText) : cellText);
 }
 
 } // namespace
@@ -133,16 +155,17 @@ std::optional<QString> GetTableOfSQL(const QString &strSQL)
 }
 
 bool BuildLikeCondition(const QString &strText, std::span<const TypedField> fields, const QString &strSQL,
-                        AllDBType database, QString &strCondition)
+                        AllDBType database, QString &strCondition, Engine engine)
 {
     QString condition;
     if (!strText.isEmpty()) {
-        const auto searched = SearchedFields(fields, database, strSQL);
+        const auto searched = SearchedFields(fields, database, strSQL, engine);
         if (!searched || searched->isEmpty())
             return false;
         QStringList words;
         for (const QString &word : SplitText(strText, QStringLiteral("%")))
-            words.append(QStringLiteral(" (") + WordCondition(*searched, word) + QStringLiteral(") "));
+            words.append(QStringLiteral(" (") + WordCondition(*searched, word, engine) +
+                         QStringLiteral(") "));
         condition = words.join(QStringLiteral("And "));
     }
     strCondition = condition;
@@ -150,13 +173,13 @@ bool BuildLikeCondition(const QString &strText, std::span<const TypedField> fiel
 }
 
 bool BuildLikeAllCondition(const QString &strText, const TypedField &field, const QString &strSQL,
-                           AllDBType database, QString &strCondition)
+                           AllDBType database, QString &strCondition, Engine engine)
 {
-    return BuildLikeCondition(strText, std::span(&field, 1), strSQL, database, strCondition);
+    return BuildLikeCondition(strText, std::span(&field, 1), strSQL, database, strCondition, engine);
 }
 
 CellFilter BuildCellFilter(const QString &realName, std::optional<qint32> adoType,
-                           const std::optional<QString> &cellText)
+                           const std::optional<QString> &cellText, Engine engine)
 {
     // Narrower than the quick filter's classes on purpose: equality makes no sense for the types left out.
     static constexpr std::array<qint32, 12> numbers{2, 3, 4, 5, 14, 16, 18, 20, 21, 72, 131, 139};
@@ -169,10 +192,12 @@ CellFilter BuildCellFilter(const QString &realName, std::optional<qint32> adoTyp
     if (!cellText)
         return {realName + QStringLiteral(" IS NULL"), {}};
     if (!isText)
-        return {realName + QStringLiteral(" like ") + *cellText, {}};
+        return {NumberCondition(realName, *adoType, *cellText, engine), {}};
     if (cellText->contains(u'\''))
         return {{}, QueryTexts::ApostropheInFilter()};
-    return {realName + QStringLiteral(" like '") + *cellText + u'\'', {}};
+    return {LikeOperand(engine, realName) + QStringLiteral(" like ") +
+                TextLiteral(engine, LikePattern(engine, *cellText)),
+            {}};
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "query/AllDBType.h"
+#include "query/Engine.h"
 
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -31,15 +32,15 @@ QString ClassifyFieldType(qint32 adoType);
 // when the condition or the sort stands before FROM.
 std::optional<QString> GetTableOfSQL(const QString &strSQL);
 
-// A condition that each word of the text ("%" stands between words) occurs in some field. True with an empty
-// condition when the text is empty. False, with the condition as it was, when there is nothing to search in:
-// a word without any field that can be searched, an unknown database, for Access a type that nobody knows, or
-// a statement that GetTableOfSQL can't read.
+// A condition that each word of the text ("%" stands between words) occurs in some field, as `engine` can
+// compare them. True with an empty condition when the text is empty. False, with the condition as it was,
+// when there is nothing to search in: a word without any field that can be searched, an unknown database, for
+// Access a type that nobody knows, or a statement that GetTableOfSQL can't read.
 bool BuildLikeCondition(const QString &strText, std::span<const TypedField> fields, const QString &strSQL,
-                        AllDBType database, QString &strCondition);
+                        AllDBType database, QString &strCondition, Engine engine = Engine::Other);
 // The same in one field.
 bool BuildLikeAllCondition(const QString &strText, const TypedField &field, const QString &strSQL,
-                           AllDBType database, QString &strCondition);
+                           AllDBType database, QString &strCondition, Engine engine = Engine::Other);
 
 // A condition that the field equals the cell's text, or what to tell the user instead. Both are empty when
 // there is nothing to filter by.
@@ -52,6 +53,6 @@ struct CellFilter
 // `cellText` is nothing for a Null value. An unknown type, or a field without a real name, gives an empty
 // answer.
 CellFilter BuildCellFilter(const QString &realName, std::optional<qint32> adoType,
-                           const std::optional<QString> &cellText);
+                           const std::optional<QString> &cellText, Engine engine = Engine::Other);
 
 } // namespace KOVAVSFDataGridLib

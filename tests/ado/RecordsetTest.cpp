@@ -1,3 +1,4 @@
+#include "TemporaryFolder.h"
 #include "TestDatabase.h"
 #include "Throwing.h"
 
@@ -200,6 +201,66 @@ TEST(Recordset, TakesATableWithManyColumns)
     const auto recordset = database.open(u"SELECT * FROM wide"_s);
     EXPECT_EQ(recordset->Fields().Count(), 1600);
     EXPECT_EQ(recordset->Fields().Item(u"C1599"_s).Value(), QVariant(1599));
+}
+
+// More than a memory limit of none, which leaves one block of 4 MiB.
+struct BigResult : testing::Test
+{
+    static constexpr int count = 200'000;
+
+    BigResult()
+        : database(u"CREATE TABLE big(i INTEGER PRIMARY KEY, name TEXT);"
+                   "WITH RECURSIVE s(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM s WHERE i < %1)"
+                   "INSERT INTO big SELECT i, substr(hex(zeroblob(50)) || (i * 7), -100) FROM s"_s.arg(count))
+    {
+        recordset.PutMemoryLimit(0);
+    }
+
+    static QString name(int i) { return QString::number(i * 7).rightJustified(100, u'0'); }
+    void open()
+    {
+        recordset.Open(u"SELECT * FROM big ORDER BY i"_s, database.connect(), adOpenKeyset, adLockOptimistic);
+    }
+
+    const TestDatabase database;
+    AdoTest::TemporaryFolder folder;
+    Recordset recordset;
+};
+
+TEST_F(BigResult, IsReadAndEditedAlikeAndLeavesNoFile)
+{
+    open();
+    ASSERT_EQ(recordset.RecordCount(), count);
+    for (int i = 1; i <= count; ++i)
+        ASSERT_EQ(recordset.CellText(i, 1), name(i)) << i;
+
+    recordset.PutAbsolutePosition(3);
+    recordset.Delete();
+    recordset.PutAbsolutePosition(99'999);
+    recordset.Fields().Item(1).PutValue(u"changed"_s);
+    recordset.Update();
+    recordset.AddNew();
+    recordset.Fields().Item(1).PutValue(u"added"_s);
+    recordset.Update();
+    EXPECT_EQ(recordset.CellText(3, 1), name(4));
+    EXPECT_EQ(recordset.CellText(99'999, 1), u"changed"_s);
+    EXPECT_EQ(recordset.CellText(count, 1), u"added"_s);
+    EXPECT_EQ(database.ask(u"SELECT name FROM big WHERE i = 100000"_s), u"changed"_s);
+
+    EXPECT_ADO_ERROR(adErrObjectOpen, recordset.PutMemoryLimit(1));
+    recordset.Close();
+    EXPECT_EQ(folder.names(), QStringList());
+}
+
+TEST_F(BigResult, ThatTheDiskDoesNotTakeIsAFailedOpen)
+{
+    folder.makeUnusable();
+    EXPECT_ADO_ERROR(dbErrFailed, open());
+    EXPECT_EQ(recordset.State(), adStateClosed);
+    recordset.PutMemoryLimit(qint64{1} << 30);
+    open();
+    EXPECT_EQ(recordset.RecordCount(), count);
+    EXPECT_ADO_ERROR(adErrObjectOpen, recordset.PutMemoryLimit(0));
 }
 
 } // namespace

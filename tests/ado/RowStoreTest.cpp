@@ -1,5 +1,7 @@
 #include "Printing.h"
+#include "TemporaryFolder.h"
 
+#include "ado/Error.h"
 #include "ado/RowStore.h"
 
 #include <gtest/gtest.h>
@@ -195,6 +197,97 @@ TEST(RowStore, TakesRowsWithoutColumns)
     store.endRow();
     EXPECT_EQ(store.rows(), 2);
     EXPECT_TRUE(store.row(1).empty());
+}
+
+// 9 MB a step, so that a limit of 8 MiB is soon passed.
+void appendBigRows(RowStore &store, std::vector<PlainRow> &model)
+{
+    for (int i = 0; i < 90; ++i) {
+        const auto row = static_cast<qlonglong>(model.size());
+        model.push_back({row,
+                         QByteArray("T") + QByteArray(50'000 + i, static_cast<char>('a' + i % 26)),
+                         QByteArray("B") + QByteArray(50'000, static_cast<char>(i)),
+                         {}});
+        append(store, model.back());
+    }
+}
+
+constexpr qint64 smallLimit = qint64{8} << 20;
+
+TEST(RowStore, ReadsBackWhatIsTooMuchForMemoryAndLeavesNoFile)
+{
+    const AdoTest::TemporaryFolder folder;
+    {
+        RowStore store(4, smallLimit);
+        std::vector<PlainRow> model;
+        for (int i = 0; i < 5; ++i)
+            appendBigRows(store, model);
+        EXPECT_GT(store.bytesSpilled(), 30'000'000);
+        store.clear();
+        EXPECT_EQ(store.rows(), 0);
+        model.clear();
+        for (int i = 0; i < 5; ++i)
+            appendBigRows(store, model);
+        EXPECT_GT(store.bytesSpilled(), 30'000'000) << "the limit is still the same";
+        EXPECT_GE(store.bytesSpilled() + smallLimit + (4 << 20), store.bytesWritten());
+#if defined(Q_OS_UNIX)
+        EXPECT_EQ(folder.names(), QStringList()) << "not even while it is in use";
+#endif
+        expectSame(store, model);
+
+        // Edits lie over it as over memory.
+        store.remove(17);
+        model.erase(model.begin() + 17);
+        replace(store, 200, {qlonglong{1}, 2.5, QByteArray("T"), {}});
+        model[200] = {qlonglong{1}, 2.5, QByteArray("T"), {}};
+        appendBigRows(store, model);
+        expectSame(store, model);
+    }
+    EXPECT_EQ(folder.names(), QStringList());
+}
+
+TEST(RowStore, SpillsNothingThatMemoryHolds)
+{
+    AdoTest::TemporaryFolder folder;
+    folder.makeUnusable();
+    RowStore store(4);
+    std::vector<PlainRow> model;
+    for (int i = 0; i < 5; ++i)
+        appendBigRows(store, model);
+    EXPECT_EQ(store.bytesSpilled(), 0);
+    expectSame(store, model);
+}
+
+TEST(RowStore, SpillsARowOfAnySize)
+{
+    RowStore store(1, 0);
+    const std::vector<QByteArray> texts{"a", QByteArray(300'000'000, 'b'), "c", QByteArray(5'000'000, 'd'),
+                                        ""};
+    for (const QByteArray &text : texts) {
+        store.addText(text);
+        store.endRow();
+    }
+    EXPECT_GT(store.bytesSpilled(), 300'000'000);
+    for (std::size_t row = 0; row < texts.size(); ++row)
+        EXPECT_TRUE(store.cell(static_cast<qint64>(row), 0).bytes == texts[row]) << row;
+}
+
+TEST(RowStore, KeepsItsRowsWhenTheDiskTakesNoMore)
+{
+    AdoTest::TemporaryFolder folder;
+    folder.makeUnusable();
+    RowStore store(4, smallLimit);
+    std::vector<PlainRow> model;
+    EXPECT_THROW(
+        {
+            for (int i = 0; i < 5; ++i)
+                appendBigRows(store, model);
+        },
+        Error);
+    model.pop_back(); // the row that the disk had no room for
+    store.dropBegunRow();
+    ASSERT_GT(store.bytesWritten(), smallLimit);
+    expectSame(store, model);
 }
 
 } // namespace

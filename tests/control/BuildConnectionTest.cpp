@@ -6,6 +6,7 @@
 #include "ado/OdbcCatalogue.h"
 #include "ado/Recordset.h"
 #include "support/Dialogs.h"
+#include "support/MessageAnswers.h"
 #include "support/TestDatabase.h"
 #include "support/WindowAnswers.h"
 
@@ -13,6 +14,8 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <gtest/gtest.h>
+
+#include <stdexcept>
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
@@ -26,7 +29,7 @@ struct BuildConnection : testing::Test
 };
 
 // Hands out connections as ever and notes for which database.
-class NotingFactory final : public ADODB::ConnectionFactory
+class NotingFactory : public ADODB::ConnectionFactory
 {
 public:
     explicit NotingFactory(QList<qint32> &asked) : m_asked(asked) {}
@@ -48,19 +51,51 @@ private:
 
 } // namespace
 
-TEST_F(BuildConnection, TheConnectionComesFromTheFactoryForItsDatabase)
+TEST_F(BuildConnection, OnlyOraclesConnectionComesFromTheFactory)
 {
     QList<qint32> asked;
     ADODB::ConnectionFactory::setInstance(std::make_unique<NotingFactory>(asked));
-    grid.PutDBType(KOVAVSFDataGrid::dbOracle);
-    WindowAnswers windows({[](QDialog &connect) {
-                               press(connect, "OptionLINK");
-                               press(connect, "cmd_link");
-                               press(connect, "CancelButton");
-                           },
-                           [](QDialog &builder) { press(builder, "CancelButton"); }});
-    grid.GetConnection();
+    for (const auto type :
+         {KOVAVSFDataGrid::dbAccess, KOVAVSFDataGrid::dbOracle, KOVAVSFDataGrid::dbSQLServer}) {
+        grid.PutDBType(type);
+        WindowAnswers windows({[](QDialog &connect) {
+                                   press(connect, "OptionLINK");
+                                   press(connect, "cmd_link");
+                                   press(connect, "CancelButton");
+                               },
+                               [](QDialog &builder) { press(builder, "CancelButton"); }});
+        grid.GetConnection();
+    }
     EXPECT_EQ(asked, QList<qint32>({2}));
+    ADODB::ConnectionFactory::setInstance(nullptr);
+    grid.PutDBType(KOVAVSFDataGrid::dbAccess);
+}
+
+TEST_F(BuildConnection, AFactoryThatFailsIsToldAndLeavesTheString)
+{
+    class FailingFactory final : public NotingFactory
+    {
+    public:
+        using NotingFactory::NotingFactory;
+        std::shared_ptr<ADODB::Connection> newConnection(qint32 dbType) override
+        {
+            NotingFactory::newConnection(dbType);
+            throw std::runtime_error("the tier is away");
+        }
+    };
+    QList<qint32> asked;
+    ADODB::ConnectionFactory::setInstance(std::make_unique<FailingFactory>(asked));
+    grid.PutDBType(KOVAVSFDataGrid::dbOracle);
+    grid.PutConnectionString(u"DSN=old"_s);
+    MessageAnswers messages;
+    WindowAnswers windows({[](QDialog &connect) {
+        press(connect, "OptionLINK");
+        press(connect, "cmd_link");
+        press(connect, "OKButton");
+    }});
+    grid.GetConnection();
+    EXPECT_EQ(messages.texts(), QStringList(u"连接失败：the tier is away"_s));
+    EXPECT_EQ(grid.ConnectionString(), u"DSN=old"_s);
     ADODB::ConnectionFactory::setInstance(nullptr);
     grid.PutDBType(KOVAVSFDataGrid::dbAccess);
 }

@@ -3,6 +3,7 @@
 #include "ado/ConnectionFactory.h"
 #include "control/KOVAVSFDataGrid.h"
 #include "control/platform/ModuleFolder.h"
+#include "support/TestDatabase.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -10,6 +11,7 @@
 #include <gtest/gtest.h>
 
 using namespace KOVAVSFDataGridLib;
+using KovaTest::TestDatabase;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -85,6 +87,38 @@ TEST_F(ThreeTierFile, AFileInUtf16IsReadByItsByteOrderMark)
     const QString text = u"\uFEFF[Use3Tier]\r\nMERIX=YES\r\n"_s;
     write(QByteArray(reinterpret_cast<const char *>(text.utf16()), text.size() * 2));
     EXPECT_EQ(Read3TierSwitch(), 1);
+}
+
+TEST_F(ThreeTierFile, MayNameTheMiddleTier)
+{
+    const QString text = u"Driver={PostgreSQL Unicode};Server=pool;Options="_s + QString(300, u'x');
+    write("[Use3Tier]\nMERIX=YES\nServer = pool \nPort=6432\nConnection=" + text.toUtf8() + "\n");
+    EXPECT_EQ(readMiddleTier().server, u"pool"_s);
+    EXPECT_EQ(readMiddleTier().port, u"6432"_s);
+    EXPECT_EQ(readMiddleTier().connection, text) << "whole, however long";
+
+    write("[Use3Tier]\nMERIX=YES\n[Other]\nServer=pool\n");
+    EXPECT_TRUE(readMiddleTier().server.isEmpty());
+    EXPECT_TRUE(readMiddleTier().connection.isEmpty());
+}
+
+TEST_F(ThreeTierFile, LoadsGoThroughTheMiddleTierItNames)
+{
+    const TestDatabase direct(u"CREATE TABLE T (A TEXT); INSERT INTO T VALUES ('direct')"_s);
+    const TestDatabase tier(u"CREATE TABLE T (A TEXT); INSERT INTO T VALUES ('tier')"_s);
+    write("[Use3Tier]\nMERIX=YES\nConnection=" + tier.connectionString().toUtf8() + "\n");
+    KOVAVSFDataGrid grid;
+    grid.PutConnectionString(direct.connectionString());
+    grid.PutSQLShow(u"SELECT A FROM T"_s);
+    const auto shown = [&] {
+        EXPECT_TRUE(grid.IsLoadData());
+        return grid.CellText(1, 1);
+    };
+    grid.PutDBType(KOVAVSFDataGrid::dbSQLServer);
+    EXPECT_EQ(shown(), u"tier"_s);
+    write("[Use3Tier]\nMERIX=NO\nConnection=" + tier.connectionString().toUtf8() + "\n");
+    EXPECT_EQ(shown(), u"direct"_s);
+    grid.PutDBType(KOVAVSFDataGrid::dbAccess);
 }
 
 TEST_F(ThreeTierFile, TheFactoryIsToldWhenAControlIsMade)

@@ -69,6 +69,16 @@ TEST(ConnectionSettings, KeepWhatNoFieldShowsAndSayNothingTwice)
     EXPECT_EQ(settings.write(given).text(), u"sslmode=require;Driver=X;Server=new;UID=me;PWD=p"_s);
 }
 
+// A data source may be given another database than its own; no field shows that.
+TEST(ConnectionSettings, KeepWhatOverrulesADataSource)
+{
+    const ADODB::ConnectionString given(
+        u"Provider=MSDASQL;DSN=shop;Server=db2;Port=1;Database=archive;UID=me"_s);
+    ConnectionSettings settings = ConnectionSettings::read(given);
+    settings.user = u"you"_s;
+    EXPECT_EQ(settings.write(given).text(), u"Server=db2;Port=1;Database=archive;DSN=shop;UID=you"_s);
+}
+
 TEST(ConnectionSettings, ComeBackAsTheyWereWritten)
 {
     for (const QString &value :

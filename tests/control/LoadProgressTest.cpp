@@ -5,6 +5,7 @@
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTimer>
+#include <QtGui/QWindow>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -37,7 +38,11 @@ struct LoadProgressTest : GridFixture
             if (line())
                 pressEscape();
         });
-        return load(u"with recursive N(n) as (select 1 union all select n + 1 from N) select n from N"_s);
+        return load(endlessStatement());
+    }
+    static QString endlessStatement()
+    {
+        return u"with recursive N(n) as (select 1 union all select n + 1 from N) select n from N"_s;
     }
     bool line() const { return grid.findChild<QProgressBar *>() != nullptr; }
     QPushButton *cancelButton() const
@@ -178,6 +183,33 @@ TEST_F(LoadProgressTest, AShortLoadShowsNoLine)
     EXPECT_FALSE(isSeen) << "no events run during it";
     EXPECT_FALSE(line());
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(LoadProgressTest, TheUserCantCloseTheWindow)
+{
+    EXPECT_FALSE(loadForever([this] { grid.window()->windowHandle()->close(); }));
+    EXPECT_TRUE(grid.isVisible());
+    expectCancelled();
+    grid.window()->windowHandle()->close();
+    EXPECT_FALSE(grid.isVisible()) << "afterwards it closes as ever";
+}
+
+TEST_F(LoadProgressTest, DeletingTheControlEndsTheLoadSilently)
+{
+    for (const bool isWithItsWindow : {false, true}) {
+        auto *form = new QWidget;
+        auto *second = new KOVAVSFDataGrid(form);
+        second->PutConnectionString(database.connectionString());
+        second->PutSQLShow(endlessStatement());
+        form->show();
+        QTimer::singleShot(0, form, [=] { delete (isWithItsWindow ? form : second); });
+        EXPECT_FALSE(second->IsLoadData());
+        EXPECT_EQ(messages.texts(), QStringList());
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+        if (!isWithItsWindow)
+            delete form;
+    }
+    EXPECT_TRUE(load(u"select A from (select 1 as A)"_s)) << "another control can load again";
 }
 
 TEST_F(LoadProgressTest, ALongLoadThatIsLetGoOnSucceeds)

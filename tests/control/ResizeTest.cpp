@@ -80,6 +80,22 @@ TEST_F(Resize, ThePageControlsStandBelowTheGridSideBySide)
     EXPECT_LE(check.right(), grid.rect().right());
 }
 
+TEST_F(Resize, ThePageControlsNeverOverlap)
+{
+    const QList<QString> names{u"txtPage"_s, u"cmdPgae"_s, u"CheckSelAllRow"_s};
+    for (int width = 3000; width < 9000; width += 300) {
+        grid.resize(pixels(width), pixels(1500));
+        int end = 0;
+        for (const QString &name : names) {
+            const QRect place = placeOf(name);
+            EXPECT_GT(place.left(), end) << width << ' ' << name.toStdString();
+            EXPECT_GT(place.width(), pixels(400)) << width << ' ' << name.toStdString();
+            end = place.right();
+        }
+        EXPECT_LE(end, grid.rect().right()) << width;
+    }
+}
+
 TEST_F(Resize, MovingTheEdgeHidesTheCellEditor)
 {
     auto *edit = grid.findChild<QLineEdit *>(u"txtEdit"_s);

@@ -74,6 +74,7 @@ TEST(FilterSql, OnlySqlServerNeedsToBeToldOfUnicode)
     expectText(Text(SqlServer, u"Beijing"_s), "'Beijing'");
     expectText(Text(OracleServer, u"北京"_s), "'北京'");
     expectText(Text({dbSQLServer, false}, u"北京"_s), "'北京'");
+    expectText(Text({dbSQLServer, true, false, Engine::MySQL}, u"北京"_s), "'北京'");
 }
 
 TEST(FilterSql, WordsThatBeginAClauseAreTakenApartSoThatNoStatementIsCutThere)
@@ -148,6 +149,24 @@ TEST(FilterSql, LikeMatchesItsOwnWildcardsAsThemselves)
         expectText(Like(SqliteFile, u"F"_s, c.text, c.anchor), c.sqlite);
         expectText(Like(SqlServer, u"F"_s, c.text, c.anchor), c.sqlServer);
     }
+}
+
+TEST(FilterSql, WhatIsReportedAsTextIsComparedAsTextOnPostgreSql)
+{
+    constexpr Dialect postgres{dbOracle, true, false, Engine::PostgreSQL};
+    expectText(Like(postgres, u"F"_s, u"a"_s, Anchor::End), "CAST(F AS TEXT) LIKE '%a'");
+    expectText(IsEmptyText(postgres, u"F"_s), "(F IS NULL OR CAST(F AS TEXT) = '')");
+    expectText(IsNotEmptyText(postgres, u"F"_s), "CAST(F AS TEXT) LIKE '_%'");
+    expectText(IsTrue({dbAccess, true, false, Engine::PostgreSQL}, u"F"_s, true), "F = '1'");
+}
+
+TEST(FilterSql, ValuesAreLimitedInTheEnginesOwnWords)
+{
+    const auto limited = [](const Dialect &dialect) { return DistinctValues(dialect, u"F"_s, u"T"_s, 5); };
+    for (const Engine engine : {Engine::SQLite, Engine::PostgreSQL, Engine::MySQL})
+        EXPECT_TRUE(limited({dbSQLServer, true, false, engine}).endsWith(u" LIMIT 5"));
+    EXPECT_TRUE(limited(SqliteFile).endsWith(u" LIMIT 5"));
+    EXPECT_TRUE(limited(SqlServer).endsWith(u" OFFSET 0 ROWS FETCH NEXT 5 ROWS ONLY"));
 }
 
 TEST(FilterSql, TermsAreJoinedAsTheyStand)

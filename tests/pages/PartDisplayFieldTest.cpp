@@ -124,6 +124,33 @@ TEST_F(PartPage, WithoutATableTheListsStayAndOnlyTheTextIsShown)
     EXPECT_FALSE(page.Changed());
 }
 
+TEST_F(PartPage, WithoutAPartStatementEveryFieldIsOffered)
+{
+    control.sqlPartDisplay.clear();
+    page.SelectionChanged();
+    EXPECT_TRUE(fields("List_Cho").isEmpty());
+    EXPECT_EQ(fields("List_NotCho"), QStringList({u"ID"_s, u"Full Name"_s, u"City"_s}));
+    doubleClick("List_NotCho", 1);
+    EXPECT_EQ(text(), u"select [Full Name] from Staff"_s);
+}
+
+TEST_F(PartPage, TheTableIsThatOfTheStatementWhoseFieldsAreOffered)
+{
+    control.sqlPartDisplay = u"select City from OldStaff"_s;
+    page.SelectionChanged();
+    doubleClick("List_NotCho", 0);
+    EXPECT_EQ(text(), u"select [City],[ID] from Staff"_s);
+}
+
+TEST_F(PartPage, AMovedFieldIsSelectedSoThatItCanGoBack)
+{
+    click("List_NotCho", 1);
+    press(page, "Cmd_add");
+    press(page, "Cmd_Abs");
+    EXPECT_EQ(text(), u"select [City] from Staff"_s);
+    EXPECT_EQ(fields("List_NotCho"), QStringList({u"ID"_s, u"Full Name"_s}));
+}
+
 TEST_F(PartPage, TheButtonsWaitForASelection)
 {
     EXPECT_FALSE(part(page, "Cmd_add").isEnabled());

@@ -70,6 +70,13 @@ TEST_P(EachPage, ShowsTheProperty)
     EXPECT_FALSE(page->Changed());
 }
 
+TEST_P(EachPage, ALongTextIsShownFromItsBeginning)
+{
+    control.setProperty(GetParam().property, u"select a from T "_s.repeated(50));
+    page->SelectionChanged();
+    EXPECT_EQ(text().cursorPosition(), 0);
+}
+
 TEST_P(EachPage, TypingMarksItChangedAndWritesNothing)
 {
     const QSignalSpy changed(page.get(), &PropertyPage::ChangedChanged);

@@ -63,6 +63,8 @@ class Session
 {
 public:
     virtual ~Session();
+    // As its driver names it; see Connection::EngineName.
+    virtual QString engineName() const { return {}; }
     // Refuses what is not one statement that returns rows and changes nothing, before running any of it. With
     // ReadWrite the statement is prepared for writing back as far as it allows that.
     virtual std::unique_ptr<Statement> prepare(const QString &sql, Access access) = 0;

@@ -18,7 +18,7 @@ CellFilter conditionOfCell(ControlHub &hub, int row, int col)
         text = recordset.CellText(record, col - 1);
     const QString caption = hub.parts.vsfgDataGrid->TextMatrix(0, col);
     return BuildCellFilter(hub.filterManager().SQLManager().GetSelFieldRealName(caption),
-                           recordset.Fields().Item(col - 1).Type(), text);
+                           recordset.Fields().Item(col - 1).Type(), text, hub.result.engine());
 }
 
 } // namespace

@@ -210,11 +210,13 @@ void GridCommands::perform(void (*command)(ControlHub &))
 void GridCommands::goToTypedPage()
 {
     const qint32 page = PageView::pageFromText(m_hub.parts.txtPage->text());
+    const QPointer<KOVAVSFDataGrid> alive(&m_hub.q);
     if (page < 1)
         Messages::tell(&m_hub.q, GridTexts::NotAPageNumber);
     else if (SaveRecord(m_hub))
         TurnToPage(m_hub, page);
-    m_hub.updateRecordPosition();
+    if (alive)
+        m_hub.updateRecordPosition();
 }
 
 void GridCommands::toggleFromResult()
@@ -231,8 +233,11 @@ void GridCommands::showMenu(const QPoint &position)
     VSFlexGrid &grid = *m_hub.parts.vsfgDataGrid;
     if (!m_hub.isSingleRecordShown()) {
         const int row = grid.rowAt(grid.viewport()->mapFromGlobal(position).y()) + 1;
+        const QPointer<KOVAVSFDataGrid> alive(&m_hub.q);
         if (row >= 1 && row != grid.Row())
             grid.PutRow(row);
+        if (!alive)
+            return;
     }
     m_menu.show(position);
 }
@@ -287,7 +292,10 @@ bool GridCommands::eventFilter(QObject *watched, QEvent *event)
         if (isShortcut(key)) {
             qint16 keyCode = virtualKey(key);
             qint16 shift = shiftState(key.modifiers());
+            const QPointer<KOVAVSFDataGrid> alive(&m_hub.q);
             Q_EMIT m_hub.q.DataKeyDown(keyCode, shift);
+            if (!alive)
+                return true;
             m_isKeyTaken = keyCode == 0;
             if (m_isKeyTaken) {
                 event->accept();

@@ -42,7 +42,7 @@ std::optional<QString> askUser(ControlHub &hub, const FilterManagerRollback &gro
     if (!ground.isResultUntouched() ||
         !BuildLikeCondition(dialog.strFindText(),
                             searchedFields(dialog, catalogue, hub.result.recordset()->Fields()), latest,
-                            ground.manager().DBType(), condition))
+                            ground.manager().DBType(), condition, hub.result.engine()))
         return {};
     return condition;
 }

@@ -3,6 +3,8 @@
 #include "control/KOVAVSFDataGridPrivate.h"
 #include "grid/FlexGrid.h"
 
+#include <QtCore/QPointer>
+
 namespace KOVAVSFDataGridLib {
 
 qint32 GetShowAllFieldsFlag(qint32 showModel)
@@ -20,7 +22,7 @@ bool ShownStatement::OpenShowSQL(const QString &strSQL)
     VSFlexGrid &grid = *m_hub.parts.vsfgDataGrid;
     const QStringList headingsBefore = grid.Headings();
     // What a filter manager was set up for stays right when another control sets another type meanwhile.
-    if (strSQL.isEmpty() || !m_hub.open(strSQL, m_hub.filterManager().DBType()))
+    if (strSQL.isEmpty() || m_hub.open(strSQL, m_hub.filterManager().DBType()) != ControlHub::Opening::Done)
         return false;
     m_current = strSQL;
     m_hub.showPage(1);
@@ -40,10 +42,12 @@ bool ShownStatement::reload(const QString &statement, Previous previous)
         rememberAsPrevious();
     m_hub.columns().SaveColumnWidths(0);
     const QString filterBefore = m_hub.sqlFilter;
+    const QPointer<KOVAVSFDataGrid> alive(&m_hub.q);
     m_hub.q.PutSQLFilter(statement);
-    if (OpenShowSQL(m_hub.sqlFilter))
+    if (alive && OpenShowSQL(m_hub.sqlFilter))
         return true;
-    m_hub.q.PutSQLFilter(filterBefore);
+    if (alive)
+        m_hub.q.PutSQLFilter(filterBefore);
     return false;
 }
 

@@ -5,6 +5,9 @@
 #include "ado/Error.h"
 #include "ado/OdbcCatalogue.h"
 #include "control/connection/ConnectionBuilder.h"
+#include "control/connection/ConnectionTexts.h"
+#include "forms/Messages.h"
+#include "query/AllDBType.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -37,11 +40,27 @@ QStringList dataSourceNames()
     return names;
 }
 
+// Building a connection to Oracle goes through the factory, which may lead it elsewhere; a host's own may
+// have to reach something first. Null after telling that it failed.
+std::shared_ptr<ADODB::Connection> newConnection(QWidget *parent, qint32 dbType)
+{
+    if (dbType != dbOracle)
+        return std::make_shared<ADODB::Connection>();
+    try {
+        return ADODB::ConnectionFactory::instance().newConnection(dbType);
+    } catch (const std::exception &error) {
+        Messages::tell(parent, ConnectionTexts::NotConnected.arg(QString::fromUtf8(error.what())));
+        return nullptr;
+    }
+}
+
 } // namespace
 
 std::optional<QString> BuildConnection(QWidget *parent, const QString &present, qint32 dbType)
 {
-    const auto connection = ADODB::ConnectionFactory::instance().newConnection(dbType);
+    const auto connection = newConnection(parent, dbType);
+    if (!connection)
+        return std::nullopt;
     ConnectionBuilder builder({ADODB::odbcDrivers(), dataSourceNames(),
                                [&](const QString &text) { return tryOut(*connection, text); }},
                               parent);

@@ -9,9 +9,6 @@ using Kind = ConnectionTarget::Kind;
 
 namespace {
 
-const QString sqliteProvider = u"SQLite"_s;
-const QString accessProvider = u"Microsoft.ACE.OLEDB.12.0"_s;
-
 // Each field's keywords; the first is the one that is written.
 const QStringList providerKeywords{u"Provider"_s};
 const QStringList fileKeywords{u"Data Source"_s};
@@ -50,6 +47,21 @@ ConnectionTarget targetOf(const ADODB::ConnectionString &connection)
     return {isAccessFile ? Kind::AccessFile : Kind::SqliteFile, {}};
 }
 
+// A file is read by a provider of this system; whatever else goes by ODBC, which needs none named.
+QString providerOf(Kind kind)
+{
+    switch (kind) {
+    case Kind::SqliteFile:
+        return u"SQLite"_s;
+    case Kind::AccessFile:
+        return u"Microsoft.ACE.OLEDB.12.0"_s;
+    case Kind::DataSource:
+    case Kind::Driver:
+        break;
+    }
+    return {};
+}
+
 } // namespace
 
 ConnectionSettings ConnectionSettings::read(const ADODB::ConnectionString &connection)
@@ -68,29 +80,27 @@ ConnectionSettings ConnectionSettings::read(const ADODB::ConnectionString &conne
 ADODB::ConnectionString ConnectionSettings::write(const ADODB::ConnectionString &others) const
 {
     ADODB::ConnectionString connection = others;
-    for (const QStringList &keywords :
-         {providerKeywords, fileKeywords, dataSourceKeywords, driverKeywords, serverKeywords, portKeywords,
-          databaseKeywords, userKeywords, passwordKeywords}) {
+    const auto put = [&](const QStringList &keywords, const QString &value) {
         for (const QString &keyword : keywords)
             connection.remove(keyword);
-    }
-    const auto put = [&](const QStringList &keywords, const QString &value) {
         if (!value.isEmpty())
             connection.set(keywords.first(), value);
     };
-    if (target.isFile()) {
-        put(providerKeywords, target.kind == Kind::AccessFile ? accessProvider : sqliteProvider);
-        put(fileKeywords, file);
-        return connection;
-    }
-    put(target.kind == Kind::Driver ? driverKeywords : dataSourceKeywords, target.name);
-    if (target.kind == Kind::Driver) {
+    const bool isDriver = target.kind == Kind::Driver;
+    const bool isDataSource = target.kind == Kind::DataSource;
+    put(providerKeywords, providerOf(target.kind));
+    put(fileKeywords, target.isFile() ? file : QString());
+    put(dataSourceKeywords, isDataSource ? target.name : QString());
+    put(driverKeywords, isDriver ? target.name : QString());
+    if (isDriver) {
         put(serverKeywords, server);
         put(portKeywords, port);
         put(databaseKeywords, database);
     }
-    put(userKeywords, user);
-    put(passwordKeywords, password);
+    if (!target.isFile()) {
+        put(userKeywords, user);
+        put(passwordKeywords, password);
+    }
     return connection;
 }
 

@@ -89,6 +89,7 @@ std::optional<FullScreenOutcome> ShowFullScreen(const FullScreenRequest &control
 
     // On the heap, because a host that closes its window under the viewer destroys it as well.
     Visit visit;
+    const QPointer<QWidget> owner = control.parts.picMainBack;
     auto *viewer = new frm_FullScreen(hostFor(control, visit), control.parts.picMainBack);
     const QPointer<frm_FullScreen> alive = viewer;
     // A host that reloads the control meanwhile, from a timer say, takes its result and its history away.
@@ -108,7 +109,7 @@ std::optional<FullScreenOutcome> ShowFullScreen(const FullScreenRequest &control
     if (!alive)
         return std::nullopt;
     const std::unique_ptr<frm_FullScreen> owned(viewer);
-    if (visit.isObsolete)
+    if (!owner || visit.isObsolete)
         return std::nullopt;
 
     takeOver(control, *viewer, wasAll);

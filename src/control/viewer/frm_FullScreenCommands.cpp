@@ -6,6 +6,7 @@
 #include "control/viewer/ViewerMenu.h"
 #include "control/viewer/ViewerTexts.h"
 #include "control/viewer/frm_FullScreen.h"
+#include "filter/EngineOf.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "query/Conditions.h"
@@ -226,8 +227,8 @@ bool frm_FullScreen::filterBySelectedCell()
     if (grid.Row() == 0 || grid.Text().isEmpty())
         return false;
     const QString name = history().GetSelFieldRealName(grid.TextMatrix(0, grid.Col()));
-    const CellFilter filter =
-        BuildCellFilter(name, m_recordset->Fields().Item(grid.Col() - 1).Type(), grid.Text());
+    const CellFilter filter = BuildCellFilter(name, m_recordset->Fields().Item(grid.Col() - 1).Type(),
+                                              grid.Text(), EngineOf(m_connection));
     if (!filter.message.isEmpty())
         Messages::tell(this, filter.message);
     return !filter.condition.isEmpty() && filterBy(filter.condition);

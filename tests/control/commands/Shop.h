@@ -1,26 +1,24 @@
 #pragma once
 
-#include <KOVAVSFDataGrid>
+#include "Hands.h"
 
-#include "support/ExpectedWarnings.h"
-#include "support/MessageAnswers.h"
 #include "support/TestDatabase.h"
-#include "support/WindowAnswers.h"
 
-#include <QtTest/QSignalSpy>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QTableView>
-#include <QtWidgets/QToolBar>
 #include <gtest/gtest.h>
 
 namespace KovaTest {
 
-// A control on the screen over a small shop, and the hands of a person who uses it.
+struct ShopDatabase
+{
+    ShopDatabase();
+    TestDatabase database;
+};
+
+// A person before a control over a small shop.
 //
 // 商品 has the fields ID, 名称, [Unit Price], 城市, 日期, 停用 and 图片 (binary) and twelve records; 订单
 // refers to the record 3. The part fields are ID and 名称.
-class Shop : public testing::Test
+class Shop : public testing::Test, protected ShopDatabase, protected Hands
 {
 protected:
     static constexpr int Records = 12;
@@ -28,48 +26,7 @@ protected:
     static QString statementOfPart() { return QStringLiteral("SELECT ID,名称 FROM 商品"); }
 
     Shop();
-    // Leaves the history with one entry and all fields shown.
     bool load(const QString &statement = statementOfAll(), const QString &part = statementOfPart());
-
-    // A click of the left button on the toolbar button, which must be there to be seen.
-    void click(const QString &key);
-    // A click of the right button on a cell, and one of the left on a menu item.
-    void choose(int item, int row, int col = 1);
-    void clickCell(int row, int col, Qt::MouseButton button = Qt::LeftButton);
-
-    QAction *button(const QString &key) const;
-    bool isPressed(const QString &key) const { return button(key)->isChecked(); }
-    bool isSingleRecordShown() const { return list->isVisible(); }
-
-    // What the shown columns head and hold.
-    QStringList columns() const;
-    // The shown texts of a column, from the first row on.
-    QStringList texts(const QString &column) const;
-    int rows() const { return table->model()->rowCount(); }
-    // The latest entry of the history, as the line below the grid tells it.
-    QString statement() const;
-    QString previousStatementAfterStepBack();
-    // The value beside a field name in the single-record list; Null when the field is not listed.
-    QString listed(const QString &field) const;
-    int listedRow(const QString &field) const; // of the list's model, -1 when there is none
-
-    // Answers for the dialogs.
-    static void tick(QDialog &dialog, const QStringList &fields);
-    static void sort(QDialog &dialog, const QStringList &fields, bool isDescending = false);
-    static void find(QDialog &dialog, const QString &words, const QString &field = {});
-    static void filter(QDialog &dialog, const QString &condition);
-    static void cancel(QDialog &dialog);
-
-    TestDatabase database;
-    KOVAVSFDataGrid grid;
-    QTableView *table;
-    QTableView *list;
-    QLineEdit *edit;
-    QToolBar *toolbar;
-    QLabel *pageLabel;
-    MessageAnswers messages;
-    ExpectedWarning noRaise{QStringLiteral("does not support raise()")};
-    ExpectedWarning noGrab{QStringLiteral("does not support grabbing the keyboard")};
 };
 
 } // namespace KovaTest

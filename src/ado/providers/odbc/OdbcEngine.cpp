@@ -32,7 +32,8 @@ OdbcEngine::Kind kindOf(const QString &name)
 OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
 {
     OdbcEngine engine;
-    engine.kind = kindOf(connection.info(SQL_DBMS_NAME));
+    engine.dbmsName = connection.info(SQL_DBMS_NAME);
+    engine.kind = kindOf(engine.dbmsName);
     engine.quote = connection.info(SQL_IDENTIFIER_QUOTE_CHAR).trimmed();
     switch (engine.kind) {
     case Kind::PostgreSql:

@@ -14,6 +14,7 @@ struct OdbcEngine
     enum class Kind { Other, PostgreSql, MySql, MariaDb, Sqlite, SqlServer, Oracle };
 
     Kind kind = Kind::Other;
+    QString dbmsName; // as the driver gives it
     SqlDialect dialect = SqlDialect::Standard;
     QString quote; // around a name; empty where names can't be quoted
     // Between these two no statement, nor any function that it calls, can change data. Empty where the engine

@@ -81,7 +81,7 @@ void OdbcQuery::read(RowStore &rows, const std::function<bool()> &goOn, int time
         done = readAll(reader, rows, watch);
     }
     if (!done) {
-        rows = RowStore(rows.columns());
+        rows.clear();
         OdbcValueReader reader(*m_statement, m_columns);
         readAll(reader, rows, watch);
     }

@@ -18,6 +18,7 @@ public:
 
     std::unique_ptr<Statement> prepare(const QString &sql, Access access) override;
     QString tableStatement(const QString &table) const override;
+    QString engineName() const override { return m_engine.dbmsName; }
     void close() override;
     bool isOpen() const override;
 

@@ -47,7 +47,7 @@ SQLRETURN OdbcValueReader::readSome()
 
 bool OdbcValueReader::fetch(const OdbcWatch &watch)
 {
-    m_part = RowStore(m_part.columns());
+    m_part.clear();
     const SQLRETURN code = watch.run([this] { return readSome(); });
     if (code != SQL_NO_DATA)
         m_statement.check(code);

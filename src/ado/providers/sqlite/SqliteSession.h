@@ -33,6 +33,7 @@ public:
 
     std::unique_ptr<Statement> prepare(const QString &sql, Access access) override;
     QString tableStatement(const QString &table) const override;
+    QString engineName() const override { return QStringLiteral("SQLite"); }
     void close() override;
 
     const SqliteEngine &engine() const { return m_engine; }

@@ -1,0 +1,92 @@
+#include "ado/MiddleTier.h"
+
+#include "ado/ConnectionString.h"
+
+#include <QtCore/QStringList>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+// Each in the words of all drivers.
+const QStringList &userWords()
+{
+    static const QStringList words{u"UID"_s, u"User ID"_s, u"User"_s, u"Username"_s};
+    return words;
+}
+
+const QStringList &passwordWords()
+{
+    static const QStringList words{u"PWD"_s, u"Password"_s};
+    return words;
+}
+
+const QStringList &serverWords()
+{
+    static const QStringList words{u"Server"_s, u"Servername"_s, u"Host"_s, u"Hostname"_s};
+    return words;
+}
+
+bool namesAny(const ConnectionString &text, const QStringList &words)
+{
+    return std::ranges::any_of(words, [&](const QString &word) { return text.contains(word); });
+}
+
+void takeOver(ConnectionString &text, const ConnectionString &from, const QStringList &words)
+{
+    if (namesAny(text, words))
+        return;
+    for (const QString &word : words) {
+        if (from.contains(word))
+            text.set(word, from.value(word));
+    }
+}
+
+// Also by a data source's name: what it stands for is overruled by what stands beside it.
+bool leadsToServer(const ConnectionString &text)
+{
+    return namesAny(text, serverWords()) || namesAny(text, {u"DSN"_s, u"FILEDSN"_s}) ||
+           text.value(u"Provider"_s).startsWith("MSDASQL"_L1, Qt::CaseInsensitive);
+}
+
+ConnectionString throughServer(ConnectionString text, const QString &server, const QString &port)
+{
+    // Where a driver is named this is the server, else a data source.
+    if (text.contains(u"Driver"_s) && text.contains(u"Data Source"_s)) {
+        text.set(u"Server"_s, text.value(u"Data Source"_s));
+        text.remove(u"Data Source"_s);
+    }
+    if (!leadsToServer(text))
+        return text;
+    if (!server.isEmpty()) {
+        const auto written =
+            std::ranges::find_if(serverWords(), [&](const QString &word) { return text.contains(word); });
+        const QString keyword = written == serverWords().end() ? serverWords().front() : *written;
+        for (const QString &word : serverWords()) {
+            if (word != keyword)
+                text.remove(word);
+        }
+        text.set(keyword, server);
+    }
+    if (!port.isEmpty())
+        text.set(u"Port"_s, port);
+    return text;
+}
+
+} // namespace
+
+ConnectionString MiddleTier::rewritten(const ConnectionString &database) const
+{
+    if (connection.trimmed().isEmpty())
+        return throughServer(database, server, port);
+    ConnectionString text(connection);
+    takeOver(text, database, userWords());
+    takeOver(text, database, passwordWords());
+    return text;
+}
+
+} // namespace ADODB

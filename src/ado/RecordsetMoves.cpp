@@ -1,0 +1,114 @@
+#include "ado/RecordsetPrivate.h"
+
+// The members of Recordset that move the current record or say where it is.
+
+namespace ADODB {
+
+void Recordset::Private::needInRange(qint64 number, qint64 limit, const QString &text) const
+{
+    if (position.count() == 0)
+        throw Error(adErrNoCurrentRecord, Texts::noCurrentRecord());
+    if (number < 1 || number > limit)
+        throw Error(adErrInvalidArgument, text.arg(number).arg(limit));
+}
+
+bool Recordset::isBOF() const
+{
+    return !d->isAdding() && d->position.isBOF();
+}
+
+bool Recordset::isEOF() const
+{
+    return !d->isAdding() && d->position.isEOF();
+}
+
+// Moving away saves. A new record that nobody wrote anything into is nothing to save.
+void Recordset::leaveRecord()
+{
+    if (d->isAdding() && d->edit().isEmpty())
+        CancelUpdate();
+    else
+        Update();
+}
+
+void Recordset::moveTo(qint64 record, EventReasonEnum reason)
+{
+    d->position.moveTo(record);
+    d->tellMoved(reason);
+}
+
+void Recordset::moveBy(qint64 records, BookmarkEnum start, EventReasonEnum reason)
+{
+    leaveRecord();
+    d->position.move(records, start);
+    d->tellMoved(reason);
+}
+
+void Recordset::Move(qint64 records, BookmarkEnum start)
+{
+    moveBy(records, start, adRsnMove);
+}
+
+void Recordset::MoveFirst()
+{
+    moveBy(0, adBookmarkFirst, adRsnMoveFirst);
+}
+
+void Recordset::MoveNext()
+{
+    moveBy(1, adBookmarkCurrent, adRsnMoveNext);
+}
+
+void Recordset::MovePrevious()
+{
+    moveBy(-1, adBookmarkCurrent, adRsnMovePrevious);
+}
+
+void Recordset::MoveLast()
+{
+    moveBy(0, adBookmarkLast, adRsnMoveLast);
+}
+
+qint64 Recordset::AbsolutePosition() const
+{
+    return d->isAdding() ? qint64{adPosUnknown} : d->position.absolute();
+}
+
+void Recordset::PutAbsolutePosition(qint64 position)
+{
+    leaveRecord();
+    d->needInRange(position, RecordCount(), Texts::badPosition());
+    moveTo(position, adRsnMove);
+}
+
+qint32 Recordset::PageSize() const
+{
+    return d->pageSize;
+}
+
+void Recordset::PutPageSize(qint32 records)
+{
+    if (records < 1)
+        throw Error(adErrInvalidArgument, Texts::badPageSize());
+    d->pageSize = records;
+}
+
+qint64 Recordset::PageCount() const
+{
+    return (RecordCount() + d->pageSize - 1) / d->pageSize;
+}
+
+qint64 Recordset::AbsolutePage() const
+{
+    const qint64 position = AbsolutePosition();
+    return position < 1 ? position : (position - 1) / d->pageSize + 1;
+}
+
+void Recordset::PutAbsolutePage(qint64 page)
+{
+    leaveRecord();
+    d->needInRange(page, PageCount(), Texts::badPage());
+    moveTo((page - 1) * d->pageSize + 1, adRsnMove);
+}
+
+} // namespace ADODB

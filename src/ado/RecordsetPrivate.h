@@ -1,0 +1,86 @@
+#pragma once
+
+#include "ado/Error.h"
+#include "ado/RecordEditor.h"
+#include "ado/RecordPosition.h"
+#include "ado/Recordset.h"
+#include "ado/RecordsetObserver.h"
+#include "ado/Snapshot.h"
+#include "ado/Texts.h"
+
+#include <QtCore/QObject>
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+namespace ADODB {
+
+class Session;
+
+// What a recordset keeps and its groups of members share: opening is in Recordset.cpp, moving in
+// RecordsetMoves.cpp, editing in RecordsetEditing.cpp.
+struct Recordset::Private
+{
+    CursorLocationEnum cursorLocation = adUseServer;
+    CursorTypeEnum cursorType = adOpenForwardOnly;
+    LockTypeEnum lockType = adLockReadOnly;
+    qint32 pageSize = 10;
+    QString source;
+    std::function<bool(qint64)> progress;
+    qint64 memoryLimit = RowStore::defaultMemoryLimit;
+
+    ADODB::Fields fields;
+    RecordPosition position;
+    std::optional<RecordEditor> editor;
+    std::optional<Snapshot> snapshot; // set while open, as is the editor
+
+    std::vector<RecordsetObserver *> observers;
+    std::unique_ptr<QObject> companion;
+
+    // Only while open; all members go through one of these two.
+    Snapshot &rows()
+    {
+        if (!snapshot)
+            throw Error(adErrObjectClosed, Texts::recordsetClosed());
+        return *snapshot;
+    }
+    RecordEditor &edit()
+    {
+        rows();
+        return *editor;
+    }
+    void needClosed() const
+    {
+        if (snapshot)
+            throw Error(adErrObjectOpen, Texts::recordsetOpen());
+    }
+    qint64 currentRecord() const
+    {
+        if (position.isDeleted())
+            throw Error(dbErrDeletedRow, Texts::deletedRecord());
+        if (position.record() == 0)
+            throw Error(adErrNoCurrentRecord, Texts::noCurrentRecord());
+        return position.record();
+    }
+    bool isAdding() { return edit().mode() == adEditAdd; }
+
+    Snapshot read(Session &session, const QString &statement);
+    // The number must be one of 1…limit; `text` is the message for one that is not.
+    void needInRange(qint64 number, qint64 limit, const QString &text) const;
+
+    // An observer may remove itself or others when it is told.
+    void tell(void (RecordsetObserver::*what)(EventReasonEnum), EventReasonEnum reason)
+    {
+        const auto told = observers;
+        for (RecordsetObserver *observer : told) {
+            if (std::find(observers.begin(), observers.end(), observer) != observers.end())
+                (observer->*what)(reason);
+        }
+    }
+    void tellMoved(EventReasonEnum reason) { tell(&RecordsetObserver::moveComplete, reason); }
+    void tellChanged(EventReasonEnum reason) { tell(&RecordsetObserver::recordChangeComplete, reason); }
+    void tellReplaced(EventReasonEnum reason) { tell(&RecordsetObserver::recordsetChangeComplete, reason); }
+};
+
+} // namespace ADODB

@@ -1,0 +1,122 @@
+#include "FaultFixture.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace KovaTest {
+
+namespace {
+
+const QString OpenErrorPrefix = u"错误描述为："_s;
+const QString LoadFailed = u"数据库打开失败。"_s;
+
+// Everything that a window tells about itself.
+QStringList visibleTexts(const QWidget &window)
+{
+    QStringList texts;
+    QList<const QWidget *> widgets{&window};
+    widgets += window.findChildren<const QWidget *>();
+    for (const QWidget *widget : widgets) {
+        texts << widget->windowTitle() << widget->toolTip() << widget->statusTip() << widget->accessibleName()
+              << widget->accessibleDescription() << widget->property("text").toString();
+    }
+    return texts;
+}
+
+} // namespace
+
+void FaultFixture::SetUp()
+{
+    if (connection().isEmpty())
+        GTEST_SKIP() << "KOVA_TEST_POSTGRESQL is not set";
+    run(u"DROP TABLE IF EXISTS faults"_s);
+    run(u"CREATE TABLE faults AS SELECT g AS id, 'name ' || g AS name FROM generate_series(1, 1000) g"_s);
+    // The type that tells of every failure; with Oracle's a load that can't read the fields ends silently.
+    hands.emplace(connection(), KOVAVSFDataGrid::dbSQLServer);
+    ASSERT_TRUE(load(harmless)); // what libraries open once and for all is open now
+    handlesBefore = openHandles();
+    hands->grid.Clear();
+}
+
+void FaultFixture::TearDown()
+{
+    if (IsSkipped())
+        return;
+    controlServer("start", "postgresql");
+    for (const ShownMessage &message : hands->messages.shown())
+        EXPECT_FALSE((message.text + message.title + message.cause).contains(markerPassword()))
+            << "in a message";
+    for (const QString &text : visibleTexts(hands->grid))
+        EXPECT_FALSE(text.contains(markerPassword())) << "in the window";
+    hands->messages.clear();
+    hands->grid.PutConnectionString(connection());
+    EXPECT_TRUE(load(harmless)) << "the next command works";
+    EXPECT_EQ(hands->rows(), 3);
+    EXPECT_EQ(openHandles(), handlesBefore) << "no file or socket is left open";
+}
+
+bool FaultFixture::load(const QString &statement)
+{
+    return hands->load(statement, {});
+}
+
+void FaultFixture::run(const QString &statement)
+{
+    OdbcSession(connection()).run(statement);
+}
+
+QString FaultFixture::ask(const QString &statement)
+{
+    return OdbcSession(connection()).ask(statement);
+}
+
+QString FaultFixture::openError()
+{
+    const QStringList texts = hands->messages.texts();
+    hands->messages.clear();
+    EXPECT_EQ(texts.size(), 1) << qUtf8Printable(texts.join(u'|'));
+    const QString text = texts.value(0);
+    EXPECT_TRUE(text.startsWith(OpenErrorPrefix)) << qUtf8Printable(text);
+    EXPECT_FALSE(text.contains(markerPassword()));
+    return text.mid(OpenErrorPrefix.size());
+}
+
+QString FaultFixture::loadError()
+{
+    QStringList texts = hands->messages.texts();
+    hands->messages.clear();
+    EXPECT_EQ(texts.size(), 2) << qUtf8Printable(texts.join(u'|'));
+    EXPECT_EQ(texts.value(1), LoadFailed);
+    const QString text = texts.value(0);
+    EXPECT_TRUE(text.startsWith(OpenErrorPrefix)) << qUtf8Printable(text);
+    EXPECT_FALSE(text.contains(markerPassword()));
+    return text.mid(OpenErrorPrefix.size());
+}
+
+void FaultFixture::expectAsLoaded() const
+{
+    EXPECT_EQ(hands->rows(), 1000);
+    EXPECT_EQ(hands->columns(), QStringList({u"id"_s, u"name"_s}));
+    EXPECT_EQ(hands->texts(u"name"_s).last(), u"name 1000"_s);
+    EXPECT_EQ(hands->statement(), u"SELECT * FROM faults"_s);
+    EXPECT_TRUE(hands->table->isEnabled());
+}
+
+int openHandles()
+{
+    const QDir folder(u"/proc/self/fd"_s);
+    return folder.exists() ? static_cast<int>(folder.entryList(QDir::System | QDir::AllEntries).size()) : -1;
+}
+
+qint64 memoryInUse()
+{
+    QFile file(u"/proc/self/statm"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    constexpr qint64 pagesPerMiB = 256;
+    return file.readAll().split(' ').value(1).toLongLong() / pagesPerMiB;
+}
+
+} // namespace KovaTest

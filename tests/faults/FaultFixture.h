@@ -1,0 +1,49 @@
+#pragma once
+
+#include "../control/commands/Hands.h"
+
+#include "servers/OdbcSession.h"
+#include "servers/Servers.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace KovaTest {
+
+// A user before a control on a PostgreSQL server that is this test's to break.
+//
+// The table faults has the fields id and name and a thousand records. After each test the server runs, the
+// user has seen the password nowhere, what he does next works, and nothing is left open.
+class FaultFixture : public testing::Test
+{
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    bool load(const QString &statement = QStringLiteral("SELECT * FROM faults"));
+    // Past the code under test, over a connection of its own.
+    static void run(const QString &statement);
+    static QString ask(const QString &statement);
+    // The one message that the open routine told, without its beginning; the load tells a second one behind
+    // it. Forgets both.
+    QString openError();
+    QString loadError();
+    // What the user sees is still the load of all records.
+    void expectAsLoaded() const;
+
+    static QString connection() { return serverConnection("KOVA_TEST_POSTGRESQL"); }
+
+    std::optional<Hands> hands;
+
+private:
+    const QString harmless = QStringLiteral("SELECT 1 AS one FROM generate_series(1, 3)");
+    int handlesBefore = -1;
+};
+
+// Open files, sockets and pipes of this process; -1 where that can't be told.
+int openHandles();
+// Memory in use, in MiB; 0 where that can't be told.
+qint64 memoryInUse();
+
+} // namespace KovaTest

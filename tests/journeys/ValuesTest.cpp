@@ -1,0 +1,164 @@
+// Values at the edge of what engines hold, as they stand in the grid.
+#include "EngineJourney.h"
+
+#include <limits>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// journey_values has the fields id, short_text, long_text, big (38 digits), real_number, a_day, a_moment and
+// a picture; each test brings its records.
+class EngineValues : public EngineTest
+{
+protected:
+    void SetUp() override
+    {
+        EngineTest::SetUp();
+        if (IsSkipped())
+            return;
+        const QString create =
+            u"CREATE TABLE journey_values (id INTEGER PRIMARY KEY, short_text VARCHAR(60), long_text %1,"
+            " big DECIMAL(38,0), real_number DOUBLE PRECISION, a_day DATE, a_moment %2, picture %3)"_s;
+        database->run({u"DROP TABLE IF EXISTS journey_values"_s,
+                       create.arg(QString::fromLatin1(engine.longText), QString::fromLatin1(engine.moment),
+                                  QString::fromLatin1(engine.binary))});
+    }
+
+    void insert(const QString &fields, const QString &values)
+    {
+        database->run({u"INSERT INTO journey_values (id,%1) VALUES (%2)"_s.arg(fields, values)});
+    }
+
+    bool load() { return hands->load(u"SELECT * FROM journey_values ORDER BY id"_s, {}); }
+    QString shown(const QString &field) const { return hands->texts(field).value(0); }
+    // The whole value as a host reads it, of the record at `position`.
+    QVariant value(const char *field, qint64 position = 1) const
+    {
+        QObject *record = hands->grid.RecordSet();
+        record->setProperty("AbsolutePosition", position);
+        QObject *object = nullptr;
+        QMetaObject::invokeMethod(record, "Fields", Q_RETURN_ARG(QObject *, object),
+                                  Q_ARG(QString, QString::fromLatin1(field)));
+        return object->property("Value");
+    }
+    bool isPostgres() const { return QByteArray(engine.name).startsWith("PostgreSQL"); }
+};
+
+const QString Song = u"中文🍵"_s;
+constexpr int Songs = 104'858; // of 10 bytes each: a little more than 1 MB
+
+} // namespace
+
+KOVA_ON_ALL_ENGINES(EngineValues);
+
+TEST_P(EngineValues, ChineseAndEmojiComeThroughWhole)
+{
+    insert(u"short_text"_s, u"1,'客户「张三」 🍵👩‍👩‍👧 𝄞 é'"_s);
+    ASSERT_TRUE(load());
+    EXPECT_EQ(shown(u"short_text"_s), u"客户「张三」 🍵👩‍👩‍👧 𝄞 é"_s);
+}
+
+TEST_P(EngineValues, AMegabyteOfTextComesThroughWhole)
+{
+    const QString repeated =
+        engine.isSqliteFile ? u"replace(hex(zeroblob(%2)),'00','%1')"_s : u"repeat('%1',%2)"_s;
+    insert(u"long_text"_s, u"1,"_s + repeated.arg(Song).arg(Songs));
+    insert(u"long_text"_s, u"2,'short'"_s);
+    ASSERT_TRUE(load());
+    const QString text = value("long_text").toString();
+    EXPECT_EQ(text.size(), Song.size() * Songs);
+    EXPECT_TRUE(text == Song.repeated(Songs));
+    EXPECT_EQ(value("long_text", 2).toString(), u"short"_s);
+}
+
+TEST_P(EngineValues, ANullIsNotAnEmptyText)
+{
+    insert(u"short_text,long_text"_s, u"1,'',''"_s);
+    insert(u"short_text,long_text"_s, u"2,NULL,NULL"_s);
+    ASSERT_TRUE(load());
+    for (const char *field : {"short_text", "long_text"}) {
+        EXPECT_FALSE(value(field, 1).isNull()) << field;
+        EXPECT_EQ(value(field, 1).toString(), QString()) << field;
+        EXPECT_TRUE(value(field, 2).isNull()) << field;
+    }
+    for (const char *field : {"big", "real_number", "a_day", "a_moment", "picture"})
+        EXPECT_TRUE(value(field, 2).isNull()) << field;
+    EXPECT_EQ(hands->texts(u"picture"_s), QStringList({QString(), QString()}));
+}
+
+TEST_P(EngineValues, ThirtyEightDigitsStayExact)
+{
+    insert(u"big"_s, u"1,-12345678901234567890123456789012345678"_s);
+    ASSERT_TRUE(load());
+    if (engine.isSqliteFile) // which keeps such a number as floating point
+        EXPECT_EQ(shown(u"big"_s).left(16), u"-1.2345678901234"_s);
+    else
+        EXPECT_EQ(shown(u"big"_s), u"-12345678901234567890123456789012345678"_s);
+}
+
+TEST_P(EngineValues, NumbersAtTheEndsOfDoublePrecision)
+{
+    insert(u"real_number"_s, u"1,1.7976931348623157e308"_s);
+    insert(u"real_number"_s, u"2,-2.5e-300"_s);
+    insert(u"real_number"_s, u"3,0.1"_s);
+    ASSERT_TRUE(load());
+    // SQLite's ODBC driver reads the largest number as infinite.
+    const double largest = engine.isSqliteFile && engine.variable ? std::numeric_limits<double>::infinity()
+                                                                  : std::numeric_limits<double>::max();
+    EXPECT_EQ(value("real_number", 1).toDouble(), largest);
+    EXPECT_EQ(value("real_number", 2).toDouble(), -2.5e-300);
+    EXPECT_EQ(hands->texts(u"real_number"_s).at(2), u"0.1"_s);
+}
+
+TEST_P(EngineValues, MomentsKeepTheirMicroseconds)
+{
+    insert(u"a_day,a_moment"_s, u"1,'1999-12-31','1999-12-31 23:59:59.123456'"_s);
+    ASSERT_TRUE(load());
+    EXPECT_EQ(shown(u"a_day"_s).section(u' ', 0, 0), u"1999-12-31"_s);
+    EXPECT_TRUE(shown(u"a_moment"_s).startsWith(u"1999-12-31 23:59:59.123"))
+        << qUtf8Printable(shown(u"a_moment"_s));
+}
+
+TEST_P(EngineValues, DaysBeforeTheYearOneAreShownAsTheyAre)
+{
+    if (QByteArray(engine.name).startsWith("MariaDB"))
+        GTEST_SKIP() << "MariaDB has no such days";
+    insert(u"a_day"_s, isPostgres() ? u"1,'0044-03-15 BC'"_s : u"1,'-0043-03-15'"_s);
+    ASSERT_TRUE(load());
+    EXPECT_EQ(shown(u"a_day"_s), isPostgres() ? u"0044-03-15 BC"_s : u"-0043-03-15"_s);
+}
+
+TEST_P(EngineValues, AMomentWithATimeZoneIsShownInTheSessions)
+{
+    if (!isPostgres())
+        GTEST_SKIP() << "only PostgreSQL has a type for it";
+    ASSERT_TRUE(
+        hands->load(u"SELECT TIMESTAMP WITH TIME ZONE '2024-07-01 12:00:00+08' AT TIME ZONE 'UTC' AS utc, "
+                    "TIMESTAMP WITH TIME ZONE '2024-07-01 12:00:00+08' AS zoned FROM journey_values "
+                    "RIGHT JOIN (SELECT 1 AS one) o ON FALSE"_s,
+                    {}));
+    EXPECT_EQ(shown(u"utc"_s), u"2024-07-01 04:00:00"_s);
+    const QString inSession = database->ask(
+        u"SELECT to_char(TIMESTAMP WITH TIME ZONE '2024-07-01 12:00:00+08', 'YYYY-MM-DD HH24:MI:SS')"_s);
+    EXPECT_TRUE(shown(u"zoned"_s).startsWith(inSession)) << qUtf8Printable(shown(u"zoned"_s));
+}
+
+TEST_P(EngineValues, PicturesComeThroughByteForByte)
+{
+    insert(u"picture"_s, u"1,"_s + engine.bytes("00FF27005C0D0A"));
+    ASSERT_TRUE(load());
+    EXPECT_EQ(value("picture").toByteArray().toHex(), QByteArray("00ff27005c0d0a"));
+    EXPECT_EQ(shown(u"picture"_s), u"<7 字节>"_s);
+}
+
+TEST_P(EngineValues, LineEndsAndTabsStayAsTheyAre)
+{
+    const QString text = engine.isSqliteFile || isPostgres()
+                             ? u"'a'||%1(10)||'b'||%1(13)||%1(10)||%1(9)||'c'"_s
+                             : u"concat('a',%1(10),'b',%1(13),%1(10),%1(9),'c')"_s;
+    insert(u"short_text"_s, u"1,"_s + text.arg(isPostgres() ? u"chr"_s : u"char"_s));
+    ASSERT_TRUE(load());
+    EXPECT_EQ(value("short_text").toString(), u"a\nb\r\n\tc"_s);
+}

@@ -1,0 +1,90 @@
+// What conditions look like on engines that compare values in their own way.
+#include "query/Engine.h"
+
+#include "query/Conditions.h"
+
+#include <gtest/gtest.h>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const std::vector<TypedField> AllKinds{
+    {u"name"_s, 202}, {u"price"_s, 131}, {u"day"_s, 133}, {u"picture"_s, 205}};
+
+QString quickFilter(Engine engine, AllDBType database, const QString &words)
+{
+    QString condition;
+    EXPECT_TRUE(BuildLikeCondition(words, AllKinds, u"SELECT * FROM t"_s, database, condition, engine));
+    return condition;
+}
+
+} // namespace
+
+TEST(Engine, IsKnownByTheNameItsDriverGivesIt)
+{
+    EXPECT_EQ(EngineNamed(u"PostgreSQL"_s), Engine::PostgreSQL);
+    EXPECT_EQ(EngineNamed(u"postgresql 15"_s), Engine::PostgreSQL);
+    EXPECT_EQ(EngineNamed(u"MariaDB"_s), Engine::MySQL);
+    EXPECT_EQ(EngineNamed(u"MySQL"_s), Engine::MySQL);
+    EXPECT_EQ(EngineNamed(u"SQLite"_s), Engine::SQLite);
+    EXPECT_EQ(EngineNamed(u"Microsoft SQL Server"_s), Engine::Other);
+    EXPECT_EQ(EngineNamed({}), Engine::Other);
+}
+
+TEST(QuickFilterOnEngines, CastsWhereLikeStandsBehindTextsOnlyAndLeavesPicturesOut)
+{
+    EXPECT_EQ(quickFilter(Engine::PostgreSQL, dbOracle, u"1"_s),
+              u" (CAST(name AS TEXT) LIKE '%1%' OR CAST(price AS TEXT) LIKE '%1%' "
+              "OR CAST(day AS TEXT) LIKE '%1%' ) "_s);
+    EXPECT_EQ(quickFilter(Engine::PostgreSQL, dbAccess, u"1"_s),
+              u" (CAST(t.[name] AS TEXT) LIKE '%1%' OR CAST(t.[price] AS TEXT) LIKE '%1%' "
+              "OR CAST(t.[day] AS TEXT) LIKE '%1%' ) "_s);
+}
+
+TEST(QuickFilterOnEngines, WritesTheFieldsAsTheyAreOnAllOthers)
+{
+    const QString plain =
+        u" (name LIKE '%1%' OR price LIKE '%1%' OR day LIKE '%1%' OR picture LIKE '%1%' ) "_s;
+    for (const Engine engine : {Engine::Other, Engine::SQLite, Engine::MySQL})
+        EXPECT_EQ(quickFilter(engine, dbSQLServer, u"1"_s), plain);
+}
+
+TEST(QuickFilterOnEngines, CastsTheOneChosenField)
+{
+    QString condition;
+    EXPECT_TRUE(BuildLikeAllCondition(u"a"_s, {u"price"_s, 131}, u"SELECT * FROM t"_s, dbOracle, condition,
+                                      Engine::PostgreSQL));
+    EXPECT_EQ(condition, u" (CAST(price AS TEXT) LIKE '%a%' ) "_s);
+    EXPECT_FALSE(BuildLikeAllCondition(u"a"_s, {u"picture"_s, 205}, u"SELECT * FROM t"_s, dbOracle, condition,
+                                       Engine::PostgreSQL));
+}
+
+TEST(QuickFilterOnEngines, ABackslashIsFoundAsOne)
+{
+    const auto pattern = [](Engine engine) {
+        QString condition;
+        EXPECT_TRUE(BuildLikeAllCondition(uR"(C:\')"_s, {u"F"_s, 202}, u"SELECT * FROM t"_s, dbSQLServer,
+                                          condition, engine));
+        return condition;
+    };
+    EXPECT_EQ(pattern(Engine::SQLite), uR"( (F LIKE '%C:\''%' ) )"_s);
+    EXPECT_EQ(pattern(Engine::PostgreSQL), uR"( (CAST(F AS TEXT) LIKE '%C:\\''%' ) )"_s);
+    EXPECT_EQ(pattern(Engine::MySQL), uR"( (F LIKE '%C:\\\\''%' ) )"_s);
+}
+
+TEST(CellFilterOnEngines, ComparesNumbersAsNumbersWhereLikeTakesNone)
+{
+    const auto condition = [](qint32 type, const QString &text, Engine engine) {
+        return BuildCellFilter(u"F"_s, type, text, engine).condition;
+    };
+    EXPECT_EQ(condition(3, u"12"_s, Engine::PostgreSQL), u"F = 12"_s);
+    EXPECT_EQ(condition(131, u"-0.50"_s, Engine::PostgreSQL), u"F = -0.50"_s);
+    EXPECT_EQ(condition(4, u"0.1"_s, Engine::PostgreSQL), u"F = CAST(0.1 AS REAL)"_s);
+    EXPECT_EQ(condition(72, u"{01}"_s, Engine::PostgreSQL), u"F = '{01}'"_s);
+    EXPECT_EQ(condition(202, u"a%"_s, Engine::PostgreSQL), u"CAST(F AS TEXT) like 'a%'"_s);
+    EXPECT_EQ(condition(202, uR"(a\b)"_s, Engine::MySQL), uR"(F like 'a\\\\b')"_s);
+    EXPECT_EQ(condition(3, u"12"_s, Engine::MySQL), u"F like 12"_s);
+    EXPECT_EQ(condition(3, u"12"_s, Engine::SQLite), u"F like 12"_s);
+}
