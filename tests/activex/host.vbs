@@ -1,20 +1,6 @@
 ' A script host: knows names only. Prints what it sees; arguments: the database file.
 Option Explicit
 Dim grid, records, text
-
-' A console's code page need not have every character: those beyond ASCII are shown by their numbers.
-Function Shown(ByVal value)
-    Dim i, code
-    For i = 1 To Len(value)
-        code = AscW(Mid(value, i, 1))
-        If code > 0 And code < 127 Then
-            Shown = Shown & Mid(value, i, 1)
-        Else
-            Shown = Shown & "<" & Hex(code) & ">"
-        End If
-    Next
-End Function
-
 Set grid = CreateObject("KOVAVSFDataGridLib.KOVAVSFDataGrid")
 grid.connectionstring = "Provider=SQLite;Data Source=" & WScript.Arguments(0)
 grid.DBType = 3
@@ -23,11 +9,14 @@ WScript.Echo "Loaded: " & grid.IsLoadData
 WScript.Echo "RecordSource: " & grid.RecordSource
 WScript.Echo "Cell: " & grid.CellText(2, 2)
 WScript.Echo "Index: " & grid.GetBindFieldIndex("name")
+' Compared here, because a console need not be able to show them.
+WScript.Echo "Chinese: " & (grid.CellText(1, 2) = ChrW(&H5F20) & ChrW(&H4E09))
 Set records = grid.RecordSet
 records.MoveFirst
+records.MoveNext
 text = ""
 Do Until records.EOF
-    text = text & "[" & records.Fields("id").Value & ":" & Shown(records.Fields("name").Value) & "]"
+    text = text & "[" & records.Fields("id").Value & ":" & records.Fields("name").Value & "]"
     records.MoveNext
 Loop
 WScript.Echo "Records: " & text
