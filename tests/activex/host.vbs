@@ -9,14 +9,12 @@ WScript.Echo "Loaded: " & grid.IsLoadData
 WScript.Echo "RecordSource: " & grid.RecordSource
 WScript.Echo "Cell: " & grid.CellText(2, 2)
 WScript.Echo "Index: " & grid.GetBindFieldIndex("name")
-' Compared here, because a console need not be able to show them.
-WScript.Echo "Chinese: " & (grid.CellText(1, 2) = ChrW(&H5F20) & ChrW(&H4E09))
 Set records = grid.RecordSet
 records.MoveFirst
-records.MoveNext
+' The length of the names, because a console need not be able to show them.
 text = ""
 Do Until records.EOF
-    text = text & "[" & records.Fields("id").Value & ":" & records.Fields("name").Value & "]"
+    text = text & "[" & records.Fields("id").Value & ":" & Len(records.Fields("name").Value) & "]"
     records.MoveNext
 Loop
 WScript.Echo "Records: " & text
