@@ -1,22 +1,18 @@
 #include "control/ToolbarIcons.h"
 
-#include <QtCore/QFile>
+#include "control/IconPicture.h"
+
 #include <QtGui/QGuiApplication>
 #include <QtGui/QIconEngine>
 #include <QtGui/QPainter>
 #include <QtGui/QPalette>
 #include <QtGui/QPixmapCache>
-#include <QtSvg/QSvgRenderer>
 
 #include <algorithm>
 #include <cmath>
 
 namespace KOVAVSFDataGridLib {
 namespace {
-
-// The colours as the drawings write them, chosen so that any viewer shows the files sensibly.
-constexpr QByteArrayView LineInDrawing("currentColor");
-constexpr QByteArrayView AccentInDrawing("#2a82da");
 
 // What the accessibility guidelines ask of the parts of a picture that carry its meaning.
 constexpr double LeastContrast = 3.0;
@@ -83,12 +79,12 @@ Colours coloursFor(QIcon::Mode mode, QIcon::State state)
     return {line, readable(palette.color(group, QPalette::Highlight), line, paper)};
 }
 
-// Renders one drawing in the palette's colours. Pixmaps are kept in the application's pixmap cache under
+// One drawing in the palette's colours. Pixmaps are kept in the application's pixmap cache under
 // a name that says everything they depend on, so a new palette simply asks for other names.
 class ToolbarIconEngine final : public QIconEngine
 {
 public:
-    ToolbarIconEngine(const QString &key, const QByteArray &drawing) : m_key(key), m_drawing(drawing) {}
+    explicit ToolbarIconEngine(const QString &key) : m_key(key) {}
 
     QString key() const override { return QStringLiteral("KOVAVSFDataGridLib::ToolbarIconEngine"); }
     QIconEngine *clone() const override { return new ToolbarIconEngine(*this); }
@@ -114,39 +110,21 @@ public:
                                  .arg(colours.line.name(), colours.accent.name());
         QPixmap picture;
         if (!QPixmapCache::find(name, &picture)) {
-            picture = rendered(size, colours);
+            picture = QPixmap::fromImage(iconPicture(m_key, size, colours.line, colours.accent));
             QPixmapCache::insert(name, picture);
         }
         return picture;
     }
 
 private:
-    QPixmap rendered(const QSize &size, const Colours &colours) const
-    {
-        QByteArray drawing = m_drawing;
-        drawing.replace(LineInDrawing, colours.line.name().toLatin1());
-        drawing.replace(AccentInDrawing, colours.accent.name().toLatin1());
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        QSvgRenderer renderer(drawing);
-        renderer.setAspectRatioMode(Qt::KeepAspectRatio);
-        renderer.render(&painter);
-        return picture;
-    }
-
     QString m_key;
-    QByteArray m_drawing;
 };
 
 } // namespace
 
 QIcon toolbarIcon(const QString &key)
 {
-    QFile file(QStringLiteral(":/KOVAVSFDataGridLib/icons/%1.svg").arg(key));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QIcon(new ToolbarIconEngine(key, file.readAll()));
+    return hasIconPicture(key) ? QIcon(new ToolbarIconEngine(key)) : QIcon();
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+#include <functional>
+#include <memory>
+#include <windows.h>
+
+class QWidget;
+class QWindow;
+
+namespace KOVAVSFDataGridLib::ActiveX {
+
+// A widget as a child of a window that Qt knows nothing about. The container's message loop drives it: Qt's
+// own windows take their messages from whatever loop runs on the thread.
+class EmbeddedWindow : public QObject
+{
+public:
+    // `entered` is called when the user clicks into the widget or the keyboard arrives in it; `blocked` when
+    // a modal dialog of Qt's opens (true) and when the last one has gone (false).
+    EmbeddedWindow(QWidget &widget, std::function<void()> entered, std::function<void(bool)> blocked);
+    ~EmbeddedWindow() override;
+
+    // Positions are pixels of the parent window's client area. An empty clip does not clip.
+    void attach(HWND parent, const RECT &position, const RECT &clip);
+    void detach();
+    void place(const RECT &position, const RECT *clip);
+    void takeFocus();
+
+    HWND handle() const; // null while detached
+    // Whether a key message is for the widget rather than for the container's dialog keys.
+    bool wants(const MSG &message) const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool tabStaysInside(bool backwards) const;
+    void block();
+    void unblock();
+
+    QWidget &m_widget;
+    const std::function<void()> m_entered;
+    const std::function<void(bool)> m_blocked;
+    std::unique_ptr<QWindow> m_parent;
+    HWND m_disabled = nullptr; // the host's window that a modal dialog keeps from the user
+};
+
+} // namespace KOVAVSFDataGridLib::ActiveX

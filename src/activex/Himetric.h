@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QtCore/QSize>
+#include <QtWidgets/QWidget>
+
+#include <cmath>
+#include <windows.h>
+
+namespace KOVAVSFDataGridLib::ActiveX {
+
+// Containers measure in hundredths of a millimetre.
+inline constexpr int HimetricPerInch = 2540;
+
+inline QSize fromHimetric(const SIZEL &size, const QWidget &widget)
+{
+    return QSize(static_cast<int>(std::lround(double(size.cx) * widget.logicalDpiX() / HimetricPerInch)),
+                 static_cast<int>(std::lround(double(size.cy) * widget.logicalDpiY() / HimetricPerInch)));
+}
+
+inline SIZEL toHimetric(const QSize &size, const QWidget &widget)
+{
+    return {std::lround(double(size.width()) * HimetricPerInch / widget.logicalDpiX()),
+            std::lround(double(size.height()) * HimetricPerInch / widget.logicalDpiY())};
+}
+
+} // namespace KOVAVSFDataGridLib::ActiveX

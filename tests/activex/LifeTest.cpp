@@ -1,0 +1,94 @@
+#include "Late.h"
+
+#include <gtest/gtest.h>
+#include <objbase.h>
+#include <olectl.h>
+#include <thread>
+
+using Microsoft::WRL::ComPtr;
+
+namespace {
+
+CLSID controlId()
+{
+    CLSID id{};
+    EXPECT_EQ(CLSIDFromProgID(L"KOVAVSFDataGridLib.KOVAVSFDataGrid", &id), S_OK);
+    return id;
+}
+
+// An object that offers the control's interfaces as its own.
+class Aggregating final : public IUnknown
+{
+public:
+    ComPtr<IUnknown> inner;
+    ULONG references = 1;
+
+    STDMETHODIMP QueryInterface(REFIID iid, void **object) override
+    {
+        if (iid != IID_IUnknown)
+            return inner->QueryInterface(iid, object);
+        *object = this;
+        AddRef();
+        return S_OK;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return ++references; }
+    STDMETHODIMP_(ULONG) Release() override { return --references; }
+};
+
+TEST(Life, CanBeAggregated)
+{
+    Aggregating outer;
+    ASSERT_EQ(CoCreateInstance(controlId(), &outer, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&outer.inner)), S_OK);
+    {
+        Late::Object control;
+        ASSERT_EQ(outer.QueryInterface(IID_PPV_ARGS(&control)), S_OK);
+        EXPECT_EQ(outer.references, 2u);
+        ComPtr<IUnknown> identity;
+        ASSERT_EQ(control.As(&identity), S_OK);
+        EXPECT_EQ(identity.Get(), &outer);
+        EXPECT_EQ(Late::put(control, L"STR_SQLTEMP", L"x").outcome, S_OK);
+        EXPECT_EQ(Late::get(control, L"STR_SQLTEMP").text(), L"x");
+    }
+    EXPECT_EQ(outer.references, 1u);
+    EXPECT_EQ(outer.inner.Reset(), 0u);
+    EXPECT_EQ(outer.references, 1u);
+}
+
+TEST(Life, AnAggregatingObjectMustAskForTheInnerIdentity)
+{
+    Aggregating outer;
+    ComPtr<IDispatch> control;
+    EXPECT_TRUE(FAILED(CoCreateInstance(controlId(), &outer, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&control))));
+    EXPECT_FALSE(control);
+}
+
+TEST(Life, ControlsOfAnotherThreadAreRefused)
+{
+    ComPtr<IUnknown> first;
+    ASSERT_EQ(CoCreateInstance(controlId(), nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&first)), S_OK);
+    HRESULT elsewhere = S_OK;
+    std::thread([&] {
+        CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+        {
+            ComPtr<IUnknown> second;
+            elsewhere = CoCreateInstance(controlId(), nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&second));
+        }
+        CoUninitialize();
+    }).join();
+    EXPECT_EQ(elsewhere, RPC_E_WRONG_THREAD);
+}
+
+TEST(Life, AConnectionPointKeepsItsControl)
+{
+    ComPtr<IConnectionPointContainer> container;
+    ASSERT_EQ(CoCreateInstance(controlId(), nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&container)), S_OK);
+    ComPtr<IConnectionPoint> point;
+    ASSERT_EQ(container->FindConnectionPoint(IID_IPropertyNotifySink, &point), S_OK);
+    EXPECT_NE(container.Reset(), 0u);
+    IID outgoing{};
+    EXPECT_EQ(point->GetConnectionInterface(&outgoing), S_OK);
+    EXPECT_TRUE(outgoing == IID_IPropertyNotifySink);
+    EXPECT_EQ(point.Reset(), 0u);
+}
+
+} // namespace
