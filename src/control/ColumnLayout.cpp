@@ -12,9 +12,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// Kept free when columns are fitted: the row numbers and the scroll bar. Twips.
-constexpr int RowNumberMargin = 600;
-constexpr int ScrollBarMargin = 260;
+constexpr int ScrollBarMargin = 260; // twips, kept free when columns are fitted
 
 } // namespace
 
@@ -119,7 +117,7 @@ std::optional<double> ColumnLayout::shareOfWidth() const
     qint32 shown = 0;
     if (!m_history.GetCurrShowFieldsCount(shown) || shown < 1)
         return std::nullopt;
-    const int room = Twips::fromPixels(m_grid.width(), m_grid) - ScrollBarMargin - RowNumberMargin;
+    const int room = Twips::fromPixels(m_grid.width(), m_grid) - ScrollBarMargin - RowHeadingMargin;
     if (room < shown)
         return std::nullopt; // no room at all: better too wide than gone
     return static_cast<double>(room) / shown;

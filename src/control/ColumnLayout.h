@@ -16,6 +16,9 @@ class colShowSQLSentences;
 class ColumnLayout
 {
 public:
+    // Kept free for the row headings when columns are fitted, in twips.
+    static constexpr int RowHeadingMargin = 600;
+
     // Both must outlive this object, which is made for the moment.
     ColumnLayout(VSFlexGrid &grid, colShowSQLSentences &history);
 

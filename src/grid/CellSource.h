@@ -18,6 +18,9 @@ public:
 
     virtual int rows() const = 0;
     virtual int cols() const = 0;
+    // The rows up to the last one that can hold something: 1 ... rows(). Those below are empty; keys and the
+    // scroll bar of a view do not lead there.
+    virtual int usedRows() const { return rows(); }
     virtual QString text(int row, int col) const = 0;
     // Whether the column holds numbers, which stand to the right.
     virtual bool isNumeric(int col) const = 0;

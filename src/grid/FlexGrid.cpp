@@ -80,6 +80,11 @@ void FlexGrid::PutCols(int cols)
     Show(std::make_unique<TextCells>(Rows(), cols));
 }
 
+int FlexGrid::UsedRows() const
+{
+    return m_model->source().usedRows();
+}
+
 void FlexGrid::PutRow(int row)
 {
     checkRow(row);
@@ -155,6 +160,33 @@ void FlexGrid::mouseDoubleClickEvent(QMouseEvent *event)
 void FlexGrid::keyPressEvent(QKeyEvent *event)
 {
     tellAfter([&] { QTableView::keyPressEvent(event); });
+}
+
+QModelIndex FlexGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const QModelIndex target = QTableView::moveCursor(action, modifiers);
+    const int lastUsed = UsedRows() - 2; // the model does not count the headings
+    if (!target.isValid() || target.row() <= lastUsed)
+        return target;
+    return lastUsed >= 0 ? target.siblingAtRow(lastUsed) : currentIndex();
+}
+
+void FlexGrid::updateGeometries()
+{
+    QTableView::updateGeometries();
+    // The bar counts rows, and its page is the number that fit in.
+    QScrollBar &bar = *verticalScrollBar();
+    bar.setMaximum(std::min(bar.maximum(), std::max(UsedRows() - 1 - bar.pageStep(), 0)));
+}
+
+void FlexGrid::scrollContentsBy(int dx, int dy)
+{
+    QTableView::scrollContentsBy(dx, dy);
+    // At the end of its bar a table view shows the last row of all, which here may be an unused one.
+    if (const int top = verticalScrollBar()->value(); UsedRows() < Rows() && TopRow() != top + 1) {
+        verticalHeader()->setOffsetToSectionPosition(top);
+        Refresh();
+    }
 }
 
 int FlexGrid::RowSel() const

@@ -33,6 +33,8 @@ public:
     void PutRows(int rows);
     int Cols() const;
     void PutCols(int cols);
+    // Rows without the empty ones that the source of the cells has at its end.
+    int UsedRows() const;
 
     // The current cell; 0 while a heading (or nothing) is current. Writing does not scroll.
     int Row() const { return m_row; }
@@ -98,6 +100,9 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void updateGeometries() override;
+    void scrollContentsBy(int dx, int dy) override;
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
 

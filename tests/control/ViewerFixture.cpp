@@ -133,7 +133,7 @@ QString ViewerUser::row(int row) const
 
 int ViewerUser::rows() const
 {
-    return grid().model()->rowCount();
+    return grid().UsedRows() - 1;
 }
 
 void ViewerUser::press(const QString &key) const

@@ -84,7 +84,7 @@ public:
     QString box() const;
     // The shown column headings; then the texts of a row in them. Separated by blanks.
     QString row(int row) const;
-    int rows() const;
+    int rows() const; // that hold records
 
 private:
     template<typename Part>

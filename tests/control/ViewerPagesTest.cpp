@@ -7,6 +7,7 @@
 
 #include <QtTest/QTest>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QScrollBar>
 
 using namespace KovaTest;
 using namespace KOVAVSFDataGridLib;
@@ -38,6 +39,35 @@ TEST_F(PagedViewer, APageShowsFromItsFirstRecordToTheEndOfAll)
     EXPECT_EQ(user.rows(), 3);
     EXPECT_EQ(user.row(1), u"3 O'Neil 30 2003-03-03"_s);
     EXPECT_EQ(user.row(3), u"5  50 2005-05-05"_s);
+}
+
+TEST_F(PagedViewer, TheGridKeepsAMillionRowsAndAnEmptyFirstColumnWhateverItShows)
+{
+    show(3);
+    const VSFlexGrid &grid = user.grid();
+    for (const int page : {3, 1}) {
+        user.goTo(QString::number(page));
+        EXPECT_EQ(grid.Rows(), 1000000);
+        EXPECT_EQ(grid.Cols(), 5);
+        for (const int row : {0, 1, 2, 999999})
+            EXPECT_EQ(grid.TextMatrix(row, 0), QString()) << row;
+    }
+    for (int col = 1; col < 5; ++col) {
+        EXPECT_EQ(grid.TextMatrix(6, col), QString());
+        EXPECT_EQ(grid.TextMatrix(999999, col), QString());
+    }
+}
+
+TEST_F(PagedViewer, KeysAndTheScrollBarStayWithTheRecords)
+{
+    show();
+    VSFlexGrid &grid = user.grid();
+    EXPECT_EQ(grid.verticalScrollBar()->maximum(), 0);
+    for (const QKeySequence &keys : {QKeySequence(Qt::CTRL | Qt::Key_End), QKeySequence(Qt::Key_Down),
+                                     QKeySequence(Qt::Key_PageDown), QKeySequence(Qt::CTRL | Qt::Key_Down)}) {
+        QTest::keySequence(&grid, keys);
+        EXPECT_EQ(grid.Row(), 5) << qPrintable(keys.toString());
+    }
 }
 
 TEST_F(PagedViewer, ThePageKeysTurnPages)

@@ -6,6 +6,7 @@
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -47,6 +48,41 @@ TEST_F(Grid, HeadingsAreRowAndColumnZero)
     EXPECT_EQ(grid.TextMatrix(3, 0), u"r3c0"_s);
     EXPECT_EQ(grid.TextMatrix(100, 5), u"r100c5"_s);
     EXPECT_EQ(grid.model()->index(99, 4).data().toString(), u"r100c5"_s);
+}
+
+TEST_F(Grid, KeysAndTheScrollBarDoNotLeadIntoUnusedRows)
+{
+    struct HalfUsed final : CellSource
+    {
+        int rows() const override { return 1001; }
+        int cols() const override { return 3; }
+        int usedRows() const override { return 101; }
+        QString text(int row, int col) const override
+        {
+            return row <= 100 ? QString::number(col) : QString();
+        }
+        bool isNumeric(int) const override { return false; }
+        bool setText(int, int, const QString &) override { return false; }
+    };
+    grid.Show(std::make_unique<HalfUsed>());
+    EXPECT_EQ(grid.Rows(), 1001);
+    EXPECT_EQ(grid.UsedRows(), 101);
+    grid.PutRow(1);
+    QTest::keyClick(&grid, Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(grid.Row(), 100);
+    EXPECT_TRUE(grid.RowIsVisible(100));
+    EXPECT_EQ(grid.verticalScrollBar()->value(), grid.verticalScrollBar()->maximum());
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_PageDown}) {
+        QTest::keyClick(&grid, key);
+        EXPECT_EQ(grid.Row(), 100);
+    }
+    grid.verticalScrollBar()->setValue(1000);
+    EXPECT_TRUE(grid.RowIsVisible(100));
+    EXPECT_GT(grid.TopRow(), 80);
+
+    grid.PutRow(150); // by program or a click below the records
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(grid.Row(), 100);
 }
 
 TEST_F(Grid, NothingIsCurrentAtFirst)

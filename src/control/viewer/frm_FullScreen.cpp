@@ -2,16 +2,17 @@
 
 #include "ado/Error.h"
 #include "ado/Recordset.h"
+#include "control/ColumnLayout.h"
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
 #include "control/MenuKey.h"
 #include "control/StoreRecordPosition.h"
 #include "control/viewer/TypedPage.h"
+#include "control/viewer/ViewerCells.h"
 #include "control/viewer/ViewerMenu.h"
 #include "control/viewer/ViewerTexts.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
-#include "grid/RecordWindow.h"
 #include "grid/TextCells.h"
 #include "query/SharedValues.h"
 
@@ -113,9 +114,10 @@ bool frm_FullScreen::FillGrid()
         return false;
     }
     const qint64 rest = m_page > 0 ? m_recordset->RecordCount() - firstRecord() + 1 : 0;
-    const auto rows = static_cast<int>(std::clamp<qint64>(rest, 0, SharedValues::RecordCap));
+    const auto rows = static_cast<int>(std::clamp<qint64>(rest, 0, ViewerCells::Rows - 1));
     grid.PutRedraw(false);
-    grid.Show(std::make_unique<RecordWindow>(m_recordset, static_cast<int>(firstRecord()), rows));
+    grid.Show(std::make_unique<ViewerCells>(m_recordset, static_cast<int>(firstRecord()), rows));
+    grid.PutColWidth(0, ColumnLayout::RowHeadingMargin); // it has no texts to be as wide as
     grid.PutRedraw(true);
     return true;
 }
@@ -170,11 +172,11 @@ void frm_FullScreen::UpdateRecordPosition()
 void frm_FullScreen::makeShownCellCurrent()
 {
     VSFlexGrid &grid = *m_parts.vsfgShowData;
-    if (!isOpen() || grid.Rows() < 2 || grid.Cols() < 2)
+    if (!isOpen() || grid.UsedRows() < 2 || grid.Cols() < 2)
         return;
     if (grid.Row() == 0) {
         const qint64 row = m_recordset->AbsolutePosition() - firstRecord() + 1;
-        grid.PutRow(row >= 1 && row < grid.Rows() ? static_cast<int>(row) : 1);
+        grid.PutRow(row >= 1 && row < grid.UsedRows() ? static_cast<int>(row) : 1);
     }
     int col = grid.Col();
     if (grid.ColWidth(col) == 0) {

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "grid/RecordWindow.h"
+#include "query/SharedValues.h"
+
+namespace KOVAVSFDataGridLib {
+
+// The viewer's sheet: always as many rows and with an empty column 0, whatever part of it the records fill.
+class ViewerCells final : public CellSource
+{
+public:
+    static constexpr int Rows = SharedValues::RecordCap + 1; // with the headings
+
+    // The records from `first` (1-based) on, `count` of them: at most Rows - 1.
+    ViewerCells(std::shared_ptr<const ADODB::Recordset> recordset, int first, int count)
+        : m_records(std::move(recordset), first, count)
+    {
+    }
+
+    int rows() const override { return Rows; }
+    int cols() const override { return m_records.cols(); }
+    int usedRows() const override { return m_records.rows(); }
+    QString text(int row, int col) const override
+    {
+        return col > 0 && row < usedRows() ? m_records.text(row, col) : QString();
+    }
+    bool isNumeric(int col) const override { return m_records.isNumeric(col); }
+    bool setText(int, int, const QString &) override { return false; }
+
+private:
+    RecordWindow m_records;
+};
+
+} // namespace KOVAVSFDataGridLib
