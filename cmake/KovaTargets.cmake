@@ -15,8 +15,12 @@ function(kova_compile_settings target)
     -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wnull-dereference -Wformat=2
     -Wimplicit-fallthrough -Wextra-semi -Wundef
-    $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op -Wduplicated-branches -Wuseless-cast>
+    $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op -Wduplicated-branches>
     $<$<BOOL:${KOVA_WARNINGS_AS_ERRORS}>:-Werror>)
+  # On a 32-bit machine a qsizetype is an int, and the casts from one to the other are useless there only.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_SIZEOF_VOID_P EQUAL 8)
+    target_compile_options(${target} PRIVATE -Wuseless-cast)
+  endif()
   if(KOVA_SANITIZE)
     target_compile_options(${target} PRIVATE -fsanitize=${KOVA_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(${target} PUBLIC -fsanitize=${KOVA_SANITIZE})
