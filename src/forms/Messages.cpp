@@ -16,6 +16,7 @@ struct Message
     QString title;
     QString cause;
     QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QMessageBox::StandardButton onEnter = QMessageBox::NoButton;
 };
 
 int show(QWidget *parent, const Message &message, QMessageBox::StandardButtons buttons,
@@ -31,6 +32,7 @@ int show(QWidget *parent, const Message &message, QMessageBox::StandardButtons b
     box->setIcon(message.icon);
     box->setWindowTitle(message.title.isEmpty() ? QApplication::applicationDisplayName() : message.title);
     box->setStandardButtons(buttons);
+    box->setDefaultButton(message.onEnter);
     box->setEscapeButton(onEscape);
     const int answer = box->exec();
     if (!box)
@@ -51,10 +53,11 @@ void tellWithCause(QWidget *parent, const QString &text, const QString &cause)
     show(parent, {text, {}, cause}, QMessageBox::Ok, QMessageBox::Ok);
 }
 
-bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon)
+bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon,
+         QMessageBox::StandardButton onEnter)
 {
-    return show(parent, {text, title, {}, icon}, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
-           QMessageBox::Yes;
+    return show(parent, {text, title, {}, icon, onEnter}, QMessageBox::Yes | QMessageBox::No,
+                QMessageBox::No) == QMessageBox::Yes;
 }
 
 } // namespace KOVAVSFDataGridLib::Messages

@@ -16,7 +16,8 @@ void tell(QWidget *parent, const QString &text, const QString &title = {},
 // The same with the cause below the text, in the data access' own words.
 void tellWithCause(QWidget *parent, const QString &text, const QString &cause);
 
-// Asks with the buttons Yes and No; true for Yes. Closing the box counts as No.
-bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon);
+// Asks with the buttons Yes and No; true for Yes. Closing the box counts as No. Enter presses `onEnter`.
+bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon,
+         QMessageBox::StandardButton onEnter = QMessageBox::Yes);
 
 } // namespace KOVAVSFDataGridLib::Messages

@@ -4,6 +4,7 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QPushButton>
 
 namespace KovaTest {
 
@@ -49,7 +50,7 @@ void MessageAnswers::answer(QMessageBox &box)
 {
     const std::size_t index = m_shown.size();
     m_shown.push_back({box.text(), box.windowTitle(), box.icon(), box.standardButtons(), box.textFormat(),
-                       box.informativeText()});
+                       box.informativeText(), box.standardButton(box.defaultButton())});
     QAbstractButton *button = box.button(index < m_answers.size() ? m_answers[index] : QMessageBox::Ok);
     if (!button)
         button = box.button(QMessageBox::No);

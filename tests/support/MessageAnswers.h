@@ -15,7 +15,8 @@ struct ShownMessage
     QMessageBox::Icon icon = QMessageBox::NoIcon;
     QMessageBox::StandardButtons buttons;
     Qt::TextFormat format = Qt::AutoText;
-    QString cause; // below the text
+    QString cause;                                               // below the text
+    QMessageBox::StandardButton onEnter = QMessageBox::NoButton; // NoButton when that was left to Qt
 };
 
 // While one lives, every message box is answered by a click as soon as it shows: the boxes in order get

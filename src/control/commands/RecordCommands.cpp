@@ -60,7 +60,8 @@ bool askToDelete(ControlHub &hub)
     const QPointer<KOVAVSFDataGrid> alive(&hub.q);
     const auto recordset = hub.result.recordset();
     const qint64 position = recordset->AbsolutePosition();
-    return Messages::ask(&hub.q, GridTexts::AskDelete, GridTexts::AskDeleteTitle, QMessageBox::Question) &&
+    return Messages::ask(&hub.q, GridTexts::AskDelete, GridTexts::AskDeleteTitle, QMessageBox::Question,
+                         QMessageBox::No) &&
            alive && hub.result.isOpen() && hub.result.recordset() == recordset &&
            recordset->AbsolutePosition() == position;
 }

@@ -163,6 +163,7 @@ TEST_F(RecordsOf, DeletingTakesTheOneRecordAndTheNextBecomesCurrent)
     EXPECT_EQ(messages.shown().front().text, u"确实要删除该记录?"_s);
     EXPECT_EQ(messages.shown().front().title, u"删除记录"_s);
     EXPECT_EQ(messages.shown().front().buttons, QMessageBox::Yes | QMessageBox::No);
+    EXPECT_EQ(messages.shown().front().onEnter, QMessageBox::No) << "a key too many deletes nothing";
     EXPECT_EQ(count(), u"11"_s);
     EXPECT_EQ(rows(), 11);
     EXPECT_EQ(texts(u"ID"_s).join(u','), u"1,2,3,4,6,7,8,9,10,11,12"_s);
