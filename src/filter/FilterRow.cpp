@@ -3,6 +3,7 @@
 #include "filter/FilterTexts.h"
 #include "filter/ValueEdit.h"
 #include "forms/FieldCombo.h"
+#include "forms/TextWidth.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QComboBox>
@@ -68,12 +69,12 @@ void FilterRow::layOut()
 {
     // Widths that do not depend on a row's contents, so that the rows stand in columns.
     m_field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_field->setMinimumWidth(fontMetrics().averageCharWidth() * 22);
+    m_field->setMinimumWidth(widthOfDigits(*this, 22));
     m_operator->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_operator->setMinimumContentsLength(8);
     m_operator->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto *values = new QWidget(this);
-    values->setMinimumWidth(fontMetrics().averageCharWidth() * 56);
+    values->setMinimumWidth(widthOfDigits(*this, 56));
     auto *valueRow = new QHBoxLayout(values);
     valueRow->setContentsMargins({});
     valueRow->addWidget(m_value, 1);

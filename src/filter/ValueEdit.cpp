@@ -21,16 +21,24 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A small arrow in the text's colour: the styles' own one is missing from some of them.
-QIcon arrow(const QPalette &palette)
+QPixmap arrow(const QColor &colour)
 {
     QPixmap picture(32, 32);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette.color(QPalette::Text), 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(colour, 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolyline(QPolygonF{QPointF(9, 13), QPointF(16, 20), QPointF(23, 13)});
-    return QIcon(picture);
+    return picture;
+}
+
+// A small arrow in the text's colour: the styles' own one is missing from some of them.
+QIcon arrow(const QPalette &palette)
+{
+    QIcon icon;
+    icon.addPixmap(arrow(palette.color(QPalette::Active, QPalette::Text)), QIcon::Normal);
+    icon.addPixmap(arrow(palette.color(QPalette::Disabled, QPalette::Text)), QIcon::Disabled);
+    return icon;
 }
 
 QString hintFor(FieldClass fieldClass)
@@ -89,6 +97,13 @@ void ValueEdit::setMarked(bool isMarked)
                     QColor::fromRgbF(base.redF() * (1 - share) + share, base.greenF() * (1 - share),
                                      base.blueF() * (1 - share)));
     setPalette(marked);
+}
+
+void ValueEdit::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        m_offer->setIcon(arrow(palette()));
+    QLineEdit::changeEvent(event);
 }
 
 void ValueEdit::keyPressEvent(QKeyEvent *event)

@@ -28,6 +28,7 @@ public:
     void setMarked(bool isMarked);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

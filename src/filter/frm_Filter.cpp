@@ -5,6 +5,7 @@
 #include "forms/FormTexts.h"
 #include "forms/GradualControl.h"
 
+#include <QtGui/QIcon>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -16,7 +17,8 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-frm_Filter::frm_Filter(QWidget *parent) : QDialog(parent), m_builder(new SetFilter(this))
+frm_Filter::frm_Filter(QWidget *parent)
+    : QDialog(parent), m_builder(new SetFilter(this)), m_picture(new QLabel(this))
 {
     setObjectName(u"frm_Filter"_s);
     setWindowTitle(FilterTexts::Title);
@@ -57,18 +59,24 @@ QWidget *frm_Filter::makeBand()
 {
     auto *band = new GradualControl(this);
     band->setObjectName(u"GradualControl1"_s);
-    auto *picture = new QLabel(band);
-    picture->setObjectName(u"Picture2"_s);
-    picture->setPixmap(style()->standardIcon(QStyle::SP_FileDialogContentsView).pixmap(16));
+    m_picture->setObjectName(u"Picture2"_s);
+    SetPicture(style()->standardIcon(QStyle::SP_FileDialogContentsView));
     auto *explanation = new QLabel(FilterTexts::Explanation, band);
     explanation->setObjectName(u"Label2"_s);
     QFont bold = explanation->font();
     bold.setBold(true);
     explanation->setFont(bold);
     auto *row = new QHBoxLayout(band);
-    row->addWidget(picture);
+    row->addWidget(m_picture);
     row->addWidget(explanation, 1);
     return band;
+}
+
+void frm_Filter::SetPicture(const QIcon &picture)
+{
+    constexpr int size = 16; // pixels at 96 DPI
+    if (!picture.isNull())
+        m_picture->setPixmap(picture.pixmap(QSize(size, size), devicePixelRatioF()));
 }
 
 void frm_Filter::filter()

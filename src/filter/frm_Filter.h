@@ -2,6 +2,8 @@
 
 #include <QtWidgets/QDialog>
 
+class QLabel;
+
 namespace KOVAVSFDataGridLib {
 
 class SetFilter;
@@ -15,6 +17,8 @@ public:
     explicit frm_Filter(QWidget *parent = nullptr);
 
     SetFilter &SetFilter1() { return *m_builder; }
+    // Shows a picture in the band at the top; a null one leaves what is shown.
+    void SetPicture(const QIcon &picture);
     // Empty when the dialog was cancelled.
     const QString &strFilterCondition() const { return m_strFilterCondition; }
 
@@ -23,6 +27,7 @@ private:
     void filter();
 
     SetFilter *m_builder;
+    QLabel *m_picture;
     QString m_strFilterCondition;
 };
 

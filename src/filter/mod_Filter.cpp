@@ -41,6 +41,7 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
 
     // A dialog begins without the conditions of the one before.
     m_dialog = std::make_unique<frm_Filter>(m_parent);
+    m_dialog->SetPicture(request.picture);
     SetFilter &builder = m_dialog->SetFilter1();
     builder.Initialize(FilterTexts::TableCaption, request.dbType);
     constexpr qint32 statementOfTheHost = 2;

@@ -4,6 +4,7 @@
 #include "query/FilterTableName.h"
 
 #include <QtCore/QPointer>
+#include <QtGui/QIcon>
 
 #include <memory>
 
@@ -26,6 +27,7 @@ struct FilterRequest
     QString sqlShow;      // the statement whose table is filtered
     // For table type 2, where the connection string alone may not lead to the same data; may be null.
     std::shared_ptr<ADODB::Connection> connection;
+    QIcon picture = {}; // of the command that asks; may be null
 };
 
 // Runs the filter dialog and keeps what it left. One object can run any number of dialogs, one after another.

@@ -1,6 +1,7 @@
 #include "forms/ConnectDialog.h"
 
 #include "forms/FormTexts.h"
+#include "forms/TextWidth.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>
@@ -35,7 +36,7 @@ ConnectDialog::ConnectDialog(Builder builder, QWidget *parent)
     m_type->setChecked(true);
     m_text->setObjectName(u"TextCS"_s);
     m_text->setAccessibleName(FormTexts::InputConnectionString);
-    m_text->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+    m_text->setMinimumWidth(widthOfDigits(*this, 60));
     m_askSqlShow->setObjectName(u"Check_con"_s);
     m_build->setObjectName(u"cmd_link"_s);
     m_build->setAutoDefault(false);

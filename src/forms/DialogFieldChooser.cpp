@@ -5,6 +5,8 @@
 
 #include <QtWidgets/QApplication>
 
+#include <utility>
+
 namespace KOVAVSFDataGridLib {
 
 namespace {
@@ -18,7 +20,10 @@ std::optional<QString> answerOf(SelectionDialog &dialog)
 
 } // namespace
 
-DialogFieldChooser::DialogFieldChooser(QWidget *parent) : m_parent(parent) {}
+DialogFieldChooser::DialogFieldChooser(QWidget *parent, Pictures pictures)
+    : m_parent(parent), m_pictures(std::move(pictures))
+{
+}
 
 DialogFieldChooser::~DialogFieldChooser() = default;
 
@@ -34,6 +39,7 @@ std::optional<QString> DialogFieldChooser::ChooseVisibleFields(const QString &ti
                                                                const QStringList &partFields)
 {
     frmSelShowFields dialog(windowBelow());
+    dialog.SetPicture(m_pictures.fields);
     dialog.SetTitle(title);
     dialog.AppendListFields(&allFields);
     dialog.SetListFieldCheck(&partFields);
@@ -44,6 +50,7 @@ std::optional<QString> DialogFieldChooser::ChooseSort(const QString &title, cons
                                                       const QStringList &sortTerms)
 {
     frmSelSortFields dialog(windowBelow());
+    dialog.SetPicture(m_pictures.sort);
     dialog.SetTitle(title);
     dialog.AppendListFields(&allFields);
     dialog.AppendListSortFields(&sortTerms);

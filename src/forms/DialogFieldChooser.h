@@ -3,6 +3,7 @@
 #include "query/FieldChooser.h"
 
 #include <QtCore/QPointer>
+#include <QtGui/QIcon>
 
 class QWidget;
 
@@ -13,8 +14,15 @@ namespace KOVAVSFDataGridLib {
 class DialogFieldChooser final : public FieldChooser
 {
 public:
+    // The pictures of the commands that open the dialogs; a null one leaves a dialog its own.
+    struct Pictures
+    {
+        QIcon fields;
+        QIcon sort;
+    };
+
     // `parent` is not owned and may go before the chooser does.
-    explicit DialogFieldChooser(QWidget *parent = nullptr);
+    explicit DialogFieldChooser(QWidget *parent = nullptr, Pictures pictures = {{}, {}});
     ~DialogFieldChooser() override;
 
     std::optional<QString> ChooseVisibleFields(const QString &title, const QStringList &allFields,
@@ -26,6 +34,7 @@ private:
     QWidget *windowBelow() const;
 
     QPointer<QWidget> m_parent;
+    Pictures m_pictures;
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -1,6 +1,7 @@
 #include "forms/Dialog_SQLST.h"
 
 #include "forms/FormTexts.h"
+#include "forms/TextWidth.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>
@@ -26,7 +27,7 @@ Dialog_SQLST::Dialog_SQLST(QWidget *parent)
     m_label->setBuddy(m_text);
     m_text->setObjectName(u"Text_SQL"_s);
     m_text->setReadOnly(true);
-    m_text->setMinimumWidth(fontMetrics().averageCharWidth() * 70);
+    m_text->setMinimumWidth(widthOfDigits(*this, 70));
     m_allowEdit->setObjectName(u"Check_AllowEd"_s);
 
     auto *hint = new QLabel(FormTexts::AllowEditingHint, this);

@@ -30,7 +30,11 @@ void FlatCmd::paintEvent(QPaintEvent *)
     if (!isEnabled() || !(underMouse() || isDown() || isChecked() || hasFocus())) {
         option.features |= QStyleOptionButton::Flat;
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(option.palette.color(QPalette::Midlight).darker(115));
+        // Out of the text's colour, as the palette's shades hardly differ from a dark window.
+        constexpr float visibility = 0.25f;
+        QColor line = option.palette.color(QPalette::ButtonText);
+        line.setAlphaF(visibility);
+        painter.setPen(line);
         constexpr qreal rounding = 3;
         painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), rounding, rounding);
     }

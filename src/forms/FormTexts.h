@@ -38,6 +38,7 @@ inline const QString AlreadyInSort = u"该字段已在排序列表中"_s;
 inline const QString DeleteSortField = u"删除(&D)"_s;
 inline const QString MoveSortFieldUp = u"上移(&U)"_s;
 inline const QString MoveSortFieldDown = u"下移(&W)"_s;
+inline const QString NoSortHint = u"选择字段和次序，按“添加”加入排序列表。"_s;
 inline const QString SortListHint = u"双击或按空格键切换升序和降序，拖动改变先后。"_s;
 
 // Both selection dialogs

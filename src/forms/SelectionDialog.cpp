@@ -4,6 +4,7 @@
 #include "forms/GradualControl.h"
 
 #include <QtGui/QCloseEvent>
+#include <QtGui/QIcon>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -15,10 +16,17 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int PictureSize = 16; // pixels at 96 DPI
+
+} // namespace
+
 SelectionDialog::SelectionDialog(const QString &name, const QString &caption, const QString &bandName,
                                  QWidget *parent)
     // No close box is shown where the platform can leave it out, since it would do nothing.
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint),
+      m_picture(new QLabel(this)),
       m_tableName(new QLineEdit(this)),
       m_content(new QVBoxLayout),
       m_buttons(new QHBoxLayout)
@@ -57,9 +65,8 @@ QWidget *SelectionDialog::makeBand(const QString &bandName)
 {
     auto *band = new GradualControl(this);
     band->setObjectName(bandName);
-    auto *picture = new QLabel(band);
-    picture->setObjectName(u"Picture1"_s);
-    picture->setPixmap(style()->standardIcon(QStyle::SP_FileDialogDetailedView).pixmap(16));
+    m_picture->setObjectName(u"Picture1"_s);
+    SetPicture(style()->standardIcon(QStyle::SP_FileDialogDetailedView));
 
     m_tableName->setObjectName(u"txtTableName"_s);
     m_tableName->setAccessibleName(FormTexts::TableName);
@@ -75,7 +82,7 @@ QWidget *SelectionDialog::makeBand(const QString &bandName)
     m_tableName->setFont(bold);
 
     auto *row = new QHBoxLayout(band);
-    row->addWidget(picture);
+    row->addWidget(m_picture);
     row->addWidget(m_tableName, 1);
     return band;
 }
@@ -86,6 +93,12 @@ void SelectionDialog::SetTitle(const QString &strTitle)
         return;
     m_tableName->setText(strTitle);
     m_tableName->setCursorPosition(0);
+}
+
+void SelectionDialog::SetPicture(const QIcon &picture)
+{
+    if (!picture.isNull())
+        m_picture->setPixmap(picture.pixmap(QSize(PictureSize, PictureSize), devicePixelRatioF()));
 }
 
 void SelectionDialog::closeEvent(QCloseEvent *event)

@@ -3,6 +3,7 @@
 #include <QtWidgets/QDialog>
 
 class QHBoxLayout;
+class QLabel;
 class QLineEdit;
 class QVBoxLayout;
 
@@ -17,6 +18,8 @@ class SelectionDialog : public QDialog
 public:
     // Shows the title; an empty one leaves what is shown.
     void SetTitle(const QString &strTitle);
+    // Shows a picture in front of the title; a null one leaves what is shown.
+    void SetPicture(const QIcon &picture);
 
     // Empty until OK has succeeded.
     const QString &strRetFields() const { return m_strRetFields; }
@@ -38,6 +41,7 @@ protected:
 private:
     QWidget *makeBand(const QString &bandName);
 
+    QLabel *m_picture;
     QLineEdit *m_tableName;
     QVBoxLayout *m_content;
     QHBoxLayout *m_buttons;

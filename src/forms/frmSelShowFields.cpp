@@ -4,6 +4,7 @@
 #include "forms/FormTexts.h"
 #include "forms/GradualControl.h"
 #include "forms/Messages.h"
+#include "forms/TextWidth.h"
 #include "query/SelectionText.h"
 
 #include <QtCore/QSignalBlocker>
@@ -37,7 +38,7 @@ frmSelShowFields::frmSelShowFields(QWidget *parent)
     connect(m_list, &QTreeWidget::itemChanged, this, &frmSelShowFields::countChecks);
     countChecks();
     m_list->setFocus();
-    resize(fontMetrics().averageCharWidth() * 56, fontMetrics().height() * 28);
+    resize(widthOfDigits(*this, 56), fontMetrics().height() * 28);
 }
 
 QWidget *frmSelShowFields::makeSearchRow()

@@ -4,6 +4,7 @@
 #include "forms/FlatCmd.h"
 #include "forms/FormTexts.h"
 #include "forms/SortList.h"
+#include "forms/TextWidth.h"
 #include "query/QueryTexts.h"
 
 #include <QtGui/QShortcut>
@@ -23,18 +24,19 @@ frmSelSortFields::frmSelSortFields(QWidget *parent)
       m_sort(new SortList(this)),
       m_up(new FlatCmd(FormTexts::MoveSortFieldUp, this)),
       m_down(new FlatCmd(FormTexts::MoveSortFieldDown, this)),
-      m_delete(new FlatCmd(FormTexts::DeleteSortField, this))
+      m_delete(new FlatCmd(FormTexts::DeleteSortField, this)),
+      m_hint(new QLabel(this))
 {
     m_add->setObjectName(u"cmdAddField"_s);
     m_delete->setObjectName(u"cmdDeleteField"_s);
     m_up->setObjectName(u"cmdUpField"_s);
     m_down->setObjectName(u"cmdDownField"_s);
 
-    auto *hint = new QLabel(FormTexts::SortListHint, this);
-    hint->setForegroundRole(QPalette::PlaceholderText);
+    m_hint->setObjectName(u"lblHint"_s);
+    m_hint->setForegroundRole(QPalette::PlaceholderText);
     content()->addWidget(makeAddRow());
     content()->addWidget(makeList(), 1);
-    content()->addWidget(hint);
+    content()->addWidget(m_hint);
     addButtons();
 
     connect(m_add, &QPushButton::clicked, this, &frmSelSortFields::addField);
@@ -47,7 +49,7 @@ frmSelSortFields::frmSelSortFields(QWidget *parent)
     connectKeys();
     enableButtons();
     m_fields->setFocus();
-    resize(fontMetrics().averageCharWidth() * 64, fontMetrics().height() * 24);
+    resize(widthOfDigits(*this, 64), fontMetrics().height() * 24);
 }
 
 QWidget *frmSelSortFields::makeAddRow()
@@ -157,6 +159,7 @@ void frmSelSortFields::enableButtons()
     const bool isListed = m_sort->contains(m_fields->currentText());
     m_add->setEnabled(m_fields->count() > 0 && m_order->count() > 0 && !isListed);
     m_add->setToolTip(isListed ? FormTexts::AlreadyInSort : QString());
+    m_hint->setText(m_sort->topLevelItemCount() == 0 ? FormTexts::NoSortHint : FormTexts::SortListHint);
     m_delete->setEnabled(row >= 0);
     m_up->setEnabled(row > 0);
     m_down->setEnabled(row >= 0 && row < m_sort->topLevelItemCount() - 1);

@@ -5,6 +5,7 @@
 #include <QtCore/QStringList>
 
 class QComboBox;
+class QLabel;
 class QPushButton;
 
 namespace KOVAVSFDataGridLib {
@@ -47,6 +48,7 @@ private:
     QPushButton *m_up;
     QPushButton *m_down;
     QPushButton *m_delete;
+    QLabel *m_hint;
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -1,6 +1,7 @@
 #include "pages/PropertyPage.h"
 
 #include "forms/Messages.h"
+#include "forms/TextWidth.h"
 #include "pages/PageTexts.h"
 
 #include <QtCore/QMetaProperty>
@@ -31,7 +32,7 @@ PropertyPage::PropertyPage(const QString &property, const QString &textBox, cons
     m_text->setObjectName(textBox);
     m_text->setAccessibleName(property);
     m_text->setAccessibleDescription(hint);
-    m_text->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+    m_text->setMinimumWidth(widthOfDigits(*this, 60));
     m_text->setEnabled(false);
     setFocusProxy(m_text);
     auto *above = new QLabel(label, this);

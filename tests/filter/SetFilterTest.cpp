@@ -5,6 +5,7 @@
 #include "support/ExpectedWarnings.h"
 #include "support/TestDatabase.h"
 
+#include <QtGui/QAction>
 #include <QtGui/QScreen>
 #include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QComboBox>
@@ -266,6 +267,23 @@ TEST_F(Builder, TheValuesOfATextFieldAreReadWhenTheirListIsOpened)
     QTest::keyClick(list, Qt::Key_Down);
     QTest::keyClick(list, Qt::Key_Return);
     EXPECT_EQ(answer(), "城市 = '北京'");
+}
+
+TEST_F(Builder, TheArrowOfAValueIsAsPaleAsTheValue)
+{
+    const auto arrow = [this](const char *name, QIcon::Mode mode) {
+        return text(name).findChild<QAction *>(u"actOffer"_s)->icon().pixmap(16, mode).toImage();
+    };
+    press(dialog, "cmdAddRow");
+    // The first row is made while the builder has no fields to offer yet, and is disabled.
+    EXPECT_EQ(arrow("txtValue1", QIcon::Normal), arrow("txtValue2", QIcon::Normal));
+    EXPECT_NE(arrow("txtValue1", QIcon::Normal), arrow("txtValue1", QIcon::Disabled));
+
+    QPalette dark = dialog.palette();
+    dark.setColor(QPalette::Text, Qt::white);
+    const QImage before = arrow("txtValue1", QIcon::Normal);
+    dialog.setPalette(dark);
+    EXPECT_NE(arrow("txtValue1", QIcon::Normal), before) << "it follows the colours of the screen";
 }
 
 TEST_F(Builder, PickedValuesAreAddedToAList)

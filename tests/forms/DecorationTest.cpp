@@ -1,8 +1,10 @@
 #include "forms/FlatCmd.h"
 #include "forms/GradualControl.h"
+#include "forms/frmSelSortFields.h"
 
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
+#include <QtWidgets/QApplication>
 #include <gtest/gtest.h>
 
 using namespace KOVAVSFDataGridLib;
@@ -43,4 +45,20 @@ TEST(FlatCmd, IsFlatUntilItHasTheFocusAndIsPressedLikeAnyButton)
     EXPECT_EQ(clicked.count(), 1);
     QTest::keyClick(&button, Qt::Key_Return);
     EXPECT_EQ(clicked.count(), 2);
+}
+
+// In a font of Chinese characters the average character is as wide as two digits.
+TEST(Dialogs, AChineseFontDoesNotBlowThemUp)
+{
+    const QFont before = QApplication::font();
+    const auto widthIn = [](const QFont &font) {
+        QApplication::setFont(font);
+        return frmSelSortFields().width();
+    };
+    QFont chinese = before;
+    chinese.setFamilies({u"Noto Sans CJK SC"_s});
+    const int width = widthIn(before);
+    const int widthInChinese = widthIn(chinese);
+    QApplication::setFont(before);
+    EXPECT_LT(widthInChinese, width * 13 / 10);
 }

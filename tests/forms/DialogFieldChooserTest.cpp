@@ -4,6 +4,7 @@
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QTreeWidget>
 #include <gtest/gtest.h>
 
@@ -56,4 +57,23 @@ TEST(DialogFieldChooser, CancellingAnswersNothing)
     EXPECT_FALSE(chooser.ChooseVisibleFields(u"T"_s, {u"A"_s}, {u"A"_s}));
     onDialog([](QWidget &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     EXPECT_FALSE(chooser.ChooseSort(u"T"_s, {u"A"_s}, {u"A"_s}));
+}
+
+TEST(DialogFieldChooser, ShowsThePictureOfTheCommandThatAsks)
+{
+    QPixmap red(16, 16);
+    red.fill(Qt::red);
+    QPixmap green(16, 16);
+    green.fill(Qt::green);
+    DialogFieldChooser chooser(nullptr, {QIcon(red), QIcon(green)});
+    const auto expectPicture = [](const QPixmap &expected) {
+        onDialog([expected](QWidget &dialog) {
+            EXPECT_EQ(part<QLabel>(dialog, "Picture1").pixmap().toImage(), expected.toImage());
+            press(dialog, "cmdCancel");
+        });
+    };
+    expectPicture(red);
+    EXPECT_FALSE(chooser.ChooseVisibleFields(u"T"_s, {u"A"_s}, {}));
+    expectPicture(green);
+    EXPECT_FALSE(chooser.ChooseSort(u"T"_s, {u"A"_s}, {}));
 }

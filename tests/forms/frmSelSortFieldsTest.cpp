@@ -8,6 +8,7 @@
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <gtest/gtest.h>
 
@@ -76,6 +77,18 @@ TEST_F(SortFields, ShowsTheFirstFieldAndAscendingToBeginWith)
     EXPECT_EQ(combo("cmbOrder").currentText(), u"升序"_s);
     EXPECT_EQ(combo("cmbOrder").itemText(1), u"降序"_s);
     EXPECT_EQ(part<QLineEdit>(dialog, "txtTableName").text(), u"订单"_s);
+}
+
+TEST_F(SortFields, SaysHowToBeginAndThenHowToGoOn)
+{
+    fill({u"NAME"_s, u"AGE"_s});
+    const auto &hint = part<QLabel>(dialog, "lblHint");
+    const QString begin = hint.text();
+    EXPECT_TRUE(begin.contains(u"添加"_s)) << "the button to press";
+    press(dialog, "cmdAddField");
+    EXPECT_TRUE(hint.text().contains(u"拖动"_s));
+    press(dialog, "cmdDeleteField");
+    EXPECT_EQ(hint.text(), begin);
 }
 
 TEST_F(SortFields, MissingAndEmptyListsChangeNothing)

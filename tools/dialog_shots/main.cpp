@@ -1,5 +1,6 @@
 // dialog_shots FOLDER: shows each dialog with plausible contents and saves it as a PNG file in the folder, at
 // the scale of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
+#include "control/ToolbarIcons.h"
 #include "control/connection/ConnectionBuilder.h"
 #include "filter/SetFilter.h"
 #include "filter/frm_Filter.h"
@@ -61,7 +62,9 @@ public:
     {
         window.show();
         window.activateWindow();
-        QApplication::processEvents();
+        // Whatever a part has grown or shrunk by reaches the layouts around it one after the other.
+        for (int layouts = 0; layouts < 4; ++layouts)
+            QApplication::processEvents();
         const QString file = m_folder.filePath(name + u".png"_s);
         m_isDone &= window.grab().save(file);
         std::puts(qUtf8Printable(file));
@@ -83,6 +86,7 @@ void takeSelections(Photographer &photographer)
 {
     const QStringList shown{u"订单编号"_s, u"下单日期"_s, u"客户名称"_s, u"[单价(元)]"_s, u"金额"_s};
     frmSelShowFields show;
+    show.SetPicture(toolbarIcon(u"SelField"_s));
     show.SetTitle(u"订单"_s);
     show.AppendListFields(&Fields);
     show.SetListFieldCheck(&shown);
@@ -90,6 +94,7 @@ void takeSelections(Photographer &photographer)
 
     const QStringList terms{u"下单日期 DESC"_s, u"客户名称"_s, u"金额 DESC"_s};
     frmSelSortFields sort;
+    sort.SetPicture(toolbarIcon(u"Sort"_s));
     sort.SetTitle(u"订单"_s);
     sort.AppendListFields(&Fields);
     sort.AppendListSortFields(&terms);
@@ -168,6 +173,7 @@ void takeFilter(Photographer &photographer)
 {
     const QTemporaryDir folder;
     frm_Filter filter;
+    filter.SetPicture(toolbarIcon(u"Filter"_s));
     SetFilter &builder = filter.SetFilter1();
     builder.Initialize(u"当前使用数据表"_s, dbAccess);
     builder.SetConnectionString(makeDatabase(folder.path()));
@@ -210,6 +216,9 @@ int main(int argc, char **argv)
     QTranslator texts;
     if (texts.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&texts);
+    QFont font = QApplication::font();
+    font.setFamilies({u"Noto Sans CJK SC"_s, font.family()}); // as kovagrid chooses it
+    QApplication::setFont(font);
     Photographer photographer(QString::fromLocal8Bit(argv[1]));
     takeSelections(photographer);
     takeFind(photographer);

@@ -1,8 +1,16 @@
 #include "control/commands/ControlFieldChooser.h"
 
+#include "control/ToolbarIcons.h"
 #include "query/FieldNames.h"
 
 namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+ControlFieldChooser::ControlFieldChooser(QWidget *parent)
+    : m_dialogs(parent, {toolbarIcon(u"SelField"_s), toolbarIcon(u"Sort"_s)})
+{
+}
 
 std::optional<QString> ControlFieldChooser::ChooseVisibleFields(const QString &title,
                                                                 const QStringList &allFields,

@@ -10,7 +10,7 @@ namespace KOVAVSFDataGridLib {
 class ControlFieldChooser final : public FieldChooser
 {
 public:
-    explicit ControlFieldChooser(QWidget *parent) : m_dialogs(parent) {}
+    explicit ControlFieldChooser(QWidget *parent);
 
     void setDatabase(AllDBType database) { m_database = database; }
 

@@ -1,4 +1,5 @@
 #include "control/KOVAVSFDataGridPrivate.h"
+#include "control/ToolbarIcons.h"
 #include "control/commands/FilterCommands.h"
 #include "control/commands/FilterManagerRollback.h"
 #include "filter/mod_Filter.h"
@@ -14,6 +15,7 @@ QString AskForCondition(ControlHub &hub, QWidget *parent)
     request.tableType = hub.tableType;
     request.sqlShow = JoinStatementLines(hub.sqlShow);
     request.connection = hub.result.connection();
+    request.picture = toolbarIcon(QStringLiteral("Filter"));
     mod_Filter filter(parent);
     filter.PrepareFilterDialog(request);
     return filter.ShowFilterDialog();

@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 #include "control/connection/ConnectionTexts.h"
+#include "forms/TextWidth.h"
 
 #include <QtGui/QCursor>
 #include <QtWidgets/QApplication>
@@ -144,7 +145,7 @@ void ConnectionBuilder::layOut()
     rows->addLayout(m_form);
     rows->addWidget(m_tested, 1);
     rows->addLayout(buttons);
-    resize(fontMetrics().averageCharWidth() * 80, sizeHint().height());
+    resize(widthOfDigits(*this, 80), sizeHint().height());
 }
 
 void ConnectionBuilder::offer(const ConnectionTarget &target, const QString &caption)
