@@ -14,6 +14,8 @@
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -27,6 +29,7 @@ HostWindow::HostWindow(const Options &options) : m_grid(new KOVAVSFDataGrid), m_
     rows->addWidget(m_grid, 1);
     setCentralWidget(centre);
     makeDocks();
+    makeMenus();
     listenToGrid();
     resize(1280, 800);
 }
@@ -45,10 +48,7 @@ QWidget *HostWindow::makeForm(const Options &options)
     m_part = new QLineEdit(options.part);
     m_sort = new QLineEdit(options.sort);
     auto *loadButton = new QPushButton(u"加载(&L)"_s);
-    connect(loadButton, &QPushButton::clicked, this, [this] {
-        setUpGrid();
-        load();
-    });
+    connect(loadButton, &QPushButton::clicked, this, &HostWindow::loadForm);
 
     auto *form = new QWidget;
     auto *grid = new QGridLayout(form);
@@ -59,11 +59,11 @@ QWidget *HostWindow::makeForm(const Options &options)
         grid->addWidget(text, row, column);
         grid->addWidget(field, row, column + 1, 1, span);
     };
-    addField(u"连接字符串(&C)"_s, m_connection, 0, 0, 3);
-    addField(u"数据库类型(&D)"_s, m_dbType, 0, 4, 1);
-    addField(u"查询语句(&S)"_s, m_sql, 1, 0, 5);
-    addField(u"部分字段(&P)"_s, m_part, 2, 0, 3);
-    addField(u"排序(&O)"_s, m_sort, 2, 4, 1);
+    addField(u"连接字符串(&C):"_s, m_connection, 0, 0, 3);
+    addField(u"数据库类型(&D):"_s, m_dbType, 0, 4, 1);
+    addField(u"查询语句(&S):"_s, m_sql, 1, 0, 5);
+    addField(u"部分字段(&P):"_s, m_part, 2, 0, 3);
+    addField(u"排序(&O):"_s, m_sort, 2, 4, 1);
     grid->addWidget(loadButton, 0, 6, 3, 1);
     loadButton->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     grid->setColumnStretch(1, 3);
@@ -83,10 +83,27 @@ void HostWindow::makeDocks()
         addDockWidget(Qt::BottomDockWidgetArea, dock);
         return dock;
     };
-    QDockWidget *picture = addDock(u"图片"_s, m_picture);
-    QDockWidget *log = addDock(u"事件"_s, m_log);
-    resizeDocks({picture, log}, {1, 3}, Qt::Horizontal);
-    resizeDocks({picture, log}, {130, 130}, Qt::Vertical);
+    m_docks = {addDock(u"图片"_s, m_picture), addDock(u"事件"_s, m_log)};
+    resizeDocks(m_docks, {1, 3}, Qt::Horizontal);
+    resizeDocks(m_docks, {130, 130}, Qt::Vertical);
+}
+
+void HostWindow::makeMenus()
+{
+    QMenu *file = menuBar()->addMenu(u"文件(&F)"_s);
+    file->addAction(u"加载(&L)"_s, QKeySequence::Refresh, this, &HostWindow::loadForm);
+    file->addSeparator();
+    file->addAction(u"退出(&X)"_s, QKeySequence::Quit, this, &QWidget::close);
+    QMenu *view = menuBar()->addMenu(u"视图(&V)"_s); // brings a closed window part back
+    for (QDockWidget *dock : m_docks)
+        view->addAction(dock->toggleViewAction());
+    QMenu *help = menuBar()->addMenu(u"帮助(&H)"_s);
+    help->addAction(u"关于 KOVAVSFDataGrid(&A)"_s, this, [this] {
+        QMessageBox::about(this, u"关于 KOVAVSFDataGrid"_s,
+                           u"KOVAVSFDataGrid %1\n\n查看查询结果，随意筛选和排序。"_s.arg(
+                               QCoreApplication::applicationVersion()));
+    });
+    help->addAction(u"关于 Qt(&Q)"_s, this, [this] { QMessageBox::aboutQt(this); });
 }
 
 // Every event but DataMouseMove, which would drown the others.
@@ -146,11 +163,19 @@ void HostWindow::setUpGrid()
     m_grid->PutPicField(SampleDatabase::pictureField());
 }
 
+void HostWindow::loadForm()
+{
+    setUpGrid();
+    load();
+}
+
 bool HostWindow::load()
 {
     QElapsedTimer timer;
     timer.start();
     const bool isLoaded = m_grid->IsLoadData();
+    if (isLoaded)
+        m_grid->setFocus();
     m_seconds = static_cast<double>(timer.nsecsElapsed()) * 1e-9;
     return isLoaded;
 }

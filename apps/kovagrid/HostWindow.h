@@ -7,6 +7,7 @@
 class EventLog;
 class KOVAVSFDataGrid;
 class QComboBox;
+class QDockWidget;
 class QLabel;
 class QLineEdit;
 
@@ -21,8 +22,10 @@ public:
 
     // Hands what stands in the form to the grid, which tells at once of a statement it can't make out.
     void setUpGrid();
-    // Loads it. False when it could not be loaded; the grid has told the user why.
+    // Loads it and gives it the keyboard. False when it could not be loaded; the grid has told the user why.
     bool load();
+    // Both, as the button does.
+    void loadForm();
     KOVAVSFDataGrid *grid() const { return m_grid; }
     double secondsOfLastLoad() const { return m_seconds; }
 
@@ -32,6 +35,7 @@ protected:
 private:
     QWidget *makeForm(const Options &options);
     void makeDocks();
+    void makeMenus();
     void listenToGrid();
     void showPicture();
 
@@ -43,6 +47,7 @@ private:
     QLineEdit *m_sort;
     QLabel *m_picture;
     EventLog *m_log;
+    QList<QDockWidget *> m_docks;
     qint32 m_tableType;
     double m_seconds = 0;
 };

@@ -118,6 +118,7 @@ int run(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(u"kovagrid"_s);
     QApplication::setApplicationDisplayName(u"KOVAVSFDataGrid"_s);
+    QApplication::setApplicationVersion(QStringLiteral(KOVAGRID_VERSION));
     QApplication::setDesktopFileName(u"kovagrid"_s);
     QApplication::setWindowIcon(QIcon(u":/kovagrid.svg"_s));
     QTranslator translator;
@@ -142,8 +143,7 @@ int run(int argc, char **argv)
     if (!isWatched || options->print || !options->screenshot.isEmpty())
         return runUnattended(window, *options);
     window.show();
-    window.setUpGrid();
-    window.load();
+    window.loadForm();
     pressButtons(*window.grid(), options->keys);
     return QApplication::exec();
 }
