@@ -1,6 +1,8 @@
 #include "control/GridParts.h"
 
 #include "ado/Adodc.h"
+#include "control/ElidedLabel.h"
+#include "control/EmptyHint.h"
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
 #include "control/StatementLine.h"
@@ -8,7 +10,6 @@
 #include "grid/Twips.h"
 
 #include <QtWidgets/QCheckBox>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
@@ -37,11 +38,12 @@ GridParts::GridParts(QWidget &control)
     : picMainBack(named(new QWidget(&control), u"picMainBack"_s)),
       Toolbar1(new GridToolbar(picMainBack)),
       vsfgDataGrid(named(new VSFlexGrid(picMainBack), u"vsfgDataGrid"_s)),
+      lblEmpty(new EmptyHint(*vsfgDataGrid)),
       MSFlexGrid1(named(new MSFlexGrid(picMainBack), u"MSFlexGrid1"_s)),
       txtEdit(named(new QLineEdit(picMainBack), u"txtEdit"_s)),
       txtPage(named(new QLineEdit(picMainBack), u"txtPage"_s)),
       cmdPgae(named(new QPushButton(GridTexts::GoToPage, picMainBack), u"cmdPgae"_s)),
-      lblFieldCount(named(new QLabel(picMainBack), u"lblFieldCount"_s)),
+      lblFieldCount(named(new ElidedLabel(picMainBack), u"lblFieldCount"_s)),
       lblStatement(new StatementLine(picMainBack)),
       CheckSelAllRow(named(new QCheckBox(GridTexts::SelectWholeRows, picMainBack), u"CheckSelAllRow"_s)),
       Adodc1(named(new ADODB::Adodc(&control), u"Adodc1"_s))
@@ -53,7 +55,6 @@ GridParts::GridParts(QWidget &control)
     txtPage->setAccessibleName(GridTexts::PageBoxHint);
     txtPage->setToolTip(GridTexts::PageBoxHint);
     cmdPgae->setToolTip(GridTexts::GoToPageTip);
-    lblFieldCount->setTextFormat(Qt::PlainText);
     Toolbar1->setAccessibleName(GridTexts::ToolbarName);
     vsfgDataGrid->setAccessibleName(GridTexts::GridName);
     MSFlexGrid1->setAccessibleName(GridTexts::SingleRecordName);

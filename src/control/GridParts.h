@@ -3,7 +3,6 @@
 #include <QtCore/QRect>
 
 class QCheckBox;
-class QLabel;
 class QLineEdit;
 class QPushButton;
 class QWidget;
@@ -14,6 +13,8 @@ class Adodc;
 
 namespace KOVAVSFDataGridLib {
 
+class ElidedLabel;
+class EmptyHint;
 class GridToolbar;
 class MSFlexGrid;
 class StatementLine;
@@ -32,11 +33,12 @@ public:
     QWidget *picMainBack;
     GridToolbar *Toolbar1;
     VSFlexGrid *vsfgDataGrid;
+    EmptyHint *lblEmpty;
     MSFlexGrid *MSFlexGrid1;
     QLineEdit *txtEdit;
     QLineEdit *txtPage;
     QPushButton *cmdPgae;
-    QLabel *lblFieldCount;
+    ElidedLabel *lblFieldCount;
     StatementLine *lblStatement;
     QCheckBox *CheckSelAllRow;
     ADODB::Adodc *Adodc1;

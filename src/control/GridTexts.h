@@ -91,8 +91,15 @@ inline const QString AskDeleteTitle = u"删除记录"_s;
 inline const QString DeleteRefused = u"删除操作与数据库的约束冲突，不能删除此记录！"_s;
 
 // The line below the grid: position, count, statement.
-inline const QString RecordAndStatement = u"第 %1 条，共 %2 条　%3"_s;
+inline const QString RecordOf = u"第 %1 条，共 %2 条"_s;
+inline const QString NewRecord = u"新记录，共 %1 条"_s;
+inline const QString BeforeStatement = u"　"_s;
 inline const QString CopyStatement = u"复制语句(&C)"_s;
+
+// In the middle of a grid that has nothing to show.
+inline const QString NothingLoaded = u"尚未加载数据"_s;
+inline const QString NoRecords = u"没有记录"_s;
+inline const QString NoRecordsFound = u"没有符合条件的记录。按“后退”返回上一步的结果。"_s;
 
 // What a screen reader calls the parts that have no caption.
 inline const QString ToolbarName = u"数据命令"_s;

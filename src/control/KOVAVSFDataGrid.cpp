@@ -43,6 +43,7 @@ KOVAVSFDataGrid::KOVAVSFDataGrid(QWidget *parent) : QWidget(parent), d(std::make
     registerReferenceTypes();
     setMinimumSize(Twips::toPixels(GridParts::MinimumWidth, *this),
                    Twips::toPixels(GridParts::MinimumHeight, *this));
+    setFocusProxy(d->parts.vsfgDataGrid); // a host that gives the control the keyboard means the data
     d->applyBackColor();
     CloseAllAction();
 }

@@ -229,6 +229,7 @@ bool KOVAVSFDataGrid::Private::isSingleRecordShown() const
 void KOVAVSFDataGrid::Private::showMultiRecordView()
 {
     parts.vsfgDataGrid->show();
+    q.setFocusProxy(parts.vsfgDataGrid);
     parts.MSFlexGrid1->hide();
     parts.txtEdit->hide();
     parts.Toolbar1->setButtonVisible(u"SingleRecord"_s, true);

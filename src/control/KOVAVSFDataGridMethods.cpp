@@ -210,6 +210,7 @@ void KOVAVSFDataGrid::CloseAllAction()
     d->parts.cmdPgae->setEnabled(false);
     d->parts.Toolbar1->setEnabled(false);
     d->parts.Toolbar1->setAllButtonsEnabled(false);
+    d->tellStatement();
 }
 
 bool KOVAVSFDataGrid::IsLoadData()

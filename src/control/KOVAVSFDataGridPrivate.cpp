@@ -6,6 +6,7 @@
 #include "ado/Recordset.h"
 #include "control/Configuration.h"
 #include "control/DesignMode.h"
+#include "control/EmptyHint.h"
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
 #include "control/StatementLine.h"
@@ -24,6 +25,19 @@
 #include <stdexcept>
 
 using namespace KOVAVSFDataGridLib;
+
+namespace {
+
+// Which record is current, in words.
+QString placeOf(const ADODB::Recordset &recordset)
+{
+    if (recordset.EditMode() == ADODB::adEditAdd)
+        return GridTexts::NewRecord.arg(recordset.RecordCount());
+    return GridTexts::RecordOf.arg(std::max<qint64>(0, recordset.AbsolutePosition()))
+        .arg(recordset.RecordCount());
+}
+
+} // namespace
 
 KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
     : q(control),
@@ -75,9 +89,17 @@ void KOVAVSFDataGrid::Private::tellStatement()
 {
     QString statement;
     const bool isOpen = result.isOpen() && filter && filter->SQLManager().GetLatestSQL(statement);
-    const qint64 count = isOpen ? result.recordset()->RecordCount() : 0;
-    const qint64 position = isOpen ? std::max<qint64>(0, result.recordset()->AbsolutePosition()) : 0;
-    parts.lblStatement->tell(position, count, isOpen ? statement : QString());
+    const bool canGoBack = isOpen && filter->SQLManager().Count() > 1;
+    if (isOpen)
+        parts.lblStatement->tell(placeOf(*result.recordset()), statement);
+    else
+        parts.lblStatement->tell({}, {});
+    if (!result.isOpen())
+        parts.lblEmpty->tell(GridTexts::NothingLoaded);
+    else if (result.recordset()->RecordCount() > 0)
+        parts.lblEmpty->tell({});
+    else
+        parts.lblEmpty->tell(canGoBack ? GridTexts::NoRecordsFound : GridTexts::NoRecords);
 }
 
 void KOVAVSFDataGrid::Private::runSteps(QStringView title, std::initializer_list<std::function<void()>> steps)

@@ -77,6 +77,8 @@ void LoadProgress::showLine()
     m_bar->setRange(0, 0); // nobody knows how many there will be
     m_bar->setTextVisible(false);
     m_bar->setMaximumHeight(m_bar->fontMetrics().height() / 2);
+    // Where it gets narrow the number tells more than the bar.
+    m_bar->setSizePolicy(QSizePolicy::Ignored, m_bar->sizePolicy().verticalPolicy());
     m_count = new QLabel;
     m_count->setTextFormat(Qt::PlainText);
     auto *cancel = new QPushButton(GridTexts::CancelOpening);

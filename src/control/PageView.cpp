@@ -2,6 +2,7 @@
 
 #include "ado/Adodc.h"
 #include "ado/Recordset.h"
+#include "control/ElidedLabel.h"
 #include "control/GridParts.h"
 #include "control/GridTexts.h"
 #include "control/ResultSet.h"
@@ -11,7 +12,6 @@
 #include "query/SharedValues.h"
 
 #include <QtCore/QSignalBlocker>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 
 #include <algorithm>

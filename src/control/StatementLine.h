@@ -1,26 +1,21 @@
 #pragma once
 
-#include <QtWidgets/QLabel>
+#include "control/ElidedLabel.h"
 
 namespace KOVAVSFDataGridLib {
 
 // One discreet line that tells where the user is and which statement is shown. What has no room is cut; the
 // tool tip has the statement whole, and it can be copied (Ctrl+C, or the line's own menu).
-class StatementLine final : public QLabel
+class StatementLine final : public ElidedLabel
 {
     Q_OBJECT
 
 public:
     explicit StatementLine(QWidget *parent);
 
-    // `position` from 1, 0 for none. An empty statement empties the line.
-    void tell(qint64 position, qint64 count, const QString &statement);
+    // `place` tells which record is current. An empty statement empties the line.
+    void tell(const QString &place, const QString &statement);
     const QString &statement() const { return m_statement; }
-
-    QSize minimumSizeHint() const override;
-
-protected:
-    void paintEvent(QPaintEvent *event) override;
 
 private:
     void copy();

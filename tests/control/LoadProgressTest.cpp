@@ -89,6 +89,17 @@ TEST_F(LoadProgressTest, TheLineTellsHowManyRecordsHaveBeenRead)
     EXPECT_FALSE(hasWaitCursor) << "the pointer shall invite to press the button";
 }
 
+TEST_F(LoadProgressTest, InANarrowLineTheNumberTakesTheBarsPlace)
+{
+    grid.resize(grid.minimumSize());
+    EXPECT_FALSE(loadForever([&] {
+        const auto *bar = grid.findChild<QProgressBar *>();
+        const auto *number = bar->parentWidget()->findChild<QLabel *>();
+        EXPECT_GT(number->width(), 3 * bar->width());
+        EXPECT_GE(cancelButton()->width(), cancelButton()->fontMetrics().horizontalAdvance(u"取消"_s));
+    }));
+}
+
 TEST_F(LoadProgressTest, TheButtonCancelsAsAFailedOpen)
 {
     EXPECT_FALSE(loadForever([this] { QTest::mouseClick(cancelButton(), Qt::LeftButton); }));

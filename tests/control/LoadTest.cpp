@@ -113,6 +113,30 @@ TEST_F(Load, AnEmptyResultShowsTheHeadingsAlone)
     EXPECT_EQ(part<QLabel>("lblFieldCount")->text(), u"第0页共0页  只显示999999条以内的记录"_s);
 }
 
+TEST_F(Load, AGridWithNothingToShowSaysWhy)
+{
+    grid.show();
+    const auto *hint = part<QLabel>("lblEmpty");
+    EXPECT_EQ(hint->text(), u"尚未加载数据"_s);
+    EXPECT_TRUE(hint->isVisible());
+    ASSERT_TRUE(load(u"select * from T"_s));
+    EXPECT_FALSE(hint->isVisible());
+    ASSERT_TRUE(load(u"select * from T where ID > 100"_s));
+    EXPECT_EQ(hint->text(), u"没有记录"_s);
+    EXPECT_TRUE(hint->isVisible());
+    grid.Clear();
+    EXPECT_EQ(hint->text(), u"尚未加载数据"_s);
+    EXPECT_EQ(part<QLabel>("lblStatement")->text(), QString()) << "nothing is said of a result that is gone";
+}
+
+TEST_F(Load, TheHostGivesTheKeyboardToTheData)
+{
+    ASSERT_TRUE(load(u"select * from T"_s));
+    part<QLineEdit>("txtPage")->setFocus();
+    grid.setFocus();
+    EXPECT_EQ(grid.window()->focusWidget(), table);
+}
+
 TEST_F(Load, TellsTheHostThatTheRecordsetWasReplaced)
 {
     QSignalSpy replaced(&grid, &KOVAVSFDataGrid::RecordsetChanged);

@@ -1,10 +1,13 @@
 // Where the parts of the control stand, in twips, at the resolution that the environment asks for.
 #include <KOVAVSFDataGrid>
 
+#include <QtGui/QHelpEvent>
 #include <QtTest/QTest>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableView>
+#include <QtWidgets/QToolTip>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -94,6 +97,37 @@ TEST_F(Resize, ThePageControlsNeverOverlap)
         }
         EXPECT_LE(end, grid.rect().right()) << width;
     }
+}
+
+TEST_F(Resize, APageLabelWithoutRoomIsWholeInItsToolTip)
+{
+    auto *label = grid.findChild<QLabel *>(u"lblFieldCount"_s);
+    const auto pointAt = [label] {
+        QToolTip::hideText();
+        const QPoint middle = label->rect().center();
+        QHelpEvent rest(QEvent::ToolTip, middle, label->mapToGlobal(middle));
+        QCoreApplication::sendEvent(label, &rest);
+        return QToolTip::text();
+    };
+    grid.resize(pixels(12000), pixels(6000));
+    EXPECT_EQ(pointAt(), QString());
+    grid.resize(pixels(5000), pixels(6000));
+    EXPECT_EQ(pointAt(), label->text());
+}
+
+TEST_F(Resize, WhatAnEmptyGridTellsStaysInsideIt)
+{
+    const auto *hint = grid.findChild<QLabel *>(u"lblEmpty"_s);
+    const auto *table = grid.findChild<QTableView *>(u"vsfgDataGrid"_s);
+    for (const int width : {12000, 5000}) {
+        grid.resize(pixels(width), pixels(6000));
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(hint->isVisible());
+        EXPECT_EQ(hint->geometry(), table->viewport()->geometry());
+    }
+    grid.resize(pixels(3000), pixels(1500));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(!hint->isVisible() || hint->height() >= hint->fontMetrics().height()) << "half a line";
 }
 
 TEST_F(Resize, MovingTheEdgeHidesTheCellEditor)

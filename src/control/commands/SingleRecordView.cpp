@@ -67,6 +67,7 @@ void SingleRecordView::ShowSingleRecord()
     FillSingleRecordView();
     fitNameColumn();
     m_hub.parts.MSFlexGrid1->show();
+    m_hub.q.setFocusProxy(m_hub.parts.MSFlexGrid1);
     m_hub.parts.vsfgDataGrid->hide();
     m_hub.parts.Toolbar1->setButtonVisible(u"SingleRecord"_s, false);
     m_hub.parts.Toolbar1->setButtonVisible(u"AllRecord"_s, true);
@@ -110,6 +111,7 @@ void SingleRecordView::FillSingleRecordView()
         cells->setText(at, ValueCol, valueText(field));
     }
     list.Show(std::move(cells));
+    list.PutColWidth(ValueCol, FlexGrid::UseDefaultWidth); // from which it fills whatever width there is
     if (at > 0) {
         list.PutRow(std::clamp(row, 1, at));
         list.PutCol(ValueCol);

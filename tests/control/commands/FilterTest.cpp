@@ -38,6 +38,19 @@ TEST_F(Filters, TheDialogsConditionIsAppliedAndRecorded)
     EXPECT_EQ(rows(), Records);
 }
 
+TEST_F(Filters, WhoFindsNothingIsToldTheWayBack)
+{
+    ASSERT_TRUE(load());
+    const WindowAnswers dialogs({[](QDialog &dialog) { filter(dialog, u"ID > 100"_s); }});
+    click(u"Filter"_s);
+    const auto *hint = grid.findChild<QLabel *>(u"lblEmpty"_s);
+    EXPECT_TRUE(hint->isVisible());
+    EXPECT_TRUE(hint->text().contains(button(u"ToPreview"_s)->text())) << qUtf8Printable(hint->text());
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), Records);
+    EXPECT_FALSE(hint->isVisible());
+}
+
 TEST_F(Filters, FromTheOriginStartsAgainAndFromTheResultRefines)
 {
     ASSERT_TRUE(load());

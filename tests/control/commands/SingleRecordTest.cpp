@@ -80,6 +80,34 @@ TEST_F(SingleRecord, TheNameColumnFitsTheWidestName)
     EXPECT_EQ(list->columnWidth(0), widest + 12) << "180 twips at 96 DPI";
 }
 
+TEST_F(SingleRecord, TheValuesFillWhateverWidthThereIs)
+{
+    ASSERT_TRUE(load());
+    const auto resize = [this](const QSize &size) {
+        grid.resize(size);
+        QCoreApplication::processEvents();
+        grid.grab();
+    };
+    resize({300, 150});
+    resize({1000, 500});
+    click(u"SingleRecord"_s);
+    for (const QSize size : {QSize(1000, 500), QSize(700, 500), QSize(300, 150), QSize(1000, 500)}) {
+        resize(size);
+        EXPECT_EQ(list->columnWidth(0) + list->columnWidth(1), list->viewport()->width()) << size.width();
+    }
+}
+
+TEST_F(SingleRecord, TheHostGivesTheKeyboardToTheList)
+{
+    ASSERT_TRUE(load());
+    click(u"SingleRecord"_s);
+    grid.setFocus();
+    EXPECT_EQ(grid.window()->focusWidget(), list);
+    click(u"AllRecord"_s);
+    grid.setFocus();
+    EXPECT_EQ(grid.window()->focusWidget(), table);
+}
+
 TEST_F(SingleRecord, IsRefilledByWhatShowsAnotherRecordOrFields)
 {
     ASSERT_TRUE(load());

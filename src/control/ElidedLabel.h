@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QtWidgets/QLabel>
+
+namespace KOVAVSFDataGridLib {
+
+// One line of plain text that may get narrower than its text: what has no room is cut with an ellipsis, and
+// the tool tip, unless there is another one, then has the text whole.
+class ElidedLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit ElidedLabel(QWidget *parent);
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString shownText() const;
+};
+
+} // namespace KOVAVSFDataGridLib
