@@ -12,6 +12,7 @@
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QCompleter>
+#include <QtWidgets/QToolButton>
 
 #include <algorithm>
 
@@ -62,6 +63,15 @@ QString hintFor(FieldClass fieldClass)
 bool hasDays(FieldClass fieldClass)
 {
     return fieldClass == FieldClass::Date || fieldClass == FieldClass::Moment;
+}
+
+// Without an icon theme Qt has green discs for turning the months, whatever the colours around them.
+void usePlainArrows(const QCalendarWidget &calendar)
+{
+    if (auto *previous = calendar.findChild<QToolButton *>(u"qt_calendar_prevmonth"_s))
+        previous->setArrowType(Qt::LeftArrow);
+    if (auto *next = calendar.findChild<QToolButton *>(u"qt_calendar_nextmonth"_s))
+        next->setArrowType(Qt::RightArrow);
 }
 
 } // namespace
@@ -162,6 +172,7 @@ void ValueEdit::offerCalendar()
         m_calendar->setLocale(QLocale(QLocale::Chinese, QLocale::China));
         m_calendar->setFirstDayOfWeek(Qt::Monday);
         m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+        usePlainArrows(*m_calendar);
         connect(m_calendar, &QCalendarWidget::clicked, this, &ValueEdit::takeDay);
         connect(m_calendar, &QCalendarWidget::activated, this, &ValueEdit::takeDay);
     }

@@ -13,6 +13,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListView>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 #include <gtest/gtest.h>
 
@@ -323,6 +324,16 @@ TEST_F(Builder, ADayIsPickedFromACalendarAndKeepsTheTimeBehindIt)
     QTest::keyClick(calendar->focusWidget() ? calendar->focusWidget() : calendar, Qt::Key_Right);
     QTest::keyClick(calendar->focusWidget() ? calendar->focusWidget() : calendar, Qt::Key_Return);
     EXPECT_EQ(answer(), "发货时间 = '2024-01-06 08:30:00'");
+}
+
+TEST_F(Builder, TheCalendarHasNoPicturesOfItsOwn)
+{
+    choose("cmbField1", u"下单日期"_s);
+    QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+    auto &calendar = part<QCalendarWidget>(dialog, "calDays");
+    EXPECT_EQ(part<QToolButton>(dialog, "qt_calendar_prevmonth").arrowType(), Qt::LeftArrow);
+    EXPECT_EQ(part<QToolButton>(dialog, "qt_calendar_nextmonth").arrowType(), Qt::RightArrow);
+    calendar.close();
 }
 
 TEST_F(Builder, TheCalendarStaysOnTheScreen)
