@@ -13,6 +13,7 @@
 #include "query/SqlText.h"
 #include "query/modQNVSFHFDataMain.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QResizeEvent>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QPushButton>
@@ -86,14 +87,14 @@ QColor KOVAVSFDataGrid::BackColor() const
 
 void KOVAVSFDataGrid::PutBackColor(const QColor &colour)
 {
-    d->put(d->backColor, colour.isValid() ? OleColor(colour) : OleColor(OleColor::ButtonFace), "BackColor");
-    d->applyBackColor();
+    const OleColor written = colour.isValid() ? OleColor(colour) : OleColor(OleColor::ButtonFace);
+    if (d->put(d->backColor, written, "BackColor"))
+        d->applyBackColor();
 }
 
 void KOVAVSFDataGrid::ResetBackColor()
 {
-    d->put(d->backColor, OleColor(OleColor::ButtonFace), "BackColor");
-    d->applyBackColor();
+    PutBackColor({});
 }
 
 bool KOVAVSFDataGrid::DisplayEable() const
@@ -201,12 +202,18 @@ QString KOVAVSFDataGrid::ConnectionString() const
 
 void KOVAVSFDataGrid::PutConnectionString(const QString &text)
 {
-    d->put(d->connectionString, text, "ConnectionString");
-    PutSQLShow({});
+    const QPointer<KOVAVSFDataGrid> alive(this);
+    if (d->put(d->connectionString, text, "ConnectionString"))
+        PutSQLShow({});
     ClearSQLFieldList();
-    PutSQLFilter({});
-    PutSQLSort({});
-    PutSQLPartDisplay({});
+    if (alive)
+        PutSQLFilter({});
+    if (alive)
+        PutSQLSort({});
+    if (alive)
+        PutSQLPartDisplay({});
+    if (!alive)
+        return;
     d->shared.connectionString = text;
     d->filterManager().ClearFilter();
 }
@@ -218,10 +225,13 @@ QString KOVAVSFDataGrid::SQLShow() const
 
 void KOVAVSFDataGrid::PutSQLShow(const QString &statement)
 {
-    d->put(d->sqlShow, statement, "SQLShow");
+    const QPointer<KOVAVSFDataGrid> alive(this);
+    if (!d->put(d->sqlShow, statement, "SQLShow"))
+        return;
     d->shared.sqlShow = statement;
     PutSQLPartDisplay(statement);
-    d->shared.sqlShowCopy = statement;
+    if (alive)
+        d->shared.sqlShowCopy = statement;
 }
 
 QObject *KOVAVSFDataGrid::RecordSet() const
@@ -244,12 +254,15 @@ void KOVAVSFDataGrid::PutSQLPartDisplay(const QString &statement)
     d->sqlPartDisplay = statement;
     const auto failure = ParseSQLFieldList(JoinStatementLines(statement),
                                            static_cast<KOVAVSFDataGridLib::AllDBType>(DBType()));
+    const QPointer<KOVAVSFDataGrid> alive(this);
     if (failure) {
         Messages::tell(this, GridTexts::FieldListFailed, GridTexts::FieldListFailedTitle,
                        QMessageBox::Critical);
-        Messages::tell(this, failure->source + failure->description);
+        if (alive)
+            Messages::tell(this, failure->source + failure->description);
     }
-    Q_EMIT PropertyChanged(u"SQLPartDisplay"_s);
+    if (alive)
+        d->tellWritten("SQLPartDisplay");
 }
 
 QString KOVAVSFDataGrid::SQLFilter() const
@@ -399,8 +412,10 @@ QSize KOVAVSFDataGrid::sizeHint() const
 void KOVAVSFDataGrid::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
+    const QPointer<KOVAVSFDataGrid> alive(this);
     d->commands.singleRecord.editor().take(true); // before the editor is put away
-    d->parts.layOut(event->size().width(), event->size().height());
+    if (alive)
+        d->parts.layOut(event->size().width(), event->size().height());
 }
 
 void KOVAVSFDataGrid::changeEvent(QEvent *event)

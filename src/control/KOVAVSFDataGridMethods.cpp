@@ -229,12 +229,12 @@ void KOVAVSFDataGrid::ClearObject()
     d->emptyGrid();
     if (!d->closeResult())
         return;
-    d->result.release();
     d->reader.forget();
     ADODB::ConnectionFactory::setInstance(nullptr);
     if (d->filter)
         d->filter->ClearObject();
     d->filter.reset();
+    d->result.release(); // last, because the host may delete the control
 }
 
 QString KOVAVSFDataGrid::CellTextL(const qint32 &n_row, const qint32 &n_col)

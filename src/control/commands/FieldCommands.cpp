@@ -93,11 +93,14 @@ void SelectShowFields(ControlHub &hub, QString &strSQL)
         !hub.commands.statement.OpenShowSQL(statement))
         return;
     rollback.keepChanges();
+    const ResultWatch watch(hub);
     hub.q.PutSQLFilter(statement);
+    if (!watch.isUntouched())
+        return;
     hub.setPartAllButton(2);
     hub.showModel = KOVAVSFDataGrid::ModelPart;
     hub.commands.statement.record(statement, chosenFields, colShowSQLSentences::NoSort());
-    strSQL = hub.sqlFilter;
+    strSQL = statement;
     const QPointer<KOVAVSFDataGrid> alive(&hub.q);
     Q_EMIT hub.q.ShowFieldsChange(statement);
     if (alive)

@@ -7,6 +7,8 @@
 
 #include <QtCore/QObject>
 
+#include <functional>
+
 class QKeyEvent;
 
 namespace KOVAVSFDataGridLib {
@@ -38,7 +40,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void perform(void (*command)(ControlHub &));
+    void perform(const std::function<void()> &command);
     void showMenu(const QPoint &position);
     bool isShortcut(const QKeyEvent &event) const;
     void followRecord();
