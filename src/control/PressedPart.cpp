@@ -1,5 +1,6 @@
 #include "control/PressedPart.h"
 
+#include "control/DeleteAfterEvent.h"
 #include "control/GridParts.h"
 #include "grid/FlexGrid.h"
 
@@ -21,10 +22,8 @@ PressedPart::PressedPart(const GridParts &parts)
 
 PressedPart::~PressedPart()
 {
-    if (!m_part)
-        return;
-    m_part->setParent(nullptr);
-    m_part->deleteLater();
+    if (m_part)
+        DeleteAfterEvent(*m_part);
 }
 
 bool PressedPart::eventFilter(QObject *watched, QEvent *event)

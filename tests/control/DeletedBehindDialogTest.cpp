@@ -82,6 +82,7 @@ TEST_P(DeletedBehindDialog, EndsTheDialogAsCancelled)
     EXPECT_TRUE(seen.endsWith(QLatin1StringView(GetParam().dialog))) << qUtf8Printable(seen);
     EXPECT_FALSE(QApplication::activeModalWidget());
     delete grid;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 INSTANTIATE_TEST_SUITE_P(

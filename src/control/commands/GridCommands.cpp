@@ -2,6 +2,7 @@
 
 #include "ado/Adodc.h"
 #include "ado/Recordset.h"
+#include "control/DeleteAfterEvent.h"
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
 #include "control/KOVAVSFDataGridPrivate.h"
@@ -20,6 +21,7 @@
 #include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
 
 #include <algorithm>
 #include <exception>
@@ -174,6 +176,14 @@ GridCommands::GridCommands(ControlHub &hub)
             });
 }
 
+GridCommands::~GridCommands()
+{
+    if (m_running == 0)
+        return;
+    DeleteAfterEvent(*m_hub.parts.Toolbar1);
+    DeleteAfterEvent(m_menu.menu());
+}
+
 void GridCommands::run(const QString &key)
 {
     const auto *command = std::find_if(std::begin(ToolbarCommands), std::end(ToolbarCommands),
@@ -203,12 +213,14 @@ void GridCommands::DoDataAction(int index, bool &ok)
 void GridCommands::perform(const std::function<void()> &command)
 {
     const QPointer<GridCommands> alive(this);
+    ++m_running;
     try {
         command();
     } catch (const std::exception &) {
     }
     if (!alive)
         return;
+    --m_running;
     m_hub.updateRecordPosition();
     m_menu.PreparePopupMenu();
 }
