@@ -20,7 +20,7 @@
 using namespace KOVAVSFDataGridLib;
 using namespace Qt::StringLiterals;
 
-// The methods of the interface; its properties are in KOVAVSFDataGrid.cpp.
+// The methods of the interface; its properties are in KOVAVSFDataGridProperties.cpp.
 
 void KOVAVSFDataGrid::Refresh()
 {
