@@ -165,13 +165,16 @@ void GridEvents::followGridRow()
     VSFlexGrid &grid = *m_parts.vsfgDataGrid;
     if (grid.Row() == 0 || !m_result.isOpen())
         return;
-    ADODB::Recordset &recordset = *m_result.recordset();
+    const QPointer<GridEvents> alive(this);
+    const auto recordset = m_result.recordset();
     const qint64 record = m_pages.recordOfRow(grid.Row());
     try {
-        if (record <= recordset.RecordCount() && record != recordset.AbsolutePosition())
-            recordset.PutAbsolutePosition(record);
+        if (record <= recordset->RecordCount() && record != recordset->AbsolutePosition())
+            recordset->PutAbsolutePosition(record);
     } catch (const ADODB::Error &) {
-        const qint64 row = recordset.AbsolutePosition() - m_pages.recordOfRow(1) + 1;
+        if (!alive || !m_result.isOpen() || m_result.recordset() != recordset)
+            return; // the host, told that the edit was saved, has put something else in its place
+        const qint64 row = recordset->AbsolutePosition() - m_pages.recordOfRow(1) + 1;
         if (row >= 1 && row < grid.Rows())
             grid.PutRow(static_cast<int>(row));
     }

@@ -97,6 +97,8 @@ public:
 
     // An empty grid with everything disabled until IsLoadData.
     explicit KOVAVSFDataGrid(QWidget *parent = nullptr);
+    // Ends its open dialogs as cancelled, and closes the result at once, with its files and its connection,
+    // unless the host shares ADODB::Adodc::Recordset().
     ~KOVAVSFDataGrid() override;
 
     QString STR_SQLTEMP() const override;
@@ -204,8 +206,9 @@ Q_SIGNALS:
     // handler. Positions are twips, 1440 to the inch, from the grid's corner; Button is 1 left, 2 right, 4
     // middle; Shift is the sum of 1 Shift, 2 Ctrl, 4 Alt.
     //
-    // A handler of one of these may load again, tear down or delete the control; only while the right button
-    // goes down the latter has to be deleteLater(), because Qt uses the pressed widget once more.
+    // A handler of one of these, of PropertyChanged too, may load again, tear down or delete the control, and
+    // so may a timer while a dialog is open. The window that the control stands on has to outlive the event:
+    // close it, or leave it to deleteLater().
 
     // A mouse button went down on the grid, headings included; told before the grid acts on it.
     void DataMouseDown(qint16 &Button, qint16 &Shift, float &x, float &y);

@@ -93,6 +93,8 @@ bool KOVAVSFDataGrid::Private::load()
 
     parts.layOut(q.width(), q.height()); // the columns are fitted even before the control is first shown
     showPage(1);
+    if (!alive)
+        return false;
     // Widths belong to fields: the same ones loaded again keep theirs.
     if (parts.vsfgDataGrid->Headings() != fieldsBefore)
         parts.vsfgDataGrid->ResetColWidths();
@@ -180,15 +182,17 @@ ColumnLayout KOVAVSFDataGrid::Private::columns()
     return ColumnLayout(*parts.vsfgDataGrid, filterManager().SQLManager());
 }
 
-void KOVAVSFDataGrid::Private::showPage(qint64 page)
+bool KOVAVSFDataGrid::Private::showPage(qint64 page)
 {
     const int pageBefore = pages.currentPage();
     pages.setCurrentPage(page);
     try {
         pages.fill(picField);
+        return true;
     } catch (const ADODB::Error &error) {
         pages.setCurrentPage(pageBefore);
         Messages::tell(&q, GridTexts::PageErrorPrefix + error.Description());
+        return false;
     }
 }
 

@@ -20,7 +20,7 @@
 using namespace KOVAVSFDataGridLib;
 using namespace Qt::StringLiterals;
 
-// The methods of the interface; its properties are in KOVAVSFDataGrid.cpp.
+// The methods of the interface; its properties are in KOVAVSFDataGridProperties.cpp.
 
 void KOVAVSFDataGrid::Refresh()
 {
@@ -230,12 +230,12 @@ void KOVAVSFDataGrid::ClearObject()
     d->emptyGrid();
     if (!d->closeResult())
         return;
-    d->result.release();
     d->reader.forget();
     ADODB::ConnectionFactory::setInstance(nullptr);
     if (d->filter)
         d->filter->ClearObject();
     d->filter.reset();
+    d->result.release(); // last, because the host may delete the control
 }
 
 QString KOVAVSFDataGrid::CellTextL(const qint32 &n_row, const qint32 &n_col)

@@ -47,7 +47,8 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
       reader(result),
       chooser(&control),
       events(control, parts, result, pages),
-      commands(*this)
+      commands(*this),
+      pressedPart(parts)
 {
     connect(parts.cmdPgae, &QPushButton::clicked, &q, [this] { commands.goToTypedPage(); });
     connect(parts.CheckSelAllRow, &QCheckBox::toggled, &q, [this](bool on) {
@@ -71,6 +72,13 @@ void KOVAVSFDataGrid::Private::giveThreeTierSwitch()
     ADODB::ConnectionFactory &factory = ADODB::ConnectionFactory::instance();
     factory.SetThreeTier(Read3TierSwitch() != 0);
     factory.SetMiddleTier(readMiddleTier());
+}
+
+bool KOVAVSFDataGrid::Private::tellWritten(const char *name)
+{
+    const QPointer<KOVAVSFDataGrid> alive(&q);
+    Q_EMIT q.PropertyChanged(QLatin1StringView(name));
+    return alive;
 }
 
 bool KOVAVSFDataGrid::Private::isUserMode() const

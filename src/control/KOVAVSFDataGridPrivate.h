@@ -7,6 +7,7 @@
 #include "control/KOVAVSFDataGrid.h"
 #include "control/OleColor.h"
 #include "control/PageView.h"
+#include "control/PressedPart.h"
 #include "control/ResultSet.h"
 #include "control/commands/ControlFieldChooser.h"
 #include "control/commands/GridCommands.h"
@@ -25,13 +26,16 @@ class KOVAVSFDataGrid::Private
 public:
     explicit Private(KOVAVSFDataGrid &control);
 
-    // Stores a property's value and tells the host that it was written, even when it is the same.
+    // Stores a property's value and tells the host that it was written, even when it is the same. False when
+    // the host, told of it, has deleted the control.
     template<typename Value>
-    void put(Value &property, const Value &value, const char *name)
+    bool put(Value &property, const Value &value, const char *name)
     {
         property = value;
-        Q_EMIT q.PropertyChanged(QLatin1StringView(name));
+        return tellWritten(name);
     }
+    // The second half of it.
+    bool tellWritten(const char *name);
 
     bool isUserMode() const;
     void applyBackColor();
@@ -56,8 +60,9 @@ public:
     Opening open(const QString &statement, qint32 dbType);
     // False when the host, told of it, has put something else in the result's place or deleted the control.
     bool closeResult();
-    // Stays where it is, and tells why, when an edit of the current record can't be saved.
-    void showPage(qint64 page);
+    // False when it stays where it is because an edit of the current record can't be saved. The user is told,
+    // and can have destroyed the control meanwhile.
+    bool showPage(qint64 page);
     // Hands the middle-tier switch to the connection factory, which may have been made anew.
     void giveThreeTierSwitch();
     // Takes the open result's number of records and position into the shared values.
@@ -123,4 +128,5 @@ public:
     QString picField;
 
     KOVAVSFDataGridLib::GridCommands commands;
+    KOVAVSFDataGridLib::PressedPart pressedPart;
 };

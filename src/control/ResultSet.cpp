@@ -15,21 +15,25 @@
 
 namespace KOVAVSFDataGridLib {
 
+namespace {
+
+// The same recordset, closed as soon as its last holder lets go of it. The object itself stays until the
+// event loop runs again, because a host's handler may let go of a recordset that is just telling of its own
+// move.
+std::shared_ptr<ADODB::Recordset> closedByLastHolder(std::shared_ptr<ADODB::Recordset> recordset)
+{
+    ADODB::Recordset *const held = recordset.get();
+    return {held, [recordset = std::move(recordset)](ADODB::Recordset *) mutable {
+                if (recordset->State() == ADODB::adStateOpen)
+                    recordset->Close();
+                QMetaObject::invokeMethod(
+                    QCoreApplication::instance(), [last = std::move(recordset)] {}, Qt::QueuedConnection);
+            }};
+}
+
+} // namespace
+
 ResultSet::ResultSet(ADODB::Adodc &adodc) : m_adodc(adodc) {}
-
-ResultSet::~ResultSet()
-{
-    letGo(std::move(m_recordset));
-}
-
-// A host's handler may replace the recordset that is just telling of its own move: that one stays until the
-// event loop runs again.
-void ResultSet::letGo(std::shared_ptr<ADODB::Recordset> recordset)
-{
-    if (recordset && QCoreApplication::instance())
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(), [recordset] {}, Qt::QueuedConnection);
-}
 
 ResultSet::Opened ResultSet::open(const QString &connectionString, const QString &statement, qint32 dbType,
                                   const std::function<bool(qint64)> &progress)
@@ -45,7 +49,7 @@ ResultSet::Opened ResultSet::open(const QString &connectionString, const QString
     recordset->Open(statement, connection, ADODB::adOpenKeyset, ADODB::adLockOptimistic, ADODB::adCmdText);
     recordset->SetProgress({});
     recordset->PutPageSize(SharedValues::RecordCap);
-    return {connectionString, std::move(connection), std::move(recordset)};
+    return {connectionString, std::move(connection), closedByLastHolder(std::move(recordset))};
 }
 
 void ResultSet::replaceBy(Opened opened)
@@ -54,7 +58,6 @@ void ResultSet::replaceBy(Opened opened)
     close();
     if (!alive) // the host has deleted the control when it was told
         return;
-    letGo(std::move(m_recordset));
     m_connectionString = std::move(opened.connectionString);
     m_connection = std::move(opened.connection);
     m_recordset = std::move(opened.recordset);
@@ -91,7 +94,7 @@ void ResultSet::release()
         return;
     m_connectionString.clear();
     m_connection.reset();
-    letGo(std::move(m_recordset));
+    m_recordset.reset();
     m_adodc.PutRecordset(nullptr);
 }
 

@@ -15,14 +15,13 @@ class Recordset;
 
 namespace KOVAVSFDataGridLib {
 
-// The open connection and recordset of one control, one each, replaced together.
+// The open connection and recordset of one control, one each, replaced together. Whoever holds a recordset
+// last closes it, with its files, at once: this object, unless a host holds it as well.
 class ResultSet
 {
 public:
     // `adodc` passes the recordset's notifications on; it must outlive this object.
     explicit ResultSet(ADODB::Adodc &adodc);
-    ~ResultSet();
-    Q_DISABLE_COPY_MOVE(ResultSet)
 
     // A result that was opened beside the shown one, to take its place.
     struct Opened
@@ -56,8 +55,6 @@ public:
     Engine engine() const { return m_engine; }
 
 private:
-    static void letGo(std::shared_ptr<ADODB::Recordset> recordset);
-
     ADODB::Adodc &m_adodc;
     std::shared_ptr<ADODB::Connection> m_connection;
     Engine m_engine = Engine::Other;

@@ -8,7 +8,10 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTableView>
 #include <QtWidgets/QToolBar>
 #include <gtest/gtest.h>
 
@@ -33,6 +36,16 @@ std::function<void(KOVAVSFDataGrid &)> button(const char *key)
         QTest::mouseClick(bar->widgetForAction(bar->findChild<QAction *>(QLatin1StringView(key))),
                           Qt::LeftButton);
     };
+}
+
+// Types into the field ID of the record, in the single-record list.
+void typeIntoID(KOVAVSFDataGrid &grid, Qt::Key key)
+{
+    button("SingleRecord")(grid);
+    auto *list = grid.findChild<QTableView *>(u"MSFlexGrid1"_s);
+    list->setCurrentIndex(list->model()->index(0, 1));
+    QTest::keyClick(list, key);
+    QTest::keyClick(grid.findChild<QLineEdit *>(u"txtEdit"_s), Qt::Key_Return);
 }
 
 class DeletedBehindDialog : public testing::TestWithParam<Way>
@@ -69,6 +82,7 @@ TEST_P(DeletedBehindDialog, EndsTheDialogAsCancelled)
     EXPECT_TRUE(seen.endsWith(QLatin1StringView(GetParam().dialog))) << qUtf8Printable(seen);
     EXPECT_FALSE(QApplication::activeModalWidget());
     delete grid;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -82,6 +96,19 @@ INSTANTIATE_TEST_SUITE_P(
         Way{"Deletion", "QMessageBox",
             [](KOVAVSFDataGrid &grid) { grid.findChild<QAction *>(u"PopMnuDataAction9"_s)->trigger(); }},
         Way{"WrongCell", "QMessageBox", [](KOVAVSFDataGrid &grid) { grid.CellText(99, 99); }},
+        Way{"UnreadableFieldList", "QMessageBox",
+            [](KOVAVSFDataGrid &grid) { grid.PutSQLShow(u"SELECT ID"_s); }},
+        Way{"RefusedValue", "QMessageBox", [](KOVAVSFDataGrid &grid) { typeIntoID(grid, Qt::Key_X); }},
+        Way{"RefusedRecord", "QMessageBox",
+            [](KOVAVSFDataGrid &grid) {
+                typeIntoID(grid, Qt::Key_2); // which another record has
+                button("AllRecord")(grid);
+            }},
+        Way{"RefusedRecordBeforeAnotherPage", "QMessageBox",
+            [](KOVAVSFDataGrid &grid) {
+                typeIntoID(grid, Qt::Key_2);
+                QTest::mouseClick(grid.findChild<QPushButton *>(u"cmdPgae"_s), Qt::LeftButton);
+            }},
         Way{"FailedLoad", "QMessageBox",
             [](KOVAVSFDataGrid &grid) {
                 grid.PutSQLShow(u"SELECT * FROM Nothing"_s);

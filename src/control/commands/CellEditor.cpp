@@ -5,10 +5,11 @@
 #include "ado/ValueText.h"
 #include "control/GridTexts.h"
 #include "control/KOVAVSFDataGridPrivate.h"
+#include "control/commands/ResultWatch.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 
-#include <QtCore/QScopedValueRollback>
+#include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QToolTip>
@@ -95,16 +96,29 @@ bool CellEditor::take(bool isQuiet)
         close(); // the record went away with its result
         return true;
     }
-    const QScopedValueRollback<bool> taking(m_isTaking, true);
+    const QPointer<CellEditor> alive(this);
+    m_isTaking = true;
+    const bool isTaken = tryToTake(isQuiet);
+    if (alive)
+        m_isTaking = false;
+    return isTaken;
+}
+
+bool CellEditor::tryToTake(bool isQuiet)
+{
+    const ResultWatch watch(m_hub);
     try {
         putValue(m_hub.parts.txtEdit->text());
+        if (!watch.isUntouched())
+            return false;
         close();
         return true;
     } catch (const ADODB::Error &error) {
-        if (!isQuiet) {
-            Messages::tell(&m_hub.q, GridTexts::ValueRefusedPrefix + error.Description());
+        if (isQuiet || !watch.isUntouched())
+            return false;
+        Messages::tell(&m_hub.q, GridTexts::ValueRefusedPrefix + error.Description());
+        if (watch.isUntouched())
             m_hub.parts.txtEdit->setFocus();
-        }
         return false;
     }
 }
@@ -113,12 +127,14 @@ bool CellEditor::take(bool isQuiet)
 // one means no value, except in a text field that had one.
 void CellEditor::putValue(const QString &text)
 {
+    const ResultWatch watch(m_hub);
     ADODB::Field &field = m_hub.result.recordset()->Fields().Item(m_field);
     const QVariant before = field.Value();
     if (m_hub.parts.txtEdit->isReadOnly() || text == ADODB::ValueText(before))
         return;
     field.PutValue(text.isEmpty() && !isTextType(field.Type()) ? QVariant() : QVariant(text));
-    m_hub.parts.MSFlexGrid1->PutTextMatrix(m_row, 1, ADODB::ValueText(field.Value()));
+    if (watch.isUntouched())
+        m_hub.parts.MSFlexGrid1->PutTextMatrix(m_row, 1, ADODB::ValueText(field.Value()));
 }
 
 void CellEditor::close()

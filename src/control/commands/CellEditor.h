@@ -23,7 +23,8 @@ public:
     bool begin(int gridCol, const std::optional<QString> &typed = {});
     bool isOpen() const;
     // Closes it and writes what was typed into the field. A text that does not fit is told (unless
-    // `isQuiet`), stays, and the answer is false. True when it isn't open.
+    // `isQuiet`), stays, and the answer is false. True when it isn't open. False as well when the host, told
+    // of the new value, has put another result in its place or destroyed the control.
     bool take(bool isQuiet = false);
     // Closes it and forgets what was typed.
     void close();
@@ -33,6 +34,7 @@ protected:
 
 private:
     void place();
+    bool tryToTake(bool isQuiet);
     void putValue(const QString &text);
 
     ControlHub &m_hub;

@@ -75,17 +75,16 @@ void SelectShowFields(ControlHub &hub, QString &strSQL)
     clsFilterManagement &manager = rollback.manager();
     colShowSQLSentences &history = manager.SQLManager();
     manager.SetDBConnString(hub.connectionString);
-    QString latest;
-    QString key;
-    if (!history.GetLatestSQL(latest, &key))
+    const clsShowSQLSentence *entry = history.Item(history.Count());
+    if (!entry)
         return;
-    const QString allFields = history.Item(key)->AllFields;
+    const clsShowSQLSentence latest = *entry; // the history can change while the dialog is open
     QString partFields;
-    history.Item(key)->GetCurrUsePartFieldSQL(partFields);
+    latest.GetCurrUsePartFieldSQL(partFields);
 
     QString statement;
-    if (!manager.GetPartShowSelFields(allFields, partFields, latest, statement) || statement.isEmpty() ||
-        !rollback.isResultUntouched())
+    if (!manager.GetPartShowSelFields(latest.AllFields, partFields, latest.ShowSQL, statement) ||
+        statement.isEmpty() || !rollback.isResultUntouched())
         return;
     const QString chosenFields = SplitSQLSentence(statement)->fields;
     hub.columns().SaveColumnWidths(0);
@@ -93,11 +92,14 @@ void SelectShowFields(ControlHub &hub, QString &strSQL)
         !hub.commands.statement.OpenShowSQL(statement))
         return;
     rollback.keepChanges();
+    const ResultWatch watch(hub);
     hub.q.PutSQLFilter(statement);
+    if (!watch.isUntouched())
+        return;
     hub.setPartAllButton(2);
     hub.showModel = KOVAVSFDataGrid::ModelPart;
     hub.commands.statement.record(statement, chosenFields, colShowSQLSentences::NoSort());
-    strSQL = hub.sqlFilter;
+    strSQL = statement;
     const QPointer<KOVAVSFDataGrid> alive(&hub.q);
     Q_EMIT hub.q.ShowFieldsChange(statement);
     if (alive)

@@ -31,7 +31,7 @@ void FilterBySelectedCell(ControlHub &hub)
         return;
     const CellFilter filter = conditionOfCell(hub, grid.Row(), col);
     if (!filter.message.isEmpty())
-        Messages::tell(&hub.q, filter.message);
+        return Messages::tell(&hub.q, filter.message);
     QString statement;
     if (!filter.condition.isEmpty() &&
         hub.filterManager().SQLManager().GetNextSQLByFilter(filter.condition, statement))

@@ -6,12 +6,10 @@ namespace KOVAVSFDataGridLib {
 
 FilterManagerRollback::FilterManagerRollback(ControlHub &hub)
     : m_hub(hub),
-      m_control(&hub.q),
+      m_result(hub),
       m_manager(hub.filterManagerToShare()),
       m_before(*m_manager),
-      m_connectionString(hub.connectionString),
-      m_recordset(hub.result.recordset()),
-      m_wasOpen(hub.result.isOpen())
+      m_connectionString(hub.connectionString)
 {
 }
 
@@ -23,8 +21,8 @@ FilterManagerRollback::~FilterManagerRollback()
 
 bool FilterManagerRollback::isResultUntouched() const
 {
-    return m_control && m_hub.filter == m_manager && m_hub.connectionString == m_connectionString &&
-           m_hub.result.isOpen() == m_wasOpen && m_hub.result.recordset() == m_recordset;
+    return m_result.isUntouched() && m_hub.filter == m_manager &&
+           m_hub.connectionString == m_connectionString;
 }
 
 } // namespace KOVAVSFDataGridLib

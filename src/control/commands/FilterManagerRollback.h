@@ -1,15 +1,9 @@
 #pragma once
 
-#include "control/commands/ControlHub.h"
+#include "control/commands/ResultWatch.h"
 #include "query/clsFilterManagement.h"
 
-#include <QtCore/QPointer>
-
 #include <memory>
-
-namespace ADODB {
-class Recordset;
-}
 
 namespace KOVAVSFDataGridLib {
 
@@ -27,18 +21,15 @@ public:
     clsFilterManagement &manager() const { return *m_manager; }
     // What was asked for is shown; nothing is put back.
     void keepChanges() { m_keepsChanges = true; }
-    // False when the host meanwhile (from an event, or behind a dialog) opened or closed a result, gave
-    // another connection or destroyed the control. A command then has lost its ground and ends.
+    // As ResultWatch::isUntouched; False as well when the host meanwhile gave another connection.
     bool isResultUntouched() const;
 
 private:
     ControlHub &m_hub;
-    const QPointer<KOVAVSFDataGrid> m_control;
+    const ResultWatch m_result;
     const std::shared_ptr<clsFilterManagement> m_manager;
     const clsFilterManagement m_before;
     const QString m_connectionString;
-    const std::shared_ptr<ADODB::Recordset> m_recordset;
-    const bool m_wasOpen;
     bool m_keepsChanges = false;
 };
 

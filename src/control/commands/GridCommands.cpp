@@ -2,6 +2,7 @@
 
 #include "ado/Adodc.h"
 #include "ado/Recordset.h"
+#include "control/DeleteAfterEvent.h"
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
 #include "control/KOVAVSFDataGridPrivate.h"
@@ -20,6 +21,7 @@
 #include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
 
 #include <algorithm>
 #include <exception>
@@ -53,7 +55,8 @@ struct MenuCommand
     void (*run)(ControlHub &hub);
 };
 
-// False when what was typed can't be taken or saved, which the user has been told.
+// False when what was typed can't be taken or saved, which the user has been told, and when the host, told of
+// it, has taken away what the command was to work on.
 bool isReady(ControlHub &hub, Record record)
 {
     switch (record) {
@@ -173,36 +176,51 @@ GridCommands::GridCommands(ControlHub &hub)
             });
 }
 
+GridCommands::~GridCommands()
+{
+    if (m_running == 0)
+        return;
+    DeleteAfterEvent(*m_hub.parts.Toolbar1);
+    DeleteAfterEvent(m_menu.menu());
+}
+
 void GridCommands::run(const QString &key)
 {
     const auto *command = std::find_if(std::begin(ToolbarCommands), std::end(ToolbarCommands),
                                        [&](const ToolbarCommand &each) { return each.key == key; });
-    const bool runs = command != std::end(ToolbarCommands) && isReady(m_hub, command->record) &&
-                      (command->needs == Needs::Nothing || m_hub.hasRecords());
-    perform(runs ? command->run : nullptr);
+    perform([&] {
+        const bool runs = command != std::end(ToolbarCommands) && isReady(m_hub, command->record) &&
+                          (command->needs == Needs::Nothing || m_hub.hasRecords());
+        if (runs)
+            command->run(m_hub);
+    });
 }
 
 void GridCommands::DoDataAction(int index, bool &ok)
 {
     const auto *command = std::find_if(std::begin(MenuCommands), std::end(MenuCommands),
                                        [&](const MenuCommand &each) { return each.index == index; });
-    ok = m_hub.parts.Toolbar1->isEnabled() && command != std::end(MenuCommands) && m_hub.result.isOpen() &&
-         isReady(m_hub, command->record);
-    perform(ok ? command->run : nullptr);
+    perform([&] {
+        ok = m_hub.parts.Toolbar1->isEnabled() && command != std::end(MenuCommands) &&
+             m_hub.result.isOpen() && isReady(m_hub, command->record);
+        if (ok)
+            command->run(m_hub);
+    });
 }
 
 // A command that fails ends silently; what the user should know it has told. The host can have destroyed the
 // control meanwhile, from an event or behind a dialog.
-void GridCommands::perform(void (*command)(ControlHub &))
+void GridCommands::perform(const std::function<void()> &command)
 {
     const QPointer<GridCommands> alive(this);
+    ++m_running;
     try {
-        if (command)
-            command(m_hub);
+        command();
     } catch (const std::exception &) {
     }
     if (!alive)
         return;
+    --m_running;
     m_hub.updateRecordPosition();
     m_menu.PreparePopupMenu();
 }
@@ -266,7 +284,10 @@ void GridCommands::followChange()
     if (rowCount + 1 != grid.Rows()) {
         const qint64 position = std::max<qint64>(recordset.AbsolutePosition(), 0);
         const qint64 wanted = position > 0 ? position : m_hub.pages.recordOfRow(std::max(grid.Row(), 1));
+        const QPointer<GridCommands> alive(this);
         RefillAtRecord(m_hub, std::min(wanted, recordset.RecordCount()));
+        if (!alive)
+            return;
     }
     grid.Refresh();
     if (!singleRecord.editor().isOpen())

@@ -7,6 +7,8 @@
 
 #include <QtCore/QObject>
 
+#include <functional>
+
 class QKeyEvent;
 
 namespace KOVAVSFDataGridLib {
@@ -18,6 +20,9 @@ class GridCommands : public QObject
 
 public:
     explicit GridCommands(ControlHub &hub);
+    // Toolbar and menu outlive it until the event loop runs again when the host deletes the control from
+    // inside a command, because the button or the item that runs it is still in Qt's hands.
+    ~GridCommands() override;
 
     // Runs the command of a toolbar button, whether or not that is enabled. A key that no button has runs
     // nothing.
@@ -38,7 +43,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void perform(void (*command)(ControlHub &));
+    void perform(const std::function<void()> &command);
     void showMenu(const QPoint &position);
     bool isShortcut(const QKeyEvent &event) const;
     void followRecord();
@@ -46,6 +51,7 @@ private:
 
     ControlHub &m_hub;
     PopupMenu m_menu;
+    int m_running = 0; // commands, one inside the other
     bool m_isFromResult = false;
     bool m_isKeyTaken = false; // the host kept the last shortcut from its command
 };

@@ -47,7 +47,8 @@ void GotoPage(ControlHub &hub, qint32 direction)
 void TurnToPage(ControlHub &hub, qint64 page)
 {
     hub.columns().SaveColumnWidths(0);
-    hub.showPage(page);
+    if (!hub.showPage(page))
+        return;
     if (hub.showModel == KOVAVSFDataGrid::ModelPart)
         hub.columns().ShowPartFieldColumns(0);
     hub.commands.singleRecord.refillIfShown();
@@ -56,13 +57,14 @@ void TurnToPage(ControlHub &hub, qint64 page)
 void RefillAtRecord(ControlHub &hub, qint64 record)
 {
     VSFlexGrid &grid = *hub.parts.vsfgDataGrid;
-    const QSignalBlocker noMove(hub.parts.Adodc1);
     const int col = grid.Col();
     const int x = grid.horizontalScrollBar()->value();
     const int y = grid.verticalScrollBar()->value();
-    hub.showPage((std::max<qint64>(record, 1) - 1) / SharedValues::RecordCap + 1);
+    if (!hub.showPage((std::max<qint64>(record, 1) - 1) / SharedValues::RecordCap + 1))
+        return;
     const qint64 row = record - hub.pages.recordOfRow(1) + 1;
-    if (record > 0 && row >= 1 && row < grid.Rows()) { // the page stays when an edit can't be saved
+    if (record > 0 && row >= 1 && row < grid.Rows()) {
+        const QSignalBlocker noMove(hub.parts.Adodc1);
         grid.PutRow(static_cast<int>(row));
         grid.PutCol(col);
     }

@@ -20,6 +20,9 @@ class PopupMenu : public QObject
 public:
     PopupMenu(QWidget &control, const GridToolbar &toolbar);
 
+    // The menu itself, which the control owns.
+    QMenu &menu() const { return *m_menu; }
+
     // Brings the items in step with the buttons.
     void PreparePopupMenu();
     // Shows the menu at a place on the screen until the user has chosen or gone elsewhere.

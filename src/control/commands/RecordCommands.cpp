@@ -5,10 +5,9 @@
 #include "control/GridTexts.h"
 #include "control/KOVAVSFDataGridPrivate.h"
 #include "control/commands/PageCommands.h"
+#include "control/commands/ResultWatch.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
-
-#include <QtCore/QPointer>
 
 #include <algorithm>
 
@@ -32,8 +31,11 @@ bool hasNoValue(ADODB::Recordset &recordset)
 
 void cancel(ControlHub &hub)
 {
-    hub.result.recordset()->CancelUpdate();
-    if (hub.result.recordset()->RecordCount() == 0)
+    const ResultWatch watch(hub);
+    watch.recordset()->CancelUpdate();
+    if (!watch.isUntouched())
+        return;
+    if (watch.recordset()->RecordCount() == 0)
         hub.commands.singleRecord.leave(); // there is no single record to show
     hub.commands.singleRecord.refillIfShown();
 }
@@ -41,34 +43,37 @@ void cancel(ControlHub &hub)
 // Throws ADODB::Error when the database refuses.
 void save(ControlHub &hub)
 {
-    ADODB::Recordset &recordset = *hub.result.recordset();
+    const ResultWatch watch(hub);
+    ADODB::Recordset &recordset = *watch.recordset();
     const bool isNew = isAdding(recordset);
     if (isNew && hasNoValue(recordset))
         return cancel(hub);
     recordset.Update();
+    if (!watch.isUntouched())
+        return;
     if (isNew)
         RefillAtRecord(hub, recordset.AbsolutePosition());
     else
         hub.parts.vsfgDataGrid->Refresh();
-    hub.commands.singleRecord.refillIfShown();
+    if (watch.isUntouched())
+        hub.commands.singleRecord.refillIfShown();
 }
 
 // The answer is meant for the record that was current when the question came up, and for no other that the
 // host has made current meanwhile.
 bool askToDelete(ControlHub &hub)
 {
-    const QPointer<KOVAVSFDataGrid> alive(&hub.q);
-    const auto recordset = hub.result.recordset();
-    const qint64 position = recordset->AbsolutePosition();
+    const ResultWatch watch(hub);
+    const qint64 position = watch.recordset()->AbsolutePosition();
     return Messages::ask(&hub.q, GridTexts::AskDelete, GridTexts::AskDeleteTitle, QMessageBox::Question,
                          QMessageBox::No) &&
-           alive && hub.result.isOpen() && hub.result.recordset() == recordset &&
-           recordset->AbsolutePosition() == position;
+           watch.isUntouched() && watch.recordset()->AbsolutePosition() == position;
 }
 
 void deleteCurrentRecord(ControlHub &hub)
 {
-    ADODB::Recordset &recordset = *hub.result.recordset();
+    const ResultWatch watch(hub);
+    ADODB::Recordset &recordset = *watch.recordset();
     hub.commands.singleRecord.editor().close();
     if (isAdding(recordset)) {
         CancelRecord(hub);
@@ -76,13 +81,19 @@ void deleteCurrentRecord(ControlHub &hub)
     }
     const qint64 position = recordset.AbsolutePosition();
     recordset.Delete(ADODB::adAffectCurrent);
+    if (!watch.isUntouched())
+        return;
     const qint64 next = std::min(position, recordset.RecordCount());
     if (next < 1)
         recordset.MoveFirst(); // off the deleted record: nothing is left
+    if (!watch.isUntouched())
+        return;
     RefillAtRecord(hub, next);
-    if (next >= 1)
+    if (next >= 1 && watch.isUntouched())
         recordset.PutAbsolutePosition(next);
-    else
+    if (!watch.isUntouched())
+        return;
+    if (next < 1)
         hub.commands.singleRecord.leave();
     hub.parts.vsfgDataGrid->Refresh();
 }
@@ -91,18 +102,20 @@ void deleteCurrentRecord(ControlHub &hub)
 
 bool SaveRecord(ControlHub &hub)
 {
+    const ResultWatch watch(hub);
     if (!hub.commands.singleRecord.editor().take())
         return false;
     if (!hub.result.isOpen())
         return true;
-    const ADODB::EditModeEnum mode = hub.result.recordset()->EditMode();
+    const ADODB::EditModeEnum mode = watch.recordset()->EditMode();
     if (mode != ADODB::adEditAdd && mode != ADODB::adEditInProgress)
         return true;
     try {
         save(hub);
-        return true;
+        return watch.isUntouched();
     } catch (const ADODB::Error &error) {
-        Messages::tell(&hub.q, GridTexts::NotSavedPrefix + error.Description());
+        if (watch.isUntouched())
+            Messages::tell(&hub.q, GridTexts::NotSavedPrefix + error.Description());
         return false;
     }
 }
@@ -118,16 +131,19 @@ void InsertRecord(ControlHub &hub)
 {
     if (!hub.result.isOpen() || !hub.commands.singleRecord.editor().take())
         return;
-    ADODB::Recordset &recordset = *hub.result.recordset();
+    const ResultWatch watch(hub);
+    ADODB::Recordset &recordset = *watch.recordset();
     if (recordset.EditMode() == ADODB::adEditInProgress && !SaveRecord(hub))
         return;
     try {
         if (isAdding(recordset) && !hasNoValue(recordset))
             save(hub);
-        recordset.AddNew();
-        hub.commands.singleRecord.ShowSingleRecord();
+        if (watch.isUntouched())
+            recordset.AddNew();
+        if (watch.isUntouched())
+            hub.commands.singleRecord.ShowSingleRecord();
     } catch (const ADODB::Error &error) {
-        if (isAdding(recordset) || error.is(ADODB::dbErrCancelled))
+        if (watch.isUntouched() && (isAdding(recordset) || error.is(ADODB::dbErrCancelled)))
             Messages::tell(&hub.q, GridTexts::InsertCancelled);
     }
 }
@@ -137,11 +153,13 @@ void DeleteRecord(ControlHub &hub)
     if (!hub.result.isOpen() || (!hub.hasRecords() && !isAdding(*hub.result.recordset())) ||
         !askToDelete(hub))
         return;
+    const ResultWatch watch(hub);
     try {
         deleteCurrentRecord(hub);
     } catch (const ADODB::Error &error) {
         // Not every refusal is a constraint: the file may be read-only, the record changed by somebody else.
-        Messages::tellWithCause(&hub.q, GridTexts::DeleteRefused, error.Description());
+        if (watch.isUntouched())
+            Messages::tellWithCause(&hub.q, GridTexts::DeleteRefused, error.Description());
     }
 }
 

@@ -7,7 +7,8 @@ namespace KOVAVSFDataGridLib {
 
 // Writes what was typed into the current record to the database, so that another record or result can be
 // shown. A refused one is told and stays, and the answer is false. A new record that nobody wrote anything
-// into is dropped. True when there is nothing to save.
+// into is dropped. True when there is nothing to save. False as well when the host, told of it, has put
+// another result in its place or destroyed the control.
 bool SaveRecord(ControlHub &hub);
 // Forgets what was written into the current record since it was last saved; a new one goes.
 void CancelRecord(ControlHub &hub);

@@ -19,6 +19,7 @@ void ShownStatement::rememberAsPrevious() const
 
 bool ShownStatement::OpenShowSQL(const QString &strSQL)
 {
+    const QPointer<KOVAVSFDataGrid> alive(&m_hub.q);
     VSFlexGrid &grid = *m_hub.parts.vsfgDataGrid;
     const QStringList headingsBefore = grid.Headings();
     // What a filter manager was set up for stays right when another control sets another type meanwhile.
@@ -26,12 +27,14 @@ bool ShownStatement::OpenShowSQL(const QString &strSQL)
         return false;
     m_current = strSQL;
     m_hub.showPage(1);
+    if (!alive)
+        return false;
     // Widths belong to fields; the layout that follows gives each its own again.
     if (grid.Headings() != headingsBefore)
         grid.ResetColWidths();
     m_hub.commands.singleRecord.refillIfShown();
     m_hub.q.Refresh();
-    return true;
+    return alive;
 }
 
 bool ShownStatement::reload(const QString &statement, Previous previous)
@@ -44,7 +47,10 @@ bool ShownStatement::reload(const QString &statement, Previous previous)
     const QString filterBefore = m_hub.sqlFilter;
     const QPointer<KOVAVSFDataGrid> alive(&m_hub.q);
     m_hub.q.PutSQLFilter(statement);
-    if (alive && OpenShowSQL(m_hub.sqlFilter))
+    if (!alive)
+        return false;
+    const QString filter = m_hub.sqlFilter; // a handler may change it while the statement is opened
+    if (OpenShowSQL(filter))
         return true;
     if (alive)
         m_hub.q.PutSQLFilter(filterBefore);
@@ -54,7 +60,7 @@ bool ShownStatement::reload(const QString &statement, Previous previous)
 bool ShownStatement::reloadFiltered(const QString &statement, Previous previous)
 {
     return reload(statement, previous) &&
-           record(m_hub.sqlFilter, colShowSQLSentences::NoPartField(), colShowSQLSentences::NoSort());
+           record(m_current, colShowSQLSentences::NoPartField(), colShowSQLSentences::NoSort());
 }
 
 bool ShownStatement::record(const QString &statement, const QString &partFields, const QString &orderFields)

@@ -13,6 +13,7 @@
 #include "grid/Twips.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QHeaderView>
@@ -55,8 +56,8 @@ SingleRecordView::SingleRecordView(ControlHub &hub) : m_hub(hub), m_editor(hub)
     list.viewport()->installEventFilter(this);
     list.horizontalHeader()->viewport()->installEventFilter(this);
     connect(&list, &FlexGrid::CurrentRowChanged, this, [this, &list] {
-        m_editor.take();
         list.setAttribute(Qt::WA_InputMethodEnabled); // so that Chinese can be typed to begin an edit
+        m_editor.take();                              // last, because the host may delete the control
     });
     connect(&hub.q, &KOVAVSFDataGrid::RecordChanged, this, &SingleRecordView::refillIfShown);
 }
@@ -150,6 +151,12 @@ void SingleRecordView::fitNameColumn()
 
 bool SingleRecordView::eventFilter(QObject *watched, QEvent *event)
 {
+    const QPointer<SingleRecordView> alive(this);
+    return isDealtWith(watched, event) || !alive; // an event for a widget that is no more goes nowhere
+}
+
+bool SingleRecordView::isDealtWith(QObject *watched, QEvent *event)
+{
     const auto *source = static_cast<const QWidget *>(watched);
     switch (event->type()) {
     case QEvent::KeyPress:
@@ -172,11 +179,10 @@ bool SingleRecordView::eventFilter(QObject *watched, QEvent *event)
             Q_EMIT menuWanted(static_cast<QMouseEvent *>(event)->globalPosition().toPoint());
         return false;
     default:
-        return QObject::eventFilter(watched, event);
+        return false;
     }
 }
 
-// True when the key is dealt with.
 bool SingleRecordView::keyPressed(const QKeyEvent &event)
 {
     if (event.key() == Qt::Key_F2)
@@ -194,7 +200,10 @@ bool SingleRecordView::keyPressed(const QKeyEvent &event)
 
 void SingleRecordView::doubleClicked(const QWidget &source, const QMouseEvent &event)
 {
+    const QPointer<SingleRecordView> alive(this);
     Q_EMIT m_hub.q.DataDblClick();
+    if (!alive)
+        return;
     MSFlexGrid &list = *m_hub.parts.MSFlexGrid1;
     const int gridRow = m_hub.parts.vsfgDataGrid->Row();
     const QPoint position = event.position().toPoint();

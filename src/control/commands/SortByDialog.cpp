@@ -11,13 +11,12 @@ void SortByDialog(ControlHub &hub, QString &strSort, bool &ok)
     clsFilterManagement &manager = rollback.manager();
     colShowSQLSentences &history = manager.SQLManager();
     manager.SetDBConnString(hub.connectionString);
-    QString latest;
-    QString key;
-    if (!history.GetLatestSQL(latest, &key))
+    const clsShowSQLSentence *latest = history.Item(history.Count());
+    if (!latest)
         return;
-    const QString allFields = history.Item(key)->AllFields;
+    const QString allFields = latest->AllFields; // the history can change while the dialog is open
     QString currentSort;
-    history.Item(key)->GetCurrUseOrderFieldSQL(currentSort);
+    latest->GetCurrUseOrderFieldSQL(currentSort);
 
     QString newSort;
     QString statement;

@@ -25,6 +25,11 @@ protected:
     static QString statementOfAll() { return QStringLiteral("SELECT * FROM 商品"); }
     static QString statementOfPart() { return QStringLiteral("SELECT ID,名称 FROM 商品"); }
 
+    const QStringList AllColumns{QStringLiteral("ID"),   QStringLiteral("名称"), QStringLiteral("Unit Price"),
+                                 QStringLiteral("城市"), QStringLiteral("日期"), QStringLiteral("停用"),
+                                 QStringLiteral("图片")};
+    const QStringList PartColumns{QStringLiteral("ID"), QStringLiteral("名称")};
+
     Shop();
     bool load(const QString &statement = statementOfAll(), const QString &part = statementOfPart());
 };

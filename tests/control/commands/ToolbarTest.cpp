@@ -8,10 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QStringList AllColumns{u"ID"_s, u"名称"_s, u"Unit Price"_s, u"城市"_s, u"日期"_s, u"停用"_s, u"图片"_s};
-constexpr qint16 ControlKey = 17;
-const QStringList PartColumns{u"ID"_s, u"名称"_s};
-
 using Toolbar = Shop;
 
 } // namespace
@@ -72,79 +68,6 @@ TEST_F(Toolbar, AColumnKeepsItsWidthThroughPartAndReload)
     click(u"All"_s);
     EXPECT_EQ(table->columnWidth(1), 200);
     EXPECT_EQ(table->columnWidth(3), 150);
-}
-
-TEST_F(Toolbar, SortOrdersAndKeepsTheCondition)
-{
-    ASSERT_TRUE(load());
-    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"大连"_s); },
-                           [](QDialog &dialog) { sort(dialog, {u"ID"_s}, true); },
-                           [](QDialog &dialog) { cancel(dialog); }});
-    click(u"QuickFilter"_s);
-    click(u"Sort"_s);
-    EXPECT_EQ(texts(u"ID"_s), QStringList({u"8"_s, u"5"_s}));
-    EXPECT_TRUE(statement().endsWith(u"ORDER BY ID DESC"_s)) << qUtf8Printable(statement());
-    const QString sorted = statement();
-    click(u"Sort"_s); // cancelled
-    EXPECT_EQ(statement(), sorted);
-    EXPECT_EQ(texts(u"ID"_s), QStringList({u"8"_s, u"5"_s}));
-}
-
-TEST_F(Toolbar, AFieldNameWithABlankIsSortedByInBrackets)
-{
-    ASSERT_TRUE(load());
-    WindowAnswers dialogs({[](QDialog &dialog) { sort(dialog, {u"[Unit Price]"_s}, true); },
-                           [](QDialog &dialog) {
-                               auto *rows = dialog.findChild<QAbstractItemView *>(u"lvSortFields"_s)->model();
-                               EXPECT_EQ(rows->index(0, 0).data().toString(), u"[Unit Price]"_s);
-                               cancel(dialog);
-                           }});
-    click(u"Sort"_s);
-    EXPECT_EQ(texts(u"ID"_s).first(), u"2"_s);
-    EXPECT_TRUE(statement().endsWith(u"ORDER BY [Unit Price] DESC"_s));
-    click(u"Sort"_s);
-}
-
-// Oracle knows no brackets. Its way of quoting is tried on a database that takes it as well.
-class OracleSort : public Toolbar
-{
-protected:
-    OracleSort()
-    {
-        grid.PutDBType(KOVAVSFDataGrid::dbOracle);
-        EXPECT_TRUE(load(statementOfAll(), {}));
-    }
-    ~OracleSort() override { grid.PutDBType(KOVAVSFDataGrid::dbAccess); }
-    static void sortByPrice(QDialog &dialog) { sort(dialog, {u"\"Unit Price\""_s}, true); }
-};
-
-TEST_F(OracleSort, AFieldNameWithABlankComesAndGoesInDoubleQuotes)
-{
-    WindowAnswers dialogs({sortByPrice, [](QDialog &dialog) {
-                               auto *rows = dialog.findChild<QAbstractItemView *>(u"lvSortFields"_s)->model();
-                               EXPECT_EQ(rows->index(0, 0).data().toString(), u"\"Unit Price\""_s);
-                               EXPECT_EQ(rows->rowCount(), 1);
-                               cancel(dialog);
-                           }});
-    click(u"Sort"_s);
-    EXPECT_TRUE(statement().endsWith(u"ORDER BY \"Unit Price\" DESC"_s)) << qUtf8Printable(statement());
-    EXPECT_EQ(texts(u"ID"_s).first(), u"2"_s);
-    click(u"Sort"_s);
-}
-
-TEST_F(OracleSort, TheViewersDialogQuotesAlike)
-{
-    WindowAnswers dialogs({[](QDialog &viewer) {
-                               auto *buttons = viewer.findChild<QToolBar *>(u"Toolbar1"_s);
-                               QTest::mouseClick(
-                                   buttons->widgetForAction(buttons->findChild<QAction *>(u"Sort"_s)),
-                                   Qt::LeftButton);
-                               viewer.reject();
-                           },
-                           sortByPrice});
-    click(u"FullScreen"_s);
-    EXPECT_TRUE(statement().endsWith(u"ORDER BY \"Unit Price\" DESC"_s)) << qUtf8Printable(statement());
-    EXPECT_EQ(texts(u"ID"_s).first(), u"2"_s);
 }
 
 TEST_F(Toolbar, SelFieldShowsTheChosenFieldsWithoutReopening)
@@ -360,66 +283,6 @@ TEST_F(Toolbar, AnotherControlCannotBlockThisOne)
     EXPECT_EQ(columns(), PartColumns);
     click(u"SingleRecord"_s);
     EXPECT_TRUE(isSingleRecordShown());
-}
-
-TEST_F(Toolbar, ADisabledToolbarRunsNothingByShortcut)
-{
-    ASSERT_TRUE(load());
-    table->setFocus();
-    grid.PutDisplayEable(false);
-    QTest::keyClick(table, Qt::Key_2, Qt::ControlModifier);
-    EXPECT_EQ(columns(), AllColumns);
-}
-
-TEST_F(Toolbar, ShortcutsRunTheirCommandsAndTheHostHearsOfTheKey)
-{
-    ASSERT_TRUE(load());
-    table->setFocus();
-    QList<std::pair<int, int>> keys;
-    QObject::connect(&grid, &KOVAVSFDataGrid::DataKeyDown, &grid, [&](qint16 &code, qint16 &shift) {
-        if (code != ControlKey)
-            keys.append({code, shift});
-    });
-    QTest::keyClick(table, Qt::Key_2, Qt::ControlModifier);
-    EXPECT_EQ(columns(), PartColumns);
-    QTest::keyClick(table, Qt::Key_1, Qt::ControlModifier);
-    EXPECT_EQ(columns(), AllColumns);
-    EXPECT_EQ(keys, (QList<std::pair<int, int>>{{'2', 2}, {'1', 2}}));
-}
-
-TEST_F(Toolbar, AHostCanKeepAShortcutFromItsCommand)
-{
-    ASSERT_TRUE(load());
-    table->setFocus();
-    int told = 0;
-    QObject::connect(&grid, &KOVAVSFDataGrid::DataKeyDown, &grid, [&](qint16 &code, qint16 &) {
-        if (code == '2')
-            ++told;
-        code = 0;
-    });
-    QTest::keyClick(table, Qt::Key_2, Qt::ControlModifier);
-    EXPECT_EQ(columns(), AllColumns);
-    EXPECT_EQ(told, 1);
-}
-
-TEST_F(Toolbar, EveryButtonHasANameAToolTipAndAShortcutOfItsOwn)
-{
-    QFile document(QStringLiteral(KOVA_SHORTCUTS_FILE));
-    ASSERT_TRUE(document.open(QIODevice::ReadOnly));
-    const QString documented = QString::fromUtf8(document.readAll());
-    QSet<QString> shortcuts;
-    for (const QAction *action : toolbar->actions()) {
-        if (action->isSeparator())
-            continue;
-        EXPECT_FALSE(action->text().isEmpty());
-        const QString shortcut = action->shortcut().toString(QKeySequence::NativeText);
-        EXPECT_FALSE(shortcut.isEmpty());
-        EXPECT_TRUE(action->toolTip().contains(shortcut));
-        EXPECT_FALSE(shortcuts.contains(shortcut)) << qUtf8Printable(shortcut);
-        EXPECT_TRUE(documented.contains(u"| %1 |"_s.arg(shortcut))) << qUtf8Printable(shortcut);
-        shortcuts.insert(shortcut);
-    }
-    EXPECT_EQ(shortcuts.size(), 18);
 }
 
 TEST_F(Toolbar, SetFieldNameAndSetSortFnAskAsTheButtonsDo)

@@ -1,0 +1,86 @@
+// The sort dialog's way from names to a statement and back, as each database quotes them.
+#include "Shop.h"
+
+#include "support/Dialogs.h"
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Sort = Shop;
+
+// Oracle knows no brackets. Its way of quoting is tried on a database that takes it as well.
+class OracleSort : public Shop
+{
+protected:
+    OracleSort()
+    {
+        grid.PutDBType(KOVAVSFDataGrid::dbOracle);
+        EXPECT_TRUE(load(statementOfAll(), {}));
+    }
+    ~OracleSort() override { grid.PutDBType(KOVAVSFDataGrid::dbAccess); }
+    static void sortByPrice(QDialog &dialog) { sort(dialog, {u"\"Unit Price\""_s}, true); }
+};
+
+} // namespace
+
+TEST_F(Sort, SortOrdersAndKeepsTheCondition)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"大连"_s); },
+                           [](QDialog &dialog) { sort(dialog, {u"ID"_s}, true); },
+                           [](QDialog &dialog) { cancel(dialog); }});
+    click(u"QuickFilter"_s);
+    click(u"Sort"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"8"_s, u"5"_s}));
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY ID DESC"_s)) << qUtf8Printable(statement());
+    const QString sorted = statement();
+    click(u"Sort"_s); // cancelled
+    EXPECT_EQ(statement(), sorted);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"8"_s, u"5"_s}));
+}
+
+TEST_F(Sort, AFieldNameWithABlankIsSortedByInBrackets)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) { sort(dialog, {u"[Unit Price]"_s}, true); },
+                           [](QDialog &dialog) {
+                               auto *rows = dialog.findChild<QAbstractItemView *>(u"lvSortFields"_s)->model();
+                               EXPECT_EQ(rows->index(0, 0).data().toString(), u"[Unit Price]"_s);
+                               cancel(dialog);
+                           }});
+    click(u"Sort"_s);
+    EXPECT_EQ(texts(u"ID"_s).first(), u"2"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY [Unit Price] DESC"_s));
+    click(u"Sort"_s);
+}
+
+TEST_F(OracleSort, AFieldNameWithABlankComesAndGoesInDoubleQuotes)
+{
+    WindowAnswers dialogs({sortByPrice, [](QDialog &dialog) {
+                               auto *rows = dialog.findChild<QAbstractItemView *>(u"lvSortFields"_s)->model();
+                               EXPECT_EQ(rows->index(0, 0).data().toString(), u"\"Unit Price\""_s);
+                               EXPECT_EQ(rows->rowCount(), 1);
+                               cancel(dialog);
+                           }});
+    click(u"Sort"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY \"Unit Price\" DESC"_s)) << qUtf8Printable(statement());
+    EXPECT_EQ(texts(u"ID"_s).first(), u"2"_s);
+    click(u"Sort"_s);
+}
+
+TEST_F(OracleSort, TheViewersDialogQuotesAlike)
+{
+    WindowAnswers dialogs({[](QDialog &viewer) {
+                               auto *buttons = viewer.findChild<QToolBar *>(u"Toolbar1"_s);
+                               QTest::mouseClick(
+                                   buttons->widgetForAction(buttons->findChild<QAction *>(u"Sort"_s)),
+                                   Qt::LeftButton);
+                               viewer.reject();
+                           },
+                           sortByPrice});
+    click(u"FullScreen"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY \"Unit Price\" DESC"_s)) << qUtf8Printable(statement());
+    EXPECT_EQ(texts(u"ID"_s).first(), u"2"_s);
+}

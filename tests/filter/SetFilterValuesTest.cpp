@@ -1,0 +1,125 @@
+// The lists and the calendar from which the filter builder lets values be picked.
+#include "BuilderFixture.h"
+
+#include <QtGui/QAction>
+#include <QtGui/QScreen>
+#include <QtWidgets/QCalendarWidget>
+#include <QtWidgets/QListView>
+#include <QtWidgets/QToolButton>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using PickedValues = BuilderFixture;
+
+} // namespace
+
+TEST_F(PickedValues, TheValuesOfATextFieldAreReadWhenTheirListIsOpened)
+{
+    choose("cmbField1", u"城市"_s);
+    database.run(u"INSERT INTO 订单 (城市) VALUES ('广州')"_s); // after the builder was prepared
+    QTest::keyClick(&text("txtValue1"), Qt::Key_Down, Qt::AltModifier);
+    auto *list = QApplication::activePopupWidget();
+    ASSERT_NE(list, nullptr);
+    EXPECT_EQ(list->objectName(), u"lstValues"_s);
+    const auto *model = static_cast<QListView *>(list)->model();
+    QStringList offered;
+    for (int row = 0; row < model->rowCount(); ++row)
+        offered.append(model->index(row, 0).data().toString());
+    EXPECT_EQ(offered, (QStringList{u"上海"_s, u"北京"_s, u"广州"_s}));
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_EQ(answer(), "城市 = '北京'");
+}
+
+TEST_F(PickedValues, TheArrowIsAsPaleAsTheValue)
+{
+    const auto arrow = [this](const char *name, QIcon::Mode mode) {
+        return text(name).findChild<QAction *>(u"actOffer"_s)->icon().pixmap(16, mode).toImage();
+    };
+    press(dialog, "cmdAddRow");
+    // The first row is made while the builder has no fields to offer yet, and is disabled.
+    EXPECT_EQ(arrow("txtValue1", QIcon::Normal), arrow("txtValue2", QIcon::Normal));
+    EXPECT_NE(arrow("txtValue1", QIcon::Normal), arrow("txtValue1", QIcon::Disabled));
+
+    QPalette dark = dialog.palette();
+    dark.setColor(QPalette::Text, Qt::white);
+    const QImage before = arrow("txtValue1", QIcon::Normal);
+    dialog.setPalette(dark);
+    EXPECT_NE(arrow("txtValue1", QIcon::Normal), before) << "it follows the colours of the screen";
+}
+
+TEST_F(PickedValues, PickedValuesAreAddedToAList)
+{
+    choose("cmbField1", u"城市"_s);
+    choose("cmbOperator1", u"在列表中"_s);
+    for (int picked = 0; picked < 2; ++picked) {
+        QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+        auto *list = QApplication::activePopupWidget();
+        ASSERT_NE(list, nullptr);
+        for (int down = 0; down <= picked; ++down)
+            QTest::keyClick(list, Qt::Key_Down);
+        QTest::keyClick(list, Qt::Key_Return);
+    }
+    EXPECT_EQ(answer(), "城市 IN ('上海', '北京')");
+}
+
+TEST_F(PickedValues, YesAndNoAreOffered)
+{
+    choose("cmbField1", u"已付款"_s);
+    QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    EXPECT_EQ(text("txtValue1").text(), u"是"_s);
+    EXPECT_EQ(answer(), "已付款 <> 0");
+}
+
+TEST_F(PickedValues, ADayIsPickedFromACalendarAndKeepsTheTimeBehindIt)
+{
+    choose("cmbField1", u"发货时间"_s);
+    type("txtValue1", u"2024-01-05 08:30"_s);
+    QTest::keyClick(&text("txtValue1"), Qt::Key_Down, Qt::AltModifier);
+    auto *calendar = qobject_cast<QCalendarWidget *>(QApplication::activePopupWidget());
+    ASSERT_NE(calendar, nullptr);
+    EXPECT_EQ(calendar->selectedDate(), QDate(2024, 1, 5));
+    QTest::keyClick(calendar->focusWidget() ? calendar->focusWidget() : calendar, Qt::Key_Right);
+    QTest::keyClick(calendar->focusWidget() ? calendar->focusWidget() : calendar, Qt::Key_Return);
+    EXPECT_EQ(answer(), "发货时间 = '2024-01-06 08:30:00'");
+}
+
+TEST_F(PickedValues, TheCalendarHasNoPicturesOfItsOwn)
+{
+    choose("cmbField1", u"下单日期"_s);
+    QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+    auto &calendar = part<QCalendarWidget>(dialog, "calDays");
+    EXPECT_EQ(part<QToolButton>(dialog, "qt_calendar_prevmonth").arrowType(), Qt::LeftArrow);
+    EXPECT_EQ(part<QToolButton>(dialog, "qt_calendar_nextmonth").arrowType(), Qt::RightArrow);
+    calendar.close();
+}
+
+TEST_F(PickedValues, TheCalendarStaysOnTheScreen)
+{
+    const QRect free = dialog.screen()->availableGeometry();
+    choose("cmbField1", u"下单日期"_s);
+    for (const QPoint corner : {free.topLeft(), free.bottomRight() - QPoint(300, 60)}) {
+        dialog.move(corner);
+        QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+        const QWidget *calendar = QApplication::activePopupWidget();
+        ASSERT_NE(calendar, nullptr);
+        EXPECT_TRUE(free.contains(calendar->frameGeometry()));
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+        EXPECT_TRUE(dialog.isVisible());
+    }
+}
+
+TEST_F(PickedValues, NumbersHaveNoListToOpen)
+{
+    choose("cmbField1", u"金额"_s);
+    QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
