@@ -2,6 +2,7 @@
 
 #include "control/KOVAVSFDataGridPrivate.h"
 #include "control/PropertyBag.h"
+#include "grid/FlexGrid.h"
 #include "grid/Twips.h"
 
 #include <QtCore/QPointer>
