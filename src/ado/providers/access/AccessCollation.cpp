@@ -2,10 +2,12 @@
 
 #include "ado/ValueText.h"
 #include "ado/providers/access/AccessCall.h"
+#include "ado/providers/access/AccessOrder.h"
 
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <memory>
 
 namespace ADODB::AccessCollation {
 
@@ -82,10 +84,20 @@ bool matches(const QList<uint> &text, const std::vector<Letter> &pattern)
                        [](const Letter &letter) { return !letter.isPlain && letter.code == anything; });
 }
 
-template<int (*Compare)(QByteArrayView, QByteArrayView)>
-int order(void *, int sizeA, const void *a, int sizeB, const void *b)
+int orderTexts(void *order, int sizeA, const void *a, int sizeB, const void *b)
 {
-    return Compare({static_cast<const char *>(a), sizeA}, {static_cast<const char *>(b), sizeB});
+    return static_cast<const AccessOrder *>(order)->compare({static_cast<const char *>(a), sizeA},
+                                                            {static_cast<const char *>(b), sizeB});
+}
+
+int orderDates(void *, int sizeA, const void *a, int sizeB, const void *b)
+{
+    return compareDates({static_cast<const char *>(a), sizeA}, {static_cast<const char *>(b), sizeB});
+}
+
+void letGo(void *order)
+{
+    const std::unique_ptr<AccessOrder> owner(static_cast<AccessOrder *>(order));
 }
 
 // LIKE has its pattern before the text.
@@ -132,10 +144,12 @@ bool isLike(QByteArrayView text, QByteArrayView pattern, char32_t escape)
     return matches(folded(text), parsed(pattern, escape));
 }
 
-void install(sqlite3 *db)
+void install(sqlite3 *db, quint16 language)
 {
-    sqlite3_create_collation(db, TextName, SQLITE_UTF8, nullptr, order<compareTexts>);
-    sqlite3_create_collation(db, DateName, SQLITE_UTF8, nullptr, order<compareDates>);
+    auto order = std::make_unique<AccessOrder>(language);
+    if (sqlite3_create_collation_v2(db, TextName, SQLITE_UTF8, order.get(), orderTexts, letGo) == SQLITE_OK)
+        order.release(); // the database's by now
+    sqlite3_create_collation_v2(db, DateName, SQLITE_UTF8, nullptr, orderDates, nullptr);
     AccessCall::offer<like>(db, "like", 2);
     AccessCall::offer<like>(db, "like", 3);
 }

@@ -11,7 +11,7 @@ namespace ADODB::AccessCollation {
 inline constexpr char TextName[] = "ACCESS_TEXT";
 inline constexpr char DateName[] = "ACCESS_DATE";
 
-// Negative, zero or positive.
+// Negative, zero or positive; by code points, unlike AccessOrder, where texts are not equal.
 int compareTexts(QByteArrayView a, QByteArrayView b);
 // The same for dates as AccessValue writes them; one without a time is that day at 0:00.
 int compareDates(QByteArrayView a, QByteArrayView b);
@@ -22,7 +22,7 @@ QByteArrayView comparedDate(QByteArrayView date);
 // meaning away, 0 is none.
 bool isLike(QByteArrayView text, QByteArrayView pattern, char32_t escape);
 
-// Offers both orders, by their names, and LIKE.
-void install(sqlite3 *db);
+// Offers both orders, by their names, and LIKE. Texts are sorted as in that language; see AccessOrder.
+void install(sqlite3 *db, quint16 language);
 
 } // namespace ADODB::AccessCollation

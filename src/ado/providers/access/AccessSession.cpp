@@ -12,11 +12,11 @@
 
 namespace ADODB {
 
-AccessSession::AccessSession(const QString &path)
+AccessSession::AccessSession(const QString &path, const QString &password)
     : SqliteSession(SqliteEngine{AccessTypes::applyDeclaration, Texts::accessReadOnly()})
 {
-    const auto file = std::make_shared<const AccessFile>(path);
-    AccessCollation::install(db());
+    const auto file = std::make_shared<const AccessFile>(path, password);
+    AccessCollation::install(db(), file->language());
     AccessFunctions::install(db());
     AccessModule::install(db(), file);
     AccessQueries::install(*this, *file);

@@ -9,7 +9,7 @@ namespace ADODB {
 class AccessSession : public SqliteSession
 {
 public:
-    explicit AccessSession(const QString &path);
+    AccessSession(const QString &path, const QString &password);
 
     // Understands, beyond SQLite's SQL, what AccessDialect translates.
     std::unique_ptr<Statement> prepare(const QString &sql, Access access) override;
