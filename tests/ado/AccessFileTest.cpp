@@ -24,14 +24,10 @@ class AccessFileTest : public testing::Test
 protected:
     QString write(const QByteArray &bytes, const QString &name = u"test.mdb"_s) const
     {
-        QFile file(m_folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        EXPECT_EQ(file.write(bytes), bytes.size());
-        return file.fileName();
+        return writeFile(m_folder, bytes, name);
     }
     QString missing(const QString &name) const { return m_folder.filePath(name); }
 
-private:
     QTemporaryDir m_folder;
 };
 
@@ -65,7 +61,7 @@ class DamagedAccessFileTest : public AccessFileTest, public testing::WithParamIn
 protected:
     void SetUp() override
     {
-        const QString path = KovaTest::sampleFile(QLatin1StringView(GetParam()));
+        const QString path = samplePath(QLatin1StringView(GetParam()), m_folder);
         if (path.isEmpty())
             GTEST_SKIP() << GetParam() << " is not here; see sampleFile()";
         whole = contents(path);
@@ -149,4 +145,5 @@ TEST_P(DamagedAccessFileTest, WrongBytesDoNoHarm)
     EXPECT_GT(refused, 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, DamagedAccessFileTest, testing::Values("nwind.mdb", "sample.accdb"));
+INSTANTIATE_TEST_SUITE_P(Files, DamagedAccessFileTest,
+                         testing::Values("nwind.mdb", "sample.accdb", WrittenSample));

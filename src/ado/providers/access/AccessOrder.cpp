@@ -45,8 +45,10 @@ bool isChinese(const QString &text, qsizetype at)
 {
     if (at > 0 && text.at(at).isLowSurrogate())
         --at;
-    const auto letter = QStringView(text).sliced(at, std::min<qsizetype>(2, text.size() - at)).toUcs4();
-    return QChar::script(letter.first()) == QChar::Script_Han;
+    const QChar unit = text.at(at);
+    const bool isPair = unit.isHighSurrogate() && at + 1 < text.size();
+    return QChar::script(isPair ? QChar::surrogateToUcs4(unit, text.at(at + 1)) : unit.unicode()) ==
+           QChar::Script_Han;
 }
 
 // Chinese stands behind all other letters, which some collators turn round: negative, zero or positive by
