@@ -36,9 +36,12 @@ QString textOf(const Recordset &recordset, qint64 record, int column)
         return value.toBool() ? u"1"_s : u"0"_s;
     if (type == adLongVarBinary || type == adVarBinary)
         return QString::fromLatin1(value.toByteArray().toHex().toUpper());
-    const QString text = recordset.CellText(record, column);
-    // mdb-export counts the text of a GUID among the bytes.
-    return type == adGUID ? QString::fromLatin1(text.toLatin1().toHex().toUpper()) : text;
+    QString text = recordset.CellText(record, column);
+    // mdb-export counts the text of a GUID among the bytes, and leaves its last dash out.
+    constexpr qsizetype lastDash = 24;
+    return type == adGUID && !text.isEmpty()
+               ? QString::fromLatin1(text.remove(lastDash, 1).toLatin1().toHex().toUpper())
+               : text;
 }
 
 // mdb-export writes numbers with the zeros and digits of their storage.

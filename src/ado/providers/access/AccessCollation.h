@@ -18,11 +18,8 @@ int compareDates(QByteArrayView a, QByteArrayView b);
 // A date as it is compared.
 QByteArrayView comparedDate(QByteArrayView date);
 
-// Whether a text is like a pattern of % and _, both in UTF-8; an `escape` before one of the two takes its
-// meaning away, 0 is none.
-bool isLike(QByteArrayView text, QByteArrayView pattern, char32_t escape);
-
-// Offers both orders, by their names, and LIKE. Texts are sorted as in that language; see AccessOrder.
+// Offers both orders, by their names, LIKE, and GLOB as the LIKE of Access's own patterns. Texts
+// are sorted as in that language; see AccessOrder.
 void install(sqlite3 *db, quint16 language);
 
 } // namespace ADODB::AccessCollation

@@ -57,8 +57,8 @@ bool define(const SqliteSession &session, const AccessQuery &query)
     if (select.isEmpty())
         return false;
     try {
-        run(session,
-            u"CREATE VIEW "_s + quotedName(query.name) + " AS "_L1 + AccessDialect::toSqlite(select));
+        run(session, u"CREATE VIEW "_s + quotedName(query.name) + " AS "_L1 +
+                         AccessDialect::toSqlite(select, AccessDialect::Patterns::Access));
         return true;
     } catch (const Error &) {
         return false;
