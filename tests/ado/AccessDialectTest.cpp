@@ -68,6 +68,9 @@ TEST(AccessDialectTest, SumsAndQuotientsAreThoseOfAccess)
               u"d < access_subtract('2020-01-31 00:00:00',1)"
               " AND access_concat(f(access_subtract(a , (access_add(b , c)))) , access_subtract(d,1))"
               " COLLATE ACCESS_TEXT"_s);
+    EXPECT_EQ(sqlite(u"1 + CASE a & b WHEN c - 1 THEN -d ELSE e END & f x, 2 + NOT g"_s),
+              u"access_concat(access_add(1 , CASE access_concat(a , b) COLLATE ACCESS_TEXT"
+              " WHEN access_subtract(c , 1) THEN -d ELSE e END) , f) COLLATE ACCESS_TEXT x, 2 + NOT g"_s);
     EXPECT_EQ(sqlite(u"a/b/2, 7 Mod (3) - 1"_s), u"a*1.0/b*1.0/2, access_subtract(7 % (3) , 1)"_s);
 }
 

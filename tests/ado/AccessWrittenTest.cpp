@@ -123,6 +123,36 @@ TEST_F(AccessWrittenTest, ChineseIsSortedByItsPronunciation)
     EXPECT_EQ(sorted(), u"7 abc Zed 阿里 北京 北京2 大连 李四 上海 张三"_s);
 }
 
+TEST_F(AccessWrittenTest, SavedQueriesHaveAccesssOwnPatterns)
+{
+    using enum AccessType;
+    constexpr qint32 likes = 1000;
+    constexpr qint32 percent = 1001;
+    addNames({u"Chai"_s, u"Chang"_s, u"chx"_s, u"C%"_s, u"x"_s});
+    writer.addObject(likes, 5, u"Like"_s);
+    writer.addObject(percent, 5, u"第一"_s);
+    const auto part = [](qint32 query, int attribute, int flag, const QString &expression,
+                         const QString &name) {
+        return QVariantList{query, attribute, flag, expression, name, {}, QByteArray(1, '\0')};
+    };
+    writer.addTable(u"MSysQueries"_s,
+                    {{u"ObjectId"_s, LongInteger},
+                     {u"Attribute"_s, Byte},
+                     {u"Flag"_s, Integer},
+                     {u"Expression"_s, Memo},
+                     {u"Name1"_s, Text, 255},
+                     {u"Name2"_s, Text, 255},
+                     {u"Order"_s, Binary, 255}},
+                    {part(likes, 5, {}, {}, u"T"_s),
+                     part(likes, 8, {}, u"T.名称 Like \"ch?*\" And 名称 Not Like \"*[!a-z]*\""_s, {}),
+                     part(percent, 5, {}, {}, u"T"_s), part(percent, 3, 0x30, {}, u"40"_s),
+                     part(percent, 11, {}, u"T.名称"_s, u"D"_s)});
+    open();
+    EXPECT_EQ(ask(u"SELECT * FROM [Like]"_s), u"Chai\nChang\nchx"_s);
+    EXPECT_EQ(ask(u"SELECT * FROM [Like] WHERE 名称 LIKE 'Ch%g'"_s), u"Chang"_s) << "as through ADO";
+    EXPECT_EQ(ask(u"SELECT * FROM 第一"_s), u"x\nchx"_s);
+}
+
 TEST_F(AccessWrittenTest, AFileThatIsCutOffMeanwhileEndsTheStatementOnly)
 {
     QStringList names;

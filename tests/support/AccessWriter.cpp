@@ -350,7 +350,7 @@ void AccessWriter::addTable(const QString &name, const std::vector<AccessField> 
 {
     const int page = newPage();
     define(page, fields, records);
-    m_objects.append({page, 0, name, 1, 0});
+    addObject(page, 1, name);
 }
 
 QByteArray AccessWriter::header() const

@@ -31,6 +31,9 @@ public:
     // and a GUID's its 16 bytes. What is invalid becomes Null.
     void addTable(const QString &name, const std::vector<AccessField> &fields,
                   const QList<QVariantList> &records);
+    // What the file lists besides its tables; 5 is the type of a saved query, whose parts stand in a table
+    // MSysQueries.
+    void addObject(qint32 id, qint16 type, const QString &name) { m_objects.append({id, 0, name, type, 0}); }
     // A password that Access would ask for.
     void setPassword(const QString &password) { m_password = password; }
     // The Windows number of the language in which texts are sorted.

@@ -42,13 +42,13 @@ constexpr std::array<QStringView, 13> textFunctions{u"LEFT",   u"RIGHT",   u"MID
                                                     u"FORMAT", u"REPLACE", u"STRCONV"};
 
 // The words between which expressions stand.
-constexpr std::array<QStringView, 46> clauseWords{
-    u"SELECT", u"DISTINCT", u"DISTINCTROW", u"ALL",   u"FROM",   u"WHERE",    u"GROUP",  u"BY",
-    u"HAVING", u"ORDER",    u"ASC",         u"DESC",  u"UNION",  u"EXCEPT",   u"LIMIT",  u"OFFSET",
-    u"ON",     u"JOIN",     u"INNER",       u"OUTER", u"CROSS",  u"NATURAL",  u"USING",  u"AS",
-    u"AND",    u"OR",       u"NOT",         u"XOR",   u"LIKE",   u"ESCAPE",   u"IN",     u"BETWEEN",
-    u"IS",     u"CASE",     u"WHEN",        u"THEN",  u"ELSE",   u"END",      u"EXISTS", u"COLLATE",
-    u"WITH",   u"VALUES",   u"GLOB",        u"OVER",  u"FILTER", u"INTERSECT"};
+constexpr std::array<QStringView, 44> clauseWords{
+    u"SELECT", u"DISTINCT", u"DISTINCTROW", u"ALL",      u"FROM",   u"WHERE",   u"GROUP", u"BY",
+    u"HAVING", u"ORDER",    u"ASC",         u"DESC",     u"UNION",  u"EXCEPT",  u"LIMIT", u"OFFSET",
+    u"ON",     u"JOIN",     u"INNER",       u"OUTER",    u"CROSS",  u"NATURAL", u"USING", u"AS",
+    u"AND",    u"OR",       u"NOT",         u"XOR",      u"LIKE",   u"ESCAPE",  u"IN",    u"BETWEEN",
+    u"IS",     u"WHEN",     u"THEN",        u"ELSE",     u"EXISTS", u"COLLATE", u"WITH",  u"VALUES",
+    u"GLOB",   u"OVER",     u"FILTER",      u"INTERSECT"};
 
 template<typename Table>
 const Words *find(const Table &table, const SqlScanner &statement, qsizetype index)
@@ -172,7 +172,7 @@ private:
     }
     bool endsOperand(qsizetype index) const
     {
-        return index >= 0 &&
+        return index >= 0 && !m_statement.isWord(index, u"CASE") &&
                (m_statement.at(index).kind != SqlToken::Kind::Symbol || m_statement.isSymbol(index, u')') ||
                 m_isInDate[static_cast<std::size_t>(index)]);
     }
@@ -207,8 +207,14 @@ private:
                 first = token;
             last = token;
         }
+        // What stands before a word like NOT is left to SQLite.
+        void dropLastWithoutOperand()
+        {
+            if (!joints.empty() && joints.back() == last)
+                joints.pop_back();
+        }
     };
-    // In one pair of parentheses. A sum is an operand of &.
+    // In one pair of parentheses, or of CASE and END. A sum is an operand of &.
     struct Level
     {
         Run text;
@@ -218,6 +224,7 @@ private:
     // In SQLite && does not bind as loosely, and Null would make the whole text Null, so it becomes a call.
     void finishText(Run &run)
     {
+        run.dropLastWithoutOperand();
         if (!run.joints.empty()) {
             insert(Edit::Open, m_statement.at(run.first).start, u"access_concat("_s);
             for (const qsizetype joint : run.joints)
@@ -230,6 +237,7 @@ private:
     // SQLite knows neither sums of dates nor of texts, and gives a number for them.
     void finishSum(Run &run)
     {
+        run.dropLastWithoutOperand();
         // The last operator's is the outermost call.
         for (auto joint = run.joints.rbegin(); joint != run.joints.rend(); ++joint)
             insert(Edit::OpenSum, m_statement.at(run.first).start,
@@ -259,15 +267,20 @@ private:
 
     void replaceOperators()
     {
-        std::vector<Level> levels; // one for each open parenthesis
+        std::vector<Level> levels; // one for each open parenthesis and CASE
+        int cases = 0;
         for (qsizetype i = 0; i < m_statement.count(); ++i) {
-            const auto depth = static_cast<std::size_t>(m_statement.at(i).depth);
+            const bool isCase = m_statement.isWord(i, u"CASE");
+            const bool isEnd = cases > 0 && m_statement.isWord(i, u"END");
+            cases -= isEnd ? 1 : 0;
+            const auto depth = static_cast<std::size_t>(m_statement.at(i).depth + cases);
+            cases += isCase ? 1 : 0;
             for (; levels.size() > depth + 1; levels.pop_back())
                 finish(levels.back());
             levels.resize(depth + 1);
             Level &level = levels.back();
             const bool isInDate = m_isInDate[static_cast<std::size_t>(i)];
-            if (!isInDate && (endsExpression(i) || isAlias(i))) {
+            if (!isInDate && !isEnd && (endsExpression(i) || isAlias(i))) {
                 finish(level);
                 continue;
             }
