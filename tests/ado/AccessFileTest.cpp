@@ -110,6 +110,21 @@ TEST_F(AccessFileTest, WhatIsNoAccessFileIsRefusedAndNeverCreated)
     EXPECT_ADO_ERROR(adErrOpeningFile, open(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=/"_s));
 }
 
+TEST_F(AccessFileTest, WrongHeadsDoNoHarm)
+{
+    const QByteArray whole = contents(samplePath(QLatin1StringView(WrittenSample), m_folder));
+    constexpr qsizetype headSize = 0x98;
+    int refused = 0;
+    for (qsizetype at = 0; at < headSize; ++at) {
+        SCOPED_TRACE(at);
+        QByteArray bytes = whole;
+        bytes[at] = static_cast<char>(~bytes[at]);
+        readAll(write(bytes), refused);
+    }
+    EXPECT_GT(refused, 0);
+    EXPECT_LT(refused, headSize) << "most of it says nothing about the tables";
+}
+
 TEST_P(DamagedAccessFileTest, CutOffFilesAreRefused)
 {
     for (qsizetype size = 0; size < whole.size(); size += whole.size() / 40 + 1) {

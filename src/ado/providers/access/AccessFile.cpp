@@ -182,7 +182,9 @@ QByteArray AccessFile::longValue(QByteArrayView field) const
 
     QByteArray value;
     auto next = AccessBytes::number<quint32>(field, 4);
-    while (value.size() < size) {
+    for (qint64 pieces = 0; value.size() < size; ++pieces) {
+        if (pieces == pages())
+            AccessBytes::throwDamaged("a long value goes round in a circle");
         const AccessAddress address(next);
         const auto holder = page(address.page);
         QByteArrayView piece = holder->row(address.row).bytes;
