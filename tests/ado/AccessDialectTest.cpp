@@ -1,5 +1,6 @@
 #include "Printing.h"
 
+#include "ado/providers/access/AccessDateLiteral.h"
 #include "ado/providers/access/AccessDialect.h"
 
 #include <gtest/gtest.h>
@@ -99,6 +100,6 @@ TEST(AccessDialectTest, DatesAreReadMonthFirst)
                                                  {u"x"_s, {}},
                                                  {u"1/2/20203"_s, {}}};
     for (const auto &[literal, expected] : dates)
-        EXPECT_EQ(AccessDialect::dateText(literal), expected) << literal.toStdString();
+        EXPECT_EQ(AccessDateLiteral::text(literal), expected) << literal.toStdString();
     EXPECT_EQ(sqlite(u"d >= #1/31/2020# AND d < #bad#"_s), u"d >= '2020-01-31 00:00:00' AND d < #bad#"_s);
 }

@@ -59,6 +59,19 @@ TEST_F(AccessTest, KeysAndAutoNumbersAreMarked)
     const qint32 plain = orders->Fields().Item(u"CustomerID"_s).Attributes();
     EXPECT_FALSE(plain & (adFldKeyColumn | adFldRowID));
     EXPECT_TRUE(plain & adFldIsNullable);
+    const auto keysOf = [&](const QString &table) {
+        const auto records = query(connection, u"SELECT * FROM ["_s + table + u']');
+        QStringList keys;
+        for (int i = 0; i < records->Fields().Count(); ++i) {
+            const Field &field = records->Fields().Item(i);
+            if (field.Attributes() & adFldKeyColumn)
+                keys += field.Name();
+        }
+        return keys.join(u',');
+    };
+    EXPECT_EQ(keysOf(u"Order Details"_s), u"OrderID,ProductID"_s);
+    EXPECT_EQ(keysOf(u"Customers"_s), u"CustomerID"_s);
+    EXPECT_EQ(keysOf(u"Products"_s), u"ProductID"_s);
 }
 
 TEST_F(AccessTest, ValuesReadAsTheyAreShown)

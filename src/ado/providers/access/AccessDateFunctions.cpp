@@ -3,7 +3,7 @@
 #include "ado/DateText.h"
 #include "ado/ValueText.h"
 #include "ado/providers/access/AccessCall.h"
-#include "ado/providers/access/AccessDialect.h"
+#include "ado/providers/access/AccessDateLiteral.h"
 #include "ado/providers/access/AccessFormat.h"
 #include "ado/providers/access/AccessValue.h"
 
@@ -23,7 +23,7 @@ QDateTime momentOf(const AccessCall &call, int index)
         call.isText(index) ? call.text(index).toUtf8() : AccessValue::dateText(call.real(index));
     const QDateTime moment = DateText::moment(text);
     return moment.isValid() ? moment
-                            : DateText::moment(AccessDialect::dateText(QString::fromUtf8(text)).toUtf8());
+                            : DateText::moment(AccessDateLiteral::text(QString::fromUtf8(text)).toUtf8());
 }
 
 // Nothing, and so Null, for what is no date.

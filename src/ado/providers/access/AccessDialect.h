@@ -12,8 +12,4 @@ enum class Patterns { Ado, Access };
 // False, Mod, ALIKE, `T!A` and functions of texts as SQLite writes them; all else is left as it is.
 QString toSqlite(const QString &sql, Patterns patterns = Patterns::Ado);
 
-// The date between two #, as AccessValue writes dates; empty when it is none. Month before day, as everywhere
-// in Access's SQL, unless the year comes first.
-QString dateText(QStringView literal);
-
 } // namespace ADODB::AccessDialect
