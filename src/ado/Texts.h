@@ -30,7 +30,10 @@ KOVA_TEXT(fileUnreadable, "无法读取数据库文件：%1（%2）")
 KOVA_TEXT(notADatabase, "文件不是 SQLite 数据库，或者已加密：%1")
 KOVA_TEXT(notAnAccessFile, "文件不是 Access 数据库：%1")
 KOVA_TEXT(accessTooNew, "该 Access 数据库的版本太新，无法读取：%1")
-KOVA_TEXT(accessDamaged, "Access 数据库已损坏、不完整或者已加密，无法读取：%1")
+KOVA_TEXT(accessDamaged, "Access 数据库已损坏或者不完整，无法读取：%1")
+KOVA_TEXT(accessEncrypted, "该 Access 数据库已加密，在此系统上无法读取：%1")
+KOVA_TEXT(accessQuery, "Access 查询“%1”需要参数，或者用到了此处没有的功能，不能运行。")
+KOVA_TEXT(accessPassword, "该 Access 数据库的密码不正确或者没有给出：%1")
 KOVA_TEXT(badTimeout, "连接字符串中的 Connect Timeout 必须是不小于 0 的秒数。")
 
 // Database servers

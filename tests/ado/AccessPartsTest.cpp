@@ -4,6 +4,7 @@
 
 #include "ado/providers/access/AccessCollation.h"
 #include "ado/providers/access/AccessFormat.h"
+#include "ado/providers/access/AccessPattern.h"
 #include "ado/providers/access/AccessQuery.h"
 #include "ado/providers/access/AccessRow.h"
 #include "ado/providers/access/AccessTypes.h"
@@ -209,9 +210,11 @@ TEST(AccessCollationTest, LetterCaseCountsInNoScript)
     EXPECT_LT(compareDates("2020-01-31 23:59:59", "2020-02-01"), 0);
 }
 
-TEST(AccessCollationTest, LikeKnowsPercentAndUnderline)
+TEST(AccessPatternTest, AdoHasPercentAndUnderline)
 {
-    using AccessCollation::isLike;
+    const auto isLike = [](QByteArrayView text, QByteArrayView pattern, char32_t escape) {
+        return AccessPattern::ofAdo(pattern, escape).matches(text);
+    };
     EXPECT_TRUE(isLike("München", "m_NCH%", 0));
     EXPECT_TRUE(isLike("", "%", 0));
     EXPECT_FALSE(isLike("", "_", 0));
@@ -224,6 +227,26 @@ TEST(AccessCollationTest, LikeKnowsPercentAndUnderline)
     EXPECT_TRUE(isLike("[a]", "[a]", 0));
     // Takes no time although each % could stand for anything.
     EXPECT_FALSE(isLike(QByteArray(20000, 'a'), "%a%a%a%a%a%a%a%a%a%a%b", 0));
+}
+
+TEST(AccessPatternTest, AccessHasStarsAndSets)
+{
+    const auto isLike = [](QByteArrayView text, QByteArrayView pattern) {
+        return AccessPattern::ofAccess(pattern).matches(text);
+    };
+    EXPECT_TRUE(isLike("München", "m?N*"));
+    EXPECT_FALSE(isLike("München", "n*"));
+    EXPECT_TRUE(isLike("50%_x", "*%_*"));
+    EXPECT_TRUE(isLike("A7", "[a-c]#"));
+    EXPECT_FALSE(isLike("D7", "[a-c]#"));
+    EXPECT_FALSE(isLike("AB", "[a-c]#"));
+    EXPECT_TRUE(isLike("D7", "[!A-c]7"));
+    EXPECT_TRUE(isLike("what?", "what[?]"));
+    EXPECT_FALSE(isLike("whats", "what[?]"));
+    EXPECT_TRUE(isLike("a-b!", "a[x-]b[!]"));
+    EXPECT_TRUE(isLike("[a", "[a"));
+    EXPECT_TRUE(isLike("ab", "a[]b"));
+    EXPECT_TRUE(isLike("", "*"));
 }
 
 TEST(AccessFormatTest, DatesAndNumbers)

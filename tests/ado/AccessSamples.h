@@ -15,6 +15,11 @@ namespace AdoTest {
 std::shared_ptr<ADODB::Connection> openAccess(const QString &path);
 std::shared_ptr<ADODB::Recordset> query(const std::shared_ptr<ADODB::Connection> &connection,
                                         const QString &sql);
+// A sample file by its name, or the written one; empty where it is not here.
+QString samplePath(const QString &name, const QTemporaryDir &folder);
+inline constexpr char WrittenSample[] = "written.mdb";
+// Writes bytes into the folder and answers the path.
+QString writeFile(const QTemporaryDir &folder, const QByteArray &bytes, const QString &name);
 // All cells, columns parted by | and records by a line break.
 QString cells(const std::shared_ptr<ADODB::Connection> &connection, const QString &sql);
 

@@ -36,7 +36,12 @@ QString textOf(const Recordset &recordset, qint64 record, int column)
         return value.toBool() ? u"1"_s : u"0"_s;
     if (type == adLongVarBinary || type == adVarBinary)
         return QString::fromLatin1(value.toByteArray().toHex().toUpper());
-    return recordset.CellText(record, column);
+    QString text = recordset.CellText(record, column);
+    // mdb-export counts the text of a GUID among the bytes, and leaves its last dash out.
+    constexpr qsizetype lastDash = 24;
+    return type == adGUID && !text.isEmpty()
+               ? QString::fromLatin1(text.remove(lastDash, 1).toLatin1().toHex().toUpper())
+               : text;
 }
 
 // mdb-export writes numbers with the zeros and digits of their storage.
@@ -59,7 +64,8 @@ class AccessSamplesTest : public testing::TestWithParam<const char *>
 
 TEST_P(AccessSamplesTest, EveryTableReadsAsMdbExportPrintsIt)
 {
-    const QString path = KovaTest::sampleFile(QLatin1StringView(GetParam()));
+    const QTemporaryDir folder;
+    const QString path = samplePath(QLatin1StringView(GetParam()), folder);
     if (path.isEmpty() || QStandardPaths::findExecutable(u"mdb-export"_s).isEmpty())
         GTEST_SKIP() << GetParam() << " or mdb-export is not here";
     const auto connection = openAccess(path);
@@ -90,4 +96,5 @@ TEST_P(AccessSamplesTest, EveryTableReadsAsMdbExportPrintsIt)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, AccessSamplesTest, testing::Values("nwind.mdb", "sample.accdb"));
+INSTANTIATE_TEST_SUITE_P(Files, AccessSamplesTest,
+                         testing::Values("nwind.mdb", "sample.accdb", WrittenSample));

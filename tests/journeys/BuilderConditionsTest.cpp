@@ -104,7 +104,7 @@ protected:
     // SQLite's ODBC driver takes no emoji in a statement.
     bool canRead(const QString &wanted) const
     {
-        return !engine.isSqliteFile || !engine.variable || !wanted.contains(u"🍵");
+        return engine.store != JourneyEngine::SqliteFile || !engine.variable || !wanted.contains(u"🍵");
     }
 
     static constexpr int text = 1;

@@ -29,8 +29,8 @@ void EngineJourney::SetUp()
         u"CREATE TABLE journey_goods (id INTEGER PRIMARY KEY, 名称 VARCHAR(60) NOT NULL, %1"
         " DECIMAL(10,2), qty INTEGER, 城市 VARCHAR(20), 日期 DATE, 停用 BOOLEAN, 图片 %2)%3"_s;
     const QString insert = u"INSERT INTO journey_goods (id,名称,%1,qty,城市,日期,停用,图片) VALUES "_s;
-    const QString yes = engine.isSqliteFile ? u"1"_s : u"TRUE"_s;
-    const QString no = engine.isSqliteFile ? u"0"_s : u"FALSE"_s;
+    const QString yes = engine.isFilledBySqlite() ? u"1"_s : u"TRUE"_s;
+    const QString no = engine.isFilledBySqlite() ? u"0"_s : u"FALSE"_s;
     const QString rows =
         u"(1,'龙井茶',128,3,'杭州','2024-01-05',%2,NULL),(2,'普洱茶',236,12,'昆明','2024-02-29',%2,%3),"
         "(3,'铁观音',168.5,-7,'厦门',NULL,%1,NULL),(4,'花茶',49.5,0,'北京','2023-12-31',%2,NULL),"

@@ -5,6 +5,8 @@
 #include "servers/OdbcSession.h"
 #include "support/TestDatabase.h"
 
+#include <QtCore/QByteArray>
+
 #include <optional>
 
 namespace KovaTest {
@@ -19,10 +21,13 @@ public:
     void run(const QStringList &statements);
     // The first column of the first row, as text.
     QString ask(const QString &statement);
+    // The bytes of the file that the control reads; none where that is a server's affair.
+    QByteArray fileBytes() const;
     const QString &connectionString() const { return m_connectionString; }
 
 private:
     std::optional<TestDatabase> m_file;
+    QString m_accessPath; // of the copy
     std::optional<OdbcSession> m_server;
     QString m_connectionString;
 };

@@ -32,18 +32,27 @@ std::ostream &operator<<(std::ostream &out, const JourneyEngine &engine)
 
 const std::vector<JourneyEngine> &journeyEngines()
 {
-    static const JourneyEngine sqlite{"SQLite", nullptr, dbAccess, true,        u'"', "unit price",
-                                      "TEXT",   "BLOB",  "x'%1'",  "TIMESTAMP", "是"};
-    static const JourneyEngine postgres{"PostgreSQL", "KOVA_TEST_POSTGRESQL", dbOracle, false,
-                                        u'"',         "unit price",           "TEXT",   "BYTEA",
-                                        "'\\x%1'",    "TIMESTAMP(6)",         "是"};
-    static const JourneyEngine mariaDb{"MariaDB", "KOVA_TEST_MARIADB", dbSQLServer, false,
-                                       u'`',      "unit_price",        "LONGTEXT",  "LONGBLOB",
-                                       "x'%1'",   "DATETIME(6)",       "1"};
+    static const JourneyEngine sqlite{"SQLite", nullptr,      dbAccess,        JourneyEngine::SqliteFile,
+                                      u'"',     "unit price", "TEXT",          "BLOB",
+                                      "x'%1'",  "TIMESTAMP",  "DECIMAL(38,0)", "是"};
+    static const JourneyEngine postgres{
+        "PostgreSQL", "KOVA_TEST_POSTGRESQL", dbOracle,        JourneyEngine::Server,
+        u'"',         "unit price",           "TEXT",          "BYTEA",
+        "'\\x%1'",    "TIMESTAMP(6)",         "DECIMAL(38,0)", "是"};
+    static const JourneyEngine mariaDb{"MariaDB", "KOVA_TEST_MARIADB", dbSQLServer,     JourneyEngine::Server,
+                                       u'`',      "unit_price",        "LONGTEXT",      "LONGBLOB",
+                                       "x'%1'",   "DATETIME(6)",       "DECIMAL(38,0)", "1"};
     static const std::vector<JourneyEngine> engines = [] {
         JourneyEngine sqliteOdbc = sqlite;
         sqliteOdbc.name = "SQLiteThroughOdbc";
         sqliteOdbc.variable = "KOVA_TEST_SQLITE_ODBC";
+        JourneyEngine access = sqlite;
+        access.name = "Access";
+        access.store = JourneyEngine::AccessFile;
+        access.longText = "LONGTEXT";
+        access.binary = "LONGBLOB";
+        access.moment = "DATETIME";
+        access.digits = "DIGITTEXT(28,0)";
         JourneyEngine bouncer = postgres;
         bouncer.name = "PostgreSQLThroughPgBouncer";
         bouncer.variable = "KOVA_TEST_PGBOUNCER";
@@ -58,7 +67,7 @@ const std::vector<JourneyEngine> &journeyEngines()
         sqlServer.name = "MariaDBInSqlServerMode";
         sqlServer.variable = "KOVA_TEST_MARIADB_MSSQL";
         sqlServer.dbType = dbSQLServer;
-        return std::vector{sqlite, sqliteOdbc, postgres, bouncer, mariaDb, oracle, sqlServer};
+        return std::vector{sqlite, access, sqliteOdbc, postgres, bouncer, mariaDb, oracle, sqlServer};
     }();
     return engines;
 }

@@ -14,17 +14,25 @@ struct JourneyEngine
     const char *name;     // also the tests' parameter
     const char *variable; // of the environment, with the connection string; null: a file of SQLite's own
     qint32 dbType;        // AllDBType
-    bool isSqliteFile;    // made anew for each journey
-    char16_t quote;       // around a name in a statement that creates a table
+    enum Store {
+        Server,
+        SqliteFile, // made anew for each journey
+        AccessFile  // the same, as a copy of a SQLite file; it can only be read
+    } store;
+    char16_t quote; // around a name in a statement that creates a table
     const char
         *unitPrice; // a field's name: with a blank where the database type's quotes mean something here
     const char *longText;
     const char *binary;
     const char *binaryLiteral; // %1 are hexadecimal digits
     const char *moment;
-    const char *yes; // what a user types for a Boolean that is true
+    const char *digits; // the longest decimal
+    const char *yes;    // what a user types for a Boolean that is true
 
     bool isThere() const;
+    bool isWritable() const { return store != AccessFile; }
+    // Whether SQLite runs the statements that fill the tables.
+    bool isFilledBySqlite() const { return store != Server; }
     QString quoted(const QString &field) const;
     QString bytes(const char *hex) const;
 };

@@ -169,6 +169,8 @@ TEST_P(EngineJourney, ShowsOneRecordAndTheFullScreen)
 
 TEST_P(EngineJourney, DeletesARecord)
 {
+    if (!engine.isWritable())
+        GTEST_SKIP() << engine.name << " files are only read";
     ASSERT_TRUE(load());
     hands->messages.answerNext(QMessageBox::Yes);
     hands->choose(9, 5);
@@ -177,6 +179,24 @@ TEST_P(EngineJourney, DeletesARecord)
     EXPECT_FALSE(ids().contains(u"5"_s));
     EXPECT_EQ(database->ask(u"SELECT count(*) FROM journey_goods WHERE id = 5"_s), u"0"_s);
     EXPECT_EQ(database->ask(u"SELECT count(*) FROM journey_goods"_s), u"11"_s);
+}
+
+TEST_P(EngineJourney, SaysThatWhatIsOnlyReadKeepsItsRecords)
+{
+    if (engine.isWritable())
+        GTEST_SKIP() << "records can be deleted";
+    ASSERT_TRUE(load());
+    const QByteArray before = database->fileBytes();
+    hands->messages.answerNext(QMessageBox::Yes);
+    hands->choose(9, 5);
+    ASSERT_EQ(hands->messages.texts(),
+              QStringList({u"确实要删除该记录?"_s, u"删除操作与数据库的约束冲突，不能删除此记录！"_s}));
+    EXPECT_TRUE(hands->messages.shown().back().cause.contains(u"只能读取"_s))
+        << qUtf8Printable(hands->messages.shown().back().cause);
+    EXPECT_EQ(hands->rows(), 12);
+    EXPECT_TRUE(database->fileBytes() == before);
+    hands->click(u"Part"_s);
+    EXPECT_EQ(hands->rows(), 12);
 }
 
 TEST_P(EngineJourney, KeepsARecordThatAConstraintHolds)

@@ -2,6 +2,7 @@
 
 #include "ado/FieldValue.h"
 #include "ado/ValueText.h"
+#include "ado/providers/access/AccessValue.h"
 
 namespace ADODB {
 
@@ -10,6 +11,32 @@ QString AccessCall::text(int index) const
     const RawValue value = rawValue(m_values[index]);
     return value.kind == RawValue::Kind::Text ? QString::fromUtf8(value.bytes)
                                               : ValueText(FieldValue::fromRaw(value, adVariant));
+}
+
+double AccessCall::number(int index) const
+{
+    return isText(index) ? AccessValue::days(text(index).toUtf8()).value_or(real(index)) : real(index);
+}
+
+bool AccessCall::isDate(int index) const
+{
+    return isText(index) && AccessValue::days(text(index).toUtf8());
+}
+
+bool AccessCall::hasNull() const
+{
+    for (int i = 0; i < count(); ++i) {
+        if (isNull(i))
+            return true;
+    }
+    return false;
+}
+
+void AccessCall::answerDate(double days)
+{
+    const QByteArray date = AccessValue::dateText(days);
+    if (!date.isEmpty())
+        setResult(m_context, RawValue::fromText(date));
 }
 
 void AccessCall::answer(const QString &value)

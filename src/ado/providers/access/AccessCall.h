@@ -24,16 +24,31 @@ public:
     bool isNull(int index) const { return sqlite3_value_type(m_values[index]) == SQLITE_NULL; }
     // As a field with that value shows it.
     QString text(int index) const;
+    // A date counts as its days since 1899-12-30, as Access computes with it.
+    double number(int index) const;
+    bool isDate(int index) const;
+    bool hasNull() const;
     double real(int index) const { return sqlite3_value_double(m_values[index]); }
     qint64 integer(int index) const { return sqlite3_value_int64(m_values[index]); }
+    bool isInteger(int index) const { return sqlite3_value_type(m_values[index]) == SQLITE_INTEGER; }
     bool isText(int index) const { return sqlite3_value_type(m_values[index]) == SQLITE_TEXT; }
 
     void answer(bool value) { sqlite3_result_int(m_context, value ? 1 : 0); }
     void answer(qint64 value) { sqlite3_result_int64(m_context, value); }
     void answer(double value) { sqlite3_result_double(m_context, value); }
     void answer(const QString &value);
+    // The date with that number of days; Null where it is outside the years 1 to 9999.
+    void answerDate(double days);
     void answerArgument(int index) { sqlite3_result_value(m_context, m_values[index]); }
     void fail(const char *words) { sqlite3_result_error(m_context, words, -1); }
+
+    // A function that gives Null as soon as one argument is Null.
+    template<void (*Function)(AccessCall &)>
+    static void strict(AccessCall &call)
+    {
+        if (!call.hasNull())
+            Function(call);
+    }
 
     // `count` arguments, -1 for any number. `flags` are added to those of a function that always gives the
     // same answer for the same arguments.

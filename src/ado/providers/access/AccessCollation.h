@@ -11,18 +11,15 @@ namespace ADODB::AccessCollation {
 inline constexpr char TextName[] = "ACCESS_TEXT";
 inline constexpr char DateName[] = "ACCESS_DATE";
 
-// Negative, zero or positive.
+// Negative, zero or positive; by code points, unlike AccessOrder, where texts are not equal.
 int compareTexts(QByteArrayView a, QByteArrayView b);
 // The same for dates as AccessValue writes them; one without a time is that day at 0:00.
 int compareDates(QByteArrayView a, QByteArrayView b);
 // A date as it is compared.
 QByteArrayView comparedDate(QByteArrayView date);
 
-// Whether a text is like a pattern of % and _, both in UTF-8; an `escape` before one of the two takes its
-// meaning away, 0 is none.
-bool isLike(QByteArrayView text, QByteArrayView pattern, char32_t escape);
-
-// Offers both orders, by their names, and LIKE.
-void install(sqlite3 *db);
+// Offers both orders, by their names, LIKE, and GLOB as the LIKE of Access's own patterns. Texts
+// are sorted as in that language; see AccessOrder.
+void install(sqlite3 *db, quint16 language);
 
 } // namespace ADODB::AccessCollation

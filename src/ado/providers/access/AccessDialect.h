@@ -5,12 +5,11 @@
 // The SQL of Access, where it differs from SQLite's.
 namespace ADODB::AccessDialect {
 
-// The statement with `#1/31/2020#`, `a & b`, TOP n, DISTINCTROW, True, False, Mod, `T!A` and Left() and
-// Right() as SQLite writes them; all else is left as it is.
-QString toSqlite(const QString &sql);
+// Whose patterns stand behind LIKE: those of ADO (% and _) or those of Access's own windows (* and ?).
+enum class Patterns { Ado, Access };
 
-// The date between two #, as AccessValue writes dates; empty when it is none. Month before day, as everywhere
-// in Access's SQL, unless the year comes first.
-QString dateText(QStringView literal);
+// The statement with `#1/31/2020#`, `a & b`, `a + b`, `a - b`, `a / b`, TOP n [PERCENT], DISTINCTROW, True,
+// False, Mod, ALIKE, `T!A` and functions of texts as SQLite writes them; all else is left as it is.
+QString toSqlite(const QString &sql, Patterns patterns = Patterns::Ado);
 
 } // namespace ADODB::AccessDialect

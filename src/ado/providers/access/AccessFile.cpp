@@ -3,6 +3,8 @@
 #include "ado/Error.h"
 #include "ado/Texts.h"
 #include "ado/providers/DatabaseFile.h"
+#include "ado/providers/access/AccessDefinition.h"
+#include "ado/providers/access/AccessHeader.h"
 #include "ado/providers/access/AccessNamedReader.h"
 
 #include <QtCore/QFile>
@@ -18,7 +20,6 @@ namespace ADODB {
 
 namespace {
 
-constexpr quint8 definitionPageKind = 2;
 constexpr quint32 objectsPage = 2; // the table of all objects, itself among them
 constexpr int jet3PageSize = 2048;
 constexpr int jet4PageSize = 4096;
@@ -27,59 +28,25 @@ constexpr quint8 newestVersion = MDB_VER_ACCDB_2019;
 struct Freer
 {
     void operator()(MdbHandle *handle) const { mdb_close(handle); }
-    void operator()(MdbTableDef *table) const { mdb_free_tabledef(table); }
 };
 
 // libmdb takes a file of another kind for a damaged one of its own, and looks at pages that a cut off file
 // doesn't have, so the file is looked at first.
-DatabaseFile checked(const QString &path)
+DatabaseFile checked(const QString &path, const QString &password)
 {
-    constexpr qsizetype versionOffset = 0x14;
-    DatabaseFile file(path, versionOffset + 1);
-    const QByteArray kind = file.header.mid(4, 15);
-    if (file.header.size() <= versionOffset || !file.header.startsWith(QByteArrayView("\0\1\0\0", 4)) ||
-        (kind != "Standard Jet DB" && kind != "Standard ACE DB"))
+    DatabaseFile file(path, AccessHeader::Size);
+    const AccessHeader header(file.header);
+    if (!header.isAccess())
         throw Error(adErrOpeningFile, Texts::notAnAccessFile().arg(file.shown));
-    const auto version = static_cast<quint8>(file.header.at(versionOffset));
-    if (version > newestVersion)
+    if (header.version() > newestVersion)
         throw Error(adErrOpeningFile, Texts::accessTooNew().arg(file.shown));
-    if (file.size % (version == MDB_VER_JET3 ? jet3PageSize : jet4PageSize) != 0)
+    if (header.isEncrypted())
+        throw Error(adErrOpeningFile, Texts::accessEncrypted().arg(file.shown));
+    if (file.size % (header.version() == MDB_VER_JET3 ? jet3PageSize : jet4PageSize) != 0)
         throw Error(adErrOpeningFile, Texts::accessDamaged().arg(file.shown));
+    if (header.password() != password && !header.password().isEmpty())
+        throw Error(dbErrAuthFailed, Texts::accessPassword().arg(file.shown));
     return file;
-}
-
-AccessColumn columnOf(const MdbColumn &column, bool isJet3)
-{
-    AccessColumn result;
-    result.name = QString::fromUtf8(column.name);
-    result.type = static_cast<AccessType>(column.col_type);
-    result.size = column.col_size;
-    result.declaredSize = result.type == AccessType::Text && !isJet3 ? column.col_size / 2 : column.col_size;
-    result.precision = column.col_prec;
-    result.scale = column.col_scale;
-    // In older files both marks mean something else for columns of other types.
-    result.isAutoNumber = (result.type == AccessType::LongInteger && column.is_long_auto) ||
-                          (result.type == AccessType::Guid && column.is_uuid_auto);
-    result.number = column.col_num;
-    result.isFixed = column.is_fixed != 0;
-    result.fixedOffset = column.fixed_offset;
-    result.variableNumber = static_cast<int>(column.var_col_num);
-    return result;
-}
-
-void markKey(const GPtrArray *indices, std::vector<AccessColumn> &columns)
-{
-    constexpr int primaryKey = 1;
-    for (guint i = 0; indices && i < indices->len; ++i) {
-        const auto *index = static_cast<const MdbIndex *>(g_ptr_array_index(indices, i));
-        if (!index || index->index_type != primaryKey)
-            continue;
-        for (guint key = 0; key < index->num_keys && key < MDB_MAX_IDX_COLS; ++key) {
-            const int column = index->key_col_num[key] - 1;
-            if (column >= 0 && column < static_cast<int>(columns.size()))
-                columns[static_cast<std::size_t>(column)].isKey = true;
-        }
-    }
 }
 
 // What Jet 4 writes in one byte where a text has only Latin letters; a zero byte switches between that and
@@ -111,9 +78,10 @@ struct AccessFile::Handle
     qint64 size = 0;
 };
 
-AccessFile::AccessFile(const QString &path) : m_handle(std::make_unique<Handle>())
+AccessFile::AccessFile(const QString &path, const QString &password) : m_handle(std::make_unique<Handle>())
 {
-    const DatabaseFile file = checked(path);
+    const DatabaseFile file = checked(path, password);
+    m_language = AccessHeader(file.header).language();
     m_handle->size = file.size;
     m_handle->mdb.reset(mdb_open(QFile::encodeName(file.path).constData(), MDB_NOFLAGS));
     if (!m_handle->mdb)
@@ -165,72 +133,20 @@ std::optional<AccessTable> AccessFile::systemTable(QLatin1StringView name) const
     return object == m_objects.end() ? std::nullopt : readTable(object->name, object->definitionPage());
 }
 
-// libmdb complains on standard error about what it does not like, so the page is looked at first.
 std::optional<AccessTable> AccessFile::readTable(const QString &name, quint32 definitionPage) const
 {
     try {
-        if (AccessBytes::number<quint8>(page(definitionPage)->bytes(), 0) != definitionPageKind)
-            return {};
-        MdbCatalogEntry entry{};
-        entry.mdb = m_handle->mdb.get();
-        entry.table_pg = definitionPage;
-        const std::unique_ptr<MdbTableDef, Freer> definition(mdb_read_table(&entry));
-        if (!definition)
-            return {};
-        AccessTable table = described(*definition);
+        AccessTable table = AccessDefinition::read(*this, definitionPage);
         table.name = name;
-        table.definitionPage = definitionPage;
         return table;
     } catch (const Error &) {
         return {};
     }
 }
 
-AccessTable AccessFile::described(MdbTableDef &definition) const
+qint64 AccessFile::pages() const
 {
-    AccessTable table;
-    table.rows = definition.num_rows;
-    table.hasVariableColumns = definition.num_var_cols > 0;
-    const GPtrArray *columns = mdb_read_columns(&definition);
-    if (!columns || columns->len == 0)
-        AccessBytes::throwDamaged("a table has no columns");
-    for (guint i = 0; i < columns->len; ++i)
-        table.columns.push_back(
-            columnOf(*static_cast<const MdbColumn *>(g_ptr_array_index(columns, i)), isJet3()));
-    mdb_read_indices(&definition);
-    markKey(definition.indices, table.columns);
-    const void *map = definition.usage_map;
-    table.pages = rowPages({static_cast<const char *>(map), static_cast<qsizetype>(definition.map_sz)});
-    return table;
-}
-
-// The map is a bit for each page, either at once or as a list of pages that hold the bits.
-std::vector<quint32> AccessFile::rowPages(QByteArrayView usageMap) const
-{
-    std::vector<quint32> pages;
-    const qint64 last = m_handle->size / m_handle->mdb->fmt->pg_size - 1;
-    const auto addBits = [&](QByteArrayView bits, qint64 first) {
-        for (qsizetype i = 0; i < bits.size() * 8; ++i) {
-            if (bits[i / 8] >> (i % 8) & 1 && first + i <= last)
-                pages.push_back(static_cast<quint32>(first + i));
-        }
-    };
-    const auto kind = AccessBytes::number<quint8>(usageMap, 0);
-    if (kind == 0) {
-        addBits(AccessBytes::part(usageMap, 5, usageMap.size() - 5),
-                AccessBytes::number<quint32>(usageMap, 1));
-    } else if (kind == 1) {
-        qint64 first = 0;
-        for (qsizetype at = 1; at + 4 <= usageMap.size() && first <= last; at += 4) {
-            const auto bitsPage = AccessBytes::number<quint32>(usageMap, at);
-            if (bitsPage != 0)
-                addBits(page(bitsPage)->bytes().sliced(4), first);
-            first += (m_handle->mdb->fmt->pg_size - 4) * 8;
-        }
-    } else {
-        AccessBytes::throwDamaged("the pages of a table are not listed");
-    }
-    return pages;
+    return m_handle->size / m_handle->mdb->fmt->pg_size;
 }
 
 std::shared_ptr<const AccessPage> AccessFile::page(quint32 number) const
@@ -240,7 +156,7 @@ std::shared_ptr<const AccessPage> AccessFile::page(quint32 number) const
         return cached;
     MdbHandle *const mdb = m_handle->mdb.get();
     const auto size = mdb->fmt->pg_size;
-    if (number == 0 || number >= m_handle->size / size || mdb_read_pg(mdb, number) != size)
+    if (number == 0 || number >= pages() || mdb_read_pg(mdb, number) != size)
         AccessBytes::throwDamaged("a page is missing");
     auto page = std::make_shared<AccessPage>();
     page->number = number;
@@ -266,7 +182,9 @@ QByteArray AccessFile::longValue(QByteArrayView field) const
 
     QByteArray value;
     auto next = AccessBytes::number<quint32>(field, 4);
-    while (value.size() < size) {
+    for (qint64 pieces = 0; value.size() < size; ++pieces) {
+        if (pieces == pages())
+            AccessBytes::throwDamaged("a long value goes round in a circle");
         const AccessAddress address(next);
         const auto holder = page(address.page);
         QByteArrayView piece = holder->row(address.row).bytes;

@@ -10,8 +10,6 @@
 #include <optional>
 #include <vector>
 
-struct S_MdbTableDef;
-
 namespace ADODB {
 
 // What the file lists: its tables, queries, forms and so on.
@@ -28,13 +26,15 @@ struct AccessObject
     quint32 definitionPage() const { return static_cast<quint32>(id & 0xffffff); }
 };
 
-// An Access database file, open for reading. libmdb reads the pages and the definitions of tables,
-// which it does when the file is opened; rows are read page by page when they are asked for. Throws Error.
+// An Access database file, open for reading. libmdb reads the pages and knows the code pages of older files.
+// The definitions of tables are read when the file is opened; rows are read page by page when they are asked
+// for. Throws Error.
 class AccessFile
 {
 public:
-    // A file that can't be opened, is no Access file, is damaged or encrypted is refused with 3002.
-    explicit AccessFile(const QString &path);
+    // A file that can't be opened, is no Access file, is damaged or encrypted is refused with 3002, another
+    // password than the file's with dbErrAuthFailed; a password that a file does not ask for is passed over.
+    explicit AccessFile(const QString &path, const QString &password = {});
     ~AccessFile();
     Q_DISABLE_COPY_MOVE(AccessFile)
 
@@ -44,8 +44,11 @@ public:
     // Nothing when there is no such table or it can't be read.
     std::optional<AccessTable> systemTable(QLatin1StringView name) const;
 
+    // As AccessHeader has it.
+    quint16 language() const { return m_language; }
     // Whether it is in the format up to Access 97.
     bool isJet3() const;
+    qint64 pages() const;
     std::shared_ptr<const AccessPage> page(quint32 number) const;
     // All bytes of a Memo or OLE object, whose field in the row is given.
     QByteArray longValue(QByteArrayView field) const;
@@ -60,10 +63,9 @@ private:
 
     std::vector<AccessObject> readObjects() const;
     std::optional<AccessTable> readTable(const QString &name, quint32 definitionPage) const;
-    AccessTable described(S_MdbTableDef &definition) const;
-    std::vector<quint32> rowPages(QByteArrayView usageMap) const;
 
     std::unique_ptr<Handle> m_handle;
+    quint16 m_language = 0;
     mutable std::vector<std::shared_ptr<const AccessPage>> m_cache{CachedPages}; // by number % CachedPages
     std::vector<AccessObject> m_objects;
     std::vector<AccessTable> m_tables;

@@ -2,9 +2,7 @@
 
 struct sqlite3;
 
-// Functions that Access has and SQLite doesn't: of texts (Len, Mid, Left, Right, UCase, LCase, InStr), dates
-// (Now, Date, Year … Second, Weekday, DatePart, DateSerial, DateValue, CDate), numbers (Int, Fix, Sgn, Sqr)
-// and conversions (CStr, CInt, CLng, CDbl, CSng, CCur, CBool, Val, Nz, IsNull, Format).
+// The functions that Access has and SQLite does not have or means otherwise.
 namespace ADODB::AccessFunctions {
 
 void install(sqlite3 *db);

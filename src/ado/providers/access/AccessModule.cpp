@@ -266,8 +266,15 @@ void AccessModule::install(sqlite3 *db, std::shared_ptr<const AccessFile> file)
     if (code != SQLITE_OK)
         throwSqliteError(db, code);
     run(db, u"BEGIN"_s); // one transaction instead of one for each table
-    for (std::size_t i = 0; i < tables.size(); ++i)
-        run(db, u"CREATE VIRTUAL TABLE %1 USING access_table(%2)"_s.arg(quotedName(tables[i].name)).arg(i));
+    for (std::size_t i = 0; i < tables.size(); ++i) {
+        try {
+            run(db,
+                u"CREATE VIRTUAL TABLE %1 USING access_table(%2)"_s.arg(quotedName(tables[i].name)).arg(i));
+        } catch (const Error &) {
+            // A name that is SQLite's own, or damage that made two names the same: the others are still
+            // there.
+        }
+    }
     run(db, u"COMMIT"_s);
 }
 

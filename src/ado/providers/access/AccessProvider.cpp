@@ -29,7 +29,7 @@ std::shared_ptr<Session> AccessProvider::open(const ConnectionString &connection
     const QString source = connection.value(u"Data Source"_s);
     if (source.isEmpty())
         throw Error(adErrInvalidArgument, Texts::noDataSource());
-    return std::make_shared<AccessSession>(source);
+    return std::make_shared<AccessSession>(source, connection.value(u"Jet OLEDB:Database Password"_s));
 }
 
 } // namespace ADODB

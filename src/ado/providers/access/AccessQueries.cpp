@@ -6,8 +6,6 @@
 #include "ado/providers/access/AccessQuery.h"
 #include "ado/providers/sqlite/SqliteSession.h"
 
-#include <QtCore/QStringList>
-
 #include <algorithm>
 #include <map>
 
@@ -57,8 +55,8 @@ bool define(const SqliteSession &session, const AccessQuery &query)
     if (select.isEmpty())
         return false;
     try {
-        run(session,
-            u"CREATE VIEW "_s + quotedName(query.name) + " AS "_L1 + AccessDialect::toSqlite(select));
+        run(session, u"CREATE VIEW "_s + quotedName(query.name) + " AS "_L1 +
+                         AccessDialect::toSqlite(select, AccessDialect::Patterns::Access));
         return true;
     } catch (const Error &) {
         return false;
@@ -77,24 +75,24 @@ bool canRun(const SqliteSession &session, const QString &view)
 
 } // namespace
 
-void AccessQueries::install(const SqliteSession &session, const AccessFile &file)
+QStringList AccessQueries::install(const SqliteSession &session, const AccessFile &file)
 {
     std::map<qint64, AccessQuery> queries;
     try {
         queries = read(file);
     } catch (const Error &) {
-        return; // the tables are there all the same
+        return {}; // the tables are there all the same
     }
     QStringList views;
-    for (const auto &[id, query] : queries) {
-        if (define(session, query))
-            views += query.name;
-    }
+    QStringList leftOut;
+    for (const auto &[id, query] : queries)
+        (define(session, query) ? views : leftOut) += query.name;
     QStringList broken;
     std::copy_if(views.begin(), views.end(), std::back_inserter(broken),
                  [&](const QString &view) { return !canRun(session, view); });
     for (const QString &view : broken)
         run(session, u"DROP VIEW "_s + quotedName(view));
+    return leftOut + broken;
 }
 
 } // namespace ADODB

@@ -194,14 +194,14 @@ QString AccessQuery::select() const
     if (kind == UnionKind)
         return unionOf(*this, options);
     const Source source(*this);
-    if (kind != SelectKind || !source.isUnderstood() || options & TopPercent)
+    if (kind != SelectKind || !source.isUnderstood())
         return {};
 
     QString sql = u"SELECT "_s;
     if (options & Distinct)
         sql += "DISTINCT "_L1;
     if (options & Top)
-        sql += "TOP "_L1 + count + u' ';
+        sql += "TOP "_L1 + count + (options & TopPercent ? " PERCENT "_L1 : " "_L1);
     sql += columnsOf(*this, options).join(u", "_s) + " FROM "_L1 + source.from();
     QStringList conditions = source.conditions() + expressionsOf(partsOf(*this, WhereRow));
     for (QString &condition : conditions)

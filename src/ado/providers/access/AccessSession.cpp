@@ -1,6 +1,7 @@
 #include "ado/providers/access/AccessSession.h"
 
 #include "ado/Error.h"
+#include "ado/SqlScanner.h"
 #include "ado/Texts.h"
 #include "ado/providers/access/AccessCollation.h"
 #include "ado/providers/access/AccessDialect.h"
@@ -12,19 +13,38 @@
 
 namespace ADODB {
 
-AccessSession::AccessSession(const QString &path)
+namespace {
+
+// To say that a query is not there would puzzle whoever sees it in Access.
+void throwIfLeftOut(const SqlScanner &statement, const QStringList &queries)
+{
+    for (qsizetype i = 0; i < statement.count(); ++i) {
+        if (statement.isName(i) && queries.contains(statement.name(i), Qt::CaseInsensitive))
+            throw Error(dbErrNoTable, Texts::accessQuery().arg(statement.name(i)));
+    }
+}
+
+} // namespace
+
+AccessSession::AccessSession(const QString &path, const QString &password)
     : SqliteSession(SqliteEngine{AccessTypes::applyDeclaration, Texts::accessReadOnly()})
 {
-    const auto file = std::make_shared<const AccessFile>(path);
-    AccessCollation::install(db());
+    const auto file = std::make_shared<const AccessFile>(path, password);
+    AccessCollation::install(db(), file->language());
     AccessFunctions::install(db());
     AccessModule::install(db(), file);
-    AccessQueries::install(*this, *file);
+    m_queriesLeftOut = AccessQueries::install(*this, *file);
 }
 
 std::unique_ptr<Statement> AccessSession::prepare(const QString &sql, Access access)
 {
-    return SqliteSession::prepare(AccessDialect::toSqlite(sql), access);
+    try {
+        return SqliteSession::prepare(AccessDialect::toSqlite(sql), access);
+    } catch (const Error &error) {
+        if (error.is(dbErrNoTable))
+            throwIfLeftOut(SqlScanner(sql), m_queriesLeftOut);
+        throw;
+    }
 }
 
 } // namespace ADODB

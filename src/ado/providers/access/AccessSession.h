@@ -2,6 +2,8 @@
 
 #include "ado/providers/sqlite/SqliteSession.h"
 
+#include <QtCore/QStringList>
+
 namespace ADODB {
 
 // An open Access file. SQLite runs the statements, in memory, over the tables of the file, which is only
@@ -9,10 +11,13 @@ namespace ADODB {
 class AccessSession : public SqliteSession
 {
 public:
-    explicit AccessSession(const QString &path);
+    AccessSession(const QString &path, const QString &password);
 
     // Understands, beyond SQLite's SQL, what AccessDialect translates.
     std::unique_ptr<Statement> prepare(const QString &sql, Access access) override;
+
+private:
+    QStringList m_queriesLeftOut;
 };
 
 } // namespace ADODB

@@ -1,5 +1,7 @@
 #include "ado/providers/access/AccessValue.h"
 
+#include "ado/DateText.h"
+
 #include <QtCore/QDateTime>
 
 #include <algorithm>
@@ -12,6 +14,9 @@ namespace ADODB::AccessValue {
 namespace {
 
 using AccessBytes::number;
+
+constexpr double dayInMilliseconds = 86'400'000;
+const QDate firstDay(1899, 12, 30);
 
 RawValue fromText(QByteArray text, QByteArray &storage)
 {
@@ -109,7 +114,6 @@ RawValue fromFlag(bool flag)
 
 QByteArray dateText(double days)
 {
-    constexpr double dayInMilliseconds = 86'400'000;
     constexpr double limit = 3'700'000; // further than the year 9999
     if (!(std::abs(days) < limit))
         return {};
@@ -117,8 +121,7 @@ QByteArray dateText(double days)
     const double whole = std::trunc(days);
     const auto milliseconds = std::llround(std::abs(days - whole) * dayInMilliseconds);
     const QDateTime moment =
-        QDateTime(QDate(1899, 12, 30).addDays(static_cast<qint64>(whole)), QTime(0, 0), Qt::UTC)
-            .addMSecs(milliseconds);
+        QDateTime(firstDay.addDays(static_cast<qint64>(whole)), QTime(0, 0), Qt::UTC).addMSecs(milliseconds);
     const QDate day = moment.date();
     if (day.year() < 1 || day.year() > 9999)
         return {};
@@ -133,6 +136,17 @@ QByteArray dateText(double days)
             written.chop(1);
     }
     return written;
+}
+
+std::optional<double> days(QByteArrayView dateText)
+{
+    constexpr qsizetype sizeWithoutFraction = 19;
+    const QDateTime moment = dateText.size() < sizeWithoutFraction ? QDateTime() : DateText::moment(dateText);
+    if (!moment.isValid())
+        return {};
+    const double time = moment.time().msecsSinceStartOfDay() / dayInMilliseconds;
+    const auto whole = static_cast<double>(firstDay.daysTo(moment.date()));
+    return whole < 0 ? whole - time : whole + time;
 }
 
 RawValue fromField(QByteArrayView field, const AccessColumn &column, const AccessFile &file,

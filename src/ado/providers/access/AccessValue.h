@@ -3,6 +3,8 @@
 #include "ado/RawValue.h"
 #include "ado/providers/access/AccessFile.h"
 
+#include <optional>
+
 // From the bytes of a field to the value that statements compute with.
 namespace ADODB::AccessValue {
 
@@ -18,5 +20,7 @@ RawValue fromField(QByteArrayView field, const AccessColumn &column, const Acces
 // The text of a date, in days since 1899-12-30, as fromField() writes it; empty when it is outside the years
 // 1 to 9999.
 QByteArray dateText(double days);
+// The way back; nothing for a text that is no date with a time, written so.
+std::optional<double> days(QByteArrayView dateText);
 
 } // namespace ADODB::AccessValue

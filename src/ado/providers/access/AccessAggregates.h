@@ -1,0 +1,10 @@
+#pragma once
+
+struct sqlite3;
+
+// What summarizes records: First, Last, Var, VarP, StDev, StDevP.
+namespace ADODB::AccessAggregates {
+
+void install(sqlite3 *db);
+
+} // namespace ADODB::AccessAggregates
