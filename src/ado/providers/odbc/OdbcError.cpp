@@ -65,7 +65,7 @@ void refineSqlite(Diagnosis &diagnosis)
 bool isLoss(const Diagnosis &diagnosis)
 {
     return diagnosis.state.startsWith("08"_L1) || diagnosis.state.startsWith("57P0"_L1) ||
-           diagnosis.native == 2006 || diagnosis.native == 2013;
+           diagnosis.native == 1927 || diagnosis.native == 2006 || diagnosis.native == 2013;
 }
 
 bool startsWithAny(const QString &state, std::initializer_list<QLatin1StringView> starts)

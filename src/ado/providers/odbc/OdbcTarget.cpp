@@ -64,10 +64,9 @@ OdbcTarget OdbcTarget::find(const OdbcSession &session, const SqlScanner &statem
     if (!target.whyReadOnly.isEmpty())
         return target;
     const OdbcTable table = OdbcTable::find(session.connection(), select);
-    if (!table.isTable) {
-        target.whyReadOnly = Texts::readOnlyView().arg(select.table);
+    target.whyReadOnly = table.whyReadOnly;
+    if (!target.whyReadOnly.isEmpty())
         return target;
-    }
     const QStringList shown = shownColumns(select, table, fields);
     if (shown.isEmpty()) {
         target.whyReadOnly = Texts::readOnlyJoin();
