@@ -70,6 +70,31 @@ TEST_P(OnOdbc, CutsNoTextHoweverLong)
     EXPECT_EQ(recordset->CellText(2501, 1), longText);
 }
 
+// Which are no limits to SQLite.
+TEST_P(OnOdbc, CutsNothingThatIsLongerThanItsColumn)
+{
+    if (!is("SQLite"))
+        GTEST_SKIP() << "its columns hold no more than they say";
+    execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY, n INTEGER, x DOUBLE, d DATE, t VARCHAR(10))"_s);
+    execute(
+        u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000)"
+        " INSERT INTO kova_a SELECT i, -9223372036854775807, i / 7.0, '2024-02-29 longer', 'short' FROM n"_s);
+    const QString longText(700, u'长');
+    execute(u"UPDATE kova_a SET t = '%1' WHERE id = 2500"_s.arg(longText));
+    const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s);
+    ASSERT_EQ(recordset->RecordCount(), 3000);
+    EXPECT_EQ(recordset->CellText(1, 0), u"1"_s);
+    EXPECT_EQ(recordset->CellText(1, 1), u"-9223372036854775807"_s);
+    EXPECT_EQ(recordset->CellText(1, 2), u"0.142857142857143"_s);
+    EXPECT_EQ(recordset->CellText(3000, 3), u"2024-02-29 longer"_s);
+    EXPECT_EQ(recordset->CellText(2500, 4), longText);
+    recordset->PutAbsolutePosition(2500);
+    recordset->Fields().Item(1).PutValue(5);
+    recordset->Update();
+    EXPECT_EQ(recordset->CellText(2500, 4), longText) << "as it was read again";
+    EXPECT_EQ(ask(u"SELECT n FROM kova_a WHERE id = 2500"_s), u"5"_s);
+}
+
 TEST_P(OnOdbc, KeepsBytesAsTheyAre)
 {
     execute(u"CREATE TABLE kova_a(b %1)"_s.arg(is("PostgreSQL") ? u"BYTEA"_s : u"BLOB"_s));

@@ -36,6 +36,8 @@ struct OdbcEngine
     bool bendsDates = false;
 
     static OdbcEngine of(const OdbcConnection &connection);
+    // By a name of the engine or of its driver.
+    static Kind kindNamed(const QString &name);
 
     // `name` in the engine's quotes.
     QString quoted(const QString &name) const;

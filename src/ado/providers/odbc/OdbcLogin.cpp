@@ -45,6 +45,27 @@ constexpr std::pair<QStringView, QStringView> synonyms[] = {
     {u"Servername", u"Server"},
 };
 
+struct Default
+{
+    QStringView keyword;
+    QStringView shortName; // by which the driver knows it too; empty if there is none
+    QStringView value;
+};
+
+// Without the first two the driver keeps a whole result in memory; without the last it gives other line ends
+// than the database holds. PostgreSQL's usual texts have no length, and VARCHAR may be as long as given here:
+// none of them is a long text, and none is cut.
+constexpr Default postgreSqlDefaults[] = {
+    {u"UseDeclareFetch", u"B6", u"1"},       {u"Fetch", u"A7", u"5000"},
+    {u"UseServerSidePrepare", u"C8", u"1"},  {u"BoolsAsChar", u"B9", u"0"},
+    {u"TextAsLongVarchar", u"B7", u"0"},     {u"MaxVarcharSize", u"B0", u"10485760"},
+    {u"UnknownsAsLongVarchar", u"B8", u"1"}, {u"ByteaAsLongVarBinary", u"C9", u"1"},
+    {u"LFConversion", u"C5", u"0"},
+};
+
+// Without it the driver keeps a whole result in memory.
+constexpr Default sqliteDefaults[] = {{u"StepAPI", {}, u"1"}};
+
 int seconds(const ConnectionString &connection, std::initializer_list<QLatin1StringView> keywords)
 {
     for (const QLatin1StringView keyword : keywords) {
@@ -145,40 +166,31 @@ QStringList OdbcLogin::secrets() const
     return secrets;
 }
 
-bool OdbcLogin::looksLikePostgreSql() const
+OdbcEngine::Kind OdbcLogin::likelyEngine() const
 {
     QString driver = value(u"Driver");
     for (const OdbcDataSource &source : odbcDataSources()) {
         if (driver.isEmpty() && sameWord(source.name, dataSource()))
             driver = source.driver;
     }
-    return driver.contains("postgres"_L1, Qt::CaseInsensitive) ||
-           driver.contains("psql"_L1, Qt::CaseInsensitive);
+    if (driver.contains("psql"_L1, Qt::CaseInsensitive))
+        return OdbcEngine::Kind::PostgreSql;
+    return OdbcEngine::kindNamed(driver);
 }
 
-bool OdbcLogin::addPostgreSqlDefaults()
+bool OdbcLogin::addDefaults(OdbcEngine::Kind engine)
 {
-    struct Default
-    {
-        QStringView keyword;
-        QStringView shortName; // by which the driver knows it too
-        QStringView value;
-    };
-    // Without the first two the driver keeps a whole result in memory; without the last it gives other line
-    // ends than the database holds. PostgreSQL's usual texts have no length, and VARCHAR may be as long as
-    // given here: none of them is a long text, and none is cut.
-    static constexpr Default defaults[] = {
-        {u"UseDeclareFetch", u"B6", u"1"},       {u"Fetch", u"A7", u"5000"},
-        {u"UseServerSidePrepare", u"C8", u"1"},  {u"BoolsAsChar", u"B9", u"0"},
-        {u"TextAsLongVarchar", u"B7", u"0"},     {u"MaxVarcharSize", u"B0", u"10485760"},
-        {u"UnknownsAsLongVarchar", u"B8", u"1"}, {u"ByteaAsLongVarBinary", u"C9", u"1"},
-        {u"LFConversion", u"C5", u"0"},
-    };
     const std::size_t before = m_parts.size();
-    for (const Default &standard : defaults) {
-        if (!contains(standard.shortName))
-            put(standard.keyword.toString(), standard.value.toString());
-    }
+    const auto add = [this](const auto &defaults) {
+        for (const Default &standard : defaults) {
+            if (standard.shortName.isEmpty() || !contains(standard.shortName))
+                put(standard.keyword.toString(), standard.value.toString());
+        }
+    };
+    if (engine == OdbcEngine::Kind::PostgreSql)
+        add(postgreSqlDefaults);
+    else if (engine == OdbcEngine::Kind::Sqlite)
+        add(sqliteDefaults);
     return m_parts.size() > before;
 }
 

@@ -1,5 +1,6 @@
 #include "ado/providers/odbc/OdbcQuery.h"
 
+#include "ado/FieldValue.h"
 #include "ado/SqlScanner.h"
 #include "ado/providers/odbc/OdbcBlockReader.h"
 #include "ado/providers/odbc/OdbcDescription.h"
@@ -23,6 +24,15 @@ bool isDay(const FieldInfo &field)
     return field.type == adDBDate || field.type == adDBTimeStamp;
 }
 
+// The size of a number or a date says how many bytes it takes, not how long it is as a text.
+OdbcColumn columnOf(const FieldInfo &field, bool loose)
+{
+    constexpr qint64 longestAsText = 60;
+    const OdbcTypes::Form form = OdbcTypes::formOf(field.type, loose);
+    const bool isSized = FieldValue::isText(field.type) || form == OdbcTypes::Form::Bytes;
+    return {form, isSized ? field.definedSize : longestAsText};
+}
+
 // A comment behind the semicolon is another statement to some drivers.
 QString withoutSemicolon(const SqlScanner &statement)
 {
@@ -36,16 +46,15 @@ OdbcQuery::OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const Od
                      const QString &sql)
     : m_connection(connection), m_engine(engine), m_statement(std::make_unique<OdbcHandle>(connection))
 {
-    const QString text = withoutSemicolon(SqlScanner(sql, m_engine.dialect));
-    m_statement->prepare(text);
+    m_text = withoutSemicolon(SqlScanner(sql, m_engine.dialect));
+    m_statement->prepare(m_text);
     m_fields = describeColumns(*m_statement);
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
         m_types.push_back(declaredType(*m_statement, static_cast<int>(i)));
-        m_columns.push_back(
-            {OdbcTypes::formOf(m_fields[i].type, m_engine.looseTypes), m_fields[i].definedSize});
+        m_columns.push_back(columnOf(m_fields[i], m_engine.looseTypes));
     }
     if (m_engine.bendsDates && std::any_of(m_fields.begin(), m_fields.end(), isDay))
-        askForDatesAsText(text);
+        askForDatesAsText();
 }
 
 OdbcQuery::~OdbcQuery() = default;
@@ -59,7 +68,7 @@ int OdbcQuery::parameters() const
 
 // The server's own texts hold what the driver can't, and what it would silently make another date of. The
 // order of the rows stays, because nothing around the statement asks for another.
-void OdbcQuery::askForDatesAsText(const QString &sql)
+void OdbcQuery::askForDatesAsText()
 {
     QStringList names;
     QStringList values;
@@ -67,9 +76,10 @@ void OdbcQuery::askForDatesAsText(const QString &sql)
         names += u"c%1"_s.arg(names.size());
         values += isDay(field) ? names.last() + "::text"_L1 : names.last();
     }
+    m_text = "SELECT "_L1 + values.join(", "_L1) + " FROM (\n"_L1 + m_text + "\n) AS kova("_L1 +
+             names.join(", "_L1) + u')';
     m_statement = std::make_unique<OdbcHandle>(m_connection);
-    m_statement->prepare("SELECT "_L1 + values.join(", "_L1) + " FROM (\n"_L1 + sql + "\n) AS kova("_L1 +
-                         names.join(", "_L1) + u')');
+    m_statement->prepare(m_text);
 }
 
 void OdbcQuery::read(RowStore &rows, const std::function<bool()> &goOn, int timeout)
@@ -82,6 +92,8 @@ void OdbcQuery::read(RowStore &rows, const std::function<bool()> &goOn, int time
     }
     if (!done) {
         rows.clear();
+        // SQLite's driver would go on where it was.
+        m_statement->prepare(m_text);
         OdbcValueReader reader(*m_statement, m_columns);
         readAll(reader, rows, watch);
     }

@@ -32,11 +32,12 @@ public:
     void read(RowStore &rows, const std::function<bool()> &goOn, int timeout);
 
 private:
-    void askForDatesAsText(const QString &sql);
+    void askForDatesAsText();
     bool readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch);
 
     std::shared_ptr<OdbcConnection> m_connection;
     const OdbcEngine &m_engine;
+    QString m_text; // as it is prepared
     std::unique_ptr<OdbcHandle> m_statement;
     std::vector<FieldInfo> m_fields;
     std::vector<OdbcTypes::Declared> m_types;
