@@ -54,17 +54,11 @@ TEST(OdbcConnecting, TakesOnlySecondsForATimeLimit)
 
 using OnServer = AdoTest::OnOdbc;
 
-constexpr AdoTest::OdbcEngineCase servers[] = {
-    {"PostgreSQL", "KOVA_TEST_POSTGRESQL", "", "", ""},
-    {"MariaDB", "KOVA_TEST_MARIADB", "", "", ""},
-};
-
 class OdbcServer : public OnServer
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Servers, OdbcServer, testing::ValuesIn(servers),
-                         [](const auto &engine) { return std::string(engine.param.name); });
+KOVA_ON_ODBC_SERVERS(OdbcServer);
 
 TEST_P(OdbcServer, TellsNoPasswordWhenItRefusesOne)
 {
@@ -139,7 +133,7 @@ class OnPostgreSql : public OnServer
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Servers, OnPostgreSql, testing::Values(servers[0]),
+INSTANTIATE_TEST_SUITE_P(Servers, OnPostgreSql, testing::Values(AdoTest::odbcEngines[1]),
                          [](const auto &engine) { return std::string(engine.param.name); });
 
 TEST_P(OnPostgreSql, ShowsDatesThatTheDriverCannotHoldAsTheServerWritesThem)
@@ -213,7 +207,7 @@ class OnMariaDb : public OnServer
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Servers, OnMariaDb, testing::Values(servers[1]),
+INSTANTIATE_TEST_SUITE_P(Servers, OnMariaDb, testing::Values(AdoTest::odbcEngines[2]),
                          [](const auto &engine) { return std::string(engine.param.name); });
 
 TEST_P(OnMariaDb, ChangesNothingWhereBackslashesEndNoText)

@@ -102,11 +102,7 @@ class OdbcServerTypes : public AdoTest::OnOdbc
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Servers, OdbcServerTypes,
-                         testing::Values(AdoTest::OdbcEngineCase{"PostgreSQL", "KOVA_TEST_POSTGRESQL", "", "",
-                                                                 ""},
-                                         AdoTest::OdbcEngineCase{"MariaDB", "KOVA_TEST_MARIADB", "", "", ""}),
-                         [](const auto &engine) { return std::string(engine.param.name); });
+KOVA_ON_ODBC_SERVERS(OdbcServerTypes);
 
 TEST_P(OdbcServerTypes, ComeThroughTheDriver)
 {

@@ -45,6 +45,9 @@ constexpr std::pair<QStringView, QStringView> synonyms[] = {
     {u"Servername", u"Server"},
 };
 
+// Without one, a server that takes a connection but never answers would hold the user's program up.
+constexpr int adoConnectTimeout = 15;
+
 struct Default
 {
     QStringView keyword;
@@ -66,7 +69,8 @@ constexpr Default postgreSqlDefaults[] = {
 // Without it the driver keeps a whole result in memory.
 constexpr Default sqliteDefaults[] = {{u"StepAPI", {}, u"1"}};
 
-int seconds(const ConnectionString &connection, std::initializer_list<QLatin1StringView> keywords)
+int seconds(const ConnectionString &connection, std::initializer_list<QLatin1StringView> keywords,
+            int otherwise)
 {
     for (const QLatin1StringView keyword : keywords) {
         if (!connection.contains(keyword))
@@ -78,7 +82,7 @@ int seconds(const ConnectionString &connection, std::initializer_list<QLatin1Str
         // Half a second must not become none, which means for ever.
         return static_cast<int>(given + 0.999);
     }
-    return 0;
+    return otherwise;
 }
 
 // Drivers know no other quotes than braces, and some do not know those, so they are used only where needed.
@@ -103,8 +107,9 @@ void checkInstalled(const QString &driver)
 } // namespace
 
 OdbcLogin::OdbcLogin(const ConnectionString &connection)
-    : m_connectTimeout(seconds(connection, {"Connect Timeout"_L1, "Connection Timeout"_L1})),
-      m_commandTimeout(seconds(connection, {"Command Timeout"_L1, "General Timeout"_L1}))
+    : m_connectTimeout(
+          seconds(connection, {"Connect Timeout"_L1, "Connection Timeout"_L1}, adoConnectTimeout)),
+      m_commandTimeout(seconds(connection, {"Command Timeout"_L1, "General Timeout"_L1}, 0))
 {
     take(connection);
     // A connection string within one, which is how MSDASQL is given what only the driver knows.
@@ -115,6 +120,9 @@ OdbcLogin::OdbcLogin(const ConnectionString &connection)
         put(contains(u"Driver") ? u"Server"_s : u"DSN"_s, source);
     if (contains(u"Driver"))
         checkInstalled(value(u"Driver"));
+    // Its driver overlooks ODBC's own way to say this, and would wait for ever.
+    if (m_connectTimeout > 0 && likelyEngine() == OdbcEngine::Kind::MariaDb)
+        put(u"CONN_TIMEOUT"_s, QString::number(m_connectTimeout));
 }
 
 void OdbcLogin::take(const ConnectionString &connection)

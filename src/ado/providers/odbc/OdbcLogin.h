@@ -20,8 +20,11 @@ public:
 
     // The text for the driver manager. It holds the password.
     QString text() const;
-    QStringList secrets() const;                            // as they could stand in a driver's message
-    int connectTimeout() const { return m_connectTimeout; } // seconds, 0 for the driver's own
+    QStringList secrets() const; // as they could stand in a driver's message
+    int connectTimeout() const
+    {
+        return m_connectTimeout;
+    } // seconds, ADO's 15 unless given; 0 for the driver's own
     int commandTimeout() const { return m_commandTimeout; } // seconds, 0 for none
 
     // What stands behind the driver that the text names, as far as can be told before connecting.
