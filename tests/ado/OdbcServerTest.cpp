@@ -1,9 +1,12 @@
 #include "OdbcEngines.h"
+#include "SilentServer.h"
 #include "TestDatabase.h"
 #include "Throwing.h"
 
 #include "ado/ConnectionString.h"
 #include "ado/OdbcCatalogue.h"
+
+#include <QtCore/QElapsedTimer>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace ADODB;
@@ -79,6 +82,22 @@ TEST_P(OdbcServer, TellsNoPasswordThatStandsInAStatement)
     const Error error = errorOf([&] { open(u"SELECT * FROM \"%1\""_s.arg(password)); });
     EXPECT_FALSE(error.Description().contains(password)) << error.what();
     EXPECT_TRUE(error.Description().contains(u"***")) << error.what();
+}
+
+TEST_P(OdbcServer, WaitsForAConnectionAsLongAsItIsTold)
+{
+    const AdoTest::SilentServer silent;
+    ASSERT_GT(silent.port(), 0);
+    ADODB::ConnectionString text(connectionString());
+    text.set(u"Port"_s, QString::number(silent.port()));
+    text.set(u"Connect Timeout"_s, u"2"_s);
+    QElapsedTimer timer;
+    timer.start();
+    Connection connection;
+    const Error error = errorOf([&] { connection.Open(text.text()); });
+    EXPECT_TRUE(error.Description().startsWith(u"无法连接数据库服务器")) << error.what();
+    EXPECT_LT(timer.elapsed(), 10'000);
+    EXPECT_EQ(connection.State(), adStateClosed);
 }
 
 TEST_P(OdbcServer, UnderstandsAdosKeywords)
