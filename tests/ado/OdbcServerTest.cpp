@@ -1,5 +1,4 @@
 #include "OdbcEngines.h"
-#include "SilentServer.h"
 #include "TestDatabase.h"
 #include "Throwing.h"
 
@@ -7,6 +6,10 @@
 #include "ado/OdbcCatalogue.h"
 
 #include <QtCore/QElapsedTimer>
+
+#ifdef Q_OS_UNIX
+#include "SilentServer.h"
+#endif
 
 using namespace Qt::Literals::StringLiterals;
 using namespace ADODB;
@@ -84,6 +87,7 @@ TEST_P(OdbcServer, TellsNoPasswordThatStandsInAStatement)
     EXPECT_TRUE(error.Description().contains(u"***")) << error.what();
 }
 
+#ifdef Q_OS_UNIX
 TEST_P(OdbcServer, WaitsForAConnectionAsLongAsItIsTold)
 {
     const AdoTest::SilentServer silent;
@@ -99,6 +103,7 @@ TEST_P(OdbcServer, WaitsForAConnectionAsLongAsItIsTold)
     EXPECT_LT(timer.elapsed(), 10'000);
     EXPECT_EQ(connection.State(), adStateClosed);
 }
+#endif
 
 TEST_P(OdbcServer, UnderstandsAdosKeywords)
 {
