@@ -22,9 +22,10 @@ AccessSession::AccessSession(const QString &path)
     AccessQueries::install(*this, *file);
 }
 
-std::unique_ptr<Statement> AccessSession::prepare(const QString &sql, Access access)
+std::unique_ptr<Statement> AccessSession::prepare(const QString &sql, Access access,
+                                                  const std::function<bool()> &goOn)
 {
-    return SqliteSession::prepare(AccessDialect::toSqlite(sql), access);
+    return SqliteSession::prepare(AccessDialect::toSqlite(sql), access, goOn);
 }
 
 } // namespace ADODB

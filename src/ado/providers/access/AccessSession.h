@@ -12,7 +12,8 @@ public:
     explicit AccessSession(const QString &path);
 
     // Understands, beyond SQLite's SQL, what AccessDialect translates.
-    std::unique_ptr<Statement> prepare(const QString &sql, Access access) override;
+    std::unique_ptr<Statement> prepare(const QString &sql, Access access,
+                                       const std::function<bool()> &goOn) override;
 };
 
 } // namespace ADODB

@@ -37,6 +37,7 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         // them could then hold another one.
         engine.beginReading = u"BEGIN READ ONLY; SET LOCAL standard_conforming_strings = on"_s;
         engine.endReading = u"ROLLBACK"_s;
+        engine.explain = u"EXPLAIN "_s;
         engine.lockRow = u" FOR UPDATE"_s;
         engine.returning = true;
         engine.asksAgain = engine.bendsDates =

@@ -21,6 +21,9 @@ struct OdbcEngine
     // itself keeps functions in a query from that (SQL Server, Oracle) or knows no such thing.
     QString beginReading;
     QString endReading;
+    // Before a query: the statement that takes what the query needs and runs nothing. Empty where a query can
+    // be stopped while it is prepared.
+    QString explain;
     QString lockRow; // behind a SELECT: keeps the row from others until the transaction ends
     // INSERT … RETURNING gives the columns of the new row.
     bool returning = false;

@@ -39,6 +39,9 @@ constexpr QStringView adoOnly[] = {
     u"Extended Properties",
 };
 
+// Of MariaDB's driver, with a number whose bits are options.
+constexpr QStringView optionWords[] = {u"Option", u"Options"};
+
 // ADO's names for what ODBC calls otherwise. A data source is a server where a driver is named; see take().
 constexpr std::pair<QStringView, QStringView> synonyms[] = {
     {u"User ID", u"UID"},       {u"User", u"UID"}, {u"Password", u"PWD"}, {u"Initial Catalog", u"Database"},
@@ -120,9 +123,23 @@ OdbcLogin::OdbcLogin(const ConnectionString &connection)
         put(contains(u"Driver") ? u"Server"_s : u"DSN"_s, source);
     if (contains(u"Driver"))
         checkInstalled(value(u"Driver"));
+    if (likelyEngine() == OdbcEngine::Kind::MariaDb)
+        adaptToMariaDb();
+}
+
+void OdbcLogin::adaptToMariaDb()
+{
     // Its driver overlooks ODBC's own way to say this, and would wait for ever.
-    if (m_connectTimeout > 0 && likelyEngine() == OdbcEngine::Kind::MariaDb)
+    if (m_connectTimeout > 0)
         put(u"CONN_TIMEOUT"_s, QString::number(m_connectTimeout));
+    // Nobody runs several statements in one text here, and the driver stays locked when one of them fails.
+    constexpr quint32 severalStatements = 1u << 26;
+    for (auto &[keyword, value] : m_parts) {
+        bool ok = false;
+        const quint32 options = value.toUInt(&ok);
+        if (ok && isOneOf(keyword, optionWords))
+            value = QString::number(options & ~severalStatements);
+    }
 }
 
 void OdbcLogin::take(const ConnectionString &connection)

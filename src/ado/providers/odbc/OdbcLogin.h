@@ -39,6 +39,7 @@ private:
     bool contains(QStringView keyword) const;
     void put(const QString &keyword, const QString &value);
     void take(const ConnectionString &connection);
+    void adaptToMariaDb();
 
     std::vector<std::pair<QString, QString>> m_parts;
     int m_connectTimeout = 0;

@@ -33,21 +33,15 @@ OdbcColumn columnOf(const FieldInfo &field, bool loose)
     return {form, isSized ? field.definedSize : longestAsText};
 }
 
-// A comment behind the semicolon is another statement to some drivers.
-QString withoutSemicolon(const SqlScanner &statement)
-{
-    const qsizetype last = statement.count() - 1;
-    return statement.isSymbol(last, u';') ? statement.sql().left(statement.at(last).start) : statement.sql();
-}
-
 } // namespace
 
 OdbcQuery::OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
-                     const QString &sql)
+                     const QString &sql, const OdbcPatience &patience)
     : m_connection(connection), m_engine(engine), m_statement(std::make_unique<OdbcHandle>(connection))
 {
-    m_text = withoutSemicolon(SqlScanner(sql, m_engine.dialect));
-    m_statement->prepare(m_text);
+    // A comment behind the semicolon is another statement to some drivers.
+    m_text = SqlScanner(sql, m_engine.dialect).withoutSemicolon();
+    prepare(patience);
     m_fields = describeColumns(*m_statement);
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
         m_types.push_back(declaredType(*m_statement, static_cast<int>(i)));
@@ -58,6 +52,17 @@ OdbcQuery::OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const Od
 }
 
 OdbcQuery::~OdbcQuery() = default;
+
+// Also asks for the columns: there are drivers that prepare only when they have to.
+void OdbcQuery::prepare(const OdbcPatience &patience)
+{
+    m_statement->check(OdbcWatch(*m_statement, patience).run([this] {
+        SQLHSTMT const statement = m_statement->get();
+        const SQLRETURN code = SQLPrepareW(statement, wide(m_text), static_cast<SQLINTEGER>(m_text.size()));
+        SQLSMALLINT columns = 0;
+        return succeeded(code) ? SQLNumResultCols(statement, &columns) : code;
+    }));
+}
 
 int OdbcQuery::parameters() const
 {
@@ -82,9 +87,9 @@ void OdbcQuery::askForDatesAsText()
     m_statement->prepare(m_text);
 }
 
-void OdbcQuery::read(RowStore &rows, const std::function<bool()> &goOn, int timeout)
+void OdbcQuery::read(RowStore &rows, const OdbcPatience &patience)
 {
-    const OdbcWatch watch(*m_statement, goOn, timeout);
+    const OdbcWatch watch(*m_statement, patience);
     bool done = false;
     if (m_engine.asksAgain || OdbcBlockReader::haveRoom(m_columns)) {
         OdbcBlockReader reader(*m_statement, m_columns, m_engine.asksAgain);
