@@ -1,6 +1,6 @@
 // What a recordset costs over ODBC alone: reads a statement's result with Recordset::Open and with a bare
 // loop that fetches blocks of bound texts and keeps none, in turn, each in a process of its own so that the
-// memory peaks are its own. Needs a server:
+// memory is its own: at most, and once the result has been read. Needs a server:
 //
 //     bench_odbc 'Driver={PostgreSQL Unicode};Server=…;UID=…;PWD=…' 'SELECT * FROM big'
 //
@@ -12,6 +12,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QFile>
 #include <QtCore/QProcess>
 
 #include <sql.h>
@@ -36,18 +37,33 @@ constexpr const char *variable = "KOVA_BENCH_ODBC";
     std::exit(1);
 }
 
-qint64 recordset(const QString &connectionString, const QString &sql)
+struct Measured
+{
+    qint64 rows;
+    double megabytesKept;
+};
+
+double megabytesInUse()
+{
+    QFile file(u"/proc/self/statm"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    constexpr double pagesPerMegabyte = 256;
+    return file.readAll().split(' ').value(1).toDouble() / pagesPerMegabyte;
+}
+
+Measured recordset(const QString &connectionString, const QString &sql)
 {
     const auto connection = std::make_shared<ADODB::Connection>();
     connection->Open(connectionString);
     ADODB::Recordset recordset;
     recordset.SetProgress([](qint64) { return true; });
     recordset.Open(sql, connection, ADODB::adOpenKeyset, ADODB::adLockReadOnly, ADODB::adCmdText);
-    return recordset.RecordCount();
+    return {recordset.RecordCount(), megabytesInUse()};
 }
 
 // With the one setting that PostgreSQL's driver needs in order not to keep the whole result.
-qint64 bareLoop(const QString &connectionString, const QString &sql)
+Measured bareLoop(const QString &connectionString, const QString &sql)
 {
     constexpr std::size_t rows = 1000;
     constexpr std::size_t width = 512;
@@ -80,24 +96,26 @@ qint64 bareLoop(const QString &connectionString, const QString &sql)
     while (SQL_SUCCEEDED(SQLFetch(statement)))
         count += static_cast<qint64>(fetched);
     SQLFreeHandle(SQL_HANDLE_STMT, statement);
+    const double kept = megabytesInUse();
     SQLDisconnect(connection);
     SQLFreeHandle(SQL_HANDLE_DBC, connection);
     SQLFreeHandle(SQL_HANDLE_ENV, environment);
-    return count;
+    return {count, kept};
 }
 
-// In a process of its own: "rows seconds peak".
+// In a process of its own: "rows seconds peak kept".
 void work(const QString &mode, const QString &sql)
 {
     const QString connectionString = qEnvironmentVariable(variable);
     QElapsedTimer timer;
     timer.start();
-    const qint64 rows =
+    const Measured measured =
         mode == "bare"_L1 ? bareLoop(connectionString, sql) : recordset(connectionString, sql);
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
-    std::printf("%lld %.3f %.1f\n", static_cast<long long>(rows),
-                static_cast<double>(timer.nsecsElapsed()) / 1e9, static_cast<double>(usage.ru_maxrss) / 1024);
+    std::printf("%lld %.3f %.1f %.1f\n", static_cast<long long>(measured.rows),
+                static_cast<double>(timer.nsecsElapsed()) / 1e9, static_cast<double>(usage.ru_maxrss) / 1024,
+                measured.megabytesKept);
 }
 
 QStringList measure(const QString &mode, const QString &sql)
@@ -107,7 +125,7 @@ QStringList measure(const QString &mode, const QString &sql)
     process.start(QCoreApplication::applicationFilePath(), {u"--work"_s, mode, sql});
     process.waitForFinished(-1);
     const QStringList answer = QString::fromUtf8(process.readAll()).simplified().split(u' ');
-    if (process.exitCode() != 0 || answer.size() != 3)
+    if (process.exitCode() != 0 || answer.size() != 4)
         stop("a measurement failed");
     return answer;
 }
@@ -134,9 +152,9 @@ int main(int argc, char **argv)
         for (const int kind : {0, 1}) {
             const QString mode = kind == 0 ? u"bare"_s : u"recordset"_s;
             const QStringList answer = measure(mode, arguments.at(2));
-            std::printf("%-10s %s rows %8s s %8s MB at most\n", qUtf8Printable(mode),
+            std::printf("%-10s %s rows %8s s %8s MB at most %8s MB then\n", qUtf8Printable(mode),
                         qUtf8Printable(answer.at(0)), qUtf8Printable(answer.at(1)),
-                        qUtf8Printable(answer.at(2)));
+                        qUtf8Printable(answer.at(2)), qUtf8Printable(answer.at(3)));
             best[kind] = std::min(best[kind], answer.at(1).toDouble());
         }
     }

@@ -70,7 +70,7 @@ QString Connection::EngineName() const
 
 std::vector<FieldInfo> Connection::Describe(const QString &sql) const
 {
-    return session()->prepare(sql, Access::ReadOnly)->fields();
+    return session()->prepare(sql, Access::ReadOnly, [] { return true; })->fields();
 }
 
 const std::shared_ptr<Session> &Connection::session() const

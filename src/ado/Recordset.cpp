@@ -10,10 +10,11 @@ namespace ADODB {
 
 Snapshot Recordset::Private::read(Session &session, const QString &statement)
 {
-    const auto query =
-        session.prepare(statement, lockType == adLockReadOnly ? Access::ReadOnly : Access::ReadWrite);
-    RowStore store(query->columns(), memoryLimit);
     const auto report = progress;
+    const auto query =
+        session.prepare(statement, lockType == adLockReadOnly ? Access::ReadOnly : Access::ReadWrite,
+                        [&] { return !report || report(0); });
+    RowStore store(query->columns(), memoryLimit);
     query->fetch(store, [&] { return !report || report(store.rows()); });
     editor.emplace(query->takeWriter(), query->whyReadOnly());
     return Snapshot(query->fields(), std::move(store));

@@ -159,6 +159,11 @@ QStringView SqlScanner::text(qsizetype index) const
     return QStringView(m_sql).sliced(at(index).start, at(index).length);
 }
 
+QString SqlScanner::withoutSemicolon() const
+{
+    return isSymbol(count() - 1, u';') ? m_sql.left(at(count() - 1).start) : m_sql;
+}
+
 bool SqlScanner::isWord(qsizetype index, QStringView word) const
 {
     return index >= 0 && index < count() && at(index).kind == SqlToken::Kind::Word &&

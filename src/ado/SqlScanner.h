@@ -31,6 +31,8 @@ public:
     explicit SqlScanner(QString sql, SqlDialect dialect = SqlDialect::Standard);
 
     const QString &sql() const { return m_sql; }
+    // Without the semicolon that ends it, and what is behind that.
+    QString withoutSemicolon() const;
     SqlDialect dialect() const { return m_dialect; }
     qsizetype count() const { return static_cast<qsizetype>(m_tokens.size()); }
     const SqlToken &at(qsizetype index) const { return m_tokens[static_cast<std::size_t>(index)]; }

@@ -4,6 +4,15 @@
 
 #include "ado/ConnectionString.h"
 #include "ado/OdbcCatalogue.h"
+#include "servers/OdbcSession.h"
+
+#include <QtCore/QElapsedTimer>
+
+#include <optional>
+
+#ifdef Q_OS_UNIX
+#include "SilentServer.h"
+#endif
 
 using namespace Qt::Literals::StringLiterals;
 using namespace ADODB;
@@ -54,17 +63,11 @@ TEST(OdbcConnecting, TakesOnlySecondsForATimeLimit)
 
 using OnServer = AdoTest::OnOdbc;
 
-constexpr AdoTest::OdbcEngineCase servers[] = {
-    {"PostgreSQL", "KOVA_TEST_POSTGRESQL", "", "", ""},
-    {"MariaDB", "KOVA_TEST_MARIADB", "", "", ""},
-};
-
 class OdbcServer : public OnServer
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Servers, OdbcServer, testing::ValuesIn(servers),
-                         [](const auto &engine) { return std::string(engine.param.name); });
+KOVA_ON_ODBC_SERVERS(OdbcServer);
 
 TEST_P(OdbcServer, TellsNoPasswordWhenItRefusesOne)
 {
@@ -86,6 +89,24 @@ TEST_P(OdbcServer, TellsNoPasswordThatStandsInAStatement)
     EXPECT_FALSE(error.Description().contains(password)) << error.what();
     EXPECT_TRUE(error.Description().contains(u"***")) << error.what();
 }
+
+#ifdef Q_OS_UNIX
+TEST_P(OdbcServer, WaitsForAConnectionAsLongAsItIsTold)
+{
+    const AdoTest::SilentServer silent;
+    ASSERT_GT(silent.port(), 0);
+    ADODB::ConnectionString text(connectionString());
+    text.set(u"Port"_s, QString::number(silent.port()));
+    text.set(u"Connect Timeout"_s, u"2"_s);
+    QElapsedTimer timer;
+    timer.start();
+    Connection connection;
+    const Error error = errorOf([&] { connection.Open(text.text()); });
+    EXPECT_TRUE(error.Description().startsWith(u"无法连接数据库服务器")) << error.what();
+    EXPECT_LT(timer.elapsed(), 10'000);
+    EXPECT_EQ(connection.State(), adStateClosed);
+}
+#endif
 
 TEST_P(OdbcServer, UnderstandsAdosKeywords)
 {
@@ -135,11 +156,86 @@ TEST_P(OdbcServer, LetsNoFunctionInAQueryChangeData)
     execute(u"DROP FUNCTION kova_change"_s);
 }
 
+// A table or a row that another session holds.
+class OdbcLocks : public OnServer
+{
+protected:
+    void SetUp() override
+    {
+        OnServer::SetUp();
+        if (IsSkipped() || HasFatalFailure())
+            return;
+        execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY, a VARCHAR(20))"_s);
+        execute(u"INSERT INTO kova_a VALUES (1, 'x'), (2, 'y')"_s);
+        other.emplace(connectionString());
+    }
+    void TearDown() override
+    {
+        other.reset();
+        OnServer::TearDown();
+    }
+    // So that nobody can read it either.
+    void holdTable()
+    {
+        other->run(is("MariaDB") ? QStringList{u"LOCK TABLES kova_a WRITE"_s}
+                                 : QStringList{u"BEGIN"_s, u"LOCK TABLE kova_a"_s});
+    }
+    void holdRow(int id)
+    {
+        other->run({u"BEGIN"_s, u"UPDATE kova_a SET a = 'held' WHERE id = %1"_s.arg(id)});
+    }
+
+    std::optional<KovaTest::OdbcSession> other;
+};
+
+KOVA_ON_ODBC_SERVERS(OdbcLocks);
+
+TEST_P(OdbcLocks, KeepNobodyWaitingBeyondTheTimeLimit)
+{
+    const auto connection = std::make_shared<Connection>();
+    connection->Open(connectionString() + u";Command Timeout=1"_s);
+    holdTable();
+    const Error error = errorOf([&] { open(u"SELECT * FROM kova_a; -- all"_s, connection); });
+    EXPECT_EQ(error.SQLState(), u"HYT00"_s) << error.what();
+    other.reset();
+    EXPECT_EQ(open(u"SELECT * FROM kova_a"_s, connection)->RecordCount(), 2);
+}
+
+TEST_P(OdbcLocks, KeepNobodyWaitingWhoCancels)
+{
+    const auto connection = connect();
+    holdTable();
+    Recordset recordset;
+    int reports = 0;
+    recordset.SetProgress([&](qint64) { return ++reports < 5; });
+    EXPECT_ADO_ERROR(dbErrCancelled, recordset.Open(u"SELECT * FROM kova_a"_s, connection));
+    other.reset();
+    recordset.SetProgress({});
+    recordset.Open(u"SELECT * FROM kova_a"_s, connection);
+    EXPECT_EQ(recordset.RecordCount(), 2);
+}
+
+TEST_P(OdbcLocks, EndAChangeOfARowWithoutItsBeingMade)
+{
+    const auto connection = std::make_shared<Connection>();
+    connection->Open(connectionString() + u";Command Timeout=1"_s);
+    const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s, connection);
+    holdRow(1);
+    EXPECT_EQ(errorOf([&] { recordset->Delete(); }).SQLState(), u"HYT00"_s);
+    recordset->Fields().Item(1).PutValue(u"mine"_s);
+    EXPECT_EQ(errorOf([&] { recordset->Update(); }).SQLState(), u"HYT00"_s);
+    recordset->CancelUpdate();
+    other->run(u"ROLLBACK"_s);
+    EXPECT_EQ(ask(u"SELECT a FROM kova_a WHERE id = 1"_s), u"x"_s);
+    recordset->Delete();
+    EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s);
+}
+
 class OnPostgreSql : public OnServer
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Servers, OnPostgreSql, testing::Values(servers[0]),
+INSTANTIATE_TEST_SUITE_P(Servers, OnPostgreSql, testing::Values(AdoTest::odbcEngines[1]),
                          [](const auto &engine) { return std::string(engine.param.name); });
 
 TEST_P(OnPostgreSql, ShowsDatesThatTheDriverCannotHoldAsTheServerWritesThem)
@@ -213,7 +309,7 @@ class OnMariaDb : public OnServer
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Servers, OnMariaDb, testing::Values(servers[1]),
+INSTANTIATE_TEST_SUITE_P(Servers, OnMariaDb, testing::Values(AdoTest::odbcEngines[2]),
                          [](const auto &engine) { return std::string(engine.param.name); });
 
 TEST_P(OnMariaDb, ChangesNothingWhereBackslashesEndNoText)
@@ -230,6 +326,7 @@ TEST_P(OnMariaDb, ChangesNothingWhereBackslashesEndNoText)
         EXPECT_ANY_THROW(open(QString::fromUtf8(sql), connection)) << sql;
         EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s) << sql;
     }
+    EXPECT_EQ(open(u"SELECT 1"_s, connection)->CellText(1, 0), u"1"_s) << "the driver still works";
 }
 
 } // namespace

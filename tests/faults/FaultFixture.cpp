@@ -30,9 +30,10 @@ QStringList visibleTexts(const QWidget &window)
 void FaultFixture::SetUp()
 {
     if (connection().isEmpty())
-        GTEST_SKIP() << "KOVA_TEST_POSTGRESQL is not set";
+        GTEST_SKIP() << engine.variable << " is not set";
     run(u"DROP TABLE IF EXISTS faults"_s);
-    run(u"CREATE TABLE faults AS SELECT g AS id, 'name ' || g AS name FROM generate_series(1, 1000) g"_s);
+    run(u"CREATE TABLE faults AS SELECT g AS id, concat('name ', g) AS name FROM "_s +
+        engine.numbersTo(1000));
     hands.emplace(connection(), KOVAVSFDataGrid::dbSQLServer);
     ASSERT_TRUE(load(harmless)); // what libraries open once and for all is open now
     handlesBefore = openHandles();
@@ -43,7 +44,7 @@ void FaultFixture::TearDown()
 {
     if (IsSkipped())
         return;
-    controlServer("start", "postgresql");
+    startServer();
     for (const ShownMessage &message : hands->messages.shown())
         EXPECT_FALSE((message.text + message.title + message.cause).contains(markerPassword()))
             << "in a message";
@@ -62,14 +63,20 @@ bool FaultFixture::load(const QString &statement)
     return hands->load(statement, {});
 }
 
-void FaultFixture::run(const QString &statement)
+void FaultFixture::run(const QString &statement) const
 {
     OdbcSession(connection()).run(statement);
 }
 
-QString FaultFixture::ask(const QString &statement)
+QString FaultFixture::ask(const QString &statement) const
 {
     return OdbcSession(connection()).ask(statement);
+}
+
+void FaultFixture::endOthers() const
+{
+    OdbcSession session(connection());
+    engine.endOthers(session);
 }
 
 QString FaultFixture::openError()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FaultEngine.h"
+
 #include "../control/commands/Hands.h"
 
 #include "servers/OdbcSession.h"
@@ -11,11 +13,11 @@
 
 namespace KovaTest {
 
-// A user before a control on a PostgreSQL server that is this test's to break.
+// A user before a control on a server that is this test's to break.
 //
 // The table faults has the fields id and name and a thousand records. After each test the server runs, the
 // user has seen the password nowhere, what he does next works, and nothing is left open.
-class FaultFixture : public testing::Test
+class FaultFixture : public testing::TestWithParam<FaultEngine>
 {
 protected:
     void SetUp() override;
@@ -23,8 +25,8 @@ protected:
 
     bool load(const QString &statement = QStringLiteral("SELECT * FROM faults"));
     // Past the code under test, over a connection of its own.
-    static void run(const QString &statement);
-    static QString ask(const QString &statement);
+    void run(const QString &statement) const;
+    QString ask(const QString &statement) const;
     // The one message that the open routine told, without its beginning; the load tells a second one behind
     // it. Forgets both.
     QString openError();
@@ -32,12 +34,16 @@ protected:
     // What the user sees is still the load of all records.
     void expectAsLoaded() const;
 
-    static QString connection() { return serverConnection("KOVA_TEST_POSTGRESQL"); }
+    void stopServer() const { controlServer("stop", engine.server); }
+    void startServer() const { controlServer("start", engine.server); }
+    void endOthers() const;
+    QString connection() const { return engine.connection(); }
 
+    const FaultEngine &engine = GetParam();
     std::optional<Hands> hands;
 
 private:
-    const QString harmless = QStringLiteral("SELECT 1 AS one FROM generate_series(1, 3)");
+    const QString harmless = QStringLiteral("SELECT 1 AS one FROM ") + engine.numbersTo(3);
     int handlesBefore = -1;
 };
 

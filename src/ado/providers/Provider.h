@@ -66,8 +66,10 @@ public:
     // As its driver names it; see Connection::EngineName.
     virtual QString engineName() const { return {}; }
     // Refuses what is not one statement that returns rows and changes nothing, before running any of it. With
-    // ReadWrite the statement is prepared for writing back as far as it allows that.
-    virtual std::unique_ptr<Statement> prepare(const QString &sql, Access access) = 0;
+    // ReadWrite the statement is prepared for writing back as far as it allows that. Asks whether to go on as
+    // Statement::fetch() does, where it has to wait for a server.
+    virtual std::unique_ptr<Statement> prepare(const QString &sql, Access access,
+                                               const std::function<bool()> &goOn) = 0;
     // The statement that reads a whole table.
     virtual QString tableStatement(const QString &table) const = 0;
     // Ends the connection; writers that still hold the session throw from then on.

@@ -36,10 +36,11 @@ AccessSession::AccessSession(const QString &path, const QString &password)
     m_queriesLeftOut = AccessQueries::install(*this, *file);
 }
 
-std::unique_ptr<Statement> AccessSession::prepare(const QString &sql, Access access)
+std::unique_ptr<Statement> AccessSession::prepare(const QString &sql, Access access,
+                                                  const std::function<bool()> &goOn)
 {
     try {
-        return SqliteSession::prepare(AccessDialect::toSqlite(sql), access);
+        return SqliteSession::prepare(AccessDialect::toSqlite(sql), access, goOn);
     } catch (const Error &error) {
         if (error.is(dbErrNoTable))
             throwIfLeftOut(SqlScanner(sql), m_queriesLeftOut);

@@ -14,7 +14,8 @@ public:
     AccessSession(const QString &path, const QString &password);
 
     // Understands, beyond SQLite's SQL, what AccessDialect translates.
-    std::unique_ptr<Statement> prepare(const QString &sql, Access access) override;
+    std::unique_ptr<Statement> prepare(const QString &sql, Access access,
+                                       const std::function<bool()> &goOn) override;
 
 private:
     QStringList m_queriesLeftOut;

@@ -6,19 +6,16 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
 
-namespace {
-
-OdbcEngine::Kind kindOf(const QString &name)
+OdbcEngine::Kind OdbcEngine::kindNamed(const QString &name)
 {
-    using Kind = OdbcEngine::Kind;
     struct Known
     {
         QLatin1StringView part;
         Kind kind;
     };
     static constexpr Known known[] = {
-        {"PostgreSQL"_L1, Kind::PostgreSql}, {"MariaDB"_L1, Kind::MariaDb},      {"MySQL"_L1, Kind::MySql},
-        {"SQLite"_L1, Kind::Sqlite},         {"SQL Server"_L1, Kind::SqlServer}, {"Oracle"_L1, Kind::Oracle},
+        {"Postgres"_L1, Kind::PostgreSql}, {"MariaDB"_L1, Kind::MariaDb},      {"MySQL"_L1, Kind::MySql},
+        {"SQLite"_L1, Kind::Sqlite},       {"SQL Server"_L1, Kind::SqlServer}, {"Oracle"_L1, Kind::Oracle},
     };
     for (const Known &candidate : known) {
         if (name.contains(candidate.part, Qt::CaseInsensitive))
@@ -27,13 +24,11 @@ OdbcEngine::Kind kindOf(const QString &name)
     return Kind::Other;
 }
 
-} // namespace
-
 OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
 {
     OdbcEngine engine;
     engine.dbmsName = connection.info(SQL_DBMS_NAME);
-    engine.kind = kindOf(engine.dbmsName);
+    engine.kind = kindNamed(engine.dbmsName);
     engine.quote = connection.info(SQL_IDENTIFIER_QUOTE_CHAR).trimmed();
     switch (engine.kind) {
     case Kind::PostgreSql:
@@ -42,6 +37,7 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         // them could then hold another one.
         engine.beginReading = u"BEGIN READ ONLY; SET LOCAL standard_conforming_strings = on"_s;
         engine.endReading = u"ROLLBACK"_s;
+        engine.explain = u"EXPLAIN "_s;
         engine.lockRow = u" FOR UPDATE"_s;
         engine.returning = true;
         engine.asksAgain = engine.bendsDates =

@@ -21,6 +21,9 @@ struct OdbcEngine
     // itself keeps functions in a query from that (SQL Server, Oracle) or knows no such thing.
     QString beginReading;
     QString endReading;
+    // Before a query: the statement that takes what the query needs and runs nothing. Empty where a query can
+    // be stopped while it is prepared.
+    QString explain;
     QString lockRow; // behind a SELECT: keeps the row from others until the transaction ends
     // INSERT … RETURNING gives the columns of the new row.
     bool returning = false;
@@ -36,6 +39,8 @@ struct OdbcEngine
     bool bendsDates = false;
 
     static OdbcEngine of(const OdbcConnection &connection);
+    // By a name of the engine or of its driver.
+    static Kind kindNamed(const QString &name);
 
     // `name` in the engine's quotes.
     QString quoted(const QString &name) const;

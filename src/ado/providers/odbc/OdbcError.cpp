@@ -65,7 +65,7 @@ void refineSqlite(Diagnosis &diagnosis)
 bool isLoss(const Diagnosis &diagnosis)
 {
     return diagnosis.state.startsWith("08"_L1) || diagnosis.state.startsWith("57P0"_L1) ||
-           diagnosis.native == 2006 || diagnosis.native == 2013;
+           diagnosis.native == 1927 || diagnosis.native == 2006 || diagnosis.native == 2013;
 }
 
 bool startsWithAny(const QString &state, std::initializer_list<QLatin1StringView> starts)
@@ -106,7 +106,8 @@ void throwOdbcError(SQLSMALLINT handleType, SQLHANDLE handle, OdbcConnection &co
         fail(dbErrPermissionDenied, Texts::readOnlyQuery());
     if (startsWithAny(state, {"42501"_L1}))
         fail(dbErrPermissionDenied, Texts::permissionDenied());
-    if (startsWithAny(state, {"40"_L1, "55P03"_L1}))
+    constexpr SQLINTEGER mySqlLockWait = 1205; // under a general state
+    if (startsWithAny(state, {"40"_L1, "55P03"_L1}) || diagnosis.native == mySqlLockWait)
         fail(adErrResourceLocked, Texts::locked());
     if (startsWithAny(state, {"53100"_L1}))
         fail(dbErrFailed, Texts::diskFull());

@@ -39,13 +39,41 @@ constexpr QStringView adoOnly[] = {
     u"Extended Properties",
 };
 
+// Of MariaDB's driver, with a number whose bits are options.
+constexpr QStringView optionWords[] = {u"Option", u"Options"};
+
 // ADO's names for what ODBC calls otherwise. A data source is a server where a driver is named; see take().
 constexpr std::pair<QStringView, QStringView> synonyms[] = {
     {u"User ID", u"UID"},       {u"User", u"UID"}, {u"Password", u"PWD"}, {u"Initial Catalog", u"Database"},
     {u"Servername", u"Server"},
 };
 
-int seconds(const ConnectionString &connection, std::initializer_list<QLatin1StringView> keywords)
+// Without one, a server that takes a connection but never answers would hold the user's program up.
+constexpr int adoConnectTimeout = 15;
+
+struct Default
+{
+    QStringView keyword;
+    QStringView shortName; // by which the driver knows it too; empty if there is none
+    QStringView value;
+};
+
+// Without the first two the driver keeps a whole result in memory; without the last it gives other line ends
+// than the database holds. PostgreSQL's usual texts have no length, and VARCHAR may be as long as given here:
+// none of them is a long text, and none is cut.
+constexpr Default postgreSqlDefaults[] = {
+    {u"UseDeclareFetch", u"B6", u"1"},       {u"Fetch", u"A7", u"5000"},
+    {u"UseServerSidePrepare", u"C8", u"1"},  {u"BoolsAsChar", u"B9", u"0"},
+    {u"TextAsLongVarchar", u"B7", u"0"},     {u"MaxVarcharSize", u"B0", u"10485760"},
+    {u"UnknownsAsLongVarchar", u"B8", u"1"}, {u"ByteaAsLongVarBinary", u"C9", u"1"},
+    {u"LFConversion", u"C5", u"0"},
+};
+
+// Without it the driver keeps a whole result in memory.
+constexpr Default sqliteDefaults[] = {{u"StepAPI", {}, u"1"}};
+
+int seconds(const ConnectionString &connection, std::initializer_list<QLatin1StringView> keywords,
+            int otherwise)
 {
     for (const QLatin1StringView keyword : keywords) {
         if (!connection.contains(keyword))
@@ -57,7 +85,7 @@ int seconds(const ConnectionString &connection, std::initializer_list<QLatin1Str
         // Half a second must not become none, which means for ever.
         return static_cast<int>(given + 0.999);
     }
-    return 0;
+    return otherwise;
 }
 
 // Drivers know no other quotes than braces, and some do not know those, so they are used only where needed.
@@ -82,8 +110,9 @@ void checkInstalled(const QString &driver)
 } // namespace
 
 OdbcLogin::OdbcLogin(const ConnectionString &connection)
-    : m_connectTimeout(seconds(connection, {"Connect Timeout"_L1, "Connection Timeout"_L1})),
-      m_commandTimeout(seconds(connection, {"Command Timeout"_L1, "General Timeout"_L1}))
+    : m_connectTimeout(
+          seconds(connection, {"Connect Timeout"_L1, "Connection Timeout"_L1}, adoConnectTimeout)),
+      m_commandTimeout(seconds(connection, {"Command Timeout"_L1, "General Timeout"_L1}, 0))
 {
     take(connection);
     // A connection string within one, which is how MSDASQL is given what only the driver knows.
@@ -94,6 +123,23 @@ OdbcLogin::OdbcLogin(const ConnectionString &connection)
         put(contains(u"Driver") ? u"Server"_s : u"DSN"_s, source);
     if (contains(u"Driver"))
         checkInstalled(value(u"Driver"));
+    if (likelyEngine() == OdbcEngine::Kind::MariaDb)
+        adaptToMariaDb();
+}
+
+void OdbcLogin::adaptToMariaDb()
+{
+    // Its driver overlooks ODBC's own way to say this, and would wait for ever.
+    if (m_connectTimeout > 0)
+        put(u"CONN_TIMEOUT"_s, QString::number(m_connectTimeout));
+    // Nobody runs several statements in one text here, and the driver stays locked when one of them fails.
+    constexpr quint32 severalStatements = 1u << 26;
+    for (auto &[keyword, value] : m_parts) {
+        bool ok = false;
+        const quint32 options = value.toUInt(&ok);
+        if (ok && isOneOf(keyword, optionWords))
+            value = QString::number(options & ~severalStatements);
+    }
 }
 
 void OdbcLogin::take(const ConnectionString &connection)
@@ -145,40 +191,31 @@ QStringList OdbcLogin::secrets() const
     return secrets;
 }
 
-bool OdbcLogin::looksLikePostgreSql() const
+OdbcEngine::Kind OdbcLogin::likelyEngine() const
 {
     QString driver = value(u"Driver");
     for (const OdbcDataSource &source : odbcDataSources()) {
         if (driver.isEmpty() && sameWord(source.name, dataSource()))
             driver = source.driver;
     }
-    return driver.contains("postgres"_L1, Qt::CaseInsensitive) ||
-           driver.contains("psql"_L1, Qt::CaseInsensitive);
+    if (driver.contains("psql"_L1, Qt::CaseInsensitive))
+        return OdbcEngine::Kind::PostgreSql;
+    return OdbcEngine::kindNamed(driver);
 }
 
-bool OdbcLogin::addPostgreSqlDefaults()
+bool OdbcLogin::addDefaults(OdbcEngine::Kind engine)
 {
-    struct Default
-    {
-        QStringView keyword;
-        QStringView shortName; // by which the driver knows it too
-        QStringView value;
-    };
-    // Without the first two the driver keeps a whole result in memory; without the last it gives other line
-    // ends than the database holds. PostgreSQL's usual texts have no length, and VARCHAR may be as long as
-    // given here: none of them is a long text, and none is cut.
-    static constexpr Default defaults[] = {
-        {u"UseDeclareFetch", u"B6", u"1"},       {u"Fetch", u"A7", u"5000"},
-        {u"UseServerSidePrepare", u"C8", u"1"},  {u"BoolsAsChar", u"B9", u"0"},
-        {u"TextAsLongVarchar", u"B7", u"0"},     {u"MaxVarcharSize", u"B0", u"10485760"},
-        {u"UnknownsAsLongVarchar", u"B8", u"1"}, {u"ByteaAsLongVarBinary", u"C9", u"1"},
-        {u"LFConversion", u"C5", u"0"},
-    };
     const std::size_t before = m_parts.size();
-    for (const Default &standard : defaults) {
-        if (!contains(standard.shortName))
-            put(standard.keyword.toString(), standard.value.toString());
-    }
+    const auto add = [this](const auto &defaults) {
+        for (const Default &standard : defaults) {
+            if (standard.shortName.isEmpty() || !contains(standard.shortName))
+                put(standard.keyword.toString(), standard.value.toString());
+        }
+    };
+    if (engine == OdbcEngine::Kind::PostgreSql)
+        add(postgreSqlDefaults);
+    else if (engine == OdbcEngine::Kind::Sqlite)
+        add(sqliteDefaults);
     return m_parts.size() > before;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ado/providers/odbc/OdbcEngine.h"
+
 #include <QtCore/QStringList>
 
 #include <utility>
@@ -18,15 +20,18 @@ public:
 
     // The text for the driver manager. It holds the password.
     QString text() const;
-    QStringList secrets() const;                            // as they could stand in a driver's message
-    int connectTimeout() const { return m_connectTimeout; } // seconds, 0 for the driver's own
+    QStringList secrets() const; // as they could stand in a driver's message
+    int connectTimeout() const
+    {
+        return m_connectTimeout;
+    } // seconds, ADO's 15 unless given; 0 for the driver's own
     int commandTimeout() const { return m_commandTimeout; } // seconds, 0 for none
 
-    // Adds what PostgreSQL's driver needs in order to fetch a result in portions, to cut nothing and to call
+    // What stands behind the driver that the text names, as far as can be told before connecting.
+    OdbcEngine::Kind likelyEngine() const;
+    // Adds what the engine's driver needs in order to fetch a result in portions, to cut nothing and to call
     // a Boolean one; what the text says itself stays. False when it was all there already.
-    bool addPostgreSqlDefaults();
-    // Whether the text names PostgreSQL's driver, as far as can be told before connecting.
-    bool looksLikePostgreSql() const;
+    bool addDefaults(OdbcEngine::Kind engine);
     QString dataSource() const { return value(u"DSN"); }
 
 private:
@@ -34,6 +39,7 @@ private:
     bool contains(QStringView keyword) const;
     void put(const QString &keyword, const QString &value);
     void take(const ConnectionString &connection);
+    void adaptToMariaDb();
 
     std::vector<std::pair<QString, QString>> m_parts;
     int m_connectTimeout = 0;

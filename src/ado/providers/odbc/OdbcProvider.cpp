@@ -56,12 +56,11 @@ bool OdbcProvider::claims(const ConnectionString &connection) const
 std::shared_ptr<Session> OdbcProvider::open(const ConnectionString &connection) const
 {
     OdbcLogin login(connection);
-    if (login.looksLikePostgreSql())
-        login.addPostgreSqlDefaults();
+    login.addDefaults(login.likelyEngine());
     auto opened = connect(login);
     const OdbcEngine engine = OdbcEngine::of(*opened);
     // A driver can go by any name, so this one may be known only now.
-    if (engine.kind == OdbcEngine::Kind::PostgreSql && login.addPostgreSqlDefaults()) {
+    if (login.addDefaults(engine.kind)) {
         opened.reset();
         opened = connect(login);
     }

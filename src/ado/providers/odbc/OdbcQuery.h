@@ -3,7 +3,6 @@
 #include "ado/FieldInfo.h"
 #include "ado/providers/odbc/OdbcReader.h"
 
-#include <functional>
 #include <memory>
 
 namespace ADODB {
@@ -11,13 +10,15 @@ namespace ADODB {
 class OdbcConnection;
 class OdbcHandle;
 struct OdbcEngine;
+struct OdbcPatience;
 
 // A prepared statement that gives rows, read so that every value comes whole and as the server means it.
 class OdbcQuery
 {
 public:
-    OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
-              const QString &sql);
+    // `patience` is that for preparing.
+    OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine, const QString &sql,
+              const OdbcPatience &patience);
     ~OdbcQuery();
     Q_DISABLE_COPY_MOVE(OdbcQuery)
 
@@ -28,15 +29,17 @@ public:
     // For binding parameters.
     const OdbcHandle &handle() const { return *m_statement; }
 
-    // Runs it and appends all rows. `timeout` is in seconds, 0 for none; see OdbcWatch for the errors.
-    void read(RowStore &rows, const std::function<bool()> &goOn, int timeout);
+    // Runs it and appends all rows. See OdbcWatch for the errors.
+    void read(RowStore &rows, const OdbcPatience &patience);
 
 private:
-    void askForDatesAsText(const QString &sql);
+    void prepare(const OdbcPatience &patience);
+    void askForDatesAsText();
     bool readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch);
 
     std::shared_ptr<OdbcConnection> m_connection;
     const OdbcEngine &m_engine;
+    QString m_text; // as it is prepared
     std::unique_ptr<OdbcHandle> m_statement;
     std::vector<FieldInfo> m_fields;
     std::vector<OdbcTypes::Declared> m_types;

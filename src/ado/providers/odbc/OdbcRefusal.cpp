@@ -79,13 +79,25 @@ bool reads(const SqlScanner &statement, qsizetype first)
     return true;
 }
 
-} // namespace
-
-void refuseUnlessQuery(const SqlScanner &statement)
+// Behind the parentheses that it begins with.
+qsizetype firstWord(const SqlScanner &statement)
 {
     qsizetype first = 0;
     while (statement.isSymbol(first, u'('))
         ++first;
+    return first;
+}
+
+} // namespace
+
+bool isExplainable(const SqlScanner &statement)
+{
+    return isOneOf(statement, firstWord(statement), {u"SELECT", u"WITH", u"VALUES", u"TABLE"});
+}
+
+void refuseUnlessQuery(const SqlScanner &statement)
+{
+    const qsizetype first = firstWord(statement);
     if (statement.count() == 0 || statement.isSymbol(first, u';'))
         throw refusal(dbErrInCommand, Texts::emptyStatement());
     for (qsizetype i = 0; i + 1 < statement.count(); ++i) {

@@ -9,4 +9,8 @@ class SqlScanner;
 // pass but, of those an engine takes, none that changes data by itself; it can't see what a function does.
 void refuseUnlessQuery(const SqlScanner &statement);
 
+// Whether it is a query in the narrower sense, which can be explained, and not SHOW or EXPLAIN itself. For
+// what was not refused.
+bool isExplainable(const SqlScanner &statement);
+
 } // namespace ADODB

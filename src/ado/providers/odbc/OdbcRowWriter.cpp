@@ -8,6 +8,7 @@
 #include "ado/providers/odbc/OdbcQuery.h"
 #include "ado/providers/odbc/OdbcSession.h"
 #include "ado/providers/odbc/OdbcTransaction.h"
+#include "ado/providers/odbc/OdbcWatch.h"
 
 #include <QtCore/QStringList>
 
@@ -98,9 +99,18 @@ void OdbcRowWriter::bindChanges(OdbcParameters &parameters, const std::vector<Ch
     }
 }
 
+// Nobody can stop a change, so it has a limit of its own where the connection has none: ADO's.
+OdbcPatience OdbcRowWriter::patience() const
+{
+    constexpr int adoCommandTimeout = 30;
+    const int limit = m_session->commandTimeout();
+    return {limit > 0 ? limit : adoCommandTimeout};
+}
+
 void OdbcRowWriter::changeOneRow(const OdbcHandle &statement) const
 {
-    const SQLRETURN code = SQLExecute(statement.get());
+    const SQLRETURN code =
+        OdbcWatch(statement, patience()).run([&statement] { return SQLExecute(statement.get()); });
     if (code != SQL_NO_DATA)
         statement.check(code);
     SQLLEN changed = 0;
@@ -116,11 +126,11 @@ void OdbcRowWriter::readRow(const Key &key, RowStore &stored) const
 {
     const OdbcEngine &engine = m_session->engine();
     OdbcQuery reading(m_session->connection(), engine,
-                      m_target.selectRow + keyCondition(m_target.alias + u'.', key) + engine.lockRow);
+                      m_target.selectRow + keyCondition(m_target.alias + u'.', key) + engine.lockRow,
+                      patience());
     OdbcParameters parameters(reading.handle());
     bindKey(parameters, key);
-    reading.read(
-        stored, [] { return true; }, m_session->commandTimeout());
+    reading.read(stored, patience());
     if (stored.rows() == 0)
         throw rowGone();
     if (stored.rows() > 1)
@@ -134,11 +144,10 @@ void OdbcRowWriter::insertAndReturnKey(const QString &insertion, const std::vect
     for (const OdbcTarget::KeyColumn &column : m_target.key)
         names += column.name;
     OdbcQuery returning(m_session->connection(), m_session->engine(),
-                        insertion + " RETURNING "_L1 + names.join(", "_L1));
+                        insertion + " RETURNING "_L1 + names.join(", "_L1), patience());
     OdbcParameters parameters(returning.handle());
     bindChanges(parameters, changes);
-    returning.read(
-        key, [] { return true; }, m_session->commandTimeout());
+    returning.read(key, patience());
 }
 
 void OdbcRowWriter::insertAndFindKey(const QString &insertion, const std::vector<Change> &changes,
@@ -157,9 +166,7 @@ void OdbcRowWriter::insertAndFindKey(const QString &insertion, const std::vector
     bindChanges(parameters, changes);
     changeOneRow(statement);
     if (missing != m_target.key.end()) {
-        OdbcQuery(m_session->connection(), engine, engine.newKey)
-            .read(
-                key, [] { return true; }, m_session->commandTimeout());
+        OdbcQuery(m_session->connection(), engine, engine.newKey, patience()).read(key, patience());
         return;
     }
     for (const OdbcTarget::KeyColumn &column : m_target.key) {

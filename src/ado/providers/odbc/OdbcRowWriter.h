@@ -8,6 +8,8 @@ namespace ADODB {
 
 class OdbcHandle;
 class OdbcParameters;
+class OdbcSession;
+struct OdbcPatience;
 
 class OdbcRowWriter : public RowWriter
 {
@@ -30,6 +32,8 @@ private:
     void bind(OdbcParameters &parameters, int column, const RawValue &value) const;
     void bindKey(OdbcParameters &parameters, const Key &key) const;
     void bindChanges(OdbcParameters &parameters, const std::vector<Change> &changes) const;
+    // How long to wait for a row that somebody else is changing.
+    OdbcPatience patience() const;
     // Runs a statement that must change exactly one row.
     void changeOneRow(const OdbcHandle &statement) const;
     // The one row with that key, locked where the engine can.

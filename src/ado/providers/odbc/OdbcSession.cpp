@@ -16,9 +16,10 @@ OdbcSession::OdbcSession(std::shared_ptr<OdbcConnection> connection, OdbcEngine 
 
 OdbcSession::~OdbcSession() = default;
 
-std::unique_ptr<Statement> OdbcSession::prepare(const QString &sql, Access access)
+std::unique_ptr<Statement> OdbcSession::prepare(const QString &sql, Access access,
+                                                const std::function<bool()> &goOn)
 {
-    return std::make_unique<OdbcStatement>(shared_from_this(), sql, access);
+    return std::make_unique<OdbcStatement>(shared_from_this(), sql, access, goOn);
 }
 
 QString OdbcSession::tableStatement(const QString &table) const

@@ -16,7 +16,8 @@ public:
     ~OdbcSession() override;
     Q_DISABLE_COPY_MOVE(OdbcSession)
 
-    std::unique_ptr<Statement> prepare(const QString &sql, Access access) override;
+    std::unique_ptr<Statement> prepare(const QString &sql, Access access,
+                                       const std::function<bool()> &goOn) override;
     QString tableStatement(const QString &table) const override;
     QString engineName() const override { return m_engine.dbmsName; }
     void close() override;

@@ -8,26 +8,50 @@
 #include "ado/providers/odbc/OdbcQuery.h"
 #include "ado/providers/odbc/OdbcRefusal.h"
 #include "ado/providers/odbc/OdbcRowWriter.h"
+#include "ado/providers/odbc/OdbcWatch.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
 
-OdbcStatement::OdbcStatement(std::shared_ptr<OdbcSession> session, const QString &sql, Access access)
-    : m_session(std::move(session))
+namespace {
+
+// Waits for the tables of a statement in a call that can be stopped, where preparing the statement can't be.
+// From then on they are this transaction's.
+void waitForTables(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
+                   const SqlScanner &statement, const OdbcPatience &patience)
+{
+    if (engine.explain.isEmpty() || !isExplainable(statement))
+        return;
+    const OdbcHandle handle(connection);
+    handle.prepare(engine.explain + statement.withoutSemicolon());
+    SQLSMALLINT parameters = 0;
+    handle.check(SQLNumParams(handle.get(), &parameters));
+    if (parameters > 0) // which nobody gives; told later
+        return;
+    handle.check(OdbcWatch(handle, patience).run([&handle] { return SQLExecute(handle.get()); }));
+}
+
+} // namespace
+
+OdbcStatement::OdbcStatement(std::shared_ptr<OdbcSession> session, const QString &sql, Access access,
+                             const std::function<bool()> &goOn)
+    : m_session(std::move(session)), m_connection(m_session->connection())
 {
     const OdbcEngine &engine = m_session->engine();
     const SqlScanner scanner(sql, engine.dialect);
     refuseUnlessQuery(scanner);
-    m_reading.emplace(m_session->connection(), engine);
-    m_query = std::make_unique<OdbcQuery>(m_session->connection(), engine, sql);
+    m_reading.emplace(m_connection, engine);
+    const OdbcPatience patience{m_session->commandTimeout(), goOn};
+    waitForTables(m_connection, engine, scanner, patience);
+    m_query = std::make_unique<OdbcQuery>(m_connection, engine, sql, patience);
     m_fields = m_query->fields();
     if (m_fields.empty())
         throw Error(dbErrPermissionDenied, Texts::notAQuery(), u"ODBC"_s, u"42000"_s);
     if (m_query->parameters() > 0)
         throw Error(dbErrInCommand, Texts::parameterInStatement().arg(u'?'), u"ODBC"_s, u"07002"_s);
     if (access == Access::ReadWrite)
-        prepareWriter(scanner);
+        prepareWriter(scanner, patience);
     else
         m_whyReadOnly = Texts::openedReadOnly();
 }
@@ -39,15 +63,15 @@ int OdbcStatement::columns() const
     return static_cast<int>(m_query->fields().size());
 }
 
-void OdbcStatement::prepareWriter(const SqlScanner &statement)
+void OdbcStatement::prepareWriter(const SqlScanner &statement, const OdbcPatience &patience)
 {
-    OdbcTarget target = OdbcTarget::find(*m_session, statement, m_fields);
+    OdbcTarget target = OdbcTarget::find(m_connection, m_session->engine(), statement, m_fields);
     m_whyReadOnly = target.whyReadOnly;
     if (!m_whyReadOnly.isEmpty())
         return;
     // The statement that also gives the hidden key takes the place of the user's.
     if (!target.statement.isEmpty())
-        m_query = std::make_unique<OdbcQuery>(m_session->connection(), m_session->engine(), target.statement);
+        m_query = std::make_unique<OdbcQuery>(m_connection, m_session->engine(), target.statement, patience);
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
         if (!target.columns[i].isEmpty())
             m_fields[i].attributes |= adFldUpdatable;
@@ -61,7 +85,7 @@ void OdbcStatement::prepareWriter(const SqlScanner &statement)
 
 void OdbcStatement::fetch(RowStore &rows, const std::function<bool()> &goOn)
 {
-    m_query->read(rows, goOn, m_session->commandTimeout());
+    m_query->read(rows, {m_session->commandTimeout(), goOn});
     m_reading.reset();
 }
 

@@ -9,11 +9,13 @@ namespace ADODB {
 
 class OdbcQuery;
 class SqlScanner;
+struct OdbcPatience;
 
 class OdbcStatement : public Statement
 {
 public:
-    OdbcStatement(std::shared_ptr<OdbcSession> session, const QString &sql, Access access);
+    OdbcStatement(std::shared_ptr<OdbcSession> session, const QString &sql, Access access,
+                  const std::function<bool()> &goOn);
     ~OdbcStatement() override;
 
     const std::vector<FieldInfo> &fields() const override { return m_fields; }
@@ -23,10 +25,11 @@ public:
     QString whyReadOnly() const override { return m_whyReadOnly; }
 
 private:
-    void prepareWriter(const SqlScanner &statement);
+    void prepareWriter(const SqlScanner &statement, const OdbcPatience &patience);
 
     std::shared_ptr<OdbcSession> m_session;
-    std::optional<OdbcReading> m_reading; // until all has been read
+    std::shared_ptr<OdbcConnection> m_connection; // the session's, which can be closed meanwhile
+    std::optional<OdbcReading> m_reading;         // until all has been read
     std::unique_ptr<OdbcQuery> m_query;
     std::vector<FieldInfo> m_fields;
     std::unique_ptr<RowWriter> m_writer;

@@ -1,6 +1,8 @@
 #include "ado/providers/odbc/OdbcTable.h"
 
+#include "ado/Error.h"
 #include "ado/SimpleSelect.h"
+#include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcDescription.h"
 #include "ado/providers/odbc/OdbcHandle.h"
 #include "ado/providers/odbc/OdbcLongValue.h"
@@ -185,6 +187,20 @@ QStringList neverNull(const std::shared_ptr<OdbcConnection> &connection, const N
     return columns;
 }
 
+// Empty for what can be read but not as a whole: MariaDB's DUAL, or a table of which this user may see only
+// some columns.
+std::vector<FieldInfo> allFields(const OdbcHandle &probe, const SimpleSelect &select)
+{
+    try {
+        probe.prepare("SELECT * FROM "_L1 + select.tableText);
+        return describeColumns(probe);
+    } catch (const Error &) {
+        if (probe.connection()->isLost())
+            throw;
+        return {};
+    }
+}
+
 bool isComparable(const FieldInfo &field)
 {
     return field.type != adSingle && field.type != adDouble && (field.attributes & adFldLong) == 0;
@@ -195,17 +211,18 @@ bool isComparable(const FieldInfo &field)
 OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, const SimpleSelect &select)
 {
     const OdbcHandle probe(connection);
-    probe.prepare("SELECT * FROM "_L1 + select.tableText);
-    const std::vector<FieldInfo> fields = describeColumns(probe);
+    const std::vector<FieldInfo> fields = allFields(probe, select);
     OdbcTable table;
-    if (fields.empty())
+    if (fields.empty()) {
+        table.whyReadOnly = Texts::readOnlyNoTable();
         return table;
+    }
     const Name name = fullName(probe, *connection, select, fields);
     // Some drivers name what stands behind a view.
-    table.isTable =
-        name.table.compare(select.table, Qt::CaseInsensitive) == 0 && ADODB::isTable(connection, name);
-    if (!table.isTable)
+    if (name.table.compare(select.table, Qt::CaseInsensitive) != 0 || !isTable(connection, name)) {
+        table.whyReadOnly = Texts::readOnlyView().arg(select.table);
         return table;
+    }
     for (const FieldInfo &field : fields) {
         table.columns += field.name;
         if (isComparable(field))

@@ -15,7 +15,7 @@ struct SimpleSelect;
 // What the database's catalogue says about the table of a statement.
 struct OdbcTable
 {
-    bool isTable = false; // not a view; the rest is set only then
+    QString whyReadOnly; // what it is instead of a table; the rest is set only where this is empty
     QStringList columns;
     QStringList comparable; // those of them that can be told apart by an equals sign
     // What tells a row from all others: the primary key, else a unique index without Nulls. Empty if there is

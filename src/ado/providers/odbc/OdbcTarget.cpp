@@ -3,8 +3,8 @@
 #include "ado/SimpleSelect.h"
 #include "ado/SqlScanner.h"
 #include "ado/Texts.h"
+#include "ado/providers/odbc/OdbcEngine.h"
 #include "ado/providers/odbc/OdbcHandle.h"
-#include "ado/providers/odbc/OdbcSession.h"
 #include "ado/providers/odbc/OdbcTable.h"
 
 #include <algorithm>
@@ -46,40 +46,38 @@ QStringList shownColumns(const SimpleSelect &select, const OdbcTable &table,
 }
 
 // An aggregate gives one row even where there is none. The database alone can tell whether there is one.
-bool folds(const OdbcSession &session, const QString &head)
+bool folds(const std::shared_ptr<OdbcConnection> &connection, const QString &head)
 {
-    const OdbcHandle probe(session.connection());
+    const OdbcHandle probe(connection);
     probe.execute(head + " WHERE 1 = 0"_L1);
     return probe.fetch();
 }
 
 } // namespace
 
-OdbcTarget OdbcTarget::find(const OdbcSession &session, const SqlScanner &statement,
-                            const std::vector<FieldInfo> &fields)
+OdbcTarget OdbcTarget::find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
+                            const SqlScanner &statement, const std::vector<FieldInfo> &fields)
 {
     const SimpleSelect select = SimpleSelect::parse(statement);
     OdbcTarget target;
     target.whyReadOnly = select.reason;
     if (!target.whyReadOnly.isEmpty())
         return target;
-    const OdbcTable table = OdbcTable::find(session.connection(), select);
-    if (!table.isTable) {
-        target.whyReadOnly = Texts::readOnlyView().arg(select.table);
+    const OdbcTable table = OdbcTable::find(connection, select);
+    target.whyReadOnly = table.whyReadOnly;
+    if (!target.whyReadOnly.isEmpty())
         return target;
-    }
     const QStringList shown = shownColumns(select, table, fields);
     if (shown.isEmpty()) {
         target.whyReadOnly = Texts::readOnlyJoin();
         return target;
     }
     const QString &sql = statement.sql();
-    if (shown.contains(QString()) && folds(session, sql.left(select.sourceEnd))) {
+    if (shown.contains(QString()) && folds(connection, sql.left(select.sourceEnd))) {
         target.whyReadOnly = Texts::readOnlyGrouped();
         return target;
     }
 
-    const OdbcEngine &engine = session.engine();
     target.table = select.tableText;
     target.alias = select.aliasText;
     for (const QString &name : shown)

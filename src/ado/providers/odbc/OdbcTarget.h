@@ -2,12 +2,14 @@
 
 #include "ado/FieldInfo.h"
 
+#include <memory>
 #include <vector>
 
 namespace ADODB {
 
-class OdbcSession;
+class OdbcConnection;
 class SqlScanner;
+struct OdbcEngine;
 
 // Where the rows of a statement can be written back to, and how one of them is found there again.
 struct OdbcTarget
@@ -31,8 +33,8 @@ struct OdbcTarget
     std::vector<KeyColumn> key;
     bool isRealKey = false;
 
-    static OdbcTarget find(const OdbcSession &session, const SqlScanner &statement,
-                           const std::vector<FieldInfo> &fields);
+    static OdbcTarget find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
+                           const SqlScanner &statement, const std::vector<FieldInfo> &fields);
 };
 
 } // namespace ADODB

@@ -57,21 +57,22 @@ private:
 
 } // namespace
 
-OdbcWatch::OdbcWatch(const OdbcHandle &statement, std::function<bool()> goOn, int timeout)
-    : m_statement(statement), m_goOn(std::move(goOn)), m_timeout(timeout)
+OdbcWatch::OdbcWatch(const OdbcHandle &statement, OdbcPatience patience)
+    : m_statement(statement), m_patience(std::move(patience))
 {
 }
 
 SQLRETURN OdbcWatch::run(const std::function<SQLRETURN()> &call) const
 {
     // Kept here and not left to the drivers, of which some ignore the limit they are given.
-    const QDeadlineTimer deadline = m_timeout > 0 ? QDeadlineTimer(std::chrono::seconds(m_timeout))
-                                                  : QDeadlineTimer(QDeadlineTimer::Forever);
+    const int timeout = m_patience.timeout;
+    const QDeadlineTimer deadline =
+        timeout > 0 ? QDeadlineTimer(std::chrono::seconds(timeout)) : QDeadlineTimer(QDeadlineTimer::Forever);
     Running running(m_statement, call);
     while (!running.isDone()) {
         ask();
         if (deadline.hasExpired())
-            throw Error(dbErrFailed, Texts::timedOut().arg(Texts::secondsLimit().arg(m_timeout)), u"ODBC"_s,
+            throw Error(dbErrFailed, Texts::timedOut().arg(Texts::secondsLimit().arg(timeout)), u"ODBC"_s,
                         u"HYT00"_s);
     }
     return running.code();
@@ -79,7 +80,7 @@ SQLRETURN OdbcWatch::run(const std::function<SQLRETURN()> &call) const
 
 void OdbcWatch::ask() const
 {
-    if (!m_goOn())
+    if (!m_patience.goOn())
         throw Error(dbErrCancelled, Texts::cancelled(), u"ODBC"_s, u"HY008"_s);
 }
 

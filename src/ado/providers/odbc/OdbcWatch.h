@@ -8,13 +8,20 @@ namespace ADODB {
 
 class OdbcHandle;
 
+// How long to wait for the server.
+struct OdbcPatience
+{
+    int timeout = 0; // seconds that one call may take, 0 for ever
+    std::function<bool()> goOn = [] { return true; };
+};
+
 // Runs calls on one statement that can wait for the server, each in a thread of its own. Meanwhile it asks in
 // the caller's thread whether to go on, and when not, has the server stop.
 class OdbcWatch
 {
 public:
-    // `statement` must live as long. `timeout` is how many seconds one call may take, 0 for ever.
-    OdbcWatch(const OdbcHandle &statement, std::function<bool()> goOn, int timeout);
+    // `statement` must live as long.
+    OdbcWatch(const OdbcHandle &statement, OdbcPatience patience);
 
     // Answers what the call answered, once it is through. Throws dbErrCancelled when it was stopped, and
     // dbErrFailed when it took too long.
@@ -24,8 +31,7 @@ public:
 
 private:
     const OdbcHandle &m_statement;
-    std::function<bool()> m_goOn;
-    int m_timeout;
+    OdbcPatience m_patience;
 };
 
 } // namespace ADODB

@@ -128,7 +128,8 @@ SqliteSession::~SqliteSession()
     close();
 }
 
-std::unique_ptr<Statement> SqliteSession::prepare(const QString &sql, Access access)
+std::unique_ptr<Statement> SqliteSession::prepare(const QString &sql, Access access,
+                                                  const std::function<bool()> &)
 {
     return std::make_unique<SqliteStatement>(shared_from_this(), sql, access);
 }

@@ -31,7 +31,8 @@ public:
     ~SqliteSession() override;
     Q_DISABLE_COPY_MOVE(SqliteSession)
 
-    std::unique_ptr<Statement> prepare(const QString &sql, Access access) override;
+    std::unique_ptr<Statement> prepare(const QString &sql, Access access,
+                                       const std::function<bool()> &goOn) override;
     QString tableStatement(const QString &table) const override;
     QString engineName() const override { return QStringLiteral("SQLite"); }
     void close() override;
