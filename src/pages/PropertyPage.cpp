@@ -32,17 +32,24 @@ PropertyPage::PropertyPage(const QString &property, const QString &textBox, cons
     m_text->setObjectName(textBox);
     m_text->setAccessibleName(property);
     m_text->setAccessibleDescription(hint);
-    m_text->setMinimumWidth(widthOfDigits(*this, 60));
     m_text->setEnabled(false);
     setFocusProxy(m_text);
     auto *above = new QLabel(label, this);
     above->setBuddy(m_text);
     auto *below = new QLabel(hint, this);
     below->setForegroundRole(QPalette::PlaceholderText);
+    below->setWordWrap(true);
     m_rows->addWidget(above);
     m_rows->addWidget(m_text);
     m_rows->addWidget(below);
     connect(m_text, &QLineEdit::textChanged, this, [this] { PutChanged(true); });
+}
+
+QSize PropertyPage::sizeHint() const
+{
+    // A wish and not the text box's minimum: a property frame may be narrower, and must not cut it off.
+    constexpr int statementLength = 60; // characters
+    return QWidget::sizeHint().expandedTo({widthOfDigits(*this, statementLength), 0});
 }
 
 void PropertyPage::SetSelectedControls(const QList<QObject *> &controls)

@@ -40,6 +40,8 @@ public:
     // so in a message box, when the property is read-only and its text was changed.
     Q_INVOKABLE bool ApplyChanges();
 
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     // Changed() is another value now.
     void ChangedChanged(bool isChanged);

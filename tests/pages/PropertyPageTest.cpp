@@ -77,6 +77,16 @@ TEST_P(EachPage, ALongTextIsShownFromItsBeginning)
     EXPECT_EQ(text().cursorPosition(), 0);
 }
 
+TEST_P(EachPage, InAFrameNarrowerThanItWishesNothingIsCutOff)
+{
+    const QSize narrow(page->sizeHint().width() * 4 / 5, page->sizeHint().height());
+    page->resize(narrow);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(page->size(), narrow);
+    for (const QWidget *part : page->findChildren<QWidget *>(Qt::FindDirectChildrenOnly))
+        EXPECT_TRUE(page->rect().contains(part->geometry())) << part->objectName().toStdString();
+}
+
 TEST_P(EachPage, TypingMarksItChangedAndWritesNothing)
 {
     const QSignalSpy changed(page.get(), &PropertyPage::ChangedChanged);
