@@ -73,11 +73,13 @@ void ConnectionPoints::tellChanged(const QString &property)
 {
     const DISPID id = m_control.dispatch().idOf(property);
     m_control.persistence().propertyChanged(property);
-    for (const ComPtr<IUnknown> &sink : m_properties.sinks()) {
+    m_control.view().viewChanged();
+    // Last: a listener may let go of the control.
+    m_source->tellAll(m_properties, [id](IUnknown &sink) {
         ComPtr<IPropertyNotifySink> listener;
-        if (SUCCEEDED(sink.As(&listener)))
+        if (SUCCEEDED(sink.QueryInterface(IID_PPV_ARGS(&listener))))
             listener->OnChanged(id);
-    }
+    });
 }
 
 } // namespace KOVAVSFDataGridLib::ActiveX

@@ -14,6 +14,8 @@ EmbeddedWindow::EmbeddedWindow(QWidget &widget, std::function<void()> entered,
     : m_widget(widget), m_entered(std::move(entered)), m_blocked(std::move(blocked))
 {
     m_widget.setWindowFlags(Qt::FramelessWindowHint);
+    // … and on where the keyboard is.
+    m_widget.setAttribute(Qt::WA_ShowWithoutActivating);
     // The container decides on the size; what insists on more is cut off at the edge.
     m_widget.setMinimumSize(1, 1);
 }
@@ -26,7 +28,10 @@ EmbeddedWindow::~EmbeddedWindow()
 void EmbeddedWindow::attach(HWND parent, const RECT &position, const RECT &clip)
 {
     m_parent.reset(QWindow::fromWinId(reinterpret_cast<WId>(parent)));
-    m_widget.winId(); // makes the native window
+    // A window that is no child yet would become the active one by its change of parent.
+    const auto window = reinterpret_cast<HWND>(m_widget.winId());
+    SetWindowLongPtrW(window, GWL_STYLE,
+                      (GetWindowLongPtrW(window, GWL_STYLE) & ~LONG_PTR{WS_POPUP}) | WS_CHILD);
     m_widget.windowHandle()->setParent(m_parent.get());
     m_widget.windowHandle()->installEventFilter(this);
     place(position, &clip);
@@ -78,7 +83,8 @@ HWND EmbeddedWindow::handle() const
 
 bool EmbeddedWindow::wants(const MSG &message) const
 {
-    if (!m_parent || message.message < WM_KEYFIRST || message.message > WM_KEYLAST ||
+    // A character has other numbers than a key, and with Alt down keys are the container's.
+    if (!m_parent || (message.message != WM_KEYDOWN && message.message != WM_KEYUP) ||
         (message.hwnd != handle() && !IsChild(handle(), message.hwnd)))
         return false;
     switch (message.wParam) {

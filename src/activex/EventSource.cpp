@@ -69,15 +69,11 @@ int EventSource::qt_metacall(QMetaObject::Call call, int id, void **arguments)
 
 void EventSource::tell(const Event &event, void **arguments)
 {
-    // A listener may let go of the control; the others are told all the same.
-    ComPtr<IConnectionPoint> alive(&m_point);
-    const QPointer<EventSource> self(this);
-    ++m_telling;
     const auto count = static_cast<std::size_t>(event.signal.parameterCount());
-    for (const ComPtr<IUnknown> &sink : m_point.sinks()) {
+    tellAll(m_point, [&event, arguments, count](IUnknown &sink) {
         ComPtr<IDispatch> listener;
-        if (FAILED(sink.As(&listener)))
-            continue;
+        if (FAILED(sink.QueryInterface(IID_PPV_ARGS(&listener))))
+            return;
         // From right to left, as Invoke wants them.
         std::vector<Variant> values(count);
         std::vector<VARIANT> passed(count);
@@ -89,7 +85,17 @@ void EventSource::tell(const Event &event, void **arguments)
         // A listener that fails does not concern the control or the other listeners.
         listener->Invoke(event.id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr,
                          nullptr, nullptr);
-    }
+    });
+}
+
+void EventSource::tellAll(ConnectionPoint &point, const std::function<void(IUnknown &)> &tellOne)
+{
+    // A listener may let go of the control; the others are told all the same.
+    ComPtr<IConnectionPoint> alive(&point);
+    const QPointer<EventSource> self(this);
+    ++m_telling;
+    for (const ComPtr<IUnknown> &sink : point.sinks())
+        tellOne(*sink.Get());
     alive.Reset();
     if (self)
         --m_telling;

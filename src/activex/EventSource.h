@@ -3,6 +3,7 @@
 #include <QtCore/QMetaMethod>
 #include <QtCore/QObject>
 
+#include <functional>
 #include <oaidl.h>
 #include <vector>
 
@@ -20,6 +21,9 @@ public:
 
     // While frozen nothing is told; freezes count.
     void freeze(bool on);
+    // Calls `tellOne` for each listener of a connection point of the same control. The control, and this with
+    // it, may be gone when it returns.
+    void tellAll(ConnectionPoint &point, const std::function<void(IUnknown &)> &tellOne);
     // Whether a listener is being told something at the moment.
     bool isTelling() const { return m_telling > 0; }
 

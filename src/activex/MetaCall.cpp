@@ -35,9 +35,16 @@ HRESULT raise(qint32 number, const QString &description, EXCEPINFO *exception)
     return DISP_E_EXCEPTION;
 }
 
+// Visual Basic passes its own variables as references to VARIANTs.
+const VARIANT &direct(const VARIANT &argument)
+{
+    return argument.vt == (VT_BYREF | VT_VARIANT) ? *argument.pvarVal : argument;
+}
+
 bool isOmitted(const VARIANT &argument)
 {
-    return argument.vt == VT_ERROR && argument.scode == DISP_E_PARAMNOTFOUND;
+    const VARIANT &value = direct(argument);
+    return value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND;
 }
 
 // The arguments from left to right; DISPPARAMS has them from right to left, and those given by name first.
@@ -101,12 +108,27 @@ private:
     std::array<void *, MostArguments + 1> m_pointers{};
 };
 
-bool isNumber(const VARIANT &value)
+bool isNumber(const VARIANT &argument)
 {
-    const VARIANT &direct = value.vt == (VT_BYREF | VT_VARIANT) ? *value.pvarVal : value;
-    const auto type = static_cast<VARTYPE>(direct.vt & ~VT_BYREF);
-    return type == VT_I2 || type == VT_I4 || type == VT_INT || type == VT_UI1 || type == VT_R8 ||
-           type == VT_I8;
+    switch (direct(argument).vt & ~VT_BYREF) {
+    case VT_I1:
+    case VT_UI1:
+    case VT_I2:
+    case VT_UI2:
+    case VT_I4:
+    case VT_UI4:
+    case VT_INT:
+    case VT_UINT:
+    case VT_I8:
+    case VT_UI8:
+    case VT_R4:
+    case VT_R8:
+    case VT_CY:
+    case VT_DECIMAL:
+        return true;
+    default:
+        return false;
+    }
 }
 
 // The overload for these arguments: the number of them decides, then whether the first one is a number.
@@ -123,23 +145,6 @@ const QMetaMethod *overloadFor(const Member &member, const Arguments &arguments)
             best = &method;
     }
     return best;
-}
-
-HRESULT put(QObject &object, const Member &member, const DISPPARAMS &parameters, UINT *badArgument)
-{
-    if (!member.property.isWritable())
-        return DISP_E_MEMBERNOTFOUND;
-    if (parameters.cArgs != 1)
-        return DISP_E_BADPARAMCOUNT;
-    QVariant value;
-    const HRESULT fits = toQt(parameters.rgvarg[0], member.property.metaType(), &value);
-    if (FAILED(fits)) {
-        if (badArgument)
-            *badArgument = 0;
-        return fits;
-    }
-    member.property.write(&object, value);
-    return S_OK;
 }
 
 HRESULT getOrCall(QObject &object, const Member &member, const DISPPARAMS &parameters, VARIANT *result,
@@ -175,6 +180,43 @@ HRESULT getOrCall(QObject &object, const Member &member, const DISPPARAMS &param
     return result ? fromQt(answer, result) : S_OK;
 }
 
+// `records("name") = "Li"`: the value is for the object that the arguments lead to, for its default property.
+HRESULT putBehind(QObject &object, const Member &member, const DISPPARAMS &parameters, EXCEPINFO *exception,
+                  UINT *badArgument)
+{
+    const DISPPARAMS arguments{parameters.rgvarg + 1, nullptr, parameters.cArgs - 1, 0};
+    Variant target;
+    const HRESULT found = getOrCall(object, member, arguments, target.get(), badArgument);
+    if (FAILED(found))
+        return found;
+    if (target->vt != VT_DISPATCH || !target->pdispVal)
+        return DISP_E_MEMBERNOTFOUND;
+    DISPID named = DISPID_PROPERTYPUT;
+    DISPPARAMS value{parameters.rgvarg, &named, 1, 1};
+    return target->pdispVal->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &value,
+                                    nullptr, exception, badArgument);
+}
+
+HRESULT put(QObject &object, const Member &member, const DISPPARAMS &parameters, EXCEPINFO *exception,
+            UINT *badArgument)
+{
+    if (parameters.cArgs == 0 || parameters.cNamedArgs > 1)
+        return DISP_E_BADPARAMCOUNT;
+    if (parameters.cArgs > 1)
+        return putBehind(object, member, parameters, exception, badArgument);
+    if (!member.property.isWritable())
+        return DISP_E_MEMBERNOTFOUND;
+    QVariant value;
+    const HRESULT fits = toQt(parameters.rgvarg[0], member.property.metaType(), &value);
+    if (FAILED(fits)) {
+        if (badArgument)
+            *badArgument = 0;
+        return fits;
+    }
+    member.property.write(&object, value);
+    return S_OK;
+}
+
 } // namespace
 
 HRESULT metaCall(QObject &object, const Member &member, WORD flags, DISPPARAMS &parameters, VARIANT *result,
@@ -182,7 +224,7 @@ HRESULT metaCall(QObject &object, const Member &member, WORD flags, DISPPARAMS &
 try {
     HostErrorCatcher errors(object);
     const HRESULT outcome = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)
-                                ? put(object, member, parameters, badArgument)
+                                ? put(object, member, parameters, exception, badArgument)
                                 : getOrCall(object, member, parameters, result, badArgument);
     if (errors.number() != 0) {
         if (SUCCEEDED(outcome) && result)

@@ -1,12 +1,18 @@
 #include "activex/ObjectDispatch.h"
 
+#include "activex/Enumeration.h"
 #include "activex/MemberTable.h"
 #include "activex/MetaCall.h"
 #include "activex/Variants.h"
 
 #include <unordered_map>
+#include <vector>
+#include <wrl/client.h>
 
 namespace KOVAVSFDataGridLib::ActiveX {
+
+using Microsoft::WRL::ComPtr;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -15,6 +21,47 @@ std::unordered_map<const QObject *, ObjectDispatch *> &handedOut()
 {
     static std::unordered_map<const QObject *, ObjectDispatch *> objects;
     return objects;
+}
+
+struct ItemCopy
+{
+    static VARIANT copy(const ComPtr<IDispatch> &item)
+    {
+        VARIANT given;
+        VariantInit(&given);
+        given.vt = VT_DISPATCH;
+        item.CopyTo(&given.pdispVal);
+        return given;
+    }
+};
+
+using Items = Enumeration<IEnumVARIANT, VARIANT, ComPtr<IDispatch>, ItemCopy>;
+
+// What `For Each` walks over: the items of an object that has ADO's members Count and Item.
+HRESULT enumerate(QObject &collection, VARIANT *result)
+{
+    const MemberTable &members = MemberTable::of(*collection.metaObject());
+    const Member *item = members.member(members.idOf(u"Item"_s));
+    const QVariant count = collection.property("Count");
+    if (!item || !count.isValid() || !result)
+        return DISP_E_MEMBERNOTFOUND;
+    std::vector<ComPtr<IDispatch>> items;
+    for (qint32 i = 0; i < count.toInt(); ++i) {
+        VARIANT index{};
+        index.vt = VT_I4;
+        index.lVal = i;
+        DISPPARAMS arguments{&index, nullptr, 1, 0};
+        Variant found;
+        const HRESULT outcome =
+            metaCall(collection, *item, DISPATCH_METHOD, arguments, found.get(), nullptr, nullptr);
+        if (FAILED(outcome))
+            return outcome;
+        items.emplace_back(found->pdispVal);
+    }
+    VariantInit(result);
+    result->vt = VT_UNKNOWN;
+    result->punkVal = new Items(std::move(items));
+    return S_OK;
 }
 
 } // namespace
@@ -81,6 +128,8 @@ STDMETHODIMP ObjectDispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPAR
     QObject *const object = m_object;
     if (!object)
         return objectGone(exception);
+    if (id == DISPID_NEWENUM)
+        return enumerate(*object, result);
     const Member *member = MemberTable::of(*object->metaObject()).member(id);
     return member ? metaCall(*object, *member, flags, *parameters, result, exception, badArgument)
                   : DISP_E_MEMBERNOTFOUND;

@@ -7,6 +7,8 @@
 #include "pages/PropertyPage.h"
 #include "pages/PropertyPages.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <iterator>
 #include <olectl.h>
@@ -58,7 +60,6 @@ OlePropertyPage::OlePropertyPage(const QString &title, std::unique_ptr<KOVAVSFDa
           *m_page, [] {}, [](bool) {})
 {
     m_page->setWindowTitle(title);
-    m_page->resize(m_page->sizeHint());
     QObject::connect(m_page.get(), &KOVAVSFDataGridLib::PropertyPage::ChangedChanged, m_page.get(), [this] {
         if (m_site)
             m_site->OnStatusChange(m_page->Changed() ? PROPPAGESTATUS_DIRTY : PROPPAGESTATUS_CLEAN);
@@ -77,7 +78,7 @@ STDMETHODIMP OlePropertyPage::Activate(HWND parent, LPCRECT position, BOOL)
 {
     if (!position)
         return E_POINTER;
-    m_window.attach(parent, *position, RECT{});
+    m_window.attach(parent, placeIn(*position), RECT{});
     return S_OK;
 }
 
@@ -94,8 +95,7 @@ STDMETHODIMP OlePropertyPage::GetPageInfo(PROPPAGEINFO *info)
     *info = {};
     info->cb = sizeof *info;
     info->pszTitle = taskText(m_page->windowTitle());
-    const QSizeF size = QSizeF(m_page->sizeHint()) * m_page->devicePixelRatioF();
-    info->size = {static_cast<LONG>(size.width()), static_cast<LONG>(size.height())};
+    info->size = wish();
     return info->pszTitle ? S_OK : E_OUTOFMEMORY;
 }
 
@@ -127,7 +127,7 @@ STDMETHODIMP OlePropertyPage::Move(LPCRECT position)
 {
     if (!position)
         return E_POINTER;
-    m_window.place(*position, nullptr);
+    m_window.place(placeIn(*position), nullptr);
     return S_OK;
 }
 
@@ -144,6 +144,19 @@ STDMETHODIMP OlePropertyPage::Apply()
 STDMETHODIMP OlePropertyPage::Help(LPCOLESTR)
 {
     return E_NOTIMPL;
+}
+
+SIZE OlePropertyPage::wish() const
+{
+    const QSizeF size = QSizeF(m_page->sizeHint()) * m_page->devicePixelRatioF();
+    return {std::lround(size.width()), std::lround(size.height())};
+}
+
+RECT OlePropertyPage::placeIn(const RECT &room) const
+{
+    const SIZE most = wish();
+    return {room.left, room.top, std::min(room.right, room.left + most.cx),
+            std::min(room.bottom, room.top + most.cy)};
 }
 
 STDMETHODIMP OlePropertyPage::TranslateAccelerator(MSG *message)

@@ -39,6 +39,11 @@ private:
     template<int Index>
     static HRESULT create(IUnknown *outer, REFIID iid, void **object);
 
+    // The size at which the page shows everything, in pixels.
+    SIZE wish() const;
+    // Never more than the page wishes: a frame may name more room than its window has in the end.
+    RECT placeIn(const RECT &room) const;
+
     // In this order: the window gives the page back before the page goes.
     const std::unique_ptr<KOVAVSFDataGridLib::PropertyPage> m_page;
     EmbeddedWindow m_window;

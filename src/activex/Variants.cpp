@@ -21,20 +21,22 @@ namespace {
 
 // Day 0 of automation's dates.
 const QDate dayZero(1899, 12, 30);
+constexpr qint64 millisecondsPerDay = 86'400'000;
 
 QDateTime toDateTime(DATE date)
 {
     // Days before day 0 are negative, the time of day always counts forwards.
     const double days = std::trunc(date);
-    const double fraction = std::abs(date - days);
-    const auto milliseconds = qint64(std::llround(fraction * 86'400'000.0));
-    return dayZero.addDays(static_cast<qint64>(days)).startOfDay().addMSecs(milliseconds);
+    const qint64 milliseconds = std::llround(std::abs(date - days) * millisecondsPerDay);
+    // What the clock shows, not the time since midnight: those differ on the days when summer time changes.
+    return QDateTime(dayZero.addDays(static_cast<qint64>(days) + milliseconds / millisecondsPerDay),
+                     QTime::fromMSecsSinceStartOfDay(static_cast<int>(milliseconds % millisecondsPerDay)));
 }
 
 void putDate(const QDateTime &moment, VARIANT *result)
 {
     const auto days = static_cast<double>(dayZero.daysTo(moment.date()));
-    const double fraction = moment.time().msecsSinceStartOfDay() / 86'400'000.0;
+    const double fraction = double(moment.time().msecsSinceStartOfDay()) / millisecondsPerDay;
     result->vt = VT_DATE;
     result->date = days < 0 ? days - fraction : days + fraction;
 }

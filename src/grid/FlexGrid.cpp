@@ -31,6 +31,7 @@ FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
     setVerticalHeader(new FlexHeader(Qt::Vertical, *this));
     setMouseTracking(true);
     setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false); // Tab goes on to the next control; the arrows walk over the cells
     setSelectionMode(ContiguousSelection);
     setAlternatingRowColors(true);
     setHorizontalScrollMode(ScrollPerPixel);

@@ -221,6 +221,9 @@ bool Container::saveScreen(const std::wstring &file) const
 {
     RECT frame{};
     GetWindowRect(m_window, &frame);
+    RECT front{};
+    GetWindowRect(GetForegroundWindow(), &front);
+    UnionRect(&frame, &frame, &front);
     const int width = frame.right - frame.left;
     const int height = frame.bottom - frame.top;
     const HDC screen = GetDC(nullptr);
@@ -332,6 +335,8 @@ STDMETHODIMP Container::GetExtendedControl(IDispatch **control)
 STDMETHODIMP Container::OnChanged(DISPID id)
 {
     m_changed.push_back(id);
+    if (m_changeHandler)
+        m_changeHandler(id);
     return S_OK;
 }
 

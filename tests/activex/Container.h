@@ -49,6 +49,8 @@ public:
     void answerQurryFilter(long cancel, const wchar_t *condition);
     // Called for every event, after it was noted.
     void onEvent(std::function<void(DISPID)> handler) { m_handler = std::move(handler); }
+    // Called for every property that has changed, after it was noted.
+    void onChange(std::function<void(DISPID)> handler) { m_changeHandler = std::move(handler); }
 
     const std::vector<Event> &events() const { return m_events; }
     int countOf(DISPID id) const;
@@ -68,7 +70,7 @@ public:
     static void press(WORD virtualKey, const std::vector<WORD> &modifiers = {});
     // Runs the message loop until it has been idle for a while, or until `done`.
     void run(const std::function<bool()> &done = {}, DWORD most = 5000);
-    // The container's window with whatever lies over it.
+    // The container's window with whatever lies over it, and the dialog in front of it as a whole.
     bool saveScreen(const std::wstring &file) const;
 
     // IUnknown
@@ -140,6 +142,7 @@ private:
     long m_cancel = 1;
     std::wstring m_condition;
     std::function<void(DISPID)> m_handler;
+    std::function<void(DISPID)> m_changeHandler;
     Late::Object m_control;
     Microsoft::WRL::ComPtr<IOleInPlaceActiveObject> m_active;
     Microsoft::WRL::ComPtr<IConnectionPoint> m_eventPoint;

@@ -1,33 +1,11 @@
-#include "Late.h"
-#include "SampleFile.h"
+#include "SampleControl.h"
 
 #include <gtest/gtest.h>
-#include <ocidl.h>
-#include <olectl.h>
+#include <oaidl.h>
 
-using Microsoft::WRL::ComPtr;
 using namespace Late;
 
 namespace {
-
-Object newControl()
-{
-    CLSID id{};
-    Object control;
-    EXPECT_EQ(CLSIDFromProgID(L"KOVAVSFDataGridLib.KOVAVSFDataGrid", &id), S_OK);
-    EXPECT_EQ(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&control)), S_OK);
-    return control;
-}
-
-Object loadedControl()
-{
-    const Object control = newControl();
-    put(control, L"ConnectionString", sampleConnection().c_str());
-    put(control, L"DBType", 3);
-    put(control, L"SQLShow", L"select id, name, born, big, photo from people order by id");
-    EXPECT_TRUE(get(control, L"IsLoadData").isTrue());
-    return control;
-}
 
 TEST(Dispatch, FindsMembersInAnyLetterCase)
 {
@@ -44,87 +22,6 @@ TEST(Dispatch, HidesWhatTheWidgetInherits)
     for (const wchar_t *name :
          {L"objectName", L"deleteLater", L"windowTitle", L"show", L"UserMode", L"HostError"})
         EXPECT_EQ(call(control, name).outcome, DISP_E_UNKNOWNNAME) << name;
-}
-
-TEST(Dispatch, TakesNumbersOfEveryWidth)
-{
-    const Object control = newControl();
-    for (const Value &value :
-         {Value::short16(2), Value(2), Value::unsigned32(2), Value::int64(2), Value(2.0), Value(L"2")}) {
-        put(control, L"DBType", 3);
-        EXPECT_EQ(put(control, L"DBType", value).outcome, S_OK) << value.type();
-        EXPECT_EQ(get(control, L"DBType").number(), 2) << value.type();
-    }
-    EXPECT_EQ(get(control, L"DBType").type(), VT_I4);
-}
-
-TEST(Dispatch, RefusesWhatDoesNotFit)
-{
-    const Object control = newControl();
-    EXPECT_EQ(put(control, L"DBType", L"Oracle").outcome, DISP_E_TYPEMISMATCH);
-    EXPECT_EQ(put(control, L"DBType", Value::int64(5'000'000'000)).outcome, DISP_E_OVERFLOW);
-    EXPECT_EQ(put(control, L"SQLShow", Value::null()).outcome, DISP_E_TYPEMISMATCH);
-    EXPECT_EQ(call(control, L"CellText", {70000, 1}).outcome, DISP_E_OVERFLOW);
-    EXPECT_EQ(call(control, L"LocateSelRecord").outcome, DISP_E_BADPARAMCOUNT);
-    EXPECT_EQ(call(control, L"LocateSelRecord", {1, 2}).outcome, DISP_E_BADPARAMCOUNT);
-    EXPECT_EQ(put(control, L"RecordSource", L"x").outcome, DISP_E_MEMBERNOTFOUND);
-}
-
-TEST(Dispatch, BooleansAreMinusOneAndZero)
-{
-    const Object control = newControl();
-    EXPECT_EQ(put(control, L"ErrorHint", true).outcome, S_OK);
-    EXPECT_EQ(get(control, L"ErrorHint").type(), VT_BOOL);
-    EXPECT_EQ(get(control, L"ErrorHint").number(), -1);
-    EXPECT_EQ(put(control, L"ErrorHint", 0).outcome, S_OK);
-    EXPECT_EQ(get(control, L"ErrorHint").number(), 0);
-}
-
-TEST(Dispatch, ColoursAreOleColours)
-{
-    const Object control = newControl();
-    EXPECT_EQ(put(control, L"BackColor", 0x00FF8040).outcome, S_OK);
-    EXPECT_EQ(get(control, L"BackColor").number(), 0x00FF8040);
-    // A system colour, signed and unsigned, is the same colour.
-    EXPECT_EQ(put(control, L"BackColor", static_cast<int>(0x8000000Fu)).outcome, S_OK);
-    const long face = get(control, L"BackColor").number();
-    EXPECT_EQ(put(control, L"BackColor", 0).outcome, S_OK);
-    EXPECT_EQ(put(control, L"BackColor", Value::unsigned32(0x8000000Fu)).outcome, S_OK);
-    EXPECT_EQ(get(control, L"BackColor").number(), face);
-    EXPECT_NE(face, 0);
-}
-
-TEST(Dispatch, FontsAreFontObjects)
-{
-    const Object control = newControl();
-    FONTDESC description{};
-    description.cbSizeofstruct = sizeof description;
-    description.lpstrName = const_cast<LPOLESTR>(L"Tahoma");
-    description.cySize.int64 = 135000; // 13.5 points
-    description.sWeight = FW_BOLD;
-    description.sCharset = DEFAULT_CHARSET;
-    description.fItalic = TRUE;
-    ComPtr<IFontDisp> font;
-    ASSERT_EQ(OleCreateFontIndirect(&description, IID_PPV_ARGS(&font)), S_OK);
-    EXPECT_EQ(invoke(control, L"DataFont", DISPATCH_PROPERTYPUTREF, {Value(font.Get())}).outcome, S_OK);
-
-    ComPtr<IFont> back;
-    ASSERT_EQ(get(control, L"DataFont").object().As(&back), S_OK);
-    CY size{};
-    BOOL bold = FALSE;
-    BOOL italic = FALSE;
-    BOOL underline = TRUE;
-    back->get_Size(&size);
-    back->get_Bold(&bold);
-    back->get_Italic(&italic);
-    back->get_Underline(&underline);
-    EXPECT_NEAR(static_cast<double>(size.int64), 135000, 5000);
-    EXPECT_TRUE(bold);
-    EXPECT_TRUE(italic);
-    EXPECT_FALSE(underline);
-    EXPECT_EQ(invoke(control, L"DataFont", DISPATCH_PROPERTYPUTREF, {Value(static_cast<IUnknown *>(nullptr))})
-                  .outcome,
-              DISP_E_TYPEMISMATCH);
 }
 
 TEST(Dispatch, UseModelAtRunTimeIsAnErrorWithItsNumber)
@@ -156,29 +53,6 @@ TEST(Dispatch, WalksTheRecordsetByNames)
         call(records, L"MoveNext");
     }
     EXPECT_EQ(rows, 3);
-}
-
-TEST(Dispatch, ValuesKeepTheirTypes)
-{
-    const Object control = loadedControl();
-    const Object records = get(control, L"RecordSet").object();
-    const auto value = [&records](const wchar_t *field) {
-        return get(get(records, L"Fields", {field}).object(), L"Value");
-    };
-    call(records, L"MoveFirst");
-    EXPECT_EQ(value(L"id").type(), VT_I4);
-    EXPECT_EQ(value(L"born").type(), VT_DATE);
-    SYSTEMTIME born{};
-    ASSERT_TRUE(VariantTimeToSystemTime(value(L"born").variant().date, &born));
-    EXPECT_EQ(born.wYear, 1980);
-    EXPECT_EQ(born.wMonth, 5);
-    EXPECT_EQ(born.wDay, 17);
-    EXPECT_EQ(value(L"big").type(), VT_DECIMAL);
-    EXPECT_EQ(value(L"big").text(), L"5000000000");
-    EXPECT_EQ(value(L"photo").type(), VT_ARRAY | VT_UI1);
-    call(records, L"Move", {2});
-    EXPECT_EQ(value(L"born").type(), VT_NULL);
-    EXPECT_EQ(value(L"photo").type(), VT_NULL);
 }
 
 TEST(Dispatch, TellsAFailureOfTheRecordsetWithItsNumber)
@@ -224,7 +98,7 @@ TEST(Dispatch, ReadsAndFindsCells)
     EXPECT_EQ(get(control, L"GetGridRowL").number(), 2);
     EXPECT_EQ(get(control, L"GetGridRow").type(), VT_I2);
     EXPECT_EQ(get(control, L"RecordSource").text(),
-              L"select id, name, born, big, photo from people order by id");
+              L"select id, name, born, big, photo, met from people order by id");
 }
 
 TEST(Dispatch, TakesOptionalArgumentsLeftOut)
@@ -234,6 +108,40 @@ TEST(Dispatch, TakesOptionalArgumentsLeftOut)
     call(records, L"MoveFirst");
     EXPECT_EQ(call(records, L"Move", {1, Value::omitted()}).outcome, S_OK);
     EXPECT_EQ(get(records, L"AbsolutePosition").number(), 2);
+}
+
+TEST(Dispatch, AValueReachesAFieldThroughDefaultMembers)
+{
+    const Object control = loadedControl();
+    const Object records = get(control, L"RecordSet").object();
+    // As in `records.Fields("name") = "Wang"`.
+    EXPECT_EQ(invoke(records, L"Fields", DISPATCH_PROPERTYPUT, {L"name", L"Wang"}).outcome, S_OK);
+    EXPECT_EQ(get(get(records, L"Fields", {L"name"}).object(), L"Value").text(), L"Wang");
+    const Answer missing = invoke(records, L"Fields", DISPATCH_PROPERTYPUT, {L"nothing", L"Wang"});
+    EXPECT_EQ(missing.outcome, DISP_E_EXCEPTION);
+    EXPECT_EQ(static_cast<unsigned long>(missing.errorCode), 0x800A0CC1ul); // 3265
+    call(records, L"CancelUpdate");
+}
+
+TEST(Dispatch, TheFieldsCanBeEnumerated)
+{
+    const Object control = loadedControl();
+    const Object fields = get(get(control, L"RecordSet").object(), L"Fields").object();
+    DISPPARAMS none{};
+    Value walk;
+    ASSERT_EQ(fields->Invoke(DISPID_NEWENUM, IID_NULL, LOCALE_USER_DEFAULT,
+                             DISPATCH_METHOD | DISPATCH_PROPERTYGET, &none, walk.get(), nullptr, nullptr),
+              S_OK);
+    ASSERT_EQ(walk.type(), VT_UNKNOWN);
+    Microsoft::WRL::ComPtr<IEnumVARIANT> each;
+    ASSERT_EQ(walk.variant().punkVal->QueryInterface(IID_PPV_ARGS(&each)), S_OK);
+    std::vector<std::wstring> names;
+    for (Value field; each->Next(1, field.get(), nullptr) == S_OK; field = Value())
+        names.push_back(get(field.object(), L"Name").text());
+    EXPECT_EQ(names, (std::vector<std::wstring>{L"id", L"name", L"born", L"big", L"photo", L"met"}));
+    EXPECT_EQ(control->Invoke(DISPID_NEWENUM, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none,
+                              walk.get(), nullptr, nullptr),
+              DISP_E_MEMBERNOTFOUND);
 }
 
 } // namespace

@@ -47,27 +47,19 @@ Value &Value::operator=(const Value &other)
     return *this;
 }
 
+Value Value::as(VARTYPE type, const wchar_t *text)
+{
+    Value given(text);
+    Value value;
+    VariantChangeTypeEx(&value.m_value, &given.m_value, LOCALE_INVARIANT, 0, type);
+    return value;
+}
+
 Value Value::short16(short number)
 {
     Value value;
     value.m_value.vt = VT_I2;
     value.m_value.iVal = number;
-    return value;
-}
-
-Value Value::unsigned32(unsigned number)
-{
-    Value value;
-    value.m_value.vt = VT_UI4;
-    value.m_value.ulVal = number;
-    return value;
-}
-
-Value Value::int64(long long number)
-{
-    Value value;
-    value.m_value.vt = VT_I8;
-    value.m_value.llVal = number;
     return value;
 }
 
@@ -77,6 +69,14 @@ Value Value::byReference(long *number)
     value.m_value.vt = VT_I4 | VT_BYREF;
     value.m_value.plVal = number;
     return value;
+}
+
+Value Value::byReference(VARIANT *value)
+{
+    Value reference;
+    reference.m_value.vt = VT_VARIANT | VT_BYREF;
+    reference.m_value.pvarVal = value;
+    return reference;
 }
 
 Value Value::null()

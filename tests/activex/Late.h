@@ -22,10 +22,11 @@ public:
     Value &operator=(const Value &other);
     ~Value() { VariantClear(&m_value); }
 
+    // The text as automation makes a value of this type from it.
+    static Value as(VARTYPE type, const wchar_t *text);
     static Value short16(short number); // as scripts pass small numbers
-    static Value unsigned32(unsigned number);
-    static Value int64(long long number);
     static Value byReference(long *number);
+    static Value byReference(VARIANT *value);
     static Value null();
     static Value omitted();
 

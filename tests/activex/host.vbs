@@ -18,6 +18,16 @@ Do Until records.EOF
     records.MoveNext
 Loop
 WScript.Echo "Records: " & text
+text = ""
+Dim field
+For Each field In records.Fields
+    text = text & "[" & field.Name & "]"
+Next
+WScript.Echo "Fields: " & text
+records.MoveFirst
+records("name") = "Wang"
+WScript.Echo "Written: " & records("name")
+records.CancelUpdate
 On Error Resume Next
 text = grid.UseModel
 WScript.Echo "UseModel read: " & (Err.Number And 65535)
