@@ -11,16 +11,18 @@ function(kova_compile_settings target)
   target_compile_definitions(${target} PRIVATE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
     QT_NO_KEYWORDS QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+  # Between sizes and numbers of fixed width, 32 bits would want casts where 64 bits must have none, and the
+  # other way round. The sources are right for 64.
+  if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    set(conversions -Wconversion -Wsign-conversion)
+    set(useless_casts $<$<CXX_COMPILER_ID:GNU>:-Wuseless-cast>)
+  endif()
   target_compile_options(${target} PRIVATE
-    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
+    -Wall -Wextra -Wpedantic ${conversions} -Wshadow -Wold-style-cast
     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wnull-dereference -Wformat=2
     -Wimplicit-fallthrough -Wextra-semi -Wundef
-    $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op -Wduplicated-branches>
+    $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op -Wduplicated-branches> ${useless_casts}
     $<$<BOOL:${KOVA_WARNINGS_AS_ERRORS}>:-Werror>)
-  # On a 32-bit machine a qsizetype is an int, and the casts from one to the other are useless there only.
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_SIZEOF_VOID_P EQUAL 8)
-    target_compile_options(${target} PRIVATE -Wuseless-cast)
-  endif()
   if(KOVA_SANITIZE)
     target_compile_options(${target} PRIVATE -fsanitize=${KOVA_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(${target} PUBLIC -fsanitize=${KOVA_SANITIZE})

@@ -1,5 +1,6 @@
 #include "Late.h"
 
+#include <array>
 #include <gtest/gtest.h>
 #include <map>
 #include <ocidl.h>
@@ -8,14 +9,6 @@
 using Microsoft::WRL::ComPtr;
 
 namespace {
-
-struct Function
-{
-    std::wstring name;
-    int invokeKind;
-    std::vector<std::wstring> parameters;
-    std::vector<VARTYPE> types;
-};
 
 ComPtr<ITypeInfo> dispatchInfo()
 {
@@ -51,126 +44,183 @@ ComPtr<ITypeInfo> typeNamed(const wchar_t *wanted)
     return nullptr;
 }
 
-// By number; a property's reading and writing share one.
-std::multimap<MEMBERID, Function> functionsOf(ITypeInfo &info)
+std::wstring nameOf(ITypeInfo &info)
 {
-    std::multimap<MEMBERID, Function> functions;
+    BSTR name = nullptr;
+    info.GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr);
+    const std::wstring text = name ? name : L"?";
+    SysFreeString(name);
+    return text;
+}
+
+std::wstring typeName(ITypeInfo &info, const TYPEDESC &type)
+{
+    switch (type.vt) {
+    case VT_VOID:
+        return L"void";
+    case VT_BSTR:
+        return L"BSTR";
+    case VT_BOOL:
+        return L"VARIANT_BOOL";
+    case VT_I2:
+        return L"short";
+    case VT_I4:
+        return L"long";
+    case VT_R4:
+        return L"float";
+    case VT_DISPATCH:
+        return L"IDispatch*";
+    case VT_PTR:
+        return typeName(info, *type.lptdesc) + L"*";
+    case VT_USERDEFINED: {
+        ComPtr<ITypeInfo> named;
+        return SUCCEEDED(info.GetRefTypeInfo(type.hreftype, &named)) ? nameOf(*named.Get()) : L"?";
+    }
+    default:
+        return L"?";
+    }
+}
+
+std::wstring signature(ITypeInfo &info, const FUNCDESC &function)
+{
+    const std::map<int, const wchar_t *> kinds{{INVOKE_FUNC, L""},
+                                               {INVOKE_PROPERTYGET, L"get "},
+                                               {INVOKE_PROPERTYPUT, L"put "},
+                                               {INVOKE_PROPERTYPUTREF, L"putref "}};
+    std::array<BSTR, 10> names{};
+    UINT count = 0;
+    info.GetNames(function.memid, names.data(), static_cast<UINT>(names.size()), &count);
+    std::wstring text = std::to_wstring(function.memid) + L" " + kinds.at(function.invkind) +
+                        typeName(info, function.elemdescFunc.tdesc) + L" " + names[0] + L"(";
+    for (SHORT i = 0; i < function.cParams; ++i) {
+        text += (i > 0 ? L", " : L"") + typeName(info, function.lprgelemdescParam[i].tdesc);
+        // The value that a property is given has no name.
+        if (function.invkind != INVOKE_PROPERTYPUT && function.invkind != INVOKE_PROPERTYPUTREF)
+            text += std::wstring(L" ") + names[static_cast<std::size_t>(i) + 1];
+    }
+    for (BSTR name : names)
+        SysFreeString(name);
+    return text + L")";
+}
+
+// The members as a list to read, without what every dispatch interface has.
+std::wstring membersOf(ITypeInfo &info)
+{
+    std::wstring list;
     TYPEATTR *attributes = nullptr;
     info.GetTypeAttr(&attributes);
     for (UINT i = 0; i < attributes->cFuncs; ++i) {
-        FUNCDESC *description = nullptr;
-        info.GetFuncDesc(i, &description);
-        BSTR names[10]{};
-        UINT count = 0;
-        info.GetNames(description->memid, names, 10, &count);
-        Function function{names[0], description->invkind, {}, {}};
-        for (UINT n = 1; n < count; ++n)
-            function.parameters.push_back(names[n]);
-        for (SHORT p = 0; p < description->cParams; ++p) {
-            const TYPEDESC &type = description->lprgelemdescParam[p].tdesc;
-            function.types.push_back(type.vt == VT_PTR ? static_cast<VARTYPE>(type.lptdesc->vt | VT_BYREF)
-                                                       : type.vt);
-        }
-        for (BSTR name : names)
-            SysFreeString(name);
-        if (description->memid > 0 && description->memid < 0x10000)
-            functions.emplace(description->memid, function);
-        info.ReleaseFuncDesc(description);
+        FUNCDESC *function = nullptr;
+        info.GetFuncDesc(i, &function);
+        if (function->memid > 0 && function->memid < 0x10000)
+            list += signature(info, *function) + L"\n";
+        info.ReleaseFuncDesc(function);
     }
     info.ReleaseTypeAttr(attributes);
-    return functions;
+    return list;
 }
 
 TEST(TypeLibrary, HasTheMembersInTheirOrder)
 {
-    const std::vector<std::wstring> order{L"STR_SQLTEMP",
-                                          L"Enabled",
-                                          L"BackColor",
-                                          L"DisplayEable",
-                                          L"FilterEnable",
-                                          L"SortEnable",
-                                          L"DataBackColor",
-                                          L"DataFont",
-                                          L"UseModel",
-                                          L"ShowModel",
-                                          L"ConnectionString",
-                                          L"SQLShow",
-                                          L"RecordSet",
-                                          L"RecordSource",
-                                          L"SQLPartDisplay",
-                                          L"SQLFilter",
-                                          L"SQLSort",
-                                          L"TableType",
-                                          L"ErrorHint",
-                                          L"DBType",
-                                          L"SysDBCnn",
-                                          L"SysDBMode",
-                                          L"PassQurryFilter",
-                                          L"CurrPosition",
-                                          L"GetBindFieldIndex",
-                                          L"PicField",
-                                          L"Refresh",
-                                          L"LocateSelRecord",
-                                          L"ShowConnectionString",
-                                          L"ShowRecordSource",
-                                          L"ShowSQLShow",
-                                          L"ShowPartDisplay",
-                                          L"ShowFilterCondtion",
-                                          L"ShowSort",
-                                          L"GetConnection",
-                                          L"SetFieldName",
-                                          L"SetSQLShow",
-                                          L"SetSQLFilter",
-                                          L"SetSortFN",
-                                          L"SetGridCol",
-                                          L"CellText",
-                                          L"Clear",
-                                          L"ClearAll",
-                                          L"GetBond",
-                                          L"GetGridCol",
-                                          L"SetGridRow",
-                                          L"GetGridRow",
-                                          L"CloseAllAction",
-                                          L"IsLoadData",
-                                          L"SeeCompressView",
-                                          L"ClearObject",
-                                          L"CellTextL",
-                                          L"GetGridRowL"};
-    const auto functions = functionsOf(*dispatchInfo().Get());
-    for (std::size_t i = 0; i < order.size(); ++i) {
-        const auto found = functions.find(static_cast<MEMBERID>(i + 1));
-        ASSERT_NE(found, functions.end()) << i + 1;
-        EXPECT_EQ(found->second.name, order[i]);
-    }
-    EXPECT_EQ(functions.rbegin()->first, static_cast<MEMBERID>(order.size()));
-}
-
-TEST(TypeLibrary, GetBindFieldIndexIsAPropertyWithAnArgument)
-{
-    const auto functions = functionsOf(*dispatchInfo().Get());
-    const Function &function = functions.find(25)->second;
-    EXPECT_EQ(function.invokeKind, INVOKE_PROPERTYGET);
-    EXPECT_EQ(function.parameters, std::vector<std::wstring>{L"strFieldName"});
-    EXPECT_EQ(functions.count(25), 1u);
+    EXPECT_EQ(membersOf(*dispatchInfo().Get()), LR"(1 get BSTR STR_SQLTEMP()
+1 put void STR_SQLTEMP(BSTR)
+2 get VARIANT_BOOL Enabled()
+2 put void Enabled(VARIANT_BOOL)
+3 get OLE_COLOR BackColor()
+3 put void BackColor(OLE_COLOR)
+4 get VARIANT_BOOL DisplayEable()
+4 put void DisplayEable(VARIANT_BOOL)
+5 get VARIANT_BOOL FilterEnable()
+5 put void FilterEnable(VARIANT_BOOL)
+6 get VARIANT_BOOL SortEnable()
+6 put void SortEnable(VARIANT_BOOL)
+7 get OLE_COLOR DataBackColor()
+7 put void DataBackColor(OLE_COLOR)
+8 get IFontDisp* DataFont()
+8 putref void DataFont(IFontDisp*)
+9 get UseModelChoose UseModel()
+9 put void UseModel(UseModelChoose)
+10 get ShowModelChoose ShowModel()
+10 put void ShowModel(ShowModelChoose)
+11 get BSTR ConnectionString()
+11 put void ConnectionString(BSTR)
+12 get BSTR SQLShow()
+12 put void SQLShow(BSTR)
+13 get IDispatch* RecordSet()
+14 get BSTR RecordSource()
+15 get BSTR SQLPartDisplay()
+15 put void SQLPartDisplay(BSTR)
+16 get BSTR SQLFilter()
+16 put void SQLFilter(BSTR)
+17 get BSTR SQLSort()
+17 put void SQLSort(BSTR)
+18 get TBLType TableType()
+18 put void TableType(TBLType)
+19 get VARIANT_BOOL ErrorHint()
+19 put void ErrorHint(VARIANT_BOOL)
+20 get AllDBType DBType()
+20 put void DBType(AllDBType)
+21 get BSTR SysDBCnn()
+21 put void SysDBCnn(BSTR)
+22 get BSTR SysDBMode()
+22 put void SysDBMode(BSTR)
+23 get BSTR PassQurryFilter()
+23 put void PassQurryFilter(BSTR)
+24 get long CurrPosition()
+25 get long GetBindFieldIndex(BSTR strFieldName)
+26 get BSTR PicField()
+26 put void PicField(BSTR)
+27 void Refresh()
+28 VARIANT_BOOL LocateSelRecord(long lRecordRow)
+29 void ShowConnectionString()
+30 void ShowRecordSource()
+31 void ShowSQLShow()
+32 void ShowPartDisplay()
+33 void ShowFilterCondtion()
+34 void ShowSort()
+35 void GetConnection()
+36 void SetFieldName()
+37 void SetSQLShow()
+38 void SetSQLFilter()
+39 void SetSortFN()
+40 void SetGridCol(long* Col)
+41 BSTR CellText(short* n_row, short* n_col)
+42 void Clear()
+43 void ClearAll()
+44 IDispatch* GetBond()
+45 short GetGridCol()
+46 void SetGridRow(long* Row)
+47 short GetGridRow()
+48 void CloseAllAction()
+49 VARIANT_BOOL IsLoadData()
+50 void SeeCompressView()
+51 void ClearObject()
+52 BSTR CellTextL(long* n_row, long* n_col)
+53 long GetGridRowL()
+)");
 }
 
 TEST(TypeLibrary, NumbersTheEventsFrom1To15WithArgumentsByReference)
 {
-    const std::vector<std::wstring> order{
-        L"DataMouseDown",    L"DataMouseUp",         L"DataMouseMove",     L"Error",
-        L"HeadClick",        L"DataClick",           L"DataDblClick",      L"DataKeyDown",
-        L"MouseUp",          L"ShowFieldsChange",    L"QurryFilter",       L"RecordChanged",
-        L"RecordsetChanged", L"DataDBLClickOneCell", L"DataDBLClickOneRow"};
     const ComPtr<ITypeInfo> events = typeNamed(L"KOVAVSFDataGridEvents");
     ASSERT_TRUE(events);
-    const auto functions = functionsOf(*events.Get());
-    ASSERT_EQ(functions.size(), order.size());
-    for (std::size_t i = 0; i < order.size(); ++i)
-        EXPECT_EQ(functions.find(static_cast<MEMBERID>(i + 1))->second.name, order[i]);
-    EXPECT_EQ(functions.find(1)->second.types,
-              (std::vector<VARTYPE>{VT_I2 | VT_BYREF, VT_I2 | VT_BYREF, VT_R4 | VT_BYREF, VT_R4 | VT_BYREF}));
-    EXPECT_EQ(functions.find(11)->second.types, (std::vector<VARTYPE>{VT_I4 | VT_BYREF, VT_BSTR}));
-    EXPECT_EQ(functions.find(12)->second.types, (std::vector<VARTYPE>{VT_I4, VT_I4}));
+    EXPECT_EQ(membersOf(*events.Get()),
+              LR"(1 void DataMouseDown(short* Button, short* Shift, float* x, float* y)
+2 void DataMouseUp(short* Button, short* Shift, float* x, float* y)
+3 void DataMouseMove(short* Button, short* Shift, float* x, float* y)
+4 void Error(short DataError, short* Response)
+5 void HeadClick(short ColIndex)
+6 void DataClick()
+7 void DataDblClick()
+8 void DataKeyDown(short* KeyCode, short* Shift)
+9 void MouseUp(short* Button, short* Shift, float* x, float* y)
+10 void ShowFieldsChange(BSTR strSQL)
+11 void QurryFilter(long* Cancel, BSTR strLastFilter)
+12 void RecordChanged(long ChangeReason, long CurrPosition)
+13 void RecordsetChanged(long ChangeReason)
+14 void DataDBLClickOneCell(long Col, long Row)
+15 void DataDBLClickOneRow(long Row)
+)");
 }
 
 TEST(TypeLibrary, DeclaresAllEnumerations)
