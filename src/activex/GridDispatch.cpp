@@ -3,10 +3,13 @@
 #include "activex/GridControl.h"
 #include "activex/MetaCall.h"
 #include "activex/TypeLibrary.h"
+#include "activex/Variants.h"
 
 #include <KOVAVSFDataGrid>
 
 namespace KOVAVSFDataGridLib::ActiveX {
+
+using namespace Qt::StringLiterals;
 
 GridDispatch::GridDispatch(GridControl &control)
     : Part(control.identity()),
@@ -49,7 +52,25 @@ STDMETHODIMP GridDispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAM
         return DISP_E_MEMBERNOTFOUND;
     // A member can lead to anything, also to the end of the control.
     const Microsoft::WRL::ComPtr<IUnknown> alive(&m_control.identity());
+    if (member->name == u"BackColor")
+        return backColor(flags, *parameters, result);
     return metaCall(m_control.grid(), *member, flags, *parameters, result, exception, badArgument);
+}
+
+HRESULT GridDispatch::backColor(WORD flags, const DISPPARAMS &parameters, VARIANT *result)
+{
+    const bool isPut = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
+    if (parameters.cArgs != (isPut ? 1u : 0u))
+        return DISP_E_BADPARAMCOUNT;
+    if (!isPut)
+        return result ? fromQt(static_cast<qint32>(m_control.persistence().backColor()), result) : S_OK;
+    QVariant number;
+    const HRESULT fits = toQt(parameters.rgvarg[0], QMetaType(QMetaType::LongLong), &number);
+    if (FAILED(fits))
+        return fits;
+    m_control.persistence().putBackColor(static_cast<quint32>(number.toLongLong()));
+    Q_EMIT m_control.grid().PropertyChanged(u"BackColor"_s);
+    return S_OK;
 }
 
 GridHolder::GridHolder(GridControl &control) : Part(control.identity()), m_control(control) {}

@@ -27,6 +27,9 @@ public:
     DISPID idOf(const QString &name) const { return m_members.idOf(name); }
 
 private:
+    // The widget's own colour is the one that shows at the moment; automation's can be one of the system's.
+    HRESULT backColor(WORD flags, const DISPPARAMS &parameters, VARIANT *result);
+
     GridControl &m_control;
     const Microsoft::WRL::ComPtr<ITypeInfo> m_info;
     const MemberTable m_members;

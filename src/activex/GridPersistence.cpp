@@ -102,9 +102,7 @@ STDMETHODIMP StreamPersistence::Load(IStream *stream)
         return outcome;
     if (read != streamSize || content[0] != streamVersion)
         return STG_E_READFAULT;
-    MemoryBag bag;
-    bag.values[u"BackColor"_s] = content[1];
-    m_control.grid().ReadProperties(bag);
+    putBackColor(content[1]);
     m_dirty = false;
     return S_OK;
 }
@@ -113,9 +111,7 @@ STDMETHODIMP StreamPersistence::Save(IStream *stream, BOOL clearDirty)
 {
     if (!stream)
         return E_POINTER;
-    MemoryBag bag;
-    m_control.grid().WriteProperties(bag);
-    const std::array<quint32, 2> content{streamVersion, bag.values[u"BackColor"_s].toUInt()};
+    const std::array<quint32, 2> content{streamVersion, backColor()};
     ULONG written = 0;
     const HRESULT outcome = stream->Write(content.data(), streamSize, &written);
     if (FAILED(outcome))
@@ -140,6 +136,20 @@ STDMETHODIMP StreamPersistence::InitNew()
     m_control.grid().InitProperties();
     m_dirty = false;
     return S_OK;
+}
+
+quint32 StreamPersistence::backColor() const
+{
+    MemoryBag bag;
+    m_control.grid().WriteProperties(bag);
+    return bag.values[u"BackColor"_s].toUInt();
+}
+
+void StreamPersistence::putBackColor(quint32 number)
+{
+    MemoryBag bag;
+    bag.values[u"BackColor"_s] = number;
+    m_control.grid().ReadProperties(bag);
 }
 
 void StreamPersistence::propertyChanged(const QString &name)

@@ -24,6 +24,11 @@ public:
     STDMETHODIMP GetSizeMax(ULARGE_INTEGER *size) override;
     STDMETHODIMP InitNew() override;
 
+    // The background colour as it is kept: as automation's number, so that a colour of the system's stays
+    // one.
+    quint32 backColor() const;
+    // Tells nobody.
+    void putBackColor(quint32 number);
     // Only a property that is kept makes the control dirty.
     void propertyChanged(const QString &name);
     void saved() { m_dirty = false; }

@@ -184,11 +184,15 @@ HRESULT toQtPlain(const VARIANT &value, QMetaType wanted, QVariant *result)
         *result = font;
         return outcome;
     }
+    case QMetaType::LongLong:
+        outcome = change(value, VT_I8, changed);
+        *result = changed->llVal;
+        return outcome;
     case QMetaType::QColor:
         // Through 64 bits: system colours have the sign bit of 32 set, and some clients send them unsigned.
-        outcome = change(value, VT_I8, changed);
+        outcome = toQtPlain(value, QMetaType(QMetaType::LongLong), result);
         if (SUCCEEDED(outcome))
-            *result = OleColor(static_cast<quint32>(changed->llVal)).in(QGuiApplication::palette());
+            *result = OleColor(static_cast<quint32>(result->toLongLong())).in(QGuiApplication::palette());
         return outcome;
     case QMetaType::Bool:
         outcome = change(value, VT_BOOL, changed);

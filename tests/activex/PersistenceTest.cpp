@@ -59,10 +59,14 @@ TEST(Persistence, AnAbsentEntryGivesTheButtonFaceColour)
 {
     MemoryBag empty;
     Container container(400, 300);
-    const long face = get(container.control(), L"BackColor").number();
+    const auto face = static_cast<long>(0x8000000Fu);
+    EXPECT_EQ(get(container.control(), L"BackColor").number(), face);
     put(container.control(), L"BackColor", 0x00010203);
     ASSERT_EQ(container.as<IPersistPropertyBag>()->Load(&empty, nullptr), S_OK);
     EXPECT_EQ(get(container.control(), L"BackColor").number(), face);
+    // What equals the default need not be written.
+    ASSERT_EQ(container.as<IPersistPropertyBag>()->Save(&empty, TRUE, FALSE), S_OK);
+    EXPECT_TRUE(empty.values.empty());
 }
 
 TEST(Persistence, KeepsTheBackgroundColourInAStream)

@@ -121,13 +121,15 @@ TEST(Values, ColoursAreOleColours)
     const Object control = newControl();
     EXPECT_EQ(put(control, L"BackColor", 0x00FF8040).outcome, S_OK);
     EXPECT_EQ(get(control, L"BackColor").number(), 0x00FF8040);
-    // A system colour, signed and unsigned, is the same colour.
-    EXPECT_EQ(put(control, L"BackColor", static_cast<int>(0x8000000Fu)).outcome, S_OK);
-    const long face = get(control, L"BackColor").number();
-    EXPECT_EQ(put(control, L"BackColor", 0).outcome, S_OK);
+    // A system colour, signed and unsigned, stays one.
+    EXPECT_EQ(put(control, L"BackColor", static_cast<int>(0x80000005u)).outcome, S_OK);
+    EXPECT_EQ(get(control, L"BackColor").number(), static_cast<int>(0x80000005u));
     EXPECT_EQ(put(control, L"BackColor", Value::as(VT_UI4, L"2147483663")).outcome, S_OK);
-    EXPECT_EQ(get(control, L"BackColor").number(), face);
-    EXPECT_NE(face, 0);
+    EXPECT_EQ(get(control, L"BackColor").number(), static_cast<int>(0x8000000Fu));
+    EXPECT_EQ(put(control, L"BackColor", L"blue").outcome, DISP_E_TYPEMISMATCH);
+    // The grid's is the colour that shows.
+    EXPECT_EQ(put(control, L"DataBackColor", static_cast<int>(0x80000005u)).outcome, S_OK);
+    EXPECT_EQ(get(control, L"DataBackColor").number(), 0x00FFFFFF);
 }
 
 TEST(Values, FontsAreFontObjects)
