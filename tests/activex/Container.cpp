@@ -43,6 +43,14 @@ HWND newWindow(int width, int height)
     return window;
 }
 
+std::function<void()> pendingAction; // what the next dialog waits for
+
+void CALLBACK runPendingAction(HWND, UINT, UINT_PTR timer, DWORD)
+{
+    KillTimer(nullptr, timer);
+    std::exchange(pendingAction, nullptr)();
+}
+
 } // namespace
 
 Container::Container(int width, int height, bool userMode) : m_userMode(userMode)
@@ -183,12 +191,8 @@ void Container::key(WORD virtualKey, const std::vector<WORD> &modifiers)
 void Container::whenDialogIsOpen(std::function<void()> action)
 {
     constexpr UINT longEnough = 1000; // milliseconds
-    static std::function<void()> pending;
-    pending = std::move(action);
-    SetTimer(nullptr, 0, longEnough, [](HWND, UINT, UINT_PTR timer, DWORD) {
-        KillTimer(nullptr, timer);
-        std::exchange(pending, nullptr)();
-    });
+    pendingAction = std::move(action);
+    SetTimer(nullptr, 0, longEnough, runPendingAction);
 }
 
 void Container::answerQurryFilter(long cancel, const wchar_t *condition)

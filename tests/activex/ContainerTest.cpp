@@ -28,14 +28,16 @@ public:
     STDMETHODIMP_(void) OnClose() override {}
 };
 
+BOOL CALLBACK countWindow(HWND, LPARAM counter)
+{
+    ++*reinterpret_cast<int *>(counter);
+    return TRUE;
+}
+
 int windowsOfThisThread()
 {
     int count = 0;
-    const auto one = [](HWND, LPARAM counter) -> BOOL {
-        ++*reinterpret_cast<int *>(counter);
-        return TRUE;
-    };
-    EnumThreadWindows(GetCurrentThreadId(), one, reinterpret_cast<LPARAM>(&count));
+    EnumThreadWindows(GetCurrentThreadId(), countWindow, reinterpret_cast<LPARAM>(&count));
     return count;
 }
 

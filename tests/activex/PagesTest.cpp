@@ -10,18 +10,21 @@ using namespace Late;
 
 namespace {
 
-// The page's own window inside a property frame. The names of Qt's window classes begin with its own.
+// The names of Qt's window classes begin with its own.
+BOOL CALLBACK takeQtWindow(HWND window, LPARAM found)
+{
+    std::array<wchar_t, 100> name{};
+    GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+    if (std::wstring(name.data()).starts_with(L"Qt") && IsWindowVisible(window))
+        *reinterpret_cast<HWND *>(found) = window;
+    return TRUE;
+}
+
+// The page's own window inside a property frame.
 HWND pageIn(HWND frame)
 {
     HWND page = nullptr;
-    const auto look = [](HWND window, LPARAM found) -> BOOL {
-        std::array<wchar_t, 100> name{};
-        GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-        if (std::wstring(name.data()).starts_with(L"Qt") && IsWindowVisible(window))
-            *reinterpret_cast<HWND *>(found) = window;
-        return TRUE;
-    };
-    EnumChildWindows(frame, look, reinterpret_cast<LPARAM>(&page));
+    EnumChildWindows(frame, takeQtWindow, reinterpret_cast<LPARAM>(&page));
     return page;
 }
 
