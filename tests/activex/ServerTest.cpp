@@ -17,16 +17,17 @@ class Server : public testing::Test
 protected:
     Server() : m_module(LoadLibraryExW(L"KOVAVSFDataGridLib.ocx", nullptr, LOAD_WITH_ALTERED_SEARCH_PATH)) {}
     // However a test ends, the others find the control registered.
-    ~Server() override { call<HRESULT()>("DllRegisterServer"); }
+    ~Server() override { call("DllRegisterServer"); }
 
-    template<typename Function, typename... Arguments>
+    template<typename... Arguments>
     HRESULT call(const char *name, Arguments... arguments) const
     {
-        auto *address = reinterpret_cast<void *>(GetProcAddress(m_module, name));
-        return reinterpret_cast<Function __stdcall *>(address)(arguments...);
+        using Function = HRESULT(STDAPICALLTYPE *)(Arguments...);
+        return reinterpret_cast<Function>(reinterpret_cast<void *>(GetProcAddress(m_module, name)))(
+            arguments...);
     }
     HMODULE module() const { return m_module; }
-    HRESULT canUnload() const { return call<HRESULT()>("DllCanUnloadNow"); }
+    HRESULT canUnload() const { return call("DllCanUnloadNow"); }
 
 private:
     HMODULE m_module;
@@ -105,9 +106,7 @@ TEST_F(Server, CanBeUnloadedOnlyWhileNothingIsInUse)
     ASSERT_EQ(CLSIDFromProgID(progId, &id), S_OK);
     EXPECT_EQ(canUnload(), S_OK);
     IClassFactory *factory = nullptr;
-    ASSERT_EQ((call<HRESULT(REFCLSID, REFIID, void **)>("DllGetClassObject", id, IID_IClassFactory,
-                                                        reinterpret_cast<void **>(&factory))),
-              S_OK);
+    ASSERT_EQ(call("DllGetClassObject", &id, &IID_IClassFactory, &factory), S_OK);
     EXPECT_EQ(canUnload(), S_FALSE);
     factory->LockServer(TRUE);
     EXPECT_EQ(factory->Release(), 0u);
@@ -126,26 +125,26 @@ TEST_F(Server, HasAPictureForToolBoxes)
 
 TEST_F(Server, IsRegisteredForTheUserAloneOnRequest)
 {
-    ASSERT_EQ(call<HRESULT()>("DllUnregisterServer"), S_OK);
+    ASSERT_EQ(call("DllUnregisterServer"), S_OK);
     EXPECT_FALSE(hasProgId(HKEY_LOCAL_MACHINE));
-    ASSERT_EQ((call<HRESULT(BOOL, PCWSTR)>("DllInstall", TRUE, L"user")), S_OK);
+    ASSERT_EQ(call("DllInstall", BOOL{TRUE}, L"user"), S_OK);
     EXPECT_TRUE(hasProgId(HKEY_CURRENT_USER));
     EXPECT_FALSE(hasProgId(HKEY_LOCAL_MACHINE));
-    ASSERT_EQ(call<HRESULT()>("DllUnregisterServer"), S_OK);
+    ASSERT_EQ(call("DllUnregisterServer"), S_OK);
     EXPECT_FALSE(hasProgId(HKEY_CURRENT_USER));
 }
 
 TEST_F(Server, IsRegisteredForTheUserAloneWithoutRights)
 {
-    ASSERT_EQ(call<HRESULT()>("DllUnregisterServer"), S_OK);
+    ASSERT_EQ(call("DllUnregisterServer"), S_OK);
     {
         const ProtectedClasses classes;
         const WithoutRights limited;
-        call<HRESULT()>("DllRegisterServer");
+        call("DllRegisterServer");
     }
     EXPECT_TRUE(hasProgId(HKEY_CURRENT_USER));
     EXPECT_FALSE(hasProgId(HKEY_LOCAL_MACHINE));
-    ASSERT_EQ(call<HRESULT()>("DllUnregisterServer"), S_OK);
+    ASSERT_EQ(call("DllUnregisterServer"), S_OK);
     EXPECT_FALSE(hasProgId(HKEY_CURRENT_USER));
 }
 

@@ -6,6 +6,7 @@
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollBar>
 #include <gtest/gtest.h>
 
@@ -292,6 +293,22 @@ TEST_F(Grid, ColoursAndRedraw)
     grid.PutRedraw(true);
     EXPECT_TRUE(grid.Redraw());
     EXPECT_TRUE(grid.hasMouseTracking());
+}
+
+TEST(VSFlexGrid, TabGoesOnToTheNextControl)
+{
+    QWidget form;
+    VSFlexGrid grid(&form);
+    grid.PutCols(3);
+    grid.PutRows(3);
+    QLineEdit next(&form);
+    form.show();
+    form.activateWindow();
+    grid.setFocus();
+    grid.PutCol(1);
+    QTest::keyClick(&grid, Qt::Key_Tab);
+    EXPECT_EQ(grid.Col(), 1);
+    EXPECT_EQ(form.focusWidget(), &next);
 }
 
 TEST(CellDelegate, DrawsTheFirstLineAndNoMoreThanCanBeSeen)
