@@ -30,8 +30,8 @@ void EmbeddedWindow::attach(HWND parent, const RECT &position, const RECT &clip)
     m_parent.reset(QWindow::fromWinId(reinterpret_cast<WId>(parent)));
     // A window that is no child yet would become the active one by its change of parent.
     const auto window = reinterpret_cast<HWND>(m_widget.winId());
-    SetWindowLongPtrW(window, GWL_STYLE,
-                      (GetWindowLongPtrW(window, GWL_STYLE) & ~LONG_PTR{WS_POPUP}) | WS_CHILD);
+    const LONG style = GetWindowLongW(window, GWL_STYLE) & ~static_cast<LONG>(WS_POPUP);
+    SetWindowLongW(window, GWL_STYLE, style | WS_CHILD);
     m_widget.windowHandle()->setParent(m_parent.get());
     m_widget.windowHandle()->installEventFilter(this);
     place(position, &clip);
