@@ -3,6 +3,10 @@
 
 #include <QtCore/QFile>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 using namespace Qt::Literals::StringLiterals;
 using namespace ADODB;
 
@@ -22,6 +26,14 @@ qint64 memory(const char *what)
             return line.simplified().split(' ').value(1).toLongLong() / 1024;
     }
     return 0;
+}
+
+// What was freed but is held for later would count as taken.
+void giveBackFreed()
+{
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
 }
 
 bool forgetMost()
@@ -65,6 +77,7 @@ TEST_P(OdbcMemory, IsNotTakenByTheDriverForAWholeResult)
     recordset.PutMemoryLimit(4 * MiB); // the rest goes to the disk
     recordset.Open(u"SELECT * FROM kova_a"_s, connect());
     EXPECT_EQ(recordset.RecordCount(), records);
+    giveBackFreed();
     // The texts alone are 43 MiB, and more as drivers keep them. MariaDB's keeps them until they are read.
     EXPECT_LT(memory(is("MariaDB") ? "VmRSS" : "VmHWM"), before + 30);
 }
