@@ -9,6 +9,7 @@
 #include <QtCore/QEvent>
 #include <QtCore/QPointer>
 #include <QtCore/QScopedValueRollback>
+#include <QtGui/QMouseEvent>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 
@@ -145,7 +146,13 @@ void FlexGrid::tellAfter(const std::function<void()> &act)
 
 void FlexGrid::mousePressEvent(QMouseEvent *event)
 {
-    tellAfter([&] { QTableView::mousePressEvent(event); });
+    tellAfter([&] {
+        QTableView::mousePressEvent(event);
+        // No change of the view's cell when it stood there for a hidden column that is the current one.
+        if (const QModelIndex cell = indexAt(event->position().toPoint());
+            cell.isValid() && cell == currentIndex())
+            m_col = cell.column() + m_model->fixedCols();
+    });
 }
 
 void FlexGrid::mouseMoveEvent(QMouseEvent *event)
@@ -178,6 +185,11 @@ void FlexGrid::updateGeometries()
     // The bar counts rows, and its page is the number that fit in.
     QScrollBar &bar = *verticalScrollBar();
     bar.setMaximum(std::min(bar.maximum(), std::max(UsedRows() - 1 - bar.pageStep(), 0)));
+}
+
+int FlexGrid::ShownCol() const
+{
+    return nearestShownSection(section(m_col)) + m_model->fixedCols();
 }
 
 void FlexGrid::scrollContentsBy(int dx, int dy)
@@ -269,7 +281,8 @@ void FlexGrid::PutColWidth(int col, int twips)
     checkCol(col);
     m_widths[static_cast<std::size_t>(col)] = std::max(twips, UseDefaultWidth);
     applyWidth(col);
-    if (currentIndex().isValid() && isColumnHidden(currentIndex().column()))
+    // The view goes where it can be seen, and comes back when the current column is shown again.
+    if (currentIndex().isValid() && currentIndex().column() != nearestShownSection(section(m_col)))
         makeCurrent(m_row, m_col);
 }
 

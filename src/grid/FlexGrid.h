@@ -41,6 +41,8 @@ public:
     void PutRow(int row);
     int Col() const { return m_col; }
     void PutCol(int col);
+    // Where the user sees the current cell: Col, or the nearest shown column while that one is hidden.
+    int ShownCol() const;
     // The far corner of the selection that holds the current cell; Row and Col when one cell is selected.
     int RowSel() const;
     int ColSel() const;

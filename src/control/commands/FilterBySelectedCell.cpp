@@ -26,7 +26,7 @@ CellFilter conditionOfCell(ControlHub &hub, int row, int col)
 void FilterBySelectedCell(ControlHub &hub)
 {
     const VSFlexGrid &grid = *hub.parts.vsfgDataGrid;
-    const int col = hub.isSingleRecordShown() ? hub.commands.singleRecord.currentGridCol() : grid.Col();
+    const int col = hub.isSingleRecordShown() ? hub.commands.singleRecord.currentGridCol() : grid.ShownCol();
     if (!hub.hasRecords() || grid.Row() == 0 || col == 0)
         return;
     const CellFilter filter = conditionOfCell(hub, grid.Row(), col);

@@ -178,12 +178,7 @@ void frm_FullScreen::makeShownCellCurrent()
         const qint64 row = m_recordset->AbsolutePosition() - firstRecord() + 1;
         grid.PutRow(row >= 1 && row < grid.UsedRows() ? static_cast<int>(row) : 1);
     }
-    int col = grid.Col();
-    if (grid.ColWidth(col) == 0) {
-        for (col = 1; col < grid.Cols() - 1 && grid.ColWidth(col) == 0;)
-            ++col;
-        grid.PutCol(col);
-    }
+    grid.PutCol(grid.ShownCol());
 }
 
 void frm_FullScreen::showEvent(QShowEvent *event)

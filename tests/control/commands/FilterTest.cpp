@@ -252,3 +252,24 @@ TEST_F(Filters, TheCellFilterOfTheListUsesItsField)
     EXPECT_EQ(texts(u"ID"_s), QStringList({u"5"_s, u"8"_s}));
     EXPECT_EQ(listed(u"ID"_s), u"5"_s);
 }
+
+TEST_F(Filters, TheCellThatIsSeenAsSelectedIsMeantWhenThePartViewHidesTheColumn)
+{
+    ASSERT_TRUE(load(u"SELECT ID, 名称, 城市 FROM 商品"_s, u"SELECT 名称 FROM 商品"_s));
+    click(u"Part"_s);
+    clickCell(2, 2);
+    EXPECT_EQ(grid.GetGridCol(), 2) << "the view stood there already, for the hidden first column";
+    choose(14, 2, 2);
+    EXPECT_TRUE(grid.SQLFilter().contains(u"WHERE 名称 like '普洱茶'"_s)) << qPrintable(grid.SQLFilter());
+}
+
+TEST_F(Filters, TheCurrentColumnComesBackWhenItIsShownAgain)
+{
+    ASSERT_TRUE(load(u"SELECT ID, 名称, 城市 FROM 商品"_s, u"SELECT 名称 FROM 商品"_s));
+    EXPECT_EQ(grid.GetGridCol(), 1);
+    EXPECT_EQ(table->currentIndex().column(), 0);
+    click(u"Part"_s);
+    EXPECT_EQ(table->currentIndex().column(), 1);
+    click(u"All"_s);
+    EXPECT_EQ(table->currentIndex().column(), grid.GetGridCol() - 1);
+}

@@ -61,6 +61,25 @@ TEST_F(SingleRecord, ListsTheCurrentRecordWithoutBinaryFields)
     EXPECT_EQ(grid.GetGridRow(), 2);
 }
 
+TEST_F(SingleRecord, ShowsTheRecordOfTheCellThatHadTheKeyboardWhereverThatIs)
+{
+    ASSERT_TRUE(load(u"SELECT ID, 名称 FROM 商品"_s, u"SELECT 名称 FROM 商品"_s));
+    for (const auto &[row, col] : {std::pair(5, 2), std::pair(Records, 2), std::pair(3, 1)}) {
+        clickCell(row, col);
+        table->setFocus();
+        QSignalSpy moves(&grid, &KOVAVSFDataGrid::RecordChanged);
+        for (int turn = 0; turn < 2; ++turn) {
+            click(u"SingleRecord"_s);
+            EXPECT_EQ(listed(u"ID"_s), QString::number(row));
+            EXPECT_EQ(grid.CurrPosition(), row);
+            click(u"AllRecord"_s);
+            EXPECT_EQ(grid.GetGridRow(), row);
+            EXPECT_EQ(grid.GetGridCol(), col);
+        }
+        EXPECT_EQ(moves.size(), 0);
+    }
+}
+
 TEST_F(SingleRecord, ANullIsTheEmptyText)
 {
     ASSERT_TRUE(load());
