@@ -149,6 +149,7 @@ QString JoinStatementLines(const QString &statement)
     const auto isBreak = [](QChar c) { return c == u'\n' || c == u'\r' || c == u'\t'; };
     QString joined;
     joined.reserve(statement.size());
+    qsizetype quotedEnd = 0;
     for (qsizetype i = 0; i < statement.size();) {
         const QChar c = statement.at(i);
         if (const QChar closing = ClosingQuote(c); !closing.isNull()) {
@@ -156,6 +157,7 @@ QString JoinStatementLines(const QString &statement)
             const auto size = end < 0 ? statement.size() - i : end + 1 - i;
             joined += QStringView(statement).mid(i, size);
             i += size;
+            quotedEnd = joined.size();
         } else if (QStringView(statement).mid(i).startsWith(u"--")) {
             while (i < statement.size() && statement.at(i) != u'\n' && statement.at(i) != u'\r')
                 ++i;
@@ -170,6 +172,11 @@ QString JoinStatementLines(const QString &statement)
             ++i;
         }
     }
+    qsizetype end = joined.size();
+    while (end > quotedEnd && (joined.at(end - 1) == u';' || joined.at(end - 1) == u' '))
+        --end;
+    if (QStringView(joined).mid(end).contains(u';'))
+        joined.truncate(end);
     return joined;
 }
 

@@ -253,6 +253,15 @@ TEST_F(Filters, TheCellFilterOfTheListUsesItsField)
     EXPECT_EQ(listed(u"ID"_s), u"5"_s);
 }
 
+TEST_F(Filters, AStatementThatEndsWithASemicolonCanBeFiltered)
+{
+    ASSERT_TRUE(load(u"SELECT * FROM 商品;"_s));
+    EXPECT_EQ(grid.SQLShow(), u"SELECT * FROM 商品;"_s) << "reads back as written";
+    choose(14, 2, 2);
+    EXPECT_EQ(rows(), 1);
+    EXPECT_TRUE(messages.texts().isEmpty());
+}
+
 TEST_F(Filters, TheCellThatIsSeenAsSelectedIsMeantWhenThePartViewHidesTheColumn)
 {
     ASSERT_TRUE(load(u"SELECT ID, 名称, 城市 FROM 商品"_s, u"SELECT 名称 FROM 商品"_s));
