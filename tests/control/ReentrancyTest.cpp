@@ -5,6 +5,7 @@
 #include "support/TestDatabase.h"
 
 #include <QtCore/QPointer>
+#include <QtCore/QTimer>
 #include <QtGui/QAction>
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
@@ -182,6 +183,18 @@ void edit(Grid &grid)
     endEdit(grid);
 }
 
+// Presses a button of the full-screen viewer, which is closed afterwards.
+void pressInViewer(Grid &grid, const QString &key)
+{
+    QTimer::singleShot(0, qApp, [key] {
+        const QWidget *viewer = QApplication::activeModalWidget();
+        ASSERT_TRUE(viewer);
+        const auto *toolbar = viewer->findChild<QToolBar *>(u"Toolbar1"_s);
+        QTest::mouseClick(toolbar->widgetForAction(toolbar->findChild<QAction *>(key)), Qt::LeftButton);
+    });
+    pressButton(grid, u"FullScreen"_s);
+}
+
 const Occasion Occasions[] = {
     {"DataMouseDown", "Click", [](Grid &grid) { clickCell(grid); }},
     {"DataMouseUp", "Click", [](Grid &grid) { clickCell(grid); }},
@@ -251,6 +264,9 @@ const Occasion Occasions[] = {
     {"RecordsetChanged", "ClearObject", [](Grid &grid) { grid.ClearObject(); }},
     {"RecordsetChanged", "ToFullTable", [](Grid &grid) { pressButton(grid, u"ToFullTable"_s); }},
     {"RecordsetChanged", "ToOrigin", [](Grid &grid) { pressButton(grid, u"ToOrigin"_s); }},
+    {"RecordsetChanged", "AllInTheViewer", [](Grid &grid) { pressInViewer(grid, u"All"_s); }},
+    {"RecordsetReplaced", "ToFullTableInTheViewer",
+     [](Grid &grid) { pressInViewer(grid, u"ToFullTable"_s); }},
     {"QurryFilter", "Filter", [](Grid &grid) { pressButton(grid, u"Filter"_s); }},
     {"ShowFieldsChange", "SelField", [](Grid &grid) { pressButton(grid, u"SelField"_s); }},
     {"PropertyChanged", "ToOrigin", [](Grid &grid) { pressButton(grid, u"ToOrigin"_s); }},

@@ -38,8 +38,17 @@ struct HandBack : LoadedParts
 
     FullScreenRequest request()
     {
-        return {parts,    result,    pages,   manager, database.connectionString(),
-                dbAccess, statement, u"ID"_s, {},      [this](QWidget *) { return condition; }};
+        return {control,
+                parts,
+                result,
+                pages,
+                manager,
+                database.connectionString(),
+                dbAccess,
+                statement,
+                u"ID"_s,
+                {},
+                [this](QWidget *) { return condition; }};
     }
 
     QString row(int row) const
@@ -270,7 +279,8 @@ TEST_F(HandBack, AControlThatIsDestroyedMeanwhileTakesTheViewerAlong)
     otherResult.close();
     otherResult.replaceBy(ResultSet::open(database.connectionString(), statement, dbAccess, {}));
     QTimer::singleShot(0, form, [form] { delete form; });
-    EXPECT_FALSE(ShowFullScreen({others,
+    EXPECT_FALSE(ShowFullScreen({*form,
+                                 others,
                                  otherResult,
                                  otherPages,
                                  manager,

@@ -11,10 +11,10 @@ void ShowFullScreen(ControlHub &hub)
     if (!hub.hasRecords())
         return;
     hub.commands.singleRecord.leave();
-    const auto outcome =
-        ShowFullScreen({hub.parts, hub.result, hub.pages, hub.filterManagerToShare(), hub.connectionString,
-                        hub.filterManager().DBType(), hub.commands.statement.current(), hub.sqlSort,
-                        hub.picField, [&hub](QWidget *parent) { return AskForCondition(hub, parent); }});
+    const auto outcome = ShowFullScreen({hub.q, hub.parts, hub.result, hub.pages, hub.filterManagerToShare(),
+                                         hub.connectionString, hub.filterManager().DBType(),
+                                         hub.commands.statement.current(), hub.sqlSort, hub.picField,
+                                         [&hub](QWidget *parent) { return AskForCondition(hub, parent); }});
     if (!outcome)
         return;
     hub.showModel = outcome->isAll ? KOVAVSFDataGrid::ModelAll : KOVAVSFDataGrid::ModelPart;

@@ -1,6 +1,7 @@
 #include "control/viewer/ShowFullScreen.h"
 
 #include "ado/Adodc.h"
+#include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "control/ColumnLayout.h"
 #include "control/GridParts.h"
@@ -11,7 +12,6 @@
 #include "grid/FlexGrid.h"
 #include "query/clsFilterManagement.h"
 
-#include <QtCore/QPointer>
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QPushButton>
 
@@ -26,29 +26,81 @@ bool isOffered(const GridToolbar &toolbar, const QString &key)
     return toolbar.isButtonEnabled(key) && toolbar.isButtonVisible(key);
 }
 
-// What happens to the control's result while the viewer is shown.
-struct Visit
+// The user's stay in the viewer. It ends early when the host destroys the control, or opens or closes a
+// result of it: what the control has lent is another's or gone from then on. The viewer itself is still
+// there, as one of its commands may be what the host was told of.
+class Visit
 {
-    bool isOpening = false;  // the viewer itself puts another result in its place
-    bool isObsolete = false; // the host has done so, or has closed it
+public:
+    explicit Visit(const FullScreenRequest &control);
+
+    frm_FullScreen &viewer() { return m_viewer; }
+    bool isOver() const { return m_isOver; }
+
+private:
+    void end();
+    ViewerHost::Opened open(const QString &statement, const std::function<bool(qint64)> &progress);
+    bool replaceResult(const ResultSet::Opened &opened);
+
+    const FullScreenRequest &m_control;
+    bool m_isReplacing = false; // the viewer itself puts another result in its place
+    bool m_isOver = false;
+    frm_FullScreen m_viewer;
 };
 
-// The control's own grid goes along at once, because its rows are read from the result that was replaced.
-ViewerHost hostFor(const FullScreenRequest &control, Visit &visit)
+Visit::Visit(const FullScreenRequest &control)
+    : m_control(control),
+      m_viewer({[this](const QString &statement, const std::function<bool(qint64)> &progress) {
+                    return open(statement, progress);
+                },
+                control.askCondition},
+               control.parts.picMainBack)
 {
-    const auto open = [&control, &visit](const QString &statement,
-                                         const std::function<bool(qint64)> &progress) {
-        auto opened =
-            ResultSet::open(control.connectionString, statement, control.dbType,
-                            [&](qint64 rowsRead) { return progress(rowsRead) && !visit.isObsolete; });
-        const QScopedValueRollback<bool> opening(visit.isOpening, true);
-        control.result.replaceBy(std::move(opened));
-        control.parts.vsfgDataGrid->ResetColWidths();
-        control.pages.setCurrentPage(1);
-        control.pages.fill(control.pictureField);
-        return ViewerHost::Opened{control.result.connection(), control.result.recordset()};
-    };
-    return {open, control.askCondition};
+    QObject::connect(control.parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, &m_viewer, [this] {
+        if (!m_isReplacing)
+            end();
+    });
+    // Told before the control deletes its children, of which the viewer must be none then.
+    QObject::connect(&control.owner, &QObject::destroyed, &m_viewer, [this] {
+        end();
+        m_viewer.setParent(nullptr, m_viewer.windowFlags());
+    });
+}
+
+void Visit::end()
+{
+    m_isOver = true;
+    m_viewer.ClearRefObject();
+    for (QDialog *dialog : m_viewer.findChildren<QDialog *>())
+        dialog->reject();
+    m_viewer.reject();
+}
+
+// The control's own grid goes along at once, because its rows are read from the result that was replaced.
+ViewerHost::Opened Visit::open(const QString &statement, const std::function<bool(qint64)> &progress)
+{
+    const auto opened = ResultSet::open(m_control.connectionString, statement, m_control.dbType,
+                                        [&](qint64 rowsRead) { return progress(rowsRead) && !m_isOver; });
+    if (!m_isOver && !replaceResult(opened) && !m_isOver)
+        end();
+    if (m_isOver)
+        throw ADODB::Error(ADODB::dbErrCancelled, {});
+    m_control.parts.vsfgDataGrid->ResetColWidths();
+    m_control.pages.setCurrentPage(1);
+    m_control.pages.fill(m_control.pictureField);
+    return {opened.connection, opened.recordset};
+}
+
+// False when the host, told of it, has put something else in the result's place or destroyed the control.
+bool Visit::replaceResult(const ResultSet::Opened &opened)
+{
+    const QScopedValueRollback<bool> replacing(m_isReplacing, true);
+    ResultSet &result = m_control.result;
+    result.close();
+    if (m_isOver || result.isOpen())
+        return false;
+    result.replaceBy(opened);
+    return !m_isOver && result.recordset() == opened.recordset && result.isOpen();
 }
 
 void layOutColumns(const FullScreenRequest &control, bool isAll)
@@ -87,34 +139,20 @@ std::optional<FullScreenOutcome> ShowFullScreen(const FullScreenRequest &control
     // The viewer opens with the widths that the user sees.
     ColumnLayout(*control.parts.vsfgDataGrid, control.filter->SQLManager()).SaveColumnWidths(0);
 
-    // On the heap, because a host that closes its window under the viewer destroys it as well.
-    Visit visit;
-    const QPointer<QWidget> owner = control.parts.picMainBack;
-    auto *viewer = new frm_FullScreen(hostFor(control, visit), control.parts.picMainBack);
-    const QPointer<frm_FullScreen> alive = viewer;
-    // A host that reloads the control meanwhile, from a timer say, takes its result and its history away.
-    QObject::connect(control.parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, viewer, [&, viewer] {
-        if (visit.isOpening)
-            return;
-        visit.isObsolete = true;
-        viewer->ClearRefObject();
-        viewer->reject();
-    });
-    viewer->PutFilterManager(control.filter);
-    viewer->GetData(control.result.connection(), control.result.recordset(), control.pages.currentPage(),
-                    control.connectionString, control.statement, true, control.sqlSort, wasAll,
-                    isOffered(toolbar, u"Filter"_s), isOffered(toolbar, u"Sort"_s),
-                    isOffered(toolbar, u"ToFullTable"_s));
-    viewer->exec();
-    if (!alive)
-        return std::nullopt;
-    const std::unique_ptr<frm_FullScreen> owned(viewer);
-    if (!owner || visit.isObsolete)
+    Visit visit(control);
+    frm_FullScreen &viewer = visit.viewer();
+    viewer.PutFilterManager(control.filter);
+    viewer.GetData(control.result.connection(), control.result.recordset(), control.pages.currentPage(),
+                   control.connectionString, control.statement, true, control.sqlSort, wasAll,
+                   isOffered(toolbar, u"Filter"_s), isOffered(toolbar, u"Sort"_s),
+                   isOffered(toolbar, u"ToFullTable"_s));
+    viewer.exec();
+    if (visit.isOver())
         return std::nullopt;
 
-    takeOver(control, *viewer, wasAll);
-    viewer->ClearRefObject();
-    return FullScreenOutcome{viewer->IsAll(), viewer->IsRequeried(), viewer->CurrentSQL()};
+    takeOver(control, viewer, wasAll);
+    viewer.ClearRefObject();
+    return FullScreenOutcome{viewer.IsAll(), viewer.IsRequeried(), viewer.CurrentSQL()};
 }
 
 } // namespace KOVAVSFDataGridLib

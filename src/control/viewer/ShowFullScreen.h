@@ -18,6 +18,7 @@ class clsFilterManagement;
 // What the control lends the full-screen viewer.
 struct FullScreenRequest
 {
+    QWidget &owner; // the control itself
     GridParts &parts;
     ResultSet &result;
     PageView &pages;

@@ -61,6 +61,7 @@ void frm_FullScreen::press(const QString &key)
     SetPartButton(m_isAll ? 1 : 2);
     makeShownCellCurrent();
     UpdateRecordPosition();
+    tellIfEmpty();
 }
 
 // The host can load another result of the control from behind a dialog: the filter manager that the command
@@ -231,7 +232,7 @@ bool frm_FullScreen::filterBySelectedCell()
                                               grid.Text(), EngineOf(m_connection));
     if (!filter.message.isEmpty())
         Messages::tell(this, filter.message);
-    return !filter.condition.isEmpty() && filterBy(filter.condition);
+    return m_filter && !filter.condition.isEmpty() && filterBy(filter.condition);
 }
 
 // The condition narrows what is shown.
