@@ -2,7 +2,9 @@
 #include "Throwing.h"
 
 #include "ado/Adodc.h"
+#include "ado/Error.h"
 #include "ado/automation/ConnectionObject.h"
+#include "ado/automation/Guarded.h"
 #include "ado/automation/RecordsetObject.h"
 #include "ado/automation/StreamObject.h"
 
@@ -207,6 +209,23 @@ TEST(Automation, LivesAsLongAsTheRecordset)
     recordset.reset();
     EXPECT_TRUE(host.isNull());
     EXPECT_TRUE(id.isNull());
+}
+
+TEST(Automation, TellsNothingOfAnObjectThatItsCallerDeleted)
+{
+    // Stands for any object whose call tells someone, who deletes it, and then fails.
+    auto *object = new ADODB::StreamObject;
+    int told = 0;
+    QObject::connect(object, &ADODB::StreamObject::HostError, [&] { ++told; });
+    const QPointer<QObject> alive(object);
+    EXPECT_EQ(ADODB::guarded(object,
+                             [&]() -> int {
+                                 delete object;
+                                 throw ADODB::Error(ADODB::dbErrFailed, u"too late"_s);
+                             }),
+              0);
+    EXPECT_FALSE(alive);
+    EXPECT_EQ(told, 0);
 }
 
 TEST(Automation, SavesAPictureByNames)

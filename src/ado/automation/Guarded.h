@@ -2,21 +2,27 @@
 
 #include "ado/Error.h"
 
+#include <QtCore/QPointer>
+
 #include <utility>
 
 namespace ADODB {
 
 // Nothing may be thrown at a late-bound caller: runs `action` for `object` and turns what it throws into the
-// object's HostError signal and the neutral value of the result.
+// object's HostError signal and the neutral value of the result. Whoever the action told of something can
+// have deleted the object; then nobody is left to tell.
 template<typename Object, typename Action>
 auto guarded(Object *object, Action &&action) -> decltype(action())
 {
+    const QPointer<Object> alive(object);
     try {
         return std::forward<Action>(action)();
     } catch (const Error &error) {
-        Q_EMIT object->HostError(error.Number(), error.Description());
+        if (alive)
+            Q_EMIT object->HostError(error.Number(), error.Description());
     } catch (const std::exception &error) {
-        Q_EMIT object->HostError(dbErrFailed, QString::fromUtf8(error.what()));
+        if (alive)
+            Q_EMIT object->HostError(dbErrFailed, QString::fromUtf8(error.what()));
     }
     return decltype(action())();
 }
