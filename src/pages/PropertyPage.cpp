@@ -56,7 +56,19 @@ void PropertyPage::SetSelectedControls(const QList<QObject *> &controls)
 {
     m_control = controls.isEmpty() ? nullptr : controls.first();
     m_text->setEnabled(m_control);
+    showWhetherWritable();
     SelectionChanged();
+}
+
+void PropertyPage::showWhetherWritable()
+{
+    const bool isShownOnly = m_control && isReadOnly(*m_control, m_property.toLatin1());
+    m_text->setReadOnly(isShownOnly);
+    // No style tells by itself.
+    QPalette colours;
+    if (isShownOnly)
+        colours.setBrush(QPalette::Base, palette().brush(QPalette::Window));
+    m_text->setPalette(colours);
 }
 
 void PropertyPage::SetWriter(Writer writer)

@@ -24,7 +24,8 @@ public:
     // Writes a value to a property. A form editor gives its own, so that the step can be undone.
     using Writer = std::function<void(QObject &control, const QString &property, const QVariant &value)>;
 
-    // The first control is the one that is shown and written. The page owns none of them and does without one
+    // The first control is the one that is shown and written; where it can't be, the text is for reading and
+    // copying only. The page owns none of them and does without one
     // that is destroyed.
     void SetSelectedControls(const QList<QObject *> &controls);
     // Without one the page writes with QObject::setProperty.
@@ -59,6 +60,8 @@ protected:
     QVBoxLayout &rows() const { return *m_rows; }
 
 private:
+    void showWhetherWritable();
+
     QString m_property;
     Writer m_writer;
     QPointer<QObject> m_control;

@@ -202,12 +202,26 @@ TEST_F(RecordSourcePage, ShowsTheStatement)
 
 TEST_F(RecordSourcePage, ApplyingAChangedTextIsRefusedWithAMessage)
 {
-    type(text(), u"select 1"_s);
+    text().setText(u"select 1"_s); // by program
     EXPECT_FALSE(page->ApplyChanges());
     EXPECT_EQ(messages.texts(), QStringList(u"RecordSource is read-only and can't be changed here."_s));
     EXPECT_EQ(control.recordSource, u"select * from T"_s);
     EXPECT_EQ(text().text(), u"select 1"_s);
     EXPECT_TRUE(page->Changed());
+}
+
+TEST_F(RecordSourcePage, LooksAsReadOnlyAsItIs)
+{
+    type(text(), u"select 1"_s);
+    EXPECT_EQ(text().text(), u"select * from T"_s);
+    EXPECT_TRUE(text().isReadOnly());
+    EXPECT_TRUE(text().isEnabled()) << "it can be copied";
+    const auto base = [this] { return text().palette().color(QPalette::Base); };
+    EXPECT_EQ(base(), page->palette().color(QPalette::Window));
+    QObject object;
+    page->SetSelectedControls({&object});
+    EXPECT_FALSE(text().isReadOnly());
+    EXPECT_EQ(base(), page->palette().color(QPalette::Base));
 }
 
 TEST_F(RecordSourcePage, ApplyingTheSameTextIsNoFault)
