@@ -94,7 +94,7 @@ TEST_F(BuildConnection, AFactoryThatFailsIsToldAndLeavesTheString)
         press(connect, "OKButton");
     }});
     grid.GetConnection();
-    EXPECT_EQ(messages.texts(), QStringList(u"连接失败：the tier is away"_s));
+    EXPECT_EQ(messages.texts(), QStringList(u"The connection failed: the tier is away"_s));
     EXPECT_EQ(grid.ConnectionString(), u"DSN=old"_s);
     ADODB::ConnectionFactory::setInstance(nullptr);
     grid.PutDBType(KOVAVSFDataGrid::dbAccess);
@@ -111,7 +111,7 @@ TEST_F(BuildConnection, WhatWasBuiltAndTriedBecomesTheConnectionString)
                                EXPECT_EQ(builder.objectName(), u"ConnectionBuilder"_s);
                                part<QLineEdit>(builder, "txtFile").setText(database.path());
                                press(builder, "cmdTest");
-                               EXPECT_EQ(part<QLabel>(builder, "lblTest").text(), u"连接成功。"_s);
+                               EXPECT_EQ(part<QLabel>(builder, "lblTest").text(), u"Connected."_s);
                                press(builder, "OKButton");
                            }});
     grid.GetConnection();
@@ -129,7 +129,7 @@ TEST_F(BuildConnection, OffersTheDriversOfThisMachine)
                                const auto &targets = part<QComboBox>(builder, "cmbTarget");
                                const QStringList drivers = ADODB::odbcDrivers();
                                for (const QString &driver : drivers)
-                                   EXPECT_GE(targets.findText(u"ODBC 驱动程序 "_s + driver), 0)
+                                   EXPECT_GE(targets.findText(u"ODBC driver "_s + driver), 0)
                                        << qPrintable(driver);
                                const auto sources = static_cast<qsizetype>(ADODB::odbcDataSources().size());
                                EXPECT_EQ(targets.count(), 2 + drivers.size() + sources);

@@ -60,8 +60,8 @@ TEST_F(Builder, OffersFilesAndWhatIsInstalled)
     QStringList offered;
     for (int index = 0; index < targets().count(); ++index)
         offered += targets().itemText(index);
-    EXPECT_EQ(offered, QStringList({u"SQLite 数据库文件"_s, u"Access 数据库文件"_s, u"ODBC 数据源 shop"_s,
-                                    u"ODBC 驱动程序 MariaDB"_s, u"ODBC 驱动程序 PostgreSQL Unicode"_s}));
+    EXPECT_EQ(offered, QStringList({u"SQLite database file"_s, u"Access database file"_s, u"ODBC data source shop"_s,
+                                    u"ODBC driver MariaDB"_s, u"ODBC driver PostgreSQL Unicode"_s}));
 }
 
 TEST_F(Builder, ShowsTheFieldsThatTheTargetTakes)
@@ -70,12 +70,12 @@ TEST_F(Builder, ShowsTheFieldsThatTheTargetTakes)
     EXPECT_TRUE(isShown("txtFile"));
     EXPECT_FALSE(isShown("txtUser"));
     EXPECT_FALSE(isShown("txtServer"));
-    choose(u"ODBC 数据源 shop"_s);
+    choose(u"ODBC data source shop"_s);
     EXPECT_FALSE(isShown("txtFile"));
     EXPECT_TRUE(isShown("txtUser"));
     EXPECT_TRUE(isShown("txtPassword"));
     EXPECT_FALSE(isShown("txtServer"));
-    choose(u"ODBC 驱动程序 MariaDB"_s);
+    choose(u"ODBC driver MariaDB"_s);
     for (const char *name : {"txtServer", "txtPort", "txtDatabase", "txtUser", "txtPassword"})
         EXPECT_TRUE(isShown(name)) << name;
 }
@@ -83,7 +83,7 @@ TEST_F(Builder, ShowsTheFieldsThatTheTargetTakes)
 TEST_F(Builder, MakesTheStringFromTheFields)
 {
     begin();
-    choose(u"ODBC 驱动程序 PostgreSQL Unicode"_s);
+    choose(u"ODBC driver PostgreSQL Unicode"_s);
     type("txtServer", u"db"_s);
     type("txtPort", u"5432"_s);
     type("txtDatabase", u"shop"_s);
@@ -105,7 +105,7 @@ TEST_F(Builder, APasswordIsInTheStringAndNowhereToBeSeen)
 TEST_F(Builder, BeginsWithTheGivenString)
 {
     begin(u"Driver={MariaDB};Server=db;Port=3306;Database=shop;UID=me;PWD=secret;sslmode=require"_s);
-    EXPECT_EQ(targets().currentText(), u"ODBC 驱动程序 MariaDB"_s);
+    EXPECT_EQ(targets().currentText(), u"ODBC driver MariaDB"_s);
     EXPECT_EQ(field("txtServer").text(), u"db"_s);
     EXPECT_EQ(field("txtPort").text(), u"3306"_s);
     EXPECT_EQ(field("txtDatabase").text(), u"shop"_s);
@@ -113,21 +113,21 @@ TEST_F(Builder, BeginsWithTheGivenString)
     EXPECT_EQ(field("txtPassword").text(), u"secret"_s);
     EXPECT_EQ(dialog.connectionString(),
               u"sslmode=require;Driver=MariaDB;Server=db;Port=3306;Database=shop;UID=me;PWD=secret"_s);
-    choose(u"ODBC 数据源 shop"_s);
+    choose(u"ODBC data source shop"_s);
     EXPECT_EQ(dialog.connectionString(), u"DSN=shop;UID=me;PWD=secret"_s);
 }
 
 TEST_F(Builder, KeepsATargetThatIsNotInstalled)
 {
     begin(u"DSN=elsewhere;UID=me"_s);
-    EXPECT_EQ(targets().currentText(), u"ODBC 数据源 elsewhere（未安装）"_s);
+    EXPECT_EQ(targets().currentText(), u"ODBC data source elsewhere (not installed)"_s);
     EXPECT_EQ(dialog.connectionString(), u"DSN=elsewhere;UID=me"_s);
 }
 
 TEST_F(Builder, BeginsAnewWhereTheStringMakesNoSense)
 {
     begin(u"no keyword"_s);
-    EXPECT_EQ(targets().currentText(), u"SQLite 数据库文件"_s);
+    EXPECT_EQ(targets().currentText(), u"SQLite database file"_s);
     EXPECT_TRUE(field("txtFile").text().isEmpty());
 }
 
@@ -161,7 +161,7 @@ TEST_F(Builder, TheTestTriesTheStringWithItsPassword)
     begin(u"DSN=shop;PWD=secret"_s);
     press(dialog, "cmdTest");
     EXPECT_EQ(tested, u"DSN=shop;PWD=secret"_s);
-    EXPECT_EQ(shownTest(), u"连接成功。"_s);
+    EXPECT_EQ(shownTest(), u"Connected."_s);
     EXPECT_TRUE(dialog.isVisible());
 }
 
@@ -170,7 +170,7 @@ TEST_F(Builder, TheTestTellsTheDatabasesOwnWords)
     begin(u"DSN=shop"_s);
     failure = u"FATAL: no such <b>role</b>"_s;
     press(dialog, "cmdTest");
-    EXPECT_EQ(shownTest(), u"连接失败：FATAL: no such <b>role</b>"_s);
+    EXPECT_EQ(shownTest(), u"The connection failed: FATAL: no such <b>role</b>"_s);
     EXPECT_EQ(part<QLabel>(dialog, "lblTest").textFormat(), Qt::PlainText);
     type("txtUser", u"me"_s);
     EXPECT_TRUE(shownTest().isEmpty()) << "what was tried is not what is there now";
@@ -194,5 +194,5 @@ TEST_F(Builder, EveryFieldHasAnAccessibleName)
     begin();
     for (const QLineEdit *each : dialog.findChildren<QLineEdit *>())
         EXPECT_FALSE(each->accessibleName().isEmpty()) << qPrintable(each->objectName());
-    EXPECT_EQ(targets().accessibleName(), u"连接到"_s);
+    EXPECT_EQ(targets().accessibleName(), u"Connect to"_s);
 }

@@ -41,9 +41,10 @@ QString captionOf(const ConnectionTarget &target)
     return ConnectionTexts::Driver.arg(target.name);
 }
 
-QString withoutMnemonic(const QString &label)
+// "&Connect to:" is "Connect to".
+QString nameIn(QString label)
 {
-    return label.left(label.indexOf(u'('));
+    return label.remove(u'&').chopped(1);
 }
 
 } // namespace
@@ -85,7 +86,7 @@ QLineEdit *ConnectionBuilder::addField(const QString &label, const QString &name
 {
     auto *field = new QLineEdit(this);
     field->setObjectName(name);
-    field->setAccessibleName(withoutMnemonic(label));
+    field->setAccessibleName(nameIn(label));
     m_form->addRow(label, field);
     return field;
 }
@@ -93,9 +94,9 @@ QLineEdit *ConnectionBuilder::addField(const QString &label, const QString &name
 void ConnectionBuilder::layOut()
 {
     m_target->setObjectName(u"cmbTarget"_s);
-    m_target->setAccessibleName(withoutMnemonic(ConnectionTexts::ConnectTo));
+    m_target->setAccessibleName(nameIn(ConnectionTexts::ConnectTo));
     m_file->setObjectName(u"txtFile"_s);
-    m_file->setAccessibleName(withoutMnemonic(ConnectionTexts::File));
+    m_file->setAccessibleName(nameIn(ConnectionTexts::File));
     auto *browseButton = new QPushButton(ConnectionTexts::Browse, m_fileRow);
     browseButton->setObjectName(u"cmdBrowse"_s);
     browseButton->setAutoDefault(false);
