@@ -1,5 +1,7 @@
 #include "control/EmptyHint.h"
 
+#include "control/GridTexts.h"
+
 #include <QtCore/QEvent>
 #include <QtWidgets/QAbstractScrollArea>
 
@@ -21,6 +23,11 @@ void EmptyHint::tell(const QString &text)
 {
     setText(text);
     place();
+}
+
+void EmptyHint::tellNoRecords(bool canGoBack)
+{
+    tell(canGoBack ? GridTexts::NoRecordsFound : GridTexts::NoRecords);
 }
 
 bool EmptyHint::eventFilter(QObject *watched, QEvent *event)

@@ -16,6 +16,8 @@ public:
 
     // An empty text hides it.
     void tell(const QString &text);
+    // That the result has no records, and whether a step back leads to one that may have some.
+    void tellNoRecords(bool canGoBack);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -107,7 +107,7 @@ void KOVAVSFDataGrid::Private::tellStatement()
     else if (result.recordset()->RecordCount() > 0)
         parts.lblEmpty->tell({});
     else
-        parts.lblEmpty->tell(canGoBack ? GridTexts::NoRecordsFound : GridTexts::NoRecords);
+        parts.lblEmpty->tellNoRecords(canGoBack);
 }
 
 void KOVAVSFDataGrid::Private::runSteps(QStringView title, std::initializer_list<std::function<void()>> steps)

@@ -8,6 +8,7 @@
 
 #include <QtGui/QScreen>
 #include <QtTest/QTest>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
@@ -116,6 +117,30 @@ TEST_F(Viewer, AnEmptyResultShowsTheHeadingsAlone)
     EXPECT_EQ(user.row(0), u"ID Name Price Born"_s);
     EXPECT_EQ(user.rows(), 0);
     EXPECT_EQ(user.label(), u"第0页共0页"_s);
+}
+
+TEST_F(Viewer, AnEmptyResultIsToldWithTheWayBack)
+{
+    load(u"select * from T"_s);
+    show();
+    const auto *hint = viewer.findChild<QLabel *>(u"lblEmpty"_s);
+    ASSERT_TRUE(hint);
+    EXPECT_FALSE(hint->isVisible());
+    condition = u"ID > 99"_s;
+    user.press(u"Filter"_s);
+    EXPECT_TRUE(hint->isVisible());
+    EXPECT_EQ(hint->text(), u"没有符合条件的记录。按“后退”返回上一步的结果。"_s);
+    EXPECT_FALSE(user.grid().showGrid()) << "the rows behind it hold nothing";
+    user.press(u"ToPreview"_s);
+    EXPECT_FALSE(hint->isVisible());
+    EXPECT_TRUE(user.grid().showGrid());
+}
+
+TEST_F(Viewer, AResultThatWasEmptyFromTheBeginningHasNoWayBack)
+{
+    load(u"select * from T where ID > 99"_s);
+    show();
+    EXPECT_EQ(viewer.findChild<QLabel *>(u"lblEmpty"_s)->text(), u"没有记录"_s);
 }
 
 TEST_F(Viewer, ANullIsTheEmptyText)

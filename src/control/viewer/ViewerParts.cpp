@@ -1,5 +1,6 @@
 #include "control/viewer/ViewerParts.h"
 
+#include "control/EmptyHint.h"
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
 #include "control/viewer/ViewerTexts.h"
@@ -28,6 +29,7 @@ ViewerParts::ViewerParts(QDialog &window)
       Toolbar1(new GridToolbar(fraTitle)),
       cmdClose(new QPushButton(ViewerTexts::Close, fraTitle)),
       vsfgShowData(new VSFlexGrid(picBox)),
+      lblEmpty(new EmptyHint(*vsfgShowData)),
       txtPage(new QLineEdit(picBox)),
       cmdPgae(new QPushButton(GridTexts::GoToPage, picBox)),
       lblPageCount(new QLabel(picBox))

@@ -11,6 +11,7 @@ class QWidget;
 
 namespace KOVAVSFDataGridLib {
 
+class EmptyHint;
 class GridToolbar;
 class VSFlexGrid;
 
@@ -26,6 +27,7 @@ public:
     GridToolbar *Toolbar1;
     QPushButton *cmdClose;
     VSFlexGrid *vsfgShowData;
+    EmptyHint *lblEmpty;
     QLineEdit *txtPage;
     QPushButton *cmdPgae;
     QLabel *lblPageCount;

@@ -3,6 +3,7 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "control/ColumnLayout.h"
+#include "control/EmptyHint.h"
 #include "control/GridTexts.h"
 #include "control/GridToolbar.h"
 #include "control/MenuKey.h"
@@ -15,6 +16,7 @@
 #include "grid/FlexGrid.h"
 #include "grid/TextCells.h"
 #include "query/SharedValues.h"
+#include "query/clsFilterManagement.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
@@ -82,6 +84,7 @@ void frm_FullScreen::GetData(const std::shared_ptr<ADODB::Connection> &newConnec
     FillGrid();
     applyFieldWidths();
     UpdateRecordPosition();
+    tellIfEmpty();
 }
 
 bool frm_FullScreen::isOpen() const
@@ -179,6 +182,14 @@ void frm_FullScreen::makeShownCellCurrent()
         grid.PutRow(row >= 1 && row < grid.UsedRows() ? static_cast<int>(row) : 1);
     }
     grid.PutCol(grid.ShownCol());
+}
+
+void frm_FullScreen::tellIfEmpty()
+{
+    if (!isOpen() || hasRecords())
+        m_parts.lblEmpty->tell({});
+    else
+        m_parts.lblEmpty->tellNoRecords(m_filter && m_filter->SQLManager().Count() > 1);
 }
 
 void frm_FullScreen::showEvent(QShowEvent *event)

@@ -70,6 +70,7 @@ private:
     qint64 firstRecord() const;
     void UpdateRecordPosition();
     void makeShownCellCurrent();
+    void tellIfEmpty();
 
     // Columns
     ColumnLayout columns();
