@@ -1,5 +1,11 @@
 #include "grid/CellDelegate.h"
 
+#include "grid/WholeText.h"
+
+#include <QtGui/QHelpEvent>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QToolTip>
+
 #include <algorithm>
 
 namespace KOVAVSFDataGridLib {
@@ -12,6 +18,21 @@ QString CellDelegate::displayText(const QVariant &value, const QLocale &) const
         std::find_if(text.begin(), text.begin() + std::min<qsizetype>(text.size(), LongestText), isLineBreak);
     const qsizetype length = lineEnd - text.begin();
     return length == text.size() ? text : text.first(length) + u'…';
+}
+
+bool CellDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+                             const QModelIndex &index)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    const QString text = index.data().toString();
+    const bool isCut =
+        displayText(text, option.locale) != text || sizeHint(option, index).width() > option.rect.width();
+    if (isCut)
+        showWholeText(text, event->globalPos(), *view->viewport(), option.rect);
+    else
+        QToolTip::hideText();
+    return true;
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -21,6 +21,8 @@ public:
     // The rows up to the last one that can hold something: 1 ... rows(). Those below are empty; keys and the
     // scroll bar of a view do not lead there.
     virtual int usedRows() const { return rows(); }
+    // True while no cell and no heading has a text.
+    virtual bool isBlank() const { return false; }
     virtual QString text(int row, int col) const = 0;
     // Whether the column holds numbers, which stand to the right.
     virtual bool isNumeric(int col) const = 0;

@@ -34,7 +34,6 @@ FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false); // Tab goes on to the next control; the arrows walk over the cells
     setSelectionMode(ContiguousSelection);
-    setAlternatingRowColors(true);
     setHorizontalScrollMode(ScrollPerPixel);
     setWordWrap(false);
     setCornerButtonEnabled(false);
@@ -48,6 +47,7 @@ FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
     disconnect(horizontalHeader(), &QHeaderView::sectionEntered, this, nullptr);
     applyRowHeight();
     setModel(m_model);
+    applyLines();
     m_widths.assign(static_cast<std::size_t>(Cols()), UseDefaultWidth);
     applyWidths();
     connect(horizontalHeader(), &QHeaderView::sectionResized, this,
@@ -85,6 +85,11 @@ void FlexGrid::PutCols(int cols)
 int FlexGrid::UsedRows() const
 {
     return m_model->source().usedRows();
+}
+
+bool FlexGrid::isBlank() const
+{
+    return m_model->source().isBlank();
 }
 
 void FlexGrid::PutRow(int row)
@@ -255,6 +260,7 @@ void FlexGrid::PutTextMatrix(int row, int col, const QString &text)
     checkRow(row);
     checkCol(col);
     m_model->setText(row, col, text);
+    applyLines();
 }
 
 QString FlexGrid::Text() const
@@ -330,6 +336,7 @@ void FlexGrid::Show(std::unique_ptr<CellSource> source)
     // The view restores section sizes of its own on a reset; ours are the exact ones.
     const QScopedValueRollback<bool> applying(m_isApplyingWidths, true);
     m_model->setSource(std::move(source));
+    applyLines();
     m_row = 0;
     m_col = 0;
     m_widths.resize(static_cast<std::size_t>(Cols()), UseDefaultWidth);
@@ -381,6 +388,13 @@ int FlexGrid::section(int col) const
     return col - m_model->fixedCols();
 }
 
+void FlexGrid::applyLines()
+{
+    const bool hasRows = !isBlank() && UsedRows() > 1;
+    setShowGrid(hasRows);
+    setAlternatingRowColors(hasRows);
+}
+
 void FlexGrid::applyRowHeight()
 {
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Twips::toPixels(RowPadding, *this));
@@ -410,9 +424,21 @@ void FlexGrid::applyWidth(int col)
         setColumnWidth(section(col), Twips::toPixels(ColWidthInUse(col), *this));
 }
 
+// The last one in view, where it takes whatever width is left.
+bool FlexGrid::isStretched(int section) const
+{
+    if (!horizontalHeader()->stretchLastSection())
+        return false;
+    for (int behind = section + 1; behind < m_model->columnCount(); ++behind) {
+        if (!isColumnHidden(behind))
+            return false;
+    }
+    return true;
+}
+
 void FlexGrid::onSectionResized(int section, int size)
 {
-    if (m_isApplyingWidths)
+    if (m_isApplyingWidths || isStretched(section))
         return;
     const int col = section + m_model->fixedCols();
     const int twips = Twips::fromPixels(size, *this);

@@ -35,6 +35,9 @@ public:
     void PutCols(int cols);
     // Rows without the empty ones that the source of the cells has at its end.
     int UsedRows() const;
+    // Whether no cell and no heading has a text. Such a grid is drawn as one plain surface, however many rows
+    // and columns it has; so are the rows of one that uses none.
+    bool isBlank() const;
 
     // The current cell; 0 while a heading (or nothing) is current. Writing does not scroll.
     int Row() const { return m_row; }
@@ -113,7 +116,9 @@ private:
     void checkCol(int col) const;
     void makeCurrent(int row, int col);
     int section(int col) const;
+    bool isStretched(int section) const;
     int nearestShownSection(int section) const;
+    void applyLines();
     void applyRowHeight();
     void applyWidths();
     void applyWidth(int col);

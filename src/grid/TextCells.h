@@ -15,6 +15,7 @@ public:
 
     int rows() const override { return m_rows; }
     int cols() const override { return m_cols; }
+    bool isBlank() const override { return m_texts.isEmpty(); }
     QString text(int row, int col) const override;
     bool isNumeric(int) const override { return false; }
     bool setText(int row, int col, const QString &text) override;

@@ -3,13 +3,18 @@
 #include "grid/TextCells.h"
 #include "grid/Twips.h"
 
+#include <QtGui/QHelpEvent>
+#include <QtGui/QTextDocumentFragment>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QToolTip>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <stdexcept>
 
 using namespace KOVAVSFDataGridLib;
@@ -38,6 +43,37 @@ struct Grid : testing::Test
 
     VSFlexGrid grid;
 };
+
+// What a tool tip says where the mouse rests, as it is read.
+QString tipAt(QWidget &viewport, const QPoint &position)
+{
+    QToolTip::hideText();
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+    QHelpEvent rest(QEvent::ToolTip, position, viewport.mapToGlobal(position));
+    QCoreApplication::sendEvent(&viewport, &rest);
+    return QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText().remove(QChar(0x200B));
+}
+
+// A million numbered rows.
+struct Numbered final : CellSource
+{
+    int rows() const override { return 1000000; }
+    int cols() const override { return 4; }
+    QString text(int row, int col) const override { return col == 0 ? QString::number(row) : u"x"_s; }
+    bool isNumeric(int) const override { return false; }
+    bool setText(int, int, const QString &) override { return false; }
+};
+
+bool isOneColour(const QImage &image)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != image.pixel(0, 0))
+                return false;
+        }
+    }
+    return true;
+}
 
 } // namespace
 
@@ -246,6 +282,80 @@ TEST_F(Grid, PressingAHeadingSelectsNothingAndMovesNothing)
     EXPECT_EQ(grid.selectionModel()->selectedIndexes(), selected);
 }
 
+TEST_F(Grid, AHeadingThatIsCutShowsItsBeginningAndIsWholeInItsToolTip)
+{
+    const QString whole = u"WWWW and <b>what</b> comes behind it"_s;
+    grid.PutTextMatrix(0, 2, whole);
+    grid.PutTextMatrix(0, 3, u"WWWW and something else"_s);
+    QHeaderView *header = grid.horizontalHeader();
+    const auto beginning = [header](int section) {
+        const int left = header->sectionViewportPosition(section);
+        return header->viewport()
+            ->grab({left, 0, header->sectionSize(section) / 2, header->height()})
+            .toImage();
+    };
+    EXPECT_EQ(beginning(1), beginning(2)) << "both begin with the same letters";
+    const QPoint inside(header->sectionViewportPosition(1) + 5, header->height() / 2);
+    const QPoint before = inside - QPoint(header->sectionSize(0), 0);
+    EXPECT_EQ(tipAt(*header->viewport(), inside), whole);
+    EXPECT_EQ(tipAt(*header->viewport(), before), QString()) << "r0c1 fits";
+    grid.PutColWidth(2, 15 * 1000);
+    EXPECT_EQ(tipAt(*header->viewport(), inside), QString());
+}
+
+TEST_F(Grid, ACellThatIsCutIsWholeInItsToolTip)
+{
+    const auto tip = [this](int row, int col) { return tipAt(*grid.viewport(), centreOf(row, col)); };
+    EXPECT_EQ(tip(2, 2), QString()) << "it fits";
+    const QString whole = u"a text that is wider than the column, <i>as it is</i>"_s;
+    grid.PutTextMatrix(2, 2, whole);
+    EXPECT_EQ(tip(2, 2), whole);
+    grid.PutTextMatrix(3, 2, u"a\nb"_s);
+    EXPECT_EQ(tip(3, 2), u"a\nb"_s) << "only the first line is drawn";
+    grid.PutTextMatrix(4, 2, QString(1000000, u'x'));
+    EXPECT_EQ(tip(4, 2), QString(1000, u'x') + u'…');
+    EXPECT_EQ(tip(2, 3), QString());
+}
+
+TEST_F(Grid, ATipIsNarrowerThanAScreenWhateverTheText)
+{
+    grid.PutTextMatrix(4, 2, QString(1000, u'x'));
+    tipAt(*grid.viewport(), centreOf(4, 2));
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto tip = std::ranges::find_if(
+        windows, [](const QWidget *window) { return window->inherits("QTipLabel") && window->isVisible(); });
+    ASSERT_NE(tip, windows.end());
+    EXPECT_LT((*tip)->width(), 800);
+}
+
+TEST_F(Grid, RowHeadingsAreNoWiderThanTheirNumbers)
+{
+    grid.Show(std::make_unique<Numbered>());
+    QCoreApplication::processEvents();
+    const QHeaderView *header = grid.verticalHeader();
+    const int margins = 2 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
+    const int number = header->fontMetrics().horizontalAdvance(u"999999"_s);
+    EXPECT_EQ(header->width(), number + margins);
+}
+
+TEST_F(Grid, AGridWithoutAnyTextIsAPlainSurface)
+{
+    const auto isPlain = [this] {
+        const QHeaderView *header = grid.horizontalHeader();
+        return isOneColour(grid.viewport()->grab().toImage()) &&
+               isOneColour(header->viewport()->grab({0, header->height() / 2, header->width(), 1}).toImage());
+    };
+    EXPECT_FALSE(isPlain());
+    grid.Show(std::make_unique<TextCells>(2, 2));
+    EXPECT_TRUE(isPlain());
+    EXPECT_EQ(grid.Rows(), 2);
+    EXPECT_EQ(grid.Cols(), 2);
+    grid.PutTextMatrix(0, 1, u"heading"_s);
+    EXPECT_FALSE(isPlain());
+    grid.Clear();
+    EXPECT_TRUE(isPlain());
+}
+
 TEST_F(Grid, RowsAreAsHighAsTheFontNeeds)
 {
     QFont font = grid.font();
@@ -321,6 +431,22 @@ TEST(CellDelegate, DrawsTheFirstLineAndNoMoreThanCanBeSeen)
     EXPECT_EQ(delegate.displayText(QString(CellDelegate::LongestText, u'x'), locale).size(),
               CellDelegate::LongestText);
     EXPECT_EQ(delegate.displayText(QString(1000000, u'x'), locale).size(), CellDelegate::LongestText + 1);
+}
+
+TEST(MSFlexGrid, TheLastColumnFillsWhateverWidthThereIs)
+{
+    MSFlexGrid grid;
+    QSignalSpy changed(&grid, &FlexGrid::ColWidthChanged);
+    grid.show();
+    for (const int width : {600, 300}) {
+        grid.resize(width, 200);
+        grid.Show(std::make_unique<TextCells>(3, 2));
+        QCoreApplication::processEvents();
+        EXPECT_EQ(grid.ColWidth(1), FlexGrid::UseDefaultWidth) << "nobody gave it another";
+        EXPECT_EQ(grid.columnWidth(0) + grid.columnWidth(1), grid.viewport()->width());
+        EXPECT_EQ(grid.horizontalScrollBar()->maximum(), 0);
+    }
+    EXPECT_TRUE(changed.isEmpty());
 }
 
 TEST(MSFlexGrid, BothColumnsAreData)

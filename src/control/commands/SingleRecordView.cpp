@@ -112,7 +112,6 @@ void SingleRecordView::FillSingleRecordView()
         cells->setText(at, ValueCol, valueText(field));
     }
     list.Show(std::move(cells));
-    list.PutColWidth(ValueCol, FlexGrid::UseDefaultWidth); // from which it fills whatever width there is
     if (at > 0) {
         list.PutRow(std::clamp(row, 1, at));
         list.PutCol(ValueCol);
