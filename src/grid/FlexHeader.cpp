@@ -38,7 +38,8 @@ QSize FlexHeader::sectionSizeFromContents(int logicalIndex) const
     initStyleOption(&option);
     option.section = logicalIndex;
     option.text = model()->headerData(logicalIndex, orientation()).toString();
-    return style()->sizeFromContents(QStyle::CT_HeaderSection, &option, {}, this);
+    const QSize size = style()->sizeFromContents(QStyle::CT_HeaderSection, &option, {}, this);
+    return m_grid.isBlank() ? QSize(0, size.height()) : size;
 }
 
 // A style draws a text that is too long over both ends of its section.
