@@ -7,13 +7,9 @@
 #include "control/GridToolbar.h"
 #include "control/KOVAVSFDataGridPrivate.h"
 #include "control/KeyCodes.h"
-#include "control/commands/FieldCommands.h"
-#include "control/commands/FilterCommands.h"
-#include "control/commands/FullScreenCommand.h"
-#include "control/commands/HistoryCommands.h"
+#include "control/commands/CommandTables.h"
 #include "control/commands/PageCommands.h"
 #include "control/commands/RecordCommands.h"
-#include "control/commands/SortByDialog.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 
@@ -25,7 +21,6 @@
 
 #include <algorithm>
 #include <exception>
-#include <iterator>
 #include <utility>
 
 namespace KOVAVSFDataGridLib {
@@ -33,27 +28,6 @@ namespace KOVAVSFDataGridLib {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// What has to hold before a command runs.
-enum class Needs { Nothing, Records };
-// What becomes of the record that is being edited: it is left alone; it is listed anew, so that a value being
-// typed is taken first; or it is left for another one, so that it is saved first.
-enum class Record { Stays, IsListedAnew, IsLeft };
-
-struct ToolbarCommand
-{
-    QString key;
-    Needs needs;
-    Record record;
-    void (*run)(ControlHub &hub);
-};
-
-struct MenuCommand
-{
-    int index;
-    Record record;
-    void (*run)(ControlHub &hub);
-};
 
 // False when what was typed can't be taken or saved, which the user has been told, and when the host, told of
 // it, has taken away what the command was to work on.
@@ -68,83 +42,6 @@ bool isReady(ControlHub &hub, Record record)
         return true;
     }
 }
-
-void selectShowFields(ControlHub &hub)
-{
-    QString statement;
-    SelectShowFields(hub, statement);
-}
-
-void sortByDialog(ControlHub &hub)
-{
-    QString sort;
-    bool ok = false;
-    SortByDialog(hub, sort, ok);
-}
-
-void showSingleRecord(ControlHub &hub)
-{
-    if (!hub.commands.statement.current().trimmed().isEmpty())
-        hub.commands.singleRecord.ShowSingleRecord();
-}
-
-void showAllRecords(ControlHub &hub)
-{
-    hub.commands.singleRecord.ShowAllRecords();
-}
-
-// Only where many records are shown already, so that the single record stays.
-void filterByDialog(ControlHub &hub)
-{
-    if (!hub.parts.Toolbar1->isButtonVisible(u"AllRecord"_s))
-        showAllRecords(hub);
-    FilterByDialog(hub);
-}
-
-const ToolbarCommand ToolbarCommands[] = {
-    {u"All"_s, Needs::Records, Record::IsListedAnew, ShowAllFields},
-    {u"Part"_s, Needs::Records, Record::IsListedAnew, ShowPartFields},
-    {u"SingleRecord"_s, Needs::Records, Record::Stays, showSingleRecord},
-    {u"AllRecord"_s, Needs::Records, Record::IsLeft, showAllRecords},
-    {u"Filter"_s, Needs::Nothing, Record::IsLeft, filterByDialog},
-    {u"Sort"_s, Needs::Nothing, Record::IsLeft, sortByDialog},
-    {u"First"_s, Needs::Nothing, Record::IsLeft, [](ControlHub &hub) { GotoPage(hub, 1); }},
-    {u"Previous"_s, Needs::Nothing, Record::IsLeft, [](ControlHub &hub) { GotoPage(hub, 2); }},
-    {u"Next"_s, Needs::Nothing, Record::IsLeft, [](ControlHub &hub) { GotoPage(hub, 3); }},
-    {u"Last"_s, Needs::Nothing, Record::IsLeft, [](ControlHub &hub) { GotoPage(hub, 4); }},
-    {u"FullScreen"_s, Needs::Records, Record::IsLeft, ShowFullScreen},
-    {u"ToPreview"_s, Needs::Nothing, Record::IsLeft, GotoPreviewSQL},
-    {u"ToOrigin"_s, Needs::Nothing, Record::IsLeft, GotoOriginSQL},
-    {u"FromResult"_s, Needs::Nothing, Record::Stays,
-     [](ControlHub &hub) { hub.commands.toggleFromResult(); }},
-    {u"CompressView"_s, Needs::Nothing, Record::Stays, [](ControlHub &hub) { hub.q.SeeCompressView(); }},
-    {u"ToFullTable"_s, Needs::Nothing, Record::IsLeft, ShowFullTable},
-    {u"SelField"_s, Needs::Nothing, Record::IsLeft, selectShowFields},
-    {u"QuickFilter"_s, Needs::Records, Record::IsLeft, QuickFilter},
-};
-
-// The indexes left out are separators.
-const MenuCommand MenuCommands[] = {
-    {1, Record::IsListedAnew, ShowAllFields},
-    {2, Record::IsListedAnew, ShowPartFields},
-    {4, Record::IsLeft, ShowFullScreen},
-    {5, Record::Stays, showSingleRecord},
-    {6, Record::IsLeft, showAllRecords},
-    {8, Record::Stays, InsertRecord},
-    {9, Record::Stays, DeleteRecord},
-    {11, Record::IsLeft,
-     [](ControlHub &hub) {
-         hub.commands.singleRecord.leave();
-         FilterByDialog(hub);
-     }},
-    {12, Record::IsLeft,
-     [](ControlHub &hub) {
-         hub.commands.singleRecord.leave();
-         sortByDialog(hub);
-     }},
-    {14, Record::IsLeft, FilterBySelectedCell},
-    {15, Record::IsLeft, ShowFullTable},
-};
 
 } // namespace
 
@@ -186,10 +83,9 @@ GridCommands::~GridCommands()
 
 void GridCommands::run(const QString &key)
 {
-    const auto *command = std::find_if(std::begin(ToolbarCommands), std::end(ToolbarCommands),
-                                       [&](const ToolbarCommand &each) { return each.key == key; });
+    const ToolbarCommand *const command = toolbarCommand(key);
     perform([&] {
-        const bool runs = command != std::end(ToolbarCommands) && isReady(m_hub, command->record) &&
+        const bool runs = command && isReady(m_hub, command->record) &&
                           (command->needs == Needs::Nothing || m_hub.hasRecords());
         if (runs)
             command->run(m_hub);
@@ -198,11 +94,10 @@ void GridCommands::run(const QString &key)
 
 void GridCommands::DoDataAction(int index, bool &ok)
 {
-    const auto *command = std::find_if(std::begin(MenuCommands), std::end(MenuCommands),
-                                       [&](const MenuCommand &each) { return each.index == index; });
+    const MenuCommand *const command = menuCommand(index);
     perform([&] {
-        ok = m_hub.parts.Toolbar1->isEnabled() && command != std::end(MenuCommands) &&
-             m_hub.result.isOpen() && isReady(m_hub, command->record);
+        ok = m_hub.parts.Toolbar1->isEnabled() && command && m_hub.result.isOpen() &&
+             isReady(m_hub, command->record);
         if (ok)
             command->run(m_hub);
     });
