@@ -60,8 +60,9 @@ TEST_F(Builder, OffersFilesAndWhatIsInstalled)
     QStringList offered;
     for (int index = 0; index < targets().count(); ++index)
         offered += targets().itemText(index);
-    EXPECT_EQ(offered, QStringList({u"SQLite database file"_s, u"Access database file"_s, u"ODBC data source shop"_s,
-                                    u"ODBC driver MariaDB"_s, u"ODBC driver PostgreSQL Unicode"_s}));
+    EXPECT_EQ(offered,
+              QStringList({u"SQLite database file"_s, u"Access database file"_s, u"ODBC data source shop"_s,
+                           u"ODBC driver MariaDB"_s, u"ODBC driver PostgreSQL Unicode"_s}));
 }
 
 TEST_F(Builder, ShowsTheFieldsThatTheTargetTakes)
