@@ -231,6 +231,27 @@ TEST_P(OdbcLocks, EndAChangeOfARowWithoutItsBeingMade)
     EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s);
 }
 
+TEST_P(OdbcLocks, EndAnEditOfATableThatSomebodyHolds)
+{
+    const auto connection = std::make_shared<Connection>();
+    connection->Open(connectionString() + u";Command Timeout=1"_s);
+    const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s, connection);
+    holdTable();
+    recordset->Fields().Item(1).PutValue(u"mine"_s);
+    EXPECT_EQ(errorOf([&] { recordset->Update(); }).SQLState(), u"HYT00"_s);
+    recordset->CancelUpdate();
+    recordset->AddNew();
+    recordset->Fields().Item(0).PutValue(3);
+    EXPECT_EQ(errorOf([&] { recordset->Update(); }).SQLState(), u"HYT00"_s);
+    recordset->CancelUpdate();
+    EXPECT_EQ(errorOf([&] { recordset->Delete(); }).SQLState(), u"HYT00"_s);
+    other.reset();
+    EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"2"_s);
+    recordset->Fields().Item(1).PutValue(u"mine"_s);
+    recordset->Update();
+    EXPECT_EQ(ask(u"SELECT a FROM kova_a WHERE id = 1"_s), u"mine"_s);
+}
+
 class OnPostgreSql : public OnServer
 {
 };
