@@ -86,7 +86,9 @@ void throwOdbcError(SQLSMALLINT handleType, SQLHANDLE handle, OdbcConnection &co
         throw Error(number, text.contains("%1"_L1) ? text.arg(words) : text, u"ODBC"_s, state,
                     diagnosis.native);
     };
-    if (startsWithAny(state, {"28"_L1}) || words.contains("password authentication failed"_L1))
+    // PostgreSQL's driver gives what the server and pools before it say of a login under a general state.
+    if (startsWithAny(state, {"28"_L1}) ||
+        (work == OdbcWork::Connecting && words.contains("authentication failed"_L1)))
         fail(dbErrAuthFailed, Texts::authenticationFailed());
     if (startsWithAny(state, {"HYT"_L1}))
         fail(dbErrFailed, work == OdbcWork::Connecting ? Texts::connectTimedOut() : Texts::timedOut());
