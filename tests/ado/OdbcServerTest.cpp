@@ -4,10 +4,12 @@
 
 #include "ado/ConnectionString.h"
 #include "ado/OdbcCatalogue.h"
+#include "ado/providers/odbc/OdbcHandle.h"
 #include "servers/OdbcSession.h"
 
 #include <QtCore/QElapsedTimer>
 
+#include <array>
 #include <optional>
 
 #ifdef Q_OS_UNIX
@@ -140,6 +142,25 @@ TEST_P(OdbcServer, IsClosedOnceTheServerEndedItAndCanBeOpenedAgain)
     EXPECT_EQ(connection->State(), adStateClosed);
     connection->Open();
     EXPECT_EQ(open(u"SELECT 1"_s, connection)->CellText(1, 0), u"1"_s);
+}
+
+// A statement that is prepared anew tells the server to forget what it was; the loss then goes by another
+// number.
+TEST_P(OdbcServer, IsKnownToBeLostByAStatementThatIsPreparedAnew)
+{
+    const auto connection = std::make_shared<OdbcConnection>();
+    connection->connect(connectionString(), 15, {});
+    const OdbcHandle statement(connection);
+    statement.execute(is("MariaDB") ? u"SELECT connection_id()"_s : u"SELECT pg_backend_pid()"_s);
+    ASSERT_TRUE(statement.fetch());
+    std::array<char, 32> id{};
+    SQLGetData(statement.get(), 1, SQL_C_CHAR, id.data(), static_cast<SQLLEN>(id.size()), nullptr);
+    SQLFreeStmt(statement.get(), SQL_CLOSE);
+    execute((is("MariaDB") ? u"KILL %1"_s : u"SELECT pg_terminate_backend(%1)"_s)
+                .arg(QString::fromLatin1(id.data())));
+    const Error error = errorOf([&] { statement.execute(u"SELECT 1"_s); });
+    EXPECT_TRUE(error.Description().contains(u"连接已断开")) << error.what() << ' ' << error.NativeError();
+    EXPECT_TRUE(connection->isLost());
 }
 
 TEST_P(OdbcServer, LetsNoFunctionInAQueryChangeData)

@@ -61,11 +61,13 @@ void refineSqlite(Diagnosis &diagnosis)
         diagnosis.state = u"42S02"_s;
 }
 
-// The native numbers by which MariaDB and MySQL say that the server went away, under a general state.
+// The native numbers by which MariaDB, MySQL and their drivers say under a general state that the server went
+// away: killed, gone, lost, and that nobody reads any more what is written.
 bool isLoss(const Diagnosis &diagnosis)
 {
+    static constexpr SQLINTEGER numbers[] = {1927, 2006, 2013, 5014};
     return diagnosis.state.startsWith("08"_L1) || diagnosis.state.startsWith("57P0"_L1) ||
-           diagnosis.native == 1927 || diagnosis.native == 2006 || diagnosis.native == 2013;
+           std::find(std::begin(numbers), std::end(numbers), diagnosis.native) != std::end(numbers);
 }
 
 bool startsWithAny(const QString &state, std::initializer_list<QLatin1StringView> starts)
