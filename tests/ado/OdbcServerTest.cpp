@@ -4,10 +4,12 @@
 
 #include "ado/ConnectionString.h"
 #include "ado/OdbcCatalogue.h"
+#include "ado/providers/odbc/OdbcHandle.h"
 #include "servers/OdbcSession.h"
 
 #include <QtCore/QElapsedTimer>
 
+#include <array>
 #include <optional>
 
 #ifdef Q_OS_UNIX
@@ -142,6 +144,25 @@ TEST_P(OdbcServer, IsClosedOnceTheServerEndedItAndCanBeOpenedAgain)
     EXPECT_EQ(open(u"SELECT 1"_s, connection)->CellText(1, 0), u"1"_s);
 }
 
+// A statement that is prepared anew tells the server to forget what it was; the loss then goes by another
+// number.
+TEST_P(OdbcServer, IsKnownToBeLostByAStatementThatIsPreparedAnew)
+{
+    const auto connection = std::make_shared<OdbcConnection>();
+    connection->connect(connectionString(), 15, {});
+    const OdbcHandle statement(connection);
+    statement.execute(is("MariaDB") ? u"SELECT connection_id()"_s : u"SELECT pg_backend_pid()"_s);
+    ASSERT_TRUE(statement.fetch());
+    std::array<char, 32> id{};
+    SQLGetData(statement.get(), 1, SQL_C_CHAR, id.data(), static_cast<SQLLEN>(id.size()), nullptr);
+    SQLFreeStmt(statement.get(), SQL_CLOSE);
+    execute((is("MariaDB") ? u"KILL %1"_s : u"SELECT pg_terminate_backend(%1)"_s)
+                .arg(QString::fromLatin1(id.data())));
+    const Error error = errorOf([&] { statement.execute(u"SELECT 1"_s); });
+    EXPECT_TRUE(error.Description().contains(u"连接已断开")) << error.what() << ' ' << error.NativeError();
+    EXPECT_TRUE(connection->isLost());
+}
+
 TEST_P(OdbcServer, LetsNoFunctionInAQueryChangeData)
 {
     execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY)"_s);
@@ -229,6 +250,27 @@ TEST_P(OdbcLocks, EndAChangeOfARowWithoutItsBeingMade)
     EXPECT_EQ(ask(u"SELECT a FROM kova_a WHERE id = 1"_s), u"x"_s);
     recordset->Delete();
     EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s);
+}
+
+TEST_P(OdbcLocks, EndAnEditOfATableThatSomebodyHolds)
+{
+    const auto connection = std::make_shared<Connection>();
+    connection->Open(connectionString() + u";Command Timeout=1"_s);
+    const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s, connection);
+    holdTable();
+    recordset->Fields().Item(1).PutValue(u"mine"_s);
+    EXPECT_EQ(errorOf([&] { recordset->Update(); }).SQLState(), u"HYT00"_s);
+    recordset->CancelUpdate();
+    recordset->AddNew();
+    recordset->Fields().Item(0).PutValue(3);
+    EXPECT_EQ(errorOf([&] { recordset->Update(); }).SQLState(), u"HYT00"_s);
+    recordset->CancelUpdate();
+    EXPECT_EQ(errorOf([&] { recordset->Delete(); }).SQLState(), u"HYT00"_s);
+    other.reset();
+    EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"2"_s);
+    recordset->Fields().Item(1).PutValue(u"mine"_s);
+    recordset->Update();
+    EXPECT_EQ(ask(u"SELECT a FROM kova_a WHERE id = 1"_s), u"mine"_s);
 }
 
 class OnPostgreSql : public OnServer

@@ -71,6 +71,11 @@ TEST_F(Builder, ShowsTheFieldsThatTheTargetTakes)
     EXPECT_TRUE(isShown("txtFile"));
     EXPECT_FALSE(isShown("txtUser"));
     EXPECT_FALSE(isShown("txtServer"));
+    EXPECT_FALSE(isShown("txtPassword"));
+    choose(u"Access database file"_s);
+    EXPECT_TRUE(isShown("txtFile"));
+    EXPECT_TRUE(isShown("txtPassword"));
+    EXPECT_FALSE(isShown("txtUser"));
     choose(u"ODBC data source shop"_s);
     EXPECT_FALSE(isShown("txtFile"));
     EXPECT_TRUE(isShown("txtUser"));
@@ -101,6 +106,19 @@ TEST_F(Builder, APasswordIsInTheStringAndNowhereToBeSeen)
     EXPECT_EQ(dialog.connectionString(), u"Jet OLEDB:Database Password=marker1;DSN=shop;PWD=marker2"_s);
     EXPECT_EQ(shownResult(), u"DSN=shop;PWD=●●●●●●"_s);
     EXPECT_FALSE(field("txtPassword").displayText().contains(u"marker"_s));
+}
+
+TEST_F(Builder, APasswordOfAnAccessFileIsNowhereToBeSeenEither)
+{
+    begin(u"Provider=Microsoft.ACE.OLEDB.12.0;Data Source=a.mdb"_s);
+    type("txtPassword", u"marker"_s);
+    EXPECT_EQ(dialog.connectionString(),
+              u"Provider=Microsoft.ACE.OLEDB.12.0;Data Source=a.mdb;Jet OLEDB:Database Password=marker"_s);
+    EXPECT_EQ(shownResult(),
+              u"Provider=Microsoft.ACE.OLEDB.12.0;Data Source=a.mdb;Jet OLEDB:Database Password=●●●●●●"_s);
+    EXPECT_FALSE(field("txtPassword").displayText().contains(u"marker"_s));
+    press(dialog, "cmdTest");
+    EXPECT_EQ(tested, dialog.connectionString());
 }
 
 TEST_F(Builder, BeginsWithTheGivenString)

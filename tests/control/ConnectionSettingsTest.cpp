@@ -47,12 +47,24 @@ TEST(ConnectionSettings, WriteWhatTheTargetTakes)
     ConnectionSettings settings{{}, u"/a b/shop.db"_s, u"db"_s, u"5432"_s, u"shop"_s, u"me"_s, u"a;b"_s};
     EXPECT_EQ(settings.write().text(), u"Provider=SQLite;Data Source=/a b/shop.db"_s);
     settings.target = {Kind::AccessFile, {}};
-    EXPECT_EQ(settings.write().text(), u"Provider=Microsoft.ACE.OLEDB.12.0;Data Source=/a b/shop.db"_s);
+    EXPECT_EQ(settings.write().text(), u"Provider=Microsoft.ACE.OLEDB.12.0;Data Source=/a b/shop.db;"
+                                       "Jet OLEDB:Database Password=\"a;b\""_s);
     settings.target = {Kind::DataSource, u"Shop"_s};
     EXPECT_EQ(settings.write().text(), u"DSN=Shop;UID=me;PWD=\"a;b\""_s);
     settings.target = {Kind::Driver, u"PostgreSQL Unicode"_s};
     EXPECT_EQ(settings.write().text(),
               u"Driver=PostgreSQL Unicode;Server=db;Port=5432;Database=shop;UID=me;PWD=\"a;b\""_s);
+}
+
+// The other password that Access knows is a user's, and no field shows it.
+TEST(ConnectionSettings, TakeThePasswordOfAnAccessFileFromItsOwnKeyword)
+{
+    const ADODB::ConnectionString given(u"Data Source=a.mdb;Password=x;jet oledb:database password=secret"_s);
+    ConnectionSettings settings = ConnectionSettings::read(given);
+    EXPECT_EQ(settings.password, u"secret"_s);
+    settings.password.clear();
+    EXPECT_EQ(settings.write(given).text(),
+              u"Password=x;Provider=Microsoft.ACE.OLEDB.12.0;Data Source=a.mdb"_s);
 }
 
 TEST(ConnectionSettings, EmptyFieldsLeaveNoKeyword)

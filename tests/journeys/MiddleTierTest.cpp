@@ -96,6 +96,14 @@ TEST_F(MiddleTierJourney, ASwitchWithoutANameKeepsTheConnection)
     EXPECT_TRUE(hands.load(u"SELECT * FROM journey_pooled"_s, {}));
 }
 
+TEST_F(MiddleTierJourney, RefusesAWrongPasswordAsTheDatabaseWould)
+{
+    Hands hands(QString(pool).replace(markerPassword(), u"wrong"_s), KOVAVSFDataGrid::dbSQLServer);
+    EXPECT_FALSE(hands.load(u"SELECT * FROM journey_pooled"_s, {}));
+    EXPECT_TRUE(hands.messages.texts().value(0).contains(u"数据库服务器拒绝登录"))
+        << qUtf8Printable(hands.messages.texts().join(u'|'));
+}
+
 // With transaction pooling each transaction may run in another session of the server: nothing may count on
 // finding what it left there.
 TEST_F(MiddleTierJourney, ManyControlsShareAFewSessionsOfTheServer)

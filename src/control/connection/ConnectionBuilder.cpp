@@ -207,18 +207,18 @@ void ConnectionBuilder::showTarget()
     m_form->setRowVisible(m_fileRow, isFile);
     for (QLineEdit *field : {m_server, m_port, m_database})
         m_form->setRowVisible(field, isDriver);
-    for (QLineEdit *field : {m_user, m_password})
-        m_form->setRowVisible(field, !isFile);
+    m_form->setRowVisible(m_user, !isFile);
+    m_form->setRowVisible(m_password, target().takesPassword());
     showResult();
 }
 
 void ConnectionBuilder::showResult()
 {
     const bool isComplete = !target().isFile() || !m_file->text().isEmpty();
-    const QString shown = composed(settings()).textWithoutPassword();
-    m_result->setText(m_password->text().isEmpty() || target().isFile()
-                          ? shown
-                          : shown + u";PWD="_s + QString::fromUtf16(hiddenPassword));
+    QString shown = composed(settings()).textWithoutPassword();
+    if (target().takesPassword() && !m_password->text().isEmpty())
+        shown += u";%1=%2"_s.arg(target().passwordKeywords().first(), QString::fromUtf16(hiddenPassword));
+    m_result->setText(shown);
     m_result->setCursorPosition(0);
     m_tested->clear();
     m_test->setEnabled(isComplete && m_outside.test);

@@ -1,7 +1,5 @@
 #include "control/connection/ConnectionSettings.h"
 
-#include <QtCore/QStringList>
-
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
@@ -18,7 +16,6 @@ const QStringList serverKeywords{u"Server"_s, u"ServerName"_s};
 const QStringList portKeywords{u"Port"_s};
 const QStringList databaseKeywords{u"Database"_s, u"Initial Catalog"_s};
 const QStringList userKeywords{u"UID"_s, u"User ID"_s};
-const QStringList passwordKeywords{u"PWD"_s, u"Password"_s};
 
 QString valueOf(const ADODB::ConnectionString &connection, const QStringList &keywords)
 {
@@ -64,6 +61,20 @@ QString providerOf(Kind kind)
 
 } // namespace
 
+QStringList ConnectionTarget::passwordKeywords() const
+{
+    switch (kind) {
+    case Kind::SqliteFile:
+        return {};
+    case Kind::AccessFile:
+        return {u"Jet OLEDB:Database Password"_s};
+    case Kind::DataSource:
+    case Kind::Driver:
+        break;
+    }
+    return {u"PWD"_s, u"Password"_s};
+}
+
 ConnectionSettings ConnectionSettings::read(const ADODB::ConnectionString &connection)
 {
     ConnectionSettings settings;
@@ -73,7 +84,7 @@ ConnectionSettings ConnectionSettings::read(const ADODB::ConnectionString &conne
     settings.port = valueOf(connection, portKeywords);
     settings.database = valueOf(connection, databaseKeywords);
     settings.user = valueOf(connection, userKeywords);
-    settings.password = valueOf(connection, passwordKeywords);
+    settings.password = valueOf(connection, settings.target.passwordKeywords());
     return settings;
 }
 
@@ -97,10 +108,10 @@ ADODB::ConnectionString ConnectionSettings::write(const ADODB::ConnectionString 
         put(portKeywords, port);
         put(databaseKeywords, database);
     }
-    if (!target.isFile()) {
+    if (!target.isFile())
         put(userKeywords, user);
-        put(passwordKeywords, password);
-    }
+    if (target.takesPassword())
+        put(target.passwordKeywords(), password);
     return connection;
 }
 

@@ -2,7 +2,7 @@
 
 #include "ado/ConnectionString.h"
 
-#include <QtCore/QString>
+#include <QtCore/QStringList>
 
 namespace KOVAVSFDataGridLib {
 
@@ -15,6 +15,9 @@ struct ConnectionTarget
     QString name; // of the ODBC data source or driver
 
     bool isFile() const { return kind == Kind::SqliteFile || kind == Kind::AccessFile; }
+    // Under which its password stands; the first is the one that is written. None where it has no password.
+    QStringList passwordKeywords() const;
+    bool takesPassword() const { return !passwordKeywords().isEmpty(); }
     bool operator==(const ConnectionTarget &) const = default;
 };
 

@@ -38,6 +38,7 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         engine.beginReading = u"BEGIN READ ONLY; SET LOCAL standard_conforming_strings = on"_s;
         engine.endReading = u"ROLLBACK"_s;
         engine.explain = u"EXPLAIN "_s;
+        engine.limitLocks = u"SET LOCAL lock_timeout = %1"_s;
         engine.lockRow = u" FOR UPDATE"_s;
         engine.returning = true;
         engine.asksAgain = engine.bendsDates =

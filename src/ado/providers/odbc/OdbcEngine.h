@@ -24,6 +24,9 @@ struct OdbcEngine
     // Before a query: the statement that takes what the query needs and runs nothing. Empty where a query can
     // be stopped while it is prepared.
     QString explain;
+    // Has the server itself end a wait for a lock after %1 milliseconds of this transaction, for calls that
+    // the driver can't stop; empty where there are none.
+    QString limitLocks;
     QString lockRow; // behind a SELECT: keeps the row from others until the transaction ends
     // INSERT … RETURNING gives the columns of the new row.
     bool returning = false;

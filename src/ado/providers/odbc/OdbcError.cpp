@@ -61,11 +61,13 @@ void refineSqlite(Diagnosis &diagnosis)
         diagnosis.state = u"42S02"_s;
 }
 
-// The native numbers by which MariaDB and MySQL say that the server went away, under a general state.
+// The native numbers by which MariaDB, MySQL and their drivers say under a general state that the server went
+// away: killed, gone, lost, and that nobody reads any more what is written.
 bool isLoss(const Diagnosis &diagnosis)
 {
+    static constexpr SQLINTEGER numbers[] = {1927, 2006, 2013, 5014};
     return diagnosis.state.startsWith("08"_L1) || diagnosis.state.startsWith("57P0"_L1) ||
-           diagnosis.native == 1927 || diagnosis.native == 2006 || diagnosis.native == 2013;
+           std::find(std::begin(numbers), std::end(numbers), diagnosis.native) != std::end(numbers);
 }
 
 bool startsWithAny(const QString &state, std::initializer_list<QLatin1StringView> starts)
@@ -86,7 +88,9 @@ void throwOdbcError(SQLSMALLINT handleType, SQLHANDLE handle, OdbcConnection &co
         throw Error(number, text.contains("%1"_L1) ? text.arg(words) : text, u"ODBC"_s, state,
                     diagnosis.native);
     };
-    if (startsWithAny(state, {"28"_L1}) || words.contains("password authentication failed"_L1))
+    // PostgreSQL's driver gives what the server and pools before it say of a login under a general state.
+    if (startsWithAny(state, {"28"_L1}) ||
+        (work == OdbcWork::Connecting && words.contains("authentication failed"_L1)))
         fail(dbErrAuthFailed, Texts::authenticationFailed());
     if (startsWithAny(state, {"HYT"_L1}))
         fail(dbErrFailed, work == OdbcWork::Connecting ? Texts::connectTimedOut() : Texts::timedOut());

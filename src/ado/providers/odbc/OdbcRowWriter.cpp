@@ -107,6 +107,14 @@ OdbcPatience OdbcRowWriter::patience() const
     return {limit > 0 ? limit : adoCommandTimeout};
 }
 
+// Where the driver can't stop a call that waits. A second later than what can be stopped, which tells the
+// limit in its own words.
+QString OdbcRowWriter::limitOfLocks() const
+{
+    const QString &limit = m_session->engine().limitLocks;
+    return limit.isEmpty() ? QString() : limit.arg((patience().timeout + 1) * 1000);
+}
+
 void OdbcRowWriter::changeOneRow(const OdbcHandle &statement) const
 {
     const SQLRETURN code =
@@ -179,7 +187,7 @@ void OdbcRowWriter::insertAndFindKey(const QString &insertion, const std::vector
 void OdbcRowWriter::insert(const std::vector<Change> &changes, RowStore &stored)
 {
     const OdbcEngine &engine = m_session->engine();
-    OdbcTransaction transaction(m_session->connection());
+    OdbcTransaction transaction(m_session->connection(), limitOfLocks());
     QStringList names;
     QStringList places;
     for (const Change &change : changes) {
@@ -207,7 +215,7 @@ void OdbcRowWriter::insert(const std::vector<Change> &changes, RowStore &stored)
 void OdbcRowWriter::update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
                            RowStore &stored)
 {
-    OdbcTransaction transaction(m_session->connection());
+    OdbcTransaction transaction(m_session->connection(), limitOfLocks());
     Key before;
     Key after;
     KeyValues kept(m_target.key.size());
@@ -242,7 +250,7 @@ void OdbcRowWriter::update(const std::vector<RawValue> &row, const std::vector<C
 
 void OdbcRowWriter::remove(const std::vector<RawValue> &row)
 {
-    OdbcTransaction transaction(m_session->connection());
+    OdbcTransaction transaction(m_session->connection(), limitOfLocks());
     Key key;
     for (const OdbcTarget::KeyColumn &column : m_target.key)
         key.push_back(row[static_cast<std::size_t>(column.column)]);

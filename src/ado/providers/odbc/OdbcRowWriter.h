@@ -34,6 +34,8 @@ private:
     void bindChanges(OdbcParameters &parameters, const std::vector<Change> &changes) const;
     // How long to wait for a row that somebody else is changing.
     OdbcPatience patience() const;
+    // What tells the server the same at the beginning of a transaction; empty where that is not needed.
+    QString limitOfLocks() const;
     // Runs a statement that must change exactly one row.
     void changeOneRow(const OdbcHandle &statement) const;
     // The one row with that key, locked where the engine can.

@@ -21,6 +21,13 @@ OdbcTransaction::OdbcTransaction(std::shared_ptr<OdbcConnection> connection)
         throwOdbcError(SQL_HANDLE_DBC, m_connection->handle(), *m_connection);
 }
 
+OdbcTransaction::OdbcTransaction(std::shared_ptr<OdbcConnection> connection, const QString &first)
+    : OdbcTransaction(std::move(connection))
+{
+    if (!first.isEmpty())
+        OdbcHandle(m_connection).execute(first);
+}
+
 // What is committed is not touched by this any more.
 OdbcTransaction::~OdbcTransaction()
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QtGlobal>
+#include <QtCore/QString>
 
 #include <memory>
 
@@ -12,13 +12,16 @@ class OdbcConnection;
 class OdbcTransaction
 {
 public:
-    explicit OdbcTransaction(std::shared_ptr<OdbcConnection> connection);
+    // Runs the statement `first`, if there is one.
+    OdbcTransaction(std::shared_ptr<OdbcConnection> connection, const QString &first);
     ~OdbcTransaction();
     Q_DISABLE_COPY_MOVE(OdbcTransaction)
 
     void commit();
 
 private:
+    explicit OdbcTransaction(std::shared_ptr<OdbcConnection> connection);
+
     std::shared_ptr<OdbcConnection> m_connection;
 };
 
