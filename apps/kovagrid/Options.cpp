@@ -40,7 +40,10 @@ QString Options::usage()
            "                [--sort TEXT] [--table-type table|view|sql] [--do KEY[,KEY...]] [--print "
            "[ROWS]]\n"
            "                [--screenshot FILE]\n"
-           "Without --connection it opens a sample database, which it makes on first use."_s;
+           "Without --connection it opens a sample database, which it makes on first use.\n"
+           "Without a display, or with --screenshot, it prints \"Loaded N records, M fields in S s\"; with "
+           "--print\n"
+           "that line goes to standard error, so that standard output holds the records alone."_s;
 }
 
 std::optional<Options> Options::parse(const QStringList &arguments, QString &error)
@@ -91,6 +94,9 @@ std::optional<Options> Options::parse(const QStringList &arguments, QString &err
         }
         options.printRows = rows;
     }
-    options.keys = parser.value(u"do"_s).split(u',', Qt::SkipEmptyParts);
+    for (const QString &key : parser.value(u"do"_s).split(u',')) {
+        if (!key.trimmed().isEmpty())
+            options.keys.append(key.trimmed());
+    }
     return options;
 }

@@ -1,19 +1,23 @@
 #include "SampleDatabase.h"
 
+#include "HostTexts.h"
+
 #include <QtCore/QBuffer>
 #include <QtCore/QDate>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QStandardPaths>
+#include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 
 #include <sqlite3.h>
 
 #include <array>
-#include <memory>
+#include <filesystem>
 #include <random>
 #include <stdexcept>
+#include <system_error>
 
 using namespace Qt::StringLiterals;
 
@@ -249,11 +253,8 @@ bool isCurrent(const QString &fileName)
     return isCurrent;
 }
 
-} // namespace
-
-void SampleDatabase::create(const QString &fileName)
+void create(const QString &fileName)
 {
-    QFile::remove(fileName);
     Database database(fileName);
     database.run("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA foreign_keys = ON; BEGIN");
     database.run(schema());
@@ -265,20 +266,43 @@ void SampleDatabase::create(const QString &fileName)
     database.run("COMMIT");
 }
 
+// In a folder of its own first, so that a start that is broken off leaves no half of a database behind and
+// two starts at once don't write into each other's.
+void createInOneStep(const QString &fileName)
+{
+    const QTemporaryDir ownFolder(fileName + u".XXXXXX"_s);
+    if (!ownFolder.isValid())
+        throw std::runtime_error(ownFolder.errorString().toStdString());
+    const QString finished = ownFolder.filePath(u"sample.db"_s);
+    create(finished);
+    if (isCurrent(fileName)) // another start was faster
+        return;
+    // Takes an older file's place, which QFile would have to remove first.
+    std::error_code error;
+    std::filesystem::rename(finished.toStdU16String(), fileName.toStdU16String(), error);
+    if (error && !isCurrent(fileName))
+        throw std::runtime_error(error.message());
+}
+
+std::runtime_error failure(const QString &text)
+{
+    return std::runtime_error(text.toStdString());
+}
+
+} // namespace
+
 QString SampleDatabase::path()
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    const QString fileName = folder + u"/sample.db"_s;
-    if (isCurrent(fileName))
-        return fileName;
     if (!QDir().mkpath(folder))
-        throw std::runtime_error(qPrintable(u"can't make the folder "_s + folder));
-    // Under another name first, so that a start that is broken off leaves no half of a database behind.
-    const QString unfinished = fileName + u".new"_s;
-    create(unfinished);
-    QFile::remove(fileName);
-    if (!QFile::rename(unfinished, fileName))
-        throw std::runtime_error(qPrintable(u"can't write "_s + fileName));
+        throw failure(HostTexts::CantMakeFolder.arg(folder));
+    QString fileName = folder + u"/sample.db"_s;
+    try {
+        if (!isCurrent(fileName))
+            createInOneStep(fileName);
+    } catch (const std::exception &error) {
+        throw failure(HostTexts::CantMakeSample.arg(fileName, QString::fromUtf8(error.what())));
+    }
     return fileName;
 }
 

@@ -6,11 +6,9 @@
 namespace SampleDatabase {
 
 // The path of the sample database of this user, which is made when it is missing or of an older kind.
-// Throws std::runtime_error when it can't be written.
+// Several processes may ask at once. Throws std::runtime_error, with a text for the user in UTF-8, when it
+// can't be made.
 QString path();
-
-// Makes it as a new file; a file of that name is replaced.
-void create(const QString &fileName);
 
 QString defaultStatement();
 QString defaultPartStatement();

@@ -1,3 +1,4 @@
+#include "HostTexts.h"
 #include "HostWindow.h"
 #include "Options.h"
 #include "SampleDatabase.h"
@@ -97,9 +98,9 @@ int runUnattended(HostWindow &window, const Options &options)
     // Standard output belongs to the records when they are asked for.
     std::fprintf(options.print ? stderr : stdout, "%s\n", qUtf8Printable(summary));
     if (options.print && !Unattended::print(*table, options.printRows))
-        return failed(u"can't write the records"_s);
+        return failed(HostTexts::CantPrint);
     if (!options.screenshot.isEmpty() && !window.grab().save(options.screenshot))
-        return failed(u"can't write "_s + options.screenshot);
+        return failed(HostTexts::CantSavePicture.arg(options.screenshot));
     if (!unattended.messages().isEmpty())
         return failed(unattended.messages());
     window.close();

@@ -32,7 +32,7 @@ Q_ENUM_NS(CursorLocationEnum)
 
 // How a result follows changes; every one is opened as adOpenStatic.
 enum CursorTypeEnum : qint32 {
-    adOpenUnspecified = -1, // not said
+    adOpenUnspecified = -1, // not said: as the property CursorType says
     adOpenForwardOnly = 0,  // forwards only
     adOpenKeyset = 1,       // rows fixed, values live
     adOpenDynamic = 2,      // all live
@@ -42,7 +42,7 @@ Q_ENUM_NS(CursorTypeEnum)
 
 // Whether a result can be written.
 enum LockTypeEnum : qint32 {
-    adLockUnspecified = -1,   // not said: read-only
+    adLockUnspecified = -1,   // not said: as the property LockType says
     adLockReadOnly = 1,       // read-only
     adLockPessimistic = 2,    // each record when its edit begins; written as adLockOptimistic
     adLockOptimistic = 3,     // each record when it is saved

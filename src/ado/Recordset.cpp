@@ -8,11 +8,27 @@
 
 namespace ADODB {
 
+namespace {
+
+void needCursorType(CursorTypeEnum type)
+{
+    if (type < adOpenForwardOnly || type > adOpenStatic)
+        throw Error(adErrInvalidArgument, Texts::badArgument().arg(qint32{type}));
+}
+
+void needLockType(LockTypeEnum type)
+{
+    if (type < adLockReadOnly || type > adLockBatchOptimistic)
+        throw Error(adErrInvalidArgument, Texts::badArgument().arg(qint32{type}));
+}
+
+} // namespace
+
 Snapshot Recordset::Private::read(Session &session, const QString &statement)
 {
     const auto report = progress;
     const auto query =
-        session.prepare(statement, lockType == adLockReadOnly ? Access::ReadOnly : Access::ReadWrite,
+        session.prepare(statement, openedLockType == adLockReadOnly ? Access::ReadOnly : Access::ReadWrite,
                         [&] { return !report || report(0); });
     RowStore store(query->columns(), memoryLimit);
     query->fetch(store, [&] { return !report || report(store.rows()); });
@@ -45,21 +61,19 @@ CursorTypeEnum Recordset::CursorType() const
 void Recordset::PutCursorType(CursorTypeEnum type)
 {
     d->needClosed();
-    if (type < adOpenForwardOnly || type > adOpenStatic)
-        throw Error(adErrInvalidArgument, Texts::badArgument().arg(qint32{type}));
+    needCursorType(type);
     d->cursorType = type;
 }
 
 LockTypeEnum Recordset::LockType() const
 {
-    return d->lockType;
+    return d->snapshot ? d->openedLockType : d->lockType;
 }
 
 void Recordset::PutLockType(LockTypeEnum type)
 {
     d->needClosed();
-    if (type < adLockReadOnly || type > adLockBatchOptimistic)
-        throw Error(adErrInvalidArgument, Texts::badArgument().arg(qint32{type}));
+    needLockType(type);
     d->lockType = type;
 }
 
@@ -87,10 +101,11 @@ void Recordset::Open(const QString &source, const std::shared_ptr<Connection> &c
     d->needClosed();
     if (!connection || connection->State() == adStateClosed)
         throw Error(adErrInvalidConnection, Texts::connectionClosed());
-    if (cursorType != adOpenUnspecified)
-        PutCursorType(cursorType);
+    if (cursorType != adOpenUnspecified) // its result is a snapshot all the same
+        needCursorType(cursorType);
     if (lockType != adLockUnspecified)
-        PutLockType(lockType);
+        needLockType(lockType);
+    d->openedLockType = lockType == adLockUnspecified ? d->lockType : lockType;
 
     // A copy, because a progress report can let the host close the connection.
     const std::shared_ptr<Session> session = connection->session();

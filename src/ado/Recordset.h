@@ -23,9 +23,10 @@ public:
     ~Recordset();
     Q_DISABLE_COPY_MOVE(Recordset)
 
-    // How to open. Every result is a client-side static snapshot, whatever is asked for; an open recordset
-    // says so (adUseClient, adOpenStatic). LockType adLockReadOnly, the default, refuses edits. Writing one
-    // of the three throws 3705 while open.
+    // How to open where Open itself doesn't say. Every result is a client-side static snapshot, whatever is
+    // asked for; an open recordset says so (adUseClient, adOpenStatic), and LockType then says how it was
+    // opened. LockType adLockReadOnly, the default, refuses edits. Writing one of the three throws 3705 while
+    // open.
     CursorLocationEnum CursorLocation() const;
     void PutCursorLocation(CursorLocationEnum location);
     CursorTypeEnum CursorType() const;
@@ -48,7 +49,8 @@ public:
 
     // Runs `source`, which must be one statement that returns rows and changes nothing; anything else is
     // refused before it runs. adCmdTable and adCmdTableDirect take a table's name instead. On success the
-    // first record is current, or BOF and EOF are both true. On failure the recordset is closed.
+    // first record is current, or BOF and EOF are both true. On failure the recordset is closed. A cursor or
+    // lock type counts for this opening alone; one that is unspecified is the property's.
     void Open(const QString &source, const std::shared_ptr<Connection> &connection,
               CursorTypeEnum cursorType = adOpenUnspecified, LockTypeEnum lockType = adLockUnspecified,
               qint32 options = adCmdUnspecified);

@@ -24,7 +24,8 @@ struct Recordset::Private
 {
     CursorLocationEnum cursorLocation = adUseServer;
     CursorTypeEnum cursorType = adOpenForwardOnly;
-    LockTypeEnum lockType = adLockReadOnly;
+    LockTypeEnum lockType = adLockReadOnly;       // of openings that don't say
+    LockTypeEnum openedLockType = adLockReadOnly; // of the latest opening
     qint32 pageSize = 10;
     QString source;
     std::function<bool(qint64)> progress;

@@ -88,8 +88,10 @@ public:
     virtual QString SQLPartDisplay() const = 0;
     virtual void PutSQLPartDisplay(const QString &statement) = 0;
 
-    // The statement that the user's last filter, sort or choice of fields made, for the host to read; empty
-    // when a filter ended without a condition. What a host writes is kept and changes nothing that is shown.
+    // The statement that the user's last filter or choice of fields made or that the user last went back to,
+    // for the host to read; empty when a filter ended without a condition. "Sort", "ToFullTable", "All" and
+    // "Part" leave it as it was; the full-screen view writes the statement that it opened last. What a host
+    // writes is kept and changes nothing that is shown.
     virtual QString SQLFilter() const = 0;
     virtual void PutSQLFilter(const QString &statement) = 0;
 
@@ -164,14 +166,15 @@ public:
     // Asks for a connection string, and on request for SQLShow; what is entered is written to the properties
     // with all that follows from that. Nothing changes when the dialog is cancelled.
     virtual void GetConnection() = 0;
-    // Lets the user choose the fields to show, as the toolbar button "SelField" does. Does nothing without
-    // records.
+    // Lets the user choose the fields to show, as the toolbar button "SelField" does, also over a result
+    // without records. Does nothing where nothing was loaded.
     virtual void SetFieldName() = 0;
     // Lets the user edit SQLShow; nothing changes when the dialog is cancelled.
     virtual void SetSQLShow() = 0;
     // Lets the user edit SQLFilter; nothing changes when the dialog is cancelled.
     virtual void SetSQLFilter() = 0;
-    // Lets the user choose the sort, as the toolbar button "Sort" does. Does nothing without records.
+    // Lets the user choose the sort, as the toolbar button "Sort" does, also over a result without records.
+    // Does nothing where nothing was loaded.
     virtual void SetSortFN() = 0;
 
     // Makes a column current. One outside the grid is told in a message box and changes nothing.

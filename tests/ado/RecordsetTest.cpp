@@ -177,6 +177,34 @@ TEST(Recordset, SaysHowItWasOpened)
     EXPECT_EQ(recordset.Fields().Count(), 2) << "a closed one can be opened again";
 }
 
+TEST(Recordset, OpensWritableOnlyWhenTheOpeningOrThePropertySaysSo)
+{
+    const TestDatabase database(numbers);
+    const auto connection = database.connect();
+    Recordset recordset;
+    recordset.Open(u"SELECT * FROM n"_s, connection, adOpenKeyset, adLockOptimistic);
+    recordset.Close();
+    EXPECT_EQ(recordset.LockType(), adLockReadOnly);
+    recordset.Open(u"SELECT * FROM n"_s, connection);
+    EXPECT_EQ(recordset.LockType(), adLockReadOnly) << "what the opening before said is over";
+    EXPECT_ADO_ERROR(adErrFeatureNotAvailable, recordset.Delete());
+    recordset.Close();
+
+    recordset.PutLockType(adLockOptimistic);
+    EXPECT_ADO_ERROR(adErrInvalidArgument,
+                     recordset.Open(u"SELECT * FROM n"_s, connection, static_cast<CursorTypeEnum>(9)));
+    EXPECT_ADO_ERROR(adErrInvalidArgument, recordset.Open(u"SELECT * FROM n"_s, connection, adOpenStatic,
+                                                          static_cast<LockTypeEnum>(9)));
+    recordset.Open(u"SELECT * FROM n"_s, connection, adOpenStatic, adLockReadOnly);
+    EXPECT_EQ(recordset.LockType(), adLockReadOnly);
+    EXPECT_ADO_ERROR(adErrFeatureNotAvailable, recordset.Delete());
+    recordset.Close();
+    EXPECT_EQ(recordset.LockType(), adLockOptimistic);
+    recordset.Open(u"SELECT * FROM n"_s, connection);
+    recordset.Delete();
+    EXPECT_EQ(database.ask(u"SELECT count(*) FROM n"_s), u"24"_s);
+}
+
 TEST(Recordset, StaysReadableWhenItsConnectionCloses)
 {
     const TestDatabase database(numbers);

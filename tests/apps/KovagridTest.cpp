@@ -1,11 +1,14 @@
 #include "support/TestDatabase.h"
 
 #include <QtCore/QCryptographicHash>
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
 #include <QtGui/QImage>
 #include <gtest/gtest.h>
+
+#include <array>
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
@@ -26,6 +29,11 @@ struct Kovagrid : testing::Test
     Outcome run(const QStringList &arguments)
     {
         QProcess process;
+        start(process, arguments);
+        return outcomeOf(process);
+    }
+    void start(QProcess &process, const QStringList &arguments)
+    {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const QString &name : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
             environment.remove(name);
@@ -33,6 +41,9 @@ struct Kovagrid : testing::Test
         environment.insert(u"XDG_CONFIG_HOME"_s, home.path());
         process.setProcessEnvironment(environment);
         process.start(QString::fromUtf8(KOVAGRID), arguments);
+    }
+    static Outcome outcomeOf(QProcess &process)
+    {
         if (!process.waitForFinished(120000))
             ADD_FAILURE() << "kovagrid did not end";
         return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
@@ -64,6 +75,8 @@ TEST_F(Kovagrid, PrintsAllRowsTabSeparatedUnderTheHeadings)
     const Outcome outcome = runOnOrders({u"--sql"_s, u"select * from orders"_s, u"--print"_s});
     EXPECT_EQ(outcome.exitCode, 0) << outcome.errors.toStdString();
     EXPECT_EQ(outcome.output, u"ID\t名称\tNote\n1\t甲\ta b c\n2\t\tx\n3\t丙\t\n"_s);
+    EXPECT_TRUE(outcome.errors.startsWith(u"Loaded 3 records, 3 fields in "_s))
+        << outcome.errors.toStdString();
 }
 
 TEST_F(Kovagrid, PrintsAsManyRowsAsAskedFor)
@@ -103,15 +116,68 @@ TEST_F(Kovagrid, MakesItsSampleDatabaseOnce)
     EXPECT_TRUE(all.output.startsWith(u"Loaded 120000 records, "_s)) << all.output.toStdString();
 }
 
+TEST_F(Kovagrid, MakesItsSampleDatabaseOnceForSeveralFirstStarts)
+{
+    std::array<QProcess, 4> processes;
+    for (QProcess &process : processes)
+        start(process, {u"--print"_s, u"3"_s});
+    QStringList outputs;
+    for (QProcess &process : processes) {
+        const Outcome outcome = outcomeOf(process);
+        EXPECT_EQ(outcome.exitCode, 0) << outcome.errors.toStdString();
+        outputs.append(outcome.output);
+    }
+    EXPECT_EQ(outputs.constFirst().count(u'\n'), 4) << outputs.constFirst().toStdString();
+    EXPECT_EQ(outputs.removeDuplicates(), 3);
+    EXPECT_EQ(QDir(home.filePath(u"kovagrid"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList{u"sample.db"_s});
+}
+
+TEST_F(Kovagrid, MakesASampleDatabaseOfAnOlderKindAnew)
+{
+    ASSERT_TRUE(QDir(home.path()).mkdir(u"kovagrid"_s));
+    ASSERT_TRUE(QFile::copy(database.path(), home.filePath(u"kovagrid/sample.db"_s)));
+    const Outcome outcome = run({u"--print"_s, u"3"_s});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.errors.toStdString();
+    EXPECT_EQ(outcome.lines().size(), 4);
+}
+
+TEST_F(Kovagrid, SaysWhyThereIsNoSampleDatabase)
+{
+    const QString folder = home.filePath(u"kovagrid"_s);
+    QFile file(folder);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_EQ(run({}).errors, u"无法建立文件夹：%1\n"_s.arg(folder));
+    ASSERT_TRUE(file.remove());
+    ASSERT_TRUE(QDir(home.path()).mkpath(u"kovagrid/sample.db"_s));
+    const Outcome outcome = run({});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_TRUE(outcome.errors.startsWith(u"无法建立示例数据库：%1/sample.db（"_s.arg(folder)))
+        << outcome.errors.toStdString();
+}
+
 TEST_F(Kovagrid, SavesAPictureOfItsWindow)
 {
     const QString file = home.filePath(u"window.png"_s);
-    EXPECT_EQ(runOnOrders({u"--sql"_s, u"select * from orders"_s, u"--screenshot"_s, file}).exitCode, 0);
+    const Outcome saved = runOnOrders({u"--sql"_s, u"select * from orders"_s, u"--screenshot"_s, file});
+    EXPECT_EQ(saved.exitCode, 0);
+    EXPECT_TRUE(saved.output.startsWith(u"Loaded 3 records, "_s)) << saved.output.toStdString();
     const QImage picture(file);
     EXPECT_GT(picture.width(), 600);
-    EXPECT_EQ(
-        runOnOrders({u"--sql"_s, u"select * from orders"_s, u"--screenshot"_s, u"/nowhere/x.png"_s}).exitCode,
-        1);
+    const Outcome failed =
+        runOnOrders({u"--sql"_s, u"select * from orders"_s, u"--screenshot"_s, u"/nowhere/x.png"_s});
+    EXPECT_EQ(failed.exitCode, 1);
+    EXPECT_EQ(failed.errors, u"无法保存窗口截图：/nowhere/x.png\n"_s);
+}
+
+TEST_F(Kovagrid, PressesButtonsOneBehindTheOther)
+{
+    const QStringList toPrint{u"--sql"_s, u"select * from orders"_s, u"--part"_s, u"select ID from orders"_s,
+                              u"--print=1"_s};
+    EXPECT_EQ(runOnOrders(toPrint + QStringList{u"--do"_s, u"All,Part"_s}).output, u"ID\n1\n"_s);
+    const Outcome outcome = runOnOrders(toPrint + QStringList{u"--do"_s, u" Part, All ,"_s});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.errors.toStdString();
+    EXPECT_EQ(outcome.output, u"ID\t名称\tNote\n1\t甲\ta b c\n"_s) << "blanks behind commas don't count";
 }
 
 struct BadStatement : Kovagrid, testing::WithParamInterface<const char *>

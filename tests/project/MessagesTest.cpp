@@ -41,6 +41,23 @@ QMap<QString, QString> textsIn(const QString &file)
     return texts;
 }
 
+// The number of messages in the table.
+int expectExplained(const QString &table, const QString &explained)
+{
+    static const QRegularExpression place(u"%\\d"_s);
+    const QMap<QString, QString> texts = textsIn(table);
+    EXPECT_FALSE(texts.isEmpty()) << qPrintable(table);
+    int messages = 0;
+    for (const auto &[name, text] : texts.asKeyValueRange()) {
+        if (!isMessage(name, text))
+            continue;
+        ++messages;
+        const QString shown = QString(text).replace(place, u"…"_s).trimmed();
+        EXPECT_TRUE(explained.contains(shown)) << qPrintable(name) << ": " << qPrintable(shown);
+    }
+    return messages;
+}
+
 } // namespace
 
 TEST(Messages, AreAllExplained)
@@ -48,18 +65,11 @@ TEST(Messages, AreAllExplained)
     const QString source = QString::fromUtf8(KOVA_SOURCE_DIR);
     const QString explained = contentOf(source + u"/docs/messages.md"_s);
     int messages = 0;
-    QDirIterator tables(source + u"/src"_s, {u"*Texts.h"_s}, QDir::Files, QDirIterator::Subdirectories);
-    while (tables.hasNext()) {
-        const QMap<QString, QString> texts = textsIn(tables.next());
-        EXPECT_FALSE(texts.isEmpty()) << qPrintable(tables.filePath());
-        for (const auto &[name, text] : texts.asKeyValueRange()) {
-            if (!isMessage(name, text))
-                continue;
-            ++messages;
-            static const QRegularExpression place(u"%\\d"_s);
-            const QString shown = QString(text).replace(place, u"…"_s).trimmed();
-            EXPECT_TRUE(explained.contains(shown)) << qPrintable(name) << ": " << qPrintable(shown);
-        }
+    for (const QString &folder : {u"/src"_s, u"/apps"_s}) {
+        QDirIterator tables(source + folder, {u"*Texts.h"_s}, QDir::Files, QDirIterator::Subdirectories);
+        EXPECT_TRUE(tables.hasNext()) << qPrintable(folder);
+        while (tables.hasNext())
+            messages += expectExplained(tables.next(), explained);
     }
     EXPECT_GT(messages, 90) << "a table is not read any more";
 }
