@@ -89,11 +89,12 @@ STDMETHODIMP_(ULONG) GridControl::Release()
         const bool isInEvent = m_connectionPoints.events().isTelling();
         m_inPlace.end();
         m_connectionPoints.end();
-        // A script host has no event loop, which the last recordset would wait for with its file open.
-        m_grid->ClearObject();
-        // A widget that is in the middle of a signal of its own cannot go yet.
-        if (isInEvent)
+        // A widget that is in the middle of a signal of its own cannot go yet, and a script host has no event
+        // loop that would let it go: its file is closed at once.
+        if (isInEvent) {
+            m_grid->Clear();
             m_grid.release()->deleteLater();
+        }
         delete this;
     }
     return static_cast<ULONG>(left);
