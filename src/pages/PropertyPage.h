@@ -41,6 +41,7 @@ public:
     // so in a message box, when the property is read-only and its text was changed.
     Q_INVOKABLE bool ApplyChanges();
 
+    // Wide enough for a statement of ordinary length; the page can be narrower.
     QSize sizeHint() const override;
 
 Q_SIGNALS:
