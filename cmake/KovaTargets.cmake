@@ -46,18 +46,39 @@ function(kova_room name)
   target_include_directories(${target} PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src> $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
   target_link_libraries(${target} PUBLIC ${ROOM_LINKS})
+  set(rests_on ${ROOM_LINKS})
+  list(FILTER rests_on INCLUDE REGEX "^kova_")
+  set_target_properties(${target} PROPERTIES KOVA_RESTS_ON "${rests_on}")
   if(ROOM_PCH)
     target_precompile_headers(${target} PRIVATE ${ROOM_PCH})
   endif()
 endfunction()
 
-# kova_program(<name> SOURCES <files> LINKS <libraries>): an executable under the same settings.
+# kova_rooms_below(<variable> <room>...): the object libraries of these rooms and of all rooms they rest on.
+# Linking an object library brings in its own objects only.
+function(kova_rooms_below variable)
+  set(found "")
+  list(TRANSFORM ARGN PREPEND kova_ OUTPUT_VARIABLE open)
+  while(open)
+    list(POP_FRONT open room)
+    if(NOT room IN_LIST found)
+      list(APPEND found ${room})
+      get_target_property(below ${room} KOVA_RESTS_ON)
+      list(APPEND open ${below})
+    endif()
+  endwhile()
+  set(${variable} ${found} PARENT_SCOPE)
+endfunction()
+
+# kova_program(<name> SOURCES <files> [ROOMS <rooms>] [LINKS <libraries>]): an executable under the same settings,
+# with these rooms and all they rest on compiled in.
 function(kova_program name)
-  cmake_parse_arguments(PROGRAM "" "" "SOURCES;LINKS;PCH" ${ARGN})
+  cmake_parse_arguments(PROGRAM "" "" "SOURCES;ROOMS;LINKS;PCH" ${ARGN})
+  kova_rooms_below(rooms ${PROGRAM_ROOMS})
   add_executable(${name} ${PROGRAM_SOURCES})
   kova_compile_settings(${name})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include)
-  target_link_libraries(${name} PRIVATE ${PROGRAM_LINKS})
+  target_link_libraries(${name} PRIVATE ${rooms} ${PROGRAM_LINKS})
   if(PROGRAM_PCH)
     target_precompile_headers(${name} PRIVATE ${PROGRAM_PCH})
   endif()
@@ -65,16 +86,13 @@ endfunction()
 
 # kova_test(<name> SOURCES <files> ROOMS <rooms> LINKS <libraries> [RUN_BY <command>])
 #
-# One test program, one ctest entry, one process. ROOMS are compiled in directly, so that a room's
+# One test program, one ctest entry, one process. ROOMS and those they rest on are compiled in directly, so that a room's
 # inner classes can be tested although the library hides them; tests of the control link the library. RUN_BY
 # is put before the program, to start what it needs.
 function(kova_test name)
   cmake_parse_arguments(TEST "" "TIMEOUT" "SOURCES;ROOMS;LINKS;PCH;LABELS;RUN_BY" ${ARGN})
-  set(rooms "")
-  foreach(room IN LISTS TEST_ROOMS)
-    list(APPEND rooms kova_${room})
-  endforeach()
-  kova_program(${name} SOURCES ${TEST_SOURCES} LINKS ${rooms} ${TEST_LINKS} kova_test_main PCH ${TEST_PCH})
+  kova_program(${name} SOURCES ${TEST_SOURCES} ROOMS ${TEST_ROOMS} LINKS ${TEST_LINKS} kova_test_main
+    PCH ${TEST_PCH})
   if(NOT TEST_TIMEOUT)
     set(TEST_TIMEOUT 300)
   endif()

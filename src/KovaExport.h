@@ -4,7 +4,7 @@
 
 // Marks what the shared library shows to its users; everything else stays hidden inside it.
 #if defined(KOVAVSFDataGridLib_EXPORTS)
-#    define KOVA_EXPORT Q_DECL_EXPORT
+#define KOVA_EXPORT Q_DECL_EXPORT
 #else
-#    define KOVA_EXPORT Q_DECL_IMPORT
+#define KOVA_EXPORT Q_DECL_IMPORT
 #endif

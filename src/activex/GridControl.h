@@ -1,14 +1,14 @@
 #pragma once
 
-#include "activex/ClassInfo.h"
-#include "activex/ConnectionPoints.h"
-#include "activex/GridDispatch.h"
-#include "activex/GridPersistence.h"
-#include "activex/InPlace.h"
-#include "activex/ModuleUse.h"
-#include "activex/OleControl.h"
-#include "activex/OleObject.h"
-#include "activex/ViewObject.h"
+#include "activex/calls/ConnectionPoints.h"
+#include "activex/calls/GridDispatch.h"
+#include "activex/container/GridPersistence.h"
+#include "activex/container/InPlace.h"
+#include "activex/container/OleControl.h"
+#include "activex/container/OleObject.h"
+#include "activex/container/ViewObject.h"
+#include "activex/server/ClassInfo.h"
+#include "activex/server/ModuleUse.h"
 
 #include <memory>
 

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "ado/Error.h"
-#include "ado/RecordEditor.h"
-#include "ado/RecordPosition.h"
 #include "ado/Recordset.h"
 #include "ado/RecordsetObserver.h"
-#include "ado/Snapshot.h"
 #include "ado/Texts.h"
+#include "ado/rows/RecordEditor.h"
+#include "ado/rows/RecordPosition.h"
+#include "ado/rows/Snapshot.h"
 
 #include <QtCore/QObject>
 

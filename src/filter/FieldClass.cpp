@@ -1,6 +1,6 @@
 #include "filter/FieldClass.h"
 
-#include "ado/NumericTypes.h"
+#include "ado/values/NumericTypes.h"
 
 namespace KOVAVSFDataGridLib {
 

@@ -2,9 +2,9 @@
 
 #include "ado/Connection.h"
 #include "ado/ConnectionFactory.h"
+#include "ado/EngineOf.h"
 #include "ado/Error.h"
 #include "ado/Recordset.h"
-#include "filter/EngineOf.h"
 
 #include <QtCore/QSet>
 

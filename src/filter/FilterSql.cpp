@@ -2,8 +2,8 @@
 
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
-#include "filter/ReservedWords.h"
 #include "query/FieldNames.h"
+#include "sql/ReservedWords.h"
 
 #include <QtCore/QRegularExpression>
 

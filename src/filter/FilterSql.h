@@ -1,7 +1,7 @@
 #pragma once
 
-#include "query/AllDBType.h"
-#include "query/Engine.h"
+#include "sql/AllDBType.h"
+#include "sql/Engine.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QString>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "query/AllDBType.h"
 #include "query/FilterTableName.h"
+#include "sql/AllDBType.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QIcon>

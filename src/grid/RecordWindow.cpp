@@ -1,7 +1,7 @@
 #include "grid/RecordWindow.h"
 
-#include "ado/NumericTypes.h"
 #include "ado/Recordset.h"
+#include "ado/values/NumericTypes.h"
 
 namespace KOVAVSFDataGridLib {
 

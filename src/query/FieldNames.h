@@ -1,6 +1,6 @@
 #pragma once
 
-#include "query/AllDBType.h"
+#include "sql/AllDBType.h"
 
 #include <QtCore/QString>
 #include <QtCore/QStringList>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "query/AllDBType.h"
 #include "query/FieldReader.h"
 #include "query/KeyedList.h"
 #include "query/SqlText.h"
 #include "query/clsShowSQLSentence.h"
 #include "query/colDataFields.h"
+#include "sql/AllDBType.h"
 
 namespace KOVAVSFDataGridLib {
 

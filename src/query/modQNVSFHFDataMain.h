@@ -1,7 +1,7 @@
 #pragma once
 
-#include "query/AllDBType.h"
 #include "query/SharedValues.h"
+#include "sql/AllDBType.h"
 
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -16,10 +16,10 @@ struct ParseFailure
     QString description;
 };
 
-// Fills strSQLTable and colSQLFields of the shared values. A text that is no SELECT leaves both as they are; a "*" behind the last
-// comma adds no name. Other databases than Oracle lose the condition first and the brackets around each name.
-// On failure (FROM missing, or too early) colSQLFields keeps its names, strSQLTable is already the new one,
-// and the answer is what to tell the developer.
+// Fills strSQLTable and colSQLFields of the shared values. A text that is no SELECT leaves both as they are;
+// a "*" behind the last comma adds no name. Other databases than Oracle lose the condition first and the
+// brackets around each name. On failure (FROM missing, or too early) colSQLFields keeps its names,
+// strSQLTable is already the new one, and the answer is what to tell the developer.
 std::optional<ParseFailure> ParseSQLFieldList(const QString &statement, AllDBType database);
 
 void ClearSQLFieldList();

@@ -1,7 +1,7 @@
 #include "Printing.h"
 
-#include "ado/providers/access/AccessDateLiteral.h"
-#include "ado/providers/access/AccessDialect.h"
+#include "ado/providers/access/sql/AccessDateLiteral.h"
+#include "ado/providers/access/sql/AccessDialect.h"
 
 #include <gtest/gtest.h>
 

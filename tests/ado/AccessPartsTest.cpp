@@ -2,13 +2,13 @@
 #include "AccessSamples.h"
 #include "Throwing.h"
 
-#include "ado/providers/access/AccessCollation.h"
-#include "ado/providers/access/AccessFormat.h"
-#include "ado/providers/access/AccessPattern.h"
-#include "ado/providers/access/AccessQuery.h"
-#include "ado/providers/access/AccessRow.h"
-#include "ado/providers/access/AccessTypes.h"
-#include "ado/providers/access/AccessValue.h"
+#include "ado/providers/access/file/AccessRow.h"
+#include "ado/providers/access/file/AccessTypes.h"
+#include "ado/providers/access/file/AccessValue.h"
+#include "ado/providers/access/functions/AccessFormat.h"
+#include "ado/providers/access/sql/AccessCollation.h"
+#include "ado/providers/access/sql/AccessPattern.h"
+#include "ado/providers/access/sql/AccessQuery.h"
 
 #include <gtest/gtest.h>
 

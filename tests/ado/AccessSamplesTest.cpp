@@ -3,7 +3,7 @@
 #include "Printing.h"
 
 #include "ado/Error.h"
-#include "ado/NumericTypes.h"
+#include "ado/values/NumericTypes.h"
 
 #include <QtCore/QProcess>
 #include <QtCore/QStandardPaths>

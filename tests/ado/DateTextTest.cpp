@@ -1,6 +1,6 @@
 #include "Printing.h"
 
-#include "ado/DateText.h"
+#include "ado/values/DateText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "Printing.h"
 
-#include "ado/FieldValue.h"
+#include "ado/values/FieldValue.h"
 
 #include <QtCore/QDateTime>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "ado/providers/odbc/OdbcRefusal.h"
+#include "ado/providers/odbc/reading/OdbcRefusal.h"
 
 #include "Throwing.h"
-#include "ado/SqlScanner.h"
+#include "sql/SqlScanner.h"
 
 using namespace ADODB;
 

@@ -1,7 +1,7 @@
 // The types by which ADO's own bridge to ODBC calls a driver's.
 #include "OdbcEngines.h"
 
-#include "ado/providers/odbc/OdbcTypes.h"
+#include "ado/providers/odbc/reading/OdbcTypes.h"
 
 using namespace Qt::Literals::StringLiterals;
 using namespace ADODB;

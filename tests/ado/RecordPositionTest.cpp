@@ -1,6 +1,6 @@
 #include "Throwing.h"
 
-#include "ado/RecordPosition.h"
+#include "ado/rows/RecordPosition.h"
 
 #include <limits>
 #include <string_view>

@@ -2,7 +2,7 @@
 #include "TemporaryFolder.h"
 
 #include "ado/Error.h"
-#include "ado/RowStore.h"
+#include "ado/rows/RowStore.h"
 
 #include <gtest/gtest.h>
 

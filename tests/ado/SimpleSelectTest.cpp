@@ -1,8 +1,8 @@
 #include "Printing.h"
 
-#include "ado/SimpleSelect.h"
-#include "ado/SqlScanner.h"
 #include "ado/Texts.h"
+#include "sql/SimpleSelect.h"
+#include "sql/SqlScanner.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "Printing.h"
 
-#include "ado/SqlScanner.h"
+#include "sql/SqlScanner.h"
 
 #include <QtCore/QStringList>
 #include <gtest/gtest.h>

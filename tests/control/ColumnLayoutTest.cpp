@@ -1,5 +1,5 @@
 // How the widths of the grid's columns and those in the field catalogue are kept in step.
-#include "control/ColumnLayout.h"
+#include "session/ColumnLayout.h"
 #include "grid/FlexGrid.h"
 #include "grid/TextCells.h"
 #include "query/colShowSQLSentences.h"

@@ -1,8 +1,8 @@
 // The INI file beside the library and the one setting of the user.
-#include "control/Configuration.h"
+#include "control/face/Configuration.h"
 #include "ado/ConnectionFactory.h"
-#include "control/KOVAVSFDataGrid.h"
-#include "control/platform/ModuleFolder.h"
+#include "control/face/KOVAVSFDataGrid.h"
+#include "control/face/platform/ModuleFolder.h"
 #include "support/TestDatabase.h"
 
 #include <QtCore/QDir>

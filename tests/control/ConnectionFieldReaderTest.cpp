@@ -1,12 +1,12 @@
 // Reading field names: through which connection, for which statements, and how often.
-#include "control/ConnectionFieldReader.h"
+#include "session/ConnectionFieldReader.h"
 #include "ado/Adodc.h"
 #include "ado/Connection.h"
 #include "ado/ConnectionFactory.h"
 #include "ado/Recordset.h"
-#include "control/ResultSet.h"
-#include "query/AllDBType.h"
 #include "query/SharedValues.h"
+#include "session/ResultSet.h"
+#include "sql/AllDBType.h"
 #include "support/TestDatabase.h"
 
 #include <gtest/gtest.h>

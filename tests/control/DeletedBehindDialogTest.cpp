@@ -1,6 +1,6 @@
 // A host that deletes the control while one of its dialogs is open: the dialog ends as cancelled, and whoever
 // asked touches nothing of the control any more. The asan preset sees what would.
-#include "control/KOVAVSFDataGrid.h"
+#include "control/face/KOVAVSFDataGrid.h"
 #include "support/TestDatabase.h"
 
 #include <QtCore/QPointer>

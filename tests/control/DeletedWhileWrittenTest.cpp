@@ -1,6 +1,6 @@
 // A property that is written can write others, and the host is told of each: it may delete the control at any
 // of them. The asan preset sees what would still be touched.
-#include "control/KOVAVSFDataGrid.h"
+#include "control/face/KOVAVSFDataGrid.h"
 
 #include <QtCore/QPointer>
 #include <gtest/gtest.h>

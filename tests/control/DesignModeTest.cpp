@@ -1,4 +1,4 @@
-#include "control/KOVAVSFDataGrid.h"
+#include "control/face/KOVAVSFDataGrid.h"
 
 #include <gtest/gtest.h>
 

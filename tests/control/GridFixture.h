@@ -1,6 +1,6 @@
 #pragma once
 
-#include "control/KOVAVSFDataGrid.h"
+#include "control/face/KOVAVSFDataGrid.h"
 #include "support/TestDatabase.h"
 
 #include <QtCore/QCoreApplication>

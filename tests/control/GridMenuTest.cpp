@@ -1,11 +1,11 @@
 // When the grid asks for its menu.
 #include "GridFixture.h"
-#include "control/GridEvents.h"
-#include "control/GridParts.h"
-#include "control/GridToolbar.h"
-#include "control/PageView.h"
-#include "control/ResultSet.h"
+#include "control/input/GridEvents.h"
+#include "control/parts/GridParts.h"
+#include "control/parts/GridToolbar.h"
+#include "control/parts/PageView.h"
 #include "grid/FlexGrid.h"
+#include "session/ResultSet.h"
 
 #include <QtTest/QSignalSpy>
 

@@ -1,5 +1,5 @@
 // How long a result and its file stay open. No event loop runs in these tests, as in a host without one.
-#include "control/KOVAVSFDataGrid.h"
+#include "control/face/KOVAVSFDataGrid.h"
 
 #include "ado/Adodc.h"
 #include "ado/Recordset.h"

@@ -1,7 +1,7 @@
 #include <KOVAVSFDataGrid>
 
-#include "control/ControlError.h"
-#include "control/PropertyBag.h"
+#include "control/face/ControlError.h"
+#include "control/face/PropertyBag.h"
 
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QPushButton>

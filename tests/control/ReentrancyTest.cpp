@@ -1,6 +1,6 @@
 // A host may do in a handler of any event what it may do elsewhere: load again, tear down, even delete the
 // control.
-#include "control/KOVAVSFDataGrid.h"
+#include "control/face/KOVAVSFDataGrid.h"
 #include "support/MessageAnswers.h"
 #include "support/TestDatabase.h"
 

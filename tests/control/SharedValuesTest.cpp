@@ -1,6 +1,6 @@
 // What all controls of a process share, and what each keeps for itself.
 #include "query/SharedValues.h"
-#include "control/KOVAVSFDataGrid.h"
+#include "control/face/KOVAVSFDataGrid.h"
 #include "support/TestDatabase.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "control/ToolbarIcons.h"
+#include "control/parts/ToolbarIcons.h"
 
 #include <QtCore/QSet>
 #include <QtGui/QGuiApplication>

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "control/ColumnLayout.h"
-#include "control/ConnectionFieldReader.h"
-#include "control/GridParts.h"
-#include "control/PageView.h"
-#include "control/ResultSet.h"
+#include "control/parts/GridParts.h"
+#include "control/parts/PageView.h"
 #include "control/viewer/frm_FullScreen.h"
 #include "query/FieldChooser.h"
 #include "query/clsFilterManagement.h"
+#include "session/ColumnLayout.h"
+#include "session/ConnectionFieldReader.h"
+#include "session/ResultSet.h"
 #include "support/ExpectedWarnings.h"
 #include "support/TestDatabase.h"
 

@@ -2,7 +2,7 @@
 #include "ViewerFixture.h"
 
 #include "ado/Recordset.h"
-#include "control/GridToolbar.h"
+#include "control/parts/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "query/SharedValues.h"
 

@@ -1,7 +1,7 @@
 #include "JourneyEngine.h"
 
-#include "query/AllDBType.h"
 #include "servers/Servers.h"
+#include "sql/AllDBType.h"
 
 #include <ostream>
 

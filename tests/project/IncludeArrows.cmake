@@ -5,20 +5,22 @@ cmake_minimum_required(VERSION 3.25)
 # Fails when a source file includes what its room may not use.
 
 # Which rooms each room may include, besides itself.
-set(may_query "")
-set(may_ado "")
+set(may_sql "")
+set(may_query sql)
+set(may_ado sql)
 set(may_grid ado)
-set(may_forms query)
-set(may_filter query ado forms)
-set(may_pages query forms)
-set(may_control query ado grid forms filter pages)
+set(may_forms sql query)
+set(may_filter sql query ado forms)
+set(may_session sql query ado grid)
+set(may_pages sql query forms)
+set(may_control sql session query ado grid forms filter pages)
 # Rooms without a window.
 set(windowless query ado)
 # The one room that knows SQLite.
 set(knows_sqlite ado)
 
 set(faults "")
-foreach(room IN ITEMS query ado grid forms filter pages control)
+foreach(room IN ITEMS sql query ado grid forms filter session pages control)
   file(GLOB_RECURSE files ${SOURCE_DIR}/src/${room}/*.h ${SOURCE_DIR}/src/${room}/*.cpp)
   foreach(file IN LISTS files)
     file(STRINGS ${file} lines REGEX "^ *# *include")

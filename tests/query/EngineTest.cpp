@@ -1,5 +1,5 @@
 // What conditions look like on engines that compare values in their own way.
-#include "query/Engine.h"
+#include "sql/Engine.h"
 
 #include "query/Conditions.h"
 

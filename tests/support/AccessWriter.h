@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ado/providers/access/AccessColumn.h"
+#include "ado/providers/access/file/AccessColumn.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QVariant>

@@ -1,7 +1,7 @@
 // dialog_shots FOLDER: shows each dialog with plausible contents and saves it as a PNG file in the folder, at
 // the scale of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
-#include "control/ToolbarIcons.h"
 #include "control/connection/ConnectionBuilder.h"
+#include "control/parts/ToolbarIcons.h"
 #include "filter/SetFilter.h"
 #include "filter/frm_Filter.h"
 #include "forms/ConnectDialog.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ado/FieldInfo.h"
-#include "ado/RawValue.h"
+#include "ado/values/RawValue.h"
 
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>

@@ -1,7 +1,5 @@
 #include "control/commands/CommandTables.h"
 
-#include "control/GridToolbar.h"
-#include "control/KOVAVSFDataGridPrivate.h"
 #include "control/commands/FieldCommands.h"
 #include "control/commands/FilterCommands.h"
 #include "control/commands/FullScreenCommand.h"
@@ -9,6 +7,8 @@
 #include "control/commands/PageCommands.h"
 #include "control/commands/RecordCommands.h"
 #include "control/commands/SortByDialog.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
+#include "control/parts/GridToolbar.h"
 
 #include <algorithm>
 #include <span>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "control/KOVAVSFDataGrid.h"
+#include "control/face/KOVAVSFDataGrid.h"
 
 namespace KOVAVSFDataGridLib {
 

@@ -1,8 +1,8 @@
 #include "control/commands/FieldCommands.h"
 
-#include "control/KOVAVSFDataGridPrivate.h"
 #include "control/commands/FilterManagerRollback.h"
 #include "control/commands/RecordCommands.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
 #include "query/SqlText.h"
 
 namespace KOVAVSFDataGridLib {

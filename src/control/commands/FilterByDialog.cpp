@@ -1,7 +1,7 @@
-#include "control/KOVAVSFDataGridPrivate.h"
-#include "control/ToolbarIcons.h"
 #include "control/commands/FilterCommands.h"
 #include "control/commands/FilterManagerRollback.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
+#include "control/parts/ToolbarIcons.h"
 #include "filter/mod_Filter.h"
 #include "query/SqlText.h"
 

@@ -1,6 +1,6 @@
 #include "ado/Recordset.h"
-#include "control/KOVAVSFDataGridPrivate.h"
 #include "control/commands/FilterCommands.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "query/Conditions.h"

@@ -1,7 +1,7 @@
 #include "control/commands/FullScreenCommand.h"
 
-#include "control/KOVAVSFDataGridPrivate.h"
 #include "control/commands/FilterCommands.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
 #include "control/viewer/ShowFullScreen.h"
 
 namespace KOVAVSFDataGridLib {

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "control/commands/ControlHub.h"
-#include "control/commands/PopupMenu.h"
 #include "control/commands/ShownStatement.h"
-#include "control/commands/SingleRecordView.h"
+#include "control/input/SingleRecordView.h"
+#include "control/parts/PopupMenu.h"
 
 #include <QtCore/QObject>
 

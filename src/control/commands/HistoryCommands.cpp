@@ -1,7 +1,7 @@
 #include "control/commands/HistoryCommands.h"
 
-#include "control/KOVAVSFDataGridPrivate.h"
 #include "control/commands/FilterManagerRollback.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
 
 namespace KOVAVSFDataGridLib {
 

@@ -2,7 +2,7 @@
 
 #include "ado/Adodc.h"
 #include "ado/Recordset.h"
-#include "control/KOVAVSFDataGridPrivate.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
 #include "grid/FlexGrid.h"
 
 #include <QtCore/QSignalBlocker>

@@ -1,7 +1,7 @@
 #include "ado/Recordset.h"
-#include "control/KOVAVSFDataGridPrivate.h"
 #include "control/commands/FilterCommands.h"
 #include "control/commands/FilterManagerRollback.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
 #include "forms/FindDialog.h"
 #include "query/Conditions.h"
 

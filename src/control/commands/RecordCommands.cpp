@@ -2,10 +2,10 @@
 
 #include "ado/Error.h"
 #include "ado/Recordset.h"
-#include "control/GridTexts.h"
-#include "control/KOVAVSFDataGridPrivate.h"
 #include "control/commands/PageCommands.h"
 #include "control/commands/ResultWatch.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
+#include "control/parts/GridTexts.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 

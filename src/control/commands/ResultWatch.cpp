@@ -1,6 +1,6 @@
 #include "control/commands/ResultWatch.h"
 
-#include "control/KOVAVSFDataGridPrivate.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
 
 namespace KOVAVSFDataGridLib {
 

@@ -1,6 +1,6 @@
 #include "control/commands/ShownStatement.h"
 
-#include "control/KOVAVSFDataGridPrivate.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
 #include "grid/FlexGrid.h"
 
 #include <QtCore/QPointer>

@@ -1,7 +1,7 @@
 #include "control/commands/SortByDialog.h"
 
-#include "control/KOVAVSFDataGridPrivate.h"
 #include "control/commands/FilterManagerRollback.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
 
 namespace KOVAVSFDataGridLib {
 

@@ -7,7 +7,7 @@
 #include "control/connection/ConnectionBuilder.h"
 #include "control/connection/ConnectionTexts.h"
 #include "forms/Messages.h"
-#include "query/AllDBType.h"
+#include "sql/AllDBType.h"
 
 namespace KOVAVSFDataGridLib {
 

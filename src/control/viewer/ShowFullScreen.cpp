@@ -3,14 +3,14 @@
 #include "ado/Adodc.h"
 #include "ado/Error.h"
 #include "ado/Recordset.h"
-#include "control/ColumnLayout.h"
-#include "control/GridParts.h"
-#include "control/GridToolbar.h"
-#include "control/PageView.h"
-#include "control/ResultSet.h"
+#include "control/parts/GridParts.h"
+#include "control/parts/GridToolbar.h"
+#include "control/parts/PageView.h"
 #include "control/viewer/frm_FullScreen.h"
 #include "grid/FlexGrid.h"
 #include "query/clsFilterManagement.h"
+#include "session/ColumnLayout.h"
+#include "session/ResultSet.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QPushButton>

@@ -1,8 +1,8 @@
 #include "control/viewer/ViewerMenu.h"
 
-#include "control/ButtonItem.h"
-#include "control/GridTexts.h"
-#include "control/GridToolbar.h"
+#include "control/parts/ButtonItem.h"
+#include "control/parts/GridTexts.h"
+#include "control/parts/GridToolbar.h"
 #include "control/viewer/ViewerTexts.h"
 
 namespace KOVAVSFDataGridLib {

@@ -1,8 +1,8 @@
 #include "control/viewer/ViewerParts.h"
 
-#include "control/EmptyHint.h"
-#include "control/GridTexts.h"
-#include "control/GridToolbar.h"
+#include "control/parts/EmptyHint.h"
+#include "control/parts/GridTexts.h"
+#include "control/parts/GridToolbar.h"
 #include "control/viewer/ViewerTexts.h"
 #include "grid/FlexGrid.h"
 

@@ -2,12 +2,10 @@
 
 #include "ado/Error.h"
 #include "ado/Recordset.h"
-#include "control/ColumnLayout.h"
-#include "control/EmptyHint.h"
-#include "control/GridTexts.h"
-#include "control/GridToolbar.h"
-#include "control/MenuKey.h"
-#include "control/StoreRecordPosition.h"
+#include "control/input/MenuKey.h"
+#include "control/parts/EmptyHint.h"
+#include "control/parts/GridTexts.h"
+#include "control/parts/GridToolbar.h"
 #include "control/viewer/TypedPage.h"
 #include "control/viewer/ViewerCells.h"
 #include "control/viewer/ViewerMenu.h"
@@ -17,6 +15,8 @@
 #include "grid/TextCells.h"
 #include "query/SharedValues.h"
 #include "query/clsFilterManagement.h"
+#include "session/ColumnLayout.h"
+#include "session/StoreRecordPosition.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>

@@ -1,18 +1,18 @@
+#include "ado/EngineOf.h"
 #include "ado/Error.h"
 #include "ado/Recordset.h"
-#include "control/ColumnLayout.h"
-#include "control/GridToolbar.h"
-#include "control/LoadProgress.h"
+#include "control/parts/GridToolbar.h"
+#include "control/parts/LoadProgress.h"
 #include "control/viewer/ViewerMenu.h"
 #include "control/viewer/ViewerTexts.h"
 #include "control/viewer/frm_FullScreen.h"
-#include "filter/EngineOf.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "query/Conditions.h"
 #include "query/SharedValues.h"
 #include "query/SqlText.h"
 #include "query/clsFilterManagement.h"
+#include "session/ColumnLayout.h"
 
 #include <algorithm>
 #include <exception>

@@ -1,15 +1,15 @@
 #include "ado/providers/access/AccessSession.h"
 
 #include "ado/Error.h"
-#include "ado/SqlScanner.h"
 #include "ado/Texts.h"
-#include "ado/providers/access/AccessCollation.h"
-#include "ado/providers/access/AccessDialect.h"
-#include "ado/providers/access/AccessFile.h"
-#include "ado/providers/access/AccessFunctions.h"
-#include "ado/providers/access/AccessModule.h"
-#include "ado/providers/access/AccessQueries.h"
-#include "ado/providers/access/AccessTypes.h"
+#include "ado/providers/access/file/AccessFile.h"
+#include "ado/providers/access/file/AccessTypes.h"
+#include "ado/providers/access/functions/AccessFunctions.h"
+#include "ado/providers/access/sql/AccessCollation.h"
+#include "ado/providers/access/sql/AccessDialect.h"
+#include "ado/providers/access/sql/AccessModule.h"
+#include "ado/providers/access/sql/AccessQueries.h"
+#include "sql/SqlScanner.h"
 
 namespace ADODB {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ado/SqlScanner.h"
+#include "sql/SqlScanner.h"
 
 #include <QtCore/QStringList>
 

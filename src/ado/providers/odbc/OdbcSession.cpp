@@ -3,7 +3,7 @@
 #include "ado/Error.h"
 #include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcHandle.h"
-#include "ado/providers/odbc/OdbcStatement.h"
+#include "ado/providers/odbc/reading/OdbcStatement.h"
 
 using namespace Qt::Literals::StringLiterals;
 

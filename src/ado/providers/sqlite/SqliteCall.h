@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ado/RawValue.h"
 #include "ado/providers/sqlite/SqliteSession.h"
+#include "ado/values/RawValue.h"
 
 namespace ADODB {
 

@@ -1,11 +1,11 @@
 #include "ado/providers/sqlite/SqliteSession.h"
 
 #include "ado/Error.h"
-#include "ado/SqlScanner.h"
 #include "ado/Texts.h"
 #include "ado/providers/sqlite/SqliteError.h"
 #include "ado/providers/sqlite/SqliteStatement.h"
 #include "ado/providers/sqlite/SqliteTypes.h"
+#include "sql/SqlScanner.h"
 
 #include <sqlite3.h>
 

@@ -1,10 +1,10 @@
 #include "ado/providers/sqlite/SqliteStatement.h"
 
 #include "ado/Error.h"
-#include "ado/RowStore.h"
 #include "ado/Texts.h"
 #include "ado/providers/sqlite/SqliteRowWriter.h"
 #include "ado/providers/sqlite/SqliteTypes.h"
+#include "ado/rows/RowStore.h"
 
 #include <sqlite3.h>
 

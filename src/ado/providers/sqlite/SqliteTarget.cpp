@@ -1,10 +1,10 @@
 #include "ado/providers/sqlite/SqliteTarget.h"
 
 #include "ado/Error.h"
-#include "ado/SimpleSelect.h"
-#include "ado/SqlScanner.h"
 #include "ado/Texts.h"
 #include "ado/providers/sqlite/SqliteSession.h"
+#include "sql/SimpleSelect.h"
+#include "sql/SqlScanner.h"
 
 #include <QtCore/QStringList>
 

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "activex/calls/ConnectionPoint.h"
+#include "activex/calls/EventSource.h"
+#include "activex/server/ComObject.h"
+
+#include <memory>
+
+namespace KOVAVSFDataGridLib::ActiveX {
+
+class GridControl;
+
+// The control's two outgoing interfaces: its events, and the notification that a property has changed.
+class ConnectionPoints final : public Part<IConnectionPointContainer>
+{
+public:
+    explicit ConnectionPoints(GridControl &control);
+
+    STDMETHODIMP EnumConnectionPoints(IEnumConnectionPoints **points) override;
+    STDMETHODIMP FindConnectionPoint(REFIID iid, IConnectionPoint **point) override;
+
+    EventSource &events() { return *m_source; }
+    // No listener is told anything any more.
+    void end();
+
+private:
+    void tellChanged(const QString &property);
+
+    GridControl &m_control;
+    ConnectionPoint m_events;
+    ConnectionPoint m_properties;
+    std::unique_ptr<EventSource> m_source;
+};
+
+} // namespace KOVAVSFDataGridLib::ActiveX

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "activex/calls/MemberTable.h"
+#include "activex/calls/ObjectHolder.h"
+#include "activex/server/ComObject.h"
+#include "activex/server/Guids.h"
+
+#include <wrl/client.h>
+
+namespace KOVAVSFDataGridLib::ActiveX {
+
+class GridControl;
+
+// The dispatch interface, IKOVAVSFDataGrid: its numbers and argument names come from the type library, its
+// behaviour from the widget's meta-object.
+class GridDispatch final : public Part<IDispatch>
+{
+public:
+    explicit GridDispatch(GridControl &control);
+
+    STDMETHODIMP GetTypeInfoCount(UINT *count) override;
+    STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo **info) override;
+    STDMETHODIMP GetIDsOfNames(REFIID iid, LPOLESTR *names, UINT count, LCID locale, DISPID *ids) override;
+    STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS *parameters,
+                        VARIANT *result, EXCEPINFO *exception, UINT *badArgument) override;
+
+    DISPID idOf(const QString &name) const { return m_members.idOf(name); }
+
+private:
+    // The widget's own colour is the one that shows at the moment; automation's can be one of the system's.
+    HRESULT backColor(WORD flags, const DISPPARAMS &parameters, VARIANT *result);
+
+    GridControl &m_control;
+    const Microsoft::WRL::ComPtr<ITypeInfo> m_info;
+    const MemberTable m_members;
+};
+
+// The way of this server's own code to the widget.
+class GridHolder final : public Part<ObjectHolder>
+{
+public:
+    explicit GridHolder(GridControl &control);
+    QObject *STDMETHODCALLTYPE held() override;
+
+private:
+    GridControl &m_control;
+};
+
+} // namespace KOVAVSFDataGridLib::ActiveX

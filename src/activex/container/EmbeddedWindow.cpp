@@ -1,0 +1,160 @@
+#include "activex/container/EmbeddedWindow.h"
+
+#include <QtCore/QEvent>
+#include <QtGui/QWindow>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
+
+#include <utility>
+
+namespace KOVAVSFDataGridLib::ActiveX {
+
+EmbeddedWindow::EmbeddedWindow(QWidget &widget, std::function<void()> entered,
+                               std::function<void(bool)> blocked)
+    : m_widget(widget), m_entered(std::move(entered)), m_blocked(std::move(blocked))
+{
+    m_widget.setWindowFlags(Qt::FramelessWindowHint);
+    // … and on where the keyboard is.
+    m_widget.setAttribute(Qt::WA_ShowWithoutActivating);
+    // The container decides on the size; what insists on more is cut off at the edge.
+    m_widget.setMinimumSize(1, 1);
+}
+
+EmbeddedWindow::~EmbeddedWindow()
+{
+    detach();
+}
+
+void EmbeddedWindow::attach(HWND parent, const RECT &position, const RECT &clip)
+{
+    m_parent.reset(QWindow::fromWinId(reinterpret_cast<WId>(parent)));
+    // A window that is no child yet would become the active one by its change of parent.
+    const auto window = reinterpret_cast<HWND>(m_widget.winId());
+    const LONG style = GetWindowLongW(window, GWL_STYLE) & ~static_cast<LONG>(WS_POPUP);
+    SetWindowLongW(window, GWL_STYLE, style | WS_CHILD);
+    m_widget.windowHandle()->setParent(m_parent.get());
+    m_widget.windowHandle()->installEventFilter(this);
+    place(position, &clip);
+    m_widget.show();
+    place(position, &clip); // showing may have moved it
+}
+
+void EmbeddedWindow::detach()
+{
+    if (!m_parent)
+        return;
+    unblock();
+    m_widget.hide();
+    m_widget.windowHandle()->removeEventFilter(this);
+    m_widget.windowHandle()->setParent(nullptr);
+    m_parent.reset();
+}
+
+void EmbeddedWindow::place(const RECT &position, const RECT *clip)
+{
+    if (!m_parent)
+        return;
+    // In the system's own pixels: the container does not know Qt's scaling.
+    SetWindowPos(handle(), nullptr, position.left, position.top, position.right - position.left,
+                 position.bottom - position.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    RECT visible{};
+    if (clip && !IsRectEmpty(clip) && IntersectRect(&visible, &position, clip) &&
+        !EqualRect(&visible, &position)) {
+        OffsetRect(&visible, -position.left, -position.top);
+        SetWindowRgn(handle(), CreateRectRgnIndirect(&visible), TRUE); // the system owns the region now
+    } else {
+        SetWindowRgn(handle(), nullptr, TRUE);
+    }
+}
+
+void EmbeddedWindow::takeFocus()
+{
+    if (!m_parent)
+        return;
+    const HWND focused = GetFocus();
+    if (focused != handle() && !IsChild(handle(), focused))
+        SetFocus(handle());
+}
+
+HWND EmbeddedWindow::handle() const
+{
+    return m_parent ? reinterpret_cast<HWND>(m_widget.winId()) : nullptr;
+}
+
+bool EmbeddedWindow::wants(const MSG &message) const
+{
+    // A character has other numbers than a key, and with Alt down keys are the container's.
+    if (!m_parent || (message.message != WM_KEYDOWN && message.message != WM_KEYUP) ||
+        (message.hwnd != handle() && !IsChild(handle(), message.hwnd)))
+        return false;
+    switch (message.wParam) {
+    case VK_TAB:
+        return GetKeyState(VK_CONTROL) >= 0 && tabStaysInside(GetKeyState(VK_SHIFT) < 0);
+    case VK_LEFT:
+    case VK_RIGHT:
+    case VK_UP:
+    case VK_DOWN:
+    case VK_PRIOR:
+    case VK_NEXT:
+    case VK_HOME:
+    case VK_END:
+    case VK_RETURN:
+    case VK_ESCAPE:
+    case VK_DELETE:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool EmbeddedWindow::tabStaysInside(bool backwards) const
+{
+    const QWidget *focused = QApplication::focusWidget();
+    if (!focused)
+        return false;
+    // The chain is a ring through the widget itself: past that, the next stop is the container's.
+    for (const QWidget *next = focused;;) {
+        next = backwards ? next->previousInFocusChain() : next->nextInFocusChain();
+        if (next == &m_widget || next == focused)
+            return false;
+        if (next->isVisible() && next->isEnabled() && (next->focusPolicy() & Qt::TabFocus) &&
+            !next->focusProxy())
+            return true;
+    }
+}
+
+// Qt keeps its own windows from the user while a modal dialog is open, and knows nothing of the host's.
+void EmbeddedWindow::block()
+{
+    const HWND top = GetAncestor(handle(), GA_ROOT);
+    if (EnableWindow(top, FALSE))
+        return; // a dialog of the host's own is open already
+    m_disabled = top;
+    m_blocked(true);
+}
+
+void EmbeddedWindow::unblock()
+{
+    if (!m_disabled)
+        return;
+    EnableWindow(std::exchange(m_disabled, nullptr), TRUE);
+    m_blocked(false);
+}
+
+bool EmbeddedWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress) {
+        // The system gives a child window neither activation nor focus on a click.
+        takeFocus();
+        m_entered();
+    } else if (event->type() == QEvent::FocusIn) {
+        m_entered();
+    } else if (event->type() == QEvent::WindowBlocked) {
+        block();
+    } else if (event->type() == QEvent::WindowUnblocked) {
+        unblock();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace KOVAVSFDataGridLib::ActiveX

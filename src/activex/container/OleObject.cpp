@@ -1,0 +1,198 @@
+#include "activex/container/OleObject.h"
+
+#include "activex/GridControl.h"
+#include "activex/container/Himetric.h"
+
+#include <KOVAVSFDataGrid>
+
+#include <olectl.h>
+
+namespace KOVAVSFDataGridLib::ActiveX {
+
+using Microsoft::WRL::ComPtr;
+
+OleObject::OleObject(GridControl &control) : Part(control.identity()), m_control(control) {}
+
+STDMETHODIMP OleObject::SetClientSite(IOleClientSite *site)
+{
+    if (site != m_site.Get())
+        m_control.inPlace().deactivate(); // its window belongs to the place that it leaves
+    m_site = site;
+    if (site)
+        m_control.oleControl().readAmbients();
+    return S_OK;
+}
+
+STDMETHODIMP OleObject::GetClientSite(IOleClientSite **site)
+{
+    if (!site)
+        return E_POINTER;
+    return m_site.CopyTo(site);
+}
+
+STDMETHODIMP OleObject::SetHostNames(LPCOLESTR, LPCOLESTR)
+{
+    return S_OK;
+}
+
+STDMETHODIMP OleObject::Close(DWORD saveOption)
+{
+    m_control.inPlace().deactivate();
+    if (m_site && saveOption != OLECLOSE_NOSAVE && m_control.persistence().IsDirty() == S_OK)
+        m_site->SaveObject();
+    if (m_advises)
+        m_advises->SendOnClose();
+    return S_OK;
+}
+
+STDMETHODIMP OleObject::SetMoniker(DWORD, IMoniker *)
+{
+    return E_NOTIMPL;
+}
+
+STDMETHODIMP OleObject::GetMoniker(DWORD, DWORD, IMoniker **moniker)
+{
+    if (moniker)
+        *moniker = nullptr;
+    return E_NOTIMPL;
+}
+
+STDMETHODIMP OleObject::InitFromData(IDataObject *, BOOL, DWORD)
+{
+    return E_NOTIMPL;
+}
+
+STDMETHODIMP OleObject::GetClipboardData(DWORD, IDataObject **data)
+{
+    if (data)
+        *data = nullptr;
+    return E_NOTIMPL;
+}
+
+STDMETHODIMP OleObject::DoVerb(LONG verb, LPMSG, IOleClientSite *, LONG, HWND parent, LPCRECT)
+{
+    switch (verb) {
+    case OLEIVERB_PRIMARY:
+    case OLEIVERB_SHOW:
+    case OLEIVERB_UIACTIVATE:
+        return m_control.inPlace().activate(InPlace::WithUi);
+    case OLEIVERB_INPLACEACTIVATE:
+        return m_control.inPlace().activate(InPlace::WithoutUi);
+    case OLEIVERB_HIDE:
+        m_control.inPlace().deactivate();
+        return S_OK;
+    case OLEIVERB_PROPERTIES:
+        return showPropertyPages(parent);
+    default:
+        return verb > 0 ? OLEOBJ_S_INVALIDVERB : E_NOTIMPL;
+    }
+}
+
+STDMETHODIMP OleObject::EnumVerbs(IEnumOLEVERB **verbs)
+{
+    if (verbs)
+        *verbs = nullptr;
+    return OLE_S_USEREG;
+}
+
+STDMETHODIMP OleObject::Update()
+{
+    return S_OK;
+}
+
+STDMETHODIMP OleObject::IsUpToDate()
+{
+    return S_OK;
+}
+
+STDMETHODIMP OleObject::GetUserClassID(CLSID *id)
+{
+    return m_control.persistence().GetClassID(id);
+}
+
+STDMETHODIMP OleObject::GetUserType(DWORD form, LPOLESTR *name)
+{
+    return OleRegGetUserType(ControlId, form, name);
+}
+
+STDMETHODIMP OleObject::SetExtent(DWORD aspect, SIZEL *size)
+{
+    if (aspect != DVASPECT_CONTENT)
+        return DV_E_DVASPECT;
+    if (!size)
+        return E_POINTER;
+    // In place, the container's rectangle decides.
+    if (!m_control.inPlace().isActive())
+        m_control.grid().resize(fromHimetric(*size, m_control.grid()));
+    m_control.view().viewChanged();
+    return S_OK;
+}
+
+STDMETHODIMP OleObject::GetExtent(DWORD aspect, SIZEL *size)
+{
+    if (aspect != DVASPECT_CONTENT)
+        return DV_E_DVASPECT;
+    if (!size)
+        return E_POINTER;
+    *size = toHimetric(m_control.grid().size(), m_control.grid());
+    return S_OK;
+}
+
+STDMETHODIMP OleObject::Advise(IAdviseSink *sink, DWORD *connection)
+{
+    if (!m_advises) {
+        const HRESULT created = CreateOleAdviseHolder(&m_advises);
+        if (FAILED(created))
+            return created;
+    }
+    return m_advises->Advise(sink, connection);
+}
+
+STDMETHODIMP OleObject::Unadvise(DWORD connection)
+{
+    return m_advises ? m_advises->Unadvise(connection) : OLE_E_NOCONNECTION;
+}
+
+STDMETHODIMP OleObject::EnumAdvise(IEnumSTATDATA **advises)
+{
+    if (!advises)
+        return E_POINTER;
+    *advises = nullptr;
+    return m_advises ? m_advises->EnumAdvise(advises) : S_OK;
+}
+
+STDMETHODIMP OleObject::GetMiscStatus(DWORD, DWORD *status)
+{
+    if (!status)
+        return E_POINTER;
+    *status = MiscStatus;
+    return S_OK;
+}
+
+STDMETHODIMP OleObject::SetColorScheme(LOGPALETTE *)
+{
+    return E_NOTIMPL;
+}
+
+HRESULT OleObject::showPropertyPages(HWND parent)
+{
+    // A container with pages of its own shows ours among them.
+    ComPtr<IOleControlSite> controlSite;
+    if (m_site && SUCCEEDED(m_site.As(&controlSite)) && SUCCEEDED(controlSite->ShowPropertyFrame()))
+        return S_OK;
+
+    ComPtr<ISpecifyPropertyPages> specify;
+    CAUUID pages{};
+    HRESULT outcome = m_control.identity().QueryInterface(IID_PPV_ARGS(&specify));
+    if (SUCCEEDED(outcome))
+        outcome = specify->GetPages(&pages);
+    if (FAILED(outcome))
+        return outcome;
+    IUnknown *object = &m_control.identity();
+    outcome = OleCreatePropertyFrame(parent, 0, 0, L"KOVAVSFDataGrid", 1, &object, pages.cElems, pages.pElems,
+                                     LOCALE_USER_DEFAULT, 0, nullptr);
+    CoTaskMemFree(pages.pElems);
+    return outcome;
+}
+
+} // namespace KOVAVSFDataGridLib::ActiveX

@@ -1,0 +1,90 @@
+#include "activex/container/ViewObject.h"
+
+#include "activex/GridControl.h"
+
+#include <KOVAVSFDataGrid>
+
+#include <QtGui/QImage>
+
+namespace KOVAVSFDataGridLib::ActiveX {
+
+ViewObject::ViewObject(GridControl &control) : Part(control.identity()), m_control(control) {}
+
+STDMETHODIMP ViewObject::Draw(DWORD aspect, LONG, void *, DVTARGETDEVICE *, HDC, HDC context, LPCRECTL bounds,
+                              LPCRECTL, BOOL(CALLBACK *)(ULONG_PTR), ULONG_PTR)
+{
+    if (aspect != DVASPECT_CONTENT)
+        return DV_E_DVASPECT;
+    if (!context || !bounds)
+        return E_INVALIDARG;
+    KOVAVSFDataGrid &grid = m_control.grid();
+    QImage picture(grid.size(), QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    grid.render(&picture);
+
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = picture.width();
+    info.bmiHeader.biHeight = -picture.height(); // top row first
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    SetStretchBltMode(context, HALFTONE);
+    const int lines = StretchDIBits(context, bounds->left, bounds->top, bounds->right - bounds->left,
+                                    bounds->bottom - bounds->top, 0, 0, picture.width(), picture.height(),
+                                    picture.constBits(), &info, DIB_RGB_COLORS, SRCCOPY);
+    return lines > 0 || picture.isNull() ? S_OK : E_FAIL;
+}
+
+STDMETHODIMP ViewObject::GetColorSet(DWORD, LONG, void *, DVTARGETDEVICE *, HDC, LOGPALETTE **colours)
+{
+    if (colours)
+        *colours = nullptr;
+    return S_FALSE;
+}
+
+STDMETHODIMP ViewObject::Freeze(DWORD, LONG, void *, DWORD *)
+{
+    return E_NOTIMPL;
+}
+
+STDMETHODIMP ViewObject::Unfreeze(DWORD)
+{
+    return E_NOTIMPL;
+}
+
+STDMETHODIMP ViewObject::SetAdvise(DWORD aspects, DWORD flags, IAdviseSink *sink)
+{
+    m_aspects = aspects;
+    m_flags = flags;
+    m_sink = sink;
+    if (flags & ADVF_PRIMEFIRST)
+        viewChanged();
+    return S_OK;
+}
+
+STDMETHODIMP ViewObject::GetAdvise(DWORD *aspects, DWORD *flags, IAdviseSink **sink)
+{
+    if (aspects)
+        *aspects = m_aspects;
+    if (flags)
+        *flags = m_flags;
+    return sink ? m_sink.CopyTo(sink) : S_OK;
+}
+
+STDMETHODIMP ViewObject::GetExtent(DWORD aspect, LONG, DVTARGETDEVICE *, LPSIZEL size)
+{
+    return m_control.oleObject().GetExtent(aspect, size);
+}
+
+void ViewObject::viewChanged()
+{
+    if (!m_sink)
+        return;
+    const Microsoft::WRL::ComPtr<IAdviseSink> sink = m_sink;
+    if (m_flags & ADVF_ONLYONCE)
+        m_sink.Reset();
+    sink->OnViewChange(m_aspects, -1);
+}
+
+} // namespace KOVAVSFDataGridLib::ActiveX

@@ -1,0 +1,41 @@
+#include "activex/server/ClassFactory.h"
+
+#include "activex/GridControl.h"
+#include "activex/container/OlePropertyPage.h"
+#include "activex/server/Guids.h"
+#include "activex/server/QtRuntime.h"
+#include "activex/server/TypeLibrary.h"
+
+#include <exception>
+#include <new>
+
+namespace KOVAVSFDataGridLib::ActiveX {
+
+ClassFactory::Create ClassFactory::creatorOf(REFCLSID id)
+{
+    return id == ControlId ? &GridControl::create : OlePropertyPage::creatorOf(id);
+}
+
+STDMETHODIMP ClassFactory::CreateInstance(IUnknown *outer, REFIID iid, void **object)
+try {
+    if (!object)
+        return E_POINTER;
+    *object = nullptr;
+    // Who aggregates must hold the inner identity.
+    if (outer && iid != IID_IUnknown)
+        return CLASS_E_NOAGGREGATION;
+    const HRESULT started = startQt();
+    return FAILED(started) ? started : m_create(outer, iid, object);
+} catch (const std::bad_alloc &) {
+    return E_OUTOFMEMORY;
+} catch (const std::exception &) {
+    return E_UNEXPECTED;
+}
+
+STDMETHODIMP ClassFactory::LockServer(BOOL lock)
+{
+    ModuleUse::lock(lock != FALSE);
+    return S_OK;
+}
+
+} // namespace KOVAVSFDataGridLib::ActiveX

@@ -1,0 +1,72 @@
+#include "activex/server/QtRuntime.h"
+
+#include "activex/server/ModuleUse.h"
+#include "control/face/platform/ModuleFolder.h"
+
+#include <QtCore/QFileInfo>
+#include <QtCore/QLocale>
+#include <QtCore/QThread>
+#include <QtCore/QTranslator>
+#include <QtGui/QFont>
+#include <QtWidgets/QApplication>
+
+#include <array>
+
+namespace KOVAVSFDataGridLib::ActiveX {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// COM frees a server when it leaves a thread, whatever the server says. Qt would be left with pointers to
+// types, resources and window procedures that are gone.
+void stayLoaded()
+{
+    HMODULE pinned = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
+                       reinterpret_cast<LPCWSTR>(moduleInstance), &pinned);
+}
+
+QByteArray hostProgram()
+{
+    std::array<wchar_t, 32768> path{};
+    GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    return QString::fromWCharArray(path.data()).toLocal8Bit();
+}
+
+// The texts of Qt's own dialogs, beside this file, as in every installed copy.
+void useChinese()
+{
+    const QLocale chinese(QLocale::Chinese, QLocale::China);
+    QLocale::setDefault(chinese);
+    auto *translator = new QTranslator(QCoreApplication::instance());
+    if (translator->load(chinese, u"qtbase"_s, u"_"_s, moduleFolder() + "/translations"_L1))
+        QCoreApplication::installTranslator(translator);
+    QFont font = QApplication::font();
+    font.setFamilies({u"Microsoft YaHei UI"_s, u"Noto Sans CJK SC"_s, font.family()});
+    QApplication::setFont(font);
+}
+
+} // namespace
+
+HRESULT startQt()
+{
+    stayLoaded();
+    if (!QCoreApplication::instance()) {
+        // The platform plugin lies beside this file, wherever the host program is.
+        QCoreApplication::addLibraryPath(moduleFolder());
+        // Leaves the host's process alone: its DPI awareness, its way of ending.
+        QCoreApplication::setAttribute(Qt::AA_PluginApplication);
+        static QByteArray program = hostProgram();
+        static int count = 1;
+        static std::array<char *, 2> arguments{program.data(), nullptr};
+        new QApplication(count, arguments.data()); // lives as long as the process
+        QApplication::setQuitOnLastWindowClosed(false);
+        useChinese();
+    }
+    if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
+        return E_UNEXPECTED; // the host uses Qt, but without windows
+    return QThread::currentThread() == QCoreApplication::instance()->thread() ? S_OK : RPC_E_WRONG_THREAD;
+}
+
+} // namespace KOVAVSFDataGridLib::ActiveX

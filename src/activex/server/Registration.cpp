@@ -1,0 +1,187 @@
+#include "activex/server/Registration.h"
+
+#include "activex/container/OleObject.h"
+#include "activex/server/Guids.h"
+#include "activex/server/ModuleUse.h"
+#include "activex/server/TypeLibrary.h"
+
+#include <array>
+#include <olectl.h>
+#include <string>
+#include <vector>
+
+// In the import library, but not in the headers of mingw-w64.
+extern "C" {
+HRESULT WINAPI RegisterTypeLibForUser(ITypeLib *library, OLECHAR *path, OLECHAR *helpFolder);
+HRESULT WINAPI UnRegisterTypeLibForUser(REFGUID id, WORD major, WORD minor, LCID locale, SYSKIND kind);
+}
+
+namespace KOVAVSFDataGridLib::ActiveX {
+
+namespace {
+
+constexpr wchar_t progId[] = L"KOVAVSFDataGridLib.KOVAVSFDataGrid";
+// The component category of everything that can be placed on a form.
+constexpr GUID controlCategory = {
+    0x40fc6ed4, 0x2438, 0x11cf, {0xa3, 0xdb, 0x08, 0x00, 0x36, 0xf1, 0x25, 0x02}};
+constexpr wchar_t controlName[] = L"KOVAVSFDataGrid";
+
+struct Entry
+{
+    std::wstring key;
+    std::wstring name; // empty: the key's own value
+    std::wstring value;
+};
+
+std::wstring text(REFGUID id)
+{
+    std::array<wchar_t, 39> braces{};
+    StringFromGUID2(id, braces.data(), static_cast<int>(braces.size()));
+    return braces.data();
+}
+
+std::wstring classKey(REFGUID id)
+{
+    return L"CLSID\\" + text(id);
+}
+
+std::vector<Entry> serverEntries(REFGUID id, const std::wstring &name)
+{
+    const std::wstring key = classKey(id);
+    return {{key, {}, name},
+            {key + L"\\InprocServer32", {}, modulePath()},
+            {key + L"\\InprocServer32", L"ThreadingModel", L"Apartment"}};
+}
+
+std::vector<Entry> entries()
+{
+    const std::wstring key = classKey(ControlId);
+    std::vector<Entry> all = serverEntries(ControlId, controlName);
+    all.insert(all.end(), std::initializer_list<Entry>{
+                              {key + L"\\ProgID", {}, progId},
+                              {key + L"\\VersionIndependentProgID", {}, progId},
+                              {key + L"\\TypeLib", {}, text(LibraryId)},
+                              {key + L"\\Version", {}, L"1.0"},
+                              {key + L"\\Control", {}, {}},
+                              {key + L"\\Programmable", {}, {}},
+                              {key + L"\\Implemented Categories\\" + text(controlCategory), {}, {}},
+                              {key + L"\\MiscStatus", {}, L"0"},
+                              {key + L"\\MiscStatus\\1", {}, std::to_wstring(OleObject::MiscStatus)},
+                              {key + L"\\ToolboxBitmap32", {}, modulePath() + L",1"},
+                              {progId, {}, controlName},
+                              {std::wstring(progId) + L"\\CLSID", {}, text(ControlId)}});
+    for (const PageClass &page : PageClasses) {
+        for (Entry &entry : serverEntries(page.id, std::wstring(controlName) + L" " + page.name))
+            all.push_back(std::move(entry));
+    }
+    return all;
+}
+
+HRESULT fromError(LSTATUS error)
+{
+    return error == ERROR_SUCCESS ? S_OK : HRESULT_FROM_WIN32(static_cast<DWORD>(error));
+}
+
+class Classes
+{
+public:
+    explicit Classes(HKEY root)
+    {
+        m_outcome = RegCreateKeyExW(root, L"Software\\Classes", 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr,
+                                    &m_key, nullptr);
+    }
+    ~Classes()
+    {
+        if (m_key)
+            RegCloseKey(m_key);
+    }
+    Classes(const Classes &) = delete;
+    Classes &operator=(const Classes &) = delete;
+
+    LSTATUS outcome() const { return m_outcome; }
+
+    LSTATUS write(const Entry &entry)
+    {
+        HKEY key = nullptr;
+        const LSTATUS opened =
+            RegCreateKeyExW(m_key, entry.key.c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr);
+        if (opened != ERROR_SUCCESS)
+            return opened;
+        const LSTATUS written =
+            RegSetValueExW(key, entry.name.empty() ? nullptr : entry.name.c_str(), 0, REG_SZ,
+                           reinterpret_cast<const BYTE *>(entry.value.c_str()),
+                           static_cast<DWORD>((entry.value.size() + 1) * sizeof(wchar_t)));
+        RegCloseKey(key);
+        return written;
+    }
+    void remove(const std::wstring &key) { RegDeleteTreeW(m_key, key.c_str()); }
+
+private:
+    HKEY m_key = nullptr;
+    LSTATUS m_outcome = ERROR_SUCCESS;
+};
+
+HRESULT writeEntries(HKEY root)
+{
+    Classes classes(root);
+    LSTATUS outcome = classes.outcome();
+    for (const Entry &entry : entries()) {
+        if (outcome == ERROR_SUCCESS)
+            outcome = classes.write(entry);
+    }
+    return fromError(outcome);
+}
+
+void removeEntries(HKEY root)
+{
+    Classes classes(root);
+    if (classes.outcome() != ERROR_SUCCESS)
+        return;
+    classes.remove(progId);
+    classes.remove(classKey(ControlId));
+    for (const PageClass &page : PageClasses)
+        classes.remove(classKey(page.id));
+}
+
+HRESULT registerAt(HKEY root, bool forUser)
+{
+    HRESULT outcome = writeEntries(root);
+    if (FAILED(outcome))
+        return outcome;
+    Microsoft::WRL::ComPtr<ITypeLib> library;
+    outcome = loadTypeLibrary(&library);
+    if (FAILED(outcome))
+        return outcome;
+    std::wstring path = modulePath();
+    return forUser ? RegisterTypeLibForUser(library.Get(), path.data(), nullptr)
+                   : RegisterTypeLib(library.Get(), path.data(), nullptr);
+}
+
+} // namespace
+
+HRESULT registerServer()
+{
+    const HRESULT everybody = registerAt(HKEY_LOCAL_MACHINE, false);
+    return everybody == HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED) ? registerServerForUser() : everybody;
+}
+
+HRESULT registerServerForUser()
+{
+    return registerAt(HKEY_CURRENT_USER, true);
+}
+
+HRESULT unregisterServer()
+{
+    removeEntries(HKEY_CURRENT_USER);
+    removeEntries(HKEY_LOCAL_MACHINE);
+#ifdef _WIN64
+    constexpr SYSKIND kind = SYS_WIN64;
+#else
+    constexpr SYSKIND kind = SYS_WIN32;
+#endif
+    UnRegisterTypeLibForUser(LibraryId, 1, 0, LOCALE_NEUTRAL, kind);
+    UnRegisterTypeLib(LibraryId, 1, 0, LOCALE_NEUTRAL, kind);
+    return S_OK;
+}
+
+} // namespace KOVAVSFDataGridLib::ActiveX

@@ -1,0 +1,67 @@
+#include "activex/server/ClassFactory.h"
+#include "activex/server/ModuleUse.h"
+#include "activex/server/Registration.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <cwchar>
+#include <new>
+#include <olectl.h>
+
+// The functions by which COM reaches the server; named in KOVAVSFDataGridLib.def.
+
+using namespace KOVAVSFDataGridLib::ActiveX;
+
+extern "C" {
+
+BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID)
+{
+    if (reason == DLL_PROCESS_ATTACH) {
+        moduleInstance = instance;
+        DisableThreadLibraryCalls(instance);
+    }
+    return TRUE;
+}
+
+STDAPI DllGetClassObject(REFCLSID id, REFIID iid, void **object)
+{
+    if (!object)
+        return E_POINTER;
+    *object = nullptr;
+    const ClassFactory::Create create = ClassFactory::creatorOf(id);
+    if (!create)
+        return CLASS_E_CLASSNOTAVAILABLE;
+    auto *factory = new (std::nothrow) ClassFactory(create);
+    if (!factory)
+        return E_OUTOFMEMORY;
+    const HRESULT offered = factory->QueryInterface(iid, object);
+    factory->Release();
+    return offered;
+}
+
+STDAPI DllCanUnloadNow()
+{
+    // Qt cannot be taken out of a running process again. Once it is there, the server stays, even when no
+    // object is left.
+    return ModuleUse::count() == 0 && !QCoreApplication::instance() ? S_OK : S_FALSE;
+}
+
+STDAPI DllRegisterServer()
+{
+    return registerServer();
+}
+
+STDAPI DllUnregisterServer()
+{
+    return unregisterServer();
+}
+
+// `regsvr32 /n /i:user` registers for the user alone.
+STDAPI DllInstall(BOOL install, PCWSTR command)
+{
+    if (!install)
+        return unregisterServer();
+    return command && std::wcscmp(command, L"user") == 0 ? registerServerForUser() : registerServer();
+}
+
+} // extern "C"

@@ -1,0 +1,13 @@
+#include "ado/EngineOf.h"
+
+#include "ado/Connection.h"
+
+namespace KOVAVSFDataGridLib {
+
+Engine EngineOf(const std::shared_ptr<ADODB::Connection> &connection)
+{
+    const bool isOpen = connection && connection->State() == ADODB::adStateOpen;
+    return isOpen ? EngineNamed(connection->EngineName()) : Engine::Other;
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ado/FieldInfo.h"
+#include "ado/providers/odbc/reading/OdbcTypes.h"
+
+#include <vector>
+
+namespace ADODB {
+
+class OdbcHandle;
+
+// What a prepared statement says about its columns.
+std::vector<FieldInfo> describeColumns(const OdbcHandle &statement);
+OdbcTypes::Declared declaredType(const OdbcHandle &statement, int column);
+
+} // namespace ADODB

@@ -1,0 +1,121 @@
+#include "ado/providers/odbc/reading/OdbcQuery.h"
+
+#include "ado/providers/odbc/OdbcEngine.h"
+#include "ado/providers/odbc/OdbcHandle.h"
+#include "ado/providers/odbc/OdbcWatch.h"
+#include "ado/providers/odbc/reading/OdbcBlockReader.h"
+#include "ado/providers/odbc/reading/OdbcDescription.h"
+#include "ado/providers/odbc/reading/OdbcValueReader.h"
+#include "ado/values/FieldValue.h"
+#include "sql/SqlScanner.h"
+
+#include <QtCore/QStringList>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+bool isDay(const FieldInfo &field)
+{
+    return field.type == adDBDate || field.type == adDBTimeStamp;
+}
+
+// The size of a number or a date says how many bytes it takes, not how long it is as a text.
+OdbcColumn columnOf(const FieldInfo &field, bool loose)
+{
+    constexpr qint64 longestAsText = 60;
+    const OdbcTypes::Form form = OdbcTypes::formOf(field.type, loose);
+    const bool isSized = FieldValue::isText(field.type) || form == OdbcTypes::Form::Bytes;
+    return {form, isSized ? field.definedSize : longestAsText};
+}
+
+} // namespace
+
+OdbcQuery::OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
+                     const QString &sql, const OdbcPatience &patience)
+    : m_connection(connection), m_engine(engine), m_statement(std::make_unique<OdbcHandle>(connection))
+{
+    // A comment behind the semicolon is another statement to some drivers.
+    m_text = SqlScanner(sql, m_engine.dialect).withoutSemicolon();
+    prepare(patience);
+    m_fields = describeColumns(*m_statement);
+    for (std::size_t i = 0; i < m_fields.size(); ++i) {
+        m_types.push_back(declaredType(*m_statement, static_cast<int>(i)));
+        m_columns.push_back(columnOf(m_fields[i], m_engine.looseTypes));
+    }
+    if (m_engine.bendsDates && std::any_of(m_fields.begin(), m_fields.end(), isDay))
+        askForDatesAsText();
+}
+
+OdbcQuery::~OdbcQuery() = default;
+
+// Also asks for the columns: there are drivers that prepare only when they have to.
+void OdbcQuery::prepare(const OdbcPatience &patience)
+{
+    m_statement->check(OdbcWatch(*m_statement, patience).run([this] {
+        SQLHSTMT const statement = m_statement->get();
+        const SQLRETURN code = SQLPrepareW(statement, wide(m_text), static_cast<SQLINTEGER>(m_text.size()));
+        SQLSMALLINT columns = 0;
+        return succeeded(code) ? SQLNumResultCols(statement, &columns) : code;
+    }));
+}
+
+int OdbcQuery::parameters() const
+{
+    SQLSMALLINT count = 0;
+    m_statement->check(SQLNumParams(m_statement->get(), &count));
+    return count;
+}
+
+// The server's own texts hold what the driver can't, and what it would silently make another date of. The
+// order of the rows stays, because nothing around the statement asks for another.
+void OdbcQuery::askForDatesAsText()
+{
+    QStringList names;
+    QStringList values;
+    for (const FieldInfo &field : m_fields) {
+        names += u"c%1"_s.arg(names.size());
+        values += isDay(field) ? names.last() + "::text"_L1 : names.last();
+    }
+    m_text = "SELECT "_L1 + values.join(", "_L1) + " FROM (\n"_L1 + m_text + "\n) AS kova("_L1 +
+             names.join(", "_L1) + u')';
+    m_statement = std::make_unique<OdbcHandle>(m_connection);
+    m_statement->prepare(m_text);
+}
+
+void OdbcQuery::read(RowStore &rows, const OdbcPatience &patience)
+{
+    const OdbcWatch watch(*m_statement, patience);
+    bool done = false;
+    if (m_engine.asksAgain || OdbcBlockReader::haveRoom(m_columns)) {
+        OdbcBlockReader reader(*m_statement, m_columns, m_engine.asksAgain);
+        done = readAll(reader, rows, watch);
+    }
+    if (!done) {
+        rows.clear();
+        // SQLite's driver would go on where it was.
+        m_statement->prepare(m_text);
+        OdbcValueReader reader(*m_statement, m_columns);
+        readAll(reader, rows, watch);
+    }
+    SQLFreeStmt(m_statement->get(), SQL_CLOSE);
+}
+
+// False when the rows have to be read anew, value by value.
+bool OdbcQuery::readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch)
+{
+    SQLHSTMT const statement = m_statement->get();
+    m_statement->check(watch.run([statement] { return SQLExecute(statement); }));
+    while (reader.fetch(watch)) {
+        if (!reader.append(rows))
+            return false;
+        watch.ask();
+    }
+    return true;
+}
+
+} // namespace ADODB

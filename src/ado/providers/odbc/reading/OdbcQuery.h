@@ -1,0 +1,49 @@
+#pragma once
+
+#include "ado/FieldInfo.h"
+#include "ado/providers/odbc/reading/OdbcReader.h"
+
+#include <memory>
+
+namespace ADODB {
+
+class OdbcConnection;
+class OdbcHandle;
+struct OdbcEngine;
+struct OdbcPatience;
+
+// A prepared statement that gives rows, read so that every value comes whole and as the server means it.
+class OdbcQuery
+{
+public:
+    // `patience` is that for preparing.
+    OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine, const QString &sql,
+              const OdbcPatience &patience);
+    ~OdbcQuery();
+    Q_DISABLE_COPY_MOVE(OdbcQuery)
+
+    // What the driver says about the columns of the text that was given. None when it gives no rows.
+    const std::vector<FieldInfo> &fields() const { return m_fields; }
+    const std::vector<OdbcTypes::Declared> &types() const { return m_types; }
+    int parameters() const;
+    // For binding parameters.
+    const OdbcHandle &handle() const { return *m_statement; }
+
+    // Runs it and appends all rows. See OdbcWatch for the errors.
+    void read(RowStore &rows, const OdbcPatience &patience);
+
+private:
+    void prepare(const OdbcPatience &patience);
+    void askForDatesAsText();
+    bool readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch);
+
+    std::shared_ptr<OdbcConnection> m_connection;
+    const OdbcEngine &m_engine;
+    QString m_text; // as it is prepared
+    std::unique_ptr<OdbcHandle> m_statement;
+    std::vector<FieldInfo> m_fields;
+    std::vector<OdbcTypes::Declared> m_types;
+    std::vector<OdbcColumn> m_columns;
+};
+
+} // namespace ADODB

@@ -1,0 +1,111 @@
+#include "ado/providers/odbc/reading/OdbcRefusal.h"
+
+#include "ado/Error.h"
+#include "ado/Texts.h"
+#include "sql/SqlScanner.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+Error refusal(ProviderErrorEnum number, const QString &description)
+{
+    return Error(number, description, u"ODBC"_s, u"42000"_s);
+}
+
+bool isOneOf(const SqlScanner &statement, qsizetype index, std::initializer_list<QStringView> words)
+{
+    return std::any_of(words.begin(), words.end(),
+                       [&](QStringView word) { return statement.isWord(index, word); });
+}
+
+// Not MERGE JOIN, a way of joining.
+bool isMerge(const SqlScanner &statement, qsizetype index)
+{
+    return statement.isWord(index, u"MERGE") && statement.isName(index + 1) &&
+           !isOneOf(statement, index + 1, {u"JOIN", u"UNION"});
+}
+
+// DELETE FROM … as the main statement behind a WITH list or within one. Words that follow anything but a
+// parenthesis can be names.
+bool isChange(const SqlScanner &statement, qsizetype index)
+{
+    return (isMerge(statement, index) || isOneOf(statement, index, {u"INSERT", u"UPDATE", u"DELETE"})) &&
+           (statement.isSymbol(index - 1, u'(') || statement.isSymbol(index - 1, u')')) &&
+           statement.isName(index + 1);
+}
+
+// SELECT … INTO makes a table, or a file on the server. Written behind a dot INTO is a column's name.
+bool isInto(const SqlScanner &statement, qsizetype index)
+{
+    return statement.isWord(index, u"INTO") && !statement.isSymbol(index - 1, u'.');
+}
+
+// SQL Server begins another statement without any sign before it, not even a blank behind a number. Only in
+// quotes can these words be names.
+bool beginsStatement(const SqlScanner &statement, qsizetype index)
+{
+    static constexpr QStringView words[] = {
+        u"INSERT",    u"UPDATE",     u"DELETE",      u"EXEC",      u"EXECUTE",  u"CREATE",   u"ALTER",
+        u"DROP",      u"TRUNCATE",   u"GRANT",       u"DENY",      u"REVOKE",   u"SET",      u"DECLARE",
+        u"BEGIN",     u"COMMIT",     u"SAVE",        u"BULK",      u"ROLLBACK", u"USE",      u"IF",
+        u"WHILE",     u"WAITFOR",    u"KILL",        u"BACKUP",    u"RESTORE",  u"SHUTDOWN", u"DBCC",
+        u"WRITETEXT", u"UPDATETEXT", u"RECONFIGURE", u"CHECKPOINT"};
+    const bool isNumber = statement.at(index).kind == SqlToken::Kind::Number;
+    const QStringView text = statement.text(index);
+    return isMerge(statement, index) ||
+           std::any_of(std::begin(words), std::end(words), [&](QStringView word) {
+               return isNumber ? text.endsWith(word, Qt::CaseInsensitive) : statement.isWord(index, word);
+           });
+}
+
+bool reads(const SqlScanner &statement, qsizetype first)
+{
+    if (!isOneOf(statement, first,
+                 {u"SELECT", u"WITH", u"VALUES", u"TABLE", u"SHOW", u"DESCRIBE", u"DESC", u"EXPLAIN"}))
+        return false;
+    for (qsizetype i = first; i < statement.count(); ++i) {
+        // EXPLAIN ANALYZE runs the statement that it explains.
+        if (isChange(statement, i) || isInto(statement, i) ||
+            (statement.dialect() == SqlDialect::SqlServer && beginsStatement(statement, i)) ||
+            (isOneOf(statement, first, {u"EXPLAIN", u"DESCRIBE", u"DESC"}) &&
+             isOneOf(statement, i, {u"ANALYZE", u"ANALYSE"})))
+            return false;
+    }
+    return true;
+}
+
+// Behind the parentheses that it begins with.
+qsizetype firstWord(const SqlScanner &statement)
+{
+    qsizetype first = 0;
+    while (statement.isSymbol(first, u'('))
+        ++first;
+    return first;
+}
+
+} // namespace
+
+bool isExplainable(const SqlScanner &statement)
+{
+    return isOneOf(statement, firstWord(statement), {u"SELECT", u"WITH", u"VALUES", u"TABLE"});
+}
+
+void refuseUnlessQuery(const SqlScanner &statement)
+{
+    const qsizetype first = firstWord(statement);
+    if (statement.count() == 0 || statement.isSymbol(first, u';'))
+        throw refusal(dbErrInCommand, Texts::emptyStatement());
+    for (qsizetype i = 0; i + 1 < statement.count(); ++i) {
+        if (statement.isSymbol(i, u';'))
+            throw refusal(dbErrMultipleStatements, Texts::secondStatement());
+    }
+    if (!reads(statement, first))
+        throw refusal(dbErrPermissionDenied, Texts::notAQuery());
+}
+
+} // namespace ADODB

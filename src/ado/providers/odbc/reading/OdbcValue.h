@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ado/providers/odbc/reading/OdbcTypes.h"
+#include "ado/rows/RowStore.h"
+
+#include <QtCore/QStringEncoder>
+
+#include <vector>
+
+namespace ADODB {
+
+// How values of a form come from a driver.
+struct OdbcLayout
+{
+    SQLSMALLINT cType;
+    SQLLEN size;       // of a value in bytes; 0 when values have no fixed size
+    SQLLEN terminator; // bytes of the zero that a driver puts behind a text
+
+    static OdbcLayout of(OdbcTypes::Form form);
+};
+
+// Takes values as a driver gives them over into rows.
+class OdbcValue
+{
+public:
+    // `length` is in bytes, without the terminator; not SQL_NULL_DATA.
+    void append(RowStore &rows, OdbcTypes::Form form, const char *value, SQLLEN length);
+
+private:
+    QByteArrayView utf8(const char *value, SQLLEN length);
+
+    QStringEncoder m_encoder{QStringEncoder::Utf8, QStringEncoder::Flag::Stateless};
+    std::vector<char> m_utf8;
+};
+
+} // namespace ADODB

@@ -1,0 +1,238 @@
+#include "ado/providers/odbc/writing/OdbcTable.h"
+
+#include "ado/Error.h"
+#include "ado/Texts.h"
+#include "ado/providers/odbc/OdbcHandle.h"
+#include "ado/providers/odbc/reading/OdbcDescription.h"
+#include "ado/providers/odbc/reading/OdbcLongValue.h"
+#include "sql/SimpleSelect.h"
+
+#include <algorithm>
+#include <functional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+// The full name of a table. Empty parts are not asked for.
+struct Name
+{
+    QString catalog;
+    QString schema;
+    QString table;
+};
+
+class Part
+{
+public:
+    explicit Part(const QString &text) : m_text(text) {}
+    SQLWCHAR *text() const { return m_text.isEmpty() ? nullptr : wide(m_text); }
+    SQLSMALLINT length() const { return static_cast<SQLSMALLINT>(m_text.size()); }
+
+private:
+    const QString &m_text;
+};
+
+// Asks the catalogue and calls `see` with each row's values in the wanted columns, which count from 1 and go
+// up. What the driver does not answer, it does not know.
+void forEachAnswer(const std::shared_ptr<OdbcConnection> &connection,
+                   const std::function<SQLRETURN(SQLHSTMT)> &ask, const std::vector<int> &wanted,
+                   const std::function<void(const QStringList &)> &see)
+{
+    const OdbcHandle statement(connection);
+    if (!succeeded(ask(statement.get())))
+        return;
+    OdbcLongValue value;
+    while (statement.fetch()) {
+        QStringList row;
+        for (const int column : wanted) {
+            SQLLEN length = 0;
+            const SQLRETURN code = value.read(statement, column - 1, OdbcTypes::Form::Text, length);
+            row += succeeded(code) && length > 0
+                       ? QString::fromUtf16(reinterpret_cast<const char16_t *>(value.data()),
+                                            length / qsizetype{sizeof(char16_t)})
+                       : QString();
+        }
+        see(row);
+    }
+}
+
+// As the database keeps a name that is written without quotes.
+QString stored(const QString &name, bool quoted, SQLUSMALLINT identifierCase)
+{
+    if (!quoted && identifierCase == SQL_IC_UPPER)
+        return name.toUpper();
+    if (!quoted && identifierCase == SQL_IC_LOWER)
+        return name.toLower();
+    return name;
+}
+
+Name fullName(const OdbcHandle &probe, const OdbcConnection &connection, const SimpleSelect &select,
+              const std::vector<FieldInfo> &fields)
+{
+    Name name{probe.columnText(0, SQL_DESC_CATALOG_NAME), probe.columnText(0, SQL_DESC_SCHEMA_NAME),
+              fields.front().baseTable};
+    if (name.table.isEmpty()) {
+        const bool quoted = !select.tableText.endsWith(select.table);
+        const SQLUSMALLINT identifierCase = connection.shortNumber(SQL_IDENTIFIER_CASE);
+        name.table = stored(select.table, quoted, identifierCase);
+        name.schema = stored(select.schema, quoted, identifierCase);
+    }
+    return name;
+}
+
+QString escaped(const QString &name, const QString &escape)
+{
+    QString pattern = name;
+    for (const QString &special : {escape, u"_"_s, u"%"_s}) {
+        if (!escape.isEmpty())
+            pattern.replace(special, escape + special);
+    }
+    return pattern;
+}
+
+bool isTable(const std::shared_ptr<OdbcConnection> &connection, const Name &name)
+{
+    const QString pattern = escaped(name.table, connection->info(SQL_SEARCH_PATTERN_ESCAPE));
+    const Part catalog(name.catalog);
+    const Part schema(name.schema);
+    const Part table(pattern);
+    bool found = false;
+    forEachAnswer(
+        connection,
+        [&](SQLHSTMT statement) {
+            return SQLTablesW(statement, catalog.text(), catalog.length(), schema.text(), schema.length(),
+                              table.text(), table.length(), nullptr, 0);
+        },
+        {3, 4},
+        [&](const QStringList &row) {
+            found = found || (row.at(0).compare(name.table, Qt::CaseInsensitive) == 0 &&
+                              row.at(1).endsWith("TABLE"_L1, Qt::CaseInsensitive));
+        });
+    return found;
+}
+
+QStringList primaryKey(const std::shared_ptr<OdbcConnection> &connection, const Name &name)
+{
+    const Part catalog(name.catalog);
+    const Part schema(name.schema);
+    const Part table(name.table);
+    QStringList key;
+    forEachAnswer(
+        connection,
+        [&](SQLHSTMT statement) {
+            return SQLPrimaryKeysW(statement, catalog.text(), catalog.length(), schema.text(),
+                                   schema.length(), table.text(), table.length());
+        },
+        {4}, [&](const QStringList &row) { key += row.at(0); });
+    return key;
+}
+
+// The columns of the first unique index that covers every row, which one with a Null or with a condition does
+// not.
+QStringList uniqueIndex(const std::shared_ptr<OdbcConnection> &connection, const Name &name,
+                        const QStringList &neverNull)
+{
+    struct Index
+    {
+        QString name;
+        QStringList columns;
+        bool usable = true;
+    };
+    const Part catalog(name.catalog);
+    const Part schema(name.schema);
+    const Part table(name.table);
+    std::vector<Index> indexes;
+    forEachAnswer(
+        connection,
+        [&](SQLHSTMT statement) {
+            return SQLStatisticsW(statement, catalog.text(), catalog.length(), schema.text(), schema.length(),
+                                  table.text(), table.length(), SQL_INDEX_UNIQUE, SQL_QUICK);
+        },
+        {6, 9, 13},
+        [&](const QStringList &row) {
+            if (row.at(0).isEmpty()) // about the table itself
+                return;
+            if (indexes.empty() || indexes.back().name != row.at(0))
+                indexes.push_back({row.at(0), {}});
+            indexes.back().columns += row.at(1);
+            if (!neverNull.contains(row.at(1)) || !row.at(2).isEmpty())
+                indexes.back().usable = false;
+        });
+    const auto found =
+        std::find_if(indexes.begin(), indexes.end(), [](const Index &index) { return index.usable; });
+    return found == indexes.end() ? QStringList() : found->columns;
+}
+
+QStringList neverNull(const std::shared_ptr<OdbcConnection> &connection, const Name &name)
+{
+    const QString pattern = escaped(name.table, connection->info(SQL_SEARCH_PATTERN_ESCAPE));
+    const Part catalog(name.catalog);
+    const Part schema(name.schema);
+    const Part table(pattern);
+    QStringList columns;
+    forEachAnswer(
+        connection,
+        [&](SQLHSTMT statement) {
+            return SQLColumnsW(statement, catalog.text(), catalog.length(), schema.text(), schema.length(),
+                               table.text(), table.length(), nullptr, 0);
+        },
+        {4, 11},
+        [&](const QStringList &row) {
+            if (row.at(1) == QString::number(SQL_NO_NULLS))
+                columns += row.at(0);
+        });
+    return columns;
+}
+
+// Empty for what can be read but not as a whole: MariaDB's DUAL, or a table of which this user may see only
+// some columns.
+std::vector<FieldInfo> allFields(const OdbcHandle &probe, const SimpleSelect &select)
+{
+    try {
+        probe.prepare("SELECT * FROM "_L1 + select.tableText);
+        return describeColumns(probe);
+    } catch (const Error &) {
+        if (probe.connection()->isLost())
+            throw;
+        return {};
+    }
+}
+
+bool isComparable(const FieldInfo &field)
+{
+    return field.type != adSingle && field.type != adDouble && (field.attributes & adFldLong) == 0;
+}
+
+} // namespace
+
+OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, const SimpleSelect &select)
+{
+    const OdbcHandle probe(connection);
+    const std::vector<FieldInfo> fields = allFields(probe, select);
+    OdbcTable table;
+    if (fields.empty()) {
+        table.whyReadOnly = Texts::readOnlyNoTable();
+        return table;
+    }
+    const Name name = fullName(probe, *connection, select, fields);
+    // Some drivers name what stands behind a view.
+    if (name.table.compare(select.table, Qt::CaseInsensitive) != 0 || !isTable(connection, name)) {
+        table.whyReadOnly = Texts::readOnlyView().arg(select.table);
+        return table;
+    }
+    for (const FieldInfo &field : fields) {
+        table.columns += field.name;
+        if (isComparable(field))
+            table.comparable += field.name;
+    }
+    table.givesOrigins = !fields.front().baseColumn.isEmpty();
+    table.key = primaryKey(connection, name);
+    if (table.key.isEmpty())
+        table.key = uniqueIndex(connection, name, neverNull(connection, name));
+    return table;
+}
+
+} // namespace ADODB

@@ -1,0 +1,111 @@
+#include "ado/providers/odbc/writing/OdbcTarget.h"
+
+#include "ado/Texts.h"
+#include "ado/providers/odbc/OdbcEngine.h"
+#include "ado/providers/odbc/OdbcHandle.h"
+#include "ado/providers/odbc/writing/OdbcTable.h"
+#include "sql/SimpleSelect.h"
+#include "sql/SqlScanner.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+// A column by the name that somebody wrote; empty when there is none.
+QString columnNamed(const OdbcTable &table, const QString &name)
+{
+    if (table.columns.contains(name))
+        return name;
+    const auto found = std::find_if(table.columns.begin(), table.columns.end(), [&](const QString &column) {
+        return column.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return found == table.columns.end() ? QString() : *found;
+}
+
+// For each field the column it shows, empty for a computed one. The driver has to agree where it knows: what
+// looks like a column's name can be a string to the database, or a value that a subquery picked. Nothing at
+// all when the list can't be counted.
+QStringList shownColumns(const SimpleSelect &select, const OdbcTable &table,
+                         const std::vector<FieldInfo> &fields)
+{
+    QStringList shown;
+    for (const SimpleSelect::Item &item : select.items)
+        shown += item.all ? table.columns : QStringList(columnNamed(table, item.column));
+    if (shown.size() != static_cast<qsizetype>(fields.size()))
+        return {};
+    for (qsizetype i = 0; table.givesOrigins && i < shown.size(); ++i) {
+        const FieldInfo &field = fields[static_cast<std::size_t>(i)];
+        if (shown[i] != field.baseColumn || field.baseTable.compare(select.table, Qt::CaseInsensitive) != 0)
+            shown[i].clear();
+    }
+    return shown;
+}
+
+// An aggregate gives one row even where there is none. The database alone can tell whether there is one.
+bool folds(const std::shared_ptr<OdbcConnection> &connection, const QString &head)
+{
+    const OdbcHandle probe(connection);
+    probe.execute(head + " WHERE 1 = 0"_L1);
+    return probe.fetch();
+}
+
+} // namespace
+
+OdbcTarget OdbcTarget::find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
+                            const SqlScanner &statement, const std::vector<FieldInfo> &fields)
+{
+    const SimpleSelect select = SimpleSelect::parse(statement);
+    OdbcTarget target;
+    target.whyReadOnly = select.reason;
+    if (!target.whyReadOnly.isEmpty())
+        return target;
+    const OdbcTable table = OdbcTable::find(connection, select);
+    target.whyReadOnly = table.whyReadOnly;
+    if (!target.whyReadOnly.isEmpty())
+        return target;
+    const QStringList shown = shownColumns(select, table, fields);
+    if (shown.isEmpty()) {
+        target.whyReadOnly = Texts::readOnlyJoin();
+        return target;
+    }
+    const QString &sql = statement.sql();
+    if (shown.contains(QString()) && folds(connection, sql.left(select.sourceEnd))) {
+        target.whyReadOnly = Texts::readOnlyGrouped();
+        return target;
+    }
+
+    target.table = select.tableText;
+    target.alias = select.aliasText;
+    for (const QString &name : shown)
+        target.columns.push_back(name.isEmpty() ? QString() : engine.quoted(name));
+    QStringList key = table.key;
+    target.isRealKey = !key.isEmpty();
+    if (!target.isRealKey) {
+        for (const QString &name : shown) {
+            if (table.comparable.contains(name) && !key.contains(name))
+                key += name;
+        }
+    }
+    QString hidden;
+    int columns = static_cast<int>(fields.size());
+    for (const QString &name : key) {
+        const qsizetype place = shown.indexOf(name);
+        target.key.push_back({engine.quoted(name), place >= 0 ? static_cast<int>(place) : columns++});
+        if (place < 0)
+            hidden += ", "_L1 + target.alias + u'.' + engine.quoted(name);
+    }
+    if (target.key.empty())
+        target.whyReadOnly = Texts::readOnlyNoTable();
+    const QString head =
+        sql.left(select.listEnd) + hidden + sql.sliced(select.listEnd, select.sourceEnd - select.listEnd);
+    if (!hidden.isEmpty())
+        target.statement = head + sql.sliced(select.sourceEnd);
+    target.selectRow = head + " WHERE "_L1;
+    return target;
+}
+
+} // namespace ADODB

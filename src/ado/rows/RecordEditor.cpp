@@ -1,0 +1,92 @@
+#include "ado/rows/RecordEditor.h"
+
+#include "ado/Error.h"
+#include "ado/Texts.h"
+#include "ado/ValueText.h"
+#include "ado/providers/Provider.h"
+#include "ado/rows/Snapshot.h"
+#include "ado/values/FieldValue.h"
+
+namespace ADODB {
+
+RecordEditor::RecordEditor(std::unique_ptr<RowWriter> writer, const QString &whyReadOnly)
+    : m_writer(std::move(writer)), m_whyReadOnly(whyReadOnly)
+{
+}
+
+RecordEditor::~RecordEditor() = default;
+
+RowWriter &RecordEditor::writer() const
+{
+    if (!m_writer)
+        throw Error(adErrFeatureNotAvailable, m_whyReadOnly);
+    return *m_writer;
+}
+
+const QVariant *RecordEditor::pending(int column) const
+{
+    const auto found = m_values.find(column);
+    return found == m_values.end() ? nullptr : &found->second;
+}
+
+void RecordEditor::beginNew()
+{
+    writer();
+    m_mode = adEditAdd;
+}
+
+void RecordEditor::set(int column, const QVariant &value, const Snapshot &snapshot)
+{
+    const FieldInfo &field = snapshot.fields()[static_cast<std::size_t>(column)];
+    if (!writer().isWritable(column))
+        throw Error(adErrFeatureNotAvailable, Texts::readOnlyField().arg(field.name));
+    bool ok = false;
+    const QVariant converted = FieldValue::convert(value, field.type, &ok);
+    if (!ok) {
+        const bool binary = value.typeId() == QMetaType::QByteArray;
+        throw Error(adErrDataConversion,
+                    Texts::badValue().arg(binary ? Texts::binaryValue() : ValueText(value), field.name));
+    }
+    m_values[column] = converted;
+    if (m_mode == adEditNone)
+        m_mode = adEditInProgress;
+}
+
+void RecordEditor::cancel()
+{
+    m_mode = adEditNone;
+    m_values.clear();
+}
+
+std::vector<Change> RecordEditor::changes() const
+{
+    std::vector<Change> changes;
+    for (const auto &[column, value] : m_values)
+        changes.push_back({column, FieldValue::toStorage(value)});
+    return changes;
+}
+
+void RecordEditor::saveNew(Snapshot &snapshot)
+{
+    RowStore stored(snapshot.columns());
+    writer().insert(changes(), stored);
+    snapshot.append(stored);
+    cancel();
+}
+
+void RecordEditor::saveChanges(Snapshot &snapshot, qint64 record)
+{
+    RowStore stored(snapshot.columns());
+    writer().update(snapshot.raw(record), changes(), stored);
+    snapshot.replace(record, stored);
+    cancel();
+}
+
+void RecordEditor::remove(Snapshot &snapshot, qint64 record)
+{
+    writer().remove(snapshot.raw(record));
+    snapshot.remove(record);
+    cancel();
+}
+
+} // namespace ADODB

@@ -1,0 +1,218 @@
+#include "ado/rows/RowStore.h"
+
+#include <algorithm>
+
+namespace ADODB {
+
+namespace {
+
+constexpr qsizetype blockSize = qsizetype{4} << 20;
+constexpr qsizetype startSize = sizeof(quint32);
+
+template<typename T>
+T numberAt(const char *at)
+{
+    T value;
+    std::memcpy(&value, at, sizeof value);
+    return value;
+}
+
+} // namespace
+
+RowStore::RowStore(int columns, qint64 memoryLimit) : m_columns(columns), m_memoryLimit(memoryLimit) {}
+
+const char *RowStore::Block::start(qint64 storedRow) const
+{
+    const char *const slot = bytes + size - (storedRow - firstRow + 1) * startSize;
+    return bytes + numberAt<quint32>(slot);
+}
+
+void RowStore::add(const RawValue &value)
+{
+    switch (value.kind) {
+    case RawValue::Kind::Null:
+        return addNull();
+    case RawValue::Kind::Integer:
+        return addInteger(value.integer);
+    case RawValue::Kind::Real:
+        return addReal(value.real);
+    case RawValue::Kind::Text:
+        return addText(value.bytes);
+    case RawValue::Kind::Blob:
+        return addBlob(value.bytes);
+    }
+}
+
+void RowStore::endRow()
+{
+    // A row without any column still takes room for its start.
+    if (m_blocks.empty() || m_end < m_write)
+        newBlock(0);
+    const auto start = static_cast<quint32>(m_rowStart - m_blockStart);
+    std::memcpy(m_end, &start, sizeof start);
+    m_rowStart = m_write;
+    ++m_stored;
+    // Behind a row that outgrew the usual block nothing more is put, so that starts always fit 32 bits.
+    m_end = m_blocks.back().size > blockSize ? m_write : m_end - startSize;
+}
+
+// The row that is being written moves along, so a row never spans two blocks.
+void RowStore::newBlock(qsizetype room)
+{
+    const qsizetype begun = m_write - m_rowStart;
+    Block block;
+    block.size = std::max(blockSize, begun + std::max(begun, room) + startSize);
+    block.memory = std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(block.size));
+    block.bytes = block.memory.get();
+    block.firstRow = m_stored;
+    char *const start = block.memory.get();
+    if (begun > 0)
+        std::memcpy(start, m_rowStart, static_cast<std::size_t>(begun));
+    if (!m_blocks.empty() && m_blocks.back().firstRow == m_stored) {
+        m_blocks.pop_back(); // it held nothing but this row's beginning
+    } else if (!m_blocks.empty()) {
+        keepOrSpill(m_blocks.back());
+        m_closedBytes += m_rowStart - m_blockStart;
+    }
+    m_end = start + block.size - startSize;
+    m_blocks.push_back(std::move(block));
+    m_blockStart = start;
+    m_rowStart = start;
+    m_write = start + begun;
+}
+
+void RowStore::keepOrSpill(Block &block)
+{
+    if (m_memoryBytes + block.size <= m_memoryLimit) {
+        m_memoryBytes += block.size;
+        return;
+    }
+    if (!m_spill)
+        m_spill = std::make_unique<SpillFile>();
+    // What memory happened to hold in the gap is nobody's business on a disk.
+    char *const starts = block.memory.get() + block.size - (m_stored - block.firstRow) * startSize;
+    std::fill(m_rowStart, starts, '\0');
+    block.bytes = m_spill->append({block.bytes, block.size});
+    block.memory.reset();
+    m_spilledBytes += block.size;
+}
+
+const char *RowStore::nextCell(const char *cell)
+{
+    switch (tagAt(cell)) {
+    case Tag::Null:
+        return cell + 1;
+    case Tag::Integer8:
+        return cell + 2;
+    case Tag::Integer16:
+        return cell + 3;
+    case Tag::Integer32:
+        return cell + 5;
+    case Tag::Integer64:
+    case Tag::Real:
+        return cell + 9;
+    case Tag::ShortText:
+    case Tag::ShortBlob:
+        return cell + 2 + numberAt<quint8>(cell + 1);
+    case Tag::LongText:
+    case Tag::LongBlob:
+        return cell + 5 + numberAt<quint32>(cell + 1);
+    }
+    Q_UNREACHABLE();
+}
+
+RawValue RowStore::decode(const char *cell)
+{
+    const auto bytes = [&](const char *start) { return QByteArrayView(start, nextCell(cell) - start); };
+    switch (tagAt(cell)) {
+    case Tag::Null:
+        return {};
+    case Tag::Integer8:
+        return RawValue::fromInteger(numberAt<qint8>(cell + 1));
+    case Tag::Integer16:
+        return RawValue::fromInteger(numberAt<qint16>(cell + 1));
+    case Tag::Integer32:
+        return RawValue::fromInteger(numberAt<qint32>(cell + 1));
+    case Tag::Integer64:
+        return RawValue::fromInteger(numberAt<qint64>(cell + 1));
+    case Tag::Real:
+        return RawValue::fromReal(numberAt<double>(cell + 1));
+    case Tag::ShortText:
+        return RawValue::fromText(bytes(cell + 2));
+    case Tag::LongText:
+        return RawValue::fromText(bytes(cell + 5));
+    case Tag::ShortBlob:
+        return RawValue::fromBlob(bytes(cell + 2));
+    case Tag::LongBlob:
+        return RawValue::fromBlob(bytes(cell + 5));
+    }
+    Q_UNREACHABLE();
+}
+
+RawValue RowStore::cell(qint64 row, int column) const
+{
+    const char *at = rowStart(row);
+    for (int i = 0; i < column; ++i)
+        at = nextCell(at);
+    return decode(at);
+}
+
+std::vector<RawValue> RowStore::row(qint64 row) const
+{
+    std::vector<RawValue> cells;
+    cells.reserve(static_cast<std::size_t>(m_columns));
+    const char *at = rowStart(row);
+    for (int i = 0; i < m_columns; ++i) {
+        cells.push_back(decode(at));
+        at = nextCell(at);
+    }
+    return cells;
+}
+
+void RowStore::remove(qint64 row)
+{
+    const qint64 stored = storedRow(row);
+    m_removed.insert(std::lower_bound(m_removed.begin(), m_removed.end(), stored), stored);
+    m_replaced.erase(stored);
+}
+
+void RowStore::replace(qint64 row, const std::vector<RawValue> &cells)
+{
+    // Packed by a store of its own, so that there is one way of packing.
+    RowStore packed(m_columns);
+    for (const RawValue &value : cells)
+        packed.add(value);
+    m_replaced[storedRow(row)] = QByteArray(packed.m_rowStart, packed.m_write - packed.m_rowStart);
+}
+
+// With r removed rows before it, live row n is stored row n + r; m_removed[i] - i, the live row that stands
+// where the i-th removed one stood, never falls, so r is found by halving.
+qint64 RowStore::storedRow(qint64 row) const
+{
+    std::size_t low = 0;
+    std::size_t high = m_removed.size();
+    while (low < high) {
+        const std::size_t middle = (low + high) / 2;
+        if (m_removed[middle] - static_cast<qint64>(middle) <= row)
+            low = middle + 1;
+        else
+            high = middle;
+    }
+    return row + static_cast<qint64>(low);
+}
+
+const char *RowStore::rowStart(qint64 row) const
+{
+    Q_ASSERT(row >= 0 && row < rows());
+    const qint64 stored = m_removed.empty() ? row : storedRow(row);
+    if (!m_replaced.empty()) {
+        if (const auto found = m_replaced.find(stored); found != m_replaced.end())
+            return found->second.constData();
+    }
+    const auto next =
+        std::upper_bound(m_blocks.begin(), m_blocks.end(), stored,
+                         [](qint64 wanted, const Block &block) { return wanted < block.firstRow; });
+    return std::prev(next)->start(stored);
+}
+
+} // namespace ADODB

@@ -1,0 +1,52 @@
+#include "ado/rows/Snapshot.h"
+
+#include "ado/ValueText.h"
+#include "ado/values/FieldValue.h"
+
+namespace ADODB {
+
+Snapshot::Snapshot(std::vector<FieldInfo> fields, RowStore rows)
+    : m_fields(std::move(fields)), m_rows(std::move(rows))
+{
+}
+
+bool Snapshot::contains(qint64 record, int column) const
+{
+    return record >= 1 && record <= records() && column >= 0 && column < static_cast<int>(m_fields.size());
+}
+
+QVariant Snapshot::value(qint64 record, int column) const
+{
+    return FieldValue::fromRaw(m_rows.cell(record - 1, column),
+                               m_fields[static_cast<std::size_t>(column)].type);
+}
+
+QString Snapshot::text(qint64 record, int column) const
+{
+    const RawValue raw = m_rows.cell(record - 1, column);
+    const DataTypeEnum type = m_fields[static_cast<std::size_t>(column)].type;
+    // The most frequent cell by far, spared the way through a QVariant.
+    if (raw.kind == RawValue::Kind::Text && FieldValue::isText(type))
+        return QString::fromUtf8(raw.bytes);
+    return ValueText(FieldValue::fromRaw(raw, type));
+}
+
+bool Snapshot::isNull(qint64 record, int column) const
+{
+    return m_rows.cell(record - 1, column).kind == RawValue::Kind::Null;
+}
+
+void Snapshot::replace(qint64 record, const RowStore &stored)
+{
+    m_rows.replace(record - 1, stored.row(0));
+}
+
+void Snapshot::append(const RowStore &stored)
+{
+    m_rows.dropBegunRow(); // what is left of one that the disk had no room for
+    for (const RawValue &cell : stored.row(0))
+        m_rows.add(cell);
+    m_rows.endRow();
+}
+
+} // namespace ADODB

@@ -1,0 +1,69 @@
+#include "ado/values/DateText.h"
+
+#include <algorithm>
+
+namespace ADODB::DateText {
+
+namespace {
+
+// The number in `count` digits, -1 when they are not all digits.
+int digits(QByteArrayView text, qsizetype from, qsizetype count)
+{
+    int number = 0;
+    for (qsizetype i = from; i < from + count; ++i) {
+        if (text[i] < '0' || text[i] > '9')
+            return -1;
+        number = number * 10 + (text[i] - '0');
+    }
+    return number;
+}
+
+// Milliseconds from the decimals behind the point, -1 when they are no decimals or finer than that.
+int milliseconds(QByteArrayView decimals)
+{
+    const qsizetype used = std::min<qsizetype>(decimals.size(), 3);
+    int number = used == 0 ? -1 : digits(decimals, 0, used);
+    for (qsizetype i = used; number >= 0 && i < 3; ++i)
+        number *= 10;
+    const auto rest = decimals.sliced(used);
+    return std::all_of(rest.begin(), rest.end(), [](char c) { return c == '0'; }) ? number : -1;
+}
+
+} // namespace
+
+QDate date(QByteArrayView text)
+{
+    if (text.size() != 10 || text[4] != '-' || text[7] != '-')
+        return {};
+    const int year = digits(text, 0, 4);
+    const int month = digits(text, 5, 2);
+    const int day = digits(text, 8, 2);
+    return year > 0 && month > 0 && day > 0 ? QDate(year, month, day) : QDate();
+}
+
+QTime time(QByteArrayView text)
+{
+    const bool withSeconds = text.size() >= 8;
+    const bool withFraction = text.size() > 8;
+    if ((text.size() != 5 && !withSeconds) || text[2] != ':' || (withSeconds && text[5] != ':') ||
+        (withFraction && text[8] != '.'))
+        return {};
+    const int hour = digits(text, 0, 2);
+    const int minute = digits(text, 3, 2);
+    const int second = withSeconds ? digits(text, 6, 2) : 0;
+    const int fraction = withFraction ? milliseconds(text.sliced(9)) : 0;
+    return QTime::isValid(hour, minute, second, fraction) ? QTime(hour, minute, second, fraction) : QTime();
+}
+
+QDateTime moment(QByteArrayView text)
+{
+    const QDate day = date(text.first(std::min<qsizetype>(text.size(), 10)));
+    if (!day.isValid())
+        return {};
+    if (text.size() == 10)
+        return {day, QTime(0, 0), Qt::UTC};
+    const QTime clock = text[10] == ' ' || text[10] == 'T' ? time(text.sliced(11)) : QTime();
+    return clock.isValid() ? QDateTime(day, clock, Qt::UTC) : QDateTime();
+}
+
+} // namespace ADODB::DateText

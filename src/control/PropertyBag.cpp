@@ -1,7 +1,0 @@
-#include "control/PropertyBag.h"
-
-namespace KOVAVSFDataGridLib {
-
-PropertyBag::~PropertyBag() = default;
-
-} // namespace KOVAVSFDataGridLib

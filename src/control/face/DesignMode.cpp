@@ -1,0 +1,17 @@
+#include "control/face/DesignMode.h"
+
+#include <QtWidgets/QWidget>
+
+namespace KOVAVSFDataGridLib {
+
+bool isInFormEditor(const QWidget &widget)
+{
+    // Asked by class name, so that the library need not link the form editor.
+    for (const QWidget *ancestor = widget.parentWidget(); ancestor; ancestor = ancestor->parentWidget()) {
+        if (ancestor->inherits("QDesignerFormWindowInterface"))
+            return true;
+    }
+    return false;
+}
+
+} // namespace KOVAVSFDataGridLib

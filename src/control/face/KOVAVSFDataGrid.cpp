@@ -1,0 +1,91 @@
+#include "control/face/KOVAVSFDataGrid.h"
+
+#include "control/face/KOVAVSFDataGridPrivate.h"
+#include "control/face/PropertyBag.h"
+#include "grid/FlexGrid.h"
+#include "grid/Twips.h"
+
+#include <QtCore/QPointer>
+#include <QtGui/QResizeEvent>
+#include <QtWidgets/QDialog>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Lets those who listen by name read the arguments that come by reference.
+void registerReferenceTypes()
+{
+    QMetaType::registerNormalizedTypedef("qint16&", QMetaType::fromType<qint16>());
+    QMetaType::registerNormalizedTypedef("qint32&", QMetaType::fromType<qint32>());
+    QMetaType::registerNormalizedTypedef("float&", QMetaType::fromType<float>());
+}
+
+} // namespace
+
+KOVAVSFDataGrid::KOVAVSFDataGrid(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(*this))
+{
+    registerReferenceTypes();
+    setMinimumSize(Twips::toPixels(GridParts::MinimumWidth, *this),
+                   Twips::toPixels(GridParts::MinimumHeight, *this));
+    setFocusProxy(d->parts.vsfgDataGrid); // a host that gives the control the keyboard means the data
+    d->applyBackColor();
+    CloseAllAction();
+}
+
+KOVAVSFDataGrid::~KOVAVSFDataGrid()
+{
+    // Dialogs that are open just now stand on the stack of whoever asked. They end as cancelled, and must not
+    // be deleted a second time as children of this control.
+    const auto dialogs = findChildren<QDialog *>();
+    for (QDialog *dialog : dialogs) {
+        dialog->setParent(nullptr, dialog->windowFlags());
+        dialog->done(QDialog::Rejected);
+    }
+}
+
+void KOVAVSFDataGrid::InitProperties()
+{
+    d->sqlShow.clear();
+    d->sqlPartDisplay.clear();
+    d->sqlFilter.clear();
+    d->sqlSort.clear();
+    d->useModel = ModelUsing;
+    d->showModel = ModelAll;
+    d->emptyGrid();
+}
+
+void KOVAVSFDataGrid::ReadProperties(const PropertyBag &bag)
+{
+    d->backColor = OleColor(bag.ReadProperty(u"BackColor"_s, OleColor::ButtonFace).toUInt());
+    d->applyBackColor();
+}
+
+void KOVAVSFDataGrid::WriteProperties(PropertyBag &bag) const
+{
+    bag.WriteProperty(u"BackColor"_s, d->backColor.number(), OleColor::ButtonFace);
+}
+
+QSize KOVAVSFDataGrid::sizeHint() const
+{
+    return minimumSize() * 3;
+}
+
+void KOVAVSFDataGrid::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    const QPointer<KOVAVSFDataGrid> alive(this);
+    d->commands.singleRecord.editor().take(true); // before the editor is put away
+    if (alive)
+        d->parts.layOut(event->size().width(), event->size().height());
+}
+
+void KOVAVSFDataGrid::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        d->applyBackColor();
+    else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        d->parts.layOut(width(), height());
+}

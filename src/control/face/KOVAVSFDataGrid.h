@@ -1,0 +1,270 @@
+#pragma once
+
+#include "control/face/IKOVAVSFDataGrid.h"
+
+#include <QtWidgets/QWidget>
+
+#include <memory>
+
+namespace KOVAVSFDataGridLib {
+class PropertyBag;
+}
+
+// The SQL result grid. Give it a ConnectionString, a DBType and a SELECT in SQLShow, then call IsLoadData;
+// from then on the user reshapes what is shown, and every step is a statement that runs on the database.
+//
+// Every member of IKOVAVSFDataGrid can also be reached by its name through the meta-object, for a host
+// that knows only a QWidget. Everything runs on the GUI thread. Failures are told in message boxes;
+// nothing here throws, except UseModel and PutUseModel when called from C++.
+class KOVA_EXPORT KOVAVSFDataGrid : public QWidget, public IKOVAVSFDataGrid
+{
+    Q_OBJECT
+    // Only BackColor is kept in a form file: a host sets everything else in code before IsLoadData.
+
+    Q_PROPERTY(QString STR_SQLTEMP READ STR_SQLTEMP WRITE PutSTR_SQLTEMP STORED false)
+    Q_PROPERTY(bool Enabled READ Enabled WRITE PutEnabled STORED false)
+    Q_PROPERTY(QColor BackColor READ BackColor WRITE PutBackColor RESET ResetBackColor)
+    Q_PROPERTY(bool DisplayEable READ DisplayEable WRITE PutDisplayEable STORED false)
+    Q_PROPERTY(bool FilterEnable READ FilterEnable WRITE PutFilterEnable STORED false)
+    Q_PROPERTY(bool SortEnable READ SortEnable WRITE PutSortEnable STORED false)
+    Q_PROPERTY(QColor DataBackColor READ DataBackColor WRITE PutDataBackColor STORED false)
+    Q_PROPERTY(QFont DataFont READ DataFont WRITE PutDataFont STORED false)
+    Q_PROPERTY(UseModelChoose UseModel READ lateUseModel WRITE putLateUseModel STORED false)
+    Q_PROPERTY(ShowModelChoose ShowModel READ showModelChoice WRITE PutShowModel STORED false)
+    Q_PROPERTY(QString ConnectionString READ ConnectionString WRITE PutConnectionString STORED false)
+    Q_PROPERTY(QString SQLShow READ SQLShow WRITE PutSQLShow STORED false)
+    Q_PROPERTY(QObject *RecordSet READ RecordSet STORED false)
+    Q_PROPERTY(QString RecordSource READ RecordSource STORED false)
+    Q_PROPERTY(QString SQLPartDisplay READ SQLPartDisplay WRITE PutSQLPartDisplay STORED false)
+    Q_PROPERTY(QString SQLFilter READ SQLFilter WRITE PutSQLFilter STORED false)
+    Q_PROPERTY(QString SQLSort READ SQLSort WRITE PutSQLSort STORED false)
+    Q_PROPERTY(TBLType TableType READ tableTypeChoice WRITE PutTableType STORED false)
+    Q_PROPERTY(bool ErrorHint READ ErrorHint WRITE PutErrorHint STORED false)
+    Q_PROPERTY(AllDBType DBType READ dbTypeChoice WRITE PutDBType STORED false)
+    Q_PROPERTY(QString SysDBCnn READ SysDBCnn WRITE PutSysDBCnn STORED false)
+    Q_PROPERTY(QString SysDBMode READ SysDBMode WRITE PutSysDBMode STORED false)
+    Q_PROPERTY(QString PassQurryFilter READ PassQurryFilter WRITE PutPassQurryFilter STORED false)
+    Q_PROPERTY(qint32 CurrPosition READ CurrPosition STORED false)
+    Q_PROPERTY(QString PicField READ PicField WRITE PutPicField STORED false)
+    // True at run time, False while the control is being designed. The control finds out for itself whether
+    // it sits in a form editor; a host can say otherwise.
+    Q_PROPERTY(bool UserMode READ UserMode WRITE PutUserMode STORED false DESIGNABLE false)
+
+public:
+    // Who filters and sorts.
+    enum UseModelChoose : qint32 {
+        ModelUsing = 0, // the user, by the toolbar
+        ModelDefine = 1 // the host: the buttons "Filter" and "Sort" are hidden
+    };
+    Q_ENUM(UseModelChoose)
+
+    // Which fields a load shows.
+    enum ShowModelChoose : qint32 {
+        ModelAll = 0, // all of the statement
+        ModelPart = 1 // those of SQLPartDisplay
+    };
+    Q_ENUM(ShowModelChoose)
+
+    // For hosts' own use; no property has this type.
+    enum backstyleChoose : qint32 {
+        Transparent = 0, // what is behind shows through
+        Opaque = 1       // covers what is behind
+    };
+    Q_ENUM(backstyleChoose)
+
+    // For hosts' own use; no property has this type.
+    enum AppearanceChoose : qint32 {
+        Flat = 0,   // without depth
+        Cascade = 1 // with depth
+    };
+    Q_ENUM(AppearanceChoose)
+
+    // Whose form of SQL derived statements take: how names, texts, dates and LIKE are written.
+    enum AllDBType : qint32 {
+        dbAccess = 1,   // Access; SQLite reads the same form
+        dbOracle = 2,   // Oracle; a load spells the field list out
+        dbSQLServer = 3 // SQL Server
+    };
+    Q_ENUM(AllDBType)
+
+    // What the statement stands for.
+    enum TBLType : qint32 {
+        DataTable = 0, // one table
+        DataView = 1,  // one view
+        DefSQL = 2     // a statement of its own, so that there is no table to show in full
+    };
+    Q_ENUM(TBLType)
+
+    // An empty grid with everything disabled until IsLoadData.
+    explicit KOVAVSFDataGrid(QWidget *parent = nullptr);
+    // Ends its open dialogs as cancelled, and closes the result at once, with its files and its connection,
+    // unless the host shares ADODB::Adodc::Recordset().
+    ~KOVAVSFDataGrid() override;
+
+    QString STR_SQLTEMP() const override;
+    void PutSTR_SQLTEMP(const QString &text) override;
+    bool Enabled() const override;
+    void PutEnabled(bool on) override;
+    QColor BackColor() const override;
+    void PutBackColor(const QColor &colour) override;
+    bool DisplayEable() const override;
+    void PutDisplayEable(bool on) override;
+    bool FilterEnable() const override;
+    void PutFilterEnable(bool on) override;
+    bool SortEnable() const override;
+    void PutSortEnable(bool on) override;
+    QColor DataBackColor() const override;
+    void PutDataBackColor(const QColor &colour) override;
+    QFont DataFont() const override;
+    void PutDataFont(const QFont &font) override;
+    qint32 UseModel() const override;
+    void PutUseModel(qint32 model) override;
+    qint32 ShowModel() const override;
+    void PutShowModel(qint32 model) override;
+    QString ConnectionString() const override;
+    void PutConnectionString(const QString &text) override;
+    QString SQLShow() const override;
+    void PutSQLShow(const QString &statement) override;
+    QObject *RecordSet() const override;
+    QString RecordSource() const override;
+    QString SQLPartDisplay() const override;
+    void PutSQLPartDisplay(const QString &statement) override;
+    QString SQLFilter() const override;
+    void PutSQLFilter(const QString &statement) override;
+    QString SQLSort() const override;
+    void PutSQLSort(const QString &sort) override;
+    qint32 TableType() const override;
+    void PutTableType(qint32 type) override;
+    bool ErrorHint() const override;
+    void PutErrorHint(bool on) override;
+    qint32 DBType() const override;
+    void PutDBType(qint32 type) override;
+    QString SysDBCnn() const override;
+    void PutSysDBCnn(const QString &text) override;
+    QString SysDBMode() const override;
+    void PutSysDBMode(const QString &text) override;
+    QString PassQurryFilter() const override;
+    void PutPassQurryFilter(const QString &condition) override;
+    qint32 CurrPosition() const override;
+    Q_INVOKABLE qint32 GetBindFieldIndex(const QString &strFieldName) const override;
+    QString PicField() const override;
+    void PutPicField(const QString &field) override;
+
+    Q_INVOKABLE void Refresh() override;
+    Q_INVOKABLE bool LocateSelRecord(qint32 lRecordRow) override;
+    Q_INVOKABLE void ShowConnectionString() override;
+    Q_INVOKABLE void ShowRecordSource() override;
+    Q_INVOKABLE void ShowSQLShow() override;
+    Q_INVOKABLE void ShowPartDisplay() override;
+    Q_INVOKABLE void ShowFilterCondtion() override;
+    Q_INVOKABLE void ShowSort() override;
+    Q_INVOKABLE void GetConnection() override;
+    Q_INVOKABLE void SetFieldName() override;
+    Q_INVOKABLE void SetSQLShow() override;
+    Q_INVOKABLE void SetSQLFilter() override;
+    Q_INVOKABLE void SetSortFN() override;
+    Q_INVOKABLE void SetGridCol(const qint32 &Col) override;
+    Q_INVOKABLE QString CellText(const qint16 &n_row, const qint16 &n_col) override;
+    Q_INVOKABLE void Clear() override;
+    Q_INVOKABLE void ClearAll() override;
+    Q_INVOKABLE QObject *GetBond() override;
+    Q_INVOKABLE qint16 GetGridCol() override;
+    Q_INVOKABLE void SetGridRow(const qint32 &Row) override;
+    Q_INVOKABLE qint16 GetGridRow() override;
+    Q_INVOKABLE void CloseAllAction() override;
+    Q_INVOKABLE bool IsLoadData() override;
+    Q_INVOKABLE void SeeCompressView() override;
+    Q_INVOKABLE void ClearObject() override;
+    Q_INVOKABLE QString CellTextL(const qint32 &n_row, const qint32 &n_col) override;
+    Q_INVOKABLE qint32 GetGridRowL() override;
+
+    // See the property.
+    bool UserMode() const;
+    void PutUserMode(bool on);
+
+    // Gives BackColor the system's button-face colour, which follows the palette.
+    void ResetBackColor();
+
+    // Called by the container for a new control on a form: empties the statement texts and the grid, and sets
+    // UseModel and ShowModel to 0.
+    void InitProperties();
+    // Called by the container to restore a control from a form: reads BackColor, the button-face colour by
+    // default.
+    void ReadProperties(const KOVAVSFDataGridLib::PropertyBag &bag);
+    // Called by the container to keep a control with its form: writes BackColor and nothing else, as a 32-bit
+    // number.
+    void WriteProperties(KOVAVSFDataGridLib::PropertyBag &bag) const;
+
+    // Three times the least size, which is 3000 x 1500 twips.
+    QSize sizeHint() const override;
+
+    // What is behind the face; only the control's own sources know more of it.
+    class Private;
+
+Q_SIGNALS:
+    // The events, in their fixed order. What comes by reference may be changed by a directly connected
+    // handler. Positions are twips, 1440 to the inch, from the grid's corner; Button is 1 left, 2 right, 4
+    // middle; Shift is the sum of 1 Shift, 2 Ctrl, 4 Alt.
+    //
+    // A handler of one of these, of PropertyChanged too, may load again, tear down or delete the control, and
+    // so may a timer while a dialog is open. The window that the control stands on has to outlive the event:
+    // close it, or leave it to deleteLater().
+
+    // A mouse button went down on the grid, headings included; told before the grid acts on it.
+    void DataMouseDown(qint16 &Button, qint16 &Shift, float &x, float &y);
+    // A mouse button came up on the grid; the record has followed the row by then, and the menu is closed
+    // again.
+    void DataMouseUp(qint16 &Button, qint16 &Shift, float &x, float &y);
+    // The mouse moved over the grid, with or without a button; Button is the sum of those that are down.
+    void DataMouseMove(qint16 &Button, qint16 &Shift, float &x, float &y);
+    // Never raised; kept for hosts that have a handler for it.
+    void Error(qint16 DataError, qint16 &Response);
+    // A column heading was clicked; the column counts from 1. Nothing else happens on that click.
+    void HeadClick(qint16 ColIndex);
+    // A record was clicked and is current. The file of PicField has been written.
+    void DataClick();
+    // The grid was double-clicked; comes before DataDBLClickOneCell or DataDBLClickOneRow, and alone beside
+    // the records.
+    void DataDblClick();
+    // A key went down in the grid, as a virtual-key number: Enter 13, Esc 27, F1 112, letters as in upper
+    // case. A handler that sets KeyCode to 0 keeps the key from the grid.
+    void DataKeyDown(qint16 &KeyCode, qint16 &Shift);
+    // A mouse button came up beside the grid, on the panel; positions count from the panel's corner.
+    void MouseUp(qint16 &Button, qint16 &Shift, float &x, float &y);
+    // The user chose the fields to show; carries the new statement.
+    void ShowFieldsChange(const QString &strSQL);
+    // The user asked for the filter; strLastFilter is the statement that it will refine. Leave Cancel at 1
+    // for the built-in dialog; or set PassQurryFilter and Cancel to 0 to filter by that condition. An empty
+    // condition filters nothing.
+    void QurryFilter(qint32 &Cancel, const QString &strLastFilter);
+    // Another record is current. ChangeReason is a number of ADODB::EventReasonEnum, or 3 from
+    // LocateSelRecord; CurrPosition is the record's number from 1, or one less from LocateSelRecord.
+    void RecordChanged(qint32 ChangeReason, qint32 CurrPosition);
+    // The result was replaced or closed; ChangeReason is a number of ADODB::EventReasonEnum.
+    void RecordsetChanged(qint32 ChangeReason);
+    // A cell was double-clicked; column and row count from 1.
+    void DataDBLClickOneCell(qint32 Col, qint32 Row);
+    // A row was double-clicked: on its number, or anywhere while whole rows are selected. Counts from 1.
+    void DataDBLClickOneRow(qint32 Row);
+
+    // A property was written; carries its name. Not every property tells: STR_SQLTEMP, Enabled, the
+    // properties of the toolbar and of the grid, UseModel, ShowModel, PassQurryFilter and PicField don't.
+    void PropertyChanged(const QString &name);
+    // An error of a property that a late-bound host read or wrote; see KOVAVSFDataGridLib::ControlError.
+    void HostError(qint32 Number, const QString &Description);
+
+protected:
+    // Lays the parts out in the new size.
+    void resizeEvent(QResizeEvent *event) override;
+    // Lets BackColor follow the palette.
+    void changeEvent(QEvent *event) override;
+
+private:
+    UseModelChoose lateUseModel();
+    void putLateUseModel(qint32 model);
+    ShowModelChoose showModelChoice() const { return static_cast<ShowModelChoose>(ShowModel()); }
+    TBLType tableTypeChoice() const { return static_cast<TBLType>(TableType()); }
+    AllDBType dbTypeChoice() const { return static_cast<AllDBType>(DBType()); }
+
+    const std::unique_ptr<Private> d;
+};

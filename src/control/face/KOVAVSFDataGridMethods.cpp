@@ -1,0 +1,249 @@
+#include "ado/Adodc.h"
+#include "ado/ConnectionFactory.h"
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "control/connection/BuildConnection.h"
+#include "control/face/Configuration.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
+#include "control/parts/GridTexts.h"
+#include "control/parts/GridToolbar.h"
+#include "forms/ConnectDialog.h"
+#include "forms/Messages.h"
+#include "grid/FlexGrid.h"
+
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QPushButton>
+
+#include <stdexcept>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+// The methods of the interface; its properties are in KOVAVSFDataGridProperties.cpp.
+
+void KOVAVSFDataGrid::Refresh()
+{
+    try {
+        const bool isIncomplete = d->connectionString.isEmpty() || d->recordSource.trimmed().isEmpty();
+        if (isIncomplete && d->errorHint) {
+            Messages::tell(this, GridTexts::NothingToLink, GridTexts::NothingToLinkTitle,
+                           QMessageBox::Critical);
+        }
+    } catch (const std::exception &) {
+        const bool wantsToLook =
+            d->errorHint &&
+            Messages::ask(this, GridTexts::UpdateFailed, GridTexts::UpdateFailedTitle, QMessageBox::NoIcon);
+        if (wantsToLook)
+            d->editText(GridTexts::FindRecordSourceError, d->recordSource);
+    }
+}
+
+// The row is one of page 1, whichever page is shown: there it is the record's number as well.
+bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
+{
+    VSFlexGrid &grid = *d->parts.vsfgDataGrid;
+    const bool isOtherPage = d->result.isOpen() && d->pages.currentPage() != 1;
+    const qint32 rows = isOtherPage ? d->pages.rowsOfPage(1) + 1 : grid.Rows();
+    if (lRecordRow <= 0 || lRecordRow > rows)
+        return false;
+    if (lRecordRow < 2 || lRecordRow == rows || !d->result.isOpen() ||
+        lRecordRow == d->result.recordset()->AbsolutePosition())
+        return true;
+    try {
+        const QSignalBlocker onlyOurOwnEvent(d->parts.Adodc1);
+        ADODB::Recordset &recordset = *d->result.recordset();
+        recordset.MoveFirst(); // a host may have left it behind the last record, where no page can be shown
+        if (isOtherPage)
+            d->showPage(1);
+        recordset.Move(lRecordRow - 1);
+        grid.PutRow(lRecordRow);
+        grid.PutCol(1);
+    } catch (const std::exception &) {
+        return true; // an edit could not be saved, say: its record stays the current one
+    }
+    if (!grid.RowIsVisible(lRecordRow))
+        grid.PutTopRow(lRecordRow);
+    grid.Refresh();
+    Q_EMIT RecordChanged(3, lRecordRow - 1); // last, because the host may delete the control
+    return true;
+}
+
+void KOVAVSFDataGrid::ShowConnectionString()
+{
+    d->showText(u"Show Connection String", u"ConnectionString:"_s, d->connectionString);
+}
+
+void KOVAVSFDataGrid::ShowRecordSource()
+{
+    d->showText(u"Show Record Source", u"RecordSource:"_s, d->recordSource);
+}
+
+void KOVAVSFDataGrid::ShowSQLShow()
+{
+    d->showText(u"Show SQL Show", u"SQLShow:"_s, d->sqlShow);
+}
+
+void KOVAVSFDataGrid::ShowPartDisplay()
+{
+    d->showText(u"Show Part Display", u"SQLPartDisplay:"_s, d->sqlPartDisplay);
+}
+
+void KOVAVSFDataGrid::ShowFilterCondtion()
+{
+    d->showText(u"Show Filter Condtion", u"SQLFilter:"_s, d->sqlFilter);
+}
+
+void KOVAVSFDataGrid::ShowSort()
+{
+    d->showText(u"Show Sort", u"SQLSort:"_s, d->sqlSort);
+}
+
+void KOVAVSFDataGrid::GetConnection()
+{
+    ConnectDialog dialog(
+        [this](QWidget *parent, const QString &present) {
+            return BuildConnection(parent, present, DBType());
+        },
+        this);
+    d->runSteps(u"Get Connection",
+                {[&] { dialog.SetConnectionString(d->connectionString); }, [&] { dialog.exec(); },
+                 [&] {
+                     if (dialog.connectionString())
+                         PutConnectionString(*dialog.connectionString());
+                 },
+                 [&] {
+                     if (dialog.sqlShow())
+                         PutSQLShow(*dialog.sqlShow());
+                 }});
+}
+
+void KOVAVSFDataGrid::SetFieldName()
+{
+    d->commands.run(u"SelField"_s);
+}
+
+void KOVAVSFDataGrid::SetSQLShow()
+{
+    d->runSteps(u"Set SQL Show", {[this] {
+                    if (const auto text = d->editText(u"SQLShow:"_s, d->sqlShow))
+                        PutSQLShow(*text);
+                }});
+}
+
+void KOVAVSFDataGrid::SetSQLFilter()
+{
+    d->runSteps(u"Set SQL Filter", {[this] {
+                    if (const auto text = d->editText(u"SQLFilter:"_s, d->sqlFilter))
+                        PutSQLFilter(*text);
+                }});
+}
+
+void KOVAVSFDataGrid::SetSortFN()
+{
+    d->commands.run(u"Sort"_s);
+}
+
+void KOVAVSFDataGrid::SetGridCol(const qint32 &Col)
+{
+    try {
+        d->parts.vsfgDataGrid->PutCol(Col);
+    } catch (const std::out_of_range &) {
+        Messages::tell(this, GridTexts::WrongCol, u"Set Grid Col"_s);
+    }
+}
+
+QString KOVAVSFDataGrid::CellText(const qint16 &n_row, const qint16 &n_col)
+{
+    return d->cellText(n_row, n_col, u"Get CellText"_s);
+}
+
+void KOVAVSFDataGrid::Clear()
+{
+    if (!d->closeResult())
+        return;
+    d->emptyGrid();
+    if (d->isSingleRecordShown()) {
+        d->parts.MSFlexGrid1->Clear();
+        d->showMultiRecordView();
+    }
+    CloseAllAction();
+}
+
+void KOVAVSFDataGrid::ClearAll()
+{
+    if (!d->recordSource.isEmpty() && d->result.isOpen()) {
+        if (!d->closeResult())
+            return;
+        d->emptyGrid();
+    }
+    CloseAllAction();
+}
+
+QObject *KOVAVSFDataGrid::GetBond()
+{
+    return d->parts.Adodc1;
+}
+
+qint16 KOVAVSFDataGrid::GetGridCol()
+{
+    return static_cast<qint16>(d->parts.vsfgDataGrid->Col());
+}
+
+void KOVAVSFDataGrid::SetGridRow(const qint32 &Row)
+{
+    try {
+        d->parts.vsfgDataGrid->PutRow(Row);
+    } catch (const std::out_of_range &) {
+        Messages::tell(this, GridTexts::WrongRow, u"Set Grid Row"_s);
+    }
+}
+
+qint16 KOVAVSFDataGrid::GetGridRow()
+{
+    return static_cast<qint16>(d->parts.vsfgDataGrid->Row());
+}
+
+void KOVAVSFDataGrid::CloseAllAction()
+{
+    d->parts.vsfgDataGrid->setEnabled(false);
+    d->parts.cmdPgae->setEnabled(false);
+    d->parts.Toolbar1->setEnabled(false);
+    d->parts.Toolbar1->setAllButtonsEnabled(false);
+    d->tellStatement();
+}
+
+bool KOVAVSFDataGrid::IsLoadData()
+{
+    return d->load();
+}
+
+void KOVAVSFDataGrid::SeeCompressView()
+{
+    if (!d->isSingleRecordShown())
+        d->columns().fitColumns();
+}
+
+void KOVAVSFDataGrid::ClearObject()
+{
+    saveSelectWholeRows(d->parts.CheckSelAllRow->isChecked());
+    d->emptyGrid();
+    if (!d->closeResult())
+        return;
+    d->reader.forget();
+    ADODB::ConnectionFactory::setInstance(nullptr);
+    if (d->filter)
+        d->filter->ClearObject();
+    d->filter.reset();
+    d->result.release(); // last, because the host may delete the control
+}
+
+QString KOVAVSFDataGrid::CellTextL(const qint32 &n_row, const qint32 &n_col)
+{
+    return d->cellText(n_row, n_col, u"Get CellTextL"_s);
+}
+
+qint32 KOVAVSFDataGrid::GetGridRowL()
+{
+    return d->parts.vsfgDataGrid->Row();
+}

@@ -1,0 +1,351 @@
+#include "ado/Adodc.h"
+#include "ado/Recordset.h"
+#include "control/face/ControlError.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
+#include "control/parts/GridTexts.h"
+#include "control/parts/GridToolbar.h"
+#include "forms/Messages.h"
+#include "grid/FlexGrid.h"
+#include "query/SqlText.h"
+#include "query/modQNVSFHFDataMain.h"
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QPushButton>
+
+// The properties of the interface. Writing most of them is told to the host, which may delete the control.
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Whether a widget was disabled by itself rather than along with a parent.
+bool isExplicitlyEnabled(const QWidget &widget)
+{
+    return !widget.testAttribute(Qt::WA_ForceDisabled);
+}
+
+} // namespace
+
+QString KOVAVSFDataGrid::STR_SQLTEMP() const
+{
+    return d->sqlTemp;
+}
+
+void KOVAVSFDataGrid::PutSTR_SQLTEMP(const QString &text)
+{
+    d->sqlTemp = text;
+}
+
+bool KOVAVSFDataGrid::Enabled() const
+{
+    return isExplicitlyEnabled(*this);
+}
+
+void KOVAVSFDataGrid::PutEnabled(bool on)
+{
+    d->parts.picMainBack->setEnabled(on);
+    d->parts.vsfgDataGrid->setEnabled(on);
+}
+
+QColor KOVAVSFDataGrid::BackColor() const
+{
+    return d->backColor.in(palette());
+}
+
+void KOVAVSFDataGrid::PutBackColor(const QColor &colour)
+{
+    const OleColor written = colour.isValid() ? OleColor(colour) : OleColor(OleColor::ButtonFace);
+    if (d->put(d->backColor, written, "BackColor"))
+        d->applyBackColor();
+}
+
+void KOVAVSFDataGrid::ResetBackColor()
+{
+    PutBackColor({});
+}
+
+bool KOVAVSFDataGrid::DisplayEable() const
+{
+    return isExplicitlyEnabled(*d->parts.Toolbar1);
+}
+
+void KOVAVSFDataGrid::PutDisplayEable(bool on)
+{
+    d->parts.Toolbar1->setEnabled(on);
+    d->parts.cmdPgae->setEnabled(on);
+    if (!on)
+        d->parts.Toolbar1->setAllButtonsEnabled(false);
+}
+
+bool KOVAVSFDataGrid::FilterEnable() const
+{
+    return d->parts.Toolbar1->isButtonEnabled(u"Filter"_s);
+}
+
+void KOVAVSFDataGrid::PutFilterEnable(bool on)
+{
+    d->parts.Toolbar1->setButtonEnabled(u"Filter"_s, on);
+}
+
+bool KOVAVSFDataGrid::SortEnable() const
+{
+    return d->parts.Toolbar1->isButtonEnabled(u"Sort"_s);
+}
+
+void KOVAVSFDataGrid::PutSortEnable(bool on)
+{
+    d->parts.Toolbar1->setButtonEnabled(u"Sort"_s, on);
+}
+
+QColor KOVAVSFDataGrid::DataBackColor() const
+{
+    return d->parts.vsfgDataGrid->BackColor();
+}
+
+void KOVAVSFDataGrid::PutDataBackColor(const QColor &colour)
+{
+    d->parts.vsfgDataGrid->PutBackColor(colour);
+}
+
+QFont KOVAVSFDataGrid::DataFont() const
+{
+    return d->parts.vsfgDataGrid->font();
+}
+
+void KOVAVSFDataGrid::PutDataFont(const QFont &font)
+{
+    d->parts.vsfgDataGrid->setFont(font);
+}
+
+qint32 KOVAVSFDataGrid::UseModel() const
+{
+    if (d->isUserMode())
+        throw ControlError(ControlError::GetNotSupportedAtRuntime, GridTexts::CantReadAtRunTime);
+    return d->useModel;
+}
+
+void KOVAVSFDataGrid::PutUseModel(qint32 model)
+{
+    if (d->isUserMode())
+        throw ControlError(ControlError::SetNotSupportedAtRuntime, GridTexts::CantSetAtRunTime);
+    d->useModel = model;
+    d->parts.Toolbar1->setButtonVisible(u"Filter"_s, model == ModelUsing);
+    d->parts.Toolbar1->setButtonVisible(u"Sort"_s, model == ModelUsing);
+}
+
+KOVAVSFDataGrid::UseModelChoose KOVAVSFDataGrid::lateUseModel()
+{
+    try {
+        return static_cast<UseModelChoose>(UseModel());
+    } catch (const ControlError &error) {
+        Q_EMIT HostError(error.number(), error.description());
+        return ModelUsing;
+    }
+}
+
+void KOVAVSFDataGrid::putLateUseModel(qint32 model)
+{
+    try {
+        PutUseModel(model);
+    } catch (const ControlError &error) {
+        Q_EMIT HostError(error.number(), error.description());
+    }
+}
+
+qint32 KOVAVSFDataGrid::ShowModel() const
+{
+    return d->showModel;
+}
+
+void KOVAVSFDataGrid::PutShowModel(qint32 model)
+{
+    d->showModel = model;
+}
+
+QString KOVAVSFDataGrid::ConnectionString() const
+{
+    return d->connectionString;
+}
+
+void KOVAVSFDataGrid::PutConnectionString(const QString &text)
+{
+    const QPointer<KOVAVSFDataGrid> alive(this);
+    if (d->put(d->connectionString, text, "ConnectionString"))
+        PutSQLShow({});
+    ClearSQLFieldList();
+    if (alive)
+        PutSQLFilter({});
+    if (alive)
+        PutSQLSort({});
+    if (alive)
+        PutSQLPartDisplay({});
+    if (!alive)
+        return;
+    d->shared.connectionString = text;
+    d->filterManager().ClearFilter();
+}
+
+QString KOVAVSFDataGrid::SQLShow() const
+{
+    return d->sqlShow;
+}
+
+void KOVAVSFDataGrid::PutSQLShow(const QString &statement)
+{
+    const QPointer<KOVAVSFDataGrid> alive(this);
+    if (!d->put(d->sqlShow, statement, "SQLShow"))
+        return;
+    d->shared.sqlShow = statement;
+    PutSQLPartDisplay(statement);
+    if (alive)
+        d->shared.sqlShowCopy = statement;
+}
+
+QObject *KOVAVSFDataGrid::RecordSet() const
+{
+    return d->result.isOpen() ? d->parts.Adodc1->recordsetObject() : nullptr;
+}
+
+QString KOVAVSFDataGrid::RecordSource() const
+{
+    return d->recordSource;
+}
+
+QString KOVAVSFDataGrid::SQLPartDisplay() const
+{
+    return d->sqlPartDisplay;
+}
+
+void KOVAVSFDataGrid::PutSQLPartDisplay(const QString &statement)
+{
+    d->sqlPartDisplay = statement;
+    const auto failure = ParseSQLFieldList(JoinStatementLines(statement),
+                                           static_cast<KOVAVSFDataGridLib::AllDBType>(DBType()));
+    const QPointer<KOVAVSFDataGrid> alive(this);
+    if (failure) {
+        Messages::tell(this, GridTexts::FieldListFailed, GridTexts::FieldListFailedTitle,
+                       QMessageBox::Critical);
+        if (alive)
+            Messages::tell(this, failure->source + failure->description);
+    }
+    if (alive)
+        d->tellWritten("SQLPartDisplay");
+}
+
+QString KOVAVSFDataGrid::SQLFilter() const
+{
+    return d->sqlFilter;
+}
+
+void KOVAVSFDataGrid::PutSQLFilter(const QString &statement)
+{
+    d->put(d->sqlFilter, statement, "SQLFilter");
+}
+
+QString KOVAVSFDataGrid::SQLSort() const
+{
+    return d->sqlSort;
+}
+
+void KOVAVSFDataGrid::PutSQLSort(const QString &sort)
+{
+    d->put(d->sqlSort, sort, "SQLSort");
+}
+
+qint32 KOVAVSFDataGrid::TableType() const
+{
+    return d->tableType;
+}
+
+void KOVAVSFDataGrid::PutTableType(qint32 type)
+{
+    d->shared.tableType = static_cast<qint16>(type);
+    d->put(d->tableType, type, "TableType");
+}
+
+bool KOVAVSFDataGrid::ErrorHint() const
+{
+    return d->errorHint;
+}
+
+void KOVAVSFDataGrid::PutErrorHint(bool on)
+{
+    d->put(d->errorHint, on, "ErrorHint");
+}
+
+qint32 KOVAVSFDataGrid::DBType() const
+{
+    return d->shared.dbType;
+}
+
+void KOVAVSFDataGrid::PutDBType(qint32 type)
+{
+    d->shared.dbType16 = static_cast<qint16>(type);
+    d->put(d->shared.dbType, type, "DBType");
+}
+
+QString KOVAVSFDataGrid::SysDBCnn() const
+{
+    return d->sysDBCnn;
+}
+
+void KOVAVSFDataGrid::PutSysDBCnn(const QString &text)
+{
+    d->put(d->sysDBCnn, text, "SysDBCnn");
+}
+
+QString KOVAVSFDataGrid::SysDBMode() const
+{
+    return d->sysDBMode;
+}
+
+void KOVAVSFDataGrid::PutSysDBMode(const QString &text)
+{
+    d->put(d->sysDBMode, text, "SysDBMode");
+}
+
+QString KOVAVSFDataGrid::PassQurryFilter() const
+{
+    return d->passQurryFilter;
+}
+
+void KOVAVSFDataGrid::PutPassQurryFilter(const QString &condition)
+{
+    d->passQurryFilter = condition;
+}
+
+qint32 KOVAVSFDataGrid::CurrPosition() const
+{
+    return d->result.isOpen() ? static_cast<qint32>(d->result.recordset()->AbsolutePosition()) : 0;
+}
+
+qint32 KOVAVSFDataGrid::GetBindFieldIndex(const QString &strFieldName) const
+{
+    const VSFlexGrid &grid = *d->parts.vsfgDataGrid;
+    for (int col = 1; col < grid.Cols(); ++col) {
+        if (grid.TextMatrix(0, col) == strFieldName)
+            return col;
+    }
+    return -1;
+}
+
+QString KOVAVSFDataGrid::PicField() const
+{
+    return d->picField;
+}
+
+void KOVAVSFDataGrid::PutPicField(const QString &field)
+{
+    d->picField = field;
+}
+
+bool KOVAVSFDataGrid::UserMode() const
+{
+    return d->isUserMode();
+}
+
+void KOVAVSFDataGrid::PutUserMode(bool on)
+{
+    d->userMode = on;
+}

@@ -1,0 +1,7 @@
+#include "control/face/PropertyBag.h"
+
+namespace KOVAVSFDataGridLib {
+
+PropertyBag::~PropertyBag() = default;
+
+} // namespace KOVAVSFDataGridLib

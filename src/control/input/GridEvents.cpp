@@ -1,0 +1,268 @@
+#include "control/input/GridEvents.h"
+
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "ado/Stream.h"
+#include "control/face/KOVAVSFDataGrid.h"
+#include "control/input/KeyCodes.h"
+#include "control/input/MenuKey.h"
+#include "control/parts/GridParts.h"
+#include "control/parts/GridToolbar.h"
+#include "control/parts/PageView.h"
+#include "grid/FlexGrid.h"
+#include "grid/Twips.h"
+#include "session/ResultSet.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QPointer>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QHeaderView>
+
+#include <utility>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What a mouse event carries to the host, in twips from the widget's corner. A handler may change it.
+struct MouseArguments
+{
+    MouseArguments(const QWidget &source, const QMouseEvent &event, const QWidget &origin)
+        : button(buttonState(event.type() == QEvent::MouseMove ? event.buttons() : event.button())),
+          shift(shiftState(event.modifiers()))
+    {
+        const QPoint position = source.mapTo(&origin, event.position().toPoint());
+        x = static_cast<float>(Twips::fromPixels(position.x(), origin));
+        y = static_cast<float>(Twips::fromPixels(position.y(), origin));
+    }
+
+    qint16 button;
+    qint16 shift;
+    float x = 0;
+    float y = 0;
+};
+
+} // namespace
+
+GridEvents::GridEvents(KOVAVSFDataGrid &control, const GridParts &parts, const ResultSet &result,
+                       const PageView &pages)
+    : m_control(control), m_parts(parts), m_result(result), m_pages(pages)
+{
+    VSFlexGrid &grid = *parts.vsfgDataGrid;
+    for (QWidget *surface :
+         {grid.viewport(), grid.horizontalHeader()->viewport(), grid.verticalHeader()->viewport()}) {
+        surface->setMouseTracking(true);
+        surface->installEventFilter(this);
+    }
+    grid.installEventFilter(this);
+    parts.picMainBack->installEventFilter(this);
+    connect(&grid, &FlexGrid::HeadingClicked, this,
+            [this](int col) { Q_EMIT m_control.HeadClick(static_cast<qint16>(col)); });
+    connect(&grid, &FlexGrid::CurrentRowChanged, this, &GridEvents::followGridRow);
+}
+
+QString GridEvents::pictureFile()
+{
+    return QDir(QCoreApplication::applicationDirPath()).filePath(u"PicRecord.bmp"_s);
+}
+
+bool GridEvents::isGridSurface(const QObject *object) const
+{
+    const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    return object == grid.viewport() || object == grid.horizontalHeader()->viewport() ||
+           object == grid.verticalHeader()->viewport();
+}
+
+bool GridEvents::eventFilter(QObject *watched, QEvent *event)
+{
+    // The host is told before the grid itself acts. A disabled grid has nothing to tell.
+    if (!m_parts.vsfgDataGrid->isEnabled() && watched != m_parts.picMainBack)
+        return QObject::eventFilter(watched, event);
+    const QPointer<KOVAVSFDataGrid> alive(&m_control);
+    bool isTaken = false;
+    if (isGridSurface(watched)) {
+        auto &source = *static_cast<QWidget *>(watched);
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+            mousePressed(source, *static_cast<QMouseEvent *>(event));
+            break;
+        case QEvent::MouseMove:
+            mouseMoved(source, *static_cast<QMouseEvent *>(event));
+            break;
+        case QEvent::MouseButtonRelease:
+            mouseReleased(source, *static_cast<QMouseEvent *>(event));
+            break;
+        case QEvent::MouseButtonDblClick:
+            doubleClicked(source, *static_cast<QMouseEvent *>(event));
+            break;
+        default:
+            break;
+        }
+    } else if (watched == m_parts.vsfgDataGrid && event->type() == QEvent::KeyPress) {
+        isTaken = keyPressed(*static_cast<QKeyEvent *>(event));
+    } else if (watched == m_parts.picMainBack && event->type() == QEvent::MouseButtonRelease) {
+        panelReleased(*static_cast<QMouseEvent *>(event));
+    }
+    return isTaken || !alive; // an event for a widget that is no more goes nowhere
+}
+
+void GridEvents::mousePressed(QWidget &source, QMouseEvent &event)
+{
+    m_isPressed = event.button() == Qt::LeftButton;
+    MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
+    Q_EMIT m_control.DataMouseDown(arguments.button, arguments.shift, arguments.x, arguments.y);
+}
+
+void GridEvents::mouseMoved(QWidget &source, QMouseEvent &event)
+{
+    MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
+    Q_EMIT m_control.DataMouseMove(arguments.button, arguments.shift, arguments.x, arguments.y);
+}
+
+void GridEvents::mouseReleased(QWidget &source, QMouseEvent &event)
+{
+    const QPointer<KOVAVSFDataGrid> alive(&m_control);
+    const Place place = placeOf(source, event);
+    MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
+    if (isData(place))
+        followGridRow();
+    if (alive && event.button() == Qt::LeftButton && std::exchange(m_isPressed, false))
+        clicked(place);
+    if (alive && event.button() == Qt::RightButton && isData(place))
+        askForMenu(event.globalPosition().toPoint());
+    if (alive)
+        Q_EMIT m_control.DataMouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
+}
+
+GridEvents::Place GridEvents::placeOf(const QWidget &source, const QMouseEvent &event) const
+{
+    const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    const QPoint position = event.position().toPoint();
+    if (&source == grid.horizontalHeader()->viewport())
+        return Place::Heading;
+    if (&source == grid.verticalHeader()->viewport())
+        return grid.rowAt(position.y()) >= 0 ? Place::RowNumber : Place::None;
+    return grid.indexAt(position).isValid() ? Place::Cell : Place::None;
+}
+
+void GridEvents::clicked(Place place)
+{
+    QFile::remove(pictureFile());
+    if (!isData(place) || m_parts.vsfgDataGrid->Row() == 0 || !m_result.isOpen())
+        return;
+    writePicture();
+    Q_EMIT m_control.DataClick();
+}
+
+void GridEvents::followGridRow()
+{
+    VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    if (grid.Row() == 0 || !m_result.isOpen())
+        return;
+    const QPointer<GridEvents> alive(this);
+    const auto recordset = m_result.recordset();
+    const qint64 record = m_pages.recordOfRow(grid.Row());
+    try {
+        if (record <= recordset->RecordCount() && record != recordset->AbsolutePosition())
+            recordset->PutAbsolutePosition(record);
+    } catch (const ADODB::Error &) {
+        if (!alive || !m_result.isOpen() || m_result.recordset() != recordset)
+            return; // the host, told that the edit was saved, has put something else in its place
+        const qint64 row = recordset->AbsolutePosition() - m_pages.recordOfRow(1) + 1;
+        if (row >= 1 && row < grid.Rows())
+            grid.PutRow(static_cast<int>(row));
+    }
+}
+
+void GridEvents::writePicture()
+{
+    const int index = m_pages.pictureFieldIndex();
+    if (index < 0)
+        return;
+    try {
+        const QVariant picture = m_result.recordset()->Fields().Item(index).Value();
+        if (!picture.isValid())
+            return;
+        ADODB::Stream stream;
+        stream.PutType(ADODB::adTypeBinary);
+        stream.Open();
+        stream.Write(picture.toByteArray());
+        stream.SaveToFile(pictureFile(), ADODB::adSaveCreateNotExist);
+        stream.Close();
+    } catch (const ADODB::Error &) {
+        // No picture then: the host finds no file, as for a record without one.
+    }
+}
+
+void GridEvents::doubleClicked(QWidget &source, QMouseEvent &event)
+{
+    if (event.button() != Qt::LeftButton)
+        return;
+    m_isPressed = false;
+    const QPointer<KOVAVSFDataGrid> alive(&m_control);
+    const Place place = placeOf(source, event);
+    makeCurrent(place, event.position().toPoint());
+    if (alive)
+        Q_EMIT m_control.DataDblClick();
+    if (!alive)
+        return;
+    const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    if (!isData(place) || grid.Row() == 0)
+        return;
+    // On a row number all of the row is meant even when its first columns are scrolled away or hidden.
+    const bool isWholeRow = m_parts.CheckSelAllRow->isChecked() || place == Place::RowNumber ||
+                            (grid.Col() == 1 && grid.ColSel() != 1);
+    if (isWholeRow)
+        Q_EMIT m_control.DataDBLClickOneRow(grid.Row());
+    else
+        Q_EMIT m_control.DataDBLClickOneCell(grid.Col(), grid.Row());
+}
+
+// The second press can come down beside the cell of the first; the grid follows only after the host is told.
+void GridEvents::makeCurrent(Place place, const QPoint &position)
+{
+    VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    if (place == Place::Cell && grid.indexAt(position) != grid.currentIndex())
+        grid.tellAfter([&] { grid.setCurrentIndex(grid.indexAt(position)); });
+    else if (place == Place::RowNumber && grid.rowAt(position.y()) != grid.currentIndex().row())
+        grid.tellAfter([&] { grid.selectRow(grid.rowAt(position.y())); });
+}
+
+bool GridEvents::keyPressed(QKeyEvent &event)
+{
+    const qint16 code = virtualKey(event);
+    if (code == 0)
+        return false;
+    const QPointer<KOVAVSFDataGrid> alive(&m_control);
+    qint16 keyCode = code;
+    qint16 shift = shiftState(event.modifiers());
+    Q_EMIT m_control.DataKeyDown(keyCode, shift);
+    if (!alive || keyCode == 0)
+        return true; // set by a handler that wants the grid to ignore the key
+    if (!isMenuKey(event) || m_parts.vsfgDataGrid->Row() == 0)
+        return false;
+    followGridRow();
+    if (alive)
+        askForMenu(menuPlace(*m_parts.vsfgDataGrid));
+    return true;
+}
+
+void GridEvents::askForMenu(const QPoint &position)
+{
+    if (m_parts.Toolbar1->isEnabled() && m_result.isOpen() && m_result.recordset()->RecordCount() > 0)
+        Q_EMIT menuWanted(position);
+}
+
+void GridEvents::panelReleased(QMouseEvent &event)
+{
+    MouseArguments arguments(*m_parts.picMainBack, event, *m_parts.picMainBack);
+    Q_EMIT m_control.MouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
+}
+
+} // namespace KOVAVSFDataGridLib

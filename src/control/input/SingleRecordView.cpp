@@ -1,0 +1,217 @@
+#include "control/input/SingleRecordView.h"
+
+#include "ado/Adodc.h"
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "ado/ValueText.h"
+#include "control/face/KOVAVSFDataGridPrivate.h"
+#include "control/input/MenuKey.h"
+#include "control/parts/GridTexts.h"
+#include "control/parts/GridToolbar.h"
+#include "grid/FlexGrid.h"
+#include "grid/TextCells.h"
+#include "grid/Twips.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLineEdit>
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int NameMargin = 180; // twips beside the widest field name
+constexpr int NameCol = 0;
+constexpr int ValueCol = 1;
+
+bool isListed(const ADODB::Field &field)
+{
+    return field.Type() != ADODB::adBinary && field.Type() != ADODB::adLongVarBinary;
+}
+
+bool isText(const QKeyEvent &event)
+{
+    const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return !isCommand && !event.text().isEmpty() && event.text().at(0).isPrint();
+}
+
+bool carriesText(const QInputMethodEvent &event)
+{
+    return !event.preeditString().isEmpty() || !event.commitString().isEmpty();
+}
+
+} // namespace
+
+SingleRecordView::SingleRecordView(ControlHub &hub) : m_hub(hub), m_editor(hub)
+{
+    MSFlexGrid &list = *hub.parts.MSFlexGrid1;
+    list.installEventFilter(this);
+    list.viewport()->installEventFilter(this);
+    list.horizontalHeader()->viewport()->installEventFilter(this);
+    connect(&list, &FlexGrid::CurrentRowChanged, this, [this, &list] {
+        list.setAttribute(Qt::WA_InputMethodEnabled); // so that Chinese can be typed to begin an edit
+        m_editor.take();                              // last, because the host may delete the control
+    });
+    connect(&hub.q, &KOVAVSFDataGrid::RecordChanged, this, &SingleRecordView::refillIfShown);
+}
+
+void SingleRecordView::ShowSingleRecord()
+{
+    const bool hadFocus = m_hub.parts.vsfgDataGrid->hasFocus();
+    FillSingleRecordView();
+    fitNameColumn();
+    m_hub.parts.MSFlexGrid1->show();
+    m_hub.q.setFocusProxy(m_hub.parts.MSFlexGrid1);
+    m_hub.parts.vsfgDataGrid->hide();
+    m_hub.parts.Toolbar1->setButtonVisible(u"SingleRecord"_s, false);
+    m_hub.parts.Toolbar1->setButtonVisible(u"AllRecord"_s, true);
+    if (hadFocus)
+        m_hub.parts.MSFlexGrid1->setFocus();
+}
+
+void SingleRecordView::ShowAllRecords()
+{
+    const bool hadFocus = m_hub.parts.MSFlexGrid1->hasFocus() || m_hub.parts.txtEdit->hasFocus();
+    m_editor.close();
+    m_hub.showMultiRecordView();
+    if (hadFocus)
+        m_hub.parts.vsfgDataGrid->setFocus();
+}
+
+void SingleRecordView::leave()
+{
+    if (m_hub.isSingleRecordShown())
+        ShowAllRecords();
+}
+
+void SingleRecordView::FillSingleRecordView()
+{
+    m_editor.close();
+    m_fields.clear();
+    const int fields = m_hub.result.isOpen() ? m_hub.result.recordset()->Fields().Count() : 0;
+    for (int field = 0; field < fields; ++field) {
+        if (isListed(m_hub.result.recordset()->Fields().Item(field)))
+            m_fields.push_back(field);
+    }
+
+    MSFlexGrid &list = *m_hub.parts.MSFlexGrid1;
+    const int row = list.Row();
+    auto cells = std::make_unique<TextCells>(static_cast<int>(m_fields.size()) + 1, 2);
+    cells->setText(0, NameCol, GridTexts::FieldNameHeading);
+    cells->setText(0, ValueCol, GridTexts::FieldValueHeading);
+    int at = 0;
+    for (const int field : m_fields) {
+        cells->setText(++at, NameCol, m_hub.result.recordset()->Fields().Item(field).Name());
+        cells->setText(at, ValueCol, valueText(field));
+    }
+    list.Show(std::move(cells));
+    if (at > 0) {
+        list.PutRow(std::clamp(row, 1, at));
+        list.PutCol(ValueCol);
+    }
+}
+
+void SingleRecordView::refillIfShown()
+{
+    if (m_hub.isSingleRecordShown())
+        FillSingleRecordView();
+}
+
+QString SingleRecordView::valueText(int field) const
+{
+    try {
+        return ADODB::ValueText(m_hub.result.recordset()->Fields().Item(field).Value());
+    } catch (const ADODB::Error &) {
+        return {}; // there is no current record
+    }
+}
+
+int SingleRecordView::currentGridCol() const
+{
+    const int row = m_hub.parts.MSFlexGrid1->Row();
+    return row < 1 ? 0 : m_fields[static_cast<std::size_t>(row - 1)] + 1;
+}
+
+void SingleRecordView::fitNameColumn()
+{
+    MSFlexGrid &list = *m_hub.parts.MSFlexGrid1;
+    int width = 0;
+    for (int row = 0; row < list.Rows(); ++row)
+        width = std::max(width, list.fontMetrics().horizontalAdvance(list.TextMatrix(row, NameCol)));
+    list.PutColWidth(NameCol, Twips::fromPixels(width, list) + NameMargin);
+}
+
+bool SingleRecordView::eventFilter(QObject *watched, QEvent *event)
+{
+    const QPointer<SingleRecordView> alive(this);
+    return isDealtWith(watched, event) || !alive; // an event for a widget that is no more goes nowhere
+}
+
+bool SingleRecordView::isDealtWith(QObject *watched, QEvent *event)
+{
+    const auto *source = static_cast<const QWidget *>(watched);
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        return watched == m_hub.parts.MSFlexGrid1 && keyPressed(*static_cast<QKeyEvent *>(event));
+    case QEvent::InputMethod:
+        if (!carriesText(*static_cast<QInputMethodEvent *>(event)) ||
+            !m_editor.begin(currentGridCol(), u""_s))
+            return false;
+        return QCoreApplication::sendEvent(m_hub.parts.txtEdit, event);
+    case QEvent::MouseButtonDblClick:
+        if (static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
+            doubleClicked(*source, *static_cast<QMouseEvent *>(event));
+        return false;
+    case QEvent::ContextMenu:
+        // The menu key comes as a key, and the right button is told below: once each.
+        return true;
+    case QEvent::MouseButtonRelease:
+        if (static_cast<QMouseEvent *>(event)->button() == Qt::RightButton &&
+            watched == m_hub.parts.MSFlexGrid1->viewport())
+            Q_EMIT menuWanted(static_cast<QMouseEvent *>(event)->globalPosition().toPoint());
+        return false;
+    default:
+        return false;
+    }
+}
+
+bool SingleRecordView::keyPressed(const QKeyEvent &event)
+{
+    if (event.key() == Qt::Key_F2)
+        return m_editor.begin(currentGridCol());
+    if (event.key() == Qt::Key_Escape) {
+        Q_EMIT cancelWanted();
+        return true;
+    }
+    if (isMenuKey(event)) {
+        Q_EMIT menuWanted(menuPlace(*m_hub.parts.MSFlexGrid1));
+        return true;
+    }
+    return isText(event) && m_editor.begin(currentGridCol(), event.text());
+}
+
+void SingleRecordView::doubleClicked(const QWidget &source, const QMouseEvent &event)
+{
+    const QPointer<SingleRecordView> alive(this);
+    Q_EMIT m_hub.q.DataDblClick();
+    if (!alive)
+        return;
+    MSFlexGrid &list = *m_hub.parts.MSFlexGrid1;
+    const int gridRow = m_hub.parts.vsfgDataGrid->Row();
+    const QPoint position = event.position().toPoint();
+    if (&source == list.horizontalHeader()->viewport()) {
+        if (list.horizontalHeader()->logicalIndexAt(position) == ValueCol)
+            Q_EMIT m_hub.q.DataDBLClickOneRow(gridRow);
+    } else if (list.indexAt(position).isValid()) {
+        Q_EMIT m_hub.q.DataDBLClickOneCell(currentGridCol(), gridRow);
+    }
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,126 @@
+#include "control/parts/GridParts.h"
+
+#include "ado/Adodc.h"
+#include "control/parts/ElidedLabel.h"
+#include "control/parts/EmptyHint.h"
+#include "control/parts/GridTexts.h"
+#include "control/parts/GridToolbar.h"
+#include "control/parts/StatementLine.h"
+#include "grid/FlexGrid.h"
+#include "grid/Twips.h"
+
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int GridLeft = 7;         // twips
+constexpr int GridWidthMargin = 67; // twips
+constexpr int FootGap = 90;         // twips, between the parts of the foot
+
+template<typename Widget>
+Widget *named(Widget *widget, const QString &name)
+{
+    widget->setObjectName(name);
+    return widget;
+}
+
+} // namespace
+
+GridParts::GridParts(QWidget &control)
+    : picMainBack(named(new QWidget(&control), u"picMainBack"_s)),
+      Toolbar1(new GridToolbar(picMainBack)),
+      vsfgDataGrid(named(new VSFlexGrid(picMainBack), u"vsfgDataGrid"_s)),
+      lblEmpty(new EmptyHint(*vsfgDataGrid)),
+      MSFlexGrid1(named(new MSFlexGrid(picMainBack), u"MSFlexGrid1"_s)),
+      txtEdit(named(new QLineEdit(picMainBack), u"txtEdit"_s)),
+      txtPage(named(new QLineEdit(picMainBack), u"txtPage"_s)),
+      cmdPgae(named(new QPushButton(GridTexts::GoToPage, picMainBack), u"cmdPgae"_s)),
+      lblFieldCount(named(new ElidedLabel(picMainBack), u"lblFieldCount"_s)),
+      lblStatement(new StatementLine(picMainBack)),
+      CheckSelAllRow(named(new QCheckBox(GridTexts::SelectWholeRows, picMainBack), u"CheckSelAllRow"_s)),
+      Adodc1(named(new ADODB::Adodc(&control), u"Adodc1"_s))
+{
+    picMainBack->setAutoFillBackground(true);
+    MSFlexGrid1->hide();
+    txtEdit->hide();
+    txtPage->setAlignment(Qt::AlignRight);
+    txtPage->setAccessibleName(GridTexts::PageBoxHint);
+    txtPage->setToolTip(GridTexts::PageBoxHint);
+    cmdPgae->setToolTip(GridTexts::GoToPageTip);
+    Toolbar1->setAccessibleName(GridTexts::ToolbarName);
+    vsfgDataGrid->setAccessibleName(GridTexts::GridName);
+    MSFlexGrid1->setAccessibleName(GridTexts::SingleRecordName);
+}
+
+void GridParts::layOut(int width, int height)
+{
+    picMainBack->setGeometry(0, 0, width, height);
+    const int toolbarHeight = Toolbar1->sizeHint().height();
+    Toolbar1->setGeometry(0, 0, width, toolbarHeight);
+
+    const int foot = footHeight();
+    const int left = Twips::toPixels(GridLeft, *picMainBack);
+    const int gridWidth = width - Twips::toPixels(GridWidthMargin, *picMainBack);
+    const int gridHeight = std::max(0, height - toolbarHeight - foot);
+    vsfgDataGrid->setGeometry(left, toolbarHeight, gridWidth, gridHeight);
+    MSFlexGrid1->setGeometry(vsfgDataGrid->geometry());
+    txtEdit->hide();
+    layOutFoot();
+}
+
+QRect GridParts::foot() const
+{
+    const int height = footHeight();
+    return {0, picMainBack->height() - height, picMainBack->width(), height};
+}
+
+int GridParts::footHeight() const
+{
+    return std::max({txtPage->sizeHint().height(), cmdPgae->sizeHint().height(),
+                     CheckSelAllRow->sizeHint().height()}) +
+           gap();
+}
+
+int GridParts::gap() const
+{
+    return Twips::toPixels(FootGap, *picMainBack);
+}
+
+// The page box, its button, the label and the statement from the left, the check box at the right edge. When
+// it gets narrow, the statement gives way, then the label, then box and button, and the check box last.
+void GridParts::layOutFoot() const
+{
+    const QRect strip = foot();
+    const int top = strip.top();
+    const int width = strip.width();
+    const int gap = this->gap();
+    const int partHeight = strip.height() - gap;
+    int x = gap;
+    const auto place = [&](QWidget *part, int partWidth) {
+        part->setGeometry(x, top + gap / 2, partWidth, partHeight);
+        x += partWidth + gap;
+    };
+    const int digit = txtPage->fontMetrics().horizontalAdvance(u'0');
+    const int caption = cmdPgae->fontMetrics().horizontalAdvance(cmdPgae->text());
+    const bool isNarrow =
+        8 * digit + cmdPgae->sizeHint().width() + CheckSelAllRow->sizeHint().width() + 4 * gap > width;
+    place(txtPage, (isNarrow ? 4 : 8) * digit);
+    place(cmdPgae, isNarrow ? caption + 2 * gap : cmdPgae->sizeHint().width());
+    const int checkWidth = std::min(CheckSelAllRow->sizeHint().width(), width - gap - x);
+    const int room = std::max(0, width - checkWidth - 2 * gap - x);
+    const int labelWidth = std::min(room, lblFieldCount->sizeHint().width());
+    place(lblFieldCount, labelWidth);
+    place(lblStatement, std::max(0, room - labelWidth - gap));
+    x = width - checkWidth - gap;
+    place(CheckSelAllRow, checkWidth);
+}
+
+} // namespace KOVAVSFDataGridLib

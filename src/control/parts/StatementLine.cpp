@@ -1,0 +1,40 @@
+#include "control/parts/StatementLine.h"
+
+#include "control/parts/GridTexts.h"
+
+#include <QtGui/QAction>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+StatementLine::StatementLine(QWidget *parent) : ElidedLabel(parent)
+{
+    setObjectName(u"lblStatement"_s);
+    setForegroundRole(QPalette::PlaceholderText);
+    setFocusPolicy(Qt::StrongFocus);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    auto *copyAction = new QAction(GridTexts::CopyStatement, this);
+    copyAction->setShortcut(QKeySequence::Copy);
+    copyAction->setShortcutContext(Qt::WidgetShortcut);
+    connect(copyAction, &QAction::triggered, this, &StatementLine::copy);
+    addAction(copyAction);
+}
+
+void StatementLine::tell(const QString &place, const QString &statement)
+{
+    m_statement = statement;
+    setText(statement.isEmpty() ? QString() : place + GridTexts::BeforeStatement + statement.simplified());
+    setToolTip(statement.isEmpty()
+                   ? QString()
+                   : u"<p style='white-space:pre-wrap'>"_s + statement.toHtmlEscaped() + u"</p>"_s);
+}
+
+void StatementLine::copy()
+{
+    QGuiApplication::clipboard()->setText(m_statement);
+}
+
+} // namespace KOVAVSFDataGridLib

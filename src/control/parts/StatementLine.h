@@ -1,0 +1,26 @@
+#pragma once
+
+#include "control/parts/ElidedLabel.h"
+
+namespace KOVAVSFDataGridLib {
+
+// One discreet line that tells where the user is and which statement is shown. What has no room is cut; the
+// tool tip has the statement whole, and it can be copied (Ctrl+C, or the line's own menu).
+class StatementLine final : public ElidedLabel
+{
+    Q_OBJECT
+
+public:
+    explicit StatementLine(QWidget *parent);
+
+    // `place` tells which record is current. An empty statement empties the line.
+    void tell(const QString &place, const QString &statement);
+    const QString &statement() const { return m_statement; }
+
+private:
+    void copy();
+
+    QString m_statement;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,93 @@
+#include "session/ConnectionFieldReader.h"
+
+#include "ado/Connection.h"
+#include "ado/Error.h"
+#include "query/SharedValues.h"
+#include "query/SqlText.h"
+#include "session/ResultSet.h"
+
+#include <exception>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+std::vector<SourceField> describe(const ADODB::Connection &connection, const QString &statement)
+{
+    std::vector<SourceField> fields;
+    for (const ADODB::FieldInfo &info : connection.Describe(statement))
+        fields.push_back({info.name, info.type});
+    return fields;
+}
+
+} // namespace
+
+ConnectionFieldReader::ConnectionFieldReader(const ResultSet &result) : m_result(result) {}
+
+ConnectionFieldReader::~ConnectionFieldReader() = default;
+
+ADODB::Connection &ConnectionFieldReader::connect(const QString &connectionString)
+{
+    if (m_result.isConnectedTo(connectionString)) {
+        closeOwn();
+        return *m_result.connection();
+    }
+    if (!m_own || m_own->State() != ADODB::adStateOpen || m_ownText != connectionString) {
+        auto connection = ResultSet::newConnection(SharedValues::instance().dbType);
+        connection->PutConnectionString(connectionString);
+        connection->Open();
+        m_own = std::move(connection);
+        m_ownText = connectionString;
+    }
+    return *m_own;
+}
+
+bool ConnectionFieldReader::Open(const QString &connectionString)
+{
+    try {
+        connect(connectionString);
+        return true;
+    } catch (const std::exception &) {
+        return false;
+    }
+}
+
+std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QString &connectionString,
+                                                                    const QString &statement)
+{
+    m_failure.clear();
+    const std::pair key(connectionString, statement);
+    if (const auto known = m_known.constFind(key); known != m_known.constEnd())
+        return *known;
+    try {
+        const ADODB::Connection &connection = connect(connectionString);
+        std::vector<SourceField> fields;
+        try {
+            fields = describe(connection, GetNoRowSQL(statement));
+        } catch (const ADODB::Error &) {
+            // Grouped or united statements, say, have no such form; the statement itself is only prepared.
+            // It goes over another connection where this one turned out to be lost.
+            fields = describe(connect(connectionString), statement);
+        }
+        m_known.insert(key, fields);
+        return fields;
+    } catch (const std::exception &error) {
+        m_failure = QString::fromUtf8(error.what());
+        return {};
+    }
+}
+
+void ConnectionFieldReader::forget()
+{
+    closeOwn();
+    m_known.clear();
+    m_failure.clear();
+}
+
+void ConnectionFieldReader::closeOwn()
+{
+    m_own.reset();
+    m_ownText.clear();
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,106 @@
+#include "session/ResultSet.h"
+
+#include "ado/Adodc.h"
+#include "ado/Connection.h"
+#include "ado/ConnectionFactory.h"
+#include "ado/EngineOf.h"
+#include "ado/Recordset.h"
+#include "query/SharedValues.h"
+#include "sql/AllDBType.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
+
+#include <utility>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+// The same recordset, closed as soon as its last holder lets go of it. The object itself stays until the
+// event loop runs again, because a host's handler may let go of a recordset that is just telling of its own
+// move.
+std::shared_ptr<ADODB::Recordset> closedByLastHolder(std::shared_ptr<ADODB::Recordset> recordset)
+{
+    ADODB::Recordset *const held = recordset.get();
+    return {held, [recordset = std::move(recordset)](ADODB::Recordset *) mutable {
+                if (recordset->State() == ADODB::adStateOpen)
+                    recordset->Close();
+                QMetaObject::invokeMethod(
+                    QCoreApplication::instance(), [last = std::move(recordset)] {}, Qt::QueuedConnection);
+            }};
+}
+
+} // namespace
+
+ResultSet::ResultSet(ADODB::Adodc &adodc) : m_adodc(adodc) {}
+
+ResultSet::Opened ResultSet::open(const QString &connectionString, const QString &statement, qint32 dbType,
+                                  const std::function<bool(qint64)> &progress)
+{
+    auto connection = newConnection(dbType);
+    auto recordset = dbType == dbAccess ? std::make_shared<ADODB::Recordset>()
+                                        : ADODB::ConnectionFactory::instance().newRecordset(dbType);
+
+    recordset->PutCursorLocation(ADODB::adUseClient);
+    connection->PutConnectionString(connectionString);
+    connection->Open();
+    recordset->SetProgress(progress);
+    recordset->Open(statement, connection, ADODB::adOpenKeyset, ADODB::adLockOptimistic, ADODB::adCmdText);
+    recordset->SetProgress({});
+    recordset->PutPageSize(SharedValues::RecordCap);
+    return {connectionString, std::move(connection), closedByLastHolder(std::move(recordset))};
+}
+
+void ResultSet::replaceBy(Opened opened)
+{
+    const QPointer<ADODB::Adodc> alive(&m_adodc);
+    close();
+    if (!alive) // the host has deleted the control when it was told
+        return;
+    m_connectionString = std::move(opened.connectionString);
+    m_connection = std::move(opened.connection);
+    m_recordset = std::move(opened.recordset);
+    m_engine = EngineOf(m_connection);
+    m_adodc.PutRecordset(m_recordset);
+}
+
+std::shared_ptr<ADODB::Connection> ResultSet::newConnection(qint32 dbType)
+{
+    return dbType == dbAccess ? std::make_shared<ADODB::Connection>()
+                              : ADODB::ConnectionFactory::instance().newConnection(dbType);
+}
+
+bool ResultSet::isConnectedTo(const QString &connectionString) const
+{
+    return m_connection && m_connection->State() == ADODB::adStateOpen &&
+           m_connectionString == connectionString;
+}
+
+void ResultSet::close()
+{
+    const auto connection = m_connection;
+    if (isOpen())
+        m_recordset->Close(); // and that is told, so this object may be gone
+    if (connection && connection->State() != ADODB::adStateClosed)
+        connection->Close();
+}
+
+void ResultSet::release()
+{
+    const QPointer<ADODB::Adodc> alive(&m_adodc);
+    close();
+    if (!alive)
+        return;
+    m_connectionString.clear();
+    m_connection.reset();
+    m_recordset.reset();
+    m_adodc.PutRecordset(nullptr);
+}
+
+bool ResultSet::isOpen() const
+{
+    return m_recordset && m_recordset->State() == ADODB::adStateOpen;
+}
+
+} // namespace KOVAVSFDataGridLib

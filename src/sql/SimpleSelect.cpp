@@ -1,0 +1,157 @@
+#include "sql/SimpleSelect.h"
+
+#include "ado/Texts.h"
+#include "sql/SqlScanner.h"
+
+#include <algorithm>
+
+namespace ADODB {
+
+namespace {
+
+bool isOneOf(const SqlScanner &statement, qsizetype index, std::initializer_list<QStringView> words)
+{
+    return std::any_of(words.begin(), words.end(),
+                       [&](QStringView word) { return statement.isWord(index, word); });
+}
+
+// The words that can follow a table in a SELECT and therefore are no alias.
+bool isAlias(const SqlScanner &statement, qsizetype index)
+{
+    return statement.isName(index) &&
+           !isOneOf(statement, index,
+                    {u"WHERE",  u"GROUP",     u"HAVING",  u"ORDER", u"LIMIT", u"WINDOW", u"UNION",
+                     u"EXCEPT", u"INTERSECT", u"JOIN",    u"INNER", u"LEFT",  u"RIGHT",  u"FULL",
+                     u"CROSS",  u"NATURAL",   u"INDEXED", u"NOT",   u"FETCH", u"OFFSET", u"FOR"});
+}
+
+qsizetype endOfParentheses(const SqlScanner &statement, qsizetype open)
+{
+    qsizetype close = open + 1;
+    while (close < statement.count() && statement.at(close).depth > statement.at(open).depth)
+        ++close;
+    return close;
+}
+
+// Window functions see the other rows of the result, so a row can't be computed again by itself. Those of a
+// subquery see only its own rows.
+bool hasWindow(const SqlScanner &statement)
+{
+    for (qsizetype i = 1; i < statement.count(); ++i) {
+        if (statement.isSymbol(i, u'(') && isOneOf(statement, i + 1, {u"SELECT", u"WITH"}))
+            i = endOfParentheses(statement, i);
+        if (statement.isSymbol(i, u')') && statement.isWord(i + 1, u"OVER"))
+            return true;
+    }
+    return false;
+}
+
+// The item at [first, end) of the statement: whatever is not surely a column is taken for computed.
+SimpleSelect::Item itemAt(const SqlScanner &statement, qsizetype first, qsizetype end)
+{
+    qsizetype next = first;
+    while (statement.isName(next) && statement.isSymbol(next + 1, u'.'))
+        next += 2; // a schema or a table
+    if (next + 1 == end && statement.isSymbol(next, u'*'))
+        return {true, {}};
+    if (next >= end || !statement.isName(next))
+        return {};
+    const QString column = statement.name(next++);
+    if (next < end && statement.isWord(next, u"AS"))
+        ++next;
+    const bool hasAlias =
+        next + 1 == end && (statement.isName(next) || statement.at(next).kind == SqlToken::Kind::String);
+    return {false, next == end || hasAlias ? column : QString()};
+}
+
+std::vector<SimpleSelect::Item> itemsBefore(const SqlScanner &statement, qsizetype from)
+{
+    std::vector<SimpleSelect::Item> items;
+    qsizetype first = statement.isWord(1, u"ALL") ? 2 : 1;
+    for (qsizetype i = first; i <= from; ++i) {
+        if (i == from || (statement.isSymbol(i, u',') && statement.at(i).depth == 0)) {
+            items.push_back(itemAt(statement, first, i));
+            first = i + 1;
+        }
+    }
+    return items;
+}
+
+// Why what surrounds the table folds or combines rows; empty when nothing does.
+QString folding(const SqlScanner &statement)
+{
+    if (statement.isWord(1, u"DISTINCT"))
+        return Texts::readOnlyDistinct();
+    for (qsizetype i = 0; i < statement.count(); ++i) {
+        if (statement.at(i).depth > 0)
+            continue;
+        if (isOneOf(statement, i, {u"UNION", u"EXCEPT", u"INTERSECT"}))
+            return Texts::readOnlyCompound();
+        if (isOneOf(statement, i, {u"GROUP", u"HAVING"}))
+            return Texts::readOnlyGrouped();
+    }
+    return hasWindow(statement) ? Texts::readOnlyGrouped() : QString();
+}
+
+qsizetype indexOfFrom(const SqlScanner &statement)
+{
+    qsizetype i = 1;
+    while (i < statement.count() && !(statement.at(i).depth == 0 && statement.isWord(i, u"FROM")))
+        ++i;
+    return i;
+}
+
+} // namespace
+
+SimpleSelect SimpleSelect::parse(const SqlScanner &statement)
+{
+    SimpleSelect select;
+    if (!statement.isWord(0, u"SELECT")) {
+        select.reason = Texts::readOnlyNoTable();
+        return select;
+    }
+    select.reason = folding(statement);
+    if (!select.reason.isEmpty())
+        return select;
+
+    const qsizetype from = indexOfFrom(statement);
+    qsizetype next = from + 1;
+    if (!statement.isName(next)) {
+        select.reason = statement.isSymbol(next, u'(') ? Texts::readOnlyJoin() : Texts::readOnlyNoTable();
+        return select;
+    }
+    select.listEnd = statement.at(from - 1).end();
+    select.table = statement.name(next++);
+    if (statement.isSymbol(next, u'.') && statement.isName(next + 1)) {
+        select.schema = select.table;
+        select.table = statement.name(next + 1);
+        next += 2;
+    }
+    if (statement.isSymbol(next, u'(')) {
+        select.reason = Texts::readOnlyNoTable(); // a function that gives rows
+        return select;
+    }
+    const qsizetype tableStart = statement.at(from + 1).start;
+    select.tableText = statement.sql().sliced(tableStart, statement.at(next - 1).end() - tableStart);
+    select.alias = select.table;
+    select.aliasText = statement.text(next - 1).toString();
+    if (statement.isWord(next, u"AS"))
+        ++next;
+    if (isAlias(statement, next)) {
+        select.aliasText = statement.text(next).toString();
+        select.alias = statement.name(next++);
+    }
+    if (statement.isWord(next, u"INDEXED"))
+        next += 3; // INDEXED BY name
+    else if (statement.isWord(next, u"NOT"))
+        next += 2; // NOT INDEXED
+    select.sourceEnd = statement.at(std::min(next, statement.count()) - 1).end();
+
+    const bool ends = next >= statement.count() || statement.isSymbol(next, u';');
+    if (!ends && !isOneOf(statement, next, {u"WHERE", u"ORDER", u"LIMIT"}))
+        select.reason = Texts::readOnlyJoin();
+    select.items = itemsBefore(statement, from);
+    return select;
+}
+
+} // namespace ADODB

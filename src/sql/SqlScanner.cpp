@@ -1,0 +1,196 @@
+#include "sql/SqlScanner.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+bool isWordPart(QChar c)
+{
+    return c.isLetterOrNumber() || c == u'_' || c == u'$' || c.isSurrogate();
+}
+
+QChar closingOf(QChar open)
+{
+    return open == u'[' ? u']' : open;
+}
+
+} // namespace
+
+SqlScanner::SqlScanner(QString sql, SqlDialect dialect) : m_sql(std::move(sql)), m_dialect(dialect)
+{
+    scan();
+}
+
+void SqlScanner::scan()
+{
+    int depth = 0;
+    for (qsizetype i = 0; i < m_sql.size();) {
+        const QChar c = m_sql.at(i);
+        if (c.isSpace()) {
+            ++i;
+            continue;
+        }
+        if (const qsizetype behind = skipComment(i); behind > i) {
+            i = behind;
+            continue;
+        }
+        auto kind = SqlToken::Kind::Symbol;
+        qsizetype end = i + 1;
+        if (c == u'\'') {
+            kind = SqlToken::Kind::String;
+            end = endOfQuoted(i, c);
+        } else if (const qsizetype behind = endOfDollarQuoted(i); behind > i) {
+            kind = SqlToken::Kind::String;
+            end = behind;
+        } else if (isNameQuote(c)) {
+            kind = SqlToken::Kind::QuotedName;
+            end = endOfQuoted(i, closingOf(c));
+        } else if (isWordPart(c)) {
+            kind = c.isDigit() ? SqlToken::Kind::Number : SqlToken::Kind::Word;
+            while (end < m_sql.size() && isWordPart(m_sql.at(end)))
+                ++end;
+        } else if (c == u')' && depth > 0) {
+            --depth;
+        }
+        m_tokens.push_back({kind, i, end - i, depth});
+        if (kind == SqlToken::Kind::Symbol && c == u'(')
+            ++depth;
+        i = end;
+    }
+}
+
+qsizetype SqlScanner::skipComment(qsizetype from) const
+{
+    const QStringView rest = QStringView(m_sql).sliced(from);
+    const bool mySql = m_dialect == SqlDialect::MySql;
+    // To MySQL two dashes are a comment only with a blank behind them.
+    const bool dashes = rest.startsWith("--"_L1) &&
+                        (!mySql || rest.size() == 2 || !rest.at(2).isPrint() || rest.at(2).isSpace());
+    if (dashes || (mySql && rest.startsWith(u'#'))) {
+        const qsizetype end = m_sql.indexOf(u'\n', from);
+        return end < 0 ? m_sql.size() : end;
+    }
+    // MySQL runs what stands in a comment with an exclamation mark.
+    const bool runs = mySql && (rest.startsWith("/*!"_L1) || rest.startsWith("/*M!"_L1));
+    return rest.startsWith("/*"_L1) && !runs ? endOfBlockComment(from) : from;
+}
+
+qsizetype SqlScanner::endOfBlockComment(qsizetype from) const
+{
+    const bool nested = m_dialect == SqlDialect::PostgreSql || m_dialect == SqlDialect::SqlServer;
+    int open = 0;
+    for (qsizetype i = from; i + 1 < m_sql.size(); ++i) {
+        const QStringView pair = QStringView(m_sql).sliced(i, 2);
+        if (pair == "/*"_L1 && (nested || open == 0)) {
+            ++open;
+            ++i;
+        } else if (pair == "*/"_L1) {
+            ++i;
+            if (--open == 0)
+                return i + 1;
+        }
+    }
+    return m_sql.size();
+}
+
+bool SqlScanner::isNameQuote(QChar c) const
+{
+    switch (m_dialect) {
+    case SqlDialect::PostgreSql: // its brackets are subscripts
+        return c == u'"';
+    case SqlDialect::SqlServer:
+        return c == u'"' || c == u'[';
+    case SqlDialect::MySql:
+        return c == u'"' || c == u'`';
+    case SqlDialect::Standard:
+        break;
+    }
+    return c == u'"' || c == u'[' || c == u'`';
+}
+
+bool SqlScanner::hasBackslashEscapes(qsizetype quote) const
+{
+    if (m_dialect == SqlDialect::MySql)
+        return m_sql.at(quote) != u'`';
+    // E'…', the E being a word of its own.
+    return m_dialect == SqlDialect::PostgreSql && m_sql.at(quote) == u'\'' && quote > 0 &&
+           m_sql.at(quote - 1).toUpper() == u'E' && (quote == 1 || !isWordPart(m_sql.at(quote - 2)));
+}
+
+qsizetype SqlScanner::endOfQuoted(qsizetype from, QChar close) const
+{
+    const bool escapes = hasBackslashEscapes(from);
+    // A doubled quote stands for itself. SQLite's bracket can't be doubled.
+    const bool doubles = close != u']' || m_dialect == SqlDialect::SqlServer;
+    for (qsizetype i = from + 1; i < m_sql.size(); ++i) {
+        if (escapes && m_sql.at(i) == u'\\') {
+            ++i;
+            continue;
+        }
+        if (m_sql.at(i) != close)
+            continue;
+        if (!doubles || i + 1 == m_sql.size() || m_sql.at(i + 1) != close)
+            return i + 1;
+        ++i;
+    }
+    return m_sql.size();
+}
+
+// $$…$$ or $tag$…$tag$; `from` where none begins.
+qsizetype SqlScanner::endOfDollarQuoted(qsizetype from) const
+{
+    if (m_dialect != SqlDialect::PostgreSql || m_sql.at(from) != u'$')
+        return from;
+    qsizetype end = from + 1;
+    while (end < m_sql.size() && (isWordPart(m_sql.at(end)) && m_sql.at(end) != u'$'))
+        ++end;
+    const bool isTag = end < m_sql.size() && m_sql.at(end) == u'$' && !m_sql.at(from + 1).isDigit();
+    if (!isTag)
+        return from;
+    const QStringView tag = QStringView(m_sql).sliced(from, end + 1 - from);
+    const qsizetype close = m_sql.indexOf(tag, end + 1);
+    return close < 0 ? m_sql.size() : close + tag.size();
+}
+
+QStringView SqlScanner::text(qsizetype index) const
+{
+    return QStringView(m_sql).sliced(at(index).start, at(index).length);
+}
+
+QString SqlScanner::withoutSemicolon() const
+{
+    return isSymbol(count() - 1, u';') ? m_sql.left(at(count() - 1).start) : m_sql;
+}
+
+bool SqlScanner::isWord(qsizetype index, QStringView word) const
+{
+    return index >= 0 && index < count() && at(index).kind == SqlToken::Kind::Word &&
+           text(index).compare(word, Qt::CaseInsensitive) == 0;
+}
+
+bool SqlScanner::isSymbol(qsizetype index, QChar symbol) const
+{
+    return index >= 0 && index < count() && at(index).kind == SqlToken::Kind::Symbol &&
+           text(index).front() == symbol;
+}
+
+bool SqlScanner::isName(qsizetype index) const
+{
+    return index >= 0 && index < count() &&
+           (at(index).kind == SqlToken::Kind::Word || at(index).kind == SqlToken::Kind::QuotedName);
+}
+
+QString SqlScanner::name(qsizetype index) const
+{
+    const QStringView token = text(index);
+    if (at(index).kind != SqlToken::Kind::QuotedName)
+        return token.toString();
+    const QString close(closingOf(token.front()));
+    return token.sliced(1, token.size() - (token.size() > 1 ? 2 : 1))
+        .toString()
+        .replace(close + close, close);
+}
+
+} // namespace ADODB
