@@ -3,8 +3,6 @@
 #include "ado/Recordset.h"
 #include "ado/automation/RecordsetObject.h"
 
-#include <QtCore/QPointer>
-
 namespace ADODB {
 
 Adodc::Adodc(QObject *parent) : QObject(parent) {}
@@ -24,16 +22,19 @@ void Adodc::PutRecordset(std::shared_ptr<ADODB::Recordset> recordset)
     m_recordset = recordset;
     if (m_recordset)
         m_recordset->AddObserver(this);
-    // Whoever is told may put another one, close this one or delete the data control.
-    const QPointer<Adodc> alive(this);
-    const auto isStillOpen = [&] {
-        return alive && m_recordset && m_recordset == recordset && recordset->State() == adStateOpen;
+    const Notifications::Hold hold(m_notifications);
+    m_notifications.send(this, [this] { Q_EMIT RecordsetReplaced(); });
+    // Whoever hears of it first may put another one or close this one.
+    const auto sendWhileOpen = [&](void (Adodc::*signal)(EventReasonEnum), EventReasonEnum reason) {
+        m_notifications.send(this, [this, recordset, signal, reason] {
+            if (m_recordset == recordset && recordset->State() == adStateOpen)
+                Q_EMIT(this->*signal)(reason);
+        });
     };
-    Q_EMIT RecordsetReplaced();
-    if (isStillOpen())
-        Q_EMIT RecordsetChangeComplete(adRsnRequery);
-    if (isStillOpen())
-        Q_EMIT MoveComplete(adRsnMove);
+    if (m_recordset) {
+        sendWhileOpen(&Adodc::RecordsetChangeComplete, adRsnRequery);
+        sendWhileOpen(&Adodc::MoveComplete, adRsnMove);
+    }
 }
 
 QObject *Adodc::recordsetObject() const
@@ -41,19 +42,26 @@ QObject *Adodc::recordsetObject() const
     return m_recordset ? automation(m_recordset) : nullptr;
 }
 
+void Adodc::send(void (Adodc::*signal)(EventReasonEnum), EventReasonEnum reason)
+{
+    if (signalsBlocked())
+        return;
+    m_notifications.send(this, [this, signal, reason] { Q_EMIT (this->*signal)(reason); });
+}
+
 void Adodc::moveComplete(EventReasonEnum reason)
 {
-    Q_EMIT MoveComplete(reason);
+    send(&Adodc::MoveComplete, reason);
 }
 
 void Adodc::recordChangeComplete(EventReasonEnum reason)
 {
-    Q_EMIT RecordChangeComplete(reason);
+    send(&Adodc::RecordChangeComplete, reason);
 }
 
 void Adodc::recordsetChangeComplete(EventReasonEnum reason)
 {
-    Q_EMIT RecordsetChangeComplete(reason);
+    send(&Adodc::RecordsetChangeComplete, reason);
 }
 
 } // namespace ADODB

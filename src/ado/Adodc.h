@@ -1,6 +1,7 @@
 #pragma once
 
 #include "KovaExport.h"
+#include "ado/Notifications.h"
 #include "ado/RecordsetObserver.h"
 
 #include <memory>
@@ -29,6 +30,8 @@ public:
     void PutRecordset(std::shared_ptr<ADODB::Recordset> recordset);
     // The same one by ADO's member names; see automation().
     QObject *recordsetObject() const;
+    // What its signals wait for while somebody changes several things at once.
+    Notifications &notifications() { return m_notifications; }
 
 Q_SIGNALS:
     // See RecordsetObserver::moveComplete.
@@ -45,7 +48,10 @@ private:
     void recordChangeComplete(EventReasonEnum reason) override;
     void recordsetChangeComplete(EventReasonEnum reason) override;
 
+    void send(void (Adodc::*signal)(EventReasonEnum), EventReasonEnum reason);
+
     std::shared_ptr<ADODB::Recordset> m_recordset;
+    Notifications m_notifications;
 };
 
 } // namespace ADODB

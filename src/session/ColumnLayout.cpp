@@ -1,8 +1,7 @@
 #include "session/ColumnLayout.h"
 
-#include "grid/FlexGrid.h"
-#include "grid/Twips.h"
 #include "query/colShowSQLSentences.h"
+#include "session/ColumnView.h"
 
 #include <QtCore/QSet>
 
@@ -16,7 +15,7 @@ constexpr int ScrollBarMargin = 260; // twips, kept free when columns are fitted
 
 } // namespace
 
-ColumnLayout::ColumnLayout(VSFlexGrid &grid, colShowSQLSentences &history) : m_grid(grid), m_history(history)
+ColumnLayout::ColumnLayout(ColumnView &grid, colShowSQLSentences &history) : m_grid(grid), m_history(history)
 {
 }
 
@@ -41,12 +40,13 @@ bool ColumnLayout::RecordShowSQL(const QString &strSQL, qint32 lngIsShowAllField
 void ColumnLayout::SaveColumnWidths(qint32 mode)
 {
     colDataFields &fields = m_history.DataFields();
+    const QStringList headings = m_grid.Headings();
     for (int col = 1; col < m_grid.Cols(); ++col) {
         int width = m_grid.ColWidth(col);
-        if (width == FlexGrid::UseDefaultWidth || (width == 0 && mode == 1))
-            width = FlexGrid::DefaultColWidth;
+        if (width == ColumnView::UseDefaultWidth || (width == 0 && mode == 1))
+            width = ColumnView::DefaultColWidth;
         QString key;
-        if (width >= 1 && fields.GetSelFieldKey(m_grid.TextMatrix(0, col), key))
+        if (width >= 1 && fields.GetSelFieldKey(headings.at(col - 1), key))
             fields.Update(key, [width](clsDataField &field) { field.FieldWidth = width; });
     }
 }
@@ -54,13 +54,12 @@ void ColumnLayout::SaveColumnWidths(qint32 mode)
 void ColumnLayout::ShowPartFieldColumns(qint32 mode)
 {
     const colDataFields &fields = m_history.DataFields();
-    bool hasPartField = false;
-    for (int col = 1; col < m_grid.Cols() && !hasPartField; ++col)
-        hasPartField = m_history.IsSelFieldPartField(m_grid.TextMatrix(0, col));
-    if (!hasPartField)
+    const QStringList headings = m_grid.Headings();
+    if (std::none_of(headings.cbegin(), headings.cend(),
+                     [this](const QString &name) { return m_history.IsSelFieldPartField(name); }))
         return;
     for (int col = 1; col < m_grid.Cols(); ++col) {
-        const QString name = m_grid.TextMatrix(0, col);
+        const QString &name = headings.at(col - 1);
         if (!m_history.IsSelFieldPartField(name)) {
             m_grid.PutColWidth(col, 0);
         } else if (mode == 1) {
@@ -74,12 +73,13 @@ void ColumnLayout::ShowPartFieldColumns(qint32 mode)
 void ColumnLayout::ShowAllFieldColumns()
 {
     const colDataFields &fields = m_history.DataFields();
+    const QStringList headings = m_grid.Headings();
     for (int col = 1; col < m_grid.Cols(); ++col) {
-        const clsDataField *field = fields.Find(m_grid.TextMatrix(0, col));
+        const clsDataField *field = fields.Find(headings.at(col - 1));
         int width = field ? field->FieldWidth : 0;
         const bool isHiddenForGood = !field && m_grid.ColWidth(col) == 0;
-        if (width == FlexGrid::UseDefaultWidth || isHiddenForGood)
-            width = FlexGrid::DefaultColWidth;
+        if (width == ColumnView::UseDefaultWidth || isHiddenForGood)
+            width = ColumnView::DefaultColWidth;
         if (width > 0)
             m_grid.PutColWidth(col, width);
     }
@@ -97,19 +97,15 @@ QStringList ColumnLayout::fieldsShownBy(qint32 lngIsShowAllFields) const
 
 bool ColumnLayout::hasColumnsFor(const QStringList &fields) const
 {
-    QSet<QString> headings;
-    for (int col = 1; col < m_grid.Cols(); ++col)
-        headings.insert(m_grid.TextMatrix(0, col));
+    const QStringList shown = m_grid.Headings();
+    const QSet<QString> headings(shown.cbegin(), shown.cend());
     return std::all_of(fields.cbegin(), fields.cend(),
                        [&](const QString &field) { return headings.contains(field); });
 }
 
 bool ColumnLayout::columnsFit() const
 {
-    int sum = 0;
-    for (int col = 0; col < m_grid.Cols(); ++col)
-        sum += m_grid.ColWidthInUse(col);
-    return sum <= Twips::fromPixels(m_grid.width(), m_grid);
+    return m_grid.widthOfColumns() <= m_grid.width();
 }
 
 std::optional<double> ColumnLayout::shareOfWidth() const
@@ -117,20 +113,20 @@ std::optional<double> ColumnLayout::shareOfWidth() const
     qint32 shown = 0;
     if (!m_history.GetCurrShowFieldsCount(shown) || shown < 1)
         return std::nullopt;
-    const int room = Twips::fromPixels(m_grid.width(), m_grid) - ScrollBarMargin - RowHeadingMargin;
+    const int room = m_grid.width() - ScrollBarMargin - RowHeadingMargin;
     if (room < shown)
         return std::nullopt; // no room at all: better too wide than gone
     return static_cast<double>(room) / shown;
 }
 
-void ColumnLayout::fitColumns()
+void ColumnLayout::fitColumns(int (*round)(double), bool showsHidden)
 {
     const std::optional<double> share = shareOfWidth();
     if (!share)
         return;
     for (int col = 1; col < m_grid.Cols(); ++col) {
-        if (m_grid.ColWidth(col) != 0)
-            m_grid.PutColWidth(col, static_cast<int>(*share));
+        if (showsHidden || m_grid.ColWidth(col) != 0)
+            m_grid.PutColWidth(col, round(*share));
     }
 }
 

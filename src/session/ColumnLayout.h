@@ -7,7 +7,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-class VSFlexGrid;
+class ColumnView;
 class colShowSQLSentences;
 
 // The grid has a column for each field of the result; which ones are seen and how wide they are stands in
@@ -20,7 +20,7 @@ public:
     static constexpr int RowHeadingMargin = 600;
 
     // Both must outlive this object, which is made for the moment.
-    ColumnLayout(VSFlexGrid &grid, colShowSQLSentences &history);
+    ColumnLayout(ColumnView &grid, colShowSQLSentences &history);
 
     // Records the statement that the grid shows and lays its columns out: all fields when
     // `lngIsShowAllFields` is not 0, else the part fields. `vSaveWidths` other than 0 takes the grid's
@@ -45,15 +45,15 @@ public:
     // Whether each of these fields has a column, seen or not.
     bool hasColumnsFor(const QStringList &fields) const;
 
-    // What each column gets of the grid's width when the fields that the history says are shown share it, in
-    // twips; nothing when none is shown or there is no room.
-    std::optional<double> shareOfWidth() const;
-    // Gives each column that is not hidden its share.
-    void fitColumns();
+    // Gives each column that is not hidden an equal share of the grid's width, `round`ed to whole twips; the
+    // hidden ones as well when `showsHidden`. Nothing changes when no field is shown or there is no room.
+    void fitColumns(int (*round)(double twips), bool showsHidden = false);
     bool columnsFit() const;
 
 private:
-    VSFlexGrid &m_grid;
+    std::optional<double> shareOfWidth() const;
+
+    ColumnView &m_grid;
     colShowSQLSentences &m_history;
 };
 

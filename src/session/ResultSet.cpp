@@ -9,7 +9,6 @@
 #include "sql/AllDBType.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QPointer>
 
 #include <utility>
 
@@ -33,10 +32,12 @@ std::shared_ptr<ADODB::Recordset> closedByLastHolder(std::shared_ptr<ADODB::Reco
 
 } // namespace
 
-ResultSet::ResultSet(ADODB::Adodc &adodc) : m_adodc(adodc) {}
+ResultSet::ResultSet(ADODB::Adodc *adodc) : m_adodc(adodc) {}
+
+ResultSet::~ResultSet() = default;
 
 ResultSet::Opened ResultSet::open(const QString &connectionString, const QString &statement, qint32 dbType,
-                                  const std::function<bool(qint64)> &progress)
+                                  const Progress &progress)
 {
     auto connection = newConnection(dbType);
     auto recordset = dbType == dbAccess ? std::make_shared<ADODB::Recordset>()
@@ -54,15 +55,18 @@ ResultSet::Opened ResultSet::open(const QString &connectionString, const QString
 
 void ResultSet::replaceBy(Opened opened)
 {
-    const QPointer<ADODB::Adodc> alive(&m_adodc);
     close();
-    if (!alive) // the host has deleted the control when it was told
-        return;
+    borrow(std::move(opened));
+    if (m_adodc)
+        m_adodc->PutRecordset(m_recordset);
+}
+
+void ResultSet::borrow(Opened opened)
+{
     m_connectionString = std::move(opened.connectionString);
     m_connection = std::move(opened.connection);
     m_recordset = std::move(opened.recordset);
     m_engine = EngineOf(m_connection);
-    m_adodc.PutRecordset(m_recordset);
 }
 
 std::shared_ptr<ADODB::Connection> ResultSet::newConnection(qint32 dbType)
@@ -79,23 +83,18 @@ bool ResultSet::isConnectedTo(const QString &connectionString) const
 
 void ResultSet::close()
 {
-    const auto connection = m_connection;
     if (isOpen())
-        m_recordset->Close(); // and that is told, so this object may be gone
-    if (connection && connection->State() != ADODB::adStateClosed)
-        connection->Close();
+        m_recordset->Close();
+    if (m_connection && m_connection->State() != ADODB::adStateClosed)
+        m_connection->Close();
 }
 
 void ResultSet::release()
 {
-    const QPointer<ADODB::Adodc> alive(&m_adodc);
     close();
-    if (!alive)
-        return;
-    m_connectionString.clear();
-    m_connection.reset();
-    m_recordset.reset();
-    m_adodc.PutRecordset(nullptr);
+    borrow({});
+    if (m_adodc)
+        m_adodc->PutRecordset(nullptr);
 }
 
 bool ResultSet::isOpen() const

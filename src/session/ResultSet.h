@@ -2,6 +2,7 @@
 
 #include "sql/Engine.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QString>
 
 #include <functional>
@@ -20,8 +21,9 @@ namespace KOVAVSFDataGridLib {
 class ResultSet
 {
 public:
-    // `adodc` passes the recordset's notifications on; it must outlive this object.
-    explicit ResultSet(ADODB::Adodc &adodc);
+    // `adodc` passes the recordset's notifications on; it may be null, and may go before this object does.
+    explicit ResultSet(ADODB::Adodc *adodc);
+    ~ResultSet();
 
     // A result that was opened beside the shown one, to take its place.
     struct Opened
@@ -32,17 +34,19 @@ public:
     };
     // Opens `statement` through a new connection and touches nothing else; throws ADODB::Error. `dbType` is
     // AllDBType; `progress` as in ADODB::Recordset::SetProgress.
+    using Progress = std::function<bool(qint64 rowsRead)>;
     static Opened open(const QString &connectionString, const QString &statement, qint32 dbType,
-                       const std::function<bool(qint64 rowsRead)> &progress);
-    // Closes the old result and shows the new one; whoever listens to the data control is told of both, and
-    // may by then have deleted the control and this object with it.
+                       const Progress &progress);
+    // Closes the old result and takes the new one in its place. The data control reports both.
     void replaceBy(Opened opened);
+    // Takes a result that belongs to somebody else, and leaves the old one open.
+    void borrow(Opened opened);
     // A closed connection for a database type: plain ones for Access, the others from the factory.
     static std::shared_ptr<ADODB::Connection> newConnection(qint32 dbType);
 
-    // Closes the recordset and the connection, if open; that is told as well, as by release().
+    // Closes the recordset and the connection, if open; the data control reports it.
     void close();
-    // Closes them and lets go of both, and of the connection string.
+    // Closes and forgets them, and the connection string.
     void release();
 
     bool isOpen() const;
@@ -55,7 +59,7 @@ public:
     Engine engine() const { return m_engine; }
 
 private:
-    ADODB::Adodc &m_adodc;
+    QPointer<ADODB::Adodc> m_adodc;
     std::shared_ptr<ADODB::Connection> m_connection;
     Engine m_engine = Engine::Other;
     QString m_connectionString;

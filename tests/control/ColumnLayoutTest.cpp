@@ -1,8 +1,11 @@
 // How the widths of the grid's columns and those in the field catalogue are kept in step.
 #include "session/ColumnLayout.h"
+#include "control/parts/GridToolbar.h"
+#include "control/parts/GridWindow.h"
 #include "grid/FlexGrid.h"
 #include "grid/TextCells.h"
 #include "query/colShowSQLSentences.h"
+#include "session/WindowRules.h"
 
 #include <gtest/gtest.h>
 
@@ -28,6 +31,17 @@ struct OneTable final : FieldReader
         }
         return fields;
     }
+};
+
+// A window with nothing but a grid.
+struct OneGrid final : GridWindow
+{
+    using GridWindow::GridWindow;
+    void showRecords(std::shared_ptr<ADODB::Recordset>, qint64, int) override {}
+    void showPageNumber(int, qint64) override {}
+    void showTypedPage(const QString &) override {}
+    void refreshStatus() override {}
+    std::unique_ptr<OpeningProgress> beginOpening() override { return nullptr; }
 };
 
 struct Layout : testing::Test
@@ -70,7 +84,9 @@ struct Layout : testing::Test
     OneTable reader;
     colShowSQLSentences history{&reader};
     VSFlexGrid grid;
-    ColumnLayout columns{grid, history};
+    GridToolbar toolbar;
+    OneGrid window{grid, toolbar};
+    ColumnLayout columns{window, history};
 };
 
 } // namespace
@@ -184,18 +200,18 @@ TEST_F(Layout, FittingSharesTheWidthAmongShownColumnsAndLeavesHiddenOnes)
 {
     ASSERT_TRUE(record(Statement, 1, 1, {}));
     grid.PutColWidth(2, 0);
-    columns.fitColumns();
+    columns.fitColumns(ControlRules.roundWidth);
     const int share = (1000 * 15 - 260 - 600) / 3;
     EXPECT_EQ(widths(), QList<int>({share, 0, share}));
 }
 
 TEST_F(Layout, FittingIntoNoRoomOrWithoutAHistoryChangesNothing)
 {
-    columns.fitColumns();
+    columns.fitColumns(ControlRules.roundWidth);
     EXPECT_EQ(widths(), QList<int>({-1, -1, -1}));
     ASSERT_TRUE(record(Statement, 1, 1, {}));
     grid.resize(50, 300);
-    columns.fitColumns();
+    columns.fitColumns(ControlRules.roundWidth);
     EXPECT_EQ(widths(), QList<int>({960, 960, 960}));
     EXPECT_FALSE(columns.columnsFit());
 }

@@ -93,13 +93,13 @@ TEST_F(ThreeTierFile, MayNameTheMiddleTier)
 {
     const QString text = u"Driver={PostgreSQL Unicode};Server=pool;Options="_s + QString(300, u'x');
     write("[Use3Tier]\nMERIX=YES\nServer = pool \nPort=6432\nConnection=" + text.toUtf8() + "\n");
-    EXPECT_EQ(readMiddleTier().server, u"pool"_s);
-    EXPECT_EQ(readMiddleTier().port, u"6432"_s);
-    EXPECT_EQ(readMiddleTier().connection, text) << "whole, however long";
+    EXPECT_EQ(readThreeTierSettings().tier.server, u"pool"_s);
+    EXPECT_EQ(readThreeTierSettings().tier.port, u"6432"_s);
+    EXPECT_EQ(readThreeTierSettings().tier.connection, text) << "whole, however long";
 
     write("[Use3Tier]\nMERIX=YES\n[Other]\nServer=pool\n");
-    EXPECT_TRUE(readMiddleTier().server.isEmpty());
-    EXPECT_TRUE(readMiddleTier().connection.isEmpty());
+    EXPECT_TRUE(readThreeTierSettings().tier.server.isEmpty());
+    EXPECT_TRUE(readThreeTierSettings().tier.connection.isEmpty());
 }
 
 TEST_F(ThreeTierFile, LoadsGoThroughTheMiddleTierItNames)

@@ -69,7 +69,7 @@ struct Reader : testing::Test
     TestDatabase database{u"CREATE TABLE T (A TEXT, B INTEGER, C BLOB); INSERT INTO T VALUES ('x',1,NULL)"_s};
     const QString here = database.connectionString();
     ADODB::Adodc adodc;
-    ResultSet result{adodc};
+    ResultSet result{&adodc};
     ConnectionFieldReader reader{result};
 };
 

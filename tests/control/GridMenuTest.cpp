@@ -1,11 +1,12 @@
 // When the grid asks for its menu.
 #include "GridFixture.h"
+#include "control/face/ControlWindow.h"
 #include "control/input/GridEvents.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridToolbar.h"
-#include "control/parts/PageView.h"
 #include "grid/FlexGrid.h"
-#include "session/ResultSet.h"
+#include "session/DetachedWindow.h"
+#include "session/Session.h"
 
 #include <QtTest/QSignalSpy>
 
@@ -21,6 +22,7 @@ struct GridMenu : testing::Test
     GridMenu()
     {
         window.resize(600, 400);
+        shown.setSession(*session);
         parts.layOut(600, 400);
         window.show();
         QObject::connect(&control, &KOVAVSFDataGrid::DataMouseUp, &window,
@@ -29,9 +31,9 @@ struct GridMenu : testing::Test
 
     void fill(const QString &statement)
     {
-        result.replaceBy(ResultSet::open(database.connectionString(), statement, 1, {}));
-        pages.setCurrentPage(1);
-        pages.fill({});
+        session->result().replaceBy(ResultSet::open(database.connectionString(), statement, 1, {}));
+        session->setPage(1);
+        session->fillPage();
     }
     QPoint rowPlace(int row) const
     {
@@ -46,9 +48,10 @@ struct GridMenu : testing::Test
     KOVAVSFDataGrid control;
     QWidget window;
     GridParts parts{window};
-    ResultSet result{*parts.Adodc1};
-    PageView pages{parts, result};
-    GridEvents events{control, parts, result, pages};
+    ControlWindow shown{window, parts};
+    std::shared_ptr<Session> session = std::make_shared<Session>(
+        shown, DetachedWindow::instance(), DetachedWindow::instance(), ControlRules, parts.Adodc1);
+    GridEvents events{control, parts, *session};
     QSignalSpy menus{&events, &GridEvents::menuWanted};
     qsizetype menusAtMouseUp = -1;
 };
@@ -93,7 +96,7 @@ TEST_F(GridMenu, DoesNotComeOnAnEmptyOrClosedResult)
     fill(u"select ID from T where ID > 5"_s);
     click(Qt::RightButton, {10, 10});
     fill(u"select ID from T"_s);
-    result.close();
+    session->result().close();
     click(Qt::RightButton, rowPlace(1));
     EXPECT_EQ(menus.count(), 0);
 }

@@ -23,9 +23,10 @@ namespace {
 
 struct HandBack : LoadedParts
 {
-    // Opens the viewer, lets the user do something in it, and closes it.
-    std::optional<FullScreenOutcome> visit(const std::function<void(const ViewerUser &)> &doSomething)
+    // Opens the viewer, lets the user do something in it, and closes it. False when the visit ended before.
+    bool visit(const std::function<void(const ViewerUser &)> &doSomething)
     {
+        host.filtersWritten = 0;
         QTimer::singleShot(0, &control, [this, doSomething] {
             QWidget *viewer = QApplication::activeModalWidget();
             ASSERT_TRUE(viewer);
@@ -33,24 +34,16 @@ struct HandBack : LoadedParts
             doSomething(ViewerUser(*viewer));
             viewer->close();
         });
-        return ShowFullScreen(request());
+        return showFullScreen();
     }
-
-    FullScreenRequest request()
+    bool showFullScreen()
     {
-        return {control,
-                parts,
-                result,
-                pages,
-                manager,
-                database.connectionString(),
-                dbAccess,
-                statement,
-                u"ID"_s,
-                {},
-                [this](QWidget *) { return condition; }};
+        return ShowFullScreen(control, *session, parts, [this](QWidget *) { return askCondition(); });
     }
+    bool isRequeried() const { return host.filtersWritten > 0; }
+    bool isAll() const { return session->fieldView() == FieldView::All; }
 
+    std::function<QString()> askCondition = [this] { return condition; };
     QString row(int row) const
     {
         QStringList texts;
@@ -69,9 +62,9 @@ struct HandBack : LoadedParts
 TEST_F(HandBack, AnEmptyResultIsNotShown)
 {
     load(u"select * from T where ID > 99"_s);
-    EXPECT_FALSE(ShowFullScreen(request()));
+    EXPECT_FALSE(showFullScreen());
     result.close();
-    EXPECT_FALSE(ShowFullScreen(request()));
+    EXPECT_FALSE(showFullScreen());
 }
 
 TEST_F(HandBack, LookingAroundMovesNothing)
@@ -81,16 +74,16 @@ TEST_F(HandBack, LookingAroundMovesNothing)
     parts.vsfgDataGrid->PutRow(3);
     QSignalSpy moves(parts.Adodc1, &ADODB::Adodc::MoveComplete);
     const auto before = result.recordset();
-    const auto outcome = visit([](const ViewerUser &user) {
+    const bool isBack = visit([](const ViewerUser &user) {
         EXPECT_EQ(user.grid().Row(), 3);
         QTest::keyClick(&user.grid(), Qt::Key_Down);
         user.press(u"Next"_s);
     });
-    ASSERT_TRUE(outcome);
+    ASSERT_TRUE(isBack);
     EXPECT_EQ(visits, 1);
-    EXPECT_TRUE(outcome->isAll);
-    EXPECT_FALSE(outcome->isRequeried);
-    EXPECT_EQ(outcome->statement, statement);
+    EXPECT_TRUE(isAll());
+    EXPECT_FALSE(isRequeried());
+    EXPECT_EQ(session->statement(), statement);
     EXPECT_EQ(result.recordset(), before);
     EXPECT_EQ(position(), 3);
     EXPECT_EQ(parts.vsfgDataGrid->Row(), 3);
@@ -113,9 +106,9 @@ TEST_F(HandBack, ThePageGoesAlong)
     load(
         u"with recursive N(n) as (select 1 union all select n + 1 from N where n < 1500000) select n as ID from N"_s);
     QSignalSpy moves(parts.Adodc1, &ADODB::Adodc::MoveComplete);
-    const auto outcome = visit([](const ViewerUser &user) { user.press(u"Last"_s); });
-    EXPECT_FALSE(outcome->isRequeried);
-    EXPECT_EQ(pages.currentPage(), 2);
+    visit([](const ViewerUser &user) { user.press(u"Last"_s); });
+    EXPECT_FALSE(isRequeried());
+    EXPECT_EQ(session->page(), 2);
     EXPECT_EQ(parts.txtPage->text(), u"2"_s);
     EXPECT_EQ(row(1), u"1000000"_s);
     EXPECT_EQ(position(), 1000000);
@@ -124,7 +117,7 @@ TEST_F(HandBack, ThePageGoesAlong)
         EXPECT_EQ(user.label(), u"第2页共2页"_s);
         user.goTo(u"1"_s);
     });
-    EXPECT_EQ(pages.currentPage(), 1);
+    EXPECT_EQ(session->page(), 1);
     EXPECT_EQ(row(1), u"1"_s);
 }
 
@@ -133,12 +126,12 @@ TEST_F(HandBack, AnotherResultIsTakenOver)
     load(u"select * from T"_s);
     QSignalSpy replaced(parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete);
     condition = u"Name like 'Anna'"_s;
-    const auto outcome = visit([this](const ViewerUser &user) {
+    visit([this](const ViewerUser &user) {
         user.press(u"Filter"_s);
         EXPECT_EQ(row(1), user.row(1)) << "the control behind the viewer shows the same result";
     });
-    EXPECT_TRUE(outcome->isRequeried);
-    EXPECT_EQ(outcome->statement, latestStatement());
+    EXPECT_TRUE(isRequeried());
+    EXPECT_EQ(session->statement(), latestStatement());
     EXPECT_EQ(result.recordset()->RecordCount(), 2);
     EXPECT_EQ(parts.vsfgDataGrid->model()->rowCount(), 2);
     EXPECT_EQ(row(2), u"4 Anna 40 2004-04-04"_s);
@@ -154,16 +147,17 @@ TEST_F(HandBack, AnEmptyResultIsTakenOverToo)
     condition = u"ID > 99"_s;
     visit([](const ViewerUser &user) { user.press(u"Filter"_s); });
     EXPECT_EQ(parts.vsfgDataGrid->model()->rowCount(), 0);
-    EXPECT_EQ(pages.currentPage(), 0);
+    EXPECT_EQ(session->page(), 0);
     EXPECT_EQ(row(0), u"ID Name Price Born"_s);
 }
 
 TEST_F(HandBack, ThePartFieldViewGoesAlong)
 {
     load(u"select * from T"_s, u"select Name, Born from T"_s);
-    const auto outcome = visit([](const ViewerUser &user) { user.press(u"Part"_s); });
-    EXPECT_FALSE(outcome->isAll);
-    EXPECT_FALSE(outcome->isRequeried);
+    const bool isBack = visit([](const ViewerUser &user) { user.press(u"Part"_s); });
+    EXPECT_TRUE(isBack);
+    EXPECT_FALSE(isAll());
+    EXPECT_FALSE(isRequeried());
     EXPECT_TRUE(parts.Toolbar1->isButtonPressed(u"Part"_s));
     EXPECT_EQ(row(0), u"Name Born"_s);
 
@@ -179,8 +173,9 @@ TEST_F(HandBack, TheChosenFieldsGoAlong)
 {
     load(u"select * from T"_s);
     chooser.answer = u"[Born],[ID]"_s;
-    const auto outcome = visit([](const ViewerUser &user) { user.press(u"SelField"_s); });
-    EXPECT_FALSE(outcome->isAll);
+    const bool isBack = visit([](const ViewerUser &user) { user.press(u"SelField"_s); });
+    EXPECT_TRUE(isBack);
+    EXPECT_FALSE(isAll());
     EXPECT_EQ(row(0), u"Born ID"_s);
     EXPECT_EQ(row(1), u"2001-01-01 1"_s);
 }
@@ -189,9 +184,9 @@ TEST_F(HandBack, AColumnOfAnotherFieldIsNotHiddenByTheOneThatWasInItsPlace)
 {
     load(u"select * from T"_s, u"select Name from T"_s);
     forgetWidths();
-    ColumnLayout(*parts.vsfgDataGrid, history()).ShowPartFieldColumns(0);
+    session->columns().ShowPartFieldColumns(0);
     ASSERT_EQ(row(0), u"Name"_s);
-    parts.Toolbar1->setButtonPressed(u"Part"_s, true);
+    session->setFieldView(FieldView::Part);
     chooser.answer = u"[Born],[ID]"_s;
     visit([](const ViewerUser &user) { user.press(u"SelField"_s); });
     EXPECT_EQ(row(0), u"Born ID"_s);
@@ -241,12 +236,12 @@ TEST_F(HandBack, TheSelectionDialogsStandAboveTheViewer)
 TEST_F(HandBack, AHostThatReloadsMeanwhileEndsTheVisit)
 {
     load(u"select * from T"_s);
-    const auto outcome = visit([this](const ViewerUser &user) {
+    const bool isBack = visit([this](const ViewerUser &user) {
         result.replaceBy(ResultSet::open(database.connectionString(), u"select Name from T"_s, dbAccess, {}));
         EXPECT_FALSE(user.grid().isVisible());
         user.toolbar().findChild<QAction *>(u"All"_s)->trigger();
     });
-    EXPECT_FALSE(outcome);
+    EXPECT_FALSE(isBack);
     EXPECT_EQ(result.recordset()->Fields().Count(), 1) << "what the host opened stays";
     EXPECT_EQ(history().Count(), 1);
 }
@@ -254,14 +249,13 @@ TEST_F(HandBack, AHostThatReloadsMeanwhileEndsTheVisit)
 TEST_F(HandBack, AHostThatReloadsBehindTheFilterDialogEndsTheVisit)
 {
     load(u"select * from T"_s);
-    FullScreenRequest reloading = request();
-    reloading.askCondition = [this](QWidget *) {
+    askCondition = [this] {
         result.replaceBy(ResultSet::open(database.connectionString(), u"select Name from T"_s, dbAccess, {}));
         return u"ID > 1"_s;
     };
     QTimer::singleShot(0, &control,
                        [] { ViewerUser(*QApplication::activeModalWidget()).press(u"Filter"_s); });
-    EXPECT_FALSE(ShowFullScreen(reloading));
+    EXPECT_FALSE(showFullScreen());
     EXPECT_EQ(result.recordset()->RecordCount(), 5);
     EXPECT_EQ(history().Count(), 1);
 }
@@ -271,23 +265,13 @@ TEST_F(HandBack, AControlThatIsDestroyedMeanwhileTakesTheViewerAlong)
     load(u"select * from T"_s);
     auto *form = new QWidget;
     GridParts others(*form);
-    ResultSet otherResult(*others.Adodc1);
-    PageView otherPages(others, otherResult);
-    otherResult.replaceBy(ResultSet::open(database.connectionString(), statement, dbAccess, {}));
-    otherPages.setCurrentPage(1);
-    otherPages.fill({});
-    otherResult.close();
-    otherResult.replaceBy(ResultSet::open(database.connectionString(), statement, dbAccess, {}));
+    ControlWindow otherWindow(*form, others);
+    const auto other = std::make_shared<Session>(otherWindow, chooser, host, ControlRules, others.Adodc1);
+    otherWindow.setSession(*other);
+    other->result().replaceBy(ResultSet::open(database.connectionString(), statement, dbAccess, {}));
+    other->setPage(1);
+    other->fillPage();
+    QObject::connect(form, &QObject::destroyed, form, [&] { other->detach(); });
     QTimer::singleShot(0, form, [form] { delete form; });
-    EXPECT_FALSE(ShowFullScreen({*form,
-                                 others,
-                                 otherResult,
-                                 otherPages,
-                                 manager,
-                                 database.connectionString(),
-                                 dbAccess,
-                                 statement,
-                                 {},
-                                 {},
-                                 [](QWidget *) { return QString(); }}));
+    EXPECT_FALSE(ShowFullScreen(*form, *other, others, [](QWidget *) { return QString(); }));
 }

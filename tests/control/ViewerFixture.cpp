@@ -16,16 +16,16 @@ using namespace Qt::StringLiterals;
 
 namespace KovaTest {
 
-std::optional<QString> PreparedChooser::ChooseVisibleFields(const QString &, const QStringList &allFields,
-                                                            const QStringList &partFields)
+std::optional<QString> PreparedUser::ChooseVisibleFields(const QString &, const QStringList &allFields,
+                                                         const QStringList &partFields)
 {
     fields = allFields;
     chosen = partFields;
     return answer;
 }
 
-std::optional<QString> PreparedChooser::ChooseSort(const QString &, const QStringList &allFields,
-                                                   const QStringList &sortTerms)
+std::optional<QString> PreparedUser::ChooseSort(const QString &, const QStringList &allFields,
+                                                const QStringList &sortTerms)
 {
     fields = allFields;
     chosen = sortTerms;
@@ -37,6 +37,7 @@ LoadedParts::LoadedParts()
                "INSERT INTO T VALUES (1,'Anna',10,'2001-01-01'),(2,'Berta',NULL,'2002-02-02'),"
                "(3,'O''Neil',30,'2003-03-03'),(4,'Anna',40,'2004-04-04'),(5,NULL,50,'2005-05-05')"_s)
 {
+    window.setSession(*session);
     control.resize(800, 500);
     parts.layOut(800, 500);
     SharedValues::instance() = {};
@@ -46,6 +47,11 @@ void LoadedParts::load(const QString &sql, const QString &partStatement, const Q
 {
     const QString connection = database.connectionString();
     statement = sql;
+    session->texts.connectionString = connection;
+    session->texts.sqlShow = sql;
+    session->texts.sqlSort = sort;
+    session->setStatement(sql);
+    session->setFieldView(FieldView::All);
     result.replaceBy(ResultSet::open(connection, statement, dbAccess, {}));
     filter.SetDBType(dbAccess);
     filter.SetDBConnString(connection);
@@ -54,11 +60,10 @@ void LoadedParts::load(const QString &sql, const QString &partStatement, const Q
     filter.SetShowFields(partStatement);
     filter.SetOrderFields(sort);
     filter.SetSQLInitData();
-    pages.setCurrentPage(1);
-    pages.fill({});
-    ColumnLayout(*parts.vsfgDataGrid, history())
-        .RecordShowSQL(statement, 1, 1, colShowSQLSentences::NoPartField(), colShowSQLSentences::NoSort(),
-                       connection);
+    session->setPage(1);
+    session->fillPage();
+    session->columns().RecordShowSQL(statement, 1, 1, colShowSQLSentences::NoPartField(),
+                                     colShowSQLSentences::NoSort(), connection);
 }
 
 void LoadedParts::forgetWidths()
@@ -160,19 +165,20 @@ void ViewerUser::choose(int menuIndex) const
     QTest::mouseClick(&menu(), Qt::LeftButton, {}, menu().actionGeometry(menuItem(menuIndex)).center());
 }
 
-ViewerHost Viewer::host()
+ViewerHost Viewer::lend()
 {
-    return {[this](const QString &sql, const std::function<bool(qint64)> &progress) {
-                ++openings;
-                result.replaceBy(ResultSet::open(database.connectionString(), sql, dbAccess, progress));
-                return ViewerHost::Opened{result.connection(), result.recordset()};
-            },
-            [this](QWidget *) { return condition; }};
+    return {
+        [this](const QString &sql, const ResultSet::Progress &progress) {
+            ++openings;
+            result.replaceBy(ResultSet::open(database.connectionString(), sql, dbAccess, progress));
+            return ResultSet::Opened{database.connectionString(), result.connection(), result.recordset()};
+        },
+        [this](QWidget *) { return condition; }};
 }
 
 void Viewer::show(qint32 page, bool isAll)
 {
-    viewer.PutFilterManager(manager);
+    viewer.PutFilterManager(session->sharedFilterManager());
     viewer.GetData(result.connection(), result.recordset(), page, database.connectionString(), statement,
                    true, {}, isAll, true, true, true);
     viewer.show();

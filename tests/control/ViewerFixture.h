@@ -1,13 +1,12 @@
 #pragma once
 
+#include "control/face/ControlWindow.h"
 #include "control/parts/GridParts.h"
-#include "control/parts/PageView.h"
 #include "control/viewer/frm_FullScreen.h"
-#include "query/FieldChooser.h"
 #include "query/clsFilterManagement.h"
-#include "session/ColumnLayout.h"
-#include "session/ConnectionFieldReader.h"
-#include "session/ResultSet.h"
+#include "session/HostEvents.h"
+#include "session/Questions.h"
+#include "session/Session.h"
 #include "support/ExpectedWarnings.h"
 #include "support/TestDatabase.h"
 
@@ -23,12 +22,24 @@ QT_END_NAMESPACE
 namespace KovaTest {
 
 // Answers each question with what was prepared, and keeps what it was asked.
-class PreparedChooser final : public KOVAVSFDataGridLib::FieldChooser
+class PreparedUser final : public KOVAVSFDataGridLib::Questions
 {
 public:
-    std::optional<QString> answer;
+    std::optional<QString> answer; // to the choice of fields or of a sort
     QStringList fields;
     QStringList chosen;
+    QString condition; // what the filter dialog gives
+    QStringList messages;
+
+    void setDatabase(qint32) override {}
+    void tell(const QString &text) override { messages.append(text); }
+    void tellWithCause(const QString &text, const QString &) override { messages.append(text); }
+    bool ask(const QString &, const QString &) override { return true; }
+    QString askCondition(const KOVAVSFDataGridLib::ConditionRequest &) override { return condition; }
+    std::optional<KOVAVSFDataGridLib::FindAnswer> askWords(const KOVAVSFDataGridLib::colDataFields &) override
+    {
+        return {};
+    }
 
     std::optional<QString> ChooseVisibleFields(const QString &, const QStringList &allFields,
                                                const QStringList &partFields) override;
@@ -36,10 +47,20 @@ public:
                                       const QStringList &sortTerms) override;
 };
 
+struct SilentHost final : KOVAVSFDataGridLib::HostEvents
+{
+    int filtersWritten = 0;
+    void filterWritten() override { ++filtersWritten; }
+    void askFilter(qint32 &, const QString &) override {}
+    void fieldsChanged(const QString &) override {}
+    void refresh() override {}
+};
+
 // The parts of a control with an open result, as a load leaves them.
 struct LoadedParts : testing::Test
 {
     LoadedParts();
+    ~LoadedParts() override { session->detach(); }
 
     void load(const QString &statement, const QString &partStatement = {}, const QString &sort = {});
     // Leaves the field catalogue without any width.
@@ -53,15 +74,15 @@ struct LoadedParts : testing::Test
     TestDatabase database;
     QWidget control;
     KOVAVSFDataGridLib::GridParts parts{control};
-    KOVAVSFDataGridLib::ResultSet result{*parts.Adodc1};
-    KOVAVSFDataGridLib::PageView pages{parts, result};
-    KOVAVSFDataGridLib::ConnectionFieldReader reader{result};
-    PreparedChooser chooser;
-    std::shared_ptr<KOVAVSFDataGridLib::clsFilterManagement> manager =
-        std::make_shared<KOVAVSFDataGridLib::clsFilterManagement>(&reader, &chooser);
-    KOVAVSFDataGridLib::clsFilterManagement &filter = *manager;
+    PreparedUser chooser;
+    SilentHost host;
+    KOVAVSFDataGridLib::ControlWindow window{control, parts};
+    std::shared_ptr<KOVAVSFDataGridLib::Session> session = std::make_shared<KOVAVSFDataGridLib::Session>(
+        window, chooser, host, KOVAVSFDataGridLib::ControlRules, parts.Adodc1);
+    KOVAVSFDataGridLib::ResultSet &result = session->result();
+    KOVAVSFDataGridLib::clsFilterManagement &filter = session->filterManager();
     QString statement;
-    QString condition; // what the filter dialog gives
+    QString &condition = chooser.condition;
 };
 
 // What a user does in the viewer, with mouse and keys.
@@ -101,11 +122,11 @@ struct Viewer : LoadedParts
     void breakDatabase() { database.run(QStringLiteral("ALTER TABLE T RENAME TO Away")); }
 
     int openings = 0;
-    KOVAVSFDataGridLib::frm_FullScreen viewer{host()};
+    KOVAVSFDataGridLib::frm_FullScreen viewer{lend()};
     ViewerUser user{viewer};
 
 private:
-    KOVAVSFDataGridLib::ViewerHost host();
+    KOVAVSFDataGridLib::ViewerHost lend();
 };
 
 // Five records, two on a page.

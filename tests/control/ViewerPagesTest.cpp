@@ -1,8 +1,8 @@
 // The pages of the full-screen viewer: its keys, its page box, and what a page shows.
 #include "ViewerFixture.h"
 
-#include "control/viewer/TypedPage.h"
 #include "grid/FlexGrid.h"
+#include "session/TypedPage.h"
 #include "support/MessageAnswers.h"
 
 #include <QtTest/QTest>
@@ -144,16 +144,19 @@ TEST(TypedPageNumber, IsShortenedFromItsEndUntilItFits32Bits)
                                                  {QString(400, u'9'), QString(9, u'9')},
                                                  {u"99999999999.5"_s, u"999999999"_s}};
     for (const auto &[typed, kept] : cases) {
-        const auto page = TypedPage::read(typed);
+        const auto page = TypedPage::read(typed, true);
         ASSERT_TRUE(page) << qPrintable(typed);
         EXPECT_EQ(page->text, kept);
         EXPECT_EQ(page->number, kept.toInt());
     }
-    EXPECT_EQ(TypedPage::read(u"12.6"_s)->number, 13);
-    EXPECT_EQ(TypedPage::read(u"2.5"_s)->number, 2) << "to the even one";
-    EXPECT_FALSE(TypedPage::read(u"inf"_s));
-    EXPECT_FALSE(TypedPage::read(u"1e3"_s));
-    EXPECT_FALSE(TypedPage::read(u"１"_s));
+    EXPECT_EQ(TypedPage::read(u"12.6"_s, true)->number, 13);
+    EXPECT_EQ(TypedPage::read(u"2.5"_s, true)->number, 2) << "to the even one";
+    EXPECT_FALSE(TypedPage::read(u"inf"_s, true));
+    EXPECT_FALSE(TypedPage::read(u"1e3"_s, true));
+    EXPECT_EQ(TypedPage::read(u"１２"_s, true)->number, 12) << "digits of full width";
+    EXPECT_EQ(TypedPage::read(u"１２"_s, false)->number, 12);
+    EXPECT_EQ(TypedPage::read(u"3a"_s, false)->number, 3);
+    EXPECT_EQ(TypedPage::read(u"abc"_s, false)->number, 0);
 }
 
 TEST_F(Viewer, PagesThroughOneAndAHalfMillionRecords)

@@ -154,7 +154,7 @@ TEST_F(Viewer, ANullIsTheEmptyText)
 TEST_F(Viewer, TakesTheButtonStatesThatItIsGiven)
 {
     load(u"select * from T"_s);
-    viewer.PutFilterManager(manager);
+    viewer.PutFilterManager(session->sharedFilterManager());
     viewer.GetData(result.connection(), result.recordset(), 1, database.connectionString(), statement, false,
                    {}, false, false, true, false);
     EXPECT_FALSE(user.toolbar().isButtonEnabled(u"Filter"_s));
@@ -176,7 +176,7 @@ TEST_F(Viewer, ShowsTheKeptWidths)
 {
     load(u"select * from T"_s);
     parts.vsfgDataGrid->PutColWidth(2, 3210);
-    ColumnLayout(*parts.vsfgDataGrid, history()).SaveColumnWidths(0);
+    session->columns().SaveColumnWidths(0);
     show();
     EXPECT_EQ(user.grid().ColWidth(2), 3210);
 }

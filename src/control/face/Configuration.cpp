@@ -7,7 +7,10 @@
 #include <QtCore/QSettings>
 #include <QtCore/QTextStream>
 
+#include <algorithm>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace KOVAVSFDataGridLib {
 
@@ -36,25 +39,44 @@ QString withoutQuotes(const QString &value)
 // Read line by line, because an INI file of this kind knows no escapes: a backslash in it is a backslash. As
 // everywhere with such files the first entry of a name counts, ";" begins a comment only at a line's begin
 // and quotes around a value aren't part of it.
-std::optional<QString> readEntry(const QString &section, const QString &key, const QString &filePath)
+class IniSection
+{
+public:
+    IniSection(const QString &filePath, const QString &section);
+
+    std::optional<QString> value(const QString &key) const
+    {
+        const auto found =
+            std::ranges::find_if(m_entries, [&](const auto &entry) { return isSameName(entry.first, key); });
+        return found == m_entries.end() ? std::nullopt : std::optional(found->second);
+    }
+
+private:
+    std::vector<std::pair<QString, QString>> m_entries;
+};
+
+IniSection::IniSection(const QString &filePath, const QString &section)
 {
     QFile file(filePath);
     if (!file.open(QIODevice::ReadOnly))
-        return {};
+        return;
     QTextStream lines(&file); // in UTF-8, or as its byte order mark says
     bool isInSection = false;
     QString line;
     while (lines.readLineInto(&line)) {
         line = line.trimmed();
-        if (line.startsWith(u'[')) {
-            isInSection = isSameName(QStringView(line).mid(1, line.indexOf(u']') - 1), section);
-            continue;
-        }
         const qsizetype equals = line.indexOf(u'=');
-        if (isInSection && equals > 0 && isSameName(QStringView(line).first(equals), key))
-            return withoutQuotes(line.mid(equals + 1).trimmed());
+        if (line.startsWith(u'['))
+            isInSection = isSameName(QStringView(line).mid(1, line.indexOf(u']') - 1), section);
+        else if (isInSection && equals > 0)
+            m_entries.emplace_back(line.first(equals), withoutQuotes(line.mid(equals + 1).trimmed()));
     }
-    return {};
+}
+
+QString profileValue(const IniSection &section, const QString &key)
+{
+    const std::optional<QString> value = section.value(key);
+    return value ? value->left(LongestValue).trimmed() : MissingEntry;
 }
 
 QString threeTierFile()
@@ -66,22 +88,21 @@ QString threeTierFile()
 
 QString ReadProfileValue(const QString &section, const QString &key, const QString &filePath)
 {
-    const std::optional<QString> value = readEntry(section, key, filePath);
-    return value ? value->left(LongestValue).trimmed() : MissingEntry;
+    return profileValue(IniSection(filePath, section), key);
 }
 
 qint32 Read3TierSwitch()
 {
-    return ReadProfileValue(ThreeTierSection, u"MERIX"_s, threeTierFile()).toUpper() == u"YES" ? 1 : 0;
+    return readThreeTierSettings().isOn ? 1 : 0;
 }
 
-// Whole, because a connection string cut off leads elsewhere.
-ADODB::MiddleTier readMiddleTier()
+// The tier's entries whole, because a connection string cut off leads elsewhere.
+ThreeTierSettings readThreeTierSettings()
 {
-    const auto entry = [](const QString &key) {
-        return readEntry(ThreeTierSection, key, threeTierFile()).value_or(QString()).trimmed();
-    };
-    return {entry(u"Server"_s), entry(u"Port"_s), entry(u"Connection"_s)};
+    const IniSection section(threeTierFile(), ThreeTierSection);
+    const auto entry = [&](const QString &key) { return section.value(key).value_or(QString()).trimmed(); };
+    return {profileValue(section, u"MERIX"_s).toUpper() == u"YES",
+            {entry(u"Server"_s), entry(u"Port"_s), entry(u"Connection"_s)}};
 }
 
 bool readSelectWholeRows()

@@ -15,9 +15,14 @@ QString ReadProfileValue(const QString &section, const QString &key, const QStri
 // 1 when the file MERIXUSER3TIER.cfg beside the library switches the middle tier on, else 0.
 qint32 Read3TierSwitch();
 
-// The middle tier that the switch's section names: `Server` and `Port`, or a whole `Connection` string. What
-// isn't there is empty.
-ADODB::MiddleTier readMiddleTier();
+// The switch with the middle tier that its section names: `Server` and `Port`, or a whole `Connection`
+// string. What isn't there is empty. The file is read once.
+struct ThreeTierSettings
+{
+    bool isOn;
+    ADODB::MiddleTier tier;
+};
+ThreeTierSettings readThreeTierSettings();
 
 // Whether a click selects the whole row, as the user last left it; on at first.
 bool readSelectWholeRows();

@@ -47,12 +47,13 @@ KOVAVSFDataGrid::~KOVAVSFDataGrid()
 
 void KOVAVSFDataGrid::InitProperties()
 {
-    d->sqlShow.clear();
-    d->sqlPartDisplay.clear();
-    d->sqlFilter.clear();
-    d->sqlSort.clear();
+    SessionTexts &texts = d->session->texts;
+    texts.sqlShow.clear();
+    texts.sqlPartDisplay.clear();
+    texts.sqlFilter.clear();
+    texts.sqlSort.clear();
     d->useModel = ModelUsing;
-    d->showModel = ModelAll;
+    d->session->putFieldView(FieldView::All);
     d->emptyGrid();
 }
 
@@ -76,7 +77,7 @@ void KOVAVSFDataGrid::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     const QPointer<KOVAVSFDataGrid> alive(this);
-    d->commands.singleRecord.editor().take(true); // before the editor is put away
+    d->singleRecord.editor().commit(true); // before the editor is put away
     if (alive)
         d->parts.layOut(event->size().width(), event->size().height());
 }

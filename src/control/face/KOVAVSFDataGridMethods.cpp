@@ -10,6 +10,7 @@
 #include "forms/ConnectDialog.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
+#include "session/commands/CommandKeys.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QCheckBox>
@@ -25,7 +26,8 @@ using namespace Qt::StringLiterals;
 void KOVAVSFDataGrid::Refresh()
 {
     try {
-        const bool isIncomplete = d->connectionString.isEmpty() || d->recordSource.trimmed().isEmpty();
+        const bool isIncomplete = d->session->texts.connectionString.isEmpty() ||
+                                  d->session->texts.recordSource.trimmed().isEmpty();
         if (isIncomplete && d->errorHint) {
             Messages::tell(this, GridTexts::NothingToLink, GridTexts::NothingToLinkTitle,
                            QMessageBox::Critical);
@@ -35,7 +37,7 @@ void KOVAVSFDataGrid::Refresh()
             d->errorHint &&
             Messages::ask(this, GridTexts::UpdateFailed, GridTexts::UpdateFailedTitle, QMessageBox::NoIcon);
         if (wantsToLook)
-            d->editText(GridTexts::FindRecordSourceError, d->recordSource);
+            d->editText(GridTexts::FindRecordSourceError, d->session->texts.recordSource);
     }
 }
 
@@ -43,60 +45,63 @@ void KOVAVSFDataGrid::Refresh()
 bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
 {
     VSFlexGrid &grid = *d->parts.vsfgDataGrid;
-    const bool isOtherPage = d->result.isOpen() && d->pages.currentPage() != 1;
-    const qint32 rows = isOtherPage ? d->pages.rowsOfPage(1) + 1 : grid.Rows();
+    Session &session = *d->session;
+    const bool isOtherPage = session.result().isOpen() && session.page() != 1;
+    const qint32 rows = isOtherPage ? session.recordsOnPage(1) + 1 : grid.Rows();
     if (lRecordRow <= 0 || lRecordRow > rows)
         return false;
-    if (lRecordRow < 2 || lRecordRow == rows || !d->result.isOpen() ||
-        lRecordRow == d->result.recordset()->AbsolutePosition())
+    if (lRecordRow < 2 || lRecordRow == rows || !session.result().isOpen() ||
+        lRecordRow == session.result().recordset()->AbsolutePosition())
         return true;
     try {
         const QSignalBlocker onlyOurOwnEvent(d->parts.Adodc1);
-        ADODB::Recordset &recordset = *d->result.recordset();
+        ADODB::Recordset &recordset = *session.result().recordset();
         recordset.MoveFirst(); // a host may have left it behind the last record, where no page can be shown
         if (isOtherPage)
-            d->showPage(1);
+            session.showPage(1);
         recordset.Move(lRecordRow - 1);
         grid.PutRow(lRecordRow);
         grid.PutCol(1);
-    } catch (const std::exception &) {
+    } catch (const ADODB::Error &) {
         return true; // an edit could not be saved, say: its record stays the current one
     }
     if (!grid.RowIsVisible(lRecordRow))
         grid.PutTopRow(lRecordRow);
     grid.Refresh();
+    d->window.refreshStatus();
+    d->window.refreshSingleRecord();
     Q_EMIT RecordChanged(3, lRecordRow - 1); // last, because the host may delete the control
     return true;
 }
 
 void KOVAVSFDataGrid::ShowConnectionString()
 {
-    d->showText(u"Show Connection String", u"ConnectionString:"_s, d->connectionString);
+    d->showText(u"Show Connection String", u"ConnectionString:"_s, d->session->texts.connectionString);
 }
 
 void KOVAVSFDataGrid::ShowRecordSource()
 {
-    d->showText(u"Show Record Source", u"RecordSource:"_s, d->recordSource);
+    d->showText(u"Show Record Source", u"RecordSource:"_s, d->session->texts.recordSource);
 }
 
 void KOVAVSFDataGrid::ShowSQLShow()
 {
-    d->showText(u"Show SQL Show", u"SQLShow:"_s, d->sqlShow);
+    d->showText(u"Show SQL Show", u"SQLShow:"_s, d->session->texts.sqlShow);
 }
 
 void KOVAVSFDataGrid::ShowPartDisplay()
 {
-    d->showText(u"Show Part Display", u"SQLPartDisplay:"_s, d->sqlPartDisplay);
+    d->showText(u"Show Part Display", u"SQLPartDisplay:"_s, d->session->texts.sqlPartDisplay);
 }
 
 void KOVAVSFDataGrid::ShowFilterCondtion()
 {
-    d->showText(u"Show Filter Condtion", u"SQLFilter:"_s, d->sqlFilter);
+    d->showText(u"Show Filter Condtion", u"SQLFilter:"_s, d->session->texts.sqlFilter);
 }
 
 void KOVAVSFDataGrid::ShowSort()
 {
-    d->showText(u"Show Sort", u"SQLSort:"_s, d->sqlSort);
+    d->showText(u"Show Sort", u"SQLSort:"_s, d->session->texts.sqlSort);
 }
 
 void KOVAVSFDataGrid::GetConnection()
@@ -106,27 +111,27 @@ void KOVAVSFDataGrid::GetConnection()
             return BuildConnection(parent, present, DBType());
         },
         this);
-    d->runSteps(u"Get Connection",
-                {[&] { dialog.SetConnectionString(d->connectionString); }, [&] { dialog.exec(); },
-                 [&] {
-                     if (dialog.connectionString())
-                         PutConnectionString(*dialog.connectionString());
-                 },
-                 [&] {
-                     if (dialog.sqlShow())
-                         PutSQLShow(*dialog.sqlShow());
-                 }});
+    d->runSteps(u"Get Connection", {[&] { dialog.SetConnectionString(d->session->texts.connectionString); },
+                                    [&] { dialog.exec(); },
+                                    [&] {
+                                        if (dialog.connectionString())
+                                            PutConnectionString(*dialog.connectionString());
+                                    },
+                                    [&] {
+                                        if (dialog.sqlShow())
+                                            PutSQLShow(*dialog.sqlShow());
+                                    }});
 }
 
 void KOVAVSFDataGrid::SetFieldName()
 {
-    d->commands.run(u"SelField"_s);
+    d->commands.run(CommandKeys::SelField);
 }
 
 void KOVAVSFDataGrid::SetSQLShow()
 {
     d->runSteps(u"Set SQL Show", {[this] {
-                    if (const auto text = d->editText(u"SQLShow:"_s, d->sqlShow))
+                    if (const auto text = d->editText(u"SQLShow:"_s, d->session->texts.sqlShow))
                         PutSQLShow(*text);
                 }});
 }
@@ -134,14 +139,14 @@ void KOVAVSFDataGrid::SetSQLShow()
 void KOVAVSFDataGrid::SetSQLFilter()
 {
     d->runSteps(u"Set SQL Filter", {[this] {
-                    if (const auto text = d->editText(u"SQLFilter:"_s, d->sqlFilter))
+                    if (const auto text = d->editText(u"SQLFilter:"_s, d->session->texts.sqlFilter))
                         PutSQLFilter(*text);
                 }});
 }
 
 void KOVAVSFDataGrid::SetSortFN()
 {
-    d->commands.run(u"Sort"_s);
+    d->commands.run(CommandKeys::Sort);
 }
 
 void KOVAVSFDataGrid::SetGridCol(const qint32 &Col)
@@ -160,21 +165,23 @@ QString KOVAVSFDataGrid::CellText(const qint16 &n_row, const qint16 &n_col)
 
 void KOVAVSFDataGrid::Clear()
 {
-    if (!d->closeResult())
-        return;
+    const auto session = d->session;
+    const ADODB::Notifications::Hold hold(session->notifications());
+    session->result().close();
     d->emptyGrid();
-    if (d->isSingleRecordShown()) {
+    if (d->window.isSingleRecordShown()) {
         d->parts.MSFlexGrid1->Clear();
-        d->showMultiRecordView();
+        d->window.showAllRecords();
     }
     CloseAllAction();
 }
 
 void KOVAVSFDataGrid::ClearAll()
 {
-    if (!d->recordSource.isEmpty() && d->result.isOpen()) {
-        if (!d->closeResult())
-            return;
+    const auto session = d->session;
+    const ADODB::Notifications::Hold hold(session->notifications());
+    if (!session->texts.recordSource.isEmpty() && session->result().isOpen()) {
+        session->result().close();
         d->emptyGrid();
     }
     CloseAllAction();
@@ -210,32 +217,29 @@ void KOVAVSFDataGrid::CloseAllAction()
     d->parts.cmdPgae->setEnabled(false);
     d->parts.Toolbar1->setEnabled(false);
     d->parts.Toolbar1->setAllButtonsEnabled(false);
-    d->tellStatement();
+    d->window.refreshStatus();
 }
 
 bool KOVAVSFDataGrid::IsLoadData()
 {
-    return d->load();
+    const auto session = d->session;
+    d->setThreeTierSwitch();
+    return session->load();
 }
 
 void KOVAVSFDataGrid::SeeCompressView()
 {
-    if (!d->isSingleRecordShown())
-        d->columns().fitColumns();
+    d->session->compressColumns();
 }
 
 void KOVAVSFDataGrid::ClearObject()
 {
+    const auto session = d->session;
+    const ADODB::Notifications::Hold hold(session->notifications());
     saveSelectWholeRows(d->parts.CheckSelAllRow->isChecked());
     d->emptyGrid();
-    if (!d->closeResult())
-        return;
-    d->reader.forget();
+    session->clear();
     ADODB::ConnectionFactory::setInstance(nullptr);
-    if (d->filter)
-        d->filter->ClearObject();
-    d->filter.reset();
-    d->result.release(); // last, because the host may delete the control
 }
 
 QString KOVAVSFDataGrid::CellTextL(const qint32 &n_row, const qint32 &n_col)

@@ -6,79 +6,99 @@
 #include "ado/Recordset.h"
 #include "control/face/Configuration.h"
 #include "control/face/DesignMode.h"
-#include "control/parts/EmptyHint.h"
 #include "control/parts/GridTexts.h"
-#include "control/parts/GridToolbar.h"
-#include "control/parts/StatementLine.h"
+#include "control/viewer/ShowFullScreen.h"
 #include "forms/Dialog_SQLST.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "grid/TextCells.h"
-#include "grid/Twips.h"
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QCheckBox>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
 
-#include <algorithm>
 #include <stdexcept>
 
 using namespace KOVAVSFDataGridLib;
 
-namespace {
-
-// Which record is current, in words.
-QString placeOf(const ADODB::Recordset &recordset)
-{
-    if (recordset.EditMode() == ADODB::adEditAdd)
-        return GridTexts::NewRecord.arg(recordset.RecordCount());
-    return GridTexts::RecordOf.arg(std::max<qint64>(0, recordset.AbsolutePosition()))
-        .arg(recordset.RecordCount());
-}
-
-} // namespace
-
 KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
     : q(control),
       parts(control),
-      result(*parts.Adodc1),
-      pages(parts, result),
-      reader(result),
-      chooser(&control),
-      events(control, parts, result, pages),
-      commands(*this),
+      window(control, parts),
+      questions(&control),
+      session(std::make_shared<Session>(window, questions, *this, ControlRules, parts.Adodc1)),
+      events(control, parts, *session),
+      singleRecord(control, *session, parts),
+      commands(control, *session, parts, events, singleRecord),
       pressedPart(parts)
 {
-    connect(parts.cmdPgae, &QPushButton::clicked, &q, [this] { commands.goToTypedPage(); });
+    window.setSession(*session);
+    window.setSingleRecordView(&singleRecord);
+    window.setFullScreen([this] {
+        ShowFullScreen(q, *session, parts, [this](QWidget *viewer) {
+            return DialogQuestions(viewer).askCondition(session->conditionRequest());
+        });
+    });
     connect(parts.CheckSelAllRow, &QCheckBox::toggled, &q, [this](bool on) {
         parts.vsfgDataGrid->setSelectionBehavior(on ? QAbstractItemView::SelectRows
                                                     : QAbstractItemView::SelectItems);
     });
     parts.CheckSelAllRow->setChecked(readSelectWholeRows());
-    giveThreeTierSwitch();
+    setThreeTierSwitch();
+    connectHost();
+}
+
+// What runs behind a dialog just now ends by itself: its session has nobody to show anything to.
+KOVAVSFDataGrid::Private::~Private()
+{
+    session->detach();
+}
+
+// The control's own views follow before the host hears of a move.
+void KOVAVSFDataGrid::Private::connectHost()
+{
     connect(parts.Adodc1, &ADODB::Adodc::MoveComplete, &q, [this](ADODB::EventReasonEnum reason) {
-        if (result.isOpen() && result.recordset()->RecordCount() != 0)
-            Q_EMIT q.RecordChanged(reason, static_cast<qint32>(result.recordset()->AbsolutePosition()));
+        if (!session->result().isOpen() || session->result().recordset()->RecordCount() == 0)
+            return;
+        window.refreshStatus();
+        window.refreshSingleRecord();
+        Q_EMIT q.RecordChanged(reason,
+                               static_cast<qint32>(session->result().recordset()->AbsolutePosition()));
     });
     connect(parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, &q,
             [this](ADODB::EventReasonEnum reason) { Q_EMIT q.RecordsetChanged(reason); });
-    connect(parts.txtPage, &QLineEdit::returnPressed, parts.cmdPgae, &QPushButton::click);
-    connect(&q, &KOVAVSFDataGrid::RecordChanged, &q, [this] { tellStatement(); });
 }
 
-void KOVAVSFDataGrid::Private::giveThreeTierSwitch()
+void KOVAVSFDataGrid::Private::setThreeTierSwitch() const
 {
+    const ThreeTierSettings settings = readThreeTierSettings();
     ADODB::ConnectionFactory &factory = ADODB::ConnectionFactory::instance();
-    factory.SetThreeTier(Read3TierSwitch() != 0);
-    factory.SetMiddleTier(readMiddleTier());
+    factory.SetThreeTier(settings.isOn);
+    factory.SetMiddleTier(settings.tier);
 }
 
-bool KOVAVSFDataGrid::Private::tellWritten(const char *name)
+void KOVAVSFDataGrid::Private::notifyWritten(const char *name)
 {
-    const QPointer<KOVAVSFDataGrid> alive(&q);
-    Q_EMIT q.PropertyChanged(QLatin1StringView(name));
-    return alive;
+    session->notifications().send(&q, [this, name] { Q_EMIT q.PropertyChanged(QLatin1StringView(name)); });
+}
+
+void KOVAVSFDataGrid::Private::filterWritten()
+{
+    notifyWritten("SQLFilter");
+}
+
+void KOVAVSFDataGrid::Private::askFilter(qint32 &cancel, const QString &base)
+{
+    Q_EMIT q.QurryFilter(cancel, base);
+}
+
+void KOVAVSFDataGrid::Private::fieldsChanged(const QString &statement)
+{
+    session->notifications().send(&q, [this, statement] { Q_EMIT q.ShowFieldsChange(statement); });
+}
+
+void KOVAVSFDataGrid::Private::refresh()
+{
+    session->notifications().send(&q, [this] { q.Refresh(); });
 }
 
 bool KOVAVSFDataGrid::Private::isUserMode() const
@@ -91,23 +111,6 @@ void KOVAVSFDataGrid::Private::applyBackColor()
     QPalette palette = parts.picMainBack->palette();
     palette.setColor(QPalette::Window, backColor.in(q.palette()));
     parts.picMainBack->setPalette(palette);
-}
-
-void KOVAVSFDataGrid::Private::tellStatement()
-{
-    QString statement;
-    const bool isOpen = result.isOpen() && filter && filter->SQLManager().GetLatestSQL(statement);
-    const bool canGoBack = isOpen && filter->SQLManager().Count() > 1;
-    if (isOpen)
-        parts.lblStatement->tell(placeOf(*result.recordset()), statement);
-    else
-        parts.lblStatement->tell({}, {});
-    if (!result.isOpen())
-        parts.lblEmpty->tell(GridTexts::NothingLoaded);
-    else if (result.recordset()->RecordCount() > 0)
-        parts.lblEmpty->tell({});
-    else
-        parts.lblEmpty->tellNoRecords(canGoBack);
 }
 
 void KOVAVSFDataGrid::Private::runSteps(QStringView title, std::initializer_list<std::function<void()>> steps)
@@ -135,11 +138,11 @@ void KOVAVSFDataGrid::Private::runSteps(QStringView title, std::initializer_list
 
 void KOVAVSFDataGrid::Private::showText(QStringView title, const QString &label, const QString &text)
 {
-    runSteps(title, {[&] { shared.scratch = text; },
+    runSteps(title, {[&] { session->shared.scratch = text; },
                      [&] {
                          Dialog_SQLST dialog(&q);
                          dialog.SetLabel(label);
-                         dialog.SetText(shared.scratch);
+                         dialog.SetText(SharedValues::instance().scratch);
                          dialog.SetEditing(false, false);
                          dialog.exec();
                      }});
@@ -153,7 +156,7 @@ std::optional<QString> KOVAVSFDataGrid::Private::editText(const QString &label, 
     dialog.SetEditing(true, false);
     dialog.exec();
     if (dialog.result())
-        shared.scratch = *dialog.result();
+        SharedValues::instance().scratch = *dialog.result();
     return dialog.result();
 }
 

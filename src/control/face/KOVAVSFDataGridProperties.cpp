@@ -8,6 +8,7 @@
 #include "grid/FlexGrid.h"
 #include "query/SqlText.h"
 #include "query/modQNVSFHFDataMain.h"
+#include "session/commands/CommandKeys.h"
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QPushButton>
@@ -56,8 +57,9 @@ QColor KOVAVSFDataGrid::BackColor() const
 void KOVAVSFDataGrid::PutBackColor(const QColor &colour)
 {
     const OleColor written = colour.isValid() ? OleColor(colour) : OleColor(OleColor::ButtonFace);
-    if (d->put(d->backColor, written, "BackColor"))
-        d->applyBackColor();
+    d->backColor = written;
+    d->applyBackColor();
+    d->notifyWritten("BackColor");
 }
 
 void KOVAVSFDataGrid::ResetBackColor()
@@ -80,22 +82,22 @@ void KOVAVSFDataGrid::PutDisplayEable(bool on)
 
 bool KOVAVSFDataGrid::FilterEnable() const
 {
-    return d->parts.Toolbar1->isButtonEnabled(u"Filter"_s);
+    return d->parts.Toolbar1->isButtonEnabled(CommandKeys::Filter);
 }
 
 void KOVAVSFDataGrid::PutFilterEnable(bool on)
 {
-    d->parts.Toolbar1->setButtonEnabled(u"Filter"_s, on);
+    d->parts.Toolbar1->setButtonEnabled(CommandKeys::Filter, on);
 }
 
 bool KOVAVSFDataGrid::SortEnable() const
 {
-    return d->parts.Toolbar1->isButtonEnabled(u"Sort"_s);
+    return d->parts.Toolbar1->isButtonEnabled(CommandKeys::Sort);
 }
 
 void KOVAVSFDataGrid::PutSortEnable(bool on)
 {
-    d->parts.Toolbar1->setButtonEnabled(u"Sort"_s, on);
+    d->parts.Toolbar1->setButtonEnabled(CommandKeys::Sort, on);
 }
 
 QColor KOVAVSFDataGrid::DataBackColor() const
@@ -130,8 +132,8 @@ void KOVAVSFDataGrid::PutUseModel(qint32 model)
     if (d->isUserMode())
         throw ControlError(ControlError::SetNotSupportedAtRuntime, GridTexts::CantSetAtRunTime);
     d->useModel = model;
-    d->parts.Toolbar1->setButtonVisible(u"Filter"_s, model == ModelUsing);
-    d->parts.Toolbar1->setButtonVisible(u"Sort"_s, model == ModelUsing);
+    d->parts.Toolbar1->setButtonVisible(CommandKeys::Filter, model == ModelUsing);
+    d->parts.Toolbar1->setButtonVisible(CommandKeys::Sort, model == ModelUsing);
 }
 
 KOVAVSFDataGrid::UseModelChoose KOVAVSFDataGrid::lateUseModel()
@@ -155,71 +157,66 @@ void KOVAVSFDataGrid::putLateUseModel(qint32 model)
 
 qint32 KOVAVSFDataGrid::ShowModel() const
 {
-    return d->showModel;
+    return static_cast<qint32>(d->session->fieldView());
 }
 
 void KOVAVSFDataGrid::PutShowModel(qint32 model)
 {
-    d->showModel = model;
+    d->session->putFieldView(static_cast<FieldView>(model));
 }
 
 QString KOVAVSFDataGrid::ConnectionString() const
 {
-    return d->connectionString;
+    return d->session->texts.connectionString;
 }
 
 void KOVAVSFDataGrid::PutConnectionString(const QString &text)
 {
-    const QPointer<KOVAVSFDataGrid> alive(this);
-    if (d->put(d->connectionString, text, "ConnectionString"))
-        PutSQLShow({});
+    const auto session = d->session;
+    const ADODB::Notifications::Hold hold(session->notifications());
+    session->shared.connectionString = text;
+    d->put(session->texts.connectionString, text, "ConnectionString");
+    PutSQLShow({});
     ClearSQLFieldList();
-    if (alive)
-        PutSQLFilter({});
-    if (alive)
-        PutSQLSort({});
-    if (alive)
-        PutSQLPartDisplay({});
-    if (!alive)
-        return;
-    d->shared.connectionString = text;
-    d->filterManager().ClearFilter();
+    PutSQLFilter({});
+    PutSQLSort({});
+    PutSQLPartDisplay({});
+    session->filterManager().ClearFilter();
 }
 
 QString KOVAVSFDataGrid::SQLShow() const
 {
-    return d->sqlShow;
+    return d->session->texts.sqlShow;
 }
 
 void KOVAVSFDataGrid::PutSQLShow(const QString &statement)
 {
     const QPointer<KOVAVSFDataGrid> alive(this);
-    if (!d->put(d->sqlShow, statement, "SQLShow"))
-        return;
-    d->shared.sqlShow = statement;
-    PutSQLPartDisplay(statement);
+    d->session->shared.sqlShow = statement;
+    d->session->shared.sqlShowCopy = statement;
+    d->put(d->session->texts.sqlShow, statement, "SQLShow");
     if (alive)
-        d->shared.sqlShowCopy = statement;
+        PutSQLPartDisplay(statement);
 }
 
 QObject *KOVAVSFDataGrid::RecordSet() const
 {
-    return d->result.isOpen() ? d->parts.Adodc1->recordsetObject() : nullptr;
+    return d->session->result().isOpen() ? d->parts.Adodc1->recordsetObject() : nullptr;
 }
 
 QString KOVAVSFDataGrid::RecordSource() const
 {
-    return d->recordSource;
+    return d->session->texts.recordSource;
 }
 
 QString KOVAVSFDataGrid::SQLPartDisplay() const
 {
-    return d->sqlPartDisplay;
+    return d->session->texts.sqlPartDisplay;
 }
 
 void KOVAVSFDataGrid::PutSQLPartDisplay(const QString &statement)
 {
-    d->sqlPartDisplay = statement;
+    d->session->texts.sqlPartDisplay = statement;
     const auto failure = ParseSQLFieldList(JoinStatementLines(statement),
                                            static_cast<KOVAVSFDataGridLib::AllDBType>(DBType()));
     const QPointer<KOVAVSFDataGrid> alive(this);
@@ -230,38 +227,38 @@ void KOVAVSFDataGrid::PutSQLPartDisplay(const QString &statement)
             Messages::tell(this, failure->source + failure->description);
     }
     if (alive)
-        d->tellWritten("SQLPartDisplay");
+        d->notifyWritten("SQLPartDisplay");
 }
 
 QString KOVAVSFDataGrid::SQLFilter() const
 {
-    return d->sqlFilter;
+    return d->session->texts.sqlFilter;
 }
 
 void KOVAVSFDataGrid::PutSQLFilter(const QString &statement)
 {
-    d->put(d->sqlFilter, statement, "SQLFilter");
+    d->put(d->session->texts.sqlFilter, statement, "SQLFilter");
 }
 
 QString KOVAVSFDataGrid::SQLSort() const
 {
-    return d->sqlSort;
+    return d->session->texts.sqlSort;
 }
 
 void KOVAVSFDataGrid::PutSQLSort(const QString &sort)
 {
-    d->put(d->sqlSort, sort, "SQLSort");
+    d->put(d->session->texts.sqlSort, sort, "SQLSort");
 }
 
 qint32 KOVAVSFDataGrid::TableType() const
 {
-    return d->tableType;
+    return d->session->texts.tableType;
 }
 
 void KOVAVSFDataGrid::PutTableType(qint32 type)
 {
-    d->shared.tableType = static_cast<qint16>(type);
-    d->put(d->tableType, type, "TableType");
+    d->session->shared.tableType = static_cast<qint16>(type);
+    d->put(d->session->texts.tableType, type, "TableType");
 }
 
 bool KOVAVSFDataGrid::ErrorHint() const
@@ -276,13 +273,13 @@ void KOVAVSFDataGrid::PutErrorHint(bool on)
 
 qint32 KOVAVSFDataGrid::DBType() const
 {
-    return d->shared.dbType;
+    return d->session->shared.dbType;
 }
 
 void KOVAVSFDataGrid::PutDBType(qint32 type)
 {
-    d->shared.dbType16 = static_cast<qint16>(type);
-    d->put(d->shared.dbType, type, "DBType");
+    d->session->shared.dbType16 = static_cast<qint16>(type);
+    d->put(d->session->shared.dbType, type, "DBType");
 }
 
 QString KOVAVSFDataGrid::SysDBCnn() const
@@ -307,17 +304,19 @@ void KOVAVSFDataGrid::PutSysDBMode(const QString &text)
 
 QString KOVAVSFDataGrid::PassQurryFilter() const
 {
-    return d->passQurryFilter;
+    return d->session->texts.passQurryFilter;
 }
 
 void KOVAVSFDataGrid::PutPassQurryFilter(const QString &condition)
 {
-    d->passQurryFilter = condition;
+    d->session->texts.passQurryFilter = condition;
 }
 
 qint32 KOVAVSFDataGrid::CurrPosition() const
 {
-    return d->result.isOpen() ? static_cast<qint32>(d->result.recordset()->AbsolutePosition()) : 0;
+    return d->session->result().isOpen()
+               ? static_cast<qint32>(d->session->result().recordset()->AbsolutePosition())
+               : 0;
 }
 
 qint32 KOVAVSFDataGrid::GetBindFieldIndex(const QString &strFieldName) const
@@ -332,12 +331,12 @@ qint32 KOVAVSFDataGrid::GetBindFieldIndex(const QString &strFieldName) const
 
 QString KOVAVSFDataGrid::PicField() const
 {
-    return d->picField;
+    return d->session->texts.picField;
 }
 
 void KOVAVSFDataGrid::PutPicField(const QString &field)
 {
-    d->picField = field;
+    d->session->texts.picField = field;
 }
 
 bool KOVAVSFDataGrid::UserMode() const

@@ -3,13 +3,14 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "ado/ValueText.h"
-#include "control/commands/ResultWatch.h"
-#include "control/face/KOVAVSFDataGridPrivate.h"
+#include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
-#include "forms/Messages.h"
 #include "grid/FlexGrid.h"
+#include "session/Questions.h"
+#include "session/ResultWatch.h"
+#include "session/Session.h"
 
-#include <QtCore/QPointer>
+#include <QtCore/QScopedValueRollback>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QToolTip>
@@ -41,30 +42,30 @@ bool isWritable(const ADODB::Field &field)
 
 } // namespace
 
-CellEditor::CellEditor(ControlHub &hub) : m_hub(hub)
+CellEditor::CellEditor(Session &session, GridParts &parts) : m_session(session), m_parts(parts)
 {
     // As a part of the list's surface it scrolls along and is cut off at the list's edge.
-    hub.parts.txtEdit->setParent(hub.parts.MSFlexGrid1->viewport());
-    hub.parts.txtEdit->hide();
-    hub.parts.txtEdit->installEventFilter(this);
+    m_parts.txtEdit->setParent(m_parts.MSFlexGrid1->viewport());
+    m_parts.txtEdit->hide();
+    m_parts.txtEdit->installEventFilter(this);
 }
 
 bool CellEditor::isOpen() const
 {
-    return !m_hub.parts.txtEdit->isHidden();
+    return !m_parts.txtEdit->isHidden();
 }
 
 bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
 {
-    if (gridCol < 1 || !m_hub.result.isOpen() || !take())
+    if (gridCol < 1 || !m_session.result().isOpen() || !commit())
         return false;
-    QLineEdit &edit = *m_hub.parts.txtEdit;
+    QLineEdit &edit = *m_parts.txtEdit;
     try {
-        const ADODB::Field &field = m_hub.result.recordset()->Fields().Item(gridCol - 1);
+        const ADODB::Field &field = m_session.result().recordset()->Fields().Item(gridCol - 1);
         const QString value = ADODB::ValueText(field.Value());
         const bool isReadOnly = !isWritable(field);
         m_field = gridCol - 1;
-        m_row = m_hub.parts.MSFlexGrid1->Row();
+        m_row = m_parts.MSFlexGrid1->Row();
         edit.setText(isReadOnly ? value : typed.value_or(value));
         edit.setReadOnly(isReadOnly);
         edit.setToolTip(isReadOnly ? GridTexts::ReadOnlyCell : QString());
@@ -84,67 +85,57 @@ bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
 
 void CellEditor::place()
 {
-    const MSFlexGrid &list = *m_hub.parts.MSFlexGrid1;
-    m_hub.parts.txtEdit->setGeometry(list.visualRect(list.model()->index(m_row - 1, 1)));
+    const MSFlexGrid &list = *m_parts.MSFlexGrid1;
+    m_parts.txtEdit->setGeometry(list.visualRect(list.model()->index(m_row - 1, 1)));
 }
 
-bool CellEditor::take(bool isQuiet)
+bool CellEditor::commit(bool isQuiet)
 {
-    if (!isOpen() || m_isTaking)
+    if (!isOpen() || m_isCommitting)
         return true;
-    if (!m_hub.result.isOpen()) {
+    if (!m_session.result().isOpen()) {
         close(); // the record went away with its result
         return true;
     }
-    const QPointer<CellEditor> alive(this);
-    m_isTaking = true;
-    const bool isTaken = tryToTake(isQuiet);
-    if (alive)
-        m_isTaking = false;
-    return isTaken;
-}
-
-bool CellEditor::tryToTake(bool isQuiet)
-{
-    const ResultWatch watch(m_hub);
+    const auto session = m_session.shared_from_this();
+    const ResultWatch watch(*session);
     try {
-        putValue(m_hub.parts.txtEdit->text());
-        if (!watch.isUntouched())
-            return false;
+        const ADODB::Notifications::Hold hold(
+            session->notifications()); // ends last: the host may delete this
+        const QScopedValueRollback<bool> committing(m_isCommitting, true);
+        putValue(m_parts.txtEdit->text());
         close();
-        return true;
     } catch (const ADODB::Error &error) {
-        if (isQuiet || !watch.isUntouched())
+        if (isQuiet)
             return false;
-        Messages::tell(&m_hub.q, GridTexts::ValueRefusedPrefix + error.Description());
+        session->questions().tell(GridTexts::ValueRefusedPrefix + error.Description());
         if (watch.isUntouched())
-            m_hub.parts.txtEdit->setFocus();
+            m_parts.txtEdit->setFocus();
         return false;
     }
+    return watch.isUntouched();
 }
 
 // An unchanged text is not written: it may be shorter than the value (fifteen digits of a number). An empty
 // one means no value, except in a text field that had one.
 void CellEditor::putValue(const QString &text)
 {
-    const ResultWatch watch(m_hub);
-    ADODB::Field &field = m_hub.result.recordset()->Fields().Item(m_field);
+    ADODB::Field &field = m_session.result().recordset()->Fields().Item(m_field);
     const QVariant before = field.Value();
-    if (m_hub.parts.txtEdit->isReadOnly() || text == ADODB::ValueText(before))
+    if (m_parts.txtEdit->isReadOnly() || text == ADODB::ValueText(before))
         return;
     field.PutValue(text.isEmpty() && !isTextType(field.Type()) ? QVariant() : QVariant(text));
-    if (watch.isUntouched())
-        m_hub.parts.MSFlexGrid1->PutTextMatrix(m_row, 1, ADODB::ValueText(field.Value()));
+    m_parts.MSFlexGrid1->PutTextMatrix(m_row, 1, ADODB::ValueText(field.Value()));
 }
 
 void CellEditor::close()
 {
     if (!isOpen())
         return;
-    const bool hadFocus = m_hub.parts.txtEdit->hasFocus();
-    m_hub.parts.txtEdit->hide();
+    const bool hadFocus = m_parts.txtEdit->hasFocus();
+    m_parts.txtEdit->hide();
     if (hadFocus)
-        m_hub.parts.MSFlexGrid1->setFocus();
+        m_parts.MSFlexGrid1->setFocus();
 }
 
 bool CellEditor::eventFilter(QObject *watched, QEvent *event)
@@ -153,7 +144,7 @@ bool CellEditor::eventFilter(QObject *watched, QEvent *event)
         switch (static_cast<QKeyEvent *>(event)->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            take();
+            commit();
             return true;
         case Qt::Key_Escape:
             close();

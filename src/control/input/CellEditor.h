@@ -1,12 +1,13 @@
 #pragma once
 
-#include "control/commands/ControlHub.h"
-
 #include <QtCore/QObject>
 
 #include <optional>
 
 namespace KOVAVSFDataGridLib {
+
+class GridParts;
+class Session;
 
 // txtEdit, laid over a value of the single-record list. What is taken from it is written into the field of
 // the current record; it reaches the database when the record is saved.
@@ -15,17 +16,18 @@ class CellEditor : public QObject
     Q_OBJECT
 
 public:
-    explicit CellEditor(ControlHub &hub);
+    // Both must outlive this object.
+    CellEditor(Session &session, GridParts &parts);
 
     // Opens over the list's current row for the field in that column of the main grid (from 1), with its
     // value, or with a text that the user began with. A field that can't be written is opened for reading,
     // and says so. False when there is no such field or no record.
     bool begin(int gridCol, const std::optional<QString> &typed = {});
     bool isOpen() const;
-    // Closes it and writes what was typed into the field. A text that does not fit is told (unless
-    // `isQuiet`), stays, and the answer is false. True when it isn't open. False as well when the host, told
-    // of the new value, has put another result in its place or destroyed the control.
-    bool take(bool isQuiet = false);
+    // Closes it and writes what was typed into the field. A text that doesn't fit is reported (unless
+    // `isQuiet`), stays, and the answer is false. True when it isn't open. False as well when the host, while
+    // the user read that, has put another result in its place or destroyed the control.
+    bool commit(bool isQuiet = false);
     // Closes it and forgets what was typed.
     void close();
 
@@ -34,13 +36,13 @@ protected:
 
 private:
     void place();
-    bool tryToTake(bool isQuiet);
     void putValue(const QString &text);
 
-    ControlHub &m_hub;
+    Session &m_session;
+    GridParts &m_parts;
     int m_field = 0; // 0-based
     int m_row = 0;   // of the list
-    bool m_isTaking = false;
+    bool m_isCommitting = false;
 };
 
 } // namespace KOVAVSFDataGridLib

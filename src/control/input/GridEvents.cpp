@@ -8,10 +8,9 @@
 #include "control/input/MenuKey.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridToolbar.h"
-#include "control/parts/PageView.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
-#include "session/ResultSet.h"
+#include "session/Session.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
@@ -50,9 +49,8 @@ struct MouseArguments
 
 } // namespace
 
-GridEvents::GridEvents(KOVAVSFDataGrid &control, const GridParts &parts, const ResultSet &result,
-                       const PageView &pages)
-    : m_control(control), m_parts(parts), m_result(result), m_pages(pages)
+GridEvents::GridEvents(KOVAVSFDataGrid &control, const GridParts &parts, Session &session)
+    : m_control(control), m_parts(parts), m_session(session)
 {
     VSFlexGrid &grid = *parts.vsfgDataGrid;
     for (QWidget *surface :
@@ -154,7 +152,7 @@ GridEvents::Place GridEvents::placeOf(const QWidget &source, const QMouseEvent &
 void GridEvents::clicked(Place place)
 {
     QFile::remove(pictureFile());
-    if (!isData(place) || m_parts.vsfgDataGrid->Row() == 0 || !m_result.isOpen())
+    if (!isData(place) || m_parts.vsfgDataGrid->Row() == 0 || !m_session.result().isOpen())
         return;
     writePicture();
     Q_EMIT m_control.DataClick();
@@ -163,30 +161,27 @@ void GridEvents::clicked(Place place)
 void GridEvents::followGridRow()
 {
     VSFlexGrid &grid = *m_parts.vsfgDataGrid;
-    if (grid.Row() == 0 || !m_result.isOpen())
+    if (grid.Row() == 0 || !m_session.result().isOpen())
         return;
-    const QPointer<GridEvents> alive(this);
-    const auto recordset = m_result.recordset();
-    const qint64 record = m_pages.recordOfRow(grid.Row());
+    const ADODB::Notifications::Hold hold(m_session.notifications());
+    ADODB::Recordset &recordset = *m_session.result().recordset();
+    const qint64 record = m_session.recordOfRow(grid.Row());
     try {
-        if (record <= recordset->RecordCount() && record != recordset->AbsolutePosition())
-            recordset->PutAbsolutePosition(record);
+        if (record <= recordset.RecordCount() && record != recordset.AbsolutePosition())
+            recordset.PutAbsolutePosition(record);
     } catch (const ADODB::Error &) {
-        if (!alive || !m_result.isOpen() || m_result.recordset() != recordset)
-            return; // the host, told that the edit was saved, has put something else in its place
-        const qint64 row = recordset->AbsolutePosition() - m_pages.recordOfRow(1) + 1;
-        if (row >= 1 && row < grid.Rows())
-            grid.PutRow(static_cast<int>(row));
+        if (const int row = m_session.rowOfRecord(recordset.AbsolutePosition()); row > 0)
+            grid.PutRow(row);
     }
 }
 
 void GridEvents::writePicture()
 {
-    const int index = m_pages.pictureFieldIndex();
+    const int index = m_session.pictureField();
     if (index < 0)
         return;
     try {
-        const QVariant picture = m_result.recordset()->Fields().Item(index).Value();
+        const QVariant picture = m_session.result().recordset()->Fields().Item(index).Value();
         if (!picture.isValid())
             return;
         ADODB::Stream stream;
@@ -255,7 +250,8 @@ bool GridEvents::keyPressed(QKeyEvent &event)
 
 void GridEvents::askForMenu(const QPoint &position)
 {
-    if (m_parts.Toolbar1->isEnabled() && m_result.isOpen() && m_result.recordset()->RecordCount() > 0)
+    if (m_parts.Toolbar1->isEnabled() && m_session.result().isOpen() &&
+        m_session.result().recordset()->RecordCount() > 0)
         Q_EMIT menuWanted(position);
 }
 

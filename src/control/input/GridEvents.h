@@ -9,8 +9,7 @@ class QMouseEvent;
 namespace KOVAVSFDataGridLib {
 
 class GridParts;
-class PageView;
-class ResultSet;
+class Session;
 
 // Turns what the user does on the grid with mouse and keys into the control's events, moves the recordset
 // along with the grid's current row, and leaves a clicked record's picture in a file for the host.
@@ -22,8 +21,7 @@ class GridEvents : public QObject
 
 public:
     // All must outlive this object.
-    GridEvents(KOVAVSFDataGrid &control, const GridParts &parts, const ResultSet &result,
-               const PageView &pages);
+    GridEvents(KOVAVSFDataGrid &control, const GridParts &parts, Session &session);
 
     // Moves the recordset to the record of the grid's current row; the data control tells of the move. A
     // record that can't be left (its edit can't be saved) stays current, in the grid as well.
@@ -60,8 +58,7 @@ private:
 
     KOVAVSFDataGrid &m_control;
     const GridParts &m_parts;
-    const ResultSet &m_result;
-    const PageView &m_pages;
+    Session &m_session;
     bool m_isPressed = false; // the left button, and no double-click has come of it
 };
 

@@ -1,16 +1,18 @@
 #include "control/input/SingleRecordView.h"
 
-#include "ado/Adodc.h"
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "ado/ValueText.h"
-#include "control/face/KOVAVSFDataGridPrivate.h"
+#include "control/face/KOVAVSFDataGrid.h"
 #include "control/input/MenuKey.h"
+#include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "grid/TextCells.h"
 #include "grid/Twips.h"
+#include "session/Session.h"
+#include "session/commands/CommandKeys.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
@@ -49,66 +51,64 @@ bool carriesText(const QInputMethodEvent &event)
 
 } // namespace
 
-SingleRecordView::SingleRecordView(ControlHub &hub) : m_hub(hub), m_editor(hub)
+SingleRecordView::SingleRecordView(KOVAVSFDataGrid &control, Session &session, GridParts &parts)
+    : m_control(control), m_session(session), m_parts(parts), m_editor(session, parts)
 {
-    MSFlexGrid &list = *hub.parts.MSFlexGrid1;
+    MSFlexGrid &list = *parts.MSFlexGrid1;
     list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
     list.horizontalHeader()->viewport()->installEventFilter(this);
     connect(&list, &FlexGrid::CurrentRowChanged, this, [this, &list] {
         list.setAttribute(Qt::WA_InputMethodEnabled); // so that Chinese can be typed to begin an edit
-        m_editor.take();                              // last, because the host may delete the control
+        m_editor.commit();                            // last, because the host may delete the control
     });
-    connect(&hub.q, &KOVAVSFDataGrid::RecordChanged, this, &SingleRecordView::refillIfShown);
 }
 
-void SingleRecordView::ShowSingleRecord()
+void SingleRecordView::show()
 {
-    const bool hadFocus = m_hub.parts.vsfgDataGrid->hasFocus();
+    const bool hadFocus = m_parts.vsfgDataGrid->hasFocus();
     FillSingleRecordView();
     fitNameColumn();
-    m_hub.parts.MSFlexGrid1->show();
-    m_hub.q.setFocusProxy(m_hub.parts.MSFlexGrid1);
-    m_hub.parts.vsfgDataGrid->hide();
-    m_hub.parts.Toolbar1->setButtonVisible(u"SingleRecord"_s, false);
-    m_hub.parts.Toolbar1->setButtonVisible(u"AllRecord"_s, true);
+    m_parts.MSFlexGrid1->show();
+    m_control.setFocusProxy(m_parts.MSFlexGrid1);
+    m_parts.vsfgDataGrid->hide();
+    m_parts.Toolbar1->setButtonVisible(CommandKeys::SingleRecord, false);
+    m_parts.Toolbar1->setButtonVisible(CommandKeys::AllRecord, true);
     if (hadFocus)
-        m_hub.parts.MSFlexGrid1->setFocus();
+        m_parts.MSFlexGrid1->setFocus();
 }
 
-void SingleRecordView::ShowAllRecords()
+void SingleRecordView::hide()
 {
-    const bool hadFocus = m_hub.parts.MSFlexGrid1->hasFocus() || m_hub.parts.txtEdit->hasFocus();
+    const bool hadFocus = m_parts.MSFlexGrid1->hasFocus() || m_parts.txtEdit->hasFocus();
     m_editor.close();
-    m_hub.showMultiRecordView();
+    m_parts.vsfgDataGrid->show();
+    m_control.setFocusProxy(m_parts.vsfgDataGrid);
+    m_parts.MSFlexGrid1->hide();
+    m_parts.Toolbar1->setButtonVisible(CommandKeys::SingleRecord, true);
+    m_parts.Toolbar1->setButtonVisible(CommandKeys::AllRecord, false);
     if (hadFocus)
-        m_hub.parts.vsfgDataGrid->setFocus();
-}
-
-void SingleRecordView::leave()
-{
-    if (m_hub.isSingleRecordShown())
-        ShowAllRecords();
+        m_parts.vsfgDataGrid->setFocus();
 }
 
 void SingleRecordView::FillSingleRecordView()
 {
     m_editor.close();
     m_fields.clear();
-    const int fields = m_hub.result.isOpen() ? m_hub.result.recordset()->Fields().Count() : 0;
+    const int fields = m_session.result().isOpen() ? m_session.result().recordset()->Fields().Count() : 0;
     for (int field = 0; field < fields; ++field) {
-        if (isListed(m_hub.result.recordset()->Fields().Item(field)))
+        if (isListed(m_session.result().recordset()->Fields().Item(field)))
             m_fields.push_back(field);
     }
 
-    MSFlexGrid &list = *m_hub.parts.MSFlexGrid1;
+    MSFlexGrid &list = *m_parts.MSFlexGrid1;
     const int row = list.Row();
     auto cells = std::make_unique<TextCells>(static_cast<int>(m_fields.size()) + 1, 2);
     cells->setText(0, NameCol, GridTexts::FieldNameHeading);
     cells->setText(0, ValueCol, GridTexts::FieldValueHeading);
     int at = 0;
     for (const int field : m_fields) {
-        cells->setText(++at, NameCol, m_hub.result.recordset()->Fields().Item(field).Name());
+        cells->setText(++at, NameCol, m_session.result().recordset()->Fields().Item(field).Name());
         cells->setText(at, ValueCol, valueText(field));
     }
     list.Show(std::move(cells));
@@ -118,16 +118,10 @@ void SingleRecordView::FillSingleRecordView()
     }
 }
 
-void SingleRecordView::refillIfShown()
-{
-    if (m_hub.isSingleRecordShown())
-        FillSingleRecordView();
-}
-
 QString SingleRecordView::valueText(int field) const
 {
     try {
-        return ADODB::ValueText(m_hub.result.recordset()->Fields().Item(field).Value());
+        return ADODB::ValueText(m_session.result().recordset()->Fields().Item(field).Value());
     } catch (const ADODB::Error &) {
         return {}; // there is no current record
     }
@@ -135,13 +129,13 @@ QString SingleRecordView::valueText(int field) const
 
 int SingleRecordView::currentGridCol() const
 {
-    const int row = m_hub.parts.MSFlexGrid1->Row();
+    const int row = m_parts.MSFlexGrid1->Row();
     return row < 1 ? 0 : m_fields[static_cast<std::size_t>(row - 1)] + 1;
 }
 
 void SingleRecordView::fitNameColumn()
 {
-    MSFlexGrid &list = *m_hub.parts.MSFlexGrid1;
+    MSFlexGrid &list = *m_parts.MSFlexGrid1;
     int width = 0;
     for (int row = 0; row < list.Rows(); ++row)
         width = std::max(width, list.fontMetrics().horizontalAdvance(list.TextMatrix(row, NameCol)));
@@ -159,12 +153,12 @@ bool SingleRecordView::isDealtWith(QObject *watched, QEvent *event)
     const auto *source = static_cast<const QWidget *>(watched);
     switch (event->type()) {
     case QEvent::KeyPress:
-        return watched == m_hub.parts.MSFlexGrid1 && keyPressed(*static_cast<QKeyEvent *>(event));
+        return watched == m_parts.MSFlexGrid1 && keyPressed(*static_cast<QKeyEvent *>(event));
     case QEvent::InputMethod:
         if (!carriesText(*static_cast<QInputMethodEvent *>(event)) ||
             !m_editor.begin(currentGridCol(), u""_s))
             return false;
-        return QCoreApplication::sendEvent(m_hub.parts.txtEdit, event);
+        return QCoreApplication::sendEvent(m_parts.txtEdit, event);
     case QEvent::MouseButtonDblClick:
         if (static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
             doubleClicked(*source, *static_cast<QMouseEvent *>(event));
@@ -174,7 +168,7 @@ bool SingleRecordView::isDealtWith(QObject *watched, QEvent *event)
         return true;
     case QEvent::MouseButtonRelease:
         if (static_cast<QMouseEvent *>(event)->button() == Qt::RightButton &&
-            watched == m_hub.parts.MSFlexGrid1->viewport())
+            watched == m_parts.MSFlexGrid1->viewport())
             Q_EMIT menuWanted(static_cast<QMouseEvent *>(event)->globalPosition().toPoint());
         return false;
     default:
@@ -191,7 +185,7 @@ bool SingleRecordView::keyPressed(const QKeyEvent &event)
         return true;
     }
     if (isMenuKey(event)) {
-        Q_EMIT menuWanted(menuPlace(*m_hub.parts.MSFlexGrid1));
+        Q_EMIT menuWanted(menuPlace(*m_parts.MSFlexGrid1));
         return true;
     }
     return isText(event) && m_editor.begin(currentGridCol(), event.text());
@@ -200,17 +194,17 @@ bool SingleRecordView::keyPressed(const QKeyEvent &event)
 void SingleRecordView::doubleClicked(const QWidget &source, const QMouseEvent &event)
 {
     const QPointer<SingleRecordView> alive(this);
-    Q_EMIT m_hub.q.DataDblClick();
+    Q_EMIT m_control.DataDblClick();
     if (!alive)
         return;
-    MSFlexGrid &list = *m_hub.parts.MSFlexGrid1;
-    const int gridRow = m_hub.parts.vsfgDataGrid->Row();
+    MSFlexGrid &list = *m_parts.MSFlexGrid1;
+    const int gridRow = m_parts.vsfgDataGrid->Row();
     const QPoint position = event.position().toPoint();
     if (&source == list.horizontalHeader()->viewport()) {
         if (list.horizontalHeader()->logicalIndexAt(position) == ValueCol)
-            Q_EMIT m_hub.q.DataDBLClickOneRow(gridRow);
+            Q_EMIT m_control.DataDBLClickOneRow(gridRow);
     } else if (list.indexAt(position).isValid()) {
-        Q_EMIT m_hub.q.DataDBLClickOneCell(currentGridCol(), gridRow);
+        Q_EMIT m_control.DataDBLClickOneCell(currentGridCol(), gridRow);
     }
 }
 

@@ -1,13 +1,15 @@
 #pragma once
 
-#include "control/commands/ControlHub.h"
 #include "control/input/CellEditor.h"
 
 #include <QtCore/QObject>
 
 #include <vector>
 
+class KOVAVSFDataGrid;
+class QKeyEvent;
 class QMouseEvent;
+class QWidget;
 
 namespace KOVAVSFDataGridLib {
 
@@ -18,15 +20,14 @@ class SingleRecordView : public QObject
     Q_OBJECT
 
 public:
-    explicit SingleRecordView(ControlHub &hub);
+    // All must outlive this object. The view's double-clicks become events of `control`.
+    SingleRecordView(KOVAVSFDataGrid &control, Session &session, GridParts &parts);
 
-    void ShowSingleRecord();
-    void ShowAllRecords();
-    // The same, but nothing happens where many records are shown already.
-    void leave();
+    // The list in place of the grid, and the grid in place of the list. The keyboard goes along.
+    void show();
+    void hide();
     // Lists the open result's current record; a result without one gives fields without values.
     void FillSingleRecordView();
-    void refillIfShown();
     // The main grid's column of the field that is current in the list; 0 when none is.
     int currentGridCol() const;
     CellEditor &editor() { return m_editor; }
@@ -47,7 +48,9 @@ private:
     void fitNameColumn();
     QString valueText(int field) const;
 
-    ControlHub &m_hub;
+    KOVAVSFDataGrid &m_control;
+    Session &m_session;
+    GridParts &m_parts;
     std::vector<int> m_fields; // the 0-based field of each row below the heading
     CellEditor m_editor;
 };

@@ -1,16 +1,16 @@
 #include "control/parts/ButtonItem.h"
 
-#include "control/parts/GridTexts.h"
 #include "control/parts/ToolbarIcons.h"
+#include "session/commands/Command.h"
 
 #include <QtGui/QAction>
 
 namespace KOVAVSFDataGridLib {
 
-void dressAsButton(QAction &item, const QString &key)
+void dressAsButton(QAction &item, const Command &command)
 {
-    const QKeySequence shortcut(GridTexts::buttonOf(key).shortcut);
-    item.setIcon(toolbarIcon(key));
+    const QKeySequence shortcut(command.shortcut);
+    item.setIcon(toolbarIcon(command.key));
     item.setText(item.text() + u'\t' + shortcut.toString(QKeySequence::NativeText));
 }
 

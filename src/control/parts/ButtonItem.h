@@ -1,12 +1,13 @@
 #pragma once
 
 class QAction;
-class QString;
 
 namespace KOVAVSFDataGridLib {
 
-// Gives a menu item that repeats a toolbar button that button's picture, and tells its shortcut beside the
+struct Command;
+
+// Gives a menu item that repeats a toolbar button that button's picture, and shows its shortcut beside the
 // caption. The shortcut itself stays the button's.
-void dressAsButton(QAction &item, const QString &key);
+void dressAsButton(QAction &item, const Command &command);
 
 } // namespace KOVAVSFDataGridLib

@@ -19,15 +19,15 @@ EmptyHint::EmptyHint(QAbstractScrollArea &view) : QLabel(&view), m_view(view)
     hide();
 }
 
-void EmptyHint::tell(const QString &text)
+void EmptyHint::showText(const QString &text)
 {
     setText(text);
     place();
 }
 
-void EmptyHint::tellNoRecords(bool canGoBack)
+void EmptyHint::showNoRecords(bool canGoBack)
 {
-    tell(canGoBack ? GridTexts::NoRecordsFound : GridTexts::NoRecords);
+    showText(canGoBack ? GridTexts::NoRecordsFound : GridTexts::NoRecords);
 }
 
 bool EmptyHint::eventFilter(QObject *watched, QEvent *event)

@@ -15,9 +15,9 @@ public:
     explicit EmptyHint(QAbstractScrollArea &view);
 
     // An empty text hides it.
-    void tell(const QString &text);
+    void showText(const QString &text);
     // That the result has no records, and whether a step back leads to one that may have some.
-    void tellNoRecords(bool canGoBack);
+    void showNoRecords(bool canGoBack);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -1,52 +1,81 @@
 #include "control/parts/GridToolbar.h"
 
-#include "control/parts/GridTexts.h"
 #include "control/parts/ToolbarIcons.h"
+#include "session/commands/Command.h"
+#include "session/commands/CommandKeys.h"
 
 #include <QtGui/QAction>
 #include <QtGui/QActionGroup>
 
+#include <utility>
+
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int PlacesOfGroup = 100;
+
+} // namespace
 
 GridToolbar::GridToolbar(QWidget *parent) : QToolBar(parent)
 {
     setObjectName(u"Toolbar1"_s);
     setIconSize(QSize(16, 16));
     auto *views = new QActionGroup(this);
-    for (const GridTexts::Button &text : GridTexts::Buttons) {
-        if (text.beginsGroup)
-            addSeparator();
-        const QString key = text.key;
-        QAction *action = addAction(text.caption);
-        action->setObjectName(key);
-        action->setIcon(toolbarIcon(key));
-        action->setShortcut(QKeySequence(text.shortcut));
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        action->setToolTip(
-            u"%1 (%2)"_s.arg(text.toolTip, action->shortcut().toString(QKeySequence::NativeText)));
-        connect(action, &QAction::triggered, this, [this, key] {
-            showPressed();
-            Q_EMIT buttonClicked(key);
-        });
-        if (key == u"All" || key == u"Part") {
-            action->setCheckable(true);
-            views->addAction(action);
-        }
-        if (key == u"FromResult")
-            action->setCheckable(true);
-        m_buttons.emplace(key, Button{.action = action});
+    int group = 0;
+    for (const Command *command : Command::all()) {
+        if (command->button)
+            addButton(*command, *views, std::exchange(group, command->button->place / PlacesOfGroup));
     }
-    setButtonPressed(u"All"_s, true);
-    setButtonVisible(u"AllRecord"_s, false);
+    setButtonPressed(CommandKeys::All, true);
+    setButtonVisible(CommandKeys::AllRecord, false);
+}
+
+void GridToolbar::addButton(const Command &command, QActionGroup &views, int lastGroup)
+{
+    if (lastGroup > 0 && command.button->place / PlacesOfGroup != lastGroup)
+        addSeparator();
+    const QString key = command.key;
+    QAction *action = addAction(command.button->caption);
+    action->setObjectName(key);
+    action->setIcon(toolbarIcon(key));
+    action->setShortcut(QKeySequence(command.shortcut));
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    action->setToolTip(
+        u"%1 (%2)"_s.arg(command.button->toolTip, action->shortcut().toString(QKeySequence::NativeText)));
+    action->setCheckable(command.button->isToggle);
+    if (key == CommandKeys::All || key == CommandKeys::Part)
+        views.addAction(action);
+    connect(action, &QAction::triggered, this, [this, key] {
+        showPressed();
+        Q_EMIT buttonClicked(key);
+    });
+    m_buttons.emplace(key, Button{.action = action});
+}
+
+// What a window has no command for isn't offered, nor a separator with no button after the one before it.
+void GridToolbar::hideButtonsNotInViewer()
+{
+    for (const auto &[key, button] : m_buttons) {
+        if (!Command::find(key)->isInViewer)
+            setButtonVisible(key, false);
+    }
+    bool isGroupEmpty = true;
+    for (QAction *action : actions()) {
+        if (action->isSeparator())
+            action->setVisible(!isGroupEmpty);
+        if (action->isVisible())
+            isGroupEmpty = action->isSeparator();
+    }
 }
 
 QStringList GridToolbar::keys() const
 {
     QStringList keys;
-    for (const GridTexts::Button &text : GridTexts::Buttons)
-        keys.append(text.key);
+    for (const auto &[key, button] : m_buttons)
+        keys.append(key);
     return keys;
 }
 
@@ -113,13 +142,16 @@ void GridToolbar::showPressed()
 const GridToolbar::Button *GridToolbar::find(const QString &key) const
 {
     const auto found = m_buttons.find(key);
-    return found == m_buttons.end() ? nullptr : &found->second;
+    if (found == m_buttons.end()) {
+        qWarning("No button has the key %s", qPrintable(key));
+        return nullptr;
+    }
+    return &found->second;
 }
 
 GridToolbar::Button *GridToolbar::find(const QString &key)
 {
-    const auto found = m_buttons.find(key);
-    return found == m_buttons.end() ? nullptr : &found->second;
+    return const_cast<Button *>(std::as_const(*this).find(key));
 }
 
 // An action that is not visible counts as disabled in Qt, so both are set each time, in this order.

@@ -4,12 +4,16 @@
 
 #include <map>
 
+class QActionGroup;
+
 namespace KOVAVSFDataGridLib {
+
+struct Command;
 
 // The toolbar of the control and of its full-screen viewer: one button per command, known by its key.
 //
 // A button's enabled state is the one it was given by itself; it is not touched by a disabled toolbar
-// or a hidden button. A key that no button has is ignored, and reads as off.
+// or a hidden button. A key that no button has is a mistake: it gives a warning and reads as off.
 class GridToolbar final : public QToolBar
 {
     Q_OBJECT
@@ -18,6 +22,8 @@ public:
     explicit GridToolbar(QWidget *parent = nullptr);
 
     QStringList keys() const;
+    // Leaves out what the full-screen viewer doesn't have.
+    void hideButtonsNotInViewer();
     bool isButtonEnabled(const QString &key) const;
     void setButtonEnabled(const QString &key, bool on);
     void setAllButtonsEnabled(bool on);
@@ -41,6 +47,7 @@ private:
         bool isPressed = false;
     };
 
+    void addButton(const Command &command, QActionGroup &views, int lastGroup);
     const Button *find(const QString &key) const;
     Button *find(const QString &key);
     void apply(const Button &button);

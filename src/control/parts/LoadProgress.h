@@ -1,6 +1,7 @@
 #pragma once
 
 #include "query/SharedValues.h"
+#include "session/SessionWindow.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QObject>
@@ -23,7 +24,7 @@ namespace KOVAVSFDataGridLib {
 // From then on the application's events are dispatched, so that windows are drawn and timers run, but
 // nothing except the line takes the user's input (a modal dialog that a timer has opened meanwhile does).
 // Only one can live in a process: make none while SharedValues::isOpening.
-class LoadProgress final : public QObject
+class LoadProgress final : public QObject, public OpeningProgress
 {
     Q_OBJECT
 
@@ -33,8 +34,7 @@ public:
     LoadProgress(QWidget &window, std::function<QRect()> place);
     ~LoadProgress() override;
 
-    // To be called every few milliseconds; false once the user has cancelled. It doesn't throw.
-    bool goOn(qint64 rowsRead);
+    bool goOn(qint64 rowsRead) override;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -3,6 +3,7 @@
 #include "control/parts/ButtonItem.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/GridToolbar.h"
+#include "session/commands/Command.h"
 
 #include <QtGui/QAction>
 #include <QtWidgets/QMenu>
@@ -11,21 +12,29 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int LastIndex = 15; // those without a command are separators
+
+} // namespace
+
 PopupMenu::PopupMenu(QWidget &control, const GridToolbar &toolbar)
     : m_toolbar(toolbar), m_menu(new QMenu(&control))
 {
     m_menu->setObjectName(u"PopMnuData"_s);
     m_menu->setAccessibleName(GridTexts::MenuName);
-    int index = 0;
-    for (const GridTexts::PopupItem &item : GridTexts::PopupItems) {
-        QAction *action = item.caption.isEmpty() ? m_menu->addSeparator() : m_menu->addAction(item.caption);
-        action->setObjectName(u"PopMnuDataAction%1"_s.arg(++index));
+    for (int index = 1; index <= LastIndex; ++index) {
+        const Command *const command = Command::findMenuItem(index);
+        QAction *action = command ? m_menu->addAction(command->menu.caption) : m_menu->addSeparator();
+        action->setObjectName(u"PopMnuDataAction%1"_s.arg(index));
         action->setData(index);
-        action->setProperty("key", item.key);
-        if (!item.key.isEmpty()) {
-            dressAsButton(*action, item.key);
-        } else if (!item.shortcut.isEmpty()) {
-            action->setShortcut(QKeySequence(item.shortcut));
+        if (!command)
+            continue;
+        if (command->button) {
+            action->setProperty("key", command->key);
+            dressAsButton(*action, *command);
+        } else if (!command->shortcut.isEmpty()) {
+            action->setShortcut(QKeySequence(command->shortcut));
             action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
             control.addAction(action);
         }

@@ -23,7 +23,7 @@ StatementLine::StatementLine(QWidget *parent) : ElidedLabel(parent)
     addAction(copyAction);
 }
 
-void StatementLine::tell(const QString &place, const QString &statement)
+void StatementLine::show(const QString &place, const QString &statement)
 {
     m_statement = statement;
     setText(statement.isEmpty() ? QString() : place + GridTexts::BeforeStatement + statement.simplified());

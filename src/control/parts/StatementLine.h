@@ -14,7 +14,8 @@ public:
     explicit StatementLine(QWidget *parent);
 
     // `place` tells which record is current. An empty statement empties the line.
-    void tell(const QString &place, const QString &statement);
+    using QWidget::show;
+    void show(const QString &place, const QString &statement);
     const QString &statement() const { return m_statement; }
 
 private:

@@ -5,19 +5,15 @@
 #include "ado/Recordset.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridToolbar.h"
-#include "control/parts/PageView.h"
 #include "control/viewer/frm_FullScreen.h"
-#include "grid/FlexGrid.h"
-#include "query/clsFilterManagement.h"
-#include "session/ColumnLayout.h"
-#include "session/ResultSet.h"
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+#include "session/commands/CommandKeys.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QPushButton>
 
 namespace KOVAVSFDataGridLib {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -27,41 +23,42 @@ bool isOffered(const GridToolbar &toolbar, const QString &key)
 }
 
 // The user's stay in the viewer. It ends early when the host destroys the control, or opens or closes a
-// result of it: what the control has lent is another's or gone from then on. The viewer itself is still
-// there, as one of its commands may be what the host was told of.
+// result of it: what the session has lent is another's or gone from then on. The viewer itself is still
+// there, as one of its commands may be what the host heard of.
 class Visit
 {
 public:
-    explicit Visit(const FullScreenRequest &control);
+    Visit(QWidget &control, Session &session, GridParts &parts,
+          const std::function<QString(QWidget *parent)> &askCondition);
 
     frm_FullScreen &viewer() { return m_viewer; }
     bool isOver() const { return m_isOver; }
 
 private:
     void end();
-    ViewerHost::Opened open(const QString &statement, const std::function<bool(qint64)> &progress);
-    bool replaceResult(const ResultSet::Opened &opened);
+    ResultSet::Opened open(const QString &statement, const ResultSet::Progress &progress);
 
-    const FullScreenRequest &m_control;
+    Session &m_session;
     bool m_isReplacing = false; // the viewer itself puts another result in its place
     bool m_isOver = false;
     frm_FullScreen m_viewer;
 };
 
-Visit::Visit(const FullScreenRequest &control)
-    : m_control(control),
-      m_viewer({[this](const QString &statement, const std::function<bool(qint64)> &progress) {
+Visit::Visit(QWidget &control, Session &session, GridParts &parts,
+             const std::function<QString(QWidget *)> &askCondition)
+    : m_session(session),
+      m_viewer({[this](const QString &statement, const ResultSet::Progress &progress) {
                     return open(statement, progress);
                 },
-                control.askCondition},
-               control.parts.picMainBack)
+                askCondition},
+               parts.picMainBack)
 {
-    QObject::connect(control.parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, &m_viewer, [this] {
+    QObject::connect(parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, &m_viewer, [this] {
         if (!m_isReplacing)
             end();
     });
-    // Told before the control deletes its children, of which the viewer must be none then.
-    QObject::connect(&control.owner, &QObject::destroyed, &m_viewer, [this] {
+    // Heard of before the control deletes its children, of which the viewer must be none then.
+    QObject::connect(&control, &QObject::destroyed, &m_viewer, [this] {
         end();
         m_viewer.setParent(nullptr, m_viewer.windowFlags());
     });
@@ -77,82 +74,64 @@ void Visit::end()
 }
 
 // The control's own grid goes along at once, because its rows are read from the result that was replaced.
-ViewerHost::Opened Visit::open(const QString &statement, const std::function<bool(qint64)> &progress)
+ResultSet::Opened Visit::open(const QString &statement, const ResultSet::Progress &progress)
 {
-    const auto opened = ResultSet::open(m_control.connectionString, statement, m_control.dbType,
-                                        [&](qint64 rowsRead) { return progress(rowsRead) && !m_isOver; });
-    if (!m_isOver && !replaceResult(opened) && !m_isOver)
-        end();
+    const auto opened =
+        ResultSet::open(m_session.texts.connectionString, statement, m_session.filterManager().DBType(),
+                        [&](qint64 rowsRead) { return progress(rowsRead) && !m_isOver; });
+    if (!m_isOver) {
+        const QScopedValueRollback<bool> replacing(m_isReplacing, true);
+        if (!m_session.replaceResult(opened) && !m_isOver)
+            end();
+    }
     if (m_isOver)
         throw ADODB::Error(ADODB::dbErrCancelled, {});
-    m_control.parts.vsfgDataGrid->ResetColWidths();
-    m_control.pages.setCurrentPage(1);
-    m_control.pages.fill(m_control.pictureField);
-    return {opened.connection, opened.recordset};
+    return opened;
 }
 
-// False when the host, told of it, has put something else in the result's place or destroyed the control.
-bool Visit::replaceResult(const ResultSet::Opened &opened)
+void takeOver(Session &session, GridParts &parts, const frm_FullScreen &viewer, bool wasAll)
 {
-    const QScopedValueRollback<bool> replacing(m_isReplacing, true);
-    ResultSet &result = m_control.result;
-    result.close();
-    if (m_isOver || result.isOpen())
-        return false;
-    result.replaceBy(opened);
-    return !m_isOver && result.recordset() == opened.recordset && result.isOpen();
-}
-
-void layOutColumns(const FullScreenRequest &control, bool isAll)
-{
-    ColumnLayout columns(*control.parts.vsfgDataGrid, control.filter->SQLManager());
-    if (isAll)
-        columns.ShowAllFieldColumns();
-    else
-        columns.ShowPartFieldColumns(1);
-}
-
-void takeOver(const FullScreenRequest &control, const frm_FullScreen &viewer, bool wasAll)
-{
-    GridToolbar &toolbar = *control.parts.Toolbar1;
-    toolbar.setEnabled(true);
-    control.parts.cmdPgae->setEnabled(true);
-    toolbar.setButtonPressed(viewer.IsAll() ? u"All"_s : u"Part"_s, true);
-
-    const bool isPageTurned = viewer.GetPageIndex() != control.pages.currentPage();
-    if (isPageTurned) {
-        control.pages.setCurrentPage(viewer.GetPageIndex());
-        control.pages.fill(control.pictureField);
-    }
+    const ADODB::Notifications::Hold hold(session.notifications());
+    parts.Toolbar1->setEnabled(true);
+    parts.cmdPgae->setEnabled(true);
+    session.setFieldView(viewer.IsAll() ? FieldView::All : FieldView::Part);
+    const bool isPageTurned = viewer.GetPageIndex() != session.page();
+    if (isPageTurned)
+        session.showPage(viewer.GetPageIndex());
     if (viewer.IsRequeried() || viewer.IsAll() != wasAll || (isPageTurned && !viewer.IsAll()))
-        layOutColumns(control, viewer.IsAll());
+        session.layOutColumns();
+    session.setStatement(viewer.CurrentSQL());
+    if (viewer.IsRequeried())
+        session.writeFilter(viewer.CurrentSQL());
 }
 
 } // namespace
 
-std::optional<FullScreenOutcome> ShowFullScreen(const FullScreenRequest &control)
+bool ShowFullScreen(QWidget &control, Session &session, GridParts &parts,
+                    const std::function<QString(QWidget *)> &askCondition)
 {
-    if (!control.result.isOpen() || control.result.recordset()->RecordCount() == 0)
-        return std::nullopt;
-    const GridToolbar &toolbar = *control.parts.Toolbar1;
-    const bool wasAll = toolbar.isButtonPressed(u"All"_s);
-    // The viewer opens with the widths that the user sees.
-    ColumnLayout(*control.parts.vsfgDataGrid, control.filter->SQLManager()).SaveColumnWidths(0);
+    if (!session.hasRecords())
+        return false;
+    const auto alive = session.shared_from_this();
+    if (session.window().isSingleRecordShown())
+        session.window().showAllRecords();
+    const GridToolbar &toolbar = *parts.Toolbar1;
+    const bool wasAll = toolbar.isButtonPressed(CommandKeys::All);
+    session.columns().SaveColumnWidths(0); // the viewer opens with the widths that the user sees
 
-    Visit visit(control);
+    Visit visit(control, session, parts, askCondition);
     frm_FullScreen &viewer = visit.viewer();
-    viewer.PutFilterManager(control.filter);
-    viewer.GetData(control.result.connection(), control.result.recordset(), control.pages.currentPage(),
-                   control.connectionString, control.statement, true, control.sqlSort, wasAll,
-                   isOffered(toolbar, u"Filter"_s), isOffered(toolbar, u"Sort"_s),
-                   isOffered(toolbar, u"ToFullTable"_s));
+    viewer.PutFilterManager(session.sharedFilterManager());
+    viewer.GetData(session.result().connection(), session.result().recordset(), session.page(),
+                   session.texts.connectionString, session.statement(), true, session.texts.sqlSort, wasAll,
+                   isOffered(toolbar, CommandKeys::Filter), isOffered(toolbar, CommandKeys::Sort),
+                   isOffered(toolbar, CommandKeys::ToFullTable));
     viewer.exec();
     if (visit.isOver())
-        return std::nullopt;
-
-    takeOver(control, viewer, wasAll);
+        return false;
+    takeOver(session, parts, viewer, wasAll);
     viewer.ClearRefObject();
-    return FullScreenOutcome{viewer.IsAll(), viewer.IsRequeried(), viewer.CurrentSQL()};
+    return true;
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -4,6 +4,10 @@
 #include "control/parts/GridTexts.h"
 #include "control/parts/GridToolbar.h"
 #include "control/viewer/ViewerTexts.h"
+#include "session/commands/Command.h"
+#include "session/commands/CommandKeys.h"
+
+#include <algorithm>
 
 namespace KOVAVSFDataGridLib {
 
@@ -11,9 +15,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString actionName(int index)
+constexpr int BackIndex = 7; // those before it without a command are separators
+
+const Command *commandOf(int index)
 {
-    return u"PopMnuAction"_s + QString::number(index);
+    const auto &all = Command::all();
+    const auto found =
+        std::ranges::find_if(all, [=](const Command *command) { return command->viewerMenu.index == index; });
+    return found == all.end() ? nullptr : *found;
 }
 
 } // namespace
@@ -22,30 +31,38 @@ ViewerMenu::ViewerMenu(QWidget *parent) : QMenu(parent)
 {
     setObjectName(u"PopMnu"_s);
     setAccessibleName(GridTexts::MenuName);
-    const auto add = [this](QAction *action, int index) {
-        action->setObjectName(actionName(index));
-        action->setData(index);
-    };
-    int next = 1;
-    for (const ViewerTexts::MenuItem &item : ViewerTexts::MenuItems) {
-        for (; next < item.index; ++next)
-            add(addSeparator(), next);
-        QAction *action = addAction(item.caption);
-        // The filter on the cell shares the state of its button and nothing more.
-        if (!item.key.isEmpty() && item.index != CellFilter)
-            dressAsButton(*action, item.key);
-        add(action, next++);
+    for (int index = 1; index <= BackIndex; ++index)
+        addItem(index);
+}
+
+void ViewerMenu::addItem(int index)
+{
+    const Command *const command = commandOf(index);
+    QAction *action = nullptr;
+    if (command) {
+        action = addAction(command->viewerMenu.caption);
+        if (command->button)
+            dressAsButton(*action, *command);
+        connect(action, &QAction::triggered, this, [this, command] { Q_EMIT commandChosen(command->key); });
+    } else if (index == BackIndex) {
+        action = addAction(ViewerTexts::Back);
+        connect(action, &QAction::triggered, this, &ViewerMenu::backChosen);
+    } else {
+        action = addSeparator();
     }
-    connect(this, &QMenu::triggered, this,
-            [this](const QAction *action) { Q_EMIT chosen(action->data().toInt()); });
+    action->setObjectName(u"PopMnuAction"_s + QString::number(index));
+    action->setData(index);
 }
 
 void ViewerMenu::EnablePopupItems(const GridToolbar &toolbar, bool hasCellText)
 {
-    for (const ViewerTexts::MenuItem &item : ViewerTexts::MenuItems) {
-        const bool isUsable = item.key.isEmpty() || toolbar.isButtonEnabled(item.key);
-        findChild<QAction *>(actionName(item.index))
-            ->setEnabled(isUsable && (item.index != CellFilter || hasCellText));
+    for (QAction *action : actions()) {
+        const Command *const command = commandOf(action->data().toInt());
+        if (!command)
+            continue;
+        const bool isCellFilter = command->key == CommandKeys::CellFilter;
+        action->setEnabled(toolbar.isButtonEnabled(isCellFilter ? CommandKeys::Filter : command->key) &&
+                           (!isCellFilter || hasCellText));
     }
 }
 

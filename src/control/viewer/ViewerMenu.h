@@ -13,15 +13,19 @@ class ViewerMenu final : public QMenu
     Q_OBJECT
 
 public:
-    enum Index { AllFields = 1, PartFields = 2, CellFilter = 4, FullTable = 5, Back = 7 };
-
     explicit ViewerMenu(QWidget *parent);
 
-    // An item is enabled when its toolbar button is; the cell filter also needs a cell with a text.
+    // An item is enabled when its toolbar button is; the cell filter when "Filter" is and the cell has a
+    // text.
     void EnablePopupItems(const GridToolbar &toolbar, bool hasCellText);
 
 Q_SIGNALS:
-    void chosen(int index);
+    void commandChosen(const QString &key);
+    // The way back to the control.
+    void backChosen();
+
+private:
+    void addItem(int index);
 };
 
 } // namespace KOVAVSFDataGridLib

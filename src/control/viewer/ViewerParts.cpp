@@ -35,7 +35,7 @@ ViewerParts::ViewerParts(QDialog &window)
       lblPageCount(new QLabel(picBox))
 {
     nameParts();
-    hideUnusedButtons();
+    Toolbar1->hideButtonsNotInViewer();
     layOut(window);
     vsfgShowData->setFrameShape(QFrame::NoFrame);
     txtPage->setAlignment(Qt::AlignRight);
@@ -62,20 +62,6 @@ void ViewerParts::nameParts()
     cmdPgae->setToolTip(ViewerTexts::GoToPageHint);
     lblPageCount->setObjectName(u"lblPageCount"_s);
     Toolbar1->setAccessibleName(ViewerTexts::Title);
-}
-
-// What the viewer has no command for isn't offered, nor a separator with nothing behind the one before it.
-void ViewerParts::hideUnusedButtons()
-{
-    for (const QString &key : {u"SingleRecord"_s, u"QuickFilter"_s, u"FromResult"_s, u"FullScreen"_s})
-        Toolbar1->setButtonVisible(key, false);
-    bool isGroupEmpty = true;
-    for (QAction *action : Toolbar1->actions()) {
-        if (action->isSeparator())
-            action->setVisible(!isGroupEmpty);
-        if (action->isVisible())
-            isGroupEmpty = action->isSeparator();
-    }
 }
 
 QRect ViewerParts::foot() const

@@ -37,7 +37,6 @@ public:
 
 private:
     void nameParts();
-    void hideUnusedButtons();
     void layOut(QDialog &window);
 };
 

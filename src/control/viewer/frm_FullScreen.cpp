@@ -3,50 +3,73 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "control/input/MenuKey.h"
-#include "control/parts/EmptyHint.h"
-#include "control/parts/GridTexts.h"
+#include "control/parts/DialogQuestions.h"
 #include "control/parts/GridToolbar.h"
-#include "control/viewer/TypedPage.h"
-#include "control/viewer/ViewerCells.h"
 #include "control/viewer/ViewerMenu.h"
 #include "control/viewer/ViewerTexts.h"
-#include "forms/Messages.h"
 #include "grid/FlexGrid.h"
-#include "grid/TextCells.h"
-#include "query/SharedValues.h"
-#include "query/clsFilterManagement.h"
-#include "session/ColumnLayout.h"
-#include "session/StoreRecordPosition.h"
+#include "session/DetachedWindow.h"
+#include "session/Session.h"
+#include "session/commands/CommandKeys.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
-
-#include <algorithm>
 
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
-    : QDialog(parent), m_host(std::move(host)), m_parts(*this), m_menu(new ViewerMenu(this))
+namespace {
+
+// The condition is asked for by the control, which knows the table.
+class ViewerQuestions final : public DialogQuestions
 {
+public:
+    ViewerQuestions(QWidget &viewer, std::function<QString(QWidget *)> askCondition)
+        : DialogQuestions(&viewer), m_viewer(viewer), m_askCondition(std::move(askCondition))
+    {
+    }
+
+    QString askCondition(const ConditionRequest &) override { return m_askCondition(&m_viewer); }
+
+private:
+    QWidget &m_viewer;
+    const std::function<QString(QWidget *)> m_askCondition;
+};
+
+} // namespace
+
+frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
+    : QDialog(parent),
+      m_questions(std::make_unique<ViewerQuestions>(*this, std::move(host.askCondition))),
+      m_parts(*this),
+      m_window(*this, m_parts),
+      m_session(std::make_shared<Session>(m_window, *m_questions, DetachedWindow::instance(), ViewerRules,
+                                          nullptr, std::move(host.open))),
+      m_menu(new ViewerMenu(this))
+{
+    m_window.setSession(*m_session);
     setObjectName(u"frm_FullScreen"_s);
     setWindowTitle(ViewerTexts::Title);
     fillScreen();
     addActions(m_parts.Toolbar1->actions()); // so that their shortcuts work wherever the keyboard is
-    connect(m_parts.Toolbar1, &GridToolbar::buttonClicked, this, &frm_FullScreen::press);
-    connect(m_parts.cmdPgae, &QPushButton::clicked, this, &frm_FullScreen::goToTypedPage);
+    connect(m_parts.Toolbar1, &GridToolbar::buttonClicked, this, &frm_FullScreen::run);
+    connect(m_parts.cmdPgae, &QPushButton::clicked, this,
+            [this] { m_session->goToTypedPage(m_parts.txtPage->text()); });
     connect(m_parts.cmdClose, &QPushButton::clicked, this, &QDialog::accept);
-    connect(m_menu, &ViewerMenu::chosen, this, &frm_FullScreen::RunPopupAction);
+    connect(m_menu, &ViewerMenu::commandChosen, this, &frm_FullScreen::run);
+    connect(m_menu, &ViewerMenu::backChosen, this, &QDialog::accept);
     m_parts.vsfgShowData->installEventFilter(this);
     m_parts.vsfgShowData->viewport()->installEventFilter(this);
     m_parts.vsfgShowData->setFocus();
 }
 
-frm_FullScreen::~frm_FullScreen() = default;
+frm_FullScreen::~frm_FullScreen()
+{
+    m_session->detach();
+}
 
 void frm_FullScreen::fillScreen()
 {
@@ -55,147 +78,80 @@ void frm_FullScreen::fillScreen()
     setWindowState(windowState() | Qt::WindowFullScreen);
 }
 
+void frm_FullScreen::PutFilterManager(std::shared_ptr<clsFilterManagement> manager)
+{
+    m_session->setFilterManager(std::move(manager));
+}
+
+void frm_FullScreen::ClearRefObject()
+{
+    m_session->setFilterManager(nullptr);
+}
+
 void frm_FullScreen::GetData(const std::shared_ptr<ADODB::Connection> &newConnection,
                              const std::shared_ptr<ADODB::Recordset> &newTable, qint32 nCurPageIndex,
                              const QString &newConnectionString, const QString &NewSQL, bool,
                              const QString &SortString, bool IsAll, bool bCanFilte, bool bCanSort,
                              bool bCanFull)
 {
-    m_sortString = SortString;
-    m_isAll = IsAll;
-    SetPartButton(IsAll ? 1 : 2);
     if (!bCanFull)
-        m_parts.Toolbar1->setButtonEnabled(u"ToFullTable"_s, false);
-    m_parts.Toolbar1->setButtonEnabled(u"Filter"_s, bCanFilte);
-    m_parts.Toolbar1->setButtonEnabled(u"Sort"_s, bCanSort);
-
-    m_connection = newConnection;
-    m_recordset = newTable;
-    m_connectionString = newConnectionString;
-    m_currentSQL = NewSQL;
+        m_parts.Toolbar1->setButtonEnabled(CommandKeys::ToFullTable, false);
+    m_parts.Toolbar1->setButtonEnabled(CommandKeys::Filter, bCanFilte);
+    m_parts.Toolbar1->setButtonEnabled(CommandKeys::Sort, bCanSort);
+    m_session->texts.connectionString = newConnectionString;
+    m_session->texts.sqlSort = SortString;
+    m_session->setFieldView(IsAll ? FieldView::All : FieldView::Part);
     try {
         // A snapshot has nothing to refresh, but a move to where it stands saves an edit that was begun.
-        if (isOpen() && m_recordset->EditMode() != ADODB::adEditNone)
-            m_recordset->Move(0);
+        const bool isOpen = newTable && newTable->State() == ADODB::adStateOpen;
+        if (isOpen && newTable->EditMode() != ADODB::adEditNone)
+            newTable->Move(0);
     } catch (const ADODB::Error &) {
         // The edit stays with the control, which tells why it can't be saved when the user goes on with it.
     }
-    SetPageIndex(nCurPageIndex);
-    FillGrid();
-    applyFieldWidths();
-    UpdateRecordPosition();
-    tellIfEmpty();
+    m_session->borrow({newConnectionString, newConnection, newTable}, NewSQL, nCurPageIndex);
+    m_session->layOutColumns();
+    m_session->updateRecordPosition();
 }
 
-bool frm_FullScreen::isOpen() const
+qint32 frm_FullScreen::GetPageIndex() const
 {
-    return m_recordset && m_recordset->State() == ADODB::adStateOpen;
+    return m_session->page();
 }
 
-bool frm_FullScreen::hasRecords() const
+bool frm_FullScreen::IsAll() const
 {
-    return isOpen() && m_recordset->RecordCount() > 0;
+    return m_session->fieldView() == FieldView::All;
 }
 
-void frm_FullScreen::SetPageIndex(qint64 page)
+const QString &frm_FullScreen::CurrentSQL() const
 {
-    const qint64 pageCount = isOpen() ? m_recordset->PageCount() : 0;
-    const bool canShowPage = isOpen() && !m_recordset->isEOF();
-    m_page = canShowPage ? static_cast<qint32>(std::min(page, pageCount)) : 0;
-    const QString shown = QString::number(m_page);
-    m_parts.txtPage->setText(shown);
-    m_parts.lblPageCount->setText(GridTexts::PagePrefix + shown + GridTexts::PageCountPrefix +
-                                  QString::number(pageCount) + ViewerTexts::PageSuffix);
+    return m_session->statement();
 }
 
-// From the first record of the page to the end of the recordset, as far as the grid has rows for it.
-bool frm_FullScreen::FillGrid()
+bool frm_FullScreen::IsRequeried() const
 {
-    VSFlexGrid &grid = *m_parts.vsfgShowData;
-    if (!isOpen()) {
-        grid.Show(std::make_unique<TextCells>(1, 1));
-        return false;
-    }
-    const qint64 rest = m_page > 0 ? m_recordset->RecordCount() - firstRecord() + 1 : 0;
-    const auto rows = static_cast<int>(std::clamp<qint64>(rest, 0, ViewerCells::Rows - 1));
-    grid.PutRedraw(false);
-    grid.Show(std::make_unique<ViewerCells>(m_recordset, static_cast<int>(firstRecord()), rows));
-    grid.PutColWidth(0, ColumnLayout::RowHeadingMargin); // it has no texts to be as wide as
-    grid.PutRedraw(true);
-    return true;
+    return m_session->isRequeried();
 }
 
-qint64 frm_FullScreen::firstRecord() const
+void frm_FullScreen::SeeCompressView()
 {
-    return static_cast<qint64>(std::max(m_page, 1) - 1) * m_recordset->PageSize() + 1;
+    m_session->compressColumns();
 }
 
-void frm_FullScreen::showPage(qint64 page)
+void frm_FullScreen::run(const QString &key)
 {
-    SetPageIndex(page);
-    FillGrid();
-    makeShownCellCurrent();
-    UpdateRecordPosition();
-}
-
-void frm_FullScreen::GotoPage(int kind)
-{
-    if (!isOpen() || m_recordset->isBOF())
-        return;
-    const qint64 pageCount = m_recordset->PageCount();
-    const bool isBack = kind == 1 || kind == 2;
-    if (isBack ? m_page < 2 : pageCount < 2 || m_page == pageCount)
-        return;
-    const qint64 targets[] = {1, m_page - 1, m_page + 1, pageCount};
-    showPage(targets[kind - 1]);
-}
-
-void frm_FullScreen::goToTypedPage()
-{
-    const std::optional<TypedPage> typed = TypedPage::read(m_parts.txtPage->text());
-    if (!typed)
-        return;
-    if (typed->number < 1) {
-        Messages::tell(this, GridTexts::NotAPageNumber);
-        return;
-    }
-    showPage(typed->number);
-    // The label tells the page that is shown, the box keeps what was typed.
-    m_parts.txtPage->setText(typed->text);
-}
-
-void frm_FullScreen::UpdateRecordPosition()
-{
-    if (isOpen())
-        StoreRecordPosition(*m_recordset);
-}
-
-// So that the keyboard always has a cell to start from: the current record's row, else the first, and a
-// column that is seen.
-void frm_FullScreen::makeShownCellCurrent()
-{
-    VSFlexGrid &grid = *m_parts.vsfgShowData;
-    if (!isOpen() || grid.UsedRows() < 2 || grid.Cols() < 2)
-        return;
-    if (grid.Row() == 0) {
-        const qint64 row = m_recordset->AbsolutePosition() - firstRecord() + 1;
-        grid.PutRow(row >= 1 && row < grid.UsedRows() ? static_cast<int>(row) : 1);
-    }
-    grid.PutCol(grid.ShownCol());
-}
-
-void frm_FullScreen::tellIfEmpty()
-{
-    if (!isOpen() || hasRecords())
-        m_parts.lblEmpty->tell({});
-    else
-        m_parts.lblEmpty->tellNoRecords(m_filter && m_filter->SQLManager().Count() > 1);
+    const QPointer<frm_FullScreen> alive(this);
+    m_session->run(key);
+    // A click has pressed "All" or "Part" already, whatever came of it.
+    if (alive)
+        m_session->setFieldView(m_session->fieldView());
 }
 
 void frm_FullScreen::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    makeShownCellCurrent();
+    m_window.makeShownCellCurrent();
     m_parts.vsfgShowData->scrollTo(m_parts.vsfgShowData->currentIndex());
 }
 
@@ -232,16 +188,10 @@ bool frm_FullScreen::eventFilter(QObject *watched, QEvent *event)
 
 void frm_FullScreen::popUp(const QPoint &globalPosition, bool isOnCell)
 {
-    UpdateRecordPosition();
-    if (!hasRecords())
+    if (!m_session->hasRecords())
         return;
-    EnablePopupItems(isOnCell);
-    m_menu->popup(globalPosition);
-}
-
-void frm_FullScreen::EnablePopupItems(bool isOnCell)
-{
     m_menu->EnablePopupItems(*m_parts.Toolbar1, isOnCell && !m_parts.vsfgShowData->Text().isEmpty());
+    m_menu->popup(globalPosition);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -1,0 +1,150 @@
+#include "control/face/ControlWindow.h"
+
+#include "ado/Recordset.h"
+#include "control/input/SingleRecordView.h"
+#include "control/parts/ElidedLabel.h"
+#include "control/parts/EmptyHint.h"
+#include "control/parts/GridParts.h"
+#include "control/parts/GridTexts.h"
+#include "control/parts/GridToolbar.h"
+#include "control/parts/LoadProgress.h"
+#include "control/parts/StatementLine.h"
+#include "grid/FlexGrid.h"
+#include "grid/RecordWindow.h"
+#include "grid/TextCells.h"
+#include "session/Session.h"
+#include "session/commands/CommandKeys.h"
+
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+constexpr qint32 StatementOfTheHost = 2; // TableType: there is no whole table to go to
+
+QString pageLabel(const QString &page, const QString &pageCount)
+{
+    return GridTexts::PagePrefix + page + GridTexts::PageCountPrefix + pageCount + GridTexts::PageCapPrefix +
+           QString::number(SharedValues::RecordCap) + GridTexts::PageCapSuffix;
+}
+
+} // namespace
+
+ControlWindow::ControlWindow(QWidget &control, GridParts &parts)
+    : GridWindow(*parts.vsfgDataGrid, *parts.Toolbar1), m_control(control), m_parts(parts)
+{
+    m_parts.lblFieldCount->setText(pageLabel({}, {}));
+}
+
+void ControlWindow::showRecords(std::shared_ptr<ADODB::Recordset> recordset, qint64 first, int count)
+{
+    if (!recordset) {
+        m_grid.Show(std::make_unique<TextCells>(1, m_grid.Cols()));
+        return;
+    }
+    m_grid.PutRedraw(false);
+    m_grid.Show(std::make_unique<RecordWindow>(std::move(recordset), static_cast<int>(first), count));
+    if (count > 0)
+        m_grid.PutRow(1);
+    m_grid.PutRedraw(true);
+}
+
+void ControlWindow::showPageNumber(int page, qint64 pageCount)
+{
+    m_parts.txtPage->setText(QString::number(page));
+    m_parts.lblFieldCount->setText(pageLabel(QString::number(page), QString::number(pageCount)));
+    m_parts.layOutFoot();
+}
+
+int ControlWindow::currentCol() const
+{
+    return isSingleRecordShown() ? m_singleRecord->currentGridCol() : m_grid.ShownCol();
+}
+
+bool ControlWindow::isSingleRecordShown() const
+{
+    return !m_toolbar.isButtonVisible(CommandKeys::SingleRecord);
+}
+
+void ControlWindow::showSingleRecord()
+{
+    if (m_singleRecord)
+        m_singleRecord->show();
+}
+
+void ControlWindow::showAllRecords()
+{
+    if (m_singleRecord)
+        m_singleRecord->hide();
+}
+
+void ControlWindow::refreshSingleRecord()
+{
+    if (isSingleRecordShown())
+        m_singleRecord->FillSingleRecordView();
+}
+
+bool ControlWindow::commitEdit()
+{
+    return !m_singleRecord || m_singleRecord->editor().commit();
+}
+
+void ControlWindow::cancelEdit()
+{
+    if (m_singleRecord)
+        m_singleRecord->editor().close();
+}
+
+// Which record is current, in words.
+QString ControlWindow::place() const
+{
+    const ADODB::Recordset &recordset = *m_session->result().recordset();
+    if (recordset.EditMode() == ADODB::adEditAdd)
+        return GridTexts::NewRecord.arg(recordset.RecordCount());
+    return GridTexts::RecordOf.arg(std::max<qint64>(0, recordset.AbsolutePosition()))
+        .arg(recordset.RecordCount());
+}
+
+void ControlWindow::refreshStatus()
+{
+    if (!m_session->result().isOpen()) {
+        m_parts.lblStatement->show({}, {});
+        m_parts.lblEmpty->showText(GridTexts::NothingLoaded);
+        return;
+    }
+    QString statement;
+    m_session->history().GetLatestSQL(statement);
+    m_parts.lblStatement->show(statement.isEmpty() ? QString() : place(), statement);
+    if (m_session->result().recordset()->RecordCount() > 0)
+        m_parts.lblEmpty->showText({});
+    else
+        m_parts.lblEmpty->showNoRecords(m_session->history().Count() > 1);
+}
+
+void ControlWindow::enableCommands()
+{
+    m_parts.layOut(m_control.width(), m_control.height()); // columns are fitted even before it is first shown
+    m_grid.setEnabled(true);
+    m_toolbar.setEnabled(true);
+    m_parts.cmdPgae->setEnabled(true);
+    m_toolbar.setAllButtonsEnabled(true);
+    if (m_session->texts.tableType == StatementOfTheHost)
+        m_toolbar.setButtonEnabled(CommandKeys::ToFullTable, false);
+}
+
+void ControlWindow::showFullScreen()
+{
+    if (m_fullScreen)
+        m_fullScreen();
+}
+
+std::unique_ptr<OpeningProgress> ControlWindow::beginOpening()
+{
+    return std::make_unique<LoadProgress>(m_control, [this] { return m_parts.foot(); });
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "control/parts/GridWindow.h"
+
+#include <functional>
+
+namespace KOVAVSFDataGridLib {
+
+class GridParts;
+class Session;
+class SingleRecordView;
+
+// The control as the window of its session.
+class ControlWindow final : public GridWindow
+{
+public:
+    // Both must outlive this object.
+    ControlWindow(QWidget &control, GridParts &parts);
+
+    // What it shows; not owned. To be set before anything is shown.
+    void setSession(Session &session) { m_session = &session; }
+    // Without one no single record is ever shown.
+    void setSingleRecordView(SingleRecordView *view) { m_singleRecord = view; }
+    // Called by the command that shows the result on the whole screen.
+    void setFullScreen(std::function<void()> show) { m_fullScreen = std::move(show); }
+
+    void showRecords(std::shared_ptr<ADODB::Recordset> recordset, qint64 first, int count) override;
+    void showPageNumber(int page, qint64 pageCount) override;
+    void showTypedPage(const QString &) override {}
+    int currentCol() const override;
+    bool isSingleRecordShown() const override;
+    void showSingleRecord() override;
+    void showAllRecords() override;
+    void refreshSingleRecord() override;
+    bool commitEdit() override;
+    void cancelEdit() override;
+    void refreshStatus() override;
+    void enableCommands() override;
+    void showFullScreen() override;
+    std::unique_ptr<OpeningProgress> beginOpening() override;
+
+private:
+    QString place() const;
+
+    QWidget &m_control;
+    GridParts &m_parts;
+    Session *m_session = nullptr;
+    SingleRecordView *m_singleRecord = nullptr;
+    std::function<void()> m_fullScreen;
+};
+
+} // namespace KOVAVSFDataGridLib

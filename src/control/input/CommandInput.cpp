@@ -1,0 +1,171 @@
+#include "control/input/CommandInput.h"
+
+#include "ado/Adodc.h"
+#include "ado/Recordset.h"
+#include "control/face/KOVAVSFDataGrid.h"
+#include "control/input/DeleteAfterEvent.h"
+#include "control/input/GridEvents.h"
+#include "control/input/KeyCodes.h"
+#include "control/input/SingleRecordView.h"
+#include "control/parts/GridParts.h"
+#include "control/parts/GridToolbar.h"
+#include "grid/FlexGrid.h"
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+
+#include <QtCore/QPointer>
+#include <QtGui/QAction>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QPushButton>
+
+#include <algorithm>
+#include <utility>
+
+namespace KOVAVSFDataGridLib {
+
+CommandInput::CommandInput(KOVAVSFDataGrid &control, Session &session, GridParts &parts, GridEvents &events,
+                           SingleRecordView &singleRecord)
+    : m_control(control),
+      m_session(session),
+      m_parts(parts),
+      m_singleRecord(singleRecord),
+      m_menu(control, *parts.Toolbar1)
+{
+    for (QAction *action : parts.Toolbar1->actions()) {
+        if (!action->shortcut().isEmpty())
+            control.addAction(action);
+    }
+    parts.vsfgDataGrid->installEventFilter(this);
+    connect(parts.Toolbar1, &GridToolbar::buttonClicked, this, [this](const QString &key) {
+        if (m_parts.Toolbar1->isEnabled()) // a shortcut does not know
+            run(key);
+    });
+    connect(&m_menu, &PopupMenu::PopMnuDataActionClicked, this, &CommandInput::runMenuItem);
+    connect(&events, &GridEvents::menuWanted, this, &CommandInput::showMenu);
+    connect(&singleRecord, &SingleRecordView::menuWanted, this, &CommandInput::showMenu);
+    connect(&singleRecord, &SingleRecordView::cancelWanted, this, [this] { m_session.cancelRecord(); });
+    connect(parts.cmdPgae, &QPushButton::clicked, this,
+            [this] { m_session.goToTypedPage(m_parts.txtPage->text()); });
+    connect(parts.txtPage, &QLineEdit::returnPressed, parts.cmdPgae, &QPushButton::click);
+    connect(parts.Adodc1, &ADODB::Adodc::MoveComplete, this, &CommandInput::followRecord);
+    connect(parts.Adodc1, &ADODB::Adodc::RecordChangeComplete, this, [this](ADODB::EventReasonEnum reason) {
+        // Later, because the host may be in the middle of several changes.
+        if (reason == ADODB::adRsnUpdate || reason == ADODB::adRsnDelete)
+            QMetaObject::invokeMethod(this, &CommandInput::followChange, Qt::QueuedConnection);
+    });
+}
+
+CommandInput::~CommandInput()
+{
+    if (!m_session.isRunning())
+        return;
+    DeleteAfterEvent(*m_parts.Toolbar1);
+    DeleteAfterEvent(m_menu.menu());
+}
+
+void CommandInput::run(const QString &key)
+{
+    const QPointer<CommandInput> alive(this);
+    m_session.run(key);
+    if (alive)
+        m_menu.PreparePopupMenu();
+}
+
+void CommandInput::runMenuItem(int index)
+{
+    if (!m_parts.Toolbar1->isEnabled())
+        return;
+    const QPointer<CommandInput> alive(this);
+    m_session.runMenuItem(index);
+    if (alive)
+        m_menu.PreparePopupMenu();
+}
+
+void CommandInput::showMenu(const QPoint &position)
+{
+    if (!m_session.hasRecords() || !m_parts.Toolbar1->isEnabled())
+        return;
+    // A row heading does not become current by the right button of itself.
+    VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    if (!m_session.window().isSingleRecordShown()) {
+        const int row = grid.rowAt(grid.viewport()->mapFromGlobal(position).y()) + 1;
+        const QPointer<CommandInput> alive(this);
+        if (row >= 1 && row != grid.Row())
+            grid.PutRow(row);
+        if (!alive)
+            return;
+    }
+    m_menu.show(position);
+}
+
+// The host moved the recordset: the row under the cursor is the record meant.
+void CommandInput::followRecord()
+{
+    if (!m_session.result().isOpen())
+        return;
+    const int row = m_session.rowOfRecord(m_session.result().recordset()->AbsolutePosition());
+    if (row > 0 && row != m_parts.vsfgDataGrid->Row())
+        m_parts.vsfgDataGrid->PutRow(row);
+}
+
+// The host changed, deleted or added a record: the grid shows as many rows as there are. What the commands
+// themselves change they have shown already.
+void CommandInput::followChange()
+{
+    if (!m_session.result().isOpen() || m_session.result().recordset()->EditMode() == ADODB::adEditAdd)
+        return;
+    const ADODB::Notifications::Hold hold(m_session.notifications());
+    const ADODB::Recordset &recordset = *m_session.result().recordset();
+    const int rows = m_session.page() > 0 ? m_session.recordsOnPage(m_session.page()) : 0;
+    VSFlexGrid &grid = *m_parts.vsfgDataGrid;
+    if (rows + 1 != grid.Rows()) {
+        const qint64 position = std::max<qint64>(recordset.AbsolutePosition(), 0);
+        const qint64 wanted = position > 0 ? position : m_session.recordOfRow(std::max(grid.Row(), 1));
+        m_session.refillAtRecord(std::min(wanted, recordset.RecordCount()));
+    }
+    grid.Refresh();
+    if (!m_singleRecord.editor().isOpen())
+        m_session.window().refreshSingleRecord();
+    m_session.updateRecordPosition();
+}
+
+bool CommandInput::isShortcut(const QKeyEvent &event) const
+{
+    const QKeySequence pressed(event.keyCombination());
+    const QList<QAction *> actions = m_control.actions();
+    return std::any_of(actions.cbegin(), actions.cend(), [&](const QAction *action) {
+        return action->isEnabled() && action->shortcuts().contains(pressed);
+    });
+}
+
+// A key that is a command's shortcut never gets as far as a key press; the host is told of it all the same,
+// and may keep it from the command.
+bool CommandInput::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto &key = *static_cast<QKeyEvent *>(event);
+        if (isShortcut(key)) {
+            qint16 keyCode = virtualKey(key);
+            qint16 shift = shiftState(key.modifiers());
+            const QPointer<CommandInput> alive(this);
+            Q_EMIT m_control.DataKeyDown(keyCode, shift);
+            if (!alive)
+                return true;
+            m_isKeyTaken = keyCode == 0;
+            if (m_isKeyTaken) {
+                event->accept();
+                return true;
+            }
+        }
+    }
+    if (event->type() == QEvent::KeyPress && std::exchange(m_isKeyTaken, false))
+        return true;
+    // The menu key comes as a key as well, and once is enough.
+    if (event->type() == QEvent::ContextMenu)
+        return true;
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace KOVAVSFDataGridLib

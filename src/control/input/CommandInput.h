@@ -1,0 +1,51 @@
+#pragma once
+
+#include "control/parts/PopupMenu.h"
+
+#include <QtCore/QObject>
+
+class KOVAVSFDataGrid;
+class QKeyEvent;
+
+namespace KOVAVSFDataGridLib {
+
+class GridEvents;
+class GridParts;
+class Session;
+class SingleRecordView;
+
+// Runs the session's commands as the user asks for them: by toolbar, popup menu, shortcut and page box. Keeps
+// the grid's current row and the recordset's current record together when the host moves or changes it.
+class CommandInput : public QObject
+{
+    Q_OBJECT
+
+public:
+    // All must outlive this object.
+    CommandInput(KOVAVSFDataGrid &control, Session &session, GridParts &parts, GridEvents &events,
+                 SingleRecordView &singleRecord);
+    // Toolbar and menu outlive it until the event loop runs again when the host deletes the control from
+    // inside a command, because the button or the item that runs it is still in Qt's hands.
+    ~CommandInput() override;
+
+    void run(const QString &key);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void runMenuItem(int index);
+    void showMenu(const QPoint &position);
+    bool isShortcut(const QKeyEvent &event) const;
+    void followRecord();
+    void followChange();
+
+    KOVAVSFDataGrid &m_control;
+    Session &m_session;
+    GridParts &m_parts;
+    SingleRecordView &m_singleRecord;
+    PopupMenu m_menu;
+    bool m_isKeyTaken = false; // the host kept the last shortcut from its command
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,69 @@
+#include "control/parts/DialogQuestions.h"
+
+#include "control/parts/ToolbarIcons.h"
+#include "filter/mod_Filter.h"
+#include "forms/FindDialog.h"
+#include "forms/Messages.h"
+#include "session/commands/CommandKeys.h"
+
+namespace KOVAVSFDataGridLib {
+
+DialogQuestions::DialogQuestions(QWidget *parent) : m_parent(parent), m_chooser(parent) {}
+
+void DialogQuestions::setDatabase(qint32 dbType)
+{
+    m_chooser.setDatabase(static_cast<AllDBType>(dbType));
+}
+
+std::optional<QString> DialogQuestions::ChooseVisibleFields(const QString &title,
+                                                            const QStringList &allFields,
+                                                            const QStringList &partFields)
+{
+    return m_chooser.ChooseVisibleFields(title, allFields, partFields);
+}
+
+std::optional<QString> DialogQuestions::ChooseSort(const QString &title, const QStringList &allFields,
+                                                   const QStringList &sortTerms)
+{
+    return m_chooser.ChooseSort(title, allFields, sortTerms);
+}
+
+void DialogQuestions::tell(const QString &text)
+{
+    Messages::tell(m_parent, text);
+}
+
+void DialogQuestions::tellWithCause(const QString &text, const QString &cause)
+{
+    Messages::tellWithCause(m_parent, text, cause);
+}
+
+bool DialogQuestions::ask(const QString &text, const QString &title)
+{
+    return Messages::ask(m_parent, text, title, QMessageBox::Question, QMessageBox::No);
+}
+
+QString DialogQuestions::askCondition(const ConditionRequest &request)
+{
+    FilterRequest prepared;
+    prepared.connectionString = request.connectionString;
+    prepared.dbType = static_cast<AllDBType>(request.dbType);
+    prepared.tableType = request.tableType;
+    prepared.sqlShow = request.sqlShow;
+    prepared.connection = request.connection;
+    prepared.picture = toolbarIcon(CommandKeys::Filter);
+    mod_Filter filter(m_parent);
+    filter.PrepareFilterDialog(prepared);
+    return filter.ShowFilterDialog();
+}
+
+std::optional<FindAnswer> DialogQuestions::askWords(const colDataFields &fields)
+{
+    FindDialog dialog(m_parent);
+    if (!dialog.InitFrm(&fields))
+        return {};
+    dialog.exec();
+    return FindAnswer{dialog.strFindText(), dialog.bIsAppointField(), dialog.strFieldName()};
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "control/parts/ControlFieldChooser.h"
+#include "session/Questions.h"
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QWidget>
+
+namespace KOVAVSFDataGridLib {
+
+// Asks and tells with dialogs and message boxes above a window.
+class DialogQuestions : public Questions
+{
+public:
+    // `parent` is not owned and may go before this object does.
+    explicit DialogQuestions(QWidget *parent);
+
+    void setDatabase(qint32 dbType) override;
+    std::optional<QString> ChooseVisibleFields(const QString &title, const QStringList &allFields,
+                                               const QStringList &partFields) override;
+    std::optional<QString> ChooseSort(const QString &title, const QStringList &allFields,
+                                      const QStringList &sortTerms) override;
+    void tell(const QString &text) override;
+    void tellWithCause(const QString &text, const QString &cause) override;
+    bool ask(const QString &text, const QString &title) override;
+    QString askCondition(const ConditionRequest &request) override;
+    std::optional<FindAnswer> askWords(const colDataFields &fields) override;
+
+private:
+    QPointer<QWidget> m_parent;
+    ControlFieldChooser m_chooser;
+};
+
+} // namespace KOVAVSFDataGridLib

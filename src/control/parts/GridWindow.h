@@ -1,0 +1,55 @@
+#pragma once
+
+#include "session/SessionWindow.h"
+
+class QRect;
+class QWidget;
+
+namespace KOVAVSFDataGridLib {
+
+class GridToolbar;
+class VSFlexGrid;
+
+// What the control and its full-screen viewer have in common as windows of a session: a grid and a toolbar.
+// This one has no list of a single record and nothing to edit.
+class GridWindow : public SessionWindow
+{
+public:
+    // Both must outlive this object.
+    GridWindow(VSFlexGrid &grid, GridToolbar &toolbar);
+
+    int Cols() const override;
+    QStringList Headings() const override;
+    int ColWidth(int col) const override;
+    void PutColWidth(int col, int twips) override;
+    void ResetColWidths() override;
+    int widthOfColumns() const override;
+    int width() const override;
+
+    void refreshRecords() override;
+    int Row() const override;
+    int Rows() const override;
+    void PutRow(int row) override;
+    void PutCol(int col) override;
+    int currentCol() const override;
+    void keepInView(const std::function<void()> &change) override;
+
+    bool isSingleRecordShown() const override { return false; }
+    void showSingleRecord() override {}
+    void showAllRecords() override {}
+    void refreshSingleRecord() override {}
+    bool commitEdit() override { return true; }
+    void cancelEdit() override {}
+
+    void setPressed(const QString &key, bool on) override;
+    void enableCommands() override {}
+    void showFullScreen() override {}
+
+protected:
+    ~GridWindow() = default;
+
+    VSFlexGrid &m_grid;
+    GridToolbar &m_toolbar;
+};
+
+} // namespace KOVAVSFDataGridLib

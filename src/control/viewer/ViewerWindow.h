@@ -1,0 +1,36 @@
+#pragma once
+
+#include "control/parts/GridWindow.h"
+
+namespace KOVAVSFDataGridLib {
+
+class Session;
+class ViewerParts;
+
+// The full-screen viewer as the window of its session.
+class ViewerWindow final : public GridWindow
+{
+public:
+    // Both must outlive this object.
+    ViewerWindow(QWidget &window, const ViewerParts &parts);
+
+    // What it shows; not owned. To be set before anything is shown.
+    void setSession(Session &session) { m_session = &session; }
+
+    void showRecords(std::shared_ptr<ADODB::Recordset> recordset, qint64 first, int count) override;
+    void showPageNumber(int page, qint64 pageCount) override;
+    void showTypedPage(const QString &text) override;
+    void refreshStatus() override;
+    std::unique_ptr<OpeningProgress> beginOpening() override;
+
+    // So that the keyboard always has a cell to start from: the current record's row, else the first, and a
+    // column that is seen.
+    void makeShownCellCurrent();
+
+private:
+    QWidget &m_window;
+    const ViewerParts &m_parts;
+    Session *m_session = nullptr;
+};
+
+} // namespace KOVAVSFDataGridLib

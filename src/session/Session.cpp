@@ -1,0 +1,184 @@
+#include "session/Session.h"
+
+#include "ado/Adodc.h"
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "session/DetachedWindow.h"
+#include "session/ResultWatch.h"
+#include "session/SessionMessages.h"
+#include "session/TypedPage.h"
+#include "session/commands/Command.h"
+#include "session/commands/CommandKeys.h"
+
+namespace KOVAVSFDataGridLib {
+
+Session::Session(SessionWindow &window, Questions &questions, HostEvents &host, const WindowRules &rules,
+                 ADODB::Adodc *adodc, Opener opener)
+    : m_window(&window),
+      m_questions(&questions),
+      m_host(&host),
+      m_rules(rules),
+      m_opener(std::move(opener)),
+      m_adodc(adodc),
+      m_result(adodc),
+      m_reader(m_result),
+      m_notifications(adodc ? &adodc->notifications() : &m_ownNotifications)
+{
+}
+
+Session::~Session() = default;
+
+void Session::detach()
+{
+    DetachedWindow &nobody = DetachedWindow::instance();
+    m_window = &nobody;
+    m_questions = &nobody;
+    m_host = &nobody;
+    m_notifications = &m_ownNotifications;
+    m_isDetached = true;
+    if (m_filter && !m_opener)
+        m_filter->SetFieldChooser(nullptr);
+    if (m_opener)
+        m_result.borrow({});
+    else
+        m_result.release();
+}
+
+ColumnLayout Session::columns()
+{
+    return ColumnLayout(*m_window, history());
+}
+
+const std::shared_ptr<clsFilterManagement> &Session::sharedFilterManager()
+{
+    if (!m_filter)
+        m_filter = newFilterManager();
+    return m_filter;
+}
+
+std::unique_ptr<clsFilterManagement> Session::newFilterManager()
+{
+    return std::make_unique<clsFilterManagement>(&m_reader, m_questions);
+}
+
+void Session::setFilterManager(std::shared_ptr<clsFilterManagement> manager)
+{
+    m_filter = std::move(manager);
+}
+
+void Session::run(const QString &key)
+{
+    const Command *const command = Command::find(key);
+    perform([&] {
+        if (command && isReady(*command))
+            command->run(*this);
+    });
+}
+
+bool Session::runMenuItem(int index)
+{
+    const Command *const command = Command::findMenuItem(index);
+    bool begins = false;
+    perform([&] {
+        begins = command && m_result.isOpen() && isReady(*command);
+        if (!begins)
+            return;
+        if (command->menu.leavesSingleRecord && m_window->isSingleRecordShown())
+            m_window->showAllRecords();
+        command->run(*this);
+    });
+    return begins;
+}
+
+// False when what was typed can't be taken or saved, which the user has been told, and when the host, told of
+// it, has taken away what the command was to work on.
+bool Session::isReady(const Command &command)
+{
+    if (!hasGround() || (m_opener && !command.isInViewer))
+        return false;
+    const ResultWatch watch(*this);
+    if (command.record == Record::IsListedAgain && !m_window->commitEdit())
+        return false;
+    if (command.record == Record::IsLeft && !saveRecord())
+        return false;
+    return watch.isUntouched() && (command.needs == Needs::Nothing || hasRecords());
+}
+
+void Session::perform(const std::function<void()> &command)
+{
+    const auto alive = shared_from_this();
+    ++m_running;
+    try {
+        command();
+    } catch (const ADODB::Error &) {
+        // What the user should know has been reported.
+    } catch (const std::exception &error) {
+        qWarning("A command failed: %s", error.what());
+    }
+    --m_running;
+    updateRecordPosition();
+}
+
+void Session::goToTypedPage(const QString &text)
+{
+    const std::optional<TypedPage> typed = TypedPage::read(text, m_rules.keepsTypedPage);
+    if (!typed || !hasGround())
+        return;
+    perform([&] {
+        if (typed->number < 1) {
+            m_questions->tell(SessionMessages::NotAPageNumber);
+        } else if (saveRecord()) {
+            turnToPage(typed->number);
+            if (m_rules.keepsTypedPage)
+                m_window->showTypedPage(typed->text);
+        }
+    });
+}
+
+void Session::setFieldView(FieldView view)
+{
+    m_fieldView = view;
+    m_window->setPressed(view == FieldView::All ? CommandKeys::All : CommandKeys::Part, true);
+}
+
+void Session::layOutColumns()
+{
+    if (m_fieldView == FieldView::All)
+        columns().ShowAllFieldColumns();
+    else
+        columns().ShowPartFieldColumns(1);
+}
+
+void Session::compressColumns()
+{
+    if (m_window->isSingleRecordShown() || !hasGround())
+        return;
+    const bool showsHidden = m_rules.compressShowsHidden && m_fieldView == FieldView::All;
+    columns().fitColumns(m_rules.roundWidth, showsHidden);
+}
+
+void Session::setLastFilter(const QString &condition)
+{
+    if (!m_rules.speaksToHost)
+        return;
+    shared.lastFilter = condition;
+    if (condition.trimmed().isEmpty())
+        writeFilter({});
+}
+
+void Session::toggleFromResult()
+{
+    m_isFromResult = !m_isFromResult;
+    m_window->setPressed(CommandKeys::FromResult, m_isFromResult);
+}
+
+void Session::clear()
+{
+    m_reader.forget();
+    if (m_filter)
+        m_filter->ClearObject();
+    m_filter.reset();
+    m_result.release();
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,113 @@
+#include "ado/ConnectionFactory.h"
+#include "ado/Recordset.h"
+#include "query/SqlText.h"
+#include "session/HostEvents.h"
+#include "session/Questions.h"
+#include "session/ResultWatch.h"
+#include "session/Session.h"
+#include "session/SessionMessages.h"
+#include "session/SessionWindow.h"
+
+// The load: from the host's texts to a shown result with the first entry of the history.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+std::unique_ptr<clsFilterManagement> Session::filterManagerForLoad()
+{
+    const QString allFields = JoinStatementLines(texts.sqlShow);
+    auto manager = newFilterManager();
+    manager->SetDBType(static_cast<AllDBType>(shared.dbType));
+    manager->SetTBLType(texts.tableType);
+    manager->SetFieldStatus(static_cast<qint32>(m_fieldView));
+    manager->SetDBConnString(texts.connectionString);
+    manager->SetAllFields(allFields);
+    manager->SetOriginFilter(allFields);
+    manager->SetShowFields(JoinStatementLines(texts.sqlPartDisplay));
+    manager->SetOrderFields(JoinStatementLines(texts.sqlSort));
+    manager->SetSQLInitData();
+    return manager;
+}
+
+// For Oracle the field list is spelled out, so that each field can be named and long binary ones come last.
+// Nothing when it can't be, for the reason that the reader gives.
+std::optional<QString> Session::statementToOpen(clsFilterManagement &manager)
+{
+    const QString first = manager.GetCurrentSQL20(0);
+    // What is missing is reported when the statement is opened.
+    if (shared.dbType != dbOracle || texts.connectionString.isEmpty() || first.isEmpty())
+        return first;
+    QString rewritten;
+    if (!manager.SQLManager().GetAllFieldNameSQL(texts.connectionString, first, rewritten))
+        return {};
+    manager.SetAllFields(rewritten);
+    manager.SetOriginFilter(rewritten);
+    manager.SetSQLInitData();
+    return rewritten;
+}
+
+// Everything is made ready beside what is shown and takes its place only when the statement has been read, so
+// that a failed load leaves grid, history and position as they were.
+bool Session::load()
+{
+    const auto alive = shared_from_this();
+    if (shared.isOpening)
+        return false;
+    m_reader.forget();
+    auto manager = filterManagerForLoad();
+    const std::optional<QString> statement = statementToOpen(*manager);
+    std::optional<ResultSet::Opened> opened;
+    Reading reading = Reading::Failed;
+    if (statement)
+        reading = readResult(*statement, shared.dbType, opened);
+    else
+        reportOpenError(m_reader.Failure());
+    switch (reading) {
+    case Reading::Failed:
+        m_questions->tell(SessionMessages::OpenFailed);
+        return false;
+    case Reading::Overtaken: // by another load, say, which has done all that follows
+        return !m_isDetached && m_result.isOpen();
+    case Reading::Done:
+        break;
+    }
+    showLoaded(*opened, *statement, std::move(manager));
+    return !m_isDetached;
+}
+
+void Session::showLoaded(const ResultSet::Opened &opened, const QString &statement,
+                         std::unique_ptr<clsFilterManagement> manager)
+{
+    const ADODB::Notifications::Hold hold(*m_notifications);
+    const QStringList fieldsBefore = m_window->Headings();
+    m_result.replaceBy(opened);
+    m_filter = std::move(manager);
+    m_questions->setDatabase(m_filter->DBType());
+    texts.recordSource = statement;
+    m_statement = statement;
+
+    m_window->enableCommands();
+    showPage(1);
+    // Widths belong to fields: the same ones loaded again keep theirs.
+    if (m_window->Headings() != fieldsBefore)
+        m_window->ResetColWidths();
+    m_window->showAllRecords();
+
+    takeRecordCount();
+    if (shared.hasRecords && m_window->Cols() > 1) {
+        m_window->PutRow(1);
+        m_window->PutCol(1);
+    }
+    setFieldView(m_fieldView);
+    // The entry keeps what the statement says; what is seen is what the pressed button says.
+    const bool isAllFields = statement.trimmed().toUpper().startsWith(u"SELECT *");
+    columns().RecordShowSQL(statement, isAllFields ? 1 : 0, 1, colShowSQLSentences::NoPartField(),
+                            colShowSQLSentences::NoSort(), texts.connectionString);
+    layOutColumns();
+    if (columns().columnsFit())
+        columns().fitColumns(m_rules.roundWidth);
+    updateRecordPosition();
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,158 @@
+#include "ado/Error.h"
+#include "query/SqlText.h"
+#include "session/HostEvents.h"
+#include "session/Questions.h"
+#include "session/ResultWatch.h"
+#include "session/Session.h"
+#include "session/SessionMessages.h"
+#include "session/SessionWindow.h"
+
+// How another statement takes the place of the one that is shown.
+
+namespace KOVAVSFDataGridLib {
+
+void Session::rememberStatement() const
+{
+    if (m_rules.speaksToHost)
+        SharedValues::instance().previousShowStatement = m_statement;
+}
+
+ResultSet::Opened Session::openStatement(const QString &statement, qint32 dbType)
+{
+    const auto progress = m_window->beginOpening();
+    const auto goOn = [&](qint64 rowsRead) { return progress->goOn(rowsRead); };
+    return m_opener ? m_opener(statement, goOn)
+                    : ResultSet::open(texts.connectionString, statement, dbType, goOn);
+}
+
+Session::Reading Session::readResult(const QString &statement, qint32 dbType,
+                                     std::optional<ResultSet::Opened> &opened)
+{
+    if (shared.isOpening) // one statement at a time in a process
+        return Reading::Failed;
+    const ResultWatch watch(*this);
+    QString failure;
+    try {
+        opened = openStatement(statement, dbType);
+        // The opener of a session that borrows has replaced the result already.
+        return m_opener || watch.isUntouched() ? Reading::Done : Reading::Overtaken;
+    } catch (const ADODB::Error &error) {
+        failure = error.Description();
+    } catch (const std::exception &error) { // from a connection factory of the host's
+        failure = QString::fromUtf8(error.what());
+    }
+    reportOpenError(failure);
+    return Reading::Failed;
+}
+
+void Session::reportOpenError(const QString &description)
+{
+    if (m_rules.reportsOpenErrors)
+        m_questions->tell(SessionMessages::OpenErrorPrefix + description);
+}
+
+std::optional<ResultSet::Opened> Session::read(const QString &statement)
+{
+    std::optional<ResultSet::Opened> opened;
+    // What a filter manager was set up for stays right when another control sets another type meanwhile.
+    if (statement.isEmpty() || readResult(statement, filterManager().DBType(), opened) != Reading::Done)
+        return std::nullopt;
+    return opened;
+}
+
+std::optional<ResultSet::Opened> Session::readForReload(const QString &statement, bool isRemembered)
+{
+    if (statement.isEmpty())
+        return std::nullopt;
+    if (isRemembered)
+        rememberStatement();
+    columns().SaveColumnWidths(0);
+    if (!m_rules.speaksToHost)
+        return read(statement);
+    const QString filterBefore = texts.sqlFilter;
+    writeFilter(statement); // the host hears of it at once, because it may write another statement
+    auto opened = read(texts.sqlFilter);
+    if (!opened && !m_isDetached)
+        writeFilter(filterBefore);
+    return opened;
+}
+
+void Session::show(const ResultSet::Opened &opened, const QString &statement)
+{
+    const QStringList headingsBefore = m_window->Headings();
+    if (m_opener)
+        m_result.borrow(opened);
+    else
+        m_result.replaceBy(opened);
+    m_statement = statement;
+    m_isRequeried = true;
+    showPage(1);
+    // Widths belong to fields; the layout that follows gives each its own again.
+    if (m_opener || m_window->Headings() != headingsBefore)
+        m_window->ResetColWidths();
+    m_window->refreshSingleRecord();
+    m_host->refresh();
+}
+
+bool Session::reloadFiltered(const QString &statement, bool isRemembered)
+{
+    const auto opened = readForReload(statement, isRemembered);
+    if (!opened) {
+        if (!m_rules.reportsOpenErrors)
+            m_questions->tell(SessionMessages::ReadFailed);
+        return false;
+    }
+    const ADODB::Notifications::Hold hold(*m_notifications);
+    show(*opened, m_rules.speaksToHost ? texts.sqlFilter : statement);
+    record(m_statement);
+    return true;
+}
+
+bool Session::addCondition(const QString &condition, QString &statement)
+{
+    if (!m_rules.narrowsShown)
+        return history().GetNextSQLByFilter(condition, statement);
+    if (filterManager().LastUseFilter() != m_statement)
+        filterManager().LetNewSQLStr(m_statement);
+    return filterManager().LetNewFilter(condition, statement);
+}
+
+void Session::record(const QString &statement, const QString &partFields, const QString &orderFields)
+{
+    columns().RecordShowSQL(statement, GetShowAllFieldsFlag(m_fieldView), 0, partFields, orderFields,
+                            texts.connectionString);
+}
+
+bool Session::replaceResult(const ResultSet::Opened &opened)
+{
+    {
+        const ADODB::Notifications::Hold hold(*m_notifications);
+        m_result.replaceBy(opened);
+        m_window->ResetColWidths();
+        showPage(1);
+    }
+    return m_result.recordset() == opened.recordset && m_result.isOpen();
+}
+
+ConditionRequest Session::conditionRequest()
+{
+    return {texts.connectionString, filterManager().DBType(), texts.tableType,
+            JoinStatementLines(texts.sqlShow), m_result.connection()};
+}
+
+void Session::writeFilter(const QString &statement)
+{
+    texts.sqlFilter = statement;
+    m_host->filterWritten();
+}
+
+void Session::borrow(const ResultSet::Opened &opened, const QString &statement, int page)
+{
+    m_result.borrow(opened);
+    m_statement = statement;
+    m_isRequeried = false;
+    setPage(page);
+    fillPage();
+}
+
+} // namespace KOVAVSFDataGridLib

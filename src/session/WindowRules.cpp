@@ -1,0 +1,47 @@
+#include "session/WindowRules.h"
+
+#include <cmath>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+int truncated(double twips)
+{
+    return static_cast<int>(twips);
+}
+
+int rounded(double twips)
+{
+    return static_cast<int>(std::lround(twips));
+}
+
+} // namespace
+
+const WindowRules ControlRules = {
+    .speaksToHost = true,
+    .alwaysOpensFields = false,
+    .narrowsShown = false,
+    .movesRecordset = true,
+    .fillsToTheEnd = false,
+    .keepsTypedPage = false,
+    .beginsWithHostSort = false,
+    .reportsOpenErrors = true,
+    .compressShowsHidden = false,
+    .roundWidth = truncated,
+};
+
+const WindowRules ViewerRules = {
+    .speaksToHost = false,
+    .alwaysOpensFields = true,
+    .narrowsShown = true,
+    .movesRecordset = false,
+    .fillsToTheEnd = true,
+    .keepsTypedPage = true,
+    .beginsWithHostSort = true,
+    .reportsOpenErrors = false,
+    .compressShowsHidden = true,
+    .roundWidth = rounded,
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,34 @@
+#pragma once
+
+namespace KOVAVSFDataGridLib {
+
+// In what the two windows over a session differ. Everything else is the same command.
+struct WindowRules
+{
+    // Reports to the host: SQLFilter and ShowFieldsChange, and asks it for a condition first. The viewer's
+    // host hears of all this when the user has come back.
+    bool speaksToHost;
+    // "All" and "SelField" open their statement even when each field they need has a column.
+    bool alwaysOpensFields;
+    // A condition narrows what is shown, through the filter manager; else it is added to the history's entry.
+    bool narrowsShown;
+    // Turning a page makes its first record current. The viewer never moves its control's recordset.
+    bool movesRecordset;
+    // A page goes on to the end of the recordset, as far as the grid has rows for it.
+    bool fillsToTheEnd;
+    // A page box without a number is ignored, and one above the last keeps what was typed.
+    bool keepsTypedPage;
+    // "Sort" begins with the host's sort when the user has chosen none.
+    bool beginsWithHostSort;
+    // A statement that can't be opened is reported with the database's words; else only a filter's failure
+    // is.
+    bool reportsOpenErrors;
+    // CompressView brings back columns that the user dragged to nothing while all fields are shown.
+    bool compressShowsHidden;
+    int (*roundWidth)(double twips);
+};
+
+extern const WindowRules ControlRules;
+extern const WindowRules ViewerRules;
+
+} // namespace KOVAVSFDataGridLib

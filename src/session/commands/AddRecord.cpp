@@ -1,0 +1,49 @@
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "session/Questions.h"
+#include "session/ResultWatch.h"
+#include "session/Session.h"
+#include "session/SessionMessages.h"
+#include "session/SessionWindow.h"
+#include "session/commands/Command.h"
+
+// Begins a new record and shows it as a list.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void addRecord(Session &session)
+{
+    if (!session.result().isOpen() || !session.window().commitEdit())
+        return;
+    const ResultWatch watch(session);
+    ADODB::Recordset &recordset = *watch.recordset();
+    if (recordset.EditMode() == ADODB::adEditInProgress && !session.saveRecord())
+        return;
+    try {
+        const ADODB::Notifications::Hold hold(session.notifications());
+        if (recordset.EditMode() == ADODB::adEditAdd && !session.isRecordEmpty())
+            session.saveChanges();
+        recordset.AddNew();
+        session.window().showSingleRecord();
+    } catch (const ADODB::Error &error) {
+        const bool isCancelled = recordset.EditMode() == ADODB::adEditAdd || error.is(ADODB::dbErrCancelled);
+        if (watch.isUntouched() && isCancelled)
+            session.questions().tell(SessionMessages::InsertCancelled);
+    }
+}
+
+const Command::Registration registration({
+    .key = u"AddRecord"_s,
+    .shortcut = u"Ctrl++"_s,
+    .menu = {8, u"增加记录(&N)"_s},
+    .record = Record::Stays,
+    .run = addRecord,
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,60 @@
+#include "ado/Recordset.h"
+#include "query/Conditions.h"
+#include "session/FilterManagerRollback.h"
+#include "session/Questions.h"
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+#include "session/commands/Command.h"
+#include "session/commands/CommandKeys.h"
+
+// Keeps the records whose field equals the current cell.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using CellCondition = KOVAVSFDataGridLib::CellFilter;
+
+CellCondition conditionOfCell(Session &session, int row, int col)
+{
+    const ADODB::Recordset &recordset = *session.result().recordset();
+    const qint64 record = session.recordOfRow(row);
+    std::optional<QString> text;
+    if (!recordset.IsNull(record, col - 1))
+        text = recordset.CellText(record, col - 1);
+    const ADODB::Field &field = recordset.Fields().Item(col - 1);
+    return BuildCellFilter(session.history().GetSelFieldRealName(field.Name()), field.Type(), text,
+                           session.result().engine());
+}
+
+void filterBySelectedCell(Session &session)
+{
+    const int row = session.window().Row();
+    const int col = session.window().currentCol();
+    if (row == 0 || col == 0)
+        return;
+    const CellCondition filter = conditionOfCell(session, row, col);
+    if (!filter.message.isEmpty())
+        return session.questions().tell(filter.message);
+    FilterManagerRollback rollback(session);
+    QString statement;
+    if (!filter.condition.isEmpty() && session.addCondition(filter.condition, statement) &&
+        session.reloadFiltered(statement, false))
+        rollback.keepChanges();
+}
+
+const Command::Registration registration({
+    .key = CommandKeys::CellFilter,
+    .shortcut = u"Ctrl+Shift+L"_s,
+    .menu = {14, u"按选定内容筛选(&C)"_s},
+    .isInViewer = true,
+    .viewerMenu = {4, u"按所选内容筛选(&F)"_s},
+    .needs = Needs::Records,
+    .run = filterBySelectedCell,
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,59 @@
+#include "session/commands/Command.h"
+
+#include <algorithm>
+#include <deque>
+#include <limits>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+std::deque<Command> &registered()
+{
+    static std::deque<Command> commands; // whose addresses stay
+    return commands;
+}
+
+int placeOf(const Command &command)
+{
+    return command.button ? command.button->place : std::numeric_limits<int>::max();
+}
+
+template<typename Predicate>
+const Command *findIf(Predicate predicate)
+{
+    const auto found = std::ranges::find_if(registered(), predicate);
+    return found == registered().end() ? nullptr : &*found;
+}
+
+} // namespace
+
+Command::Registration::Registration(Command command)
+{
+    Q_ASSERT_X(!find(command.key), "Command", "two commands have the same key");
+    registered().push_back(std::move(command));
+}
+
+const Command *Command::find(const QString &key)
+{
+    return findIf([&](const Command &command) { return command.key == key; });
+}
+
+const Command *Command::findMenuItem(int index)
+{
+    return index < 1 ? nullptr : findIf([=](const Command &command) { return command.menu.index == index; });
+}
+
+const std::vector<const Command *> &Command::all()
+{
+    static const std::vector<const Command *> sorted = [] {
+        std::vector<const Command *> commands;
+        for (const Command &command : registered())
+            commands.push_back(&command);
+        std::ranges::stable_sort(commands, {}, [](const Command *command) { return placeOf(*command); });
+        return commands;
+    }();
+    return sorted;
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <optional>
+#include <vector>
+
+namespace KOVAVSFDataGridLib {
+
+class Session;
+
+// What has to hold before a command runs.
+enum class Needs { Nothing, Records };
+// What becomes of the record that is being edited: it is left alone; it is listed again, so that a value
+// being typed is taken first; or it is left for another one, so that it is saved first.
+enum class Record { Stays, IsListedAgain, IsLeft };
+
+// A button of the toolbar.
+struct ButtonTexts
+{
+    int place; // buttons stand in this order; each hundred is a group
+    QString caption;
+    QString toolTip;
+    bool isToggle = false;
+};
+
+// An item of a popup menu; the indexes that no command has are separators.
+struct MenuItemTexts
+{
+    int index = 0; // from 1; 0 for a command that the menu doesn't have
+    QString caption = {};
+    // Chosen here, the command shows many records again first.
+    bool leavesSingleRecord = false;
+};
+
+// One thing that a user can do with a result. A command is a static Registration in a source file of its own;
+// toolbar, menus and shortcuts are made of what is registered.
+struct Command
+{
+    QString key;      // also the name of its icon
+    QString shortcut; // in the form that QKeySequence reads
+    std::optional<ButtonTexts> button = {};
+    MenuItemTexts menu = {};
+    // Whether the full-screen viewer has it, and where in its menu.
+    bool isInViewer = false;
+    MenuItemTexts viewerMenu = {};
+    Needs needs = Needs::Nothing;
+    Record record = Record::IsLeft;
+    void (*run)(Session &session);
+
+    struct Registration
+    {
+        explicit Registration(Command command);
+    };
+
+    // Null when there is no such command.
+    static const Command *find(const QString &key);
+    static const Command *findMenuItem(int index);
+    // All commands: those with buttons in their order, then the others.
+    static const std::vector<const Command *> &all();
+};
+
+} // namespace KOVAVSFDataGridLib

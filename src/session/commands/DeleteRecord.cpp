@@ -1,0 +1,79 @@
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "session/Questions.h"
+#include "session/ResultWatch.h"
+#include "session/Session.h"
+#include "session/SessionMessages.h"
+#include "session/SessionWindow.h"
+#include "session/commands/Command.h"
+
+#include <algorithm>
+
+// Asks, and deletes the current record; the next one becomes current, or the last one.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The answer is meant for the record that was current when the question came up, and for no other that the
+// host has made current meanwhile.
+bool askToDelete(Session &session)
+{
+    const ResultWatch watch(session);
+    const qint64 position = watch.recordset()->AbsolutePosition();
+    return session.questions().ask(SessionMessages::AskDelete, SessionMessages::AskDeleteTitle) &&
+           watch.isUntouched() && watch.recordset()->AbsolutePosition() == position;
+}
+
+void deleteCurrentRecord(Session &session)
+{
+    const ADODB::Notifications::Hold hold(session.notifications());
+    ADODB::Recordset &recordset = *session.result().recordset();
+    session.window().cancelEdit();
+    if (recordset.EditMode() == ADODB::adEditAdd) {
+        session.cancelRecord();
+        return;
+    }
+    const qint64 position = recordset.AbsolutePosition();
+    recordset.Delete(ADODB::adAffectCurrent);
+    const qint64 next = std::min(position, recordset.RecordCount());
+    if (next < 1)
+        recordset.MoveFirst(); // off the deleted record: nothing is left
+    session.refillAtRecord(next);
+    if (next >= 1)
+        recordset.PutAbsolutePosition(next);
+    else if (session.window().isSingleRecordShown())
+        session.window().showAllRecords();
+    session.window().refreshRecords();
+}
+
+void deleteRecord(Session &session)
+{
+    if (!session.result().isOpen())
+        return;
+    const bool isNew = session.result().recordset()->EditMode() == ADODB::adEditAdd;
+    if ((!session.hasRecords() && !isNew) || !askToDelete(session))
+        return;
+    const ResultWatch watch(session);
+    try {
+        deleteCurrentRecord(session);
+    } catch (const ADODB::Error &error) {
+        // Not every refusal is a constraint: the file may be read-only, the record changed by somebody else.
+        if (watch.isUntouched())
+            session.questions().tellWithCause(SessionMessages::DeleteRefused, error.Description());
+    }
+}
+
+const Command::Registration registration({
+    .key = u"DeleteRecord"_s,
+    .shortcut = u"Ctrl+-"_s,
+    .menu = {9, u"删除记录(&D)"_s},
+    .record = Record::Stays,
+    .run = deleteRecord,
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,77 @@
+#include "session/FilterManagerRollback.h"
+#include "session/HostEvents.h"
+#include "session/Questions.h"
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+#include "session/commands/Command.h"
+#include "session/commands/CommandKeys.h"
+
+// Asks the host for a condition by its event QurryFilter, and the user by the filter dialog unless the host
+// took over.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString askUser(Session &session)
+{
+    return session.questions().askCondition(session.conditionRequest());
+}
+
+// Nothing when there is no statement to filter, and when the host put another result in its place.
+std::optional<QString> askHost(Session &session, const FilterManagerRollback &ground)
+{
+    session.texts.passQurryFilter.clear();
+    QString base;
+    QString key;
+    colShowSQLSentences &history = ground.manager().SQLManager();
+    if (!(session.isFromResult() ? history.GetLatestSQL(base, &key) : history.GetFirstSQL(base, key)))
+        return {};
+    constexpr qint32 leftToTheDialog = 1;
+    qint32 cancel = leftToTheDialog;
+    session.host().askFilter(cancel, base);
+    if (!ground.isResultUntouched())
+        return {};
+    return cancel == leftToTheDialog ? askUser(session) : session.texts.passQurryFilter;
+}
+
+void filterByDialog(Session &session)
+{
+    if (!session.hasRecords())
+        return;
+    FilterManagerRollback rollback(session);
+    const bool asksHost = session.rules().speaksToHost;
+    const std::optional<QString> condition = asksHost ? askHost(session, rollback) : askUser(session);
+    if (!condition || !rollback.isResultUntouched())
+        return;
+    session.setLastFilter(*condition);
+    QString statement;
+    const QString added = asksHost ? *condition : condition->trimmed();
+    if (!added.trimmed().isEmpty() && session.addCondition(added, statement) &&
+        session.reloadFiltered(statement, true))
+        rollback.keepChanges();
+}
+
+const Command::Registration registration({
+    .key = CommandKeys::Filter,
+    .shortcut = u"Ctrl+Shift+F"_s,
+    .button = {{300, u"筛选"_s, u"按条件筛选记录"_s}},
+    .menu = {11, u"筛选(&F)"_s, true},
+    .isInViewer = true,
+    .run = filterByDialog,
+});
+
+// Whether "Filter" filters what is shown rather than the first statement.
+const Command::Registration fromResult({
+    .key = CommandKeys::FromResult,
+    .shortcut = u"Ctrl+R"_s,
+    .button = {{302, u"在结果中筛选"_s, u"按下时在当前结果中继续筛选，弹起时从最初的结果筛选"_s, true}},
+    .record = Record::Stays,
+    .run = [](Session &session) { session.toggleFromResult(); },
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,77 @@
+#include "ado/Recordset.h"
+#include "query/Conditions.h"
+#include "session/FilterManagerRollback.h"
+#include "session/Questions.h"
+#include "session/Session.h"
+#include "session/commands/Command.h"
+
+// Asks for words and looks for them in all fields, or in one.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The type that the result gives, else the one that the catalogue read from the source: the result may have
+// been opened with fewer fields.
+std::optional<qint32> typeOf(const clsDataField &field, const ADODB::Fields &fields)
+{
+    const int index = fields.IndexOf(field.FieldName);
+    if (index >= 0)
+        return fields.Item(index).Type();
+    return field.FieldType != 0 ? std::optional(field.FieldType) : std::nullopt;
+}
+
+std::vector<TypedField> searchedFields(const FindAnswer &answer, const colDataFields &catalogue,
+                                       const ADODB::Fields &fields)
+{
+    std::vector<TypedField> searched;
+    for (const clsDataField &field : catalogue) {
+        if (!answer.isOneField || field.FieldName == answer.field)
+            searched.push_back({field.FieldName, typeOf(field, fields)});
+    }
+    return searched;
+}
+
+// Nothing when the words can't be searched for, or not any more.
+std::optional<QString> askUser(Session &session, const FilterManagerRollback &ground, const QString &latest)
+{
+    const colDataFields catalogue = ground.manager().SQLManager().DataFields();
+    const std::optional<FindAnswer> answer = session.questions().askWords(catalogue);
+    QString condition;
+    if (!answer || !ground.isResultUntouched() ||
+        !BuildLikeCondition(answer->text,
+                            searchedFields(*answer, catalogue, session.result().recordset()->Fields()),
+                            latest, ground.manager().DBType(), condition, session.result().engine()))
+        return {};
+    return condition;
+}
+
+void quickFilter(Session &session)
+{
+    FilterManagerRollback rollback(session);
+    QString latest;
+    if (!rollback.manager().SQLManager().GetLatestSQL(latest))
+        return;
+    const std::optional<QString> condition = askUser(session, rollback, latest);
+    if (!condition)
+        return;
+    session.setLastFilter(*condition);
+    QString statement;
+    if (!condition->trimmed().isEmpty() && session.addCondition(*condition, statement) &&
+        session.reloadFiltered(statement, true))
+        rollback.keepChanges();
+}
+
+const Command::Registration registration({
+    .key = u"QuickFilter"_s,
+    .shortcut = u"Ctrl+F"_s,
+    .button = {{301, u"快速筛选"_s, u"在所有字段中查找"_s}},
+    .needs = Needs::Records,
+    .run = quickFilter,
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,56 @@
+#include "session/FilterManagerRollback.h"
+#include "session/Session.h"
+#include "session/commands/Command.h"
+#include "session/commands/CommandKeys.h"
+
+// Lets the user choose a sort and shows the records in it.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void sortByDialog(Session &session)
+{
+    FilterManagerRollback rollback(session);
+    clsFilterManagement &manager = rollback.manager();
+    colShowSQLSentences &history = manager.SQLManager();
+    manager.SetDBConnString(session.texts.connectionString);
+    const clsShowSQLSentence *latest = history.Item(history.Count());
+    if (!latest)
+        return;
+    const QString allFields = latest->AllFields; // the history can change while the dialog is open
+    QString currentSort;
+    latest->GetCurrUseOrderFieldSQL(currentSort);
+    if (currentSort.isEmpty() && session.rules().beginsWithHostSort)
+        currentSort = session.texts.sqlSort;
+
+    QString newSort;
+    QString statement;
+    if (!manager.GetPartSortSelFields(allFields, currentSort, newSort) || !rollback.isResultUntouched() ||
+        !history.GetNextSQLBySort(newSort, statement))
+        return;
+    session.columns().SaveColumnWidths(0);
+    session.rememberStatement();
+    const auto opened = session.read(statement);
+    if (!opened)
+        return;
+    const ADODB::Notifications::Hold hold(session.notifications());
+    session.show(*opened, statement);
+    rollback.keepChanges();
+    session.record(statement, colShowSQLSentences::NoPartField(), newSort);
+}
+
+const Command::Registration registration({
+    .key = CommandKeys::Sort,
+    .shortcut = u"Ctrl+Shift+O"_s,
+    .button = {{303, u"排序"_s, u"选择排序字段"_s}},
+    .menu = {12, u"排序(&O)"_s, true},
+    .isInViewer = true,
+    .run = sortByDialog,
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,46 @@
+#include "session/FilterManagerRollback.h"
+#include "session/Session.h"
+#include "session/commands/Command.h"
+#include "session/commands/CommandKeys.h"
+
+// The latest statement without its condition.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void showFullTable(Session &session)
+{
+    constexpr qint32 withoutCondition = 3;
+    QString latest;
+    QString key;
+    QString statement;
+    if (!session.history().GetLatestSQL(latest, &key) || latest.isEmpty() ||
+        !session.filterManager().GetRequirePartSQL(latest, withoutCondition, statement))
+        return;
+    const bool showsAll = session.history().Item(key)->IsShowAllFields == 1;
+    session.columns().SaveColumnWidths(0);
+    const auto opened = session.read(statement);
+    if (!opened)
+        return;
+    const ADODB::Notifications::Hold hold(session.notifications());
+    session.show(*opened, statement);
+    session.setFieldView(showsAll ? FieldView::All : FieldView::Part);
+    session.record(statement);
+}
+
+const Command::Registration registration({
+    .key = CommandKeys::ToFullTable,
+    .shortcut = u"Ctrl+0"_s,
+    .button = {{502, u"整表"_s, u"去掉筛选条件，显示整个表"_s}},
+    .menu = {15, u"显示整表(&T)"_s},
+    .isInViewer = true,
+    .viewerMenu = {5, u"显示整个表(&T)"_s},
+    .run = showFullTable,
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,33 @@
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+#include "session/commands/Command.h"
+
+// How much of the result is seen at once.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const Command::Registration compressView({
+    .key = u"CompressView"_s,
+    .shortcut = u"Ctrl+M"_s,
+    .button = {{600, u"压缩显示"_s, u"调整列宽，使所有列都能看到"_s}},
+    .isInViewer = true,
+    .record = Record::Stays,
+    .run = [](Session &session) { session.compressColumns(); },
+});
+
+const Command::Registration fullScreen({
+    .key = u"FullScreen"_s,
+    .shortcut = u"F11"_s,
+    .button = {{601, u"全屏"_s, u"全屏显示"_s}},
+    .menu = {4, u"全屏显示(&S)"_s},
+    .needs = Needs::Records,
+    .run = [](Session &session) { session.window().showFullScreen(); },
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib
