@@ -38,10 +38,7 @@ void Session::detach()
     m_isDetached = true;
     if (m_filter && !m_opener)
         m_filter->SetFieldChooser(nullptr);
-    if (m_opener)
-        m_result.borrow({});
-    else
-        m_result.release();
+    m_result.borrow({}); // which closes it, unless the host holds it as well
 }
 
 ColumnLayout Session::columns()

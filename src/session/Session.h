@@ -66,7 +66,7 @@ public:
     ~Session();
     Q_DISABLE_COPY_MOVE(Session)
 
-    // The window is about to go: the result is closed, if it is the session's own, without a word.
+    // The window is about to go. The session releases its result without a word.
     void detach();
     bool isDetached() const { return m_isDetached; }
 

@@ -170,18 +170,22 @@ QString KOVAVSFDataGrid::ConnectionString() const
     return d->session->texts.connectionString;
 }
 
+// The texts that belonged to the old connection are emptied one after the other, each with its report: a host
+// that loads in the first one still finds its statement.
 void KOVAVSFDataGrid::PutConnectionString(const QString &text)
 {
-    const auto session = d->session;
-    const ADODB::Notifications::Hold hold(session->notifications());
-    session->shared.connectionString = text;
-    d->put(session->texts.connectionString, text, "ConnectionString");
-    PutSQLShow({});
+    const QPointer<KOVAVSFDataGrid> alive(this);
+    d->put(d->session->texts.connectionString, text, "ConnectionString");
     ClearSQLFieldList();
-    PutSQLFilter({});
-    PutSQLSort({});
-    PutSQLPartDisplay({});
-    session->filterManager().ClearFilter();
+    for (const auto put : {&KOVAVSFDataGrid::PutSQLShow, &KOVAVSFDataGrid::PutSQLFilter,
+                           &KOVAVSFDataGrid::PutSQLSort, &KOVAVSFDataGrid::PutSQLPartDisplay}) {
+        if (alive)
+            (this->*put)({});
+    }
+    if (!alive)
+        return;
+    d->session->shared.connectionString = text;
+    d->session->filterManager().ClearFilter();
 }
 
 QString KOVAVSFDataGrid::SQLShow() const
