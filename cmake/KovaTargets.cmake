@@ -101,3 +101,20 @@ function(kova_test name)
     ENVIRONMENT "LC_ALL=C.UTF-8"
     SKIP_REGULAR_EXPRESSION "ALL TESTS SKIPPED")
 endfunction()
+
+# kova_toolbar_icons(<variable>): the source file that carries the drawings of src/control/parts/icons as resources.
+# The folder is the list.
+function(kova_toolbar_icons variable)
+  cmake_path(SET folder NORMALIZE ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/../src/control/parts/icons)
+  file(GLOB icons CONFIGURE_DEPENDS ${folder}/*.svg)
+  set(files "")
+  foreach(icon IN LISTS icons)
+    cmake_path(GET icon FILENAME name)
+    string(APPEND files "    <file alias=\"icons/${name}\">${icon}</file>\n")
+  endforeach()
+  set(list ${CMAKE_CURRENT_BINARY_DIR}/ToolbarIcons.qrc)
+  file(CONFIGURE OUTPUT ${list} CONTENT
+    "<RCC>\n  <qresource prefix=\"/KOVAVSFDataGridLib\">\n${files}  </qresource>\n</RCC>\n" @ONLY)
+  qt_add_resources(source ${list})
+  set(${variable} ${source} PARENT_SCOPE)
+endfunction()

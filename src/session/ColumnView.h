@@ -13,19 +13,20 @@ public:
     static constexpr int UseDefaultWidth = -1;  // the width of a column that never got one
     static constexpr int DefaultColWidth = 960; // twips; what that comes to
 
-    virtual int Cols() const = 0;
-    // The texts above the columns 1 to Cols() - 1.
-    virtual QStringList Headings() const = 0;
-    virtual int ColWidth(int col) const = 0;
-    virtual void PutColWidth(int col, int twips) = 0;
-    // All columns get the default width.
-    virtual void ResetColWidths() = 0;
-    // The widths of all columns and the row headings together, and the width of the whole grid.
-    virtual int widthOfColumns() const = 0;
-    virtual int width() const = 0;
+    ColumnView() = default;
+    virtual ~ColumnView() = default;
+    Q_DISABLE_COPY_MOVE(ColumnView)
 
-protected:
-    ~ColumnView() = default;
+    virtual int Cols() const { return 1; }
+    // The texts above the columns 1 to Cols() - 1.
+    virtual QStringList Headings() const { return {}; }
+    virtual int ColWidth(int /*col*/) const { return UseDefaultWidth; }
+    virtual void PutColWidth(int /*col*/, int /*twips*/) {}
+    // All columns get the default width.
+    virtual void ResetColWidths() {}
+    // The widths of all columns and the row headings together, and the width of the whole grid.
+    virtual int widthOfColumns() const { return 0; }
+    virtual int width() const { return 0; }
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -2,6 +2,7 @@
 
 #include "ado/Connection.h"
 #include "ado/Error.h"
+#include "ado/Fields.h"
 #include "query/SharedValues.h"
 #include "query/SqlText.h"
 #include "session/ResultSet.h"
@@ -47,7 +48,8 @@ bool ConnectionFieldReader::Open(const QString &connectionString)
     try {
         connect(connectionString);
         return true;
-    } catch (const std::exception &) {
+    } catch (const std::exception &error) { // a connection factory of the host's may throw anything
+        m_failure = QString::fromUtf8(error.what());
         return false;
     }
 }
@@ -75,6 +77,15 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
         m_failure = QString::fromUtf8(error.what());
         return {};
     }
+}
+
+void ConnectionFieldReader::remember(const QString &connectionString, const QString &statement,
+                                     const ADODB::Fields &fields)
+{
+    std::vector<SourceField> known;
+    for (int i = 0; i < fields.Count(); ++i)
+        known.push_back({fields.Item(i).Name(), fields.Item(i).Type()});
+    m_known.insert({connectionString, statement}, known);
 }
 
 void ConnectionFieldReader::forget()

@@ -8,6 +8,7 @@
 
 namespace ADODB {
 class Connection;
+class Fields;
 }
 
 namespace KOVAVSFDataGridLib {
@@ -27,6 +28,9 @@ public:
     bool Open(const QString &connectionString) override;
     std::optional<std::vector<SourceField>> Read(const QString &connectionString,
                                                  const QString &statement) override;
+
+    // Takes the fields of a statement from its open result, so that nobody has to ask the database for them.
+    void remember(const QString &connectionString, const QString &statement, const ADODB::Fields &fields);
 
     // Why the last reading failed, as a sentence for the user; empty when it did not.
     const QString &Failure() const { return m_failure; }

@@ -4,21 +4,23 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What a session reports to the host of its control, and asks of it.
+// What a session reports to the host of its control, and asks of it. This one is a host that listens to
+// nothing.
 class HostEvents
 {
 public:
-    // SQLFilter was written.
-    virtual void filterWritten() = 0;
-    // QurryFilter: the host may change `cancel` and write PassQurryFilter.
-    virtual void askFilter(qint32 &cancel, const QString &base) = 0;
-    // ShowFieldsChange.
-    virtual void fieldsChanged(const QString &statement) = 0;
-    // The control's Refresh.
-    virtual void refresh() = 0;
+    HostEvents() = default;
+    virtual ~HostEvents() = default;
+    Q_DISABLE_COPY_MOVE(HostEvents)
 
-protected:
-    ~HostEvents() = default;
+    // SQLFilter was written.
+    virtual void filterWritten() {}
+    // QurryFilter: the host may change `cancel` and write PassQurryFilter.
+    virtual void askFilter(qint32 & /*cancel*/, const QString & /*base*/) {}
+    // ShowFieldsChange.
+    virtual void fieldsChanged(const QString & /*statement*/) {}
+    // The control's Refresh.
+    virtual void refresh() {}
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -30,21 +30,30 @@ struct FindAnswer
     QString field; // where isOneField
 };
 
-// What a session asks and tells its user. Each function returns when the user is done; meanwhile a host may
-// do anything, even delete what asked.
+// What a session asks and reports to its user. Each function returns when the user is done; meanwhile a host
+// may do anything, even delete what asked. This one is a user who is not there: every question is cancelled.
 class Questions : public FieldChooser
 {
 public:
     // What kind of database (AllDBType) the names that are offered belong to.
-    virtual void setDatabase(qint32 dbType) = 0;
-    virtual void tell(const QString &text) = 0;
-    virtual void tellWithCause(const QString &text, const QString &cause) = 0;
+    virtual void setDatabase(qint32 /*dbType*/) {}
+    std::optional<QString> ChooseVisibleFields(const QString &, const QStringList &,
+                                               const QStringList &) override
+    {
+        return {};
+    }
+    std::optional<QString> ChooseSort(const QString &, const QStringList &, const QStringList &) override
+    {
+        return {};
+    }
+    virtual void show(const QString & /*text*/) {}
+    virtual void showWithCause(const QString & /*text*/, const QString & /*cause*/) {}
     // True for Yes. Enter presses No.
-    virtual bool ask(const QString &text, const QString &title) = 0;
+    virtual bool ask(const QString & /*text*/, const QString & /*title*/) { return false; }
     // An empty text when the user cancels.
-    virtual QString askCondition(const ConditionRequest &request) = 0;
+    virtual QString askCondition(const ConditionRequest &) { return {}; }
     // Nothing when there are no fields to look in.
-    virtual std::optional<FindAnswer> askWords(const colDataFields &fields) = 0;
+    virtual std::optional<FindAnswer> askWords(const colDataFields &) { return {}; }
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -3,9 +3,11 @@
 #include "ado/Adodc.h"
 #include "ado/Error.h"
 #include "ado/Recordset.h"
-#include "session/DetachedWindow.h"
+#include "session/HostEvents.h"
+#include "session/Questions.h"
 #include "session/ResultWatch.h"
 #include "session/SessionMessages.h"
+#include "session/SessionWindow.h"
 #include "session/TypedPage.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
@@ -30,10 +32,12 @@ Session::~Session() = default;
 
 void Session::detach()
 {
-    DetachedWindow &nobody = DetachedWindow::instance();
-    m_window = &nobody;
+    static SessionWindow nowhere;
+    static Questions nobody;
+    static HostEvents noHost;
+    m_window = &nowhere;
     m_questions = &nobody;
-    m_host = &nobody;
+    m_host = &noHost;
     m_notifications = &m_ownNotifications;
     m_isDetached = true;
     if (m_filter && !m_opener)
@@ -123,7 +127,7 @@ void Session::goToTypedPage(const QString &text)
         return;
     perform([&] {
         if (typed->number < 1) {
-            m_questions->tell(SessionMessages::NotAPageNumber);
+            m_questions->show(SessionMessages::NotAPageNumber);
         } else if (saveRecord()) {
             turnToPage(typed->number);
             if (m_rules.keepsTypedPage)

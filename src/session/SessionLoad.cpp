@@ -65,7 +65,7 @@ bool Session::load()
         reportOpenError(m_reader.Failure());
     switch (reading) {
     case Reading::Failed:
-        m_questions->tell(SessionMessages::OpenFailed);
+        m_questions->show(SessionMessages::OpenFailed);
         return false;
     case Reading::Overtaken: // by another load, say, which has done all that follows
         return !m_isDetached && m_result.isOpen();
@@ -86,6 +86,7 @@ void Session::showLoaded(const ResultSet::Opened &opened, const QString &stateme
     m_questions->setDatabase(m_filter->DBType());
     texts.recordSource = statement;
     m_statement = statement;
+    m_reader.remember(texts.connectionString, statement, m_result.recordset()->Fields());
 
     m_window->enableCommands();
     showPage(1);

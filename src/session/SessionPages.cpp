@@ -82,7 +82,7 @@ bool Session::showPage(qint64 page)
         return true;
     } catch (const ADODB::Error &error) {
         setPage(pageBefore);
-        m_questions->tell(SessionMessages::PageErrorPrefix + error.Description());
+        m_questions->show(SessionMessages::PageErrorPrefix + error.Description());
         return false;
     }
 }

@@ -67,7 +67,7 @@ bool Session::saveRecord()
         saveChanges();
     } catch (const ADODB::Error &error) {
         if (watch.isUntouched())
-            m_questions->tell(SessionMessages::NotSavedPrefix + error.Description());
+            m_questions->show(SessionMessages::NotSavedPrefix + error.Description());
         return false;
     }
     return watch.isUntouched();

@@ -20,7 +20,9 @@ void Session::rememberStatement() const
 ResultSet::Opened Session::openStatement(const QString &statement, qint32 dbType)
 {
     const auto progress = m_window->beginOpening();
-    const auto goOn = [&](qint64 rowsRead) { return progress->goOn(rowsRead); };
+    const auto goOn = [&](qint64 rowsRead) {
+        return !m_isDetached && (!progress || progress->goOn(rowsRead));
+    };
     return m_opener ? m_opener(statement, goOn)
                     : ResultSet::open(texts.connectionString, statement, dbType, goOn);
 }
@@ -48,7 +50,7 @@ Session::Reading Session::readResult(const QString &statement, qint32 dbType,
 void Session::reportOpenError(const QString &description)
 {
     if (m_rules.reportsOpenErrors)
-        m_questions->tell(SessionMessages::OpenErrorPrefix + description);
+        m_questions->show(SessionMessages::OpenErrorPrefix + description);
 }
 
 std::optional<ResultSet::Opened> Session::read(const QString &statement)
@@ -99,7 +101,7 @@ bool Session::reloadFiltered(const QString &statement, bool isRemembered)
     const auto opened = readForReload(statement, isRemembered);
     if (!opened) {
         if (!m_rules.reportsOpenErrors)
-            m_questions->tell(SessionMessages::ReadFailed);
+            m_questions->show(SessionMessages::ReadFailed);
         return false;
     }
     const ADODB::Notifications::Hold hold(*m_notifications);

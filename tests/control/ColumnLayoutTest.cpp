@@ -33,17 +33,6 @@ struct OneTable final : FieldReader
     }
 };
 
-// A window with nothing but a grid.
-struct OneGrid final : GridWindow
-{
-    using GridWindow::GridWindow;
-    void showRecords(std::shared_ptr<ADODB::Recordset>, qint64, int) override {}
-    void showPageNumber(int, qint64) override {}
-    void showTypedPage(const QString &) override {}
-    void refreshStatus() override {}
-    std::unique_ptr<OpeningProgress> beginOpening() override { return nullptr; }
-};
-
 struct Layout : testing::Test
 {
     Layout()
@@ -85,7 +74,7 @@ struct Layout : testing::Test
     colShowSQLSentences history{&reader};
     VSFlexGrid grid;
     GridToolbar toolbar;
-    OneGrid window{grid, toolbar};
+    GridWindow window{grid, toolbar};
     ColumnLayout columns{window, history};
 };
 

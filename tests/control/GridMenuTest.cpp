@@ -5,7 +5,8 @@
 #include "control/parts/GridParts.h"
 #include "control/parts/GridToolbar.h"
 #include "grid/FlexGrid.h"
-#include "session/DetachedWindow.h"
+#include "session/HostEvents.h"
+#include "session/Questions.h"
 #include "session/Session.h"
 
 #include <QtTest/QSignalSpy>
@@ -49,8 +50,10 @@ struct GridMenu : testing::Test
     QWidget window;
     GridParts parts{window};
     ControlWindow shown{window, parts};
-    std::shared_ptr<Session> session = std::make_shared<Session>(
-        shown, DetachedWindow::instance(), DetachedWindow::instance(), ControlRules, parts.Adodc1);
+    Questions nobody;
+    HostEvents noHost;
+    std::shared_ptr<Session> session =
+        std::make_shared<Session>(shown, nobody, noHost, ControlRules, parts.Adodc1);
     GridEvents events{control, parts, *session};
     QSignalSpy menus{&events, &GridEvents::menuWanted};
     qsizetype menusAtMouseUp = -1;

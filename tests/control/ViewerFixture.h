@@ -31,15 +31,10 @@ public:
     QString condition; // what the filter dialog gives
     QStringList messages;
 
-    void setDatabase(qint32) override {}
-    void tell(const QString &text) override { messages.append(text); }
-    void tellWithCause(const QString &text, const QString &) override { messages.append(text); }
+    void show(const QString &text) override { messages.append(text); }
+    void showWithCause(const QString &text, const QString &) override { messages.append(text); }
     bool ask(const QString &, const QString &) override { return true; }
     QString askCondition(const KOVAVSFDataGridLib::ConditionRequest &) override { return condition; }
-    std::optional<KOVAVSFDataGridLib::FindAnswer> askWords(const KOVAVSFDataGridLib::colDataFields &) override
-    {
-        return {};
-    }
 
     std::optional<QString> ChooseVisibleFields(const QString &, const QStringList &allFields,
                                                const QStringList &partFields) override;
@@ -51,9 +46,6 @@ struct SilentHost final : KOVAVSFDataGridLib::HostEvents
 {
     int filtersWritten = 0;
     void filterWritten() override { ++filtersWritten; }
-    void askFilter(qint32 &, const QString &) override {}
-    void fieldsChanged(const QString &) override {}
-    void refresh() override {}
 };
 
 // The parts of a control with an open result, as a load leaves them.

@@ -26,7 +26,6 @@ public:
 
     void showRecords(std::shared_ptr<ADODB::Recordset> recordset, qint64 first, int count) override;
     void showPageNumber(int page, qint64 pageCount) override;
-    void showTypedPage(const QString &) override {}
     int currentCol() const override;
     bool isSingleRecordShown() const override;
     void showSingleRecord() override;

@@ -23,7 +23,7 @@ class KOVAVSFDataGrid::Private final : public KOVAVSFDataGridLib::HostEvents
 {
 public:
     explicit Private(KOVAVSFDataGrid &control);
-    ~Private();
+    ~Private() override;
 
     // Stores a property's value and reports that it was written, even when it is the same.
     template<typename Value>

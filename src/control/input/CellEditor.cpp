@@ -108,7 +108,7 @@ bool CellEditor::commit(bool isQuiet)
     } catch (const ADODB::Error &error) {
         if (isQuiet)
             return false;
-        session->questions().tell(GridTexts::ValueRefusedPrefix + error.Description());
+        session->questions().show(GridTexts::ValueRefusedPrefix + error.Description());
         if (watch.isUntouched())
             m_parts.txtEdit->setFocus();
         return false;

@@ -28,12 +28,12 @@ std::optional<QString> DialogQuestions::ChooseSort(const QString &title, const Q
     return m_chooser.ChooseSort(title, allFields, sortTerms);
 }
 
-void DialogQuestions::tell(const QString &text)
+void DialogQuestions::show(const QString &text)
 {
     Messages::tell(m_parent, text);
 }
 
-void DialogQuestions::tellWithCause(const QString &text, const QString &cause)
+void DialogQuestions::showWithCause(const QString &text, const QString &cause)
 {
     Messages::tellWithCause(m_parent, text, cause);
 }

@@ -20,8 +20,8 @@ public:
                                                const QStringList &partFields) override;
     std::optional<QString> ChooseSort(const QString &title, const QStringList &allFields,
                                       const QStringList &sortTerms) override;
-    void tell(const QString &text) override;
-    void tellWithCause(const QString &text, const QString &cause) override;
+    void show(const QString &text) override;
+    void showWithCause(const QString &text, const QString &cause) override;
     bool ask(const QString &text, const QString &title) override;
     QString askCondition(const ConditionRequest &request) override;
     std::optional<FindAnswer> askWords(const colDataFields &fields) override;

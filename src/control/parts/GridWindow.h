@@ -11,7 +11,6 @@ class GridToolbar;
 class VSFlexGrid;
 
 // What the control and its full-screen viewer have in common as windows of a session: a grid and a toolbar.
-// This one has no list of a single record and nothing to edit.
 class GridWindow : public SessionWindow
 {
 public:
@@ -34,20 +33,9 @@ public:
     int currentCol() const override;
     void keepInView(const std::function<void()> &change) override;
 
-    bool isSingleRecordShown() const override { return false; }
-    void showSingleRecord() override {}
-    void showAllRecords() override {}
-    void refreshSingleRecord() override {}
-    bool commitEdit() override { return true; }
-    void cancelEdit() override {}
-
     void setPressed(const QString &key, bool on) override;
-    void enableCommands() override {}
-    void showFullScreen() override {}
 
 protected:
-    ~GridWindow() = default;
-
     VSFlexGrid &m_grid;
     GridToolbar &m_toolbar;
 };

@@ -8,7 +8,6 @@
 #include "control/viewer/ViewerMenu.h"
 #include "control/viewer/ViewerTexts.h"
 #include "grid/FlexGrid.h"
-#include "session/DetachedWindow.h"
 #include "session/Session.h"
 #include "session/commands/CommandKeys.h"
 
@@ -46,8 +45,8 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
       m_questions(std::make_unique<ViewerQuestions>(*this, std::move(host.askCondition))),
       m_parts(*this),
       m_window(*this, m_parts),
-      m_session(std::make_shared<Session>(m_window, *m_questions, DetachedWindow::instance(), ViewerRules,
-                                          nullptr, std::move(host.open))),
+      m_session(std::make_shared<Session>(m_window, *m_questions, m_noHost, ViewerRules, nullptr,
+                                          std::move(host.open))),
       m_menu(new ViewerMenu(this))
 {
     m_window.setSession(*m_session);

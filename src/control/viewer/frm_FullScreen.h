@@ -3,6 +3,7 @@
 #include "control/viewer/ViewerHost.h"
 #include "control/viewer/ViewerParts.h"
 #include "control/viewer/ViewerWindow.h"
+#include "session/HostEvents.h"
 #include "session/Questions.h"
 
 #include <QtWidgets/QDialog>
@@ -59,6 +60,7 @@ private:
     void run(const QString &key);
     void popUp(const QPoint &globalPosition, bool isOnCell);
 
+    HostEvents m_noHost; // which hears of everything when the user has come back
     const std::unique_ptr<Questions> m_questions;
     const ViewerParts m_parts;
     ViewerWindow m_window;

@@ -32,7 +32,7 @@ void addRecord(Session &session)
     } catch (const ADODB::Error &error) {
         const bool isCancelled = recordset.EditMode() == ADODB::adEditAdd || error.is(ADODB::dbErrCancelled);
         if (watch.isUntouched() && isCancelled)
-            session.questions().tell(SessionMessages::InsertCancelled);
+            session.questions().show(SessionMessages::InsertCancelled);
     }
 }
 

@@ -37,7 +37,7 @@ void filterBySelectedCell(Session &session)
         return;
     const CellCondition filter = conditionOfCell(session, row, col);
     if (!filter.message.isEmpty())
-        return session.questions().tell(filter.message);
+        return session.questions().show(filter.message);
     FilterManagerRollback rollback(session);
     QString statement;
     if (!filter.condition.isEmpty() && session.addCondition(filter.condition, statement) &&

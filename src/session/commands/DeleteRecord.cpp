@@ -62,7 +62,7 @@ void deleteRecord(Session &session)
     } catch (const ADODB::Error &error) {
         // Not every refusal is a constraint: the file may be read-only, the record changed by somebody else.
         if (watch.isUntouched())
-            session.questions().tellWithCause(SessionMessages::DeleteRefused, error.Description());
+            session.questions().showWithCause(SessionMessages::DeleteRefused, error.Description());
     }
 }
 
