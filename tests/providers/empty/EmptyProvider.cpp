@@ -23,7 +23,7 @@ std::shared_ptr<Session> EmptyProvider::open(const ConnectionString &connection)
 {
     bool ok = true;
     const QString text = connection.value(u"Rows"_s);
-    const qint64 rows = text.isEmpty() ? 0 : text.toLongLong(&ok);
+    const qint64 rows = connection.contains(u"Rows"_s) ? text.toLongLong(&ok) : 0;
     if (!ok || rows < 0)
         throw Error(adErrInvalidArgument, Texts::badArgument().arg(text));
     return std::make_shared<EmptySession>(rows);
