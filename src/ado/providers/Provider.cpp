@@ -5,6 +5,7 @@
 #include "ado/Texts.h"
 
 #include <algorithm>
+#include <iterator>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -55,7 +56,8 @@ std::shared_ptr<Session> openSession(const ConnectionString &connection)
 
 ProviderRegistration::ProviderRegistration(const Provider &provider) : m_provider(&provider)
 {
-    knownProviders().insert(knownProviders().begin(), m_provider);
+    knownProviders().push_back(m_provider);
+    std::ranges::rotate(knownProviders(), std::prev(knownProviders().end()));
 }
 
 ProviderRegistration::~ProviderRegistration()
