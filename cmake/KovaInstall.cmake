@@ -12,12 +12,10 @@ install(TARGETS KOVAVSFDataGridLib EXPORT KOVAVSFDataGridLibTargets
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev
   INCLUDES DESTINATION ${KOVA_INSTALL_INCLUDEDIR})
 
+# <KOVAVSFDataGrid>, and the other public headers in a folder of their own beside it.
 install(FILES ${PROJECT_SOURCE_DIR}/include/KOVAVSFDataGrid DESTINATION ${KOVA_INSTALL_INCLUDEDIR} COMPONENT dev)
-foreach(header IN LISTS KOVA_PUBLIC_HEADERS)
-  cmake_path(GET header PARENT_PATH folder)
-  install(FILES ${PROJECT_SOURCE_DIR}/src/${header}
-    DESTINATION ${KOVA_INSTALL_INCLUDEDIR}/${folder} COMPONENT dev)
-endforeach()
+install(TARGETS kova_public_headers
+  FILE_SET HEADERS DESTINATION ${KOVA_INSTALL_INCLUDEDIR}/KOVAVSFDataGridLib COMPONENT dev)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/KOVAVSFDataGridLib)
 install(EXPORT KOVAVSFDataGridLibTargets NAMESPACE KOVAVSFDataGridLib:: DESTINATION ${package_dir} COMPONENT dev)

@@ -33,22 +33,43 @@ function(kova_compile_settings target)
   endif()
 endfunction()
 
-# kova_room(<name> SOURCES <files> LINKS <libraries> [PCH <headers>])
+# kova_may_use(<folder> <libraries>)
 #
-# One folder below src/ as an object library `kova_<name>`. What a room does not list in LINKS it
-# can't use: headers are found below src/, but symbols and Qt modules come from LINKS alone.
+# Notes what a folder links, for the test of the includes; kova_write_links() writes it down.
+function(kova_may_use folder)
+  list(JOIN ARGN " " links)
+  set_property(GLOBAL APPEND_STRING PROPERTY KOVA_LINKS "${folder}: ${links}\n")
+endfunction()
+
+function(kova_write_links file)
+  get_property(links GLOBAL PROPERTY KOVA_LINKS)
+  get_target_property(headers kova_public_headers HEADER_SET)
+  list(TRANSFORM headers REPLACE "^${PROJECT_SOURCE_DIR}/src/" "")
+  list(JOIN headers " " headers)
+  file(CONFIGURE OUTPUT ${file} CONTENT "${links}public headers: ${headers}\n" @ONLY)
+endfunction()
+
+# kova_room(<name> SOURCES <files> [PUBLIC_HEADERS <files>] LINKS <libraries> [PCH <headers>])
+#
+# One folder below src/ as an object library `kova_<name>`. What a room does not list in LINKS it can't use: Qt
+# modules and other libraries come from LINKS alone, and a test checks the includes. PUBLIC_HEADERS are those that a
+# host can include; they are installed.
 function(kova_room name)
-  cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS;PCH" ${ARGN})
+  cmake_parse_arguments(ROOM "" "" "SOURCES;PUBLIC_HEADERS;LINKS;PCH" ${ARGN})
   set(target kova_${name})
   add_library(${target} OBJECT ${ROOM_SOURCES})
   kova_compile_settings(${target})
   target_compile_definitions(${target} PRIVATE KOVAVSFDataGridLib_EXPORTS)
   target_include_directories(${target} PUBLIC
-    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src> $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
+    ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include ${PROJECT_BINARY_DIR}/include)
   target_link_libraries(${target} PUBLIC ${ROOM_LINKS})
+  kova_may_use(src/${name} ${ROOM_LINKS})
   set(rests_on ${ROOM_LINKS})
   list(FILTER rests_on INCLUDE REGEX "^kova_")
   set_target_properties(${target} PROPERTIES KOVA_RESTS_ON "${rests_on}")
+  if(ROOM_PUBLIC_HEADERS)
+    target_sources(kova_public_headers INTERFACE FILE_SET HEADERS FILES ${ROOM_PUBLIC_HEADERS})
+  endif()
   if(ROOM_PCH)
     target_precompile_headers(${target} PRIVATE ${ROOM_PCH})
   endif()
@@ -77,7 +98,6 @@ function(kova_program name)
   kova_rooms_below(rooms ${PROGRAM_ROOMS})
   add_executable(${name} ${PROGRAM_SOURCES})
   kova_compile_settings(${name})
-  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include)
   target_link_libraries(${name} PRIVATE ${rooms} ${PROGRAM_LINKS})
   if(PROGRAM_PCH)
     target_precompile_headers(${name} PRIVATE ${PROGRAM_PCH})
@@ -93,6 +113,7 @@ function(kova_test name)
   cmake_parse_arguments(TEST "" "TIMEOUT" "SOURCES;ROOMS;LINKS;PCH;LABELS;RUN_BY" ${ARGN})
   kova_program(${name} SOURCES ${TEST_SOURCES} ROOMS ${TEST_ROOMS} LINKS ${TEST_LINKS} kova_test_main
     PCH ${TEST_PCH})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/src)
   if(NOT TEST_TIMEOUT)
     set(TEST_TIMEOUT 300)
   endif()

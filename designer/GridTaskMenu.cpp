@@ -1,11 +1,11 @@
 #include "designer/GridTaskMenu.h"
 
-#include "control/connection/BuildConnection.h"
 #include "designer/DataPreview.h"
 #include "designer/DesignerTexts.h"
-#include "pages/ConnectionString.h"
-#include "pages/PageDialog.h"
-#include "pages/PropertyPages.h"
+#include <KOVAVSFDataGridLib/control/connection/BuildConnection.h>
+#include <KOVAVSFDataGridLib/pages/ConnectionString.h>
+#include <KOVAVSFDataGridLib/pages/PageDialog.h>
+#include <KOVAVSFDataGridLib/pages/PropertyPages.h>
 
 #include <QtCore/QVariant>
 #include <QtDesigner/QDesignerFormWindowCursorInterface>

@@ -300,7 +300,7 @@ QString SampleDatabase::path()
     try {
         if (!isCurrent(fileName))
             createInOneStep(fileName);
-    } catch (const std::exception &error) {
+    } catch (const std::runtime_error &error) {
         throw failure(HostTexts::CantMakeSample.arg(fileName, QString::fromUtf8(error.what())));
     }
     return fileName;

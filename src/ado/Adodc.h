@@ -1,8 +1,8 @@
 #pragma once
 
-#include "KovaExport.h"
-#include "ado/Notifications.h"
-#include "ado/RecordsetObserver.h"
+#include "../KovaExport.h"
+#include "Notifications.h"
+#include "RecordsetObserver.h"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "KovaExport.h"
-#include "ado/FieldInfo.h"
-#include "ado/MiddleTier.h"
+#include "../KovaExport.h"
+#include "FieldInfo.h"
+#include "MiddleTier.h"
 
 #include <memory>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "KovaExport.h"
-#include "ado/Enums.h"
+#include "../KovaExport.h"
+#include "Enums.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "KovaExport.h"
-#include "ado/FieldInfo.h"
+#include "../KovaExport.h"
+#include "FieldInfo.h"
 
 #include <QtCore/QVariant>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ado/Field.h"
+#include "Field.h"
 
 #include <unordered_map>
 #include <vector>

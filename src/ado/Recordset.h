@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ado/Fields.h"
+#include "Fields.h"
 
 #include <functional>
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/PropertyPage.h"
+#include "PropertyPage.h"
 
 class QListWidget;
 class QPushButton;

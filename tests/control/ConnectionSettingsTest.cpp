@@ -20,12 +20,12 @@ TEST(ConnectionSettings, TellTheTargetOfAString)
     const auto is = [](const QString &text, Kind kind, const QString &name = {}) {
         EXPECT_EQ(settingsOf(text).target, (ConnectionTarget{kind, name})) << qPrintable(text);
     };
-    is(u""_s, Kind::SqliteFile);
-    is(u"Provider=SQLite;Data Source=a.db"_s, Kind::SqliteFile);
-    is(u"Data Source=a.db"_s, Kind::SqliteFile);
-    is(u"data source=A.MDB"_s, Kind::AccessFile);
-    is(u"Data Source=a.accdb"_s, Kind::AccessFile);
-    is(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=a"_s, Kind::AccessFile);
+    is(u""_s, Kind::File, u"SQLite"_s);
+    is(u"Provider=SQLite;Data Source=a.db"_s, Kind::File, u"SQLite"_s);
+    is(u"Data Source=a.db"_s, Kind::File, u"SQLite"_s);
+    is(u"data source=A.MDB"_s, Kind::File, u"Microsoft.ACE.OLEDB.12.0"_s);
+    is(u"Data Source=a.accdb"_s, Kind::File, u"Microsoft.ACE.OLEDB.12.0"_s);
+    is(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=a"_s, Kind::File, u"Microsoft.ACE.OLEDB.12.0"_s);
     is(u"DSN=shop"_s, Kind::DataSource, u"shop"_s);
     is(u"Provider=MSDASQL;DSN=shop"_s, Kind::DataSource, u"shop"_s);
     is(u"Driver={PostgreSQL Unicode};Server=db"_s, Kind::Driver, u"PostgreSQL Unicode"_s);
@@ -44,9 +44,10 @@ TEST(ConnectionSettings, ReadTheFieldsUnderEitherKeyword)
 
 TEST(ConnectionSettings, WriteWhatTheTargetTakes)
 {
-    ConnectionSettings settings{{}, u"/a b/shop.db"_s, u"db"_s, u"5432"_s, u"shop"_s, u"me"_s, u"a;b"_s};
+    ConnectionSettings settings{
+        {Kind::File, u"SQLite"_s}, u"/a b/shop.db"_s, u"db"_s, u"5432"_s, u"shop"_s, u"me"_s, u"a;b"_s};
     EXPECT_EQ(settings.write().text(), u"Provider=SQLite;Data Source=/a b/shop.db"_s);
-    settings.target = {Kind::AccessFile, {}};
+    settings.target = {Kind::File, u"Microsoft.ACE.OLEDB.12.0"_s};
     EXPECT_EQ(settings.write().text(), u"Provider=Microsoft.ACE.OLEDB.12.0;Data Source=/a b/shop.db;"
                                        "Jet OLEDB:Database Password=\"a;b\""_s);
     settings.target = {Kind::DataSource, u"Shop"_s};

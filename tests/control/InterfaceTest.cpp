@@ -99,10 +99,17 @@ constexpr const char *Events[] = {
 
 std::string typesOf(const QMetaMethod &method)
 {
-    std::string text = std::string(method.returnMetaType().name()) + ' ' + method.name().constData() + '(';
-    for (int i = 0; i < method.parameterCount(); ++i)
-        text += (i ? "," : "") + std::string(method.parameterMetaType(i).name());
-    return text + ')';
+    std::string text = method.returnMetaType().name();
+    text += ' ';
+    text += method.name().constData();
+    text += '(';
+    for (int i = 0; i < method.parameterCount(); ++i) {
+        if (i > 0)
+            text += ',';
+        text += method.parameterMetaType(i).name();
+    }
+    text += ')';
+    return text;
 }
 
 void expectEnumeration(const char *name, const std::vector<std::pair<std::string, int>> &members)

@@ -235,6 +235,7 @@ try {
 } catch (const std::bad_alloc &) {
     return E_OUTOFMEMORY;
 } catch (const std::exception &error) {
+    qWarning("A call from a container failed: %s", error.what());
     return raise(E_FAIL, QString::fromUtf8(error.what()), exception);
 }
 

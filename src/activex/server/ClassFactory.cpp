@@ -6,6 +6,8 @@
 #include "activex/server/QtRuntime.h"
 #include "activex/server/TypeLibrary.h"
 
+#include <QtCore/QDebug>
+
 #include <exception>
 #include <new>
 
@@ -28,7 +30,8 @@ try {
     return FAILED(started) ? started : m_create(outer, iid, object);
 } catch (const std::bad_alloc &) {
     return E_OUTOFMEMORY;
-} catch (const std::exception &) {
+} catch (const std::exception &error) {
+    qWarning("The object could not be made: %s", error.what());
     return E_UNEXPECTED;
 }
 

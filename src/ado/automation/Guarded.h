@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 
+#include <QtCore/QDebug>
 #include <QtCore/QPointer>
 
 #include <utility>
@@ -21,6 +22,7 @@ auto guarded(Object *object, Action &&action) -> decltype(action())
         if (alive)
             Q_EMIT object->HostError(error.Number(), error.Description());
     } catch (const std::exception &error) {
+        qWarning("A call from a host failed in a way that is no database error: %s", error.what());
         if (alive)
             Q_EMIT object->HostError(dbErrFailed, QString::fromUtf8(error.what()));
     }

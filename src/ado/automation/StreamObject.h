@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ado/Stream.h"
+#include "../Stream.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QVariant>

@@ -3,13 +3,9 @@
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
 #include "ado/Texts.h"
-#include "ado/providers/odbc/OdbcProvider.h"
-#include "ado/providers/sqlite/SqliteProvider.h"
-#ifdef KOVA_WITH_LIBMDB
-#include "ado/providers/access/AccessProvider.h"
-#endif
 
-#include <array>
+#include <algorithm>
+#include <iterator>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -20,28 +16,53 @@ Statement::~Statement() = default;
 Session::~Session() = default;
 Provider::~Provider() = default;
 
+// In ProviderList.cpp, which CMake writes.
+std::vector<const Provider *> builtInProviders();
+
+namespace {
+
+std::vector<const Provider *> &knownProviders()
+{
+    static std::vector<const Provider *> known = builtInProviders();
+    return known;
+}
+
+} // namespace
+
+const std::vector<const Provider *> &providers()
+{
+    return knownProviders();
+}
+
+const Provider *providerOf(const ConnectionString &connection)
+{
+    const auto found = std::ranges::find_if(
+        providers(), [&](const Provider *provider) { return provider->claims(connection); });
+    return found == providers().end() ? nullptr : *found;
+}
+
 std::shared_ptr<Session> openSession(const ConnectionString &connection)
 {
-    static const OdbcProvider odbc;
-    static const SqliteProvider sqlite;
-    // SQLite takes any data source that nobody before it does.
-#ifdef KOVA_WITH_LIBMDB
-    static const AccessProvider access;
-    static const std::array<const Provider *, 3> providers{&access, &odbc, &sqlite};
-#else
-    static const std::array<const Provider *, 2> providers{&odbc, &sqlite};
-#endif
-
+    if (const Provider *provider = providerOf(connection))
+        return provider->open(connection);
     QStringList names;
-    for (const Provider *provider : providers) {
-        if (provider->claims(connection))
-            return provider->open(connection);
+    for (const Provider *provider : providers())
         names += provider->name();
-    }
     const QString wanted = connection.value(u"Provider"_s);
     const QString known = names.join(u"、"_s);
     throw Error(adErrProviderNotFound, wanted.isEmpty() ? Texts::noProvider().arg(known)
                                                         : Texts::unknownProvider().arg(wanted, known));
+}
+
+ProviderRegistration::ProviderRegistration(const Provider &provider) : m_provider(&provider)
+{
+    knownProviders().push_back(m_provider);
+    std::ranges::rotate(knownProviders(), std::prev(knownProviders().end()));
+}
+
+ProviderRegistration::~ProviderRegistration()
+{
+    std::erase(knownProviders(), m_provider);
 }
 
 } // namespace ADODB

@@ -8,10 +8,11 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 // What a database engine has to offer to be reached through Connection and Recordset. Each engine has its own
-// folder beside this file and is listed in Provider.cpp. Everything throws Error.
+// folder beside this file and is listed in CMakeLists.txt there. Everything throws Error.
 namespace ADODB {
 
 class ConnectionString;
@@ -78,6 +79,14 @@ public:
     virtual bool isOpen() const { return true; }
 };
 
+// How the connection builder offers a provider whose databases are files.
+struct FileChoice
+{
+    QString caption;         // "SQLite database file"
+    QString filter;          // of the file dialog: "SQLite databases (*.db)"
+    QString passwordKeyword; // in a connection string; empty where files have no password
+};
+
 class Provider
 {
 public:
@@ -88,9 +97,30 @@ public:
     // name.
     virtual bool claims(const ConnectionString &connection) const = 0;
     virtual std::shared_ptr<Session> open(const ConnectionString &connection) const = 0;
+    // Nothing where a database is not a file that `Data Source` names.
+    virtual std::optional<FileChoice> fileChoice() const { return std::nullopt; }
 };
+
+// All of them, in the order in which they are asked.
+const std::vector<const Provider *> &providers();
+
+// The first provider that claims a connection string; null when none does.
+const Provider *providerOf(const ConnectionString &connection);
 
 // The session for a connection string. Throws 3706 when no provider claims it.
 std::shared_ptr<Session> openSession(const ConnectionString &connection);
+
+// Adds a provider for as long as this object lives; it is asked before the others. The provider must outlive
+// it.
+class ProviderRegistration
+{
+public:
+    explicit ProviderRegistration(const Provider &provider);
+    ~ProviderRegistration();
+    Q_DISABLE_COPY_MOVE(ProviderRegistration)
+
+private:
+    const Provider *m_provider;
+};
 
 } // namespace ADODB

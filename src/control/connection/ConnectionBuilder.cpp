@@ -29,10 +29,8 @@ constexpr auto hiddenPassword = u"●●●●●●";
 QString captionOf(const ConnectionTarget &target)
 {
     switch (target.kind) {
-    case Kind::SqliteFile:
-        return ConnectionTexts::SqliteFile;
-    case Kind::AccessFile:
-        return ConnectionTexts::AccessFile;
+    case Kind::File:
+        return fileChoiceOf(target).caption;
     case Kind::DataSource:
         return ConnectionTexts::DataSource.arg(target.name);
     case Kind::Driver:
@@ -65,8 +63,8 @@ ConnectionBuilder::ConnectionBuilder(const Outside &outside, QWidget *parent)
     setSizeGripEnabled(true);
     layOut();
 
-    offer({Kind::SqliteFile, {}}, ConnectionTexts::SqliteFile);
-    offer({Kind::AccessFile, {}}, ConnectionTexts::AccessFile);
+    for (const ADODB::Provider *provider : fileProviders())
+        offer({Kind::File, provider->name()}, provider->fileChoice()->caption);
     for (const QString &name : m_outside.dataSources)
         offer({Kind::DataSource, name}, captionOf({Kind::DataSource, name}));
     for (const QString &name : m_outside.drivers)
@@ -227,10 +225,9 @@ void ConnectionBuilder::showResult()
 
 void ConnectionBuilder::browse()
 {
-    const bool isAccess = target().kind == Kind::AccessFile;
+    const QStringList filters{fileChoiceOf(target()).filter, ConnectionTexts::AllFiles};
     const QString file = QFileDialog::getOpenFileName(this, ConnectionTexts::BrowseTitle, m_file->text(),
-                                                      isAccess ? ConnectionTexts::AccessFilter
-                                                               : ConnectionTexts::SqliteFilter);
+                                                      filters.join(u";;"_s));
     if (!file.isEmpty())
         m_file->setText(file);
 }

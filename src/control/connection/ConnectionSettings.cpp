@@ -1,5 +1,7 @@
 #include "control/connection/ConnectionSettings.h"
 
+#include <algorithm>
+
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
@@ -26,53 +28,44 @@ QString valueOf(const ADODB::ConnectionString &connection, const QStringList &ke
     return {};
 }
 
-bool isAccess(const QString &provider, const QString &file)
-{
-    if (!provider.isEmpty())
-        return provider.startsWith("Microsoft."_L1, Qt::CaseInsensitive);
-    return file.endsWith(".mdb"_L1, Qt::CaseInsensitive) || file.endsWith(".accdb"_L1, Qt::CaseInsensitive);
-}
-
 ConnectionTarget targetOf(const ADODB::ConnectionString &connection)
 {
     if (const QString name = valueOf(connection, dataSourceKeywords); !name.isEmpty())
         return {Kind::DataSource, name};
     if (const QString name = valueOf(connection, driverKeywords); !name.isEmpty())
         return {Kind::Driver, name};
-    const bool isAccessFile =
-        isAccess(valueOf(connection, providerKeywords), valueOf(connection, fileKeywords));
-    return {isAccessFile ? Kind::AccessFile : Kind::SqliteFile, {}};
-}
-
-// A file is read by a provider of this system; whatever else goes by ODBC, which needs none named.
-QString providerOf(Kind kind)
-{
-    switch (kind) {
-    case Kind::SqliteFile:
-        return u"SQLite"_s;
-    case Kind::AccessFile:
-        return u"Microsoft.ACE.OLEDB.12.0"_s;
-    case Kind::DataSource:
-    case Kind::Driver:
-        break;
-    }
-    return {};
+    const ADODB::Provider *provider = ADODB::providerOf(connection);
+    if (!provider || !provider->fileChoice())
+        provider = fileProviders().front();
+    return {Kind::File, provider->name()};
 }
 
 } // namespace
 
+// The provider that is asked last takes what no other does.
+std::vector<const ADODB::Provider *> fileProviders()
+{
+    std::vector<const ADODB::Provider *> found = ADODB::providers();
+    std::erase_if(found, [](const ADODB::Provider *provider) { return !provider->fileChoice(); });
+    std::ranges::reverse(found);
+    return found;
+}
+
+ADODB::FileChoice fileChoiceOf(const ConnectionTarget &target)
+{
+    for (const ADODB::Provider *provider : fileProviders()) {
+        if (provider->name() == target.name)
+            return *provider->fileChoice();
+    }
+    return {};
+}
+
 QStringList ConnectionTarget::passwordKeywords() const
 {
-    switch (kind) {
-    case Kind::SqliteFile:
-        return {};
-    case Kind::AccessFile:
-        return {u"Jet OLEDB:Database Password"_s};
-    case Kind::DataSource:
-    case Kind::Driver:
-        break;
-    }
-    return {u"PWD"_s, u"Password"_s};
+    if (kind != Kind::File)
+        return {u"PWD"_s, u"Password"_s};
+    const QString keyword = fileChoiceOf(*this).passwordKeyword;
+    return keyword.isEmpty() ? QStringList() : QStringList(keyword);
 }
 
 ConnectionSettings ConnectionSettings::read(const ADODB::ConnectionString &connection)
@@ -99,7 +92,8 @@ ADODB::ConnectionString ConnectionSettings::write(const ADODB::ConnectionString 
     };
     const bool isDriver = target.kind == Kind::Driver;
     const bool isDataSource = target.kind == Kind::DataSource;
-    put(providerKeywords, providerOf(target.kind));
+    // A file is read by a provider of this system; whatever else goes by ODBC, which needs none named.
+    put(providerKeywords, target.isFile() ? target.name : QString());
     put(fileKeywords, target.isFile() ? file : QString());
     put(dataSourceKeywords, isDataSource ? target.name : QString());
     put(driverKeywords, isDriver ? target.name : QString());

@@ -10,8 +10,6 @@ using namespace Qt::StringLiterals;
 
 inline const QString Title = u"Build Connection"_s;
 inline const QString ConnectTo = u"&Connect to:"_s;
-inline const QString SqliteFile = u"SQLite database file"_s;
-inline const QString AccessFile = u"Access database file"_s;
 inline const QString DataSource = u"ODBC data source %1"_s;
 inline const QString Driver = u"ODBC driver %1"_s;
 inline const QString NotInstalled = u"%1 (not installed)"_s;
@@ -19,8 +17,7 @@ inline const QString NothingInstalled = u"No ODBC data source or driver is insta
 inline const QString File = u"&File:"_s;
 inline const QString Browse = u"&Browse…"_s;
 inline const QString BrowseTitle = u"Choose a Database File"_s;
-inline const QString SqliteFilter = u"SQLite databases (*.db *.sqlite *.sqlite3);;All files (*)"_s;
-inline const QString AccessFilter = u"Access databases (*.mdb *.accdb);;All files (*)"_s;
+inline const QString AllFiles = u"All files (*)"_s;
 inline const QString Server = u"&Server:"_s;
 inline const QString Port = u"&Port:"_s;
 inline const QString PortHint = u"Empty for the default port"_s;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "control/face/IKOVAVSFDataGrid.h"
+#include "IKOVAVSFDataGrid.h"
 
 #include <QtWidgets/QWidget>
 

@@ -3,8 +3,8 @@
 #include "query/FieldChooser.h"
 #include "query/FieldReader.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QJsonObject>
+#include <QtCore/QMap>
 #include <QtCore/QSet>
 
 namespace KovaTest {
@@ -22,7 +22,7 @@ public:
 
 private:
     QSet<QString> m_open;
-    QHash<QString, QStringList> m_fieldsByStatement;
+    QMap<QString, QStringList> m_fieldsByStatement;
 };
 
 // Fields that anybody can read, whatever connection and statement; nothing when they can't be read.

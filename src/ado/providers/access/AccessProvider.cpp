@@ -10,6 +10,15 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
 
+namespace {
+
+QString passwordKeyword()
+{
+    return u"Jet OLEDB:Database Password"_s;
+}
+
+} // namespace
+
 QString AccessProvider::name() const
 {
     return u"Microsoft.ACE.OLEDB.12.0"_s;
@@ -29,7 +38,12 @@ std::shared_ptr<Session> AccessProvider::open(const ConnectionString &connection
     const QString source = connection.value(u"Data Source"_s);
     if (source.isEmpty())
         throw Error(adErrInvalidArgument, Texts::noDataSource());
-    return std::make_shared<AccessSession>(source, connection.value(u"Jet OLEDB:Database Password"_s));
+    return std::make_shared<AccessSession>(source, connection.value(passwordKeyword()));
+}
+
+std::optional<FileChoice> AccessProvider::fileChoice() const
+{
+    return FileChoice{u"Access database file"_s, u"Access databases (*.mdb *.accdb)"_s, passwordKeyword()};
 }
 
 } // namespace ADODB

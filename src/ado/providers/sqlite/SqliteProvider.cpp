@@ -58,4 +58,9 @@ std::shared_ptr<Session> SqliteProvider::open(const ConnectionString &connection
     return std::make_shared<SqliteSession>(source == ":memory:"_L1 ? source : checkedPath(source), timeout);
 }
 
+std::optional<FileChoice> SqliteProvider::fileChoice() const
+{
+    return FileChoice{u"SQLite database file"_s, u"SQLite databases (*.db *.sqlite *.sqlite3)"_s, {}};
+}
+
 } // namespace ADODB

@@ -12,6 +12,7 @@ public:
     QString name() const override;
     bool claims(const ConnectionString &connection) const override;
     std::shared_ptr<Session> open(const ConnectionString &connection) const override;
+    std::optional<FileChoice> fileChoice() const override;
 };
 
 } // namespace ADODB

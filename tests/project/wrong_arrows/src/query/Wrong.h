@@ -1,3 +1,4 @@
 #pragma once
 
 #include "ado/Connection.h"
+#include <QtWidgets/QWidget>

@@ -1,0 +1,107 @@
+// Includes point the way that the links in CMake allow, and docs/architecture.md shows the same arrows.
+#include "IncludeArrows.h"
+
+#include <QtCore/QRegularExpression>
+#include <gtest/gtest.h>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString top = QStringLiteral(KOVA_SOURCE_DIR);
+
+const Rooms &rooms()
+{
+    static const Rooms found(QStringLiteral(KOVA_ROOMS_FILE));
+    return found;
+}
+
+QStringList architecture()
+{
+    return linesOf(top + u"/docs/architecture.md"_s);
+}
+
+// The rows | `room` | `room` … | of the document: each room with those it may use.
+QMap<QString, QSet<QString>> shownArrows()
+{
+    static const QRegularExpression row(u"^\\| `(src/\\w+)` \\|([^|]*)\\|$"_s);
+    static const QRegularExpression name(u"`(\\w+)`"_s);
+    QMap<QString, QSet<QString>> arrows;
+    for (const QString &line : architecture()) {
+        const QRegularExpressionMatch match = row.match(line);
+        if (!match.hasMatch())
+            continue;
+        QSet<QString> &shown = arrows[match.captured(1)];
+        for (const QRegularExpressionMatch &used : name.globalMatch(match.captured(2)))
+            shown.insert("src/"_L1 + used.captured(1));
+    }
+    return arrows;
+}
+
+// Where the picture at the top of the document names a room: the line's number, or -1.
+int placeInPicture(const QString &folder)
+{
+    const QStringList lines = architecture();
+    const qsizetype begin = lines.indexOf(u"```"_s);
+    const qsizetype end = lines.indexOf(u"```"_s, begin + 1);
+    const QRegularExpression room(u"(^| )%1/"_s.arg(folder.section(u'/', -1)));
+    for (qsizetype i = begin + 1; i < end; ++i) {
+        if (lines.at(i).contains(room))
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+std::string text(const QStringList &lines)
+{
+    return lines.join(u'\n').trimmed().toStdString();
+}
+
+std::string text(const QSet<QString> &names)
+{
+    QStringList sorted(names.begin(), names.end());
+    sorted.sort();
+    return text(sorted);
+}
+
+} // namespace
+
+TEST(Arrows, AreFollowedByEveryInclude)
+{
+    IncludeArrows arrows(top, rooms());
+    EXPECT_EQ(text(arrows.faults()), "");
+    EXPECT_GT(arrows.includes(), 1000) << "includes are not found any more";
+}
+
+// The check itself is checked, on a tree of wrong includes.
+TEST(Arrows, AreMissedByWrongIncludes)
+{
+    const QString tree = top + u"/tests/project/wrong_arrows"_s;
+    const Rooms wrong(tree + u"/rooms.txt"_s);
+    EXPECT_EQ(text(IncludeArrows(tree, wrong).faults()), text(linesOf(tree + u"/faults.txt"_s)));
+}
+
+TEST(Arrows, AreThoseOfTheDocument)
+{
+    const QMap<QString, QSet<QString>> shown = shownArrows();
+    for (const QString &folder : rooms().folders()) {
+        if (!folder.startsWith("src/"_L1))
+            continue;
+        EXPECT_EQ(text(shown.value(folder)), text(rooms().restsOn(folder))) << qPrintable(folder);
+    }
+    for (const QString &folder : shown.keys())
+        EXPECT_TRUE(rooms().folders().contains(folder)) << qPrintable(folder);
+}
+
+TEST(Arrows, PointDownInThePicture)
+{
+    for (const QString &folder : rooms().folders()) {
+        if (!folder.startsWith("src/"_L1))
+            continue;
+        const int place = placeInPicture(folder);
+        EXPECT_GE(place, 0) << qPrintable(folder) << " is not in the picture";
+        for (const QString &used : rooms().restsOn(folder))
+            EXPECT_LT(place, placeInPicture(used)) << qPrintable(folder) << " above " << qPrintable(used);
+    }
+}

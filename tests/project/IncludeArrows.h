@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Rooms.h"
+
+namespace KovaTest {
+
+// Looks at every include of a source tree and says which ones point the wrong way.
+class IncludeArrows
+{
+public:
+    IncludeArrows(const QString &tree, const Rooms &rooms) : m_tree(tree), m_rooms(rooms) {}
+
+    // One text a fault: "<file>: <what is wrong>".
+    QStringList faults();
+    // How many includes of the tree's own files were looked at.
+    int includes() const { return m_includes; }
+
+private:
+    void checkFile(const QString &file);
+    QString faultOfOwn(const QString &file, const QString &name);
+    QString faultOfSystem(const QString &folder, const QString &name);
+    QString arrowFault(const QString &file, const QString &target) const;
+    bool isThere(const QString &file) const;
+
+    QString m_tree;
+    const Rooms &m_rooms;
+    QStringList m_faults;
+    int m_includes = 0;
+};
+
+} // namespace KovaTest

@@ -1,0 +1,10 @@
+#pragma once
+
+namespace Host {
+
+struct Recordset
+{
+    int records = 2;
+};
+
+} // namespace Host

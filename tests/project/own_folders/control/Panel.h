@@ -1,0 +1,12 @@
+#pragma once
+
+#include <ado/Recordset.h>
+
+namespace Host {
+
+struct Panel
+{
+    Recordset recordset;
+};
+
+} // namespace Host

@@ -1,0 +1,3 @@
+#include <KOVAVSFDataGridLib/ado/Connection.h>
+#include "Options.h"
+#include "ado/Inner.h"

@@ -1,0 +1,2 @@
+#include "Inner.h"
+#include <sqlite3.h>

@@ -1,0 +1,4 @@
+#pragma once
+
+#include "Inner.h"
+#include "ado/Connection.h"

@@ -1,0 +1,2 @@
+#include "control/viewer/Viewer.h"
+#include "sql/Engine.h"
