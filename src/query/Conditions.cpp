@@ -1,8 +1,10 @@
 #include "query/Conditions.h"
 
 #include "query/CharText.h"
-#include "query/FieldNames.h"
 #include "query/QueryTexts.h"
+#include "sql/Like.h"
+#include "sql/Literals.h"
+#include "sql/Names.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -55,7 +57,7 @@ std::optional<QString> SearchedField(const TypedField &field, AllDBType database
     if (LikesTextsOnly(engine) && IsBinary(field.adoType))
         return QString();
     if (database == dbOracle || database == dbSQLServer)
-        return QuotedFieldName(database, field.name);
+        return WrittenName(DialectOf(database, engine), field.name);
     if (database != dbAccess)
         return QString();
     if (!field.adoType)
@@ -85,8 +87,9 @@ std::optional<QStringList> SearchedFields(std::span<const TypedField> fields, Al
 
 QString WordCondition(const QStringList &searchedFields, const QString &word, Engine engine)
 {
-    const QString pattern =
-        QStringLiteral(" LIKE ") + TextLiteral(engine, u'%' + LikePattern(engine, word) + u'%') + u' ';
+    const QString pattern = QStringLiteral(" LIKE ") +
+                            TextLiteral(DialectOf({}, engine), u'%' + LikePattern(engine, word) + u'%') +
+                            u' ';
     return searchedFields.join(pattern + QStringLiteral("OR ")) + pattern;
 }
 
@@ -98,7 +101,7 @@ QString NumberCondition(const QString &field, qint32 adoType, const QString &cel
     if (!LikesTextsOnly(engine))
         return field + QStringLiteral(" like ") + cellText;
     if (adoType == guid)
-        return field + QStringLiteral(" = ") + TextLiteral(engine, cellText);
+        return field + QStringLiteral(" = ") + TextLiteral(DialectOf({}, engine), cellText);
     // Only as a number of the same few digits it is the same number.
     return field + QStringLiteral(" = ") +
            (adoType == single ? QStringLiteral("CAST(%1 AS REAL)").arg(cellText) : cellText);
@@ -196,7 +199,7 @@ CellFilter BuildCellFilter(const QString &realName, std::optional<qint32> adoTyp
     if (cellText->contains(u'\''))
         return {{}, QueryTexts::ApostropheInFilter()};
     return {LikeOperand(engine, realName) + QStringLiteral(" like ") +
-                TextLiteral(engine, LikePattern(engine, *cellText)),
+                TextLiteral(DialectOf({}, engine), LikePattern(engine, *cellText)),
             {}};
 }
 

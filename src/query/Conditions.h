@@ -1,6 +1,5 @@
 #pragma once
 
-#include "sql/AllDBType.h"
 #include "sql/Engine.h"
 
 #include <QtCore/QString>

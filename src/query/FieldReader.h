@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sql/Engine.h"
+
 #include <QtCore/QString>
 
 #include <optional>
@@ -32,6 +34,9 @@ public:
     // itself.
     virtual std::optional<std::vector<SourceField>> Read(const QString &connectionString,
                                                          const QString &statement) = 0;
+
+    // The engine to which that connection leads; Other when it can't be told.
+    virtual Engine EngineOf(const QString &) { return Engine::Other; }
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -1,6 +1,7 @@
 #include "query/SqlText.h"
 
 #include "query/CharText.h"
+#include "sql/Names.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -21,19 +22,6 @@ QString HeadWithoutConditions(const QString &statement)
     if (const auto where = FindUpper(head, kWhere); where > 0)
         head = First(head, where - 1);
     return head;
-}
-
-QChar ClosingQuote(QChar opening)
-{
-    switch (opening.unicode()) {
-    case u'\'':
-    case u'"':
-        return opening;
-    case u'[':
-        return u']';
-    default:
-        return {};
-    }
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "query/clsFilterManagement.h"
 
 #include "query/CharText.h"
-#include "query/FieldNames.h"
+#include "sql/Names.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -23,6 +23,7 @@ void clsFilterManagement::SetDBType(AllDBType type)
 {
     m_dbType = type;
     m_history.SetDBType(type);
+    m_tableFields.SetDBType(type);
 }
 
 void clsFilterManagement::SetOriginFilter(const QString &statement)

@@ -2,6 +2,7 @@
 
 #include "query/CharText.h"
 #include "query/SqlText.h"
+#include "sql/Names.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -31,7 +32,7 @@ bool clsTableFieldManager::GetPartSelFields(const QString &strAllField, const QS
     if (!IsReadyToChoose(strAllField))
         return false;
     const QStringList partFields = ReadNames(ConnString, strPartField).value_or(QStringList());
-    strRetSelFields = m_chooser->ChooseVisibleFields(GetSQLTableName(strAllField), m_fieldNames, partFields)
+    strRetSelFields = m_chooser->ChooseVisibleFields(GetSQLTableName(strAllField), Offered(), partFields)
                           .value_or(QString());
     return !strRetSelFields.isEmpty();
 }
@@ -42,9 +43,8 @@ bool clsTableFieldManager::GetSortSelFields(const QString &strAllField, const QS
     strRetSelFields.clear();
     if (!IsReadyToChoose(strAllField))
         return false;
-    strRetSelFields =
-        m_chooser->ChooseSort(GetSQLTableName(strAllField), m_fieldNames, SortTerms(strSortField))
-            .value_or(QString());
+    strRetSelFields = m_chooser->ChooseSort(GetSQLTableName(strAllField), Offered(), SortTerms(strSortField))
+                          .value_or(QString());
     return !strRetSelFields.isEmpty();
 }
 
@@ -55,6 +55,15 @@ bool clsTableFieldManager::IsReadyToChoose(const QString &strAllField)
     const auto names = ReadNames(ConnString, strAllField);
     m_fieldNames = names.value_or(QStringList());
     return names.has_value();
+}
+
+QList<OfferedField> clsTableFieldManager::Offered() const
+{
+    const Dialect dialect = DialectOf(m_database, m_reader->EngineOf(ConnString));
+    QList<OfferedField> fields;
+    for (const QString &name : m_fieldNames)
+        fields.append({name, WrittenName(dialect, name)});
+    return fields;
 }
 
 std::optional<QStringList> clsTableFieldManager::ReadNames(const QString &connectionString,

@@ -17,6 +17,8 @@ public:
     // Neither is owned; both must outlive the manager. Without a reader nothing can be read, without a
     // chooser every choice is cancelled.
     void SetFieldReader(FieldReader *reader) { m_reader = reader; }
+    // Decides, with the reader's engine, how names are written.
+    void SetDBType(AllDBType type) { m_database = type; }
     void SetFieldChooser(FieldChooser *chooser) { m_chooser = chooser; }
 
     void InitData() { m_fieldNames.clear(); }
@@ -34,10 +36,12 @@ public:
 private:
     // Fills the working names; false when they can't be read or there is nobody to ask.
     bool IsReadyToChoose(const QString &strAllField);
+    QList<OfferedField> Offered() const;
     std::optional<QStringList> ReadNames(const QString &connectionString, const QString &statement);
 
     FieldReader *m_reader = nullptr;
     FieldChooser *m_chooser = nullptr;
+    AllDBType m_database = dbAccess;
     QStringList m_fieldNames;
 };
 

@@ -1,6 +1,8 @@
 #include "query/colShowSQLSentences.h"
 
 #include "query/FieldNames.h"
+#include "sql/Names.h"
+#include "sql/SqlScanner.h"
 
 #include <algorithm>
 
@@ -16,6 +18,22 @@ QStringList NamesOf(const std::vector<SourceField> &fields)
     for (const SourceField &field : fields)
         names.append(field.name);
     return names;
+}
+
+// Where a list that is "*" alone has it; nothing for any other statement.
+std::optional<qsizetype> PositionOfLoneStar(const QString &statement)
+{
+    const SqlScanner scanned(statement);
+    const bool isAlone = scanned.isWord(0, u"SELECT") && scanned.isSymbol(1, u'*') &&
+                         (scanned.count() == 2 || scanned.isWord(2, u"FROM"));
+    for (qsizetype i = 2; isAlone && i < scanned.count(); ++i) {
+        // The lists of a union have to stay alike.
+        const bool unites = scanned.isWord(i, u"UNION") || scanned.isWord(i, u"EXCEPT") ||
+                            scanned.isWord(i, u"INTERSECT") || scanned.isWord(i, u"MINUS");
+        if (unites && scanned.at(i).depth == 0)
+            return std::nullopt;
+    }
+    return isAlone ? std::optional(scanned.at(1).start) : std::nullopt;
 }
 
 } // namespace
@@ -164,21 +182,27 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
     strRetSQL.clear();
     if (strPassConnString.isEmpty() || strOrgSQL.isEmpty())
         return false;
-    if (!strOrgSQL.contains(u'*')) {
+    const auto star = PositionOfLoneStar(strOrgSQL);
+    if (!star) {
         strRetSQL = strOrgSQL;
         return true;
     }
     const auto fields = m_reader ? m_reader->Read(strPassConnString, strOrgSQL) : std::nullopt;
     if (!fields || fields->empty())
         return false;
+    // What quotes do to a name is known only with the engine.
+    const Engine engine = m_reader->EngineOf(strPassConnString);
+    const auto quoted = [&](const QString &name) {
+        return engine == Engine::Other ? u'"' + name + u'"' : QuotedName(DialectOf(m_database, engine), name);
+    };
     QStringList names;
     QStringList longBinaryNames;
     for (const SourceField &field : *fields) {
         QStringList &list = field.adoType == kLongVarBinary ? longBinaryNames : names;
-        list.append(u'"' + field.name + u'"');
+        list.append(quoted(field.name));
     }
     auto sentence = SplitSQLSentence(strOrgSQL);
-    sentence->fields.replace(u'*', (names + longBinaryNames).join(u','));
+    sentence->fields.replace(*star, 1, (names + longBinaryNames).join(u','));
     strRetSQL = JoinSQLSentence(*sentence);
     return true;
 }
@@ -282,11 +306,12 @@ bool colShowSQLSentences::FillCatalogue(const QString &connectionString, const Q
     if (!fields || fields->empty())
         return false;
     m_catalogue.Clear();
+    const Dialect dialect = DialectOf(m_database, m_reader->EngineOf(connectionString));
     for (const SourceField &source : *fields) {
         if (source.name.isEmpty())
             continue;
         QString key;
-        m_catalogue.AddFieldNameMess(source.name, QuotedFieldName(m_database, source.name), &key);
+        m_catalogue.AddFieldNameMess(source.name, WrittenName(dialect, source.name), &key);
         m_catalogue.Update(key, [&](clsDataField &field) { field.FieldType = source.adoType; });
     }
     const QStringList writtenFields = WrittenFields(statement);

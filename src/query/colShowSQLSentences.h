@@ -83,8 +83,8 @@ public:
     bool GetNextSQLBySort(const QString &strNewSort, QString &strCurrentFilter) const;
     bool GetNextShowSQL(qint32 SQLType, QString &PassSQL) const;
 
-    // The statement with each "*" of its head replaced by the source's fields in double quotes, long binary
-    // fields last. A statement without "*" comes back as it is.
+    // The statement whose list is "*" alone with the source's fields in its place, in quotes, long binary
+    // fields last. Every other statement comes back as it is.
     bool GetAllFieldNameSQL(const QString &strPassConnString, const QString &strOrgSQL,
                             QString &strRetSQL) const;
 

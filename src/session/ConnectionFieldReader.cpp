@@ -1,6 +1,7 @@
 #include "session/ConnectionFieldReader.h"
 
 #include "ado/Connection.h"
+#include "ado/EngineOf.h"
 #include "ado/Error.h"
 #include "query/SharedValues.h"
 #include "query/SqlText.h"
@@ -75,6 +76,13 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
         m_failure = QString::fromUtf8(error.what());
         return {};
     }
+}
+
+Engine ConnectionFieldReader::EngineOf(const QString &connectionString)
+{
+    if (m_result.isConnectedTo(connectionString))
+        return m_result.engine();
+    return m_ownText == connectionString ? KOVAVSFDataGridLib::EngineOf(m_own) : Engine::Other;
 }
 
 void ConnectionFieldReader::forget()

@@ -28,6 +28,8 @@ public:
     std::optional<std::vector<SourceField>> Read(const QString &connectionString,
                                                  const QString &statement) override;
 
+    Engine EngineOf(const QString &connectionString) override;
+
     // Why the last reading failed, as a sentence for the user; empty when it did not.
     const QString &Failure() const { return m_failure; }
 

@@ -6,7 +6,6 @@
 #include "ado/EngineOf.h"
 #include "ado/Recordset.h"
 #include "query/SharedValues.h"
-#include "sql/AllDBType.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
@@ -39,8 +38,7 @@ ResultSet::Opened ResultSet::open(const QString &connectionString, const QString
                                   const std::function<bool(qint64)> &progress)
 {
     auto connection = newConnection(dbType);
-    auto recordset = dbType == dbAccess ? std::make_shared<ADODB::Recordset>()
-                                        : ADODB::ConnectionFactory::instance().newRecordset(dbType);
+    auto recordset = ADODB::ConnectionFactory::recordsetFor(dbType);
 
     recordset->PutCursorLocation(ADODB::adUseClient);
     connection->PutConnectionString(connectionString);
@@ -67,8 +65,7 @@ void ResultSet::replaceBy(Opened opened)
 
 std::shared_ptr<ADODB::Connection> ResultSet::newConnection(qint32 dbType)
 {
-    return dbType == dbAccess ? std::make_shared<ADODB::Connection>()
-                              : ADODB::ConnectionFactory::instance().newConnection(dbType);
+    return ADODB::ConnectionFactory::connectionFor(dbType);
 }
 
 bool ResultSet::isConnectedTo(const QString &connectionString) const

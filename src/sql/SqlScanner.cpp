@@ -2,7 +2,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace ADODB {
+namespace KOVAVSFDataGridLib {
 
 namespace {
 
@@ -193,4 +193,4 @@ QString SqlScanner::name(qsizetype index) const
         .replace(close + close, close);
 }
 
-} // namespace ADODB
+} // namespace KOVAVSFDataGridLib

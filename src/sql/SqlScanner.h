@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace ADODB {
+namespace KOVAVSFDataGridLib {
 
 struct SqlToken
 {
@@ -58,4 +58,4 @@ private:
     std::vector<SqlToken> m_tokens;
 };
 
-} // namespace ADODB
+} // namespace KOVAVSFDataGridLib

@@ -30,9 +30,11 @@ public:
     QStringList fields;
     QStringList chosen;
 
-    std::optional<QString> ChooseVisibleFields(const QString &, const QStringList &allFields,
+    std::optional<QString> ChooseVisibleFields(const QString &,
+                                               const QList<KOVAVSFDataGridLib::OfferedField> &allFields,
                                                const QStringList &partFields) override;
-    std::optional<QString> ChooseSort(const QString &, const QStringList &allFields,
+    std::optional<QString> ChooseSort(const QString &,
+                                      const QList<KOVAVSFDataGridLib::OfferedField> &allFields,
                                       const QStringList &sortTerms) override;
 };
 

@@ -87,7 +87,6 @@ bool KOVAVSFDataGrid::Private::load()
         return alive && result.isOpen(); // by another load, say, which has done all that follows
     }
     filter = std::move(manager);
-    chooser.setDatabase(filter->DBType());
     recordSource = *statement;
     commands.statement.setCurrent(*statement);
 

@@ -1,7 +1,6 @@
 #include "control/parts/ControlFieldChooser.h"
 
 #include "control/parts/ToolbarIcons.h"
-#include "query/FieldNames.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -13,19 +12,17 @@ ControlFieldChooser::ControlFieldChooser(QWidget *parent)
 }
 
 std::optional<QString> ControlFieldChooser::ChooseVisibleFields(const QString &title,
-                                                                const QStringList &allFields,
+                                                                const QList<OfferedField> &allFields,
                                                                 const QStringList &partFields)
 {
     return m_dialogs.ChooseVisibleFields(title, allFields, partFields);
 }
 
-std::optional<QString> ControlFieldChooser::ChooseSort(const QString &title, const QStringList &allFields,
+std::optional<QString> ControlFieldChooser::ChooseSort(const QString &title,
+                                                       const QList<OfferedField> &allFields,
                                                        const QStringList &sortTerms)
 {
-    QStringList written;
-    for (const QString &name : allFields)
-        written.append(QuotedFieldName(m_database, name));
-    return m_dialogs.ChooseSort(title, written, sortTerms);
+    return m_dialogs.ChooseSort(title, allFields, sortTerms);
 }
 
 } // namespace KOVAVSFDataGridLib
