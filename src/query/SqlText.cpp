@@ -2,6 +2,7 @@
 
 #include "query/CharText.h"
 #include "sql/Names.h"
+#include "sql/SqlScanner.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -22,6 +23,17 @@ QString HeadWithoutConditions(const QString &statement)
     if (const auto where = FindUpper(head, kWhere); where > 0)
         head = First(head, where - 1);
     return head;
+}
+
+// AND binds closer, so an OR outside all brackets would take rows in that AND is to keep out.
+bool HasOuterOr(const QString &condition)
+{
+    const SqlScanner scanned(condition);
+    for (qsizetype i = 0; i < scanned.count(); ++i) {
+        if (scanned.at(i).depth == 0 && scanned.isWord(i, u"OR"))
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -66,10 +78,16 @@ void AddCondition(SQLSentence &sentence, const QString &condition)
 {
     if (condition.isEmpty())
         return;
-    if (Trim(sentence.where).isEmpty())
+    const QString where = Trim(sentence.where);
+    if (where.isEmpty()) {
         sentence.where = kWhere + condition;
-    else
-        sentence.where += QStringLiteral(" AND ") + condition;
+        return;
+    }
+    const qsizetype keyword = kWhere.size() - 2;
+    if (HasOuterOr(From(where, keyword + 1)))
+        sentence.where = First(where, keyword) + QStringLiteral(" (") + Trim(From(where, keyword + 1)) + u')';
+    sentence.where +=
+        QStringLiteral(" AND ") + (HasOuterOr(condition) ? u'(' + condition + u')' : condition);
 }
 
 QString ReplaceSQLFieldPart(const QString &statement, const QString &fieldStatement)

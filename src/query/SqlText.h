@@ -35,7 +35,8 @@ QString JoinSQLSentence(const SQLSentence &sentence);
 // The head, followed by one blank and the part for each of the other parts that isn't empty.
 QString ComposeSQL(const QString &head, const QString &where, const QString &order);
 
-// One more condition: the first one brings the word WHERE (and a blank before it), each further one AND.
+// One more condition: the first one brings the word WHERE (and a blank before it), each further one AND; then
+// either side that has an OR outside all brackets gets brackets of its own.
 // An empty condition changes nothing.
 void AddCondition(SQLSentence &sentence, const QString &condition);
 

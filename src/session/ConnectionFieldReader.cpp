@@ -17,7 +17,7 @@ std::vector<SourceField> describe(const ADODB::Connection &connection, const QSt
 {
     std::vector<SourceField> fields;
     for (const ADODB::FieldInfo &info : connection.Describe(statement))
-        fields.push_back({info.name, info.type});
+        fields.push_back({info.name, info.type, info.baseTable});
     return fields;
 }
 

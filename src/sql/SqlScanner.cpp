@@ -1,5 +1,7 @@
 #include "sql/SqlScanner.h"
 
+#include "sql/Engine.h"
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace KOVAVSFDataGridLib {
@@ -17,6 +19,20 @@ QChar closingOf(QChar open)
 }
 
 } // namespace
+
+SqlDialect ReadingOf(const Dialect &dialect)
+{
+    switch (dialect.engine) {
+    case Engine::PostgreSQL:
+        return SqlDialect::PostgreSql;
+    case Engine::MySQL:
+        return SqlDialect::MySql;
+    case Engine::SqlServer:
+        return SqlDialect::SqlServer;
+    default:
+        return SqlDialect::Standard;
+    }
+}
 
 SqlScanner::SqlScanner(QString sql, SqlDialect dialect) : m_sql(std::move(sql)), m_dialect(dialect)
 {
