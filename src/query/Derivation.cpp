@@ -167,6 +167,18 @@ QString Derivation::withoutConditions() const
     return text;
 }
 
+bool Derivation::hasAsTable(const Derivation &other) const
+{
+    return m_parts.isDerivedTable && other.m_kind == Kind::Closed && source() == other.source();
+}
+
+QString Derivation::withSource(const Derivation &other) const
+{
+    const SQLSentence sentence = base();
+    return ComposeSQL(prefix() + u"SELECT "_s + listText() + u" FROM "_s + other.asTable(), {},
+                      CharText::Trim(sentence.order));
+}
+
 bool Derivation::endsCondition(qsizetype token) const
 {
     static constexpr QStringView words[] = {u"GROUP",     u"HAVING", u"WINDOW", u"UNION",  u"EXCEPT",
@@ -181,20 +193,47 @@ QString Derivation::withFieldsOf(const Derivation &fieldStatement) const
 {
     if (!whyNot(DerivationStep::Fields).isEmpty())
         return {};
-    const auto sourceOf = [](const Derivation &of) { return of.source().simplified().toUpper(); };
-    if (sourceOf(*this) == sourceOf(fieldStatement) && m_kind != Kind::Closed) {
-        return withList(fieldStatement.m_kind == Kind::Closed ? u"*"_s : fieldStatement.listText(), {});
-    }
     if (m_sql.sql() == fieldStatement.m_sql.sql())
         return m_sql.sql();
+    const auto sameText = [](const QString &a, const QString &b) {
+        return a.simplified().compare(b.simplified(), Qt::CaseInsensitive) == 0;
+    };
+    const bool hasWords = m_kind == Kind::Closed && keepsListWords() && fieldStatement.keepsListWords();
+    if (m_kind != Kind::Closed && sameText(source(), fieldStatement.source()))
+        return withList(fieldStatement.m_kind == Kind::Closed ? u"*"_s : fieldStatement.listText(), {});
+    if (hasWords &&
+        sameText(TextOf(m_sql, m_parts.source), TextOf(fieldStatement.m_sql, fieldStatement.m_parts.source)))
+        return withList(fieldStatement.listText(), SplitList(fieldStatement.listText()));
     QStringList entries;
     for (const QString &name : fieldStatement.m_names) {
         const qsizetype at = m_names.indexOf(name);
-        if (at < 0 || m_listed.at(at).isEmpty())
+        if (at >= 0 && !m_listed.at(at).isEmpty())
+            entries.append(m_listed.at(at));
+        else if (m_parts.isDerivedTable)
+            entries.append(WrittenName(m_dialect, name)); // of the table, though not of the list
+        else
             return {};
-        entries.append(m_listed.at(at));
     }
-    return entries.isEmpty() ? QString() : withFields(entries);
+    return withFields(entries);
+}
+
+QString Derivation::fieldsStatement() const
+{
+    if (m_kind == Kind::Closed)
+        return keepsListWords() ? headWith(listText()) : m_sql.sql();
+    return base().fields;
+}
+
+bool Derivation::needsFields() const
+{
+    return m_parts.sources.size() > 1 && std::any_of(m_parts.items.begin(), m_parts.items.end(),
+                                                     [](const auto &item) { return item.isStar; });
+}
+
+const QStringList &Derivation::listedIn(const Derivation &derived) const
+{
+    const bool isTableThere = derived.m_parts.isDerivedTable && !m_parts.isDerivedTable;
+    return m_kind == Kind::Closed && isTableThere ? m_written : m_listed;
 }
 
 QString Derivation::source() const

@@ -36,6 +36,12 @@ public:
     // the sort counts its entries.
     bool isTextWork(DerivationStep step) const;
 
+    // Whether it has a sort of its own.
+    bool isSorted() const { return !m_parts.order.isEmpty(); }
+    // Whether only the result's fields tell what kind it is: a star can bring equal names from several
+    // tables.
+    bool needsFields() const;
+
     // For each field of the result, what a condition or a sort writes; empty where no name is unmistakable.
     const QStringList &written() const { return m_written; }
     // For each field of the result, what a SELECT list writes.
@@ -52,10 +58,22 @@ public:
     QString withFields(const QStringList &listEntries) const;
     QString withoutConditions() const;
 
+    // Whether this statement was derived from `other` as a table, and the same over another table instead,
+    // without conditions.
+    bool hasAsTable(const Derivation &other) const;
+    QString withSource(const Derivation &other) const;
+
     // The statement with the fields of `fieldStatement`, which selects from the same tables: as they are
     // listed there, or, where this statement is derived from that one as a whole, by their names. Empty when
     // that can't be done.
     QString withFieldsOf(const Derivation &fieldStatement) const;
+
+    // What this statement's fields are called in the list of one that was derived from it: as listed(), or,
+    // where that one has this as a table, by their names.
+    const QStringList &listedIn(const Derivation &derived) const;
+
+    // The fields of this statement as a statement that withFieldsOf() takes: without conditions and sort.
+    QString fieldsStatement() const;
 
     // What follows FROM, and what has to stand in front of SELECT, in a statement over the same rows before
     // any condition: SELECT DISTINCT written() FROM source().

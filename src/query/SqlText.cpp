@@ -86,8 +86,7 @@ void AddCondition(SQLSentence &sentence, const QString &condition)
     const qsizetype keyword = kWhere.size() - 2;
     if (HasOuterOr(From(where, keyword + 1)))
         sentence.where = First(where, keyword) + QStringLiteral(" (") + Trim(From(where, keyword + 1)) + u')';
-    sentence.where +=
-        QStringLiteral(" AND ") + (HasOuterOr(condition) ? u'(' + condition + u')' : condition);
+    sentence.where += QStringLiteral(" AND ") + (HasOuterOr(condition) ? u'(' + condition + u')' : condition);
 }
 
 QString ReplaceSQLFieldPart(const QString &statement, const QString &fieldStatement)
@@ -136,6 +135,24 @@ QString GetFromPart(const QString &statement)
 {
     const auto from = FindUpper(statement, kFrom);
     return from == 0 ? QString() : From(statement, from);
+}
+
+QStringList SplitList(const QString &list)
+{
+    const SqlScanner scanned(list);
+    QStringList entries;
+    qsizetype begin = 0;
+    for (qsizetype i = 0; i <= scanned.count(); ++i) {
+        const bool isEnd = i == scanned.count();
+        if (!isEnd && !(scanned.isSymbol(i, u',') && scanned.at(i).depth == 0))
+            continue;
+        const qsizetype end = isEnd ? list.size() : scanned.at(i).start;
+        const QString entry = Trim(list.sliced(begin, end - begin));
+        if (!entry.isEmpty())
+            entries.append(entry);
+        begin = end + 1;
+    }
+    return entries;
 }
 
 QString CutStringEnds(const QString &text, const QString &affix, int mode)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <optional>
 
@@ -58,6 +59,10 @@ QString GetSQLTableName(const QString &statement);
 
 // From the blank before FROM to the end; empty without FROM.
 QString GetFromPart(const QString &statement);
+
+// The entries of a SELECT list or a sort, cut at the commas outside brackets, quotes and comments, without
+// blanks at their ends; empty ones are left out.
+QStringList SplitList(const QString &list);
 
 // Removes one `affix` at the text's begin (mode 1), end (mode 2) or both (mode 3); any other mode changes
 // nothing. An empty affix empties the result.

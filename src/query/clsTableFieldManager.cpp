@@ -1,22 +1,9 @@
 #include "query/clsTableFieldManager.h"
 
-#include "query/CharText.h"
 #include "query/SqlText.h"
 #include "sql/Names.h"
 
 namespace KOVAVSFDataGridLib {
-
-namespace {
-
-QStringList SortTerms(const QString &sortList)
-{
-    QStringList terms = sortList.split(u',', Qt::SkipEmptyParts);
-    for (QString &term : terms)
-        term = CharText::Trim(term);
-    return terms;
-}
-
-} // namespace
 
 QString clsTableFieldManager::GetSelFieldRealName(const QString &strConnString, qint32 FieldIndex,
                                                   const QString &PassSQL)
@@ -43,9 +30,10 @@ bool clsTableFieldManager::GetSortSelFields(const QString &strAllField, const QS
     strRetSelFields.clear();
     if (!IsReadyToChoose(strAllField))
         return false;
-    strRetSelFields = m_chooser->ChooseSort(GetSQLTableName(strAllField), Offered(), SortTerms(strSortField))
-                          .value_or(QString());
-    return !strRetSelFields.isEmpty();
+    const auto sort = m_chooser->ChooseSort(GetSQLTableName(strAllField), Offered(), SplitList(strSortField));
+    strRetSelFields = sort.value_or(QString());
+    // An emptied list removes the sort.
+    return !strRetSelFields.isEmpty() || (sort && m_reader->EngineOf(ConnString) != Engine::Other);
 }
 
 bool clsTableFieldManager::IsReadyToChoose(const QString &strAllField)
@@ -61,8 +49,15 @@ QList<OfferedField> clsTableFieldManager::Offered() const
 {
     const Dialect dialect = DialectOf(m_database, m_reader->EngineOf(ConnString));
     QList<OfferedField> fields;
-    for (const QString &name : m_fieldNames)
-        fields.append({name, WrittenName(dialect, name)});
+    if (m_written.size() != m_fieldNames.size()) {
+        for (const QString &name : m_fieldNames)
+            fields.append({name, WrittenName(dialect, name)});
+        return fields;
+    }
+    for (qsizetype i = 0; i < m_fieldNames.size(); ++i) {
+        if (!m_written.at(i).isEmpty())
+            fields.append({m_fieldNames.at(i), m_written.at(i)});
+    }
     return fields;
 }
 
