@@ -3,6 +3,7 @@
 #include "ado/Connection.h"
 #include "ado/MiddleTier.h"
 #include "ado/Recordset.h"
+#include "sql/AllDBType.h"
 
 namespace ADODB {
 
@@ -16,9 +17,8 @@ public:
     void SetMiddleTier(const MiddleTier &tier) override { m_middleTier = tier; }
     std::shared_ptr<Connection> newConnection(qint32 dbType) override
     {
-        constexpr qint32 access = 1; // files, which no tier stands in front of
         auto connection = std::make_shared<Connection>();
-        if (m_threeTier && dbType != access)
+        if (m_threeTier && dbType != KOVAVSFDataGridLib::dbAccess)
             connection->PutMiddleTier(m_middleTier);
         return connection;
     }
@@ -46,6 +46,18 @@ ConnectionFactory &ConnectionFactory::instance()
     if (!theFactory())
         theFactory() = std::make_unique<PlainFactory>();
     return *theFactory();
+}
+
+std::shared_ptr<Connection> ConnectionFactory::connectionFor(qint32 dbType)
+{
+    return dbType == KOVAVSFDataGridLib::dbAccess ? std::make_shared<Connection>()
+                                                  : instance().newConnection(dbType);
+}
+
+std::shared_ptr<Recordset> ConnectionFactory::recordsetFor(qint32 dbType)
+{
+    return dbType == KOVAVSFDataGridLib::dbAccess ? std::make_shared<Recordset>()
+                                                  : instance().newRecordset(dbType);
 }
 
 void ConnectionFactory::setInstance(std::unique_ptr<ConnectionFactory> factory)

@@ -29,6 +29,11 @@ public:
     virtual std::shared_ptr<Connection> newConnection(qint32 dbType) = 0;
     virtual std::shared_ptr<Recordset> newRecordset(qint32 dbType) = 0;
 
+    // What a database type gets: for Access, whose files are on this computer, plain objects; for all others
+    // those of the factory. New and closed, never null; throws what a host's factory throws.
+    static std::shared_ptr<Connection> connectionFor(qint32 dbType);
+    static std::shared_ptr<Recordset> recordsetFor(qint32 dbType);
+
     // The one of this process; a plain one is made on first use.
     static ConnectionFactory &instance();
     // Replaces it; null releases it, and the next use makes a plain one again.

@@ -1,7 +1,9 @@
 #include "filter/FilterCondition.h"
 
+#include "filter/FilterSql.h"
 #include "filter/FilterTexts.h"
 #include "filter/FilterValue.h"
+#include "sql/Like.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -36,7 +38,7 @@ QString compare(const QString &field, FilterOperator op, const FilterValue &valu
     }
 }
 
-FilterCondition between(const FilterSql::Dialect &dialect, const FilterChoice &choice)
+FilterCondition between(const Dialect &dialect, const FilterChoice &choice)
 {
     const auto first = ReadFilterValue(dialect, choice.field.fieldClass, choice.value);
     const auto last = ReadFilterValue(dialect, choice.field.fieldClass, choice.lastValue);
@@ -54,7 +56,7 @@ FilterCondition between(const FilterSql::Dialect &dialect, const FilterChoice &c
             {}};
 }
 
-FilterCondition inList(const FilterSql::Dialect &dialect, const FilterChoice &choice)
+FilterCondition inList(const Dialect &dialect, const FilterChoice &choice)
 {
     QStringList literals;
     QStringList days;
@@ -74,7 +76,7 @@ FilterCondition inList(const FilterSql::Dialect &dialect, const FilterChoice &ch
     return {days.size() == 1 ? days.constFirst() : u'(' + days.join(" OR "_L1) + u')', {}};
 }
 
-QString isEmpty(const FilterSql::Dialect &dialect, const FilterField &field, bool wanted)
+QString isEmpty(const Dialect &dialect, const FilterField &field, bool wanted)
 {
     if (field.fieldClass != FieldClass::Text)
         return field.written + (wanted ? " IS NULL"_L1 : " IS NOT NULL"_L1);
@@ -84,7 +86,7 @@ QString isEmpty(const FilterSql::Dialect &dialect, const FilterField &field, boo
 
 } // namespace
 
-FilterCondition ConditionOf(const FilterSql::Dialect &dialect, const FilterChoice &choice)
+FilterCondition ConditionOf(const Dialect &dialect, const FilterChoice &choice)
 {
     const FilterField &field = choice.field;
     if (field.written.isEmpty())
@@ -109,11 +111,11 @@ FilterCondition ConditionOf(const FilterSql::Dialect &dialect, const FilterChoic
     }
     switch (choice.op) {
     case FilterOperator::Contains:
-        return {FilterSql::Like(dialect, field.written, choice.value, FilterSql::Anchor::None), {}};
+        return {Like(dialect, field.written, choice.value, Anchor::None), {}};
     case FilterOperator::BeginsWith:
-        return {FilterSql::Like(dialect, field.written, choice.value, FilterSql::Anchor::Begin), {}};
+        return {Like(dialect, field.written, choice.value, Anchor::Begin), {}};
     case FilterOperator::EndsWith:
-        return {FilterSql::Like(dialect, field.written, choice.value, FilterSql::Anchor::End), {}};
+        return {Like(dialect, field.written, choice.value, Anchor::End), {}};
     default:
         return {compare(field.written, choice.op, *value), {}};
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "filter/FilterOperator.h"
-#include "filter/FilterSql.h"
+#include "sql/Engine.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -29,6 +29,6 @@ struct FilterCondition
     bool isLastValueAtFault = false; // rather than the only or the first one
 };
 
-FilterCondition ConditionOf(const FilterSql::Dialect &dialect, const FilterChoice &choice);
+FilterCondition ConditionOf(const Dialect &dialect, const FilterChoice &choice);
 
 } // namespace KOVAVSFDataGridLib

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "filter/FilterCondition.h"
+#include "filter/FilterSql.h"
 
 #include <QtWidgets/QWidget>
 
@@ -20,7 +21,7 @@ class ValueEdit;
 struct FilterRowContext
 {
     std::vector<FilterField> fields;
-    FilterSql::Dialect dialect;
+    Dialect dialect;
     // The values that a field has; see ValueEdit.
     std::function<QStringList(const FilterField &)> readValues;
 };

@@ -2,9 +2,12 @@
 
 #include "ado/Connection.h"
 #include "ado/ConnectionFactory.h"
+#include "ado/ConnectionString.h"
 #include "ado/EngineOf.h"
 #include "ado/Error.h"
 #include "ado/Recordset.h"
+#include "filter/FilterSql.h"
+#include "sql/Names.h"
 
 #include <QtCore/QSet>
 
@@ -13,6 +16,17 @@
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
+
+bool LeadsToOdbc(const QString &connectionString)
+{
+    try {
+        const ADODB::ConnectionString parts(connectionString);
+        return parts.value(u"Provider"_s).startsWith("MSDASQL"_L1, Qt::CaseInsensitive) ||
+               parts.contains(u"DSN"_s) || parts.contains(u"FILEDSN"_s) || parts.contains(u"Driver"_s);
+    } catch (const ADODB::Error &) {
+        return false;
+    }
+}
 
 void FilterSource::setConnection(std::shared_ptr<ADODB::Connection> connection)
 {
@@ -31,18 +45,18 @@ void FilterSource::setTable(const QString &fromText)
     m_fromText = fromText.trimmed();
 }
 
-FilterSql::Dialect FilterSource::dialect() const
+Dialect FilterSource::dialect() const
 {
-    FilterSql::Dialect dialect = FilterSql::DialectOf(m_database, m_connectionString);
-    dialect.engine = EngineOf(m_connection);
-    dialect.escapesByBackslash = m_escapesByBackslash;
-    return dialect;
+    return {.database = m_database,
+            .isOdbc = LeadsToOdbc(m_connectionString),
+            .escapesByBackslash = m_escapesByBackslash,
+            .engine = EngineOf(m_connection)};
 }
 
 const std::shared_ptr<ADODB::Connection> &FilterSource::connection()
 {
     if (!m_connection) {
-        auto connection = ADODB::ConnectionFactory::instance().newConnection(m_database);
+        auto connection = ADODB::ConnectionFactory::connectionFor(m_database);
         connection->Open(m_connectionString);
         m_connection = std::move(connection);
     }
@@ -73,7 +87,7 @@ std::vector<FilterField> FilterSource::readFields()
         infos = connection()->Describe(everything + m_fromText);
     } catch (const ADODB::Error &) {
         // A plain name that SQL can't read without brackets or quotes.
-        const QString written = FilterSql::FieldName(dialect(), m_fromText);
+        const QString written = WrittenName(dialect(), m_fromText);
         if (written == m_fromText)
             throw;
         infos = connection()->Describe(everything + written);
@@ -88,10 +102,10 @@ std::vector<FilterField> FilterSource::readFields()
     std::vector<FilterField> fields;
     QSet<QString> captions;
     for (const ADODB::FieldInfo &info : infos) {
-        QString written = FilterSql::FieldName(dialect(), info.name);
+        QString written = WrittenName(dialect(), info.name);
         QString caption = info.name;
         if (!info.baseTable.isEmpty() && std::ranges::count_if(infos, isNamed(info.name)) > 1) {
-            written = FilterSql::FieldName(dialect(), info.baseTable) + u'.' + written;
+            written = WrittenName(dialect(), info.baseTable) + u'.' + written;
             caption = info.baseTable + u'.' + caption;
         }
         if (!captions.contains(caption)) {

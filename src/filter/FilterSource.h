@@ -11,6 +11,9 @@ class Connection;
 
 namespace KOVAVSFDataGridLib {
 
+// Whether a connection string names an ODBC driver or data source. A malformed one does not.
+bool LeadsToOdbc(const QString &connectionString);
+
 // Where the builder's fields and values come from. Reads nothing before it is asked. The reading functions
 // throw ADODB::Error.
 class FilterSource
@@ -28,7 +31,7 @@ public:
     bool hasTable() const { return !m_fromText.isEmpty(); }
     // How conditions are written. What the database has to be asked for is known once readFields() was
     // called.
-    FilterSql::Dialect dialect() const;
+    Dialect dialect() const;
 
     // The table's fields in its order. A name that several tables share is told apart by the table's.
     std::vector<FilterField> readFields();

@@ -1,44 +1,12 @@
 #pragma once
 
-#include "sql/AllDBType.h"
 #include "sql/Engine.h"
 
-#include <QtCore/QDateTime>
+#include <QtCore/QList>
 #include <QtCore/QString>
-#include <QtCore/QStringList>
 
-// How names and values are written in the conditions of each database.
+// The conditions that the builder writes and those it puts together.
 namespace KOVAVSFDataGridLib::FilterSql {
-
-// `database` decides how names are written, and together with `isOdbc` how values are: what is not reached
-// through ODBC (SQLite and Access files) is read by SQLite. `engine` says more, where it is known.
-struct Dialect
-{
-    AllDBType database = dbAccess;
-    bool isOdbc = false;
-    // Whether a backslash in a text is the beginning of an escape, as MariaDB has it unless it is told not
-    // to.
-    bool escapesByBackslash = false;
-    Engine engine = Engine::Other;
-};
-
-// Reads off the connection string whether ODBC is used. A malformed one counts as not. Backslashes are left
-// to FilterSource, which can ask the database.
-Dialect DialectOf(AllDBType database, const QString &connectionString);
-
-// The name, in brackets (for dbAccess) or double quotes where it needs them, be it for its characters or
-// because it is a word of the language.
-QString FieldName(const Dialect &dialect, const QString &name);
-
-// The text as a literal, or as several put together where the statement's own words would be found in one.
-QString Text(const Dialect &dialect, const QString &text);
-QString Date(const Dialect &dialect, QDate date);
-QString Time(const Dialect &dialect, QTime time);
-QString Moment(const Dialect &dialect, const QDateTime &moment);
-
-// `field` LIKE the text, matched as itself, with anything before or behind it.
-enum class Anchor { Begin, End, None };
-QString Like(const Dialect &dialect, const QString &field, const QString &text, Anchor anchor);
 
 QString IsTrue(const Dialect &dialect, const QString &field, bool wanted);
 

@@ -1,6 +1,7 @@
 #include "filter/FilterValue.h"
 
 #include "filter/FilterTexts.h"
+#include "sql/Literals.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -76,49 +77,48 @@ DayAndRest splitMoment(const QString &typed)
     return {readDate(match.captured(1)), match.captured(2)};
 }
 
-std::optional<FilterValue> readMoment(const FilterSql::Dialect &dialect, const QString &typed)
+std::optional<FilterValue> readMoment(const Dialect &dialect, const QString &typed)
 {
     const auto [day, rest] = splitMoment(typed);
     if (!day.isValid())
         return std::nullopt;
     if (rest.isEmpty()) {
-        return FilterValue{.literal = FilterSql::Date(dialect, day),
-                           .nextDay = FilterSql::Date(dialect, day.addDays(1)),
+        return FilterValue{.literal = DateLiteral(dialect, day),
+                           .nextDay = DateLiteral(dialect, day.addDays(1)),
                            .rank = rankOf(day.startOfDay(Qt::UTC))};
     }
     const QTime time = readTime(rest);
     if (!time.isValid())
         return std::nullopt;
     const QDateTime moment(day, time, Qt::UTC);
-    return FilterValue{.literal = FilterSql::Moment(dialect, moment), .rank = rankOf(moment)};
+    return FilterValue{.literal = MomentLiteral(dialect, moment), .rank = rankOf(moment)};
 }
 
-std::optional<FilterValue> readDay(const FilterSql::Dialect &dialect, const QString &typed)
+std::optional<FilterValue> readDay(const Dialect &dialect, const QString &typed)
 {
     const QDate day = readDate(narrow(typed));
     if (!day.isValid())
         return std::nullopt;
-    return FilterValue{.literal = FilterSql::Date(dialect, day),
-                       .rank = static_cast<double>(day.toJulianDay())};
+    return FilterValue{.literal = DateLiteral(dialect, day), .rank = static_cast<double>(day.toJulianDay())};
 }
 
-std::optional<FilterValue> readTimeOfDay(const FilterSql::Dialect &dialect, const QString &typed)
+std::optional<FilterValue> readTimeOfDay(const Dialect &dialect, const QString &typed)
 {
     const QTime time = readTime(narrow(typed));
     if (!time.isValid())
         return std::nullopt;
-    return FilterValue{.literal = FilterSql::Time(dialect, time),
+    return FilterValue{.literal = TimeLiteral(dialect, time),
                        .rank = static_cast<double>(time.msecsSinceStartOfDay())};
 }
 
 } // namespace
 
-std::optional<FilterValue> ReadFilterValue(const FilterSql::Dialect &dialect, FieldClass fieldClass,
+std::optional<FilterValue> ReadFilterValue(const Dialect &dialect, FieldClass fieldClass,
                                            const QString &typed)
 {
     switch (fieldClass) {
     case FieldClass::Text:
-        return FilterValue{.literal = FilterSql::Text(dialect, typed)};
+        return FilterValue{.literal = TextWithoutClauses(dialect, typed)};
     case FieldClass::Number:
         return readNumber(typed);
     case FieldClass::Boolean:

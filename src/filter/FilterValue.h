@@ -1,7 +1,7 @@
 #pragma once
 
 #include "filter/FieldClass.h"
-#include "filter/FilterSql.h"
+#include "sql/Engine.h"
 
 #include <optional>
 
@@ -19,7 +19,7 @@ struct FilterValue
 
 // Nothing when the text is no value of that class. Digits and signs may be full-width, as Chinese input
 // methods give them. Text is taken as it was typed, with its blanks.
-std::optional<FilterValue> ReadFilterValue(const FilterSql::Dialect &dialect, FieldClass fieldClass,
+std::optional<FilterValue> ReadFilterValue(const Dialect &dialect, FieldClass fieldClass,
                                            const QString &typed);
 
 // The day that a text is or begins with; invalid when there is none.

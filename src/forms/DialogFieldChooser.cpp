@@ -35,24 +35,28 @@ QWidget *DialogFieldChooser::windowBelow() const
 }
 
 std::optional<QString> DialogFieldChooser::ChooseVisibleFields(const QString &title,
-                                                               const QStringList &allFields,
+                                                               const QList<OfferedField> &allFields,
                                                                const QStringList &partFields)
 {
     frmSelShowFields dialog(windowBelow());
     dialog.SetPicture(m_pictures.fields);
     dialog.SetTitle(title);
-    dialog.AppendListFields(&allFields);
+    dialog.AppendListFields(allFields);
     dialog.SetListFieldCheck(&partFields);
     return answerOf(dialog);
 }
 
-std::optional<QString> DialogFieldChooser::ChooseSort(const QString &title, const QStringList &allFields,
+std::optional<QString> DialogFieldChooser::ChooseSort(const QString &title,
+                                                      const QList<OfferedField> &allFields,
                                                       const QStringList &sortTerms)
 {
     frmSelSortFields dialog(windowBelow());
     dialog.SetPicture(m_pictures.sort);
     dialog.SetTitle(title);
-    dialog.AppendListFields(&allFields);
+    QStringList written;
+    for (const OfferedField &field : allFields)
+        written.append(field.written);
+    dialog.AppendListFields(&written);
     dialog.AppendListSortFields(&sortTerms);
     dialog.AppendSortOrder();
     return answerOf(dialog);

@@ -25,9 +25,9 @@ public:
     explicit DialogFieldChooser(QWidget *parent = nullptr, Pictures pictures = {{}, {}});
     ~DialogFieldChooser() override;
 
-    std::optional<QString> ChooseVisibleFields(const QString &title, const QStringList &allFields,
+    std::optional<QString> ChooseVisibleFields(const QString &title, const QList<OfferedField> &allFields,
                                                const QStringList &partFields) override;
-    std::optional<QString> ChooseSort(const QString &title, const QStringList &allFields,
+    std::optional<QString> ChooseSort(const QString &title, const QList<OfferedField> &allFields,
                                       const QStringList &sortTerms) override;
 
 private:

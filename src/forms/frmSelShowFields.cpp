@@ -21,6 +21,13 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int writtenRole =
+    Qt::UserRole; // what a chosen field adds to the result; empty when only its name says
+
+} // namespace
+
 frmSelShowFields::frmSelShowFields(QWidget *parent)
     : SelectionDialog(u"frmSelShowFields"_s, FormTexts::SelectFieldsTitle, u"GradualControl1"_s, parent),
       m_list(new QTreeWidget),
@@ -102,18 +109,27 @@ bool frmSelShowFields::AppendListFields(const QStringList *PassAllFields)
 {
     if (!PassAllFields)
         return false;
+    QList<OfferedField> fields;
+    for (const QString &name : *PassAllFields)
+        fields.append({name, {}});
+    AppendListFields(fields);
+    return true;
+}
+
+void frmSelShowFields::AppendListFields(const QList<OfferedField> &fields)
+{
     {
         const QSignalBlocker quiet(m_list);
         m_list->clear();
-        for (const QString &field : *PassAllFields) {
-            auto *item = new QTreeWidgetItem(m_list, {field});
+        for (const OfferedField &field : fields) {
+            auto *item = new QTreeWidgetItem(m_list, {field.name});
+            item->setData(0, writtenRole, field.written);
             item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable |
                            Qt::ItemNeverHasChildren);
             item->setCheckState(0, Qt::Unchecked);
         }
     }
     listOnly(m_search->text());
-    return true;
 }
 
 bool frmSelShowFields::SetListFieldCheck(const QStringList *PassPartFields)
@@ -208,7 +224,8 @@ void frmSelShowFields::takeChoice()
 {
     QList<ListedField> rows;
     for (const QTreeWidgetItem *item : items())
-        rows.append({item->text(0), item->checkState(0) == Qt::Checked});
+        rows.append(
+            {item->text(0), item->checkState(0) == Qt::Checked, item->data(0, writtenRole).toString()});
     setResultText(ComposeFieldList(rows));
     if (strRetFields().isEmpty())
         Messages::tell(this, FormTexts::AtLeastOneField);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/SelectionDialog.h"
+#include "query/FieldChooser.h"
 
 #include <QtCore/QStringList>
 
@@ -23,6 +24,8 @@ public:
 
     // The fields to choose from, in their order. False, changing nothing, when there is no list.
     bool AppendListFields(const QStringList *PassAllFields);
+    // The same, with the text that a chosen field adds to the result.
+    void AppendListFields(const QList<OfferedField> &fields);
     // Ticks the rows that are named plain, in brackets or in double quotes; ticks none away. False when there
     // is no list.
     bool SetListFieldCheck(const QStringList *PassPartFields);

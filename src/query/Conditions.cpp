@@ -1,8 +1,10 @@
 #include "query/Conditions.h"
 
 #include "query/CharText.h"
-#include "query/FieldNames.h"
 #include "query/QueryTexts.h"
+#include "sql/Like.h"
+#include "sql/Literals.h"
+#include "sql/Names.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -48,60 +50,131 @@ bool IsBinary(std::optional<qint32> adoType)
     return adoType == 128 || adoType == 204 || adoType == 205;
 }
 
+constexpr qint32 kSingle = 4;
+constexpr qint32 kDouble = 5;
+constexpr qint32 kCurrency = 6;
+constexpr qint32 kGuid = 72;
+
+// Where the engine isn't known, currency is left out as it always was.
+QString ClassOf(qint32 adoType, Engine engine)
+{
+    return adoType == kCurrency && engine != Engine::Other ? QStringLiteral("1") : ClassifyFieldType(adoType);
+}
+
+struct SearchedField
+{
+    QString operand;
+    bool holdsLetters = true;
+};
+
 // The field as it is written; empty when it can't be searched, nothing when nobody can tell.
-std::optional<QString> SearchedField(const TypedField &field, AllDBType database, const QString &qualifier,
-                                     Engine engine)
+std::optional<QString> NameOfSearched(const TypedField &field, AllDBType database, const QString &qualifier,
+                                      Engine engine)
 {
     if (LikesTextsOnly(engine) && IsBinary(field.adoType))
         return QString();
-    if (database == dbOracle || database == dbSQLServer)
-        return QuotedFieldName(database, field.name);
+    if (database != dbAccess && database != dbOracle && database != dbSQLServer)
+        return QString();
+    if (database == dbAccess) {
+        if (!field.adoType)
+            return std::nullopt;
+        if (ClassOf(*field.adoType, engine) == u"0")
+            return QString();
+    }
+    if (!field.written.isEmpty())
+        return field.written;
     if (database != dbAccess)
-        return QString();
-    if (!field.adoType)
-        return std::nullopt;
-    if (ClassifyFieldType(*field.adoType) == u"0")
-        return QString();
+        return WrittenName(DialectOf(database, engine), field.name);
     return (qualifier.isEmpty() ? QString() : qualifier + u'.') + u'[' + field.name + u']';
 }
 
-std::optional<QStringList> SearchedFields(std::span<const TypedField> fields, AllDBType database,
-                                          const QString &strSQL, Engine engine)
+std::optional<std::vector<SearchedField>>
+SearchedFields(std::span<const TypedField> fields, AllDBType database, const QString &strSQL, Engine engine)
 {
     const auto table = GetTableOfSQL(strSQL);
-    if (!table)
+    const bool needsTable = std::any_of(fields.begin(), fields.end(),
+                                        [](const TypedField &field) { return field.written.isEmpty(); });
+    if (!table && needsTable)
         return std::nullopt;
-    const QString qualifier = database == dbAccess ? TableQualifier(*table) : QString();
-    QStringList searched;
+    const QString qualifier = database == dbAccess && table ? TableQualifier(*table) : QString();
+    std::vector<SearchedField> searched;
     for (const TypedField &field : fields) {
-        const auto name = SearchedField(field, database, qualifier, engine);
+        const auto name = NameOfSearched(field, database, qualifier, engine);
         if (!name)
             return std::nullopt;
-        if (!name->isEmpty())
-            searched.append(LikeOperand(engine, *name));
+        if (name->isEmpty())
+            continue;
+        const QString kind = field.adoType ? ClassOf(*field.adoType, engine) : QString();
+        searched.push_back(
+            {LikeOperand(engine, *name), (kind != u"1" && kind != u"3") || field.adoType == kGuid});
     }
     return searched;
 }
 
-QString WordCondition(const QStringList &searchedFields, const QString &word, Engine engine)
+// A number has no letters, and casting every number of a large table to find that out takes long.
+QStringList OperandsFor(const std::vector<SearchedField> &fields, const QString &word, Engine engine)
+{
+    const bool hasLetter = std::any_of(word.cbegin(), word.cend(), [](QChar c) { return c.isLetter(); });
+    QStringList able;
+    QStringList all;
+    for (const SearchedField &field : fields) {
+        all.append(field.operand);
+        if (field.holdsLetters)
+            able.append(field.operand);
+    }
+    return LikesTextsOnly(engine) && hasLetter && !able.isEmpty() ? able : all;
+}
+
+// Words that begin a clause are taken apart, so that no later derivation takes them for its own; only a known
+// engine says how.
+QString Literal(AllDBType database, Engine engine, const QString &text)
+{
+    const Dialect dialect = DialectOf(database, engine);
+    return engine == Engine::Other ? TextLiteral(dialect, text) : TextWithoutClauses(dialect, text);
+}
+
+QString WordCondition(const QStringList &operands, const QString &word, AllDBType database, Engine engine)
 {
     const QString pattern =
-        QStringLiteral(" LIKE ") + TextLiteral(engine, u'%' + LikePattern(engine, word) + u'%') + u' ';
-    return searchedFields.join(pattern + QStringLiteral("OR ")) + pattern;
+        QStringLiteral(" LIKE ") + Literal(database, engine, u'%' + LikePattern(engine, word) + u'%') + u' ';
+    return operands.join(pattern + QStringLiteral("OR ")) + pattern;
+}
+
+// A column's declared type doesn't say that each of its values is a number.
+bool IsNumber(const QString &text)
+{
+    static const QRegularExpression number(QStringLiteral(R"(\A-?[0-9]+(\.[0-9]+)?([eE][-+]?[0-9]+)?\z)"));
+    return number.match(text).hasMatch();
 }
 
 // Numbers are compared as numbers where LIKE takes none: as texts they may end in more digits than are shown.
 QString NumberCondition(const QString &field, qint32 adoType, const QString &cellText, Engine engine)
 {
-    constexpr qint32 single = 4;
-    constexpr qint32 guid = 72;
-    if (!LikesTextsOnly(engine))
-        return field + QStringLiteral(" like ") + cellText;
-    if (adoType == guid)
-        return field + QStringLiteral(" = ") + TextLiteral(engine, cellText);
-    // Only as a number of the same few digits it is the same number.
-    return field + QStringLiteral(" = ") +
-           (adoType == single ? QStringLiteral("CAST(%1 AS REAL)").arg(cellText) : cellText);
+    const QString like = field + QStringLiteral(" like ");
+    const QString equals = field + QStringLiteral(" = ");
+    if (engine == Engine::Other)
+        return like + cellText;
+    if (adoType == kGuid || !IsNumber(cellText)) {
+        return LikesTextsOnly(engine) ? equals + Literal({}, engine, cellText)
+                                      : like + Literal({}, engine, LikePattern(engine, cellText));
+    }
+    const bool isFloating = adoType == kSingle || adoType == kDouble;
+    switch (engine) {
+    case Engine::PostgreSQL:
+        // Only as a number of the same few digits it is the same number.
+        return equals + (adoType == kSingle ? QStringLiteral("CAST(%1 AS REAL)").arg(cellText) : cellText);
+    case Engine::SQLite: {
+        if (adoType == kCurrency)
+            return equals + cellText;
+        const bool isWhole =
+            isFloating && !cellText.contains(u'.') && !cellText.contains(u'e', Qt::CaseInsensitive);
+        return like + cellText + (isWhole ? QStringLiteral(".0") : QString());
+    }
+    case Engine::MySQL:
+        return (adoType == kCurrency ? equals : like) + cellText;
+    default:
+        return (isFloating || adoType == kCurrency ? equals : like) + cellText;
+    }
 }
 
 } // namespace
@@ -160,11 +233,12 @@ bool BuildLikeCondition(const QString &strText, std::span<const TypedField> fiel
     QString condition;
     if (!strText.isEmpty()) {
         const auto searched = SearchedFields(fields, database, strSQL, engine);
-        if (!searched || searched->isEmpty())
+        if (!searched || searched->empty())
             return false;
         QStringList words;
         for (const QString &word : SplitText(strText, QStringLiteral("%")))
-            words.append(QStringLiteral(" (") + WordCondition(*searched, word, engine) +
+            words.append(QStringLiteral(" (") +
+                         WordCondition(OperandsFor(*searched, word, engine), word, database, engine) +
                          QStringLiteral(") "));
         condition = words.join(QStringLiteral("And "));
     }
@@ -187,7 +261,8 @@ CellFilter BuildCellFilter(const QString &realName, std::optional<qint32> adoTyp
     if (realName.isEmpty() || !adoType)
         return {};
     const bool isText = Contains(texts, *adoType);
-    if (!isText && !Contains(numbers, *adoType))
+    const bool isNumber = Contains(numbers, *adoType) || (*adoType == kCurrency && engine != Engine::Other);
+    if (!isText && !isNumber)
         return {{}, QueryTexts::TypeNotFiltered()};
     if (!cellText)
         return {realName + QStringLiteral(" IS NULL"), {}};
@@ -196,7 +271,7 @@ CellFilter BuildCellFilter(const QString &realName, std::optional<qint32> adoTyp
     if (cellText->contains(u'\''))
         return {{}, QueryTexts::ApostropheInFilter()};
     return {LikeOperand(engine, realName) + QStringLiteral(" like ") +
-                TextLiteral(engine, LikePattern(engine, *cellText)),
+                Literal({}, engine, LikePattern(engine, *cellText)),
             {}};
 }
 

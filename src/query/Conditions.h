@@ -1,6 +1,5 @@
 #pragma once
 
-#include "sql/AllDBType.h"
 #include "sql/Engine.h"
 
 #include <QtCore/QString>
@@ -17,6 +16,7 @@ struct TypedField
 {
     QString name;                  // as the catalogue gives it
     std::optional<qint32> adoType; // nothing when nobody knows it
+    QString written = {};          // what a condition writes for it; empty to have that made of the name
 };
 
 // The pieces before each separator, empty ones too, and what is left over if it isn't empty. With

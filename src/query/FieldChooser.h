@@ -1,11 +1,18 @@
 #pragma once
 
+#include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
 #include <optional>
 
 namespace KOVAVSFDataGridLib {
+
+struct OfferedField
+{
+    QString name;    // as the user reads it
+    QString written; // as statements write it
+};
 
 // Lets the user choose. Each function returns when the user is done; nothing, or an empty text, means
 // cancelled.
@@ -16,14 +23,15 @@ public:
     virtual ~FieldChooser() = default;
     Q_DISABLE_COPY_MOVE(FieldChooser)
 
-    // The fields to show out of `allFields`, comma-separated as they stand behind SELECT. `partFields` are
-    // those shown now; `title` is the table's name.
-    virtual std::optional<QString> ChooseVisibleFields(const QString &title, const QStringList &allFields,
+    // The fields to show out of `allFields`, comma-separated as a SELECT list. `partFields` are those shown
+    // now; `title` is the table's name.
+    virtual std::optional<QString> ChooseVisibleFields(const QString &title,
+                                                       const QList<OfferedField> &allFields,
                                                        const QStringList &partFields) = 0;
 
-    // The sort, comma-separated as it stands behind ORDER BY. `sortTerms` are the terms of the present one,
-    // each a field with or without " DESC".
-    virtual std::optional<QString> ChooseSort(const QString &title, const QStringList &allFields,
+    // The sort, comma-separated as ORDER BY takes it. `sortTerms` are the terms of the present one, each a
+    // field with or without " DESC".
+    virtual std::optional<QString> ChooseSort(const QString &title, const QList<OfferedField> &allFields,
                                               const QStringList &sortTerms) = 0;
 };
 

@@ -3,8 +3,6 @@
 #include "query/CharText.h"
 #include "query/SqlText.h"
 
-#include <algorithm>
-
 namespace KOVAVSFDataGridLib {
 
 using namespace CharText;
@@ -15,19 +13,6 @@ namespace {
 QString WithoutBrackets(const QString &name)
 {
     return CutStringEnds(CutStringEnds(name, QStringLiteral("["), 1), QStringLiteral("]"), 2);
-}
-
-bool MixesCapitalAndSmallLetters(const QString &name)
-{
-    const auto isCapital = [](QChar c) { return c >= u'A' && c <= u'Z'; };
-    const auto isSmall = [](QChar c) { return c >= u'a' && c <= u'z'; };
-    return std::any_of(name.cbegin(), name.cend(), isCapital) &&
-           std::any_of(name.cbegin(), name.cend(), isSmall);
-}
-
-QString Enclosed(QChar opening, QString name, QChar closing)
-{
-    return opening + name.replace(closing, QString(2, closing)) + closing;
 }
 
 // "DISTINCT T.A" lists T.A.
@@ -49,18 +34,6 @@ QString ShortFieldName(const QString &writtenName)
     return WithoutBrackets(writtenName.mid(dot + 1));
 }
 
-QString LastNamePart(const QString &writtenName)
-{
-    const QChar last = writtenName.isEmpty() ? QChar() : writtenName.back();
-    const QChar opening = last == u']' ? QChar(u'[') : last == u'"' ? last : QChar();
-    if (opening.isNull())
-        return writtenName.mid(writtenName.lastIndexOf(u'.') + 1);
-    const QString name = writtenName.chopped(1);
-    const auto open = name.lastIndexOf(opening);
-    const bool isAlias = open > 0 && name.at(open - 1) != u'.';
-    return isAlias ? QString() : name.mid(open + 1);
-}
-
 QStringList WrittenFields(const QString &statement)
 {
     constexpr qsizetype selectLength = 7;
@@ -73,46 +46,6 @@ QStringList WrittenFields(const QString &statement)
         item = Trim(item);
     items.front() = WithoutListWords(items.front());
     return items;
-}
-
-bool IsPlainName(const QString &name)
-{
-    const auto letters = name.toUcs4();
-    const auto isInner = [](uint c) {
-        return QChar::isLetterOrNumber(c) || c == '_' || c == '$' || c == '#';
-    };
-    return !letters.isEmpty() && (QChar::isLetter(letters.front()) || letters.front() == '_') &&
-           std::all_of(letters.cbegin(), letters.cend(), isInner);
-}
-
-QString QuotedFieldName(AllDBType database, const QString &name)
-{
-    const bool needsQuotes =
-        !IsPlainName(name) || (database == dbOracle && MixesCapitalAndSmallLetters(name));
-    if (!needsQuotes)
-        return name;
-    return database == dbOracle ? Enclosed(u'"', name, u'"') : Enclosed(u'[', name, u']');
-}
-
-QString BracketsToQuotes(const QString &text)
-{
-    QString result;
-    result.reserve(text.size());
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const QChar c = text.at(i);
-        const bool opens = c == u'[' || c == u'\'' || c == u'"';
-        const auto end = opens ? text.indexOf(c == u'[' ? QChar(u']') : c, i + 1) : -1;
-        if (end < 0) {
-            result += c;
-            continue;
-        }
-        if (c == u'[')
-            result += Enclosed(u'"', text.mid(i + 1, end - i - 1), u'"');
-        else
-            result += QStringView(text).mid(i, end + 1 - i);
-        i = end;
-    }
-    return result;
 }
 
 } // namespace KOVAVSFDataGridLib

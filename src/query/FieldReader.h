@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sql/Engine.h"
+
 #include <QtCore/QString>
 
 #include <optional>
@@ -12,6 +14,7 @@ struct SourceField
 {
     QString name;
     qint32 adoType = 0; // ADO type number; 0 when it isn't known
+    QString table = {}; // the table it comes from, under the table's own name; empty when that isn't known
 };
 
 // What the query model needs of a database. The implementation decides whether it keeps connections open and
@@ -32,6 +35,9 @@ public:
     // itself.
     virtual std::optional<std::vector<SourceField>> Read(const QString &connectionString,
                                                          const QString &statement) = 0;
+
+    // The engine to which that connection leads; Other when it can't be told.
+    virtual Engine EngineOf(const QString &) { return Engine::Other; }
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -21,6 +21,18 @@ inline QString ApostropheInFilter()
 {
     return QStringLiteral("对不起，过滤内容中不能含有\"  ' \"符号!");
 }
+inline QString NotDerived()
+{
+    return QStringLiteral("该语句不是普通的 SELECT 查询，不能再过滤、排序或选择字段。");
+}
+inline QString EqualNames()
+{
+    return QStringLiteral("查询结果中有多个名为“%1”的字段，请先在语句中用 AS 给它们不同的名称。");
+}
+inline QString UnnamedField()
+{
+    return QStringLiteral("查询结果中有没有名称的字段，请先在语句中用 AS 给它命名。");
+}
 inline QString TypeNotFiltered()
 {
     return QStringLiteral("对不起，过滤操作不支持选中内容的数据类型！");

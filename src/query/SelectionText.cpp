@@ -14,6 +14,10 @@ QString ComposeFieldList(const QList<ListedField> &rows)
     for (const ListedField &row : rows) {
         if (!row.isChecked)
             continue;
+        if (!row.written.isEmpty()) {
+            names.append(row.written);
+            continue;
+        }
         const bool isSpecial = row.name.contains(u' ') || row.name.contains(u'(');
         const bool isBracketed = row.name.startsWith(u'[') || row.name.endsWith(u']');
         if (isSpecial && !isBracketed)

@@ -11,6 +11,7 @@ struct ListedField
 {
     QString name;
     bool isChecked = false;
+    QString written = {}; // as statements write it, where that is known
 };
 
 struct SortTerm
@@ -19,8 +20,8 @@ struct SortTerm
     QString orderWord; // QueryTexts::Ascending() or Descending()
 };
 
-// The checked names, comma-separated; a name with a blank or "(" gets brackets unless it begins or ends with
-// one.
+// The checked names, comma-separated, as they are written; one of which that isn't known gets brackets when
+// it has a blank or "(", unless it begins or ends with a bracket.
 QString ComposeFieldList(const QList<ListedField> &rows);
 
 // For each row, whether a part field is the row's name, plain, in brackets or in double quotes.

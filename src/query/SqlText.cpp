@@ -1,6 +1,8 @@
 #include "query/SqlText.h"
 
 #include "query/CharText.h"
+#include "sql/Names.h"
+#include "sql/SqlScanner.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -23,17 +25,15 @@ QString HeadWithoutConditions(const QString &statement)
     return head;
 }
 
-QChar ClosingQuote(QChar opening)
+// AND binds closer, so an OR outside all brackets would take rows in that AND is to keep out.
+bool HasOuterOr(const QString &condition)
 {
-    switch (opening.unicode()) {
-    case u'\'':
-    case u'"':
-        return opening;
-    case u'[':
-        return u']';
-    default:
-        return {};
+    const SqlScanner scanned(condition);
+    for (qsizetype i = 0; i < scanned.count(); ++i) {
+        if (scanned.at(i).depth == 0 && scanned.isWord(i, u"OR"))
+            return true;
     }
+    return false;
 }
 
 } // namespace
@@ -78,10 +78,15 @@ void AddCondition(SQLSentence &sentence, const QString &condition)
 {
     if (condition.isEmpty())
         return;
-    if (Trim(sentence.where).isEmpty())
+    const QString where = Trim(sentence.where);
+    if (where.isEmpty()) {
         sentence.where = kWhere + condition;
-    else
-        sentence.where += QStringLiteral(" AND ") + condition;
+        return;
+    }
+    const qsizetype keyword = kWhere.size() - 2;
+    if (HasOuterOr(From(where, keyword + 1)))
+        sentence.where = First(where, keyword) + QStringLiteral(" (") + Trim(From(where, keyword + 1)) + u')';
+    sentence.where += QStringLiteral(" AND ") + (HasOuterOr(condition) ? u'(' + condition + u')' : condition);
 }
 
 QString ReplaceSQLFieldPart(const QString &statement, const QString &fieldStatement)
@@ -130,6 +135,24 @@ QString GetFromPart(const QString &statement)
 {
     const auto from = FindUpper(statement, kFrom);
     return from == 0 ? QString() : From(statement, from);
+}
+
+QStringList SplitList(const QString &list)
+{
+    const SqlScanner scanned(list);
+    QStringList entries;
+    qsizetype begin = 0;
+    for (qsizetype i = 0; i <= scanned.count(); ++i) {
+        const bool isEnd = i == scanned.count();
+        if (!isEnd && !(scanned.isSymbol(i, u',') && scanned.at(i).depth == 0))
+            continue;
+        const qsizetype end = isEnd ? list.size() : scanned.at(i).start;
+        const QString entry = Trim(list.sliced(begin, end - begin));
+        if (!entry.isEmpty())
+            entries.append(entry);
+        begin = end + 1;
+    }
+    return entries;
 }
 
 QString CutStringEnds(const QString &text, const QString &affix, int mode)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <optional>
 
@@ -35,7 +36,8 @@ QString JoinSQLSentence(const SQLSentence &sentence);
 // The head, followed by one blank and the part for each of the other parts that isn't empty.
 QString ComposeSQL(const QString &head, const QString &where, const QString &order);
 
-// One more condition: the first one brings the word WHERE (and a blank before it), each further one AND.
+// One more condition: the first one brings the word WHERE (and a blank before it), each further one AND; then
+// either side that has an OR outside all brackets gets brackets of its own.
 // An empty condition changes nothing.
 void AddCondition(SQLSentence &sentence, const QString &condition);
 
@@ -57,6 +59,10 @@ QString GetSQLTableName(const QString &statement);
 
 // From the blank before FROM to the end; empty without FROM.
 QString GetFromPart(const QString &statement);
+
+// The entries of a SELECT list or a sort, cut at the commas outside brackets, quotes and comments, without
+// blanks at their ends; empty ones are left out.
+QStringList SplitList(const QString &list);
 
 // Removes one `affix` at the text's begin (mode 1), end (mode 2) or both (mode 3); any other mode changes
 // nothing. An empty affix empties the result.

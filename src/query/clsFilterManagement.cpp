@@ -1,7 +1,7 @@
 #include "query/clsFilterManagement.h"
 
 #include "query/CharText.h"
-#include "query/FieldNames.h"
+#include "sql/Names.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -23,6 +23,7 @@ void clsFilterManagement::SetDBType(AllDBType type)
 {
     m_dbType = type;
     m_history.SetDBType(type);
+    m_tableFields.SetDBType(type);
 }
 
 void clsFilterManagement::SetOriginFilter(const QString &statement)
@@ -41,11 +42,18 @@ bool clsFilterManagement::SetSQLInitData()
 
 bool clsFilterManagement::LetNewFilter(const QString &strNewFilter, QString &strCurrentFilter)
 {
-    auto sentence = SplitSQLSentence(Trim(m_memory.lastUseFilter));
+    const QString statement = Trim(m_memory.lastUseFilter);
+    auto sentence = SplitSQLSentence(statement);
     if (!sentence)
         return false;
-    AddCondition(*sentence, strNewFilter);
-    strCurrentFilter = JoinSQLSentence(*sentence);
+    if (const auto derivation = m_history.DerivationOf(statement, DerivationStep::Condition)) {
+        if (!derivation->whyNot(DerivationStep::Condition).isEmpty())
+            return false;
+        strCurrentFilter = derivation->withCondition(strNewFilter);
+    } else {
+        AddCondition(*sentence, strNewFilter);
+        strCurrentFilter = JoinSQLSentence(*sentence);
+    }
     MakeCurrent(strCurrentFilter);
     m_memory.currentStatement = strCurrentFilter;
     return true;
@@ -97,9 +105,21 @@ bool clsFilterManagement::GetPartShowSelFields(const QString &strAllFields, cons
     m_tableFields.ConnString = m_dbConnString;
     m_tableFields.AllFieldString = strAllFields;
     m_tableFields.PartFieldString = strPartField;
+    const auto current = m_history.DerivationOf(strCurrentSQL);
+    const auto all = m_history.DerivationOf(strAllFields);
+    const bool isText =
+        !current || !all ||
+        (current->isTextWork(DerivationStep::Fields) && all->isTextWork(DerivationStep::Fields));
+    if (!isText)
+        m_tableFields.SetWrittenFields(all->listedIn(*current));
     QString chosen;
     if (!m_tableFields.GetPartSelFields(strAllFields, strPartField, chosen))
         return false;
+    if (!isText) {
+        strRetFields = current->withFields(SplitList(chosen));
+        m_memory.currentStatement = strRetFields;
+        return !strRetFields.isEmpty();
+    }
     QString source = GetFromPart(strCurrentSQL);
     if (m_dbType == dbOracle) {
         // Oracle doesn't know brackets. List and source are rewritten apart, so that a lone apostrophe in a
@@ -119,6 +139,8 @@ bool clsFilterManagement::GetPartSortSelFields(const QString &strAllFields, cons
     m_tableFields.ConnString = m_dbConnString;
     m_tableFields.AllFieldString = strAllFields;
     m_tableFields.SortFieldString = strSortField;
+    if (const auto all = m_history.DerivationOf(strAllFields); all && !all->isSimple())
+        m_tableFields.SetWrittenFields(all->written());
     return m_tableFields.GetSortSelFields(strAllFields, strSortField, strRetFields);
 }
 
@@ -139,6 +161,13 @@ bool clsFilterManagement::GetRequirePartSQL(const QString &strOrgSQL, qint32 lng
     const auto sentence = SplitSQLSentence(strOrgSQL);
     if (!sentence)
         return false;
+    constexpr qint32 withoutCondition = 3;
+    if (lngSelPart == withoutCondition) {
+        if (const auto derivation = WithoutConditions(strOrgSQL)) {
+            strRetSQL = *derivation;
+            return !strRetSQL.isEmpty();
+        }
+    }
     const bool keepsCondition = lngSelPart == 1 || lngSelPart == 2;
     const bool keepsSort = lngSelPart == 1 || lngSelPart == 3;
     if (keepsCondition || keepsSort) {
@@ -146,6 +175,19 @@ bool clsFilterManagement::GetRequirePartSQL(const QString &strOrgSQL, qint32 lng
                                keepsSort ? sentence->order : QString());
     }
     return true;
+}
+
+// What a statement that is a table of the derived one is filtered by goes as well.
+std::optional<QString> clsFilterManagement::WithoutConditions(const QString &statement) const
+{
+    const auto current = m_history.DerivationOf(statement);
+    const auto all = m_history.DerivationOf(m_allFields);
+    if (!current || !all || (current->isSimple() && all->isSimple()))
+        return std::nullopt;
+    const auto bare = m_history.DerivationOf(all->withoutConditions());
+    if (!bare || !current->hasAsTable(*all))
+        return current->withoutConditions();
+    return current->withSource(*bare);
 }
 
 QString clsFilterManagement::GetSelFieldRealName(const QString &strConnString, qint32 FieldIndex)
@@ -211,7 +253,7 @@ QString clsFilterManagement::MakeDerivedCurrent(qint32 SQLType, bool isDerivedBy
     if (!derived)
         return {};
     if (SQLType != 3)
-        LetNewSQLStr(AppendOrderWord(*derived, m_orderFields));
+        LetNewSQLStr(m_history.Sorted(*derived, m_orderFields));
     m_memory.currentStatement = m_memory.lastUseFilter;
     return m_memory.currentStatement;
 }
@@ -236,6 +278,8 @@ std::optional<QString> clsFilterManagement::Derive(qint32 SQLType, bool isDerive
         if (!GetPartSortSelFields(m_allFields, m_memory.currentSortFields, text))
             return std::nullopt;
         m_memory.currentSortFields = text;
+        if (const auto derivation = m_history.DerivationOf(m_memory.currentStatement, DerivationStep::Sort))
+            return derivation->withSort(text);
         return ReplaceOrderWord(m_memory.currentStatement, text);
     default:
         return QString();

@@ -99,6 +99,8 @@ public:
     void ClearObject();
 
 private:
+    // Nothing where plain text work will do.
+    std::optional<QString> WithoutConditions(const QString &statement) const;
     QString FieldListWithCurrentSource(const QString &fieldStatement) const;
     void MakeCurrent(const QString &statement);
     QString MakeDerivedCurrent(qint32 SQLType, bool isDerivedByHistory);

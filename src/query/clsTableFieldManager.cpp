@@ -1,21 +1,9 @@
 #include "query/clsTableFieldManager.h"
 
-#include "query/CharText.h"
 #include "query/SqlText.h"
+#include "sql/Names.h"
 
 namespace KOVAVSFDataGridLib {
-
-namespace {
-
-QStringList SortTerms(const QString &sortList)
-{
-    QStringList terms = sortList.split(u',', Qt::SkipEmptyParts);
-    for (QString &term : terms)
-        term = CharText::Trim(term);
-    return terms;
-}
-
-} // namespace
 
 QString clsTableFieldManager::GetSelFieldRealName(const QString &strConnString, qint32 FieldIndex,
                                                   const QString &PassSQL)
@@ -31,7 +19,7 @@ bool clsTableFieldManager::GetPartSelFields(const QString &strAllField, const QS
     if (!IsReadyToChoose(strAllField))
         return false;
     const QStringList partFields = ReadNames(ConnString, strPartField).value_or(QStringList());
-    strRetSelFields = m_chooser->ChooseVisibleFields(GetSQLTableName(strAllField), m_fieldNames, partFields)
+    strRetSelFields = m_chooser->ChooseVisibleFields(GetSQLTableName(strAllField), Offered(), partFields)
                           .value_or(QString());
     return !strRetSelFields.isEmpty();
 }
@@ -42,10 +30,10 @@ bool clsTableFieldManager::GetSortSelFields(const QString &strAllField, const QS
     strRetSelFields.clear();
     if (!IsReadyToChoose(strAllField))
         return false;
-    strRetSelFields =
-        m_chooser->ChooseSort(GetSQLTableName(strAllField), m_fieldNames, SortTerms(strSortField))
-            .value_or(QString());
-    return !strRetSelFields.isEmpty();
+    const auto sort = m_chooser->ChooseSort(GetSQLTableName(strAllField), Offered(), SplitList(strSortField));
+    strRetSelFields = sort.value_or(QString());
+    // An emptied list removes the sort.
+    return !strRetSelFields.isEmpty() || (sort && m_reader->EngineOf(ConnString) != Engine::Other);
 }
 
 bool clsTableFieldManager::IsReadyToChoose(const QString &strAllField)
@@ -55,6 +43,22 @@ bool clsTableFieldManager::IsReadyToChoose(const QString &strAllField)
     const auto names = ReadNames(ConnString, strAllField);
     m_fieldNames = names.value_or(QStringList());
     return names.has_value();
+}
+
+QList<OfferedField> clsTableFieldManager::Offered() const
+{
+    const Dialect dialect = DialectOf(m_database, m_reader->EngineOf(ConnString));
+    QList<OfferedField> fields;
+    if (m_written.size() != m_fieldNames.size()) {
+        for (const QString &name : m_fieldNames)
+            fields.append({name, WrittenName(dialect, name)});
+        return fields;
+    }
+    for (qsizetype i = 0; i < m_fieldNames.size(); ++i) {
+        if (!m_written.at(i).isEmpty())
+            fields.append({m_fieldNames.at(i), m_written.at(i)});
+    }
+    return fields;
 }
 
 std::optional<QStringList> clsTableFieldManager::ReadNames(const QString &connectionString,

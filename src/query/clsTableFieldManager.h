@@ -17,9 +17,18 @@ public:
     // Neither is owned; both must outlive the manager. Without a reader nothing can be read, without a
     // chooser every choice is cancelled.
     void SetFieldReader(FieldReader *reader) { m_reader = reader; }
+    // How the next choice writes the fields of its statement, in their order, until InitData(); an empty text
+    // leaves a field out.
+    void SetWrittenFields(const QStringList &written) { m_written = written; }
+    // Decides, with the reader's engine, how names are written.
+    void SetDBType(AllDBType type) { m_database = type; }
     void SetFieldChooser(FieldChooser *chooser) { m_chooser = chooser; }
 
-    void InitData() { m_fieldNames.clear(); }
+    void InitData()
+    {
+        m_fieldNames.clear();
+        m_written.clear();
+    }
     void ClearObject() { InitData(); }
 
     // The name of the statement's field at a position counted from 1; empty when there is none.
@@ -34,11 +43,14 @@ public:
 private:
     // Fills the working names; false when they can't be read or there is nobody to ask.
     bool IsReadyToChoose(const QString &strAllField);
+    QList<OfferedField> Offered() const;
     std::optional<QStringList> ReadNames(const QString &connectionString, const QString &statement);
 
     FieldReader *m_reader = nullptr;
     FieldChooser *m_chooser = nullptr;
+    AllDBType m_database = dbAccess;
     QStringList m_fieldNames;
+    QStringList m_written;
 };
 
 } // namespace KOVAVSFDataGridLib

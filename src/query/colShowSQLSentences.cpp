@@ -1,6 +1,8 @@
 #include "query/colShowSQLSentences.h"
 
 #include "query/FieldNames.h"
+#include "sql/Names.h"
+#include "sql/SqlScanner.h"
 
 #include <algorithm>
 
@@ -16,6 +18,22 @@ QStringList NamesOf(const std::vector<SourceField> &fields)
     for (const SourceField &field : fields)
         names.append(field.name);
     return names;
+}
+
+// Where a list that is "*" alone has it; nothing for any other statement.
+std::optional<qsizetype> PositionOfLoneStar(const QString &statement)
+{
+    const SqlScanner scanned(statement);
+    const bool isAlone = scanned.isWord(0, u"SELECT") && scanned.isSymbol(1, u'*') &&
+                         (scanned.count() == 2 || scanned.isWord(2, u"FROM"));
+    for (qsizetype i = 2; isAlone && i < scanned.count(); ++i) {
+        // The lists of a union have to stay alike.
+        const bool unites = scanned.isWord(i, u"UNION") || scanned.isWord(i, u"EXCEPT") ||
+                            scanned.isWord(i, u"INTERSECT") || scanned.isWord(i, u"MINUS");
+        if (unites && scanned.at(i).depth == 0)
+            return std::nullopt;
+    }
+    return isAlone ? std::optional(scanned.at(1).start) : std::nullopt;
 }
 
 } // namespace
@@ -122,6 +140,10 @@ bool colShowSQLSentences::GetNextSQLByFilter(const QString &strNewFilter, QStrin
     auto sentence = SplitLatest();
     if (!sentence)
         return false;
+    if (const auto derivation = DerivationOf(Latest()->ShowSQL, DerivationStep::Condition)) {
+        strCurrentFilter = derivation->withCondition(strNewFilter);
+        return !strCurrentFilter.isEmpty();
+    }
     AddCondition(*sentence, strNewFilter);
     strCurrentFilter = JoinSQLSentence(*sentence);
     return true;
@@ -133,6 +155,10 @@ bool colShowSQLSentences::GetNextSQLBySort(const QString &strNewSort, QString &s
     auto sentence = SplitLatest();
     if (!sentence)
         return false;
+    if (const auto derivation = DerivationOf(Latest()->ShowSQL, DerivationStep::Sort)) {
+        strCurrentFilter = derivation->withSort(strNewSort);
+        return !strCurrentFilter.isEmpty();
+    }
     sentence->order.clear();
     if (!strNewSort.isEmpty())
         sentence->order = QStringLiteral(" ORDER BY ") + strNewSort;
@@ -151,10 +177,10 @@ bool colShowSQLSentences::GetNextShowSQL(qint32 SQLType, QString &PassSQL) const
     QString fieldStatement = latest->AllFields;
     if (SQLType == 2)
         latest->GetCurrUsePartFieldSQL(fieldStatement);
-    const QString statement = ReplaceSQLFieldPart(latest->ShowSQL, fieldStatement);
+    const QString statement = WithFieldsOf(latest->ShowSQL, fieldStatement);
     if (statement.isEmpty())
         return false;
-    PassSQL = AppendOrderWord(statement, m_orderWord);
+    PassSQL = Sorted(statement, m_orderWord);
     return true;
 }
 
@@ -164,21 +190,27 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
     strRetSQL.clear();
     if (strPassConnString.isEmpty() || strOrgSQL.isEmpty())
         return false;
-    if (!strOrgSQL.contains(u'*')) {
+    const auto star = PositionOfLoneStar(strOrgSQL);
+    if (!star) {
         strRetSQL = strOrgSQL;
         return true;
     }
     const auto fields = m_reader ? m_reader->Read(strPassConnString, strOrgSQL) : std::nullopt;
     if (!fields || fields->empty())
         return false;
+    // What quotes do to a name is known only with the engine.
+    const Engine engine = EngineOf(strPassConnString);
+    const auto quoted = [&](const QString &name) {
+        return engine == Engine::Other ? u'"' + name + u'"' : QuotedName(DialectOf(m_database, engine), name);
+    };
     QStringList names;
     QStringList longBinaryNames;
     for (const SourceField &field : *fields) {
         QStringList &list = field.adoType == kLongVarBinary ? longBinaryNames : names;
-        list.append(u'"' + field.name + u'"');
+        list.append(quoted(field.name));
     }
     auto sentence = SplitSQLSentence(strOrgSQL);
-    sentence->fields.replace(u'*', (names + longBinaryNames).join(u','));
+    sentence->fields.replace(*star, 1, (names + longBinaryNames).join(u','));
     strRetSQL = JoinSQLSentence(*sentence);
     return true;
 }
@@ -253,7 +285,10 @@ bool colShowSQLSentences::StepBackTo(qsizetype position, QString &PassFilter, QS
     PassFilter.clear();
     PassKey.clear();
     const clsShowSQLSentence *const target = Item(position);
-    if (!target || !BringInStepWith(*target, m_connString))
+    if (!target)
+        return false;
+    const bool isInStep = BringInStepWith(*target, m_connString);
+    if (!isInStep && (EngineOf(m_connString) == Engine::Other || !m_reader->Open(m_connString)))
         return false;
     while (Count() > position)
         m_entries.Remove(Count());
@@ -274,28 +309,42 @@ bool colShowSQLSentences::BringInStepWith(const clsShowSQLSentence &entry, const
 }
 
 // The names are the database's own, so that each grid column finds its field; an alias is a name like any
-// other. The whole names are those that the statement lists, because a condition on T.Name must not become
-// one on Name.
+// other.
 bool colShowSQLSentences::FillCatalogue(const QString &connectionString, const QString &statement)
 {
     const auto fields = m_reader->Read(connectionString, statement);
     if (!fields || fields->empty())
         return false;
     m_catalogue.Clear();
-    for (const SourceField &source : *fields) {
+    const Dialect dialect = DialectOf(m_database, EngineOf(connectionString));
+    const Derivation derivation(statement, *fields, dialect);
+    const bool isText = dialect.engine == Engine::Other || derivation.isSimple();
+    for (std::size_t i = 0; i < fields->size(); ++i) {
+        const SourceField &source = fields->at(i);
         if (source.name.isEmpty())
             continue;
         QString key;
-        m_catalogue.AddFieldNameMess(source.name, QuotedFieldName(m_database, source.name), &key);
+        m_catalogue.AddFieldNameMess(source.name,
+                                     isText ? WrittenName(dialect, source.name)
+                                            : derivation.written().at(static_cast<qsizetype>(i)),
+                                     &key);
         m_catalogue.Update(key, [&](clsDataField &field) { field.FieldType = source.adoType; });
     }
+    if (isText)
+        WriteCatalogueAsText(statement);
+    return true;
+}
+
+// The whole names are those that the statement lists, because a condition on T.Name must not become one on
+// Name.
+void colShowSQLSentences::WriteCatalogueAsText(const QString &statement)
+{
     const QStringList writtenFields = WrittenFields(statement);
     for (const QString &written : writtenFields) {
         if (const clsDataField *const named = m_catalogue.Find(LastNamePart(written)))
             m_catalogue.Update(named->FieldKey, [&](clsDataField &field) { field.FieldWholeName = written; });
     }
     m_catalogue.AppendFieldRealNameByCol(writtenFields);
-    return true;
 }
 
 } // namespace KOVAVSFDataGridLib

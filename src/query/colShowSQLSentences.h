@@ -1,5 +1,6 @@
 #pragma once
 
+#include "query/Derivation.h"
 #include "query/FieldReader.h"
 #include "query/KeyedList.h"
 #include "query/SqlText.h"
@@ -72,8 +73,8 @@ public:
 
     bool GetLatestSQL(QString &PassFilter, QString *PassKey = nullptr) const;
     bool RemoveLatestSQL();
-    // One step back, and back to the first entry; the first is never removed. When the catalogue can't be
-    // brought in step with the entry to go back to, the answer is False and no entry is removed.
+    // One step back, and back to the first entry; the first is never removed. When the connection can't be
+    // opened, the answer is False and no entry is removed. A part statement that can't be read does no harm.
     bool GetPreviewSQL(QString &PassFilter, QString &PassKey);
     bool GetFirstSQL(QString &PassFilter, QString &PassKey);
 
@@ -83,8 +84,8 @@ public:
     bool GetNextSQLBySort(const QString &strNewSort, QString &strCurrentFilter) const;
     bool GetNextShowSQL(qint32 SQLType, QString &PassSQL) const;
 
-    // The statement with each "*" of its head replaced by the source's fields in double quotes, long binary
-    // fields last. A statement without "*" comes back as it is.
+    // The statement whose list is "*" alone with the source's fields in its place, in quotes, long binary
+    // fields last. Every other statement comes back as it is.
     bool GetAllFieldNameSQL(const QString &strPassConnString, const QString &strOrgSQL,
                             QString &strRetSQL) const;
 
@@ -92,6 +93,28 @@ public:
     // when the entry has some. False when the connection can't be opened or a statement's fields can't be
     // read.
     bool GetCurrSQLFieldsStatus(const QString &PassConnString = {});
+
+    // How other statements are derived from this one; nothing when it is empty or its engine isn't known.
+    // Then, and where Derivation::isTextWork says so, statements are derived as plain text.
+    std::optional<Derivation> DerivationOf(const QString &statement) const;
+    // The same where plain text work won't do.
+    std::optional<Derivation> DerivationOf(const QString &statement, DerivationStep step) const;
+
+    // Why a command can't derive from the latest entry, for a person to read; empty when it can.
+    QString WhyNot(DerivationStep step) const;
+
+    // What a condition writes for a column of a result that was opened with `shownStatement` and has these
+    // fields; `column` counts from 0. Tells columns of equal names apart. Empty when there is no such name.
+    QString GetColumnRealName(const QString &shownStatement, const QStringList &shownNames,
+                              qsizetype column) const;
+    // What a condition writes for a field of the catalogue, where that isn't left to whoever builds it.
+    QString GetConditionName(const clsDataField &field) const;
+
+    // The head of a statement with chosen fields, as AddCurrentSQL takes it for the part fields.
+    QString GetFieldsStatement(const QString &statement) const;
+
+    // The statement with this sort, unless it is sorted already or one of both is empty.
+    QString Sorted(const QString &statement, const QString &sortList) const;
 
     bool UpdateSelPartFields(const QString &strPassPartFields);
     bool UpdateSelSortFields(const QString &strPassSortFields);
@@ -119,9 +142,12 @@ public:
 private:
     const clsShowSQLSentence *Latest() const { return Item(Count()); }
     std::optional<SQLSentence> SplitLatest() const;
+    QString WithFieldsOf(const QString &statement, const QString &fieldStatement) const;
     bool StepBackTo(qsizetype position, QString &PassFilter, QString &PassKey);
     bool BringInStepWith(const clsShowSQLSentence &entry, const QString &connectionString);
     bool FillCatalogue(const QString &connectionString, const QString &statement);
+    void WriteCatalogueAsText(const QString &statement);
+    Engine EngineOf(const QString &connectionString) const;
 
     FieldReader *m_reader = nullptr;
     AllDBType m_database = dbAccess;

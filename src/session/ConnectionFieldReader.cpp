@@ -1,6 +1,7 @@
 #include "session/ConnectionFieldReader.h"
 
 #include "ado/Connection.h"
+#include "ado/EngineOf.h"
 #include "ado/Error.h"
 #include "ado/Fields.h"
 #include "query/SharedValues.h"
@@ -17,7 +18,7 @@ std::vector<SourceField> describe(const ADODB::Connection &connection, const QSt
 {
     std::vector<SourceField> fields;
     for (const ADODB::FieldInfo &info : connection.Describe(statement))
-        fields.push_back({info.name, info.type});
+        fields.push_back({info.name, info.type, info.baseTable});
     return fields;
 }
 
@@ -86,6 +87,13 @@ void ConnectionFieldReader::remember(const QString &connectionString, const QStr
     for (int i = 0; i < fields.Count(); ++i)
         known.push_back({fields.Item(i).Name(), fields.Item(i).Type()});
     m_known.insert({connectionString, statement}, known);
+}
+
+Engine ConnectionFieldReader::EngineOf(const QString &connectionString)
+{
+    if (m_result.isConnectedTo(connectionString))
+        return m_result.engine();
+    return m_ownText == connectionString ? KOVAVSFDataGridLib::EngineOf(m_own) : Engine::Other;
 }
 
 void ConnectionFieldReader::forget()

@@ -35,14 +35,13 @@ struct FindAnswer
 class Questions : public FieldChooser
 {
 public:
-    // What kind of database (AllDBType) the names that are offered belong to.
-    virtual void setDatabase(qint32 /*dbType*/) {}
-    std::optional<QString> ChooseVisibleFields(const QString &, const QStringList &,
+    std::optional<QString> ChooseVisibleFields(const QString &, const QList<OfferedField> &,
                                                const QStringList &) override
     {
         return {};
     }
-    std::optional<QString> ChooseSort(const QString &, const QStringList &, const QStringList &) override
+    std::optional<QString> ChooseSort(const QString &, const QList<OfferedField> &,
+                                      const QStringList &) override
     {
         return {};
     }

@@ -6,7 +6,6 @@
 #include "ado/EngineOf.h"
 #include "ado/Recordset.h"
 #include "query/SharedValues.h"
-#include "sql/AllDBType.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -40,8 +39,7 @@ ResultSet::Opened ResultSet::open(const QString &connectionString, const QString
                                   const Progress &progress)
 {
     auto connection = newConnection(dbType);
-    auto recordset = dbType == dbAccess ? std::make_shared<ADODB::Recordset>()
-                                        : ADODB::ConnectionFactory::instance().newRecordset(dbType);
+    auto recordset = ADODB::ConnectionFactory::recordsetFor(dbType);
 
     recordset->PutCursorLocation(ADODB::adUseClient);
     connection->PutConnectionString(connectionString);
@@ -71,8 +69,7 @@ void ResultSet::borrow(Opened opened)
 
 std::shared_ptr<ADODB::Connection> ResultSet::newConnection(qint32 dbType)
 {
-    return dbType == dbAccess ? std::make_shared<ADODB::Connection>()
-                              : ADODB::ConnectionFactory::instance().newConnection(dbType);
+    return ADODB::ConnectionFactory::connectionFor(dbType);
 }
 
 bool ResultSet::isConnectedTo(const QString &connectionString) const

@@ -83,7 +83,6 @@ void Session::showLoaded(const ResultSet::Opened &opened, const QString &stateme
     const QStringList fieldsBefore = m_window->Headings();
     m_result.replaceBy(opened);
     m_filter = std::move(manager);
-    m_questions->setDatabase(m_filter->DBType());
     texts.recordSource = statement;
     m_statement = statement;
     m_reader.remember(texts.connectionString, statement, m_result.recordset()->Fields());

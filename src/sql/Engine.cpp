@@ -4,51 +4,46 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QString withBackslashesDoubled(QString text)
-{
-    return text.replace("\\"_L1, "\\\\"_L1);
-}
-
-} // namespace
-
 Engine EngineNamed(const QString &name)
 {
-    const auto begins = [&name](QLatin1StringView word) {
-        return name.startsWith(word, Qt::CaseInsensitive);
+    struct Known
+    {
+        QLatin1StringView part;
+        Engine engine;
     };
-    if (begins("SQLite"_L1))
-        return Engine::SQLite;
-    if (begins("PostgreSQL"_L1))
-        return Engine::PostgreSQL;
-    return begins("MySQL"_L1) || begins("MariaDB"_L1) ? Engine::MySQL : Engine::Other;
+    static constexpr Known known[] = {
+        {"SQLite"_L1, Engine::SQLite}, {"PostgreSQL"_L1, Engine::PostgreSQL}, {"MySQL"_L1, Engine::MySQL},
+        {"MariaDB"_L1, Engine::MySQL}, {"SQL Server"_L1, Engine::SqlServer},  {"Oracle"_L1, Engine::Oracle},
+        {"Access"_L1, Engine::Access},
+    };
+    for (const Known &candidate : known) {
+        if (name.contains(candidate.part, Qt::CaseInsensitive))
+            return candidate.engine;
+    }
+    return name.isEmpty() ? Engine::Other : Engine::Standard;
 }
 
-bool LikesTextsOnly(Engine engine)
+Engine Dialect::likelyEngine() const
 {
-    return engine == Engine::PostgreSQL;
+    if (engine != Engine::Other)
+        return engine;
+    switch (database) {
+    case dbAccess:
+        return Engine::Access;
+    case dbOracle:
+        return Engine::Oracle;
+    case dbSQLServer:
+        return Engine::SqlServer;
+    }
+    return Engine::Standard;
 }
 
-// Texts too: a driver reports many types as text that LIKE refuses (JSON, network addresses, enumerations),
-// and casting a real text costs nothing.
-QString LikeOperand(Engine engine, const QString &field)
+Dialect DialectOf(AllDBType database, Engine engine)
 {
-    return LikesTextsOnly(engine) ? "CAST("_L1 + field + " AS TEXT)"_L1 : field;
-}
-
-QString TextLiteral(Engine engine, QString text)
-{
-    if (engine == Engine::MySQL)
-        text = withBackslashesDoubled(text);
-    return u'\'' + text.replace("'"_L1, "''"_L1) + u'\'';
-}
-
-// The backslash is LIKE's own escape on these, quite apart from what literals make of it.
-QString LikePattern(Engine engine, QString text)
-{
-    const bool isEscape = engine == Engine::PostgreSQL || engine == Engine::MySQL;
-    return isEscape ? withBackslashesDoubled(text) : text;
+    return {.database = database,
+            .isOdbc = engine != Engine::Other && engine != Engine::SQLite,
+            .escapesByBackslash = engine == Engine::MySQL,
+            .engine = engine};
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -1,27 +1,32 @@
 #pragma once
 
+#include "sql/AllDBType.h"
+
 #include <QtCore/QString>
 
-// What the engines behind a connection do differently where a condition compares values. How names are
-// written is another matter; see AllDBType.
+// Which database engine a statement is for.
 namespace KOVAVSFDataGridLib {
 
-enum class Engine { Other, SQLite, PostgreSQL, MySQL };
+// Other: not known. Standard: known, but none of those that have ways of their own.
+enum class Engine { Other, SQLite, Access, SqlServer, Oracle, PostgreSQL, MySQL, Standard };
 
-// By the name that the engine's driver gives it, whatever version or edition stands behind it. MariaDB is
-// counted as MySQL.
+// By the name that the engine's driver gives it, in any version or edition. MariaDB is MySQL here.
 Engine EngineNamed(const QString &name);
 
-// Whether LIKE stands behind texts only: others are to be cast, and pictures can't be searched at all.
-bool LikesTextsOnly(Engine engine);
+// What decides how a statement is written and read.
+struct Dialect
+{
+    AllDBType database = dbAccess; // as the host declares it
+    bool isOdbc = false;
+    // A backslash in a text begins an escape, as MariaDB has it unless it is told not to.
+    bool escapesByBackslash = false;
+    Engine engine = Engine::Other;
 
-// The field as it can stand before LIKE, whatever its type is.
-QString LikeOperand(Engine engine, const QString &field);
+    // The engine, or where that is not known the one that the declared type names.
+    Engine likelyEngine() const;
+};
 
-// The text in apostrophes, such that the engine reads exactly this text.
-QString TextLiteral(Engine engine, QString text);
-
-// The text as a pattern of LIKE that stands without ESCAPE: "%" and "_" are wildcards, a backslash is itself.
-QString LikePattern(Engine engine, QString text);
+// As far as the declared type and the engine decide it.
+Dialect DialectOf(AllDBType database, Engine engine);
 
 } // namespace KOVAVSFDataGridLib

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "sql/Engine.h"
+
 #include <QtCore/QString>
 
 namespace KOVAVSFDataGridLib {
 
-// Whether some database behind the grid (SQLite, Oracle, SQL Server, PostgreSQL, MariaDB) takes the plain
-// name for a word of its language, in any letter case. Some databases know fewer such words; enclosing one of
-// the others does no harm.
-bool IsReservedWord(const QString &name);
+// Whether the engine takes the bare name, in any letter case, for a word of its language. For Standard and
+// Other: whether any engine does.
+bool IsReservedWord(Engine engine, const QString &name);
 
 } // namespace KOVAVSFDataGridLib

@@ -1,13 +1,14 @@
 #include "sql/SimpleSelect.h"
 
-#include "ado/Texts.h"
 #include "sql/SqlScanner.h"
 
 #include <algorithm>
 
-namespace ADODB {
+namespace KOVAVSFDataGridLib {
 
 namespace {
+
+using Fault = SimpleSelect::Fault;
 
 bool isOneOf(const SqlScanner &statement, qsizetype index, std::initializer_list<QStringView> words)
 {
@@ -77,20 +78,20 @@ std::vector<SimpleSelect::Item> itemsBefore(const SqlScanner &statement, qsizety
     return items;
 }
 
-// Why what surrounds the table folds or combines rows; empty when nothing does.
-QString folding(const SqlScanner &statement)
+// How what surrounds the table folds or combines rows; None when it does neither.
+SimpleSelect::Fault folding(const SqlScanner &statement)
 {
     if (statement.isWord(1, u"DISTINCT"))
-        return Texts::readOnlyDistinct();
+        return Fault::Distinct;
     for (qsizetype i = 0; i < statement.count(); ++i) {
         if (statement.at(i).depth > 0)
             continue;
         if (isOneOf(statement, i, {u"UNION", u"EXCEPT", u"INTERSECT"}))
-            return Texts::readOnlyCompound();
+            return Fault::Compound;
         if (isOneOf(statement, i, {u"GROUP", u"HAVING"}))
-            return Texts::readOnlyGrouped();
+            return Fault::Grouped;
     }
-    return hasWindow(statement) ? Texts::readOnlyGrouped() : QString();
+    return hasWindow(statement) ? Fault::Grouped : Fault::None;
 }
 
 qsizetype indexOfFrom(const SqlScanner &statement)
@@ -107,17 +108,17 @@ SimpleSelect SimpleSelect::parse(const SqlScanner &statement)
 {
     SimpleSelect select;
     if (!statement.isWord(0, u"SELECT")) {
-        select.reason = Texts::readOnlyNoTable();
+        select.fault = Fault::NoTable;
         return select;
     }
-    select.reason = folding(statement);
-    if (!select.reason.isEmpty())
+    select.fault = folding(statement);
+    if (select.fault != Fault::None)
         return select;
 
     const qsizetype from = indexOfFrom(statement);
     qsizetype next = from + 1;
     if (!statement.isName(next)) {
-        select.reason = statement.isSymbol(next, u'(') ? Texts::readOnlyJoin() : Texts::readOnlyNoTable();
+        select.fault = statement.isSymbol(next, u'(') ? Fault::Join : Fault::NoTable;
         return select;
     }
     select.listEnd = statement.at(from - 1).end();
@@ -128,7 +129,7 @@ SimpleSelect SimpleSelect::parse(const SqlScanner &statement)
         next += 2;
     }
     if (statement.isSymbol(next, u'(')) {
-        select.reason = Texts::readOnlyNoTable(); // a function that gives rows
+        select.fault = Fault::NoTable; // a function that gives rows
         return select;
     }
     const qsizetype tableStart = statement.at(from + 1).start;
@@ -149,9 +150,9 @@ SimpleSelect SimpleSelect::parse(const SqlScanner &statement)
 
     const bool ends = next >= statement.count() || statement.isSymbol(next, u';');
     if (!ends && !isOneOf(statement, next, {u"WHERE", u"ORDER", u"LIMIT"}))
-        select.reason = Texts::readOnlyJoin();
+        select.fault = Fault::Join;
     select.items = itemsBefore(statement, from);
     return select;
 }
 
-} // namespace ADODB
+} // namespace KOVAVSFDataGridLib

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace ADODB {
+namespace KOVAVSFDataGridLib {
 
 class SqlScanner;
 
@@ -20,8 +20,9 @@ struct SimpleSelect
         QString column;   // the name of a plain column; empty for anything that is computed
     };
 
-    // Why it is no such SELECT, for a person to read; empty when it is one. The rest is set only then.
-    QString reason;
+    // Why it is no such SELECT, if it isn't. The rest is set only when it is one.
+    enum class Fault { None, Distinct, Compound, Grouped, NoTable, Join };
+    Fault fault = Fault::None;
     QString schema; // empty unless written
     QString table;
     QString alias;     // as which the statement knows the table; its own name when there is no alias
@@ -34,4 +35,4 @@ struct SimpleSelect
     static SimpleSelect parse(const SqlScanner &statement);
 };
 
-} // namespace ADODB
+} // namespace KOVAVSFDataGridLib

@@ -1,8 +1,10 @@
 #include "sql/SqlScanner.h"
 
+#include "sql/Engine.h"
+
 using namespace Qt::Literals::StringLiterals;
 
-namespace ADODB {
+namespace KOVAVSFDataGridLib {
 
 namespace {
 
@@ -17,6 +19,20 @@ QChar closingOf(QChar open)
 }
 
 } // namespace
+
+SqlDialect ReadingOf(const Dialect &dialect)
+{
+    switch (dialect.engine) {
+    case Engine::PostgreSQL:
+        return SqlDialect::PostgreSql;
+    case Engine::MySQL:
+        return SqlDialect::MySql;
+    case Engine::SqlServer:
+        return SqlDialect::SqlServer;
+    default:
+        return SqlDialect::Standard;
+    }
+}
 
 SqlScanner::SqlScanner(QString sql, SqlDialect dialect) : m_sql(std::move(sql)), m_dialect(dialect)
 {
@@ -193,4 +209,4 @@ QString SqlScanner::name(qsizetype index) const
         .replace(close + close, close);
 }
 
-} // namespace ADODB
+} // namespace KOVAVSFDataGridLib

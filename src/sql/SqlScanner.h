@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace ADODB {
+namespace KOVAVSFDataGridLib {
 
 struct SqlToken
 {
@@ -21,6 +21,9 @@ struct SqlToken
 
 // What a quote or a comment is. Standard is SQLite's reading of it.
 enum class SqlDialect { Standard, PostgreSql, MySql, SqlServer };
+
+struct Dialect;
+SqlDialect ReadingOf(const Dialect &dialect);
 
 // A statement cut into tokens: comments and blanks are left out; quoted names ("a", [a], `a`) and strings are
 // one token each, with their quotes. A quote or comment that is not closed reaches to the end. Knows no
@@ -58,4 +61,4 @@ private:
     std::vector<SqlToken> m_tokens;
 };
 
-} // namespace ADODB
+} // namespace KOVAVSFDataGridLib

@@ -16,18 +16,32 @@ using namespace Qt::StringLiterals;
 
 namespace KovaTest {
 
-std::optional<QString> PreparedUser::ChooseVisibleFields(const QString &, const QStringList &allFields,
-                                                         const QStringList &partFields)
+namespace {
+
+QStringList namesOf(const QList<OfferedField> &fields)
 {
-    fields = allFields;
+    QStringList names;
+    for (const OfferedField &field : fields)
+        names.append(field.name);
+    return names;
+}
+
+} // namespace
+
+std::optional<QString>
+PreparedUser::ChooseVisibleFields(const QString &, const QList<KOVAVSFDataGridLib::OfferedField> &allFields,
+                                  const QStringList &partFields)
+{
+    fields = namesOf(allFields);
     chosen = partFields;
     return answer;
 }
 
-std::optional<QString> PreparedUser::ChooseSort(const QString &, const QStringList &allFields,
+std::optional<QString> PreparedUser::ChooseSort(const QString &,
+                                                const QList<KOVAVSFDataGridLib::OfferedField> &allFields,
                                                 const QStringList &sortTerms)
 {
-    fields = allFields;
+    fields = namesOf(allFields);
     chosen = sortTerms;
     return answer;
 }

@@ -36,9 +36,11 @@ public:
     bool ask(const QString &, const QString &) override { return true; }
     QString askCondition(const KOVAVSFDataGridLib::ConditionRequest &) override { return condition; }
 
-    std::optional<QString> ChooseVisibleFields(const QString &, const QStringList &allFields,
+    std::optional<QString> ChooseVisibleFields(const QString &,
+                                               const QList<KOVAVSFDataGridLib::OfferedField> &allFields,
                                                const QStringList &partFields) override;
-    std::optional<QString> ChooseSort(const QString &, const QStringList &allFields,
+    std::optional<QString> ChooseSort(const QString &,
+                                      const QList<KOVAVSFDataGridLib::OfferedField> &allFields,
                                       const QStringList &sortTerms) override;
 };
 

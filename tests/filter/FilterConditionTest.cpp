@@ -8,8 +8,8 @@ using enum FilterOperator;
 
 namespace {
 
-constexpr FilterSql::Dialect Sqlite{dbAccess, false};
-constexpr FilterSql::Dialect OracleServer{dbOracle, true};
+constexpr Dialect Sqlite{dbAccess, false};
+constexpr Dialect OracleServer{dbOracle, true};
 
 FilterField field(FieldClass fieldClass)
 {
@@ -17,7 +17,7 @@ FilterField field(FieldClass fieldClass)
 }
 
 std::string sql(FieldClass fieldClass, FilterOperator op, const QString &value = {}, const QString &last = {},
-                const FilterSql::Dialect &dialect = Sqlite)
+                const Dialect &dialect = Sqlite)
 {
     const FilterCondition found = ConditionOf(dialect, {field(fieldClass), op, value, last});
     EXPECT_NE(found.sql.isEmpty(), found.fault.isEmpty());

@@ -5,6 +5,7 @@
 #include "ado/Recordset.h"
 #include "query/Conditions.h"
 #include "query/SqlText.h"
+#include "sql/Names.h"
 #include "support/TestDatabase.h"
 
 #include <gtest/gtest.h>
@@ -76,7 +77,7 @@ struct Selected : testing::Test
 
     static FilterField field(const QString &name, FieldClass fieldClass)
     {
-        return {name, FilterSql::FieldName(dialect, name), fieldClass};
+        return {name, WrittenName(dialect, name), fieldClass};
     }
 
     // As filtering a sorted result and then filtering what is found once more writes it.
@@ -110,7 +111,7 @@ struct Selected : testing::Test
         EXPECT_EQ(ids, expected) << qUtf8Printable(condition.sql);
     }
 
-    static constexpr FilterSql::Dialect dialect{dbAccess, false};
+    static constexpr Dialect dialect{dbAccess, false};
     KovaTest::TestDatabase database{QString()};
     std::shared_ptr<ADODB::Connection> connection = std::make_shared<ADODB::Connection>();
     std::vector<Row> rows;

@@ -102,3 +102,13 @@ TEST_F(Source, LetsTheDatabaseLookAtACondition)
     EXPECT_THROW(source.check(u"ID >"_s), ADODB::Error);
     EXPECT_THROW(source.check(u"Z = 1"_s), ADODB::Error);
 }
+
+TEST(FilterSource, ReadsOdbcOffTheConnectionString)
+{
+    EXPECT_TRUE(LeadsToOdbc(u"DSN=prod;UID=me"_s));
+    EXPECT_TRUE(LeadsToOdbc(u"driver={PostgreSQL Unicode};Server=db"_s));
+    EXPECT_TRUE(LeadsToOdbc(u"Provider=MSDASQL.1;FileDSN=x.dsn"_s));
+    EXPECT_FALSE(LeadsToOdbc(u"Provider=SQLite;Data Source=shop.db"_s));
+    EXPECT_FALSE(LeadsToOdbc(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=nwind.mdb"_s));
+    EXPECT_FALSE(LeadsToOdbc(u"Data Source='not closed"_s));
+}

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr FilterSql::Dialect Sqlite{dbAccess, false};
+constexpr Dialect Sqlite{dbAccess, false};
 
 // The literal; "-" when the text is no such value.
 std::string literal(FieldClass fieldClass, const QString &typed)

@@ -36,7 +36,9 @@ TEST(DialogFieldChooser, AnswersTheTickedFields)
         press(dialog, "cmdOK");
     });
     DialogFieldChooser chooser;
-    EXPECT_EQ(chooser.ChooseVisibleFields(u"T"_s, {u"A"_s, u"B"_s, u"C"_s}, {u"[B]"_s}), u"A,C"_s);
+    EXPECT_EQ(chooser.ChooseVisibleFields(
+                  u"T"_s, {{u"A"_s, u"A"_s}, {u"B"_s, u"B"_s}, {u"2023年"_s, u"[2023年]"_s}}, {u"[B]"_s}),
+              u"A,[2023年]"_s);
 }
 
 TEST(DialogFieldChooser, AnswersTheSort)
@@ -47,16 +49,17 @@ TEST(DialogFieldChooser, AnswersTheSort)
         press(dialog, "cmdOK");
     });
     DialogFieldChooser chooser;
-    EXPECT_EQ(chooser.ChooseSort(u"T"_s, {u"A"_s, u"B"_s}, {u"B DESC"_s}), u"B DESC,A"_s);
+    EXPECT_EQ(chooser.ChooseSort(u"T"_s, {{u"2023年"_s, u"[2023年]"_s}, {u"B"_s, u"B"_s}}, {u"B DESC"_s}),
+              u"B DESC,[2023年]"_s);
 }
 
 TEST(DialogFieldChooser, CancellingAnswersNothing)
 {
     DialogFieldChooser chooser;
     onDialog([](QWidget &dialog) { press(dialog, "cmdCancel"); });
-    EXPECT_FALSE(chooser.ChooseVisibleFields(u"T"_s, {u"A"_s}, {u"A"_s}));
+    EXPECT_FALSE(chooser.ChooseVisibleFields(u"T"_s, {{u"A"_s, u"A"_s}}, {u"A"_s}));
     onDialog([](QWidget &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    EXPECT_FALSE(chooser.ChooseSort(u"T"_s, {u"A"_s}, {u"A"_s}));
+    EXPECT_FALSE(chooser.ChooseSort(u"T"_s, {{u"A"_s, u"A"_s}}, {u"A"_s}));
 }
 
 TEST(DialogFieldChooser, ShowsThePictureOfTheCommandThatAsks)
@@ -73,7 +76,7 @@ TEST(DialogFieldChooser, ShowsThePictureOfTheCommandThatAsks)
         });
     };
     expectPicture(red);
-    EXPECT_FALSE(chooser.ChooseVisibleFields(u"T"_s, {u"A"_s}, {}));
+    EXPECT_FALSE(chooser.ChooseVisibleFields(u"T"_s, {{u"A"_s, u"A"_s}}, {}));
     expectPicture(green);
-    EXPECT_FALSE(chooser.ChooseSort(u"T"_s, {u"A"_s}, {}));
+    EXPECT_FALSE(chooser.ChooseSort(u"T"_s, {{u"A"_s, u"A"_s}}, {}));
 }

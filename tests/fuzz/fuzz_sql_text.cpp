@@ -4,6 +4,7 @@
 #include "query/SqlText.h"
 #include "query/clsStringComFuncs.h"
 #include "query/modQNVSFHFDataMain.h"
+#include "sql/Names.h"
 
 #include <stdexcept>
 

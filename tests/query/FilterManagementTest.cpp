@@ -185,6 +185,7 @@ TEST_F(FilterManagement, UserChoosesFields)
     EXPECT_EQ(manager.GetCurrentSQL(4), u"SELECT [B C],A from T ORDER BY A"_s);
     EXPECT_EQ(chooser.title, u"T"_s);
     EXPECT_EQ(chooser.allFields, (QStringList{u"A"_s, u"B C"_s}));
+    EXPECT_EQ(chooser.written, (QStringList{u"A"_s, u"[B C]"_s}));
     EXPECT_TRUE(chooser.present.isEmpty());
     EXPECT_EQ(manager.Remembered().currentPartFields, u"SELECT [B C],A from T ORDER BY A"_s);
     chooser.choice.reset();

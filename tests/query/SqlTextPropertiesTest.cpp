@@ -1,5 +1,6 @@
 #include "query/FieldNames.h"
 #include "query/SqlText.h"
+#include "sql/Names.h"
 
 #include "CaseFile.h"
 
@@ -94,7 +95,7 @@ TEST(SqlTextProperties, NameRoutinesTakeAnyText)
         ASSERT_LE(ShortFieldName(text).size(), text.size());
         ASSERT_LE(LastNamePart(text).size(), text.size());
         for (const AllDBType database : {dbAccess, dbOracle, dbSQLServer})
-            ASSERT_GE(QuotedFieldName(database, text).size(), text.size());
+            ASSERT_GE(WrittenName(DialectOf(database, Engine::Other), text).size(), text.size());
         for (const QString &written : WrittenFields(text))
             ASSERT_FALSE(written.contains(u','));
     }

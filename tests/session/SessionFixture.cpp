@@ -35,14 +35,16 @@ QStringList PlainWindow::shownFields() const
     return shown;
 }
 
-std::optional<QString> PlainUser::ChooseVisibleFields(const QString &, const QStringList &,
+std::optional<QString> PlainUser::ChooseVisibleFields(const QString &,
+                                                      const QList<KOVAVSFDataGridLib::OfferedField> &,
                                                       const QStringList &)
 {
     std::exchange(meanwhile, [] {})();
     return fields;
 }
 
-std::optional<QString> PlainUser::ChooseSort(const QString &, const QStringList &, const QStringList &)
+std::optional<QString> PlainUser::ChooseSort(const QString &, const QList<KOVAVSFDataGridLib::OfferedField> &,
+                                             const QStringList &)
 {
     std::exchange(meanwhile, [] {})();
     return sort;

@@ -61,9 +61,11 @@ public:
 class PlainUser final : public KOVAVSFDataGridLib::Questions
 {
 public:
-    std::optional<QString> ChooseVisibleFields(const QString &, const QStringList &,
+    std::optional<QString> ChooseVisibleFields(const QString &,
+                                               const QList<KOVAVSFDataGridLib::OfferedField> &,
                                                const QStringList &) override;
-    std::optional<QString> ChooseSort(const QString &, const QStringList &, const QStringList &) override;
+    std::optional<QString> ChooseSort(const QString &, const QList<KOVAVSFDataGridLib::OfferedField> &,
+                                      const QStringList &) override;
     void show(const QString &text) override { messages.append(text); }
     void showWithCause(const QString &text, const QString &) override { messages.append(text); }
     bool ask(const QString &, const QString &) override;

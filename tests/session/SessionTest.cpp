@@ -91,9 +91,7 @@ TEST_F(Sessions, ADeletedRecordGoesAndTheNextOneIsCurrent)
 TEST_F(Sessions, AQuestionThatAnotherLoadOvertakesEndsItsCommand)
 {
     ASSERT_TRUE(load());
-    user.meanwhile = [this] {
-        ASSERT_TRUE(load(u"select Name from T"_s));
-    };
+    user.meanwhile = [this] { ASSERT_TRUE(load(u"select Name from T"_s)); };
     user.sort = u"ID"_s;
     session->run(u"Sort"_s);
     EXPECT_EQ(statement(), u"select Name from T"_s);

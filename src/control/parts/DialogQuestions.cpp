@@ -8,21 +8,20 @@
 
 namespace KOVAVSFDataGridLib {
 
-DialogQuestions::DialogQuestions(QWidget *parent) : m_parent(parent), m_chooser(parent) {}
-
-void DialogQuestions::setDatabase(qint32 dbType)
+DialogQuestions::DialogQuestions(QWidget *parent)
+    : m_parent(parent),
+      m_chooser(parent, {toolbarIcon(CommandKeys::SelField), toolbarIcon(CommandKeys::Sort)})
 {
-    m_chooser.setDatabase(static_cast<AllDBType>(dbType));
 }
 
 std::optional<QString> DialogQuestions::ChooseVisibleFields(const QString &title,
-                                                            const QStringList &allFields,
+                                                            const QList<OfferedField> &allFields,
                                                             const QStringList &partFields)
 {
     return m_chooser.ChooseVisibleFields(title, allFields, partFields);
 }
 
-std::optional<QString> DialogQuestions::ChooseSort(const QString &title, const QStringList &allFields,
+std::optional<QString> DialogQuestions::ChooseSort(const QString &title, const QList<OfferedField> &allFields,
                                                    const QStringList &sortTerms)
 {
     return m_chooser.ChooseSort(title, allFields, sortTerms);

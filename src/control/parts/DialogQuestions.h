@@ -1,6 +1,6 @@
 #pragma once
 
-#include "control/parts/ControlFieldChooser.h"
+#include "forms/DialogFieldChooser.h"
 #include "session/Questions.h"
 
 #include <QtCore/QPointer>
@@ -15,10 +15,9 @@ public:
     // `parent` is not owned and may go before this object does.
     explicit DialogQuestions(QWidget *parent);
 
-    void setDatabase(qint32 dbType) override;
-    std::optional<QString> ChooseVisibleFields(const QString &title, const QStringList &allFields,
+    std::optional<QString> ChooseVisibleFields(const QString &title, const QList<OfferedField> &allFields,
                                                const QStringList &partFields) override;
-    std::optional<QString> ChooseSort(const QString &title, const QStringList &allFields,
+    std::optional<QString> ChooseSort(const QString &title, const QList<OfferedField> &allFields,
                                       const QStringList &sortTerms) override;
     void show(const QString &text) override;
     void showWithCause(const QString &text, const QString &cause) override;
@@ -28,7 +27,7 @@ public:
 
 private:
     QPointer<QWidget> m_parent;
-    ControlFieldChooser m_chooser;
+    DialogFieldChooser m_chooser;
 };
 
 } // namespace KOVAVSFDataGridLib

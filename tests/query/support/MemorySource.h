@@ -31,28 +31,36 @@ public:
 class MemoryChooser : public KOVAVSFDataGridLib::FieldChooser
 {
 public:
+    using Fields = QList<KOVAVSFDataGridLib::OfferedField>;
+
     std::optional<QString> choice;
     QString title;
     QStringList allFields;
+    QStringList written; // the same fields, as statements write them
     QStringList present;
 
-    std::optional<QString> ChooseVisibleFields(const QString &shownTitle, const QStringList &shownFields,
+    std::optional<QString> ChooseVisibleFields(const QString &shownTitle, const Fields &shownFields,
                                                const QStringList &partFields) override
     {
         return Choose(shownTitle, shownFields, partFields);
     }
-    std::optional<QString> ChooseSort(const QString &shownTitle, const QStringList &shownFields,
+    std::optional<QString> ChooseSort(const QString &shownTitle, const Fields &shownFields,
                                       const QStringList &sortTerms) override
     {
         return Choose(shownTitle, shownFields, sortTerms);
     }
 
 private:
-    std::optional<QString> Choose(const QString &shownTitle, const QStringList &shownFields,
+    std::optional<QString> Choose(const QString &shownTitle, const Fields &shownFields,
                                   const QStringList &shownChoice)
     {
         title = shownTitle;
-        allFields = shownFields;
+        allFields.clear();
+        written.clear();
+        for (const auto &field : shownFields) {
+            allFields.append(field.name);
+            written.append(field.written);
+        }
         present = shownChoice;
         return choice;
     }

@@ -51,12 +51,14 @@ class ScriptedChooser : public KOVAVSFDataGridLib::FieldChooser
 public:
     std::optional<QString> choice; // nothing cancels
 
-    std::optional<QString> ChooseVisibleFields(const QString &, const QStringList &,
+    std::optional<QString> ChooseVisibleFields(const QString &,
+                                               const QList<KOVAVSFDataGridLib::OfferedField> &,
                                                const QStringList &) override
     {
         return choice;
     }
-    std::optional<QString> ChooseSort(const QString &, const QStringList &, const QStringList &) override
+    std::optional<QString> ChooseSort(const QString &, const QList<KOVAVSFDataGridLib::OfferedField> &,
+                                      const QStringList &) override
     {
         return choice;
     }

@@ -13,6 +13,8 @@
 
 namespace ADODB {
 
+using KOVAVSFDataGridLib::SqlScanner;
+
 namespace {
 
 // To say that a query is not there would puzzle whoever sees it in Access.

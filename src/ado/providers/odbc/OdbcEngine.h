@@ -6,6 +6,8 @@
 
 namespace ADODB {
 
+using KOVAVSFDataGridLib::SqlDialect;
+
 class OdbcConnection;
 
 // What one database engine does in its own way.

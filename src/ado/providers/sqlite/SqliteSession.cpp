@@ -16,6 +16,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
 
+using KOVAVSFDataGridLib::SqlScanner;
+
 namespace {
 
 // The pragmas that only tell something; all others could change the database or the connection.

@@ -1,6 +1,7 @@
 #include "ado/providers/sqlite/SqliteTarget.h"
 
 #include "ado/Error.h"
+#include "ado/ReadOnlyReason.h"
 #include "ado/Texts.h"
 #include "ado/providers/sqlite/SqliteSession.h"
 #include "sql/SimpleSelect.h"
@@ -15,6 +16,9 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
+
+using KOVAVSFDataGridLib::SimpleSelect;
+using KOVAVSFDataGridLib::SqlScanner;
 
 namespace {
 
@@ -170,7 +174,7 @@ SqliteTarget SqliteTarget::find(const SqliteSession &session, const QString &sql
 {
     const SimpleSelect select = SimpleSelect::parse(SqlScanner(sql));
     SqliteTarget target;
-    target.whyReadOnly = select.reason;
+    target.whyReadOnly = readOnlyReason(select.fault);
     if (target.whyReadOnly.isEmpty() && !isTable(session, select))
         target.whyReadOnly = Texts::readOnlyView().arg(select.table);
     if (!target.whyReadOnly.isEmpty())

@@ -11,6 +11,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB::AccessDialect {
 
+using KOVAVSFDataGridLib::SqlScanner;
+using KOVAVSFDataGridLib::SqlToken;
+
 namespace {
 
 struct Edit

@@ -17,6 +17,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
 
+using KOVAVSFDataGridLib::SqlScanner;
+
 namespace {
 
 bool isDay(const FieldInfo &field)

@@ -10,6 +10,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
 
+using KOVAVSFDataGridLib::SqlDialect;
+using KOVAVSFDataGridLib::SqlToken;
+
 namespace {
 
 Error refusal(ProviderErrorEnum number, const QString &description)

@@ -1,8 +1,12 @@
 #pragma once
 
+namespace KOVAVSFDataGridLib {
+class SqlScanner;
+}
+
 namespace ADODB {
 
-class SqlScanner;
+using KOVAVSFDataGridLib::SqlScanner;
 
 // Throws unless the text is one statement that reads: drivers run whatever they are given, several statements
 // too, and not all of them can tell before they have. It looks at words only, so it lets wrong statements

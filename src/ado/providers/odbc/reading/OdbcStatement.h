@@ -5,10 +5,15 @@
 
 #include <optional>
 
+namespace KOVAVSFDataGridLib {
+class SqlScanner;
+}
+
 namespace ADODB {
 
+using KOVAVSFDataGridLib::SqlScanner;
+
 class OdbcQuery;
-class SqlScanner;
 struct OdbcPatience;
 
 class OdbcStatement : public Statement

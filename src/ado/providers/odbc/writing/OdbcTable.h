@@ -7,10 +7,15 @@
 #include <memory>
 #include <vector>
 
+namespace KOVAVSFDataGridLib {
+struct SimpleSelect;
+}
+
 namespace ADODB {
 
+using KOVAVSFDataGridLib::SimpleSelect;
+
 class OdbcConnection;
-struct SimpleSelect;
 
 // What the database's catalogue says about the table of a statement.
 struct OdbcTable

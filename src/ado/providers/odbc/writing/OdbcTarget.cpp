@@ -1,5 +1,6 @@
 #include "ado/providers/odbc/writing/OdbcTarget.h"
 
+#include "ado/ReadOnlyReason.h"
 #include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcEngine.h"
 #include "ado/providers/odbc/OdbcHandle.h"
@@ -12,6 +13,8 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
+
+using KOVAVSFDataGridLib::SimpleSelect;
 
 namespace {
 
@@ -60,7 +63,7 @@ OdbcTarget OdbcTarget::find(const std::shared_ptr<OdbcConnection> &connection, c
 {
     const SimpleSelect select = SimpleSelect::parse(statement);
     OdbcTarget target;
-    target.whyReadOnly = select.reason;
+    target.whyReadOnly = readOnlyReason(select.fault);
     if (!target.whyReadOnly.isEmpty())
         return target;
     const OdbcTable table = OdbcTable::find(connection, select);

@@ -5,10 +5,15 @@
 #include <memory>
 #include <vector>
 
+namespace KOVAVSFDataGridLib {
+class SqlScanner;
+}
+
 namespace ADODB {
 
+using KOVAVSFDataGridLib::SqlScanner;
+
 class OdbcConnection;
-class SqlScanner;
 struct OdbcEngine;
 
 // Where the rows of a statement can be written back to, and how one of them is found there again.

@@ -1,5 +1,3 @@
-#include "Printing.h"
-
 #include "sql/SqlScanner.h"
 
 #include <QtCore/QStringList>
@@ -8,7 +6,7 @@
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
-using ADODB::SqlScanner;
+using KOVAVSFDataGridLib::SqlScanner;
 
 namespace {
 

@@ -1,17 +1,17 @@
-#include "Printing.h"
-
-#include "ado/Texts.h"
 #include "sql/SimpleSelect.h"
 #include "sql/SqlScanner.h"
 
+#include <QtCore/QStringList>
 #include <gtest/gtest.h>
 
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace ADODB;
+using namespace KOVAVSFDataGridLib;
 
 namespace {
+
+using Fault = SimpleSelect::Fault;
 
 SimpleSelect parse(const QString &sql)
 {
@@ -47,7 +47,7 @@ TEST(SimpleSelect, FindsThePartsOfASelectOfOneTable)
     };
     for (const Accepted &c : cases) {
         const SimpleSelect select = parse(c.sql);
-        EXPECT_EQ(select.reason, QString()) << c.sql.toStdString();
+        EXPECT_EQ(select.fault, Fault::None) << c.sql.toStdString();
         EXPECT_EQ(select.schema, c.schema) << c.sql.toStdString();
         EXPECT_EQ(select.table, c.table) << c.sql.toStdString();
         EXPECT_EQ(select.alias, c.alias) << c.sql.toStdString();
@@ -59,30 +59,30 @@ TEST(SimpleSelect, FindsThePartsOfASelectOfOneTable)
 struct Refused
 {
     QString sql;
-    QString reason;
+    Fault fault;
 };
 
 TEST(SimpleSelect, SaysWhyARowCantBeFoundAgain)
 {
     const std::vector<Refused> cases{
-        {QString(), Texts::readOnlyNoTable()},
-        {u"select"_s, Texts::readOnlyNoTable()},
-        {u"select 1"_s, Texts::readOnlyNoTable()},
-        {u"select a from"_s, Texts::readOnlyNoTable()},
-        {u"values (1)"_s, Texts::readOnlyNoTable()},
-        {u"with c as (select 1) select * from c"_s, Texts::readOnlyNoTable()},
-        {u"select * from json_each('[]')"_s, Texts::readOnlyNoTable()},
-        {u"select distinct a from t"_s, Texts::readOnlyDistinct()},
-        {u"select a from t union select b from u"_s, Texts::readOnlyCompound()},
-        {u"select a from t group by a"_s, Texts::readOnlyGrouped()},
-        {u"select a from t, u"_s, Texts::readOnlyJoin()},
-        {u"select a from t x left join u on 1"_s, Texts::readOnlyJoin()},
-        {u"select a from t natural join u"_s, Texts::readOnlyJoin()},
-        {u"select a from (select a from t)"_s, Texts::readOnlyJoin()},
-        {u"select a from (t)"_s, Texts::readOnlyJoin()},
+        {QString(), Fault::NoTable},
+        {u"select"_s, Fault::NoTable},
+        {u"select 1"_s, Fault::NoTable},
+        {u"select a from"_s, Fault::NoTable},
+        {u"values (1)"_s, Fault::NoTable},
+        {u"with c as (select 1) select * from c"_s, Fault::NoTable},
+        {u"select * from json_each('[]')"_s, Fault::NoTable},
+        {u"select distinct a from t"_s, Fault::Distinct},
+        {u"select a from t union select b from u"_s, Fault::Compound},
+        {u"select a from t group by a"_s, Fault::Grouped},
+        {u"select a from t, u"_s, Fault::Join},
+        {u"select a from t x left join u on 1"_s, Fault::Join},
+        {u"select a from t natural join u"_s, Fault::Join},
+        {u"select a from (select a from t)"_s, Fault::Join},
+        {u"select a from (t)"_s, Fault::Join},
     };
     for (const Refused &c : cases)
-        EXPECT_EQ(parse(c.sql).reason, c.reason) << c.sql.toStdString();
+        EXPECT_EQ(parse(c.sql).fault, c.fault) << c.sql.toStdString();
 }
 
 TEST(SimpleSelect, TellsPlainColumnsFromWhatIsComputed)
@@ -101,10 +101,10 @@ TEST(SimpleSelect, RefusesWindowsExceptInSubqueries)
 {
     for (const QString &sql : {u"select sum(v) over () from t"_s, u"select (sum(v) over w) + 1 from t"_s,
                                u"select a from t order by row_number() over (order by a)"_s})
-        EXPECT_EQ(parse(sql).reason, Texts::readOnlyGrouped()) << sql.toStdString();
+        EXPECT_EQ(parse(sql).fault, Fault::Grouped) << sql.toStdString();
     for (const QString &sql :
          {u"select a, (select sum(v) over () from u limit 1) from t"_s, u"select over from t"_s})
-        EXPECT_EQ(parse(sql).reason, QString()) << sql.toStdString();
+        EXPECT_EQ(parse(sql).fault, Fault::None) << sql.toStdString();
 }
 
 } // namespace

@@ -1,0 +1,362 @@
+#include "query/Derivation.h"
+
+#include "query/CharText.h"
+#include "query/QueryTexts.h"
+#include "sql/Names.h"
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace CharText;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kOrderBy = u" ORDER BY "_s;
+
+// The text of the tokens with a line break before each FROM, WHERE and ORDER BY at least this deep in
+// brackets.
+QString withWordsApart(const SqlScanner &sql, TextRange tokens, int fromDepth)
+{
+    if (tokens.isEmpty())
+        return {};
+    QString text = TextOf(sql, tokens);
+    const qsizetype start = sql.at(tokens.begin).start;
+    for (qsizetype i = tokens.begin + 1; i < tokens.end; ++i) {
+        const bool isClause = sql.isWord(i, u"FROM") || sql.isWord(i, u"WHERE") ||
+                              (sql.isWord(i, u"ORDER") && sql.isWord(i + 1, u"BY"));
+        const qsizetype before = sql.at(i).start - start - 1;
+        if (isClause && sql.at(i).depth >= fromDepth && text.at(before) == u' ')
+            text[before] = u'\n';
+    }
+    return text;
+}
+
+} // namespace
+
+Derivation::Derivation(const QString &statement, const std::vector<SourceField> &fields,
+                       const Dialect &dialect)
+    : m_sql(statement, ReadingOf(dialect)), m_parts(SelectParts::of(m_sql)), m_dialect(dialect)
+{
+    nameFields(fields);
+    const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinct &&
+                        !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
+                        !m_parts.hasWindow && !m_parts.isClosed;
+    if (!isOpen) {
+        m_kind = Kind::Closed;
+        m_written.clear();
+        for (const QString &name : std::as_const(m_names))
+            m_written.append(WrittenName(m_dialect, name));
+        if (!keepsListWords())
+            m_listed = m_written;
+        return;
+    }
+    const bool isSimple = m_parts.with.isEmpty() && m_parts.listWords.isEmpty() && isFoundAsText() &&
+                          hasPlainList() && !hasEqualNames();
+    m_kind = isSimple ? Kind::Simple : Kind::Open;
+}
+
+bool Derivation::isFoundAsText() const
+{
+    const QString &text = m_sql.sql();
+    const auto isAt = [&](const QString &word, TextRange clause, qsizetype token) {
+        const qsizetype found = FindUpper(text, word);
+        return clause.isEmpty() ? found == 0 : found == m_sql.at(token).start;
+    };
+    return isAt(u" FROM "_s, m_parts.source, m_parts.source.begin - 1) &&
+           isAt(u" WHERE "_s, m_parts.where, m_parts.where.begin) &&
+           isAt(kOrderBy, m_parts.order, m_parts.order.begin);
+}
+
+bool Derivation::hasPlainList() const
+{
+    return std::all_of(m_parts.items.begin(), m_parts.items.end(), [](const SelectParts::Item &item) {
+        return item.alias.isEmpty() && (item.isStar || item.isName);
+    });
+}
+
+bool Derivation::keepsListWords() const
+{
+    return (m_parts.isDistinct || m_parts.isTop) && !m_parts.source.isEmpty() && !m_parts.isCompound &&
+           !m_parts.isGrouped && !m_parts.isLimited && !m_parts.hasWindow && !m_parts.isClosed;
+}
+
+bool Derivation::isTextWork(DerivationStep step) const
+{
+    return isSimple() && (step != DerivationStep::Fields ||
+                          std::none_of(m_parts.sort.begin(), m_parts.sort.end(), [&](const auto &term) {
+                              return m_sql.at(term.value.begin).kind == SqlToken::Kind::Number;
+                          }));
+}
+
+QString Derivation::whyNot(DerivationStep step) const
+{
+    if (!m_parts.isSelect || m_parts.isClosed)
+        return QueryTexts::NotDerived();
+    const bool isWhole = m_kind == Kind::Closed && !(step == DerivationStep::Fields && keepsListWords());
+    if (isWhole && m_names.contains(QString()))
+        return QueryTexts::UnnamedField();
+    if (isWhole && hasEqualNames()) {
+        for (const QString &name : m_names) {
+            if (m_names.count(name) > 1 || m_names.filter(name, Qt::CaseInsensitive).size() > 1)
+                return QueryTexts::EqualNames().arg(name);
+        }
+    }
+    return {};
+}
+
+QString Derivation::withCondition(const QString &condition) const
+{
+    if (!whyNot(DerivationStep::Condition).isEmpty())
+        return {};
+    SQLSentence sentence = base();
+    AddCondition(sentence, condition);
+    return JoinSQLSentence(sentence);
+}
+
+QString Derivation::withSort(const QString &sortList) const
+{
+    if (!whyNot(DerivationStep::Sort).isEmpty())
+        return {};
+    SQLSentence sentence = base();
+    sentence.order = sortList.isEmpty() ? QString() : kOrderBy + sortList;
+    return JoinSQLSentence(sentence);
+}
+
+QString Derivation::withFields(const QStringList &listEntries) const
+{
+    if (listEntries.isEmpty() || !whyNot(DerivationStep::Fields).isEmpty())
+        return {};
+    return withList(listEntries.join(u','), listEntries);
+}
+
+QString Derivation::withList(const QString &list, const QStringList &entries) const
+{
+    if (isTextWork(DerivationStep::Fields))
+        return u"SELECT "_s + list + GetFromPart(m_sql.sql());
+    SQLSentence sentence = base();
+    if (isSimple())
+        sentence.order = stableSort();
+    if (m_kind == Kind::Closed && keepsListWords())
+        sentence = {headWith(list), withWordsApart(m_sql, m_parts.where, 1), sortWithin(entries)};
+    else
+        sentence.fields = prefix() + u"SELECT "_s + list + u" FROM "_s + source();
+    return JoinSQLSentence(sentence);
+}
+
+QString Derivation::withoutConditions() const
+{
+    if (!m_parts.isSelect)
+        return {};
+    if (m_kind != Kind::Closed) {
+        const SQLSentence sentence = base();
+        return ComposeSQL(sentence.fields, {}, sentence.order);
+    }
+    // In each SELECT that is united; a table of WITH belongs to what is selected from.
+    QString text = m_sql.sql();
+    for (qsizetype i = m_sql.count() - 1; i >= m_parts.with.end; --i) {
+        if (m_sql.at(i).depth > 0 || !m_sql.isWord(i, u"WHERE") || m_sql.isSymbol(i - 1, u'.'))
+            continue;
+        qsizetype next = i + 1;
+        while (next < m_sql.count() && !endsCondition(next))
+            ++next;
+        const qsizetype end = next < m_sql.count() ? m_sql.at(next).start : m_sql.withoutSemicolon().size();
+        text.remove(m_sql.at(i).start, end - m_sql.at(i).start);
+    }
+    return text;
+}
+
+bool Derivation::hasAsTable(const Derivation &other) const
+{
+    return m_parts.isDerivedTable && other.m_kind == Kind::Closed && source() == other.source();
+}
+
+QString Derivation::withSource(const Derivation &other) const
+{
+    const SQLSentence sentence = base();
+    return ComposeSQL(prefix() + u"SELECT "_s + listText() + u" FROM "_s + other.asTable(), {},
+                      CharText::Trim(sentence.order));
+}
+
+bool Derivation::endsCondition(qsizetype token) const
+{
+    static constexpr QStringView words[] = {u"GROUP",     u"HAVING", u"WINDOW", u"UNION",  u"EXCEPT",
+                                            u"INTERSECT", u"MINUS",  u"ORDER",  u"LIMIT",  u"OFFSET",
+                                            u"FETCH",     u"FOR",    u"OPTION", u"CONNECT"};
+    return m_sql.at(token).depth == 0 &&
+           std::any_of(std::begin(words), std::end(words),
+                       [&](QStringView word) { return m_sql.isWord(token, word); });
+}
+
+QString Derivation::withFieldsOf(const Derivation &fieldStatement) const
+{
+    if (!whyNot(DerivationStep::Fields).isEmpty())
+        return {};
+    if (m_sql.sql() == fieldStatement.m_sql.sql())
+        return m_sql.sql();
+    const auto sameText = [](const QString &a, const QString &b) {
+        return a.simplified().compare(b.simplified(), Qt::CaseInsensitive) == 0;
+    };
+    const bool hasWords = m_kind == Kind::Closed && keepsListWords() && fieldStatement.keepsListWords();
+    if (m_kind != Kind::Closed && sameText(source(), fieldStatement.source()))
+        return withList(fieldStatement.m_kind == Kind::Closed ? u"*"_s : fieldStatement.listText(), {});
+    if (hasWords &&
+        sameText(TextOf(m_sql, m_parts.source), TextOf(fieldStatement.m_sql, fieldStatement.m_parts.source)))
+        return withList(fieldStatement.listText(), SplitList(fieldStatement.listText()));
+    QStringList entries;
+    for (const QString &name : fieldStatement.m_names) {
+        const qsizetype at = m_names.indexOf(name);
+        if (at >= 0 && !m_listed.at(at).isEmpty())
+            entries.append(m_listed.at(at));
+        else if (m_parts.isDerivedTable)
+            entries.append(WrittenName(m_dialect, name)); // of the table, though not of the list
+        else
+            return {};
+    }
+    return withFields(entries);
+}
+
+QString Derivation::fieldsStatement() const
+{
+    if (m_kind == Kind::Closed)
+        return keepsListWords() ? headWith(listText()) : m_sql.sql();
+    return base().fields;
+}
+
+bool Derivation::needsFields() const
+{
+    return m_parts.sources.size() > 1 && std::any_of(m_parts.items.begin(), m_parts.items.end(),
+                                                     [](const auto &item) { return item.isStar; });
+}
+
+const QStringList &Derivation::listedIn(const Derivation &derived) const
+{
+    const bool isTableThere = derived.m_parts.isDerivedTable && !m_parts.isDerivedTable;
+    return m_kind == Kind::Closed && isTableThere ? m_written : m_listed;
+}
+
+QString Derivation::source() const
+{
+    return m_kind == Kind::Closed ? asTable() : withWordsApart(m_sql, m_parts.source, 1);
+}
+
+QString Derivation::prefix() const
+{
+    if (m_parts.with.isEmpty())
+        return {};
+    return withWordsApart(m_sql, m_parts.with, 0) + u' ';
+}
+
+SQLSentence Derivation::base() const
+{
+    switch (m_kind) {
+    case Kind::Simple:
+        return *SplitSQLSentence(m_sql.sql());
+    case Kind::Open:
+        return {headWith(listText()), withWordsApart(m_sql, m_parts.where, 1), stableSort()};
+    case Kind::Closed:
+        break;
+    }
+    const QString sort = outerSort();
+    return {prefix() + u"SELECT * FROM "_s + asTable(), {}, sort.isEmpty() ? QString() : kOrderBy + sort};
+}
+
+QString Derivation::headWith(const QString &list) const
+{
+    const QString words = TextOf(m_sql, m_parts.listWords);
+    return prefix() + u"SELECT "_s + (words.isEmpty() ? QString() : words + u' ') + list + u" FROM "_s +
+           withWordsApart(m_sql, m_parts.source, 1);
+}
+
+// Engines call a field without an alias by its text, which therefore stays.
+QString Derivation::listText() const
+{
+    const bool isNamed =
+        std::all_of(m_parts.items.begin(), m_parts.items.end(), [](const SelectParts::Item &item) {
+            return item.isStar || item.isName || !item.alias.isEmpty();
+        });
+    return isNamed ? withWordsApart(m_sql, m_parts.list, 1) : TextOf(m_sql, m_parts.list);
+}
+
+QString Derivation::asTable() const
+{
+    qsizetype end = m_sql.count();
+    while (m_sql.isSymbol(end - 1, u';'))
+        --end;
+    const TextRange all{m_parts.with.end, end};
+    QString inner = withWordsApart(m_sql, all, 0);
+    // A limit takes its rows in an order. Any other order is for what comes outside.
+    const bool isOrdered = !m_parts.order.isEmpty() && !m_parts.isLimited && !m_parts.isTop;
+    if (isOrdered && (!outerSort().isEmpty() || m_dialect.likelyEngine() == Engine::SqlServer)) {
+        const qsizetype start = m_sql.at(all.begin).start;
+        const qsizetype from = m_sql.at(m_parts.order.begin).start - start;
+        inner.remove(from, m_sql.at(m_parts.order.end - 1).end() - start - from);
+    }
+    // A comment to the end of its line must not swallow the bracket.
+    return u"(\n"_s + inner.trimmed() + u"\n)"_s +
+           (m_dialect.likelyEngine() == Engine::Oracle ? u" Q"_s : u" AS Q"_s);
+}
+
+QString Derivation::outerSort() const
+{
+    QStringList terms;
+    for (const SelectParts::Item &term : m_parts.sort) {
+        const int field = fieldOfTerm(term);
+        if (field < 0)
+            return {};
+        const QString direction = TextOf(m_sql, {term.value.end, term.tokens.end});
+        terms.append(WrittenName(m_dialect, m_names.at(field)) +
+                     (direction.isEmpty() ? QString() : u' ' + direction));
+    }
+    return terms.join(u',');
+}
+
+// Positions and aliases in a sort mean entries of the list, which may change.
+QString Derivation::stableSort() const
+{
+    QStringList terms;
+    bool isChanged = false;
+    for (const SelectParts::Item &term : m_parts.sort) {
+        const bool isNumber = m_sql.at(term.value.begin).kind == SqlToken::Kind::Number;
+        const int field = isNumber || term.isName ? fieldOfTerm(term) : -1;
+        const bool isMoved =
+            field >= 0 && m_itemOfField[static_cast<std::size_t>(field)] >= 0 &&
+            !m_written.at(field).isEmpty() &&
+            (isNumber ||
+             !m_parts.items[static_cast<std::size_t>(m_itemOfField[static_cast<std::size_t>(field)])]
+                  .alias.isEmpty());
+        const QString direction = TextOf(m_sql, {term.value.end, term.tokens.end});
+        terms.append(!isMoved ? TextOf(m_sql, term.tokens)
+                              : m_written.at(field) + (direction.isEmpty() ? QString() : u' ' + direction));
+        isChanged = isChanged || isMoved;
+    }
+    if (m_parts.order.isEmpty())
+        return {};
+    return isChanged ? kOrderBy + terms.join(u',') : u' ' + withWordsApart(m_sql, m_parts.order, 1);
+}
+
+// With DISTINCT, a sort can only be by fields of the list.
+QString Derivation::sortWithin(const QStringList &entries) const
+{
+    QStringList terms;
+    for (const SelectParts::Item &term : m_parts.sort) {
+        const int field = fieldOfTerm(term);
+        const QString direction = TextOf(m_sql, {term.value.end, term.tokens.end});
+        if (field < 0 && !m_parts.isDistinct)
+            terms.append(TextOf(m_sql, term.tokens));
+        else if (field >= 0 && (!m_parts.isDistinct || entries.contains(m_listed.at(field))))
+            terms.append(valueOf(field) + (direction.isEmpty() ? QString() : u' ' + direction));
+    }
+    return terms.isEmpty() ? QString() : kOrderBy + terms.join(u',');
+}
+
+QString Derivation::valueOf(int field) const
+{
+    const int item = m_itemOfField[static_cast<std::size_t>(field)];
+    if (item < 0 || m_parts.items[static_cast<std::size_t>(item)].isStar)
+        return WrittenName(m_dialect, m_names.at(field));
+    return TextOf(m_sql, m_parts.items[static_cast<std::size_t>(item)].value);
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,116 @@
+#pragma once
+
+#include "query/FieldReader.h"
+#include "query/SqlText.h"
+#include "sql/SelectParts.h"
+
+#include <QtCore/QStringList>
+
+// Statements derived from any SELECT, such that the rows are right.
+namespace KOVAVSFDataGridLib {
+
+// What a command does to a statement; see Derivation::whyNot.
+enum class DerivationStep { Condition, Sort, Fields };
+
+// Derives from one statement. Three kinds of statement are told apart:
+//
+// simple  SELECT list FROM … [WHERE …] [ORDER BY …] with plain names in its list, all of them different,
+// whose
+//         keywords can be found as SqlText.h does it. Such statements are derived from as plain text.
+// open    the same clauses, but with aliases, expressions, equal names or sub-selects. Conditions and sorts
+//         name a field by its value, so that the statement stays one over its tables and its rows can still
+//         be written back.
+// closed  all others: a condition on their result needs them as a table, `SELECT * FROM (…) AS Q`.
+//
+// Statements are on one line, as JoinStatementLines leaves them. In what is derived from an open or closed
+// statement, the words FROM, WHERE and ORDER BY of inner SELECTs follow a line break, so that SqlText.h finds
+// only the outer ones.
+class Derivation
+{
+public:
+    // `fields` are those of the statement's result, in its order; none when they can't be read.
+    Derivation(const QString &statement, const std::vector<SourceField> &fields, const Dialect &dialect);
+
+    bool isSimple() const { return m_kind == Kind::Simple; }
+    // Whether plain text work takes this step rightly: with a simple statement, unless the list changes and
+    // the sort counts its entries.
+    bool isTextWork(DerivationStep step) const;
+
+    // Whether it has a sort of its own.
+    bool isSorted() const { return !m_parts.order.isEmpty(); }
+    // Whether only the result's fields tell what kind it is: a star can bring equal names from several
+    // tables.
+    bool needsFields() const;
+
+    // For each field of the result, what a condition or a sort writes; empty where no name is unmistakable.
+    const QStringList &written() const { return m_written; }
+    // For each field of the result, what a SELECT list writes.
+    const QStringList &listed() const { return m_listed; }
+
+    // Why this step isn't possible, for a person to read; empty when it is.
+    QString whyNot(DerivationStep step) const;
+
+    // The statement with one more condition, with this sort instead of its own (an empty one removes it),
+    // with these list entries out of listed(), and without conditions, grouping kept. Empty when whyNot() has
+    // a reason.
+    QString withCondition(const QString &condition) const;
+    QString withSort(const QString &sortList) const;
+    QString withFields(const QStringList &listEntries) const;
+    QString withoutConditions() const;
+
+    // Whether this statement was derived from `other` as a table, and the same over another table instead,
+    // without conditions.
+    bool hasAsTable(const Derivation &other) const;
+    QString withSource(const Derivation &other) const;
+
+    // The statement with the fields of `fieldStatement`, which selects from the same tables: as they are
+    // listed there, or, where this statement is derived from that one as a whole, by their names. Empty when
+    // that can't be done.
+    QString withFieldsOf(const Derivation &fieldStatement) const;
+
+    // What this statement's fields are called in the list of one that was derived from it: as listed(), or,
+    // where that one has this as a table, by their names.
+    const QStringList &listedIn(const Derivation &derived) const;
+
+    // The fields of this statement as a statement that withFieldsOf() takes: without conditions and sort.
+    QString fieldsStatement() const;
+
+    // What follows FROM, and what has to stand in front of SELECT, in a statement over the same rows before
+    // any condition: SELECT DISTINCT written() FROM source().
+    QString source() const;
+    QString prefix() const;
+
+private:
+    enum class Kind { Simple, Open, Closed };
+
+    void nameFields(const std::vector<SourceField> &fields);
+    void nameOpenFields(const std::vector<SourceField> &fields);
+    QString qualified(const SourceField &field, const QString &qualifier, bool isUnique) const;
+    bool isFoundAsText() const;
+    bool hasPlainList() const;
+    bool hasEqualNames() const;
+    // The clauses that the steps work on: those of this statement, or of one that has it as a table.
+    SQLSentence base() const;
+    QString asTable() const;
+    QString listText() const;
+    QString outerSort() const;
+    QString stableSort() const;
+    int fieldOfTerm(const SelectParts::Item &term) const;
+    QString sortWithin(const QStringList &entries) const;
+    QString valueOf(int field) const;
+    bool keepsListWords() const;
+    bool endsCondition(qsizetype token) const;
+    QString headWith(const QString &list) const;
+    QString withList(const QString &list, const QStringList &entries) const;
+
+    SqlScanner m_sql;
+    SelectParts m_parts;
+    Dialect m_dialect;
+    Kind m_kind = Kind::Closed;
+    QStringList m_names;
+    QStringList m_written;
+    QStringList m_listed;
+    std::vector<int> m_itemOfField; // the list entry that gives the field
+};
+
+} // namespace KOVAVSFDataGridLib

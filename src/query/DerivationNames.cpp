@@ -1,0 +1,189 @@
+#include "query/Derivation.h"
+
+#include "sql/Names.h"
+
+#include <algorithm>
+
+// How the fields of a result are named in statements derived from it.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isSame(const QString &a, const QString &b)
+{
+    return a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+qsizetype countOf(const QStringList &names, const QString &name)
+{
+    return std::count_if(names.cbegin(), names.cend(),
+                         [&](const QString &other) { return isSame(name, other); });
+}
+
+bool isOneCall(const SqlScanner &sql, TextRange value)
+{
+    const qsizetype open = sql.isSymbol(value.begin, u'(') ? value.begin : value.begin + 1;
+    if (!sql.isSymbol(open, u'(') || !sql.isSymbol(value.end - 1, u')'))
+        return false;
+    for (qsizetype i = open + 1; i < value.end - 1; ++i) {
+        if (sql.at(i).depth <= sql.at(open).depth)
+            return false;
+    }
+    return true;
+}
+
+// The value as it can stand beside an operator.
+QString operand(const SqlScanner &sql, const SelectParts::Item &item)
+{
+    const QString text = TextOf(sql, item.value);
+    const bool isOneToken = item.value.end - item.value.begin == 1;
+    const SqlToken::Kind kind = sql.at(item.value.begin).kind;
+    // A sort takes a number for a position, and some engines refuse other constants.
+    if (isOneToken && !item.isName &&
+        (kind == SqlToken::Kind::Number || kind == SqlToken::Kind::String || kind == SqlToken::Kind::Word))
+        return u"(CASE WHEN 1=1 THEN %1 END)"_s.arg(text);
+    const bool isWhole = item.isName || isOneToken || isOneCall(sql, item.value);
+    return isWhole ? text : u'(' + text + u')';
+}
+
+} // namespace
+
+void Derivation::nameFields(const std::vector<SourceField> &fields)
+{
+    std::vector<SourceField> all = fields;
+    const bool hasStar = std::any_of(m_parts.items.begin(), m_parts.items.end(),
+                                     [](const SelectParts::Item &item) { return item.isStar; });
+    if (all.empty() && !hasStar) {
+        for (const SelectParts::Item &item : m_parts.items) {
+            const bool isBare = item.alias.isEmpty() && item.isName;
+            all.push_back({isBare ? m_sql.name(item.value.end - 1) : item.alias, 0});
+        }
+    }
+    for (const SourceField &field : all)
+        m_names.append(field.name);
+
+    // A single star gives what the other entries don't; several can't be told apart by their number.
+    const auto stars = std::count_if(m_parts.items.begin(), m_parts.items.end(),
+                                     [](const SelectParts::Item &item) { return item.isStar; });
+    const auto inStar = static_cast<qsizetype>(all.size() + 1) - static_cast<qsizetype>(m_parts.items.size());
+    m_itemOfField.assign(all.size(), -1);
+    std::size_t field = 0;
+    for (std::size_t item = 0; item < m_parts.items.size() && field < all.size(); ++item) {
+        if (m_parts.items[item].isStar && (stars > 1 || inStar < 0))
+            break;
+        const qsizetype count = m_parts.items[item].isStar ? inStar : 1;
+        for (qsizetype i = 0; i < count && field < all.size(); ++i)
+            m_itemOfField[field++] = static_cast<int>(item);
+    }
+    nameOpenFields(all);
+}
+
+void Derivation::nameOpenFields(const std::vector<SourceField> &fields)
+{
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        const int at = m_itemOfField[i];
+        const bool isUnique = countOf(m_names, fields[i].name) == 1;
+        if (at < 0 || m_parts.items[static_cast<std::size_t>(at)].isStar) {
+            QString qualifier;
+            if (at >= 0) {
+                const TextRange value = m_parts.items[static_cast<std::size_t>(at)].value;
+                if (value.end - value.begin > 2)
+                    qualifier = TextOf(m_sql, {value.begin, value.end - 2});
+            }
+            m_written.append(qualified(fields[i], qualifier, isUnique));
+            m_listed.append(m_written.last());
+            continue;
+        }
+        const SelectParts::Item &item = m_parts.items[static_cast<std::size_t>(at)];
+        QString written = operand(m_sql, item);
+        // A sort takes a bare name for another field's alias before it looks at the table.
+        const bool isAliasOfOther =
+            item.isName && item.value.end - item.value.begin == 1 &&
+            std::any_of(m_parts.items.begin(), m_parts.items.end(), [&](const SelectParts::Item &other) {
+                return &other != &item && isSame(other.alias, m_sql.name(item.value.begin));
+            });
+        if (isAliasOfOther && m_parts.sources.size() == 1)
+            written = m_parts.sources.front().writtenAlias + u'.' + written;
+        m_written.append(written);
+        m_listed.append(TextOf(m_sql, item.tokens));
+    }
+}
+
+QString Derivation::qualified(const SourceField &field, const QString &qualifier, bool isUnique) const
+{
+    const QString name = WrittenName(m_dialect, field.name);
+    if (!qualifier.isEmpty())
+        return qualifier + u'.' + name;
+    if (isUnique)
+        return name;
+    const SelectParts::Source *source = nullptr;
+    for (const SelectParts::Source &candidate : m_parts.sources) {
+        if (!isSame(candidate.table, field.table))
+            continue;
+        if (source)
+            return {}; // a table joined to itself
+        source = &candidate;
+    }
+    return source ? source->writtenAlias + u'.' + name : QString();
+}
+
+bool Derivation::hasEqualNames() const
+{
+    return std::any_of(m_names.cbegin(), m_names.cend(),
+                       [&](const QString &name) { return countOf(m_names, name) > 1; });
+}
+
+int Derivation::fieldOfTerm(const SelectParts::Item &term) const
+{
+    const qsizetype count = term.value.end - term.value.begin;
+    if (count == 1 && m_sql.at(term.value.begin).kind == SqlToken::Kind::Number) {
+        const int position = m_sql.text(term.value.begin).toInt();
+        return position >= 1 && position <= m_names.size() ? position - 1 : -1;
+    }
+    const auto fieldWhere = [&](const auto &isIt) {
+        for (std::size_t i = 0; i < m_itemOfField.size(); ++i) {
+            if (isIt(i, m_itemOfField[i] < 0 ? nullptr
+                                             : &m_parts.items[static_cast<std::size_t>(m_itemOfField[i])]))
+                return static_cast<int>(i);
+        }
+        return -1;
+    };
+    if (term.isName && count == 1) {
+        const QString name = m_sql.name(term.value.begin);
+        const int byAlias = fieldWhere(
+            [&](std::size_t, const SelectParts::Item *item) { return item && isSame(item->alias, name); });
+        if (byAlias >= 0)
+            return byAlias;
+        if (countOf(m_names, name) == 1)
+            return fieldWhere([&](std::size_t i, const SelectParts::Item *item) {
+                return isSame(m_names.at(static_cast<qsizetype>(i)), name) &&
+                       (!item || item->alias.isEmpty() || isSame(item->alias, name));
+            });
+    }
+    const auto tokensOf = [&](TextRange range) {
+        QStringList tokens;
+        for (qsizetype i = range.begin; i < range.end; ++i)
+            tokens.append(m_sql.at(i).kind == SqlToken::Kind::Word ? m_sql.text(i).toString().toUpper()
+                                                                   : m_sql.text(i).toString());
+        return tokens;
+    };
+    const QStringList wanted = tokensOf(term.value);
+    const int byValue = fieldWhere([&](std::size_t, const SelectParts::Item *item) {
+        return item && !item->isStar && tokensOf(item->value) == wanted;
+    });
+    if (byValue >= 0 || !term.isName)
+        return byValue;
+    // T.Name and Name are one column where the result has no other of that name.
+    const QString last = m_sql.name(term.value.end - 1);
+    if (countOf(m_names, last) != 1)
+        return -1;
+    return fieldWhere([&](std::size_t i, const SelectParts::Item *item) {
+        return isSame(m_names.at(static_cast<qsizetype>(i)), last) &&
+               (!item || item->isStar || (item->isName && item->alias.isEmpty()));
+    });
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,101 @@
+#include "query/colShowSQLSentences.h"
+
+#include <algorithm>
+
+// Where statements are derived by their clauses instead of as plain text.
+
+namespace KOVAVSFDataGridLib {
+
+Engine colShowSQLSentences::EngineOf(const QString &connectionString) const
+{
+    return m_reader ? m_reader->EngineOf(connectionString) : Engine::Other;
+}
+
+std::optional<Derivation> colShowSQLSentences::DerivationOf(const QString &statement) const
+{
+    if (statement.isEmpty() || !m_reader)
+        return std::nullopt;
+    Engine engine = EngineOf(m_connString);
+    if (engine == Engine::Other) {
+        // Simple statements don't need to know, so nobody waits for a connection.
+        if (Derivation(statement, {}, DialectOf(m_database, engine)).isSimple() ||
+            !m_reader->Open(m_connString))
+            return std::nullopt;
+        engine = EngineOf(m_connString);
+        if (engine == Engine::Other)
+            return std::nullopt;
+    }
+    const Dialect dialect = DialectOf(m_database, engine);
+    Derivation byText(statement, {}, dialect);
+    if (byText.isSimple() && !byText.needsFields())
+        return byText;
+    return Derivation(statement, m_reader->Read(m_connString, statement).value_or(std::vector<SourceField>()),
+                      dialect);
+}
+
+std::optional<Derivation> colShowSQLSentences::DerivationOf(const QString &statement,
+                                                            DerivationStep step) const
+{
+    auto derivation = DerivationOf(statement);
+    return derivation && !derivation->isTextWork(step) ? std::move(derivation) : std::nullopt;
+}
+
+QString colShowSQLSentences::WhyNot(DerivationStep step) const
+{
+    const clsShowSQLSentence *const latest = Latest();
+    const auto derivation = latest ? DerivationOf(latest->ShowSQL, step) : std::nullopt;
+    return derivation ? derivation->whyNot(step) : QString();
+}
+
+QString colShowSQLSentences::GetColumnRealName(const QString &shownStatement, const QStringList &shownNames,
+                                               qsizetype column) const
+{
+    if (column < 0 || column >= shownNames.size())
+        return {};
+    const auto derivation = DerivationOf(shownStatement, DerivationStep::Condition);
+    if (!derivation || derivation->written().size() != shownNames.size())
+        return GetSelFieldRealName(shownNames.at(column));
+    return derivation->written().at(column);
+}
+
+QString colShowSQLSentences::GetConditionName(const clsDataField &field) const
+{
+    const clsShowSQLSentence *const latest = Latest();
+    return latest && DerivationOf(latest->AllFields, DerivationStep::Condition) ? field.FieldWholeName
+                                                                                : QString();
+}
+
+QString colShowSQLSentences::GetFieldsStatement(const QString &statement) const
+{
+    if (const auto derivation = DerivationOf(statement, DerivationStep::Fields))
+        return derivation->fieldsStatement();
+    const auto sentence = SplitSQLSentence(statement);
+    return sentence ? sentence->fields : QString();
+}
+
+QString colShowSQLSentences::Sorted(const QString &statement, const QString &sortList) const
+{
+    const auto derivation = sortList.isEmpty() ? std::nullopt : DerivationOf(statement, DerivationStep::Sort);
+    if (!derivation)
+        return AppendOrderWord(statement, sortList);
+    return derivation->isSorted() ? statement : derivation->withSort(sortList);
+}
+
+QString colShowSQLSentences::WithFieldsOf(const QString &statement, const QString &fieldStatement) const
+{
+    const auto derivation = DerivationOf(statement);
+    const auto fields = DerivationOf(fieldStatement);
+    const bool isText =
+        !derivation || !fields || (derivation->isTextWork(DerivationStep::Fields) && fields->isSimple());
+    if (isText)
+        return ReplaceSQLFieldPart(statement, fieldStatement);
+    const QString derived = derivation->withFieldsOf(*fields);
+    if (!derived.isEmpty() || fieldStatement == Latest()->AllFields)
+        return derived;
+    // What is shown may lack a field that the whole has.
+    const auto all = DerivationOf(Latest()->AllFields);
+    const auto whole = all ? DerivationOf(derivation->withFieldsOf(*all)) : std::nullopt;
+    return whole ? whole->withFieldsOf(*fields) : QString();
+}
+
+} // namespace KOVAVSFDataGridLib

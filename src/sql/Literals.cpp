@@ -1,0 +1,93 @@
+#include "sql/Literals.h"
+
+#include <QtCore/QRegularExpression>
+#include <QtCore/QStringList>
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString quoted(QString text)
+{
+    return u'\'' + text.replace(u'\'', "''"_L1) + u'\'';
+}
+
+// SQL Server would squeeze anything else through its own code page first.
+bool needsUnicode(const Dialect &dialect, const QString &text)
+{
+    const bool isSqlServer = dialect.engine == Engine::SqlServer ||
+                             (dialect.engine == Engine::Other && dialect.isOdbc &&
+                              dialect.database == dbSQLServer && !dialect.escapesByBackslash);
+    return isSqlServer && std::any_of(text.begin(), text.end(), [](QChar c) { return c > u'~'; });
+}
+
+QStringList piecesWithoutClauseWords(const QString &text)
+{
+    static const QRegularExpression insideOfWord(
+        u"(?<=F)ROM |(?<=W)HERE |(?<=O)RDER BY |(?i:(?<= o)rder by )"_s);
+    QStringList pieces;
+    qsizetype begin = 0;
+    for (auto found = insideOfWord.globalMatch(text); found.hasNext();) {
+        const qsizetype end = found.next().capturedStart();
+        pieces.append(text.sliced(begin, end - begin));
+        begin = end;
+    }
+    pieces.append(text.sliced(begin));
+    return pieces;
+}
+
+// `kind` is the letter or letters of the ODBC escape: d, t or ts.
+QString momentText(const Dialect &dialect, QLatin1StringView kind, const QString &text)
+{
+    return dialect.isOdbc ? u'{' + kind + u' ' + quoted(text) + u'}' : quoted(text);
+}
+
+QString timeText(QTime time)
+{
+    return time.toString(time.msec() == 0 ? u"HH:mm:ss"_s : u"HH:mm:ss.zzz"_s);
+}
+
+} // namespace
+
+QString TextLiteral(const Dialect &dialect, QString text)
+{
+    if (dialect.escapesByBackslash)
+        text.replace(u'\\', "\\\\"_L1);
+    return needsUnicode(dialect, text) ? u'N' + quoted(text) : quoted(text);
+}
+
+QString TextWithoutClauses(const Dialect &dialect, const QString &text)
+{
+    QString joined;
+    for (const QString &piece : piecesWithoutClauseWords(text)) {
+        const QString literal = TextLiteral(dialect, piece);
+        if (joined.isEmpty())
+            joined = literal;
+        else if (dialect.isOdbc)
+            joined = u"{fn CONCAT(%1, %2)}"_s.arg(joined, literal);
+        else
+            joined = u"(%1 || %2)"_s.arg(joined, literal);
+    }
+    return joined;
+}
+
+QString DateLiteral(const Dialect &dialect, QDate date)
+{
+    return momentText(dialect, "d"_L1, date.toString(Qt::ISODate));
+}
+
+QString TimeLiteral(const Dialect &dialect, QTime time)
+{
+    return momentText(dialect, "t"_L1, timeText(time));
+}
+
+QString MomentLiteral(const Dialect &dialect, const QDateTime &moment)
+{
+    return momentText(dialect, "ts"_L1, moment.date().toString(Qt::ISODate) + u' ' + timeText(moment.time()));
+}
+
+} // namespace KOVAVSFDataGridLib

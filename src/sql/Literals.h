@@ -1,0 +1,22 @@
+#pragma once
+
+#include "sql/Engine.h"
+
+#include <QtCore/QDateTime>
+#include <QtCore/QString>
+
+// How values are written in statements.
+namespace KOVAVSFDataGridLib {
+
+// The text in apostrophes, such that the engine reads exactly this text.
+QString TextLiteral(const Dialect &dialect, QString text);
+
+// The same, as several literals put together where the text holds words that begin a clause: statements are
+// taken apart at these words wherever they occur.
+QString TextWithoutClauses(const Dialect &dialect, const QString &text);
+
+QString DateLiteral(const Dialect &dialect, QDate date);
+QString TimeLiteral(const Dialect &dialect, QTime time);
+QString MomentLiteral(const Dialect &dialect, const QDateTime &moment);
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,139 @@
+#include "sql/Names.h"
+
+#include "sql/ReservedWords.h"
+
+#include <QtCore/QList>
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool hasCapital(const QString &name)
+{
+    return std::any_of(name.cbegin(), name.cend(), [](QChar c) { return c >= u'A' && c <= u'Z'; });
+}
+
+bool hasSmall(const QString &name)
+{
+    return std::any_of(name.cbegin(), name.cend(), [](QChar c) { return c >= u'a' && c <= u'z'; });
+}
+
+// Elsewhere "#" begins a comment or a date, or is an operator.
+bool readsNumberSign(Engine engine)
+{
+    return engine == Engine::SqlServer || engine == Engine::Oracle;
+}
+
+// A bare name is read in capitals by Oracle and in small letters by PostgreSQL. Where only the declared type
+// speaks for such an engine, it may be either.
+bool losesItsCase(const Dialect &dialect, const QString &name)
+{
+    if (dialect.engine == Engine::PostgreSQL)
+        return hasCapital(name);
+    if (dialect.engine == Engine::Oracle)
+        return hasSmall(name);
+    const bool folds = dialect.database == dbOracle;
+    return folds && hasCapital(name) && hasSmall(name);
+}
+
+} // namespace
+
+bool IsPlainName(const QString &name)
+{
+    const auto letters = name.toUcs4();
+    const auto isInner = [](uint c) {
+        return QChar::isLetterOrNumber(c) || c == '_' || c == '$' || c == '#';
+    };
+    return !letters.isEmpty() && (QChar::isLetter(letters.front()) || letters.front() == '_') &&
+           std::all_of(letters.cbegin(), letters.cend(), isInner);
+}
+
+QString WrittenName(const Dialect &dialect, const QString &name)
+{
+    const Engine engine = dialect.likelyEngine();
+    const bool isBare = IsPlainName(name) && (!name.contains(u'#') || readsNumberSign(engine)) &&
+                        !losesItsCase(dialect, name) && !IsReservedWord(engine, name);
+    return isBare ? name : QuotedName(dialect, name);
+}
+
+QString QuotedName(const Dialect &dialect, const QString &name)
+{
+    switch (dialect.engine) {
+    case Engine::MySQL:
+        return Enclosed(u'`', name, u'`');
+    case Engine::SQLite: // it reads brackets as well, but none inside them
+        if (dialect.database != dbOracle && !name.contains(u']'))
+            return Enclosed(u'[', name, u']');
+        return Enclosed(u'"', name, u'"');
+    case Engine::Access:
+    case Engine::SqlServer:
+        return Enclosed(u'[', name, u']');
+    case Engine::Other:
+        if (dialect.database != dbOracle)
+            return Enclosed(u'[', name, u']');
+        break;
+    case Engine::Oracle:
+    case Engine::PostgreSQL:
+    case Engine::Standard:
+        break;
+    }
+    return Enclosed(u'"', name, u'"');
+}
+
+QString Enclosed(QChar opening, QString name, QChar closing)
+{
+    return opening + name.replace(closing, QString(2, closing)) + closing;
+}
+
+QChar ClosingQuote(QChar opening)
+{
+    switch (opening.unicode()) {
+    case u'\'':
+    case u'"':
+    case u'`':
+        return opening;
+    case u'[':
+        return u']';
+    default:
+        return {};
+    }
+}
+
+QString LastNamePart(const QString &writtenName)
+{
+    const QChar last = writtenName.isEmpty() ? QChar() : writtenName.back();
+    const QChar opening = last == u']' ? QChar(u'[') : last == u'"' || last == u'`' ? last : QChar();
+    if (opening.isNull())
+        return writtenName.mid(writtenName.lastIndexOf(u'.') + 1);
+    const QString name = writtenName.chopped(1);
+    const auto open = name.lastIndexOf(opening);
+    const bool isAlias = open > 0 && name.at(open - 1) != u'.';
+    return isAlias ? QString() : name.mid(open + 1);
+}
+
+QString BracketsToQuotes(const QString &text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        const bool opens = c == u'[' || c == u'\'' || c == u'"';
+        const auto end = opens ? text.indexOf(ClosingQuote(c), i + 1) : -1;
+        if (end < 0) {
+            result += c;
+            continue;
+        }
+        if (c == u'[')
+            result += Enclosed(u'"', text.mid(i + 1, end - i - 1), u'"');
+        else
+            result += QStringView(text).mid(i, end + 1 - i);
+        i = end;
+    }
+    return result;
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,380 @@
+#include "sql/SelectParts.h"
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+using Words = std::initializer_list<QStringView>;
+
+bool isOneOf(const SqlScanner &statement, qsizetype index, Words words)
+{
+    return std::any_of(words.begin(), words.end(),
+                       [&](QStringView word) { return statement.isWord(index, word); });
+}
+
+bool isQualified(const SqlScanner &statement, qsizetype index)
+{
+    return statement.isSymbol(index - 1, u'.') || statement.isSymbol(index + 1, u'.');
+}
+
+// After the bracket that matches the one at `open`.
+qsizetype afterBrackets(const SqlScanner &statement, qsizetype open)
+{
+    qsizetype close = open + 1;
+    while (close < statement.count() && statement.at(close).depth > statement.at(open).depth)
+        ++close;
+    return std::min(close + 1, statement.count());
+}
+
+bool isSubselect(const SqlScanner &statement, qsizetype open)
+{
+    return statement.isSymbol(open, u'(') && isOneOf(statement, open + 1, {u"SELECT", u"WITH", u"VALUES"});
+}
+
+// Reads one statement; see SelectParts.
+class Reader
+{
+public:
+    explicit Reader(const SqlScanner &statement) : m_sql(statement), m_end(statement.count())
+    {
+        while (m_sql.isSymbol(m_end - 1, u';'))
+            --m_end;
+    }
+
+    SelectParts parts()
+    {
+        qsizetype next = readWith();
+        m_parts.isSelect = m_sql.isWord(next, u"SELECT");
+        if (!m_parts.isSelect)
+            return m_parts;
+        next = readListWords(next + 1);
+        readClauses(next);
+        m_parts.items = itemsIn(m_parts.list, false);
+        if (!m_parts.order.isEmpty())
+            m_parts.sort = itemsIn({m_parts.order.begin + 2, m_parts.order.end}, true);
+        readSources();
+        m_parts.isGrouped |= hasAggregate(m_parts.list) || hasAggregate(m_parts.order);
+        m_parts.hasWindow |= hasOver(m_parts.list) || hasOver(m_parts.order);
+        return m_parts;
+    }
+
+private:
+    qsizetype readWith()
+    {
+        if (!m_sql.isWord(0, u"WITH"))
+            return 0;
+        qsizetype next = 1;
+        while (next < m_end && !(m_sql.at(next).depth == 0 && m_sql.isWord(next, u"SELECT")))
+            ++next;
+        m_parts.with = {0, next};
+        return next;
+    }
+
+    qsizetype readListWords(qsizetype next)
+    {
+        const qsizetype begin = next;
+        while (next < m_end) {
+            if (isOneOf(m_sql, next, {u"DISTINCT", u"DISTINCTROW", u"UNIQUE"})) {
+                m_parts.isDistinct = true;
+                ++next;
+                if (m_sql.isWord(next, u"ON") && m_sql.isSymbol(next + 1, u'('))
+                    next = afterBrackets(m_sql, next + 1);
+            } else if (m_sql.isWord(next, u"ALL")) {
+                ++next;
+            } else if (isTopAt(next)) {
+                m_parts.isTop = true;
+                next = m_sql.isSymbol(next + 1, u'(') ? afterBrackets(m_sql, next + 1) : next + 2;
+                if (m_sql.isWord(next, u"PERCENT"))
+                    ++next;
+                if (m_sql.isWord(next, u"WITH") && m_sql.isWord(next + 1, u"TIES"))
+                    next += 2;
+            } else {
+                break;
+            }
+        }
+        m_parts.listWords = {begin, next};
+        return next;
+    }
+
+    // A column can be called Top.
+    bool isTopAt(qsizetype index) const
+    {
+        return m_sql.isWord(index, u"TOP") && index + 1 < m_end &&
+               (m_sql.at(index + 1).kind == SqlToken::Kind::Number || m_sql.isSymbol(index + 1, u'('));
+    }
+
+    void readClauses(qsizetype next)
+    {
+        qsizetype begin = next;
+        TextRange *open = &m_parts.list;
+        TextRange unused;
+        const auto close = [&](qsizetype end) {
+            if (open && open->isEmpty())
+                *open = {begin, end};
+        };
+        for (; next < m_end; ++next) {
+            if (m_sql.at(next).depth > 0 || m_sql.at(next).kind != SqlToken::Kind::Word ||
+                isQualified(m_sql, next))
+                continue;
+            TextRange *clause = clauseAt(next, unused);
+            if (!clause)
+                continue;
+            close(next);
+            const bool isFrom = clause == &m_parts.source;
+            begin = isFrom ? next + 1 : next;
+            open = m_parts.isCompound && clause != &m_parts.order ? nullptr : clause;
+        }
+        close(m_end);
+    }
+
+    TextRange *clauseAt(qsizetype index, TextRange &other)
+    {
+        if (m_sql.isWord(index, u"FROM"))
+            return isAfterDistinct(index) || !m_parts.source.isEmpty() ? nullptr : &m_parts.source;
+        if (m_sql.isWord(index, u"WHERE"))
+            return &m_parts.where;
+        if (m_sql.isWord(index, u"ORDER") && m_sql.isWord(index + 1, u"BY"))
+            return &m_parts.order;
+        if (isOneOf(m_sql, index, {u"UNION", u"EXCEPT", u"INTERSECT", u"MINUS"})) {
+            m_parts.isCompound = true;
+            return &other;
+        }
+        if ((m_sql.isWord(index, u"GROUP") && m_sql.isWord(index + 1, u"BY")) ||
+            m_sql.isWord(index, u"HAVING")) {
+            m_parts.isGrouped = true;
+            return &other;
+        }
+        if (isOneOf(m_sql, index, {u"LIMIT", u"OFFSET", u"FETCH"})) {
+            m_parts.isLimited = true;
+            return &other;
+        }
+        if (m_sql.isWord(index, u"WINDOW") && m_sql.isWord(index + 2, u"AS")) {
+            m_parts.hasWindow = true;
+            return &other;
+        }
+        if (isOneOf(m_sql, index, {u"FOR", u"INTO", u"OPTION", u"PROCEDURE", u"CONNECT"})) {
+            m_parts.isClosed = true;
+            return &other;
+        }
+        if (m_sql.isWord(index, u"ROWNUM"))
+            m_parts.isLimited = true;
+        return nullptr;
+    }
+
+    // IS DISTINCT FROM
+    bool isAfterDistinct(qsizetype index) const { return m_sql.isWord(index - 1, u"DISTINCT"); }
+
+    std::vector<SelectParts::Item> itemsIn(TextRange range, bool isSort) const
+    {
+        std::vector<SelectParts::Item> items;
+        qsizetype first = range.begin;
+        for (qsizetype i = range.begin; i <= range.end; ++i) {
+            if (i == range.end || (m_sql.isSymbol(i, u',') && m_sql.at(i).depth == 0)) {
+                items.push_back(isSort ? sortTermAt(first, i) : itemAt(first, i));
+                first = i + 1;
+            }
+        }
+        return items;
+    }
+
+    SelectParts::Item itemAt(qsizetype first, qsizetype end) const
+    {
+        SelectParts::Item item{{first, end}, {first, end}, {}, false, false};
+        qsizetype valueEnd = end;
+        const bool endsInName =
+            end - first >= 2 && (m_sql.isName(end - 1) || m_sql.at(end - 1).kind == SqlToken::Kind::String);
+        if (endsInName && m_sql.at(end - 1).depth == 0) {
+            if (m_sql.isWord(end - 2, u"AS"))
+                valueEnd = end - 2;
+            else if (canEndValue(end - 2) &&
+                     !isOneOf(m_sql, end - 1, {u"END", u"NULL", u"ISNULL", u"NOTNULL"}))
+                valueEnd = end - 1;
+        }
+        if (valueEnd < end) {
+            item.alias = aliasAt(end - 1);
+            item.value.end = valueEnd;
+        }
+        qsizetype next = first;
+        while (m_sql.isName(next) && m_sql.isSymbol(next + 1, u'.') && next + 2 < item.value.end)
+            next += 2;
+        item.isStar = next + 1 == item.value.end && m_sql.isSymbol(next, u'*');
+        item.isName =
+            next + 1 == item.value.end && m_sql.isName(next) &&
+            !isOneOf(m_sql, next,
+                     {u"NULL", u"TRUE", u"FALSE", u"CURRENT_DATE", u"CURRENT_TIME", u"CURRENT_TIMESTAMP"});
+        return item;
+    }
+
+    // Whether a name after this token is an alias rather than part of an expression.
+    bool canEndValue(qsizetype index) const
+    {
+        if (m_sql.isSymbol(index, u')') || m_sql.at(index).kind == SqlToken::Kind::String ||
+            m_sql.at(index).kind == SqlToken::Kind::Number ||
+            m_sql.at(index).kind == SqlToken::Kind::QuotedName)
+            return true;
+        return m_sql.isName(index) &&
+               !isOneOf(m_sql, index,
+                        {u"NOT",  u"AND",  u"OR",     u"LIKE",     u"IN",      u"IS",       u"BETWEEN",
+                         u"THEN", u"ELSE", u"WHEN",   u"CASE",     u"COLLATE", u"ESCAPE",   u"DIV",
+                         u"MOD",  u"GLOB", u"REGEXP", u"DISTINCT", u"ALL",     u"INTERVAL", u"AT"});
+    }
+
+    QString aliasAt(qsizetype index) const
+    {
+        if (m_sql.at(index).kind != SqlToken::Kind::String)
+            return m_sql.name(index);
+        const QStringView quoted = m_sql.text(index);
+        return quoted.sliced(1, std::max<qsizetype>(0, quoted.size() - 2)).toString();
+    }
+
+    SelectParts::Item sortTermAt(qsizetype first, qsizetype end) const
+    {
+        qsizetype valueEnd = end;
+        if (valueEnd - first > 2 && m_sql.isWord(valueEnd - 2, u"NULLS"))
+            valueEnd -= 2;
+        if (valueEnd - first > 1 && isOneOf(m_sql, valueEnd - 1, {u"ASC", u"DESC"}))
+            --valueEnd;
+        SelectParts::Item item{{first, end}, {first, valueEnd}, {}, false, false};
+        qsizetype next = first;
+        while (m_sql.isName(next) && m_sql.isSymbol(next + 1, u'.'))
+            next += 2;
+        item.isName = next + 1 == valueEnd && m_sql.isName(next);
+        return item;
+    }
+
+    void readSources()
+    {
+        const auto [begin, end] = m_parts.source;
+        if (isSubselect(m_sql, begin)) {
+            qsizetype next = afterBrackets(m_sql, begin);
+            if (m_sql.isWord(next, u"AS"))
+                ++next;
+            m_parts.isDerivedTable = next + 1 == end && m_sql.isName(next);
+        }
+        bool expectsTable = true;
+        for (qsizetype i = begin; i < end; ++i) {
+            if (isSubselect(m_sql, i)) {
+                i = afterBrackets(m_sql, i) - 1;
+                expectsTable = false;
+            } else if (m_sql.isSymbol(i, u',') || m_sql.isWord(i, u"JOIN")) {
+                expectsTable = true;
+            } else if (expectsTable && m_sql.isName(i) && !isOneOf(m_sql, i, {u"LATERAL", u"ONLY"})) {
+                i = readSource(i, end);
+                expectsTable = false;
+            }
+        }
+    }
+
+    qsizetype readSource(qsizetype index, qsizetype end)
+    {
+        const qsizetype begin = index;
+        while (m_sql.isSymbol(index + 1, u'.') && m_sql.isName(index + 2) && index + 2 < end)
+            index += 2;
+        SelectParts::Source source{m_sql.name(index), TextOf(m_sql, {begin, index + 1})};
+        qsizetype next = index + 1;
+        if (m_sql.isWord(next, u"AS"))
+            ++next;
+        const bool isAlias = next < end && m_sql.isName(next) &&
+                             !isOneOf(m_sql, next,
+                                      {u"JOIN", u"INNER", u"LEFT", u"RIGHT", u"FULL", u"CROSS", u"NATURAL",
+                                       u"ON", u"USING", u"INDEXED", u"NOT", u"STRAIGHT_JOIN", u"OUTER"});
+        if (isAlias) {
+            source.writtenAlias = m_sql.text(next).toString();
+            index = next;
+        }
+        m_parts.sources.push_back(source);
+        return index;
+    }
+
+    bool hasAggregate(TextRange range) const
+    {
+        for (qsizetype i = range.begin; i < range.end; ++i) {
+            if (isSubselect(m_sql, i)) {
+                i = afterBrackets(m_sql, i) - 1;
+                continue;
+            }
+            const bool isCall = m_sql.isSymbol(i + 1, u'(') && !m_sql.isSymbol(i - 1, u'.');
+            if (isCall && isOneOf(m_sql, i,
+                                  {u"COUNT",
+                                   u"COUNT_BIG",
+                                   u"SUM",
+                                   u"AVG",
+                                   u"MIN",
+                                   u"MAX",
+                                   u"TOTAL",
+                                   u"GROUP_CONCAT",
+                                   u"STRING_AGG",
+                                   u"LISTAGG",
+                                   u"ARRAY_AGG",
+                                   u"JSON_AGG",
+                                   u"JSONB_AGG",
+                                   u"JSON_ARRAYAGG",
+                                   u"JSON_OBJECTAGG",
+                                   u"JSON_GROUP_ARRAY",
+                                   u"JSON_GROUP_OBJECT",
+                                   u"XMLAGG",
+                                   u"STDEV",
+                                   u"STDEVP",
+                                   u"STDDEV",
+                                   u"STDDEV_POP",
+                                   u"STDDEV_SAMP",
+                                   u"VAR",
+                                   u"VARP",
+                                   u"VARIANCE",
+                                   u"VAR_POP",
+                                   u"VAR_SAMP",
+                                   u"BIT_AND",
+                                   u"BIT_OR",
+                                   u"BIT_XOR",
+                                   u"BOOL_AND",
+                                   u"BOOL_OR",
+                                   u"EVERY",
+                                   u"FIRST",
+                                   u"LAST",
+                                   u"MEDIAN",
+                                   u"CORR",
+                                   u"PERCENTILE_CONT",
+                                   u"PERCENTILE_DISC",
+                                   u"MODE",
+                                   u"GROUPING"}))
+                return true;
+        }
+        return false;
+    }
+
+    bool hasOver(TextRange range) const
+    {
+        for (qsizetype i = range.begin; i < range.end; ++i) {
+            if (isSubselect(m_sql, i))
+                i = afterBrackets(m_sql, i) - 1;
+            if (m_sql.isSymbol(i, u')') && m_sql.isWord(i + 1, u"OVER"))
+                return true;
+        }
+        return false;
+    }
+
+    const SqlScanner &m_sql;
+    qsizetype m_end;
+    SelectParts m_parts;
+};
+
+} // namespace
+
+SelectParts SelectParts::of(const SqlScanner &statement)
+{
+    return Reader(statement).parts();
+}
+
+QString TextOf(const SqlScanner &statement, TextRange tokens)
+{
+    if (tokens.isEmpty())
+        return {};
+    const qsizetype begin = statement.at(tokens.begin).start;
+    return statement.sql().sliced(begin, statement.at(tokens.end - 1).end() - begin);
+}
+
+} // namespace KOVAVSFDataGridLib

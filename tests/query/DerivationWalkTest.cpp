@@ -1,0 +1,276 @@
+// A user who filters, sorts, chooses fields and steps back, over statements of every kind. What the grid
+// would show is compared with a model that only knows rows.
+#include "query/clsFilterManagement.h"
+
+#include "CaseFile.h"
+#include "SampleDatabase.h"
+
+#include <QtCore/QSet>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+using namespace KOVAVSFDataGridLib;
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Chooses some of what it is offered.
+class RandomChooser : public FieldChooser
+{
+public:
+    explicit RandomChooser(std::mt19937 &random) : m_random(random) {}
+
+    QStringList chosen; // names
+
+    std::optional<QString> ChooseVisibleFields(const QString &, const QList<OfferedField> &fields,
+                                               const QStringList &) override
+    {
+        chosen.clear();
+        QStringList written;
+        for (const OfferedField &field : fields) {
+            if (m_random() % 2 == 0 || written.isEmpty()) {
+                written.append(field.written);
+                chosen.append(field.name);
+            }
+        }
+        return written.join(u',');
+    }
+    std::optional<QString> ChooseSort(const QString &, const QList<OfferedField> &fields,
+                                      const QStringList &) override
+    {
+        chosen.clear();
+        const auto at = static_cast<qsizetype>(m_random() % static_cast<std::size_t>(fields.size() + 1));
+        if (at == fields.size())
+            return QString();
+        chosen.append(fields.at(at).name);
+        return fields.at(at).written + u" DESC"_s;
+    }
+
+private:
+    std::mt19937 &m_random;
+};
+
+// What is shown: rows with all fields, of which some are shown.
+struct Shown
+{
+    Rows all;
+    QStringList fields; // empty for all
+    bool isAll = true;
+};
+
+class Walk
+{
+public:
+    Walk(SqliteRows &database, const QString &statement, std::mt19937 &random)
+        : m_database(database),
+          m_reader(database),
+          m_random(random),
+          m_chooser(random),
+          m_manager(&m_reader, &m_chooser),
+          m_origin(statement)
+    {
+        m_manager.SetDBType(dbAccess);
+        m_manager.SetDBConnString(u"memory"_s);
+        m_manager.SetAllFields(statement);
+        m_manager.SetOriginFilter(statement);
+        m_manager.SetSQLInitData();
+        EXPECT_EQ(m_manager.GetCurrentSQL20(0), statement) << "the first statement is shown as it is written";
+        m_distinct = SelectParts::of(SqlScanner(statement)).isDistinct;
+        record(statement, {database.read(statement), {}, true}, colShowSQLSentences::NoPartField());
+    }
+
+    void step()
+    {
+        switch (m_random() % 7) {
+        case 0:
+        case 1:
+            return filter();
+        case 2:
+            return sort();
+        case 3:
+            return chooseFields();
+        case 4:
+            return show(1);
+        case 5:
+            return show(2);
+        default:
+            return back();
+        }
+    }
+
+private:
+    colShowSQLSentences &history() { return m_manager.SQLManager(); }
+    Shown &top() { return m_shown.back(); }
+    QString statement() { return history().Item(history().Count())->ShowSQL; }
+
+    void record(const QString &statement, const Shown &shown, const QString &partFields)
+    {
+        history().AddCurrentSQL(statement, shown.isAll ? 1 : 0, partFields, colShowSQLSentences::NoSort());
+        EXPECT_TRUE(history().GetCurrSQLFieldsStatus()) << qPrintable(statement);
+        m_shown.push_back(shown);
+        compare();
+    }
+
+    // Nobody knows how many rows a DISTINCT of fewer fields has but a loop over them.
+    Rows expected()
+    {
+        Rows rows;
+        QList<qsizetype> columns;
+        for (qsizetype i = 0; i < top().all.names.size(); ++i) {
+            if (top().isAll || top().fields.contains(top().all.names.at(i)))
+                columns.append(i);
+        }
+        for (const qsizetype column : columns)
+            rows.names.append(top().all.names.at(column));
+        for (const Row &row : top().all.rows) {
+            Row part;
+            for (const qsizetype column : columns)
+                part.append(row.at(column));
+            if (!m_distinct || top().isAll ||
+                std::find(rows.rows.begin(), rows.rows.end(), part) == rows.rows.end())
+                rows.rows.push_back(part);
+        }
+        return rows;
+    }
+
+    void compare()
+    {
+        Rows actual = m_database.read(statement());
+        Rows model = expected();
+        EXPECT_EQ(actual.error, QString()) << qPrintable(statement());
+        std::sort(actual.rows.begin(), actual.rows.end());
+        std::sort(model.rows.begin(), model.rows.end());
+        if (m_distinct && !top().isAll) {
+            const auto unique = std::unique(actual.rows.begin(), actual.rows.end());
+            actual.rows.erase(unique, actual.rows.end());
+        }
+        EXPECT_EQ(actual.names, model.names) << qPrintable(statement());
+        EXPECT_TRUE(actual.rows == model.rows) << qPrintable(statement()) << "\n"
+                                               << qPrintable(actual.text()) << "instead of\n"
+                                               << qPrintable(model.text());
+    }
+
+    void filter()
+    {
+        const Rows rows = m_database.read(statement());
+        if (rows.rows.empty())
+            return;
+        const Row &row = rows.rows.at(m_random() % rows.rows.size());
+        const auto column = static_cast<qsizetype>(m_random() % static_cast<std::size_t>(rows.names.size()));
+        const QString name = history().GetColumnRealName(statement(), rows.names, column);
+        ASSERT_FALSE(name.isEmpty());
+        ASSERT_EQ(history().WhyNot(DerivationStep::Condition), QString());
+        const QString literal = row.at(column);
+        const QString condition = literal == u"NULL" ? name + u" IS NULL"_s : name + u" = "_s + literal;
+        QString next;
+        ASSERT_TRUE(history().GetNextSQLByFilter(condition + u" OR 1=0"_s, next));
+        Shown shown = top();
+        const qsizetype in = columnOfAll(rows.names, column);
+        std::erase_if(shown.all.rows, [&](const Row &candidate) { return candidate.at(in) != literal; });
+        record(next, shown, colShowSQLSentences::NoPartField());
+    }
+
+    // Names can be equal; the n-th of them is the n-th shown one.
+    qsizetype columnOfAll(const QStringList &names, qsizetype column)
+    {
+        const auto before = std::count(names.begin(), names.begin() + column, names.at(column));
+        qsizetype at = -1;
+        for (qsizetype i = 0; i <= before; ++i)
+            at = top().all.names.indexOf(names.at(column), at + 1);
+        return at;
+    }
+
+    void sort()
+    {
+        QString list;
+        QString next;
+        const clsShowSQLSentence entry = *history().Item(history().Count());
+        if (!m_manager.GetPartSortSelFields(entry.AllFields, {}, list))
+            return;
+        ASSERT_TRUE(history().GetNextSQLBySort(list, next));
+        const Rows actual = m_database.read(next);
+        const qsizetype column =
+            m_chooser.chosen.isEmpty() ? -1 : actual.names.indexOf(m_chooser.chosen.first());
+        const bool isOne = column >= 0 && actual.names.count(actual.names.at(column)) == 1;
+        for (std::size_t row = 1; isOne && row < actual.rows.size(); ++row)
+            EXPECT_FALSE(m_database.isLess(actual.rows[row - 1].at(column), actual.rows[row].at(column)))
+                << qPrintable(next);
+        record(next, top(), colShowSQLSentences::NoPartField());
+    }
+
+    void chooseFields()
+    {
+        const clsShowSQLSentence entry = *history().Item(history().Count());
+        QString part;
+        entry.GetCurrUsePartFieldSQL(part);
+        QString next;
+        // Equal names can't be told apart by the model.
+        if (m_distinct ||
+            QSet<QString>(top().all.names.begin(), top().all.names.end()).size() < top().all.names.size())
+            return;
+        ASSERT_TRUE(m_manager.GetPartShowSelFields(entry.AllFields, part, entry.ShowSQL, next));
+        Shown shown = top();
+        shown.fields = m_chooser.chosen;
+        shown.isAll = false;
+        record(next, shown, history().GetFieldsStatement(next));
+        m_part = m_chooser.chosen;
+    }
+
+    void show(qint32 type)
+    {
+        QString partStatement;
+        if (type == 2 && !history().Item(history().Count())->GetCurrUsePartFieldSQL(partStatement))
+            return;
+        QString next;
+        ASSERT_TRUE(history().GetNextShowSQL(type, next)) << qPrintable(statement());
+        Shown shown = top();
+        shown.isAll = type == 1;
+        if (type == 2)
+            shown.fields = m_database.read(partStatement).names;
+        record(next, shown, colShowSQLSentences::NoPartField());
+    }
+
+    void back()
+    {
+        QString statementBefore;
+        QString key;
+        ASSERT_TRUE(history().GetPreviewSQL(statementBefore, key));
+        if (m_shown.size() > 1)
+            m_shown.pop_back();
+        EXPECT_EQ(static_cast<std::size_t>(history().Count()), m_shown.size());
+        compare();
+    }
+
+    SqliteRows &m_database;
+    SqliteReader m_reader;
+    std::mt19937 &m_random;
+    RandomChooser m_chooser;
+    clsFilterManagement m_manager;
+    QString m_origin;
+    QStringList m_part;
+    bool m_distinct = false;
+    std::vector<Shown> m_shown;
+};
+
+} // namespace
+
+TEST(DerivationWalk, ShowsTheRowsOfAModelAfterEveryStep)
+{
+    const auto database = sampleDatabase();
+    const unsigned seed =
+        qEnvironmentVariableIsSet("KOVA_SEED") ? qEnvironmentVariable("KOVA_SEED").toUInt() : 1;
+    constexpr int steps = 200;
+    for (const Case &c : ReadCases(u"statements.cases"_s)) {
+        SCOPED_TRACE(c.place.toStdString());
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        std::mt19937 random(seed);
+        Walk walk(*database, c[u"statement"_s], random);
+        for (int step = 0; step < steps && !testing::Test::HasFailure(); ++step)
+            walk.step();
+        if (testing::Test::HasFailure())
+            return;
+    }
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "SqliteRows.h"
+
+#include <memory>
+
+namespace KovaTest {
+
+// The tables that the statements of statements.cases select from.
+std::unique_ptr<SqliteRows> sampleDatabase();
+
+// Reads fields as the control's own reader does.
+class SqliteReader final : public KOVAVSFDataGridLib::FieldReader
+{
+public:
+    explicit SqliteReader(const SqliteRows &database) : m_database(database) {}
+
+    bool Open(const QString &connectionString) override { return !connectionString.isEmpty(); }
+    std::optional<std::vector<KOVAVSFDataGridLib::SourceField>> Read(const QString &connectionString,
+                                                                     const QString &statement) override;
+    KOVAVSFDataGridLib::Engine EngineOf(const QString &) override
+    {
+        return KOVAVSFDataGridLib::Engine::SQLite;
+    }
+
+private:
+    const SqliteRows &m_database;
+};
+
+} // namespace KovaTest

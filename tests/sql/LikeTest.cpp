@@ -1,0 +1,68 @@
+#include "sql/Like.h"
+
+#include <gtest/gtest.h>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Dialect SqliteFile{dbAccess, false};
+constexpr Dialect OracleServer{dbOracle, true};
+constexpr Dialect SqlServer{dbSQLServer, true};
+constexpr Dialect MariaDb{dbSQLServer, true, true};
+
+void expectText(const QString &text, const char *expected)
+{
+    EXPECT_STREQ(qUtf8Printable(text), expected);
+}
+
+} // namespace
+
+TEST(Like, LikeMatchesItsOwnWildcardsAsThemselves)
+{
+    struct Case
+    {
+        QString text;
+        Anchor anchor;
+        const char *sqlite;
+        const char *sqlServer;
+    };
+    const Case cases[] = {
+        {u"ab"_s, Anchor::None, "F LIKE '%ab%'", "F LIKE '%ab%'"},
+        {u"ab"_s, Anchor::Begin, "F LIKE 'ab%'", "F LIKE 'ab%'"},
+        {u"ab"_s, Anchor::End, "F LIKE '%ab'", "F LIKE '%ab'"},
+        {u"50%"_s, Anchor::None, "F LIKE '%50!%%' ESCAPE '!'", "F LIKE '%50!%%' ESCAPE '!'"},
+        {u"a_b"_s, Anchor::None, "F LIKE '%a!_b%' ESCAPE '!'", "F LIKE '%a!_b%' ESCAPE '!'"},
+        {u"a[b"_s, Anchor::None, "F LIKE '%a[b%'", "F LIKE '%a![b%' ESCAPE '!'"},
+        {u"100!_"_s, Anchor::End, "F LIKE '%100!!!_' ESCAPE '!'", "F LIKE '%100!!!_' ESCAPE '!'"},
+        {u"it's"_s, Anchor::Begin, "F LIKE 'it''s%'", "F LIKE 'it''s%'"},
+        {u"北_"_s, Anchor::Begin, "F LIKE '北!_%' ESCAPE '!'", "F LIKE N'北!_%' ESCAPE '!'"},
+    };
+    for (const Case &c : cases) {
+        expectText(Like(SqliteFile, u"F"_s, c.text, c.anchor), c.sqlite);
+        expectText(Like(SqlServer, u"F"_s, c.text, c.anchor), c.sqlServer);
+    }
+}
+
+TEST(Like, TakesWordsThatBeginAClauseApart)
+{
+    expectText(Like(SqliteFile, u"F"_s, u"x order by 5%"_s, Anchor::None),
+               "F LIKE ('%x o' || 'rder by 5!%%') ESCAPE '!'");
+}
+
+TEST(Like, MatchesABackslashAsItself)
+{
+    // PostgreSQL's and MariaDB's patterns have it as an escape where no other one is named.
+    expectText(Like(OracleServer, u"F"_s, uR"(a\b)"_s, Anchor::Begin), R"(F LIKE 'a\b%' ESCAPE '!')");
+    expectText(Like(MariaDb, u"F"_s, uR"(a\%)"_s, Anchor::End), R"(F LIKE '%a\\!%' ESCAPE '!')");
+}
+
+TEST(Like, CastsWhatIsReportedAsTextOnPostgreSql)
+{
+    const Dialect postgres = DialectOf(dbOracle, Engine::PostgreSQL);
+    expectText(Like(postgres, u"F"_s, u"a"_s, Anchor::End), "CAST(F AS TEXT) LIKE '%a'");
+    EXPECT_EQ(LikeOperand(Engine::SQLite, u"F"_s), u"F"_s);
+    EXPECT_TRUE(LikesTextsOnly(Engine::PostgreSQL));
+    EXPECT_FALSE(LikesTextsOnly(Engine::MySQL));
+}
