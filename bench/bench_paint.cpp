@@ -125,6 +125,8 @@ struct Costs
     Frame whole;
     Frame row;
     Frame page;
+    Frame lastColumns;
+    Frame selected;
 };
 
 // Rows that have been seen are never scrolled to again, so that nothing kept from an earlier frame helps.
@@ -135,12 +137,13 @@ Costs measure(QTableView &view)
     const int page = view.rowAt(view.viewport()->height() - 1) - view.rowAt(0);
     Costs costs;
     costs.cells = cellsInView(view);
-    costs.whole = measure([&] {
+    const auto whole = [&] {
         for (QWidget *part :
              {view.viewport(), view.horizontalHeader()->viewport(), view.verticalHeader()->viewport()})
             part->update();
         paintWhatIsDue();
-    });
+    };
+    costs.whole = measure(whole);
     costs.row = measure([&] {
         bar.setValue(bar.value() + 1);
         paintWhatIsDue();
@@ -149,6 +152,13 @@ Costs measure(QTableView &view)
         bar.setValue(bar.value() + page);
         paintWhatIsDue();
     });
+    view.horizontalScrollBar()->setValue(view.horizontalScrollBar()->maximum());
+    paintWhatIsDue();
+    costs.lastColumns = measure(whole);
+    view.selectAll();
+    paintWhatIsDue();
+    costs.selected = measure(whole);
+    view.setCurrentIndex(view.model()->index(1, 0));
     bar.setValue(0);
     paintWhatIsDue();
     return costs;
@@ -173,6 +183,8 @@ void print(const char *who, const Costs &costs, const Costs *peer)
     print("whole", costs.whole, costs.cells, peer ? &peer->whole : nullptr);
     print("by one row", costs.row, 0, peer ? &peer->row : nullptr);
     print("by a page", costs.page, costs.cells, peer ? &peer->page : nullptr);
+    print("last columns", costs.lastColumns, costs.cells, peer ? &peer->lastColumns : nullptr);
+    print("all selected", costs.selected, costs.cells, peer ? &peer->selected : nullptr);
 }
 
 std::shared_ptr<ADODB::Recordset> openRecordset(const QString &path, const QString &statement)

@@ -66,7 +66,8 @@ private:
     QTableView &m_view;
     const FlexGridModel &m_model;
     GlyphTable &m_glyphs;
-    QStyleOptionViewItem m_option; // of the row that is painted, then of its cells
+    QStyleOptionViewItem m_option; // of the row that is painted
+    QStyleOptionViewItem m_cell;   // of a cell in it that is not plain
     const QPoint m_offset;
     const QModelIndex m_hover;
     const QModelIndex m_current; // where the frame of the focus is
@@ -90,6 +91,7 @@ CellPainter::Frame::Frame(QTableView &view, const FlexGridModel &model, GlyphTab
       m_model(model),
       m_glyphs(glyphs),
       m_option(option),
+      m_cell(option),
       m_offset(offset),
       m_hover(hover),
       m_current(view.hasFocus() || view.viewport()->hasFocus() ? view.currentIndex() : QModelIndex()),
@@ -100,6 +102,8 @@ CellPainter::Frame::Frame(QTableView &view, const FlexGridModel &model, GlyphTab
       m_margin(view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, &view) + 1),
       m_isPlainStyle(drawsTextPlainly(*view.style()))
 {
+    m_cell.palette.setCurrentColorGroup(option.state & QStyle::State_Enabled ? QPalette::Normal
+                                                                             : QPalette::Disabled);
     const QRect all = view.viewport()->rect().translated(offset);
     const Span rows = rowsIn(all);
     const Span columns = columnsIn(all);
@@ -205,28 +209,23 @@ void CellPainter::Frame::paintCell(int row, const Column &column, const QString 
         return index.row() == row && index.column() == column.section;
     };
     const bool selected = isSelected(row, column.section);
-    const bool special = selected || isThis(m_hover) || isThis(m_current);
-    if (special) {
-        QStyleOptionViewItem option = m_option;
-        option.rect.setLeft(column.left);
-        option.rect.setWidth(column.width);
-        option.state.setFlag(QStyle::State_Selected, selected);
-        option.state.setFlag(QStyle::State_MouseOver, isThis(m_hover));
-        option.state.setFlag(QStyle::State_HasFocus, isThis(m_current));
-        option.palette.setCurrentColorGroup(option.state & QStyle::State_Enabled ? QPalette::Normal
-                                                                                 : QPalette::Disabled);
-        option.index = m_model.index(row, column.section);
-        const QStyle &style = *m_view.style();
-        style.drawPrimitive(QStyle::PE_PanelItemViewRow, &option, &m_painter, &m_view);
+    if (selected || isThis(m_hover) || isThis(m_current)) {
+        m_cell.rect = QRect(column.left, m_option.rect.top(), column.width, m_option.rect.height());
+        m_cell.features = m_option.features;
+        m_cell.state.setFlag(QStyle::State_Selected, selected);
+        m_cell.state.setFlag(QStyle::State_MouseOver, isThis(m_hover));
+        m_cell.state.setFlag(QStyle::State_HasFocus, isThis(m_current));
+        m_cell.index = m_model.index(row, column.section);
         if (!m_isPlainStyle) {
-            m_view.itemDelegate()->paint(&m_painter, option, option.index);
+            m_view.style()->drawPrimitive(QStyle::PE_PanelItemViewRow, &m_cell, &m_painter, &m_view);
+            m_view.itemDelegate()->paint(&m_painter, m_cell, m_cell.index);
             return;
         }
         // The style's item without a text; only with the focus is there more to it than its panel.
-        if (option.state & QStyle::State_HasFocus)
-            style.drawControl(QStyle::CE_ItemViewItem, &option, &m_painter, &m_view);
+        if (isThis(m_current))
+            m_view.style()->drawControl(QStyle::CE_ItemViewItem, &m_cell, &m_painter, &m_view);
         else
-            style.drawPrimitive(QStyle::PE_PanelItemViewItem, &option, &m_painter, &m_view);
+            m_view.style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &m_cell, &m_painter, &m_view);
     }
     if (!text.isEmpty())
         placeText(text, column, selected ? QPalette::HighlightedText : QPalette::Text);
