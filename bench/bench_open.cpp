@@ -1,12 +1,20 @@
 // What a recordset costs over the database library alone: opens 999,999 rows of 12 columns with
 // Recordset::Open and with a bare loop that reads every cell and keeps none, in turn, each in a process of
-// its own so that the memory peaks are its own. Then times reading single cells at random. Unix only.
+// its own so that the memory peaks are its own; and up to the painted screen with the grid and with a
+// QTableView over a QSqlQueryModel that has fetched all its rows. Then times reading single cells at random.
+// Unix only.
 
 #include "ado/Connection.h"
 #include "ado/Error.h"
 #include "ado/Recordset.h"
+#include "grid/FlexGrid.h"
+#include "grid/RecordWindow.h"
 
 #include <QtCore/QTemporaryDir>
+#include <QtSql/QSqlDatabase>
+#include <QtSql/QSqlError>
+#include <QtSql/QSqlQueryModel>
+#include <QtWidgets/QApplication>
 
 #include <sqlite3.h>
 #include <sys/resource.h>
@@ -118,6 +126,50 @@ double openRecordset(const QByteArray &path)
     return secondsSince(start);
 }
 
+void showAndPaint(QTableView &view)
+{
+    view.resize(1850, 983);
+    view.show();
+    QApplication::processEvents();
+    if (view.grab().isNull())
+        stop("nothing was painted");
+}
+
+double paintGrid(const QByteArray &path)
+{
+    int argc = 0;
+    const QApplication app(argc, nullptr);
+    const auto start = std::chrono::steady_clock::now();
+    const auto recordset = std::make_shared<ADODB::Recordset>();
+    recordset->SetProgress([](qint64) { return true; });
+    open(*recordset, path, ADODB::adLockOptimistic);
+    KOVAVSFDataGridLib::VSFlexGrid grid;
+    grid.Show(std::make_unique<KOVAVSFDataGridLib::RecordWindow>(recordset, 1, static_cast<int>(rowCount)));
+    showAndPaint(grid);
+    return secondsSince(start);
+}
+
+double paintTableView(const QByteArray &path)
+{
+    int argc = 0;
+    const QApplication app(argc, nullptr);
+    const auto start = std::chrono::steady_clock::now();
+    QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s);
+    database.setDatabaseName(QString::fromUtf8(path));
+    if (!database.open())
+        stop(qPrintable(database.lastError().text()));
+    QSqlQueryModel model;
+    model.setQuery(QString::fromLatin1(statement), database);
+    while (model.canFetchMore())
+        model.fetchMore();
+    if (model.rowCount() != rowCount || model.columnCount() != columnCount)
+        stop("the query model did not read the table");
+    QTableView view;
+    view.setModel(&model);
+    showAndPaint(view);
+    return secondsSince(start);
+}
+
 struct Measurement
 {
     double seconds = 0;
@@ -199,6 +251,8 @@ void printCellTimes(const QByteArray &path)
 
 int main()
 {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir folder;
     const QByteArray path = folder.filePath(u"bench.db"_s).toUtf8();
     makeTable(path);
@@ -206,17 +260,34 @@ int main()
 
     std::vector<Measurement> bare;
     std::vector<Measurement> recordset;
+    std::vector<Measurement> grid;
+    std::vector<Measurement> tableView;
     for (int i = 0; i < rounds; ++i) {
         bare.push_back(inChild(bareLoop, path));
         recordset.push_back(inChild(openRecordset, path));
+        grid.push_back(inChild(paintGrid, path));
+        tableView.push_back(inChild(paintTableView, path));
     }
     const Summary a = summarize(bare);
     const Summary b = summarize(recordset);
+    const Summary c = summarize(grid);
+    const Summary d = summarize(tableView);
     std::printf("%lld rows x %d columns, %d rounds\n", static_cast<long long>(rowCount), columnCount, rounds);
     std::printf("%-18s %10s %10s %12s\n", "", "best s", "median s", "peak MB");
-    std::printf("%-18s %10.3f %10.3f %12.1f\n", "bare sqlite3 loop", a.best, a.median, a.peak);
-    std::printf("%-18s %10.3f %10.3f %12.1f\n", "Recordset::Open", b.best, b.median, b.peak);
-    std::printf("%-18s %10.2f %10.2f\n", "ratio", b.best / a.best, b.median / a.median);
+    const auto print = [](const char *what, const Summary &summary) {
+        std::printf("%-18s %10.3f %10.3f %12.1f\n", what, summary.best, summary.median, summary.peak);
+    };
+    const auto printRatio = [](const Summary &ours, const Summary &peer) {
+        std::printf("%-18s %10.2f %10.2f", "ratio", ours.best / peer.best, ours.median / peer.median);
+    };
+    print("bare sqlite3 loop", a);
+    print("Recordset::Open", b);
+    printRatio(b, a);
+    std::printf("\n");
+    print("painted QTableView", d);
+    print("painted grid", c);
+    printRatio(c, d);
+    std::printf(" %12.2f\n", c.peak / d.peak);
     printCellTimes(path);
     return 0;
 }

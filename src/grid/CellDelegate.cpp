@@ -10,14 +10,20 @@
 
 namespace KOVAVSFDataGridLib {
 
-QString CellDelegate::displayText(const QVariant &value, const QLocale &) const
+QString CellDelegate::shownText(const QString &text)
 {
-    const QString text = value.toString();
-    const auto isLineBreak = [](QChar c) { return c == u'\n' || c == u'\r'; };
+    const auto isLineBreak = [](QChar c) {
+        return c == u'\n' || c == u'\r' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+    };
     const auto lineEnd =
         std::find_if(text.begin(), text.begin() + std::min<qsizetype>(text.size(), LongestText), isLineBreak);
     const qsizetype length = lineEnd - text.begin();
     return length == text.size() ? text : text.first(length) + u'…';
+}
+
+QString CellDelegate::displayText(const QVariant &value, const QLocale &) const
+{
+    return shownText(value.toString());
 }
 
 bool CellDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,

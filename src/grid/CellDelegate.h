@@ -14,6 +14,9 @@ class CellDelegate final : public QStyledItemDelegate
 public:
     static constexpr int LongestText = 400; // characters
 
+    // What is drawn of a text.
+    static QString shownText(const QString &text);
+
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QString displayText(const QVariant &value, const QLocale &locale) const override;

@@ -1,6 +1,7 @@
 #include "grid/FlexGrid.h"
 
 #include "grid/CellDelegate.h"
+#include "grid/CellPainter.h"
 #include "grid/FlexGridModel.h"
 #include "grid/FlexHeader.h"
 #include "grid/TextCells.h"
@@ -26,7 +27,9 @@ constexpr int RowPadding = 120; // twips, above and below a row's text together
 } // namespace
 
 FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
-    : QTableView(parent), m_model(new FlexGridModel(fixedCols, this))
+    : QTableView(parent),
+      m_model(new FlexGridModel(fixedCols, this)),
+      m_painter(std::make_unique<CellPainter>(*this, *m_model))
 {
     setHorizontalHeader(new FlexHeader(Qt::Horizontal, *this));
     setVerticalHeader(new FlexHeader(Qt::Vertical, *this));
@@ -192,11 +195,6 @@ void FlexGrid::updateGeometries()
     bar.setMaximum(std::min(bar.maximum(), std::max(UsedRows() - 1 - bar.pageStep(), 0)));
 }
 
-int FlexGrid::ShownCol() const
-{
-    return nearestShownSection(section(m_col)) + m_model->fixedCols();
-}
-
 void FlexGrid::scrollContentsBy(int dx, int dy)
 {
     QTableView::scrollContentsBy(dx, dy);
@@ -276,36 +274,6 @@ QStringList FlexGrid::Headings() const
     return texts;
 }
 
-int FlexGrid::ColWidth(int col) const
-{
-    checkCol(col);
-    return m_widths[static_cast<std::size_t>(col)];
-}
-
-void FlexGrid::PutColWidth(int col, int twips)
-{
-    checkCol(col);
-    m_widths[static_cast<std::size_t>(col)] = std::max(twips, UseDefaultWidth);
-    applyWidth(col);
-    // The view goes where it can be seen, and comes back when the current column is shown again.
-    if (currentIndex().isValid() && currentIndex().column() != nearestShownSection(section(m_col)))
-        makeCurrent(m_row, m_col);
-}
-
-int FlexGrid::ColWidthInUse(int col) const
-{
-    const int width = ColWidth(col);
-    if (col < m_model->fixedCols() && width == UseDefaultWidth)
-        return Twips::fromPixels(verticalHeader()->width(), *this);
-    return width == UseDefaultWidth ? DefaultColWidth : width;
-}
-
-void FlexGrid::ResetColWidths()
-{
-    m_widths.assign(m_widths.size(), UseDefaultWidth);
-    applyWidths();
-}
-
 void FlexGrid::Clear()
 {
     Show(std::make_unique<TextCells>(Rows(), Cols()));
@@ -360,6 +328,27 @@ void FlexGrid::changeEvent(QEvent *event)
         applyRowHeight();
 }
 
+bool FlexGrid::viewportEvent(QEvent *event)
+{
+    // As the view itself follows the mouse, which it keeps to itself.
+    if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverMove)
+        m_hover = indexAt(static_cast<QHoverEvent *>(event)->position().toPoint());
+    else if (event->type() == QEvent::HoverLeave || event->type() == QEvent::Leave)
+        m_hover = QModelIndex();
+    return QTableView::viewportEvent(event);
+}
+
+void FlexGrid::paintEvent(QPaintEvent *event)
+{
+    const QPoint offset = dirtyRegionOffset();
+    const QRegion dirty = event->region().translated(offset);
+    if (state() == DraggingState || !m_painter->canPaint(dirty.boundingRect()))
+        return QTableView::paintEvent(event);
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    m_painter->paint(option, dirty, offset, m_hover);
+}
+
 void FlexGrid::checkRow(int row) const
 {
     if (row < 0 || row >= Rows())
@@ -370,17 +359,6 @@ void FlexGrid::checkCol(int col) const
 {
     if (col < 0 || col >= Cols())
         throw std::out_of_range("column outside the grid");
-}
-
-int FlexGrid::nearestShownSection(int section) const
-{
-    for (int distance = 0; distance < m_model->columnCount(); ++distance) {
-        for (const int candidate : {section + distance, section - distance}) {
-            if (candidate >= 0 && candidate < m_model->columnCount() && !isColumnHidden(candidate))
-                return candidate;
-        }
-    }
-    return section;
 }
 
 int FlexGrid::section(int col) const
@@ -398,52 +376,6 @@ void FlexGrid::applyLines()
 void FlexGrid::applyRowHeight()
 {
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Twips::toPixels(RowPadding, *this));
-}
-
-void FlexGrid::applyWidths()
-{
-    const QScopedValueRollback<bool> applying(m_isApplyingWidths, true);
-    horizontalHeader()->setDefaultSectionSize(Twips::toPixels(DefaultColWidth, *this));
-    for (int col = 0; col < Cols(); ++col)
-        applyWidth(col);
-}
-
-void FlexGrid::applyWidth(int col)
-{
-    const QScopedValueRollback<bool> applying(m_isApplyingWidths, true);
-    const int width = m_widths[static_cast<std::size_t>(col)];
-    if (col < m_model->fixedCols()) {
-        // The row headings fit their numbers unless a width was asked for.
-        verticalHeader()->setVisible(width != 0);
-        if (width > 0)
-            verticalHeader()->setFixedWidth(Twips::toPixels(width, *this));
-        return;
-    }
-    setColumnHidden(section(col), width == 0);
-    if (width != 0)
-        setColumnWidth(section(col), Twips::toPixels(ColWidthInUse(col), *this));
-}
-
-// The last one in view, where it takes whatever width is left.
-bool FlexGrid::isStretched(int section) const
-{
-    if (!horizontalHeader()->stretchLastSection())
-        return false;
-    for (int behind = section + 1; behind < m_model->columnCount(); ++behind) {
-        if (!isColumnHidden(behind))
-            return false;
-    }
-    return true;
-}
-
-void FlexGrid::onSectionResized(int section, int size)
-{
-    if (m_isApplyingWidths || isStretched(section))
-        return;
-    const int col = section + m_model->fixedCols();
-    const int twips = Twips::fromPixels(size, *this);
-    m_widths[static_cast<std::size_t>(col)] = twips;
-    Q_EMIT ColWidthChanged(col, twips);
 }
 
 MSFlexGrid::MSFlexGrid(QWidget *parent) : FlexGrid(0, parent)

@@ -11,6 +11,7 @@
 
 namespace KOVAVSFDataGridLib {
 
+class CellPainter;
 class FlexGridModel;
 
 // A table view that speaks the flex-grid vocabulary: rows and columns count from 0 with the headings
@@ -110,6 +111,8 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void checkRow(int row) const;
@@ -125,6 +128,8 @@ private:
     void onSectionResized(int section, int size);
 
     FlexGridModel *m_model;
+    const std::unique_ptr<CellPainter> m_painter;
+    QPersistentModelIndex m_hover;
     std::vector<int> m_widths; // twips by grid column
     int m_row = 0;
     int m_col = 0;
