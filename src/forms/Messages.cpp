@@ -3,6 +3,7 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
 
 namespace KOVAVSFDataGridLib::Messages {
 
@@ -19,11 +20,9 @@ struct Message
     QMessageBox::StandardButton onEnter = QMessageBox::NoButton;
 };
 
-int show(QWidget *parent, const Message &message, QMessageBox::StandardButtons buttons,
-         QMessageBox::StandardButton onEscape)
+QMessageBox *newBox(QWidget *parent, const Message &message)
 {
-    // On the heap, because the parent owns it as well: either may go first.
-    const QPointer<QMessageBox> box = new QMessageBox(parent);
+    auto *const box = new QMessageBox(parent);
     box->setTextFormat(Qt::PlainText);
     box->setText(message.text);
     box->setInformativeText(message.cause);
@@ -31,6 +30,14 @@ int show(QWidget *parent, const Message &message, QMessageBox::StandardButtons b
         cause->setTextFormat(Qt::PlainText); // the box sets it for the text alone
     box->setIcon(message.icon);
     box->setWindowTitle(message.title.isEmpty() ? QApplication::applicationDisplayName() : message.title);
+    return box;
+}
+
+int show(QWidget *parent, const Message &message, QMessageBox::StandardButtons buttons,
+         QMessageBox::StandardButton onEscape)
+{
+    // On the heap, because the parent owns it as well: either may go first.
+    const QPointer<QMessageBox> box = newBox(parent, message);
     box->setStandardButtons(buttons);
     box->setDefaultButton(message.onEnter);
     box->setEscapeButton(onEscape);
@@ -58,6 +65,30 @@ bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox
 {
     return show(parent, {text, title, {}, icon, onEnter}, QMessageBox::Yes | QMessageBox::No,
                 QMessageBox::No) == QMessageBox::Yes;
+}
+
+qsizetype choose(QWidget *parent, const QString &text, const QString &title, const QStringList &captions)
+{
+    const QPointer<QMessageBox> box = newBox(parent, {text, title, {}, QMessageBox::Warning});
+    QList<QAbstractButton *> buttons;
+    for (const QString &caption : captions)
+        buttons.append(box->addButton(caption, QMessageBox::ActionRole));
+    box->setDefaultButton(static_cast<QPushButton *>(buttons.front()));
+    box->setEscapeButton(buttons.back());
+    box->exec();
+    if (!box)
+        return captions.size() - 1;
+    const qsizetype chosen = buttons.indexOf(box->clickedButton());
+    delete box;
+    return chosen;
+}
+
+void showLater(const QString &text)
+{
+    auto *const box = newBox(nullptr, {text, {}, {}, QMessageBox::Warning});
+    box->setStandardButtons(QMessageBox::Ok);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
 }
 
 } // namespace KOVAVSFDataGridLib::Messages

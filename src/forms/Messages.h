@@ -20,4 +20,11 @@ void tellWithCause(QWidget *parent, const QString &text, const QString &cause);
 bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon,
          QMessageBox::StandardButton onEnter = QMessageBox::Yes);
 
+// Asks with a button for each caption; answers which. Enter presses the first. Closing the box, and Esc, count as the
+// last.
+qsizetype choose(QWidget *parent, const QString &text, const QString &title, const QStringList &captions);
+
+// Shows a text in a box of its own, without waiting for the user to close it.
+void showLater(const QString &text);
+
 } // namespace KOVAVSFDataGridLib::Messages

@@ -30,6 +30,9 @@ struct FindAnswer
     QString field; // where isOneField
 };
 
+// What becomes of a record that can't be saved when its result is about to go.
+enum class Unsaved { SaveAgain, Discard, Stay };
+
 // What a session asks and reports to its user. Each function returns when the user is done; meanwhile a host
 // may do anything, even delete what asked. This one is a user who is not there: every question is cancelled.
 class Questions : public FieldChooser
@@ -49,6 +52,8 @@ public:
     virtual void showWithCause(const QString & /*text*/, const QString & /*cause*/) {}
     // True for Yes. Enter presses No.
     virtual bool ask(const QString & /*text*/, const QString & /*title*/) { return false; }
+    // `reason` says why the record wasn't saved.
+    virtual Unsaved askUnsaved(const QString & /*reason*/) { return Unsaved::Discard; }
     // An empty text when the user cancels.
     virtual QString askCondition(const ConditionRequest &) { return {}; }
     // Nothing when there are no fields to look in.

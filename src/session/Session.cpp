@@ -98,7 +98,7 @@ bool Session::isReady(const Command &command)
     if (!hasGround() || (m_opener && !command.isInViewer))
         return false;
     const ResultWatch watch(*this);
-    if (command.record == Record::IsListedAgain && !m_window->commitEdit())
+    if (command.record == Record::IsListedAgain && !commitEdit())
         return false;
     if (command.record == Record::IsLeft && !saveRecord())
         return false;

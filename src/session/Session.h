@@ -184,9 +184,22 @@ public:
     void updateRecordPosition();
     void takeRecordCount();
 
-    // Saves what was written into the current record, so that it can be left. False when that fails, which
-    // the user has been told, or when the host has put something else in the result's place.
+    // Takes the value that is being typed into the current record. False when it doesn't fit, which the user has
+    // been told, or when the host has put something else in the result's place.
+    bool commitEdit();
+    // The same for all that was written into the record and its way into the database, so that it can be left.
     bool saveRecord();
+    // The same when the result is about to go: a user whose changes can't be saved chooses what becomes of them.
+    // False when he stays.
+    bool leaveResult();
+    // The same for a control that is being destroyed, which can neither ask nor report. Answers why the changes
+    // could not be saved, for the user to read.
+    std::optional<QString> saveSilently();
+    // Whether something was written into the current record that is not saved yet.
+    bool hasUnsavedChanges() const;
+    // Whether records can be neither added, changed nor deleted.
+    bool isReadOnly() const { return m_isReadOnly; }
+    void setReadOnly(bool on);
     // The same for a record that is known to be changed. Throws ADODB::Error when the database refuses.
     void saveChanges();
     // Forgets what was written into it.
@@ -215,6 +228,7 @@ private:
     bool isReady(const Command &command);
     bool hasGround() const { return !m_opener || m_filter; }
     void cancelChanges();
+    std::optional<QString> trySave();
 
     SessionWindow *m_window;
     Questions *m_questions;
@@ -235,6 +249,7 @@ private:
     bool m_isFromResult = false;
     bool m_isRequeried = false;
     bool m_isDetached = false;
+    bool m_isReadOnly = false;
 };
 
 // Whether all fields are shown, as the history writes it.

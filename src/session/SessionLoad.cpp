@@ -52,7 +52,7 @@ std::optional<QString> Session::statementToOpen(clsFilterManagement &manager)
 bool Session::load()
 {
     const auto alive = shared_from_this();
-    if (shared.isOpening)
+    if (shared.isOpening || !leaveResult())
         return false;
     m_reader.forget();
     auto manager = filterManagerForLoad();

@@ -51,26 +51,88 @@ void Session::saveChanges()
     m_window->refreshSingleRecord();
 }
 
+bool Session::commitEdit()
+{
+    const auto alive = shared_from_this();
+    const ResultWatch watch(*this);
+    const std::optional<QString> failure = m_window->commitEdit();
+    if (!failure)
+        return watch.isUntouched();
+    m_questions->show(*failure);
+    if (watch.isUntouched())
+        m_window->focusEdit();
+    return false;
+}
+
+bool Session::hasUnsavedChanges() const
+{
+    if (!m_result.isOpen())
+        return false;
+    const ADODB::EditModeEnum mode = m_result.recordset()->EditMode();
+    return mode == ADODB::adEditInProgress ||
+           (mode == ADODB::adEditAdd && !hasNoValue(*m_result.recordset()));
+}
+
+// Why the record could not be saved; nothing when it was, or has nothing to be saved.
+std::optional<QString> Session::trySave()
+{
+    if (!m_result.isOpen())
+        return {};
+    const ADODB::EditModeEnum mode = m_result.recordset()->EditMode();
+    if (mode != ADODB::adEditAdd && mode != ADODB::adEditInProgress)
+        return {};
+    try {
+        const ADODB::Notifications::Hold hold(*m_notifications);
+        saveChanges();
+        return {};
+    } catch (const ADODB::Error &error) {
+        return SessionMessages::NotSavedPrefix + error.Description();
+    }
+}
+
 bool Session::saveRecord()
 {
     const auto alive = shared_from_this();
     const ResultWatch watch(*this);
-    if (!m_window->commitEdit())
+    if (!commitEdit())
         return false;
-    if (!m_result.isOpen())
-        return true;
-    const ADODB::EditModeEnum mode = m_result.recordset()->EditMode();
-    if (mode != ADODB::adEditAdd && mode != ADODB::adEditInProgress)
-        return true;
-    try {
-        const ADODB::Notifications::Hold hold(*m_notifications);
-        saveChanges();
-    } catch (const ADODB::Error &error) {
-        if (watch.isUntouched())
-            m_questions->show(SessionMessages::NotSavedPrefix + error.Description());
-        return false;
+    const std::optional<QString> failure = trySave();
+    if (failure && watch.isUntouched())
+        m_questions->show(*failure);
+    return !failure && watch.isUntouched();
+}
+
+bool Session::leaveResult()
+{
+    const auto alive = shared_from_this();
+    const ResultWatch watch(*this);
+    for (;;) {
+        std::optional<QString> failure = m_window->commitEdit();
+        if (!failure)
+            failure = trySave();
+        if (!failure || !watch.isUntouched())
+            return watch.isUntouched();
+        const Unsaved choice = m_questions->askUnsaved(*failure);
+        if (!watch.isUntouched())
+            return false;
+        if (choice == Unsaved::Discard)
+            cancelRecord();
+        if (choice != Unsaved::SaveAgain)
+            return choice == Unsaved::Discard;
     }
-    return watch.isUntouched();
+}
+
+std::optional<QString> Session::saveSilently()
+{
+    const auto alive = shared_from_this();
+    const std::optional<QString> failure = m_window->commitEdit();
+    return failure ? failure : trySave();
+}
+
+void Session::setReadOnly(bool on)
+{
+    m_isReadOnly = on;
+    m_window->refreshStatus();
 }
 
 void Session::cancelRecord()

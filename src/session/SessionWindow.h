@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace ADODB {
 class Recordset;
@@ -51,9 +52,11 @@ public:
     virtual void showAllRecords() {}
     // Lists the current record once more, where it is shown as a list.
     virtual void refreshSingleRecord() {}
-    // Takes the value that is being typed into the record. False when that can't be done, which the user has
-    // been told, or when the host has put something else in the result's place meanwhile.
-    virtual bool commitEdit() { return true; }
+    // Takes the value that is being typed into the record. When it doesn't fit it stays, and the answer is why,
+    // for the user to read.
+    virtual std::optional<QString> commitEdit() { return {}; }
+    // Gives the keyboard back to a value that is being typed.
+    virtual void focusEdit() {}
     // Forgets the value that is being typed.
     virtual void cancelEdit() {}
 

@@ -197,6 +197,8 @@ TEST(TypeLibrary, HasTheMembersInTheirOrder)
 51 void ClearObject()
 52 BSTR CellTextL(long* n_row, long* n_col)
 53 long GetGridRowL()
+54 get VARIANT_BOOL ReadOnly()
+54 put void ReadOnly(VARIANT_BOOL)
 )");
 }
 

@@ -44,6 +44,7 @@ constexpr PropertyFacts Properties[] = {
     {"CurrPosition", "int", false, false},
     {"PicField", "QString", true, false},
     {"UserMode", "bool", true, false},
+    {"ReadOnly", "bool", true, false},
 };
 
 constexpr const char *Methods[] = {

@@ -88,9 +88,14 @@ void ControlWindow::refreshSingleRecord()
         m_singleRecord->FillSingleRecordView();
 }
 
-bool ControlWindow::commitEdit()
+std::optional<QString> ControlWindow::commitEdit()
 {
-    return !m_singleRecord || m_singleRecord->editor().commit();
+    return m_singleRecord ? m_singleRecord->editor().commit() : std::nullopt;
+}
+
+void ControlWindow::focusEdit()
+{
+    m_parts.txtEdit->setFocus();
 }
 
 void ControlWindow::cancelEdit()
@@ -103,10 +108,12 @@ void ControlWindow::cancelEdit()
 QString ControlWindow::place() const
 {
     const ADODB::Recordset &recordset = *m_session->result().recordset();
+    const QString unsaved = m_session->hasUnsavedChanges() ? GridTexts::Unsaved : QString();
     if (recordset.EditMode() == ADODB::adEditAdd)
-        return GridTexts::NewRecord.arg(recordset.RecordCount());
+        return GridTexts::NewRecord.arg(recordset.RecordCount()) + unsaved;
     return GridTexts::RecordOf.arg(std::max<qint64>(0, recordset.AbsolutePosition()))
-        .arg(recordset.RecordCount());
+               .arg(recordset.RecordCount()) +
+           unsaved;
 }
 
 void ControlWindow::refreshStatus()

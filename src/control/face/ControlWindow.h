@@ -31,7 +31,8 @@ public:
     void showSingleRecord() override;
     void showAllRecords() override;
     void refreshSingleRecord() override;
-    bool commitEdit() override;
+    std::optional<QString> commitEdit() override;
+    void focusEdit() override;
     void cancelEdit() override;
     void refreshStatus() override;
     void enableCommands() override;

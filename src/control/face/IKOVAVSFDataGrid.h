@@ -217,4 +217,9 @@ public:
     virtual QString CellTextL(const qint32 &n_row, const qint32 &n_col) = 0;
     // As GetGridRow, for any row.
     virtual qint32 GetGridRowL() = 0;
+
+    // Whether the user can neither add, change nor delete records; False at first. A change that is not saved yet
+    // still can be.
+    virtual bool ReadOnly() const = 0;
+    virtual void PutReadOnly(bool on) = 0;
 };

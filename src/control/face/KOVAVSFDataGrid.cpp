@@ -36,6 +36,7 @@ KOVAVSFDataGrid::KOVAVSFDataGrid(QWidget *parent) : QWidget(parent), d(std::make
 
 KOVAVSFDataGrid::~KOVAVSFDataGrid()
 {
+    d->saveBeforeEnd();
     // Dialogs that are open just now stand on the stack of whoever asked. They end as cancelled, and must not
     // be deleted a second time as children of this control.
     const auto dialogs = findChildren<QDialog *>();
@@ -77,7 +78,7 @@ void KOVAVSFDataGrid::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     const QPointer<KOVAVSFDataGrid> alive(this);
-    d->singleRecord.editor().commit(true); // before the editor is put away
+    d->singleRecord.editor().commit(); // before the editor is put away; a text that does not fit is lost from view only
     if (alive)
         d->parts.layOut(event->size().width(), event->size().height());
 }

@@ -49,6 +49,7 @@ class KOVA_EXPORT KOVAVSFDataGrid : public QWidget, public IKOVAVSFDataGrid
     // True at run time, False while the control is being designed. The control finds out for itself whether
     // it sits in a form editor; a host can say otherwise.
     Q_PROPERTY(bool UserMode READ UserMode WRITE PutUserMode STORED false DESIGNABLE false)
+    Q_PROPERTY(bool ReadOnly READ ReadOnly WRITE PutReadOnly STORED false)
 
 public:
     // Who filters and sorts.
@@ -177,6 +178,8 @@ public:
     Q_INVOKABLE void ClearObject() override;
     Q_INVOKABLE QString CellTextL(const qint32 &n_row, const qint32 &n_col) override;
     Q_INVOKABLE qint32 GetGridRowL() override;
+    bool ReadOnly() const override;
+    void PutReadOnly(bool on) override;
 
     // See the property.
     bool UserMode() const;

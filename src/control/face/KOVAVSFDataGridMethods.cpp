@@ -166,6 +166,8 @@ QString KOVAVSFDataGrid::CellText(const qint16 &n_row, const qint16 &n_col)
 void KOVAVSFDataGrid::Clear()
 {
     const auto session = d->session;
+    if (!session->leaveResult())
+        return;
     const ADODB::Notifications::Hold hold(session->notifications());
     session->result().close();
     d->emptyGrid();
@@ -179,6 +181,8 @@ void KOVAVSFDataGrid::Clear()
 void KOVAVSFDataGrid::ClearAll()
 {
     const auto session = d->session;
+    if (!session->leaveResult())
+        return;
     const ADODB::Notifications::Hold hold(session->notifications());
     if (!session->texts.recordSource.isEmpty() && session->result().isOpen()) {
         session->result().close();
@@ -235,6 +239,8 @@ void KOVAVSFDataGrid::SeeCompressView()
 void KOVAVSFDataGrid::ClearObject()
 {
     const auto session = d->session;
+    if (!session->leaveResult())
+        return;
     const ADODB::Notifications::Hold hold(session->notifications());
     saveSelectWholeRows(d->parts.CheckSelAllRow->isChecked());
     d->emptyGrid();

@@ -14,6 +14,7 @@
 #include "grid/TextCells.h"
 
 #include <QtCore/QPointer>
+#include <QtCore/QSignalBlocker>
 #include <QtWidgets/QCheckBox>
 
 #include <stdexcept>
@@ -29,7 +30,8 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
       events(control, parts, *session),
       singleRecord(control, *session, parts),
       commands(control, *session, parts, events, singleRecord),
-      pressedPart(parts)
+      pressedPart(parts),
+      closeGuard(control, *session)
 {
     window.setSession(*session);
     window.setSingleRecordView(&singleRecord);
@@ -64,6 +66,7 @@ void KOVAVSFDataGrid::Private::connectHost()
         Q_EMIT q.RecordChanged(reason,
                                static_cast<qint32>(session->result().recordset()->AbsolutePosition()));
     });
+    connect(parts.Adodc1, &ADODB::Adodc::RecordChangeComplete, &q, [this] { window.refreshStatus(); });
     connect(parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, &q,
             [this](ADODB::EventReasonEnum reason) { Q_EMIT q.RecordsetChanged(reason); });
 }
@@ -168,6 +171,14 @@ QString KOVAVSFDataGrid::Private::cellText(int row, int col, const QString &titl
         Messages::tell(&q, GridTexts::WrongCell, title);
         return {};
     }
+}
+
+void KOVAVSFDataGrid::Private::saveBeforeEnd()
+{
+    const QSignalBlocker nobodyHears(q);
+    const QSignalBlocker nobodyHearsOfMoves(parts.Adodc1);
+    if (const std::optional<QString> failure = session->saveSilently())
+        Messages::showLater(*failure);
 }
 
 void KOVAVSFDataGrid::Private::emptyGrid()

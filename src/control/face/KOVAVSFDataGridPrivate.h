@@ -3,6 +3,7 @@
 #include "control/face/ControlWindow.h"
 #include "control/face/KOVAVSFDataGrid.h"
 #include "control/face/OleColor.h"
+#include "control/input/CloseGuard.h"
 #include "control/input/CommandInput.h"
 #include "control/input/GridEvents.h"
 #include "control/input/PressedPart.h"
@@ -47,6 +48,8 @@ public:
     // For a cell outside the grid a message with the title, and "".
     QString cellText(int row, int col, const QString &title);
     void emptyGrid();
+    // Saves what the user wrote into a record before the control goes; what can't be saved he reads later.
+    void saveBeforeEnd();
 
     void filterWritten() override;
     void askFilter(qint32 &cancel, const QString &base) override;
@@ -76,4 +79,5 @@ public:
 
     KOVAVSFDataGridLib::CommandInput commands;
     KOVAVSFDataGridLib::PressedPart pressedPart;
+    KOVAVSFDataGridLib::CloseGuard closeGuard;
 };

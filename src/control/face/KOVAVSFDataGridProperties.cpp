@@ -343,6 +343,17 @@ void KOVAVSFDataGrid::PutPicField(const QString &field)
     d->session->texts.picField = field;
 }
 
+bool KOVAVSFDataGrid::ReadOnly() const
+{
+    return d->session->isReadOnly();
+}
+
+void KOVAVSFDataGrid::PutReadOnly(bool on)
+{
+    d->session->setReadOnly(on);
+    d->notifyWritten("ReadOnly");
+}
+
 bool KOVAVSFDataGrid::UserMode() const
 {
     return d->isUserMode();

@@ -6,14 +6,14 @@
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
 #include "grid/FlexGrid.h"
-#include "session/Questions.h"
-#include "session/ResultWatch.h"
 #include "session/Session.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QToolTip>
+
+#include <limits>
 
 namespace KOVAVSFDataGridLib {
 
@@ -47,6 +47,8 @@ CellEditor::CellEditor(Session &session, GridParts &parts) : m_session(session),
     // As a part of the list's surface it scrolls along and is cut off at the list's edge.
     m_parts.txtEdit->setParent(m_parts.MSFlexGrid1->viewport());
     m_parts.txtEdit->hide();
+    // A line edit cuts what is longer, and would store it cut.
+    m_parts.txtEdit->setMaxLength(std::numeric_limits<int>::max());
     m_parts.txtEdit->installEventFilter(this);
 }
 
@@ -57,13 +59,13 @@ bool CellEditor::isOpen() const
 
 bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
 {
-    if (gridCol < 1 || !m_session.result().isOpen() || !commit())
+    if (gridCol < 1 || !m_session.result().isOpen() || !m_session.commitEdit())
         return false;
     QLineEdit &edit = *m_parts.txtEdit;
     try {
         const ADODB::Field &field = m_session.result().recordset()->Fields().Item(gridCol - 1);
         const QString value = ADODB::ValueText(field.Value());
-        const bool isReadOnly = !isWritable(field);
+        const bool isReadOnly = m_session.isReadOnly() || !isWritable(field);
         m_field = gridCol - 1;
         m_row = m_parts.MSFlexGrid1->Row();
         edit.setText(isReadOnly ? value : typed.value_or(value));
@@ -89,31 +91,24 @@ void CellEditor::place()
     m_parts.txtEdit->setGeometry(list.visualRect(list.model()->index(m_row - 1, 1)));
 }
 
-bool CellEditor::commit(bool isQuiet)
+std::optional<QString> CellEditor::commit()
 {
     if (!isOpen() || m_isCommitting)
-        return true;
+        return {};
     if (!m_session.result().isOpen()) {
         close(); // the record went away with its result
-        return true;
+        return {};
     }
-    const auto session = m_session.shared_from_this();
-    const ResultWatch watch(*session);
     try {
-        const ADODB::Notifications::Hold hold(
-            session->notifications()); // ends last: the host may delete this
+        // It ends last, because the host may then delete this.
+        const ADODB::Notifications::Hold hold(m_session.notifications());
         const QScopedValueRollback<bool> committing(m_isCommitting, true);
         putValue(m_parts.txtEdit->text());
         close();
+        return {};
     } catch (const ADODB::Error &error) {
-        if (isQuiet)
-            return false;
-        session->questions().show(GridTexts::ValueRefusedPrefix + error.Description());
-        if (watch.isUntouched())
-            m_parts.txtEdit->setFocus();
-        return false;
+        return GridTexts::ValueRefusedPrefix + error.Description();
     }
-    return watch.isUntouched();
 }
 
 // An unchanged text is not written: it may be shorter than the value (fifteen digits of a number). An empty
@@ -144,7 +139,7 @@ bool CellEditor::eventFilter(QObject *watched, QEvent *event)
         switch (static_cast<QKeyEvent *>(event)->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            commit();
+            m_session.commitEdit();
             return true;
         case Qt::Key_Escape:
             close();

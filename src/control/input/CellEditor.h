@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QObject>
+#include <QtCore/QString>
 
 #include <optional>
 
@@ -24,10 +25,9 @@ public:
     // and says so. False when there is no such field or no record.
     bool begin(int gridCol, const std::optional<QString> &typed = {});
     bool isOpen() const;
-    // Closes it and writes what was typed into the field. A text that doesn't fit is reported (unless
-    // `isQuiet`), stays, and the answer is false. True when it isn't open. False as well when the host, while
-    // the user read that, has put another result in its place or destroyed the control.
-    bool commit(bool isQuiet = false);
+    // Closes it and writes what was typed into the field. A text that doesn't fit stays, and the answer is why, for
+    // the user to read.
+    std::optional<QString> commit();
     // Closes it and forgets what was typed.
     void close();
 

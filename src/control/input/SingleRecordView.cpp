@@ -60,7 +60,7 @@ SingleRecordView::SingleRecordView(KOVAVSFDataGrid &control, Session &session, G
     list.horizontalHeader()->viewport()->installEventFilter(this);
     connect(&list, &FlexGrid::CurrentRowChanged, this, [this, &list] {
         list.setAttribute(Qt::WA_InputMethodEnabled); // so that Chinese can be typed to begin an edit
-        m_editor.commit();                            // last, because the host may delete the control
+        m_session.commitEdit();                       // last, because the host may delete the control
     });
 }
 

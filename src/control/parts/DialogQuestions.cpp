@@ -1,5 +1,6 @@
 #include "control/parts/DialogQuestions.h"
 
+#include "control/parts/GridTexts.h"
 #include "control/parts/ToolbarIcons.h"
 #include "filter/mod_Filter.h"
 #include "forms/FindDialog.h"
@@ -40,6 +41,19 @@ void DialogQuestions::showWithCause(const QString &text, const QString &cause)
 bool DialogQuestions::ask(const QString &text, const QString &title)
 {
     return Messages::ask(m_parent, text, title, QMessageBox::Question, QMessageBox::No);
+}
+
+Unsaved DialogQuestions::askUnsaved(const QString &reason)
+{
+    switch (Messages::choose(m_parent, reason, GridTexts::UnsavedTitle,
+                             {GridTexts::SaveAgain, GridTexts::Discard, GridTexts::Stay})) {
+    case 0:
+        return Unsaved::SaveAgain;
+    case 1:
+        return Unsaved::Discard;
+    default:
+        return Unsaved::Stay;
+    }
 }
 
 QString DialogQuestions::askCondition(const ConditionRequest &request)

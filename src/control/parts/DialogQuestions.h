@@ -22,6 +22,7 @@ public:
     void show(const QString &text) override;
     void showWithCause(const QString &text, const QString &cause) override;
     bool ask(const QString &text, const QString &title) override;
+    Unsaved askUnsaved(const QString &reason) override;
     QString askCondition(const ConditionRequest &request) override;
     std::optional<FindAnswer> askWords(const colDataFields &fields) override;
 

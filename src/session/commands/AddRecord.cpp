@@ -17,7 +17,7 @@ namespace {
 
 void addRecord(Session &session)
 {
-    if (!session.result().isOpen() || !session.window().commitEdit())
+    if (session.isReadOnly() || !session.result().isOpen() || !session.commitEdit())
         return;
     const ResultWatch watch(session);
     ADODB::Recordset &recordset = *watch.recordset();

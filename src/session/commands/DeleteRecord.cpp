@@ -51,7 +51,7 @@ void deleteCurrentRecord(Session &session)
 
 void deleteRecord(Session &session)
 {
-    if (!session.result().isOpen())
+    if (session.isReadOnly() || !session.result().isOpen())
         return;
     const bool isNew = session.result().recordset()->EditMode() == ADODB::adEditAdd;
     if ((!session.hasRecords() && !isNew) || !askToDelete(session))
