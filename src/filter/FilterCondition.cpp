@@ -4,6 +4,7 @@
 #include "filter/FilterTexts.h"
 #include "filter/FilterValue.h"
 #include "sql/Like.h"
+#include "sql/Literals.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -86,8 +87,14 @@ QString isEmpty(const Dialect &dialect, const FilterField &field, bool wanted)
 
 } // namespace
 
-FilterCondition ConditionOf(const Dialect &dialect, const FilterChoice &choice)
+FilterCondition ConditionOf(const Dialect &dialect, const FilterChoice &asked)
 {
+    FilterChoice choice = asked;
+    const bool asksForValue = choice.op != FilterOperator::IsEmpty && choice.op != FilterOperator::IsNotEmpty;
+    if (asksForValue && choice.field.fieldClass == FieldClass::Date)
+        choice.field.written = DateOperand(dialect, choice.field.written);
+    else if (asksForValue && choice.field.fieldClass == FieldClass::Moment)
+        choice.field.written = MomentOperand(dialect, choice.field.written);
     const FilterField &field = choice.field;
     if (field.written.isEmpty())
         return {{}, FilterTexts::NoField};

@@ -9,6 +9,7 @@
 #include "filter/FilterSql.h"
 #include "sql/Names.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QSet>
 
 #include <algorithm>
@@ -42,7 +43,16 @@ void FilterSource::setConnectionString(const QString &text)
 
 void FilterSource::setTable(const QString &fromText)
 {
+    m_prefix.clear();
     m_fromText = fromText.trimmed();
+    m_offered.clear();
+}
+
+void FilterSource::setResult(const FilteredResult &result)
+{
+    m_prefix = result.prefix;
+    m_fromText = result.source;
+    m_offered = result.fields;
 }
 
 Dialect FilterSource::dialect() const
@@ -81,6 +91,8 @@ bool FilterSource::askWhetherBackslashEscapes()
 std::vector<FilterField> FilterSource::readFields()
 {
     m_escapesByBackslash = askWhetherBackslashEscapes();
+    if (!m_offered.isEmpty())
+        return readOfferedFields();
     std::vector<ADODB::FieldInfo> infos;
     const QString everything = u"SELECT * FROM "_s;
     try {
@@ -116,10 +128,30 @@ std::vector<FilterField> FilterSource::readFields()
     return fields;
 }
 
+// Fields of equal names keep the order in which the user sees them.
+std::vector<FilterField> FilterSource::readOfferedFields()
+{
+    QStringList written;
+    for (const OfferedField &field : m_offered)
+        written.append(field.written);
+    const auto infos =
+        connection()->Describe(m_prefix + u"SELECT "_s + written.join(u',') + u" FROM "_s + m_fromText);
+    std::vector<FilterField> fields;
+    QHash<QString, int> timesUsed;
+    for (std::size_t i = 0; i < infos.size() && i < static_cast<std::size_t>(m_offered.size()); ++i) {
+        const OfferedField &field = m_offered.at(static_cast<qsizetype>(i));
+        const int times = ++timesUsed[field.name];
+        const QString caption = times == 1 ? field.name : u"%1 (%2)"_s.arg(field.name).arg(times);
+        fields.push_back({caption, field.written, FieldClassOf(infos[i].type)});
+    }
+    return fields;
+}
+
 QStringList FilterSource::readValues(const FilterField &field)
 {
     ADODB::Recordset values;
-    values.Open(FilterSql::DistinctValues(dialect(), field.written, m_fromText, MostValues), connection());
+    values.Open(m_prefix + FilterSql::DistinctValues(dialect(), field.written, m_fromText, MostValues),
+                connection());
     QStringList texts;
     for (qint64 record = 1; record <= values.RecordCount(); ++record) {
         if (const QString text = values.CellText(record, 0); !text.isEmpty())
@@ -130,7 +162,7 @@ QStringList FilterSource::readValues(const FilterField &field)
 
 void FilterSource::check(const QString &condition)
 {
-    connection()->Describe(u"SELECT * FROM "_s + m_fromText + " WHERE "_L1 + condition);
+    connection()->Describe(m_prefix + u"SELECT * FROM "_s + m_fromText + " WHERE "_L1 + condition);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "filter/FilterCondition.h"
+#include "query/Derivation.h"
 
 #include <memory>
 #include <vector>
@@ -28,6 +29,9 @@ public:
     // As it stands behind FROM: a table's name, written as SQL needs it or plain, or several tables joined.
     void setTable(const QString &fromText);
 
+    // The rows of a statement's result instead of a table.
+    void setResult(const FilteredResult &result);
+
     bool hasTable() const { return !m_fromText.isEmpty(); }
     // How conditions are written. What the database has to be asked for is known once readFields() was
     // called.
@@ -42,12 +46,15 @@ public:
 
 private:
     const std::shared_ptr<ADODB::Connection> &connection();
+    std::vector<FilterField> readOfferedFields();
     bool askWhetherBackslashEscapes();
 
     AllDBType m_database = dbAccess;
     QString m_connectionString;
     std::shared_ptr<ADODB::Connection> m_connection;
+    QString m_prefix;
     QString m_fromText;
+    QList<OfferedField> m_offered; // of a result; empty for a table
     bool m_escapesByBackslash = false;
 };
 

@@ -115,9 +115,20 @@ void SetFilter::SetCurrentTable(const QString &name)
 
 void SetFilter::SetTableName(const QString &fromText)
 {
+    m_source.setTable(fromText);
+    readFields();
+}
+
+void SetFilter::SetResult(const FilteredResult &result)
+{
+    m_source.setResult(result);
+    readFields();
+}
+
+void SetFilter::readFields()
+{
     auto context = std::make_shared<FilterRowContext>();
     QString fault;
-    m_source.setTable(fromText);
     m_knownValues.clear();
     try {
         const WaitCursor waiting;

@@ -34,12 +34,16 @@ public:
     // condition can still be typed.
     void SetTableName(const QString &fromText);
 
+    // The same with the fields of a result.
+    void SetResult(const FilteredResult &result);
+
     // The condition, ready to be joined to others by AND. Empty when there is none or something is wrong with
     // it, which is then shown.
     QString ConditionText();
 
 private:
     void layOut();
+    void readFields();
     void addRow();
     void showFocusedPart();
     void onRowsChanged();

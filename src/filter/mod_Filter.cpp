@@ -50,7 +50,9 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
     else
         builder.SetConnectionString(request.connectionString);
     builder.SetCurrentTable(m_strTableName);
-    if (m_isTableKnown)
+    if (request.result)
+        builder.SetResult(*request.result);
+    else if (m_isTableKnown)
         builder.SetTableName(fromText);
 }
 

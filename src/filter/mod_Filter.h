@@ -1,5 +1,6 @@
 #pragma once
 
+#include "query/Derivation.h"
 #include "query/FilterTableName.h"
 #include "sql/AllDBType.h"
 
@@ -7,6 +8,7 @@
 #include <QtGui/QIcon>
 
 #include <memory>
+#include <optional>
 
 class QWidget;
 
@@ -27,6 +29,8 @@ struct FilterRequest
     QString sqlShow;      // the statement whose table is filtered
     // For table type 2, where the connection string alone may not lead to the same data; may be null.
     std::shared_ptr<ADODB::Connection> connection;
+    // Where the statement isn't the plain rows of a table: what it is filtered by instead.
+    std::optional<FilteredResult> result = {};
     QIcon picture = {}; // of the command that asks; may be null
 };
 

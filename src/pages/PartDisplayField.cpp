@@ -107,6 +107,7 @@ void PartDisplayField::listFields()
         return;
 
     m_table = all ? all->table : part->table;
+    m_words = all ? all->words : part->words;
     const QStringList chosen = part ? part->fields : QStringList();
     m_chosen->clear();
     m_chosen->addItems(chosen);
@@ -126,7 +127,7 @@ void PartDisplayField::move(QListWidget &from, QListWidget &to)
         return;
     to.addItem(from.takeItem(from.row(selected.first())));
     to.setCurrentRow(to.count() - 1);
-    text().setText(PartFields::compose(textsOf(*m_chosen), m_table, databaseOf(*control())));
+    text().setText(PartFields::compose(textsOf(*m_chosen), m_table, databaseOf(*control()), m_words));
     enableButtons();
 }
 

@@ -31,6 +31,7 @@ private:
     QPushButton *m_add;
     QPushButton *m_remove;
     QString m_table;
+    QString m_words; // before the list
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -1,12 +1,9 @@
 #include "pages/PartFields.h"
 
-#include "query/SharedValues.h"
 #include "query/SqlText.h"
-#include "query/modQNVSFHFDataMain.h"
+#include "sql/SelectParts.h"
 
 #include <QtCore/QRegularExpression>
-
-#include <stdexcept>
 
 namespace KOVAVSFDataGridLib::PartFields {
 
@@ -14,16 +11,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Brackets that a name could do without go; what is in others could be taken for an expression.
 QString withoutBrackets(const QString &name)
 {
-    const bool isOnePair = name.startsWith(u'[') && name.indexOf(u']') == name.size() - 1;
-    return isOnePair ? name.mid(1, name.size() - 2) : name;
+    static const QRegularExpression enclosed(uR"(\A\[([\p{L}\p{N}_ ]+)\]\z)"_s,
+                                             QRegularExpression::UseUnicodePropertiesOption);
+    const auto match = enclosed.match(name);
+    return match.hasMatch() ? match.captured(1) : name;
 }
 
 // Brackets would make a strange name of an expression or an alias, and can't stand around others.
 bool isMoreThanAName(const QString &field)
 {
-    static const QRegularExpression signs(uR"x([\[\]()"'`]|\sas\s)x"_s,
+    static const QRegularExpression signs(uR"x([\[\]()"'`*/+|<>=-]|\sas\s)x"_s,
                                           QRegularExpression::CaseInsensitiveOption);
     return field.contains(signs);
 }
@@ -33,35 +33,46 @@ QString enclosed(const QString &field)
     return isMoreThanAName(field) ? field : u'[' + QString(field).replace(u'.', "].["_L1) + u']';
 }
 
+// An alias gets its AS, without which it would be taken for a part of the name.
+QString textOf(const SqlScanner &sql, const SelectParts::Item &item)
+{
+    const bool hasAlias = item.value.end < item.tokens.end;
+    if (!hasAlias || sql.isWord(item.value.end, u"AS"))
+        return TextOf(sql, item.tokens);
+    return TextOf(sql, item.value) + u" AS "_s + TextOf(sql, {item.value.end, item.tokens.end});
+}
+
 } // namespace
 
 std::optional<NamedFields> read(const QString &statement, AllDBType database)
 {
-    const QString line = JoinStatementLines(statement);
-    if (!line.contains("select"_L1, Qt::CaseInsensitive) || GetFromPart(line).isEmpty())
+    const SqlScanner sql(JoinStatementLines(statement));
+    const SelectParts parts = SelectParts::of(sql);
+    if (!parts.isSelect || parts.source.isEmpty())
         return std::nullopt;
     NamedFields named;
-    named.table = GetSQLTableName(line).trimmed();
-    try {
-        ParseSelFieldList(line);
-    } catch (const std::invalid_argument &) {
-        return std::nullopt; // not to be understood: what was listed before is better than half of it
+    named.table = TextOf(sql, parts.source);
+    named.words = TextOf(sql, parts.listWords);
+    for (const SelectParts::Item &item : parts.items) {
+        if (item.tokens.isEmpty())
+            return std::nullopt; // not to be understood: what was listed before is better than half of it
+        if (item.isStar)
+            continue;
+        const QString text = textOf(sql, item);
+        named.fields += database == dbAccess ? withoutBrackets(text) : text;
     }
-    for (const QString &written : SharedValues::instance().parsed.colSelFields) {
-        if (!written.isEmpty() && written != "*"_L1 && !written.endsWith(".*"_L1))
-            named.fields += database == dbAccess ? withoutBrackets(written) : written;
-    }
-    return named.table.isEmpty() ? std::nullopt : std::make_optional(named);
+    return named;
 }
 
-QString compose(const QStringList &fields, const QString &table, AllDBType database)
+QString compose(const QStringList &fields, const QString &table, AllDBType database, const QString &words)
 {
     if (fields.isEmpty())
         return {};
     QStringList written;
     for (const QString &field : fields)
         written += database == dbAccess ? enclosed(field) : field;
-    return u"select "_s + written.join(u',') + u" from "_s + table;
+    return u"select "_s + (words.isEmpty() ? QString() : words + u' ') + written.join(u',') + u" from "_s +
+           table;
 }
 
 bool isSame(const QString &a, const QString &b)

@@ -53,7 +53,7 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
         return;
     }
     const bool isSimple = m_parts.with.isEmpty() && m_parts.listWords.isEmpty() && isFoundAsText() &&
-                          hasPlainList() && !hasEqualNames();
+                          hasPlainList() && equalName().isEmpty();
     m_kind = isSimple ? Kind::Simple : Kind::Open;
 }
 
@@ -97,12 +97,8 @@ QString Derivation::whyNot(DerivationStep step) const
     const bool isWhole = m_kind == Kind::Closed && !(step == DerivationStep::Fields && keepsListWords());
     if (isWhole && m_names.contains(QString()))
         return QueryTexts::UnnamedField();
-    if (isWhole && hasEqualNames()) {
-        for (const QString &name : m_names) {
-            if (m_names.count(name) > 1 || m_names.filter(name, Qt::CaseInsensitive).size() > 1)
-                return QueryTexts::EqualNames().arg(name);
-        }
-    }
+    if (isWhole && !equalName().isEmpty())
+        return QueryTexts::EqualNames().arg(equalName());
     return {};
 }
 
@@ -246,6 +242,16 @@ QString Derivation::prefix() const
     if (m_parts.with.isEmpty())
         return {};
     return withWordsApart(m_sql, m_parts.with, 0) + u' ';
+}
+
+FilteredResult Derivation::filteredResult() const
+{
+    FilteredResult result{prefix(), source(), {}};
+    for (qsizetype i = 0; i < m_names.size(); ++i) {
+        if (!m_written.at(i).isEmpty())
+            result.fields.append({m_names.at(i), m_written.at(i)});
+    }
+    return result;
 }
 
 SQLSentence Derivation::base() const

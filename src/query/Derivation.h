@@ -1,5 +1,6 @@
 #pragma once
 
+#include "query/FieldChooser.h"
 #include "query/FieldReader.h"
 #include "query/SqlText.h"
 #include "sql/SelectParts.h"
@@ -8,6 +9,14 @@
 
 // Statements derived from any SELECT, such that the rows are right.
 namespace KOVAVSFDataGridLib {
+
+// The rows that a condition is looked for in: SELECT written FROM source, with the prefix in front.
+struct FilteredResult
+{
+    QString prefix;
+    QString source;
+    QList<OfferedField> fields; // those of the result that a condition can name
+};
 
 // What a command does to a statement; see Derivation::whyNot.
 enum class DerivationStep { Condition, Sort, Fields };
@@ -41,6 +50,8 @@ public:
     // Whether only the result's fields tell what kind it is: a star can bring equal names from several
     // tables.
     bool needsFields() const;
+    // Whether it selects from more than one table.
+    bool isJoined() const { return m_parts.sources.size() > 1; }
 
     // For each field of the result, what a condition or a sort writes; empty where no name is unmistakable.
     const QStringList &written() const { return m_written; }
@@ -79,6 +90,7 @@ public:
     // any condition: SELECT DISTINCT written() FROM source().
     QString source() const;
     QString prefix() const;
+    FilteredResult filteredResult() const;
 
 private:
     enum class Kind { Simple, Open, Closed };
@@ -88,7 +100,7 @@ private:
     QString qualified(const SourceField &field, const QString &qualifier, bool isUnique) const;
     bool isFoundAsText() const;
     bool hasPlainList() const;
-    bool hasEqualNames() const;
+    QString equalName() const; // a name that several fields have; empty when there is none
     // The clauses that the steps work on: those of this statement, or of one that has it as a table.
     SQLSentence base() const;
     QString asTable() const;

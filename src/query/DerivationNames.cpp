@@ -130,10 +130,11 @@ QString Derivation::qualified(const SourceField &field, const QString &qualifier
     return source ? source->writtenAlias + u'.' + name : QString();
 }
 
-bool Derivation::hasEqualNames() const
+QString Derivation::equalName() const
 {
-    return std::any_of(m_names.cbegin(), m_names.cend(),
-                       [&](const QString &name) { return countOf(m_names, name) > 1; });
+    const auto found = std::find_if(m_names.cbegin(), m_names.cend(),
+                                    [&](const QString &name) { return countOf(m_names, name) > 1; });
+    return found == m_names.cend() ? QString() : *found;
 }
 
 int Derivation::fieldOfTerm(const SelectParts::Item &term) const

@@ -107,6 +107,8 @@ public:
     // fields; `column` counts from 0. Tells columns of equal names apart. Empty when there is no such name.
     QString GetColumnRealName(const QString &shownStatement, const QStringList &shownNames,
                               qsizetype column) const;
+    // What the filter dialog offers instead of a table's fields; nothing for simple statements of one table.
+    std::optional<FilteredResult> GetFilteredResult() const;
     // What a condition writes for a field of the catalogue, where that isn't left to whoever builds it.
     QString GetConditionName(const clsDataField &field) const;
 

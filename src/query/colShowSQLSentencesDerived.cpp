@@ -58,6 +58,15 @@ QString colShowSQLSentences::GetColumnRealName(const QString &shownStatement, co
     return derivation->written().at(column);
 }
 
+std::optional<FilteredResult> colShowSQLSentences::GetFilteredResult() const
+{
+    const clsShowSQLSentence *const latest = Latest();
+    const auto all = latest ? DerivationOf(latest->AllFields) : std::nullopt;
+    if (!all || (all->isSimple() && !all->isJoined()))
+        return std::nullopt;
+    return all->filteredResult();
+}
+
 QString colShowSQLSentences::GetConditionName(const clsDataField &field) const
 {
     const clsShowSQLSentence *const latest = Latest();

@@ -80,6 +80,20 @@ QString DateLiteral(const Dialect &dialect, QDate date)
     return momentText(dialect, "d"_L1, date.toString(Qt::ISODate));
 }
 
+QString DateOperand(const Dialect &dialect, const QString &field)
+{
+    const bool isText = dialect.engine == Engine::SQLite && !dialect.isOdbc;
+    return isText ? u"COALESCE(date(%1), %1)"_s.arg(field) : field;
+}
+
+QString MomentOperand(const Dialect &dialect, const QString &field)
+{
+    const bool isText = dialect.engine == Engine::SQLite && !dialect.isOdbc;
+    // A fraction only where there is one, as literals have it.
+    return isText ? u"COALESCE(REPLACE(strftime('%Y-%m-%d %H:%M:%f', %1), '.000', ''), %1)"_s.arg(field)
+                  : field;
+}
+
 QString TimeLiteral(const Dialect &dialect, QTime time)
 {
     return momentText(dialect, "t"_L1, timeText(time));

@@ -19,4 +19,9 @@ QString DateLiteral(const Dialect &dialect, QDate date);
 QString TimeLiteral(const Dialect &dialect, QTime time);
 QString MomentLiteral(const Dialect &dialect, const QDateTime &moment);
 
+// A field of days or moments as it is compared with DateLiteral or MomentLiteral. SQLite keeps them as texts
+// of several forms, of which those that mean the same are to be equal.
+QString DateOperand(const Dialect &dialect, const QString &field);
+QString MomentOperand(const Dialect &dialect, const QString &field);
+
 } // namespace KOVAVSFDataGridLib

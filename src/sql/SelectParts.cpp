@@ -185,8 +185,10 @@ private:
     {
         SelectParts::Item item{{first, end}, {first, end}, {}, false, false};
         qsizetype valueEnd = end;
-        const bool endsInName =
-            end - first >= 2 && (m_sql.isName(end - 1) || m_sql.at(end - 1).kind == SqlToken::Kind::String);
+        // To PostgreSQL a text after a name is a value of the type so named.
+        const bool endsInText = end > first && m_sql.at(end - 1).kind == SqlToken::Kind::String &&
+                                m_sql.dialect() != SqlDialect::PostgreSql;
+        const bool endsInName = end - first >= 2 && (m_sql.isName(end - 1) || endsInText);
         if (endsInName && m_sql.at(end - 1).depth == 0) {
             if (m_sql.isWord(end - 2, u"AS"))
                 valueEnd = end - 2;

@@ -118,8 +118,8 @@ bool SqlScanner::isNameQuote(QChar c) const
         return c == u'"';
     case SqlDialect::SqlServer:
         return c == u'"' || c == u'[';
-    case SqlDialect::MySql:
-        return c == u'"' || c == u'`';
+    case SqlDialect::MySql: // brackets in MSSQL mode, and an error in all others
+        return c == u'"' || c == u'`' || c == u'[';
     case SqlDialect::Standard:
         break;
     }

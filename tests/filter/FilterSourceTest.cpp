@@ -112,3 +112,19 @@ TEST(FilterSource, ReadsOdbcOffTheConnectionString)
     EXPECT_FALSE(LeadsToOdbc(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=nwind.mdb"_s));
     EXPECT_FALSE(LeadsToOdbc(u"Data Source='not closed"_s));
 }
+
+TEST_F(Source, OffersTheFieldsOfAResult)
+{
+    source.setResult({u"with V2 as (select * from A) "_s,
+                      u"V2 x, B"_s,
+                      {{u"No"_s, u"x.ID"_s}, {u"ID"_s, u"B.ID"_s}, {u"ID"_s, u"(x.ID + 1)"_s}}});
+    const auto fields = source.readFields();
+    ASSERT_EQ(fields.size(), 3U);
+    EXPECT_EQ(fields[0].caption, u"No"_s);
+    EXPECT_EQ(fields[0].written, u"x.ID"_s);
+    EXPECT_EQ(fields[0].fieldClass, FieldClass::Number);
+    EXPECT_EQ(fields[2].caption, u"ID (2)"_s);
+    EXPECT_TRUE(source.readValues(fields[2]).isEmpty());
+    EXPECT_NO_THROW(source.check(u"x.ID = 1"_s));
+    EXPECT_THROW(source.check(u"A.ID = 1"_s), ADODB::Error);
+}

@@ -88,7 +88,8 @@ TEST_F(PickedValues, ADayIsPickedFromACalendarAndKeepsTheTimeBehindIt)
     EXPECT_EQ(calendar->selectedDate(), QDate(2024, 1, 5));
     QTest::keyClick(calendar->focusWidget() ? calendar->focusWidget() : calendar, Qt::Key_Right);
     QTest::keyClick(calendar->focusWidget() ? calendar->focusWidget() : calendar, Qt::Key_Return);
-    EXPECT_EQ(answer(), "发货时间 = '2024-01-06 08:30:00'");
+    EXPECT_EQ(answer(), "COALESCE(REPLACE(strftime('%Y-%m-%d %H:%M:%f', 发货时间), '.000', ''), 发货时间)"
+                        " = '2024-01-06 08:30:00'");
 }
 
 TEST_F(PickedValues, TheCalendarHasNoPicturesOfItsOwn)

@@ -58,6 +58,22 @@ TEST(PartFields, WhatIsMoreThanANameStaysAsItIs)
         u"select [T].[A],T.[B],count(x),a AS b,'x' from T"_s);
 }
 
+TEST(PartFields, RunWhateverIsListed)
+{
+    const auto again = [](const QString &statement) {
+        const auto named = PartFields::read(statement, dbAccess);
+        return named ? PartFields::compose(named->fields, named->table, dbAccess, named->words) : QString();
+    };
+    EXPECT_EQ(again(u"select distinct ID, [Full Name] from T where ID > 1"_s),
+              u"select distinct [ID],[Full Name] from T"_s);
+    EXPECT_EQ(again(u"select top 5 ID as No, Name N, coalesce(a, b), Qty*2 from T"_s),
+              u"select top 5 ID as No,Name AS N,coalesce(a, b),Qty*2 from T"_s);
+    EXPECT_EQ(again(u"select [A-B], [a.b], [单价(元)], 'x, y' from T"_s),
+              u"select [A-B],[a.b],[单价(元)],'x, y' from T"_s);
+    EXPECT_EQ(again(u"select (select max(x) from U where U.i = T.i) m, 订单.编号 from T, 订单 order by 1"_s),
+              u"select (select max(x) from U where U.i = T.i) AS m,[订单].[编号] from T, 订单"_s);
+}
+
 TEST(PartFields, AreTheSameWithAndWithoutBrackets)
 {
     EXPECT_TRUE(PartFields::isSame(u"[Full Name]"_s, u"full name"_s));

@@ -75,3 +75,58 @@ TEST(CellFilterOnEngines, ComparesNumbersAsNumbersWhereLikeTakesNone)
     EXPECT_EQ(condition(3, u"12"_s, Engine::MySQL), u"F like 12"_s);
     EXPECT_EQ(condition(3, u"12"_s, Engine::SQLite), u"F like 12"_s);
 }
+
+TEST(CellFilterOnEngines, WritesANumberOnlyWhereTheValueIsOne)
+{
+    const auto condition = [](qint32 type, const QString &text, Engine engine) {
+        return BuildCellFilter(u"F"_s, type, text, engine).condition;
+    };
+    EXPECT_EQ(condition(3, u"0 UNION SELECT token,x FROM secret --"_s, Engine::SQLite),
+              u"F like ('0 UNION SELECT token,x F' || 'ROM secret --')"_s);
+    EXPECT_EQ(condition(3, u"n/a"_s, Engine::MySQL), u"F like 'n/a'"_s);
+    EXPECT_EQ(condition(131, u"O'Neil"_s, Engine::SQLite), u"F like 'O''Neil'"_s);
+    EXPECT_EQ(condition(5, u"NaN"_s, Engine::PostgreSQL), u"F = 'NaN'"_s);
+    EXPECT_EQ(condition(3, u"-7"_s, Engine::SQLite), u"F like -7"_s);
+}
+
+TEST(CellFilterOnEngines, FindsWholeNumbersInFloatingColumns)
+{
+    const auto condition = [](qint32 type, const QString &text, Engine engine) {
+        return BuildCellFilter(u"F"_s, type, text, engine).condition;
+    };
+    EXPECT_EQ(condition(5, u"10"_s, Engine::SQLite), u"F like 10.0"_s);
+    EXPECT_EQ(condition(4, u"10.5"_s, Engine::SQLite), u"F like 10.5"_s);
+    EXPECT_EQ(condition(5, u"1e+20"_s, Engine::SQLite), u"F like 1e+20"_s);
+    EXPECT_EQ(condition(131, u"10"_s, Engine::SQLite), u"F like 10"_s);
+    EXPECT_EQ(condition(5, u"10"_s, Engine::MySQL), u"F like 10"_s);
+    EXPECT_EQ(condition(5, u"10"_s, Engine::SqlServer), u"F = 10"_s);
+}
+
+TEST(CellFilterOnEngines, TakesCurrencyForANumber)
+{
+    EXPECT_EQ(BuildCellFilter(u"F"_s, 6, u"12.5"_s, Engine::SQLite).condition, u"F = 12.5"_s);
+    QString condition;
+    EXPECT_TRUE(BuildLikeAllCondition(u"1"_s, {u"F"_s, 6}, u"SELECT * FROM T"_s, dbAccess, condition,
+                                      Engine::SQLite));
+    EXPECT_EQ(condition, u" (T.[F] LIKE '%1%' ) "_s);
+}
+
+TEST(QuickFilterOnEngines, LeavesOutWhatCantHoldAWordWhereLikeNeedsACast)
+{
+    EXPECT_EQ(
+        quickFilter(Engine::PostgreSQL, dbOracle, u"a%1"_s),
+        u" (CAST(name AS TEXT) LIKE '%a%' ) And  (CAST(name AS TEXT) LIKE '%1%' OR CAST(price AS TEXT) LIKE "
+        "'%1%' OR CAST(day AS TEXT) LIKE '%1%' ) "_s);
+    QString condition;
+    EXPECT_TRUE(BuildLikeAllCondition(u"a"_s, {u"price"_s, 131}, u"SELECT * FROM t"_s, dbOracle, condition,
+                                      Engine::PostgreSQL));
+    EXPECT_EQ(condition, u" (CAST(price AS TEXT) LIKE '%a%' ) "_s) << "one field remains";
+}
+
+TEST(QuickFilterOnEngines, WritesWhatTheResultCallsAField)
+{
+    QString condition;
+    EXPECT_TRUE(BuildLikeAllCondition(u"a"_s, {u"No"_s, 202, u"o.Name"_s}, u"SELECT 'WHERE ' FROM T"_s,
+                                      dbAccess, condition, Engine::SQLite));
+    EXPECT_EQ(condition, u" (o.Name LIKE '%a%' ) "_s);
+}

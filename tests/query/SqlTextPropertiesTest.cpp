@@ -1,3 +1,4 @@
+#include "query/Derivation.h"
 #include "query/FieldNames.h"
 #include "query/SqlText.h"
 #include "sql/Names.h"
@@ -99,4 +100,30 @@ TEST(SqlTextProperties, NameRoutinesTakeAnyText)
         for (const QString &written : WrittenFields(text))
             ASSERT_FALSE(written.contains(u','));
     }
+}
+
+TEST(SqlTextProperties, DerivationsTakeAnyText)
+{
+    StatementMaker make;
+    for (int i = 0; i < 5000; ++i) {
+        const QString text = make();
+        for (const Engine engine : {Engine::SQLite, Engine::PostgreSQL, Engine::MySQL, Engine::SqlServer}) {
+            const Derivation derivation(text, {{u"A"_s, 3}, {u"B"_s, 202}}, DialectOf(dbOracle, engine));
+            ASSERT_EQ(derivation.written().size(), 2);
+            ASSERT_EQ(derivation.listed().size(), 2);
+            derivation.withSort(u"A"_s);
+            derivation.withFields(derivation.listed());
+            derivation.withoutConditions();
+            const QString filtered = derivation.withCondition(u"A = 1"_s);
+            ASSERT_TRUE(filtered.isEmpty() || filtered.contains(u"A = 1"_s));
+            Derivation(filtered, {}, DialectOf(dbOracle, engine)).withFieldsOf(derivation);
+        }
+    }
+}
+
+TEST(SqlTextProperties, ListsAreCutWhereTheyAreJoined)
+{
+    EXPECT_EQ(SplitList(u" a, f(b, c) ,[d,e] , 'f,g' desc,, "_s),
+              (QStringList{u"a"_s, u"f(b, c)"_s, u"[d,e]"_s, u"'f,g' desc"_s}));
+    EXPECT_TRUE(SplitList({}).isEmpty());
 }

@@ -1,0 +1,144 @@
+// The history and the filter manager over statements that plain text work can't derive from.
+#include "query/clsFilterManagement.h"
+
+#include "MemorySource.h"
+#include "SampleDatabase.h"
+#include "query/QueryTexts.h"
+
+#include <gtest/gtest.h>
+
+using namespace KOVAVSFDataGridLib;
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class HistoryDerivation : public testing::Test
+{
+protected:
+    void load(const QString &statement, const QString &part = {}, const QString &sort = {})
+    {
+        manager.SetDBType(dbAccess);
+        manager.SetDBConnString(u"memory"_s);
+        manager.SetAllFields(statement);
+        manager.SetShowFields(part);
+        manager.SetOrderFields(sort);
+        manager.SetOriginFilter(statement);
+        manager.SetSQLInitData();
+        first = manager.GetCurrentSQL20(0);
+        show(first);
+    }
+    void show(const QString &statement, const QString &part = colShowSQLSentences::NoPartField())
+    {
+        history.AddCurrentSQL(statement, 1, part, colShowSQLSentences::NoSort());
+        history.GetCurrSQLFieldsStatus();
+    }
+    QStringList firstColumn(const QString &statement) const
+    {
+        const Rows rows = database->read(statement);
+        EXPECT_EQ(rows.error, QString()) << qPrintable(statement);
+        QStringList values;
+        for (const Row &row : rows.rows)
+            values.append(row.first());
+        return values;
+    }
+
+    std::unique_ptr<SqliteRows> database = sampleDatabase();
+    SqliteReader reader{*database};
+    MemoryChooser chooser;
+    clsFilterManagement manager{&reader, &chooser};
+    colShowSQLSentences &history = manager.SQLManager();
+    QString first;
+    QString next;
+};
+
+} // namespace
+
+TEST_F(HistoryDerivation, ASimpleStatementStaysLetterForLetter)
+{
+    load(u"select * from Ord where Qty > 1"_s);
+    EXPECT_TRUE(history.GetNextSQLByFilter(u"Name = 'bob'"_s, next));
+    EXPECT_EQ(next, u"select * from Ord  where Qty > 1 AND Name = 'bob' "_s);
+    EXPECT_FALSE(history.GetFilteredResult());
+    EXPECT_EQ(history.GetConditionName(*history.DataFields().Item(1)), QString());
+}
+
+TEST_F(HistoryDerivation, TheCatalogueHasTheResultsNamesAndWhatConditionsWrite)
+{
+    load(u"select o.ID as No, c.Name, o.Name, Qty * 2 as Twice from Ord o join Cust c on c.ID = o.Cust"_s);
+    QStringList written;
+    for (const clsDataField &field : history.DataFields())
+        written.append(field.FieldName + u'=' + history.GetConditionName(field));
+    EXPECT_EQ(written, (QStringList{u"No=o.ID"_s, u"Name=c.Name"_s, u"Name=o.Name"_s, u"Twice=(Qty * 2)"_s}));
+    const QStringList names{u"No"_s, u"Name"_s, u"Name"_s, u"Twice"_s};
+    EXPECT_EQ(history.GetColumnRealName(first, names, 2), u"o.Name"_s);
+    EXPECT_EQ(history.GetColumnRealName(first, names, 4), QString());
+    const auto filtered = history.GetFilteredResult();
+    ASSERT_TRUE(filtered);
+    EXPECT_EQ(filtered->fields.size(), 4);
+    EXPECT_EQ(filtered->fields.at(3).name + filtered->fields.at(3).written, u"Twice(Qty * 2)"_s);
+    EXPECT_EQ(filtered->source, u"Ord o join Cust c on c.ID = o.Cust"_s);
+}
+
+TEST_F(HistoryDerivation, ASortSetUpByTheHostGoesOutsideALimit)
+{
+    load(u"select ID, Name from Ord limit 3"_s, {}, u"ID DESC"_s);
+    EXPECT_EQ(firstColumn(first).size(), 3) << qPrintable(first);
+    EXPECT_TRUE(first.endsWith(u"ORDER BY ID DESC"));
+}
+
+TEST_F(HistoryDerivation, AnEmptiedSortListRemovesTheSort)
+{
+    load(u"select ID as No from Ord order by No desc"_s);
+    chooser.choice = QString();
+    QString sort;
+    EXPECT_TRUE(manager.GetPartSortSelFields(first, u"No desc"_s, sort));
+    EXPECT_EQ(chooser.written, QStringList(u"ID"_s));
+    EXPECT_TRUE(history.GetNextSQLBySort(sort, next));
+    EXPECT_FALSE(next.contains(u"ORDER BY", Qt::CaseInsensitive)) << qPrintable(next);
+    chooser.choice.reset();
+    EXPECT_FALSE(manager.GetPartSortSelFields(first, {}, sort)) << "cancelled";
+}
+
+TEST_F(HistoryDerivation, TheWholeTableKeepsTheGrouping)
+{
+    load(u"select Cust, count(*) as N from Ord where Qty > 1 group by Cust order by Cust"_s);
+    EXPECT_TRUE(history.GetNextSQLByFilter(u"N > 1"_s, next));
+    EXPECT_EQ(firstColumn(next), (QStringList{u"2"_s, u"3"_s}));
+    show(next);
+    QString whole;
+    EXPECT_TRUE(manager.GetRequirePartSQL(next, 3, whole));
+    EXPECT_EQ(firstColumn(whole), (QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s})) << qPrintable(whole);
+    EXPECT_TRUE(manager.LetNewFilter(u"N = 1"_s, next)) << "from the statement that the manager remembers";
+    EXPECT_EQ(firstColumn(next), (QStringList{u"1"_s}));
+}
+
+TEST_F(HistoryDerivation, AHostsPartStatementIsFoundByItsNames)
+{
+    load(u"select o.ID as No, c.Name, o.Qty from Ord o join Cust c on c.ID = o.Cust where o.Qty > 1"_s,
+         u"select Qty, Name from Cust, Ord"_s);
+    EXPECT_TRUE(history.GetNextShowSQL(2, next));
+    EXPECT_EQ(database->read(next).names, (QStringList{u"Qty"_s, u"Name"_s})) << qPrintable(next);
+    EXPECT_EQ(firstColumn(next).size(), firstColumn(first).size());
+}
+
+TEST_F(HistoryDerivation, AStepBackNeedsNoReadablePartStatement)
+{
+    load(u"select * from Ord"_s, u"select Gone from Ord"_s);
+    EXPECT_FALSE(history.GetCurrSQLFieldsStatus());
+    show(u"select * from Ord where ID = 1"_s);
+    QString key;
+    EXPECT_TRUE(history.GetPreviewSQL(next, key));
+    EXPECT_EQ(next, u"select * from Ord"_s);
+}
+
+TEST_F(HistoryDerivation, ACommandThatCannotRunSaysWhy)
+{
+    load(u"select ID, ID from Ord union select 1, 2"_s);
+    EXPECT_EQ(history.WhyNot(DerivationStep::Condition), QueryTexts::EqualNames().arg(u"ID"_s));
+    EXPECT_FALSE(history.GetNextSQLByFilter(u"ID = 1"_s, next));
+    EXPECT_FALSE(history.GetNextSQLBySort(u"ID"_s, next));
+    EXPECT_FALSE(manager.LetNewFilter(u"ID = 1"_s, next));
+    load(u"select ID from Ord"_s);
+    EXPECT_EQ(history.WhyNot(DerivationStep::Sort), QString());
+}
