@@ -1,5 +1,7 @@
 #include "forms/Messages.h"
 
+#include "forms/FormTexts.h"
+
 #include <QtCore/QPointer>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
@@ -67,20 +69,22 @@ bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox
                 QMessageBox::No) == QMessageBox::Yes;
 }
 
-qsizetype choose(QWidget *parent, const QString &text, const QString &title, const QStringList &captions)
+QMessageBox::StandardButton askToSave(QWidget *parent, const QString &text, const QString &title)
 {
     const QPointer<QMessageBox> box = newBox(parent, {text, title, {}, QMessageBox::Warning});
-    QList<QAbstractButton *> buttons;
-    for (const QString &caption : captions)
-        buttons.append(box->addButton(caption, QMessageBox::ActionRole));
-    box->setDefaultButton(static_cast<QPushButton *>(buttons.front()));
-    box->setEscapeButton(buttons.back());
-    box->exec();
+    const std::pair<QMessageBox::StandardButton, const QString &> buttons[] = {
+        {QMessageBox::Save, FormTexts::Save},
+        {QMessageBox::Discard, FormTexts::Discard},
+        {QMessageBox::Cancel, FormTexts::Cancel}};
+    for (const auto &[button, caption] : buttons)
+        box->addButton(button)->setText(caption);
+    box->setDefaultButton(QMessageBox::Save);
+    box->setEscapeButton(QMessageBox::Cancel);
+    const int answer = box->exec();
     if (!box)
-        return captions.size() - 1;
-    const qsizetype chosen = buttons.indexOf(box->clickedButton());
+        return QMessageBox::Cancel;
     delete box;
-    return chosen;
+    return static_cast<QMessageBox::StandardButton>(answer);
 }
 
 void showLater(const QString &text)
@@ -88,7 +92,8 @@ void showLater(const QString &text)
     auto *const box = newBox(nullptr, {text, {}, {}, QMessageBox::Warning});
     box->setStandardButtons(QMessageBox::Ok);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    box->setWindowModality(Qt::NonModal);
+    box->show();
 }
 
 } // namespace KOVAVSFDataGridLib::Messages

@@ -20,9 +20,9 @@ void tellWithCause(QWidget *parent, const QString &text, const QString &cause);
 bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon,
          QMessageBox::StandardButton onEnter = QMessageBox::Yes);
 
-// Asks with a button for each caption; answers which. Enter presses the first. Closing the box, and Esc, count as the
-// last.
-qsizetype choose(QWidget *parent, const QString &text, const QString &title, const QStringList &captions);
+// Asks what becomes of changes: Save, Discard or Cancel. Enter presses Save. Closing the box counts as
+// Cancel.
+QMessageBox::StandardButton askToSave(QWidget *parent, const QString &text, const QString &title);
 
 // Shows a text in a box of its own, without waiting for the user to close it.
 void showLater(const QString &text);

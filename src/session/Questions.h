@@ -1,5 +1,6 @@
 #pragma once
 
+#include "query/Derivation.h"
 #include "query/FieldChooser.h"
 
 #include <memory>
@@ -20,6 +21,8 @@ struct ConditionRequest
     qint32 tableType = 0;
     QString sqlShow;
     std::shared_ptr<ADODB::Connection> connection; // may be null
+    // Where the statement isn't the plain rows of a table: what it is filtered by instead.
+    std::optional<FilteredResult> result = {};
 };
 
 // The words that the user looks for.

@@ -97,6 +97,8 @@ bool Session::isReady(const Command &command)
 {
     if (!hasGround() || (m_opener && !command.isInViewer))
         return false;
+    if (!whyNot(command).isEmpty())
+        return false;
     const ResultWatch watch(*this);
     if (command.record == Record::IsListedAgain && !commitEdit())
         return false;
@@ -118,6 +120,17 @@ void Session::perform(const std::function<void()> &command)
     }
     --m_running;
     updateRecordPosition();
+    m_window->refreshCommands();
+}
+
+QString Session::whyNot(const Command &command)
+{
+    return command.whyNot ? command.whyNot(*this) : QString();
+}
+
+QString Session::whyNot(DerivationStep step)
+{
+    return m_filter && m_result.isOpen() ? history().WhyNot(step) : QString();
 }
 
 void Session::goToTypedPage(const QString &text)

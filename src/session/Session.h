@@ -96,7 +96,11 @@ public:
 
     // --- Commands. A command that fails ends silently after its user has been told what he should know.
 
-    // Runs the command of a key, whether or not its button is enabled.
+    // Why a command can't run on what is shown now, for the user to read; empty when it can.
+    QString whyNot(const Command &command);
+    // The same for a kind of statement that a command would derive.
+    QString whyNot(DerivationStep step);
+    // Runs the command of a key, whether or not its button is enabled; one that can't run ends silently.
     void run(const QString &key);
     // Runs the command of a popup menu's item; true when there is one and it could begin.
     bool runMenuItem(int index);
@@ -184,16 +188,17 @@ public:
     void updateRecordPosition();
     void takeRecordCount();
 
-    // Takes the value that is being typed into the current record. False when it doesn't fit, which the user has
-    // been told, or when the host has put something else in the result's place.
+    // Takes the value that is being typed into the current record. False when it doesn't fit, which the user
+    // has been told, or when the host has put something else in the result's place.
     bool commitEdit();
-    // The same for all that was written into the record and its way into the database, so that it can be left.
+    // The same for all that was written into the record and its way into the database, so that it can be
+    // left.
     bool saveRecord();
-    // The same when the result is about to go: a user whose changes can't be saved chooses what becomes of them.
-    // False when he stays.
+    // The same when the result is about to go: a user whose changes can't be saved chooses what becomes of
+    // them. False when he stays.
     bool leaveResult();
-    // The same for a control that is being destroyed, which can neither ask nor report. Answers why the changes
-    // could not be saved, for the user to read.
+    // The same for a control that is being destroyed, which can neither ask nor report. Answers why the
+    // changes could not be saved, for the user to read.
     std::optional<QString> saveSilently();
     // Whether something was written into the current record that is not saved yet.
     bool hasUnsavedChanges() const;

@@ -108,6 +108,7 @@ void Session::showLoaded(const ResultSet::Opened &opened, const QString &stateme
     if (columns().columnsFit())
         columns().fitColumns(m_rules.roundWidth);
     updateRecordPosition();
+    m_window->refreshCommands();
 }
 
 } // namespace KOVAVSFDataGridLib

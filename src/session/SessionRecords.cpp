@@ -132,7 +132,7 @@ std::optional<QString> Session::saveSilently()
 void Session::setReadOnly(bool on)
 {
     m_isReadOnly = on;
-    m_window->refreshStatus();
+    m_window->refreshCommands();
 }
 
 void Session::cancelRecord()

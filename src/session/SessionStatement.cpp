@@ -138,8 +138,9 @@ bool Session::replaceResult(const ResultSet::Opened &opened)
 
 ConditionRequest Session::conditionRequest()
 {
-    return {texts.connectionString, filterManager().DBType(), texts.tableType,
-            JoinStatementLines(texts.sqlShow), m_result.connection()};
+    return {texts.connectionString, filterManager().DBType(),
+            texts.tableType,        JoinStatementLines(texts.sqlShow),
+            m_result.connection(),  history().GetFilteredResult()};
 }
 
 void Session::writeFilter(const QString &statement)

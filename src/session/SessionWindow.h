@@ -52,8 +52,8 @@ public:
     virtual void showAllRecords() {}
     // Lists the current record once more, where it is shown as a list.
     virtual void refreshSingleRecord() {}
-    // Takes the value that is being typed into the record. When it doesn't fit it stays, and the answer is why,
-    // for the user to read.
+    // Takes the value that is being typed into the record. When it doesn't fit it stays, and the answer is
+    // why, for the user to read.
     virtual std::optional<QString> commitEdit() { return {}; }
     // Gives the keyboard back to a value that is being typed.
     virtual void focusEdit() {}
@@ -64,6 +64,8 @@ public:
     virtual void setPressed(const QString & /*key*/, bool) {}
     // Position, count or statement may have changed.
     virtual void refreshStatus() {}
+    // Which commands can run, and why others can't, may have changed; see Session::whyNot.
+    virtual void refreshCommands() {}
     // A result is shown: what works on it can be used from now on.
     virtual void enableCommands() {}
     // The result is shown on the whole screen until the user comes back.

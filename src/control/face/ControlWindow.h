@@ -17,8 +17,6 @@ public:
     // Both must outlive this object.
     ControlWindow(QWidget &control, GridParts &parts);
 
-    // What it shows; not owned. To be set before anything is shown.
-    void setSession(Session &session) { m_session = &session; }
     // Without one no single record is ever shown.
     void setSingleRecordView(SingleRecordView *view) { m_singleRecord = view; }
     // Called by the command that shows the result on the whole screen.
@@ -44,7 +42,6 @@ private:
 
     QWidget &m_control;
     GridParts &m_parts;
-    Session *m_session = nullptr;
     SingleRecordView *m_singleRecord = nullptr;
     std::function<void()> m_fullScreen;
 };

@@ -218,8 +218,8 @@ public:
     // As GetGridRow, for any row.
     virtual qint32 GetGridRowL() = 0;
 
-    // Whether the user can neither add, change nor delete records; False at first. A change that is not saved yet
-    // still can be.
+    // Whether the user can neither add, change nor delete records; False at first. A change that is not saved
+    // yet still can be.
     virtual bool ReadOnly() const = 0;
     virtual void PutReadOnly(bool on) = 0;
 };

@@ -78,7 +78,8 @@ void KOVAVSFDataGrid::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     const QPointer<KOVAVSFDataGrid> alive(this);
-    d->singleRecord.editor().commit(); // before the editor is put away; a text that does not fit is lost from view only
+    d->singleRecord.editor()
+        .commit(); // before the editor is put away; a text that does not fit is lost from view only
     if (alive)
         d->parts.layOut(event->size().width(), event->size().height());
 }

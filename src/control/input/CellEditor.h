@@ -25,8 +25,8 @@ public:
     // and says so. False when there is no such field or no record.
     bool begin(int gridCol, const std::optional<QString> &typed = {});
     bool isOpen() const;
-    // Closes it and writes what was typed into the field. A text that doesn't fit stays, and the answer is why, for
-    // the user to read.
+    // Closes it and writes what was typed into the field. A text that doesn't fit stays, and the answer is
+    // why, for the user to read.
     std::optional<QString> commit();
     // Closes it and forgets what was typed.
     void close();

@@ -8,8 +8,8 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// Saves what the user wrote into a record before the window around the control closes. The window stays when that
-// fails and the user wants to go on with the record.
+// Saves what the user wrote into a record before the window around the control closes. The window stays when
+// that fails and the user wants to go on with the record.
 class CloseGuard final : public QObject
 {
     Q_OBJECT

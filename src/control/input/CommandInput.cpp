@@ -31,7 +31,7 @@ CommandInput::CommandInput(KOVAVSFDataGrid &control, Session &session, GridParts
       m_session(session),
       m_parts(parts),
       m_singleRecord(singleRecord),
-      m_menu(control, *parts.Toolbar1)
+      m_menu(control, *parts.Toolbar1, [&session](const Command &command) { return session.whyNot(command); })
 {
     for (QAction *action : parts.Toolbar1->actions()) {
         if (!action->shortcut().isEmpty())

@@ -45,11 +45,10 @@ bool DialogQuestions::ask(const QString &text, const QString &title)
 
 Unsaved DialogQuestions::askUnsaved(const QString &reason)
 {
-    switch (Messages::choose(m_parent, reason, GridTexts::UnsavedTitle,
-                             {GridTexts::SaveAgain, GridTexts::Discard, GridTexts::Stay})) {
-    case 0:
+    switch (Messages::askToSave(m_parent, reason, GridTexts::UnsavedTitle)) {
+    case QMessageBox::Save:
         return Unsaved::SaveAgain;
-    case 1:
+    case QMessageBox::Discard:
         return Unsaved::Discard;
     default:
         return Unsaved::Stay;
@@ -64,6 +63,7 @@ QString DialogQuestions::askCondition(const ConditionRequest &request)
     prepared.tableType = request.tableType;
     prepared.sqlShow = request.sqlShow;
     prepared.connection = request.connection;
+    prepared.result = request.result;
     prepared.picture = toolbarIcon(CommandKeys::Filter);
     mod_Filter filter(m_parent);
     filter.PrepareFilterDialog(prepared);

@@ -17,9 +17,6 @@ inline const QString ValueRefusedPrefix = u"输入的内容无效："_s;
 
 // A record that can't be saved when its result is about to go.
 inline const QString UnsavedTitle = u"记录没有保存"_s;
-inline const QString SaveAgain = u"保存(&S)"_s;
-inline const QString Discard = u"放弃(&D)"_s;
-inline const QString Stay = u"取消"_s;
 
 // The line below the grid: position, count, statement.
 inline const QString RecordOf = u"第 %1 条，共 %2 条"_s;

@@ -52,7 +52,7 @@ void GridToolbar::addButton(const Command &command, QActionGroup &views, int las
         showPressed();
         Q_EMIT buttonClicked(key);
     });
-    m_buttons.emplace(key, Button{.action = action});
+    m_buttons.emplace(key, Button{.action = action, .toolTip = action->toolTip()});
 }
 
 // What a window has no command for isn't offered, nor a separator with no button after the one before it.
@@ -98,6 +98,14 @@ void GridToolbar::setAllButtonsEnabled(bool on)
     for (auto &[key, button] : m_buttons) {
         button.isEnabled = on;
         apply(button);
+    }
+}
+
+void GridToolbar::setButtonReason(const QString &key, const QString &reason)
+{
+    if (Button *button = find(key); button && button->reason != reason) {
+        button->reason = reason;
+        apply(*button);
     }
 }
 
@@ -158,7 +166,9 @@ GridToolbar::Button *GridToolbar::find(const QString &key)
 void GridToolbar::apply(const Button &button)
 {
     button.action->setVisible(button.isVisible);
-    button.action->setEnabled(button.isEnabled);
+    button.action->setEnabled(button.isEnabled && button.reason.isEmpty());
+    button.action->setToolTip(button.reason.isEmpty() ? button.toolTip
+                                                      : button.toolTip + u'\n' + button.reason);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -27,6 +27,8 @@ public:
     bool isButtonEnabled(const QString &key) const;
     void setButtonEnabled(const QString &key, bool on);
     void setAllButtonsEnabled(bool on);
+    // A button with a reason is disabled, whatever it was given, and shows the reason in its tip.
+    void setButtonReason(const QString &key, const QString &reason);
     bool isButtonVisible(const QString &key) const;
     void setButtonVisible(const QString &key, bool on);
     bool isButtonPressed(const QString &key) const;
@@ -45,6 +47,8 @@ private:
         bool isEnabled = true;
         bool isVisible = true;
         bool isPressed = false;
+        QString toolTip = {};
+        QString reason = {};
     };
 
     void addButton(const Command &command, QActionGroup &views, int lastGroup);

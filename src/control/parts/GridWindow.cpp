@@ -3,6 +3,8 @@
 #include "control/parts/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
+#include "session/Session.h"
+#include "session/commands/Command.h"
 
 #include <QtWidgets/QScrollBar>
 
@@ -93,6 +95,14 @@ void GridWindow::keepInView(const std::function<void()> &change)
 void GridWindow::setPressed(const QString &key, bool on)
 {
     m_toolbar.setButtonPressed(key, on);
+}
+
+void GridWindow::refreshCommands()
+{
+    for (const Command *command : Command::all()) {
+        if (command->button && command->whyNot)
+            m_toolbar.setButtonReason(command->key, m_session->whyNot(*command));
+    }
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -8,6 +8,7 @@ class QWidget;
 namespace KOVAVSFDataGridLib {
 
 class GridToolbar;
+class Session;
 class VSFlexGrid;
 
 // What the control and its full-screen viewer have in common as windows of a session: a grid and a toolbar.
@@ -34,10 +35,15 @@ public:
     void keepInView(const std::function<void()> &change) override;
 
     void setPressed(const QString &key, bool on) override;
+    void refreshCommands() override;
+
+    // What it shows; not owned. To be set before anything is shown.
+    void setSession(Session &session) { m_session = &session; }
 
 protected:
     VSFlexGrid &m_grid;
     GridToolbar &m_toolbar;
+    Session *m_session = nullptr;
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -18,8 +18,9 @@ constexpr int LastIndex = 15; // those without a command are separators
 
 } // namespace
 
-PopupMenu::PopupMenu(QWidget &control, const GridToolbar &toolbar)
-    : m_toolbar(toolbar), m_menu(new QMenu(&control))
+PopupMenu::PopupMenu(QWidget &control, const GridToolbar &toolbar,
+                     std::function<QString(const Command &)> whyNot)
+    : m_toolbar(toolbar), m_whyNot(std::move(whyNot)), m_menu(new QMenu(&control))
 {
     m_menu->setObjectName(u"PopMnuData"_s);
     m_menu->setAccessibleName(GridTexts::MenuName);
@@ -31,7 +32,6 @@ PopupMenu::PopupMenu(QWidget &control, const GridToolbar &toolbar)
         if (!command)
             continue;
         if (command->button) {
-            action->setProperty("key", command->key);
             dressAsButton(*action, *command);
         } else if (!command->shortcut.isEmpty()) {
             action->setShortcut(QKeySequence(command->shortcut));
@@ -46,11 +46,13 @@ PopupMenu::PopupMenu(QWidget &control, const GridToolbar &toolbar)
 void PopupMenu::PreparePopupMenu()
 {
     for (QAction *action : m_menu->actions()) {
-        const QString key = action->property("key").toString();
-        if (action->isSeparator() || key.isEmpty())
+        const Command *const command = Command::findMenuItem(action->data().toInt());
+        if (!command)
             continue;
-        action->setVisible(m_toolbar.isButtonVisible(key));
-        action->setEnabled(m_toolbar.isButtonEnabled(key));
+        const bool isGiven = !command->button || m_toolbar.isButtonEnabled(command->key);
+        if (command->button)
+            action->setVisible(m_toolbar.isButtonVisible(command->key));
+        action->setEnabled(isGiven && m_whyNot(*command).isEmpty());
     }
 }
 

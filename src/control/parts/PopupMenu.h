@@ -2,6 +2,8 @@
 
 #include <QtCore/QObject>
 
+#include <functional>
+
 class QAction;
 class QMenu;
 class QPoint;
@@ -10,6 +12,7 @@ class QWidget;
 namespace KOVAVSFDataGridLib {
 
 class GridToolbar;
+struct Command;
 
 // PopMnuData: the commands on the data under the pointer, each known by its index from 1 to 15. An item that
 // repeats a toolbar button is shown and enabled as that button is.
@@ -18,7 +21,9 @@ class PopupMenu : public QObject
     Q_OBJECT
 
 public:
-    PopupMenu(QWidget &control, const GridToolbar &toolbar);
+    // Both must outlive this object. `whyNot` answers why a command can't run, empty when it can.
+    PopupMenu(QWidget &control, const GridToolbar &toolbar,
+              std::function<QString(const Command &command)> whyNot);
 
     // The menu itself, which the control owns.
     QMenu &menu() const { return *m_menu; }
@@ -34,6 +39,7 @@ Q_SIGNALS:
 
 private:
     const GridToolbar &m_toolbar;
+    const std::function<QString(const Command &command)> m_whyNot;
     QMenu *m_menu;
 };
 

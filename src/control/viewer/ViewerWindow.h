@@ -14,9 +14,6 @@ public:
     // Both must outlive this object.
     ViewerWindow(QWidget &window, const ViewerParts &parts);
 
-    // What it shows; not owned. To be set before anything is shown.
-    void setSession(Session &session) { m_session = &session; }
-
     void showRecords(std::shared_ptr<ADODB::Recordset> recordset, qint64 first, int count) override;
     void showPageNumber(int page, qint64 pageCount) override;
     void showTypedPage(const QString &text) override;
@@ -30,7 +27,6 @@ public:
 private:
     QWidget &m_window;
     const ViewerParts &m_parts;
-    Session *m_session = nullptr;
 };
 
 } // namespace KOVAVSFDataGridLib

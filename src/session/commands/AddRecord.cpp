@@ -17,7 +17,7 @@ namespace {
 
 void addRecord(Session &session)
 {
-    if (session.isReadOnly() || !session.result().isOpen() || !session.commitEdit())
+    if (!session.result().isOpen() || !session.commitEdit())
         return;
     const ResultWatch watch(session);
     ADODB::Recordset &recordset = *watch.recordset();
@@ -42,6 +42,7 @@ const Command::Registration registration({
     .menu = {8, u"增加记录(&N)"_s},
     .record = Record::Stays,
     .run = addRecord,
+    .whyNot = [](Session &session) { return session.isReadOnly() ? SessionMessages::ReadOnly : QString(); },
 });
 
 } // namespace

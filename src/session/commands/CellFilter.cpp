@@ -25,8 +25,10 @@ CellCondition conditionOfCell(Session &session, int row, int col)
     if (!recordset.IsNull(record, col - 1))
         text = recordset.CellText(record, col - 1);
     const ADODB::Field &field = recordset.Fields().Item(col - 1);
-    return BuildCellFilter(session.history().GetSelFieldRealName(field.Name()), field.Type(), text,
-                           session.result().engine());
+    // The statement that was opened, not the one that is called shown: "All" and "Part" only hide columns.
+    const QString name =
+        session.history().GetColumnRealName(recordset.Source(), session.window().Headings(), col - 1);
+    return BuildCellFilter(name, field.Type(), text, session.result().engine());
 }
 
 void filterBySelectedCell(Session &session)
@@ -53,6 +55,7 @@ const Command::Registration registration({
     .viewerMenu = {4, u"按所选内容筛选(&F)"_s},
     .needs = Needs::Records,
     .run = filterBySelectedCell,
+    .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Condition); },
 });
 
 } // namespace

@@ -47,6 +47,9 @@ struct Command
     Needs needs = Needs::Nothing;
     Record record = Record::IsLeft;
     void (*run)(Session &session);
+    // Why it can't run on what is shown now, for the user to read; empty when it can. Null when it always
+    // can.
+    QString (*whyNot)(Session &session) = nullptr;
 
     struct Registration
     {

@@ -51,7 +51,7 @@ void deleteCurrentRecord(Session &session)
 
 void deleteRecord(Session &session)
 {
-    if (session.isReadOnly() || !session.result().isOpen())
+    if (!session.result().isOpen())
         return;
     const bool isNew = session.result().recordset()->EditMode() == ADODB::adEditAdd;
     if ((!session.hasRecords() && !isNew) || !askToDelete(session))
@@ -72,6 +72,7 @@ const Command::Registration registration({
     .menu = {9, u"删除记录(&D)"_s},
     .record = Record::Stays,
     .run = deleteRecord,
+    .whyNot = [](Session &session) { return session.isReadOnly() ? SessionMessages::ReadOnly : QString(); },
 });
 
 } // namespace

@@ -61,6 +61,7 @@ const Command::Registration registration({
     .menu = {11, u"筛选(&F)"_s, true},
     .isInViewer = true,
     .run = filterByDialog,
+    .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Condition); },
 });
 
 // Whether "Filter" filters what is shown rather than the first statement.

@@ -23,13 +23,13 @@ std::optional<qint32> typeOf(const clsDataField &field, const ADODB::Fields &fie
     return field.FieldType != 0 ? std::optional(field.FieldType) : std::nullopt;
 }
 
-std::vector<TypedField> searchedFields(const FindAnswer &answer, const colDataFields &catalogue,
+std::vector<TypedField> searchedFields(const FindAnswer &answer, const colShowSQLSentences &history,
                                        const ADODB::Fields &fields)
 {
     std::vector<TypedField> searched;
-    for (const clsDataField &field : catalogue) {
+    for (const clsDataField &field : history.DataFields()) {
         if (!answer.isOneField || field.FieldName == answer.field)
-            searched.push_back({field.FieldName, typeOf(field, fields)});
+            searched.push_back({field.FieldName, typeOf(field, fields), history.GetConditionName(field)});
     }
     return searched;
 }
@@ -41,9 +41,10 @@ std::optional<QString> askUser(Session &session, const FilterManagerRollback &gr
     const std::optional<FindAnswer> answer = session.questions().askWords(catalogue);
     QString condition;
     if (!answer || !ground.isResultUntouched() ||
-        !BuildLikeCondition(answer->text,
-                            searchedFields(*answer, catalogue, session.result().recordset()->Fields()),
-                            latest, ground.manager().DBType(), condition, session.result().engine()))
+        !BuildLikeCondition(
+            answer->text,
+            searchedFields(*answer, ground.manager().SQLManager(), session.result().recordset()->Fields()),
+            latest, ground.manager().DBType(), condition, session.result().engine()))
         return {};
     return condition;
 }
@@ -70,6 +71,7 @@ const Command::Registration registration({
     .button = {{301, u"快速筛选"_s, u"在所有字段中查找"_s}},
     .needs = Needs::Records,
     .run = quickFilter,
+    .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Condition); },
 });
 
 } // namespace

@@ -1,4 +1,3 @@
-#include "query/SqlText.h"
 #include "session/FilterManagerRollback.h"
 #include "session/HostEvents.h"
 #include "session/Session.h"
@@ -50,7 +49,7 @@ void selectFields(Session &session)
     if (statement.isEmpty())
         return;
 
-    const QString chosenFields = SplitSQLSentence(statement)->fields;
+    const QString chosenFields = history.GetFieldsStatement(statement);
     session.columns().SaveColumnWidths(0);
     std::optional<ResultSet::Opened> opened;
     if (session.rules().alwaysOpensFields ||
@@ -78,6 +77,7 @@ const Command::Registration registration({
     .button = {{102, u"选择字段"_s, u"选择要显示的字段"_s}},
     .isInViewer = true,
     .run = selectFields,
+    .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Fields); },
 });
 
 } // namespace

@@ -49,6 +49,7 @@ const Command::Registration registration({
     .menu = {12, u"排序(&O)"_s, true},
     .isInViewer = true,
     .run = sortByDialog,
+    .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Sort); },
 });
 
 } // namespace

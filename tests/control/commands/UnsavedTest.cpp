@@ -1,0 +1,211 @@
+// What the user wrote into a record is never dropped, whichever way its result goes.
+#include "Shop.h"
+
+#include "support/MessageAnswers.h"
+
+#include <QtTest/QTest>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QTableView>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A way in which a host or the user leaves a result.
+struct Way
+{
+    const char *name;
+    void (*leave)(KOVAVSFDataGrid &grid);
+};
+
+class Unsaved : public Shop, public testing::WithParamInterface<Way>
+{
+protected:
+    QString name() const { return database.ask(u"SELECT 名称 FROM 商品 WHERE ID = 1"_s); }
+    QString status() { return grid.findChild<QLabel *>(u"lblStatement"_s)->text(); }
+    // Types into a field of the first record; Enter confirms it.
+    void write(const QString &field, const QString &text, bool isConfirmed)
+    {
+        click(u"SingleRecord"_s);
+        list->setCurrentIndex(list->model()->index(listedRow(field), 1));
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_F2);
+        compose(*edit, text);
+        if (isConfirmed)
+            QTest::keyClick(edit, Qt::Key_Return);
+    }
+    void refuse()
+    {
+        database.run(u"CREATE TRIGGER No BEFORE UPDATE ON 商品 BEGIN SELECT RAISE(ABORT, 'never'); END"_s);
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Ways, Unsaved,
+                         testing::Values(Way{"Clear", [](KOVAVSFDataGrid &grid) { grid.Clear(); }},
+                                         Way{"ClearAll", [](KOVAVSFDataGrid &grid) { grid.ClearAll(); }},
+                                         Way{"ClearObject",
+                                             [](KOVAVSFDataGrid &grid) { grid.ClearObject(); }},
+                                         Way{"IsLoadData", [](KOVAVSFDataGrid &grid) { grid.IsLoadData(); }},
+                                         Way{"Close", [](KOVAVSFDataGrid &grid) { grid.window()->close(); }}),
+                         [](const auto &way) { return std::string(way.param.name); });
+
+} // namespace
+
+TEST_P(Unsaved, AConfirmedValueIsSaved)
+{
+    ASSERT_TRUE(load());
+    write(u"名称"_s, u"新茶"_s, true);
+    EXPECT_TRUE(status().contains(u"（未保存）"_s)) << qUtf8Printable(status());
+    GetParam().leave(grid);
+    EXPECT_EQ(name(), u"新茶"_s);
+    EXPECT_TRUE(messages.texts().isEmpty());
+}
+
+TEST_P(Unsaved, ATypedValueIsConfirmedFirst)
+{
+    ASSERT_TRUE(load());
+    write(u"名称"_s, u"新茶"_s, false);
+    GetParam().leave(grid);
+    EXPECT_EQ(name(), u"新茶"_s);
+}
+
+TEST_P(Unsaved, ARefusedChangeStaysWhenTheUserStays)
+{
+    ASSERT_TRUE(load());
+    const QString before = name();
+    write(u"名称"_s, u"新茶"_s, true);
+    refuse();
+    messages.answerNext(QMessageBox::Cancel);
+    GetParam().leave(grid);
+    ASSERT_EQ(messages.shown().size(), 1u);
+    EXPECT_TRUE(messages.texts().front().startsWith(u"记录没有保存："_s));
+    EXPECT_EQ(messages.shown().front().buttons,
+              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    EXPECT_EQ(name(), before);
+    EXPECT_TRUE(grid.isVisible());
+    ASSERT_TRUE(isSingleRecordShown());
+    EXPECT_EQ(listed(u"名称"_s), u"新茶"_s) << "it can still be seen, and saved";
+    database.run(u"DROP TRIGGER No"_s);
+    GetParam().leave(grid);
+    EXPECT_EQ(name(), u"新茶"_s);
+}
+
+TEST_P(Unsaved, ARefusedChangeGoesWhenTheUserDiscardsIt)
+{
+    ASSERT_TRUE(load());
+    const QString before = name();
+    write(u"名称"_s, u"新茶"_s, true);
+    refuse();
+    messages.answerNext(QMessageBox::Discard);
+    GetParam().leave(grid);
+    EXPECT_EQ(messages.shown().size(), 1u);
+    EXPECT_EQ(name(), before);
+    messages.clear();
+    GetParam().leave(grid);
+    EXPECT_TRUE(messages.texts().isEmpty()) << "nothing is left to be asked about";
+}
+
+TEST_P(Unsaved, ARefusedChangeIsSavedAtTheSecondTry)
+{
+    ASSERT_TRUE(load());
+    write(u"名称"_s, u"新茶"_s, true);
+    refuse();
+    messages.answerNext(QMessageBox::Save);
+    messages.answerNext(QMessageBox::Discard);
+    GetParam().leave(grid);
+    EXPECT_EQ(messages.shown().size(), 2u);
+}
+
+TEST(UnsavedInADestroyedControl, IsSaved)
+{
+    TestDatabase database{u"CREATE TABLE T (ID INTEGER PRIMARY KEY, A TEXT); INSERT INTO T VALUES (1,'a')"_s};
+    auto grid = std::make_unique<KOVAVSFDataGrid>();
+    grid->PutConnectionString(database.connectionString());
+    grid->PutSQLShow(u"select * from T"_s);
+    ASSERT_TRUE(grid->IsLoadData());
+    grid->show();
+    grid->findChild<QAction *>(u"SingleRecord"_s)->trigger();
+    auto *list = grid->findChild<QTableView *>(u"MSFlexGrid1"_s);
+    list->setCurrentIndex(list->model()->index(1, 1));
+    QTest::keyClick(list, Qt::Key_F2);
+    auto *edit = grid->findChild<QLineEdit *>(u"txtEdit"_s);
+    edit->setText(u"b"_s);
+    grid.reset();
+    EXPECT_EQ(database.ask(u"SELECT A FROM T"_s), u"b"_s);
+}
+
+TEST(UnsavedInADestroyedControl, IsReportedWhenItIsRefused)
+{
+    TestDatabase database{u"CREATE TABLE T (ID INTEGER PRIMARY KEY, A TEXT); INSERT INTO T VALUES (1,'a')"_s};
+    auto grid = std::make_unique<KOVAVSFDataGrid>();
+    grid->PutConnectionString(database.connectionString());
+    grid->PutSQLShow(u"select * from T"_s);
+    ASSERT_TRUE(grid->IsLoadData());
+    grid->show();
+    grid->findChild<QAction *>(u"SingleRecord"_s)->trigger();
+    auto *list = grid->findChild<QTableView *>(u"MSFlexGrid1"_s);
+    list->setCurrentIndex(list->model()->index(1, 1));
+    QTest::keyClick(list, Qt::Key_F2);
+    grid->findChild<QLineEdit *>(u"txtEdit"_s)->setText(u"b"_s);
+    database.run(u"CREATE TRIGGER No BEFORE UPDATE ON T BEGIN SELECT RAISE(ABORT, 'never'); END"_s);
+    MessageAnswers messages;
+    grid.reset();
+    QCoreApplication::processEvents();
+    ASSERT_EQ(messages.texts().size(), 1);
+    EXPECT_TRUE(messages.texts().front().startsWith(u"记录没有保存："_s));
+    EXPECT_EQ(database.ask(u"SELECT A FROM T"_s), u"a"_s);
+}
+
+namespace {
+
+class LongTexts : public Shop
+{
+};
+
+class ReadOnlyGrid : public Shop
+{
+};
+
+} // namespace
+
+TEST_F(LongTexts, AreNotCutByAnEditThatChangesNothing)
+{
+    database.run(u"UPDATE 商品 SET 名称 = (WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n "
+                 u"WHERE i < 40000) "
+                 "SELECT group_concat('x','') FROM n) WHERE ID = 1"_s);
+    ASSERT_TRUE(load());
+    click(u"SingleRecord"_s);
+    list->setCurrentIndex(list->model()->index(listedRow(u"名称"_s), 1));
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_F2);
+    EXPECT_EQ(edit->text().size(), 40000);
+    QTest::keyClick(edit, Qt::Key_Return);
+    click(u"AllRecord"_s);
+    EXPECT_EQ(database.ask(u"SELECT length(名称) FROM 商品 WHERE ID = 1"_s), u"40000"_s);
+}
+
+TEST_F(ReadOnlyGrid, OffersNeitherToAddNorToDeleteNorToChange)
+{
+    ASSERT_TRUE(load());
+    EXPECT_FALSE(grid.property("ReadOnly").toBool());
+    grid.setProperty("ReadOnly", true);
+    const auto *menu = grid.findChild<QMenu *>(u"PopMnuData"_s);
+    choose(5, 1); // which prepares the menu
+    EXPECT_FALSE(menu->actions().at(7)->isEnabled());
+    EXPECT_FALSE(menu->actions().at(8)->isEnabled());
+    list->setCurrentIndex(list->model()->index(listedRow(u"名称"_s), 1));
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_F2);
+    EXPECT_TRUE(edit->isReadOnly());
+    QTest::keyClick(edit, Qt::Key_Escape);
+    messages.answerNext(QMessageBox::Yes);
+    menu->actions().at(8)->trigger();
+    EXPECT_TRUE(messages.texts().isEmpty());
+    EXPECT_EQ(database.ask(u"SELECT count(*) FROM 商品"_s), QString::number(Records));
+    grid.setProperty("ReadOnly", false);
+    choose(6, 1);
+    EXPECT_TRUE(menu->actions().at(7)->isEnabled());
+}
