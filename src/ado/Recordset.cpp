@@ -127,6 +127,7 @@ void Recordset::Close()
     d->rows();
     d->fields.clear();
     d->editor.reset();
+    d->underlying.reset();
     d->snapshot.reset();
     d->position.reset(0);
     d->tellReplaced(adRsnClose);

@@ -42,7 +42,7 @@ OdbcQuery::OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const Od
     : m_connection(connection), m_engine(engine), m_statement(std::make_unique<OdbcHandle>(connection))
 {
     // A comment behind the semicolon is another statement to some drivers.
-    m_text = SqlScanner(sql, m_engine.dialect).withoutSemicolon();
+    m_text = SqlScanner(sql, m_engine.dialect, m_engine.quoting).withoutSemicolon();
     prepare(patience);
     m_fields = describeColumns(*m_statement);
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
