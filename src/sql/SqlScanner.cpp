@@ -259,7 +259,8 @@ QStringView SqlScanner::text(qsizetype index) const
 
 QString SqlScanner::withoutSemicolon() const
 {
-    return isSymbol(count() - 1, u';') ? m_sql.left(at(count() - 1).start) : m_sql;
+    const qsizetype last = count() - (isSymbol(count() - 1, u';') ? 2 : 1);
+    return last < 0 ? QString() : m_sql.left(at(last).end());
 }
 
 bool SqlScanner::isWord(qsizetype index, QStringView word) const

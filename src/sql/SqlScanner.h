@@ -43,7 +43,7 @@ public:
                         const SqlQuoting &quoting = {});
 
     const QString &sql() const { return m_sql; }
-    // Without the semicolon that ends it, and what is behind that.
+    // Without the semicolon that ends it and the comments after it, in which a driver may see statements.
     QString withoutSemicolon() const;
     SqlDialect dialect() const { return m_dialect; }
     // Where the statement first holds something by which engines, or an engine and its driver, could come to

@@ -111,7 +111,10 @@ void OdbcQuery::read(RowStore &rows, const OdbcPatience &patience)
 bool OdbcQuery::readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch)
 {
     SQLHSTMT const statement = m_statement->get();
-    m_statement->check(watch.run([statement] { return SQLExecute(statement); }));
+    const SQLRETURN code = watch.run([statement] { return SQLExecute(statement); });
+    if (code == SQL_NO_DATA) // a change that found no row and so returns none
+        return true;
+    m_statement->check(code);
     while (reader.fetch(watch)) {
         if (!reader.append(rows))
             return false;
