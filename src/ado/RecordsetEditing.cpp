@@ -143,7 +143,7 @@ void Recordset::putCurrentValue(int column, const QVariant &value)
     if (!d->isAdding())
         d->currentRecord();
     const bool first = d->edit().isEmpty();
-    d->edit().set(column, value, d->rows());
+    withinMemory([&] { d->edit().set(column, value, d->rows()); });
     if (first)
         d->tellChanged(adRsnFirstChange);
 }

@@ -39,7 +39,7 @@ public:
             return;
         try {
             m_rollback.step();
-        } catch (const Error &) {
+        } catch (const std::exception &) {
             // Closing the connection undoes it all the same, as does the next program that opens the file.
         }
     }

@@ -70,7 +70,7 @@ SqliteSession::Writing::~Writing()
     try {
         m_session.setQueryOnly(true);
         m_session.m_watch.canWrite = false;
-    } catch (const Error &) {
+    } catch (const std::exception &) {
         // The authorizer goes on refusing what SQLite itself would now let through.
     }
 }
