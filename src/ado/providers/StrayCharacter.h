@@ -2,9 +2,13 @@
 
 #include <QtCore/QString>
 
+namespace KOVAVSFDataGridLib {
+class SqlScanner;
+}
+
 namespace ADODB {
 
-class SqlScanner;
+using KOVAVSFDataGridLib::SqlScanner;
 
 // Throws dbErrPermissionDenied when engines could disagree about where a comment or a text of the statement
 // ends: one of them would then run what another takes for a comment. See SqlScanner::strayCharacter().
