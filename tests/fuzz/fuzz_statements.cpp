@@ -10,6 +10,7 @@
 #include <sqlite3.h>
 
 using namespace ADODB;
+using namespace KOVAVSFDataGridLib;
 using KovaTest::Require;
 
 namespace {
@@ -28,7 +29,7 @@ void checkTokens(const SqlScanner &scanner)
     Require(scanner.strayCharacter() < scanner.sql().size());
     Require(scanner.sql().startsWith(scanner.withoutSemicolon()));
     const SimpleSelect select = SimpleSelect::parse(scanner);
-    if (select.reason.isEmpty())
+    if (select.fault == SimpleSelect::Fault::None)
         Require(select.listEnd <= select.sourceEnd && select.sourceEnd <= scanner.sql().size());
 }
 

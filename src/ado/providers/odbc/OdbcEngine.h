@@ -7,6 +7,7 @@
 namespace ADODB {
 
 using KOVAVSFDataGridLib::SqlDialect;
+using KOVAVSFDataGridLib::SqlQuoting;
 
 class OdbcConnection;
 
