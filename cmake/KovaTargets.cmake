@@ -23,6 +23,12 @@ function(kova_compile_settings target)
     -Wimplicit-fallthrough -Wextra-semi -Wundef
     $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op -Wduplicated-branches> ${useless_casts}
     $<$<BOOL:${KOVA_WARNINGS_AS_ERRORS}>:-Werror>)
+  # A fault in memory ends the program rather than running what somebody put there. Sanitizers look closer.
+  if(CMAKE_SYSTEM_NAME STREQUAL Linux AND NOT KOVA_SANITIZE AND NOT KOVA_COVERAGE)
+    target_compile_options(${target} PRIVATE -fstack-protector-strong
+      $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>) # which only works when optimizing
+    target_link_options(${target} PRIVATE -Wl,-z,relro,-z,now)
+  endif()
   if(KOVA_SANITIZE)
     target_compile_options(${target} PRIVATE -fsanitize=${KOVA_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(${target} PUBLIC -fsanitize=${KOVA_SANITIZE})

@@ -5,6 +5,8 @@
 #include "ado/Texts.h"
 #include "ado/providers/Provider.h"
 
+#include <new>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
@@ -45,10 +47,14 @@ void Connection::Open(const QString &connectionString, const QString &user, cons
     if (State() == adStateOpen)
         throw Error(adErrObjectOpen, Texts::connectionOpen());
     const QString text = connectionString.isEmpty() ? m_text : connectionString;
-    ADODB::ConnectionString parsed(text);
-    replaceKeyword(parsed, u"User ID"_s, u"UID"_s, user);
-    replaceKeyword(parsed, u"Password"_s, u"PWD"_s, password);
-    m_session = openSession(m_middleTier.rewritten(parsed));
+    try {
+        ADODB::ConnectionString parsed(text);
+        replaceKeyword(parsed, u"User ID"_s, u"UID"_s, user);
+        replaceKeyword(parsed, u"Password"_s, u"PWD"_s, password);
+        m_session = openSession(m_middleTier.rewritten(parsed));
+    } catch (const std::bad_alloc &) {
+        throw Error(dbErrFailed, Texts::outOfMemory());
+    }
     m_text = text;
 }
 

@@ -87,6 +87,13 @@ enum BookmarkEnum : qint32 {
 };
 Q_ENUM_NS(BookmarkEnum)
 
+// What Recordset::Resync takes over.
+enum ResyncEnum : qint32 {
+    adResyncUnderlyingValues = 1, // only Field::UnderlyingValue; a pending edit stays
+    adResyncAllValues = 2         // the record itself; a pending edit is forgotten
+};
+Q_ENUM_NS(ResyncEnum)
+
 // What a recordset is in the middle of.
 enum EditModeEnum : qint32 {
     adEditNone = 0,       // nothing
@@ -226,7 +233,8 @@ enum ProviderErrorEnum : qint32 {
     dbErrDeletedRow = -2147217885,        // 80040E23: the current record was deleted
     dbErrIntegrity = -2147217873,         // 80040E2F: against the database's constraints
     dbErrNoTable = -2147217865,           // 80040E37: no such table or view
-    dbErrConcurrency = -2147217864,       // 80040E38: the row is not there (or not alone) any more
+    dbErrConcurrency = -2147217864,       // 80040E38: the row is not the one shown any more
+    dbErrInDoubt = -2147168234,           // 8004D016: lost while saving; nobody knows whether it was saved
     dbErrAuthFailed = -2147217843,        // 80040E4D: user or password refused
     dbErrCancelled = -2147217842,         // 80040E4E: the user or the program stopped it
     dbErrMultipleStatements = -2147217841 // 80040E4F: more than one statement

@@ -56,6 +56,16 @@ QVariant Field::Value() const
     return m_owner->currentValue(m_index);
 }
 
+QVariant Field::OriginalValue() const
+{
+    return m_owner->originalValue(m_index);
+}
+
+QVariant Field::UnderlyingValue() const
+{
+    return m_owner->underlyingValue(m_index);
+}
+
 void Field::PutValue(const QVariant &value)
 {
     m_owner->putCurrentValue(m_index, value);

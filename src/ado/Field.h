@@ -44,6 +44,10 @@ public:
     // Starts an edit of the current record (see Recordset::Update). Throws 3251 when it can't be written,
     // 3421 when the value does not fit the field's type.
     void PutValue(const QVariant &value);
+    // The value without a pending edit: as it was read or saved last. Null in a new record.
+    QVariant OriginalValue() const;
+    // The value that the database had at the latest Recordset::Resync of this record, OriginalValue before.
+    QVariant UnderlyingValue() const;
 
 private:
     const FieldInfo &info() const;

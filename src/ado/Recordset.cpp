@@ -111,12 +111,14 @@ void Recordset::Open(const QString &source, const std::shared_ptr<Connection> &c
     const std::shared_ptr<Session> session = connection->session();
     const bool isTable = options == adCmdTable || options == adCmdTableDirect;
     try {
-        d->snapshot.emplace(d->read(*session, isTable ? session->tableStatement(source) : source));
+        Snapshot read = d->read(*session, isTable ? session->tableStatement(source) : source);
+        d->fields.reset(*this, read.fields());
+        d->snapshot.emplace(std::move(read));
     } catch (const std::bad_alloc &) {
+        d->fields.clear();
         throw Error(dbErrFailed, Texts::outOfMemory());
     }
     d->source = source;
-    d->fields.reset(*this, d->snapshot->fields());
     d->position.reset(d->snapshot->records());
     d->tellReplaced(adRsnRequery);
     d->tellMoved(adRsnMove);
@@ -127,6 +129,7 @@ void Recordset::Close()
     d->rows();
     d->fields.clear();
     d->editor.reset();
+    d->underlying.reset();
     d->snapshot.reset();
     d->position.reset(0);
     d->tellReplaced(adRsnClose);

@@ -92,14 +92,20 @@ public:
     void PutAbsolutePage(qint64 page);
 
     // Writing a field's Value or calling AddNew begins an edit; Update writes it to the database, in
-    // a transaction, and shows what the database stored; CancelUpdate forgets it. A failed Update leaves the
-    // edit pending. A result that can't be written (read-only, join, view, aggregate, distinct, union) throws
-    // 3251. A new record is counted once it is saved; one without any value is dropped by a move. Another
-    // AddNew on a new record saves it first, and throws dbErrCancelled when it is refused or has no value.
+    // a transaction, and shows what the database stored; CancelUpdate forgets it. Update and Delete touch the
+    // record only while all of it is still what is shown, and throw dbErrConcurrency otherwise. A failed
+    // Update leaves the edit pending; it has saved nothing, except that after dbErrInDoubt nobody knows. A
+    // result that can't be written (read-only, join, view, aggregate, distinct, union) throws 3251. A new
+    // record is counted once it is saved; one without any value is dropped by a move. Another AddNew on a new
+    // record saves it first, and throws dbErrCancelled when it is refused or has no value.
     EditModeEnum EditMode() const;
     void AddNew();
     void Update();
     void CancelUpdate();
+    // Reads the current record from the database again, which tells what somebody else wrote after an Update
+    // or a Delete has thrown dbErrConcurrency. Only adAffectCurrent. Throws 3251 for a result that can't be
+    // written, dbErrDeletedRow when the record is gone.
+    void Resync(AffectEnum affect = adAffectCurrent, ResyncEnum what = adResyncAllValues);
     // Only adAffectCurrent. The deleted record stays current, unreadable (dbErrDeletedRow), until a move.
     void Delete(AffectEnum affect = adAffectCurrent);
 
@@ -125,6 +131,8 @@ private:
     const FieldInfo &fieldInfo(int column) const;
     QVariant currentValue(int column) const;
     void putCurrentValue(int column, const QVariant &value);
+    QVariant originalValue(int column) const;
+    QVariant underlyingValue(int column) const;
 
     void leaveRecord();
     void saveBeforeAddNew();

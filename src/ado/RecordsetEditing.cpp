@@ -1,8 +1,25 @@
 #include "ado/RecordsetPrivate.h"
+#include "ado/values/FieldValue.h"
+
+#include <new>
 
 // The members of Recordset that change records, and the current record's values.
 
 namespace ADODB {
+
+namespace {
+
+template<typename Action>
+auto withinMemory(Action &&action)
+{
+    try {
+        return action();
+    } catch (const std::bad_alloc &) {
+        throw Error(dbErrFailed, Texts::changeOutOfMemory());
+    }
+}
+
+} // namespace
 
 EditModeEnum Recordset::EditMode() const
 {
@@ -38,15 +55,16 @@ void Recordset::Update()
 {
     switch (d->edit().mode()) {
     case adEditAdd:
-        d->edit().saveNew(d->rows());
+        withinMemory([&] { d->edit().saveNew(d->rows()); });
         d->position.append();
         break;
     case adEditInProgress:
-        d->edit().saveChanges(d->rows(), d->currentRecord());
+        withinMemory([&] { d->edit().saveChanges(d->rows(), d->currentRecord()); });
         break;
     default:
         return;
     }
+    d->underlying.reset();
     d->tellChanged(adRsnUpdate);
 }
 
@@ -73,9 +91,43 @@ void Recordset::Delete(AffectEnum affect)
         throw Error(adErrInvalidArgument, Texts::onlyCurrentRecord());
     if (d->isAdding()) // nothing of it is in the database yet
         return CancelUpdate();
-    d->edit().remove(d->rows(), d->currentRecord());
+    withinMemory([&] { d->edit().remove(d->rows(), d->currentRecord()); });
     d->position.removeCurrent();
+    d->underlying.reset();
     d->tellChanged(adRsnDelete);
+}
+
+void Recordset::Resync(AffectEnum affect, ResyncEnum what)
+{
+    if (affect != adAffectCurrent)
+        throw Error(adErrInvalidArgument, Texts::onlyCurrentRecord());
+    if (what != adResyncUnderlyingValues && what != adResyncAllValues)
+        throw Error(adErrInvalidArgument, Texts::badArgument().arg(qint32{what}));
+    if (d->isAdding())
+        throw Error(adErrNoCurrentRecord, Texts::noCurrentRecord());
+    const qint64 record = d->currentRecord();
+    RowStore now = withinMemory([&] { return d->edit().readAgain(d->rows(), record); });
+    if (what == adResyncUnderlyingValues) {
+        d->underlying = std::move(now);
+        d->underlyingRecord = record;
+        return;
+    }
+    d->edit().cancel();
+    d->rows().replace(record, now);
+    d->underlying.reset();
+    d->tellChanged(adRsnResynch);
+}
+
+QVariant Recordset::originalValue(int column) const
+{
+    return d->isAdding() ? QVariant() : d->rows().value(d->currentRecord(), column);
+}
+
+QVariant Recordset::underlyingValue(int column) const
+{
+    if (d->isAdding() || !d->underlying || d->underlyingRecord != d->currentRecord())
+        return originalValue(column);
+    return FieldValue::fromRaw(d->underlying->cell(0, column), fieldInfo(column).type);
 }
 
 QVariant Recordset::currentValue(int column) const
@@ -83,7 +135,7 @@ QVariant Recordset::currentValue(int column) const
     const QVariant *pending = d->edit().pending(column);
     if (pending)
         return *pending;
-    return d->isAdding() ? QVariant() : d->rows().value(d->currentRecord(), column);
+    return originalValue(column);
 }
 
 void Recordset::putCurrentValue(int column, const QVariant &value)
@@ -91,7 +143,7 @@ void Recordset::putCurrentValue(int column, const QVariant &value)
     if (!d->isAdding())
         d->currentRecord();
     const bool first = d->edit().isEmpty();
-    d->edit().set(column, value, d->rows());
+    withinMemory([&] { d->edit().set(column, value, d->rows()); });
     if (first)
         d->tellChanged(adRsnFirstChange);
 }

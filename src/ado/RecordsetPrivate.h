@@ -36,6 +36,10 @@ struct Recordset::Private
     std::optional<RecordEditor> editor;
     std::optional<Snapshot> snapshot; // set while open, as is the editor
 
+    // The row that Resync found, and the record it belongs to.
+    std::optional<RowStore> underlying;
+    qint64 underlyingRecord = 0;
+
     std::vector<RecordsetObserver *> observers;
     std::unique_ptr<QObject> companion;
 

@@ -37,7 +37,10 @@ QString withWordsApart(const SqlScanner &sql, TextRange tokens, int fromDepth)
 
 Derivation::Derivation(const QString &statement, const std::vector<SourceField> &fields,
                        const Dialect &dialect)
-    : m_sql(statement, ReadingOf(dialect)), m_parts(SelectParts::of(m_sql)), m_dialect(dialect)
+    // Which mode MariaDB is in is not known here. Brackets are names in one and an error in all others.
+    : m_sql(statement, ReadingOf(dialect), {.brackets = true}),
+      m_parts(SelectParts::of(m_sql)),
+      m_dialect(dialect)
 {
     nameFields(fields);
     const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinct &&

@@ -65,6 +65,51 @@ SimpleSelect::Item itemAt(const SqlScanner &statement, qsizetype first, qsizetyp
     return {false, next == end || hasAlias ? column : QString()};
 }
 
+bool changesByItself(const SqlScanner &statement, qsizetype first, qsizetype end)
+{
+    for (qsizetype i = first; i < end; ++i) {
+        // SQLite's functions of time mean this moment when nothing else is said.
+        const bool isTimeless =
+            isOneOf(statement, i, {u"DATE", u"TIME", u"DATETIME", u"JULIANDAY", u"UNIXEPOCH"}) &&
+            statement.isSymbol(i + 1, u'(') && statement.isSymbol(i + 2, u')');
+        const bool isNow = statement.at(i).kind == SqlToken::Kind::String &&
+                           statement.text(i).compare(u"'now'", Qt::CaseInsensitive) == 0;
+        if (isTimeless || isNow ||
+            isOneOf(statement, i,
+                    {u"RANDOM",
+                     u"RANDOMBLOB",
+                     u"RAND",
+                     u"UUID",
+                     u"UUID_SHORT",
+                     u"GEN_RANDOM_UUID",
+                     u"NEWID",
+                     u"NOW",
+                     u"SYSDATE",
+                     u"SYSDATETIME",
+                     u"SYSTIMESTAMP",
+                     u"GETDATE",
+                     u"GETUTCDATE",
+                     u"CURDATE",
+                     u"CURTIME",
+                     u"CURRENT_DATE",
+                     u"CURRENT_TIME",
+                     u"CURRENT_TIMESTAMP",
+                     u"LOCALTIME",
+                     u"LOCALTIMESTAMP",
+                     u"UTC_DATE",
+                     u"UTC_TIME",
+                     u"UTC_TIMESTAMP",
+                     u"UNIX_TIMESTAMP",
+                     u"CLOCK_TIMESTAMP",
+                     u"STATEMENT_TIMESTAMP",
+                     u"TRANSACTION_TIMESTAMP",
+                     u"TIMEOFDAY",
+                     u"CONNECTION_ID"}))
+            return true;
+    }
+    return false;
+}
+
 std::vector<SimpleSelect::Item> itemsBefore(const SqlScanner &statement, qsizetype from)
 {
     std::vector<SimpleSelect::Item> items;
@@ -72,6 +117,7 @@ std::vector<SimpleSelect::Item> itemsBefore(const SqlScanner &statement, qsizety
     for (qsizetype i = first; i <= from; ++i) {
         if (i == from || (statement.isSymbol(i, u',') && statement.at(i).depth == 0)) {
             items.push_back(itemAt(statement, first, i));
+            items.back().changesByItself = changesByItself(statement, first, i);
             first = i + 1;
         }
     }

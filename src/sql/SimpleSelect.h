@@ -18,6 +18,8 @@ struct SimpleSelect
     {
         bool all = false; // * or T.*
         QString column;   // the name of a plain column; empty for anything that is computed
+        // For what is computed: from the time or by chance, so no two readings need to agree.
+        bool changesByItself = false;
     };
 
     // Why it is no such SELECT, if it isn't. The rest is set only when it is one.

@@ -8,9 +8,22 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
+// Engines take whatever is not ASCII for part of a name.
 bool isWordPart(QChar c)
 {
-    return c.isLetterOrNumber() || c == u'_' || c == u'$' || c.isSurrogate();
+    return c.isLetterOrNumber() || c == u'_' || c == u'$' || c.unicode() >= 0x80;
+}
+
+bool isLineEndOfUnicode(QChar c)
+{
+    return c.unicode() == 0x85 || c.unicode() == 0x2028 || c.unicode() == 0x2029;
+}
+
+// A control character that is no plain blank, or what some engine takes for the end of a line.
+bool isStray(QChar c)
+{
+    const bool isPlain = c == u'\t' || c == u'\n' || c == u'\r';
+    return (c.category() == QChar::Other_Control && !isPlain) || isLineEndOfUnicode(c);
 }
 
 QChar closingOf(QChar open)
@@ -34,9 +47,33 @@ SqlDialect ReadingOf(const Dialect &dialect)
     }
 }
 
-SqlScanner::SqlScanner(QString sql, SqlDialect dialect) : m_sql(std::move(sql)), m_dialect(dialect)
+SqlScanner::SqlScanner(QString sql, SqlDialect dialect, const SqlQuoting &quoting)
+    : m_sql(std::move(sql)), m_dialect(dialect), m_quoting(quoting)
 {
     scan();
+    if (const qsizetype zero = m_sql.indexOf(QChar(u'\0')); zero >= 0)
+        markStray(zero);
+}
+
+void SqlScanner::markStray(qsizetype place)
+{
+    if (m_stray < 0 || place < m_stray)
+        m_stray = place;
+}
+
+// Looks at what is no text and no quoted name.
+void SqlScanner::findStray(qsizetype from, qsizetype end)
+{
+    for (qsizetype i = from; i < end && m_stray < 0; ++i) {
+        if (isStray(m_sql.at(i)))
+            markStray(i);
+    }
+}
+
+bool SqlScanner::isBlank(QChar c) const
+{
+    // SQL Server alone takes Unicode's blanks for blanks.
+    return c.isSpace() && (c.unicode() < 0x80 || m_dialect == SqlDialect::SqlServer);
 }
 
 void SqlScanner::scan()
@@ -44,13 +81,29 @@ void SqlScanner::scan()
     int depth = 0;
     for (qsizetype i = 0; i < m_sql.size();) {
         const QChar c = m_sql.at(i);
-        if (c.isSpace()) {
+        if (isBlank(c)) {
+            findStray(i, i + 1);
             ++i;
             continue;
         }
         if (const qsizetype behind = skipComment(i); behind > i) {
+            findStray(i, behind);
+            // Where the comment ends at a carriage return it is known; elsewhere an engine may think so.
+            const qsizetype lone = m_sql.indexOf(u'\r', i);
+            const bool isLine = c != u'/';
+            if (isLine && lone >= 0 && lone < behind && lone + 1 < m_sql.size() &&
+                m_sql.at(lone + 1) != u'\n')
+                markStray(lone);
             i = behind;
             continue;
+        }
+        if (const qsizetype behind = endOfVersionComment(i); behind > i) {
+            for (qsizetype k = i + 2; k + 2 < behind; ++k) {
+                const QStringView pair = QStringView(m_sql).sliced(k, 2);
+                if (pair.front() == u'\'' || pair.front() == u'"' || pair.front() == u'`' ||
+                    pair.front() == u'#' || pair == "--"_L1 || pair == "/*"_L1)
+                    markStray(k);
+            }
         }
         auto kind = SqlToken::Kind::Symbol;
         qsizetype end = i + 1;
@@ -65,11 +118,19 @@ void SqlScanner::scan()
             end = endOfQuoted(i, closingOf(c));
         } else if (isWordPart(c)) {
             kind = c.isDigit() ? SqlToken::Kind::Number : SqlToken::Kind::Word;
-            while (end < m_sql.size() && isWordPart(m_sql.at(end)))
+            while (end < m_sql.size() && isWordPart(m_sql.at(end)) && !isBlank(m_sql.at(end)))
                 ++end;
         } else if (c == u')' && depth > 0) {
             --depth;
         }
+        const bool isQuoted = kind == SqlToken::Kind::String || kind == SqlToken::Kind::QuotedName;
+        if (!isQuoted)
+            findStray(i, end);
+        // PostgreSQL joins them, and reads the second one's backslashes as the first one's.
+        if (kind == SqlToken::Kind::String && m_dialect == SqlDialect::PostgreSql && !m_tokens.empty() &&
+            m_tokens.back().kind == SqlToken::Kind::String &&
+            QStringView(m_sql).sliced(m_tokens.back().start, end - m_tokens.back().start).contains(u'\\'))
+            markStray(i);
         m_tokens.push_back({kind, i, end - i, depth});
         if (kind == SqlToken::Kind::Symbol && c == u'(')
             ++depth;
@@ -82,15 +143,34 @@ qsizetype SqlScanner::skipComment(qsizetype from) const
     const QStringView rest = QStringView(m_sql).sliced(from);
     const bool mySql = m_dialect == SqlDialect::MySql;
     // To MySQL two dashes are a comment only with a blank behind them.
-    const bool dashes = rest.startsWith("--"_L1) &&
-                        (!mySql || rest.size() == 2 || !rest.at(2).isPrint() || rest.at(2).isSpace());
-    if (dashes || (mySql && rest.startsWith(u'#'))) {
-        const qsizetype end = m_sql.indexOf(u'\n', from);
-        return end < 0 ? m_sql.size() : end;
+    const bool dashes =
+        rest.startsWith("--"_L1) &&
+        (!mySql || rest.size() == 2 || rest.at(2).unicode() <= 0x20 || rest.at(2).unicode() == 0x7f);
+    if (dashes || (mySql && rest.startsWith(u'#')))
+        return endOfLineComment(from);
+    return rest.startsWith("/*"_L1) && endOfVersionComment(from) == from ? endOfBlockComment(from) : from;
+}
+
+qsizetype SqlScanner::endOfLineComment(qsizetype from) const
+{
+    for (qsizetype i = from; i < m_sql.size(); ++i) {
+        const QChar c = m_sql.at(i);
+        if (c == u'\n' || (c == u'\r' && m_dialect == SqlDialect::PostgreSql) ||
+            (m_dialect == SqlDialect::SqlServer && (c == u'\r' || isLineEndOfUnicode(c))))
+            return i;
     }
-    // MySQL runs what stands in a comment with an exclamation mark.
-    const bool runs = mySql && (rest.startsWith("/*!"_L1) || rest.startsWith("/*M!"_L1));
-    return rest.startsWith("/*"_L1) && !runs ? endOfBlockComment(from) : from;
+    return m_sql.size();
+}
+
+// MySQL runs what is in a comment with an exclamation mark, unless a number in front asks for a later
+// version. `from` where none begins.
+qsizetype SqlScanner::endOfVersionComment(qsizetype from) const
+{
+    const QStringView rest = QStringView(m_sql).sliced(from);
+    if (m_dialect != SqlDialect::MySql || !(rest.startsWith("/*!"_L1) || rest.startsWith("/*M!"_L1)))
+        return from;
+    const qsizetype close = m_sql.indexOf("*/"_L1, from + 2);
+    return close < 0 ? m_sql.size() : close + 2;
 }
 
 qsizetype SqlScanner::endOfBlockComment(qsizetype from) const
@@ -118,8 +198,8 @@ bool SqlScanner::isNameQuote(QChar c) const
         return c == u'"';
     case SqlDialect::SqlServer:
         return c == u'"' || c == u'[';
-    case SqlDialect::MySql: // brackets in MSSQL mode, and an error in all others
-        return c == u'"' || c == u'`' || c == u'[';
+    case SqlDialect::MySql:
+        return c == u'"' || c == u'`' || (c == u'[' && m_quoting.brackets);
     case SqlDialect::Standard:
         break;
     }
@@ -128,8 +208,10 @@ bool SqlScanner::isNameQuote(QChar c) const
 
 bool SqlScanner::hasBackslashEscapes(qsizetype quote) const
 {
-    if (m_dialect == SqlDialect::MySql)
-        return m_sql.at(quote) != u'`';
+    if (m_dialect == SqlDialect::MySql) {
+        const QChar c = m_sql.at(quote);
+        return m_quoting.backslashEscapes && (c == u'\'' || (c == u'"' && !m_quoting.ansiQuotes));
+    }
     // E'…', the E being a word of its own.
     return m_dialect == SqlDialect::PostgreSql && m_sql.at(quote) == u'\'' && quote > 0 &&
            m_sql.at(quote - 1).toUpper() == u'E' && (quote == 1 || !isWordPart(m_sql.at(quote - 2)));
@@ -139,7 +221,7 @@ qsizetype SqlScanner::endOfQuoted(qsizetype from, QChar close) const
 {
     const bool escapes = hasBackslashEscapes(from);
     // A doubled quote stands for itself. SQLite's bracket can't be doubled.
-    const bool doubles = close != u']' || m_dialect == SqlDialect::SqlServer;
+    const bool doubles = close != u']' || m_dialect != SqlDialect::Standard;
     for (qsizetype i = from + 1; i < m_sql.size(); ++i) {
         if (escapes && m_sql.at(i) == u'\\') {
             ++i;
@@ -177,7 +259,8 @@ QStringView SqlScanner::text(qsizetype index) const
 
 QString SqlScanner::withoutSemicolon() const
 {
-    return isSymbol(count() - 1, u';') ? m_sql.left(at(count() - 1).start) : m_sql;
+    const qsizetype last = count() - (isSymbol(count() - 1, u';') ? 2 : 1);
+    return last < 0 ? QString() : m_sql.left(at(last).end());
 }
 
 bool SqlScanner::isWord(qsizetype index, QStringView word) const

@@ -25,18 +25,33 @@ enum class SqlDialect { Standard, PostgreSql, MySql, SqlServer };
 struct Dialect;
 SqlDialect ReadingOf(const Dialect &dialect);
 
+// How a MySQL server reads texts and names, which its sql_mode changes.
+struct SqlQuoting
+{
+    bool backslashEscapes = true; // not with NO_BACKSLASH_ESCAPES
+    bool ansiQuotes = false;      // "…" is a name
+    bool brackets = false;        // […] is a name
+};
+
 // A statement cut into tokens: comments and blanks are left out; quoted names ("a", [a], `a`) and strings are
 // one token each, with their quotes. A quote or comment that is not closed reaches to the end. Knows no
 // grammar.
 class SqlScanner
 {
 public:
-    explicit SqlScanner(QString sql, SqlDialect dialect = SqlDialect::Standard);
+    explicit SqlScanner(QString sql, SqlDialect dialect = SqlDialect::Standard,
+                        const SqlQuoting &quoting = {});
 
     const QString &sql() const { return m_sql; }
-    // Without the semicolon that ends it, and what is behind that.
+    // Without the semicolon that ends it and the comments after it, in which a driver may see statements.
     QString withoutSemicolon() const;
     SqlDialect dialect() const { return m_dialect; }
+    // Where the statement first holds something by which engines, or an engine and its driver, could come to
+    // read it in two ways; -1 when nowhere: a control character or a line end of Unicode's own outside texts
+    // and quoted names, a zero anywhere, a carriage return alone in a comment that ends with the line, a
+    // quote within what MySQL runs or skips depending on its version, and texts one after the other of which
+    // one holds a backslash.
+    qsizetype strayCharacter() const { return m_stray; }
     qsizetype count() const { return static_cast<qsizetype>(m_tokens.size()); }
     const SqlToken &at(qsizetype index) const { return m_tokens[static_cast<std::size_t>(index)]; }
     QStringView text(qsizetype index) const;
@@ -49,7 +64,12 @@ public:
 
 private:
     void scan();
+    void findStray(qsizetype from, qsizetype end);
+    void markStray(qsizetype place);
+    bool isBlank(QChar c) const;
     qsizetype skipComment(qsizetype from) const;
+    qsizetype endOfLineComment(qsizetype from) const;
+    qsizetype endOfVersionComment(qsizetype from) const;
     qsizetype endOfBlockComment(qsizetype from) const;
     bool isNameQuote(QChar c) const;
     bool hasBackslashEscapes(qsizetype quote) const;
@@ -58,6 +78,8 @@ private:
 
     QString m_sql;
     SqlDialect m_dialect;
+    SqlQuoting m_quoting;
+    qsizetype m_stray = -1;
     std::vector<SqlToken> m_tokens;
 };
 

@@ -4,6 +4,10 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
 using namespace Qt::Literals::StringLiterals;
 using namespace ADODB;
 using AdoTest::OtherProgram;
@@ -64,6 +68,24 @@ TEST(Connection, NamesAMissingFileAndMakesNone)
     EXPECT_FALSE(QFile::exists(path));
     EXPECT_EQ(connection.State(), adStateClosed);
 }
+
+#ifdef Q_OS_UNIX
+// Nobody ever writes to the pipe, so opening it would wait for ever.
+TEST(Connection, RefusesPipesAndDevicesAtOnce)
+{
+    const TestDatabase database;
+    const QString pipe = database.filePath(u"pipe"_s);
+    ASSERT_EQ(mkfifo(pipe.toUtf8().constData(), 0600), 0);
+    for (const QString &text :
+         {u"Provider=SQLite;Data Source="_s + pipe, u"Provider=SQLite;Data Source=/dev/zero"_s,
+          u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + pipe}) {
+        Connection connection;
+        const Error error = AdoTest::errorOf([&] { connection.Open(text); });
+        EXPECT_TRUE(error.is(adErrOpeningFile)) << error.what();
+        EXPECT_TRUE(error.Description().contains(u"管道或设备")) << error.what();
+    }
+}
+#endif
 
 TEST(Connection, RefusesWhatIsNoDatabaseAndLeavesItAlone)
 {

@@ -4,6 +4,7 @@
 #include "sql/SqlScanner.h"
 
 using namespace ADODB;
+using KOVAVSFDataGridLib::SqlDialect;
 
 namespace {
 

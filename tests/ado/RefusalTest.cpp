@@ -55,6 +55,13 @@ TEST(Opening, RefusesWhateverIsNotOneQueryBeforeItRuns)
         {"vacuum", dbErrPermissionDenied},
         {"reindex", dbErrPermissionDenied},
         {"analyze", dbErrPermissionDenied},
+        {"pragma page_size = 512", dbErrPermissionDenied},
+        {"select p.* from orders, pragma_optimize p", dbErrPermissionDenied},
+        {"select 1 as a --\r; commit; delete from orders", dbErrPermissionDenied},
+        {"select 1 as a --\xc2\x85; delete from orders", dbErrPermissionDenied},
+        {"select 1 as a --\xe2\x80\xa8; delete from orders", dbErrPermissionDenied},
+        {"select 1 as a /* \f */", dbErrPermissionDenied},
+        {"select\v1", dbErrPermissionDenied},
     };
     const TestDatabase database(script);
     const QByteArray before = database.fileBytes();
@@ -89,6 +96,67 @@ TEST(Opening, AcceptsOneQueryWithWhatMayStandAroundIt)
     Recordset table;
     table.Open(u"orders"_s, database.connect(), adOpenStatic, adLockReadOnly, adCmdTable);
     EXPECT_EQ(table.RecordCount(), 2);
+}
+
+// Pragmas that change something are tables as well, and run only with the statement.
+TEST(Opening, KeepsWhatAStatementCallsFromWriting)
+{
+    const TestDatabase database(
+        u"CREATE TABLE t(a); CREATE INDEX i ON t(a); ANALYZE;"
+        "INSERT INTO t WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n "
+        "WHERE x < 500) SELECT x FROM n;"_s);
+    const QString statistics = database.ask(u"SELECT group_concat(stat) FROM sqlite_stat1"_s);
+    const QByteArray before = database.fileBytes();
+    const auto connection = database.connect();
+    for (const char *sql : {"SELECT p.* FROM t, pragma_optimize p WHERE t.a = 1",
+                            "SELECT a, (SELECT count(*) FROM pragma_optimize(0xfffe)) FROM t WHERE a = 7"}) {
+        SCOPED_TRACE(sql);
+        Recordset recordset;
+        EXPECT_ADO_ERROR(dbErrPermissionDenied,
+                         recordset.Open(QString::fromUtf8(sql), connection, adOpenKeyset, adLockOptimistic));
+    }
+    connection->Close();
+    EXPECT_EQ(database.fileBytes(), before);
+    EXPECT_EQ(database.ask(u"SELECT group_concat(stat) FROM sqlite_stat1"_s), statistics);
+}
+
+TEST(Opening, ReadsAndWritesTablesForSearchingTextsAndPlaces)
+{
+    const TestDatabase database(u"CREATE VIRTUAL TABLE f USING fts5(title, body);"
+                                "INSERT INTO f VALUES ('one', 'red apple'), ('two', 'green pear');"
+                                "CREATE VIRTUAL TABLE f4 USING fts4(body);"
+                                "INSERT INTO f4 VALUES ('red apple'), ('green pear');"
+                                "CREATE VIRTUAL TABLE r USING rtree(id, x0, x1);"
+                                "INSERT INTO r VALUES (1, 0, 10), (2, 20, 30);"_s);
+    for (const char *sql :
+         {"SELECT * FROM f WHERE f MATCH 'apple'", "SELECT * FROM f4 WHERE f4 MATCH 'apple'",
+          "SELECT * FROM r WHERE x1 < 15", "SELECT highlight(f, 1, '<', '>') FROM f('pear')"}) {
+        SCOPED_TRACE(sql);
+        EXPECT_EQ(database.open(QString::fromUtf8(sql))->RecordCount(), 1);
+    }
+    const auto texts = database.open(u"SELECT title FROM f ORDER BY rowid"_s);
+    texts->Fields().Item(0).PutValue(u"uno"_s);
+    texts->Update();
+    texts->MoveNext();
+    texts->Delete();
+    EXPECT_EQ(database.ask(u"SELECT group_concat(title || body) FROM f"_s), u"unored apple"_s);
+    const auto places = database.open(u"SELECT * FROM r ORDER BY id"_s);
+    places->MoveLast();
+    places->Delete();
+    EXPECT_EQ(database.ask(u"SELECT group_concat(id) FROM r"_s), u"1"_s);
+    // What such a table keeps its index in is its own.
+    const auto own = database.open(u"SELECT * FROM f_data"_s);
+    EXPECT_THROW(own->Delete(), Error);
+}
+
+// A schema from a stranger can hold anything.
+TEST(Opening, LetsASchemaCallOnlyWhatHasNoEffect)
+{
+    const TestDatabase database(u"CREATE TABLE t(a); INSERT INTO t VALUES (1);"
+                                "CREATE VIEW v AS SELECT kova_digest(a) FROM t;"
+                                "CREATE VIEW w AS SELECT * FROM pragma_optimize;"_s);
+    EXPECT_THROW(database.open(u"SELECT * FROM v"_s), Error);
+    EXPECT_THROW(database.open(u"SELECT * FROM w"_s), Error);
 }
 
 TEST(Opening, TellsWhatIsWrongInTheDatabasesOwnWords)

@@ -103,8 +103,7 @@ TEST(WriteBackTarget, RefusesResultsWhoseRowsAreNoneOfTheTable)
           u"SELECT b.* FROM S a JOIN S b ON b.id = a.id + 1"_s, u"SELECT * FROM S a NATURAL JOIN S b"_s,
           u"SELECT * FROM (SELECT id, v, name FROM S)"_s, u"SELECT * FROM (S)"_s,
           u"WITH S AS (SELECT 4 AS id, 5 AS v) SELECT id FROM S"_s, u"SELECT * FROM seen"_s,
-          u"SELECT id, sum(v) OVER () FROM S"_s, u"SELECT (SELECT v FROM W) FROM W"_s,
-          u"SELECT id IS DISTINCT FROM v FROM S"_s}) {
+          u"SELECT id, sum(v) OVER () FROM S"_s, u"SELECT id IS DISTINCT FROM v FROM S"_s}) {
         SCOPED_TRACE(sql.toStdString());
         const auto recordset = database.open(sql);
         EXPECT_ADO_ERROR(adErrFeatureNotAvailable, recordset->Delete());
@@ -168,8 +167,8 @@ TEST(WriteBackTarget, WritesNothingOnceTheTableHasOtherColumns)
     EXPECT_ADO_ERROR(dbErrConcurrency, recordset->Update());
     EXPECT_EQ(database.ask(u"SELECT name FROM S WHERE id = 1"_s), u"a"_s);
     recordset->CancelUpdate();
-    recordset->Delete();
-    EXPECT_EQ(idsOf(database), u"2,3,4"_s) << "the key is still that of the row";
+    EXPECT_ADO_ERROR(dbErrConcurrency, recordset->Delete());
+    EXPECT_EQ(idsOf(database), u"1,2,3,4"_s);
 }
 
 TEST(WriteBackTarget, LeavesGeneratedColumnsToTheDatabase)

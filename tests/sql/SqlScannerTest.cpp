@@ -6,6 +6,8 @@
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
+using KOVAVSFDataGridLib::SqlDialect;
+using KOVAVSFDataGridLib::SqlQuoting;
 using KOVAVSFDataGridLib::SqlScanner;
 
 namespace {
@@ -38,6 +40,75 @@ TEST(SqlScanner, CutsStatementsIntoTokens)
             tokens += scanner.text(i).toString();
         EXPECT_EQ(tokens.join(u'|'), c.tokens) << c.sql.toStdString();
     }
+}
+
+QString tokensOf(const QString &sql, SqlDialect dialect, const SqlQuoting &quoting = {})
+{
+    const SqlScanner scanner(sql, dialect, quoting);
+    QStringList tokens;
+    for (qsizetype i = 0; i < scanner.count(); ++i)
+        tokens += scanner.text(i).toString();
+    return tokens.join(u'|');
+}
+
+TEST(SqlScanner, EndsCommentsWhereTheEngineDoes)
+{
+    using enum SqlDialect;
+    EXPECT_EQ(tokensOf(u"a --x\rb"_s, PostgreSql), u"a|b"_s);
+    EXPECT_EQ(tokensOf(u"a --x\rb"_s, SqlServer), u"a|b"_s);
+    EXPECT_EQ(tokensOf(u"a --x\u2028b"_s, SqlServer), u"a|b"_s);
+    EXPECT_EQ(tokensOf(u"a --x\u2028b"_s, PostgreSql), u"a"_s);
+    EXPECT_EQ(tokensOf(u"a -- x\rb"_s, MySql), u"a"_s);
+    EXPECT_EQ(tokensOf(u"a -- x\rb\nc"_s, MySql), u"a|c"_s);
+    EXPECT_EQ(tokensOf(u"a #x\rb\nc"_s, MySql), u"a|c"_s);
+    EXPECT_EQ(tokensOf(u"a --\u00a0b"_s, MySql), u"a|-|-|\u00a0b"_s) << "no blank to the server";
+    EXPECT_EQ(tokensOf(u"a\u3000b"_s, SqlServer), u"a|b"_s);
+    EXPECT_EQ(tokensOf(u"a\u3000b"_s, PostgreSql), u"a\u3000b"_s);
+}
+
+TEST(SqlScanner, ReadsQuotesAsTheServersModeDoes)
+{
+    const auto mySql = SqlDialect::MySql;
+    EXPECT_EQ(tokensOf(u"'\\' ; 'a'"_s, mySql), u"'\\' ; '|a|'"_s);
+    EXPECT_EQ(tokensOf(u"'\\' ; 'a'"_s, mySql, {.backslashEscapes = false}), u"'\\'|;|'a'"_s);
+    EXPECT_EQ(tokensOf(u"\"\\\" ;"_s, mySql, {.ansiQuotes = true}), u"\"\\\"|;"_s);
+    EXPECT_EQ(tokensOf(u"[a' ] ; b"_s, mySql), u"[|a|' ] ; b"_s);
+    EXPECT_EQ(tokensOf(u"[a' ] ; b"_s, mySql, {.brackets = true}), u"[a' ]|;|b"_s);
+}
+
+TEST(SqlScanner, FindsWhatCanBeReadInTwoWays)
+{
+    using enum SqlDialect;
+    struct Stray
+    {
+        QString sql;
+        SqlDialect dialect;
+        qsizetype place;
+    };
+    const std::vector<Stray> cases{
+        {u"select 1 -- a\n, 2 /* b\r\n */ -- c\r\n"_s, MySql, -1},
+        {u"select 'a\r\f\u2028' \"b\v\""_s, Standard, -1},
+        {u"select 1 --\r; delete"_s, Standard, 11},
+        {u"select 1 --\r; delete"_s, MySql, 11},
+        {u"select 1 #\r; delete"_s, MySql, 10},
+        {u"select 1 --\r; delete"_s, PostgreSql, -1}, // which it ends
+        {u"select 1 -- a\r"_s, Standard, -1},
+        {u"select 1 --\u2028; delete"_s, PostgreSql, 11},
+        {u"select 1 --\u0085"_s, MySql, 11},
+        {u"select 1 /*\f*/"_s, Standard, 11},
+        {u"select\v1"_s, Standard, 6},
+        {u"select \u007f"_s, Standard, 7},
+        {u"select 'a"_s + QChar(u'\0') + u"'"_s, Standard, 9},
+        {u"select /*!50000 1 */"_s, MySql, -1},
+        {u"select /*!99999 ' */ ; delete from t -- '"_s, MySql, 16},
+        {u"select /*M!99999 # */ 1"_s, MySql, 17},
+        {u"select /*!99999 /* */ 1"_s, MySql, 16},
+        {u"select 'a' 'b'"_s, PostgreSql, -1},
+        {u"select e'a'\n'\\' y ', 1"_s, PostgreSql, 12},
+        {u"select 'a'\n'\\' y"_s, MySql, -1},
+    };
+    for (const Stray &c : cases)
+        EXPECT_EQ(SqlScanner(c.sql, c.dialect).strayCharacter(), c.place) << c.sql.toStdString();
 }
 
 TEST(SqlScanner, CountsOpenParentheses)

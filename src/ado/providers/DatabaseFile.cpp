@@ -20,6 +20,8 @@ DatabaseFile::DatabaseFile(const QString &name, qint64 headerSize)
         throw Error(adErrOpeningFile, Texts::fileMissing().arg(shown));
     if (info.isDir())
         throw Error(adErrOpeningFile, Texts::fileIsFolder().arg(shown));
+    if (!info.isFile()) // opening a pipe would wait for somebody to write to it
+        throw Error(adErrOpeningFile, Texts::fileIsSpecial().arg(shown));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw Error(adErrOpeningFile, Texts::fileUnreadable().arg(shown, file.errorString()));

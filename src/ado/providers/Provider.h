@@ -1,10 +1,9 @@
 #pragma once
 
 #include "ado/FieldInfo.h"
-#include "ado/values/RawValue.h"
+#include "ado/rows/RowWriter.h"
 
 #include <QtCore/QStringList>
-#include <QtCore/QVariant>
 
 #include <functional>
 #include <memory>
@@ -17,28 +16,6 @@ namespace ADODB {
 
 class ConnectionString;
 class RowStore;
-
-// One value for one column of a statement, as FieldValue::toStorage() gives it.
-struct Change
-{
-    int column;
-    QVariant value;
-};
-
-// Writes rows of one result back to the one table they come from. Each call is a transaction of its own: it
-// changes exactly one row, or throws and has changed nothing. A `row` has all columns of the result, hidden
-// ones too; `stored` receives the row as the database then has it.
-class RowWriter
-{
-public:
-    virtual ~RowWriter();
-    // Whether a column can be given a value.
-    virtual bool isWritable(int column) const = 0;
-    virtual void insert(const std::vector<Change> &changes, RowStore &stored) = 0;
-    virtual void update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
-                        RowStore &stored) = 0;
-    virtual void remove(const std::vector<RawValue> &row) = 0;
-};
 
 // A statement that was checked to return rows and to change nothing. It must not outlive its session's close.
 class Statement

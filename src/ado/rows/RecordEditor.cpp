@@ -7,7 +7,26 @@
 #include "ado/rows/Snapshot.h"
 #include "ado/values/FieldValue.h"
 
+#include <new>
+
 namespace ADODB {
+
+namespace {
+
+// Takes what was just saved into the snapshot. When that fails, the record shown is not the one saved.
+template<typename Action>
+void showSaved(Action &&action)
+{
+    try {
+        action();
+    } catch (const Error &error) {
+        throw Error(dbErrInDoubt, Texts::savedUnseen().arg(error.Description()));
+    } catch (const std::bad_alloc &) {
+        throw Error(dbErrInDoubt, Texts::savedUnseen().arg(Texts::outOfMemory()));
+    }
+}
+
+} // namespace
 
 RecordEditor::RecordEditor(std::unique_ptr<RowWriter> writer, const QString &whyReadOnly)
     : m_writer(std::move(writer)), m_whyReadOnly(whyReadOnly)
@@ -70,7 +89,7 @@ void RecordEditor::saveNew(Snapshot &snapshot)
 {
     RowStore stored(snapshot.columns());
     writer().insert(changes(), stored);
-    snapshot.append(stored);
+    showSaved([&] { snapshot.append(stored); });
     cancel();
 }
 
@@ -78,14 +97,24 @@ void RecordEditor::saveChanges(Snapshot &snapshot, qint64 record)
 {
     RowStore stored(snapshot.columns());
     writer().update(snapshot.raw(record), changes(), stored);
-    snapshot.replace(record, stored);
+    showSaved([&] { snapshot.replace(record, stored); });
     cancel();
+}
+
+RowStore RecordEditor::readAgain(const Snapshot &snapshot, qint64 record) const
+{
+    RowStore now(snapshot.columns());
+    if (!writer().read(snapshot.raw(record), now))
+        throw Error(dbErrDeletedRow, Texts::rowDeleted());
+    if (now.rows() > 1)
+        throw Error(dbErrConcurrency, Texts::rowNotUnique().arg(now.rows()));
+    return now;
 }
 
 void RecordEditor::remove(Snapshot &snapshot, qint64 record)
 {
     writer().remove(snapshot.raw(record));
-    snapshot.remove(record);
+    showSaved([&] { snapshot.remove(record); });
     cancel();
 }
 

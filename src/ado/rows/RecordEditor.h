@@ -10,6 +10,7 @@
 
 namespace ADODB {
 
+class RowStore;
 class RowWriter;
 class Snapshot;
 struct Change;
@@ -37,6 +38,9 @@ public:
     void saveChanges(Snapshot &snapshot, qint64 record);
     // Deletes a record, whatever is pending.
     void remove(Snapshot &snapshot, qint64 record);
+    // The record as the database has it now, the only row of the answer. Throws 3251, and dbErrDeletedRow
+    // when it is gone.
+    RowStore readAgain(const Snapshot &snapshot, qint64 record) const;
 
 private:
     RowWriter &writer() const;

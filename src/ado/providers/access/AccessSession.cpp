@@ -36,6 +36,7 @@ AccessSession::AccessSession(const QString &path, const QString &password)
     AccessFunctions::install(db());
     AccessModule::install(db(), file);
     m_queriesLeftOut = AccessQueries::install(*this, *file);
+    beginWatch();
 }
 
 std::unique_ptr<Statement> AccessSession::prepare(const QString &sql, Access access,

@@ -40,6 +40,7 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         engine.explain = u"EXPLAIN "_s;
         engine.limitLocks = u"SET LOCAL lock_timeout = %1"_s;
         engine.lockRow = u" FOR UPDATE"_s;
+        engine.rowVersion = u"xmin"_s;
         engine.returning = true;
         engine.asksAgain = engine.bendsDates =
             connection.info(SQL_DRIVER_NAME).contains("psqlodbc"_L1, Qt::CaseInsensitive);
@@ -50,6 +51,7 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         engine.beginReading = u"START TRANSACTION READ ONLY"_s;
         engine.endReading = u"ROLLBACK"_s;
         engine.lockRow = u" FOR UPDATE"_s;
+        engine.hasOldTables = true;
         engine.newKey = u"SELECT LAST_INSERT_ID()"_s;
         break;
     case Kind::Sqlite:
@@ -60,6 +62,7 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         break;
     case Kind::SqlServer:
         engine.dialect = SqlDialect::SqlServer;
+        engine.lockTable = u" WITH (UPDLOCK)"_s;
         break;
     case Kind::Oracle:
         engine.lockRow = u" FOR UPDATE"_s;

@@ -7,6 +7,7 @@
 namespace ADODB {
 
 using KOVAVSFDataGridLib::SqlDialect;
+using KOVAVSFDataGridLib::SqlQuoting;
 
 class OdbcConnection;
 
@@ -18,6 +19,7 @@ struct OdbcEngine
     Kind kind = Kind::Other;
     QString dbmsName; // as the driver gives it
     SqlDialect dialect = SqlDialect::Standard;
+    SqlQuoting quoting;
     QString quote; // around a name; empty where names can't be quoted
     // Between these two no statement, nor any function that it calls, can change data. Empty where the engine
     // itself keeps functions in a query from that (SQL Server, Oracle) or knows no such thing.
@@ -29,7 +31,13 @@ struct OdbcEngine
     // Has the server itself end a wait for a lock after %1 milliseconds of this transaction, for calls that
     // the driver can't stop; empty where there are none.
     QString limitLocks;
-    QString lockRow; // behind a SELECT: keeps the row from others until the transaction ends
+    QString lockRow;   // after a SELECT: keeps the row from others until the transaction ends
+    QString lockTable; // the same, after the table in a SELECT
+    // The column, not shown by *, that the engine changes whenever it changes the row; empty where there is
+    // none.
+    QString rowVersion;
+    // Tables can be of a kind that knows no transactions.
+    bool hasOldTables = false;
     // INSERT … RETURNING gives the columns of the new row.
     bool returning = false;
     // Otherwise the statement that gives the key which the database made for the row just inserted here;

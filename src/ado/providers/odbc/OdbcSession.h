@@ -26,11 +26,14 @@ public:
     // Throws 3709 once it is closed.
     const std::shared_ptr<OdbcConnection> &connection() const;
     const OdbcEngine &engine() const { return m_engine; }
+    // Learns what the server's mode makes of the quotes in a statement, where that matters.
+    void learnQuoting(const QString &sql);
     int commandTimeout() const { return m_commandTimeout; }
 
 private:
     std::shared_ptr<OdbcConnection> m_connection;
     OdbcEngine m_engine;
+    bool m_knowsQuoting = false;
     int m_commandTimeout;
 };
 

@@ -1,16 +1,15 @@
 #include "ado/providers/sqlite/SqliteCall.h"
 
-#include "ado/Error.h"
-#include "ado/Texts.h"
+#include "ado/providers/sqlite/SqliteError.h"
 
 #include <sqlite3.h>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace ADODB {
 
-SqliteCall::SqliteCall(const SqliteSession &session, const QString &sql)
-    : m_statement(session.prepareOwn(sql))
+SqliteCall::SqliteCall(const SqliteSession &session, Purpose purpose, const QString &sql)
+    : m_session(session),
+      m_purpose(purpose),
+      m_statement(purpose == Writes ? session.prepareOwn(sql) : session.prepareReading(sql))
 {
 }
 
@@ -18,25 +17,33 @@ void SqliteCall::bind(const RawValue &value)
 {
     sqlite3_stmt *const statement = handle();
     ++m_bound;
-    const int size = static_cast<int>(value.bytes.size());
+    const auto size = static_cast<sqlite3_uint64>(value.bytes.size());
     switch (value.kind) {
     case RawValue::Kind::Null:
-        sqlite3_bind_null(statement, m_bound);
+        check(sqlite3_bind_null(statement, m_bound));
         break;
     case RawValue::Kind::Integer:
-        sqlite3_bind_int64(statement, m_bound, value.integer);
+        check(sqlite3_bind_int64(statement, m_bound, value.integer));
         break;
     case RawValue::Kind::Real:
-        sqlite3_bind_double(statement, m_bound, value.real);
+        check(sqlite3_bind_double(statement, m_bound, value.real));
         break;
     case RawValue::Kind::Text:
-        sqlite3_bind_text(statement, m_bound, value.bytes.data(), size, SQLITE_TRANSIENT);
+        check(
+            sqlite3_bind_text64(statement, m_bound, value.bytes.data(), size, SQLITE_TRANSIENT, SQLITE_UTF8));
         break;
     case RawValue::Kind::Blob:
         // A blob without bytes must not become Null, which is what no address means.
-        sqlite3_bind_blob(statement, m_bound, size > 0 ? value.bytes.data() : "", size, SQLITE_TRANSIENT);
+        check(sqlite3_bind_blob64(statement, m_bound, size > 0 ? value.bytes.data() : "", size,
+                                  SQLITE_TRANSIENT));
         break;
     }
+}
+
+void SqliteCall::check(int code) const
+{
+    if (code != SQLITE_OK)
+        throwSqliteError(sqlite3_db_handle(handle()), code);
 }
 
 void SqliteCall::bind(const QVariant &value)
@@ -55,14 +62,12 @@ void SqliteCall::bind(const QVariant &value)
     }
 }
 
-void SqliteCall::changeOneRow()
+bool SqliteCall::step()
 {
-    step();
-    const int changed = sqlite3_changes(sqlite3_db_handle(handle()));
-    if (changed == 0)
-        throw Error(dbErrConcurrency, Texts::rowGone(), u"SQLite"_s, u"01001"_s);
-    if (changed > 1)
-        throw Error(dbErrConcurrency, Texts::rowNotUnique().arg(changed), u"SQLite"_s, u"01001"_s);
+    if (m_purpose == Reads)
+        return stepRow(m_statement);
+    const SqliteSession::Unwatched unwatched(m_session);
+    return stepRow(m_statement);
 }
 
 } // namespace ADODB

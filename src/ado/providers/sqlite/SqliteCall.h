@@ -10,18 +10,23 @@ namespace ADODB {
 class SqliteCall
 {
 public:
-    SqliteCall(const SqliteSession &session, const QString &sql);
+    // Writes is for what changes the database, which only a transaction of a row writer may do.
+    enum Purpose { Reads, Writes };
+
+    SqliteCall(const SqliteSession &session, Purpose purpose, const QString &sql);
 
     void bind(const RawValue &value);
     // One of Null, qlonglong, double, QString, QByteArray.
     void bind(const QVariant &value);
     // Runs it up to its next row; false when there is none.
-    bool step() { return stepRow(m_statement); }
-    // Runs it and throws unless it changed exactly one row.
-    void changeOneRow();
+    bool step();
     sqlite3_stmt *handle() const { return m_statement.get(); }
 
 private:
+    void check(int code) const;
+
+    const SqliteSession &m_session;
+    Purpose m_purpose;
     SqliteHandle m_statement;
     int m_bound = 0;
 };

@@ -1,9 +1,10 @@
 #include "ado/providers/sqlite/SqliteRowWriter.h"
 
 #include "ado/Error.h"
-#include "ado/Texts.h"
 #include "ado/providers/sqlite/SqliteCall.h"
 #include "ado/providers/sqlite/SqliteStatement.h"
+#include "ado/rows/RowComparison.h"
+#include "ado/rows/RowStore.h"
 
 #include <QtCore/QStringList>
 
@@ -17,28 +18,52 @@ namespace ADODB {
 
 namespace {
 
-// Undone unless it is committed.
+// Undone unless it is committed. What ends it is compiled before it begins, so that this needs no memory
+// then.
 class Transaction
 {
 public:
-    explicit Transaction(const SqliteSession &session) : m_session(session)
+    explicit Transaction(const SqliteSession &session)
+        : m_writing(session),
+          m_commit(session, SqliteCall::Writes, u"COMMIT"_s),
+          m_rollback(session, SqliteCall::Writes, u"ROLLBACK"_s)
     {
-        // The lock is taken at once, so a busy database is noticed before anything is changed.
-        SqliteCall(m_session, u"BEGIN IMMEDIATE"_s).step();
+        // The lock is taken at once, so a busy database is noticed before anything is changed, and what is
+        // read now stays as it is until the end.
+        SqliteCall(session, SqliteCall::Writes, u"BEGIN IMMEDIATE"_s).step();
     }
     ~Transaction()
     {
         // Some failures have already ended it.
-        if (!sqlite3_get_autocommit(m_session.db()))
-            sqlite3_exec(m_session.db(), "ROLLBACK", nullptr, nullptr, nullptr);
+        if (sqlite3_get_autocommit(sqlite3_db_handle(m_rollback.handle())))
+            return;
+        try {
+            m_rollback.step();
+        } catch (const std::exception &) {
+            // Closing the connection undoes it all the same, as does the next program that opens the file.
+        }
     }
     Q_DISABLE_COPY_MOVE(Transaction)
 
-    void commit() { SqliteCall(m_session, u"COMMIT"_s).step(); }
+    void commit() { m_commit.step(); }
 
 private:
-    const SqliteSession &m_session;
+    const SqliteSession::Writing m_writing;
+    SqliteCall m_commit;
+    SqliteCall m_rollback;
 };
+
+QString source()
+{
+    return u"SQLite"_s;
+}
+
+// A trigger can keep the row from being changed, or a statement on a virtual table can change several.
+void changeOneRow(SqliteCall &call)
+{
+    call.step();
+    RowComparison::needOneChange(sqlite3_changes(sqlite3_db_handle(call.handle())), source());
+}
 
 } // namespace
 
@@ -81,31 +106,21 @@ void SqliteRowWriter::bindKey(SqliteCall &call, const std::vector<RawValue> &row
     }
 }
 
-QString SqliteRowWriter::seenCondition(const std::vector<int> &unchanged) const
+void SqliteRowWriter::readRow(const std::vector<RawValue> &row, const std::vector<Change> &changes,
+                              RowStore &found) const
 {
-    QString condition = keyCondition({});
-    for (const int column : unchanged)
-        condition += " AND "_L1 + nameOf(column) + " IS ?"_L1;
-    return condition;
+    SqliteCall reading(*m_session, SqliteCall::Reads,
+                       m_target.selectRow + keyCondition(m_target.alias + u'.'));
+    bindKey(reading, row, changes);
+    while (reading.step())
+        appendCurrentRow(reading.handle(), found);
 }
 
-void SqliteRowWriter::bindSeen(SqliteCall &call, const std::vector<RawValue> &row,
-                               const std::vector<int> &unchanged) const
+void SqliteRowWriter::needRowAsShown(const std::vector<RawValue> &row) const
 {
-    bindKey(call, row, {});
-    for (const int column : unchanged)
-        call.bind(row[static_cast<std::size_t>(column)]);
-}
-
-void SqliteRowWriter::readBack(SqliteCall &call, RowStore &stored) const
-{
-    if (!call.step())
-        throw Error(dbErrConcurrency, Texts::rowGone(), u"SQLite"_s, u"01001"_s);
-    appendCurrentRow(call.handle(), stored);
-    // Without a key the row can have become equal to another; which of the two was read is then anyone's
-    // guess.
-    if (call.step())
-        throw Error(dbErrConcurrency, Texts::rowNotUnique().arg(2), u"SQLite"_s, u"01001"_s);
+    RowStore found(static_cast<int>(row.size()));
+    readRow(row, {}, found);
+    RowComparison::needRowAsShown(found, row, m_target.compared, source());
 }
 
 void SqliteRowWriter::insert(const std::vector<Change> &changes, RowStore &stored)
@@ -120,21 +135,20 @@ void SqliteRowWriter::insert(const std::vector<Change> &changes, RowStore &store
     const QString values = changes.empty()
                                ? u"DEFAULT VALUES"_s
                                : u"(%1) VALUES (%2)"_s.arg(names.join(", "_L1), places.join(", "_L1));
-    SqliteCall insertion(*m_session, u"INSERT INTO "_s + m_target.table + u' ' + values);
+    SqliteCall insertion(*m_session, SqliteCall::Writes, u"INSERT INTO "_s + m_target.table + u' ' + values);
     for (const Change &change : changes)
         insertion.bind(change.value);
-    insertion.changeOneRow();
-
-    const QString prefix = m_target.alias + u'.';
+    changeOneRow(insertion);
     if (m_target.rowId.isEmpty()) {
-        SqliteCall reading(*m_session, m_target.selectRow + keyCondition(prefix));
-        bindKey(reading, {}, changes);
-        readBack(reading, stored);
+        readRow({}, changes, stored);
     } else {
-        SqliteCall reading(*m_session, m_target.selectRow + prefix + m_target.rowId + " = ?"_L1);
+        SqliteCall reading(*m_session, SqliteCall::Reads,
+                           m_target.selectRow + m_target.alias + u'.' + m_target.rowId + " = ?"_L1);
         reading.bind(RawValue::fromInteger(sqlite3_last_insert_rowid(m_session->db())));
-        readBack(reading, stored);
+        while (reading.step())
+            appendCurrentRow(reading.handle(), stored);
     }
+    RowComparison::needOneRow(stored.rows(), source());
     transaction.commit();
 }
 
@@ -142,33 +156,37 @@ void SqliteRowWriter::update(const std::vector<RawValue> &row, const std::vector
                              RowStore &stored)
 {
     Transaction transaction(*m_session);
+    needRowAsShown(row);
     QStringList assignments;
-    std::vector<int> unchanged = m_target.witnesses;
-    for (const Change &change : changes) {
+    for (const Change &change : changes)
         assignments += nameOf(change.column) + " = ?"_L1;
-        unchanged.push_back(change.column); // what this edit replaces must still be what its author saw
-    }
-    SqliteCall writing(*m_session, u"UPDATE %1 SET "_s.arg(m_target.table) + assignments.join(", "_L1) +
-                                       " WHERE "_L1 + seenCondition(unchanged));
+    SqliteCall writing(*m_session, SqliteCall::Writes,
+                       u"UPDATE %1 SET "_s.arg(m_target.table) + assignments.join(", "_L1) + " WHERE "_L1 +
+                           keyCondition({}));
     for (const Change &change : changes)
         writing.bind(change.value);
-    bindSeen(writing, row, unchanged);
-    writing.changeOneRow();
-
-    SqliteCall reading(*m_session, m_target.selectRow + keyCondition(m_target.alias + u'.'));
-    bindKey(reading, row, changes);
-    readBack(reading, stored);
+    bindKey(writing, row, {});
+    changeOneRow(writing);
+    readRow(row, changes, stored);
+    RowComparison::needOneRow(stored.rows(), source());
     transaction.commit();
 }
 
 void SqliteRowWriter::remove(const std::vector<RawValue> &row)
 {
     Transaction transaction(*m_session);
-    SqliteCall deletion(*m_session,
-                        u"DELETE FROM %1 WHERE "_s.arg(m_target.table) + seenCondition(m_target.witnesses));
-    bindSeen(deletion, row, m_target.witnesses);
-    deletion.changeOneRow();
+    needRowAsShown(row);
+    SqliteCall deletion(*m_session, SqliteCall::Writes,
+                        u"DELETE FROM %1 WHERE "_s.arg(m_target.table) + keyCondition({}));
+    bindKey(deletion, row, {});
+    changeOneRow(deletion);
     transaction.commit();
+}
+
+bool SqliteRowWriter::read(const std::vector<RawValue> &row, RowStore &now)
+{
+    readRow(row, {}, now);
+    return now.rows() > 0;
 }
 
 } // namespace ADODB

@@ -17,17 +17,17 @@ public:
     void update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
                 RowStore &stored) override;
     void remove(const std::vector<RawValue> &row) override;
+    bool read(const std::vector<RawValue> &row, RowStore &now) override;
 
 private:
     const QString &nameOf(int column) const;
     QString keyCondition(const QString &prefix) const;
     void bindKey(SqliteCall &call, const std::vector<RawValue> &row,
                  const std::vector<Change> &changes) const;
-    // The row as it was read, of which the given columns have not changed since.
-    QString seenCondition(const std::vector<int> &unchanged) const;
-    void bindSeen(SqliteCall &call, const std::vector<RawValue> &row,
-                  const std::vector<int> &unchanged) const;
-    void readBack(SqliteCall &call, RowStore &stored) const;
+    // All rows that have the key of `row` after these changes; there can only be one.
+    void readRow(const std::vector<RawValue> &row, const std::vector<Change> &changes, RowStore &found) const;
+    // Throws unless the row is there and is what was shown.
+    void needRowAsShown(const std::vector<RawValue> &row) const;
 
     std::shared_ptr<SqliteSession> m_session;
     SqliteTarget m_target;

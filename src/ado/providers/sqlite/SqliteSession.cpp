@@ -2,6 +2,8 @@
 
 #include "ado/Error.h"
 #include "ado/Texts.h"
+#include "ado/providers/StrayCharacter.h"
+#include "ado/providers/sqlite/SqliteDigest.h"
 #include "ado/providers/sqlite/SqliteError.h"
 #include "ado/providers/sqlite/SqliteStatement.h"
 #include "ado/providers/sqlite/SqliteTypes.h"
@@ -31,41 +33,15 @@ bool isReadingPragma(std::string_view name)
     return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
 
-// One thread at a time is this layer's contract, so SQLite's own locking would only cost time.
-constexpr int openFlags = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
-
-// Called by SQLite while it compiles a user's statement, for each thing that the statement would do.
-int allowReading(void *, int action, const char *first, const char *, const char *, const char *)
+// Those that tell something as long as they are given no value. FTS and R*Tree tables ask for them.
+bool isReadingWithoutValue(std::string_view name)
 {
-    switch (action) {
-    case SQLITE_SELECT:
-    case SQLITE_READ:
-    case SQLITE_FUNCTION:
-    case SQLITE_RECURSIVE:
-        return SQLITE_OK;
-    case SQLITE_PRAGMA:
-        return isReadingPragma(first) ? SQLITE_OK : SQLITE_DENY;
-    case SQLITE_UPDATE:
-        // A function that gives rows (json_each, pragma_table_info) declares its columns this way, in memory
-        // only. A statement that really meant the schema would still be refused, as no mere reader.
-        return std::string_view(first) == "sqlite_master" ? SQLITE_OK : SQLITE_DENY;
-    default:
-        return SQLITE_DENY;
-    }
+    static constexpr std::string_view names[] = {"data_version", "encoding", "page_count", "page_size"};
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
 
-// The watch stands only while a user's statement is compiled; what this provider writes itself is not
-// watched.
-class ReadingOnly
-{
-public:
-    explicit ReadingOnly(sqlite3 *db) : m_db(db) { sqlite3_set_authorizer(m_db, allowReading, nullptr); }
-    ~ReadingOnly() { sqlite3_set_authorizer(m_db, nullptr, nullptr); }
-    Q_DISABLE_COPY_MOVE(ReadingOnly)
-
-private:
-    sqlite3 *m_db;
-};
+// One thread at a time is this layer's contract, so SQLite's own locking would only cost time.
+constexpr int openFlags = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
 
 SqliteHandle compile(sqlite3 *db, const QByteArray &sql, const char **tail)
 {
@@ -82,6 +58,22 @@ Error refusal(ProviderErrorEnum number, const QString &description)
 }
 
 } // namespace
+
+SqliteSession::Writing::Writing(const SqliteSession &session) : m_session(session)
+{
+    m_session.setQueryOnly(false);
+    m_session.m_watch.canWrite = true;
+}
+
+SqliteSession::Writing::~Writing()
+{
+    try {
+        m_session.setQueryOnly(true);
+        m_session.m_watch.canWrite = false;
+    } catch (const std::exception &) {
+        // The authorizer goes on refusing what SQLite itself would now let through.
+    }
+}
 
 void SqliteFinalizer::operator()(sqlite3_stmt *statement) const
 {
@@ -102,9 +94,15 @@ SqliteSession::SqliteSession(const QString &path, int timeoutInMilliseconds)
             throwSqliteError(m_db, code);
         sqlite3_busy_timeout(m_db, timeoutInMilliseconds);
         sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_FKEY, 1, nullptr);
+        // A file can come from a stranger: its schema may not call what has effects, and nothing writes to
+        // what SQLite keeps for itself.
+        sqlite3_db_config(m_db, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+        sqlite3_db_config(m_db, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+        SqliteDigest::install(m_db);
         // The first look into the file: a locked, encrypted or damaged one shows here rather than at the
         // first statement.
         stepRow(prepareOwn(u"SELECT 1 FROM sqlite_master LIMIT 1"_s));
+        beginWatch();
     } catch (...) {
         close();
         throw;
@@ -123,6 +121,48 @@ SqliteSession::SqliteSession(SqliteEngine engine) : m_engine(std::move(engine))
         close();
         throw;
     }
+}
+
+void SqliteSession::beginWatch()
+{
+    setQueryOnly(true);
+    sqlite3_set_authorizer(m_db, allow, &m_watch);
+}
+
+// Asked by SQLite about each thing that a statement would do, while it compiles one.
+int SqliteSession::allow(void *data, int action, const char *first, const char *second, const char *,
+                         const char *)
+{
+    const Watch &watch = *static_cast<const Watch *>(data);
+    if (!watch.isOn)
+        return SQLITE_OK;
+    switch (action) {
+    case SQLITE_SELECT:
+    case SQLITE_READ:
+    case SQLITE_FUNCTION:
+    case SQLITE_RECURSIVE:
+        return SQLITE_OK;
+    case SQLITE_PRAGMA:
+        return isReadingPragma(first) || (isReadingWithoutValue(first) && !second) ? SQLITE_OK : SQLITE_DENY;
+    case SQLITE_INSERT:
+    case SQLITE_UPDATE:
+    case SQLITE_DELETE:
+        // FTS and R*Tree tables compile their changes when they are only read, and a function that gives rows
+        // (json_each) declares its columns as a change of the schema. None of that can run. A user's
+        // statement that changes something is refused because it does not only read.
+        return watch.canWrite ? SQLITE_DENY : SQLITE_OK;
+    default:
+        return SQLITE_DENY;
+    }
+}
+
+void SqliteSession::setQueryOnly(bool on) const
+{
+    const Unwatched unwatched(*this);
+    const int code = sqlite3_exec(db(), on ? "PRAGMA query_only = ON" : "PRAGMA query_only = OFF", nullptr,
+                                  nullptr, nullptr);
+    if (code != SQLITE_OK)
+        throwSqliteError(m_db, code);
 }
 
 SqliteSession::~SqliteSession()
@@ -158,12 +198,9 @@ sqlite3 *SqliteSession::db() const
 SqliteHandle SqliteSession::prepareQuery(const QString &sql) const
 {
     const QByteArray text = sql.toUtf8();
+    refuseStrayCharacter(SqlScanner(sql), u"SQLite"_s);
     const char *tail = nullptr;
-    SqliteHandle statement;
-    {
-        const ReadingOnly watch(db());
-        statement = compile(m_db, text, &tail);
-    }
+    SqliteHandle statement = compile(db(), text, &tail);
     if (!statement)
         throw refusal(dbErrInCommand, Texts::emptyStatement());
     const QByteArray rest = text.sliced(tail - text.constData());
@@ -180,6 +217,12 @@ SqliteHandle SqliteSession::prepareQuery(const QString &sql) const
 }
 
 SqliteHandle SqliteSession::prepareOwn(const QString &sql) const
+{
+    const Unwatched unwatched(*this);
+    return compile(db(), sql.toUtf8(), nullptr);
+}
+
+SqliteHandle SqliteSession::prepareReading(const QString &sql) const
 {
     return compile(db(), sql.toUtf8(), nullptr);
 }

@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 #include "ado/Texts.h"
+#include "ado/providers/sqlite/SqliteError.h"
 #include "ado/providers/sqlite/SqliteRowWriter.h"
 #include "ado/providers/sqlite/SqliteTypes.h"
 #include "ado/rows/RowStore.h"
@@ -40,6 +41,16 @@ private:
     std::function<bool()> m_goOn;
 };
 
+// Without memory for another form of a value SQLite gives none at all, which must not look like an empty one.
+QByteArrayView needBytes(sqlite3_stmt *statement, int column, const void *bytes)
+{
+    const int size = sqlite3_column_bytes(statement, column);
+    sqlite3 *const db = sqlite3_db_handle(statement);
+    if (!bytes && (size > 0 || sqlite3_errcode(db) == SQLITE_NOMEM))
+        throwSqliteError(db, SQLITE_NOMEM);
+    return {static_cast<const char *>(bytes), size};
+}
+
 RawValue currentValue(sqlite3_stmt *statement, int column)
 {
     switch (sqlite3_column_type(statement, column)) {
@@ -47,15 +58,10 @@ RawValue currentValue(sqlite3_stmt *statement, int column)
         return RawValue::fromInteger(sqlite3_column_int64(statement, column));
     case SQLITE_FLOAT:
         return RawValue::fromReal(sqlite3_column_double(statement, column));
-    case SQLITE_TEXT: {
-        const void *text = sqlite3_column_text(statement, column);
-        return RawValue::fromText({static_cast<const char *>(text), sqlite3_column_bytes(statement, column)});
-    }
-    case SQLITE_BLOB: {
-        const void *bytes = sqlite3_column_blob(statement, column);
-        return RawValue::fromBlob(
-            {static_cast<const char *>(bytes), sqlite3_column_bytes(statement, column)});
-    }
+    case SQLITE_TEXT:
+        return RawValue::fromText(needBytes(statement, column, sqlite3_column_text(statement, column)));
+    case SQLITE_BLOB:
+        return RawValue::fromBlob(needBytes(statement, column, sqlite3_column_blob(statement, column)));
     default:
         return {};
     }
@@ -120,8 +126,8 @@ void SqliteStatement::prepareWriter(const QString &sql)
     m_whyReadOnly = target.whyReadOnly;
     if (!m_whyReadOnly.isEmpty())
         return;
-    // The statement that also gives the hidden key takes the place of the user's.
-    if (target.hiddenKey)
+    // The statement that also gives the hidden columns takes the place of the user's.
+    if (target.hasHidden)
         m_statement = m_session->prepareQuery(target.statement);
     for (const int field : target.writable())
         m_fields[static_cast<std::size_t>(field)].attributes |= adFldUpdatable;

@@ -3,6 +3,7 @@
 #include "ado/Error.h"
 #include "ado/ReadOnlyReason.h"
 #include "ado/Texts.h"
+#include "ado/providers/sqlite/SqliteDigest.h"
 #include "ado/providers/sqlite/SqliteSession.h"
 #include "sql/SimpleSelect.h"
 #include "sql/SqlScanner.h"
@@ -11,6 +12,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -28,6 +30,7 @@ struct TableColumns
     QStringList shown;     // by *
     QStringList generated; // from others, so they can't be written
     QStringList primaryKey;
+    QStringList neverNull;
 };
 
 struct RowId
@@ -53,6 +56,7 @@ bool isTable(const SqliteSession &session, const SimpleSelect &select)
 TableColumns columnsOf(const SqliteSession &session, const SimpleSelect &select)
 {
     constexpr int name = 1;
+    constexpr int notNull = 3;
     constexpr int keyPlace = 5;
     constexpr int visibility = 6; // 0 ordinary, 1 hidden, 2 and 3 generated
     const QString schema = select.schema.isEmpty() ? QString() : quotedName(select.schema) + u'.';
@@ -67,6 +71,8 @@ TableColumns columnsOf(const SqliteSession &session, const SimpleSelect &select)
             columns.generated += column;
         if (sqlite3_column_int(info.get(), keyPlace) > 0)
             columns.primaryKey += column;
+        if (sqlite3_column_int(info.get(), notNull) != 0)
+            columns.neverNull += column;
     }
     return columns;
 }
@@ -118,30 +124,79 @@ std::optional<QStringList> shownColumns(const SimpleSelect &select, const TableC
     return written;
 }
 
-// The fields that show the named columns; empty when one is missing.
-std::vector<SqliteTarget::KeyColumn> locate(const QStringList &names, const QStringList &shown)
+// Columns that are fetched behind the fields.
+class HiddenColumns
+{
+public:
+    explicit HiddenColumns(std::size_t fields) : m_next(static_cast<int>(fields)) {}
+
+    // The number that the column gets in the result.
+    int add(const QString &expression)
+    {
+        m_text += ", "_L1 + expression;
+        return m_next++;
+    }
+    const QString &text() const { return m_text; }
+    int end() const { return m_next; }
+
+private:
+    int m_next;
+    QString m_text;
+};
+
+// The columns of a key, fetched where the result does not show them.
+std::vector<SqliteTarget::KeyColumn> keyOf(const QStringList &names, const QStringList &shown,
+                                           const QString &alias, HiddenColumns &hidden)
 {
     std::vector<SqliteTarget::KeyColumn> key;
     for (const QString &name : names) {
-        const qsizetype column = shown.indexOf(name);
-        if (column < 0)
-            return {};
-        key.push_back({quotedName(name), quotedName(name), static_cast<int>(column)});
+        const qsizetype place = shown.indexOf(name);
+        const QString quoted = quotedName(name);
+        key.push_back(
+            {quoted, quoted, place >= 0 ? static_cast<int>(place) : hidden.add(alias + u'.' + quoted)});
     }
     return key;
 }
 
-// The primary key where the result shows all of it, else every value of the row.
-std::vector<SqliteTarget::KeyColumn> visibleKey(const TableColumns &columns, const QStringList &shown)
+// Another program that compacts the database gives new rowids, so a rowid that is no column of the table does
+// not say which row was seen. Its primary key does where that is never Null, and otherwise all of its values,
+// of which those that are not shown are fetched as a digest.
+void hideIdentity(const TableColumns &columns, const QStringList &shown, const QString &alias,
+                  HiddenColumns &hidden)
 {
-    auto key = locate(columns.primaryKey, shown);
-    if (key.empty()) {
-        QStringList names = shown;
-        names.removeAll(QString());
-        names.removeDuplicates();
-        key = locate(names, shown);
+    const auto isNeverNull = [&](const QString &name) { return columns.neverNull.contains(name); };
+    const bool hasKey = !columns.primaryKey.isEmpty() &&
+                        std::all_of(columns.primaryKey.begin(), columns.primaryKey.end(), isNeverNull);
+    QStringList missing;
+    for (const QString &name : hasKey ? columns.primaryKey : columns.shown) {
+        if (!shown.contains(name))
+            missing += alias + u'.' + quotedName(name);
     }
-    return key;
+    if (hasKey) {
+        for (const QString &column : missing)
+            hidden.add(column);
+        return;
+    }
+    constexpr qsizetype mostArguments = 100; // SQLite takes 127
+    for (qsizetype i = 0; i < missing.size(); i += mostArguments)
+        hidden.add(SqliteDigest::name() + u'(' + missing.mid(i, mostArguments).join(", "_L1) + u')');
+}
+
+// All columns of the result but those that need not be the same in two readings.
+std::vector<int> comparedColumns(const SimpleSelect &select, const TableColumns &columns,
+                                 const QStringList &shown, int end)
+{
+    std::vector<bool> restless;
+    for (const SimpleSelect::Item &item : select.items)
+        restless.insert(restless.end(), item.all ? static_cast<std::size_t>(columns.shown.size()) : 1,
+                        item.changesByItself);
+    std::vector<int> compared;
+    for (int i = 0; i < end; ++i) {
+        const bool isComputed = i < shown.size() && shown[i].isEmpty();
+        if (!isComputed || !restless[static_cast<std::size_t>(i)])
+            compared.push_back(i);
+    }
+    return compared;
 }
 
 // An aggregate of this very SELECT gives one row even where there is none. It can stand anywhere in the list,
@@ -196,21 +251,20 @@ SqliteTarget SqliteTarget::find(const SqliteSession &session, const QString &sql
 
     const RowId rowId = rowIdOf(session, target.table, columns);
     target.rowId = rowId.name;
-    QString hidden;
+    HiddenColumns hidden(fields.size());
     if (rowId.name.isEmpty()) {
-        target.key = visibleKey(columns, *shown);
+        target.key = keyOf(columns.primaryKey, *shown, target.alias, hidden);
     } else {
-        target.hiddenKey = true;
         const QString written = rowId.column.isEmpty() ? QString() : quotedName(rowId.column);
-        target.key = {{rowId.name, written, static_cast<int>(fields.size())}};
-        hidden = u", %1.%2"_s.arg(target.alias, rowId.name);
-        // A rowid that is no column of the table is given anew when another program compacts the database.
+        target.key = {{rowId.name, written, hidden.add(target.alias + u'.' + rowId.name)}};
         if (!columns.all.contains(rowId.column))
-            target.witnesses = target.writable();
+            hideIdentity(columns, *shown, target.alias, hidden);
     }
+    target.hasHidden = !hidden.text().isEmpty();
+    target.compared = comparedColumns(select, columns, *shown, hidden.end());
 
-    const QString head =
-        sql.left(select.listEnd) + hidden + sql.sliced(select.listEnd, select.sourceEnd - select.listEnd);
+    const QString head = sql.left(select.listEnd) + hidden.text() +
+                         sql.sliced(select.listEnd, select.sourceEnd - select.listEnd);
     target.statement = head + sql.sliced(select.sourceEnd);
     target.selectRow = head + " WHERE "_L1;
     if (target.key.empty())

@@ -19,8 +19,8 @@ struct SqliteTarget
     };
 
     QString whyReadOnly; // empty when they can be; the rest is set only then
-    QString statement;   // the user's, which gives the hidden key as its last column if there is one
-    bool hiddenKey = false;
+    QString statement;   // the user's with the hidden columns behind its own
+    bool hasHidden = false;
     QString table; // as it stands in a statement
     QString alias;
     QString rowId;     // the name of the rowid; empty for a table without one
@@ -30,9 +30,8 @@ struct SqliteTarget
     std::vector<QString> columns;
     // What tells the row from all others.
     std::vector<KeyColumn> key;
-    // Fields that must still be what they were when they were read, because the key alone may by now belong
-    // to another row.
-    std::vector<int> witnesses;
+    // The columns of the result, hidden ones too, that must still be what they were when the row was read.
+    std::vector<int> compared;
 
     // The fields that take values.
     std::vector<int> writable() const;

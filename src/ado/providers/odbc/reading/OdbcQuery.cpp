@@ -42,7 +42,7 @@ OdbcQuery::OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const Od
     : m_connection(connection), m_engine(engine), m_statement(std::make_unique<OdbcHandle>(connection))
 {
     // A comment behind the semicolon is another statement to some drivers.
-    m_text = SqlScanner(sql, m_engine.dialect).withoutSemicolon();
+    m_text = SqlScanner(sql, m_engine.dialect, m_engine.quoting).withoutSemicolon();
     prepare(patience);
     m_fields = describeColumns(*m_statement);
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
@@ -111,7 +111,10 @@ void OdbcQuery::read(RowStore &rows, const OdbcPatience &patience)
 bool OdbcQuery::readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch)
 {
     SQLHSTMT const statement = m_statement->get();
-    m_statement->check(watch.run([statement] { return SQLExecute(statement); }));
+    const SQLRETURN code = watch.run([statement] { return SQLExecute(statement); });
+    if (code == SQL_NO_DATA) // a change that found no row and so returns none
+        return true;
+    m_statement->check(code);
     while (reader.fetch(watch)) {
         if (!reader.append(rows))
             return false;

@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 #include "ado/Texts.h"
+#include "ado/providers/StrayCharacter.h"
 #include "sql/SqlScanner.h"
 
 #include <algorithm>
@@ -100,6 +101,7 @@ bool isExplainable(const SqlScanner &statement)
 
 void refuseUnlessQuery(const SqlScanner &statement)
 {
+    refuseStrayCharacter(statement, u"ODBC"_s);
     const qsizetype first = firstWord(statement);
     if (statement.count() == 0 || statement.isSymbol(first, u';'))
         throw refusal(dbErrInCommand, Texts::emptyStatement());

@@ -39,7 +39,8 @@ OdbcStatement::OdbcStatement(std::shared_ptr<OdbcSession> session, const QString
     : m_session(std::move(session)), m_connection(m_session->connection())
 {
     const OdbcEngine &engine = m_session->engine();
-    const SqlScanner scanner(sql, engine.dialect);
+    m_session->learnQuoting(sql);
+    const SqlScanner scanner(sql, engine.dialect, engine.quoting);
     refuseUnlessQuery(scanner);
     m_reading.emplace(m_connection, engine);
     const OdbcPatience patience{m_session->commandTimeout(), goOn};

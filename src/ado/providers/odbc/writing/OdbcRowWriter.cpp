@@ -8,6 +8,7 @@
 #include "ado/providers/odbc/reading/OdbcQuery.h"
 #include "ado/providers/odbc/writing/OdbcParameters.h"
 #include "ado/providers/odbc/writing/OdbcTransaction.h"
+#include "ado/rows/RowComparison.h"
 #include "ado/rows/RowStore.h"
 
 #include <QtCore/QStringList>
@@ -20,21 +21,15 @@ namespace ADODB {
 
 namespace {
 
-bool same(const RawValue &a, const RawValue &b)
+QString source()
 {
-    return a.kind == b.kind && a.integer == b.integer && a.bytes == b.bytes &&
-           (a.kind != RawValue::Kind::Real ||
-            qstrcmp(QByteArray::number(a.real, 'g', 17), QByteArray::number(b.real, 'g', 17)) == 0);
+    return u"ODBC"_s;
 }
 
-Error rowGone()
+// The database made other values of those that it was given, and nothing else says which row they are in.
+Error changedRowLost()
 {
-    return Error(dbErrConcurrency, Texts::rowGone(), u"ODBC"_s, u"01001"_s);
-}
-
-Error rowNotUnique(qint64 rows)
-{
-    return Error(dbErrConcurrency, Texts::rowNotUnique().arg(rows), u"ODBC"_s, u"01001"_s);
+    return Error(dbErrFailed, Texts::changedRowLost(), source());
 }
 
 // Keeps the values that a key is put together of.
@@ -115,44 +110,104 @@ QString OdbcRowWriter::limitOfLocks() const
     return limit.isEmpty() ? QString() : limit.arg((patience().timeout + 1) * 1000);
 }
 
-void OdbcRowWriter::changeOneRow(const OdbcHandle &statement) const
+OdbcRowWriter::Key OdbcRowWriter::keyOf(const std::vector<RawValue> &row) const
 {
-    const SQLRETURN code =
-        OdbcWatch(statement, patience()).run([&statement] { return SQLExecute(statement.get()); });
-    if (code != SQL_NO_DATA)
-        statement.check(code);
-    SQLLEN changed = 0;
-    if (code != SQL_NO_DATA)
-        statement.check(SQLRowCount(statement.get(), &changed));
-    if (changed == 0)
-        throw rowGone();
-    if (changed != 1)
-        throw rowNotUnique(changed);
+    Key key;
+    for (const OdbcTarget::KeyColumn &column : m_target.key)
+        key.push_back(row[static_cast<std::size_t>(column.column)]);
+    return key;
 }
 
-void OdbcRowWriter::readRow(const Key &key, RowStore &stored) const
+qint64 OdbcRowWriter::change(const OdbcHandle &statement) const
+{
+    try {
+        const SQLRETURN code =
+            OdbcWatch(statement, patience()).run([&statement] { return SQLExecute(statement.get()); });
+        if (code == SQL_NO_DATA)
+            return 0;
+        statement.check(code);
+    } catch (const Error &error) {
+        // An answer of the server says that nothing was changed, silence does not.
+        const bool isSilence = statement.connection()->isLost() || error.SQLState().startsWith("HYT"_L1);
+        if (m_target.hasTransactions || !isSilence)
+            throw;
+        throw Error(dbErrInDoubt, Texts::inDoubt().arg(error.Description()), source(), error.SQLState(),
+                    error.NativeError());
+    }
+    SQLLEN changed = 0;
+    statement.check(SQLRowCount(statement.get(), &changed));
+    return changed;
+}
+
+void OdbcRowWriter::readRows(const Key &key, Lock lock, RowStore &rows) const
 {
     const OdbcEngine &engine = m_session->engine();
+    const QString end = lock == Lock::Row ? engine.lockRow : QString();
     OdbcQuery reading(m_session->connection(), engine,
-                      m_target.selectRow + keyCondition(m_target.alias + u'.', key) + engine.lockRow,
-                      patience());
+                      m_target.selectRow + keyCondition(m_target.alias + u'.', key) + end, patience());
     OdbcParameters parameters(reading.handle());
     bindKey(parameters, key);
-    reading.read(stored, patience());
-    if (stored.rows() == 0)
-        throw rowGone();
-    if (stored.rows() > 1)
-        throw rowNotUnique(stored.rows());
+    reading.read(rows, patience());
+}
+
+void OdbcRowWriter::needRowAsShown(const std::vector<RawValue> &row, const Key &key, RowStore &found) const
+{
+    readRows(key, Lock::Row, found);
+    RowComparison::needRowAsShown(found, row, m_target.compared, source());
+}
+
+QString OdbcRowWriter::condition(const Key &key) const
+{
+    QString text = " WHERE "_L1 + keyCondition({}, key);
+    for (const OdbcTarget::KeyColumn &witness : m_target.witnesses)
+        text += " AND "_L1 + witness.name;
+    return m_target.hasTransactions ? text : text + " LIMIT 1"_L1;
+}
+
+void OdbcRowWriter::bindCondition(OdbcParameters &parameters, const std::vector<RawValue> &row,
+                                  const Key &key) const
+{
+    bindKey(parameters, key);
+    for (const OdbcTarget::KeyColumn &witness : m_target.witnesses)
+        bind(parameters, witness.column, row[static_cast<std::size_t>(witness.column)]);
+}
+
+qint64 OdbcRowWriter::changeRow(const QString &sql, const std::vector<Change> &changes,
+                                const std::vector<RawValue> &row, const Key &key) const
+{
+    const OdbcHandle statement(m_session->connection());
+    statement.prepare(sql + condition(key));
+    OdbcParameters parameters(statement);
+    bindChanges(parameters, changes);
+    bindCondition(parameters, row, key);
+    return change(statement);
+}
+
+template<typename Action>
+void OdbcRowWriter::onceWritten(Action &&action) const
+{
+    try {
+        action();
+    } catch (const Error &error) {
+        if (m_target.hasTransactions || error.is(dbErrInDoubt))
+            throw;
+        throw Error(dbErrInDoubt, Texts::savedUnseen().arg(error.Description()), source(), error.SQLState(),
+                    error.NativeError());
+    }
+}
+
+QString OdbcRowWriter::returningKey() const
+{
+    QStringList names;
+    for (const OdbcTarget::KeyColumn &column : m_target.key)
+        names += column.name;
+    return " RETURNING "_L1 + names.join(", "_L1);
 }
 
 void OdbcRowWriter::insertAndReturnKey(const QString &insertion, const std::vector<Change> &changes,
                                        RowStore &key) const
 {
-    QStringList names;
-    for (const OdbcTarget::KeyColumn &column : m_target.key)
-        names += column.name;
-    OdbcQuery returning(m_session->connection(), m_session->engine(),
-                        insertion + " RETURNING "_L1 + names.join(", "_L1), patience());
+    OdbcQuery returning(m_session->connection(), m_session->engine(), insertion + returningKey(), patience());
     OdbcParameters parameters(returning.handle());
     bindChanges(parameters, changes);
     returning.read(key, patience());
@@ -172,7 +227,7 @@ void OdbcRowWriter::insertAndFindKey(const QString &insertion, const std::vector
     statement.prepare(insertion);
     OdbcParameters parameters(statement);
     bindChanges(parameters, changes);
-    changeOneRow(statement);
+    RowComparison::needOneChange(change(statement), source());
     if (missing != m_target.key.end()) {
         OdbcQuery(m_session->connection(), engine, engine.newKey, patience()).read(key, patience());
         return;
@@ -205,10 +260,14 @@ void OdbcRowWriter::insert(const std::vector<Change> &changes, RowStore &stored)
         insertAndReturnKey(insertion, changes, key);
     else
         insertAndFindKey(insertion, changes, key);
-    // A trigger or a rule can have put the row elsewhere.
-    if (key.rows() != 1)
-        throw rowGone();
-    readRow(key.row(0), stored);
+    onceWritten([&] {
+        // A trigger or a rule can have put the row elsewhere.
+        RowComparison::needOneChange(key.rows(), source());
+        readRows(key.row(0), Lock::None, stored);
+        if (stored.rows() == 0)
+            throw changedRowLost();
+        RowComparison::needOneRow(stored.rows(), source());
+    });
     transaction.commit();
 }
 
@@ -216,50 +275,80 @@ void OdbcRowWriter::update(const std::vector<RawValue> &row, const std::vector<C
                            RowStore &stored)
 {
     OdbcTransaction transaction(m_session->connection(), limitOfLocks());
-    Key before;
-    Key after;
-    KeyValues kept(m_target.key.size());
-    for (std::size_t i = 0; i < m_target.key.size(); ++i) {
-        const int column = m_target.key[i].column;
-        before.push_back(row[static_cast<std::size_t>(column)]);
-        const Change *change = changeOf(changes, column);
-        after.push_back(change ? kept.keep(i, change->value) : before.back());
-    }
-    // What this edit replaces must still be what its author saw. The values are compared here because not
-    // every type knows an equals sign.
+    const Key before = keyOf(row);
     RowStore found(stored.columns());
-    readRow(before, found);
-    const std::vector<RawValue> now = found.row(0);
+    needRowAsShown(row, before, found);
     QStringList assignments;
-    for (const Change &change : changes) {
-        const auto column = static_cast<std::size_t>(change.column);
-        if (!same(now[column], row[column]))
-            throw rowGone();
+    for (const Change &change : changes)
         assignments += nameOf(change.column) + " = ?"_L1;
-    }
-    const OdbcHandle statement(m_session->connection());
-    statement.prepare("UPDATE "_L1 + m_target.table + " SET "_L1 + assignments.join(", "_L1) + " WHERE "_L1 +
-                      keyCondition({}, before));
-    OdbcParameters parameters(statement);
+    const QString sql = "UPDATE "_L1 + m_target.table + " SET "_L1 + assignments.join(", "_L1);
+    if (m_session->engine().returning)
+        updateAndReturn(sql, changes, before, stored);
+    else
+        updateAndFind(sql, changes, row, found, stored);
+    transaction.commit();
+}
+
+// The key as the database made it of the values, so that the row is found under it.
+void OdbcRowWriter::updateAndReturn(const QString &sql, const std::vector<Change> &changes, const Key &before,
+                                    RowStore &stored) const
+{
+    OdbcQuery returning(m_session->connection(), m_session->engine(),
+                        sql + condition(before) + returningKey(), patience());
+    OdbcParameters parameters(returning.handle());
     bindChanges(parameters, changes);
     bindKey(parameters, before);
-    changeOneRow(statement);
-    readRow(after, stored);
-    transaction.commit();
+    RowStore after(static_cast<int>(m_target.key.size()));
+    returning.read(after, patience());
+    RowComparison::needOneChange(after.rows(), source());
+    readRows(after.row(0), Lock::None, stored);
+    RowComparison::needOneRow(stored.rows(), source());
+}
+
+void OdbcRowWriter::updateAndFind(const QString &sql, const std::vector<Change> &changes,
+                                  const std::vector<RawValue> &row, const RowStore &found,
+                                  RowStore &stored) const
+{
+    const Key before = keyOf(row);
+    Key after = before;
+    KeyValues kept(after.size());
+    for (std::size_t i = 0; i < after.size(); ++i) {
+        if (const Change *change = changeOf(changes, m_target.key[i].column))
+            after[i] = kept.keep(i, change->value);
+    }
+    const qint64 changed = changeRow(sql, changes, row, before);
+    // MariaDB and MySQL do not count a row that already is what it would become, by rounding for example.
+    const bool isSame = changed == 0 && m_session->engine().dialect == SqlDialect::MySql;
+    if (!isSame)
+        RowComparison::needOneChange(changed, source());
+    const auto readBack = [&] {
+        readRows(isSame ? before : after, Lock::None, stored);
+        if (isSame)
+            RowComparison::needRowAsShown(stored, found.row(0), m_target.compared, source());
+        else if (stored.rows() == 0)
+            throw changedRowLost();
+        RowComparison::needOneRow(stored.rows(), source());
+    };
+    if (isSame)
+        readBack();
+    else
+        onceWritten(readBack);
 }
 
 void OdbcRowWriter::remove(const std::vector<RawValue> &row)
 {
     OdbcTransaction transaction(m_session->connection(), limitOfLocks());
-    Key key;
-    for (const OdbcTarget::KeyColumn &column : m_target.key)
-        key.push_back(row[static_cast<std::size_t>(column.column)]);
-    const OdbcHandle statement(m_session->connection());
-    statement.prepare("DELETE FROM "_L1 + m_target.table + " WHERE "_L1 + keyCondition({}, key));
-    OdbcParameters parameters(statement);
-    bindKey(parameters, key);
-    changeOneRow(statement);
+    const Key key = keyOf(row);
+    RowStore found(static_cast<int>(row.size()));
+    needRowAsShown(row, key, found);
+    RowComparison::needOneChange(changeRow("DELETE FROM "_L1 + m_target.table, {}, row, key), source());
     transaction.commit();
+}
+
+bool OdbcRowWriter::read(const std::vector<RawValue> &row, RowStore &now)
+{
+    readRows(keyOf(row), Lock::None, now);
+    return now.rows() > 0;
 }
 
 } // namespace ADODB

@@ -23,6 +23,7 @@ public:
     void update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
                 RowStore &stored) override;
     void remove(const std::vector<RawValue> &row) override;
+    bool read(const std::vector<RawValue> &row, RowStore &now) override;
 
 private:
     using Key = std::vector<RawValue>; // in the order of the target's key columns
@@ -36,14 +37,34 @@ private:
     OdbcPatience patience() const;
     // What tells the server the same at the beginning of a transaction; empty where that is not needed.
     QString limitOfLocks() const;
-    // Runs a statement that must change exactly one row.
-    void changeOneRow(const OdbcHandle &statement) const;
-    // The one row with that key, locked where the engine can.
-    void readRow(const Key &key, RowStore &stored) const;
+    Key keyOf(const std::vector<RawValue> &row) const;
+    // How many rows the statement changed.
+    qint64 change(const OdbcHandle &statement) const;
+    // All rows with that key.
+    enum class Lock { None, Row };
+    void readRows(const Key &key, Lock lock, RowStore &rows) const;
+    // Throws unless the row is there and is what was shown; locks it where the engine can.
+    void needRowAsShown(const std::vector<RawValue> &row, const Key &key, RowStore &found) const;
+    // By which a statement that changes the row finds it, and its parameters.
+    QString condition(const Key &key) const;
+    void bindCondition(OdbcParameters &parameters, const std::vector<RawValue> &row, const Key &key) const;
+    // Runs a statement with a condition on `row` that changes it.
+    qint64 changeRow(const QString &sql, const std::vector<Change> &changes, const std::vector<RawValue> &row,
+                     const Key &key) const;
+    // Both run the statement with a condition on the row and read the row again: under the key that the
+    // database answers, or under the one that the changes make of it.
+    void updateAndReturn(const QString &sql, const std::vector<Change> &changes, const Key &before,
+                         RowStore &stored) const;
+    void updateAndFind(const QString &sql, const std::vector<Change> &changes,
+                       const std::vector<RawValue> &row, const RowStore &found, RowStore &stored) const;
+    // What fails after a table without transactions was changed says nothing about the change.
+    template<typename Action>
+    void onceWritten(Action &&action) const;
     // Both run the statement and give the new row's key, as the database answers it or as it was given.
     void insertAndReturnKey(const QString &insertion, const std::vector<Change> &changes,
                             RowStore &key) const;
     void insertAndFindKey(const QString &insertion, const std::vector<Change> &changes, RowStore &key) const;
+    QString returningKey() const;
 
     std::shared_ptr<OdbcSession> m_session;
     OdbcTarget m_target;

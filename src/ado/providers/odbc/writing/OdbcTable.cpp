@@ -2,9 +2,11 @@
 
 #include "ado/Error.h"
 #include "ado/Texts.h"
+#include "ado/providers/odbc/OdbcEngine.h"
 #include "ado/providers/odbc/OdbcHandle.h"
 #include "ado/providers/odbc/reading/OdbcDescription.h"
 #include "ado/providers/odbc/reading/OdbcLongValue.h"
+#include "ado/providers/odbc/writing/OdbcParameters.h"
 #include "sql/SimpleSelect.h"
 
 #include <algorithm>
@@ -93,13 +95,14 @@ QString escaped(const QString &name, const QString &escape)
     return pattern;
 }
 
-bool isTable(const std::shared_ptr<OdbcConnection> &connection, const Name &name)
+// Empty when it is no table.
+QString tableType(const std::shared_ptr<OdbcConnection> &connection, const Name &name)
 {
     const QString pattern = escaped(name.table, connection->info(SQL_SEARCH_PATTERN_ESCAPE));
     const Part catalog(name.catalog);
     const Part schema(name.schema);
     const Part table(pattern);
-    bool found = false;
+    QString type;
     forEachAnswer(
         connection,
         [&](SQLHSTMT statement) {
@@ -108,10 +111,29 @@ bool isTable(const std::shared_ptr<OdbcConnection> &connection, const Name &name
         },
         {3, 4},
         [&](const QStringList &row) {
-            found = found || (row.at(0).compare(name.table, Qt::CaseInsensitive) == 0 &&
-                              row.at(1).endsWith("TABLE"_L1, Qt::CaseInsensitive));
+            if (type.isEmpty() && row.at(0).compare(name.table, Qt::CaseInsensitive) == 0 &&
+                row.at(1).endsWith("TABLE"_L1, Qt::CaseInsensitive))
+                type = row.at(1);
         });
-    return found;
+    return type;
+}
+
+// Asks MariaDB or MySQL. What is not listed has none.
+bool isTransactional(const std::shared_ptr<OdbcConnection> &connection, const Name &name)
+{
+    const OdbcHandle statement(connection);
+    statement.prepare("SELECT 1 FROM information_schema.TABLES t JOIN information_schema.ENGINES e "
+                      "ON e.ENGINE = t.ENGINE WHERE e.TRANSACTIONS = 'YES' AND t.TABLE_NAME = ? "
+                      "AND t.TABLE_SCHEMA = "_L1 +
+                      (name.catalog.isEmpty() ? u"DATABASE()"_s : u"?"_s));
+    const QByteArray table = name.table.toUtf8();
+    const QByteArray catalog = name.catalog.toUtf8();
+    OdbcParameters parameters(statement);
+    parameters.bind(RawValue::fromText(table), {SQL_WVARCHAR});
+    if (!catalog.isEmpty())
+        parameters.bind(RawValue::fromText(catalog), {SQL_WVARCHAR});
+    statement.check(SQLExecute(statement.get()));
+    return statement.fetch();
 }
 
 QStringList primaryKey(const std::shared_ptr<OdbcConnection> &connection, const Name &name)
@@ -208,7 +230,8 @@ bool isComparable(const FieldInfo &field)
 
 } // namespace
 
-OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, const SimpleSelect &select)
+OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
+                          const SimpleSelect &select)
 {
     const OdbcHandle probe(connection);
     const std::vector<FieldInfo> fields = allFields(probe, select);
@@ -218,8 +241,9 @@ OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, con
         return table;
     }
     const Name name = fullName(probe, *connection, select, fields);
-    // Some drivers name what stands behind a view.
-    if (name.table.compare(select.table, Qt::CaseInsensitive) != 0 || !isTable(connection, name)) {
+    // Some drivers name what is behind a view.
+    const QString type = tableType(connection, name);
+    if (name.table.compare(select.table, Qt::CaseInsensitive) != 0 || type.isEmpty()) {
         table.whyReadOnly = Texts::readOnlyView().arg(select.table);
         return table;
     }
@@ -228,6 +252,8 @@ OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, con
         if (isComparable(field))
             table.comparable += field.name;
     }
+    table.isOrdinary = type.compare("TABLE"_L1, Qt::CaseInsensitive) == 0;
+    table.hasTransactions = !engine.hasOldTables || isTransactional(connection, name);
     table.givesOrigins = !fields.front().baseColumn.isEmpty();
     table.key = primaryKey(connection, name);
     if (table.key.isEmpty())

@@ -16,6 +16,7 @@ namespace ADODB {
 using KOVAVSFDataGridLib::SimpleSelect;
 
 class OdbcConnection;
+struct OdbcEngine;
 
 // What the database's catalogue says about the table of a statement.
 struct OdbcTable
@@ -27,8 +28,11 @@ struct OdbcTable
     // none.
     QStringList key;
     bool givesOrigins = false; // the driver tells which columns a statement's values come from
+    bool isOrdinary = false;   // a table of the engine's own, kept where it keeps tables
+    bool hasTransactions = true;
 
-    static OdbcTable find(const std::shared_ptr<OdbcConnection> &connection, const SimpleSelect &select);
+    static OdbcTable find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
+                          const SimpleSelect &select);
 };
 
 } // namespace ADODB

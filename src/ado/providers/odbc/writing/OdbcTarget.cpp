@@ -5,6 +5,7 @@
 #include "ado/providers/odbc/OdbcEngine.h"
 #include "ado/providers/odbc/OdbcHandle.h"
 #include "ado/providers/odbc/writing/OdbcTable.h"
+#include "ado/values/FieldValue.h"
 #include "sql/SimpleSelect.h"
 #include "sql/SqlScanner.h"
 
@@ -56,6 +57,34 @@ bool folds(const std::shared_ptr<OdbcConnection> &connection, const QString &hea
     return probe.fetch();
 }
 
+// All columns of the result but those that need not be the same in two readings. What is computed from a row
+// whose version is known to be the same needs no look either.
+std::vector<int> comparedColumns(const SimpleSelect &select, const OdbcTable &table, const QStringList &shown,
+                                 int end, bool hasVersion)
+{
+    std::vector<bool> restless;
+    for (const SimpleSelect::Item &item : select.items)
+        restless.insert(restless.end(), item.all ? static_cast<std::size_t>(table.columns.size()) : 1,
+                        item.changesByItself);
+    std::vector<int> compared;
+    for (int i = 0; i < end; ++i) {
+        const bool isComputed = i < shown.size() && shown[i].isEmpty();
+        if (!isComputed || (!hasVersion && !restless[static_cast<std::size_t>(i)]))
+            compared.push_back(i);
+    }
+    return compared;
+}
+
+// To MariaDB and MySQL, the only ones with tables that need it, texts are equal when they sort alike, so they
+// are compared as bytes.
+QString witness(const QString &name, const FieldInfo &field)
+{
+    return FieldValue::isText(field.type)
+               ? u"CAST(CONVERT(%1 USING utf8mb4) AS BINARY) <=> CAST(CONVERT(? USING utf8mb4) AS BINARY)"_s
+                     .arg(name)
+               : name + " <=> ?"_L1;
+}
+
 } // namespace
 
 OdbcTarget OdbcTarget::find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
@@ -66,8 +95,10 @@ OdbcTarget OdbcTarget::find(const std::shared_ptr<OdbcConnection> &connection, c
     target.whyReadOnly = readOnlyReason(select.fault);
     if (!target.whyReadOnly.isEmpty())
         return target;
-    const OdbcTable table = OdbcTable::find(connection, select);
+    const OdbcTable table = OdbcTable::find(connection, engine, select);
     target.whyReadOnly = table.whyReadOnly;
+    if (target.whyReadOnly.isEmpty() && table.key.isEmpty() && !table.hasTransactions)
+        target.whyReadOnly = Texts::readOnlyNoTransaction().arg(select.table);
     if (!target.whyReadOnly.isEmpty())
         return target;
     const QStringList shown = shownColumns(select, table, fields);
@@ -83,31 +114,46 @@ OdbcTarget OdbcTarget::find(const std::shared_ptr<OdbcConnection> &connection, c
 
     target.table = select.tableText;
     target.alias = select.aliasText;
+    target.hasTransactions = table.hasTransactions;
     for (const QString &name : shown)
         target.columns.push_back(name.isEmpty() ? QString() : engine.quoted(name));
-    QStringList key = table.key;
-    target.isRealKey = !key.isEmpty();
-    if (!target.isRealKey) {
-        for (const QString &name : shown) {
-            if (table.comparable.contains(name) && !key.contains(name))
-                key += name;
-        }
-    }
+    target.isRealKey = !table.key.isEmpty();
     QString hidden;
     int columns = static_cast<int>(fields.size());
-    for (const QString &name : key) {
-        const qsizetype place = shown.indexOf(name);
-        target.key.push_back({engine.quoted(name), place >= 0 ? static_cast<int>(place) : columns++});
-        if (place < 0)
-            hidden += ", "_L1 + target.alias + u'.' + engine.quoted(name);
-    }
-    if (target.key.empty())
+    // The number of a column in the result, in which it is hidden where it is not shown.
+    const auto locate = [&](const QString &name) {
+        if (const qsizetype place = shown.indexOf(name); place >= 0)
+            return static_cast<int>(place);
+        hidden += ", "_L1 + target.alias + u'.' + engine.quoted(name);
+        return columns++;
+    };
+    for (const QString &name : target.isRealKey ? table.key : table.comparable)
+        target.key.push_back({engine.quoted(name), locate(name)});
+    if (target.key.empty()) {
         target.whyReadOnly = Texts::readOnlyNoTable();
+        return target;
+    }
+    if (!target.isRealKey) {
+        for (const QString &name : table.columns) {
+            if (!table.comparable.contains(name))
+                locate(name);
+        }
+    }
+    const bool hasVersion = table.isOrdinary && !engine.rowVersion.isEmpty();
+    if (hasVersion)
+        locate(engine.rowVersion);
+    target.compared = comparedColumns(select, table, shown, columns, hasVersion);
+    for (qsizetype i = 0; !target.hasTransactions && i < shown.size(); ++i) {
+        if (table.comparable.contains(shown[i]))
+            target.witnesses.push_back(
+                {witness(engine.quoted(shown[i]), fields[static_cast<std::size_t>(i)]), static_cast<int>(i)});
+    }
+
     const QString head =
         sql.left(select.listEnd) + hidden + sql.sliced(select.listEnd, select.sourceEnd - select.listEnd);
     if (!hidden.isEmpty())
         target.statement = head + sql.sliced(select.sourceEnd);
-    target.selectRow = head + " WHERE "_L1;
+    target.selectRow = head + engine.lockTable + " WHERE "_L1;
     return target;
 }
 

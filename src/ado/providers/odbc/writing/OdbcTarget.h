@@ -26,17 +26,23 @@ struct OdbcTarget
     };
 
     QString whyReadOnly; // empty when they can be; the rest is set only then
-    QString statement;   // the user's with the hidden key behind its last column; empty if nothing is hidden
+    QString statement;   // the user's with the hidden columns after its own; empty if nothing is hidden
     QString table;       // as it stands in a statement
     QString alias;
     QString selectRow; // the statement up to where the condition for one row follows
     // For each field the table's column, as it stands in a statement, that takes its values; empty for a
     // field that is computed.
     std::vector<QString> columns;
-    // What tells the row from all others. It is a real key where the database says so, else all that the
-    // result shows of the row.
+    // What tells the row from all others. It is a real key where the database says so, else all columns of
+    // the table that can be compared.
     std::vector<KeyColumn> key;
     bool isRealKey = false;
+    // The columns of the result, hidden ones too, that must still be what they were when the row was read.
+    std::vector<int> compared;
+    // Without them a statement that changes the row has to compare it once more by itself: a condition with
+    // one parameter for each of these.
+    bool hasTransactions = true;
+    std::vector<KeyColumn> witnesses;
 
     static OdbcTarget find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
                            const SqlScanner &statement, const std::vector<FieldInfo> &fields);

@@ -1,7 +1,13 @@
 #include "ado/providers/odbc/writing/OdbcTransaction.h"
 
+#include "ado/Error.h"
+#include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcError.h"
 #include "ado/providers/odbc/OdbcHandle.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
 
@@ -10,6 +16,18 @@ namespace {
 SQLRETURN setAutocommit(const OdbcConnection &connection, std::uintptr_t mode)
 {
     return SQLSetConnectAttrW(connection.handle(), SQL_ATTR_AUTOCOMMIT, asPointer(mode), SQL_IS_UINTEGER);
+}
+
+// Whether an error of COMMIT is the server's answer that it has undone everything: a constraint that is
+// checked last, a deadlock, a lack of room. All else leaves it open what became of the changes; 40003 says
+// just that.
+bool isRefusal(const QString &state)
+{
+    static constexpr QLatin1StringView classes[] = {"22"_L1, "23"_L1, "25"_L1, "27"_L1, "40"_L1,
+                                                    "44"_L1, "53"_L1, "54"_L1, "P0"_L1};
+    return state != "40003"_L1 &&
+           std::any_of(std::begin(classes), std::end(classes),
+                       [&](QLatin1StringView start) { return state.startsWith(start); });
 }
 
 } // namespace
@@ -28,17 +46,30 @@ OdbcTransaction::OdbcTransaction(std::shared_ptr<OdbcConnection> connection, con
         OdbcHandle(m_connection).execute(first);
 }
 
-// What is committed is not touched by this any more.
+// What is committed is not touched by this any more. Autocommit would commit what could not be undone, so
+// that connection is given up.
 OdbcTransaction::~OdbcTransaction()
 {
-    SQLEndTran(SQL_HANDLE_DBC, m_connection->handle(), SQL_ROLLBACK);
-    setAutocommit(*m_connection, SQL_AUTOCOMMIT_ON);
+    if (!m_connection->isLost() &&
+        succeeded(SQLEndTran(SQL_HANDLE_DBC, m_connection->handle(), SQL_ROLLBACK)) &&
+        succeeded(setAutocommit(*m_connection, SQL_AUTOCOMMIT_ON)))
+        return;
+    m_connection->setLost();
 }
 
 void OdbcTransaction::commit()
 {
-    if (!succeeded(SQLEndTran(SQL_HANDLE_DBC, m_connection->handle(), SQL_COMMIT)))
+    if (succeeded(SQLEndTran(SQL_HANDLE_DBC, m_connection->handle(), SQL_COMMIT)))
+        return;
+    try {
         throwOdbcError(SQL_HANDLE_DBC, m_connection->handle(), *m_connection);
+    } catch (const Error &error) {
+        if (!m_connection->isLost() && isRefusal(error.SQLState()))
+            throw;
+        m_connection->setLost();
+        throw Error(dbErrInDoubt, Texts::inDoubt().arg(error.Description()), error.Source(), error.SQLState(),
+                    error.NativeError());
+    }
 }
 
 } // namespace ADODB

@@ -17,6 +17,8 @@ public:
     ~OdbcTransaction();
     Q_DISABLE_COPY_MOVE(OdbcTransaction)
 
+    // Throws what the server says when it refuses, and has then undone everything; dbErrInDoubt when there is
+    // no such answer.
     void commit();
 
 private:

@@ -1,0 +1,316 @@
+// What a write tells: saved, not saved and why, or that nobody knows.
+#include "OdbcEngines.h"
+#include "TestDatabase.h"
+#include "Throwing.h"
+
+#include "servers/OdbcSession.h"
+
+#ifdef Q_OS_UNIX
+#include "DroppingProxy.h"
+#endif
+
+#include <QtCore/QRegularExpression>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace ADODB;
+using AdoTest::cellTexts;
+using AdoTest::errorOf;
+
+namespace {
+
+void put(Recordset &recordset, const QString &field, const QVariant &value)
+{
+    recordset.Fields().Item(field).PutValue(value);
+}
+
+class WriteOutcomes : public AdoTest::OnOdbc
+{
+protected:
+    QString longText() const { return is("MariaDB") ? u"LONGTEXT"_s : u"TEXT"_s; }
+    QString content(const QString &column = u"name"_s) const
+    {
+        return ask(u"SELECT %1 FROM kova_a WHERE id = 1"_s.arg(column));
+    }
+    void makeTable(const QString &rest = {})
+    {
+        execute(u"CREATE TABLE kova_a(id %1, name VARCHAR(40), note %2, price DECIMAL(8,2))"_s.arg(
+                    QLatin1StringView(GetParam().integerKey), longText()) +
+                rest);
+        execute(u"INSERT INTO kova_a VALUES (1, 'one', 'first', 1.5), (2, 'two', 'second', 2.5)"_s);
+    }
+};
+
+KOVA_ON_ODBC_ENGINES(WriteOutcomes);
+
+TEST_P(WriteOutcomes, GiveWhatSomebodyElseWrote)
+{
+    makeTable();
+    const auto recordset = open(u"SELECT id, name, note FROM kova_a ORDER BY id"_s);
+    execute(u"UPDATE kova_a SET note = 'theirs' WHERE id = 1"_s);
+    put(*recordset, u"name"_s, u"mine"_s);
+    const Error error = errorOf([&] { recordset->Update(); });
+    EXPECT_TRUE(error.is(dbErrConcurrency)) << error.what();
+    EXPECT_TRUE(error.Description().contains(u"已被其他用户修改，")) << error.what();
+    EXPECT_EQ(content(), u"one"_s);
+
+    Field &note = recordset->Fields().Item(u"note"_s);
+    EXPECT_EQ(note.UnderlyingValue(), QVariant(u"first"_s)) << "nobody has asked yet";
+    recordset->Resync(adAffectCurrent, adResyncUnderlyingValues);
+    EXPECT_EQ(note.UnderlyingValue(), QVariant(u"theirs"_s));
+    EXPECT_EQ(note.OriginalValue(), QVariant(u"first"_s));
+    EXPECT_EQ(recordset->Fields().Item(u"name"_s).Value(), QVariant(u"mine"_s)) << "the edit is kept";
+    EXPECT_EQ(recordset->Fields().Item(u"name"_s).OriginalValue(), QVariant(u"one"_s));
+    EXPECT_EQ(recordset->EditMode(), adEditInProgress);
+
+    recordset->Resync();
+    EXPECT_EQ(recordset->EditMode(), adEditNone);
+    EXPECT_EQ(recordset->CellText(1, 2), u"theirs"_s);
+    put(*recordset, u"name"_s, u"mine"_s);
+    recordset->Update();
+    EXPECT_EQ(content(), u"mine"_s);
+
+    execute(u"DELETE FROM kova_a WHERE id = 1"_s);
+    EXPECT_ADO_ERROR(dbErrConcurrency, recordset->Delete());
+    EXPECT_ADO_ERROR(dbErrDeletedRow, recordset->Resync());
+}
+
+TEST_P(WriteOutcomes, CompareLongValuesToTheirEnd)
+{
+    makeTable();
+    execute(u"UPDATE kova_a SET note = '%1'"_s.arg(QString(70'000, u'n')));
+    const auto recordset = open(u"SELECT id, name, note FROM kova_a ORDER BY id"_s);
+    execute(u"UPDATE kova_a SET note = '%1x' WHERE id = 1"_s.arg(QString(69'999, u'n')));
+    put(*recordset, u"name"_s, u"mine"_s);
+    EXPECT_ADO_ERROR(dbErrConcurrency, recordset->Update());
+    recordset->CancelUpdate();
+    EXPECT_ADO_ERROR(dbErrConcurrency, recordset->Delete());
+    EXPECT_EQ(content(), u"one"_s);
+    recordset->MoveLast();
+    recordset->Delete();
+    EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s);
+}
+
+TEST_P(WriteOutcomes, TakeAValueThatTheDatabaseRoundsToTheStoredOne)
+{
+    if (is("SQLite"))
+        GTEST_SKIP() << "it stores what it is given";
+    makeTable();
+    const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s);
+    put(*recordset, u"price"_s, u"1.504"_s);
+    recordset->Update();
+    EXPECT_EQ(recordset->CellText(1, 3), u"1.50"_s);
+    put(*recordset, u"price"_s, u"1.516"_s);
+    recordset->Update();
+    EXPECT_EQ(content(u"price"_s), u"1.52"_s);
+}
+
+TEST_P(WriteOutcomes, SaveOrRefuseARoundedValueWithoutAKey)
+{
+    if (is("SQLite"))
+        GTEST_SKIP() << "it stores what it is given";
+    execute(u"CREATE TABLE kova_b(name VARCHAR(10), price DECIMAL(8,2))"_s);
+    execute(u"INSERT INTO kova_b VALUES ('a', 1.5), ('b', 2.5)"_s);
+    const auto recordset = open(u"SELECT * FROM kova_b ORDER BY name"_s);
+    put(*recordset, u"price"_s, u"1.516"_s);
+    if (is("PostgreSQL")) {
+        recordset->Update();
+        EXPECT_EQ(recordset->CellText(1, 1), u"1.52"_s);
+    } else {
+        const Error error = errorOf([&] { recordset->Update(); });
+        EXPECT_TRUE(error.Description().contains(u"与填写的不同")) << error.what();
+        EXPECT_EQ(ask(u"SELECT price FROM kova_b WHERE name = 'a'"_s), u"1.50"_s);
+        recordset->CancelUpdate();
+        put(*recordset, u"price"_s, u"1.504"_s); // which changes nothing
+        recordset->Update();
+        EXPECT_EQ(recordset->CellText(1, 1), u"1.50"_s);
+    }
+}
+
+TEST_P(WriteOutcomes, SaveNothingThatMakesTwoRowsOfATableWithoutKeyEqual)
+{
+    execute(u"CREATE TABLE kova_b(a INTEGER, b VARCHAR(10))"_s);
+    execute(u"INSERT INTO kova_b VALUES (1, 'x'), (2, 'x')"_s);
+    const auto recordset = open(u"SELECT a, b FROM kova_b ORDER BY a"_s);
+    put(*recordset, u"a"_s, 2);
+    EXPECT_ADO_ERROR(dbErrConcurrency, recordset->Update());
+    EXPECT_EQ(ask(u"SELECT sum(a) FROM kova_b"_s), u"3"_s);
+}
+
+TEST_P(WriteOutcomes, FollowARowWhoseComputedFieldsChangeByThemselves)
+{
+    makeTable();
+    const auto recordset =
+        open((is("MariaDB") ? u"SELECT name, rand() AS r, uuid() AS u FROM kova_a ORDER BY id"_s
+                            : u"SELECT name, random() AS r, current_timestamp AS u FROM kova_a "
+                              "ORDER BY id"_s));
+    put(*recordset, u"name"_s, u"mine"_s);
+    recordset->Update();
+    EXPECT_EQ(content(), u"mine"_s);
+    recordset->Delete();
+    EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s);
+}
+
+TEST_P(WriteOutcomes, SaveWhereAnotherRowIsLockedAndTellWhenTheirOwnIs)
+{
+    if (is("SQLite"))
+        GTEST_SKIP() << "it locks the whole file";
+    makeTable();
+    auto connection = std::make_shared<Connection>();
+    connection->Open(u"Command Timeout=1;"_s + connectionString());
+    const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s, connection);
+    KovaTest::OdbcSession other(connectionString());
+    other.run({u"BEGIN"_s, u"UPDATE kova_a SET name = 'theirs' WHERE id = 1"_s});
+    put(*recordset, u"name"_s, u"mine"_s);
+    EXPECT_THROW(recordset->Update(), Error);
+    EXPECT_EQ(content(), u"one"_s);
+    recordset->CancelUpdate();
+    recordset->MoveNext();
+    recordset->Delete();
+    other.run(u"ROLLBACK"_s);
+    EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s);
+}
+
+class WritesOnMariaDb : public WriteOutcomes
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Engines, WritesOnMariaDb, testing::Values(AdoTest::odbcEngines[2]));
+
+TEST_P(WritesOnMariaDb, LeaveTablesWithoutTransactionsAndKeyAlone)
+{
+    for (const char *engine : {"MyISAM", "Aria", "MEMORY"}) {
+        SCOPED_TRACE(engine);
+        execute(u"CREATE TABLE kova_b(a INTEGER, b VARCHAR(10)) ENGINE="_s + QLatin1StringView(engine));
+        execute(u"INSERT INTO kova_b VALUES (1, 'x'), (1, 'x'), (1, 'x'), (2, 'x')"_s);
+        for (const char *sql : {"SELECT * FROM kova_b ORDER BY a", "SELECT a FROM kova_b ORDER BY a"}) {
+            const auto recordset = open(QString::fromLatin1(sql));
+            const Error error = errorOf([&] { recordset->Delete(); });
+            EXPECT_TRUE(error.is(adErrFeatureNotAvailable)) << error.what();
+            EXPECT_TRUE(error.Description().contains(u"“kova_b”既没有主键，又不支持事务")) << error.what();
+            EXPECT_ADO_ERROR(adErrFeatureNotAvailable, put(*recordset, u"a"_s, 2));
+            EXPECT_ADO_ERROR(adErrFeatureNotAvailable, recordset->AddNew());
+        }
+        EXPECT_EQ(ask(u"SELECT count(*) FROM kova_b WHERE a = 1"_s), u"3"_s);
+        execute(u"DROP TABLE kova_b"_s);
+    }
+}
+
+TEST_P(WritesOnMariaDb, WriteTablesWithoutTransactionsByTheirKey)
+{
+    makeTable(u" ENGINE=MyISAM"_s);
+    const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s);
+    put(*recordset, u"name"_s, u"mine\\"_s);
+    recordset->Update();
+    EXPECT_EQ(content(), u"mine\\"_s);
+    put(*recordset, u"price"_s, u"1.504"_s);
+    recordset->Update();
+    EXPECT_EQ(recordset->CellText(1, 3), u"1.50"_s);
+    recordset->AddNew();
+    put(*recordset, u"name"_s, u"three"_s);
+    recordset->Update();
+    EXPECT_EQ(recordset->CellText(3, 1), u"three"_s);
+    put(*recordset, u"id"_s, 1); // there is one already
+    EXPECT_ADO_ERROR(dbErrIntegrity, recordset->Update());
+    recordset->CancelUpdate();
+    recordset->Delete();
+    EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"2"_s);
+}
+
+// Two rows that a trigger makes of what was written are not what was asked for.
+class WritesOnPostgreSql : public WriteOutcomes
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Engines, WritesOnPostgreSql, testing::Values(AdoTest::odbcEngines[1]));
+
+TEST_P(WritesOnPostgreSql, SayThatATriggerKeptTheRow)
+{
+    makeTable();
+    execute(u"CREATE OR REPLACE FUNCTION kova_keep() RETURNS trigger LANGUAGE plpgsql AS "
+            "$$ BEGIN RETURN NULL; END $$"_s);
+    execute(
+        u"CREATE TRIGGER keep BEFORE UPDATE OR DELETE ON kova_a FOR EACH ROW EXECUTE FUNCTION kova_keep()"_s);
+    const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s);
+    put(*recordset, u"name"_s, u"mine"_s);
+    const Error error = errorOf([&] { recordset->Update(); });
+    EXPECT_TRUE(error.Description().contains(u"触发器")) << error.what();
+    recordset->CancelUpdate();
+    EXPECT_TRUE(errorOf([&] { recordset->Delete(); }).Description().contains(u"触发器"));
+    EXPECT_EQ(content(), u"one"_s);
+}
+
+// Which column was changed meanwhile is not seen, but the version of the row is.
+TEST_P(WritesOnPostgreSql, SeeAChangeOfAFieldThatIsNotShown)
+{
+    makeTable();
+    const auto recordset = open(u"SELECT name FROM kova_a ORDER BY id"_s);
+    execute(u"UPDATE kova_a SET price = 9 WHERE id = 1"_s);
+    EXPECT_ADO_ERROR(dbErrConcurrency, recordset->Delete());
+    recordset->Resync();
+    recordset->Delete();
+    EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s);
+}
+
+#ifdef Q_OS_UNIX
+class LostInCommit : public WriteOutcomes
+{
+protected:
+    // A connection through a proxy that goes away in the next COMMIT.
+    std::shared_ptr<Recordset> openThrough(AdoTest::DroppingProxy &proxy, AdoTest::DroppingProxy::When when)
+    {
+        auto connection = std::make_shared<Connection>();
+        connection->Open(connectionString().replace(port, u"Port=%1"_s.arg(proxy.port())));
+        auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s, connection);
+        proxy.dropAtCommit(when);
+        return recordset;
+    }
+    int serverPort() const { return port.match(connectionString()).captured(1).toInt(); }
+    const QRegularExpression port{u"Port=(\\d+)"_s};
+};
+
+KOVA_ON_ODBC_SERVERS(LostInCommit);
+
+TEST_P(LostInCommit, SaysThatNobodyKnows)
+{
+    makeTable();
+    using enum AdoTest::DroppingProxy::When;
+    for (const auto when : {BeforeTheServerHears, AfterTheServerAnswered}) {
+        SCOPED_TRACE(when == BeforeTheServerHears ? "before" : "after");
+        AdoTest::DroppingProxy proxy(serverPort());
+        const auto recordset = openThrough(proxy, when);
+        const QString name = when == BeforeTheServerHears ? u"lost"_s : u"kept"_s;
+        put(*recordset, u"name"_s, name);
+        const Error error = errorOf([&] { recordset->Update(); });
+        EXPECT_TRUE(proxy.hasDropped());
+        EXPECT_TRUE(error.is(dbErrInDoubt)) << std::hex << error.Number() << error.what();
+        EXPECT_TRUE(error.Description().contains(u"无法确定更改是否已经保存")) << error.what();
+        EXPECT_FALSE(error.Description().contains(u"没有保存")) << error.what();
+        EXPECT_EQ(content(), when == BeforeTheServerHears ? u"one"_s : u"kept"_s);
+        EXPECT_THROW(recordset->Update(), Error) << "the connection is gone";
+    }
+    for (const auto when : {BeforeTheServerHears, AfterTheServerAnswered}) {
+        SCOPED_TRACE(when == BeforeTheServerHears ? "before" : "after");
+        AdoTest::DroppingProxy proxy(serverPort());
+        const auto recordset = openThrough(proxy, when);
+        EXPECT_ADO_ERROR(dbErrInDoubt, recordset->Delete());
+        EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), when == BeforeTheServerHears ? u"2"_s : u"1"_s);
+    }
+}
+
+// Which is known as long as the server has not been asked to commit.
+TEST_P(LostInCommit, SaysThatNothingIsSavedWhereItIsLostBefore)
+{
+    makeTable();
+    auto proxy = std::make_unique<AdoTest::DroppingProxy>(serverPort());
+    auto connection = std::make_shared<Connection>();
+    connection->Open(connectionString().replace(port, u"Port=%1"_s.arg(proxy->port())));
+    const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s, connection);
+    proxy.reset();
+    put(*recordset, u"name"_s, u"mine"_s);
+    const Error error = errorOf([&] { recordset->Update(); });
+    EXPECT_FALSE(error.is(dbErrInDoubt)) << error.what();
+    EXPECT_EQ(content(), u"one"_s);
+}
+#endif
+
+} // namespace
