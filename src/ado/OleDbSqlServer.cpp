@@ -52,7 +52,7 @@ QString protocolOf(const QString &library)
 
 Server serverIn(ConnectionString &words)
 {
-    // What is the server's address goes before what it is called.
+    // An address takes precedence over a name.
     const QString address = takeOut(words, u"Address"_s);
     Server server(address.isEmpty() ? words.value(u"Server"_s) : address);
     if (server.host.isEmpty())

@@ -102,7 +102,7 @@ TEST(OleDbWords, SayWhoLogsIn)
          to17 + u"Server=db;Trusted_Connection=Yes"_s},
         {driver17, u"Provider=SQLOLEDB;Server=db;Trusted_Connection=yes"_s,
          to17 + u"Server=db;Trusted_Connection=Yes"_s},
-        // Windows' own login goes before a name, as in the providers.
+        // Integrated security takes precedence over a user and password, as in the providers.
         {driver17, u"Provider=SQLOLEDB;Integrated Security=sspi;UID=sa;PWD=x;Server=db"_s,
          to17 + u"Server=db;Trusted_Connection=Yes"_s},
         {driver17, u"Provider=SQLOLEDB;Server=db;Integrated Security=False;UID=sa;PWD=x"_s,
@@ -185,7 +185,7 @@ TEST(OleDbWords, TakeWhatDriversKnowAndLeaveTheRest)
          to17 + u"MARS_Connection=Yes;MultiSubnetFailover=No;Failover_Partner=db2"_s},
         {driver17, from + u"KeyStoreAuthentication=x;Regional=No"_s,
          to17 + u"KeyStoreAuthentication=x;Regional=No"_s},
-        // The string itself goes before a string within it.
+        // The string itself takes precedence over the string inside it.
         {driver17, from + u"UID=me;Extended Properties=\"Server=other;UID=you;PWD=p;Initial Catalog=shop\""_s,
          to17 + u"UID=me;PWD=p;Database=shop"_s},
         {driver17, u"Provider=SQLOLEDB;Data Source=;Extended Properties='SERVER=db;Trusted_Connection=yes'"_s,
