@@ -116,8 +116,10 @@ ConnectionString::ConnectionString(const QString &text)
 {
     Reader reader(text);
     Part part;
-    while (reader.next(part.keyword, part.value))
-        set(part.keyword, part.value);
+    while (reader.next(part.keyword, part.value)) {
+        remove(part.keyword);
+        m_parts.push_back(part);
+    }
 }
 
 bool ConnectionString::contains(const QString &keyword) const

@@ -10,7 +10,7 @@ namespace ADODB {
 
 // A connection string taken apart: `Keyword=value;…`. Keywords match in any letter case; a value may stand in
 // '…' or "…" (the quote doubled inside) or in {…} (} doubled inside), else the blanks around it do not count.
-// When a keyword occurs twice the last value counts.
+// When a keyword occurs twice its last value holds, as in ADO (a driver manager takes the first).
 class KOVA_EXPORT ConnectionString
 {
 public:
@@ -35,7 +35,7 @@ public:
     // Takes it out, wherever it stands.
     void remove(const QString &keyword);
 
-    // In the order of the text, each keyword once.
+    // In the order of the text, each keyword once, where it occurs last.
     const std::vector<Part> &parts() const { return m_parts; }
 
     // One text again, with quotes where a value needs them.

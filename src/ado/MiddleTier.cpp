@@ -1,6 +1,7 @@
 #include "ado/MiddleTier.h"
 
 #include "ado/ConnectionString.h"
+#include "ado/OleDbDrivers.h"
 
 #include <QtCore/QStringList>
 
@@ -27,7 +28,8 @@ const QStringList &passwordWords()
 
 const QStringList &serverWords()
 {
-    static const QStringList words{u"Server"_s, u"Servername"_s, u"Host"_s, u"Hostname"_s};
+    static const QStringList words{u"Server"_s,  u"Servername"_s, u"Host"_s,           u"Hostname"_s,
+                                   u"Address"_s, u"Addr"_s,       u"Network Address"_s};
     return words;
 }
 
@@ -55,8 +57,10 @@ bool leadsToServer(const ConnectionString &text)
 
 ConnectionString throughServer(ConnectionString text, const QString &server, const QString &port)
 {
-    // Where a driver is named this is the server, else a data source.
-    if (text.contains(u"Driver"_s) && text.contains(u"Data Source"_s)) {
+    // Where a driver is named, or a provider of servers, this is the server, else a data source.
+    const bool isServer =
+        text.contains(u"Driver"_s) || oleDbKind(text.value(u"Provider"_s)) == OleDbKind::SqlServer;
+    if (isServer && text.contains(u"Data Source"_s)) {
         text.set(u"Server"_s, text.value(u"Data Source"_s));
         text.remove(u"Data Source"_s);
     }

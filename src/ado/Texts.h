@@ -39,6 +39,14 @@ KOVA_TEXT(badTimeout, "连接字符串中的 Connect Timeout 必须是不小于 
 
 // Database servers
 KOVA_TEXT(noDriver, "没有安装名为“%1”的 ODBC 驱动程序，已安装的有：%2。")
+KOVA_TEXT(noOleDbDriver,
+          "没有安装连接字符串所需的 ODBC 驱动程序。请安装%1（%2 位版本，与本程序相同）。已安装的有：%3。")
+KOVA_TEXT(sqlServerDriver, "“ODBC Driver 18 for SQL Server”")
+KOVA_TEXT(oracleDriver, "“Oracle Instant Client”及其 ODBC 驱动程序")
+KOVA_TEXT(accessDriver, "“Microsoft Access Database Engine”")
+KOVA_TEXT(badSwitch, "连接字符串中的 %1 只能是 Yes 或 No。")
+KOVA_TEXT(noStrictEncryption, "驱动程序“%1”不支持 Encrypt=Strict，请安装%2。")
+KOVA_TEXT(onlyAccessFiles, "通过该提供程序只能打开 Access 数据库，不能打开工作簿、文本等其他文件。")
 KOVA_TEXT(noOdbcSource, "找不到名为“%1”的 ODBC 数据源，可用的数据源有：%2。")
 KOVA_TEXT(badSeconds, "连接字符串中的 %1 必须是不小于 0 的秒数。")
 KOVA_TEXT(noneInstalled, "（无）")

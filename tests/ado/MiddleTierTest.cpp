@@ -35,6 +35,14 @@ const RewriteCase rewriteCases[] = {
     {{u"tier"_s, {}, {}},
      u"Provider=MSDASQL;Data Source=prod"_s,
      u"Provider=MSDASQL;Data Source=prod;Server=tier"_s},
+    {{u"tier"_s, u"1500"_s, {}},
+     u"Provider=SQLOLEDB;Data Source=db;UID=me"_s,
+     u"Provider=SQLOLEDB;UID=me;Server=tier;Port=1500"_s},
+    {{u"tier"_s, {}, {}},
+     u"Provider=MSOLEDBSQL;Server=db;Network Address=10.0.0.7"_s,
+     u"Provider=MSOLEDBSQL;Server=tier"_s},
+    // Its data source is a name of the client's own, not a server.
+    {{u"tier"_s, {}, {}}, u"Provider=MSDAORA;Data Source=orcl"_s, u"Provider=MSDAORA;Data Source=orcl"_s},
     // A file has no server.
     {{u"tier"_s, u"1"_s, {}}, u"Provider=SQLite;Data Source=a.db"_s, u"Provider=SQLite;Data Source=a.db"_s},
     {{}, u"Driver={X};Server=db"_s, u"Driver=X;Server=db"_s},

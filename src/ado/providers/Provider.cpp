@@ -2,6 +2,7 @@
 
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
+#include "ado/OleDbDrivers.h"
 #include "ado/Texts.h"
 
 #include <algorithm>
@@ -48,6 +49,7 @@ std::shared_ptr<Session> openSession(const ConnectionString &connection)
     QStringList names;
     for (const Provider *provider : providers())
         names += provider->name();
+    names += oleDbServerProviders();
     const QString wanted = connection.value(u"Provider"_s);
     const QString known = names.join(u"、"_s);
     throw Error(adErrProviderNotFound, wanted.isEmpty() ? Texts::noProvider().arg(known)

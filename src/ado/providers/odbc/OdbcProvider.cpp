@@ -3,6 +3,8 @@
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
 #include "ado/OdbcCatalogue.h"
+#include "ado/OleDbDrivers.h"
+#include "ado/OleDbWords.h"
 #include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcHandle.h"
 #include "ado/providers/odbc/OdbcLogin.h"
@@ -46,16 +48,17 @@ QString OdbcProvider::name() const
 bool OdbcProvider::claims(const ConnectionString &connection) const
 {
     const QString provider = connection.value(u"Provider"_s);
-    if (!provider.isEmpty())
-        return provider.compare(name(), Qt::CaseInsensitive) == 0 ||
-               provider.startsWith(name() + u'.', Qt::CaseInsensitive); // with a version
+    if (!provider.isEmpty()) {
+        const auto kind = oleDbKind(provider);
+        return kind && *kind != OleDbKind::Access;
+    }
     return connection.contains(u"Driver"_s) || connection.contains(u"DSN"_s) ||
            connection.contains(u"FILEDSN"_s);
 }
 
 std::shared_ptr<Session> OdbcProvider::open(const ConnectionString &connection) const
 {
-    OdbcLogin login(connection);
+    OdbcLogin login(inOdbcWords(connection, odbcDrivers()));
     login.addDefaults(login.likelyEngine());
     auto opened = connect(login);
     const OdbcEngine engine = OdbcEngine::of(*opened);

@@ -1,0 +1,165 @@
+#include "ado/OleDbWords.h"
+
+#include "ado/Error.h"
+#include "ado/OleDbKeywords.h"
+#include "ado/OleDbSqlServer.h"
+#include "ado/Texts.h"
+#include "ado/providers/AccessFiles.h"
+
+#include <algorithm>
+#include <initializer_list>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+// What `words` says already stays.
+void take(ConnectionString &words, OleDbKind kind, const ConnectionString &from)
+{
+    ConnectionString translated;
+    for (const auto &[keyword, value] : from.parts()) {
+        const QString word = odbcWord(kind, keyword);
+        if (!word.isEmpty())
+            translated.set(word, value);
+    }
+    for (const auto &[keyword, value] : translated.parts()) {
+        if (words.value(keyword).isEmpty())
+            words.set(keyword, value);
+    }
+}
+
+[[noreturn]] void failWithoutDriver(OleDbKind kind, const QStringList &installed, int bits)
+{
+    throw Error(
+        adErrProviderNotFound,
+        Texts::noOleDbDriver().arg(driverToInstall(kind), QString::number(bits),
+                                   installed.isEmpty() ? Texts::noneInstalled() : installed.join(u"、"_s)));
+}
+
+void finishOracle(ConnectionString &words, const OdbcDriver &driver)
+{
+    // The operating system's user logs in under this name, without a password.
+    if (switchIn(words, u"Trusted_Connection"_s).value_or(false)) {
+        words.set(u"UID"_s, u"/"_s);
+        words.remove(u"PWD"_s);
+    }
+    words.remove(u"Trusted_Connection"_s);
+    if (driver.words == OdbcDriver::Words::MicrosoftOracle && words.contains(u"DBQ"_s))
+        words.set(u"Server"_s, takeOut(words, u"DBQ"_s));
+}
+
+void finishAccess(ConnectionString &words, const OdbcDriver &driver, int bits)
+{
+    const QString file = words.value(u"DBQ"_s);
+    if (file.isEmpty())
+        throw Error(adErrInvalidArgument, Texts::noDataSource());
+    if (file.endsWith(".accdb"_L1, Qt::CaseInsensitive) &&
+        !driver.name.contains(".accdb"_L1, Qt::CaseInsensitive))
+        failWithoutDriver(OleDbKind::Access, {driver.name}, bits);
+    // The driver has one word for the user's password and the file's. A user has one only in a workgroup.
+    const QString password = takeOut(words, u"DatabasePassword"_s);
+    if (!password.isEmpty())
+        words.set(u"PWD"_s, password);
+    const QString mode = takeOut(words, u"Mode"_s);
+    for (const QString &part : mode.split(u'|')) {
+        if (part.trimmed().compare("Read"_L1, Qt::CaseInsensitive) == 0)
+            words.set(u"ReadOnly"_s, u"1"_s);
+        else if (part.trimmed().compare("Share Exclusive"_L1, Qt::CaseInsensitive) == 0)
+            words.set(u"Exclusive"_s, u"1"_s);
+    }
+}
+
+// Jet's provider also reads sheets and texts; then the first part names their format and is no
+// `keyword=value`.
+void refuseOtherFiles(const QString &extended)
+{
+    const QString format = extended.section(u';', 0, 0).trimmed();
+    if (!format.isEmpty() && !format.contains(u'='))
+        throw Error(adErrFeatureNotAvailable, Texts::onlyAccessFiles());
+}
+
+ConnectionString withoutOleDbWords(ConnectionString connection)
+{
+    // OdbcLogin knows these.
+    static const QStringList kept{u"Provider"_s, u"Extended Properties"_s, u"Driver"_s, u"Mode"_s};
+    const ConnectionString all = connection;
+    for (const auto &[keyword, value] : all.parts()) {
+        if (!kept.contains(keyword, Qt::CaseInsensitive) && odbcWord(OleDbKind::Odbc, keyword).isEmpty())
+            connection.remove(keyword);
+    }
+    return connection;
+}
+
+// The driver that a string names beside its provider, where it is for the same database, or the best one.
+OdbcDriver driverFor(OleDbKind kind, const QString &named, const QStringList &installed, int bits)
+{
+    if (installed.contains(named, Qt::CaseInsensitive)) {
+        if (auto driver = bestDriver(kind, {named}))
+            return *driver;
+    }
+    if (auto driver = bestDriver(kind, installed))
+        return *driver;
+    failWithoutDriver(kind, installed, bits);
+}
+
+// Only a data source by name, which says itself what it leads to.
+bool isByName(const ConnectionString &words)
+{
+    const auto has = [&](std::initializer_list<QLatin1StringView> keywords) {
+        return std::any_of(keywords.begin(), keywords.end(),
+                           [&](QLatin1StringView keyword) { return !words.value(keyword).isEmpty(); });
+    };
+    return has({"DSN"_L1, "FILEDSN"_L1}) && !has({"Server"_L1, "Address"_L1, "DBQ"_L1});
+}
+
+} // namespace
+
+ConnectionString inOdbcWords(const ConnectionString &connection, const QStringList &installed, int bits)
+{
+    const QString provider = connection.value(u"Provider"_s);
+    const auto kind = isForAccess(connection) ? OleDbKind::Access : oleDbKind(provider);
+    if (!kind)
+        return connection;
+    if (*kind == OleDbKind::Odbc)
+        return withoutOleDbWords(connection);
+
+    const QString extended = connection.value(u"Extended Properties"_s);
+    if (*kind == OleDbKind::Access)
+        refuseOtherFiles(extended);
+    ConnectionString words;
+    take(words, *kind, connection);
+    take(words, *kind, ConnectionString(extended));
+
+    OdbcDriver driver;
+    if (!isByName(words)) {
+        driver = driverFor(*kind, connection.value(u"Driver"_s), installed, bits);
+        words.remove(u"DSN"_s);
+        words.remove(u"FILEDSN"_s);
+    }
+    switch (*kind) {
+    case OleDbKind::SqlServer:
+        finishSqlServer(words, driver, provider);
+        break;
+    case OleDbKind::Oracle:
+        finishOracle(words, driver);
+        break;
+    case OleDbKind::Access:
+        finishAccess(words, driver, bits);
+        break;
+    case OleDbKind::Odbc:
+        break;
+    }
+
+    ConnectionString result;
+    if (!driver.name.isEmpty())
+        result.set(u"Driver"_s, driver.name);
+    for (const auto &[keyword, value] : words.parts()) {
+        if (!value.isEmpty())
+            result.set(keyword, value);
+    }
+    return result;
+}
+
+} // namespace ADODB

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "ado/providers/Provider.h"
+
+namespace ADODB {
+
+// Access files where Access's own ODBC driver can be had. The same connection strings as AccessProvider's;
+// `Mode=Read`, `Mode=Share Exclusive`, `Jet OLEDB:System database`, user and password reach the driver too.
+class JetProvider : public Provider
+{
+public:
+    QString name() const override;
+    bool claims(const ConnectionString &connection) const override;
+    std::shared_ptr<Session> open(const ConnectionString &connection) const override;
+    std::optional<FileChoice> fileChoice() const override;
+};
+
+} // namespace ADODB
