@@ -32,6 +32,10 @@ inline const QString GridName = u"数据"_s;
 inline const QString MenuName = u"数据菜单"_s;
 inline const QString SingleRecordName = u"当前记录"_s;
 
+// The menus inside the popup menu.
+inline const QString CopyAsMenu = u"复制为(&U)…"_s;
+inline const QString CopyAsName = u"复制为"_s;
+
 // Page box and label.
 inline const QString GoToPage = u"转到"_s;
 inline const QString GoToPageTip = u"显示这一页"_s;
@@ -46,6 +50,7 @@ inline const QString SelectWholeRows = u"整行选择(&R)"_s;
 inline const QString RecordsRead = u"已读取 %1 条记录"_s;
 inline const QString CancelOpening = u"取消"_s;
 inline const QString CancelOpeningHint = u"停止读取记录（Esc）"_s;
+inline const QString CancelWritingHint = u"停止（Esc）"_s;
 
 // Misuse of a method, told to the developer.
 inline const QString WrongCol = u"Wrong Col Number!"_s;
