@@ -15,6 +15,7 @@ inline const QString CantEncode = u"编码 %1 不能表示其中的字符。"_s;
 inline const QString TooManyColumns = u"XLSX 最多有 %1 列，而结果有 %2 列。"_s;
 inline const QString XlsxFailed = u"无法生成 XLSX：%1"_s;
 inline const QString CutTexts = u"有 %1 个内容超过 XLSX 单元格的上限（32767 个字符），只写入了前面的部分。"_s;
+inline const QString UnknownOption = u"不认识导出选项“%1=%2”。"_s;
 inline const QString Sheet = u"数据"_s;
 inline const QString NextSheet = u"数据 %1"_s;
 

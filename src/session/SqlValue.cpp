@@ -1,10 +1,11 @@
 #include "session/SqlValue.h"
 
 #include "ado/ValueText.h"
-#include "query/FieldNames.h"
-#include "sql/ReservedWords.h"
+#include "sql/Literals.h"
 
 #include <QtCore/QDateTime>
+
+#include <cmath>
 
 namespace KOVAVSFDataGridLib {
 
@@ -12,78 +13,56 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isOracle(const SqlWriting &writing)
-{
-    return writing.engine == Engine::Other && writing.database == dbOracle;
-}
-
-bool isSqlServer(const SqlWriting &writing)
-{
-    return writing.engine == Engine::Other && writing.database == dbSQLServer;
-}
-
-QString enclosed(QChar opening, QString name, QChar closing)
-{
-    return opening + name.replace(closing, QString(2, closing)) + closing;
-}
-
-QString bytesLiteral(const SqlWriting &writing, const QByteArray &bytes)
+QString bytesLiteral(Engine engine, const QByteArray &bytes)
 {
     const QString digits = QString::fromLatin1(bytes.toHex().toUpper());
-    if (writing.engine == Engine::PostgreSQL)
+    switch (engine) {
+    case Engine::PostgreSQL:
         return u"'\\x"_s + digits + u"'::bytea"_s;
-    if (isSqlServer(writing))
+    case Engine::SqlServer:
         return u"0x"_s + digits;
-    if (isOracle(writing))
+    case Engine::Oracle:
         return u"HEXTORAW('"_s + digits + u"')"_s;
-    return u"X'"_s + digits + u'\'';
+    default:
+        return u"X'"_s + digits + u'\'';
+    }
 }
 
 // Oracle reads a plain text by the session's own date format, the others know this one.
-QString momentLiteral(const SqlWriting &writing, QLatin1StringView word, const QString &text)
+QString momentLiteral(Engine engine, QLatin1StringView word, const QVariant &value)
 {
-    const QString quoted = u'\'' + text + u'\'';
-    return isOracle(writing) ? word + u' ' + quoted : quoted;
+    const QString quoted = u'\'' + ADODB::ValueText(value) + u'\'';
+    return engine == Engine::Oracle ? word + u' ' + quoted : quoted;
 }
 
 } // namespace
 
-QString SqlName(const SqlWriting &writing, const QString &name)
+QString SqlValue(const Dialect &dialect, const QVariant &value)
 {
-    if (!IsReservedWord(name) && QuotedFieldName(writing.database, name) == name)
-        return name;
-    if (writing.engine == Engine::MySQL)
-        return enclosed(u'`', name, u'`');
-    if (isSqlServer(writing))
-        return u'[' + QString(name).replace(u']', "]]"_L1) + u']';
-    return enclosed(u'"', name, u'"');
-}
-
-QString SqlValue(const SqlWriting &writing, const QVariant &value)
-{
+    const Engine engine = dialect.likelyEngine();
     switch (value.typeId()) {
     case QMetaType::UnknownType:
         return u"NULL"_s;
     case QMetaType::Bool:
-        if (writing.engine == Engine::PostgreSQL)
+        if (engine == Engine::PostgreSQL)
             return value.toBool() ? u"TRUE"_s : u"FALSE"_s;
         return value.toBool() ? u"1"_s : u"0"_s;
     case QMetaType::Double:
+        if (!std::isfinite(value.toDouble()))
+            return u'\'' + ADODB::ValueText(value) + u'\'';
         return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
     case QMetaType::Int:
     case QMetaType::LongLong:
     case QMetaType::Float:
         return ADODB::ValueText(value);
     case QMetaType::QByteArray:
-        return bytesLiteral(writing, value.toByteArray());
+        return bytesLiteral(engine, value.toByteArray());
     case QMetaType::QDate:
-        return momentLiteral(writing, "DATE"_L1, ADODB::ValueText(value));
+        return momentLiteral(engine, "DATE"_L1, value);
     case QMetaType::QDateTime:
-        return momentLiteral(writing, "TIMESTAMP"_L1, ADODB::ValueText(value));
-    default: {
-        const QString literal = TextLiteral(writing.engine, ADODB::ValueText(value));
-        return isSqlServer(writing) ? u'N' + literal : literal;
-    }
+        return momentLiteral(engine, "TIMESTAMP"_L1, value);
+    default:
+        return TextLiteral(dialect, ADODB::ValueText(value));
     }
 }
 

@@ -1,21 +1,13 @@
 #pragma once
 
-#include "sql/AllDBType.h"
 #include "sql/Engine.h"
 
 #include <QtCore/QVariant>
 
-// Names and values as a statement for the database at hand writes them.
 namespace KOVAVSFDataGridLib {
 
-struct SqlWriting
-{
-    AllDBType database = dbAccess;
-    Engine engine = Engine::Other;
-};
-
-QString SqlName(const SqlWriting &writing, const QString &name);
-// A Null is written NULL, bytes as the engine's form of hexadecimal digits.
-QString SqlValue(const SqlWriting &writing, const QVariant &value);
+// A value as a statement for this database writes it: a Null is NULL, bytes are the engine's form of
+// hexadecimal digits, dates are such that tools other than ODBC's read them as well.
+QString SqlValue(const Dialect &dialect, const QVariant &value);
 
 } // namespace KOVAVSFDataGridLib

@@ -197,6 +197,7 @@ TEST(TypeLibrary, HasTheMembersInTheirOrder)
 51 void ClearObject()
 52 BSTR CellTextL(long* n_row, long* n_col)
 53 long GetGridRowL()
+54 VARIANT_BOOL ExportData(BSTR strFile, BSTR strOptions)
 )");
 }
 

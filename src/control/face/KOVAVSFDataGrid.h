@@ -177,6 +177,7 @@ public:
     Q_INVOKABLE void ClearObject() override;
     Q_INVOKABLE QString CellTextL(const qint32 &n_row, const qint32 &n_col) override;
     Q_INVOKABLE qint32 GetGridRowL() override;
+    Q_INVOKABLE bool ExportData(const QString &strFile, const QString &strOptions) override;
 
     // See the property.
     bool UserMode() const;

@@ -24,6 +24,7 @@ public:
     bool ask(const QString &text, const QString &title) override;
     QString askCondition(const ConditionRequest &request) override;
     std::optional<FindAnswer> askWords(const colDataFields &fields) override;
+    std::optional<ExportAnswer> askExport(const ExportRequest &request) override;
 
 private:
     QPointer<QWidget> m_parent;

@@ -7,6 +7,7 @@
 #include "session/SessionWindow.h"
 #include "session/SqlValue.h"
 #include "session/commands/Command.h"
+#include "sql/Names.h"
 
 #include <QtCore/QMimeData>
 #include <QtCore/QSet>
@@ -20,9 +21,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-SqlWriting writingOf(Session &session)
+Dialect dialectOf(Session &session)
 {
-    return {session.filterManager().DBType(), session.result().engine()};
+    return DialectOf(session.filterManager().DBType(), session.result().engine());
 }
 
 // In the list of a single record what was written into it and is not saved yet counts as well.
@@ -48,7 +49,7 @@ QString tableOf(Session &session, const ExportColumns &columns)
             return GetSQLTableName(session.statement()).trimmed();
     }
     return table.isEmpty() ? GetSQLTableName(session.statement()).trimmed()
-                           : SqlName(writingOf(session), table);
+                           : WrittenName(dialectOf(session), table);
 }
 
 QString insertBegin(Session &session, const ExportColumns &columns)
@@ -56,7 +57,7 @@ QString insertBegin(Session &session, const ExportColumns &columns)
     const ADODB::Fields &fields = session.result().recordset()->Fields();
     QStringList names;
     for (const ExportColumn &column : columns)
-        names.append(SqlName(writingOf(session), nameInTable(fields.Item(column.field))));
+        names.append(WrittenName(dialectOf(session), nameInTable(fields.Item(column.field))));
     return u"INSERT INTO "_s + tableOf(session, columns) + " ("_L1 + names.join(", "_L1) + ") VALUES ("_L1;
 }
 
@@ -87,13 +88,13 @@ void copyAsInsert(Session &session)
     const ExportColumns columns = ExportColumnsOf(session, session.window().shownColumns());
     if (columns.empty())
         return;
-    const SqlWriting writing = writingOf(session);
+    const Dialect dialect = dialectOf(session);
     const QString begin = insertBegin(session, columns);
     QString text;
     const bool isWhole = forEachMarked(session, [&](qint64 record) {
         text += begin;
         for (const ExportColumn &column : columns)
-            text += SqlValue(writing, valueOf(session, *recordset, record, column.field)) + ", "_L1;
+            text += SqlValue(dialect, valueOf(session, *recordset, record, column.field)) + ", "_L1;
         text.chop(2);
         text += ");\n"_L1;
     });
@@ -108,12 +109,12 @@ void copyAsInList(Session &session)
     const int field = session.window().currentCol() - 1;
     if (field < 0)
         return;
-    const SqlWriting writing = writingOf(session);
+    const Dialect dialect = dialectOf(session);
     QStringList values;
     QSet<QString> seen;
     const bool isWhole = forEachMarked(session, [&](qint64 record) {
         const QVariant value = valueOf(session, *recordset, record, field);
-        const QString literal = SqlValue(writing, value);
+        const QString literal = SqlValue(dialect, value);
         if (!value.isValid() || seen.contains(literal))
             return;
         seen.insert(literal);

@@ -20,7 +20,11 @@ namespace {
 
 struct CopyTest : Shop
 {
-    CopyTest() { QGuiApplication::clipboard()->setText(u"before"_s); }
+    CopyTest()
+    {
+        QGuiApplication::clipboard()->setText(u"before"_s);
+        grid.findChild<QCheckBox *>(u"CheckSelAllRow"_s)->setChecked(false); // whatever the user left it at
+    }
 
     static QString copied() { return QGuiApplication::clipboard()->text(); }
     static QString html()
