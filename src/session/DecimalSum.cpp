@@ -46,11 +46,7 @@ bool DecimalSum::addText(QByteArrayView text)
             digits += digits > 0 || c != '0' ? 1 : 0;
             scale += scale >= 0 ? 1 : 0;
         } else {
-            bool isNumber = false;
-            const double real = text.toByteArray().toDouble(&isNumber);
-            if (isNumber)
-                add(real);
-            return isNumber;
+            return addAsReal(text.toByteArray());
         }
     }
     if (text.isEmpty() || (digits == 0 && value == 0 && !text.contains('0')))
@@ -58,6 +54,17 @@ bool DecimalSum::addText(QByteArrayView text)
     if (!addExactly(isNegative ? -value : value, std::max(scale, 0)))
         add(text.toByteArray().toDouble());
     return true;
+}
+
+// With an exponent, or with more digits than are added exactly.
+bool DecimalSum::addAsReal(const QByteArray &text)
+{
+    bool isNumber = false;
+    const double real = text.toDouble(&isNumber);
+    isNumber = isNumber && std::isfinite(real) && !text.trimmed().isEmpty();
+    if (isNumber)
+        add(real);
+    return isNumber;
 }
 
 bool DecimalSum::addExactly(Wide value, int scale)

@@ -25,6 +25,7 @@ private:
     __extension__ using Wide = __int128;
 
     bool addExactly(Wide value, int scale);
+    bool addAsReal(const QByteArray &text);
     double approximate() const;
 
     Wide m_exact = 0; // in units of 10^-m_scale

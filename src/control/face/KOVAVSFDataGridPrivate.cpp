@@ -29,7 +29,8 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
       events(control, parts, *session),
       singleRecord(control, *session, parts),
       commands(control, *session, parts, events, singleRecord),
-      pressedPart(parts)
+      pressedPart(parts),
+      selection(*session, parts)
 {
     window.setSession(*session);
     window.setSingleRecordView(&singleRecord);

@@ -21,6 +21,19 @@ inline const QString NewRecord = u"新记录，共 %1 条"_s;
 inline const QString BeforeStatement = u"　"_s;
 inline const QString CopyStatement = u"复制语句(&C)"_s;
 
+// What the selected cells come to.
+inline const QString SelectedRows = u"选定行数"_s;
+inline const QString CountOfCells = u"计数"_s;
+inline const QString SumOfCells = u"求和"_s;
+inline const QString AverageOfCells = u"平均"_s;
+inline const QString SmallestCell = u"最小"_s;
+inline const QString LargestCell = u"最大"_s;
+inline const QString EarliestCell = u"最早"_s;
+inline const QString LatestCell = u"最晚"_s;
+inline const QString BetweenSummaries = u"，"_s;
+inline const QString SummaryHint = u"单击数值可以复制"_s;
+inline const QString SummaryCopied = u"已复制 %1"_s;
+
 // In the middle of a grid that has nothing to show.
 inline const QString NothingLoaded = u"尚未加载数据"_s;
 inline const QString NoRecords = u"没有记录"_s;

@@ -126,7 +126,7 @@ void copyAsInList(Session &session)
 
 const Command::Registration insertStatements({
     .key = u"CopyAsInsert"_s,
-    .shortcut = {},
+    .shortcut = u"Ctrl+Alt+C"_s,
     .menu = {19, u"INSERT 语句(&I)"_s, false, MenuGroup::CopyAs},
     .isInViewer = true,
     .viewerMenu = {11, u"INSERT 语句(&I)"_s, false, MenuGroup::CopyAs},
@@ -137,7 +137,7 @@ const Command::Registration insertStatements({
 
 const Command::Registration inList({
     .key = u"CopyAsInList"_s,
-    .shortcut = {},
+    .shortcut = u"Ctrl+Alt+L"_s,
     .menu = {20, u"IN 列表(&L)"_s, false, MenuGroup::CopyAs},
     .isInViewer = true,
     .viewerMenu = {12, u"IN 列表(&L)"_s, false, MenuGroup::CopyAs},
