@@ -60,9 +60,8 @@ int main()
 {
     const QTemporaryDir folder;
     auto connection = std::make_shared<ADODB::Connection>();
-    const QString database = folder.filePath(QStringLiteral("bench.db"));
-    QFile(database).open(QIODevice::WriteOnly);
-    connection->Open(QStringLiteral("Provider=SQLite;Data Source=") + database);
+
+    connection->Open(QStringLiteral("Provider=SQLite;Data Source=:memory:"));
     ADODB::Recordset recordset;
     recordset.Open(QStringLiteral("WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 1000000) "
                                   "SELECT I, I * 7 AS A, I / 100.0 AS P, '名称' || I AS T, "
