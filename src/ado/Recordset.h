@@ -128,6 +128,7 @@ public:
 
 private:
     friend class Field;
+    friend class RowReader;
     const FieldInfo &fieldInfo(int column) const;
     QVariant currentValue(int column) const;
     void putCurrentValue(int column, const QVariant &value);

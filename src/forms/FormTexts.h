@@ -54,6 +54,32 @@ inline const QString FindInField = u"指定的字段名称（默认：全部）(
 inline const QString FindInFieldName = u"指定的字段名称（默认：全部）"_s;
 inline const QString Find = u"查找(&F)"_s;
 
+// ExportDialog
+inline const QString ExportTitle = u"导出"_s;
+inline const QString ExportFileLabel = u"文件(&F):"_s;
+inline const QString Browse = u"浏览(&B)…"_s;
+inline const QString ExportFormatLabel = u"格式(&T):"_s;
+inline const QString ExportEncodingLabel = u"编码(&D):"_s;
+inline const QString FormatCsv = u"CSV（逗号分隔）"_s;
+inline const QString FormatXlsx = u"XLSX（电子表格）"_s;
+inline const QString FormatJsonLines = u"JSON Lines（每行一个对象）"_s;
+inline const QString FormatHtml = u"HTML（网页）"_s;
+inline const QString EncodingUtf8WithMark = u"UTF-8（带签名）"_s;
+inline const QString EncodingUtf8 = u"UTF-8"_s;
+inline const QString EncodingGb18030 = u"GB18030"_s;
+inline const QString ExportRecordsGroup = u"记录"_s;
+inline const QString ExportAllRecords = u"全部 %1 条(&A)"_s;
+inline const QString ExportMarkedRecords = u"选定的 %1 条(&S)"_s;
+inline const QString ExportColumnsGroup = u"字段"_s;
+inline const QString ExportShownColumns = u"显示的 %1 个(&W)"_s;
+inline const QString ExportAllColumns = u"全部 %1 个(&L)"_s;
+inline const QString ExportHeadings = u"第一行是字段名称(&H)"_s;
+inline const QString ExportGuard = u"防止以 = + - @ 开头的文本被当作公式(&G)"_s;
+inline const QString ExportGuardHint = u"在这样的文本前加一个撇号，电子表格打开文件时不会执行它。"_s;
+inline const QString ExportButton = u"导出(&E)"_s;
+inline const QString ExportNoFile = u"请指定文件。"_s;
+inline const QString ExportReplace = u"文件“%1”已经存在，要替换它吗？"_s;
+
 // ConnectDialog, which only the host's developer meets
 inline const QString ConnectTitle = u"Connection"_s;
 inline const QString ConnectOk = u"OK"_s;

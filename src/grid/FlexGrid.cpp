@@ -2,6 +2,7 @@
 
 #include "grid/CellDelegate.h"
 #include "grid/CellPainter.h"
+#include "grid/CurrentCellFrame.h"
 #include "grid/FlexGridModel.h"
 #include "grid/FlexHeader.h"
 #include "grid/TextCells.h"
@@ -342,11 +343,14 @@ void FlexGrid::paintEvent(QPaintEvent *event)
 {
     const QPoint offset = dirtyRegionOffset();
     const QRegion dirty = event->region().translated(offset);
-    if (state() == DraggingState || !m_painter->canPaint(dirty.boundingRect()))
-        return QTableView::paintEvent(event);
-    QStyleOptionViewItem option;
-    initViewItemOption(&option);
-    m_painter->paint(option, dirty, offset, m_hover);
+    if (state() == DraggingState || !m_painter->canPaint(dirty.boundingRect())) {
+        QTableView::paintEvent(event);
+    } else {
+        QStyleOptionViewItem option;
+        initViewItemOption(&option);
+        m_painter->paint(option, dirty, offset, m_hover);
+    }
+    PaintCurrentCellFrame(*this);
 }
 
 void FlexGrid::checkRow(int row) const

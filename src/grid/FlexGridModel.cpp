@@ -67,8 +67,14 @@ QVariant FlexGridModel::headerData(int section, Qt::Orientation orientation, int
             return m_source->text(0, section + m_fixedCols);
         return m_fixedCols > 0 ? m_source->text(section + 1, 0) : QString();
     }
-    if (role == Qt::TextAlignmentRole)
-        return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
+    if (role == Qt::TextAlignmentRole) {
+        if (!isColumn)
+            return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
+        // Over its texts, or its numbers.
+        const Qt::AlignmentFlag side =
+            m_source->isNumeric(section + m_fixedCols) ? Qt::AlignRight : Qt::AlignLeft;
+        return QVariant::fromValue(Qt::AlignVCenter | side);
+    }
     return {};
 }
 

@@ -46,6 +46,9 @@ QSize FlexHeader::sectionSizeFromContents(int logicalIndex) const
 void FlexHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int logicalIndex) const
 {
     QHeaderView::initStyleOptionForIndex(option, logicalIndex);
+    // Styles write such a section's text bold.
+    if (orientation() == Qt::Vertical && m_grid.currentIndex().row() == logicalIndex)
+        option->state |= QStyle::State_On;
     const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
     option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight,
                                                   sectionRect(logicalIndex).width() - margins);

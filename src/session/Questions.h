@@ -1,5 +1,6 @@
 #pragma once
 
+#include "export/ExportFormat.h"
 #include "query/Derivation.h"
 #include "query/FieldChooser.h"
 
@@ -35,6 +36,24 @@ struct FindAnswer
 
 // What becomes of a record that can't be saved when its result is about to go.
 enum class Unsaved { SaveAgain, Discard, Stay };
+// What a user can export.
+struct ExportRequest
+{
+    QString name; // of the file, without folder and ending
+    qint64 records = 0;
+    qint64 markedRecords = 0;
+    int shownColumns = 0;
+    int allColumns = 0;
+};
+
+// What is exported, and where to.
+struct ExportAnswer
+{
+    QString file;
+    ExportOptions options;
+    bool isMarkedOnly = false;
+    bool hasAllColumns = false; // hidden ones too
+};
 
 // What a session asks and reports to its user. Each function returns when the user is done; meanwhile a host
 // may do anything, even delete what asked. This one is a user who is not there: every question is cancelled.
@@ -61,6 +80,8 @@ public:
     virtual QString askCondition(const ConditionRequest &) { return {}; }
     // Nothing when there are no fields to look in.
     virtual std::optional<FindAnswer> askWords(const colDataFields &) { return {}; }
+    // Nothing when the user cancels. A file that is there already may be replaced.
+    virtual std::optional<ExportAnswer> askExport(const ExportRequest &) { return {}; }
 };
 
 } // namespace KOVAVSFDataGridLib

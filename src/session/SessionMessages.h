@@ -15,7 +15,10 @@ inline const QString NotAPageNumber = u"请在页数输入正整数."_s;
 inline const QString NotSavedPrefix = u"记录没有保存："_s;
 inline const QString InsertCancelled = u"再次插入空行操作已被取消"_s;
 inline const QString ReadOnly = u"记录只读，不能增加、修改或删除。"_s;
+inline const QString RecordsCopied = u"已复制 %1 条记录"_s;
+inline const QString RecordsExported = u"已导出 %1 条记录"_s;
 inline const QString AskDelete = u"确实要删除该记录?"_s;
+inline const QString RecordMeant = u"\n第 %1 行：%2 = %3"_s;
 inline const QString AskDeleteTitle = u"删除记录"_s;
 inline const QString DeleteRefused = u"删除操作与数据库的约束冲突，不能删除此记录！"_s;
 

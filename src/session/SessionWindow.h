@@ -5,6 +5,9 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
+
+class QMimeData;
 
 namespace ADODB {
 class Recordset;
@@ -12,13 +15,33 @@ class Recordset;
 
 namespace KOVAVSFDataGridLib {
 
-// The wait for a statement that is being opened.
+// The wait for a statement that is being opened, or for records that are being written.
 class OpeningProgress
 {
 public:
     virtual ~OpeningProgress() = default;
     // To be called every few milliseconds; false once the user has cancelled. It doesn't throw.
-    virtual bool goOn(qint64 rowsRead) = 0;
+    virtual bool goOn(qint64 rowsDone) = 0;
+};
+
+// The cells that the user has marked: some of the columns over some rows in sequence, both from 1.
+struct MarkedCells
+{
+    int firstRow = 1;
+    int lastRow = 0; // included; 0 when nothing is marked
+    std::vector<int> columns;
+};
+
+// The marked lines of the list of a single record.
+struct MarkedFields
+{
+    struct Field
+    {
+        QString name;
+        QString text;
+    };
+    std::vector<Field> fields;
+    bool hasNames = false; // whether the names are marked too
 };
 
 // What a session needs of the window that shows it. Rows count from 1, row 0 is the headings. This one shows
@@ -43,6 +66,12 @@ public:
     virtual void PutCol(int) {}
     // The column of the cell that the user sees as current, whichever view shows it; 0 when none is.
     virtual int currentCol() const { return 0; }
+    // What is marked, without hidden columns; the current cell when nothing is. Columns are in the order in
+    // which they are shown. The list of a single record marks fields of the current row.
+    virtual MarkedCells markedCells() const { return {}; }
+    virtual MarkedFields markedFields() const { return {}; }
+    // The columns that can be seen, in the order in which they are shown.
+    virtual std::vector<int> shownColumns() const { return {}; }
     // Runs `change`; afterwards the same part of the grid is in view and the same column current.
     virtual void keepInView(const std::function<void()> &change) { change(); }
 
@@ -72,6 +101,13 @@ public:
     virtual void showFullScreen() {}
     // Shows that a statement is being opened. Only one can live in a process. Null shows nothing.
     virtual std::unique_ptr<OpeningProgress> beginOpening() { return nullptr; }
+    // Shows that `total` records are being written; `done` says so with %1 for the number. Only one of these
+    // and beginOpening can live in a process. Null shows nothing.
+    virtual std::unique_ptr<OpeningProgress> beginWriting(const QString & /*done*/, qint64 /*total*/)
+    {
+        return nullptr;
+    }
+    virtual void putOnClipboard(std::unique_ptr<QMimeData>);
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -199,6 +199,7 @@ TEST(TypeLibrary, HasTheMembersInTheirOrder)
 53 long GetGridRowL()
 54 get VARIANT_BOOL ReadOnly()
 54 put void ReadOnly(VARIANT_BOOL)
+55 VARIANT_BOOL ExportData(BSTR strFile, BSTR strOptions)
 )");
 }
 

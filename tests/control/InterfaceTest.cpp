@@ -76,6 +76,7 @@ constexpr const char *Methods[] = {
     "void ClearObject()",
     "QString CellTextL(int,int)",
     "int GetGridRowL()",
+    "bool ExportData(QString,QString)",
 };
 
 constexpr const char *Events[] = {

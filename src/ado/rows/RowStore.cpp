@@ -159,14 +159,18 @@ RawValue RowStore::cell(qint64 row, int column) const
 
 std::vector<RawValue> RowStore::row(qint64 row) const
 {
-    std::vector<RawValue> cells;
-    cells.reserve(static_cast<std::size_t>(m_columns));
+    std::vector<RawValue> cells(static_cast<std::size_t>(m_columns));
+    read(row, cells);
+    return cells;
+}
+
+void RowStore::read(qint64 row, std::vector<RawValue> &cells) const
+{
     const char *at = rowStart(row);
-    for (int i = 0; i < m_columns; ++i) {
-        cells.push_back(decode(at));
+    for (RawValue &cell : cells) {
+        cell = decode(at);
         at = nextCell(at);
     }
-    return cells;
 }
 
 void RowStore::remove(qint64 row)

@@ -54,6 +54,8 @@ public:
     // dies.
     RawValue cell(qint64 row, int column) const;
     std::vector<RawValue> row(qint64 row) const;
+    // The first columns of a row, as many as there are cells.
+    void read(qint64 row, std::vector<RawValue> &cells) const;
 
     void remove(qint64 row);
     // Takes the cells of a row with the same number of columns.

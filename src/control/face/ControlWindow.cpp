@@ -65,6 +65,23 @@ int ControlWindow::currentCol() const
     return isSingleRecordShown() ? m_singleRecord->currentGridCol() : m_grid.ShownCol();
 }
 
+MarkedCells ControlWindow::markedCells() const
+{
+    if (!isSingleRecordShown())
+        return GridWindow::markedCells();
+    return {m_grid.Row(), m_grid.Row(), m_singleRecord->markedColumns()};
+}
+
+MarkedFields ControlWindow::markedFields() const
+{
+    return m_singleRecord ? m_singleRecord->markedFields() : MarkedFields();
+}
+
+std::vector<int> ControlWindow::shownColumns() const
+{
+    return isSingleRecordShown() ? m_singleRecord->listedColumns() : GridWindow::shownColumns();
+}
+
 bool ControlWindow::isSingleRecordShown() const
 {
     return !m_toolbar.isButtonVisible(CommandKeys::SingleRecord);
@@ -152,6 +169,11 @@ void ControlWindow::showFullScreen()
 std::unique_ptr<OpeningProgress> ControlWindow::beginOpening()
 {
     return std::make_unique<LoadProgress>(m_control, [this] { return m_parts.foot(); });
+}
+
+std::unique_ptr<OpeningProgress> ControlWindow::beginWriting(const QString &done, qint64 total)
+{
+    return std::make_unique<LoadProgress>(m_control, [this] { return m_parts.foot(); }, done, total);
 }
 
 } // namespace KOVAVSFDataGridLib

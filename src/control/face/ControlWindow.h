@@ -25,6 +25,9 @@ public:
     void showRecords(std::shared_ptr<ADODB::Recordset> recordset, qint64 first, int count) override;
     void showPageNumber(int page, qint64 pageCount) override;
     int currentCol() const override;
+    MarkedCells markedCells() const override;
+    MarkedFields markedFields() const override;
+    std::vector<int> shownColumns() const override;
     bool isSingleRecordShown() const override;
     void showSingleRecord() override;
     void showAllRecords() override;
@@ -36,6 +39,7 @@ public:
     void enableCommands() override;
     void showFullScreen() override;
     std::unique_ptr<OpeningProgress> beginOpening() override;
+    std::unique_ptr<OpeningProgress> beginWriting(const QString &done, qint64 total) override;
 
 private:
     QString place() const;

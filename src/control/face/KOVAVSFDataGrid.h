@@ -180,6 +180,7 @@ public:
     Q_INVOKABLE qint32 GetGridRowL() override;
     bool ReadOnly() const override;
     void PutReadOnly(bool on) override;
+    Q_INVOKABLE bool ExportData(const QString &strFile, const QString &strOptions) override;
 
     // See the property.
     bool UserMode() const;

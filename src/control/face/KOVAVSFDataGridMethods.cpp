@@ -10,6 +10,7 @@
 #include "forms/ConnectDialog.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
+#include "session/ExportResult.h"
 #include "session/commands/CommandKeys.h"
 
 #include <QtCore/QSignalBlocker>
@@ -256,4 +257,21 @@ QString KOVAVSFDataGrid::CellTextL(const qint32 &n_row, const qint32 &n_col)
 qint32 KOVAVSFDataGrid::GetGridRowL()
 {
     return d->parts.vsfgDataGrid->Row();
+}
+
+bool KOVAVSFDataGrid::ExportData(const QString &strFile, const QString &strOptions)
+{
+    const auto session = d->session;
+    if (!session->result().isOpen()) {
+        Messages::tell(this, GridTexts::NothingToExport);
+        return false;
+    }
+    ExportAnswer what;
+    try {
+        what = ExportAnswerFrom(strFile, strOptions);
+    } catch (const ADODB::Error &error) {
+        Messages::tell(this, error.Description());
+        return false;
+    }
+    return ExportResult(*session, what);
 }

@@ -31,7 +31,8 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
       singleRecord(control, *session, parts),
       commands(control, *session, parts, events, singleRecord),
       pressedPart(parts),
-      closeGuard(control, *session)
+      closeGuard(control, *session),
+      selection(*session, parts)
 {
     window.setSession(*session);
     window.setSingleRecordView(&singleRecord);

@@ -7,6 +7,7 @@
 #include "control/input/CommandInput.h"
 #include "control/input/GridEvents.h"
 #include "control/input/PressedPart.h"
+#include "control/input/SelectionWatch.h"
 #include "control/input/SingleRecordView.h"
 #include "control/parts/DialogQuestions.h"
 #include "control/parts/GridParts.h"
@@ -80,4 +81,5 @@ public:
     KOVAVSFDataGridLib::CommandInput commands;
     KOVAVSFDataGridLib::PressedPart pressedPart;
     KOVAVSFDataGridLib::CloseGuard closeGuard;
+    KOVAVSFDataGridLib::SelectionWatch selection;
 };

@@ -9,6 +9,7 @@
 #include "control/parts/GridTexts.h"
 #include "control/parts/GridToolbar.h"
 #include "grid/FlexGrid.h"
+#include "grid/GridSelection.h"
 #include "grid/TextCells.h"
 #include "grid/Twips.h"
 #include "session/Session.h"
@@ -131,6 +132,34 @@ int SingleRecordView::currentGridCol() const
 {
     const int row = m_parts.MSFlexGrid1->Row();
     return row < 1 ? 0 : m_fields[static_cast<std::size_t>(row - 1)] + 1;
+}
+
+std::vector<int> SingleRecordView::listedColumns() const
+{
+    std::vector<int> columns;
+    for (const int field : m_fields)
+        columns.push_back(field + 1);
+    return columns;
+}
+
+std::vector<int> SingleRecordView::markedColumns() const
+{
+    const GridSelection marked = SelectedCells(*m_parts.MSFlexGrid1);
+    std::vector<int> columns;
+    for (int row = marked.firstRow; row <= marked.lastRow; ++row)
+        columns.push_back(m_fields[static_cast<std::size_t>(row - 1)] + 1);
+    return columns;
+}
+
+MarkedFields SingleRecordView::markedFields() const
+{
+    const MSFlexGrid &list = *m_parts.MSFlexGrid1;
+    const GridSelection marked = SelectedCells(list);
+    MarkedFields answer;
+    answer.hasNames = std::ranges::find(marked.columns, NameCol) != marked.columns.end();
+    for (int row = marked.firstRow; row <= marked.lastRow; ++row)
+        answer.fields.push_back({list.TextMatrix(row, NameCol), list.TextMatrix(row, ValueCol)});
+    return answer;
 }
 
 void SingleRecordView::fitNameColumn()

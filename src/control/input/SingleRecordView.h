@@ -1,6 +1,7 @@
 #pragma once
 
 #include "control/input/CellEditor.h"
+#include "session/SessionWindow.h"
 
 #include <QtCore/QObject>
 
@@ -30,6 +31,10 @@ public:
     void FillSingleRecordView();
     // The main grid's column of the field that is current in the list; 0 when none is.
     int currentGridCol() const;
+    // The main grid's columns of all fields in the list, and of the marked ones.
+    std::vector<int> listedColumns() const;
+    std::vector<int> markedColumns() const;
+    MarkedFields markedFields() const;
     CellEditor &editor() { return m_editor; }
 
 Q_SIGNALS:

@@ -3,6 +3,7 @@
 #include "control/parts/GridTexts.h"
 #include "control/parts/ToolbarIcons.h"
 #include "filter/mod_Filter.h"
+#include "forms/ExportDialog.h"
 #include "forms/FindDialog.h"
 #include "forms/Messages.h"
 #include "session/commands/CommandKeys.h"
@@ -77,6 +78,16 @@ std::optional<FindAnswer> DialogQuestions::askWords(const colDataFields &fields)
         return {};
     dialog.exec();
     return FindAnswer{dialog.strFindText(), dialog.bIsAppointField(), dialog.strFieldName()};
+}
+
+std::optional<ExportAnswer> DialogQuestions::askExport(const ExportRequest &request)
+{
+    ExportDialog dialog({request.name, request.records, request.markedRecords, request.shownColumns,
+                         request.allColumns},
+                        m_parent);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return ExportAnswer{dialog.file(), dialog.options(), dialog.isMarkedOnly(), dialog.hasAllColumns()};
 }
 
 } // namespace KOVAVSFDataGridLib

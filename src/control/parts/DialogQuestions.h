@@ -25,6 +25,7 @@ public:
     Unsaved askUnsaved(const QString &reason) override;
     QString askCondition(const ConditionRequest &request) override;
     std::optional<FindAnswer> askWords(const colDataFields &fields) override;
+    std::optional<ExportAnswer> askExport(const ExportRequest &request) override;
 
 private:
     QPointer<QWidget> m_parent;

@@ -6,6 +6,7 @@
 #include "control/parts/GridTexts.h"
 #include "control/parts/GridToolbar.h"
 #include "control/parts/StatementLine.h"
+#include "control/parts/SummaryLine.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
 
@@ -44,6 +45,7 @@ GridParts::GridParts(QWidget &control)
       txtPage(named(new QLineEdit(picMainBack), u"txtPage"_s)),
       cmdPgae(named(new QPushButton(GridTexts::GoToPage, picMainBack), u"cmdPgae"_s)),
       lblFieldCount(named(new ElidedLabel(picMainBack), u"lblFieldCount"_s)),
+      lblSummary(new SummaryLine(picMainBack)),
       lblStatement(new StatementLine(picMainBack)),
       CheckSelAllRow(named(new QCheckBox(GridTexts::SelectWholeRows, picMainBack), u"CheckSelAllRow"_s)),
       Adodc1(named(new ADODB::Adodc(&control), u"Adodc1"_s))
@@ -94,7 +96,7 @@ int GridParts::gap() const
     return Twips::toPixels(FootGap, *picMainBack);
 }
 
-// The page box, its button, the label and the statement from the left, the check box at the right edge. When
+// The page box, its button, the label, the selection's summary and the statement from the left, the check box at the right edge. When
 // it gets narrow, the statement gives way, then the label, then box and button, and the check box last.
 void GridParts::layOutFoot() const
 {
@@ -118,7 +120,13 @@ void GridParts::layOutFoot() const
     const int room = std::max(0, width - checkWidth - 2 * gap - x);
     const int labelWidth = std::min(room, lblFieldCount->sizeHint().width());
     place(lblFieldCount, labelWidth);
-    place(lblStatement, std::max(0, room - labelWidth - gap));
+    int rest = std::max(0, room - labelWidth - gap);
+    if (!lblSummary->isHidden()) {
+        const int summaryWidth = std::min(rest, lblSummary->sizeHint().width());
+        place(lblSummary, summaryWidth);
+        rest = std::max(0, rest - summaryWidth - gap);
+    }
+    place(lblStatement, rest);
     x = width - checkWidth - gap;
     place(CheckSelAllRow, checkWidth);
 }

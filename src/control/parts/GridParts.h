@@ -18,6 +18,7 @@ class EmptyHint;
 class GridToolbar;
 class MSFlexGrid;
 class StatementLine;
+class SummaryLine;
 class VSFlexGrid;
 
 // The parts that the control is put together from, under the names by which hosts and tests find them,
@@ -39,6 +40,7 @@ public:
     QLineEdit *txtPage;
     QPushButton *cmdPgae;
     ElidedLabel *lblFieldCount;
+    SummaryLine *lblSummary;
     StatementLine *lblStatement;
     QCheckBox *CheckSelAllRow;
     ADODB::Adodc *Adodc1;

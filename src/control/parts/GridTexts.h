@@ -25,6 +25,19 @@ inline const QString Unsaved = u"（未保存）"_s;
 inline const QString BeforeStatement = u"　"_s;
 inline const QString CopyStatement = u"复制语句(&C)"_s;
 
+// What the selected cells come to.
+inline const QString SelectedRows = u"选定行数"_s;
+inline const QString CountOfCells = u"计数"_s;
+inline const QString SumOfCells = u"求和"_s;
+inline const QString AverageOfCells = u"平均"_s;
+inline const QString SmallestCell = u"最小"_s;
+inline const QString LargestCell = u"最大"_s;
+inline const QString EarliestCell = u"最早"_s;
+inline const QString LatestCell = u"最晚"_s;
+inline const QString BetweenSummaries = u"，"_s;
+inline const QString SummaryHint = u"单击数值可以复制"_s;
+inline const QString SummaryCopied = u"已复制 %1"_s;
+
 // In the middle of a grid that has nothing to show.
 inline const QString NothingLoaded = u"尚未加载数据"_s;
 inline const QString NoRecords = u"没有记录"_s;
@@ -35,6 +48,10 @@ inline const QString ToolbarName = u"数据命令"_s;
 inline const QString GridName = u"数据"_s;
 inline const QString MenuName = u"数据菜单"_s;
 inline const QString SingleRecordName = u"当前记录"_s;
+
+// The menus inside the popup menu.
+inline const QString CopyAsMenu = u"复制为(&U)…"_s;
+inline const QString CopyAsName = u"复制为"_s;
 
 // Page box and label.
 inline const QString GoToPage = u"转到"_s;
@@ -50,6 +67,9 @@ inline const QString SelectWholeRows = u"整行选择(&R)"_s;
 inline const QString RecordsRead = u"已读取 %1 条记录"_s;
 inline const QString CancelOpening = u"取消"_s;
 inline const QString CancelOpeningHint = u"停止读取记录（Esc）"_s;
+inline const QString CancelWritingHint = u"停止（Esc）"_s;
+
+inline const QString NothingToExport = u"没有打开的结果，无法导出。"_s;
 
 // Misuse of a method, told to the developer.
 inline const QString WrongCol = u"Wrong Col Number!"_s;

@@ -2,10 +2,14 @@
 
 #include "control/parts/GridToolbar.h"
 #include "grid/FlexGrid.h"
+#include "grid/GridSelection.h"
 #include "grid/Twips.h"
 #include "session/Session.h"
 #include "session/commands/Command.h"
 
+#include <QtCore/QMimeData>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
 #include <QtWidgets/QScrollBar>
 
 namespace KOVAVSFDataGridLib {
@@ -78,6 +82,22 @@ void GridWindow::PutCol(int col)
 int GridWindow::currentCol() const
 {
     return m_grid.ShownCol();
+}
+
+MarkedCells GridWindow::markedCells() const
+{
+    GridSelection selected = SelectedCells(m_grid);
+    return {selected.firstRow, selected.lastRow, std::move(selected.columns)};
+}
+
+std::vector<int> GridWindow::shownColumns() const
+{
+    return ShownColumns(m_grid);
+}
+
+void GridWindow::putOnClipboard(std::unique_ptr<QMimeData> data)
+{
+    QGuiApplication::clipboard()->setMimeData(data.release());
 }
 
 void GridWindow::keepInView(const std::function<void()> &change)

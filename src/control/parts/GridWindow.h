@@ -32,6 +32,9 @@ public:
     void PutRow(int row) override;
     void PutCol(int col) override;
     int currentCol() const override;
+    MarkedCells markedCells() const override;
+    std::vector<int> shownColumns() const override;
+    void putOnClipboard(std::unique_ptr<QMimeData> data) override;
     void keepInView(const std::function<void()> &change) override;
 
     void setPressed(const QString &key, bool on) override;

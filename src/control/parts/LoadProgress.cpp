@@ -19,6 +19,7 @@ namespace {
 
 constexpr qint64 Patience = 500;      // milliseconds before the line shows
 constexpr qint64 EventsInterval = 30; // milliseconds between two looks at the events
+constexpr int BarSteps = 1000;
 
 bool isInput(const QEvent &event)
 {
@@ -39,7 +40,16 @@ bool isInput(const QEvent &event)
 } // namespace
 
 LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place)
-    : m_window(window), m_place(std::move(place)), m_modalBefore(QApplication::activeModalWidget())
+    : LoadProgress(window, std::move(place), GridTexts::RecordsRead, 0)
+{
+}
+
+LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place, QString done, qint64 total)
+    : m_window(window),
+      m_place(std::move(place)),
+      m_done(std::move(done)),
+      m_total(total),
+      m_modalBefore(QApplication::activeModalWidget())
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     m_sinceBegin.start();
@@ -53,13 +63,13 @@ LoadProgress::~LoadProgress()
     delete m_line;
 }
 
-bool LoadProgress::goOn(qint64 rowsRead)
+bool LoadProgress::goOn(qint64 rowsDone)
 {
     if (!m_isCancelled && !m_isLineShown && m_sinceBegin.hasExpired(Patience))
         showLine();
     if (m_isCancelled || !m_line || !m_sinceEvents.hasExpired(EventsInterval))
         return !m_isCancelled;
-    updateLine(rowsRead);
+    updateLine(rowsDone);
     QCoreApplication::processEvents();
     m_isCancelled |= m_line.isNull(); // the window went away, and with it the line
     m_sinceEvents.start();
@@ -74,7 +84,7 @@ void LoadProgress::showLine()
     m_line = new QWidget(&m_window);
     m_line->setAutoFillBackground(true);
     m_bar = new QProgressBar;
-    m_bar->setRange(0, 0); // nobody knows how many there will be
+    m_bar->setRange(0, m_total > 0 ? BarSteps : 0); // without steps it only says that something goes on
     m_bar->setTextVisible(false);
     m_bar->setMaximumHeight(m_bar->fontMetrics().height() / 2);
     // Where it gets narrow the number tells more than the bar.
@@ -83,7 +93,7 @@ void LoadProgress::showLine()
     m_count->setTextFormat(Qt::PlainText);
     auto *cancel = new QPushButton(GridTexts::CancelOpening);
     cancel->setFocusPolicy(Qt::NoFocus); // whoever has the focus shall have it afterwards
-    cancel->setToolTip(GridTexts::CancelOpeningHint);
+    cancel->setToolTip(m_total > 0 ? GridTexts::CancelWritingHint : GridTexts::CancelOpeningHint);
     connect(cancel, &QPushButton::clicked, this, [this] { m_isCancelled = true; });
 
     auto *layout = new QHBoxLayout(m_line);
@@ -96,10 +106,11 @@ void LoadProgress::showLine()
     qApp->installEventFilter(this);
 }
 
-void LoadProgress::updateLine(qint64 rowsRead)
+void LoadProgress::updateLine(qint64 rowsDone)
 {
-    m_count->setText(GridTexts::RecordsRead.arg(rowsRead));
-    m_bar->setValue(static_cast<int>(std::min<qint64>(rowsRead, std::numeric_limits<int>::max())));
+    m_count->setText(m_done.arg(rowsDone));
+    const qint64 value = m_total > 0 ? rowsDone * BarSteps / m_total : rowsDone;
+    m_bar->setValue(static_cast<int>(std::min<qint64>(value, std::numeric_limits<int>::max())));
     m_line->setGeometry(m_place()); // the window can have been resized
     m_line->layout()->activate();
 }

@@ -17,8 +17,8 @@ class QProgressBar;
 
 namespace KOVAVSFDataGridLib {
 
-// Lives while a statement is opened, which happens on the GUI thread. At first it shows the wait cursor.
-// After half a second a line over the window's foot says how many records have been read and
+// Lives while a statement is opened or records are written, which happens on the GUI thread. At first it shows
+// the wait cursor. After half a second a line over the window's foot says how many records are done and
 // offers to cancel, by its button or Esc.
 //
 // From then on the application's events are dispatched, so that windows are drawn and timers run, but
@@ -32,21 +32,25 @@ public:
     // The line covers `place` on `window`, which is asked for again as the window can be resized. When the
     // window is deleted in one of the events, the load is cancelled.
     LoadProgress(QWidget &window, std::function<QRect()> place);
+    // The same for work on `total` records; `done` says how many are, with %1 for the number.
+    LoadProgress(QWidget &window, std::function<QRect()> place, QString done, qint64 total);
     ~LoadProgress() override;
 
-    bool goOn(qint64 rowsRead) override;
+    bool goOn(qint64 rowsDone) override;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void showLine();
-    void updateLine(qint64 rowsRead);
+    void updateLine(qint64 rowsDone);
     bool isForLine(const QObject &watched, const QEvent &event) const;
 
     QScopedValueRollback<bool> m_opening{SharedValues::instance().isOpening, true};
     QWidget &m_window;
     const std::function<QRect()> m_place;
+    const QString m_done;
+    const qint64 m_total; // 0 when nobody knows
     QPointer<QWidget> m_line; // null during the first half second; a child of the window
     QLabel *m_count = nullptr;
     QProgressBar *m_bar = nullptr;

@@ -3,6 +3,7 @@
 #include "control/parts/ButtonItem.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/GridToolbar.h"
+#include "control/parts/MenuOfGroup.h"
 #include "session/commands/Command.h"
 
 #include <QtGui/QAction>
@@ -12,35 +13,38 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int LastIndex = 15; // those without a command are separators
-
-} // namespace
-
 PopupMenu::PopupMenu(QWidget &control, const GridToolbar &toolbar,
                      std::function<QString(const Command &)> whyNot)
     : m_toolbar(toolbar), m_whyNot(std::move(whyNot)), m_menu(new QMenu(&control))
 {
     m_menu->setObjectName(u"PopMnuData"_s);
     m_menu->setAccessibleName(GridTexts::MenuName);
-    for (int index = 1; index <= LastIndex; ++index) {
-        const Command *const command = Command::findMenuItem(index);
-        QAction *action = command ? m_menu->addAction(command->menu.caption) : m_menu->addSeparator();
-        action->setObjectName(u"PopMnuDataAction%1"_s.arg(index));
-        action->setData(index);
-        if (!command)
-            continue;
-        if (command->button) {
-            dressAsButton(*action, *command);
-        } else if (!command->shortcut.isEmpty()) {
-            action->setShortcut(QKeySequence(command->shortcut));
-            action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-            control.addAction(action);
-        }
+    const int last = Command::lastMenuIndex(&Command::menu);
+    for (int index = 1; index <= last; ++index)
+        addItem(index, control);
+}
+
+// An index without a command is a separator.
+void PopupMenu::addItem(int index, QWidget &control)
+{
+    const Command *const command = Command::findMenuItem(index);
+    QAction *action = nullptr;
+    if (!command)
+        action = m_menu->addSeparator();
+    else
+        action = MenuOfGroup(*m_menu, command->menu.group).addAction(command->menu.caption);
+    action->setObjectName(u"PopMnuDataAction%1"_s.arg(index));
+    action->setData(index);
+    if (!command)
+        return;
+    connect(action, &QAction::triggered, this, [this, index] { Q_EMIT PopMnuDataActionClicked(index); });
+    if (command->button) {
+        dressAsButton(*action, *command);
+    } else if (!command->shortcut.isEmpty()) {
+        action->setShortcut(QKeySequence(command->shortcut));
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        control.addAction(action);
     }
-    connect(m_menu, &QMenu::triggered, this,
-            [this](const QAction *action) { Q_EMIT PopMnuDataActionClicked(action->data().toInt()); });
 }
 
 void PopupMenu::PreparePopupMenu()

@@ -14,7 +14,7 @@ namespace KOVAVSFDataGridLib {
 class GridToolbar;
 struct Command;
 
-// PopMnuData: the commands on the data under the pointer, each known by its index from 1 to 15. An item that
+// PopMnuData: the commands on the data under the pointer, each known by its index from 1 on. An item that
 // repeats a toolbar button is shown and enabled as that button is.
 class PopupMenu : public QObject
 {
@@ -38,6 +38,8 @@ Q_SIGNALS:
     void PopMnuDataActionClicked(int index);
 
 private:
+    void addItem(int index, QWidget &control);
+
     const GridToolbar &m_toolbar;
     const std::function<QString(const Command &command)> m_whyNot;
     QMenu *m_menu;

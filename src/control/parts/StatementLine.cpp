@@ -5,6 +5,7 @@
 #include <QtGui/QAction>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
 
 namespace KOVAVSFDataGridLib {
 
@@ -30,6 +31,24 @@ void StatementLine::show(const QString &place, const QString &statement)
     setToolTip(statement.isEmpty()
                    ? QString()
                    : u"<p style='white-space:pre-wrap'>"_s + statement.toHtmlEscaped() + u"</p>"_s);
+}
+
+bool StatementLine::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride &&
+        static_cast<QKeyEvent *>(event)->matches(QKeySequence::Copy)) {
+        event->accept();
+        return true;
+    }
+    return ElidedLabel::event(event);
+}
+
+void StatementLine::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy))
+        copy();
+    else
+        ElidedLabel::keyPressEvent(event);
 }
 
 void StatementLine::copy()

@@ -18,6 +18,11 @@ public:
     void show(const QString &place, const QString &statement);
     const QString &statement() const { return m_statement; }
 
+protected:
+    // The control has a command of the same shortcut; the line's own comes first where it has the focus.
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void copy();
 

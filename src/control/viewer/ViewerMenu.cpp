@@ -3,6 +3,7 @@
 #include "control/parts/ButtonItem.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/GridToolbar.h"
+#include "control/parts/MenuOfGroup.h"
 #include "control/viewer/ViewerTexts.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
@@ -15,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int BackIndex = 7; // those before it without a command are separators
+constexpr int BackIndex = 7; // other indexes without a command are separators
 
 const Command *commandOf(int index)
 {
@@ -31,7 +32,8 @@ ViewerMenu::ViewerMenu(QWidget *parent) : QMenu(parent)
 {
     setObjectName(u"PopMnu"_s);
     setAccessibleName(GridTexts::MenuName);
-    for (int index = 1; index <= BackIndex; ++index)
+    const int last = std::max(BackIndex, Command::lastMenuIndex(&Command::viewerMenu));
+    for (int index = 1; index <= last; ++index)
         addItem(index);
 }
 
@@ -40,9 +42,14 @@ void ViewerMenu::addItem(int index)
     const Command *const command = commandOf(index);
     QAction *action = nullptr;
     if (command) {
-        action = addAction(command->viewerMenu.caption);
-        if (command->button)
+        action = MenuOfGroup(*this, command->viewerMenu.group).addAction(command->viewerMenu.caption);
+        if (command->button) {
             dressAsButton(*action, *command);
+        } else if (!command->shortcut.isEmpty() && index > BackIndex) {
+            action->setShortcut(QKeySequence(command->shortcut));
+            action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+            parentWidget()->addAction(action);
+        }
         connect(action, &QAction::triggered, this, [this, command] { Q_EMIT commandChosen(command->key); });
     } else if (index == BackIndex) {
         action = addAction(ViewerTexts::Back);
@@ -57,7 +64,8 @@ void ViewerMenu::addItem(int index)
 void ViewerMenu::EnablePopupItems(const GridToolbar &toolbar, bool hasCellText)
 {
     for (QAction *action : actions()) {
-        const Command *const command = commandOf(action->data().toInt());
+        const int index = action->data().toInt();
+        const Command *const command = index < BackIndex ? commandOf(index) : nullptr;
         if (!command)
             continue;
         const bool isCellFilter = command->key == CommandKeys::CellFilter;

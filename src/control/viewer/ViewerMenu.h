@@ -6,8 +6,8 @@ namespace KOVAVSFDataGridLib {
 
 class GridToolbar;
 
-// The viewer's popup menu on the grid: the actions PopMnuAction1 … PopMnuAction7, each with its index as
-// data; 3 and 6 are separators.
+// The viewer's popup menu on the grid: the actions PopMnuAction1 … PopMnuAction7 and those after them, each
+// with its index as data; 3, 6 and 8 are separators. Their shortcuts work in the whole viewer.
 class ViewerMenu final : public QMenu
 {
     Q_OBJECT

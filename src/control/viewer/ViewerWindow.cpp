@@ -64,6 +64,11 @@ std::unique_ptr<OpeningProgress> ViewerWindow::beginOpening()
     return std::make_unique<LoadProgress>(m_window, [this] { return m_parts.foot(); });
 }
 
+std::unique_ptr<OpeningProgress> ViewerWindow::beginWriting(const QString &done, qint64 total)
+{
+    return std::make_unique<LoadProgress>(m_window, [this] { return m_parts.foot(); }, done, total);
+}
+
 void ViewerWindow::makeShownCellCurrent()
 {
     if (!m_session->result().isOpen() || m_grid.UsedRows() < 2 || m_grid.Cols() < 2)

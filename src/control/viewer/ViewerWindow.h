@@ -19,6 +19,7 @@ public:
     void showTypedPage(const QString &text) override;
     void refreshStatus() override;
     std::unique_ptr<OpeningProgress> beginOpening() override;
+    std::unique_ptr<OpeningProgress> beginWriting(const QString &done, qint64 total) override;
 
     // So that the keyboard always has a cell to start from: the current record's row, else the first, and a
     // column that is seen.

@@ -44,6 +44,14 @@ const Command *Command::findMenuItem(int index)
     return index < 1 ? nullptr : findIf([=](const Command &command) { return command.menu.index == index; });
 }
 
+int Command::lastMenuIndex(MenuItemTexts Command::*menu)
+{
+    int last = 0;
+    for (const Command &command : registered())
+        last = std::max(last, (command.*menu).index);
+    return last;
+}
+
 const std::vector<const Command *> &Command::all()
 {
     static const std::vector<const Command *> sorted = [] {

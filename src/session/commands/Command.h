@@ -24,6 +24,9 @@ struct ButtonTexts
     bool isToggle = false;
 };
 
+// A menu inside a popup menu.
+enum class MenuGroup { None, CopyAs };
+
 // An item of a popup menu; the indexes that no command has are separators.
 struct MenuItemTexts
 {
@@ -31,6 +34,7 @@ struct MenuItemTexts
     QString caption = {};
     // Chosen here, the command shows many records again first.
     bool leavesSingleRecord = false;
+    MenuGroup group = MenuGroup::None;
 };
 
 // One thing that a user can do with a result. A command is a static Registration in a source file of its own;
@@ -59,6 +63,8 @@ struct Command
     // Null when there is no such command.
     static const Command *find(const QString &key);
     static const Command *findMenuItem(int index);
+    // The highest index that a command has in the menu, or in the viewer's.
+    static int lastMenuIndex(MenuItemTexts Command::*menu);
     // All commands: those with buttons in their order, then the others.
     static const std::vector<const Command *> &all();
 };

@@ -17,13 +17,28 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Only the current record is deleted, however many rows are marked: the question then says which one it is.
+QString question(Session &session)
+{
+    const SessionWindow &window = session.window();
+    const MarkedCells marked = window.markedCells();
+    const std::vector<int> shown = window.shownColumns();
+    if (marked.lastRow <= marked.firstRow || shown.empty())
+        return SessionMessages::AskDelete;
+    const ADODB::Recordset &recordset = *session.result().recordset();
+    const int field = shown.front() - 1;
+    return SessionMessages::AskDelete + SessionMessages::RecordMeant.arg(
+               QString::number(window.Row()), recordset.Fields().Item(field).Name(),
+               recordset.CellText(session.recordOfRow(window.Row()), field));
+}
+
 // The answer is meant for the record that was current when the question came up, and for no other that the
 // host has made current meanwhile.
 bool askToDelete(Session &session)
 {
     const ResultWatch watch(session);
     const qint64 position = watch.recordset()->AbsolutePosition();
-    return session.questions().ask(SessionMessages::AskDelete, SessionMessages::AskDeleteTitle) &&
+    return session.questions().ask(question(session), SessionMessages::AskDeleteTitle) &&
            watch.isUntouched() && watch.recordset()->AbsolutePosition() == position;
 }
 

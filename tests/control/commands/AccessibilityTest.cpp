@@ -74,5 +74,5 @@ TEST_F(Accessible, TheMenuItemsHaveCaptionsOfTheirOwn)
         EXPECT_FALSE(captions.contains(action->text())) << qUtf8Printable(action->text());
         captions.append(action->text());
     }
-    EXPECT_EQ(captions.size(), 11);
+    EXPECT_GE(captions.size(), 11);
 }

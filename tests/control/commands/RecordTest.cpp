@@ -38,7 +38,7 @@ protected:
 
 TEST_F(RecordsOf, TheMenuHasFifteenItemsWithTheirIndexes)
 {
-    ASSERT_EQ(menu->actions().size(), 15);
+    ASSERT_GE(menu->actions().size(), 15) << "others may come after them";
     for (int i = 0; i < 15; ++i) {
         const QAction *action = menu->actions().at(i);
         EXPECT_EQ(action->objectName(), u"PopMnuDataAction%1"_s.arg(i + 1));

@@ -1,0 +1,22 @@
+#include "ado/rows/RowReader.h"
+
+#include "ado/RecordsetPrivate.h"
+
+namespace ADODB {
+
+RowReader::RowReader(const Recordset &recordset, int columns)
+    : m_recordset(recordset), m_cells(static_cast<std::size_t>(columns))
+{
+}
+
+const std::vector<RawValue> *RowReader::read(qint64 record)
+{
+    const std::optional<Snapshot> &snapshot = m_recordset.d->snapshot;
+    if (!snapshot || record < 1 || record > snapshot->records() ||
+        static_cast<int>(m_cells.size()) > snapshot->columns())
+        return nullptr;
+    snapshot->read(record, m_cells);
+    return &m_cells;
+}
+
+} // namespace ADODB

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ado/values/RawValue.h"
+
+#include <QtCore/qglobal.h>
+
+#include <vector>
+
+namespace ADODB {
+
+class Recordset;
+
+// Reads whole records as they are stored, without making a value of each cell: for what goes through many
+// records. It shows saved values, moves nothing and notifies nobody.
+class RowReader
+{
+public:
+    // Reads the first `columns` fields. `recordset` must outlive this object.
+    RowReader(const Recordset &recordset, int columns);
+
+    // The cells of a record, from 1; they are valid until the next call or a change of the recordset. Null
+    // when there is no such record, because it was deleted or the recordset is closed.
+    const std::vector<RawValue> *read(qint64 record);
+
+private:
+    const Recordset &m_recordset;
+    std::vector<RawValue> m_cells;
+};
+
+} // namespace ADODB

@@ -1,0 +1,105 @@
+#include "control/input/SelectionWatch.h"
+
+#include "ado/Recordset.h"
+#include "control/parts/GridParts.h"
+#include "control/parts/GridTexts.h"
+#include "control/parts/SummaryLine.h"
+#include "grid/FlexGrid.h"
+#include "session/LongWork.h"
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+
+#include <QtCore/QItemSelectionModel>
+
+namespace KOVAVSFDataGridLib {
+
+SelectionWatch::SelectionWatch(Session &session, GridParts &parts) : m_session(session), m_parts(parts)
+{
+    m_timer.setSingleShot(true);
+    const VSFlexGrid &grid = *parts.vsfgDataGrid;
+    connect(grid.selectionModel(), &QItemSelectionModel::selectionChanged, this, &SelectionWatch::begin);
+    // A whole row's summary is that of the current column.
+    connect(grid.selectionModel(), &QItemSelectionModel::currentColumnChanged, this, &SelectionWatch::begin);
+    connect(grid.model(), &QAbstractItemModel::modelReset, this, &SelectionWatch::begin);
+    connect(&m_timer, &QTimer::timeout, this, &SelectionWatch::goOn);
+}
+
+void SelectionWatch::begin()
+{
+    m_summary.reset();
+    m_recordset.reset();
+    m_timer.start(0);
+}
+
+void SelectionWatch::goOn()
+{
+    if (!m_summary && !prepare())
+        return clear();
+    // Never kept alive between the steps: its file is to close when its owner closes it.
+    const std::shared_ptr<ADODB::Recordset> recordset = m_recordset.lock();
+    if (!recordset)
+        return clear();
+    m_summary->goOn();
+    if (!m_summary->isDone()) {
+        m_timer.start(0);
+        return;
+    }
+    showSummary();
+    m_summary.reset();
+}
+
+// False when there are not several cells to sum up.
+bool SelectionWatch::prepare()
+{
+    if (!m_session.result().isOpen() || m_session.window().isSingleRecordShown())
+        return false;
+    MarkedCells marked = m_session.window().markedCells();
+    m_rows = marked.lastRow - marked.firstRow + 1;
+    const bool isWholeRows =
+        marked.columns.size() > 1 && marked.columns == m_session.window().shownColumns();
+    if (m_rows < 1 || (m_rows == 1 && (isWholeRows || marked.columns.size() < 2)))
+        return false;
+    m_column.clear();
+    // The sum of different columns says nothing.
+    if (isWholeRows)
+        marked.columns = {m_session.window().currentCol()};
+    const ExportColumns columns = ExportColumnsOf(m_session, marked.columns);
+    if (columns.empty())
+        return false;
+    if (isWholeRows)
+        m_column = columns.front().heading;
+    m_recordset = m_session.result().recordset();
+    m_summary.emplace(*m_session.result().recordset(), MarkedRecords(m_session), columns);
+    return true;
+}
+
+void SelectionWatch::showSummary()
+{
+    QList<SummaryLine::Item> items;
+    if (m_rows > 1)
+        items.append({GridTexts::SelectedRows, QString::number(m_rows)});
+    const QString of = m_column.isEmpty() ? QString() : m_column + u'：';
+    items.append({of + GridTexts::CountOfCells, QString::number(m_summary->count())});
+    if (m_summary->numbers() > 0) {
+        items.append({GridTexts::SumOfCells, m_summary->sum()});
+        items.append({GridTexts::AverageOfCells, m_summary->average()});
+        items.append({GridTexts::SmallestCell, m_summary->minimum()});
+        items.append({GridTexts::LargestCell, m_summary->maximum()});
+    } else if (m_summary->dates() > 0) {
+        items.append({GridTexts::EarliestCell, m_summary->earliest()});
+        items.append({GridTexts::LatestCell, m_summary->latest()});
+    }
+    m_parts.lblSummary->show(items);
+    m_parts.layOutFoot();
+}
+
+void SelectionWatch::clear()
+{
+    m_summary.reset();
+    if (m_parts.lblSummary->isHidden())
+        return;
+    m_parts.lblSummary->show(QList<SummaryLine::Item>());
+    m_parts.layOutFoot();
+}
+
+} // namespace KOVAVSFDataGridLib

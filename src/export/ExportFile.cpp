@@ -1,0 +1,35 @@
+#include "export/ExportFile.h"
+
+#include "ado/Error.h"
+#include "export/ExportTexts.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QSaveFile>
+
+namespace KOVAVSFDataGridLib {
+
+ExportOutcome ExportToFile(const QString &file, const ExportOptions &options,
+                           const ADODB::Recordset &recordset, const RecordRange &range,
+                           const ExportColumns &columns, const std::function<bool(qint64)> &goOn)
+{
+    QSaveFile target(file);
+    const auto cantWrite = [&](const QString &why) {
+        return ADODB::Error(ADODB::adErrWriteFile,
+                            ExportTexts::CantWrite.arg(QDir::toNativeSeparators(file), why));
+    };
+    if (!target.open(QIODevice::WriteOnly))
+        throw cantWrite(target.errorString());
+    ExportOutcome outcome;
+    try {
+        const std::unique_ptr<RecordWriter> writer = NewWriter(target, options);
+        outcome.isWritten = WriteRecords(recordset, range, columns, *writer, goOn);
+        outcome.losses = LossesOf(*writer);
+    } catch (const ADODB::Error &error) {
+        throw cantWrite(error.Description());
+    }
+    if (outcome.isWritten && !target.commit())
+        throw cantWrite(target.errorString());
+    return outcome;
+}
+
+} // namespace KOVAVSFDataGridLib

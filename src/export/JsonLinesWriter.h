@@ -1,0 +1,29 @@
+#pragma once
+
+#include "export/RecordWriter.h"
+#include "export/TextSink.h"
+
+namespace KOVAVSFDataGridLib {
+
+// One JSON object a line, its members named by the headings; a heading that occurs twice gets a number.
+// Numbers keep all their digits, binary values are Base64.
+class JsonLinesWriter final : public RecordWriter
+{
+public:
+    // `device` is open for writing and must outlive this object.
+    explicit JsonLinesWriter(QIODevice &device);
+
+    void begin(const ExportColumns &columns) override;
+    void row(const std::vector<ADODB::RawValue> &cells) override;
+    void end() override;
+
+private:
+    void appendValue(const ADODB::RawValue &cell, ADODB::DataTypeEnum type);
+
+    TextSink m_sink;
+    ExportColumns m_columns;
+    std::vector<QByteArray> m_names; // with quotes and colon
+    QByteArray m_value;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "ado/Enums.h"
+#include "ado/values/RawValue.h"
+
+#include <QtCore/QString>
+
+#include <vector>
+
+namespace KOVAVSFDataGridLib {
+
+// One column of what is written.
+struct ExportColumn
+{
+    int field = 0; // 0-based, of the recordset
+    QString heading;
+    ADODB::DataTypeEnum type = ADODB::adVarWChar;
+    int scale = 0; // digits after the decimal point, where the field says so
+    int width = 0; // pixels at 96 DPI; 0 when nobody knows
+};
+
+using ExportColumns = std::vector<ExportColumn>;
+
+// Writes records in one format. Call begin() once, row() for each record, and end() once.
+class RecordWriter
+{
+public:
+    RecordWriter() = default;
+    virtual ~RecordWriter() = default;
+    Q_DISABLE_COPY_MOVE(RecordWriter)
+
+    // All three throw ADODB::Error when the result can't be written.
+    virtual void begin(const ExportColumns &columns) = 0;
+    // `cells` are the record's, by field number.
+    virtual void row(const std::vector<ADODB::RawValue> &cells) = 0;
+    virtual void end() = 0;
+};
+
+} // namespace KOVAVSFDataGridLib

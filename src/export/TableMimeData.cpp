@@ -1,0 +1,85 @@
+#include "export/TableMimeData.h"
+
+#include "export/HtmlText.h"
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The office formats keep what they call a text as it is; each of the two has its own word for it.
+constexpr char Head[] = "<html><head><meta charset=\"utf-8\"><style>.t{mso-number-format:\"\\@\"}</style></head>"
+                        "<body><table>";
+constexpr char TextCell[] = "<td class=\"t\" sdnum=\"1033;0;@\">";
+
+// One value of a text separated by tabs, which may be quoted, from `at` on. Moves `at` to what ends it.
+QByteArray nextValue(QByteArrayView text, qsizetype &at)
+{
+    QByteArray value;
+    const bool isQuoted = text[at] == '"';
+    if (isQuoted)
+        ++at;
+    while (at < text.size()) {
+        const char c = text[at];
+        if (isQuoted && c == '"') {
+            if (++at == text.size() || text[at] != '"')
+                break;
+        } else if (!isQuoted && (c == '\t' || c == '\r')) {
+            break;
+        }
+        value += c;
+        ++at;
+    }
+    return value;
+}
+
+} // namespace
+
+TableMimeData::TableMimeData(QByteArray text, std::vector<bool> isNumeric, bool hasHeadings)
+    : m_text(std::move(text)), m_isNumeric(std::move(isNumeric)), m_hasHeadings(hasHeadings)
+{
+}
+
+QStringList TableMimeData::formats() const
+{
+    return {u"text/plain"_s, u"text/html"_s};
+}
+
+QVariant TableMimeData::retrieveData(const QString &mimeType, QMetaType type) const
+{
+    const bool wantsBytes = type.id() == QMetaType::QByteArray;
+    if (mimeType == "text/html"_L1)
+        return wantsBytes ? QVariant(html()) : QVariant(QString::fromUtf8(html()));
+    if (mimeType.startsWith("text/plain"_L1))
+        return wantsBytes ? QVariant(m_text) : QVariant(QString::fromUtf8(m_text));
+    return QMimeData::retrieveData(mimeType, type);
+}
+
+QByteArray TableMimeData::html() const
+{
+    const bool isOneValue = !m_text.endsWith("\r\n");
+    QByteArray html = Head;
+    bool isHeading = m_hasHeadings;
+    for (qsizetype at = 0; at < m_text.size();) {
+        html += "<tr>";
+        for (std::size_t column = 0; column < m_isNumeric.size(); ++column) {
+            html += isHeading ? "<th>" : m_isNumeric[column] ? "<td>" : TextCell;
+            if (isOneValue) {
+                AppendHtml(html, m_text);
+                at = m_text.size();
+            } else if (at < m_text.size()) {
+                AppendHtml(html, nextValue(m_text, at));
+                at += m_text.mid(at, 1) == "\t" ? 1 : 0;
+            }
+            html += isHeading ? "</th>" : "</td>";
+        }
+        html += "</tr>";
+        at += 2; // the line's end
+        isHeading = false;
+    }
+    html += "</table></body></html>";
+    return html;
+}
+
+} // namespace KOVAVSFDataGridLib

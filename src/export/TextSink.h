@@ -1,0 +1,36 @@
+#pragma once
+
+#include "export/Encoder.h"
+
+class QIODevice;
+
+namespace KOVAVSFDataGridLib {
+
+// Gathers text and writes it to a device in larger pieces.
+class TextSink
+{
+public:
+    // `device` is open for writing and must outlive this object. Throws as Encoder does.
+    TextSink(QIODevice &device, TextEncoding encoding);
+
+    // To be appended to, in UTF-8.
+    QByteArray &text() { return m_text; }
+    // Writes what has been gathered when it is enough. Throws ADODB::Error when the device refuses.
+    void flushWhenFull()
+    {
+        if (m_text.size() >= PieceSize)
+            flush();
+    }
+    void flush();
+
+private:
+    static constexpr qsizetype PieceSize = qsizetype{256} << 10; // bytes
+
+    void write(QByteArrayView bytes);
+
+    QIODevice &m_device;
+    Encoder m_encoder;
+    QByteArray m_text;
+};
+
+} // namespace KOVAVSFDataGridLib

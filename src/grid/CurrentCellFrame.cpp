@@ -1,0 +1,36 @@
+#include "grid/CurrentCellFrame.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QTableView>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+constexpr int FrameWidth = 2; // pixels at 96 DPI
+
+bool isOneOfSeveral(const QItemSelection &selection, const QModelIndex &cell)
+{
+    return selection.contains(cell) && (selection.size() > 1 || selection.front().width() > 1 ||
+                                        selection.front().height() > 1);
+}
+
+} // namespace
+
+void PaintCurrentCellFrame(const QTableView &view)
+{
+    const QModelIndex current = view.currentIndex();
+    if (!current.isValid() || !isOneOfSeveral(view.selectionModel()->selection(), current))
+        return;
+    const QRect cell = view.visualRect(current);
+    if (cell.width() <= 2 * FrameWidth || !cell.intersects(view.viewport()->rect()))
+        return;
+    QPainter painter(view.viewport());
+    QPen pen(view.palette().color(QPalette::HighlightedText), FrameWidth);
+    pen.setJoinStyle(Qt::MiterJoin);
+    painter.setPen(pen);
+    // A pen's line is half outside of the rectangle that it draws.
+    painter.drawRect(cell.adjusted(FrameWidth, FrameWidth, -FrameWidth, -FrameWidth));
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,56 @@
+#include "session/LongWork.h"
+
+#include "ado/Recordset.h"
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+constexpr int TwipsOfPixel = 15; // at 96 DPI
+
+} // namespace
+
+ExportColumns ExportColumnsOf(Session &session, const std::vector<int> &columns)
+{
+    const ADODB::Fields &fields = session.result().recordset()->Fields();
+    const SessionWindow &window = session.window();
+    ExportColumns made;
+    for (const int col : columns) {
+        if (col < 1 || col > fields.Count())
+            continue;
+        const ADODB::Field &field = fields.Item(col - 1);
+        const int width = window.ColWidth(col);
+        const int twips = width == ColumnView::UseDefaultWidth ? ColumnView::DefaultColWidth : width;
+        made.push_back({col - 1, field.Name(), field.Type(), field.NumericScale(), twips / TwipsOfPixel});
+    }
+    return made;
+}
+
+RecordRange MarkedRecords(Session &session)
+{
+    const MarkedCells marked = session.window().markedCells();
+    if (marked.lastRow < marked.firstRow || marked.firstRow < 1)
+        return {};
+    const qint64 last = session.recordOfRow(marked.lastRow);
+    return {session.recordOfRow(marked.firstRow),
+            std::min(last, session.result().recordset()->RecordCount())};
+}
+
+bool WriteUnderProgress(Session &session, const QString &done, const RecordRange &range,
+                        const std::function<bool(const std::function<bool(qint64)> &goOn)> &write)
+{
+    if (session.shared.isOpening)
+        return false;
+    const ResultWatch watch(session);
+    const auto progress = session.window().beginWriting(done, range.count());
+    const auto goOn = [&](qint64 written) {
+        return (!progress || progress->goOn(written)) && watch.isUntouched();
+    };
+    return write(goOn) && watch.isUntouched();
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,58 @@
+#include "ado/Recordset.h"
+#include "query/SqlText.h"
+#include "session/ExportResult.h"
+#include "session/LongWork.h"
+#include "session/ResultWatch.h"
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+#include "session/commands/Command.h"
+
+#include <QtCore/QRegularExpression>
+
+#include <algorithm>
+
+// Asks what is to be written and where to, and writes it.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The table's name without what no file's name can have.
+QString nameOfFile(Session &session)
+{
+    static const QRegularExpression notInNames(u"[\\\\/:*?\"<>|\\[\\]`\\x00-\\x1f]+"_s);
+    constexpr qsizetype longest = 60;
+    return GetSQLTableName(session.statement()).remove(notInNames).simplified().left(longest);
+}
+
+void exportRecords(Session &session)
+{
+    const ADODB::Recordset &recordset = *session.result().recordset();
+    ExportRequest request;
+    request.name = nameOfFile(session);
+    request.records = recordset.RecordCount();
+    request.markedRecords = std::max<qint64>(0, MarkedRecords(session).count());
+    request.shownColumns = static_cast<int>(session.window().shownColumns().size());
+    request.allColumns = recordset.Fields().Count();
+    const ResultWatch watch(session);
+    const std::optional<ExportAnswer> answer = session.questions().askExport(request);
+    if (answer && watch.isUntouched())
+        ExportResult(session, *answer);
+}
+
+const Command::Registration registration({
+    .key = u"Export"_s,
+    .shortcut = u"Ctrl+S"_s,
+    .menu = {21, u"导出(&E)…"_s},
+    .isInViewer = true,
+    .viewerMenu = {13, u"导出(&E)…"_s},
+    .needs = Needs::Records,
+    .record = Record::Stays,
+    .run = exportRecords,
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

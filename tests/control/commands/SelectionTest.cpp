@@ -1,0 +1,146 @@
+// What the selected cells come to, and which of them is the current one.
+#include "Shop.h"
+
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtTest/QTest>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QHeaderView>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct SelectionTest : Shop
+{
+    SelectionTest() { wholeRows->setChecked(false); }
+
+    void mark(int fromRow, int fromCol, int toRow, int toCol)
+    {
+        clickCell(fromRow, fromCol);
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::ShiftModifier,
+                          table->visualRect(table->model()->index(toRow - 1, toCol - 1)).center());
+    }
+    // Once nothing is left to work out.
+    QString shownSummary()
+    {
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        return summary->isVisible() ? summary->accessibleName() : QString();
+    }
+
+    QLabel *summary = grid.findChild<QLabel *>(u"lblSummary"_s);
+    QCheckBox *wholeRows = grid.findChild<QCheckBox *>(u"CheckSelAllRow"_s);
+    const QString numbers = u"SELECT ID, ID / 4.0 AS Q, 名称, 日期 FROM 商品 WHERE ID < 5 ORDER BY ID"_s;
+};
+
+} // namespace
+
+TEST_F(SelectionTest, OneCellHasNoSummary)
+{
+    ASSERT_TRUE(load(numbers, {}));
+    clickCell(2, 1);
+    EXPECT_EQ(shownSummary(), QString());
+}
+
+TEST_F(SelectionTest, SumsUpNumbersCountsTextsAndOrdersDates)
+{
+    ASSERT_TRUE(load(numbers, {}));
+    mark(1, 1, 4, 1);
+    EXPECT_EQ(shownSummary(), u"选定行数 4，计数 4，求和 10，平均 2.5，最小 1，最大 4"_s);
+    mark(1, 1, 2, 2);
+    EXPECT_EQ(shownSummary(), u"选定行数 2，计数 4，求和 3.75，平均 0.9375，最小 0.25，最大 2"_s);
+    mark(1, 1, 1, 2);
+    EXPECT_EQ(shownSummary(), u"计数 2，求和 1.25，平均 0.625，最小 0.25，最大 1"_s);
+    mark(1, 3, 2, 3);
+    EXPECT_EQ(shownSummary(), u"选定行数 2，计数 2"_s);
+    QStringList dates = texts(u"日期"_s);
+    dates.removeAll(QString());
+    dates.sort();
+    mark(1, 4, 4, 4);
+    EXPECT_EQ(shownSummary(), u"选定行数 4，计数 %1，最早 %2，最晚 %3"_s.arg(dates.size())
+                                  .arg(dates.constFirst(), dates.constLast()));
+    clickCell(1, 1);
+    EXPECT_EQ(shownSummary(), QString());
+}
+
+TEST_F(SelectionTest, OfWholeRowsTheCurrentColumnIsSummedUp)
+{
+    ASSERT_TRUE(load(numbers, {}));
+    wholeRows->setChecked(true);
+    mark(2, 1, 4, 1);
+    EXPECT_EQ(shownSummary(), u"选定行数 3，ID：计数 3，求和 9，平均 3，最小 2，最大 4"_s);
+    wholeRows->setChecked(false);
+}
+
+TEST_F(SelectionTest, AValueIsCopiedByAClickOrByTheKeyboard)
+{
+    ASSERT_TRUE(load(numbers, {}));
+    mark(1, 1, 4, 1);
+    ASSERT_NE(shownSummary(), QString());
+    summary->setFocus();
+    for (int i = 0; i < 3; ++i) // rows, count, sum
+        QTest::keyClick(summary, Qt::Key_Tab);
+    QTest::keyClick(summary, Qt::Key_Return);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"10"_s);
+}
+
+TEST_F(SelectionTest, GoesWithTheResult)
+{
+    ASSERT_TRUE(load(numbers, {}));
+    mark(1, 1, 4, 1);
+    ASSERT_NE(shownSummary(), QString());
+    grid.Clear();
+    EXPECT_EQ(shownSummary(), QString());
+    ASSERT_TRUE(load(numbers, {}));
+    mark(1, 1, 4, 1);
+    grid.ClearObject(); // before the summary is worked out
+    EXPECT_EQ(shownSummary(), QString());
+}
+
+TEST_F(SelectionTest, DeletionNamesTheRecordWhenSeveralAreMarked)
+{
+    ASSERT_TRUE(load());
+    mark(4, 2, 6, 2);
+    messages.answerNext(QMessageBox::No);
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_Minus, Qt::ControlModifier);
+    clickCell(5, 1);
+    messages.answerNext(QMessageBox::No);
+    choose(9, 5);
+    EXPECT_EQ(messages.texts(),
+              (QStringList{u"确实要删除该记录?\n第 6 行：ID = 6"_s, u"确实要删除该记录?"_s}));
+}
+
+TEST_F(SelectionTest, TheCurrentCellOfASelectionHasAFrame)
+{
+    ASSERT_TRUE(load(numbers, {}));
+    wholeRows->setChecked(true);
+    mark(1, 1, 3, 2);
+    const auto isFramed = [this](int row, int col) {
+        const QRect cell = table->visualRect(table->model()->index(row - 1, col - 1));
+        const QImage picture = table->viewport()->grab().toImage();
+        const QColor frame = table->palette().color(QPalette::HighlightedText);
+        int framed = 0;
+        for (int x = cell.left() + 4; x < cell.right() - 4; ++x)
+            framed += picture.pixelColor(x, cell.top() + 2) == frame ? 1 : 0;
+        return framed > cell.width() / 2;
+    };
+    EXPECT_TRUE(isFramed(3, 2));
+    EXPECT_FALSE(isFramed(3, 1));
+    EXPECT_FALSE(isFramed(1, 2));
+    wholeRows->setChecked(false);
+}
+
+TEST_F(SelectionTest, HeadingsAreOverTheirTextsAndNumbers)
+{
+    ASSERT_TRUE(load());
+    const auto side = [this](const QString &field) {
+        const QVariant alignment = table->model()->headerData(grid.GetBindFieldIndex(field) - 1,
+                                                              Qt::Horizontal, Qt::TextAlignmentRole);
+        return alignment.value<Qt::Alignment>() & Qt::AlignHorizontal_Mask;
+    };
+    EXPECT_EQ(side(u"ID"_s), Qt::AlignRight);
+    EXPECT_EQ(side(u"名称"_s), Qt::AlignLeft);
+}

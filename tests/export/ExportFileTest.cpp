@@ -1,0 +1,86 @@
+#include "ExportRecords.h"
+
+#include "ado/Error.h"
+
+#include <gtest/gtest.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+
+using namespace KOVAVSFDataGridLib;
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr char Series[] = "WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 1000) SELECT I FROM N";
+
+void put(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+} // namespace
+
+TEST(ExportFile, KnowsItsFormatByTheEnding)
+{
+    EXPECT_EQ(FormatOfFile(u"/a.b/c.CSV"_s), ExportFormat::Csv);
+    EXPECT_EQ(FormatOfFile(u"c.jsonl"_s), ExportFormat::JsonLines);
+    EXPECT_EQ(FormatOfFile(u"c.htm"_s), ExportFormat::Html);
+    for (const ExportFormat format : AvailableFormats())
+        EXPECT_EQ(FormatOfFile(u"c"_s + FileEnding(format)), format);
+    EXPECT_EQ(FormatOfFile(u"csv"_s), std::nullopt);
+    EXPECT_EQ(FormatOfFile(u"a.txt"_s), std::nullopt);
+    EXPECT_TRUE(UnknownFormatText(u"/x/a.txt"_s).contains(u"“a.txt”"_s));
+}
+
+TEST(ExportFile, LeavesAGoodFileAloneWhenItIsCancelledOrFails)
+{
+    ExportRecords records;
+    records.open(QLatin1StringView(Series));
+    for (const ExportFormat format : AvailableFormats()) {
+        ExportOptions options;
+        options.format = format;
+        const QString file = records.path(u"good"_s + FileEnding(format));
+        put(file, "good");
+        const ExportOutcome outcome = ExportToFile(file, options, *records.recordset, records.all(),
+                                                   records.columns(), [](qint64 rows) { return rows < 500; });
+        EXPECT_FALSE(outcome.isWritten);
+        EXPECT_EQ(contentOf(file), "good");
+        EXPECT_THROW(ExportToFile(file, options, *records.recordset, {1, 2000}, records.columns(),
+                                  [](qint64) { return true; }),
+                     ADODB::Error)
+            << "there are no 2000 records";
+        EXPECT_EQ(contentOf(file), "good");
+    }
+    EXPECT_EQ(QDir(records.folder.path()).entryList(QDir::Files).size(), AvailableFormats().size())
+        << "nothing half is left lying about";
+}
+
+TEST(ExportFile, SaysWhichFileCantBeWritten)
+{
+    ExportRecords records;
+    records.open(QLatin1StringView(Series));
+    const QString file = records.path(u"no such folder/a.csv"_s);
+    try {
+        ExportToFile(file, {}, *records.recordset, records.all(), records.columns(),
+                     [](qint64) { return true; });
+        FAIL();
+    } catch (const ADODB::Error &error) {
+        EXPECT_TRUE(error.Description().contains(QDir::toNativeSeparators(file)));
+    }
+}
+
+TEST(ExportFile, WritesSomeRecordsAndColumnsInAnyOrder)
+{
+    ExportRecords records(u"CREATE TABLE T (A, B, C); INSERT INTO T VALUES (1,2,3), (4,5,6), (7,8,9)"_s);
+    records.open(u"SELECT * FROM T"_s);
+    const ExportColumns all = records.columns();
+    ExportOptions options;
+    options.encoding = TextEncoding::Utf8;
+    ExportToFile(records.path(u"t.csv"_s), options, *records.recordset, {2, 3}, {all[2], all[0]},
+                 [](qint64) { return true; });
+    EXPECT_EQ(contentOf(records.path(u"t.csv"_s)), "C,A\r\n6,4\r\n9,7\r\n");
+}
