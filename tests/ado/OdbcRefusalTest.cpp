@@ -4,6 +4,7 @@
 #include "sql/SqlScanner.h"
 
 using namespace ADODB;
+using namespace KOVAVSFDataGridLib;
 using KOVAVSFDataGridLib::SqlDialect;
 
 namespace {

@@ -54,7 +54,7 @@ protected:
         if (!engine.isThere())
             GTEST_SKIP() << engine.variable << " is not set";
         database.emplace(engine);
-        const bool isMariaDb = QByteArray(engine.name).startsWith("MariaDB");
+        const bool isMariaDb = engine.isMariaDb();
         QStringList script{
             u"DROP TABLE IF EXISTS journey_conditions"_s,
             u"CREATE TABLE journey_conditions (id INTEGER PRIMARY KEY, t VARCHAR(60), n INTEGER)%1"_s.arg(

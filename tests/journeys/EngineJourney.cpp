@@ -24,7 +24,6 @@ void EngineJourney::SetUp()
     if (IsSkipped())
         return;
     // What a column's comparisons mean is its collation's affair; here the plain one everywhere.
-    const bool isMariaDb = QByteArray(engine.name).startsWith("MariaDB");
     const QString create =
         u"CREATE TABLE journey_goods (id INTEGER PRIMARY KEY, 名称 VARCHAR(60) NOT NULL, %1"
         " DECIMAL(10,2), qty INTEGER, 城市 VARCHAR(20), 日期 DATE, 停用 BOOLEAN, 图片 %2)%3"_s;
@@ -38,13 +37,14 @@ void EngineJourney::SetUp()
         "(7,'挂面',12.5,8,'西安','2024-01-05',%1,NULL),(8,'木耳',38.8,NULL,'大连',NULL,%2,NULL),"
         "(9,'香菇',45.2,1,NULL,'2024-04-04',%2,NULL),(10,'O''Neil 红茶',88,1,'上海',NULL,%2,NULL),"
         "(11,'绿茶 🍵',66,2,'杭州',NULL,%2,NULL),(12,'白茶',99,4,'厦门',NULL,NULL,NULL)"_s;
-    database->run({u"DROP TABLE IF EXISTS journey_orders"_s, u"DROP TABLE IF EXISTS journey_goods"_s,
-                   create.arg(engine.quoted(price), QString::fromLatin1(engine.binary),
-                              isMariaDb ? u" CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin"_s : QString()),
-                   insert.arg(engine.quoted(price)) + rows.arg(yes, no, engine.bytes("424D00FF")),
-                   u"CREATE TABLE journey_orders (id INTEGER PRIMARY KEY, goods INTEGER,"
-                   " FOREIGN KEY (goods) REFERENCES journey_goods(id))"_s,
-                   u"INSERT INTO journey_orders VALUES (1,3)"_s});
+    database->run(
+        {u"DROP TABLE IF EXISTS journey_orders"_s, u"DROP TABLE IF EXISTS journey_goods"_s,
+         create.arg(engine.quoted(price), QString::fromLatin1(engine.binary),
+                    engine.isMariaDb() ? u" CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin"_s : QString()),
+         insert.arg(engine.quoted(price)) + rows.arg(yes, no, engine.bytes("424D00FF")),
+         u"CREATE TABLE journey_orders (id INTEGER PRIMARY KEY, goods INTEGER,"
+         " FOREIGN KEY (goods) REFERENCES journey_goods(id))"_s,
+         u"INSERT INTO journey_orders VALUES (1,3)"_s});
 }
 
 bool EngineJourney::load()
@@ -56,6 +56,8 @@ QString EngineJourney::writtenPrice() const
 {
     if (!price.contains(u' '))
         return price;
+    if (engine.isMariaDb())
+        return u"`%1`"_s.arg(price);
     return (engine.dbType == KOVAVSFDataGrid::dbOracle ? u"\"%1\""_s : u"[%1]"_s).arg(price);
 }
 

@@ -33,6 +33,8 @@ struct JourneyEngine
     bool isWritable() const { return store != AccessFile; }
     // Whether SQLite runs the statements that fill the tables.
     bool isFilledBySqlite() const { return store != Server; }
+    // Whose names are read in back quotes in every mode.
+    bool isMariaDb() const { return QLatin1StringView(name).startsWith(QLatin1StringView("MariaDB")); }
     QString quoted(const QString &field) const;
     QString bytes(const char *hex) const;
 };

@@ -33,7 +33,12 @@ TEST_P(EngineJourney, SpellsTheFieldsOutForOracleWithPicturesLast)
     if (engine.dbType != KOVAVSFDataGrid::dbOracle)
         GTEST_SKIP() << "another database type";
     ASSERT_TRUE(hands->load(u"SELECT * FROM journey_goods p WHERE id > 0 ORDER BY id"_s, {}));
-    const QString fields = u"\"id\",\"名称\",\"%1\",\"qty\",\"城市\",\"日期\",\"停用\",\"图片\""_s.arg(price);
+    const QChar quote = engine.isMariaDb() ? u'`' : u'"';
+    const auto list = [quote](const QStringList &names) {
+        return QString(quote + names.join(quote + u","_s + quote) + quote);
+    };
+    const QString fields =
+        list({u"id"_s, u"名称"_s, price, u"qty"_s, u"城市"_s, u"日期"_s, u"停用"_s, u"图片"_s});
     EXPECT_EQ(hands->grid.RecordSource().simplified(),
               u"SELECT %1 FROM journey_goods p WHERE id > 0 ORDER BY id"_s.arg(fields));
     EXPECT_EQ(hands->rows(), 12);
@@ -43,7 +48,7 @@ TEST_P(EngineJourney, SpellsTheFieldsOutForOracleWithPicturesLast)
                        QLatin1StringView(engine.binary), QLatin1StringView(engine.longText))});
     ASSERT_TRUE(hands->load(u"SELECT * FROM journey_pictures"_s, {}));
     EXPECT_EQ(hands->grid.RecordSource().simplified(),
-              u"SELECT \"id\",\"note\",\"first_picture\" FROM journey_pictures"_s);
+              u"SELECT %1 FROM journey_pictures"_s.arg(list({u"id"_s, u"note"_s, u"first_picture"_s})));
 }
 
 TEST_P(EngineJourney, ShowsTheFieldsThatTheUserTicks)
