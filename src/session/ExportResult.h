@@ -10,8 +10,8 @@ class Session;
 // which he has been told.
 bool ExportResult(Session &session, const ExportAnswer &what);
 
-// What a host asks for by a file and `Keyword=value;…` (see IKOVAVSFDataGrid::ExportData). Throws ADODB::Error
-// when one of them can't be understood.
+// What a host asks for by a file and `Keyword=value;…` (see IKOVAVSFDataGrid::ExportData). Throws
+// ADODB::Error when one of them can't be understood.
 ExportAnswer ExportAnswerFrom(const QString &file, const QString &options);
 
 } // namespace KOVAVSFDataGridLib
