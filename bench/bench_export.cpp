@@ -19,14 +19,14 @@ using namespace KOVAVSFDataGridLib;
 
 namespace {
 
-constexpr int Runs = 5;
+constexpr int Runs = 3;
 
 // The best of several runs, in milliseconds.
 template<typename Work>
-double measure(Work work)
+double measure(Work work, int runs = Runs)
 {
     double best = 1e12;
-    for (int run = 0; run < Runs; ++run) {
+    for (int run = 0; run < runs; ++run) {
         QElapsedTimer timer;
         timer.start();
         work();
@@ -58,6 +58,7 @@ void writeAgain(const QString &file, const QByteArray &bytes)
 
 int main()
 {
+    std::setvbuf(stdout, nullptr, _IOLBF, 0);
     const QTemporaryDir folder;
     auto connection = std::make_shared<ADODB::Connection>();
 
@@ -78,7 +79,8 @@ int main()
         options.format = format;
         const QString file = folder.filePath(QStringLiteral("out") + FileEnding(format));
         const double milliseconds =
-            measure([&] { ExportToFile(file, options, recordset, all, columns, goOn); });
+            measure([&] { ExportToFile(file, options, recordset, all, columns, goOn); },
+                    format == ExportFormat::Xlsx ? 1 : Runs); // which takes its time
         QFile written(file);
         if (!written.open(QIODevice::ReadOnly))
             return 1;

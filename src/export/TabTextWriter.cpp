@@ -10,9 +10,8 @@ namespace {
 
 bool needsQuotes(QByteArrayView value)
 {
-    return value.startsWith('"') || std::any_of(value.begin(), value.end(), [](char c) {
-               return c == '\t' || c == '\r' || c == '\n';
-           });
+    return value.startsWith('"') || std::any_of(value.begin(), value.end(),
+                                                [](char c) { return c == '\t' || c == '\r' || c == '\n'; });
 }
 
 void quoteFrom(QByteArray &text, qsizetype start)

@@ -9,8 +9,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The office formats keep what they call a text as it is; each of the two has its own word for it.
-constexpr char Head[] = "<html><head><meta charset=\"utf-8\"><style>.t{mso-number-format:\"\\@\"}</style></head>"
-                        "<body><table>";
+constexpr char Head[] =
+    "<html><head><meta charset=\"utf-8\"><style>.t{mso-number-format:\"\\@\"}</style></head>"
+    "<body><table>";
 constexpr char TextCell[] = "<td class=\"t\" sdnum=\"1033;0;@\">";
 
 // One value of a text separated by tabs, which may be quoted, from `at` on. Moves `at` to what ends it.

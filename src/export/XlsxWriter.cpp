@@ -37,9 +37,8 @@ bool isDateType(ADODB::DataTypeEnum type)
 bool isShortDecimal(QByteArrayView text)
 {
     const auto digits = std::count_if(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-    const bool isPlain = std::all_of(text.begin(), text.end(), [](char c) {
-        return (c >= '0' && c <= '9') || c == '.' || c == '-';
-    });
+    const bool isPlain = std::all_of(text.begin(), text.end(),
+                                     [](char c) { return (c >= '0' && c <= '9') || c == '.' || c == '-'; });
     return isPlain && digits > 0 && digits <= ExactDigits;
 }
 
@@ -192,7 +191,9 @@ bool XlsxWriter::writeMoment(quint16 col, const ADODB::RawValue &cell, const Exp
     moment.min = time.minute();
     moment.sec = time.second() + time.msec() / 1000.0;
     check(worksheet_write_datetime(m_sheet, m_row, col, &moment,
-                                   isTime ? m_time : isDate ? m_date : m_moment));
+                                   isTime   ? m_time
+                                   : isDate ? m_date
+                                            : m_moment));
     return true;
 }
 

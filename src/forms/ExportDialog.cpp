@@ -174,8 +174,8 @@ void ExportDialog::browse()
         filters.append(captionOf(one) + u" (*"_s + FileEnding(one) + u')');
     QString filter = filters.at(m_format->currentIndex());
     const QPointer<ExportDialog> alive(this);
-    const QString chosen = QFileDialog::getSaveFileName(this, FormTexts::ExportTitle, file(),
-                                                        filters.join(";;"_L1), &filter);
+    const QString chosen =
+        QFileDialog::getSaveFileName(this, FormTexts::ExportTitle, file(), filters.join(";;"_L1), &filter);
     if (!alive || chosen.isEmpty())
         return;
     const std::optional<ExportFormat> byEnding = FormatOfFile(chosen);

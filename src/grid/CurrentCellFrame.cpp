@@ -11,8 +11,8 @@ constexpr int FrameWidth = 2; // pixels at 96 DPI
 
 bool isOneOfSeveral(const QItemSelection &selection, const QModelIndex &cell)
 {
-    return selection.contains(cell) && (selection.size() > 1 || selection.front().width() > 1 ||
-                                        selection.front().height() > 1);
+    return selection.contains(cell) &&
+           (selection.size() > 1 || selection.front().width() > 1 || selection.front().height() > 1);
 }
 
 } // namespace
@@ -30,7 +30,7 @@ void PaintCurrentCellFrame(const QTableView &view)
     pen.setJoinStyle(Qt::MiterJoin);
     painter.setPen(pen);
     // A pen's line is half outside of the rectangle that it draws.
-    painter.drawRect(cell.adjusted(FrameWidth, FrameWidth, -FrameWidth, -FrameWidth));
+    painter.drawRect(cell.adjusted(FrameWidth / 2, FrameWidth / 2, -FrameWidth / 2, -FrameWidth / 2));
 }
 
 } // namespace KOVAVSFDataGridLib

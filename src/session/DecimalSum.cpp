@@ -69,9 +69,12 @@ bool DecimalSum::addAsReal(const QByteArray &text)
 
 bool DecimalSum::addExactly(Wide value, int scale)
 {
-    Wide limit = 1;
-    for (int i = 0; i < MostDigits; ++i)
-        limit *= 10;
+    static constexpr Wide limit = [] {
+        Wide power = 1;
+        for (int i = 0; i < MostDigits; ++i)
+            power *= 10;
+        return power;
+    }();
     Wide sum = m_exact;
     for (int i = scale; i < m_scale; ++i) {
         if (value >= limit / 10 || value <= -limit / 10)

@@ -87,8 +87,8 @@ bool ExportResult(Session &session, const ExportAnswer &what)
     const std::shared_ptr<ADODB::Recordset> recordset = session.result().recordset();
     const RecordRange range =
         what.isMarkedOnly ? MarkedRecords(session) : RecordRange{1, recordset->RecordCount()};
-    const ExportColumns columns = ExportColumnsOf(
-        session, what.hasAllColumns ? allColumns(session) : session.window().shownColumns());
+    const ExportColumns columns =
+        ExportColumnsOf(session, what.hasAllColumns ? allColumns(session) : session.window().shownColumns());
     QString toTell;
     bool isWritten = false;
     try {

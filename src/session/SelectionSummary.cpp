@@ -35,11 +35,11 @@ SelectionSummary::SelectionSummary(const ADODB::Recordset &recordset, const Reco
     : m_range(range), m_reader(recordset, fieldsOf(columns)), m_next(range.first)
 {
     for (const ExportColumn &column : columns) {
-        const Kind kind = isDateType(column.type)                ? Kind::Date
-                          : column.type == ADODB::adBoolean      ? Kind::Other
-                          : ADODB::isNumericType(column.type)    ? Kind::Number
-                          : column.type == ADODB::adVariant      ? Kind::Number
-                                                                 : Kind::Other;
+        const Kind kind = isDateType(column.type)             ? Kind::Date
+                          : column.type == ADODB::adBoolean   ? Kind::Other
+                          : ADODB::isNumericType(column.type) ? Kind::Number
+                          : column.type == ADODB::adVariant   ? Kind::Number
+                                                              : Kind::Other;
         m_columns.push_back({column.field, column.type, kind});
     }
 }

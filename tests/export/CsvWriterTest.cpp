@@ -45,10 +45,11 @@ Rows rowsOf(const QString &text)
 
 TEST(CsvWriter, WritesWhatAnotherReaderReads)
 {
-    ExportRecords records(u"CREATE TABLE T (\"名,称\" TEXT, N INTEGER, R REAL, D DATE, B BOOLEAN, P BLOB);"
-                          "INSERT INTO T VALUES ('a,b', 1, 2.5, '2024-02-29', 1, x'00ff'),"
-                          "('say \"x\"', -7, 0.1, NULL, 0, NULL), ('l1' || char(13, 10) || 'l2', NULL, 1e300, "
-                          "'0001-01-01', NULL, x''), ('', 9007199254740993, -0.0, '2024-02-29', 1, NULL)"_s);
+    ExportRecords records(
+        u"CREATE TABLE T (\"名,称\" TEXT, N INTEGER, R REAL, D DATE, B BOOLEAN, P BLOB);"
+        "INSERT INTO T VALUES ('a,b', 1, 2.5, '2024-02-29', 1, x'00ff'),"
+        "('say \"x\"', -7, 0.1, NULL, 0, NULL), ('l1' || char(13, 10) || 'l2', NULL, 1e300, "
+        "'0001-01-01', NULL, x''), ('', 9007199254740993, -0.0, '2024-02-29', 1, NULL)"_s);
     records.open(u"SELECT * FROM T"_s);
     const QByteArray bytes = records.write(u"t.csv"_s);
     ASSERT_TRUE(bytes.startsWith("\xef\xbb\xbf"));

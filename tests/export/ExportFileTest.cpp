@@ -13,7 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr char Series[] = "WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 1000) SELECT I FROM N";
+constexpr char Series[] =
+    "WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 1000) SELECT I FROM N";
 
 void put(const QString &path, const QByteArray &content)
 {

@@ -11,10 +11,11 @@ using namespace Qt::StringLiterals;
 
 TEST(JsonLinesWriter, WritesObjectsThatAnotherReaderReads)
 {
-    ExportRecords records(u"CREATE TABLE T (名称 TEXT, N INTEGER, R REAL, D DATE, B BOOLEAN, P BLOB, M NUMERIC);"
-                          "INSERT INTO T VALUES ('a\"\\' || char(10, 9, 1) || '中', 9007199254740993, "
-                          "0.30000000000000004, '2024-02-29', 1, x'00ff', 12.5), (NULL,NULL,NULL,NULL,NULL,NULL,"
-                          "'no number'), ('1', 0, 1e999, 'x', 0, x'', 7)"_s);
+    ExportRecords records(
+        u"CREATE TABLE T (名称 TEXT, N INTEGER, R REAL, D DATE, B BOOLEAN, P BLOB, M NUMERIC);"
+        "INSERT INTO T VALUES ('a\"\\' || char(10, 9, 1) || '中', 9007199254740993, "
+        "0.30000000000000004, '2024-02-29', 1, x'00ff', 12.5), (NULL,NULL,NULL,NULL,NULL,NULL,"
+        "'no number'), ('1', 0, 1e999, 'x', 0, x'', 7)"_s);
     records.open(u"SELECT * FROM T"_s);
     const QList<QByteArray> lines = records.write(u"t.jsonl"_s).trimmed().split('\n');
     ASSERT_EQ(lines.size(), 3);

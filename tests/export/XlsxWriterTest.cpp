@@ -21,8 +21,9 @@ struct XlsxWriterTest : testing::Test
     QStringList read(const QString &file, bool sheetsOnly = false)
     {
         QProcess python;
-        python.start(QStringLiteral(KOVA_PYTHON), QStringList{QStringLiteral(KOVA_READ_XLSX), records.path(file)} +
-                                       (sheetsOnly ? QStringList{u"sheets"_s} : QStringList()));
+        python.start(QStringLiteral(KOVA_PYTHON),
+                     QStringList{QStringLiteral(KOVA_READ_XLSX), records.path(file)} +
+                         (sheetsOnly ? QStringList{u"sheets"_s} : QStringList()));
         const bool ran = python.waitForStarted() && python.waitForFinished(60000);
         const QByteArray faults = python.readAllStandardError();
         if (!ran || faults.contains("ModuleNotFoundError"))
@@ -46,8 +47,7 @@ TEST_F(XlsxWriterTest, IsReadWithItsTypesByAnotherProgram)
     const QStringList lines = read(u"t.xlsx"_s);
     if (lines.isEmpty())
         GTEST_SKIP() << "no reader of workbooks is installed";
-    EXPECT_EQ(lines.front().toStdString(),
-              "数据|rows 3|frozen A2|widths [11, 13, 14, 16, 17, 19, 20, 21]");
+    EXPECT_EQ(lines.front().toStdString(), "数据|rows 3|frozen A2|widths [11, 13, 14, 16, 17, 19, 20, 21]");
     for (const QString &cell :
          {u"A1|s|'名称'|General"_s, u"A2|s|'=1+1'|General"_s, u"A3|s|'<a>&\\n中'|General"_s,
           u"B2|n|5|General"_s, u"B3|s|'9007199254740993'|General"_s, u"C2|n|2.5|General"_s,
@@ -56,7 +56,8 @@ TEST_F(XlsxWriterTest, IsReadWithItsTypesByAnotherProgram)
           u"F2|d|datetime.datetime(2024, 2, 29, 10, 11, 12)|yyyy-mm-dd hh:mm:ss"_s,
           u"F3|d|datetime.datetime(9999, 12, 31, 0, 0)|yyyy-mm-dd hh:mm:ss"_s, u"G2|b|True|General"_s,
           u"G3|b|False|General"_s, u"H2|s|'<2 字节>'|General"_s})
-        EXPECT_TRUE(lines.contains(cell)) << qUtf8Printable(cell) << "\n" << qUtf8Printable(lines.join(u'\n'));
+        EXPECT_TRUE(lines.contains(cell)) << qUtf8Printable(cell) << "\n"
+                                          << qUtf8Printable(lines.join(u'\n'));
     EXPECT_EQ(lines.size(), 1 + 8 + 8 + 6) << "Nulls are empty cells";
 }
 
@@ -100,9 +101,9 @@ TEST_F(XlsxWriterTest, LeavesNothingOpenWhenItIsGivenUp)
         QFile file(records.path(u"t.xlsx"_s));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         XlsxWriter writer(file, true);
-        EXPECT_THROW(WriteRecords(*records.recordset, {1, 99}, records.columns(), writer,
-                                  [](qint64) { return true; }),
-                     ADODB::Error);
+        EXPECT_THROW(
+            WriteRecords(*records.recordset, {1, 99}, records.columns(), writer, [](qint64) { return true; }),
+            ADODB::Error);
     };
     giveUp();
     const auto before = open.entryList().size();

@@ -6,6 +6,7 @@
 #include "filter/frm_Filter.h"
 #include "forms/ConnectDialog.h"
 #include "forms/Dialog_SQLST.h"
+#include "forms/ExportDialog.h"
 #include "forms/FindDialog.h"
 #include "forms/frmSelShowFields.h"
 #include "forms/frmSelSortFields.h"
@@ -115,6 +116,14 @@ void takeFind(Photographer &photographer)
     photographer.take(find, u"FindDialog-typed"_s);
 }
 
+void takeExport(Photographer &photographer)
+{
+    ExportDialog exporting({u"订单"_s, 120000, 25, 6, 11});
+    part<QLineEdit>(exporting, u"txtFile"_s)
+        .setText(u"/home/user/文档/订单.csv"_s); // not the one of who runs this
+    photographer.take(exporting, u"ExportDialog"_s);
+}
+
 void takeTexts(Photographer &photographer)
 {
     ConnectDialog connection([](QWidget *, const QString &) { return std::optional<QString>(); });
@@ -222,6 +231,7 @@ int main(int argc, char **argv)
     Photographer photographer(QString::fromLocal8Bit(argv[1]));
     takeSelections(photographer);
     takeFind(photographer);
+    takeExport(photographer);
     takeTexts(photographer);
     takeBuilder(photographer);
     takePages(photographer);

@@ -173,7 +173,8 @@ std::unique_ptr<OpeningProgress> ControlWindow::beginOpening()
 
 std::unique_ptr<OpeningProgress> ControlWindow::beginWriting(const QString &done, qint64 total)
 {
-    return std::make_unique<LoadProgress>(m_control, [this] { return m_parts.foot(); }, done, total);
+    return std::make_unique<LoadProgress>(
+        m_control, [this] { return m_parts.foot(); }, done, total);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -55,8 +55,7 @@ bool SelectionWatch::prepare()
         return false;
     MarkedCells marked = m_session.window().markedCells();
     m_rows = marked.lastRow - marked.firstRow + 1;
-    const bool isWholeRows =
-        marked.columns.size() > 1 && marked.columns == m_session.window().shownColumns();
+    const bool isWholeRows = marked.columns.size() > 1 && marked.columns == m_session.window().shownColumns();
     if (m_rows < 1 || (m_rows == 1 && (isWholeRows || marked.columns.size() < 2)))
         return false;
     m_column.clear();

@@ -82,9 +82,9 @@ std::optional<FindAnswer> DialogQuestions::askWords(const colDataFields &fields)
 
 std::optional<ExportAnswer> DialogQuestions::askExport(const ExportRequest &request)
 {
-    ExportDialog dialog({request.name, request.records, request.markedRecords, request.shownColumns,
-                         request.allColumns},
-                        m_parent);
+    ExportDialog dialog(
+        {request.name, request.records, request.markedRecords, request.shownColumns, request.allColumns},
+        m_parent);
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return ExportAnswer{dialog.file(), dialog.options(), dialog.isMarkedOnly(), dialog.hasAllColumns()};

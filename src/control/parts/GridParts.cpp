@@ -96,8 +96,9 @@ int GridParts::gap() const
     return Twips::toPixels(FootGap, *picMainBack);
 }
 
-// The page box, its button, the label, the selection's summary and the statement from the left, the check box at the right edge. When
-// it gets narrow, the statement gives way, then the label, then box and button, and the check box last.
+// The page box, its button, the label, the selection's summary and the statement from the left, the check box
+// at the right edge. When it gets narrow, the statement gives way, then the label, then box and button, and
+// the check box last.
 void GridParts::layOutFoot() const
 {
     const QRect strip = foot();

@@ -17,8 +17,8 @@ class QProgressBar;
 
 namespace KOVAVSFDataGridLib {
 
-// Lives while a statement is opened or records are written, which happens on the GUI thread. At first it shows
-// the wait cursor. After half a second a line over the window's foot says how many records are done and
+// Lives while a statement is opened or records are written, which happens on the GUI thread. At first it
+// shows the wait cursor. After half a second a line over the window's foot says how many records are done and
 // offers to cancel, by its button or Esc.
 //
 // From then on the application's events are dispatched, so that windows are drawn and timers run, but
@@ -50,7 +50,7 @@ private:
     QWidget &m_window;
     const std::function<QRect()> m_place;
     const QString m_done;
-    const qint64 m_total; // 0 when nobody knows
+    const qint64 m_total;     // 0 when nobody knows
     QPointer<QWidget> m_line; // null during the first half second; a child of the window
     QLabel *m_count = nullptr;
     QProgressBar *m_bar = nullptr;

@@ -66,7 +66,8 @@ std::unique_ptr<OpeningProgress> ViewerWindow::beginOpening()
 
 std::unique_ptr<OpeningProgress> ViewerWindow::beginWriting(const QString &done, qint64 total)
 {
-    return std::make_unique<LoadProgress>(m_window, [this] { return m_parts.foot(); }, done, total);
+    return std::make_unique<LoadProgress>(
+        m_window, [this] { return m_parts.foot(); }, done, total);
 }
 
 void ViewerWindow::makeShownCellCurrent()

@@ -12,8 +12,8 @@
 #include <QtCore/QMimeData>
 #include <QtCore/QSet>
 
-// Puts the marked records on the clipboard as statements that insert them, or the values of the current column
-// as a list for IN.
+// Puts the marked records on the clipboard as statements that insert them, or the values of the current
+// column as a list for IN.
 
 namespace KOVAVSFDataGridLib {
 

@@ -27,9 +27,10 @@ QString question(Session &session)
         return SessionMessages::AskDelete;
     const ADODB::Recordset &recordset = *session.result().recordset();
     const int field = shown.front() - 1;
-    return SessionMessages::AskDelete + SessionMessages::RecordMeant.arg(
-               QString::number(window.Row()), recordset.Fields().Item(field).Name(),
-               recordset.CellText(session.recordOfRow(window.Row()), field));
+    return SessionMessages::AskDelete +
+           SessionMessages::RecordMeant.arg(QString::number(window.Row()),
+                                            recordset.Fields().Item(field).Name(),
+                                            recordset.CellText(session.recordOfRow(window.Row()), field));
 }
 
 // The answer is meant for the record that was current when the question came up, and for no other that the

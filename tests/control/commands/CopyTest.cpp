@@ -73,8 +73,8 @@ TEST_F(CopyTest, ARangeIsTextSeparatedByTabsInOneDataWithHtml)
     pressCopy(table);
     const QStringList names = texts(u"名称"_s);
     EXPECT_EQ(copied(), u"2\t%1\r\n3\t%2\r\n"_s.arg(names.at(1), names.at(2)));
-    EXPECT_TRUE(html().contains(u"<tr><td>2</td><td class=\"t\" sdnum=\"1033;0;@\">%1</td></tr>"_s.arg(
-        names.at(1).toHtmlEscaped())))
+    EXPECT_TRUE(html().contains(
+        u"<tr><td>2</td><td class=\"t\" sdnum=\"1033;0;@\">%1</td></tr>"_s.arg(names.at(1).toHtmlEscaped())))
         << qUtf8Printable(html());
     EXPECT_EQ(html().count(u"<tr>"_s), 2);
 
@@ -210,10 +210,11 @@ TEST_F(CopyTest, NothingIsCopiedWhereNothingIs)
 
 TEST_F(CopyTest, AMillionRowsCanBeCancelled)
 {
-    ASSERT_TRUE(load(u"WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 999999) "
-                     "SELECT I, I AS A1, I AS A2, I AS A3, I AS A4, I AS A5, I AS A6, I AS A7, I AS A8, I AS A9, "
-                     "I AS B1, I AS B2, I AS B3, I AS B4, I AS B5, I AS B6 FROM N"_s,
-                     {}));
+    ASSERT_TRUE(
+        load(u"WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 999999) "
+             "SELECT I, I AS A1, I AS A2, I AS A3, I AS A4, I AS A5, I AS A6, I AS A7, I AS A8, I AS A9, "
+             "I AS B1, I AS B2, I AS B3, I AS B4, I AS B5, I AS B6 FROM N"_s,
+             {}));
     table->setFocus();
     table->selectAll();
     QTimer cancelling;

@@ -144,9 +144,10 @@ TEST_F(ExportTest, TheHostExportsByName)
     EXPECT_TRUE(exportData(u"a.csv"_s));
     EXPECT_EQ(content(u"a.csv"_s), "\xef\xbb\xbfID\r\n1\r\n2\r\n3\r\n");
     clickCell(2, 1);
-    EXPECT_TRUE(exportData(u"a.csv"_s,
-                           u"records=MARKED;Columns=All;Headings=No;Encoding=UTF-8 without mark"_s));
-    EXPECT_EQ(content(u"a.csv"_s), u"2,%1,%2\r\n"_s.arg(texts(u"名称"_s).at(1), texts(u"停用"_s).at(1)).toUtf8());
+    EXPECT_TRUE(
+        exportData(u"a.csv"_s, u"records=MARKED;Columns=All;Headings=No;Encoding=UTF-8 without mark"_s));
+    EXPECT_EQ(content(u"a.csv"_s),
+              u"2,%1,%2\r\n"_s.arg(texts(u"名称"_s).at(1), texts(u"停用"_s).at(1)).toUtf8());
     EXPECT_TRUE(exportData(u"a.jsonl"_s));
     EXPECT_EQ(content(u"a.jsonl"_s), "{\"ID\":1}\n{\"ID\":2}\n{\"ID\":3}\n");
 }

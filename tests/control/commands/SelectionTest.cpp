@@ -124,7 +124,7 @@ TEST_F(SelectionTest, TheCurrentCellOfASelectionHasAFrame)
         const QColor frame = table->palette().color(QPalette::HighlightedText);
         int framed = 0;
         for (int x = cell.left() + 4; x < cell.right() - 4; ++x)
-            framed += picture.pixelColor(x, cell.top() + 2) == frame ? 1 : 0;
+            framed += picture.pixelColor(x, cell.top() + 1) == frame ? 1 : 0;
         return framed > cell.width() / 2;
     };
     EXPECT_TRUE(isFramed(3, 2));
