@@ -70,6 +70,8 @@ void Session::setFilterManager(std::shared_ptr<clsFilterManagement> manager)
 void Session::run(const QString &key)
 {
     const Command *const command = Command::find(key);
+    if (!command)
+        qWarning("No command has the key %s", qPrintable(key));
     perform([&] {
         if (command && isReady(*command))
             command->run(*this);

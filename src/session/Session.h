@@ -183,7 +183,7 @@ public:
     void refillAtRecord(qint64 record);
 
     // Looks into the open result, since other controls write the shared values as well.
-    bool hasRecords();
+    bool hasRecords() const;
     // Takes number of records and position into the shared values.
     void updateRecordPosition();
     void takeRecordCount();

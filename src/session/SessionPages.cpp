@@ -129,10 +129,9 @@ void Session::refillAtRecord(qint64 record)
     });
 }
 
-bool Session::hasRecords()
+bool Session::hasRecords() const
 {
-    updateRecordPosition();
-    return m_result.isOpen() && shared.recordCountSnapshot != 0;
+    return m_result.isOpen() && m_result.recordset()->RecordCount() != 0;
 }
 
 void Session::updateRecordPosition()

@@ -71,8 +71,12 @@ std::optional<ResultSet::Opened> Session::readForReload(const QString &statement
     columns().SaveColumnWidths(0);
     if (!m_rules.speaksToHost)
         return read(statement);
+    const ResultWatch watch(*this);
+    const auto manager = m_filter;
     const QString filterBefore = texts.sqlFilter;
     writeFilter(statement); // the host hears of it at once, because it may write another statement
+    if (!watch.isUntouched() || !isFilterManager(manager))
+        return std::nullopt; // it has put another result in this one's place, or closed it
     auto opened = read(texts.sqlFilter);
     if (!opened && !m_isDetached)
         writeFilter(filterBefore);
@@ -100,7 +104,7 @@ bool Session::reloadFiltered(const QString &statement, bool isRemembered)
 {
     const auto opened = readForReload(statement, isRemembered);
     if (!opened) {
-        if (!m_rules.reportsOpenErrors)
+        if (!m_rules.reportsOpenErrors && hasGround())
             m_questions->show(SessionMessages::ReadFailed);
         return false;
     }

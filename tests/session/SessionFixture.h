@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <utility>
 
 QT_BEGIN_NAMESPACE
 inline void PrintTo(const QString &text, std::ostream *out)
@@ -86,11 +87,16 @@ public:
 class PlainHost final : public KOVAVSFDataGridLib::HostEvents
 {
 public:
-    void filterWritten() override { heard.append(QStringLiteral("filter")); }
+    void filterWritten() override
+    {
+        heard.append(QStringLiteral("filter"));
+        std::exchange(onFilterWritten, [] {})();
+    }
     void askFilter(qint32 &cancel, const QString &) override { cancel = cancelFilter; }
     void fieldsChanged(const QString &statement) override { changedFields = statement; }
 
     QStringList heard;
+    std::function<void()> onFilterWritten = [] {}; // done once
     qint32 cancelFilter = 1;
     QString changedFields;
 };

@@ -1,6 +1,8 @@
 // A session from its load to its end, without any window.
 #include "SessionFixture.h"
 
+#include "ado/Error.h"
+
 using namespace KovaTest;
 using namespace KOVAVSFDataGridLib;
 using namespace Qt::StringLiterals;
@@ -146,4 +148,57 @@ TEST_F(Sessions, TheFieldsOfTheOpenResultAreNotReadAgain)
     const auto fields = session->reader().Read(database.connectionString(), u"select * from T"_s);
     ASSERT_TRUE(fields);
     EXPECT_EQ(fields->size(), 3u);
+}
+
+TEST_F(Sessions, AnotherLoadByTheHostThatHearsOfSqlFilterEndsTheCommand)
+{
+    for (const QString &key : {u"Filter"_s, u"ToOrigin"_s}) {
+        ASSERT_TRUE(load());
+        user.condition = u"ID = 1"_s;
+        host.onFilterWritten = [this] { load(u"select Name from T where ID = 2"_s); };
+        session->run(key);
+        EXPECT_EQ(window.rows, QStringList(u"Rice"_s)) << key.toStdString();
+        EXPECT_EQ(session->history().Count(), 1) << key.toStdString();
+    }
+    EXPECT_TRUE(user.messages.isEmpty());
+}
+
+TEST_F(Sessions, AResultThatTheHostClosesWhenItHearsOfSqlFilterStaysClosed)
+{
+    ASSERT_TRUE(load());
+    user.condition = u"ID = 1"_s;
+    host.onFilterWritten = [this] { session->clear(); };
+    session->run(u"Filter"_s);
+    EXPECT_FALSE(session->result().isOpen());
+    EXPECT_TRUE(user.messages.isEmpty());
+}
+
+TEST_F(Sessions, ALentResultThatIsTakenAwayEndsTheCommandSilently)
+{
+    ASSERT_TRUE(load());
+    std::shared_ptr<Session> viewer;
+    viewer =
+        std::make_shared<Session>(window, user, host, ViewerRules, nullptr,
+                                  [&](const QString &, const ResultSet::Progress &) -> ResultSet::Opened {
+                                      viewer->setFilterManager(nullptr);
+                                      throw ADODB::Error(ADODB::dbErrCancelled, {});
+                                  });
+    viewer->setFilterManager(session->sharedFilterManager());
+    viewer->borrow(
+        {database.connectionString(), session->result().connection(), session->result().recordset()},
+        session->statement(), 1);
+    window.currentColumn = 1;
+    viewer->run(u"CellFilter"_s);
+    EXPECT_TRUE(user.messages.isEmpty());
+    viewer->detach();
+}
+
+TEST_F(Sessions, AskingForRecordsLeavesTheSharedValuesAlone)
+{
+    ASSERT_TRUE(load());
+    session->shared.recordCountSnapshot = -1;
+    session->shared.recordPosition = -1;
+    EXPECT_TRUE(session->hasRecords());
+    EXPECT_EQ(session->shared.recordCountSnapshot, -1);
+    EXPECT_EQ(session->shared.recordPosition, -1);
 }

@@ -187,6 +187,7 @@ bool frm_FullScreen::eventFilter(QObject *watched, QEvent *event)
 
 void frm_FullScreen::popUp(const QPoint &globalPosition, bool isOnCell)
 {
+    m_session->updateRecordPosition();
     if (!m_session->hasRecords())
         return;
     m_menu->EnablePopupItems(*m_parts.Toolbar1, isOnCell && !m_parts.vsfgShowData->Text().isEmpty());

@@ -39,8 +39,6 @@ std::optional<QString> askHost(Session &session, const FilterManagerRollback &gr
 
 void filterByDialog(Session &session)
 {
-    if (!session.hasRecords())
-        return;
     FilterManagerRollback rollback(session);
     const bool asksHost = session.rules().speaksToHost;
     const std::optional<QString> condition = asksHost ? askHost(session, rollback) : askUser(session);
@@ -60,6 +58,7 @@ const Command::Registration registration({
     .button = {{300, u"筛选"_s, u"按条件筛选记录"_s}},
     .menu = {11, u"筛选(&F)"_s, true},
     .isInViewer = true,
+    .needs = Needs::Records,
     .run = filterByDialog,
     .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Condition); },
 });
