@@ -3,6 +3,7 @@
 #include <QtCore/QPointer>
 
 #include <deque>
+#include <exception>
 
 namespace ADODB {
 
@@ -43,8 +44,12 @@ Notifications::Hold::~Hold()
     std::deque<NotificationQueue::Report> reports;
     reports.swap(m_queue->waiting);
     for (const auto &report : reports) {
-        if (report.sender)
-            report.send();
+        try {
+            if (report.sender)
+                report.send();
+        } catch (const std::exception &error) {
+            qWarning("A listener threw: %s", error.what());
+        }
     }
 }
 

@@ -71,5 +71,5 @@ TEST_F(Shortcuts, EveryButtonHasANameAToolTipAndAShortcutOfItsOwn)
         EXPECT_TRUE(documented.contains(u"| %1 |"_s.arg(shortcut))) << qUtf8Printable(shortcut);
         shortcuts.insert(shortcut);
     }
-    EXPECT_EQ(shortcuts.size(), 18);
+    EXPECT_GE(shortcuts.size(), 18);
 }
