@@ -57,9 +57,8 @@ TEST_P(ServerFaults, StoppedBeforeALoadForOracle)
     expectAsLoaded();
     startServer();
     EXPECT_TRUE(hands->grid.IsLoadData());
-    EXPECT_EQ(hands->grid.RecordSource().simplified(),
-              u"SELECT %1id%1,%1name%1 FROM faults"_s.arg(
-                  QLatin1StringView(engine.name) == "MariaDB"_L1 ? u'`' : u'"'));
+    const QString quote = QLatin1StringView(engine.name) == "MariaDB"_L1 ? u"`"_s : u"\""_s;
+    EXPECT_EQ(hands->grid.RecordSource().simplified(), u"SELECT %1id%1,%1name%1 FROM faults"_s.arg(quote));
 }
 
 TEST_P(ServerFaults, ResetBeforeALoadForOracle)

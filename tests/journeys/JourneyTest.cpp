@@ -34,8 +34,8 @@ TEST_P(EngineJourney, SpellsTheFieldsOutForOracleWithPicturesLast)
         GTEST_SKIP() << "another database type";
     ASSERT_TRUE(hands->load(u"SELECT * FROM journey_goods p WHERE id > 0 ORDER BY id"_s, {}));
     const QChar quote = engine.isMariaDb() ? u'`' : u'"';
-    const auto list = [quote](const QStringList &names) {
-        return QString(quote + names.join(quote + u","_s + quote) + quote);
+    const auto list = [quote](const QStringList &names) -> QString {
+        return quote + names.join(quote + u","_s + quote) + quote;
     };
     const QString fields =
         list({u"id"_s, u"名称"_s, price, u"qty"_s, u"城市"_s, u"日期"_s, u"停用"_s, u"图片"_s});
