@@ -19,11 +19,11 @@ using namespace KOVAVSFDataGridLib;
 
 namespace {
 
-constexpr int Runs = 3;
+constexpr int runs = 3;
 
 // The best of several runs, in milliseconds.
 template<typename Work>
-double measure(Work work, int runs = Runs)
+double measure(Work work, int runs = runs)
 {
     double best = 1e12;
     for (int run = 0; run < runs; ++run) {
@@ -72,29 +72,29 @@ int main()
                    connection);
     const ExportColumns columns = columnsOf(recordset);
     const RecordRange all{1, recordset.RecordCount()};
-    const auto goOn = [](qint64) { return true; };
+    const auto shouldContinue = [](qint64) { return true; };
 
-    for (const ExportFormat format : AvailableFormats()) {
+    for (const ExportFormat format : availableFormats()) {
         ExportOptions options;
         options.format = format;
-        const QString file = folder.filePath(QStringLiteral("out") + FileEnding(format));
+        const QString file = folder.filePath(QStringLiteral("out") + fileEnding(format));
         const double milliseconds =
-            measure([&] { ExportToFile(file, options, recordset, all, columns, goOn); },
-                    format == ExportFormat::Xlsx ? 1 : Runs); // which takes its time
+            measure([&] { exportToFile(file, options, recordset, all, columns, shouldContinue); },
+                    format == ExportFormat::Xlsx ? 1 : runs); // which takes its time
         QFile written(file);
         if (!written.open(QIODevice::ReadOnly))
             return 1;
         const QByteArray bytes = written.readAll();
         const double again = measure([&] { writeAgain(folder.filePath(QStringLiteral("again")), bytes); });
         std::printf("%-7s %6.1f MB %9.1f ms, the bytes alone %8.1f ms, ratio %5.2f\n",
-                    qPrintable(FileEnding(format)), static_cast<double>(bytes.size()) / 1e6, milliseconds,
+                    qPrintable(fileEnding(format)), static_cast<double>(bytes.size()) / 1e6, milliseconds,
                     again, milliseconds / again);
         written.remove();
     }
     for (const qint64 records : {qint64{100000}, qint64{1000000}}) {
         std::printf("copy %lld x 12 as text: %.1f ms\n", static_cast<long long>(records), measure([&] {
                         TabTextWriter writer(true);
-                        WriteRecords(recordset, {1, records}, columns, writer, goOn);
+                        writeRecords(recordset, {1, records}, columns, writer, shouldContinue);
                     }));
     }
     for (const std::size_t column : {std::size_t{1}, std::size_t{2}, std::size_t{4}}) {
@@ -102,7 +102,7 @@ int main()
                     measure([&] {
                         SelectionSummary summary(recordset, all, {columns[column]});
                         while (!summary.isDone())
-                            summary.goOn();
+                            summary.addNextCells();
                     }));
     }
     return 0;

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int PageRows = 999999;
+constexpr int pageRows = 999999;
 
 // The best of several runs of `work`, in milliseconds; `prepare` runs before each and isn't counted.
 double measure(const std::function<void()> &prepare, const std::function<void()> &work)
@@ -77,7 +77,7 @@ std::unique_ptr<VSFlexGrid> shownGrid()
 void fillPage(VSFlexGrid &grid, const std::shared_ptr<ADODB::Recordset> &recordset)
 {
     grid.PutRedraw(false);
-    grid.Show(std::make_unique<RecordWindow>(recordset, 1, PageRows));
+    grid.Show(std::make_unique<RecordWindow>(recordset, 1, pageRows));
     grid.PutRow(1);
     grid.PutRedraw(true);
 }
@@ -106,8 +106,8 @@ void measurePage(const std::shared_ptr<ADODB::Recordset> &recordset)
            }));
     report("Going to the last row and painting it", measure([&] { grid->PutTopRow(1); },
                                                             [&] {
-                                                                grid->PutRow(PageRows);
-                                                                grid->PutTopRow(PageRows);
+                                                                grid->PutRow(pageRows);
+                                                                grid->PutTopRow(pageRows);
                                                                 paint(*grid);
                                                             }));
 }
@@ -141,7 +141,7 @@ int main(int argc, char **argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication app(argc, argv);
-    measurePage(numbers(PageRows));
+    measurePage(numbers(pageRows));
     for (const int count : {250, 500, 1000, 2000})
         measureColumns(count);
 }

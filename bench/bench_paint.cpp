@@ -31,8 +31,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int RowCount = 5000;
-constexpr int Frames = 41;
+constexpr int rowCount = 5000;
+constexpr int frames = 41;
 
 struct Shape
 {
@@ -42,7 +42,7 @@ struct Shape
 };
 
 const std::vector<Shape> shapes{
-    {12, 2100, {1850, 983}}, {29, 930, {1850, 983}}, {200, FlexGrid::DefaultColWidth, {1920, 1080}}};
+    {12, 2100, {1850, 983}}, {29, 930, {1850, 983}}, {200, FlexGrid::defaultColWidth, {1920, 1080}}};
 
 [[noreturn]] void stop(const QString &why)
 {
@@ -71,7 +71,7 @@ QString table(int columns)
            "WITH RECURSIVE N(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM N WHERE i < %3) "
            "INSERT INTO T%1 SELECT %4 FROM N"_s.arg(columns)
                .arg(names.join(u", "_s))
-               .arg(RowCount)
+               .arg(rowCount)
                .arg(fields.join(u", "_s));
 }
 
@@ -100,7 +100,7 @@ struct Frame
 Frame measure(const std::function<void()> &frame)
 {
     std::vector<double> all;
-    for (int i = 0; i < Frames; ++i) {
+    for (int i = 0; i < frames; ++i) {
         const std::clock_t start = std::clock();
         frame();
         all.push_back(static_cast<double>(std::clock() - start) * 1000 / CLOCKS_PER_SEC);
@@ -208,7 +208,7 @@ Costs measurePeer(const Shape &shape, QSqlDatabase &database, const QTableView &
     model.setQuery(u"SELECT * FROM T%1"_s.arg(shape.columns), database);
     while (model.canFetchMore())
         model.fetchMore();
-    if (model.rowCount() != RowCount)
+    if (model.rowCount() != rowCount)
         stop(u"the query model did not read the table"_s);
     QTableView peer;
     peer.resize(shape.size);
@@ -225,7 +225,7 @@ void measureShape(const Shape &shape, QSqlDatabase &database, const Options &opt
     const QString statement = u"SELECT * FROM T%1"_s.arg(shape.columns);
     VSFlexGrid grid;
     grid.resize(shape.size);
-    grid.Show(std::make_unique<RecordWindow>(openRecordset(database.databaseName(), statement), 1, RowCount));
+    grid.Show(std::make_unique<RecordWindow>(openRecordset(database.databaseName(), statement), 1, rowCount));
     for (int column = 1; column <= shape.columns; ++column)
         grid.PutColWidth(column, shape.columnTwips);
     grid.PutRow(2);

@@ -23,9 +23,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Version = 4; // raise it when the tables change, so that old files are made anew
-constexpr int CustomerCount = 240;
-constexpr int OrderCount = 120000;
+constexpr int version = 4; // raise it when the tables change, so that old files are made anew
+constexpr int customerCount = 240;
+constexpr int orderCount = 120000;
 
 QByteArray schema()
 {
@@ -189,7 +189,7 @@ std::vector<QString> fillCustomers(Database &database, Dice &dice)
 {
     std::vector<QString> names;
     Insert insert(database, "INSERT INTO 客户 VALUES (?,?,?,?,?,?,?)");
-    for (int i = 0; i < CustomerCount; ++i) {
+    for (int i = 0; i < customerCount; ++i) {
         const auto at = [i](const auto &items, int step) {
             return items[static_cast<std::size_t>(i / step) % items.size()];
         };
@@ -221,12 +221,12 @@ void fillOrders(Database &database, Dice &dice, const std::vector<QString> &cust
 {
     Insert insert(database, "INSERT INTO 订单 VALUES (?,?,?,?,?,?,?,?,?,?,?)");
     const QDate first(2021, 1, 4);
-    for (int i = 0; i < OrderCount; ++i) {
-        const int customer = dice.below(CustomerCount);
+    for (int i = 0; i < orderCount; ++i) {
+        const int customer = dice.below(customerCount);
         const int number = dice.below(static_cast<int>(Products.size()));
         const Product &product = Products[static_cast<std::size_t>(number)];
         const int quantity = 1 + dice.below(60);
-        const QDate day = first.addDays(static_cast<qint64>(i) * 1800 / OrderCount);
+        const QDate day = first.addDays(static_cast<qint64>(i) * 1800 / orderCount);
         const bool isShipped = dice.below(12) != 0;
         const QString shipped = isShipped
                                     ? day.addDays(1 + dice.below(5)).toString(Qt::ISODate) +
@@ -248,7 +248,7 @@ bool isCurrent(const QString &fileName)
     sqlite3_stmt *statement = nullptr;
     sqlite3_prepare_v2(database.handle(), "PRAGMA user_version", -1, &statement, nullptr);
     const bool isCurrent =
-        sqlite3_step(statement) == SQLITE_ROW && sqlite3_column_int(statement, 0) == Version;
+        sqlite3_step(statement) == SQLITE_ROW && sqlite3_column_int(statement, 0) == version;
     sqlite3_finalize(statement);
     return isCurrent;
 }
@@ -262,7 +262,7 @@ void create(const QString &fileName)
     const std::vector<QString> customers = fillCustomers(database, dice);
     fillProducts(database, dice);
     fillOrders(database, dice, customers);
-    database.run("PRAGMA user_version = " + QByteArray::number(Version));
+    database.run("PRAGMA user_version = " + QByteArray::number(version));
     database.run("COMMIT");
 }
 

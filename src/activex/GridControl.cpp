@@ -44,7 +44,7 @@ STDMETHODIMP GridControl::QueryInterface(REFIID iid, void **object)
     }
 
     IUnknown *part = nullptr;
-    if (iid == IID_IDispatch || iid == InterfaceId)
+    if (iid == IID_IDispatch || iid == interfaceId)
         part = &m_dispatch;
     else if (iid == IID_IOleObject)
         part = &m_oleObject;

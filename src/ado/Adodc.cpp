@@ -46,7 +46,7 @@ void Adodc::send(void (Adodc::*signal)(EventReasonEnum), EventReasonEnum reason)
 {
     if (signalsBlocked())
         return;
-    m_notifications.send(this, [this, signal, reason] { Q_EMIT (this->*signal)(reason); });
+    m_notifications.send(this, [this, signal, reason] { Q_EMIT(this->*signal)(reason); });
 }
 
 void Adodc::moveComplete(EventReasonEnum reason)

@@ -4,10 +4,10 @@
 
 namespace KOVAVSFDataGridLib {
 
-Engine EngineOf(const std::shared_ptr<ADODB::Connection> &connection)
+Engine engineOf(const std::shared_ptr<ADODB::Connection> &connection)
 {
     const bool isOpen = connection && connection->State() == ADODB::adStateOpen;
-    return isOpen ? EngineNamed(connection->EngineName()) : Engine::Other;
+    return isOpen ? engineNamed(connection->EngineName()) : Engine::Other;
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -11,6 +11,6 @@ class Connection;
 namespace KOVAVSFDataGridLib {
 
 // What an open connection leads to; Other when it is null or closed.
-Engine EngineOf(const std::shared_ptr<ADODB::Connection> &connection);
+Engine engineOf(const std::shared_ptr<ADODB::Connection> &connection);
 
 } // namespace KOVAVSFDataGridLib

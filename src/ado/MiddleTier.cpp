@@ -38,7 +38,7 @@ bool namesAny(const ConnectionString &text, const QStringList &words)
     return std::ranges::any_of(words, [&](const QString &word) { return text.contains(word); });
 }
 
-void takeOver(ConnectionString &text, const ConnectionString &from, const QStringList &words)
+void copyWords(ConnectionString &text, const ConnectionString &from, const QStringList &words)
 {
     if (namesAny(text, words))
         return;
@@ -88,8 +88,8 @@ ConnectionString MiddleTier::rewritten(const ConnectionString &database) const
     if (connection.trimmed().isEmpty())
         return throughServer(database, server, port);
     ConnectionString text(connection);
-    takeOver(text, database, userWords());
-    takeOver(text, database, passwordWords());
+    copyWords(text, database, userWords());
+    copyWords(text, database, passwordWords());
     return text;
 }
 

@@ -20,8 +20,8 @@ public:
     ~Notifications();
     Q_DISABLE_COPY_MOVE(Notifications)
 
-    // Sends a report, now or at the end of the outermost Hold. One that waits is dropped when `sender` is gone
-    // by then.
+    // Sends a report, now or at the end of the outermost Hold. One that waits is dropped when `sender` is
+    // gone by then.
     void send(QObject *sender, std::function<void()> report);
 
     class Hold

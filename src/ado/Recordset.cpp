@@ -120,8 +120,8 @@ void Recordset::Open(const QString &source, const std::shared_ptr<Connection> &c
     }
     d->source = source;
     d->position.reset(d->snapshot->records());
-    d->tellReplaced(adRsnRequery);
-    d->tellMoved(adRsnMove);
+    d->notifyReplaced(adRsnRequery);
+    d->notifyMoved(adRsnMove);
 }
 
 void Recordset::Close()
@@ -132,7 +132,7 @@ void Recordset::Close()
     d->underlying.reset();
     d->snapshot.reset();
     d->position.reset(0);
-    d->tellReplaced(adRsnClose);
+    d->notifyReplaced(adRsnClose);
 }
 
 ObjectStateEnum Recordset::State() const

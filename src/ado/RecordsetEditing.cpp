@@ -47,8 +47,8 @@ void Recordset::AddNew()
         saveBeforeAddNew();
     Update();
     d->edit().beginNew();
-    d->tellChanged(adRsnAddNew);
-    d->tellMoved(adRsnMove);
+    d->notifyChanged(adRsnAddNew);
+    d->notifyMoved(adRsnMove);
 }
 
 void Recordset::Update()
@@ -65,7 +65,7 @@ void Recordset::Update()
         return;
     }
     d->underlying.reset();
-    d->tellChanged(adRsnUpdate);
+    d->notifyChanged(adRsnUpdate);
 }
 
 void Recordset::CancelUpdate()
@@ -73,12 +73,12 @@ void Recordset::CancelUpdate()
     switch (d->edit().mode()) {
     case adEditAdd:
         d->edit().cancel();
-        d->tellChanged(adRsnUndoAddNew);
-        d->tellMoved(adRsnMove);
+        d->notifyChanged(adRsnUndoAddNew);
+        d->notifyMoved(adRsnMove);
         break;
     case adEditInProgress:
         d->edit().cancel();
-        d->tellChanged(adRsnUndoUpdate);
+        d->notifyChanged(adRsnUndoUpdate);
         break;
     default:
         break;
@@ -94,7 +94,7 @@ void Recordset::Delete(AffectEnum affect)
     withinMemory([&] { d->edit().remove(d->rows(), d->currentRecord()); });
     d->position.removeCurrent();
     d->underlying.reset();
-    d->tellChanged(adRsnDelete);
+    d->notifyChanged(adRsnDelete);
 }
 
 void Recordset::Resync(AffectEnum affect, ResyncEnum what)
@@ -115,7 +115,7 @@ void Recordset::Resync(AffectEnum affect, ResyncEnum what)
     d->edit().cancel();
     d->rows().replace(record, now);
     d->underlying.reset();
-    d->tellChanged(adRsnResynch);
+    d->notifyChanged(adRsnResynch);
 }
 
 QVariant Recordset::originalValue(int column) const
@@ -145,7 +145,7 @@ void Recordset::putCurrentValue(int column, const QVariant &value)
     const bool first = d->edit().isEmpty();
     withinMemory([&] { d->edit().set(column, value, d->rows()); });
     if (first)
-        d->tellChanged(adRsnFirstChange);
+        d->notifyChanged(adRsnFirstChange);
 }
 
 } // namespace ADODB

@@ -34,14 +34,14 @@ void Recordset::leaveRecord()
 void Recordset::moveTo(qint64 record, EventReasonEnum reason)
 {
     d->position.moveTo(record);
-    d->tellMoved(reason);
+    d->notifyMoved(reason);
 }
 
 void Recordset::moveBy(qint64 records, BookmarkEnum start, EventReasonEnum reason)
 {
     leaveRecord();
     d->position.move(records, start);
-    d->tellMoved(reason);
+    d->notifyMoved(reason);
 }
 
 void Recordset::Move(qint64 records, BookmarkEnum start)

@@ -75,7 +75,7 @@ struct Recordset::Private
     void needInRange(qint64 number, qint64 limit, const QString &text) const;
 
     // An observer may remove itself or others when it is told.
-    void tell(void (RecordsetObserver::*what)(EventReasonEnum), EventReasonEnum reason)
+    void notify(void (RecordsetObserver::*what)(EventReasonEnum), EventReasonEnum reason)
     {
         const auto told = observers;
         for (RecordsetObserver *observer : told) {
@@ -83,9 +83,12 @@ struct Recordset::Private
                 (observer->*what)(reason);
         }
     }
-    void tellMoved(EventReasonEnum reason) { tell(&RecordsetObserver::moveComplete, reason); }
-    void tellChanged(EventReasonEnum reason) { tell(&RecordsetObserver::recordChangeComplete, reason); }
-    void tellReplaced(EventReasonEnum reason) { tell(&RecordsetObserver::recordsetChangeComplete, reason); }
+    void notifyMoved(EventReasonEnum reason) { notify(&RecordsetObserver::moveComplete, reason); }
+    void notifyChanged(EventReasonEnum reason) { notify(&RecordsetObserver::recordChangeComplete, reason); }
+    void notifyReplaced(EventReasonEnum reason)
+    {
+        notify(&RecordsetObserver::recordsetChangeComplete, reason);
+    }
 };
 
 } // namespace ADODB

@@ -63,7 +63,7 @@ void CsvWriter::finishValue(qsizetype start, bool isText)
 {
     QByteArray &text = m_sink.text();
     QByteArrayView value = QByteArrayView(text).sliced(start);
-    const bool isGuarded = isText && m_options.guardsFormulas && LooksLikeFormula(value);
+    const bool isGuarded = isText && m_options.guardsFormulas && looksLikeFormula(value);
     if (!isGuarded && !needsQuotes(value))
         return;
     QByteArray quoted = value.toByteArray().replace('"', "\"\"");

@@ -7,7 +7,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr char Gb18030Name[] = "GB18030";
+constexpr char gb18030Name[] = "GB18030";
 
 } // namespace
 
@@ -15,16 +15,16 @@ Encoder::Encoder(TextEncoding encoding) : m_encoding(encoding)
 {
     if (encoding != TextEncoding::Gb18030)
         return;
-    m_converter.emplace(Gb18030Name);
+    m_converter.emplace(gb18030Name);
     if (!m_converter->isValid()) {
         throw ADODB::Error(ADODB::adErrFeatureNotAvailable,
-                           ExportTexts::NoEncoding.arg(QLatin1StringView(Gb18030Name)));
+                           ExportTexts::NoEncoding.arg(QLatin1StringView(gb18030Name)));
     }
 }
 
 bool Encoder::isAvailable(TextEncoding encoding)
 {
-    return encoding != TextEncoding::Gb18030 || QStringEncoder(Gb18030Name).isValid();
+    return encoding != TextEncoding::Gb18030 || QStringEncoder(gb18030Name).isValid();
 }
 
 QByteArrayView Encoder::mark() const
@@ -39,7 +39,7 @@ QByteArrayView Encoder::encode(QByteArrayView utf8)
     m_encoded = m_converter->encode(QString::fromUtf8(utf8));
     if (m_converter->hasError()) {
         throw ADODB::Error(ADODB::adErrWriteFile,
-                           ExportTexts::CantEncode.arg(QLatin1StringView(Gb18030Name)));
+                           ExportTexts::CantEncode.arg(QLatin1StringView(gb18030Name)));
     }
     return m_encoded;
 }

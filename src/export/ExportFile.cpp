@@ -8,9 +8,9 @@
 
 namespace KOVAVSFDataGridLib {
 
-ExportOutcome ExportToFile(const QString &file, const ExportOptions &options,
+ExportOutcome exportToFile(const QString &file, const ExportOptions &options,
                            const ADODB::Recordset &recordset, const RecordRange &range,
-                           const ExportColumns &columns, const std::function<bool(qint64)> &goOn)
+                           const ExportColumns &columns, const std::function<bool(qint64)> &shouldContinue)
 {
     QSaveFile target(file);
     const auto cantWrite = [&](const QString &why) {
@@ -21,9 +21,9 @@ ExportOutcome ExportToFile(const QString &file, const ExportOptions &options,
         throw cantWrite(target.errorString());
     ExportOutcome outcome;
     try {
-        const std::unique_ptr<RecordWriter> writer = NewWriter(target, options);
-        outcome.isWritten = WriteRecords(recordset, range, columns, *writer, goOn);
-        outcome.losses = LossesOf(*writer);
+        const std::unique_ptr<RecordWriter> writer = newWriter(target, options);
+        outcome.isWritten = writeRecords(recordset, range, columns, *writer, shouldContinue);
+        outcome.losses = lossesOf(*writer);
     } catch (const ADODB::Error &error) {
         throw cantWrite(error.Description());
     }

@@ -14,7 +14,7 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-QList<ExportFormat> AvailableFormats()
+QList<ExportFormat> availableFormats()
 {
     QList<ExportFormat> formats{ExportFormat::Csv, ExportFormat::JsonLines, ExportFormat::Html};
 #ifdef KOVA_WITH_XLSX
@@ -23,7 +23,7 @@ QList<ExportFormat> AvailableFormats()
     return formats;
 }
 
-QString FileEnding(ExportFormat format)
+QString fileEnding(ExportFormat format)
 {
     switch (format) {
     case ExportFormat::Csv:
@@ -38,10 +38,10 @@ QString FileEnding(ExportFormat format)
     Q_UNREACHABLE();
 }
 
-std::optional<ExportFormat> FormatOfFile(const QString &file)
+std::optional<ExportFormat> formatOfFile(const QString &file)
 {
-    for (const ExportFormat format : AvailableFormats()) {
-        if (file.endsWith(FileEnding(format), Qt::CaseInsensitive))
+    for (const ExportFormat format : availableFormats()) {
+        if (file.endsWith(fileEnding(format), Qt::CaseInsensitive))
             return format;
     }
     if (file.endsWith(".htm"_L1, Qt::CaseInsensitive))
@@ -49,15 +49,15 @@ std::optional<ExportFormat> FormatOfFile(const QString &file)
     return {};
 }
 
-QString UnknownFormatText(const QString &file)
+QString unknownFormatText(const QString &file)
 {
     QStringList endings;
-    for (const ExportFormat format : AvailableFormats())
-        endings.append(FileEnding(format));
+    for (const ExportFormat format : availableFormats())
+        endings.append(fileEnding(format));
     return ExportTexts::UnknownFormat.arg(QFileInfo(file).fileName(), endings.join(u'、'));
 }
 
-std::unique_ptr<RecordWriter> NewWriter(QIODevice &device, const ExportOptions &options)
+std::unique_ptr<RecordWriter> newWriter(QIODevice &device, const ExportOptions &options)
 {
     switch (options.format) {
     case ExportFormat::Csv:
@@ -77,7 +77,7 @@ std::unique_ptr<RecordWriter> NewWriter(QIODevice &device, const ExportOptions &
     Q_UNREACHABLE();
 }
 
-QString LossesOf(const RecordWriter &writer)
+QString lossesOf(const RecordWriter &writer)
 {
 #ifdef KOVA_WITH_XLSX
     const auto *const book = dynamic_cast<const XlsxWriter *>(&writer);

@@ -24,17 +24,17 @@ struct ExportOptions
 };
 
 // Those that this build can write.
-QList<ExportFormat> AvailableFormats();
+QList<ExportFormat> availableFormats();
 // The ending of its files, with the point.
-QString FileEnding(ExportFormat format);
+QString fileEnding(ExportFormat format);
 // By the file's ending, in any letter case; nothing when it is none of these.
-std::optional<ExportFormat> FormatOfFile(const QString &file);
+std::optional<ExportFormat> formatOfFile(const QString &file);
 // What to tell a user whose file has no such ending.
-QString UnknownFormatText(const QString &file);
+QString unknownFormatText(const QString &file);
 
 // `device` is open for writing and must outlive the answer. Throws ADODB::Error when the encoding is missing.
-std::unique_ptr<RecordWriter> NewWriter(QIODevice &device, const ExportOptions &options);
+std::unique_ptr<RecordWriter> newWriter(QIODevice &device, const ExportOptions &options);
 // What could not be written as it is, to be told to the user; empty when there is nothing.
-QString LossesOf(const RecordWriter &writer);
+QString lossesOf(const RecordWriter &writer);
 
 } // namespace KOVAVSFDataGridLib

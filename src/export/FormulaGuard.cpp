@@ -20,7 +20,7 @@ bool isPlainNumber(QByteArrayView text)
 
 } // namespace
 
-bool LooksLikeFormula(QByteArrayView utf8)
+bool looksLikeFormula(QByteArrayView utf8)
 {
     if (utf8.isEmpty())
         return false;

@@ -2,7 +2,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-void AppendHtml(QByteArray &html, QByteArrayView utf8)
+void appendHtml(QByteArray &html, QByteArrayView utf8)
 {
     for (qsizetype i = 0; i < utf8.size(); ++i) {
         switch (const char c = utf8[i]) {

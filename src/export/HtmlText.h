@@ -5,6 +5,6 @@
 namespace KOVAVSFDataGridLib {
 
 // Appends a text as it is written in HTML: markup escaped, line ends as <br>.
-void AppendHtml(QByteArray &html, QByteArrayView utf8);
+void appendHtml(QByteArray &html, QByteArrayView utf8);
 
 } // namespace KOVAVSFDataGridLib

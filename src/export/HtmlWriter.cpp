@@ -8,7 +8,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr char Head[] =
+constexpr char head[] =
     "<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<style>\n"
     "table { border-collapse: collapse; font-family: sans-serif; font-size: 10pt; }\n"
     "th, td { border: 1px solid #b0b0b0; padding: 2px 6px; text-align: left; vertical-align: top; }\n"
@@ -28,12 +28,12 @@ void HtmlWriter::begin(const ExportColumns &columns)
     for (const ExportColumn &column : m_columns)
         m_isNumeric.push_back(ADODB::isNumericType(column.type));
     QByteArray &html = m_sink.text();
-    html += Head;
+    html += head;
     if (m_hasHeadings) {
         html += "<thead>\n<tr>";
         for (std::size_t i = 0; i < m_columns.size(); ++i) {
             html += m_isNumeric[i] ? "<th class=\"n\">" : "<th>";
-            AppendHtml(html, m_columns[i].heading.toUtf8());
+            appendHtml(html, m_columns[i].heading.toUtf8());
             html += "</th>";
         }
         html += "</tr>\n</thead>\n";
@@ -49,7 +49,7 @@ void HtmlWriter::row(const std::vector<ADODB::RawValue> &cells)
         html += m_isNumeric[i] ? "<td class=\"n\">" : "<td>";
         m_value.resize(0);
         ADODB::appendText(m_value, cells[static_cast<std::size_t>(m_columns[i].field)], m_columns[i].type);
-        AppendHtml(html, m_value);
+        appendHtml(html, m_value);
         html += "</td>";
     }
     html += "</tr>\n";

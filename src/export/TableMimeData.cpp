@@ -9,10 +9,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The office formats keep what they call a text as it is; each of the two has its own word for it.
-constexpr char Head[] =
+constexpr char head[] =
     "<html><head><meta charset=\"utf-8\"><style>.t{mso-number-format:\"\\@\"}</style></head>"
     "<body><table>";
-constexpr char TextCell[] = "<td class=\"t\" sdnum=\"1033;0;@\">";
+constexpr char textCell[] = "<td class=\"t\" sdnum=\"1033;0;@\">";
 
 // One value of a text separated by tabs, which may be quoted, from `at` on. Moves `at` to what ends it.
 QByteArray nextValue(QByteArrayView text, qsizetype &at)
@@ -60,17 +60,17 @@ QVariant TableMimeData::retrieveData(const QString &mimeType, QMetaType type) co
 QByteArray TableMimeData::html() const
 {
     const bool isOneValue = !m_text.endsWith("\r\n");
-    QByteArray html = Head;
+    QByteArray html = head;
     bool isHeading = m_hasHeadings;
     for (qsizetype at = 0; at < m_text.size();) {
         html += "<tr>";
         for (std::size_t column = 0; column < m_isNumeric.size(); ++column) {
-            html += isHeading ? "<th>" : m_isNumeric[column] ? "<td>" : TextCell;
+            html += isHeading ? "<th>" : m_isNumeric[column] ? "<td>" : textCell;
             if (isOneValue) {
-                AppendHtml(html, m_text);
+                appendHtml(html, m_text);
                 at = m_text.size();
             } else if (at < m_text.size()) {
-                AppendHtml(html, nextValue(m_text, at));
+                appendHtml(html, nextValue(m_text, at));
                 at += m_text.mid(at, 1) == "\t" ? 1 : 0;
             }
             html += isHeading ? "</th>" : "</td>";

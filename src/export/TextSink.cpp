@@ -8,7 +8,7 @@ namespace KOVAVSFDataGridLib {
 
 TextSink::TextSink(QIODevice &device, TextEncoding encoding) : m_device(device), m_encoder(encoding)
 {
-    m_text.reserve(2 * PieceSize);
+    m_text.reserve(2 * pieceSize);
     write(m_encoder.mark());
 }
 

@@ -18,13 +18,13 @@ public:
     // Writes what has been gathered when it is enough. Throws ADODB::Error when the device refuses.
     void flushWhenFull()
     {
-        if (m_text.size() >= PieceSize)
+        if (m_text.size() >= pieceSize)
             flush();
     }
     void flush();
 
 private:
-    static constexpr qsizetype PieceSize = qsizetype{256} << 10; // bytes
+    static constexpr qsizetype pieceSize = qsizetype{256} << 10; // bytes
 
     void write(QByteArrayView bytes);
 

@@ -10,12 +10,12 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr qint64 RowsBetweenLooks = 64;
+constexpr qint64 rowsBetweenLooks = 64;
 
 } // namespace
 
-bool WriteRecords(const ADODB::Recordset &recordset, const RecordRange &range, const ExportColumns &columns,
-                  RecordWriter &writer, const std::function<bool(qint64)> &goOn)
+bool writeRecords(const ADODB::Recordset &recordset, const RecordRange &range, const ExportColumns &columns,
+                  RecordWriter &writer, const std::function<bool(qint64)> &shouldContinue)
 {
     int fields = 0;
     for (const ExportColumn &column : columns)
@@ -24,7 +24,7 @@ bool WriteRecords(const ADODB::Recordset &recordset, const RecordRange &range, c
     writer.begin(columns);
     for (qint64 record = range.first; record <= range.last; ++record) {
         const qint64 written = record - range.first;
-        if (written % RowsBetweenLooks == 0 && !goOn(written))
+        if (written % rowsBetweenLooks == 0 && !shouldContinue(written))
             return false;
         const std::vector<ADODB::RawValue> *const cells = reader.read(record);
         if (!cells)

@@ -19,10 +19,10 @@ struct RecordRange
     qint64 count() const { return last - first + 1; }
 };
 
-// Hands the records to the writer, from begin() to end(). `goOn` is called every few records with the number
-// written so far; once it answers false, no more is written and the answer is false. Throws ADODB::Error when
-// the writer does, and when a record is gone.
-bool WriteRecords(const ADODB::Recordset &recordset, const RecordRange &range, const ExportColumns &columns,
-                  RecordWriter &writer, const std::function<bool(qint64)> &goOn);
+// Hands the records to the writer, from begin() to end(). `shouldContinue` is called every few records with
+// the number written so far; once it answers false, no more is written and the answer is false. Throws
+// ADODB::Error when the writer does, and when a record is gone.
+bool writeRecords(const ADODB::Recordset &recordset, const RecordRange &range, const ExportColumns &columns,
+                  RecordWriter &writer, const std::function<bool(qint64)> &shouldContinue);
 
 } // namespace KOVAVSFDataGridLib

@@ -20,12 +20,12 @@ namespace {
 
 using Kind = ADODB::RawValue::Kind;
 
-constexpr qsizetype LongestText = 32767; // UTF-16 units in a cell
-constexpr int WidestColumn = 600;        // pixels; a wider one would fill the screen
-constexpr int MostDecimals = 15;
-constexpr int FirstYear = 1900; // of a spreadsheet's calendar; its days before March are one off
-constexpr qint64 LargestExact = qint64{1} << 53;
-constexpr int ExactDigits = 15;
+constexpr qsizetype longestText = 32767; // UTF-16 units in a cell
+constexpr int widestColumn = 600;        // pixels; a wider one would fill the screen
+constexpr int mostDecimals = 15;
+constexpr int firstYear = 1900; // of a spreadsheet's calendar; its days before March are one off
+constexpr qint64 largestExact = qint64{1} << 53;
+constexpr int exactDigits = 15;
 
 bool isDateType(ADODB::DataTypeEnum type)
 {
@@ -39,7 +39,7 @@ bool isShortDecimal(QByteArrayView text)
     const auto digits = std::count_if(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
     const bool isPlain = std::all_of(text.begin(), text.end(),
                                      [](char c) { return (c >= '0' && c <= '9') || c == '.' || c == '-'; });
-    return isPlain && digits > 0 && digits <= ExactDigits;
+    return isPlain && digits > 0 && digits <= exactDigits;
 }
 
 } // namespace
@@ -66,9 +66,9 @@ void XlsxWriter::check(int error)
 
 void XlsxWriter::begin(const ExportColumns &columns)
 {
-    if (columns.size() > static_cast<std::size_t>(MostColumns)) {
+    if (columns.size() > static_cast<std::size_t>(mostColumns)) {
         throw ADODB::Error(ADODB::adErrWriteFile,
-                           ExportTexts::TooManyColumns.arg(MostColumns).arg(columns.size()));
+                           ExportTexts::TooManyColumns.arg(mostColumns).arg(columns.size()));
     }
     m_columns = columns;
     if (!m_file.open())
@@ -96,7 +96,7 @@ lxw_format *XlsxWriter::format(const char *numberFormat)
 
 lxw_format *XlsxWriter::numberFormat(int scale)
 {
-    const auto at = static_cast<std::size_t>(std::clamp(scale, 0, MostDecimals));
+    const auto at = static_cast<std::size_t>(std::clamp(scale, 0, mostDecimals));
     if (at == 0)
         return nullptr;
     m_numbers.resize(std::max(m_numbers.size(), at + 1), nullptr);
@@ -116,7 +116,7 @@ void XlsxWriter::addSheet()
     for (std::size_t i = 0; i < m_columns.size(); ++i) {
         const auto col = static_cast<lxw_col_t>(i);
         if (m_columns[i].width > 0) {
-            const auto pixels = static_cast<uint32_t>(std::min(m_columns[i].width, WidestColumn));
+            const auto pixels = static_cast<uint32_t>(std::min(m_columns[i].width, widestColumn));
             check(worksheet_set_column_pixels(m_sheet, col, col, pixels, nullptr));
         }
         if (m_hasHeadings) {
@@ -159,7 +159,7 @@ void XlsxWriter::write(quint16 col, const ADODB::RawValue &cell, const ExportCol
 void XlsxWriter::writeNumber(quint16 col, const ADODB::RawValue &cell, const ExportColumn &column)
 {
     double number = 0;
-    if (cell.kind == Kind::Integer && std::abs(cell.integer) <= LargestExact)
+    if (cell.kind == Kind::Integer && std::abs(cell.integer) <= largestExact)
         number = static_cast<double>(cell.integer);
     else if (cell.kind == Kind::Real && std::isfinite(cell.real))
         number = column.type == ADODB::adSingle ? m_text.toDouble() : cell.real;
@@ -179,7 +179,7 @@ bool XlsxWriter::writeMoment(quint16 col, const ADODB::RawValue &cell, const Exp
         return false;
     const QDate date = isTime ? QDate() : value.toDate();
     const QTime time = isDate ? QTime(0, 0) : value.toTime();
-    if (!isTime && (date.year() < FirstYear || date < QDate(FirstYear, 3, 1) || date.year() > 9999))
+    if (!isTime && (date.year() < firstYear || date < QDate(firstYear, 3, 1) || date.year() > 9999))
         return false;
     lxw_datetime moment{};
     if (!isTime) {
@@ -200,11 +200,11 @@ bool XlsxWriter::writeMoment(quint16 col, const ADODB::RawValue &cell, const Exp
 void XlsxWriter::writeText(quint16 col, QByteArrayView utf8)
 {
     QByteArray text = utf8.toByteArray();
-    if (text.size() > LongestText) {
+    if (text.size() > longestText) {
         QString wide = QString::fromUtf8(text);
-        if (wide.size() > LongestText) {
-            const bool splitsPair = wide.at(LongestText - 1).isHighSurrogate();
-            wide.truncate(LongestText - (splitsPair ? 1 : 0));
+        if (wide.size() > longestText) {
+            const bool splitsPair = wide.at(longestText - 1).isHighSurrogate();
+            wide.truncate(longestText - (splitsPair ? 1 : 0));
             text = wide.toUtf8();
             ++m_cutTexts;
         }

@@ -21,9 +21,9 @@ class XlsxWriter final : public RecordWriter
 public:
     // `device` is open for writing and must outlive this object. Rows and columns of a sheet are limited by
     // the format; `rowsOfSheet` is there for tests.
-    static constexpr quint32 MostRows = 1048576;
-    static constexpr int MostColumns = 16384;
-    XlsxWriter(QIODevice &device, bool hasHeadings, quint32 rowsOfSheet = MostRows);
+    static constexpr quint32 mostRows = 1048576;
+    static constexpr int mostColumns = 16384;
+    XlsxWriter(QIODevice &device, bool hasHeadings, quint32 rowsOfSheet = mostRows);
     ~XlsxWriter() override;
 
     void begin(const ExportColumns &columns) override;

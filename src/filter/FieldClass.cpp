@@ -4,7 +4,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-FieldClass FieldClassOf(ADODB::DataTypeEnum type)
+FieldClass fieldClassOf(ADODB::DataTypeEnum type)
 {
     if (ADODB::isNumericType(type))
         return FieldClass::Number;

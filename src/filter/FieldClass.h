@@ -15,6 +15,6 @@ enum class FieldClass {
     Other   // only there or not there: pictures and the like
 };
 
-FieldClass FieldClassOf(ADODB::DataTypeEnum type);
+FieldClass fieldClassOf(ADODB::DataTypeEnum type);
 
 } // namespace KOVAVSFDataGridLib

@@ -41,12 +41,12 @@ QString compare(const QString &field, FilterOperator op, const FilterValue &valu
 
 FilterCondition between(const Dialect &dialect, const FilterChoice &choice)
 {
-    const auto first = ReadFilterValue(dialect, choice.field.fieldClass, choice.value);
-    const auto last = ReadFilterValue(dialect, choice.field.fieldClass, choice.lastValue);
+    const auto first = readFilterValue(dialect, choice.field.fieldClass, choice.value);
+    const auto last = readFilterValue(dialect, choice.field.fieldClass, choice.lastValue);
     if (!first || choice.value.isEmpty())
-        return {{}, WhyNoFilterValue(choice.field.fieldClass, choice.value)};
+        return {{}, whyNoFilterValue(choice.field.fieldClass, choice.value)};
     if (!last || choice.lastValue.isEmpty())
-        return {{}, WhyNoFilterValue(choice.field.fieldClass, choice.lastValue), true};
+        return {{}, whyNoFilterValue(choice.field.fieldClass, choice.lastValue), true};
     // A day ends a moment before the next one.
     constexpr double millisecondsToDayEnd = 24 * 60 * 60 * 1000 - 1;
     const double lastExtent = last->nextDay.isEmpty() ? 0 : millisecondsToDayEnd;
@@ -61,10 +61,10 @@ FilterCondition inList(const Dialect &dialect, const FilterChoice &choice)
 {
     QStringList literals;
     QStringList days;
-    for (const QString &item : SplitFilterList(choice.value)) {
-        const auto value = ReadFilterValue(dialect, choice.field.fieldClass, item);
+    for (const QString &item : splitFilterList(choice.value)) {
+        const auto value = readFilterValue(dialect, choice.field.fieldClass, item);
         if (!value)
-            return {{}, WhyNoFilterValue(choice.field.fieldClass, item)};
+            return {{}, whyNoFilterValue(choice.field.fieldClass, item)};
         if (value->nextDay.isEmpty())
             literals.append(value->literal);
         else
@@ -81,20 +81,20 @@ QString isEmpty(const Dialect &dialect, const FilterField &field, bool wanted)
 {
     if (field.fieldClass != FieldClass::Text)
         return field.written + (wanted ? " IS NULL"_L1 : " IS NOT NULL"_L1);
-    return wanted ? FilterSql::IsEmptyText(dialect, field.written)
-                  : FilterSql::IsNotEmptyText(dialect, field.written);
+    return wanted ? FilterSql::isEmptyText(dialect, field.written)
+                  : FilterSql::isNotEmptyText(dialect, field.written);
 }
 
 } // namespace
 
-FilterCondition ConditionOf(const Dialect &dialect, const FilterChoice &asked)
+FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked)
 {
     FilterChoice choice = asked;
     const bool asksForValue = choice.op != FilterOperator::IsEmpty && choice.op != FilterOperator::IsNotEmpty;
     if (asksForValue && choice.field.fieldClass == FieldClass::Date)
-        choice.field.written = DateOperand(dialect, choice.field.written);
+        choice.field.written = dateOperand(dialect, choice.field.written);
     else if (asksForValue && choice.field.fieldClass == FieldClass::Moment)
-        choice.field.written = MomentOperand(dialect, choice.field.written);
+        choice.field.written = momentOperand(dialect, choice.field.written);
     const FilterField &field = choice.field;
     if (field.written.isEmpty())
         return {{}, FilterTexts::NoField};
@@ -109,20 +109,20 @@ FilterCondition ConditionOf(const Dialect &dialect, const FilterChoice &asked)
     default:
         break;
     }
-    const auto value = ReadFilterValue(dialect, field.fieldClass, choice.value);
+    const auto value = readFilterValue(dialect, field.fieldClass, choice.value);
     if (!value || choice.value.isEmpty())
-        return {{}, WhyNoFilterValue(field.fieldClass, choice.value)};
+        return {{}, whyNoFilterValue(field.fieldClass, choice.value)};
     if (field.fieldClass == FieldClass::Boolean) {
         const bool wanted = value->isTrue == (choice.op == FilterOperator::Equals);
-        return {FilterSql::IsTrue(dialect, field.written, wanted), {}};
+        return {FilterSql::isTrue(dialect, field.written, wanted), {}};
     }
     switch (choice.op) {
     case FilterOperator::Contains:
-        return {Like(dialect, field.written, choice.value, Anchor::None), {}};
+        return {like(dialect, field.written, choice.value, Anchor::None), {}};
     case FilterOperator::BeginsWith:
-        return {Like(dialect, field.written, choice.value, Anchor::Begin), {}};
+        return {like(dialect, field.written, choice.value, Anchor::Begin), {}};
     case FilterOperator::EndsWith:
-        return {Like(dialect, field.written, choice.value, Anchor::End), {}};
+        return {like(dialect, field.written, choice.value, Anchor::End), {}};
     default:
         return {compare(field.written, choice.op, *value), {}};
     }

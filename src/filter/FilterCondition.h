@@ -29,6 +29,6 @@ struct FilterCondition
     bool isLastValueAtFault = false; // rather than the only or the first one
 };
 
-FilterCondition ConditionOf(const Dialect &dialect, const FilterChoice &choice);
+FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &choice);
 
 } // namespace KOVAVSFDataGridLib

@@ -4,7 +4,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-QList<FilterOperator> OperatorsFor(FieldClass fieldClass)
+QList<FilterOperator> operatorsFor(FieldClass fieldClass)
 {
     using enum FilterOperator;
     switch (fieldClass) {
@@ -20,14 +20,14 @@ QList<FilterOperator> OperatorsFor(FieldClass fieldClass)
     }
 }
 
-int ValueCount(FilterOperator op)
+int valueCount(FilterOperator op)
 {
     if (op == FilterOperator::IsEmpty || op == FilterOperator::IsNotEmpty)
         return 0;
     return op == FilterOperator::Between ? 2 : 1;
 }
 
-QString CaptionOf(FilterOperator op)
+QString captionOf(FilterOperator op)
 {
     return FilterTexts::Operators[static_cast<std::size_t>(op)];
 }

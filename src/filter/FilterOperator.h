@@ -24,12 +24,12 @@ enum class FilterOperator {
 };
 
 // Those that make sense for a field's class, the usual ones first.
-QList<FilterOperator> OperatorsFor(FieldClass fieldClass);
+QList<FilterOperator> operatorsFor(FieldClass fieldClass);
 
 // How many values are to be typed: 0, 1 or 2. A list is one text.
-int ValueCount(FilterOperator op);
+int valueCount(FilterOperator op);
 
 // As the user reads it.
-QString CaptionOf(FilterOperator op);
+QString captionOf(FilterOperator op);
 
 } // namespace KOVAVSFDataGridLib

@@ -113,7 +113,7 @@ QComboBox *FilterRow::makeBrackets(QChar bracket, const QString &accessibleName)
     auto *combo = new QComboBox(this);
     combo->setAccessibleName(accessibleName);
     combo->setToolTip(accessibleName);
-    for (int count = 0; count <= MostBrackets; ++count)
+    for (int count = 0; count <= mostBrackets; ++count)
         combo->addItem(QString(count, bracket));
     connect(combo, &QComboBox::currentIndexChanged, this, [this] { onEdited(); });
     return combo;
@@ -166,8 +166,8 @@ void FilterRow::onFieldChanged()
     {
         const QSignalBlocker quiet(m_operator);
         m_operator->clear();
-        for (const FilterOperator offered : OperatorsFor(field().fieldClass))
-            m_operator->addItem(CaptionOf(offered), static_cast<int>(offered));
+        for (const FilterOperator offered : operatorsFor(field().fieldClass))
+            m_operator->addItem(captionOf(offered), static_cast<int>(offered));
         m_operator->setCurrentIndex(std::max(0, m_operator->findData(previous)));
     }
     onOperatorChanged();
@@ -175,7 +175,7 @@ void FilterRow::onFieldChanged()
 
 void FilterRow::onOperatorChanged()
 {
-    const int count = ValueCount(op());
+    const int count = valueCount(op());
     m_value->setVisible(count >= 1);
     m_to->setVisible(count == 2);
     m_lastValue->setVisible(count == 2);
@@ -192,7 +192,7 @@ void FilterRow::onEdited()
 
 bool FilterRow::isStarted() const
 {
-    const int count = ValueCount(op());
+    const int count = valueCount(op());
     return count > 0 && !m_value->text().isEmpty() && (count == 1 || !m_lastValue->text().isEmpty());
 }
 
@@ -205,7 +205,7 @@ void FilterRow::onEditingFinished()
 
 FilterCondition FilterRow::condition() const
 {
-    return ConditionOf(m_context->dialect, {field(), op(), m_value->text(), m_lastValue->text()});
+    return conditionOf(m_context->dialect, {field(), op(), m_value->text(), m_lastValue->text()});
 }
 
 FilterCondition FilterRow::checkedCondition()
@@ -239,8 +239,8 @@ FilterSql::Term FilterRow::frame() const
 
 void FilterRow::setBrackets(int opens, int closes)
 {
-    m_opens->setCurrentIndex(std::min(opens, MostBrackets));
-    m_closes->setCurrentIndex(std::min(closes, MostBrackets));
+    m_opens->setCurrentIndex(std::min(opens, mostBrackets));
+    m_closes->setCurrentIndex(std::min(closes, mostBrackets));
 }
 
 void FilterRow::focusFirstPart()

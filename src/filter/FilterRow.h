@@ -32,7 +32,7 @@ class FilterRow final : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr int MostBrackets = 3;
+    static constexpr int mostBrackets = 3;
 
     explicit FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *parent = nullptr);
 

@@ -92,7 +92,7 @@ QString FilterRows::preview() const
         if (!term.condition.isEmpty())
             terms.append(term);
     }
-    return FilterSql::Join(terms);
+    return FilterSql::join(terms);
 }
 
 QString FilterRows::checkedText()
@@ -114,7 +114,7 @@ bool FilterRows::markUnmatchedBracket()
     QList<FilterSql::Term> terms;
     for (const FilterRow *row : std::as_const(m_rows))
         terms.append(row->frame());
-    const qsizetype at = FilterSql::UnmatchedBracket(terms);
+    const qsizetype at = FilterSql::unmatchedBracket(terms);
     if (at < 0)
         return false;
     m_rows.at(at)->showFault(FilterTexts::UnmatchedBracket);

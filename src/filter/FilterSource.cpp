@@ -18,7 +18,7 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-bool LeadsToOdbc(const QString &connectionString)
+bool leadsToOdbc(const QString &connectionString)
 {
     try {
         const ADODB::ConnectionString parts(connectionString);
@@ -58,9 +58,9 @@ void FilterSource::setResult(const FilteredResult &result)
 Dialect FilterSource::dialect() const
 {
     return {.database = m_database,
-            .isOdbc = LeadsToOdbc(m_connectionString),
+            .isOdbc = leadsToOdbc(m_connectionString),
             .escapesByBackslash = m_escapesByBackslash,
-            .engine = EngineOf(m_connection)};
+            .engine = engineOf(m_connection)};
 }
 
 const std::shared_ptr<ADODB::Connection> &FilterSource::connection()
@@ -99,7 +99,7 @@ std::vector<FilterField> FilterSource::readFields()
         infos = connection()->Describe(everything + m_fromText);
     } catch (const ADODB::Error &) {
         // A plain name that SQL can't read without brackets or quotes.
-        const QString written = WrittenName(dialect(), m_fromText);
+        const QString written = writtenName(dialect(), m_fromText);
         if (written == m_fromText)
             throw;
         infos = connection()->Describe(everything + written);
@@ -114,15 +114,15 @@ std::vector<FilterField> FilterSource::readFields()
     std::vector<FilterField> fields;
     QSet<QString> captions;
     for (const ADODB::FieldInfo &info : infos) {
-        QString written = WrittenName(dialect(), info.name);
+        QString written = writtenName(dialect(), info.name);
         QString caption = info.name;
         if (!info.baseTable.isEmpty() && std::ranges::count_if(infos, isNamed(info.name)) > 1) {
-            written = WrittenName(dialect(), info.baseTable) + u'.' + written;
+            written = writtenName(dialect(), info.baseTable) + u'.' + written;
             caption = info.baseTable + u'.' + caption;
         }
         if (!captions.contains(caption)) {
             captions.insert(caption);
-            fields.push_back({caption, written, FieldClassOf(info.type)});
+            fields.push_back({caption, written, fieldClassOf(info.type)});
         }
     }
     return fields;
@@ -142,7 +142,7 @@ std::vector<FilterField> FilterSource::readOfferedFields()
         const OfferedField &field = m_offered.at(static_cast<qsizetype>(i));
         const int times = ++timesUsed[field.name];
         const QString caption = times == 1 ? field.name : u"%1 (%2)"_s.arg(field.name).arg(times);
-        fields.push_back({caption, field.written, FieldClassOf(infos[i].type)});
+        fields.push_back({caption, field.written, fieldClassOf(infos[i].type)});
     }
     return fields;
 }
@@ -150,7 +150,7 @@ std::vector<FilterField> FilterSource::readOfferedFields()
 QStringList FilterSource::readValues(const FilterField &field)
 {
     ADODB::Recordset values;
-    values.Open(m_prefix + FilterSql::DistinctValues(dialect(), field.written, m_fromText, MostValues),
+    values.Open(m_prefix + FilterSql::distinctValues(dialect(), field.written, m_fromText, mostValues),
                 connection());
     QStringList texts;
     for (qint64 record = 1; record <= values.RecordCount(); ++record) {

@@ -13,14 +13,14 @@ class Connection;
 namespace KOVAVSFDataGridLib {
 
 // Whether a connection string names an ODBC driver or data source. A malformed one does not.
-bool LeadsToOdbc(const QString &connectionString);
+bool leadsToOdbc(const QString &connectionString);
 
 // Where the builder's fields and values come from. Reads nothing before it is asked. The reading functions
 // throw ADODB::Error.
 class FilterSource
 {
 public:
-    static constexpr int MostValues = 200;
+    static constexpr int mostValues = 200;
 
     void setDatabase(AllDBType database) { m_database = database; }
     // One of the two. A connection must be open, and is shared; a string is opened on first use.
@@ -39,7 +39,7 @@ public:
 
     // The table's fields in its order. A name that several tables share is told apart by the table's.
     std::vector<FilterField> readFields();
-    // At most MostValues values that the field has, in order.
+    // At most mostValues values that the field has, in order.
     QStringList readValues(const FilterField &field);
     // Lets the database look at a condition without running it.
     void check(const QString &condition);

@@ -6,7 +6,7 @@ namespace KOVAVSFDataGridLib::FilterSql {
 
 using namespace Qt::StringLiterals;
 
-QString IsTrue(const Dialect &dialect, const QString &field, bool wanted)
+QString isTrue(const Dialect &dialect, const QString &field, bool wanted)
 {
     // Servers with a real Boolean type compare it with a text, those of bits and numbers convert the text.
     if (dialect.engine == Engine::PostgreSQL || (dialect.isOdbc && dialect.database != dbAccess))
@@ -15,19 +15,19 @@ QString IsTrue(const Dialect &dialect, const QString &field, bool wanted)
     return field + (wanted ? " <> 0"_L1 : " = 0"_L1);
 }
 
-QString IsEmptyText(const Dialect &dialect, const QString &field)
+QString isEmptyText(const Dialect &dialect, const QString &field)
 {
-    return u'(' + field + " IS NULL OR "_L1 + LikeOperand(dialect.engine, field) + " = '')"_L1;
+    return u'(' + field + " IS NULL OR "_L1 + likeOperand(dialect.engine, field) + " = '')"_L1;
 }
 
-QString IsNotEmptyText(const Dialect &dialect, const QString &field)
+QString isNotEmptyText(const Dialect &dialect, const QString &field)
 {
     // To Oracle '' is Null, and nothing differs from Null.
-    return LikeOperand(dialect.engine, field) +
+    return likeOperand(dialect.engine, field) +
            (dialect.database == dbOracle ? " LIKE '_%'"_L1 : " <> ''"_L1);
 }
 
-QString DistinctValues(const Dialect &dialect, const QString &field, const QString &table, int count)
+QString distinctValues(const Dialect &dialect, const QString &field, const QString &table, int count)
 {
     const Engine engine = dialect.engine;
     const bool knowsLimit = !dialect.isOdbc || engine == Engine::SQLite || engine == Engine::PostgreSQL ||
@@ -37,7 +37,7 @@ QString DistinctValues(const Dialect &dialect, const QString &field, const QStri
            " IS NOT NULL ORDER BY "_L1 + field + u' ' + limit.arg(count);
 }
 
-QString Join(const QList<Term> &terms)
+QString join(const QList<Term> &terms)
 {
     QString text;
     int depth = 0;
@@ -54,7 +54,7 @@ QString Join(const QList<Term> &terms)
     return hasOuterOr ? u'(' + text + u')' : text;
 }
 
-qsizetype UnmatchedBracket(const QList<Term> &terms)
+qsizetype unmatchedBracket(const QList<Term> &terms)
 {
     QList<qsizetype> open; // the terms that opened the brackets not closed yet
     for (qsizetype i = 0; i < terms.size(); ++i) {

@@ -8,14 +8,14 @@
 // The conditions that the builder writes and those it puts together.
 namespace KOVAVSFDataGridLib::FilterSql {
 
-QString IsTrue(const Dialect &dialect, const QString &field, bool wanted);
+QString isTrue(const Dialect &dialect, const QString &field, bool wanted);
 
 // A text field that holds no character, or some.
-QString IsEmptyText(const Dialect &dialect, const QString &field);
-QString IsNotEmptyText(const Dialect &dialect, const QString &field);
+QString isEmptyText(const Dialect &dialect, const QString &field);
+QString isNotEmptyText(const Dialect &dialect, const QString &field);
 
 // At most `count` different values of a field, in order, without Null.
-QString DistinctValues(const Dialect &dialect, const QString &field, const QString &table, int count);
+QString distinctValues(const Dialect &dialect, const QString &field, const QString &table, int count);
 
 // One condition of several.
 struct Term
@@ -27,9 +27,9 @@ struct Term
 };
 
 // The terms as one text that can be joined to further conditions by AND.
-QString Join(const QList<Term> &terms);
+QString join(const QList<Term> &terms);
 
 // Position of the first term whose brackets have no counterpart; -1 when all match.
-qsizetype UnmatchedBracket(const QList<Term> &terms);
+qsizetype unmatchedBracket(const QList<Term> &terms);
 
 } // namespace KOVAVSFDataGridLib::FilterSql

@@ -83,15 +83,15 @@ std::optional<FilterValue> readMoment(const Dialect &dialect, const QString &typ
     if (!day.isValid())
         return std::nullopt;
     if (rest.isEmpty()) {
-        return FilterValue{.literal = DateLiteral(dialect, day),
-                           .nextDay = DateLiteral(dialect, day.addDays(1)),
+        return FilterValue{.literal = dateLiteral(dialect, day),
+                           .nextDay = dateLiteral(dialect, day.addDays(1)),
                            .rank = rankOf(day.startOfDay(Qt::UTC))};
     }
     const QTime time = readTime(rest);
     if (!time.isValid())
         return std::nullopt;
     const QDateTime moment(day, time, Qt::UTC);
-    return FilterValue{.literal = MomentLiteral(dialect, moment), .rank = rankOf(moment)};
+    return FilterValue{.literal = momentLiteral(dialect, moment), .rank = rankOf(moment)};
 }
 
 std::optional<FilterValue> readDay(const Dialect &dialect, const QString &typed)
@@ -99,7 +99,7 @@ std::optional<FilterValue> readDay(const Dialect &dialect, const QString &typed)
     const QDate day = readDate(narrow(typed));
     if (!day.isValid())
         return std::nullopt;
-    return FilterValue{.literal = DateLiteral(dialect, day), .rank = static_cast<double>(day.toJulianDay())};
+    return FilterValue{.literal = dateLiteral(dialect, day), .rank = static_cast<double>(day.toJulianDay())};
 }
 
 std::optional<FilterValue> readTimeOfDay(const Dialect &dialect, const QString &typed)
@@ -107,18 +107,18 @@ std::optional<FilterValue> readTimeOfDay(const Dialect &dialect, const QString &
     const QTime time = readTime(narrow(typed));
     if (!time.isValid())
         return std::nullopt;
-    return FilterValue{.literal = TimeLiteral(dialect, time),
+    return FilterValue{.literal = timeLiteral(dialect, time),
                        .rank = static_cast<double>(time.msecsSinceStartOfDay())};
 }
 
 } // namespace
 
-std::optional<FilterValue> ReadFilterValue(const Dialect &dialect, FieldClass fieldClass,
+std::optional<FilterValue> readFilterValue(const Dialect &dialect, FieldClass fieldClass,
                                            const QString &typed)
 {
     switch (fieldClass) {
     case FieldClass::Text:
-        return FilterValue{.literal = TextWithoutClauses(dialect, typed)};
+        return FilterValue{.literal = textWithoutClauses(dialect, typed)};
     case FieldClass::Number:
         return readNumber(typed);
     case FieldClass::Boolean:
@@ -135,12 +135,12 @@ std::optional<FilterValue> ReadFilterValue(const Dialect &dialect, FieldClass fi
     Q_UNREACHABLE();
 }
 
-QDate DayOf(const QString &typed)
+QDate dayOf(const QString &typed)
 {
     return splitMoment(typed).day;
 }
 
-QString WhyNoFilterValue(FieldClass fieldClass, const QString &typed)
+QString whyNoFilterValue(FieldClass fieldClass, const QString &typed)
 {
     if (typed.trimmed().isEmpty())
         return FilterTexts::NoValue;
@@ -158,7 +158,7 @@ QString WhyNoFilterValue(FieldClass fieldClass, const QString &typed)
     }
 }
 
-QStringList SplitFilterList(const QString &typed)
+QStringList splitFilterList(const QString &typed)
 {
     static const QRegularExpression item(uR"-(\s*(?:"((?:[^"]|"")*)"|([^,，]*?))\s*(?:[,，]|\z))-"_s);
     QStringList values;
@@ -171,7 +171,7 @@ QStringList SplitFilterList(const QString &typed)
     return values;
 }
 
-QString FilterListItem(const QString &value)
+QString filterListItem(const QString &value)
 {
     const bool isPlain =
         !value.contains(u',') && !value.contains(u'，') && !value.contains(u'"') && value.trimmed() == value;

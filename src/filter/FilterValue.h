@@ -19,20 +19,20 @@ struct FilterValue
 
 // Nothing when the text is no value of that class. Digits and signs may be full-width, as Chinese input
 // methods give them. Text is taken as it was typed, with its blanks.
-std::optional<FilterValue> ReadFilterValue(const Dialect &dialect, FieldClass fieldClass,
+std::optional<FilterValue> readFilterValue(const Dialect &dialect, FieldClass fieldClass,
                                            const QString &typed);
 
 // The day that a text is or begins with; invalid when there is none.
-QDate DayOf(const QString &typed);
+QDate dayOf(const QString &typed);
 
 // What to tell somebody who typed no such value.
-QString WhyNoFilterValue(FieldClass fieldClass, const QString &typed);
+QString whyNoFilterValue(FieldClass fieldClass, const QString &typed);
 
 // The values of a list, which are separated by commas, narrow or full-width; one in double quotes may hold
 // commas itself. Empty values are left out.
-QStringList SplitFilterList(const QString &typed);
+QStringList splitFilterList(const QString &typed);
 
 // A value as it can be typed into a list.
-QString FilterListItem(const QString &value);
+QString filterListItem(const QString &value);
 
 } // namespace KOVAVSFDataGridLib

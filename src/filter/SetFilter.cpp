@@ -145,7 +145,7 @@ void SetFilter::readFields()
         m_rows->focusFirstPart();
     else
         m_condition->setFocus();
-    tell(fault);
+    show(fault);
 }
 
 QStringList SetFilter::valuesOf(const FilterField &field)
@@ -155,11 +155,11 @@ QStringList SetFilter::valuesOf(const FilterField &field)
     try {
         const WaitCursor waiting;
         const QStringList values = m_source.readValues(field);
-        tell(values.isEmpty() ? FilterTexts::NoValues : QString());
+        show(values.isEmpty() ? FilterTexts::NoValues : QString());
         m_knownValues.insert(field.written, values);
         return values;
     } catch (const ADODB::Error &error) {
-        tell(FilterTexts::ValuesUnreadable.arg(error.Description()));
+        show(FilterTexts::ValuesUnreadable.arg(error.Description()));
         return {};
     }
 }
@@ -179,7 +179,7 @@ void SetFilter::onRowsChanged()
 {
     if (m_isByHand)
         return;
-    tell({});
+    show({});
     m_condition->setText(m_rows->preview());
     m_condition->setToolTip(m_condition->text());
     m_condition->setCursorPosition(0);
@@ -190,7 +190,7 @@ void SetFilter::onConditionEdited()
     // Typing goes on here, wherever the keyboard was when this began.
     m_condition->setFocus();
     setByHand(true);
-    tell(FilterTexts::ByHand);
+    show(FilterTexts::ByHand);
 }
 
 void SetFilter::backToRows()
@@ -221,7 +221,7 @@ QString SetFilter::ConditionText()
         return conditionByHand();
     const QString text = m_rows->checkedText();
     if (text.isEmpty()) {
-        tell(FilterTexts::CorrectRows);
+        show(FilterTexts::CorrectRows);
         showFocusedPart();
     }
     return text;
@@ -229,15 +229,15 @@ QString SetFilter::ConditionText()
 
 QString SetFilter::conditionByHand()
 {
-    const QString typed = JoinStatementLines(m_condition->text()).trimmed();
+    const QString typed = joinStatementLines(m_condition->text()).trimmed();
     if (typed.isEmpty()) {
-        tell(FilterTexts::NoCondition);
+        show(FilterTexts::NoCondition);
         return {};
     }
     // The statement's sort is found by these words, wherever they stand.
     const QString betweenBlanks = u' ' + typed + u' ';
     if (betweenBlanks.contains(" ORDER BY "_L1, Qt::CaseInsensitive)) {
-        tell(FilterTexts::NoOrderBy);
+        show(FilterTexts::NoOrderBy);
         return {};
     }
     // Further conditions are joined by AND, which binds closer.
@@ -254,12 +254,12 @@ QString SetFilter::conditionByHand()
         m_source.check(enclosed);
         return text;
     } catch (const ADODB::Error &error) {
-        tell(error.Description());
+        show(error.Description());
         return {};
     }
 }
 
-void SetFilter::tell(const QString &notice)
+void SetFilter::show(const QString &notice)
 {
     m_notice->setText(notice);
 }

@@ -53,7 +53,7 @@ private:
     void enableParts();
     QString conditionByHand();
     QStringList valuesOf(const FilterField &field);
-    void tell(const QString &notice);
+    void show(const QString &notice);
 
     FilterSource m_source;
     QHash<QString, QStringList> m_knownValues; // by the field as written

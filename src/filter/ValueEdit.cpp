@@ -157,9 +157,9 @@ void ValueEdit::take(const QString &picked)
     if (!m_isList)
         setText(picked);
     else if (text().trimmed().isEmpty())
-        setText(FilterListItem(picked));
+        setText(filterListItem(picked));
     else
-        setText(text() + ", "_L1 + FilterListItem(picked));
+        setText(text() + ", "_L1 + filterListItem(picked));
     Q_EMIT textEdited(text());
 }
 
@@ -173,10 +173,10 @@ void ValueEdit::offerCalendar()
         m_calendar->setFirstDayOfWeek(Qt::Monday);
         m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
         usePlainArrows(*m_calendar);
-        connect(m_calendar, &QCalendarWidget::clicked, this, &ValueEdit::takeDay);
-        connect(m_calendar, &QCalendarWidget::activated, this, &ValueEdit::takeDay);
+        connect(m_calendar, &QCalendarWidget::clicked, this, &ValueEdit::setDay);
+        connect(m_calendar, &QCalendarWidget::activated, this, &ValueEdit::setDay);
     }
-    if (const QDate typed = DayOf(text()); typed.isValid())
+    if (const QDate typed = dayOf(text()); typed.isValid())
         m_calendar->setSelectedDate(typed);
     m_calendar->show(); // only now does it have its size
     m_calendar->move(placeOf(m_calendar->size()));
@@ -194,7 +194,7 @@ QPoint ValueEdit::placeOf(QSize popup) const
     return place;
 }
 
-void ValueEdit::takeDay(QDate day)
+void ValueEdit::setDay(QDate day)
 {
     m_calendar->close();
     // A time that stands behind the old day stays.

@@ -37,7 +37,7 @@ private:
     void offerCalendar();
     QPoint placeOf(QSize popup) const;
     void take(const QString &picked);
-    void takeDay(QDate day);
+    void setDay(QDate day);
 
     std::function<QStringList()> m_readValues;
     FieldClass m_fieldClass = FieldClass::Text;

@@ -60,7 +60,7 @@ void ConnectDialog::layOut()
     ok->setDefault(true);
     auto *cancel = new QPushButton(FormTexts::ConnectCancel, this);
     cancel->setObjectName(u"CancelButton"_s);
-    connect(ok, &QPushButton::clicked, this, &ConnectDialog::takeText);
+    connect(ok, &QPushButton::clicked, this, &ConnectDialog::acceptText);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 
     auto *options = new QHBoxLayout;
@@ -103,7 +103,7 @@ void ConnectDialog::build()
         SetConnectionString(*built);
 }
 
-void ConnectDialog::takeText()
+void ConnectDialog::acceptText()
 {
     if (m_takesStatement)
         m_sqlShow = m_text->text();

@@ -38,7 +38,7 @@ public:
 private:
     void layOut();
     void build();
-    void takeText();
+    void acceptText();
     void askSqlShow();
     void enableParts();
 

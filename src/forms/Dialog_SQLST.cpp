@@ -52,7 +52,7 @@ Dialog_SQLST::Dialog_SQLST(QWidget *parent)
     rows->addLayout(buttons);
 
     connect(m_allowEdit, &QCheckBox::toggled, m_text, [this](bool on) { m_text->setReadOnly(!on); });
-    connect(ok, &QPushButton::clicked, this, &Dialog_SQLST::takeText);
+    connect(ok, &QPushButton::clicked, this, &Dialog_SQLST::acceptText);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -74,7 +74,7 @@ void Dialog_SQLST::SetEditing(bool canAllow, bool isAllowed)
     m_allowEdit->setChecked(isAllowed);
 }
 
-void Dialog_SQLST::takeText()
+void Dialog_SQLST::acceptText()
 {
     if (m_allowEdit->isChecked())
         m_result = m_text->text();

@@ -28,7 +28,7 @@ public:
     std::optional<QString> result() const { return m_result; }
 
 private:
-    void takeText();
+    void acceptText();
 
     QLabel *m_label;
     QLineEdit *m_text;

@@ -95,7 +95,7 @@ ExportDialog::ExportDialog(const Choices &choices, QWidget *parent)
 
 void ExportDialog::addFormats()
 {
-    for (const ExportFormat format : AvailableFormats())
+    for (const ExportFormat format : availableFormats())
         m_format->addItem(captionOf(format), static_cast<int>(format));
 }
 
@@ -113,7 +113,7 @@ void ExportDialog::addEncodings()
 void ExportDialog::layOut(const Choices &choices)
 {
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    m_file->setText(QDir::toNativeSeparators(folder.filePath(choices.name + FileEnding(format()))));
+    m_file->setText(QDir::toNativeSeparators(folder.filePath(choices.name + fileEnding(format()))));
     auto *browseButton = named(new QPushButton(FormTexts::Browse), u"cmdBrowse"_s);
     browseButton->setAutoDefault(false);
     connect(browseButton, &QPushButton::clicked, this, &ExportDialog::browse);
@@ -153,10 +153,10 @@ ExportFormat ExportDialog::format() const
 void ExportDialog::followFormat()
 {
     QString file = m_file->text();
-    if (const std::optional<ExportFormat> before = FormatOfFile(file))
+    if (const std::optional<ExportFormat> before = formatOfFile(file))
         file.truncate(file.lastIndexOf(u'.'));
     if (!file.isEmpty())
-        m_file->setText(file + FileEnding(format()));
+        m_file->setText(file + fileEnding(format()));
     enableParts();
 }
 
@@ -170,15 +170,15 @@ void ExportDialog::enableParts()
 void ExportDialog::browse()
 {
     QStringList filters;
-    for (const ExportFormat one : AvailableFormats())
-        filters.append(captionOf(one) + u" (*"_s + FileEnding(one) + u')');
+    for (const ExportFormat one : availableFormats())
+        filters.append(captionOf(one) + u" (*"_s + fileEnding(one) + u')');
     QString filter = filters.at(m_format->currentIndex());
     const QPointer<ExportDialog> alive(this);
     const QString chosen =
         QFileDialog::getSaveFileName(this, FormTexts::ExportTitle, file(), filters.join(";;"_L1), &filter);
     if (!alive || chosen.isEmpty())
         return;
-    const std::optional<ExportFormat> byEnding = FormatOfFile(chosen);
+    const std::optional<ExportFormat> byEnding = formatOfFile(chosen);
     m_file->setText(QDir::toNativeSeparators(chosen));
     m_format->setCurrentIndex(byEnding ? m_format->findData(static_cast<int>(*byEnding))
                                        : static_cast<int>(filters.indexOf(filter)));
@@ -189,9 +189,9 @@ void ExportDialog::browse()
 QString ExportDialog::file() const
 {
     const QString typed = QDir::fromNativeSeparators(m_file->text().trimmed());
-    if (typed.isEmpty() || FormatOfFile(typed) == format())
+    if (typed.isEmpty() || formatOfFile(typed) == format())
         return typed;
-    return typed + FileEnding(format());
+    return typed + fileEnding(format());
 }
 
 ExportOptions ExportDialog::options() const
@@ -214,7 +214,7 @@ void ExportDialog::accept()
 {
     if (m_file->text().trimmed().isEmpty()) {
         const QPointer<ExportDialog> alive(this);
-        Messages::tell(this, FormTexts::ExportNoFile);
+        Messages::show(this, FormTexts::ExportNoFile);
         if (alive)
             m_file->setFocus();
         return;

@@ -52,12 +52,12 @@ int show(QWidget *parent, const Message &message, QMessageBox::StandardButtons b
 
 } // namespace
 
-void tell(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon)
+void show(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon)
 {
     show(parent, {text, title, {}, icon}, QMessageBox::Ok, QMessageBox::Ok);
 }
 
-void tellWithCause(QWidget *parent, const QString &text, const QString &cause)
+void showWithCause(QWidget *parent, const QString &text, const QString &cause)
 {
     show(parent, {text, {}, cause}, QMessageBox::Ok, QMessageBox::Ok);
 }

@@ -10,11 +10,11 @@ class QWidget;
 namespace KOVAVSFDataGridLib::Messages {
 
 // Shows a text with an OK button.
-void tell(QWidget *parent, const QString &text, const QString &title = {},
+void show(QWidget *parent, const QString &text, const QString &title = {},
           QMessageBox::Icon icon = QMessageBox::NoIcon);
 
 // The same with the cause below the text, in the data access' own words.
-void tellWithCause(QWidget *parent, const QString &text, const QString &cause);
+void showWithCause(QWidget *parent, const QString &text, const QString &cause);
 
 // Asks with the buttons Yes and No; true for Yes. Closing the box counts as No. Enter presses `onEnter`.
 bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon,

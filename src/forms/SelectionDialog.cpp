@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int PictureSize = 16; // pixels at 96 DPI
+constexpr int pictureSize = 16; // pixels at 96 DPI
 
 } // namespace
 
@@ -57,7 +57,7 @@ void SelectionDialog::addButtons()
     m_buttons->addWidget(ok);
     m_buttons->addWidget(cancel);
 
-    connect(ok, &QPushButton::clicked, this, &SelectionDialog::takeChoice);
+    connect(ok, &QPushButton::clicked, this, &SelectionDialog::acceptChoice);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -98,7 +98,7 @@ void SelectionDialog::SetTitle(const QString &strTitle)
 void SelectionDialog::SetPicture(const QIcon &picture)
 {
     if (!picture.isNull())
-        m_picture->setPixmap(picture.pixmap(QSize(PictureSize, PictureSize), devicePixelRatioF()));
+        m_picture->setPixmap(picture.pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
 }
 
 void SelectionDialog::closeEvent(QCloseEvent *event)

@@ -33,7 +33,7 @@ protected:
     // To be called once the content is complete, so that the tab key reaches the buttons last.
     void addButtons();
     // Called by OK. Keeps the result; the derived class decides whether to accept().
-    virtual void takeChoice() = 0;
+    virtual void acceptChoice() = 0;
     void setResultText(const QString &text) { m_strRetFields = text; }
 
     void closeEvent(QCloseEvent *event) override;

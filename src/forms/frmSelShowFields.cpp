@@ -220,7 +220,7 @@ bool frmSelShowFields::eventFilter(QObject *watched, QEvent *event)
     return SelectionDialog::eventFilter(watched, event);
 }
 
-void frmSelShowFields::takeChoice()
+void frmSelShowFields::acceptChoice()
 {
     QList<ListedField> rows;
     for (const QTreeWidgetItem *item : items())
@@ -228,7 +228,7 @@ void frmSelShowFields::takeChoice()
             {item->text(0), item->checkState(0) == Qt::Checked, item->data(0, writtenRole).toString()});
     setResultText(ComposeFieldList(rows));
     if (strRetFields().isEmpty())
-        Messages::tell(this, FormTexts::AtLeastOneField);
+        Messages::show(this, FormTexts::AtLeastOneField);
     else
         accept();
 }

@@ -35,7 +35,7 @@ private:
     QWidget *makeSearchRow();
     QWidget *makeList();
     QWidget *makeCheckRow();
-    void takeChoice() override;
+    void acceptChoice() override;
 
     QList<QTreeWidgetItem *> items() const;
     QTreeWidgetItem *firstListed() const; // null when the search hides all

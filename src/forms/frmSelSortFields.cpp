@@ -165,7 +165,7 @@ void frmSelSortFields::enableButtons()
     m_down->setEnabled(row >= 0 && row < m_sort->topLevelItemCount() - 1);
 }
 
-void frmSelSortFields::takeChoice()
+void frmSelSortFields::acceptChoice()
 {
     setResultText(ComposeSortList(m_sort->terms()));
     accept();

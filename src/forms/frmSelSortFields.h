@@ -32,7 +32,7 @@ private:
     QWidget *makeAddRow();
     QWidget *makeList();
     void connectKeys();
-    void takeChoice() override;
+    void acceptChoice() override;
 
     void addField();
     void deleteField();

@@ -16,7 +16,7 @@ QString CellDelegate::shownText(const QString &text)
         return c == u'\n' || c == u'\r' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
     };
     const auto lineEnd =
-        std::find_if(text.begin(), text.begin() + std::min<qsizetype>(text.size(), LongestText), isLineBreak);
+        std::find_if(text.begin(), text.begin() + std::min<qsizetype>(text.size(), longestText), isLineBreak);
     const qsizetype length = lineEnd - text.begin();
     return length == text.size() ? text : text.first(length) + u'…';
 }

@@ -12,7 +12,7 @@ class CellDelegate final : public QStyledItemDelegate
     Q_OBJECT
 
 public:
-    static constexpr int LongestText = 400; // characters
+    static constexpr int longestText = 400; // characters
 
     // What is drawn of a text.
     static QString shownText(const QString &text);

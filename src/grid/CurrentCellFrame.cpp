@@ -7,7 +7,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr int FrameWidth = 2; // pixels at 96 DPI
+constexpr int frameWidth = 2; // pixels at 96 DPI
 
 bool isOneOfSeveral(const QItemSelection &selection, const QModelIndex &cell)
 {
@@ -17,20 +17,20 @@ bool isOneOfSeveral(const QItemSelection &selection, const QModelIndex &cell)
 
 } // namespace
 
-void PaintCurrentCellFrame(const QTableView &view)
+void paintCurrentCellFrame(const QTableView &view)
 {
     const QModelIndex current = view.currentIndex();
     if (!current.isValid() || !isOneOfSeveral(view.selectionModel()->selection(), current))
         return;
     const QRect cell = view.visualRect(current);
-    if (cell.width() <= 2 * FrameWidth || !cell.intersects(view.viewport()->rect()))
+    if (cell.width() <= 2 * frameWidth || !cell.intersects(view.viewport()->rect()))
         return;
     QPainter painter(view.viewport());
-    QPen pen(view.palette().color(QPalette::HighlightedText), FrameWidth);
+    QPen pen(view.palette().color(QPalette::HighlightedText), frameWidth);
     pen.setJoinStyle(Qt::MiterJoin);
     painter.setPen(pen);
     // A pen's line is half outside of the rectangle that it draws.
-    painter.drawRect(cell.adjusted(FrameWidth / 2, FrameWidth / 2, -FrameWidth / 2, -FrameWidth / 2));
+    painter.drawRect(cell.adjusted(frameWidth / 2, frameWidth / 2, -frameWidth / 2, -frameWidth / 2));
 }
 
 } // namespace KOVAVSFDataGridLib

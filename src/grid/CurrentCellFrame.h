@@ -6,6 +6,6 @@ namespace KOVAVSFDataGridLib {
 
 // Draws a frame around the current cell where others are selected with it, so that it can be told from them.
 // To be called while the viewport is painted.
-void PaintCurrentCellFrame(const QTableView &view);
+void paintCurrentCellFrame(const QTableView &view);
 
 } // namespace KOVAVSFDataGridLib

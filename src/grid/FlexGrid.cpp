@@ -23,7 +23,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr int RowPadding = 120; // twips, above and below a row's text together
+constexpr int rowPadding = 120; // twips, above and below a row's text together
 
 } // namespace
 
@@ -52,7 +52,7 @@ FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
     applyRowHeight();
     setModel(m_model);
     applyLines();
-    m_widths.assign(static_cast<std::size_t>(Cols()), UseDefaultWidth);
+    m_widths.assign(static_cast<std::size_t>(Cols()), useDefaultWidth);
     applyWidths();
     connect(horizontalHeader(), &QHeaderView::sectionResized, this,
             [this](int section, int, int size) { onSectionResized(section, size); });
@@ -113,7 +113,7 @@ void FlexGrid::PutCol(int col)
 void FlexGrid::makeCurrent(int row, int col)
 {
     const bool isCell = row > 0 && m_model->columnCount() > 0;
-    tellAfter([&] {
+    notifyAfter([&] {
         setAutoScroll(false); // what is in view is TopRow's affair
         setCurrentIndex(isCell ? m_model->index(row - 1, nearestShownSection(section(col))) : QModelIndex());
         setAutoScroll(true);
@@ -138,7 +138,7 @@ void FlexGrid::currentChanged(const QModelIndex &current, const QModelIndex &pre
     }
 }
 
-void FlexGrid::tellAfter(const std::function<void()> &act)
+void FlexGrid::notifyAfter(const std::function<void()> &act)
 {
     if (m_isActing)
         return act();
@@ -155,7 +155,7 @@ void FlexGrid::tellAfter(const std::function<void()> &act)
 
 void FlexGrid::mousePressEvent(QMouseEvent *event)
 {
-    tellAfter([&] {
+    notifyAfter([&] {
         QTableView::mousePressEvent(event);
         // No change of the view's cell when it stood there for a hidden column that is the current one.
         if (const QModelIndex cell = indexAt(event->position().toPoint());
@@ -166,17 +166,17 @@ void FlexGrid::mousePressEvent(QMouseEvent *event)
 
 void FlexGrid::mouseMoveEvent(QMouseEvent *event)
 {
-    tellAfter([&] { QTableView::mouseMoveEvent(event); });
+    notifyAfter([&] { QTableView::mouseMoveEvent(event); });
 }
 
 void FlexGrid::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    tellAfter([&] { QTableView::mouseDoubleClickEvent(event); });
+    notifyAfter([&] { QTableView::mouseDoubleClickEvent(event); });
 }
 
 void FlexGrid::keyPressEvent(QKeyEvent *event)
 {
-    tellAfter([&] { QTableView::keyPressEvent(event); });
+    notifyAfter([&] { QTableView::keyPressEvent(event); });
 }
 
 QModelIndex FlexGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
@@ -308,7 +308,7 @@ void FlexGrid::Show(std::unique_ptr<CellSource> source)
     applyLines();
     m_row = 0;
     m_col = 0;
-    m_widths.resize(static_cast<std::size_t>(Cols()), UseDefaultWidth);
+    m_widths.resize(static_cast<std::size_t>(Cols()), useDefaultWidth);
     applyWidths();
 }
 
@@ -350,7 +350,7 @@ void FlexGrid::paintEvent(QPaintEvent *event)
         initViewItemOption(&option);
         m_painter->paint(option, dirty, offset, m_hover);
     }
-    PaintCurrentCellFrame(*this);
+    paintCurrentCellFrame(*this);
 }
 
 void FlexGrid::checkRow(int row) const
@@ -379,7 +379,7 @@ void FlexGrid::applyLines()
 
 void FlexGrid::applyRowHeight()
 {
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Twips::toPixels(RowPadding, *this));
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Twips::toPixels(rowPadding, *this));
 }
 
 MSFlexGrid::MSFlexGrid(QWidget *parent) : FlexGrid(0, parent)

@@ -24,8 +24,8 @@ class FlexGrid : public QTableView
     Q_OBJECT
 
 public:
-    static constexpr int DefaultColWidth = 960; // twips
-    static constexpr int UseDefaultWidth = -1;  // as a column's width: the default
+    static constexpr int defaultColWidth = 960; // twips
+    static constexpr int useDefaultWidth = -1;  // as a column's width: the default
 
     ~FlexGrid() override;
 
@@ -63,7 +63,7 @@ public:
     // The texts of row 0, without the heading of the row headings.
     QStringList Headings() const;
 
-    // Twips exactly as last set, whatever the screen's resolution; UseDefaultWidth when never set,
+    // Twips exactly as last set, whatever the screen's resolution; useDefaultWidth when never set,
     // 0 for a hidden column.
     int ColWidth(int col) const;
     void PutColWidth(int col, int twips);
@@ -83,7 +83,7 @@ public:
 
     // Runs `act`, in which Qt's own code makes a cell current or deals with an event, and tells of what has
     // come of it only then, as whoever is told may delete the grid.
-    void tellAfter(const std::function<void()> &act);
+    void notifyAfter(const std::function<void()> &act);
 
     // Shows the cells of `source` (not null) instead of the grid's own. Columns that stay within the
     // number of columns keep their widths; nothing is current afterwards.
@@ -134,7 +134,7 @@ private:
     int m_row = 0;
     int m_col = 0;
     bool m_isApplyingWidths = false;
-    bool m_isActing = false;  // in tellAfter()
+    bool m_isActing = false;  // in notifyAfter()
     bool m_hasNewRow = false; // to be told of, as is the next one
     std::optional<int> m_clickedCol;
 };

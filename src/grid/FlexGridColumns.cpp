@@ -20,7 +20,7 @@ int FlexGrid::ColWidth(int col) const
 void FlexGrid::PutColWidth(int col, int twips)
 {
     checkCol(col);
-    m_widths[static_cast<std::size_t>(col)] = std::max(twips, UseDefaultWidth);
+    m_widths[static_cast<std::size_t>(col)] = std::max(twips, useDefaultWidth);
     applyWidth(col);
     // The view goes where it can be seen, and comes back when the current column is shown again.
     if (currentIndex().isValid() && currentIndex().column() != nearestShownSection(section(m_col)))
@@ -30,14 +30,14 @@ void FlexGrid::PutColWidth(int col, int twips)
 int FlexGrid::ColWidthInUse(int col) const
 {
     const int width = ColWidth(col);
-    if (col < m_model->fixedCols() && width == UseDefaultWidth)
+    if (col < m_model->fixedCols() && width == useDefaultWidth)
         return Twips::fromPixels(verticalHeader()->width(), *this);
-    return width == UseDefaultWidth ? DefaultColWidth : width;
+    return width == useDefaultWidth ? defaultColWidth : width;
 }
 
 void FlexGrid::ResetColWidths()
 {
-    m_widths.assign(m_widths.size(), UseDefaultWidth);
+    m_widths.assign(m_widths.size(), useDefaultWidth);
     applyWidths();
 }
 
@@ -60,7 +60,7 @@ int FlexGrid::nearestShownSection(int section) const
 void FlexGrid::applyWidths()
 {
     const QScopedValueRollback<bool> applying(m_isApplyingWidths, true);
-    horizontalHeader()->setDefaultSectionSize(Twips::toPixels(DefaultColWidth, *this));
+    horizontalHeader()->setDefaultSectionSize(Twips::toPixels(defaultColWidth, *this));
     for (int col = 0; col < Cols(); ++col)
         applyWidth(col);
 }

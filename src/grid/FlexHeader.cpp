@@ -18,17 +18,17 @@ FlexHeader::FlexHeader(Qt::Orientation orientation, FlexGrid &grid)
 
 void FlexHeader::mousePressEvent(QMouseEvent *event)
 {
-    m_grid.tellAfter([&] { QHeaderView::mousePressEvent(event); });
+    m_grid.notifyAfter([&] { QHeaderView::mousePressEvent(event); });
 }
 
 void FlexHeader::mouseMoveEvent(QMouseEvent *event)
 {
-    m_grid.tellAfter([&] { QHeaderView::mouseMoveEvent(event); });
+    m_grid.notifyAfter([&] { QHeaderView::mouseMoveEvent(event); });
 }
 
 void FlexHeader::mouseReleaseEvent(QMouseEvent *event)
 {
-    m_grid.tellAfter([&] { QHeaderView::mouseReleaseEvent(event); });
+    m_grid.notifyAfter([&] { QHeaderView::mouseReleaseEvent(event); });
 }
 
 // Qt's own adds what a highlighted section needs for its bold text, and none is highlighted here.
@@ -70,11 +70,11 @@ bool FlexHeader::viewportEvent(QEvent *event)
     if (event->type() != QEvent::ToolTip)
         return QHeaderView::viewportEvent(event);
     const auto &help = *static_cast<QHelpEvent *>(event);
-    tellHeading(help.pos(), help.globalPos());
+    showHeadingTip(help.pos(), help.globalPos());
     return true;
 }
 
-void FlexHeader::tellHeading(const QPoint &position, const QPoint &place)
+void FlexHeader::showHeadingTip(const QPoint &position, const QPoint &place)
 {
     const int section = logicalIndexAt(position);
     if (section < 0)

@@ -27,7 +27,7 @@ protected:
 
 private:
     QRect sectionRect(int logicalIndex) const;
-    void tellHeading(const QPoint &position, const QPoint &place);
+    void showHeadingTip(const QPoint &position, const QPoint &place);
 
     FlexGrid &m_grid;
 };

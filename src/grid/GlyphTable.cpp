@@ -12,10 +12,10 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr char16_t Ellipsis = u'…';
-constexpr qreal Tolerance = 2; // pixels that neighbours can take off an elided text
-constexpr float NotLearned = std::numeric_limits<float>::infinity();
-constexpr float HasOwnGlyphs = std::numeric_limits<float>::quiet_NaN();
+constexpr char16_t ellipsis = u'…';
+constexpr qreal tolerance = 2; // pixels that neighbours can take off an elided text
+constexpr float notLearned = std::numeric_limits<float>::infinity();
+constexpr float hasOwnGlyphs = std::numeric_limits<float>::quiet_NaN();
 
 constexpr bool isBetween(char16_t c, char16_t first, char16_t last)
 {
@@ -55,7 +55,7 @@ QTextLine lineOf(QTextLayout &layout, Qt::LayoutDirection direction, QTextOption
 } // namespace
 
 GlyphTable::GlyphTable(const QFont &font)
-    : m_font(font), m_printablePairs(std::size_t{Printable} * Printable, NotLearned)
+    : m_font(font), m_printablePairs(std::size_t{printable} * printable, notLearned)
 {
     QTextLayout layout(QStringLiteral("x"), m_font);
     const QTextLine line = lineOf(layout, Qt::LeftToRight);
@@ -78,7 +78,7 @@ bool GlyphTable::addUp(QStringView text, qreal room, GlyphLine &line)
     for (qsizetype at = 0; at < text.size(); ++at) {
         const char16_t c = text[at].unicode();
         const Entry &found = entry(text, at);
-        if (found.font == Shaped)
+        if (found.font == shaped)
             return false;
         if (at > 0) {
             const qreal nearer = kerning(text[at - 1].unicode(), c);
@@ -100,8 +100,8 @@ bool GlyphTable::addUp(QStringView text, qreal room, GlyphLine &line)
 // As much of the beginning as leaves room for the ellipsis.
 bool GlyphTable::elide(QStringView text, qreal room, GlyphLine &line)
 {
-    const Entry dots = entry(QStringView(&Ellipsis, 1), 0);
-    if (dots.font == Shaped)
+    const Entry dots = entry(QStringView(&ellipsis, 1), 0);
+    if (dots.font == shaped)
         return false;
     line.glyphs.clear();
     line.width = 0;
@@ -113,7 +113,7 @@ bool GlyphTable::elide(QStringView text, qreal room, GlyphLine &line)
         const Entry &found = entry(text, at);
         // With what its neighbour takes off it, as font metrics measure.
         qreal next = x + found.advance;
-        if (at + 1 < text.size() && entry(text, at + 1).font != Shaped)
+        if (at + 1 < text.size() && entry(text, at + 1).font != shaped)
             next += kerning(c, text[at + 1].unicode());
         if (std::isnan(next))
             return false;
@@ -125,7 +125,7 @@ bool GlyphTable::elide(QStringView text, qreal room, GlyphLine &line)
         x = next;
         last = c;
     }
-    const qreal nearer = last ? kerning(last, Ellipsis) : 0;
+    const qreal nearer = last ? kerning(last, ellipsis) : 0;
     if (std::isnan(nearer))
         return false;
     line.glyphs.push_back({dots.glyph, dots.font, {end + nearer, 0}});
@@ -136,20 +136,20 @@ bool GlyphTable::elide(QStringView text, qreal room, GlyphLine &line)
 void GlyphTable::shape(const QString &text, qreal room, Qt::LayoutDirection direction, GlyphLine &line)
 {
     QTextLayout layout(text, m_font);
-    QTextLine shaped = lineOf(layout, direction);
-    if (shaped.naturalTextWidth() > room) {
+    QTextLine laidOut = lineOf(layout, direction);
+    if (laidOut.naturalTextWidth() > room) {
         const QFontMetricsF metrics(m_font);
         layout.setText(metrics.elidedText(text, Qt::ElideRight, room));
-        shaped = lineOf(layout, direction);
+        laidOut = lineOf(layout, direction);
         // Joined letters can grow when they come last, so that the metrics leave too many.
-        for (qreal fit = room - 1; fit > 0 && shaped.naturalTextWidth() > room + Tolerance; --fit) {
+        for (qreal fit = room - 1; fit > 0 && laidOut.naturalTextWidth() > room + tolerance; --fit) {
             layout.setText(metrics.elidedText(text, Qt::ElideRight, fit));
-            shaped = lineOf(layout, direction);
+            laidOut = lineOf(layout, direction);
         }
     }
     line.glyphs.clear();
-    line.width = shaped.naturalTextWidth();
-    const QPointF origin(shaped.naturalTextRect().left(), shaped.ascent());
+    line.width = laidOut.naturalTextWidth();
+    const QPointF origin(laidOut.naturalTextRect().left(), laidOut.ascent());
     for (const QGlyphRun &run : layout.glyphRuns()) {
         const int font = fontIndex(run.rawFont());
         const QList<quint32> indexes = run.glyphIndexes();
@@ -179,17 +179,17 @@ GlyphTable::Shape GlyphTable::shapeOf(const QString &text)
 
 GlyphTable::Entry &GlyphTable::slot(char16_t c)
 {
-    std::unique_ptr<Page> &page = m_pages[c / PageSize];
+    std::unique_ptr<Page> &page = m_pages[c / pageSize];
     if (!page)
         page = std::make_unique<Page>();
-    return (*page)[c % PageSize];
+    return (*page)[c % pageSize];
 }
 
 const GlyphTable::Entry &GlyphTable::entry(QStringView text, qsizetype at)
 {
     const char16_t c = text[at].unicode();
     const Entry &found = slot(c);
-    if (found.font == Unknown) {
+    if (found.font == unknown) {
         if (isIdeographic(c))
             learnIdeographs(text.sliced(at));
         else
@@ -201,7 +201,7 @@ const GlyphTable::Entry &GlyphTable::entry(QStringView text, qsizetype at)
 void GlyphTable::learn(char16_t c)
 {
     Entry &entry = slot(c);
-    entry.font = Shaped;
+    entry.font = shaped;
     if (!isAlphabetic(c))
         return;
     const Shape shape = shapeOf(QChar(c));
@@ -213,16 +213,16 @@ void GlyphTable::learn(char16_t c)
 // script, so an ideograph is put before them.
 void GlyphTable::learnIdeographs(QStringView text)
 {
-    QString unknown(u'中');
+    QString letters(u'中');
     for (const QChar c : text) {
-        if (isIdeographic(c.unicode()) && slot(c.unicode()).font == Unknown && unknown.lastIndexOf(c) < 1)
-            unknown += c;
+        if (isIdeographic(c.unicode()) && slot(c.unicode()).font == unknown && letters.lastIndexOf(c) < 1)
+            letters += c;
     }
-    const Shape shape = shapeOf(unknown);
-    const auto count = static_cast<std::size_t>(unknown.size());
+    const Shape shape = shapeOf(letters);
+    const auto count = static_cast<std::size_t>(letters.size());
     for (std::size_t i = 1; i < count; ++i) {
-        Entry &entry = slot(unknown[static_cast<qsizetype>(i)].unicode());
-        entry.font = Shaped;
+        Entry &entry = slot(letters[static_cast<qsizetype>(i)].unicode());
+        entry.font = shaped;
         if (shape.glyphs.size() == count)
             entry = {shape.glyphs[i].index, shape.glyphs[i].font, shape.ends[i] - shape.ends[i - 1]};
     }
@@ -232,8 +232,8 @@ qreal GlyphTable::kerning(char16_t first, char16_t second)
 {
     const auto isPrintable = [](char16_t c) { return isBetween(c, 0x20, 0x7E); };
     if (isPrintable(first) && isPrintable(second)) {
-        float &kept = m_printablePairs[static_cast<std::size_t>((first - 0x20) * Printable + second - 0x20)];
-        if (kept == NotLearned)
+        float &kept = m_printablePairs[static_cast<std::size_t>((first - 0x20) * printable + second - 0x20)];
+        if (kept == notLearned)
             kept = static_cast<float>(learnKerning(first, second));
         return kept;
     }
@@ -258,7 +258,7 @@ qreal GlyphTable::learnKerning(char16_t first, char16_t second)
     };
     const bool isSpace = second == u' '; // is not drawn, so its glyph does not matter
     if (shape.glyphs.size() != 2 || !isThat(shape.glyphs[0], a) || !(isSpace || isThat(shape.glyphs[1], b)))
-        return HasOwnGlyphs;
+        return hasOwnGlyphs;
     return shape.ends[1] - a.advance - b.advance;
 }
 

@@ -52,14 +52,14 @@ private:
     struct Entry
     {
         quint32 glyph = 0;
-        int font = Unknown;
+        int font = unknown;
         qreal advance = 0;
     };
-    static constexpr int Unknown = -1;
-    static constexpr int Shaped = -2; // only a layout knows
-    static constexpr int PageSize = 256;
-    static constexpr int Printable = 95; // of ASCII
-    using Page = std::array<Entry, PageSize>;
+    static constexpr int unknown = -1;
+    static constexpr int shaped = -2; // only a layout knows
+    static constexpr int pageSize = 256;
+    static constexpr int printable = 95; // of ASCII
+    using Page = std::array<Entry, pageSize>;
 
     // A glyph as a layout placed it, from left to right.
     struct Shape
@@ -86,7 +86,7 @@ private:
     qreal m_ascent = 0;
     int m_height = 0;
     std::vector<QRawFont> m_rawFonts;
-    std::array<std::unique_ptr<Page>, 0x10000 / PageSize> m_pages;
+    std::array<std::unique_ptr<Page>, 0x10000 / pageSize> m_pages;
     std::vector<float> m_printablePairs; // kerning of ASCII
     QHash<quint32, float> m_otherPairs;
 };

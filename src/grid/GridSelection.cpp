@@ -17,7 +17,7 @@ int fixedCols(const FlexGrid &grid)
 
 } // namespace
 
-std::vector<int> ShownColumns(const FlexGrid &grid)
+std::vector<int> shownColumns(const FlexGrid &grid)
 {
     std::vector<int> columns;
     for (int visual = 0; visual < grid.model()->columnCount(); ++visual) {
@@ -28,7 +28,7 @@ std::vector<int> ShownColumns(const FlexGrid &grid)
     return columns;
 }
 
-GridSelection SelectedCells(const FlexGrid &grid)
+GridSelection selectedCells(const FlexGrid &grid)
 {
     const QItemSelection selection = grid.selectionModel()->selection();
     GridSelection cells;
@@ -43,7 +43,7 @@ GridSelection SelectedCells(const FlexGrid &grid)
             cells.firstRow = std::min(cells.firstRow, range.top() + 1);
             cells.lastRow = std::max(cells.lastRow, range.bottom() + 1);
         }
-        cells.columns = ShownColumns(grid);
+        cells.columns = shownColumns(grid);
         std::erase_if(cells.columns, [&](int col) {
             const int section = col - fixedCols(grid);
             return std::ranges::none_of(selection, [=](const QItemSelectionRange &range) {

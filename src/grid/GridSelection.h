@@ -15,8 +15,8 @@ struct GridSelection
 };
 
 // The data columns that can be seen, in the order in which they are shown.
-std::vector<int> ShownColumns(const FlexGrid &grid);
+std::vector<int> shownColumns(const FlexGrid &grid);
 // What is selected, without hidden columns and unused rows; the current cell when nothing is.
-GridSelection SelectedCells(const FlexGrid &grid);
+GridSelection selectedCells(const FlexGrid &grid);
 
 } // namespace KOVAVSFDataGridLib

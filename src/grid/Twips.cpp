@@ -7,13 +7,13 @@ namespace KOVAVSFDataGridLib::Twips {
 
 int toPixels(double twips, int dpi)
 {
-    const int pixels = qRound(twips * dpi / PerInch);
+    const int pixels = qRound(twips * dpi / perInch);
     return pixels == 0 && twips > 0 ? 1 : pixels;
 }
 
 int fromPixels(double pixels, int dpi)
 {
-    return qRound(pixels * PerInch / dpi);
+    return qRound(pixels * perInch / dpi);
 }
 
 int toPixels(double twips, const QWidget &widget)

@@ -6,7 +6,7 @@ class QWidget;
 // at 96 dots per inch. This is the only place where they meet pixels.
 namespace KOVAVSFDataGridLib::Twips {
 
-inline constexpr int PerInch = 1440;
+inline constexpr int perInch = 1440;
 
 // Nearest pixel for a width in twips at `dpi` dots per inch (> 0); a width above 0 never vanishes.
 int toPixels(double twips, int dpi);

@@ -9,8 +9,8 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr qsizetype MostShown = 1000; // characters, as many as can be read in passing
-constexpr qsizetype LongestWord = 60; // characters that go on one line; a tip is as wide as its longest word
+constexpr qsizetype mostShown = 1000; // characters, as many as can be read in passing
+constexpr qsizetype longestWord = 60; // characters that go on one line; a tip is as wide as its longest word
 constexpr QChar BreakHere(0x200B);
 
 // A tip wraps its lines between words. Codes and addresses have none.
@@ -20,7 +20,7 @@ QString breakable(const QString &text)
     qsizetype sinceBreak = 0;
     for (const QChar c : text) {
         sinceBreak = c.isSpace() ? 0 : sinceBreak + 1;
-        if (sinceBreak > LongestWord && !c.isLowSurrogate()) {
+        if (sinceBreak > longestWord && !c.isLowSurrogate()) {
             broken += BreakHere;
             sinceBreak = 1;
         }
@@ -33,8 +33,8 @@ QString breakable(const QString &text)
 
 void showWholeText(const QString &text, const QPoint &place, QWidget &widget, const QRect &area)
 {
-    const bool isTooLong = text.size() > MostShown;
-    const QString shown = isTooLong ? text.first(MostShown) + u'…' : text;
+    const bool isTooLong = text.size() > mostShown;
+    const QString shown = isTooLong ? text.first(mostShown) + u'…' : text;
     QToolTip::showText(place, Qt::convertFromPlainText(breakable(shown), Qt::WhiteSpaceNormal), &widget,
                        area);
 }

@@ -34,31 +34,31 @@ QString enclosed(const QString &field)
 }
 
 // An alias gets its AS, without which it would be taken for a part of the name.
-QString textOf(const SqlScanner &sql, const SelectParts::Item &item)
+QString itemText(const SqlScanner &sql, const SelectParts::Item &item)
 {
     const bool hasAlias = item.value.end < item.tokens.end;
     if (!hasAlias || sql.isWord(item.value.end, u"AS"))
-        return TextOf(sql, item.tokens);
-    return TextOf(sql, item.value) + u" AS "_s + TextOf(sql, {item.value.end, item.tokens.end});
+        return textOf(sql, item.tokens);
+    return textOf(sql, item.value) + u" AS "_s + textOf(sql, TextRange{item.value.end, item.tokens.end});
 }
 
 } // namespace
 
 std::optional<NamedFields> read(const QString &statement, AllDBType database)
 {
-    const SqlScanner sql(JoinStatementLines(statement));
+    const SqlScanner sql(joinStatementLines(statement));
     const SelectParts parts = SelectParts::of(sql);
     if (!parts.isSelect || parts.source.isEmpty())
         return std::nullopt;
     NamedFields named;
-    named.table = TextOf(sql, parts.source);
-    named.words = TextOf(sql, parts.listWords);
+    named.table = textOf(sql, parts.source);
+    named.words = textOf(sql, parts.listWords);
     for (const SelectParts::Item &item : parts.items) {
         if (item.tokens.isEmpty())
             return std::nullopt; // not to be understood: what was listed before is better than half of it
         if (item.isStar)
             continue;
-        const QString text = textOf(sql, item);
+        const QString text = itemText(sql, item);
         named.fields += database == dbAccess ? withoutBrackets(text) : text;
     }
     return named;

@@ -97,7 +97,7 @@ bool PropertyPage::ApplyChanges()
     const QByteArray name = m_property.toLatin1();
     if (isReadOnly(*m_control, name)) {
         if (m_control->property(name).toString() != m_text->text()) {
-            Messages::tell(this, PageTexts::IsReadOnly.arg(m_property), m_property, QMessageBox::Warning);
+            Messages::show(this, PageTexts::IsReadOnly.arg(m_property), m_property, QMessageBox::Warning);
             return false;
         }
     } else if (m_writer) {

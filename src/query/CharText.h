@@ -37,7 +37,7 @@ inline qsizetype Find(const QString &text, const QString &part, qsizetype from =
 // Position of the first `word`, both read in capitals. Characters are capitalised one by one, because the
 // capitals of a whole text can be longer than the text ("ß" becomes "SS") and every later cut would be
 // shifted.
-inline qsizetype FindUpper(const QString &text, const QString &word)
+inline qsizetype findUpper(const QString &text, const QString &word)
 {
     const auto sameLetter = [](QChar a, QChar b) { return a == b || a.toUpper() == b.toUpper(); };
     const auto found = std::search(text.cbegin(), text.cend(), word.cbegin(), word.cend(), sameLetter);
@@ -45,7 +45,7 @@ inline qsizetype FindUpper(const QString &text, const QString &word)
 }
 
 // The text without the blanks (U+0020, nothing else) at both ends.
-inline QString Trim(const QString &text)
+inline QString trim(const QString &text)
 {
     const auto isBlank = [](QChar c) { return c == u' '; };
     const auto begin = std::find_if_not(text.cbegin(), text.cend(), isBlank);

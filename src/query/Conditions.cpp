@@ -71,7 +71,7 @@ struct SearchedField
 std::optional<QString> NameOfSearched(const TypedField &field, AllDBType database, const QString &qualifier,
                                       Engine engine)
 {
-    if (LikesTextsOnly(engine) && IsBinary(field.adoType))
+    if (likesTextsOnly(engine) && IsBinary(field.adoType))
         return QString();
     if (database != dbAccess && database != dbOracle && database != dbSQLServer)
         return QString();
@@ -84,7 +84,7 @@ std::optional<QString> NameOfSearched(const TypedField &field, AllDBType databas
     if (!field.written.isEmpty())
         return field.written;
     if (database != dbAccess)
-        return WrittenName(DialectOf(database, engine), field.name);
+        return writtenName(dialectOf(database, engine), field.name);
     return (qualifier.isEmpty() ? QString() : qualifier + u'.') + u'[' + field.name + u']';
 }
 
@@ -106,7 +106,7 @@ SearchedFields(std::span<const TypedField> fields, AllDBType database, const QSt
             continue;
         const QString kind = field.adoType ? ClassOf(*field.adoType, engine) : QString();
         searched.push_back(
-            {LikeOperand(engine, *name), (kind != u"1" && kind != u"3") || field.adoType == kGuid});
+            {likeOperand(engine, *name), (kind != u"1" && kind != u"3") || field.adoType == kGuid});
     }
     return searched;
 }
@@ -122,21 +122,21 @@ QStringList OperandsFor(const std::vector<SearchedField> &fields, const QString 
         if (field.holdsLetters)
             able.append(field.operand);
     }
-    return LikesTextsOnly(engine) && hasLetter && !able.isEmpty() ? able : all;
+    return likesTextsOnly(engine) && hasLetter && !able.isEmpty() ? able : all;
 }
 
 // Words that begin a clause are taken apart, so that no later derivation takes them for its own; only a known
 // engine says how.
 QString Literal(AllDBType database, Engine engine, const QString &text)
 {
-    const Dialect dialect = DialectOf(database, engine);
-    return engine == Engine::Other ? TextLiteral(dialect, text) : TextWithoutClauses(dialect, text);
+    const Dialect dialect = dialectOf(database, engine);
+    return engine == Engine::Other ? textLiteral(dialect, text) : textWithoutClauses(dialect, text);
 }
 
 QString WordCondition(const QStringList &operands, const QString &word, AllDBType database, Engine engine)
 {
     const QString pattern =
-        QStringLiteral(" LIKE ") + Literal(database, engine, u'%' + LikePattern(engine, word) + u'%') + u' ';
+        QStringLiteral(" LIKE ") + Literal(database, engine, u'%' + likePattern(engine, word) + u'%') + u' ';
     return operands.join(pattern + QStringLiteral("OR ")) + pattern;
 }
 
@@ -155,8 +155,8 @@ QString NumberCondition(const QString &field, qint32 adoType, const QString &cel
     if (engine == Engine::Other)
         return like + cellText;
     if (adoType == kGuid || !IsNumber(cellText)) {
-        return LikesTextsOnly(engine) ? equals + Literal({}, engine, cellText)
-                                      : like + Literal({}, engine, LikePattern(engine, cellText));
+        return likesTextsOnly(engine) ? equals + Literal({}, engine, cellText)
+                                      : like + Literal({}, engine, likePattern(engine, cellText));
     }
     const bool isFloating = adoType == kSingle || adoType == kDouble;
     switch (engine) {
@@ -211,8 +211,8 @@ QString ClassifyFieldType(qint32 adoType)
 std::optional<QString> GetTableOfSQL(const QString &strSQL)
 {
     const QString fromWord = QStringLiteral("FROM ");
-    const QString statement = Trim(strSQL);
-    const Search find = Find(statement, fromWord) > 0 ? FindAsWritten : FindUpper;
+    const QString statement = trim(strSQL);
+    const Search find = Find(statement, fromWord) > 0 ? FindAsWritten : findUpper;
     const auto from = find(statement, fromWord);
     if (from == 0)
         return QString();
@@ -224,7 +224,7 @@ std::optional<QString> GetTableOfSQL(const QString &strSQL)
         end = statement.size() + 1;
     if (end < begin)
         return std::nullopt;
-    return Trim(First(From(statement, begin), end - begin));
+    return trim(First(From(statement, begin), end - begin));
 }
 
 bool BuildLikeCondition(const QString &strText, std::span<const TypedField> fields, const QString &strSQL,
@@ -252,7 +252,7 @@ bool BuildLikeAllCondition(const QString &strText, const TypedField &field, cons
     return BuildLikeCondition(strText, std::span(&field, 1), strSQL, database, strCondition, engine);
 }
 
-CellFilter BuildCellFilter(const QString &realName, std::optional<qint32> adoType,
+CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoType,
                            const std::optional<QString> &cellText, Engine engine)
 {
     // Narrower than the quick filter's classes on purpose: equality makes no sense for the types left out.
@@ -270,8 +270,8 @@ CellFilter BuildCellFilter(const QString &realName, std::optional<qint32> adoTyp
         return {NumberCondition(realName, *adoType, *cellText, engine), {}};
     if (cellText->contains(u'\''))
         return {{}, QueryTexts::ApostropheInFilter()};
-    return {LikeOperand(engine, realName) + QStringLiteral(" like ") +
-                Literal({}, engine, LikePattern(engine, *cellText)),
+    return {likeOperand(engine, realName) + QStringLiteral(" like ") +
+                Literal({}, engine, likePattern(engine, *cellText)),
             {}};
 }
 

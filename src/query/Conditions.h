@@ -52,7 +52,7 @@ struct CellFilter
 
 // `cellText` is nothing for a Null value. An unknown type, or a field without a real name, gives an empty
 // answer.
-CellFilter BuildCellFilter(const QString &realName, std::optional<qint32> adoType,
+CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoType,
                            const std::optional<QString> &cellText, Engine engine = Engine::Other);
 
 } // namespace KOVAVSFDataGridLib

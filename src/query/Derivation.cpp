@@ -21,7 +21,7 @@ QString withWordsApart(const SqlScanner &sql, TextRange tokens, int fromDepth)
 {
     if (tokens.isEmpty())
         return {};
-    QString text = TextOf(sql, tokens);
+    QString text = textOf(sql, tokens);
     const qsizetype start = sql.at(tokens.begin).start;
     for (qsizetype i = tokens.begin + 1; i < tokens.end; ++i) {
         const bool isClause = sql.isWord(i, u"FROM") || sql.isWord(i, u"WHERE") ||
@@ -38,7 +38,7 @@ QString withWordsApart(const SqlScanner &sql, TextRange tokens, int fromDepth)
 Derivation::Derivation(const QString &statement, const std::vector<SourceField> &fields,
                        const Dialect &dialect)
     // Which mode MariaDB is in is not known here. Brackets are names in one and an error in all others.
-    : m_sql(statement, ReadingOf(dialect), {.brackets = true}),
+    : m_sql(statement, readingOf(dialect), {.brackets = true}),
       m_parts(SelectParts::of(m_sql)),
       m_dialect(dialect)
 {
@@ -50,7 +50,7 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
         m_kind = Kind::Closed;
         m_written.clear();
         for (const QString &name : std::as_const(m_names))
-            m_written.append(WrittenName(m_dialect, name));
+            m_written.append(writtenName(m_dialect, name));
         if (!keepsListWords())
             m_listed = m_written;
         return;
@@ -64,7 +64,7 @@ bool Derivation::isFoundAsText() const
 {
     const QString &text = m_sql.sql();
     const auto isAt = [&](const QString &word, TextRange clause, qsizetype token) {
-        const qsizetype found = FindUpper(text, word);
+        const qsizetype found = findUpper(text, word);
         return clause.isEmpty() ? found == 0 : found == m_sql.at(token).start;
     };
     return isAt(u" FROM "_s, m_parts.source, m_parts.source.begin - 1) &&
@@ -110,8 +110,8 @@ QString Derivation::withCondition(const QString &condition) const
     if (!whyNot(DerivationStep::Condition).isEmpty())
         return {};
     SQLSentence sentence = base();
-    AddCondition(sentence, condition);
-    return JoinSQLSentence(sentence);
+    addCondition(sentence, condition);
+    return joinSQLSentence(sentence);
 }
 
 QString Derivation::withSort(const QString &sortList) const
@@ -120,7 +120,7 @@ QString Derivation::withSort(const QString &sortList) const
         return {};
     SQLSentence sentence = base();
     sentence.order = sortList.isEmpty() ? QString() : kOrderBy + sortList;
-    return JoinSQLSentence(sentence);
+    return joinSQLSentence(sentence);
 }
 
 QString Derivation::withFields(const QStringList &listEntries) const
@@ -133,7 +133,7 @@ QString Derivation::withFields(const QStringList &listEntries) const
 QString Derivation::withList(const QString &list, const QStringList &entries) const
 {
     if (isTextWork(DerivationStep::Fields))
-        return u"SELECT "_s + list + GetFromPart(m_sql.sql());
+        return u"SELECT "_s + list + getFromPart(m_sql.sql());
     SQLSentence sentence = base();
     if (isSimple())
         sentence.order = stableSort();
@@ -141,7 +141,7 @@ QString Derivation::withList(const QString &list, const QStringList &entries) co
         sentence = {headWith(list), withWordsApart(m_sql, m_parts.where, 1), sortWithin(entries)};
     else
         sentence.fields = prefix() + u"SELECT "_s + list + u" FROM "_s + source();
-    return JoinSQLSentence(sentence);
+    return joinSQLSentence(sentence);
 }
 
 QString Derivation::withoutConditions() const
@@ -175,7 +175,7 @@ QString Derivation::withSource(const Derivation &other) const
 {
     const SQLSentence sentence = base();
     return ComposeSQL(prefix() + u"SELECT "_s + listText() + u" FROM "_s + other.asTable(), {},
-                      CharText::Trim(sentence.order));
+                      CharText::trim(sentence.order));
 }
 
 bool Derivation::endsCondition(qsizetype token) const
@@ -201,15 +201,15 @@ QString Derivation::withFieldsOf(const Derivation &fieldStatement) const
     if (m_kind != Kind::Closed && sameText(source(), fieldStatement.source()))
         return withList(fieldStatement.m_kind == Kind::Closed ? u"*"_s : fieldStatement.listText(), {});
     if (hasWords &&
-        sameText(TextOf(m_sql, m_parts.source), TextOf(fieldStatement.m_sql, fieldStatement.m_parts.source)))
-        return withList(fieldStatement.listText(), SplitList(fieldStatement.listText()));
+        sameText(textOf(m_sql, m_parts.source), textOf(fieldStatement.m_sql, fieldStatement.m_parts.source)))
+        return withList(fieldStatement.listText(), splitList(fieldStatement.listText()));
     QStringList entries;
     for (const QString &name : fieldStatement.m_names) {
         const qsizetype at = m_names.indexOf(name);
         if (at >= 0 && !m_listed.at(at).isEmpty())
             entries.append(m_listed.at(at));
         else if (m_parts.isDerivedTable)
-            entries.append(WrittenName(m_dialect, name)); // of the table, though not of the list
+            entries.append(writtenName(m_dialect, name)); // of the table, though not of the list
         else
             return {};
     }
@@ -273,7 +273,7 @@ SQLSentence Derivation::base() const
 
 QString Derivation::headWith(const QString &list) const
 {
-    const QString words = TextOf(m_sql, m_parts.listWords);
+    const QString words = textOf(m_sql, m_parts.listWords);
     return prefix() + u"SELECT "_s + (words.isEmpty() ? QString() : words + u' ') + list + u" FROM "_s +
            withWordsApart(m_sql, m_parts.source, 1);
 }
@@ -285,7 +285,7 @@ QString Derivation::listText() const
         std::all_of(m_parts.items.begin(), m_parts.items.end(), [](const SelectParts::Item &item) {
             return item.isStar || item.isName || !item.alias.isEmpty();
         });
-    return isNamed ? withWordsApart(m_sql, m_parts.list, 1) : TextOf(m_sql, m_parts.list);
+    return isNamed ? withWordsApart(m_sql, m_parts.list, 1) : textOf(m_sql, m_parts.list);
 }
 
 QString Derivation::asTable() const
@@ -314,8 +314,8 @@ QString Derivation::outerSort() const
         const int field = fieldOfTerm(term);
         if (field < 0)
             return {};
-        const QString direction = TextOf(m_sql, {term.value.end, term.tokens.end});
-        terms.append(WrittenName(m_dialect, m_names.at(field)) +
+        const QString direction = textOf(m_sql, {term.value.end, term.tokens.end});
+        terms.append(writtenName(m_dialect, m_names.at(field)) +
                      (direction.isEmpty() ? QString() : u' ' + direction));
     }
     return terms.join(u',');
@@ -335,8 +335,8 @@ QString Derivation::stableSort() const
             (isNumber ||
              !m_parts.items[static_cast<std::size_t>(m_itemOfField[static_cast<std::size_t>(field)])]
                   .alias.isEmpty());
-        const QString direction = TextOf(m_sql, {term.value.end, term.tokens.end});
-        terms.append(!isMoved ? TextOf(m_sql, term.tokens)
+        const QString direction = textOf(m_sql, {term.value.end, term.tokens.end});
+        terms.append(!isMoved ? textOf(m_sql, term.tokens)
                               : m_written.at(field) + (direction.isEmpty() ? QString() : u' ' + direction));
         isChanged = isChanged || isMoved;
     }
@@ -351,9 +351,9 @@ QString Derivation::sortWithin(const QStringList &entries) const
     QStringList terms;
     for (const SelectParts::Item &term : m_parts.sort) {
         const int field = fieldOfTerm(term);
-        const QString direction = TextOf(m_sql, {term.value.end, term.tokens.end});
+        const QString direction = textOf(m_sql, {term.value.end, term.tokens.end});
         if (field < 0 && !m_parts.isDistinct)
-            terms.append(TextOf(m_sql, term.tokens));
+            terms.append(textOf(m_sql, term.tokens));
         else if (field >= 0 && (!m_parts.isDistinct || entries.contains(m_listed.at(field))))
             terms.append(valueOf(field) + (direction.isEmpty() ? QString() : u' ' + direction));
     }
@@ -364,8 +364,8 @@ QString Derivation::valueOf(int field) const
 {
     const int item = m_itemOfField[static_cast<std::size_t>(field)];
     if (item < 0 || m_parts.items[static_cast<std::size_t>(item)].isStar)
-        return WrittenName(m_dialect, m_names.at(field));
-    return TextOf(m_sql, m_parts.items[static_cast<std::size_t>(item)].value);
+        return writtenName(m_dialect, m_names.at(field));
+    return textOf(m_sql, m_parts.items[static_cast<std::size_t>(item)].value);
 }
 
 } // namespace KOVAVSFDataGridLib

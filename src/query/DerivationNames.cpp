@@ -38,7 +38,7 @@ bool isOneCall(const SqlScanner &sql, TextRange value)
 // The value as it can stand beside an operator.
 QString operand(const SqlScanner &sql, const SelectParts::Item &item)
 {
-    const QString text = TextOf(sql, item.value);
+    const QString text = textOf(sql, item.value);
     const bool isOneToken = item.value.end - item.value.begin == 1;
     const SqlToken::Kind kind = sql.at(item.value.begin).kind;
     // A sort takes a number for a position, and some engines refuse other constants.
@@ -91,7 +91,7 @@ void Derivation::nameOpenFields(const std::vector<SourceField> &fields)
             if (at >= 0) {
                 const TextRange value = m_parts.items[static_cast<std::size_t>(at)].value;
                 if (value.end - value.begin > 2)
-                    qualifier = TextOf(m_sql, {value.begin, value.end - 2});
+                    qualifier = textOf(m_sql, {value.begin, value.end - 2});
             }
             m_written.append(qualified(fields[i], qualifier, isUnique));
             m_listed.append(m_written.last());
@@ -108,13 +108,13 @@ void Derivation::nameOpenFields(const std::vector<SourceField> &fields)
         if (isAliasOfOther && m_parts.sources.size() == 1)
             written = m_parts.sources.front().writtenAlias + u'.' + written;
         m_written.append(written);
-        m_listed.append(TextOf(m_sql, item.tokens));
+        m_listed.append(textOf(m_sql, item.tokens));
     }
 }
 
 QString Derivation::qualified(const SourceField &field, const QString &qualifier, bool isUnique) const
 {
-    const QString name = WrittenName(m_dialect, field.name);
+    const QString name = writtenName(m_dialect, field.name);
     if (!qualifier.isEmpty())
         return qualifier + u'.' + name;
     if (isUnique)

@@ -20,8 +20,8 @@ QString WithoutListWords(QString item)
 {
     for (const auto &[word, blanks] :
          {std::pair(u"DISTINCT "_s, 1), std::pair(u"ALL "_s, 1), std::pair(u"TOP "_s, 2)}) {
-        if (FindUpper(item, word) == 1)
-            item = Trim(item.section(u' ', blanks, -1, QString::SectionSkipEmpty));
+        if (findUpper(item, word) == 1)
+            item = trim(item.section(u' ', blanks, -1, QString::SectionSkipEmpty));
     }
     return item;
 }
@@ -34,16 +34,16 @@ QString ShortFieldName(const QString &writtenName)
     return WithoutBrackets(writtenName.mid(dot + 1));
 }
 
-QStringList WrittenFields(const QString &statement)
+QStringList writtenFields(const QString &statement)
 {
     constexpr qsizetype selectLength = 7;
-    const QString trimmed = Trim(statement);
-    const auto from = FindUpper(trimmed, QStringLiteral(" FROM "));
+    const QString trimmed = trim(statement);
+    const auto from = findUpper(trimmed, QStringLiteral(" FROM "));
     if (from <= selectLength)
         return {};
     QStringList items = trimmed.mid(selectLength, from - 1 - selectLength).split(u',');
     for (QString &item : items)
-        item = Trim(item);
+        item = trim(item);
     items.front() = WithoutListWords(items.front());
     return items;
 }

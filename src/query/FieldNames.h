@@ -11,6 +11,6 @@ QString ShortFieldName(const QString &writtenName);
 
 // The items between "Select " (its seven characters) and " from ", cut at every comma, without blanks at
 // their ends; DISTINCT, ALL or TOP n in front belongs to no item. Empty when there is no such list.
-QStringList WrittenFields(const QString &statement);
+QStringList writtenFields(const QString &statement);
 
 } // namespace KOVAVSFDataGridLib

@@ -37,7 +37,7 @@ public:
                                                          const QString &statement) = 0;
 
     // The engine to which that connection leads; Other when it can't be told.
-    virtual Engine EngineOf(const QString &) { return Engine::Other; }
+    virtual Engine engineOf(const QString &) { return Engine::Other; }
 };
 
 } // namespace KOVAVSFDataGridLib

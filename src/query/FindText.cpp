@@ -7,7 +7,7 @@ namespace KOVAVSFDataGridLib {
 
 std::optional<QString> PrepareFindText(const QString &typed)
 {
-    const QString trimmed = CharText::Trim(typed);
+    const QString trimmed = CharText::trim(typed);
     if (trimmed.isEmpty())
         return std::nullopt;
     QString text;
@@ -28,7 +28,7 @@ FindAnswer PressFind(const QString &typed, const QString &fieldComboText)
     if (!text)
         return answer;
     answer.strFindText = *text;
-    if (CharText::Trim(fieldComboText).isEmpty())
+    if (CharText::trim(fieldComboText).isEmpty())
         return answer;
     answer.strFieldName = fieldComboText;
     answer.bIsAppointField = fieldComboText != QueryTexts::AllFields();

@@ -44,7 +44,7 @@ QList<bool> SetListFieldCheck(const QStringList &rowTexts, const QStringList &pa
 
 SortTerm SplitSortTerm(const QString &term)
 {
-    const auto descending = CharText::FindUpper(term, QStringLiteral(" DESC"));
+    const auto descending = CharText::findUpper(term, QStringLiteral(" DESC"));
     if (descending == 0)
         return {term, QueryTexts::Ascending()};
     return {CharText::First(term, descending - 1), QueryTexts::Descending()};

@@ -17,7 +17,7 @@ struct ParsedStatements
 // a control must not take one of them for its own. Everything runs on the GUI thread, so there are no locks.
 struct SharedValues
 {
-    static constexpr qint32 RecordCap = 999999; // also the number of records on a page
+    static constexpr qint32 recordCap = 999999; // also the number of records on a page
 
     QString connectionString;
     QString sqlShow;
@@ -25,7 +25,7 @@ struct SharedValues
     qint16 tableType = 0;
     qint32 dbType = 1; // AllDBType
     qint16 dbType16 = 1;
-    qint32 recordCount = 0; // of the last load, at most RecordCap
+    qint32 recordCount = 0; // of the last load, at most recordCap
     qint32 hasRecords = 0;  // 1 when recordCount is at least 1
     bool isOpening = false; // while a statement is opened, when no other may be
     QString scratch;        // what the text dialogs take and give

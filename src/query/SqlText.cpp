@@ -18,9 +18,9 @@ const QString kOrderBy = QStringLiteral(" ORDER BY ");
 QString HeadWithoutConditions(const QString &statement)
 {
     QString head = statement;
-    if (const auto order = FindUpper(head, kOrderBy); order > 0)
+    if (const auto order = findUpper(head, kOrderBy); order > 0)
         head = First(head, order);
-    if (const auto where = FindUpper(head, kWhere); where > 0)
+    if (const auto where = findUpper(head, kWhere); where > 0)
         head = First(head, where - 1);
     return head;
 }
@@ -42,7 +42,7 @@ std::optional<KeywordCut> SplitByKeyword(const QString &text, const QString &key
 {
     if (text.isEmpty() || keyword.isEmpty())
         return std::nullopt;
-    const auto position = FindUpper(text, keyword);
+    const auto position = findUpper(text, keyword);
     if (position == 0)
         return KeywordCut{text, {}};
     return KeywordCut{First(text, position), Last(text, text.size() - position)};
@@ -59,7 +59,7 @@ std::optional<SQLSentence> SplitSQLSentence(const QString &statement)
     return SQLSentence{byWhere->before, byWhere->after, byOrder->after};
 }
 
-QString JoinSQLSentence(const SQLSentence &sentence)
+QString joinSQLSentence(const SQLSentence &sentence)
 {
     return sentence.fields + u' ' + sentence.where + u' ' + sentence.order;
 }
@@ -74,18 +74,18 @@ QString ComposeSQL(const QString &head, const QString &where, const QString &ord
     return text;
 }
 
-void AddCondition(SQLSentence &sentence, const QString &condition)
+void addCondition(SQLSentence &sentence, const QString &condition)
 {
     if (condition.isEmpty())
         return;
-    const QString where = Trim(sentence.where);
+    const QString where = trim(sentence.where);
     if (where.isEmpty()) {
         sentence.where = kWhere + condition;
         return;
     }
     const qsizetype keyword = kWhere.size() - 2;
     if (HasOuterOr(From(where, keyword + 1)))
-        sentence.where = First(where, keyword) + QStringLiteral(" (") + Trim(From(where, keyword + 1)) + u')';
+        sentence.where = First(where, keyword) + QStringLiteral(" (") + trim(From(where, keyword + 1)) + u')';
     sentence.where += QStringLiteral(" AND ") + (HasOuterOr(condition) ? u'(' + condition + u')' : condition);
 }
 
@@ -96,20 +96,20 @@ QString ReplaceSQLFieldPart(const QString &statement, const QString &fieldStatem
     if (!sentence || !newFields)
         return {};
     sentence->fields = newFields->fields;
-    return JoinSQLSentence(*sentence);
+    return joinSQLSentence(*sentence);
 }
 
 QString AppendOrderWord(const QString &statement, const QString &sortList)
 {
-    if (statement.isEmpty() || sortList.isEmpty() || FindUpper(statement, kOrderBy) > 0)
+    if (statement.isEmpty() || sortList.isEmpty() || findUpper(statement, kOrderBy) > 0)
         return statement;
     return statement + kOrderBy + sortList;
 }
 
-QString ReplaceOrderWord(const QString &statement, const QString &sortList)
+QString replaceOrderWord(const QString &statement, const QString &sortList)
 {
     QString text = statement;
-    if (const auto order = FindUpper(text, kOrderBy); order > 0)
+    if (const auto order = findUpper(text, kOrderBy); order > 0)
         text = First(text, order);
     if (!sortList.isEmpty())
         text += kOrderBy + sortList;
@@ -127,17 +127,17 @@ QString GetNoRowSQL(const QString &statement)
 QString GetSQLTableName(const QString &statement)
 {
     const QString head = HeadWithoutConditions(statement);
-    const auto from = FindUpper(head, kFrom);
+    const auto from = findUpper(head, kFrom);
     return from == 0 ? head : From(head, from + kFrom.size());
 }
 
-QString GetFromPart(const QString &statement)
+QString getFromPart(const QString &statement)
 {
-    const auto from = FindUpper(statement, kFrom);
+    const auto from = findUpper(statement, kFrom);
     return from == 0 ? QString() : From(statement, from);
 }
 
-QStringList SplitList(const QString &list)
+QStringList splitList(const QString &list)
 {
     const SqlScanner scanned(list);
     QStringList entries;
@@ -147,7 +147,7 @@ QStringList SplitList(const QString &list)
         if (!isEnd && !(scanned.isSymbol(i, u',') && scanned.at(i).depth == 0))
             continue;
         const qsizetype end = isEnd ? list.size() : scanned.at(i).start;
-        const QString entry = Trim(list.sliced(begin, end - begin));
+        const QString entry = trim(list.sliced(begin, end - begin));
         if (!entry.isEmpty())
             entries.append(entry);
         begin = end + 1;
@@ -167,7 +167,7 @@ QString CutStringEnds(const QString &text, const QString &affix, int mode)
     return rest;
 }
 
-QString JoinStatementLines(const QString &statement)
+QString joinStatementLines(const QString &statement)
 {
     const auto isBreak = [](QChar c) { return c == u'\n' || c == u'\r' || c == u'\t'; };
     QString joined;
@@ -175,7 +175,7 @@ QString JoinStatementLines(const QString &statement)
     qsizetype quotedEnd = 0;
     for (qsizetype i = 0; i < statement.size();) {
         const QChar c = statement.at(i);
-        if (const QChar closing = ClosingQuote(c); !closing.isNull()) {
+        if (const QChar closing = closingQuote(c); !closing.isNull()) {
             const auto end = statement.indexOf(closing, i + 1);
             const auto size = end < 0 ? statement.size() - i : end + 1 - i;
             joined += QStringView(statement).mid(i, size);

@@ -31,7 +31,7 @@ std::optional<KeywordCut> SplitByKeyword(const QString &text, const QString &key
 std::optional<SQLSentence> SplitSQLSentence(const QString &statement);
 
 // The three parts with exactly one blank between them, empty parts too: joining what was split loses nothing.
-QString JoinSQLSentence(const SQLSentence &sentence);
+QString joinSQLSentence(const SQLSentence &sentence);
 
 // The head, followed by one blank and the part for each of the other parts that isn't empty.
 QString ComposeSQL(const QString &head, const QString &where, const QString &order);
@@ -39,7 +39,7 @@ QString ComposeSQL(const QString &head, const QString &where, const QString &ord
 // One more condition: the first one brings the word WHERE (and a blank before it), each further one AND; then
 // either side that has an OR outside all brackets gets brackets of its own.
 // An empty condition changes nothing.
-void AddCondition(SQLSentence &sentence, const QString &condition);
+void addCondition(SQLSentence &sentence, const QString &condition);
 
 // The statement with the head of `fieldStatement` in place of its own; empty when either text is empty.
 QString ReplaceSQLFieldPart(const QString &statement, const QString &fieldStatement);
@@ -49,7 +49,7 @@ QString ReplaceSQLFieldPart(const QString &statement, const QString &fieldStatem
 QString AppendOrderWord(const QString &statement, const QString &sortList);
 
 // The statement's ORDER BY part, if any, gives way to the sort list; an empty list leaves it unsorted.
-QString ReplaceOrderWord(const QString &statement, const QString &sortList);
+QString replaceOrderWord(const QString &statement, const QString &sortList);
 
 // A statement with the same fields that yields no row; empty when nothing stands before the first keyword.
 QString GetNoRowSQL(const QString &statement);
@@ -58,11 +58,11 @@ QString GetNoRowSQL(const QString &statement);
 QString GetSQLTableName(const QString &statement);
 
 // From the blank before FROM to the end; empty without FROM.
-QString GetFromPart(const QString &statement);
+QString getFromPart(const QString &statement);
 
 // The entries of a SELECT list or a sort, cut at the commas outside brackets, quotes and comments, without
 // blanks at their ends; empty ones are left out.
-QStringList SplitList(const QString &list);
+QStringList splitList(const QString &list);
 
 // Removes one `affix` at the text's begin (mode 1), end (mode 2) or both (mode 3); any other mode changes
 // nothing. An empty affix empties the result.
@@ -72,6 +72,6 @@ QString CutStringEnds(const QString &text, const QString &affix, int mode);
 // keywords of a statement written over several lines are found. Quoted and bracketed text stays as it is. A
 // "--" comment is dropped up to its line's end: on one line it would swallow the rest of the statement.
 // So is a ";" at the very end, which would come to stand in the middle of a derived statement.
-QString JoinStatementLines(const QString &statement);
+QString joinStatementLines(const QString &statement);
 
 } // namespace KOVAVSFDataGridLib

@@ -42,7 +42,7 @@ bool clsFilterManagement::SetSQLInitData()
 
 bool clsFilterManagement::LetNewFilter(const QString &strNewFilter, QString &strCurrentFilter)
 {
-    const QString statement = Trim(m_memory.lastUseFilter);
+    const QString statement = trim(m_memory.lastUseFilter);
     auto sentence = SplitSQLSentence(statement);
     if (!sentence)
         return false;
@@ -51,8 +51,8 @@ bool clsFilterManagement::LetNewFilter(const QString &strNewFilter, QString &str
             return false;
         strCurrentFilter = derivation->withCondition(strNewFilter);
     } else {
-        AddCondition(*sentence, strNewFilter);
-        strCurrentFilter = JoinSQLSentence(*sentence);
+        addCondition(*sentence, strNewFilter);
+        strCurrentFilter = joinSQLSentence(*sentence);
     }
     MakeCurrent(strCurrentFilter);
     m_memory.currentStatement = strCurrentFilter;
@@ -116,16 +116,16 @@ bool clsFilterManagement::GetPartShowSelFields(const QString &strAllFields, cons
     if (!m_tableFields.GetPartSelFields(strAllFields, strPartField, chosen))
         return false;
     if (!isText) {
-        strRetFields = current->withFields(SplitList(chosen));
+        strRetFields = current->withFields(splitList(chosen));
         m_memory.currentStatement = strRetFields;
         return !strRetFields.isEmpty();
     }
-    QString source = GetFromPart(strCurrentSQL);
+    QString source = getFromPart(strCurrentSQL);
     if (m_dbType == dbOracle) {
         // Oracle doesn't know brackets. List and source are rewritten apart, so that a lone apostrophe in a
         // name doesn't pair up with one behind FROM.
-        chosen = BracketsToQuotes(chosen);
-        source = BracketsToQuotes(source);
+        chosen = bracketsToQuotes(chosen);
+        source = bracketsToQuotes(source);
     }
     strRetFields = QStringLiteral("SELECT ") + chosen + source;
     m_memory.currentStatement = strRetFields;
@@ -231,12 +231,12 @@ void clsFilterManagement::ClearObject()
 QString clsFilterManagement::FieldListWithCurrentSource(const QString &fieldStatement) const
 {
     const QString from = QStringLiteral(" FROM ");
-    const auto end = FindUpper(fieldStatement, from);
+    const auto end = findUpper(fieldStatement, from);
     if (end < 2)
         return m_memory.originFilter;
     // Without a FROM of its own the statement shown follows as a whole.
     const QString &shown = m_memory.lastUseFilter;
-    const auto begin = FindUpper(shown, from);
+    const auto begin = findUpper(shown, from);
     return First(fieldStatement, end - 1) + Last(shown, shown.size() - begin + 1);
 }
 
@@ -280,7 +280,7 @@ std::optional<QString> clsFilterManagement::Derive(qint32 SQLType, bool isDerive
         m_memory.currentSortFields = text;
         if (const auto derivation = m_history.DerivationOf(m_memory.currentStatement, DerivationStep::Sort))
             return derivation->withSort(text);
-        return ReplaceOrderWord(m_memory.currentStatement, text);
+        return replaceOrderWord(m_memory.currentStatement, text);
     default:
         return QString();
     }

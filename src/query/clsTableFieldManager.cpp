@@ -30,10 +30,10 @@ bool clsTableFieldManager::GetSortSelFields(const QString &strAllField, const QS
     strRetSelFields.clear();
     if (!IsReadyToChoose(strAllField))
         return false;
-    const auto sort = m_chooser->ChooseSort(GetSQLTableName(strAllField), Offered(), SplitList(strSortField));
+    const auto sort = m_chooser->ChooseSort(GetSQLTableName(strAllField), Offered(), splitList(strSortField));
     strRetSelFields = sort.value_or(QString());
     // An emptied list removes the sort.
-    return !strRetSelFields.isEmpty() || (sort && m_reader->EngineOf(ConnString) != Engine::Other);
+    return !strRetSelFields.isEmpty() || (sort && m_reader->engineOf(ConnString) != Engine::Other);
 }
 
 bool clsTableFieldManager::IsReadyToChoose(const QString &strAllField)
@@ -47,11 +47,11 @@ bool clsTableFieldManager::IsReadyToChoose(const QString &strAllField)
 
 QList<OfferedField> clsTableFieldManager::Offered() const
 {
-    const Dialect dialect = DialectOf(m_database, m_reader->EngineOf(ConnString));
+    const Dialect dialect = dialectOf(m_database, m_reader->engineOf(ConnString));
     QList<OfferedField> fields;
     if (m_written.size() != m_fieldNames.size()) {
         for (const QString &name : m_fieldNames)
-            fields.append({name, WrittenName(dialect, name)});
+            fields.append({name, writtenName(dialect, name)});
         return fields;
     }
     for (qsizetype i = 0; i < m_fieldNames.size(); ++i) {

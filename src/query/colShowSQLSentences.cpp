@@ -144,8 +144,8 @@ bool colShowSQLSentences::GetNextSQLByFilter(const QString &strNewFilter, QStrin
         strCurrentFilter = derivation->withCondition(strNewFilter);
         return !strCurrentFilter.isEmpty();
     }
-    AddCondition(*sentence, strNewFilter);
-    strCurrentFilter = JoinSQLSentence(*sentence);
+    addCondition(*sentence, strNewFilter);
+    strCurrentFilter = joinSQLSentence(*sentence);
     return true;
 }
 
@@ -162,7 +162,7 @@ bool colShowSQLSentences::GetNextSQLBySort(const QString &strNewSort, QString &s
     sentence->order.clear();
     if (!strNewSort.isEmpty())
         sentence->order = QStringLiteral(" ORDER BY ") + strNewSort;
-    strCurrentFilter = JoinSQLSentence(*sentence);
+    strCurrentFilter = joinSQLSentence(*sentence);
     return true;
 }
 
@@ -199,9 +199,9 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
     if (!fields || fields->empty())
         return false;
     // What quotes do to a name is known only with the engine.
-    const Engine engine = EngineOf(strPassConnString);
+    const Engine engine = engineOf(strPassConnString);
     const auto quoted = [&](const QString &name) {
-        return engine == Engine::Other ? u'"' + name + u'"' : QuotedName(DialectOf(m_database, engine), name);
+        return engine == Engine::Other ? u'"' + name + u'"' : quotedName(dialectOf(m_database, engine), name);
     };
     QStringList names;
     QStringList longBinaryNames;
@@ -211,7 +211,7 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
     }
     auto sentence = SplitSQLSentence(strOrgSQL);
     sentence->fields.replace(*star, 1, (names + longBinaryNames).join(u','));
-    strRetSQL = JoinSQLSentence(*sentence);
+    strRetSQL = joinSQLSentence(*sentence);
     return true;
 }
 
@@ -288,7 +288,7 @@ bool colShowSQLSentences::StepBackTo(qsizetype position, QString &PassFilter, QS
     if (!target)
         return false;
     const bool isInStep = BringInStepWith(*target, m_connString);
-    if (!isInStep && (EngineOf(m_connString) == Engine::Other || !m_reader->Open(m_connString)))
+    if (!isInStep && (engineOf(m_connString) == Engine::Other || !m_reader->Open(m_connString)))
         return false;
     while (Count() > position)
         m_entries.Remove(Count());
@@ -316,7 +316,7 @@ bool colShowSQLSentences::FillCatalogue(const QString &connectionString, const Q
     if (!fields || fields->empty())
         return false;
     m_catalogue.Clear();
-    const Dialect dialect = DialectOf(m_database, EngineOf(connectionString));
+    const Dialect dialect = dialectOf(m_database, engineOf(connectionString));
     const Derivation derivation(statement, *fields, dialect);
     const bool isText = dialect.engine == Engine::Other || derivation.isSimple();
     for (std::size_t i = 0; i < fields->size(); ++i) {
@@ -325,7 +325,7 @@ bool colShowSQLSentences::FillCatalogue(const QString &connectionString, const Q
             continue;
         QString key;
         m_catalogue.AddFieldNameMess(source.name,
-                                     isText ? WrittenName(dialect, source.name)
+                                     isText ? writtenName(dialect, source.name)
                                             : derivation.written().at(static_cast<qsizetype>(i)),
                                      &key);
         m_catalogue.Update(key, [&](clsDataField &field) { field.FieldType = source.adoType; });
@@ -339,12 +339,12 @@ bool colShowSQLSentences::FillCatalogue(const QString &connectionString, const Q
 // Name.
 void colShowSQLSentences::WriteCatalogueAsText(const QString &statement)
 {
-    const QStringList writtenFields = WrittenFields(statement);
-    for (const QString &written : writtenFields) {
-        if (const clsDataField *const named = m_catalogue.Find(LastNamePart(written)))
+    const QStringList names = writtenFields(statement);
+    for (const QString &written : names) {
+        if (const clsDataField *const named = m_catalogue.Find(lastNamePart(written)))
             m_catalogue.Update(named->FieldKey, [&](clsDataField &field) { field.FieldWholeName = written; });
     }
-    m_catalogue.AppendFieldRealNameByCol(writtenFields);
+    m_catalogue.AppendFieldRealNameByCol(names);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -149,7 +149,7 @@ private:
     bool BringInStepWith(const clsShowSQLSentence &entry, const QString &connectionString);
     bool FillCatalogue(const QString &connectionString, const QString &statement);
     void WriteCatalogueAsText(const QString &statement);
-    Engine EngineOf(const QString &connectionString) const;
+    Engine engineOf(const QString &connectionString) const;
 
     FieldReader *m_reader = nullptr;
     AllDBType m_database = dbAccess;

@@ -6,26 +6,26 @@
 
 namespace KOVAVSFDataGridLib {
 
-Engine colShowSQLSentences::EngineOf(const QString &connectionString) const
+Engine colShowSQLSentences::engineOf(const QString &connectionString) const
 {
-    return m_reader ? m_reader->EngineOf(connectionString) : Engine::Other;
+    return m_reader ? m_reader->engineOf(connectionString) : Engine::Other;
 }
 
 std::optional<Derivation> colShowSQLSentences::DerivationOf(const QString &statement) const
 {
     if (statement.isEmpty() || !m_reader)
         return std::nullopt;
-    Engine engine = EngineOf(m_connString);
+    Engine engine = engineOf(m_connString);
     if (engine == Engine::Other) {
         // Simple statements don't need to know, so nobody waits for a connection.
-        if (Derivation(statement, {}, DialectOf(m_database, engine)).isSimple() ||
+        if (Derivation(statement, {}, dialectOf(m_database, engine)).isSimple() ||
             !m_reader->Open(m_connString))
             return std::nullopt;
-        engine = EngineOf(m_connString);
+        engine = engineOf(m_connString);
         if (engine == Engine::Other)
             return std::nullopt;
     }
-    const Dialect dialect = DialectOf(m_database, engine);
+    const Dialect dialect = dialectOf(m_database, engine);
     Derivation byText(statement, {}, dialect);
     if (byText.isSimple() && !byText.needsFields())
         return byText;

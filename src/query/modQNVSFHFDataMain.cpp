@@ -18,8 +18,8 @@ constexpr qsizetype kListPosition = 8;
 // The trimmed statement, or an empty text when it is no SELECT.
 QString SelectStatement(const QString &statement)
 {
-    const QString trimmed = Trim(statement);
-    return FindUpper(trimmed, QStringLiteral("SELECT")) > 0 ? trimmed : QString();
+    const QString trimmed = trim(statement);
+    return findUpper(trimmed, QStringLiteral("SELECT")) > 0 ? trimmed : QString();
 }
 
 QString WithoutBrackets(QString name)
@@ -39,13 +39,13 @@ std::optional<ParseFailure> ParseSQLFieldList(const QString &statement, AllDBTyp
     if (text.isEmpty())
         return std::nullopt;
     if (database != dbOracle) {
-        if (const auto where = FindUpper(text, QStringLiteral(" WHERE ")); where > 0)
+        if (const auto where = findUpper(text, QStringLiteral(" WHERE ")); where > 0)
             text = First(text, where - 1);
     }
 
     ParsedStatements &parsed = SharedValues::instance().parsed;
     parsed.strSQLTable = GetSQLTableName(text);
-    const auto blankBeforeFrom = FindUpper(text, QStringLiteral(" FROM "));
+    const auto blankBeforeFrom = findUpper(text, QStringLiteral(" FROM "));
     if (blankBeforeFrom < kListPosition)
         return ParseFailure{QStringLiteral("KOVAVSFDataGridLib"), QString::fromLatin1(kInvalidArgument)};
     const QString list = First(From(text, kListPosition), blankBeforeFrom - kListPosition);
@@ -54,13 +54,13 @@ std::optional<ParseFailure> ParseSQLFieldList(const QString &statement, AllDBTyp
     QStringList items = list.split(u',');
     const QString last = items.takeLast();
     for (const QString &written : items) {
-        const QString item = Trim(written);
+        const QString item = trim(written);
         parsed.colSQLFields.append(database == dbOracle ? item : WithoutBrackets(item));
     }
     // The last item differs from the others: elsewhere than on Oracle it keeps its blanks, which also shield
     // its "[".
     if (!last.contains(u'*'))
-        parsed.colSQLFields.append(database == dbOracle ? Trim(last) : WithoutBrackets(last));
+        parsed.colSQLFields.append(database == dbOracle ? trim(last) : WithoutBrackets(last));
     return std::nullopt;
 }
 
@@ -74,7 +74,7 @@ void ParseSelFieldList(const QString &statement)
     const QString text = SelectStatement(statement);
     if (text.isEmpty())
         return;
-    const auto blankBeforeFrom = FindUpper(text, QStringLiteral(" FROM "));
+    const auto blankBeforeFrom = findUpper(text, QStringLiteral(" FROM "));
     if (blankBeforeFrom < kListPosition)
         throw std::invalid_argument(kInvalidArgument);
     const QString list = First(From(text, kListPosition), blankBeforeFrom - kListPosition);
@@ -86,7 +86,7 @@ void ParseSelFieldList(const QString &statement)
     if (isListCut)
         items.removeLast();
     for (const QString &item : items)
-        fields.append(Trim(item));
+        fields.append(trim(item));
     if (isListCut)
         throw std::invalid_argument(kInvalidArgument);
 }

@@ -11,7 +11,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr int ScrollBarMargin = 260; // twips, kept free when columns are fitted
+constexpr int scrollBarMargin = 260; // twips, kept free when columns are fitted
 
 } // namespace
 
@@ -43,8 +43,8 @@ void ColumnLayout::SaveColumnWidths(qint32 mode)
     const QStringList headings = m_grid.Headings();
     for (int col = 1; col < m_grid.Cols(); ++col) {
         int width = m_grid.ColWidth(col);
-        if (width == ColumnView::UseDefaultWidth || (width == 0 && mode == 1))
-            width = ColumnView::DefaultColWidth;
+        if (width == ColumnView::useDefaultWidth || (width == 0 && mode == 1))
+            width = ColumnView::defaultColWidth;
         QString key;
         if (width >= 1 && fields.GetSelFieldKey(headings.at(col - 1), key))
             fields.Update(key, [width](clsDataField &field) { field.FieldWidth = width; });
@@ -78,8 +78,8 @@ void ColumnLayout::ShowAllFieldColumns()
         const clsDataField *field = fields.Find(headings.at(col - 1));
         int width = field ? field->FieldWidth : 0;
         const bool isHiddenForGood = !field && m_grid.ColWidth(col) == 0;
-        if (width == ColumnView::UseDefaultWidth || isHiddenForGood)
-            width = ColumnView::DefaultColWidth;
+        if (width == ColumnView::useDefaultWidth || isHiddenForGood)
+            width = ColumnView::defaultColWidth;
         if (width > 0)
             m_grid.PutColWidth(col, width);
     }
@@ -113,7 +113,7 @@ std::optional<double> ColumnLayout::shareOfWidth() const
     qint32 shown = 0;
     if (!m_history.GetCurrShowFieldsCount(shown) || shown < 1)
         return std::nullopt;
-    const int room = m_grid.width() - ScrollBarMargin - RowHeadingMargin;
+    const int room = m_grid.width() - scrollBarMargin - rowHeadingMargin;
     if (room < shown)
         return std::nullopt; // no room at all: better too wide than gone
     return static_cast<double>(room) / shown;

@@ -17,7 +17,7 @@ class ColumnLayout
 {
 public:
     // Kept free for the row headings when columns are fitted, in twips.
-    static constexpr int RowHeadingMargin = 600;
+    static constexpr int rowHeadingMargin = 600;
 
     // Both must outlive this object, which is made for the moment.
     ColumnLayout(ColumnView &grid, colShowSQLSentences &history);

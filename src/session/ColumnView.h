@@ -10,8 +10,8 @@ namespace KOVAVSFDataGridLib {
 class ColumnView
 {
 public:
-    static constexpr int UseDefaultWidth = -1;  // the width of a column that never got one
-    static constexpr int DefaultColWidth = 960; // twips; what that comes to
+    static constexpr int useDefaultWidth = -1;  // the width of a column that never got one
+    static constexpr int defaultColWidth = 960; // twips; what that comes to
 
     ColumnView() = default;
     virtual ~ColumnView() = default;
@@ -20,7 +20,7 @@ public:
     virtual int Cols() const { return 1; }
     // The texts above the columns 1 to Cols() - 1.
     virtual QStringList Headings() const { return {}; }
-    virtual int ColWidth(int /*col*/) const { return UseDefaultWidth; }
+    virtual int ColWidth(int /*col*/) const { return useDefaultWidth; }
     virtual void PutColWidth(int /*col*/, int /*twips*/) {}
     // All columns get the default width.
     virtual void ResetColWidths() {}

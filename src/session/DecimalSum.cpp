@@ -7,12 +7,12 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr int MostDigits = 36; // 10^36 times a hundred still fits 127 bits
-constexpr int ShownDigits = 15;
+constexpr int mostDigits = 36; // 10^36 times a hundred still fits 127 bits
+constexpr int shownDigits = 15;
 
 QString shown(double value)
 {
-    return QString::number(value + 0.0, 'G', ShownDigits);
+    return QString::number(value + 0.0, 'G', shownDigits);
 }
 
 } // namespace
@@ -41,7 +41,7 @@ bool DecimalSum::addText(QByteArrayView text)
     for (const char c : isNegative ? text.sliced(1) : text) {
         if (c == '.' && scale < 0) {
             scale = 0;
-        } else if (c >= '0' && c <= '9' && digits < MostDigits) {
+        } else if (c >= '0' && c <= '9' && digits < mostDigits) {
             value = value * 10 + (c - '0');
             digits += digits > 0 || c != '0' ? 1 : 0;
             scale += scale >= 0 ? 1 : 0;
@@ -71,7 +71,7 @@ bool DecimalSum::addExactly(Wide value, int scale)
 {
     static constexpr Wide limit = [] {
         Wide power = 1;
-        for (int i = 0; i < MostDigits; ++i)
+        for (int i = 0; i < mostDigits; ++i)
             power *= 10;
         return power;
     }();

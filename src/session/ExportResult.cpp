@@ -43,7 +43,7 @@ std::size_t choice(const ADODB::ConnectionString::Part &part,
     throw unknown(part.keyword, part.value);
 }
 
-void takeOption(ExportAnswer &answer, const ADODB::ConnectionString::Part &part)
+void readOption(ExportAnswer &answer, const ADODB::ConnectionString::Part &part)
 {
     const auto is = [&](QLatin1StringView word) {
         return part.keyword.compare(word, Qt::CaseInsensitive) == 0;
@@ -67,34 +67,34 @@ void takeOption(ExportAnswer &answer, const ADODB::ConnectionString::Part &part)
 
 } // namespace
 
-ExportAnswer ExportAnswerFrom(const QString &file, const QString &options)
+ExportAnswer exportAnswerFrom(const QString &file, const QString &options)
 {
     ExportAnswer answer;
     answer.file = file;
-    const std::optional<ExportFormat> format = FormatOfFile(file);
+    const std::optional<ExportFormat> format = formatOfFile(file);
     if (!format)
-        throw ADODB::Error(ADODB::adErrInvalidArgument, UnknownFormatText(file));
+        throw ADODB::Error(ADODB::adErrInvalidArgument, unknownFormatText(file));
     answer.options.format = *format;
     const ADODB::ConnectionString written(options); // of the same form
     for (const ADODB::ConnectionString::Part &part : written.parts())
-        takeOption(answer, part);
+        readOption(answer, part);
     return answer;
 }
 
-bool ExportResult(Session &session, const ExportAnswer &what)
+bool exportResult(Session &session, const ExportAnswer &what)
 {
     const auto alive = session.shared_from_this();
     const std::shared_ptr<ADODB::Recordset> recordset = session.result().recordset();
     const RecordRange range =
-        what.isMarkedOnly ? MarkedRecords(session) : RecordRange{1, recordset->RecordCount()};
+        what.isMarkedOnly ? markedRecords(session) : RecordRange{1, recordset->RecordCount()};
     const ExportColumns columns =
-        ExportColumnsOf(session, what.hasAllColumns ? allColumns(session) : session.window().shownColumns());
+        exportColumnsOf(session, what.hasAllColumns ? allColumns(session) : session.window().shownColumns());
     QString toTell;
     bool isWritten = false;
     try {
-        WriteUnderProgress(session, SessionMessages::RecordsExported, range, [&](const auto &goOn) {
+        writeUnderProgress(session, SessionMessages::RecordsExported, range, [&](const auto &shouldContinue) {
             const ExportOutcome outcome =
-                ExportToFile(what.file, what.options, *recordset, range, columns, goOn);
+                exportToFile(what.file, what.options, *recordset, range, columns, shouldContinue);
             isWritten = outcome.isWritten;
             toTell = outcome.losses;
             return isWritten;

@@ -8,10 +8,10 @@ class Session;
 
 // Writes the open result to a file under the progress line. False when the user cancelled and when it fails,
 // which he has been told.
-bool ExportResult(Session &session, const ExportAnswer &what);
+bool exportResult(Session &session, const ExportAnswer &what);
 
 // What a host asks for by a file and `Keyword=value;…` (see IKOVAVSFDataGrid::ExportData). Throws
 // ADODB::Error when one of them can't be understood.
-ExportAnswer ExportAnswerFrom(const QString &file, const QString &options);
+ExportAnswer exportAnswerFrom(const QString &file, const QString &options);
 
 } // namespace KOVAVSFDataGridLib

@@ -10,11 +10,11 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr int TwipsOfPixel = 15; // at 96 DPI
+constexpr int twipsOfPixel = 15; // at 96 DPI
 
 } // namespace
 
-ExportColumns ExportColumnsOf(Session &session, const std::vector<int> &columns)
+ExportColumns exportColumnsOf(Session &session, const std::vector<int> &columns)
 {
     const ADODB::Fields &fields = session.result().recordset()->Fields();
     const SessionWindow &window = session.window();
@@ -24,13 +24,13 @@ ExportColumns ExportColumnsOf(Session &session, const std::vector<int> &columns)
             continue;
         const ADODB::Field &field = fields.Item(col - 1);
         const int width = window.ColWidth(col);
-        const int twips = width == ColumnView::UseDefaultWidth ? ColumnView::DefaultColWidth : width;
-        made.push_back({col - 1, field.Name(), field.Type(), field.NumericScale(), twips / TwipsOfPixel});
+        const int twips = width == ColumnView::useDefaultWidth ? ColumnView::defaultColWidth : width;
+        made.push_back({col - 1, field.Name(), field.Type(), field.NumericScale(), twips / twipsOfPixel});
     }
     return made;
 }
 
-RecordRange MarkedRecords(Session &session)
+RecordRange markedRecords(Session &session)
 {
     const MarkedCells marked = session.window().markedCells();
     if (marked.lastRow < marked.firstRow || marked.firstRow < 1)
@@ -40,17 +40,17 @@ RecordRange MarkedRecords(Session &session)
             std::min(last, session.result().recordset()->RecordCount())};
 }
 
-bool WriteUnderProgress(Session &session, const QString &done, const RecordRange &range,
-                        const std::function<bool(const std::function<bool(qint64)> &goOn)> &write)
+bool writeUnderProgress(Session &session, const QString &done, const RecordRange &range,
+                        const std::function<bool(const std::function<bool(qint64)> &shouldContinue)> &write)
 {
     if (session.shared.isOpening)
         return false;
     const ResultWatch watch(session);
     const auto progress = session.window().beginWriting(done, range.count());
-    const auto goOn = [&](qint64 written) {
-        return (!progress || progress->goOn(written)) && watch.isUntouched();
+    const auto shouldContinue = [&](qint64 written) {
+        return (!progress || progress->shouldContinue(written)) && watch.isUntouched();
     };
-    return write(goOn) && watch.isUntouched();
+    return write(shouldContinue) && watch.isUntouched();
 }
 
 } // namespace KOVAVSFDataGridLib

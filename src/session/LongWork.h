@@ -13,13 +13,13 @@ class Session;
 // while the progress line is up.
 
 // The columns of the grid, from 1, as an export writes them.
-ExportColumns ExportColumnsOf(Session &session, const std::vector<int> &columns);
+ExportColumns exportColumnsOf(Session &session, const std::vector<int> &columns);
 // The marked rows as records; none when nothing is marked.
-RecordRange MarkedRecords(Session &session);
+RecordRange markedRecords(Session &session);
 
 // Hands the records to the writer under a progress line that says `done`. False when the user cancelled, when
 // the result was taken away meanwhile, and when a statement is being opened. Throws as WriteRecords does.
-bool WriteUnderProgress(Session &session, const QString &done, const RecordRange &range,
-                        const std::function<bool(const std::function<bool(qint64)> &goOn)> &write);
+bool writeUnderProgress(Session &session, const QString &done, const RecordRange &range,
+                        const std::function<bool(const std::function<bool(qint64)> &shouldContinue)> &write);
 
 } // namespace KOVAVSFDataGridLib

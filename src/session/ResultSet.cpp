@@ -47,7 +47,7 @@ ResultSet::Opened ResultSet::open(const QString &connectionString, const QString
     recordset->SetProgress(progress);
     recordset->Open(statement, connection, ADODB::adOpenKeyset, ADODB::adLockOptimistic, ADODB::adCmdText);
     recordset->SetProgress({});
-    recordset->PutPageSize(SharedValues::RecordCap);
+    recordset->PutPageSize(SharedValues::recordCap);
     return {connectionString, std::move(connection), closedByLastHolder(std::move(recordset))};
 }
 
@@ -64,7 +64,7 @@ void ResultSet::borrow(Opened opened)
     m_connectionString = std::move(opened.connectionString);
     m_connection = std::move(opened.connection);
     m_recordset = std::move(opened.recordset);
-    m_engine = EngineOf(m_connection);
+    m_engine = engineOf(m_connection);
 }
 
 std::shared_ptr<ADODB::Connection> ResultSet::newConnection(qint32 dbType)

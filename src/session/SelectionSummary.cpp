@@ -12,7 +12,7 @@ namespace {
 
 using RawKind = ADODB::RawValue::Kind;
 
-constexpr qint64 CellsOfAStep = 200000; // some ten milliseconds
+constexpr qint64 cellsOfAStep = 200000; // some ten milliseconds
 
 int fieldsOf(const ExportColumns &columns)
 {
@@ -44,9 +44,9 @@ SelectionSummary::SelectionSummary(const ADODB::Recordset &recordset, const Reco
     }
 }
 
-void SelectionSummary::goOn()
+void SelectionSummary::addNextCells()
 {
-    const auto rows = std::max<qint64>(1, CellsOfAStep / std::max<qint64>(1, std::ssize(m_columns)));
+    const auto rows = std::max<qint64>(1, cellsOfAStep / std::max<qint64>(1, std::ssize(m_columns)));
     const qint64 end = std::min(m_range.last, m_next + rows - 1);
     for (; m_next <= end; ++m_next) {
         const std::vector<ADODB::RawValue> *const cells = m_reader.read(m_next);
@@ -67,12 +67,12 @@ void SelectionSummary::take(const ADODB::RawValue &cell, const Column &column)
     // What a database without types of its own computes says only by its values what it is.
     const bool isStoredNumber = cell.kind == RawKind::Integer || cell.kind == RawKind::Real;
     if (column.kind == Kind::Date)
-        takeDate(cell, column);
+        addDate(cell, column);
     else if (column.kind == Kind::Number || (isStoredNumber && column.type != ADODB::adBoolean))
-        takeNumber(cell, column);
+        addNumber(cell, column);
 }
 
-void SelectionSummary::takeNumber(const ADODB::RawValue &cell, const Column &column)
+void SelectionSummary::addNumber(const ADODB::RawValue &cell, const Column &column)
 {
     double number = 0;
     if (cell.kind == RawKind::Integer) {
@@ -99,7 +99,7 @@ void SelectionSummary::takeNumber(const ADODB::RawValue &cell, const Column &col
 }
 
 // Their texts are in the order of time.
-void SelectionSummary::takeDate(const ADODB::RawValue &cell, const Column &column)
+void SelectionSummary::addDate(const ADODB::RawValue &cell, const Column &column)
 {
     if (cell.kind != RawKind::Text)
         return;

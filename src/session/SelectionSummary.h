@@ -17,7 +17,7 @@ public:
     SelectionSummary(const ADODB::Recordset &recordset, const RecordRange &range, ExportColumns columns);
 
     // Looks at some more records.
-    void goOn();
+    void addNextCells();
     bool isDone() const { return m_next > m_range.last; }
 
     // Cells that are not Null.
@@ -49,8 +49,8 @@ private:
     };
 
     void take(const ADODB::RawValue &cell, const Column &column);
-    void takeNumber(const ADODB::RawValue &cell, const Column &column);
-    void takeDate(const ADODB::RawValue &cell, const Column &column);
+    void addNumber(const ADODB::RawValue &cell, const Column &column);
+    void addDate(const ADODB::RawValue &cell, const Column &column);
     static QString textOf(const std::optional<Extreme> &extreme);
 
     const RecordRange m_range;

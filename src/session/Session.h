@@ -186,7 +186,7 @@ public:
     bool hasRecords() const;
     // Takes number of records and position into the shared values.
     void updateRecordPosition();
-    void takeRecordCount();
+    void storeRecordCount();
 
     // Takes the value that is being typed into the current record. False when it doesn't fit, which the user
     // has been told, or when the host has put something else in the result's place.

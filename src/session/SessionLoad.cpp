@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 std::unique_ptr<clsFilterManagement> Session::filterManagerForLoad()
 {
-    const QString allFields = JoinStatementLines(texts.sqlShow);
+    const QString allFields = joinStatementLines(texts.sqlShow);
     auto manager = newFilterManager();
     manager->SetDBType(static_cast<AllDBType>(shared.dbType));
     manager->SetTBLType(texts.tableType);
@@ -24,8 +24,8 @@ std::unique_ptr<clsFilterManagement> Session::filterManagerForLoad()
     manager->SetDBConnString(texts.connectionString);
     manager->SetAllFields(allFields);
     manager->SetOriginFilter(allFields);
-    manager->SetShowFields(JoinStatementLines(texts.sqlPartDisplay));
-    manager->SetOrderFields(JoinStatementLines(texts.sqlSort));
+    manager->SetShowFields(joinStatementLines(texts.sqlPartDisplay));
+    manager->SetOrderFields(joinStatementLines(texts.sqlSort));
     manager->SetSQLInitData();
     return manager;
 }
@@ -94,7 +94,7 @@ void Session::showLoaded(const ResultSet::Opened &opened, const QString &stateme
         m_window->ResetColWidths();
     m_window->showAllRecords();
 
-    takeRecordCount();
+    storeRecordCount();
     if (shared.hasRecords && m_window->Cols() > 1) {
         m_window->PutRow(1);
         m_window->PutCol(1);

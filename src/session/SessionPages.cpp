@@ -54,16 +54,16 @@ void Session::fillPage()
 
 int Session::recordsOnPage(int page) const
 {
-    const qint64 size = m_rules.fillsToTheEnd ? m_result.recordset()->PageSize() : SharedValues::RecordCap;
+    const qint64 size = m_rules.fillsToTheEnd ? m_result.recordset()->PageSize() : SharedValues::recordCap;
     const qint64 before = static_cast<qint64>(page - 1) * size;
     return static_cast<int>(
-        std::clamp<qint64>(m_result.recordset()->RecordCount() - before, 0, SharedValues::RecordCap));
+        std::clamp<qint64>(m_result.recordset()->RecordCount() - before, 0, SharedValues::recordCap));
 }
 
 qint64 Session::recordOfRow(qint64 row) const
 {
     const qint64 size = m_rules.fillsToTheEnd && m_result.recordset() ? m_result.recordset()->PageSize()
-                                                                      : SharedValues::RecordCap;
+                                                                      : SharedValues::recordCap;
     return static_cast<qint64>(std::max(m_page, 1) - 1) * size + row;
 }
 
@@ -120,12 +120,12 @@ void Session::stepPage(PageStep step)
 void Session::refillAtRecord(qint64 record)
 {
     m_window->keepInView([&] {
-        if (!showPage((std::max<qint64>(record, 1) - 1) / SharedValues::RecordCap + 1))
+        if (!showPage((std::max<qint64>(record, 1) - 1) / SharedValues::recordCap + 1))
             return;
         const QSignalBlocker silent(m_adodc);
         if (const int row = rowOfRecord(record); row > 0)
             m_window->PutRow(row);
-        takeRecordCount();
+        storeRecordCount();
     });
 }
 
@@ -148,10 +148,10 @@ void Session::updateRecordPosition()
     m_window->refreshStatus();
 }
 
-void Session::takeRecordCount()
+void Session::storeRecordCount()
 {
     shared.recordCount =
-        static_cast<qint32>(std::min<qint64>(m_result.recordset()->RecordCount(), SharedValues::RecordCap));
+        static_cast<qint32>(std::min<qint64>(m_result.recordset()->RecordCount(), SharedValues::recordCap));
     shared.hasRecords = shared.recordCount >= 1 ? 1 : 0;
 }
 

@@ -20,11 +20,11 @@ void Session::rememberStatement() const
 ResultSet::Opened Session::openStatement(const QString &statement, qint32 dbType)
 {
     const auto progress = m_window->beginOpening();
-    const auto goOn = [&](qint64 rowsRead) {
-        return !m_isDetached && (!progress || progress->goOn(rowsRead));
+    const auto shouldContinue = [&](qint64 rowsRead) {
+        return !m_isDetached && (!progress || progress->shouldContinue(rowsRead));
     };
-    return m_opener ? m_opener(statement, goOn)
-                    : ResultSet::open(texts.connectionString, statement, dbType, goOn);
+    return m_opener ? m_opener(statement, shouldContinue)
+                    : ResultSet::open(texts.connectionString, statement, dbType, shouldContinue);
 }
 
 Session::Reading Session::readResult(const QString &statement, qint32 dbType,
@@ -143,7 +143,7 @@ bool Session::replaceResult(const ResultSet::Opened &opened)
 ConditionRequest Session::conditionRequest()
 {
     return {texts.connectionString, filterManager().DBType(),
-            texts.tableType,        JoinStatementLines(texts.sqlShow),
+            texts.tableType,        joinStatementLines(texts.sqlShow),
             m_result.connection(),  history().GetFilteredResult()};
 }
 

@@ -21,7 +21,7 @@ class OpeningProgress
 public:
     virtual ~OpeningProgress() = default;
     // To be called every few milliseconds; false once the user has cancelled. It doesn't throw.
-    virtual bool goOn(qint64 rowsDone) = 0;
+    virtual bool shouldContinue(qint64 rowsDone) = 0;
 };
 
 // The cells that the user has marked: some of the columns over some rows in sequence, both from 1.

@@ -37,7 +37,7 @@ QString momentLiteral(Engine engine, QLatin1StringView word, const QVariant &val
 
 } // namespace
 
-QString SqlValue(const Dialect &dialect, const QVariant &value)
+QString sqlValue(const Dialect &dialect, const QVariant &value)
 {
     const Engine engine = dialect.likelyEngine();
     switch (value.typeId()) {
@@ -62,7 +62,7 @@ QString SqlValue(const Dialect &dialect, const QVariant &value)
     case QMetaType::QDateTime:
         return momentLiteral(engine, "TIMESTAMP"_L1, value);
     default:
-        return TextLiteral(dialect, ADODB::ValueText(value));
+        return textLiteral(dialect, ADODB::ValueText(value));
     }
 }
 

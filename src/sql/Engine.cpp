@@ -4,7 +4,7 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-Engine EngineNamed(const QString &name)
+Engine engineNamed(const QString &name)
 {
     struct Known
     {
@@ -38,7 +38,7 @@ Engine Dialect::likelyEngine() const
     return Engine::Standard;
 }
 
-Dialect DialectOf(AllDBType database, Engine engine)
+Dialect dialectOf(AllDBType database, Engine engine)
 {
     return {.database = database,
             .isOdbc = engine != Engine::Other && engine != Engine::SQLite,

@@ -11,7 +11,7 @@ namespace KOVAVSFDataGridLib {
 enum class Engine { Other, SQLite, Access, SqlServer, Oracle, PostgreSQL, MySQL, Standard };
 
 // By the name that the engine's driver gives it, in any version or edition. MariaDB is MySQL here.
-Engine EngineNamed(const QString &name);
+Engine engineNamed(const QString &name);
 
 // What decides how a statement is written and read.
 struct Dialect
@@ -27,6 +27,6 @@ struct Dialect
 };
 
 // As far as the declared type and the engine decide it.
-Dialect DialectOf(AllDBType database, Engine engine);
+Dialect dialectOf(AllDBType database, Engine engine);
 
 } // namespace KOVAVSFDataGridLib

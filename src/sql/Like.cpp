@@ -6,26 +6,26 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-bool LikesTextsOnly(Engine engine)
+bool likesTextsOnly(Engine engine)
 {
     return engine == Engine::PostgreSQL;
 }
 
 // Texts too: a driver reports many types as text that LIKE refuses (JSON, network addresses, enumerations),
 // and casting a real text costs nothing.
-QString LikeOperand(Engine engine, const QString &field)
+QString likeOperand(Engine engine, const QString &field)
 {
-    return LikesTextsOnly(engine) ? "CAST("_L1 + field + " AS TEXT)"_L1 : field;
+    return likesTextsOnly(engine) ? "CAST("_L1 + field + " AS TEXT)"_L1 : field;
 }
 
 // The backslash is LIKE's own escape on these, quite apart from what literals make of it.
-QString LikePattern(Engine engine, QString text)
+QString likePattern(Engine engine, QString text)
 {
     const bool isEscape = engine == Engine::PostgreSQL || engine == Engine::MySQL;
     return isEscape ? text.replace(u'\\', "\\\\"_L1) : text;
 }
 
-QString Like(const Dialect &dialect, const QString &field, const QString &text, Anchor anchor)
+QString like(const Dialect &dialect, const QString &field, const QString &text, Anchor anchor)
 {
     // Not a backslash: some databases read that as an escape of the literal itself.
     constexpr QChar escape = u'!';
@@ -42,7 +42,7 @@ QString Like(const Dialect &dialect, const QString &field, const QString &text, 
         pattern.prepend(u'%');
     if (anchor != Anchor::End)
         pattern.append(u'%');
-    return LikeOperand(dialect.engine, field) + " LIKE "_L1 + TextWithoutClauses(dialect, pattern) +
+    return likeOperand(dialect.engine, field) + " LIKE "_L1 + textWithoutClauses(dialect, pattern) +
            (isEscaped ? " ESCAPE '!'"_L1 : ""_L1);
 }
 

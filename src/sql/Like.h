@@ -8,16 +8,16 @@
 namespace KOVAVSFDataGridLib {
 
 // Whether LIKE takes texts only: others are to be cast, and pictures can't be searched at all.
-bool LikesTextsOnly(Engine engine);
+bool likesTextsOnly(Engine engine);
 
 // The field as LIKE takes it, whatever its type is.
-QString LikeOperand(Engine engine, const QString &field);
+QString likeOperand(Engine engine, const QString &field);
 
 // The text as a pattern of LIKE without ESCAPE: "%" and "_" are wildcards, a backslash is itself.
-QString LikePattern(Engine engine, QString text);
+QString likePattern(Engine engine, QString text);
 
 // `field` LIKE the text, matched as itself, with anything before or after it.
 enum class Anchor { Begin, End, None };
-QString Like(const Dialect &dialect, const QString &field, const QString &text, Anchor anchor);
+QString like(const Dialect &dialect, const QString &field, const QString &text, Anchor anchor);
 
 } // namespace KOVAVSFDataGridLib

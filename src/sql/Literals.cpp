@@ -53,18 +53,18 @@ QString timeText(QTime time)
 
 } // namespace
 
-QString TextLiteral(const Dialect &dialect, QString text)
+QString textLiteral(const Dialect &dialect, QString text)
 {
     if (dialect.escapesByBackslash)
         text.replace(u'\\', "\\\\"_L1);
     return needsUnicode(dialect, text) ? u'N' + quoted(text) : quoted(text);
 }
 
-QString TextWithoutClauses(const Dialect &dialect, const QString &text)
+QString textWithoutClauses(const Dialect &dialect, const QString &text)
 {
     QString joined;
     for (const QString &piece : piecesWithoutClauseWords(text)) {
-        const QString literal = TextLiteral(dialect, piece);
+        const QString literal = textLiteral(dialect, piece);
         if (joined.isEmpty())
             joined = literal;
         else if (dialect.isOdbc)
@@ -75,18 +75,18 @@ QString TextWithoutClauses(const Dialect &dialect, const QString &text)
     return joined;
 }
 
-QString DateLiteral(const Dialect &dialect, QDate date)
+QString dateLiteral(const Dialect &dialect, QDate date)
 {
     return momentText(dialect, "d"_L1, date.toString(Qt::ISODate));
 }
 
-QString DateOperand(const Dialect &dialect, const QString &field)
+QString dateOperand(const Dialect &dialect, const QString &field)
 {
     const bool isText = dialect.engine == Engine::SQLite && !dialect.isOdbc;
     return isText ? u"COALESCE(date(%1), %1)"_s.arg(field) : field;
 }
 
-QString MomentOperand(const Dialect &dialect, const QString &field)
+QString momentOperand(const Dialect &dialect, const QString &field)
 {
     const bool isText = dialect.engine == Engine::SQLite && !dialect.isOdbc;
     // A fraction only where there is one, as literals have it.
@@ -94,12 +94,12 @@ QString MomentOperand(const Dialect &dialect, const QString &field)
                   : field;
 }
 
-QString TimeLiteral(const Dialect &dialect, QTime time)
+QString timeLiteral(const Dialect &dialect, QTime time)
 {
     return momentText(dialect, "t"_L1, timeText(time));
 }
 
-QString MomentLiteral(const Dialect &dialect, const QDateTime &moment)
+QString momentLiteral(const Dialect &dialect, const QDateTime &moment)
 {
     return momentText(dialect, "ts"_L1, moment.date().toString(Qt::ISODate) + u' ' + timeText(moment.time()));
 }

@@ -9,19 +9,19 @@
 namespace KOVAVSFDataGridLib {
 
 // The text in apostrophes, such that the engine reads exactly this text.
-QString TextLiteral(const Dialect &dialect, QString text);
+QString textLiteral(const Dialect &dialect, QString text);
 
 // The same, as several literals put together where the text holds words that begin a clause: statements are
 // taken apart at these words wherever they occur.
-QString TextWithoutClauses(const Dialect &dialect, const QString &text);
+QString textWithoutClauses(const Dialect &dialect, const QString &text);
 
-QString DateLiteral(const Dialect &dialect, QDate date);
-QString TimeLiteral(const Dialect &dialect, QTime time);
-QString MomentLiteral(const Dialect &dialect, const QDateTime &moment);
+QString dateLiteral(const Dialect &dialect, QDate date);
+QString timeLiteral(const Dialect &dialect, QTime time);
+QString momentLiteral(const Dialect &dialect, const QDateTime &moment);
 
 // A field of days or moments as it is compared with DateLiteral or MomentLiteral. SQLite keeps them as texts
 // of several forms, of which those that mean the same are to be equal.
-QString DateOperand(const Dialect &dialect, const QString &field);
-QString MomentOperand(const Dialect &dialect, const QString &field);
+QString dateOperand(const Dialect &dialect, const QString &field);
+QString momentOperand(const Dialect &dialect, const QString &field);
 
 } // namespace KOVAVSFDataGridLib

@@ -42,7 +42,7 @@ bool losesItsCase(const Dialect &dialect, const QString &name)
 
 } // namespace
 
-bool IsPlainName(const QString &name)
+bool isPlainName(const QString &name)
 {
     const auto letters = name.toUcs4();
     const auto isInner = [](uint c) {
@@ -52,44 +52,44 @@ bool IsPlainName(const QString &name)
            std::all_of(letters.cbegin(), letters.cend(), isInner);
 }
 
-QString WrittenName(const Dialect &dialect, const QString &name)
+QString writtenName(const Dialect &dialect, const QString &name)
 {
     const Engine engine = dialect.likelyEngine();
-    const bool isBare = IsPlainName(name) && (!name.contains(u'#') || readsNumberSign(engine)) &&
-                        !losesItsCase(dialect, name) && !IsReservedWord(engine, name);
-    return isBare ? name : QuotedName(dialect, name);
+    const bool isBare = isPlainName(name) && (!name.contains(u'#') || readsNumberSign(engine)) &&
+                        !losesItsCase(dialect, name) && !isReservedWord(engine, name);
+    return isBare ? name : quotedName(dialect, name);
 }
 
-QString QuotedName(const Dialect &dialect, const QString &name)
+QString quotedName(const Dialect &dialect, const QString &name)
 {
     switch (dialect.engine) {
     case Engine::MySQL:
-        return Enclosed(u'`', name, u'`');
+        return enclosed(u'`', name, u'`');
     case Engine::SQLite: // it reads brackets as well, but none inside them
         if (dialect.database != dbOracle && !name.contains(u']'))
-            return Enclosed(u'[', name, u']');
-        return Enclosed(u'"', name, u'"');
+            return enclosed(u'[', name, u']');
+        return enclosed(u'"', name, u'"');
     case Engine::Access:
     case Engine::SqlServer:
-        return Enclosed(u'[', name, u']');
+        return enclosed(u'[', name, u']');
     case Engine::Other:
         if (dialect.database != dbOracle)
-            return Enclosed(u'[', name, u']');
+            return enclosed(u'[', name, u']');
         break;
     case Engine::Oracle:
     case Engine::PostgreSQL:
     case Engine::Standard:
         break;
     }
-    return Enclosed(u'"', name, u'"');
+    return enclosed(u'"', name, u'"');
 }
 
-QString Enclosed(QChar opening, QString name, QChar closing)
+QString enclosed(QChar opening, QString name, QChar closing)
 {
     return opening + name.replace(closing, QString(2, closing)) + closing;
 }
 
-QChar ClosingQuote(QChar opening)
+QChar closingQuote(QChar opening)
 {
     switch (opening.unicode()) {
     case u'\'':
@@ -103,7 +103,7 @@ QChar ClosingQuote(QChar opening)
     }
 }
 
-QString LastNamePart(const QString &writtenName)
+QString lastNamePart(const QString &writtenName)
 {
     const QChar last = writtenName.isEmpty() ? QChar() : writtenName.back();
     const QChar opening = last == u']' ? QChar(u'[') : last == u'"' || last == u'`' ? last : QChar();
@@ -115,20 +115,20 @@ QString LastNamePart(const QString &writtenName)
     return isAlias ? QString() : name.mid(open + 1);
 }
 
-QString BracketsToQuotes(const QString &text)
+QString bracketsToQuotes(const QString &text)
 {
     QString result;
     result.reserve(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar c = text.at(i);
         const bool opens = c == u'[' || c == u'\'' || c == u'"';
-        const auto end = opens ? text.indexOf(ClosingQuote(c), i + 1) : -1;
+        const auto end = opens ? text.indexOf(closingQuote(c), i + 1) : -1;
         if (end < 0) {
             result += c;
             continue;
         }
         if (c == u'[')
-            result += Enclosed(u'"', text.mid(i + 1, end - i - 1), u'"');
+            result += enclosed(u'"', text.mid(i + 1, end - i - 1), u'"');
         else
             result += QStringView(text).mid(i, end + 1 - i);
         i = end;

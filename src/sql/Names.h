@@ -8,27 +8,27 @@
 namespace KOVAVSFDataGridLib {
 
 // True for a letter or "_" followed by letters and numbers of any script, "_", "$" and "#".
-bool IsPlainName(const QString &name);
+bool isPlainName(const QString &name);
 
 // The name of a field or table, as the database reports it, as a statement writes it: bare where the engine
 // then reads this very name, else quoted. A name can need quotes for its characters, because it is a word of
 // the language, or because the engine would change its letters' case.
-QString WrittenName(const Dialect &dialect, const QString &name);
+QString writtenName(const Dialect &dialect, const QString &name);
 
 // The name in the engine's quotes, whether it needs them or not. Quotes inside are doubled.
-QString QuotedName(const Dialect &dialect, const QString &name);
+QString quotedName(const Dialect &dialect, const QString &name);
 
 // The text between two quote characters, the closing one doubled inside.
-QString Enclosed(QChar opening, QString name, QChar closing);
+QString enclosed(QChar opening, QString name, QChar closing);
 
 // The character that ends a quoted text or name which begins with this one; null for any other character.
-QChar ClosingQuote(QChar opening);
+QChar closingQuote(QChar opening);
 
 // The last part of a written name without its quotes: "Name" for dbo.T."Name". Empty when a quoted alias
 // follows it.
-QString LastNamePart(const QString &writtenName);
+QString lastNamePart(const QString &writtenName);
 
 // The text with each [name] outside quotes written "name".
-QString BracketsToQuotes(const QString &text);
+QString bracketsToQuotes(const QString &text);
 
 } // namespace KOVAVSFDataGridLib

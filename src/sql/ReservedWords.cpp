@@ -98,7 +98,7 @@ const Words &wordsOf(Engine engine)
 
 } // namespace
 
-bool IsReservedWord(Engine engine, const QString &name)
+bool isReservedWord(Engine engine, const QString &name)
 {
     return wordsOf(engine).contains(name.toUpper());
 }

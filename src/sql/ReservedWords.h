@@ -8,6 +8,6 @@ namespace KOVAVSFDataGridLib {
 
 // Whether the engine takes the bare name, in any letter case, for a word of its language. For Standard and
 // Other: whether any engine does.
-bool IsReservedWord(Engine engine, const QString &name);
+bool isReservedWord(Engine engine, const QString &name);
 
 } // namespace KOVAVSFDataGridLib

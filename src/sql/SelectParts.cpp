@@ -276,7 +276,7 @@ private:
         const qsizetype begin = index;
         while (m_sql.isSymbol(index + 1, u'.') && m_sql.isName(index + 2) && index + 2 < end)
             index += 2;
-        SelectParts::Source source{m_sql.name(index), TextOf(m_sql, {begin, index + 1})};
+        SelectParts::Source source{m_sql.name(index), textOf(m_sql, {begin, index + 1})};
         qsizetype next = index + 1;
         if (m_sql.isWord(next, u"AS"))
             ++next;
@@ -371,7 +371,7 @@ SelectParts SelectParts::of(const SqlScanner &statement)
     return Reader(statement).parts();
 }
 
-QString TextOf(const SqlScanner &statement, TextRange tokens)
+QString textOf(const SqlScanner &statement, TextRange tokens)
 {
     if (tokens.isEmpty())
         return {};

@@ -59,6 +59,6 @@ struct SelectParts
 };
 
 // The text of a range of tokens as it is written.
-QString TextOf(const SqlScanner &statement, TextRange tokens);
+QString textOf(const SqlScanner &statement, TextRange tokens);
 
 } // namespace KOVAVSFDataGridLib

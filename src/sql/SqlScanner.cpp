@@ -33,7 +33,7 @@ QChar closingOf(QChar open)
 
 } // namespace
 
-SqlDialect ReadingOf(const Dialect &dialect)
+SqlDialect readingOf(const Dialect &dialect)
 {
     switch (dialect.engine) {
     case Engine::PostgreSQL:

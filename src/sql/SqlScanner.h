@@ -23,7 +23,7 @@ struct SqlToken
 enum class SqlDialect { Standard, PostgreSql, MySql, SqlServer };
 
 struct Dialect;
-SqlDialect ReadingOf(const Dialect &dialect);
+SqlDialect readingOf(const Dialect &dialect);
 
 // How a MySQL server reads texts and names, which its sql_mode changes.
 struct SqlQuoting

@@ -112,7 +112,7 @@ TEST_F(AccessFileTest, WhatIsNoAccessFileIsRefusedAndNeverCreated)
 
 TEST_F(AccessFileTest, WrongHeadsDoNoHarm)
 {
-    const QByteArray whole = contents(samplePath(QLatin1StringView(WrittenSample), m_folder));
+    const QByteArray whole = contents(samplePath(QLatin1StringView(writtenSample), m_folder));
     constexpr qsizetype headSize = 0x98;
     int refused = 0;
     for (qsizetype at = 0; at < headSize; ++at) {
@@ -161,4 +161,4 @@ TEST_P(DamagedAccessFileTest, WrongBytesDoNoHarm)
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, DamagedAccessFileTest,
-                         testing::Values("nwind.mdb", "sample.accdb", WrittenSample));
+                         testing::Values("nwind.mdb", "sample.accdb", writtenSample));

@@ -13,7 +13,7 @@ namespace AdoTest {
 namespace {
 
 // A table with every type that mdb-export prints as it is, and one whose definition is longer than a page.
-QByteArray writtenSample()
+QByteArray writeSample()
 {
     using enum ADODB::AccessType;
     KovaTest::AccessWriter writer;
@@ -65,7 +65,7 @@ std::shared_ptr<ADODB::Recordset> query(const std::shared_ptr<ADODB::Connection>
 
 QString samplePath(const QString &name, const QTemporaryDir &folder)
 {
-    return name == QLatin1StringView(WrittenSample) ? writeFile(folder, writtenSample(), name)
+    return name == QLatin1StringView(writtenSample) ? writeFile(folder, writeSample(), name)
                                                     : KovaTest::sampleFile(name);
 }
 

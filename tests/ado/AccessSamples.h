@@ -17,7 +17,7 @@ std::shared_ptr<ADODB::Recordset> query(const std::shared_ptr<ADODB::Connection>
                                         const QString &sql);
 // A sample file by its name, or the written one; empty where it is not here.
 QString samplePath(const QString &name, const QTemporaryDir &folder);
-inline constexpr char WrittenSample[] = "written.mdb";
+inline constexpr char writtenSample[] = "written.mdb";
 // Writes bytes into the folder and answers the path.
 QString writeFile(const QTemporaryDir &folder, const QByteArray &bytes, const QString &name);
 // All cells, columns parted by | and records by a line break.

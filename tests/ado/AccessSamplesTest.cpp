@@ -97,4 +97,4 @@ TEST_P(AccessSamplesTest, EveryTableReadsAsMdbExportPrintsIt)
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, AccessSamplesTest,
-                         testing::Values("nwind.mdb", "sample.accdb", WrittenSample));
+                         testing::Values("nwind.mdb", "sample.accdb", writtenSample));

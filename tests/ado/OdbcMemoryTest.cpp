@@ -12,10 +12,10 @@ using namespace ADODB;
 
 namespace {
 
-constexpr qint64 MiB = qint64{1} << 20;
+constexpr qint64 miB = qint64{1} << 20;
 constexpr int records = 300'000;
 
-// Memory of this process, in MiB; 0 where that can't be told. `what` is VmRSS for now, VmHWM for at most.
+// Memory of this process, in miB; 0 where that can't be told. `what` is VmRSS for now, VmHWM for at most.
 qint64 memory(const char *what)
 {
     QFile file(u"/proc/self/status"_s);
@@ -74,11 +74,11 @@ TEST_P(OdbcMemory, IsNotTakenByTheDriverForAWholeResult)
     ASSERT_TRUE(forgetMost());
     const qint64 before = memory("VmRSS");
     Recordset recordset;
-    recordset.PutMemoryLimit(4 * MiB); // the rest goes to the disk
+    recordset.PutMemoryLimit(4 * miB); // the rest goes to the disk
     recordset.Open(u"SELECT * FROM kova_a"_s, connect());
     EXPECT_EQ(recordset.RecordCount(), records);
     giveBackFreed();
-    // The texts alone are 43 MiB, and more as drivers keep them. MariaDB's keeps them until they are read.
+    // The texts alone are 43 miB, and more as drivers keep them. MariaDB's keeps them until they are read.
     EXPECT_LT(memory(is("MariaDB") ? "VmRSS" : "VmHWM"), before + 30);
 }
 

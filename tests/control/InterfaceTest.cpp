@@ -17,7 +17,7 @@ struct PropertyFacts
     bool isStored;
 };
 
-constexpr PropertyFacts Properties[] = {
+constexpr PropertyFacts properties[] = {
     {"STR_SQLTEMP", "QString", true, false},
     {"Enabled", "bool", true, false},
     {"BackColor", "QColor", true, true},
@@ -47,7 +47,7 @@ constexpr PropertyFacts Properties[] = {
     {"ReadOnly", "bool", true, false},
 };
 
-constexpr const char *Methods[] = {
+constexpr const char *methods[] = {
     "int GetBindFieldIndex(QString)",
     "void Refresh()",
     "bool LocateSelRecord(int)",
@@ -79,7 +79,7 @@ constexpr const char *Methods[] = {
     "bool ExportData(QString,QString)",
 };
 
-constexpr const char *Events[] = {
+constexpr const char *events[] = {
     "DataMouseDown(qint16&,qint16&,float&,float&)",
     "DataMouseUp(qint16&,qint16&,float&,float&)",
     "DataMouseMove(qint16&,qint16&,float&,float&)",
@@ -129,13 +129,13 @@ void expectEnumeration(const char *name, const std::vector<std::pair<std::string
 
 TEST(Interface, HasThePropertiesInTheirOrder)
 {
-    ASSERT_EQ(face.propertyCount() - face.propertyOffset(), static_cast<int>(std::size(Properties)));
-    for (std::size_t i = 0; i < std::size(Properties); ++i) {
+    ASSERT_EQ(face.propertyCount() - face.propertyOffset(), static_cast<int>(std::size(properties)));
+    for (std::size_t i = 0; i < std::size(properties); ++i) {
         const QMetaProperty property = face.property(face.propertyOffset() + static_cast<int>(i));
-        EXPECT_STREQ(property.name(), Properties[i].name);
-        EXPECT_STREQ(property.metaType().name(), Properties[i].type) << Properties[i].name;
-        EXPECT_EQ(property.isWritable(), Properties[i].isWritable) << Properties[i].name;
-        EXPECT_EQ(property.isStored(), Properties[i].isStored) << Properties[i].name;
+        EXPECT_STREQ(property.name(), properties[i].name);
+        EXPECT_STREQ(property.metaType().name(), properties[i].type) << properties[i].name;
+        EXPECT_EQ(property.isWritable(), properties[i].isWritable) << properties[i].name;
+        EXPECT_EQ(property.isStored(), properties[i].isStored) << properties[i].name;
         EXPECT_TRUE(property.isReadable());
     }
 }
@@ -147,7 +147,7 @@ TEST(Interface, HasTheMethodsInTheirOrder)
         if (face.method(i).methodType() != QMetaMethod::Signal)
             found.push_back(typesOf(face.method(i)));
     }
-    EXPECT_EQ(found, std::vector<std::string>(std::begin(Methods), std::end(Methods)));
+    EXPECT_EQ(found, std::vector<std::string>(std::begin(methods), std::end(methods)));
 }
 
 TEST(Interface, HasTheEventsInTheirOrder)
@@ -157,7 +157,7 @@ TEST(Interface, HasTheEventsInTheirOrder)
         if (face.method(i).methodType() == QMetaMethod::Signal)
             found.push_back(face.method(i).methodSignature().toStdString());
     }
-    EXPECT_EQ(found, std::vector<std::string>(std::begin(Events), std::end(Events)));
+    EXPECT_EQ(found, std::vector<std::string>(std::begin(events), std::end(events)));
 }
 
 TEST(Interface, HasTheEnumerationsWithTheirNumbers)

@@ -74,7 +74,7 @@ void DesignerScript::run()
     try {
         play();
     } catch (const std::exception &error) {
-        tell(u"failure"_s, QString::fromUtf8(error.what()));
+        print(u"failure"_s, QString::fromUtf8(error.what()));
         code = 1;
     }
     std::_Exit(code); // what is left to save or to ask is of no interest
@@ -82,25 +82,25 @@ void DesignerScript::run()
 
 void DesignerScript::play()
 {
-    tellWidgetBox();
+    printWidgetBox();
     openForm();
-    tellDesignMode();
+    printDesignMode();
     editSqlShow();
     undoAndRedo();
     previewData();
     save();
 }
 
-void DesignerScript::tellWidgetBox()
+void DesignerScript::printWidgetBox()
 {
     const QDesignerWidgetDataBaseInterface &known = *m_core.widgetDataBase();
     const QDesignerWidgetDataBaseItemInterface *grid =
         known.item(known.indexOfClassName(u"KOVAVSFDataGrid"_s));
     require(grid, "the grid is known");
-    tell(u"group"_s, grid->group());
-    tell(u"toolTip"_s, grid->toolTip());
-    tell(u"includeFile"_s, grid->includeFile());
-    tell(u"iconSizes"_s, QString::number(grid->icon().availableSizes().size()));
+    print(u"group"_s, grid->group());
+    print(u"toolTip"_s, grid->toolTip());
+    print(u"includeFile"_s, grid->includeFile());
+    print(u"iconSizes"_s, QString::number(grid->icon().availableSizes().size()));
 }
 
 void DesignerScript::openForm()
@@ -110,17 +110,17 @@ void DesignerScript::openForm()
     m_grid = m_form->findChild<QWidget *>(u"grid"_s);
     require(m_grid, "the form holds the grid");
     require(QTest::qWaitForWindowExposed(m_grid->window()), "the form is seen");
-    tell(u"class"_s, QString::fromLatin1(m_grid->metaObject()->className()));
+    print(u"class"_s, QString::fromLatin1(m_grid->metaObject()->className()));
 }
 
-void DesignerScript::tellDesignMode()
+void DesignerScript::printDesignMode()
 {
-    tell(u"userMode"_s, m_grid->property("UserMode").toString());
+    print(u"userMode"_s, m_grid->property("UserMode").toString());
     edit(u"UseModel"_s, 1);
-    tell(u"useModel"_s, QString::number(m_grid->property("UseModel").toInt()));
-    tell(u"backColor"_s, m_grid->property("BackColor").value<QColor>().name());
+    print(u"useModel"_s, QString::number(m_grid->property("UseModel").toInt()));
+    print(u"backColor"_s, m_grid->property("BackColor").value<QColor>().name());
     edit(u"BackColor"_s, QColor(250, 240, 230));
-    tell(u"newBackColor"_s, m_grid->property("BackColor").value<QColor>().name());
+    print(u"newBackColor"_s, m_grid->property("BackColor").value<QColor>().name());
 }
 
 void DesignerScript::editSqlShow()
@@ -133,18 +133,18 @@ void DesignerScript::editSqlShow()
         press(dialog, u"ApplyButton"_s);
         press(dialog, u"OKButton"_s);
     });
-    tell(u"sqlShow"_s, m_grid->property("SQLShow").toString());
-    tell(u"sqlPartDisplay"_s, m_grid->property("SQLPartDisplay").toString());
-    tell(u"isDirty"_s, QVariant(m_form->isDirty()).toString());
-    tell(u"recordSource"_s, m_grid->property("RecordSource").toString());
+    print(u"sqlShow"_s, m_grid->property("SQLShow").toString());
+    print(u"sqlPartDisplay"_s, m_grid->property("SQLPartDisplay").toString());
+    print(u"isDirty"_s, QVariant(m_form->isDirty()).toString());
+    print(u"recordSource"_s, m_grid->property("RecordSource").toString());
 }
 
 void DesignerScript::undoAndRedo()
 {
     m_form->commandHistory()->undo();
-    tell(u"sqlShowUndone"_s, m_grid->property("SQLShow").toString());
+    print(u"sqlShowUndone"_s, m_grid->property("SQLShow").toString());
     m_form->commandHistory()->redo();
-    tell(u"sqlShowRedone"_s, m_grid->property("SQLShow").toString());
+    print(u"sqlShowRedone"_s, m_grid->property("SQLShow").toString());
 }
 
 void DesignerScript::previewData()
@@ -154,12 +154,12 @@ void DesignerScript::previewData()
         const auto *table = dialog.findChild<QTableView *>(u"vsfgDataGrid"_s);
         require(preview && table, "the preview holds a grid");
         waitFor([&] { return table->model()->rowCount() > 0; }, "the preview shows rows");
-        tell(u"previewRows"_s, QString::number(table->model()->rowCount()));
-        tell(u"previewCell"_s, table->model()->index(1, 1).data().toString());
-        tell(u"previewUserMode"_s, preview->property("UserMode").toString());
+        print(u"previewRows"_s, QString::number(table->model()->rowCount()));
+        print(u"previewCell"_s, table->model()->index(1, 1).data().toString());
+        print(u"previewUserMode"_s, preview->property("UserMode").toString());
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
-    tell(u"recordSourceBehindPreview"_s, m_grid->property("RecordSource").toString());
+    print(u"recordSourceBehindPreview"_s, m_grid->property("RecordSource").toString());
 }
 
 void DesignerScript::save()
@@ -169,7 +169,7 @@ void DesignerScript::save()
     require(QTest::qWaitForWindowActive(window), "Qt Designer's window has the keyboard");
     QTest::keySequence(window->windowHandle(), QKeySequence::Save);
     waitFor([this] { return !m_form->isDirty(); }, "the form is saved");
-    tell(u"saved"_s, m_form->fileName());
+    print(u"saved"_s, m_form->fileName());
 }
 
 void DesignerScript::choose(const QString &entry, const std::function<void(QDialog &)> &useDialog)
@@ -214,7 +214,7 @@ void DesignerScript::edit(const QString &property, const QVariant &value)
     m_form->cursor()->setWidgetProperty(m_grid, property, value);
 }
 
-void DesignerScript::tell(const QString &name, const QString &value) const
+void DesignerScript::print(const QString &name, const QString &value) const
 {
     QFile report(qEnvironmentVariable("KOVA_SCRIPT_REPORT"));
     if (report.open(QIODevice::Append | QIODevice::Text))

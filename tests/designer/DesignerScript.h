@@ -23,9 +23,9 @@ public:
 
 private:
     void play();
-    void tellWidgetBox();
+    void printWidgetBox();
     void openForm();
-    void tellDesignMode();
+    void printDesignMode();
     void editSqlShow();
     void undoAndRedo();
     void previewData();
@@ -34,7 +34,7 @@ private:
     // Opens the grid's context menu, chooses the entry and uses the dialog that it opens.
     void choose(const QString &entry, const std::function<void(QDialog &)> &useDialog);
     void edit(const QString &property, const QVariant &value);
-    void tell(const QString &name, const QString &value) const;
+    void print(const QString &name, const QString &value) const;
 
     QDesignerFormEditorInterface &m_core;
     QDesignerFormWindowInterface *m_form = nullptr;

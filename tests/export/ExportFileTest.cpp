@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr char Series[] =
+constexpr char series[] =
     "WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 1000) SELECT I FROM N";
 
 void put(const QString &path, const QByteArray &content)
@@ -27,46 +27,46 @@ void put(const QString &path, const QByteArray &content)
 
 TEST(ExportFile, KnowsItsFormatByTheEnding)
 {
-    EXPECT_EQ(FormatOfFile(u"/a.b/c.CSV"_s), ExportFormat::Csv);
-    EXPECT_EQ(FormatOfFile(u"c.jsonl"_s), ExportFormat::JsonLines);
-    EXPECT_EQ(FormatOfFile(u"c.htm"_s), ExportFormat::Html);
-    for (const ExportFormat format : AvailableFormats())
-        EXPECT_EQ(FormatOfFile(u"c"_s + FileEnding(format)), format);
-    EXPECT_EQ(FormatOfFile(u"csv"_s), std::nullopt);
-    EXPECT_EQ(FormatOfFile(u"a.txt"_s), std::nullopt);
-    EXPECT_TRUE(UnknownFormatText(u"/x/a.txt"_s).contains(u"“a.txt”"_s));
+    EXPECT_EQ(formatOfFile(u"/a.b/c.CSV"_s), ExportFormat::Csv);
+    EXPECT_EQ(formatOfFile(u"c.jsonl"_s), ExportFormat::JsonLines);
+    EXPECT_EQ(formatOfFile(u"c.htm"_s), ExportFormat::Html);
+    for (const ExportFormat format : availableFormats())
+        EXPECT_EQ(formatOfFile(u"c"_s + fileEnding(format)), format);
+    EXPECT_EQ(formatOfFile(u"csv"_s), std::nullopt);
+    EXPECT_EQ(formatOfFile(u"a.txt"_s), std::nullopt);
+    EXPECT_TRUE(unknownFormatText(u"/x/a.txt"_s).contains(u"“a.txt”"_s));
 }
 
 TEST(ExportFile, LeavesAGoodFileAloneWhenItIsCancelledOrFails)
 {
     ExportRecords records;
-    records.open(QLatin1StringView(Series));
-    for (const ExportFormat format : AvailableFormats()) {
+    records.open(QLatin1StringView(series));
+    for (const ExportFormat format : availableFormats()) {
         ExportOptions options;
         options.format = format;
-        const QString file = records.path(u"good"_s + FileEnding(format));
+        const QString file = records.path(u"good"_s + fileEnding(format));
         put(file, "good");
-        const ExportOutcome outcome = ExportToFile(file, options, *records.recordset, records.all(),
+        const ExportOutcome outcome = exportToFile(file, options, *records.recordset, records.all(),
                                                    records.columns(), [](qint64 rows) { return rows < 500; });
         EXPECT_FALSE(outcome.isWritten);
         EXPECT_EQ(contentOf(file), "good");
-        EXPECT_THROW(ExportToFile(file, options, *records.recordset, {1, 2000}, records.columns(),
+        EXPECT_THROW(exportToFile(file, options, *records.recordset, {1, 2000}, records.columns(),
                                   [](qint64) { return true; }),
                      ADODB::Error)
             << "there are no 2000 records";
         EXPECT_EQ(contentOf(file), "good");
     }
-    EXPECT_EQ(QDir(records.folder.path()).entryList(QDir::Files).size(), AvailableFormats().size())
+    EXPECT_EQ(QDir(records.folder.path()).entryList(QDir::Files).size(), availableFormats().size())
         << "nothing half is left lying about";
 }
 
 TEST(ExportFile, SaysWhichFileCantBeWritten)
 {
     ExportRecords records;
-    records.open(QLatin1StringView(Series));
+    records.open(QLatin1StringView(series));
     const QString file = records.path(u"no such folder/a.csv"_s);
     try {
-        ExportToFile(file, {}, *records.recordset, records.all(), records.columns(),
+        exportToFile(file, {}, *records.recordset, records.all(), records.columns(),
                      [](qint64) { return true; });
         FAIL();
     } catch (const ADODB::Error &error) {
@@ -81,7 +81,7 @@ TEST(ExportFile, WritesSomeRecordsAndColumnsInAnyOrder)
     const ExportColumns all = records.columns();
     ExportOptions options;
     options.encoding = TextEncoding::Utf8;
-    ExportToFile(records.path(u"t.csv"_s), options, *records.recordset, {2, 3}, {all[2], all[0]},
+    exportToFile(records.path(u"t.csv"_s), options, *records.recordset, {2, 3}, {all[2], all[0]},
                  [](qint64) { return true; });
     EXPECT_EQ(contentOf(records.path(u"t.csv"_s)), "C,A\r\n6,4\r\n9,7\r\n");
 }

@@ -29,9 +29,9 @@ void ExportRecords::open(const QString &statement)
 
 QByteArray ExportRecords::write(const QString &file, ExportOptions options)
 {
-    options.format = FormatOfFile(file).value();
+    options.format = formatOfFile(file).value();
     const ExportOutcome outcome =
-        ExportToFile(path(file), options, *recordset, all(), columns(), [](qint64) { return true; });
+        exportToFile(path(file), options, *recordset, all(), columns(), [](qint64) { return true; });
     EXPECT_TRUE(outcome.isWritten);
     return contentOf(path(file));
 }

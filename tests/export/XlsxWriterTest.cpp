@@ -67,7 +67,7 @@ TEST_F(XlsxWriterTest, GoesOnOnFurtherSheets)
     QFile file(records.path(u"t.xlsx"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     XlsxWriter writer(file, true, 11);
-    EXPECT_TRUE(WriteRecords(*records.recordset, records.all(), records.columns(), writer,
+    EXPECT_TRUE(writeRecords(*records.recordset, records.all(), records.columns(), writer,
                              [](qint64) { return true; }));
     file.close();
     const QStringList lines = read(u"t.xlsx"_s);
@@ -85,10 +85,10 @@ TEST_F(XlsxWriterTest, SaysWhatItHadToCut)
     QFile file(records.path(u"t.xlsx"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     XlsxWriter writer(file, true);
-    EXPECT_TRUE(WriteRecords(*records.recordset, records.all(), records.columns(), writer,
+    EXPECT_TRUE(writeRecords(*records.recordset, records.all(), records.columns(), writer,
                              [](qint64) { return true; }));
     EXPECT_EQ(writer.cutTexts(), 1);
-    EXPECT_EQ(LossesOf(writer), u"有 1 个内容超过 XLSX 单元格的上限（32767 个字符），只写入了前面的部分。"_s);
+    EXPECT_EQ(lossesOf(writer), u"有 1 个内容超过 XLSX 单元格的上限（32767 个字符），只写入了前面的部分。"_s);
 }
 
 TEST_F(XlsxWriterTest, LeavesNothingOpenWhenItIsGivenUp)
@@ -102,7 +102,7 @@ TEST_F(XlsxWriterTest, LeavesNothingOpenWhenItIsGivenUp)
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         XlsxWriter writer(file, true);
         EXPECT_THROW(
-            WriteRecords(*records.recordset, {1, 99}, records.columns(), writer, [](qint64) { return true; }),
+            writeRecords(*records.recordset, {1, 99}, records.columns(), writer, [](qint64) { return true; }),
             ADODB::Error);
     };
     giveUp();

@@ -19,7 +19,7 @@ protected:
     void SetUp() override
     {
         QList<QVariantList> records;
-        for (int i = 1; i <= Records; ++i)
+        for (int i = 1; i <= records; ++i)
             records += {i, u"name %1"_s.arg(i)};
         AccessWriter writer;
         writer.addTable(u"faults"_s,
@@ -51,7 +51,7 @@ protected:
         EXPECT_TRUE(hands.messages.texts().first().contains(words))
             << qUtf8Printable(hands.messages.texts().first());
         hands.messages.clear();
-        EXPECT_EQ(hands.rows(), Records);
+        EXPECT_EQ(hands.rows(), records);
         EXPECT_EQ(hands.texts(u"name"_s).last(), u"name 1000"_s);
         EXPECT_EQ(hands.statement(), u"SELECT * FROM faults"_s);
         write(whole);
@@ -61,7 +61,7 @@ protected:
         EXPECT_EQ(openHandles(), handlesBefore) << "no file is left open";
     }
 
-    static constexpr int Records = 1000;
+    static constexpr int records = 1000;
     QTemporaryDir folder;
     const QString path = folder.filePath(u"faults.mdb"_s);
     Hands hands{u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + path, KOVAVSFDataGrid::dbAccess};

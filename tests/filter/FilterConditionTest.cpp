@@ -8,8 +8,8 @@ using enum FilterOperator;
 
 namespace {
 
-constexpr Dialect Sqlite{dbAccess, false};
-constexpr Dialect OracleServer{dbOracle, true};
+constexpr Dialect sqlite{dbAccess, false};
+constexpr Dialect oracleServer{dbOracle, true};
 
 FilterField field(FieldClass fieldClass)
 {
@@ -17,9 +17,9 @@ FilterField field(FieldClass fieldClass)
 }
 
 std::string sql(FieldClass fieldClass, FilterOperator op, const QString &value = {}, const QString &last = {},
-                const Dialect &dialect = Sqlite)
+                const Dialect &dialect = sqlite)
 {
-    const FilterCondition found = ConditionOf(dialect, {field(fieldClass), op, value, last});
+    const FilterCondition found = conditionOf(dialect, {field(fieldClass), op, value, last});
     EXPECT_NE(found.sql.isEmpty(), found.fault.isEmpty());
     return found.fault.isEmpty() ? found.sql.toStdString() : "fault: " + found.fault.toStdString();
 }
@@ -45,7 +45,7 @@ TEST(FilterCondition, AnEmptyTextIsAsEmptyAsNoText)
 {
     EXPECT_EQ(sql(FieldClass::Text, IsEmpty), "(F IS NULL OR F = '')");
     EXPECT_EQ(sql(FieldClass::Text, IsNotEmpty), "F <> ''");
-    EXPECT_EQ(sql(FieldClass::Text, IsNotEmpty, {}, {}, OracleServer), "F LIKE '_%'");
+    EXPECT_EQ(sql(FieldClass::Text, IsNotEmpty, {}, {}, oracleServer), "F LIKE '_%'");
 }
 
 TEST(FilterCondition, ADayInAMomentFieldMeansTheWholeDay)
@@ -60,14 +60,14 @@ TEST(FilterCondition, ADayInAMomentFieldMeansTheWholeDay)
               "(F >= '2024-01-05' AND F <= '2024-01-31 12:00:00')");
     EXPECT_EQ(sql(moment, InList, u"2024-01-05, 2024-01-07 08:00"_s),
               "(F IN ('2024-01-07 08:00:00') OR (F >= '2024-01-05' AND F < '2024-01-06'))");
-    EXPECT_EQ(sql(moment, Equals, day, {}, OracleServer), "(F >= {d '2024-01-05'} AND F < {d '2024-01-06'})");
+    EXPECT_EQ(sql(moment, Equals, day, {}, oracleServer), "(F >= {d '2024-01-05'} AND F < {d '2024-01-06'})");
 }
 
 TEST(FilterCondition, YesAndNoAreToldByNumberOrOnServersByText)
 {
     EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"是"_s), "F <> 0");
     EXPECT_EQ(sql(FieldClass::Boolean, NotEquals, u"是"_s), "F = 0");
-    EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"否"_s, {}, OracleServer), "F = '0'");
+    EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"否"_s, {}, oracleServer), "F = '0'");
     EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"是"_s, {}, {dbSQLServer, true}), "F = '1'");
     EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"是"_s, {}, {dbAccess, true}), "F <> 0");
 }
@@ -92,16 +92,16 @@ TEST(FilterCondition, FaultsAreSaidInsteadOfACondition)
               "fault: 结束值小于开始值。");
     EXPECT_EQ(sql(FieldClass::Moment, Between, u"2024-02-02 00:00"_s, u"2024-02-01"_s),
               "fault: 结束值小于开始值。");
-    EXPECT_EQ(ConditionOf(Sqlite, {}).fault, u"没有可以筛选的字段。"_s);
+    EXPECT_EQ(conditionOf(sqlite, {}).fault, u"没有可以筛选的字段。"_s);
 }
 
 TEST(FilterOperators, FitTheFieldsClass)
 {
-    EXPECT_TRUE(OperatorsFor(FieldClass::Text).contains(Contains));
-    EXPECT_FALSE(OperatorsFor(FieldClass::Number).contains(Contains));
-    EXPECT_EQ(OperatorsFor(FieldClass::Other), (QList<FilterOperator>{IsEmpty, IsNotEmpty}));
-    EXPECT_EQ(OperatorsFor(FieldClass::Text).size(), 13);
-    EXPECT_EQ(CaptionOf(IsNotEmpty), u"不为空"_s);
-    EXPECT_EQ(ValueCount(Between), 2);
-    EXPECT_EQ(ValueCount(IsEmpty), 0);
+    EXPECT_TRUE(operatorsFor(FieldClass::Text).contains(Contains));
+    EXPECT_FALSE(operatorsFor(FieldClass::Number).contains(Contains));
+    EXPECT_EQ(operatorsFor(FieldClass::Other), (QList<FilterOperator>{IsEmpty, IsNotEmpty}));
+    EXPECT_EQ(operatorsFor(FieldClass::Text).size(), 13);
+    EXPECT_EQ(captionOf(IsNotEmpty), u"不为空"_s);
+    EXPECT_EQ(valueCount(Between), 2);
+    EXPECT_EQ(valueCount(IsEmpty), 0);
 }

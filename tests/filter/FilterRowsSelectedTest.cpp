@@ -78,7 +78,7 @@ struct Selected : testing::Test
 
     static FilterField field(const QString &name, FieldClass fieldClass)
     {
-        return {name, WrittenName(dialect, name), fieldClass};
+        return {name, writtenName(dialect, name), fieldClass};
     }
 
     // As filtering a sorted result and then filtering what is found once more writes it.
@@ -87,15 +87,15 @@ struct Selected : testing::Test
         QString statement = u"select ID from T order by ID"_s;
         for (const QString &further : {condition, u"ID >= 0"_s}) {
             auto parts = SplitSQLSentence(statement);
-            AddCondition(*parts, further);
-            statement = JoinSQLSentence(*parts);
+            addCondition(*parts, further);
+            statement = joinSQLSentence(*parts);
         }
         return statement;
     }
 
     void expectSame(const FilterChoice &choice, const std::function<bool(const Row &)> &wanted)
     {
-        const FilterCondition condition = ConditionOf(dialect, choice);
+        const FilterCondition condition = conditionOf(dialect, choice);
         ASSERT_TRUE(condition.fault.isEmpty()) << qUtf8Printable(condition.fault);
         QStringList expected;
         for (std::size_t id = 0; id < rows.size(); ++id) {

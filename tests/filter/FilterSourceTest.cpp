@@ -105,12 +105,12 @@ TEST_F(Source, LetsTheDatabaseLookAtACondition)
 
 TEST(FilterSource, ReadsOdbcOffTheConnectionString)
 {
-    EXPECT_TRUE(LeadsToOdbc(u"DSN=prod;UID=me"_s));
-    EXPECT_TRUE(LeadsToOdbc(u"driver={PostgreSQL Unicode};Server=db"_s));
-    EXPECT_TRUE(LeadsToOdbc(u"Provider=MSDASQL.1;FileDSN=x.dsn"_s));
-    EXPECT_FALSE(LeadsToOdbc(u"Provider=SQLite;Data Source=shop.db"_s));
-    EXPECT_FALSE(LeadsToOdbc(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=nwind.mdb"_s));
-    EXPECT_FALSE(LeadsToOdbc(u"Data Source='not closed"_s));
+    EXPECT_TRUE(leadsToOdbc(u"DSN=prod;UID=me"_s));
+    EXPECT_TRUE(leadsToOdbc(u"driver={PostgreSQL Unicode};Server=db"_s));
+    EXPECT_TRUE(leadsToOdbc(u"Provider=MSDASQL.1;FileDSN=x.dsn"_s));
+    EXPECT_FALSE(leadsToOdbc(u"Provider=SQLite;Data Source=shop.db"_s));
+    EXPECT_FALSE(leadsToOdbc(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=nwind.mdb"_s));
+    EXPECT_FALSE(leadsToOdbc(u"Data Source='not closed"_s));
 }
 
 TEST_F(Source, OffersTheFieldsOfAResult)

@@ -7,12 +7,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr Dialect Sqlite{dbAccess, false};
+constexpr Dialect sqlite{dbAccess, false};
 
 // The literal; "-" when the text is no such value.
 std::string literal(FieldClass fieldClass, const QString &typed)
 {
-    const auto value = ReadFilterValue(Sqlite, fieldClass, typed);
+    const auto value = readFilterValue(sqlite, fieldClass, typed);
     return value ? value->literal.toStdString() : "-";
 }
 
@@ -61,7 +61,7 @@ TEST(FilterValue, TimesAndMomentsAreRead)
 
 TEST(FilterValue, ADayInAMomentFieldKnowsWhereItEnds)
 {
-    const auto value = ReadFilterValue(Sqlite, FieldClass::Moment, u"2023-12-31"_s);
+    const auto value = readFilterValue(sqlite, FieldClass::Moment, u"2023-12-31"_s);
     ASSERT_TRUE(value);
     EXPECT_EQ(value->nextDay, u"'2024-01-01'"_s);
 }
@@ -75,32 +75,32 @@ TEST(FilterValue, TextIsTakenAsTyped)
 TEST(FilterValue, YesAndNoAreReadInSeveralWords)
 {
     for (const QString &typed : {u"是"_s, u"True"_s, u"1"_s, u"-1"_s, u"１"_s})
-        EXPECT_TRUE(ReadFilterValue(Sqlite, FieldClass::Boolean, typed)->isTrue) << qUtf8Printable(typed);
+        EXPECT_TRUE(readFilterValue(sqlite, FieldClass::Boolean, typed)->isTrue) << qUtf8Printable(typed);
     for (const QString &typed : {u"否"_s, u"FALSE"_s, u"0"_s})
-        EXPECT_FALSE(ReadFilterValue(Sqlite, FieldClass::Boolean, typed)->isTrue) << qUtf8Printable(typed);
+        EXPECT_FALSE(readFilterValue(sqlite, FieldClass::Boolean, typed)->isTrue) << qUtf8Printable(typed);
     EXPECT_EQ(literal(FieldClass::Boolean, u"maybe"_s), "-");
 }
 
 TEST(FilterValue, WhatIsMissingOrWrongIsSaidInOneLine)
 {
-    EXPECT_EQ(WhyNoFilterValue(FieldClass::Number, u" "_s), u"请输入值。"_s);
-    EXPECT_EQ(WhyNoFilterValue(FieldClass::Number, u"abc"_s), u"“abc”不是数字。"_s);
-    EXPECT_TRUE(WhyNoFilterValue(FieldClass::Date, u"x"_s).contains(u"2024-01-31"_s));
+    EXPECT_EQ(whyNoFilterValue(FieldClass::Number, u" "_s), u"请输入值。"_s);
+    EXPECT_EQ(whyNoFilterValue(FieldClass::Number, u"abc"_s), u"“abc”不是数字。"_s);
+    EXPECT_TRUE(whyNoFilterValue(FieldClass::Date, u"x"_s).contains(u"2024-01-31"_s));
 }
 
 TEST(FilterValue, ListsAreSplitAtNarrowAndWideCommas)
 {
-    EXPECT_EQ(SplitFilterList(u" a, b，c ,,"_s), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
-    EXPECT_EQ(SplitFilterList(u"\"a,b\", \"say \"\"hi\"\"\",c"_s),
+    EXPECT_EQ(splitFilterList(u" a, b，c ,,"_s), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+    EXPECT_EQ(splitFilterList(u"\"a,b\", \"say \"\"hi\"\"\",c"_s),
               (QStringList{u"a,b"_s, u"say \"hi\""_s, u"c"_s}));
-    EXPECT_TRUE(SplitFilterList(u" ， "_s).isEmpty());
+    EXPECT_TRUE(splitFilterList(u" ， "_s).isEmpty());
 }
 
 TEST(FilterValue, AnyValueSurvivesTheWayIntoAListAndBack)
 {
     for (const QString &value :
          {u"plain"_s, u"a,b"_s, u"甲，乙"_s, u" edge "_s, u"\"quoted\""_s, u"it's"_s, u"a\"b"_s}) {
-        EXPECT_EQ(SplitFilterList(u"x, "_s + FilterListItem(value) + u", y"_s),
+        EXPECT_EQ(splitFilterList(u"x, "_s + filterListItem(value) + u", y"_s),
                   (QStringList{u"x"_s, value, u"y"_s}))
             << qUtf8Printable(value);
     }

@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         Require(condition.count(u'\'') % 2 == 0);
 
     Require(SplitText(typed, QStringLiteral("%"), true).join(QString()) == typed);
-    const CellFilter filter = BuildCellFilter(name, 202, typed);
+    const CellFilter filter = buildCellFilter(name, 202, typed);
     Require(filter.condition.isEmpty() || filter.condition.count(u'\'') == 2 + name.count(u'\''));
     const SortTerm term = SplitSortTerm(typed);
     Require(typed.startsWith(term.field));

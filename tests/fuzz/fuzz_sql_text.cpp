@@ -26,11 +26,11 @@ void SplitAndJoin(const QString &statement, const QString &other)
     const QString sorted = AppendOrderWord(statement, other);
     Require(AppendOrderWord(sorted, other) == sorted);
     Require(ReplaceSQLFieldPart(statement, other).isEmpty() == (statement.isEmpty() || other.isEmpty()));
-    Require(statement.contains(GetFromPart(statement)));
+    Require(statement.contains(getFromPart(statement)));
     Require(statement.contains(GetSQLTableName(statement)));
     GetNoRowSQL(statement);
-    ReplaceOrderWord(statement, other);
-    const QString joined = JoinStatementLines(statement);
+    replaceOrderWord(statement, other);
+    const QString joined = joinStatementLines(statement);
     Require(joined.size() <= statement.size());
     for (int mode = 0; mode <= 4; ++mode)
         Require(CutStringEnds(statement, other, mode).size() <= statement.size());
@@ -45,11 +45,11 @@ void ParseLists(const QString &statement)
     } catch (const std::invalid_argument &) {
         // The declared answer to a list that can't be read.
     }
-    for (const QString &field : WrittenFields(statement)) {
+    for (const QString &field : writtenFields(statement)) {
         ShortFieldName(field);
-        LastNamePart(field);
+        lastNamePart(field);
     }
-    BracketsToQuotes(statement);
+    bracketsToQuotes(statement);
 }
 
 void SplitStrings(const QString &text, const QString &prefix, const QString &suffix)

@@ -428,9 +428,9 @@ TEST(CellDelegate, DrawsTheFirstLineAndNoMoreThanCanBeSeen)
     EXPECT_EQ(delegate.displayText(u"短"_s, locale), u"短"_s);
     EXPECT_EQ(delegate.displayText(u"first\nsecond"_s, locale), u"first…"_s);
     EXPECT_EQ(delegate.displayText(u"first\r\nsecond"_s, locale), u"first…"_s);
-    EXPECT_EQ(delegate.displayText(QString(CellDelegate::LongestText, u'x'), locale).size(),
-              CellDelegate::LongestText);
-    EXPECT_EQ(delegate.displayText(QString(1000000, u'x'), locale).size(), CellDelegate::LongestText + 1);
+    EXPECT_EQ(delegate.displayText(QString(CellDelegate::longestText, u'x'), locale).size(),
+              CellDelegate::longestText);
+    EXPECT_EQ(delegate.displayText(QString(1000000, u'x'), locale).size(), CellDelegate::longestText + 1);
 }
 
 TEST(MSFlexGrid, TheLastColumnFillsWhateverWidthThereIs)
@@ -442,7 +442,7 @@ TEST(MSFlexGrid, TheLastColumnFillsWhateverWidthThereIs)
         grid.resize(width, 200);
         grid.Show(std::make_unique<TextCells>(3, 2));
         QCoreApplication::processEvents();
-        EXPECT_EQ(grid.ColWidth(1), FlexGrid::UseDefaultWidth) << "nobody gave it another";
+        EXPECT_EQ(grid.ColWidth(1), FlexGrid::useDefaultWidth) << "nobody gave it another";
         EXPECT_EQ(grid.columnWidth(0) + grid.columnWidth(1), grid.viewport()->width());
         EXPECT_EQ(grid.horizontalScrollBar()->maximum(), 0);
     }

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qreal Endless = 1e5;
+constexpr qreal endless = 1e5;
 
 // What is seen of a glyph: its picture, its font and its place.
 using Seen = std::tuple<int, quint32, std::string>;
@@ -49,7 +49,7 @@ std::vector<Seen> laidOut(const QString &text, const QFont &font, Qt::LayoutDire
     layout.setTextOption(option);
     layout.beginLayout();
     QTextLine line = layout.createLine();
-    line.setLineWidth(Endless);
+    line.setLineWidth(endless);
     layout.endLayout();
     std::vector<Seen> all;
     for (const QGlyphRun &run : layout.glyphRuns()) {
@@ -86,7 +86,7 @@ TEST_P(Text, IsPlacedAsATextLayoutPlacesIt)
 {
     for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
         for (int round = 0; round < 2; ++round) { // the second from what the first has learned
-            table.layOut(text, Endless, direction, line);
+            table.layOut(text, endless, direction, line);
             EXPECT_EQ(seen(table, line), laidOut(text, font, direction)) << "direction " << direction;
         }
     }
@@ -94,13 +94,13 @@ TEST_P(Text, IsPlacedAsATextLayoutPlacesIt)
 
 TEST_P(Text, IsElidedAsFontMetricsElideIt)
 {
-    table.layOut(text, Endless, Qt::LeftToRight, line);
+    table.layOut(text, endless, Qt::LeftToRight, line);
     const qreal whole = line.width;
     for (qreal room = 15; room < whole; room += 1.7) {
         table.layOut(text, room, Qt::LeftToRight, line);
         const QString elided = QFontMetricsF(font).elidedText(text, Qt::ElideRight, room);
         GlyphLine fitting;
-        table.layOut(elided, Endless, Qt::LeftToRight, fitting);
+        table.layOut(elided, endless, Qt::LeftToRight, fitting);
         // Font metrics don't see that joined letters grow at the end of a word.
         if (fitting.width <= room + 2) {
             EXPECT_EQ(seen(table, line), laidOut(elided, font, Qt::LeftToRight)) << room;
@@ -114,7 +114,7 @@ TEST(GlyphTable, AllScriptsStandOnOneBaseline)
     GlyphTable table{QApplication::font()};
     GlyphLine line;
     for (const QString &text : {u"Latin"_s, u"中文"_s, u"office"_s, u"שלום"_s}) {
-        table.layOut(text, Endless, Qt::LeftToRight, line);
+        table.layOut(text, endless, Qt::LeftToRight, line);
         ASSERT_FALSE(line.glyphs.empty());
         for (const PlacedGlyph &glyph : line.glyphs)
             EXPECT_EQ(glyph.position.y(), 0) << qUtf8Printable(text);

@@ -80,7 +80,7 @@ protected:
     QString found(int field, FilterOperator op, const QString &value, const QString &lastValue = {})
     {
         const FilterCondition condition =
-            ConditionOf(source.dialect(), {fields.at(static_cast<std::size_t>(field)), op, value, lastValue});
+            conditionOf(source.dialect(), {fields.at(static_cast<std::size_t>(field)), op, value, lastValue});
         EXPECT_EQ(condition.fault, QString());
         ADODB::Recordset recordset;
         recordset.Open(u"SELECT id FROM journey_conditions WHERE "_s + condition.sql + u" ORDER BY id"_s,
@@ -136,7 +136,7 @@ TEST_P(BuilderConditions, OnTextsMeanWhatTheySay)
             EXPECT_EQ(found(text, op, wanted).toStdString(), expected([&](const Values &each) {
                                                                  return each.text && isMeant(*each.text);
                                                              }).toStdString())
-                << qUtf8Printable(CaptionOf(op));
+                << qUtf8Printable(captionOf(op));
         };
         compare(Equals, [&](const QString &each) { return each == wanted; });
         compare(NotEquals, [&](const QString &each) { return each != wanted; });
@@ -171,7 +171,7 @@ TEST_P(BuilderConditions, OnNumbersMeanWhatTheySay)
                       expected([&](const Values &each) {
                           return each.number && isMeant(*each.number);
                       }).toStdString())
-                << qUtf8Printable(CaptionOf(op));
+                << qUtf8Printable(captionOf(op));
         };
         compare(Equals, [&](int each) { return each == wanted; });
         compare(NotEquals, [&](int each) { return each != wanted; });

@@ -47,7 +47,7 @@ protected:
 };
 
 const QString Song = u"中文🍵"_s;
-constexpr int Songs = 104'858; // of 10 bytes each: a little more than 1 MB
+constexpr int songs = 104'858; // of 10 bytes each: a little more than 1 MB
 
 } // namespace
 
@@ -64,12 +64,12 @@ TEST_P(EngineValues, AMegabyteOfTextComesThroughWhole)
 {
     const QString repeated =
         engine.isFilledBySqlite() ? u"replace(hex(zeroblob(%2)),'00','%1')"_s : u"repeat('%1',%2)"_s;
-    insert(u"long_text"_s, u"1,"_s + repeated.arg(Song).arg(Songs));
+    insert(u"long_text"_s, u"1,"_s + repeated.arg(Song).arg(songs));
     insert(u"long_text"_s, u"2,'short'"_s);
     ASSERT_TRUE(load());
     const QString text = value("long_text").toString();
-    EXPECT_EQ(text.size(), Song.size() * Songs);
-    EXPECT_TRUE(text == Song.repeated(Songs));
+    EXPECT_EQ(text.size(), Song.size() * songs);
+    EXPECT_TRUE(text == Song.repeated(songs));
     EXPECT_EQ(value("long_text", 2).toString(), u"short"_s);
 }
 

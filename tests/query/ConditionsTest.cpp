@@ -14,7 +14,7 @@ namespace {
 const QString kFromT = QStringLiteral("SELECT * FROM T");
 
 // The condition, or "-" when the command ends.
-QString Like(AllDBType database, const QString &text, const std::vector<TypedField> &fields,
+QString like(AllDBType database, const QString &text, const std::vector<TypedField> &fields,
              const QString &statement = kFromT)
 {
     QString condition = u"untouched"_s;
@@ -31,54 +31,54 @@ const std::vector<TypedField> kTwo{{QStringLiteral("A"), 202}, {QStringLiteral("
 TEST(QuickFilter, SearchesEachWordInEveryFieldOnAccess)
 {
     EXPECT_EQ(
-        Like(dbAccess, u"ab%cd"_s, kTwo),
+        like(dbAccess, u"ab%cd"_s, kTwo),
         u" (T.[A] LIKE '%ab%' OR T.[B] LIKE '%ab%' ) And  (T.[A] LIKE '%cd%' OR T.[B] LIKE '%cd%' ) "_s);
 }
 
 TEST(QuickFilter, WritesBareNamesOnServers)
 {
     const QString expected = u" (A LIKE '%ab%' OR B LIKE '%ab%' ) And  (A LIKE '%cd%' OR B LIKE '%cd%' ) "_s;
-    EXPECT_EQ(Like(dbSQLServer, u"ab%cd"_s, kTwo), expected);
-    EXPECT_EQ(Like(dbOracle, u"ab%cd"_s, kTwo), expected);
+    EXPECT_EQ(like(dbSQLServer, u"ab%cd"_s, kTwo), expected);
+    EXPECT_EQ(like(dbOracle, u"ab%cd"_s, kTwo), expected);
 }
 
 TEST(QuickFilter, QuotesNamesThatNeedItOnServers)
 {
-    EXPECT_EQ(Like(dbSQLServer, u"x"_s, {{u"A B"_s, {}}}), u" ([A B] LIKE '%x%' ) "_s);
-    EXPECT_EQ(Like(dbOracle, u"x"_s, {{u"A B"_s, {}}}), u" (\"A B\" LIKE '%x%' ) "_s);
+    EXPECT_EQ(like(dbSQLServer, u"x"_s, {{u"A B"_s, {}}}), u" ([A B] LIKE '%x%' ) "_s);
+    EXPECT_EQ(like(dbOracle, u"x"_s, {{u"A B"_s, {}}}), u" (\"A B\" LIKE '%x%' ) "_s);
 }
 
 TEST(QuickFilter, LeavesOutFieldsThatCannotBeSearchedOnAccess)
 {
-    EXPECT_EQ(Like(dbAccess, u"x"_s, {{u"A"_s, 11}, {u"B"_s, 3}}), u" (T.[B] LIKE '%x%' ) "_s);
-    EXPECT_EQ(Like(dbSQLServer, u"x"_s, {{u"A"_s, 11}}), u" (A LIKE '%x%' ) "_s);
+    EXPECT_EQ(like(dbAccess, u"x"_s, {{u"A"_s, 11}, {u"B"_s, 3}}), u" (T.[B] LIKE '%x%' ) "_s);
+    EXPECT_EQ(like(dbSQLServer, u"x"_s, {{u"A"_s, 11}}), u" (A LIKE '%x%' ) "_s);
 }
 
 TEST(QuickFilter, EndsWhenThereIsNothingToSearchIn)
 {
-    EXPECT_EQ(Like(dbAccess, u"x"_s, {}), u"-"_s);
-    EXPECT_EQ(Like(dbAccess, u"x"_s, {{u"A"_s, 11}}), u"-"_s);
-    EXPECT_EQ(Like(AllDBType{}, u"x"_s, kTwo), u"-"_s);
-    EXPECT_EQ(Like(dbAccess, u"x"_s, {{u"A"_s, {}}, {u"B"_s, 3}}), u"-"_s) << "a type that nobody knows";
-    EXPECT_EQ(Like(dbAccess, u"x"_s, kTwo, u"SELECT 'WHERE ' FROM T"_s), u"-"_s);
+    EXPECT_EQ(like(dbAccess, u"x"_s, {}), u"-"_s);
+    EXPECT_EQ(like(dbAccess, u"x"_s, {{u"A"_s, 11}}), u"-"_s);
+    EXPECT_EQ(like(AllDBType{}, u"x"_s, kTwo), u"-"_s);
+    EXPECT_EQ(like(dbAccess, u"x"_s, {{u"A"_s, {}}, {u"B"_s, 3}}), u"-"_s) << "a type that nobody knows";
+    EXPECT_EQ(like(dbAccess, u"x"_s, kTwo, u"SELECT 'WHERE ' FROM T"_s), u"-"_s);
 }
 
 TEST(QuickFilter, EmptyTextIsAnEmptyCondition)
 {
-    EXPECT_EQ(Like(dbAccess, {}, kTwo), QString());
-    EXPECT_EQ(Like(dbAccess, {}, {}), QString());
+    EXPECT_EQ(like(dbAccess, {}, kTwo), QString());
+    EXPECT_EQ(like(dbAccess, {}, {}), QString());
 }
 
 TEST(QuickFilter, EmptyWordsMatchEveryValueAndATrailingSeparatorAddsNone)
 {
-    EXPECT_EQ(Like(dbSQLServer, u"%a%"_s, {{u"A"_s, 3}}), u" (A LIKE '%%' ) And  (A LIKE '%a%' ) "_s);
-    EXPECT_EQ(Like(dbSQLServer, u"a%%b"_s, {{u"A"_s, 3}}),
+    EXPECT_EQ(like(dbSQLServer, u"%a%"_s, {{u"A"_s, 3}}), u" (A LIKE '%%' ) And  (A LIKE '%a%' ) "_s);
+    EXPECT_EQ(like(dbSQLServer, u"a%%b"_s, {{u"A"_s, 3}}),
               u" (A LIKE '%a%' ) And  (A LIKE '%%' ) And  (A LIKE '%b%' ) "_s);
 }
 
 TEST(QuickFilter, DoublesApostrophes)
 {
-    EXPECT_EQ(Like(dbSQLServer, u"O'Neil"_s, {{u"A"_s, 202}}), u" (A LIKE '%O''Neil%' ) "_s);
+    EXPECT_EQ(like(dbSQLServer, u"O'Neil"_s, {{u"A"_s, 202}}), u" (A LIKE '%O''Neil%' ) "_s);
 }
 
 TEST(QuickFilter, CanSearchOneField)
@@ -97,7 +97,7 @@ TEST(QuickFilter, FindsTheTableAndWritesItBeforeTheField)
         EXPECT_EQ(table.has_value(), c.Has(u"table"_s));
         EXPECT_EQ(table.value_or(QString()), c[u"table"_s]);
         const QString condition = c.Has(u"field"_s) ? u" ("_s + c[u"field"_s] + u" LIKE '%x%' ) "_s : u"-"_s;
-        EXPECT_EQ(Like(dbAccess, u"x"_s, {{u"F"_s, 202}}, c[u"statement"_s]), condition);
+        EXPECT_EQ(like(dbAccess, u"x"_s, {{u"F"_s, 202}}, c[u"statement"_s]), condition);
     }
 }
 
@@ -125,18 +125,18 @@ TEST(FieldTypes, AreNumbersTextsDatesOrOther)
 TEST(CellFilterText, NumbersAreComparedBare)
 {
     for (const qint32 type : {2, 3, 4, 5, 14, 16, 18, 20, 21, 72, 131, 139})
-        EXPECT_EQ(BuildCellFilter(u"Qty"_s, type, u"12"_s).condition, u"Qty like 12"_s) << type;
+        EXPECT_EQ(buildCellFilter(u"Qty"_s, type, u"12"_s).condition, u"Qty like 12"_s) << type;
 }
 
 TEST(CellFilterText, TextsAreComparedInQuotesAndLetterForLetter)
 {
     for (const qint32 type : {129, 130, 200, 202})
-        EXPECT_EQ(BuildCellFilter(u"T.[A]"_s, type, u"a%b"_s).condition, u"T.[A] like 'a%b'"_s) << type;
+        EXPECT_EQ(buildCellFilter(u"T.[A]"_s, type, u"a%b"_s).condition, u"T.[A] like 'a%b'"_s) << type;
 }
 
 TEST(CellFilterText, ApostropheIsRefused)
 {
-    const CellFilter filter = BuildCellFilter(u"A"_s, 202, u"O'Neil"_s);
+    const CellFilter filter = buildCellFilter(u"A"_s, 202, u"O'Neil"_s);
     EXPECT_EQ(filter.condition, QString());
     EXPECT_EQ(filter.message, u"对不起，过滤内容中不能含有\"  ' \"符号!"_s);
 }
@@ -144,7 +144,7 @@ TEST(CellFilterText, ApostropheIsRefused)
 TEST(CellFilterText, OtherTypesAreRefused)
 {
     for (const qint32 type : {7, 8, 11, 17, 19, 201, 203, 205}) {
-        const CellFilter filter = BuildCellFilter(u"A"_s, type, u"12"_s);
+        const CellFilter filter = buildCellFilter(u"A"_s, type, u"12"_s);
         EXPECT_EQ(filter.condition, QString());
         EXPECT_EQ(filter.message, u"对不起，过滤操作不支持选中内容的数据类型！"_s) << type;
     }
@@ -152,13 +152,13 @@ TEST(CellFilterText, OtherTypesAreRefused)
 
 TEST(CellFilterText, NullIsAskedForByName)
 {
-    EXPECT_EQ(BuildCellFilter(u"A"_s, 202, std::nullopt).condition, u"A IS NULL"_s);
-    EXPECT_EQ(BuildCellFilter(u"A"_s, 3, std::nullopt).condition, u"A IS NULL"_s);
-    EXPECT_EQ(BuildCellFilter(u"A"_s, 7, std::nullopt).message, QueryTexts::TypeNotFiltered());
+    EXPECT_EQ(buildCellFilter(u"A"_s, 202, std::nullopt).condition, u"A IS NULL"_s);
+    EXPECT_EQ(buildCellFilter(u"A"_s, 3, std::nullopt).condition, u"A IS NULL"_s);
+    EXPECT_EQ(buildCellFilter(u"A"_s, 7, std::nullopt).message, QueryTexts::TypeNotFiltered());
 }
 
 TEST(CellFilterText, NothingComesOfAnUnknownField)
 {
-    for (const CellFilter &filter : {BuildCellFilter({}, 3, u"1"_s), BuildCellFilter(u"A"_s, {}, u"1"_s)})
+    for (const CellFilter &filter : {buildCellFilter({}, 3, u"1"_s), buildCellFilter(u"A"_s, {}, u"1"_s)})
         EXPECT_EQ(filter.condition + filter.message, QString());
 }

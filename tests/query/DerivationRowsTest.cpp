@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Dialect dialect = DialectOf(dbAccess, Engine::SQLite);
+const Dialect dialect = dialectOf(dbAccess, Engine::SQLite);
 
 class DerivationRows : public testing::Test
 {

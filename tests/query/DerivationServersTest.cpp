@@ -58,7 +58,7 @@ protected:
         session->run(tables);
         connection = std::make_shared<ADODB::Connection>();
         connection->Open(text);
-        dialect = DialectOf(GetParam().database, EngineOf(connection));
+        dialect = dialectOf(GetParam().database, engineOf(connection));
     }
     ~DerivationServers() override
     {
@@ -114,7 +114,7 @@ protected:
         if (value == u"N")
             return written + u" IS NULL"_s;
         const QString text = value.mid(1);
-        return written + u" = "_s + (ClassifyFieldType(type) == u"1" ? text : TextLiteral(dialect, text));
+        return written + u" = "_s + (ClassifyFieldType(type) == u"1" ? text : textLiteral(dialect, text));
     }
 
     static void expectRows(Result actual, std::vector<QStringList> expected, const QString &statement)

@@ -16,7 +16,7 @@ Derivation derive(Engine engine, const QString &statement, const QStringList &na
     std::vector<SourceField> fields;
     for (const QString &name : names)
         fields.push_back({name, 202});
-    return Derivation(statement, fields, DialectOf(database, engine));
+    return Derivation(statement, fields, dialectOf(database, engine));
 }
 
 // One blank for each run of blanks and line breaks.
@@ -107,10 +107,10 @@ TEST(DerivationText, FieldsOfEqualNamesAreToldApartByTheirTable)
 {
     const Derivation joined(u"select * from Ord o join Cust on o.C = Cust.ID"_s,
                             {{u"ID"_s, 3, u"Ord"_s}, {u"C"_s, 3, u"Ord"_s}, {u"ID"_s, 3, u"Cust"_s}},
-                            DialectOf(dbAccess, Engine::SQLite));
+                            dialectOf(dbAccess, Engine::SQLite));
     EXPECT_EQ(joined.written(), (QStringList{u"o.ID"_s, u"C"_s, u"Cust.ID"_s}));
     const Derivation itself(u"select * from Ord a join Ord b on a.ID = b.C"_s,
                             {{u"ID"_s, 3, u"Ord"_s}, {u"ID"_s, 3, u"Ord"_s}},
-                            DialectOf(dbAccess, Engine::SQLite));
+                            dialectOf(dbAccess, Engine::SQLite));
     EXPECT_EQ(itself.written(), (QStringList{QString(), QString()})) << "no name is unmistakable";
 }

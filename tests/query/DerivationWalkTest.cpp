@@ -325,7 +325,7 @@ TEST(DerivationProperties, NoCellsTextChangesAStatementsStructure)
     for (const Case &c : ReadCases(u"statements.cases"_s)) {
         SCOPED_TRACE(c.place.toStdString());
         const Derivation derivation(c[u"statement"_s], database->fields(c[u"statement"_s]),
-                                    DialectOf(dbAccess, Engine::SQLite));
+                                    dialectOf(dbAccess, Engine::SQLite));
         QString structures[3];
         for (int round = 0; round < 40; ++round) {
             QString text = u"x"_s; // no number
@@ -336,11 +336,11 @@ TEST(DerivationProperties, NoCellsTextChangesAStatementsStructure)
             ASSERT_TRUE(BuildLikeAllCondition(text.split(u'%').join(u' '), {u"F"_s, 202, name}, {}, dbAccess,
                                               words, Engine::SQLite));
             const QString conditions[] = {
-                BuildCellFilter(name, 3, text, Engine::SQLite).condition,
-                BuildCellFilter(name, 202, text.split(u'\'').join(u' '), Engine::SQLite).condition, words};
+                buildCellFilter(name, 3, text, Engine::SQLite).condition,
+                buildCellFilter(name, 202, text.split(u'\'').join(u' '), Engine::SQLite).condition, words};
             for (int kind = 0; kind < 3; ++kind) {
                 const QString once = derivation.withCondition(conditions[kind]);
-                const Derivation again(once, database->fields(once), DialectOf(dbAccess, Engine::SQLite));
+                const Derivation again(once, database->fields(once), dialectOf(dbAccess, Engine::SQLite));
                 const QString structure = structureOf(again.withSort(again.written().first()));
                 if (round == 0)
                     structures[kind] = structure;

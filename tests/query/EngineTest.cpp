@@ -64,7 +64,7 @@ TEST(QuickFilterOnEngines, ABackslashIsFoundAsOne)
 TEST(CellFilterOnEngines, ComparesNumbersAsNumbersWhereLikeTakesNone)
 {
     const auto condition = [](qint32 type, const QString &text, Engine engine) {
-        return BuildCellFilter(u"F"_s, type, text, engine).condition;
+        return buildCellFilter(u"F"_s, type, text, engine).condition;
     };
     EXPECT_EQ(condition(3, u"12"_s, Engine::PostgreSQL), u"F = 12"_s);
     EXPECT_EQ(condition(131, u"-0.50"_s, Engine::PostgreSQL), u"F = -0.50"_s);
@@ -79,7 +79,7 @@ TEST(CellFilterOnEngines, ComparesNumbersAsNumbersWhereLikeTakesNone)
 TEST(CellFilterOnEngines, WritesANumberOnlyWhereTheValueIsOne)
 {
     const auto condition = [](qint32 type, const QString &text, Engine engine) {
-        return BuildCellFilter(u"F"_s, type, text, engine).condition;
+        return buildCellFilter(u"F"_s, type, text, engine).condition;
     };
     EXPECT_EQ(condition(3, u"0 UNION SELECT token,x FROM secret --"_s, Engine::SQLite),
               u"F like ('0 UNION SELECT token,x F' || 'ROM secret --')"_s);
@@ -92,7 +92,7 @@ TEST(CellFilterOnEngines, WritesANumberOnlyWhereTheValueIsOne)
 TEST(CellFilterOnEngines, FindsWholeNumbersInFloatingColumns)
 {
     const auto condition = [](qint32 type, const QString &text, Engine engine) {
-        return BuildCellFilter(u"F"_s, type, text, engine).condition;
+        return buildCellFilter(u"F"_s, type, text, engine).condition;
     };
     EXPECT_EQ(condition(5, u"10"_s, Engine::SQLite), u"F like 10.0"_s);
     EXPECT_EQ(condition(4, u"10.5"_s, Engine::SQLite), u"F like 10.5"_s);
@@ -104,7 +104,7 @@ TEST(CellFilterOnEngines, FindsWholeNumbersInFloatingColumns)
 
 TEST(CellFilterOnEngines, TakesCurrencyForANumber)
 {
-    EXPECT_EQ(BuildCellFilter(u"F"_s, 6, u"12.5"_s, Engine::SQLite).condition, u"F = 12.5"_s);
+    EXPECT_EQ(buildCellFilter(u"F"_s, 6, u"12.5"_s, Engine::SQLite).condition, u"F = 12.5"_s);
     QString condition;
     EXPECT_TRUE(BuildLikeAllCondition(u"1"_s, {u"F"_s, 6}, u"SELECT * FROM T"_s, dbAccess, condition,
                                       Engine::SQLite));

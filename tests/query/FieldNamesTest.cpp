@@ -19,17 +19,17 @@ TEST(FieldNames, ShortNameStandsBehindTheFirstPoint)
 
 TEST(FieldNames, WrittenFieldsAreTheTrimmedItemsOfTheList)
 {
-    EXPECT_EQ(WrittenFields(u" select [A B] , T.C,\"D\" from T"_s),
+    EXPECT_EQ(writtenFields(u" select [A B] , T.C,\"D\" from T"_s),
               (QStringList{u"[A B]"_s, u"T.C"_s, u"\"D\""_s}));
-    EXPECT_TRUE(WrittenFields(u"select A"_s).isEmpty());
-    EXPECT_TRUE(WrittenFields(u"sel from T"_s).isEmpty());
+    EXPECT_TRUE(writtenFields(u"select A"_s).isEmpty());
+    EXPECT_TRUE(writtenFields(u"sel from T"_s).isEmpty());
 }
 
 TEST(FieldNames, WordsInFrontOfTheListBelongToNoItem)
 {
-    EXPECT_EQ(WrittenFields(u"select DISTINCT T.A, C from T"_s), QStringList({u"T.A"_s, u"C"_s}));
-    EXPECT_EQ(WrittenFields(u"select all  [A b] from T"_s), QStringList(u"[A b]"_s));
-    EXPECT_EQ(WrittenFields(u"select distinct TOP 5 T.A from T"_s), QStringList(u"T.A"_s));
-    EXPECT_EQ(WrittenFields(u"select Distinction,Topic from T"_s),
+    EXPECT_EQ(writtenFields(u"select DISTINCT T.A, C from T"_s), QStringList({u"T.A"_s, u"C"_s}));
+    EXPECT_EQ(writtenFields(u"select all  [A b] from T"_s), QStringList(u"[A b]"_s));
+    EXPECT_EQ(writtenFields(u"select distinct TOP 5 T.A from T"_s), QStringList(u"T.A"_s));
+    EXPECT_EQ(writtenFields(u"select Distinction,Topic from T"_s),
               QStringList({u"Distinction"_s, u"Topic"_s}));
 }

@@ -48,7 +48,7 @@ TEST(SqlTextProperties, SplittingThenJoiningLosesNothing)
         if (!sentence)
             continue;
         ASSERT_EQ(sentence->fields + sentence->where + sentence->order, statement);
-        ASSERT_EQ(JoinSQLSentence(*sentence),
+        ASSERT_EQ(joinSQLSentence(*sentence),
                   sentence->fields + u' ' + sentence->where + u' ' + sentence->order);
     }
 }
@@ -63,7 +63,7 @@ TEST(SqlTextProperties, SplittingAWholeAgainGivesTheSameConditionAndSort)
         // A sort in front of the condition holds the word WHERE itself, so it can't be told apart again.
         if (!sentence || sentence->order.contains(u" where "_s, Qt::CaseInsensitive))
             continue;
-        const auto again = SplitSQLSentence(JoinSQLSentence(*sentence));
+        const auto again = SplitSQLSentence(joinSQLSentence(*sentence));
         ASSERT_TRUE(again);
         ASSERT_EQ(again->where.trimmed(), sentence->where.trimmed()) << statement.toStdString();
         ASSERT_EQ(again->order.trimmed(), sentence->order.trimmed()) << statement.toStdString();
@@ -83,8 +83,8 @@ TEST(SqlTextProperties, JoiningLinesTwiceIsJoiningThemOnce)
 {
     StatementMaker make;
     for (int i = 0; i < 20000; ++i) {
-        const QString joined = JoinStatementLines(make());
-        ASSERT_EQ(JoinStatementLines(joined), joined);
+        const QString joined = joinStatementLines(make());
+        ASSERT_EQ(joinStatementLines(joined), joined);
     }
 }
 
@@ -94,10 +94,10 @@ TEST(SqlTextProperties, NameRoutinesTakeAnyText)
     for (int i = 0; i < 20000; ++i) {
         const QString text = make();
         ASSERT_LE(ShortFieldName(text).size(), text.size());
-        ASSERT_LE(LastNamePart(text).size(), text.size());
+        ASSERT_LE(lastNamePart(text).size(), text.size());
         for (const AllDBType database : {dbAccess, dbOracle, dbSQLServer})
-            ASSERT_GE(WrittenName(DialectOf(database, Engine::Other), text).size(), text.size());
-        for (const QString &written : WrittenFields(text))
+            ASSERT_GE(writtenName(dialectOf(database, Engine::Other), text).size(), text.size());
+        for (const QString &written : writtenFields(text))
             ASSERT_FALSE(written.contains(u','));
     }
 }
@@ -108,7 +108,7 @@ TEST(SqlTextProperties, DerivationsTakeAnyText)
     for (int i = 0; i < 5000; ++i) {
         const QString text = make();
         for (const Engine engine : {Engine::SQLite, Engine::PostgreSQL, Engine::MySQL, Engine::SqlServer}) {
-            const Derivation derivation(text, {{u"A"_s, 3}, {u"B"_s, 202}}, DialectOf(dbOracle, engine));
+            const Derivation derivation(text, {{u"A"_s, 3}, {u"B"_s, 202}}, dialectOf(dbOracle, engine));
             ASSERT_EQ(derivation.written().size(), 2);
             ASSERT_EQ(derivation.listed().size(), 2);
             derivation.withSort(u"A"_s);
@@ -116,14 +116,14 @@ TEST(SqlTextProperties, DerivationsTakeAnyText)
             derivation.withoutConditions();
             const QString filtered = derivation.withCondition(u"A = 1"_s);
             ASSERT_TRUE(filtered.isEmpty() || filtered.contains(u"A = 1"_s));
-            Derivation(filtered, {}, DialectOf(dbOracle, engine)).withFieldsOf(derivation);
+            Derivation(filtered, {}, dialectOf(dbOracle, engine)).withFieldsOf(derivation);
         }
     }
 }
 
 TEST(SqlTextProperties, ListsAreCutWhereTheyAreJoined)
 {
-    EXPECT_EQ(SplitList(u" a, f(b, c) ,[d,e] , 'f,g' desc,, "_s),
+    EXPECT_EQ(splitList(u" a, f(b, c) ,[d,e] , 'f,g' desc,, "_s),
               (QStringList{u"a"_s, u"f(b, c)"_s, u"[d,e]"_s, u"'f,g' desc"_s}));
-    EXPECT_TRUE(SplitList({}).isEmpty());
+    EXPECT_TRUE(splitList({}).isEmpty());
 }

@@ -60,18 +60,18 @@ TEST(SqlText, DerivesStatements)
         auto sentence = SplitSQLSentence(statement).value_or(SQLSentence());
         QString result;
         if (c.Has(u"filter"_s)) {
-            AddCondition(sentence, c[u"filter"_s]);
-            result = JoinSQLSentence(sentence);
+            addCondition(sentence, c[u"filter"_s]);
+            result = joinSQLSentence(sentence);
         } else if (c.Has(u"sort"_s)) {
             sentence.order = c[u"sort"_s].isEmpty() ? QString() : u" ORDER BY "_s + c[u"sort"_s];
-            result = JoinSQLSentence(sentence);
+            result = joinSQLSentence(sentence);
         } else if (c.Has(u"head"_s)) {
             result = ReplaceSQLFieldPart(statement, c[u"head"_s]);
         } else if (c.Has(u"append"_s)) {
             result = AppendOrderWord(statement, c[u"append"_s]);
         } else {
             ASSERT_TRUE(c.Has(u"replaceSort"_s));
-            result = ReplaceOrderWord(statement, c[u"replaceSort"_s]);
+            result = replaceOrderWord(statement, c[u"replaceSort"_s]);
         }
         EXPECT_EQ(result, c[u"result"_s]);
     }
@@ -106,14 +106,14 @@ TEST(SqlText, EmptyAffixEmptiesTheText)
 
 TEST(SqlText, FromPartReachesToTheEnd)
 {
-    EXPECT_EQ(GetFromPart(u"select a From T where b order by c"_s), u" From T where b order by c"_s);
-    EXPECT_EQ(GetFromPart(u"select a"_s), QString());
+    EXPECT_EQ(getFromPart(u"select a From T where b order by c"_s), u" From T where b order by c"_s);
+    EXPECT_EQ(getFromPart(u"select a"_s), QString());
 }
 
 TEST(SqlText, JoinsStatementLines)
 {
     for (const Case &c : ReadCases(u"lines.cases"_s)) {
         SCOPED_TRACE(c.place.toStdString());
-        EXPECT_EQ(JoinStatementLines(c[u"written"_s]), c[u"taken"_s]);
+        EXPECT_EQ(joinStatementLines(c[u"written"_s]), c[u"taken"_s]);
     }
 }

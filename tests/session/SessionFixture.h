@@ -29,7 +29,7 @@ class PlainWindow final : public KOVAVSFDataGridLib::SessionWindow
 public:
     int Cols() const override { return static_cast<int>(headings.size()) + 1; }
     QStringList Headings() const override { return headings; }
-    int ColWidth(int col) const override { return widths.contains(col) ? widths.at(col) : UseDefaultWidth; }
+    int ColWidth(int col) const override { return widths.contains(col) ? widths.at(col) : useDefaultWidth; }
     void PutColWidth(int col, int twips) override { widths[col] = twips; }
     void ResetColWidths() override { widths.clear(); }
     int width() const override { return 10000; }

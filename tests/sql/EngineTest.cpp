@@ -7,23 +7,23 @@ using namespace Qt::StringLiterals;
 
 TEST(Engine, IsKnownByTheNameItsDriverGivesIt)
 {
-    EXPECT_EQ(EngineNamed(u"PostgreSQL"_s), Engine::PostgreSQL);
-    EXPECT_EQ(EngineNamed(u"postgresql 15"_s), Engine::PostgreSQL);
-    EXPECT_EQ(EngineNamed(u"MariaDB"_s), Engine::MySQL);
-    EXPECT_EQ(EngineNamed(u"MySQL"_s), Engine::MySQL);
-    EXPECT_EQ(EngineNamed(u"SQLite"_s), Engine::SQLite);
-    EXPECT_EQ(EngineNamed(u"Microsoft SQL Server"_s), Engine::SqlServer);
-    EXPECT_EQ(EngineNamed(u"Oracle"_s), Engine::Oracle);
-    EXPECT_EQ(EngineNamed(u"ACCESS"_s), Engine::Access);
-    EXPECT_EQ(EngineNamed(u"Firebird 4.0"_s), Engine::Standard);
-    EXPECT_EQ(EngineNamed({}), Engine::Other);
+    EXPECT_EQ(engineNamed(u"PostgreSQL"_s), Engine::PostgreSQL);
+    EXPECT_EQ(engineNamed(u"postgresql 15"_s), Engine::PostgreSQL);
+    EXPECT_EQ(engineNamed(u"MariaDB"_s), Engine::MySQL);
+    EXPECT_EQ(engineNamed(u"MySQL"_s), Engine::MySQL);
+    EXPECT_EQ(engineNamed(u"SQLite"_s), Engine::SQLite);
+    EXPECT_EQ(engineNamed(u"Microsoft SQL Server"_s), Engine::SqlServer);
+    EXPECT_EQ(engineNamed(u"Oracle"_s), Engine::Oracle);
+    EXPECT_EQ(engineNamed(u"ACCESS"_s), Engine::Access);
+    EXPECT_EQ(engineNamed(u"Firebird 4.0"_s), Engine::Standard);
+    EXPECT_EQ(engineNamed({}), Engine::Other);
 }
 
 TEST(Engine, IsGuessedFromTheDeclaredTypeOnlyWhileUnknown)
 {
-    EXPECT_EQ(DialectOf(dbAccess, Engine::Other).likelyEngine(), Engine::Access);
-    EXPECT_EQ(DialectOf(dbOracle, Engine::Other).likelyEngine(), Engine::Oracle);
-    EXPECT_EQ(DialectOf(dbSQLServer, Engine::Other).likelyEngine(), Engine::SqlServer);
-    EXPECT_EQ(DialectOf(AllDBType{}, Engine::Other).likelyEngine(), Engine::Standard);
-    EXPECT_EQ(DialectOf(dbOracle, Engine::PostgreSQL).likelyEngine(), Engine::PostgreSQL);
+    EXPECT_EQ(dialectOf(dbAccess, Engine::Other).likelyEngine(), Engine::Access);
+    EXPECT_EQ(dialectOf(dbOracle, Engine::Other).likelyEngine(), Engine::Oracle);
+    EXPECT_EQ(dialectOf(dbSQLServer, Engine::Other).likelyEngine(), Engine::SqlServer);
+    EXPECT_EQ(dialectOf(AllDBType{}, Engine::Other).likelyEngine(), Engine::Standard);
+    EXPECT_EQ(dialectOf(dbOracle, Engine::PostgreSQL).likelyEngine(), Engine::PostgreSQL);
 }

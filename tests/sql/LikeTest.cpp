@@ -7,10 +7,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr Dialect SqliteFile{dbAccess, false};
-constexpr Dialect OracleServer{dbOracle, true};
-constexpr Dialect SqlServer{dbSQLServer, true};
-constexpr Dialect MariaDb{dbSQLServer, true, true};
+constexpr Dialect sqliteFile{dbAccess, false};
+constexpr Dialect oracleServer{dbOracle, true};
+constexpr Dialect sqlServer{dbSQLServer, true};
+constexpr Dialect mariaDb{dbSQLServer, true, true};
 
 void expectText(const QString &text, const char *expected)
 {
@@ -40,29 +40,29 @@ TEST(Like, LikeMatchesItsOwnWildcardsAsThemselves)
         {u"北_"_s, Anchor::Begin, "F LIKE '北!_%' ESCAPE '!'", "F LIKE N'北!_%' ESCAPE '!'"},
     };
     for (const Case &c : cases) {
-        expectText(Like(SqliteFile, u"F"_s, c.text, c.anchor), c.sqlite);
-        expectText(Like(SqlServer, u"F"_s, c.text, c.anchor), c.sqlServer);
+        expectText(like(sqliteFile, u"F"_s, c.text, c.anchor), c.sqlite);
+        expectText(like(sqlServer, u"F"_s, c.text, c.anchor), c.sqlServer);
     }
 }
 
 TEST(Like, TakesWordsThatBeginAClauseApart)
 {
-    expectText(Like(SqliteFile, u"F"_s, u"x order by 5%"_s, Anchor::None),
+    expectText(like(sqliteFile, u"F"_s, u"x order by 5%"_s, Anchor::None),
                "F LIKE ('%x o' || 'rder by 5!%%') ESCAPE '!'");
 }
 
 TEST(Like, MatchesABackslashAsItself)
 {
     // PostgreSQL's and MariaDB's patterns have it as an escape where no other one is named.
-    expectText(Like(OracleServer, u"F"_s, uR"(a\b)"_s, Anchor::Begin), R"(F LIKE 'a\b%' ESCAPE '!')");
-    expectText(Like(MariaDb, u"F"_s, uR"(a\%)"_s, Anchor::End), R"(F LIKE '%a\\!%' ESCAPE '!')");
+    expectText(like(oracleServer, u"F"_s, uR"(a\b)"_s, Anchor::Begin), R"(F LIKE 'a\b%' ESCAPE '!')");
+    expectText(like(mariaDb, u"F"_s, uR"(a\%)"_s, Anchor::End), R"(F LIKE '%a\\!%' ESCAPE '!')");
 }
 
 TEST(Like, CastsWhatIsReportedAsTextOnPostgreSql)
 {
-    const Dialect postgres = DialectOf(dbOracle, Engine::PostgreSQL);
-    expectText(Like(postgres, u"F"_s, u"a"_s, Anchor::End), "CAST(F AS TEXT) LIKE '%a'");
-    EXPECT_EQ(LikeOperand(Engine::SQLite, u"F"_s), u"F"_s);
-    EXPECT_TRUE(LikesTextsOnly(Engine::PostgreSQL));
-    EXPECT_FALSE(LikesTextsOnly(Engine::MySQL));
+    const Dialect postgres = dialectOf(dbOracle, Engine::PostgreSQL);
+    expectText(like(postgres, u"F"_s, u"a"_s, Anchor::End), "CAST(F AS TEXT) LIKE '%a'");
+    EXPECT_EQ(likeOperand(Engine::SQLite, u"F"_s), u"F"_s);
+    EXPECT_TRUE(likesTextsOnly(Engine::PostgreSQL));
+    EXPECT_FALSE(likesTextsOnly(Engine::MySQL));
 }

@@ -7,11 +7,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr Dialect SqliteFile{dbAccess, false};
-constexpr Dialect OracleServer{dbOracle, true};
-constexpr Dialect SqlServer{dbSQLServer, true};
-constexpr Dialect MariaDb{dbSQLServer, true, true};
-constexpr Dialect AccessServer{dbAccess, true};
+constexpr Dialect sqliteFile{dbAccess, false};
+constexpr Dialect oracleServer{dbOracle, true};
+constexpr Dialect sqlServer{dbSQLServer, true};
+constexpr Dialect mariaDb{dbSQLServer, true, true};
+constexpr Dialect accessServer{dbAccess, true};
 
 void expectText(const QString &text, const char *expected)
 {
@@ -22,18 +22,18 @@ void expectText(const QString &text, const char *expected)
 
 TEST(Literals, ApostrophesInTextAreDoubled)
 {
-    expectText(TextWithoutClauses(SqliteFile, u"O'Brien's"_s), "'O''Brien''s'");
-    expectText(TextWithoutClauses(SqliteFile, u"'"_s), "''''");
-    expectText(TextWithoutClauses(SqliteFile, u"北京"_s), "'北京'");
+    expectText(textWithoutClauses(sqliteFile, u"O'Brien's"_s), "'O''Brien''s'");
+    expectText(textWithoutClauses(sqliteFile, u"'"_s), "''''");
+    expectText(textWithoutClauses(sqliteFile, u"北京"_s), "'北京'");
 }
 
 TEST(Literals, OnlySqlServerNeedsToBeToldOfUnicode)
 {
-    expectText(TextWithoutClauses(SqlServer, u"北京"_s), "N'北京'");
-    expectText(TextWithoutClauses(SqlServer, u"Beijing"_s), "'Beijing'");
-    expectText(TextWithoutClauses(OracleServer, u"北京"_s), "'北京'");
-    expectText(TextWithoutClauses({dbSQLServer, false}, u"北京"_s), "'北京'");
-    expectText(TextWithoutClauses({dbSQLServer, true, false, Engine::MySQL}, u"北京"_s), "'北京'");
+    expectText(textWithoutClauses(sqlServer, u"北京"_s), "N'北京'");
+    expectText(textWithoutClauses(sqlServer, u"Beijing"_s), "'Beijing'");
+    expectText(textWithoutClauses(oracleServer, u"北京"_s), "'北京'");
+    expectText(textWithoutClauses({dbSQLServer, false}, u"北京"_s), "'北京'");
+    expectText(textWithoutClauses({dbSQLServer, true, false, Engine::MySQL}, u"北京"_s), "'北京'");
 }
 
 TEST(Literals, WordsThatBeginAClauseAreTakenApartSoThatNoStatementIsCutThere)
@@ -54,27 +54,27 @@ TEST(Literals, WordsThatBeginAClauseAreTakenApartSoThatNoStatementIsCutThere)
         {u"order by"_s, "'order by'", "'order by'"},
     };
     for (const Case &c : cases) {
-        expectText(TextWithoutClauses(SqliteFile, c.text), c.sqlite);
-        expectText(TextWithoutClauses(OracleServer, c.text), c.server);
+        expectText(textWithoutClauses(sqliteFile, c.text), c.sqlite);
+        expectText(textWithoutClauses(oracleServer, c.text), c.server);
     }
 }
 
 TEST(Literals, ABackslashIsMatchedAsItself)
 {
-    expectText(TextWithoutClauses(OracleServer, uR"(C:\temp\)"_s), R"('C:\temp\')");
-    expectText(TextWithoutClauses(MariaDb, uR"(C:\temp\)"_s), R"('C:\\temp\\')");
-    expectText(TextWithoutClauses(MariaDb, uR"(\'北)"_s), R"('\\''北')");
+    expectText(textWithoutClauses(oracleServer, uR"(C:\temp\)"_s), R"('C:\temp\')");
+    expectText(textWithoutClauses(mariaDb, uR"(C:\temp\)"_s), R"('C:\\temp\\')");
+    expectText(textWithoutClauses(mariaDb, uR"(\'北)"_s), R"('\\''北')");
 }
 
 TEST(Literals, DatesAreIsoTextOrOdbcEscapes)
 {
     const QDate day(2024, 1, 5);
     const QDateTime moment(day, QTime(8, 30), Qt::UTC);
-    expectText(DateLiteral(SqliteFile, day), "'2024-01-05'");
-    expectText(TimeLiteral(SqliteFile, QTime(8, 30, 1)), "'08:30:01'");
-    expectText(MomentLiteral(SqliteFile, moment), "'2024-01-05 08:30:00'");
-    expectText(MomentLiteral(SqliteFile, moment.addMSecs(250)), "'2024-01-05 08:30:00.250'");
-    expectText(DateLiteral(AccessServer, day), "{d '2024-01-05'}");
-    expectText(TimeLiteral(OracleServer, QTime(8, 30, 1)), "{t '08:30:01'}");
-    expectText(MomentLiteral(SqlServer, moment), "{ts '2024-01-05 08:30:00'}");
+    expectText(dateLiteral(sqliteFile, day), "'2024-01-05'");
+    expectText(timeLiteral(sqliteFile, QTime(8, 30, 1)), "'08:30:01'");
+    expectText(momentLiteral(sqliteFile, moment), "'2024-01-05 08:30:00'");
+    expectText(momentLiteral(sqliteFile, moment.addMSecs(250)), "'2024-01-05 08:30:00.250'");
+    expectText(dateLiteral(accessServer, day), "{d '2024-01-05'}");
+    expectText(timeLiteral(oracleServer, QTime(8, 30, 1)), "{t '08:30:01'}");
+    expectText(momentLiteral(sqlServer, moment), "{ts '2024-01-05 08:30:00'}");
 }

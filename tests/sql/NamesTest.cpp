@@ -12,7 +12,7 @@ namespace {
 
 void expectWritten(AllDBType database, Engine engine, const QString &name, const char *expected)
 {
-    EXPECT_STREQ(qUtf8Printable(WrittenName(DialectOf(database, engine), name)), expected);
+    EXPECT_STREQ(qUtf8Printable(writtenName(dialectOf(database, engine), name)), expected);
 }
 
 } // namespace
@@ -20,9 +20,9 @@ void expectWritten(AllDBType database, Engine engine, const QString &name, const
 TEST(Names, PlainNamesBeginWithALetterOfAnyScript)
 {
     for (const QString &name : {u"A"_s, u"_a1"_s, u"客户2"_s, u"Straße"_s, u"v$session#"_s, u"𠀀1"_s})
-        EXPECT_TRUE(IsPlainName(name)) << name.toStdString();
+        EXPECT_TRUE(isPlainName(name)) << name.toStdString();
     for (const QString &name : {QString(), u"1A"_s, u"A B"_s, u"$a"_s, u"年龄（岁）"_s, u"a-b"_s, u"T.A"_s})
-        EXPECT_FALSE(IsPlainName(name)) << name.toStdString();
+        EXPECT_FALSE(isPlainName(name)) << name.toStdString();
 }
 
 TEST(Names, AreBareWhereTheDeclaredTypeAllowsIt)
@@ -101,35 +101,35 @@ TEST(Names, AreWrittenAsTheEngineWantsItWhateverTheDeclaredType)
 
 TEST(Names, AreReservedByTheirEngineAlone)
 {
-    EXPECT_TRUE(IsReservedWord(Engine::MySQL, u"Rank"_s));
-    EXPECT_FALSE(IsReservedWord(Engine::SQLite, u"Rank"_s));
-    EXPECT_TRUE(IsReservedWord(Engine::Oracle, u"LEVEL"_s));
-    EXPECT_FALSE(IsReservedWord(Engine::PostgreSQL, u"LEVEL"_s));
+    EXPECT_TRUE(isReservedWord(Engine::MySQL, u"Rank"_s));
+    EXPECT_FALSE(isReservedWord(Engine::SQLite, u"Rank"_s));
+    EXPECT_TRUE(isReservedWord(Engine::Oracle, u"LEVEL"_s));
+    EXPECT_FALSE(isReservedWord(Engine::PostgreSQL, u"LEVEL"_s));
     for (const Engine engine : {Engine::SQLite, Engine::Access, Engine::SqlServer, Engine::Oracle,
                                 Engine::PostgreSQL, Engine::MySQL, Engine::Standard}) {
-        EXPECT_TRUE(IsReservedWord(engine, u"Select"_s));
-        EXPECT_FALSE(IsReservedWord(engine, u"Name"_s));
+        EXPECT_TRUE(isReservedWord(engine, u"Select"_s));
+        EXPECT_FALSE(isReservedWord(engine, u"Name"_s));
     }
-    EXPECT_TRUE(IsReservedWord(Engine::Standard, u"rank"_s)) << "some engine has it";
+    EXPECT_TRUE(isReservedWord(Engine::Standard, u"rank"_s)) << "some engine has it";
 }
 
 TEST(Names, LastPartLosesItsQuotes)
 {
-    EXPECT_EQ(LastNamePart(u"dbo.T.\"Name\""_s), u"Name"_s);
-    EXPECT_EQ(LastNamePart(u"[T].[Order.Date]"_s), u"Order.Date"_s);
-    EXPECT_EQ(LastNamePart(u"dbo.T.Name"_s), u"Name"_s);
-    EXPECT_EQ(LastNamePart(u"Name"_s), u"Name"_s);
-    EXPECT_EQ(LastNamePart(u"\""_s), QString());
-    EXPECT_EQ(LastNamePart(u"T.A as [x y]"_s), QString()) << "an alias is no part of a name";
-    EXPECT_EQ(LastNamePart(u"T.A \"x\""_s), QString());
-    EXPECT_EQ(LastNamePart(u"T.`a.b`"_s), u"a.b"_s);
-    EXPECT_EQ(LastNamePart({}), QString());
+    EXPECT_EQ(lastNamePart(u"dbo.T.\"Name\""_s), u"Name"_s);
+    EXPECT_EQ(lastNamePart(u"[T].[Order.Date]"_s), u"Order.Date"_s);
+    EXPECT_EQ(lastNamePart(u"dbo.T.Name"_s), u"Name"_s);
+    EXPECT_EQ(lastNamePart(u"Name"_s), u"Name"_s);
+    EXPECT_EQ(lastNamePart(u"\""_s), QString());
+    EXPECT_EQ(lastNamePart(u"T.A as [x y]"_s), QString()) << "an alias is no part of a name";
+    EXPECT_EQ(lastNamePart(u"T.A \"x\""_s), QString());
+    EXPECT_EQ(lastNamePart(u"T.`a.b`"_s), u"a.b"_s);
+    EXPECT_EQ(lastNamePart({}), QString());
 }
 
 TEST(Names, BracketsBecomeQuotesOutsideQuotes)
 {
-    EXPECT_EQ(BracketsToQuotes(u"SELECT [A B],T.[C],D"_s), u"SELECT \"A B\",T.\"C\",D"_s);
-    EXPECT_EQ(BracketsToQuotes(u"where a like '[x]%' and \"[b]\"=[c\"d]"_s),
+    EXPECT_EQ(bracketsToQuotes(u"SELECT [A B],T.[C],D"_s), u"SELECT \"A B\",T.\"C\",D"_s);
+    EXPECT_EQ(bracketsToQuotes(u"where a like '[x]%' and \"[b]\"=[c\"d]"_s),
               u"where a like '[x]%' and \"[b]\"=\"c\"\"d\""_s);
-    EXPECT_EQ(BracketsToQuotes(u"O'Neil,[A],[B"_s), u"O'Neil,\"A\",[B"_s) << "what never ends is no quote";
+    EXPECT_EQ(bracketsToQuotes(u"O'Neil,[A],[B"_s), u"O'Neil,\"A\",[B"_s) << "what never ends is no quote";
 }

@@ -24,7 +24,7 @@ bool writePictures(const QDir &folder)
     list << "<RCC>\n  <qresource prefix=\"/KOVAVSFDataGridLib\">\n";
     for (const QFileInfo &drawing : QDir(QStringLiteral(":/KOVAVSFDataGridLib/icons")).entryInfoList()) {
         const QString key = drawing.completeBaseName();
-        for (const int side : IconMaskSizes) {
+        for (const int side : iconMaskSizes) {
             const QString name = QStringLiteral("icons/%1-%2.png").arg(key).arg(side);
             const QImage mask = iconPicture(key, {side, side}, Qt::red, Qt::blue);
             if (!mask.save(folder.filePath(name)))

@@ -30,12 +30,12 @@ using Points = Enumeration<IEnumConnectionPoints, IConnectionPoint *, ComPtr<ICo
 ConnectionPoints::ConnectionPoints(GridControl &control)
     : Part(control.identity()),
       m_control(control),
-      m_events(EventsId, *this),
+      m_events(eventsId, *this),
       m_properties(IID_IPropertyNotifySink, *this),
-      m_source(std::make_unique<EventSource>(control.grid(), *typeInfo(EventsId).Get(), m_events))
+      m_source(std::make_unique<EventSource>(control.grid(), *typeInfo(eventsId).Get(), m_events))
 {
     QObject::connect(&control.grid(), &KOVAVSFDataGrid::PropertyChanged, m_source.get(),
-                     [this](const QString &name) { tellChanged(name); });
+                     [this](const QString &name) { notifyChanged(name); });
 }
 
 STDMETHODIMP ConnectionPoints::EnumConnectionPoints(IEnumConnectionPoints **points)
@@ -52,7 +52,7 @@ STDMETHODIMP ConnectionPoints::FindConnectionPoint(REFIID iid, IConnectionPoint 
         return E_POINTER;
     *point = nullptr;
     // Clients that bind late ask for IDispatch and mean the events.
-    if (iid == EventsId || iid == IID_IDispatch)
+    if (iid == eventsId || iid == IID_IDispatch)
         *point = &m_events;
     else if (iid == IID_IPropertyNotifySink)
         *point = &m_properties;
@@ -69,13 +69,13 @@ void ConnectionPoints::end()
     m_properties.clear();
 }
 
-void ConnectionPoints::tellChanged(const QString &property)
+void ConnectionPoints::notifyChanged(const QString &property)
 {
     const DISPID id = m_control.dispatch().idOf(property);
     m_control.persistence().propertyChanged(property);
     m_control.view().viewChanged();
     // Last: a listener may let go of the control.
-    m_source->tellAll(m_properties, [id](IUnknown &sink) {
+    m_source->notifyAll(m_properties, [id](IUnknown &sink) {
         ComPtr<IPropertyNotifySink> listener;
         if (SUCCEEDED(sink.QueryInterface(IID_PPV_ARGS(&listener))))
             listener->OnChanged(id);

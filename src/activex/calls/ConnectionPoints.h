@@ -24,7 +24,7 @@ public:
     void end();
 
 private:
-    void tellChanged(const QString &property);
+    void notifyChanged(const QString &property);
 
     GridControl &m_control;
     ConnectionPoint m_events;

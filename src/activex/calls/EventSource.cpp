@@ -63,14 +63,14 @@ int EventSource::qt_metacall(QMetaObject::Call call, int id, void **arguments)
     if (id < 0 || call != QMetaObject::InvokeMetaMethod)
         return id;
     if (m_frozen == 0)
-        tell(m_events[static_cast<std::size_t>(id)], arguments);
+        notify(m_events[static_cast<std::size_t>(id)], arguments);
     return -1;
 }
 
-void EventSource::tell(const Event &event, void **arguments)
+void EventSource::notify(const Event &event, void **arguments)
 {
     const auto count = static_cast<std::size_t>(event.signal.parameterCount());
-    tellAll(m_point, [&event, arguments, count](IUnknown &sink) {
+    notifyAll(m_point, [&event, arguments, count](IUnknown &sink) {
         ComPtr<IDispatch> listener;
         if (FAILED(sink.QueryInterface(IID_PPV_ARGS(&listener))))
             return;
@@ -88,14 +88,14 @@ void EventSource::tell(const Event &event, void **arguments)
     });
 }
 
-void EventSource::tellAll(ConnectionPoint &point, const std::function<void(IUnknown &)> &tellOne)
+void EventSource::notifyAll(ConnectionPoint &point, const std::function<void(IUnknown &)> &notifyOne)
 {
     // A listener may let go of the control; the others are told all the same.
     ComPtr<IConnectionPoint> alive(&point);
     const QPointer<EventSource> self(this);
     ++m_telling;
     for (const ComPtr<IUnknown> &sink : point.sinks())
-        tellOne(*sink.Get());
+        notifyOne(*sink.Get());
     alive.Reset();
     if (self)
         --m_telling;

@@ -21,9 +21,9 @@ public:
 
     // While frozen nothing is told; freezes count.
     void freeze(bool on);
-    // Calls `tellOne` for each listener of a connection point of the same control. The control, and this with
-    // it, may be gone when it returns.
-    void tellAll(ConnectionPoint &point, const std::function<void(IUnknown &)> &tellOne);
+    // Calls `notifyOne` for each listener of a connection point of the same control. The control, and this
+    // with it, may be gone when it returns.
+    void notifyAll(ConnectionPoint &point, const std::function<void(IUnknown &)> &notifyOne);
     // Whether a listener is being told something at the moment.
     bool isTelling() const { return m_telling > 0; }
 
@@ -36,7 +36,7 @@ private:
         DISPID id;
         QMetaMethod signal;
     };
-    void tell(const Event &event, void **arguments);
+    void notify(const Event &event, void **arguments);
 
     ConnectionPoint &m_point;
     std::vector<Event> m_events;

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 GridDispatch::GridDispatch(GridControl &control)
     : Part(control.identity()),
       m_control(control),
-      m_info(typeInfo(InterfaceId)),
+      m_info(typeInfo(interfaceId)),
       m_members(KOVAVSFDataGrid::staticMetaObject, *m_info.Get())
 {
 }

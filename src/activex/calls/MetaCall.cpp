@@ -102,10 +102,10 @@ public:
     }
 
 private:
-    static constexpr std::size_t MostArguments = 10;
+    static constexpr std::size_t mostArguments = 10;
     QMetaMethod m_method;
-    std::array<QVariant, MostArguments> m_values;
-    std::array<void *, MostArguments + 1> m_pointers{};
+    std::array<QVariant, mostArguments> m_values;
+    std::array<void *, mostArguments + 1> m_pointers{};
 };
 
 bool isNumber(const VARIANT &argument)

@@ -82,7 +82,7 @@ STDMETHODIMP StreamPersistence::GetClassID(CLSID *id)
 {
     if (!id)
         return E_POINTER;
-    *id = ControlId;
+    *id = controlId;
     return S_OK;
 }
 

@@ -9,18 +9,18 @@
 namespace KOVAVSFDataGridLib::ActiveX {
 
 // Containers measure in hundredths of a millimetre.
-inline constexpr int HimetricPerInch = 2540;
+inline constexpr int himetricPerInch = 2540;
 
 inline QSize fromHimetric(const SIZEL &size, const QWidget &widget)
 {
-    return QSize(static_cast<int>(std::lround(double(size.cx) * widget.logicalDpiX() / HimetricPerInch)),
-                 static_cast<int>(std::lround(double(size.cy) * widget.logicalDpiY() / HimetricPerInch)));
+    return QSize(static_cast<int>(std::lround(double(size.cx) * widget.logicalDpiX() / himetricPerInch)),
+                 static_cast<int>(std::lround(double(size.cy) * widget.logicalDpiY() / himetricPerInch)));
 }
 
 inline SIZEL toHimetric(const QSize &size, const QWidget &widget)
 {
-    return {std::lround(double(size.width()) * HimetricPerInch / widget.logicalDpiX()),
-            std::lround(double(size.height()) * HimetricPerInch / widget.logicalDpiY())};
+    return {std::lround(double(size.width()) * himetricPerInch / widget.logicalDpiX()),
+            std::lround(double(size.height()) * himetricPerInch / widget.logicalDpiY())};
 }
 
 } // namespace KOVAVSFDataGridLib::ActiveX

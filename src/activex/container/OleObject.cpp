@@ -112,7 +112,7 @@ STDMETHODIMP OleObject::GetUserClassID(CLSID *id)
 
 STDMETHODIMP OleObject::GetUserType(DWORD form, LPOLESTR *name)
 {
-    return OleRegGetUserType(ControlId, form, name);
+    return OleRegGetUserType(controlId, form, name);
 }
 
 STDMETHODIMP OleObject::SetExtent(DWORD aspect, SIZEL *size)
@@ -165,7 +165,7 @@ STDMETHODIMP OleObject::GetMiscStatus(DWORD, DWORD *status)
 {
     if (!status)
         return E_POINTER;
-    *status = MiscStatus;
+    *status = miscStatus;
     return S_OK;
 }
 

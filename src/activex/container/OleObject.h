@@ -39,7 +39,7 @@ public:
     STDMETHODIMP SetColorScheme(LOGPALETTE *palette) override;
 
     // What the control wants of a container; also registered.
-    static constexpr DWORD MiscStatus = OLEMISC_RECOMPOSEONRESIZE | OLEMISC_ACTIVATEWHENVISIBLE |
+    static constexpr DWORD miscStatus = OLEMISC_RECOMPOSEONRESIZE | OLEMISC_ACTIVATEWHENVISIBLE |
                                         OLEMISC_INSIDEOUT | OLEMISC_CANTLINKINSIDE |
                                         OLEMISC_SETCLIENTSITEFIRST;
 

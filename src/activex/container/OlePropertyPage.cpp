@@ -35,7 +35,7 @@ HRESULT OlePropertyPage::create(IUnknown *outer, REFIID iid, void **object)
 {
     if (outer)
         return CLASS_E_NOAGGREGATION;
-    const QString name = toQString(PageClasses[Index].name);
+    const QString name = toQString(pageClasses[Index].name);
     auto *page =
         new OlePropertyPage(name, std::unique_ptr<KOVAVSFDataGridLib::PropertyPage>(NewPropertyPage(name)));
     const HRESULT offered = page->QueryInterface(iid, object);
@@ -46,9 +46,9 @@ HRESULT OlePropertyPage::create(IUnknown *outer, REFIID iid, void **object)
 ClassFactory::Create OlePropertyPage::creatorOf(REFCLSID id)
 {
     constexpr ClassFactory::Create creators[] = {&create<0>, &create<1>, &create<2>, &create<3>};
-    static_assert(std::size(creators) == std::size(PageClasses));
-    for (std::size_t i = 0; i < std::size(PageClasses); ++i) {
-        if (PageClasses[i].id == id)
+    static_assert(std::size(creators) == std::size(pageClasses));
+    for (std::size_t i = 0; i < std::size(pageClasses); ++i) {
+        if (pageClasses[i].id == id)
             return creators[i];
     }
     return nullptr;

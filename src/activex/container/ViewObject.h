@@ -16,8 +16,8 @@ public:
     explicit ViewObject(GridControl &control);
 
     STDMETHODIMP Draw(DWORD aspect, LONG index, void *aspectInfo, DVTARGETDEVICE *target, HDC targetContext,
-                      HDC context, LPCRECTL bounds, LPCRECTL windowBounds, BOOL(CALLBACK *goOn)(ULONG_PTR),
-                      ULONG_PTR goOnArgument) override;
+                      HDC context, LPCRECTL bounds, LPCRECTL windowBounds,
+                      BOOL(CALLBACK *shouldContinue)(ULONG_PTR), ULONG_PTR goOnArgument) override;
     STDMETHODIMP GetColorSet(DWORD aspect, LONG index, void *aspectInfo, DVTARGETDEVICE *target,
                              HDC targetContext, LOGPALETTE **colours) override;
     STDMETHODIMP Freeze(DWORD aspect, LONG index, void *aspectInfo, DWORD *key) override;

@@ -15,7 +15,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 ClassFactory::Create ClassFactory::creatorOf(REFCLSID id)
 {
-    return id == ControlId ? &GridControl::create : OlePropertyPage::creatorOf(id);
+    return id == controlId ? &GridControl::create : OlePropertyPage::creatorOf(id);
 }
 
 STDMETHODIMP ClassFactory::CreateInstance(IUnknown *outer, REFIID iid, void **object)

@@ -15,7 +15,7 @@ STDMETHODIMP ClassInfo::GetClassInfo(ITypeInfo **info)
 {
     if (!info)
         return E_POINTER;
-    return typeInfo(ControlId).CopyTo(info);
+    return typeInfo(controlId).CopyTo(info);
 }
 
 STDMETHODIMP ClassInfo::GetGUID(DWORD kind, GUID *id)
@@ -25,7 +25,7 @@ STDMETHODIMP ClassInfo::GetGUID(DWORD kind, GUID *id)
     *id = GUID_NULL;
     if (kind != GUIDKIND_DEFAULT_SOURCE_DISP_IID)
         return E_INVALIDARG;
-    *id = EventsId;
+    *id = eventsId;
     return S_OK;
 }
 
@@ -35,12 +35,12 @@ STDMETHODIMP PropertyPageList::GetPages(CAUUID *pages)
 {
     if (!pages)
         return E_POINTER;
-    constexpr std::size_t count = std::size(PageClasses);
+    constexpr std::size_t count = std::size(pageClasses);
     pages->cElems = 0;
     pages->pElems = static_cast<GUID *>(CoTaskMemAlloc(count * sizeof(GUID)));
     if (!pages->pElems)
         return E_OUTOFMEMORY;
-    std::ranges::transform(PageClasses, pages->pElems, &PageClass::id);
+    std::ranges::transform(pageClasses, pages->pElems, &PageClass::id);
     pages->cElems = static_cast<ULONG>(count);
     return S_OK;
 }

@@ -55,22 +55,22 @@ std::vector<Entry> serverEntries(REFGUID id, const std::wstring &name)
 
 std::vector<Entry> entries()
 {
-    const std::wstring key = classKey(ControlId);
-    std::vector<Entry> all = serverEntries(ControlId, controlName);
+    const std::wstring key = classKey(controlId);
+    std::vector<Entry> all = serverEntries(controlId, controlName);
     all.insert(all.end(), std::initializer_list<Entry>{
                               {key + L"\\ProgID", {}, progId},
                               {key + L"\\VersionIndependentProgID", {}, progId},
-                              {key + L"\\TypeLib", {}, text(LibraryId)},
+                              {key + L"\\TypeLib", {}, text(libraryId)},
                               {key + L"\\Version", {}, L"1.0"},
                               {key + L"\\Control", {}, {}},
                               {key + L"\\Programmable", {}, {}},
                               {key + L"\\Implemented Categories\\" + text(controlCategory), {}, {}},
                               {key + L"\\MiscStatus", {}, L"0"},
-                              {key + L"\\MiscStatus\\1", {}, std::to_wstring(OleObject::MiscStatus)},
+                              {key + L"\\MiscStatus\\1", {}, std::to_wstring(OleObject::miscStatus)},
                               {key + L"\\ToolboxBitmap32", {}, modulePath() + L",1"},
                               {progId, {}, controlName},
-                              {std::wstring(progId) + L"\\CLSID", {}, text(ControlId)}});
-    for (const PageClass &page : PageClasses) {
+                              {std::wstring(progId) + L"\\CLSID", {}, text(controlId)}});
+    for (const PageClass &page : pageClasses) {
         for (Entry &entry : serverEntries(page.id, std::wstring(controlName) + L" " + page.name))
             all.push_back(std::move(entry));
     }
@@ -138,8 +138,8 @@ void removeEntries(HKEY root)
     if (classes.outcome() != ERROR_SUCCESS)
         return;
     classes.remove(progId);
-    classes.remove(classKey(ControlId));
-    for (const PageClass &page : PageClasses)
+    classes.remove(classKey(controlId));
+    for (const PageClass &page : pageClasses)
         classes.remove(classKey(page.id));
 }
 
@@ -179,8 +179,8 @@ HRESULT unregisterServer()
 #else
     constexpr SYSKIND kind = SYS_WIN32;
 #endif
-    UnRegisterTypeLibForUser(LibraryId, 1, 0, LOCALE_NEUTRAL, kind);
-    UnRegisterTypeLib(LibraryId, 1, 0, LOCALE_NEUTRAL, kind);
+    UnRegisterTypeLibForUser(libraryId, 1, 0, LOCALE_NEUTRAL, kind);
+    UnRegisterTypeLib(libraryId, 1, 0, LOCALE_NEUTRAL, kind);
     return S_OK;
 }
 

@@ -28,7 +28,7 @@ public:
     virtual int columns() const = 0;
     // Runs the statement and appends all its rows. Asks at least every 20 ms whether to go on; throws
     // dbErrCancelled when not.
-    virtual void fetch(RowStore &rows, const std::function<bool()> &goOn) = 0;
+    virtual void fetch(RowStore &rows, const std::function<bool()> &shouldContinue) = 0;
     // Null when rows can't be written back; whyReadOnly() then says why.
     virtual std::unique_ptr<RowWriter> takeWriter() = 0;
     virtual QString whyReadOnly() const = 0;
@@ -47,7 +47,7 @@ public:
     // ReadWrite the statement is prepared for writing back as far as it allows that. Asks whether to go on as
     // Statement::fetch() does, where it has to wait for a server.
     virtual std::unique_ptr<Statement> prepare(const QString &sql, Access access,
-                                               const std::function<bool()> &goOn) = 0;
+                                               const std::function<bool()> &shouldContinue) = 0;
     // The statement that reads a whole table.
     virtual QString tableStatement(const QString &table) const = 0;
     // Ends the connection; writers that still hold the session throw from then on.

@@ -18,7 +18,7 @@ namespace {
 // A person waits for the answer, so a server that says nothing is given up sooner than by a load.
 constexpr int secondsToConnect = 10;
 
-QString tryOut(ADODB::Connection &connection, const QString &text)
+QString testConnection(ADODB::Connection &connection, const QString &text)
 {
     try {
         ADODB::ConnectionString parts(text);
@@ -49,7 +49,7 @@ std::shared_ptr<ADODB::Connection> newConnection(QWidget *parent, qint32 dbType)
     try {
         return ADODB::ConnectionFactory::instance().newConnection(dbType);
     } catch (const std::exception &error) {
-        Messages::tell(parent, ConnectionTexts::NotConnected.arg(QString::fromUtf8(error.what())));
+        Messages::show(parent, ConnectionTexts::NotConnected.arg(QString::fromUtf8(error.what())));
         return nullptr;
     }
 }
@@ -62,7 +62,7 @@ std::optional<QString> BuildConnection(QWidget *parent, const QString &present, 
     if (!connection)
         return std::nullopt;
     ConnectionBuilder builder({ADODB::odbcDrivers(), dataSourceNames(),
-                               [&](const QString &text) { return tryOut(*connection, text); }},
+                               [&](const QString &text) { return testConnection(*connection, text); }},
                               parent);
     builder.SetConnectionString(present);
     if (builder.exec() != QDialog::Accepted)

@@ -22,7 +22,7 @@ const QString Application = u"KOVAVSFDataGrid"_s;
 const QString SelectWholeRowsKey = u"Settings/ResChkSelAllRow"_s;
 const QString ThreeTierSection = u"Use3Tier"_s;
 const QString MissingEntry = u"Return Err"_s;
-constexpr qsizetype LongestValue = 254; // characters
+constexpr qsizetype longestValue = 254; // characters
 
 bool isSameName(QStringView written, const QString &name)
 {
@@ -76,7 +76,7 @@ IniSection::IniSection(const QString &filePath, const QString &section)
 QString profileValue(const IniSection &section, const QString &key)
 {
     const std::optional<QString> value = section.value(key);
-    return value ? value->left(LongestValue).trimmed() : MissingEntry;
+    return value ? value->left(longestValue).trimmed() : MissingEntry;
 }
 
 QString threeTierFile()

@@ -24,12 +24,12 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr qint32 StatementOfTheHost = 2; // TableType: there is no whole table to go to
+constexpr qint32 statementOfTheHost = 2; // TableType: there is no whole table to go to
 
 QString pageLabel(const QString &page, const QString &pageCount)
 {
     return GridTexts::PagePrefix + page + GridTexts::PageCountPrefix + pageCount + GridTexts::PageCapPrefix +
-           QString::number(SharedValues::RecordCap) + GridTexts::PageCapSuffix;
+           QString::number(SharedValues::recordCap) + GridTexts::PageCapSuffix;
 }
 
 } // namespace
@@ -156,7 +156,7 @@ void ControlWindow::enableCommands()
     m_toolbar.setEnabled(true);
     m_parts.cmdPgae->setEnabled(true);
     m_toolbar.setAllButtonsEnabled(true);
-    if (m_session->texts.tableType == StatementOfTheHost)
+    if (m_session->texts.tableType == statementOfTheHost)
         m_toolbar.setButtonEnabled(CommandKeys::ToFullTable, false);
 }
 

@@ -27,8 +27,8 @@ void registerReferenceTypes()
 KOVAVSFDataGrid::KOVAVSFDataGrid(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(*this))
 {
     registerReferenceTypes();
-    setMinimumSize(Twips::toPixels(GridParts::MinimumWidth, *this),
-                   Twips::toPixels(GridParts::MinimumHeight, *this));
+    setMinimumSize(Twips::toPixels(GridParts::minimumWidth, *this),
+                   Twips::toPixels(GridParts::minimumHeight, *this));
     setFocusProxy(d->parts.vsfgDataGrid); // a host that gives the control the keyboard means the data
     d->applyBackColor();
     CloseAllAction();
@@ -60,13 +60,13 @@ void KOVAVSFDataGrid::InitProperties()
 
 void KOVAVSFDataGrid::ReadProperties(const PropertyBag &bag)
 {
-    d->backColor = OleColor(bag.ReadProperty(u"BackColor"_s, OleColor::ButtonFace).toUInt());
+    d->backColor = OleColor(bag.ReadProperty(u"BackColor"_s, OleColor::buttonFace).toUInt());
     d->applyBackColor();
 }
 
 void KOVAVSFDataGrid::WriteProperties(PropertyBag &bag) const
 {
-    bag.WriteProperty(u"BackColor"_s, d->backColor.number(), OleColor::ButtonFace);
+    bag.WriteProperty(u"BackColor"_s, d->backColor.number(), OleColor::buttonFace);
 }
 
 QSize KOVAVSFDataGrid::sizeHint() const

@@ -30,7 +30,7 @@ void KOVAVSFDataGrid::Refresh()
         const bool isIncomplete = d->session->texts.connectionString.isEmpty() ||
                                   d->session->texts.recordSource.trimmed().isEmpty();
         if (isIncomplete && d->errorHint) {
-            Messages::tell(this, GridTexts::NothingToLink, GridTexts::NothingToLinkTitle,
+            Messages::show(this, GridTexts::NothingToLink, GridTexts::NothingToLinkTitle,
                            QMessageBox::Critical);
         }
     } catch (const std::exception &) {
@@ -155,7 +155,7 @@ void KOVAVSFDataGrid::SetGridCol(const qint32 &Col)
     try {
         d->parts.vsfgDataGrid->PutCol(Col);
     } catch (const std::out_of_range &) {
-        Messages::tell(this, GridTexts::WrongCol, u"Set Grid Col"_s);
+        Messages::show(this, GridTexts::WrongCol, u"Set Grid Col"_s);
     }
 }
 
@@ -207,7 +207,7 @@ void KOVAVSFDataGrid::SetGridRow(const qint32 &Row)
     try {
         d->parts.vsfgDataGrid->PutRow(Row);
     } catch (const std::out_of_range &) {
-        Messages::tell(this, GridTexts::WrongRow, u"Set Grid Row"_s);
+        Messages::show(this, GridTexts::WrongRow, u"Set Grid Row"_s);
     }
 }
 
@@ -263,15 +263,15 @@ bool KOVAVSFDataGrid::ExportData(const QString &strFile, const QString &strOptio
 {
     const auto session = d->session;
     if (!session->result().isOpen()) {
-        Messages::tell(this, GridTexts::NothingToExport);
+        Messages::show(this, GridTexts::NothingToExport);
         return false;
     }
     ExportAnswer what;
     try {
-        what = ExportAnswerFrom(strFile, strOptions);
+        what = exportAnswerFrom(strFile, strOptions);
     } catch (const ADODB::Error &error) {
-        Messages::tell(this, error.Description());
+        Messages::show(this, error.Description());
         return false;
     }
-    return ExportResult(*session, what);
+    return exportResult(*session, what);
 }

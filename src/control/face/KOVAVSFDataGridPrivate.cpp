@@ -169,7 +169,7 @@ QString KOVAVSFDataGrid::Private::cellText(int row, int col, const QString &titl
     try {
         return parts.vsfgDataGrid->TextMatrix(row, col);
     } catch (const std::out_of_range &) {
-        Messages::tell(&q, GridTexts::WrongCell, title);
+        Messages::show(&q, GridTexts::WrongCell, title);
         return {};
     }
 }
@@ -185,5 +185,5 @@ void KOVAVSFDataGrid::Private::saveBeforeEnd()
 void KOVAVSFDataGrid::Private::emptyGrid()
 {
     parts.vsfgDataGrid->Show(std::make_unique<TextCells>(2, 2));
-    parts.vsfgDataGrid->PutColWidth(1, FlexGrid::DefaultColWidth);
+    parts.vsfgDataGrid->PutColWidth(1, FlexGrid::defaultColWidth);
 }

@@ -70,7 +70,7 @@ public:
     KOVAVSFDataGridLib::GridEvents events;
     KOVAVSFDataGridLib::SingleRecordView singleRecord;
 
-    KOVAVSFDataGridLib::OleColor backColor{KOVAVSFDataGridLib::OleColor::ButtonFace};
+    KOVAVSFDataGridLib::OleColor backColor{KOVAVSFDataGridLib::OleColor::buttonFace};
     std::optional<bool> userMode; // as the host said
     qint32 useModel = ModelUsing;
     bool errorHint = false;

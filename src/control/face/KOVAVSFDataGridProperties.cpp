@@ -56,7 +56,7 @@ QColor KOVAVSFDataGrid::BackColor() const
 
 void KOVAVSFDataGrid::PutBackColor(const QColor &colour)
 {
-    const OleColor written = colour.isValid() ? OleColor(colour) : OleColor(OleColor::ButtonFace);
+    const OleColor written = colour.isValid() ? OleColor(colour) : OleColor(OleColor::buttonFace);
     d->backColor = written;
     d->applyBackColor();
     d->notifyWritten("BackColor");
@@ -221,14 +221,14 @@ QString KOVAVSFDataGrid::SQLPartDisplay() const
 void KOVAVSFDataGrid::PutSQLPartDisplay(const QString &statement)
 {
     d->session->texts.sqlPartDisplay = statement;
-    const auto failure = ParseSQLFieldList(JoinStatementLines(statement),
+    const auto failure = ParseSQLFieldList(joinStatementLines(statement),
                                            static_cast<KOVAVSFDataGridLib::AllDBType>(DBType()));
     const QPointer<KOVAVSFDataGrid> alive(this);
     if (failure) {
-        Messages::tell(this, GridTexts::FieldListFailed, GridTexts::FieldListFailedTitle,
+        Messages::show(this, GridTexts::FieldListFailed, GridTexts::FieldListFailedTitle,
                        QMessageBox::Critical);
         if (alive)
-            Messages::tell(this, failure->source + failure->description);
+            Messages::show(this, failure->source + failure->description);
     }
     if (alive)
         d->notifyWritten("SQLPartDisplay");

@@ -34,7 +34,7 @@ OleColor::OleColor(const QColor &colour)
 
 QColor OleColor::in(const QPalette &palette) const
 {
-    if (m_number & SystemColourBit)
+    if (m_number & systemColourBit)
         return palette.color(QPalette::Active, roleOf(m_number & 0xFFu));
     return QColor(static_cast<int>(m_number & 0xFFu), static_cast<int>(m_number >> 8 & 0xFFu),
                   static_cast<int>(m_number >> 16 & 0xFFu));

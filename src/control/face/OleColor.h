@@ -12,8 +12,8 @@ namespace KOVAVSFDataGridLib {
 class OleColor
 {
 public:
-    static constexpr quint32 SystemColourBit = 0x80000000u;
-    static constexpr quint32 ButtonFace = 0x8000000Fu;
+    static constexpr quint32 systemColourBit = 0x80000000u;
+    static constexpr quint32 buttonFace = 0x8000000Fu;
 
     explicit constexpr OleColor(quint32 number) : m_number(number) {}
     explicit OleColor(const QColor &colour);

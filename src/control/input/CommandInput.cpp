@@ -61,8 +61,8 @@ CommandInput::~CommandInput()
 {
     if (!m_session.isRunning())
         return;
-    DeleteAfterEvent(*m_parts.Toolbar1);
-    DeleteAfterEvent(m_menu.menu());
+    deleteAfterEvent(*m_parts.Toolbar1);
+    deleteAfterEvent(m_menu.menu());
 }
 
 void CommandInput::run(const QString &key)

@@ -4,7 +4,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-void DeleteAfterEvent(QWidget &part)
+void deleteAfterEvent(QWidget &part)
 {
     part.setParent(nullptr);
     part.deleteLater();

@@ -224,9 +224,9 @@ void GridEvents::makeCurrent(Place place, const QPoint &position)
 {
     VSFlexGrid &grid = *m_parts.vsfgDataGrid;
     if (place == Place::Cell && grid.indexAt(position) != grid.currentIndex())
-        grid.tellAfter([&] { grid.setCurrentIndex(grid.indexAt(position)); });
+        grid.notifyAfter([&] { grid.setCurrentIndex(grid.indexAt(position)); });
     else if (place == Place::RowNumber && grid.rowAt(position.y()) != grid.currentIndex().row())
-        grid.tellAfter([&] { grid.selectRow(grid.rowAt(position.y())); });
+        grid.notifyAfter([&] { grid.selectRow(grid.rowAt(position.y())); });
 }
 
 bool GridEvents::keyPressed(QKeyEvent &event)

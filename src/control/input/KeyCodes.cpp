@@ -12,7 +12,7 @@ struct KeyNumber
     qint16 number;
 };
 
-constexpr KeyNumber Numbers[] = {
+constexpr KeyNumber numbers[] = {
     {Qt::Key_Backspace, 8},     {Qt::Key_Tab, 9},           {Qt::Key_Backtab, 9},
     {Qt::Key_Clear, 12},        {Qt::Key_Return, 13},       {Qt::Key_Enter, 13},
     {Qt::Key_Shift, 16},        {Qt::Key_Control, 17},      {Qt::Key_Alt, 18},
@@ -36,7 +36,7 @@ constexpr KeyNumber Numbers[] = {
     {Qt::Key_ParenLeft, '9'},
 };
 
-constexpr KeyNumber KeypadNumbers[] = {
+constexpr KeyNumber keypadNumbers[] = {
     {Qt::Key_Asterisk, 106}, {Qt::Key_Plus, 107},  {Qt::Key_Minus, 109},
     {Qt::Key_Period, 110},   {Qt::Key_Comma, 110}, {Qt::Key_Slash, 111},
 };
@@ -54,7 +54,7 @@ qint16 virtualKey(const QKeyEvent &event)
     if (event.modifiers() & Qt::KeypadModifier) {
         if (isBetween(key, Qt::Key_0, Qt::Key_9))
             return static_cast<qint16>(96 + key - Qt::Key_0);
-        for (const KeyNumber &entry : KeypadNumbers) {
+        for (const KeyNumber &entry : keypadNumbers) {
             if (entry.key == key)
                 return entry.number;
         }
@@ -63,7 +63,7 @@ qint16 virtualKey(const QKeyEvent &event)
         return static_cast<qint16>(key);
     if (isBetween(key, Qt::Key_F1, Qt::Key_F24))
         return static_cast<qint16>(112 + key - Qt::Key_F1);
-    for (const KeyNumber &entry : Numbers) {
+    for (const KeyNumber &entry : numbers) {
         if (entry.key == key)
             return entry.number;
     }

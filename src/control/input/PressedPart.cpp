@@ -23,7 +23,7 @@ PressedPart::PressedPart(const GridParts &parts)
 PressedPart::~PressedPart()
 {
     if (m_part)
-        DeleteAfterEvent(*m_part);
+        deleteAfterEvent(*m_part);
 }
 
 bool PressedPart::eventFilter(QObject *watched, QEvent *event)

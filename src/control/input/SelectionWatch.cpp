@@ -21,7 +21,7 @@ SelectionWatch::SelectionWatch(Session &session, GridParts &parts) : m_session(s
     // A whole row's summary is that of the current column.
     connect(grid.selectionModel(), &QItemSelectionModel::currentColumnChanged, this, &SelectionWatch::begin);
     connect(grid.model(), &QAbstractItemModel::modelReset, this, &SelectionWatch::begin);
-    connect(&m_timer, &QTimer::timeout, this, &SelectionWatch::goOn);
+    connect(&m_timer, &QTimer::timeout, this, &SelectionWatch::continueSumming);
 }
 
 void SelectionWatch::begin()
@@ -31,7 +31,7 @@ void SelectionWatch::begin()
     m_timer.start(0);
 }
 
-void SelectionWatch::goOn()
+void SelectionWatch::continueSumming()
 {
     if (!m_summary && !prepare())
         return clear();
@@ -39,7 +39,7 @@ void SelectionWatch::goOn()
     const std::shared_ptr<ADODB::Recordset> recordset = m_recordset.lock();
     if (!recordset)
         return clear();
-    m_summary->goOn();
+    m_summary->addNextCells();
     if (!m_summary->isDone()) {
         m_timer.start(0);
         return;
@@ -62,13 +62,13 @@ bool SelectionWatch::prepare()
     // The sum of different columns says nothing.
     if (isWholeRows)
         marked.columns = {m_session.window().currentCol()};
-    const ExportColumns columns = ExportColumnsOf(m_session, marked.columns);
+    const ExportColumns columns = exportColumnsOf(m_session, marked.columns);
     if (columns.empty())
         return false;
     if (isWholeRows)
         m_column = columns.front().heading;
     m_recordset = m_session.result().recordset();
-    m_summary.emplace(*m_session.result().recordset(), MarkedRecords(m_session), columns);
+    m_summary.emplace(*m_session.result().recordset(), markedRecords(m_session), columns);
     return true;
 }
 

@@ -25,7 +25,7 @@ public:
 
 private:
     void begin();
-    void goOn();
+    void continueSumming();
     bool prepare();
     void showSummary();
     void clear();

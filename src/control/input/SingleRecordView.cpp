@@ -30,9 +30,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int NameMargin = 180; // twips beside the widest field name
-constexpr int NameCol = 0;
-constexpr int ValueCol = 1;
+constexpr int nameMargin = 180; // twips beside the widest field name
+constexpr int nameCol = 0;
+constexpr int valueCol = 1;
 
 bool isListed(const ADODB::Field &field)
 {
@@ -105,17 +105,17 @@ void SingleRecordView::FillSingleRecordView()
     MSFlexGrid &list = *m_parts.MSFlexGrid1;
     const int row = list.Row();
     auto cells = std::make_unique<TextCells>(static_cast<int>(m_fields.size()) + 1, 2);
-    cells->setText(0, NameCol, GridTexts::FieldNameHeading);
-    cells->setText(0, ValueCol, GridTexts::FieldValueHeading);
+    cells->setText(0, nameCol, GridTexts::FieldNameHeading);
+    cells->setText(0, valueCol, GridTexts::FieldValueHeading);
     int at = 0;
     for (const int field : m_fields) {
-        cells->setText(++at, NameCol, m_session.result().recordset()->Fields().Item(field).Name());
-        cells->setText(at, ValueCol, valueText(field));
+        cells->setText(++at, nameCol, m_session.result().recordset()->Fields().Item(field).Name());
+        cells->setText(at, valueCol, valueText(field));
     }
     list.Show(std::move(cells));
     if (at > 0) {
         list.PutRow(std::clamp(row, 1, at));
-        list.PutCol(ValueCol);
+        list.PutCol(valueCol);
     }
 }
 
@@ -144,7 +144,7 @@ std::vector<int> SingleRecordView::listedColumns() const
 
 std::vector<int> SingleRecordView::markedColumns() const
 {
-    const GridSelection marked = SelectedCells(*m_parts.MSFlexGrid1);
+    const GridSelection marked = selectedCells(*m_parts.MSFlexGrid1);
     std::vector<int> columns;
     for (int row = marked.firstRow; row <= marked.lastRow; ++row)
         columns.push_back(m_fields[static_cast<std::size_t>(row - 1)] + 1);
@@ -154,11 +154,11 @@ std::vector<int> SingleRecordView::markedColumns() const
 MarkedFields SingleRecordView::markedFields() const
 {
     const MSFlexGrid &list = *m_parts.MSFlexGrid1;
-    const GridSelection marked = SelectedCells(list);
+    const GridSelection marked = selectedCells(list);
     MarkedFields answer;
-    answer.hasNames = std::ranges::find(marked.columns, NameCol) != marked.columns.end();
+    answer.hasNames = std::ranges::find(marked.columns, nameCol) != marked.columns.end();
     for (int row = marked.firstRow; row <= marked.lastRow; ++row)
-        answer.fields.push_back({list.TextMatrix(row, NameCol), list.TextMatrix(row, ValueCol)});
+        answer.fields.push_back({list.TextMatrix(row, nameCol), list.TextMatrix(row, valueCol)});
     return answer;
 }
 
@@ -167,8 +167,8 @@ void SingleRecordView::fitNameColumn()
     MSFlexGrid &list = *m_parts.MSFlexGrid1;
     int width = 0;
     for (int row = 0; row < list.Rows(); ++row)
-        width = std::max(width, list.fontMetrics().horizontalAdvance(list.TextMatrix(row, NameCol)));
-    list.PutColWidth(NameCol, Twips::fromPixels(width, list) + NameMargin);
+        width = std::max(width, list.fontMetrics().horizontalAdvance(list.TextMatrix(row, nameCol)));
+    list.PutColWidth(nameCol, Twips::fromPixels(width, list) + nameMargin);
 }
 
 bool SingleRecordView::eventFilter(QObject *watched, QEvent *event)
@@ -230,7 +230,7 @@ void SingleRecordView::doubleClicked(const QWidget &source, const QMouseEvent &e
     const int gridRow = m_parts.vsfgDataGrid->Row();
     const QPoint position = event.position().toPoint();
     if (&source == list.horizontalHeader()->viewport()) {
-        if (list.horizontalHeader()->logicalIndexAt(position) == ValueCol)
+        if (list.horizontalHeader()->logicalIndexAt(position) == valueCol)
             Q_EMIT m_control.DataDBLClickOneRow(gridRow);
     } else if (list.indexAt(position).isValid()) {
         Q_EMIT m_control.DataDBLClickOneCell(currentGridCol(), gridRow);

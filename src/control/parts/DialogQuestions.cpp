@@ -31,12 +31,12 @@ std::optional<QString> DialogQuestions::ChooseSort(const QString &title, const Q
 
 void DialogQuestions::show(const QString &text)
 {
-    Messages::tell(m_parent, text);
+    Messages::show(m_parent, text);
 }
 
 void DialogQuestions::showWithCause(const QString &text, const QString &cause)
 {
-    Messages::tellWithCause(m_parent, text, cause);
+    Messages::showWithCause(m_parent, text, cause);
 }
 
 bool DialogQuestions::ask(const QString &text, const QString &title)

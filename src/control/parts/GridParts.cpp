@@ -22,9 +22,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int GridLeft = 7;         // twips
-constexpr int GridWidthMargin = 67; // twips
-constexpr int FootGap = 90;         // twips, between the parts of the foot
+constexpr int gridLeft = 7;         // twips
+constexpr int gridWidthMargin = 67; // twips
+constexpr int footGap = 90;         // twips, between the parts of the foot
 
 template<typename Widget>
 Widget *named(Widget *widget, const QString &name)
@@ -69,8 +69,8 @@ void GridParts::layOut(int width, int height)
     Toolbar1->setGeometry(0, 0, width, toolbarHeight);
 
     const int foot = footHeight();
-    const int left = Twips::toPixels(GridLeft, *picMainBack);
-    const int gridWidth = width - Twips::toPixels(GridWidthMargin, *picMainBack);
+    const int left = Twips::toPixels(gridLeft, *picMainBack);
+    const int gridWidth = width - Twips::toPixels(gridWidthMargin, *picMainBack);
     const int gridHeight = std::max(0, height - toolbarHeight - foot);
     vsfgDataGrid->setGeometry(left, toolbarHeight, gridWidth, gridHeight);
     MSFlexGrid1->setGeometry(vsfgDataGrid->geometry());
@@ -93,7 +93,7 @@ int GridParts::footHeight() const
 
 int GridParts::gap() const
 {
-    return Twips::toPixels(FootGap, *picMainBack);
+    return Twips::toPixels(footGap, *picMainBack);
 }
 
 // The page box, its button, the label, the selection's summary and the statement from the left, the check box

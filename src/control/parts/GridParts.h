@@ -26,8 +26,8 @@ class VSFlexGrid;
 class GridParts
 {
 public:
-    static constexpr int MinimumWidth = 3000;  // twips
-    static constexpr int MinimumHeight = 1500; // twips
+    static constexpr int minimumWidth = 3000;  // twips
+    static constexpr int minimumHeight = 1500; // twips
 
     explicit GridParts(QWidget &control);
 

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int PlacesOfGroup = 100;
+constexpr int placesOfGroup = 100;
 
 } // namespace
 
@@ -27,7 +27,7 @@ GridToolbar::GridToolbar(QWidget *parent) : QToolBar(parent)
     int group = 0;
     for (const Command *command : Command::all()) {
         if (command->button)
-            addButton(*command, *views, std::exchange(group, command->button->place / PlacesOfGroup));
+            addButton(*command, *views, std::exchange(group, command->button->place / placesOfGroup));
     }
     setButtonPressed(CommandKeys::All, true);
     setButtonVisible(CommandKeys::AllRecord, false);
@@ -35,7 +35,7 @@ GridToolbar::GridToolbar(QWidget *parent) : QToolBar(parent)
 
 void GridToolbar::addButton(const Command &command, QActionGroup &views, int lastGroup)
 {
-    if (lastGroup > 0 && command.button->place / PlacesOfGroup != lastGroup)
+    if (lastGroup > 0 && command.button->place / placesOfGroup != lastGroup)
         addSeparator();
     const QString key = command.key;
     QAction *action = addAction(command.button->caption);

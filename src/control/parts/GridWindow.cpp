@@ -86,13 +86,13 @@ int GridWindow::currentCol() const
 
 MarkedCells GridWindow::markedCells() const
 {
-    GridSelection selected = SelectedCells(m_grid);
+    GridSelection selected = selectedCells(m_grid);
     return {selected.firstRow, selected.lastRow, std::move(selected.columns)};
 }
 
 std::vector<int> GridWindow::shownColumns() const
 {
-    return ShownColumns(m_grid);
+    return KOVAVSFDataGridLib::shownColumns(m_grid);
 }
 
 void GridWindow::putOnClipboard(std::unique_ptr<QMimeData> data)

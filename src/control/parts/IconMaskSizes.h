@@ -4,6 +4,6 @@ namespace KOVAVSFDataGridLib {
 
 // The sizes in pixels, ascending, in which tools/icon_pictures renders the toolbar's drawings: what buttons
 // measure on screens of 100% to 300%.
-inline constexpr int IconMaskSizes[] = {16, 20, 24, 32, 40, 48, 64};
+inline constexpr int iconMaskSizes[] = {16, 20, 24, 32, 40, 48, 64};
 
 } // namespace KOVAVSFDataGridLib

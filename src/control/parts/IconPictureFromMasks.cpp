@@ -30,14 +30,14 @@ QRgb coloured(QRgb mask, QRgb line, QRgb accent)
 
 bool hasIconPicture(const QString &key)
 {
-    return QFile::exists(fileOf(key, IconMaskSizes[0]));
+    return QFile::exists(fileOf(key, iconMaskSizes[0]));
 }
 
 QImage iconPicture(const QString &key, const QSize &size, const QColor &line, const QColor &accent)
 {
     const int side = std::min(size.width(), size.height());
-    const int *const largest = std::prev(std::end(IconMaskSizes));
-    const int *const enough = std::lower_bound(std::begin(IconMaskSizes), largest, side);
+    const int *const largest = std::prev(std::end(iconMaskSizes));
+    const int *const enough = std::lower_bound(std::begin(iconMaskSizes), largest, side);
     QImage mask;
     if (!mask.load(fileOf(key, *enough)))
         return {};

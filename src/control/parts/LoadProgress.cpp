@@ -17,9 +17,9 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr qint64 Patience = 500;      // milliseconds before the line shows
-constexpr qint64 EventsInterval = 30; // milliseconds between two looks at the events
-constexpr int BarSteps = 1000;
+constexpr qint64 patience = 500;      // milliseconds before the line shows
+constexpr qint64 eventsInterval = 30; // milliseconds between two looks at the events
+constexpr int barSteps = 1000;
 
 bool isInput(const QEvent &event)
 {
@@ -63,11 +63,11 @@ LoadProgress::~LoadProgress()
     delete m_line;
 }
 
-bool LoadProgress::goOn(qint64 rowsDone)
+bool LoadProgress::shouldContinue(qint64 rowsDone)
 {
-    if (!m_isCancelled && !m_isLineShown && m_sinceBegin.hasExpired(Patience))
+    if (!m_isCancelled && !m_isLineShown && m_sinceBegin.hasExpired(patience))
         showLine();
-    if (m_isCancelled || !m_line || !m_sinceEvents.hasExpired(EventsInterval))
+    if (m_isCancelled || !m_line || !m_sinceEvents.hasExpired(eventsInterval))
         return !m_isCancelled;
     updateLine(rowsDone);
     QCoreApplication::processEvents();
@@ -84,7 +84,7 @@ void LoadProgress::showLine()
     m_line = new QWidget(&m_window);
     m_line->setAutoFillBackground(true);
     m_bar = new QProgressBar;
-    m_bar->setRange(0, m_total > 0 ? BarSteps : 0); // without steps it only says that something goes on
+    m_bar->setRange(0, m_total > 0 ? barSteps : 0); // without steps it only says that something goes on
     m_bar->setTextVisible(false);
     m_bar->setMaximumHeight(m_bar->fontMetrics().height() / 2);
     // Where it gets narrow the number tells more than the bar.
@@ -109,7 +109,7 @@ void LoadProgress::showLine()
 void LoadProgress::updateLine(qint64 rowsDone)
 {
     m_count->setText(m_done.arg(rowsDone));
-    const qint64 value = m_total > 0 ? rowsDone * BarSteps / m_total : rowsDone;
+    const qint64 value = m_total > 0 ? rowsDone * barSteps / m_total : rowsDone;
     m_bar->setValue(static_cast<int>(std::min<qint64>(value, std::numeric_limits<int>::max())));
     m_line->setGeometry(m_place()); // the window can have been resized
     m_line->layout()->activate();

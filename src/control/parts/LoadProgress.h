@@ -36,7 +36,7 @@ public:
     LoadProgress(QWidget &window, std::function<QRect()> place, QString done, qint64 total);
     ~LoadProgress() override;
 
-    bool goOn(qint64 rowsDone) override;
+    bool shouldContinue(qint64 rowsDone) override;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

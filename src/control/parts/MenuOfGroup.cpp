@@ -8,7 +8,7 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-QMenu &MenuOfGroup(QMenu &menu, MenuGroup group)
+QMenu &menuOfGroup(QMenu &menu, MenuGroup group)
 {
     if (group == MenuGroup::None)
         return menu;

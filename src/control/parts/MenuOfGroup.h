@@ -7,6 +7,6 @@ class QMenu;
 namespace KOVAVSFDataGridLib {
 
 // The menu for the items of a group: one inside `menu`, made on first use, or `menu` itself.
-QMenu &MenuOfGroup(QMenu &menu, MenuGroup group);
+QMenu &menuOfGroup(QMenu &menu, MenuGroup group);
 
 } // namespace KOVAVSFDataGridLib

@@ -32,7 +32,7 @@ void PopupMenu::addItem(int index, QWidget &control)
     if (!command)
         action = m_menu->addSeparator();
     else
-        action = MenuOfGroup(*m_menu, command->menu.group).addAction(command->menu.caption);
+        action = menuOfGroup(*m_menu, command->menu.group).addAction(command->menu.caption);
     action->setObjectName(u"PopMnuDataAction%1"_s.arg(index));
     action->setData(index);
     if (!command)

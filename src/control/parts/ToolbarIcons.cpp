@@ -15,7 +15,7 @@ namespace KOVAVSFDataGridLib {
 namespace {
 
 // What the accessibility guidelines ask of the parts of a picture that carry its meaning.
-constexpr double LeastContrast = 3.0;
+constexpr double leastContrast = 3.0;
 
 struct Colours
 {
@@ -55,7 +55,7 @@ QColor readable(const QColor &accent, const QColor &line, const QColor &paper)
 {
     for (int tenths = 10; tenths > 0; --tenths) {
         const QColor candidate = blended(accent, line, tenths / 10.0);
-        if (contrast(candidate, paper) >= LeastContrast)
+        if (contrast(candidate, paper) >= leastContrast)
             return candidate;
     }
     return line;

@@ -89,7 +89,7 @@ ResultSet::Opened Visit::open(const QString &statement, const ResultSet::Progres
     return opened;
 }
 
-void takeOver(Session &session, GridParts &parts, const frm_FullScreen &viewer, bool wasAll)
+void adoptState(Session &session, GridParts &parts, const frm_FullScreen &viewer, bool wasAll)
 {
     const ADODB::Notifications::Hold hold(session.notifications());
     parts.Toolbar1->setEnabled(true);
@@ -129,7 +129,7 @@ bool ShowFullScreen(QWidget &control, Session &session, GridParts &parts,
     viewer.exec();
     if (visit.isOver())
         return false;
-    takeOver(session, parts, viewer, wasAll);
+    adoptState(session, parts, viewer, wasAll);
     viewer.ClearRefObject();
     return true;
 }

@@ -9,15 +9,15 @@ namespace KOVAVSFDataGridLib {
 class ViewerCells final : public CellSource
 {
 public:
-    static constexpr int Rows = SharedValues::RecordCap + 1; // with the headings
+    static constexpr int sheetRows = SharedValues::recordCap + 1; // with the headings
 
-    // The records from `first` (1-based) on, `count` of them: at most Rows - 1.
+    // The records from `first` (1-based) on, `count` of them: at most sheetRows - 1.
     ViewerCells(std::shared_ptr<const ADODB::Recordset> recordset, int first, int count)
         : m_records(std::move(recordset), first, count)
     {
     }
 
-    int rows() const override { return Rows; }
+    int rows() const override { return sheetRows; }
     int cols() const override { return m_records.cols(); }
     int usedRows() const override { return m_records.rows(); }
     QString text(int row, int col) const override

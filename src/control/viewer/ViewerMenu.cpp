@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int BackIndex = 7; // other indexes without a command are separators
+constexpr int backIndex = 7; // other indexes without a command are separators
 
 const Command *commandOf(int index)
 {
@@ -32,7 +32,7 @@ ViewerMenu::ViewerMenu(QWidget *parent) : QMenu(parent)
 {
     setObjectName(u"PopMnu"_s);
     setAccessibleName(GridTexts::MenuName);
-    const int last = std::max(BackIndex, Command::lastMenuIndex(&Command::viewerMenu));
+    const int last = std::max(backIndex, Command::lastMenuIndex(&Command::viewerMenu));
     for (int index = 1; index <= last; ++index)
         addItem(index);
 }
@@ -42,16 +42,16 @@ void ViewerMenu::addItem(int index)
     const Command *const command = commandOf(index);
     QAction *action = nullptr;
     if (command) {
-        action = MenuOfGroup(*this, command->viewerMenu.group).addAction(command->viewerMenu.caption);
+        action = menuOfGroup(*this, command->viewerMenu.group).addAction(command->viewerMenu.caption);
         if (command->button) {
             dressAsButton(*action, *command);
-        } else if (!command->shortcut.isEmpty() && index > BackIndex) {
+        } else if (!command->shortcut.isEmpty() && index > backIndex) {
             action->setShortcut(QKeySequence(command->shortcut));
             action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
             parentWidget()->addAction(action);
         }
         connect(action, &QAction::triggered, this, [this, command] { Q_EMIT commandChosen(command->key); });
-    } else if (index == BackIndex) {
+    } else if (index == backIndex) {
         action = addAction(ViewerTexts::Back);
         connect(action, &QAction::triggered, this, &ViewerMenu::backChosen);
     } else {
@@ -65,7 +65,7 @@ void ViewerMenu::EnablePopupItems(const GridToolbar &toolbar, bool hasCellText)
 {
     for (QAction *action : actions()) {
         const int index = action->data().toInt();
-        const Command *const command = index < BackIndex ? commandOf(index) : nullptr;
+        const Command *const command = index < backIndex ? commandOf(index) : nullptr;
         if (!command)
             continue;
         const bool isCellFilter = command->key == CommandKeys::CellFilter;

@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Gap = 6; // pixels at 96 DPI, around the bars above and below the grid
-constexpr int PageDigits = 30;
+constexpr int gap = 6; // pixels at 96 DPI, around the bars above and below the grid
+constexpr int pageDigits = 30;
 
 } // namespace
 
@@ -39,7 +39,7 @@ ViewerParts::ViewerParts(QDialog &window)
     layOut(window);
     vsfgShowData->setFrameShape(QFrame::NoFrame);
     txtPage->setAlignment(Qt::AlignRight);
-    txtPage->setMaxLength(PageDigits);
+    txtPage->setMaxLength(pageDigits);
     lblPageCount->setTextFormat(Qt::PlainText);
     // Enter belongs to the page box and must not press a button beside it.
     cmdPgae->setAutoDefault(false);
@@ -74,13 +74,13 @@ QRect ViewerParts::foot() const
 void ViewerParts::layOut(QDialog &window)
 {
     auto *title = new QHBoxLayout(fraTitle);
-    title->setContentsMargins(0, 0, Gap, 0);
+    title->setContentsMargins(0, 0, gap, 0);
     title->addWidget(Toolbar1, 1);
     title->addWidget(cmdClose);
 
     auto *foot = new QHBoxLayout;
-    foot->setContentsMargins(Gap, Gap, Gap, Gap);
-    foot->setSpacing(Gap);
+    foot->setContentsMargins(gap, gap, gap, gap);
+    foot->setSpacing(gap);
     txtPage->setFixedWidth(txtPage->fontMetrics().horizontalAdvance(u'0') * 8);
     foot->addWidget(txtPage);
     foot->addWidget(cmdPgae);

@@ -22,14 +22,14 @@ namespace {
 void copyCells(Session &session, bool hasHeadings)
 {
     const std::shared_ptr<ADODB::Recordset> recordset = session.result().recordset();
-    const RecordRange range = MarkedRecords(session);
-    const ExportColumns columns = ExportColumnsOf(session, session.window().markedCells().columns);
+    const RecordRange range = markedRecords(session);
+    const ExportColumns columns = exportColumnsOf(session, session.window().markedCells().columns);
     if (range.count() < 1 || columns.empty())
         return;
     TabTextWriter writer(hasHeadings);
     const bool isWhole =
-        WriteUnderProgress(session, SessionMessages::RecordsCopied, range, [&](const auto &goOn) {
-            return WriteRecords(*recordset, range, columns, writer, goOn);
+        writeUnderProgress(session, SessionMessages::RecordsCopied, range, [&](const auto &shouldContinue) {
+            return writeRecords(*recordset, range, columns, writer, shouldContinue);
         });
     if (!isWhole)
         return;

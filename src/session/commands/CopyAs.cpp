@@ -21,9 +21,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Dialect dialectOf(Session &session)
+Dialect dialectFor(Session &session)
 {
-    return DialectOf(session.filterManager().DBType(), session.result().engine());
+    return dialectOf(session.filterManager().DBType(), session.result().engine());
 }
 
 // In the list of a single record what was written into it and is not saved yet counts as well.
@@ -49,7 +49,7 @@ QString tableOf(Session &session, const ExportColumns &columns)
             return GetSQLTableName(session.statement()).trimmed();
     }
     return table.isEmpty() ? GetSQLTableName(session.statement()).trimmed()
-                           : WrittenName(dialectOf(session), table);
+                           : writtenName(dialectFor(session), table);
 }
 
 QString insertBegin(Session &session, const ExportColumns &columns)
@@ -57,7 +57,7 @@ QString insertBegin(Session &session, const ExportColumns &columns)
     const ADODB::Fields &fields = session.result().recordset()->Fields();
     QStringList names;
     for (const ExportColumn &column : columns)
-        names.append(WrittenName(dialectOf(session), nameInTable(fields.Item(column.field))));
+        names.append(writtenName(dialectFor(session), nameInTable(fields.Item(column.field))));
     return u"INSERT INTO "_s + tableOf(session, columns) + " ("_L1 + names.join(", "_L1) + ") VALUES ("_L1;
 }
 
@@ -71,30 +71,31 @@ void putText(Session &session, const QString &text)
 // Calls `take` for each marked record; false when the user cancelled.
 bool forEachMarked(Session &session, const std::function<void(qint64 record)> &take)
 {
-    const RecordRange range = MarkedRecords(session);
-    return WriteUnderProgress(session, SessionMessages::RecordsCopied, range, [&](const auto &goOn) {
-        for (qint64 record = range.first; record <= range.last; ++record) {
-            if (!goOn(record - range.first))
-                return false;
-            take(record);
-        }
-        return true;
-    });
+    const RecordRange range = markedRecords(session);
+    return writeUnderProgress(session, SessionMessages::RecordsCopied, range,
+                              [&](const auto &shouldContinue) {
+                                  for (qint64 record = range.first; record <= range.last; ++record) {
+                                      if (!shouldContinue(record - range.first))
+                                          return false;
+                                      take(record);
+                                  }
+                                  return true;
+                              });
 }
 
 void copyAsInsert(Session &session)
 {
     const std::shared_ptr<ADODB::Recordset> recordset = session.result().recordset();
-    const ExportColumns columns = ExportColumnsOf(session, session.window().shownColumns());
+    const ExportColumns columns = exportColumnsOf(session, session.window().shownColumns());
     if (columns.empty())
         return;
-    const Dialect dialect = dialectOf(session);
+    const Dialect dialect = dialectFor(session);
     const QString begin = insertBegin(session, columns);
     QString text;
     const bool isWhole = forEachMarked(session, [&](qint64 record) {
         text += begin;
         for (const ExportColumn &column : columns)
-            text += SqlValue(dialect, valueOf(session, *recordset, record, column.field)) + ", "_L1;
+            text += sqlValue(dialect, valueOf(session, *recordset, record, column.field)) + ", "_L1;
         text.chop(2);
         text += ");\n"_L1;
     });
@@ -109,12 +110,12 @@ void copyAsInList(Session &session)
     const int field = session.window().currentCol() - 1;
     if (field < 0)
         return;
-    const Dialect dialect = dialectOf(session);
+    const Dialect dialect = dialectFor(session);
     QStringList values;
     QSet<QString> seen;
     const bool isWhole = forEachMarked(session, [&](qint64 record) {
         const QVariant value = valueOf(session, *recordset, record, field);
-        const QString literal = SqlValue(dialect, value);
+        const QString literal = sqlValue(dialect, value);
         if (!value.isValid() || seen.contains(literal))
             return;
         seen.insert(literal);

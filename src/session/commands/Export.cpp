@@ -33,13 +33,13 @@ void exportRecords(Session &session)
     ExportRequest request;
     request.name = nameOfFile(session);
     request.records = recordset.RecordCount();
-    request.markedRecords = std::max<qint64>(0, MarkedRecords(session).count());
+    request.markedRecords = std::max<qint64>(0, markedRecords(session).count());
     request.shownColumns = static_cast<int>(session.window().shownColumns().size());
     request.allColumns = recordset.Fields().Count();
     const ResultWatch watch(session);
     const std::optional<ExportAnswer> answer = session.questions().askExport(request);
     if (answer && watch.isUntouched())
-        ExportResult(session, *answer);
+        exportResult(session, *answer);
 }
 
 const Command::Registration registration({

@@ -10,7 +10,7 @@ namespace {
 
 using Filters = Shop;
 
-void takeOver(KOVAVSFDataGrid &grid, const QString &condition)
+void applyCondition(KOVAVSFDataGrid &grid, const QString &condition)
 {
     QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid,
                      [&grid, condition](qint32 &cancel, const QString &) {
@@ -35,7 +35,7 @@ TEST_F(Filters, TheDialogsConditionIsAppliedAndRecorded)
     EXPECT_EQ(grid.SQLFilter(), u"SELECT * FROM 商品  WHERE ID > 9 "_s);
     EXPECT_EQ(bases, QStringList(statementOfAll()));
     click(u"ToPreview"_s);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
 }
 
 TEST_F(Filters, WhoFindsNothingIsToldTheWayBack)
@@ -47,7 +47,7 @@ TEST_F(Filters, WhoFindsNothingIsToldTheWayBack)
     EXPECT_TRUE(hint->isVisible());
     EXPECT_TRUE(hint->text().contains(button(u"ToPreview"_s)->text())) << qUtf8Printable(hint->text());
     click(u"ToPreview"_s);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
     EXPECT_FALSE(hint->isVisible());
 }
 
@@ -86,7 +86,7 @@ TEST_F(Filters, ACancelledDialogLosesNoHistory)
 TEST_F(Filters, AHostsOwnConditionNeedsNoDialog)
 {
     ASSERT_TRUE(load());
-    takeOver(grid, u"城市 = '大连'"_s);
+    applyCondition(grid, u"城市 = '大连'"_s);
     click(u"Filter"_s);
     EXPECT_EQ(texts(u"ID"_s), QStringList({u"5"_s, u"8"_s}));
     EXPECT_EQ(grid.PassQurryFilter(), u"城市 = '大连'"_s);
@@ -97,11 +97,11 @@ TEST_F(Filters, AHostsBlankConditionReloadsNothing)
     ASSERT_TRUE(load());
     grid.PutSQLFilter(u"SELECT 1"_s);
     QSignalSpy replaced(&grid, &KOVAVSFDataGrid::RecordsetChanged);
-    takeOver(grid, u"  "_s);
+    applyCondition(grid, u"  "_s);
     click(u"Filter"_s);
     EXPECT_EQ(grid.SQLFilter(), QString());
     EXPECT_EQ(replaced.count(), 0);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
 }
 
 TEST_F(Filters, AHostsWrongConditionIsToldAndLosesNothing)
@@ -109,13 +109,13 @@ TEST_F(Filters, AHostsWrongConditionIsToldAndLosesNothing)
     ASSERT_TRUE(load());
     WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"茶"_s); }});
     click(u"QuickFilter"_s);
-    takeOver(grid, u"没有的字段 = 1"_s);
+    applyCondition(grid, u"没有的字段 = 1"_s);
     click(u"Filter"_s);
     ASSERT_EQ(messages.shown().size(), 1u);
     EXPECT_TRUE(messages.texts().first().startsWith(u"错误描述为："_s));
     EXPECT_EQ(rows(), 6);
     click(u"ToPreview"_s);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
 }
 
 TEST_F(Filters, AHostMayLoadSomethingElseFromTheEvent)
@@ -191,7 +191,7 @@ TEST_F(Filters, ACancelledQuickFilterClearsTheFilterTextAlone)
     WindowAnswers dialogs({cancel});
     click(u"QuickFilter"_s);
     EXPECT_EQ(grid.SQLFilter(), QString());
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
     EXPECT_EQ(statement(), statementOfAll());
 }
 
@@ -227,7 +227,7 @@ TEST_F(Filters, AnApostropheInTheCellIsTold)
     ASSERT_TRUE(load());
     choose(14, 10, 2);
     EXPECT_EQ(messages.texts(), QStringList(u"对不起，过滤内容中不能含有\"  ' \"符号!"_s));
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
     EXPECT_EQ(grid.SQLFilter(), QString());
 }
 
@@ -239,7 +239,7 @@ TEST_F(Filters, ACellOfAnotherTypeIsTold)
     choose(14, 1, 6);
     EXPECT_EQ(messages.texts(), QStringList({refusal, refusal}));
     EXPECT_EQ(messages.shown().front().buttons, QMessageBox::Ok);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
 }
 
 TEST_F(Filters, TheCellFilterOfTheListUsesItsField)

@@ -101,7 +101,7 @@ TEST_P(HostMeanwhile, LoadsTheSameAgain)
     ASSERT_TRUE(load());
     ask([this] { EXPECT_TRUE(load()); });
     EXPECT_EQ(statement(), statementOfAll());
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
 }
 
 TEST_P(HostMeanwhile, ClearsTheControl)
@@ -110,7 +110,7 @@ TEST_P(HostMeanwhile, ClearsTheControl)
     ask([this] { grid.Clear(); });
     EXPECT_EQ(texts(u"ID"_s).join(QString()), QString());
     EXPECT_TRUE(load());
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
 }
 
 TEST_P(HostMeanwhile, LetsGoOfEverything)
@@ -119,7 +119,7 @@ TEST_P(HostMeanwhile, LetsGoOfEverything)
     ask([this] { grid.ClearObject(); });
     EXPECT_EQ(grid.RecordSet(), nullptr);
     EXPECT_TRUE(load());
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
 }
 
 TEST_P(HostMeanwhile, GivesAnotherConnection)
@@ -127,7 +127,7 @@ TEST_P(HostMeanwhile, GivesAnotherConnection)
     ASSERT_TRUE(load());
     ask([this] { grid.PutConnectionString(u"Data Source=elsewhere.db"_s); });
     EXPECT_EQ(statement(), QString()) << "the history of the old one is gone for good";
-    EXPECT_EQ(rows(), Records) << "what is shown stays until the next load";
+    EXPECT_EQ(rows(), records) << "what is shown stays until the next load";
 }
 
 TEST_P(InTheViewer, LoadsAnotherResult)
@@ -143,7 +143,7 @@ TEST_P(InTheViewer, LetsGoOfEverything)
     askInViewer([this] { grid.ClearObject(); });
     EXPECT_EQ(grid.RecordSet(), nullptr);
     EXPECT_TRUE(load());
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
 }
 
 namespace {
@@ -186,7 +186,7 @@ TEST_F(HostMeanwhileDeleting, MovesToAnotherRecordWhichStays)
     ASSERT_TRUE(load());
     remove(5, [this] { QMetaObject::invokeMethod(grid.RecordSet(), "MoveLast"); });
     EXPECT_EQ(count(u"商品"_s), u"12"_s);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
 }
 
 TEST_F(HostMeanwhileDeleting, LoadsAnotherResultWhoseRecordsStay)

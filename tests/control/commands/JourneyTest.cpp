@@ -224,7 +224,7 @@ TEST_F(Journey, TwoControlsInterleaved)
     pressOther(u"ToPreview"_s);
     EXPECT_EQ(otherTable->model()->rowCount(), 3);
     click(u"ToOrigin"_s);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
     EXPECT_EQ(other.CurrPosition(), 1);
     grid.PutDBType(KOVAVSFDataGrid::dbAccess);
 }
@@ -291,7 +291,7 @@ TEST_F(Journey, OnlyAnAcceptedConnectionIsTaken)
     EXPECT_EQ(grid.ConnectionString(), u"Data Source=y.db"_s);
     EXPECT_EQ(grid.SQLShow(), QString()) << "another connection needs another statement";
     click(u"Part"_s); // what is still shown belongs to no history any more
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
 }
 
 TEST_F(Journey, AConnectionCanBringItsStatement)

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int DefaultSteps = 20000;
+constexpr int defaultSteps = 20000;
 
 class Monkey : public Shop
 {
@@ -234,7 +234,7 @@ int numberFrom(const char *variable, int otherwise)
 
 TEST_F(Monkey, FindsNothingThatBreaksTheControl)
 {
-    const int steps = numberFrom("KOVA_MONKEY_STEPS", DefaultSteps);
+    const int steps = numberFrom("KOVA_MONKEY_STEPS", defaultSteps);
     const auto seed = static_cast<unsigned>(numberFrom("KOVA_MONKEY_SEED", 20240229));
     std::printf("monkey: %d steps from seed %u\n", steps, seed);
     random.seed(seed);

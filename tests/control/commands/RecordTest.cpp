@@ -67,7 +67,7 @@ TEST_F(RecordsOf, TheMenuRepeatsTheToolbar)
     choose(1, 1);
     EXPECT_TRUE(isPressed(u"All"_s));
     choose(15, 1);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
     choose(5, 2);
     {
         WindowAnswers menuAndDialog({[](QDialog &dialog) { filter(dialog, u"ID < 3"_s); }});
@@ -207,7 +207,7 @@ TEST_F(RecordsOf, AnsweringNoLeavesTheRecordAndTheGrid)
     ASSERT_TRUE(load());
     remove(4, QMessageBox::No);
     EXPECT_EQ(count(), u"12"_s);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
     EXPECT_EQ(grid.GetGridRow(), 4);
     EXPECT_EQ(messages.shown().size(), 1u);
 }
@@ -220,7 +220,7 @@ TEST_F(RecordsOf, ARecordThatOthersReferToStays)
     EXPECT_EQ(messages.texts().last(), u"删除操作与数据库的约束冲突，不能删除此记录！"_s);
     EXPECT_EQ(messages.shown().back().buttons, QMessageBox::Ok);
     EXPECT_EQ(count(), u"12"_s);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
     EXPECT_EQ(grid.GetGridRow(), 3);
     EXPECT_EQ(grid.CurrPosition(), 3);
 }
@@ -235,7 +235,7 @@ TEST_F(RecordsOf, DeletingKeepsTheScrollPosition)
     messages.answerNext(QMessageBox::Yes);
     choose(9, seen.row() + 1);
     EXPECT_EQ(table->verticalScrollBar()->value(), 120);
-    EXPECT_EQ(rows(), Records + 300);
+    EXPECT_EQ(rows(), records + 300);
     EXPECT_EQ(grid.GetGridRow(), seen.row() + 1);
 }
 
@@ -274,7 +274,7 @@ TEST_F(RecordsOf, AnEmptyNewRecordIsDropped)
     choose(8, 4);
     click(u"AllRecord"_s);
     EXPECT_EQ(count(), u"12"_s);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
     EXPECT_EQ(grid.CurrPosition(), 4);
     EXPECT_TRUE(messages.shown().empty());
 }

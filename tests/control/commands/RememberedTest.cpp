@@ -66,7 +66,7 @@ TEST_F(Remembered, CountAndPositionAfterEveryClick)
     values.recordCountSnapshot = -1;
     values.recordPosition = -1;
     click(u"First"_s); // which has nothing to do
-    EXPECT_EQ(values.recordCountSnapshot, Records);
+    EXPECT_EQ(values.recordCountSnapshot, records);
     EXPECT_EQ(values.recordPosition, 4);
 }
 

@@ -21,7 +21,7 @@ struct ShopDatabase
 class Shop : public testing::Test, protected ShopDatabase, protected Hands
 {
 protected:
-    static constexpr int Records = 12;
+    static constexpr int records = 12;
     static QString statementOfAll() { return QStringLiteral("SELECT * FROM 商品"); }
     static QString statementOfPart() { return QStringLiteral("SELECT ID,名称 FROM 商品"); }
 

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint16 ControlKey = 17;
+constexpr qint16 controlKey = 17;
 
 using Shortcuts = Shop;
 
@@ -29,7 +29,7 @@ TEST_F(Shortcuts, ShortcutsRunTheirCommandsAndTheHostHearsOfTheKey)
     table->setFocus();
     QList<std::pair<int, int>> keys;
     QObject::connect(&grid, &KOVAVSFDataGrid::DataKeyDown, &grid, [&](qint16 &code, qint16 &shift) {
-        if (code != ControlKey)
+        if (code != controlKey)
             keys.append({code, shift});
     });
     QTest::keyClick(table, Qt::Key_2, Qt::ControlModifier);

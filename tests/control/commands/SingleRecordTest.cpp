@@ -64,7 +64,7 @@ TEST_F(SingleRecord, ListsTheCurrentRecordWithoutBinaryFields)
 TEST_F(SingleRecord, ShowsTheRecordOfTheCellThatHadTheKeyboardWhereverThatIs)
 {
     ASSERT_TRUE(load(u"SELECT ID, 名称 FROM 商品"_s, u"SELECT 名称 FROM 商品"_s));
-    for (const auto &[row, col] : {std::pair(5, 2), std::pair(Records, 2), std::pair(3, 1)}) {
+    for (const auto &[row, col] : {std::pair(5, 2), std::pair(records, 2), std::pair(3, 1)}) {
         clickCell(row, col);
         table->setFocus();
         QSignalSpy moves(&grid, &KOVAVSFDataGrid::RecordChanged);

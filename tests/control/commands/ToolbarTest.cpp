@@ -147,11 +147,11 @@ TEST_F(Toolbar, BackAndOriginWalkTheHistory)
     EXPECT_EQ(statement(), second);
     EXPECT_EQ(grid.SQLFilter().simplified(), second);
     click(u"ToOrigin"_s);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
     EXPECT_EQ(statement(), first);
     click(u"ToPreview"_s); // nowhere to go: the first one again
     EXPECT_EQ(statement(), first);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
 }
 
 TEST_F(Toolbar, BackShowsTheFieldsAsTheyWereThen)
@@ -173,7 +173,7 @@ TEST_F(Toolbar, ToFullTableDropsTheConditionAndKeepsTheSort)
     ASSERT_TRUE(load(u"SELECT * FROM 商品 WHERE ID > 9 ORDER BY ID DESC"_s));
     EXPECT_EQ(rows(), 3);
     click(u"ToFullTable"_s);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
     EXPECT_EQ(texts(u"ID"_s).first(), u"12"_s);
     EXPECT_TRUE(isPressed(u"All"_s));
     click(u"ToPreview"_s);
@@ -234,7 +234,7 @@ TEST_F(Toolbar, AnEmptyResultLeavesMostCommandsIdle)
     click(u"Sort"_s);     // asks
     click(u"SelField"_s); // asks
     click(u"ToPreview"_s);
-    EXPECT_EQ(rows(), Records);
+    EXPECT_EQ(rows(), records);
 }
 
 TEST_F(Toolbar, AFailedStepIsToldAndLosesNothing)
@@ -257,7 +257,7 @@ TEST_F(Toolbar, AFailedStepIsToldAndLosesNothing)
     EXPECT_GE(messages.shown().size(), 1u);
     database.run(u"ALTER TABLE 别处 RENAME TO 商品"_s);
     click(u"ToPreview"_s);
-    EXPECT_EQ(rows(), Records) << "the way back is still there";
+    EXPECT_EQ(rows(), records) << "the way back is still there";
 }
 
 TEST_F(Toolbar, ACommandMovesThePositionThatOthersRead)

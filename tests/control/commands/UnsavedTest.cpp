@@ -207,7 +207,7 @@ TEST_F(ReadOnlyGrid, OffersNeitherToAddNorToDeleteNorToChange)
     messages.answerNext(QMessageBox::Yes);
     menu->actions().at(8)->trigger();
     EXPECT_TRUE(messages.texts().isEmpty());
-    EXPECT_EQ(database.ask(u"SELECT count(*) FROM 商品"_s), QString::number(Records));
+    EXPECT_EQ(database.ask(u"SELECT count(*) FROM 商品"_s), QString::number(records));
     grid.setProperty("ReadOnly", false);
     choose(6, 1);
     EXPECT_TRUE(menu->actions().at(7)->isEnabled());

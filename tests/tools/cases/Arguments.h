@@ -10,7 +10,7 @@
 
 namespace KovaTest {
 
-inline QString TextOf(const QJsonValue &value)
+inline QString textOf(const QJsonValue &value)
 {
     if (!value.isString())
         throw std::invalid_argument("a text was expected");
@@ -49,7 +49,7 @@ inline QStringList TextsOf(const QJsonValue &value)
 {
     QStringList texts;
     for (const QJsonValue &text : ListOf(value))
-        texts.append(TextOf(text));
+        texts.append(textOf(text));
     return texts;
 }
 
@@ -67,7 +67,7 @@ public:
             throw std::invalid_argument("an argument is missing");
         return m_values.at(index);
     }
-    QString Text(qsizetype index) const { return TextOf(At(index)); }
+    QString Text(qsizetype index) const { return textOf(At(index)); }
     QString OptionalText(qsizetype index) const { return index < Count() ? Text(index) : QString(); }
     qint32 Number(qsizetype index) const { return NumberOf(At(index)); }
     bool Flag(qsizetype index) const { return FlagOf(At(index)); }

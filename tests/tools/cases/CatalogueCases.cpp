@@ -108,7 +108,7 @@ QJsonValue RunCatalogue(const Arguments &arguments)
     return RunOperations(
         ObjectOf(arguments.At(0)),
         [&](const QJsonObject &step) {
-            const auto operation = Operations().value(TextOf(step.value(u"op")));
+            const auto operation = Operations().value(textOf(step.value(u"op")));
             if (!operation)
                 throw std::invalid_argument("unknown operation");
             return operation(catalogue, Arguments(ListOf(step.value(u"args"))));

@@ -160,7 +160,7 @@ QJsonValue RunFilterManager(const Arguments &arguments)
     return RunOperations(
         sequence,
         [&](const QJsonObject &step) {
-            const QString name = TextOf(step.value(u"op"));
+            const QString name = textOf(step.value(u"op"));
             const Arguments stepArguments(ListOf(step.value(u"args")));
             const QJsonValue dialog = step.value(u"dialog");
             chooser.choice = dialog.isString() ? std::optional(dialog.toString()) : std::nullopt;

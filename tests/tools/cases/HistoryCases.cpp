@@ -217,7 +217,7 @@ QJsonValue RunHistory(const Arguments &arguments)
     return RunOperations(
         sequence,
         [&](const QJsonObject &step) {
-            const QString name = TextOf(step.value(u"op"));
+            const QString name = textOf(step.value(u"op"));
             const Arguments stepArguments(ListOf(step.value(u"args")));
             if (name != u"SetReader")
                 return RunHistoryOperation(history, name, stepArguments);

@@ -29,7 +29,7 @@ QByteArray AnswerLine(const QByteArray &line)
         const QJsonObject call = QJsonDocument::fromJson(line, &parseError).object();
         if (parseError.error != QJsonParseError::NoError)
             throw std::invalid_argument(parseError.errorString().toStdString());
-        answer.insert(u"result", CallFunction(TextOf(call.value(u"fn")), ListOf(call.value(u"args"))));
+        answer.insert(u"result", CallFunction(textOf(call.value(u"fn")), ListOf(call.value(u"args"))));
     } catch (const std::exception &error) {
         answer = {{u"error"_s, QString::fromUtf8(error.what())}};
     }

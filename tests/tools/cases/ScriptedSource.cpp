@@ -16,8 +16,8 @@ void ScriptedReader::Load(const QJsonObject &script)
     for (const QJsonValue &entry : ListOf(script.value(u"names"))) {
         const QJsonObject statement = ObjectOf(entry);
         const QStringList fields = TextsOf(statement.value(u"fields"));
-        m_fieldsByStatement.insert(TextOf(statement.value(u"statement")), fields);
-        m_fieldsByStatement.insert(TextOf(statement.value(u"noRow")), fields);
+        m_fieldsByStatement.insert(textOf(statement.value(u"statement")), fields);
+        m_fieldsByStatement.insert(textOf(statement.value(u"noRow")), fields);
     }
 }
 

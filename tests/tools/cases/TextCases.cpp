@@ -203,7 +203,7 @@ QJsonValue LikeAllConditionCase(const Arguments &arguments)
 QJsonValue CellFilterCase(const Arguments &arguments)
 {
     const CellFilter filter =
-        BuildCellFilter(arguments.Text(0), arguments.NumberOrNull(1), arguments.TextOrNull(2));
+        buildCellFilter(arguments.Text(0), arguments.NumberOrNull(1), arguments.TextOrNull(2));
     QJsonObject answer;
     if (!filter.condition.isEmpty())
         answer.insert(u"condition"_s, filter.condition);

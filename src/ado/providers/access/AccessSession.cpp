@@ -40,10 +40,10 @@ AccessSession::AccessSession(const QString &path, const QString &password)
 }
 
 std::unique_ptr<Statement> AccessSession::prepare(const QString &sql, Access access,
-                                                  const std::function<bool()> &goOn)
+                                                  const std::function<bool()> &shouldContinue)
 {
     try {
-        return SqliteSession::prepare(AccessDialect::toSqlite(sql), access, goOn);
+        return SqliteSession::prepare(AccessDialect::toSqlite(sql), access, shouldContinue);
     } catch (const Error &error) {
         if (error.is(dbErrNoTable))
             throwIfLeftOut(SqlScanner(sql), m_queriesLeftOut);

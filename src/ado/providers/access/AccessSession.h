@@ -15,7 +15,7 @@ public:
 
     // Understands, beyond SQLite's SQL, what AccessDialect translates.
     std::unique_ptr<Statement> prepare(const QString &sql, Access access,
-                                       const std::function<bool()> &goOn) override;
+                                       const std::function<bool()> &shouldContinue) override;
 
 private:
     QStringList m_queriesLeftOut;

@@ -22,9 +22,9 @@ OdbcSession::OdbcSession(std::shared_ptr<OdbcConnection> connection, OdbcEngine 
 OdbcSession::~OdbcSession() = default;
 
 std::unique_ptr<Statement> OdbcSession::prepare(const QString &sql, Access access,
-                                                const std::function<bool()> &goOn)
+                                                const std::function<bool()> &shouldContinue)
 {
-    return std::make_unique<OdbcStatement>(shared_from_this(), sql, access, goOn);
+    return std::make_unique<OdbcStatement>(shared_from_this(), sql, access, shouldContinue);
 }
 
 QString OdbcSession::tableStatement(const QString &table) const

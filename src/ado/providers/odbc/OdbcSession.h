@@ -17,7 +17,7 @@ public:
     Q_DISABLE_COPY_MOVE(OdbcSession)
 
     std::unique_ptr<Statement> prepare(const QString &sql, Access access,
-                                       const std::function<bool()> &goOn) override;
+                                       const std::function<bool()> &shouldContinue) override;
     QString tableStatement(const QString &table) const override;
     QString engineName() const override { return m_engine.dbmsName; }
     void close() override;

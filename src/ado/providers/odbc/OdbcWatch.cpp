@@ -80,7 +80,7 @@ SQLRETURN OdbcWatch::run(const std::function<SQLRETURN()> &call) const
 
 void OdbcWatch::ask() const
 {
-    if (!m_patience.goOn())
+    if (!m_patience.shouldContinue())
         throw Error(dbErrCancelled, Texts::cancelled(), u"ODBC"_s, u"HY008"_s);
 }
 

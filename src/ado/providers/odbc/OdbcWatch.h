@@ -12,7 +12,7 @@ class OdbcHandle;
 struct OdbcPatience
 {
     int timeout = 0; // seconds that one call may take, 0 for ever
-    std::function<bool()> goOn = [] { return true; };
+    std::function<bool()> shouldContinue = [] { return true; };
 };
 
 // Runs calls on one statement that can wait for the server, each in a thread of its own. Meanwhile it asks in

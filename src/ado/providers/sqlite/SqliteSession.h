@@ -35,7 +35,7 @@ public:
     Q_DISABLE_COPY_MOVE(SqliteSession)
 
     std::unique_ptr<Statement> prepare(const QString &sql, Access access,
-                                       const std::function<bool()> &goOn) override;
+                                       const std::function<bool()> &shouldContinue) override;
     QString tableStatement(const QString &table) const override;
     QString engineName() const override { return QStringLiteral("SQLite"); }
     void close() override;

@@ -21,24 +21,25 @@ namespace {
 constexpr int stepsPerQuestion = 20'000;
 constexpr qint64 bytesPerQuestion = qint64{1} << 20;
 
-int stopWhenAsked(void *goOn)
+int stopWhenAsked(void *shouldContinue)
 {
-    return (*static_cast<const std::function<bool()> *>(goOn))() ? 0 : 1;
+    return (*static_cast<const std::function<bool()> *>(shouldContinue))() ? 0 : 1;
 }
 
 class ProgressWatch
 {
 public:
-    ProgressWatch(sqlite3 *db, std::function<bool()> goOn) : m_db(db), m_goOn(std::move(goOn))
+    ProgressWatch(sqlite3 *db, std::function<bool()> shouldContinue)
+        : m_db(db), m_shouldContinue(std::move(shouldContinue))
     {
-        sqlite3_progress_handler(m_db, stepsPerQuestion, stopWhenAsked, &m_goOn);
+        sqlite3_progress_handler(m_db, stepsPerQuestion, stopWhenAsked, &m_shouldContinue);
     }
     ~ProgressWatch() { sqlite3_progress_handler(m_db, 0, nullptr, nullptr); }
     Q_DISABLE_COPY_MOVE(ProgressWatch)
 
 private:
     sqlite3 *m_db;
-    std::function<bool()> m_goOn;
+    std::function<bool()> m_shouldContinue;
 };
 
 // Without memory for another form of a value SQLite gives none at all, which must not look like an empty one.
@@ -145,10 +146,10 @@ void SqliteStatement::learnTypes()
     });
 }
 
-void SqliteStatement::fetch(RowStore &rows, const std::function<bool()> &goOn)
+void SqliteStatement::fetch(RowStore &rows, const std::function<bool()> &shouldContinue)
 {
     sqlite3 *const db = sqlite3_db_handle(m_statement.get());
-    const ProgressWatch watch(db, goOn);
+    const ProgressWatch watch(db, shouldContinue);
     qint64 nextQuestion = 0;
     while (stepRow(m_statement)) {
         if (!m_untyped.empty())
@@ -156,7 +157,7 @@ void SqliteStatement::fetch(RowStore &rows, const std::function<bool()> &goOn)
         appendCurrentRow(m_statement.get(), rows);
         if (rows.bytesWritten() >= nextQuestion) {
             nextQuestion = rows.bytesWritten() + bytesPerQuestion;
-            if (!goOn())
+            if (!shouldContinue())
                 throw Error(dbErrCancelled, Texts::cancelled());
         }
     }

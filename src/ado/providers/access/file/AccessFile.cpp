@@ -34,7 +34,7 @@ struct Freer
 // doesn't have, so the file is looked at first.
 DatabaseFile checked(const QString &path, const QString &password)
 {
-    DatabaseFile file(path, AccessHeader::Size);
+    DatabaseFile file(path, AccessHeader::size);
     const AccessHeader header(file.header);
     if (!header.isAccess())
         throw Error(adErrOpeningFile, Texts::notAnAccessFile().arg(file.shown));
@@ -151,7 +151,7 @@ qint64 AccessFile::pages() const
 
 std::shared_ptr<const AccessPage> AccessFile::page(quint32 number) const
 {
-    std::shared_ptr<const AccessPage> &cached = m_cache[number % CachedPages];
+    std::shared_ptr<const AccessPage> &cached = m_cache[number % cachedPages];
     if (cached && cached->number == number)
         return cached;
     MdbHandle *const mdb = m_handle->mdb.get();

@@ -59,14 +59,14 @@ private:
     struct Handle;
 
     // Joins come back to the same pages again and again.
-    static constexpr quint32 CachedPages = 512;
+    static constexpr quint32 cachedPages = 512;
 
     std::vector<AccessObject> readObjects() const;
     std::optional<AccessTable> readTable(const QString &name, quint32 definitionPage) const;
 
     std::unique_ptr<Handle> m_handle;
     quint16 m_language = 0;
-    mutable std::vector<std::shared_ptr<const AccessPage>> m_cache{CachedPages}; // by number % CachedPages
+    mutable std::vector<std::shared_ptr<const AccessPage>> m_cache{cachedPages}; // by number % cachedPages
     std::vector<AccessObject> m_objects;
     std::vector<AccessTable> m_tables;
 };

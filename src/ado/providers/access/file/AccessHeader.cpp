@@ -48,7 +48,7 @@ AccessHeader::AccessHeader(QByteArray bytes) : m_bytes(std::move(bytes))
 bool AccessHeader::isAccess() const
 {
     const QByteArrayView kind = QByteArrayView(m_bytes).sliced(std::min<qsizetype>(4, m_bytes.size()));
-    return m_bytes.size() >= Size && m_bytes.startsWith(QByteArrayView("\0\1\0\0", 4)) &&
+    return m_bytes.size() >= size && m_bytes.startsWith(QByteArrayView("\0\1\0\0", 4)) &&
            (kind.startsWith("Standard Jet DB") || kind.startsWith("Standard ACE DB"));
 }
 
@@ -65,8 +65,8 @@ bool AccessHeader::isEncrypted() const
 QString AccessHeader::password() const
 {
     if (isJet3()) {
-        constexpr qsizetype size = 20;
-        const QByteArray text = m_bytes.sliced(passwordAt, size);
+        constexpr qsizetype length = 20;
+        const QByteArray text = m_bytes.sliced(passwordAt, length);
         return QString::fromLatin1(text.left(text.indexOf('\0')));
     }
     // Masked once more, by the day on which the file was made.

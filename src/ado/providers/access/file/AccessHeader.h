@@ -9,9 +9,9 @@ namespace ADODB {
 class AccessHeader
 {
 public:
-    static constexpr qint64 Size = 0x98;
+    static constexpr qint64 size = 0x98;
 
-    // The first Size bytes of the file; fewer are no Access file.
+    // The first size bytes of the file; fewer are no Access file.
     explicit AccessHeader(QByteArray bytes);
 
     bool isAccess() const;

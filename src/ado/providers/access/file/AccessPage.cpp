@@ -14,7 +14,7 @@ void AccessBytes::throwDamaged(const char *what)
 int AccessPage::rows() const
 {
     const int count = AccessBytes::number<quint16>(bytes(), rowCountOffset);
-    if (count > MostRows)
+    if (count > mostRows)
         AccessBytes::throwDamaged("a page claims too many records");
     return count;
 }

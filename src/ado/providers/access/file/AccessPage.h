@@ -31,8 +31,8 @@ Number number(QByteArrayView bytes, qsizetype at)
 class AccessPage
 {
 public:
-    static constexpr int LargestSize = 4096;
-    static constexpr int MostRows = 256; // the number of a row is one byte where a row is pointed to
+    static constexpr int largestSize = 4096;
+    static constexpr int mostRows = 256; // the number of a row is one byte where a row is pointed to
 
     struct Row
     {
@@ -44,7 +44,7 @@ public:
     quint32 number = 0; // in the file, whose page 0 is its head and has no rows
     int size = 0;
     int rowCountOffset = 0;
-    std::array<char, LargestSize> buffer{};
+    std::array<char, largestSize> buffer{};
 
     QByteArrayView bytes() const { return {buffer.data(), size}; }
     int rows() const;

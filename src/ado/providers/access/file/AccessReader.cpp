@@ -41,15 +41,15 @@ bool AccessReader::next()
 
 qint64 AccessReader::position() const
 {
-    return qint64{m_page->number} * AccessPage::MostRows + m_nextRow - 1;
+    return qint64{m_page->number} * AccessPage::mostRows + m_nextRow - 1;
 }
 
 void AccessReader::seek(qint64 position)
 {
-    const auto page = static_cast<quint32>(position / AccessPage::MostRows);
+    const auto page = static_cast<quint32>(position / AccessPage::mostRows);
     if (!m_page || page != m_page->number)
         m_page = m_file.page(page);
-    m_nextRow = static_cast<int>(position % AccessPage::MostRows) + 1;
+    m_nextRow = static_cast<int>(position % AccessPage::mostRows) + 1;
     take(m_page->row(m_nextRow - 1));
 }
 

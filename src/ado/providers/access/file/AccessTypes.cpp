@@ -86,7 +86,7 @@ Family familyOf(AccessType type)
 
 const char *collation(AccessType type)
 {
-    return familyOf(type) == Family::Date ? AccessCollation::DateName : AccessCollation::TextName;
+    return familyOf(type) == Family::Date ? AccessCollation::dateName : AccessCollation::textName;
 }
 
 QString declaration(const AccessColumn &column)

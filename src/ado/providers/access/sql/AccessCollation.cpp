@@ -34,7 +34,7 @@ int orderDates(void *, int sizeA, const void *a, int sizeB, const void *b)
     return compareDates({static_cast<const char *>(a), sizeA}, {static_cast<const char *>(b), sizeB});
 }
 
-void letGo(void *order)
+void release(void *order)
 {
     const std::unique_ptr<AccessOrder> owner(static_cast<AccessOrder *>(order));
 }
@@ -85,9 +85,9 @@ int compareDates(QByteArrayView a, QByteArrayView b)
 void install(sqlite3 *db, quint16 language)
 {
     auto order = std::make_unique<AccessOrder>(language);
-    if (sqlite3_create_collation_v2(db, TextName, SQLITE_UTF8, order.get(), orderTexts, letGo) == SQLITE_OK)
+    if (sqlite3_create_collation_v2(db, textName, SQLITE_UTF8, order.get(), orderTexts, release) == SQLITE_OK)
         order.release(); // the database's by now
-    sqlite3_create_collation_v2(db, DateName, SQLITE_UTF8, nullptr, orderDates, nullptr);
+    sqlite3_create_collation_v2(db, dateName, SQLITE_UTF8, nullptr, orderDates, nullptr);
     AccessCall::offer<like>(db, "like", 2);
     AccessCall::offer<like>(db, "like", 3);
     AccessCall::offer<glob>(db, "glob", 2);

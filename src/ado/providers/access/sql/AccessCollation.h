@@ -8,8 +8,8 @@ struct sqlite3;
 // How Access compares texts: letter case does not count, in any script.
 namespace ADODB::AccessCollation {
 
-inline constexpr char TextName[] = "ACCESS_TEXT";
-inline constexpr char DateName[] = "ACCESS_DATE";
+inline constexpr char textName[] = "ACCESS_TEXT";
+inline constexpr char dateName[] = "ACCESS_DATE";
 
 // Negative, zero or positive; by code points, unlike AccessOrder, where texts are not equal.
 int compareTexts(QByteArrayView a, QByteArrayView b);

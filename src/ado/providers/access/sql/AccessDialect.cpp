@@ -164,7 +164,7 @@ private:
             insert(Edit::CloseSum, m_statement.at(close).end(), textOrder());
     }
 
-    static QString textOrder() { return u" COLLATE "_s + QLatin1StringView(AccessCollation::TextName); }
+    static QString textOrder() { return u" COLLATE "_s + QLatin1StringView(AccessCollation::textName); }
 
     template<typename List>
     bool isOneOf(const List &words, qsizetype index) const

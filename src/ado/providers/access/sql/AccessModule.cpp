@@ -115,7 +115,7 @@ int disconnect(sqlite3_vtab *table)
 // Whether rows that are equal in this order have equal hashes.
 bool isHashed(std::string_view collation)
 {
-    return collation == AccessCollation::TextName || collation == AccessCollation::DateName ||
+    return collation == AccessCollation::textName || collation == AccessCollation::dateName ||
            collation == "BINARY" || collation == "NOCASE";
 }
 
@@ -243,7 +243,7 @@ constexpr sqlite3_module tableModule()
 
 constexpr sqlite3_module module = tableModule();
 
-void letGo(void *context)
+void release(void *context)
 {
     const std::unique_ptr<File> owner(static_cast<File *>(context));
 }
@@ -262,7 +262,7 @@ void AccessModule::install(sqlite3 *db, std::shared_ptr<const AccessFile> file)
     const std::vector<AccessTable> &tables = file->tables();
     auto context = std::make_unique<File>(file);
     // Takes the context over even where it fails.
-    const int code = sqlite3_create_module_v2(db, moduleName, &module, context.release(), letGo);
+    const int code = sqlite3_create_module_v2(db, moduleName, &module, context.release(), release);
     if (code != SQLITE_OK)
         throwSqliteError(db, code);
     run(db, u"BEGIN"_s); // one transaction instead of one for each table

@@ -35,7 +35,7 @@ void waitForTables(const std::shared_ptr<OdbcConnection> &connection, const Odbc
 } // namespace
 
 OdbcStatement::OdbcStatement(std::shared_ptr<OdbcSession> session, const QString &sql, Access access,
-                             const std::function<bool()> &goOn)
+                             const std::function<bool()> &shouldContinue)
     : m_session(std::move(session)), m_connection(m_session->connection())
 {
     const OdbcEngine &engine = m_session->engine();
@@ -43,7 +43,7 @@ OdbcStatement::OdbcStatement(std::shared_ptr<OdbcSession> session, const QString
     const SqlScanner scanner(sql, engine.dialect, engine.quoting);
     refuseUnlessQuery(scanner);
     m_reading.emplace(m_connection, engine);
-    const OdbcPatience patience{m_session->commandTimeout(), goOn};
+    const OdbcPatience patience{m_session->commandTimeout(), shouldContinue};
     waitForTables(m_connection, engine, scanner, patience);
     m_query = std::make_unique<OdbcQuery>(m_connection, engine, sql, patience);
     m_fields = m_query->fields();
@@ -84,9 +84,9 @@ void OdbcStatement::prepareWriter(const SqlScanner &statement, const OdbcPatienc
     m_writer = std::make_unique<OdbcRowWriter>(m_session, std::move(target), m_query->types());
 }
 
-void OdbcStatement::fetch(RowStore &rows, const std::function<bool()> &goOn)
+void OdbcStatement::fetch(RowStore &rows, const std::function<bool()> &shouldContinue)
 {
-    m_query->read(rows, {m_session->commandTimeout(), goOn});
+    m_query->read(rows, {m_session->commandTimeout(), shouldContinue});
     m_reading.reset();
 }
 

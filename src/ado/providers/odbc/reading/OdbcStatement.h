@@ -20,12 +20,12 @@ class OdbcStatement : public Statement
 {
 public:
     OdbcStatement(std::shared_ptr<OdbcSession> session, const QString &sql, Access access,
-                  const std::function<bool()> &goOn);
+                  const std::function<bool()> &shouldContinue);
     ~OdbcStatement() override;
 
     const std::vector<FieldInfo> &fields() const override { return m_fields; }
     int columns() const override;
-    void fetch(RowStore &rows, const std::function<bool()> &goOn) override;
+    void fetch(RowStore &rows, const std::function<bool()> &shouldContinue) override;
     std::unique_ptr<RowWriter> takeWriter() override { return std::move(m_writer); }
     QString whyReadOnly() const override { return m_whyReadOnly; }
 

@@ -1,3 +1,3 @@
-#include <KOVAVSFDataGridLib/ado/Connection.h>
-#include "Options.h"
 #include "ado/Inner.h"
+#include "Options.h"
+#include <KOVAVSFDataGridLib/ado/Connection.h>
