@@ -18,13 +18,13 @@ class AccessFileFaults : public testing::Test
 protected:
     void SetUp() override
     {
-        QList<QVariantList> records;
+        QList<QVariantList> rows;
         for (int i = 1; i <= records; ++i)
-            records += {i, u"name %1"_s.arg(i)};
+            rows += {i, u"name %1"_s.arg(i)};
         AccessWriter writer;
         writer.addTable(u"faults"_s,
                         {{u"id"_s, ADODB::AccessType::LongInteger}, {u"name"_s, ADODB::AccessType::Text, 50}},
-                        records);
+                        rows);
         whole = writer.file();
         writer.setPassword(u"secret"_s);
         locked = writer.file();
