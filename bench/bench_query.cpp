@@ -1,4 +1,5 @@
 #include "query/Conditions.h"
+#include "query/Derivation.h"
 #include "query/SqlText.h"
 #include "query/colShowSQLSentences.h"
 
@@ -92,6 +93,11 @@ void MeasureStatements()
     qInfo("statement of %s characters, %s fields", qPrintable(QString::number(statement.size())),
           qPrintable(QString::number(names.size())));
 
+    Measure("statement taken apart for the first time, its fields named", [&] {
+        const std::vector<SourceField> sources = NamesReader(names).Read({}, {}).value();
+        if (!Derivation(statement, sources, dialectOf(dbAccess, Engine::Access)).isSimple())
+            std::puts("the statement was read wrongly");
+    });
     NamesReader reader(names);
     colShowSQLSentences history(&reader);
     history.AddCurrentSQL(statement, 1);

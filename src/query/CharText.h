@@ -39,7 +39,13 @@ inline qsizetype Find(const QString &text, const QString &part, qsizetype from =
 // shifted.
 inline qsizetype findUpper(const QString &text, const QString &word)
 {
-    const auto sameLetter = [](QChar a, QChar b) { return a == b || a.toUpper() == b.toUpper(); };
+    const auto isAscii = [](QChar c) { return c.unicode() < 0x80; };
+    const auto asciiUpper = [](QChar c) { return c >= u'a' && c <= u'z' ? c.unicode() - 32 : +c.unicode(); };
+    // Qt's table is slow where nearly every letter is plain.
+    const auto sameLetter = [&](QChar a, QChar b) {
+        return a == b ||
+               (isAscii(a) && isAscii(b) ? asciiUpper(a) == asciiUpper(b) : a.toUpper() == b.toUpper());
+    };
     const auto found = std::search(text.cbegin(), text.cend(), word.cbegin(), word.cend(), sameLetter);
     return found == text.cend() ? 0 : found - text.cbegin() + 1;
 }

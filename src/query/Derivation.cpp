@@ -203,9 +203,12 @@ QString Derivation::withFieldsOf(const Derivation &fieldStatement) const
     if (hasWords &&
         sameText(textOf(m_sql, m_parts.source), textOf(fieldStatement.m_sql, fieldStatement.m_parts.source)))
         return withList(fieldStatement.listText(), splitList(fieldStatement.listText()));
+    QHash<QString, qsizetype> placeOfName;
+    for (qsizetype i = m_names.size() - 1; i >= 0; --i)
+        placeOfName.insert(m_names.at(i), i);
     QStringList entries;
     for (const QString &name : fieldStatement.m_names) {
-        const qsizetype at = m_names.indexOf(name);
+        const qsizetype at = placeOfName.value(name, -1);
         if (at >= 0 && !m_listed.at(at).isEmpty())
             entries.append(m_listed.at(at));
         else if (m_parts.isDerivedTable)

@@ -5,6 +5,7 @@
 #include "query/SqlText.h"
 #include "sql/SelectParts.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QStringList>
 
 // Statements derived from any SELECT, such that the rows are right.
@@ -97,7 +98,8 @@ private:
 
     void nameFields(const std::vector<SourceField> &fields);
     void nameOpenFields(const std::vector<SourceField> &fields);
-    QString qualified(const SourceField &field, const QString &qualifier, bool isUnique) const;
+    QString qualified(const SourceField &field, const QString &qualifier) const;
+    int countOf(const QString &name) const;
     bool isFoundAsText() const;
     bool hasPlainList() const;
     QString equalName() const; // a name that several fields have; empty when there is none
@@ -120,6 +122,7 @@ private:
     Dialect m_dialect;
     Kind m_kind = Kind::Closed;
     QStringList m_names;
+    QHash<QString, int> m_countOfName; // by the name in one letter case
     QStringList m_written;
     QStringList m_listed;
     std::vector<int> m_itemOfField; // the list entry that gives the field

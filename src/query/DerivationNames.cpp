@@ -17,12 +17,6 @@ bool isSame(const QString &a, const QString &b)
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
-qsizetype countOf(const QStringList &names, const QString &name)
-{
-    return std::count_if(names.cbegin(), names.cend(),
-                         [&](const QString &other) { return isSame(name, other); });
-}
-
 bool isOneCall(const SqlScanner &sql, TextRange value)
 {
     const qsizetype open = sql.isSymbol(value.begin, u'(') ? value.begin : value.begin + 1;
@@ -62,8 +56,10 @@ void Derivation::nameFields(const std::vector<SourceField> &fields)
             all.push_back({isBare ? m_sql.name(item.value.end - 1) : item.alias, 0});
         }
     }
-    for (const SourceField &field : all)
+    for (const SourceField &field : all) {
         m_names.append(field.name);
+        ++m_countOfName[field.name.toCaseFolded()];
+    }
 
     // A single star gives what the other entries don't; several can't be told apart by their number.
     const auto stars = std::count_if(m_parts.items.begin(), m_parts.items.end(),
@@ -83,9 +79,11 @@ void Derivation::nameFields(const std::vector<SourceField> &fields)
 
 void Derivation::nameOpenFields(const std::vector<SourceField> &fields)
 {
+    QHash<QString, int> countOfAlias;
+    for (const SelectParts::Item &item : m_parts.items)
+        ++countOfAlias[item.alias.toCaseFolded()];
     for (std::size_t i = 0; i < fields.size(); ++i) {
         const int at = m_itemOfField[i];
-        const bool isUnique = countOf(m_names, fields[i].name) == 1;
         if (at < 0 || m_parts.items[static_cast<std::size_t>(at)].isStar) {
             QString qualifier;
             if (at >= 0) {
@@ -93,18 +91,17 @@ void Derivation::nameOpenFields(const std::vector<SourceField> &fields)
                 if (value.end - value.begin > 2)
                     qualifier = textOf(m_sql, {value.begin, value.end - 2});
             }
-            m_written.append(qualified(fields[i], qualifier, isUnique));
+            m_written.append(qualified(fields[i], qualifier));
             m_listed.append(m_written.last());
             continue;
         }
         const SelectParts::Item &item = m_parts.items[static_cast<std::size_t>(at)];
         QString written = operand(m_sql, item);
         // A sort takes a bare name for another field's alias before it looks at the table.
+        const bool isBareName = item.isName && item.value.end - item.value.begin == 1;
+        const QString name = isBareName ? m_sql.name(item.value.begin) : QString();
         const bool isAliasOfOther =
-            item.isName && item.value.end - item.value.begin == 1 &&
-            std::any_of(m_parts.items.begin(), m_parts.items.end(), [&](const SelectParts::Item &other) {
-                return &other != &item && isSame(other.alias, m_sql.name(item.value.begin));
-            });
+            isBareName && countOfAlias.value(name.toCaseFolded()) > (isSame(item.alias, name) ? 1 : 0);
         if (isAliasOfOther && m_parts.sources.size() == 1)
             written = m_parts.sources.front().writtenAlias + u'.' + written;
         m_written.append(written);
@@ -112,12 +109,17 @@ void Derivation::nameOpenFields(const std::vector<SourceField> &fields)
     }
 }
 
-QString Derivation::qualified(const SourceField &field, const QString &qualifier, bool isUnique) const
+int Derivation::countOf(const QString &name) const
+{
+    return m_countOfName.value(name.toCaseFolded());
+}
+
+QString Derivation::qualified(const SourceField &field, const QString &qualifier) const
 {
     const QString name = writtenName(m_dialect, field.name);
     if (!qualifier.isEmpty())
         return qualifier + u'.' + name;
-    if (isUnique)
+    if (countOf(field.name) == 1)
         return name;
     const SelectParts::Source *source = nullptr;
     for (const SelectParts::Source &candidate : m_parts.sources) {
@@ -133,7 +135,7 @@ QString Derivation::qualified(const SourceField &field, const QString &qualifier
 QString Derivation::equalName() const
 {
     const auto found = std::find_if(m_names.cbegin(), m_names.cend(),
-                                    [&](const QString &name) { return countOf(m_names, name) > 1; });
+                                    [&](const QString &name) { return countOf(name) > 1; });
     return found == m_names.cend() ? QString() : *found;
 }
 
@@ -158,7 +160,7 @@ int Derivation::fieldOfTerm(const SelectParts::Item &term) const
             [&](std::size_t, const SelectParts::Item *item) { return item && isSame(item->alias, name); });
         if (byAlias >= 0)
             return byAlias;
-        if (countOf(m_names, name) == 1)
+        if (countOf(name) == 1)
             return fieldWhere([&](std::size_t i, const SelectParts::Item *item) {
                 return isSame(m_names.at(static_cast<qsizetype>(i)), name) &&
                        (!item || item->alias.isEmpty() || isSame(item->alias, name));
@@ -179,7 +181,7 @@ int Derivation::fieldOfTerm(const SelectParts::Item &term) const
         return byValue;
     // T.Name and Name are one column where the result has no other of that name.
     const QString last = m_sql.name(term.value.end - 1);
-    if (countOf(m_names, last) != 1)
+    if (countOf(last) != 1)
         return -1;
     return fieldWhere([&](std::size_t i, const SelectParts::Item *item) {
         return isSame(m_names.at(static_cast<qsizetype>(i)), last) &&

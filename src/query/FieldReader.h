@@ -15,6 +15,8 @@ struct SourceField
     QString name;
     qint32 adoType = 0; // ADO type number; 0 when it isn't known
     QString table = {}; // the table it comes from, under the table's own name; empty when that isn't known
+
+    bool operator==(const SourceField &) const = default;
 };
 
 // What the query model needs of a database. The implementation decides whether it keeps connections open and

@@ -268,6 +268,7 @@ bool colShowSQLSentences::Clear()
 {
     colShowSQLSentences empty(m_reader);
     empty.m_database = m_database;
+    empty.m_derivations = std::move(m_derivations); // they depend on nothing that is emptied
     *this = std::move(empty);
     return true;
 }
@@ -317,8 +318,8 @@ bool colShowSQLSentences::FillCatalogue(const QString &connectionString, const Q
         return false;
     m_catalogue.Clear();
     const Dialect dialect = dialectOf(m_database, engineOf(connectionString));
-    const Derivation derivation(statement, *fields, dialect);
-    const bool isText = dialect.engine == Engine::Other || derivation.isSimple();
+    const auto derivation = m_derivations.of(statement, *fields, dialect);
+    const bool isText = dialect.engine == Engine::Other || derivation->isSimple();
     for (std::size_t i = 0; i < fields->size(); ++i) {
         const SourceField &source = fields->at(i);
         if (source.name.isEmpty())
@@ -326,7 +327,7 @@ bool colShowSQLSentences::FillCatalogue(const QString &connectionString, const Q
         QString key;
         m_catalogue.AddFieldNameMess(source.name,
                                      isText ? writtenName(dialect, source.name)
-                                            : derivation.written().at(static_cast<qsizetype>(i)),
+                                            : derivation->written().at(static_cast<qsizetype>(i)),
                                      &key);
         m_catalogue.Update(key, [&](clsDataField &field) { field.FieldType = source.adoType; });
     }

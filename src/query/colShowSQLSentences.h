@@ -1,6 +1,6 @@
 #pragma once
 
-#include "query/Derivation.h"
+#include "query/DerivationMemo.h"
 #include "query/FieldReader.h"
 #include "query/KeyedList.h"
 #include "query/SqlText.h"
@@ -94,11 +94,11 @@ public:
     // read.
     bool GetCurrSQLFieldsStatus(const QString &PassConnString = {});
 
-    // How other statements are derived from this one; nothing when it is empty or its engine isn't known.
+    // How other statements are derived from this one; null when it is empty or its engine isn't known.
     // Then, and where Derivation::isTextWork says so, statements are derived as plain text.
-    std::optional<Derivation> DerivationOf(const QString &statement) const;
+    std::shared_ptr<const Derivation> DerivationOf(const QString &statement) const;
     // The same where plain text work won't do.
-    std::optional<Derivation> DerivationOf(const QString &statement, DerivationStep step) const;
+    std::shared_ptr<const Derivation> DerivationOf(const QString &statement, DerivationStep step) const;
 
     // Why a command can't derive from the latest entry, for a person to read; empty when it can.
     QString WhyNot(DerivationStep step) const;
@@ -155,6 +155,7 @@ private:
     AllDBType m_database = dbAccess;
     KeyedList<clsShowSQLSentence> m_entries{QStringLiteral("ForDel")};
     colDataFields m_catalogue;
+    mutable DerivationMemo m_derivations;
     QString m_connString;
     QString m_allFields;
     QString m_showFieds;

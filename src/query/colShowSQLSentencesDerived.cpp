@@ -11,39 +11,39 @@ Engine colShowSQLSentences::engineOf(const QString &connectionString) const
     return m_reader ? m_reader->engineOf(connectionString) : Engine::Other;
 }
 
-std::optional<Derivation> colShowSQLSentences::DerivationOf(const QString &statement) const
+std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QString &statement) const
 {
     if (statement.isEmpty() || !m_reader)
-        return std::nullopt;
+        return {};
     Engine engine = engineOf(m_connString);
     if (engine == Engine::Other) {
         // Simple statements don't need to know, so nobody waits for a connection.
-        if (Derivation(statement, {}, dialectOf(m_database, engine)).isSimple() ||
+        if (m_derivations.of(statement, {}, dialectOf(m_database, engine))->isSimple() ||
             !m_reader->Open(m_connString))
-            return std::nullopt;
+            return {};
         engine = engineOf(m_connString);
         if (engine == Engine::Other)
-            return std::nullopt;
+            return {};
     }
     const Dialect dialect = dialectOf(m_database, engine);
-    Derivation byText(statement, {}, dialect);
-    if (byText.isSimple() && !byText.needsFields())
+    auto byText = m_derivations.of(statement, {}, dialect);
+    if (byText->isSimple() && !byText->needsFields())
         return byText;
-    return Derivation(statement, m_reader->Read(m_connString, statement).value_or(std::vector<SourceField>()),
-                      dialect);
+    const auto fields = m_reader->Read(m_connString, statement);
+    return fields ? m_derivations.of(statement, *fields, dialect) : byText;
 }
 
-std::optional<Derivation> colShowSQLSentences::DerivationOf(const QString &statement,
-                                                            DerivationStep step) const
+std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QString &statement,
+                                                                    DerivationStep step) const
 {
     auto derivation = DerivationOf(statement);
-    return derivation && !derivation->isTextWork(step) ? std::move(derivation) : std::nullopt;
+    return derivation && !derivation->isTextWork(step) ? derivation : nullptr;
 }
 
 QString colShowSQLSentences::WhyNot(DerivationStep step) const
 {
     const clsShowSQLSentence *const latest = Latest();
-    const auto derivation = latest ? DerivationOf(latest->ShowSQL, step) : std::nullopt;
+    const auto derivation = latest ? DerivationOf(latest->ShowSQL, step) : nullptr;
     return derivation ? derivation->whyNot(step) : QString();
 }
 
@@ -61,7 +61,7 @@ QString colShowSQLSentences::GetColumnRealName(const QString &shownStatement, co
 std::optional<FilteredResult> colShowSQLSentences::GetFilteredResult() const
 {
     const clsShowSQLSentence *const latest = Latest();
-    const auto all = latest ? DerivationOf(latest->AllFields) : std::nullopt;
+    const auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
     if (!all || (all->isSimple() && !all->isJoined()))
         return std::nullopt;
     return all->filteredResult();
@@ -84,7 +84,7 @@ QString colShowSQLSentences::GetFieldsStatement(const QString &statement) const
 
 QString colShowSQLSentences::Sorted(const QString &statement, const QString &sortList) const
 {
-    const auto derivation = sortList.isEmpty() ? std::nullopt : DerivationOf(statement, DerivationStep::Sort);
+    const auto derivation = sortList.isEmpty() ? nullptr : DerivationOf(statement, DerivationStep::Sort);
     if (!derivation)
         return AppendOrderWord(statement, sortList);
     return derivation->isSorted() ? statement : derivation->withSort(sortList);
@@ -103,7 +103,7 @@ QString colShowSQLSentences::WithFieldsOf(const QString &statement, const QStrin
         return derived;
     // What is shown may lack a field that the whole has.
     const auto all = DerivationOf(Latest()->AllFields);
-    const auto whole = all ? DerivationOf(derivation->withFieldsOf(*all)) : std::nullopt;
+    const auto whole = all ? DerivationOf(derivation->withFieldsOf(*all)) : nullptr;
     return whole ? whole->withFieldsOf(*fields) : QString();
 }
 

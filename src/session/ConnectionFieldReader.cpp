@@ -84,8 +84,10 @@ void ConnectionFieldReader::remember(const QString &connectionString, const QStr
                                      const ADODB::Fields &fields)
 {
     std::vector<SourceField> known;
-    for (int i = 0; i < fields.Count(); ++i)
-        known.push_back({fields.Item(i).Name(), fields.Item(i).Type()});
+    for (int i = 0; i < fields.Count(); ++i) {
+        const ADODB::Field &field = fields.Item(i);
+        known.push_back({field.Name(), field.Type(), field.BaseTableName()});
+    }
     m_known.insert({connectionString, statement}, known);
 }
 

@@ -1,4 +1,5 @@
 #include "ado/Error.h"
+#include "ado/Recordset.h"
 #include "query/SqlText.h"
 #include "session/HostEvents.h"
 #include "session/Questions.h"
@@ -91,6 +92,7 @@ void Session::show(const ResultSet::Opened &opened, const QString &statement)
     else
         m_result.replaceBy(opened);
     m_statement = statement;
+    m_reader.remember(texts.connectionString, statement, m_result.recordset()->Fields());
     m_isRequeried = true;
     showPage(1);
     // Widths belong to fields; the layout that follows gives each its own again.

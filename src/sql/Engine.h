@@ -24,6 +24,8 @@ struct Dialect
 
     // The engine, or where that is not known the one that the declared type names.
     Engine likelyEngine() const;
+
+    bool operator==(const Dialect &) const = default;
 };
 
 // As far as the declared type and the engine decide it.

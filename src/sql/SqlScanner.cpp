@@ -266,7 +266,7 @@ QString SqlScanner::withoutSemicolon() const
 bool SqlScanner::isWord(qsizetype index, QStringView word) const
 {
     return index >= 0 && index < count() && at(index).kind == SqlToken::Kind::Word &&
-           text(index).compare(word, Qt::CaseInsensitive) == 0;
+           at(index).length == word.size() && text(index).compare(word, Qt::CaseInsensitive) == 0;
 }
 
 bool SqlScanner::isSymbol(qsizetype index, QChar symbol) const

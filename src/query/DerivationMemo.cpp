@@ -1,0 +1,32 @@
+#include "query/DerivationMemo.h"
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+// What is shown, all fields and the part fields, each with and without the fields of its result, and room for
+// what is derived from them.
+constexpr std::size_t entriesKept = 12;
+
+} // namespace
+
+std::shared_ptr<const Derivation>
+DerivationMemo::of(const QString &statement, const std::vector<SourceField> &fields, const Dialect &dialect)
+{
+    const auto known = std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry &entry) {
+        return entry.statement == statement && entry.dialect == dialect && entry.fields == fields;
+    });
+    if (known != m_entries.end()) {
+        m_entries.splice(m_entries.begin(), m_entries, known);
+    } else {
+        m_entries.push_front(
+            {statement, fields, dialect, std::make_shared<const Derivation>(statement, fields, dialect)});
+        if (m_entries.size() > entriesKept)
+            m_entries.pop_back();
+    }
+    return m_entries.front().derivation;
+}
+
+} // namespace KOVAVSFDataGridLib
