@@ -15,7 +15,7 @@ bool isNumber(const QString &text)
     return ok;
 }
 
-// The number behind --print may be missing, which the parser can't express.
+// The number after --print is optional, which the parser can't express.
 QStringList withExplicitPrintRows(const QStringList &arguments)
 {
     QStringList result;
@@ -40,10 +40,10 @@ QString Options::usage()
            "                [--sort TEXT] [--table-type table|view|sql] [--do KEY[,KEY...]] [--print "
            "[ROWS]]\n"
            "                [--screenshot FILE]\n"
-           "Without --connection it opens a sample database, which it makes on first use.\n"
-           "Without a display, or with --screenshot, it prints \"Loaded N records, M fields in S s\"; with "
-           "--print\n"
-           "that line goes to standard error, so that standard output holds the records alone."_s;
+           "Without --connection, it opens a sample database, which it creates on first use.\n"
+           "Without a display, or with --screenshot, it prints \"Loaded N records, M fields in S s\" to\n"
+           "standard output. With --print, it prints that line to standard error instead, and only the\n"
+           "records to standard output."_s;
 }
 
 std::optional<Options> Options::parse(const QStringList &arguments, QString &error)
