@@ -1,6 +1,6 @@
-#include "query/Conditions.h"
-#include "query/SqlText.h"
 #include "query/colShowSQLSentences.h"
+#include "query/conditions/Conditions.h"
+#include "query/derivation/SqlText.h"
 
 #include <QtCore/QElapsedTimer>
 

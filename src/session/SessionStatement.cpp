@@ -1,5 +1,5 @@
 #include "ado/Error.h"
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 #include "session/HostEvents.h"
 #include "session/Questions.h"
 #include "session/ResultWatch.h"
