@@ -1,7 +1,7 @@
-#include "query/Conditions.h"
-#include "query/Derivation.h"
-#include "query/SqlText.h"
 #include "query/colShowSQLSentences.h"
+#include "query/conditions/Conditions.h"
+#include "query/derivation/Derivation.h"
+#include "query/derivation/SqlText.h"
 
 #include <QtCore/QElapsedTimer>
 

@@ -1,7 +1,7 @@
 #include "ado/MiddleTier.h"
 
 #include "ado/ConnectionString.h"
-#include "ado/OleDbDrivers.h"
+#include "ado/connection/OleDbDrivers.h"
 
 #include <QtCore/QStringList>
 

@@ -1,8 +1,8 @@
 #include "ado/Connection.h"
 #include "ado/Error.h"
-#include "ado/RecordsetPrivate.h"
 #include "ado/Texts.h"
 #include "ado/providers/Provider.h"
+#include "ado/recordset/RecordsetPrivate.h"
 
 #include <new>
 

@@ -3,9 +3,9 @@
 #include "ado/Connection.h"
 #include "ado/ConnectionFactory.h"
 #include "ado/ConnectionString.h"
-#include "ado/EngineOf.h"
 #include "ado/Error.h"
 #include "ado/Recordset.h"
+#include "ado/connection/EngineOf.h"
 #include "filter/FilterSql.h"
 #include "sql/Names.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "filter/FilterCondition.h"
-#include "query/Derivation.h"
+#include "query/derivation/Derivation.h"
 
 #include <memory>
 #include <vector>

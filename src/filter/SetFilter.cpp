@@ -4,7 +4,7 @@
 #include "filter/FilterRows.h"
 #include "filter/FilterTexts.h"
 #include "forms/FlatCmd.h"
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtGui/QGuiApplication>

@@ -3,7 +3,7 @@
 #include "filter/FilterTexts.h"
 #include "filter/SetFilter.h"
 #include "filter/frm_Filter.h"
-#include "query/Conditions.h"
+#include "query/conditions/Conditions.h"
 
 namespace KOVAVSFDataGridLib {
 

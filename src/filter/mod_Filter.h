@@ -1,7 +1,7 @@
 #pragma once
 
-#include "query/Derivation.h"
 #include "query/FilterTableName.h"
+#include "query/derivation/Derivation.h"
 #include "sql/AllDBType.h"
 
 #include <QtCore/QPointer>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "query/FieldChooser.h"
+#include "query/fields/FieldChooser.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QIcon>

@@ -2,9 +2,9 @@
 
 #include "forms/FieldCombo.h"
 #include "forms/FormTexts.h"
-#include "query/FindText.h"
 #include "query/QueryTexts.h"
-#include "query/colDataFields.h"
+#include "query/conditions/FindText.h"
+#include "query/fields/colDataFields.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QComboBox>

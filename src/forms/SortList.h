@@ -1,6 +1,6 @@
 #pragma once
 
-#include "query/SelectionText.h"
+#include "query/conditions/SelectionText.h"
 
 #include <QtWidgets/QTreeWidget>
 

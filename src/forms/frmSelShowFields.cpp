@@ -5,7 +5,7 @@
 #include "forms/GradualControl.h"
 #include "forms/Messages.h"
 #include "forms/TextWidth.h"
-#include "query/SelectionText.h"
+#include "query/conditions/SelectionText.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "forms/SelectionDialog.h"
-#include "query/FieldChooser.h"
+#include "query/fields/FieldChooser.h"
 
 #include <QtCore/QStringList>
 

@@ -1,6 +1,6 @@
 #include "pages/PartFields.h"
 
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 #include "sql/SelectParts.h"
 
 #include <QtCore/QRegularExpression>

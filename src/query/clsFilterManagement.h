@@ -1,7 +1,7 @@
 #pragma once
 
-#include "query/clsTableFieldManager.h"
 #include "query/colShowSQLSentences.h"
+#include "query/fields/clsTableFieldManager.h"
 
 namespace KOVAVSFDataGridLib {
 

@@ -1,6 +1,6 @@
 #include "query/clsShowSQLSentence.h"
 
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 
 namespace KOVAVSFDataGridLib {
 

@@ -1,6 +1,6 @@
 #include "query/colShowSQLSentences.h"
 
-#include "query/FieldNames.h"
+#include "query/fields/FieldNames.h"
 #include "sql/Names.h"
 #include "sql/SqlScanner.h"
 

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "query/DerivationMemo.h"
-#include "query/FieldReader.h"
 #include "query/KeyedList.h"
-#include "query/SqlText.h"
 #include "query/clsShowSQLSentence.h"
-#include "query/colDataFields.h"
+#include "query/derivation/Derivation.h"
+#include "query/derivation/DerivationMemo.h"
+#include "query/derivation/SqlText.h"
+#include "query/fields/FieldReader.h"
+#include "query/fields/colDataFields.h"
 #include "sql/AllDBType.h"
 
 namespace KOVAVSFDataGridLib {

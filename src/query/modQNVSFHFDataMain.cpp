@@ -1,7 +1,7 @@
 #include "query/modQNVSFHFDataMain.h"
 
 #include "query/CharText.h"
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 
 #include <stdexcept>
 

@@ -1,11 +1,11 @@
 #include "session/ConnectionFieldReader.h"
 
 #include "ado/Connection.h"
-#include "ado/EngineOf.h"
 #include "ado/Error.h"
 #include "ado/Fields.h"
+#include "ado/connection/EngineOf.h"
 #include "query/SharedValues.h"
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 #include "session/ResultSet.h"
 
 #include <exception>

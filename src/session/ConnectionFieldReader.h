@@ -1,6 +1,6 @@
 #pragma once
 
-#include "query/FieldReader.h"
+#include "query/fields/FieldReader.h"
 
 #include <QtCore/QHash>
 

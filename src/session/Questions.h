@@ -1,8 +1,8 @@
 #pragma once
 
 #include "export/ExportFormat.h"
-#include "query/Derivation.h"
-#include "query/FieldChooser.h"
+#include "query/derivation/Derivation.h"
+#include "query/fields/FieldChooser.h"
 
 #include <memory>
 

@@ -3,8 +3,8 @@
 #include "ado/Adodc.h"
 #include "ado/Connection.h"
 #include "ado/ConnectionFactory.h"
-#include "ado/EngineOf.h"
 #include "ado/Recordset.h"
+#include "ado/connection/EngineOf.h"
 #include "query/SharedValues.h"
 
 #include <QtCore/QCoreApplication>

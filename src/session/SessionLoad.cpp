@@ -1,6 +1,6 @@
 #include "ado/ConnectionFactory.h"
 #include "ado/Recordset.h"
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 #include "session/HostEvents.h"
 #include "session/Questions.h"
 #include "session/ResultWatch.h"

@@ -1,7 +1,7 @@
 #include "OdbcEngines.h"
 
 #include "ado/ConnectionString.h"
-#include "ado/OdbcCatalogue.h"
+#include "ado/connection/OdbcCatalogue.h"
 #include "servers/OdbcSession.h"
 
 #include <QtCore/QFile>

@@ -3,7 +3,7 @@
 #include "Throwing.h"
 
 #include "ado/ConnectionString.h"
-#include "ado/OdbcCatalogue.h"
+#include "ado/connection/OdbcCatalogue.h"
 #include "ado/providers/odbc/OdbcHandle.h"
 #include "servers/OdbcSession.h"
 

@@ -1,8 +1,8 @@
 // Connection strings of OLE DB providers in the words of the ODBC drivers that a system has.
 #include "Throwing.h"
 
-#include "ado/OleDbDrivers.h"
-#include "ado/OleDbWords.h"
+#include "ado/connection/OleDbDrivers.h"
+#include "ado/connection/OleDbWords.h"
 
 using namespace ADODB;
 using namespace Qt::StringLiterals;

@@ -3,8 +3,8 @@
 
 #include "ado/Connection.h"
 #include "ado/ConnectionFactory.h"
-#include "ado/OdbcCatalogue.h"
 #include "ado/Recordset.h"
+#include "ado/connection/OdbcCatalogue.h"
 #include "support/Dialogs.h"
 #include "support/MessageAnswers.h"
 #include "support/TestDatabase.h"

@@ -3,8 +3,8 @@
 
 #include "ado/Connection.h"
 #include "ado/Recordset.h"
-#include "query/Conditions.h"
-#include "query/SqlText.h"
+#include "query/conditions/Conditions.h"
+#include "query/derivation/SqlText.h"
 #include "sql/Names.h"
 #include "support/TestDatabase.h"
 

@@ -1,6 +1,6 @@
 #include "forms/FindDialog.h"
 
-#include "query/colDataFields.h"
+#include "query/fields/colDataFields.h"
 #include "support/Dialogs.h"
 
 #include <QtGui/QClipboard>

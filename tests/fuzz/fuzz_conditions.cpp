@@ -1,9 +1,9 @@
 #include "FuzzInput.h"
 
-#include "query/Conditions.h"
 #include "query/FilterTableName.h"
-#include "query/FindText.h"
-#include "query/SelectionText.h"
+#include "query/conditions/Conditions.h"
+#include "query/conditions/FindText.h"
+#include "query/conditions/SelectionText.h"
 
 #include <vector>
 

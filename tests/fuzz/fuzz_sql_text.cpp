@@ -1,8 +1,8 @@
 #include "FuzzInput.h"
 
-#include "query/FieldNames.h"
-#include "query/SqlText.h"
 #include "query/clsStringComFuncs.h"
+#include "query/derivation/SqlText.h"
+#include "query/fields/FieldNames.h"
 #include "query/modQNVSFHFDataMain.h"
 #include "sql/Names.h"
 

@@ -3,8 +3,8 @@
 #include "JourneyDatabase.h"
 
 #include "ado/Connection.h"
-#include "ado/EngineOf.h"
 #include "ado/Recordset.h"
+#include "ado/connection/EngineOf.h"
 #include "filter/FilterCondition.h"
 #include "filter/FilterSource.h"
 

@@ -1,4 +1,4 @@
-#include "query/colDataFields.h"
+#include "query/fields/colDataFields.h"
 
 #include "CaseFile.h"
 

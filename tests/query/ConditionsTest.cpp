@@ -1,4 +1,4 @@
-#include "query/Conditions.h"
+#include "query/conditions/Conditions.h"
 
 #include "CaseFile.h"
 #include "query/QueryTexts.h"

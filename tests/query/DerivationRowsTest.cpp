@@ -1,5 +1,5 @@
 // What is derived from any SELECT has the rows, in their order, that a loop over the SELECT's own rows takes.
-#include "query/Derivation.h"
+#include "query/derivation/Derivation.h"
 
 #include "CaseFile.h"
 #include "SampleDatabase.h"

@@ -1,13 +1,13 @@
 // The statements of statements.cases on database servers, as far as those take them: what is derived has the
 // rows that a loop over the statement's own rows takes.
-#include "query/Derivation.h"
+#include "query/derivation/Derivation.h"
 
 #include "CaseFile.h"
 #include "ado/Connection.h"
-#include "ado/EngineOf.h"
 #include "ado/Error.h"
 #include "ado/Recordset.h"
-#include "query/Conditions.h"
+#include "ado/connection/EngineOf.h"
+#include "query/conditions/Conditions.h"
 #include "servers/OdbcSession.h"
 #include "servers/Servers.h"
 #include "sql/Literals.h"

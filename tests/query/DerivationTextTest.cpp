@@ -1,5 +1,5 @@
 // What engines without a server here are given.
-#include "query/Derivation.h"
+#include "query/derivation/Derivation.h"
 
 #include "query/QueryTexts.h"
 

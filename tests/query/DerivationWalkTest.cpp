@@ -4,7 +4,7 @@
 
 #include "CaseFile.h"
 #include "SampleDatabase.h"
-#include "query/Conditions.h"
+#include "query/conditions/Conditions.h"
 
 #include <QtCore/QSet>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // What conditions look like on engines that compare values in their own way.
-#include "query/Conditions.h"
+#include "query/conditions/Conditions.h"
 
 #include <gtest/gtest.h>
 

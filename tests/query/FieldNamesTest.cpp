@@ -1,4 +1,4 @@
-#include "query/FieldNames.h"
+#include "query/fields/FieldNames.h"
 
 #include "CaseFile.h"
 

@@ -1,7 +1,7 @@
-#include "query/SelectionText.h"
+#include "query/conditions/SelectionText.h"
 #include "query/FilterTableName.h"
-#include "query/FindText.h"
 #include "query/QueryTexts.h"
+#include "query/conditions/FindText.h"
 
 #include "CaseFile.h"
 

@@ -1,6 +1,6 @@
-#include "query/Derivation.h"
-#include "query/FieldNames.h"
-#include "query/SqlText.h"
+#include "query/derivation/Derivation.h"
+#include "query/derivation/SqlText.h"
+#include "query/fields/FieldNames.h"
 #include "sql/Names.h"
 
 #include "CaseFile.h"

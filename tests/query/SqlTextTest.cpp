@@ -1,4 +1,4 @@
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 
 #include "CaseFile.h"
 

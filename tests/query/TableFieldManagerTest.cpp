@@ -1,4 +1,4 @@
-#include "query/clsTableFieldManager.h"
+#include "query/fields/clsTableFieldManager.h"
 
 #include "CaseFile.h"
 #include "MemorySource.h"

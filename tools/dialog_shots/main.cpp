@@ -14,7 +14,7 @@
 #include "pages/PageDialog.h"
 #include "pages/PropertyPage.h"
 #include "pages/PropertyPages.h"
-#include "query/colDataFields.h"
+#include "query/fields/colDataFields.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QLibraryInfo>

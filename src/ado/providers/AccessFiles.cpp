@@ -1,7 +1,7 @@
 #include "ado/providers/AccessFiles.h"
 
 #include "ado/ConnectionString.h"
-#include "ado/OleDbDrivers.h"
+#include "ado/connection/OleDbDrivers.h"
 #include "ado/providers/DatabaseFile.h"
 
 using namespace Qt::Literals::StringLiterals;

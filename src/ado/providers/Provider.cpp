@@ -2,8 +2,8 @@
 
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
-#include "ado/OleDbDrivers.h"
 #include "ado/Texts.h"
+#include "ado/connection/OleDbDrivers.h"
 
 #include <algorithm>
 #include <iterator>

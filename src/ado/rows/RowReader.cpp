@@ -1,6 +1,6 @@
 #include "ado/rows/RowReader.h"
 
-#include "ado/RecordsetPrivate.h"
+#include "ado/recordset/RecordsetPrivate.h"
 
 namespace ADODB {
 

@@ -3,7 +3,7 @@
 #include "ado/Connection.h"
 #include "ado/ConnectionFactory.h"
 #include "ado/Error.h"
-#include "ado/OdbcCatalogue.h"
+#include "ado/connection/OdbcCatalogue.h"
 #include "control/connection/ConnectionBuilder.h"
 #include "control/connection/ConnectionTexts.h"
 #include "forms/Messages.h"

@@ -6,7 +6,7 @@
 #include "control/parts/GridToolbar.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 #include "query/modQNVSFHFDataMain.h"
 #include "session/commands/CommandKeys.h"
 

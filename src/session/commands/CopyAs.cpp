@@ -1,6 +1,6 @@
 #include "ado/Recordset.h"
 #include "export/TableMimeData.h"
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 #include "session/LongWork.h"
 #include "session/Session.h"
 #include "session/SessionMessages.h"

@@ -1,5 +1,5 @@
 #include "ado/Recordset.h"
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 #include "session/ExportResult.h"
 #include "session/LongWork.h"
 #include "session/ResultWatch.h"

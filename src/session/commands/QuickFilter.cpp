@@ -1,5 +1,5 @@
 #include "ado/Recordset.h"
-#include "query/Conditions.h"
+#include "query/conditions/Conditions.h"
 #include "session/FilterManagerRollback.h"
 #include "session/Questions.h"
 #include "session/Session.h"

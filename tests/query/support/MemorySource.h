@@ -1,7 +1,7 @@
 #pragma once
 
-#include "query/FieldChooser.h"
-#include "query/FieldReader.h"
+#include "query/fields/FieldChooser.h"
+#include "query/fields/FieldReader.h"
 
 #include <QtCore/QHash>
 

@@ -1,5 +1,5 @@
 #include "cases/Sequences.h"
-#include "query/colDataFields.h"
+#include "query/fields/colDataFields.h"
 
 #include <functional>
 

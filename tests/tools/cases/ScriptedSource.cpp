@@ -1,7 +1,7 @@
 #include "cases/ScriptedSource.h"
 
 #include "cases/Arguments.h"
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 
 namespace KovaTest {
 

@@ -1,14 +1,14 @@
 #include "cases/TextCases.h"
 
 #include "cases/ScriptedSource.h"
-#include "query/Conditions.h"
-#include "query/FieldNames.h"
 #include "query/FilterTableName.h"
-#include "query/FindText.h"
-#include "query/SelectionText.h"
-#include "query/SqlText.h"
 #include "query/clsFilterManagement.h"
 #include "query/clsStringComFuncs.h"
+#include "query/conditions/Conditions.h"
+#include "query/conditions/FindText.h"
+#include "query/conditions/SelectionText.h"
+#include "query/derivation/SqlText.h"
+#include "query/fields/FieldNames.h"
 #include "query/modQNVSFHFDataMain.h"
 
 namespace KovaTest {

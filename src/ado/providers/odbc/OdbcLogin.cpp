@@ -2,8 +2,8 @@
 
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
-#include "ado/OdbcCatalogue.h"
 #include "ado/Texts.h"
+#include "ado/connection/OdbcCatalogue.h"
 
 #include <QtCore/QFileInfo>
 

@@ -2,10 +2,10 @@
 
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
-#include "ado/OdbcCatalogue.h"
-#include "ado/OleDbDrivers.h"
-#include "ado/OleDbWords.h"
 #include "ado/Texts.h"
+#include "ado/connection/OdbcCatalogue.h"
+#include "ado/connection/OleDbDrivers.h"
+#include "ado/connection/OleDbWords.h"
 #include "ado/providers/odbc/OdbcHandle.h"
 #include "ado/providers/odbc/OdbcLogin.h"
 #include "ado/providers/odbc/OdbcSession.h"

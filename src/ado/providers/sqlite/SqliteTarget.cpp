@@ -1,10 +1,10 @@
 #include "ado/providers/sqlite/SqliteTarget.h"
 
 #include "ado/Error.h"
-#include "ado/ReadOnlyReason.h"
 #include "ado/Texts.h"
 #include "ado/providers/sqlite/SqliteDigest.h"
 #include "ado/providers/sqlite/SqliteSession.h"
+#include "ado/recordset/ReadOnlyReason.h"
 #include "sql/SimpleSelect.h"
 #include "sql/SqlScanner.h"
 

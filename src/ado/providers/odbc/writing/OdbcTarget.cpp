@@ -1,10 +1,10 @@
 #include "ado/providers/odbc/writing/OdbcTarget.h"
 
-#include "ado/ReadOnlyReason.h"
 #include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcEngine.h"
 #include "ado/providers/odbc/OdbcHandle.h"
 #include "ado/providers/odbc/writing/OdbcTable.h"
+#include "ado/recordset/ReadOnlyReason.h"
 #include "ado/values/FieldValue.h"
 #include "sql/SimpleSelect.h"
 #include "sql/SqlScanner.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ado/OleDbDrivers.h"
+#include "ado/connection/OleDbDrivers.h"
 
 namespace ADODB {
 

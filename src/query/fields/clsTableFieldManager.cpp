@@ -1,6 +1,6 @@
-#include "query/clsTableFieldManager.h"
+#include "query/fields/clsTableFieldManager.h"
 
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 #include "sql/Names.h"
 
 namespace KOVAVSFDataGridLib {

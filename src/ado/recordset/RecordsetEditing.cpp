@@ -1,4 +1,4 @@
-#include "ado/RecordsetPrivate.h"
+#include "ado/recordset/RecordsetPrivate.h"
 #include "ado/values/FieldValue.h"
 
 #include <new>

@@ -1,4 +1,4 @@
-#include "ado/RecordsetPrivate.h"
+#include "ado/recordset/RecordsetPrivate.h"
 
 // The members of Recordset that move the current record or say where it is.
 

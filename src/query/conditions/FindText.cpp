@@ -1,4 +1,4 @@
-#include "query/FindText.h"
+#include "query/conditions/FindText.h"
 
 #include "query/CharText.h"
 #include "query/QueryTexts.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "query/FieldChooser.h"
-#include "query/FieldReader.h"
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
+#include "query/fields/FieldChooser.h"
+#include "query/fields/FieldReader.h"
 #include "sql/SelectParts.h"
 
 #include <QtCore/QHash>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "query/KeyedList.h"
-#include "query/clsDataField.h"
+#include "query/fields/clsDataField.h"
 
 #include <QtCore/QStringList>
 

@@ -1,4 +1,4 @@
-#include "query/Derivation.h"
+#include "query/derivation/Derivation.h"
 
 #include "query/CharText.h"
 #include "query/QueryTexts.h"

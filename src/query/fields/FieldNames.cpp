@@ -1,7 +1,7 @@
-#include "query/FieldNames.h"
+#include "query/fields/FieldNames.h"
 
 #include "query/CharText.h"
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 
 namespace KOVAVSFDataGridLib {
 

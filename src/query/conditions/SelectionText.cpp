@@ -1,8 +1,8 @@
-#include "query/SelectionText.h"
+#include "query/conditions/SelectionText.h"
 
 #include "query/CharText.h"
 #include "query/QueryTexts.h"
-#include "query/SqlText.h"
+#include "query/derivation/SqlText.h"
 
 #include <QtCore/QSet>
 

@@ -1,9 +1,9 @@
-#include "ado/OleDbSqlServer.h"
+#include "ado/connection/OleDbSqlServer.h"
 
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
-#include "ado/OleDbKeywords.h"
 #include "ado/Texts.h"
+#include "ado/connection/OleDbKeywords.h"
 
 #include <QtCore/QRegularExpression>
 

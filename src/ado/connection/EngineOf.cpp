@@ -1,4 +1,4 @@
-#include "ado/EngineOf.h"
+#include "ado/connection/EngineOf.h"
 
 #include "ado/Connection.h"
 

@@ -1,4 +1,4 @@
-#include "query/DerivationMemo.h"
+#include "query/derivation/DerivationMemo.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "ado/ReadOnlyReason.h"
+#include "ado/recordset/ReadOnlyReason.h"
 
 #include "ado/Texts.h"
 

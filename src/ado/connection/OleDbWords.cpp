@@ -1,9 +1,9 @@
-#include "ado/OleDbWords.h"
+#include "ado/connection/OleDbWords.h"
 
 #include "ado/Error.h"
-#include "ado/OleDbKeywords.h"
-#include "ado/OleDbSqlServer.h"
 #include "ado/Texts.h"
+#include "ado/connection/OleDbKeywords.h"
+#include "ado/connection/OleDbSqlServer.h"
 #include "ado/providers/AccessFiles.h"
 
 #include <algorithm>

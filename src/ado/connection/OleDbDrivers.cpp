@@ -1,4 +1,4 @@
-#include "ado/OleDbDrivers.h"
+#include "ado/connection/OleDbDrivers.h"
 
 #include "ado/Texts.h"
 

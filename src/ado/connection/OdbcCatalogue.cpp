@@ -1,4 +1,4 @@
-#include "ado/OdbcCatalogue.h"
+#include "ado/connection/OdbcCatalogue.h"
 
 #include "ado/providers/odbc/OdbcApi.h"
 

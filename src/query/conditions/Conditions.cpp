@@ -1,4 +1,4 @@
-#include "query/Conditions.h"
+#include "query/conditions/Conditions.h"
 
 #include "query/CharText.h"
 #include "query/QueryTexts.h"

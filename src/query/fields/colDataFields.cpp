@@ -1,6 +1,6 @@
-#include "query/colDataFields.h"
+#include "query/fields/colDataFields.h"
 
-#include "query/FieldNames.h"
+#include "query/fields/FieldNames.h"
 
 #include <algorithm>
 

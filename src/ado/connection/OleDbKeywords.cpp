@@ -1,4 +1,4 @@
-#include "ado/OleDbKeywords.h"
+#include "ado/connection/OleDbKeywords.h"
 
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "query/Derivation.h"
+#include "query/derivation/Derivation.h"
 
 #include <list>
 #include <memory>
