@@ -1,4 +1,5 @@
 #include "control/parts/ToolbarIcons.h"
+#include "session/commands/Command.h"
 
 #include <QtCore/QSet>
 #include <QtGui/QGuiApplication>
@@ -7,18 +8,10 @@
 #include <QtGui/QPalette>
 #include <gtest/gtest.h>
 
+using KOVAVSFDataGridLib::Command;
 using KOVAVSFDataGridLib::toolbarIcon;
 
 namespace {
-
-const QStringList Keys{
-    QStringLiteral("All"),         QStringLiteral("Part"),       QStringLiteral("SingleRecord"),
-    QStringLiteral("AllRecord"),   QStringLiteral("Filter"),     QStringLiteral("Sort"),
-    QStringLiteral("First"),       QStringLiteral("Previous"),   QStringLiteral("Next"),
-    QStringLiteral("Last"),        QStringLiteral("FullScreen"), QStringLiteral("ToPreview"),
-    QStringLiteral("ToOrigin"),    QStringLiteral("FromResult"), QStringLiteral("CompressView"),
-    QStringLiteral("ToFullTable"), QStringLiteral("SelField"),   QStringLiteral("QuickFilter"),
-};
 
 QPalette palette(const QColor &window, const QColor &text, const QColor &disabled, const QColor &highlight)
 {
@@ -66,7 +59,10 @@ protected:
 TEST_F(ToolbarIcons, EveryKeyHasItsOwnPicture)
 {
     QList<QImage> seen;
-    for (const QString &key : Keys) {
+    for (const Command *command : Command::all()) {
+        if (!command->button)
+            continue;
+        const QString &key = command->key;
         const QImage picture = image(key, QSize(16, 16));
         EXPECT_EQ(picture.size(), QSize(16, 16)) << qPrintable(key);
         EXPECT_FALSE(inks(picture).isEmpty()) << qPrintable(key);

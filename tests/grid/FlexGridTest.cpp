@@ -1,11 +1,9 @@
-#include "grid/FlexGrid.h"
+#include "FlexGridFixture.h"
 #include "grid/CellDelegate.h"
 #include "grid/TextCells.h"
-#include "grid/Twips.h"
 
 #include <QtGui/QHelpEvent>
 #include <QtGui/QTextDocumentFragment>
-#include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHeaderView>
@@ -18,31 +16,10 @@
 #include <stdexcept>
 
 using namespace KOVAVSFDataGridLib;
+using namespace KovaTest;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Grid : testing::Test
-{
-    Grid()
-    {
-        auto cells = std::make_unique<TextCells>(101, 6);
-        for (int row = 0; row < cells->rows(); ++row) {
-            for (int col = 0; col < cells->cols(); ++col)
-                cells->setText(row, col, u"r%1c%2"_s.arg(row).arg(col));
-        }
-        grid.resize(500, 300);
-        grid.Show(std::move(cells));
-        grid.show();
-    }
-
-    QPoint centreOf(int row, int col) const
-    {
-        return grid.visualRect(grid.model()->index(row - 1, col - 1)).center();
-    }
-
-    VSFlexGrid grid;
-};
 
 // What a tool tip says where the mouse rests, as it is read.
 QString tipAt(QWidget &viewport, const QPoint &position)
@@ -198,90 +175,6 @@ TEST_F(Grid, TopRowScrollsAndVisibilityFollows)
     EXPECT_FALSE(grid.RowIsVisible(1));
 }
 
-TEST_F(Grid, WidthsAreKeptExactlyInTwips)
-{
-    EXPECT_EQ(grid.ColWidth(2), -1);
-    EXPECT_EQ(grid.ColWidthInUse(2), 960);
-    EXPECT_EQ(grid.columnWidth(1), Twips::toPixels(960, grid));
-    for (const int twips : {1, 100, 961, 967, 5003}) {
-        grid.PutColWidth(2, twips);
-        EXPECT_EQ(grid.ColWidth(2), twips);
-        EXPECT_EQ(grid.columnWidth(1), Twips::toPixels(twips, grid));
-    }
-    grid.PutColWidth(2, -1);
-    EXPECT_EQ(grid.ColWidth(2), -1);
-    EXPECT_EQ(grid.columnWidth(1), Twips::toPixels(960, grid));
-}
-
-TEST_F(Grid, AWidthOfNoneHidesTheColumn)
-{
-    grid.PutColWidth(3, 0);
-    EXPECT_TRUE(grid.isColumnHidden(2));
-    EXPECT_EQ(grid.ColWidth(3), 0);
-    grid.PutColWidth(3, 1500);
-    EXPECT_FALSE(grid.isColumnHidden(2));
-    EXPECT_EQ(grid.columnWidth(2), Twips::toPixels(1500, grid));
-}
-
-TEST_F(Grid, AHiddenCurrentColumnLeavesKeysAndScrollingAlive)
-{
-    grid.PutRow(1);
-    grid.PutCol(1);
-    grid.PutColWidth(1, 0);
-    EXPECT_EQ(grid.Col(), 1);
-    QTest::keyClick(&grid, Qt::Key_Down);
-    EXPECT_EQ(grid.Row(), 2);
-    grid.PutCol(1);
-    EXPECT_EQ(grid.Col(), 1);
-    EXPECT_EQ(grid.Text(), u"r2c1"_s);
-    grid.PutTopRow(60);
-    EXPECT_EQ(grid.TopRow(), 60);
-}
-
-TEST_F(Grid, DraggingAColumnEdgeTellsTheNewWidth)
-{
-    QSignalSpy changed(&grid, &FlexGrid::ColWidthChanged);
-    QHeaderView *header = grid.horizontalHeader();
-    const QPoint edge(header->sectionViewportPosition(1) - 1, header->height() / 2);
-    QTest::mousePress(header->viewport(), Qt::LeftButton, {}, edge);
-    QTest::mouseMove(header->viewport(), edge + QPoint(20, 0));
-    QTest::mouseMove(header->viewport(), edge + QPoint(40, 0));
-    QTest::mouseRelease(header->viewport(), Qt::LeftButton, {}, edge + QPoint(40, 0));
-    ASSERT_FALSE(changed.isEmpty());
-    EXPECT_EQ(changed.last().at(0).toInt(), 1);
-    EXPECT_EQ(grid.ColWidth(1), Twips::fromPixels(grid.columnWidth(0), grid));
-    EXPECT_GT(grid.ColWidth(1), 960);
-}
-
-TEST_F(Grid, RefillingKeepsWidths)
-{
-    grid.PutColWidth(1, 1111);
-    grid.PutColWidth(2, 0);
-    grid.Show(std::make_unique<TextCells>(11, 6));
-    EXPECT_EQ(grid.ColWidth(1), 1111);
-    EXPECT_EQ(grid.columnWidth(0), Twips::toPixels(1111, grid));
-    EXPECT_TRUE(grid.isColumnHidden(1));
-    EXPECT_EQ(grid.ColWidth(3), -1);
-    EXPECT_EQ(grid.Row(), 0);
-}
-
-TEST_F(Grid, HeadingsAreThoseOfTheColumns)
-{
-    EXPECT_EQ(grid.Headings(), QStringList({u"r0c1"_s, u"r0c2"_s, u"r0c3"_s, u"r0c4"_s, u"r0c5"_s}));
-}
-
-TEST_F(Grid, PressingAHeadingSelectsNothingAndMovesNothing)
-{
-    grid.PutRow(3);
-    grid.PutCol(2);
-    const QModelIndexList selected = grid.selectionModel()->selectedIndexes();
-    QHeaderView *header = grid.horizontalHeader();
-    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, {header->sectionPosition(4) + 5, 5});
-    EXPECT_EQ(grid.Row(), 3);
-    EXPECT_EQ(grid.Col(), 2);
-    EXPECT_EQ(grid.selectionModel()->selectedIndexes(), selected);
-}
-
 TEST_F(Grid, AHeadingThatIsCutShowsItsBeginningAndIsWholeInItsToolTip)
 {
     const QString whole = u"WWWW and <b>what</b> comes behind it"_s;
@@ -431,22 +324,6 @@ TEST(CellDelegate, DrawsTheFirstLineAndNoMoreThanCanBeSeen)
     EXPECT_EQ(delegate.displayText(QString(CellDelegate::longestText, u'x'), locale).size(),
               CellDelegate::longestText);
     EXPECT_EQ(delegate.displayText(QString(1000000, u'x'), locale).size(), CellDelegate::longestText + 1);
-}
-
-TEST(MSFlexGrid, TheLastColumnFillsWhateverWidthThereIs)
-{
-    MSFlexGrid grid;
-    QSignalSpy changed(&grid, &FlexGrid::ColWidthChanged);
-    grid.show();
-    for (const int width : {600, 300}) {
-        grid.resize(width, 200);
-        grid.Show(std::make_unique<TextCells>(3, 2));
-        QCoreApplication::processEvents();
-        EXPECT_EQ(grid.ColWidth(1), FlexGrid::useDefaultWidth) << "nobody gave it another";
-        EXPECT_EQ(grid.columnWidth(0) + grid.columnWidth(1), grid.viewport()->width());
-        EXPECT_EQ(grid.horizontalScrollBar()->maximum(), 0);
-    }
-    EXPECT_TRUE(changed.isEmpty());
 }
 
 TEST(MSFlexGrid, BothColumnsAreData)
