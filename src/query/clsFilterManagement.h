@@ -5,6 +5,11 @@
 
 namespace KOVAVSFDataGridLib {
 
+// What clsFilterManagement::GetCurrentSQL20 is asked for.
+enum StatementType : qint32 { FirstStatement = 0, AllFieldsStatement = 1, PartFieldsStatement = 2 };
+// What clsFilterManagement::GetRequirePartSQL keeps of a statement.
+enum StatementParts : qint32 { AllParts = 1, PartsWithoutSort = 2, PartsWithoutCondition = 3 };
+
 // Derives the statement that the control shows. A filter is a whole SELECT statement here. The manager
 // remembers the statements shown, oldest first, and owns the history with its field catalogue. Functions
 // answer True when done and False otherwise, those that answer a text an empty one; none throws.
@@ -68,10 +73,10 @@ public:
     QString GetAllFieldSQL() const { return FieldListWithCurrentSource(m_allFields); }
     QString GetPartFieldSQL() const { return FieldListWithCurrentSource(m_showFields); }
 
-    // Derives a statement and makes it the one shown: 0 the first one, 1 all fields, 2 part fields, 3 back, 4
-    // the user chooses fields, 5 the user chooses a sort. What derives nothing answers the statement shown;
-    // 3, 4 and 5 answer an empty text when there is no way back or the user cancels. GetCurrentSQL20 derives
-    // 1 and 2 from the history's latest entry.
+    // Derives a statement and makes it the one shown: 0 the first one, 1 all fields, 2 part fields (see
+    // StatementType), 3 back, 4 the user chooses fields, 5 the user chooses a sort. What derives nothing
+    // answers the statement shown; 3, 4 and 5 answer an empty text when there is no way back or the user
+    // cancels. GetCurrentSQL20 derives 1 and 2 from the history's latest entry.
     QString GetCurrentSQL(qint32 SQLType);
     QString GetCurrentSQL20(qint32 SQLType);
 
@@ -84,8 +89,8 @@ public:
     bool GetPartShowFields(QString &strRetSelFields);
     bool GetPartSortFields(QString &strRetSelFields);
 
-    // The parts of a statement: 1 all, 2 without the sort, 3 without the condition. Any other choice answers
-    // True with an empty text; an empty statement answers False.
+    // The parts of a statement by a number of StatementParts: 1 all, 2 without the sort, 3 without condition.
+    // Any other choice answers True with an empty text; an empty statement answers False.
     bool GetRequirePartSQL(const QString &strOrgSQL, qint32 lngSelPart, QString &strRetSQL) const;
 
     // The name of the current statement's field at a position counted from 1; empty when there is none.

@@ -124,12 +124,12 @@ bool colShowSQLSentences::RemoveLatestSQL()
     return m_entries.Remove(Count());
 }
 
-bool colShowSQLSentences::GetPreviewSQL(QString &PassFilter, QString &PassKey)
+bool colShowSQLSentences::GetPreviewSQL(QString &PassFilter, QString *PassKey)
 {
     return StepBackTo(std::max<qsizetype>(1, Count() - 1), PassFilter, PassKey);
 }
 
-bool colShowSQLSentences::GetFirstSQL(QString &PassFilter, QString &PassKey)
+bool colShowSQLSentences::GetFirstSQL(QString &PassFilter, QString *PassKey)
 {
     return StepBackTo(1, PassFilter, PassKey);
 }
@@ -281,10 +281,11 @@ std::optional<SQLSentence> colShowSQLSentences::SplitLatest() const
 
 // The step is tried on the entry to go back to before anything is removed, so that a lost connection leaves
 // the user where he is.
-bool colShowSQLSentences::StepBackTo(qsizetype position, QString &PassFilter, QString &PassKey)
+bool colShowSQLSentences::StepBackTo(qsizetype position, QString &PassFilter, QString *PassKey)
 {
     PassFilter.clear();
-    PassKey.clear();
+    if (PassKey)
+        PassKey->clear();
     const clsShowSQLSentence *const target = Item(position);
     if (!target)
         return false;
@@ -293,7 +294,7 @@ bool colShowSQLSentences::StepBackTo(qsizetype position, QString &PassFilter, QS
         return false;
     while (Count() > position)
         m_entries.Remove(Count());
-    return GetLatestSQL(PassFilter, &PassKey);
+    return GetLatestSQL(PassFilter, PassKey);
 }
 
 bool colShowSQLSentences::BringInStepWith(const clsShowSQLSentence &entry, const QString &connectionString)

@@ -76,8 +76,8 @@ public:
     bool RemoveLatestSQL();
     // One step back, and back to the first entry; the first is never removed. When the connection can't be
     // opened, the answer is False and no entry is removed. A part statement that can't be read does no harm.
-    bool GetPreviewSQL(QString &PassFilter, QString &PassKey);
-    bool GetFirstSQL(QString &PassFilter, QString &PassKey);
+    bool GetPreviewSQL(QString &PassFilter, QString *PassKey = nullptr);
+    bool GetFirstSQL(QString &PassFilter, QString *PassKey = nullptr);
 
     // Statements derived from the latest entry; they add no entry. `SQLType` 1 shows all fields, 2 the part
     // fields; any other answers True with an empty statement.
@@ -146,7 +146,7 @@ private:
     const clsShowSQLSentence *Latest() const { return Item(Count()); }
     std::optional<SQLSentence> SplitLatest() const;
     QString WithFieldsOf(const QString &statement, const QString &fieldStatement) const;
-    bool StepBackTo(qsizetype position, QString &PassFilter, QString &PassKey);
+    bool StepBackTo(qsizetype position, QString &PassFilter, QString *PassKey);
     bool BringInStepWith(const clsShowSQLSentence &entry, const QString &connectionString);
     bool FillCatalogue(const QString &connectionString, const QString &statement);
     void WriteCatalogueAsText(const QString &statement);

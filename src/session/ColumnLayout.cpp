@@ -19,31 +19,31 @@ ColumnLayout::ColumnLayout(ColumnView &grid, colShowSQLSentences &history) : m_g
 {
 }
 
-bool ColumnLayout::RecordShowSQL(const QString &strSQL, qint32 lngIsShowAllFields, qint32 vSaveWidths,
+void ColumnLayout::RecordShowSQL(const QString &strSQL, FieldView view, bool savesWidths,
                                  const QString &strCurrPartFields, const QString &strCurrOrderFields,
                                  const QString &connectionString)
 {
     if (strSQL.isEmpty())
-        return false;
-    m_history.AddCurrentSQL(strSQL, lngIsShowAllFields, strCurrPartFields, strCurrOrderFields);
+        return;
+    const bool showsAll = view == FieldView::All;
+    m_history.AddCurrentSQL(strSQL, showsAll ? 1 : 0, strCurrPartFields, strCurrOrderFields);
     m_history.SetConnString(connectionString);
     m_history.GetCurrSQLFieldsStatus();
-    if (vSaveWidths != 0)
-        SaveColumnWidths(1);
-    if (lngIsShowAllFields == 0)
-        ShowPartFieldColumns(1);
-    else
+    if (savesWidths)
+        SaveColumnWidths(HiddenWidths::AsDefault);
+    if (showsAll)
         ShowAllFieldColumns();
-    return true;
+    else
+        ShowPartFieldColumns(PartWidths::Kept);
 }
 
-void ColumnLayout::SaveColumnWidths(qint32 mode)
+void ColumnLayout::SaveColumnWidths(HiddenWidths hidden)
 {
     colDataFields &fields = m_history.DataFields();
     const QStringList headings = m_grid.Headings();
     for (int col = 1; col < m_grid.Cols(); ++col) {
         int width = m_grid.ColWidth(col);
-        if (width == ColumnView::useDefaultWidth || (width == 0 && mode == 1))
+        if (width == ColumnView::useDefaultWidth || (width == 0 && hidden == HiddenWidths::AsDefault))
             width = ColumnView::defaultColWidth;
         QString key;
         if (width >= 1 && fields.GetSelFieldKey(headings.at(col - 1), key))
@@ -51,7 +51,7 @@ void ColumnLayout::SaveColumnWidths(qint32 mode)
     }
 }
 
-void ColumnLayout::ShowPartFieldColumns(qint32 mode)
+void ColumnLayout::ShowPartFieldColumns(PartWidths widths)
 {
     const colDataFields &fields = m_history.DataFields();
     const QStringList headings = m_grid.Headings();
@@ -62,7 +62,7 @@ void ColumnLayout::ShowPartFieldColumns(qint32 mode)
         const QString &name = headings.at(col - 1);
         if (!m_history.IsSelFieldPartField(name)) {
             m_grid.PutColWidth(col, 0);
-        } else if (mode == 1) {
+        } else if (widths == PartWidths::Kept) {
             const clsDataField *field = fields.Find(name);
             if (field && field->FieldWidth >= 1)
                 m_grid.PutColWidth(col, field->FieldWidth);
@@ -85,11 +85,11 @@ void ColumnLayout::ShowAllFieldColumns()
     }
 }
 
-QStringList ColumnLayout::fieldsShownBy(qint32 lngIsShowAllFields) const
+QStringList ColumnLayout::fieldsShownBy(FieldView view) const
 {
     QStringList names;
     for (const clsDataField &field : m_history.DataFields()) {
-        if (lngIsShowAllFields != 0 || field.IsPartField != 0)
+        if (view == FieldView::All || field.IsPartField != 0)
             names.append(field.FieldName);
     }
     return names;

@@ -7,6 +7,15 @@
 
 namespace KOVAVSFDataGridLib {
 
+// Which fields are shown.
+enum class FieldView : qint32 { All = 0, Part = 1 };
+
+// What becomes of a hidden column's width when the widths are kept: nothing, or it is kept as the default
+// one.
+enum class HiddenWidths { Unsaved, AsDefault };
+// Whether the part fields get their kept widths or stay as wide as they are.
+enum class PartWidths { Unchanged, Kept };
+
 class ColumnView;
 class colShowSQLSentences;
 
@@ -22,26 +31,22 @@ public:
     // Both must outlive this object, which is made for the moment.
     ColumnLayout(ColumnView &grid, colShowSQLSentences &history);
 
-    // Records the statement that the grid shows and lays its columns out: all fields when
-    // `lngIsShowAllFields` is not 0, else the part fields. `vSaveWidths` other than 0 takes the grid's
-    // widths over into the new entry first. The texts may be the history's markers for "unchanged". False
-    // when the statement is empty.
-    bool RecordShowSQL(const QString &strSQL, qint32 lngIsShowAllFields, qint32 vSaveWidths,
+    // Records the statement that the grid shows, unless it is empty, and lays its columns out. `savesWidths`
+    // takes the grid's widths over into the new entry first. The texts may be the history's markers for
+    // "unchanged".
+    void RecordShowSQL(const QString &strSQL, FieldView view, bool savesWidths,
                        const QString &strCurrPartFields, const QString &strCurrOrderFields,
                        const QString &connectionString);
 
-    // Keeps the grid's widths in the catalogue. A hidden column is left out, or with mode 1 kept as one of
-    // the default width.
-    void SaveColumnWidths(qint32 mode);
-    // Hides what is no part field; with mode 1 the part fields also get their kept widths. Nothing is hidden
-    // while no column belongs to a part field.
-    void ShowPartFieldColumns(qint32 mode);
+    // Keeps the grid's widths in the catalogue.
+    void SaveColumnWidths(HiddenWidths hidden = HiddenWidths::Unsaved);
+    // Hides what is no part field. Nothing is hidden while no column belongs to a part field.
+    void ShowPartFieldColumns(PartWidths widths);
     // Gives every field its kept width, which shows it. A column without a field keeps its own, unless it is
     // hidden: nothing else could bring it back.
     void ShowAllFieldColumns();
 
-    // The fields that are seen when all are shown, or else the part fields.
-    QStringList fieldsShownBy(qint32 lngIsShowAllFields) const;
+    QStringList fieldsShownBy(FieldView view) const;
     // Whether each of these fields has a column, seen or not.
     bool hasColumnsFor(const QStringList &fields) const;
 

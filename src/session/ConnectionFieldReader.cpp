@@ -1,6 +1,7 @@
 #include "session/ConnectionFieldReader.h"
 
 #include "ado/Connection.h"
+#include "ado/ConnectionFactory.h"
 #include "ado/Error.h"
 #include "ado/Fields.h"
 #include "ado/connection/EngineOf.h"
@@ -35,7 +36,7 @@ ADODB::Connection &ConnectionFieldReader::connect(const QString &connectionStrin
         return *m_result.connection();
     }
     if (!m_own || m_own->State() != ADODB::adStateOpen || m_ownText != connectionString) {
-        auto connection = ResultSet::newConnection(SharedValues::instance().dbType);
+        auto connection = ADODB::ConnectionFactory::connectionFor(SharedValues::instance().dbType);
         connection->PutConnectionString(connectionString);
         connection->Open();
         m_own = std::move(connection);

@@ -4,6 +4,8 @@
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 
+#include <QtCore/QScopedValueRollback>
+
 #include <algorithm>
 
 namespace KOVAVSFDataGridLib {
@@ -46,6 +48,7 @@ bool writeUnderProgress(Session &session, const QString &done, const RecordRange
     if (session.shared.isOpening)
         return false;
     const ResultWatch watch(session);
+    const QScopedValueRollback<bool> opening(session.shared.isOpening, true);
     const auto progress = session.window().beginWriting(done, range.count());
     const auto shouldContinue = [&](qint64 written) {
         return (!progress || progress->shouldContinue(written)) && watch.isUntouched();

@@ -38,7 +38,7 @@ ResultSet::~ResultSet() = default;
 ResultSet::Opened ResultSet::open(const QString &connectionString, const QString &statement, qint32 dbType,
                                   const Progress &progress)
 {
-    auto connection = newConnection(dbType);
+    auto connection = ADODB::ConnectionFactory::connectionFor(dbType);
     auto recordset = ADODB::ConnectionFactory::recordsetFor(dbType);
 
     recordset->PutCursorLocation(ADODB::adUseClient);
@@ -65,11 +65,6 @@ void ResultSet::borrow(Opened opened)
     m_connection = std::move(opened.connection);
     m_recordset = std::move(opened.recordset);
     m_engine = engineOf(m_connection);
-}
-
-std::shared_ptr<ADODB::Connection> ResultSet::newConnection(qint32 dbType)
-{
-    return ADODB::ConnectionFactory::connectionFor(dbType);
 }
 
 bool ResultSet::isConnectedTo(const QString &connectionString) const

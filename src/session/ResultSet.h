@@ -41,8 +41,6 @@ public:
     void replaceBy(Opened opened);
     // Takes a result that belongs to somebody else, and leaves the old one open.
     void borrow(Opened opened);
-    // A closed connection for a database type: plain ones for Access, the others from the factory.
-    static std::shared_ptr<ADODB::Connection> newConnection(qint32 dbType);
 
     // Closes the recordset and the connection, if open; the data control reports it.
     void close();

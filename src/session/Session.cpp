@@ -40,7 +40,7 @@ void Session::detach()
     m_host = &noHost;
     m_notifications = &m_ownNotifications;
     m_isDetached = true;
-    if (m_filter && !m_opener)
+    if (m_filter && !m_rules.worksOnLentResult)
         m_filter->SetFieldChooser(nullptr);
     m_result.borrow({}); // which closes it, unless the host holds it as well
 }
@@ -67,39 +67,27 @@ void Session::setFilterManager(std::shared_ptr<clsFilterManagement> manager)
     m_filter = std::move(manager);
 }
 
-void Session::run(const QString &key)
+void Session::run(const QString &key, ChosenBy by)
 {
     const Command *const command = Command::find(key);
     if (!command)
         qWarning("No command has the key %s", qPrintable(key));
+    const bool isMenuItem = by == ChosenBy::MenuItem;
     perform([&] {
-        if (command && isReady(*command))
-            command->run(*this);
-    });
-}
-
-bool Session::runMenuItem(int index)
-{
-    const Command *const command = Command::findMenuItem(index);
-    bool begins = false;
-    perform([&] {
-        begins = command && m_result.isOpen() && isReady(*command);
-        if (!begins)
+        if (!command || (isMenuItem && !m_result.isOpen()) || !isReady(*command))
             return;
-        if (command->menu.leavesSingleRecord && m_window->isSingleRecordShown())
+        if (isMenuItem && command->menu.leavesSingleRecord && m_window->isSingleRecordShown())
             m_window->showAllRecords();
         command->run(*this);
     });
-    return begins;
 }
 
 // False when what was typed can't be taken or saved, which the user has been told, and when the host, told of
 // it, has taken away what the command was to work on.
 bool Session::isReady(const Command &command)
 {
-    if (!hasGround() || (m_opener && !command.isInViewer))
-        return false;
-    if (!whyNot(command).isEmpty())
+    const bool hasCommand = m_rules.hasAllCommands || command.isInViewer;
+    if (!hasCommand || !hasGround() || !whyNot(command).isEmpty())
         return false;
     const ResultWatch watch(*this);
     if (command.record == Record::IsListedAgain && !commitEdit())
@@ -162,7 +150,7 @@ void Session::layOutColumns()
     if (m_fieldView == FieldView::All)
         columns().ShowAllFieldColumns();
     else
-        columns().ShowPartFieldColumns(1);
+        columns().ShowPartFieldColumns(PartWidths::Kept);
 }
 
 void Session::compressColumns()
@@ -175,10 +163,9 @@ void Session::compressColumns()
 
 void Session::setLastFilter(const QString &condition)
 {
-    if (!m_rules.speaksToHost)
-        return;
-    shared.lastFilter = condition;
-    if (condition.trimmed().isEmpty())
+    if (m_rules.remembersForDialogs)
+        shared.lastFilter = condition;
+    if (m_rules.writesFilter && condition.trimmed().isEmpty())
         writeFilter({});
 }
 

@@ -20,8 +20,8 @@ class HostEvents;
 class Questions;
 class SessionWindow;
 
-// Which fields are shown.
-enum class FieldView : qint32 { All = 0, Part = 1 };
+// What the user has chosen a command by.
+enum class ChosenBy { Button, MenuItem };
 
 // Where a page button leads.
 enum class PageStep { First, Previous, Next, Last };
@@ -55,7 +55,8 @@ class Session : public std::enable_shared_from_this<Session>
 {
 public:
     // How a statement is opened in place of the one that is shown; throws ADODB::Error, and what its own
-    // opening needs. By default through a connection of its own.
+    // opening needs. By default through a connection of its own. The opener of a session that works on a
+    // lent result has replaced that result when it returns.
     using Opener =
         std::function<ResultSet::Opened(const QString &statement, const ResultSet::Progress &progress)>;
 
@@ -100,12 +101,12 @@ public:
     QString whyNot(const Command &command);
     // The same for a kind of statement that a command would derive.
     QString whyNot(DerivationStep step);
-    // Runs the command of a key, whether or not its button is enabled; one that can't run ends silently.
-    void run(const QString &key);
-    // Runs the command of a popup menu's item; true when there is one and it could begin.
-    bool runMenuItem(int index);
+    // Runs the command of a key, whether or not its button is enabled; one that can't run ends silently. One
+    // chosen from the menu needs an open result and shows many records again where its item says so.
+    void run(const QString &key, ChosenBy by = ChosenBy::Button);
     bool isRunning() const { return m_running > 0; }
-    // The whole load, from the host's texts to the first entry of the history. False when it failed.
+    // The whole load, from the host's texts to the first entry of the history. Whether it succeeded and its
+    // result is still open: the host can close it as soon as it hears of it.
     bool load();
     // Makes the page typed into the page box the one that is shown.
     void goToTypedPage(const QString &text);
@@ -126,7 +127,7 @@ public:
     // rememberStatement.
     std::optional<ResultSet::Opened> readForReload(const QString &statement, bool isRemembered);
     // Shows what was read in place of what is shown, from its first page on.
-    void show(const ResultSet::Opened &opened, const QString &statement);
+    void show(const ResultSet::Opened &opened);
     // Both for a statement with one more condition, which becomes the latest entry of the history.
     bool reloadFiltered(const QString &statement, bool isRemembered);
     // The statement shown with one more condition; false when none can be derived.
@@ -231,7 +232,8 @@ private:
                     std::unique_ptr<clsFilterManagement> manager);
     void perform(const std::function<void()> &command);
     bool isReady(const Command &command);
-    bool hasGround() const { return !m_opener || m_filter; }
+    // Whether what it works on is still there.
+    bool hasGround() const { return !m_rules.worksOnLentResult || m_filter; }
     void cancelChanges();
     std::optional<QString> trySave();
 
@@ -256,11 +258,5 @@ private:
     bool m_isDetached = false;
     bool m_isReadOnly = false;
 };
-
-// Whether all fields are shown, as the history writes it.
-inline qint32 GetShowAllFieldsFlag(FieldView view)
-{
-    return view == FieldView::All ? 1 : 0;
-}
 
 } // namespace KOVAVSFDataGridLib

@@ -34,7 +34,7 @@ std::unique_ptr<clsFilterManagement> Session::filterManagerForLoad()
 // Nothing when it can't be, for the reason that the reader gives.
 std::optional<QString> Session::statementToOpen(clsFilterManagement &manager)
 {
-    const QString first = manager.GetCurrentSQL20(0);
+    const QString first = manager.GetCurrentSQL20(FirstStatement);
     // What is missing is reported when the statement is opened.
     if (shared.dbType != dbOracle || texts.connectionString.isEmpty() || first.isEmpty())
         return first;
@@ -73,7 +73,7 @@ bool Session::load()
         break;
     }
     showLoaded(*opened, *statement, std::move(manager));
-    return !m_isDetached;
+    return !m_isDetached && m_result.isOpen();
 }
 
 void Session::showLoaded(const ResultSet::Opened &opened, const QString &statement,
@@ -102,8 +102,9 @@ void Session::showLoaded(const ResultSet::Opened &opened, const QString &stateme
     setFieldView(m_fieldView);
     // The entry keeps what the statement says; what is seen is what the pressed button says.
     const bool isAllFields = statement.trimmed().toUpper().startsWith(u"SELECT *");
-    columns().RecordShowSQL(statement, isAllFields ? 1 : 0, 1, colShowSQLSentences::NoPartField(),
-                            colShowSQLSentences::NoSort(), texts.connectionString);
+    columns().RecordShowSQL(statement, isAllFields ? FieldView::All : FieldView::Part, true,
+                            colShowSQLSentences::NoPartField(), colShowSQLSentences::NoSort(),
+                            texts.connectionString);
     layOutColumns();
     if (columns().columnsFit())
         columns().fitColumns(m_rules.roundWidth);

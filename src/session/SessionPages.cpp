@@ -89,11 +89,11 @@ bool Session::showPage(qint64 page)
 
 void Session::turnToPage(qint64 page)
 {
-    columns().SaveColumnWidths(0);
+    columns().SaveColumnWidths();
     if (!showPage(page))
         return;
     if (m_fieldView == FieldView::Part)
-        columns().ShowPartFieldColumns(0);
+        columns().ShowPartFieldColumns(PartWidths::Unchanged);
     m_window->refreshSingleRecord();
 }
 

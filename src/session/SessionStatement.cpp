@@ -8,18 +8,21 @@
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 
+#include <QtCore/QScopedValueRollback>
+
 // How another statement takes the place of the one that is shown.
 
 namespace KOVAVSFDataGridLib {
 
 void Session::rememberStatement() const
 {
-    if (m_rules.speaksToHost)
+    if (m_rules.remembersForDialogs)
         SharedValues::instance().previousShowStatement = m_statement;
 }
 
 ResultSet::Opened Session::openStatement(const QString &statement, qint32 dbType)
 {
+    const QScopedValueRollback<bool> opening(shared.isOpening, true);
     const auto progress = m_window->beginOpening();
     const auto shouldContinue = [&](qint64 rowsRead) {
         return !m_isDetached && (!progress || progress->shouldContinue(rowsRead));
@@ -37,8 +40,8 @@ Session::Reading Session::readResult(const QString &statement, qint32 dbType,
     QString failure;
     try {
         opened = openStatement(statement, dbType);
-        // The opener of a session that borrows has replaced the result already.
-        return m_opener || watch.isUntouched() ? Reading::Done : Reading::Overtaken;
+        // The opener has replaced a lent result already.
+        return m_rules.worksOnLentResult || watch.isUntouched() ? Reading::Done : Reading::Overtaken;
     } catch (const ADODB::Error &error) {
         failure = error.Description();
     } catch (const std::exception &error) { // from a connection factory of the host's
@@ -69,8 +72,8 @@ std::optional<ResultSet::Opened> Session::readForReload(const QString &statement
         return std::nullopt;
     if (isRemembered)
         rememberStatement();
-    columns().SaveColumnWidths(0);
-    if (!m_rules.speaksToHost)
+    columns().SaveColumnWidths();
+    if (!m_rules.writesFilter)
         return read(statement);
     const ResultWatch watch(*this);
     const auto manager = m_filter;
@@ -84,19 +87,19 @@ std::optional<ResultSet::Opened> Session::readForReload(const QString &statement
     return opened;
 }
 
-void Session::show(const ResultSet::Opened &opened, const QString &statement)
+void Session::show(const ResultSet::Opened &opened)
 {
     const QStringList headingsBefore = m_window->Headings();
-    if (m_opener)
+    if (m_rules.worksOnLentResult)
         m_result.borrow(opened);
     else
         m_result.replaceBy(opened);
-    m_statement = statement;
-    m_reader.remember(texts.connectionString, statement, m_result.recordset()->Fields());
+    m_statement = opened.recordset->Source();
+    m_reader.remember(texts.connectionString, m_statement, m_result.recordset()->Fields());
     m_isRequeried = true;
     showPage(1);
     // Widths belong to fields; the layout that follows gives each its own again.
-    if (m_opener || m_window->Headings() != headingsBefore)
+    if (m_rules.alwaysResetsWidths || m_window->Headings() != headingsBefore)
         m_window->ResetColWidths();
     m_window->refreshSingleRecord();
     m_host->refresh();
@@ -111,7 +114,7 @@ bool Session::reloadFiltered(const QString &statement, bool isRemembered)
         return false;
     }
     const ADODB::Notifications::Hold hold(*m_notifications);
-    show(*opened, m_rules.speaksToHost ? texts.sqlFilter : statement);
+    show(*opened);
     record(m_statement);
     return true;
 }
@@ -127,8 +130,7 @@ bool Session::addCondition(const QString &condition, QString &statement)
 
 void Session::record(const QString &statement, const QString &partFields, const QString &orderFields)
 {
-    columns().RecordShowSQL(statement, GetShowAllFieldsFlag(m_fieldView), 0, partFields, orderFields,
-                            texts.connectionString);
+    columns().RecordShowSQL(statement, m_fieldView, false, partFields, orderFields, texts.connectionString);
 }
 
 bool Session::replaceResult(const ResultSet::Opened &opened)

@@ -19,7 +19,14 @@ int rounded(double twips)
 } // namespace
 
 const WindowRules ControlRules = {
-    .speaksToHost = true,
+    .hasAllCommands = true,
+    .worksOnLentResult = false,
+    .writesFilter = true,
+    .asksHostForCondition = true,
+    .trimsCondition = false,
+    .remembersForDialogs = true,
+    .choosesFieldsWithoutRecords = true,
+    .alwaysResetsWidths = false,
     .alwaysOpensFields = false,
     .narrowsShown = false,
     .movesRecordset = true,
@@ -32,7 +39,14 @@ const WindowRules ControlRules = {
 };
 
 const WindowRules ViewerRules = {
-    .speaksToHost = false,
+    .hasAllCommands = false,
+    .worksOnLentResult = true,
+    .writesFilter = false,
+    .asksHostForCondition = false,
+    .trimsCondition = true,
+    .remembersForDialogs = false,
+    .choosesFieldsWithoutRecords = false,
+    .alwaysResetsWidths = true,
     .alwaysOpensFields = true,
     .narrowsShown = true,
     .movesRecordset = false,

@@ -5,9 +5,23 @@ namespace KOVAVSFDataGridLib {
 // In what the two windows over a session differ. Everything else is the same command.
 struct WindowRules
 {
-    // Reports to the host: SQLFilter and ShowFieldsChange, and asks it for a condition first. The viewer's
-    // host hears of all this when the user has come back.
-    bool speaksToHost;
+    // Every command can run, not only those that say that the viewer has them.
+    bool hasAllCommands;
+    // Result and history belong to another session, which can take both away at any time.
+    bool worksOnLentResult;
+    // SQLFilter is written before its statement is opened, and its host may write another one then. The
+    // viewer's host hears of the last statement when the user has come back.
+    bool writesFilter;
+    // The host is asked for a condition first, and the user only when the host leaves it to him.
+    bool asksHostForCondition;
+    // Blanks around a condition are left out of the statement.
+    bool trimsCondition;
+    // The last statement and condition are kept for the dialogs of the process.
+    bool remembersForDialogs;
+    // "SelField" also works on a result without records.
+    bool choosesFieldsWithoutRecords;
+    // The columns of another statement begin with the default width even when their headings are the same.
+    bool alwaysResetsWidths;
     // "All" and "SelField" open their statement even when each field they need has a column.
     bool alwaysOpensFields;
     // A condition narrows what is shown, through the filter manager; else it is added to the history's entry.

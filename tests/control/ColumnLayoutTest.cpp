@@ -49,11 +49,14 @@ struct Layout : testing::Test
             cells->setText(0, ++col, heading);
         grid.Show(std::move(cells));
     }
-    bool record(const QString &statement, qint32 isAll, qint32 savesWidths, const QString &partFields)
+    // Whether it became an entry of the history.
+    bool record(const QString &statement, FieldView view, bool savesWidths, const QString &partFields)
     {
         history.SetAllFields(Statement);
-        return columns.RecordShowSQL(statement, isAll, savesWidths, partFields, colShowSQLSentences::NoSort(),
-                                     u"x"_s);
+        const auto before = history.Count();
+        columns.RecordShowSQL(statement, view, savesWidths, partFields, colShowSQLSentences::NoSort(),
+                              u"x"_s);
+        return history.Count() == before + 1;
     }
     QList<int> widths() const
     {
@@ -82,7 +85,7 @@ struct Layout : testing::Test
 
 TEST_F(Layout, AnEmptyStatementIsNotRecorded)
 {
-    EXPECT_FALSE(record({}, 1, 1, {}));
+    EXPECT_FALSE(record({}, FieldView::All, true, {}));
     EXPECT_EQ(history.Count(), 0);
 }
 
@@ -90,7 +93,7 @@ TEST_F(Layout, RecordingFillsTheCatalogueAndSavesTheWidthsWhenAsked)
 {
     grid.PutColWidth(2, 1234);
     grid.PutColWidth(3, 0);
-    ASSERT_TRUE(record(Statement, 1, 1, colShowSQLSentences::NoPartField()));
+    ASSERT_TRUE(record(Statement, FieldView::All, true, colShowSQLSentences::NoPartField()));
     EXPECT_EQ(history.Count(), 1);
     EXPECT_EQ(kept(), QList<int>({960, 1234, 960})) << "a default and a hidden width are kept as the default";
     EXPECT_EQ(widths(), QList<int>({960, 1234, 960})) << "all fields are shown";
@@ -100,7 +103,7 @@ TEST_F(Layout, RecordingFillsTheCatalogueAndSavesTheWidthsWhenAsked)
 TEST_F(Layout, RecordingWithoutTheSwitchSavesNothing)
 {
     grid.PutColWidth(2, 1234);
-    ASSERT_TRUE(record(Statement, 1, 0, {}));
+    ASSERT_TRUE(record(Statement, FieldView::All, false, {}));
     EXPECT_EQ(kept(), QList<int>({0, 0, 0}));
     EXPECT_EQ(widths(), QList<int>({-1, 1234, -1})) << "without a saved width a column keeps its own";
 }
@@ -108,15 +111,15 @@ TEST_F(Layout, RecordingWithoutTheSwitchSavesNothing)
 TEST_F(Layout, AColumnDraggedToNothingIsSavedInModeOneAlone)
 {
     grid.PutColWidth(1, 500);
-    ASSERT_TRUE(record(Statement, 1, 1, {}));
+    ASSERT_TRUE(record(Statement, FieldView::All, true, {}));
     grid.PutColWidth(1, 0);
-    columns.SaveColumnWidths(0);
+    columns.SaveColumnWidths();
     EXPECT_EQ(kept(), QList<int>({500, 960, 960}));
     columns.ShowAllFieldColumns();
     EXPECT_EQ(grid.ColWidth(1), 500) << "back with its last width";
 
     grid.PutColWidth(1, 0);
-    columns.SaveColumnWidths(1);
+    columns.SaveColumnWidths(HiddenWidths::AsDefault);
     EXPECT_EQ(kept(), QList<int>({960, 960, 960}));
     columns.ShowAllFieldColumns();
     EXPECT_EQ(grid.ColWidth(1), 960);
@@ -126,28 +129,28 @@ TEST_F(Layout, PartHidesTheOthersAndAllBringsThemBack)
 {
     grid.PutColWidth(1, 500);
     grid.PutColWidth(2, 777);
-    ASSERT_TRUE(record(Statement, 1, 1, {}));
-    ASSERT_TRUE(record(Statement, 0, 0, u"select A,C from T"_s));
+    ASSERT_TRUE(record(Statement, FieldView::All, true, {}));
+    ASSERT_TRUE(record(Statement, FieldView::Part, false, u"select A,C from T"_s));
     EXPECT_EQ(widths(), QList<int>({500, 0, 960}));
-    columns.SaveColumnWidths(0);
+    columns.SaveColumnWidths();
     columns.ShowAllFieldColumns();
     EXPECT_EQ(widths(), QList<int>({500, 777, 960}));
 }
 
 TEST_F(Layout, PartGivesSavedWidthsInModeOneAlone)
 {
-    ASSERT_TRUE(record(Statement, 1, 1, {}));
-    ASSERT_TRUE(record(Statement, 0, 0, u"select A,C from T"_s));
+    ASSERT_TRUE(record(Statement, FieldView::All, true, {}));
+    ASSERT_TRUE(record(Statement, FieldView::Part, false, u"select A,C from T"_s));
     grid.PutColWidth(1, 333);
-    columns.ShowPartFieldColumns(0);
+    columns.ShowPartFieldColumns(PartWidths::Unchanged);
     EXPECT_EQ(widths(), QList<int>({333, 0, 960}));
-    columns.ShowPartFieldColumns(1);
+    columns.ShowPartFieldColumns(PartWidths::Kept);
     EXPECT_EQ(widths(), QList<int>({960, 0, 960}));
 }
 
 TEST_F(Layout, AKeptDefaultWidthIsTheDefault)
 {
-    ASSERT_TRUE(record(Statement, 1, 1, {}));
+    ASSERT_TRUE(record(Statement, FieldView::All, true, {}));
     QString key;
     ASSERT_TRUE(history.DataFields().GetSelFieldKey(u"B"_s, key));
     history.DataFields().Update(key, [](clsDataField &field) { field.FieldWidth = -1; });
@@ -160,7 +163,7 @@ TEST_F(Layout, AColumnWithoutAFieldHasNoSavedWidthAndIsNeverHiddenByAll)
 {
     show({u"A"_s, u"Sum"_s, u"a"_s});
     grid.PutColWidth(2, 888);
-    ASSERT_TRUE(record(Statement, 1, 1, {}));
+    ASSERT_TRUE(record(Statement, FieldView::All, true, {}));
     EXPECT_EQ(kept(), QList<int>({960, 0, 0})) << "names count letter for letter";
     EXPECT_EQ(widths(), QList<int>({960, 888, -1}));
     grid.PutColWidth(2, 0);
@@ -173,21 +176,21 @@ TEST_F(Layout, FieldsOfOneNameAreLaidOutAlike)
     show({u"A"_s, u"A"_s, u"B"_s});
     grid.PutColWidth(1, 100);
     grid.PutColWidth(2, 200);
-    ASSERT_TRUE(record(Statement, 1, 1, {}));
+    ASSERT_TRUE(record(Statement, FieldView::All, true, {}));
     EXPECT_EQ(kept(), QList<int>({200, 960, 0}));
     EXPECT_EQ(widths(), QList<int>({200, 200, 960}));
 }
 
 TEST_F(Layout, NothingIsHiddenWhileNoColumnIsAPartField)
 {
-    ASSERT_TRUE(record(Statement, 1, 1, {}));
-    columns.ShowPartFieldColumns(1);
+    ASSERT_TRUE(record(Statement, FieldView::All, true, {}));
+    columns.ShowPartFieldColumns(PartWidths::Kept);
     EXPECT_EQ(std::ranges::count(widths(), 0), 0);
 }
 
 TEST_F(Layout, FittingSharesTheWidthAmongShownColumnsAndLeavesHiddenOnes)
 {
-    ASSERT_TRUE(record(Statement, 1, 1, {}));
+    ASSERT_TRUE(record(Statement, FieldView::All, true, {}));
     grid.PutColWidth(2, 0);
     columns.fitColumns(ControlRules.roundWidth);
     const int share = (1000 * 15 - 260 - 600) / 3;
@@ -198,7 +201,7 @@ TEST_F(Layout, FittingIntoNoRoomOrWithoutAHistoryChangesNothing)
 {
     columns.fitColumns(ControlRules.roundWidth);
     EXPECT_EQ(widths(), QList<int>({-1, -1, -1}));
-    ASSERT_TRUE(record(Statement, 1, 1, {}));
+    ASSERT_TRUE(record(Statement, FieldView::All, true, {}));
     grid.resize(50, 300);
     columns.fitColumns(ControlRules.roundWidth);
     EXPECT_EQ(widths(), QList<int>({960, 960, 960}));
@@ -207,10 +210,10 @@ TEST_F(Layout, FittingIntoNoRoomOrWithoutAHistoryChangesNothing)
 
 TEST_F(Layout, WidthsDontDriftByBeingSavedAndRestored)
 {
-    ASSERT_TRUE(record(Statement, 1, 1, {}));
+    ASSERT_TRUE(record(Statement, FieldView::All, true, {}));
     grid.PutColWidth(1, 967); // no whole number of pixels
     for (int round = 0; round < 20; ++round) {
-        columns.SaveColumnWidths(0);
+        columns.SaveColumnWidths();
         grid.PutColWidth(1, 0);
         columns.ShowAllFieldColumns();
     }

@@ -184,7 +184,7 @@ TEST_F(HandBack, AColumnOfAnotherFieldIsNotHiddenByTheOneThatWasInItsPlace)
 {
     load(u"select * from T"_s, u"select Name from T"_s);
     forgetWidths();
-    session->columns().ShowPartFieldColumns(0);
+    session->columns().ShowPartFieldColumns(PartWidths::Unchanged);
     ASSERT_EQ(row(0), u"Name"_s);
     session->setFieldView(FieldView::Part);
     chooser.answer = u"[Born],[ID]"_s;

@@ -76,7 +76,7 @@ void LoadedParts::load(const QString &sql, const QString &partStatement, const Q
     filter.SetSQLInitData();
     session->setPage(1);
     session->fillPage();
-    session->columns().RecordShowSQL(statement, 1, 1, colShowSQLSentences::NoPartField(),
+    session->columns().RecordShowSQL(statement, FieldView::All, true, colShowSQLSentences::NoPartField(),
                                      colShowSQLSentences::NoSort(), connection);
 }
 

@@ -85,6 +85,23 @@ TEST_F(Viewer, TheMenusCellFilterKeepsTheRecordsWithThatText)
     EXPECT_TRUE(latestStatement().contains(u"ID like 4"_s)) << "a number stands without quotes";
 }
 
+TEST_F(Viewer, TheCellFiltersShortcutWorksAsInTheControl)
+{
+    load(u"select * from T"_s);
+    show();
+    user.rightClick(5, 2);
+    EXPECT_FALSE(user.menuItem(4)->isEnabled()) << "an empty cell";
+    user.menu().close();
+    viewer.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&viewer));
+    user.grid().setFocus();
+    user.grid().PutRow(4);
+    user.grid().PutCol(2);
+    QTest::keyClick(&user.grid(), Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(user.rows(), 2);
+    EXPECT_TRUE(latestStatement().contains(u"Name like 'Anna'"_s)) << qPrintable(latestStatement());
+}
+
 TEST_F(Viewer, TheMenusCellFilterTellsWhatItCantFilterBy)
 {
     load(u"select * from T"_s);

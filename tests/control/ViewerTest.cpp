@@ -176,7 +176,7 @@ TEST_F(Viewer, ShowsTheKeptWidths)
 {
     load(u"select * from T"_s);
     parts.vsfgDataGrid->PutColWidth(2, 3210);
-    session->columns().SaveColumnWidths(0);
+    session->columns().SaveColumnWidths();
     show();
     EXPECT_EQ(user.grid().ColWidth(2), 3210);
 }

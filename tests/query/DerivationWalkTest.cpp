@@ -238,7 +238,7 @@ private:
     {
         QString statementBefore;
         QString key;
-        ASSERT_TRUE(history().GetPreviewSQL(statementBefore, key));
+        ASSERT_TRUE(history().GetPreviewSQL(statementBefore, &key));
         if (m_shown.size() > 1)
             m_shown.pop_back();
         EXPECT_EQ(static_cast<std::size_t>(history().Count()), m_shown.size());

@@ -128,7 +128,7 @@ TEST_F(HistoryDerivation, AStepBackNeedsNoReadablePartStatement)
     EXPECT_FALSE(history.GetCurrSQLFieldsStatus());
     show(u"select * from Ord where ID = 1"_s);
     QString key;
-    EXPECT_TRUE(history.GetPreviewSQL(next, key));
+    EXPECT_TRUE(history.GetPreviewSQL(next, &key));
     EXPECT_EQ(next, u"select * from Ord"_s);
 }
 

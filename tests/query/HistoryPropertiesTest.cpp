@@ -48,11 +48,11 @@ public:
                 m_entries.pop_back();
             break;
         case 3:
-            ExpectStep(m_history.GetPreviewSQL(statement, key),
+            ExpectStep(m_history.GetPreviewSQL(statement, &key),
                        std::max<std::size_t>(m_entries.size(), 2) - 1, statement, key);
             break;
         case 4:
-            ExpectStep(m_history.GetFirstSQL(statement, key), 1, statement, key);
+            ExpectStep(m_history.GetFirstSQL(statement, &key), 1, statement, key);
             break;
         default:
             if (m_random() % 8 == 0) {
@@ -144,7 +144,7 @@ TEST(HistoryProperties, SteppingBackUndoesEachPush)
         shown.removeLast();
         QString statement;
         QString key;
-        ASSERT_TRUE(history.GetPreviewSQL(statement, key));
+        ASSERT_TRUE(history.GetPreviewSQL(statement, &key));
         ASSERT_EQ(statement, shown.last());
         ASSERT_EQ(history.Count(), shown.size());
     }

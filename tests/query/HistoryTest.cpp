@@ -123,8 +123,8 @@ TEST_F(History, EmptyHistoryAnswersFalse)
     qint32 count = 0;
     EXPECT_FALSE(history.GetLatestSQL(statement, &key));
     EXPECT_FALSE(history.RemoveLatestSQL());
-    EXPECT_FALSE(history.GetPreviewSQL(statement, key));
-    EXPECT_FALSE(history.GetFirstSQL(statement, key));
+    EXPECT_FALSE(history.GetPreviewSQL(statement, &key));
+    EXPECT_FALSE(history.GetFirstSQL(statement, &key));
     EXPECT_FALSE(history.GetNextSQLByFilter(u"a=1"_s, statement));
     EXPECT_FALSE(history.GetNextSQLBySort(u"a"_s, statement));
     EXPECT_FALSE(history.GetNextShowSQL(3, statement));
@@ -136,10 +136,10 @@ TEST_F(History, StepsBackOneEntryButNeverRemovesTheFirst)
 {
     Push(u"a"_s);
     Push(u"b"_s);
-    ASSERT_TRUE(history.GetPreviewSQL(statement, key));
+    ASSERT_TRUE(history.GetPreviewSQL(statement, &key));
     EXPECT_EQ(statement, u"a"_s);
     EXPECT_EQ(key, u"0ForDel"_s);
-    ASSERT_TRUE(history.GetPreviewSQL(statement, key));
+    ASSERT_TRUE(history.GetPreviewSQL(statement, &key));
     EXPECT_EQ(statement, u"a"_s);
     EXPECT_EQ(history.Count(), 1);
 }
@@ -148,7 +148,7 @@ TEST_F(History, GoesBackToTheFirstEntry)
 {
     for (const QString &text : {u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s})
         Push(text);
-    ASSERT_TRUE(history.GetFirstSQL(statement, key));
+    ASSERT_TRUE(history.GetFirstSQL(statement, &key));
     EXPECT_EQ(statement, u"a"_s);
     EXPECT_EQ(key, u"0ForDel"_s);
     EXPECT_EQ(Statements(), QStringList{u"a"_s});
@@ -162,8 +162,8 @@ TEST_F(History, LosingTheConnectionOnTheWayBackKeepsEveryEntry)
     Push(u"a"_s);
     Push(u"b"_s);
     reader.isPluggedIn = false;
-    EXPECT_FALSE(history.GetPreviewSQL(statement, key));
-    EXPECT_FALSE(history.GetFirstSQL(statement, key));
+    EXPECT_FALSE(history.GetPreviewSQL(statement, &key));
+    EXPECT_FALSE(history.GetFirstSQL(statement, &key));
     EXPECT_EQ(statement + key, QString());
     EXPECT_EQ(Statements(), (QStringList{u"a"_s, u"b"_s}));
 }

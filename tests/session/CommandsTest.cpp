@@ -1,6 +1,8 @@
 // What is registered as a command.
 #include "session/commands/Command.h"
 
+#include <QtCore/QFile>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QSet>
 #include <gtest/gtest.h>
 
@@ -13,7 +15,8 @@ TEST(Commands, HaveKeysOfTheirOwn)
     QSet<QString> shortcuts;
     for (const Command *command : Command::all()) {
         EXPECT_FALSE(command->key.isEmpty());
-        EXPECT_FALSE(keys.contains(command->key)) << command->key.toStdString();
+        EXPECT_FALSE(keys.contains(command->key))
+            << "two commands have the key " << command->key.toStdString();
         EXPECT_FALSE(shortcuts.contains(command->shortcut)) << command->key.toStdString();
         EXPECT_TRUE(command->run) << command->key.toStdString();
         keys.insert(command->key);
@@ -23,6 +26,32 @@ TEST(Commands, HaveKeysOfTheirOwn)
                             "Next", "Last", "FullScreen", "ToPreview", "ToOrigin", "FromResult",
                             "CompressView", "ToFullTable", "SelField", "QuickFilter"})
         EXPECT_TRUE(keys.contains(QString::fromLatin1(key))) << key;
+}
+
+// What other code calls a command by is a command.
+TEST(Commands, AreThereForEachNamedKey)
+{
+    QFile header(QStringLiteral(KOVA_SOURCE_DIR "/src/session/commands/CommandKeys.h"));
+    ASSERT_TRUE(header.open(QIODevice::ReadOnly));
+    static const QRegularExpression constant(u"inline const QString (\\w+) = u\"(\\w+)\"_s;"_s);
+    int keys = 0;
+    for (auto found = constant.globalMatch(QString::fromUtf8(header.readAll())); found.hasNext(); ++keys) {
+        const QRegularExpressionMatch match = found.next();
+        EXPECT_EQ(match.captured(1), match.captured(2));
+        EXPECT_TRUE(Command::find(match.captured(2)))
+            << "CommandKeys.h names " << match.captured(2).toStdString() << ", which no command registers";
+    }
+    EXPECT_GT(keys, 5);
+}
+
+TEST(Commands, HaveTheirShortcutsInTheDocument)
+{
+    QFile document(QStringLiteral(KOVA_SOURCE_DIR "/docs/shortcuts.zh-CN.md"));
+    ASSERT_TRUE(document.open(QIODevice::ReadOnly));
+    const QString documented = QString::fromUtf8(document.readAll());
+    for (const Command *command : Command::all())
+        EXPECT_TRUE(command->shortcut.isEmpty() || documented.contains(u"| %1 |"_s.arg(command->shortcut)))
+            << command->key.toStdString() << ' ' << command->shortcut.toStdString();
 }
 
 TEST(Commands, StandAtPlacesOfTheirOwn)
@@ -45,6 +74,12 @@ TEST(Commands, StandAtPlacesOfTheirOwn)
             taken->insert(menu->index);
         }
         EXPECT_TRUE(command->isInViewer || command->viewerMenu.index == 0) << key;
+        for (const MenuItemTexts *menu : {&command->menu, &command->viewerMenu}) {
+            if (!menu->enabledAs.isEmpty()) {
+                const Command *other = Command::find(menu->enabledAs);
+                EXPECT_TRUE(other && other->button) << key << " is enabled as a button that isn't there";
+            }
+        }
     }
     for (const int separator : {3, 7, 10, 13})
         EXPECT_FALSE(items.contains(separator));
@@ -53,9 +88,9 @@ TEST(Commands, StandAtPlacesOfTheirOwn)
 TEST(Commands, AreFoundByKeyAndMenuIndex)
 {
     ASSERT_TRUE(Command::find(u"Sort"_s));
-    EXPECT_EQ(Command::findMenuItem(12), Command::find(u"Sort"_s));
+    EXPECT_EQ(Command::findMenuItem(&Command::menu, 12), Command::find(u"Sort"_s));
     EXPECT_FALSE(Command::find(u"sort"_s)) << "letter case matters";
     EXPECT_FALSE(Command::find(QString()));
-    EXPECT_FALSE(Command::findMenuItem(0));
-    EXPECT_FALSE(Command::findMenuItem(13));
+    EXPECT_FALSE(Command::findMenuItem(&Command::menu, 0));
+    EXPECT_FALSE(Command::findMenuItem(&Command::menu, 13));
 }

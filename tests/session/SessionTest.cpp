@@ -193,6 +193,40 @@ TEST_F(Sessions, ALentResultThatIsTakenAwayEndsTheCommandSilently)
     viewer->detach();
 }
 
+TEST_F(Sessions, ALoadWhoseResultTheHostClosesAtOnceHasNotLoaded)
+{
+    QObject::connect(
+        &adodc, &ADODB::Adodc::RecordsetChangeComplete, &adodc, [this] { session->clear(); },
+        Qt::SingleShotConnection);
+    EXPECT_FALSE(load());
+    EXPECT_FALSE(session->result().isOpen());
+    EXPECT_TRUE(user.messages.isEmpty());
+    EXPECT_TRUE(load());
+}
+
+TEST_F(Sessions, OneStatementIsOpenedAtATimeWithoutAProgressLineToo)
+{
+    ASSERT_TRUE(load());
+    int openings = 0;
+    const auto open = [&](const QString &statement, const ResultSet::Progress &progress) {
+        ++openings;
+        EXPECT_TRUE(SharedValues::instance().isOpening);
+        EXPECT_FALSE(load());
+        return ResultSet::open(database.connectionString(), statement, 1, progress);
+    };
+    const auto viewer = std::make_shared<Session>(window, user, host, ViewerRules, nullptr, open);
+    viewer->setFilterManager(session->sharedFilterManager());
+    viewer->borrow(
+        {database.connectionString(), session->result().connection(), session->result().recordset()},
+        session->statement(), 1);
+    viewer->texts.connectionString = database.connectionString();
+    user.sort = u"Name"_s;
+    viewer->run(u"Sort"_s);
+    EXPECT_EQ(openings, 1);
+    EXPECT_FALSE(SharedValues::instance().isOpening);
+    viewer->detach();
+}
+
 TEST_F(Sessions, AskingForRecordsLeavesTheSharedValuesAlone)
 {
     ASSERT_TRUE(load());

@@ -5,7 +5,6 @@
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
 
-#include <QtCore/QPointer>
 #include <QtGui/QResizeEvent>
 #include <QtWidgets/QDialog>
 
@@ -77,11 +76,11 @@ QSize KOVAVSFDataGrid::sizeHint() const
 void KOVAVSFDataGrid::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    const QPointer<KOVAVSFDataGrid> alive(this);
-    d->singleRecord.editor()
-        .commit(); // before the editor is put away; a text that does not fit is lost from view only
-    if (alive)
-        d->parts.layOut(event->size().width(), event->size().height());
+    const ADODB::Notifications::Hold hold(
+        d->session->notifications()); // it ends last: a host may delete this
+    // Before the editor is put away; a text that does not fit is lost from view only.
+    d->singleRecord.editor().commit();
+    d->parts.layOut(event->size().width(), event->size().height());
 }
 
 void KOVAVSFDataGrid::changeEvent(QEvent *event)

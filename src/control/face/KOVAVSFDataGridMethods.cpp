@@ -26,20 +26,10 @@ using namespace Qt::StringLiterals;
 
 void KOVAVSFDataGrid::Refresh()
 {
-    try {
-        const bool isIncomplete = d->session->texts.connectionString.isEmpty() ||
-                                  d->session->texts.recordSource.trimmed().isEmpty();
-        if (isIncomplete && d->errorHint) {
-            Messages::show(this, GridTexts::NothingToLink, GridTexts::NothingToLinkTitle,
-                           QMessageBox::Critical);
-        }
-    } catch (const std::exception &) {
-        const bool wantsToLook =
-            d->errorHint &&
-            Messages::ask(this, GridTexts::UpdateFailed, GridTexts::UpdateFailedTitle, QMessageBox::NoIcon);
-        if (wantsToLook)
-            d->editText(GridTexts::FindRecordSourceError, d->session->texts.recordSource);
-    }
+    const SessionTexts &texts = d->session->texts;
+    const bool isIncomplete = texts.connectionString.isEmpty() || texts.recordSource.trimmed().isEmpty();
+    if (isIncomplete && d->errorHint)
+        Messages::show(this, GridTexts::NothingToLink, GridTexts::NothingToLinkTitle, QMessageBox::Critical);
 }
 
 // The row is one of page 1, whichever page is shown: there it is the record's number as well.
@@ -126,7 +116,7 @@ void KOVAVSFDataGrid::GetConnection()
 
 void KOVAVSFDataGrid::SetFieldName()
 {
-    d->commands.run(CommandKeys::SelField);
+    d->session->run(CommandKeys::SelField);
 }
 
 void KOVAVSFDataGrid::SetSQLShow()
@@ -147,7 +137,7 @@ void KOVAVSFDataGrid::SetSQLFilter()
 
 void KOVAVSFDataGrid::SetSortFN()
 {
-    d->commands.run(CommandKeys::Sort);
+    d->session->run(CommandKeys::Sort);
 }
 
 void KOVAVSFDataGrid::SetGridCol(const qint32 &Col)

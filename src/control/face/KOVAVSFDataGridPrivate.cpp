@@ -36,6 +36,7 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
 {
     window.setSession(*session);
     window.setSingleRecordView(&singleRecord);
+    window.setMenu(&commands.menu());
     window.setFullScreen([this] {
         ShowFullScreen(q, *session, parts, [this](QWidget *viewer) {
             return DialogQuestions(viewer).askCondition(session->conditionRequest());

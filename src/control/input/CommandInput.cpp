@@ -9,6 +9,7 @@
 #include "control/input/SingleRecordView.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridToolbar.h"
+#include "control/parts/PopupMenu.h"
 #include "grid/FlexGrid.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
@@ -17,7 +18,6 @@
 #include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
 
 #include <algorithm>
@@ -31,7 +31,7 @@ CommandInput::CommandInput(KOVAVSFDataGrid &control, Session &session, GridParts
       m_session(session),
       m_parts(parts),
       m_singleRecord(singleRecord),
-      m_menu(control, *parts.Toolbar1, [&session](const Command &command) { return session.whyNot(command); })
+      m_menu(*new PopupMenu(control, PopupMenu::ofControl, *parts.Toolbar1, session))
 {
     for (QAction *action : parts.Toolbar1->actions()) {
         if (!action->shortcut().isEmpty())
@@ -40,9 +40,12 @@ CommandInput::CommandInput(KOVAVSFDataGrid &control, Session &session, GridParts
     parts.vsfgDataGrid->installEventFilter(this);
     connect(parts.Toolbar1, &GridToolbar::buttonClicked, this, [this](const QString &key) {
         if (m_parts.Toolbar1->isEnabled()) // a shortcut does not know
-            run(key);
+            m_session.run(key);
     });
-    connect(&m_menu, &PopupMenu::PopMnuDataActionClicked, this, &CommandInput::runMenuItem);
+    connect(&m_menu, &PopupMenu::chosen, this, [this](const QString &key) {
+        if (m_parts.Toolbar1->isEnabled())
+            m_session.run(key, ChosenBy::MenuItem);
+    });
     connect(&events, &GridEvents::menuWanted, this, &CommandInput::showMenu);
     connect(&singleRecord, &SingleRecordView::menuWanted, this, &CommandInput::showMenu);
     connect(&singleRecord, &SingleRecordView::cancelWanted, this, [this] { m_session.cancelRecord(); });
@@ -62,25 +65,7 @@ CommandInput::~CommandInput()
     if (!m_session.isRunning())
         return;
     deleteAfterEvent(*m_parts.Toolbar1);
-    deleteAfterEvent(m_menu.menu());
-}
-
-void CommandInput::run(const QString &key)
-{
-    const QPointer<CommandInput> alive(this);
-    m_session.run(key);
-    if (alive)
-        m_menu.PreparePopupMenu();
-}
-
-void CommandInput::runMenuItem(int index)
-{
-    if (!m_parts.Toolbar1->isEnabled())
-        return;
-    const QPointer<CommandInput> alive(this);
-    m_session.runMenuItem(index);
-    if (alive)
-        m_menu.PreparePopupMenu();
+    deleteAfterEvent(m_menu);
 }
 
 void CommandInput::showMenu(const QPoint &position)
@@ -97,7 +82,8 @@ void CommandInput::showMenu(const QPoint &position)
         if (!alive)
             return;
     }
-    m_menu.show(position);
+    m_menu.refresh();
+    m_menu.exec(position);
 }
 
 // The host moved the recordset: the row under the cursor is the record meant.

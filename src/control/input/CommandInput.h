@@ -1,7 +1,5 @@
 #pragma once
 
-#include "control/parts/PopupMenu.h"
-
 #include <QtCore/QObject>
 
 class KOVAVSFDataGrid;
@@ -11,6 +9,7 @@ namespace KOVAVSFDataGridLib {
 
 class GridEvents;
 class GridParts;
+class PopupMenu;
 class Session;
 class SingleRecordView;
 
@@ -28,13 +27,12 @@ public:
     // inside a command, because the button or the item that runs it is still in Qt's hands.
     ~CommandInput() override;
 
-    void run(const QString &key);
+    PopupMenu &menu() { return m_menu; }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void runMenuItem(int index);
     void showMenu(const QPoint &position);
     bool isShortcut(const QKeyEvent &event) const;
     void followRecord();
@@ -44,7 +42,7 @@ private:
     Session &m_session;
     GridParts &m_parts;
     SingleRecordView &m_singleRecord;
-    PopupMenu m_menu;
+    PopupMenu &m_menu;         // the control's
     bool m_isKeyTaken = false; // the host kept the last shortcut from its command
 };
 

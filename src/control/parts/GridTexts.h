@@ -79,9 +79,6 @@ inline const QString AskContinue = u"Continue?"_s;
 inline const QString NothingToLink =
     u"Please Check YOUR CONNECTIONSTRING & RECORDSOURCE,THEIR DON'T BE ALLOWED EMPTY. "_s;
 inline const QString NothingToLinkTitle = u"LINK DATA SOURCE ERROR"_s;
-inline const QString UpdateFailed = u"DATA SOURCE UPDATE FAILED.DO YOU WANT TO CHECK RECORDSOURCE?"_s;
-inline const QString UpdateFailedTitle = u"UPDATE FAILED"_s;
-inline const QString FindRecordSourceError = u"Find RecordSource err:"_s;
 inline const QString FieldListFailed = u"Get selected fields failed!"_s;
 inline const QString FieldListFailedTitle = u"KOVADataGrid"_s;
 inline const QString CantReadAtRunTime = u"Property can't be read at run time"_s;

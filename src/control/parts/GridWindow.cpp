@@ -1,11 +1,11 @@
 #include "control/parts/GridWindow.h"
 
 #include "control/parts/GridToolbar.h"
+#include "control/parts/PopupMenu.h"
 #include "grid/FlexGrid.h"
 #include "grid/GridSelection.h"
 #include "grid/Twips.h"
 #include "session/Session.h"
-#include "session/commands/Command.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
@@ -123,6 +123,8 @@ void GridWindow::refreshCommands()
         if (command->button && command->whyNot)
             m_toolbar.setButtonReason(command->key, m_session->whyNot(*command));
     }
+    if (m_menu)
+        m_menu->refresh();
 }
 
 } // namespace KOVAVSFDataGridLib

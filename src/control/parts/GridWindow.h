@@ -8,6 +8,7 @@ class QWidget;
 namespace KOVAVSFDataGridLib {
 
 class GridToolbar;
+class PopupMenu;
 class Session;
 class VSFlexGrid;
 
@@ -42,11 +43,14 @@ public:
 
     // What it shows; not owned. To be set before anything is shown.
     void setSession(Session &session) { m_session = &session; }
+    // The menu whose items follow the commands; not owned.
+    void setMenu(PopupMenu *menu) { m_menu = menu; }
 
 protected:
     VSFlexGrid &m_grid;
     GridToolbar &m_toolbar;
     Session *m_session = nullptr;
+    PopupMenu *m_menu = nullptr;
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -1,13 +1,11 @@
 #pragma once
 
-#include "query/SharedValues.h"
 #include "session/SessionWindow.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QRect>
-#include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QWidget>
 
 #include <functional>
@@ -23,7 +21,7 @@ namespace KOVAVSFDataGridLib {
 //
 // From then on the application's events are dispatched, so that windows are drawn and timers run, but
 // nothing except the line takes the user's input (a modal dialog that a timer has opened meanwhile does).
-// Only one can live in a process: make none while SharedValues::isOpening.
+// Only one can live in a process; the session that makes it sees to that.
 class LoadProgress final : public QObject, public OpeningProgress
 {
     Q_OBJECT
@@ -46,7 +44,6 @@ private:
     void updateLine(qint64 rowsDone);
     bool isForLine(const QObject &watched, const QEvent &event) const;
 
-    QScopedValueRollback<bool> m_opening{SharedValues::instance().isOpening, true};
     QWidget &m_window;
     const std::function<QRect()> m_place;
     const QString m_done;

@@ -1,69 +1,79 @@
 #include "control/parts/PopupMenu.h"
 
-#include "control/parts/ButtonItem.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/GridToolbar.h"
-#include "control/parts/MenuOfGroup.h"
-#include "session/commands/Command.h"
+#include "control/parts/ToolbarIcons.h"
+#include "session/Session.h"
 
 #include <QtGui/QAction>
-#include <QtWidgets/QMenu>
 
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-PopupMenu::PopupMenu(QWidget &control, const GridToolbar &toolbar,
-                     std::function<QString(const Command &)> whyNot)
-    : m_toolbar(toolbar), m_whyNot(std::move(whyNot)), m_menu(new QMenu(&control))
-{
-    m_menu->setObjectName(u"PopMnuData"_s);
-    m_menu->setAccessibleName(GridTexts::MenuName);
-    const int last = Command::lastMenuIndex(&Command::menu);
-    for (int index = 1; index <= last; ++index)
-        addItem(index, control);
-}
+const PopupMenu::Kind PopupMenu::ofControl{u"PopMnuData"_s, u"PopMnuDataAction%1"_s, &Command::menu};
+const PopupMenu::Kind PopupMenu::ofViewer{u"PopMnu"_s, u"PopMnuAction%1"_s, &Command::viewerMenu};
 
-// An index without a command is a separator.
-void PopupMenu::addItem(int index, QWidget &control)
+PopupMenu::PopupMenu(QWidget &window, const Kind &kind, const GridToolbar &toolbar, Session &session)
+    : QMenu(&window), m_kind(kind), m_toolbar(toolbar), m_session(session)
 {
-    const Command *const command = Command::findMenuItem(index);
-    QAction *action = nullptr;
-    if (!command)
-        action = m_menu->addSeparator();
-    else
-        action = menuOfGroup(*m_menu, command->menu.group).addAction(command->menu.caption);
-    action->setObjectName(u"PopMnuDataAction%1"_s.arg(index));
-    action->setData(index);
-    if (!command)
-        return;
-    connect(action, &QAction::triggered, this, [this, index] { Q_EMIT PopMnuDataActionClicked(index); });
-    if (command->button) {
-        dressAsButton(*action, *command);
-    } else if (!command->shortcut.isEmpty()) {
-        action->setShortcut(QKeySequence(command->shortcut));
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        control.addAction(action);
+    setObjectName(kind.name);
+    setAccessibleName(GridTexts::MenuName);
+    const int last = Command::lastMenuIndex(kind.texts);
+    for (int index = 1; index <= last; ++index) {
+        const Command *const command = Command::findMenuItem(kind.texts, index);
+        QAction *const action = command ? addItem(*command, window) : addSeparator();
+        action->setObjectName(kind.itemName.arg(index));
+        action->setData(index);
+        m_items.push_back(action);
     }
 }
 
-void PopupMenu::PreparePopupMenu()
+// The shortcut of a command with a button stays the button's and is only shown.
+QAction *PopupMenu::addItem(const Command &command, QWidget &window)
 {
-    for (QAction *action : m_menu->actions()) {
-        const Command *const command = Command::findMenuItem(action->data().toInt());
+    const MenuItemTexts &texts = command.*m_kind.texts;
+    const QKeySequence shortcut(command.shortcut);
+    QAction *const action = menuOfGroup(texts.group).addAction(texts.caption);
+    if (command.button) {
+        action->setIcon(toolbarIcon(command.key));
+        action->setText(texts.caption + u'\t' + shortcut.toString(QKeySequence::NativeText));
+    } else if (!shortcut.isEmpty()) {
+        action->setShortcut(shortcut);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        window.addAction(action);
+    }
+    connect(action, &QAction::triggered, this, [this, &command] { Q_EMIT chosen(command.key); });
+    return action;
+}
+
+// The menu for the items of a group: one inside this one, made on first use, or this one itself.
+QMenu &PopupMenu::menuOfGroup(MenuGroup group)
+{
+    if (group == MenuGroup::None)
+        return *this;
+    const QString name = m_kind.name + u"CopyAs"_s;
+    if (auto *made = findChild<QMenu *>(name))
+        return *made;
+    QMenu *const made = addMenu(GridTexts::CopyAsMenu);
+    made->setObjectName(name);
+    made->setAccessibleName(GridTexts::CopyAsName);
+    return *made;
+}
+
+void PopupMenu::refresh(bool hasText)
+{
+    for (QAction *const action : m_items) {
+        const Command *const command = Command::findMenuItem(m_kind.texts, action->data().toInt());
         if (!command)
             continue;
-        const bool isGiven = !command->button || m_toolbar.isButtonEnabled(command->key);
+        const MenuItemTexts &texts = command->*m_kind.texts;
+        const QString button = command->button ? command->key : texts.enabledAs;
         if (command->button)
-            action->setVisible(m_toolbar.isButtonVisible(command->key));
-        action->setEnabled(isGiven && m_whyNot(*command).isEmpty());
+            action->setVisible(m_toolbar.isButtonVisible(button));
+        const bool isGiven = button.isEmpty() || m_toolbar.isButtonEnabled(button);
+        action->setEnabled(isGiven && (hasText || !texts.needsText) && m_session.whyNot(*command).isEmpty());
     }
-}
-
-void PopupMenu::show(const QPoint &position)
-{
-    PreparePopupMenu();
-    m_menu->exec(position);
 }
 
 } // namespace KOVAVSFDataGridLib

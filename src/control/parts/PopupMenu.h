@@ -1,48 +1,51 @@
 #pragma once
 
-#include <QtCore/QObject>
+#include "session/commands/Command.h"
 
-#include <functional>
-
-class QAction;
-class QMenu;
-class QPoint;
-class QWidget;
+#include <QtWidgets/QMenu>
 
 namespace KOVAVSFDataGridLib {
 
 class GridToolbar;
-struct Command;
+class Session;
 
-// PopMnuData: the commands on the data under the pointer, each known by its index from 1 on. An item that
-// repeats a toolbar button is shown and enabled as that button is.
-class PopupMenu : public QObject
+// The commands on the data under the pointer, each item known by its index from 1 on; an index without a
+// command is a separator. An item that repeats a toolbar button is shown and enabled as that button is; the
+// shortcuts of the others work in the whole window.
+class PopupMenu final : public QMenu
 {
     Q_OBJECT
 
 public:
-    // Both must outlive this object. `whyNot` answers why a command can't run, empty when it can.
-    PopupMenu(QWidget &control, const GridToolbar &toolbar,
-              std::function<QString(const Command &command)> whyNot);
+    // The names of a window's menu and of its items, and where a command says what its item is like.
+    struct Kind
+    {
+        QString name;
+        QString itemName;
+        MenuItemTexts Command::*texts;
+    };
+    static const Kind ofControl;
+    static const Kind ofViewer;
 
-    // The menu itself, which the control owns.
-    QMenu &menu() const { return *m_menu; }
+    // `window` owns it. All must outlive this object.
+    PopupMenu(QWidget &window, const Kind &kind, const GridToolbar &toolbar, Session &session);
 
-    // Brings the items in step with the buttons.
-    void PreparePopupMenu();
-    // Shows the menu at a place on the screen until the user has chosen or gone elsewhere.
-    void show(const QPoint &position);
+    // Brings the items in step with the buttons. `hasText` says whether the current cell has one.
+    void refresh(bool hasText = true);
+    QAction &item(int index) const { return *m_items.at(static_cast<std::size_t>(index - 1)); }
 
 Q_SIGNALS:
     // An item was chosen, in the menu or by its shortcut.
-    void PopMnuDataActionClicked(int index);
+    void chosen(const QString &key);
 
 private:
-    void addItem(int index, QWidget &control);
+    QAction *addItem(const Command &command, QWidget &window);
+    QMenu &menuOfGroup(MenuGroup group);
 
+    const Kind &m_kind;
     const GridToolbar &m_toolbar;
-    const std::function<QString(const Command &command)> m_whyNot;
-    QMenu *m_menu;
+    Session &m_session;
+    std::vector<QAction *> m_items; // by index
 };
 
 } // namespace KOVAVSFDataGridLib

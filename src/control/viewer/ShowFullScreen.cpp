@@ -117,7 +117,7 @@ bool ShowFullScreen(QWidget &control, Session &session, GridParts &parts,
         session.window().showAllRecords();
     const GridToolbar &toolbar = *parts.Toolbar1;
     const bool wasAll = toolbar.isButtonPressed(CommandKeys::All);
-    session.columns().SaveColumnWidths(0); // the viewer opens with the widths that the user sees
+    session.columns().SaveColumnWidths(); // the viewer opens with the widths that the user sees
 
     Visit visit(control, session, parts, askCondition);
     frm_FullScreen &viewer = visit.viewer();

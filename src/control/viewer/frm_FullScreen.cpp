@@ -5,10 +5,9 @@
 #include "control/input/MenuKey.h"
 #include "control/parts/DialogQuestions.h"
 #include "control/parts/GridToolbar.h"
-#include "control/viewer/ViewerMenu.h"
+#include "control/parts/PopupMenu.h"
 #include "control/viewer/ViewerTexts.h"
 #include "grid/FlexGrid.h"
-#include "session/Session.h"
 #include "session/commands/CommandKeys.h"
 
 #include <QtGui/QKeyEvent>
@@ -21,6 +20,8 @@ namespace KOVAVSFDataGridLib {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int backIndex = 7; // of the menu's way back to the control
 
 // The condition is asked for by the control, which knows the table.
 class ViewerQuestions final : public DialogQuestions
@@ -47,19 +48,27 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
       m_window(*this, m_parts),
       m_session(std::make_shared<Session>(m_window, *m_questions, m_noHost, ViewerRules, nullptr,
                                           std::move(host.open))),
-      m_menu(new ViewerMenu(this))
+      m_menu(new PopupMenu(*this, PopupMenu::ofViewer, *m_parts.Toolbar1, *m_session))
 {
     m_window.setSession(*m_session);
+    m_window.setMenu(m_menu);
     setObjectName(u"frm_FullScreen"_s);
     setWindowTitle(ViewerTexts::Title);
     fillScreen();
     addActions(m_parts.Toolbar1->actions()); // so that their shortcuts work wherever the keyboard is
-    connect(m_parts.Toolbar1, &GridToolbar::buttonClicked, this, &frm_FullScreen::run);
+    connect(m_parts.Toolbar1, &GridToolbar::buttonClicked, this,
+            [this](const QString &key) { m_session->run(key); });
     connect(m_parts.cmdPgae, &QPushButton::clicked, this,
             [this] { m_session->goToTypedPage(m_parts.txtPage->text()); });
     connect(m_parts.cmdClose, &QPushButton::clicked, this, &QDialog::accept);
-    connect(m_menu, &ViewerMenu::commandChosen, this, &frm_FullScreen::run);
-    connect(m_menu, &ViewerMenu::backChosen, this, &QDialog::accept);
+    connect(m_menu, &PopupMenu::chosen, this,
+            [this](const QString &key) { m_session->run(key, ChosenBy::MenuItem); });
+    // Its items depend on the cell that it was opened on, their shortcuts don't.
+    connect(m_menu, &QMenu::aboutToHide, this, [this] { m_menu->refresh(); });
+    QAction &back = m_menu->item(backIndex);
+    back.setSeparator(false);
+    back.setText(ViewerTexts::Back);
+    connect(&back, &QAction::triggered, this, &QDialog::accept);
     m_parts.vsfgShowData->installEventFilter(this);
     m_parts.vsfgShowData->viewport()->installEventFilter(this);
     m_parts.vsfgShowData->setFocus();
@@ -67,6 +76,7 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
 
 frm_FullScreen::~frm_FullScreen()
 {
+    m_menu->disconnect(this); // it hides when it is deleted
     m_session->detach();
 }
 
@@ -111,6 +121,7 @@ void frm_FullScreen::GetData(const std::shared_ptr<ADODB::Connection> &newConnec
     m_session->borrow({newConnectionString, newConnection, newTable}, NewSQL, nCurPageIndex);
     m_session->layOutColumns();
     m_session->updateRecordPosition();
+    m_menu->refresh();
 }
 
 qint32 frm_FullScreen::GetPageIndex() const
@@ -136,15 +147,6 @@ bool frm_FullScreen::IsRequeried() const
 void frm_FullScreen::SeeCompressView()
 {
     m_session->compressColumns();
-}
-
-void frm_FullScreen::run(const QString &key)
-{
-    const QPointer<frm_FullScreen> alive(this);
-    m_session->run(key);
-    // A click has pressed "All" or "Part" already, whatever came of it.
-    if (alive)
-        m_session->setFieldView(m_session->fieldView());
 }
 
 void frm_FullScreen::showEvent(QShowEvent *event)
@@ -190,7 +192,7 @@ void frm_FullScreen::popUp(const QPoint &globalPosition, bool isOnCell)
     m_session->updateRecordPosition();
     if (!m_session->hasRecords())
         return;
-    m_menu->EnablePopupItems(*m_parts.Toolbar1, isOnCell && !m_parts.vsfgShowData->Text().isEmpty());
+    m_menu->refresh(isOnCell && !m_parts.vsfgShowData->Text().isEmpty());
     m_menu->popup(globalPosition);
 }
 

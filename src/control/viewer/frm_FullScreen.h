@@ -1,10 +1,10 @@
 #pragma once
 
-#include "control/viewer/ViewerHost.h"
 #include "control/viewer/ViewerParts.h"
 #include "control/viewer/ViewerWindow.h"
 #include "session/HostEvents.h"
 #include "session/Questions.h"
+#include "session/Session.h"
 
 #include <QtWidgets/QDialog>
 
@@ -12,9 +12,17 @@
 
 namespace KOVAVSFDataGridLib {
 
-class Session;
-class ViewerMenu;
-class clsFilterManagement;
+class PopupMenu;
+
+// What the viewer asks of the control that opened it.
+struct ViewerHost
+{
+    // Opens a statement in place of the one that is open, both in the control and for the viewer. When that
+    // fails it throws ADODB::Error, and what was open still is.
+    Session::Opener open;
+    // Lets the user build a condition in a dialog above `parent`; an empty text when he cancels.
+    std::function<QString(QWidget *parent)> askCondition;
+};
 
 // Shows a control's result on the whole screen, in a session of its own. It pages through the control's own
 // recordset without ever moving it, and derives statements through the control's filter manager; only when
@@ -57,7 +65,6 @@ protected:
 
 private:
     void fillScreen();
-    void run(const QString &key);
     void popUp(const QPoint &globalPosition, bool isOnCell);
 
     HostEvents m_noHost; // which hears of everything when the user has come back
@@ -65,7 +72,7 @@ private:
     const ViewerParts m_parts;
     ViewerWindow m_window;
     const std::shared_ptr<Session> m_session;
-    ViewerMenu *m_menu;
+    PopupMenu *m_menu;
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -10,10 +10,9 @@ namespace {
 
 void showAllFields(Session &session)
 {
-    constexpr qint32 allFieldsStatement = 1;
-    session.columns().SaveColumnWidths(0);
+    session.columns().SaveColumnWidths();
     FilterManagerRollback rollback(session);
-    showFields(session, rollback.manager().GetCurrentSQL20(allFieldsStatement), FieldView::All, rollback);
+    showFields(session, rollback.manager().GetCurrentSQL20(AllFieldsStatement), FieldView::All, rollback);
 }
 
 const Command::Registration registration({

@@ -52,7 +52,8 @@ const Command::Registration registration({
     .shortcut = u"Ctrl+Shift+L"_s,
     .menu = {14, u"按选定内容筛选(&C)"_s},
     .isInViewer = true,
-    .viewerMenu = {4, u"按所选内容筛选(&F)"_s},
+    .viewerMenu =
+        {.index = 4, .caption = u"按所选内容筛选(&F)"_s, .enabledAs = CommandKeys::Filter, .needsText = true},
     .needs = Needs::Records,
     .run = filterBySelectedCell,
     .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Condition); },

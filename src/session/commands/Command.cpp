@@ -30,7 +30,6 @@ const Command *findIf(Predicate predicate)
 
 Command::Registration::Registration(Command command)
 {
-    Q_ASSERT_X(!find(command.key), "Command", "two commands have the same key");
     registered().push_back(std::move(command));
 }
 
@@ -39,9 +38,10 @@ const Command *Command::find(const QString &key)
     return findIf([&](const Command &command) { return command.key == key; });
 }
 
-const Command *Command::findMenuItem(int index)
+const Command *Command::findMenuItem(MenuItemTexts Command::*menu, int index)
 {
-    return index < 1 ? nullptr : findIf([=](const Command &command) { return command.menu.index == index; });
+    return index < 1 ? nullptr
+                     : findIf([=](const Command &command) { return (command.*menu).index == index; });
 }
 
 int Command::lastMenuIndex(MenuItemTexts Command::*menu)

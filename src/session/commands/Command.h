@@ -35,6 +35,10 @@ struct MenuItemTexts
     // Chosen here, the command shows many records again first.
     bool leavesSingleRecord = false;
     MenuGroup group = MenuGroup::None;
+    // The button without which it can't be used either, where that isn't the command's own.
+    QString enabledAs = {};
+    // Whether it needs a current cell with a text.
+    bool needsText = false;
 };
 
 // One thing that a user can do with a result. A command is a static Registration in a source file of its own;
@@ -62,8 +66,8 @@ struct Command
 
     // Null when there is no such command.
     static const Command *find(const QString &key);
-    static const Command *findMenuItem(int index);
-    // The highest index that a command has in the menu, or in the viewer's.
+    // The command of an index, from 1, in the menu or in the viewer's, and the highest index there.
+    static const Command *findMenuItem(MenuItemTexts Command::*menu, int index);
     static int lastMenuIndex(MenuItemTexts Command::*menu);
     // All commands: those with buttons in their order, then the others.
     static const std::vector<const Command *> &all();

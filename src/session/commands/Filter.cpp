@@ -25,9 +25,8 @@ std::optional<QString> askHost(Session &session, const FilterManagerRollback &gr
 {
     session.texts.passQurryFilter.clear();
     QString base;
-    QString key;
     colShowSQLSentences &history = ground.manager().SQLManager();
-    if (!(session.isFromResult() ? history.GetLatestSQL(base, &key) : history.GetFirstSQL(base, key)))
+    if (!(session.isFromResult() ? history.GetLatestSQL(base) : history.GetFirstSQL(base)))
         return {};
     constexpr qint32 leftToTheDialog = 1;
     qint32 cancel = leftToTheDialog;
@@ -40,13 +39,14 @@ std::optional<QString> askHost(Session &session, const FilterManagerRollback &gr
 void filterByDialog(Session &session)
 {
     FilterManagerRollback rollback(session);
-    const bool asksHost = session.rules().speaksToHost;
-    const std::optional<QString> condition = asksHost ? askHost(session, rollback) : askUser(session);
+    const WindowRules &rules = session.rules();
+    const std::optional<QString> condition =
+        rules.asksHostForCondition ? askHost(session, rollback) : askUser(session);
     if (!condition || !rollback.isResultUntouched())
         return;
     session.setLastFilter(*condition);
     QString statement;
-    const QString added = asksHost ? *condition : condition->trimmed();
+    const QString added = rules.trimsCondition ? condition->trimmed() : *condition;
     if (!added.trimmed().isEmpty() && session.addCondition(added, statement) &&
         session.reloadFiltered(statement, true))
         rollback.keepChanges();

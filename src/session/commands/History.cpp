@@ -11,20 +11,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using StepBack = bool (colShowSQLSentences::*)(QString &PassFilter, QString &PassKey);
+using StepBack = bool (colShowSQLSentences::*)(QString &PassFilter, QString *PassKey);
 
 void goBack(Session &session, StepBack stepBack)
 {
     FilterManagerRollback rollback(session);
     QString statement;
     QString key;
-    if (!(session.history().*stepBack)(statement, key))
+    if (!(session.history().*stepBack)(statement, &key))
         return;
     const auto opened = session.readForReload(statement, true);
     if (!opened)
         return;
     const ADODB::Notifications::Hold hold(session.notifications());
-    session.show(*opened, session.rules().speaksToHost ? session.texts.sqlFilter : statement);
+    session.show(*opened);
     rollback.keepChanges();
     const clsShowSQLSentence *entry = session.history().Item(key);
     session.setFieldView(entry && entry->IsShowAllFields == 1 ? FieldView::All : FieldView::Part);

@@ -19,12 +19,11 @@ bool hasPartStatement(const colShowSQLSentences &history)
 // Without a part statement "All" is pressed, and nothing else changes.
 void showPartFields(Session &session)
 {
-    constexpr qint32 partFieldsStatement = 2;
-    session.columns().SaveColumnWidths(0);
+    session.columns().SaveColumnWidths();
     FilterManagerRollback rollback(session);
     QString statement;
     if (hasPartStatement(session.history()))
-        statement = rollback.manager().GetCurrentSQL20(partFieldsStatement);
+        statement = rollback.manager().GetCurrentSQL20(PartFieldsStatement);
     if (statement.isEmpty())
         session.window().setPressed(CommandKeys::All, true);
     else

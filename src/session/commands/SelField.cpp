@@ -36,7 +36,7 @@ QString askForFields(const FilterManagerRollback &ground, const clsShowSQLSenten
 
 void selectFields(Session &session)
 {
-    if (!session.rules().speaksToHost && !session.hasRecords())
+    if (!session.rules().choosesFieldsWithoutRecords && !session.hasRecords())
         return;
     FilterManagerRollback rollback(session);
     const colShowSQLSentences &history = rollback.manager().SQLManager();
@@ -50,7 +50,7 @@ void selectFields(Session &session)
         return;
 
     const QString chosenFields = history.GetFieldsStatement(statement);
-    session.columns().SaveColumnWidths(0);
+    session.columns().SaveColumnWidths();
     std::optional<ResultSet::Opened> opened;
     if (session.rules().alwaysOpensFields ||
         !session.columns().hasColumnsFor(namesOf(session, chosenFields))) {
@@ -60,9 +60,9 @@ void selectFields(Session &session)
     }
     const ADODB::Notifications::Hold hold(session.notifications());
     if (opened)
-        session.show(*opened, statement);
+        session.show(*opened);
     rollback.keepChanges();
-    if (session.rules().speaksToHost)
+    if (session.rules().writesFilter)
         session.writeFilter(statement);
     session.setFieldView(FieldView::Part);
     session.record(statement, chosenFields);

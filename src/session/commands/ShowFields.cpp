@@ -6,7 +6,7 @@ namespace KOVAVSFDataGridLib {
 
 void showFields(Session &session, const QString &statement, FieldView view, FilterManagerRollback &rollback)
 {
-    const QStringList fields = session.columns().fieldsShownBy(GetShowAllFieldsFlag(view));
+    const QStringList fields = session.columns().fieldsShownBy(view);
     const bool isAlwaysOpened = view == FieldView::All && session.rules().alwaysOpensFields;
     const bool needsOpening =
         !statement.isEmpty() && (isAlwaysOpened || !session.columns().hasColumnsFor(fields));
@@ -17,7 +17,7 @@ void showFields(Session &session, const QString &statement, FieldView view, Filt
     }
     const ADODB::Notifications::Hold hold(session.notifications());
     if (opened)
-        session.show(*opened, statement);
+        session.show(*opened);
     rollback.keepChanges();
     session.setStatement(statement);
     session.setFieldView(view);

@@ -31,13 +31,13 @@ void sortByDialog(Session &session)
     if (!manager.GetPartSortSelFields(allFields, currentSort, newSort) || !rollback.isResultUntouched() ||
         !history.GetNextSQLBySort(newSort, statement))
         return;
-    session.columns().SaveColumnWidths(0);
+    session.columns().SaveColumnWidths();
     session.rememberStatement();
     const auto opened = session.read(statement);
     if (!opened)
         return;
     const ADODB::Notifications::Hold hold(session.notifications());
-    session.show(*opened, statement);
+    session.show(*opened);
     rollback.keepChanges();
     session.record(statement, colShowSQLSentences::NoPartField(), newSort);
 }

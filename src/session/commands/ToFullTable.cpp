@@ -13,20 +13,19 @@ namespace {
 
 void showFullTable(Session &session)
 {
-    constexpr qint32 withoutCondition = 3;
     QString latest;
     QString key;
     QString statement;
     if (!session.history().GetLatestSQL(latest, &key) || latest.isEmpty() ||
-        !session.filterManager().GetRequirePartSQL(latest, withoutCondition, statement))
+        !session.filterManager().GetRequirePartSQL(latest, PartsWithoutCondition, statement))
         return;
     const bool showsAll = session.history().Item(key)->IsShowAllFields == 1;
-    session.columns().SaveColumnWidths(0);
+    session.columns().SaveColumnWidths();
     const auto opened = session.read(statement);
     if (!opened)
         return;
     const ADODB::Notifications::Hold hold(session.notifications());
-    session.show(*opened, statement);
+    session.show(*opened);
     session.setFieldView(showsAll ? FieldView::All : FieldView::Part);
     session.record(statement);
 }

@@ -14,7 +14,7 @@ using H = colShowSQLSentences;
 using A = Arguments;
 using HistoryOperation = std::function<QJsonValue(H &, const A &)>;
 using NextStatement = bool (H::*)(const QString &, QString &) const;
-using StepBack = bool (H::*)(QString &, QString &);
+using StepBack = bool (H::*)(QString &, QString *);
 
 QJsonValue Added(bool isDone, const QString &key)
 {
@@ -70,7 +70,7 @@ HistoryOperation Back(StepBack step)
     return [step](H &h, const A &) -> QJsonValue {
         QString statement;
         QString key;
-        const bool isDone = (h.*step)(statement, key);
+        const bool isDone = (h.*step)(statement, &key);
         return QJsonObject{{u"ok"_s, isDone}, {u"PassFilter"_s, statement}, {u"PassKey"_s, key}};
     };
 }
