@@ -2,9 +2,13 @@
 
 #include "designer/DataPreview.h"
 #include "designer/DesignerTexts.h"
+#include <KOVAVSFDataGridLib/ado/Connection.h>
+#include <KOVAVSFDataGridLib/ado/ConnectionFactory.h>
+#include <KOVAVSFDataGridLib/ado/Error.h>
 #include <KOVAVSFDataGridLib/control/connection/BuildConnection.h>
 #include <KOVAVSFDataGridLib/pages/ConnectionString.h>
 #include <KOVAVSFDataGridLib/pages/PageDialog.h>
+#include <KOVAVSFDataGridLib/pages/PartDisplayField.h>
 #include <KOVAVSFDataGridLib/pages/PropertyPages.h>
 
 #include <QtCore/QVariant>
@@ -27,6 +31,22 @@ void writeThroughForm(QObject &control, const QString &property, const QVariant 
         form->cursor()->setWidgetProperty(widget, property, value);
     else
         control.setProperty(property.toLatin1(), value);
+}
+
+// Nothing where the connection doesn't open: the page then offers what the statement itself names.
+std::optional<QStringList> readFieldNames(const QObject &control, const QString &statement)
+{
+    try {
+        const auto connection = ADODB::ConnectionFactory::connectionFor(control.property("DBType").toInt());
+        connection->PutConnectionString(control.property("ConnectionString").toString());
+        connection->Open();
+        QStringList names;
+        for (const ADODB::FieldInfo &field : connection->Describe(statement))
+            names.append(field.name);
+        return names;
+    } catch (const ADODB::Error &) {
+        return {};
+    }
 }
 
 } // namespace
@@ -59,6 +79,8 @@ void GridTaskMenu::openPage(const QString &name)
             return BuildConnection(parent, present, m_grid.property("DBType").toInt());
         });
     }
+    if (auto *fields = qobject_cast<PartDisplayField *>(page))
+        fields->SetFieldReader(readFieldNames);
     page->SetSelectedControls({&m_grid});
     dialog.exec();
 }

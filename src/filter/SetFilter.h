@@ -37,6 +37,9 @@ public:
     // The same with the fields of a result.
     void SetResult(const FilteredResult &result);
 
+    // Says below the condition what is wrong with it, until it is changed.
+    void ShowNotice(const QString &notice) { show(notice); }
+
     // The condition, ready to be joined to others by AND. Empty when there is none or something is wrong with
     // it, which is then shown.
     QString ConditionText();

@@ -56,13 +56,15 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
         builder.SetTableName(fromText);
 }
 
-QString mod_Filter::ShowFilterDialog()
+QString mod_Filter::ShowFilterDialog(const QString &refusal)
 {
+    m_strFilterCondition.clear();
     if (!m_dialog)
         return {};
-    m_dialog->exec();
-    m_strFilterCondition = m_dialog->strFilterCondition();
-    m_dialog.reset();
+    if (!refusal.isEmpty())
+        m_dialog->SetFilter1().ShowNotice(refusal);
+    if (m_dialog->exec() == QDialog::Accepted)
+        m_strFilterCondition = m_dialog->strFilterCondition();
     return m_strFilterCondition;
 }
 

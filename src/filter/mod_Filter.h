@@ -44,8 +44,9 @@ public:
 
     // Forgets the last condition and makes the dialog ready.
     void PrepareFilterDialog(const FilterRequest &request);
-    // Shows it modally; answers strFilterCondition().
-    QString ShowFilterDialog();
+    // Shows it modally; answers strFilterCondition(). It can be shown again as it was left, with what the
+    // database says against the condition.
+    QString ShowFilterDialog(const QString &refusal = {});
 
     // Empty when the dialog was cancelled.
     const QString &strFilterCondition() const { return m_strFilterCondition; }

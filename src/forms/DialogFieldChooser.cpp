@@ -53,10 +53,7 @@ std::optional<QString> DialogFieldChooser::ChooseSort(const QString &title,
     frmSelSortFields dialog(windowBelow());
     dialog.SetPicture(m_pictures.sort);
     dialog.SetTitle(title);
-    QStringList written;
-    for (const OfferedField &field : allFields)
-        written.append(field.written);
-    dialog.AppendListFields(&written);
+    dialog.AppendListFields(allFields);
     dialog.AppendListSortFields(&sortTerms);
     dialog.AppendSortOrder();
     return answerOf(dialog);

@@ -6,15 +6,31 @@
 #include "forms/SortList.h"
 #include "forms/TextWidth.h"
 #include "query/QueryTexts.h"
+#include "sql/Names.h"
 
 #include <QtGui/QShortcut>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 
+#include <algorithm>
+
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// The heading, unless the name as it is written differs from it by quotes alone or several fields have it.
+QString captionOf(const OfferedField &field, const QList<OfferedField> &fields)
+{
+    const bool isQuotedName =
+        field.written.size() == field.name.size() + 2 && lastNamePart(field.written) == field.name;
+    const bool isUnique = std::ranges::count(fields, field.name, &OfferedField::name) == 1;
+    return isUnique && !isQuotedName ? field.name : field.written;
+}
+
+} // namespace
 
 frmSelSortFields::frmSelSortFields(QWidget *parent)
     : SelectionDialog(u"frmSelSortFields"_s, FormTexts::SelectSortTitle, u"picBack"_s, parent),
@@ -107,8 +123,11 @@ bool frmSelSortFields::AppendListSortFields(const QStringList *PassSortFields)
     if (!PassSortFields)
         return false;
     m_sort->clear();
-    for (const QString &term : *PassSortFields)
-        m_sort->append(SplitSortTerm(term));
+    for (const QString &written : *PassSortFields) {
+        SortTerm term = SplitSortTerm(written);
+        term.field = m_writtenByCaption.key(term.field, term.field);
+        m_sort->append(term);
+    }
     enableButtons();
     return true;
 }
@@ -117,9 +136,25 @@ bool frmSelSortFields::AppendListFields(const QStringList *PassAllFields)
 {
     if (!PassAllFields || PassAllFields->isEmpty())
         return false;
+    m_writtenByCaption.clear();
     m_fields->clear();
     m_fields->addItems(*PassAllFields);
     m_fields->setCurrentIndex(0);
+    return true;
+}
+
+bool frmSelSortFields::AppendListFields(const QList<OfferedField> &fields)
+{
+    QStringList captions;
+    QHash<QString, QString> writtenByCaption;
+    for (const OfferedField &field : fields) {
+        const QString caption = captionOf(field, fields);
+        captions.append(caption);
+        writtenByCaption.insert(caption, field.written);
+    }
+    if (!AppendListFields(&captions))
+        return false;
+    m_writtenByCaption = writtenByCaption;
     return true;
 }
 
@@ -167,7 +202,10 @@ void frmSelSortFields::enableButtons()
 
 void frmSelSortFields::acceptChoice()
 {
-    setResultText(ComposeSortList(m_sort->terms()));
+    QList<SortTerm> terms = m_sort->terms();
+    for (SortTerm &term : terms)
+        term.field = m_writtenByCaption.value(term.field, term.field);
+    setResultText(ComposeSortList(terms));
     accept();
 }
 

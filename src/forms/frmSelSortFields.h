@@ -1,7 +1,9 @@
 #pragma once
 
 #include "forms/SelectionDialog.h"
+#include "query/fields/FieldChooser.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QStringList>
 
 class QComboBox;
@@ -25,6 +27,8 @@ public:
     bool AppendListSortFields(const QStringList *PassSortFields);
     // The fields to choose from. False, changing nothing, when there is no list or nothing in it.
     bool AppendListFields(const QStringList *PassAllFields);
+    // The same, under the headings that the user sees; the sort is made of what statements write.
+    bool AppendListFields(const QList<OfferedField> &fields);
     // The two order words; always True.
     bool AppendSortOrder();
 
@@ -40,6 +44,7 @@ private:
     void moveField(int by);
     void enableButtons();
 
+    QHash<QString, QString> m_writtenByCaption;
     // In the order in which the tab key reaches them.
     QComboBox *m_fields;
     QComboBox *m_order;

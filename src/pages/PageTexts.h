@@ -25,7 +25,8 @@ inline const QString RecordSource = u"&RecordSource:"_s;
 inline const QString RecordSourceHint = u"The statement that the last load opened. It is read-only."_s;
 
 inline const QString PartDisplay = u"SQL&PartDisplay:"_s;
-inline const QString PartDisplayHint = u"Offered are the fields that SQLShow names; a \"*\" names none."_s;
+inline const QString PartDisplayHint =
+    u"Offered are the fields that SQLShow names; for a \"*\" those of its tables, where the connection opens."_s;
 inline const QString NotChosen = u"&Fields not chosen:"_s;
 inline const QString Chosen = u"C&hosen fields:"_s;
 inline const QString Add = u"&Add >"_s;

@@ -101,8 +101,11 @@ void PartDisplayField::listFields()
     if (!control())
         return;
     const AllDBType database = databaseOf(*control());
-    const auto all = PartFields::read(control()->property("SQLShow").toString(), database);
-    const auto part = PartFields::read(text().text(), database);
+    PartFields::StarReader reader;
+    if (m_reader)
+        reader = [this](const QString &statement) { return m_reader(*control(), statement); };
+    const auto all = PartFields::read(control()->property("SQLShow").toString(), database, reader);
+    const auto part = PartFields::read(text().text(), database, reader);
     if (!all && !part)
         return;
 

@@ -2,6 +2,9 @@
 
 #include "PropertyPage.h"
 
+#include <optional>
+#include <utility>
+
 class QListWidget;
 class QPushButton;
 
@@ -13,8 +16,16 @@ class KOVA_EXPORT PartDisplayField final : public PropertyPage
     Q_OBJECT
 
 public:
+    // Reads the names of a statement's fields through the connection that the control's properties give;
+    // nothing when they can't be read.
+    using FieldReader =
+        std::function<std::optional<QStringList>(const QObject &control, const QString &statement)>;
+
     // Shows nothing until a control is selected.
     explicit PartDisplayField(QWidget *parent = nullptr);
+
+    // Without one, a "*" in SQLShow offers no fields. Set it before a control is selected.
+    void SetFieldReader(FieldReader reader) { m_reader = std::move(reader); }
 
     // A statement without a table leaves the lists as they are.
     void SelectionChanged() override;
@@ -26,6 +37,7 @@ private:
     void move(QListWidget &from, QListWidget &to);
     void enableButtons();
 
+    FieldReader m_reader;
     QListWidget *m_notChosen;
     QListWidget *m_chosen;
     QPushButton *m_add;

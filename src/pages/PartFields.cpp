@@ -1,6 +1,7 @@
 #include "pages/PartFields.h"
 
 #include "query/derivation/SqlText.h"
+#include "sql/Names.h"
 #include "sql/SelectParts.h"
 
 #include <QtCore/QRegularExpression>
@@ -42,9 +43,30 @@ QString itemText(const SqlScanner &sql, const SelectParts::Item &item)
     return textOf(sql, item.value) + u" AS "_s + textOf(sql, TextRange{item.value.end, item.tokens.end});
 }
 
+// What a star stands for, each name once: of two equal ones nobody could tell which is meant.
+QStringList starFields(const QString &star, const QString &table, AllDBType database,
+                       const StarReader &reader)
+{
+    const QStringList names = reader(u"select %1 from %2"_s.arg(star, table)).value_or(QStringList());
+    const QString qualifier = star.chopped(1); // with its dot
+    const Dialect dialect = dialectOf(database, Engine::Other);
+    QStringList fields;
+    for (const QString &name : names) {
+        if (names.count(name) > 1)
+            continue;
+        if (database != dbAccess)
+            fields += qualifier + writtenName(dialect, name);
+        else if (!qualifier.isEmpty() || isMoreThanAName(name) || name.contains(u'.'))
+            fields += qualifier + quotedName(dialect, name);
+        else
+            fields += name;
+    }
+    return fields;
+}
+
 } // namespace
 
-std::optional<NamedFields> read(const QString &statement, AllDBType database)
+std::optional<NamedFields> read(const QString &statement, AllDBType database, const StarReader &reader)
 {
     const SqlScanner sql(joinStatementLines(statement));
     const SelectParts parts = SelectParts::of(sql);
@@ -56,8 +78,11 @@ std::optional<NamedFields> read(const QString &statement, AllDBType database)
     for (const SelectParts::Item &item : parts.items) {
         if (item.tokens.isEmpty())
             return std::nullopt; // not to be understood: what was listed before is better than half of it
-        if (item.isStar)
+        if (item.isStar) {
+            if (reader)
+                named.fields += starFields(textOf(sql, item.tokens), named.table, database, reader);
             continue;
+        }
         const QString text = itemText(sql, item);
         named.fields += database == dbAccess ? withoutBrackets(text) : text;
     }

@@ -5,6 +5,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <functional>
 #include <optional>
 
 // What the page for the part fields reads from statements and writes into one.
@@ -17,8 +18,12 @@ struct NamedFields
     QString words = {}; // DISTINCT and the like before the list
 };
 
-// The fields that a SELECT names; "*" and "T.*" name none. Nothing when the statement has no table.
-std::optional<NamedFields> read(const QString &statement, AllDBType database);
+// The names of the fields that a SELECT of no conditions has; nothing when they can't be read.
+using StarReader = std::function<std::optional<QStringList>(const QString &statement)>;
+
+// The fields that a SELECT names; "*" and "T.*" stand for those that the reader gives, without one for none.
+// Nothing when the statement has no table.
+std::optional<NamedFields> read(const QString &statement, AllDBType database, const StarReader &reader = {});
 
 // The SELECT of these fields, with `words` before its list; empty without fields. For dbAccess each name is
 // enclosed in "[" and "]".

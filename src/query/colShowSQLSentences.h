@@ -113,6 +113,9 @@ public:
     // What a condition writes for a field of the catalogue, where that isn't left to whoever builds it.
     QString GetConditionName(const clsDataField &field) const;
 
+    // Whether the statement's rows depend on the fields in its list.
+    bool IsDistinct(const QString &statement) const;
+
     // The head of a statement with chosen fields, as AddCurrentSQL takes it for the part fields.
     QString GetFieldsStatement(const QString &statement) const;
 

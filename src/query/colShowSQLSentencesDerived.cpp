@@ -70,8 +70,16 @@ std::optional<FilteredResult> colShowSQLSentences::GetFilteredResult() const
 QString colShowSQLSentences::GetConditionName(const clsDataField &field) const
 {
     const clsShowSQLSentence *const latest = Latest();
-    return latest && DerivationOf(latest->AllFields, DerivationStep::Condition) ? field.FieldWholeName
-                                                                                : QString();
+    const auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
+    // Of several tables, more than one can have a field of that name.
+    const bool isWritten = all && (all->isJoined() || !all->isTextWork(DerivationStep::Condition));
+    return isWritten ? field.FieldWholeName : QString();
+}
+
+bool colShowSQLSentences::IsDistinct(const QString &statement) const
+{
+    const auto derivation = DerivationOf(statement);
+    return derivation && derivation->isDistinct();
 }
 
 QString colShowSQLSentences::GetFieldsStatement(const QString &statement) const

@@ -6,6 +6,7 @@
 #include <QtCore/QSet>
 
 #include <algorithm>
+#include <vector>
 
 namespace KOVAVSFDataGridLib {
 
@@ -108,26 +109,26 @@ bool ColumnLayout::columnsFit() const
     return m_grid.widthOfColumns() <= m_grid.width();
 }
 
-std::optional<double> ColumnLayout::shareOfWidth() const
+std::optional<double> ColumnLayout::shareOfWidth(qsizetype shown) const
 {
-    qint32 shown = 0;
-    if (!m_history.GetCurrShowFieldsCount(shown) || shown < 1)
+    if (m_history.Count() == 0 || shown < 1)
         return std::nullopt;
     const int room = m_grid.width() - scrollBarMargin - rowHeadingMargin;
     if (room < shown)
         return std::nullopt; // no room at all: better too wide than gone
-    return static_cast<double>(room) / shown;
+    return static_cast<double>(room) / static_cast<double>(shown);
 }
 
 void ColumnLayout::fitColumns(int (*round)(double), bool showsHidden)
 {
-    const std::optional<double> share = shareOfWidth();
-    if (!share)
-        return;
+    std::vector<int> columns;
     for (int col = 1; col < m_grid.Cols(); ++col) {
         if (showsHidden || m_grid.ColWidth(col) != 0)
-            m_grid.PutColWidth(col, round(*share));
+            columns.push_back(col);
     }
+    const std::optional<double> share = shareOfWidth(static_cast<qsizetype>(columns.size()));
+    for (const int col : share ? columns : std::vector<int>())
+        m_grid.PutColWidth(col, round(*share));
 }
 
 } // namespace KOVAVSFDataGridLib

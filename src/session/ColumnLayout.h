@@ -56,7 +56,7 @@ public:
     bool columnsFit() const;
 
 private:
-    std::optional<double> shareOfWidth() const;
+    std::optional<double> shareOfWidth(qsizetype shown) const;
 
     ColumnView &m_grid;
     colShowSQLSentences &m_history;

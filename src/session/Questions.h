@@ -24,6 +24,10 @@ struct ConditionRequest
     std::shared_ptr<ADODB::Connection> connection; // may be null
     // Where the statement isn't the plain rows of a table: what it is filtered by instead.
     std::optional<FilteredResult> result = {};
+    // Why the database refused the condition that was built last; empty at first.
+    QString refusal = {};
+    // What whoever is asked keeps until the next time, so that all is there again as it was typed.
+    mutable std::shared_ptr<void> memory = {};
 };
 
 // The words that the user looks for.

@@ -89,6 +89,7 @@ bool Session::isReady(const Command &command)
     const bool hasCommand = m_rules.hasAllCommands || command.isInViewer;
     if (!hasCommand || !hasGround() || !whyNot(command).isEmpty())
         return false;
+    returnToShownRecord();
     const ResultWatch watch(*this);
     if (command.record == Record::IsListedAgain && !commitEdit())
         return false;
@@ -129,6 +130,7 @@ void Session::goToTypedPage(const QString &text)
     if (!typed || !hasGround())
         return;
     perform([&] {
+        returnToShownRecord();
         if (typed->number < 1) {
             m_questions->show(SessionMessages::NotAPageNumber);
         } else if (saveRecord()) {

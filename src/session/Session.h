@@ -121,15 +121,17 @@ public:
     bool isRequeried() const { return m_isRequeried; }
 
     // Reads a statement beside what is shown. Nothing when it is empty or can't be read, which the user has
-    // been told, or when something else was put in the result's place meanwhile.
-    std::optional<ResultSet::Opened> read(const QString &statement);
+    // been told, or when something else was put in the result's place meanwhile. Where `refusal` is given,
+    // the database's words go there and not to the user.
+    std::optional<ResultSet::Opened> read(const QString &statement, QString *refusal = nullptr);
     // The same after keeping column widths, and the statement in SQLFilter. `isRemembered` as in
     // rememberStatement.
-    std::optional<ResultSet::Opened> readForReload(const QString &statement, bool isRemembered);
+    std::optional<ResultSet::Opened> readForReload(const QString &statement, bool isRemembered,
+                                                   QString *refusal = nullptr);
     // Shows what was read in place of what is shown, from its first page on.
     void show(const ResultSet::Opened &opened);
     // Both for a statement with one more condition, which becomes the latest entry of the history.
-    bool reloadFiltered(const QString &statement, bool isRemembered);
+    bool reloadFiltered(const QString &statement, bool isRemembered, QString *refusal = nullptr);
     // The statement shown with one more condition; false when none can be derived.
     bool addCondition(const QString &condition, QString &statement);
     // Makes the statement the latest entry of the history and lays its columns out as all or part fields.
@@ -185,6 +187,9 @@ public:
 
     // Looks into the open result, since other controls write the shared values as well.
     bool hasRecords() const;
+    // Makes the record that is shown current the result's, where a host has walked past the first or the
+    // last.
+    void returnToShownRecord();
     // Takes number of records and position into the shared values.
     void updateRecordPosition();
     void storeRecordCount();
@@ -225,7 +230,8 @@ private:
     std::unique_ptr<clsFilterManagement> newFilterManager();
     std::unique_ptr<clsFilterManagement> filterManagerForLoad();
     std::optional<QString> statementToOpen(clsFilterManagement &manager);
-    Reading readResult(const QString &statement, qint32 dbType, std::optional<ResultSet::Opened> &opened);
+    Reading readResult(const QString &statement, qint32 dbType, std::optional<ResultSet::Opened> &opened,
+                       QString *refusal = nullptr);
     ResultSet::Opened openStatement(const QString &statement, qint32 dbType);
     void reportOpenError(const QString &description);
     void showLoaded(const ResultSet::Opened &opened, const QString &statement,

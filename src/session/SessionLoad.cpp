@@ -100,12 +100,8 @@ void Session::showLoaded(const ResultSet::Opened &opened, const QString &stateme
         m_window->PutCol(1);
     }
     setFieldView(m_fieldView);
-    // The entry keeps what the statement says; what is seen is what the pressed button says.
-    const bool isAllFields = statement.trimmed().toUpper().startsWith(u"SELECT *");
-    columns().RecordShowSQL(statement, isAllFields ? FieldView::All : FieldView::Part, true,
-                            colShowSQLSentences::NoPartField(), colShowSQLSentences::NoSort(),
-                            texts.connectionString);
-    layOutColumns();
+    columns().RecordShowSQL(statement, m_fieldView, true, colShowSQLSentences::NoPartField(),
+                            colShowSQLSentences::NoSort(), texts.connectionString);
     if (columns().columnsFit())
         columns().fitColumns(m_rules.roundWidth);
     updateRecordPosition();

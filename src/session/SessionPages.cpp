@@ -134,6 +134,15 @@ bool Session::hasRecords() const
     return m_result.isOpen() && m_result.recordset()->RecordCount() != 0;
 }
 
+void Session::returnToShownRecord()
+{
+    if (!hasRecords() || !m_rules.movesRecordset)
+        return;
+    ADODB::Recordset &recordset = *m_result.recordset();
+    if (const int row = m_window->Row(); row > 0 && (recordset.isBOF() || recordset.isEOF()))
+        recordset.PutAbsolutePosition(recordOfRow(row));
+}
+
 void Session::updateRecordPosition()
 {
     if (!m_result.isOpen())

@@ -32,7 +32,7 @@ ResultSet::Opened Session::openStatement(const QString &statement, qint32 dbType
 }
 
 Session::Reading Session::readResult(const QString &statement, qint32 dbType,
-                                     std::optional<ResultSet::Opened> &opened)
+                                     std::optional<ResultSet::Opened> &opened, QString *refusal)
 {
     if (shared.isOpening) // one statement at a time in a process
         return Reading::Failed;
@@ -47,7 +47,10 @@ Session::Reading Session::readResult(const QString &statement, qint32 dbType,
     } catch (const std::exception &error) { // from a connection factory of the host's
         failure = QString::fromUtf8(error.what());
     }
-    reportOpenError(failure);
+    if (refusal)
+        *refusal = failure;
+    else
+        reportOpenError(failure);
     return Reading::Failed;
 }
 
@@ -57,16 +60,18 @@ void Session::reportOpenError(const QString &description)
         m_questions->show(SessionMessages::OpenErrorPrefix + description);
 }
 
-std::optional<ResultSet::Opened> Session::read(const QString &statement)
+std::optional<ResultSet::Opened> Session::read(const QString &statement, QString *refusal)
 {
     std::optional<ResultSet::Opened> opened;
     // What a filter manager was set up for stays right when another control sets another type meanwhile.
-    if (statement.isEmpty() || readResult(statement, filterManager().DBType(), opened) != Reading::Done)
+    if (statement.isEmpty() ||
+        readResult(statement, filterManager().DBType(), opened, refusal) != Reading::Done)
         return std::nullopt;
     return opened;
 }
 
-std::optional<ResultSet::Opened> Session::readForReload(const QString &statement, bool isRemembered)
+std::optional<ResultSet::Opened> Session::readForReload(const QString &statement, bool isRemembered,
+                                                        QString *refusal)
 {
     if (statement.isEmpty())
         return std::nullopt;
@@ -74,14 +79,14 @@ std::optional<ResultSet::Opened> Session::readForReload(const QString &statement
         rememberStatement();
     columns().SaveColumnWidths();
     if (!m_rules.writesFilter)
-        return read(statement);
+        return read(statement, refusal);
     const ResultWatch watch(*this);
     const auto manager = m_filter;
     const QString filterBefore = texts.sqlFilter;
     writeFilter(statement); // the host hears of it at once, because it may write another statement
     if (!watch.isUntouched() || !isFilterManager(manager))
         return std::nullopt; // it has put another result in this one's place, or closed it
-    auto opened = read(texts.sqlFilter);
+    auto opened = read(texts.sqlFilter, refusal);
     if (!opened && !m_isDetached)
         writeFilter(filterBefore);
     return opened;
@@ -105,11 +110,12 @@ void Session::show(const ResultSet::Opened &opened)
     m_host->refresh();
 }
 
-bool Session::reloadFiltered(const QString &statement, bool isRemembered)
+bool Session::reloadFiltered(const QString &statement, bool isRemembered, QString *refusal)
 {
-    const auto opened = readForReload(statement, isRemembered);
+    const auto opened = readForReload(statement, isRemembered, refusal);
     if (!opened) {
-        if (!m_rules.reportsOpenErrors && hasGround())
+        const bool isLeftToCaller = refusal && !refusal->isEmpty();
+        if (!m_rules.reportsOpenErrors && hasGround() && !isLeftToCaller)
             m_questions->show(SessionMessages::ReadFailed);
         return false;
     }

@@ -142,6 +142,21 @@ TEST_F(PartPage, TheTableIsThatOfTheStatementWhoseFieldsAreOffered)
     EXPECT_EQ(text(), u"select [City],[ID] from Staff"_s);
 }
 
+TEST_F(PartPage, AStarOffersTheFieldsOfTheTable)
+{
+    page.SetFieldReader([](const QObject &asked, const QString &statement) -> std::optional<QStringList> {
+        EXPECT_EQ(asked.property("SQLShow").toString(), u"select * from Staff where Age > 3"_s);
+        return statement == u"select * from Staff" ? std::optional(QStringList{u"ID"_s, u"City"_s, u"Age"_s})
+                                                   : std::nullopt;
+    });
+    control.sqlShow = u"select * from Staff where Age > 3"_s;
+    page.SelectionChanged();
+    EXPECT_EQ(fields("List_Cho"), QStringList(u"City"_s));
+    EXPECT_EQ(fields("List_NotCho"), QStringList({u"ID"_s, u"Age"_s}));
+    doubleClick("List_NotCho", 1);
+    EXPECT_EQ(text(), u"select [City],[Age] from Staff"_s);
+}
+
 TEST_F(PartPage, AMovedFieldIsSelectedSoThatItCanGoBack)
 {
     click("List_NotCho", 1);

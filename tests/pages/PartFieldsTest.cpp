@@ -36,6 +36,32 @@ TEST(PartFields, AStarNamesNone)
     EXPECT_EQ(listed(u"select T.*, b from T"_s), u"b @ T"_s);
 }
 
+TEST(PartFields, AreForAStarThoseOfItsTables)
+{
+    QStringList asked;
+    const auto reader = [&](const QString &statement) -> std::optional<QStringList> {
+        asked.append(statement);
+        if (statement.contains(u"Gone"))
+            return {};
+        return QStringList{u"ID"_s, u"Full Name"_s, u"a.b"_s, u"Twice"_s, u"Twice"_s, u"占比%"_s};
+    };
+    const auto read = [&](const QString &statement, AllDBType database) {
+        const auto named = PartFields::read(statement, database, reader);
+        return named ? PartFields::compose(named->fields, named->table, database, named->words) : QString();
+    };
+    EXPECT_EQ(read(u"select * from T where ID > 3"_s, dbAccess),
+              u"select [ID],[Full Name],[a.b],[占比%] from T"_s);
+    EXPECT_EQ(read(u"select t.*, b as c from T t"_s, dbAccess),
+              u"select t.[ID],t.[Full Name],t.[a.b],t.[占比%],b as c from T t"_s);
+    EXPECT_EQ(read(u"select distinct * from T"_s, dbSQLServer),
+              u"select distinct ID,[Full Name],[a.b],[占比%] from T"_s);
+    EXPECT_EQ(read(u"select t.* from T t"_s, dbOracle),
+              u"select t.ID,t.\"Full Name\",t.\"a.b\",t.\"占比%\" from T t"_s);
+    EXPECT_EQ(read(u"select *, 1 as One from Gone"_s, dbAccess), u"select 1 as One from Gone"_s);
+    EXPECT_EQ(asked, QStringList({u"select * from T"_s, u"select t.* from T t"_s, u"select * from T"_s,
+                                  u"select t.* from T t"_s, u"select * from Gone"_s}));
+}
+
 TEST(PartFields, AreNotReadWithoutATable)
 {
     for (const QString &statement :

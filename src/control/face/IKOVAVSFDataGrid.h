@@ -195,7 +195,7 @@ public:
     virtual qint16 GetGridCol() = 0;
     // Makes a row current. One outside the grid is told in a message box and changes nothing.
     virtual void SetGridRow(const qint32 &Row) = 0;
-    // The current row; 0 when there is none. Rows above 32767 don't fit: see GetGridRowL.
+    // The current row; 0 when there is none. Rows above 32767 answer 32767: use GetGridRowL.
     virtual qint16 GetGridRow() = 0;
 
     // Disables the grid, the page button, the toolbar and every button on it; what is shown stays.

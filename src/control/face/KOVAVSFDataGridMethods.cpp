@@ -17,6 +17,7 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QPushButton>
 
+#include <algorithm>
 #include <stdexcept>
 
 using namespace KOVAVSFDataGridLib;
@@ -203,7 +204,7 @@ void KOVAVSFDataGrid::SetGridRow(const qint32 &Row)
 
 qint16 KOVAVSFDataGrid::GetGridRow()
 {
-    return static_cast<qint16>(d->parts.vsfgDataGrid->Row());
+    return static_cast<qint16>(std::min(d->parts.vsfgDataGrid->Row(), 32767));
 }
 
 void KOVAVSFDataGrid::CloseAllAction()

@@ -38,8 +38,13 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
     window.setSingleRecordView(&singleRecord);
     window.setMenu(&commands.menu());
     window.setFullScreen([this] {
-        ShowFullScreen(q, *session, parts, [this](QWidget *viewer) {
-            return DialogQuestions(viewer).askCondition(session->conditionRequest());
+        ShowFullScreen(q, *session, parts, [this](QWidget *viewer, const ConditionRequest &asked) {
+            ConditionRequest request = session->conditionRequest();
+            request.refusal = asked.refusal;
+            request.memory = asked.memory;
+            const QString condition = DialogQuestions(viewer).askCondition(request);
+            asked.memory = request.memory;
+            return condition;
         });
     });
     connect(parts.CheckSelAllRow, &QCheckBox::toggled, &q, [this](bool on) {

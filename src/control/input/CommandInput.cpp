@@ -75,7 +75,8 @@ void CommandInput::showMenu(const QPoint &position)
     // A row heading does not become current by the right button of itself.
     VSFlexGrid &grid = *m_parts.vsfgDataGrid;
     if (!m_session.window().isSingleRecordShown()) {
-        const int row = grid.rowAt(grid.viewport()->mapFromGlobal(position).y()) + 1;
+        const int y = grid.viewport()->mapFromGlobal(position).y();
+        const int row = y < 0 ? 0 : grid.rowAt(y) + 1; // none above the rows, scrolled or not
         const QPointer<CommandInput> alive(this);
         if (row >= 1 && row != grid.Row())
             grid.PutRow(row);

@@ -132,7 +132,7 @@ void GridEvents::mouseReleased(QWidget &source, QMouseEvent &event)
         followGridRow();
     if (alive && event.button() == Qt::LeftButton && std::exchange(m_isPressed, false))
         clicked(place);
-    if (alive && event.button() == Qt::RightButton && isData(place))
+    if (alive && event.button() == Qt::RightButton)
         askForMenu(event.globalPosition().toPoint());
     if (alive)
         Q_EMIT m_control.DataMouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);

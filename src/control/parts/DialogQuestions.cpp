@@ -58,6 +58,14 @@ Unsaved DialogQuestions::askUnsaved(const QString &reason)
 
 QString DialogQuestions::askCondition(const ConditionRequest &request)
 {
+    const auto filter =
+        request.memory ? std::static_pointer_cast<mod_Filter>(request.memory) : preparedFilter(request);
+    request.memory = filter;
+    return filter->ShowFilterDialog(request.refusal);
+}
+
+std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionRequest &request)
+{
     FilterRequest prepared;
     prepared.connectionString = request.connectionString;
     prepared.dbType = static_cast<AllDBType>(request.dbType);
@@ -66,9 +74,9 @@ QString DialogQuestions::askCondition(const ConditionRequest &request)
     prepared.connection = request.connection;
     prepared.result = request.result;
     prepared.picture = toolbarIcon(CommandKeys::Filter);
-    mod_Filter filter(m_parent);
-    filter.PrepareFilterDialog(prepared);
-    return filter.ShowFilterDialog();
+    auto filter = std::make_shared<mod_Filter>(m_parent);
+    filter->PrepareFilterDialog(prepared);
+    return filter;
 }
 
 std::optional<FindAnswer> DialogQuestions::askWords(const colDataFields &fields)

@@ -8,6 +8,8 @@
 
 namespace KOVAVSFDataGridLib {
 
+class mod_Filter;
+
 // Asks and tells with dialogs and message boxes above a window.
 class DialogQuestions : public Questions
 {
@@ -28,6 +30,8 @@ public:
     std::optional<ExportAnswer> askExport(const ExportRequest &request) override;
 
 private:
+    std::shared_ptr<mod_Filter> preparedFilter(const ConditionRequest &request);
+
     QPointer<QWidget> m_parent;
     DialogFieldChooser m_chooser;
 };

@@ -28,8 +28,7 @@ bool isOffered(const GridToolbar &toolbar, const QString &key)
 class Visit
 {
 public:
-    Visit(QWidget &control, Session &session, GridParts &parts,
-          const std::function<QString(QWidget *parent)> &askCondition);
+    Visit(QWidget &control, Session &session, GridParts &parts, const AskCondition &askCondition);
 
     frm_FullScreen &viewer() { return m_viewer; }
     bool isOver() const { return m_isOver; }
@@ -44,8 +43,7 @@ private:
     frm_FullScreen m_viewer;
 };
 
-Visit::Visit(QWidget &control, Session &session, GridParts &parts,
-             const std::function<QString(QWidget *)> &askCondition)
+Visit::Visit(QWidget &control, Session &session, GridParts &parts, const AskCondition &askCondition)
     : m_session(session),
       m_viewer({[this](const QString &statement, const ResultSet::Progress &progress) {
                     return open(statement, progress);
@@ -107,8 +105,7 @@ void adoptState(Session &session, GridParts &parts, const frm_FullScreen &viewer
 
 } // namespace
 
-bool ShowFullScreen(QWidget &control, Session &session, GridParts &parts,
-                    const std::function<QString(QWidget *)> &askCondition)
+bool ShowFullScreen(QWidget &control, Session &session, GridParts &parts, const AskCondition &askCondition)
 {
     if (!session.hasRecords())
         return false;

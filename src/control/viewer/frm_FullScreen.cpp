@@ -27,16 +27,19 @@ constexpr int backIndex = 7; // of the menu's way back to the control
 class ViewerQuestions final : public DialogQuestions
 {
 public:
-    ViewerQuestions(QWidget &viewer, std::function<QString(QWidget *)> askCondition)
+    ViewerQuestions(QWidget &viewer, AskCondition askCondition)
         : DialogQuestions(&viewer), m_viewer(viewer), m_askCondition(std::move(askCondition))
     {
     }
 
-    QString askCondition(const ConditionRequest &) override { return m_askCondition(&m_viewer); }
+    QString askCondition(const ConditionRequest &request) override
+    {
+        return m_askCondition(&m_viewer, request);
+    }
 
 private:
     QWidget &m_viewer;
-    const std::function<QString(QWidget *)> m_askCondition;
+    const AskCondition m_askCondition;
 };
 
 } // namespace

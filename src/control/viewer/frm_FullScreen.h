@@ -1,5 +1,6 @@
 #pragma once
 
+#include "control/viewer/ShowFullScreen.h"
 #include "control/viewer/ViewerParts.h"
 #include "control/viewer/ViewerWindow.h"
 #include "session/HostEvents.h"
@@ -20,8 +21,7 @@ struct ViewerHost
     // Opens a statement in place of the one that is open, both in the control and for the viewer. When that
     // fails it throws ADODB::Error, and what was open still is.
     Session::Opener open;
-    // Lets the user build a condition in a dialog above `parent`; an empty text when he cancels.
-    std::function<QString(QWidget *parent)> askCondition;
+    AskCondition askCondition;
 };
 
 // Shows a control's result on the whole screen, in a session of its own. It pages through the control's own

@@ -67,6 +67,13 @@ struct SearchedField
     bool holdsLetters = true;
 };
 
+// Where the declared type is Access, the brackets that it reads stay as long as the engine reads them too.
+bool readsBrackets(Engine engine)
+{
+    return engine == Engine::Other || engine == Engine::Access || engine == Engine::SQLite ||
+           engine == Engine::SqlServer;
+}
+
 // The field as it is written; empty when it can't be searched, nothing when nobody can tell.
 std::optional<QString> NameOfSearched(const TypedField &field, AllDBType database, const QString &qualifier,
                                       Engine engine)
@@ -83,9 +90,11 @@ std::optional<QString> NameOfSearched(const TypedField &field, AllDBType databas
     }
     if (!field.written.isEmpty())
         return field.written;
-    if (database != dbAccess)
-        return writtenName(dialectOf(database, engine), field.name);
-    return (qualifier.isEmpty() ? QString() : qualifier + u'.') + u'[' + field.name + u']';
+    const Dialect dialect = dialectOf(database, engine);
+    if (database != dbAccess || !readsBrackets(engine))
+        return writtenName(dialect, field.name);
+    return (qualifier.isEmpty() ? QString() : qualifier + u'.') +
+           (engine == Engine::Other ? u'[' + field.name + u']' : quotedName(dialect, field.name));
 }
 
 std::optional<std::vector<SearchedField>>

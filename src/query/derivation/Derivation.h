@@ -51,6 +51,8 @@ public:
     // Whether only the result's fields tell what kind it is: a star can bring equal names from several
     // tables.
     bool needsFields() const;
+    // Whether its list leaves rows out, so that other fields mean other rows.
+    bool isDistinct() const { return m_parts.isDistinct; }
     // Whether it selects from more than one table.
     bool isJoined() const { return m_parts.sources.size() > 1; }
 

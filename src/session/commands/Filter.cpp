@@ -15,41 +15,58 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString askUser(Session &session)
+// Shows the records that meet a condition. What the database says against it goes to `refusal` where one is
+// given, else to the user.
+void filterBy(Session &session, FilterManagerRollback &ground, const QString &condition, QString *refusal)
 {
-    return session.questions().askCondition(session.conditionRequest());
+    session.setLastFilter(condition);
+    QString statement;
+    const QString added = session.rules().trimsCondition ? condition.trimmed() : condition;
+    if (!added.trimmed().isEmpty() && session.addCondition(added, statement) &&
+        session.reloadFiltered(statement, true, refusal))
+        ground.keepChanges();
 }
 
-// Nothing when there is no statement to filter, and when the host put another result in its place.
-std::optional<QString> askHost(Session &session, const FilterManagerRollback &ground)
+// Asks until the database takes the condition or the user cancels.
+void askUser(Session &session, FilterManagerRollback &ground)
+{
+    ConditionRequest request = session.conditionRequest();
+    do {
+        const QString condition = session.questions().askCondition(request);
+        if (!ground.isResultUntouched())
+            return;
+        request.refusal.clear();
+        filterBy(session, ground, condition, &request.refusal);
+    } while (!request.refusal.isEmpty() && ground.isResultUntouched());
+}
+
+// Asks the host, and the user unless the host takes over. Neither when there is no statement to filter, or
+// when the host puts another result in its place.
+void askHost(Session &session, FilterManagerRollback &ground)
 {
     session.texts.passQurryFilter.clear();
     QString base;
     colShowSQLSentences &history = ground.manager().SQLManager();
     if (!(session.isFromResult() ? history.GetLatestSQL(base) : history.GetFirstSQL(base)))
-        return {};
+        return;
     constexpr qint32 leftToTheDialog = 1;
     qint32 cancel = leftToTheDialog;
     session.host().askFilter(cancel, base);
     if (!ground.isResultUntouched())
-        return {};
-    return cancel == leftToTheDialog ? askUser(session) : session.texts.passQurryFilter;
+        return;
+    if (cancel == leftToTheDialog)
+        askUser(session, ground);
+    else
+        filterBy(session, ground, session.texts.passQurryFilter, nullptr);
 }
 
 void filterByDialog(Session &session)
 {
     FilterManagerRollback rollback(session);
-    const WindowRules &rules = session.rules();
-    const std::optional<QString> condition =
-        rules.asksHostForCondition ? askHost(session, rollback) : askUser(session);
-    if (!condition || !rollback.isResultUntouched())
-        return;
-    session.setLastFilter(*condition);
-    QString statement;
-    const QString added = rules.trimsCondition ? condition->trimmed() : *condition;
-    if (!added.trimmed().isEmpty() && session.addCondition(added, statement) &&
-        session.reloadFiltered(statement, true))
-        rollback.keepChanges();
+    if (session.rules().asksHostForCondition)
+        askHost(session, rollback);
+    else
+        askUser(session, rollback);
 }
 
 const Command::Registration registration({

@@ -16,7 +16,21 @@ bool hasPartStatement(const colShowSQLSentences &history)
     return latest && latest->GetCurrUsePartFieldSQL(partStatement);
 }
 
-// Without a part statement "All" is pressed, and nothing else changes.
+// All that there is.
+void showAllInstead(Session &session, FilterManagerRollback &rollback)
+{
+    constexpr qint32 allFieldsStatement = 1;
+    const QStringList all = session.columns().fieldsShownBy(FieldView::All);
+    if (!session.columns().hasColumnsFor(all)) {
+        showFields(session, rollback.manager().GetCurrentSQL20(allFieldsStatement), FieldView::All, rollback);
+        return;
+    }
+    session.setFieldView(FieldView::All);
+    session.layOutColumns();
+    session.window().refreshSingleRecord();
+}
+
+// Without a part statement all fields are shown.
 void showPartFields(Session &session)
 {
     session.columns().SaveColumnWidths();
@@ -25,7 +39,7 @@ void showPartFields(Session &session)
     if (hasPartStatement(session.history()))
         statement = rollback.manager().GetCurrentSQL20(PartFieldsStatement);
     if (statement.isEmpty())
-        session.window().setPressed(CommandKeys::All, true);
+        showAllInstead(session, rollback);
     else
         showFields(session, statement, FieldView::Part, rollback);
 }

@@ -52,7 +52,7 @@ void selectFields(Session &session)
     const QString chosenFields = history.GetFieldsStatement(statement);
     session.columns().SaveColumnWidths();
     std::optional<ResultSet::Opened> opened;
-    if (session.rules().alwaysOpensFields ||
+    if (session.rules().alwaysOpensFields || history.IsDistinct(statement) ||
         !session.columns().hasColumnsFor(namesOf(session, chosenFields))) {
         opened = session.read(statement);
         if (!opened)

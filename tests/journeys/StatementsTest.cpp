@@ -1,0 +1,310 @@
+// The statements of statements.cases in the grid, on every engine that takes them: after each command the
+// rows are those that a loop over the statement's own rows takes, and the way back leads to all of them.
+#include "EngineJourney.h"
+
+#include "query/support/CaseFile.h"
+#include "support/Dialogs.h"
+
+#include <KOVAVSFDataGridLib/ado/Connection.h>
+#include <KOVAVSFDataGridLib/ado/Error.h>
+#include <KOVAVSFDataGridLib/ado/Recordset.h>
+
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QTreeWidget>
+
+#include <algorithm>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Texts = std::vector<QStringList>;
+
+struct Answer
+{
+    QStringList names;
+    Texts rows;
+};
+
+class EngineStatements : public EngineTest
+{
+protected:
+    void SetUp() override
+    {
+        EngineTest::SetUp();
+        if (IsSkipped())
+            return;
+        const QString collation =
+            engine.isMariaDb() ? u" CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin"_s : QString();
+        database->run(
+            {u"DROP TABLE IF EXISTS Item"_s, u"DROP TABLE IF EXISTS Ord"_s, u"DROP TABLE IF EXISTS Cust"_s,
+             u"DROP TABLE IF EXISTS 客户"_s,
+             u"CREATE TABLE Cust(ID INTEGER PRIMARY KEY, Name VARCHAR(40), City VARCHAR(40))"_s + collation,
+             u"INSERT INTO Cust VALUES (1,'anna','B'),(2,'bob','A'),(3,'cid','B'),(4,'b order by c','A')"_s,
+             u"CREATE TABLE Ord(ID INTEGER PRIMARY KEY, Name VARCHAR(40), Qty INTEGER, Price DECIMAL(8,2), "
+             "Cust INTEGER)"_s +
+                 collation,
+             u"INSERT INTO Ord VALUES (1,'bob',5,1.5,1),(2,'anna',2,2.25,2),(3,'zoe',1,9,1),"
+             "(4,'a order by b',3,4,3),(5,'x where y',2,0.5,2),(6,' FROM x',NULL,3,1),(7,'anna',4,2.25,3),"
+             "(8,NULL,1,8,4)"_s,
+             u"CREATE TABLE Item(Ord INTEGER, Item VARCHAR(40), N INTEGER)"_s + collation,
+             u"INSERT INTO Item VALUES (1,'tea',3),(1,'cup',0),(2,'tea',1),(3,'pot',2),(7,'jug',5),(7,'tea',4)"_s,
+             u"CREATE TABLE 客户(名称 VARCHAR(20), 城市 VARCHAR(20))"_s + collation,
+             u"INSERT INTO 客户 VALUES ('甲','北京'),('乙','上海'),('丙',''),('丁','北京')"_s});
+        connection = std::make_shared<ADODB::Connection>();
+        connection->Open(database->connectionString());
+    }
+
+    // Nothing where the engine doesn't take the statement.
+    std::optional<Answer> read(const QString &statement) const
+    {
+        try {
+            ADODB::Recordset records;
+            records.Open(statement, connection);
+            Answer answer;
+            for (int field = 0; field < records.Fields().Count(); ++field)
+                answer.names.append(records.Fields().Item(field).Name());
+            for (qint64 record = 1; record <= records.RecordCount(); ++record) {
+                QStringList row;
+                for (int field = 0; field < answer.names.size(); ++field)
+                    row.append(records.CellText(record, field));
+                answer.rows.push_back(row);
+            }
+            return answer;
+        } catch (const ADODB::Error &) {
+            return std::nullopt;
+        }
+    }
+
+    Answer shown() const
+    {
+        Answer answer;
+        answer.names = hands->columns();
+        const QAbstractItemModel &model = *hands->table->model();
+        for (int row = 0; row < hands->rows(); ++row) {
+            QStringList texts;
+            for (int col = 0; col < model.columnCount(); ++col) {
+                if (!hands->table->isColumnHidden(col))
+                    texts.append(model.index(row, col).data().toString());
+            }
+            answer.rows.push_back(texts);
+        }
+        return answer;
+    }
+
+    void expectShown(Answer expected, const char *after) const
+    {
+        Answer actual = shown();
+        std::sort(actual.rows.begin(), actual.rows.end());
+        std::sort(expected.rows.begin(), expected.rows.end());
+        EXPECT_EQ(actual.names, expected.names) << after << '\n' << qUtf8Printable(hands->statement());
+        EXPECT_TRUE(actual.rows == expected.rows)
+            << after << '\n'
+            << qUtf8Printable(hands->statement()) << '\n'
+            << actual.rows.size() << " rows instead of " << expected.rows.size();
+        EXPECT_TRUE(hands->messages.shown().empty())
+            << after << '\n'
+            << qUtf8Printable(hands->messages.texts().join(u'|')) << '\n'
+            << qUtf8Printable(hands->statement());
+        hands->messages.clear();
+    }
+
+    void back(const Answer &all)
+    {
+        hands->click(u"ToPreview"_s);
+        expectShown(all, "ToPreview");
+    }
+
+    // Whether the command can be used; one that can't says why.
+    bool canUse(const QString &key)
+    {
+        const QAction &action = *hands->button(key);
+        if (!action.isEnabled())
+            ADD_FAILURE() << qUtf8Printable(key) << ' ' << qUtf8Printable(action.toolTip());
+        return action.isEnabled();
+    }
+
+    // Keeps the rows with the text of this row in this column.
+    static Answer sameText(const Answer &all, qsizetype column, const QString &text)
+    {
+        Answer kept = all;
+        std::erase_if(kept.rows, [&](const QStringList &row) { return row.at(column) != text; });
+        return kept;
+    }
+
+    void filterByCells(const Answer &all)
+    {
+        const auto columns = static_cast<int>(all.names.size());
+        const auto rows = static_cast<int>(std::min<std::size_t>(all.rows.size(), 9));
+        for (int column = 0; column < columns; ++column) {
+            // Servers are far and their tables the same: one row a column is enough there.
+            const int step = engine.store == JourneyEngine::Server ? std::max(rows, 1) : 1;
+            for (int row = step > 1 ? column % std::max(rows, 1) : 0; row < rows; row += step) {
+                const QString text = all.rows.at(static_cast<std::size_t>(row)).at(column);
+                hands->choose(14, row + 1, column + 1);
+                if (!hands->messages.shown().empty()) { // a type that has no such filter
+                    EXPECT_TRUE(hands->messages.texts().first().contains(u"过滤"))
+                        << qUtf8Printable(hands->messages.texts().first()) << '\n'
+                        << qUtf8Printable(hands->statement());
+                    hands->messages.clear();
+                    expectShown(all, "a refused cell filter");
+                    continue;
+                }
+                expectShown(sameText(all, column, text), "the cell filter");
+                back(all);
+            }
+        }
+    }
+
+    void filterByWords(const Answer &all)
+    {
+        const QString word = u"an"_s;
+        Answer kept = all;
+        std::erase_if(kept.rows, [&](const QStringList &row) { return row.filter(word).isEmpty(); });
+        WindowAnswers dialogs({[&](QDialog &dialog) { Hands::find(dialog, word); }});
+        hands->click(u"QuickFilter"_s);
+        expectShown(kept, "the quick filter");
+        back(all);
+    }
+
+    void filterByBuilder(const Answer &all)
+    {
+        for (qsizetype column = 0; column < all.names.size(); ++column) {
+            const QString text = all.rows.empty() ? QString() : all.rows.front().at(column);
+            if (text.isEmpty() || text != text.trimmed() || all.names.count(all.names.at(column)) > 1 ||
+                text == u"True" || text == u"False")
+                continue;
+            bool isOffered = false;
+            WindowAnswers dialogs({[&](QDialog &dialog) {
+                isOffered = part<QComboBox>(dialog, "cmbField1").findText(all.names.at(column)) >= 0;
+                if (isOffered)
+                    buildFilter(dialog, all.names.at(column), u"等于"_s, text);
+                else
+                    dialog.reject();
+            }});
+            hands->click(u"Filter"_s);
+            EXPECT_TRUE(isOffered) << qUtf8Printable(all.names.at(column));
+            if (!isOffered)
+                continue;
+            expectShown(sameText(all, column, text), "the filter builder");
+            back(all);
+        }
+    }
+
+    void sort(const Answer &all)
+    {
+        bool isComplete = false;
+        WindowAnswers dialogs({[&](QDialog &dialog) {
+                                   const auto &fields = part<QComboBox>(dialog, "cmbFields");
+                                   isComplete = fields.count() == all.names.size();
+                                   Hands::sort(dialog, {fields.itemText(fields.count() - 1)}, true);
+                               },
+                               [](QDialog &dialog) { Hands::sort(dialog, {}); }});
+        hands->click(u"Sort"_s);
+        expectShown(all, "the sort");
+        const Texts rows = shown().rows;
+        QStringList seen;
+        for (const QStringList &row : isComplete ? rows : Texts()) {
+            if (seen.isEmpty() || seen.last() != row.last()) {
+                EXPECT_FALSE(seen.contains(row.last()))
+                    << "not sorted: " << qUtf8Printable(hands->statement());
+                seen.append(row.last());
+            }
+        }
+        hands->click(u"Sort"_s);
+        expectShown(all, "an emptied sort");
+        back(all);
+        back(all);
+    }
+
+    void chooseFields(const Answer &all, bool distinct)
+    {
+        const QString name = all.names.last();
+        Answer expected;
+        for (const QStringList &row : all.rows) {
+            QStringList kept;
+            for (qsizetype i = 0; i < row.size(); ++i) {
+                if (all.names.at(i) == name)
+                    kept.append(row.at(i));
+            }
+            if (!distinct ||
+                std::find(expected.rows.begin(), expected.rows.end(), kept) == expected.rows.end())
+                expected.rows.push_back(kept);
+        }
+        for (const QString &other : all.names) {
+            if (other == name)
+                expected.names.append(other);
+        }
+        WindowAnswers dialogs({[&](QDialog &dialog) { Hands::tick(dialog, {name}); }});
+        hands->click(u"SelField"_s);
+        expectShown(expected, "the field choice");
+        hands->click(u"All"_s);
+        expectShown(all, "All");
+        hands->click(u"Part"_s);
+        expectShown(expected, "Part");
+        back(all);
+        hands->click(u"ToOrigin"_s);
+        expectShown(all, "ToOrigin");
+    }
+
+    void showWholeTable(const Answer &all, const QString &whole)
+    {
+        const auto expected = whole.isEmpty() ? std::optional(all) : read(whole);
+        ASSERT_TRUE(expected.has_value()) << qUtf8Printable(whole);
+        hands->click(u"ToFullTable"_s);
+        expectShown({all.names, expected->rows}, "the whole table");
+        back(all);
+    }
+
+    std::shared_ptr<ADODB::Connection> connection;
+};
+
+TEST_P(EngineStatements, AreShownWithTheRowsThatALoopTakes)
+{
+    int taken = 0;
+    QStringList left;
+    for (const Case &c : ReadCases(u"statements.cases"_s)) {
+        SCOPED_TRACE(c.place.toStdString());
+        const QString statement = c[u"statement"_s];
+        const auto all = read(statement);
+        if (!all) {
+            left.append(c.place);
+            continue; // another engine's words
+        }
+        ++taken;
+        ASSERT_TRUE(hands->load(statement, {})) << qUtf8Printable(hands->messages.texts().join(u'|'));
+        expectShown(*all, "the load");
+        for (const char *key : {"Filter", "QuickFilter", "Sort", "SelField"})
+            EXPECT_TRUE(canUse(QString::fromLatin1(key)));
+        if (HasFailure())
+            return;
+        filterByCells(*all);
+        filterByWords(*all);
+        filterByBuilder(*all);
+        sort(*all);
+        chooseFields(*all, statement.contains(u"distinct", Qt::CaseInsensitive));
+        showWholeTable(*all, c[u"whole"_s]);
+        if (HasFailure())
+            return;
+    }
+    std::printf("%s takes %d statements; left out: %s\n", engine.name, taken, qPrintable(left.join(u' ')));
+    EXPECT_GE(taken, engine.store == JourneyEngine::SqliteFile ? 60 : 40);
+}
+
+const std::vector<JourneyEngine> &enginesOfStatements()
+{
+    static const std::vector<JourneyEngine> engines = [] {
+        std::vector<JourneyEngine> some = journeyEngines();
+        std::erase_if(some, [](const JourneyEngine &engine) { // two ways to an engine that is there
+            return QLatin1StringView(engine.name).contains(QLatin1StringView("Through"));
+        });
+        return some;
+    }();
+    return engines;
+}
+
+INSTANTIATE_TEST_SUITE_P(Engines, EngineStatements, testing::ValuesIn(enginesOfStatements()),
+                         [](const auto &engine) { return std::string(engine.param.name); });
+
+} // namespace
