@@ -193,7 +193,7 @@ TEST_F(Layout, FittingSharesTheWidthAmongShownColumnsAndLeavesHiddenOnes)
     ASSERT_TRUE(record(Statement, FieldView::All, true, {}));
     grid.PutColWidth(2, 0);
     columns.fitColumns(ControlRules.roundWidth);
-    const int share = (1000 * 15 - 260 - 600) / 3;
+    const int share = (1000 * 15 - 260 - 600) / 2;
     EXPECT_EQ(widths(), QList<int>({share, 0, share}));
 }
 

@@ -38,7 +38,8 @@ struct HandBack : LoadedParts
     }
     bool showFullScreen()
     {
-        return ShowFullScreen(control, *session, parts, [this](QWidget *, const ConditionRequest &) { return askCondition(); });
+        return ShowFullScreen(control, *session, parts,
+                              [this](QWidget *, const ConditionRequest &) { return askCondition(); });
     }
     bool isRequeried() const { return host.filtersWritten > 0; }
     bool isAll() const { return session->fieldView() == FieldView::All; }

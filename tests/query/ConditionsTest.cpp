@@ -48,6 +48,24 @@ TEST(QuickFilter, QuotesNamesThatNeedItOnServers)
     EXPECT_EQ(like(dbOracle, u"x"_s, {{u"A B"_s, {}}}), u" (\"A B\" LIKE '%x%' ) "_s);
 }
 
+TEST(QuickFilter, WritesForAccessWhatTheEngineReads)
+{
+    const std::vector<TypedField> fields{{u"A B"_s, 202}, {u"name"_s, 202}, {u"a]b"_s, 202}};
+    const auto written = [&](Engine engine) {
+        QString condition;
+        EXPECT_TRUE(BuildLikeCondition(u"x"_s, fields, kFromT, dbAccess, condition, engine));
+        return condition;
+    };
+    EXPECT_EQ(written(Engine::Access),
+              u" (T.[A B] LIKE '%x%' OR T.[name] LIKE '%x%' OR T.[a]]b] LIKE '%x%' ) "_s);
+    EXPECT_EQ(written(Engine::SQLite),
+              u" (T.[A B] LIKE '%x%' OR T.[name] LIKE '%x%' OR T.\"a]b\" LIKE '%x%' ) "_s);
+    EXPECT_EQ(written(Engine::PostgreSQL),
+              u" (CAST(\"A B\" AS TEXT) LIKE '%x%' OR CAST(\"name\" AS TEXT) LIKE '%x%' OR "
+              "CAST(\"a]b\" AS TEXT) LIKE '%x%' ) "_s);
+    EXPECT_EQ(written(Engine::MySQL), u" (`A B` LIKE '%x%' OR `name` LIKE '%x%' OR `a]b` LIKE '%x%' ) "_s);
+}
+
 TEST(QuickFilter, LeavesOutFieldsThatCannotBeSearchedOnAccess)
 {
     EXPECT_EQ(like(dbAccess, u"x"_s, {{u"A"_s, 11}, {u"B"_s, 3}}), u" (T.[B] LIKE '%x%' ) "_s);

@@ -8,6 +8,7 @@
 #include "ado/Recordset.h"
 #include "ado/connection/EngineOf.h"
 #include "query/conditions/Conditions.h"
+#include "query/derivation/SqlText.h"
 #include "servers/OdbcSession.h"
 #include "servers/Servers.h"
 #include "sql/Literals.h"
@@ -139,7 +140,7 @@ TEST_P(DerivationServers, DerivedStatementsHaveTheRowsOfALoop)
     int taken = 0;
     for (const Case &c : ReadCases(u"statements.cases"_s)) {
         SCOPED_TRACE(c.place.toStdString());
-        const QString statement = c[u"statement"_s];
+        const QString statement = joinStatementLines(c[u"statement"_s]);
         Result all;
         try {
             all = read(statement);

@@ -5,6 +5,7 @@
 #include "CaseFile.h"
 #include "SampleDatabase.h"
 #include "query/conditions/Conditions.h"
+#include "query/derivation/SqlText.h"
 
 #include <QtCore/QSet>
 #include <gtest/gtest.h>
@@ -268,7 +269,7 @@ TEST(DerivationWalk, ShowsTheRowsOfAModelAfterEveryStep)
         SCOPED_TRACE(c.place.toStdString());
         SCOPED_TRACE("seed " + std::to_string(seed));
         std::mt19937 random(seed);
-        Walk walk(*database, c[u"statement"_s], random);
+        Walk walk(*database, joinStatementLines(c[u"statement"_s]), random);
         for (int step = 0; step < steps && !testing::Test::HasFailure(); ++step)
             walk.step();
         if (testing::Test::HasFailure())
@@ -324,7 +325,8 @@ TEST(DerivationProperties, NoCellsTextChangesAStatementsStructure)
                              u"客户"_s};
     for (const Case &c : ReadCases(u"statements.cases"_s)) {
         SCOPED_TRACE(c.place.toStdString());
-        const Derivation derivation(c[u"statement"_s], database->fields(c[u"statement"_s]),
+        const Derivation derivation(joinStatementLines(c[u"statement"_s]),
+                                    database->fields(joinStatementLines(c[u"statement"_s])),
                                     dialectOf(dbAccess, Engine::SQLite));
         QString structures[3];
         for (int round = 0; round < 40; ++round) {

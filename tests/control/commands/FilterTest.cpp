@@ -38,6 +38,37 @@ TEST_F(Filters, TheDialogsConditionIsAppliedAndRecorded)
     EXPECT_EQ(rows(), records);
 }
 
+TEST_F(Filters, ARefusedConditionComesBackAsItWasTyped)
+{
+    ASSERT_TRUE(load());
+    const QString refused = u"abs(-9223372036854775808) = ID"_s; // which only running it shows
+    WindowAnswers dialogs({[&](QDialog &dialog) { filter(dialog, refused); },
+                           [&](QDialog &dialog) {
+                               EXPECT_EQ(part<QLineEdit>(dialog, "txtCondition").text(), refused);
+                               const QString notice = part<QLabel>(dialog, "lblNotice").text();
+                               EXPECT_TRUE(notice.contains(u"integer overflow")) << qUtf8Printable(notice);
+                               EXPECT_EQ(rows(), records);
+                               filter(dialog, u"ID > 9"_s);
+                           }});
+    click(u"Filter"_s);
+    EXPECT_EQ(rows(), 3);
+    EXPECT_EQ(grid.SQLFilter(), u"SELECT * FROM 商品  WHERE ID > 9 "_s);
+    EXPECT_TRUE(messages.shown().empty());
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), records);
+}
+
+TEST_F(Filters, WhoGivesARefusedConditionUpKeepsWhatIsShown)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[&](QDialog &dialog) { filter(dialog, u"abs(-9223372036854775808) = ID"_s); },
+                           [](QDialog &dialog) { cancel(dialog); }});
+    click(u"Filter"_s);
+    EXPECT_EQ(rows(), records);
+    EXPECT_EQ(statement(), statementOfAll());
+    EXPECT_TRUE(messages.shown().empty());
+}
+
 TEST_F(Filters, WhoFindsNothingIsToldTheWayBack)
 {
     ASSERT_TRUE(load());

@@ -123,6 +123,59 @@ TEST_F(RecordsOf, ARowHeadingsRowBecomesCurrentBeforeTheMenu)
     EXPECT_EQ(listed(u"ID"_s), u"7"_s);
 }
 
+TEST_F(RecordsOf, AHeadingAndThePlaceBelowTheLastRowHaveTheMenuToo)
+{
+    ASSERT_TRUE(load());
+    clickCell(4, 1);
+    const auto chooseAt = [&](QWidget *place, QPoint where) {
+        WindowAnswers windows;
+        windows.clickInMenu(u"PopMnuDataAction5"_s);
+        QTest::mouseClick(place, Qt::RightButton, {}, where);
+        EXPECT_TRUE(windows.wasMenuShown());
+        EXPECT_EQ(listed(u"ID"_s), u"4"_s) << "the current row stays the one meant";
+        click(u"AllRecord"_s);
+    };
+    chooseAt(table->horizontalHeader()->viewport(), {20, 5});
+    chooseAt(table->viewport(), {20, table->viewport()->height() - 3});
+}
+
+TEST_F(RecordsOf, AHeadingsMenuMeansTheCurrentRowWhereverTheRowsAreScrolled)
+{
+    database.run(u"WITH RECURSIVE n(i) AS (SELECT 100 UNION ALL SELECT i+1 FROM n WHERE i < 300)"
+                 " INSERT INTO 商品(ID,名称) SELECT i, '茶' FROM n"_s);
+    ASSERT_TRUE(load());
+    grid.SetGridRow(150);
+    table->scrollTo(table->model()->index(149, 0), QAbstractItemView::PositionAtTop);
+    WindowAnswers windows;
+    windows.clickInMenu(u"PopMnuDataAction5"_s);
+    QTest::mouseClick(table->horizontalHeader()->viewport(), Qt::RightButton, {}, {20, 5});
+    EXPECT_EQ(grid.GetGridRowL(), 150);
+}
+
+TEST_F(RecordsOf, TheRowShownCurrentIsMeantAfterTheHostHasWalkedToTheEnd)
+{
+    ASSERT_TRUE(load());
+    clickCell(3, 4);
+    const auto walk = [&] {
+        QObject *const recordset = grid.RecordSet();
+        QMetaObject::invokeMethod(recordset, "MoveFirst");
+        while (!recordset->property("EOF").toBool())
+            QMetaObject::invokeMethod(recordset, "MoveNext");
+        return QString::number(grid.GetGridRowL());
+    };
+    const QString row = walk();
+    click(u"SingleRecord"_s);
+    EXPECT_EQ(listed(u"ID"_s), row);
+    click(u"AllRecord"_s);
+    walk();
+    messages.answerNext(QMessageBox::Yes);
+    choose(9, row.toInt()); // deletion
+    EXPECT_EQ(database.ask(u"SELECT count(*) FROM 商品 WHERE ID = "_s + row), u"0"_s);
+    walk();
+    click(u"CompressView"_s);
+    EXPECT_EQ(pageLabel->text().contains(u"0/"), false);
+}
+
 TEST_F(RecordsOf, TheMenuKeyOpensTheMenu)
 {
     ASSERT_TRUE(load());

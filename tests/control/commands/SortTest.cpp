@@ -3,6 +3,8 @@
 
 #include "support/Dialogs.h"
 
+#include <QtWidgets/QComboBox>
+
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
 
@@ -83,4 +85,23 @@ TEST_F(OracleSort, TheViewersDialogQuotesAlike)
     click(u"FullScreen"_s);
     EXPECT_TRUE(statement().endsWith(u"ORDER BY \"Unit Price\" DESC"_s)) << qUtf8Printable(statement());
     EXPECT_EQ(texts(u"ID"_s).first(), u"2"_s);
+}
+
+TEST_F(Sort, ComputedFieldsAreOfferedUnderTheirHeadings)
+{
+    ASSERT_TRUE(load(u"SELECT ID AS 编号, -ID AS 倒数, \"Unit Price\" FROM 商品"_s, {}));
+    QStringList offered;
+    WindowAnswers dialogs({[&](QDialog &dialog) {
+                               const auto &fields = part<QComboBox>(dialog, "cmbFields");
+                               for (int i = 0; i < fields.count(); ++i)
+                                   offered.append(fields.itemText(i));
+                               sort(dialog, {u"倒数"_s});
+                           },
+                           [](QDialog &dialog) { sort(dialog, {}); }});
+    click(u"Sort"_s);
+    EXPECT_EQ(offered, QStringList({u"编号"_s, u"倒数"_s, u"[Unit Price]"_s}));
+    EXPECT_EQ(texts(u"编号"_s).first(), u"12"_s) << qUtf8Printable(statement());
+    click(u"Sort"_s);
+    EXPECT_EQ(texts(u"编号"_s).first(), u"1"_s) << "an emptied list removes the sort";
+    EXPECT_FALSE(statement().contains(u"ORDER BY"));
 }

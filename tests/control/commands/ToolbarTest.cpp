@@ -296,3 +296,44 @@ TEST_F(Toolbar, SetFieldNameAndSetSortFnAskAsTheButtonsDo)
     grid.SetSortFN();
     EXPECT_EQ(texts(u"名称"_s).first(), u"白茶"_s);
 }
+
+TEST_F(Toolbar, PartWithoutAPartStatementShowsAllFields)
+{
+    ASSERT_TRUE(load());
+    click(u"Part"_s);
+    EXPECT_EQ(columns(), PartColumns);
+    ASSERT_TRUE(load(statementOfAll(), {})); // the part view stays
+    WindowAnswers dialogs({[](QDialog &dialog) { tick(dialog, {u"ID"_s}); }});
+    click(u"SelField"_s);
+    EXPECT_EQ(columns(), QStringList(u"ID"_s));
+    click(u"ToOrigin"_s);
+    click(u"Part"_s);
+    EXPECT_TRUE(isPressed(u"All"_s));
+    EXPECT_EQ(columns(), AllColumns);
+}
+
+TEST_F(Toolbar, TheWayBackHidesNothingThatAllShowed)
+{
+    ASSERT_TRUE(load(u"SELECT ID,名称,城市 FROM 商品"_s));
+    click(u"All"_s);
+    const QStringList all{u"ID"_s, u"名称"_s, u"城市"_s};
+    EXPECT_EQ(columns(), all);
+    click(u"ToPreview"_s);
+    EXPECT_EQ(columns(), all);
+    click(u"ToOrigin"_s);
+    EXPECT_EQ(columns(), all);
+    EXPECT_TRUE(isPressed(u"All"_s));
+}
+
+TEST_F(Toolbar, RowsBeyondASixteenBitNumberAreCountedByTheLongCall)
+{
+    database.run(
+        u"CREATE TABLE 多 (ID INTEGER); WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n "
+        "WHERE i < 70000) INSERT INTO 多 SELECT i FROM n"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 多"_s, {}));
+    for (const qint32 row : {32767, 32768, 65537, 70000}) {
+        grid.SetGridRow(row);
+        EXPECT_EQ(grid.GetGridRow(), 32767);
+        EXPECT_EQ(grid.GetGridRowL(), row);
+    }
+}
