@@ -142,7 +142,10 @@ std::vector<FilterField> FilterSource::readOfferedFields()
         const OfferedField &field = m_offered.at(static_cast<qsizetype>(i));
         const int times = ++timesUsed[field.name];
         const QString caption = times == 1 ? field.name : u"%1 (%2)"_s.arg(field.name).arg(times);
-        fields.push_back({caption, field.written, fieldClassOf(infos[i].type)});
+        // An open result knows more than a description where values have types of their own.
+        const auto type =
+            field.adoType != 0 ? static_cast<ADODB::DataTypeEnum>(field.adoType) : infos[i].type;
+        fields.push_back({caption, field.written, fieldClassOf(type)});
     }
     return fields;
 }

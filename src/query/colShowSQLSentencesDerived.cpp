@@ -1,10 +1,22 @@
 #include "query/colShowSQLSentences.h"
 
+#include "query/conditions/Conditions.h"
+
 #include <algorithm>
 
 // Where statements are derived by their clauses instead of as plain text.
 
 namespace KOVAVSFDataGridLib {
+
+namespace {
+
+// A text can hold the words that GetTableOfSQL looks for.
+bool isTableFoundAsText(const QString &statement, const Derivation &derivation)
+{
+    return GetTableOfSQL(statement) == derivation.source();
+}
+
+} // namespace
 
 Engine colShowSQLSentences::engineOf(const QString &connectionString) const
 {
@@ -62,7 +74,7 @@ std::optional<FilteredResult> colShowSQLSentences::GetFilteredResult() const
 {
     const clsShowSQLSentence *const latest = Latest();
     const auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
-    if (!all || (all->isSimple() && !all->isJoined()))
+    if (!all || (all->isSimple() && !all->isJoined() && isTableFoundAsText(latest->AllFields, *all)))
         return std::nullopt;
     return all->filteredResult();
 }
@@ -72,7 +84,8 @@ QString colShowSQLSentences::GetConditionName(const clsDataField &field) const
     const clsShowSQLSentence *const latest = Latest();
     const auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
     // Of several tables, more than one can have a field of that name.
-    const bool isWritten = all && (all->isJoined() || !all->isTextWork(DerivationStep::Condition));
+    const bool isWritten = all && (all->isJoined() || !all->isTextWork(DerivationStep::Condition) ||
+                                   !isTableFoundAsText(latest->AllFields, *all));
     return isWritten ? field.FieldWholeName : QString();
 }
 

@@ -160,8 +160,11 @@ protected:
     void filterByWords(const Answer &all)
     {
         const QString word = u"an"_s;
+        // Which letters are alike is the engine's and its tables' affair.
+        const bool isExact = engine.store == JourneyEngine::Server;
+        const auto letters = isExact ? Qt::CaseSensitive : Qt::CaseInsensitive;
         Answer kept = all;
-        std::erase_if(kept.rows, [&](const QStringList &row) { return row.filter(word).isEmpty(); });
+        std::erase_if(kept.rows, [&](const QStringList &row) { return row.filter(word, letters).isEmpty(); });
         WindowAnswers dialogs({[&](QDialog &dialog) { Hands::find(dialog, word); }});
         hands->click(u"QuickFilter"_s);
         expectShown(kept, "the quick filter");
@@ -176,15 +179,18 @@ protected:
                 text == u"True" || text == u"False")
                 continue;
             bool isOffered = false;
+            QString notice;
             WindowAnswers dialogs({[&](QDialog &dialog) {
                 isOffered = part<QComboBox>(dialog, "cmbField1").findText(all.names.at(column)) >= 0;
                 if (isOffered)
                     buildFilter(dialog, all.names.at(column), u"等于"_s, text);
-                else
+                else {
+                    notice = part<QLabel>(dialog, "lblNotice").text();
                     dialog.reject();
+                }
             }});
             hands->click(u"Filter"_s);
-            EXPECT_TRUE(isOffered) << qUtf8Printable(all.names.at(column));
+            EXPECT_TRUE(isOffered) << qUtf8Printable(all.names.at(column)) << qUtf8Printable(notice);
             if (!isOffered)
                 continue;
             expectShown(sameText(all, column, text), "the filter builder");
@@ -277,16 +283,13 @@ TEST_P(EngineStatements, AreShownWithTheRowsThatALoopTakes)
         expectShown(*all, "the load");
         for (const char *key : {"Filter", "QuickFilter", "Sort", "SelField"})
             EXPECT_TRUE(canUse(QString::fromLatin1(key)));
-        if (HasFailure())
-            return;
         filterByCells(*all);
         filterByWords(*all);
         filterByBuilder(*all);
         sort(*all);
         chooseFields(*all, statement.contains(u"distinct", Qt::CaseInsensitive));
-        showWholeTable(*all, c[u"whole"_s]);
-        if (HasFailure())
-            return;
+        if (c.Has(u"whole"_s) || !statement.contains(u"where", Qt::CaseInsensitive))
+            showWholeTable(*all, c[u"whole"_s]);
     }
     std::printf("%s takes %d statements; left out: %s\n", engine.name, taken, qPrintable(left.join(u' ')));
     EXPECT_GE(taken, engine.store == JourneyEngine::SqliteFile ? 60 : 40);

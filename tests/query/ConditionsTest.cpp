@@ -61,9 +61,9 @@ TEST(QuickFilter, WritesForAccessWhatTheEngineReads)
     EXPECT_EQ(written(Engine::SQLite),
               u" (T.[A B] LIKE '%x%' OR T.[name] LIKE '%x%' OR T.\"a]b\" LIKE '%x%' ) "_s);
     EXPECT_EQ(written(Engine::PostgreSQL),
-              u" (CAST(\"A B\" AS TEXT) LIKE '%x%' OR CAST(\"name\" AS TEXT) LIKE '%x%' OR "
+              u" (CAST(\"A B\" AS TEXT) LIKE '%x%' OR CAST(name AS TEXT) LIKE '%x%' OR "
               "CAST(\"a]b\" AS TEXT) LIKE '%x%' ) "_s);
-    EXPECT_EQ(written(Engine::MySQL), u" (`A B` LIKE '%x%' OR `name` LIKE '%x%' OR `a]b` LIKE '%x%' ) "_s);
+    EXPECT_EQ(written(Engine::MySQL), u" (`A B` LIKE '%x%' OR name LIKE '%x%' OR `a]b` LIKE '%x%' ) "_s);
 }
 
 TEST(QuickFilter, LeavesOutFieldsThatCannotBeSearchedOnAccess)

@@ -26,8 +26,7 @@ TEST(QuickFilterOnEngines, CastsWhereLikeStandsBehindTextsOnlyAndLeavesPicturesO
               u" (CAST(name AS TEXT) LIKE '%1%' OR CAST(price AS TEXT) LIKE '%1%' "
               "OR CAST(day AS TEXT) LIKE '%1%' ) "_s);
     EXPECT_EQ(quickFilter(Engine::PostgreSQL, dbAccess, u"1"_s),
-              u" (CAST(t.[name] AS TEXT) LIKE '%1%' OR CAST(t.[price] AS TEXT) LIKE '%1%' "
-              "OR CAST(t.[day] AS TEXT) LIKE '%1%' ) "_s);
+              quickFilter(Engine::PostgreSQL, dbOracle, u"1"_s));
 }
 
 TEST(QuickFilterOnEngines, WritesTheFieldsAsTheyAreOnAllOthers)
@@ -69,6 +68,8 @@ TEST(CellFilterOnEngines, ComparesNumbersAsNumbersWhereLikeTakesNone)
     EXPECT_EQ(condition(3, u"12"_s, Engine::PostgreSQL), u"F = 12"_s);
     EXPECT_EQ(condition(131, u"-0.50"_s, Engine::PostgreSQL), u"F = -0.50"_s);
     EXPECT_EQ(condition(4, u"0.1"_s, Engine::PostgreSQL), u"F = CAST(0.1 AS REAL)"_s);
+    EXPECT_EQ(buildCellFilter(u"F"_s, 20, u"9"_s, Engine::SQLite, true).condition,
+              u"(F = 9 OR F like '9')"_s);
     EXPECT_EQ(condition(72, u"{01}"_s, Engine::PostgreSQL), u"F = '{01}'"_s);
     EXPECT_EQ(condition(202, u"a%"_s, Engine::PostgreSQL), u"CAST(F AS TEXT) like 'a%'"_s);
     EXPECT_EQ(condition(202, uR"(a\b)"_s, Engine::MySQL), uR"(F like 'a\\\\b')"_s);

@@ -262,7 +262,7 @@ bool BuildLikeAllCondition(const QString &strText, const TypedField &field, cons
 }
 
 CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoType,
-                           const std::optional<QString> &cellText, Engine engine)
+                           const std::optional<QString> &cellText, Engine engine, bool isComputed)
 {
     // Narrower than the quick filter's classes on purpose: equality makes no sense for the types left out.
     static constexpr std::array<qint32, 12> numbers{2, 3, 4, 5, 14, 16, 18, 20, 21, 72, 131, 139};
@@ -275,6 +275,9 @@ CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoTyp
         return {{}, QueryTexts::TypeNotFiltered()};
     if (!cellText)
         return {realName + QStringLiteral(" IS NULL"), {}};
+    // 9 and 9.0 look alike, and SQLite computes either.
+    if (isComputed && engine == Engine::SQLite && IsNumber(*cellText))
+        return {QStringLiteral("(%1 = %2 OR %1 like '%2')").arg(realName, *cellText), {}};
     if (!isText)
         return {NumberCondition(realName, *adoType, *cellText, engine), {}};
     if (cellText->contains(u'\''))

@@ -50,9 +50,11 @@ struct CellFilter
     QString message;
 };
 
+// `isComputed` says that the values don't come from a column, whose declared type says how they are stored.
 // `cellText` is nothing for a Null value. An unknown type, or a field without a real name, gives an empty
 // answer.
 CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoType,
-                           const std::optional<QString> &cellText, Engine engine = Engine::Other);
+                           const std::optional<QString> &cellText, Engine engine = Engine::Other,
+                           bool isComputed = false);
 
 } // namespace KOVAVSFDataGridLib

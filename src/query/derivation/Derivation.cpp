@@ -255,7 +255,7 @@ FilteredResult Derivation::filteredResult() const
     FilteredResult result{prefix(), source(), {}};
     for (qsizetype i = 0; i < m_names.size(); ++i) {
         if (!m_written.at(i).isEmpty())
-            result.fields.append({m_names.at(i), m_written.at(i)});
+            result.fields.append({m_names.at(i), m_written.at(i), m_types[static_cast<std::size_t>(i)]});
     }
     return result;
 }

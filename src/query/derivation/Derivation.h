@@ -124,6 +124,7 @@ private:
     Dialect m_dialect;
     Kind m_kind = Kind::Closed;
     QStringList m_names;
+    std::vector<qint32> m_types;
     QHash<QString, int> m_countOfName; // by the name in one letter case
     QStringList m_written;
     QStringList m_listed;

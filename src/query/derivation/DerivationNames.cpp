@@ -58,6 +58,7 @@ void Derivation::nameFields(const std::vector<SourceField> &fields)
     }
     for (const SourceField &field : all) {
         m_names.append(field.name);
+        m_types.push_back(field.adoType);
         ++m_countOfName[field.name.toCaseFolded()];
     }
 

@@ -10,8 +10,9 @@ namespace KOVAVSFDataGridLib {
 
 struct OfferedField
 {
-    QString name;    // as the user reads it
-    QString written; // as statements write it
+    QString name;       // as the user reads it
+    QString written;    // as statements write it
+    qint32 adoType = 0; // 0 when it isn't known
 };
 
 // Lets the user choose. Each function returns when the user is done; nothing, or an empty text, means

@@ -28,7 +28,8 @@ CellCondition conditionOfCell(Session &session, int row, int col)
     // The statement that was opened, not the one that is called shown: "All" and "Part" only hide columns.
     const QString name =
         session.history().GetColumnRealName(recordset.Source(), session.window().Headings(), col - 1);
-    return buildCellFilter(name, field.Type(), text, session.result().engine());
+    return buildCellFilter(name, field.Type(), text, session.result().engine(),
+                           field.BaseColumnName().isEmpty());
 }
 
 void filterBySelectedCell(Session &session)

@@ -180,7 +180,9 @@ protected:
         click(u"QuickFilter"_s);
         push();
         // In all fields, shown or not.
-        std::erase_if(top().rows, [&](const QStringList &row) { return row.filter(word).isEmpty(); });
+        std::erase_if(top().rows, [&](const QStringList &row) {
+            return row.filter(word, Qt::CaseInsensitive).isEmpty();
+        });
         return "quick filter";
     }
 
