@@ -4,6 +4,8 @@
 #include "sql/Names.h"
 #include "sql/SqlScanner.h"
 
+#include <QtCore/QSet>
+
 #include <algorithm>
 
 namespace KOVAVSFDataGridLib {
@@ -205,7 +207,15 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
     };
     QStringList names;
     QStringList longBinaryNames;
+    QSet<QString> different;
     for (const SourceField &field : *fields) {
+        // Two tables of a join have it, and a bare name is neither's.
+        if (const QString folded = field.name.toCaseFolded(); !different.contains(folded)) {
+            different.insert(folded);
+        } else {
+            strRetSQL = strOrgSQL;
+            return true;
+        }
         QStringList &list = field.adoType == kLongVarBinary ? longBinaryNames : names;
         list.append(quoted(field.name));
     }

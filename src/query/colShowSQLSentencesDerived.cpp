@@ -73,9 +73,12 @@ QString colShowSQLSentences::GetColumnRealName(const QString &shownStatement, co
 std::optional<FilteredResult> colShowSQLSentences::GetFilteredResult() const
 {
     const clsShowSQLSentence *const latest = Latest();
-    const auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
+    auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
     if (!all || (all->isSimple() && !all->isJoined() && isTableFoundAsText(latest->AllFields, *all)))
         return std::nullopt;
+    // Under the names that the result has, not those that the statement writes.
+    if (const auto fields = m_reader->Read(m_connString, latest->AllFields))
+        all = m_derivations.of(latest->AllFields, *fields, dialectOf(m_database, engineOf(m_connString)));
     return all->filteredResult();
 }
 

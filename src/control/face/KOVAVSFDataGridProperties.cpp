@@ -9,6 +9,7 @@
 #include "query/derivation/SqlText.h"
 #include "query/modQNVSFHFDataMain.h"
 #include "session/commands/CommandKeys.h"
+#include "sql/SelectParts.h"
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QPushButton>
@@ -19,6 +20,13 @@ using namespace KOVAVSFDataGridLib;
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// The field list is looked for by its words alone, which comments and odd blanks can hide.
+bool selectsFromTable(const QString &statement)
+{
+    const SqlScanner scanned(statement);
+    return !SelectParts::of(scanned).source.isEmpty();
+}
 
 // Whether a widget was disabled by itself rather than along with a parent.
 bool isExplicitlyEnabled(const QWidget &widget)
@@ -221,10 +229,10 @@ QString KOVAVSFDataGrid::SQLPartDisplay() const
 void KOVAVSFDataGrid::PutSQLPartDisplay(const QString &statement)
 {
     d->session->texts.sqlPartDisplay = statement;
-    const auto failure = ParseSQLFieldList(joinStatementLines(statement),
-                                           static_cast<KOVAVSFDataGridLib::AllDBType>(DBType()));
+    const QString joined = joinStatementLines(statement);
+    const auto failure = ParseSQLFieldList(joined, static_cast<KOVAVSFDataGridLib::AllDBType>(DBType()));
     const QPointer<KOVAVSFDataGrid> alive(this);
-    if (failure) {
+    if (failure && !selectsFromTable(joined)) {
         Messages::show(this, GridTexts::FieldListFailed, GridTexts::FieldListFailedTitle,
                        QMessageBox::Critical);
         if (alive)

@@ -61,6 +61,7 @@ protected:
         hasFieldChoice = !statement.contains(u"distinct", Qt::CaseInsensitive) &&
                          QSet<QString>(names.begin(), names.end()).size() == names.size();
         shown = {first};
+        grid.PutShowModel(KOVAVSFDataGrid::ModelAll); // whatever the walk before left
         ASSERT_TRUE(load(statement, {}));
         compare();
     }
