@@ -16,6 +16,16 @@ bool isTableFoundAsText(const QString &statement, const Derivation &derivation)
     return GetTableOfSQL(statement) == derivation.source();
 }
 
+// Whether both select from a SELECT, but not from the same one: what the whole table has as its source lacks
+// the conditions that were in an earlier one.
+bool haveDifferentTables(const Derivation &a, const Derivation &b)
+{
+    const QString sourceA = a.source();
+    const QString sourceB = b.source();
+    return sourceA.startsWith(u'(') && sourceB.startsWith(u'(') &&
+           sourceA.simplified().compare(sourceB.simplified(), Qt::CaseInsensitive) != 0;
+}
+
 } // namespace
 
 Engine colShowSQLSentences::engineOf(const QString &connectionString) const
@@ -118,8 +128,9 @@ QString colShowSQLSentences::WithFieldsOf(const QString &statement, const QStrin
 {
     const auto derivation = DerivationOf(statement);
     const auto fields = DerivationOf(fieldStatement);
-    const bool isText =
-        !derivation || !fields || (derivation->isTextWork(DerivationStep::Fields) && fields->isSimple());
+    const bool isText = !derivation || !fields ||
+                        (derivation->isTextWork(DerivationStep::Fields) && fields->isSimple() &&
+                         !haveDifferentTables(*derivation, *fields));
     if (isText)
         return ReplaceSQLFieldPart(statement, fieldStatement);
     const QString derived = derivation->withFieldsOf(*fields);

@@ -138,8 +138,8 @@ protected:
         const auto columns = static_cast<int>(all.names.size());
         const auto rows = static_cast<int>(std::min<std::size_t>(all.rows.size(), 9));
         for (int column = 0; column < columns; ++column) {
-            // Servers are far and their tables the same: one row a column is enough there.
-            const int step = engine.store == JourneyEngine::Server ? std::max(rows, 1) : 1;
+            // Every cell on one engine; the others have the same tables and take longer.
+            const int step = engine.store == JourneyEngine::SqliteFile ? 1 : std::max(rows, 1);
             for (int row = step > 1 ? column % std::max(rows, 1) : 0; row < rows; row += step) {
                 const QString text = all.rows.at(static_cast<std::size_t>(row)).at(column);
                 hands->choose(14, row + 1, column + 1);
