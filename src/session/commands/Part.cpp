@@ -19,10 +19,9 @@ bool hasPartStatement(const colShowSQLSentences &history)
 // All that there is.
 void showAllInstead(Session &session, FilterManagerRollback &rollback)
 {
-    constexpr qint32 allFieldsStatement = 1;
     const QStringList all = session.columns().fieldsShownBy(FieldView::All);
     if (!session.columns().hasColumnsFor(all)) {
-        showFields(session, rollback.manager().GetCurrentSQL20(allFieldsStatement), FieldView::All, rollback);
+        showFields(session, rollback.manager().GetCurrentSQL20(AllFieldsStatement), FieldView::All, rollback);
         return;
     }
     session.setFieldView(FieldView::All);
