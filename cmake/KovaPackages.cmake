@@ -56,6 +56,17 @@ set(CPACK_DEBIAN_DESIGNER_DESCRIPTION "${what_it_is}
 This package lets Qt Designer place the grid on a form, and programs load
 such forms at run time.")
 
+set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-kovavsfdatagrid)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+# As packages of other bindings for PyQt6 depend: on Python's and SIP's stable interfaces.
+set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
+  "${library_package} (= ${PROJECT_VERSION}-1), python3 (>= 3.10), python3-pyqt6, python3-pyqt6.sip (>= 13), python3-pyqt6.sip (<< 14)")
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS python3-pandas)
+set(CPACK_DEBIAN_PYTHON_DESCRIPTION "${what_it_is}
+.
+This package holds the Python module kovavsfdatagrid, with which PyQt6
+programs place the grid on their forms.")
+
 # What Debian wants beside the files, compressed as it wants it: licence and history of every package, and the
 # program's manual page.
 find_program(KOVA_GZIP gzip)

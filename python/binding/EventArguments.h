@@ -5,7 +5,7 @@
 #include <memory>
 
 // What a Python handler of an event can read and change. Python has no arguments by reference, so an event carries one
-// of these. Copies share their values: PyQt gives each handler a copy, and a handler may keep it.
+// of these. Copies share their values: each handler has a copy, and may keep it.
 
 struct MouseValues
 {
@@ -33,14 +33,14 @@ template<typename Values>
 class SharedArguments
 {
 public:
-    explicit SharedArguments(const Values &values) : m_values(std::make_shared<Values>(values)) {}
+    explicit SharedArguments(const Values &values = {}) : m_values(std::make_shared<Values>(values)) {}
     Values *operator->() const { return m_values.get(); }
 
 private:
     std::shared_ptr<Values> m_values;
 };
 
-// Classes of their own, because moc and PyQt know types by a plain name.
+// What the events carry: classes of their own, because moc and PyQt know types by a plain name.
 class MouseArguments : public SharedArguments<MouseValues>
 {
     using SharedArguments::SharedArguments;
@@ -59,4 +59,21 @@ class ErrorArguments : public SharedArguments<ErrorValues>
 class FilterArguments : public SharedArguments<FilterValues>
 {
     using SharedArguments::SharedArguments;
+};
+
+// The same as a Python object, which owns its copy: PyQt hands a class over as it lies on the sender's stack.
+struct KeptMouseArguments : MouseArguments
+{
+};
+
+struct KeptKeyArguments : KeyArguments
+{
+};
+
+struct KeptErrorArguments : ErrorArguments
+{
+};
+
+struct KeptFilterArguments : FilterArguments
+{
 };

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Writes the binding's .sip file and type hints from the public headers.
-usage: generate.py SOURCE_DIR SIP_DIR HINTS_DIR
+"""Writes the binding's .sip file, its properties and its type hints from the public headers.
+usage: generate.py SOURCE_DIR SIP_DIR PACKAGE_DIR
 
 So a new member of the control is in Python, with its documentation, as soon as it is in the headers.
 """
@@ -72,9 +72,21 @@ def sip_property(member, enumerations_of_control):
     else:
         getter = f'    {member.type} {name}() const /PyName=_{name}/;\n'
         setter = f'    void Put{name}({member.type} value) /PyName=_Put{name}/;\n'
-    writer = f', set=_Put{name}' if member.writable else ''
-    return (getter + (setter if member.writable else '') +
-            f'    %Property(name={name}, get=_{name}{writer})\n    {{\n{docstring(member.doc, "        ")}    }};\n')
+    return getter + (setter if member.writable else '')
+
+
+def properties_text(template, control, ado):
+    # SIP's own %Property crashes when it calls a getter of a class of this kind.
+    lines = []
+    for member in control.properties:
+        if member.name != 'RecordSet':
+            setter = f'PythonGrid._Put{member.name}' if member.writable else 'None'
+            lines.append(f'PythonGrid.{member.name} = property(\n    PythonGrid._{member.name}, {setter},\n'
+                         f'    doc={member.doc!r})\n')
+    # Nor does SIP give enumerations a docstring.
+    lines += [f'PythonGrid.{enumeration.name}.__doc__ = {enumeration.doc!r}\n' for enumeration in control.enumerations]
+    lines += [f'ADODB.{enumeration.name}.__doc__ = {enumeration.doc!r}\n' for enumeration in ado]
+    return template.replace('@PROPERTIES@', ''.join(lines))
 
 
 def sip_text(template, control, ado):
@@ -124,12 +136,13 @@ def hint_text(template, control, ado):
             .replace('@ADO@', 'class ADODB:\n' + values))
 
 
-def main(source, sip_folder, hints_folder):
+def main(source, sip_folder, package_folder):
     control = Control(Path(source, 'src/control/face'))
     ado = enumerations(Path(source, 'src/ado/Enums.h').read_text('utf-8'))
     binding = Path(source, 'python/binding')
     for folder, name, text_of in ((sip_folder, '_kovavsfdatagrid.sip', sip_text),
-                                  (hints_folder, '_kovavsfdatagrid.pyi', hint_text)):
+                                  (package_folder, '_properties.py', properties_text),
+                                  (package_folder, '_kovavsfdatagrid.pyi', hint_text)):
         text = text_of(Path(binding, name + '.in').read_text('utf-8'), control, ado)
         target = Path(folder, name)
         if not target.exists() or target.read_text('utf-8') != text:

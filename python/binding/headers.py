@@ -31,6 +31,8 @@ def _blocks(text):
             comment.append(line[2:].strip())
         elif not line:
             comment, fresh = [], True
+        elif not declaration and re.fullmatch(r'\w+:?', line):
+            pass  # Q_OBJECT, public:
         else:
             declaration += ' ' + re.sub(r'\s*//.*', '', line)
             if declaration.endswith((';', '{', '}', ')')) and declaration.count('(') == declaration.count(')'):

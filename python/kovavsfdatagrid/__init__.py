@@ -16,6 +16,7 @@ from __future__ import annotations
 from typing import TYPE_CHECKING
 
 from ._kovavsfdatagrid import (ADODB, ErrorArguments, FilterArguments, KeyArguments, MouseArguments, PythonGrid)
+from . import _properties  # noqa: F401 (gives PythonGrid its properties)
 from .errors import ControlError, Error
 from .recordset import Field, Fields, Record, Recordset
 
@@ -42,7 +43,7 @@ class KOVAVSFDataGrid(PythonGrid):
         result = self._result()
         if not result.isOpen():
             return pandas.DataFrame()
-        columns = [pandas.Series(result.column(index)) for index in range(result.fieldCount())]
-        frame = pandas.concat(columns, axis=1) if columns else pandas.DataFrame()
+        values = [result.column(index) for index in range(result.fieldCount())]
+        frame = pandas.concat([pandas.Series(column, dtype=None if column else object) for column in values], axis=1)
         frame.columns = [result.fieldName(index) for index in range(result.fieldCount())]
         return frame

@@ -18,7 +18,7 @@ class Error(Exception):
         self.NativeError = NativeError
 
 
-class ControlError(AttributeError):
+class ControlError(Exception):
     """UseModel can be read (393) and written (382) at design time only."""
 
     def __init__(self, number: int, description: str):
