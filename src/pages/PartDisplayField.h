@@ -7,7 +7,7 @@ class QPushButton;
 
 namespace KOVAVSFDataGridLib {
 
-// Edits "SQLPartDisplay", typed or put together from the fields that "SQLShow" names.
+// Edits "SQLPartDisplay", as text or by choosing from the fields in "SQLShow".
 class KOVA_EXPORT PartDisplayField final : public PropertyPage
 {
     Q_OBJECT
@@ -16,13 +16,13 @@ public:
     // Shows nothing until a control is selected.
     explicit PartDisplayField(QWidget *parent = nullptr);
 
-    // A statement without a table leaves the lists as they are.
+    // If the statement has no table, the lists don't change.
     void SelectionChanged() override;
 
 private:
     void layOut();
     void listFields();
-    // Moves the selected field, if any, and writes the statement anew.
+    // Moves the selected field, if any, and rewrites the statement.
     void move(QListWidget &from, QListWidget &to);
     void enableButtons();
 
