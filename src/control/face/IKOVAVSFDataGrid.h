@@ -225,11 +225,11 @@ public:
     // be saved.
     virtual bool ReadOnly() const = 0;
     virtual void PutReadOnly(bool on) = 0;
-    // Writes the open result to a file, whose ending says how: .csv, .xlsx (not on Windows), .jsonl, .html. A
-    // file of this name is replaced once the new one is whole. `strOptions` is empty or `Keyword=value;…`:
-    // Records All or Marked; Columns Shown or All; Headings Yes or No; and for CSV Encoding UTF-8, UTF-8
-    // without mark or GB18030, Formulas Guard or Keep (whether texts that a spreadsheet would compute get an
-    // apostrophe). The first of each is the default. False when the user cancelled and when it failed, which
-    // is told in a message box.
+    // Writes the open result to a file. The file name's extension determines the format: .csv, .xlsx (not on
+    // Windows), .jsonl or .html. An existing file is replaced when the new one is complete. `strOptions` is
+    // empty or `Keyword=value;…`: Records All or Marked; Columns Shown or All; Headings Yes or No; and for
+    // CSV Encoding UTF-8, UTF-8 without mark or GB18030, Formulas Guard or Keep (whether texts that a
+    // spreadsheet would evaluate get an apostrophe). The first of each is the default. Returns false if the
+    // user cancels, or after a message box if it fails.
     virtual bool ExportData(const QString &strFile, const QString &strOptions) = 0;
 };
