@@ -4,8 +4,8 @@
 
 #include <memory>
 
-// What a Python handler of an event can read and change. Python has no arguments by reference, so an event carries one
-// of these. Copies share their values: each handler has a copy, and may keep it.
+// What a Python handler of an event can read and change. Python has no arguments by reference, so an event
+// carries one of these. Copies share their values: each handler has a copy, and may keep it.
 
 struct MouseValues
 {

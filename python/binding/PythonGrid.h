@@ -5,7 +5,8 @@
 
 #include <KOVAVSFDataGrid>
 
-// The control as Python sees it: events with arguments by reference carry an object instead, under the same names.
+// The control as Python sees it: events with arguments by reference carry an object instead, under the same
+// names.
 class PythonGrid : public KOVAVSFDataGrid
 {
     Q_OBJECT

@@ -109,14 +109,15 @@ PyObject *pythonValue(const QVariant &value, DataTypeEnum type)
     }
     case QMetaType::QTime: {
         const QTime time = value.toTime();
-        return call("datetime", "time", "(iiii)", time.hour(), time.minute(), time.second(), time.msec() * 1000);
+        return call("datetime", "time", "(iiii)", time.hour(), time.minute(), time.second(),
+                    time.msec() * 1000);
     }
     case QMetaType::QDateTime: {
         const QDate date = value.toDateTime().date();
         const QTime time = value.toDateTime().time();
         if (isInYearsOfPython(date))
-            return call("datetime", "datetime", "(iiiiiii)", date.year(), date.month(), date.day(), time.hour(),
-                        time.minute(), time.second(), time.msec() * 1000);
+            return call("datetime", "datetime", "(iiiiiii)", date.year(), date.month(), date.day(),
+                        time.hour(), time.minute(), time.second(), time.msec() * 1000);
         break;
     }
     default:

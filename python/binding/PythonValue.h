@@ -15,8 +15,9 @@
 
 // Between the values of fields and Python's own. All of it needs the interpreter's lock.
 
-// A new reference: None, bool, int, float, str, bytes, datetime.date, time or datetime; Decimal for an exact number.
-// What has no form in Python (a date before the year 1) is a str. Null with a Python error when that fails.
+// A new reference: None, bool, int, float, str, bytes, datetime.date, time or datetime; Decimal for an exact
+// number. What has no form in Python (a date before the year 1) is a str. Null with a Python error when that
+// fails.
 PyObject *pythonValue(const QVariant &value, ADODB::DataTypeEnum type);
 
 // The reverse. Nothing, with a Python TypeError, for other objects.

@@ -6,8 +6,8 @@
 
 #include <memory>
 
-// The control's open result for Python code, which may keep it longer than the result is open: it does not keep the
-// result alive, and afterwards throws 3704 as a closed recordset does.
+// The control's open result for Python code, which may keep it longer than the result is open: it does not
+// keep the result alive, and afterwards throws 3704 as a closed recordset does.
 class Result
 {
 public:
