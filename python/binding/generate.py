@@ -50,7 +50,6 @@ def event_arguments(event):
 
 def sip_enumeration(enumeration, indent):
     values = ',\n'.join(f'{indent}    {name}' for name, _, _ in enumeration.values)
-    # /NoScope/ would be the C++ rule; in Python a member is reached through its enumeration.
     return f'{indent}enum {enumeration.name} /BaseType=IntEnum/ {{\n{values}\n{indent}}};\n'
 
 
