@@ -1,7 +1,8 @@
-# What `cmake --install` lays down, in three components that are also the three Debian packages:
+# What `cmake --install` lays down, in components that are also the Debian packages:
 #   runtime   the library and the host program with its desktop entry
 #   dev       the public headers and what CMake and pkg-config need to find the library
 #   designer  the form editor's plugin, declared where the plugin is built
+#   python    the Python package, declared where it is built
 include(CMakePackageConfigHelpers)
 
 set(KOVA_INSTALL_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR}/KOVAVSFDataGridLib)

@@ -45,7 +45,8 @@ set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "${library_package} (= ${PROJECT_VERSION}-1), qt6-base-dev (>= 6.4)")
 set(CPACK_DEBIAN_DEV_DESCRIPTION "${what_it_is}
 .
-This package holds the headers and what CMake and pkg-config need.")
+This package holds the headers, what CMake and pkg-config need, the
+documents for developers and the examples.")
 
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_NAME kovavsfdatagrid-designer)
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_SECTION devel)
@@ -55,6 +56,17 @@ set(CPACK_DEBIAN_DESIGNER_DESCRIPTION "${what_it_is}
 .
 This package lets Qt Designer place the grid on a form, and programs load
 such forms at run time.")
+
+set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-kovavsfdatagrid)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+# As packages of other bindings for PyQt6 depend: on Python's and SIP's stable interfaces.
+set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
+  "${library_package} (= ${PROJECT_VERSION}-1), python3 (>= 3.10), python3-pyqt6, python3-pyqt6.sip (>= 13), python3-pyqt6.sip (<< 14)")
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS python3-pandas)
+set(CPACK_DEBIAN_PYTHON_DESCRIPTION "${what_it_is}
+.
+This package holds the Python module kovavsfdatagrid, with which PyQt6
+programs place the grid on their forms.")
 
 # What Debian wants beside the files, compressed as it wants it: licence and history of every package, and the
 # program's manual page.
@@ -67,6 +79,20 @@ function(kova_install_compressed file folder component)
     install(FILES ${compressed} DESTINATION ${folder} COMPONENT ${component})
   endif()
 endfunction()
+
+# Documents: for users with the program, for developers with the headers.
+set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc)
+set(docs ${PROJECT_SOURCE_DIR}/docs)
+install(FILES ${docs}/messages.md ${docs}/shortcuts.zh-CN.md
+  DESTINATION ${doc_dir}/${library_package} COMPONENT runtime)
+file(GLOB pages CONFIGURE_DEPENDS ${docs}/*.md)
+set(dev_dir ${doc_dir}/${CPACK_DEBIAN_DEV_PACKAGE_NAME})
+install(FILES ${pages} DESTINATION ${dev_dir}/docs COMPONENT dev)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${dev_dir} COMPONENT dev)
+if(python IN_LIST CPACK_COMPONENTS_ALL)
+  install(DIRECTORY ${PROJECT_SOURCE_DIR}/python/examples
+    DESTINATION ${doc_dir}/${CPACK_DEBIAN_PYTHON_PACKAGE_NAME} COMPONENT python)
+endif()
 
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
   string(TOUPPER ${component} COMPONENT)

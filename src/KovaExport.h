@@ -2,7 +2,7 @@
 
 #include <QtCore/qglobal.h>
 
-// Marks what the shared library shows to its users; everything else stays hidden inside it.
+// Marks what the shared library exports. Everything else is hidden.
 #if defined(KOVAVSFDataGridLib_EXPORTS)
 #define KOVA_EXPORT Q_DECL_EXPORT
 #else

@@ -22,7 +22,7 @@ public:
 
     // Hands what stands in the form to the grid, which tells at once of a statement it can't make out.
     void setUpGrid();
-    // Loads it and gives it the keyboard. False when it could not be loaded; the grid has told the user why.
+    // Loads it and gives it the keyboard. False when it could not be loaded; the grid has shown the user why.
     bool load();
     // Both, as the button does.
     void loadForm();

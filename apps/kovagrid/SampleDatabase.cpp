@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int version = 4; // raise it when the tables change, so that old files are made anew
+constexpr int version = 4; // raise it when the tables change, so that old files are created again
 constexpr int customerCount = 240;
 constexpr int orderCount = 120000;
 

@@ -10,12 +10,12 @@ namespace ADODB {
 
 class Recordset;
 
-// The data control: it stands between a recordset and those who want to hear of its moves and changes.
-// A QSignalBlocker on it silences a block of moves.
+// The data control: emits signals when its recordset moves or changes. Use a QSignalBlocker on it to move
+// without signals.
 class KOVA_EXPORT Adodc : public QObject, private RecordsetObserver
 {
     Q_OBJECT
-    // The recordset by ADO's member names, a RecordsetObject; null until one is put.
+    // The recordset with ADO's member names, a RecordsetObject; null until one is set.
     Q_PROPERTY(QObject *Recordset READ recordsetObject NOTIFY RecordsetReplaced)
 
 public:
@@ -23,14 +23,14 @@ public:
     explicit Adodc(QObject *parent = nullptr);
     ~Adodc() override;
 
-    // Null until one is put. Shared with whoever else holds it.
+    // Null until one is set. Shared with its other owners.
     const std::shared_ptr<ADODB::Recordset> &Recordset() const { return m_recordset; }
-    // Null lets go of the one there is. Putting one that is open tells RecordsetChangeComplete(adRsnRequery)
-    // and MoveComplete(adRsnMove).
+    // Null releases the present one. Setting an open one emits RecordsetChangeComplete(adRsnRequery) and
+    // MoveComplete(adRsnMove).
     void PutRecordset(std::shared_ptr<ADODB::Recordset> recordset);
-    // The same one by ADO's member names; see automation().
+    // The same recordset with ADO's member names; see automation().
     QObject *recordsetObject() const;
-    // What its signals wait for while somebody changes several things at once.
+    // Delays the signals while several things change together.
     Notifications &notifications() { return m_notifications; }
 
 Q_SIGNALS:
@@ -40,7 +40,7 @@ Q_SIGNALS:
     void RecordChangeComplete(ADODB::EventReasonEnum adReason);
     // See RecordsetObserver::recordsetChangeComplete.
     void RecordsetChangeComplete(ADODB::EventReasonEnum adReason);
-    // Another recordset, or none, was put.
+    // Another recordset, or none, was set.
     void RecordsetReplaced();
 
 private:

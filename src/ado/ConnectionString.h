@@ -8,9 +8,9 @@
 
 namespace ADODB {
 
-// A connection string taken apart: `Keyword=value;…`. Keywords match in any letter case; a value may stand in
-// '…' or "…" (the quote doubled inside) or in {…} (} doubled inside), else the blanks around it do not count.
-// When a keyword occurs twice its last value holds, as in ADO (a driver manager takes the first).
+// A parsed connection string: `Keyword=value;…`. Keywords are case-insensitive. A value may be quoted with
+// '…' or "…" (double the quote inside) or {…} (double the } inside); otherwise blanks around it are ignored.
+// If a keyword occurs twice, the last value is used, as in ADO. (An ODBC driver manager uses the first.)
 class KOVA_EXPORT ConnectionString
 {
 public:
@@ -23,26 +23,27 @@ public:
 
     // Without any keyword.
     ConnectionString() = default;
-    // Throws 3001 when the text is malformed, telling which part it is but never what it says.
+    // Throws 3001 if the text is malformed. The error gives the number of the wrong part, but never its
+    // content.
     explicit ConnectionString(const QString &text);
 
-    // Whether the keyword stands there.
+    // Whether the string contains the keyword.
     bool contains(const QString &keyword) const;
-    // Its value without quotes; empty when there is none.
+    // The value without quotes; empty if there is none.
     QString value(const QString &keyword) const;
-    // Replaces its value, or adds it at the end.
+    // Replaces the value, or adds the keyword at the end.
     void set(const QString &keyword, const QString &value);
-    // Takes it out, wherever it stands.
+    // Removes the keyword everywhere.
     void remove(const QString &keyword);
 
-    // In the order of the text, each keyword once, where it occurs last.
+    // The parts in the order of the text. Each keyword occurs once, in its last position.
     const std::vector<Part> &parts() const { return m_parts; }
 
-    // One text again, with quotes where a value needs them.
+    // The whole text, with quotes where a value needs them.
     QString text() const;
-    // The same, to be shown or kept.
+    // The same without passwords, for showing or storing.
     QString textWithoutPassword() const;
-    // Whether the value of the keyword is a secret, in the words of any driver.
+    // Whether the keyword of any driver contains a password.
     static bool isPassword(const QString &keyword);
 
 private:

@@ -25,14 +25,14 @@ Q_ENUM_NS(ConnectOptionEnum)
 
 // Where a result is kept.
 enum CursorLocationEnum : qint32 {
-    adUseServer = 2, // at the server; accepted, but opened as adUseClient
-    adUseClient = 3  // here, as a snapshot
+    adUseServer = 2, // on the server; accepted, but opened as adUseClient
+    adUseClient = 3  // on the client, as a snapshot
 };
 Q_ENUM_NS(CursorLocationEnum)
 
-// How a result follows changes; every one is opened as adOpenStatic.
+// How a result follows changes. Every result is opened as adOpenStatic.
 enum CursorTypeEnum : qint32 {
-    adOpenUnspecified = -1, // not said: as the property CursorType says
+    adOpenUnspecified = -1, // unspecified: uses the property CursorType
     adOpenForwardOnly = 0,  // forwards only
     adOpenKeyset = 1,       // rows fixed, values live
     adOpenDynamic = 2,      // all live
@@ -42,7 +42,7 @@ Q_ENUM_NS(CursorTypeEnum)
 
 // Whether a result can be written.
 enum LockTypeEnum : qint32 {
-    adLockUnspecified = -1,   // not said: as the property LockType says
+    adLockUnspecified = -1,   // unspecified: uses the property LockType
     adLockReadOnly = 1,       // read-only
     adLockPessimistic = 2,    // each record when its edit begins; written as adLockOptimistic
     adLockOptimistic = 3,     // each record when it is saved
@@ -50,19 +50,19 @@ enum LockTypeEnum : qint32 {
 };
 Q_ENUM_NS(LockTypeEnum)
 
-// What the text handed to Open is.
+// What the text passed to Open is.
 enum CommandTypeEnum : qint32 {
-    adCmdUnspecified = -1, // not said: a statement
+    adCmdUnspecified = -1, // unspecified: a statement
     adCmdText = 1,         // a statement
     adCmdTable = 2,        // a table's name
-    adCmdStoredProc = 4,   // taken as a statement
-    adCmdUnknown = 8,      // taken as a statement
-    adCmdFile = 256,       // taken as a statement
+    adCmdStoredProc = 4,   // treated as a statement
+    adCmdUnknown = 8,      // treated as a statement
+    adCmdFile = 256,       // treated as a statement
     adCmdTableDirect = 512 // a table's name
 };
 Q_ENUM_NS(CommandTypeEnum)
 
-// Which records Delete takes.
+// Which records Delete deletes.
 enum AffectEnum : qint32 {
     adAffectCurrent = 1,    // the current one
     adAffectGroup = 2,      // those of the filter; refused
@@ -71,11 +71,11 @@ enum AffectEnum : qint32 {
 };
 Q_ENUM_NS(AffectEnum)
 
-// What AbsolutePosition and AbsolutePage answer when they do not stand on a record.
+// The values of AbsolutePosition and AbsolutePage when there is no current record.
 enum PositionEnum : qint32 {
-    adPosUnknown = -1, // on a deleted or a not yet saved record
+    adPosUnknown = -1, // on a deleted or unsaved record
     adPosBOF = -2,     // before the first record
-    adPosEOF = -3      // behind the last record
+    adPosEOF = -3      // after the last record
 };
 Q_ENUM_NS(PositionEnum)
 
@@ -87,30 +87,30 @@ enum BookmarkEnum : qint32 {
 };
 Q_ENUM_NS(BookmarkEnum)
 
-// What Recordset::Resync takes over.
+// What Recordset::Resync updates.
 enum ResyncEnum : qint32 {
-    adResyncUnderlyingValues = 1, // only Field::UnderlyingValue; a pending edit stays
-    adResyncAllValues = 2         // the record itself; a pending edit is forgotten
+    adResyncUnderlyingValues = 1, // only Field::UnderlyingValue; a pending edit is kept
+    adResyncAllValues = 2         // the record itself; a pending edit is discarded
 };
 Q_ENUM_NS(ResyncEnum)
 
-// What a recordset is in the middle of.
+// The state of the current record's edit.
 enum EditModeEnum : qint32 {
     adEditNone = 0,       // nothing
-    adEditInProgress = 1, // the current record has changed values
-    adEditAdd = 2,        // a new record is not saved yet
+    adEditInProgress = 1, // the current record has unsaved changes
+    adEditAdd = 2,        // a new record is not yet saved
     adEditDelete = 4      // the current record was deleted
 };
 Q_ENUM_NS(EditModeEnum)
 
-// Why an event came.
+// The reason for an event.
 enum EventReasonEnum : qint32 {
     adRsnAddNew = 1,        // a record was added
     adRsnDelete = 2,        // a record was deleted
     adRsnUpdate = 3,        // a record was saved
-    adRsnUndoUpdate = 4,    // an edit was given up
-    adRsnUndoAddNew = 5,    // a new record was given up
-    adRsnUndoDelete = 6,    // a deletion was given up
+    adRsnUndoUpdate = 4,    // an edit was discarded
+    adRsnUndoAddNew = 5,    // a new record was discarded
+    adRsnUndoDelete = 6,    // a deletion was discarded
     adRsnRequery = 7,       // the result was opened
     adRsnResynch = 8,       // the result was read again
     adRsnClose = 9,         // the result was closed
@@ -123,14 +123,14 @@ enum EventReasonEnum : qint32 {
 };
 Q_ENUM_NS(EventReasonEnum)
 
-// Types of fields. Not every one is used by a provider here.
+// Types of fields. The providers don't use all of them.
 enum DataTypeEnum : qint32 {
     adEmpty = 0,             // no value
     adSmallInt = 2,          // 16-bit integer
     adInteger = 3,           // 32-bit integer
     adSingle = 4,            // 32-bit floating point
     adDouble = 5,            // 64-bit floating point
-    adCurrency = 6,          // money, four digits behind the point
+    adCurrency = 6,          // money, four digits after the decimal point
     adDate = 7,              // date and time as a number of days
     adBSTR = 8,              // text
     adIDispatch = 9,         // an object
@@ -172,9 +172,9 @@ enum FieldAttributeEnum : qint32 {
     adFldUnspecified = -1,       // not known
     adFldMayDefer = 0x2,         // read from the database only when asked for
     adFldUpdatable = 0x4,        // can be written
-    adFldUnknownUpdatable = 0x8, // perhaps can be written
+    adFldUnknownUpdatable = 0x8, // not known whether it can be written
     adFldFixed = 0x10,           // of fixed length
-    adFldIsNullable = 0x20,      // takes Null
+    adFldIsNullable = 0x20,      // accepts Null
     adFldMayBeNull = 0x40,       // can be Null when read
     adFldLong = 0x80,            // long text or bytes
     adFldRowID = 0x100,          // the row's own number
@@ -183,28 +183,28 @@ enum FieldAttributeEnum : qint32 {
 };
 Q_ENUM_NS(FieldAttributeEnum)
 
-// What a stream holds.
+// What a stream contains.
 enum StreamTypeEnum : qint32 {
     adTypeBinary = 1, // bytes
-    adTypeText = 2    // text, kept as UTF-8
+    adTypeText = 2    // text, stored as UTF-8
 };
 Q_ENUM_NS(StreamTypeEnum)
 
-// How much Read takes.
+// How much Read reads.
 enum StreamReadEnum : qint32 {
-    adReadAll = -1, // all that is left
+    adReadAll = -1, // everything that is left
     adReadLine = -2 // one line; refused
 };
 Q_ENUM_NS(StreamReadEnum)
 
-// What SaveToFile does with a file that exists.
+// What SaveToFile does if the file exists.
 enum SaveOptionsEnum : qint32 {
     adSaveCreateNotExist = 1, // throws 3004
     adSaveCreateOverWrite = 2 // replaces it
 };
 Q_ENUM_NS(SaveOptionsEnum)
 
-// ADO's own error numbers. Error::Number() carries them as 0x800A0000 + number; see Error.h.
+// ADO's own error numbers. Error::Number() returns them as 0x800A0000 + number; see Error.h.
 enum ErrorValueEnum : qint32 {
     adErrInvalidArgument = 3001,     // an argument is out of its range
     adErrOpeningFile = 3002,         // a database file can't be opened
@@ -213,29 +213,29 @@ enum ErrorValueEnum : qint32 {
     adErrNoCurrentRecord = 3021,     // there is no current record
     adErrIllegalOperation = 3219,    // not allowed in this state
     adErrFeatureNotAvailable = 3251, // not possible with this result or database
-    adErrItemNotFound = 3265,        // no field of this name or number
+    adErrItemNotFound = 3265,        // no field with this name or number
     adErrDataConversion = 3421,      // a value does not fit the field's type
-    adErrObjectClosed = 3704,        // needs an open object
-    adErrObjectOpen = 3705,          // needs a closed object
+    adErrObjectClosed = 3704,        // the object must be open
+    adErrObjectOpen = 3705,          // the object must be closed
     adErrProviderNotFound = 3706,    // no such provider
     adErrInvalidConnection = 3709,   // no usable connection
-    adErrIntegrityViolation = 3719,  // against the database's constraints
+    adErrIntegrityViolation = 3719,  // violates a constraint of the database
     adErrPermissionDenied = 3720,    // not permitted
     adErrResourceLocked = 3730       // locked by another program
 };
 Q_ENUM_NS(ErrorValueEnum)
 
-// The numbers that ADO passes through from a provider, as Error::Number() carries them.
+// The numbers that ADO passes on from a provider, as Error::Number() returns them.
 enum ProviderErrorEnum : qint32 {
-    dbErrFailed = -2147467259,            // 80004005: the provider gave no closer number
+    dbErrFailed = -2147467259,            // 80004005: the provider gave no more specific number
     dbErrPermissionDenied = -2147217911,  // 80040E09: not permitted
     dbErrInCommand = -2147217900,         // 80040E14: the statement is wrong
     dbErrDeletedRow = -2147217885,        // 80040E23: the current record was deleted
-    dbErrIntegrity = -2147217873,         // 80040E2F: against the database's constraints
+    dbErrIntegrity = -2147217873,         // 80040E2F: violates a constraint of the database
     dbErrNoTable = -2147217865,           // 80040E37: no such table or view
-    dbErrConcurrency = -2147217864,       // 80040E38: the row is not the one shown any more
-    dbErrInDoubt = -2147168234,           // 8004D016: lost while saving; nobody knows whether it was saved
-    dbErrAuthFailed = -2147217843,        // 80040E4D: user or password refused
+    dbErrConcurrency = -2147217864,       // 80040E38: the row is no longer the one shown
+    dbErrInDoubt = -2147168234,           // 8004D016: connection lost during a save; the outcome is unknown
+    dbErrAuthFailed = -2147217843,        // 80040E4D: wrong user name or password
     dbErrCancelled = -2147217842,         // 80040E4E: the user or the program stopped it
     dbErrMultipleStatements = -2147217841 // 80040E4F: more than one statement
 };

@@ -13,8 +13,8 @@ class KOVA_EXPORT Fields
 public:
     // How many there are.
     qint32 Count() const { return static_cast<qint32>(m_fields.size()); }
-    // By 0-based index, or by name in any letter case (the first one when a name occurs twice). Throws 3265
-    // when there is no such field.
+    // By 0-based index, or by name (case-insensitive; the first field if a name occurs twice). Throws 3265 if
+    // there is no such field.
     Field &Item(int index);
     const Field &Item(int index) const;
     Field &Item(const QString &name);

@@ -48,7 +48,7 @@ void copyWords(ConnectionString &text, const ConnectionString &from, const QStri
     }
 }
 
-// Also by a data source's name: what it stands for is overruled by what stands beside it.
+// Also by a data source's name: keywords beside it override what it names.
 bool leadsToServer(const ConnectionString &text)
 {
     return namesAny(text, serverWords()) || namesAny(text, {u"DSN"_s, u"FILEDSN"_s}) ||

@@ -7,12 +7,11 @@
 
 namespace ADODB {
 
-// Reports reach their listeners when the state that they are about is whole. While a Hold lives, reports are
-// collected; the outermost one sends them in the order in which they were made. Without a Hold a report is
-// sent at once.
+// Sends reports to listeners only when the state is consistent. While a Hold exists, reports are collected.
+// The outermost Hold sends them in their original order. Without a Hold a report is sent immediately.
 //
-// A listener may do anything, even delete whoever made the report: do nothing after send() and after the end
-// of the outermost Hold that needs an object to be still there.
+// A listener may do anything, and may even delete the sender. So don't use any object after send() or after
+// the end of the outermost Hold.
 class Notifications
 {
 public:
@@ -20,8 +19,8 @@ public:
     ~Notifications();
     Q_DISABLE_COPY_MOVE(Notifications)
 
-    // Sends a report, now or at the end of the outermost Hold. One that waits is dropped when `sender` is
-    // gone by then.
+    // Sends a report, now or at the end of the outermost Hold. A waiting report is dropped if `sender` was
+    // deleted in the meantime.
     void send(QObject *sender, std::function<void()> report);
 
     class Hold

@@ -4,11 +4,11 @@
 
 namespace ADODB {
 
-// Told after a recordset has changed; see Recordset::AddObserver. An observer must not throw.
+// Called after a recordset has changed; see Recordset::AddObserver. An observer must not throw.
 class RecordsetObserver
 {
 public:
-    // The current record moved, or tried to and stands at the beginning or end. Opening counts as adRsnMove.
+    // The current record moved, or a move stopped at the beginning or end. Opening is reported as adRsnMove.
     virtual void moveComplete(EventReasonEnum reason) = 0;
     // One record changed: adRsnAddNew, adRsnUpdate, adRsnDelete, adRsnUndoUpdate, adRsnUndoAddNew,
     // adRsnFirstChange.

@@ -8,12 +8,12 @@
 
 namespace ADODB {
 
-// Bytes in memory with a position, for carrying a binary field into a file.
-// Members throw Error; 3704 when they need an open stream and it is closed.
+// Bytes in memory with a position, for writing a binary field to a file. Members throw Error; they throw 3704
+// if the stream must be open and is closed.
 class KOVA_EXPORT Stream
 {
 public:
-    // adTypeBinary or adTypeText (the default, as in ADO); can be written while closed, or open at position
+    // adTypeBinary or adTypeText (the default, as in ADO). Can be written while closed, or open at position
     // 0.
     StreamTypeEnum Type() const { return m_type; }
     void PutType(StreamTypeEnum type);
@@ -22,7 +22,7 @@ public:
 
     // Opens it empty. Throws 3705 when open.
     void Open();
-    // Forgets its bytes.
+    // Discards its bytes.
     void Close();
 
     // In bytes.
@@ -31,16 +31,16 @@ public:
     qint64 Position() const;
     void PutPosition(qint64 position);
 
-    // Binary streams only (3219 otherwise). Writing replaces bytes from Position on; reading takes at most
-    // `count` bytes, or all that are left. Both advance Position.
+    // Binary streams only (3219 otherwise). Writing replaces bytes from Position on. Reading returns at most
+    // `count` bytes, or all remaining bytes. Both advance Position.
     void Write(const QByteArray &bytes);
     QByteArray Read(qint64 count = adReadAll);
     // Text streams only (3219 otherwise): the same in UTF-8.
     void WriteText(const QString &text);
     QString ReadText();
 
-    // Writes the whole stream to a file, all or nothing. adSaveCreateNotExist throws 3004 when the file
-    // exists, adSaveCreateOverWrite replaces it. Position is 0 afterwards.
+    // Writes the whole stream to a file, completely or not at all. If the file exists, adSaveCreateNotExist
+    // throws 3004 and adSaveCreateOverWrite replaces it. Position is 0 afterwards.
     void SaveToFile(const QString &fileName, SaveOptionsEnum options = adSaveCreateNotExist);
 
 private:

@@ -34,7 +34,7 @@ QString unknownFormatText(const QString &file);
 
 // `device` is open for writing and must outlive the answer. Throws ADODB::Error when the encoding is missing.
 std::unique_ptr<RecordWriter> newWriter(QIODevice &device, const ExportOptions &options);
-// What could not be written as it is, to be told to the user; empty when there is nothing.
+// What could not be written unchanged, to be shown to the user; empty when there is nothing.
 QString lossesOf(const RecordWriter &writer);
 
 } // namespace KOVAVSFDataGridLib

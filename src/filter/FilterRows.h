@@ -14,7 +14,7 @@ class FilterRows final : public QWidget
 public:
     explicit FilterRows(QWidget *parent = nullptr);
 
-    // Begins anew with one row over these fields.
+    // Starts again with one row over these fields.
     void start(std::shared_ptr<const FilterRowContext> context);
     FilterRow *add();
     void focusFirstPart();

@@ -37,7 +37,7 @@ public:
     // called.
     Dialect dialect() const;
 
-    // The table's fields in its order. A name that several tables share is told apart by the table's.
+    // The table's fields in its order. A name that several tables share is qualified by the table's.
     std::vector<FilterField> readFields();
     // At most mostValues values that the field has, in order.
     QStringList readValues(const FilterField &field);

@@ -28,7 +28,7 @@ public:
     // An open connection, which is shared, or a string that is opened when it is needed.
     void SetConnection(std::shared_ptr<ADODB::Connection> connection);
     void SetConnectionString(const QString &text);
-    // What the user is told is filtered.
+    // What the user is shown as filtered.
     void SetCurrentTable(const QString &name);
     // The text behind FROM whose fields are offered; reads them. When that fails the builder says why, and a
     // condition can still be typed.

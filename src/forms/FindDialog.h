@@ -23,7 +23,7 @@ public:
 
     // The words searched for, "%" between them; empty until Find has succeeded.
     const QString &strFindText() const { return m_strFindText; }
-    // The field chosen, or the text that stands for all fields.
+    // The field chosen, or the text that means all fields.
     const QString &strFieldName() const { return m_strFieldName; }
     void PutStrFieldName(const QString &name) { m_strFieldName = name; }
     // Whether one field was chosen.

@@ -4,8 +4,8 @@ class QTableView;
 
 namespace KOVAVSFDataGridLib {
 
-// Draws a frame around the current cell where others are selected with it, so that it can be told from them.
-// To be called while the viewport is painted.
+// Draws a frame around the current cell where others are selected with it, so that it can be distinguished
+// from them. To be called while the viewport is painted.
 void paintCurrentCellFrame(const QTableView &view);
 
 } // namespace KOVAVSFDataGridLib

@@ -81,8 +81,8 @@ public:
     QColor BackColor() const;
     void PutBackColor(const QColor &colour);
 
-    // Runs `act`, in which Qt's own code makes a cell current or deals with an event, and tells of what has
-    // come of it only then, as whoever is told may delete the grid.
+    // Runs `act`, in which Qt's own code makes a cell current or deals with an event, and reports what has
+    // come of it only then, as a listener may delete the grid.
     void notifyAfter(const std::function<void()> &act);
 
     // Shows the cells of `source` (not null) instead of the grid's own. Columns that stay within the
@@ -135,7 +135,7 @@ private:
     int m_col = 0;
     bool m_isApplyingWidths = false;
     bool m_isActing = false;  // in notifyAfter()
-    bool m_hasNewRow = false; // to be told of, as is the next one
+    bool m_hasNewRow = false; // to be reported, as is the next one
     std::optional<int> m_clickedCol;
 };
 

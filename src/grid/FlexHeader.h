@@ -6,9 +6,9 @@ namespace KOVAVSFDataGridLib {
 
 class FlexGrid;
 
-// The headings of a flex grid. What a press or a click of theirs leads to is told when the header has
-// finished with the event, because whoever is told may delete the grid. A heading that is cut ends in an
-// ellipsis and is told whole by a tool tip; those of an empty grid are one plain surface.
+// The headings of a flex grid. What a press or a click of theirs leads to is reported when the header has
+// finished with the event, because a listener may delete the grid. A heading that is cut ends in an
+// ellipsis and is shown in full by a tool tip; those of an empty grid are one plain surface.
 class FlexHeader final : public QHeaderView
 {
     Q_OBJECT

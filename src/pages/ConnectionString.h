@@ -8,20 +8,20 @@ class QPushButton;
 
 namespace KOVAVSFDataGridLib {
 
-// Edits "ConnectionString", typed or built.
+// Edits "ConnectionString", as text or with the connection builder.
 class KOVA_EXPORT ConnectionString final : public PropertyPage
 {
     Q_OBJECT
 
 public:
-    // Lets the developer build a connection in a window above `parent`, beginning with `present`; nothing
-    // when that was cancelled.
+    // Shows a window above `parent` in which the developer builds a connection string, starting with
+    // `present`. Returns nothing if the developer cancels.
     using Builder = std::function<std::optional<QString>(QWidget *parent, const QString &present)>;
 
     // Shows nothing until a control is selected.
     explicit ConnectionString(QWidget *parent = nullptr);
 
-    // Without one, cmd_link is disabled.
+    // Without a builder, cmd_link is disabled.
     void SetBuilder(Builder builder);
 
 private:

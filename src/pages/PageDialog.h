@@ -8,16 +8,17 @@ namespace KOVAVSFDataGridLib {
 
 class PropertyPage;
 
-// A window around one property page: OK and Apply apply it, Cancel leaves what was not applied.
+// A window around one property page. OK and Apply apply its changes; Cancel discards changes that were not
+// applied.
 class KOVA_EXPORT PageDialog final : public QDialog
 {
     Q_OBJECT
 
 public:
-    // Takes the page over.
+    // Takes ownership of the page.
     explicit PageDialog(PropertyPage *page, QWidget *parent = nullptr);
 
-    // Applies first; the window stays open when that was refused.
+    // Applies the changes first. The window stays open if that fails.
     void accept() override;
 
 private:

@@ -10,7 +10,7 @@ class QPushButton;
 
 namespace KOVAVSFDataGridLib {
 
-// Edits "SQLPartDisplay", typed or put together from the fields that "SQLShow" names.
+// Edits "SQLPartDisplay", as text or by choosing from the fields in "SQLShow".
 class KOVA_EXPORT PartDisplayField final : public PropertyPage
 {
     Q_OBJECT
@@ -27,13 +27,13 @@ public:
     // Without one, a "*" in SQLShow offers no fields. Set it before a control is selected.
     void SetFieldReader(FieldReader reader) { m_reader = std::move(reader); }
 
-    // A statement without a table leaves the lists as they are.
+    // If the statement has no table, the lists don't change.
     void SelectionChanged() override;
 
 private:
     void layOut();
     void listFields();
-    // Moves the selected field, if any, and writes the statement anew.
+    // Moves the selected field, if any, and rewrites the statement.
     void move(QListWidget &from, QListWidget &to);
     void enableButtons();
 

@@ -11,10 +11,10 @@ namespace KOVAVSFDataGridLib {
 
 class PropertyPage;
 
-// In the order in which they are offered.
+// In the order in which they are shown.
 KOVA_EXPORT QStringList PropertyPageNames();
 
-// A new page, owned by `parent` or the caller; null for an unknown name.
+// Creates a page, owned by `parent`, or by the caller if that is null. Null for an unknown name.
 KOVA_EXPORT PropertyPage *NewPropertyPage(const QString &name, QWidget *parent = nullptr);
 
 } // namespace KOVAVSFDataGridLib

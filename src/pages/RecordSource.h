@@ -4,8 +4,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Shows "RecordSource", the statement that the last load opened. On the grid it is read-only: applying
-// another text is refused with a message, and the text stays for the developer to copy.
+// Shows "RecordSource", the statement that the last load opened. The grid's property is read-only: applying
+// another text is refused with a message box, and the text stays in the page for copying.
 class KOVA_EXPORT RecordSource final : public PropertyPage
 {
     Q_OBJECT

@@ -7,7 +7,7 @@ namespace KOVAVSFDataGridLib {
 class Session;
 
 // Writes the open result to a file under the progress line. False when the user cancelled and when it fails,
-// which he has been told.
+// which he has been shown.
 bool exportResult(Session &session, const ExportAnswer &what);
 
 // What a host asks for by a file and `Keyword=value;…` (see IKOVAVSFDataGrid::ExportData). Throws

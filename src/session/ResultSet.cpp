@@ -15,8 +15,8 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// The same recordset, closed as soon as its last holder lets go of it. The object itself stays until the
-// event loop runs again, because a host's handler may let go of a recordset that is just telling of its own
+// The same recordset, closed as soon as its last holder releases it. The object itself stays until the
+// event loop runs again, because a host's handler may release a recordset that is just reporting its own
 // move.
 std::shared_ptr<ADODB::Recordset> closedByLastHolder(std::shared_ptr<ADODB::Recordset> recordset)
 {

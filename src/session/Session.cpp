@@ -82,8 +82,8 @@ void Session::run(const QString &key, ChosenBy by)
     });
 }
 
-// False when what was typed can't be taken or saved, which the user has been told, and when the host, told of
-// it, has taken away what the command was to work on.
+// False when what was typed can't be taken or saved, which the user has been shown, and when the host,
+// notified of it, has taken away what the command was to work on.
 bool Session::isReady(const Command &command)
 {
     const bool hasCommand = m_rules.hasAllCommands || command.isInViewer;

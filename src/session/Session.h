@@ -95,7 +95,7 @@ public:
     bool canGoBack() const { return m_filter && m_filter->SQLManager().Count() > 1; }
     colShowSQLSentences &history() { return filterManager().SQLManager(); }
 
-    // --- Commands. A command that fails ends silently after its user has been told what he should know.
+    // --- Commands. A command that fails ends silently after the user was shown what he should know.
 
     // Why a command can't run on what is shown now, for the user to read; empty when it can.
     QString whyNot(const Command &command);
@@ -121,8 +121,8 @@ public:
     bool isRequeried() const { return m_isRequeried; }
 
     // Reads a statement beside what is shown. Nothing when it is empty or can't be read, which the user has
-    // been told, or when something else was put in the result's place meanwhile. Where `refusal` is given,
-    // the database's words go there and not to the user.
+    // been shown, or when something else was put in the result's place meanwhile. If `refusal` is given, the
+    // database's words go there and not to the user.
     std::optional<ResultSet::Opened> read(const QString &statement, QString *refusal = nullptr);
     // The same after keeping column widths, and the statement in SQLFilter. `isRemembered` as in
     // rememberStatement.
@@ -177,7 +177,7 @@ public:
     void setPage(qint64 page);
     // Shows the current page. Throws ADODB::Error, and changes nothing, when an edit can't be saved.
     void fillPage();
-    // Both; false when the page can't be left, which the user has been told.
+    // Both; false when the page can't be left, which the user has been shown.
     bool showPage(qint64 page);
     // Shows a page of the result as it is laid out.
     void turnToPage(qint64 page);
@@ -195,7 +195,7 @@ public:
     void storeRecordCount();
 
     // Takes the value that is being typed into the current record. False when it doesn't fit, which the user
-    // has been told, or when the host has put something else in the result's place.
+    // has been shown, or when the host has put something else in the result's place.
     bool commitEdit();
     // The same for all that was written into the record and its way into the database, so that it can be
     // left.

@@ -18,7 +18,7 @@ struct Dialect
 {
     AllDBType database = dbAccess; // as the host declares it
     bool isOdbc = false;
-    // A backslash in a text begins an escape, as MariaDB has it unless it is told not to.
+    // A backslash in a text begins an escape, as MariaDB has it unless it is configured not to.
     bool escapesByBackslash = false;
     Engine engine = Engine::Other;
 

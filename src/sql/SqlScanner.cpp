@@ -220,7 +220,7 @@ bool SqlScanner::hasBackslashEscapes(qsizetype quote) const
 qsizetype SqlScanner::endOfQuoted(qsizetype from, QChar close) const
 {
     const bool escapes = hasBackslashEscapes(from);
-    // A doubled quote stands for itself. SQLite's bracket can't be doubled.
+    // A doubled quote is one quote. SQLite's bracket can't be doubled.
     const bool doubles = close != u']' || m_dialect != SqlDialect::Standard;
     for (qsizetype i = from + 1; i < m_sql.size(); ++i) {
         if (escapes && m_sql.at(i) == u'\\') {

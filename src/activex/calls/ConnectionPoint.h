@@ -28,7 +28,7 @@ public:
     STDMETHODIMP EnumConnections(IEnumConnections **connections) override;
 
     REFIID outgoing() const { return m_outgoing; }
-    // Those who listen now; a copy, because a listener may leave while it is told something.
+    // Those who listen now; a copy, because a listener may leave while it is notified.
     std::vector<Microsoft::WRL::ComPtr<IUnknown>> sinks() const;
     void clear() { m_sinks.clear(); }
 

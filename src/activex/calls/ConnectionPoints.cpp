@@ -74,7 +74,7 @@ void ConnectionPoints::notifyChanged(const QString &property)
     const DISPID id = m_control.dispatch().idOf(property);
     m_control.persistence().propertyChanged(property);
     m_control.view().viewChanged();
-    // Last: a listener may let go of the control.
+    // Last: a listener may release the control.
     m_source->notifyAll(m_properties, [id](IUnknown &sink) {
         ComPtr<IPropertyNotifySink> listener;
         if (SUCCEEDED(sink.QueryInterface(IID_PPV_ARGS(&listener))))

@@ -20,7 +20,7 @@ public:
     STDMETHODIMP FindConnectionPoint(REFIID iid, IConnectionPoint **point) override;
 
     EventSource &events() { return *m_source; }
-    // No listener is told anything any more.
+    // No listener is notified any more.
     void end();
 
 private:

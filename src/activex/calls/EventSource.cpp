@@ -90,7 +90,7 @@ void EventSource::notify(const Event &event, void **arguments)
 
 void EventSource::notifyAll(ConnectionPoint &point, const std::function<void(IUnknown &)> &notifyOne)
 {
-    // A listener may let go of the control; the others are told all the same.
+    // A listener may release the control; the others are notified all the same.
     ComPtr<IConnectionPoint> alive(&point);
     const QPointer<EventSource> self(this);
     ++m_telling;

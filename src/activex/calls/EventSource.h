@@ -19,12 +19,12 @@ class EventSource : public QObject
 public:
     EventSource(const QObject &object, ITypeInfo &events, ConnectionPoint &point);
 
-    // While frozen nothing is told; freezes count.
+    // While frozen nothing is reported; freezes nest.
     void freeze(bool on);
     // Calls `notifyOne` for each listener of a connection point of the same control. The control, and this
     // with it, may be gone when it returns.
     void notifyAll(ConnectionPoint &point, const std::function<void(IUnknown &)> &notifyOne);
-    // Whether a listener is being told something at the moment.
+    // Whether a listener is being notified at the moment.
     bool isTelling() const { return m_telling > 0; }
 
     // Receives every connected signal, so no slot has to be written for any of them.

@@ -23,7 +23,7 @@ struct Member
 class MemberTable
 {
 public:
-    // Numbered from 1 as they are declared. DISPID_VALUE stands for "Value", "Item" or "Fields", whichever
+    // Numbered from 1 as they are declared. DISPID_VALUE is "Value", "Item" or "Fields", whichever
     // the class has.
     explicit MemberTable(const QMetaObject &type);
     // Numbered as a type library does; what it does not know is left out.

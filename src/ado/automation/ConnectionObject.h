@@ -10,8 +10,7 @@ namespace ADODB {
 
 class Connection;
 
-// A connection by ADO's member names; see RecordsetObject. It shares the connection with whoever else holds
-// it.
+// A connection with ADO's member names; see RecordsetObject. It shares the connection with its other owners.
 class KOVA_EXPORT ConnectionObject : public QObject
 {
     Q_OBJECT
@@ -28,15 +27,15 @@ public:
                           const QString &password = {}, qint32 options = -1);
     Q_INVOKABLE void Close();
 
-    // Behind the properties.
+    // Accessors of the properties.
     QString connectionString();
     void setConnectionString(const QString &text);
     qint32 state();
-    // For C++ callers: what this object stands for.
+    // The connection itself, for C++ callers.
     const std::shared_ptr<Connection> &connection() const { return m_connection; }
 
 Q_SIGNALS:
-    // A call by name failed; the number and the text are those of ADODB::Error.
+    // A call by name failed. The arguments are those of ADODB::Error.
     void HostError(qint32 Number, const QString &Description);
 
 private:

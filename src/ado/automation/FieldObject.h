@@ -10,8 +10,8 @@ namespace ADODB {
 class Field;
 class Recordset;
 
-// One field by ADO's member names; see RecordsetObject. It stands for a column number, so it stays usable
-// when the recordset is opened again.
+// One field with ADO's member names; see RecordsetObject. It refers to a column number, so it can still be
+// used after the recordset was opened again.
 class KOVA_EXPORT FieldObject : public QObject
 {
     Q_OBJECT
@@ -25,10 +25,10 @@ class KOVA_EXPORT FieldObject : public QObject
     Q_PROPERTY(qint32 Attributes READ attributes)
 
 public:
-    // Made by FieldsObject alone.
+    // For FieldsObject only.
     FieldObject(Recordset &recordset, int index, QObject *parent);
 
-    // Behind the properties.
+    // Accessors of the properties.
     QString name();
     qint32 type();
     QVariant value();
@@ -39,7 +39,7 @@ public:
     qint32 attributes();
 
 Q_SIGNALS:
-    // A call by name failed; the number and the text are those of ADODB::Error.
+    // A call by name failed. The arguments are those of ADODB::Error.
     void HostError(qint32 Number, const QString &Description);
 
 private:

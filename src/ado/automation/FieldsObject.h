@@ -12,7 +12,7 @@ namespace ADODB {
 class FieldObject;
 class Recordset;
 
-// The fields of a recordset by ADO's member names; see RecordsetObject. It belongs to the recordset's object.
+// The fields of a recordset with ADO's member names; see RecordsetObject. Owned by the recordset's object.
 class KOVA_EXPORT FieldsObject : public QObject
 {
     Q_OBJECT
@@ -20,20 +20,20 @@ class KOVA_EXPORT FieldsObject : public QObject
     Q_PROPERTY(qint32 Count READ count)
 
 public:
-    // Made by RecordsetObject alone.
+    // For RecordsetObject only.
     FieldsObject(Recordset &recordset, QObject *parent);
 
-    // By name or by 0-based index; null (and HostError) when there is no such field. A field's object is made
-    // on first use, lives as long as the recordset's object and is always the same one.
+    // By name or by 0-based index. If there is no such field, emits HostError and returns null. A field's
+    // object is created on first use, is always the same one, and lives as long as the recordset's object.
     Q_INVOKABLE QObject *Item(const QString &name);
     Q_INVOKABLE QObject *Item(qint32 index);
     Q_INVOKABLE QObject *Item(const QVariant &nameOrIndex);
 
-    // Behind the property.
+    // Accessor of the property.
     qint32 count();
 
 Q_SIGNALS:
-    // A call by name failed; the number and the text are those of ADODB::Error.
+    // A call by name failed. The arguments are those of ADODB::Error.
     void HostError(qint32 Number, const QString &Description);
 
 private:

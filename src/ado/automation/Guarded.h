@@ -10,7 +10,7 @@
 namespace ADODB {
 
 // Nothing may be thrown at a late-bound caller: runs `action` for `object` and turns what it throws into the
-// object's HostError signal and the neutral value of the result. Whoever the action told of something can
+// object's HostError signal and the neutral value of the result. A listener that the action notified can
 // have deleted the object; then nobody is left to tell.
 template<typename Object, typename Action>
 auto guarded(Object *object, Action &&action) -> decltype(action())

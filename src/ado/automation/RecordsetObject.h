@@ -16,9 +16,9 @@ namespace ADODB {
 class FieldsObject;
 class Recordset;
 
-// A recordset by ADO's member names, for hosts that know nothing but a QObject and names. Nothing is thrown:
-// a call that fails emits HostError and answers the neutral value of its type; BOF and EOF then answer true,
-// so that every walk over the records ends. Failures of its fields are emitted here too.
+// A recordset with ADO's member names, for hosts that have a QObject and use names. It never throws. A call
+// that fails emits HostError and returns the default value of its type. BOF and EOF then return true, so that
+// every loop over the records ends. Errors of its fields are also emitted here.
 class KOVA_EXPORT RecordsetObject : public QObject
 {
     Q_OBJECT
@@ -39,7 +39,7 @@ class KOVA_EXPORT RecordsetObject : public QObject
     Q_PROPERTY(QObject *Fields READ fields)
 
 public:
-    // Made by automation() alone.
+    // For automation() only.
     explicit RecordsetObject(Recordset &recordset);
     ~RecordsetObject() override;
 
@@ -48,7 +48,7 @@ public:
     Q_INVOKABLE QObject *Fields(qint32 index);
     Q_INVOKABLE QObject *Fields(const QVariant &nameOrIndex);
 
-    // As Recordset::Open; `connection` is a ConnectionObject.
+    // Like Recordset::Open; `connection` is a ConnectionObject.
     Q_INVOKABLE void Open(const QString &source, QObject *connection, qint32 cursorType = -1,
                           qint32 lockType = -1, qint32 options = -1);
     // As the members of Recordset with these names.
@@ -63,7 +63,7 @@ public:
     Q_INVOKABLE void CancelUpdate();
     Q_INVOKABLE void Delete(qint32 affectRecords = 1);
 
-    // Behind the properties.
+    // Accessors of the properties.
     bool isBOF();
     bool isEOF();
     qint32 recordCount();
@@ -86,8 +86,7 @@ public:
     QObject *fields();
 
 Q_SIGNALS:
-    // A call by name, on this object or on one of its fields, failed; the number and the text are those of
-    // ADODB::Error.
+    // A call by name on this object or one of its fields failed. The arguments are those of ADODB::Error.
     void HostError(qint32 Number, const QString &Description);
 
 private:
@@ -95,7 +94,7 @@ private:
     FieldsObject *m_fields; // a child
 };
 
-// The object of a recordset, always the same one. The recordset owns it.
+// The object of a recordset. It is always the same one, and the recordset owns it.
 KOVA_EXPORT RecordsetObject *automation(const std::shared_ptr<Recordset> &recordset);
 
 } // namespace ADODB

@@ -7,7 +7,7 @@
 
 namespace ADODB {
 
-// A stream of its own by ADO's member names; see RecordsetObject.
+// A stream with ADO's member names; see RecordsetObject.
 class KOVA_EXPORT StreamObject : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
     Q_INVOKABLE QString ReadText();
     Q_INVOKABLE void SaveToFile(const QString &fileName, qint32 options = 1);
 
-    // Behind the properties.
+    // Accessors of the properties.
     qint32 type();
     void setType(qint32 type);
     qint32 state();
@@ -40,7 +40,7 @@ public:
     void setPosition(qint32 position);
 
 Q_SIGNALS:
-    // A call by name failed; the number and the text are those of ADODB::Error.
+    // A call by name failed. The arguments are those of ADODB::Error.
     void HostError(qint32 Number, const QString &Description);
 
 private:

@@ -7,8 +7,8 @@
 
 #include <vector>
 
-// What this machine's ODBC driver manager has to offer. Both answers are empty where nothing is installed or
-// the driver manager fails; neither throws.
+// The ODBC drivers and data sources of this machine. Both functions return an empty list if nothing is
+// installed or the driver manager fails. They never throw.
 namespace ADODB {
 
 struct OdbcDataSource

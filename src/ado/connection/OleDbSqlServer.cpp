@@ -90,7 +90,7 @@ void putLogin(ConnectionString &words)
     words.remove(u"PWD"_s);
 }
 
-// Drivers from 18 on encrypt and check the server's certificate unless they are told not to, which most
+// Drivers from 18 on encrypt and check the server's certificate unless they are configured not to, which most
 // providers never did: a host that has always connected must connect.
 void putEncryption(ConnectionString &words, const OdbcDriver &driver, const QString &provider)
 {

@@ -74,7 +74,7 @@ struct Recordset::Private
     // The number must be one of 1…limit; `text` is the message for one that is not.
     void needInRange(qint64 number, qint64 limit, const QString &text) const;
 
-    // An observer may remove itself or others when it is told.
+    // An observer may remove itself or others when it is called.
     void notify(void (RecordsetObserver::*what)(EventReasonEnum), EventReasonEnum reason)
     {
         const auto told = observers;

@@ -10,8 +10,9 @@ class QWidget;
 
 namespace KOVAVSFDataGridLib {
 
-// Lets a person build a connection string for a database of the given AllDBType in a window above `parent`,
-// beginning with `present`. Nothing when that was cancelled. What was opened to try it is closed again.
+// Shows a dialog above `parent` in which the user builds a connection string for a database of the given
+// AllDBType, starting with `present`. Returns nothing if the user cancels. A connection opened for testing is
+// closed again.
 KOVA_EXPORT std::optional<QString> BuildConnection(QWidget *parent, const QString &present, qint32 dbType);
 
 } // namespace KOVAVSFDataGridLib

@@ -8,18 +8,18 @@
 
 namespace KOVAVSFDataGridLib {
 
-// An error that the control raises to a host written in C++. A late-bound host, which can't be thrown
-// at, receives the same number and text through the signal KOVAVSFDataGrid::HostError.
+// The exception that the control throws to a host written in C++. A host that uses the control by name gets
+// the same number and text through the signal KOVAVSFDataGrid::HostError.
 class KOVA_EXPORT ControlError : public std::exception
 {
 public:
-    // The numbers that there are.
+    // The possible numbers.
     enum Number : qint32 {
         SetNotSupportedAtRuntime = 382, // a property that only a form editor may write
         GetNotSupportedAtRuntime = 393, // a property that only a form editor may read
     };
 
-    // `description` is English: only a host's developer meets it.
+    // `description` is in English, because only developers of hosts see it.
     ControlError(qint32 number, const QString &description);
     ~ControlError() override;
 

@@ -10,16 +10,16 @@ namespace KOVAVSFDataGridLib {
 class PropertyBag;
 }
 
-// The SQL result grid. Give it a ConnectionString, a DBType and a SELECT in SQLShow, then call IsLoadData;
-// from then on the user reshapes what is shown, and every step is a statement that runs on the database.
+// The SQL result grid. Set ConnectionString, DBType and a SELECT in SQLShow, then call IsLoadData. The user
+// can then filter, sort, choose fields and edit; each step is a new statement that runs on the database.
 //
-// Every member of IKOVAVSFDataGrid can also be reached by its name through the meta-object, for a host
-// that knows only a QWidget. Everything runs on the GUI thread. Failures are told in message boxes;
-// nothing here throws, except UseModel and PutUseModel when called from C++.
+// Every member of IKOVAVSFDataGrid can also be used by name through the meta-object, by a host that has only
+// a QWidget. Everything runs on the GUI thread. Errors are shown in message boxes. No member throws, except
+// UseModel and PutUseModel when called from C++.
 class KOVA_EXPORT KOVAVSFDataGrid : public QWidget, public IKOVAVSFDataGrid
 {
     Q_OBJECT
-    // Only BackColor is kept in a form file: a host sets everything else in code before IsLoadData.
+    // A form file stores only BackColor. A host sets all other properties in code before IsLoadData.
 
     Q_PROPERTY(QString STR_SQLTEMP READ STR_SQLTEMP WRITE PutSTR_SQLTEMP STORED false)
     Q_PROPERTY(bool Enabled READ Enabled WRITE PutEnabled STORED false)
@@ -46,8 +46,8 @@ class KOVA_EXPORT KOVAVSFDataGrid : public QWidget, public IKOVAVSFDataGrid
     Q_PROPERTY(QString PassQurryFilter READ PassQurryFilter WRITE PutPassQurryFilter STORED false)
     Q_PROPERTY(qint32 CurrPosition READ CurrPosition STORED false)
     Q_PROPERTY(QString PicField READ PicField WRITE PutPicField STORED false)
-    // True at run time, False while the control is being designed. The control finds out for itself whether
-    // it sits in a form editor; a host can say otherwise.
+    // True at run time, False at design time. The control detects whether it is in a form editor; a host can
+    // override this.
     Q_PROPERTY(bool UserMode READ UserMode WRITE PutUserMode STORED false DESIGNABLE false)
     Q_PROPERTY(bool ReadOnly READ ReadOnly WRITE PutReadOnly STORED false)
 
@@ -61,15 +61,15 @@ public:
 
     // Which fields a load shows.
     enum ShowModelChoose : qint32 {
-        ModelAll = 0, // all of the statement
-        ModelPart = 1 // those of SQLPartDisplay
+        ModelAll = 0, // all fields of the statement
+        ModelPart = 1 // the fields in SQLPartDisplay
     };
     Q_ENUM(ShowModelChoose)
 
     // For hosts' own use; no property has this type.
     enum backstyleChoose : qint32 {
-        Transparent = 0, // what is behind shows through
-        Opaque = 1       // covers what is behind
+        Transparent = 0, // shows the background
+        Opaque = 1       // covers the background
     };
     Q_ENUM(backstyleChoose)
 
@@ -80,26 +80,26 @@ public:
     };
     Q_ENUM(AppearanceChoose)
 
-    // Whose form of SQL derived statements take: how names, texts, dates and LIKE are written.
+    // The SQL dialect of derived statements: how names, texts, dates and LIKE are written.
     enum AllDBType : qint32 {
-        dbAccess = 1,   // Access; SQLite reads the same form
-        dbOracle = 2,   // Oracle; a load spells the field list out
+        dbAccess = 1,   // Access, also right for SQLite
+        dbOracle = 2,   // Oracle; a load replaces `*` by the names of all fields
         dbSQLServer = 3 // SQL Server
     };
     Q_ENUM(AllDBType)
 
-    // What the statement stands for.
+    // What the statement shows.
     enum TBLType : qint32 {
         DataTable = 0, // one table
         DataView = 1,  // one view
-        DefSQL = 2     // a statement of its own, so that there is no table to show in full
+        DefSQL = 2     // another query, so there is no single table to show in full
     };
     Q_ENUM(TBLType)
 
-    // An empty grid with everything disabled until IsLoadData.
+    // An empty grid. Everything is disabled until IsLoadData.
     explicit KOVAVSFDataGrid(QWidget *parent = nullptr);
-    // Ends its open dialogs as cancelled, and closes the result at once, with its files and its connection,
-    // unless the host shares ADODB::Adodc::Recordset().
+    // Cancels open dialogs. Closes the result, its files and its connection immediately, unless the host
+    // shares ADODB::Adodc::Recordset().
     ~KOVAVSFDataGrid() override;
 
     QString STR_SQLTEMP() const override;
@@ -186,75 +186,75 @@ public:
     bool UserMode() const;
     void PutUserMode(bool on);
 
-    // Gives BackColor the system's button-face colour, which follows the palette.
+    // Sets BackColor to the system's button-face colour, which follows the palette.
     void ResetBackColor();
 
-    // Called by the container for a new control on a form: empties the statement texts and the grid, and sets
+    // The container calls this for a new control on a form. It clears the statements and the grid, and sets
     // UseModel and ShowModel to 0.
     void InitProperties();
-    // Called by the container to restore a control from a form: reads BackColor, the button-face colour by
-    // default.
+    // The container calls this to restore a control from a form. It reads BackColor; the default is the
+    // button-face colour.
     void ReadProperties(const KOVAVSFDataGridLib::PropertyBag &bag);
-    // Called by the container to keep a control with its form: writes BackColor and nothing else, as a 32-bit
-    // number.
+    // The container calls this to store a control in its form. It writes only BackColor, as a 32-bit number.
     void WriteProperties(KOVAVSFDataGridLib::PropertyBag &bag) const;
 
-    // Three times the least size, which is 3000 x 1500 twips.
+    // Three times the minimum size of 3000 x 1500 twips.
     QSize sizeHint() const override;
 
-    // What is behind the face; only the control's own sources know more of it.
+    // The implementation.
     class Private;
 
 Q_SIGNALS:
-    // The events, in their fixed order. What comes by reference may be changed by a directly connected
-    // handler. Positions are twips, 1440 to the inch, from the grid's corner; Button is 1 left, 2 right, 4
-    // middle; Shift is the sum of 1 Shift, 2 Ctrl, 4 Alt.
+    // The events, in their fixed order. A directly connected handler may change arguments passed by
+    // reference. Positions are in twips, 1440 per inch, from the grid's top left corner. Button is 1 for
+    // left, 2 for right, 4 for middle. Shift is the sum of 1 for Shift, 2 for Ctrl and 4 for Alt.
     //
-    // A handler of one of these, of PropertyChanged too, may load again, tear down or delete the control, and
-    // so may a timer while a dialog is open. The window that the control stands on has to outlive the event:
-    // close it, or leave it to deleteLater().
+    // A handler of any event, including PropertyChanged, may load again, clear or delete the control. A timer
+    // may do so while a dialog is open. The window that contains the control must outlive the event: close
+    // it, or use deleteLater().
 
-    // A mouse button went down on the grid, headings included; told before the grid acts on it.
+    // A mouse button was pressed on the grid or its headings. Raised before the grid reacts.
     void DataMouseDown(qint16 &Button, qint16 &Shift, float &x, float &y);
-    // A mouse button came up on the grid; the record has followed the row by then, and the menu is closed
-    // again.
+    // A mouse button was released on the grid. By then the current record has changed, and the popup menu is
+    // closed.
     void DataMouseUp(qint16 &Button, qint16 &Shift, float &x, float &y);
-    // The mouse moved over the grid, with or without a button; Button is the sum of those that are down.
+    // The mouse moved over the grid. Button is the sum of the buttons that are pressed, or 0.
     void DataMouseMove(qint16 &Button, qint16 &Shift, float &x, float &y);
-    // Never raised; kept for hosts that have a handler for it.
+    // Never raised. It exists for hosts that have a handler for it.
     void Error(qint16 DataError, qint16 &Response);
     // A column heading was clicked; the column counts from 1. Nothing else happens on that click.
     void HeadClick(qint16 ColIndex);
-    // A record was clicked and is current. The file of PicField has been written.
+    // A record was clicked and is now current. The picture file of PicField has been written.
     void DataClick();
-    // The grid was double-clicked; comes before DataDBLClickOneCell or DataDBLClickOneRow, and alone beside
-    // the records.
+    // The grid was double-clicked. Raised before DataDBLClickOneCell or DataDBLClickOneRow; outside the
+    // records, only this event is raised.
     void DataDblClick();
-    // A key went down in the grid, as a virtual-key number: Enter 13, Esc 27, F1 112, letters as in upper
-    // case. A handler that sets KeyCode to 0 keeps the key from the grid.
+    // A key was pressed in the grid. KeyCode is a virtual-key code: Enter 13, Esc 27, F1 112, letters as in
+    // upper case. If a handler sets KeyCode to 0, the grid ignores the key.
     void DataKeyDown(qint16 &KeyCode, qint16 &Shift);
-    // A mouse button came up beside the grid, on the panel; positions count from the panel's corner.
+    // A mouse button was released on the panel around the grid. Positions are from the panel's top left
+    // corner.
     void MouseUp(qint16 &Button, qint16 &Shift, float &x, float &y);
-    // The user chose the fields to show; carries the new statement.
+    // The user chose the fields to show. strSQL is the new statement.
     void ShowFieldsChange(const QString &strSQL);
-    // The user asked for the filter; strLastFilter is the statement that it will refine. Leave Cancel at 1
-    // for the built-in dialog; or set PassQurryFilter and Cancel to 0 to filter by that condition. An empty
-    // condition filters nothing.
+    // The user asked for the filter. strLastFilter is the statement to be filtered. For the built-in dialog,
+    // leave Cancel at 1. To filter with a condition of your own, set PassQurryFilter to it and Cancel to 0.
+    // An empty condition changes nothing.
     void QurryFilter(qint32 &Cancel, const QString &strLastFilter);
     // Another record is current. ChangeReason is a number of ADODB::EventReasonEnum, or 3 from
-    // LocateSelRecord; CurrPosition is the record's number from 1, or one less from LocateSelRecord.
+    // LocateSelRecord. CurrPosition is the number of the record, from 1; from LocateSelRecord it is one less.
     void RecordChanged(qint32 ChangeReason, qint32 CurrPosition);
-    // The result was replaced or closed; ChangeReason is a number of ADODB::EventReasonEnum.
+    // The result was replaced or closed. ChangeReason is a number of ADODB::EventReasonEnum.
     void RecordsetChanged(qint32 ChangeReason);
-    // A cell was double-clicked; column and row count from 1.
+    // A cell was double-clicked. Col and Row are counted from 1.
     void DataDBLClickOneCell(qint32 Col, qint32 Row);
-    // A row was double-clicked: on its number, or anywhere while whole rows are selected. Counts from 1.
+    // A row was double-clicked: on its number, or anywhere if whole rows are selected. Row is counted from 1.
     void DataDBLClickOneRow(qint32 Row);
 
-    // A property was written; carries its name. Not every property tells: STR_SQLTEMP, Enabled, the
-    // properties of the toolbar and of the grid, UseModel, ShowModel, PassQurryFilter and PicField don't.
+    // The property `name` was written. Not raised for STR_SQLTEMP, Enabled, the properties of the toolbar and
+    // of the grid, UseModel, ShowModel, PassQurryFilter and PicField.
     void PropertyChanged(const QString &name);
-    // An error of a property that a late-bound host read or wrote; see KOVAVSFDataGridLib::ControlError.
+    // A host failed to read or write a property by name; see KOVAVSFDataGridLib::ControlError.
     void HostError(qint32 Number, const QString &Description);
 
 protected:

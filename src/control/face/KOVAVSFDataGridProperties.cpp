@@ -14,7 +14,7 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QPushButton>
 
-// The properties of the interface. Writing most of them is told to the host, which may delete the control.
+// The properties of the interface. Writing most of them notifies the host, which may delete the control.
 
 using namespace KOVAVSFDataGridLib;
 using namespace Qt::StringLiterals;

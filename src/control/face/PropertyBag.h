@@ -6,7 +6,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What a container gives the control to keep its design-time values in. Implemented by the container.
+// The place where a container stores the design-time values of a control. Containers implement it.
 class KOVA_EXPORT PropertyBag
 {
 public:
@@ -14,9 +14,9 @@ public:
     virtual ~PropertyBag();
     Q_DISABLE_COPY_MOVE(PropertyBag)
 
-    // The value kept under `name`, or `byDefault` when there is none.
+    // The value stored under `name`, or `byDefault` when there is none.
     virtual QVariant ReadProperty(const QString &name, const QVariant &byDefault) const = 0;
-    // Keeps `value`; a container may leave out one that equals `byDefault`.
+    // Stores `value`. A container need not store a value that equals `byDefault`.
     virtual void WriteProperty(const QString &name, const QVariant &value, const QVariant &byDefault) = 0;
 };
 

@@ -127,7 +127,7 @@ bool CommandInput::isShortcut(const QKeyEvent &event) const
     });
 }
 
-// A key that is a command's shortcut never gets as far as a key press; the host is told of it all the same,
+// A key that is a command's shortcut never gets as far as a key press; the host is notified all the same,
 // and may keep it from the command.
 bool CommandInput::eventFilter(QObject *watched, QEvent *event)
 {

@@ -79,7 +79,7 @@ bool GridEvents::isGridSurface(const QObject *object) const
 
 bool GridEvents::eventFilter(QObject *watched, QEvent *event)
 {
-    // The host is told before the grid itself acts. A disabled grid has nothing to tell.
+    // The host is notified before the grid itself acts. A disabled grid reports nothing.
     if (!m_parts.vsfgDataGrid->isEnabled() && watched != m_parts.picMainBack)
         return QObject::eventFilter(watched, event);
     const QPointer<KOVAVSFDataGrid> alive(&m_control);
@@ -219,7 +219,8 @@ void GridEvents::doubleClicked(QWidget &source, QMouseEvent &event)
         Q_EMIT m_control.DataDBLClickOneCell(grid.Col(), grid.Row());
 }
 
-// The second press can come down beside the cell of the first; the grid follows only after the host is told.
+// The second press can come down beside the cell of the first; the grid follows only after the host is
+// notified.
 void GridEvents::makeCurrent(Place place, const QPoint &position)
 {
     VSFlexGrid &grid = *m_parts.vsfgDataGrid;

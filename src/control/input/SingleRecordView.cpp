@@ -193,7 +193,7 @@ bool SingleRecordView::isDealtWith(QObject *watched, QEvent *event)
             doubleClicked(*source, *static_cast<QMouseEvent *>(event));
         return false;
     case QEvent::ContextMenu:
-        // The menu key comes as a key, and the right button is told below: once each.
+        // The menu key comes as a key, and the right button is reported below: once each.
         return true;
     case QEvent::MouseButtonRelease:
         if (static_cast<QMouseEvent *>(event)->button() == Qt::RightButton &&

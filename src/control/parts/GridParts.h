@@ -47,7 +47,7 @@ public:
 
     // Places everything on a control of the given size.
     void layOut(int width, int height);
-    // Places the parts below the grid anew; needed when the page label's text has changed.
+    // Places the parts below the grid again; needed when the page label's text has changed.
     void layOutFoot() const;
     // The line below the grid, on the control.
     QRect foot() const;

@@ -71,7 +71,7 @@ inline const QString CancelWritingHint = u"停止（Esc）"_s;
 
 inline const QString NothingToExport = u"没有打开的结果，无法导出。"_s;
 
-// Misuse of a method, told to the developer.
+// Misuse of a method, shown to the developer.
 inline const QString WrongCol = u"Wrong Col Number!"_s;
 inline const QString WrongRow = u"Wrong Row Number!"_s;
 inline const QString WrongCell = u"The value of row or col is out of range!"_s;

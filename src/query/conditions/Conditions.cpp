@@ -31,7 +31,7 @@ bool Contains(const std::array<qint32, Count> &types, qint32 adoType)
 }
 
 // What Access is to write before ".[field]": the FROM text when it is one name, the alias when one follows,
-// else nothing, because the fields of a join can't be told apart by its text.
+// else nothing, because the fields of a join can't be distinguished by its text.
 QString TableQualifier(const QString &fromText)
 {
     static const QRegularExpression oneName = [] {

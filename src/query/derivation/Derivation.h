@@ -22,7 +22,7 @@ struct FilteredResult
 // What a command does to a statement; see Derivation::whyNot.
 enum class DerivationStep { Condition, Sort, Fields };
 
-// Derives from one statement. Three kinds of statement are told apart:
+// Derives from one statement. There are three kinds of statements:
 //
 // simple  SELECT list FROM … [WHERE …] [ORDER BY …] with plain names in its list, all of them different,
 // whose

@@ -62,7 +62,7 @@ void Derivation::nameFields(const std::vector<SourceField> &fields)
         ++m_countOfName[field.name.toCaseFolded()];
     }
 
-    // A single star gives what the other entries don't; several can't be told apart by their number.
+    // A single star gives what the other entries don't; several can't be distinguished by their number.
     const auto stars = std::count_if(m_parts.items.begin(), m_parts.items.end(),
                                      [](const SelectParts::Item &item) { return item.isStar; });
     const auto inStar = static_cast<qsizetype>(all.size() + 1) - static_cast<qsizetype>(m_parts.items.size());

@@ -38,7 +38,7 @@ public:
     virtual std::optional<std::vector<SourceField>> Read(const QString &connectionString,
                                                          const QString &statement) = 0;
 
-    // The engine to which that connection leads; Other when it can't be told.
+    // The engine to which that connection leads; Other when it is not known.
     virtual Engine engineOf(const QString &) { return Engine::Other; }
 };
 

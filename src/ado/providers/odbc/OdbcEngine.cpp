@@ -33,8 +33,8 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
     switch (engine.kind) {
     case Kind::PostgreSql:
         engine.dialect = SqlDialect::PostgreSql;
-        // A server can be told to read backslashes in texts as escapes; a statement that was scanned without
-        // them could then hold another one.
+        // A server can be configured to read backslashes in texts as escapes; a statement that was scanned
+        // without them could then hold another one.
         engine.beginReading = u"BEGIN READ ONLY; SET LOCAL standard_conforming_strings = on"_s;
         engine.endReading = u"ROLLBACK"_s;
         engine.explain = u"EXPLAIN "_s;

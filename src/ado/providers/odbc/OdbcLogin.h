@@ -27,7 +27,7 @@ public:
     } // seconds, ADO's 15 unless given; 0 for the driver's own
     int commandTimeout() const { return m_commandTimeout; } // seconds, 0 for none
 
-    // What stands behind the driver that the text names, as far as can be told before connecting.
+    // The engine of the driver that the text names, as far as it is known before connecting.
     OdbcEngine::Kind likelyEngine() const;
     // Adds what the engine's driver needs in order to fetch a result in portions, to cut nothing and to call
     // a Boolean one; what the text says itself stays. False when it was all there already.

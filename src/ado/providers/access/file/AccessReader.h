@@ -19,7 +19,7 @@ public:
     // False behind the last row.
     bool next();
 
-    // A number that stands for the row it is on, for as long as the file is open, and the way back to it.
+    // A number that identifies the current row as long as the file is open, and the way back to it.
     qint64 position() const;
     void seek(qint64 position);
 

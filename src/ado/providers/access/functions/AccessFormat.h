@@ -3,7 +3,7 @@
 #include <QtCore/QDateTime>
 #include <QtCore/QString>
 
-// The formats of Access's Format function that are used most; parts that are not known stand for themselves.
+// The formats of Access's Format function that are used most; unknown parts are copied.
 namespace ADODB::AccessFormat {
 
 // yyyy yy, mmmm mmm mm m, dddd ddd dd d, hh h, nn n, ss s, and the names Short Date, Medium Date, Long Date,

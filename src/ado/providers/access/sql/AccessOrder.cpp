@@ -77,7 +77,7 @@ int AccessOrder::compare(QByteArrayView a, QByteArrayView b) const
         ++i;
     if (i < shorter && plain(a[i]) != '\0' && plain(b[i]) != '\0')
         return plain(a[i]) - plain(b[i]);
-    // Texts that only a dictionary holds for equal are told apart by their code points.
+    // Texts that only a dictionary treats as equal are distinguished by their code points.
     const int byCodePoints = AccessCollation::compareTexts(a, b);
     if (i == shorter || byCodePoints == 0)
         return byCodePoints;

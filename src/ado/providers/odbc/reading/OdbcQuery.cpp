@@ -107,7 +107,7 @@ void OdbcQuery::read(RowStore &rows, const OdbcPatience &patience)
     SQLFreeStmt(m_statement->get(), SQL_CLOSE);
 }
 
-// False when the rows have to be read anew, value by value.
+// False when the rows have to be read again, value by value.
 bool OdbcQuery::readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch)
 {
     SQLHSTMT const statement = m_statement->get();

@@ -27,7 +27,7 @@ void waitForTables(const std::shared_ptr<OdbcConnection> &connection, const Odbc
     handle.prepare(engine.explain + statement.withoutSemicolon());
     SQLSMALLINT parameters = 0;
     handle.check(SQLNumParams(handle.get(), &parameters));
-    if (parameters > 0) // which nobody gives; told later
+    if (parameters > 0) // which nobody gives; reported later
         return;
     handle.check(OdbcWatch(handle, patience).run([&handle] { return SQLExecute(handle.get()); }));
 }

@@ -23,7 +23,7 @@ struct OdbcTable
 {
     QString whyReadOnly; // what it is instead of a table; the rest is set only where this is empty
     QStringList columns;
-    QStringList comparable; // those of them that can be told apart by an equals sign
+    QStringList comparable; // those of them that can be compared with an equals sign
     // What tells a row from all others: the primary key, else a unique index without Nulls. Empty if there is
     // none.
     QStringList key;

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "EventArguments.h"
+#include "Result.h"
+
+#include <KOVAVSFDataGrid>
+
+// The control as Python sees it: events with arguments by reference carry an object instead, under the same
+// names.
+class PythonGrid : public KOVAVSFDataGrid
+{
+    Q_OBJECT
+
+public:
+    explicit PythonGrid(QWidget *parent = nullptr);
+
+    // The open result; closed when there is none.
+    Result result();
+
+Q_SIGNALS:
+    void DataMouseDown(const MouseArguments &arguments);
+    void DataMouseUp(const MouseArguments &arguments);
+    void DataMouseMove(const MouseArguments &arguments);
+    void Error(const ErrorArguments &arguments);
+    void DataKeyDown(const KeyArguments &arguments);
+    void MouseUp(const MouseArguments &arguments);
+    void QurryFilter(const FilterArguments &arguments);
+};

@@ -1,0 +1,27 @@
+"""The exceptions of the package."""
+
+
+class Error(Exception):
+    """An error of the database or of the data access."""
+
+    def __init__(self, Number: int, Description: str, Source: str = '', SQLState: str = '', NativeError: int = 0):
+        super().__init__(Description)
+        #: 0x800A0000 plus a number of ADODB.ErrorValueEnum, or a number of ADODB.ProviderErrorEnum, as a signed number.
+        self.Number = Number
+        #: For the user, in Simplified Chinese.
+        self.Description = Description
+        #: The database's name; empty for an error of the data access itself.
+        self.Source = Source
+        #: Five characters, or empty when the database gave none.
+        self.SQLState = SQLState
+        #: The database library's own number, or 0.
+        self.NativeError = NativeError
+
+
+class ControlError(Exception):
+    """UseModel can be read (393) and written (382) at design time only."""
+
+    def __init__(self, number: int, description: str):
+        super().__init__(description)
+        self.number = number
+        self.description = description

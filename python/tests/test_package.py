@@ -1,0 +1,73 @@
+"""Forms, type hints, docstrings and examples."""
+import ast
+import subprocess
+import sys
+from pathlib import Path
+
+import kovavsfdatagrid
+import pytest
+from kovavsfdatagrid import KOVAVSFDataGrid
+from PyQt6 import uic
+from PyQt6.QtWidgets import QWidget
+
+TOP = Path(__file__).parents[2]
+HINTS = ast.parse(Path(kovavsfdatagrid.__file__).with_name('_kovavsfdatagrid.pyi').read_text('utf-8'))
+
+
+def hinted_members():
+    grid = next(node for node in HINTS.body if isinstance(node, ast.ClassDef) and node.name == 'PythonGrid')
+    names = set()
+    for node in grid.body:
+        if isinstance(node, (ast.FunctionDef, ast.ClassDef)):
+            names.add(node.name)
+        elif isinstance(node, ast.AnnAssign):
+            names.add(node.target.id)
+    return names - {'__init__'}
+
+
+def real_members():
+    return {name for name in vars(KOVAVSFDataGrid.__base__) if not name.startswith('_')}
+
+
+def test_the_type_hints_name_what_there_is():
+    assert hinted_members() == real_members()
+    assert len(real_members()) > 70
+
+
+def test_every_member_of_the_interface_is_there():
+    header = (TOP / 'src/control/face/IKOVAVSFDataGrid.h').read_text('utf-8')
+    import re
+    names = set(re.findall(r'virtual [^~;]*?(\w+)\([^;]*= 0;', header))
+    names -= {name for name in names if name.startswith('Put')}
+    assert len(names) > 50
+    assert names - {'RecordSet'} <= real_members()
+
+
+@pytest.mark.parametrize('name', sorted(real_members()))
+def test_every_member_is_documented(name):
+    assert getattr(KOVAVSFDataGrid, name).__doc__
+
+
+def test_a_form_is_loaded():
+    form = uic.loadUi(str(TOP / 'tests/designer/form.ui'), QWidget())
+    assert type(form.grid) is KOVAVSFDataGrid
+    assert form.grid.BackColor.name() == '#c8dcf0'
+
+
+def test_a_form_is_compiled(tmp_path):
+    module = tmp_path / 'shop_form.py'
+    with module.open('w') as out:
+        uic.compileUi(str(TOP / 'tests/designer/form.ui'), out)
+    names = {}
+    exec(module.read_text(), names)
+    window = QWidget()
+    form = names['Ui_ShopForm']()
+    form.setupUi(window)
+    assert type(form.grid) is KOVAVSFDataGrid
+
+
+@pytest.mark.parametrize('example', sorted((TOP / 'python/examples').glob('*.py')), ids=lambda path: path.name)
+def test_an_example_says_how_it_is_used(example):
+    outcome = subprocess.run([sys.executable, example], capture_output=True, text=True)
+    assert outcome.returncode == 2
+    assert outcome.stderr.startswith('usage: ')
