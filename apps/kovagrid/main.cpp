@@ -143,6 +143,7 @@ int run(int argc, char **argv)
     }
     if (!isWatched || options->print || !options->screenshot.isEmpty())
         return runUnattended(window, *options);
+    window.grid()->PutLayoutKey(u"kovagrid"_s);
     window.show();
     window.loadForm();
     pressButtons(*window.grid(), options->keys);

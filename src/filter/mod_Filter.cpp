@@ -5,7 +5,25 @@
 #include "filter/frm_Filter.h"
 #include "query/conditions/Conditions.h"
 
+#include <QtWidgets/QComboBox>
+
 namespace KOVAVSFDataGridLib {
+
+namespace {
+
+// The keyboard goes on to what is compared.
+void beginWithField(const SetFilter &builder, const QString &field)
+{
+    auto *const fields = builder.findChild<QComboBox *>(QStringLiteral("cmbField1"));
+    const int found = fields ? fields->findText(field) : -1;
+    if (found < 0)
+        return;
+    fields->setCurrentIndex(found);
+    if (auto *const operators = builder.findChild<QComboBox *>(QStringLiteral("cmbOperator1")))
+        operators->setFocus();
+}
+
+} // namespace
 
 mod_Filter::mod_Filter(QWidget *parent) : m_parent(parent) {}
 
@@ -54,6 +72,8 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
         builder.SetResult(*request.result);
     else if (m_isTableKnown)
         builder.SetTableName(fromText);
+    if (!request.field.isEmpty())
+        beginWithField(builder, request.field);
 }
 
 QString mod_Filter::ShowFilterDialog(const QString &refusal)

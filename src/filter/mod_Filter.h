@@ -32,6 +32,7 @@ struct FilterRequest
     // Where the statement isn't the plain rows of a table: what it is filtered by instead.
     std::optional<FilteredResult> result = {};
     QIcon picture = {}; // of the command that asks; may be null
+    QString field = {}; // the one to begin with; empty for any
 };
 
 // Runs the filter dialog and keeps what it left. One object can run any number of dialogs, one after another.

@@ -54,6 +54,16 @@ inline const QString FindInField = u"指定的字段名称（默认：全部）(
 inline const QString FindInFieldName = u"指定的字段名称（默认：全部）"_s;
 inline const QString Find = u"查找(&F)"_s;
 
+// FormatDialog
+inline const QString FormatTitle = u"显示格式"_s;
+inline const QString FormatOfColumn = u"列：%1"_s;
+inline const QString Thousands = u"用逗号分隔千位(&T)"_s;
+inline const QString Decimals = u"小数位数(&D):"_s;
+inline const QString DecimalsAsTheyAre = u"按原样"_s;
+inline const QString ShowYesNo = u"显示为“是”和“否”(&Y)"_s;
+inline const QString FormatSample = u"示例：%1"_s;
+inline const QString FormatHint = u"只改变显示，复制、筛选和导出仍用原来的内容。"_s;
+
 // ExportDialog
 inline const QString ExportTitle = u"导出"_s;
 inline const QString ExportFileLabel = u"文件(&F):"_s;

@@ -1,5 +1,6 @@
 #include "grid/CellDelegate.h"
 
+#include "grid/FlexGridModel.h"
 #include "grid/WholeText.h"
 
 #include <QtGui/QHelpEvent>
@@ -24,6 +25,14 @@ QString CellDelegate::shownText(const QString &text)
 QString CellDelegate::displayText(const QVariant &value, const QLocale &) const
 {
     return shownText(value.toString());
+}
+
+void CellDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    const auto *cells = qobject_cast<const FlexGridModel *>(index.model());
+    if (cells && cells->hasFormats())
+        option->text = shownText(cells->shownText(index.row() + 1, index.column() + cells->fixedCols()));
 }
 
 bool CellDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,

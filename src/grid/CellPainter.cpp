@@ -37,7 +37,8 @@ class CellPainter::Frame
 {
 public:
     Frame(QTableView &view, const FlexGridModel &model, GlyphTable &glyphs,
-          const QStyleOptionViewItem &option, const QPoint &offset, const QModelIndex &hover);
+          const QStyleOptionViewItem &option, const QPoint &offset, const QModelIndex &hover,
+          const QRect &part, int shift);
 
     bool isEmpty() const { return m_columns.empty() || m_lastRow < m_firstRow; }
     // In this order, each for all rectangles that are dirty before the next: a cell that reaches into several
@@ -69,6 +70,7 @@ private:
     QStyleOptionViewItem m_option; // of the row that is painted
     QStyleOptionViewItem m_cell;   // of a cell in it that is not plain
     const QPoint m_offset;
+    const int m_shift;
     const QModelIndex m_hover;
     const QModelIndex m_current; // where the frame of the focus is
     QPainter m_painter;
@@ -86,13 +88,15 @@ private:
 };
 
 CellPainter::Frame::Frame(QTableView &view, const FlexGridModel &model, GlyphTable &glyphs,
-                          const QStyleOptionViewItem &option, const QPoint &offset, const QModelIndex &hover)
+                          const QStyleOptionViewItem &option, const QPoint &offset, const QModelIndex &hover,
+                          const QRect &part, int shift)
     : m_view(view),
       m_model(model),
       m_glyphs(glyphs),
       m_option(option),
       m_cell(option),
       m_offset(offset),
+      m_shift(shift),
       m_hover(hover),
       m_current(view.hasFocus() || view.viewport()->hasFocus() ? view.currentIndex() : QModelIndex()),
       m_painter(view.viewport()),
@@ -104,7 +108,9 @@ CellPainter::Frame::Frame(QTableView &view, const FlexGridModel &model, GlyphTab
 {
     m_cell.palette.setCurrentColorGroup(option.state & QStyle::State_Enabled ? QPalette::Normal
                                                                              : QPalette::Disabled);
-    const QRect all = view.viewport()->rect().translated(offset);
+    const QRect all = part.translated(offset);
+    if (shift != 0)
+        m_painter.setClipRect(part);
     const Span rows = rowsIn(all);
     const Span columns = columnsIn(all);
     m_firstRow = rows.first;
@@ -113,7 +119,7 @@ CellPainter::Frame::Frame(QTableView &view, const FlexGridModel &model, GlyphTab
     const QHeaderView &header = *view.horizontalHeader();
     for (int visual = columns.first; visual <= columns.last; ++visual) {
         const int section = header.logicalIndex(visual);
-        const int left = view.columnViewportPosition(section) + offset.x() +
+        const int left = view.columnViewportPosition(section) + offset.x() + shift +
                          (m_gridSize > 0 && view.isRightToLeft() ? 1 : 0);
         const bool isNumeric = model.source().isNumeric(section + model.fixedCols());
         m_columns.push_back({section, left, header.sectionSize(section) - m_gridSize, isNumeric});
@@ -133,8 +139,8 @@ CellPainter::Frame::Span CellPainter::Frame::rowsIn(const QRect &dirty) const
 CellPainter::Frame::Span CellPainter::Frame::columnsIn(const QRect &dirty) const
 {
     const QHeaderView &header = *m_view.horizontalHeader();
-    int first = header.visualIndexAt(dirty.left());
-    int last = header.visualIndexAt(dirty.right());
+    int first = header.visualIndexAt(dirty.left() - m_shift);
+    int last = header.visualIndexAt(dirty.right() - m_shift);
     if (m_view.isRightToLeft())
         std::swap(first, last);
     return {std::max(first, 0), last < 0 ? header.count() - 1 : last};
@@ -150,7 +156,7 @@ QRect CellPainter::Frame::clipped(QRect dirty) const
     if (m_view.isRightToLeft())
         dirty.setLeft(std::max(dirty.left(), m_view.viewport()->width() - width));
     else
-        dirty.setRight(std::min(dirty.right(), width - 1));
+        dirty.setRight(std::min(dirty.right(), width + m_shift - 1));
     return dirty;
 }
 
@@ -199,7 +205,7 @@ void CellPainter::Frame::paintRow(int visualRow, Span columns)
         if (column.width <= 0 || m_isPainted[begin + place])
             continue;
         m_isPainted[begin + place] = true;
-        paintCell(row, column, m_model.source().text(row + 1, column.section + m_model.fixedCols()));
+        paintCell(row, column, m_model.shownText(row + 1, column.section + m_model.fixedCols()));
     }
 }
 
@@ -321,9 +327,27 @@ bool CellPainter::hasDelegateOrSpan(const QRect &dirty) const
 void CellPainter::paint(const QStyleOptionViewItem &option, const QRegion &dirty, const QPoint &offset,
                         const QModelIndex &hover)
 {
-    if (!m_glyphs || m_glyphs->font() != option.font)
-        m_glyphs = std::make_unique<GlyphTable>(option.font);
-    Frame frame(m_view, m_model, *m_glyphs, option, offset, hover);
+    prepareGlyphs(option.font);
+    Frame frame(m_view, m_model, *m_glyphs, option, offset, hover, m_view.viewport()->rect(), 0);
+    paint(frame, dirty);
+}
+
+void CellPainter::paintShifted(const QStyleOptionViewItem &option, const QRegion &dirty, const QRect &part,
+                               int shift, const QModelIndex &hover)
+{
+    prepareGlyphs(option.font);
+    Frame frame(m_view, m_model, *m_glyphs, option, {}, hover, part, shift);
+    paint(frame, dirty & part);
+}
+
+void CellPainter::prepareGlyphs(const QFont &font)
+{
+    if (!m_glyphs || m_glyphs->font() != font)
+        m_glyphs = std::make_unique<GlyphTable>(font);
+}
+
+void CellPainter::paint(Frame &frame, const QRegion &dirty)
+{
     if (frame.isEmpty())
         return;
     for (const QRect &area : dirty)

@@ -30,6 +30,10 @@ public:
     // scrolls.
     void paint(const QStyleOptionViewItem &option, const QRegion &dirty, const QPoint &offset,
                const QModelIndex &hover);
+    // The same for a part of the viewport in which the columns are `shift` pixels to the right of where the
+    // view has them.
+    void paintShifted(const QStyleOptionViewItem &option, const QRegion &dirty, const QRect &part, int shift,
+                      const QModelIndex &hover);
 
 private:
     struct Column
@@ -41,6 +45,8 @@ private:
     };
     class Frame;
 
+    void paint(Frame &frame, const QRegion &dirty);
+    void prepareGlyphs(const QFont &font);
     bool hasDelegateOrSpan(const QRect &dirty) const;
 
     QTableView &m_view;

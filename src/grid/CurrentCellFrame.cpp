@@ -17,15 +17,16 @@ bool isOneOfSeveral(const QItemSelection &selection, const QModelIndex &cell)
 
 } // namespace
 
-void paintCurrentCellFrame(const QTableView &view)
+void paintCurrentCellFrame(const QTableView &view, const QRect &part)
 {
     const QModelIndex current = view.currentIndex();
     if (!current.isValid() || !isOneOfSeveral(view.selectionModel()->selection(), current))
         return;
     const QRect cell = view.visualRect(current);
-    if (cell.width() <= 2 * frameWidth || !cell.intersects(view.viewport()->rect()))
+    if (cell.width() <= 2 * frameWidth || !cell.intersects(part))
         return;
     QPainter painter(view.viewport());
+    painter.setClipRect(part);
     QPen pen(view.palette().color(QPalette::HighlightedText), frameWidth);
     pen.setJoinStyle(Qt::MiterJoin);
     painter.setPen(pen);

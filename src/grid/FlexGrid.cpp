@@ -58,6 +58,10 @@ FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
             [this](int section, int, int size) { onSectionResized(section, size); });
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
             [this](int section) { m_clickedCol = section + m_model->fixedCols(); });
+    connect(horizontalHeader(), &QHeaderView::sectionMoved, this, &FlexGrid::onSectionMoved);
+    disconnect(horizontalHeader(), &QHeaderView::sectionHandleDoubleClicked, this, nullptr);
+    connect(horizontalHeader(), &QHeaderView::sectionHandleDoubleClicked, this,
+            [this](int section) { Q_EMIT FittingWidthWanted(section + m_model->fixedCols()); });
 }
 
 FlexGrid::~FlexGrid() = default;
@@ -198,7 +202,11 @@ void FlexGrid::updateGeometries()
 
 void FlexGrid::scrollContentsBy(int dx, int dy)
 {
+    const bool wasFrozen = frozenWidth() > 0;
     QTableView::scrollContentsBy(dx, dy);
+    // What stays was scrolled with the rest.
+    if (dx != 0 && (wasFrozen || frozenWidth() > 0))
+        Refresh();
     // At the end of its bar a table view shows the last row of all, which here may be an unused one.
     if (const int top = verticalScrollBar()->value(); UsedRows() < Rows() && TopRow() != top + 1) {
         verticalHeader()->setOffsetToSectionPosition(top);
@@ -310,6 +318,7 @@ void FlexGrid::Show(std::unique_ptr<CellSource> source)
     m_col = 0;
     m_widths.resize(static_cast<std::size_t>(Cols()), useDefaultWidth);
     applyWidths();
+    applyArrangement();
 }
 
 bool FlexGrid::event(QEvent *event)
@@ -343,14 +352,19 @@ void FlexGrid::paintEvent(QPaintEvent *event)
 {
     const QPoint offset = dirtyRegionOffset();
     const QRegion dirty = event->region().translated(offset);
-    if (state() == DraggingState || !m_painter->canPaint(dirty.boundingRect())) {
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    if (state() == DraggingState || !m_painter->canPaint(dirty.boundingRect()))
         QTableView::paintEvent(event);
-    } else {
-        QStyleOptionViewItem option;
-        initViewItemOption(&option);
-        m_painter->paint(option, dirty, offset, m_hover);
-    }
-    paintCurrentCellFrame(*this);
+    else
+        m_painter->paint(option, dirty.subtracted(QRect(0, 0, frozenWidth(), viewport()->height())), offset,
+                         m_hover);
+    if (frozenWidth() > 0)
+        paintFrozenCells(option, event->region());
+    QRect part = viewport()->rect();
+    if (!isFrozen(currentIndex().column()))
+        part.setLeft(frozenWidth());
+    paintCurrentCellFrame(*this, part);
 }
 
 void FlexGrid::checkRow(int row) const

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "grid/CellSource.h"
+#include "grid/HeadingMark.h"
+
+#include "ado/values/DisplayFormat.h"
 
 #include <QtWidgets/QTableView>
 
@@ -73,6 +76,36 @@ public:
     // All columns take the default width again.
     void ResetColWidths();
 
+    // A width in twips at which the column's heading and texts can be read: of the rows in view and of some
+    // hundred others. Not above a fair part of the grid's width.
+    int FittingColWidth(int col) const;
+
+    // The headings from the left, hidden ones too. Column numbers are those of the fields wherever a column
+    // is shown.
+    QStringList ColumnOrder() const;
+    // How many of the first columns stay in view when the others scroll.
+    int FrozenCols() const { return m_frozenCols; }
+    // Puts columns into this order; those that it does not name stay after the one before them. An empty
+    // order is that of the fields. The first `frozen` columns stay in view. Both are kept, by the headings,
+    // when other cells are shown.
+    void ArrangeColumns(const QStringList &order, int frozen);
+
+    // How a column's texts are shown; TextMatrix and copies keep the texts themselves. Kept by the heading
+    // when other cells are shown.
+    ADODB::DisplayFormat ColFormat(int col) const;
+    void PutColFormat(int col, const ADODB::DisplayFormat &format);
+    void ResetColFormats();
+
+    // What the headings show beside their texts, by column.
+    void PutHeadingMarks(const std::vector<HeadingMark> &marks);
+    // Whether a heading offers its column's menu when the mouse is over it.
+    bool HasColumnMenus() const { return m_hasColumnMenus; }
+    void PutHasColumnMenus(bool on);
+    // Where the menu of a column belongs, on the screen.
+    QPoint ColumnMenuPlace(int col) const;
+    // The column at a place in the headings' viewport; 0 when none is.
+    int ColumnOfHeadingAt(const QPoint &position) const;
+
     bool Redraw() const { return updatesEnabled(); }
     void PutRedraw(bool on) { setUpdatesEnabled(on); }
     // Empties all cells and headings, keeping the number of rows and columns.
@@ -84,6 +117,13 @@ public:
     // Runs `act`, in which Qt's own code makes a cell current or deals with an event, and reports what has
     // come of it only then, as a listener may delete the grid.
     void notifyAfter(const std::function<void()> &act);
+
+    QModelIndex indexAt(const QPoint &position) const override;
+    QRect visualRect(const QModelIndex &index) const override;
+    void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
+    // The pixels at the left in which frozen columns cover the others; 0 while nothing is scrolled below
+    // them.
+    int frozenWidth() const;
 
     // Shows the cells of `source` (not null) instead of the grid's own. Columns that stay within the
     // number of columns keep their widths; nothing is current afterwards.
@@ -97,6 +137,12 @@ Q_SIGNALS:
     void HeadingClicked(int col);
     // The user gave a column another width.
     void ColWidthChanged(int col, int twips);
+    // The user moved a column, or a program arranged the columns.
+    void ColumnsArranged();
+    // The user asked for a column's menu at a place on the screen. Nothing of the event is left to do.
+    void ColumnMenuWanted(int col, const QPoint &place);
+    // The user double-clicked the right edge of a column's heading.
+    void FittingWidthWanted(int col);
 
 protected:
     FlexGrid(int fixedCols, QWidget *parent);
@@ -109,6 +155,7 @@ protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void updateGeometries() override;
     void scrollContentsBy(int dx, int dy) override;
+    QRegion visualRegionForSelection(const QItemSelection &selection) const override;
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
@@ -126,6 +173,11 @@ private:
     void applyWidths();
     void applyWidth(int col);
     void onSectionResized(int section, int size);
+    void applyArrangement();
+    void onSectionMoved();
+    bool isFrozen(int section) const;
+    void paintFrozenCells(const QStyleOptionViewItem &option, const QRegion &dirty);
+    void paintByDelegate(const QStyleOptionViewItem &option, const QRect &area);
 
     FlexGridModel *m_model;
     const std::unique_ptr<CellPainter> m_painter;
@@ -133,6 +185,11 @@ private:
     std::vector<int> m_widths; // twips by grid column
     int m_row = 0;
     int m_col = 0;
+    QStringList m_order;       // as last arranged; empty for the order of the fields
+    QStringList m_frozenNames; // the first of them
+    int m_frozenCols = 0;
+    bool m_hasColumnMenus = false;
+    bool m_isArranging = false;
     bool m_isApplyingWidths = false;
     bool m_isActing = false;  // in notifyAfter()
     bool m_hasNewRow = false; // to be reported, as is the next one

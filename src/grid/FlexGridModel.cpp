@@ -16,6 +16,7 @@ void FlexGridModel::setSource(std::unique_ptr<CellSource> source)
     Q_ASSERT(source);
     beginResetModel();
     m_source = std::move(source);
+    findFormats();
     endResetModel();
 }
 
@@ -32,6 +33,53 @@ bool FlexGridModel::setText(int row, int col, const QString &text)
         Q_EMIT dataChanged(cell, cell, {Qt::DisplayRole});
     }
     return true;
+}
+
+void FlexGridModel::setHeadingMarks(std::vector<HeadingMark> marks)
+{
+    if (marks == m_marks)
+        return;
+    m_marks = std::move(marks);
+    if (columnCount() > 0)
+        Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+}
+
+HeadingMark FlexGridModel::headingMark(int section) const
+{
+    const auto place = static_cast<std::size_t>(section + m_fixedCols);
+    return section >= 0 && place < m_marks.size() ? m_marks[place] : HeadingMark();
+}
+
+void FlexGridModel::setFormats(const QHash<QString, ADODB::DisplayFormat> &formats)
+{
+    m_formats = formats;
+    findFormats();
+    if (rowCount() > 0 && columnCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), {Qt::DisplayRole});
+}
+
+void FlexGridModel::findFormats()
+{
+    m_formatOfCol.clear();
+    if (m_formats.isEmpty())
+        return;
+    std::vector<ADODB::DisplayFormat> found(static_cast<std::size_t>(m_source->cols()));
+    bool isAny = false;
+    for (int col = m_fixedCols; col < m_source->cols(); ++col) {
+        ADODB::DisplayFormat &format = found[static_cast<std::size_t>(col)];
+        format = m_formats.value(m_source->text(0, col));
+        isAny = isAny || !format.isNone();
+    }
+    if (isAny)
+        m_formatOfCol = std::move(found);
+}
+
+QString FlexGridModel::shownText(int row, int col) const
+{
+    const auto place = static_cast<std::size_t>(col);
+    if (row == 0 || place >= m_formatOfCol.size() || m_formatOfCol[place].isNone())
+        return m_source->text(row, col);
+    return m_formatOfCol[place].applied(m_source->text(row, col));
 }
 
 int FlexGridModel::rowCount(const QModelIndex &parent) const
@@ -66,6 +114,11 @@ QVariant FlexGridModel::headerData(int section, Qt::Orientation orientation, int
         if (isColumn)
             return m_source->text(0, section + m_fixedCols);
         return m_fixedCols > 0 ? m_source->text(section + 1, 0) : QString();
+    }
+    if (role == Qt::AccessibleTextRole && isColumn) {
+        const QString spoken = headingMark(section).spoken;
+        const QString text = m_source->text(0, section + m_fixedCols);
+        return spoken.isEmpty() ? text : text + u'，' + spoken;
     }
     if (role == Qt::TextAlignmentRole) {
         if (!isColumn)

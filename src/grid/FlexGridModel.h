@@ -1,10 +1,15 @@
 #pragma once
 
 #include "grid/CellSource.h"
+#include "grid/HeadingMark.h"
+
+#include "ado/values/DisplayFormat.h"
 
 #include <QtCore/QAbstractTableModel>
+#include <QtCore/QHash>
 
 #include <memory>
+#include <vector>
 
 namespace KOVAVSFDataGridLib {
 
@@ -26,14 +31,30 @@ public:
     // Writes one cell in grid coordinates, headings included; false when the source can't be written.
     bool setText(int row, int col, const QString &text);
 
+    // What the headings show beside their texts, by grid column; columns without one have none.
+    void setHeadingMarks(std::vector<HeadingMark> marks);
+    HeadingMark headingMark(int section) const;
+
+    // How texts are shown, by the headings of their columns; kept when other cells are shown.
+    const QHash<QString, ADODB::DisplayFormat> &formats() const { return m_formats; }
+    void setFormats(const QHash<QString, ADODB::DisplayFormat> &formats);
+    // A cell's text as it is shown, in grid coordinates.
+    QString shownText(int row, int col) const;
+    bool hasFormats() const { return !m_formatOfCol.empty(); }
+
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
 private:
+    void findFormats();
+
     const int m_fixedCols;
     std::unique_ptr<CellSource> m_source;
+    std::vector<HeadingMark> m_marks;
+    QHash<QString, ADODB::DisplayFormat> m_formats;
+    std::vector<ADODB::DisplayFormat> m_formatOfCol; // empty when no column has one
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -1,13 +1,31 @@
 #include "grid/FlexHeader.h"
 
 #include "grid/FlexGrid.h"
+#include "grid/FlexGridModel.h"
+#include "grid/HeadingPainter.h"
 #include "grid/WholeText.h"
 
 #include <QtGui/QHelpEvent>
-#include <QtWidgets/QStyleOption>
+#include <QtGui/QPainter>
+#include <QtWidgets/QStyleOptionHeader>
 #include <QtWidgets/QToolTip>
 
 namespace KOVAVSFDataGridLib {
+
+namespace {
+
+constexpr int leastSize = 4; // pixels, so that an edge can be found again
+
+// The same event where the header itself has the heading that was hit.
+QMouseEvent shifted(const QMouseEvent &event, int shift)
+{
+    return {event.type(),          event.position() - QPointF(shift, 0),
+            event.scenePosition(), event.globalPosition(),
+            event.button(),        event.buttons(),
+            event.modifiers(),     event.pointingDevice()};
+}
+
+} // namespace
 
 FlexHeader::FlexHeader(Qt::Orientation orientation, FlexGrid &grid)
     : QHeaderView(orientation, &grid), m_grid(grid)
@@ -18,17 +36,65 @@ FlexHeader::FlexHeader(Qt::Orientation orientation, FlexGrid &grid)
 
 void FlexHeader::mousePressEvent(QMouseEvent *event)
 {
-    m_grid.notifyAfter([&] { QHeaderView::mousePressEvent(event); });
+    m_pressedArrow = event->button() == Qt::LeftButton ? arrowAt(event->position().toPoint()) : -1;
+    if (m_pressedArrow >= 0)
+        return viewport()->update();
+    m_resized = event->button() == Qt::LeftButton ? frozenEdgeAt(event->position().toPoint()) : -1;
+    if (m_resized >= 0) {
+        m_resizeStart = event->position().toPoint().x();
+        m_resizeSize = sectionSize(m_resized);
+        return;
+    }
+    m_pressShift = shiftAt(event->position().toPoint());
+    // Its place below the others can't be pointed at.
+    if (m_pressShift != 0)
+        setSectionsMovable(false);
+    QMouseEvent inner = shifted(*event, m_pressShift);
+    m_grid.notifyAfter([&] { QHeaderView::mousePressEvent(&inner); });
 }
 
 void FlexHeader::mouseMoveEvent(QMouseEvent *event)
 {
-    m_grid.notifyAfter([&] { QHeaderView::mouseMoveEvent(event); });
+    if (m_pressedArrow >= 0)
+        return;
+    const QPoint position = event->position().toPoint();
+    if (m_resized >= 0) {
+        const int size = std::max(m_resizeSize + position.x() - m_resizeStart, leastSize);
+        return m_grid.notifyAfter([&] { resizeSection(m_resized, size); });
+    }
+    const bool isDragged = event->buttons() != Qt::NoButton;
+    if (!isDragged && shiftAt(position) != 0) {
+        frozenEdgeAt(position) >= 0 ? setCursor(Qt::SplitHCursor) : unsetCursor();
+        return;
+    }
+    QMouseEvent inner = shifted(*event, isDragged ? m_pressShift : shiftAt(event->position().toPoint()));
+    m_grid.notifyAfter([&] { QHeaderView::mouseMoveEvent(&inner); });
 }
 
 void FlexHeader::mouseReleaseEvent(QMouseEvent *event)
 {
-    m_grid.notifyAfter([&] { QHeaderView::mouseReleaseEvent(event); });
+    if (m_pressedArrow >= 0) {
+        const int pressed = std::exchange(m_pressedArrow, -1);
+        viewport()->update();
+        if (arrowAt(event->position().toPoint()) == pressed) {
+            const int col = m_grid.ColumnOfHeadingAt(event->position().toPoint());
+            Q_EMIT m_grid.ColumnMenuWanted(col, m_grid.ColumnMenuPlace(col));
+        }
+        return;
+    }
+    if (std::exchange(m_resized, -1) >= 0)
+        return;
+    QMouseEvent inner = shifted(*event, std::exchange(m_pressShift, 0));
+    const QPointer<FlexHeader> alive(this);
+    m_grid.notifyAfter([&] { QHeaderView::mouseReleaseEvent(&inner); });
+    if (alive)
+        setSectionsMovable(orientation() == Qt::Horizontal && m_grid.HasColumnMenus());
+}
+
+void FlexHeader::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    QMouseEvent inner = shifted(*event, shiftAt(event->position().toPoint()));
+    m_grid.notifyAfter([&] { QHeaderView::mouseDoubleClickEvent(&inner); });
 }
 
 // Qt's own adds what a highlighted section needs for its bold text, and none is highlighted here.
@@ -42,6 +108,12 @@ QSize FlexHeader::sectionSizeFromContents(int logicalIndex) const
     return m_grid.isBlank() ? QSize(0, size.height()) : size;
 }
 
+int FlexHeader::fittingWidth(int logicalIndex) const
+{
+    return sectionSizeFromContents(logicalIndex).width() +
+           headingMarkWidth(markOf(logicalIndex), fontMetrics());
+}
+
 // A style draws a text that is too long over both ends of its section.
 void FlexHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int logicalIndex) const
 {
@@ -51,22 +123,73 @@ void FlexHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int logical
         option->state |= QStyle::State_On;
     const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
     option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight,
-                                                  sectionRect(logicalIndex).width() - margins);
+                                                  sectionRect(logicalIndex).width() - margins -
+                                                      headingMarkWidth(markOf(logicalIndex), fontMetrics()));
+}
+
+void FlexHeader::paintEvent(QPaintEvent *event)
+{
+    QHeaderView::paintEvent(event);
+    const int frozen = orientation() == Qt::Horizontal ? m_grid.frozenWidth() : 0;
+    if (frozen == 0)
+        return;
+    QPainter painter(viewport());
+    for (int visual = 0; visual < m_grid.FrozenCols(); ++visual) {
+        const int section = logicalIndex(visual);
+        if (!isSectionHidden(section))
+            paintSection(&painter, headingRect(section), section);
+    }
+    painter.setPen(palette().color(QPalette::Dark));
+    painter.drawLine(frozen - 1, 0, frozen - 1, viewport()->height());
 }
 
 void FlexHeader::paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const
 {
     const bool isPlain = m_grid.isBlank() || (orientation() == Qt::Vertical && m_grid.UsedRows() < 2);
-    if (!isPlain)
-        return QHeaderView::paintSection(painter, rect, logicalIndex);
-    QStyleOptionHeader option;
+    QStyleOptionHeaderV2 option;
     initStyleOption(&option);
     option.rect = rect;
-    style()->drawControl(QStyle::CE_HeaderEmptyArea, &option, painter, this);
+    if (isPlain)
+        return style()->drawControl(QStyle::CE_HeaderEmptyArea, &option, painter, this);
+    const HeadingMark mark = markOf(logicalIndex);
+    const bool showsArrow = hasArrow(logicalIndex);
+    if (mark.isEmpty() && !showsArrow)
+        return QHeaderView::paintSection(painter, rect, logicalIndex);
+    initStyleOptionForIndex(&option, logicalIndex);
+    option.rect = rect;
+    painter->save();
+    painter->setClipRect(rect);
+    style()->drawControl(QStyle::CE_HeaderSection, &option, painter, this);
+    const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+    const int arrow = showsArrow ? arrowWidth() : 0;
+    const int markWidth = headingMarkWidth(mark, fontMetrics());
+    QRect marks = rect;
+    marks.setLeft(rect.right() + 1 - margin - markWidth - (markWidth > 0 ? arrow : 0));
+    marks.setWidth(markWidth);
+    QStyleOptionHeaderV2 label = option;
+    label.rect = style()->subElementRect(QStyle::SE_HeaderLabel, &option, this);
+    label.rect.setRight(std::min(label.rect.right(), marks.left() - 1));
+    style()->drawControl(QStyle::CE_HeaderLabel, &label, painter, this);
+    if (showsArrow) {
+        // Over whatever of the text is there.
+        const QRect place(rect.right() + 1 - arrow, rect.top(), arrow, rect.height());
+        painter->setClipRect(place);
+        style()->drawControl(QStyle::CE_HeaderSection, &option, painter, this);
+        paintMenuArrow(*painter, place, option.palette, m_pressedArrow == logicalIndex);
+        painter->setClipRect(rect);
+    }
+    paintHeadingMark(*painter, marks, mark, option.palette, fontMetrics());
+    painter->restore();
 }
 
 bool FlexHeader::viewportEvent(QEvent *event)
 {
+    if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverMove)
+        setHovered(headingAt(static_cast<QHoverEvent *>(event)->position().toPoint()));
+    else if (event->type() == QEvent::MouseMove)
+        setHovered(headingAt(static_cast<QMouseEvent *>(event)->position().toPoint()));
+    else if (event->type() == QEvent::HoverLeave || event->type() == QEvent::Leave)
+        setHovered(-1);
     if (event->type() != QEvent::ToolTip)
         return QHeaderView::viewportEvent(event);
     const auto &help = *static_cast<QHelpEvent *>(event);
@@ -74,9 +197,89 @@ bool FlexHeader::viewportEvent(QEvent *event)
     return true;
 }
 
+void FlexHeader::setHovered(int logicalIndex)
+{
+    if (std::exchange(m_hovered, logicalIndex) != logicalIndex && orientation() == Qt::Horizontal)
+        viewport()->update();
+}
+
+HeadingMark FlexHeader::markOf(int logicalIndex) const
+{
+    const auto *cells = qobject_cast<const FlexGridModel *>(model());
+    return cells && orientation() == Qt::Horizontal ? cells->headingMark(logicalIndex) : HeadingMark();
+}
+
+int FlexHeader::arrowWidth() const
+{
+    return std::max(fontMetrics().height(), 12);
+}
+
+// The edges of a heading are for its width.
+QRect FlexHeader::arrowRect(int logicalIndex) const
+{
+    const QRect heading = headingRect(logicalIndex);
+    return {heading.right() + 1 - arrowWidth(), heading.top(), arrowWidth(), heading.height()};
+}
+
+bool FlexHeader::hasArrow(int logicalIndex) const
+{
+    const bool isHovered = m_hovered == logicalIndex || m_pressedArrow == logicalIndex;
+    return orientation() == Qt::Horizontal && isHovered && m_grid.HasColumnMenus() &&
+           sectionSize(logicalIndex) >= 2 * arrowWidth();
+}
+
+int FlexHeader::arrowAt(const QPoint &position) const
+{
+    const int section = headingAt(position);
+    if (section < 0 || orientation() != Qt::Horizontal || !m_grid.HasColumnMenus() || m_grid.isBlank() ||
+        sectionSize(section) < 2 * arrowWidth())
+        return -1;
+    const int grip = style()->pixelMetric(QStyle::PM_HeaderGripMargin, nullptr, this);
+    return arrowRect(section).adjusted(0, 0, -grip, 0).contains(position) ? section : -1;
+}
+
+int FlexHeader::shiftAt(const QPoint &position) const
+{
+    const bool isFrozen = orientation() == Qt::Horizontal && position.x() < m_grid.frozenWidth();
+    return isFrozen ? offset() : 0;
+}
+
+// A header takes no drag that begins left of it, where it has the frozen sections.
+int FlexHeader::frozenEdgeAt(const QPoint &position) const
+{
+    const int shift = shiftAt(position);
+    const int section = shift == 0 ? -1 : headingAt(position);
+    if (section < 0)
+        return -1;
+    const int grip = style()->pixelMetric(QStyle::PM_HeaderGripMargin, nullptr, this);
+    const QRect heading = headingRect(section);
+    if (position.x() > heading.right() - grip)
+        return section;
+    if (position.x() >= heading.left() + grip)
+        return -1;
+    int visual = visualIndex(section) - 1;
+    while (visual >= 0 && isSectionHidden(logicalIndex(visual)))
+        --visual;
+    return visual < 0 ? -1 : logicalIndex(visual);
+}
+
+int FlexHeader::headingAt(const QPoint &position) const
+{
+    return logicalIndexAt(position - QPoint(shiftAt(position), 0));
+}
+
+QRect FlexHeader::headingRect(int logicalIndex) const
+{
+    QRect rect = sectionRect(logicalIndex);
+    if (orientation() == Qt::Horizontal && m_grid.frozenWidth() > 0 &&
+        visualIndex(logicalIndex) < m_grid.FrozenCols())
+        rect.translate(offset(), 0);
+    return rect;
+}
+
 void FlexHeader::showHeadingTip(const QPoint &position, const QPoint &place)
 {
-    const int section = logicalIndexAt(position);
+    const int section = headingAt(position);
     if (section < 0)
         return QToolTip::hideText();
     QStyleOptionHeaderV2 option;
@@ -84,7 +287,7 @@ void FlexHeader::showHeadingTip(const QPoint &position, const QPoint &place)
     initStyleOptionForIndex(&option, section);
     const QString text = model()->headerData(section, orientation()).toString();
     if (option.text != text)
-        showWholeText(text, place, *viewport(), sectionRect(section));
+        showWholeText(text, place, *viewport(), headingRect(section));
     else
         QToolTip::hideText();
 }

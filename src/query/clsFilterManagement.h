@@ -33,6 +33,7 @@ public:
     explicit clsFilterManagement(FieldReader *reader = nullptr, FieldChooser *chooser = nullptr);
     void SetFieldReader(FieldReader *reader);
     void SetFieldChooser(FieldChooser *chooser) { m_tableFields.SetFieldChooser(chooser); }
+    FieldChooser *GetFieldChooser() const { return m_tableFields.GetFieldChooser(); }
 
     const QString &AllFields() const { return m_allFields; }
     void SetAllFields(const QString &text) { m_allFields = text; }

@@ -27,6 +27,20 @@ public:
     // The widths of all columns and the row headings together, and the width of the whole grid.
     virtual int widthOfColumns() const { return 0; }
     virtual int width() const { return 0; }
+    // The width at which a column's heading and texts can be read.
+    virtual int fittingWidth(int /*col*/) const { return defaultColWidth; }
+
+    // How a column's texts are shown, as ADODB::DisplayFormat writes it.
+    virtual QString columnFormat(int /*col*/) const { return {}; }
+    virtual void putColumnFormat(int /*col*/, const QString & /*format*/) {}
+
+    // Where a column is shown, from 0 at the left; hidden ones have a place too.
+    virtual int placeOf(int col) const { return col - 1; }
+    // The headings from the left, and how many of the first columns stay in view.
+    virtual QStringList columnOrder() const { return Headings(); }
+    virtual int frozenColumns() const { return 0; }
+    // Puts columns into this order; those that it does not name stay after the one before them.
+    virtual void arrangeColumns(const QStringList & /*order*/, int /*frozen*/) {}
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -28,6 +28,7 @@ struct ConditionRequest
     QString refusal = {};
     // What whoever is asked keeps until the next time, so that all is there again as it was typed.
     mutable std::shared_ptr<void> memory = {};
+    QString field = {}; // the one to begin with, by its heading; empty for any
 };
 
 // The words that the user looks for.
@@ -59,6 +60,15 @@ struct ExportAnswer
     bool hasAllColumns = false; // hidden ones too
 };
 
+// How the texts of a column can be shown.
+struct FormatRequest
+{
+    QString column;
+    bool isBoolean = false; // else it holds numbers
+    QString format;         // as ADODB::DisplayFormat writes it
+    QString sample;         // one of its texts
+};
+
 // What a session asks and reports to its user. Each function returns when the user is done; meanwhile a host
 // may do anything, even delete what asked. This one is a user who is not there: every question is cancelled.
 class Questions : public FieldChooser
@@ -86,6 +96,8 @@ public:
     virtual std::optional<FindAnswer> askWords(const colDataFields &) { return {}; }
     // Nothing when the user cancels. A file that is there already may be replaced.
     virtual std::optional<ExportAnswer> askExport(const ExportRequest &) { return {}; }
+    // The format that the user chooses; nothing when he cancels.
+    virtual std::optional<QString> askFormat(const FormatRequest &) { return {}; }
 };
 
 } // namespace KOVAVSFDataGridLib

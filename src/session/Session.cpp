@@ -9,6 +9,7 @@
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "session/TypedPage.h"
+#include "session/columns/ColumnCommand.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
 
@@ -89,13 +90,32 @@ bool Session::isReady(const Command &command)
     const bool hasCommand = m_rules.hasAllCommands || command.isInViewer;
     if (!hasCommand || !hasGround() || !whyNot(command).isEmpty())
         return false;
+    return isReady(command.needs, command.record);
+}
+
+bool Session::isReady(Needs needs, Record record)
+{
     returnToShownRecord();
     const ResultWatch watch(*this);
-    if (command.record == Record::IsListedAgain && !commitEdit())
+    if (record == Record::IsListedAgain && !commitEdit())
         return false;
-    if (command.record == Record::IsLeft && !saveRecord())
+    if (record == Record::IsLeft && !saveRecord())
         return false;
-    return watch.isUntouched() && (command.needs == Needs::Nothing || hasRecords());
+    return watch.isUntouched() && (needs == Needs::Nothing || hasRecords());
+}
+
+bool Session::canRunOnColumn(const ColumnCommand &command, int col)
+{
+    return hasGround() && m_result.isOpen() && col > 0 && col < m_window->Cols() &&
+           (!command.canRun || command.canRun(*this, col));
+}
+
+void Session::runOnColumn(const ColumnCommand &command, int col)
+{
+    perform([&] {
+        if (canRunOnColumn(command, col) && isReady(Needs::Nothing, command.record))
+            command.run(*this, col);
+    });
 }
 
 void Session::perform(const std::function<void()> &command)
@@ -160,7 +180,7 @@ void Session::compressColumns()
     if (m_window->isSingleRecordShown() || !hasGround())
         return;
     const bool showsHidden = m_rules.compressShowsHidden && m_fieldView == FieldView::All;
-    columns().fitColumns(m_rules.roundWidth, showsHidden);
+    m_keptWidths.fit(*m_window, [&] { columns().fitColumns(m_rules.roundWidth, showsHidden); });
 }
 
 void Session::setLastFilter(const QString &condition)

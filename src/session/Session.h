@@ -5,6 +5,7 @@
 #include "query/clsFilterManagement.h"
 #include "session/ColumnLayout.h"
 #include "session/ConnectionFieldReader.h"
+#include "session/KeptWidths.h"
 #include "session/ResultSet.h"
 #include "session/WindowRules.h"
 
@@ -14,8 +15,11 @@
 
 namespace KOVAVSFDataGridLib {
 
+struct ColumnCommand;
 struct Command;
 struct ConditionRequest;
+enum class Needs;
+enum class Record;
 class HostEvents;
 class Questions;
 class SessionWindow;
@@ -104,6 +108,11 @@ public:
     // Runs the command of a key, whether or not its button is enabled; one that can't run ends silently. One
     // chosen from the menu needs an open result and shows many records again where its item says so.
     void run(const QString &key, ChosenBy by = ChosenBy::Button);
+    // Runs a column's command on a column, from 1; one that can't run ends silently.
+    void runOnColumn(const ColumnCommand &command, int col);
+    bool canRunOnColumn(const ColumnCommand &command, int col);
+    // Runs what belongs to no command as one: errors of the data end it, buttons and status follow it.
+    void perform(const std::function<void()> &command);
     bool isRunning() const { return m_running > 0; }
     // The whole load, from the host's texts to the first entry of the history. Whether it succeeded and its
     // result is still open: the host can close it as soon as it hears of it.
@@ -156,6 +165,8 @@ public:
 
     // Shares the grid's width among the columns that are shown; not while a single record is.
     void compressColumns();
+    // The widths before the columns were last fitted.
+    KeptWidths &keptWidths() { return m_keptWidths; }
 
     // Keeps a filter's condition for the dialogs of the process; an empty one empties SQLFilter as well.
     void setLastFilter(const QString &condition);
@@ -236,10 +247,10 @@ private:
     void reportOpenError(const QString &description);
     void showLoaded(const ResultSet::Opened &opened, const QString &statement,
                     std::unique_ptr<clsFilterManagement> manager);
-    void perform(const std::function<void()> &command);
     bool isReady(const Command &command);
     // Whether what it works on is still there.
     bool hasGround() const { return !m_rules.worksOnLentResult || m_filter; }
+    bool isReady(Needs needs, Record record);
     void cancelChanges();
     std::optional<QString> trySave();
 
@@ -255,6 +266,7 @@ private:
     ADODB::Notifications *m_notifications;
     std::shared_ptr<clsFilterManagement> m_filter;
     QString m_statement;
+    KeptWidths m_keptWidths;
     FieldView m_fieldView = FieldView::All;
     int m_page = 0;
     int m_pictureField = -1;

@@ -89,9 +89,11 @@ void Session::showLoaded(const ResultSet::Opened &opened, const QString &stateme
 
     m_window->enableCommands();
     showPage(1);
-    // Widths belong to fields: the same ones loaded again keep theirs.
-    if (m_window->Headings() != fieldsBefore)
+    // Widths and places belong to fields: the same ones loaded again keep theirs.
+    if (m_window->Headings() != fieldsBefore) {
         m_window->ResetColWidths();
+        m_window->arrangeColumns({}, 0);
+    }
     m_window->showAllRecords();
 
     storeRecordCount();

@@ -200,6 +200,10 @@ TEST(TypeLibrary, HasTheMembersInTheirOrder)
 54 get VARIANT_BOOL ReadOnly()
 54 put void ReadOnly(VARIANT_BOOL)
 55 VARIANT_BOOL ExportData(BSTR strFile, BSTR strOptions)
+56 BSTR SaveLayout()
+57 VARIANT_BOOL RestoreLayout(BSTR strLayout)
+58 get BSTR LayoutKey()
+58 put void LayoutKey(BSTR)
 )");
 }
 

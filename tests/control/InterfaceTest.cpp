@@ -45,6 +45,7 @@ constexpr PropertyFacts properties[] = {
     {"PicField", "QString", true, false},
     {"UserMode", "bool", true, false},
     {"ReadOnly", "bool", true, false},
+    {"LayoutKey", "QString", true, false},
 };
 
 constexpr const char *methods[] = {
@@ -77,6 +78,8 @@ constexpr const char *methods[] = {
     "QString CellTextL(int,int)",
     "int GetGridRowL()",
     "bool ExportData(QString,QString)",
+    "QString SaveLayout()",
+    "bool RestoreLayout(QString)",
 };
 
 constexpr const char *events[] = {

@@ -25,6 +25,16 @@ void PlainWindow::showRecords(std::shared_ptr<ADODB::Recordset> recordset, qint6
     }
 }
 
+std::vector<int> PlainWindow::shownColumns() const
+{
+    std::vector<int> shown;
+    for (int c = 1; c < Cols(); ++c) {
+        if (ColWidth(c) != 0)
+            shown.push_back(c);
+    }
+    return shown;
+}
+
 QStringList PlainWindow::shownFields() const
 {
     QStringList shown;

@@ -40,6 +40,7 @@ public:
     void PutRow(int wanted) override { currentRow = wanted; }
     void PutCol(int wanted) override { currentColumn = wanted; }
     int currentCol() const override { return currentColumn; }
+    std::vector<int> shownColumns() const override;
     bool isSingleRecordShown() const override { return isSingle; }
     void showSingleRecord() override { isSingle = true; }
     void showAllRecords() override { isSingle = false; }

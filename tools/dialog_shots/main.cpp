@@ -1,6 +1,7 @@
 // dialog_shots FOLDER: shows each dialog with plausible contents and saves it as a PNG file in the folder, at
 // the scale of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
 #include "control/connection/ConnectionBuilder.h"
+#include "control/parts/FormatDialog.h"
 #include "control/parts/ToolbarIcons.h"
 #include "filter/SetFilter.h"
 #include "filter/frm_Filter.h"
@@ -178,6 +179,14 @@ void fillRow(const QWidget &dialog, int number, const QString &field, const QStr
     part<QLineEdit>(dialog, u"txtValue"_s + suffix).setText(value);
 }
 
+void takeFormats(Photographer &photographer)
+{
+    FormatDialog number(u"金额"_s, false, u"#,##0.00"_s, u"12345.678"_s, nullptr);
+    photographer.take(number, u"FormatDialog"_s);
+    FormatDialog boolean(u"已付款"_s, true, {}, u"True"_s, nullptr);
+    photographer.take(boolean, u"FormatDialog-boolean"_s);
+}
+
 void takeFilter(Photographer &photographer)
 {
     const QTemporaryDir folder;
@@ -232,6 +241,7 @@ int main(int argc, char **argv)
     takeSelections(photographer);
     takeFind(photographer);
     takeExport(photographer);
+    takeFormats(photographer);
     takeTexts(photographer);
     takeBuilder(photographer);
     takePages(photographer);

@@ -21,6 +21,7 @@ namespace {
 const QString Application = u"KOVAVSFDataGrid"_s;
 const QString SelectWholeRowsKey = u"Settings/ResChkSelAllRow"_s;
 const QString ThreeTierSection = u"Use3Tier"_s;
+const QString LayoutGroup = u"Layouts/"_s;
 const QString MissingEntry = u"Return Err"_s;
 constexpr qsizetype longestValue = 254; // characters
 
@@ -113,6 +114,16 @@ bool readSelectWholeRows()
 void saveSelectWholeRows(bool on)
 {
     QSettings(Application, Application).setValue(SelectWholeRowsKey, on ? u"1"_s : u"0"_s);
+}
+
+QString readLayout(const QString &name)
+{
+    return QSettings(Application, Application).value(LayoutGroup + name).toString();
+}
+
+void saveLayout(const QString &name, const QString &layout)
+{
+    QSettings(Application, Application).setValue(LayoutGroup + name, layout);
 }
 
 } // namespace KOVAVSFDataGridLib

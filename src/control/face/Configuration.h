@@ -28,4 +28,8 @@ ThreeTierSettings readThreeTierSettings();
 bool readSelectWholeRows();
 void saveSelectWholeRows(bool on);
 
+// A layout of columns that is kept for the user under a name; empty when there is none.
+QString readLayout(const QString &name);
+void saveLayout(const QString &name, const QString &layout);
+
 } // namespace KOVAVSFDataGridLib

@@ -4,6 +4,7 @@
 #include "control/input/SingleRecordView.h"
 #include "control/parts/ElidedLabel.h"
 #include "control/parts/EmptyHint.h"
+#include "control/parts/FilterBar.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/GridToolbar.h"
@@ -164,6 +165,14 @@ void ControlWindow::showFullScreen()
 {
     if (m_fullScreen)
         m_fullScreen();
+}
+
+void ControlWindow::showConditions(const QStringList &words)
+{
+    const bool wasHidden = m_parts.conditions->isHidden();
+    m_parts.conditions->show(words);
+    if (m_parts.conditions->isHidden() != wasHidden)
+        m_parts.layOut(m_control.width(), m_control.height());
 }
 
 std::unique_ptr<OpeningProgress> ControlWindow::beginOpening()

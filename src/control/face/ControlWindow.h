@@ -38,6 +38,7 @@ public:
     void refreshStatus() override;
     void enableCommands() override;
     void showFullScreen() override;
+    void showConditions(const QStringList &words) override;
     std::unique_ptr<OpeningProgress> beginOpening() override;
     std::unique_ptr<OpeningProgress> beginWriting(const QString &done, qint64 total) override;
 

@@ -232,4 +232,16 @@ public:
     // spreadsheet would evaluate get an apostrophe). The first of each is the default. Returns false if the
     // user cancels, or after a message box if it fails.
     virtual bool ExportData(const QString &strFile, const QString &strOptions) = 0;
+    // How the columns are laid out, as a small JSON text: their fields from the left, each with its width in
+    // twips, whether it is hidden and how its texts are shown, and how many of the first stay in view. Empty
+    // while nothing is open.
+    virtual QString SaveLayout() = 0;
+    // Lays the columns out as SaveLayout() gave it, also on another result; fields that either lacks are left
+    // alone. Columns are hidden and shown as by a choice of fields. False, and nothing is changed, when
+    // nothing is open or the text is no layout, which is shown in a message box.
+    virtual bool RestoreLayout(const QString &strLayout) = 0;
+    // Under which name the layouts of the user's tables are kept: each is saved when it was changed, and
+    // restored by the next load of its table in any control with the same key. Empty at first: none is kept.
+    virtual QString LayoutKey() const = 0;
+    virtual void PutLayoutKey(const QString &strKey) = 0;
 };

@@ -50,6 +50,7 @@ class KOVA_EXPORT KOVAVSFDataGrid : public QWidget, public IKOVAVSFDataGrid
     // override this.
     Q_PROPERTY(bool UserMode READ UserMode WRITE PutUserMode STORED false DESIGNABLE false)
     Q_PROPERTY(bool ReadOnly READ ReadOnly WRITE PutReadOnly STORED false)
+    Q_PROPERTY(QString LayoutKey READ LayoutKey WRITE PutLayoutKey STORED false)
 
 public:
     // Who filters and sorts.
@@ -181,6 +182,10 @@ public:
     bool ReadOnly() const override;
     void PutReadOnly(bool on) override;
     Q_INVOKABLE bool ExportData(const QString &strFile, const QString &strOptions) override;
+    Q_INVOKABLE QString SaveLayout() override;
+    Q_INVOKABLE bool RestoreLayout(const QString &strLayout) override;
+    QString LayoutKey() const override;
+    void PutLayoutKey(const QString &strKey) override;
 
     // See the property.
     bool UserMode() const;

@@ -11,8 +11,10 @@
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "session/ExportResult.h"
+#include "session/SavedLayout.h"
 #include "session/commands/CommandKeys.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QPushButton>
@@ -220,7 +222,12 @@ bool KOVAVSFDataGrid::IsLoadData()
 {
     const auto session = d->session;
     d->setThreeTierSwitch();
-    return session->load();
+    d->layout.save();
+    const QPointer<KOVAVSFDataGrid> alive(this);
+    const bool isLoaded = session->load();
+    if (isLoaded && alive)
+        d->layout.restore();
+    return isLoaded;
 }
 
 void KOVAVSFDataGrid::SeeCompressView()
@@ -233,6 +240,7 @@ void KOVAVSFDataGrid::ClearObject()
     const auto session = d->session;
     if (!session->leaveResult())
         return;
+    d->layout.save();
     const ADODB::Notifications::Hold hold(session->notifications());
     saveSelectWholeRows(d->parts.CheckSelAllRow->isChecked());
     d->emptyGrid();
@@ -265,4 +273,24 @@ bool KOVAVSFDataGrid::ExportData(const QString &strFile, const QString &strOptio
         return false;
     }
     return exportResult(*session, what);
+}
+
+QString KOVAVSFDataGrid::SaveLayout()
+{
+    return d->session->result().isOpen() ? layoutOf(*d->session).toText() : QString();
+}
+
+bool KOVAVSFDataGrid::RestoreLayout(const QString &strLayout)
+{
+    const auto session = d->session;
+    const QPointer<KOVAVSFDataGrid> alive(this);
+    auto layout = SavedLayout::fromText(strLayout);
+    if (const auto *read = std::get_if<SavedLayout>(&layout))
+        layout = restoreLayout(*session, *read);
+    const QString *const reason = std::get_if<QString>(&layout);
+    if (!reason || reason->isEmpty())
+        return true;
+    if (alive)
+        Messages::show(this, *reason);
+    return false;
 }

@@ -32,7 +32,8 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
       commands(control, *session, parts, events, singleRecord),
       pressedPart(parts),
       closeGuard(control, *session),
-      selection(*session, parts)
+      selection(*session, parts),
+      layout(*session, *parts.vsfgDataGrid)
 {
     window.setSession(*session);
     window.setSingleRecordView(&singleRecord);
@@ -182,6 +183,7 @@ QString KOVAVSFDataGrid::Private::cellText(int row, int col, const QString &titl
 
 void KOVAVSFDataGrid::Private::saveBeforeEnd()
 {
+    layout.save();
     const QSignalBlocker nobodyHears(q);
     const QSignalBlocker nobodyHearsOfMoves(parts.Adodc1);
     if (const std::optional<QString> failure = session->saveSilently())

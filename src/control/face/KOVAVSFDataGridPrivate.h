@@ -2,6 +2,7 @@
 
 #include "control/face/ControlWindow.h"
 #include "control/face/KOVAVSFDataGrid.h"
+#include "control/face/LayoutKeeper.h"
 #include "control/face/OleColor.h"
 #include "control/input/CloseGuard.h"
 #include "control/input/CommandInput.h"
@@ -82,4 +83,5 @@ public:
     KOVAVSFDataGridLib::PressedPart pressedPart;
     KOVAVSFDataGridLib::CloseGuard closeGuard;
     KOVAVSFDataGridLib::SelectionWatch selection;
+    KOVAVSFDataGridLib::LayoutKeeper layout;
 };

@@ -362,6 +362,20 @@ void KOVAVSFDataGrid::PutReadOnly(bool on)
     d->notifyWritten("ReadOnly");
 }
 
+QString KOVAVSFDataGrid::LayoutKey() const
+{
+    return d->layout.key();
+}
+
+void KOVAVSFDataGrid::PutLayoutKey(const QString &strKey)
+{
+    const auto session = d->session;
+    const QPointer<KOVAVSFDataGrid> alive(this);
+    d->layout.setKey(strKey);
+    if (alive)
+        d->notifyWritten("LayoutKey");
+}
+
 bool KOVAVSFDataGrid::UserMode() const
 {
     return d->isUserMode();

@@ -7,12 +7,14 @@
 #include "control/input/GridEvents.h"
 #include "control/input/KeyCodes.h"
 #include "control/input/SingleRecordView.h"
+#include "control/parts/FilterBar.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridToolbar.h"
 #include "control/parts/PopupMenu.h"
 #include "grid/FlexGrid.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
+#include "session/ShownConditions.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QAction>
@@ -31,7 +33,12 @@ CommandInput::CommandInput(KOVAVSFDataGrid &control, Session &session, GridParts
       m_session(session),
       m_parts(parts),
       m_singleRecord(singleRecord),
-      m_menu(*new PopupMenu(control, PopupMenu::ofControl, *parts.Toolbar1, session))
+      m_menu(*new PopupMenu(control, PopupMenu::ofControl, *parts.Toolbar1, session)),
+      m_columnMenu(control, *parts.Toolbar1, *parts.vsfgDataGrid, session,
+                   [this](const ColumnCommand &command, int col) {
+                       if (m_parts.Toolbar1->isEnabled())
+                           m_session.runOnColumn(command, col);
+                   })
 {
     for (QAction *action : parts.Toolbar1->actions()) {
         if (!action->shortcut().isEmpty())
@@ -47,6 +54,8 @@ CommandInput::CommandInput(KOVAVSFDataGrid &control, Session &session, GridParts
             m_session.run(key, ChosenBy::MenuItem);
     });
     connect(&events, &GridEvents::menuWanted, this, &CommandInput::showMenu);
+    connect(&events, &GridEvents::headingMenuWanted, this, &CommandInput::showHeadingMenu);
+    connect(parts.conditions, &FilterBar::removeWanted, this, &CommandInput::removeCondition);
     connect(&singleRecord, &SingleRecordView::menuWanted, this, &CommandInput::showMenu);
     connect(&singleRecord, &SingleRecordView::cancelWanted, this, [this] { m_session.cancelRecord(); });
     connect(parts.cmdPgae, &QPushButton::clicked, this,
@@ -66,6 +75,25 @@ CommandInput::~CommandInput()
         return;
     deleteAfterEvent(*m_parts.Toolbar1);
     deleteAfterEvent(m_menu);
+    deleteAfterEvent(m_columnMenu.menu());
+}
+
+void CommandInput::removeCondition(int condition)
+{
+    if (!m_parts.Toolbar1->isEnabled())
+        return;
+    const QPointer<CommandInput> alive(this);
+    m_session.perform(
+        [&] { KOVAVSFDataGridLib::removeCondition(m_session, static_cast<std::size_t>(condition)); });
+    if (alive)
+        m_parts.vsfgDataGrid->setFocus(); // the button that had it is gone
+}
+
+void CommandInput::showHeadingMenu(int col, const QPoint &position)
+{
+    m_menu.refresh();
+    m_columnMenu.addTo(m_menu, col);
+    m_menu.exec(position);
 }
 
 void CommandInput::showMenu(const QPoint &position)

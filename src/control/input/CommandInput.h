@@ -1,5 +1,7 @@
 #pragma once
 
+#include "control/parts/ColumnMenu.h"
+
 #include <QtCore/QObject>
 
 class KOVAVSFDataGrid;
@@ -34,6 +36,8 @@ protected:
 
 private:
     void showMenu(const QPoint &position);
+    void removeCondition(int condition);
+    void showHeadingMenu(int col, const QPoint &position);
     bool isShortcut(const QKeyEvent &event) const;
     void followRecord();
     void followChange();
@@ -42,7 +46,8 @@ private:
     Session &m_session;
     GridParts &m_parts;
     SingleRecordView &m_singleRecord;
-    PopupMenu &m_menu;         // the control's
+    PopupMenu &m_menu; // the control's
+    ColumnMenu m_columnMenu;
     bool m_isKeyTaken = false; // the host kept the last shortcut from its command
 };
 

@@ -134,6 +134,11 @@ void GridEvents::mouseReleased(QWidget &source, QMouseEvent &event)
         clicked(place);
     if (alive && event.button() == Qt::RightButton)
         askForMenu(event.globalPosition().toPoint());
+    if (alive && event.button() == Qt::RightButton && place == Place::Heading && canShowMenu()) {
+        const int col = m_parts.vsfgDataGrid->ColumnOfHeadingAt(event.position().toPoint());
+        if (col > 0)
+            Q_EMIT headingMenuWanted(col, event.globalPosition().toPoint());
+    }
     if (alive)
         Q_EMIT m_control.DataMouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
 }
@@ -249,10 +254,15 @@ bool GridEvents::keyPressed(QKeyEvent &event)
     return true;
 }
 
+bool GridEvents::canShowMenu() const
+{
+    return m_parts.Toolbar1->isEnabled() && m_session.result().isOpen() &&
+           m_session.result().recordset()->RecordCount() > 0;
+}
+
 void GridEvents::askForMenu(const QPoint &position)
 {
-    if (m_parts.Toolbar1->isEnabled() && m_session.result().isOpen() &&
-        m_session.result().recordset()->RecordCount() > 0)
+    if (canShowMenu())
         Q_EMIT menuWanted(position);
 }
 

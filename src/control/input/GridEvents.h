@@ -34,6 +34,8 @@ Q_SIGNALS:
     // The right button came up on data (or the menu key was pressed) while there are records and the toolbar
     // is enabled: time for the menu. `position` is on the screen.
     void menuWanted(const QPoint &position);
+    // The same on a column's heading.
+    void headingMenuWanted(int col, const QPoint &position);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -50,6 +52,7 @@ private:
     bool keyPressed(QKeyEvent &event);
     void panelReleased(QMouseEvent &event);
     void makeCurrent(Place place, const QPoint &position);
+    bool canShowMenu() const;
     void askForMenu(const QPoint &position);
     void clicked(Place place);
     void writePicture();

@@ -1,5 +1,6 @@
 #include "control/parts/DialogQuestions.h"
 
+#include "control/parts/FormatDialog.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/ToolbarIcons.h"
 #include "filter/mod_Filter.h"
@@ -73,6 +74,7 @@ std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionReque
     prepared.sqlShow = request.sqlShow;
     prepared.connection = request.connection;
     prepared.result = request.result;
+    prepared.field = request.field;
     prepared.picture = toolbarIcon(CommandKeys::Filter);
     auto filter = std::make_shared<mod_Filter>(m_parent);
     filter->PrepareFilterDialog(prepared);
@@ -86,6 +88,14 @@ std::optional<FindAnswer> DialogQuestions::askWords(const colDataFields &fields)
         return {};
     dialog.exec();
     return FindAnswer{dialog.strFindText(), dialog.bIsAppointField(), dialog.strFieldName()};
+}
+
+std::optional<QString> DialogQuestions::askFormat(const FormatRequest &request)
+{
+    FormatDialog dialog(request.column, request.isBoolean, request.format, request.sample, m_parent);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return dialog.format();
 }
 
 std::optional<ExportAnswer> DialogQuestions::askExport(const ExportRequest &request)

@@ -3,6 +3,7 @@
 #include "ado/Adodc.h"
 #include "control/parts/ElidedLabel.h"
 #include "control/parts/EmptyHint.h"
+#include "control/parts/FilterBar.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/GridToolbar.h"
 #include "control/parts/StatementLine.h"
@@ -38,6 +39,7 @@ Widget *named(Widget *widget, const QString &name)
 GridParts::GridParts(QWidget &control)
     : picMainBack(named(new QWidget(&control), u"picMainBack"_s)),
       Toolbar1(new GridToolbar(picMainBack)),
+      conditions(new FilterBar(picMainBack)),
       vsfgDataGrid(named(new VSFlexGrid(picMainBack), u"vsfgDataGrid"_s)),
       lblEmpty(new EmptyHint(*vsfgDataGrid)),
       MSFlexGrid1(named(new MSFlexGrid(picMainBack), u"MSFlexGrid1"_s)),
@@ -68,11 +70,14 @@ void GridParts::layOut(int width, int height)
     const int toolbarHeight = Toolbar1->sizeHint().height();
     Toolbar1->setGeometry(0, 0, width, toolbarHeight);
 
+    const int barHeight = conditions->isHidden() ? 0 : conditions->sizeHint().height();
+    conditions->setGeometry(0, toolbarHeight, width, barHeight);
+    const int above = toolbarHeight + barHeight;
     const int foot = footHeight();
     const int left = Twips::toPixels(gridLeft, *picMainBack);
     const int gridWidth = width - Twips::toPixels(gridWidthMargin, *picMainBack);
-    const int gridHeight = std::max(0, height - toolbarHeight - foot);
-    vsfgDataGrid->setGeometry(left, toolbarHeight, gridWidth, gridHeight);
+    const int gridHeight = std::max(0, height - above - foot);
+    vsfgDataGrid->setGeometry(left, above, gridWidth, gridHeight);
     MSFlexGrid1->setGeometry(vsfgDataGrid->geometry());
     txtEdit->hide();
     layOutFoot();

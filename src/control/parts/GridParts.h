@@ -15,6 +15,7 @@ namespace KOVAVSFDataGridLib {
 
 class ElidedLabel;
 class EmptyHint;
+class FilterBar;
 class GridToolbar;
 class MSFlexGrid;
 class StatementLine;
@@ -33,6 +34,7 @@ public:
 
     QWidget *picMainBack;
     GridToolbar *Toolbar1;
+    FilterBar *conditions;
     VSFlexGrid *vsfgDataGrid;
     EmptyHint *lblEmpty;
     MSFlexGrid *MSFlexGrid1;

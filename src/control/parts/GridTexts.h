@@ -53,6 +53,17 @@ inline const QString SingleRecordName = u"当前记录"_s;
 inline const QString CopyAsMenu = u"复制为(&U)…"_s;
 inline const QString CopyAsName = u"复制为"_s;
 
+// A column's heading and its menu.
+inline const QString SortedAscending = u"第 %1 升序"_s;
+inline const QString SortedDescending = u"第 %1 降序"_s;
+inline const QString Filtered = u"已筛选"_s;
+inline const QString ColumnMenuName = u"列菜单"_s;
+
+// The conditions in force, above the grid.
+inline const QString FilterBarName = u"筛选条件"_s;
+inline const QString RemoveCondition = u"去掉条件：%1"_s;
+inline const QString MoreConditions = u"还有 %1 个"_s;
+
 // Page box and label.
 inline const QString GoToPage = u"转到"_s;
 inline const QString GoToPageTip = u"显示这一页"_s;

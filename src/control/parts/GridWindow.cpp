@@ -1,20 +1,27 @@
 #include "control/parts/GridWindow.h"
 
+#include "control/parts/GridTexts.h"
 #include "control/parts/GridToolbar.h"
 #include "control/parts/PopupMenu.h"
 #include "grid/FlexGrid.h"
 #include "grid/GridSelection.h"
 #include "grid/Twips.h"
 #include "session/Session.h"
+#include "session/ShownConditions.h"
+#include "session/ShownOrder.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 
 namespace KOVAVSFDataGridLib {
 
-GridWindow::GridWindow(VSFlexGrid &grid, GridToolbar &toolbar) : m_grid(grid), m_toolbar(toolbar) {}
+GridWindow::GridWindow(VSFlexGrid &grid, GridToolbar &toolbar) : m_grid(grid), m_toolbar(toolbar)
+{
+    grid.PutHasColumnMenus(true);
+}
 
 int GridWindow::Cols() const
 {
@@ -52,6 +59,42 @@ int GridWindow::widthOfColumns() const
 int GridWindow::width() const
 {
     return Twips::fromPixels(m_grid.width(), m_grid);
+}
+
+int GridWindow::fittingWidth(int col) const
+{
+    return m_grid.FittingColWidth(col);
+}
+
+QString GridWindow::columnFormat(int col) const
+{
+    return m_grid.ColFormat(col).toText();
+}
+
+void GridWindow::putColumnFormat(int col, const QString &format)
+{
+    if (const auto read = ADODB::DisplayFormat::fromText(format))
+        m_grid.PutColFormat(col, *read);
+}
+
+int GridWindow::placeOf(int col) const
+{
+    return m_grid.horizontalHeader()->visualIndex(col - 1);
+}
+
+QStringList GridWindow::columnOrder() const
+{
+    return m_grid.ColumnOrder();
+}
+
+int GridWindow::frozenColumns() const
+{
+    return m_grid.FrozenCols();
+}
+
+void GridWindow::arrangeColumns(const QStringList &order, int frozen)
+{
+    m_grid.ArrangeColumns(order, frozen);
 }
 
 void GridWindow::refreshRecords()
@@ -125,6 +168,40 @@ void GridWindow::refreshCommands()
     }
     if (m_menu)
         m_menu->refresh();
+    showHeadingMarks();
+}
+
+void GridWindow::showHeadingMarks()
+{
+    std::vector<HeadingMark> marks(static_cast<std::size_t>(m_grid.Cols()));
+    int place = 0;
+    for (const SortTerm &term : shownOrder(*m_session)) {
+        ++place;
+        if (term.column < 1 || term.column >= m_grid.Cols())
+            continue;
+        HeadingMark &mark = marks[static_cast<std::size_t>(term.column)];
+        mark.sortPlace = place;
+        mark.isDescending = term.isDescending;
+        mark.spoken =
+            (term.isDescending ? GridTexts::SortedDescending : GridTexts::SortedAscending).arg(place);
+    }
+    const QStringList headings = m_grid.Headings();
+    QStringList words;
+    for (const ShownCondition &condition : shownConditions(*m_session)) {
+        words.append(condition.words);
+        // What is looked for in many fields filters none of them.
+        if (condition.fields.size() != 1)
+            continue;
+        for (int col = 1; col <= headings.size(); ++col) {
+            if (headings.at(col - 1).compare(condition.fields.front(), Qt::CaseInsensitive) != 0)
+                continue;
+            HeadingMark &mark = marks[static_cast<std::size_t>(col)];
+            mark.isFiltered = true;
+            mark.spoken += (mark.spoken.isEmpty() ? QString() : QString(u'，')) + GridTexts::Filtered;
+        }
+    }
+    m_grid.PutHeadingMarks(marks);
+    showConditions(words);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -26,6 +26,13 @@ public:
     void ResetColWidths() override;
     int widthOfColumns() const override;
     int width() const override;
+    int fittingWidth(int col) const override;
+    QString columnFormat(int col) const override;
+    void putColumnFormat(int col, const QString &format) override;
+    int placeOf(int col) const override;
+    QStringList columnOrder() const override;
+    int frozenColumns() const override;
+    void arrangeColumns(const QStringList &order, int frozen) override;
 
     void refreshRecords() override;
     int Row() const override;
@@ -47,10 +54,16 @@ public:
     void setMenu(PopupMenu *menu) { m_menu = menu; }
 
 protected:
+    // Shows the conditions in force in words.
+    virtual void showConditions(const QStringList &words) = 0;
+
     VSFlexGrid &m_grid;
     GridToolbar &m_toolbar;
     Session *m_session = nullptr;
     PopupMenu *m_menu = nullptr;
+
+private:
+    void showHeadingMarks();
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -6,6 +6,7 @@
 #include "control/parts/GridParts.h"
 #include "control/parts/GridToolbar.h"
 #include "control/viewer/frm_FullScreen.h"
+#include "grid/FlexGrid.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/commands/CommandKeys.h"
@@ -123,10 +124,13 @@ bool ShowFullScreen(QWidget &control, Session &session, GridParts &parts, const 
                    session.texts.connectionString, session.statement(), true, session.texts.sqlSort, wasAll,
                    isOffered(toolbar, CommandKeys::Filter), isOffered(toolbar, CommandKeys::Sort),
                    isOffered(toolbar, CommandKeys::ToFullTable));
+    VSFlexGrid &shown = viewer.grid();
+    shown.ArrangeColumns(parts.vsfgDataGrid->ColumnOrder(), parts.vsfgDataGrid->FrozenCols());
     viewer.exec();
     if (visit.isOver())
         return false;
     adoptState(session, parts, viewer, wasAll);
+    parts.vsfgDataGrid->ArrangeColumns(shown.ColumnOrder(), shown.FrozenCols());
     viewer.ClearRefObject();
     return true;
 }

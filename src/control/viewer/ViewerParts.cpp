@@ -1,6 +1,7 @@
 #include "control/viewer/ViewerParts.h"
 
 #include "control/parts/EmptyHint.h"
+#include "control/parts/FilterBar.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/GridToolbar.h"
 #include "control/viewer/ViewerTexts.h"
@@ -28,6 +29,7 @@ ViewerParts::ViewerParts(QDialog &window)
       fraTitle(new QFrame(picBox)),
       Toolbar1(new GridToolbar(fraTitle)),
       cmdClose(new QPushButton(ViewerTexts::Close, fraTitle)),
+      conditions(new FilterBar(picBox)),
       vsfgShowData(new VSFlexGrid(picBox)),
       lblEmpty(new EmptyHint(*vsfgShowData)),
       txtPage(new QLineEdit(picBox)),
@@ -90,6 +92,7 @@ void ViewerParts::layOut(QDialog &window)
     box->setContentsMargins({});
     box->setSpacing(0);
     box->addWidget(fraTitle);
+    box->addWidget(conditions);
     box->addWidget(vsfgShowData, 1);
     box->addLayout(foot);
 

@@ -12,6 +12,7 @@ class QWidget;
 namespace KOVAVSFDataGridLib {
 
 class EmptyHint;
+class FilterBar;
 class GridToolbar;
 class VSFlexGrid;
 
@@ -26,6 +27,7 @@ public:
     QFrame *fraTitle;
     GridToolbar *Toolbar1;
     QPushButton *cmdClose;
+    FilterBar *conditions;
     VSFlexGrid *vsfgShowData;
     EmptyHint *lblEmpty;
     QLineEdit *txtPage;

@@ -2,6 +2,7 @@
 
 #include "ado/Recordset.h"
 #include "control/parts/EmptyHint.h"
+#include "control/parts/FilterBar.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/LoadProgress.h"
 #include "control/viewer/ViewerCells.h"
@@ -57,6 +58,11 @@ void ViewerWindow::refreshStatus()
         m_parts.lblEmpty->showNoRecords(m_session->canGoBack());
     else
         m_parts.lblEmpty->showText({});
+}
+
+void ViewerWindow::showConditions(const QStringList &words)
+{
+    m_parts.conditions->show(words);
 }
 
 std::unique_ptr<OpeningProgress> ViewerWindow::beginOpening()

@@ -18,6 +18,7 @@ public:
     void showPageNumber(int page, qint64 pageCount) override;
     void showTypedPage(const QString &text) override;
     void refreshStatus() override;
+    void showConditions(const QStringList &words) override;
     std::unique_ptr<OpeningProgress> beginOpening() override;
     std::unique_ptr<OpeningProgress> beginWriting(const QString &done, qint64 total) override;
 

@@ -3,15 +3,19 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "control/input/MenuKey.h"
+#include "control/parts/ColumnMenu.h"
 #include "control/parts/DialogQuestions.h"
+#include "control/parts/FilterBar.h"
 #include "control/parts/GridToolbar.h"
 #include "control/parts/PopupMenu.h"
 #include "control/viewer/ViewerTexts.h"
 #include "grid/FlexGrid.h"
+#include "session/ShownConditions.h"
 #include "session/commands/CommandKeys.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
@@ -51,7 +55,10 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
       m_window(*this, m_parts),
       m_session(std::make_shared<Session>(m_window, *m_questions, m_noHost, ViewerRules, nullptr,
                                           std::move(host.open))),
-      m_menu(new PopupMenu(*this, PopupMenu::ofViewer, *m_parts.Toolbar1, *m_session))
+      m_menu(new PopupMenu(*this, PopupMenu::ofViewer, *m_parts.Toolbar1, *m_session)),
+      m_columnMenu(std::make_unique<ColumnMenu>(
+          *this, *m_parts.Toolbar1, *m_parts.vsfgShowData, *m_session,
+          [this](const ColumnCommand &command, int col) { m_session->runOnColumn(command, col); }))
 {
     m_window.setSession(*m_session);
     m_window.setMenu(m_menu);
@@ -63,6 +70,10 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
             [this](const QString &key) { m_session->run(key); });
     connect(m_parts.cmdPgae, &QPushButton::clicked, this,
             [this] { m_session->goToTypedPage(m_parts.txtPage->text()); });
+    connect(m_parts.conditions, &FilterBar::removeWanted, this, [this](int condition) {
+        m_session->perform([&] { removeCondition(*m_session, static_cast<std::size_t>(condition)); });
+        m_parts.vsfgShowData->setFocus();
+    });
     connect(m_parts.cmdClose, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_menu, &PopupMenu::chosen, this,
             [this](const QString &key) { m_session->run(key, ChosenBy::MenuItem); });
@@ -74,6 +85,7 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
     connect(&back, &QAction::triggered, this, &QDialog::accept);
     m_parts.vsfgShowData->installEventFilter(this);
     m_parts.vsfgShowData->viewport()->installEventFilter(this);
+    m_parts.vsfgShowData->horizontalHeader()->viewport()->installEventFilter(this);
     m_parts.vsfgShowData->setFocus();
 }
 
@@ -178,6 +190,14 @@ bool frm_FullScreen::eventFilter(QObject *watched, QEvent *event)
             if (cell.isValid())
                 grid.setCurrentIndex(cell);
             popUp(mouse.globalPosition().toPoint(), cell.isValid());
+        }
+    } else if (watched == grid.horizontalHeader()->viewport() &&
+               event->type() == QEvent::MouseButtonRelease) {
+        const auto &mouse = *static_cast<QMouseEvent *>(event);
+        const int col = grid.ColumnOfHeadingAt(mouse.position().toPoint());
+        if (mouse.button() == Qt::RightButton && col > 0 && m_session->hasRecords()) {
+            m_columnMenu->addTo(*m_menu, col);
+            popUp(mouse.globalPosition().toPoint(), false);
         }
     } else if (watched == &grid && event->type() == QEvent::KeyPress) {
         if (isMenuKey(*static_cast<QKeyEvent *>(event))) {

@@ -13,6 +13,7 @@
 
 namespace KOVAVSFDataGridLib {
 
+class ColumnMenu;
 class PopupMenu;
 
 // What the viewer asks of the control that opened it.
@@ -48,6 +49,8 @@ public:
     // Releases the filter manager; commands do nothing from then on, and one that is under way ends.
     void ClearRefObject();
 
+    VSFlexGrid &grid() const { return *m_parts.vsfgShowData; }
+
     // The page shown, 0 when none is.
     qint32 GetPageIndex() const;
     bool IsAll() const;
@@ -73,6 +76,7 @@ private:
     ViewerWindow m_window;
     const std::shared_ptr<Session> m_session;
     PopupMenu *m_menu;
+    const std::unique_ptr<ColumnMenu> m_columnMenu;
 };
 
 } // namespace KOVAVSFDataGridLib

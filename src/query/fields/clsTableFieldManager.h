@@ -23,6 +23,7 @@ public:
     // Decides, with the reader's engine, how names are written.
     void SetDBType(AllDBType type) { m_database = type; }
     void SetFieldChooser(FieldChooser *chooser) { m_chooser = chooser; }
+    FieldChooser *GetFieldChooser() const { return m_chooser; }
 
     void InitData()
     {

@@ -5,6 +5,7 @@
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/commands/FilterByDialog.h"
 
 // Asks the host for a condition by its event QurryFilter, and the user by the filter dialog unless the host
 // took over.
@@ -28,9 +29,10 @@ void filterBy(Session &session, FilterManagerRollback &ground, const QString &co
 }
 
 // Asks until the database takes the condition or the user cancels.
-void askUser(Session &session, FilterManagerRollback &ground)
+void askUser(Session &session, FilterManagerRollback &ground, const QString &field)
 {
     ConditionRequest request = session.conditionRequest();
+    request.field = field;
     do {
         const QString condition = session.questions().askCondition(request);
         if (!ground.isResultUntouched())
@@ -42,7 +44,7 @@ void askUser(Session &session, FilterManagerRollback &ground)
 
 // Asks the host, and the user unless the host takes over. Neither when there is no statement to filter, or
 // when the host puts another result in its place.
-void askHost(Session &session, FilterManagerRollback &ground)
+void askHost(Session &session, FilterManagerRollback &ground, const QString &field)
 {
     session.texts.passQurryFilter.clear();
     QString base;
@@ -55,19 +57,23 @@ void askHost(Session &session, FilterManagerRollback &ground)
     if (!ground.isResultUntouched())
         return;
     if (cancel == leftToTheDialog)
-        askUser(session, ground);
+        askUser(session, ground, field);
     else
         filterBy(session, ground, session.texts.passQurryFilter, nullptr);
 }
 
-void filterByDialog(Session &session)
+} // namespace
+
+void filterByDialog(Session &session, const QString &field)
 {
     FilterManagerRollback rollback(session);
     if (session.rules().asksHostForCondition)
-        askHost(session, rollback);
+        askHost(session, rollback, field);
     else
-        askUser(session, rollback);
+        askUser(session, rollback, field);
 }
+
+namespace {
 
 const Command::Registration registration({
     .key = CommandKeys::Filter,
@@ -76,7 +82,7 @@ const Command::Registration registration({
     .menu = {11, u"筛选(&F)"_s, true},
     .isInViewer = true,
     .needs = Needs::Records,
-    .run = filterByDialog,
+    .run = [](Session &session) { filterByDialog(session); },
     .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Condition); },
 });
 

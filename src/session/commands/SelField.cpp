@@ -2,10 +2,11 @@
 #include "session/HostEvents.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
+#include "session/commands/ChosenFields.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
 
-// Lets the user choose the part fields and shows them.
+// Lets the user, or another one in his place, choose the part fields and shows them.
 
 namespace KOVAVSFDataGridLib {
 
@@ -23,6 +24,31 @@ QStringList namesOf(Session &session, const QString &statement)
     return names;
 }
 
+// Asks somebody else than the filter manager usually does.
+class ChooserInPlace
+{
+public:
+    ChooserInPlace(Session &session, clsFilterManagement &manager, FieldChooser *chooser)
+        : m_session(session), m_manager(manager), m_usual(manager.GetFieldChooser()), m_isUsual(!chooser)
+    {
+        if (chooser)
+            manager.SetFieldChooser(chooser);
+    }
+    // The usual one goes with the session's window.
+    ~ChooserInPlace()
+    {
+        if (!m_isUsual)
+            m_manager.SetFieldChooser(m_session.isDetached() ? nullptr : m_usual);
+    }
+    Q_DISABLE_COPY_MOVE(ChooserInPlace)
+
+private:
+    Session &m_session;
+    clsFilterManagement &m_manager;
+    FieldChooser *const m_usual;
+    const bool m_isUsual;
+};
+
 // The statement with the fields that the user chooses; empty when he cancels.
 QString askForFields(const FilterManagerRollback &ground, const clsShowSQLSentence &latest)
 {
@@ -34,7 +60,9 @@ QString askForFields(const FilterManagerRollback &ground, const clsShowSQLSenten
     return isChosen && ground.isResultUntouched() ? statement : QString();
 }
 
-void selectFields(Session &session)
+} // namespace
+
+void showChosenFields(Session &session, FieldChooser *chooser)
 {
     if (!session.rules().choosesFieldsWithoutRecords && !session.hasRecords())
         return;
@@ -45,7 +73,10 @@ void selectFields(Session &session)
     if (!entry)
         return;
     const clsShowSQLSentence latest = *entry; // the history can change while the dialog is open
-    const QString statement = askForFields(rollback, latest);
+    const QString statement = [&] {
+        const ChooserInPlace inPlace(session, rollback.manager(), chooser);
+        return askForFields(rollback, latest);
+    }();
     if (statement.isEmpty())
         return;
 
@@ -71,12 +102,14 @@ void selectFields(Session &session)
         session.window().showAllRecords();
 }
 
+namespace {
+
 const Command::Registration registration({
     .key = CommandKeys::SelField,
     .shortcut = u"Ctrl+L"_s,
     .button = {{102, u"选择字段"_s, u"选择要显示的字段"_s}},
     .isInViewer = true,
-    .run = selectFields,
+    .run = [](Session &session) { showChosenFields(session); },
     .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Fields); },
 });
 

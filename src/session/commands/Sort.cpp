@@ -2,12 +2,26 @@
 #include "session/Session.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/commands/ShowSorted.h"
 
 // Lets the user choose a sort and shows the records in it.
 
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
+
+bool showSorted(Session &session, const QString &statement, const QString &sort)
+{
+    session.columns().SaveColumnWidths();
+    session.rememberStatement();
+    const auto opened = session.read(statement);
+    if (!opened)
+        return false;
+    const ADODB::Notifications::Hold hold(session.notifications());
+    session.show(*opened);
+    session.record(statement, colShowSQLSentences::NoPartField(), sort);
+    return true;
+}
 
 namespace {
 
@@ -31,15 +45,8 @@ void sortByDialog(Session &session)
     if (!manager.GetPartSortSelFields(allFields, currentSort, newSort) || !rollback.isResultUntouched() ||
         !history.GetNextSQLBySort(newSort, statement))
         return;
-    session.columns().SaveColumnWidths();
-    session.rememberStatement();
-    const auto opened = session.read(statement);
-    if (!opened)
-        return;
-    const ADODB::Notifications::Hold hold(session.notifications());
-    session.show(*opened);
-    rollback.keepChanges();
-    session.record(statement, colShowSQLSentences::NoPartField(), newSort);
+    if (showSorted(session, statement, newSort))
+        rollback.keepChanges();
 }
 
 const Command::Registration registration({

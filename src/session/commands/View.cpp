@@ -10,13 +10,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// A second time it brings back the widths that the columns had before.
+void compressOrRestore(Session &session)
+{
+    const std::vector<int> before = widthsOf(session.window());
+    session.compressColumns();
+    if (widthsOf(session.window()) == before && !session.window().isSingleRecordShown())
+        session.keptWidths().restore(session.window());
+}
+
 const Command::Registration compressView({
     .key = u"CompressView"_s,
     .shortcut = u"Ctrl+M"_s,
-    .button = {{600, u"压缩显示"_s, u"调整列宽，使所有列都能看到"_s}},
+    .button = {{600, u"压缩显示"_s, u"调整列宽，使所有列都能看到；再按一次恢复原来的列宽"_s}},
     .isInViewer = true,
     .record = Record::Stays,
-    .run = [](Session &session) { session.compressColumns(); },
+    .run = compressOrRestore,
 });
 
 const Command::Registration fullScreen({

@@ -1,0 +1,112 @@
+#include "ado/values/DisplayFormat.h"
+
+#include <QtCore/QRegularExpression>
+
+#include <algorithm>
+
+namespace ADODB {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString yesNo = u"是/否"_s;
+
+// Digit by digit, because a decimal may have more digits than a double.
+void round(QString &whole, QString &fraction, int decimals)
+{
+    if (fraction.size() <= decimals) {
+        fraction += QString(decimals - fraction.size(), u'0');
+        return;
+    }
+    const bool isUp = fraction.at(decimals) >= u'5';
+    fraction.truncate(decimals);
+    if (!isUp)
+        return;
+    QString digits = whole + fraction;
+    qsizetype place = digits.size() - 1;
+    while (place >= 0 && digits.at(place) == u'9')
+        digits[place--] = u'0';
+    if (place >= 0)
+        digits[place] = QChar(digits.at(place).unicode() + 1);
+    else
+        digits.prepend(u'1');
+    whole = digits.chopped(decimals);
+    fraction = digits.last(decimals);
+}
+
+QString withThousands(const QString &whole)
+{
+    QString grouped;
+    for (qsizetype i = 0; i < whole.size(); ++i) {
+        if (i > 0 && (whole.size() - i) % 3 == 0)
+            grouped += u',';
+        grouped += whole.at(i);
+    }
+    return grouped;
+}
+
+QString asYesNo(const QString &text)
+{
+    if (text == "True"_L1 || text == "1"_L1 || text == "-1"_L1)
+        return u"是"_s;
+    return text == "False"_L1 || text == "0"_L1 ? u"否"_s : text;
+}
+
+} // namespace
+
+std::optional<DisplayFormat> DisplayFormat::fromText(const QString &text)
+{
+    if (text.isEmpty())
+        return DisplayFormat();
+    if (text == yesNo)
+        return DisplayFormat{.isYesNo = true};
+    static const QRegularExpression number(u"\\A(#,##)?(?:0(?:\\.(0{1,%1}))?)?\\z"_s.arg(mostDecimals));
+    const QRegularExpressionMatch match = number.match(text);
+    if (!match.hasMatch())
+        return std::nullopt;
+    const bool hasThousands = match.capturedLength(1) > 0;
+    const bool hasDecimals = text.contains(u'0');
+    return DisplayFormat{hasThousands, hasDecimals ? static_cast<int>(match.capturedLength(2)) : -1};
+}
+
+QString DisplayFormat::toText() const
+{
+    if (isYesNo)
+        return yesNo;
+    QString text = hasThousands ? u"#,##"_s : QString();
+    if (decimals >= 0)
+        text += u'0';
+    if (decimals > 0)
+        text += u'.' + QString(decimals, u'0');
+    return text;
+}
+
+QString DisplayFormat::applied(const QString &text) const
+{
+    if (isYesNo)
+        return asYesNo(text);
+    if (isNone())
+        return text;
+    static const QRegularExpression number(u"\\A(-?)([0-9]+)(?:\\.([0-9]+))?([eE][-+]?[0-9]+)?\\z"_s);
+    QRegularExpressionMatch match = number.match(text);
+    if (!match.hasMatch())
+        return text;
+    if (match.capturedLength(4) > 0) {
+        constexpr double largest = 1e15; // up to here a double's digits are all its own
+        const double value = text.toDouble();
+        if (decimals < 0 || value > largest || value < -largest)
+            return text;
+        match = number.match(QString::number(value, 'f', decimals));
+    }
+    QString whole = match.captured(2);
+    QString fraction = match.captured(3);
+    if (decimals >= 0)
+        round(whole, fraction, decimals);
+    const auto isZero = [](QChar digit) { return digit == u'0'; };
+    const bool isNothing = std::ranges::all_of(whole, isZero) && std::ranges::all_of(fraction, isZero);
+    return (isNothing ? QString() : match.captured(1)) + (hasThousands ? withThousands(whole) : whole) +
+           (fraction.isEmpty() ? QString() : u'.' + fraction);
+}
+
+} // namespace ADODB

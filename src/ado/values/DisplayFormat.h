@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <optional>
+
+namespace ADODB {
+
+// How a value's text is shown to a user who wants it otherwise. It changes what is seen, never what is
+// copied, compared or written. For the rooms of this library.
+struct DisplayFormat
+{
+    static constexpr int mostDecimals = 15;
+
+    bool hasThousands = false;
+    int decimals = -1; // rounded half away from zero; -1 as many as the text has
+    bool isYesNo = false;
+
+    // "0", "0.00", "#,##0", "#,##0.000", "#,##" (any decimals with thousands), "是/否", and "" for none;
+    // nothing for any other text.
+    static std::optional<DisplayFormat> fromText(const QString &text);
+    QString toText() const;
+
+    bool isNone() const { return !hasThousands && decimals < 0 && !isYesNo; }
+    // A text that the format is not made for stays as it is.
+    QString applied(const QString &text) const;
+
+    bool operator==(const DisplayFormat &) const = default;
+};
+
+} // namespace ADODB

@@ -1,0 +1,78 @@
+#include "control/face/LayoutKeeper.h"
+
+#include "control/face/Configuration.h"
+#include "grid/FlexGrid.h"
+#include "query/derivation/SqlText.h"
+#include "session/SavedLayout.h"
+#include "session/Session.h"
+
+#include <QtCore/QCryptographicHash>
+#include <QtCore/QPointer>
+
+#include <utility>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int millisecondsToSave = 1000; // a dragged edge changes a width many times
+
+} // namespace
+
+LayoutKeeper::LayoutKeeper(Session &session, const VSFlexGrid &grid) : m_session(session)
+{
+    m_delay.setSingleShot(true);
+    m_delay.setInterval(millisecondsToSave);
+    const auto begin = [this] { m_delay.start(); };
+    connect(&grid, &FlexGrid::ColWidthChanged, this, begin);
+    connect(&grid, &FlexGrid::ColumnsArranged, this, begin);
+    connect(&m_delay, &QTimer::timeout, this, &LayoutKeeper::save);
+}
+
+void LayoutKeeper::setKey(const QString &key)
+{
+    if (key == m_key)
+        return;
+    save();
+    m_key = key;
+    if (m_session.result().isOpen())
+        restore();
+}
+
+// Of one length, whatever characters the host and the database use.
+QString LayoutKeeper::place() const
+{
+    const QByteArray name = (m_key + u'\n' + m_table).toUtf8();
+    return QString::fromLatin1(QCryptographicHash::hash(name, QCryptographicHash::Sha1).toHex());
+}
+
+void LayoutKeeper::restore()
+{
+    m_known.clear();
+    m_table.clear();
+    if (m_key.isEmpty() || !m_session.result().isOpen())
+        return;
+    const clsShowSQLSentence *const first = m_session.history().Item(1);
+    m_table = GetSQLTableName(first ? first->ShowSQL : m_session.statement());
+    // What can't be read any more is as good as nothing, and is replaced by the next change.
+    const auto kept = SavedLayout::fromText(readLayout(place()));
+    const QPointer<LayoutKeeper> alive(this);
+    if (const auto *layout = std::get_if<SavedLayout>(&kept))
+        restoreLayout(m_session, *layout);
+    if (alive && m_session.result().isOpen())
+        m_known = layoutOf(m_session).toText();
+}
+
+void LayoutKeeper::save()
+{
+    m_delay.stop();
+    if (m_key.isEmpty() || m_known.isEmpty() || !m_session.result().isOpen())
+        return;
+    const QString layout = layoutOf(m_session).toText();
+    if (layout != std::exchange(m_known, layout))
+        saveLayout(place(), layout);
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,82 @@
+#include "control/parts/ColumnMenu.h"
+
+#include "control/parts/GridTexts.h"
+#include "grid/FlexGrid.h"
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+#include "session/columns/ColumnCommand.h"
+
+#include <QtGui/QAction>
+#include <QtWidgets/QMenu>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+ColumnMenu::ColumnMenu(QWidget &window, const QWidget &toolbar, VSFlexGrid &grid, Session &session,
+                       Runner run)
+    : m_toolbar(toolbar), m_grid(grid), m_session(session), m_run(std::move(run)), m_menu(new QMenu(&window))
+{
+    m_menu->setObjectName(u"ColumnMenu"_s);
+    m_menu->setAccessibleName(GridTexts::ColumnMenuName);
+    auto *open = new QAction(GridTexts::ColumnMenuName, &window);
+    open->setObjectName(u"OpenColumnMenu"_s);
+    open->setShortcut(QKeySequence(u"Ctrl+Alt+Down"_s));
+    open->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    window.addAction(open);
+    connect(open, &QAction::triggered, this, &ColumnMenu::openAtCurrentColumn);
+    connect(&grid, &FlexGrid::ColumnMenuWanted, this, &ColumnMenu::popUp);
+    connect(&grid, &FlexGrid::FittingWidthWanted, this,
+            [this](int col) { m_run(*ColumnCommand::find(u"FitColumn"_s), col); });
+}
+
+void ColumnMenu::openAtCurrentColumn()
+{
+    if (m_session.window().isSingleRecordShown() || m_grid.Row() < 1 || m_grid.Cols() < 2)
+        return;
+    const int col = m_grid.ShownCol();
+    m_grid.scrollTo(m_grid.currentIndex());
+    popUp(col, m_grid.ColumnMenuPlace(col));
+}
+
+void ColumnMenu::popUp(int col, const QPoint &place)
+{
+    if (col < 1 || !m_grid.isEnabled() || !m_toolbar.isEnabled() || !m_session.result().isOpen())
+        return;
+    m_menu->clear();
+    makeActions(*m_menu, col);
+    m_menu->popup(place);
+    // From the keyboard one goes on with the keyboard.
+    m_menu->setActiveAction(m_menu->actions().value(0));
+}
+
+void ColumnMenu::addTo(QMenu &menu, int col)
+{
+    QList<QAction *> added{menu.addSeparator()};
+    added += makeActions(menu, col);
+    // The action that was chosen is triggered after the menu has closed.
+    for (QAction *action : std::as_const(added))
+        connect(&menu, &QMenu::aboutToHide, action, &QObject::deleteLater);
+}
+
+QList<QAction *> ColumnMenu::makeActions(QMenu &menu, int col)
+{
+    QList<QAction *> actions;
+    constexpr int group = 100;
+    int lastGroup = ColumnCommand::all().front()->place / group;
+    for (const ColumnCommand *command : ColumnCommand::all()) {
+        if (command->place / group != lastGroup)
+            actions.append(menu.addSeparator());
+        lastGroup = command->place / group;
+        QAction *const action = menu.addAction(command->caption);
+        action->setObjectName(u"ColumnMenu"_s + command->key);
+        action->setEnabled(m_session.canRunOnColumn(*command, col));
+        action->setCheckable(command->isOn != nullptr);
+        action->setChecked(action->isEnabled() && command->isOn && command->isOn(m_session, col));
+        connect(action, &QAction::triggered, this, [this, command, col] { m_run(*command, col); });
+        actions.append(action);
+    }
+    return actions;
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+#include <functional>
+
+class QAction;
+class QMenu;
+class QPoint;
+class QWidget;
+
+namespace KOVAVSFDataGridLib {
+
+class Session;
+class VSFlexGrid;
+struct ColumnCommand;
+
+// The menu of a column: opened by the arrow in its heading, by Ctrl+Alt+Down on one of its cells, and as the
+// end of a menu that is there already.
+class ColumnMenu : public QObject
+{
+    Q_OBJECT
+
+public:
+    // What runs a command on a column.
+    using Runner = std::function<void(const ColumnCommand &command, int col)>;
+
+    // All must outlive this object. `window` gets the shortcut. There is no menu while the toolbar is
+    // disabled.
+    ColumnMenu(QWidget &window, const QWidget &toolbar, VSFlexGrid &grid, Session &session, Runner run);
+
+    // The menu itself, which the window owns.
+    QMenu &menu() const { return *m_menu; }
+
+    // Shows the menu at a place on the screen. Nothing for a column that has none.
+    void popUp(int col, const QPoint &place);
+    // Adds a column's entries to the end of a menu, until it is closed.
+    void addTo(QMenu &menu, int col);
+
+private:
+    void openAtCurrentColumn();
+    QList<QAction *> makeActions(QMenu &menu, int col);
+
+    const QWidget &m_toolbar;
+    VSFlexGrid &m_grid;
+    Session &m_session;
+    const Runner m_run;
+    QMenu *m_menu;
+};
+
+} // namespace KOVAVSFDataGridLib

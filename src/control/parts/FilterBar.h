@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+class QMenu;
+class QToolButton;
+
+namespace KOVAVSFDataGridLib {
+
+// The conditions in force, each in words on a button of its own that removes it. There only while there is
+// one. Those that have no room are in a menu at the end.
+class FilterBar final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FilterBar(QWidget *parent);
+
+    // Shows the conditions; hides itself when there are none.
+    void show(const QStringList &conditions);
+
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    // The user removes a condition; they count from 0.
+    void removeWanted(int condition);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QToolButton *makeButton(int condition);
+    void layOut();
+    int gap() const;
+
+    QStringList m_conditions;
+    QList<QToolButton *> m_buttons;
+    QToolButton *m_more;
+    QMenu *m_menu;
+};
+
+} // namespace KOVAVSFDataGridLib

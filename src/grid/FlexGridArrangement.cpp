@@ -1,0 +1,146 @@
+#include "grid/FlexGrid.h"
+
+#include "grid/CellDelegate.h"
+#include "grid/ColumnOrder.h"
+#include "grid/FlexGridModel.h"
+#include "grid/FlexHeader.h"
+#include "grid/Twips.h"
+
+#include <QtCore/QScopedValueRollback>
+#include <QtWidgets/QStyle>
+
+#include <algorithm>
+
+// Where the columns are, what their headings show, and how wide they would be best.
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+constexpr int sampledRows = 200; // of all, besides those in view
+constexpr int widestShare = 2;   // of the grid's width: a half
+constexpr int leastFittingTwips = 300;
+
+} // namespace
+
+QStringList FlexGrid::ColumnOrder() const
+{
+    const QStringList headings = Headings();
+    QStringList order;
+    for (int visual = 0; visual < headings.size(); ++visual)
+        order.append(headings.at(horizontalHeader()->logicalIndex(visual)));
+    return order;
+}
+
+void FlexGrid::ArrangeColumns(const QStringList &order, int frozen)
+{
+    m_order = order;
+    m_frozenNames.clear();
+    applyArrangement();
+    m_frozenCols = std::clamp(frozen, 0, m_model->columnCount());
+    if (m_frozenCols > 0) {
+        m_order = ColumnOrder();
+        m_frozenNames = m_order.first(m_frozenCols);
+    }
+    Refresh();
+    Q_EMIT ColumnsArranged();
+}
+
+// Cells without headings come and go between two results.
+void FlexGrid::applyArrangement()
+{
+    const QStringList headings = Headings();
+    const std::vector<int> places = arrangedColumns(headings, m_order);
+    {
+        const QScopedValueRollback<bool> arranging(m_isArranging, true);
+        QHeaderView &header = *horizontalHeader();
+        for (int visual = 0; visual < static_cast<int>(places.size()); ++visual)
+            header.moveSection(header.visualIndex(places[static_cast<std::size_t>(visual)]), visual);
+    }
+    m_frozenCols = 0;
+    while (m_frozenCols < static_cast<int>(places.size()) &&
+           m_frozenNames.contains(headings.at(places[static_cast<std::size_t>(m_frozenCols)])))
+        ++m_frozenCols;
+}
+
+void FlexGrid::onSectionMoved()
+{
+    if (m_isArranging)
+        return;
+    m_order = ColumnOrder();
+    m_frozenNames = m_order.first(std::min<qsizetype>(m_frozenCols, m_order.size()));
+    Refresh();
+    Q_EMIT ColumnsArranged();
+}
+
+int FlexGrid::FittingColWidth(int col) const
+{
+    checkCol(col);
+    const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + 1;
+    const QFontMetrics metrics = fontMetrics();
+    int width = 0;
+    const auto measure = [&](int row) {
+        const QString text = CellDelegate::shownText(m_model->shownText(row, col));
+        width = std::max(width, metrics.horizontalAdvance(text) + margin);
+    };
+    const int rows = UsedRows() - 1;
+    const int first = std::max(TopRow(), 1);
+    const int inView = viewport()->height() / std::max(verticalHeader()->defaultSectionSize(), 1) + 1;
+    for (int row = first; row <= std::min(rows, first + inView); ++row)
+        measure(row);
+    const int step = std::max(rows / sampledRows, 1);
+    for (int row = 1; row <= rows; row += step)
+        measure(row);
+    if (col >= m_model->fixedCols())
+        width = std::max(width, static_cast<FlexHeader *>(horizontalHeader())->fittingWidth(section(col)));
+    const int widest = std::max(viewport()->width() / widestShare, 1);
+    return std::max(Twips::fromPixels(std::min(width, widest), *this), leastFittingTwips);
+}
+
+ADODB::DisplayFormat FlexGrid::ColFormat(int col) const
+{
+    checkCol(col);
+    return m_model->formats().value(m_model->source().text(0, col));
+}
+
+void FlexGrid::PutColFormat(int col, const ADODB::DisplayFormat &format)
+{
+    checkCol(col);
+    QHash<QString, ADODB::DisplayFormat> formats = m_model->formats();
+    formats.insert(m_model->source().text(0, col), format);
+    if (format.isNone())
+        formats.remove(m_model->source().text(0, col));
+    m_model->setFormats(formats);
+}
+
+void FlexGrid::ResetColFormats()
+{
+    m_model->setFormats({});
+}
+
+void FlexGrid::PutHeadingMarks(const std::vector<HeadingMark> &marks)
+{
+    m_model->setHeadingMarks(marks);
+}
+
+void FlexGrid::PutHasColumnMenus(bool on)
+{
+    m_hasColumnMenus = on;
+    horizontalHeader()->setSectionsMovable(on);
+    horizontalHeader()->viewport()->update();
+}
+
+QPoint FlexGrid::ColumnMenuPlace(int col) const
+{
+    checkCol(col);
+    const auto &header = static_cast<const FlexHeader &>(*horizontalHeader());
+    const QRect heading = header.headingRect(section(col)) & header.viewport()->rect();
+    return header.viewport()->mapToGlobal(heading.bottomLeft());
+}
+
+int FlexGrid::ColumnOfHeadingAt(const QPoint &position) const
+{
+    const int found = static_cast<const FlexHeader &>(*horizontalHeader()).headingAt(position);
+    return found < 0 ? 0 : found + m_model->fixedCols();
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "sql/SelectParts.h"
+
+#include <QtCore/QStringList>
+
+// A condition taken apart, for the user to read.
+namespace KOVAVSFDataGridLib {
+
+// The conditions that AND joins, brackets around them left out; one, where OR joins them. `condition` is
+// without the word WHERE.
+std::vector<TextRange> conditionParts(const SqlScanner &statement, TextRange condition);
+
+// The fields that a condition names, each once, without tables and quotes.
+QStringList fieldsOfCondition(const SqlScanner &statement, TextRange condition);
+
+// The condition in the user's words: "名称 包含 “茶”". What has no words of its own stays as it is written.
+QString conditionInWords(const SqlScanner &statement, TextRange condition);
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <vector>
+
+namespace KOVAVSFDataGridLib {
+
+class Session;
+
+// One of the conditions that the user has put on what is shown, each of which must hold.
+struct ShownCondition
+{
+    QString words;      // for the user to read
+    QString text;       // as the statement has it
+    QStringList fields; // that it names, without tables and quotes
+};
+
+// Those of the latest statement that the first one of the history doesn't have.
+std::vector<ShownCondition> shownConditions(Session &session);
+
+// The latest statement without one of them; empty when there is no such condition.
+QString statementWithout(Session &session, std::size_t condition);
+
+// Saves the current record and shows the latest statement without one of them, as an entry of the history.
+void removeCondition(Session &session, std::size_t condition);
+
+} // namespace KOVAVSFDataGridLib

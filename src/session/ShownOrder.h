@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <vector>
+
+namespace KOVAVSFDataGridLib {
+
+class Session;
+
+// One term of the sort that the shown records are in.
+struct SortTerm
+{
+    int column = 0; // from 1; 0 when it sorts by no column
+    QString text;   // as it is written, with its direction
+    bool isDescending = false;
+};
+
+// The sort of the open statement; nothing when it has none.
+std::vector<SortTerm> shownOrder(Session &session);
+// What a sort or a condition writes for a column; empty when it has no name of its own.
+QString writtenColumn(Session &session, int col);
+
+} // namespace KOVAVSFDataGridLib

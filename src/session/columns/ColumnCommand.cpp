@@ -1,0 +1,42 @@
+#include "session/columns/ColumnCommand.h"
+
+#include <algorithm>
+#include <deque>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+std::deque<ColumnCommand> &registered()
+{
+    static std::deque<ColumnCommand> commands; // whose addresses stay
+    return commands;
+}
+
+} // namespace
+
+ColumnCommand::Registration::Registration(ColumnCommand command)
+{
+    Q_ASSERT_X(!find(command.key), "ColumnCommand", "two commands have the same key");
+    registered().push_back(std::move(command));
+}
+
+const std::vector<const ColumnCommand *> &ColumnCommand::all()
+{
+    static const std::vector<const ColumnCommand *> sorted = [] {
+        std::vector<const ColumnCommand *> commands;
+        for (const ColumnCommand &command : registered())
+            commands.push_back(&command);
+        std::ranges::sort(commands, {}, &ColumnCommand::place);
+        return commands;
+    }();
+    return sorted;
+}
+
+const ColumnCommand *ColumnCommand::find(const QString &key)
+{
+    const auto found = std::ranges::find(registered(), key, &ColumnCommand::key);
+    return found == registered().end() ? nullptr : &*found;
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "session/commands/Command.h"
+
+namespace KOVAVSFDataGridLib {
+
+// One thing that a user can do with a column, from its menu. Like a Command it is a static Registration in a
+// source file. Columns count from 1.
+struct ColumnCommand
+{
+    QString key;
+    int place; // in the menu; each hundred is a group
+    QString caption;
+    Record record = Record::Stays;
+    void (*run)(Session &session, int col);
+    // Null when it always can.
+    bool (*canRun)(Session &session, int col) = nullptr;
+    // Whether it is in force already. Null for what never is.
+    bool (*isOn)(Session &session, int col) = nullptr;
+
+    struct Registration
+    {
+        explicit Registration(ColumnCommand command);
+    };
+
+    // All of them in their order.
+    static const std::vector<const ColumnCommand *> &all();
+    // Null when there is no such command.
+    static const ColumnCommand *find(const QString &key);
+};
+
+} // namespace KOVAVSFDataGridLib

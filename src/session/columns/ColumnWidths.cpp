@@ -1,0 +1,48 @@
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+#include "session/columns/ColumnCommand.h"
+
+// Columns as wide as their texts, and as they were.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const ColumnCommand::Registration fit({
+    .key = u"FitColumn"_s,
+    .place = 300,
+    .caption = u"适合宽度(&W)"_s,
+    .run =
+        [](Session &session, int col) {
+            SessionWindow &window = session.window();
+            session.keptWidths().fit(window, [&] { window.PutColWidth(col, window.fittingWidth(col)); });
+        },
+});
+
+const ColumnCommand::Registration fitAll({
+    .key = u"FitAllColumns"_s,
+    .place = 301,
+    .caption = u"全部适合(&L)"_s,
+    .run =
+        [](Session &session, int) {
+            SessionWindow &window = session.window();
+            session.keptWidths().fit(window, [&] {
+                for (const int col : window.shownColumns())
+                    window.PutColWidth(col, window.fittingWidth(col));
+            });
+        },
+});
+
+const ColumnCommand::Registration restore({
+    .key = u"RestoreWidths"_s,
+    .place = 302,
+    .caption = u"还原宽度(&R)"_s,
+    .run = [](Session &session, int) { session.keptWidths().restore(session.window()); },
+    .canRun = [](Session &session, int) { return session.keptWidths().canRestore(session.window()); },
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,33 @@
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+#include "session/columns/ColumnCommand.h"
+
+// The columns up to one stay in view when the others scroll.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isLastFrozen(Session &session, int col)
+{
+    return session.window().frozenColumns() == session.window().placeOf(col) + 1;
+}
+
+const ColumnCommand::Registration registration({
+    .key = u"FreezeColumns"_s,
+    .place = 401,
+    .caption = u"冻结到此列(&Z)"_s,
+    .run =
+        [](Session &session, int col) {
+            SessionWindow &window = session.window();
+            const int frozen = isLastFrozen(session, col) ? 0 : window.placeOf(col) + 1;
+            window.arrangeColumns(window.columnOrder(), frozen);
+        },
+    .isOn = isLastFrozen,
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

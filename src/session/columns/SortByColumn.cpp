@@ -1,0 +1,110 @@
+#include "session/FilterManagerRollback.h"
+#include "session/Session.h"
+#include "session/ShownOrder.h"
+#include "session/columns/ColumnCommand.h"
+#include "session/commands/ShowSorted.h"
+
+#include <algorithm>
+
+// The records in the order of a column, or of several one after the other.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool canSort(Session &session, int col)
+{
+    return session.hasRecords() && session.whyNot(DerivationStep::Sort).isEmpty() &&
+           !writtenColumn(session, col).isEmpty();
+}
+
+const SortTerm *termOf(const std::vector<SortTerm> &order, int col)
+{
+    const auto found = std::ranges::find(order, col, &SortTerm::column);
+    return found == order.end() ? nullptr : &*found;
+}
+
+bool isSortedBy(Session &session, int col)
+{
+    const std::vector<SortTerm> order = shownOrder(session);
+    return termOf(order, col);
+}
+
+void sortBy(Session &session, const QStringList &terms)
+{
+    FilterManagerRollback rollback(session);
+    const QString sort = terms.join(u',');
+    QString statement;
+    if (session.history().GetNextSQLBySort(sort, statement) && showSorted(session, statement, sort))
+        rollback.keepChanges();
+}
+
+template<bool isDescending>
+void sortByColumn(Session &session, int col)
+{
+    sortBy(session, {writtenColumn(session, col) + (isDescending ? u" DESC"_s : QString())});
+}
+
+template<bool isDescending>
+bool isSortedFirst(Session &session, int col)
+{
+    const std::vector<SortTerm> order = shownOrder(session);
+    return !order.empty() && order.front().column == col && order.front().isDescending == isDescending;
+}
+
+QStringList textsOf(const std::vector<SortTerm> &order, int leftOut = 0)
+{
+    QStringList texts;
+    for (const SortTerm &term : order) {
+        if (leftOut == 0 || term.column != leftOut)
+            texts.append(term.text);
+    }
+    return texts;
+}
+
+const ColumnCommand::Registration ascending({
+    .key = u"SortAscending"_s,
+    .place = 100,
+    .caption = u"升序(&A)"_s,
+    .record = Record::IsLeft,
+    .run = sortByColumn<false>,
+    .canRun = canSort,
+    .isOn = isSortedFirst<false>,
+});
+
+const ColumnCommand::Registration descending({
+    .key = u"SortDescending"_s,
+    .place = 101,
+    .caption = u"降序(&D)"_s,
+    .record = Record::IsLeft,
+    .run = sortByColumn<true>,
+    .canRun = canSort,
+    .isOn = isSortedFirst<true>,
+});
+
+const ColumnCommand::Registration add({
+    .key = u"AddToSort"_s,
+    .place = 102,
+    .caption = u"加入排序(&I)"_s,
+    .record = Record::IsLeft,
+    .run =
+        [](Session &session, int col) {
+            sortBy(session, textsOf(shownOrder(session)) + QStringList(writtenColumn(session, col)));
+        },
+    .canRun = [](Session &session, int col) { return canSort(session, col) && !isSortedBy(session, col); },
+});
+
+const ColumnCommand::Registration remove({
+    .key = u"RemoveFromSort"_s,
+    .place = 103,
+    .caption = u"取消排序(&C)"_s,
+    .record = Record::IsLeft,
+    .run = [](Session &session, int col) { sortBy(session, textsOf(shownOrder(session), col)); },
+    .canRun = [](Session &session, int col) { return canSort(session, col) && isSortedBy(session, col); },
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

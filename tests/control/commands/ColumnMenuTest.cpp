@@ -1,0 +1,371 @@
+// A column's menu: opened by mouse and keys, and what its entries do.
+#include "Shop.h"
+
+#include "support/Dialogs.h"
+
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QScrollBar>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class ColumnMenu : public Shop
+{
+protected:
+    QMenu *menu() const { return m_menu; }
+    QHeaderView *header() const { return table->horizontalHeader(); }
+
+    QPoint heading(const QString &column) const
+    {
+        const int section = grid.GetBindFieldIndex(column) - 1;
+        return {header()->sectionViewportPosition(section) + 5, header()->height() / 2};
+    }
+    QPoint arrow(const QString &column) const
+    {
+        const int section = grid.GetBindFieldIndex(column) - 1;
+        return {header()->sectionViewportPosition(section) + header()->sectionSize(section) - 8,
+                header()->height() / 2};
+    }
+    void open(const QString &column)
+    {
+        QTest::mouseMove(header()->viewport(), arrow(column));
+        QTest::mouseClick(header()->viewport(), Qt::LeftButton, {}, arrow(column));
+        ASSERT_TRUE(menu()->isVisible());
+    }
+    QAction *entry(const QString &key) const { return menu()->findChild<QAction *>(u"ColumnMenu"_s + key); }
+    // Opens the menu by the arrow and clicks an entry.
+    void choose(const QString &column, const QString &key)
+    {
+        open(column);
+        ASSERT_TRUE(entry(key) && entry(key)->isEnabled()) << qUtf8Printable(key);
+        QTest::mouseClick(menu(), Qt::LeftButton, {}, menu()->actionGeometry(entry(key)).center());
+        EXPECT_FALSE(menu()->isVisible());
+    }
+    QString spoken(const QString &column) const
+    {
+        return table->model()
+            ->headerData(grid.GetBindFieldIndex(column) - 1, Qt::Horizontal, Qt::AccessibleTextRole)
+            .toString();
+    }
+    int width(int col) const { return table->columnWidth(col - 1); }
+    QStringList shownOrder() const
+    {
+        QStringList names;
+        for (int visual = 0; visual < header()->count(); ++visual) {
+            const int section = header()->logicalIndex(visual);
+            if (!table->isColumnHidden(section))
+                names.append(table->model()->headerData(section, Qt::Horizontal).toString());
+        }
+        return names;
+    }
+
+private:
+    QMenu *const m_menu = grid.findChild<QMenu *>(u"ColumnMenu"_s);
+};
+
+} // namespace
+
+TEST_F(ColumnMenu, SortsByTheColumnAndByOneMore)
+{
+    ASSERT_TRUE(load());
+    choose(u"城市"_s, u"SortDescending"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY 城市 DESC"_s)) << qUtf8Printable(statement());
+    EXPECT_EQ(texts(u"ID"_s).first(), u"6"_s);
+    EXPECT_EQ(spoken(u"城市"_s), u"城市，第 1 降序"_s);
+    choose(u"Unit Price"_s, u"AddToSort"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY 城市 DESC,[Unit Price]"_s)) << qUtf8Printable(statement());
+    EXPECT_EQ(spoken(u"Unit Price"_s), u"Unit Price，第 2 升序"_s);
+    open(u"城市"_s);
+    EXPECT_FALSE(entry(u"AddToSort"_s)->isEnabled());
+    EXPECT_TRUE(entry(u"SortDescending"_s)->isChecked());
+    EXPECT_FALSE(entry(u"SortAscending"_s)->isChecked());
+    menu()->close();
+    choose(u"城市"_s, u"RemoveFromSort"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY [Unit Price]"_s)) << qUtf8Printable(statement());
+    EXPECT_EQ(texts(u"ID"_s).first(), u"7"_s);
+    EXPECT_EQ(spoken(u"城市"_s), u"城市"_s);
+    choose(u"Unit Price"_s, u"RemoveFromSort"_s);
+    EXPECT_FALSE(statement().contains(u"ORDER BY"_s)) << qUtf8Printable(statement());
+    EXPECT_EQ(texts(u"ID"_s).first(), u"1"_s);
+    // Every step is one of the history.
+    click(u"ToPreview"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY [Unit Price]"_s));
+    EXPECT_EQ(spoken(u"Unit Price"_s), u"Unit Price，第 1 升序"_s);
+}
+
+TEST_F(ColumnMenu, ShowsTheSortThatTheStatementCameWith)
+{
+    ASSERT_TRUE(load(u"SELECT ID,名称 AS 品名,城市 FROM 商品 ORDER BY 3 DESC, 品名"_s, {}));
+    EXPECT_EQ(spoken(u"城市"_s), u"城市，第 1 降序"_s);
+    EXPECT_EQ(spoken(u"品名"_s), u"品名，第 2 升序"_s);
+    EXPECT_EQ(spoken(u"ID"_s), u"ID"_s);
+    choose(u"品名"_s, u"SortAscending"_s);
+    EXPECT_EQ(spoken(u"城市"_s), u"城市"_s);
+    EXPECT_EQ(spoken(u"品名"_s), u"品名，第 1 升序"_s);
+}
+
+TEST_F(ColumnMenu, GroupedRowsAreSortedAsWell)
+{
+    ASSERT_TRUE(load(u"SELECT 城市,COUNT(*) AS 数量 FROM 商品 GROUP BY 城市"_s, {}));
+    choose(u"数量"_s, u"SortDescending"_s);
+    EXPECT_EQ(spoken(u"数量"_s), u"数量，第 1 降序"_s);
+    EXPECT_EQ(texts(u"数量"_s).first(), u"2"_s);
+}
+
+TEST_F(ColumnMenu, FiltersByTheColumnThroughTheDialog)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) {
+        EXPECT_EQ(part<QComboBox>(dialog, "cmbField1").currentText(), u"城市"_s);
+        compose(part<QLineEdit>(dialog, "txtValue1"), u"大连"_s);
+        press(dialog, "cmd_Filter");
+    }});
+    choose(u"城市"_s, u"FilterByColumn"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"5"_s, u"8"_s}));
+    EXPECT_EQ(spoken(u"城市"_s), u"城市，已筛选"_s);
+    EXPECT_EQ(spoken(u"名称"_s), u"名称"_s);
+    click(u"ToPreview"_s);
+    EXPECT_EQ(spoken(u"城市"_s), u"城市"_s);
+}
+
+TEST_F(ColumnMenu, TheHostsOwnConditionFiltersNoColumn)
+{
+    ASSERT_TRUE(load(u"SELECT * FROM 商品 WHERE 城市='大连'"_s, {}));
+    EXPECT_EQ(spoken(u"城市"_s), u"城市"_s);
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"米"_s, u"名称"_s); }});
+    click(u"QuickFilter"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"5"_s}));
+    EXPECT_EQ(spoken(u"城市"_s), u"城市"_s);
+    EXPECT_EQ(spoken(u"名称"_s), u"名称，已筛选"_s);
+}
+
+TEST_F(ColumnMenu, HidesTheColumnAsAChoiceOfFieldsDoes)
+{
+    ASSERT_TRUE(load());
+    choose(u"城市"_s, u"HideColumn"_s);
+    EXPECT_EQ(columns(), QStringList({u"ID"_s, u"名称"_s, u"Unit Price"_s, u"日期"_s, u"停用"_s, u"图片"_s}));
+    EXPECT_TRUE(isPressed(u"Part"_s));
+    choose(u"ID"_s, u"HideColumn"_s);
+    EXPECT_EQ(columns(), QStringList({u"名称"_s, u"Unit Price"_s, u"日期"_s, u"停用"_s, u"图片"_s}));
+    click(u"All"_s);
+    EXPECT_EQ(columns(), AllColumns);
+    click(u"Part"_s);
+    EXPECT_EQ(columns(), QStringList({u"名称"_s, u"Unit Price"_s, u"日期"_s, u"停用"_s, u"图片"_s}));
+}
+
+TEST_F(ColumnMenu, TheLastColumnStays)
+{
+    ASSERT_TRUE(load(u"SELECT 名称 FROM 商品"_s, {}));
+    open(u"名称"_s);
+    EXPECT_FALSE(entry(u"HideColumn"_s)->isEnabled());
+}
+
+// Columns are hidden by their names.
+TEST_F(ColumnMenu, OneOfTwoColumnsOfANameIsNotHidden)
+{
+    ASSERT_TRUE(load(u"SELECT a.ID, b.ID, b.商品 FROM 商品 a JOIN 订单 b ON b.商品 = a.ID"_s, {}));
+    open(u"ID"_s);
+    EXPECT_FALSE(entry(u"HideColumn"_s)->isEnabled());
+    menu()->close();
+    choose(u"商品"_s, u"HideColumn"_s);
+    EXPECT_EQ(columns(), QStringList({u"ID"_s, u"ID"_s}));
+}
+
+TEST_F(ColumnMenu, FitsAndRestoresWidths)
+{
+    ASSERT_TRUE(load());
+    const int before = width(3);
+    const int idBefore = width(1);
+    choose(u"Unit Price"_s, u"FitColumn"_s);
+    EXPECT_NE(width(3), before);
+    EXPECT_EQ(width(1), idBefore);
+    choose(u"Unit Price"_s, u"RestoreWidths"_s);
+    EXPECT_EQ(width(3), before);
+    open(u"ID"_s);
+    EXPECT_FALSE(entry(u"RestoreWidths"_s)->isEnabled());
+    menu()->close();
+    choose(u"ID"_s, u"FitAllColumns"_s);
+    EXPECT_LT(width(1), idBefore);
+    // The widths belong to the fields from now on.
+    const int fitted = width(1);
+    click(u"Part"_s);
+    click(u"All"_s);
+    EXPECT_EQ(width(1), fitted);
+}
+
+TEST_F(ColumnMenu, CompressViewPressedAgainBringsTheWidthsBack)
+{
+    ASSERT_TRUE(load());
+    choose(u"ID"_s, u"FitAllColumns"_s);
+    QList<int> before;
+    for (int col = 1; col <= AllColumns.size(); ++col)
+        before.append(width(col));
+    click(u"CompressView"_s);
+    const int share = width(1);
+    EXPECT_EQ(width(2), share);
+    EXPECT_NE(share, before.front());
+    click(u"CompressView"_s);
+    for (int col = 1; col <= AllColumns.size(); ++col)
+        EXPECT_EQ(width(col), before.at(col - 1)) << col;
+    click(u"CompressView"_s);
+    EXPECT_EQ(width(1), share);
+    grid.SeeCompressView();
+    EXPECT_EQ(width(1), share) << "a host that fits twice gets the same";
+}
+
+TEST_F(ColumnMenu, FreezesUpToTheColumnAndThaws)
+{
+    ASSERT_TRUE(load());
+    grid.resize(500, 400);
+    choose(u"名称"_s, u"FreezeColumns"_s);
+    table->horizontalScrollBar()->setValue(table->horizontalScrollBar()->maximum());
+    ASSERT_GT(table->horizontalScrollBar()->value(), 0);
+    EXPECT_EQ(table->visualRect(table->model()->index(0, 0)).left(), 0);
+    table->horizontalScrollBar()->setValue(0);
+    open(u"名称"_s);
+    EXPECT_TRUE(entry(u"FreezeColumns"_s)->isChecked());
+    menu()->close();
+    choose(u"名称"_s, u"FreezeColumns"_s);
+    table->horizontalScrollBar()->setValue(table->horizontalScrollBar()->maximum());
+    EXPECT_LT(table->visualRect(table->model()->index(0, 0)).left(), 0);
+}
+
+TEST_F(ColumnMenu, MovedColumnsStayWhereTheyAreWhenRecordsChange)
+{
+    ASSERT_TRUE(load());
+    header()->moveSection(0, 2);
+    const QStringList moved{u"名称"_s, u"Unit Price"_s, u"ID"_s, u"城市"_s, u"日期"_s, u"停用"_s, u"图片"_s};
+    ASSERT_EQ(shownOrder(), moved);
+    choose(u"城市"_s, u"SortAscending"_s);
+    EXPECT_EQ(shownOrder(), moved);
+    EXPECT_EQ(grid.GetBindFieldIndex(u"ID"_s), 1);
+    choose(u"日期"_s, u"HideColumn"_s);
+    EXPECT_EQ(shownOrder(),
+              QStringList({u"名称"_s, u"Unit Price"_s, u"ID"_s, u"城市"_s, u"停用"_s, u"图片"_s}));
+    // Other fields come in their own order, and so do these when they come again.
+    ASSERT_TRUE(load(u"SELECT ID,商品 FROM 订单"_s, {}));
+    ASSERT_TRUE(load());
+    EXPECT_EQ(shownOrder(), PartColumns);
+}
+
+TEST_F(ColumnMenu, OpensByKeysAndGoesOnByKeys)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 4);
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_Down, Qt::ControlModifier | Qt::AltModifier);
+    ASSERT_TRUE(menu()->isVisible());
+    QTest::keyClick(menu(), Qt::Key_Down);
+    QTest::keyClick(menu(), Qt::Key_Return);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY 城市 DESC"_s)) << qUtf8Printable(statement());
+}
+
+TEST_F(ColumnMenu, IsTheEndOfThePopupOnAHeading)
+{
+    ASSERT_TRUE(load());
+    QStringList fixed;
+    auto *popup = grid.findChild<QMenu *>(u"PopMnuData"_s);
+    for (const QAction *action : popup->actions())
+        fixed.append(action->objectName());
+    QStringList shown;
+    {
+        WindowAnswers answers;
+        answers.clickInMenu(u"ColumnMenuSortDescending"_s);
+        QObject::connect(popup, &QMenu::aboutToHide, &grid, [&] {
+            if (shown.isEmpty()) {
+                for (const QAction *action : popup->actions())
+                    shown.append(action->objectName());
+            }
+        });
+        QTest::mouseClick(header()->viewport(), Qt::RightButton, {}, heading(u"城市"_s));
+        EXPECT_TRUE(answers.wasMenuShown());
+    }
+    EXPECT_EQ(shown.first(fixed.size()), fixed);
+    EXPECT_GT(shown.size(), fixed.size() + 8);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY 城市 DESC"_s)) << qUtf8Printable(statement());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(popup->actions().size(), fixed.size());
+}
+
+TEST_F(ColumnMenu, IsNotThereWhileTheToolbarIsDisabled)
+{
+    ASSERT_TRUE(load());
+    table->setFocus();
+    grid.PutDisplayEable(false);
+    QTest::keyClick(table, Qt::Key_Down, Qt::ControlModifier | Qt::AltModifier);
+    QTest::mouseClick(header()->viewport(), Qt::LeftButton, {}, arrow(u"城市"_s));
+    EXPECT_FALSE(menu()->isVisible());
+}
+
+TEST_F(ColumnMenu, AClickOnTheHeadingNeverSorts)
+{
+    ASSERT_TRUE(load());
+    const QString before = statement();
+    QSignalSpy heads(&grid, &KOVAVSFDataGrid::HeadClick);
+    QTest::mouseClick(header()->viewport(), Qt::LeftButton, {}, heading(u"城市"_s));
+    EXPECT_EQ(heads.count(), 1);
+    open(u"城市"_s);
+    EXPECT_EQ(heads.count(), 1);
+    EXPECT_EQ(statement(), before);
+}
+
+TEST_F(ColumnMenu, TheFullScreenViewerHasItToo)
+{
+    ASSERT_TRUE(load());
+    header()->moveSection(0, 2);
+    const QStringList moved = shownOrder();
+    {
+        WindowAnswers dialogs({[&](QDialog &viewer) {
+            auto &shown = part<QTableView>(viewer, "vsfgShowData");
+            QStringList names;
+            for (int visual = 0; visual < shown.horizontalHeader()->count(); ++visual)
+                names.append(shown.model()
+                                 ->headerData(shown.horizontalHeader()->logicalIndex(visual), Qt::Horizontal)
+                                 .toString());
+            EXPECT_EQ(names, moved);
+            QHeaderView &headings = *shown.horizontalHeader();
+            const QPoint arrow(headings.sectionViewportPosition(3) + headings.sectionSize(3) - 8,
+                               headings.height() / 2);
+            QTest::mouseClick(headings.viewport(), Qt::LeftButton, {}, arrow);
+            auto &opened = part<QMenu>(viewer, "ColumnMenu");
+            EXPECT_TRUE(opened.isVisible());
+            QTest::keyClick(&opened, Qt::Key_Down);
+            QTest::keyClick(&opened, Qt::Key_Return);
+            EXPECT_EQ(shown.model()->headerData(3, Qt::Horizontal, Qt::AccessibleTextRole).toString(),
+                      u"城市，第 1 降序"_s);
+            shown.horizontalHeader()->moveSection(0, 3);
+            viewer.accept();
+        }});
+        click(u"FullScreen"_s);
+    }
+    EXPECT_EQ(spoken(u"城市"_s), u"城市，第 1 降序"_s);
+    EXPECT_EQ(shownOrder(),
+              QStringList({u"Unit Price"_s, u"ID"_s, u"城市"_s, u"名称"_s, u"日期"_s, u"停用"_s, u"图片"_s}));
+}
+
+TEST_F(ColumnMenu, AHostMayDeleteTheControlFromACommandOfTheMenu)
+{
+    auto *control = new KOVAVSFDataGrid;
+    control->resize(900, 400);
+    control->show();
+    control->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(control));
+    control->PutConnectionString(database.connectionString());
+    control->PutSQLShow(statementOfAll());
+    ASSERT_TRUE(control->IsLoadData());
+    auto *view = control->findChild<QTableView *>(u"vsfgDataGrid"_s);
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_Down, Qt::ControlModifier | Qt::AltModifier);
+    const QPointer<QWidget> opened = QApplication::activePopupWidget();
+    ASSERT_TRUE(opened);
+    EXPECT_EQ(opened->objectName(), u"ColumnMenu"_s);
+    const QPointer<KOVAVSFDataGrid> alive(control);
+    QObject::connect(control, &KOVAVSFDataGrid::RecordsetChanged, control, [control] { delete control; });
+    QTest::keyClick(opened, Qt::Key_Return);
+    EXPECT_FALSE(alive);
+}

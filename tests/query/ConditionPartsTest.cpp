@@ -1,0 +1,114 @@
+// Conditions taken apart and put into words.
+#include "query/conditions/ConditionParts.h"
+
+#include <gtest/gtest.h>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Case
+{
+    const char *name;
+    QString condition;
+    QStringList words;       // of each part
+    QStringList fields = {}; // of the first part
+};
+
+void PrintTo(const Case &test, std::ostream *out)
+{
+    *out << test.name;
+}
+
+struct ConditionWords : testing::TestWithParam<Case>
+{
+};
+
+const Case cases[] = {
+    {"Number", u"ID > 3"_s, {u"ID > 3"_s}, {u"ID"_s}},
+    {"Two", u"ID >= 3 AND 城市 = '大连'"_s, {u"ID ≥ 3"_s, u"城市 = “大连”"_s}, {u"ID"_s}},
+    {"Brackets", u"((ID <> 3) AND (价格 <= 5))"_s, {u"ID ≠ 3"_s, u"价格 ≤ 5"_s}, {u"ID"_s}},
+    {"Or", u"(ID = 1 OR ID = 2) AND 停用 <> 0"_s, {u"ID = 1 或者 ID = 2"_s, u"停用 ≠ 0"_s}, {u"ID"_s}},
+    {"OrAbove",
+     u"ID = 1 OR ID = 2 AND 停用 <> 0"_s,
+     {u"ID = 1 或者 ID = 2 并且 停用 ≠ 0"_s},
+     {u"ID"_s, u"停用"_s}},
+    {"Contains", u"名称 LIKE '%茶%'"_s, {u"名称 包含 “茶”"_s}},
+    {"Begins", u"名称 like '绿%'"_s, {u"名称 开头是 “绿”"_s}},
+    {"Ends", u"名称 LIKE '%茶'"_s, {u"名称 结尾是 “茶”"_s}},
+    {"Equals", u"名称 like '绿茶'"_s, {u"名称 = “绿茶”"_s}},
+    {"OnlyPercent", u"名称 like '%'"_s, {u"名称 结尾是 “”"_s}},
+    {"Escaped", u"名称 LIKE '%50!%%' ESCAPE '!'"_s, {u"名称 包含 “50%”"_s}},
+    {"LikeNumber", u"ID like 7"_s, {u"ID = 7"_s}},
+    {"Cast", u"CAST(名称 AS TEXT) LIKE '%茶%'"_s, {u"名称 包含 “茶”"_s}, {u"名称"_s}},
+    {"Function", u"ABS(价格) > 5"_s, {u"ABS(价格) > 5"_s}, {u"价格"_s}},
+    {"Sum", u"价格 * 2 > 5"_s, {u"价格 * 2 > 5"_s}, {u"价格"_s}},
+    {"Day", u"date(日期) >= '2024-01-31'"_s, {u"日期 ≥ “2024-01-31”"_s}, {u"日期"_s}},
+    {"Moment",
+     u"COALESCE(REPLACE(strftime('%Y-%m-%d %H:%M:%f', t), '.000', ''), t) = '2024'"_s,
+     {u"t = “2024”"_s},
+     {u"t"_s}},
+    {"Quoted", u"商品.[Unit Price] > 12.5"_s, {u"Unit Price > 12.5"_s}, {u"Unit Price"_s}},
+    {"Apostrophe", u"名称 = 'O''Neil 红茶'"_s, {u"名称 = “O'Neil 红茶”"_s}},
+    {"Null", u"日期 IS NULL AND 城市 is not null"_s, {u"日期 为空"_s, u"城市 不为空"_s}},
+    {"List", u"城市 IN ('大连', '北京')"_s, {u"城市 在列表中 '大连', '北京'"_s}},
+    {"NotIn", u"城市 NOT IN ('大连')"_s, {u"城市 NOT IN ('大连')"_s}},
+    {"Between", u"ID BETWEEN 1 AND 5 AND 停用 = 0"_s, {u"ID BETWEEN 1 AND 5"_s, u"停用 = 0"_s}},
+    {"Case",
+     u"CASE WHEN ID = 1 AND ID = 2 THEN 1 ELSE 0 END = 1"_s,
+     {u"CASE WHEN ID = 1 AND ID = 2 THEN 1 ELSE 0 END = 1"_s}},
+    {"Not", u"NOT (ID = 1)"_s, {u"不满足 ID = 1"_s}},
+    {"Everywhere",
+     u"([A].[a] LIKE '%茶%' OR [A].[b] LIKE '%茶%' OR [A].[c] LIKE '%茶%')"_s,
+     {u"3 个字段之一 包含 “茶”"_s},
+     {u"a"_s, u"b"_s, u"c"_s}},
+    {"AndInText", u"名称 = 'A AND B' AND ID = 1"_s, {u"名称 = “A AND B”"_s, u"ID = 1"_s}},
+    {"Exists",
+     u"EXISTS (SELECT 1 FROM B WHERE B.x = 1 AND B.y = 2)"_s,
+     {u"EXISTS (SELECT 1 FROM B WHERE B.x = 1 AND B.y = 2)"_s}},
+};
+
+} // namespace
+
+TEST_P(ConditionWords, SayWhatEachPartAsksFor)
+{
+    const SqlScanner statement(u"SELECT * FROM T WHERE "_s + GetParam().condition, SqlDialect::Standard,
+                               {.brackets = true});
+    const TextRange where = SelectParts::of(statement).where;
+    ASSERT_FALSE(where.isEmpty());
+    QStringList words;
+    QStringList fields;
+    for (const TextRange &part : conditionParts(statement, {where.begin + 1, where.end})) {
+        if (words.isEmpty())
+            fields = fieldsOfCondition(statement, part);
+        words.append(conditionInWords(statement, part));
+    }
+    EXPECT_EQ(words, GetParam().words) << words.join(u" | "_s).toStdString();
+    if (!GetParam().fields.isEmpty()) {
+        EXPECT_EQ(fields, GetParam().fields) << fields.join(u" | "_s).toStdString();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ConditionWords, testing::ValuesIn(cases),
+                         [](const auto &test) { return std::string(test.param.name); });
+
+// What the user types by himself may end anywhere.
+TEST(ConditionParts, StayWithinABrokenCondition)
+{
+    const QString whole =
+        u"((名称 LIKE '%茶%' ESCAPE '!' AND ID >= 3 OR (城市 IN ('大连')) AND NOT x IS NOT NULL"_s;
+    for (qsizetype length = 1; length <= whole.size(); ++length) {
+        const SqlScanner statement(u"SELECT * FROM T WHERE "_s + whole.first(length), SqlDialect::Standard,
+                                   {.brackets = true});
+        const TextRange where = SelectParts::of(statement).where;
+        if (where.end - where.begin < 2)
+            continue;
+        const TextRange condition{where.begin + 1, where.end};
+        for (const TextRange &part : conditionParts(statement, condition)) {
+            EXPECT_GE(part.begin, condition.begin);
+            EXPECT_LE(part.end, condition.end);
+            conditionInWords(statement, part);
+        }
+    }
+}
