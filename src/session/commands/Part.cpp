@@ -40,6 +40,7 @@ const Command::Registration registration({
     .needs = Needs::Records,
     .record = Record::IsListedAgain,
     .run = showPartFields,
+    .whyNot = [](Session &session) { return session.whyNoHistory(); },
 });
 
 } // namespace
