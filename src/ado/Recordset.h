@@ -111,7 +111,8 @@ public:
 
     // Random access for views: `record` is 1…RecordCount, `column` is 0-based; neither moves nor notifies.
     // They show saved values, not a pending edit. Text is as ValueText() gives it. Outside the range (or
-    // closed) the answers are empty, Null and true.
+    // closed) the answers are empty, Null and true. The first two throw dbErrFailed when there is no memory
+    // for a long value.
     QString CellText(qint64 record, int column) const;
     QVariant CellValue(qint64 record, int column) const;
     bool IsNull(qint64 record, int column) const;
