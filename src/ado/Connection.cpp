@@ -3,6 +3,7 @@
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
 #include "ado/Texts.h"
+#include "ado/connection/Waiting.h"
 #include "ado/providers/Provider.h"
 
 #include <new>
@@ -76,7 +77,7 @@ QString Connection::EngineName() const
 
 std::vector<FieldInfo> Connection::Describe(const QString &sql) const
 {
-    return session()->prepare(sql, Access::ReadOnly, [] { return true; })->fields();
+    return session()->prepare(sql, Access::ReadOnly, &Waiting::shouldContinue)->fields();
 }
 
 const std::shared_ptr<Session> &Connection::session() const

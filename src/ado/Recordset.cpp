@@ -1,6 +1,7 @@
 #include "ado/Connection.h"
 #include "ado/Error.h"
 #include "ado/Texts.h"
+#include "ado/connection/Waiting.h"
 #include "ado/providers/Provider.h"
 #include "ado/recordset/RecordsetPrivate.h"
 
@@ -29,9 +30,10 @@ Snapshot Recordset::Private::read(Session &session, const QString &statement)
     const auto report = progress;
     const auto query =
         session.prepare(statement, openedLockType == adLockReadOnly ? Access::ReadOnly : Access::ReadWrite,
-                        [&] { return !report || report(0); });
+                        [&] { return report ? report(0) : Waiting::shouldContinue(); });
     RowStore store(query->columns(), memoryLimit);
-    query->fetch(store, [&] { return !report || report(store.rows()); });
+    query->fetch(store,
+                 [&](qint64 rowsRead) { return report ? report(rowsRead) : Waiting::shouldContinue(); });
     editor.emplace(query->takeWriter(), query->whyReadOnly());
     return Snapshot(query->fields(), std::move(store));
 }

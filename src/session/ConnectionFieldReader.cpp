@@ -8,10 +8,18 @@
 #include "query/SharedValues.h"
 #include "query/derivation/SqlText.h"
 #include "session/ResultSet.h"
+#include "sql/SimpleSelect.h"
+#include "sql/SqlScanner.h"
 
+#include <QtCore/QRegularExpression>
+#include <QtCore/QStringList>
+
+#include <algorithm>
 #include <exception>
 
 namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,6 +29,27 @@ std::vector<SourceField> describe(const ADODB::Connection &connection, const QSt
     for (const ADODB::FieldInfo &info : connection.Describe(statement))
         fields.push_back({info.name, info.type, info.baseTable});
     return fields;
+}
+
+// What a statement shows when it picks plain columns of one table: the table and the names, `*` for all of
+// them. No names for any other statement.
+struct PlainColumns
+{
+    QString table;
+    QStringList names;
+};
+
+PlainColumns plainColumns(const QString &statement)
+{
+    static const QRegularExpression form(
+        uR"(^\s*SELECT\s((?:\s*(?:\*|\w+|"\w+"|`\w+`|\[\w+\])\s*,)*\s*(?:\*|\w+|"\w+"|`\w+`|\[\w+\])\s*)\sFROM\s)"_s,
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
+    static const QRegularExpression quotes(uR"([\s"`\[\]])"_s);
+    const auto match = form.match(statement);
+    const SimpleSelect select = SimpleSelect::parse(SqlScanner(statement));
+    if (!match.hasMatch() || select.fault != SimpleSelect::Fault::None)
+        return {};
+    return {select.tableText, match.captured(1).remove(quotes).split(u',')};
 }
 
 } // namespace
@@ -63,6 +92,10 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
     const std::pair key(connectionString, statement);
     if (const auto known = m_known.constFind(key); known != m_known.constEnd())
         return *known;
+    if (const auto derived = fromKnown(connectionString, statement)) {
+        m_known.insert(key, *derived);
+        return derived;
+    }
     try {
         const ADODB::Connection &connection = connect(connectionString);
         std::vector<SourceField> fields;
@@ -79,6 +112,29 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
         m_failure = QString::fromUtf8(error.what());
         return {};
     }
+}
+
+// Each way to the server is a wait, so what other statements have shown is not asked for again.
+std::optional<std::vector<SourceField>> ConnectionFieldReader::fromKnown(const QString &connectionString,
+                                                                         const QString &statement) const
+{
+    const PlainColumns wanted = plainColumns(statement);
+    if (wanted.names.isEmpty() || wanted.names.contains(u"*"_s))
+        return {};
+    for (auto known = m_known.begin(); known != m_known.end(); ++known) {
+        const PlainColumns shown = plainColumns(known.key().second);
+        if (known.key().first != connectionString || shown.names.isEmpty() || shown.table != wanted.table)
+            continue;
+        std::vector<SourceField> fields;
+        for (const QString &name : wanted.names) {
+            const auto field = std::ranges::find(known.value(), name, &SourceField::name);
+            if (field != known.value().end())
+                fields.push_back(*field);
+        }
+        if (fields.size() == static_cast<std::size_t>(wanted.names.size()))
+            return fields;
+    }
+    return {};
 }
 
 void ConnectionFieldReader::remember(const QString &connectionString, const QString &statement,

@@ -42,6 +42,8 @@ public:
 private:
     // Throws ADODB::Error, and what a connection factory of the host's throws.
     ADODB::Connection &connect(const QString &connectionString);
+    std::optional<std::vector<SourceField>> fromKnown(const QString &connectionString,
+                                                      const QString &statement) const;
     void closeOwn();
 
     const ResultSet &m_result;

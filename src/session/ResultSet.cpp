@@ -5,6 +5,7 @@
 #include "ado/ConnectionFactory.h"
 #include "ado/Recordset.h"
 #include "ado/connection/EngineOf.h"
+#include "ado/connection/Waiting.h"
 #include "query/SharedValues.h"
 
 #include <QtCore/QCoreApplication>
@@ -43,6 +44,7 @@ ResultSet::Opened ResultSet::open(const QString &connectionString, const QString
 
     recordset->PutCursorLocation(ADODB::adUseClient);
     connection->PutConnectionString(connectionString);
+    const ADODB::Waiting waiting([&] { return !progress || progress(0); });
     connection->Open();
     recordset->SetProgress(progress);
     recordset->Open(statement, connection, ADODB::adOpenKeyset, ADODB::adLockOptimistic, ADODB::adCmdText);

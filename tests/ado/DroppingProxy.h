@@ -1,9 +1,10 @@
 #pragma once
 
+#include "servers/LoopbackProxy.h"
+
 #include <QtCore/QByteArray>
 
 #include <atomic>
-#include <thread>
 
 namespace AdoTest {
 
@@ -15,25 +16,21 @@ public:
     enum When { BeforeTheServerHears, AfterTheServerAnswered };
 
     explicit DroppingProxy(int serverPort);
-    ~DroppingProxy();
     Q_DISABLE_COPY_MOVE(DroppingProxy)
 
-    int port() const { return m_port; }
+    int port() const { return m_proxy.port(); }
     // From now on it waits for COMMIT.
     void dropAtCommit(When when);
     bool hasDropped() const { return m_dropped; }
 
 private:
-    void run(const std::stop_token &stop);
-    void serve(int client, int server, const std::stop_token &stop);
+    bool passes(KovaTest::LoopbackProxy::From from, const QByteArray &said);
 
-    int m_serverPort;
-    int m_listener;
-    int m_port = 0;
     std::atomic<bool> m_armed = false;
     std::atomic<When> m_when = BeforeTheServerHears;
     std::atomic<bool> m_dropped = false;
-    std::jthread m_thread;
+    std::atomic<bool> m_dropsAnswer = false;
+    KovaTest::LoopbackProxy m_proxy;
 };
 
 } // namespace AdoTest

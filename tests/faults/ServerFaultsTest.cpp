@@ -131,9 +131,8 @@ TEST_P(ServerFaults, ResetBeforeADeletion)
     endOthers();
     hands->messages.answerNext(QMessageBox::Yes);
     hands->choose(9, 3);
-    EXPECT_EQ(hands->messages.texts().size(), 2) << qUtf8Printable(hands->messages.texts().join(u'|'));
-    expectAsLoaded();
-    EXPECT_EQ(ask(u"SELECT count(*) FROM faults"_s), u"1000"_s);
+    EXPECT_EQ(hands->rows(), 999);
+    EXPECT_EQ(ask(u"SELECT count(*) FROM faults"_s), u"999"_s);
 
     // What the engine needs is not forgotten with the connection.
     hands->messages.clear();

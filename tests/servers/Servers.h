@@ -11,7 +11,7 @@ QString serverConnection(const char *variable);
 // The password in all of them: it may stand in nothing that anybody sees.
 QString markerPassword();
 
-// `what` is start, stop or kill, `name` postgresql, pgbouncer or mariadb; see the script server-control.
+// `what` is start, stop, kill, freeze or thaw, `name` postgresql, pgbouncer or mariadb; see the script server-control.
 // Fails the test when it can't be done.
 void controlServer(const char *what, const char *name);
 

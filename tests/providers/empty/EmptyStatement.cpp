@@ -16,11 +16,11 @@ EmptyStatement::EmptyStatement(qint64 rows) : m_rows(rows), m_fields(2)
     m_fields[1].type = adVarWChar;
 }
 
-void EmptyStatement::fetch(RowStore &rows, const std::function<bool()> &shouldContinue)
+void EmptyStatement::fetch(RowStore &rows, const std::function<bool(qint64)> &shouldContinue)
 {
     constexpr qint64 rowsBetweenQuestions = 1000; // well below 20 ms
     for (qint64 row = 1; row <= m_rows; ++row) {
-        if (row % rowsBetweenQuestions == 0 && !shouldContinue())
+        if (row % rowsBetweenQuestions == 0 && !shouldContinue(rows.rows()))
             throw Error(dbErrCancelled, Texts::cancelled());
         rows.addInteger(row);
         rows.addText(QByteArray::number(row));

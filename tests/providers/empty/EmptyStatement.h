@@ -11,7 +11,7 @@ public:
 
     const std::vector<FieldInfo> &fields() const override { return m_fields; }
     int columns() const override { return static_cast<int>(m_fields.size()); }
-    void fetch(RowStore &rows, const std::function<bool()> &shouldContinue) override;
+    void fetch(RowStore &rows, const std::function<bool(qint64)> &shouldContinue) override;
     std::unique_ptr<RowWriter> takeWriter() override { return nullptr; }
     QString whyReadOnly() const override;
 

@@ -37,6 +37,8 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         // without them could then hold another one.
         engine.beginReading = u"BEGIN READ ONLY; SET LOCAL standard_conforming_strings = on"_s;
         engine.endReading = u"ROLLBACK"_s;
+        // A cursor is planned for its first tenth otherwise.
+        engine.planForAllRows = u"SET LOCAL cursor_tuple_fraction = 1.0"_s;
         engine.explain = u"EXPLAIN "_s;
         engine.limitLocks = u"SET LOCAL lock_timeout = %1"_s;
         engine.lockRow = u" FOR UPDATE"_s;
@@ -52,6 +54,7 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         engine.endReading = u"ROLLBACK"_s;
         engine.lockRow = u" FOR UPDATE"_s;
         engine.hasOldTables = true;
+        engine.tellsLossAtOnce = false;
         engine.newKey = u"SELECT LAST_INSERT_ID()"_s;
         break;
     case Kind::Sqlite:

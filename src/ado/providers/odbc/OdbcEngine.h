@@ -25,8 +25,11 @@ struct OdbcEngine
     // itself keeps functions in a query from that (SQL Server, Oracle) or knows no such thing.
     QString beginReading;
     QString endReading;
-    // Before a query: the statement that takes what the query needs and runs nothing. Empty where a query can
-    // be stopped while it is prepared.
+    // After beginReading: has the engine plan queries for all their rows, as they are read. Not every engine
+    // that goes by the name knows it.
+    QString planForAllRows;
+    // Before a query that somebody else's lock holds up: the statement that takes what the query needs and
+    // runs nothing. Empty where a query can be stopped while it is prepared.
     QString explain;
     // Has the server itself end a wait for a lock after %1 milliseconds of this transaction, for calls that
     // the driver can't stop; empty where there are none.
@@ -48,6 +51,8 @@ struct OdbcEngine
     // Within a block of rows, the driver gives single values once more and then fetches on where it was. Some
     // claim that and lose rows instead, so only those count that were tried.
     bool asksAgain = false;
+    // The driver tells a loss that it knows of without asking the server.
+    bool tellsLossAtOnce = true;
     // The driver turns dates that it can't hold (infinity, before Christ) into others.
     bool bendsDates = false;
 
@@ -55,6 +60,8 @@ struct OdbcEngine
     // By a name of the engine or of its driver.
     static Kind kindNamed(const QString &name);
 
+    // Its databases are on a server, and the same ones for each connection of a login.
+    bool isServer() const { return kind != Kind::Other && kind != Kind::Sqlite; }
     // `name` in the engine's quotes.
     QString quoted(const QString &name) const;
 };

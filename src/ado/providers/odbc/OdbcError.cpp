@@ -63,11 +63,14 @@ void refineSqlite(Diagnosis &diagnosis)
 
 // The native numbers by which MariaDB, MySQL and their drivers say under a general state that the server went
 // away: killed, gone, lost, and that nobody reads any more what is written.
-bool isLoss(const Diagnosis &diagnosis)
+bool isLoss(const Diagnosis &diagnosis, const OdbcConnection &connection)
 {
     static constexpr SQLINTEGER numbers[] = {1927, 2006, 2013, 5014};
-    return diagnosis.state.startsWith("08"_L1) || diagnosis.state.startsWith("57P0"_L1) ||
-           std::find(std::begin(numbers), std::end(numbers), diagnosis.native) != std::end(numbers);
+    if (diagnosis.state.startsWith("57P0"_L1) ||
+        std::find(std::begin(numbers), std::end(numbers), diagnosis.native) != std::end(numbers))
+        return true;
+    // PostgreSQL's driver gives this state to failures of its own in a connection that still works.
+    return diagnosis.state.startsWith("08"_L1) && connection.isDead().value_or(true);
 }
 
 bool startsWithAny(const QString &state, std::initializer_list<QLatin1StringView> starts)
@@ -96,7 +99,7 @@ void throwOdbcError(SQLSMALLINT handleType, SQLHANDLE handle, OdbcConnection &co
         fail(dbErrFailed, work == OdbcWork::Connecting ? Texts::connectTimedOut() : Texts::timedOut());
     if (work == OdbcWork::Connecting)
         fail(dbErrFailed, Texts::cannotConnect());
-    if (isLoss(diagnosis)) {
+    if (isLoss(diagnosis, connection)) {
         connection.setLost();
         fail(dbErrFailed, Texts::connectionLost());
     }

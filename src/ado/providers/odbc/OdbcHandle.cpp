@@ -45,8 +45,10 @@ void OdbcConnection::release()
 {
     if (m_connected) {
         // A driver refuses to disconnect within a transaction.
-        SQLEndTran(SQL_HANDLE_DBC, m_connection, SQL_ROLLBACK);
-        SQLDisconnect(m_connection);
+        if (!succeeded(SQLDisconnect(m_connection))) {
+            SQLEndTran(SQL_HANDLE_DBC, m_connection, SQL_ROLLBACK);
+            SQLDisconnect(m_connection);
+        }
     }
     if (m_connection)
         SQLFreeHandle(SQL_HANDLE_DBC, m_connection);
@@ -66,6 +68,24 @@ void OdbcConnection::connect(const QString &text, int timeoutInSeconds, const QS
     m_connected = succeeded(code);
     if (!m_connected)
         throwOdbcError(SQL_HANDLE_DBC, m_connection, *this, OdbcWork::Connecting);
+}
+
+std::optional<bool> OdbcConnection::isDead() const
+{
+    SQLUINTEGER dead = SQL_CD_FALSE;
+    const SQLRETURN code = SQLGetConnectAttrW(m_connection, SQL_ATTR_CONNECTION_DEAD, &dead, 0, nullptr);
+    return succeeded(code) ? std::optional(dead == SQL_CD_TRUE) : std::nullopt;
+}
+
+void OdbcConnection::setIdle()
+{
+    m_untried = true;
+    m_idleSince = std::chrono::steady_clock::now();
+}
+
+std::chrono::steady_clock::duration OdbcConnection::idleTime() const
+{
+    return std::chrono::steady_clock::now() - m_idleSince;
 }
 
 QString OdbcConnection::info(SQLUSMALLINT what) const

@@ -2,11 +2,17 @@
 
 #include "ado/providers/odbc/OdbcApi.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QStringList>
 
+#include <atomic>
+#include <chrono>
 #include <memory>
+#include <optional>
 
 namespace ADODB {
+
+struct OdbcTable;
 
 // The environment and connection handles of one connection. Its statements share it, so that a connection
 // that is closed while one of them still reads ends when that one does.
@@ -29,6 +35,21 @@ public:
     // Set when the server went away; nothing can be asked of it any more.
     bool isLost() const { return m_lost; }
     void setLost() { m_lost = true; }
+    // What the driver says about that; nothing where it doesn't know.
+    std::optional<bool> isDead() const;
+    // Whether another command may have it; see OdbcPool.
+    bool isFit() const { return m_fit && !m_lost; }
+    void setUnfit() { m_fit = false; }
+    // It was idle, and nothing has been done with it since.
+    bool isUntried() const { return m_untried; }
+    void setTried() { m_untried = false; }
+    void setIdle();
+    std::chrono::steady_clock::duration idleTime() const;
+    // Whether the server knows OdbcEngine::planForAllRows; true until it has refused it.
+    bool plansForAllRows() const { return m_plansForAllRows; }
+    void setPlansForAllRows(bool does) { m_plansForAllRows = does; }
+    // What the catalogue said about the tables in this session, by their names in a statement.
+    QHash<QString, std::shared_ptr<const OdbcTable>> &tables() { return m_tables; }
     // How many OdbcReading there are.
     int readings() const { return m_readings; }
     void setReadings(int readings) { m_readings = readings; }
@@ -39,8 +60,13 @@ private:
     SQLHENV m_environment = SQL_NULL_HANDLE;
     SQLHDBC m_connection = SQL_NULL_HANDLE;
     bool m_connected = false;
-    bool m_lost = false;
-    int m_readings = 0;
+    std::atomic<bool> m_lost = false;
+    std::atomic<bool> m_fit = true;
+    bool m_untried = false;
+    std::chrono::steady_clock::time_point m_idleSince;
+    std::atomic<int> m_readings = 0;
+    bool m_plansForAllRows = true;
+    QHash<QString, std::shared_ptr<const OdbcTable>> m_tables;
     QStringList m_secrets;
 };
 

@@ -58,15 +58,18 @@ struct Default
     QStringView value;
 };
 
-// Without the first two the driver keeps a whole result in memory; without the last it gives other line ends
-// than the database holds. PostgreSQL's usual texts have no length, and VARCHAR may be as long as given here:
-// none of them is a long text, and none is cut.
+// Without the first two the driver keeps a whole result in memory; without LFConversion it gives other line
+// ends than the database holds. The last leaves out the savepoints that the driver puts around each
+// statement: they cost trips, and between two portions of a result over foreign tables they make it fail.
+// Without them nothing more can be done in a transaction in which something failed, and nothing is.
+// PostgreSQL's usual texts have no length, and VARCHAR may be as long as given here: none of them is a long
+// text, and none is cut.
 constexpr Default postgreSqlDefaults[] = {
     {u"UseDeclareFetch", u"B6", u"1"},       {u"Fetch", u"A7", u"5000"},
     {u"UseServerSidePrepare", u"C8", u"1"},  {u"BoolsAsChar", u"B9", u"0"},
     {u"TextAsLongVarchar", u"B7", u"0"},     {u"MaxVarcharSize", u"B0", u"10485760"},
     {u"UnknownsAsLongVarchar", u"B8", u"1"}, {u"ByteaAsLongVarBinary", u"C9", u"1"},
-    {u"LFConversion", u"C5", u"0"},
+    {u"LFConversion", u"C5", u"0"},          {u"Protocol", u"A1", u"7.4-0"},
 };
 
 // Without it the driver keeps a whole result in memory.

@@ -2,7 +2,11 @@
 
 #include "ado/Error.h"
 #include "ado/Texts.h"
+#include "ado/connection/Waiting.h"
 #include "ado/providers/odbc/OdbcHandle.h"
+#include "ado/providers/odbc/OdbcOperation.h"
+#include "ado/providers/odbc/OdbcPool.h"
+#include "ado/providers/odbc/OdbcWaiting.h"
 #include "ado/providers/odbc/reading/OdbcLongValue.h"
 #include "ado/providers/odbc/reading/OdbcStatement.h"
 
@@ -14,8 +18,15 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
 
-OdbcSession::OdbcSession(std::shared_ptr<OdbcConnection> connection, OdbcEngine engine, int commandTimeout)
-    : m_connection(std::move(connection)), m_engine(std::move(engine)), m_commandTimeout(commandTimeout)
+namespace {
+
+// Seconds for what nobody can cancel: ADO's.
+constexpr int limitOfUnwatched = 30;
+
+} // namespace
+
+OdbcSession::OdbcSession(std::shared_ptr<OdbcPool> pool, int commandTimeout)
+    : m_pool(std::move(pool)), m_engine(m_pool->engine()), m_commandTimeout(commandTimeout)
 {
 }
 
@@ -24,7 +35,12 @@ OdbcSession::~OdbcSession() = default;
 std::unique_ptr<Statement> OdbcSession::prepare(const QString &sql, Access access,
                                                 const std::function<bool()> &shouldContinue)
 {
-    return std::make_unique<OdbcStatement>(shared_from_this(), sql, access, shouldContinue);
+    const auto made = std::make_shared<std::shared_ptr<OdbcStatement>>();
+    const int limit = Waiting::isWatched() || access == Access::ReadWrite ? 0 : limitOfUnwatched;
+    OdbcOperation::run([session = shared_from_this(), sql, access,
+                        made] { *made = std::make_shared<OdbcStatement>(session, sql, access); },
+                       {[&](qint64) { return shouldContinue(); }, limit});
+    return std::make_unique<OdbcWaitingStatement>(shared_from_this(), std::move(*made));
 }
 
 QString OdbcSession::tableStatement(const QString &table) const
@@ -37,12 +53,14 @@ void OdbcSession::learnQuoting(const QString &sql)
     const bool matters = m_engine.dialect == SqlDialect::MySql && (sql.contains(u'\\') || sql.contains(u'['));
     if (!matters || m_knowsQuoting)
         return;
-    const OdbcHandle statement(connection());
-    statement.execute(u"SELECT @@sql_mode"_s);
-    statement.fetch();
     OdbcLongValue value;
     SQLLEN length = 0;
-    statement.check(value.read(statement, 0, OdbcTypes::Form::Text, length));
+    begin([&](const std::shared_ptr<OdbcConnection> &connection) {
+        const OdbcHandle statement(connection);
+        statement.execute(u"SELECT @@sql_mode"_s);
+        statement.fetch();
+        statement.check(value.read(statement, 0, OdbcTypes::Form::Text, length));
+    });
     const QStringList modes = QString::fromUtf16(reinterpret_cast<const char16_t *>(value.data()),
                                                  std::max<SQLLEN>(length, 0) / qsizetype{sizeof(char16_t)})
                                   .split(u',');
@@ -53,19 +71,64 @@ void OdbcSession::learnQuoting(const QString &sql)
 
 void OdbcSession::close()
 {
-    m_connection.reset();
+    // They end when the lock is released.
+    std::shared_ptr<OdbcConnection> kept;
+    std::shared_ptr<OdbcPool> pool;
+    const QMutexLocker lock(&m_mutex);
+    kept.swap(m_kept);
+    pool.swap(m_pool);
 }
 
 bool OdbcSession::isOpen() const
 {
-    return m_connection && !m_connection->isLost();
+    return pool() && !*m_isLost;
 }
 
-const std::shared_ptr<OdbcConnection> &OdbcSession::connection() const
+std::shared_ptr<OdbcPool> OdbcSession::pool() const
 {
-    if (!isOpen())
+    const QMutexLocker lock(&m_mutex);
+    return m_pool;
+}
+
+std::shared_ptr<OdbcConnection> OdbcSession::connection()
+{
+    OdbcOperation *const operation = OdbcOperation::current();
+    auto connection = operation ? operation->lease(this) : nullptr;
+    if (connection)
+        return connection;
+    const auto pool = this->pool();
+    if (!pool || *m_isLost)
         throw Error(adErrInvalidConnection, Texts::connectionClosed());
-    return m_connection;
+    {
+        const QMutexLocker lock(&m_mutex);
+        connection = m_kept;
+    }
+    if (!connection)
+        connection = pool->take(m_isLost);
+    if (operation)
+        operation->setLease(this, connection);
+    const QMutexLocker lock(&m_mutex);
+    if (!m_engine.isServer() && m_pool)
+        m_kept = connection;
+    return connection;
+}
+
+std::shared_ptr<OdbcConnection>
+OdbcSession::begin(const std::function<void(const std::shared_ptr<OdbcConnection> &)> &first)
+{
+    for (bool isAgain = false;; isAgain = true) {
+        const auto connection = this->connection();
+        try {
+            first(connection);
+            connection->setTried();
+            return connection;
+        } catch (const Error &) {
+            if (isAgain || !connection->isLost() || !connection->isUntried())
+                throw;
+        }
+        if (const auto pool = this->pool())
+            pool->dropIdle();
+    }
 }
 
 } // namespace ADODB

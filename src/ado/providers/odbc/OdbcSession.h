@@ -3,16 +3,21 @@
 #include "ado/providers/Provider.h"
 #include "ado/providers/odbc/OdbcEngine.h"
 
+#include <QtCore/QMutex>
+
+#include <atomic>
+
 namespace ADODB {
 
 class OdbcConnection;
+class OdbcPool;
 
-// An open ODBC connection in autocommit mode.
+// An open connection for its users. For each command it takes a session of the server from the pool.
 class OdbcSession : public Session, public std::enable_shared_from_this<OdbcSession>
 {
 public:
     // `commandTimeout` is how many seconds a statement may take until it gives its first rows, 0 for ever.
-    OdbcSession(std::shared_ptr<OdbcConnection> connection, OdbcEngine engine, int commandTimeout);
+    OdbcSession(std::shared_ptr<OdbcPool> pool, int commandTimeout);
     ~OdbcSession() override;
     Q_DISABLE_COPY_MOVE(OdbcSession)
 
@@ -23,15 +28,25 @@ public:
     void close() override;
     bool isOpen() const override;
 
-    // Throws 3709 once it is closed.
-    const std::shared_ptr<OdbcConnection> &connection() const;
+    // The server's session of the operation that is under way, for as long as somebody holds it, else another
+    // one. In autocommit mode. Throws 3709 once this is closed.
+    std::shared_ptr<OdbcConnection> connection();
+    // Begins a command with `first`. Where the server had ended the session while nobody used it, `first` is
+    // run once more in a new one.
+    std::shared_ptr<OdbcConnection>
+    begin(const std::function<void(const std::shared_ptr<OdbcConnection> &)> &first);
     const OdbcEngine &engine() const { return m_engine; }
     // Learns what the server's mode makes of the quotes in a statement, where that matters.
     void learnQuoting(const QString &sql);
     int commandTimeout() const { return m_commandTimeout; }
 
 private:
-    std::shared_ptr<OdbcConnection> m_connection;
+    std::shared_ptr<OdbcPool> pool() const;
+
+    mutable QMutex m_mutex;                 // guards m_pool and m_kept
+    std::shared_ptr<OdbcPool> m_pool;       // null once it is closed
+    std::shared_ptr<OdbcConnection> m_kept; // of a database that lives in its connection
+    std::shared_ptr<std::atomic<bool>> m_isLost = std::make_shared<std::atomic<bool>>(false);
     OdbcEngine m_engine;
     bool m_knowsQuoting = false;
     int m_commandTimeout;

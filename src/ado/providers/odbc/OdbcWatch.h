@@ -8,30 +8,22 @@ namespace ADODB {
 
 class OdbcHandle;
 
-// How long to wait for the server.
-struct OdbcPatience
-{
-    int timeout = 0; // seconds that one call may take, 0 for ever
-    std::function<bool()> shouldContinue = [] { return true; };
-};
-
-// Runs calls on one statement that can wait for the server, each in a thread of its own. Meanwhile it asks in
-// the caller's thread whether to go on, and when not, has the server stop.
+// Calls of an operation that can wait for the server and can be stopped by one statement; see OdbcOperation.
 class OdbcWatch
 {
 public:
-    // `statement` must live as long.
-    OdbcWatch(const OdbcHandle &statement, OdbcPatience patience);
+    // `statement` must live as long. One call may take `timeout` seconds, 0 for ever.
+    OdbcWatch(const OdbcHandle &statement, int timeout);
 
-    // Answers what the call answered, once it is through. Throws dbErrCancelled when it was stopped, and
-    // dbErrFailed when it took too long.
+    // Answers what the call answered. Throws dbErrCancelled when the operation was stopped, and dbErrFailed
+    // when it took too long.
     SQLRETURN run(const std::function<SQLRETURN()> &call) const;
-    // Asks once.
-    void ask() const;
+    // Reports how many rows have been read, and throws as run() does.
+    void ask(qint64 rows) const;
 
 private:
     const OdbcHandle &m_statement;
-    OdbcPatience m_patience;
+    int m_timeout;
 };
 
 } // namespace ADODB

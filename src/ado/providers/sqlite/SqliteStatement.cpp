@@ -146,10 +146,10 @@ void SqliteStatement::learnTypes()
     });
 }
 
-void SqliteStatement::fetch(RowStore &rows, const std::function<bool()> &shouldContinue)
+void SqliteStatement::fetch(RowStore &rows, const std::function<bool(qint64)> &shouldContinue)
 {
     sqlite3 *const db = sqlite3_db_handle(m_statement.get());
-    const ProgressWatch watch(db, shouldContinue);
+    const ProgressWatch watch(db, [&] { return shouldContinue(rows.rows()); });
     qint64 nextQuestion = 0;
     while (stepRow(m_statement)) {
         if (!m_untyped.empty())
@@ -157,7 +157,7 @@ void SqliteStatement::fetch(RowStore &rows, const std::function<bool()> &shouldC
         appendCurrentRow(m_statement.get(), rows);
         if (rows.bytesWritten() >= nextQuestion) {
             nextQuestion = rows.bytesWritten() + bytesPerQuestion;
-            if (!shouldContinue())
+            if (!shouldContinue(rows.rows()))
                 throw Error(dbErrCancelled, Texts::cancelled());
         }
     }

@@ -38,12 +38,12 @@ OdbcColumn columnOf(const FieldInfo &field, bool loose)
 } // namespace
 
 OdbcQuery::OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
-                     const QString &sql, const OdbcPatience &patience)
+                     const QString &sql, int timeout)
     : m_connection(connection), m_engine(engine), m_statement(std::make_unique<OdbcHandle>(connection))
 {
     // A comment behind the semicolon is another statement to some drivers.
     m_text = SqlScanner(sql, m_engine.dialect, m_engine.quoting).withoutSemicolon();
-    prepare(patience);
+    prepare(timeout);
     m_fields = describeColumns(*m_statement);
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
         m_types.push_back(declaredType(*m_statement, static_cast<int>(i)));
@@ -56,9 +56,9 @@ OdbcQuery::OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const Od
 OdbcQuery::~OdbcQuery() = default;
 
 // Also asks for the columns: there are drivers that prepare only when they have to.
-void OdbcQuery::prepare(const OdbcPatience &patience)
+void OdbcQuery::prepare(int timeout)
 {
-    m_statement->check(OdbcWatch(*m_statement, patience).run([this] {
+    m_statement->check(OdbcWatch(*m_statement, timeout).run([this] {
         SQLHSTMT const statement = m_statement->get();
         const SQLRETURN code = SQLPrepareW(statement, wide(m_text), static_cast<SQLINTEGER>(m_text.size()));
         SQLSMALLINT columns = 0;
@@ -89,9 +89,9 @@ void OdbcQuery::askForDatesAsText()
     m_statement->prepare(m_text);
 }
 
-void OdbcQuery::read(RowStore &rows, const OdbcPatience &patience)
+void OdbcQuery::read(RowStore &rows, int timeout)
 {
-    const OdbcWatch watch(*m_statement, patience);
+    const OdbcWatch watch(*m_statement, timeout);
     bool done = false;
     if (m_engine.asksAgain || OdbcBlockReader::haveRoom(m_columns)) {
         OdbcBlockReader reader(*m_statement, m_columns, m_engine.asksAgain);
@@ -118,7 +118,7 @@ bool OdbcQuery::readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &wat
     while (reader.fetch(watch)) {
         if (!reader.append(rows))
             return false;
-        watch.ask();
+        watch.ask(rows.rows());
     }
     return true;
 }

@@ -10,15 +10,14 @@ namespace ADODB {
 class OdbcConnection;
 class OdbcHandle;
 struct OdbcEngine;
-struct OdbcPatience;
 
 // A prepared statement that gives rows, read so that every value comes whole and as the server means it.
 class OdbcQuery
 {
 public:
-    // `patience` is that for preparing.
+    // `timeout` is how many seconds a call may take, 0 for ever.
     OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine, const QString &sql,
-              const OdbcPatience &patience);
+              int timeout);
     ~OdbcQuery();
     Q_DISABLE_COPY_MOVE(OdbcQuery)
 
@@ -30,10 +29,10 @@ public:
     const OdbcHandle &handle() const { return *m_statement; }
 
     // Runs it and appends all rows. See OdbcWatch for the errors.
-    void read(RowStore &rows, const OdbcPatience &patience);
+    void read(RowStore &rows, int timeout);
 
 private:
-    void prepare(const OdbcPatience &patience);
+    void prepare(int timeout);
     void askForDatesAsText();
     bool readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch);
 

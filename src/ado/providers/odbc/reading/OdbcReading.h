@@ -14,9 +14,17 @@ struct OdbcEngine;
 class OdbcReading
 {
 public:
-    OdbcReading(std::shared_ptr<OdbcConnection> connection, const OdbcEngine &engine);
+    // Whether the server is to fail after a moment, rather than wait, where somebody else's lock is in the
+    // way; only engines that can't be stopped in each such wait.
+    enum class Locks { Wait, FailSoon };
+    OdbcReading(std::shared_ptr<OdbcConnection> connection, const OdbcEngine &engine,
+                Locks locks = Locks::Wait);
     ~OdbcReading();
     Q_DISABLE_COPY_MOVE(OdbcReading)
+
+    // Lets a connection on which a statement failed read on, and wait for locks: until then an engine may
+    // refuse all others. False when something else reads on it as well, which this would end.
+    static bool renew(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine);
 
 private:
     std::shared_ptr<OdbcConnection> m_connection;

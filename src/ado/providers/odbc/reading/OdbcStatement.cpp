@@ -10,6 +10,8 @@
 #include "ado/rows/RowStore.h"
 #include "sql/SqlScanner.h"
 
+#include <QtCore/QScopeGuard>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
@@ -19,7 +21,7 @@ namespace {
 // Waits for the tables of a statement in a call that can be stopped, where preparing the statement can't be.
 // From then on they are this transaction's.
 void waitForTables(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
-                   const SqlScanner &statement, const OdbcPatience &patience)
+                   const SqlScanner &statement, int timeout)
 {
     if (engine.explain.isEmpty() || !isExplainable(statement))
         return;
@@ -29,50 +31,109 @@ void waitForTables(const std::shared_ptr<OdbcConnection> &connection, const Odbc
     handle.check(SQLNumParams(handle.get(), &parameters));
     if (parameters > 0) // which nobody gives; reported later
         return;
-    handle.check(OdbcWatch(handle, patience).run([&handle] { return SQLExecute(handle.get()); }));
+    handle.check(OdbcWatch(handle, timeout).run([&handle] { return SQLExecute(handle.get()); }));
+}
+
+// The server gave up a wait for somebody else's lock.
+bool isLockTimeout(const Error &error)
+{
+    return error.SQLState() == "55P03"_L1;
 }
 
 } // namespace
 
-OdbcStatement::OdbcStatement(std::shared_ptr<OdbcSession> session, const QString &sql, Access access,
-                             const std::function<bool()> &shouldContinue)
-    : m_session(std::move(session)), m_connection(m_session->connection())
+OdbcStatement::OdbcStatement(std::shared_ptr<OdbcSession> session, const QString &sql, Access access)
+    : m_session(std::move(session))
 {
     const OdbcEngine &engine = m_session->engine();
     m_session->learnQuoting(sql);
     const SqlScanner scanner(sql, engine.dialect, engine.quoting);
     refuseUnlessQuery(scanner);
-    m_reading.emplace(m_connection, engine);
-    const OdbcPatience patience{m_session->commandTimeout(), shouldContinue};
-    waitForTables(m_connection, engine, scanner, patience);
-    m_query = std::make_unique<OdbcQuery>(m_connection, engine, sql, patience);
-    m_fields = m_query->fields();
+    m_connection = m_session->begin([&](const std::shared_ptr<OdbcConnection> &connection) {
+        m_reading.emplace(connection, engine, OdbcReading::Locks::FailSoon);
+    });
+    const int timeout = m_session->commandTimeout();
+    try {
+        prepare(scanner, access, timeout);
+    } catch (const Error &error) {
+        if (!waitForLocks(error, sql, timeout))
+            throw;
+        prepare(scanner, access, timeout);
+    }
+}
+
+OdbcStatement::~OdbcStatement()
+{
+    release();
+}
+
+// What waits for a lock can't be stopped at every step, so at first it doesn't. Where that fails, the locks
+// are waited for at a step that can be.
+bool OdbcStatement::waitForLocks(const Error &error, const QString &sql, int timeout)
+{
+    const OdbcEngine &engine = m_session->engine();
+    if (m_hasWaited || !isLockTimeout(error) || !OdbcReading::renew(m_connection, engine))
+        return false;
+    m_hasWaited = true;
+    waitForTables(m_connection, engine, SqlScanner(sql, engine.dialect, engine.quoting), timeout);
+    return true;
+}
+
+void OdbcStatement::prepare(const SqlScanner &scanner, Access access, int timeout)
+{
+    const QString likely = access == Access::ReadWrite ? prepareLikely(scanner, timeout) : QString();
+    if (likely.isEmpty()) {
+        m_query = std::make_unique<OdbcQuery>(m_connection, m_session->engine(), scanner.sql(), timeout);
+        m_fields = m_query->fields();
+    }
     if (m_fields.empty())
         throw Error(dbErrPermissionDenied, Texts::notAQuery(), u"ODBC"_s, u"42000"_s);
     if (m_query->parameters() > 0)
         throw Error(dbErrInCommand, Texts::parameterInStatement().arg(u'?'), u"ODBC"_s, u"07002"_s);
     if (access == Access::ReadWrite)
-        prepareWriter(scanner, patience);
+        prepareWriter(scanner, likely, timeout);
     else
         m_whyReadOnly = Texts::openedReadOnly();
+    m_columns = static_cast<int>(m_query->fields().size());
+    m_text = scanner.sql();
 }
 
-OdbcStatement::~OdbcStatement() = default;
-
-int OdbcStatement::columns() const
+// Where the table is known already, the statement with the hidden key is prepared at once. Empty when it is
+// not, or turns out to be another one.
+QString OdbcStatement::prepareLikely(const SqlScanner &scanner, int timeout)
 {
-    return static_cast<int>(m_query->fields().size());
+    std::size_t shown = 0;
+    std::size_t all = 0;
+    const QString likely =
+        OdbcTarget::likelyStatement(*m_connection, m_session->engine(), scanner, shown, all);
+    if (likely.isEmpty())
+        return {};
+    try {
+        m_query = std::make_unique<OdbcQuery>(m_connection, m_session->engine(), likely, timeout);
+        m_fields = m_query->fields();
+        if (m_fields.size() == all) {
+            m_fields.resize(shown);
+            return likely;
+        }
+    } catch (const Error &error) {
+        if (error.is(dbErrCancelled) || isLockTimeout(error) ||
+            !OdbcReading::renew(m_connection, m_session->engine()))
+            throw;
+    }
+    return {};
 }
 
-void OdbcStatement::prepareWriter(const SqlScanner &statement, const OdbcPatience &patience)
+void OdbcStatement::prepareWriter(const SqlScanner &scanner, const QString &prepared, int timeout)
 {
-    OdbcTarget target = OdbcTarget::find(m_connection, m_session->engine(), statement, m_fields);
+    OdbcTarget target = OdbcTarget::find(m_connection, m_session->engine(), scanner, m_fields);
     m_whyReadOnly = target.whyReadOnly;
+    // The statement that also gives the hidden key takes the place of the user's.
+    const QString statement = m_whyReadOnly.isEmpty() ? target.statement : QString();
+    if (statement != prepared)
+        m_query = std::make_unique<OdbcQuery>(m_connection, m_session->engine(),
+                                              statement.isEmpty() ? scanner.sql() : statement, timeout);
     if (!m_whyReadOnly.isEmpty())
         return;
-    // The statement that also gives the hidden key takes the place of the user's.
-    if (!target.statement.isEmpty())
-        m_query = std::make_unique<OdbcQuery>(m_connection, m_session->engine(), target.statement, patience);
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
         if (!target.columns[i].isEmpty())
             m_fields[i].attributes |= adFldUpdatable;
@@ -84,10 +145,30 @@ void OdbcStatement::prepareWriter(const SqlScanner &statement, const OdbcPatienc
     m_writer = std::make_unique<OdbcRowWriter>(m_session, std::move(target), m_query->types());
 }
 
-void OdbcStatement::fetch(RowStore &rows, const std::function<bool()> &shouldContinue)
+void OdbcStatement::fetch(RowStore &rows)
 {
-    m_query->read(rows, {m_session->commandTimeout(), shouldContinue});
+    const int timeout = m_session->commandTimeout();
+    const auto released = qScopeGuard([this] { release(); });
+    try {
+        m_query->read(rows, timeout);
+    } catch (const Error &error) {
+        if (!waitForLocks(error, m_text, timeout))
+            throw;
+        rows.clear();
+        m_query->read(rows, timeout);
+    }
+}
+
+std::unique_ptr<OdbcRowWriter> OdbcStatement::takeWriter()
+{
+    return std::move(m_writer);
+}
+
+void OdbcStatement::release()
+{
+    m_query.reset();
     m_reading.reset();
+    m_connection.reset();
 }
 
 } // namespace ADODB

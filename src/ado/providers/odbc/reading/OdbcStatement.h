@@ -13,31 +13,43 @@ namespace ADODB {
 
 using KOVAVSFDataGridLib::SqlScanner;
 
+class Error;
 class OdbcQuery;
-struct OdbcPatience;
+class OdbcRowWriter;
 
-class OdbcStatement : public Statement
+// A statement while it lives on a server. All of it may wait for the server.
+class OdbcStatement
 {
 public:
-    OdbcStatement(std::shared_ptr<OdbcSession> session, const QString &sql, Access access,
-                  const std::function<bool()> &shouldContinue);
-    ~OdbcStatement() override;
+    OdbcStatement(std::shared_ptr<OdbcSession> session, const QString &sql, Access access);
+    ~OdbcStatement();
+    Q_DISABLE_COPY_MOVE(OdbcStatement)
 
-    const std::vector<FieldInfo> &fields() const override { return m_fields; }
-    int columns() const override;
-    void fetch(RowStore &rows, const std::function<bool()> &shouldContinue) override;
-    std::unique_ptr<RowWriter> takeWriter() override { return std::move(m_writer); }
-    QString whyReadOnly() const override { return m_whyReadOnly; }
+    const std::vector<FieldInfo> &fields() const { return m_fields; }
+    int columns() const { return m_columns; }
+    void fetch(RowStore &rows);
+    // Ends what the server holds.
+    void release();
+    std::unique_ptr<OdbcRowWriter> takeWriter();
+    QString whyReadOnly() const { return m_whyReadOnly; }
 
 private:
-    void prepareWriter(const SqlScanner &statement, const OdbcPatience &patience);
+    void prepare(const SqlScanner &scanner, Access access, int timeout);
+    QString prepareLikely(const SqlScanner &scanner, int timeout);
+    // `prepared` is the statement that m_query is for, empty when that is the user's.
+    void prepareWriter(const SqlScanner &scanner, const QString &prepared, int timeout);
+    bool waitForLocks(const Error &error, const QString &sql, int timeout);
 
     std::shared_ptr<OdbcSession> m_session;
-    std::shared_ptr<OdbcConnection> m_connection; // the session's, which can be closed meanwhile
-    std::optional<OdbcReading> m_reading;         // until all has been read
+    // Until all has been read; the session can be closed meanwhile.
+    std::shared_ptr<OdbcConnection> m_connection;
+    std::optional<OdbcReading> m_reading;
     std::unique_ptr<OdbcQuery> m_query;
+    QString m_text;
+    bool m_hasWaited = false;
+    int m_columns = 0;
     std::vector<FieldInfo> m_fields;
-    std::unique_ptr<RowWriter> m_writer;
+    std::unique_ptr<OdbcRowWriter> m_writer;
     QString m_whyReadOnly;
 };
 

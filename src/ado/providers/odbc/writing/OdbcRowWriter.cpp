@@ -3,6 +3,7 @@
 #include "ado/Error.h"
 #include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcHandle.h"
+#include "ado/providers/odbc/OdbcOperation.h"
 #include "ado/providers/odbc/OdbcSession.h"
 #include "ado/providers/odbc/OdbcWatch.h"
 #include "ado/providers/odbc/reading/OdbcQuery.h"
@@ -95,11 +96,11 @@ void OdbcRowWriter::bindChanges(OdbcParameters &parameters, const std::vector<Ch
 }
 
 // Nobody can stop a change, so it has a limit of its own where the connection has none: ADO's.
-OdbcPatience OdbcRowWriter::patience() const
+int OdbcRowWriter::timeout() const
 {
     constexpr int adoCommandTimeout = 30;
     const int limit = m_session->commandTimeout();
-    return {limit > 0 ? limit : adoCommandTimeout};
+    return limit > 0 ? limit : adoCommandTimeout;
 }
 
 // Where the driver can't stop a call that waits. A second later than what can be stopped, which tells the
@@ -107,7 +108,7 @@ OdbcPatience OdbcRowWriter::patience() const
 QString OdbcRowWriter::limitOfLocks() const
 {
     const QString &limit = m_session->engine().limitLocks;
-    return limit.isEmpty() ? QString() : limit.arg((patience().timeout + 1) * 1000);
+    return limit.isEmpty() ? QString() : limit.arg((timeout() + 1) * 1000);
 }
 
 OdbcRowWriter::Key OdbcRowWriter::keyOf(const std::vector<RawValue> &row) const
@@ -120,9 +121,12 @@ OdbcRowWriter::Key OdbcRowWriter::keyOf(const std::vector<RawValue> &row) const
 
 qint64 OdbcRowWriter::change(const OdbcHandle &statement) const
 {
+    OdbcOperation *const operation = m_target.hasTransactions ? nullptr : OdbcOperation::current();
+    if (operation)
+        operation->setSaving(true);
     try {
         const SQLRETURN code =
-            OdbcWatch(statement, patience()).run([&statement] { return SQLExecute(statement.get()); });
+            OdbcWatch(statement, timeout()).run([&statement] { return SQLExecute(statement.get()); });
         if (code == SQL_NO_DATA)
             return 0;
         statement.check(code);
@@ -144,10 +148,10 @@ void OdbcRowWriter::readRows(const Key &key, Lock lock, RowStore &rows) const
     const OdbcEngine &engine = m_session->engine();
     const QString end = lock == Lock::Row ? engine.lockRow : QString();
     OdbcQuery reading(m_session->connection(), engine,
-                      m_target.selectRow + keyCondition(m_target.alias + u'.', key) + end, patience());
+                      m_target.selectRow + keyCondition(m_target.alias + u'.', key) + end, timeout());
     OdbcParameters parameters(reading.handle());
     bindKey(parameters, key);
-    reading.read(rows, patience());
+    reading.read(rows, timeout());
 }
 
 void OdbcRowWriter::needRowAsShown(const std::vector<RawValue> &row, const Key &key, RowStore &found) const
@@ -207,10 +211,10 @@ QString OdbcRowWriter::returningKey() const
 void OdbcRowWriter::insertAndReturnKey(const QString &insertion, const std::vector<Change> &changes,
                                        RowStore &key) const
 {
-    OdbcQuery returning(m_session->connection(), m_session->engine(), insertion + returningKey(), patience());
+    OdbcQuery returning(m_session->connection(), m_session->engine(), insertion + returningKey(), timeout());
     OdbcParameters parameters(returning.handle());
     bindChanges(parameters, changes);
-    returning.read(key, patience());
+    returning.read(key, timeout());
 }
 
 void OdbcRowWriter::insertAndFindKey(const QString &insertion, const std::vector<Change> &changes,
@@ -229,7 +233,7 @@ void OdbcRowWriter::insertAndFindKey(const QString &insertion, const std::vector
     bindChanges(parameters, changes);
     RowComparison::needOneChange(change(statement), source());
     if (missing != m_target.key.end()) {
-        OdbcQuery(m_session->connection(), engine, engine.newKey, patience()).read(key, patience());
+        OdbcQuery(m_session->connection(), engine, engine.newKey, timeout()).read(key, timeout());
         return;
     }
     for (const OdbcTarget::KeyColumn &column : m_target.key) {
@@ -242,7 +246,7 @@ void OdbcRowWriter::insertAndFindKey(const QString &insertion, const std::vector
 void OdbcRowWriter::insert(const std::vector<Change> &changes, RowStore &stored)
 {
     const OdbcEngine &engine = m_session->engine();
-    OdbcTransaction transaction(m_session->connection(), limitOfLocks());
+    OdbcTransaction transaction(*m_session, limitOfLocks());
     QStringList names;
     QStringList places;
     for (const Change &change : changes) {
@@ -274,7 +278,7 @@ void OdbcRowWriter::insert(const std::vector<Change> &changes, RowStore &stored)
 void OdbcRowWriter::update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
                            RowStore &stored)
 {
-    OdbcTransaction transaction(m_session->connection(), limitOfLocks());
+    OdbcTransaction transaction(*m_session, limitOfLocks());
     const Key before = keyOf(row);
     RowStore found(stored.columns());
     needRowAsShown(row, before, found);
@@ -294,12 +298,12 @@ void OdbcRowWriter::updateAndReturn(const QString &sql, const std::vector<Change
                                     RowStore &stored) const
 {
     OdbcQuery returning(m_session->connection(), m_session->engine(),
-                        sql + condition(before) + returningKey(), patience());
+                        sql + condition(before) + returningKey(), timeout());
     OdbcParameters parameters(returning.handle());
     bindChanges(parameters, changes);
     bindKey(parameters, before);
     RowStore after(static_cast<int>(m_target.key.size()));
-    returning.read(after, patience());
+    returning.read(after, timeout());
     RowComparison::needOneChange(after.rows(), source());
     readRows(after.row(0), Lock::None, stored);
     RowComparison::needOneRow(stored.rows(), source());
@@ -337,7 +341,7 @@ void OdbcRowWriter::updateAndFind(const QString &sql, const std::vector<Change> 
 
 void OdbcRowWriter::remove(const std::vector<RawValue> &row)
 {
-    OdbcTransaction transaction(m_session->connection(), limitOfLocks());
+    OdbcTransaction transaction(*m_session, limitOfLocks());
     const Key key = keyOf(row);
     RowStore found(static_cast<int>(row.size()));
     needRowAsShown(row, key, found);
@@ -347,7 +351,7 @@ void OdbcRowWriter::remove(const std::vector<RawValue> &row)
 
 bool OdbcRowWriter::read(const std::vector<RawValue> &row, RowStore &now)
 {
-    readRows(keyOf(row), Lock::None, now);
+    m_session->begin([&](const std::shared_ptr<OdbcConnection> &) { readRows(keyOf(row), Lock::None, now); });
     return now.rows() > 0;
 }
 

@@ -9,7 +9,6 @@ namespace ADODB {
 class OdbcHandle;
 class OdbcParameters;
 class OdbcSession;
-struct OdbcPatience;
 
 class OdbcRowWriter : public RowWriter
 {
@@ -19,6 +18,8 @@ public:
                   std::vector<OdbcTypes::Declared> types);
 
     bool isWritable(int column) const override;
+    // Seconds to wait for a row that somebody else is changing.
+    int timeout() const;
     void insert(const std::vector<Change> &changes, RowStore &stored) override;
     void update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
                 RowStore &stored) override;
@@ -33,8 +34,6 @@ private:
     void bind(OdbcParameters &parameters, int column, const RawValue &value) const;
     void bindKey(OdbcParameters &parameters, const Key &key) const;
     void bindChanges(OdbcParameters &parameters, const std::vector<Change> &changes) const;
-    // How long to wait for a row that somebody else is changing.
-    OdbcPatience patience() const;
     // What tells the server the same at the beginning of a transaction; empty where that is not needed.
     QString limitOfLocks() const;
     Key keyOf(const std::vector<RawValue> &row) const;

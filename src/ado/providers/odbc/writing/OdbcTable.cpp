@@ -6,6 +6,7 @@
 #include "ado/providers/odbc/OdbcHandle.h"
 #include "ado/providers/odbc/reading/OdbcDescription.h"
 #include "ado/providers/odbc/reading/OdbcLongValue.h"
+#include "ado/providers/odbc/reading/OdbcReading.h"
 #include "ado/providers/odbc/writing/OdbcParameters.h"
 #include "sql/SimpleSelect.h"
 
@@ -211,13 +212,14 @@ QStringList neverNull(const std::shared_ptr<OdbcConnection> &connection, const N
 
 // Empty for what can be read but not as a whole: MariaDB's DUAL, or a table of which this user may see only
 // some columns.
-std::vector<FieldInfo> allFields(const OdbcHandle &probe, const SimpleSelect &select)
+std::vector<FieldInfo> allFields(const OdbcHandle &probe, const OdbcEngine &engine,
+                                 const SimpleSelect &select)
 {
     try {
         probe.prepare("SELECT * FROM "_L1 + select.tableText);
         return describeColumns(probe);
     } catch (const Error &) {
-        if (probe.connection()->isLost())
+        if (probe.connection()->isLost() || !OdbcReading::renew(probe.connection(), engine))
             throw;
         return {};
     }
@@ -234,7 +236,7 @@ OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, con
                           const SimpleSelect &select)
 {
     const OdbcHandle probe(connection);
-    const std::vector<FieldInfo> fields = allFields(probe, select);
+    const std::vector<FieldInfo> fields = allFields(probe, engine, select);
     OdbcTable table;
     if (fields.empty()) {
         table.whyReadOnly = Texts::readOnlyNoTable();

@@ -49,6 +49,37 @@ QStringList shownColumns(const SimpleSelect &select, const OdbcTable &table,
     return shown;
 }
 
+// Whether a table still has the columns that it had, as far as a result tells.
+bool agrees(const OdbcTable &table, const SimpleSelect &select, const std::vector<FieldInfo> &fields)
+{
+    std::size_t field = 0;
+    for (const SimpleSelect::Item &item : select.items) {
+        if (!item.all) {
+            ++field;
+            continue;
+        }
+        for (const QString &column : table.columns) {
+            if (field >= fields.size() || fields[field++].name != column)
+                return false;
+        }
+    }
+    return field == fields.size();
+}
+
+// Asks the catalogue once in a session, and again where the table was changed. What can't be written is asked
+// for each time, because it may become a table.
+OdbcTable tableOf(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
+                  const SimpleSelect &select, const std::vector<FieldInfo> &fields)
+{
+    auto &known = connection->tables()[select.tableText];
+    if (!known || !agrees(*known, select, fields)) {
+        const OdbcTable table = OdbcTable::find(connection, engine, select);
+        known = table.whyReadOnly.isEmpty() ? std::make_shared<const OdbcTable>(table) : nullptr;
+        return table;
+    }
+    return *known;
+}
+
 // An aggregate gives one row even where there is none. The database alone can tell whether there is one.
 bool folds(const std::shared_ptr<OdbcConnection> &connection, const QString &head)
 {
@@ -95,7 +126,7 @@ OdbcTarget OdbcTarget::find(const std::shared_ptr<OdbcConnection> &connection, c
     target.whyReadOnly = readOnlyReason(select.fault);
     if (!target.whyReadOnly.isEmpty())
         return target;
-    const OdbcTable table = OdbcTable::find(connection, engine, select);
+    const OdbcTable table = tableOf(connection, engine, select, fields);
     target.whyReadOnly = table.whyReadOnly;
     if (target.whyReadOnly.isEmpty() && table.key.isEmpty() && !table.hasTransactions)
         target.whyReadOnly = Texts::readOnlyNoTransaction().arg(select.table);
@@ -106,55 +137,80 @@ OdbcTarget OdbcTarget::find(const std::shared_ptr<OdbcConnection> &connection, c
         target.whyReadOnly = Texts::readOnlyJoin();
         return target;
     }
-    const QString &sql = statement.sql();
-    if (shown.contains(QString()) && folds(connection, sql.left(select.sourceEnd))) {
+    if (shown.contains(QString()) && folds(connection, statement.sql().left(select.sourceEnd))) {
         target.whyReadOnly = Texts::readOnlyGrouped();
         return target;
     }
+    target.findRow(engine, statement, select, table, shown, fields);
+    return target;
+}
 
-    target.table = select.tableText;
-    target.alias = select.aliasText;
-    target.hasTransactions = table.hasTransactions;
+QString OdbcTarget::likelyStatement(OdbcConnection &connection, const OdbcEngine &engine,
+                                    const SqlScanner &statement, std::size_t &shown, std::size_t &all)
+{
+    const SimpleSelect select = SimpleSelect::parse(statement);
+    const auto table = connection.tables().value(select.tableText);
+    if (select.fault != SimpleSelect::Fault::None || !table)
+        return {};
+    QStringList names;
+    for (const SimpleSelect::Item &item : select.items)
+        names += item.all ? table->columns : QStringList(columnNamed(*table, item.column));
+    if (names.contains(QString()))
+        return {};
+    shown = static_cast<std::size_t>(names.size());
+    OdbcTarget target;
+    all = target.findRow(engine, statement, select, *table, names, std::vector<FieldInfo>(shown));
+    return target.whyReadOnly.isEmpty() ? target.statement : QString();
+}
+
+std::size_t OdbcTarget::findRow(const OdbcEngine &engine, const SqlScanner &scanner,
+                                const SimpleSelect &select, const OdbcTable &from, const QStringList &shown,
+                                const std::vector<FieldInfo> &fields)
+{
+    const QString &sql = scanner.sql();
+    table = select.tableText;
+    alias = select.aliasText;
+    hasTransactions = from.hasTransactions;
     for (const QString &name : shown)
-        target.columns.push_back(name.isEmpty() ? QString() : engine.quoted(name));
-    target.isRealKey = !table.key.isEmpty();
+        columns.push_back(name.isEmpty() ? QString() : engine.quoted(name));
+    isRealKey = !from.key.isEmpty();
     QString hidden;
-    int columns = static_cast<int>(fields.size());
+    int count = static_cast<int>(fields.size());
     // The number of a column in the result, in which it is hidden where it is not shown.
     const auto locate = [&](const QString &name) {
         if (const qsizetype place = shown.indexOf(name); place >= 0)
             return static_cast<int>(place);
-        hidden += ", "_L1 + target.alias + u'.' + engine.quoted(name);
-        return columns++;
+        hidden += ", "_L1 + alias + u'.' + engine.quoted(name);
+        return count++;
     };
-    for (const QString &name : target.isRealKey ? table.key : table.comparable)
-        target.key.push_back({engine.quoted(name), locate(name)});
-    if (target.key.empty()) {
-        target.whyReadOnly = Texts::readOnlyNoTable();
-        return target;
+    for (const QString &name : isRealKey ? from.key : from.comparable)
+        key.push_back({engine.quoted(name), locate(name)});
+    if (key.empty()) {
+        whyReadOnly = Texts::readOnlyNoTable();
+        return 0;
     }
-    if (!target.isRealKey) {
-        for (const QString &name : table.columns) {
-            if (!table.comparable.contains(name))
+    if (!isRealKey) {
+        for (const QString &name : from.columns) {
+            if (!from.comparable.contains(name))
                 locate(name);
         }
     }
-    const bool hasVersion = table.isOrdinary && !engine.rowVersion.isEmpty();
+    const bool hasVersion = from.isOrdinary && !engine.rowVersion.isEmpty();
     if (hasVersion)
         locate(engine.rowVersion);
-    target.compared = comparedColumns(select, table, shown, columns, hasVersion);
-    for (qsizetype i = 0; !target.hasTransactions && i < shown.size(); ++i) {
-        if (table.comparable.contains(shown[i]))
-            target.witnesses.push_back(
+    compared = comparedColumns(select, from, shown, count, hasVersion);
+    for (qsizetype i = 0; !hasTransactions && i < shown.size(); ++i) {
+        if (from.comparable.contains(shown[i]))
+            witnesses.push_back(
                 {witness(engine.quoted(shown[i]), fields[static_cast<std::size_t>(i)]), static_cast<int>(i)});
     }
 
     const QString head =
         sql.left(select.listEnd) + hidden + sql.sliced(select.listEnd, select.sourceEnd - select.listEnd);
     if (!hidden.isEmpty())
-        target.statement = head + sql.sliced(select.sourceEnd);
-    target.selectRow = head + engine.lockTable + " WHERE "_L1;
-    return target;
+        statement = head + sql.sliced(select.sourceEnd);
+    selectRow = head + engine.lockTable + " WHERE "_L1;
+    return static_cast<std::size_t>(count);
 }
 
 } // namespace ADODB

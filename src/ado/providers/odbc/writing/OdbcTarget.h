@@ -7,7 +7,8 @@
 
 namespace KOVAVSFDataGridLib {
 class SqlScanner;
-}
+struct SimpleSelect;
+} // namespace KOVAVSFDataGridLib
 
 namespace ADODB {
 
@@ -15,6 +16,7 @@ using KOVAVSFDataGridLib::SqlScanner;
 
 class OdbcConnection;
 struct OdbcEngine;
+struct OdbcTable;
 
 // Where the rows of a statement can be written back to, and how one of them is found there again.
 struct OdbcTarget
@@ -44,8 +46,20 @@ struct OdbcTarget
     bool hasTransactions = true;
     std::vector<KeyColumn> witnesses;
 
+    // The `statement` that find() will answer, as far as can be told from what the session knows about the
+    // table; empty when it can't, or when nothing will be hidden. `shown` is how many of its `all` columns
+    // are the user's.
+    static QString likelyStatement(OdbcConnection &connection, const OdbcEngine &engine,
+                                   const SqlScanner &statement, std::size_t &shown, std::size_t &all);
     static OdbcTarget find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
                            const SqlScanner &statement, const std::vector<FieldInfo> &fields);
+
+private:
+    // Fills in all but whyReadOnly, and that where no column can tell a row. Answers how many columns the
+    // result has with the hidden ones.
+    std::size_t findRow(const OdbcEngine &engine, const SqlScanner &scanner,
+                        const KOVAVSFDataGridLib::SimpleSelect &select, const OdbcTable &from,
+                        const QStringList &shown, const std::vector<FieldInfo> &fields);
 };
 
 } // namespace ADODB

@@ -4,6 +4,8 @@
 #include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcError.h"
 #include "ado/providers/odbc/OdbcHandle.h"
+#include "ado/providers/odbc/OdbcOperation.h"
+#include "ado/providers/odbc/OdbcSession.h"
 
 #include <algorithm>
 
@@ -16,6 +18,16 @@ namespace {
 SQLRETURN setAutocommit(const OdbcConnection &connection, std::uintptr_t mode)
 {
     return SQLSetConnectAttrW(connection.handle(), SQL_ATTR_AUTOCOMMIT, asPointer(mode), SQL_IS_UINTEGER);
+}
+
+// What is committed is not touched by this. Autocommit would commit what could not be undone, so that
+// connection is given up.
+void undo(OdbcConnection &connection)
+{
+    if (!connection.isLost() && succeeded(SQLEndTran(SQL_HANDLE_DBC, connection.handle(), SQL_ROLLBACK)) &&
+        succeeded(setAutocommit(connection, SQL_AUTOCOMMIT_ON)))
+        return;
+    connection.setLost();
 }
 
 // Whether an error of COMMIT is the server's answer that it has undone everything: a constraint that is
@@ -32,34 +44,34 @@ bool isRefusal(const QString &state)
 
 } // namespace
 
-OdbcTransaction::OdbcTransaction(std::shared_ptr<OdbcConnection> connection)
-    : m_connection(std::move(connection))
+OdbcTransaction::OdbcTransaction(OdbcSession &session, const QString &first)
+    : m_connection(session.begin([&](const std::shared_ptr<OdbcConnection> &connection) {
+          if (!succeeded(setAutocommit(*connection, SQL_AUTOCOMMIT_OFF)))
+              throwOdbcError(SQL_HANDLE_DBC, connection->handle(), *connection);
+          try {
+              if (!first.isEmpty())
+                  OdbcHandle(connection).execute(first);
+          } catch (const Error &) {
+              undo(*connection);
+              throw;
+          }
+      }))
 {
-    if (!succeeded(setAutocommit(*m_connection, SQL_AUTOCOMMIT_OFF)))
-        throwOdbcError(SQL_HANDLE_DBC, m_connection->handle(), *m_connection);
 }
 
-OdbcTransaction::OdbcTransaction(std::shared_ptr<OdbcConnection> connection, const QString &first)
-    : OdbcTransaction(std::move(connection))
-{
-    if (!first.isEmpty())
-        OdbcHandle(m_connection).execute(first);
-}
-
-// What is committed is not touched by this any more. Autocommit would commit what could not be undone, so
-// that connection is given up.
 OdbcTransaction::~OdbcTransaction()
 {
-    if (!m_connection->isLost() &&
-        succeeded(SQLEndTran(SQL_HANDLE_DBC, m_connection->handle(), SQL_ROLLBACK)) &&
-        succeeded(setAutocommit(*m_connection, SQL_AUTOCOMMIT_ON)))
-        return;
-    m_connection->setLost();
+    if (!m_isCommitted)
+        m_connection->setUnfit();
+    undo(*m_connection);
 }
 
 void OdbcTransaction::commit()
 {
-    if (succeeded(SQLEndTran(SQL_HANDLE_DBC, m_connection->handle(), SQL_COMMIT)))
+    if (OdbcOperation *const operation = OdbcOperation::current())
+        operation->setSaving(true);
+    m_isCommitted = succeeded(SQLEndTran(SQL_HANDLE_DBC, m_connection->handle(), SQL_COMMIT));
+    if (m_isCommitted)
         return;
     try {
         throwOdbcError(SQL_HANDLE_DBC, m_connection->handle(), *m_connection);

@@ -7,13 +7,14 @@
 namespace ADODB {
 
 class OdbcConnection;
+class OdbcSession;
 
-// All that is done on a connection while it lives; undone unless it is committed.
+// A command of a session that changes data; undone unless it is committed.
 class OdbcTransaction
 {
 public:
     // Runs the statement `first`, if there is one.
-    OdbcTransaction(std::shared_ptr<OdbcConnection> connection, const QString &first);
+    OdbcTransaction(OdbcSession &session, const QString &first);
     ~OdbcTransaction();
     Q_DISABLE_COPY_MOVE(OdbcTransaction)
 
@@ -22,9 +23,8 @@ public:
     void commit();
 
 private:
-    explicit OdbcTransaction(std::shared_ptr<OdbcConnection> connection);
-
     std::shared_ptr<OdbcConnection> m_connection;
+    bool m_isCommitted = false;
 };
 
 } // namespace ADODB

@@ -1,0 +1,185 @@
+#include "ado/providers/odbc/OdbcOperation.h"
+
+#include "ado/Error.h"
+#include "ado/Texts.h"
+#include "ado/providers/odbc/OdbcHandle.h"
+
+#include <QtCore/QDeadlineTimer>
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ADODB {
+
+namespace {
+
+constexpr int millisecondsBetweenQuestions = 10;
+
+thread_local OdbcOperation *theCurrent = nullptr;
+
+qint64 now()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+qint64 after(int seconds)
+{
+    return seconds > 0 ? now() + qint64{seconds} * 1000 : 0;
+}
+
+} // namespace
+
+OdbcOperation *OdbcOperation::current()
+{
+    return theCurrent;
+}
+
+void OdbcOperation::run(std::function<void()> work, const Wait &wait)
+{
+    if (theCurrent) {
+        work();
+        return;
+    }
+    const auto operation = std::make_shared<OdbcOperation>();
+    operation->m_timeout = wait.limit;
+    operation->m_due = after(wait.limit);
+    std::thread([operation, work = std::move(work)]() mutable {
+        theCurrent = operation.get();
+        try {
+            work();
+        } catch (...) {
+            operation->m_error = std::current_exception();
+        }
+        work = nullptr; // what nobody else holds ends here
+        theCurrent = nullptr;
+        operation->m_ended.release();
+        operation->m_done.release();
+    }).detach();
+
+    std::exception_ptr fromCaller;
+    qint64 released = 0;
+    while (!operation->m_done.tryAcquire(1, millisecondsBetweenQuestions)) {
+        if (released == 0) {
+            bool isWanted = false;
+            try {
+                isWanted = wait.shouldContinue(operation->m_rows);
+            } catch (...) {
+                fromCaller = std::current_exception();
+            }
+            if (!isWanted || operation->isOverdue()) {
+                operation->stop(isWanted ? Stop::TimedOut : Stop::Cancelled);
+                released = now() + wait.release;
+            }
+        }
+        if (released == 0 || now() < released)
+            continue;
+        if (fromCaller)
+            std::rethrow_exception(fromCaller);
+        operation->throwStopped();
+    }
+    if (fromCaller)
+        std::rethrow_exception(fromCaller);
+    if (operation->m_error)
+        std::rethrow_exception(operation->m_error);
+}
+
+bool OdbcOperation::isOverdue() const
+{
+    const qint64 due = m_due;
+    return due > 0 && now() >= due;
+}
+
+void OdbcOperation::throwStopped() const
+{
+    const bool isCancelled = m_stop == Stop::Cancelled;
+    const QString why =
+        isCancelled ? Texts::cancelled() : Texts::timedOut().arg(Texts::secondsLimit().arg(m_timeout.load()));
+    const QString state = isCancelled ? u"HY008"_s : u"HYT00"_s;
+    if (m_saving)
+        throw Error(dbErrInDoubt, Texts::inDoubt().arg(why), u"ODBC"_s, state);
+    throw Error(isCancelled ? dbErrCancelled : dbErrFailed, why, u"ODBC"_s, state);
+}
+
+Error OdbcOperation::cancelled()
+{
+    return Error(dbErrCancelled, Texts::cancelled(), u"ODBC"_s, u"HY008"_s);
+}
+
+void OdbcOperation::check() const
+{
+    if (m_stop != Stop::None)
+        throwStopped();
+}
+
+// The one that stops sets its mark and then looks at this one; so at least one of the two sees the other's.
+void OdbcOperation::setSaving(bool isSaving)
+{
+    m_saving = isSaving;
+    if (isSaving && m_stop != Stop::None) {
+        m_saving = false;
+        throwStopped();
+    }
+}
+
+SQLRETURN OdbcOperation::call(const OdbcHandle &statement, int timeout,
+                              const std::function<SQLRETURN()> &call)
+{
+    check();
+    const qint64 dueBefore = m_due;
+    const int timeoutBefore = m_timeout;
+    if (const qint64 due = after(timeout); due > 0 && (dueBefore == 0 || due < dueBefore)) {
+        m_timeout = timeout;
+        m_due = due;
+    }
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_running = statement.get();
+    }
+    const SQLRETURN code = call();
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_running = SQL_NULL_HSTMT;
+    }
+    if (m_stop != Stop::None) {
+        statement.connection()->setUnfit(); // for the next command, which a late cancel would hit
+        throwStopped();
+    }
+    m_due = dueBefore;
+    m_timeout = timeoutBefore;
+    return code;
+}
+
+void OdbcOperation::stop(Stop why)
+{
+    m_stop = why;
+    std::thread([operation = shared_from_this()] { operation->cancelUntilDone(); }).detach();
+}
+
+// A cancel can come before the driver has begun and be lost then.
+void OdbcOperation::cancelUntilDone()
+{
+    int pause = millisecondsBetweenQuestions;
+    constexpr int longestPause = 1000;
+    do {
+        const QMutexLocker lock(&m_mutex);
+        if (m_running != SQL_NULL_HSTMT)
+            SQLCancel(m_running);
+    } while (!m_ended.tryAcquire(1, std::exchange(pause, std::min(pause * 10, longestPause))));
+}
+
+std::shared_ptr<OdbcConnection> OdbcOperation::lease(const void *owner) const
+{
+    return owner == m_owner ? m_lease.lock() : nullptr;
+}
+
+void OdbcOperation::setLease(const void *owner, const std::shared_ptr<OdbcConnection> &connection)
+{
+    m_owner = owner;
+    m_lease = connection;
+}
+
+} // namespace ADODB

@@ -1,0 +1,158 @@
+#include "ado/providers/odbc/OdbcPool.h"
+
+#include "ado/Error.h"
+#include "ado/Texts.h"
+#include "ado/connection/OdbcCatalogue.h"
+#include "ado/providers/odbc/OdbcHandle.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QStringList>
+
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace ADODB {
+
+namespace {
+
+constexpr std::size_t mostIdle = 1;
+// Firewalls and address translation forget silent connections after five minutes at the earliest.
+constexpr auto longestIdle = 4min;
+
+struct Registry
+{
+    QMutex mutex;
+    QHash<QString, std::weak_ptr<OdbcPool>> pools;
+};
+
+Registry &registry()
+{
+    static Registry theRegistry;
+    return theRegistry;
+}
+
+std::unique_ptr<OdbcConnection> connectTo(const OdbcLogin &login)
+{
+    auto connection = std::make_unique<OdbcConnection>();
+    try {
+        connection->connect(login.text(), login.connectTimeout(), login.secrets());
+    } catch (const Error &error) {
+        if (error.SQLState() != "IM002"_L1)
+            throw;
+        // The driver manager's own words are of no help to anybody who reads no English.
+        QStringList names;
+        for (const OdbcDataSource &source : odbcDataSources())
+            names += source.name;
+        throw Error(dbErrFailed,
+                    Texts::noOdbcSource().arg(login.dataSource(),
+                                              names.isEmpty() ? Texts::noneInstalled() : names.join(u"、"_s)),
+                    error.Source(), error.SQLState(), error.NativeError());
+    }
+    return connection;
+}
+
+} // namespace
+
+OdbcPool::OdbcPool(OdbcLogin login) : m_login(std::move(login)) {}
+
+OdbcPool::~OdbcPool() = default;
+
+std::shared_ptr<OdbcPool> OdbcPool::open(OdbcLogin login)
+{
+    login.addDefaults(login.likelyEngine());
+    const QString key = login.text() + QString::number(login.connectTimeout());
+    std::shared_ptr<OdbcPool> pool;
+    {
+        const QMutexLocker lock(&registry().mutex);
+        pool = registry().pools.value(key).lock();
+    }
+    if (pool) {
+        pool->keepReady();
+        return pool;
+    }
+    pool.reset(new OdbcPool(std::move(login)));
+    pool->connectFirst();
+    if (pool->m_isShared) {
+        const QMutexLocker lock(&registry().mutex);
+        registry().pools.removeIf([](const auto &known) { return known.value().expired(); });
+        registry().pools.insert(key, pool);
+    }
+    return pool;
+}
+
+void OdbcPool::connectFirst()
+{
+    auto connection = connectTo(m_login);
+    m_engine = OdbcEngine::of(*connection);
+    // A driver can go by any name, so this one may be known only now.
+    if (m_login.addDefaults(m_engine.kind)) {
+        connection.reset();
+        connection = connectTo(m_login);
+    }
+    m_isShared = m_engine.isServer();
+    connection->setIdle();
+    m_idle.push_back(std::move(connection));
+}
+
+void OdbcPool::keepReady()
+{
+    if (auto connection = takeIdle()) {
+        giveBack(std::move(connection));
+        return;
+    }
+    giveBack(connectTo(m_login));
+}
+
+std::unique_ptr<OdbcConnection> OdbcPool::takeIdle()
+{
+    // What is not taken ends only when the lock is released.
+    std::vector<std::unique_ptr<OdbcConnection>> ended;
+    const QMutexLocker lock(&m_mutex);
+    while (!m_idle.empty()) {
+        auto connection = std::move(m_idle.back());
+        m_idle.pop_back();
+        const bool isFit =
+            !m_isShared || (connection->idleTime() < longestIdle &&
+                            !(m_engine.tellsLossAtOnce && connection->isDead().value_or(false)));
+        if (isFit)
+            return connection;
+        ended.push_back(std::move(connection));
+    }
+    return nullptr;
+}
+
+std::shared_ptr<OdbcConnection> OdbcPool::take(const std::shared_ptr<std::atomic<bool>> &isLost)
+{
+    std::unique_ptr<OdbcConnection> connection = takeIdle();
+    if (!connection)
+        connection = connectTo(m_login);
+    return {connection.release(), [pool = shared_from_this(), isLost](OdbcConnection *used) {
+                std::unique_ptr<OdbcConnection> owned(used);
+                if (owned->isLost() && !owned->isUntried())
+                    *isLost = true;
+                pool->giveBack(std::move(owned));
+            }};
+}
+
+void OdbcPool::giveBack(std::unique_ptr<OdbcConnection> connection)
+{
+    if (m_isShared && !connection->isFit())
+        return;
+    if (!m_isShared && connection->isLost())
+        return;
+    connection->setIdle();
+    const QMutexLocker lock(&m_mutex);
+    if (m_idle.size() < mostIdle)
+        m_idle.push_back(std::move(connection));
+}
+
+void OdbcPool::dropIdle()
+{
+    std::vector<std::unique_ptr<OdbcConnection>> ended;
+    const QMutexLocker lock(&m_mutex);
+    ended.swap(m_idle);
+}
+
+} // namespace ADODB

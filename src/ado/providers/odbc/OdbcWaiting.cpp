@@ -1,0 +1,125 @@
+#include "ado/providers/odbc/OdbcWaiting.h"
+
+#include "ado/Error.h"
+#include "ado/providers/odbc/OdbcOperation.h"
+#include "ado/providers/odbc/OdbcSession.h"
+#include "ado/providers/odbc/reading/OdbcStatement.h"
+#include "ado/providers/odbc/writing/OdbcRowWriter.h"
+#include "ado/rows/RowStore.h"
+
+namespace ADODB {
+
+namespace {
+
+// Milliseconds. What a change came to matters, so it is waited for longer than what a reading would give.
+constexpr int releaseFromChange = 3000;
+
+bool always(qint64)
+{
+    return true;
+}
+
+// A row with bytes of its own.
+class OwnRow
+{
+public:
+    explicit OwnRow(const std::vector<RawValue> &row) : m_values(row)
+    {
+        m_bytes.reserve(row.size());
+        for (RawValue &value : m_values) {
+            m_bytes.push_back(value.bytes.toByteArray());
+            value.bytes = m_bytes.back();
+        }
+    }
+    Q_DISABLE_COPY_MOVE(OwnRow)
+    const std::vector<RawValue> &values() const { return m_values; }
+
+private:
+    std::vector<QByteArray> m_bytes;
+    std::vector<RawValue> m_values;
+};
+
+} // namespace
+
+OdbcWaitingStatement::OdbcWaitingStatement(std::shared_ptr<OdbcSession> session,
+                                           std::shared_ptr<OdbcStatement> statement)
+    : m_session(std::move(session)),
+      m_statement(std::move(statement)),
+      m_fields(m_statement->fields()),
+      m_columns(m_statement->columns()),
+      m_whyReadOnly(m_statement->whyReadOnly())
+{
+    if (auto writer = m_statement->takeWriter())
+        m_writer = std::make_unique<OdbcWaitingWriter>(std::move(writer));
+}
+
+// One that was only prepared still holds a session of the server.
+OdbcWaitingStatement::~OdbcWaitingStatement()
+{
+    if (!m_statement)
+        return;
+    constexpr int limit = 1; // second; what takes longer ends by itself
+    try {
+        OdbcOperation::run([statement = std::move(m_statement)] { statement->release(); }, {always, limit});
+    } catch (...) {
+        // Nothing was asked for that could be missed.
+    }
+}
+
+void OdbcWaitingStatement::fetch(RowStore &rows, const std::function<bool(qint64)> &shouldContinue)
+{
+    const auto own = std::make_shared<RowStore>(std::move(rows));
+    OdbcOperation::run([statement = std::move(m_statement), own] { statement->fetch(*own); },
+                       {shouldContinue});
+    rows = std::move(*own);
+    // However quick it was, the caller has been asked.
+    if (!shouldContinue(rows.rows()))
+        throw OdbcOperation::cancelled();
+}
+
+OdbcWaitingWriter::OdbcWaitingWriter(std::shared_ptr<OdbcRowWriter> writer) : m_writer(std::move(writer)) {}
+
+// The statements of a change have limits of their own; this one is for what lies between them.
+void OdbcWaitingWriter::run(std::function<void()> work) const
+{
+    OdbcOperation::run(std::move(work), {always, 2 * m_writer->timeout(), releaseFromChange});
+}
+
+bool OdbcWaitingWriter::isWritable(int column) const
+{
+    return m_writer->isWritable(column);
+}
+
+void OdbcWaitingWriter::insert(const std::vector<Change> &changes, RowStore &stored)
+{
+    const auto own = std::make_shared<RowStore>(stored.columns());
+    run([writer = m_writer, changes, own] { writer->insert(changes, *own); });
+    stored = std::move(*own);
+}
+
+void OdbcWaitingWriter::update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
+                               RowStore &stored)
+{
+    const auto own = std::make_shared<RowStore>(stored.columns());
+    const auto shown = std::make_shared<OwnRow>(row);
+    run([writer = m_writer, shown, changes, own] { writer->update(shown->values(), changes, *own); });
+    stored = std::move(*own);
+}
+
+void OdbcWaitingWriter::remove(const std::vector<RawValue> &row)
+{
+    const auto shown = std::make_shared<OwnRow>(row);
+    run([writer = m_writer, shown] { writer->remove(shown->values()); });
+}
+
+bool OdbcWaitingWriter::read(const std::vector<RawValue> &row, RowStore &now)
+{
+    const auto own = std::make_shared<RowStore>(now.columns());
+    const auto shown = std::make_shared<OwnRow>(row);
+    const auto found = std::make_shared<bool>(false);
+    run([writer = m_writer, shown, own, found] { *found = writer->read(shown->values(), *own); });
+    now = std::move(*own);
+    return *found;
+}
+
+} // namespace ADODB

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "ado/providers/Provider.h"
+
+namespace ADODB {
+
+class OdbcRowWriter;
+class OdbcSession;
+class OdbcStatement;
+
+// What a recordset holds of a statement and its writer. Each call is an operation: its caller waits and stays
+// master of its own thread. See OdbcOperation.
+class OdbcWaitingStatement : public Statement
+{
+public:
+    OdbcWaitingStatement(std::shared_ptr<OdbcSession> session, std::shared_ptr<OdbcStatement> statement);
+    ~OdbcWaitingStatement() override;
+    Q_DISABLE_COPY_MOVE(OdbcWaitingStatement)
+
+    const std::vector<FieldInfo> &fields() const override { return m_fields; }
+    int columns() const override { return m_columns; }
+    void fetch(RowStore &rows, const std::function<bool(qint64)> &shouldContinue) override;
+    std::unique_ptr<RowWriter> takeWriter() override { return std::move(m_writer); }
+    QString whyReadOnly() const override { return m_whyReadOnly; }
+
+private:
+    std::shared_ptr<OdbcSession> m_session;
+    std::shared_ptr<OdbcStatement> m_statement; // until it was fetched
+    std::vector<FieldInfo> m_fields;
+    int m_columns;
+    std::unique_ptr<RowWriter> m_writer;
+    QString m_whyReadOnly;
+};
+
+class OdbcWaitingWriter : public RowWriter
+{
+public:
+    explicit OdbcWaitingWriter(std::shared_ptr<OdbcRowWriter> writer);
+
+    bool isWritable(int column) const override;
+    void insert(const std::vector<Change> &changes, RowStore &stored) override;
+    void update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
+                RowStore &stored) override;
+    void remove(const std::vector<RawValue> &row) override;
+    bool read(const std::vector<RawValue> &row, RowStore &now) override;
+
+private:
+    void run(std::function<void()> work) const;
+
+    std::shared_ptr<OdbcRowWriter> m_writer;
+};
+
+} // namespace ADODB
