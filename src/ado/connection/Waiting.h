@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../../KovaExport.h"
+#include "KovaExport.h"
 
 #include <QtCore/QtGlobal>
 
