@@ -62,6 +62,19 @@ void showWithCause(QWidget *parent, const QString &text, const QString &cause)
     show(parent, {text, {}, cause}, QMessageBox::Ok, QMessageBox::Ok);
 }
 
+bool offer(QWidget *parent, const QString &text, const QString &cause, const QString &button)
+{
+    const QPointer<QMessageBox> box = newBox(parent, {text, {}, cause});
+    box->addButton(QMessageBox::Ok);
+    const QPointer<QAbstractButton> offered = box->addButton(button, QMessageBox::ActionRole);
+    box->setDefaultButton(QMessageBox::Ok);
+    box->setEscapeButton(QMessageBox::Ok);
+    box->exec();
+    const bool isTaken = box && box->clickedButton() == offered;
+    delete box;
+    return isTaken;
+}
+
 bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon,
          QMessageBox::StandardButton onEnter)
 {
@@ -69,7 +82,8 @@ bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox
                 QMessageBox::No) == QMessageBox::Yes;
 }
 
-QMessageBox::StandardButton askToSave(QWidget *parent, const QString &text, const QString &title)
+QMessageBox::StandardButton askToSave(QWidget *parent, const QString &text, const QString &title,
+                                      const QString &offered)
 {
     const QPointer<QMessageBox> box = newBox(parent, {text, title, {}, QMessageBox::Warning});
     const std::pair<QMessageBox::StandardButton, const QString &> buttons[] = {
@@ -78,13 +92,16 @@ QMessageBox::StandardButton askToSave(QWidget *parent, const QString &text, cons
         {QMessageBox::Cancel, FormTexts::Cancel}};
     for (const auto &[button, caption] : buttons)
         box->addButton(button)->setText(caption);
+    const QPointer<QAbstractButton> offer =
+        offered.isEmpty() ? nullptr : box->addButton(offered, QMessageBox::ActionRole);
     box->setDefaultButton(QMessageBox::Save);
     box->setEscapeButton(QMessageBox::Cancel);
     const int answer = box->exec();
     if (!box)
         return QMessageBox::Cancel;
+    const bool isOffered = offer && box->clickedButton() == offer;
     delete box;
-    return static_cast<QMessageBox::StandardButton>(answer);
+    return isOffered ? QMessageBox::NoButton : static_cast<QMessageBox::StandardButton>(answer);
 }
 
 void showLater(const QString &text)

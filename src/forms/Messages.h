@@ -16,13 +16,17 @@ void show(QWidget *parent, const QString &text, const QString &title = {},
 // The same with the cause below the text, in the data access' own words.
 void showWithCause(QWidget *parent, const QString &text, const QString &cause);
 
+// The same with one more button; true when that was pressed. Enter presses OK. An empty `cause` isn't shown.
+bool offer(QWidget *parent, const QString &text, const QString &cause, const QString &button);
+
 // Asks with the buttons Yes and No; true for Yes. Closing the box counts as No. Enter presses `onEnter`.
 bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox::Icon icon,
          QMessageBox::StandardButton onEnter = QMessageBox::Yes);
 
 // Asks what becomes of changes: Save, Discard or Cancel. Enter presses Save. Closing the box counts as
-// Cancel.
-QMessageBox::StandardButton askToSave(QWidget *parent, const QString &text, const QString &title);
+// Cancel. A button with the text of `offered`, where that isn't empty, answers NoButton.
+QMessageBox::StandardButton askToSave(QWidget *parent, const QString &text, const QString &title,
+                                      const QString &offered = {});
 
 // Shows a text in a box of its own, without waiting for the user to close it.
 void showLater(const QString &text);

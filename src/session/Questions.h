@@ -39,7 +39,7 @@ struct FindAnswer
 };
 
 // What becomes of a record that can't be saved when its result is about to go.
-enum class Unsaved { SaveAgain, Discard, Stay };
+enum class Unsaved { SaveAgain, Discard, Stay, ShowNewValues };
 // What a user can export.
 struct ExportRequest
 {
@@ -76,10 +76,17 @@ public:
     }
     virtual void show(const QString & /*text*/) {}
     virtual void showWithCause(const QString & /*text*/, const QString & /*cause*/) {}
+    // The same about a record that somebody else has changed; true when the user wants to see what it is now.
+    // `cause` may be empty.
+    virtual bool offerNewValues(const QString & /*text*/, const QString & /*cause*/) { return false; }
     // True for Yes. Enter presses No.
     virtual bool ask(const QString & /*text*/, const QString & /*title*/) { return false; }
-    // `reason` says why the record wasn't saved.
-    virtual Unsaved askUnsaved(const QString & /*reason*/) { return Unsaved::Discard; }
+    // `reason` says why the record wasn't saved. ShowNewValues is an answer where somebody else has changed
+    // the record.
+    virtual Unsaved askUnsaved(const QString & /*reason*/, bool /*isChangedByOthers*/)
+    {
+        return Unsaved::Discard;
+    }
     // An empty text when the user cancels.
     virtual QString askCondition(const ConditionRequest &) { return {}; }
     // Nothing when there are no fields to look in.

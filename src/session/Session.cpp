@@ -121,7 +121,17 @@ QString Session::whyNot(const Command &command)
 
 QString Session::whyNot(DerivationStep step)
 {
-    return m_filter && m_result.isOpen() ? history().WhyNot(step) : QString();
+    const QString noHistory = whyNoHistory();
+    if (!noHistory.isEmpty() || !m_filter || !m_result.isOpen())
+        return noHistory;
+    return history().WhyNot(step);
+}
+
+// Another connection string has emptied the history, and no load has come after it.
+QString Session::whyNoHistory() const
+{
+    const bool isEmpty = m_filter && m_filter->SQLManager().Count() == 0;
+    return isEmpty && m_result.isOpen() ? SessionMessages::LoadFirst : QString();
 }
 
 void Session::goToTypedPage(const QString &text)

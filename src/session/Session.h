@@ -99,8 +99,9 @@ public:
 
     // Why a command can't run on what is shown now, for the user to read; empty when it can.
     QString whyNot(const Command &command);
-    // The same for a kind of statement that a command would derive.
+    // The same for a kind of statement that a command would derive, and for one of the history.
     QString whyNot(DerivationStep step);
+    QString whyNoHistory() const;
     // Runs the command of a key, whether or not its button is enabled; one that can't run ends silently. One
     // chosen from the menu needs an open result and shows many records again where its item says so.
     void run(const QString &key, ChosenBy by = ChosenBy::Button);
@@ -206,6 +207,9 @@ public:
     // The same for a control that is being destroyed, which can neither ask nor report. Answers why the
     // changes could not be saved, for the user to read.
     std::optional<QString> saveSilently();
+    // Reads the current record again and shows what somebody else has written. What the user wrote into it
+    // stays and is still not saved; he is shown where both changed the same field.
+    void showNewValues();
     // Whether something was written into the current record that is not saved yet.
     bool hasUnsavedChanges() const;
     // Whether records can be neither added, changed nor deleted.
@@ -241,7 +245,12 @@ private:
     // Whether what it works on is still there.
     bool hasGround() const { return !m_rules.worksOnLentResult || m_filter; }
     void cancelChanges();
-    std::optional<QString> trySave();
+    struct Failure
+    {
+        QString text; // for the user to read
+        bool isChangedByOthers = false;
+    };
+    std::optional<Failure> trySave();
 
     SessionWindow *m_window;
     Questions *m_questions;

@@ -13,6 +13,11 @@ inline const QString ReadFailed = u"数据库读失败。"_s;
 inline const QString PageErrorPrefix = u"无法翻页："_s;
 inline const QString NotAPageNumber = u"请在页数输入正整数."_s;
 inline const QString NotSavedPrefix = u"记录没有保存："_s;
+inline const QString NewValuesRefused = u"无法查看新值："_s;
+inline const QString ChangedFields =
+    u"您修改的内容尚未保存，其他用户也修改了下列字段。再次保存会替换其他用户的内容，按 Esc 放弃您的修改："_s;
+inline const QString ChangedField = u"\n%1：现在是“%2”，您填写的是“%3”"_s;
+inline const QString LoadFirst = u"连接字符串已经改变，请先加载数据。"_s;
 inline const QString InsertCancelled = u"再次插入空行操作已被取消"_s;
 inline const QString ReadOnly = u"记录只读，不能增加、修改或删除。"_s;
 inline const QString RecordsCopied = u"已复制 %1 条记录"_s;

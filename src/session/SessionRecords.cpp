@@ -74,7 +74,7 @@ bool Session::hasUnsavedChanges() const
 }
 
 // Why the record could not be saved; nothing when it was, or has nothing to be saved.
-std::optional<QString> Session::trySave()
+std::optional<Session::Failure> Session::trySave()
 {
     if (!m_result.isOpen())
         return {};
@@ -86,7 +86,8 @@ std::optional<QString> Session::trySave()
         saveChanges();
         return {};
     } catch (const ADODB::Error &error) {
-        return SessionMessages::NotSavedPrefix + error.Description();
+        return Failure{SessionMessages::NotSavedPrefix + error.Description(),
+                       error.is(ADODB::dbErrConcurrency)};
     }
 }
 
@@ -96,9 +97,13 @@ bool Session::saveRecord()
     const ResultWatch watch(*this);
     if (!commitEdit())
         return false;
-    const std::optional<QString> failure = trySave();
-    if (failure && watch.isUntouched())
-        m_questions->show(*failure);
+    const std::optional<Failure> failure = trySave();
+    if (failure && watch.isUntouched()) {
+        if (!failure->isChangedByOthers)
+            m_questions->show(failure->text);
+        else if (m_questions->offerNewValues(failure->text, {}) && watch.isUntouched())
+            showNewValues();
+    }
     return !failure && watch.isUntouched();
 }
 
@@ -107,14 +112,18 @@ bool Session::leaveResult()
     const auto alive = shared_from_this();
     const ResultWatch watch(*this);
     for (;;) {
-        std::optional<QString> failure = m_window->commitEdit();
-        if (!failure)
+        std::optional<Failure> failure;
+        if (const std::optional<QString> refused = m_window->commitEdit())
+            failure = Failure{*refused};
+        else
             failure = trySave();
         if (!failure || !watch.isUntouched())
             return watch.isUntouched();
-        const Unsaved choice = m_questions->askUnsaved(*failure);
+        const Unsaved choice = m_questions->askUnsaved(failure->text, failure->isChangedByOthers);
         if (!watch.isUntouched())
             return false;
+        if (choice == Unsaved::ShowNewValues)
+            showNewValues();
         if (choice == Unsaved::Discard)
             cancelRecord();
         if (choice != Unsaved::SaveAgain)
@@ -125,8 +134,10 @@ bool Session::leaveResult()
 std::optional<QString> Session::saveSilently()
 {
     const auto alive = shared_from_this();
-    const std::optional<QString> failure = m_window->commitEdit();
-    return failure ? failure : trySave();
+    if (const std::optional<QString> refused = m_window->commitEdit())
+        return refused;
+    const std::optional<Failure> failure = trySave();
+    return failure ? std::optional(failure->text) : std::nullopt;
 }
 
 void Session::setReadOnly(bool on)

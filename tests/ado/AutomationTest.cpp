@@ -95,6 +95,36 @@ TEST(Automation, EditsByNames)
     EXPECT_EQ(database.ask(u"SELECT count(*) FROM t"_s), u"3"_s);
 }
 
+TEST(Automation, TellsWhatSomebodyElseWrote)
+{
+    const TestDatabase database(script);
+    const auto recordset = database.open(u"SELECT * FROM t ORDER BY id"_s);
+    QObject *host = automation(recordset);
+    QSignalSpy errors(host, SIGNAL(HostError(qint32, QString)));
+    QObject *name = field(host, u"名称"_s);
+    EXPECT_TRUE(name->setProperty("Value", u"我"_s));
+    database.execute(u"UPDATE t SET 名称 = '他' WHERE id = 1"_s);
+    call(host, "Update");
+    ASSERT_EQ(errors.size(), 1);
+    EXPECT_EQ(errors[0][0], QVariant(qint32{ADODB::dbErrConcurrency}));
+    EXPECT_EQ(get(name, "UnderlyingValue"), QVariant(u"甲"_s)) << "nobody has asked yet";
+    EXPECT_TRUE(QMetaObject::invokeMethod(host, "Resync", Q_ARG(qint32, 1), Q_ARG(qint32, 1)));
+    EXPECT_EQ(get(name, "UnderlyingValue"), QVariant(u"他"_s));
+    EXPECT_EQ(get(name, "OriginalValue"), QVariant(u"甲"_s));
+    EXPECT_EQ(get(name, "Value"), QVariant(u"我"_s));
+    call(host, "Resync");
+    EXPECT_EQ(get(name, "Value"), QVariant(u"他"_s));
+    EXPECT_EQ(get(name, "OriginalValue"), QVariant(u"他"_s));
+    EXPECT_EQ(errors.size(), 1);
+    EXPECT_TRUE(QMetaObject::invokeMethod(host, "Resync", Q_ARG(qint32, 3)));
+    EXPECT_EQ(errors.size(), 2) << "only the current record";
+    EXPECT_TRUE(QMetaObject::invokeMethod(host, "Resync", Q_ARG(qint32, 1), Q_ARG(qint32, 7)));
+    EXPECT_EQ(errors.size(), 3);
+    database.execute(u"DELETE FROM t WHERE id = 1"_s);
+    call(host, "Resync");
+    EXPECT_EQ(errors.size(), 4);
+}
+
 TEST(Automation, ReportsFailuresByASignalAndAnswersNeutrally)
 {
     const TestDatabase database(script);

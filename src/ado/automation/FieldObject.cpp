@@ -35,6 +35,16 @@ void FieldObject::setValue(const QVariant &value)
     guarded(this, [&] { field().PutValue(value); });
 }
 
+QVariant FieldObject::originalValue()
+{
+    return guarded(this, [&] { return field().OriginalValue(); });
+}
+
+QVariant FieldObject::underlyingValue()
+{
+    return guarded(this, [&] { return field().UnderlyingValue(); });
+}
+
 qint32 FieldObject::definedSize()
 {
     return guarded(this, [&] { return field().DefinedSize(); });

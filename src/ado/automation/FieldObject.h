@@ -19,6 +19,8 @@ class KOVA_EXPORT FieldObject : public QObject
     Q_PROPERTY(QString Name READ name)
     Q_PROPERTY(qint32 Type READ type)
     Q_PROPERTY(QVariant Value READ value WRITE setValue)
+    Q_PROPERTY(QVariant OriginalValue READ originalValue)
+    Q_PROPERTY(QVariant UnderlyingValue READ underlyingValue)
     Q_PROPERTY(qint32 DefinedSize READ definedSize)
     Q_PROPERTY(qint32 Precision READ precision)
     Q_PROPERTY(qint32 NumericScale READ numericScale)
@@ -33,6 +35,8 @@ public:
     qint32 type();
     QVariant value();
     void setValue(const QVariant &value);
+    QVariant originalValue();
+    QVariant underlyingValue();
     qint32 definedSize();
     qint32 precision();
     qint32 numericScale();

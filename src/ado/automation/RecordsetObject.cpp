@@ -93,6 +93,13 @@ void RecordsetObject::Delete(qint32 affectRecords)
     guarded(this, [&] { m_recordset.Delete(static_cast<AffectEnum>(affectRecords)); });
 }
 
+void RecordsetObject::Resync(qint32 affectRecords, qint32 resyncValues)
+{
+    guarded(this, [&] {
+        m_recordset.Resync(static_cast<AffectEnum>(affectRecords), static_cast<ResyncEnum>(resyncValues));
+    });
+}
+
 bool RecordsetObject::isBOF()
 {
     return guardedOr(this, true, [&] { return m_recordset.isBOF(); });

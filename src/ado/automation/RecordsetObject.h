@@ -62,6 +62,7 @@ public:
     Q_INVOKABLE void Update();
     Q_INVOKABLE void CancelUpdate();
     Q_INVOKABLE void Delete(qint32 affectRecords = 1);
+    Q_INVOKABLE void Resync(qint32 affectRecords = 1, qint32 resyncValues = 2);
 
     // Accessors of the properties.
     bool isBOF();

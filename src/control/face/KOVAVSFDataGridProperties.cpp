@@ -8,6 +8,7 @@
 #include "grid/FlexGrid.h"
 #include "query/derivation/SqlText.h"
 #include "query/modQNVSFHFDataMain.h"
+#include "session/SessionWindow.h"
 #include "session/commands/CommandKeys.h"
 #include "sql/SelectParts.h"
 
@@ -194,6 +195,7 @@ void KOVAVSFDataGrid::PutConnectionString(const QString &text)
         return;
     d->session->shared.connectionString = text;
     d->session->filterManager().ClearFilter();
+    d->session->window().refreshCommands(); // those that need the history
 }
 
 QString KOVAVSFDataGrid::SQLShow() const

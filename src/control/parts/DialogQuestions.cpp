@@ -44,13 +44,21 @@ bool DialogQuestions::ask(const QString &text, const QString &title)
     return Messages::ask(m_parent, text, title, QMessageBox::Question, QMessageBox::No);
 }
 
-Unsaved DialogQuestions::askUnsaved(const QString &reason)
+bool DialogQuestions::offerNewValues(const QString &text, const QString &cause)
 {
-    switch (Messages::askToSave(m_parent, reason, GridTexts::UnsavedTitle)) {
+    return Messages::offer(m_parent, text, cause, GridTexts::ShowNewValues);
+}
+
+Unsaved DialogQuestions::askUnsaved(const QString &reason, bool isChangedByOthers)
+{
+    switch (Messages::askToSave(m_parent, reason, GridTexts::UnsavedTitle,
+                                isChangedByOthers ? GridTexts::ShowNewValues : QString())) {
     case QMessageBox::Save:
         return Unsaved::SaveAgain;
     case QMessageBox::Discard:
         return Unsaved::Discard;
+    case QMessageBox::NoButton:
+        return Unsaved::ShowNewValues;
     default:
         return Unsaved::Stay;
     }

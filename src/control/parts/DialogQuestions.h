@@ -24,7 +24,8 @@ public:
     void show(const QString &text) override;
     void showWithCause(const QString &text, const QString &cause) override;
     bool ask(const QString &text, const QString &title) override;
-    Unsaved askUnsaved(const QString &reason) override;
+    bool offerNewValues(const QString &text, const QString &cause) override;
+    Unsaved askUnsaved(const QString &reason, bool isChangedByOthers) override;
     QString askCondition(const ConditionRequest &request) override;
     std::optional<FindAnswer> askWords(const colDataFields &fields) override;
     std::optional<ExportAnswer> askExport(const ExportRequest &request) override;

@@ -18,6 +18,9 @@ inline const QString ValueRefusedPrefix = u"输入的内容无效："_s;
 // A record that can't be saved when its result is about to go.
 inline const QString UnsavedTitle = u"记录没有保存"_s;
 
+// A record that somebody else has changed.
+inline const QString ShowNewValues = u"查看新值(&V)"_s;
+
 // The line below the grid: position, count, statement.
 inline const QString RecordOf = u"第 %1 条，共 %2 条"_s;
 inline const QString NewRecord = u"新记录，共 %1 条"_s;

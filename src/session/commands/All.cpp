@@ -25,6 +25,7 @@ const Command::Registration registration({
     .needs = Needs::Records,
     .record = Record::IsListedAgain,
     .run = showAllFields,
+    .whyNot = [](Session &session) { return session.whyNoHistory(); },
 });
 
 } // namespace

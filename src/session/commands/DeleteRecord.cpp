@@ -47,13 +47,13 @@ void deleteCurrentRecord(Session &session)
 {
     const ADODB::Notifications::Hold hold(session.notifications());
     ADODB::Recordset &recordset = *session.result().recordset();
-    session.window().cancelEdit();
     if (recordset.EditMode() == ADODB::adEditAdd) {
         session.cancelRecord();
         return;
     }
     const qint64 position = recordset.AbsolutePosition();
     recordset.Delete(ADODB::adAffectCurrent);
+    session.window().cancelEdit(); // only now: a record that stays keeps what is being typed into it
     const qint64 next = std::min(position, recordset.RecordCount());
     if (next < 1)
         recordset.MoveFirst(); // off the deleted record: nothing is left
@@ -77,8 +77,13 @@ void deleteRecord(Session &session)
         deleteCurrentRecord(session);
     } catch (const ADODB::Error &error) {
         // Not every refusal is a constraint: the file may be read-only, the record changed by somebody else.
-        if (watch.isUntouched())
+        if (!watch.isUntouched())
+            return;
+        if (!error.is(ADODB::dbErrConcurrency))
             session.questions().showWithCause(SessionMessages::DeleteRefused, error.Description());
+        else if (session.questions().offerNewValues(SessionMessages::DeleteRefused, error.Description()) &&
+                 watch.isUntouched())
+            session.showNewValues();
     }
 }
 

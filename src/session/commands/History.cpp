@@ -39,6 +39,7 @@ const Command::Registration toPreview({
     .button = {{500, u"后退"_s, u"返回上一步的结果"_s}},
     .isInViewer = true,
     .run = [](Session &session) { goBack(session, &colShowSQLSentences::GetPreviewSQL); },
+    .whyNot = [](Session &session) { return session.whyNoHistory(); },
 });
 
 const Command::Registration toOrigin({
@@ -47,6 +48,7 @@ const Command::Registration toOrigin({
     .button = {{501, u"最初"_s, u"返回最初的结果"_s}},
     .isInViewer = true,
     .run = [](Session &session) { goBack(session, &colShowSQLSentences::GetFirstSQL); },
+    .whyNot = [](Session &session) { return session.whyNoHistory(); },
 });
 
 } // namespace

@@ -53,6 +53,7 @@ const Command::Registration registration({
     .needs = Needs::Records,
     .record = Record::IsListedAgain,
     .run = showPartFields,
+    .whyNot = [](Session &session) { return session.whyNoHistory(); },
 });
 
 } // namespace

@@ -38,6 +38,7 @@ const Command::Registration registration({
     .isInViewer = true,
     .viewerMenu = {5, u"显示整个表(&T)"_s},
     .run = showFullTable,
+    .whyNot = [](Session &session) { return session.whyNoHistory(); },
 });
 
 } // namespace

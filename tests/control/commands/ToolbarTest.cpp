@@ -337,3 +337,33 @@ TEST_F(Toolbar, RowsBeyondASixteenBitNumberAreCountedByTheLongCall)
         EXPECT_EQ(grid.GetGridRowL(), row);
     }
 }
+
+// What is shown then belongs to another connection, and so would what the commands make of it.
+TEST_F(Toolbar, IsGreyAfterAnotherConnectionStringUntilALoad)
+{
+    ASSERT_TRUE(load());
+    const QStringList needHistory{u"All"_s,  u"Part"_s,        u"SelField"_s,  u"Filter"_s,  u"QuickFilter"_s,
+                                  u"Sort"_s, u"ToFullTable"_s, u"ToPreview"_s, u"ToOrigin"_s};
+    const auto grey = [&] {
+        QStringList keys;
+        for (const QString &key : needHistory) {
+            if (!button(key)->isEnabled())
+                keys += key;
+        }
+        return keys;
+    };
+    EXPECT_EQ(grey(), QStringList());
+    const QString connection = grid.ConnectionString();
+    grid.PutConnectionString(u"Provider=SQLite;Data Source=/nowhere/shop.db"_s);
+    EXPECT_EQ(grey(), needHistory);
+    EXPECT_TRUE(button(u"Sort"_s)->toolTip().contains(u"请先加载数据"_s));
+    grid.PutSQLShow(u"SELECT * FROM nothing"_s);
+    EXPECT_FALSE(grid.IsLoadData());
+    EXPECT_EQ(grey(), needHistory) << "the load has failed";
+    EXPECT_EQ(rows(), records) << "what was shown can still be read";
+    grid.PutConnectionString(connection);
+    EXPECT_EQ(grey(), needHistory);
+    messages.clear();
+    ASSERT_TRUE(load());
+    EXPECT_EQ(grey(), QStringList());
+}

@@ -1,0 +1,81 @@
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "ado/ValueText.h"
+#include "session/Questions.h"
+#include "session/ResultWatch.h"
+#include "session/Session.h"
+#include "session/SessionMessages.h"
+#include "session/SessionWindow.h"
+
+#include <vector>
+
+// A record that somebody else has changed, read again under what the user wrote into it.
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+// A value that is not saved yet, over the one that the user saw when he wrote it.
+struct Written
+{
+    int field;
+    QVariant value;
+    QVariant before;
+};
+
+std::vector<Written> writtenValues(ADODB::Recordset &recordset)
+{
+    std::vector<Written> written;
+    for (int i = 0; i < recordset.Fields().Count(); ++i) {
+        const ADODB::Field &field = recordset.Fields().Item(i);
+        if (field.Value() != field.OriginalValue())
+            written.push_back({i, field.Value(), field.OriginalValue()});
+    }
+    return written;
+}
+
+// What both have changed, a line for each field.
+QString readAgain(ADODB::Recordset &recordset)
+{
+    const std::vector<Written> written = writtenValues(recordset);
+    recordset.Resync();
+    QString conflicts;
+    for (const Written &mine : written) {
+        ADODB::Field &field = recordset.Fields().Item(mine.field);
+        const QVariant now = field.OriginalValue();
+        if (now == mine.value)
+            continue;
+        field.PutValue(mine.value);
+        if (now != mine.before)
+            conflicts += SessionMessages::ChangedField.arg(field.Name(), ADODB::ValueText(now),
+                                                           ADODB::ValueText(mine.value));
+    }
+    return conflicts;
+}
+
+} // namespace
+
+void Session::showNewValues()
+{
+    const auto alive = shared_from_this();
+    const ResultWatch watch(*this);
+    if (!commitEdit())
+        return;
+    QString message;
+    {
+        const ADODB::Notifications::Hold hold(*m_notifications);
+        try {
+            message = readAgain(*m_result.recordset());
+            if (!message.isEmpty())
+                message.prepend(SessionMessages::ChangedFields);
+            m_window->refreshRecords();
+            m_window->refreshSingleRecord();
+        } catch (const ADODB::Error &error) {
+            message = SessionMessages::NewValuesRefused + error.Description();
+        }
+    }
+    if (!message.isEmpty() && watch.isUntouched())
+        m_questions->show(message);
+}
+
+} // namespace KOVAVSFDataGridLib
