@@ -1,5 +1,6 @@
 #include "HostWindow.h"
 
+#include "ConnectionEdit.h"
 #include "EventLog.h"
 #include "SampleDatabase.h"
 
@@ -7,7 +8,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
-#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDockWidget>
@@ -38,7 +39,7 @@ HostWindow::~HostWindow() = default;
 
 QWidget *HostWindow::makeForm(const Options &options)
 {
-    m_connection = new QLineEdit(options.connection);
+    m_connection = new ConnectionEdit(options.connection);
     m_dbType = new QComboBox;
     m_dbType->addItem(u"Access / SQLite"_s, KOVAVSFDataGrid::dbAccess);
     m_dbType->addItem(u"Oracle"_s, KOVAVSFDataGrid::dbOracle);
@@ -154,7 +155,7 @@ void HostWindow::listenToGrid()
 // empties the texts of the statement.
 void HostWindow::setUpGrid()
 {
-    m_grid->PutConnectionString(m_connection->text());
+    m_grid->PutConnectionString(m_connection->connection());
     m_grid->PutDBType(m_dbType->currentData().toInt());
     m_grid->PutTableType(m_tableType);
     m_grid->PutSQLShow(m_sql->text());
@@ -183,7 +184,10 @@ bool HostWindow::load()
 // The grid leaves the picture of the clicked record in this file; a record without one leaves no file.
 void HostWindow::showPicture()
 {
-    const QPixmap picture(QCoreApplication::applicationDirPath() + u"/PicRecord.bmp"_s);
+    const QFileInfo file(QCoreApplication::applicationDirPath() + u"/PicRecord.bmp"_s);
+    // One from before, in a folder that can't be written any more, is another record's.
+    const bool isOld = file.lastModified() < m_started;
+    const QPixmap picture = isOld ? QPixmap() : QPixmap(file.filePath());
     if (picture.isNull())
         m_picture->setText(u"（无图片）"_s);
     else

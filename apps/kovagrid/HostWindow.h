@@ -2,8 +2,10 @@
 
 #include "Options.h"
 
+#include <QtCore/QDateTime>
 #include <QtWidgets/QMainWindow>
 
+class ConnectionEdit;
 class EventLog;
 class KOVAVSFDataGrid;
 class QComboBox;
@@ -40,7 +42,7 @@ private:
     void showPicture();
 
     KOVAVSFDataGrid *m_grid;
-    QLineEdit *m_connection;
+    ConnectionEdit *m_connection;
     QComboBox *m_dbType;
     QLineEdit *m_sql;
     QLineEdit *m_part;
@@ -50,4 +52,5 @@ private:
     QList<QDockWidget *> m_docks;
     qint32 m_tableType;
     double m_seconds = 0;
+    const QDateTime m_started = QDateTime::currentDateTime();
 };

@@ -157,12 +157,16 @@ qint64 Recordset::RecordCount() const
 
 QString Recordset::CellText(qint64 record, int column) const
 {
-    return hasCell(record, column) ? d->snapshot->text(record, column) : QString();
+    if (!hasCell(record, column))
+        return {};
+    return withinMemory(Texts::outOfMemory, [&] { return d->snapshot->text(record, column); });
 }
 
 QVariant Recordset::CellValue(qint64 record, int column) const
 {
-    return hasCell(record, column) ? d->snapshot->value(record, column) : QVariant();
+    if (!hasCell(record, column))
+        return {};
+    return withinMemory(Texts::outOfMemory, [&] { return d->snapshot->value(record, column); });
 }
 
 bool Recordset::IsNull(qint64 record, int column) const

@@ -1,5 +1,6 @@
 #include "grid/RecordWindow.h"
 
+#include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "ado/values/NumericTypes.h"
 
@@ -20,8 +21,18 @@ QString RecordWindow::text(int row, int col) const
     if (col == 0)
         return row == 0 ? QString() : QString::number(row);
     if (row > 0)
-        return m_recordset->CellText(m_first + row - 1, col - 1);
+        return cellText(m_first + row - 1, col - 1);
     return col <= m_recordset->Fields().Count() ? m_recordset->Fields().Item(col - 1).Name() : QString();
+}
+
+// Cells are painted where nobody can catch anything; one that is too long for the memory says so.
+QString RecordWindow::cellText(qint64 record, int column) const
+{
+    try {
+        return m_recordset->CellText(record, column);
+    } catch (const ADODB::Error &error) {
+        return error.Description();
+    }
 }
 
 bool RecordWindow::isNumeric(int col) const

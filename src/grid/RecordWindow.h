@@ -28,6 +28,8 @@ public:
     bool setText(int, int, const QString &) override { return false; }
 
 private:
+    QString cellText(qint64 record, int column) const;
+
     std::shared_ptr<const ADODB::Recordset> m_recordset;
     int m_first;
     int m_count;

@@ -32,7 +32,8 @@ struct Kovagrid : testing::Test
         start(process, arguments);
         return outcomeOf(process);
     }
-    void start(QProcess &process, const QStringList &arguments)
+    void start(QProcess &process, const QStringList &arguments,
+               const QString &program = QString::fromUtf8(KOVAGRID))
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const QString &name : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
@@ -40,7 +41,7 @@ struct Kovagrid : testing::Test
         environment.insert(u"XDG_DATA_HOME"_s, home.path());
         environment.insert(u"XDG_CONFIG_HOME"_s, home.path());
         process.setProcessEnvironment(environment);
-        process.start(QString::fromUtf8(KOVAGRID), arguments);
+        process.start(program, arguments);
     }
     static Outcome outcomeOf(QProcess &process)
     {
@@ -243,3 +244,36 @@ TEST_P(BadUsage, IsExplainedAndExitCode2)
     EXPECT_TRUE(outcome.errors.contains(u"usage: kovagrid"_s));
     EXPECT_EQ(outcome.output, QString());
 }
+
+#if defined(Q_OS_LINUX) && !defined(__SANITIZE_ADDRESS__)
+// A long value takes its length several times over; with less memory than that the program says so and ends.
+TEST_F(Kovagrid, ReportsAValueThatIsTooLongForTheMemory)
+{
+    bool hasFailed = false;
+    bool hasLoaded = false;
+    for (const char *kibibytes : {"600000", "900000", "1100000", "1200000", "unlimited"}) {
+        const QStringList arguments{QString::fromUtf8(KOVAGRID),
+                                    u"--connection"_s,
+                                    database.connectionString(),
+                                    u"--sql"_s,
+                                    u"select printf('%.*c', 160000000, 'x') as a"_s,
+                                    u"--table-type"_s,
+                                    u"sql"_s,
+                                    u"--do"_s,
+                                    u"SingleRecord,AllRecord"_s};
+        QProcess process;
+        start(process,
+              QStringList{u"-c"_s, u"ulimit -v %1; exec \"$0\" \"$@\""_s.arg(QLatin1StringView(kibibytes))} +
+                  arguments,
+              u"/bin/sh"_s);
+        const Outcome outcome = outcomeOf(process);
+        ASSERT_TRUE(outcome.exitCode == 0 || outcome.exitCode == 1) << kibibytes << ": it broke down";
+        hasFailed = hasFailed || outcome.exitCode == 1;
+        hasLoaded = hasLoaded || outcome.exitCode == 0;
+        if (outcome.exitCode == 1)
+            EXPECT_TRUE(outcome.errors.contains(u"内存不足"_s)) << kibibytes << outcome.errors.toStdString();
+    }
+    EXPECT_TRUE(hasFailed);
+    EXPECT_TRUE(hasLoaded);
+}
+#endif

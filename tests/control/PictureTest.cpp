@@ -1,6 +1,8 @@
 // The picture of a clicked record, which is left in a file beside the host program.
 #include "GridFixture.h"
 
+#include "support/MessageAnswers.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtTest/QSignalSpy>
@@ -114,4 +116,23 @@ TEST_F(Picture, IsNotWrittenBeforeALoad)
     grid.PutPicField(u"Photo"_s);
     click(1, 1);
     EXPECT_EQ(left(), "no file");
+}
+
+// A folder in the file's place can neither be removed nor emptied, whoever runs the test.
+TEST_F(Picture, ThatCannotBeWrittenIsReportedOnce)
+{
+    show(u"Photo"_s);
+    ASSERT_TRUE(QDir().mkdir(file));
+    MessageAnswers messages;
+    QSignalSpy clicks(&grid, &KOVAVSFDataGrid::DataClick);
+    click(1, 1);
+    click(3, 1);
+    click(2, 1);
+    ASSERT_EQ(messages.texts().size(), 1);
+    EXPECT_TRUE(messages.texts().front().startsWith(u"无法写入文件："_s));
+    EXPECT_EQ(clicks.count(), 3) << "the host is told all the same";
+    ASSERT_TRUE(QDir().rmdir(file));
+    click(1, 1);
+    EXPECT_EQ(left(), Bitmap);
+    EXPECT_EQ(messages.texts().size(), 1);
 }

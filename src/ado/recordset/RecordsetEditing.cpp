@@ -1,25 +1,9 @@
 #include "ado/recordset/RecordsetPrivate.h"
 #include "ado/values/FieldValue.h"
 
-#include <new>
-
 // The members of Recordset that change records, and the current record's values.
 
 namespace ADODB {
-
-namespace {
-
-template<typename Action>
-auto withinMemory(Action &&action)
-{
-    try {
-        return action();
-    } catch (const std::bad_alloc &) {
-        throw Error(dbErrFailed, Texts::changeOutOfMemory());
-    }
-}
-
-} // namespace
 
 EditModeEnum Recordset::EditMode() const
 {
@@ -55,11 +39,11 @@ void Recordset::Update()
 {
     switch (d->edit().mode()) {
     case adEditAdd:
-        withinMemory([&] { d->edit().saveNew(d->rows()); });
+        withinMemory(Texts::changeOutOfMemory, [&] { d->edit().saveNew(d->rows()); });
         d->position.append();
         break;
     case adEditInProgress:
-        withinMemory([&] { d->edit().saveChanges(d->rows(), d->currentRecord()); });
+        withinMemory(Texts::changeOutOfMemory, [&] { d->edit().saveChanges(d->rows(), d->currentRecord()); });
         break;
     default:
         return;
@@ -91,7 +75,7 @@ void Recordset::Delete(AffectEnum affect)
         throw Error(adErrInvalidArgument, Texts::onlyCurrentRecord());
     if (d->isAdding()) // nothing of it is in the database yet
         return CancelUpdate();
-    withinMemory([&] { d->edit().remove(d->rows(), d->currentRecord()); });
+    withinMemory(Texts::changeOutOfMemory, [&] { d->edit().remove(d->rows(), d->currentRecord()); });
     d->position.removeCurrent();
     d->underlying.reset();
     d->notifyChanged(adRsnDelete);
@@ -106,7 +90,7 @@ void Recordset::Resync(AffectEnum affect, ResyncEnum what)
     if (d->isAdding())
         throw Error(adErrNoCurrentRecord, Texts::noCurrentRecord());
     const qint64 record = d->currentRecord();
-    RowStore now = withinMemory([&] { return d->edit().readAgain(d->rows(), record); });
+    RowStore now = withinMemory(Texts::outOfMemory, [&] { return d->edit().readAgain(d->rows(), record); });
     if (what == adResyncUnderlyingValues) {
         d->underlying = std::move(now);
         d->underlyingRecord = record;
@@ -120,14 +104,18 @@ void Recordset::Resync(AffectEnum affect, ResyncEnum what)
 
 QVariant Recordset::originalValue(int column) const
 {
-    return d->isAdding() ? QVariant() : d->rows().value(d->currentRecord(), column);
+    if (d->isAdding())
+        return {};
+    return withinMemory(Texts::outOfMemory, [&] { return d->rows().value(d->currentRecord(), column); });
 }
 
 QVariant Recordset::underlyingValue(int column) const
 {
     if (d->isAdding() || !d->underlying || d->underlyingRecord != d->currentRecord())
         return originalValue(column);
-    return FieldValue::fromRaw(d->underlying->cell(0, column), fieldInfo(column).type);
+    return withinMemory(Texts::outOfMemory, [&] {
+        return FieldValue::fromRaw(d->underlying->cell(0, column), fieldInfo(column).type);
+    });
 }
 
 QVariant Recordset::currentValue(int column) const
@@ -143,7 +131,7 @@ void Recordset::putCurrentValue(int column, const QVariant &value)
     if (!d->isAdding())
         d->currentRecord();
     const bool first = d->edit().isEmpty();
-    withinMemory([&] { d->edit().set(column, value, d->rows()); });
+    withinMemory(Texts::changeOutOfMemory, [&] { d->edit().set(column, value, d->rows()); });
     if (first)
         d->notifyChanged(adRsnFirstChange);
 }

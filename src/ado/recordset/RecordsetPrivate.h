@@ -11,12 +11,24 @@
 #include <QtCore/QObject>
 
 #include <algorithm>
+#include <new>
 #include <optional>
 #include <vector>
 
 namespace ADODB {
 
 class Session;
+
+// Runs `action`; what it has no memory for becomes an error of the data access with `text`.
+template<typename Action>
+auto withinMemory(QString (*text)(), Action &&action)
+{
+    try {
+        return action();
+    } catch (const std::bad_alloc &) {
+        throw Error(dbErrFailed, text());
+    }
+}
 
 // What a recordset keeps and its groups of members share: opening is in Recordset.cpp, moving in
 // RecordsetMoves.cpp, editing in RecordsetEditing.cpp.

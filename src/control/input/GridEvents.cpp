@@ -3,6 +3,7 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "ado/Stream.h"
+#include "ado/Texts.h"
 #include "control/face/KOVAVSFDataGrid.h"
 #include "control/input/KeyCodes.h"
 #include "control/input/MenuKey.h"
@@ -10,6 +11,7 @@
 #include "control/parts/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
+#include "session/Questions.h"
 #include "session/Session.h"
 
 #include <QtCore/QCoreApplication>
@@ -151,11 +153,31 @@ GridEvents::Place GridEvents::placeOf(const QWidget &source, const QMouseEvent &
 
 void GridEvents::clicked(Place place)
 {
-    QFile::remove(pictureFile());
-    if (!isData(place) || m_parts.vsfgDataGrid->Row() == 0 || !m_session.result().isOpen())
+    const QPointer<KOVAVSFDataGrid> alive(&m_control);
+    const bool isRemoved = removePicture();
+    if (!alive || !isData(place) || m_parts.vsfgDataGrid->Row() == 0 || !m_session.result().isOpen())
         return;
-    writePicture();
-    Q_EMIT m_control.DataClick();
+    if (isRemoved)
+        writePicture();
+    if (alive)
+        Q_EMIT m_control.DataClick();
+}
+
+// A picture of another record must not stay. Where the folder doesn't let go of the file, the file is
+// emptied.
+bool GridEvents::removePicture()
+{
+    QFile file(pictureFile());
+    if (!file.exists() || file.remove() || file.resize(0))
+        return true;
+    reportPicture(ADODB::Texts::fileNotWritten().arg(file.fileName(), file.errorString()));
+    return false;
+}
+
+void GridEvents::reportPicture(const QString &description)
+{
+    if (!std::exchange(m_isPictureReported, true))
+        m_session.questions().show(description);
 }
 
 void GridEvents::followGridRow()
@@ -188,10 +210,13 @@ void GridEvents::writePicture()
         stream.PutType(ADODB::adTypeBinary);
         stream.Open();
         stream.Write(picture.toByteArray());
-        stream.SaveToFile(pictureFile(), ADODB::adSaveCreateNotExist);
+        // One that could only be emptied is still there.
+        const bool isThere = QFile::exists(pictureFile());
+        stream.SaveToFile(pictureFile(),
+                          isThere ? ADODB::adSaveCreateOverWrite : ADODB::adSaveCreateNotExist);
         stream.Close();
-    } catch (const ADODB::Error &) {
-        // No picture then: the host finds no file, as for a record without one.
+    } catch (const ADODB::Error &error) {
+        reportPicture(error.Description()); // the host finds no file, as for a record without one
     }
 }
 

@@ -52,14 +52,17 @@ private:
     void makeCurrent(Place place, const QPoint &position);
     void askForMenu(const QPoint &position);
     void clicked(Place place);
+    bool removePicture();
     void writePicture();
+    void reportPicture(const QString &description);
     bool isGridSurface(const QObject *object) const;
     Place placeOf(const QWidget &source, const QMouseEvent &event) const;
 
     KOVAVSFDataGrid &m_control;
     const GridParts &m_parts;
     Session &m_session;
-    bool m_isPressed = false; // the left button, and no double-click has come of it
+    bool m_isPictureReported = false; // that the file can't be written is said once
+    bool m_isPressed = false;         // the left button, and no double-click has come of it
 };
 
 } // namespace KOVAVSFDataGridLib
