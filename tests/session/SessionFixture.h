@@ -24,7 +24,7 @@ QT_END_NAMESPACE
 namespace KovaTest {
 
 // A window made of plain values.
-class PlainWindow final : public KOVAVSFDataGridLib::SessionWindow
+class PlainWindow : public KOVAVSFDataGridLib::SessionWindow
 {
 public:
     int Cols() const override { return static_cast<int>(headings.size()) + 1; }

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QtCore/QString>
+
+namespace KovaTest {
+
+// The calls of ODBC that the data access makes, of which any can be made to fail. The program defines them
+// itself and hands them on to the driver manager.
+namespace FaultyOdbc {
+
+enum class Fault {
+    NotDone, // the driver does nothing and reports an error
+    Done,    // it does what it was asked for and then reports an error
+    Memory,  // it has no memory for it
+    Lost     // the connection is gone, for this call and all that follow
+};
+
+// The call with this number, counted from 1 from now on, fails.
+void failAt(int call, Fault fault);
+void stopFailing();
+// The name of the call that has failed since failAt(); empty when none has.
+QString failed();
+
+// What the driver says of a failed call.
+inline const char *const words = "injected by the test";
+
+} // namespace FaultyOdbc
+
+} // namespace KovaTest
