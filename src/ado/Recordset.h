@@ -114,7 +114,7 @@ public:
     // Random access for views: `record` is 1…RecordCount, `column` is 0-based. They neither move nor notify.
     // They return saved values, not those of a pending edit. Texts are those of ValueText(). Outside the
     // range, or if closed, they return an empty text, Null and true.
-    // Both throw dbErrFailed when there is no memory for a long value.
+    // CellText and CellValue throw dbErrFailed if there is no memory for a long value.
     QString CellText(qint64 record, int column) const;
     QVariant CellValue(qint64 record, int column) const;
     bool IsNull(qint64 record, int column) const;

@@ -134,7 +134,7 @@ bool Session::leaveResult()
 std::optional<QString> Session::saveSilently()
 {
     const auto alive = shared_from_this();
-    if (const std::optional<QString> refused = m_window->commitEdit())
+    if (std::optional<QString> refused = m_window->commitEdit())
         return refused;
     const std::optional<Failure> failure = trySave();
     return failure ? std::optional(failure->text) : std::nullopt;

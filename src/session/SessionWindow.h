@@ -51,6 +51,7 @@ class SessionWindow : public ColumnView
 public:
     // Shows `count` records from `first` (from 1) on and makes the first row current; without a recordset
     // the headings alone remain.
+    // NOLINTNEXTLINE(performance-unnecessary-value-param): a window that shows them keeps them
     virtual void showRecords(std::shared_ptr<ADODB::Recordset>, qint64 /*first*/, int /*count*/) {}
     // The same records have other values.
     virtual void refreshRecords() {}

@@ -35,6 +35,15 @@ QString momentLiteral(Engine engine, QLatin1StringView word, const QVariant &val
     return engine == Engine::Oracle ? word + u' ' + quoted : quoted;
 }
 
+// In PostgreSQL it depends on a setting of the session what a backslash means, except in such a text.
+QString plainText(Dialect dialect, Engine engine, const QString &text)
+{
+    if (engine != Engine::PostgreSQL || !text.contains(u'\\'))
+        return textLiteral(dialect, text);
+    dialect.escapesByBackslash = true;
+    return u'E' + textLiteral(dialect, text);
+}
+
 } // namespace
 
 QString sqlValue(const Dialect &dialect, const QVariant &value)
@@ -62,7 +71,7 @@ QString sqlValue(const Dialect &dialect, const QVariant &value)
     case QMetaType::QDateTime:
         return momentLiteral(engine, "TIMESTAMP"_L1, value);
     default:
-        return textLiteral(dialect, ADODB::ValueText(value));
+        return plainText(dialect, engine, ADODB::ValueText(value));
     }
 }
 

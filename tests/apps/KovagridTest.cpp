@@ -270,8 +270,9 @@ TEST_F(Kovagrid, ReportsAValueThatIsTooLongForTheMemory)
         ASSERT_TRUE(outcome.exitCode == 0 || outcome.exitCode == 1) << kibibytes << ": it broke down";
         hasFailed = hasFailed || outcome.exitCode == 1;
         hasLoaded = hasLoaded || outcome.exitCode == 0;
-        if (outcome.exitCode == 1)
+        if (outcome.exitCode == 1) {
             EXPECT_TRUE(outcome.errors.contains(u"内存不足"_s)) << kibibytes << outcome.errors.toStdString();
+        }
     }
     EXPECT_TRUE(hasFailed);
     EXPECT_TRUE(hasLoaded);

@@ -6,7 +6,6 @@
 
 #include "../journeys/JourneyDatabase.h"
 
-#include "ado/EngineOf.h"
 #include "ado/Error.h"
 #include "filter/FilterCondition.h"
 #include "sql/Names.h"
@@ -133,7 +132,9 @@ QString shapeOf(const QString &statement, SqlDialect reading, const SqlQuoting &
             shape += sql.text(i).toString().toUpper() + u' ';
         }
     }
-    shape.replace(u"N T "_s, u"T "_s);
+    shape.prepend(u' ');
+    shape.replace(u" N T "_s, u" T "_s);
+    shape.replace(u" E T "_s, u" T "_s);
     for (QString before; before != shape;) {
         before = shape;
         shape.replace(u"{ FN CONCAT ( T , T ) } "_s, u"T "_s);
@@ -225,8 +226,12 @@ protected:
         }
         return ids.join(u' ');
     }
-    // Not every character is there in the connection's character set; such a value finds nothing.
-    bool isReadable(const QString &text) { return window.rows.value(0).contains(text); }
+    // Backslashes are doubled for MariaDB in every mode: where it takes them as they are, a value with one
+    // finds nothing. It stays a value.
+    bool isWrittenRightly(const QString &text) const
+    {
+        return mode.quoting.backslashEscapes || !text.contains(u'\\');
+    }
     // Known refusals, before anything has been run.
     bool isRefused()
     {
@@ -283,7 +288,7 @@ TEST_P(SessionInjection, ValuesAndWordsGiveTheirOwnRecords)
         const QString id = QString::number(i + 1);
         SCOPED_TRACE(text.toStdString());
         ASSERT_EQ(window.rows.size(), corpus().size() + 1);
-        const bool isReadable = window.rows[i] == id + u' ' + text + u" 1"_s;
+        const bool isReadable = window.rows[i] == id + u' ' + text + u" 1"_s && isWrittenRightly(text);
         filterByCell(static_cast<int>(i) + 1);
         if (!isRefused()) {
             EXPECT_EQ(shape(), cellShape) << session->statement().toStdString();
@@ -318,6 +323,8 @@ TEST_P(SessionInjection, WrittenValuesAreStoredAsTheyAre)
 {
     if (!engine->isWritable())
         GTEST_SKIP() << "can only be read";
+    if (QByteArray(mode.settings).contains("SET NAMES"))
+        GTEST_SKIP() << "server and driver take the bytes for different characters";
     ASSERT_TRUE(load(u"SELECT * FROM kova_words"_s));
     ADODB::Recordset &recordset = *session->result().recordset();
     for (qsizetype i = 0; i < corpus().size() && !HasFailure(); ++i) {
@@ -328,8 +335,9 @@ TEST_P(SessionInjection, WrittenValuesAreStoredAsTheyAre)
             recordset.Fields().Item(1).PutValue(text);
             recordset.Update();
             // What the connection's character set doesn't have may be stored as something else, which shows.
-            if (recordset.CellText(corpus().size() + 1, 1) == text)
+            if (recordset.CellText(corpus().size() + 1, 1) == text) {
                 EXPECT_EQ(stored(1000), text);
+            }
         } catch (const ADODB::Error &error) {
             recordset.CancelUpdate();
             EXPECT_NE(stored(1000), text) << error.what();
@@ -340,6 +348,8 @@ TEST_P(SessionInjection, WrittenValuesAreStoredAsTheyAre)
 
 TEST_P(SessionInjection, CopiedStatementsHoldTheirOwnValues)
 {
+    if (QByteArray(mode.settings).contains("SET NAMES"))
+        GTEST_SKIP() << "server and driver take the bytes for different characters";
     ASSERT_TRUE(load(u"SELECT * FROM kova_words"_s));
     std::optional<OdbcSession> other;
     const bool isServer = engine->store == JourneyEngine::Server;
@@ -351,7 +361,8 @@ TEST_P(SessionInjection, CopiedStatementsHoldTheirOwnValues)
         const QString text = corpus().value(i, u"abc"_s);
         const int id = i == corpus().size() ? 1000 : static_cast<int>(i) + 1;
         SCOPED_TRACE(text.toStdString());
-        const bool isReadable = window.rows[i] == QString::number(id) + u' ' + text + u" 1"_s;
+        const bool isReadable =
+            window.rows[i] == QString::number(id) + u' ' + text + u" 1"_s && isWrittenRightly(text);
         window.currentRow = static_cast<int>(i) + 1;
         window.currentColumn = 2;
         session->run(u"CopyAsInList"_s);

@@ -176,7 +176,7 @@ std::optional<bool> switchIn(const ConnectionString &words, const QString &keywo
 
 QString takeOut(ConnectionString &words, const QString &keyword)
 {
-    const QString value = words.value(keyword);
+    QString value = words.value(keyword);
     words.remove(keyword);
     return value;
 }

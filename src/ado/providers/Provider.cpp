@@ -58,8 +58,9 @@ std::shared_ptr<Session> openSession(const ConnectionString &connection)
 
 ProviderRegistration::ProviderRegistration(const Provider &provider) : m_provider(&provider)
 {
-    knownProviders().push_back(m_provider);
-    std::ranges::rotate(knownProviders(), std::prev(knownProviders().end()));
+    std::vector<const Provider *> &known = knownProviders();
+    known.push_back(m_provider);
+    std::rotate(known.begin(), std::prev(known.end()), known.end());
 }
 
 ProviderRegistration::~ProviderRegistration()

@@ -65,7 +65,7 @@ struct Recordset::Private
     RecordEditor &edit()
     {
         rows();
-        return *editor;
+        return *editor; // NOLINT(bugprone-unchecked-optional-access): it is there while the rows are
     }
     void needClosed() const
     {

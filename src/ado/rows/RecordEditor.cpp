@@ -80,6 +80,7 @@ void RecordEditor::cancel()
 std::vector<Change> RecordEditor::changes() const
 {
     std::vector<Change> changes;
+    changes.reserve(m_values.size());
     for (const auto &[column, value] : m_values)
         changes.push_back({column, FieldValue::toStorage(value)});
     return changes;

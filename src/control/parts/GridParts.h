@@ -30,6 +30,7 @@ public:
     static constexpr int minimumHeight = 1500; // twips
 
     explicit GridParts(QWidget &control);
+    Q_DISABLE_COPY_MOVE(GridParts)
 
     QWidget *picMainBack;
     GridToolbar *Toolbar1;

@@ -21,6 +21,7 @@ class ViewerParts
 {
 public:
     explicit ViewerParts(QDialog &window);
+    Q_DISABLE_COPY_MOVE(ViewerParts)
 
     QWidget *picBox;
     QFrame *fraTitle;

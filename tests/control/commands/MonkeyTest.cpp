@@ -3,9 +3,12 @@
 
 #include "support/Dialogs.h"
 
+#include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QMenu>
 
+#include <optional>
 #include <random>
 
 using namespace KovaTest;
@@ -223,6 +226,29 @@ protected:
     std::unique_ptr<Windows> windows = std::make_unique<Windows>(*this);
 };
 
+// What the process holds, where the system says so.
+struct Held
+{
+    qint64 kibibytes = 0;
+    qsizetype files = 0;
+};
+
+Held heldNow()
+{
+    QFile status(u"/proc/self/status"_s);
+    if (!status.open(QIODevice::ReadOnly))
+        return {};
+    Held held;
+    const QList<QByteArray> lines = status.readAll().split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.startsWith("VmRSS:"))
+            held.kibibytes = line.mid(6).trimmed().split(' ').first().toLongLong();
+    }
+    held.files =
+        QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
+    return held;
+}
+
 int numberFrom(const char *variable, int otherwise)
 {
     bool isNumber = false;
@@ -242,12 +268,24 @@ TEST_F(Monkey, FindsNothingThatBreaksTheControl)
         u"WITH RECURSIVE n(i) AS (SELECT 100 UNION ALL SELECT i+1 FROM n WHERE i < 300)"
         " INSERT INTO 商品(ID,名称,城市) SELECT i, '茶' || i, CASE WHEN i % 5 THEN '大连' END FROM n"_s);
     ASSERT_TRUE(load());
+    constexpr int stepsBetweenLooks = 50'000;
+    std::optional<Held> first;
     for (int i = 0; i < steps && !HasFailure(); ++i) {
         const std::string what = step();
         checkInvariants();
         ASSERT_FALSE(HasFailure()) << "after step " << i << ", a " << what;
         if (i % 150 == 149) { // conditions grow too long to be worth while
             loadAgain();
+        }
+        if (i % stepsBetweenLooks == stepsBetweenLooks - 1) {
+            const Held held = heldNow();
+            std::printf("monkey: step %d, %lld KiB, %lld files\n", i + 1,
+                        static_cast<long long>(held.kibibytes), static_cast<long long>(held.files));
+            std::fflush(stdout);
+            if (!first)
+                first = held;
+            EXPECT_LT(held.kibibytes, first->kibibytes + first->kibibytes / 4 + 20'000);
+            EXPECT_LE(held.files, first->files + 5);
         }
     }
     std::printf("monkey: %d dialogs, %d menus, %d message boxes, %s records left\n", dialogs, menus, boxes,

@@ -24,7 +24,7 @@ inline bool succeeded(SQLRETURN code)
 // Attributes carry plain numbers where a pointer is declared.
 inline SQLPOINTER asPointer(std::uintptr_t number)
 {
-    return reinterpret_cast<SQLPOINTER>(number);
+    return reinterpret_cast<SQLPOINTER>(number); // NOLINT(performance-no-int-to-ptr): never dereferenced
 }
 
 // ODBC takes its texts as not constant but does not write to them. The text must outlive the call.

@@ -147,8 +147,9 @@ void OdbcLogin::take(const ConnectionString &connection)
     for (const auto &[keyword, value] : connection.parts()) {
         if (isOneOf(keyword, adoOnly) || sameWord(keyword, u"Data Source"))
             continue;
-        const auto synonym = std::find_if(std::begin(synonyms), std::end(synonyms),
-                                          [&](const auto &pair) { return sameWord(keyword, pair.first); });
+        const auto synonym =
+            std::find_if(std::begin(synonyms), std::end(synonyms),
+                         [&word = keyword](const auto &pair) { return sameWord(word, pair.first); });
         put(synonym == std::end(synonyms) ? keyword : synonym->second.toString(), value);
     }
 }

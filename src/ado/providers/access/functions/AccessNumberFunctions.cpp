@@ -108,7 +108,7 @@ bool isNumber(const AccessCall &call, int index)
 {
     bool isNumber = true;
     if (call.isText(index))
-        call.text(index).toDouble(&isNumber);
+        static_cast<void>(call.text(index).toDouble(&isNumber));
     return isNumber;
 }
 
