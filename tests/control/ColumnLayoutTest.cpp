@@ -33,6 +33,13 @@ struct OneTable final : FieldReader
     }
 };
 
+// A window without a line of conditions.
+struct PlainWindow final : GridWindow
+{
+    using GridWindow::GridWindow;
+    void showConditions(const QStringList & /*words*/) override {}
+};
+
 struct Layout : testing::Test
 {
     Layout()
@@ -77,7 +84,7 @@ struct Layout : testing::Test
     colShowSQLSentences history{&reader};
     VSFlexGrid grid;
     GridToolbar toolbar;
-    GridWindow window{grid, toolbar};
+    PlainWindow window{grid, toolbar};
     ColumnLayout columns{window, history};
 };
 

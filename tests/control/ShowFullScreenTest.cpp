@@ -274,5 +274,6 @@ TEST_F(HandBack, AControlThatIsDestroyedMeanwhileTakesTheViewerAlong)
     other->fillPage();
     QObject::connect(form, &QObject::destroyed, form, [&] { other->detach(); });
     QTimer::singleShot(0, form, [form] { delete form; });
-    EXPECT_FALSE(ShowFullScreen(*form, *other, others, [](QWidget *) { return QString(); }));
+    EXPECT_FALSE(
+        ShowFullScreen(*form, *other, others, [](QWidget *, const ConditionRequest &) { return QString(); }));
 }

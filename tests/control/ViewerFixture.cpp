@@ -187,7 +187,7 @@ ViewerHost Viewer::lend()
             result.replaceBy(ResultSet::open(database.connectionString(), sql, dbAccess, progress));
             return ResultSet::Opened{database.connectionString(), result.connection(), result.recordset()};
         },
-        [this](QWidget *) { return condition; }};
+        [this](QWidget *, const ConditionRequest &) { return condition; }};
 }
 
 void Viewer::show(qint32 page, bool isAll)

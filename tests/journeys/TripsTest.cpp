@@ -95,7 +95,6 @@ TEST_P(Trips, OfSortingFilteringAndGoingBack)
 
 TEST_P(Trips, OfTheFilterDialog)
 {
-    int applied = 0;
     WindowAnswers dialogs({[&](QDialog &dialog) {
         EXPECT_LE(proxy->trips(), server.filterDialog) << "until it shows";
         buildFilter(dialog, u"name"_s, u"等于"_s, u"b"_s);
