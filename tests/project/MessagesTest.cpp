@@ -21,7 +21,8 @@ bool isMessage(const QString &name, const QString &text)
     static const QStringList withoutFullStop{u"InsertCancelled"_s, u"AtLeastOneField"_s,
                                              u"CantReadAtRunTime"_s, u"CantSetAtRunTime"_s};
     static const QRegularExpression sentence(u"([。！!？?.](（%\\d）)?|：(%\\d(（%\\d）)?)?)\\s*$"_s);
-    static const QRegularExpression noMessage(u"^（|Hint$|Tip$|^DataSource$|^Driver$"_s);
+    static const QRegularExpression noMessage(
+        u"^（|Hint$|Tip$|^DataSource$|^Driver$|^RemoveCondition$|^FormatOfColumn$|^FormatSample$"_s);
     return withoutFullStop.contains(name) ||
            (sentence.match(text).hasMatch() && !name.contains(noMessage) && !text.contains(noMessage));
 }

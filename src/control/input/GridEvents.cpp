@@ -134,12 +134,13 @@ void GridEvents::mouseReleased(QWidget &source, QMouseEvent &event)
         followGridRow();
     if (alive && event.button() == Qt::LeftButton && std::exchange(m_isPressed, false))
         clicked(place);
-    if (alive && event.button() == Qt::RightButton)
-        askForMenu(event.globalPosition().toPoint());
-    if (alive && event.button() == Qt::RightButton && place == Place::Heading && canShowMenu()) {
-        const int col = m_parts.vsfgDataGrid->ColumnOfHeadingAt(event.position().toPoint());
-        if (col > 0)
+    if (alive && event.button() == Qt::RightButton) {
+        const int col =
+            place == Place::Heading ? m_parts.vsfgDataGrid->ColumnOfHeadingAt(event.position().toPoint()) : 0;
+        if (col > 0 && canShowMenu())
             Q_EMIT headingMenuWanted(col, event.globalPosition().toPoint());
+        else
+            askForMenu(event.globalPosition().toPoint());
     }
     if (alive)
         Q_EMIT m_control.DataMouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
