@@ -181,6 +181,14 @@ QString joinStatementLines(const QString &statement)
             joined += QStringView(statement).mid(i, size);
             i += size;
             quotedEnd = joined.size();
+        } else if (QStringView(statement).mid(i).startsWith(u"/*")) {
+            // Kept, because some engines read hints in it; quotes and dashes mean nothing there.
+            const auto end = statement.indexOf(QStringLiteral("*/"), i + 2);
+            const auto size = end < 0 ? statement.size() - i : end + 2 - i;
+            for (const QChar part : QStringView(statement).mid(i, size))
+                joined += isBreak(part) ? QChar(u' ') : part;
+            i += size;
+            quotedEnd = joined.size();
         } else if (QStringView(statement).mid(i).startsWith(u"--")) {
             while (i < statement.size() && statement.at(i) != u'\n' && statement.at(i) != u'\r')
                 ++i;
