@@ -71,15 +71,25 @@ TEST_F(GridMenu, ComesWithTheRightButtonOnDataBeforeTheHostIsTold)
     EXPECT_EQ(menusAtMouseUp, 1);
 }
 
-TEST_F(GridMenu, ComesWithNoOtherButtonOrPlace)
+TEST_F(GridMenu, ComesWithNoOtherButton)
 {
     fill(u"select ID from T"_s);
     click(Qt::LeftButton, rowPlace(2));
     click(Qt::MiddleButton, rowPlace(2));
-    click(Qt::RightButton, {10, parts.vsfgDataGrid->viewport()->height() - 3});
-    QTest::mouseClick(parts.vsfgDataGrid->horizontalHeader()->viewport(), Qt::RightButton, {}, {5, 5});
     EXPECT_EQ(menus.count(), 0);
-    EXPECT_EQ(menusAtMouseUp, 0) << "the host is told all the same";
+    EXPECT_EQ(menusAtMouseUp, 0) << "the host hears of the click all the same";
+}
+
+TEST_F(GridMenu, ComesBelowTheLastRecordAndForAColumnOnItsHeading)
+{
+    fill(u"select ID from T"_s);
+    QSignalSpy headingMenus(&events, &GridEvents::headingMenuWanted);
+    click(Qt::RightButton, {10, parts.vsfgDataGrid->viewport()->height() - 3});
+    EXPECT_EQ(menus.count(), 1);
+    QTest::mouseClick(parts.vsfgDataGrid->horizontalHeader()->viewport(), Qt::RightButton, {}, {5, 5});
+    EXPECT_EQ(menus.count(), 1);
+    ASSERT_EQ(headingMenus.count(), 1);
+    EXPECT_EQ(headingMenus.at(0).at(0).toInt(), 1);
 }
 
 TEST_F(GridMenu, ComesOnlyWhileTheToolbarIsEnabled)

@@ -187,7 +187,12 @@ ViewerHost Viewer::lend()
             result.replaceBy(ResultSet::open(database.connectionString(), sql, dbAccess, progress));
             return ResultSet::Opened{database.connectionString(), result.connection(), result.recordset()};
         },
-        [this](QWidget *, const ConditionRequest &) { return condition; }};
+        [this](QWidget *, const ConditionRequest &request) {
+            if (request.refusal.isEmpty())
+                return condition;
+            refusals += request.refusal;
+            return QString();
+        }};
 }
 
 void Viewer::show(qint32 page, bool isAll)

@@ -77,6 +77,7 @@ struct LoadedParts : testing::Test
     KOVAVSFDataGridLib::clsFilterManagement &filter = session->filterManager();
     QString statement;
     QString &condition = chooser.condition;
+    QStringList refusals; // of conditions; then the user cancels
 };
 
 // What a user does in the viewer, with mouse and keys.
