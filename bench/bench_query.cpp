@@ -153,11 +153,11 @@ void MeasureHistory()
     Measure("1000 history entries added, and stepped back one by one", [&] {
         push();
         while (history.Count() > 1)
-            history.GetPreviewSQL(statement, key);
+            history.GetPreviewSQL(statement, &key);
     });
     Measure("1000 history entries added, and back to the first", [&] {
         push();
-        history.GetFirstSQL(statement, key);
+        history.GetFirstSQL(statement, &key);
     });
 }
 
