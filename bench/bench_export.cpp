@@ -19,11 +19,11 @@ using namespace KOVAVSFDataGridLib;
 
 namespace {
 
-constexpr int runs = 3;
+constexpr int timesMeasured = 3;
 
 // The best of several runs, in milliseconds.
 template<typename Work>
-double measure(Work work, int runs = runs)
+double measure(Work work, int runs = timesMeasured)
 {
     double best = 1e12;
     for (int run = 0; run < runs; ++run) {
@@ -80,7 +80,7 @@ int main()
         const QString file = folder.filePath(QStringLiteral("out") + fileEnding(format));
         const double milliseconds =
             measure([&] { exportToFile(file, options, recordset, all, columns, shouldContinue); },
-                    format == ExportFormat::Xlsx ? 1 : runs); // which takes its time
+                    format == ExportFormat::Xlsx ? 1 : timesMeasured); // which takes its time
         QFile written(file);
         if (!written.open(QIODevice::ReadOnly))
             return 1;

@@ -39,6 +39,36 @@ function(kova_compile_settings target)
   endif()
 endfunction()
 
+# kova_precompile(<target> core|widgets|tests): the headers that most sources of such a target include, precompiled
+# once for all targets of its kind. Only these: the whole of Qt takes longer to load than most sources take to compile.
+set(kova_headers_core
+  <QtCore/QDateTime> <QtCore/QHash> <QtCore/QList> <QtCore/QObject> <QtCore/QPointer> <QtCore/QString>
+  <QtCore/QStringList> <QtCore/QVariant> <algorithm> <functional> <memory> <optional> <vector>)
+set(kova_headers_widgets ${kova_headers_core}
+  <QtGui/QKeyEvent> <QtGui/QPainter> <QtWidgets/QBoxLayout> <QtWidgets/QDialog> <QtWidgets/QHeaderView>
+  <QtWidgets/QLabel> <QtWidgets/QLineEdit> <QtWidgets/QPushButton> <QtWidgets/QTableView>)
+set(kova_headers_tests ${kova_headers_widgets} <QtWidgets/QApplication> <QtWidgets/QMenu> <gtest/gtest.h>)
+
+function(kova_precompile target kind)
+  set(carrier kova_precompiled_${kind})
+  if(NOT TARGET ${carrier})
+    set(libraries Qt6::Core)
+    if(NOT kind STREQUAL core)
+      list(APPEND libraries Qt6::Widgets)
+    endif()
+    if(kind STREQUAL tests)
+      list(APPEND libraries GTest::gtest) # not Qt6::Test, whose definitions differ from target to target
+    endif()
+    file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/${carrier}.cpp CONTENT "")
+    add_library(${carrier} OBJECT ${PROJECT_BINARY_DIR}/${carrier}.cpp)
+    kova_compile_settings(${carrier})
+    set_target_properties(${carrier} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    target_link_libraries(${carrier} PRIVATE ${libraries})
+    target_precompile_headers(${carrier} PRIVATE ${kova_headers_${kind}})
+  endif()
+  target_precompile_headers(${target} REUSE_FROM ${carrier})
+endfunction()
+
 # kova_may_use(<folder> <libraries>)
 #
 # Notes what a folder links, for the test of the includes; kova_write_links() writes it down.
@@ -55,13 +85,13 @@ function(kova_write_links file)
   file(CONFIGURE OUTPUT ${file} CONTENT "${links}public headers: ${headers}\n" @ONLY)
 endfunction()
 
-# kova_room(<name> SOURCES <files> [PUBLIC_HEADERS <files>] LINKS <libraries> [PCH <headers>])
+# kova_room(<name> SOURCES <files> [PUBLIC_HEADERS <files>] LINKS <libraries>)
 #
 # One folder below src/ as an object library `kova_<name>`. What a room does not list in LINKS it can't use: Qt
 # modules and other libraries come from LINKS alone, and a test checks the includes. PUBLIC_HEADERS are those that a
 # host can include; they are installed.
 function(kova_room name)
-  cmake_parse_arguments(ROOM "" "" "SOURCES;PUBLIC_HEADERS;LINKS;PCH" ${ARGN})
+  cmake_parse_arguments(ROOM "" "" "SOURCES;PUBLIC_HEADERS;LINKS" ${ARGN})
   set(target kova_${name})
   add_library(${target} OBJECT ${ROOM_SOURCES})
   kova_compile_settings(${target})
@@ -76,8 +106,10 @@ function(kova_room name)
   if(ROOM_PUBLIC_HEADERS)
     target_sources(kova_public_headers INTERFACE FILE_SET HEADERS FILES ${ROOM_PUBLIC_HEADERS})
   endif()
-  if(ROOM_PCH)
-    target_precompile_headers(${target} PRIVATE ${ROOM_PCH})
+  if(Qt6::Widgets IN_LIST ROOM_LINKS)
+    kova_precompile(${target} widgets)
+  else()
+    kova_precompile(${target} core)
   endif()
 endfunction()
 
@@ -100,14 +132,11 @@ endfunction()
 # kova_program(<name> SOURCES <files> [ROOMS <rooms>] [LINKS <libraries>]): an executable under the same settings,
 # with these rooms and all they rest on compiled in.
 function(kova_program name)
-  cmake_parse_arguments(PROGRAM "" "" "SOURCES;ROOMS;LINKS;PCH" ${ARGN})
+  cmake_parse_arguments(PROGRAM "" "" "SOURCES;ROOMS;LINKS" ${ARGN})
   kova_rooms_below(rooms ${PROGRAM_ROOMS})
   add_executable(${name} ${PROGRAM_SOURCES})
   kova_compile_settings(${name})
   target_link_libraries(${name} PRIVATE ${rooms} ${PROGRAM_LINKS})
-  if(PROGRAM_PCH)
-    target_precompile_headers(${name} PRIVATE ${PROGRAM_PCH})
-  endif()
 endfunction()
 
 # kova_test(<name> SOURCES <files> ROOMS <rooms> LINKS <libraries> [RUN_BY <command>])
@@ -116,9 +145,9 @@ endfunction()
 # inner classes can be tested although the library hides them; tests of the control link the library. RUN_BY
 # is put before the program, to start what it needs.
 function(kova_test name)
-  cmake_parse_arguments(TEST "" "TIMEOUT" "SOURCES;ROOMS;LINKS;PCH;LABELS;RUN_BY" ${ARGN})
-  kova_program(${name} SOURCES ${TEST_SOURCES} ROOMS ${TEST_ROOMS} LINKS ${TEST_LINKS} kova_test_main
-    PCH ${TEST_PCH})
+  cmake_parse_arguments(TEST "" "TIMEOUT" "SOURCES;ROOMS;LINKS;LABELS;RUN_BY" ${ARGN})
+  kova_program(${name} SOURCES ${TEST_SOURCES} ROOMS ${TEST_ROOMS} LINKS ${TEST_LINKS} kova_test_main)
+  kova_precompile(${name} tests)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/src)
   if(NOT TEST_TIMEOUT)
     set(TEST_TIMEOUT 300)
