@@ -1,7 +1,7 @@
 // Values, names and typed words out of a corpus of attacks, through each way into a statement that a session
 // derives, in each mode of engines and drivers: they give the records that they should give, the tokens of
 // the statement are the same for every text, and a table that no statement names never shows.
-#include "CorpusFile.h"
+#include "InjectionModes.h"
 #include "SessionFixture.h"
 
 #include "../journeys/JourneyDatabase.h"
@@ -9,12 +9,8 @@
 #include "ado/Error.h"
 #include "filter/FilterCondition.h"
 #include "sql/Names.h"
-#include "sql/SqlScanner.h"
 
 #include <QtCore/QMimeData>
-
-#include <algorithm>
-#include <string_view>
 
 using namespace KOVAVSFDataGridLib;
 using namespace KovaTest;
@@ -23,69 +19,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString secret = u"KOVA-7-SECRET"_s;
-
-// An engine, and what is added in front of its connection string so that it reads statements in another way.
-struct Mode
-{
-    const char *name;
-    const char *engine;
-    const char *settings;
-    SqlQuoting quoting = {};
-};
-
-constexpr Mode modes[] = {
-    {"SQLite", "SQLite", ""},
-    {"Access", "Access", ""},
-    {"SQLiteThroughOdbc", "SQLiteThroughOdbc", ""},
-    {"PostgreSQL", "PostgreSQL", ""},
-    {"PostgreSQLTextOnly", "PostgreSQL", "UseServerSidePrepare=0"},
-    {"PostgreSQLOldStrings", "PostgreSQL", "ConnSettings={set standard_conforming_strings=off}"},
-    {"PostgreSQLOldStringsTextOnly", "PostgreSQL",
-     "UseServerSidePrepare=0;ConnSettings={set standard_conforming_strings=off}"},
-    {"MariaDB", "MariaDB", ""},
-    {"MariaDBSeveral", "MariaDB", "OPTION=67108864"},
-    {"MariaDBNoBackslash",
-     "MariaDB",
-     "OPTION=67108864;INITSTMT={SET sql_mode='NO_BACKSLASH_ESCAPES'}",
-     {false}},
-    {"MariaDBAnsiQuotes", "MariaDB", "OPTION=67108864;INITSTMT={SET sql_mode='ANSI_QUOTES'}", {true, true}},
-    {"MariaDBAnsiNoBackslash",
-     "MariaDB",
-     "OPTION=67108864;INITSTMT={SET sql_mode='ANSI_QUOTES,NO_BACKSLASH_ESCAPES'}",
-     {false, true}},
-    {"MariaDBOracle", "MariaDBInOracleMode", "", {true, true}},
-    {"MariaDBSqlServer", "MariaDBInSqlServerMode", "", {true, true, true}},
-    {"MariaDBGbk", "MariaDB", "OPTION=67108864;CHARSET=gbk"},
-    {"MariaDBBig5", "MariaDB", "OPTION=67108864;CHARSET=big5"},
-    {"MariaDBGbkSet", "MariaDB", "OPTION=67108864;INITSTMT={SET NAMES gbk}"},
-};
-
-std::ostream &operator<<(std::ostream &out, const Mode &mode)
-{
-    return out << mode.name;
-}
-
-// The texts to try, chosen for a mode by chooseTexts().
-QStringList &corpus()
-{
-    static QStringList texts;
-    return texts;
-}
-
-// Every sixth text, other ones in each mode: all of them take many minutes. KOVA_INJECTION=all tries all.
-void chooseTexts(std::ptrdiff_t mode)
-{
-    static const QStringList all =
-        readCorpus(QString::fromUtf8(KOVA_SOURCE_DIR) + u"/tests/session/data/injection.corpus"_s);
-    if (qEnvironmentVariable("KOVA_INJECTION") == u"all") {
-        corpus() = all;
-        return;
-    }
-    constexpr qsizetype step = 6;
-    corpus().clear();
-    for (qsizetype i = mode % step; i < all.size(); i += step)
-        corpus() += all[i];
-}
 
 class Window final : public PlainWindow
 {
@@ -131,44 +64,13 @@ public:
     QStringList messages;
 };
 
-// What a statement is made of, whatever texts and names it holds. Texts put together of several pieces, and
-// those that are marked as Unicode, are one text.
-QString shapeOf(const QString &statement, SqlDialect reading, const SqlQuoting &quoting)
-{
-    const SqlScanner sql(statement, reading, quoting);
-    EXPECT_EQ(sql.strayCharacter(), -1) << statement.toStdString();
-    QString shape;
-    for (qsizetype i = 0; i < sql.count(); ++i) {
-        switch (sql.at(i).kind) {
-        case SqlToken::Kind::String:
-            shape += u"T "_s;
-            break;
-        case SqlToken::Kind::QuotedName:
-            shape += u"name "_s;
-            break;
-        default:
-            shape += sql.text(i).toString().toUpper() + u' ';
-        }
-    }
-    shape.prepend(u' ');
-    shape.replace(u" N T "_s, u" T "_s);
-    shape.replace(u" E T "_s, u" T "_s);
-    for (QString before; before != shape;) {
-        before = shape;
-        shape.replace(u"{ FN CONCAT ( T , T ) } "_s, u"T "_s);
-        shape.replace(u"( T | | T ) "_s, u"T "_s);
-        shape.replace(u"( T || T ) "_s, u"T "_s);
-    }
-    return shape;
-}
-
-class SessionInjection : public testing::TestWithParam<Mode>
+class SessionInjection : public testing::TestWithParam<InjectionMode>
 {
 protected:
     void SetUp() override
     {
         SharedValues::instance() = {};
-        chooseTexts(std::ranges::find(modes, std::string_view(mode.name), &Mode::name) - std::begin(modes));
+        corpus = chosenTexts(mode);
         for (const JourneyEngine &candidate : journeyEngines()) {
             if (qstrcmp(candidate.name, mode.engine) == 0)
                 engine = &candidate;
@@ -183,8 +85,8 @@ protected:
             u"INSERT INTO kova_secret VALUES ('"_s + secret + u"')"_s,
             u"CREATE TABLE kova_words (id INTEGER PRIMARY KEY, t VARCHAR(200), n INTEGER)"_s +
                 (engine->isMariaDb() ? u" CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin"_s : QString())};
-        for (qsizetype i = 0; i < corpus().size(); ++i)
-            script += u"INSERT INTO kova_words VALUES (%1,%2,1)"_s.arg(i + 1).arg(literal(corpus()[i]));
+        for (qsizetype i = 0; i < corpus.size(); ++i)
+            script += u"INSERT INTO kova_words VALUES (%1,%2,1)"_s.arg(i + 1).arg(literal(corpus[i]));
         script += u"INSERT INTO kova_words VALUES (1000,'abc',1)"_s;
         database->run(script);
         SharedValues::instance().dbType = engine->dbType;
@@ -261,7 +163,8 @@ protected:
         return isRefused;
     }
 
-    const Mode &mode = GetParam();
+    const InjectionMode &mode = GetParam();
+    QStringList corpus;
     const JourneyEngine *engine = nullptr;
     std::optional<JourneyDatabase> database;
     ADODB::Adodc adodc;
@@ -271,7 +174,7 @@ protected:
     std::shared_ptr<Session> session = std::make_shared<Session>(window, user, host, ControlRules, &adodc);
 };
 
-INSTANTIATE_TEST_SUITE_P(Modes, SessionInjection, testing::ValuesIn(modes),
+INSTANTIATE_TEST_SUITE_P(Modes, SessionInjection, testing::ValuesIn(injectionModes),
                          [](const auto &mode) { return std::string(mode.param.name); });
 
 } // namespace
@@ -293,7 +196,7 @@ TEST_P(SessionInjection, ValuesAndWordsGiveTheirOwnRecords)
         user.condition = condition.sql;
         session->run(u"Filter"_s);
     };
-    filterByCell(static_cast<int>(corpus().size()) + 1);
+    filterByCell(static_cast<int>(corpus.size()) + 1);
     ASSERT_EQ(ids(), u"1000"_s);
     cellShape = shape();
     session->run(u"ToOrigin"_s);
@@ -302,11 +205,11 @@ TEST_P(SessionInjection, ValuesAndWordsGiveTheirOwnRecords)
     dialogShape = shape();
     session->run(u"ToOrigin"_s);
 
-    for (qsizetype i = 0; i < corpus().size(); ++i) {
-        const QString text = corpus()[i];
+    for (qsizetype i = 0; i < corpus.size(); ++i) {
+        const QString text = corpus[i];
         const QString id = QString::number(i + 1);
         SCOPED_TRACE(text.toStdString());
-        ASSERT_EQ(window.rows.size(), corpus().size() + 1);
+        ASSERT_EQ(window.rows.size(), corpus.size() + 1);
         const bool isReadable = window.rows[i] == id + u' ' + text + u" 1"_s && isWrittenRightly(text);
         filterByCell(static_cast<int>(i) + 1);
         if (!isRefused()) {
@@ -334,7 +237,7 @@ TEST_P(SessionInjection, ValuesAndWordsGiveTheirOwnRecords)
         if (HasFailure())
             break;
     }
-    EXPECT_EQ(database->ask(u"SELECT count(*) FROM kova_words"_s), QString::number(corpus().size() + 1));
+    EXPECT_EQ(database->ask(u"SELECT count(*) FROM kova_words"_s), QString::number(corpus.size() + 1));
 }
 
 TEST_P(SessionInjection, WrittenValuesAreStoredAsTheyAre)
@@ -345,15 +248,15 @@ TEST_P(SessionInjection, WrittenValuesAreStoredAsTheyAre)
         GTEST_SKIP() << "server and driver take the bytes for different characters";
     ASSERT_TRUE(load(u"SELECT * FROM kova_words"_s));
     ADODB::Recordset &recordset = *session->result().recordset();
-    for (qsizetype i = 0; i < corpus().size() && !HasFailure(); ++i) {
-        const QString text = corpus()[i];
+    for (qsizetype i = 0; i < corpus.size() && !HasFailure(); ++i) {
+        const QString text = corpus[i];
         SCOPED_TRACE(text.toStdString());
-        recordset.PutAbsolutePosition(corpus().size() + 1);
+        recordset.PutAbsolutePosition(corpus.size() + 1);
         try {
             recordset.Fields().Item(1).PutValue(text);
             recordset.Update();
             // What the connection's character set doesn't have may be stored as something else, which shows.
-            if (recordset.CellText(corpus().size() + 1, 1) == text) {
+            if (recordset.CellText(corpus.size() + 1, 1) == text) {
                 EXPECT_EQ(stored(1000), text);
             }
         } catch (const ADODB::Error &error) {
@@ -361,7 +264,7 @@ TEST_P(SessionInjection, WrittenValuesAreStoredAsTheyAre)
             EXPECT_NE(stored(1000), text) << error.what();
         }
     }
-    EXPECT_EQ(database->ask(u"SELECT count(*) FROM kova_words"_s), QString::number(corpus().size() + 1));
+    EXPECT_EQ(database->ask(u"SELECT count(*) FROM kova_words"_s), QString::number(corpus.size() + 1));
 }
 
 TEST_P(SessionInjection, CopiedStatementsHoldTheirOwnValues)
@@ -375,9 +278,9 @@ TEST_P(SessionInjection, CopiedStatementsHoldTheirOwnValues)
         other.emplace(connectionString());
     QString insertShape;
     QString listShape;
-    for (qsizetype i = corpus().size(); i >= 0 && !HasFailure(); --i) { // the plain one first
-        const QString text = corpus().value(i, u"abc"_s);
-        const int id = i == corpus().size() ? 1000 : static_cast<int>(i) + 1;
+    for (qsizetype i = corpus.size(); i >= 0 && !HasFailure(); --i) { // the plain one first
+        const QString text = corpus.value(i, u"abc"_s);
+        const int id = i == corpus.size() ? 1000 : static_cast<int>(i) + 1;
         SCOPED_TRACE(text.toStdString());
         const bool isReadable =
             window.rows[i] == QString::number(id) + u' ' + text + u" 1"_s && isWrittenRightly(text);
@@ -408,7 +311,7 @@ TEST_P(SessionInjection, CopiedStatementsHoldTheirOwnValues)
         }
         EXPECT_EQ(stored(id), text) << statement.toStdString();
     }
-    EXPECT_EQ(database->ask(u"SELECT count(*) FROM kova_words"_s), QString::number(corpus().size() + 1));
+    EXPECT_EQ(database->ask(u"SELECT count(*) FROM kova_words"_s), QString::number(corpus.size() + 1));
 }
 
 TEST_P(SessionInjection, NamesMeanTheirOwnFieldsAndTables)
@@ -416,7 +319,7 @@ TEST_P(SessionInjection, NamesMeanTheirOwnFieldsAndTables)
     if (!engine->isWritable() || qstrlen(mode.settings) != 0)
         GTEST_SKIP() << "names are written the same way there as in the engine's own mode";
     int tried = 0;
-    for (const QString &name : corpus()) {
+    for (const QString &name : corpus) {
         SCOPED_TRACE(name.toStdString());
         const QChar quote(engine->isMariaDb() ? u'`' : u'"');
         const QString quoted = enclosed(quote, name, quote);
@@ -469,5 +372,5 @@ TEST_P(SessionInjection, NamesMeanTheirOwnFieldsAndTables)
         if (HasFailure())
             break;
     }
-    EXPECT_GT(tried, corpus().size() / 2) << "names that the engine takes";
+    EXPECT_GT(tried, corpus.size() / 2) << "names that the engine takes";
 }

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "sql/SqlScanner.h"
+
+#include <QtCore/QStringList>
+
+#include <iosfwd>
+#include <vector>
+
+namespace KovaTest {
+
+// An engine, and what is added in front of its connection string so that it reads statements in another way.
+struct InjectionMode
+{
+    const char *name;
+    const char *engine; // a JourneyEngine's name
+    const char *settings;
+    KOVAVSFDataGridLib::SqlQuoting quoting = {};
+};
+
+extern const std::vector<InjectionMode> injectionModes;
+
+std::ostream &operator<<(std::ostream &out, const InjectionMode &mode);
+
+// Every sixth text of the corpus, other ones in each of injectionModes: all of them take many minutes.
+// KOVA_INJECTION=all in the environment chooses all.
+QStringList chosenTexts(const InjectionMode &mode);
+
+// What a statement is made of, whatever texts and names it holds. Texts put together of several pieces, and
+// those that are marked as Unicode, are one text.
+QString shapeOf(const QString &statement, KOVAVSFDataGridLib::SqlDialect reading,
+                const KOVAVSFDataGridLib::SqlQuoting &quoting);
+
+} // namespace KovaTest
