@@ -113,7 +113,8 @@ std::optional<QString> ControlWindow::commitEdit()
 
 void ControlWindow::focusEdit()
 {
-    m_parts.txtEdit->setFocus();
+    if (m_singleRecord)
+        m_singleRecord->editor().setFocus();
 }
 
 void ControlWindow::cancelEdit()

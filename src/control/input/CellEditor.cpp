@@ -5,19 +5,30 @@
 #include "ado/ValueText.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
+#include "filter/FilterTexts.h"
+#include "filter/ValueEdit.h"
 #include "grid/FlexGrid.h"
 #include "session/Session.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QKeyEvent>
-#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QToolTip>
 
+#include <algorithm>
 #include <limits>
 
 namespace KOVAVSFDataGridLib {
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
+constexpr int linesShown = 6;
+constexpr qsizetype longestLine = 60;    // of a text that gets several lines without having any
+constexpr qint64 recordsSearched = 2000; // for the values that a column has already
+constexpr qsizetype mostValues = 50;     // a column with more is none to pick from
+constexpr QChar paragraphEnd(0x2029);    // a line break, to a text document
 
 bool isTextType(ADODB::DataTypeEnum type)
 {
@@ -35,63 +46,187 @@ bool isTextType(ADODB::DataTypeEnum type)
     }
 }
 
+bool isLongText(ADODB::DataTypeEnum type)
+{
+    return type == ADODB::adLongVarChar || type == ADODB::adLongVarWChar;
+}
+
 bool isWritable(const ADODB::Field &field)
 {
     return (field.Attributes() & (ADODB::adFldUpdatable | ADODB::adFldUnknownUpdatable)) != 0;
 }
 
+// What the typed text means to the field. Nothing typed means no value, except in a text field.
+QVariant valueOf(const ADODB::Field &field, const QString &text)
+{
+    if (text.isEmpty() && !isTextType(field.Type()))
+        return {};
+    if (field.Type() == ADODB::adBoolean && (text == FilterTexts::Yes || text == FilterTexts::No))
+        return text == FilterTexts::Yes;
+    return text;
+}
+
 } // namespace
 
-CellEditor::CellEditor(Session &session, GridParts &parts) : m_session(session), m_parts(parts)
+CellEditor::CellEditor(Session &session, GridParts &parts)
+    : m_session(session), m_parts(parts), m_lines(*new QPlainTextEdit(parts.MSFlexGrid1->viewport()))
 {
     // As a part of the list's surface it scrolls along and is cut off at the list's edge.
     m_parts.txtEdit->setParent(m_parts.MSFlexGrid1->viewport());
     m_parts.txtEdit->hide();
     // A line edit cuts what is longer, and would store it cut.
     m_parts.txtEdit->setMaxLength(std::numeric_limits<int>::max());
+    m_parts.txtEdit->setValueReader([this] { return knownValues(); });
     m_parts.txtEdit->installEventFilter(this);
+    m_lines.setObjectName(u"txtLines"_s);
+    m_lines.setAccessibleName(GridTexts::FieldValueHeading);
+    m_lines.setTabChangesFocus(true);
+    m_lines.hide();
+    m_lines.installEventFilter(this);
+}
+
+QWidget &CellEditor::widget() const
+{
+    if (m_hasLines)
+        return m_lines;
+    return *m_parts.txtEdit;
 }
 
 bool CellEditor::isOpen() const
 {
-    return !m_parts.txtEdit->isHidden();
+    return !widget().isHidden();
+}
+
+bool CellEditor::hasFocus() const
+{
+    return widget().hasFocus();
+}
+
+void CellEditor::setFocus()
+{
+    widget().setFocus();
+}
+
+bool CellEditor::canWrite(int gridCol) const
+{
+    return gridCol >= 1 && m_session.result().isOpen() && !m_session.isReadOnly() &&
+           isWritable(m_session.result().recordset()->Fields().Item(gridCol - 1));
 }
 
 bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
 {
     if (gridCol < 1 || !m_session.result().isOpen() || !m_session.commitEdit())
         return false;
-    QLineEdit &edit = *m_parts.txtEdit;
     try {
         const ADODB::Field &field = m_session.result().recordset()->Fields().Item(gridCol - 1);
-        const QString value = ADODB::ValueText(field.Value());
-        const bool isReadOnly = m_session.isReadOnly() || !isWritable(field);
+        m_before = ADODB::ValueText(field.Value());
+        m_isReadOnly = !canWrite(gridCol);
         m_field = gridCol - 1;
         m_row = m_parts.MSFlexGrid1->Row();
-        edit.setText(isReadOnly ? value : typed.value_or(value));
-        edit.setReadOnly(isReadOnly);
-        edit.setToolTip(isReadOnly ? GridTexts::ReadOnlyCell : QString());
-        edit.setAccessibleName(field.Name());
+        open(field, m_isReadOnly ? m_before : typed.value_or(m_before), m_isReadOnly);
     } catch (const ADODB::Error &) {
         return false; // there is no current record
     }
+    QWidget &edit = widget();
     place();
     edit.show();
     edit.setFocus();
-    if (!typed)
-        edit.selectAll();
-    if (edit.isReadOnly())
+    if (m_isReadOnly)
         QToolTip::showText(edit.mapToGlobal(QPoint(0, edit.height())), GridTexts::ReadOnlyCell, &edit);
+    else if (!typed && !m_hasLines)
+        m_parts.txtEdit->selectAll();
     return true;
 }
 
+void CellEditor::open(const ADODB::Field &field, const QString &text, bool isReadOnly)
+{
+    m_isText = isTextType(field.Type());
+    m_hasLines =
+        m_isText && (m_before.contains(u'\n') || (isLongText(field.Type()) && m_before.size() > longestLine));
+    if (m_hasLines) {
+        m_lines.setPlainText(text);
+        m_lines.moveCursor(QTextCursor::End);
+        m_lines.setReadOnly(isReadOnly);
+    } else {
+        m_parts.txtEdit->setKind(isReadOnly ? FieldClass::Other : fieldClassOf(field.Type()), false);
+        m_parts.txtEdit->setText(text);
+        m_parts.txtEdit->setReadOnly(isReadOnly);
+        m_parts.txtEdit->setCursorPosition(static_cast<int>(text.size()));
+    }
+    widget().setToolTip(isReadOnly ? GridTexts::ReadOnlyCell : m_hasLines ? GridTexts::LinesHint : QString());
+    widget().setAccessibleName(field.Name());
+}
+
+void CellEditor::breakLine()
+{
+    if (m_isReadOnly || !m_isText)
+        return;
+    if (!m_hasLines) {
+        const QLineEdit &line = *m_parts.txtEdit;
+        m_lines.setPlainText(line.text());
+        m_lines.setReadOnly(false);
+        m_lines.setToolTip(GridTexts::LinesHint);
+        m_lines.setAccessibleName(line.accessibleName());
+        QTextCursor cursor = m_lines.textCursor();
+        cursor.setPosition(line.cursorPosition());
+        m_lines.setTextCursor(cursor);
+        m_hasLines = true;
+        place();
+        m_lines.show();
+        m_lines.setFocus();
+        m_parts.txtEdit->hide();
+    }
+    m_lines.insertPlainText(u"\n"_s);
+}
+
+// Several lines go over the rows below, or above where the list ends too soon.
 void CellEditor::place()
 {
     const MSFlexGrid &list = *m_parts.MSFlexGrid1;
-    m_parts.txtEdit->setGeometry(list.visualRect(list.model()->index(m_row - 1, 1)));
+    QRect cell = list.visualRect(list.model()->index(m_row - 1, 1));
+    if (m_hasLines) {
+        const int whole = list.viewport()->height();
+        const int wanted = m_lines.fontMetrics().lineSpacing() * linesShown + 2 * m_lines.frameWidth() +
+                           2 * static_cast<int>(m_lines.document()->documentMargin());
+        cell.setHeight(std::max(cell.height(), std::min(wanted, whole)));
+        cell.moveTop(std::max(0, std::min(cell.top(), whole - cell.height())));
+    }
+    widget().setGeometry(cell);
+}
+
+QString CellEditor::typedText() const
+{
+    if (!m_hasLines)
+        return m_parts.txtEdit->text();
+    // The plain text would have blanks in place of those that don't break.
+    QString text = m_lines.document()->toRawText();
+    text.replace(paragraphEnd, m_before.contains("\r\n"_L1) ? u"\r\n"_s : u"\n"_s);
+    return text;
+}
+
+// The texts that the column has in the first records, when they are few.
+QStringList CellEditor::knownValues() const
+{
+    QStringList values;
+    const ADODB::Recordset &recordset = *m_session.result().recordset();
+    const qint64 last = std::min(recordset.RecordCount(), recordsSearched);
+    for (qint64 record = 1; record <= last && values.size() <= mostValues; ++record) {
+        const QString text = recordset.CellText(record, m_field);
+        if (!text.isEmpty() && !values.contains(text))
+            values += text;
+    }
+    if (values.size() > mostValues)
+        return {};
+    values.sort();
+    return values;
 }
 
 std::optional<QString> CellEditor::commit()
+{
+    return commit(Written::Typed);
+}
+
+std::optional<QString> CellEditor::commit(Written what)
 {
     if (!isOpen() || m_isCommitting)
         return {};
@@ -103,7 +238,7 @@ std::optional<QString> CellEditor::commit()
         // It ends last, because the host may then delete this.
         const ADODB::Notifications::Hold hold(m_session.notifications());
         const QScopedValueRollback<bool> committing(m_isCommitting, true);
-        putValue(m_parts.txtEdit->text());
+        write(what);
         close();
         return {};
     } catch (const ADODB::Error &error) {
@@ -111,15 +246,16 @@ std::optional<QString> CellEditor::commit()
     }
 }
 
-// An unchanged text is not written: it may be shorter than the value (fifteen digits of a number). An empty
-// one means no value, except in a text field that had one.
-void CellEditor::putValue(const QString &text)
+// An unchanged text is not written: it may be shorter than the value (fifteen digits of a number).
+void CellEditor::write(Written what)
 {
     ADODB::Field &field = m_session.result().recordset()->Fields().Item(m_field);
-    const QVariant before = field.Value();
-    if (m_parts.txtEdit->isReadOnly() || text == ADODB::ValueText(before))
+    const QString text = typedText();
+    const bool isUnchanged =
+        what == Written::Null ? !field.Value().isValid() : text == ADODB::ValueText(field.Value());
+    if (m_isReadOnly || isUnchanged)
         return;
-    field.PutValue(text.isEmpty() && !isTextType(field.Type()) ? QVariant() : QVariant(text));
+    field.PutValue(what == Written::Null ? QVariant() : valueOf(field, text));
     m_parts.MSFlexGrid1->PutTextMatrix(m_row, 1, ADODB::ValueText(field.Value()));
 }
 
@@ -127,28 +263,47 @@ void CellEditor::close()
 {
     if (!isOpen())
         return;
-    const bool hadFocus = m_parts.txtEdit->hasFocus();
-    m_parts.txtEdit->hide();
+    const bool hadFocus = hasFocus();
+    widget().hide();
     if (hadFocus)
         m_parts.MSFlexGrid1->setFocus();
 }
 
 bool CellEditor::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::KeyPress) {
-        switch (static_cast<QKeyEvent *>(event)->key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            m_session.commitEdit();
-            return true;
-        case Qt::Key_Escape:
-            close();
-            return true;
-        default:
-            break;
-        }
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
+        return QObject::eventFilter(watched, event);
+    const auto &key = *static_cast<QKeyEvent *>(event);
+    const bool isControl = key.modifiers().testFlag(Qt::ControlModifier);
+    const bool isNull = isControl && key.key() == Qt::Key_0;
+    const bool isSave = isControl && key.key() == Qt::Key_S;
+    if (event->type() == QEvent::ShortcutOverride) {
+        if (isNull || isSave)
+            event->accept(); // while something is typed, before the commands that have these keys
+        return false;
     }
-    return QObject::eventFilter(watched, event);
+    if (isNull) {
+        commit(Written::Null);
+        return true;
+    }
+    if (isSave) {
+        Q_EMIT saveWanted();
+        return true;
+    }
+    switch (key.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (isControl)
+            breakLine();
+        else
+            m_session.commitEdit();
+        return true;
+    case Qt::Key_Escape:
+        close();
+        return true;
+    default:
+        return QObject::eventFilter(watched, event);
+    }
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -5,13 +5,21 @@
 
 #include <optional>
 
+class QPlainTextEdit;
+
+namespace ADODB {
+class Field;
+}
+
 namespace KOVAVSFDataGridLib {
 
 class GridParts;
 class Session;
 
-// txtEdit, laid over a value of the single-record list. What is taken from it is written into the field of
-// the current record; it reaches the database when the record is saved.
+// The editor over a value of the single-record list: txtEdit, which offers a calendar, yes and no, or the
+// values that the column has already, or a box of several lines for long texts and those with line breaks.
+// What is taken from it is written into the field of the current record; it reaches the database when the
+// record is saved.
 class CellEditor : public QObject
 {
     Q_OBJECT
@@ -24,24 +32,47 @@ public:
     // value, or with a text that the user began with. A field that can't be written is opened for reading,
     // and says so. False when there is no such field or no record.
     bool begin(int gridCol, const std::optional<QString> &typed = {});
+    // Whether the field in that column can be written.
+    bool canWrite(int gridCol) const;
     bool isOpen() const;
+    bool hasFocus() const;
+    void setFocus();
+    // The widget that takes the keys while it is open.
+    QWidget &widget() const;
     // Closes it and writes what was typed into the field. A text that doesn't fit stays, and the answer is
     // why, for the user to read.
     std::optional<QString> commit();
     // Closes it and forgets what was typed.
     void close();
 
+Q_SIGNALS:
+    // The user wants what he wrote into the record to be saved.
+    void saveWanted();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    enum class Written { Typed, Null };
+
+    void open(const ADODB::Field &field, const QString &text, bool isReadOnly);
+    // Goes on in several lines.
+    void breakLine();
     void place();
-    void putValue(const QString &text);
+    QString typedText() const;
+    QStringList knownValues() const;
+    std::optional<QString> commit(Written what);
+    void write(Written what);
 
     Session &m_session;
     GridParts &m_parts;
-    int m_field = 0; // 0-based
-    int m_row = 0;   // of the list
+    QPlainTextEdit &m_lines;
+    bool m_hasLines = false; // whether m_lines is the one in use
+    bool m_isReadOnly = false;
+    bool m_isText = false;
+    QString m_before; // the text that it opened with
+    int m_field = 0;  // 0-based
+    int m_row = 0;    // of the list
     bool m_isCommitting = false;
 };
 

@@ -58,6 +58,12 @@ CommandInput::CommandInput(KOVAVSFDataGrid &control, Session &session, GridParts
     connect(parts.conditions, &FilterBar::removeWanted, this, &CommandInput::removeCondition);
     connect(&singleRecord, &SingleRecordView::menuWanted, this, &CommandInput::showMenu);
     connect(&singleRecord, &SingleRecordView::cancelWanted, this, [this] { m_session.cancelRecord(); });
+    connect(&singleRecord, &SingleRecordView::saveWanted, this,
+            [this] { m_session.perform([this] { m_session.saveRecord(); }); });
+    connect(&singleRecord, &SingleRecordView::commandWanted, this, [this](const QString &key) {
+        if (m_parts.Toolbar1->isEnabled())
+            m_session.run(key);
+    });
     connect(parts.cmdPgae, &QPushButton::clicked, this,
             [this] { m_session.goToTypedPage(m_parts.txtPage->text()); });
     connect(parts.txtPage, &QLineEdit::returnPressed, parts.cmdPgae, &QPushButton::click);

@@ -20,7 +20,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QHeaderView>
-#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
 
 #include <algorithm>
 
@@ -45,6 +45,11 @@ bool isText(const QKeyEvent &event)
     return !isCommand && !event.text().isEmpty() && event.text().at(0).isPrint();
 }
 
+bool isSave(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_S && event.modifiers() == Qt::ControlModifier;
+}
+
 bool carriesText(const QInputMethodEvent &event)
 {
     return !event.preeditString().isEmpty() || !event.commitString().isEmpty();
@@ -53,7 +58,12 @@ bool carriesText(const QInputMethodEvent &event)
 } // namespace
 
 SingleRecordView::SingleRecordView(KOVAVSFDataGrid &control, Session &session, GridParts &parts)
-    : m_control(control), m_session(session), m_parts(parts), m_editor(session, parts)
+    : m_control(control),
+      m_session(session),
+      m_parts(parts),
+      m_previous(newStepButton(CommandKeys::PreviousRecord, u"◀"_s, GridTexts::PreviousRecord)),
+      m_next(newStepButton(CommandKeys::NextRecord, u"▶"_s, GridTexts::NextRecord)),
+      m_editor(session, parts)
 {
     MSFlexGrid &list = *parts.MSFlexGrid1;
     list.installEventFilter(this);
@@ -63,6 +73,27 @@ SingleRecordView::SingleRecordView(KOVAVSFDataGrid &control, Session &session, G
         list.setAttribute(Qt::WA_InputMethodEnabled); // so that Chinese can be typed to begin an edit
         m_session.commitEdit();                       // last, because the host may delete the control
     });
+    connect(&m_editor, &CellEditor::saveWanted, this, &SingleRecordView::saveWanted);
+}
+
+QPushButton *SingleRecordView::newStepButton(const QString &key, const QString &arrow, const QString &toolTip)
+{
+    auto *const button = new QPushButton(arrow, m_parts.MSFlexGrid1->horizontalHeader());
+    button->setObjectName(u"cmd"_s + key);
+    button->setFlat(true);
+    button->setFocusPolicy(Qt::NoFocus); // the keyboard has Alt+PgUp and Alt+PgDown
+    button->setToolTip(toolTip);
+    button->setAccessibleName(toolTip);
+    connect(button, &QPushButton::clicked, this, [this, key] { Q_EMIT commandWanted(key); });
+    return button;
+}
+
+void SingleRecordView::placeStepButtons()
+{
+    const QSize header = m_parts.MSFlexGrid1->horizontalHeader()->size();
+    const int width = m_parts.MSFlexGrid1->fontMetrics().horizontalAdvance(u"▶▶"_s);
+    m_previous->setGeometry(header.width() - 2 * width, 0, width, header.height());
+    m_next->setGeometry(header.width() - width, 0, width, header.height());
 }
 
 void SingleRecordView::show()
@@ -81,7 +112,7 @@ void SingleRecordView::show()
 
 void SingleRecordView::hide()
 {
-    const bool hadFocus = m_parts.MSFlexGrid1->hasFocus() || m_parts.txtEdit->hasFocus();
+    const bool hadFocus = m_parts.MSFlexGrid1->hasFocus() || m_editor.hasFocus();
     m_editor.close();
     m_parts.vsfgDataGrid->show();
     m_control.setFocusProxy(m_parts.vsfgDataGrid);
@@ -181,13 +212,22 @@ bool SingleRecordView::isDealtWith(QObject *watched, QEvent *event)
 {
     const auto *source = static_cast<const QWidget *>(watched);
     switch (event->type()) {
+    case QEvent::Resize:
+        if (watched == m_parts.MSFlexGrid1->horizontalHeader()->viewport())
+            placeStepButtons();
+        return false;
+    case QEvent::ShortcutOverride:
+        // A record that has changes is saved by the key that exports otherwise.
+        if (isSave(*static_cast<QKeyEvent *>(event)) && m_session.hasUnsavedChanges())
+            event->accept();
+        return false;
     case QEvent::KeyPress:
         return watched == m_parts.MSFlexGrid1 && keyPressed(*static_cast<QKeyEvent *>(event));
     case QEvent::InputMethod:
         if (!carriesText(*static_cast<QInputMethodEvent *>(event)) ||
             !m_editor.begin(currentGridCol(), u""_s))
             return false;
-        return QCoreApplication::sendEvent(m_parts.txtEdit, event);
+        return QCoreApplication::sendEvent(&m_editor.widget(), event);
     case QEvent::MouseButtonDblClick:
         if (static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
             doubleClicked(*source, *static_cast<QMouseEvent *>(event));
@@ -207,8 +247,12 @@ bool SingleRecordView::isDealtWith(QObject *watched, QEvent *event)
 
 bool SingleRecordView::keyPressed(const QKeyEvent &event)
 {
-    if (event.key() == Qt::Key_F2)
+    if (event.key() == Qt::Key_F2 || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
         return m_editor.begin(currentGridCol());
+    if (isSave(event)) {
+        Q_EMIT saveWanted();
+        return true;
+    }
     if (event.key() == Qt::Key_Escape) {
         Q_EMIT cancelWanted();
         return true;
@@ -234,6 +278,9 @@ void SingleRecordView::doubleClicked(const QWidget &source, const QMouseEvent &e
             Q_EMIT m_control.DataDBLClickOneRow(gridRow);
     } else if (list.indexAt(position).isValid()) {
         Q_EMIT m_control.DataDBLClickOneCell(currentGridCol(), gridRow);
+        // Unless the host had an answer of its own, which took the list or the keyboard away.
+        if (alive && list.isVisible() && list.hasFocus() && m_editor.canWrite(currentGridCol()))
+            m_editor.begin(currentGridCol());
     }
 }
 

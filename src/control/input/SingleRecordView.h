@@ -10,6 +10,7 @@
 class KOVAVSFDataGrid;
 class QKeyEvent;
 class QMouseEvent;
+class QPushButton;
 class QWidget;
 
 namespace KOVAVSFDataGridLib {
@@ -40,8 +41,11 @@ public:
 Q_SIGNALS:
     // The right button came up on the list, or its menu key was pressed. `position` is on the screen.
     void menuWanted(const QPoint &position);
-    // The user gave up what was written into the record.
+    // The user gave up what was written into the record, or wants it saved.
     void cancelWanted();
+    void saveWanted();
+    // The user asked for the command of that key.
+    void commandWanted(const QString &key);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -51,11 +55,15 @@ private:
     bool keyPressed(const QKeyEvent &event);
     void doubleClicked(const QWidget &source, const QMouseEvent &event);
     void fitNameColumn();
+    QPushButton *newStepButton(const QString &key, const QString &arrow, const QString &toolTip);
+    void placeStepButtons();
     QString valueText(int field) const;
 
     KOVAVSFDataGrid &m_control;
     Session &m_session;
     GridParts &m_parts;
+    QPushButton *m_previous; // in the heading's right end
+    QPushButton *m_next;
     std::vector<int> m_fields; // the 0-based field of each row below the heading
     CellEditor m_editor;
 };

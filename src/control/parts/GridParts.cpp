@@ -8,6 +8,7 @@
 #include "control/parts/GridToolbar.h"
 #include "control/parts/StatementLine.h"
 #include "control/parts/SummaryLine.h"
+#include "filter/ValueEdit.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
 
@@ -43,7 +44,7 @@ GridParts::GridParts(QWidget &control)
       vsfgDataGrid(named(new VSFlexGrid(picMainBack), u"vsfgDataGrid"_s)),
       lblEmpty(new EmptyHint(*vsfgDataGrid)),
       MSFlexGrid1(named(new MSFlexGrid(picMainBack), u"MSFlexGrid1"_s)),
-      txtEdit(named(new QLineEdit(picMainBack), u"txtEdit"_s)),
+      txtEdit(named(new ValueEdit(picMainBack), u"txtEdit"_s)),
       txtPage(named(new QLineEdit(picMainBack), u"txtPage"_s)),
       cmdPgae(named(new QPushButton(GridTexts::GoToPage, picMainBack), u"cmdPgae"_s)),
       lblFieldCount(named(new ElidedLabel(picMainBack), u"lblFieldCount"_s)),

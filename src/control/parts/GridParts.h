@@ -20,6 +20,7 @@ class GridToolbar;
 class MSFlexGrid;
 class StatementLine;
 class SummaryLine;
+class ValueEdit;
 class VSFlexGrid;
 
 // The parts that the control is put together from, under the names by which hosts and tests find them,
@@ -39,7 +40,7 @@ public:
     VSFlexGrid *vsfgDataGrid;
     EmptyHint *lblEmpty;
     MSFlexGrid *MSFlexGrid1;
-    QLineEdit *txtEdit;
+    ValueEdit *txtEdit;
     QLineEdit *txtPage;
     QPushButton *cmdPgae;
     ElidedLabel *lblFieldCount;

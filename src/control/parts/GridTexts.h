@@ -13,6 +13,9 @@ inline const QString FieldNameHeading = u"字段名称"_s;
 inline const QString FieldValueHeading = u"字段内容"_s;
 inline const QString ReadOnlyCell =
     u"此内容只读：它不直接来自一个表中可以修改的字段，或者无法唯一确定所在的记录。"_s;
+inline const QString LinesHint = u"按 Ctrl+Enter 换行，按 Enter 接受"_s;
+inline const QString PreviousRecord = u"上一条记录"_s;
+inline const QString NextRecord = u"下一条记录"_s;
 inline const QString ValueRefusedPrefix = u"输入的内容无效："_s;
 
 // A record that can't be saved when its result is about to go.

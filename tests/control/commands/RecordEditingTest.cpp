@@ -1,0 +1,319 @@
+// From record to record in the list, and what its editors do beside taking a line of text.
+#include "Shop.h"
+
+#include <QtTest/QTest>
+#include <QtWidgets/QCalendarWidget>
+#include <QtWidgets/QCompleter>
+#include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QPushButton>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class RecordEditing : public Shop
+{
+protected:
+    void makeCurrent(const QString &field)
+    {
+        const QModelIndex cell = list->model()->index(listedRow(field), 1);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(cell).center());
+        list->setFocus();
+    }
+    QPlainTextEdit *lines() { return grid.findChild<QPlainTextEdit *>(u"txtLines"_s); }
+    QString stored(const QString &field, int id) const
+    {
+        return database.ask(u"SELECT \"%1\" FROM 商品 WHERE ID = %2"_s.arg(field).arg(id));
+    }
+};
+
+} // namespace
+
+TEST_F(RecordEditing, AltPageKeysGoFromRecordToRecord)
+{
+    ASSERT_TRUE(load());
+    clickCell(3, 2);
+    click(u"SingleRecord"_s);
+    makeCurrent(u"名称"_s);
+    QTest::keyClick(list, Qt::Key_PageDown, Qt::AltModifier);
+    EXPECT_EQ(listed(u"ID"_s), u"4"_s);
+    EXPECT_EQ(grid.CurrPosition(), 4);
+    EXPECT_EQ(grid.GetGridRow(), 4);
+    EXPECT_EQ(list->currentIndex().row(), listedRow(u"名称"_s)) << "the same field stays current";
+    QTest::keyClick(list, Qt::Key_PageUp, Qt::AltModifier);
+    QTest::keyClick(list, Qt::Key_PageUp, Qt::AltModifier);
+    EXPECT_EQ(listed(u"ID"_s), u"2"_s);
+    click(u"AllRecord"_s);
+    EXPECT_EQ(grid.GetGridRow(), 2);
+    EXPECT_EQ(grid.GetGridCol(), 2);
+}
+
+TEST_F(RecordEditing, TheFirstAndTheLastRecordAreTheEnds)
+{
+    ASSERT_TRUE(load());
+    clickCell(1, 1);
+    click(u"SingleRecord"_s);
+    QTest::keyClick(list, Qt::Key_PageUp, Qt::AltModifier);
+    EXPECT_EQ(listed(u"ID"_s), u"1"_s);
+    for (int i = 0; i < records + 3; ++i)
+        QTest::keyClick(list, Qt::Key_PageDown, Qt::AltModifier);
+    EXPECT_EQ(listed(u"ID"_s), QString::number(records));
+}
+
+TEST_F(RecordEditing, TheHeadingsButtonsStepToo)
+{
+    ASSERT_TRUE(load());
+    clickCell(3, 1);
+    click(u"SingleRecord"_s);
+    auto *next = grid.findChild<QPushButton *>(u"cmdNextRecord"_s);
+    auto *previous = grid.findChild<QPushButton *>(u"cmdPreviousRecord"_s);
+    ASSERT_TRUE(next && next->isVisible() && previous && previous->isVisible());
+    QTest::mouseClick(next, Qt::LeftButton);
+    EXPECT_EQ(listed(u"ID"_s), u"4"_s);
+    QTest::mouseClick(previous, Qt::LeftButton);
+    QTest::mouseClick(previous, Qt::LeftButton);
+    EXPECT_EQ(listed(u"ID"_s), u"2"_s);
+}
+
+TEST_F(RecordEditing, SteppingTurnsThePage)
+{
+    ASSERT_TRUE(load(u"WITH RECURSIVE c(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM c WHERE n < 1000002) "
+                     "SELECT n FROM c"_s,
+                     {}));
+    click(u"Next"_s);
+    click(u"SingleRecord"_s);
+    const int first = listed(u"n"_s).toInt();
+    EXPECT_GT(first, 1);
+    QTest::keyClick(list, Qt::Key_PageUp, Qt::AltModifier);
+    EXPECT_EQ(listed(u"n"_s), QString::number(first - 1));
+    QTest::keyClick(list, Qt::Key_PageDown, Qt::AltModifier);
+    EXPECT_EQ(listed(u"n"_s), QString::number(first));
+    EXPECT_EQ(grid.GetGridRow(), 1);
+}
+
+TEST_F(RecordEditing, SteppingSavesTheRecordOrStays)
+{
+    ASSERT_TRUE(load());
+    clickCell(3, 1);
+    click(u"SingleRecord"_s);
+    makeCurrent(u"城市"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    edit->setText(u"沈阳"_s);
+    QTest::keyClick(edit, Qt::Key_PageDown, Qt::AltModifier);
+    EXPECT_EQ(stored(u"城市"_s, 3), u"沈阳"_s);
+    EXPECT_EQ(listed(u"ID"_s), u"4"_s);
+
+    makeCurrent(u"ID"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    edit->setText(u"5"_s);
+    QTest::keyClick(edit, Qt::Key_PageDown, Qt::AltModifier);
+    EXPECT_EQ(listed(u"ID"_s), u"5"_s) << "what was typed, not the next record";
+    EXPECT_EQ(grid.CurrPosition(), 4);
+    ASSERT_EQ(messages.texts().size(), 1) << "another record has this number";
+    messages.clear();
+    QTest::keyClick(list, Qt::Key_Escape);
+    EXPECT_EQ(listed(u"ID"_s), u"4"_s);
+}
+
+TEST_F(RecordEditing, EnterAndADoubleClickBeginAnEdit)
+{
+    ASSERT_TRUE(load());
+    click(u"SingleRecord"_s);
+    makeCurrent(u"名称"_s);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_TRUE(edit->isVisible());
+    QTest::keyClick(edit, Qt::Key_Escape);
+    EXPECT_FALSE(edit->isVisible());
+    QSignalSpy cell(&grid, &KOVAVSFDataGrid::DataDBLClickOneCell);
+    const QPoint place = list->visualRect(list->model()->index(listedRow(u"名称"_s), 1)).center();
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(cell.count(), 1);
+    EXPECT_TRUE(edit->isVisible());
+}
+
+TEST_F(RecordEditing, ADoubleClickOnWhatCannotBeWrittenOpensNothing)
+{
+    ASSERT_TRUE(load(u"SELECT upper(名称) AS 大写 FROM 商品"_s, {}));
+    click(u"SingleRecord"_s);
+    const QPoint place = list->visualRect(list->model()->index(0, 1)).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
+    EXPECT_FALSE(edit->isVisible());
+}
+
+TEST_F(RecordEditing, AHostThatAnswersADoubleClickKeepsTheKeyboard)
+{
+    ASSERT_TRUE(load());
+    click(u"SingleRecord"_s);
+    makeCurrent(u"名称"_s);
+    QObject::connect(&grid, &KOVAVSFDataGrid::DataDBLClickOneCell, &grid, [this] { click(u"AllRecord"_s); });
+    const QPoint place = list->visualRect(list->model()->index(listedRow(u"名称"_s), 1)).center();
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
+    EXPECT_FALSE(edit->isVisible());
+    EXPECT_TRUE(table->isVisible());
+}
+
+TEST_F(RecordEditing, ControlZeroStoresNullAndNotTheEmptyText)
+{
+    ASSERT_TRUE(load());
+    clickCell(3, 1);
+    click(u"SingleRecord"_s);
+    makeCurrent(u"城市"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    edit->clear();
+    QTest::keyClick(edit, Qt::Key_Return);
+    click(u"AllRecord"_s);
+    EXPECT_EQ(database.ask(u"SELECT typeof(城市) FROM 商品 WHERE ID = 3"_s), u"text"_s);
+
+    click(u"SingleRecord"_s);
+    makeCurrent(u"城市"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    QTest::keyClick(edit, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_FALSE(edit->isVisible());
+    click(u"AllRecord"_s);
+    EXPECT_EQ(database.ask(u"SELECT typeof(城市) FROM 商品 WHERE ID = 3"_s), u"null"_s);
+    EXPECT_EQ(statement(), statementOfAll()) << "the command that has this key otherwise did not run";
+}
+
+TEST_F(RecordEditing, ControlSSavesAChangedRecordAndExportsNothing)
+{
+    ASSERT_TRUE(load());
+    clickCell(3, 1);
+    click(u"SingleRecord"_s);
+    makeCurrent(u"城市"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    edit->setText(u"沈阳"_s);
+    QTest::keyClick(edit, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(stored(u"城市"_s, 3), u"沈阳"_s);
+
+    QTest::keyClick(list, Qt::Key_F2);
+    edit->setText(u"抚顺"_s);
+    QTest::keyClick(edit, Qt::Key_Return);
+    EXPECT_EQ(stored(u"城市"_s, 3), u"沈阳"_s);
+    QTest::keyClick(list, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(stored(u"城市"_s, 3), u"抚顺"_s);
+    EXPECT_TRUE(isSingleRecordShown());
+}
+
+TEST_F(RecordEditing, ALongTextHasSeveralLines)
+{
+    database.run(u"CREATE TABLE 备忘 (ID INTEGER PRIMARY KEY, 内容 TEXT);"
+                 "INSERT INTO 备忘 VALUES (1, 'a' || char(13,10) || 'b' || char(160) || 'c'), (2, 'd')"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 备忘"_s, {}));
+    click(u"SingleRecord"_s);
+    makeCurrent(u"内容"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    ASSERT_TRUE(lines()->isVisible());
+    EXPECT_FALSE(edit->isVisible());
+    EXPECT_TRUE(list->viewport()->rect().contains(lines()->geometry()));
+    QTest::keyClick(lines(), Qt::Key_Return);
+    EXPECT_FALSE(lines()->isVisible());
+    const auto hex = [this](int id) {
+        return database.ask(u"SELECT hex(内容) FROM 备忘 WHERE ID = %1"_s.arg(id));
+    };
+    click(u"AllRecord"_s);
+    EXPECT_EQ(hex(1), u"610D0A62C2A063"_s) << "nothing was typed";
+
+    click(u"SingleRecord"_s);
+    makeCurrent(u"内容"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    QTest::keyClick(lines(), Qt::Key_Return, Qt::ControlModifier);
+    QTest::keyClicks(lines(), u"d"_s);
+    QTest::keyClick(lines(), Qt::Key_Return);
+    click(u"AllRecord"_s);
+    EXPECT_EQ(hex(1), u"610D0A62C2A0630D0A64"_s) << "the line breaks of the text, and its blank";
+}
+
+TEST_F(RecordEditing, ALongTextIsGivenUpWithEsc)
+{
+    database.run(u"CREATE TABLE 备忘 (ID INTEGER PRIMARY KEY, 内容 TEXT);"
+                 "INSERT INTO 备忘 VALUES (1, 'a' || char(10) || 'b')"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 备忘"_s, {}));
+    click(u"SingleRecord"_s);
+    makeCurrent(u"内容"_s);
+    QTest::keyClick(list, 'x');
+    ASSERT_TRUE(lines()->isVisible());
+    EXPECT_EQ(lines()->toPlainText(), u"x"_s);
+    QTest::keyClick(lines(), Qt::Key_Escape);
+    EXPECT_FALSE(lines()->isVisible());
+    EXPECT_TRUE(list->hasFocus());
+    click(u"AllRecord"_s);
+    EXPECT_EQ(database.ask(u"SELECT 内容 FROM 备忘"_s), u"a\nb"_s);
+}
+
+TEST_F(RecordEditing, AShortTextGoesOnInSeveralLines)
+{
+    ASSERT_TRUE(load());
+    clickCell(3, 1);
+    click(u"SingleRecord"_s);
+    makeCurrent(u"城市"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    edit->setText(u"ab"_s);
+    edit->setCursorPosition(1);
+    QTest::keyClick(edit, Qt::Key_Return, Qt::ControlModifier);
+    ASSERT_TRUE(lines()->isVisible());
+    EXPECT_FALSE(edit->isVisible());
+    EXPECT_TRUE(lines()->hasFocus());
+    QTest::keyClick(lines(), Qt::Key_Return);
+    click(u"AllRecord"_s);
+    EXPECT_EQ(stored(u"城市"_s, 3), u"a\nb"_s);
+}
+
+TEST_F(RecordEditing, ANumberHasOneLine)
+{
+    ASSERT_TRUE(load());
+    click(u"SingleRecord"_s);
+    makeCurrent(u"Unit Price"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    QTest::keyClick(edit, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_FALSE(lines()->isVisible());
+    EXPECT_TRUE(edit->isVisible());
+}
+
+TEST_F(RecordEditing, ADateIsPickedFromACalendar)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 1);
+    click(u"SingleRecord"_s);
+    makeCurrent(u"日期"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    QTest::keyClick(edit, Qt::Key_Down, Qt::AltModifier);
+    auto *calendar = edit->findChild<QCalendarWidget *>();
+    ASSERT_TRUE(calendar && calendar->isVisible());
+    EXPECT_EQ(calendar->selectedDate(), QDate(2024, 2, 29));
+    Q_EMIT calendar->activated(QDate(2024, 3, 1));
+    QTest::keyClick(edit, Qt::Key_Return);
+    click(u"AllRecord"_s);
+    EXPECT_EQ(stored(u"日期"_s, 2), u"2024-03-01"_s);
+}
+
+TEST_F(RecordEditing, YesAndNoAreWrittenInChinese)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 1);
+    click(u"SingleRecord"_s);
+    makeCurrent(u"停用"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    edit->setText(u"是"_s);
+    QTest::keyClick(edit, Qt::Key_Return);
+    EXPECT_EQ(listed(u"停用"_s), u"True"_s);
+    click(u"AllRecord"_s);
+    EXPECT_EQ(texts(u"停用"_s).at(1), u"True"_s);
+}
+
+TEST_F(RecordEditing, AColumnWithFewValuesOffersThem)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 1);
+    click(u"SingleRecord"_s);
+    makeCurrent(u"城市"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    QTest::keyClick(edit, Qt::Key_F4);
+    auto *offered = edit->findChild<QCompleter *>();
+    ASSERT_TRUE(offered);
+    QStringList cities = texts(u"城市"_s);
+    cities.removeAll(QString());
+    cities.removeDuplicates();
+    EXPECT_EQ(offered->model()->rowCount(), cities.size());
+}
