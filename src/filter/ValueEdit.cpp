@@ -91,7 +91,8 @@ void ValueEdit::setKind(FieldClass fieldClass, bool isList)
     setPlaceholderText(isList ? FilterTexts::ListHint : hintFor(fieldClass));
     m_offer->setVisible(hasDays(fieldClass) || fieldClass == FieldClass::Text ||
                         fieldClass == FieldClass::Boolean);
-    m_offer->setToolTip(hasDays(fieldClass) ? FilterTexts::PickDate : FilterTexts::PickValue);
+    m_offer->setText(hasDays(fieldClass) ? FilterTexts::PickDate : FilterTexts::PickValue); // its name
+    m_offer->setToolTip(m_offer->text());
 }
 
 void ValueEdit::setMarked(bool isMarked)
