@@ -9,6 +9,8 @@ using namespace Qt::StringLiterals;
 
 inline const QString Ok = u"确定"_s;
 inline const QString Cancel = u"取消"_s;
+inline const QString Yes = u"是(&Y)"_s;
+inline const QString No = u"否(&N)"_s;
 inline const QString Save = u"保存(&S)"_s;
 inline const QString Discard = u"放弃(&D)"_s;
 

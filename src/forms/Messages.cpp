@@ -35,12 +35,26 @@ QMessageBox *newBox(QWidget *parent, const Message &message)
     return box;
 }
 
+// In the language of the texts, whatever translator the host has installed.
+void nameButtons(QMessageBox &box)
+{
+    const std::pair<QMessageBox::StandardButton, const QString &> captions[] = {
+        {QMessageBox::Ok, FormTexts::Ok},           {QMessageBox::Yes, FormTexts::Yes},
+        {QMessageBox::No, FormTexts::No},           {QMessageBox::Save, FormTexts::Save},
+        {QMessageBox::Discard, FormTexts::Discard}, {QMessageBox::Cancel, FormTexts::Cancel}};
+    for (const auto &[button, caption] : captions) {
+        if (QAbstractButton *const named = box.button(button))
+            named->setText(caption);
+    }
+}
+
 int show(QWidget *parent, const Message &message, QMessageBox::StandardButtons buttons,
          QMessageBox::StandardButton onEscape)
 {
     // On the heap, because the parent owns it as well: either may go first.
     const QPointer<QMessageBox> box = newBox(parent, message);
     box->setStandardButtons(buttons);
+    nameButtons(*box);
     box->setDefaultButton(message.onEnter);
     box->setEscapeButton(onEscape);
     const int answer = box->exec();
@@ -66,6 +80,7 @@ bool offer(QWidget *parent, const QString &text, const QString &cause, const QSt
 {
     const QPointer<QMessageBox> box = newBox(parent, {text, {}, cause});
     box->addButton(QMessageBox::Ok);
+    nameButtons(*box);
     const QPointer<QAbstractButton> offered = box->addButton(button, QMessageBox::ActionRole);
     box->setDefaultButton(QMessageBox::Ok);
     box->setEscapeButton(QMessageBox::Ok);
@@ -86,12 +101,8 @@ QMessageBox::StandardButton askToSave(QWidget *parent, const QString &text, cons
                                       const QString &offered)
 {
     const QPointer<QMessageBox> box = newBox(parent, {text, title, {}, QMessageBox::Warning});
-    const std::pair<QMessageBox::StandardButton, const QString &> buttons[] = {
-        {QMessageBox::Save, FormTexts::Save},
-        {QMessageBox::Discard, FormTexts::Discard},
-        {QMessageBox::Cancel, FormTexts::Cancel}};
-    for (const auto &[button, caption] : buttons)
-        box->addButton(button)->setText(caption);
+    box->setStandardButtons(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    nameButtons(*box);
     const QPointer<QAbstractButton> offer =
         offered.isEmpty() ? nullptr : box->addButton(offered, QMessageBox::ActionRole);
     box->setDefaultButton(QMessageBox::Save);
@@ -108,6 +119,7 @@ void showLater(const QString &text)
 {
     auto *const box = newBox(nullptr, {text, {}, {}, QMessageBox::Warning});
     box->setStandardButtons(QMessageBox::Ok);
+    nameButtons(*box);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::NonModal);
     box->show();

@@ -240,7 +240,7 @@ public:
     SharedValues &shared = SharedValues::instance();
 
 private:
-    enum class Reading { Done, Failed, Overtaken };
+    enum class Reading { Done, Failed, Cancelled, Overtaken };
 
     std::unique_ptr<clsFilterManagement> newFilterManager();
     std::unique_ptr<clsFilterManagement> filterManagerForLoad();
@@ -279,7 +279,8 @@ private:
     FieldView m_fieldView = FieldView::All;
     int m_page = 0;
     int m_pictureField = -1;
-    int m_running = 0; // commands, one inside the other
+    int m_running = 0;          // commands, one inside the other
+    bool m_isCancelled = false; // the last reading, by the user
     bool m_isFromResult = false;
     bool m_isRequeried = false;
     bool m_isDetached = false;

@@ -67,6 +67,8 @@ bool Session::load()
     case Reading::Failed:
         m_questions->show(SessionMessages::OpenFailed);
         return false;
+    case Reading::Cancelled:
+        return false;
     case Reading::Overtaken: // by another load, say, which has done all that follows
         return !m_isDetached && m_result.isOpen();
     case Reading::Done:

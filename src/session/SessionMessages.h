@@ -18,6 +18,7 @@ inline const QString ChangedFields =
     u"您修改的内容尚未保存，其他用户也修改了下列字段。再次保存会替换其他用户的内容，按 Esc 放弃您的修改："_s;
 inline const QString ChangedField = u"\n%1：现在是“%2”，您填写的是“%3”"_s;
 inline const QString LoadFirst = u"连接字符串已经改变，请先加载数据。"_s;
+inline const QString OpeningCancelled = u"已取消读取，仍显示原来的记录"_s;
 inline const QString InsertCancelled = u"再次插入空行操作已被取消"_s;
 inline const QString ReadOnly = u"记录只读，不能增加、修改或删除。"_s;
 inline const QString RecordsCopied = u"已复制 %1 条记录"_s;

@@ -25,7 +25,8 @@ ResultSet::Opened Session::openStatement(const QString &statement, qint32 dbType
     const QScopedValueRollback<bool> opening(shared.isOpening, true);
     const auto progress = m_window->beginOpening();
     const auto shouldContinue = [&](qint64 rowsRead) {
-        return !m_isDetached && (!progress || progress->shouldContinue(rowsRead));
+        m_isCancelled = m_isCancelled || (progress && !progress->shouldContinue(rowsRead));
+        return !m_isDetached && !m_isCancelled;
     };
     return m_opener ? m_opener(statement, shouldContinue)
                     : ResultSet::open(texts.connectionString, statement, dbType, shouldContinue);
@@ -37,6 +38,7 @@ Session::Reading Session::readResult(const QString &statement, qint32 dbType,
     if (shared.isOpening) // one statement at a time in a process
         return Reading::Failed;
     const ResultWatch watch(*this);
+    m_isCancelled = false;
     QString failure;
     try {
         opened = openStatement(statement, dbType);
@@ -49,9 +51,11 @@ Session::Reading Session::readResult(const QString &statement, qint32 dbType,
     }
     if (refusal)
         *refusal = failure;
-    else
+    else if (!m_isCancelled)
         reportOpenError(failure);
-    return Reading::Failed;
+    else if (!m_isDetached)
+        m_window->showNote(SessionMessages::OpeningCancelled);
+    return m_isCancelled ? Reading::Cancelled : Reading::Failed;
 }
 
 void Session::reportOpenError(const QString &description)
@@ -115,7 +119,7 @@ bool Session::reloadFiltered(const QString &statement, bool isRemembered, QStrin
     const auto opened = readForReload(statement, isRemembered, refusal);
     if (!opened) {
         const bool isLeftToCaller = refusal && !refusal->isEmpty();
-        if (!m_rules.reportsOpenErrors && hasGround() && !isLeftToCaller)
+        if (!m_rules.reportsOpenErrors && hasGround() && !isLeftToCaller && !m_isCancelled)
             m_questions->show(SessionMessages::ReadFailed);
         return false;
     }

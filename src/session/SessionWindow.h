@@ -98,6 +98,8 @@ public:
     virtual void refreshCommands() {}
     // A result is shown: what works on it can be used from now on.
     virtual void enableCommands() {}
+    // Says something in passing that needs no answer.
+    virtual void showNote(const QString & /*text*/) {}
     // The result is shown on the whole screen until the user comes back.
     virtual void showFullScreen() {}
     // Shows that a statement is being opened. Only one can live in a process. Null shows nothing.

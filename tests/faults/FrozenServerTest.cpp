@@ -36,7 +36,7 @@ protected:
         ASSERT_TRUE(sinceEscape.isValid()) << "nothing could be cancelled";
         RecordProperty("milliseconds", static_cast<int>(sinceEscape.elapsed()));
         EXPECT_LT(sinceEscape.elapsed(), 3000) << "the rest is for a machine that is busy with other things";
-        EXPECT_EQ(loadError(), u"操作已取消。"_s);
+        EXPECT_EQ(loadError(), QString()) << "the user knows what he did";
     }
 };
 

@@ -15,6 +15,7 @@
 #include <QtGui/QGuiApplication>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QToolTip>
 
 namespace KOVAVSFDataGridLib {
 
@@ -110,6 +111,11 @@ int GridWindow::Row() const
 int GridWindow::Rows() const
 {
     return m_grid.Rows();
+}
+
+void GridWindow::showNote(const QString &text)
+{
+    QToolTip::showText(m_grid.mapToGlobal(m_grid.rect().bottomLeft()), text, &m_grid);
 }
 
 void GridWindow::PutRow(int row)

@@ -46,6 +46,7 @@ public:
     void keepInView(const std::function<void()> &change) override;
 
     void setPressed(const QString &key, bool on) override;
+    void showNote(const QString &text) override;
     void refreshCommands() override;
 
     // What it shows; not owned. To be set before anything is shown.

@@ -1,0 +1,53 @@
+// Message boxes in a host without a translator: their buttons speak the language of their texts.
+#include "forms/Messages.h"
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
+#include <gtest/gtest.h>
+
+#include <functional>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The captions of the box that `show` opens, without the marks of their keys, in alphabetical order.
+QStringList captionsOf(const std::function<void()> &show)
+{
+    QStringList captions;
+    QTimer::singleShot(0, qApp, [&] {
+        auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        ASSERT_TRUE(box);
+        for (const QAbstractButton *button : box->buttons())
+            captions += button->text();
+        box->reject();
+    });
+    show();
+    captions.sort();
+    return captions;
+}
+
+} // namespace
+
+TEST(Messages, ANoticeHasAChineseButton)
+{
+    EXPECT_EQ(captionsOf([] { Messages::show(nullptr, u"已加载"_s); }), QStringList(u"确定"_s));
+    EXPECT_EQ(captionsOf([] { Messages::showWithCause(nullptr, u"未保存"_s, u"locked"_s); }),
+              QStringList(u"确定"_s));
+}
+
+TEST(Messages, AQuestionHasChineseButtons)
+{
+    EXPECT_EQ(captionsOf([] { Messages::ask(nullptr, u"删除？"_s, u"删除"_s, QMessageBox::Question); }),
+              QStringList({u"否(&N)"_s, u"是(&Y)"_s}));
+    EXPECT_EQ(captionsOf([] { Messages::askToSave(nullptr, u"没有保存"_s, u"记录"_s); }),
+              QStringList({u"保存(&S)"_s, u"取消"_s, u"放弃(&D)"_s}));
+}
+
+TEST(Messages, AnOfferStandsBesideOk)
+{
+    EXPECT_EQ(captionsOf([] { Messages::offer(nullptr, u"记录已修改"_s, {}, u"查看新值(&V)"_s); }),
+              QStringList({u"查看新值(&V)"_s, u"确定"_s}));
+}
