@@ -226,6 +226,8 @@ public:
     // Whether records can be neither added, changed nor deleted.
     bool isReadOnly() const { return m_isReadOnly; }
     void setReadOnly(bool on);
+    // Whether the open result has a field that can be written.
+    bool canAddRecords() const;
     // The same for a record that is known to be changed. Throws ADODB::Error when the database refuses.
     void saveChanges();
     // Forgets what was written into it.

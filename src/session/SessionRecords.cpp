@@ -146,6 +146,18 @@ void Session::setReadOnly(bool on)
     m_window->refreshCommands();
 }
 
+bool Session::canAddRecords() const
+{
+    if (m_isReadOnly || !m_result.isOpen())
+        return false;
+    const ADODB::Fields &fields = m_result.recordset()->Fields();
+    for (int i = 0; i < fields.Count(); ++i) {
+        if (fields.Item(i).Attributes() & (ADODB::adFldUpdatable | ADODB::adFldUnknownUpdatable))
+            return true;
+    }
+    return false;
+}
+
 void Session::cancelRecord()
 {
     const ADODB::Notifications::Hold hold(*m_notifications);

@@ -122,8 +122,10 @@ TEST_F(Load, AGridWithNothingToShowSaysWhy)
     ASSERT_TRUE(load(u"select * from T"_s));
     EXPECT_FALSE(hint->isVisible());
     ASSERT_TRUE(load(u"select * from T where ID > 100"_s));
-    EXPECT_EQ(hint->text(), u"没有记录"_s);
+    EXPECT_EQ(hint->text(), u"没有记录。按 Ctrl++ 增加第一条记录。"_s);
     EXPECT_TRUE(hint->isVisible());
+    ASSERT_TRUE(load(u"select upper(ID) as a from T where ID > 100"_s));
+    EXPECT_EQ(hint->text(), u"没有记录"_s) << "nothing can be written there";
     grid.Clear();
     EXPECT_EQ(hint->text(), u"尚未加载数据"_s);
     EXPECT_EQ(part<QLabel>("lblStatement")->text(), QString()) << "nothing is said of a result that is gone";

@@ -148,7 +148,7 @@ void ControlWindow::refreshStatus()
     if (m_session->result().recordset()->RecordCount() > 0)
         m_parts.lblEmpty->showText({});
     else
-        m_parts.lblEmpty->showNoRecords(m_session->history().Count() > 1);
+        m_parts.lblEmpty->showNoRecords(m_session->history().Count() > 1, m_session->canAddRecords());
 }
 
 void ControlWindow::enableCommands()

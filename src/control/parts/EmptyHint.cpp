@@ -25,9 +25,9 @@ void EmptyHint::showText(const QString &text)
     place();
 }
 
-void EmptyHint::showNoRecords(bool canGoBack)
+void EmptyHint::showNoRecords(bool canGoBack, bool canAdd)
 {
-    showText(canGoBack ? GridTexts::NoRecordsFound : GridTexts::NoRecords);
+    showText(canGoBack ? GridTexts::NoRecordsFound : canAdd ? GridTexts::NoRecordsYet : GridTexts::NoRecords);
 }
 
 bool EmptyHint::eventFilter(QObject *watched, QEvent *event)

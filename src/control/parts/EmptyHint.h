@@ -16,8 +16,9 @@ public:
 
     // An empty text hides it.
     void showText(const QString &text);
-    // That the result has no records, and whether a step back leads to one that may have some.
-    void showNoRecords(bool canGoBack);
+    // That the result has no records, and what the user can do: step back to one that may have some, or add
+    // the first one.
+    void showNoRecords(bool canGoBack, bool canAdd);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

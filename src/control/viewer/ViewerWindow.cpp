@@ -55,7 +55,7 @@ void ViewerWindow::refreshStatus()
     makeShownCellCurrent();
     const bool isEmpty = m_session->result().isOpen() && m_session->result().recordset()->RecordCount() == 0;
     if (isEmpty)
-        m_parts.lblEmpty->showNoRecords(m_session->canGoBack());
+        m_parts.lblEmpty->showNoRecords(m_session->canGoBack(), false);
     else
         m_parts.lblEmpty->showText({});
 }

@@ -271,6 +271,21 @@ TEST_F(RecordEditing, ANumberHasOneLine)
     EXPECT_TRUE(edit->isVisible());
 }
 
+TEST_F(RecordEditing, TheFirstRecordOfAnEmptyTableIsAddedByTheKeyThatTheHintNames)
+{
+    ASSERT_TRUE(load(u"SELECT ID, 名称 FROM 商品 WHERE ID > 100"_s, {}));
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_Plus, Qt::ControlModifier);
+    ASSERT_TRUE(isSingleRecordShown());
+    makeCurrent(u"名称"_s);
+    QTest::keyClick(list, Qt::Key_Return);
+    edit->setText(u"毛尖"_s);
+    QTest::keyClick(edit, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(database.ask(u"SELECT count(*) FROM 商品 WHERE 名称 = '毛尖'"_s), u"1"_s);
+    click(u"AllRecord"_s);
+    EXPECT_EQ(rows(), 1);
+}
+
 TEST_F(RecordEditing, ADateIsPickedFromACalendar)
 {
     ASSERT_TRUE(load());
