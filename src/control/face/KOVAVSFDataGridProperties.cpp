@@ -117,6 +117,7 @@ QColor KOVAVSFDataGrid::DataBackColor() const
 void KOVAVSFDataGrid::PutDataBackColor(const QColor &colour)
 {
     d->parts.vsfgDataGrid->PutBackColor(colour);
+    d->parts.MSFlexGrid1->PutBackColor(colour); // the same data, one record of it
 }
 
 QFont KOVAVSFDataGrid::DataFont() const
@@ -127,6 +128,7 @@ QFont KOVAVSFDataGrid::DataFont() const
 void KOVAVSFDataGrid::PutDataFont(const QFont &font)
 {
     d->parts.vsfgDataGrid->setFont(font);
+    d->parts.MSFlexGrid1->setFont(font);
 }
 
 qint32 KOVAVSFDataGrid::UseModel() const

@@ -286,6 +286,25 @@ TEST_F(RecordEditing, TheFirstRecordOfAnEmptyTableIsAddedByTheKeyThatTheHintName
     EXPECT_EQ(rows(), 1);
 }
 
+TEST_F(RecordEditing, TheListHasTheDatasFontAndColour)
+{
+    QFont large = grid.DataFont();
+    large.setPointSize(large.pointSize() + 6);
+    grid.PutDataFont(large);
+    grid.PutDataBackColor(QColor(255, 250, 220));
+    ASSERT_TRUE(load());
+    click(u"SingleRecord"_s);
+    EXPECT_EQ(list->font(), large);
+    makeCurrent(u"名称"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    EXPECT_EQ(edit->font().pointSize(), large.pointSize());
+    QTest::keyClick(edit, Qt::Key_Escape);
+    const QRect value = list->visualRect(list->model()->index(0, 1)); // of those not shaded
+    EXPECT_EQ(list->viewport()->grab(value).toImage().pixelColor(value.width() - 20, value.height() / 2),
+              QColor(255, 250, 220));
+    EXPECT_GE(value.height(), list->fontMetrics().height());
+}
+
 TEST_F(RecordEditing, ADateIsPickedFromACalendar)
 {
     ASSERT_TRUE(load());
