@@ -142,8 +142,7 @@ TEST_P(OdbcServer, IsClosedOnceTheServerEndedItAndCanBeOpenedAgain)
             execute((is("MariaDB") ? u"KILL %1"_s : u"SELECT pg_terminate_backend(%1)"_s).arg(id));
         return true;
     });
-    const Error error =
-        errorOf([&] { reading.Open(QString::fromLatin1(GetParam().endless), connection); });
+    const Error error = errorOf([&] { reading.Open(QString::fromLatin1(GetParam().endless), connection); });
     EXPECT_TRUE(error.Description().contains(u"连接已断开"))
         << error.what() << ' ' << error.SQLState().toStdString();
     EXPECT_EQ(connection->State(), adStateClosed);

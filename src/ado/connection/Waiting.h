@@ -9,8 +9,8 @@
 namespace ADODB {
 
 // For as long as it lives, what waits for a server in this thread, and has nobody of its own to ask, asks
-// here whether to go on: every few milliseconds, from this thread. When the answer is false the wait ends with
-// dbErrCancelled. They can be nested; the innermost is asked.
+// here whether to go on: every few milliseconds, from this thread. When the answer is false the wait ends
+// with dbErrCancelled. They can be nested; the innermost is asked.
 class KOVA_EXPORT Waiting
 {
 public:

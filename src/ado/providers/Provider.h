@@ -26,8 +26,8 @@ public:
     virtual const std::vector<FieldInfo> &fields() const = 0;
     // All columns: those of fields(), then hidden ones that serve the writer as key.
     virtual int columns() const = 0;
-    // Runs the statement and appends all its rows. Asks at least every 20 ms whether to go on, with the number
-    // of rows read so far; throws dbErrCancelled when not. `rows` is without meaning while it asks.
+    // Runs the statement and appends all its rows. Asks at least every 20 ms whether to go on, with the
+    // number of rows read so far; throws dbErrCancelled when not. `rows` is without meaning while it asks.
     virtual void fetch(RowStore &rows, const std::function<bool(qint64 rowsRead)> &shouldContinue) = 0;
     // Null when rows can't be written back; whyReadOnly() then says why.
     virtual std::unique_ptr<RowWriter> takeWriter() = 0;

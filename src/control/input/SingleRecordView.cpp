@@ -168,6 +168,7 @@ int SingleRecordView::currentGridCol() const
 std::vector<int> SingleRecordView::listedColumns() const
 {
     std::vector<int> columns;
+    columns.reserve(m_fields.size());
     for (const int field : m_fields)
         columns.push_back(field + 1);
     return columns;
