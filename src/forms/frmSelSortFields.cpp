@@ -161,7 +161,7 @@ bool frmSelSortFields::AppendListFields(const QList<OfferedField> &fields)
 bool frmSelSortFields::AppendSortOrder()
 {
     m_order->clear();
-    m_order->addItems({QueryTexts::Ascending(), QueryTexts::Descending()});
+    m_order->addItems({QueryTexts::Ascending, QueryTexts::Descending});
     m_order->setCurrentIndex(0);
     enableButtons();
     return true;

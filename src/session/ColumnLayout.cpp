@@ -27,7 +27,8 @@ void ColumnLayout::RecordShowSQL(const QString &strSQL, FieldView view, bool sav
     if (strSQL.isEmpty())
         return;
     const bool showsAll = view == FieldView::All;
-    m_history.AddCurrentSQL(strSQL, showsAll ? 1 : 0, strCurrPartFields, strCurrOrderFields);
+    m_history.AddCurrentSQL(strSQL, showsAll ? AllFieldsShown : PartFieldsShown, strCurrPartFields,
+                            strCurrOrderFields);
     m_history.SetConnString(connectionString);
     m_history.GetCurrSQLFieldsStatus();
     if (savesWidths)

@@ -25,8 +25,6 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr qint32 statementOfTheHost = 2; // TableType: there is no whole table to go to
-
 QString pageLabel(const QString &page, const QString &pageCount)
 {
     return GridTexts::PagePrefix + page + GridTexts::PageCountPrefix + pageCount + GridTexts::PageCapPrefix +
@@ -158,7 +156,7 @@ void ControlWindow::enableCommands()
     m_toolbar.setEnabled(true);
     m_parts.cmdPgae->setEnabled(true);
     m_toolbar.setAllButtonsEnabled(true);
-    if (m_session->texts.tableType == statementOfTheHost)
+    if (m_session->texts.tableType == FromOwnStatement)
         m_toolbar.setButtonEnabled(CommandKeys::ToFullTable, false);
 }
 
