@@ -205,10 +205,10 @@ void SingleRecordView::fitNameColumn()
 bool SingleRecordView::eventFilter(QObject *watched, QEvent *event)
 {
     const QPointer<SingleRecordView> alive(this);
-    return isDealtWith(watched, event) || !alive; // an event for a widget that is no more goes nowhere
+    return handleEvent(watched, event) || !alive; // an event for a widget that is no more goes nowhere
 }
 
-bool SingleRecordView::isDealtWith(QObject *watched, QEvent *event)
+bool SingleRecordView::handleEvent(QObject *watched, QEvent *event)
 {
     const auto *source = static_cast<const QWidget *>(watched);
     switch (event->type()) {
