@@ -1,7 +1,7 @@
 #include "forms/FindDialog.h"
 
-#include "forms/FieldCombo.h"
 #include "forms/FormTexts.h"
+#include "forms/widgets/FieldCombo.h"
 #include "query/QueryTexts.h"
 #include "query/conditions/FindText.h"
 #include "query/fields/colDataFields.h"

@@ -1,12 +1,12 @@
 #include "grid/FlexGrid.h"
 
-#include "grid/CellDelegate.h"
-#include "grid/CellPainter.h"
-#include "grid/CurrentCellFrame.h"
-#include "grid/FlexGridModel.h"
 #include "grid/FlexHeader.h"
-#include "grid/TextCells.h"
 #include "grid/Twips.h"
+#include "grid/cells/FlexGridModel.h"
+#include "grid/cells/TextCells.h"
+#include "grid/painting/CellDelegate.h"
+#include "grid/painting/CellPainter.h"
+#include "grid/painting/CurrentCellFrame.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QScopedValueRollback>

@@ -1,6 +1,6 @@
 // The current cell of a FlexGrid: how it moves by program, mouse and key, and when that is reported.
 #include "grid/FlexGrid.h"
-#include "grid/FlexGridModel.h"
+#include "grid/cells/FlexGridModel.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QMouseEvent>

@@ -3,11 +3,11 @@
 #include "ado/Notifications.h"
 #include "query/SharedValues.h"
 #include "query/clsFilterManagement.h"
-#include "session/ColumnLayout.h"
-#include "session/ConnectionFieldReader.h"
-#include "session/KeptWidths.h"
 #include "session/ResultSet.h"
 #include "session/WindowRules.h"
+#include "session/layout/ColumnLayout.h"
+#include "session/layout/KeptWidths.h"
+#include "session/statement/ConnectionFieldReader.h"
 
 #include <functional>
 #include <memory>

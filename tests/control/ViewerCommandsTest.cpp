@@ -1,7 +1,7 @@
 // The commands of the full-screen viewer: the statements they lead to, and what they leave behind.
 #include "ViewerFixture.h"
 
-#include "control/parts/GridToolbar.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
 #include "support/MessageAnswers.h"

@@ -7,11 +7,11 @@
 #include "control/input/MenuKey.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
-#include "control/parts/GridToolbar.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "grid/GridSelection.h"
-#include "grid/TextCells.h"
 #include "grid/Twips.h"
+#include "grid/cells/TextCells.h"
 #include "session/Session.h"
 #include "session/commands/CommandKeys.h"
 

@@ -1,8 +1,8 @@
-#include "session/FilterManagerRollback.h"
 #include "session/Session.h"
-#include "session/ShownOrder.h"
 #include "session/columns/ColumnCommand.h"
 #include "session/commands/ShowSorted.h"
+#include "session/statement/FilterManagerRollback.h"
+#include "session/statement/ShownOrder.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "session/FilterManagerRollback.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
+#include "session/statement/FilterManagerRollback.h"
 
 // One statement back, and back to the first; both show many records again.
 

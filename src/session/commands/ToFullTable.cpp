@@ -1,7 +1,7 @@
-#include "session/FilterManagerRollback.h"
 #include "session/Session.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/statement/FilterManagerRollback.h"
 
 // The latest statement without its condition.
 
