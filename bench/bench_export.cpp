@@ -2,9 +2,9 @@
 #include "ado/Recordset.h"
 #include "ado/values/NumericTypes.h"
 #include "export/ExportFile.h"
-#include "export/TabTextWriter.h"
 #include "export/TableMimeData.h"
-#include "session/SelectionSummary.h"
+#include "export/writers/TabTextWriter.h"
+#include "session/records/SelectionSummary.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>

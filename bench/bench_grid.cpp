@@ -2,8 +2,8 @@
 #include "ado/Connection.h"
 #include "ado/Recordset.h"
 #include "grid/FlexGrid.h"
-#include "grid/RecordWindow.h"
-#include "grid/TextCells.h"
+#include "grid/cells/RecordWindow.h"
+#include "grid/cells/TextCells.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>

@@ -8,7 +8,7 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "grid/FlexGrid.h"
-#include "grid/RecordWindow.h"
+#include "grid/cells/RecordWindow.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtSql/QSqlDatabase>

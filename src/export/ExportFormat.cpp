@@ -1,11 +1,11 @@
 #include "export/ExportFormat.h"
 
-#include "export/CsvWriter.h"
 #include "export/ExportTexts.h"
-#include "export/HtmlWriter.h"
-#include "export/JsonLinesWriter.h"
+#include "export/writers/CsvWriter.h"
+#include "export/writers/HtmlWriter.h"
+#include "export/writers/JsonLinesWriter.h"
 #ifdef KOVA_WITH_XLSX
-#include "export/XlsxWriter.h"
+#include "export/writers/XlsxWriter.h"
 #endif
 
 #include <QtCore/QFileInfo>

@@ -1,6 +1,6 @@
 #include "export/TableMimeData.h"
 
-#include "export/HtmlText.h"
+#include "export/writers/HtmlText.h"
 
 namespace KOVAVSFDataGridLib {
 

@@ -5,6 +5,7 @@
 #include "filter/FilterValue.h"
 #include "sql/Like.h"
 #include "sql/Literals.h"
+#include "sql/Predicates.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -81,8 +82,7 @@ QString isEmpty(const Dialect &dialect, const FilterField &field, bool wanted)
 {
     if (field.fieldClass != FieldClass::Text)
         return field.written + (wanted ? " IS NULL"_L1 : " IS NOT NULL"_L1);
-    return wanted ? FilterSql::isEmptyText(dialect, field.written)
-                  : FilterSql::isNotEmptyText(dialect, field.written);
+    return wanted ? isEmptyText(dialect, field.written) : isNotEmptyText(dialect, field.written);
 }
 
 } // namespace
@@ -114,7 +114,7 @@ FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked)
         return {{}, whyNoFilterValue(field.fieldClass, choice.value)};
     if (field.fieldClass == FieldClass::Boolean) {
         const bool wanted = value->isTrue == (choice.op == FilterOperator::Equals);
-        return {FilterSql::isTrue(dialect, field.written, wanted), {}};
+        return {isTrue(dialect, field.written, wanted), {}};
     }
     switch (choice.op) {
     case FilterOperator::Contains:

@@ -2,8 +2,8 @@
 
 #include "filter/FilterTexts.h"
 #include "filter/ValueEdit.h"
-#include "forms/FieldCombo.h"
-#include "forms/TextWidth.h"
+#include "forms/widgets/FieldCombo.h"
+#include "forms/widgets/TextWidth.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QComboBox>

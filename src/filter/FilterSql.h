@@ -8,12 +8,6 @@
 // The conditions that the builder writes and those it puts together.
 namespace KOVAVSFDataGridLib::FilterSql {
 
-QString isTrue(const Dialect &dialect, const QString &field, bool wanted);
-
-// A text field that holds no character, or some.
-QString isEmptyText(const Dialect &dialect, const QString &field);
-QString isNotEmptyText(const Dialect &dialect, const QString &field);
-
 // At most `count` different values of a field, in order, without Null.
 QString distinctValues(const Dialect &dialect, const QString &field, const QString &table, int count);
 

@@ -3,7 +3,7 @@
 #include "ado/Error.h"
 #include "filter/FilterRows.h"
 #include "filter/FilterTexts.h"
-#include "forms/FlatCmd.h"
+#include "forms/widgets/FlatCmd.h"
 #include "query/derivation/SqlText.h"
 
 #include <QtCore/QRegularExpression>

@@ -3,7 +3,7 @@
 #include "filter/FilterTexts.h"
 #include "filter/SetFilter.h"
 #include "forms/FormTexts.h"
-#include "forms/GradualControl.h"
+#include "forms/widgets/GradualControl.h"
 
 #include <QtGui/QIcon>
 #include <QtWidgets/QFrame>

@@ -3,6 +3,7 @@
 #include "filter/FilterTexts.h"
 #include "filter/SetFilter.h"
 #include "filter/frm_Filter.h"
+#include "query/SharedValues.h"
 #include "query/conditions/Conditions.h"
 
 #include <QtWidgets/QComboBox>
@@ -62,8 +63,7 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
     m_dialog->SetPicture(request.picture);
     SetFilter &builder = m_dialog->SetFilter1();
     builder.Initialize(FilterTexts::TableCaption, request.dbType);
-    constexpr qint32 statementOfTheHost = 2;
-    if (request.tableType == statementOfTheHost && request.connection)
+    if (request.tableType == FromOwnStatement && request.connection)
         builder.SetConnection(request.connection);
     else
         builder.SetConnectionString(request.connectionString);

@@ -25,7 +25,7 @@ struct FilterRequest
 {
     QString connectionString;
     AllDBType dbType = dbAccess;
-    qint32 tableType = 0; // 0 a table, 1 a view, 2 a statement of the host's own
+    qint32 tableType = 0; // StatementSource
     QString sqlShow;      // the statement whose table is filtered
     // For table type 2, where the connection string alone may not lead to the same data; may be null.
     std::shared_ptr<ADODB::Connection> connection;

@@ -1,7 +1,7 @@
 #include "forms/ConnectDialog.h"
 
 #include "forms/FormTexts.h"
-#include "forms/TextWidth.h"
+#include "forms/widgets/TextWidth.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>

@@ -1,7 +1,7 @@
 #include "forms/Dialog_SQLST.h"
 
 #include "forms/FormTexts.h"
-#include "forms/TextWidth.h"
+#include "forms/widgets/TextWidth.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>

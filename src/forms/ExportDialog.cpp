@@ -2,7 +2,7 @@
 
 #include "forms/FormTexts.h"
 #include "forms/Messages.h"
-#include "forms/TextWidth.h"
+#include "forms/widgets/TextWidth.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>

@@ -1,7 +1,7 @@
 #include "forms/FindDialog.h"
 
-#include "forms/FieldCombo.h"
 #include "forms/FormTexts.h"
+#include "forms/widgets/FieldCombo.h"
 #include "query/QueryTexts.h"
 #include "query/conditions/FindText.h"
 #include "query/fields/colDataFields.h"
@@ -106,14 +106,12 @@ FindDialog::FindDialog(QWidget *parent)
     m_input->setFocus();
 }
 
-bool FindDialog::InitFrm(const colDataFields *colFields, QString *ErrInfo)
+bool FindDialog::InitFrm(const colDataFields *colFields)
 {
-    if (ErrInfo)
-        ErrInfo->clear();
     m_fields->clear();
     if (!colFields || colFields->Count() == 0)
         return false;
-    m_fields->addItem(QueryTexts::AllFields());
+    m_fields->addItem(QueryTexts::AllFields);
     for (const clsDataField &field : *colFields)
         m_fields->addItem(field.FieldName);
     m_fields->setCurrentIndex(0);

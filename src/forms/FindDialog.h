@@ -18,8 +18,8 @@ public:
     explicit FindDialog(QWidget *parent = nullptr);
 
     // Offers all fields together, then each field of the catalogue. False when there is no catalogue or
-    // nothing in it. *ErrInfo is emptied.
-    bool InitFrm(const colDataFields *colFields, QString *ErrInfo = nullptr);
+    // nothing in it.
+    bool InitFrm(const colDataFields *colFields);
 
     // The words searched for, "%" between them; empty until Find has succeeded.
     const QString &strFindText() const { return m_strFindText; }

@@ -1,7 +1,7 @@
 #include "forms/SelectionDialog.h"
 
 #include "forms/FormTexts.h"
-#include "forms/GradualControl.h"
+#include "forms/widgets/GradualControl.h"
 
 #include <QtGui/QCloseEvent>
 #include <QtGui/QIcon>

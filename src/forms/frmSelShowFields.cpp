@@ -1,10 +1,10 @@
 #include "forms/frmSelShowFields.h"
 
-#include "forms/FlatCmd.h"
 #include "forms/FormTexts.h"
-#include "forms/GradualControl.h"
 #include "forms/Messages.h"
-#include "forms/TextWidth.h"
+#include "forms/widgets/FlatCmd.h"
+#include "forms/widgets/GradualControl.h"
+#include "forms/widgets/TextWidth.h"
 #include "query/conditions/SelectionText.h"
 
 #include <QtCore/QSignalBlocker>

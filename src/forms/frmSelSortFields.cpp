@@ -1,10 +1,10 @@
 #include "forms/frmSelSortFields.h"
 
-#include "forms/FieldCombo.h"
-#include "forms/FlatCmd.h"
 #include "forms/FormTexts.h"
-#include "forms/SortList.h"
-#include "forms/TextWidth.h"
+#include "forms/widgets/FieldCombo.h"
+#include "forms/widgets/FlatCmd.h"
+#include "forms/widgets/SortList.h"
+#include "forms/widgets/TextWidth.h"
 #include "query/QueryTexts.h"
 #include "sql/Names.h"
 
@@ -161,7 +161,7 @@ bool frmSelSortFields::AppendListFields(const QList<OfferedField> &fields)
 bool frmSelSortFields::AppendSortOrder()
 {
     m_order->clear();
-    m_order->addItems({QueryTexts::Ascending(), QueryTexts::Descending()});
+    m_order->addItems({QueryTexts::Ascending, QueryTexts::Descending});
     m_order->setCurrentIndex(0);
     enableButtons();
     return true;

@@ -1,15 +1,14 @@
 #include "grid/FlexGrid.h"
 
-#include "grid/CellDelegate.h"
-#include "grid/CellPainter.h"
-#include "grid/CurrentCellFrame.h"
-#include "grid/FlexGridModel.h"
 #include "grid/FlexHeader.h"
-#include "grid/TextCells.h"
 #include "grid/Twips.h"
+#include "grid/cells/FlexGridModel.h"
+#include "grid/cells/TextCells.h"
+#include "grid/painting/CellDelegate.h"
+#include "grid/painting/CellPainter.h"
+#include "grid/painting/CurrentCellFrame.h"
 
 #include <QtCore/QEvent>
-#include <QtCore/QPointer>
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QHeaderView>
@@ -17,7 +16,6 @@
 
 #include <algorithm>
 #include <stdexcept>
-#include <utility>
 
 namespace KOVAVSFDataGridLib {
 
@@ -100,98 +98,6 @@ bool FlexGrid::isBlank() const
     return m_model->source().isBlank();
 }
 
-void FlexGrid::PutRow(int row)
-{
-    checkRow(row);
-    makeCurrent(row, m_col == 0 && row > 0 && Cols() > m_model->fixedCols() ? m_model->fixedCols() : m_col);
-}
-
-void FlexGrid::PutCol(int col)
-{
-    checkCol(col);
-    makeCurrent(m_row, col);
-}
-
-// Headings and hidden columns can be current in the grid's vocabulary but not in the view, whose keys would
-// be dead there. The numbers are kept here; the view stands on the nearest column that can be seen.
-void FlexGrid::makeCurrent(int row, int col)
-{
-    const bool isCell = row > 0 && m_model->columnCount() > 0;
-    notifyAfter([&] {
-        setAutoScroll(false); // what is in view is TopRow's affair
-        setCurrentIndex(isCell ? m_model->index(row - 1, nearestShownSection(section(col))) : QModelIndex());
-        setAutoScroll(true);
-        m_row = row;
-        m_col = col;
-    });
-}
-
-void FlexGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
-{
-    QTableView::currentChanged(current, previous);
-    if (!current.isValid())
-        return;
-    m_col = current.column() + m_model->fixedCols();
-    const int row = current.row() + 1;
-    if (m_row != row) {
-        m_row = row;
-        if (m_isActing)
-            m_hasNewRow = true;
-        else
-            Q_EMIT CurrentRowChanged(row);
-    }
-}
-
-void FlexGrid::notifyAfter(const std::function<void()> &act)
-{
-    if (m_isActing)
-        return act();
-    m_isActing = true;
-    act();
-    m_isActing = false;
-    const std::optional<int> clickedCol = std::exchange(m_clickedCol, std::nullopt);
-    const QPointer<FlexGrid> alive(this);
-    if (std::exchange(m_hasNewRow, false))
-        Q_EMIT CurrentRowChanged(m_row);
-    if (alive && clickedCol)
-        Q_EMIT HeadingClicked(*clickedCol);
-}
-
-void FlexGrid::mousePressEvent(QMouseEvent *event)
-{
-    notifyAfter([&] {
-        QTableView::mousePressEvent(event);
-        // No change of the view's cell when it stood there for a hidden column that is the current one.
-        if (const QModelIndex cell = indexAt(event->position().toPoint());
-            cell.isValid() && cell == currentIndex())
-            m_col = cell.column() + m_model->fixedCols();
-    });
-}
-
-void FlexGrid::mouseMoveEvent(QMouseEvent *event)
-{
-    notifyAfter([&] { QTableView::mouseMoveEvent(event); });
-}
-
-void FlexGrid::mouseDoubleClickEvent(QMouseEvent *event)
-{
-    notifyAfter([&] { QTableView::mouseDoubleClickEvent(event); });
-}
-
-void FlexGrid::keyPressEvent(QKeyEvent *event)
-{
-    notifyAfter([&] { QTableView::keyPressEvent(event); });
-}
-
-QModelIndex FlexGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
-{
-    const QModelIndex target = QTableView::moveCursor(action, modifiers);
-    const int lastUsed = UsedRows() - 2; // the model does not count the headings
-    if (!target.isValid() || target.row() <= lastUsed)
-        return target;
-    return lastUsed >= 0 ? target.siblingAtRow(lastUsed) : currentIndex();
-}
-
 void FlexGrid::updateGeometries()
 {
     QTableView::updateGeometries();
@@ -212,26 +118,6 @@ void FlexGrid::scrollContentsBy(int dx, int dy)
         verticalHeader()->setOffsetToSectionPosition(top);
         Refresh();
     }
-}
-
-int FlexGrid::RowSel() const
-{
-    const QModelIndex current = currentIndex();
-    for (const QItemSelectionRange &range : selectionModel()->selection()) {
-        if (range.contains(current))
-            return (current.row() == range.top() ? range.bottom() : range.top()) + 1;
-    }
-    return m_row;
-}
-
-int FlexGrid::ColSel() const
-{
-    const QModelIndex current = currentIndex();
-    for (const QItemSelectionRange &range : selectionModel()->selection()) {
-        if (range.contains(current))
-            return (current.column() == range.left() ? range.right() : range.left()) + m_model->fixedCols();
-    }
-    return m_col;
 }
 
 int FlexGrid::TopRow() const

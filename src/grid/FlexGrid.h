@@ -1,7 +1,7 @@
 #pragma once
 
-#include "grid/CellSource.h"
 #include "grid/HeadingMark.h"
+#include "grid/cells/CellSource.h"
 
 #include "ado/values/DisplayFormat.h"
 

@@ -1,10 +1,10 @@
 #include "grid/FlexGrid.h"
 
-#include "grid/CellDelegate.h"
 #include "grid/ColumnOrder.h"
-#include "grid/FlexGridModel.h"
 #include "grid/FlexHeader.h"
 #include "grid/Twips.h"
+#include "grid/cells/FlexGridModel.h"
+#include "grid/painting/CellDelegate.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QStyle>

@@ -1,7 +1,7 @@
 #include "grid/FlexGrid.h"
 
-#include "grid/FlexGridModel.h"
 #include "grid/Twips.h"
+#include "grid/cells/FlexGridModel.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QHeaderView>

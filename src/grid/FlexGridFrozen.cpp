@@ -1,7 +1,7 @@
 #include "grid/FlexGrid.h"
 
-#include "grid/CellPainter.h"
-#include "grid/FlexGridModel.h"
+#include "grid/cells/FlexGridModel.h"
+#include "grid/painting/CellPainter.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QHeaderView>

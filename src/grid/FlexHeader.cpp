@@ -1,9 +1,9 @@
 #include "grid/FlexHeader.h"
 
 #include "grid/FlexGrid.h"
-#include "grid/FlexGridModel.h"
-#include "grid/HeadingPainter.h"
 #include "grid/WholeText.h"
+#include "grid/cells/FlexGridModel.h"
+#include "grid/painting/HeadingPainter.h"
 
 #include <QtGui/QHelpEvent>
 #include <QtGui/QPainter>

@@ -1,7 +1,7 @@
 #include "pages/PropertyPage.h"
 
 #include "forms/Messages.h"
-#include "forms/TextWidth.h"
+#include "forms/widgets/TextWidth.h"
 #include "pages/PageTexts.h"
 
 #include <QtCore/QMetaProperty>

@@ -6,7 +6,7 @@ namespace KOVAVSFDataGridLib {
 
 QString SetFilterTableName(const QString &name)
 {
-    return CutStringEnds(CutStringEnds(name, QStringLiteral("["), 1), QStringLiteral("]"), 2);
+    return CutStringEnds(CutStringEnds(name, QStringLiteral("["), CutBegin), QStringLiteral("]"), CutEnd);
 }
 
 FilterTableName SplitFilterTableName(const QString &name)
@@ -15,7 +15,7 @@ FilterTableName SplitFilterTableName(const QString &name)
     if (dot < 0)
         return {};
     const auto quote = QStringLiteral("\"");
-    return {CutStringEnds(name.first(dot), quote, 3), CutStringEnds(name.mid(dot + 1), quote, 3)};
+    return {CutStringEnds(name.first(dot), quote, CutBoth), CutStringEnds(name.mid(dot + 1), quote, CutBoth)};
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -13,6 +13,9 @@ struct ParsedStatements
     QStringList colSelFields; // the field names of the statement last given to ParseSelFieldList
 };
 
+// What the statement of a host selects from, as the host says it.
+enum StatementSource : qint32 { FromTable = 0, FromView = 1, FromOwnStatement = 2 };
+
 // What all controls of a process and their dialogs share. Whoever wrote a value last has set it for all;
 // a control must not take one of them for its own. Everything runs on the GUI thread, so there are no locks.
 struct SharedValues
@@ -22,8 +25,8 @@ struct SharedValues
     QString connectionString;
     QString sqlShow;
     QString sqlShowCopy;
-    qint16 tableType = 0;
-    qint32 dbType = 1; // AllDBType
+    qint16 tableType = FromTable; // StatementSource
+    qint32 dbType = 1;            // AllDBType
     qint16 dbType16 = 1;
     qint32 recordCount = 0; // of the last load, at most recordCap
     qint32 hasRecords = 0;  // 1 when recordCount is at least 1

@@ -161,15 +161,14 @@ bool clsFilterManagement::GetRequirePartSQL(const QString &strOrgSQL, qint32 lng
     const auto sentence = SplitSQLSentence(strOrgSQL);
     if (!sentence)
         return false;
-    constexpr qint32 withoutCondition = 3;
-    if (lngSelPart == withoutCondition) {
+    if (lngSelPart == PartsWithoutCondition) {
         if (const auto derivation = WithoutConditions(strOrgSQL)) {
             strRetSQL = *derivation;
             return !strRetSQL.isEmpty();
         }
     }
-    const bool keepsCondition = lngSelPart == 1 || lngSelPart == 2;
-    const bool keepsSort = lngSelPart == 1 || lngSelPart == 3;
+    const bool keepsCondition = lngSelPart == AllParts || lngSelPart == PartsWithoutSort;
+    const bool keepsSort = lngSelPart == AllParts || lngSelPart == PartsWithoutCondition;
     if (keepsCondition || keepsSort) {
         strRetSQL = ComposeSQL(sentence->fields, keepsCondition ? sentence->where : QString(),
                                keepsSort ? sentence->order : QString());
@@ -252,7 +251,7 @@ QString clsFilterManagement::MakeDerivedCurrent(qint32 SQLType, bool isDerivedBy
     const auto derived = Derive(SQLType, isDerivedByHistory);
     if (!derived)
         return {};
-    if (SQLType != 3)
+    if (SQLType != PreviousStatement)
         LetNewSQLStr(m_history.Sorted(*derived, m_orderFields));
     m_memory.currentStatement = m_memory.lastUseFilter;
     return m_memory.currentStatement;
@@ -262,19 +261,19 @@ std::optional<QString> clsFilterManagement::Derive(qint32 SQLType, bool isDerive
 {
     QString text;
     switch (SQLType) {
-    case 0:
+    case FirstStatement:
         return std::exchange(m_memory.isFirstUsed, true) ? QString() : m_allFields;
-    case 1:
-    case 2:
+    case AllFieldsStatement:
+    case PartFieldsStatement:
         return isDerivedByHistory ? DeriveFromHistory(SQLType) : DeriveFromCurrent(SQLType);
-    case 3:
+    case PreviousStatement:
         return GetPreviewFilter(text) ? std::optional(text) : std::nullopt;
-    case 4:
+    case ChosenFieldsStatement:
         if (!GetPartShowSelFields(m_allFields, m_memory.currentPartFields, m_memory.currentStatement, text))
             return std::nullopt;
         m_memory.currentPartFields = text;
         return text;
-    case 5:
+    case ChosenSortStatement:
         if (!GetPartSortSelFields(m_allFields, m_memory.currentSortFields, text))
             return std::nullopt;
         m_memory.currentSortFields = text;
@@ -290,7 +289,8 @@ QString clsFilterManagement::DeriveFromCurrent(qint32 SQLType) const
 {
     const QString &partFields =
         m_memory.currentPartFields.isEmpty() ? m_showFields : m_memory.currentPartFields;
-    return ReplaceSQLFieldPart(m_memory.currentStatement, SQLType == 1 ? m_allFields : partFields);
+    return ReplaceSQLFieldPart(m_memory.currentStatement,
+                               SQLType == AllFieldsStatement ? m_allFields : partFields);
 }
 
 QString clsFilterManagement::DeriveFromHistory(qint32 SQLType) const

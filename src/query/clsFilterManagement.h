@@ -5,8 +5,6 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What clsFilterManagement::GetCurrentSQL20 is asked for.
-enum StatementType : qint32 { FirstStatement = 0, AllFieldsStatement = 1, PartFieldsStatement = 2 };
 // What clsFilterManagement::GetRequirePartSQL keeps of a statement.
 enum StatementParts : qint32 { AllParts = 1, PartsWithoutSort = 2, PartsWithoutCondition = 3 };
 
@@ -74,10 +72,10 @@ public:
     QString GetAllFieldSQL() const { return FieldListWithCurrentSource(m_allFields); }
     QString GetPartFieldSQL() const { return FieldListWithCurrentSource(m_showFields); }
 
-    // Derives a statement and makes it the one shown: 0 the first one, 1 all fields, 2 part fields (see
-    // StatementType), 3 back, 4 the user chooses fields, 5 the user chooses a sort. What derives nothing
-    // answers the statement shown; 3, 4 and 5 answer an empty text when there is no way back or the user
-    // cancels. GetCurrentSQL20 derives 1 and 2 from the history's latest entry.
+    // Derives a statement and makes it the one shown. `SQLType` is a StatementType; any other number, and
+    // what derives nothing, answers the statement shown. PreviousStatement, ChosenFieldsStatement and
+    // ChosenSortStatement answer an empty text when there is no way back or the user cancels. GetCurrentSQL20
+    // derives AllFieldsStatement and PartFieldsStatement from the history's latest entry.
     QString GetCurrentSQL(qint32 SQLType);
     QString GetCurrentSQL20(qint32 SQLType);
 

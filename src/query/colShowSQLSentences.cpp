@@ -12,9 +12,9 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr qint32 kLongVarBinary = 205;
+constexpr qint32 longVarBinaryType = 205;
 
-QStringList NamesOf(const std::vector<SourceField> &fields)
+QStringList namesOf(const std::vector<SourceField> &fields)
 {
     QStringList names;
     for (const SourceField &field : fields)
@@ -23,7 +23,7 @@ QStringList NamesOf(const std::vector<SourceField> &fields)
 }
 
 // Where a list that is "*" alone has it; nothing for any other statement.
-std::optional<qsizetype> PositionOfLoneStar(const QString &statement)
+std::optional<qsizetype> positionOfLoneStar(const QString &statement)
 {
     const SqlScanner scanned(statement);
     const bool isAlone = scanned.isWord(0, u"SELECT") && scanned.isSymbol(1, u'*') &&
@@ -174,10 +174,10 @@ bool colShowSQLSentences::GetNextShowSQL(qint32 SQLType, QString &PassSQL) const
     const clsShowSQLSentence *const latest = Latest();
     if (!latest)
         return false;
-    if (SQLType != 1 && SQLType != 2)
+    if (SQLType != AllFieldsStatement && SQLType != PartFieldsStatement)
         return true;
     QString fieldStatement = latest->AllFields;
-    if (SQLType == 2)
+    if (SQLType == PartFieldsStatement)
         latest->GetCurrUsePartFieldSQL(fieldStatement);
     const QString statement = WithFieldsOf(latest->ShowSQL, fieldStatement);
     if (statement.isEmpty())
@@ -192,7 +192,7 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
     strRetSQL.clear();
     if (strPassConnString.isEmpty() || strOrgSQL.isEmpty())
         return false;
-    const auto star = PositionOfLoneStar(strOrgSQL);
+    const auto star = positionOfLoneStar(strOrgSQL);
     if (!star) {
         strRetSQL = strOrgSQL;
         return true;
@@ -203,7 +203,8 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
     // What quotes do to a name is known only with the engine.
     const Engine engine = engineOf(strPassConnString);
     const auto quoted = [&](const QString &name) {
-        return engine == Engine::Other ? u'"' + name + u'"' : quotedName(dialectOf(m_database, engine), name);
+        return engine == Engine::Other ? enclosedAsIs(u'"', name, u'"')
+                                       : quotedName(dialectOf(m_database, engine), name);
     };
     QStringList names;
     QStringList longBinaryNames;
@@ -216,7 +217,7 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
             strRetSQL = strOrgSQL;
             return true;
         }
-        QStringList &list = field.adoType == kLongVarBinary ? longBinaryNames : names;
+        QStringList &list = field.adoType == longVarBinaryType ? longBinaryNames : names;
         list.append(quoted(field.name));
     }
     auto sentence = SplitSQLSentence(strOrgSQL);
@@ -258,7 +259,7 @@ bool colShowSQLSentences::GetCurrShowFieldsCount(qint32 &PassCount) const
     const clsShowSQLSentence *const latest = Latest();
     if (!latest)
         return false;
-    if (latest->IsShowAllFields != 1)
+    if (latest->IsShowAllFields != AllFieldsShown)
         return m_catalogue.GetCurrShowFieldsCount(PassCount);
     PassCount = static_cast<qint32>(m_catalogue.Count());
     return true;
@@ -317,7 +318,7 @@ bool colShowSQLSentences::BringInStepWith(const clsShowSQLSentence &entry, const
     if (!entry.GetCurrUsePartFieldSQL(partStatement))
         return true;
     const auto partFields = m_reader->Read(connectionString, partStatement);
-    return partFields && m_catalogue.SetPartFieldStatusByCol(NamesOf(*partFields));
+    return partFields && m_catalogue.SetPartFieldStatusByCol(namesOf(*partFields));
 }
 
 // The names are the database's own, so that each grid column finds its field; an alias is a name like any

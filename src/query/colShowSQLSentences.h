@@ -11,6 +11,16 @@
 
 namespace KOVAVSFDataGridLib {
 
+// What the history and clsFilterManagement::GetCurrentSQL20 are asked for.
+enum StatementType : qint32 {
+    FirstStatement = 0,
+    AllFieldsStatement = 1,
+    PartFieldsStatement = 2,
+    PreviousStatement = 3,
+    ChosenFieldsStatement = 4, // the user chooses the fields
+    ChosenSortStatement = 5    // the user chooses the sort
+};
+
 // The history: the statements that the grid has shown, oldest first, and the field catalogue of the newest
 // one. Functions answer True when done and False otherwise, with the outputs as far as they were set; none
 // throws. Positions count from 1; the latest entry is the one at Count().
@@ -79,8 +89,8 @@ public:
     bool GetPreviewSQL(QString &PassFilter, QString *PassKey = nullptr);
     bool GetFirstSQL(QString &PassFilter, QString *PassKey = nullptr);
 
-    // Statements derived from the latest entry; they add no entry. `SQLType` 1 shows all fields, 2 the part
-    // fields; any other answers True with an empty statement.
+    // Statements derived from the latest entry; they add no entry. `SQLType` is AllFieldsStatement or
+    // PartFieldsStatement; any other number answers True with an empty statement.
     bool GetNextSQLByFilter(const QString &strNewFilter, QString &strCurrentFilter) const;
     bool GetNextSQLBySort(const QString &strNewSort, QString &strCurrentFilter) const;
     bool GetNextShowSQL(qint32 SQLType, QString &PassSQL) const;

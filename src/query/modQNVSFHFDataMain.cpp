@@ -11,18 +11,18 @@ using namespace CharText;
 
 namespace {
 
-constexpr auto kInvalidArgument = "Invalid procedure call or argument";
+constexpr auto invalidArgument = "Invalid procedure call or argument";
 // A statement is taken to begin with SELECT and one blank, so its list begins here.
-constexpr qsizetype kListPosition = 8;
+constexpr qsizetype listPosition = 8;
 
 // The trimmed statement, or an empty text when it is no SELECT.
-QString SelectStatement(const QString &statement)
+QString selectStatement(const QString &statement)
 {
     const QString trimmed = trim(statement);
     return findUpper(trimmed, QStringLiteral("SELECT")) > 0 ? trimmed : QString();
 }
 
-QString WithoutBrackets(QString name)
+QString withoutBrackets(QString name)
 {
     if (name.startsWith(u'['))
         name.remove(0, 1);
@@ -35,7 +35,7 @@ QString WithoutBrackets(QString name)
 
 std::optional<ParseFailure> ParseSQLFieldList(const QString &statement, AllDBType database)
 {
-    QString text = SelectStatement(statement);
+    QString text = selectStatement(statement);
     if (text.isEmpty())
         return std::nullopt;
     if (database != dbOracle) {
@@ -46,21 +46,21 @@ std::optional<ParseFailure> ParseSQLFieldList(const QString &statement, AllDBTyp
     ParsedStatements &parsed = SharedValues::instance().parsed;
     parsed.strSQLTable = GetSQLTableName(text);
     const auto blankBeforeFrom = findUpper(text, QStringLiteral(" FROM "));
-    if (blankBeforeFrom < kListPosition)
-        return ParseFailure{QStringLiteral("KOVAVSFDataGridLib"), QString::fromLatin1(kInvalidArgument)};
-    const QString list = First(From(text, kListPosition), blankBeforeFrom - kListPosition);
+    if (blankBeforeFrom < listPosition)
+        return ParseFailure{QStringLiteral("KOVAVSFDataGridLib"), QString::fromLatin1(invalidArgument)};
+    const QString list = First(From(text, listPosition), blankBeforeFrom - listPosition);
 
     ClearSQLFieldList();
     QStringList items = list.split(u',');
     const QString last = items.takeLast();
     for (const QString &written : items) {
         const QString item = trim(written);
-        parsed.colSQLFields.append(database == dbOracle ? item : WithoutBrackets(item));
+        parsed.colSQLFields.append(database == dbOracle ? item : withoutBrackets(item));
     }
     // The last item differs from the others: elsewhere than on Oracle it keeps its blanks, which also shield
     // its "[".
     if (!last.contains(u'*'))
-        parsed.colSQLFields.append(database == dbOracle ? trim(last) : WithoutBrackets(last));
+        parsed.colSQLFields.append(database == dbOracle ? trim(last) : withoutBrackets(last));
     return std::nullopt;
 }
 
@@ -71,13 +71,13 @@ void ClearSQLFieldList()
 
 void ParseSelFieldList(const QString &statement)
 {
-    const QString text = SelectStatement(statement);
+    const QString text = selectStatement(statement);
     if (text.isEmpty())
         return;
     const auto blankBeforeFrom = findUpper(text, QStringLiteral(" FROM "));
-    if (blankBeforeFrom < kListPosition)
-        throw std::invalid_argument(kInvalidArgument);
-    const QString list = First(From(text, kListPosition), blankBeforeFrom - kListPosition);
+    if (blankBeforeFrom < listPosition)
+        throw std::invalid_argument(invalidArgument);
+    const QString list = First(From(text, listPosition), blankBeforeFrom - listPosition);
 
     QStringList &fields = SharedValues::instance().parsed.colSelFields;
     fields.clear();
@@ -88,7 +88,7 @@ void ParseSelFieldList(const QString &statement)
     for (const QString &item : items)
         fields.append(trim(item));
     if (isListCut)
-        throw std::invalid_argument(kInvalidArgument);
+        throw std::invalid_argument(invalidArgument);
 }
 
 } // namespace KOVAVSFDataGridLib

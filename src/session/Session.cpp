@@ -75,7 +75,7 @@ void Session::run(const QString &key, ChosenBy by)
         qWarning("No command has the key %s", qPrintable(key));
     const bool isMenuItem = by == ChosenBy::MenuItem;
     perform([&] {
-        if (!command || (isMenuItem && !m_result.isOpen()) || !isReady(*command))
+        if (!command || (isMenuItem && !m_result.isOpen()) || !makeReady(*command))
             return;
         if (isMenuItem && command->menu.leavesSingleRecord && m_window->isSingleRecordShown())
             m_window->showAllRecords();
@@ -85,15 +85,15 @@ void Session::run(const QString &key, ChosenBy by)
 
 // False when what was typed can't be taken or saved, which the user has been shown, and when the host,
 // notified of it, has taken away what the command was to work on.
-bool Session::isReady(const Command &command)
+bool Session::makeReady(const Command &command)
 {
     const bool hasCommand = m_rules.hasAllCommands || command.isInViewer;
     if (!hasCommand || !hasGround() || !whyNot(command).isEmpty())
         return false;
-    return isReady(command.needs, command.record);
+    return makeReady(command.needs, command.record);
 }
 
-bool Session::isReady(Needs needs, Record record)
+bool Session::makeReady(Needs needs, Record record)
 {
     returnToShownRecord();
     const ResultWatch watch(*this);
@@ -113,7 +113,7 @@ bool Session::canRunOnColumn(const ColumnCommand &command, int col)
 void Session::runOnColumn(const ColumnCommand &command, int col)
 {
     perform([&] {
-        if (canRunOnColumn(command, col) && isReady(Needs::Nothing, command.record))
+        if (canRunOnColumn(command, col) && makeReady(Needs::Nothing, command.record))
             command.run(*this, col);
     });
 }

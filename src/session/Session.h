@@ -3,11 +3,11 @@
 #include "ado/Notifications.h"
 #include "query/SharedValues.h"
 #include "query/clsFilterManagement.h"
-#include "session/ColumnLayout.h"
-#include "session/ConnectionFieldReader.h"
-#include "session/KeptWidths.h"
 #include "session/ResultSet.h"
 #include "session/WindowRules.h"
+#include "session/layout/ColumnLayout.h"
+#include "session/layout/KeptWidths.h"
+#include "session/statement/ConnectionFieldReader.h"
 
 #include <functional>
 #include <memory>
@@ -41,7 +41,7 @@ struct SessionTexts
     QString passQurryFilter;
     QString picField;
     QString recordSource;
-    qint32 tableType = 0; // 0 a table, 1 a view, 2 a statement of the host's own
+    qint32 tableType = 0; // StatementSource
 };
 
 // One open result and all that can be done with it: its pages, its history of statements, the layout of its
@@ -253,10 +253,10 @@ private:
     void reportOpenError(const QString &description);
     void showLoaded(const ResultSet::Opened &opened, const QString &statement,
                     std::unique_ptr<clsFilterManagement> manager);
-    bool isReady(const Command &command);
+    bool makeReady(const Command &command);
     // Whether what it works on is still there.
     bool hasGround() const { return !m_rules.worksOnLentResult || m_filter; }
-    bool isReady(Needs needs, Record record);
+    bool makeReady(Needs needs, Record record);
     void cancelChanges();
     struct Failure
     {

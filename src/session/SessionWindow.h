@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/ColumnView.h"
+#include "session/layout/ColumnView.h"
 
 #include <functional>
 #include <memory>

@@ -46,6 +46,12 @@ QString momentText(const Dialect &dialect, QLatin1StringView kind, const QString
     return dialect.isOdbc ? u'{' + kind + u' ' + quoted(text) + u'}' : quoted(text);
 }
 
+// Oracle reads a plain text by the session's own date format, the others know this one.
+QString scriptTime(const Dialect &dialect, QLatin1StringView word, const QString &text)
+{
+    return dialect.likelyEngine() == Engine::Oracle ? word + u' ' + quoted(text) : quoted(text);
+}
+
 QString timeText(QTime time)
 {
     return time.toString(time.msec() == 0 ? u"HH:mm:ss"_s : u"HH:mm:ss.zzz"_s);
@@ -102,6 +108,47 @@ QString timeLiteral(const Dialect &dialect, QTime time)
 QString momentLiteral(const Dialect &dialect, const QDateTime &moment)
 {
     return momentText(dialect, "ts"_L1, moment.date().toString(Qt::ISODate) + u' ' + timeText(moment.time()));
+}
+
+// In PostgreSQL it depends on a setting of the session what a backslash means, except in such a text.
+QString scriptText(Dialect dialect, const QString &text)
+{
+    if (dialect.likelyEngine() != Engine::PostgreSQL || !text.contains(u'\\'))
+        return textLiteral(dialect, text);
+    dialect.escapesByBackslash = true;
+    return u'E' + textLiteral(dialect, text);
+}
+
+QString scriptBytes(const Dialect &dialect, const QByteArray &bytes)
+{
+    const QString digits = QString::fromLatin1(bytes.toHex().toUpper());
+    switch (dialect.likelyEngine()) {
+    case Engine::PostgreSQL:
+        return u"'\\x"_s + digits + u"'::bytea"_s;
+    case Engine::SqlServer:
+        return u"0x"_s + digits;
+    case Engine::Oracle:
+        return u"HEXTORAW('"_s + digits + u"')"_s;
+    default:
+        return u"X'"_s + digits + u'\'';
+    }
+}
+
+QString scriptBoolean(const Dialect &dialect, bool value)
+{
+    if (dialect.likelyEngine() == Engine::PostgreSQL)
+        return value ? u"TRUE"_s : u"FALSE"_s;
+    return value ? u"1"_s : u"0"_s;
+}
+
+QString scriptDate(const Dialect &dialect, const QString &text)
+{
+    return scriptTime(dialect, "DATE"_L1, text);
+}
+
+QString scriptMoment(const Dialect &dialect, const QString &text)
+{
+    return scriptTime(dialect, "TIMESTAMP"_L1, text);
 }
 
 } // namespace KOVAVSFDataGridLib

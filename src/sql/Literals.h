@@ -2,6 +2,7 @@
 
 #include "sql/Engine.h"
 
+#include <QtCore/QByteArray>
 #include <QtCore/QDateTime>
 #include <QtCore/QString>
 
@@ -23,5 +24,13 @@ QString momentLiteral(const Dialect &dialect, const QDateTime &moment);
 // of several forms, of which those that mean the same are to be equal.
 QString dateOperand(const Dialect &dialect, const QString &field);
 QString momentOperand(const Dialect &dialect, const QString &field);
+
+// Literals for a script that another program runs: without ODBC's escapes, and for the likely engine where
+// the engine isn't known. `text` is the date or the moment in ISO form.
+QString scriptText(Dialect dialect, const QString &text);
+QString scriptBytes(const Dialect &dialect, const QByteArray &bytes);
+QString scriptBoolean(const Dialect &dialect, bool value);
+QString scriptDate(const Dialect &dialect, const QString &text);
+QString scriptMoment(const Dialect &dialect, const QString &text);
 
 } // namespace KOVAVSFDataGridLib

@@ -89,6 +89,11 @@ QString enclosed(QChar opening, QString name, QChar closing)
     return opening + name.replace(closing, QString(2, closing)) + closing;
 }
 
+QString enclosedAsIs(QChar opening, const QString &name, QChar closing)
+{
+    return opening + name + closing;
+}
+
 QChar closingQuote(QChar opening)
 {
     switch (opening.unicode()) {

@@ -20,6 +20,9 @@ QString quotedName(const Dialect &dialect, const QString &name);
 
 // The text between two quote characters, the closing one doubled inside.
 QString enclosed(QChar opening, QString name, QChar closing);
+// The same with quotes inside left as they are, for an unknown engine, which may not read a doubled one as
+// one.
+QString enclosedAsIs(QChar opening, const QString &name, QChar closing);
 
 // The character that ends a quoted text or name which begins with this one; null for any other character.
 QChar closingQuote(QChar opening);

@@ -1,9 +1,9 @@
 // How the widths of the grid's columns and those in the field catalogue are kept in step.
-#include "session/ColumnLayout.h"
-#include "control/parts/GridToolbar.h"
+#include "session/layout/ColumnLayout.h"
 #include "control/parts/GridWindow.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
-#include "grid/TextCells.h"
+#include "grid/cells/TextCells.h"
 #include "query/colShowSQLSentences.h"
 #include "session/WindowRules.h"
 

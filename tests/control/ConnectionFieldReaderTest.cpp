@@ -1,5 +1,5 @@
 // Reading field names: through which connection, for which statements, and how often.
-#include "session/ConnectionFieldReader.h"
+#include "session/statement/ConnectionFieldReader.h"
 #include "ado/Adodc.h"
 #include "ado/Connection.h"
 #include "ado/ConnectionFactory.h"

@@ -3,7 +3,7 @@
 #include "control/face/ControlWindow.h"
 #include "control/input/GridEvents.h"
 #include "control/parts/GridParts.h"
-#include "control/parts/GridToolbar.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "session/HostEvents.h"
 #include "session/Questions.h"

@@ -3,7 +3,7 @@
 
 #include "ado/Adodc.h"
 #include "ado/Recordset.h"
-#include "control/parts/GridToolbar.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "control/viewer/ShowFullScreen.h"
 #include "forms/DialogFieldChooser.h"
 #include "grid/FlexGrid.h"

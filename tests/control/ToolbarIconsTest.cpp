@@ -1,4 +1,4 @@
-#include "control/parts/ToolbarIcons.h"
+#include "control/parts/toolbar/ToolbarIcons.h"
 #include "session/commands/Command.h"
 
 #include <QtCore/QSet>

@@ -1,7 +1,7 @@
 // The commands of the full-screen viewer: the statements they lead to, and what they leave behind.
 #include "ViewerFixture.h"
 
-#include "control/parts/GridToolbar.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
 #include "support/MessageAnswers.h"
@@ -25,7 +25,7 @@ TEST_F(Viewer, PartHidesTheOtherFieldsWithoutOpeningAnything)
     EXPECT_EQ(viewer.CurrentSQL(), latestStatement());
     EXPECT_TRUE(latestStatement().startsWith(u"select Name, Born from T"_s)) << qPrintable(latestStatement());
     EXPECT_EQ(history().Count(), 2);
-    EXPECT_EQ(history().Item(2)->IsShowAllFields, 0);
+    EXPECT_EQ(history().Item(2)->IsShowAllFields, PartFieldsShown);
 }
 
 TEST_F(Viewer, PartOpensItsStatementWhenAFieldHasNoColumn)
@@ -61,7 +61,7 @@ TEST_F(Viewer, AllShowsAllFieldsAgainAndKeepsTheWidths)
     EXPECT_TRUE(viewer.IsAll());
     EXPECT_TRUE(viewer.IsRequeried());
     EXPECT_EQ(history().Count(), 2);
-    EXPECT_EQ(history().Item(2)->IsShowAllFields, 1);
+    EXPECT_EQ(history().Item(2)->IsShowAllFields, AllFieldsShown);
 }
 
 TEST_F(Viewer, SelFieldShowsTheChosenFieldsInTheirOrder)

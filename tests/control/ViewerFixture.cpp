@@ -1,7 +1,7 @@
 #include "ViewerFixture.h"
 
 #include "ado/Recordset.h"
-#include "control/parts/GridToolbar.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "query/SharedValues.h"
 

@@ -1,7 +1,7 @@
 // The full-screen viewer's popup menu.
 #include "ViewerFixture.h"
 
-#include "control/parts/GridToolbar.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "support/MessageAnswers.h"
 

@@ -1,4 +1,4 @@
-#include "export/FormulaGuard.h"
+#include "export/writers/FormulaGuard.h"
 
 #include <gtest/gtest.h>
 

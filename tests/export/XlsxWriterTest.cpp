@@ -1,7 +1,7 @@
 #include "ExportRecords.h"
 
 #include "ado/Error.h"
-#include "export/XlsxWriter.h"
+#include "export/writers/XlsxWriter.h"
 
 #include <gtest/gtest.h>
 

@@ -18,23 +18,6 @@ void expectText(const QString &text, const char *expected)
 
 } // namespace
 
-TEST(FilterSql, WhatIsReportedAsTextIsComparedAsTextOnPostgreSql)
-{
-    constexpr Dialect postgres{dbOracle, true, false, Engine::PostgreSQL};
-    expectText(isEmptyText(postgres, u"F"_s), "(F IS NULL OR CAST(F AS TEXT) = '')");
-    expectText(isNotEmptyText(postgres, u"F"_s), "CAST(F AS TEXT) LIKE '_%'");
-    expectText(isTrue({dbAccess, true, false, Engine::PostgreSQL}, u"F"_s, true), "F = '1'");
-}
-
-TEST(FilterSql, ValuesAreLimitedInTheEnginesOwnWords)
-{
-    const auto limited = [](const Dialect &dialect) { return distinctValues(dialect, u"F"_s, u"T"_s, 5); };
-    for (const Engine engine : {Engine::SQLite, Engine::PostgreSQL, Engine::MySQL})
-        EXPECT_TRUE(limited({dbSQLServer, true, false, engine}).endsWith(u" LIMIT 5"));
-    EXPECT_TRUE(limited(sqliteFile).endsWith(u" LIMIT 5"));
-    EXPECT_TRUE(limited(sqlServer).endsWith(u" OFFSET 0 ROWS FETCH NEXT 5 ROWS ONLY"));
-}
-
 TEST(FilterSql, TermsAreJoinedAsTheyStand)
 {
     expectText(join({}), "");

@@ -1,6 +1,6 @@
-#include "forms/FlatCmd.h"
-#include "forms/GradualControl.h"
 #include "forms/frmSelSortFields.h"
+#include "forms/widgets/FlatCmd.h"
+#include "forms/widgets/GradualControl.h"
 
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>

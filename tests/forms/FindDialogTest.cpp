@@ -53,9 +53,7 @@ TEST(FindDialogFields, AMissingOrEmptyCatalogueIsRefusedAndLeavesTheComboEmpty)
 {
     FindDialog dialog;
     colDataFields none;
-    QString error = u"old"_s;
-    EXPECT_FALSE(dialog.InitFrm(nullptr, &error));
-    EXPECT_TRUE(error.isEmpty());
+    EXPECT_FALSE(dialog.InitFrm(nullptr));
     EXPECT_FALSE(dialog.InitFrm(&none));
     EXPECT_EQ(part<QComboBox>(dialog, "FieldCombo1").count(), 0);
 }

@@ -1,6 +1,6 @@
 #include "forms/frmSelSortFields.h"
 
-#include "forms/SortList.h"
+#include "forms/widgets/SortList.h"
 #include "support/Dialogs.h"
 
 #include <QtCore/QMimeData>

@@ -1,7 +1,7 @@
 #include "FuzzInput.h"
 
 #include "ado/values/DisplayFormat.h"
-#include "session/SavedLayout.h"
+#include "session/layout/SavedLayout.h"
 
 using namespace KOVAVSFDataGridLib;
 using KovaTest::Require;

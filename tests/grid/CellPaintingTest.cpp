@@ -1,6 +1,6 @@
-#include "grid/CellDelegate.h"
 #include "grid/FlexGrid.h"
-#include "grid/TextCells.h"
+#include "grid/cells/TextCells.h"
+#include "grid/painting/CellDelegate.h"
 
 #include <QtGui/QHoverEvent>
 #include <QtGui/QPaintEvent>

@@ -2,7 +2,7 @@
 #include "grid/ColumnOrder.h"
 #include "grid/FlexGrid.h"
 #include "grid/FlexHeader.h"
-#include "grid/TextCells.h"
+#include "grid/cells/TextCells.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtTest/QSignalSpy>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "grid/FlexGrid.h"
-#include "grid/TextCells.h"
+#include "grid/cells/TextCells.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "grid/FlexGridModel.h"
-#include "grid/TextCells.h"
+#include "grid/cells/FlexGridModel.h"
+#include "grid/cells/TextCells.h"
 
 #include <QtTest/QAbstractItemModelTester>
 #include <QtTest/QSignalSpy>

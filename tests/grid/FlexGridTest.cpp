@@ -1,6 +1,6 @@
 #include "FlexGridFixture.h"
-#include "grid/CellDelegate.h"
-#include "grid/TextCells.h"
+#include "grid/cells/TextCells.h"
+#include "grid/painting/CellDelegate.h"
 
 #include <QtGui/QHelpEvent>
 #include <QtGui/QTextDocumentFragment>

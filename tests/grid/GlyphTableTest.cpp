@@ -1,4 +1,4 @@
-#include "grid/GlyphTable.h"
+#include "grid/painting/GlyphTable.h"
 
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QGlyphRun>

@@ -1,10 +1,10 @@
-#include "grid/RecordWindow.h"
+#include "grid/cells/RecordWindow.h"
 
 #include "ado/Connection.h"
 #include "ado/Recordset.h"
 #include "ado/RecordsetObserver.h"
 #include "grid/FlexGrid.h"
-#include "grid/FlexGridModel.h"
+#include "grid/cells/FlexGridModel.h"
 #include "support/TestDatabase.h"
 
 #include <QtTest/QAbstractItemModelTester>

@@ -33,7 +33,7 @@ bool isBelow(const QString &file, QLatin1StringView folder)
 QStringList IncludeArrows::faults()
 {
     m_faults.clear();
-    for (const QString &top : {u"src"_s, u"designer"_s, u"apps"_s, u"examples"_s}) {
+    for (const QString &top : {u"src"_s, u"designer"_s, u"apps"_s, u"examples"_s, u"python"_s}) {
         QDirIterator files(m_tree + u'/' + top, {u"*.h"_s, u"*.cpp"_s}, QDir::Files,
                            QDirIterator::Subdirectories);
         while (files.hasNext())

@@ -172,7 +172,7 @@ TEST(CellFilterText, NullIsAskedForByName)
 {
     EXPECT_EQ(buildCellFilter(u"A"_s, 202, std::nullopt).condition, u"A IS NULL"_s);
     EXPECT_EQ(buildCellFilter(u"A"_s, 3, std::nullopt).condition, u"A IS NULL"_s);
-    EXPECT_EQ(buildCellFilter(u"A"_s, 7, std::nullopt).message, QueryTexts::TypeNotFiltered());
+    EXPECT_EQ(buildCellFilter(u"A"_s, 7, std::nullopt).message, QueryTexts::TypeNotFiltered);
 }
 
 TEST(CellFilterText, NothingComesOfAnUnknownField)

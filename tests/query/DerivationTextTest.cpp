@@ -92,10 +92,10 @@ TEST(DerivationText, WhatCannotBeDoneSaysWhyBeforeAnythingIsTyped)
         return derive(Engine::PostgreSQL, statement, names).whyNot(DerivationStep::Condition);
     };
     EXPECT_EQ(whyNot(u"select A, A from T union select B, B from U"_s, {u"A"_s, u"a"_s}),
-              QueryTexts::EqualNames().arg(u"A"_s));
-    EXPECT_EQ(whyNot(u"select max(A) from T"_s, {QString()}), QueryTexts::UnnamedField());
-    EXPECT_EQ(whyNot(u"values (1)"_s, {u"A"_s}), QueryTexts::NotDerived());
-    EXPECT_EQ(whyNot(u"select A from T for update"_s, {u"A"_s}), QueryTexts::NotDerived());
+              QueryTexts::EqualNames.arg(u"A"_s));
+    EXPECT_EQ(whyNot(u"select max(A) from T"_s, {QString()}), QueryTexts::UnnamedField);
+    EXPECT_EQ(whyNot(u"values (1)"_s, {u"A"_s}), QueryTexts::NotDerived);
+    EXPECT_EQ(whyNot(u"select A from T for update"_s, {u"A"_s}), QueryTexts::NotDerived);
     EXPECT_EQ(whyNot(u"select A, A from T"_s, {u"A"_s, u"A"_s}), QString()) << "named by their values";
     const Derivation united =
         derive(Engine::SQLite, u"select A, A from T union select 1, 2"_s, {u"A"_s, u"A"_s});

@@ -135,7 +135,7 @@ TEST_F(HistoryDerivation, AStepBackNeedsNoReadablePartStatement)
 TEST_F(HistoryDerivation, ACommandThatCannotRunSaysWhy)
 {
     load(u"select ID, ID from Ord union select 1, 2"_s);
-    EXPECT_EQ(history.WhyNot(DerivationStep::Condition), QueryTexts::EqualNames().arg(u"ID"_s));
+    EXPECT_EQ(history.WhyNot(DerivationStep::Condition), QueryTexts::EqualNames.arg(u"ID"_s));
     EXPECT_FALSE(history.GetNextSQLByFilter(u"ID = 1"_s, next));
     EXPECT_FALSE(history.GetNextSQLBySort(u"ID"_s, next));
     EXPECT_FALSE(manager.LetNewFilter(u"ID = 1"_s, next));

@@ -71,7 +71,7 @@ TEST_F(History, EntriesHoldWhatTheyWereAddedWith)
     EXPECT_EQ(entry->SQLFields + entry->SQLWhere + entry->SQLOrder, u"fwo"_s);
     EXPECT_EQ(entry->OrgSQL, u"org"_s);
     EXPECT_EQ(entry->ShowSQL, u"show"_s);
-    EXPECT_EQ(entry->IsShowAllFields, 1);
+    EXPECT_EQ(entry->IsShowAllFields, AllFieldsShown);
     EXPECT_EQ(entry->AllFields, u"all"_s);
     EXPECT_EQ(entry->PartFields, u"part"_s);
     EXPECT_EQ(entry->OrderFields, u"sort"_s);

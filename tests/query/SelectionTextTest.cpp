@@ -39,7 +39,7 @@ TEST(SortChoice, RecognisesDescendingTermsInAnyCase)
 
 TEST(SortChoice, ComposesTermsWithoutAKeywordForAscending)
 {
-    EXPECT_EQ(ComposeSortList({{u"NAME"_s, QueryTexts::Descending()}, {u"AGE"_s, QueryTexts::Ascending()}}),
+    EXPECT_EQ(ComposeSortList({{u"NAME"_s, QueryTexts::Descending}, {u"AGE"_s, QueryTexts::Ascending}}),
               u"NAME DESC,AGE"_s);
     EXPECT_EQ(ComposeSortList({}), QString());
 }

@@ -1,4 +1,4 @@
-#include "session/DecimalSum.h"
+#include "session/records/DecimalSum.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Layouts as texts: what is written, and what is refused.
-#include "session/SavedLayout.h"
+#include "session/layout/SavedLayout.h"
 
 #include "SessionFixture.h"
 

@@ -78,3 +78,22 @@ TEST(Literals, DatesAreIsoTextOrOdbcEscapes)
     expectText(timeLiteral(oracleServer, QTime(8, 30, 1)), "{t '08:30:01'}");
     expectText(momentLiteral(sqlServer, moment), "{ts '2024-01-05 08:30:00'}");
 }
+
+TEST(Literals, AScriptHasTheEnginesOwnFormWithoutOdbcEscapes)
+{
+    constexpr Dialect postgres{dbAccess, true, false, Engine::PostgreSQL};
+    constexpr Dialect server{dbAccess, true, false, Engine::SqlServer};
+    constexpr Dialect oracle{dbAccess, true, false, Engine::Oracle};
+    expectText(scriptDate(postgres, u"2024-01-05"_s), "'2024-01-05'");
+    expectText(scriptDate(oracle, u"2024-01-05"_s), "DATE '2024-01-05'");
+    expectText(scriptMoment(oracle, u"2024-01-05 08:30:00"_s), "TIMESTAMP '2024-01-05 08:30:00'");
+    expectText(scriptMoment(oracleServer, u"2024-01-05 08:30:00"_s), "TIMESTAMP '2024-01-05 08:30:00'");
+    expectText(scriptBoolean(postgres, true), "TRUE");
+    expectText(scriptBoolean(server, false), "0");
+    expectText(scriptBytes(postgres, "\x01\xAB"_ba), R"('\x01AB'::bytea)");
+    expectText(scriptBytes(server, "\x01\xAB"_ba), "0x01AB");
+    expectText(scriptBytes(oracle, "\x01\xAB"_ba), "HEXTORAW('01AB')");
+    expectText(scriptBytes(sqliteFile, "\x01\xAB"_ba), "X'01AB'");
+    expectText(scriptText(postgres, uR"(C:\t)"_s), R"(E'C:\\t')");
+    expectText(scriptText(oracle, uR"(C:\t)"_s), R"('C:\t')");
+}

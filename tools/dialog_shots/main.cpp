@@ -2,7 +2,7 @@
 // the scale of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
 #include "control/connection/ConnectionBuilder.h"
 #include "control/parts/FormatDialog.h"
-#include "control/parts/ToolbarIcons.h"
+#include "control/parts/toolbar/ToolbarIcons.h"
 #include "filter/SetFilter.h"
 #include "filter/frm_Filter.h"
 #include "forms/ConnectDialog.h"

@@ -1,8 +1,8 @@
 // icon_pictures FOLDER: renders the toolbar's drawings for builds that have no Qt SVG module. FOLDER gets a
 // PNG file for each drawing and size, with the lines in red and the accent in blue, and a resource list,
 // ToolbarIcons.qrc, with all of them.
-#include "control/parts/IconMaskSizes.h"
-#include "control/parts/IconPicture.h"
+#include "control/parts/toolbar/IconMaskSizes.h"
+#include "control/parts/toolbar/IconPicture.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

@@ -2,7 +2,7 @@
 
 #include "ado/Error.h"
 #include "control/connection/ConnectionTexts.h"
-#include "forms/TextWidth.h"
+#include "forms/widgets/TextWidth.h"
 
 #include <QtGui/QCursor>
 #include <QtWidgets/QApplication>

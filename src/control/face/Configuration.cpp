@@ -18,11 +18,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Application = u"KOVAVSFDataGrid"_s;
-const QString SelectWholeRowsKey = u"Settings/ResChkSelAllRow"_s;
-const QString ThreeTierSection = u"Use3Tier"_s;
-const QString LayoutGroup = u"Layouts/"_s;
-const QString MissingEntry = u"Return Err"_s;
+const QString applicationName = u"KOVAVSFDataGrid"_s;
+const QString selectWholeRowsKey = u"Settings/ResChkSelAllRow"_s;
+const QString threeTierSection = u"Use3Tier"_s;
+const QString layoutGroup = u"Layouts/"_s;
+const QString missingEntry = u"Return Err"_s;
 constexpr qsizetype longestValue = 254; // characters
 
 bool isSameName(QStringView written, const QString &name)
@@ -77,7 +77,7 @@ IniSection::IniSection(const QString &filePath, const QString &section)
 QString profileValue(const IniSection &section, const QString &key)
 {
     const std::optional<QString> value = section.value(key);
-    return value ? value->left(longestValue).trimmed() : MissingEntry;
+    return value ? value->left(longestValue).trimmed() : missingEntry;
 }
 
 QString threeTierFile()
@@ -100,7 +100,7 @@ qint32 Read3TierSwitch()
 // The tier's entries whole, because a connection string cut off leads elsewhere.
 ThreeTierSettings readThreeTierSettings()
 {
-    const IniSection section(threeTierFile(), ThreeTierSection);
+    const IniSection section(threeTierFile(), threeTierSection);
     const auto entry = [&](const QString &key) { return section.value(key).value_or(QString()).trimmed(); };
     return {profileValue(section, u"MERIX"_s).toUpper() == u"YES",
             {entry(u"Server"_s), entry(u"Port"_s), entry(u"Connection"_s)}};
@@ -108,22 +108,22 @@ ThreeTierSettings readThreeTierSettings()
 
 bool readSelectWholeRows()
 {
-    return QSettings(Application, Application).value(SelectWholeRowsKey, u"1"_s).toString() == u"1";
+    return QSettings(applicationName, applicationName).value(selectWholeRowsKey, u"1"_s).toString() == u"1";
 }
 
 void saveSelectWholeRows(bool on)
 {
-    QSettings(Application, Application).setValue(SelectWholeRowsKey, on ? u"1"_s : u"0"_s);
+    QSettings(applicationName, applicationName).setValue(selectWholeRowsKey, on ? u"1"_s : u"0"_s);
 }
 
 QString readLayout(const QString &name)
 {
-    return QSettings(Application, Application).value(LayoutGroup + name).toString();
+    return QSettings(applicationName, applicationName).value(layoutGroup + name).toString();
 }
 
 void saveLayout(const QString &name, const QString &layout)
 {
-    QSettings(Application, Application).setValue(LayoutGroup + name, layout);
+    QSettings(applicationName, applicationName).setValue(layoutGroup + name, layout);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -2,17 +2,17 @@
 
 #include "ado/Recordset.h"
 #include "control/input/SingleRecordView.h"
-#include "control/parts/ElidedLabel.h"
-#include "control/parts/EmptyHint.h"
-#include "control/parts/FilterBar.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
-#include "control/parts/GridToolbar.h"
-#include "control/parts/LoadProgress.h"
-#include "control/parts/StatementLine.h"
+#include "control/parts/lines/ElidedLabel.h"
+#include "control/parts/lines/EmptyHint.h"
+#include "control/parts/lines/FilterBar.h"
+#include "control/parts/lines/LoadProgress.h"
+#include "control/parts/lines/StatementLine.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
-#include "grid/RecordWindow.h"
-#include "grid/TextCells.h"
+#include "grid/cells/RecordWindow.h"
+#include "grid/cells/TextCells.h"
 #include "session/Session.h"
 #include "session/commands/CommandKeys.h"
 
@@ -24,8 +24,6 @@
 namespace KOVAVSFDataGridLib {
 
 namespace {
-
-constexpr qint32 statementOfTheHost = 2; // TableType: there is no whole table to go to
 
 QString pageLabel(const QString &page, const QString &pageCount)
 {
@@ -158,7 +156,7 @@ void ControlWindow::enableCommands()
     m_toolbar.setEnabled(true);
     m_parts.cmdPgae->setEnabled(true);
     m_toolbar.setAllButtonsEnabled(true);
-    if (m_session->texts.tableType == statementOfTheHost)
+    if (m_session->texts.tableType == FromOwnStatement)
         m_toolbar.setButtonEnabled(CommandKeys::ToFullTable, false);
 }
 

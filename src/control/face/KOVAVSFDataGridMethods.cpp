@@ -6,13 +6,13 @@
 #include "control/face/Configuration.h"
 #include "control/face/KOVAVSFDataGridPrivate.h"
 #include "control/parts/GridTexts.h"
-#include "control/parts/GridToolbar.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "forms/ConnectDialog.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
-#include "session/ExportResult.h"
-#include "session/SavedLayout.h"
 #include "session/commands/CommandKeys.h"
+#include "session/layout/SavedLayout.h"
+#include "session/records/ExportResult.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>

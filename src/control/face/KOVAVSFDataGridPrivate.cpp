@@ -11,7 +11,7 @@
 #include "forms/Dialog_SQLST.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
-#include "grid/TextCells.h"
+#include "grid/cells/TextCells.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>

@@ -3,7 +3,7 @@
 #include "control/face/ControlError.h"
 #include "control/face/KOVAVSFDataGridPrivate.h"
 #include "control/parts/GridTexts.h"
-#include "control/parts/GridToolbar.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "query/derivation/SqlText.h"

@@ -3,8 +3,8 @@
 #include "control/face/Configuration.h"
 #include "grid/FlexGrid.h"
 #include "query/derivation/SqlText.h"
-#include "session/SavedLayout.h"
 #include "session/Session.h"
+#include "session/layout/SavedLayout.h"
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QPointer>

@@ -7,14 +7,14 @@
 #include "control/input/GridEvents.h"
 #include "control/input/KeyCodes.h"
 #include "control/input/SingleRecordView.h"
-#include "control/parts/FilterBar.h"
 #include "control/parts/GridParts.h"
-#include "control/parts/GridToolbar.h"
 #include "control/parts/PopupMenu.h"
+#include "control/parts/lines/FilterBar.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
-#include "session/ShownConditions.h"
+#include "session/statement/ShownConditions.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QAction>

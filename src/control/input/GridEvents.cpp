@@ -8,7 +8,7 @@
 #include "control/input/KeyCodes.h"
 #include "control/input/MenuKey.h"
 #include "control/parts/GridParts.h"
-#include "control/parts/GridToolbar.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
 #include "session/Questions.h"

@@ -3,11 +3,11 @@
 #include "ado/Recordset.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
-#include "control/parts/SummaryLine.h"
+#include "control/parts/lines/SummaryLine.h"
 #include "grid/FlexGrid.h"
-#include "session/LongWork.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
+#include "session/records/LongWork.h"
 
 #include <QtCore/QItemSelectionModel>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/SelectionSummary.h"
+#include "session/records/SelectionSummary.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QTimer>

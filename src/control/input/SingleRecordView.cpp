@@ -7,11 +7,11 @@
 #include "control/input/MenuKey.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
-#include "control/parts/GridToolbar.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "grid/GridSelection.h"
-#include "grid/TextCells.h"
 #include "grid/Twips.h"
+#include "grid/cells/TextCells.h"
 #include "session/Session.h"
 #include "session/commands/CommandKeys.h"
 
@@ -206,10 +206,10 @@ void SingleRecordView::fitNameColumn()
 bool SingleRecordView::eventFilter(QObject *watched, QEvent *event)
 {
     const QPointer<SingleRecordView> alive(this);
-    return isDealtWith(watched, event) || !alive; // an event for a widget that is no more goes nowhere
+    return handleEvent(watched, event) || !alive; // an event for a widget that is no more goes nowhere
 }
 
-bool SingleRecordView::isDealtWith(QObject *watched, QEvent *event)
+bool SingleRecordView::handleEvent(QObject *watched, QEvent *event)
 {
     const auto *source = static_cast<const QWidget *>(watched);
     switch (event->type()) {

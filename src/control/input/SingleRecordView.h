@@ -51,7 +51,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    bool isDealtWith(QObject *watched, QEvent *event);
+    bool handleEvent(QObject *watched, QEvent *event);
     bool keyPressed(const QKeyEvent &event);
     void doubleClicked(const QWidget &source, const QMouseEvent &event);
     void fitNameColumn();

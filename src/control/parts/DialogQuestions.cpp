@@ -2,7 +2,7 @@
 
 #include "control/parts/FormatDialog.h"
 #include "control/parts/GridTexts.h"
-#include "control/parts/ToolbarIcons.h"
+#include "control/parts/toolbar/ToolbarIcons.h"
 #include "filter/mod_Filter.h"
 #include "forms/ExportDialog.h"
 #include "forms/FindDialog.h"

@@ -1,14 +1,14 @@
 #include "control/parts/GridWindow.h"
 
 #include "control/parts/GridTexts.h"
-#include "control/parts/GridToolbar.h"
 #include "control/parts/PopupMenu.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "grid/GridSelection.h"
 #include "grid/Twips.h"
 #include "session/Session.h"
-#include "session/ShownConditions.h"
-#include "session/ShownOrder.h"
+#include "session/statement/ShownConditions.h"
+#include "session/statement/ShownOrder.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QClipboard>

@@ -1,8 +1,8 @@
 #include "control/parts/PopupMenu.h"
 
 #include "control/parts/GridTexts.h"
-#include "control/parts/GridToolbar.h"
-#include "control/parts/ToolbarIcons.h"
+#include "control/parts/toolbar/GridToolbar.h"
+#include "control/parts/toolbar/ToolbarIcons.h"
 #include "session/Session.h"
 
 #include <QtGui/QAction>

@@ -4,7 +4,7 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "control/parts/GridParts.h"
-#include "control/parts/GridToolbar.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "control/viewer/frm_FullScreen.h"
 #include "grid/FlexGrid.h"
 #include "session/Session.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grid/RecordWindow.h"
+#include "grid/cells/RecordWindow.h"
 #include "query/SharedValues.h"
 
 namespace KOVAVSFDataGridLib {

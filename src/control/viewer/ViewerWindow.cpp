@@ -1,15 +1,15 @@
 #include "control/viewer/ViewerWindow.h"
 
 #include "ado/Recordset.h"
-#include "control/parts/EmptyHint.h"
-#include "control/parts/FilterBar.h"
 #include "control/parts/GridTexts.h"
-#include "control/parts/LoadProgress.h"
+#include "control/parts/lines/EmptyHint.h"
+#include "control/parts/lines/FilterBar.h"
+#include "control/parts/lines/LoadProgress.h"
 #include "control/viewer/ViewerCells.h"
 #include "control/viewer/ViewerParts.h"
 #include "control/viewer/ViewerTexts.h"
 #include "grid/FlexGrid.h"
-#include "grid/TextCells.h"
+#include "grid/cells/TextCells.h"
 #include "session/Session.h"
 
 #include <QtWidgets/QLabel>

@@ -5,13 +5,13 @@
 #include "control/input/MenuKey.h"
 #include "control/parts/ColumnMenu.h"
 #include "control/parts/DialogQuestions.h"
-#include "control/parts/FilterBar.h"
-#include "control/parts/GridToolbar.h"
 #include "control/parts/PopupMenu.h"
+#include "control/parts/lines/FilterBar.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "control/viewer/ViewerTexts.h"
 #include "grid/FlexGrid.h"
-#include "session/ShownConditions.h"
 #include "session/commands/CommandKeys.h"
+#include "session/statement/ShownConditions.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>

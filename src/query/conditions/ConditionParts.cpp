@@ -89,7 +89,7 @@ std::optional<QString> textOfLiteral(const SqlScanner &sql, TextRange range)
 
 QString quoted(const QString &text)
 {
-    return QueryTexts::QuotedInWords().arg(text);
+    return QueryTexts::QuotedInWords.arg(text);
 }
 
 // Whether a field is alone but for what makes it a text or a date.
@@ -129,10 +129,10 @@ QString patternInWords(QString pattern, QChar escape)
             ++i;
         text += pattern.at(i);
     }
-    const QString words = isOpenBefore && isOpenAfter ? QueryTexts::ContainsInWords()
-                          : isOpenAfter               ? QueryTexts::BeginsInWords()
-                          : isOpenBefore              ? QueryTexts::EndsInWords()
-                                                      : QueryTexts::EqualsInWords();
+    const QString words = isOpenBefore && isOpenAfter ? QueryTexts::ContainsInWords
+                          : isOpenAfter               ? QueryTexts::BeginsInWords
+                          : isOpenBefore              ? QueryTexts::EndsInWords
+                                                      : QueryTexts::EqualsInWords;
     return words.arg(quoted(text));
 }
 
@@ -154,7 +154,7 @@ std::optional<QString> likeInWords(const SqlScanner &sql, TextRange value)
     if (const auto pattern = textOfLiteral(sql, value); pattern && !pattern->isEmpty())
         return patternInWords(*pattern, escape);
     if (value.end - value.begin == 1) // a number
-        return QueryTexts::EqualsInWords().arg(textOf(sql, value));
+        return QueryTexts::EqualsInWords.arg(textOf(sql, value));
     return std::nullopt;
 }
 
@@ -170,12 +170,12 @@ Comparison comparisonOf(const SqlScanner &sql, TextRange range)
         const TextRange behind{i + 1, range.end};
         if (sql.isWord(i, u"IS"))
             return {operand,
-                    sql.isWord(i + 1, u"NOT") ? QueryTexts::NotEmptyInWords() : QueryTexts::EmptyInWords()};
+                    sql.isWord(i + 1, u"NOT") ? QueryTexts::NotEmptyInWords : QueryTexts::EmptyInWords};
         if (sql.isWord(i, u"LIKE") && !behind.isEmpty() && !sql.isWord(i - 1, u"NOT"))
             return {operand, likeInWords(sql, behind).value_or(QString())};
         if (sql.isWord(i, u"IN") && !sql.isWord(i - 1, u"NOT"))
             return {operand,
-                    QueryTexts::InListInWords().arg(textOf(sql, withoutBrackets(sql, behind)).simplified())};
+                    QueryTexts::InListInWords.arg(textOf(sql, withoutBrackets(sql, behind)).simplified())};
         static constexpr QStringView signs = u"=<>!";
         const auto isSign = [&](qsizetype token) {
             return token < range.end && sql.at(token).kind == SqlToken::Kind::Symbol &&
@@ -211,11 +211,11 @@ QString alternativesInWords(const SqlScanner &sql, const std::vector<TextRange> 
     }
     constexpr qsizetype fewFields = 2;
     if (!rest.isEmpty() && operands.size() > fewFields)
-        return QueryTexts::AnyFieldInWords().arg(operands.size()).arg(rest);
+        return QueryTexts::AnyFieldInWords.arg(operands.size()).arg(rest);
     QStringList words;
     for (const TextRange &piece : pieces)
         words.append(conditionInWords(sql, piece));
-    return words.join(QueryTexts::OrInWords());
+    return words.join(QueryTexts::OrInWords);
 }
 
 } // namespace
@@ -258,13 +258,12 @@ QString conditionInWords(const SqlScanner &statement, TextRange condition)
         for (const TextRange &piece : pieces) {
             const QString text = conditionInWords(statement, piece);
             const bool isLoose = cutAt(statement, withoutBrackets(statement, piece), u"OR").size() > 1;
-            words.append(isLoose ? QueryTexts::BracketsInWords().arg(text) : text);
+            words.append(isLoose ? QueryTexts::BracketsInWords.arg(text) : text);
         }
-        return words.join(QueryTexts::AndInWords());
+        return words.join(QueryTexts::AndInWords);
     }
     if (statement.isWord(condition.begin, u"NOT") && condition.end - condition.begin > 1)
-        return QueryTexts::NotInWords().arg(
-            conditionInWords(statement, {condition.begin + 1, condition.end}));
+        return QueryTexts::NotInWords.arg(conditionInWords(statement, {condition.begin + 1, condition.end}));
     const Comparison comparison = comparisonOf(statement, condition);
     if (comparison.rest.isEmpty())
         return textOf(statement, condition).simplified();

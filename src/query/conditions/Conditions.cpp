@@ -19,20 +19,20 @@ namespace {
 
 using Search = qsizetype (*)(const QString &, const QString &);
 
-qsizetype FindAsWritten(const QString &text, const QString &word)
+qsizetype findAsWritten(const QString &text, const QString &word)
 {
     return Find(text, word);
 }
 
 template<std::size_t Count>
-bool Contains(const std::array<qint32, Count> &types, qint32 adoType)
+bool isAmong(const std::array<qint32, Count> &types, qint32 adoType)
 {
     return std::binary_search(types.begin(), types.end(), adoType);
 }
 
 // What Access is to write before ".[field]": the FROM text when it is one name, the alias when one follows,
 // else nothing, because the fields of a join can't be distinguished by its text.
-QString TableQualifier(const QString &fromText)
+QString tableQualifier(const QString &fromText)
 {
     static const QRegularExpression oneName = [] {
         const auto part = QStringLiteral(R"((?:\[[^\]]+\]|"[^"]+"|[\p{L}_][\p{L}\p{N}_$#]*))");
@@ -45,20 +45,21 @@ QString TableQualifier(const QString &fromText)
     return match.captured(match.lastCapturedIndex() == 2 ? 2 : 1);
 }
 
-bool IsBinary(std::optional<qint32> adoType)
+bool isBinary(std::optional<qint32> adoType)
 {
     return adoType == 128 || adoType == 204 || adoType == 205;
 }
 
-constexpr qint32 kSingle = 4;
-constexpr qint32 kDouble = 5;
-constexpr qint32 kCurrency = 6;
-constexpr qint32 kGuid = 72;
+constexpr qint32 singleType = 4;
+constexpr qint32 doubleType = 5;
+constexpr qint32 currencyType = 6;
+constexpr qint32 guidType = 72;
 
 // Where the engine isn't known, currency is left out as it always was.
-QString ClassOf(qint32 adoType, Engine engine)
+QString classOf(qint32 adoType, Engine engine)
 {
-    return adoType == kCurrency && engine != Engine::Other ? QStringLiteral("1") : ClassifyFieldType(adoType);
+    return adoType == currencyType && engine != Engine::Other ? QStringLiteral("1")
+                                                              : ClassifyFieldType(adoType);
 }
 
 struct SearchedField
@@ -75,17 +76,17 @@ bool readsBrackets(Engine engine)
 }
 
 // The field as it is written; empty when it can't be searched, nothing when nobody can tell.
-std::optional<QString> NameOfSearched(const TypedField &field, AllDBType database, const QString &qualifier,
+std::optional<QString> nameOfSearched(const TypedField &field, AllDBType database, const QString &qualifier,
                                       Engine engine)
 {
-    if (likesTextsOnly(engine) && IsBinary(field.adoType))
+    if (likesTextsOnly(engine) && isBinary(field.adoType))
         return QString();
     if (database != dbAccess && database != dbOracle && database != dbSQLServer)
         return QString();
     if (database == dbAccess) {
         if (!field.adoType)
             return std::nullopt;
-        if (ClassOf(*field.adoType, engine) == u"0")
+        if (classOf(*field.adoType, engine) == u"0")
             return QString();
     }
     if (!field.written.isEmpty())
@@ -94,34 +95,34 @@ std::optional<QString> NameOfSearched(const TypedField &field, AllDBType databas
     if (database != dbAccess || !readsBrackets(engine))
         return writtenName(dialect, field.name);
     return (qualifier.isEmpty() ? QString() : qualifier + u'.') +
-           (engine == Engine::Other ? u'[' + field.name + u']' : quotedName(dialect, field.name));
+           (engine == Engine::Other ? enclosedAsIs(u'[', field.name, u']') : quotedName(dialect, field.name));
 }
 
 std::optional<std::vector<SearchedField>>
-SearchedFields(std::span<const TypedField> fields, AllDBType database, const QString &strSQL, Engine engine)
+searchedFields(std::span<const TypedField> fields, AllDBType database, const QString &strSQL, Engine engine)
 {
     const auto table = GetTableOfSQL(strSQL);
     const bool needsTable = std::any_of(fields.begin(), fields.end(),
                                         [](const TypedField &field) { return field.written.isEmpty(); });
     if (!table && needsTable)
         return std::nullopt;
-    const QString qualifier = database == dbAccess && table ? TableQualifier(*table) : QString();
+    const QString qualifier = database == dbAccess && table ? tableQualifier(*table) : QString();
     std::vector<SearchedField> searched;
     for (const TypedField &field : fields) {
-        const auto name = NameOfSearched(field, database, qualifier, engine);
+        const auto name = nameOfSearched(field, database, qualifier, engine);
         if (!name)
             return std::nullopt;
         if (name->isEmpty())
             continue;
-        const QString kind = field.adoType ? ClassOf(*field.adoType, engine) : QString();
+        const QString kind = field.adoType ? classOf(*field.adoType, engine) : QString();
         searched.push_back(
-            {likeOperand(engine, *name), (kind != u"1" && kind != u"3") || field.adoType == kGuid});
+            {likeOperand(engine, *name), (kind != u"1" && kind != u"3") || field.adoType == guidType});
     }
     return searched;
 }
 
 // A number has no letters, and casting every number of a large table to find that out takes long.
-QStringList OperandsFor(const std::vector<SearchedField> &fields, const QString &word, Engine engine)
+QStringList operandsFor(const std::vector<SearchedField> &fields, const QString &word, Engine engine)
 {
     const bool hasLetter = std::any_of(word.cbegin(), word.cend(), [](QChar c) { return c.isLetter(); });
     QStringList able;
@@ -136,53 +137,53 @@ QStringList OperandsFor(const std::vector<SearchedField> &fields, const QString 
 
 // Words that begin a clause are taken apart, so that no later derivation takes them for its own; only a known
 // engine says how.
-QString Literal(AllDBType database, Engine engine, const QString &text)
+QString literalOf(AllDBType database, Engine engine, const QString &text)
 {
     const Dialect dialect = dialectOf(database, engine);
     return engine == Engine::Other ? textLiteral(dialect, text) : textWithoutClauses(dialect, text);
 }
 
-QString WordCondition(const QStringList &operands, const QString &word, AllDBType database, Engine engine)
+QString wordCondition(const QStringList &operands, const QString &word, AllDBType database, Engine engine)
 {
-    const QString pattern =
-        QStringLiteral(" LIKE ") + Literal(database, engine, u'%' + likePattern(engine, word) + u'%') + u' ';
+    const QString pattern = QStringLiteral(" LIKE ") +
+                            literalOf(database, engine, u'%' + likePattern(engine, word) + u'%') + u' ';
     return operands.join(pattern + QStringLiteral("OR ")) + pattern;
 }
 
 // A column's declared type doesn't say that each of its values is a number.
-bool IsNumber(const QString &text)
+bool isNumberText(const QString &text)
 {
     static const QRegularExpression number(QStringLiteral(R"(\A-?[0-9]+(\.[0-9]+)?([eE][-+]?[0-9]+)?\z)"));
     return number.match(text).hasMatch();
 }
 
 // Numbers are compared as numbers where LIKE takes none: as texts they may end in more digits than are shown.
-QString NumberCondition(const QString &field, qint32 adoType, const QString &cellText, Engine engine)
+QString numberCondition(const QString &field, qint32 adoType, const QString &cellText, Engine engine)
 {
     const QString like = field + QStringLiteral(" like ");
     const QString equals = field + QStringLiteral(" = ");
     if (engine == Engine::Other)
         return like + cellText;
-    if (adoType == kGuid || !IsNumber(cellText)) {
-        return likesTextsOnly(engine) ? equals + Literal({}, engine, cellText)
-                                      : like + Literal({}, engine, likePattern(engine, cellText));
+    if (adoType == guidType || !isNumberText(cellText)) {
+        return likesTextsOnly(engine) ? equals + literalOf({}, engine, cellText)
+                                      : like + literalOf({}, engine, likePattern(engine, cellText));
     }
-    const bool isFloating = adoType == kSingle || adoType == kDouble;
+    const bool isFloating = adoType == singleType || adoType == doubleType;
     switch (engine) {
     case Engine::PostgreSQL:
         // Only as a number of the same few digits it is the same number.
-        return equals + (adoType == kSingle ? QStringLiteral("CAST(%1 AS REAL)").arg(cellText) : cellText);
+        return equals + (adoType == singleType ? QStringLiteral("CAST(%1 AS REAL)").arg(cellText) : cellText);
     case Engine::SQLite: {
-        if (adoType == kCurrency)
+        if (adoType == currencyType)
             return equals + cellText;
         const bool isWhole =
             isFloating && !cellText.contains(u'.') && !cellText.contains(u'e', Qt::CaseInsensitive);
         return like + cellText + (isWhole ? QStringLiteral(".0") : QString());
     }
     case Engine::MySQL:
-        return (adoType == kCurrency ? equals : like) + cellText;
+        return (adoType == currencyType ? equals : like) + cellText;
     default:
-        return (isFloating || adoType == kCurrency ? equals : like) + cellText;
+        return (isFloating || adoType == currencyType ? equals : like) + cellText;
     }
 }
 
@@ -210,18 +211,18 @@ QString ClassifyFieldType(qint32 adoType)
     static constexpr std::array<qint32, 14> numbers{2, 3, 4, 5, 14, 16, 17, 18, 19, 20, 21, 72, 131, 139};
     static constexpr std::array<qint32, 7> texts{8, 129, 130, 200, 201, 202, 203};
     static constexpr std::array<qint32, 5> dates{7, 64, 133, 134, 135};
-    if (Contains(numbers, adoType))
+    if (isAmong(numbers, adoType))
         return QStringLiteral("1");
-    if (Contains(texts, adoType))
+    if (isAmong(texts, adoType))
         return QStringLiteral("2");
-    return Contains(dates, adoType) ? QStringLiteral("3") : QStringLiteral("0");
+    return isAmong(dates, adoType) ? QStringLiteral("3") : QStringLiteral("0");
 }
 
 std::optional<QString> GetTableOfSQL(const QString &strSQL)
 {
     const QString fromWord = QStringLiteral("FROM ");
     const QString statement = trim(strSQL);
-    const Search find = Find(statement, fromWord) > 0 ? FindAsWritten : findUpper;
+    const Search find = Find(statement, fromWord) > 0 ? findAsWritten : findUpper;
     const auto from = find(statement, fromWord);
     if (from == 0)
         return QString();
@@ -241,13 +242,13 @@ bool BuildLikeCondition(const QString &strText, std::span<const TypedField> fiel
 {
     QString condition;
     if (!strText.isEmpty()) {
-        const auto searched = SearchedFields(fields, database, strSQL, engine);
+        const auto searched = searchedFields(fields, database, strSQL, engine);
         if (!searched || searched->empty())
             return false;
         QStringList words;
         for (const QString &word : SplitText(strText, QStringLiteral("%")))
             words.append(QStringLiteral(" (") +
-                         WordCondition(OperandsFor(*searched, word, engine), word, database, engine) +
+                         wordCondition(operandsFor(*searched, word, engine), word, database, engine) +
                          QStringLiteral(") "));
         condition = words.join(QStringLiteral("And "));
     }
@@ -269,21 +270,21 @@ CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoTyp
     static constexpr std::array<qint32, 4> texts{129, 130, 200, 202};
     if (realName.isEmpty() || !adoType)
         return {};
-    const bool isText = Contains(texts, *adoType);
-    const bool isNumber = Contains(numbers, *adoType) || (*adoType == kCurrency && engine != Engine::Other);
+    const bool isText = isAmong(texts, *adoType);
+    const bool isNumber = isAmong(numbers, *adoType) || (*adoType == currencyType && engine != Engine::Other);
     if (!isText && !isNumber)
-        return {{}, QueryTexts::TypeNotFiltered()};
+        return {{}, QueryTexts::TypeNotFiltered};
     if (!cellText)
         return {realName + QStringLiteral(" IS NULL"), {}};
     // 9 and 9.0 look alike, and SQLite computes either.
-    if (isComputed && engine == Engine::SQLite && IsNumber(*cellText))
+    if (isComputed && engine == Engine::SQLite && isNumberText(*cellText))
         return {QStringLiteral("(%1 = %2 OR %1 like '%2')").arg(realName, *cellText), {}};
     if (!isText)
-        return {NumberCondition(realName, *adoType, *cellText, engine), {}};
+        return {numberCondition(realName, *adoType, *cellText, engine), {}};
     if (cellText->contains(u'\''))
-        return {{}, QueryTexts::ApostropheInFilter()};
+        return {{}, QueryTexts::ApostropheInFilter};
     return {likeOperand(engine, realName) + QStringLiteral(" like ") +
-                Literal({}, engine, likePattern(engine, *cellText)),
+                literalOf({}, engine, likePattern(engine, *cellText)),
             {}};
 }
 

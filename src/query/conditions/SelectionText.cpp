@@ -3,6 +3,7 @@
 #include "query/CharText.h"
 #include "query/QueryTexts.h"
 #include "query/derivation/SqlText.h"
+#include "sql/Names.h"
 
 #include <QtCore/QSet>
 
@@ -21,7 +22,7 @@ QString ComposeFieldList(const QList<ListedField> &rows)
         const bool isSpecial = row.name.contains(u' ') || row.name.contains(u'(');
         const bool isBracketed = row.name.startsWith(u'[') || row.name.endsWith(u']');
         if (isSpecial && !isBracketed)
-            names.append(u'[' + row.name + u']');
+            names.append(enclosedAsIs(u'[', row.name, u']'));
         else
             names.append(row.name);
     }
@@ -34,7 +35,7 @@ QList<bool> SetListFieldCheck(const QStringList &rowTexts, const QStringList &pa
     QSet<QString> withoutQuotes;
     for (const QString &field : partFields) {
         asWritten.insert(field);
-        withoutQuotes.insert(CutStringEnds(field, QStringLiteral("\""), 3));
+        withoutQuotes.insert(CutStringEnds(field, QStringLiteral("\""), CutBoth));
     }
     QList<bool> checks;
     for (const QString &row : rowTexts)
@@ -46,8 +47,8 @@ SortTerm SplitSortTerm(const QString &term)
 {
     const auto descending = CharText::findUpper(term, QStringLiteral(" DESC"));
     if (descending == 0)
-        return {term, QueryTexts::Ascending()};
-    return {CharText::First(term, descending - 1), QueryTexts::Descending()};
+        return {term, QueryTexts::Ascending};
+    return {CharText::First(term, descending - 1), QueryTexts::Descending};
 }
 
 QString ComposeSortList(const QList<SortTerm> &terms)
@@ -55,7 +56,7 @@ QString ComposeSortList(const QList<SortTerm> &terms)
     QStringList written;
     for (const SortTerm &term : terms) {
         QString text = term.field;
-        if (term.orderWord == QueryTexts::Descending())
+        if (term.orderWord == QueryTexts::Descending)
             text += QStringLiteral(" DESC");
         written.append(text);
     }

@@ -17,7 +17,7 @@ struct ListedField
 struct SortTerm
 {
     QString field;
-    QString orderWord; // QueryTexts::Ascending() or Descending()
+    QString orderWord; // QueryTexts::Ascending or Descending
 };
 
 // The checked names, comma-separated, as they are written; one of which that isn't known gets brackets when

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kOrderBy = u" ORDER BY "_s;
+const QString orderWords = u" ORDER BY "_s;
 
 // The text of the tokens with a line break before each FROM, WHERE and ORDER BY at least this deep in
 // brackets.
@@ -69,7 +69,7 @@ bool Derivation::isFoundAsText() const
     };
     return isAt(u" FROM "_s, m_parts.source, m_parts.source.begin - 1) &&
            isAt(u" WHERE "_s, m_parts.where, m_parts.where.begin) &&
-           isAt(kOrderBy, m_parts.order, m_parts.order.begin);
+           isAt(orderWords, m_parts.order, m_parts.order.begin);
 }
 
 bool Derivation::hasPlainList() const
@@ -96,12 +96,12 @@ bool Derivation::isTextWork(DerivationStep step) const
 QString Derivation::whyNot(DerivationStep step) const
 {
     if (!m_parts.isSelect || m_parts.isClosed)
-        return QueryTexts::NotDerived();
+        return QueryTexts::NotDerived;
     const bool isWhole = m_kind == Kind::Closed && !(step == DerivationStep::Fields && keepsListWords());
     if (isWhole && m_names.contains(QString()))
-        return QueryTexts::UnnamedField();
+        return QueryTexts::UnnamedField;
     if (isWhole && !equalName().isEmpty())
-        return QueryTexts::EqualNames().arg(equalName());
+        return QueryTexts::EqualNames.arg(equalName());
     return {};
 }
 
@@ -119,7 +119,7 @@ QString Derivation::withSort(const QString &sortList) const
     if (!whyNot(DerivationStep::Sort).isEmpty())
         return {};
     SQLSentence sentence = base();
-    sentence.order = sortList.isEmpty() ? QString() : kOrderBy + sortList;
+    sentence.order = sortList.isEmpty() ? QString() : orderWords + sortList;
     return joinSQLSentence(sentence);
 }
 
@@ -271,7 +271,7 @@ SQLSentence Derivation::base() const
         break;
     }
     const QString sort = outerSort();
-    return {prefix() + u"SELECT * FROM "_s + asTable(), {}, sort.isEmpty() ? QString() : kOrderBy + sort};
+    return {prefix() + u"SELECT * FROM "_s + asTable(), {}, sort.isEmpty() ? QString() : orderWords + sort};
 }
 
 QString Derivation::headWith(const QString &list) const
@@ -345,7 +345,7 @@ QString Derivation::stableSort() const
     }
     if (m_parts.order.isEmpty())
         return {};
-    return isChanged ? kOrderBy + terms.join(u',') : u' ' + withWordsApart(m_sql, m_parts.order, 1);
+    return isChanged ? orderWords + terms.join(u',') : u' ' + withWordsApart(m_sql, m_parts.order, 1);
 }
 
 // With DISTINCT, a sort can only be by fields of the list.
@@ -360,7 +360,7 @@ QString Derivation::sortWithin(const QStringList &entries) const
         else if (field >= 0 && (!m_parts.isDistinct || entries.contains(m_listed.at(field))))
             terms.append(valueOf(field) + (direction.isEmpty() ? QString() : u' ' + direction));
     }
-    return terms.isEmpty() ? QString() : kOrderBy + terms.join(u',');
+    return terms.isEmpty() ? QString() : orderWords + terms.join(u',');
 }
 
 QString Derivation::valueOf(int field) const

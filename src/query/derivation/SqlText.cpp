@@ -10,23 +10,23 @@ using namespace CharText;
 
 namespace {
 
-const QString kFrom = QStringLiteral(" FROM ");
-const QString kWhere = QStringLiteral(" WHERE ");
-const QString kOrderBy = QStringLiteral(" ORDER BY ");
+const QString fromWord = QStringLiteral(" FROM ");
+const QString whereWord = QStringLiteral(" WHERE ");
+const QString orderWords = QStringLiteral(" ORDER BY ");
 
 // The statement before its sort (with the blank that stands there) and before its condition (without).
-QString HeadWithoutConditions(const QString &statement)
+QString headWithoutConditions(const QString &statement)
 {
     QString head = statement;
-    if (const auto order = findUpper(head, kOrderBy); order > 0)
+    if (const auto order = findUpper(head, orderWords); order > 0)
         head = First(head, order);
-    if (const auto where = findUpper(head, kWhere); where > 0)
+    if (const auto where = findUpper(head, whereWord); where > 0)
         head = First(head, where - 1);
     return head;
 }
 
 // AND binds closer, so an OR outside all brackets would take rows in that AND is to keep out.
-bool HasOuterOr(const QString &condition)
+bool hasOuterOr(const QString &condition)
 {
     const SqlScanner scanned(condition);
     for (qsizetype i = 0; i < scanned.count(); ++i) {
@@ -50,12 +50,12 @@ std::optional<KeywordCut> SplitByKeyword(const QString &text, const QString &key
 
 std::optional<SQLSentence> SplitSQLSentence(const QString &statement)
 {
-    const auto byOrder = SplitByKeyword(statement, kOrderBy);
+    const auto byOrder = SplitByKeyword(statement, orderWords);
     if (!byOrder)
         return std::nullopt;
     // What stands before a keyword holds at least the keyword's own blank, so there is always a text to
     // split.
-    const auto byWhere = SplitByKeyword(byOrder->before, kWhere);
+    const auto byWhere = SplitByKeyword(byOrder->before, whereWord);
     return SQLSentence{byWhere->before, byWhere->after, byOrder->after};
 }
 
@@ -80,13 +80,13 @@ void addCondition(SQLSentence &sentence, const QString &condition)
         return;
     const QString where = trim(sentence.where);
     if (where.isEmpty()) {
-        sentence.where = kWhere + condition;
+        sentence.where = whereWord + condition;
         return;
     }
-    const qsizetype keyword = kWhere.size() - 2;
-    if (HasOuterOr(From(where, keyword + 1)))
+    const qsizetype keyword = whereWord.size() - 2;
+    if (hasOuterOr(From(where, keyword + 1)))
         sentence.where = First(where, keyword) + QStringLiteral(" (") + trim(From(where, keyword + 1)) + u')';
-    sentence.where += QStringLiteral(" AND ") + (HasOuterOr(condition) ? u'(' + condition + u')' : condition);
+    sentence.where += QStringLiteral(" AND ") + (hasOuterOr(condition) ? u'(' + condition + u')' : condition);
 }
 
 QString ReplaceSQLFieldPart(const QString &statement, const QString &fieldStatement)
@@ -101,24 +101,24 @@ QString ReplaceSQLFieldPart(const QString &statement, const QString &fieldStatem
 
 QString AppendOrderWord(const QString &statement, const QString &sortList)
 {
-    if (statement.isEmpty() || sortList.isEmpty() || findUpper(statement, kOrderBy) > 0)
+    if (statement.isEmpty() || sortList.isEmpty() || findUpper(statement, orderWords) > 0)
         return statement;
-    return statement + kOrderBy + sortList;
+    return statement + orderWords + sortList;
 }
 
 QString replaceOrderWord(const QString &statement, const QString &sortList)
 {
     QString text = statement;
-    if (const auto order = findUpper(text, kOrderBy); order > 0)
+    if (const auto order = findUpper(text, orderWords); order > 0)
         text = First(text, order);
     if (!sortList.isEmpty())
-        text += kOrderBy + sortList;
+        text += orderWords + sortList;
     return text;
 }
 
 QString GetNoRowSQL(const QString &statement)
 {
-    const QString head = HeadWithoutConditions(statement);
+    const QString head = headWithoutConditions(statement);
     if (head.isEmpty())
         return {};
     return head + QStringLiteral(" WHERE 0=1");
@@ -126,14 +126,14 @@ QString GetNoRowSQL(const QString &statement)
 
 QString GetSQLTableName(const QString &statement)
 {
-    const QString head = HeadWithoutConditions(statement);
-    const auto from = findUpper(head, kFrom);
-    return from == 0 ? head : From(head, from + kFrom.size());
+    const QString head = headWithoutConditions(statement);
+    const auto from = findUpper(head, fromWord);
+    return from == 0 ? head : From(head, from + fromWord.size());
 }
 
 QString getFromPart(const QString &statement)
 {
-    const auto from = findUpper(statement, kFrom);
+    const auto from = findUpper(statement, fromWord);
     return from == 0 ? QString() : From(statement, from);
 }
 
@@ -160,9 +160,9 @@ QString CutStringEnds(const QString &text, const QString &affix, int mode)
     if (text.isEmpty() || affix.isEmpty())
         return {};
     QString rest = text;
-    if ((mode == 1 || mode == 3) && rest.startsWith(affix))
+    if ((mode == CutBegin || mode == CutBoth) && rest.startsWith(affix))
         rest.remove(0, affix.size());
-    if ((mode == 2 || mode == 3) && rest.endsWith(affix))
+    if ((mode == CutEnd || mode == CutBoth) && rest.endsWith(affix))
         rest.chop(affix.size());
     return rest;
 }

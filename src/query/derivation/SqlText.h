@@ -64,8 +64,10 @@ QString getFromPart(const QString &statement);
 // blanks at their ends; empty ones are left out.
 QStringList splitList(const QString &list);
 
-// Removes one `affix` at the text's begin (mode 1), end (mode 2) or both (mode 3); any other mode changes
-// nothing. An empty affix empties the result.
+// Where CutStringEnds removes.
+enum CutEnds : qint32 { CutBegin = 1, CutEnd = 2, CutBoth = 3 };
+// Removes one `affix` at the text's begin, end or both; a `mode` that is no CutEnds changes nothing. An empty
+// affix empties the result.
 QString CutStringEnds(const QString &text, const QString &affix, int mode);
 
 // The text with each run of line breaks and tabs (and the blanks around them) as one blank, so that the

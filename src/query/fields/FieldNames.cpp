@@ -10,13 +10,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString WithoutBrackets(const QString &name)
+QString withoutBrackets(const QString &name)
 {
-    return CutStringEnds(CutStringEnds(name, QStringLiteral("["), 1), QStringLiteral("]"), 2);
+    return CutStringEnds(CutStringEnds(name, QStringLiteral("["), CutBegin), QStringLiteral("]"), CutEnd);
 }
 
 // "DISTINCT T.A" lists T.A.
-QString WithoutListWords(QString item)
+QString withoutListWords(QString item)
 {
     for (const auto &[word, blanks] :
          {std::pair(u"DISTINCT "_s, 1), std::pair(u"ALL "_s, 1), std::pair(u"TOP "_s, 2)}) {
@@ -31,7 +31,7 @@ QString WithoutListWords(QString item)
 QString ShortFieldName(const QString &writtenName)
 {
     const auto dot = writtenName.indexOf(u'.');
-    return WithoutBrackets(writtenName.mid(dot + 1));
+    return withoutBrackets(writtenName.mid(dot + 1));
 }
 
 QStringList writtenFields(const QString &statement)
@@ -44,7 +44,7 @@ QStringList writtenFields(const QString &statement)
     QStringList items = trimmed.mid(selectLength, from - 1 - selectLength).split(u',');
     for (QString &item : items)
         item = trim(item);
-    items.front() = WithoutListWords(items.front());
+    items.front() = withoutListWords(items.front());
     return items;
 }
 

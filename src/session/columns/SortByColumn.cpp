@@ -1,8 +1,8 @@
-#include "session/FilterManagerRollback.h"
 #include "session/Session.h"
-#include "session/ShownOrder.h"
 #include "session/columns/ColumnCommand.h"
 #include "session/commands/ShowSorted.h"
+#include "session/statement/FilterManagerRollback.h"
+#include "session/statement/ShownOrder.h"
 
 #include <algorithm>
 
@@ -42,16 +42,25 @@ void sortBy(Session &session, const QStringList &terms)
 }
 
 template<bool isDescending>
-void sortByColumn(Session &session, int col)
+ColumnCommand sortedByOne(const QString &key, int place, const QString &caption)
 {
-    sortBy(session, {writtenColumn(session, col) + (isDescending ? u" DESC"_s : QString())});
-}
-
-template<bool isDescending>
-bool isSortedFirst(Session &session, int col)
-{
-    const std::vector<SortTerm> order = shownOrder(session);
-    return !order.empty() && order.front().column == col && order.front().isDescending == isDescending;
+    return {
+        .key = key,
+        .place = place,
+        .caption = caption,
+        .record = Record::IsLeft,
+        .run =
+            [](Session &session, int col) {
+                sortBy(session, {writtenColumn(session, col) + (isDescending ? u" DESC"_s : QString())});
+            },
+        .canRun = canSort,
+        .isOn =
+            [](Session &session, int col) {
+                const std::vector<SortTerm> order = shownOrder(session);
+                return !order.empty() && order.front().column == col &&
+                       order.front().isDescending == isDescending;
+            },
+    };
 }
 
 QStringList textsOf(const std::vector<SortTerm> &order, int leftOut = 0)
@@ -64,25 +73,8 @@ QStringList textsOf(const std::vector<SortTerm> &order, int leftOut = 0)
     return texts;
 }
 
-const ColumnCommand::Registration ascending({
-    .key = u"SortAscending"_s,
-    .place = 100,
-    .caption = u"升序(&A)"_s,
-    .record = Record::IsLeft,
-    .run = sortByColumn<false>,
-    .canRun = canSort,
-    .isOn = isSortedFirst<false>,
-});
-
-const ColumnCommand::Registration descending({
-    .key = u"SortDescending"_s,
-    .place = 101,
-    .caption = u"降序(&D)"_s,
-    .record = Record::IsLeft,
-    .run = sortByColumn<true>,
-    .canRun = canSort,
-    .isOn = isSortedFirst<true>,
-});
+const ColumnCommand::Registration ascending(sortedByOne<false>(u"SortAscending"_s, 100, u"升序(&A)"_s));
+const ColumnCommand::Registration descending(sortedByOne<true>(u"SortDescending"_s, 101, u"降序(&D)"_s));
 
 const ColumnCommand::Registration add({
     .key = u"AddToSort"_s,

@@ -1,11 +1,11 @@
 #include "ado/Recordset.h"
 #include "query/conditions/Conditions.h"
-#include "session/FilterManagerRollback.h"
 #include "session/Questions.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/statement/FilterManagerRollback.h"
 
 // Keeps the records whose field equals the current cell.
 

@@ -1,15 +1,15 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "ado/values/NumericTypes.h"
-#include "export/TabTextWriter.h"
 #include "export/TableMimeData.h"
-#include "session/LongWork.h"
+#include "export/writers/TabTextWriter.h"
 #include "session/Questions.h"
 #include "session/Session.h"
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/records/LongWork.h"
 
 // Puts the marked cells on the clipboard, with or without their headings.
 

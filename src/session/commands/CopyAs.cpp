@@ -1,12 +1,12 @@
 #include "ado/Recordset.h"
 #include "export/TableMimeData.h"
 #include "query/derivation/SqlText.h"
-#include "session/LongWork.h"
 #include "session/Session.h"
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
-#include "session/SqlValue.h"
 #include "session/commands/Command.h"
+#include "session/records/LongWork.h"
+#include "session/records/SqlValue.h"
 #include "sql/Names.h"
 
 #include <QtCore/QMimeData>

@@ -1,11 +1,11 @@
 #include "ado/Recordset.h"
 #include "query/derivation/SqlText.h"
-#include "session/ExportResult.h"
-#include "session/LongWork.h"
 #include "session/ResultWatch.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
+#include "session/records/ExportResult.h"
+#include "session/records/LongWork.h"
 
 #include <QtCore/QRegularExpression>
 

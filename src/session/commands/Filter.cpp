@@ -1,4 +1,3 @@
-#include "session/FilterManagerRollback.h"
 #include "session/HostEvents.h"
 #include "session/Questions.h"
 #include "session/Session.h"
@@ -6,6 +5,7 @@
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
 #include "session/commands/FilterByDialog.h"
+#include "session/statement/FilterManagerRollback.h"
 
 // Asks the host for a condition by its event QurryFilter, and the user by the filter dialog unless the host
 // took over.

@@ -1,7 +1,7 @@
-#include "session/FilterManagerRollback.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
+#include "session/statement/FilterManagerRollback.h"
 
 // One statement back, and back to the first; both show many records again.
 
@@ -27,7 +27,8 @@ void goBack(Session &session, StepBack stepBack)
     session.show(*opened);
     rollback.keepChanges();
     const clsShowSQLSentence *entry = session.history().Item(key);
-    session.setFieldView(entry && entry->IsShowAllFields == 1 ? FieldView::All : FieldView::Part);
+    session.setFieldView(entry && entry->IsShowAllFields == AllFieldsShown ? FieldView::All
+                                                                           : FieldView::Part);
     session.layOutColumns();
     if (session.window().isSingleRecordShown())
         session.window().showAllRecords();

@@ -1,9 +1,9 @@
 #include "ado/Recordset.h"
 #include "query/conditions/Conditions.h"
-#include "session/FilterManagerRollback.h"
 #include "session/Questions.h"
 #include "session/Session.h"
 #include "session/commands/Command.h"
+#include "session/statement/FilterManagerRollback.h"
 
 // Asks for words and looks for them in all fields, or in one.
 

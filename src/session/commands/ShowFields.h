@@ -1,9 +1,9 @@
 #pragma once
 
-#include "session/FilterManagerRollback.h"
 #include "session/Session.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/statement/FilterManagerRollback.h"
 
 namespace KOVAVSFDataGridLib {
 

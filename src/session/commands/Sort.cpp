@@ -1,8 +1,8 @@
-#include "session/FilterManagerRollback.h"
 #include "session/Session.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
 #include "session/commands/ShowSorted.h"
+#include "session/statement/FilterManagerRollback.h"
 
 // Lets the user choose a sort and shows the records in it.
 

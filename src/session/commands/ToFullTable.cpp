@@ -1,7 +1,7 @@
-#include "session/FilterManagerRollback.h"
 #include "session/Session.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/statement/FilterManagerRollback.h"
 
 // The latest statement without its condition.
 
@@ -19,7 +19,7 @@ void showFullTable(Session &session)
     if (!session.history().GetLatestSQL(latest, &key) || latest.isEmpty() ||
         !session.filterManager().GetRequirePartSQL(latest, PartsWithoutCondition, statement))
         return;
-    const bool showsAll = session.history().Item(key)->IsShowAllFields == 1;
+    const bool showsAll = session.history().Item(key)->IsShowAllFields == AllFieldsShown;
     session.columns().SaveColumnWidths();
     const auto opened = session.read(statement);
     if (!opened)

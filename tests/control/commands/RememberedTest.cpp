@@ -1,7 +1,7 @@
 // What the commands leave for the dialogs of the process to find.
 #include "Shop.h"
 
-#include "control/parts/StatementLine.h"
+#include "control/parts/lines/StatementLine.h"
 #include "query/SharedValues.h"
 
 using namespace KovaTest;

@@ -54,7 +54,7 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         engine.endReading = u"ROLLBACK"_s;
         engine.lockRow = u" FOR UPDATE"_s;
         engine.hasOldTables = true;
-        engine.tellsLossAtOnce = false;
+        engine.reportsLossAtOnce = false;
         engine.newKey = u"SELECT LAST_INSERT_ID()"_s;
         break;
     case Kind::Sqlite:

@@ -51,8 +51,8 @@ struct OdbcEngine
     // Within a block of rows, the driver gives single values once more and then fetches on where it was. Some
     // claim that and lose rows instead, so only those count that were tried.
     bool asksAgain = false;
-    // The driver tells a loss that it knows of without asking the server.
-    bool tellsLossAtOnce = true;
+    // The driver reports a loss that it knows of without asking the server.
+    bool reportsLossAtOnce = true;
     // The driver turns dates that it can't hold (infinity, before Christ) into others.
     bool bendsDates = false;
 

@@ -115,7 +115,7 @@ std::unique_ptr<OdbcConnection> OdbcPool::takeIdle()
         m_idle.pop_back();
         const bool isFit =
             !m_isShared || (connection->idleTime() < longestIdle &&
-                            !(m_engine.tellsLossAtOnce && connection->isDead().value_or(false)));
+                            !(m_engine.reportsLossAtOnce && connection->isDead().value_or(false)));
         if (isFit)
             return connection;
         ended.push_back(std::move(connection));

@@ -61,8 +61,10 @@ OdbcWaitingStatement::~OdbcWaitingStatement()
     constexpr int limit = 1; // second; what takes longer ends by itself
     try {
         OdbcOperation::run([statement = std::move(m_statement)] { statement->release(); }, {always, limit});
-    } catch (...) {
+    } catch (const Error &) {
         // Nothing was asked for that could be missed.
+    } catch (const std::exception &error) {
+        qWarning("A statement could not be released: %s", error.what());
     }
 }
 

@@ -39,8 +39,10 @@ public:
             return;
         try {
             m_rollback.step();
-        } catch (const std::exception &) {
+        } catch (const Error &) {
             // Closing the connection undoes it all the same, as does the next program that opens the file.
+        } catch (const std::exception &error) {
+            qWarning("A transaction could not be rolled back: %s", error.what());
         }
     }
     Q_DISABLE_COPY_MOVE(Transaction)

@@ -7,6 +7,7 @@
 #include "ado/providers/sqlite/SqliteError.h"
 #include "ado/providers/sqlite/SqliteStatement.h"
 #include "ado/providers/sqlite/SqliteTypes.h"
+#include "sql/Names.h"
 #include "sql/SqlScanner.h"
 
 #include <sqlite3.h>
@@ -70,8 +71,10 @@ SqliteSession::Writing::~Writing()
     try {
         m_session.setQueryOnly(true);
         m_session.m_watch.canWrite = false;
-    } catch (const std::exception &) {
+    } catch (const Error &) {
         // The authorizer goes on refusing what SQLite itself would now let through.
+    } catch (const std::exception &error) {
+        qWarning("Writing could not be switched off: %s", error.what());
     }
 }
 
@@ -229,7 +232,7 @@ SqliteHandle SqliteSession::prepareReading(const QString &sql) const
 
 QString quotedName(const QString &name)
 {
-    return u'"' + QString(name).replace(u'"', "\"\""_L1) + u'"';
+    return KOVAVSFDataGridLib::enclosed(u'"', name, u'"');
 }
 
 bool stepRow(const SqliteHandle &statement)

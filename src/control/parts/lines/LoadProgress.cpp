@@ -1,0 +1,144 @@
+#include "control/parts/lines/LoadProgress.h"
+
+#include "control/parts/GridTexts.h"
+
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QPushButton>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+constexpr qint64 patience = 500;      // milliseconds before the line shows
+constexpr qint64 eventsInterval = 30; // milliseconds between two looks at the events
+constexpr int barSteps = 1000;
+
+bool isInput(const QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        return true;
+    case QEvent::Close:
+        return event.spontaneous(); // by the user, or by close() of a window that is seen
+    default:
+        return event.isInputEvent();
+    }
+}
+
+} // namespace
+
+LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place)
+    : LoadProgress(window, std::move(place), GridTexts::RecordsRead, 0)
+{
+}
+
+LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place, QString done, qint64 total)
+    : m_window(window),
+      m_place(std::move(place)),
+      m_done(std::move(done)),
+      m_total(total),
+      m_modalBefore(QApplication::activeModalWidget())
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    m_sinceBegin.start();
+    m_sinceEvents.start();
+}
+
+LoadProgress::~LoadProgress()
+{
+    if (!m_isLineShown)
+        QApplication::restoreOverrideCursor();
+    delete m_line;
+}
+
+bool LoadProgress::shouldContinue(qint64 rowsDone)
+{
+    if (!m_isCancelled && !m_isLineShown && m_sinceBegin.hasExpired(patience))
+        showLine();
+    if (m_isCancelled || !m_line || !m_sinceEvents.hasExpired(eventsInterval))
+        return !m_isCancelled;
+    updateLine(rowsDone);
+    QCoreApplication::processEvents();
+    m_isCancelled |= m_line.isNull(); // the window went away, and with it the line
+    m_sinceEvents.start();
+    return !m_isCancelled;
+}
+
+// It covers the page box and its neighbours, which are of no use meanwhile.
+void LoadProgress::showLine()
+{
+    QApplication::restoreOverrideCursor();
+    m_isLineShown = true;
+    m_line = new QWidget(&m_window);
+    m_line->setAutoFillBackground(true);
+    m_bar = new QProgressBar;
+    m_bar->setRange(0, m_total > 0 ? barSteps : 0); // without steps it only says that something goes on
+    m_bar->setTextVisible(false);
+    m_bar->setMaximumHeight(m_bar->fontMetrics().height() / 2);
+    // Where it gets narrow the number tells more than the bar.
+    m_bar->setSizePolicy(QSizePolicy::Ignored, m_bar->sizePolicy().verticalPolicy());
+    m_count = new QLabel;
+    m_count->setTextFormat(Qt::PlainText);
+    auto *cancel = new QPushButton(GridTexts::CancelOpening);
+    cancel->setFocusPolicy(Qt::NoFocus); // whoever has the focus shall have it afterwards
+    cancel->setToolTip(m_total > 0 ? GridTexts::CancelWritingHint : GridTexts::CancelOpeningHint);
+    connect(cancel, &QPushButton::clicked, this, [this] { m_isCancelled = true; });
+
+    auto *layout = new QHBoxLayout(m_line);
+    layout->setContentsMargins(6, 0, 6, 0); // pixels, as a style's own margins
+    layout->addWidget(m_bar, 1);
+    layout->addWidget(m_count);
+    layout->addWidget(cancel);
+    updateLine(0);
+    m_line->show();
+    qApp->installEventFilter(this);
+}
+
+void LoadProgress::updateLine(qint64 rowsDone)
+{
+    m_count->setText(m_done.arg(rowsDone));
+    const qint64 value = m_total > 0 ? rowsDone * barSteps / m_total : rowsDone;
+    m_bar->setValue(static_cast<int>(std::min<qint64>(value, std::numeric_limits<int>::max())));
+    m_line->setGeometry(m_place()); // the window can have been resized
+    m_line->layout()->activate();
+}
+
+bool LoadProgress::eventFilter(QObject *watched, QEvent *event)
+{
+    // A dialog that waits for its user would otherwise wait forever, and the load with it.
+    if (!isInput(*event) || QApplication::activeModalWidget() != m_modalBefore || isForLine(*watched, *event))
+        return false;
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape)
+        m_isCancelled = true;
+    event->ignore();
+    return true;
+}
+
+bool LoadProgress::isForLine(const QObject &watched, const QEvent &event) const
+{
+    const QWidget *const line = m_line;
+    if (!line || !event.isPointerEvent())
+        return false;
+    if (watched.isWidgetType()) {
+        const auto &widget = static_cast<const QWidget &>(watched);
+        return &widget == line || line->isAncestorOf(&widget);
+    }
+    // On its way to a widget a pointer event comes by the window first.
+    const auto &points = static_cast<const QPointerEvent &>(event).points();
+    return !points.isEmpty() &&
+           line->rect().contains(line->mapFromGlobal(points.front().globalPosition()).toPoint());
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,174 @@
+#include "control/parts/toolbar/GridToolbar.h"
+
+#include "control/parts/toolbar/ToolbarIcons.h"
+#include "session/commands/Command.h"
+#include "session/commands/CommandKeys.h"
+
+#include <QtGui/QAction>
+#include <QtGui/QActionGroup>
+
+#include <utility>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int placesOfGroup = 100;
+
+} // namespace
+
+GridToolbar::GridToolbar(QWidget *parent) : QToolBar(parent)
+{
+    setObjectName(u"Toolbar1"_s);
+    setIconSize(QSize(16, 16));
+    auto *views = new QActionGroup(this);
+    int group = 0;
+    for (const Command *command : Command::all()) {
+        if (command->button)
+            addButton(*command, *views, std::exchange(group, command->button->place / placesOfGroup));
+    }
+    setButtonPressed(CommandKeys::All, true);
+    setButtonVisible(CommandKeys::AllRecord, false);
+}
+
+void GridToolbar::addButton(const Command &command, QActionGroup &views, int lastGroup)
+{
+    if (lastGroup > 0 && command.button->place / placesOfGroup != lastGroup)
+        addSeparator();
+    const QString key = command.key;
+    QAction *action = addAction(command.button->caption);
+    action->setObjectName(key);
+    action->setIcon(toolbarIcon(key));
+    action->setShortcut(QKeySequence(command.shortcut));
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    action->setToolTip(
+        u"%1 (%2)"_s.arg(command.button->toolTip, action->shortcut().toString(QKeySequence::NativeText)));
+    action->setCheckable(command.button->isToggle);
+    if (key == CommandKeys::All || key == CommandKeys::Part)
+        views.addAction(action);
+    connect(action, &QAction::triggered, this, [this, key] {
+        showPressed();
+        Q_EMIT buttonClicked(key);
+    });
+    m_buttons.emplace(key, Button{.action = action, .toolTip = action->toolTip()});
+}
+
+// What a window has no command for isn't offered, nor a separator with no button after the one before it.
+void GridToolbar::hideButtonsNotInViewer()
+{
+    for (const auto &[key, button] : m_buttons) {
+        if (!Command::find(key)->isInViewer)
+            setButtonVisible(key, false);
+    }
+    bool isGroupEmpty = true;
+    for (QAction *action : actions()) {
+        if (action->isSeparator())
+            action->setVisible(!isGroupEmpty);
+        if (action->isVisible())
+            isGroupEmpty = action->isSeparator();
+    }
+}
+
+QStringList GridToolbar::keys() const
+{
+    QStringList keys;
+    for (const auto &[key, button] : m_buttons)
+        keys.append(key);
+    return keys;
+}
+
+bool GridToolbar::isButtonEnabled(const QString &key) const
+{
+    const Button *button = find(key);
+    return button && button->isEnabled;
+}
+
+void GridToolbar::setButtonEnabled(const QString &key, bool on)
+{
+    if (Button *button = find(key)) {
+        button->isEnabled = on;
+        apply(*button);
+    }
+}
+
+void GridToolbar::setAllButtonsEnabled(bool on)
+{
+    for (auto &[key, button] : m_buttons) {
+        button.isEnabled = on;
+        apply(button);
+    }
+}
+
+void GridToolbar::setButtonReason(const QString &key, const QString &reason)
+{
+    if (Button *button = find(key); button && button->reason != reason) {
+        button->reason = reason;
+        apply(*button);
+    }
+}
+
+bool GridToolbar::isButtonVisible(const QString &key) const
+{
+    const Button *button = find(key);
+    return button && button->isVisible;
+}
+
+void GridToolbar::setButtonVisible(const QString &key, bool on)
+{
+    if (Button *button = find(key)) {
+        button->isVisible = on;
+        apply(*button);
+    }
+}
+
+bool GridToolbar::isButtonPressed(const QString &key) const
+{
+    const Button *button = find(key);
+    return button && button->action->isChecked();
+}
+
+void GridToolbar::setButtonPressed(const QString &key, bool on)
+{
+    Button *pressed = find(key);
+    if (!pressed)
+        return;
+    pressed->action->setChecked(on);
+    for (auto &[each, button] : m_buttons)
+        button.isPressed = button.action->isChecked(); // another one of its group came up
+}
+
+void GridToolbar::showPressed()
+{
+    for (auto &[key, button] : m_buttons) {
+        if (button.action->isChecked() != button.isPressed)
+            button.action->setChecked(button.isPressed);
+    }
+}
+
+const GridToolbar::Button *GridToolbar::find(const QString &key) const
+{
+    const auto found = m_buttons.find(key);
+    if (found == m_buttons.end()) {
+        qWarning("No button has the key %s", qPrintable(key));
+        return nullptr;
+    }
+    return &found->second;
+}
+
+GridToolbar::Button *GridToolbar::find(const QString &key)
+{
+    return const_cast<Button *>(std::as_const(*this).find(key));
+}
+
+// An action that is not visible counts as disabled in Qt, so both are set each time, in this order.
+void GridToolbar::apply(const Button &button)
+{
+    button.action->setVisible(button.isVisible);
+    button.action->setEnabled(button.isEnabled && button.reason.isEmpty());
+    button.action->setToolTip(button.reason.isEmpty() ? button.toolTip
+                                                      : button.toolTip + u'\n' + button.reason);
+}
+
+} // namespace KOVAVSFDataGridLib

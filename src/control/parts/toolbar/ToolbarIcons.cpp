@@ -1,0 +1,130 @@
+#include "control/parts/toolbar/ToolbarIcons.h"
+
+#include "control/parts/toolbar/IconPicture.h"
+
+#include <QtGui/QGuiApplication>
+#include <QtGui/QIconEngine>
+#include <QtGui/QPainter>
+#include <QtGui/QPalette>
+#include <QtGui/QPixmapCache>
+
+#include <algorithm>
+#include <cmath>
+
+namespace KOVAVSFDataGridLib {
+namespace {
+
+// What the accessibility guidelines ask of the parts of a picture that carry its meaning.
+constexpr double leastContrast = 3.0;
+
+struct Colours
+{
+    QColor line;
+    QColor accent;
+};
+
+// `share` is the part of `top`, from 0 to 1. The result is opaque.
+QColor blended(const QColor &top, const QColor &bottom, double share)
+{
+    const auto channel = [share](int a, int b) {
+        return static_cast<int>(std::lround(a * share + b * (1 - share)));
+    };
+    return {channel(top.red(), bottom.red()), channel(top.green(), bottom.green()),
+            channel(top.blue(), bottom.blue())};
+}
+
+// Relative luminance and contrast ratio as WCAG 2 defines them.
+double luminance(const QColor &colour)
+{
+    const auto linear = [](double v) {
+        return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor &a, const QColor &b)
+{
+    const auto [dark, light] = std::minmax({luminance(a), luminance(b)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+// The highlight colour is made to lie under text, not to be a thin line itself: where it hardly
+// differs from what it is drawn on, it is drawn towards the text colour until it does.
+QColor readable(const QColor &accent, const QColor &line, const QColor &paper)
+{
+    for (int tenths = 10; tenths > 0; --tenths) {
+        const QColor candidate = blended(accent, line, tenths / 10.0);
+        if (contrast(candidate, paper) >= leastContrast)
+            return candidate;
+    }
+    return line;
+}
+
+Colours coloursFor(QIcon::Mode mode, QIcon::State state)
+{
+    const QPalette palette = QGuiApplication::palette();
+    if (mode == QIcon::Selected) {
+        const QColor text = palette.color(QPalette::HighlightedText);
+        return {text, text};
+    }
+    const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+    const QColor window = palette.color(group, QPalette::Window);
+    const QColor text = palette.color(group, QPalette::WindowText);
+    const QColor line = blended(text, window, text.alphaF());
+    if (mode == QIcon::Disabled)
+        return {line, line};
+    // Styles tint what lies under a checked button: light windows get darker there, dark ones lighter.
+    const QColor paper = state == QIcon::On ? blended(line, window, 0.12) : window;
+    return {line, readable(palette.color(group, QPalette::Highlight), line, paper)};
+}
+
+// One drawing in the palette's colours. Pixmaps are kept in the application's pixmap cache under
+// a name that says everything they depend on, so a new palette simply asks for other names.
+class ToolbarIconEngine final : public QIconEngine
+{
+public:
+    explicit ToolbarIconEngine(const QString &key) : m_key(key) {}
+
+    QString key() const override { return QStringLiteral("KOVAVSFDataGridLib::ToolbarIconEngine"); }
+    QIconEngine *clone() const override { return new ToolbarIconEngine(*this); }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const double ratio = painter->device()->devicePixelRatioF();
+        QPixmap picture = pixmap((QSizeF(rect.size()) * ratio).toSize(), mode, state);
+        picture.setDevicePixelRatio(ratio);
+        painter->drawPixmap(rect.topLeft(), picture);
+    }
+
+    // `size` is in device pixels, as Qt asks an engine for it.
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        if (size.isEmpty())
+            return {};
+        const Colours colours = coloursFor(mode, state);
+        const QString name = QStringLiteral("KOVAVSFDataGridLib/%1/%2x%3/%4/%5")
+                                 .arg(m_key)
+                                 .arg(size.width())
+                                 .arg(size.height())
+                                 .arg(colours.line.name(), colours.accent.name());
+        QPixmap picture;
+        if (!QPixmapCache::find(name, &picture)) {
+            picture = QPixmap::fromImage(iconPicture(m_key, size, colours.line, colours.accent));
+            QPixmapCache::insert(name, picture);
+        }
+        return picture;
+    }
+
+private:
+    QString m_key;
+};
+
+} // namespace
+
+QIcon toolbarIcon(const QString &key)
+{
+    return hasIconPicture(key) ? QIcon(new ToolbarIconEngine(key)) : QIcon();
+}
+
+} // namespace KOVAVSFDataGridLib

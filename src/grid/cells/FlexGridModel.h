@@ -1,0 +1,60 @@
+#pragma once
+
+#include "grid/HeadingMark.h"
+#include "grid/cells/CellSource.h"
+
+#include "ado/values/DisplayFormat.h"
+
+#include <QtCore/QAbstractTableModel>
+#include <QtCore/QHash>
+
+#include <memory>
+#include <vector>
+
+namespace KOVAVSFDataGridLib {
+
+// The cells below and right of the headings of a CellSource, as a Qt model; the headings are its
+// header data. Always has a source: an empty one of two rows and two columns to begin with.
+class FlexGridModel final : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    // `fixedCols` (0 or 1) leading columns of the source are headings of the rows.
+    explicit FlexGridModel(int fixedCols, QObject *parent = nullptr);
+    ~FlexGridModel() override;
+
+    int fixedCols() const { return m_fixedCols; }
+    const CellSource &source() const { return *m_source; }
+    // Replaces all cells (model reset). `source` must not be null.
+    void setSource(std::unique_ptr<CellSource> source);
+    // Writes one cell in grid coordinates, headings included; false when the source can't be written.
+    bool setText(int row, int col, const QString &text);
+
+    // What the headings show beside their texts, by grid column; columns without one have none.
+    void setHeadingMarks(std::vector<HeadingMark> marks);
+    HeadingMark headingMark(int section) const;
+
+    // How texts are shown, by the headings of their columns; kept when other cells are shown.
+    const QHash<QString, ADODB::DisplayFormat> &formats() const { return m_formats; }
+    void setFormats(const QHash<QString, ADODB::DisplayFormat> &formats);
+    // A cell's text as it is shown, in grid coordinates.
+    QString shownText(int row, int col) const;
+    bool hasFormats() const { return !m_formatOfCol.empty(); }
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+private:
+    void findFormats();
+
+    const int m_fixedCols;
+    std::unique_ptr<CellSource> m_source;
+    std::vector<HeadingMark> m_marks;
+    QHash<QString, ADODB::DisplayFormat> m_formats;
+    std::vector<ADODB::DisplayFormat> m_formatOfCol; // empty when no column has one
+};
+
+} // namespace KOVAVSFDataGridLib

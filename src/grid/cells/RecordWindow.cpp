@@ -1,0 +1,44 @@
+#include "grid/cells/RecordWindow.h"
+
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "ado/values/NumericTypes.h"
+
+namespace KOVAVSFDataGridLib {
+
+RecordWindow::RecordWindow(std::shared_ptr<const ADODB::Recordset> recordset, int first, int count)
+    : m_recordset(std::move(recordset)),
+      m_first(first),
+      m_count(count),
+      m_fields(m_recordset->Fields().Count())
+{
+}
+
+RecordWindow::~RecordWindow() = default;
+
+QString RecordWindow::text(int row, int col) const
+{
+    if (col == 0)
+        return row == 0 ? QString() : QString::number(row);
+    if (row > 0)
+        return cellText(m_first + row - 1, col - 1);
+    return col <= m_recordset->Fields().Count() ? m_recordset->Fields().Item(col - 1).Name() : QString();
+}
+
+// Cells are painted where nobody can catch anything; one that is too long for the memory says so.
+QString RecordWindow::cellText(qint64 record, int column) const
+{
+    try {
+        return m_recordset->CellText(record, column);
+    } catch (const ADODB::Error &error) {
+        return error.Description();
+    }
+}
+
+bool RecordWindow::isNumeric(int col) const
+{
+    return col > 0 && col <= m_recordset->Fields().Count() &&
+           ADODB::isNumericType(m_recordset->Fields().Item(col - 1).Type());
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,362 @@
+#include "grid/painting/CellPainter.h"
+
+#include "grid/cells/FlexGridModel.h"
+#include "grid/painting/CellDelegate.h"
+#include "grid/painting/GlyphBatch.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QTableView>
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+// Styles that draw the text of a special cell like that of a plain one, in the palette's colours. Others have
+// ideas of their own and draw special cells whole.
+bool drawsTextPlainly(const QStyle &style)
+{
+    const QByteArrayView name = style.metaObject()->className();
+    return name == "QFusionStyle" || name == "QWindowsStyle";
+}
+
+QPalette::ColorGroup colourGroup(const QStyleOption &option)
+{
+    if (!(option.state & QStyle::State_Enabled))
+        return QPalette::Disabled;
+    return option.state & QStyle::State_Active ? QPalette::Normal : QPalette::Inactive;
+}
+
+} // namespace
+
+// One paint event.
+class CellPainter::Frame
+{
+public:
+    Frame(QTableView &view, const FlexGridModel &model, GlyphTable &glyphs,
+          const QStyleOptionViewItem &option, const QPoint &offset, const QModelIndex &hover,
+          const QRect &part, int shift);
+
+    bool isEmpty() const { return m_columns.empty() || m_lastRow < m_firstRow; }
+    // In this order, each for all rectangles that are dirty before the next: a cell that reaches into several
+    // is painted with the first.
+    void paintRows(const QRect &dirty);
+    void paintCells(const QRect &dirty);
+    void paintLines(const QRect &dirty);
+    void paintTexts() { m_batch.draw(m_painter); }
+
+private:
+    struct Span
+    {
+        int first;
+        int last;
+    };
+
+    Span rowsIn(const QRect &dirty) const;
+    Span columnsIn(const QRect &dirty) const;
+    QRect clipped(QRect dirty) const;
+    void enterRow(int visualRow);
+    void paintRow(int visualRow, Span columns);
+    void paintCell(int row, const Column &column, const QString &text);
+    void placeText(const QString &text, const Column &column, QPalette::ColorRole role);
+    bool isSelected(int row, int section) const;
+
+    QTableView &m_view;
+    const FlexGridModel &m_model;
+    GlyphTable &m_glyphs;
+    QStyleOptionViewItem m_option; // of the row that is painted
+    QStyleOptionViewItem m_cell;   // of a cell in it that is not plain
+    const QPoint m_offset;
+    const int m_shift;
+    const QModelIndex m_hover;
+    const QModelIndex m_current; // where the frame of the focus is
+    QPainter m_painter;
+    GlyphBatch m_batch;
+    GlyphLine m_line;
+    std::vector<Column> m_columns; // in view, from m_firstColumn
+    int m_firstColumn = 0;
+    int m_firstRow = 0;
+    int m_lastRow = -1;
+    std::vector<bool> m_isPainted; // cells in view, row by row
+    QItemSelection m_selection;
+    const int m_gridSize;
+    const int m_margin;
+    const bool m_isPlainStyle;
+};
+
+CellPainter::Frame::Frame(QTableView &view, const FlexGridModel &model, GlyphTable &glyphs,
+                          const QStyleOptionViewItem &option, const QPoint &offset, const QModelIndex &hover,
+                          const QRect &part, int shift)
+    : m_view(view),
+      m_model(model),
+      m_glyphs(glyphs),
+      m_option(option),
+      m_cell(option),
+      m_offset(offset),
+      m_shift(shift),
+      m_hover(hover),
+      m_current(view.hasFocus() || view.viewport()->hasFocus() ? view.currentIndex() : QModelIndex()),
+      m_painter(view.viewport()),
+      m_batch(glyphs),
+      m_selection(view.selectionModel()->selection()),
+      m_gridSize(view.showGrid() ? 1 : 0),
+      m_margin(view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, &view) + 1),
+      m_isPlainStyle(drawsTextPlainly(*view.style()))
+{
+    m_cell.palette.setCurrentColorGroup(option.state & QStyle::State_Enabled ? QPalette::Normal
+                                                                             : QPalette::Disabled);
+    const QRect all = part.translated(offset);
+    if (shift != 0)
+        m_painter.setClipRect(part);
+    const Span rows = rowsIn(all);
+    const Span columns = columnsIn(all);
+    m_firstRow = rows.first;
+    m_lastRow = rows.last;
+    m_firstColumn = columns.first;
+    const QHeaderView &header = *view.horizontalHeader();
+    for (int visual = columns.first; visual <= columns.last; ++visual) {
+        const int section = header.logicalIndex(visual);
+        const int left = view.columnViewportPosition(section) + offset.x() + shift +
+                         (m_gridSize > 0 && view.isRightToLeft() ? 1 : 0);
+        const bool isNumeric = model.source().isNumeric(section + model.fixedCols());
+        m_columns.push_back({section, left, header.sectionSize(section) - m_gridSize, isNumeric});
+    }
+    if (!isEmpty())
+        m_isPainted.resize(m_columns.size() * static_cast<std::size_t>(m_lastRow - m_firstRow + 1));
+}
+
+CellPainter::Frame::Span CellPainter::Frame::rowsIn(const QRect &dirty) const
+{
+    const QHeaderView &header = *m_view.verticalHeader();
+    const int first = header.visualIndexAt(dirty.top());
+    const int last = header.visualIndexAt(dirty.bottom());
+    return {first, first < 0 ? -2 : last < 0 ? header.count() - 1 : last};
+}
+
+CellPainter::Frame::Span CellPainter::Frame::columnsIn(const QRect &dirty) const
+{
+    const QHeaderView &header = *m_view.horizontalHeader();
+    int first = header.visualIndexAt(dirty.left() - m_shift);
+    int last = header.visualIndexAt(dirty.right() - m_shift);
+    if (m_view.isRightToLeft())
+        std::swap(first, last);
+    return {std::max(first, 0), last < 0 ? header.count() - 1 : last};
+}
+
+// To where there are cells.
+QRect CellPainter::Frame::clipped(QRect dirty) const
+{
+    const QHeaderView &columns = *m_view.horizontalHeader();
+    const QHeaderView &rows = *m_view.verticalHeader();
+    const int width = columns.length() - columns.offset();
+    dirty.setBottom(std::min(dirty.bottom(), rows.length() - rows.offset() - 1));
+    if (m_view.isRightToLeft())
+        dirty.setLeft(std::max(dirty.left(), m_view.viewport()->width() - width));
+    else
+        dirty.setRight(std::min(dirty.right(), width + m_shift - 1));
+    return dirty;
+}
+
+void CellPainter::Frame::enterRow(int visualRow)
+{
+    const int row = m_view.verticalHeader()->logicalIndex(visualRow);
+    m_option.features.setFlag(QStyleOptionViewItem::Alternate,
+                              m_view.alternatingRowColors() && visualRow % 2 != 0);
+    m_option.rect.setTop(m_view.rowViewportPosition(row) + m_offset.y());
+    m_option.rect.setHeight(m_view.rowHeight(row) - m_gridSize);
+}
+
+void CellPainter::Frame::paintRows(const QRect &dirty)
+{
+    const QRect area = clipped(dirty);
+    if (!area.isValid())
+        return;
+    const Span rows = rowsIn(area);
+    for (int visualRow = rows.first; visualRow <= rows.last; ++visualRow) {
+        enterRow(visualRow);
+        m_option.rect.setLeft(area.left());
+        m_option.rect.setRight(area.right());
+        m_view.style()->drawPrimitive(QStyle::PE_PanelItemViewRow, &m_option, &m_painter, &m_view);
+    }
+}
+
+void CellPainter::Frame::paintCells(const QRect &dirty)
+{
+    const QRect area = clipped(dirty);
+    if (!area.isValid())
+        return;
+    const Span rows = rowsIn(area);
+    const Span columns = columnsIn(area);
+    for (int visualRow = rows.first; visualRow <= rows.last; ++visualRow)
+        paintRow(visualRow, columns);
+}
+
+void CellPainter::Frame::paintRow(int visualRow, Span columns)
+{
+    enterRow(visualRow);
+    const int row = m_view.verticalHeader()->logicalIndex(visualRow);
+    const std::size_t begin = static_cast<std::size_t>(visualRow - m_firstRow) * m_columns.size();
+    for (int visual = columns.first; visual <= columns.last; ++visual) {
+        const auto place = static_cast<std::size_t>(visual - m_firstColumn);
+        const Column &column = m_columns[place];
+        if (column.width <= 0 || m_isPainted[begin + place])
+            continue;
+        m_isPainted[begin + place] = true;
+        paintCell(row, column, m_model.shownText(row + 1, column.section + m_model.fixedCols()));
+    }
+}
+
+void CellPainter::Frame::paintCell(int row, const Column &column, const QString &text)
+{
+    const auto isThis = [&](const QModelIndex &index) {
+        return index.row() == row && index.column() == column.section;
+    };
+    const bool selected = isSelected(row, column.section);
+    if (selected || isThis(m_hover) || isThis(m_current)) {
+        m_cell.rect = QRect(column.left, m_option.rect.top(), column.width, m_option.rect.height());
+        m_cell.features = m_option.features;
+        m_cell.state.setFlag(QStyle::State_Selected, selected);
+        m_cell.state.setFlag(QStyle::State_MouseOver, isThis(m_hover));
+        m_cell.state.setFlag(QStyle::State_HasFocus, isThis(m_current));
+        m_cell.index = m_model.index(row, column.section);
+        if (!m_isPlainStyle) {
+            m_view.style()->drawPrimitive(QStyle::PE_PanelItemViewRow, &m_cell, &m_painter, &m_view);
+            m_view.itemDelegate()->paint(&m_painter, m_cell, m_cell.index);
+            return;
+        }
+        // The style's item without a text; only with the focus is there more to it than its panel.
+        if (isThis(m_current))
+            m_view.style()->drawControl(QStyle::CE_ItemViewItem, &m_cell, &m_painter, &m_view);
+        else
+            m_view.style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &m_cell, &m_painter, &m_view);
+    }
+    if (!text.isEmpty())
+        placeText(text, column, selected ? QPalette::HighlightedText : QPalette::Text);
+}
+
+void CellPainter::Frame::placeText(const QString &text, const Column &column, QPalette::ColorRole role)
+{
+    const QRect &row = m_option.rect;
+    const qreal room = column.width - 2 * m_margin;
+    m_glyphs.layOut(CellDelegate::shownText(text), room, m_option.direction, m_line);
+    // Where not even the ellipsis has room, nothing can be read.
+    if (m_line.width > column.width)
+        return;
+    const bool isAtRight = column.isNumeric != (m_option.direction == Qt::RightToLeft);
+    const qreal left = column.left + m_margin + (isAtRight ? room - m_line.width : 0);
+    const int top = row.top() + row.height() / 2 - m_glyphs.height() / 2;
+    m_batch.add(m_line, {left, top + m_glyphs.ascent()}, m_option.palette.color(colourGroup(m_option), role));
+}
+
+bool CellPainter::Frame::isSelected(int row, int section) const
+{
+    return std::ranges::any_of(m_selection, [&](const QItemSelectionRange &range) {
+        return row >= range.top() && row <= range.bottom() && section >= range.left() &&
+               section <= range.right();
+    });
+}
+
+void CellPainter::Frame::paintLines(const QRect &dirty)
+{
+    const QRect area = clipped(dirty);
+    if (!m_view.showGrid() || !area.isValid())
+        return;
+    const int hint = m_view.style()->styleHint(QStyle::SH_Table_GridLineColor, &m_option, &m_view);
+    const QColor colour = QColor::fromRgba(static_cast<QRgb>(hint));
+    const auto paintLine = [&](const QRect &line) {
+        if (m_view.gridStyle() == Qt::SolidLine)
+            return m_painter.fillRect(line, colour);
+        m_painter.setPen(QPen(colour, m_gridSize, m_view.gridStyle()));
+        m_painter.drawLine(line.topLeft(), line.bottomRight());
+    };
+    const Span rows = rowsIn(area);
+    for (int visual = rows.first; visual <= rows.last; ++visual) {
+        const int row = m_view.verticalHeader()->logicalIndex(visual);
+        const int y = m_view.rowViewportPosition(row) + m_offset.y() + m_view.rowHeight(row) - m_gridSize;
+        paintLine({area.left(), y, area.width(), m_gridSize});
+    }
+    const Span columns = columnsIn(area);
+    for (int visual = columns.first; visual <= columns.last; ++visual) {
+        const Column &column = m_columns[static_cast<std::size_t>(visual - m_firstColumn)];
+        const int x = m_view.isRightToLeft() ? column.left - m_gridSize : column.left + column.width;
+        if (column.width > 0)
+            paintLine({x, area.top(), m_gridSize, area.height()});
+    }
+}
+
+CellPainter::CellPainter(QTableView &view, const FlexGridModel &model) : m_view(view), m_model(model) {}
+
+CellPainter::~CellPainter() = default;
+
+bool CellPainter::canPaint(const QRect &dirty) const
+{
+    return m_view.model() == &m_model && m_view.selectionModel() && !m_view.rootIndex().isValid() &&
+           !m_view.verticalHeader()->sectionsHidden() && !m_view.style()->inherits("QStyleSheetStyle") &&
+           qobject_cast<const CellDelegate *>(m_view.itemDelegate()) && !hasDelegateOrSpan(dirty);
+}
+
+bool CellPainter::hasDelegateOrSpan(const QRect &dirty) const
+{
+    const QHeaderView &rows = *m_view.verticalHeader();
+    const QHeaderView &columns = *m_view.horizontalHeader();
+    const int top = rows.logicalIndexAt(dirty.top());
+    const int bottom = rows.logicalIndexAt(dirty.bottom());
+    const int firstColumn = columns.visualIndexAt(m_view.isRightToLeft() ? dirty.right() : dirty.left());
+    const int lastColumn = columns.visualIndexAt(m_view.isRightToLeft() ? dirty.left() : dirty.right());
+    const int rowEnd = bottom < 0 ? rows.count() : bottom + 1;
+    const int columnEnd = lastColumn < 0 ? columns.count() : lastColumn + 1;
+    for (int row = std::max(top, 0); row < rowEnd; ++row) {
+        if (m_view.itemDelegateForRow(row))
+            return true;
+    }
+    for (int visual = std::max(firstColumn, 0); visual < columnEnd; ++visual) {
+        const int column = columns.logicalIndex(visual);
+        if (m_view.itemDelegateForColumn(column))
+            return true;
+        for (int row = std::max(top, 0); row < rowEnd; ++row) {
+            if (m_view.rowSpan(row, column) != 1 || m_view.columnSpan(row, column) != 1)
+                return true;
+        }
+    }
+    return false;
+}
+
+void CellPainter::paint(const QStyleOptionViewItem &option, const QRegion &dirty, const QPoint &offset,
+                        const QModelIndex &hover)
+{
+    prepareGlyphs(option.font);
+    Frame frame(m_view, m_model, *m_glyphs, option, offset, hover, m_view.viewport()->rect(), 0);
+    paint(frame, dirty);
+}
+
+void CellPainter::paintShifted(const QStyleOptionViewItem &option, const QRegion &dirty, const QRect &part,
+                               int shift, const QModelIndex &hover)
+{
+    prepareGlyphs(option.font);
+    Frame frame(m_view, m_model, *m_glyphs, option, {}, hover, part, shift);
+    paint(frame, dirty & part);
+}
+
+void CellPainter::prepareGlyphs(const QFont &font)
+{
+    if (!m_glyphs || m_glyphs->font() != font)
+        m_glyphs = std::make_unique<GlyphTable>(font);
+}
+
+void CellPainter::paint(Frame &frame, const QRegion &dirty)
+{
+    if (frame.isEmpty())
+        return;
+    for (const QRect &area : dirty)
+        frame.paintRows(area);
+    for (const QRect &area : dirty)
+        frame.paintCells(area);
+    for (const QRect &area : dirty)
+        frame.paintLines(area);
+    frame.paintTexts();
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,135 @@
+#include "session/layout/ColumnLayout.h"
+
+#include "query/colShowSQLSentences.h"
+#include "session/layout/ColumnView.h"
+
+#include <QtCore/QSet>
+
+#include <algorithm>
+#include <vector>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+constexpr int scrollBarMargin = 260; // twips, kept free when columns are fitted
+
+} // namespace
+
+ColumnLayout::ColumnLayout(ColumnView &grid, colShowSQLSentences &history) : m_grid(grid), m_history(history)
+{
+}
+
+void ColumnLayout::RecordShowSQL(const QString &strSQL, FieldView view, bool savesWidths,
+                                 const QString &strCurrPartFields, const QString &strCurrOrderFields,
+                                 const QString &connectionString)
+{
+    if (strSQL.isEmpty())
+        return;
+    const bool showsAll = view == FieldView::All;
+    m_history.AddCurrentSQL(strSQL, showsAll ? AllFieldsShown : PartFieldsShown, strCurrPartFields,
+                            strCurrOrderFields);
+    m_history.SetConnString(connectionString);
+    m_history.GetCurrSQLFieldsStatus();
+    if (savesWidths)
+        SaveColumnWidths(HiddenWidths::AsDefault);
+    if (showsAll)
+        ShowAllFieldColumns();
+    else
+        ShowPartFieldColumns(PartWidths::Kept);
+}
+
+void ColumnLayout::SaveColumnWidths(HiddenWidths hidden)
+{
+    colDataFields &fields = m_history.DataFields();
+    const QStringList headings = m_grid.Headings();
+    for (int col = 1; col < m_grid.Cols(); ++col) {
+        int width = m_grid.ColWidth(col);
+        if (width == ColumnView::useDefaultWidth || (width == 0 && hidden == HiddenWidths::AsDefault))
+            width = ColumnView::defaultColWidth;
+        QString key;
+        if (width >= 1 && fields.GetSelFieldKey(headings.at(col - 1), key))
+            fields.Update(key, [width](clsDataField &field) { field.FieldWidth = width; });
+    }
+}
+
+void ColumnLayout::ShowPartFieldColumns(PartWidths widths)
+{
+    const colDataFields &fields = m_history.DataFields();
+    const QStringList headings = m_grid.Headings();
+    if (std::none_of(headings.cbegin(), headings.cend(),
+                     [this](const QString &name) { return m_history.IsSelFieldPartField(name); }))
+        return;
+    for (int col = 1; col < m_grid.Cols(); ++col) {
+        const QString &name = headings.at(col - 1);
+        if (!m_history.IsSelFieldPartField(name)) {
+            m_grid.PutColWidth(col, 0);
+        } else if (widths == PartWidths::Kept) {
+            const clsDataField *field = fields.Find(name);
+            if (field && field->FieldWidth >= 1)
+                m_grid.PutColWidth(col, field->FieldWidth);
+        }
+    }
+}
+
+void ColumnLayout::ShowAllFieldColumns()
+{
+    const colDataFields &fields = m_history.DataFields();
+    const QStringList headings = m_grid.Headings();
+    for (int col = 1; col < m_grid.Cols(); ++col) {
+        const clsDataField *field = fields.Find(headings.at(col - 1));
+        int width = field ? field->FieldWidth : 0;
+        const bool isHiddenForGood = !field && m_grid.ColWidth(col) == 0;
+        if (width == ColumnView::useDefaultWidth || isHiddenForGood)
+            width = ColumnView::defaultColWidth;
+        if (width > 0)
+            m_grid.PutColWidth(col, width);
+    }
+}
+
+QStringList ColumnLayout::fieldsShownBy(FieldView view) const
+{
+    QStringList names;
+    for (const clsDataField &field : m_history.DataFields()) {
+        if (view == FieldView::All || field.IsPartField != 0)
+            names.append(field.FieldName);
+    }
+    return names;
+}
+
+bool ColumnLayout::hasColumnsFor(const QStringList &fields) const
+{
+    const QStringList shown = m_grid.Headings();
+    const QSet<QString> headings(shown.cbegin(), shown.cend());
+    return std::all_of(fields.cbegin(), fields.cend(),
+                       [&](const QString &field) { return headings.contains(field); });
+}
+
+bool ColumnLayout::columnsFit() const
+{
+    return m_grid.widthOfColumns() <= m_grid.width();
+}
+
+std::optional<double> ColumnLayout::shareOfWidth(qsizetype shown) const
+{
+    if (m_history.Count() == 0 || shown < 1)
+        return std::nullopt;
+    const int room = m_grid.width() - scrollBarMargin - rowHeadingMargin;
+    if (room < shown)
+        return std::nullopt; // no room at all: better too wide than gone
+    return static_cast<double>(room) / static_cast<double>(shown);
+}
+
+void ColumnLayout::fitColumns(int (*round)(double), bool showsHidden)
+{
+    std::vector<int> columns;
+    for (int col = 1; col < m_grid.Cols(); ++col) {
+        if (showsHidden || m_grid.ColWidth(col) != 0)
+            columns.push_back(col);
+    }
+    const std::optional<double> share = shareOfWidth(static_cast<qsizetype>(columns.size()));
+    for (const int col : share ? columns : std::vector<int>())
+        m_grid.PutColWidth(col, round(*share));
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,122 @@
+#include "session/records/SelectionSummary.h"
+
+#include "ado/values/FieldText.h"
+#include "ado/values/NumericTypes.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+using RawKind = ADODB::RawValue::Kind;
+
+constexpr qint64 cellsOfAStep = 200000; // some ten milliseconds
+
+int fieldsOf(const ExportColumns &columns)
+{
+    int fields = 0;
+    for (const ExportColumn &column : columns)
+        fields = std::max(fields, column.field + 1);
+    return fields;
+}
+
+bool isDateType(ADODB::DataTypeEnum type)
+{
+    return type == ADODB::adDBDate || type == ADODB::adDBTime || type == ADODB::adDate ||
+           type == ADODB::adDBTimeStamp;
+}
+
+} // namespace
+
+SelectionSummary::SelectionSummary(const ADODB::Recordset &recordset, const RecordRange &range,
+                                   ExportColumns columns)
+    : m_range(range), m_reader(recordset, fieldsOf(columns)), m_next(range.first)
+{
+    for (const ExportColumn &column : columns) {
+        const Kind kind = isDateType(column.type)             ? Kind::Date
+                          : column.type == ADODB::adBoolean   ? Kind::Other
+                          : ADODB::isNumericType(column.type) ? Kind::Number
+                          : column.type == ADODB::adVariant   ? Kind::Number
+                                                              : Kind::Other;
+        m_columns.push_back({column.field, column.type, kind});
+    }
+}
+
+void SelectionSummary::addNextCells()
+{
+    const auto rows = std::max<qint64>(1, cellsOfAStep / std::max<qint64>(1, std::ssize(m_columns)));
+    const qint64 end = std::min(m_range.last, m_next + rows - 1);
+    for (; m_next <= end; ++m_next) {
+        const std::vector<ADODB::RawValue> *const cells = m_reader.read(m_next);
+        if (!cells) {
+            m_next = m_range.last + 1;
+            return;
+        }
+        for (const Column &column : m_columns)
+            take((*cells)[static_cast<std::size_t>(column.field)], column);
+    }
+}
+
+void SelectionSummary::take(const ADODB::RawValue &cell, const Column &column)
+{
+    if (cell.kind == RawKind::Null)
+        return;
+    ++m_count;
+    // What a database without types of its own computes says only by its values what it is.
+    const bool isStoredNumber = cell.kind == RawKind::Integer || cell.kind == RawKind::Real;
+    if (column.kind == Kind::Date)
+        addDate(cell, column);
+    else if (column.kind == Kind::Number || (isStoredNumber && column.type != ADODB::adBoolean))
+        addNumber(cell, column);
+}
+
+void SelectionSummary::addNumber(const ADODB::RawValue &cell, const Column &column)
+{
+    double number = 0;
+    if (cell.kind == RawKind::Integer) {
+        m_sum.add(cell.integer);
+        number = static_cast<double>(cell.integer);
+    } else if (cell.kind == RawKind::Real && std::isfinite(cell.real)) {
+        m_sum.add(cell.real);
+        number = cell.real;
+    } else if (cell.kind == RawKind::Text && m_sum.addText(cell.bytes)) {
+        number = cell.bytes.toByteArray().toDouble();
+    } else {
+        return;
+    }
+    ++m_numbers;
+    const auto put = [&](std::optional<Extreme> &extreme) {
+        extreme.emplace();
+        ADODB::appendText(extreme->text, cell, column.type);
+        extreme->number = number;
+    };
+    if (!m_smallest || number < m_smallest->number)
+        put(m_smallest);
+    if (!m_largest || number > m_largest->number)
+        put(m_largest);
+}
+
+// Their texts are in the order of time.
+void SelectionSummary::addDate(const ADODB::RawValue &cell, const Column &column)
+{
+    if (cell.kind != RawKind::Text)
+        return;
+    ++m_dates;
+    const auto put = [&](std::optional<Extreme> &extreme) {
+        extreme.emplace();
+        ADODB::appendText(extreme->text, cell, column.type);
+    };
+    if (!m_earliest || cell.bytes < m_earliest->text)
+        put(m_earliest);
+    if (!m_latest || cell.bytes > m_latest->text)
+        put(m_latest);
+}
+
+QString SelectionSummary::textOf(const std::optional<Extreme> &extreme)
+{
+    return extreme ? QString::fromUtf8(extreme->text) : QString();
+}
+
+} // namespace KOVAVSFDataGridLib

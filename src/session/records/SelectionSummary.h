@@ -1,0 +1,70 @@
+#pragma once
+
+#include "ado/rows/RowReader.h"
+#include "export/WriteRecords.h"
+#include "session/records/DecimalSum.h"
+
+#include <optional>
+
+namespace KOVAVSFDataGridLib {
+
+// Count, sum, average, minimum and maximum of some cells, worked out in steps, so that a window stays alive
+// over millions of them. Values are taken as they are stored.
+class SelectionSummary
+{
+public:
+    // `recordset` must outlive this object. Records that go meanwhile end the work early.
+    SelectionSummary(const ADODB::Recordset &recordset, const RecordRange &range, ExportColumns columns);
+
+    // Looks at some more records.
+    void addNextCells();
+    bool isDone() const { return m_next > m_range.last; }
+
+    // Cells that are not Null.
+    qint64 count() const { return m_count; }
+    // How many of them are numbers, and how many dates.
+    qint64 numbers() const { return m_numbers; }
+    qint64 dates() const { return m_dates; }
+    // Of the numbers; as texts, in the form of a value's text.
+    QString sum() const { return m_sum.text(); }
+    QString average() const { return m_sum.average(m_numbers); }
+    QString minimum() const { return textOf(m_smallest); }
+    QString maximum() const { return textOf(m_largest); }
+    // Of the dates and times.
+    QString earliest() const { return textOf(m_earliest); }
+    QString latest() const { return textOf(m_latest); }
+
+private:
+    enum class Kind { Other, Number, Date };
+    struct Extreme
+    {
+        QByteArray text; // the value's own text
+        double number = 0;
+    };
+    struct Column
+    {
+        int field;
+        ADODB::DataTypeEnum type;
+        Kind kind;
+    };
+
+    void take(const ADODB::RawValue &cell, const Column &column);
+    void addNumber(const ADODB::RawValue &cell, const Column &column);
+    void addDate(const ADODB::RawValue &cell, const Column &column);
+    static QString textOf(const std::optional<Extreme> &extreme);
+
+    const RecordRange m_range;
+    std::vector<Column> m_columns;
+    ADODB::RowReader m_reader;
+    qint64 m_next;
+    qint64 m_count = 0;
+    qint64 m_numbers = 0;
+    qint64 m_dates = 0;
+    DecimalSum m_sum;
+    std::optional<Extreme> m_smallest;
+    std::optional<Extreme> m_largest;
+    std::optional<Extreme> m_earliest;
+    std::optional<Extreme> m_latest;
+};
+
+} // namespace KOVAVSFDataGridLib

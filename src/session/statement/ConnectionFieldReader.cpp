@@ -1,0 +1,171 @@
+#include "session/statement/ConnectionFieldReader.h"
+
+#include "ado/Connection.h"
+#include "ado/ConnectionFactory.h"
+#include "ado/Error.h"
+#include "ado/Fields.h"
+#include "ado/connection/EngineOf.h"
+#include "query/SharedValues.h"
+#include "query/derivation/SqlText.h"
+#include "session/ResultSet.h"
+#include "sql/SimpleSelect.h"
+#include "sql/SqlScanner.h"
+
+#include <QtCore/QRegularExpression>
+#include <QtCore/QStringList>
+
+#include <algorithm>
+#include <exception>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::vector<SourceField> describe(const ADODB::Connection &connection, const QString &statement)
+{
+    std::vector<SourceField> fields;
+    for (const ADODB::FieldInfo &info : connection.Describe(statement))
+        fields.push_back({info.name, info.type, info.baseTable});
+    return fields;
+}
+
+// What a statement shows when it picks plain columns of one table: the table and the names, `*` for all of
+// them. No names for any other statement.
+struct PlainColumns
+{
+    QString table;
+    QStringList names;
+};
+
+PlainColumns plainColumns(const QString &statement)
+{
+    static const QRegularExpression form(
+        uR"(^\s*SELECT\s((?:\s*(?:\*|\w+|"\w+"|`\w+`|\[\w+\])\s*,)*\s*(?:\*|\w+|"\w+"|`\w+`|\[\w+\])\s*)\sFROM\s)"_s,
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
+    static const QRegularExpression quotes(uR"([\s"`\[\]])"_s);
+    const auto match = form.match(statement);
+    const SimpleSelect select = SimpleSelect::parse(SqlScanner(statement));
+    if (!match.hasMatch() || select.fault != SimpleSelect::Fault::None)
+        return {};
+    return {select.tableText, match.captured(1).remove(quotes).split(u',')};
+}
+
+} // namespace
+
+ConnectionFieldReader::ConnectionFieldReader(const ResultSet &result) : m_result(result) {}
+
+ConnectionFieldReader::~ConnectionFieldReader() = default;
+
+ADODB::Connection &ConnectionFieldReader::connect(const QString &connectionString)
+{
+    if (m_result.isConnectedTo(connectionString)) {
+        closeOwn();
+        return *m_result.connection();
+    }
+    if (!m_own || m_own->State() != ADODB::adStateOpen || m_ownText != connectionString) {
+        auto connection = ADODB::ConnectionFactory::connectionFor(SharedValues::instance().dbType);
+        connection->PutConnectionString(connectionString);
+        connection->Open();
+        m_own = std::move(connection);
+        m_ownText = connectionString;
+    }
+    return *m_own;
+}
+
+bool ConnectionFieldReader::Open(const QString &connectionString)
+{
+    try {
+        connect(connectionString);
+        return true;
+    } catch (const std::exception &error) { // a connection factory of the host's may throw anything
+        m_failure = QString::fromUtf8(error.what());
+        return false;
+    }
+}
+
+std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QString &connectionString,
+                                                                    const QString &statement)
+{
+    m_failure.clear();
+    const std::pair key(connectionString, statement);
+    if (const auto known = m_known.constFind(key); known != m_known.constEnd())
+        return *known;
+    if (const auto derived = fromKnown(connectionString, statement)) {
+        m_known.insert(key, *derived);
+        return derived;
+    }
+    try {
+        const ADODB::Connection &connection = connect(connectionString);
+        std::vector<SourceField> fields;
+        try {
+            fields = describe(connection, GetNoRowSQL(statement));
+        } catch (const ADODB::Error &) {
+            // Grouped or united statements, say, have no such form; the statement itself is only prepared.
+            // It goes over another connection where this one turned out to be lost.
+            fields = describe(connect(connectionString), statement);
+        }
+        m_known.insert(key, fields);
+        return fields;
+    } catch (const std::exception &error) {
+        m_failure = QString::fromUtf8(error.what());
+        return {};
+    }
+}
+
+// Each way to the server is a wait, so what other statements have shown is not asked for again.
+std::optional<std::vector<SourceField>> ConnectionFieldReader::fromKnown(const QString &connectionString,
+                                                                         const QString &statement) const
+{
+    const PlainColumns wanted = plainColumns(statement);
+    if (wanted.names.isEmpty() || wanted.names.contains(u"*"_s))
+        return {};
+    for (auto known = m_known.begin(); known != m_known.end(); ++known) {
+        const PlainColumns shown = plainColumns(known.key().second);
+        if (known.key().first != connectionString || shown.names.isEmpty() || shown.table != wanted.table)
+            continue;
+        std::vector<SourceField> fields;
+        for (const QString &name : wanted.names) {
+            const auto field = std::ranges::find(known.value(), name, &SourceField::name);
+            if (field != known.value().end())
+                fields.push_back(*field);
+        }
+        if (fields.size() == static_cast<std::size_t>(wanted.names.size()))
+            return fields;
+    }
+    return {};
+}
+
+void ConnectionFieldReader::remember(const QString &connectionString, const QString &statement,
+                                     const ADODB::Fields &fields)
+{
+    std::vector<SourceField> known;
+    for (int i = 0; i < fields.Count(); ++i) {
+        const ADODB::Field &field = fields.Item(i);
+        known.push_back({field.Name(), field.Type(), field.BaseTableName()});
+    }
+    m_known.insert({connectionString, statement}, known);
+}
+
+Engine ConnectionFieldReader::engineOf(const QString &connectionString)
+{
+    if (m_result.isConnectedTo(connectionString))
+        return m_result.engine();
+    return m_ownText == connectionString ? KOVAVSFDataGridLib::engineOf(m_own) : Engine::Other;
+}
+
+void ConnectionFieldReader::forget()
+{
+    closeOwn();
+    m_known.clear();
+    m_failure.clear();
+}
+
+void ConnectionFieldReader::closeOwn()
+{
+    m_own.reset();
+    m_ownText.clear();
+}
+
+} // namespace KOVAVSFDataGridLib

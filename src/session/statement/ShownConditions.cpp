@@ -1,0 +1,120 @@
+#include "session/statement/ShownConditions.h"
+
+#include "query/conditions/ConditionParts.h"
+#include "session/ResultWatch.h"
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A statement and the parts of its condition.
+class Conditions
+{
+public:
+    Conditions(Session &session, const QString &statement)
+        : sql(statement, readingOf(dialectOf(session.filterManager().DBType(), session.result().engine())),
+              {.brackets = true}),
+          where(SelectParts::of(sql).where)
+    {
+        if (!where.isEmpty())
+            parts = conditionParts(sql, {where.begin + 1, where.end});
+    }
+
+    QString textOfPart(std::size_t part) const { return textOf(sql, parts[part]); }
+
+    SqlScanner sql;
+    TextRange where;
+    std::vector<TextRange> parts;
+};
+
+QString firstStatement(Session &session)
+{
+    const clsShowSQLSentence *const first = session.history().Item(1);
+    return first ? first->ShowSQL : QString();
+}
+
+// The places of those parts that the first statement doesn't have.
+std::vector<std::size_t> ownParts(Session &session, const Conditions &latest)
+{
+    const Conditions first(session, firstStatement(session));
+    QStringList given;
+    for (std::size_t i = 0; i < first.parts.size(); ++i)
+        given.append(first.textOfPart(i).simplified());
+    std::vector<std::size_t> own;
+    for (std::size_t i = 0; i < latest.parts.size(); ++i) {
+        if (!given.removeOne(latest.textOfPart(i).simplified()))
+            own.push_back(i);
+    }
+    return own;
+}
+
+} // namespace
+
+std::vector<ShownCondition> shownConditions(Session &session)
+{
+    QString statement;
+    if (!session.result().isOpen() || session.isFilterManager(nullptr) ||
+        !session.history().GetLatestSQL(statement))
+        return {};
+    const Conditions latest(session, statement);
+    if (latest.parts.empty())
+        return {};
+    std::vector<ShownCondition> conditions;
+    for (const std::size_t part : ownParts(session, latest)) {
+        const TextRange range = latest.parts[part];
+        conditions.push_back({conditionInWords(latest.sql, range), latest.textOfPart(part),
+                              fieldsOfCondition(latest.sql, range)});
+    }
+    return conditions;
+}
+
+QString statementWithout(Session &session, std::size_t condition)
+{
+    QString statement;
+    if (!session.history().GetLatestSQL(statement))
+        return {};
+    const Conditions latest(session, statement);
+    const std::vector<std::size_t> own = ownParts(session, latest);
+    if (condition >= own.size())
+        return {};
+    QStringList kept;
+    for (std::size_t i = 0; i < latest.parts.size(); ++i) {
+        if (i != own[condition])
+            kept.append(latest.textOfPart(i));
+    }
+    SQLSentence sentence;
+    const SqlToken &word = latest.sql.at(latest.where.begin);
+    sentence.fields = statement.first(word.start);
+    const qsizetype end = latest.sql.at(latest.where.end - 1).end();
+    sentence.order = statement.sliced(end);
+    while (sentence.fields.endsWith(u' '))
+        sentence.fields.chop(1);
+    for (const QString &part : std::as_const(kept))
+        addCondition(sentence, part);
+    return ComposeSQL(sentence.fields, sentence.where.trimmed(), sentence.order.trimmed());
+}
+
+void removeCondition(Session &session, std::size_t condition)
+{
+    const ResultWatch watch(session);
+    if (!session.saveRecord() || !watch.isUntouched())
+        return;
+    const QString statement = statementWithout(session, condition);
+    if (statement.isEmpty())
+        return;
+    session.columns().SaveColumnWidths();
+    const auto opened = session.read(statement);
+    if (!opened)
+        return;
+    const ADODB::Notifications::Hold hold(session.notifications());
+    session.show(*opened);
+    session.record(statement);
+}
+
+} // namespace KOVAVSFDataGridLib

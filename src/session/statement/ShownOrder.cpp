@@ -1,0 +1,69 @@
+#include "session/statement/ShownOrder.h"
+
+#include "ado/Recordset.h"
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+#include "sql/Names.h"
+#include "sql/SelectParts.h"
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+int columnNamed(const QStringList &headings, const QString &written, QStringView name)
+{
+    const auto found = std::ranges::find_if(headings, [&](const QString &heading) {
+        return heading.compare(written, Qt::CaseInsensitive) == 0 ||
+               heading.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return found == headings.end() ? 0 : static_cast<int>(found - headings.begin()) + 1;
+}
+
+} // namespace
+
+QString writtenColumn(Session &session, int col)
+{
+    // The statement that was opened, not the one that is called shown: "All" and "Part" only hide columns.
+    return session.history().GetColumnRealName(session.result().recordset()->Source(),
+                                               session.window().Headings(), col - 1);
+}
+
+std::vector<SortTerm> shownOrder(Session &session)
+{
+    if (!session.result().isOpen() || session.isFilterManager(nullptr))
+        return {};
+    const Dialect dialect = dialectOf(session.filterManager().DBType(), session.result().engine());
+    const SqlScanner statement(session.result().recordset()->Source(), readingOf(dialect),
+                               {.brackets = true});
+    const SelectParts parts = SelectParts::of(statement);
+    const QStringList headings = session.window().Headings();
+    std::vector<SortTerm> terms;
+    for (const SelectParts::Item &item : parts.sort) {
+        const QString value = textOf(statement, item.value);
+        int column = 0;
+        if (statement.at(item.value.begin).kind == SqlToken::Kind::Number)
+            column = value.toInt() <= headings.size() ? value.toInt() : 0;
+        // A name that several columns have is told apart by its table.
+        for (int col = 1; col <= headings.size() && column == 0; ++col) {
+            if (headings.count(headings.at(col - 1)) > 1 &&
+                writtenColumn(session, col).compare(value, Qt::CaseInsensitive) == 0)
+                column = col;
+        }
+        if (column == 0 && item.isName)
+            column = columnNamed(headings, value, lastNamePart(value));
+        for (int col = 1; col <= headings.size() && column == 0; ++col) {
+            if (writtenColumn(session, col).compare(value, Qt::CaseInsensitive) == 0)
+                column = col;
+        }
+        const QString direction = textOf(statement, {item.value.end, item.tokens.end});
+        terms.push_back(
+            {column, textOf(statement, item.tokens), direction.startsWith("DESC"_L1, Qt::CaseInsensitive)});
+    }
+    return terms;
+}
+
+} // namespace KOVAVSFDataGridLib

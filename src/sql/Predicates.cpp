@@ -1,0 +1,38 @@
+#include "sql/Predicates.h"
+
+#include "sql/Like.h"
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+QString isTrue(const Dialect &dialect, const QString &field, bool wanted)
+{
+    // Servers with a real Boolean type compare it with a text, those of bits and numbers convert the text.
+    if (dialect.engine == Engine::PostgreSQL || (dialect.isOdbc && dialect.database != dbAccess))
+        return field + (wanted ? " = '1'"_L1 : " = '0'"_L1);
+    // True is 1 here and -1 there.
+    return field + (wanted ? " <> 0"_L1 : " = 0"_L1);
+}
+
+QString isEmptyText(const Dialect &dialect, const QString &field)
+{
+    return u'(' + field + " IS NULL OR "_L1 + likeOperand(dialect.engine, field) + " = '')"_L1;
+}
+
+QString isNotEmptyText(const Dialect &dialect, const QString &field)
+{
+    // To Oracle '' is Null, and nothing differs from Null.
+    return likeOperand(dialect.engine, field) +
+           (dialect.database == dbOracle ? " LIKE '_%'"_L1 : " <> ''"_L1);
+}
+
+QString rowLimit(const Dialect &dialect, int count)
+{
+    const Engine engine = dialect.engine;
+    const bool knowsLimit = !dialect.isOdbc || engine == Engine::SQLite || engine == Engine::PostgreSQL ||
+                            engine == Engine::MySQL;
+    return (knowsLimit ? u"LIMIT %1"_s : u"OFFSET 0 ROWS FETCH NEXT %1 ROWS ONLY"_s).arg(count);
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "sql/Engine.h"
+
+#include <QtCore/QString>
+
+// Conditions and clauses for which the engines have words of their own.
+namespace KOVAVSFDataGridLib {
+
+// A Boolean field that has this value.
+QString isTrue(const Dialect &dialect, const QString &field, bool wanted);
+
+// A text field that holds no character, or some.
+QString isEmptyText(const Dialect &dialect, const QString &field);
+QString isNotEmptyText(const Dialect &dialect, const QString &field);
+
+// What follows ORDER BY and its list so that at most `count` rows are read.
+QString rowLimit(const Dialect &dialect, int count);
+
+} // namespace KOVAVSFDataGridLib
