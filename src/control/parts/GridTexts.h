@@ -47,7 +47,7 @@ inline const QString SummaryCopied = u"已复制 %1"_s;
 // In the middle of a grid that has nothing to show.
 inline const QString NothingLoaded = u"尚未加载数据"_s;
 inline const QString NoRecords = u"没有记录"_s;
-inline const QString NoRecordsYet = u"没有记录。按 Ctrl++ 增加第一条记录。"_s;
+inline const QString AddFirstHint = u"没有记录。按 Ctrl++ 增加第一条记录。"_s;
 inline const QString NoRecordsFound = u"没有符合条件的记录。按“后退”返回上一步的结果。"_s;
 
 // What a screen reader calls the parts that have no caption.

@@ -27,7 +27,7 @@ void EmptyHint::showText(const QString &text)
 
 void EmptyHint::showNoRecords(bool canGoBack, bool canAdd)
 {
-    showText(canGoBack ? GridTexts::NoRecordsFound : canAdd ? GridTexts::NoRecordsYet : GridTexts::NoRecords);
+    showText(canGoBack ? GridTexts::NoRecordsFound : canAdd ? GridTexts::AddFirstHint : GridTexts::NoRecords);
 }
 
 bool EmptyHint::eventFilter(QObject *watched, QEvent *event)
