@@ -77,7 +77,10 @@ QString Connection::EngineName() const
 
 std::vector<FieldInfo> Connection::Describe(const QString &sql) const
 {
-    return session()->prepare(sql, Access::ReadOnly, &Waiting::shouldContinue)->fields();
+    // A copy, because whoever watches the wait can let the host close this connection.
+    const std::shared_ptr<Session> session = this->session();
+    Watched watched;
+    return session->prepare(sql, Access::ReadOnly, [&] { return watched.shouldContinue(); })->fields();
 }
 
 const std::shared_ptr<Session> &Connection::session() const

@@ -219,6 +219,7 @@ enum ErrorValueEnum : qint32 {
     adErrObjectOpen = 3705,          // the object must be closed
     adErrProviderNotFound = 3706,    // no such provider
     adErrInvalidConnection = 3709,   // no usable connection
+    adErrStillExecuting = 3711,      // an earlier call has not returned yet
     adErrIntegrityViolation = 3719,  // violates a constraint of the database
     adErrPermissionDenied = 3720,    // not permitted
     adErrResourceLocked = 3730       // locked by another program

@@ -28,12 +28,13 @@ void needLockType(LockTypeEnum type)
 Snapshot Recordset::Private::read(Session &session, const QString &statement)
 {
     const auto report = progress;
+    Watched watched;
     const auto query =
         session.prepare(statement, openedLockType == adLockReadOnly ? Access::ReadOnly : Access::ReadWrite,
-                        [&] { return report ? report(0) : Waiting::shouldContinue(); });
+                        [&] { return report ? report(0) : watched.shouldContinue(); });
     RowStore store(query->columns(), memoryLimit);
     query->fetch(store,
-                 [&](qint64 rowsRead) { return report ? report(rowsRead) : Waiting::shouldContinue(); });
+                 [&](qint64 rowsRead) { return report ? report(rowsRead) : watched.shouldContinue(); });
     editor.emplace(query->takeWriter(), query->whyReadOnly());
     return Snapshot(query->fields(), std::move(store));
 }
@@ -129,6 +130,7 @@ void Recordset::Open(const QString &source, const std::shared_ptr<Connection> &c
 void Recordset::Close()
 {
     d->rows();
+    d->needIdle();
     d->fields.clear();
     d->editor.reset();
     d->underlying.reset();

@@ -83,6 +83,7 @@ KOVA_TEXT(diskFull, "磁盘空间不足，无法完成操作。（%1）")
 KOVA_TEXT(databaseFailed, "数据库操作失败：%1")
 
 // Records and fields
+KOVA_TEXT(stillExecuting, "这个记录集的上一项操作还在等待数据库，请稍后再试。")
 KOVA_TEXT(recordsetOpen, "记录集已经打开，请先关闭。")
 KOVA_TEXT(recordsetClosed, "记录集没有打开或已经关闭。")
 KOVA_TEXT(noCurrentRecord, "没有当前记录：已在第一条之前、最后一条之后，或者没有任何记录。")

@@ -83,7 +83,9 @@ bool FilterSource::askWhetherBackslashEscapes()
         ADODB::Recordset backslashes;
         backslashes.Open(uR"(SELECT '\\')"_s, open);
         return backslashes.RecordCount() == 1 && backslashes.CellText(1, 0) == u'\\';
-    } catch (const ADODB::Error &) {
+    } catch (const ADODB::Error &error) {
+        if (error.is(ADODB::dbErrCancelled))
+            throw;
         return false; // a database that selects from tables only, Oracle say; none of these has such escapes
     }
 }
@@ -97,10 +99,10 @@ std::vector<FilterField> FilterSource::readFields()
     const QString everything = u"SELECT * FROM "_s;
     try {
         infos = connection()->Describe(everything + m_fromText);
-    } catch (const ADODB::Error &) {
+    } catch (const ADODB::Error &error) {
         // A plain name that SQL can't read without brackets or quotes.
         const QString written = writtenName(dialect(), m_fromText);
-        if (written == m_fromText)
+        if (written == m_fromText || error.is(ADODB::dbErrCancelled))
             throw;
         infos = connection()->Describe(everything + written);
         m_fromText = written;

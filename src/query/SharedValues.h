@@ -31,6 +31,7 @@ struct SharedValues
     qint32 recordCount = 0; // of the last load, at most recordCap
     qint32 hasRecords = 0;  // 1 when recordCount is at least 1
     bool isOpening = false; // while a statement is opened, when no other may be
+    bool isWaiting = false; // while anything else waits for a server, when no command may run
     QString scratch;        // what the text dialogs take and give
     // The open result as last looked at: its number of records and the current one, 0 before the first.
     qint32 recordCountSnapshot = 0;

@@ -120,7 +120,10 @@ void Session::runOnColumn(const ColumnCommand &command, int col)
 
 void Session::perform(const std::function<void()> &command)
 {
+    if (shared.isWaiting) // by the host, while another command waits for its server
+        return;
     const auto alive = shared_from_this();
+    const ConnectionFieldReader::Command asCommand(m_reader);
     ++m_running;
     try {
         command();

@@ -55,6 +55,7 @@ bool Session::load()
     if (shared.isOpening || !leaveResult())
         return false;
     m_reader.forget();
+    const ConnectionFieldReader::Command command(m_reader);
     auto manager = filterManagerForLoad();
     const std::optional<QString> statement = statementToOpen(*manager);
     std::optional<ResultSet::Opened> opened;

@@ -65,7 +65,9 @@ void Session::showNewValues()
     {
         const ADODB::Notifications::Hold hold(*m_notifications);
         try {
-            message = readAgain(*m_result.recordset());
+            message = readAgain(*watch.recordset());
+            if (!watch.isUntouched())
+                return;
             if (!message.isEmpty())
                 message.prepend(SessionMessages::ChangedFields);
             m_window->refreshRecords();

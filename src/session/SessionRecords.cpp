@@ -39,11 +39,14 @@ void Session::cancelChanges()
 
 void Session::saveChanges()
 {
-    ADODB::Recordset &recordset = *m_result.recordset();
+    const ResultWatch watch(*this);
+    ADODB::Recordset &recordset = *watch.recordset();
     const bool isNew = recordset.EditMode() == ADODB::adEditAdd;
     if (isNew && hasNoValue(recordset))
         return cancelChanges();
     recordset.Update();
+    if (!watch.isUntouched()) // the control went while it was saved
+        return;
     if (isNew)
         refillAtRecord(recordset.AbsolutePosition());
     else
@@ -93,6 +96,8 @@ std::optional<Session::Failure> Session::trySave()
 
 bool Session::saveRecord()
 {
+    if (shared.isWaiting)
+        return false;
     const auto alive = shared_from_this();
     const ResultWatch watch(*this);
     if (!commitEdit())
@@ -109,6 +114,8 @@ bool Session::saveRecord()
 
 bool Session::leaveResult()
 {
+    if (shared.isWaiting) // for what is done to this very result
+        return false;
     const auto alive = shared_from_this();
     const ResultWatch watch(*this);
     for (;;) {
@@ -134,6 +141,7 @@ bool Session::leaveResult()
 std::optional<QString> Session::saveSilently()
 {
     const auto alive = shared_from_this();
+    const ResultWatch watch(*this);
     if (std::optional<QString> refused = m_window->commitEdit())
         return refused;
     const std::optional<Failure> failure = trySave();

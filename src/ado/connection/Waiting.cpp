@@ -1,5 +1,8 @@
 #include "ado/connection/Waiting.h"
 
+#include <QtCore/QCoreApplication>
+#include <QtCore/QThread>
+
 #include <utility>
 
 namespace ADODB {
@@ -7,6 +10,19 @@ namespace ADODB {
 namespace {
 
 thread_local Waiting *innermost = nullptr;
+
+// Used in the main thread only.
+WaitWatcher::Maker &watcherMaker()
+{
+    static WaitWatcher::Maker theMaker;
+    return theMaker;
+}
+
+bool isMainThread()
+{
+    const auto *const application = QCoreApplication::instance();
+    return application && application->thread() == QThread::currentThread();
+}
 
 } // namespace
 
@@ -25,8 +41,21 @@ bool Waiting::isWatched()
     return innermost != nullptr;
 }
 
-bool Waiting::shouldContinue()
+WaitWatcher::~WaitWatcher() = default;
+
+void WaitWatcher::setMaker(Maker maker)
 {
+    watcherMaker() = std::move(maker);
+}
+
+bool Watched::shouldContinue()
+{
+    if (!innermost && !m_isMade && isMainThread() && watcherMaker()) {
+        m_isMade = true;
+        m_watcher = watcherMaker()();
+        if (m_watcher)
+            m_waiting.emplace([this] { return m_watcher->shouldContinue(); });
+    }
     return !innermost || innermost->m_shouldContinue();
 }
 

@@ -27,6 +27,7 @@ void Recordset::saveBeforeAddNew()
 
 void Recordset::AddNew()
 {
+    d->needIdle();
     if (d->isAdding())
         saveBeforeAddNew();
     Update();
@@ -37,13 +38,20 @@ void Recordset::AddNew()
 
 void Recordset::Update()
 {
+    d->needIdle();
     switch (d->edit().mode()) {
     case adEditAdd:
-        withinMemory(Texts::changeOutOfMemory, [&] { d->edit().saveNew(d->rows()); });
+        withinMemory(Texts::changeOutOfMemory, [&] {
+            const Private::Busy busy(*d);
+            d->edit().saveNew(d->rows());
+        });
         d->position.append();
         break;
     case adEditInProgress:
-        withinMemory(Texts::changeOutOfMemory, [&] { d->edit().saveChanges(d->rows(), d->currentRecord()); });
+        withinMemory(Texts::changeOutOfMemory, [&] {
+            const Private::Busy busy(*d);
+            d->edit().saveChanges(d->rows(), d->currentRecord());
+        });
         break;
     default:
         return;
@@ -54,6 +62,7 @@ void Recordset::Update()
 
 void Recordset::CancelUpdate()
 {
+    d->needIdle();
     switch (d->edit().mode()) {
     case adEditAdd:
         d->edit().cancel();
@@ -71,11 +80,15 @@ void Recordset::CancelUpdate()
 
 void Recordset::Delete(AffectEnum affect)
 {
+    d->needIdle();
     if (affect != adAffectCurrent)
         throw Error(adErrInvalidArgument, Texts::onlyCurrentRecord());
     if (d->isAdding()) // nothing of it is in the database yet
         return CancelUpdate();
-    withinMemory(Texts::changeOutOfMemory, [&] { d->edit().remove(d->rows(), d->currentRecord()); });
+    withinMemory(Texts::changeOutOfMemory, [&] {
+        const Private::Busy busy(*d);
+        d->edit().remove(d->rows(), d->currentRecord());
+    });
     d->position.removeCurrent();
     d->underlying.reset();
     d->notifyChanged(adRsnDelete);
@@ -83,6 +96,7 @@ void Recordset::Delete(AffectEnum affect)
 
 void Recordset::Resync(AffectEnum affect, ResyncEnum what)
 {
+    d->needIdle();
     if (affect != adAffectCurrent)
         throw Error(adErrInvalidArgument, Texts::onlyCurrentRecord());
     if (what != adResyncUnderlyingValues && what != adResyncAllValues)
@@ -90,7 +104,10 @@ void Recordset::Resync(AffectEnum affect, ResyncEnum what)
     if (d->isAdding())
         throw Error(adErrNoCurrentRecord, Texts::noCurrentRecord());
     const qint64 record = d->currentRecord();
-    RowStore now = withinMemory(Texts::outOfMemory, [&] { return d->edit().readAgain(d->rows(), record); });
+    RowStore now = withinMemory(Texts::outOfMemory, [&] {
+        const Private::Busy busy(*d);
+        return d->edit().readAgain(d->rows(), record);
+    });
     if (what == adResyncUnderlyingValues) {
         d->underlying = std::move(now);
         d->underlyingRecord = record;
@@ -128,6 +145,7 @@ QVariant Recordset::currentValue(int column) const
 
 void Recordset::putCurrentValue(int column, const QVariant &value)
 {
+    d->needIdle();
     if (!d->isAdding())
         d->currentRecord();
     const bool first = d->edit().isEmpty();

@@ -25,6 +25,7 @@ bool Recordset::isEOF() const
 // Moving away saves. A new record that nobody wrote anything into is nothing to save.
 void Recordset::leaveRecord()
 {
+    d->needIdle();
     if (d->isAdding() && d->edit().isEmpty())
         CancelUpdate();
     else

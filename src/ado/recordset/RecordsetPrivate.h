@@ -67,8 +67,27 @@ struct Recordset::Private
         rows();
         return *editor; // NOLINT(bugprone-unchecked-optional-access): it is there while the rows are
     }
+    // While a change waits for the database, whoever watches the wait can let the host call this recordset.
+    // It can read then, but change nothing.
+    class Busy
+    {
+    public:
+        explicit Busy(Private &d) : m_d(d) { m_d.isBusy = true; }
+        ~Busy() { m_d.isBusy = false; }
+        Q_DISABLE_COPY_MOVE(Busy)
+
+    private:
+        Private &m_d;
+    };
+    bool isBusy = false;
+    void needIdle() const
+    {
+        if (isBusy)
+            throw Error(adErrStillExecuting, Texts::stillExecuting());
+    }
     void needClosed() const
     {
+        needIdle();
         if (snapshot)
             throw Error(adErrObjectOpen, Texts::recordsetOpen());
     }

@@ -34,7 +34,10 @@ QString pageLabel(const QString &page, const QString &pageCount)
 } // namespace
 
 ControlWindow::ControlWindow(QWidget &control, GridParts &parts)
-    : GridWindow(*parts.vsfgDataGrid, *parts.Toolbar1), m_control(control), m_parts(parts)
+    : GridWindow(*parts.vsfgDataGrid, *parts.Toolbar1),
+      m_control(control),
+      m_parts(parts),
+      m_waits(control, [this] { return m_parts.foot(); })
 {
     m_parts.lblFieldCount->setText(pageLabel({}, {}));
 }

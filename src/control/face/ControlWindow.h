@@ -1,6 +1,7 @@
 #pragma once
 
 #include "control/parts/GridWindow.h"
+#include "control/parts/lines/WaitPlace.h"
 
 #include <functional>
 
@@ -49,6 +50,7 @@ private:
     GridParts &m_parts;
     SingleRecordView *m_singleRecord = nullptr;
     std::function<void()> m_fullScreen;
+    const WaitPlace m_waits;
 };
 
 } // namespace KOVAVSFDataGridLib

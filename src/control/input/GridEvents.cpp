@@ -12,6 +12,7 @@
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
 #include "session/Questions.h"
+#include "session/ResultWatch.h"
 #include "session/Session.h"
 
 #include <QtCore/QCoreApplication>
@@ -191,14 +192,18 @@ void GridEvents::followGridRow()
     VSFlexGrid &grid = *m_parts.vsfgDataGrid;
     if (grid.Row() == 0 || !m_session.result().isOpen())
         return;
-    const ADODB::Notifications::Hold hold(m_session.notifications());
-    ADODB::Recordset &recordset = *m_session.result().recordset();
-    const qint64 record = m_session.recordOfRow(grid.Row());
+    const auto session = m_session.shared_from_this(); // saving the record that is left can let the host act
+    const ResultWatch watch(*session);
+    const ADODB::Notifications::Hold hold(session->notifications());
+    ADODB::Recordset &recordset = *watch.recordset();
+    const qint64 record = session->recordOfRow(grid.Row());
     try {
         if (record <= recordset.RecordCount() && record != recordset.AbsolutePosition())
             recordset.PutAbsolutePosition(record);
     } catch (const ADODB::Error &) {
-        if (const int row = m_session.rowOfRecord(recordset.AbsolutePosition()); row > 0)
+        if (!watch.isUntouched())
+            return;
+        if (const int row = session->rowOfRecord(recordset.AbsolutePosition()); row > 0)
             grid.PutRow(row);
     }
 }

@@ -83,8 +83,11 @@ inline const QString SelectWholeRows = u"整行选择(&R)"_s;
 
 // Loading.
 inline const QString RecordsRead = u"已读取 %1 条记录"_s;
+inline const QString WaitingForDatabase = u"正在等待数据库…"_s;
+inline const QString Cancelling = u"正在取消…"_s;
 inline const QString CancelOpening = u"取消"_s;
 inline const QString CancelOpeningHint = u"停止读取记录（Esc）"_s;
+inline const QString CancelWaitingHint = u"不再等待（Esc）"_s;
 inline const QString CancelWritingHint = u"停止（Esc）"_s;
 
 inline const QString NothingToExport = u"没有打开的结果，无法导出。"_s;

@@ -20,7 +20,10 @@
 namespace KOVAVSFDataGridLib {
 
 ViewerWindow::ViewerWindow(QWidget &window, const ViewerParts &parts)
-    : GridWindow(*parts.vsfgShowData, *parts.Toolbar1), m_window(window), m_parts(parts)
+    : GridWindow(*parts.vsfgShowData, *parts.Toolbar1),
+      m_window(window),
+      m_parts(parts),
+      m_waits(window, [this] { return m_parts.foot(); })
 {
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "control/parts/GridWindow.h"
+#include "control/parts/lines/WaitPlace.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -29,6 +30,7 @@ public:
 private:
     QWidget &m_window;
     const ViewerParts &m_parts;
+    const WaitPlace m_waits;
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -27,6 +27,8 @@ void addRecord(Session &session)
         const ADODB::Notifications::Hold hold(session.notifications());
         if (recordset.EditMode() == ADODB::adEditAdd && !session.isRecordEmpty())
             session.saveChanges();
+        if (!watch.isUntouched())
+            return;
         recordset.AddNew();
         session.window().showSingleRecord();
     } catch (const ADODB::Error &error) {

@@ -46,13 +46,16 @@ bool askToDelete(Session &session)
 void deleteCurrentRecord(Session &session)
 {
     const ADODB::Notifications::Hold hold(session.notifications());
-    ADODB::Recordset &recordset = *session.result().recordset();
+    const ResultWatch watch(session);
+    ADODB::Recordset &recordset = *watch.recordset();
     if (recordset.EditMode() == ADODB::adEditAdd) {
         session.cancelRecord();
         return;
     }
     const qint64 position = recordset.AbsolutePosition();
     recordset.Delete(ADODB::adAffectCurrent);
+    if (!watch.isUntouched()) // the control went while it was deleted
+        return;
     session.window().cancelEdit(); // only now: a record that stays keeps what is being typed into it
     const qint64 next = std::min(position, recordset.RecordCount());
     if (next < 1)

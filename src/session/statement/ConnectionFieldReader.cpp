@@ -4,6 +4,7 @@
 #include "ado/ConnectionFactory.h"
 #include "ado/Error.h"
 #include "ado/Fields.h"
+#include "ado/Texts.h"
 #include "ado/connection/EngineOf.h"
 #include "query/SharedValues.h"
 #include "query/derivation/SqlText.h"
@@ -58,11 +59,11 @@ ConnectionFieldReader::ConnectionFieldReader(const ResultSet &result) : m_result
 
 ConnectionFieldReader::~ConnectionFieldReader() = default;
 
-ADODB::Connection &ConnectionFieldReader::connect(const QString &connectionString)
+std::shared_ptr<ADODB::Connection> ConnectionFieldReader::connect(const QString &connectionString)
 {
     if (m_result.isConnectedTo(connectionString)) {
         closeOwn();
-        return *m_result.connection();
+        return m_result.connection();
     }
     if (!m_own || m_own->State() != ADODB::adStateOpen || m_ownText != connectionString) {
         auto connection = ADODB::ConnectionFactory::connectionFor(SharedValues::instance().dbType);
@@ -71,16 +72,43 @@ ADODB::Connection &ConnectionFieldReader::connect(const QString &connectionStrin
         m_own = std::move(connection);
         m_ownText = connectionString;
     }
-    return *m_own;
+    return m_own;
+}
+
+// A user who does not want to wait for the first answer of a command wants none of the next ones.
+std::shared_ptr<ADODB::Connection>
+ConnectionFieldReader::connectUnlessCancelled(const QString &connectionString)
+{
+    if (m_isCancelled)
+        throw ADODB::Error(ADODB::dbErrCancelled, ADODB::Texts::cancelled());
+    return connect(connectionString);
+}
+
+void ConnectionFieldReader::noteFailure(const std::exception &error)
+{
+    m_failure = QString::fromUtf8(error.what());
+    const auto *const cause = dynamic_cast<const ADODB::Error *>(&error);
+    m_isCancelled = m_commands > 0 && cause && cause->is(ADODB::dbErrCancelled);
+}
+
+ConnectionFieldReader::Command::Command(ConnectionFieldReader &reader) : m_reader(reader)
+{
+    ++m_reader.m_commands;
+}
+
+ConnectionFieldReader::Command::~Command()
+{
+    if (--m_reader.m_commands == 0)
+        m_reader.m_isCancelled = false;
 }
 
 bool ConnectionFieldReader::Open(const QString &connectionString)
 {
     try {
-        connect(connectionString);
+        connectUnlessCancelled(connectionString);
         return true;
     } catch (const std::exception &error) { // a connection factory of the host's may throw anything
-        m_failure = QString::fromUtf8(error.what());
+        noteFailure(error);
         return false;
     }
 }
@@ -97,19 +125,21 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
         return derived;
     }
     try {
-        const ADODB::Connection &connection = connect(connectionString);
+        const auto connection = connectUnlessCancelled(connectionString);
         std::vector<SourceField> fields;
         try {
-            fields = describe(connection, GetNoRowSQL(statement));
-        } catch (const ADODB::Error &) {
+            fields = describe(*connection, GetNoRowSQL(statement));
+        } catch (const ADODB::Error &error) {
+            if (error.is(ADODB::dbErrCancelled))
+                throw;
             // Grouped or united statements, say, have no such form; the statement itself is only prepared.
             // It goes over another connection where this one turned out to be lost.
-            fields = describe(connect(connectionString), statement);
+            fields = describe(*connect(connectionString), statement);
         }
         m_known.insert(key, fields);
         return fields;
     } catch (const std::exception &error) {
-        m_failure = QString::fromUtf8(error.what());
+        noteFailure(error);
         return {};
     }
 }

@@ -4,6 +4,7 @@
 
 #include <QtCore/QHash>
 
+#include <exception>
 #include <memory>
 
 namespace ADODB {
@@ -36,12 +37,27 @@ public:
     // Why the last reading failed, as a sentence for the user; empty when it did not.
     const QString &Failure() const { return m_failure; }
 
+    // Lives while a command runs. Once the user has cancelled a reading, the command's other readings fail at
+    // once.
+    class Command
+    {
+    public:
+        explicit Command(ConnectionFieldReader &reader);
+        ~Command();
+        Q_DISABLE_COPY_MOVE(Command)
+
+    private:
+        ConnectionFieldReader &m_reader;
+    };
+
     // Closes its own connection and forgets all names, since the tables may have changed.
     void forget();
 
 private:
     // Throws ADODB::Error, and what a connection factory of the host's throws.
-    ADODB::Connection &connect(const QString &connectionString);
+    std::shared_ptr<ADODB::Connection> connect(const QString &connectionString);
+    std::shared_ptr<ADODB::Connection> connectUnlessCancelled(const QString &connectionString);
+    void noteFailure(const std::exception &error);
     std::optional<std::vector<SourceField>> fromKnown(const QString &connectionString,
                                                       const QString &statement) const;
     void closeOwn();
@@ -50,6 +66,8 @@ private:
     std::shared_ptr<ADODB::Connection> m_own;
     QString m_ownText;
     QString m_failure;
+    int m_commands = 0;
+    bool m_isCancelled = false;
     QHash<std::pair<QString, QString>, std::vector<SourceField>>
         m_known; // by connection string and statement
 };

@@ -17,6 +17,9 @@ namespace ADODB {
 namespace {
 
 constexpr int millisecondsBetweenQuestions = 10;
+// From a stop until the caller is released.
+constexpr qint64 releaseFromReading = 150;
+constexpr qint64 releaseFromSaving = 3000;
 
 thread_local OdbcOperation *theCurrent = nullptr;
 
@@ -61,21 +64,19 @@ void OdbcOperation::run(std::function<void()> work, const Wait &wait)
     }).detach();
 
     std::exception_ptr fromCaller;
-    qint64 released = 0;
+    qint64 stopped = 0;
     while (!operation->m_done.tryAcquire(1, millisecondsBetweenQuestions)) {
-        if (released == 0) {
-            bool isWanted = false;
-            try {
-                isWanted = wait.shouldContinue(operation->m_rows);
-            } catch (...) {
-                fromCaller = std::current_exception();
-            }
-            if (!isWanted || operation->isOverdue()) {
-                operation->stop(isWanted ? Stop::TimedOut : Stop::Cancelled);
-                released = now() + wait.release;
-            }
+        bool isWanted = false;
+        try {
+            isWanted = !fromCaller && wait.shouldContinue(operation->m_rows);
+        } catch (...) {
+            fromCaller = std::current_exception();
         }
-        if (released == 0 || now() < released)
+        if (stopped == 0 && (!isWanted || operation->isOverdue())) {
+            operation->stop(isWanted ? Stop::TimedOut : Stop::Cancelled);
+            stopped = now();
+        }
+        if (stopped == 0 || !operation->isReleased(now() - stopped))
             continue;
         if (fromCaller)
             std::rethrow_exception(fromCaller);
@@ -91,6 +92,11 @@ bool OdbcOperation::isOverdue() const
 {
     const qint64 due = m_due;
     return due > 0 && now() >= due;
+}
+
+bool OdbcOperation::isReleased(qint64 sinceStop) const
+{
+    return sinceStop >= (m_saving ? releaseFromSaving : releaseFromReading);
 }
 
 void OdbcOperation::throwStopped() const

@@ -25,19 +25,19 @@ class OdbcHandle;
 // - To stop, the server is asked to, again and again with growing pauses, from a third thread: asking waits
 //   for the server as well. An operation that was stopped changes nothing any more: it notices after the
 //   driver's call that is under way.
-// - A caller who does not get an answer in time is released. The operation ends by itself when the driver
-//   returns, and destroys what it owns in its own thread.
+// - A caller who does not get an answer in time is released: at once, unless the server may be saving, for
+//   then the answer is worth some seconds. The operation ends by itself when the driver returns, and destroys
+//   what it owns in its own thread.
 class OdbcOperation : public std::enable_shared_from_this<OdbcOperation>
 {
 public:
     struct Wait
     {
-        // Asked at least every 20 ms, with the number of rows read so far.
+        // Asked at least every 20 ms, with the number of rows read so far; after a stop as well, so that it
+        // can go on painting.
         std::function<bool(qint64 rows)> shouldContinue;
         // Seconds that the whole may take, 0 for ever.
         int limit = 0;
-        // Milliseconds from a stop until the caller is released.
-        int release = 200;
     };
 
     // Runs `work` as an operation; within one, in its thread. Throws what it throws, dbErrCancelled when
@@ -70,6 +70,8 @@ private:
     void stop(Stop why);
     void cancelUntilDone();
     bool isOverdue() const;
+    // Whether a caller who stopped it that long ago, in milliseconds, is released.
+    bool isReleased(qint64 sinceStop) const;
     [[noreturn]] void throwStopped() const;
 
     std::atomic<Stop> m_stop = Stop::None;

@@ -35,8 +35,9 @@ std::shared_ptr<Session> OdbcProvider::open(const ConnectionString &connection) 
     OdbcLogin login(inOdbcWords(connection, odbcDrivers()));
     const int commandTimeout = login.commandTimeout();
     const auto pool = std::make_shared<std::shared_ptr<OdbcPool>>();
+    Watched watched;
     OdbcOperation::run([login = std::move(login), pool] { *pool = OdbcPool::open(login); },
-                       {[](qint64) { return Waiting::shouldContinue(); }});
+                       {[&](qint64) { return watched.shouldContinue(); }});
     return std::make_shared<OdbcSession>(std::move(*pool), commandTimeout);
 }
 

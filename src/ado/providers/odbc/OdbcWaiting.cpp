@@ -1,6 +1,7 @@
 #include "ado/providers/odbc/OdbcWaiting.h"
 
 #include "ado/Error.h"
+#include "ado/connection/Waiting.h"
 #include "ado/providers/odbc/OdbcOperation.h"
 #include "ado/providers/odbc/OdbcSession.h"
 #include "ado/providers/odbc/reading/OdbcStatement.h"
@@ -10,9 +11,6 @@
 namespace ADODB {
 
 namespace {
-
-// Milliseconds. What a change came to matters, so it is waited for longer than what a reading would give.
-constexpr int releaseFromChange = 3000;
 
 bool always(qint64)
 {
@@ -84,7 +82,9 @@ OdbcWaitingWriter::OdbcWaitingWriter(std::shared_ptr<OdbcRowWriter> writer) : m_
 // The statements of a change have limits of their own; this one is for what lies between them.
 void OdbcWaitingWriter::run(std::function<void()> work) const
 {
-    OdbcOperation::run(std::move(work), {always, 2 * m_writer->timeout(), releaseFromChange});
+    Watched watched;
+    OdbcOperation::run(std::move(work),
+                       {[&](qint64) { return watched.shouldContinue(); }, 2 * m_writer->timeout()});
 }
 
 bool OdbcWaitingWriter::isWritable(int column) const

@@ -13,6 +13,8 @@
 #include <limits>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace KOVAVSFDataGridLib {
 
 namespace {
@@ -42,6 +44,13 @@ bool isInput(const QEvent &event)
 LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place)
     : LoadProgress(window, std::move(place), GridTexts::RecordsRead, 0)
 {
+    m_cancelHint = GridTexts::CancelOpeningHint;
+}
+
+LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place, const QString &text)
+    : LoadProgress(window, std::move(place), text, 0)
+{
+    m_cancelHint = GridTexts::CancelWaitingHint;
 }
 
 LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place, QString done, qint64 total)
@@ -49,6 +58,7 @@ LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place, QStrin
       m_place(std::move(place)),
       m_done(std::move(done)),
       m_total(total),
+      m_cancelHint(GridTexts::CancelWritingHint),
       m_modalBefore(QApplication::activeModalWidget())
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
@@ -65,13 +75,14 @@ LoadProgress::~LoadProgress()
 
 bool LoadProgress::shouldContinue(qint64 rowsDone)
 {
-    if (!m_isCancelled && !m_isLineShown && m_sinceBegin.hasExpired(patience))
+    if (!m_isLineShown && m_sinceBegin.hasExpired(patience))
         showLine();
-    if (m_isCancelled || !m_line || !m_sinceEvents.hasExpired(eventsInterval))
+    if (!m_line || !m_sinceEvents.hasExpired(eventsInterval))
         return !m_isCancelled;
     updateLine(rowsDone);
     QCoreApplication::processEvents();
-    m_isCancelled |= m_line.isNull(); // the window went away, and with it the line
+    m_isWindowGone = m_line.isNull();
+    m_isCancelled |= m_isWindowGone;
     m_sinceEvents.start();
     return !m_isCancelled;
 }
@@ -93,7 +104,7 @@ void LoadProgress::showLine()
     m_count->setTextFormat(Qt::PlainText);
     auto *cancel = new QPushButton(GridTexts::CancelOpening);
     cancel->setFocusPolicy(Qt::NoFocus); // whoever has the focus shall have it afterwards
-    cancel->setToolTip(m_total > 0 ? GridTexts::CancelWritingHint : GridTexts::CancelOpeningHint);
+    cancel->setToolTip(m_cancelHint);
     connect(cancel, &QPushButton::clicked, this, [this] { m_isCancelled = true; });
 
     auto *layout = new QHBoxLayout(m_line);
@@ -108,7 +119,11 @@ void LoadProgress::showLine()
 
 void LoadProgress::updateLine(qint64 rowsDone)
 {
-    m_count->setText(m_done.arg(rowsDone));
+    // What is being cancelled can still take a while to answer.
+    if (m_isCancelled)
+        m_count->setText(GridTexts::Cancelling);
+    else
+        m_count->setText(m_done.contains("%1"_L1) ? m_done.arg(rowsDone) : m_done);
     const qint64 value = m_total > 0 ? rowsDone * barSteps / m_total : rowsDone;
     m_bar->setValue(static_cast<int>(std::min<qint64>(value, std::numeric_limits<int>::max())));
     m_line->setGeometry(m_place()); // the window can have been resized

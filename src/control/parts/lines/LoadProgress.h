@@ -32,9 +32,13 @@ public:
     LoadProgress(QWidget &window, std::function<QRect()> place);
     // The same for work on `total` records; `done` says how many are, with %1 for the number.
     LoadProgress(QWidget &window, std::function<QRect()> place, QString done, qint64 total);
+    // The same for a wait that has no number to show.
+    LoadProgress(QWidget &window, std::function<QRect()> place, const QString &text);
     ~LoadProgress() override;
 
+    // May still be called once it has answered false: it then goes on painting.
     bool shouldContinue(qint64 rowsDone) override;
+    bool isWindowGone() const { return m_isWindowGone; }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -47,7 +51,8 @@ private:
     QWidget &m_window;
     const std::function<QRect()> m_place;
     const QString m_done;
-    const qint64 m_total;     // 0 when nobody knows
+    const qint64 m_total; // 0 when nobody knows
+    QString m_cancelHint;
     QPointer<QWidget> m_line; // null during the first half second; a child of the window
     QLabel *m_count = nullptr;
     QProgressBar *m_bar = nullptr;
@@ -56,6 +61,7 @@ private:
     QElapsedTimer m_sinceEvents;
     bool m_isLineShown = false;
     bool m_isCancelled = false;
+    bool m_isWindowGone = false;
 };
 
 } // namespace KOVAVSFDataGridLib
