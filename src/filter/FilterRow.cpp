@@ -102,7 +102,7 @@ ValueEdit *FilterRow::makeValue(const QString &accessibleName)
 {
     auto *edit = new ValueEdit(this);
     edit->setAccessibleName(accessibleName);
-    edit->setValueReader([this] { return m_context->readValues(field()); });
+    edit->setValueAsker([this, edit] { m_context->offerValues(field(), *edit); });
     connect(edit, &QLineEdit::textChanged, this, &FilterRow::onEdited);
     connect(edit, &QLineEdit::editingFinished, this, &FilterRow::onEditingFinished);
     return edit;

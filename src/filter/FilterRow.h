@@ -22,8 +22,8 @@ struct FilterRowContext
 {
     std::vector<FilterField> fields;
     Dialect dialect;
-    // The values that a field has; see ValueEdit.
-    std::function<QStringList(const FilterField &)> readValues;
+    // Shows the values that a field has in a list of the editor; see ValueEdit.
+    std::function<void(const FilterField &, ValueEdit &)> offerValues;
 };
 
 // One condition: brackets, field, operator, values, and how it goes on with the next one.

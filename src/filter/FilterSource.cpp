@@ -33,12 +33,14 @@ void FilterSource::setConnection(std::shared_ptr<ADODB::Connection> connection)
 {
     m_connection = std::move(connection);
     m_connectionString = m_connection ? m_connection->ConnectionString() : QString();
+    m_isShared = m_connection != nullptr;
 }
 
 void FilterSource::setConnectionString(const QString &text)
 {
     m_connection.reset();
     m_connectionString = text;
+    m_isShared = false;
 }
 
 void FilterSource::setTable(const QString &fromText)
@@ -163,6 +165,20 @@ QStringList FilterSource::readValues(const FilterField &field)
             texts.append(text);
     }
     return texts;
+}
+
+std::optional<ValueRequest> FilterSource::valueRequest(const FilterField &field, int most)
+{
+    if (m_isShared)
+        return {};
+    constexpr int recordsOfSample = 10000;
+    return ValueRequest{
+        .connection = connection(),
+        .values = m_prefix + FilterSql::distinctValues(dialect(), field.written, m_fromText, most + 1),
+        .count = m_prefix + FilterSql::countOfDistinctValues(field.written, m_fromText),
+        .sample =
+            m_prefix + FilterSql::sampleOfValues(dialect(), field.written, m_fromText, most, recordsOfSample),
+        .most = most};
 }
 
 void FilterSource::check(const QString &condition)

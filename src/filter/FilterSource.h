@@ -1,6 +1,7 @@
 #pragma once
 
 #include "filter/FilterCondition.h"
+#include "filter/ValueReading.h"
 #include "query/derivation/Derivation.h"
 
 #include <memory>
@@ -41,6 +42,9 @@ public:
     std::vector<FilterField> readFields();
     // At most mostValues values that the field has, in order.
     QStringList readValues(const FilterField &field);
+    // The same for a thread of its own: how at most `most` values are read. Until they are, nothing else may
+    // be asked of this object. Nothing for a connection that is shared, or a host's own way to connect.
+    std::optional<ValueRequest> valueRequest(const FilterField &field, int most);
     // Lets the database look at a condition without running it.
     void check(const QString &condition);
 
@@ -56,6 +60,7 @@ private:
     QString m_fromText;
     QList<OfferedField> m_offered; // of a result; empty for a table
     bool m_escapesByBackslash = false;
+    bool m_isShared = false;
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -12,6 +12,23 @@ QString distinctValues(const Dialect &dialect, const QString &field, const QStri
            " IS NOT NULL ORDER BY "_L1 + field + u' ' + rowLimit(dialect, count);
 }
 
+QString countOfDistinctValues(const QString &field, const QString &table)
+{
+    return u"SELECT COUNT(DISTINCT "_s + field + ") FROM "_L1 + table;
+}
+
+QString sampleOfValues(const Dialect &dialect, const QString &field, const QString &table, int count,
+                       int records)
+{
+    // SQL Server takes OFFSET only after a sort.
+    const bool needsOrder = rowLimit(dialect, 1).contains("OFFSET"_L1) && dialect.database == dbSQLServer;
+    const QString order = needsOrder ? u" ORDER BY (SELECT NULL)"_s : QString();
+    const QString first = u"SELECT "_s + field + " AS kova_value FROM "_L1 + table + " WHERE "_L1 + field +
+                          " IS NOT NULL"_L1 + order + u' ' + rowLimit(dialect, records);
+    return u"SELECT DISTINCT kova_value FROM ("_s + first + ") kova_first ORDER BY kova_value"_L1 +
+           u' ' + rowLimit(dialect, count);
+}
+
 QString join(const QList<Term> &terms)
 {
     QString text;

@@ -11,6 +11,13 @@ namespace KOVAVSFDataGridLib::FilterSql {
 // At most `count` different values of a field, in order, without Null.
 QString distinctValues(const Dialect &dialect, const QString &field, const QString &table, int count);
 
+// How many there are, without Null.
+QString countOfDistinctValues(const QString &field, const QString &table);
+
+// At most `count` different values of the first `records` records that have one. Quick, as it sorts few.
+QString sampleOfValues(const Dialect &dialect, const QString &field, const QString &table, int count,
+                       int records);
+
 // One condition of several.
 struct Term
 {

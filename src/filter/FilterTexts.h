@@ -25,6 +25,7 @@ inline const QString And = u"并且"_s;
 inline const QString Or = u"或者"_s;
 inline const QString DeleteRow = u"删除这个条件"_s;
 inline const QString PickValue = u"从列表中选择（Alt+↓）"_s;
+inline const QString PickValueOfDays = u"从列表中选择（Shift+F4）"_s;
 inline const QString PickDate = u"选择日期（Alt+↓）"_s;
 inline const QString Yes = u"是"_s;
 inline const QString No = u"否"_s;
@@ -60,6 +61,11 @@ inline const QString NoOrderBy = u"条件语句中不能出现“ORDER BY”。"
 inline const QString CorrectRows = u"请先改正标出的条件。"_s;
 inline const QString FieldsUnreadable = u"无法读取字段：%1"_s;
 inline const QString ValuesUnreadable = u"无法读取已有的值：%1"_s;
+inline const QString ReadingValues = u"正在读取…（Esc 取消）"_s;
+inline const QString MoreValues = u"更多…"_s;
+inline const QString MoreValuesLeft = u"更多…（还有 %1 个）"_s;
+inline const QString ValuesTooSlow = u"%1 秒内没有读完已有的值，请直接输入。"_s;
+inline const QString ValuesOfSample = u"%1 秒内没有读完已有的值，只列出前面一部分记录中的值。"_s;
 inline const QString NoValues = u"该字段没有已有的值。"_s;
 
 // The dialog

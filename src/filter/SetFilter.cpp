@@ -3,6 +3,7 @@
 #include "ado/Error.h"
 #include "filter/FilterRows.h"
 #include "filter/FilterTexts.h"
+#include "filter/ValueEdit.h"
 #include "forms/widgets/FlatCmd.h"
 #include "query/derivation/SqlText.h"
 
@@ -15,6 +16,8 @@
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QVBoxLayout>
+
+#include <utility>
 
 namespace KOVAVSFDataGridLib {
 
@@ -129,6 +132,7 @@ void SetFilter::readFields()
 {
     auto context = std::make_shared<FilterRowContext>();
     QString fault;
+    stopReading();
     m_knownValues.clear();
     try {
         const WaitCursor waiting;
@@ -138,7 +142,9 @@ void SetFilter::readFields()
     }
     m_hasFields = !context->fields.empty();
     context->dialect = m_source.dialect();
-    context->readValues = [this](const FilterField &field) { return valuesOf(field); };
+    context->offerValues = [this](const FilterField &field, ValueEdit &edit) {
+        offerValues(field, edit, FilterSource::mostValues);
+    };
     m_rows->start(std::move(context));
     enableParts();
     if (m_hasFields)
@@ -148,20 +154,77 @@ void SetFilter::readFields()
     show(fault);
 }
 
-QStringList SetFilter::valuesOf(const FilterField &field)
+void SetFilter::offerValues(const FilterField &field, ValueEdit &edit, int most)
 {
-    if (const auto known = m_knownValues.constFind(field.written); known != m_knownValues.constEnd())
-        return *known;
+    constexpr int patience = 100; // milliseconds before the list says that it is being read
+    constexpr int growth = 10;
+    stopReading();
+    disconnect(&edit, nullptr, this, nullptr);
+    connect(&edit, &ValueEdit::listClosed, this, &SetFilter::stopReading);
+    connect(&edit, &ValueEdit::moreWanted, this,
+            [this, field, &edit, most] { offerValues(field, edit, most * growth); });
+    const auto known = m_knownValues.constFind(field.written);
+    if (known != m_knownValues.constEnd() && (!known->hasMore || known->values.size() >= most))
+        return edit.showValues(*known);
+    try {
+        auto request = m_source.valueRequest(field, most);
+        if (!request)
+            return readValuesHere(field, edit);
+        m_reading = std::make_unique<ValueReading>(std::move(*request));
+    } catch (const ADODB::Error &error) {
+        return show(FilterTexts::ValuesUnreadable.arg(error.Description()));
+    }
+    m_readingFor = &edit;
+    m_shownValues.reset();
+    m_readingOf = field;
+    connect(m_reading.get(), &ValueReading::arrived, this, &SetFilter::onValuesArrived);
+    if (m_reading->waitForValues(patience))
+        onValuesArrived();
+    else
+        edit.showReading();
+}
+
+// Through a connection that the control uses as well.
+void SetFilter::readValuesHere(const FilterField &field, ValueEdit &edit)
+{
+    const QPointer<SetFilter> alive(this);
+    const QPointer<ValueEdit> asked(&edit);
     try {
         const WaitCursor waiting;
-        const QStringList values = m_source.readValues(field);
-        show(values.isEmpty() ? FilterTexts::NoValues : QString());
+        const OfferedValues values{.values = m_source.readValues(field)};
+        if (!alive || !asked)
+            return;
+        show(values.values.isEmpty() ? FilterTexts::NoValues : QString());
         m_knownValues.insert(field.written, values);
-        return values;
+        edit.showValues(values);
     } catch (const ADODB::Error &error) {
-        show(FilterTexts::ValuesUnreadable.arg(error.Description()));
-        return {};
+        if (alive)
+            show(FilterTexts::ValuesUnreadable.arg(error.Description()));
     }
+}
+
+void SetFilter::onValuesArrived()
+{
+    if (!m_reading)
+        return;
+    const OfferedValues values = m_reading->values();
+    const QString failure = m_reading->failure();
+    if (failure.isEmpty() && values.note.isEmpty())
+        m_knownValues.insert(m_readingOf.written, values);
+    if (!failure.isEmpty())
+        show(FilterTexts::ValuesUnreadable.arg(failure));
+    else if (!values.note.isEmpty() || values.values.isEmpty())
+        show(values.note.isEmpty() ? FilterTexts::NoValues : values.note);
+    else
+        show({});
+    // A list that the user moves in is not filled again with the same.
+    if (m_readingFor && std::exchange(m_shownValues, values) != values)
+        m_readingFor->showValues(values);
+}
+
+void SetFilter::stopReading()
+{
+    m_reading.reset();
 }
 
 void SetFilter::addRow()
@@ -247,6 +310,7 @@ QString SetFilter::conditionByHand()
     const QString text = typed.contains(looseWord) ? enclosed : typed;
     if (!m_source.hasTable())
         return text;
+    stopReading();
     try {
         const WaitCursor waiting;
         // Its brackets match by themselves, and nothing stands behind it that is no condition.

@@ -3,6 +3,7 @@
 #include "filter/FilterSource.h"
 
 #include <QtCore/QHash>
+#include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
 class QLabel;
@@ -13,6 +14,7 @@ class QScrollArea;
 namespace KOVAVSFDataGridLib {
 
 class FilterRows;
+class ValueEdit;
 
 // Builds a condition for the rows of a table. Prepare it in this order: Initialize, one of SetConnection and
 // SetConnectionString, SetCurrentTable, SetTableName; ConditionText() then answers what was built.
@@ -55,11 +57,19 @@ private:
     void setByHand(bool isByHand);
     void enableParts();
     QString conditionByHand();
-    QStringList valuesOf(const FilterField &field);
+    // Values that were read once are shown again without asking the database.
+    void offerValues(const FilterField &field, ValueEdit &edit, int most);
+    void readValuesHere(const FilterField &field, ValueEdit &edit);
+    void onValuesArrived();
+    void stopReading();
     void show(const QString &notice);
 
     FilterSource m_source;
-    QHash<QString, QStringList> m_knownValues; // by the field as written
+    QHash<QString, OfferedValues> m_knownValues; // by the field as written
+    std::unique_ptr<ValueReading> m_reading;     // that is under way, and what for
+    QPointer<ValueEdit> m_readingFor;
+    FilterField m_readingOf;
+    std::optional<OfferedValues> m_shownValues;
     QString m_caption;
     QLabel *m_table;
     QScrollArea *m_scroll;

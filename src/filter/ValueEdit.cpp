@@ -4,6 +4,7 @@
 #include "filter/FilterValue.h"
 
 #include <QtCore/QRegularExpression>
+#include <QtCore/QScopedValueRollback>
 #include <QtCore/QStringListModel>
 #include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
@@ -42,6 +43,26 @@ QIcon arrow(const QPalette &palette)
     return icon;
 }
 
+// Lines of text, to tell it from the arrow that opens a calendar.
+QPixmap lines(const QColor &colour)
+{
+    QPixmap picture(32, 32);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setPen(QPen(colour, 3, Qt::SolidLine, Qt::RoundCap));
+    for (const int y : {10, 16, 22})
+        painter.drawLine(8, y, 24, y);
+    return picture;
+}
+
+QIcon lines(const QPalette &palette)
+{
+    QIcon icon;
+    icon.addPixmap(lines(palette.color(QPalette::Active, QPalette::Text)), QIcon::Normal);
+    icon.addPixmap(lines(palette.color(QPalette::Disabled, QPalette::Text)), QIcon::Disabled);
+    return icon;
+}
+
 QString hintFor(FieldClass fieldClass)
 {
     switch (fieldClass) {
@@ -77,9 +98,15 @@ void usePlainArrows(const QCalendarWidget &calendar)
 } // namespace
 
 ValueEdit::ValueEdit(QWidget *parent)
-    : QLineEdit(parent), m_offer(addAction(arrow(palette()), QLineEdit::TrailingPosition))
+    : QLineEdit(parent),
+      m_offer(addAction(arrow(palette()), QLineEdit::TrailingPosition)),
+      m_offerValues(addAction(lines(palette()), QLineEdit::TrailingPosition))
 {
     m_offer->setObjectName(u"actOffer"_s);
+    m_offerValues->setObjectName(u"actValues"_s);
+    m_offerValues->setText(FilterTexts::PickValueOfDays); // its name
+    m_offerValues->setToolTip(FilterTexts::PickValueOfDays);
+    connect(m_offerValues, &QAction::triggered, this, &ValueEdit::offerValues);
     connect(m_offer, &QAction::triggered, this, &ValueEdit::offer);
     setKind(FieldClass::Text, false);
 }
@@ -89,8 +116,10 @@ void ValueEdit::setKind(FieldClass fieldClass, bool isList)
     m_fieldClass = fieldClass;
     m_isList = isList;
     setPlaceholderText(isList ? FilterTexts::ListHint : hintFor(fieldClass));
+    const bool hasValues = m_askForValues && fieldClass != FieldClass::Other;
     m_offer->setVisible(hasDays(fieldClass) || fieldClass == FieldClass::Text ||
-                        fieldClass == FieldClass::Boolean);
+                        fieldClass == FieldClass::Boolean || hasValues);
+    m_offerValues->setVisible(hasValues && hasDays(fieldClass));
     m_offer->setText(hasDays(fieldClass) ? FilterTexts::PickDate : FilterTexts::PickValue); // its name
     m_offer->setToolTip(m_offer->text());
 }
@@ -112,15 +141,20 @@ void ValueEdit::setMarked(bool isMarked)
 
 void ValueEdit::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::PaletteChange)
+    if (event->type() == QEvent::PaletteChange) {
         m_offer->setIcon(arrow(palette()));
+        m_offerValues->setIcon(lines(palette()));
+    }
     QLineEdit::changeEvent(event);
 }
 
 void ValueEdit::keyPressEvent(QKeyEvent *event)
 {
     const bool isAltDown = event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier);
-    if ((isAltDown || event->key() == Qt::Key_F4) && m_offer->isVisible())
+    const bool isShifted = event->modifiers().testFlag(Qt::ShiftModifier);
+    if (event->key() == Qt::Key_F4 && isShifted && m_offerValues->isVisible())
+        offerValues();
+    else if ((isAltDown || event->key() == Qt::Key_F4) && m_offer->isVisible())
         offer();
     else
         QLineEdit::keyPressEvent(event);
@@ -132,25 +166,95 @@ void ValueEdit::offer()
         offerCalendar();
     else if (m_fieldClass == FieldClass::Boolean)
         offerList({FilterTexts::Yes, FilterTexts::No});
-    else if (m_readValues)
-        offerList(m_readValues());
+    else
+        offerValues();
 }
 
-void ValueEdit::offerList(const QStringList &values)
+void ValueEdit::offerValues()
 {
-    if (values.isEmpty())
+    if (m_readValues)
+        return offerList(m_readValues());
+    if (!m_askForValues)
         return;
-    if (!m_list) {
-        m_list = new QCompleter(this);
-        m_list->setWidget(this);
-        m_list->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
-        m_list->setMaxVisibleItems(12);
-        m_list->popup()->setObjectName(u"lstValues"_s);
-        connect(m_list, qOverload<const QString &>(&QCompleter::activated), this, &ValueEdit::take);
+    m_isAsking = true;
+    m_askForValues();
+}
+
+void ValueEdit::makeList()
+{
+    m_list = new QCompleter(this);
+    m_list->setWidget(this);
+    m_list->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+    m_list->setMaxVisibleItems(12);
+    m_list->popup()->setObjectName(u"lstValues"_s);
+    m_list->popup()->installEventFilter(this);
+    connect(m_list, qOverload<const QModelIndex &>(&QCompleter::activated), this,
+            [this](const QModelIndex &picked) { pick(picked.row()); });
+}
+
+// `end` comes after the values and is none itself.
+void ValueEdit::offerList(const QStringList &values, const QString &end)
+{
+    QStringList entries = values;
+    if (!end.isEmpty())
+        entries.append(end);
+    if (entries.isEmpty())
+        return;
+    if (!m_list)
+        makeList();
+    m_listed = values.size();
+    {
+        const QScopedValueRollback<bool> refilling(m_isRefilling, true);
+        const int current = m_list->popup()->isVisible() ? m_list->popup()->currentIndex().row() : -1;
+        m_list->setModel(new QStringListModel(entries, m_list));
+        setFocus();
+        m_list->complete();
+        if (current >= 0) // a list that only grows
+            m_list->popup()->setCurrentIndex(m_list->completionModel()->index(current, 0));
     }
-    m_list->setModel(new QStringListModel(values, m_list));
-    setFocus();
-    m_list->complete();
+}
+
+void ValueEdit::showReading()
+{
+    if (m_isAsking)
+        offerList({}, FilterTexts::ReadingValues);
+}
+
+void ValueEdit::showValues(const OfferedValues &values)
+{
+    if (!m_isAsking)
+        return;
+    QString end;
+    if (values.hasMore)
+        end = values.left > 0 ? FilterTexts::MoreValuesLeft.arg(values.left) : FilterTexts::MoreValues;
+    if (values.values.isEmpty() && m_list)
+        m_list->popup()->hide();
+    offerList(values.values, end);
+}
+
+void ValueEdit::pick(int row)
+{
+    if (row < m_listed) {
+        take(m_list->model()->index(row, 0).data().toString());
+    } else if (m_listed > 0) {
+        // Later, because the list is about to close.
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                m_isAsking = true;
+                Q_EMIT moreWanted();
+            },
+            Qt::QueuedConnection);
+    }
+}
+
+bool ValueEdit::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Hide && !m_isRefilling && m_isAsking) {
+        m_isAsking = false;
+        Q_EMIT listClosed();
+    }
+    return QLineEdit::eventFilter(watched, event);
 }
 
 void ValueEdit::take(const QString &picked)

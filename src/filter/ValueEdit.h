@@ -1,6 +1,7 @@
 #pragma once
 
 #include "filter/FieldClass.h"
+#include "filter/ValueReading.h"
 
 #include <QtWidgets/QLineEdit>
 
@@ -22,27 +23,47 @@ public:
 
     // Called each time a list is opened; an empty answer opens none.
     void setValueReader(std::function<QStringList()> reader) { m_readValues = std::move(reader); }
+    // The same for values that take a while, of every kind of field: what is asked answers by showValues(),
+    // at once or later, and by showReading() meanwhile. Days have a second button for them, and Shift+F4.
+    void setValueAsker(std::function<void()> asker) { m_askForValues = std::move(asker); }
+    void showReading();
+    // Does nothing once the list was closed.
+    void showValues(const OfferedValues &values);
     // `isList` for several values with commas between them: what is picked is then added.
     void setKind(FieldClass fieldClass, bool isList);
     // Shows that something is wrong with the value.
     void setMarked(bool isMarked);
 
+Q_SIGNALS:
+    // The entry for more values was picked; they are shown by showValues().
+    void moreWanted();
+    void listClosed();
+
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void offer();
-    void offerList(const QStringList &values);
+    void offerValues();
+    void offerList(const QStringList &values, const QString &end = {});
+    void makeList();
+    void pick(int row);
     void offerCalendar();
     QPoint placeOf(QSize popup) const;
     void take(const QString &picked);
     void setDay(QDate day);
 
     std::function<QStringList()> m_readValues;
+    std::function<void()> m_askForValues;
+    bool m_isAsking = false;    // from the question until the list is closed
+    bool m_isRefilling = false; // the list closes for a moment
+    qsizetype m_listed = 0;     // values in the list; what comes after them is no value
     FieldClass m_fieldClass = FieldClass::Text;
     bool m_isList = false;
     QAction *m_offer;
+    QAction *m_offerValues;
     QCompleter *m_list = nullptr;
     QCalendarWidget *m_calendar = nullptr;
 };

@@ -8,6 +8,7 @@
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QToolBar>
@@ -216,6 +217,41 @@ TEST_P(FrozenServer, LetsTheUserCancelTheCheckOfACondition)
     EXPECT_EQ(notice, cancelled);
     EXPECT_EQ(hands->rows(), 10);
     EXPECT_EQ(takeMessages(), QStringList());
+}
+
+// They are read in a thread of their own, so the dialog does not even wait.
+TEST_P(FrozenServer, LetsTheUserCancelAListOfValues)
+{
+    ASSERT_TRUE(loadKept());
+    WindowAnswers dialogs({[&](QDialog &dialog) {
+        part<QComboBox>(dialog, "cmbField1").setCurrentText(u"price"_s);
+        auto &value = part<QLineEdit>(dialog, "txtValue1");
+        Paintings paintings(dialog);
+        const auto open = [&] { QTest::keyClick(&value, Qt::Key_F4); };
+        const auto listed = [] {
+            const auto *list = qobject_cast<QAbstractItemView *>(QApplication::activePopupWidget());
+            return list ? list->model()->index(0, 0).data().toString() : QString();
+        };
+        freeze();
+        open();
+        EXPECT_EQ(listed(), u"正在读取…（Esc 取消）"_s);
+        const int before = paintings.count();
+        dialog.update();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return paintings.count() > before; }));
+        QElapsedTimer sinceEscape;
+        sinceEscape.start();
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        EXPECT_LT(sinceEscape.elapsed(), 3000) << "the rest is for a machine that is busy with other things";
+        EXPECT_TRUE(dialog.isVisible());
+        thaw();
+        open();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return listed() == u"1.00"_s; })) << qUtf8Printable(listed());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        dialog.reject();
+    }});
+    hands->click(u"Filter"_s);
+    EXPECT_EQ(takeMessages(), QStringList());
+    expectKept();
 }
 
 TEST_P(FrozenServer, LetsTheUserCancelAnEdit)

@@ -1,6 +1,9 @@
 // The lists and the calendar from which the filter builder lets values be picked.
 #include "BuilderFixture.h"
 
+#include "ado/Connection.h"
+#include "filter/ValueReading.h"
+
 #include <QtGui/QAction>
 #include <QtGui/QScreen>
 #include <QtWidgets/QCalendarWidget>
@@ -12,7 +15,27 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using PickedValues = BuilderFixture;
+struct PickedValues : BuilderFixture
+{
+    // What the open list offers.
+    static QStringList listed()
+    {
+        const auto *list = qobject_cast<QListView *>(QApplication::activePopupWidget());
+        QStringList offered;
+        for (int row = 0; list && row < list->model()->rowCount(); ++row)
+            offered.append(list->model()->index(row, 0).data().toString());
+        return offered;
+    }
+    // Makes a view the builder's table, whose values never come to an end.
+    void offerEndlessValues()
+    {
+        database.run(u"CREATE VIEW 无尽 AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n)"
+                     " SELECT CAST(i AS TEXT) AS 值 FROM n"_s);
+        builder->SetCurrentTable(u"无尽"_s);
+        builder->SetTableName(u"无尽"_s);
+        choose("cmbField1", u"值"_s);
+    }
+};
 
 } // namespace
 
@@ -118,9 +141,87 @@ TEST_F(PickedValues, TheCalendarStaysOnTheScreen)
     }
 }
 
-TEST_F(PickedValues, NumbersHaveNoListToOpen)
+TEST_F(PickedValues, NumbersAndDaysHaveAListAsWell)
 {
     choose("cmbField1", u"金额"_s);
     QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+    EXPECT_EQ(listed(), (QStringList{u"5"_s, u"6"_s, u"7"_s}));
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    EXPECT_EQ(answer(), "金额 = 5");
+    choose("cmbField1", u"下单日期"_s);
+    QTest::keyClick(&text("txtValue1"), Qt::Key_F4, Qt::ShiftModifier);
+    EXPECT_EQ(listed(), QStringList(u"2024-01-05"_s));
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    EXPECT_EQ(text("txtValue1").text(), u"2024-01-05"_s);
+}
+
+TEST_F(PickedValues, MoreThanTwoHundredAreLeftToALastEntryThatTellsTheirNumber)
+{
+    database.run(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 2345)"
+                 " INSERT INTO 订单 (编号, 城市) SELECT i, printf('城%05d', i) FROM n"_s);
+    choose("cmbField1", u"城市"_s);
+    QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return listed().value(200) == u"更多…（还有 2147 个）"_s; }))
+        << qUtf8Printable(listed().value(200));
+    EXPECT_EQ(listed().size(), 201);
+    const auto pickLast = [&] {
+        auto *list = qobject_cast<QListView *>(QApplication::activePopupWidget());
+        ASSERT_NE(list, nullptr);
+        list->setCurrentIndex(list->model()->index(list->model()->rowCount() - 1, 0));
+        QTest::keyClick(list, Qt::Key_Return);
+    };
+    pickLast();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return listed().value(2000) == u"更多…（还有 347 个）"_s; }));
+    EXPECT_EQ(text("txtValue1").text(), QString()) << "it is no value";
+    pickLast();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return listed().size() == 2347; })) << listed().size();
+    pickLast();
+    EXPECT_EQ(text("txtValue1").text(), u"城02345"_s);
+}
+
+TEST_F(PickedValues, AListThatTakesLongSaysSoAndCanBeCancelled)
+{
+    offerEndlessValues();
+    type("txtValue1", u"京"_s);
+    QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+    ASSERT_EQ(listed(), QStringList(u"正在读取…（Esc 取消）"_s));
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(text("txtValue1").text(), u"京"_s);
+    QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+    EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+    dialog.close(); // ends the reading too
+}
+
+// A field that never comes to an end, read with a short limit.
+TEST(ValueReading, EndsAtItsLimitWithTheValuesOfSomeRecordsAndANote)
+{
+    const TestDatabase database(u"CREATE TABLE T (V TEXT)"_s);
+    auto connection = std::make_shared<ADODB::Connection>();
+    connection->Open(database.connectionString());
+    const QString endless =
+        u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT max(i) FROM n"_s;
+    for (const bool hasSample : {true, false}) {
+        KOVAVSFDataGridLib::ValueReading reading({connection, endless, endless,
+                                                  hasSample ? u"SELECT 'a' UNION SELECT 'b'"_s : endless, 200,
+                                                  1000});
+        ASSERT_TRUE(reading.waitForValues(60000));
+        EXPECT_EQ(reading.values().values, hasSample ? QStringList({u"a"_s, u"b"_s}) : QStringList());
+        EXPECT_EQ(reading.values().note, hasSample ? u"1 秒内没有读完已有的值，只列出前面一部分记录中的值。"_s
+                                                   : u"1 秒内没有读完已有的值，请直接输入。"_s);
+        EXPECT_EQ(reading.failure(), QString());
+    }
+}
+
+TEST(ValueReading, TellsWhyNothingCanBeRead)
+{
+    const TestDatabase database(u"CREATE TABLE T (V TEXT)"_s);
+    auto connection = std::make_shared<ADODB::Connection>();
+    connection->Open(database.connectionString());
+    KOVAVSFDataGridLib::ValueReading reading({connection, u"SELECT X FROM T"_s, {}, {}, 200});
+    ASSERT_TRUE(reading.waitForValues(60000));
+    EXPECT_TRUE(reading.failure().contains(u"X"_s)) << qUtf8Printable(reading.failure());
 }
