@@ -250,6 +250,7 @@ private:
     Reading readResult(const QString &statement, qint32 dbType, std::optional<ResultSet::Opened> &opened,
                        QString *refusal = nullptr);
     ResultSet::Opened openStatement(const QString &statement, qint32 dbType);
+    Reading noteCancelled();
     void reportOpenError(const QString &description);
     void showLoaded(const ResultSet::Opened &opened, const QString &statement,
                     std::unique_ptr<clsFilterManagement> manager);

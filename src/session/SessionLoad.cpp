@@ -62,6 +62,8 @@ bool Session::load()
     Reading reading = Reading::Failed;
     if (statement)
         reading = readResult(*statement, shared.dbType, opened);
+    else if (m_reader.isCancelled())
+        reading = noteCancelled();
     else
         reportOpenError(m_reader.Failure());
     switch (reading) {

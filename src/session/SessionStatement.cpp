@@ -25,7 +25,9 @@ ResultSet::Opened Session::openStatement(const QString &statement, qint32 dbType
     const QScopedValueRollback<bool> opening(shared.isOpening, true);
     const auto progress = m_window->beginOpening();
     const auto shouldContinue = [&](qint64 rowsRead) {
-        m_isCancelled = m_isCancelled || (progress && !progress->shouldContinue(rowsRead));
+        // Asked after a cancel as well, so that windows are painted until the server has answered it.
+        const bool isWanted = !progress || progress->shouldContinue(rowsRead);
+        m_isCancelled |= !isWanted;
         return !m_isDetached && !m_isCancelled;
     };
     return m_opener ? m_opener(statement, shouldContinue)
@@ -53,9 +55,17 @@ Session::Reading Session::readResult(const QString &statement, qint32 dbType,
         *refusal = failure;
     else if (!m_isCancelled)
         reportOpenError(failure);
-    else if (!m_isDetached)
-        m_window->showNote(SessionMessages::OpeningCancelled);
+    else
+        return noteCancelled();
     return m_isCancelled ? Reading::Cancelled : Reading::Failed;
+}
+
+// The user knows what he did.
+Session::Reading Session::noteCancelled()
+{
+    if (!m_isDetached)
+        m_window->showNote(SessionMessages::OpeningCancelled);
+    return Reading::Cancelled;
 }
 
 void Session::reportOpenError(const QString &description)

@@ -144,7 +144,7 @@ TEST_P(FrozenServer, LetsTheUserCancelALoadInItsSession)
 {
     ASSERT_TRUE(load());
     cancelWhileFrozen([this] { EXPECT_FALSE(load()); });
-    EXPECT_EQ(loadError(), cancelled);
+    EXPECT_EQ(takeMessages(), QStringList()) << "the user knows what he did";
     expectAsLoaded();
     thaw();
     EXPECT_TRUE(load());
@@ -154,7 +154,7 @@ TEST_P(FrozenServer, LetsTheUserCancelALoadInItsSession)
 TEST_P(FrozenServer, LetsTheUserCancelWhileItConnects)
 {
     cancelWhileFrozen([this] { EXPECT_FALSE(load()); });
-    EXPECT_EQ(loadError(), cancelled);
+    EXPECT_EQ(takeMessages(), QStringList()) << "the user knows what he did";
     thaw();
     EXPECT_TRUE(load());
     expectAsLoaded();
@@ -165,9 +165,7 @@ TEST_P(FrozenServer, LetsTheUserCancelASort)
     ASSERT_TRUE(loadKept());
     WindowAnswers dialogs({[](QDialog &dialog) { Hands::sort(dialog, {u"name"_s}); }});
     cancelWhileFrozen([this] { hands->click(u"Sort"_s); });
-    const QStringList texts = takeMessages();
-    ASSERT_EQ(texts.size(), 1);
-    EXPECT_TRUE(texts.front().endsWith(cancelled)) << qUtf8Printable(texts.front());
+    EXPECT_EQ(takeMessages(), QStringList());
     expectKept();
     thaw();
     hands->click(u"ToFullTable"_s);
@@ -181,7 +179,7 @@ TEST_P(FrozenServer, LetsTheUserCancelAQuestionAboutTheCatalogue)
     hands->grid.PutConnectionString(engine.oracleConnection());
     hands->grid.PutDBType(KOVAVSFDataGrid::dbOracle);
     cancelWhileFrozen([this] { EXPECT_FALSE(loadKept()); });
-    EXPECT_EQ(loadError(), cancelled);
+    EXPECT_EQ(takeMessages(), QStringList()) << "the user knows what he did";
     expectKept();
     thaw();
     EXPECT_TRUE(loadKept());

@@ -50,6 +50,9 @@ public:
         ConnectionFieldReader &m_reader;
     };
 
+    // Whether that is so.
+    bool isCancelled() const { return m_isCancelled; }
+
     // Closes its own connection and forgets all names, since the tables may have changed.
     void forget();
 
