@@ -44,6 +44,7 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         engine.lockRow = u" FOR UPDATE"_s;
         engine.rowVersion = u"xmin"_s;
         engine.returning = true;
+        engine.onlyTablesHaveKeys = true;
         engine.asksAgain = engine.bendsDates =
             connection.info(SQL_DRIVER_NAME).contains("psqlodbc"_L1, Qt::CaseInsensitive);
         break;
@@ -54,6 +55,7 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         engine.endReading = u"ROLLBACK"_s;
         engine.lockRow = u" FOR UPDATE"_s;
         engine.hasOldTables = true;
+        engine.onlyTablesHaveKeys = true;
         engine.reportsLossAtOnce = false;
         engine.newKey = u"SELECT LAST_INSERT_ID()"_s;
         break;

@@ -51,6 +51,8 @@ struct OdbcEngine
     // Within a block of rows, the driver gives single values once more and then fetches on where it was. Some
     // claim that and lose rows instead, so only those count that were tried.
     bool asksAgain = false;
+    // The catalogue names no key of anything but a table.
+    bool onlyTablesHaveKeys = false;
     // The driver reports a loss that it knows of without asking the server.
     bool reportsLossAtOnce = true;
     // The driver turns dates that it can't hold (infinity, before Christ) into others.

@@ -244,9 +244,13 @@ OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, con
     }
     const Name name = fullName(probe, *connection, select, fields);
     // Some drivers name what is behind a view.
-    const QString type = tableType(connection, name);
+    // Each question is a way to the server and back, so one that a key has answered is not asked.
+    table.key = primaryKey(connection, name);
+    const bool isTable = engine.onlyTablesHaveKeys && !table.key.isEmpty();
+    const QString type = isTable ? u"TABLE"_s : tableType(connection, name);
     if (name.table.compare(select.table, Qt::CaseInsensitive) != 0 || type.isEmpty()) {
         table.whyReadOnly = Texts::readOnlyView().arg(select.table);
+        table.key.clear();
         return table;
     }
     for (const FieldInfo &field : fields) {
@@ -257,7 +261,6 @@ OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, con
     table.isOrdinary = type.compare("TABLE"_L1, Qt::CaseInsensitive) == 0;
     table.hasTransactions = !engine.hasOldTables || isTransactional(connection, name);
     table.givesOrigins = !fields.front().baseColumn.isEmpty();
-    table.key = primaryKey(connection, name);
     if (table.key.isEmpty())
         table.key = uniqueIndex(connection, name, neverNull(connection, name));
     return table;
