@@ -25,8 +25,8 @@ QString sampleOfValues(const Dialect &dialect, const QString &field, const QStri
     const QString order = needsOrder ? u" ORDER BY (SELECT NULL)"_s : QString();
     const QString first = u"SELECT "_s + field + " AS kova_value FROM "_L1 + table + " WHERE "_L1 + field +
                           " IS NOT NULL"_L1 + order + u' ' + rowLimit(dialect, records);
-    return u"SELECT DISTINCT kova_value FROM ("_s + first + ") kova_first ORDER BY kova_value"_L1 +
-           u' ' + rowLimit(dialect, count);
+    return u"SELECT DISTINCT kova_value FROM ("_s + first + ") kova_first ORDER BY kova_value"_L1 + u' ' +
+           rowLimit(dialect, count);
 }
 
 QString join(const QList<Term> &terms)
