@@ -2,6 +2,7 @@
 
 #include "grid/HeadingMark.h"
 #include "grid/cells/CellSource.h"
+#include "grid/painting/TextMarks.h"
 
 #include "ado/values/DisplayFormat.h"
 
@@ -96,6 +97,8 @@ public:
     void PutColFormat(int col, const ADODB::DisplayFormat &format);
     void ResetColFormats();
 
+    // Marks parts of the texts that are shown; null marks nothing.
+    void PutTextMarker(TextMarker marker);
     // What the headings show beside their texts, by column.
     void PutHeadingMarks(const std::vector<HeadingMark> &marks);
     // Whether a heading offers its column's menu when the mouse is over it.

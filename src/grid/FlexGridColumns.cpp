@@ -103,4 +103,10 @@ void FlexGrid::onSectionResized(int section, int size)
     Q_EMIT ColWidthChanged(col, twips);
 }
 
+void FlexGrid::PutTextMarker(TextMarker marker)
+{
+    m_model->setTextMarker(std::move(marker));
+    viewport()->update();
+}
+
 } // namespace KOVAVSFDataGridLib

@@ -33,11 +33,13 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
       pressedPart(parts),
       closeGuard(control, *session),
       selection(*session, parts),
+      finder(*session, *parts.vsfgDataGrid, *parts.find),
       layout(*session, *parts.vsfgDataGrid)
 {
     window.setSession(*session);
     window.setSingleRecordView(&singleRecord);
     window.setMenu(&commands.menu());
+    window.setFinder(&finder);
     window.setFullScreen([this] {
         ShowFullScreen(q, *session, parts, [this](QWidget *viewer, const ConditionRequest &asked) {
             ConditionRequest request = session->conditionRequest();

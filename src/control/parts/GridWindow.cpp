@@ -3,6 +3,7 @@
 #include "control/parts/GridTexts.h"
 #include "control/parts/PopupMenu.h"
 #include "control/parts/toolbar/GridToolbar.h"
+#include "control/parts/ResultFinder.h"
 #include "grid/FlexGrid.h"
 #include "grid/GridSelection.h"
 #include "grid/Twips.h"
@@ -101,6 +102,8 @@ void GridWindow::arrangeColumns(const QStringList &order, int frozen)
 void GridWindow::refreshRecords()
 {
     m_grid.Refresh();
+    if (m_finder)
+        m_finder->startOver();
 }
 
 int GridWindow::Row() const
@@ -175,6 +178,14 @@ void GridWindow::refreshCommands()
     if (m_menu)
         m_menu->refresh();
     showHeadingMarks();
+    if (m_finder)
+        m_finder->markFilterWords();
+}
+
+void GridWindow::showFind()
+{
+    if (m_finder)
+        m_finder->open();
 }
 
 void GridWindow::showHeadingMarks()

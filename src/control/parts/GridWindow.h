@@ -9,6 +9,7 @@ namespace KOVAVSFDataGridLib {
 
 class GridToolbar;
 class PopupMenu;
+class ResultFinder;
 class Session;
 class VSFlexGrid;
 
@@ -48,11 +49,14 @@ public:
     void setPressed(const QString &key, bool on) override;
     void showNote(const QString &text) override;
     void refreshCommands() override;
+    void showFind() override;
 
     // What it shows; not owned. To be set before anything is shown.
     void setSession(Session &session) { m_session = &session; }
     // The menu whose items follow the commands; not owned.
     void setMenu(PopupMenu *menu) { m_menu = menu; }
+    // What looks for texts in it; not owned.
+    void setFinder(ResultFinder *finder) { m_finder = finder; }
 
 protected:
     // Shows the conditions in force in words.
@@ -62,6 +66,7 @@ protected:
     GridToolbar &m_toolbar;
     Session *m_session = nullptr;
     PopupMenu *m_menu = nullptr;
+    ResultFinder *m_finder = nullptr;
 
 private:
     void showHeadingMarks();

@@ -8,6 +8,7 @@
 #include "control/parts/PopupMenu.h"
 #include "control/parts/lines/FilterBar.h"
 #include "control/parts/toolbar/GridToolbar.h"
+#include "control/parts/ResultFinder.h"
 #include "control/viewer/ViewerTexts.h"
 #include "grid/FlexGrid.h"
 #include "session/commands/CommandKeys.h"
@@ -58,10 +59,12 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
       m_menu(new PopupMenu(*this, PopupMenu::ofViewer, *m_parts.Toolbar1, *m_session)),
       m_columnMenu(std::make_unique<ColumnMenu>(
           *this, *m_parts.Toolbar1, *m_parts.vsfgShowData, *m_session,
-          [this](const ColumnCommand &command, int col) { m_session->runOnColumn(command, col); }))
+          [this](const ColumnCommand &command, int col) { m_session->runOnColumn(command, col); })),
+      m_finder(std::make_unique<ResultFinder>(*m_session, *m_parts.vsfgShowData, *m_parts.find))
 {
     m_window.setSession(*m_session);
     m_window.setMenu(m_menu);
+    m_window.setFinder(m_finder.get());
     setObjectName(u"frm_FullScreen"_s);
     setWindowTitle(ViewerTexts::Title);
     fillScreen();

@@ -15,6 +15,7 @@ namespace KOVAVSFDataGridLib {
 
 class ColumnMenu;
 class PopupMenu;
+class ResultFinder;
 
 // What the viewer asks of the control that opened it.
 struct ViewerHost
@@ -77,6 +78,7 @@ private:
     const std::shared_ptr<Session> m_session;
     PopupMenu *m_menu;
     const std::unique_ptr<ColumnMenu> m_columnMenu;
+    const std::unique_ptr<ResultFinder> m_finder;
 };
 
 } // namespace KOVAVSFDataGridLib
