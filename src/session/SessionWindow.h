@@ -104,6 +104,8 @@ public:
     virtual void showFullScreen() {}
     // Lets the user look for a text in what is shown.
     virtual void showFind() {}
+    // Lists the statements that the user can go to.
+    virtual void showHistory() {}
     // Shows that a statement is being opened. Only one can live in a process. Null shows nothing.
     virtual std::unique_ptr<OpeningProgress> beginOpening() { return nullptr; }
     // Shows that `total` records are being written; `done` says so with %1 for the number. Only one of these

@@ -7,6 +7,8 @@
 #include "control/face/Configuration.h"
 #include "control/face/DesignMode.h"
 #include "control/parts/GridTexts.h"
+#include "control/parts/toolbar/GridToolbar.h"
+#include "control/parts/HistoryMenu.h"
 #include "control/viewer/ShowFullScreen.h"
 #include "forms/Dialog_SQLST.h"
 #include "forms/Messages.h"
@@ -40,6 +42,7 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
     window.setSingleRecordView(&singleRecord);
     window.setMenu(&commands.menu());
     window.setFinder(&finder);
+    window.setHistoryMenu(new HistoryMenu(*parts.Toolbar1, *session));
     window.setFullScreen([this] {
         ShowFullScreen(q, *session, parts, [this](QWidget *viewer, const ConditionRequest &asked) {
             ConditionRequest request = session->conditionRequest();

@@ -88,6 +88,11 @@ inline const QString FoundFromStart = u"（回到开头）"_s;
 inline const QString FoundFromEnd = u"（回到末尾）"_s;
 inline const QString FindRunning = u"正在查找… %1%"_s;
 
+// The statements to go back and forward to.
+inline const QString HistoryName = u"历史"_s;
+inline const QString HistoryNote = u"%1 条  %2"_s;
+inline const QString NoHistory = u"（没有历史）"_s;
+
 // Page box and label.
 inline const QString GoToPage = u"转到"_s;
 inline const QString GoToPageTip = u"显示这一页"_s;

@@ -1,6 +1,7 @@
 #include "control/parts/GridWindow.h"
 
 #include "control/parts/GridTexts.h"
+#include "control/parts/HistoryMenu.h"
 #include "control/parts/PopupMenu.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "control/parts/ResultFinder.h"
@@ -180,6 +181,12 @@ void GridWindow::refreshCommands()
     showHeadingMarks();
     if (m_finder)
         m_finder->markFilterWords();
+}
+
+void GridWindow::showHistory()
+{
+    if (m_history)
+        m_history->open();
 }
 
 void GridWindow::showFind()

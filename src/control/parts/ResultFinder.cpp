@@ -159,7 +159,8 @@ void ResultFinder::go(Direction direction)
     if (!recordset || m_search->count() == 0)
         return;
     const std::optional<CellSearch::Cell> current = currentCell();
-    const bool isOnFound = current && m_at && current->record == m_at->record && current->place == m_at->place;
+    const bool isOnFound =
+        current && m_at && current->record == m_at->record && current->place == m_at->place;
     const bool isNext = direction == Direction::Next;
     std::optional<CellSearch::Cell> found;
     if (current)

@@ -5,6 +5,7 @@
 #include "control/input/MenuKey.h"
 #include "control/parts/ColumnMenu.h"
 #include "control/parts/DialogQuestions.h"
+#include "control/parts/HistoryMenu.h"
 #include "control/parts/PopupMenu.h"
 #include "control/parts/lines/FilterBar.h"
 #include "control/parts/toolbar/GridToolbar.h"
@@ -65,6 +66,7 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
     m_window.setSession(*m_session);
     m_window.setMenu(m_menu);
     m_window.setFinder(m_finder.get());
+    m_window.setHistoryMenu(new HistoryMenu(*m_parts.Toolbar1, *m_session));
     setObjectName(u"frm_FullScreen"_s);
     setWindowTitle(ViewerTexts::Title);
     fillScreen();
@@ -108,6 +110,11 @@ void frm_FullScreen::fillScreen()
 void frm_FullScreen::PutFilterManager(std::shared_ptr<clsFilterManagement> manager)
 {
     m_session->setFilterManager(std::move(manager));
+}
+
+void frm_FullScreen::PutTrail(std::shared_ptr<StatementTrail> trail)
+{
+    m_session->setTrail(std::move(trail));
 }
 
 void frm_FullScreen::ClearRefObject()

@@ -41,6 +41,8 @@ public:
     ~frm_FullScreen() override;
 
     void PutFilterManager(std::shared_ptr<clsFilterManagement> manager);
+    // What the user's way through that history has left.
+    void PutTrail(std::shared_ptr<StatementTrail> trail);
     // Takes over what the control shows and shows it. Pages count from 1; `bUpdate` has no meaning. The
     // viewer opens with the row of the current record if the page has it.
     void GetData(const std::shared_ptr<ADODB::Connection> &newConnection,

@@ -250,8 +250,8 @@ void CellPainter::Frame::placeText(const QString &text, const Column &column, bo
     const qreal left = column.left + m_margin + (isAtRight ? room - m_line.width : 0);
     const int top = row.top() + row.height() / 2 - m_glyphs.height() / 2;
     if (m_model.textMarker()) {
-        const PlacedText placed{
-            shown, QRectF(left, row.top(), m_line.width, row.height()), m_option.font, isSelected};
+        const PlacedText placed{shown, QRectF(left, row.top(), m_line.width, row.height()), m_option.font,
+                                isSelected};
         paintTextMarks(m_painter, m_option.palette, placed, column.section + m_model.fixedCols(),
                        m_model.textMarker());
     }

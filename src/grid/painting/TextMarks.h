@@ -13,9 +13,8 @@ namespace KOVAVSFDataGridLib {
 
 // Says which parts of a cell's shown text are marked, by calling `mark` for each. Columns are those of the
 // grid.
-using TextMarker =
-    std::function<void(const QString &shown, int col,
-                       const std::function<void(qsizetype start, qsizetype length)> &mark)>;
+using TextMarker = std::function<void(const QString &shown, int col,
+                                      const std::function<void(qsizetype start, qsizetype length)> &mark)>;
 
 // A text as it was placed in its cell.
 struct PlacedText

@@ -18,6 +18,7 @@ inline const QString Filter = u"Filter"_s;
 inline const QString FromResult = u"FromResult"_s;
 inline const QString CellFilter = u"CellFilter"_s;
 inline const QString Sort = u"Sort"_s;
+inline const QString ToPreview = u"ToPreview"_s;
 inline const QString ToFullTable = u"ToFullTable"_s;
 
 } // namespace KOVAVSFDataGridLib::CommandKeys

@@ -132,8 +132,8 @@ int FindBar::gap() const
 
 int FindBar::lineHeight() const
 {
-    return std::max({m_text->sizeHint().height(), m_column->sizeHint().height(),
-                     m_wholeCell->sizeHint().height()});
+    return std::max(
+        {m_text->sizeHint().height(), m_column->sizeHint().height(), m_wholeCell->sizeHint().height()});
 }
 
 int FindBar::optionsWidth() const
