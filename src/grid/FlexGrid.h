@@ -99,6 +99,8 @@ public:
 
     // Marks parts of the texts that are shown; null marks nothing.
     void PutTextMarker(TextMarker marker);
+    // Whether a column is too narrow for a cell's text, or only the text's first line is shown.
+    bool IsTextCut(int row, int col) const;
     // What the headings show beside their texts, by column.
     void PutHeadingMarks(const std::vector<HeadingMark> &marks);
     // Whether a heading offers its column's menu when the mouse is over it.

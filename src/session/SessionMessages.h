@@ -19,6 +19,7 @@ inline const QString ChangedFields =
 inline const QString ChangedField = u"\n%1：现在是“%2”，您填写的是“%3”"_s;
 inline const QString LoadFirst = u"连接字符串已经改变，请先加载数据。"_s;
 inline const QString OpeningCancelled = u"已取消读取，仍显示原来的记录"_s;
+inline const QString PlaceOfValue = u"%1（第 %2 行）"_s;
 inline const QString NothingAhead = u"没有可以前进到的结果。"_s;
 inline const QString InsertCancelled = u"再次插入空行操作已被取消"_s;
 inline const QString ReadOnly = u"记录只读，不能增加、修改或删除。"_s;

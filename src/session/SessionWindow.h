@@ -44,6 +44,17 @@ struct MarkedFields
     bool hasNames = false; // whether the names are marked too
 };
 
+// One cell's value.
+struct CellValue
+{
+    QString field;
+    QString place; // whose value it is, for the user to read
+    bool isNull = false;
+    bool isBinary = false; // then it is `bytes`
+    QString text = {};
+    QByteArray bytes = {};
+};
+
 // What a session needs of the window that shows it. Rows count from 1, row 0 is the headings. This one shows
 // nothing.
 class SessionWindow : public ColumnView
@@ -104,6 +115,8 @@ public:
     virtual void showFullScreen() {}
     // Lets the user look for a text in what is shown.
     virtual void showFind() {}
+    // Shows a value whole, beside everything else.
+    virtual void showValue(const CellValue &) {}
     // Lists the statements that the user can go to.
     virtual void showHistory() {}
     // Shows that a statement is being opened. Only one can live in a process. Null shows nothing.

@@ -61,6 +61,7 @@ public:
 
 private:
     void connectHost();
+    void showClickedValue();
 
 public:
     KOVAVSFDataGrid &q;

@@ -1,11 +1,11 @@
 #include "control/parts/GridParts.h"
 
 #include "ado/Adodc.h"
-#include "control/parts/lines/FindBar.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/lines/ElidedLabel.h"
 #include "control/parts/lines/EmptyHint.h"
 #include "control/parts/lines/FilterBar.h"
+#include "control/parts/lines/FindBar.h"
 #include "control/parts/lines/StatementLine.h"
 #include "control/parts/lines/SummaryLine.h"
 #include "control/parts/toolbar/GridToolbar.h"

@@ -3,8 +3,9 @@
 #include "control/parts/GridTexts.h"
 #include "control/parts/HistoryMenu.h"
 #include "control/parts/PopupMenu.h"
-#include "control/parts/toolbar/GridToolbar.h"
 #include "control/parts/ResultFinder.h"
+#include "control/parts/toolbar/GridToolbar.h"
+#include "forms/value/ValueDialog.h"
 #include "grid/FlexGrid.h"
 #include "grid/GridSelection.h"
 #include "grid/Twips.h"
@@ -181,6 +182,15 @@ void GridWindow::refreshCommands()
     showHeadingMarks();
     if (m_finder)
         m_finder->markFilterWords();
+}
+
+void GridWindow::showValue(const CellValue &value)
+{
+    QWidget *const window = m_grid.parentWidget(); // the grid may be hidden while a single record is shown
+    auto *shown = window->findChild<ValueDialog *>(QString(), Qt::FindDirectChildrenOnly);
+    if (!shown)
+        shown = new ValueDialog(window);
+    shown->show(ShownValue{value.field, value.place, value.isNull, value.isBinary, value.text, value.bytes});
 }
 
 void GridWindow::showHistory()

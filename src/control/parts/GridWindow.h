@@ -52,6 +52,7 @@ public:
     void refreshCommands() override;
     void showFind() override;
     void showHistory() override;
+    void showValue(const CellValue &value) override;
 
     // What it shows; not owned. To be set before anything is shown.
     void setSession(Session &session) { m_session = &session; }

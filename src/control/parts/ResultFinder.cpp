@@ -1,8 +1,8 @@
 #include "control/parts/ResultFinder.h"
 
 #include "ado/Recordset.h"
-#include "control/parts/lines/FindBar.h"
 #include "control/parts/GridTexts.h"
+#include "control/parts/lines/FindBar.h"
 #include "grid/FlexGrid.h"
 #include "grid/GridSelection.h"
 #include "session/Session.h"

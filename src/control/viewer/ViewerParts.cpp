@@ -1,9 +1,9 @@
 #include "control/viewer/ViewerParts.h"
 
-#include "control/parts/lines/FindBar.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/lines/EmptyHint.h"
 #include "control/parts/lines/FilterBar.h"
+#include "control/parts/lines/FindBar.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "control/viewer/ViewerTexts.h"
 #include "grid/FlexGrid.h"

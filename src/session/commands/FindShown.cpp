@@ -21,7 +21,7 @@ const Command::Registration registration({
     .key = u"FindShown"_s,
     .shortcut = u"Ctrl+G"_s,
     .otherShortcut = u"F7"_s,
-    .menu = {24, u"查找显示的内容(&G)…"_s},
+    .menu = {27, u"查找显示的内容(&G)…"_s},
     .isInViewer = true,
     .viewerMenu = {16, u"查找显示的内容(&G)…"_s},
     .needs = Needs::Records,

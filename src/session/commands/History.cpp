@@ -43,7 +43,7 @@ const Command::Registration toOrigin({
 const Command::Registration forward({
     .key = u"Forward"_s,
     .shortcut = u"Alt+Right"_s,
-    .menu = {27, u"前进(&W)"_s},
+    .menu = {30, u"前进(&W)"_s},
     .isInViewer = true,
     .viewerMenu = {19, u"前进(&W)"_s},
     .run = [](Session &session) { goForward(session, 1); },
@@ -53,9 +53,9 @@ const Command::Registration forward({
 const Command::Registration list({
     .key = u"History"_s,
     .shortcut = u"Ctrl+H"_s,
-    .menu = {28, u"历史(&K)…"_s},
+    .menu = {31, u"历史(&Z)…"_s},
     .isInViewer = true,
-    .viewerMenu = {20, u"历史(&K)…"_s},
+    .viewerMenu = {20, u"历史(&Z)…"_s},
     .record = Record::Stays,
     .run = [](Session &session) { session.window().showHistory(); },
     .whyNot = [](Session &session) { return session.whyNoHistory(); },

@@ -1,9 +1,9 @@
 #include "session/history/HistorySteps.h"
 
 #include "ado/Recordset.h"
-#include "session/statement/FilterManagerRollback.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
+#include "session/statement/FilterManagerRollback.h"
 
 #include <algorithm>
 
@@ -16,7 +16,8 @@ using StepBack = bool (colShowSQLSentences::*)(QString &PassFilter, QString *Pas
 // The latest entry's result is open: shows it as the entry does.
 void showAsEntry(Session &session, const clsShowSQLSentence *entry)
 {
-    session.setFieldView(entry && entry->IsShowAllFields == AllFieldsShown ? FieldView::All : FieldView::Part);
+    session.setFieldView(entry && entry->IsShowAllFields == AllFieldsShown ? FieldView::All
+                                                                           : FieldView::Part);
     session.layOutColumns();
     if (session.window().isSingleRecordShown())
         session.window().showAllRecords();

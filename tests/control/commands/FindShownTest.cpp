@@ -223,7 +223,7 @@ TEST_F(FindShown, ComesFromTheMenuAndLeavesTheSingleRecord)
     EXPECT_FALSE(isSingleRecordShown());
     EXPECT_TRUE(bar->isVisible());
     press(Qt::Key_Escape);
-    choose(24, 1);
+    choose(27, 1);
     EXPECT_TRUE(bar->isVisible());
 }
 

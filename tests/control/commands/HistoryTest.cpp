@@ -89,7 +89,7 @@ TEST_F(History, ForwardGoesWhereTheStepBackCameFrom)
 TEST_F(History, ForwardIsLeftOutOnceSomethingNewIsDone)
 {
     narrowTwice();
-    const QAction *forward = grid.findChild<QAction *>(u"PopMnuDataAction27"_s);
+    const QAction *forward = grid.findChild<QAction *>(u"PopMnuDataAction30"_s);
     EXPECT_FALSE(forward->isEnabled());
     press(Qt::Key_Left);
     EXPECT_TRUE(forward->isEnabled());

@@ -1,7 +1,7 @@
 #include "control/parts/lines/FindBar.h"
 
-#include "control/parts/lines/ElidedLabel.h"
 #include "control/parts/GridTexts.h"
+#include "control/parts/lines/ElidedLabel.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
