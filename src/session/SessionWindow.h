@@ -2,6 +2,9 @@
 
 #include "session/layout/ColumnView.h"
 
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
 #include <functional>
 #include <memory>
 #include <optional>

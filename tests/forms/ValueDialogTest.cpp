@@ -48,7 +48,7 @@ ShownValue byteValue(const QByteArray &bytes)
 
 struct ValueWindow : testing::Test
 {
-    void show(const ShownValue &value) { dialog->show(value); }
+    void show(const ShownValue &value) { dialog.show(value); }
     QStringList views() const
     {
         QStringList names;
@@ -60,7 +60,7 @@ struct ValueWindow : testing::Test
     template<typename Part>
     Part *part(const char *name) const
     {
-        return dialog->findChild<Part *>(QLatin1StringView(name));
+        return dialog.findChild<Part *>(QLatin1StringView(name));
     }
     void press(const char *name) const { QTest::mouseClick(part<QPushButton>(name), Qt::LeftButton); }
     void findIn(const QString &words, Qt::KeyboardModifiers modifiers = {}) const
@@ -72,9 +72,9 @@ struct ValueWindow : testing::Test
     }
 
     QWidget parent;
-    QPointer<ValueDialog> dialog = new ValueDialog(&parent);
-    QTabWidget *tabs = dialog->findChild<QTabWidget *>(u"tabViews"_s);
-    QLabel *summary = dialog->findChild<QLabel *>(u"lblSummary"_s);
+    ValueDialog &dialog = *new ValueDialog(&parent);
+    QTabWidget *tabs = dialog.findChild<QTabWidget *>(u"tabViews"_s);
+    QLabel *summary = dialog.findChild<QLabel *>(u"lblSummary"_s);
 };
 
 } // namespace
@@ -110,6 +110,13 @@ TEST(FormattedText, IndentsXml)
               "<?xml version=\"1.0\"?>\n<a x=\"1\">\n  <b>茶</b>\n  <c/>\n</a>");
 }
 
+TEST(FormattedText, KeepsWhatAnXmlDeclares)
+{
+    const QString declaration = u"<?xml version=\"1.0\" encoding=\"GB18030\"?>"_s;
+    EXPECT_EQ(FormattedText::of(declaration + u"<a/>"_s).value().text, declaration + u"\n<a/>"_s);
+    EXPECT_EQ(FormattedText::of(u"<a><b/></a>"_s).value().text, u"<a>\n  <b/>\n</a>"_s);
+}
+
 TEST(FormattedText, LeavesOtherTextsAlone)
 {
     for (const QString &text :
@@ -131,12 +138,12 @@ TEST(HexPane, WritesSixteenBytesOnALine)
 TEST_F(ValueWindow, ShowsATextWithItsLineBreaks)
 {
     show(textValue(u"第一行\n第二行"_s));
-    EXPECT_TRUE(dialog->isVisible());
-    EXPECT_FALSE(dialog->isModal());
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_FALSE(dialog.isModal());
     EXPECT_EQ(views(), QStringList(u"文本"_s));
     EXPECT_EQ(text()->toPlainText(), u"第一行\n第二行"_s);
     EXPECT_TRUE(text()->isReadOnly());
-    EXPECT_EQ(dialog->windowTitle(), u"查看内容 - 备注"_s);
+    EXPECT_EQ(dialog.windowTitle(), u"查看内容 - 备注"_s);
     EXPECT_EQ(summary->text(), u"7 个字符"_s);
     press("cmdCopyValue");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"第一行\n第二行"_s);
@@ -148,6 +155,7 @@ TEST_F(ValueWindow, ShowsJsonIndentedAndKeepsTheTextItself)
     EXPECT_EQ(views(), (QStringList{u"文本"_s, u"JSON"_s}));
     EXPECT_EQ(tabs->currentIndex(), 1);
     EXPECT_EQ(text()->toPlainText(), u"{\n  \"a\": [\n    1,\n    2\n  ]\n}"_s);
+    QCoreApplication::processEvents();
     const QTextBlock line = text()->document()->findBlockByNumber(1);
     EXPECT_FALSE(line.layout()->formats().isEmpty()) << "it is coloured";
     press("cmdCopyValue");
@@ -178,7 +186,7 @@ TEST_F(ValueWindow, FindsForwardsAndBackwardsAndAround)
     EXPECT_EQ(at(), 5);
     findIn(u"milk"_s);
     EXPECT_EQ(part<QLabel>("lblFoundInValue")->text(), u"没有找到"_s);
-    EXPECT_TRUE(dialog->isVisible()) << "Enter closes nothing";
+    EXPECT_TRUE(dialog.isVisible()) << "Enter closes nothing";
 }
 
 TEST_F(ValueWindow, ShowsAVeryLongTextPieceByPieceAndFindsInAllOfIt)
@@ -247,7 +255,7 @@ TEST_F(ValueWindow, SavesTheValueItself)
     const auto saved = [&](const ShownValue &value) {
         show(value);
         QString failure;
-        EXPECT_TRUE(dialog->saveTo(folder.filePath(u"out"_s), failure)) << qPrintable(failure);
+        EXPECT_TRUE(dialog.saveTo(folder.filePath(u"out"_s), failure)) << qPrintable(failure);
         QFile file(folder.filePath(u"out"_s));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         return file.readAll();
@@ -255,15 +263,15 @@ TEST_F(ValueWindow, SavesTheValueItself)
     EXPECT_EQ(saved(textValue(u"{\"a\":\"茶\"}"_s)), u"{\"a\":\"茶\"}"_s.toUtf8());
     EXPECT_EQ(saved(byteValue(png())), png());
     QString failure;
-    EXPECT_FALSE(dialog->saveTo(folder.filePath(u"nowhere/out"_s), failure));
+    EXPECT_FALSE(dialog.saveTo(folder.filePath(u"nowhere/out"_s), failure));
     EXPECT_FALSE(failure.isEmpty());
 }
 
 TEST_F(ValueWindow, GoesWhenItIsClosed)
 {
     show(textValue(u"a"_s));
+    const QPointer<ValueDialog> alive(&dialog);
     QTest::keyClick(text(), Qt::Key_Escape);
-    EXPECT_FALSE(dialog && dialog->isVisible());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_FALSE(dialog);
+    EXPECT_FALSE(alive);
 }

@@ -39,7 +39,7 @@ private:
         const bool isClosing = c == u'}' || c == u']';
         if (isClosing)
             --m_depth;
-        if (m_isAfterOpening != isClosing && (m_isAfterOpening || isClosing))
+        if (m_isAfterOpening != isClosing)
             breakLine(); // an empty pair stays on its line
         m_isAfterOpening = c == u'{' || c == u'[';
         m_depth += m_isAfterOpening ? 1 : 0;
@@ -62,8 +62,10 @@ private:
     bool m_isAfterOpening = false;
 };
 
+// Its declaration stays as it is: a writer would leave out the encoding.
 std::optional<QString> indentedXml(const QString &text)
 {
+    const qsizetype declaration = text.startsWith("<?xml"_L1) ? text.indexOf("?>"_L1) + 2 : 0;
     QString out;
     QXmlStreamReader reader(text);
     QXmlStreamWriter writer(&out);
@@ -71,12 +73,12 @@ std::optional<QString> indentedXml(const QString &text)
     writer.setAutoFormattingIndent(indent);
     while (!reader.atEnd()) {
         reader.readNext();
-        if (!reader.hasError() && reader.tokenType() != QXmlStreamReader::Invalid && !reader.isWhitespace())
+        if (!reader.hasError() && !reader.isStartDocument() && !reader.isWhitespace())
             writer.writeCurrentToken(reader);
     }
     if (reader.hasError())
         return std::nullopt;
-    return out.trimmed();
+    return text.first(declaration) + (declaration > 0 ? u"\n"_s : QString()) + out.trimmed();
 }
 
 } // namespace

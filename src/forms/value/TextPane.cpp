@@ -4,6 +4,7 @@
 #include "forms/value/FormatHighlighter.h"
 
 #include <QtGui/QKeyEvent>
+#include <QtGui/QTextCursor>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -73,6 +74,7 @@ TextPane::TextPane(const QString &text, QWidget *parent)
     connect(m_nextPiece, &QPushButton::clicked, this, [this] { showPiece(m_piece + 1); });
     for (QWidget *const part : std::initializer_list<QWidget *>{m_pieceLabel, m_previousPiece, m_nextPiece})
         part->setVisible(pieces() > 1);
+    setFocusProxy(m_shown);
     showPiece(0);
 }
 

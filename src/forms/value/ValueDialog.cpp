@@ -115,6 +115,8 @@ void ValueDialog::addBytes()
 {
     m_format = PicturePane::formatOf(m_value.bytes);
     m_picture = m_format.isEmpty() ? QImage() : PicturePane::pictureIn(m_value.bytes);
+    if (m_picture.isNull())
+        m_format.clear(); // it only begins like one
     if (!m_picture.isNull())
         m_views->addTab(new PicturePane(m_picture), FormTexts::PictureTab);
     else if (isText(m_value.bytes))
