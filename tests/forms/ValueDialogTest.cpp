@@ -192,16 +192,16 @@ TEST_F(ValueWindow, FindsForwardsAndBackwardsAndAround)
 TEST_F(ValueWindow, ShowsAVeryLongTextPieceByPieceAndFindsInAllOfIt)
 {
     QString longText(50000000, u'x');
-    longText.replace(199999, 2, QString::fromUtf8("\U0001F375")); // a character across the first border
+    longText.replace(49999, 2, QString::fromUtf8("\U0001F375")); // a character across the first border
     longText.replace(49999990, 4, u"here"_s);
     show(textValue(longText));
-    EXPECT_EQ(part<QLabel>("lblPiece")->text(), u"第 1 段，共 250 段"_s);
+    EXPECT_EQ(part<QLabel>("lblPiece")->text(), u"第 1 段，共 1000 段"_s);
     EXPECT_TRUE(text()->toPlainText().endsWith(QString::fromUtf8("\U0001F375")));
     press("cmdNextPiece");
-    EXPECT_EQ(part<QLabel>("lblPiece")->text(), u"第 2 段，共 250 段"_s);
+    EXPECT_EQ(part<QLabel>("lblPiece")->text(), u"第 2 段，共 1000 段"_s);
     EXPECT_TRUE(text()->toPlainText().startsWith(u'x'));
     findIn(u"HERE"_s);
-    EXPECT_EQ(part<QLabel>("lblPiece")->text(), u"第 250 段，共 250 段"_s);
+    EXPECT_EQ(part<QLabel>("lblPiece")->text(), u"第 1000 段，共 1000 段"_s);
     EXPECT_EQ(text()->textCursor().selectedText(), u"here"_s);
     EXPECT_FALSE(part<QPushButton>("cmdNextPiece")->isEnabled());
 }

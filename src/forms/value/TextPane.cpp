@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // What a text edit lays out in a blink, even as a single line.
-constexpr qsizetype lengthOfPiece = 200000;
+constexpr qsizetype lengthOfPiece = 50000;
 
 QPushButton *button(const QString &caption, const QString &name, QWidget *parent)
 {
@@ -156,7 +156,7 @@ void TextPane::find(bool isForward)
 void TextPane::keyPressEvent(QKeyEvent *event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && m_words->hasFocus())
+    if (isEnter && focusWidget() == m_words)
         find(!(event->modifiers() & Qt::ShiftModifier));
     else
         QWidget::keyPressEvent(event);

@@ -26,8 +26,8 @@ protected:
     QDialog *window() const { return grid.findChild<QDialog *>(u"ValueDialog"_s); }
     QString shownText() const
     {
-        const auto *edit = window() ? window()->findChild<QPlainTextEdit *>(u"txtValue"_s) : nullptr;
-        return edit ? edit->toPlainText() : QString();
+        const auto *shown = window() ? window()->findChild<QPlainTextEdit *>(u"txtValue"_s) : nullptr;
+        return shown ? shown->toPlainText() : QString();
     }
     void press(QWidget *view)
     {
