@@ -83,7 +83,7 @@ endfunction()
 # Documents: for users with the program, for developers with the headers.
 set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc)
 set(docs ${PROJECT_SOURCE_DIR}/docs)
-install(FILES ${docs}/messages.md ${docs}/shortcuts.zh-CN.md
+install(FILES ${docs}/messages.md ${docs}/shortcuts.zh-CN.md ${docs}/users.zh-CN.md
   DESTINATION ${doc_dir}/${library_package} COMPONENT runtime)
 file(GLOB pages CONFIGURE_DEPENDS ${docs}/*.md)
 set(dev_dir ${doc_dir}/${CPACK_DEBIAN_DEV_PACKAGE_NAME})

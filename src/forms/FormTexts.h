@@ -56,6 +56,29 @@ inline const QString FindInField = u"指定的字段名称（默认：全部）(
 inline const QString FindInFieldName = u"指定的字段名称（默认：全部）"_s;
 inline const QString Find = u"查找(&F)"_s;
 
+// ValueDialog
+inline const QString ValueTitle = u"查看内容 - %1"_s;
+inline const QString TextTab = u"文本"_s;
+inline const QString PictureTab = u"图片"_s;
+inline const QString HexTab = u"十六进制"_s;
+inline const QString ValueText = u"内容"_s;
+inline const QString FindInValue = u"在内容中查找（Enter 下一处）"_s;
+inline const QString NotInValue = u"没有找到"_s;
+inline const QString PieceOf = u"第 %1 段，共 %2 段"_s;
+inline const QString PreviousPiece = u"上一段(&P)"_s;
+inline const QString NextPiece = u"下一段(&N)"_s;
+inline const QString NullValue = u"空值（NULL）"_s;
+inline const QString CharactersOfValue = u"%1 个字符"_s;
+inline const QString BytesOfValue = u"%1 字节"_s;
+inline const QString SizeOfPicture = u"%1 × %2 像素"_s;
+inline const QString TooLongToFormat = u"超过 %1 个字符，不显示结构"_s;
+inline const QString CopyValue = u"复制(&C)"_s;
+inline const QString SaveValue = u"保存到文件(&S)…"_s;
+inline const QString CloseValue = u"关闭"_s;
+inline const QString SaveValueTitle = u"保存到文件"_s;
+inline const QString ValueNotSaved = u"文件没有保存：%1"_s;
+inline const QString TooLongToCopy = u"内容太长，不能复制；请保存到文件。"_s;
+
 // FormatDialog
 inline const QString FormatTitle = u"显示格式"_s;
 inline const QString FormatOfColumn = u"列：%1"_s;

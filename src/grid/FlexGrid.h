@@ -2,6 +2,7 @@
 
 #include "grid/HeadingMark.h"
 #include "grid/cells/CellSource.h"
+#include "grid/painting/TextMarks.h"
 
 #include "ado/values/DisplayFormat.h"
 
@@ -96,6 +97,10 @@ public:
     void PutColFormat(int col, const ADODB::DisplayFormat &format);
     void ResetColFormats();
 
+    // Marks parts of the texts that are shown; null marks nothing.
+    void PutTextMarker(TextMarker marker);
+    // Whether a column is too narrow for a cell's text, or only the text's first line is shown.
+    bool IsTextCut(int row, int col) const;
     // What the headings show beside their texts, by column.
     void PutHeadingMarks(const std::vector<HeadingMark> &marks);
     // Whether a heading offers its column's menu when the mouse is over it.

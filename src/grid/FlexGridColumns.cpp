@@ -2,6 +2,7 @@
 
 #include "grid/Twips.h"
 #include "grid/cells/FlexGridModel.h"
+#include "grid/painting/CellDelegate.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QHeaderView>
@@ -101,6 +102,25 @@ void FlexGrid::onSectionResized(int section, int size)
     const int twips = Twips::fromPixels(size, *this);
     m_widths[static_cast<std::size_t>(col)] = twips;
     Q_EMIT ColWidthChanged(col, twips);
+}
+
+void FlexGrid::PutTextMarker(TextMarker marker)
+{
+    m_model->setTextMarker(std::move(marker));
+    viewport()->update();
+}
+
+bool FlexGrid::IsTextCut(int row, int col) const
+{
+    checkRow(row);
+    checkCol(col);
+    const QModelIndex index = m_model->index(row - 1, section(col));
+    const QString text = m_model->shownText(row, col);
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    return index.isValid() &&
+           (CellDelegate::shownText(text) != text ||
+            itemDelegateForIndex(index)->sizeHint(option, index).width() > columnWidth(index.column()));
 }
 
 } // namespace KOVAVSFDataGridLib

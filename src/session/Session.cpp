@@ -12,6 +12,7 @@
 #include "session/columns/ColumnCommand.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/history/StatementTrail.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -66,6 +67,19 @@ std::unique_ptr<clsFilterManagement> Session::newFilterManager()
 void Session::setFilterManager(std::shared_ptr<clsFilterManagement> manager)
 {
     m_filter = std::move(manager);
+}
+
+const std::shared_ptr<StatementTrail> &Session::sharedTrail()
+{
+    if (!m_trail || !m_trail->isOf(m_filter))
+        m_trail = std::make_shared<StatementTrail>(m_filter);
+    return m_trail;
+}
+
+void Session::noteShown()
+{
+    if (m_filter && m_result.isOpen())
+        trail().note(history(), m_result.recordset()->RecordCount());
 }
 
 void Session::run(const QString &key, ChosenBy by)
@@ -134,6 +148,7 @@ void Session::perform(const std::function<void()> &command)
     }
     --m_running;
     updateRecordPosition();
+    noteShown();
     m_window->refreshCommands();
 }
 

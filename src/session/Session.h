@@ -22,6 +22,7 @@ enum class Needs;
 enum class Record;
 class HostEvents;
 class Questions;
+class StatementTrail;
 class SessionWindow;
 
 // What the user has chosen a command by.
@@ -95,6 +96,10 @@ public:
     {
         return m_filter == manager;
     }
+    // What the user's way through the history has left; shared with a session that works on the same history.
+    StatementTrail &trail() { return *sharedTrail(); }
+    const std::shared_ptr<StatementTrail> &sharedTrail();
+    void setTrail(std::shared_ptr<StatementTrail> trail) { m_trail = std::move(trail); }
     // Whether the history has a statement to go back to.
     bool canGoBack() const { return m_filter && m_filter->SQLManager().Count() > 1; }
     colShowSQLSentences &history() { return filterManager().SQLManager(); }
@@ -259,6 +264,7 @@ private:
     bool hasGround() const { return !m_rules.worksOnLentResult || m_filter; }
     bool makeReady(Needs needs, Record record);
     void cancelChanges();
+    void noteShown();
     struct Failure
     {
         QString text; // for the user to read
@@ -277,6 +283,7 @@ private:
     ADODB::Notifications m_ownNotifications; // of a session without a data control
     ADODB::Notifications *m_notifications;
     std::shared_ptr<clsFilterManagement> m_filter;
+    std::shared_ptr<StatementTrail> m_trail;
     QString m_statement;
     KeptWidths m_keptWidths;
     FieldView m_fieldView = FieldView::All;

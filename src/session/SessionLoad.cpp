@@ -112,6 +112,7 @@ void Session::showLoaded(const ResultSet::Opened &opened, const QString &stateme
     if (columns().columnsFit())
         columns().fitColumns(m_rules.roundWidth);
     updateRecordPosition();
+    noteShown();
     m_window->refreshCommands();
 }
 

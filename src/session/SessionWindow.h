@@ -2,6 +2,9 @@
 
 #include "session/layout/ColumnView.h"
 
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
 #include <functional>
 #include <memory>
 #include <optional>
@@ -42,6 +45,17 @@ struct MarkedFields
     };
     std::vector<Field> fields;
     bool hasNames = false; // whether the names are marked too
+};
+
+// One cell's value.
+struct CellValue
+{
+    QString field;
+    QString place; // whose value it is, for the user to read
+    bool isNull = false;
+    bool isBinary = false; // then it is `bytes`
+    QString text = {};
+    QByteArray bytes = {};
 };
 
 // What a session needs of the window that shows it. Rows count from 1, row 0 is the headings. This one shows
@@ -102,6 +116,12 @@ public:
     virtual void showNote(const QString & /*text*/) {}
     // The result is shown on the whole screen until the user comes back.
     virtual void showFullScreen() {}
+    // Lets the user look for a text in what is shown.
+    virtual void showFind() {}
+    // Shows a value whole, beside everything else.
+    virtual void showValue(const CellValue &) {}
+    // Lists the statements that the user can go to.
+    virtual void showHistory() {}
     // Shows that a statement is being opened. Only one can live in a process. Null shows nothing.
     virtual std::unique_ptr<OpeningProgress> beginOpening() { return nullptr; }
     // Shows that `total` records are being written; `done` says so with %1 for the number. Only one of these

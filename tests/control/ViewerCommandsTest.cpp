@@ -7,6 +7,7 @@
 #include "support/MessageAnswers.h"
 
 #include <QtTest/QTest>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 
 using namespace KovaTest;
@@ -292,4 +293,44 @@ TEST_F(Viewer, WithoutTheFilterManagerCommandsDoNothing)
     EXPECT_EQ(user.row(0), u"ID Name Price Born"_s);
     EXPECT_EQ(openings, 0);
     EXPECT_TRUE(user.toolbar().isButtonPressed(u"All"_s));
+}
+
+TEST_F(Viewer, GoesForwardToWhatAStepBackLeft)
+{
+    load(u"select * from T"_s);
+    show();
+    condition = u"ID > 1"_s;
+    user.press(u"Filter"_s);
+    const QString filtered = viewer.CurrentSQL();
+    user.press(u"ToPreview"_s);
+    ASSERT_NE(viewer.CurrentSQL(), filtered);
+    user.menuItem(19)->trigger();
+    EXPECT_EQ(viewer.CurrentSQL(), filtered);
+    EXPECT_EQ(history().Count(), 2);
+    user.menuItem(19)->trigger();
+    EXPECT_EQ(history().Count(), 2);
+}
+
+TEST_F(Viewer, FindsTextsInWhatIsShown)
+{
+    load(u"select * from T"_s);
+    show();
+    viewer.activateWindow();
+    QCoreApplication::processEvents();
+    user.grid().setFocus();
+    QTest::keyClick(&user.grid(), Qt::Key_F7);
+    auto *text = viewer.findChild<QLineEdit *>(u"txtFindShown"_s);
+    ASSERT_TRUE(text->isVisible());
+    const QString sought = user.grid().TextMatrix(2, 2);
+    ASSERT_FALSE(sought.isEmpty());
+    QTest::keyClicks(text, sought);
+    for (int i = 0; i < 3; ++i)
+        QCoreApplication::processEvents();
+    QTest::keyClick(text, Qt::Key_Return);
+    EXPECT_EQ(user.grid().Row(), 2);
+    EXPECT_EQ(user.grid().Col(), 2);
+    QTest::keyClick(text, Qt::Key_Escape);
+    EXPECT_FALSE(text->isVisible());
+    EXPECT_TRUE(viewer.isVisible()) << "Esc closes only the bar";
+    EXPECT_TRUE(user.grid().hasFocus());
 }

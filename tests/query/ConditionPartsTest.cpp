@@ -112,3 +112,28 @@ TEST(ConditionParts, StayWithinABrokenCondition)
         }
     }
 }
+
+TEST(TextsSought, AreWhatLikeFindsAnywhere)
+{
+    struct Sought
+    {
+        QString condition;
+        QStringList texts;
+    };
+    for (const auto &[condition, texts] : {
+             Sought{u"名称 LIKE '%茶%'"_s, {u"茶"_s}},
+             Sought{u"(名称 LIKE '%茶%' OR 城市 LIKE '%茶%')"_s, {u"茶"_s}},
+             Sought{u"名称 LIKE '%red%tea%' OR A = 1"_s, {u"red"_s, u"tea"_s}},
+             Sought{u"CAST(A AS TEXT) LIKE '%O''Neil%'"_s, {u"O'Neil"_s}},
+             Sought{u"A LIKE '%5!%!!%' ESCAPE '!'"_s, {u"5%!"_s}},
+             Sought{u"A LIKE '%a_b%'"_s, {u"a"_s, u"b"_s}},
+             Sought{u"A NOT LIKE '%tea%'"_s, {}},
+             Sought{u"A LIKE 'tea%'"_s, {}},
+             Sought{u"A LIKE B"_s, {}},
+             Sought{u"A LIKE"_s, {}},
+             Sought{u"A LIKE '%%'"_s, {}},
+         }) {
+        const SqlScanner scanned(condition);
+        EXPECT_EQ(textsSought(scanned, {0, scanned.count()}), texts) << qPrintable(condition);
+    }
+}

@@ -17,10 +17,14 @@ TEST(Commands, HaveKeysOfTheirOwn)
         EXPECT_FALSE(command->key.isEmpty());
         EXPECT_FALSE(keys.contains(command->key))
             << "two commands have the key " << command->key.toStdString();
-        EXPECT_FALSE(shortcuts.contains(command->shortcut)) << command->key.toStdString();
+        for (const QString &shortcut : {command->shortcut, command->otherShortcut})
+            EXPECT_FALSE(shortcuts.contains(shortcut)) << command->key.toStdString();
+        EXPECT_FALSE(command->button && !command->otherShortcut.isEmpty()) << command->key.toStdString();
         EXPECT_TRUE(command->run) << command->key.toStdString();
         keys.insert(command->key);
         shortcuts.insert(command->shortcut);
+        if (!command->otherShortcut.isEmpty())
+            shortcuts.insert(command->otherShortcut);
     }
     for (const char *key : {"All", "Part", "SingleRecord", "AllRecord", "Filter", "Sort", "First", "Previous",
                             "Next", "Last", "FullScreen", "ToPreview", "ToOrigin", "FromResult",
@@ -49,9 +53,11 @@ TEST(Commands, HaveTheirShortcutsInTheDocument)
     QFile document(QStringLiteral(KOVA_SOURCE_DIR "/docs/shortcuts.zh-CN.md"));
     ASSERT_TRUE(document.open(QIODevice::ReadOnly));
     const QString documented = QString::fromUtf8(document.readAll());
-    for (const Command *command : Command::all())
-        EXPECT_TRUE(command->shortcut.isEmpty() || documented.contains(u"| %1 |"_s.arg(command->shortcut)))
-            << command->key.toStdString() << ' ' << command->shortcut.toStdString();
+    for (const Command *command : Command::all()) {
+        for (const QString &shortcut : {command->shortcut, command->otherShortcut})
+            EXPECT_TRUE(shortcut.isEmpty() || documented.contains(u"| %1 |"_s.arg(shortcut)))
+                << command->key.toStdString() << ' ' << shortcut.toStdString();
+    }
 }
 
 TEST(Commands, StandAtPlacesOfTheirOwn)

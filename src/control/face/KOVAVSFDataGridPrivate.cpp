@@ -7,12 +7,16 @@
 #include "control/face/Configuration.h"
 #include "control/face/DesignMode.h"
 #include "control/parts/GridTexts.h"
+#include "control/parts/HistoryMenu.h"
+#include "control/parts/toolbar/GridToolbar.h"
 #include "control/viewer/ShowFullScreen.h"
 #include "forms/Dialog_SQLST.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "grid/cells/TextCells.h"
+#include "session/commands/CommandKeys.h"
 
+#include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QCheckBox>
@@ -33,11 +37,14 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
       pressedPart(parts),
       closeGuard(control, *session),
       selection(*session, parts),
+      finder(*session, *parts.vsfgDataGrid, *parts.find),
       layout(*session, *parts.vsfgDataGrid)
 {
     window.setSession(*session);
     window.setSingleRecordView(&singleRecord);
     window.setMenu(&commands.menu());
+    window.setFinder(&finder);
+    window.setHistoryMenu(new HistoryMenu(*parts.Toolbar1, *session));
     window.setFullScreen([this] {
         ShowFullScreen(q, *session, parts, [this](QWidget *viewer, const ConditionRequest &asked) {
             ConditionRequest request = session->conditionRequest();
@@ -52,6 +59,7 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
         parts.vsfgDataGrid->setSelectionBehavior(on ? QAbstractItemView::SelectRows
                                                     : QAbstractItemView::SelectItems);
     });
+    connect(&events, &GridEvents::valueWanted, &q, [this] { showClickedValue(); });
     parts.CheckSelAllRow->setChecked(readSelectWholeRows());
     setThreeTierSwitch();
     connectHost();
@@ -77,6 +85,19 @@ void KOVAVSFDataGrid::Private::connectHost()
     connect(parts.Adodc1, &ADODB::Adodc::RecordChangeComplete, &q, [this] { window.refreshStatus(); });
     connect(parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, &q,
             [this](ADODB::EventReasonEnum reason) { Q_EMIT q.RecordsetChanged(reason); });
+}
+
+// A host that listens has its own meaning for a double-click.
+void KOVAVSFDataGrid::Private::showClickedValue()
+{
+    for (const QMetaMethod &event : {QMetaMethod::fromSignal(&KOVAVSFDataGrid::DataDblClick),
+                                     QMetaMethod::fromSignal(&KOVAVSFDataGrid::DataDBLClickOneCell),
+                                     QMetaMethod::fromSignal(&KOVAVSFDataGrid::DataDBLClickOneRow)}) {
+        if (q.isSignalConnected(event))
+            return;
+    }
+    if (parts.Toolbar1->isEnabled())
+        session->run(CommandKeys::ShowValue);
 }
 
 void KOVAVSFDataGrid::Private::setThreeTierSwitch() const

@@ -12,6 +12,7 @@
 #include "control/input/SingleRecordView.h"
 #include "control/parts/DialogQuestions.h"
 #include "control/parts/GridParts.h"
+#include "control/parts/ResultFinder.h"
 #include "session/HostEvents.h"
 #include "session/Session.h"
 
@@ -60,6 +61,7 @@ public:
 
 private:
     void connectHost();
+    void showClickedValue();
 
 public:
     KOVAVSFDataGrid &q;
@@ -83,5 +85,6 @@ public:
     KOVAVSFDataGridLib::PressedPart pressedPart;
     KOVAVSFDataGridLib::CloseGuard closeGuard;
     KOVAVSFDataGridLib::SelectionWatch selection;
+    KOVAVSFDataGridLib::ResultFinder finder;
     KOVAVSFDataGridLib::LayoutKeeper layout;
 };

@@ -253,6 +253,8 @@ void GridEvents::doubleClicked(QWidget &source, QMouseEvent &event)
         Q_EMIT m_control.DataDBLClickOneRow(grid.Row());
     else
         Q_EMIT m_control.DataDBLClickOneCell(grid.Col(), grid.Row());
+    if (alive && place == Place::Cell && grid.Row() > 0 && grid.IsTextCut(grid.Row(), grid.Col()))
+        Q_EMIT valueWanted();
 }
 
 // The second press can come down beside the cell of the first; the grid follows only after the host is

@@ -34,7 +34,9 @@ Q_SIGNALS:
     // The right button came up on data (or the menu key was pressed) while there are records and the toolbar
     // is enabled: time for the menu. `position` is on the screen.
     void menuWanted(const QPoint &position);
-    // The same on a column's heading.
+    // A text that is cut off was double-clicked, after the host has heard of it.
+    void valueWanted();
+    // The same as menuWanted on a column's heading.
     void headingMenuWanted(int col, const QPoint &position);
 
 protected:

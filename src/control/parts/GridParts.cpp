@@ -5,6 +5,7 @@
 #include "control/parts/lines/ElidedLabel.h"
 #include "control/parts/lines/EmptyHint.h"
 #include "control/parts/lines/FilterBar.h"
+#include "control/parts/lines/FindBar.h"
 #include "control/parts/lines/StatementLine.h"
 #include "control/parts/lines/SummaryLine.h"
 #include "control/parts/toolbar/GridToolbar.h"
@@ -42,6 +43,7 @@ GridParts::GridParts(QWidget &control)
       Toolbar1(new GridToolbar(picMainBack)),
       conditions(new FilterBar(picMainBack)),
       vsfgDataGrid(named(new VSFlexGrid(picMainBack), u"vsfgDataGrid"_s)),
+      find(new FindBar(picMainBack)),
       lblEmpty(new EmptyHint(*vsfgDataGrid)),
       MSFlexGrid1(named(new MSFlexGrid(picMainBack), u"MSFlexGrid1"_s)),
       txtEdit(named(new ValueEdit(picMainBack), u"txtEdit"_s)),
@@ -63,6 +65,8 @@ GridParts::GridParts(QWidget &control)
     Toolbar1->setAccessibleName(GridTexts::ToolbarName);
     vsfgDataGrid->setAccessibleName(GridTexts::GridName);
     MSFlexGrid1->setAccessibleName(GridTexts::SingleRecordName);
+    QObject::connect(find, &FindBar::shownOrHidden, &control,
+                     [this, &control] { layOut(control.width(), control.height()); });
 }
 
 void GridParts::layOut(int width, int height)
@@ -77,8 +81,10 @@ void GridParts::layOut(int width, int height)
     const int foot = footHeight();
     const int left = Twips::toPixels(gridLeft, *picMainBack);
     const int gridWidth = width - Twips::toPixels(gridWidthMargin, *picMainBack);
-    const int gridHeight = std::max(0, height - above - foot);
+    const int findHeight = find->isHidden() ? 0 : find->heightForWidth(width);
+    const int gridHeight = std::max(0, height - above - findHeight - foot);
     vsfgDataGrid->setGeometry(left, above, gridWidth, gridHeight);
+    find->setGeometry(0, above + gridHeight, width, findHeight);
     MSFlexGrid1->setGeometry(vsfgDataGrid->geometry());
     txtEdit->hide();
     layOutFoot();

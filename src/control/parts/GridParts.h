@@ -16,6 +16,7 @@ namespace KOVAVSFDataGridLib {
 class ElidedLabel;
 class EmptyHint;
 class FilterBar;
+class FindBar;
 class GridToolbar;
 class MSFlexGrid;
 class StatementLine;
@@ -38,6 +39,7 @@ public:
     GridToolbar *Toolbar1;
     FilterBar *conditions;
     VSFlexGrid *vsfgDataGrid;
+    FindBar *find;
     EmptyHint *lblEmpty;
     MSFlexGrid *MSFlexGrid1;
     ValueEdit *txtEdit;

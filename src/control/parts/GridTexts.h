@@ -71,6 +71,28 @@ inline const QString FilterBarName = u"筛选条件"_s;
 inline const QString RemoveCondition = u"去掉条件：%1"_s;
 inline const QString MoreConditions = u"还有 %1 个"_s;
 
+// The bar that looks for a text in what is shown.
+inline const QString FindBarName = u"查找显示的内容"_s;
+inline const QString FindTextHint = u"查找内容"_s;
+inline const QString FindColumnHint = u"在哪一列查找"_s;
+inline const QString AllColumns = u"所有列"_s;
+inline const QString WholeCell = u"整格相同(&H)"_s;
+inline const QString MatchCase = u"区分大小写(&E)"_s;
+inline const QString FindNext = u"下一处（Enter）"_s;
+inline const QString FindPrevious = u"上一处（Shift+Enter）"_s;
+inline const QString CloseFind = u"关闭（Esc）"_s;
+inline const QString NothingFound = u"没有找到"_s;
+inline const QString FoundCount = u"共 %1 处"_s;
+inline const QString FoundPlace = u"第 %1 处，共 %2 处"_s;
+inline const QString FoundFromStart = u"（回到开头）"_s;
+inline const QString FoundFromEnd = u"（回到末尾）"_s;
+inline const QString FindRunning = u"正在查找… %1%"_s;
+
+// The statements to go back and forward to.
+inline const QString HistoryName = u"历史"_s;
+inline const QString HistoryNote = u"%1 条  %2"_s;
+inline const QString NoHistory = u"（没有历史）"_s;
+
 // Page box and label.
 inline const QString GoToPage = u"转到"_s;
 inline const QString GoToPageTip = u"显示这一页"_s;

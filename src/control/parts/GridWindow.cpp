@@ -1,8 +1,11 @@
 #include "control/parts/GridWindow.h"
 
 #include "control/parts/GridTexts.h"
+#include "control/parts/HistoryMenu.h"
 #include "control/parts/PopupMenu.h"
+#include "control/parts/ResultFinder.h"
 #include "control/parts/toolbar/GridToolbar.h"
+#include "forms/value/ValueDialog.h"
 #include "grid/FlexGrid.h"
 #include "grid/GridSelection.h"
 #include "grid/Twips.h"
@@ -101,6 +104,8 @@ void GridWindow::arrangeColumns(const QStringList &order, int frozen)
 void GridWindow::refreshRecords()
 {
     m_grid.Refresh();
+    if (m_finder)
+        m_finder->startOver();
 }
 
 int GridWindow::Row() const
@@ -175,6 +180,29 @@ void GridWindow::refreshCommands()
     if (m_menu)
         m_menu->refresh();
     showHeadingMarks();
+    if (m_finder)
+        m_finder->markFilterWords();
+}
+
+void GridWindow::showValue(const CellValue &value)
+{
+    QWidget *const window = m_grid.parentWidget(); // the grid may be hidden while a single record is shown
+    auto *shown = window->findChild<ValueDialog *>(QString(), Qt::FindDirectChildrenOnly);
+    if (!shown)
+        shown = new ValueDialog(window);
+    shown->show(ShownValue{value.field, value.place, value.isNull, value.isBinary, value.text, value.bytes});
+}
+
+void GridWindow::showHistory()
+{
+    if (m_history)
+        m_history->open();
+}
+
+void GridWindow::showFind()
+{
+    if (m_finder)
+        m_finder->open();
 }
 
 void GridWindow::showHeadingMarks()

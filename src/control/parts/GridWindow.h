@@ -8,7 +8,9 @@ class QWidget;
 namespace KOVAVSFDataGridLib {
 
 class GridToolbar;
+class HistoryMenu;
 class PopupMenu;
+class ResultFinder;
 class Session;
 class VSFlexGrid;
 
@@ -48,11 +50,18 @@ public:
     void setPressed(const QString &key, bool on) override;
     void showNote(const QString &text) override;
     void refreshCommands() override;
+    void showFind() override;
+    void showHistory() override;
+    void showValue(const CellValue &value) override;
 
     // What it shows; not owned. To be set before anything is shown.
     void setSession(Session &session) { m_session = &session; }
     // The menu whose items follow the commands; not owned.
     void setMenu(PopupMenu *menu) { m_menu = menu; }
+    // Its list of statements; not owned.
+    void setHistoryMenu(HistoryMenu *menu) { m_history = menu; }
+    // What looks for texts in it; not owned.
+    void setFinder(ResultFinder *finder) { m_finder = finder; }
 
 protected:
     // Shows the conditions in force in words.
@@ -62,6 +71,8 @@ protected:
     GridToolbar &m_toolbar;
     Session *m_session = nullptr;
     PopupMenu *m_menu = nullptr;
+    HistoryMenu *m_history = nullptr;
+    ResultFinder *m_finder = nullptr;
 
 private:
     void showHeadingMarks();

@@ -39,7 +39,7 @@ QAction *PopupMenu::addItem(const Command &command, QWidget &window)
         action->setIcon(toolbarIcon(command.key));
         action->setText(texts.caption + u'\t' + shortcut.toString(QKeySequence::NativeText));
     } else if (!shortcut.isEmpty()) {
-        action->setShortcut(shortcut);
+        action->setShortcuts({shortcut, QKeySequence(command.otherShortcut)});
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         window.addAction(action);
     }

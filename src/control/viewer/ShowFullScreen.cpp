@@ -120,6 +120,7 @@ bool ShowFullScreen(QWidget &control, Session &session, GridParts &parts, const 
     Visit visit(control, session, parts, askCondition);
     frm_FullScreen &viewer = visit.viewer();
     viewer.PutFilterManager(session.sharedFilterManager());
+    viewer.PutTrail(session.sharedTrail());
     viewer.GetData(session.result().connection(), session.result().recordset(), session.page(),
                    session.texts.connectionString, session.statement(), true, session.texts.sqlSort, wasAll,
                    isOffered(toolbar, CommandKeys::Filter), isOffered(toolbar, CommandKeys::Sort),

@@ -3,6 +3,7 @@
 #include "control/parts/GridTexts.h"
 #include "control/parts/lines/EmptyHint.h"
 #include "control/parts/lines/FilterBar.h"
+#include "control/parts/lines/FindBar.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "control/viewer/ViewerTexts.h"
 #include "grid/FlexGrid.h"
@@ -31,6 +32,7 @@ ViewerParts::ViewerParts(QDialog &window)
       cmdClose(new QPushButton(ViewerTexts::Close, fraTitle)),
       conditions(new FilterBar(picBox)),
       vsfgShowData(new VSFlexGrid(picBox)),
+      find(new FindBar(picBox)),
       lblEmpty(new EmptyHint(*vsfgShowData)),
       txtPage(new QLineEdit(picBox)),
       cmdPgae(new QPushButton(GridTexts::GoToPage, picBox)),
@@ -69,7 +71,7 @@ void ViewerParts::nameParts()
 QRect ViewerParts::foot() const
 {
     QRect foot = picBox->rect();
-    foot.setTop(vsfgShowData->geometry().bottom() + 1);
+    foot.setTop((find->isHidden() ? vsfgShowData->geometry() : find->geometry()).bottom() + 1);
     return foot;
 }
 
@@ -94,6 +96,7 @@ void ViewerParts::layOut(QDialog &window)
     box->addWidget(fraTitle);
     box->addWidget(conditions);
     box->addWidget(vsfgShowData, 1);
+    box->addWidget(find);
     box->addLayout(foot);
 
     auto *whole = new QVBoxLayout(&window);

@@ -13,6 +13,7 @@ namespace KOVAVSFDataGridLib {
 
 class EmptyHint;
 class FilterBar;
+class FindBar;
 class GridToolbar;
 class VSFlexGrid;
 
@@ -30,6 +31,7 @@ public:
     QPushButton *cmdClose;
     FilterBar *conditions;
     VSFlexGrid *vsfgShowData;
+    FindBar *find;
     EmptyHint *lblEmpty;
     QLineEdit *txtPage;
     QPushButton *cmdPgae;

@@ -5,7 +5,9 @@
 #include "control/input/MenuKey.h"
 #include "control/parts/ColumnMenu.h"
 #include "control/parts/DialogQuestions.h"
+#include "control/parts/HistoryMenu.h"
 #include "control/parts/PopupMenu.h"
+#include "control/parts/ResultFinder.h"
 #include "control/parts/lines/FilterBar.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "control/viewer/ViewerTexts.h"
@@ -58,10 +60,13 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
       m_menu(new PopupMenu(*this, PopupMenu::ofViewer, *m_parts.Toolbar1, *m_session)),
       m_columnMenu(std::make_unique<ColumnMenu>(
           *this, *m_parts.Toolbar1, *m_parts.vsfgShowData, *m_session,
-          [this](const ColumnCommand &command, int col) { m_session->runOnColumn(command, col); }))
+          [this](const ColumnCommand &command, int col) { m_session->runOnColumn(command, col); })),
+      m_finder(std::make_unique<ResultFinder>(*m_session, *m_parts.vsfgShowData, *m_parts.find))
 {
     m_window.setSession(*m_session);
     m_window.setMenu(m_menu);
+    m_window.setFinder(m_finder.get());
+    m_window.setHistoryMenu(new HistoryMenu(*m_parts.Toolbar1, *m_session));
     setObjectName(u"frm_FullScreen"_s);
     setWindowTitle(ViewerTexts::Title);
     fillScreen();
@@ -105,6 +110,11 @@ void frm_FullScreen::fillScreen()
 void frm_FullScreen::PutFilterManager(std::shared_ptr<clsFilterManagement> manager)
 {
     m_session->setFilterManager(std::move(manager));
+}
+
+void frm_FullScreen::PutTrail(std::shared_ptr<StatementTrail> trail)
+{
+    m_session->setTrail(std::move(trail));
 }
 
 void frm_FullScreen::ClearRefObject()

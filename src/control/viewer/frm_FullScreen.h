@@ -15,6 +15,7 @@ namespace KOVAVSFDataGridLib {
 
 class ColumnMenu;
 class PopupMenu;
+class ResultFinder;
 
 // What the viewer asks of the control that opened it.
 struct ViewerHost
@@ -40,6 +41,8 @@ public:
     ~frm_FullScreen() override;
 
     void PutFilterManager(std::shared_ptr<clsFilterManagement> manager);
+    // What the user's way through that history has left.
+    void PutTrail(std::shared_ptr<StatementTrail> trail);
     // Takes over what the control shows and shows it. Pages count from 1; `bUpdate` has no meaning. The
     // viewer opens with the row of the current record if the page has it.
     void GetData(const std::shared_ptr<ADODB::Connection> &newConnection,
@@ -77,6 +80,7 @@ private:
     const std::shared_ptr<Session> m_session;
     PopupMenu *m_menu;
     const std::unique_ptr<ColumnMenu> m_columnMenu;
+    const std::unique_ptr<ResultFinder> m_finder;
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -2,6 +2,7 @@
 
 #include "grid/HeadingMark.h"
 #include "grid/cells/CellSource.h"
+#include "grid/painting/TextMarks.h"
 
 #include "ado/values/DisplayFormat.h"
 
@@ -40,6 +41,9 @@ public:
     void setFormats(const QHash<QString, ADODB::DisplayFormat> &formats);
     // A cell's text as it is shown, in grid coordinates.
     QString shownText(int row, int col) const;
+    // Marks parts of the shown texts; null marks nothing.
+    const TextMarker &textMarker() const { return m_marker; }
+    void setTextMarker(TextMarker marker) { m_marker = std::move(marker); }
     bool hasFormats() const { return !m_formatOfCol.empty(); }
 
     int rowCount(const QModelIndex &parent = {}) const override;
@@ -53,6 +57,7 @@ private:
     const int m_fixedCols;
     std::unique_ptr<CellSource> m_source;
     std::vector<HeadingMark> m_marks;
+    TextMarker m_marker;
     QHash<QString, ADODB::DisplayFormat> m_formats;
     std::vector<ADODB::DisplayFormat> m_formatOfCol; // empty when no column has one
 };

@@ -3,8 +3,11 @@
 #include "grid/WholeText.h"
 #include "grid/cells/FlexGridModel.h"
 
+#include <QtGui/QFontMetricsF>
 #include <QtGui/QHelpEvent>
 #include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QToolTip>
 
 #include <algorithm>
@@ -33,6 +36,26 @@ void CellDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelInd
     const auto *cells = qobject_cast<const FlexGridModel *>(index.model());
     if (cells && cells->hasFormats())
         option->text = shownText(cells->shownText(index.row() + 1, index.column() + cells->fixedCols()));
+}
+
+void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                         const QModelIndex &index) const
+{
+    QStyledItemDelegate::paint(painter, option, index);
+    const auto *cells = qobject_cast<const FlexGridModel *>(index.model());
+    if (!cells || !cells->textMarker())
+        return;
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QStyle &style = cell.widget ? *cell.widget->style() : *QApplication::style();
+    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &cell, cell.widget) + 1;
+    QRectF line = QRectF(cell.rect).adjusted(margin, 0, -margin, 0);
+    const qreal width = QFontMetricsF(cell.font).horizontalAdvance(cell.text);
+    if (width < line.width() && cell.displayAlignment & Qt::AlignRight)
+        line.setLeft(line.right() - width);
+    paintTextMarks(*painter, cell.palette,
+                   {cell.text, line, cell.font, cell.state.testFlag(QStyle::State_Selected)},
+                   index.column() + cells->fixedCols(), cells->textMarker());
 }
 
 bool CellDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,

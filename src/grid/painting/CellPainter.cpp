@@ -61,7 +61,7 @@ private:
     void enterRow(int visualRow);
     void paintRow(int visualRow, Span columns);
     void paintCell(int row, const Column &column, const QString &text);
-    void placeText(const QString &text, const Column &column, QPalette::ColorRole role);
+    void placeText(const QString &text, const Column &column, bool isSelected);
     bool isSelected(int row, int section) const;
 
     QTableView &m_view;
@@ -234,20 +234,28 @@ void CellPainter::Frame::paintCell(int row, const Column &column, const QString 
             m_view.style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &m_cell, &m_painter, &m_view);
     }
     if (!text.isEmpty())
-        placeText(text, column, selected ? QPalette::HighlightedText : QPalette::Text);
+        placeText(text, column, selected);
 }
 
-void CellPainter::Frame::placeText(const QString &text, const Column &column, QPalette::ColorRole role)
+void CellPainter::Frame::placeText(const QString &text, const Column &column, bool isSelected)
 {
     const QRect &row = m_option.rect;
     const qreal room = column.width - 2 * m_margin;
-    m_glyphs.layOut(CellDelegate::shownText(text), room, m_option.direction, m_line);
+    const QString shown = CellDelegate::shownText(text);
+    m_glyphs.layOut(shown, room, m_option.direction, m_line);
     // Where not even the ellipsis has room, nothing can be read.
     if (m_line.width > column.width)
         return;
     const bool isAtRight = column.isNumeric != (m_option.direction == Qt::RightToLeft);
     const qreal left = column.left + m_margin + (isAtRight ? room - m_line.width : 0);
     const int top = row.top() + row.height() / 2 - m_glyphs.height() / 2;
+    if (m_model.textMarker()) {
+        const PlacedText placed{shown, QRectF(left, row.top(), m_line.width, row.height()), m_option.font,
+                                isSelected};
+        paintTextMarks(m_painter, m_option.palette, placed, column.section + m_model.fixedCols(),
+                       m_model.textMarker());
+    }
+    const QPalette::ColorRole role = isSelected ? QPalette::HighlightedText : QPalette::Text;
     m_batch.add(m_line, {left, top + m_glyphs.ascent()}, m_option.palette.color(colourGroup(m_option), role));
 }
 

@@ -142,13 +142,35 @@ struct Comparison
     QString rest; // operator and value in words; empty when it is no comparison
 };
 
+// The pieces of a pattern that wildcards separate.
+QStringList literalPieces(const QString &pattern, QChar escape)
+{
+    QStringList pieces{QString()};
+    for (qsizetype i = 0; i < pattern.size(); ++i) {
+        const bool isEscaped = pattern.at(i) == escape && i + 1 < pattern.size();
+        if (isEscaped)
+            ++i;
+        if (!isEscaped && (pattern.at(i) == u'%' || pattern.at(i) == u'_'))
+            pieces.append(QString());
+        else
+            pieces.back() += pattern.at(i);
+    }
+    pieces.removeAll(QString());
+    return pieces;
+}
+
+QChar escapeOf(const SqlScanner &sql, qsizetype word)
+{
+    return textOfLiteral(sql, {word + 1, word + 2}).value_or(QString(u' ')).front();
+}
+
 std::optional<QString> likeInWords(const SqlScanner &sql, TextRange value)
 {
     QChar escape;
     for (qsizetype i = value.begin; i < value.end; ++i) {
         if (!sql.isWord(i, u"ESCAPE"))
             continue;
-        escape = textOfLiteral(sql, {i + 1, value.end}).value_or(QString(u' ')).front();
+        escape = escapeOf(sql, i);
         value.end = i;
     }
     if (const auto pattern = textOfLiteral(sql, value); pattern && !pattern->isEmpty())
@@ -268,6 +290,22 @@ QString conditionInWords(const SqlScanner &statement, TextRange condition)
     if (comparison.rest.isEmpty())
         return textOf(statement, condition).simplified();
     return comparison.operand + u' ' + comparison.rest;
+}
+
+QStringList textsSought(const SqlScanner &statement, TextRange condition)
+{
+    QStringList texts;
+    for (qsizetype i = condition.begin; i + 1 < condition.end; ++i) {
+        if (!statement.isWord(i, u"LIKE") || statement.isWord(i - 1, u"NOT"))
+            continue;
+        const QString pattern = textOfLiteral(statement, {i + 1, i + 2}).value_or(QString());
+        if (!pattern.startsWith(u'%') || !pattern.endsWith(u'%'))
+            continue;
+        const bool hasEscape = i + 3 < condition.end && statement.isWord(i + 2, u"ESCAPE");
+        texts += literalPieces(pattern, hasEscape ? escapeOf(statement, i + 2) : QChar());
+    }
+    texts.removeDuplicates();
+    return texts;
 }
 
 } // namespace KOVAVSFDataGridLib

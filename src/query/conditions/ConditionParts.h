@@ -17,4 +17,7 @@ QStringList fieldsOfCondition(const SqlScanner &statement, TextRange condition);
 // The condition in the user's words: "名称 包含 “茶”". What has no words of its own stays as it is written.
 QString conditionInWords(const SqlScanner &statement, TextRange condition);
 
+// What the condition's LIKEs look for anywhere in a text, without wildcards.
+QStringList textsSought(const SqlScanner &statement, TextRange condition);
+
 } // namespace KOVAVSFDataGridLib

@@ -45,8 +45,9 @@ struct MenuItemTexts
 // toolbar, menus and shortcuts are made of what is registered.
 struct Command
 {
-    QString key;      // also the name of its icon
-    QString shortcut; // in the form that QKeySequence reads
+    QString key;                // also the name of its icon
+    QString shortcut;           // in the form that QKeySequence reads
+    QString otherShortcut = {}; // a second one, of a command without a button
     std::optional<ButtonTexts> button = {};
     MenuItemTexts menu = {};
     // Whether the full-screen viewer has it, and where in its menu.

@@ -17,7 +17,9 @@ inline const QString AllRecord = u"AllRecord"_s;
 inline const QString Filter = u"Filter"_s;
 inline const QString FromResult = u"FromResult"_s;
 inline const QString CellFilter = u"CellFilter"_s;
+inline const QString ShowValue = u"ShowValue"_s;
 inline const QString Sort = u"Sort"_s;
+inline const QString ToPreview = u"ToPreview"_s;
 inline const QString ToFullTable = u"ToFullTable"_s;
 
 } // namespace KOVAVSFDataGridLib::CommandKeys

@@ -1,9 +1,11 @@
 #include "session/Session.h"
+#include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
-#include "session/statement/FilterManagerRollback.h"
+#include "session/commands/CommandKeys.h"
+#include "session/history/HistorySteps.h"
 
-// One statement back, and back to the first; both show many records again.
+// One statement back or forward, back to the first, and the list of all of them.
 
 namespace KOVAVSFDataGridLib {
 
@@ -11,35 +13,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using StepBack = bool (colShowSQLSentences::*)(QString &PassFilter, QString *PassKey);
-
-void goBack(Session &session, StepBack stepBack)
+QString whyNotForward(Session &session)
 {
-    FilterManagerRollback rollback(session);
-    QString statement;
-    QString key;
-    if (!(session.history().*stepBack)(statement, &key))
-        return;
-    const auto opened = session.readForReload(statement, true);
-    if (!opened)
-        return;
-    const ADODB::Notifications::Hold hold(session.notifications());
-    session.show(*opened);
-    rollback.keepChanges();
-    const clsShowSQLSentence *entry = session.history().Item(key);
-    session.setFieldView(entry && entry->IsShowAllFields == AllFieldsShown ? FieldView::All
-                                                                           : FieldView::Part);
-    session.layOutColumns();
-    if (session.window().isSingleRecordShown())
-        session.window().showAllRecords();
+    const QString noHistory = session.whyNoHistory();
+    if (!noHistory.isEmpty())
+        return noHistory;
+    const bool isAtEnd = session.isFilterManager(nullptr) || session.trail().ahead(session.history()).empty();
+    return isAtEnd ? SessionMessages::NothingAhead : QString();
 }
 
 const Command::Registration toPreview({
-    .key = u"ToPreview"_s,
+    .key = CommandKeys::ToPreview,
     .shortcut = u"Alt+Left"_s,
     .button = {{500, u"后退"_s, u"返回上一步的结果"_s}},
     .isInViewer = true,
-    .run = [](Session &session) { goBack(session, &colShowSQLSentences::GetPreviewSQL); },
+    .run = [](Session &session) { goBack(session, 1); },
     .whyNot = [](Session &session) { return session.whyNoHistory(); },
 });
 
@@ -48,7 +36,28 @@ const Command::Registration toOrigin({
     .shortcut = u"Alt+Home"_s,
     .button = {{501, u"最初"_s, u"返回最初的结果"_s}},
     .isInViewer = true,
-    .run = [](Session &session) { goBack(session, &colShowSQLSentences::GetFirstSQL); },
+    .run = goToOrigin,
+    .whyNot = [](Session &session) { return session.whyNoHistory(); },
+});
+
+const Command::Registration forward({
+    .key = u"Forward"_s,
+    .shortcut = u"Alt+Right"_s,
+    .menu = {30, u"前进(&W)"_s},
+    .isInViewer = true,
+    .viewerMenu = {19, u"前进(&W)"_s},
+    .run = [](Session &session) { goForward(session, 1); },
+    .whyNot = whyNotForward,
+});
+
+const Command::Registration list({
+    .key = u"History"_s,
+    .shortcut = u"Ctrl+H"_s,
+    .menu = {31, u"历史(&Z)…"_s},
+    .isInViewer = true,
+    .viewerMenu = {20, u"历史(&Z)…"_s},
+    .record = Record::Stays,
+    .run = [](Session &session) { session.window().showHistory(); },
     .whyNot = [](Session &session) { return session.whyNoHistory(); },
 });
 

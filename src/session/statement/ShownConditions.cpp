@@ -69,7 +69,7 @@ std::vector<ShownCondition> shownConditions(Session &session)
     for (const std::size_t part : ownParts(session, latest)) {
         const TextRange range = latest.parts[part];
         conditions.push_back({conditionInWords(latest.sql, range), latest.textOfPart(part),
-                              fieldsOfCondition(latest.sql, range)});
+                              fieldsOfCondition(latest.sql, range), textsSought(latest.sql, range)});
     }
     return conditions;
 }

@@ -15,6 +15,7 @@ struct ShownCondition
     QString words;      // for the user to read
     QString text;       // as the statement has it
     QStringList fields; // that it names, without tables and quotes
+    QStringList sought; // texts that it looks for in them
 };
 
 // Those of the latest statement that the first one of the history doesn't have.

@@ -6,6 +6,8 @@
 
 #include <QtGui/QAction>
 #include <QtGui/QActionGroup>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QToolButton>
 
 #include <utility>
 
@@ -121,6 +123,24 @@ void GridToolbar::setButtonVisible(const QString &key, bool on)
         button->isVisible = on;
         apply(*button);
     }
+}
+
+void GridToolbar::setButtonMenu(const QString &key, QMenu &menu)
+{
+    const Button *const button = find(key);
+    auto *const shown = button ? qobject_cast<QToolButton *>(widgetForAction(button->action)) : nullptr;
+    if (!shown)
+        return;
+    // Not of the action, which is the command's alone.
+    shown->setMenu(&menu);
+    shown->setPopupMode(QToolButton::MenuButtonPopup);
+}
+
+QWidget *GridToolbar::shownButton(const QString &key) const
+{
+    const Button *const button = find(key);
+    QWidget *const shown = button ? widgetForAction(button->action) : nullptr;
+    return shown && shown->isVisible() ? shown : nullptr;
 }
 
 bool GridToolbar::isButtonPressed(const QString &key) const

@@ -31,6 +31,10 @@ public:
     void setButtonReason(const QString &key, const QString &reason);
     bool isButtonVisible(const QString &key) const;
     void setButtonVisible(const QString &key, bool on);
+    // A menu that drops down beside the button; not owned.
+    void setButtonMenu(const QString &key, QMenu &menu);
+    // Null while the button has no room on the toolbar.
+    QWidget *shownButton(const QString &key) const;
     bool isButtonPressed(const QString &key) const;
     // Shows a checkable button as pressed or not without running its command. A click does not change it:
     // the command that runs knows what is pressed then.

@@ -1,0 +1,74 @@
+#include "control/parts/HistoryMenu.h"
+
+#include "control/parts/GridTexts.h"
+#include "control/parts/toolbar/GridToolbar.h"
+#include "session/Session.h"
+#include "session/commands/CommandKeys.h"
+#include "session/history/HistorySteps.h"
+
+#include <QtGui/QAction>
+#include <QtGui/QScreen>
+#include <QtGui/QTextDocument>
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int widestStatement = 48; // digits
+
+QString noteText(const HistoryStep &step)
+{
+    return step.note
+               ? GridTexts::HistoryNote.arg(step.note->records).arg(step.note->time.toString(u"HH:mm:ss"_s))
+               : QString();
+}
+
+} // namespace
+
+HistoryMenu::HistoryMenu(GridToolbar &toolbar, Session &session)
+    : QMenu(&toolbar), m_toolbar(toolbar), m_session(session)
+{
+    setObjectName(u"HistoryMenu"_s);
+    setAccessibleName(GridTexts::HistoryName);
+    setToolTipsVisible(true);
+    toolbar.setButtonMenu(CommandKeys::ToPreview, *this);
+    connect(this, &QMenu::aboutToShow, this, &HistoryMenu::fill);
+}
+
+void HistoryMenu::open()
+{
+    const QWidget *const button = m_toolbar.shownButton(CommandKeys::ToPreview);
+    const QWidget &above = button ? *button : m_toolbar;
+    popup(above.mapToGlobal(QPoint(0, above.height())));
+}
+
+void HistoryMenu::fill()
+{
+    clear();
+    // The notes and the marks need the rest of a narrow screen.
+    const int widest = std::min(fontMetrics().horizontalAdvance(u'0') * widestStatement,
+                                m_toolbar.screen()->availableGeometry().width() * 2 / 5);
+    for (const HistoryStep &step : historySteps(m_session)) {
+        // What was added last is at the end, so both ends are read.
+        QString text = fontMetrics().elidedText(step.statement.simplified(), Qt::ElideMiddle, widest);
+        QAction *const action = addAction(text.replace(u'&', "&&"_L1) + u'\t' + noteText(step));
+        action->setToolTip(Qt::convertFromPlainText(step.statement));
+        action->setData(step.steps);
+        action->setCheckable(true);
+        action->setChecked(step.steps == 0);
+        if (step.steps == 0)
+            setActiveAction(action);
+        connect(action, &QAction::triggered, this, [this, steps = step.steps] {
+            if (m_toolbar.isEnabled())
+                goToStep(m_session, steps);
+        });
+    }
+    if (isEmpty())
+        addAction(GridTexts::NoHistory)->setEnabled(false);
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QtWidgets/QMenu>
+
+namespace KOVAVSFDataGridLib {
+
+class GridToolbar;
+class Session;
+
+// The statements that the user can go back and forward to, the newest first, as a drop-down of the button
+// that goes back. It is filled each time it opens.
+class HistoryMenu final : public QMenu
+{
+    Q_OBJECT
+
+public:
+    // All must outlive it; the toolbar owns it.
+    HistoryMenu(GridToolbar &toolbar, Session &session);
+
+    // Opens below the button, or below the toolbar while the button has no room there.
+    void open();
+
+private:
+    void fill();
+
+    GridToolbar &m_toolbar;
+    Session &m_session;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "forms/value/FormattedText.h"
+
+#include <QtCore/QRegularExpression>
+#include <QtGui/QSyntaxHighlighter>
+#include <QtGui/QTextCharFormat>
+
+namespace KOVAVSFDataGridLib {
+
+// Colours the words of a JSON or XML text, in colours that can be read on both themes.
+class FormatHighlighter final : public QSyntaxHighlighter
+{
+    Q_OBJECT
+
+public:
+    FormatHighlighter(QTextDocument *document, FormattedText::Kind kind, bool isDark);
+
+protected:
+    void highlightBlock(const QString &line) override;
+
+private:
+    struct Rule
+    {
+        QRegularExpression words;
+        QColor colour;
+    };
+    QList<Rule> m_rules; // later ones win
+};
+
+} // namespace KOVAVSFDataGridLib

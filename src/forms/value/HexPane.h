@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtWidgets/QAbstractScrollArea>
+
+namespace KOVAVSFDataGridLib {
+
+// Shows bytes in hexadecimal digits and as ASCII, 16 on a line. Only the lines in view are made.
+class HexPane final : public QAbstractScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit HexPane(const QByteArray &bytes, QWidget *parent = nullptr);
+
+    static QString line(const QByteArray &bytes, qsizetype number);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+
+private:
+    const QByteArray m_bytes;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QtGui/QImage>
+#include <QtWidgets/QWidget>
+
+namespace KOVAVSFDataGridLib {
+
+// Shows a picture, made smaller where it has no room.
+class PicturePane final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PicturePane(const QImage &picture, QWidget *parent = nullptr);
+
+    // Null for bytes that are no picture, or one that is too large to be shown.
+    static QImage pictureIn(const QByteArray &bytes);
+    // "PNG"; empty when they are no picture.
+    static QString formatOf(const QByteArray &bytes);
+
+    QSize sizeHint() const override { return m_picture.deviceIndependentSize().toSize(); }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    const QImage m_picture;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "forms/value/FormattedText.h"
+
+#include <QtWidgets/QWidget>
+
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+
+namespace KOVAVSFDataGridLib {
+
+// Shows a text of any length with its line breaks, a piece at a time, and looks for words in all of it.
+class TextPane final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TextPane(const QString &text, QWidget *parent = nullptr);
+
+    void colourAs(FormattedText::Kind kind);
+    // Puts the keyboard into the box of the words to look for.
+    void beginFind();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    qsizetype pieces() const;
+    qsizetype beginOfPiece(qsizetype piece) const;
+    void showPiece(qsizetype piece);
+    void find(bool isForward);
+
+    const QString m_text;
+    QPlainTextEdit *m_shown;
+    QLineEdit *m_words;
+    QLabel *m_found;
+    QLabel *m_pieceLabel;
+    QPushButton *m_previousPiece;
+    QPushButton *m_nextPiece;
+    qsizetype m_piece = -1;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,34 @@
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+#include "session/commands/Command.h"
+
+// Opens the bar that looks for a text in what is shown.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void findShown(Session &session)
+{
+    if (session.window().isSingleRecordShown())
+        session.window().showAllRecords();
+    session.window().showFind();
+}
+
+const Command::Registration registration({
+    .key = u"FindShown"_s,
+    .shortcut = u"Ctrl+G"_s,
+    .otherShortcut = u"F7"_s,
+    .menu = {27, u"查找显示的内容(&G)…"_s},
+    .isInViewer = true,
+    .viewerMenu = {16, u"查找显示的内容(&G)…"_s},
+    .needs = Needs::Records,
+    .record = Record::IsListedAgain,
+    .run = findShown,
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,59 @@
+#include "ado/Recordset.h"
+#include "ado/ValueText.h"
+#include "session/Session.h"
+#include "session/SessionMessages.h"
+#include "session/SessionWindow.h"
+#include "session/commands/Command.h"
+#include "session/commands/CommandKeys.h"
+
+// Shows the current cell's value in a window of its own.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isBinary(ADODB::DataTypeEnum type)
+{
+    return type == ADODB::adBinary || type == ADODB::adVarBinary || type == ADODB::adLongVarBinary;
+}
+
+void showValue(Session &session)
+{
+    const ADODB::Recordset &recordset = *session.result().recordset();
+    const int col = session.window().currentCol();
+    const qint64 record = session.recordOfRow(session.window().Row());
+    if (session.window().Row() < 1 || col < 1 || col > recordset.Fields().Count())
+        return;
+    const ADODB::Field &field = recordset.Fields().Item(col - 1);
+    // In the list of a single record what was written into it and is not saved yet is shown as well.
+    const QVariant value =
+        session.window().isSingleRecordShown() ? field.Value() : recordset.CellValue(record, col - 1);
+    CellValue shown;
+    shown.field = field.Name();
+    shown.place = SessionMessages::PlaceOfValue.arg(field.Name()).arg(session.window().Row());
+    shown.isNull = !value.isValid();
+    // A database without types of its own has binary values in other fields as well.
+    shown.isBinary = isBinary(field.Type()) || value.typeId() == QMetaType::QByteArray;
+    if (shown.isBinary)
+        shown.bytes = value.toByteArray();
+    else
+        shown.text = ADODB::ValueText(value);
+    session.window().showValue(shown);
+}
+
+const Command::Registration registration({
+    .key = CommandKeys::ShowValue,
+    .shortcut = u"F3"_s,
+    .menu = {28, u"查看内容(&V)…"_s},
+    .isInViewer = true,
+    .viewerMenu = {17, u"查看内容(&V)…"_s},
+    .needs = Needs::Records,
+    .record = Record::Stays,
+    .run = showValue,
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,136 @@
+#include "session/history/HistorySteps.h"
+
+#include "ado/Recordset.h"
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+#include "session/statement/FilterManagerRollback.h"
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+using StepBack = bool (colShowSQLSentences::*)(QString &PassFilter, QString *PassKey);
+
+// The latest entry's result is open: shows it as the entry does.
+void showAsEntry(Session &session, const clsShowSQLSentence *entry)
+{
+    session.setFieldView(entry && entry->IsShowAllFields == AllFieldsShown ? FieldView::All
+                                                                           : FieldView::Part);
+    session.layOutColumns();
+    if (session.window().isSingleRecordShown())
+        session.window().showAllRecords();
+}
+
+// The entries after `position`, and those that were ahead already.
+std::vector<clsShowSQLSentence> entriesAfter(Session &session, qsizetype position)
+{
+    const colShowSQLSentences &history = session.history();
+    std::vector<clsShowSQLSentence> entries;
+    for (qsizetype i = position + 1; i <= history.Count(); ++i)
+        entries.push_back(*history.Item(i));
+    std::ranges::copy(session.trail().ahead(history), std::back_inserter(entries));
+    return entries;
+}
+
+void goBackTo(Session &session, qsizetype position, StepBack stepBack)
+{
+    FilterManagerRollback rollback(session);
+    std::vector<clsShowSQLSentence> left = entriesAfter(session, position);
+    while (session.history().Count() > position + 1)
+        session.history().Remove(session.history().Count());
+    QString statement;
+    QString key;
+    if (!(session.history().*stepBack)(statement, &key))
+        return;
+    const auto opened = session.readForReload(statement, true);
+    if (!opened)
+        return;
+    const ADODB::Notifications::Hold hold(session.notifications());
+    session.show(*opened);
+    rollback.keepChanges();
+    session.trail().putAhead(session.history(), std::move(left));
+    session.trail().noteAgain(session.history(), opened->recordset->RecordCount());
+    showAsEntry(session, session.history().Item(key));
+}
+
+bool addAgain(colShowSQLSentences &history, const clsShowSQLSentence &entry)
+{
+    QString key = entry.SQLKey;
+    return history.AddAllSQLMess(entry.SQLFields, entry.SQLWhere, entry.SQLOrder, entry.OrgSQL, entry.ShowSQL,
+                                 entry.IsShowAllFields, entry.AllFields, entry.PartFields, entry.OrderFields,
+                                 entry.CurrPartFields, entry.CurrOrderFields, &key);
+}
+
+} // namespace
+
+std::vector<HistoryStep> historySteps(Session &session)
+{
+    if (session.isFilterManager(nullptr))
+        return {};
+    const colShowSQLSentences &history = session.history();
+    const StatementTrail &trail = session.trail();
+    std::vector<HistoryStep> steps;
+    int step = -static_cast<int>(history.Count());
+    const auto add = [&](const clsShowSQLSentence &entry) {
+        steps.push_back({++step, entry.ShowSQL, trail.noteOf(entry)});
+    };
+    std::ranges::for_each(history, add);
+    if (!steps.empty())
+        std::ranges::for_each(trail.ahead(history), add);
+    std::ranges::reverse(steps);
+    return steps;
+}
+
+void goBack(Session &session, qsizetype steps)
+{
+    const qsizetype count = session.history().Count();
+    // One step back from the first statement shows it once more.
+    if (steps >= 1 && (steps < count || steps == 1))
+        goBackTo(session, std::max<qsizetype>(1, count - steps), &colShowSQLSentences::GetPreviewSQL);
+}
+
+void goToOrigin(Session &session)
+{
+    goBackTo(session, 1, &colShowSQLSentences::GetFirstSQL);
+}
+
+void goForward(Session &session, qsizetype steps)
+{
+    FilterManagerRollback rollback(session);
+    std::vector<clsShowSQLSentence> ahead = session.trail().ahead(session.history());
+    if (steps < 1 || steps > std::ssize(ahead))
+        return;
+    const auto opened = session.readForReload(ahead[static_cast<std::size_t>(steps - 1)].ShowSQL, true);
+    if (!opened)
+        return;
+    const ADODB::Notifications::Hold hold(session.notifications());
+    session.show(*opened);
+    colShowSQLSentences &history = session.history();
+    for (qsizetype i = 0; i < steps; ++i)
+        addAgain(history, ahead[static_cast<std::size_t>(i)]);
+    history.SetConnString(session.texts.connectionString);
+    history.GetCurrSQLFieldsStatus();
+    rollback.keepChanges();
+    ahead.erase(ahead.begin(), ahead.begin() + steps);
+    session.trail().putAhead(history, std::move(ahead));
+    session.trail().noteAgain(history, opened->recordset->RecordCount());
+    showAsEntry(session, history.Item(history.Count()));
+}
+
+void goToStep(Session &session, int steps)
+{
+    session.perform([&] {
+        const ResultWatch watch(session);
+        session.returnToShownRecord();
+        if (!session.whyNoHistory().isEmpty() || !session.saveRecord() || !watch.isUntouched())
+            return;
+        if (steps < 0)
+            goBack(session, -steps);
+        else if (steps > 0)
+            goForward(session, steps);
+    });
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,201 @@
+// Going back and forward over the statements, and the list of them.
+#include "Shop.h"
+
+#include "support/Dialogs.h"
+
+#include <QtCore/QRegularExpression>
+#include <QtTest/QTest>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QToolButton>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class History : public Shop
+{
+protected:
+    void narrow(const QString &words)
+    {
+        WindowAnswers dialogs({[&](QDialog &dialog) { find(dialog, words, u"名称"_s); }});
+        click(u"QuickFilter"_s);
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::AltModifier)
+    {
+        grid.activateWindow(); // a dialog may have been there
+        QCoreApplication::processEvents();
+        table->setFocus();
+        QTest::keyClick(table, key, modifiers);
+    }
+    // 12, then 6, then 3 records: all, with "茶", and of these with "红".
+    void narrowTwice()
+    {
+        ASSERT_TRUE(load());
+        narrow(u"茶"_s);
+        narrow(u"井"_s);
+    }
+    QMenu *openList()
+    {
+        press(Qt::Key_H, Qt::ControlModifier);
+        EXPECT_TRUE(menu->isVisible());
+        return menu;
+    }
+    // The records of each line, the newest first, "*" before what is shown.
+    QStringList listed()
+    {
+        QStringList lines;
+        for (const QAction *action : openList()->actions()) {
+            static const QRegularExpression note(u"\t(\\d+) 条  \\d\\d:\\d\\d:\\d\\d$"_s);
+            lines.append((action->isChecked() ? u"*"_s : QString()) + note.match(action->text()).captured(1));
+        }
+        menu->hide();
+        return lines;
+    }
+    void chooseLine(int line)
+    {
+        openList();
+        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(menu->actions().at(line)).center());
+    }
+
+    QMenu *menu = grid.findChild<QMenu *>(u"HistoryMenu"_s);
+    ExpectedWarning noPopup{u"This plugin does not support"_s};
+};
+
+} // namespace
+
+TEST_F(History, ForwardGoesWhereTheStepBackCameFrom)
+{
+    narrowTwice();
+    const QString latest = statement();
+    ASSERT_EQ(rows(), 1);
+    press(Qt::Key_Left);
+    press(Qt::Key_Left);
+    EXPECT_EQ(rows(), records);
+    press(Qt::Key_Right);
+    EXPECT_EQ(rows(), 6);
+    press(Qt::Key_Right);
+    EXPECT_EQ(rows(), 1);
+    EXPECT_EQ(statement(), latest);
+    EXPECT_EQ(grid.property("SQLFilter").toString().simplified(), latest.simplified());
+    press(Qt::Key_Right);
+    EXPECT_EQ(rows(), 1) << "there is nothing ahead any more";
+    press(Qt::Key_Left);
+    EXPECT_EQ(rows(), 6) << "the history is as it was";
+    press(Qt::Key_Left);
+    EXPECT_EQ(rows(), records);
+}
+
+TEST_F(History, ForwardIsLeftOutOnceSomethingNewIsDone)
+{
+    narrowTwice();
+    const QAction *forward = grid.findChild<QAction *>(u"PopMnuDataAction30"_s);
+    EXPECT_FALSE(forward->isEnabled());
+    press(Qt::Key_Left);
+    EXPECT_TRUE(forward->isEnabled());
+    narrow(u"花"_s);
+    ASSERT_EQ(rows(), 1);
+    EXPECT_FALSE(forward->isEnabled());
+    press(Qt::Key_Right);
+    EXPECT_EQ(texts(u"名称"_s), QStringList(u"花茶"_s));
+    EXPECT_EQ(listed(), (QStringList{u"*1"_s, u"6"_s, u"12"_s}));
+    ASSERT_TRUE(load());
+    EXPECT_FALSE(forward->isEnabled());
+    EXPECT_EQ(listed(), QStringList(u"*12"_s));
+}
+
+TEST_F(History, ForwardShowsTheFieldsThatWereShown)
+{
+    ASSERT_TRUE(load());
+    click(u"Part"_s);
+    narrow(u"茶"_s);
+    ASSERT_EQ(columns(), PartColumns);
+    click(u"ToOrigin"_s);
+    EXPECT_EQ(columns(), AllColumns);
+    press(Qt::Key_Right);
+    EXPECT_EQ(columns(), PartColumns);
+    EXPECT_TRUE(isPressed(u"Part"_s));
+    EXPECT_EQ(rows(), records);
+    press(Qt::Key_Right);
+    EXPECT_EQ(columns(), PartColumns);
+    EXPECT_EQ(rows(), 6);
+}
+
+TEST_F(History, TheOriginLeavesAllStatementsAhead)
+{
+    narrowTwice();
+    click(u"ToOrigin"_s);
+    EXPECT_EQ(listed(), (QStringList{u"1"_s, u"6"_s, u"*12"_s}));
+    press(Qt::Key_Right);
+    EXPECT_EQ(listed(), (QStringList{u"1"_s, u"*6"_s, u"12"_s}));
+}
+
+TEST_F(History, TheListHasTheNewestFirstWithItsRecordsAndLeadsToEach)
+{
+    narrowTwice();
+    EXPECT_EQ(listed(), (QStringList{u"*1"_s, u"6"_s, u"12"_s}));
+    chooseLine(2);
+    EXPECT_EQ(rows(), records);
+    EXPECT_EQ(listed(), (QStringList{u"1"_s, u"6"_s, u"*12"_s}));
+    chooseLine(0);
+    EXPECT_EQ(rows(), 1);
+    EXPECT_EQ(listed(), (QStringList{u"*1"_s, u"6"_s, u"12"_s}));
+    chooseLine(0);
+    EXPECT_EQ(rows(), 1) << "what is shown stays";
+    press(Qt::Key_Left);
+    EXPECT_EQ(rows(), 6) << "no step was left out";
+}
+
+TEST_F(History, TheListDropsDownBesideTheButtonThatGoesBack)
+{
+    narrowTwice();
+    auto *back = qobject_cast<QToolButton *>(toolbar->widgetForAction(button(u"ToPreview"_s)));
+    ASSERT_TRUE(back);
+    EXPECT_EQ(back->menu(), menu);
+    EXPECT_FALSE(button(u"ToPreview"_s)->menu()) << "the action itself is a plain one";
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), 6) << "the button still goes back";
+    openList();
+    EXPECT_EQ(menu->pos().y(), back->mapToGlobal(QPoint(0, back->height())).y());
+    menu->hide();
+}
+
+TEST_F(History, AStepThatFailsLeavesEverythingAsItWas)
+{
+    narrowTwice();
+    press(Qt::Key_Left);
+    database.run(u"ALTER TABLE 商品 RENAME TO 别处"_s);
+    messages.answerNext(QMessageBox::Ok);
+    press(Qt::Key_Right);
+    EXPECT_EQ(rows(), 6);
+    messages.answerNext(QMessageBox::Ok);
+    chooseLine(2);
+    EXPECT_EQ(rows(), 6);
+    database.run(u"ALTER TABLE 别处 RENAME TO 商品"_s);
+    EXPECT_EQ(listed(), (QStringList{u"1"_s, u"*6"_s, u"12"_s}));
+    press(Qt::Key_Right);
+    EXPECT_EQ(rows(), 1);
+}
+
+TEST_F(History, IsEmptyBeforeALoad)
+{
+    menu->popup({});
+    ASSERT_EQ(menu->actions().size(), 1);
+    EXPECT_FALSE(menu->actions().constFirst()->isEnabled());
+    menu->hide();
+}
+
+TEST_F(History, AnUnsavedRecordIsSavedFirst)
+{
+    narrowTwice();
+    click(u"SingleRecord"_s);
+    list->setCurrentIndex(list->model()->index(listedRow(u"城市"_s), 1));
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_F2);
+    edit->clear();
+    QTest::keyClicks(edit, u"Beijing"_s);
+    QTest::keyClick(edit, Qt::Key_Return);
+    chooseLine(2);
+    EXPECT_FALSE(isSingleRecordShown());
+    EXPECT_EQ(texts(u"城市"_s).constFirst(), u"Beijing"_s);
+}
