@@ -15,6 +15,7 @@
 #include "pages/PageDialog.h"
 #include "pages/PropertyPage.h"
 #include "pages/PropertyPages.h"
+#include "print/PrintPreview.h"
 #include "query/fields/colDataFields.h"
 
 #include <QtCore/QDir>
@@ -123,6 +124,34 @@ void takeExport(Photographer &photographer)
     part<QLineEdit>(exporting, u"txtFile"_s)
         .setText(u"/home/user/文档/订单.csv"_s); // not the one of who runs this
     photographer.take(exporting, u"ExportDialog"_s);
+}
+
+// A made-up table in place of a result.
+void takePrint(Photographer &photographer)
+{
+    const QList<QByteArray> rows{"1|2024-01-05|杭州茶叶有限公司|龙井茶|12|1536",
+                                 "2|2024-02-29|昆明食品行|普洱茶|4|944"};
+    PrintPreview::Choices choices;
+    choices.title = u"订单"_s;
+    choices.records = 60;
+    choices.markedRecords = 1;
+    int field = 0;
+    for (const QString &heading :
+         {u"订单编号"_s, u"下单日期"_s, u"客户名称"_s, u"产品名称"_s, u"数量"_s, u"金额"_s})
+        choices.columns.push_back({field++, heading, ADODB::adVarWChar, 0, field == 3 ? 180 : 90});
+    choices.write = [&](RecordWriter &writer, bool, const std::function<bool()> &) {
+        writer.begin(choices.columns);
+        for (qint64 record = 0; record < choices.records; ++record) {
+            std::vector<ADODB::RawValue> cells;
+            const QList<QByteArray> values = rows[record % rows.size()].split('|');
+            for (const QByteArray &value : values)
+                cells.push_back(ADODB::RawValue::fromText(value));
+            writer.row(cells);
+        }
+        writer.end();
+    };
+    PrintPreview preview(choices);
+    photographer.take(preview, u"PrintPreview"_s);
 }
 
 void takeTexts(Photographer &photographer)
@@ -242,6 +271,7 @@ int main(int argc, char **argv)
     takeFind(photographer);
     takeExport(photographer);
     takeFormats(photographer);
+    takePrint(photographer);
     takeTexts(photographer);
     takeBuilder(photographer);
     takePages(photographer);

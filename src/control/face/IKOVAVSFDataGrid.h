@@ -244,4 +244,10 @@ public:
     // restored by the next load of its table in any control with the same key. Empty at first: none is kept.
     virtual QString LayoutKey() const = 0;
     virtual void PutLayoutKey(const QString &strKey) = 0;
+    // Prints the shown columns of the open result, fitted to the width of the page, with the headings on each
+    // page, to a PDF file; an existing file is replaced when the new one is complete. `strOptions` is empty
+    // or `Keyword=value;…`: Records All or Marked; Orientation Auto, Portrait or Landscape (the first of each
+    // is the default); Title and the text above each page, which is the table's name otherwise. Returns false
+    // if the user cancels, or after a message box if it fails.
+    virtual bool PrintData(const QString &strFile, const QString &strOptions) = 0;
 };

@@ -87,6 +87,7 @@ inline const QString CancelOpening = u"取消"_s;
 inline const QString CancelOpeningHint = u"停止读取记录（Esc）"_s;
 inline const QString CancelWritingHint = u"停止（Esc）"_s;
 
+inline const QString NothingToPrint = u"没有打开的结果，无法打印。"_s;
 inline const QString NothingToExport = u"没有打开的结果，无法导出。"_s;
 
 // Misuse of a method, shown to the developer.
