@@ -1,6 +1,7 @@
 #include "HostTexts.h"
 #include "HostWindow.h"
 #include "Options.h"
+#include "QueryPage.h"
 #include "SampleDatabase.h"
 #include "Unattended.h"
 
@@ -8,6 +9,7 @@
 
 #include <QtCore/QLibraryInfo>
 #include <QtCore/QLoggingCategory>
+#include <QtCore/QTimer>
 #include <QtCore/QTranslator>
 #include <QtGui/QIcon>
 #include <QtWidgets/QApplication>
@@ -82,11 +84,13 @@ int badUsage(const QString &error)
 int runUnattended(HostWindow &window, const Options &options)
 {
     Unattended unattended;
+    window.resize(options.size);
     window.show();
-    window.setUpGrid();
+    window.page()->setUpGrid();
     unattended.forgetMessages(); // whether a text can be loaded shows in a moment
-    if (!window.load())
+    if (!window.page()->load())
         return failed(unattended.messages());
+    Q_EMIT window.page()->loaded();
     pressButtons(*window.grid(), options.keys);
     QCoreApplication::processEvents();
 
@@ -94,7 +98,7 @@ int runUnattended(HostWindow &window, const Options &options)
     const QString summary = u"Loaded %1 records, %2 fields in %3 s"_s
                                 .arg(window.grid()->RecordSet()->property("RecordCount").toLongLong())
                                 .arg(table->model()->columnCount())
-                                .arg(window.secondsOfLastLoad(), 0, 'f', 2);
+                                .arg(window.page()->secondsOfLastLoad(), 0, 'f', 2);
     // Standard output belongs to the records when they are asked for.
     std::fprintf(options.print ? stderr : stdout, "%s\n", qUtf8Printable(summary));
     if (options.print && !Unattended::print(*table, options.printRows))
@@ -143,10 +147,13 @@ int run(int argc, char **argv)
     }
     if (!isWatched || options->print || !options->screenshot.isEmpty())
         return runUnattended(window, *options);
-    window.grid()->PutLayoutKey(u"kovagrid"_s);
+    window.keepWhatTheUserDoes();
     window.show();
-    window.loadForm();
-    pressButtons(*window.grid(), options->keys);
+    // The window is seen before its data, which can take longer.
+    QTimer::singleShot(0, &window, [&] {
+        window.page()->loadForm();
+        pressButtons(*window.grid(), options->keys);
+    });
     return QApplication::exec();
 }
 
