@@ -68,6 +68,17 @@ void useChinese(QTranslator &translator)
     QApplication::setFont(font);
 }
 
+void useDarkColours()
+{
+    QApplication::setStyle(u"Fusion"_s);
+    QPalette palette(QColor(50, 50, 50));
+    palette.setColor(QPalette::Base, QColor(36, 36, 36));
+    palette.setColor(QPalette::AlternateBase, QColor(43, 43, 43));
+    palette.setColor(QPalette::Highlight, QColor(48, 140, 198));
+    palette.setColor(QPalette::Link, QColor(80, 160, 240));
+    QApplication::setPalette(palette);
+}
+
 int failed(const QString &text)
 {
     std::fprintf(stderr, "%s\n", qUtf8Printable(text));
@@ -85,6 +96,8 @@ int runUnattended(HostWindow &window, const Options &options)
 {
     Unattended unattended;
     window.resize(options.size);
+    if (!options.print && !options.screenshot.isEmpty()) // the columns as a user gets them, but not his own
+        window.grid()->PutLayoutKey(u"kovagrid --screenshot"_s);
     window.show();
     window.page()->setUpGrid();
     unattended.forgetMessages(); // whether a text can be loaded shows in a moment
@@ -137,6 +150,8 @@ int run(int argc, char **argv)
     std::optional<Options> options = Options::parse(QApplication::arguments().mid(1), error);
     if (!options)
         return badUsage(error);
+    if (options->isDark)
+        useDarkColours();
     if (options->connection.isEmpty())
         useSampleDatabase(*options);
 

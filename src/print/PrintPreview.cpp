@@ -1,6 +1,7 @@
 #include "print/PrintPreview.h"
 
 #include "ado/Error.h"
+#include "forms/Contrast.h"
 #include "forms/Messages.h"
 #include "print/PdfWriter.h"
 #include "print/PrintOptions.h"
@@ -66,6 +67,7 @@ PrintPreview::PrintPreview(Choices choices, QWidget *parent)
       m_next(named(new QToolButton, u"cmdNext"_s)),
       m_place(named(new QLabel, u"lblPlace"_s))
 {
+    makeHintsReadable(*this);
     setObjectName(u"PrintPreview"_s);
     setWindowTitle(PrintTexts::Title);
     m_printer->setPageLayout(PrintOptions().layoutFor(m_choices.columns));

@@ -1,5 +1,5 @@
-// dialog_shots FOLDER: shows each dialog with plausible contents and saves it as a PNG file in the folder, at
-// the scale of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
+// dialog_shots FOLDER [dark]: shows each dialog with plausible contents and saves it as a PNG file in the
+// folder, at the scale of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
 #include "control/connection/ConnectionBuilder.h"
 #include "control/parts/FormatDialog.h"
 #include "control/parts/toolbar/ToolbarIcons.h"
@@ -17,6 +17,7 @@
 #include "pages/PropertyPages.h"
 #include "print/PrintPreview.h"
 #include "query/fields/colDataFields.h"
+#include "support/DarkPalette.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QLibraryInfo>
@@ -256,10 +257,12 @@ void takeFilter(Photographer &photographer)
 int main(int argc, char **argv)
 {
     const QApplication app(argc, argv);
-    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
-        std::fputs("usage: dialog_shots FOLDER\n", stderr);
+    if (argc < 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
+        std::fputs("usage: dialog_shots FOLDER [dark]\n", stderr);
         return 2;
     }
+    if (argc > 2)
+        QApplication::setPalette(KovaTest::darkPalette());
     QTranslator texts;
     if (texts.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&texts);

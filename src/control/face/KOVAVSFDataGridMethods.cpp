@@ -228,8 +228,10 @@ bool KOVAVSFDataGrid::IsLoadData()
     d->layout.save();
     const QPointer<KOVAVSFDataGrid> alive(this);
     const bool isLoaded = session->load();
-    if (isLoaded && alive)
+    if (isLoaded && alive) {
         d->layout.restore();
+        d->focusGrid();
+    }
     return isLoaded;
 }
 

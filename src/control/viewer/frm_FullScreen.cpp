@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 #include "ado/Recordset.h"
+#include "control/input/EndKeys.h"
 #include "control/input/MenuKey.h"
 #include "control/parts/ColumnMenu.h"
 #include "control/parts/DialogQuestions.h"
@@ -9,6 +10,7 @@
 #include "control/parts/lines/FilterBar.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "control/viewer/ViewerTexts.h"
+#include "forms/Contrast.h"
 #include "grid/FlexGrid.h"
 #include "session/commands/CommandKeys.h"
 #include "session/statement/ShownConditions.h"
@@ -60,6 +62,7 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
           *this, *m_parts.Toolbar1, *m_parts.vsfgShowData, *m_session,
           [this](const ColumnCommand &command, int col) { m_session->runOnColumn(command, col); }))
 {
+    makeHintsReadable(*this);
     m_window.setSession(*m_session);
     m_window.setMenu(m_menu);
     setObjectName(u"frm_FullScreen"_s);
@@ -86,6 +89,7 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
     m_parts.vsfgShowData->installEventFilter(this);
     m_parts.vsfgShowData->viewport()->installEventFilter(this);
     m_parts.vsfgShowData->horizontalHeader()->viewport()->installEventFilter(this);
+    new EndKeys(*m_parts.vsfgShowData, *m_session, this);
     m_parts.vsfgShowData->setFocus();
 }
 

@@ -6,7 +6,9 @@
 
 #include <QtGui/QAction>
 #include <QtGui/QActionGroup>
+#include <QtWidgets/QToolButton>
 
+#include <algorithm>
 #include <utility>
 
 namespace KOVAVSFDataGridLib {
@@ -16,6 +18,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int placesOfGroup = 100;
+constexpr int gapBesideCaption = 8; // pixels, more than any style takes
+// Pictures that are alike: what their buttons do is written beside them where there is room.
+const QStringList captionedKeys{u"Filter"_s,    u"QuickFilter"_s, u"FromResult"_s,
+                                u"ToPreview"_s, u"ToOrigin"_s,    u"ToFullTable"_s};
 
 } // namespace
 
@@ -53,6 +59,55 @@ void GridToolbar::addButton(const Command &command, QActionGroup &views, int las
         Q_EMIT buttonClicked(key);
     });
     m_buttons.emplace(key, Button{.action = action, .toolTip = action->toolTip()});
+}
+
+void GridToolbar::resizeEvent(QResizeEvent *event)
+{
+    QToolBar::resizeEvent(event);
+    showCaptions();
+}
+
+bool GridToolbar::event(QEvent *event)
+{
+    const bool isDone = QToolBar::event(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange ||
+        event->type() == QEvent::LayoutRequest)
+        showCaptions();
+    return isDone;
+}
+
+// With and without captions the bar has the same height, so that nothing below it moves.
+QSize GridToolbar::sizeHint() const
+{
+    QSize size = QToolBar::sizeHint();
+    if (m_isCaptioned)
+        return size;
+    size.setHeight(size.height() + std::max(0, heightOfCaption() - iconSize().height()));
+    return size;
+}
+
+int GridToolbar::heightOfCaption() const
+{
+    return fontMetrics().height();
+}
+
+void GridToolbar::showCaptions()
+{
+    int needed = 0;
+    for (const QString &key : captionedKeys) {
+        const Button *const button = find(key);
+        if (button->isVisible)
+            needed += fontMetrics().horizontalAdvance(button->action->text()) + 2 * gapBesideCaption;
+    }
+    const int without = QToolBar::sizeHint().width() - (m_isCaptioned ? needed : 0);
+    const bool hasRoom = without + needed <= width();
+    if (hasRoom == m_isCaptioned)
+        return;
+    m_isCaptioned = hasRoom;
+    for (const QString &key : captionedKeys) {
+        auto *const shown = qobject_cast<QToolButton *>(widgetForAction(find(key)->action));
+        shown->setToolButtonStyle(hasRoom ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+    }
 }
 
 // What a window has no command for isn't offered, nor a separator with no button after the one before it.
