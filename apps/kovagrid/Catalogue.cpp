@@ -22,16 +22,15 @@ bool isMariaDb(const QString &engine)
     return isEngine(engine, "MariaDB"_L1) || isEngine(engine, "MySQL"_L1);
 }
 
-// Three columns: the schema or nothing, the name, and whether it is a view.
+// Three columns: the schema or nothing, the name, and "view" for a view. The first is plain enough for
+// Access's SQL, too.
 QString statementOfTables(const QString &engine)
 {
-    if (isEngine(engine, "SQLite"_L1)) {
-        return u"select '' as s, name as n, type = 'view' as v from sqlite_master "
-               "where type in ('table', 'view') and name not like 'sqlite~_%' escape '~' order by 2"_s;
-    }
+    if (isEngine(engine, "SQLite"_L1))
+        return u"select '', name, type from sqlite_master where type in ('table', 'view') order by name"_s;
     if (isEngine(engine, "Oracle"_L1)) {
-        return u"select '' s, TABLE_NAME n, 0 v from USER_TABLES "
-               "union all select '', VIEW_NAME, 1 from USER_VIEWS order by 2"_s;
+        return u"select '' s, TABLE_NAME n, 'table' v from USER_TABLES "
+               "union all select '', VIEW_NAME, 'view' from USER_VIEWS order by 2"_s;
     }
     QString schema = u"table_schema"_s;
     QString where = u"table_schema not in ('pg_catalog', 'information_schema')"_s;
@@ -43,7 +42,8 @@ QString statementOfTables(const QString &engine)
     } else if (isEngine(engine, "SQL Server"_L1)) {
         schema = u"case when table_schema = schema_name() then '' else table_schema end"_s;
     }
-    return u"select %1 as s, table_name as n, case when table_type like '%VIEW' then 1 else 0 end as v "
+    return u"select %1 as s, table_name as n, case when table_type like '%VIEW' then 'view' else 'table' end "
+           u"as v "
            "from information_schema.tables where %2 order by 1, 2"_s.arg(schema, where);
 }
 
@@ -80,10 +80,12 @@ std::vector<Catalogue::Table> Catalogue::read(const QString &connection, qint32 
     for (qint64 record = 1; record <= found.RecordCount(); ++record) {
         const QString schema = found.CellText(record, 0);
         const QString name = found.CellText(record, 1);
+        if (name.startsWith("sqlite_"_L1))
+            continue; // the engine's own
         const QString dot = schema.isEmpty() ? QString() : u"."_s;
         const QString whole =
             (schema.isEmpty() ? QString() : written(schema, engine)) + dot + written(name, engine);
-        tables.push_back({schema + dot + name, whole, found.CellValue(record, 2).toInt() != 0});
+        tables.push_back({schema + dot + name, whole, found.CellText(record, 2) == "view"_L1});
     }
     return tables;
 }

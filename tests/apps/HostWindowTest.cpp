@@ -7,6 +7,7 @@
 
 #include <KOVAVSFDataGrid>
 
+#include "support/AccessWriter.h"
 #include "support/ExpectedWarnings.h"
 #include "support/MessageAnswers.h"
 #include "support/TestDatabase.h"
@@ -165,6 +166,22 @@ TEST_F(HostWindowTest, ADroppedDatabaseOpensInATabOfItsOwn)
     press(Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(tabs().currentIndex(), 0);
     EXPECT_TRUE(listed().contains(u"orders"_s)) << "the panes follow the tab";
+}
+
+TEST_F(HostWindowTest, ADroppedAccessFileListsItsTables)
+{
+    AccessWriter writer;
+    writer.addTable(u"Order Details"_s, {{u"ID"_s, ADODB::AccessType::LongInteger, 0, 0, 0, true}},
+                    {{1}, {2}});
+    QFile file(home.filePath(u"a.mdb"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(writer.file());
+    file.close();
+    drop(file.fileName());
+    ASSERT_EQ(tabs().count(), 2);
+    EXPECT_EQ(listed(), (QStringList{u"表"_s, u"Order Details"_s}));
+    EXPECT_EQ(statement().statement(), u"select * from [Order Details]"_s);
+    EXPECT_EQ(table().model()->rowCount(), 2);
 }
 
 TEST_F(HostWindowTest, AFileThatIsNoDatabaseOpensNothing)
