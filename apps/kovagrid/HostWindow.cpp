@@ -172,7 +172,7 @@ void HostWindow::addEmptyPage()
 void HostWindow::closePage(int index)
 {
     auto *closed = qobject_cast<QueryPage *>(m_tabs->widget(index));
-    if (!closed || m_tabs->count() < 2 || !closed->close())
+    if (!closed || m_tabs->count() < 2 || !closed->closeResult())
         return;
     m_tabs->removeTab(index);
     closed->deleteLater();
@@ -249,7 +249,7 @@ void HostWindow::dropEvent(QDropEvent *event)
 void HostWindow::closeEvent(QCloseEvent *event)
 {
     for (int index = 0; index < m_tabs->count(); ++index) {
-        if (!qobject_cast<QueryPage *>(m_tabs->widget(index))->close()) {
+        if (!qobject_cast<QueryPage *>(m_tabs->widget(index))->closeResult()) {
             m_tabs->setCurrentIndex(index);
             event->ignore();
             return;

@@ -194,7 +194,7 @@ void QueryPage::openTable(const QString &name)
     loadForm();
 }
 
-bool QueryPage::close()
+bool QueryPage::closeResult()
 {
     m_grid->ClearObject();
     return m_grid->RecordSet() == nullptr;

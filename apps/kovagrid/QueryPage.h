@@ -29,7 +29,7 @@ public:
     // Puts a statement for a table into the form and loads it.
     void openTable(const QString &name);
     // Releases the result. False when the user stays with unsaved changes.
-    bool close();
+    bool closeResult();
 
     KOVAVSFDataGrid *grid() const { return m_grid; }
     StatementEdit *statement() const { return m_sql; }
