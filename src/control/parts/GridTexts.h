@@ -54,7 +54,7 @@ inline const QString NoRecordsFound = u"没有符合条件的记录。按“后�
 inline const QString ToolbarName = u"数据命令"_s;
 inline const QString GridName = u"数据"_s;
 inline const QString MenuName = u"数据菜单"_s;
-inline const QString FilteredBy = u"筛选条件：%1"_s;
+inline const QString FilteredBy = u"筛选条件“%1”"_s;
 inline const QString BetweenDescriptions = u"；"_s;
 inline const QString SingleRecordName = u"当前记录"_s;
 

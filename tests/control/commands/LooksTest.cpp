@@ -23,6 +23,12 @@ struct Looks : Shop
         return qobject_cast<QToolButton *>(toolbar->widgetForAction(button(key)))->toolButtonStyle();
     }
     QLabel &line() const { return *grid.findChild<QLabel *>(u"lblStatement"_s); }
+    // Views lay their headings out in an event of their own.
+    int rowHeadingWidth() const
+    {
+        QCoreApplication::processEvents();
+        return table->verticalHeader()->width();
+    }
     int width(const QString &heading) const
     {
         for (int section = 0; section < table->model()->columnCount(); ++section) {
@@ -104,13 +110,13 @@ TEST_F(Looks, NoToolTipIsHigherThanAThirdOfTheScreen)
 TEST_F(Looks, RowHeadingsHaveRoomForThreeDigits)
 {
     ASSERT_TRUE(load(u"SELECT 1 AS A"_s, {}));
-    const int few = table->verticalHeader()->width();
+    const int few = rowHeadingWidth();
     ASSERT_TRUE(
         load(u"WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 999) SELECT I FROM N"_s, {}));
-    EXPECT_EQ(table->verticalHeader()->width(), few);
+    EXPECT_EQ(rowHeadingWidth(), few);
     ASSERT_TRUE(
         load(u"WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 9999) SELECT I FROM N"_s, {}));
-    EXPECT_GT(table->verticalHeader()->width(), few);
+    EXPECT_GT(rowHeadingWidth(), few);
 }
 
 TEST_F(Looks, WhereLayoutsAreKeptTheFirstWidthsFitTheContents)

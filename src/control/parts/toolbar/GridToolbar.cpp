@@ -88,7 +88,8 @@ QSize GridToolbar::sizeHint() const
 
 int GridToolbar::heightOfCaption() const
 {
-    return fontMetrics().height();
+    // As a button measures its text, with the leading.
+    return fontMetrics().size(Qt::TextShowMnemonic, find(captionedKeys.front())->action->text()).height();
 }
 
 void GridToolbar::showCaptions()
