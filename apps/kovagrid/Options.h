@@ -20,7 +20,7 @@ struct Options
     qint32 dbType = 1;     // AllDBType
     qint32 tableType = 0;  // TBLType
     bool print = false;
-    bool isDark = false; // whatever the system's colours are
+    bool isDark = false;          // whatever the system's colours are
     std::optional<int> printRows; // all of them when not given
 
     // Nothing when the arguments (without the program's name) make no sense; `error` then says why.

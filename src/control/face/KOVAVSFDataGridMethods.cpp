@@ -12,10 +12,10 @@
 #include "grid/FlexGrid.h"
 #include "print/PdfWriter.h"
 #include "print/PrintOptions.h"
-#include "session/records/PrintResult.h"
 #include "session/commands/CommandKeys.h"
 #include "session/layout/SavedLayout.h"
 #include "session/records/ExportResult.h"
+#include "session/records/PrintResult.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>

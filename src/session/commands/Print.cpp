@@ -1,8 +1,8 @@
 #include "ado/Recordset.h"
-#include "session/records/PrintResult.h"
 #include "session/ResultWatch.h"
 #include "session/Session.h"
 #include "session/commands/Command.h"
+#include "session/records/PrintResult.h"
 
 // Asks how the shown columns are to be printed, and prints them or writes a PDF file.
 

@@ -3,11 +3,11 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "query/derivation/SqlText.h"
-#include "session/records/ExportResult.h"
-#include "session/records/LongWork.h"
 #include "session/Session.h"
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
+#include "session/records/ExportResult.h"
+#include "session/records/LongWork.h"
 
 #include <algorithm>
 
