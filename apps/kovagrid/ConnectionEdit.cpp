@@ -49,6 +49,14 @@ ConnectionEdit::ConnectionEdit(const QString &connection, QWidget *parent)
     connect(this, &QLineEdit::textEdited, this, &ConnectionEdit::edit);
 }
 
+void ConnectionEdit::setConnection(const QString &connection)
+{
+    m_connection = connection;
+    m_seen = masked(connection);
+    setText(m_seen);
+    setCursorPosition(0);
+}
+
 QString ConnectionEdit::masked(const QString &connection)
 {
     QString seen = connection;

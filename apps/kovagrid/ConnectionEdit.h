@@ -13,6 +13,7 @@ public:
 
     // The text with its passwords.
     const QString &connection() const { return m_connection; }
+    void setConnection(const QString &connection);
 
     // The text with a dot in place of each character of its passwords.
     static QString masked(const QString &connection);

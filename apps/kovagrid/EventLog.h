@@ -2,6 +2,8 @@
 
 #include <QtWidgets/QPlainTextEdit>
 
+class KOVAVSFDataGrid;
+
 // Lists what happened, the newest below.
 class EventLog : public QPlainTextEdit
 {
@@ -11,4 +13,6 @@ public:
     explicit EventLog(QWidget *parent = nullptr);
 
     void add(const QString &line);
+    // Adds each event of the grid from now on while this log can be seen.
+    void listenTo(const KOVAVSFDataGrid &grid);
 };

@@ -1,202 +1,264 @@
 #include "HostWindow.h"
 
-#include "ConnectionEdit.h"
+#include "Catalogue.h"
 #include "EventLog.h"
-#include "SampleDatabase.h"
+#include "HelpWindow.h"
+#include "HostTexts.h"
+#include "PicturePane.h"
+#include "QueryPage.h"
+#include "Settings.h"
+#include "StatementEdit.h"
+#include "TableList.h"
 
 #include <KOVAVSFDataGrid>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QFileInfo>
-#include <QtWidgets/QBoxLayout>
-#include <QtWidgets/QComboBox>
+#include <QtCore/QMimeData>
+#include <QtCore/QSettings>
+#include <QtGui/QDropEvent>
+#include <QtGui/QScreen>
 #include <QtWidgets/QDockWidget>
-#include <QtWidgets/QGridLayout>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
-#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTabWidget>
+#include <QtWidgets/QToolButton>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
-HostWindow::HostWindow(const Options &options) : m_grid(new KOVAVSFDataGrid), m_tableType(options.tableType)
+namespace {
+
+const QString GeometryKey = u"geometry"_s;
+const QString StateKey = u"state"_s;
+
+// The files that are dragged; none when something else is.
+QStringList filesIn(const QMimeData &data)
 {
-    setWindowTitle(u"KOVAVSFDataGrid 数据表格"_s);
-    auto *centre = new QWidget;
-    auto *rows = new QVBoxLayout(centre);
-    rows->addWidget(makeForm(options));
-    rows->addWidget(m_grid, 1);
-    setCentralWidget(centre);
+    QStringList files;
+    for (const QUrl &url : data.urls()) {
+        if (url.isLocalFile())
+            files.append(url.toLocalFile());
+    }
+    return files;
+}
+
+} // namespace
+
+HostWindow::HostWindow(const Options &options)
+    : m_tabs(new QTabWidget), m_tables(new TableList), m_picture(new PicturePane), m_log(new EventLog)
+{
+    setWindowTitle(HostTexts::WindowTitle);
+    setAcceptDrops(true);
+    m_tabs->setDocumentMode(true);
+    m_tabs->setTabsClosable(true);
+    m_tabs->setMovable(true);
+    m_tabs->setTabBarAutoHide(true);
+    connect(m_tabs, &QTabWidget::tabCloseRequested, this, &HostWindow::closePage);
+    connect(m_tabs, &QTabWidget::currentChanged, this, &HostWindow::showPage);
+    connect(m_tables, &TableList::opened, this, [this](const QString &name) {
+        if (page())
+            page()->openTable(name);
+    });
+    setCentralWidget(m_tabs);
     makeDocks();
     makeMenus();
-    listenToGrid();
-    resize(1280, 800);
+    addPage(options);
+    fitToScreen();
 }
 
 HostWindow::~HostWindow() = default;
 
-QWidget *HostWindow::makeForm(const Options &options)
+QueryPage *HostWindow::page() const
 {
-    m_connection = new ConnectionEdit(options.connection);
-    m_dbType = new QComboBox;
-    m_dbType->addItem(u"Access / SQLite"_s, KOVAVSFDataGrid::dbAccess);
-    m_dbType->addItem(u"Oracle"_s, KOVAVSFDataGrid::dbOracle);
-    m_dbType->addItem(u"SQL Server"_s, KOVAVSFDataGrid::dbSQLServer);
-    m_dbType->setCurrentIndex(m_dbType->findData(options.dbType));
-    m_sql = new QLineEdit(options.sql);
-    m_part = new QLineEdit(options.part);
-    m_sort = new QLineEdit(options.sort);
-    auto *loadButton = new QPushButton(u"加载(&L)"_s);
-    connect(loadButton, &QPushButton::clicked, this, &HostWindow::loadForm);
+    return qobject_cast<QueryPage *>(m_tabs->currentWidget());
+}
 
-    auto *form = new QWidget;
-    auto *grid = new QGridLayout(form);
-    grid->setContentsMargins({});
-    const auto addField = [grid](const QString &label, QWidget *field, int row, int column, int span) {
-        auto *text = new QLabel(label);
-        text->setBuddy(field);
-        grid->addWidget(text, row, column);
-        grid->addWidget(field, row, column + 1, 1, span);
-    };
-    addField(u"连接字符串(&C):"_s, m_connection, 0, 0, 3);
-    addField(u"数据库类型(&D):"_s, m_dbType, 0, 4, 1);
-    addField(u"查询语句(&S):"_s, m_sql, 1, 0, 5);
-    addField(u"部分字段(&P):"_s, m_part, 2, 0, 3);
-    addField(u"排序(&O):"_s, m_sort, 2, 4, 1);
-    grid->addWidget(loadButton, 0, 6, 3, 1);
-    loadButton->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    grid->setColumnStretch(1, 3);
-    grid->setColumnStretch(5, 1);
-    return form;
+KOVAVSFDataGrid *HostWindow::grid() const
+{
+    return page()->grid();
+}
+
+void HostWindow::fitToScreen()
+{
+    const QSize free = screen()->availableSize();
+    resize(std::min(1280, free.width() * 19 / 20), std::min(800, free.height() * 9 / 10));
 }
 
 void HostWindow::makeDocks()
 {
-    m_picture = new QLabel(u"（无图片）"_s);
-    m_picture->setAlignment(Qt::AlignCenter);
-    m_picture->setMinimumSize(160, 96);
-    m_log = new EventLog;
-    const auto addDock = [this](const QString &title, QWidget *widget) {
+    const auto addDock = [this](Qt::DockWidgetArea area, const QString &name, const QString &title,
+                                QWidget *widget) {
         auto *dock = new QDockWidget(title, this);
+        dock->setObjectName(name);
         dock->setWidget(widget);
-        addDockWidget(Qt::BottomDockWidgetArea, dock);
+        addDockWidget(area, dock);
+        m_docks.append(dock);
         return dock;
     };
-    m_docks = {addDock(u"图片"_s, m_picture), addDock(u"事件"_s, m_log)};
-    resizeDocks(m_docks, {1, 3}, Qt::Horizontal);
-    resizeDocks(m_docks, {130, 130}, Qt::Vertical);
+    addDock(Qt::LeftDockWidgetArea, u"tablesPane"_s, HostTexts::TablesPane, m_tables);
+    addDock(Qt::LeftDockWidgetArea, u"picturePane"_s, HostTexts::PicturePane, m_picture);
+    addDock(Qt::BottomDockWidgetArea, u"eventsPane"_s, HostTexts::EventsPane, m_log)->hide();
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    resizeDocks({m_docks[0], m_docks[1]}, {3, 1}, Qt::Vertical);
+    resizeDocks({m_docks[0]}, {180}, Qt::Horizontal);
 }
 
 void HostWindow::makeMenus()
 {
     QMenu *file = menuBar()->addMenu(u"文件(&F)"_s);
-    file->addAction(u"加载(&L)"_s, QKeySequence::Refresh, this, &HostWindow::loadForm);
+    file->addAction(u"打开数据库文件(&O)…"_s, QKeySequence::Open, this, &HostWindow::chooseFile);
+    file->addAction(u"新建标签页(&T)"_s, QKeySequence(u"Ctrl+T"_s), this, &HostWindow::addEmptyPage);
+    file->addAction(u"关闭标签页(&W)"_s, QKeySequence(u"Ctrl+W"_s), this,
+                    [this] { closePage(m_tabs->currentIndex()); });
+    file->addSeparator();
+    file->addAction(u"重新加载(&L)"_s, QKeySequence::Refresh, this, [this] { page()->loadForm(); });
+    file->addAction(u"刷新表的列表(&R)"_s, this,
+                    [this] { m_tables->showTablesOf(page()->connection(), page()->dbType(), true); });
     file->addSeparator();
     file->addAction(u"退出(&X)"_s, QKeySequence::Quit, this, &QWidget::close);
-    QMenu *view = menuBar()->addMenu(u"视图(&V)"_s); // brings a closed window part back
+    QMenu *view = menuBar()->addMenu(u"视图(&V)"_s); // brings a closed pane back
     for (QDockWidget *dock : m_docks)
         view->addAction(dock->toggleViewAction());
+    view->addSeparator();
+    view->addAction(u"切换焦点(&F)"_s, QKeySequence(u"F6"_s), this, &HostWindow::focusNextPart);
     QMenu *help = menuBar()->addMenu(u"帮助(&H)"_s);
+    help->addAction(u"快捷键(&K)"_s, QKeySequence(u"F1"_s), this, [this] { showShortcuts(this); });
+    help->addSeparator();
     help->addAction(u"关于 KOVAVSFDataGrid(&A)"_s, this, [this] {
-        QMessageBox::about(this, u"关于 KOVAVSFDataGrid"_s,
+        QMessageBox::about(this, HostTexts::About,
                            u"KOVAVSFDataGrid %1\n\n查看查询结果，随意筛选和排序。"_s.arg(
                                QCoreApplication::applicationVersion()));
     });
     help->addAction(u"关于 Qt(&Q)"_s, this, [this] { QMessageBox::aboutQt(this); });
 }
 
-// Every event but DataMouseMove, which would drown the others.
-void HostWindow::listenToGrid()
+QueryPage *HostWindow::addPage(const Options &options)
 {
-    const auto log = [this](const QString &line) { m_log->add(line); };
-    connect(m_grid, &KOVAVSFDataGrid::DataMouseDown, this,
-            [log](qint16 &button, qint16 &shift, float &x, float &y) {
-                log(u"DataMouseDown %1 %2 (%3, %4)"_s.arg(button).arg(shift).arg(x).arg(y));
-            });
-    connect(m_grid, &KOVAVSFDataGrid::DataMouseUp, this,
-            [log](qint16 &button, qint16 &shift, float &x, float &y) {
-                log(u"DataMouseUp %1 %2 (%3, %4)"_s.arg(button).arg(shift).arg(x).arg(y));
-            });
-    connect(m_grid, &KOVAVSFDataGrid::HeadClick, this,
-            [log](qint16 col) { log(u"HeadClick %1"_s.arg(col)); });
-    connect(m_grid, &KOVAVSFDataGrid::DataClick, this, [this, log] {
-        log(u"DataClick"_s);
-        showPicture();
+    auto *added = new QueryPage(options);
+    KOVAVSFDataGrid *const grid = added->grid();
+    if (m_isKept)
+        grid->PutLayoutKey(u"kovagrid"_s);
+    m_log->listenTo(*grid);
+    const auto showPicture = [this, grid] {
+        if (page() && page()->grid() == grid && m_picture->isVisible())
+            m_picture->showRecordOf(*grid);
+    };
+    connect(grid, &KOVAVSFDataGrid::DataClick, this, showPicture);
+    connect(grid, &KOVAVSFDataGrid::RecordChanged, this, showPicture);
+    connect(grid, &KOVAVSFDataGrid::RecordsetChanged, this, showPicture);
+    connect(added, &QueryPage::loaded, this, [this, added] {
+        m_tabs->setTabText(m_tabs->indexOf(added), added->caption());
+        if (added == page())
+            showPage();
     });
-    connect(m_grid, &KOVAVSFDataGrid::DataDblClick, this, [log] { log(u"DataDblClick"_s); });
-    connect(m_grid, &KOVAVSFDataGrid::DataKeyDown, this,
-            [log](qint16 &key, qint16 &shift) { log(u"DataKeyDown %1 %2"_s.arg(key).arg(shift)); });
-    connect(m_grid, &KOVAVSFDataGrid::MouseUp, this,
-            [log](qint16 &button, qint16 &shift, float &x, float &y) {
-                log(u"MouseUp %1 %2 (%3, %4)"_s.arg(button).arg(shift).arg(x).arg(y));
-            });
-    connect(m_grid, &KOVAVSFDataGrid::ShowFieldsChange, this,
-            [log](const QString &sql) { log(u"ShowFieldsChange "_s + sql); });
-    connect(m_grid, &KOVAVSFDataGrid::QurryFilter, this, [log](qint32 &cancel, const QString &lastFilter) {
-        log(u"QurryFilter Cancel=%1 %2"_s.arg(cancel).arg(lastFilter));
-    });
-    connect(m_grid, &KOVAVSFDataGrid::RecordChanged, this, [log](qint32 reason, qint32 position) {
-        log(u"RecordChanged %1 %2"_s.arg(reason).arg(position));
-    });
-    connect(m_grid, &KOVAVSFDataGrid::RecordsetChanged, this,
-            [log](qint32 reason) { log(u"RecordsetChanged %1"_s.arg(reason)); });
-    connect(m_grid, &KOVAVSFDataGrid::DataDBLClickOneCell, this,
-            [log](qint32 col, qint32 row) { log(u"DataDBLClickOneCell %1 %2"_s.arg(col).arg(row)); });
-    connect(m_grid, &KOVAVSFDataGrid::DataDBLClickOneRow, this,
-            [log](qint32 row) { log(u"DataDBLClickOneRow %1"_s.arg(row)); });
-    connect(m_grid, &KOVAVSFDataGrid::HostError, this, [log](qint32 number, const QString &description) {
-        log(u"HostError %1 %2"_s.arg(number).arg(description));
-    });
+    m_tabs->setCurrentIndex(m_tabs->addTab(added, added->caption()));
+    return added;
 }
 
-// All that a host has to do: say what to show, then load. ConnectionString comes first, since writing it
-// empties the texts of the statement.
-void HostWindow::setUpGrid()
+// On the same database, where there is one.
+void HostWindow::addEmptyPage()
 {
-    m_grid->PutConnectionString(m_connection->connection());
-    m_grid->PutDBType(m_dbType->currentData().toInt());
-    m_grid->PutTableType(m_tableType);
-    m_grid->PutSQLShow(m_sql->text());
-    m_grid->PutSQLPartDisplay(m_part->text());
-    m_grid->PutSQLSort(m_sort->text());
-    m_grid->PutPicField(SampleDatabase::pictureField());
+    Options options;
+    if (page()) {
+        options.connection = page()->connection();
+        options.dbType = page()->dbType();
+    }
+    addPage(options)->statement()->setFocus();
 }
 
-void HostWindow::loadForm()
+void HostWindow::closePage(int index)
 {
-    setUpGrid();
-    load();
+    auto *closed = qobject_cast<QueryPage *>(m_tabs->widget(index));
+    if (!closed || m_tabs->count() < 2 || !closed->closeResult())
+        return;
+    m_tabs->removeTab(index);
+    closed->deleteLater();
 }
 
-bool HostWindow::load()
+// The panes follow the tab.
+void HostWindow::showPage()
 {
-    QElapsedTimer timer;
-    timer.start();
-    const bool isLoaded = m_grid->IsLoadData();
-    if (isLoaded)
-        m_grid->setFocus();
-    m_seconds = static_cast<double>(timer.nsecsElapsed()) * 1e-9;
-    return isLoaded;
+    if (!page() || !isVisible())
+        return;
+    m_tables->showTablesOf(page()->connection(), page()->dbType());
+    m_picture->showRecordOf(*grid());
 }
 
-// The grid leaves the picture of the clicked record in this file; a record without one leaves no file.
-void HostWindow::showPicture()
+void HostWindow::openFile(const QString &path)
 {
-    const QFileInfo file(QCoreApplication::applicationDirPath() + u"/PicRecord.bmp"_s);
-    // One from before, in a folder that can't be written any more, is another record's.
-    const bool isOld = file.lastModified() < m_started;
-    const QPixmap picture = isOld ? QPixmap() : QPixmap(file.filePath());
-    if (picture.isNull())
-        m_picture->setText(u"（无图片）"_s);
+    const std::optional<QString> connection = Catalogue::connectionForFile(path);
+    if (!connection) {
+        QMessageBox::warning(this, HostTexts::OpenFile,
+                             HostTexts::NotADatabase.arg(QFileInfo(path).fileName()));
+        return;
+    }
+    Options options;
+    options.connection = *connection;
+    QueryPage *const opened = addPage(options);
+    const QString first = m_tables->firstName();
+    if (!first.isEmpty())
+        opened->openTable(first);
+}
+
+void HostWindow::chooseFile()
+{
+    const QString path =
+        QFileDialog::getOpenFileName(this, HostTexts::OpenFile, {}, HostTexts::DatabaseFiles);
+    if (!path.isEmpty())
+        openFile(path);
+}
+
+void HostWindow::focusNextPart()
+{
+    const QWidget *const now = focusWidget();
+    if (now == m_tables)
+        grid()->setFocus();
+    else if (now == page()->statement() && m_tables->isVisible())
+        m_tables->setFocus();
+    else if (now == page()->statement())
+        grid()->setFocus();
     else
-        m_picture->setPixmap(
-            picture.scaled(m_picture->size(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        page()->statement()->setFocus();
+}
+
+void HostWindow::keepWhatTheUserDoes()
+{
+    m_isKept = true;
+    grid()->PutLayoutKey(u"kovagrid"_s);
+    const auto settings = userSettings();
+    restoreGeometry(settings->value(GeometryKey).toByteArray());
+    restoreState(settings->value(StateKey).toByteArray());
+}
+
+void HostWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!filesIn(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void HostWindow::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    for (const QString &file : filesIn(*event->mimeData()))
+        openFile(file);
 }
 
 void HostWindow::closeEvent(QCloseEvent *event)
 {
-    m_grid->ClearObject();
+    for (int index = 0; index < m_tabs->count(); ++index) {
+        if (!qobject_cast<QueryPage *>(m_tabs->widget(index))->closeResult()) {
+            m_tabs->setCurrentIndex(index);
+            event->ignore();
+            return;
+        }
+    }
+    if (m_isKept) {
+        const auto settings = userSettings();
+        settings->setValue(GeometryKey, saveGeometry());
+        settings->setValue(StateKey, saveState());
+    }
     QMainWindow::closeEvent(event);
 }

@@ -2,18 +2,18 @@
 
 #include "Options.h"
 
-#include <QtCore/QDateTime>
 #include <QtWidgets/QMainWindow>
 
-class ConnectionEdit;
 class EventLog;
 class KOVAVSFDataGrid;
-class QComboBox;
+class PicturePane;
 class QDockWidget;
-class QLabel;
-class QLineEdit;
+class QTabWidget;
+class QueryPage;
+class TableList;
 
-// A form with the grid on it: what to load above, the record's picture and the raised events below.
+// Tabs, each with a statement and its result, and panes for the tables, the record's picture and the raised
+// events around them.
 class HostWindow : public QMainWindow
 {
     Q_OBJECT
@@ -22,35 +22,33 @@ public:
     explicit HostWindow(const Options &options);
     ~HostWindow() override;
 
-    // Hands what stands in the form to the grid, which tells at once of a statement it can't make out.
-    void setUpGrid();
-    // Loads it and gives it the keyboard. False when it could not be loaded; the grid has shown the user why.
-    bool load();
-    // Both, as the button does.
-    void loadForm();
-    KOVAVSFDataGrid *grid() const { return m_grid; }
-    double secondsOfLastLoad() const { return m_seconds; }
+    // From here on the window is its user's: places of its parts and layouts of columns are kept.
+    void keepWhatTheUserDoes();
+    QueryPage *page() const;
+    KOVAVSFDataGrid *grid() const;
+    // Opens a database file in a tab of its own; its first table is shown.
+    void openFile(const QString &path);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
-    QWidget *makeForm(const Options &options);
     void makeDocks();
     void makeMenus();
-    void listenToGrid();
-    void showPicture();
+    void fitToScreen();
+    QueryPage *addPage(const Options &options);
+    void addEmptyPage();
+    void closePage(int index);
+    void showPage();
+    void chooseFile();
+    void focusNextPart();
 
-    KOVAVSFDataGrid *m_grid;
-    ConnectionEdit *m_connection;
-    QComboBox *m_dbType;
-    QLineEdit *m_sql;
-    QLineEdit *m_part;
-    QLineEdit *m_sort;
-    QLabel *m_picture;
+    QTabWidget *m_tabs;
+    TableList *m_tables;
+    PicturePane *m_picture;
     EventLog *m_log;
     QList<QDockWidget *> m_docks;
-    qint32 m_tableType;
-    double m_seconds = 0;
-    const QDateTime m_started = QDateTime::currentDateTime();
+    bool m_isKept = false;
 };

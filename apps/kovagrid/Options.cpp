@@ -1,6 +1,7 @@
 #include "Options.h"
 
 #include <QtCore/QCommandLineParser>
+#include <QtCore/QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -39,7 +40,7 @@ QString Options::usage()
            u"TEXT]\n"
            "                [--sort TEXT] [--table-type table|view|sql] [--do KEY[,KEY...]] [--print "
            "[ROWS]]\n"
-           "                [--screenshot FILE]\n"
+           "                [--screenshot FILE] [--size WIDTHxHEIGHT] [--dark]\n"
            "Without --connection, it opens a sample database, which it creates on first use.\n"
            "Without a display, or with --screenshot, it prints \"Loaded N records, M fields in S s\" to\n"
            "standard output. With --print, it prints that line to standard error instead, and only the\n"
@@ -53,8 +54,9 @@ std::optional<Options> Options::parse(const QStringList &arguments, QString &err
         parser.addOption(QCommandLineOption(name, {}, u"value"_s));
     };
     for (const QString &name : {u"connection"_s, u"db-type"_s, u"sql"_s, u"part"_s, u"sort"_s,
-                                u"table-type"_s, u"do"_s, u"print"_s, u"screenshot"_s})
+                                u"table-type"_s, u"do"_s, u"print"_s, u"screenshot"_s, u"size"_s})
         add(name);
+    parser.addOption(QCommandLineOption(u"dark"_s));
     if (!parser.parse(QStringList{u"kovagrid"_s} + withExplicitPrintRows(arguments))) {
         error = parser.errorText();
         return {};
@@ -71,6 +73,16 @@ std::optional<Options> Options::parse(const QStringList &arguments, QString &err
     options.sort = parser.value(u"sort"_s);
     options.screenshot = parser.value(u"screenshot"_s);
     options.print = parser.isSet(u"print"_s);
+    options.isDark = parser.isSet(u"dark"_s);
+    if (parser.isSet(u"size"_s)) {
+        static const QRegularExpression size(u"^(\\d{2,4})x(\\d{2,4})$"_s);
+        const QRegularExpressionMatch match = size.match(parser.value(u"size"_s));
+        if (!match.hasMatch()) {
+            error = u"--size must be WIDTHxHEIGHT"_s;
+            return {};
+        }
+        options.size = {match.captured(1).toInt(), match.captured(2).toInt()};
+    }
 
     const auto choice = [&](const QString &name, const QStringList &names, qint32 &value, qint32 first) {
         if (!parser.isSet(name))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QSize>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -15,9 +16,11 @@ struct Options
     QString sort;
     QStringList keys; // toolbar buttons to press after the load
     QString screenshot;
-    qint32 dbType = 1;    // AllDBType
-    qint32 tableType = 0; // TBLType
+    QSize size{1280, 800}; // of the window in the picture
+    qint32 dbType = 1;     // AllDBType
+    qint32 tableType = 0;  // TBLType
     bool print = false;
+    bool isDark = false;          // whatever the system's colours are
     std::optional<int> printRows; // all of them when not given
 
     // Nothing when the arguments (without the program's name) make no sense; `error` then says why.

@@ -315,8 +315,3 @@ QString SampleDatabase::defaultPartStatement()
 {
     return u"select 订单编号,下单日期,客户名称,产品名称,数量,金额 from 订单"_s;
 }
-
-QString SampleDatabase::pictureField()
-{
-    return u"图片"_s;
-}

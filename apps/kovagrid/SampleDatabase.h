@@ -12,6 +12,5 @@ QString path();
 
 QString defaultStatement();
 QString defaultPartStatement();
-QString pictureField();
 
 } // namespace SampleDatabase

@@ -1,6 +1,7 @@
 #include "HostTexts.h"
 #include "HostWindow.h"
 #include "Options.h"
+#include "QueryPage.h"
 #include "SampleDatabase.h"
 #include "Unattended.h"
 
@@ -8,6 +9,7 @@
 
 #include <QtCore/QLibraryInfo>
 #include <QtCore/QLoggingCategory>
+#include <QtCore/QTimer>
 #include <QtCore/QTranslator>
 #include <QtGui/QIcon>
 #include <QtWidgets/QApplication>
@@ -66,6 +68,17 @@ void useChinese(QTranslator &translator)
     QApplication::setFont(font);
 }
 
+void useDarkColours()
+{
+    QApplication::setStyle(u"Fusion"_s);
+    QPalette palette(QColor(50, 50, 50));
+    palette.setColor(QPalette::Base, QColor(36, 36, 36));
+    palette.setColor(QPalette::AlternateBase, QColor(43, 43, 43));
+    palette.setColor(QPalette::Highlight, QColor(48, 140, 198));
+    palette.setColor(QPalette::Link, QColor(80, 160, 240));
+    QApplication::setPalette(palette);
+}
+
 int failed(const QString &text)
 {
     std::fprintf(stderr, "%s\n", qUtf8Printable(text));
@@ -82,11 +95,15 @@ int badUsage(const QString &error)
 int runUnattended(HostWindow &window, const Options &options)
 {
     Unattended unattended;
+    window.resize(options.size);
+    if (!options.print && !options.screenshot.isEmpty()) // the columns as a user gets them, but not his own
+        window.grid()->PutLayoutKey(u"kovagrid --screenshot"_s);
     window.show();
-    window.setUpGrid();
+    window.page()->setUpGrid();
     unattended.forgetMessages(); // whether a text can be loaded shows in a moment
-    if (!window.load())
+    if (!window.page()->load())
         return failed(unattended.messages());
+    Q_EMIT window.page()->loaded();
     pressButtons(*window.grid(), options.keys);
     QCoreApplication::processEvents();
 
@@ -94,7 +111,7 @@ int runUnattended(HostWindow &window, const Options &options)
     const QString summary = u"Loaded %1 records, %2 fields in %3 s"_s
                                 .arg(window.grid()->RecordSet()->property("RecordCount").toLongLong())
                                 .arg(table->model()->columnCount())
-                                .arg(window.secondsOfLastLoad(), 0, 'f', 2);
+                                .arg(window.page()->secondsOfLastLoad(), 0, 'f', 2);
     // Standard output belongs to the records when they are asked for.
     std::fprintf(options.print ? stderr : stdout, "%s\n", qUtf8Printable(summary));
     if (options.print && !Unattended::print(*table, options.printRows))
@@ -133,6 +150,8 @@ int run(int argc, char **argv)
     std::optional<Options> options = Options::parse(QApplication::arguments().mid(1), error);
     if (!options)
         return badUsage(error);
+    if (options->isDark)
+        useDarkColours();
     if (options->connection.isEmpty())
         useSampleDatabase(*options);
 
@@ -143,10 +162,13 @@ int run(int argc, char **argv)
     }
     if (!isWatched || options->print || !options->screenshot.isEmpty())
         return runUnattended(window, *options);
-    window.grid()->PutLayoutKey(u"kovagrid"_s);
+    window.keepWhatTheUserDoes();
     window.show();
-    window.loadForm();
-    pressButtons(*window.grid(), options->keys);
+    // The window is seen before its data, which can take longer.
+    QTimer::singleShot(0, &window, [&] {
+        window.page()->loadForm();
+        pressButtons(*window.grid(), options->keys);
+    });
     return QApplication::exec();
 }
 

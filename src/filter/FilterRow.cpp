@@ -74,7 +74,7 @@ void FilterRow::layOut()
     m_operator->setMinimumContentsLength(8);
     m_operator->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto *values = new QWidget(this);
-    values->setMinimumWidth(widthOfDigits(*this, 56));
+    values->setMinimumWidth(widthOfDigits(*this, 28));
     auto *valueRow = new QHBoxLayout(values);
     valueRow->setContentsMargins({});
     valueRow->addWidget(m_value, 1);

@@ -2,6 +2,7 @@
 
 #include "filter/FilterTexts.h"
 #include "filter/SetFilter.h"
+#include "forms/Contrast.h"
 #include "forms/FormTexts.h"
 #include "forms/widgets/GradualControl.h"
 
@@ -20,6 +21,7 @@ using namespace Qt::StringLiterals;
 frm_Filter::frm_Filter(QWidget *parent)
     : QDialog(parent), m_builder(new SetFilter(this)), m_picture(new QLabel(this))
 {
+    makeHintsReadable(*this);
     setObjectName(u"frm_Filter"_s);
     setWindowTitle(FilterTexts::Title);
     setSizeGripEnabled(true);

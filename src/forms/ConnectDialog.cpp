@@ -1,5 +1,6 @@
 #include "forms/ConnectDialog.h"
 
+#include "forms/Contrast.h"
 #include "forms/FormTexts.h"
 #include "forms/widgets/TextWidth.h"
 
@@ -28,6 +29,7 @@ ConnectDialog::ConnectDialog(Builder builder, QWidget *parent)
       m_prompt(new QLabel(FormTexts::InputConnectionString, this)),
       m_hint(new QLabel(FormTexts::ConnectionStringHint, this))
 {
+    makeHintsReadable(*this);
     setObjectName(u"ConnectDialog"_s);
     setWindowTitle(FormTexts::ConnectTitle);
     setSizeGripEnabled(true);

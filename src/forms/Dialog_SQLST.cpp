@@ -1,5 +1,6 @@
 #include "forms/Dialog_SQLST.h"
 
+#include "forms/Contrast.h"
 #include "forms/FormTexts.h"
 #include "forms/widgets/TextWidth.h"
 
@@ -20,6 +21,7 @@ Dialog_SQLST::Dialog_SQLST(QWidget *parent)
       m_text(new QLineEdit(this)),
       m_allowEdit(new QCheckBox(FormTexts::AllowEditing, this))
 {
+    makeHintsReadable(*this);
     setObjectName(u"Dialog_SQLST"_s);
     setWindowTitle(FormTexts::SqlDialogTitle);
     m_label->setObjectName(u"Label_what"_s);

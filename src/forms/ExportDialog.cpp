@@ -1,5 +1,6 @@
 #include "forms/ExportDialog.h"
 
+#include "forms/Contrast.h"
 #include "forms/FormTexts.h"
 #include "forms/Messages.h"
 #include "forms/widgets/TextWidth.h"
@@ -75,6 +76,7 @@ ExportDialog::ExportDialog(const Choices &choices, QWidget *parent)
       m_headings(named(new QCheckBox(FormTexts::ExportHeadings), u"chkHeadings"_s)),
       m_guard(named(new QCheckBox(FormTexts::ExportGuard), u"chkGuard"_s))
 {
+    makeHintsReadable(*this);
     setObjectName(u"ExportDialog"_s);
     setWindowTitle(FormTexts::ExportTitle);
     addFormats();

@@ -1,5 +1,6 @@
 #include "forms/FindDialog.h"
 
+#include "forms/Contrast.h"
 #include "forms/FormTexts.h"
 #include "forms/widgets/FieldCombo.h"
 #include "query/QueryTexts.h"
@@ -59,6 +60,7 @@ FindDialog::FindDialog(QWidget *parent)
       m_fields(new FieldCombo(this)),
       m_find(new QPushButton(FormTexts::Find, this))
 {
+    makeHintsReadable(*this);
     setObjectName(u"FindDialog"_s);
     setWindowTitle(FormTexts::FindTitle);
     setSizeGripEnabled(true);

@@ -1,5 +1,6 @@
 #include "forms/SelectionDialog.h"
 
+#include "forms/Contrast.h"
 #include "forms/FormTexts.h"
 #include "forms/widgets/GradualControl.h"
 
@@ -31,6 +32,7 @@ SelectionDialog::SelectionDialog(const QString &name, const QString &caption, co
       m_content(new QVBoxLayout),
       m_buttons(new QHBoxLayout)
 {
+    makeHintsReadable(*this);
     setObjectName(name);
     setWindowTitle(caption);
     setSizeGripEnabled(true);

@@ -104,6 +104,9 @@ QSize FlexHeader::sectionSizeFromContents(int logicalIndex) const
     initStyleOption(&option);
     option.section = logicalIndex;
     option.text = model()->headerData(logicalIndex, orientation()).toString();
+    // The row headings keep their width while the first hundreds of records are walked through.
+    if (orientation() == Qt::Vertical && option.text.size() < 3)
+        option.text = QStringLiteral("000");
     const QSize size = style()->sizeFromContents(QStyle::CT_HeaderSection, &option, {}, this);
     return m_grid.isBlank() ? QSize(0, size.height()) : size;
 }

@@ -2,8 +2,12 @@
 
 #include <QtCore/QPoint>
 #include <QtCore/QRect>
+#include <QtGui/QFontMetrics>
+#include <QtGui/QScreen>
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QToolTip>
+
+#include <algorithm>
 
 namespace KOVAVSFDataGridLib {
 
@@ -29,14 +33,35 @@ QString breakable(const QString &text)
     return broken;
 }
 
+// The height that it takes as a tool tip, which is about this many letters wide.
+int heightOfTip(const QString &text, const QFontMetrics &metrics)
+{
+    constexpr int letters = 70;
+    const QRect room(0, 0, letters * metrics.averageCharWidth(), QWIDGETSIZE_MAX);
+    return metrics.boundingRect(room, Qt::TextWordWrap | Qt::TextWrapAnywhere, text).height();
+}
+
 } // namespace
+
+QString textForTip(const QString &text, const QWidget &widget)
+{
+    const int highest = widget.screen()->availableSize().height() / 3;
+    const QFontMetrics metrics(QToolTip::font());
+    if (text.size() <= mostShown && heightOfTip(text, metrics) <= highest)
+        return text;
+    qsizetype fits = 0;
+    for (qsizetype step = mostShown; step > 0; step /= 2) {
+        if (fits + step <= text.size() && heightOfTip(text.first(fits + step), metrics) <= highest)
+            fits += step;
+    }
+    return text.first(std::min(fits, mostShown)) + u'…';
+}
 
 void showWholeText(const QString &text, const QPoint &place, QWidget &widget, const QRect &area)
 {
-    const bool isTooLong = text.size() > mostShown;
-    const QString shown = isTooLong ? text.first(mostShown) + u'…' : text;
-    QToolTip::showText(place, Qt::convertFromPlainText(breakable(shown), Qt::WhiteSpaceNormal), &widget,
-                       area);
+    QToolTip::showText(place,
+                       Qt::convertFromPlainText(breakable(textForTip(text, widget)), Qt::WhiteSpaceNormal),
+                       &widget, area);
 }
 
 } // namespace KOVAVSFDataGridLib

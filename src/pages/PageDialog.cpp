@@ -1,5 +1,6 @@
 #include "pages/PageDialog.h"
 
+#include "forms/Contrast.h"
 #include "pages/PageTexts.h"
 #include "pages/PropertyPage.h"
 
@@ -13,6 +14,7 @@ using namespace Qt::StringLiterals;
 
 PageDialog::PageDialog(PropertyPage *page, QWidget *parent) : QDialog(parent), m_page(page)
 {
+    makeHintsReadable(*this);
     setObjectName(u"PageDialog"_s);
     setWindowTitle(PageTexts::DialogTitle.arg(page->objectName()));
     setSizeGripEnabled(true);

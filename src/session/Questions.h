@@ -1,9 +1,12 @@
 #pragma once
 
+#include "ado/values/DisplayFormat.h"
 #include "export/ExportFormat.h"
+#include "export/WriteRecords.h"
 #include "query/derivation/Derivation.h"
 #include "query/fields/FieldChooser.h"
 
+#include <functional>
 #include <memory>
 
 namespace ADODB {
@@ -60,6 +63,26 @@ struct ExportAnswer
     bool hasAllColumns = false; // hidden ones too
 };
 
+// What a user can print.
+struct PrintRequest
+{
+    QString title;
+    QString file; // of a PDF file, without folder and ending
+    RecordRange all;
+    RecordRange marked;
+    ExportColumns columns;
+    std::vector<ADODB::DisplayFormat> formats; // one for each column
+    // Hands records to the writer until `shouldContinue` answers false. Throws ADODB::Error.
+    std::function<void(RecordWriter &, bool isMarkedOnly, const std::function<bool()> &shouldContinue)> write;
+};
+
+// What is printed, and what prints it.
+struct PrintAnswer
+{
+    std::unique_ptr<RecordWriter> writer;
+    bool isMarkedOnly = false;
+};
+
 // How the texts of a column can be shown.
 struct FormatRequest
 {
@@ -103,6 +126,8 @@ public:
     virtual std::optional<FindAnswer> askWords(const colDataFields &) { return {}; }
     // Nothing when the user cancels. A file that is there already may be replaced.
     virtual std::optional<ExportAnswer> askExport(const ExportRequest &) { return {}; }
+    // Nothing when the user cancels. A file that is there already may be replaced.
+    virtual std::optional<PrintAnswer> askPrint(const PrintRequest &) { return {}; }
     // The format that the user chooses; nothing when he cancels.
     virtual std::optional<QString> askFormat(const FormatRequest &) { return {}; }
 };

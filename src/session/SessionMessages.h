@@ -25,6 +25,7 @@ inline const QString InsertCancelled = u"再次插入空行操作已被取消"_s
 inline const QString ReadOnly = u"记录只读，不能增加、修改或删除。"_s;
 inline const QString RecordsCopied = u"已复制 %1 条记录"_s;
 inline const QString RecordsExported = u"已导出 %1 条记录"_s;
+inline const QString RecordsPrinted = u"已打印 %1 条记录"_s;
 inline const QString AskDelete = u"确实要删除该记录?"_s;
 inline const QString RecordMeant = u"\n第 %1 行：%2 = %3"_s;
 inline const QString AskDeleteTitle = u"删除记录"_s;

@@ -204,6 +204,7 @@ TEST(TypeLibrary, HasTheMembersInTheirOrder)
 57 VARIANT_BOOL RestoreLayout(BSTR strLayout)
 58 get BSTR LayoutKey()
 58 put void LayoutKey(BSTR)
+59 VARIANT_BOOL PrintData(BSTR strFile, BSTR strOptions)
 )");
 }
 

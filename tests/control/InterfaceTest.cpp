@@ -80,6 +80,7 @@ constexpr const char *methods[] = {
     "bool ExportData(QString,QString)",
     "QString SaveLayout()",
     "bool RestoreLayout(QString)",
+    "bool PrintData(QString,QString)",
 };
 
 constexpr const char *events[] = {

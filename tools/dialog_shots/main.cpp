@@ -1,5 +1,5 @@
-// dialog_shots FOLDER: shows each dialog with plausible contents and saves it as a PNG file in the folder, at
-// the scale of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
+// dialog_shots FOLDER [dark]: shows each dialog with plausible contents and saves it as a PNG file in the
+// folder, at the scale of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
 #include "control/connection/ConnectionBuilder.h"
 #include "control/parts/FormatDialog.h"
 #include "control/parts/toolbar/ToolbarIcons.h"
@@ -15,7 +15,9 @@
 #include "pages/PageDialog.h"
 #include "pages/PropertyPage.h"
 #include "pages/PropertyPages.h"
+#include "print/PrintPreview.h"
 #include "query/fields/colDataFields.h"
+#include "support/DarkPalette.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QLibraryInfo>
@@ -125,6 +127,34 @@ void takeExport(Photographer &photographer)
     photographer.take(exporting, u"ExportDialog"_s);
 }
 
+// A made-up table in place of a result.
+void takePrint(Photographer &photographer)
+{
+    const QList<QByteArray> rows{"1|2024-01-05|杭州茶叶有限公司|龙井茶|12|1536",
+                                 "2|2024-02-29|昆明食品行|普洱茶|4|944"};
+    PrintPreview::Choices choices;
+    choices.title = u"订单"_s;
+    choices.records = 60;
+    choices.markedRecords = 1;
+    int field = 0;
+    for (const QString &heading :
+         {u"订单编号"_s, u"下单日期"_s, u"客户名称"_s, u"产品名称"_s, u"数量"_s, u"金额"_s})
+        choices.columns.push_back({field++, heading, ADODB::adVarWChar, 0, field == 3 ? 180 : 90});
+    choices.write = [&](RecordWriter &writer, bool, const std::function<bool()> &) {
+        writer.begin(choices.columns);
+        for (qint64 record = 0; record < choices.records; ++record) {
+            std::vector<ADODB::RawValue> cells;
+            const QList<QByteArray> values = rows[record % rows.size()].split('|');
+            for (const QByteArray &value : values)
+                cells.push_back(ADODB::RawValue::fromText(value));
+            writer.row(cells);
+        }
+        writer.end();
+    };
+    PrintPreview preview(choices);
+    photographer.take(preview, u"PrintPreview"_s);
+}
+
 void takeTexts(Photographer &photographer)
 {
     ConnectDialog connection([](QWidget *, const QString &) { return std::optional<QString>(); });
@@ -227,10 +257,12 @@ void takeFilter(Photographer &photographer)
 int main(int argc, char **argv)
 {
     const QApplication app(argc, argv);
-    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
-        std::fputs("usage: dialog_shots FOLDER\n", stderr);
+    if (argc < 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
+        std::fputs("usage: dialog_shots FOLDER [dark]\n", stderr);
         return 2;
     }
+    if (argc > 2)
+        QApplication::setPalette(KovaTest::darkPalette());
     QTranslator texts;
     if (texts.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&texts);
@@ -242,6 +274,7 @@ int main(int argc, char **argv)
     takeFind(photographer);
     takeExport(photographer);
     takeFormats(photographer);
+    takePrint(photographer);
     takeTexts(photographer);
     takeBuilder(photographer);
     takePages(photographer);

@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 #include "control/connection/ConnectionTexts.h"
+#include "forms/Contrast.h"
 #include "forms/widgets/TextWidth.h"
 
 #include <QtGui/QCursor>
@@ -58,6 +59,7 @@ ConnectionBuilder::ConnectionBuilder(const Outside &outside, QWidget *parent)
       m_tested(new QLabel(this)),
       m_ok(new QPushButton(ConnectionTexts::Ok, this))
 {
+    makeHintsReadable(*this);
     setObjectName(u"ConnectionBuilder"_s);
     setWindowTitle(ConnectionTexts::Title);
     setSizeGripEnabled(true);

@@ -1,6 +1,7 @@
 #include "control/face/ControlWindow.h"
 
 #include "ado/Recordset.h"
+#include "ado/values/DisplayFormat.h"
 #include "control/input/SingleRecordView.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
@@ -24,6 +25,12 @@
 namespace KOVAVSFDataGridLib {
 
 namespace {
+
+// With its thousands apart, as people read large numbers.
+QString grouped(qint64 number)
+{
+    return ADODB::DisplayFormat{.hasThousands = true}.applied(QString::number(number));
+}
 
 QString pageLabel(const QString &page, const QString &pageCount)
 {
@@ -130,9 +137,9 @@ QString ControlWindow::place() const
     const ADODB::Recordset &recordset = *m_session->result().recordset();
     const QString unsaved = m_session->hasUnsavedChanges() ? GridTexts::Unsaved : QString();
     if (recordset.EditMode() == ADODB::adEditAdd)
-        return GridTexts::NewRecord.arg(recordset.RecordCount()) + unsaved;
-    return GridTexts::RecordOf.arg(std::max<qint64>(0, recordset.AbsolutePosition()))
-               .arg(recordset.RecordCount()) +
+        return GridTexts::NewRecord.arg(grouped(recordset.RecordCount())) + unsaved;
+    return GridTexts::RecordOf.arg(grouped(std::max<qint64>(0, recordset.AbsolutePosition())),
+                                   grouped(recordset.RecordCount())) +
            unsaved;
 }
 
@@ -141,11 +148,13 @@ void ControlWindow::refreshStatus()
     if (!m_session->result().isOpen()) {
         m_parts.lblStatement->show({}, {});
         m_parts.lblEmpty->showText(GridTexts::NothingLoaded);
+        m_parts.describeGrid();
         return;
     }
     QString statement;
     m_session->history().GetLatestSQL(statement);
     m_parts.lblStatement->show(statement.isEmpty() ? QString() : place(), statement);
+    m_parts.describeGrid();
     if (m_session->result().recordset()->RecordCount() > 0)
         m_parts.lblEmpty->showText({});
     else
@@ -173,6 +182,7 @@ void ControlWindow::showConditions(const QStringList &words)
 {
     const bool wasHidden = m_parts.conditions->isHidden();
     m_parts.conditions->show(words);
+    m_parts.describeGrid();
     if (m_parts.conditions->isHidden() != wasHidden)
         m_parts.layOut(m_control.width(), m_control.height());
 }

@@ -241,7 +241,14 @@ public:
     // nothing is open or the text is no layout, which is shown in a message box.
     virtual bool RestoreLayout(const QString &strLayout) = 0;
     // Under which name the layouts of the user's tables are kept: each is saved when it was changed, and
-    // restored by the next load of its table in any control with the same key. Empty at first: none is kept.
+    // restored by the next load of its table in any control with the same key. Columns of a table without one
+    // are fitted to their contents. Empty at first: none is kept.
     virtual QString LayoutKey() const = 0;
     virtual void PutLayoutKey(const QString &strKey) = 0;
+    // Prints the shown columns of the open result, fitted to the width of the page, with the headings on each
+    // page, to a PDF file; an existing file is replaced when the new one is complete. `strOptions` is empty
+    // or `Keyword=value;…`: Records All or Marked; Orientation Auto, Portrait or Landscape (the first of each
+    // is the default); Title and the text above each page, which is the table's name otherwise. Returns false
+    // if the user cancels, or after a message box if it fails.
+    virtual bool PrintData(const QString &strFile, const QString &strOptions) = 0;
 };

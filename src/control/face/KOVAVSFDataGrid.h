@@ -186,6 +186,7 @@ public:
     Q_INVOKABLE bool RestoreLayout(const QString &strLayout) override;
     QString LayoutKey() const override;
     void PutLayoutKey(const QString &strKey) override;
+    Q_INVOKABLE bool PrintData(const QString &strFile, const QString &strOptions) override;
 
     // See the property.
     bool UserMode() const;

@@ -10,9 +10,12 @@
 #include "forms/ConnectDialog.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
+#include "print/PdfWriter.h"
+#include "print/PrintOptions.h"
 #include "session/commands/CommandKeys.h"
 #include "session/layout/SavedLayout.h"
 #include "session/records/ExportResult.h"
+#include "session/records/PrintResult.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
@@ -225,8 +228,10 @@ bool KOVAVSFDataGrid::IsLoadData()
     d->layout.save();
     const QPointer<KOVAVSFDataGrid> alive(this);
     const bool isLoaded = session->load();
-    if (isLoaded && alive)
+    if (isLoaded && alive) {
         d->layout.restore();
+        d->focusGrid();
+    }
     return isLoaded;
 }
 
@@ -273,6 +278,30 @@ bool KOVAVSFDataGrid::ExportData(const QString &strFile, const QString &strOptio
         return false;
     }
     return exportResult(*session, what);
+}
+
+bool KOVAVSFDataGrid::PrintData(const QString &strFile, const QString &strOptions)
+{
+    const auto session = d->session;
+    if (!session->result().isOpen()) {
+        Messages::show(this, GridTexts::NothingToPrint);
+        return false;
+    }
+    const PrintRequest request = printRequestOf(*session);
+    PrintAnswer what;
+    try {
+        PrintOptions options = printOptionsFrom(strOptions);
+        what.isMarkedOnly = options.isMarkedOnly;
+        what.writer = std::make_unique<PdfWriter>(
+            strFile, options.layoutFor(request.columns),
+            PageOptions{options.title.value_or(request.title),
+                        std::max<qint64>(0, (what.isMarkedOnly ? request.marked : request.all).count()),
+                        request.formats});
+    } catch (const ADODB::Error &error) {
+        Messages::show(this, error.Description());
+        return false;
+    }
+    return printResult(*session, request, what);
 }
 
 QString KOVAVSFDataGrid::SaveLayout()

@@ -6,6 +6,7 @@
 #include "ado/Recordset.h"
 #include "control/face/Configuration.h"
 #include "control/face/DesignMode.h"
+#include "control/input/EndKeys.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/HistoryMenu.h"
 #include "control/parts/toolbar/GridToolbar.h"
@@ -74,6 +75,7 @@ KOVAVSFDataGrid::Private::~Private()
 // The control's own views follow before the host hears of a move.
 void KOVAVSFDataGrid::Private::connectHost()
 {
+    new EndKeys(*parts.vsfgDataGrid, *session, &q);
     connect(parts.Adodc1, &ADODB::Adodc::MoveComplete, &q, [this](ADODB::EventReasonEnum reason) {
         if (!session->result().isOpen() || session->result().recordset()->RecordCount() == 0)
             return;
@@ -98,6 +100,15 @@ void KOVAVSFDataGrid::Private::showClickedValue()
     }
     if (parts.Toolbar1->isEnabled())
         session->run(CommandKeys::ShowValue);
+}
+
+// A user who has just loaded goes on with the data; one who is in another part of the host's form stays
+// there.
+void KOVAVSFDataGrid::Private::focusGrid() const
+{
+    const QWidget *const now = q.window()->focusWidget();
+    if (!now || now == &q || q.isAncestorOf(now))
+        parts.vsfgDataGrid->setFocus();
 }
 
 void KOVAVSFDataGrid::Private::setThreeTierSwitch() const

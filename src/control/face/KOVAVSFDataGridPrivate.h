@@ -42,6 +42,7 @@ public:
     void applyBackColor();
     // Hands the middle-tier switch to the connection factory, which may be another one by now.
     void setThreeTierSwitch() const;
+    void focusGrid() const;
     // Runs the steps one after the other. A failing one is reported with the question whether to continue:
     // Yes goes on with the next, No ends.
     void runSteps(QStringView title, std::initializer_list<std::function<void()>> steps);

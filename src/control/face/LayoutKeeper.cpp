@@ -4,6 +4,7 @@
 #include "grid/FlexGrid.h"
 #include "query/derivation/SqlText.h"
 #include "session/Session.h"
+#include "session/SessionWindow.h"
 #include "session/layout/SavedLayout.h"
 
 #include <QtCore/QCryptographicHash>
@@ -17,6 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int airInColumn = 120;         // twips, so that neighbours are told apart at a glance
 constexpr int millisecondsToSave = 1000; // a dragged edge changes a width many times
 
 } // namespace
@@ -61,8 +63,18 @@ void LayoutKeeper::restore()
     const QPointer<LayoutKeeper> alive(this);
     if (const auto *layout = std::get_if<SavedLayout>(&kept))
         restoreLayout(m_session, *layout);
+    else
+        fitColumns();
     if (alive && m_session.result().isOpen())
         m_known = layoutOf(m_session).toText();
+}
+
+// Who keeps layouts wants to read a table the first time, too.
+void LayoutKeeper::fitColumns()
+{
+    SessionWindow &window = m_session.window();
+    for (const int col : window.shownColumns())
+        window.PutColWidth(col, window.fittingWidth(col) + airInColumn);
 }
 
 void LayoutKeeper::save()

@@ -27,6 +27,7 @@ public:
     void save();
 
 private:
+    void fitColumns();
     QString place() const;
 
     Session &m_session;

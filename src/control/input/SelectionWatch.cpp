@@ -90,6 +90,7 @@ void SelectionWatch::showSummary()
     }
     m_parts.lblSummary->show(items);
     m_parts.layOutFoot();
+    m_parts.describeGrid();
 }
 
 void SelectionWatch::clear()
@@ -99,6 +100,7 @@ void SelectionWatch::clear()
         return;
     m_parts.lblSummary->show(QList<SummaryLine::Item>());
     m_parts.layOutFoot();
+    m_parts.describeGrid();
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -1,5 +1,6 @@
 #include "control/parts/DialogQuestions.h"
 
+#include "ado/Error.h"
 #include "control/parts/FormatDialog.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/ToolbarIcons.h"
@@ -7,6 +8,7 @@
 #include "forms/ExportDialog.h"
 #include "forms/FindDialog.h"
 #include "forms/Messages.h"
+#include "print/PrintPreview.h"
 #include "session/commands/CommandKeys.h"
 
 namespace KOVAVSFDataGridLib {
@@ -114,6 +116,23 @@ std::optional<ExportAnswer> DialogQuestions::askExport(const ExportRequest &requ
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return ExportAnswer{dialog.file(), dialog.options(), dialog.isMarkedOnly(), dialog.hasAllColumns()};
+}
+
+std::optional<PrintAnswer> DialogQuestions::askPrint(const PrintRequest &request)
+{
+    const QPointer<QWidget> parent = m_parent;
+    PrintPreview dialog({request.title, request.file, request.all.count(),
+                         std::max<qint64>(0, request.marked.count()), request.columns, request.formats,
+                         request.write},
+                        m_parent);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    try {
+        return PrintAnswer{dialog.newWriter(), dialog.isMarkedOnly()};
+    } catch (const ADODB::Error &error) {
+        Messages::show(parent, error.Description());
+        return {};
+    }
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -29,6 +29,7 @@ public:
     QString askCondition(const ConditionRequest &request) override;
     std::optional<FindAnswer> askWords(const colDataFields &fields) override;
     std::optional<ExportAnswer> askExport(const ExportRequest &request) override;
+    std::optional<PrintAnswer> askPrint(const PrintRequest &request) override;
     std::optional<QString> askFormat(const FormatRequest &request) override;
 
 private:

@@ -1,6 +1,7 @@
 #include "control/parts/FormatDialog.h"
 
 #include "ado/values/DisplayFormat.h"
+#include "forms/Contrast.h"
 #include "forms/FormTexts.h"
 
 #include <QtWidgets/QCheckBox>
@@ -30,6 +31,7 @@ FormatDialog::FormatDialog(const QString &column, bool isBoolean, const QString 
                            const QString &sample, QWidget *parent)
     : QDialog(parent), m_text(sample), m_sample(named(new QLabel, u"lblSample"_s))
 {
+    makeHintsReadable(*this);
     setObjectName(u"FormatDialog"_s);
     setWindowTitle(FormTexts::FormatTitle);
     const auto given = ADODB::DisplayFormat::fromText(format).value_or(ADODB::DisplayFormat());

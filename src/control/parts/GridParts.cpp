@@ -10,10 +10,12 @@
 #include "control/parts/lines/SummaryLine.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "filter/ValueEdit.h"
+#include "forms/Contrast.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
 
 #include <QtWidgets/QCheckBox>
+#include <QtWidgets/QFrame>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
@@ -56,6 +58,13 @@ GridParts::GridParts(QWidget &control)
       Adodc1(named(new ADODB::Adodc(&control), u"Adodc1"_s))
 {
     picMainBack->setAutoFillBackground(true);
+    makeHintsReadable(*picMainBack);
+    for (QFrame *&divider : m_dividers) {
+        divider = new QFrame(picMainBack);
+        divider->setFrameShape(QFrame::VLine);
+        divider->setFrameShadow(QFrame::Plain);
+        divider->setForegroundRole(QPalette::PlaceholderText);
+    }
     MSFlexGrid1->hide();
     txtEdit->hide();
     txtPage->setAlignment(Qt::AlignRight);
@@ -88,6 +97,19 @@ void GridParts::layOut(int width, int height)
     MSFlexGrid1->setGeometry(vsfgDataGrid->geometry());
     txtEdit->hide();
     layOutFoot();
+}
+
+void GridParts::describeGrid() const
+{
+    QStringList parts{lblStatement->place()};
+    if (!lblSummary->isHidden())
+        parts.append(lblSummary->accessibleName());
+    if (!conditions->conditions().isEmpty())
+        parts.append(GridTexts::FilteredBy.arg(conditions->conditions().join(GridTexts::BetweenSummaries)));
+    parts.removeAll(QString());
+    const QString description = parts.join(GridTexts::BetweenDescriptions);
+    if (description != vsfgDataGrid->accessibleDescription())
+        vsfgDataGrid->setAccessibleDescription(description);
 }
 
 QRect GridParts::foot() const
@@ -123,6 +145,12 @@ void GridParts::layOutFoot() const
         part->setGeometry(x, top + gap / 2, partWidth, partHeight);
         x += partWidth + gap;
     };
+    std::size_t dividers = 0;
+    // A line in the gap to the left of what comes next.
+    const auto divide = [&](int at) {
+        m_dividers[dividers]->setGeometry(at - gap / 2 - 1, top + gap, 1, partHeight - gap);
+        m_dividers[dividers++]->show();
+    };
     const int digit = txtPage->fontMetrics().horizontalAdvance(u'0');
     const int caption = cmdPgae->fontMetrics().horizontalAdvance(cmdPgae->text());
     const bool isNarrow =
@@ -136,12 +164,20 @@ void GridParts::layOutFoot() const
     int rest = std::max(0, room - labelWidth - gap);
     if (!lblSummary->isHidden()) {
         const int summaryWidth = std::min(rest, lblSummary->sizeHint().width());
+        if (summaryWidth > 0)
+            divide(x);
         place(lblSummary, summaryWidth);
         rest = std::max(0, rest - summaryWidth - gap);
     }
+    if (rest > 0)
+        divide(x);
     place(lblStatement, rest);
     x = width - checkWidth - gap;
+    if (room > 0)
+        divide(x);
     place(CheckSelAllRow, checkWidth);
+    for (; dividers < m_dividers.size(); ++dividers)
+        m_dividers[dividers]->hide();
 }
 
 } // namespace KOVAVSFDataGridLib

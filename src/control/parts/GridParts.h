@@ -3,6 +3,7 @@
 #include <QtCore/QRect>
 
 class QCheckBox;
+class QFrame;
 class QLineEdit;
 class QPushButton;
 class QWidget;
@@ -10,6 +11,8 @@ class QWidget;
 namespace ADODB {
 class Adodc;
 }
+
+#include <array>
 
 namespace KOVAVSFDataGridLib {
 
@@ -55,12 +58,16 @@ public:
     void layOut(int width, int height);
     // Places the parts below the grid again; needed when the page label's text has changed.
     void layOutFoot() const;
+    // Tells assistive tools which record is current, what is selected and which conditions are in force.
+    void describeGrid() const;
     // The line below the grid, on the control.
     QRect foot() const;
 
 private:
     int footHeight() const;
     int gap() const;
+
+    std::array<QFrame *, 3> m_dividers; // between the parts of the foot
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -54,6 +54,8 @@ inline const QString NoRecordsFound = u"没有符合条件的记录。按“后�
 inline const QString ToolbarName = u"数据命令"_s;
 inline const QString GridName = u"数据"_s;
 inline const QString MenuName = u"数据菜单"_s;
+inline const QString FilteredBy = u"筛选条件“%1”"_s;
+inline const QString BetweenDescriptions = u"；"_s;
 inline const QString SingleRecordName = u"当前记录"_s;
 
 // The menus inside the popup menu.
@@ -112,6 +114,7 @@ inline const QString CancelOpeningHint = u"停止读取记录（Esc）"_s;
 inline const QString CancelWaitingHint = u"不再等待（Esc）"_s;
 inline const QString CancelWritingHint = u"停止（Esc）"_s;
 
+inline const QString NothingToPrint = u"没有打开的结果，无法打印。"_s;
 inline const QString NothingToExport = u"没有打开的结果，无法导出。"_s;
 
 // Misuse of a method, shown to the developer.

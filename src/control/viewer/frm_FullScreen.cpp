@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 #include "ado/Recordset.h"
+#include "control/input/EndKeys.h"
 #include "control/input/MenuKey.h"
 #include "control/parts/ColumnMenu.h"
 #include "control/parts/DialogQuestions.h"
@@ -11,6 +12,7 @@
 #include "control/parts/lines/FilterBar.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "control/viewer/ViewerTexts.h"
+#include "forms/Contrast.h"
 #include "grid/FlexGrid.h"
 #include "session/commands/CommandKeys.h"
 #include "session/statement/ShownConditions.h"
@@ -63,6 +65,7 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
           [this](const ColumnCommand &command, int col) { m_session->runOnColumn(command, col); })),
       m_finder(std::make_unique<ResultFinder>(*m_session, *m_parts.vsfgShowData, *m_parts.find))
 {
+    makeHintsReadable(*this);
     m_window.setSession(*m_session);
     m_window.setMenu(m_menu);
     m_window.setFinder(m_finder.get());
@@ -91,6 +94,7 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
     m_parts.vsfgShowData->installEventFilter(this);
     m_parts.vsfgShowData->viewport()->installEventFilter(this);
     m_parts.vsfgShowData->horizontalHeader()->viewport()->installEventFilter(this);
+    new EndKeys(*m_parts.vsfgShowData, *m_session, this);
     m_parts.vsfgShowData->setFocus();
 }
 

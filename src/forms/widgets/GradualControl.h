@@ -4,8 +4,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A background that runs from a tint of the highlight colour on the left into the window's colour. It takes
-// its colours from the palette, so it follows the user's theme, and can carry a layout.
+// A plain background in the colour of the window, like that of all other dialogs. It can carry a layout.
 class GradualControl final : public QWidget
 {
     Q_OBJECT

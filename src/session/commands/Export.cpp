@@ -1,13 +1,10 @@
 #include "ado/Recordset.h"
-#include "query/derivation/SqlText.h"
 #include "session/ResultWatch.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
 #include "session/records/ExportResult.h"
 #include "session/records/LongWork.h"
-
-#include <QtCore/QRegularExpression>
 
 #include <algorithm>
 
@@ -19,19 +16,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The table's name without what no file's name can have.
-QString nameOfFile(Session &session)
-{
-    static const QRegularExpression notInNames(u"[\\\\/:*?\"<>|\\[\\]`\\x00-\\x1f]+"_s);
-    constexpr qsizetype longest = 60;
-    return GetSQLTableName(session.statement()).remove(notInNames).simplified().left(longest);
-}
-
 void exportRecords(Session &session)
 {
     const ADODB::Recordset &recordset = *session.result().recordset();
     ExportRequest request;
-    request.name = nameOfFile(session);
+    request.name = fileNameOf(session);
     request.records = recordset.RecordCount();
     request.markedRecords = std::max<qint64>(0, markedRecords(session).count());
     request.shownColumns = static_cast<int>(session.window().shownColumns().size());

@@ -5,10 +5,13 @@
 #include "ado/Recordset.h"
 #include "export/ExportFile.h"
 #include "export/ExportTexts.h"
+#include "query/derivation/SqlText.h"
 #include "session/Session.h"
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "session/records/LongWork.h"
+
+#include <QtCore/QRegularExpression>
 
 #include <array>
 #include <numeric>
@@ -66,6 +69,13 @@ void readOption(ExportAnswer &answer, const ADODB::ConnectionString::Part &part)
 }
 
 } // namespace
+
+QString fileNameOf(Session &session)
+{
+    static const QRegularExpression notInNames(u"[\\\\/:*?\"<>|\\[\\]`\\x00-\\x1f]+"_s);
+    constexpr qsizetype longest = 60;
+    return GetSQLTableName(session.statement()).remove(notInNames).simplified().left(longest);
+}
 
 ExportAnswer exportAnswerFrom(const QString &file, const QString &options)
 {

@@ -10,6 +10,9 @@ class Session;
 // which he has been shown.
 bool exportResult(Session &session, const ExportAnswer &what);
 
+// The table's name without what no file's name can have.
+QString fileNameOf(Session &session);
+
 // What a host asks for by a file and `Keyword=value;…` (see IKOVAVSFDataGrid::ExportData). Throws
 // ADODB::Error when one of them can't be understood.
 ExportAnswer exportAnswerFrom(const QString &file, const QString &options);

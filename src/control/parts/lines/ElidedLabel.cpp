@@ -1,5 +1,7 @@
 #include "control/parts/lines/ElidedLabel.h"
 
+#include "grid/WholeText.h"
+
 #include <QtGui/QHelpEvent>
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QStylePainter>
@@ -26,7 +28,7 @@ bool ElidedLabel::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || shownText() == text())
         return QLabel::event(event);
-    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), text(), this);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), textForTip(text(), *this), this);
     return true;
 }
 

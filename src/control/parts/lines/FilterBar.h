@@ -18,6 +18,7 @@ public:
 
     // Shows the conditions; hides itself when there are none.
     void show(const QStringList &conditions);
+    const QStringList &conditions() const { return m_conditions; }
 
     QSize sizeHint() const override;
 

@@ -1,6 +1,7 @@
 #include "control/parts/lines/StatementLine.h"
 
 #include "control/parts/GridTexts.h"
+#include "grid/WholeText.h"
 
 #include <QtGui/QAction>
 #include <QtGui/QClipboard>
@@ -27,10 +28,11 @@ StatementLine::StatementLine(QWidget *parent) : ElidedLabel(parent)
 void StatementLine::show(const QString &place, const QString &statement)
 {
     m_statement = statement;
+    m_place = place;
     setText(statement.isEmpty() ? QString() : place + GridTexts::BeforeStatement + statement.simplified());
-    setToolTip(statement.isEmpty()
-                   ? QString()
-                   : u"<p style='white-space:pre-wrap'>"_s + statement.toHtmlEscaped() + u"</p>"_s);
+    setToolTip(statement.isEmpty() ? QString()
+                                   : u"<p style='white-space:pre-wrap'>"_s +
+                                         textForTip(statement, *this).toHtmlEscaped() + u"</p>"_s);
 }
 
 bool StatementLine::event(QEvent *event)

@@ -17,6 +17,7 @@ public:
     using QWidget::show;
     void show(const QString &place, const QString &statement);
     const QString &statement() const { return m_statement; }
+    const QString &place() const { return m_place; }
 
 protected:
     // The control has a command of the same shortcut; the line's own comes first where it has the focus.
@@ -27,6 +28,7 @@ private:
     void copy();
 
     QString m_statement;
+    QString m_place;
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -9,6 +9,7 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QToolButton>
 
+#include <algorithm>
 #include <utility>
 
 namespace KOVAVSFDataGridLib {
@@ -18,6 +19,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int placesOfGroup = 100;
+constexpr int gapBesideCaption = 8; // pixels, more than any style takes
+// Pictures that are alike: what their buttons do is written beside them where there is room.
+const QStringList captionedKeys{u"Filter"_s,    u"QuickFilter"_s, u"FromResult"_s,
+                                u"ToPreview"_s, u"ToOrigin"_s,    u"ToFullTable"_s};
 
 } // namespace
 
@@ -55,6 +60,56 @@ void GridToolbar::addButton(const Command &command, QActionGroup &views, int las
         Q_EMIT buttonClicked(key);
     });
     m_buttons.emplace(key, Button{.action = action, .toolTip = action->toolTip()});
+}
+
+void GridToolbar::resizeEvent(QResizeEvent *event)
+{
+    QToolBar::resizeEvent(event);
+    showCaptions();
+}
+
+bool GridToolbar::event(QEvent *event)
+{
+    const bool isDone = QToolBar::event(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange ||
+        event->type() == QEvent::LayoutRequest)
+        showCaptions();
+    return isDone;
+}
+
+// With and without captions the bar has the same height, so that nothing below it moves.
+QSize GridToolbar::sizeHint() const
+{
+    QSize size = QToolBar::sizeHint();
+    if (m_isCaptioned)
+        return size;
+    size.setHeight(size.height() + std::max(0, heightOfCaption() - iconSize().height()));
+    return size;
+}
+
+int GridToolbar::heightOfCaption() const
+{
+    // As a button measures its text, with the leading.
+    return fontMetrics().size(Qt::TextShowMnemonic, find(captionedKeys.front())->action->text()).height();
+}
+
+void GridToolbar::showCaptions()
+{
+    int needed = 0;
+    for (const QString &key : captionedKeys) {
+        const Button *const button = find(key);
+        if (button->isVisible)
+            needed += fontMetrics().horizontalAdvance(button->action->text()) + 2 * gapBesideCaption;
+    }
+    const int without = QToolBar::sizeHint().width() - (m_isCaptioned ? needed : 0);
+    const bool hasRoom = without + needed <= width();
+    if (hasRoom == m_isCaptioned)
+        return;
+    m_isCaptioned = hasRoom;
+    for (const QString &key : captionedKeys) {
+        auto *const shown = qobject_cast<QToolButton *>(widgetForAction(find(key)->action));
+        shown->setToolButtonStyle(hasRoom ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+    }
 }
 
 // What a window has no command for isn't offered, nor a separator with no button after the one before it.

@@ -40,9 +40,15 @@ public:
     // the command that runs knows what is pressed then.
     void setButtonPressed(const QString &key, bool on);
 
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     // The user pressed the button (by mouse, keyboard or shortcut) while it was enabled.
     void buttonClicked(const QString &key);
+
+protected:
+    bool event(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     struct Button
@@ -60,8 +66,11 @@ private:
     Button *find(const QString &key);
     void apply(const Button &button);
     void showPressed();
+    int heightOfCaption() const;
+    void showCaptions();
 
     std::map<QString, Button> m_buttons;
+    bool m_isCaptioned = false;
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -1,6 +1,7 @@
 #include "control/parts/toolbar/ToolbarIcons.h"
 
 #include "control/parts/toolbar/IconPicture.h"
+#include "forms/Contrast.h"
 
 #include <QtGui/QGuiApplication>
 #include <QtGui/QIconEngine>
@@ -8,14 +9,8 @@
 #include <QtGui/QPalette>
 #include <QtGui/QPixmapCache>
 
-#include <algorithm>
-#include <cmath>
-
 namespace KOVAVSFDataGridLib {
 namespace {
-
-// What the accessibility guidelines ask of the parts of a picture that carry its meaning.
-constexpr double leastContrast = 3.0;
 
 struct Colours
 {
@@ -23,39 +18,13 @@ struct Colours
     QColor accent;
 };
 
-// `share` is the part of `top`, from 0 to 1. The result is opaque.
-QColor blended(const QColor &top, const QColor &bottom, double share)
-{
-    const auto channel = [share](int a, int b) {
-        return static_cast<int>(std::lround(a * share + b * (1 - share)));
-    };
-    return {channel(top.red(), bottom.red()), channel(top.green(), bottom.green()),
-            channel(top.blue(), bottom.blue())};
-}
-
-// Relative luminance and contrast ratio as WCAG 2 defines them.
-double luminance(const QColor &colour)
-{
-    const auto linear = [](double v) {
-        return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
-
-double contrast(const QColor &a, const QColor &b)
-{
-    const auto [dark, light] = std::minmax({luminance(a), luminance(b)});
-    return (light + 0.05) / (dark + 0.05);
-}
-
 // The highlight colour is made to lie under text, not to be a thin line itself: where it hardly
 // differs from what it is drawn on, it is drawn towards the text colour until it does.
 QColor readable(const QColor &accent, const QColor &line, const QColor &paper)
 {
     for (int tenths = 10; tenths > 0; --tenths) {
         const QColor candidate = blended(accent, line, tenths / 10.0);
-        if (contrast(candidate, paper) >= leastContrast)
+        if (contrast(candidate, paper) >= leastPictureContrast)
             return candidate;
     }
     return line;

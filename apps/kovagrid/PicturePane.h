@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QtGui/QPixmap>
+#include <QtWidgets/QLabel>
+
+class KOVAVSFDataGrid;
+
+// The first picture among the fields of the current record, as large as there is room for it.
+class PicturePane : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit PicturePane(QWidget *parent = nullptr);
+
+    void showRecordOf(const KOVAVSFDataGrid &grid);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void fit();
+
+    QPixmap m_picture;
+};

@@ -1,0 +1,42 @@
+#include "RecentConnections.h"
+
+#include "Settings.h"
+
+#include <KOVAVSFDataGridLib/ado/ConnectionString.h>
+#include <KOVAVSFDataGridLib/ado/Error.h>
+
+#include <QtCore/QSettings>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString Key = u"recentConnections"_s;
+
+} // namespace
+
+QStringList RecentConnections::all()
+{
+    return userSettings()->value(Key).toStringList();
+}
+
+void RecentConnections::add(const QString &connection)
+{
+    QString kept;
+    try {
+        kept = ADODB::ConnectionString(connection).textWithoutPassword();
+    } catch (const ADODB::Error &) {
+        return; // nobody can say where its password is
+    }
+    if (kept.isEmpty())
+        return;
+    QStringList list = all();
+    list.removeAll(kept);
+    list.prepend(kept);
+    userSettings()->setValue(Key, list.mid(0, most));
+}
+
+void RecentConnections::clear()
+{
+    userSettings()->remove(Key);
+}

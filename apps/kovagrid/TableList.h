@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Catalogue.h"
+
+#include <QtWidgets/QTreeWidget>
+
+// The tables and views of a database. A name can be dragged into a statement; a double click or Enter opens
+// it.
+class TableList : public QTreeWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TableList(QWidget *parent = nullptr);
+
+    // Reads them again where the connection is another one, or `isForced`. Why they can't be read is shown in
+    // their place.
+    void showTablesOf(const QString &connection, qint32 dbType, bool isForced = false);
+
+    // The first table or view as a statement writes it; empty when there is none.
+    QString firstName() const;
+
+Q_SIGNALS:
+    // The name as a statement writes it.
+    void opened(const QString &name);
+
+protected:
+    QMimeData *mimeData(const QList<QTreeWidgetItem *> &items) const override;
+    QStringList mimeTypes() const override;
+
+private:
+    void fill(const std::vector<Catalogue::Table> &tables);
+    void showRemark(const QString &text);
+
+    QString m_connection;
+};

@@ -1,0 +1,86 @@
+#include "forms/Contrast.h"
+
+#include <QtCore/QEvent>
+#include <QtGui/QPalette>
+#include <QtWidgets/QWidget>
+
+#include <algorithm>
+#include <cmath>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+// Relative luminance as WCAG 2 defines it.
+double luminance(const QColor &colour)
+{
+    const auto linear = [](double v) {
+        return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+// The palest mixture of text and paper that can be read on windows and in boxes alike.
+QColor hintColour(const QPalette &palette)
+{
+    const QColor text = palette.color(QPalette::Active, QPalette::Text);
+    const QColor window = palette.color(QPalette::Active, QPalette::Window);
+    const QColor base = palette.color(QPalette::Active, QPalette::Base);
+    for (int percent = 50; percent < 100; percent += 2) {
+        const QColor candidate = blended(text, base, percent / 100.0);
+        if (contrast(candidate, window) >= leastTextContrast &&
+            contrast(candidate, base) >= leastTextContrast)
+            return candidate;
+    }
+    return text;
+}
+
+void applyHintColour(QWidget &widget)
+{
+    const QColor wanted = hintColour(widget.palette());
+    if (widget.palette().color(QPalette::Active, QPalette::PlaceholderText) == wanted)
+        return;
+    QPalette palette = widget.palette();
+    palette.setColor(QPalette::PlaceholderText, wanted);
+    widget.setPalette(palette);
+}
+
+class HintColour final : public QObject
+{
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::PaletteChange)
+            applyHintColour(*static_cast<QWidget *>(watched));
+        return false;
+    }
+};
+
+} // namespace
+
+double contrast(const QColor &a, const QColor &b)
+{
+    const auto [dark, light] = std::minmax({luminance(a), luminance(b)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+QColor blended(const QColor &top, const QColor &bottom, double share)
+{
+    const auto channel = [share](int a, int b) {
+        return static_cast<int>(std::lround(a * share + b * (1 - share)));
+    };
+    return {channel(top.red(), bottom.red()), channel(top.green(), bottom.green()),
+            channel(top.blue(), bottom.blue())};
+}
+
+void makeHintsReadable(QWidget &widget)
+{
+    applyHintColour(widget);
+    widget.installEventFilter(new HintColour(&widget));
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,177 @@
+#include "print/PageWriter.h"
+
+#include "ado/Error.h"
+#include "ado/values/FieldText.h"
+#include "ado/values/NumericTypes.h"
+#include "print/PrintTexts.h"
+
+#include <QtGui/QFontMetricsF>
+#include <QtGui/QPagedPaintDevice>
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+constexpr double pixelsPerInch = 96; // those of ExportColumn::width
+constexpr int widthOfUnknown = 80;
+constexpr double largestFont = 9; // points
+constexpr double smallestFont = 5;
+constexpr qsizetype longestText = 400; // more is not seen on any page
+constexpr int portraitPixels = 700;    // A4 between margins of 12 mm
+const QColor ruleColour(0xb8, 0xb8, 0xb8);
+const QColor headingColour(0xee, 0xee, 0xee);
+
+double widthOf(const ExportColumn &column)
+{
+    return column.width > 0 ? column.width : widthOfUnknown;
+}
+
+double sumOfWidths(const ExportColumns &columns)
+{
+    double sum = 0;
+    for (const ExportColumn &column : columns)
+        sum += widthOf(column);
+    return sum;
+}
+
+} // namespace
+
+bool isForLandscape(const ExportColumns &columns)
+{
+    return sumOfWidths(columns) > portraitPixels;
+}
+
+PageWriter::PageWriter(QPagedPaintDevice &device, PageOptions options)
+    : m_device(device), m_options(std::move(options))
+{
+}
+
+void PageWriter::begin(const ExportColumns &columns)
+{
+    m_columns = columns;
+    for (const ExportColumn &column : m_columns)
+        m_isNumeric.push_back(ADODB::isNumericType(column.type));
+    if (!m_painter.begin(&m_device))
+        throw ADODB::Error(ADODB::adErrWriteFile, PrintTexts::CantPrint);
+    measure();
+    beginPage();
+}
+
+void PageWriter::measure()
+{
+    const double page = m_device.width();
+    const double wanted = sumOfWidths(m_columns) * m_device.logicalDpiX() / pixelsPerInch;
+    const double share = wanted > 0 ? std::min(1.0, page / wanted) : 1.0;
+    m_font.setPointSizeF(std::max(smallestFont, largestFont * share));
+    m_bold = m_font;
+    m_bold.setBold(true);
+    const QFontMetricsF metrics(m_font, &m_device);
+    m_lineHeight = metrics.height() * 1.4;
+    m_padding = metrics.height() * 0.25;
+    m_lefts.assign(1, 0);
+    for (const ExportColumn &column : m_columns)
+        m_lefts.push_back(m_lefts.back() + widthOf(column) * m_device.logicalDpiX() / pixelsPerInch * share);
+    // The title, a gap, the headings, the rows, and the number of the page.
+    const QFontMetricsF title(m_bold, &m_device);
+    m_firstRow = title.height() * 1.8 + m_lineHeight;
+    const double below = m_device.height() - m_firstRow - m_lineHeight * 1.2;
+    m_rowsOfPage = std::max<qint64>(1, static_cast<qint64>(below / m_lineHeight));
+}
+
+qint64 PageWriter::pageCount() const
+{
+    return std::max<qint64>(1, (m_options.records + m_rowsOfPage - 1) / m_rowsOfPage);
+}
+
+void PageWriter::beginPage()
+{
+    ++m_page;
+    m_rowOnPage = 0;
+    if (isFull())
+        return;
+    if (m_page > 1 && !m_device.newPage())
+        throw ADODB::Error(ADODB::adErrWriteFile, PrintTexts::CantPrint);
+    m_painter.setPen(Qt::black);
+    m_painter.setFont(m_bold);
+    const QRectF title(0, 0, m_device.width(), m_firstRow - m_lineHeight);
+    m_painter.drawText(
+        title, Qt::AlignLeft | Qt::AlignTop,
+        QFontMetricsF(m_bold, &m_device).elidedText(m_options.title, Qt::ElideRight, title.width()));
+    m_painter.setFont(m_font);
+    const QRectF foot(0, m_device.height() - m_lineHeight, m_device.width(), m_lineHeight);
+    m_painter.drawText(foot, Qt::AlignHCenter | Qt::AlignBottom,
+                       PrintTexts::PageOf.arg(m_page).arg(pageCount()));
+    drawHeadings();
+}
+
+void PageWriter::drawHeadings()
+{
+    const double top = m_firstRow - m_lineHeight;
+    m_painter.fillRect(QRectF(0, top, m_lefts.back(), m_lineHeight), headingColour);
+    m_painter.setFont(m_bold);
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        drawCell(i, top, m_columns[i].heading);
+    m_painter.setFont(m_font);
+    drawRules(top, m_firstRow);
+    m_painter.setPen(QPen(ruleColour, 0));
+    m_painter.drawLine(QLineF(0, top, m_lefts.back(), top));
+}
+
+// The rules around the cells of one line: at its sides and below it.
+void PageWriter::drawRules(double top, double bottom)
+{
+    m_painter.setPen(QPen(ruleColour, 0));
+    for (const double x : m_lefts)
+        m_painter.drawLine(QLineF(x, top, x, bottom));
+    m_painter.drawLine(QLineF(0, bottom, m_lefts.back(), bottom));
+}
+
+void PageWriter::drawCell(std::size_t column, double top, const QString &text)
+{
+    if (text.isEmpty())
+        return;
+    const QRectF cell(m_lefts[column] + m_padding, top, m_lefts[column + 1] - m_lefts[column] - 2 * m_padding,
+                      m_lineHeight);
+    const QFontMetricsF metrics(m_painter.font(), &m_device);
+    const bool fits = metrics.horizontalAdvance(text) <= cell.width();
+    m_painter.setPen(Qt::black);
+    const int side = m_isNumeric[column] ? Qt::AlignRight : Qt::AlignLeft;
+    m_painter.drawText(cell, side | Qt::AlignVCenter | Qt::TextSingleLine,
+                       fits ? text : metrics.elidedText(text, Qt::ElideRight, cell.width()));
+}
+
+QString PageWriter::textOf(std::size_t column, const ADODB::RawValue &cell)
+{
+    m_value.resize(0);
+    ADODB::appendText(m_value, cell, m_columns[column].type);
+    QString text = QString::fromUtf8(m_value.left(4 * longestText)).left(longestText);
+    if (column < m_options.formats.size())
+        text = m_options.formats[column].applied(text);
+    for (QChar &c : text) {
+        if (c < u' ')
+            c = u' ';
+    }
+    return text;
+}
+
+void PageWriter::row(const std::vector<ADODB::RawValue> &cells)
+{
+    if (m_rowOnPage == m_rowsOfPage)
+        beginPage();
+    if (isFull())
+        return;
+    const double top = m_firstRow + static_cast<double>(m_rowOnPage) * m_lineHeight;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        drawCell(i, top, textOf(i, cells[static_cast<std::size_t>(m_columns[i].field)]));
+    drawRules(top, top + m_lineHeight);
+    ++m_rowOnPage;
+}
+
+void PageWriter::end()
+{
+    m_painter.end();
+}
+
+} // namespace KOVAVSFDataGridLib

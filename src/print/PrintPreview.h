@@ -1,0 +1,70 @@
+#pragma once
+
+#include "print/PageWriter.h"
+
+#include <QtPrintSupport/QPrinter>
+#include <QtWidgets/QDialog>
+
+#include <functional>
+#include <memory>
+
+class QComboBox;
+class QLabel;
+class QPrintPreviewWidget;
+class QToolButton;
+
+namespace KOVAVSFDataGridLib {
+
+// Shows the first pages, and asks what to print and whether on a printer or to a PDF file. It prints nothing.
+class PrintPreview final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    static constexpr int mostPages = 20; // that are shown
+
+    struct Choices
+    {
+        QString title;
+        QString file; // the name that a PDF file is offered, without folder and ending
+        qint64 records = 0;
+        qint64 markedRecords = 0;
+        ExportColumns columns;
+        std::vector<ADODB::DisplayFormat> formats; // one for each column
+        // Hands records to the writer until `shouldContinue` answers false. Throws ADODB::Error.
+        std::function<void(RecordWriter &, bool isMarkedOnly, const std::function<bool()> &shouldContinue)>
+            write;
+    };
+
+    explicit PrintPreview(Choices choices, QWidget *parent = nullptr);
+
+    // For an accepted dialog: writes what was chosen to where it was chosen; begin() may wait for a printer.
+    std::unique_ptr<RecordWriter> newWriter() const;
+    bool isMarkedOnly() const;
+
+private:
+    void layOut();
+    QWidget *makeChoices();
+    QWidget *makeButtons();
+    PageOptions options() const;
+    void drawPages(QPrinter &printer);
+    void updatePages();
+    void showPage(int page);
+    void print();
+    void savePdf();
+
+    const Choices m_choices;
+    std::shared_ptr<QPrinter> m_printer;
+    QPrintPreviewWidget *m_pages;
+    QLineEdit *m_title;
+    QComboBox *m_records;
+    QComboBox *m_orientation;
+    QComboBox *m_zoom;
+    QToolButton *m_previous;
+    QToolButton *m_next;
+    QLabel *m_place;
+    qint64 m_pageCount = 0;
+    QString m_file; // of the PDF file; empty for a printer
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,47 @@
+#include "session/records/PrintResult.h"
+
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "query/derivation/SqlText.h"
+#include "session/Session.h"
+#include "session/SessionMessages.h"
+#include "session/SessionWindow.h"
+#include "session/records/ExportResult.h"
+#include "session/records/LongWork.h"
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+PrintRequest printRequestOf(Session &session)
+{
+    const std::vector<int> shown = session.window().shownColumns();
+    PrintRequest request;
+    request.title = GetSQLTableName(session.statement()).simplified();
+    request.file = fileNameOf(session);
+    request.all = {1, session.result().recordset()->RecordCount()};
+    request.marked = markedRecords(session);
+    request.columns = exportColumnsOf(session, shown);
+    for (const int col : shown)
+        request.formats.push_back(ADODB::DisplayFormat::fromText(session.window().columnFormat(col))
+                                      .value_or(ADODB::DisplayFormat()));
+    return request;
+}
+
+bool printResult(Session &session, const PrintRequest &request, const PrintAnswer &what)
+{
+    const auto alive = session.shared_from_this();
+    const std::shared_ptr<ADODB::Recordset> recordset = session.result().recordset();
+    const RecordRange &range = what.isMarkedOnly ? request.marked : request.all;
+    try {
+        return writeUnderProgress(
+            session, SessionMessages::RecordsPrinted, range, [&](const auto &shouldContinue) {
+                return writeRecords(*recordset, range, request.columns, *what.writer, shouldContinue);
+            });
+    } catch (const ADODB::Error &error) {
+        session.questions().show(error.Description());
+    }
+    return false;
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,132 @@
+// What the control looks like at different sizes and with different results.
+#include "Shop.h"
+
+#include <QtCore/QUuid>
+#include <QtGui/QHelpEvent>
+#include <QtGui/QScreen>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QFrame>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QToolButton>
+#include <QtWidgets/QToolTip>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Looks : Shop
+{
+    Qt::ToolButtonStyle styleOf(const QString &key) const
+    {
+        return qobject_cast<QToolButton *>(toolbar->widgetForAction(button(key)))->toolButtonStyle();
+    }
+    QLabel &line() const { return *grid.findChild<QLabel *>(u"lblStatement"_s); }
+    // Views lay their headings out in an event of their own.
+    int rowHeadingWidth() const
+    {
+        QCoreApplication::processEvents();
+        return table->verticalHeader()->width();
+    }
+    int width(const QString &heading) const
+    {
+        for (int section = 0; section < table->model()->columnCount(); ++section) {
+            if (table->model()->headerData(section, Qt::Horizontal).toString() == heading)
+                return table->columnWidth(section);
+        }
+        return -1;
+    }
+};
+
+} // namespace
+
+TEST_F(Looks, TheLineBelowTheGridGroupsDigitsAroundItsFixedTexts)
+{
+    ASSERT_TRUE(
+        load(u"WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 12345) SELECT I FROM N"_s, {}));
+    EXPECT_TRUE(line().text().startsWith(u"第 1 条，共 12,345 条"_s)) << qPrintable(line().text());
+    EXPECT_TRUE(pageLabel->text().endsWith(u"只显示999999条以内的记录"_s));
+}
+
+TEST_F(Looks, DividersStandBetweenThePartsOfTheLineBelow)
+{
+    ASSERT_TRUE(load());
+    grid.resize(1200, 500);
+    QList<int> places;
+    for (const QFrame *frame : grid.findChildren<QFrame *>()) {
+        if (frame->frameShape() == QFrame::VLine && frame->isVisible())
+            places.append(frame->x());
+    }
+    std::sort(places.begin(), places.end());
+    ASSERT_EQ(places.size(), 2);
+    EXPECT_GT(places[0], pageLabel->geometry().right());
+    EXPECT_LT(places[0], line().x());
+    EXPECT_GT(places[1], line().geometry().right());
+}
+
+TEST_F(Looks, SimilarButtonsHaveCaptionsWhereThereIsRoom)
+{
+    grid.resize(1200, 500);
+    ASSERT_TRUE(load());
+    for (const QString &key :
+         {u"Filter"_s, u"QuickFilter"_s, u"FromResult"_s, u"ToFullTable"_s, u"ToPreview"_s, u"ToOrigin"_s})
+        EXPECT_EQ(styleOf(key), Qt::ToolButtonTextBesideIcon) << qPrintable(key);
+    EXPECT_EQ(styleOf(u"First"_s), Qt::ToolButtonIconOnly);
+    const int height = toolbar->height();
+    for (int width = 1200; width > 300; width -= 7) {
+        grid.resize(width, 500);
+        EXPECT_EQ(toolbar->height(), height) << width;
+        const auto *last = toolbar->widgetForAction(button(u"FullScreen"_s));
+        EXPECT_TRUE(styleOf(u"Filter"_s) == Qt::ToolButtonIconOnly ||
+                    last->geometry().right() <= toolbar->width())
+            << "captions must not push buttons out at " << width;
+    }
+    EXPECT_EQ(styleOf(u"Filter"_s), Qt::ToolButtonIconOnly);
+    grid.resize(1200, 500);
+    EXPECT_EQ(styleOf(u"Filter"_s), Qt::ToolButtonTextBesideIcon);
+}
+
+TEST_F(Looks, NoToolTipIsHigherThanAThirdOfTheScreen)
+{
+    QString statement = u"SELECT ID"_s;
+    for (int i = 0; i < 400; ++i)
+        statement += u",\n'some text' AS 第%1列"_s.arg(i);
+    ASSERT_TRUE(load(statement + u" FROM 商品"_s, {}));
+    QHelpEvent asking(QEvent::ToolTip, {2, 2}, line().mapToGlobal(QPoint(2, 2)));
+    QCoreApplication::sendEvent(&line(), &asking);
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto tip = std::find_if(windows.cbegin(), windows.cend(), [](const QWidget *window) {
+        return window->inherits("QTipLabel") && window->isVisible();
+    });
+    ASSERT_NE(tip, windows.cend());
+    EXPECT_GT((*tip)->height(), 40);
+    EXPECT_LE((*tip)->height(), grid.screen()->availableSize().height() / 3);
+    EXPECT_TRUE(QToolTip::text().contains(u'…'));
+    QToolTip::hideText();
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+}
+
+TEST_F(Looks, RowHeadingsHaveRoomForThreeDigits)
+{
+    ASSERT_TRUE(load(u"SELECT 1 AS A"_s, {}));
+    const int few = rowHeadingWidth();
+    ASSERT_TRUE(
+        load(u"WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 999) SELECT I FROM N"_s, {}));
+    EXPECT_EQ(rowHeadingWidth(), few);
+    ASSERT_TRUE(
+        load(u"WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 9999) SELECT I FROM N"_s, {}));
+    EXPECT_GT(rowHeadingWidth(), few);
+}
+
+TEST_F(Looks, WhereLayoutsAreKeptTheFirstWidthsFitTheContents)
+{
+    const QString statement = u"SELECT ID, 名称, 'a rather long text in each record' AS 说明 FROM 商品"_s;
+    ASSERT_TRUE(load(statement, {}));
+    EXPECT_EQ(width(u"ID"_s), width(u"说明"_s)) << "the default width";
+    grid.PutLayoutKey(QUuid::createUuid().toString());
+    ASSERT_TRUE(load(statement, {}));
+    EXPECT_LT(width(u"ID"_s), width(u"名称"_s));
+    EXPECT_GE(width(u"说明"_s),
+              table->fontMetrics().horizontalAdvance(u"a rather long text in each record"_s));
+}
