@@ -146,7 +146,7 @@ bool colShowSQLSentences::GetNextSQLByFilter(const QString &strNewFilter, QStrin
         strCurrentFilter = derivation->withCondition(strNewFilter);
         return !strCurrentFilter.isEmpty();
     }
-    addCondition(*sentence, strNewFilter);
+    addCondition(*sentence, strNewFilter, Reading());
     strCurrentFilter = joinSQLSentence(*sentence);
     return true;
 }

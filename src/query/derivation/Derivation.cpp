@@ -43,9 +43,10 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
       m_dialect(dialect)
 {
     nameFields(fields);
-    const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinct &&
+    // A condition leaves the same rows before and after DISTINCT.
+    const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
                         !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
-                        !m_parts.hasWindow && !m_parts.isClosed;
+                        !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isClosed && m_isListKnown;
     if (!isOpen) {
         m_kind = Kind::Closed;
         m_written.clear();
@@ -63,6 +64,9 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
 bool Derivation::isFoundAsText() const
 {
     const QString &text = m_sql.sql();
+    // What is added would be within a comment, or after the end.
+    if (m_sql.endsInLineComment() || m_sql.isSymbol(m_sql.count() - 1, u';'))
+        return false;
     const auto isAt = [&](const QString &word, TextRange clause, qsizetype token) {
         const qsizetype found = findUpper(text, word);
         return clause.isEmpty() ? found == 0 : found == m_sql.at(token).start;
@@ -82,7 +86,8 @@ bool Derivation::hasPlainList() const
 bool Derivation::keepsListWords() const
 {
     return (m_parts.isDistinct || m_parts.isTop) && !m_parts.source.isEmpty() && !m_parts.isCompound &&
-           !m_parts.isGrouped && !m_parts.isLimited && !m_parts.hasWindow && !m_parts.isClosed;
+           !m_parts.isGrouped && !m_parts.isLimited && !m_parts.hasWindow && !m_parts.hasRows &&
+           !m_parts.isClosed && m_isListKnown;
 }
 
 bool Derivation::isTextWork(DerivationStep step) const
@@ -110,7 +115,7 @@ QString Derivation::withCondition(const QString &condition) const
     if (!whyNot(DerivationStep::Condition).isEmpty())
         return {};
     SQLSentence sentence = base();
-    addCondition(sentence, condition);
+    addCondition(sentence, condition, m_sql.dialect());
     return joinSQLSentence(sentence);
 }
 
@@ -137,7 +142,7 @@ QString Derivation::withList(const QString &list, const QStringList &entries) co
     SQLSentence sentence = base();
     if (isSimple())
         sentence.order = stableSort();
-    if (m_kind == Kind::Closed && keepsListWords())
+    if (keepsListWords())
         sentence = {headWith(list), withWordsApart(m_sql, m_parts.where, 1), sortWithin(entries)};
     else
         sentence.fields = prefix() + u"SELECT "_s + list + u" FROM "_s + source();
@@ -168,7 +173,25 @@ QString Derivation::withoutConditions() const
 
 bool Derivation::hasAsTable(const Derivation &other) const
 {
-    return m_parts.isDerivedTable && other.m_kind == Kind::Closed && source() == other.source();
+    return m_parts.isDerivedTable && other.m_kind == Kind::Closed &&
+           source().simplified().compare(other.source().simplified(), Qt::CaseInsensitive) == 0;
+}
+
+QString Derivation::table() const
+{
+    if (!m_parts.isDerivedTable)
+        return {};
+    qsizetype close = m_parts.source.end - 1;
+    while (!m_sql.isSymbol(close, u')'))
+        --close;
+    return textOf(m_sql, {m_parts.source.begin + 1, close});
+}
+
+QString Derivation::withTable(const Derivation &other) const
+{
+    const SQLSentence sentence = base();
+    return joinSQLSentence(
+        {prefix() + u"SELECT * FROM "_s + other.asTable(), sentence.where, sentence.order});
 }
 
 QString Derivation::withSource(const Derivation &other) const
@@ -197,12 +220,12 @@ QString Derivation::withFieldsOf(const Derivation &fieldStatement) const
     const auto sameText = [](const QString &a, const QString &b) {
         return a.simplified().compare(b.simplified(), Qt::CaseInsensitive) == 0;
     };
-    const bool hasWords = m_kind == Kind::Closed && keepsListWords() && fieldStatement.keepsListWords();
-    if (m_kind != Kind::Closed && sameText(source(), fieldStatement.source()))
+    const bool hasWords = keepsListWords() && fieldStatement.keepsListWords();
+    if (!hasWords && m_kind != Kind::Closed && sameText(source(), fieldStatement.source()))
         return withList(fieldStatement.m_kind == Kind::Closed ? u"*"_s : fieldStatement.listText(), {});
     if (hasWords &&
         sameText(textOf(m_sql, m_parts.source), textOf(fieldStatement.m_sql, fieldStatement.m_parts.source)))
-        return withList(fieldStatement.listText(), splitList(fieldStatement.listText()));
+        return withList(fieldStatement.listText(), splitList(fieldStatement.listText(), m_sql.dialect()));
     QHash<QString, qsizetype> placeOfName;
     for (qsizetype i = m_names.size() - 1; i >= 0; --i)
         placeOfName.insert(m_names.at(i), i);
@@ -298,8 +321,9 @@ QString Derivation::asTable() const
         --end;
     const TextRange all{m_parts.with.end, end};
     QString inner = withWordsApart(m_sql, all, 0);
-    // A limit takes its rows in an order. Any other order is for what comes outside.
-    const bool isOrdered = !m_parts.order.isEmpty() && !m_parts.isLimited && !m_parts.isTop;
+    // A limit takes its rows in an order, and so does DISTINCT ON. Any other order is for what comes outside.
+    const bool isOrdered =
+        !m_parts.order.isEmpty() && !m_parts.isLimited && !m_parts.isTop && !m_parts.isDistinctOn;
     if (isOrdered && (!outerSort().isEmpty() || m_dialect.likelyEngine() == Engine::SqlServer)) {
         const qsizetype start = m_sql.at(all.begin).start;
         const qsizetype from = m_sql.at(m_parts.order.begin).start - start;
@@ -355,9 +379,9 @@ QString Derivation::sortWithin(const QStringList &entries) const
     for (const SelectParts::Item &term : m_parts.sort) {
         const int field = fieldOfTerm(term);
         const QString direction = textOf(m_sql, {term.value.end, term.tokens.end});
-        if (field < 0 && !m_parts.isDistinct)
+        if (field < 0 && !isDistinct())
             terms.append(textOf(m_sql, term.tokens));
-        else if (field >= 0 && (!m_parts.isDistinct || entries.contains(m_listed.at(field))))
+        else if (field >= 0 && (!isDistinct() || entries.contains(m_listed.at(field))))
             terms.append(valueOf(field) + (direction.isEmpty() ? QString() : u' ' + direction));
     }
     return terms.isEmpty() ? QString() : orderWords + terms.join(u',');
