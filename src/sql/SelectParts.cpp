@@ -54,12 +54,15 @@ public:
     SelectParts parts()
     {
         qsizetype next = readWith();
-        m_parts.isSelect = m_sql.isWord(next, u"SELECT");
+        const bool isInBrackets = isSubselect(m_sql, next);
+        m_parts.isSelect = m_sql.isWord(next, u"SELECT") || isInBrackets;
         if (!m_parts.isSelect)
             return m_parts;
-        next = readListWords(next + 1);
+        m_parts.isCompound = isInBrackets;
+        next = isInBrackets ? afterBrackets(m_sql, next) : readListWords(next + 1);
         readClauses(next);
-        m_parts.items = itemsIn(m_parts.list, false);
+        if (!m_parts.list.isEmpty())
+            m_parts.items = itemsIn(m_parts.list, false);
         if (!m_parts.order.isEmpty())
             m_parts.sort = itemsIn({m_parts.order.begin + 2, m_parts.order.end}, true);
         readSources();
@@ -221,7 +224,8 @@ private:
     // Whether a name after this token is an alias rather than part of an expression.
     bool canEndValue(qsizetype index) const
     {
-        if (m_sql.isSymbol(index, u')') || m_sql.at(index).kind == SqlToken::Kind::String ||
+        if (m_sql.isSymbol(index, u')') || m_sql.isSymbol(index, u']') ||
+            m_sql.at(index).kind == SqlToken::Kind::String ||
             m_sql.at(index).kind == SqlToken::Kind::Number ||
             m_sql.at(index).kind == SqlToken::Kind::QuotedName)
             return true;

@@ -16,7 +16,7 @@ struct TextRange
 };
 
 // The clauses of a SELECT, found by its tokens: what brackets, quotes and comments hold is no clause. Of a
-// compound statement it describes the first SELECT.
+// compound statement it describes the first SELECT, or none of them where that is in brackets.
 struct SelectParts
 {
     // One entry of the select list or of the sort.

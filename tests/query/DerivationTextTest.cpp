@@ -216,6 +216,10 @@ INSTANTIATE_TEST_SUITE_P(
                  "SELECT array[A, B] FROM T WHERE (array[A, B]) = 1"},
         OpenCase{"Escape", Engine::PostgreSQL, uR"(select E'it\'s, from x' as e, A as b from T)"_s, u"e|b"_s,
                  R"(SELECT E'it\'s, from x' as e, A as b FROM T WHERE A = 1)"},
+        OpenCase{"ArrayAndAlias", Engine::PostgreSQL, u"select array[A, B] a from T"_s, u"a"_s,
+                 "SELECT array[A, B] a FROM T WHERE (array[A, B]) = 1"},
+        OpenCase{"ConstantWithPrefix", Engine::PostgreSQL, uR"(select A, E'it\'s' as e from T)"_s, u"a|e"_s,
+                 R"(SELECT A, E'it\'s' as e FROM T WHERE (CASE WHEN 1=1 THEN E'it\'s' END) = 1)"},
         // Fields that the list can't be matched with.
         OpenCase{"Row", Engine::PostgreSQL, u"select (r).* from T"_s, u"a|b"_s,
                  "SELECT * FROM ( select (r).* from T ) AS Q WHERE b = 1"},
@@ -228,6 +232,8 @@ INSTANTIATE_TEST_SUITE_P(
                  "SELECT * FROM ( select mine(A) filter (where B > 1) as r from T ) AS Q WHERE r = 1"},
         OpenCase{"Deviation", Engine::MySQL, u"select std(A) as s from T"_s, u"s"_s,
                  "SELECT * FROM ( select std(A) as s from T ) AS Q WHERE s = 1"},
+        OpenCase{"Brackets", Engine::MySQL, u"(select A from T) union (select B from U) order by 1"_s, u"A"_s,
+                 "SELECT * FROM ( (select A from T) union (select B from U) ) AS Q WHERE A = 1 ORDER BY A"},
         // The sort says which rows are left.
         OpenCase{"Distinct", Engine::PostgreSQL, u"select distinct C, A as b from T where D = 2 order by b"_s,
                  u"c|b"_s, "SELECT distinct C, A as b FROM T where D = 2 AND A = 1 ORDER BY A"},

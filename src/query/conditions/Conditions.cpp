@@ -191,8 +191,6 @@ QString numberCondition(const QString &field, qint32 adoType, const QString &cel
             return equals + cellText;
         return like + cellText + (isFloating && isWhole(cellText) ? QStringLiteral(".0") : QString());
     }
-    case Engine::MySQL:
-        return (adoType == currencyType ? equals : like) + cellText;
     default:
         return (isFloating || adoType == currencyType ? equals : like) + cellText;
     }

@@ -29,6 +29,14 @@ bool isOneCall(const SqlScanner &sql, TextRange value)
     return true;
 }
 
+// E'…', N'…' and the like.
+bool isTextWithPrefix(const SqlScanner &sql, TextRange value)
+{
+    return value.end - value.begin == 2 && sql.at(value.begin).kind == SqlToken::Kind::Word &&
+           sql.at(value.begin + 1).kind == SqlToken::Kind::String &&
+           sql.at(value.begin).end() == sql.at(value.begin + 1).start;
+}
+
 // The value as it can stand beside an operator.
 QString operand(const SqlScanner &sql, const SelectParts::Item &item)
 {
@@ -36,8 +44,10 @@ QString operand(const SqlScanner &sql, const SelectParts::Item &item)
     const bool isOneToken = item.value.end - item.value.begin == 1;
     const SqlToken::Kind kind = sql.at(item.value.begin).kind;
     // A sort takes a number for a position, and some engines refuse other constants.
-    if (isOneToken && !item.isName &&
-        (kind == SqlToken::Kind::Number || kind == SqlToken::Kind::String || kind == SqlToken::Kind::Word))
+    const bool isConstant =
+        isOneToken && !item.isName &&
+        (kind == SqlToken::Kind::Number || kind == SqlToken::Kind::String || kind == SqlToken::Kind::Word);
+    if (isConstant || isTextWithPrefix(sql, item.value))
         return u"(CASE WHEN 1=1 THEN %1 END)"_s.arg(text);
     const bool isWhole = item.isName || isOneToken || isOneCall(sql, item.value);
     return isWhole ? text : u'(' + text + u')';
