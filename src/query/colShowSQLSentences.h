@@ -172,6 +172,7 @@ private:
     bool StepBackTo(qsizetype position, QString &PassFilter, QString *PassKey);
     bool BringInStepWith(const clsShowSQLSentence &entry, const QString &connectionString);
     bool FillCatalogue(const QString &connectionString, const QString &statement);
+    QStringList NamesInCatalogue(const std::vector<SourceField> &fields) const;
     void WriteCatalogueAsText(const QString &statement);
     Engine engineOf(const QString &connectionString) const;
 

@@ -147,7 +147,13 @@ QString colShowSQLSentences::WithFieldsOf(const QString &statement, const QStrin
     const auto all = DerivationOf(Latest()->AllFields);
     if (all && all->hasListAsTable())
         return WithFieldsOfWhole(*derivation, *all, *fields);
-    const QString derived = derivation->withFieldsOf(*fields);
+    // A host's part statement can name by its value what the user knows by its alias.
+    const bool isOverSame = all && !all->isSimple() && fields != all &&
+                            all->source().simplified() == fields->source().simplified() &&
+                            derivation->source().simplified() == fields->source().simplified();
+    const QStringList listed = isOverSame ? all->listedFor(*fields) : QStringList();
+    const QString derived =
+        listed.isEmpty() ? derivation->withFieldsOf(*fields) : derivation->withFields(listed);
     if (!derived.isEmpty() || fieldStatement == Latest()->AllFields)
         return derived;
     // What is shown may lack a field that the whole has.

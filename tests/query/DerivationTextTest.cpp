@@ -117,6 +117,11 @@ TEST(DerivationText, FieldsOfEqualNamesAreToldApartByTheirTable)
                             {{u"C"_s, 3, u"Ord"_s}, {u"ID"_s, 3, u"Ord"_s}, {u"ID"_s, 3, u"Ord"_s}},
                             dialectOf(dbAccess, Engine::SQLite));
     EXPECT_EQ(united.written(), (QStringList{u"C"_s, QString(), QString()})) << "no name is unmistakable";
+    const Derivation natural(u"select * from Ord a natural join Ord b"_s,
+                             {{u"ID"_s, 3, u"Ord"_s}, {u"ID"_s, 3, u"Ord"_s}},
+                             dialectOf(dbAccess, Engine::SQLite));
+    for (const auto step : {DerivationStep::Condition, DerivationStep::Sort, DerivationStep::Fields})
+        EXPECT_EQ(natural.whyNot(step), QueryTexts::EqualNames.arg(u"ID"_s));
 }
 
 namespace {

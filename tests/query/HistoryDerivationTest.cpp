@@ -122,6 +122,40 @@ TEST_F(HistoryDerivation, AHostsPartStatementIsFoundByItsNames)
     EXPECT_EQ(firstColumn(next).size(), firstColumn(first).size());
 }
 
+TEST_F(HistoryDerivation, AHostsPartStatementMayLackAnAlias)
+{
+    load(u"select ID as k, Name as n, Qty * 2 as d from Ord"_s, u"select Name, Qty * 2 from Ord"_s);
+    EXPECT_TRUE(history.GetNextShowSQL(2, next));
+    EXPECT_EQ(database->read(next).names, (QStringList{u"n"_s, u"d"_s})) << qPrintable(next);
+    EXPECT_TRUE(history.GetCurrSQLFieldsStatus());
+    EXPECT_TRUE(history.IsSelFieldPartField(u"n"_s));
+    EXPECT_FALSE(history.IsSelFieldPartField(u"k"_s));
+}
+
+TEST_F(HistoryDerivation, TheJoinOfATableWithItselfCanBeUsed)
+{
+    load(u"select a.*, b.* from Ord a join Ord b on a.ID = b.Cust"_s);
+    QStringList written;
+    for (const clsDataField &field : history.DataFields())
+        written.append(history.GetConditionName(field));
+    EXPECT_EQ(written.join(u' '), u"a.ID a.Name a.Qty a.Price a.Cust b.ID b.Name b.Qty b.Price b.Cust"_s);
+    EXPECT_EQ(history.WhyNot(DerivationStep::Condition), QString());
+}
+
+TEST_F(HistoryDerivation, AJoinsFieldsKeepTheirTableInEveryDialog)
+{
+    load(u"select o.*, c.City from Ord o, Cust c where o.Cust = c.ID"_s);
+    EXPECT_EQ(history.GetConditionName(*history.DataFields().Item(1)), u"o.ID"_s);
+    EXPECT_EQ(history.GetColumnRealName(first, {u"ID"_s, u"City"_s}, 0), u"o.ID"_s);
+    QString text;
+    chooser.choice = u"o.ID"_s;
+    EXPECT_TRUE(manager.GetPartShowSelFields(first, {}, first, text));
+    EXPECT_EQ(chooser.written.first() + u' ' + chooser.written.last(), u"o.ID c.City"_s);
+    EXPECT_EQ(firstColumn(text).size(), 8) << qPrintable(text);
+    EXPECT_TRUE(manager.GetPartSortSelFields(first, {}, text));
+    EXPECT_EQ(chooser.written.first() + u' ' + chooser.written.last(), u"o.ID c.City"_s);
+}
+
 TEST_F(HistoryDerivation, AStepBackNeedsNoReadablePartStatement)
 {
     load(u"select * from Ord"_s, u"select Gone from Ord"_s);

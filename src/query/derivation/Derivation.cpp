@@ -107,6 +107,9 @@ QString Derivation::whyNot(DerivationStep step) const
         return QueryTexts::UnnamedField;
     if (isWhole && !equalName().isEmpty())
         return QueryTexts::EqualNames.arg(equalName());
+    const QStringList &usable = step == DerivationStep::Fields ? m_listed : m_written;
+    if (!isWhole && !usable.isEmpty() && std::ranges::all_of(usable, &QString::isEmpty))
+        return QueryTexts::EqualNames.arg(equalName());
     return {};
 }
 
@@ -240,6 +243,24 @@ QString Derivation::withFieldsOf(const Derivation &fieldStatement) const
             return {};
     }
     return withFields(entries);
+}
+
+QStringList Derivation::listedFor(const Derivation &part) const
+{
+    QStringList entries;
+    for (qsizetype i = 0; i < part.m_names.size(); ++i) {
+        const QString value = part.valueOf(static_cast<int>(i)).simplified();
+        qsizetype own = 0;
+        while (own < m_names.size() &&
+               valueOf(static_cast<int>(own)).simplified().compare(value, Qt::CaseInsensitive) != 0)
+            ++own;
+        if (own == m_names.size())
+            own = m_names.indexOf(part.m_names.at(i));
+        if (own < 0)
+            return {};
+        entries.append(m_listed.at(own));
+    }
+    return entries;
 }
 
 QString Derivation::fieldsStatement() const

@@ -93,6 +93,10 @@ public:
     // that can't be done.
     QString withFieldsOf(const Derivation &fieldStatement) const;
 
+    // What the list of this statement has for the fields of another one, which may lack its aliases. Empty
+    // when it hasn't got one of them.
+    QStringList listedFor(const Derivation &part) const;
+
     // What this statement's fields are called in the list of one that was derived from it: as listed(), or,
     // where that one has this as a table, by their names.
     const QStringList &listedIn(const Derivation &derived) const;
