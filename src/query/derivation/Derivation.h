@@ -134,6 +134,7 @@ private:
     bool keepsListWords() const;
     bool endsCondition(qsizetype token) const;
     QString headWith(const QString &list) const;
+    QString withWordsApart(TextRange tokens, int fromDepth) const;
     QString withList(const QString &list, const QStringList &entries) const;
 
     SqlScanner m_sql;
