@@ -202,6 +202,15 @@ private:
 
     SelectParts::Item itemAt(qsizetype first, qsizetype end) const
     {
+        // SQL Server has no comparisons in a list; there a name and "=" give the alias first.
+        if (m_sql.dialect() == SqlDialect::SqlServer && m_sql.isName(first) &&
+            m_sql.isSymbol(first + 1, u'=') && first + 2 < end) {
+            SelectParts::Item item = SelectParts::itemWithoutAlias(m_sql, {first + 2, end});
+            item.tokens.begin = first;
+            item.alias = m_sql.name(first);
+            item.hasAs = true;
+            return item;
+        }
         qsizetype valueEnd = end;
         // To PostgreSQL a text after a name is a value of the type so named.
         const bool endsInText = end > first && m_sql.at(end - 1).kind == SqlToken::Kind::String &&

@@ -239,6 +239,15 @@ INSTANTIATE_TEST_SUITE_P(
                  "SELECT * FROM ( select std(A) as s from T ) AS Q WHERE s = 1"},
         OpenCase{"Brackets", Engine::MySQL, u"(select A from T) union (select B from U) order by 1"_s, u"A"_s,
                  "SELECT * FROM ( (select A from T) union (select B from U) ) AS Q WHERE A = 1 ORDER BY A"},
+        OpenCase{"AliasFirst", Engine::SqlServer, u"select A, Twice = Q * 2 from T"_s, u"A|Twice"_s,
+                 "SELECT A, Twice = Q * 2 FROM T WHERE (Q * 2) = 1"},
+        OpenCase{"Ties", Engine::SqlServer, u"select top (5) with ties A, B from T order by C desc"_s,
+                 u"A|B"_s,
+                 "SELECT * FROM ( select top (5) with ties A, B from T order by C desc ) AS Q WHERE B = 1"},
+        OpenCase{"FirstRows", Engine::Oracle, u"select A, B from T order by A fetch first 3 rows with ties"_s,
+                 u"A|B"_s,
+                 "SELECT * FROM ( select A, B from T order by A fetch first 3 rows with ties ) Q WHERE B = 1 "
+                 "ORDER BY A"},
         // The sort says which rows are left.
         OpenCase{"Distinct", Engine::PostgreSQL, u"select distinct C, A as b from T where D = 2 order by b"_s,
                  u"c|b"_s, "SELECT distinct C, A as b FROM T where D = 2 AND A = 1 ORDER BY A"},

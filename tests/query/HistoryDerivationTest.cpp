@@ -54,6 +54,71 @@ protected:
 
 } // namespace
 
+namespace {
+
+// Knows what Access would answer from the statement's list.
+class ListReader final : public FieldReader
+{
+public:
+    bool Open(const QString &) override { return true; }
+    Engine engineOf(const QString &) override { return Engine::Access; }
+    std::optional<std::vector<SourceField>> Read(const QString &, const QString &statement) override
+    {
+        const SqlScanner sql(statement);
+        const SelectParts parts = SelectParts::of(sql);
+        if (!parts.items.empty() && parts.items.front().isStar)
+            return Read({}, Derivation(statement, {}, dialectOf(dbAccess, Engine::Access)).table());
+        std::vector<SourceField> fields;
+        for (const SelectParts::Item &item : parts.items)
+            fields.push_back({sql.name(item.tokens.end - 1), 202});
+        return fields;
+    }
+};
+
+} // namespace
+
+// What is chosen out of TOP is the table of what follows, so that other fields need another table.
+TEST(HistoryDerivationOfTop, OtherFieldsCanBeChosenAfterAFilter)
+{
+    ListReader reader;
+    MemoryChooser chooser;
+    clsFilterManagement manager(&reader, &chooser);
+    colShowSQLSentences &history = manager.SQLManager();
+    const QString all = u"select top 5 A, B from T order by B"_s;
+    manager.SetDBType(dbAccess);
+    manager.SetDBConnString(u"memory"_s);
+    manager.SetAllFields(all);
+    manager.SetOriginFilter(all);
+    manager.SetSQLInitData();
+    history.AddCurrentSQL(all, 1);
+    history.GetCurrSQLFieldsStatus();
+
+    QString chosen;
+    chooser.choice = u"B"_s;
+    ASSERT_TRUE(manager.GetPartShowSelFields(all, {}, all, chosen));
+    EXPECT_EQ(chosen.simplified(), u"SELECT top 5 B FROM T ORDER BY B"_s);
+    history.AddCurrentSQL(chosen, 0, history.GetFieldsStatement(chosen));
+    EXPECT_FALSE(history.CanName(*history.DataFields().Item(1)));
+    EXPECT_TRUE(history.CanName(*history.DataFields().Item(2)));
+
+    QString filtered;
+    ASSERT_TRUE(history.GetNextSQLByFilter(u"B = 1"_s, filtered));
+    EXPECT_EQ(filtered.simplified(),
+              u"SELECT * FROM ( SELECT top 5 B FROM T ORDER BY B ) AS Q WHERE B = 1 ORDER BY B"_s);
+    history.AddCurrentSQL(filtered, 0);
+    QString next;
+    ASSERT_TRUE(history.GetNextShowSQL(1, next));
+    EXPECT_EQ(next.simplified(),
+              u"SELECT * FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE B = 1 ORDER BY B"_s);
+    chooser.choice = u"A"_s;
+    ASSERT_TRUE(manager.GetPartShowSelFields(all, chosen, filtered, chosen));
+    EXPECT_EQ(chosen.simplified(),
+              u"SELECT A FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE B = 1 ORDER BY B"_s);
+    EXPECT_EQ(chooser.allFields, (QStringList{u"A"_s, u"B"_s}));
+    ASSERT_TRUE(manager.GetRequirePartSQL(filtered, 3, next));
+    EXPECT_EQ(next.simplified(), u"SELECT * FROM ( select top 5 A, B from T order by B ) AS Q ORDER BY B"_s);
+}
+
 TEST_F(HistoryDerivation, ASimpleStatementStaysLetterForLetter)
 {
     load(u"select * from Ord where Qty > 1"_s);
