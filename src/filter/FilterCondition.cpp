@@ -15,13 +15,36 @@ namespace {
 
 QString equals(const QString &field, const FilterValue &value)
 {
+    if (!value.shownAlike.isEmpty())
+        return u"%1 BETWEEN %2 AND %3"_s.arg(field, value.shownAlike.from, value.shownAlike.to);
     if (value.nextDay.isEmpty())
         return field + " = "_L1 + value.literal;
     return u"(%1 >= %2 AND %1 < %3)"_s.arg(field, value.literal, value.nextDay);
 }
 
+QString compareFloat(const QString &field, FilterOperator op, const FilterValue &value)
+{
+    const NumberRange &range = value.shownAlike;
+    switch (op) {
+    case FilterOperator::NotEquals:
+        return u"%1 NOT BETWEEN %2 AND %3"_s.arg(field, range.from, range.to);
+    case FilterOperator::Greater:
+        return field + " > "_L1 + range.to;
+    case FilterOperator::Less:
+        return field + " < "_L1 + range.from;
+    case FilterOperator::AtLeast:
+        return field + " >= "_L1 + range.from;
+    case FilterOperator::AtMost:
+        return field + " <= "_L1 + range.to;
+    default:
+        return equals(field, value);
+    }
+}
+
 QString compare(const QString &field, FilterOperator op, const FilterValue &value)
 {
+    if (!value.shownAlike.isEmpty())
+        return compareFloat(field, op, value);
     const bool isDay = !value.nextDay.isEmpty();
     switch (op) {
     case FilterOperator::NotEquals:
@@ -40,10 +63,33 @@ QString compare(const QString &field, FilterOperator op, const FilterValue &valu
     }
 }
 
+// A fraction, or a computed number, is hardly ever exactly what is shown.
+std::optional<FilterValue> valueOf(const Dialect &dialect, const FilterField &field, const QString &typed)
+{
+    auto value = readFilterValue(dialect, field.fieldClass, typed);
+    const bool isWhole =
+        value && !value->literal.contains(u'.') && !value->literal.contains(u'e', Qt::CaseInsensitive);
+    if (value && field.floatSize && (!isWhole || field.isComputed))
+        value->shownAlike = rangeShownAs(value->literal, *field.floatSize, dialect.engine);
+    return value;
+}
+
+// SQLite takes every number for less than any text, so that a number is compared as what each value is.
+QString compareUntyped(const Dialect &dialect, const FilterField &field, FilterOperator op,
+                       const FilterValue &text, const QString &typed)
+{
+    const FilterField asNumber{field.caption, field.written, FieldClass::Number, FloatSize::Double, true};
+    const auto number = valueOf(dialect, asNumber, typed);
+    if (!number)
+        return compare(field.written, op, text);
+    return u"CASE typeof(%1) WHEN 'text' THEN %2 ELSE %3 END"_s.arg(
+        field.written, compare(field.written, op, text), compare(field.written, op, *number));
+}
+
 FilterCondition between(const Dialect &dialect, const FilterChoice &choice)
 {
-    const auto first = readFilterValue(dialect, choice.field.fieldClass, choice.value);
-    const auto last = readFilterValue(dialect, choice.field.fieldClass, choice.lastValue);
+    const auto first = valueOf(dialect, choice.field, choice.value);
+    const auto last = valueOf(dialect, choice.field, choice.lastValue);
     if (!first || choice.value.isEmpty())
         return {{}, whyNoFilterValue(choice.field.fieldClass, choice.value)};
     if (!last || choice.lastValue.isEmpty())
@@ -53,8 +99,12 @@ FilterCondition between(const Dialect &dialect, const FilterChoice &choice)
     const double lastExtent = last->nextDay.isEmpty() ? 0 : millisecondsToDayEnd;
     if (first->rank && last->rank && *last->rank + lastExtent < *first->rank)
         return {{}, FilterTexts::EndBeforeStart, true};
-    return {u'(' + compare(choice.field.written, FilterOperator::AtLeast, *first) + " AND "_L1 +
-                compare(choice.field.written, FilterOperator::AtMost, *last) + u')',
+    const auto bound = [&](FilterOperator op, const FilterValue &value, const QString &typed) {
+        return choice.field.isUntyped ? compareUntyped(dialect, choice.field, op, value, typed)
+                                      : compare(choice.field.written, op, value);
+    };
+    return {u'(' + bound(FilterOperator::AtLeast, *first, choice.value) + " AND "_L1 +
+                bound(FilterOperator::AtMost, *last, choice.lastValue) + u')',
             {}};
 }
 
@@ -63,10 +113,12 @@ FilterCondition inList(const Dialect &dialect, const FilterChoice &choice)
     QStringList literals;
     QStringList days;
     for (const QString &item : splitFilterList(choice.value)) {
-        const auto value = readFilterValue(dialect, choice.field.fieldClass, item);
+        const auto value = valueOf(dialect, choice.field, item);
         if (!value)
             return {{}, whyNoFilterValue(choice.field.fieldClass, item)};
-        if (value->nextDay.isEmpty())
+        if (choice.field.isUntyped)
+            days.append(compareUntyped(dialect, choice.field, FilterOperator::Equals, *value, item));
+        else if (value->nextDay.isEmpty() && value->shownAlike.isEmpty())
             literals.append(value->literal);
         else
             days.append(equals(choice.field.written, *value));
@@ -90,6 +142,10 @@ QString isEmpty(const Dialect &dialect, const FilterField &field, bool wanted)
 FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked)
 {
     FilterChoice choice = asked;
+    // SQLite's days can have a time as well.
+    if (choice.field.fieldClass == FieldClass::Date && dialect.engine == Engine::SQLite && !dialect.isOdbc &&
+        (hasTimeOfDay(choice.value) || hasTimeOfDay(choice.lastValue)))
+        choice.field.fieldClass = FieldClass::Moment;
     const bool asksForValue = choice.op != FilterOperator::IsEmpty && choice.op != FilterOperator::IsNotEmpty;
     if (asksForValue && choice.field.fieldClass == FieldClass::Date)
         choice.field.written = dateOperand(dialect, choice.field.written);
@@ -109,7 +165,7 @@ FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked)
     default:
         break;
     }
-    const auto value = readFilterValue(dialect, field.fieldClass, choice.value);
+    const auto value = valueOf(dialect, field, choice.value);
     if (!value || choice.value.isEmpty())
         return {{}, whyNoFilterValue(field.fieldClass, choice.value)};
     if (field.fieldClass == FieldClass::Boolean) {
@@ -124,7 +180,9 @@ FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked)
     case FilterOperator::EndsWith:
         return {like(dialect, field.written, choice.value, Anchor::End), {}};
     default:
-        return {compare(field.written, choice.op, *value), {}};
+        return {field.isUntyped ? compareUntyped(dialect, field, choice.op, *value, choice.value)
+                                : compare(field.written, choice.op, *value),
+                {}};
     }
 }
 

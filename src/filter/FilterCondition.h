@@ -2,6 +2,9 @@
 
 #include "filter/FilterOperator.h"
 #include "sql/Engine.h"
+#include "sql/Literals.h"
+
+#include <optional>
 
 namespace KOVAVSFDataGridLib {
 
@@ -10,6 +13,9 @@ struct FilterField
     QString caption; // as the user reads it
     QString written; // as it stands in a statement
     FieldClass fieldClass = FieldClass::Text;
+    std::optional<FloatSize> floatSize = {}; // of a number that is a float
+    bool isComputed = false;                 // from no column of a table
+    bool isUntyped = false;                  // of SQLite: each value has a type of its own
 };
 
 // What one row of the builder says.

@@ -7,6 +7,7 @@
 #include "ado/Recordset.h"
 #include "ado/connection/EngineOf.h"
 #include "filter/FilterSql.h"
+#include "sql/Literals.h"
 #include "sql/Names.h"
 
 #include <QtCore/QHash>
@@ -126,10 +127,36 @@ std::vector<FilterField> FilterSource::readFields()
         }
         if (!captions.contains(caption)) {
             captions.insert(caption);
-            fields.push_back({caption, written, fieldClassOf(info.type)});
+            fields.push_back(fieldOf(caption, written, info.type, info));
         }
     }
     return fields;
+}
+
+FilterField FilterSource::fieldOf(const QString &caption, const QString &written, ADODB::DataTypeEnum type,
+                                  const ADODB::FieldInfo &info)
+{
+    FilterField field{caption, written, fieldClassOf(type)};
+    if (type == ADODB::adDouble || type == ADODB::adSingle)
+        field.floatSize = type == ADODB::adDouble ? FloatSize::Double : FloatSize::Single;
+    field.isComputed = info.baseColumn.isEmpty();
+    field.isUntyped = field.fieldClass == FieldClass::Text && dialect().engine == Engine::SQLite &&
+                      !dialect().isOdbc && (field.isComputed || hasNoDeclaredType(info));
+    return field;
+}
+
+// SQLite then keeps each value as what it is.
+bool FilterSource::hasNoDeclaredType(const ADODB::FieldInfo &info)
+{
+    try {
+        ADODB::Recordset columns;
+        columns.Open(u"SELECT 1 FROM pragma_table_xinfo(%1) WHERE name = %2 AND type = ''"_s.arg(
+                         textLiteral(dialect(), info.baseTable), textLiteral(dialect(), info.baseColumn)),
+                     connection());
+        return columns.RecordCount() > 0;
+    } catch (const ADODB::Error &) {
+        return false; // a table of another database that is attached
+    }
 }
 
 // Fields of equal names keep the order in which the user sees them.
@@ -149,7 +176,7 @@ std::vector<FilterField> FilterSource::readOfferedFields()
         // An open result knows more than a description where values have types of their own.
         const auto type =
             field.adoType != 0 ? static_cast<ADODB::DataTypeEnum>(field.adoType) : infos[i].type;
-        fields.push_back({caption, field.written, fieldClassOf(type)});
+        fields.push_back(fieldOf(caption, field.written, type, infos[i]));
     }
     return fields;
 }

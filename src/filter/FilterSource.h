@@ -9,7 +9,8 @@
 
 namespace ADODB {
 class Connection;
-}
+struct FieldInfo;
+} // namespace ADODB
 
 namespace KOVAVSFDataGridLib {
 
@@ -51,6 +52,9 @@ public:
 private:
     const std::shared_ptr<ADODB::Connection> &connection();
     std::vector<FilterField> readOfferedFields();
+    FilterField fieldOf(const QString &caption, const QString &written, ADODB::DataTypeEnum type,
+                        const ADODB::FieldInfo &info);
+    bool hasNoDeclaredType(const ADODB::FieldInfo &info);
     bool askWhetherBackslashEscapes();
 
     AllDBType m_database = dbAccess;

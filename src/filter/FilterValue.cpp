@@ -96,8 +96,8 @@ std::optional<FilterValue> readMoment(const Dialect &dialect, const QString &typ
 
 std::optional<FilterValue> readDay(const Dialect &dialect, const QString &typed)
 {
-    const QDate day = readDate(narrow(typed));
-    if (!day.isValid())
+    const auto [day, rest] = splitMoment(typed);
+    if (!day.isValid() || (!rest.isEmpty() && readTime(rest) != QTime(0, 0)))
         return std::nullopt;
     return FilterValue{.literal = dateLiteral(dialect, day), .rank = static_cast<double>(day.toJulianDay())};
 }
@@ -138,6 +138,13 @@ std::optional<FilterValue> readFilterValue(const Dialect &dialect, FieldClass fi
 QDate dayOf(const QString &typed)
 {
     return splitMoment(typed).day;
+}
+
+bool hasTimeOfDay(const QString &typed)
+{
+    const auto [day, rest] = splitMoment(typed);
+    const QTime time = readTime(rest);
+    return day.isValid() && time.isValid() && time != QTime(0, 0);
 }
 
 QString whyNoFilterValue(FieldClass fieldClass, const QString &typed)

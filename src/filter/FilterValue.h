@@ -1,7 +1,7 @@
 #pragma once
 
 #include "filter/FieldClass.h"
-#include "sql/Engine.h"
+#include "sql/Literals.h"
 
 #include <optional>
 
@@ -13,6 +13,7 @@ struct FilterValue
     QString literal = {};
     // Only for a moment of which just the day was typed: the moment at which the next day begins.
     QString nextDay = {};
+    NumberRange shownAlike = {};     // of a float: what is shown like the number
     bool isTrue = false;             // of a Boolean
     std::optional<double> rank = {}; // for telling which of two values is larger, where that is known
 };
@@ -24,6 +25,9 @@ std::optional<FilterValue> readFilterValue(const Dialect &dialect, FieldClass fi
 
 // The day that a text is or begins with; invalid when there is none.
 QDate dayOf(const QString &typed);
+
+// Whether a text is a moment, and not the first one of its day.
+bool hasTimeOfDay(const QString &typed);
 
 // What to tell somebody who typed no such value.
 QString whyNoFilterValue(FieldClass fieldClass, const QString &typed);

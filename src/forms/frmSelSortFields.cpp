@@ -24,8 +24,9 @@ namespace {
 // The heading, unless the name as it is written differs from it by quotes alone or several fields have it.
 QString captionOf(const OfferedField &field, const QList<OfferedField> &fields)
 {
-    const bool isQuotedName =
-        field.written.size() == field.name.size() + 2 && lastNamePart(field.written) == field.name;
+    const bool isQuotedName = field.written.size() == field.name.size() + 2 &&
+                              !closingQuote(field.written.front()).isNull() &&
+                              lastNamePart(field.written) == field.name;
     const bool isUnique = std::ranges::count(fields, field.name, &OfferedField::name) == 1;
     return isUnique && !isQuotedName ? field.name : field.written;
 }

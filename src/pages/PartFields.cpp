@@ -34,11 +34,14 @@ QString enclosed(const QString &field)
     return isMoreThanAName(field) ? field : u'[' + QString(field).replace(u'.', "].["_L1) + u']';
 }
 
-// An alias gets its AS, without which it would be taken for a part of the name.
+// An alias gets its AS, without which it would be taken for a part of the name. After an expression, what
+// looks like an alias can be its last word.
 QString itemText(const SqlScanner &sql, const SelectParts::Item &item)
 {
     const bool hasAlias = item.value.end < item.tokens.end;
-    if (!hasAlias || sql.isWord(item.value.end, u"AS"))
+    const bool isOneName =
+        item.isName || item.value.end - item.value.begin == 1 || sql.isSymbol(item.value.end - 1, u')');
+    if (!hasAlias || item.hasAs || !isOneName)
         return textOf(sql, item.tokens);
     return textOf(sql, item.value) + u" AS "_s + textOf(sql, TextRange{item.value.end, item.tokens.end});
 }

@@ -51,7 +51,7 @@ bool clsFilterManagement::LetNewFilter(const QString &strNewFilter, QString &str
             return false;
         strCurrentFilter = derivation->withCondition(strNewFilter);
     } else {
-        addCondition(*sentence, strNewFilter);
+        addCondition(*sentence, strNewFilter, m_history.Reading());
         strCurrentFilter = joinSQLSentence(*sentence);
     }
     MakeCurrent(strCurrentFilter);
@@ -105,18 +105,20 @@ bool clsFilterManagement::GetPartShowSelFields(const QString &strAllFields, cons
     m_tableFields.ConnString = m_dbConnString;
     m_tableFields.AllFieldString = strAllFields;
     m_tableFields.PartFieldString = strPartField;
-    const auto current = m_history.DerivationOf(strCurrentSQL);
+    auto current = m_history.DerivationOf(strCurrentSQL);
     const auto all = m_history.DerivationOf(strAllFields);
+    if (current && all && all->hasListAsTable())
+        current = m_history.DerivationOf(m_history.WithFieldsOfWhole(*current, *all, *all));
     const bool isText =
         !current || !all ||
         (current->isTextWork(DerivationStep::Fields) && all->isTextWork(DerivationStep::Fields));
-    if (!isText)
+    if (!isText || (all && all->isJoined()))
         m_tableFields.SetWrittenFields(all->listedIn(*current));
     QString chosen;
     if (!m_tableFields.GetPartSelFields(strAllFields, strPartField, chosen))
         return false;
     if (!isText) {
-        strRetFields = current->withFields(splitList(chosen));
+        strRetFields = current->withFields(splitList(chosen, m_history.Reading()));
         m_memory.currentStatement = strRetFields;
         return !strRetFields.isEmpty();
     }
@@ -139,9 +141,16 @@ bool clsFilterManagement::GetPartSortSelFields(const QString &strAllFields, cons
     m_tableFields.ConnString = m_dbConnString;
     m_tableFields.AllFieldString = strAllFields;
     m_tableFields.SortFieldString = strSortField;
-    if (const auto all = m_history.DerivationOf(strAllFields); all && !all->isSimple())
+    QString offered = strAllFields;
+    auto all = m_history.DerivationOf(strAllFields);
+    if (const clsShowSQLSentence *const latest = m_history.Item(m_history.Count());
+        latest && all && (all->hasListAsTable() || all->isDistinct())) {
+        offered = latest->ShowSQL; // no other field can be named
+        all = m_history.DerivationOf(offered);
+    }
+    if (all && (!all->isSimple() || all->isJoined()))
         m_tableFields.SetWrittenFields(all->written());
-    return m_tableFields.GetSortSelFields(strAllFields, strSortField, strRetFields);
+    return m_tableFields.GetSortSelFields(offered, strSortField, strRetFields);
 }
 
 bool clsFilterManagement::GetPartShowFields(QString &strRetSelFields)
@@ -179,11 +188,16 @@ bool clsFilterManagement::GetRequirePartSQL(const QString &strOrgSQL, qint32 lng
 // What a statement that is a table of the derived one is filtered by goes as well.
 std::optional<QString> clsFilterManagement::WithoutConditions(const QString &statement) const
 {
-    const auto current = m_history.DerivationOf(statement);
+    auto current = m_history.DerivationOf(statement);
     const auto all = m_history.DerivationOf(m_allFields);
     if (!current || !all || (current->isSimple() && all->isSimple()))
         return std::nullopt;
     const auto bare = m_history.DerivationOf(all->withoutConditions());
+    if (bare && all->hasListAsTable() && !current->table().isEmpty() && !current->hasListAsTable() &&
+        !current->hasAsTable(*all))
+        current = m_history.DerivationOf(m_history.WithFieldsOfWhole(*current, *all, *all));
+    if (!current)
+        return std::nullopt;
     if (!bare || !current->hasAsTable(*all))
         return current->withoutConditions();
     return current->withSource(*bare);

@@ -146,7 +146,7 @@ bool colShowSQLSentences::GetNextSQLByFilter(const QString &strNewFilter, QStrin
         strCurrentFilter = derivation->withCondition(strNewFilter);
         return !strCurrentFilter.isEmpty();
     }
-    addCondition(*sentence, strNewFilter);
+    addCondition(*sentence, strNewFilter, Reading());
     strCurrentFilter = joinSQLSentence(*sentence);
     return true;
 }
@@ -318,7 +318,22 @@ bool colShowSQLSentences::BringInStepWith(const clsShowSQLSentence &entry, const
     if (!entry.GetCurrUsePartFieldSQL(partStatement))
         return true;
     const auto partFields = m_reader->Read(connectionString, partStatement);
-    return partFields && m_catalogue.SetPartFieldStatusByCol(namesOf(*partFields));
+    return partFields && m_catalogue.SetPartFieldStatusByCol(NamesInCatalogue(*partFields));
+}
+
+// A host's part statement can name by its value what has an alias in the whole.
+QStringList colShowSQLSentences::NamesInCatalogue(const std::vector<SourceField> &fields) const
+{
+    QStringList names = namesOf(fields);
+    for (QString &name : names) {
+        const auto isIt = [&](const clsDataField &field) {
+            return lastNamePart(field.FieldWholeName).compare(name, Qt::CaseInsensitive) == 0;
+        };
+        const auto found = std::find_if(m_catalogue.begin(), m_catalogue.end(), isIt);
+        if (!m_catalogue.Find(name) && found != m_catalogue.end())
+            name = (*found).FieldName;
+    }
+    return names;
 }
 
 // The names are the database's own, so that each grid column finds its field; an alias is a name like any
@@ -331,7 +346,8 @@ bool colShowSQLSentences::FillCatalogue(const QString &connectionString, const Q
     m_catalogue.Clear();
     const Dialect dialect = dialectOf(m_database, engineOf(connectionString));
     const auto derivation = m_derivations.of(statement, *fields, dialect);
-    const bool isText = dialect.engine == Engine::Other || derivation->isSimple();
+    const bool isText =
+        dialect.engine == Engine::Other || (derivation->isSimple() && !derivation->isJoined());
     for (std::size_t i = 0; i < fields->size(); ++i) {
         const SourceField &source = fields->at(i);
         if (source.name.isEmpty())

@@ -123,6 +123,16 @@ public:
     // What a condition writes for a field of the catalogue, where that isn't left to whoever builds it.
     QString GetConditionName(const clsDataField &field) const;
 
+    // Whether a condition on the latest entry can name a field of the catalogue.
+    bool CanName(const clsDataField &field) const;
+
+    // How the engine reads texts and names; as in the standard while it isn't known.
+    SqlDialect Reading() const { return readingOf(dialectOf(m_database, engineOf(m_connString))); }
+
+    // `shown`, which was derived from `all` or from a choice of its fields, with other fields of `all`; for a
+    // statement that hasListAsTable().
+    QString WithFieldsOfWhole(const Derivation &shown, const Derivation &all, const Derivation &fields) const;
+
     // Whether the statement's rows depend on the fields in its list.
     bool IsDistinct(const QString &statement) const;
 
@@ -162,6 +172,7 @@ private:
     bool StepBackTo(qsizetype position, QString &PassFilter, QString *PassKey);
     bool BringInStepWith(const clsShowSQLSentence &entry, const QString &connectionString);
     bool FillCatalogue(const QString &connectionString, const QString &statement);
+    QStringList NamesInCatalogue(const std::vector<SourceField> &fields) const;
     void WriteCatalogueAsText(const QString &statement);
     Engine engineOf(const QString &connectionString) const;
 

@@ -86,9 +86,10 @@ std::optional<FilteredResult> colShowSQLSentences::GetFilteredResult() const
     auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
     if (!all || (all->isSimple() && !all->isJoined() && isTableFoundAsText(latest->AllFields, *all)))
         return std::nullopt;
+    const QString &named = all->hasListAsTable() ? latest->ShowSQL : latest->AllFields;
     // Under the names that the result has, not those that the statement writes.
-    if (const auto fields = m_reader->Read(m_connString, latest->AllFields))
-        all = m_derivations.of(latest->AllFields, *fields, dialectOf(m_database, engineOf(m_connString)));
+    if (const auto fields = m_reader->Read(m_connString, named))
+        all = m_derivations.of(named, *fields, dialectOf(m_database, engineOf(m_connString)));
     return all->filteredResult();
 }
 
@@ -100,6 +101,16 @@ QString colShowSQLSentences::GetConditionName(const clsDataField &field) const
     const bool isWritten = all && (all->isJoined() || !all->isTextWork(DerivationStep::Condition) ||
                                    !isTableFoundAsText(latest->AllFields, *all));
     return isWritten ? field.FieldWholeName : QString();
+}
+
+bool colShowSQLSentences::CanName(const clsDataField &field) const
+{
+    const clsShowSQLSentence *const latest = Latest();
+    const auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
+    if (!all || !all->hasListAsTable())
+        return true;
+    const auto shown = DerivationOf(latest->ShowSQL);
+    return shown->names().contains(field.FieldName);
 }
 
 bool colShowSQLSentences::IsDistinct(const QString &statement) const
@@ -133,13 +144,37 @@ QString colShowSQLSentences::WithFieldsOf(const QString &statement, const QStrin
                          !haveDifferentTables(*derivation, *fields));
     if (isText)
         return ReplaceSQLFieldPart(statement, fieldStatement);
-    const QString derived = derivation->withFieldsOf(*fields);
+    const auto all = DerivationOf(Latest()->AllFields);
+    if (all && all->hasListAsTable())
+        return WithFieldsOfWhole(*derivation, *all, *fields);
+    // A host's part statement can name by its value what the user knows by its alias.
+    const bool isOverSame = all && !all->isSimple() && fields != all &&
+                            all->source().simplified() == fields->source().simplified() &&
+                            derivation->source().simplified() == fields->source().simplified();
+    const QStringList listed = isOverSame ? all->listedFor(*fields) : QStringList();
+    const QString derived =
+        listed.isEmpty() ? derivation->withFieldsOf(*fields) : derivation->withFields(listed);
     if (!derived.isEmpty() || fieldStatement == Latest()->AllFields)
         return derived;
     // What is shown may lack a field that the whole has.
-    const auto all = DerivationOf(Latest()->AllFields);
     const auto whole = all ? DerivationOf(derivation->withFieldsOf(*all)) : nullptr;
     return whole ? whole->withFieldsOf(*fields) : QString();
+}
+
+// A choice of fields from TOP is a SELECT of its own, which what was derived from it has as its
+// table. Other fields are in the table of all of them only.
+QString colShowSQLSentences::WithFieldsOfWhole(const Derivation &shown, const Derivation &all,
+                                               const Derivation &fields) const
+{
+    const QString table = shown.table();
+    if (table.isEmpty() || shown.hasListAsTable())
+        return shown.withFieldsOf(fields);
+    if (shown.hasAsTable(all))
+        return shown.withFieldsOf(fields);
+    const auto chosen = DerivationOf(table);
+    const auto whole = chosen ? DerivationOf(WithFieldsOfWhole(*chosen, all, all)) : nullptr;
+    const auto moved = whole ? DerivationOf(shown.withTable(*whole)) : nullptr;
+    return moved ? moved->withFieldsOf(fields) : QString();
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -4,6 +4,8 @@
 #include <QtCore/QStringList>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace KOVAVSFDataGridLib {
 
@@ -52,6 +54,26 @@ QString scriptTime(const Dialect &dialect, QLatin1StringView word, const QString
     return dialect.likelyEngine() == Engine::Oracle ? word + u' ' + quoted(text) : quoted(text);
 }
 
+qsizetype digitsOf(const QString &number)
+{
+    const QString mantissa = number.section(u'e', 0, 0, QString::SectionCaseInsensitiveSeps);
+    bool hasBegun = false;
+    qsizetype digits = 0;
+    for (const QChar c : mantissa) {
+        hasBegun = hasBegun || (c >= u'1' && c <= u'9');
+        digits += hasBegun && c.isDigit() ? 1 : 0;
+    }
+    return digits;
+}
+
+// Half of what separates the float that is nearest to the number from the next one.
+double halfStepOfFloat(double number)
+{
+    const float nearest = std::abs(static_cast<float>(number));
+    const float next = std::nextafter(nearest, std::numeric_limits<float>::infinity());
+    return (static_cast<double>(next) - static_cast<double>(nearest)) / 2;
+}
+
 QString timeText(QTime time)
 {
     return time.toString(time.msec() == 0 ? u"HH:mm:ss"_s : u"HH:mm:ss.zzz"_s);
@@ -79,6 +101,27 @@ QString textWithoutClauses(const Dialect &dialect, const QString &text)
             joined = u"(%1 || %2)"_s.arg(joined, literal);
     }
     return joined;
+}
+
+NumberRange rangeShownAs(const QString &number, FloatSize size, Engine engine)
+{
+    const double value = number.toDouble();
+    const bool isSingle = size == FloatSize::Single;
+    const int digits = !isSingle ? 15 : engine == Engine::MySQL ? 6 : 9;
+    if (value == 0 || !std::isfinite(value) || digitsOf(number) > digits)
+        return {};
+    const double half = isSingle && engine != Engine::MySQL
+                            ? halfStepOfFloat(value)
+                            : 0.5 * std::pow(10.0, std::floor(std::log10(std::abs(value))) - (digits - 1));
+    constexpr int digitsOfBound = 16;
+    return {QString::number(value - half, 'g', digitsOfBound),
+            QString::number(value + half, 'g', digitsOfBound)};
+}
+
+bool isNumberText(const QString &text)
+{
+    static const QRegularExpression number(uR"(\A-?[0-9]+(\.[0-9]+)?([eE][-+]?[0-9]+)?\z)"_s);
+    return number.match(text).hasMatch();
 }
 
 QString dateLiteral(const Dialect &dialect, QDate date)

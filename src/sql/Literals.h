@@ -20,6 +20,24 @@ QString dateLiteral(const Dialect &dialect, QDate date);
 QString timeLiteral(const Dialect &dialect, QTime time);
 QString momentLiteral(const Dialect &dialect, const QDateTime &moment);
 
+// What a floating column holds: 4 bytes or 8.
+enum class FloatSize { Single, Double };
+
+// The bounds of the numbers that are shown as this one: a double with its first 15 digits, a float with the
+// fewest digits that say which float it is, and one of MySQL with 6. Computed numbers rarely are exactly what
+// is shown. Both empty for zero, and for a number with more digits than are ever shown.
+struct NumberRange
+{
+    QString from;
+    QString to;
+
+    bool isEmpty() const { return from.isEmpty(); }
+};
+NumberRange rangeShownAs(const QString &number, FloatSize size, Engine engine);
+
+// Whether the text is a number as statements write it.
+bool isNumberText(const QString &text);
+
 // A field of days or moments as it is compared with DateLiteral or MomentLiteral. SQLite keeps them as texts
 // of several forms, of which those that mean the same are to be equal.
 QString dateOperand(const Dialect &dialect, const QString &field);

@@ -1,7 +1,8 @@
 #include "sql/SelectParts.h"
 
+#include "sql/KnownFunctions.h"
+
 #include <algorithm>
-#include <array>
 #include <initializer_list>
 
 namespace KOVAVSFDataGridLib {
@@ -30,6 +31,11 @@ qsizetype afterBrackets(const SqlScanner &statement, qsizetype open)
     return std::min(close + 1, statement.count());
 }
 
+// What MySQL takes between SELECT and the list.
+constexpr QStringView mySqlListWords[] = {u"HIGH_PRIORITY",       u"STRAIGHT_JOIN", u"SQL_SMALL_RESULT",
+                                          u"SQL_BIG_RESULT",      u"SQL_CACHE",     u"SQL_BUFFER_RESULT",
+                                          u"SQL_CALC_FOUND_ROWS", u"SQL_NO_CACHE"};
+
 bool isSubselect(const SqlScanner &statement, qsizetype open)
 {
     return statement.isSymbol(open, u'(') && isOneOf(statement, open + 1, {u"SELECT", u"WITH", u"VALUES"});
@@ -48,17 +54,21 @@ public:
     SelectParts parts()
     {
         qsizetype next = readWith();
-        m_parts.isSelect = m_sql.isWord(next, u"SELECT");
+        const bool isInBrackets = isSubselect(m_sql, next);
+        m_parts.isSelect = m_sql.isWord(next, u"SELECT") || isInBrackets;
         if (!m_parts.isSelect)
             return m_parts;
-        next = readListWords(next + 1);
+        m_parts.isCompound = isInBrackets;
+        next = isInBrackets ? afterBrackets(m_sql, next) : readListWords(next + 1);
         readClauses(next);
-        m_parts.items = itemsIn(m_parts.list, false);
+        if (!m_parts.list.isEmpty())
+            m_parts.items = itemsIn(m_parts.list, false);
         if (!m_parts.order.isEmpty())
             m_parts.sort = itemsIn({m_parts.order.begin + 2, m_parts.order.end}, true);
         readSources();
         m_parts.isGrouped |= hasAggregate(m_parts.list) || hasAggregate(m_parts.order);
         m_parts.hasWindow |= hasOver(m_parts.list) || hasOver(m_parts.order);
+        m_parts.hasRows = m_sql.dialect() == SqlDialect::PostgreSql && hasCall(m_parts.list, isRowFunction);
         return m_parts;
     }
 
@@ -81,9 +91,11 @@ private:
             if (isOneOf(m_sql, next, {u"DISTINCT", u"DISTINCTROW", u"UNIQUE"})) {
                 m_parts.isDistinct = true;
                 ++next;
-                if (m_sql.isWord(next, u"ON") && m_sql.isSymbol(next + 1, u'('))
+                if (m_sql.isWord(next, u"ON") && m_sql.isSymbol(next + 1, u'(')) {
+                    m_parts.isDistinctOn = true;
                     next = afterBrackets(m_sql, next + 1);
-            } else if (m_sql.isWord(next, u"ALL")) {
+                }
+            } else if (m_sql.isWord(next, u"ALL") || isMySqlListWord(next)) {
                 ++next;
             } else if (isTopAt(next)) {
                 m_parts.isTop = true;
@@ -98,6 +110,13 @@ private:
         }
         m_parts.listWords = {begin, next};
         return next;
+    }
+
+    bool isMySqlListWord(qsizetype index) const
+    {
+        return m_sql.dialect() == SqlDialect::MySql &&
+               std::ranges::any_of(mySqlListWords,
+                                   [&](QStringView word) { return m_sql.isWord(index, word); });
     }
 
     // A column can be called Top.
@@ -183,38 +202,39 @@ private:
 
     SelectParts::Item itemAt(qsizetype first, qsizetype end) const
     {
-        SelectParts::Item item{{first, end}, {first, end}, {}, false, false};
+        // SQL Server has no comparisons in a list; there a name and "=" give the alias first.
+        if (m_sql.dialect() == SqlDialect::SqlServer && m_sql.isName(first) &&
+            m_sql.isSymbol(first + 1, u'=') && first + 2 < end) {
+            SelectParts::Item item = SelectParts::itemWithoutAlias(m_sql, {first + 2, end});
+            item.tokens.begin = first;
+            item.alias = m_sql.name(first);
+            item.hasAs = true;
+            return item;
+        }
         qsizetype valueEnd = end;
         // To PostgreSQL a text after a name is a value of the type so named.
         const bool endsInText = end > first && m_sql.at(end - 1).kind == SqlToken::Kind::String &&
                                 m_sql.dialect() != SqlDialect::PostgreSql;
         const bool endsInName = end - first >= 2 && (m_sql.isName(end - 1) || endsInText);
-        if (endsInName && m_sql.at(end - 1).depth == 0) {
-            if (m_sql.isWord(end - 2, u"AS"))
-                valueEnd = end - 2;
-            else if (canEndValue(end - 2) &&
-                     !isOneOf(m_sql, end - 1, {u"END", u"NULL", u"ISNULL", u"NOTNULL"}))
-                valueEnd = end - 1;
-        }
-        if (valueEnd < end) {
+        const bool hasAs = endsInName && m_sql.at(end - 1).depth == 0 && m_sql.isWord(end - 2, u"AS");
+        if (hasAs)
+            valueEnd = end - 2;
+        else if (endsInName && m_sql.at(end - 1).depth == 0 && canEndValue(end - 2) &&
+                 !isOneOf(m_sql, end - 1, {u"END", u"NULL", u"ISNULL", u"NOTNULL"}))
+            valueEnd = end - 1;
+        SelectParts::Item item = SelectParts::itemWithoutAlias(m_sql, {first, valueEnd});
+        item.tokens.end = end;
+        item.hasAs = hasAs;
+        if (valueEnd < end)
             item.alias = aliasAt(end - 1);
-            item.value.end = valueEnd;
-        }
-        qsizetype next = first;
-        while (m_sql.isName(next) && m_sql.isSymbol(next + 1, u'.') && next + 2 < item.value.end)
-            next += 2;
-        item.isStar = next + 1 == item.value.end && m_sql.isSymbol(next, u'*');
-        item.isName =
-            next + 1 == item.value.end && m_sql.isName(next) &&
-            !isOneOf(m_sql, next,
-                     {u"NULL", u"TRUE", u"FALSE", u"CURRENT_DATE", u"CURRENT_TIME", u"CURRENT_TIMESTAMP"});
         return item;
     }
 
     // Whether a name after this token is an alias rather than part of an expression.
     bool canEndValue(qsizetype index) const
     {
-        if (m_sql.isSymbol(index, u')') || m_sql.at(index).kind == SqlToken::Kind::String ||
+        if (m_sql.isSymbol(index, u')') || m_sql.isSymbol(index, u']') ||
+            m_sql.at(index).kind == SqlToken::Kind::String ||
             m_sql.at(index).kind == SqlToken::Kind::Number ||
             m_sql.at(index).kind == SqlToken::Kind::QuotedName)
             return true;
@@ -240,7 +260,7 @@ private:
             valueEnd -= 2;
         if (valueEnd - first > 1 && isOneOf(m_sql, valueEnd - 1, {u"ASC", u"DESC"}))
             --valueEnd;
-        SelectParts::Item item{{first, end}, {first, valueEnd}, {}, false, false};
+        SelectParts::Item item{{first, end}, {first, valueEnd}, {}, false, false, false};
         qsizetype next = first;
         while (m_sql.isName(next) && m_sql.isSymbol(next + 1, u'.'))
             next += 2;
@@ -259,9 +279,12 @@ private:
         }
         bool expectsTable = true;
         for (qsizetype i = begin; i < end; ++i) {
+            if (isOneOf(m_sql, i, {u"USING", u"NATURAL"}))
+                m_parts.hasPlainSources = false;
             if (isSubselect(m_sql, i)) {
                 i = afterBrackets(m_sql, i) - 1;
                 expectsTable = false;
+                m_parts.hasPlainSources = false;
             } else if (m_sql.isSymbol(i, u',') || m_sql.isWord(i, u"JOIN")) {
                 expectsTable = true;
             } else if (expectsTable && m_sql.isName(i) && !isOneOf(m_sql, i, {u"LATERAL", u"ONLY"})) {
@@ -276,7 +299,9 @@ private:
         const qsizetype begin = index;
         while (m_sql.isSymbol(index + 1, u'.') && m_sql.isName(index + 2) && index + 2 < end)
             index += 2;
-        SelectParts::Source source{m_sql.name(index), textOf(m_sql, {begin, index + 1})};
+        SelectParts::Source source{m_sql.name(index), m_sql.name(index), textOf(m_sql, {begin, index + 1})};
+        if (m_sql.isSymbol(index + 1, u'('))
+            m_parts.hasPlainSources = false;
         qsizetype next = index + 1;
         if (m_sql.isWord(next, u"AS"))
             ++next;
@@ -285,6 +310,7 @@ private:
                                       {u"JOIN", u"INNER", u"LEFT", u"RIGHT", u"FULL", u"CROSS", u"NATURAL",
                                        u"ON", u"USING", u"INDEXED", u"NOT", u"STRAIGHT_JOIN", u"OUTER"});
         if (isAlias) {
+            source.alias = m_sql.name(next);
             source.writtenAlias = m_sql.text(next).toString();
             index = next;
         }
@@ -292,60 +318,31 @@ private:
         return index;
     }
 
-    bool hasAggregate(TextRange range) const
+    // Whether one of these functions is called outside of inner SELECTs.
+    bool hasCall(TextRange range, bool (*isOne)(QStringView)) const
     {
         for (qsizetype i = range.begin; i < range.end; ++i) {
-            if (isSubselect(m_sql, i)) {
+            if (isSubselect(m_sql, i))
                 i = afterBrackets(m_sql, i) - 1;
-                continue;
-            }
-            const bool isCall = m_sql.isSymbol(i + 1, u'(') && !m_sql.isSymbol(i - 1, u'.');
-            if (isCall && isOneOf(m_sql, i,
-                                  {u"COUNT",
-                                   u"COUNT_BIG",
-                                   u"SUM",
-                                   u"AVG",
-                                   u"MIN",
-                                   u"MAX",
-                                   u"TOTAL",
-                                   u"GROUP_CONCAT",
-                                   u"STRING_AGG",
-                                   u"LISTAGG",
-                                   u"ARRAY_AGG",
-                                   u"JSON_AGG",
-                                   u"JSONB_AGG",
-                                   u"JSON_ARRAYAGG",
-                                   u"JSON_OBJECTAGG",
-                                   u"JSON_GROUP_ARRAY",
-                                   u"JSON_GROUP_OBJECT",
-                                   u"XMLAGG",
-                                   u"STDEV",
-                                   u"STDEVP",
-                                   u"STDDEV",
-                                   u"STDDEV_POP",
-                                   u"STDDEV_SAMP",
-                                   u"VAR",
-                                   u"VARP",
-                                   u"VARIANCE",
-                                   u"VAR_POP",
-                                   u"VAR_SAMP",
-                                   u"BIT_AND",
-                                   u"BIT_OR",
-                                   u"BIT_XOR",
-                                   u"BOOL_AND",
-                                   u"BOOL_OR",
-                                   u"EVERY",
-                                   u"FIRST",
-                                   u"LAST",
-                                   u"MEDIAN",
-                                   u"CORR",
-                                   u"PERCENTILE_CONT",
-                                   u"PERCENTILE_DISC",
-                                   u"MODE",
-                                   u"GROUPING"}))
+            else if (m_sql.isSymbol(i + 1, u'(') && !m_sql.isSymbol(i - 1, u'.') &&
+                     m_sql.at(i).kind == SqlToken::Kind::Word && isOne(m_sql.text(i)))
                 return true;
         }
         return false;
+    }
+
+    // FILTER and WITHIN GROUP follow any aggregate, known or the user's own.
+    bool hasAggregate(TextRange range) const
+    {
+        for (qsizetype i = range.begin; i < range.end; ++i) {
+            if (isSubselect(m_sql, i))
+                i = afterBrackets(m_sql, i) - 1;
+            else if (m_sql.isSymbol(i, u')') &&
+                     ((m_sql.isWord(i + 1, u"FILTER") && m_sql.isSymbol(i + 2, u'(')) ||
+                      (m_sql.isWord(i + 1, u"WITHIN") && m_sql.isWord(i + 2, u"GROUP"))))
+                return true;
+        }
+        return hasCall(range, isAggregateFunction);
     }
 
     bool hasOver(TextRange range) const
@@ -369,6 +366,19 @@ private:
 SelectParts SelectParts::of(const SqlScanner &statement)
 {
     return Reader(statement).parts();
+}
+
+SelectParts::Item SelectParts::itemWithoutAlias(const SqlScanner &statement, TextRange tokens)
+{
+    qsizetype next = tokens.begin;
+    while (statement.isName(next) && statement.isSymbol(next + 1, u'.') && next + 2 < tokens.end)
+        next += 2;
+    const bool isOneMore = next + 1 == tokens.end;
+    const bool isName =
+        isOneMore && statement.isName(next) &&
+        !isOneOf(statement, next,
+                 {u"NULL", u"TRUE", u"FALSE", u"CURRENT_DATE", u"CURRENT_TIME", u"CURRENT_TIMESTAMP"});
+    return {tokens, tokens, {}, false, isOneMore && statement.isSymbol(next, u'*'), isName};
 }
 
 QString textOf(const SqlScanner &statement, TextRange tokens)

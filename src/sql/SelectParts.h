@@ -16,7 +16,7 @@ struct TextRange
 };
 
 // The clauses of a SELECT, found by its tokens: what brackets, quotes and comments hold is no clause. Of a
-// compound statement it describes the first SELECT.
+// compound statement it describes the first SELECT, or none of them where that is in brackets.
 struct SelectParts
 {
     // One entry of the select list or of the sort.
@@ -25,6 +25,7 @@ struct SelectParts
         TextRange tokens;    // all of it
         TextRange value;     // without the alias; of a sort term without ASC, DESC and what else follows
         QString alias;       // without quotes; empty when there is none
+        bool hasAs = false;  // else the alias is only likely: it can be the expression's last word
         bool isStar = false; // * or T.*
         // A name, or several with dots between them; the last one is the column's.
         bool isName = false;
@@ -33,6 +34,7 @@ struct SelectParts
     struct Source
     {
         QString table;
+        QString alias; // without quotes
         QString writtenAlias;
     };
 
@@ -44,18 +46,24 @@ struct SelectParts
     TextRange where;  // from the word WHERE on
     TextRange order;  // from ORDER BY on
     bool isDistinct = false;
-    bool isTop = false;      // TOP n
-    bool isCompound = false; // UNION and the like
-    bool isGrouped = false;  // GROUP BY, HAVING, or an aggregate function in the list or the sort
-    bool isLimited = false;  // LIMIT, OFFSET, FETCH, ROWNUM
-    bool hasWindow = false;  // a window function or a WINDOW clause
-    bool isClosed = false;   // has what no derived table can hold: FOR, INTO, OPTION and the like
+    bool isDistinctOn = false; // DISTINCT ON (…), whose sort decides which rows it leaves
+    bool isTop = false;        // TOP n
+    bool isCompound = false;   // UNION and the like
+    bool isGrouped = false;    // GROUP BY, HAVING, or an aggregate function in the list or the sort
+    bool isLimited = false;    // LIMIT, OFFSET, FETCH, ROWNUM
+    bool hasWindow = false;    // a window function or a WINDOW clause
+    bool hasRows = false;      // a function in the list that gives several rows
+    bool isClosed = false;     // has what no derived table can hold: FOR, INTO, OPTION and the like
     std::vector<Item> items;
     std::vector<Item> sort;
     std::vector<Source> sources;
+    // Whether the sources are all of FROM: no SELECT, function, USING or NATURAL.
+    bool hasPlainSources = true;
     bool isDerivedTable = false; // the source is one SELECT in brackets with its alias
 
     static SelectParts of(const SqlScanner &statement);
+    // An entry of the select list that has no alias.
+    static Item itemWithoutAlias(const SqlScanner &statement, TextRange tokens);
 };
 
 // The text of a range of tokens as it is written.

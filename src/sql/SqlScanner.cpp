@@ -94,6 +94,7 @@ void SqlScanner::scan()
             if (isLine && lone >= 0 && lone < behind && lone + 1 < m_sql.size() &&
                 m_sql.at(lone + 1) != u'\n')
                 markStray(lone);
+            m_endsInLineComment = isLine && behind == m_sql.size();
             i = behind;
             continue;
         }
@@ -120,7 +121,7 @@ void SqlScanner::scan()
             kind = c.isDigit() ? SqlToken::Kind::Number : SqlToken::Kind::Word;
             while (end < m_sql.size() && isWordPart(m_sql.at(end)) && !isBlank(m_sql.at(end)))
                 ++end;
-        } else if (c == u')' && depth > 0) {
+        } else if ((c == u')' || (c == u']' && opensBracket(u'['))) && depth > 0) {
             --depth;
         }
         const bool isQuoted = kind == SqlToken::Kind::String || kind == SqlToken::Kind::QuotedName;
@@ -132,10 +133,16 @@ void SqlScanner::scan()
             QStringView(m_sql).sliced(m_tokens.back().start, end - m_tokens.back().start).contains(u'\\'))
             markStray(i);
         m_tokens.push_back({kind, i, end - i, depth});
-        if (kind == SqlToken::Kind::Symbol && c == u'(')
+        if (kind == SqlToken::Kind::Symbol && opensBracket(c))
             ++depth;
         i = end;
     }
+}
+
+// PostgreSQL's square brackets hold subscripts and lists.
+bool SqlScanner::opensBracket(QChar c) const
+{
+    return c == u'(' || (c == u'[' && m_dialect == SqlDialect::PostgreSql);
 }
 
 qsizetype SqlScanner::skipComment(qsizetype from) const

@@ -14,7 +14,8 @@ struct SqlToken
     Kind kind;
     qsizetype start; // in the scanned text
     qsizetype length;
-    int depth; // how many parentheses are open around it; a parenthesis itself counts as outside
+    // How many parentheses are open around it, and to PostgreSQL square brackets; one itself is outside.
+    int depth;
 
     qsizetype end() const { return start + length; }
 };
@@ -52,6 +53,8 @@ public:
     // quote within what MySQL runs or skips depending on its version, and texts one after the other of which
     // one holds a backslash.
     qsizetype strayCharacter() const { return m_stray; }
+    // Whether a comment that ends with its line is at the very end, and would swallow what is added there.
+    bool endsInLineComment() const { return m_endsInLineComment; }
     qsizetype count() const { return static_cast<qsizetype>(m_tokens.size()); }
     const SqlToken &at(qsizetype index) const { return m_tokens[static_cast<std::size_t>(index)]; }
     QStringView text(qsizetype index) const;
@@ -67,6 +70,7 @@ private:
     void findStray(qsizetype from, qsizetype end);
     void markStray(qsizetype place);
     bool isBlank(QChar c) const;
+    bool opensBracket(QChar c) const;
     qsizetype skipComment(qsizetype from) const;
     qsizetype endOfLineComment(qsizetype from) const;
     qsizetype endOfVersionComment(qsizetype from) const;
@@ -80,6 +84,7 @@ private:
     SqlDialect m_dialect;
     SqlQuoting m_quoting;
     qsizetype m_stray = -1;
+    bool m_endsInLineComment = false;
     std::vector<SqlToken> m_tokens;
 };
 

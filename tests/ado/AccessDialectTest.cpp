@@ -30,6 +30,7 @@ TEST(AccessDialectTest, PlainStatementsStayAsTheyAre)
 TEST(AccessDialectTest, ConstantsAndOperatorsAreTranslated)
 {
     EXPECT_EQ(sqlite(u"SELECT True, FALSE, yes, No FROM T!A"_s), u"SELECT -1, 0, -1, 0 FROM T.A"_s);
+    EXPECT_EQ(sqlite(u"SELECT a AS No, yes as Yes FROM T"_s), u"SELECT a AS No, -1 as Yes FROM T"_s);
     EXPECT_EQ(sqlite(u"a MOD 2"_s), u"a % 2"_s);
     EXPECT_EQ(
         sqlite(u"SELECT Left(a,1), RIGHT (b,2), IsNull(c) FROM T"_s),

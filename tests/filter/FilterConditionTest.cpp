@@ -41,6 +41,52 @@ TEST(FilterCondition, ComparesNumbers)
     EXPECT_EQ(sql(number, IsNotEmpty), "F IS NOT NULL");
 }
 
+TEST(FilterCondition, AFractionMeansAllNumbersThatAreShownAsIt)
+{
+    const auto sqlOf = [](FilterOperator op, const QString &value, bool isComputed = false) {
+        FilterField floating = field(FieldClass::Number);
+        floating.floatSize = FloatSize::Double;
+        floating.isComputed = isComputed;
+        return conditionOf(sqlite, {floating, op, value, {}}).sql.toStdString();
+    };
+    const std::string from = "0.4999999999999995";
+    const std::string to = "0.5000000000000006";
+    EXPECT_EQ(sqlOf(Equals, u"0.5"_s), "F BETWEEN " + from + " AND " + to);
+    EXPECT_EQ(sqlOf(NotEquals, u"0.5"_s), "F NOT BETWEEN " + from + " AND " + to);
+    EXPECT_EQ(sqlOf(Greater, u"0.5"_s), "F > " + to);
+    EXPECT_EQ(sqlOf(Less, u"0.5"_s), "F < " + from);
+    EXPECT_EQ(sqlOf(AtLeast, u"0.5"_s), "F >= " + from);
+    EXPECT_EQ(sqlOf(AtMost, u"0.5"_s), "F <= " + to);
+    EXPECT_EQ(sqlOf(InList, u"1, 0.5"_s), "(F IN (1) OR F BETWEEN " + from + " AND " + to + ")");
+    EXPECT_EQ(sqlOf(Equals, u"10"_s), "F = 10");
+    EXPECT_EQ(sqlOf(Equals, u"10"_s, true), "F BETWEEN 9.99999999999995 AND 10.00000000000005");
+    EXPECT_EQ(sqlOf(Equals, u"0.12345678901234567"_s), "F = 0.12345678901234567") << "more than is shown";
+}
+
+TEST(FilterCondition, AnUntypedValueIsComparedAsWhatItIs)
+{
+    const auto sqlOf = [](FilterOperator op, const QString &value, const QString &last = {}) {
+        FilterField untyped = field(FieldClass::Text);
+        untyped.isUntyped = true;
+        return conditionOf(sqlite, {untyped, op, value, last}).sql.toStdString();
+    };
+    EXPECT_EQ(sqlOf(Less, u"4"_s), "CASE typeof(F) WHEN 'text' THEN F < '4' ELSE F < 3.999999999999995 END");
+    EXPECT_EQ(sqlOf(Less, u"abc"_s), "F < 'abc'");
+    EXPECT_EQ(sqlOf(Contains, u"4"_s), "F LIKE '%4%'");
+    EXPECT_EQ(sqlOf(Equals, u"0"_s), "CASE typeof(F) WHEN 'text' THEN F = '0' ELSE F = 0 END");
+    EXPECT_EQ(sqlOf(Between, u"a"_s, u"b"_s), "(F >= 'a' AND F <= 'b')");
+}
+
+TEST(FilterCondition, ADayOfSqliteCanHaveATime)
+{
+    constexpr Dialect engine{.database = dbAccess, .engine = Engine::SQLite};
+    const auto date = FieldClass::Date;
+    EXPECT_EQ(sql(date, Equals, u"2024-05-01 00:00:00"_s, {}, engine), "COALESCE(date(F), F) = '2024-05-01'");
+    EXPECT_EQ(sql(date, Equals, u"2024-05-01 00:00:00"_s), "F = '2024-05-01'");
+    EXPECT_TRUE(sql(date, Equals, u"2024-05-01 12:00"_s, {}, engine).ends_with("= '2024-05-01 12:00:00'"));
+    EXPECT_TRUE(sql(date, Equals, u"2024-05-01 12:00"_s).starts_with("fault"));
+}
+
 TEST(FilterCondition, AnEmptyTextIsAsEmptyAsNoText)
 {
     EXPECT_EQ(sql(FieldClass::Text, IsEmpty), "(F IS NULL OR F = '')");

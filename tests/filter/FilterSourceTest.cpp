@@ -71,6 +71,38 @@ TEST_F(Source, FieldsNamedLikeWordsOfTheLanguageCanBeFilteredBy)
     EXPECT_EQ(database.ask(u"SELECT count(*) FROM Words WHERE "_s + conditions.join(u" AND "_s)), u"1"_s);
 }
 
+TEST_F(Source, ValuesWithoutADeclaredTypeAreFoundAsWhatTheyAre)
+{
+    database.run(u"CREATE TABLE U (A, B TEXT, C REAL); INSERT INTO U VALUES (3, '3', 0.1 + 0.2), "
+                 "('3', '30', 1.0 / 3), (5, 'x', 2), (0.1 + 0.2, '0.3', NULL);"
+                 "CREATE VIEW V AS SELECT A * 2 AS D, B, C / 1 AS H FROM U"_s);
+    const auto found = [&](const QString &table, int field, FilterOperator op, const QString &value) {
+        source.setTable(table);
+        FilterChoice choice{source.readFields().at(static_cast<std::size_t>(field)), op, value, {}};
+        const QString condition = conditionOf(source.dialect(), choice).sql;
+        return database.ask(u"SELECT count(*) FROM %1 WHERE %2"_s.arg(table, condition));
+    };
+    using enum FilterOperator;
+    struct
+    {
+        QString table;
+        int field;
+        FilterOperator op;
+        QString value;
+        QString count;
+    } const cases[] = {
+        {u"U"_s, 0, Equals, u"3"_s, u"2"_s},      {u"U"_s, 0, Less, u"4"_s, u"3"_s},
+        {u"U"_s, 0, Equals, u"0.3"_s, u"1"_s},    {u"U"_s, 1, Less, u"4"_s, u"3"_s},
+        {u"U"_s, 2, Equals, u"0.3"_s, u"1"_s},    {u"U"_s, 2, Equals, u"0.333333333333333"_s, u"1"_s},
+        {u"U"_s, 2, Greater, u"0.3"_s, u"2"_s},   {u"V"_s, 0, Greater, u"6"_s, u"1"_s},
+        {u"V"_s, 0, Equals, u"6"_s, u"2"_s},      {u"V"_s, 2, Equals, u"0.3"_s, u"1"_s},
+        {u"V"_s, 2, InList, u"0.3, 2"_s, u"2"_s},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(found(c.table, c.field, c.op, c.value), c.count)
+            << qPrintable(c.table) << c.field << ' ' << qPrintable(c.value);
+}
+
 TEST_F(Source, AMissingTableIsAnError)
 {
     source.setTable(u"没有"_s);

@@ -94,6 +94,8 @@ TEST(PartFields, RunWhateverIsListed)
               u"select distinct [ID],[Full Name] from T"_s);
     EXPECT_EQ(again(u"select top 5 ID as No, Name N, coalesce(a, b), Qty*2 from T"_s),
               u"select top 5 ID as No,Name AS N,coalesce(a, b),Qty*2 from T"_s);
+    EXPECT_EQ(again(u"select D + interval '1' month, D - '1'::interval day, 5 N from T"_s),
+              u"select D + interval '1' month,D - '1'::interval day,5 AS N from T"_s);
     EXPECT_EQ(again(u"select [A-B], [a.b], [单价(元)], 'x, y' from T"_s),
               u"select [A-B],[a.b],[单价(元)],'x, y' from T"_s);
     EXPECT_EQ(again(u"select (select max(x) from U where U.i = T.i) m, 订单.编号 from T, 订单 order by 1"_s),

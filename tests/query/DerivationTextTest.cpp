@@ -29,9 +29,9 @@ void expectText(const QString &text, const char *expected)
 
 TEST(DerivationText, OracleTakesNoAsBeforeATablesAlias)
 {
-    expectText(
-        derive(Engine::Oracle, u"select distinct A from T order by A"_s, {u"A"_s}).withCondition(u"A = 1"_s),
-        "SELECT * FROM ( select distinct A from T ) Q WHERE A = 1 ORDER BY A");
+    expectText(derive(Engine::Oracle, u"select A from T group by A order by A"_s, {u"A"_s})
+                   .withCondition(u"A = 1"_s),
+               "SELECT * FROM ( select A from T group by A ) Q WHERE A = 1 ORDER BY A");
 }
 
 TEST(DerivationText, ALimitKeepsItsSortInsideAndHasItOutsideAsWell)
@@ -112,5 +112,166 @@ TEST(DerivationText, FieldsOfEqualNamesAreToldApartByTheirTable)
     const Derivation itself(u"select * from Ord a join Ord b on a.ID = b.C"_s,
                             {{u"ID"_s, 3, u"Ord"_s}, {u"ID"_s, 3, u"Ord"_s}},
                             dialectOf(dbAccess, Engine::SQLite));
-    EXPECT_EQ(itself.written(), (QStringList{QString(), QString()})) << "no name is unmistakable";
+    EXPECT_EQ(itself.written(), (QStringList{u"a.ID"_s, u"b.ID"_s}));
+    const Derivation united(u"select * from Ord a join Ord b using (C)"_s,
+                            {{u"C"_s, 3, u"Ord"_s}, {u"ID"_s, 3, u"Ord"_s}, {u"ID"_s, 3, u"Ord"_s}},
+                            dialectOf(dbAccess, Engine::SQLite));
+    EXPECT_EQ(united.written(), (QStringList{u"C"_s, QString(), QString()})) << "no name is unmistakable";
+    const Derivation natural(u"select * from Ord a natural join Ord b"_s,
+                             {{u"ID"_s, 3, u"Ord"_s}, {u"ID"_s, 3, u"Ord"_s}},
+                             dialectOf(dbAccess, Engine::SQLite));
+    for (const auto step : {DerivationStep::Condition, DerivationStep::Sort, DerivationStep::Fields})
+        EXPECT_EQ(natural.whyNot(step), QueryTexts::EqualNames.arg(u"ID"_s));
+}
+
+namespace {
+
+struct StarCase
+{
+    const char *name;
+    QString statement;
+    QString fields; // name.table, with | between
+    QString written;
+};
+
+class Stars : public testing::TestWithParam<StarCase>
+{
+};
+
+} // namespace
+
+TEST_P(Stars, GiveTheFieldsOfTheirTables)
+{
+    std::vector<SourceField> fields;
+    for (const QString &field : GetParam().fields.split(u'|'))
+        fields.push_back({field.section(u'.', 0, 0), 3, field.section(u'.', 1)});
+    const Derivation derivation(GetParam().statement, fields, dialectOf(dbAccess, Engine::SQLite));
+    EXPECT_EQ(derivation.written().join(u'|'), GetParam().written);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , Stars,
+    testing::Values(StarCase{"Itself", u"select a.*, b.* from Ord a join Ord b on a.ID = b.Cust"_s,
+                             u"ID.Ord|Cust.Ord|ID.Ord|Cust.Ord"_s, u"a.ID|a.Cust|b.ID|b.Cust"_s},
+                    StarCase{"WithoutTables", u"select a.*, b.* from Ord a join Ord b on a.ID = b.Cust"_s,
+                             u"ID|Cust|ID|Cust"_s, u"a.ID|a.Cust|b.ID|b.Cust"_s},
+                    StarCase{"Between", u"select a.*, 1 as One, b.* from Ord a join Ord b on a.ID = b.Cust"_s,
+                             u"ID.Ord|Cust.Ord|One|ID.Ord|Cust.Ord"_s,
+                             u"a.ID|a.Cust|(CASE WHEN 1=1 THEN 1 END)|b.ID|b.Cust"_s},
+                    StarCase{"ThreeTables", u"select a.*, c.*, b.* from Ord a, Cust c, Ord b"_s,
+                             u"ID.Ord|N.Ord|ID.Cust|ID.Ord|N.Ord"_s, u"a.ID|a.N|c.ID|b.ID|b.N"_s},
+                    StarCase{"LoneStar", u"select * from Ord a join Ord b on a.ID = b.Cust"_s,
+                             u"ID.Ord|Cust.Ord|ID.Ord|Cust.Ord"_s, u"a.ID|a.Cust|b.ID|b.Cust"_s},
+                    // The names say that the first table has more fields than the second.
+                    StarCase{"Uneven", u"select a.*, b.* from Ord a, Ord b"_s, u"ID.Ord|N.Ord|M.Ord|ID.Ord"_s,
+                             u"|N|M|"_s}),
+    [](const auto &parameter) { return std::string(parameter.param.name); });
+
+namespace {
+
+struct OpenCase
+{
+    const char *name;
+    Engine engine;
+    QString statement;
+    QString fields;       // the result's, with | between
+    const char *filtered; // under "F = 1", where F is what is written for the last field
+};
+
+class OpenText : public testing::TestWithParam<OpenCase>
+{
+};
+
+} // namespace
+
+TEST_P(OpenText, IsFilteredByTheValueOfAField)
+{
+    const OpenCase &c = GetParam();
+    const Derivation derivation = derive(c.engine, c.statement, c.fields.split(u'|'));
+    expectText(derivation.withCondition(derivation.written().last() + u" = 1"_s), c.filtered);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , OpenText,
+    testing::Values(
+        // A last word is an alias only where the result calls the field so.
+        OpenCase{"Interval", Engine::PostgreSQL, u"select D + interval '1' month from T"_s, u"?column?"_s,
+                 "SELECT D + interval '1' month FROM T WHERE (D + interval '1' month) = 1"},
+        OpenCase{"TypeOfTwoWords", Engine::PostgreSQL, u"select Q::double precision from T"_s, u"q"_s,
+                 "SELECT Q::double precision FROM T WHERE (Q::double precision) = 1"},
+        OpenCase{"TypeAndAlias", Engine::PostgreSQL, u"select Q::double precision d from T"_s, u"d"_s,
+                 "SELECT Q::double precision d FROM T WHERE (Q::double precision) = 1"},
+        OpenCase{"DistinctFrom", Engine::SQLite, u"select N is distinct from 'b' from T"_s,
+                 u"N is distinct from 'b'"_s,
+                 "SELECT N is distinct from 'b' FROM T WHERE (N is distinct from 'b') = 1"},
+        OpenCase{"IntervalUnit", Engine::MySQL, u"select D + interval 1 day from T"_s,
+                 u"D + interval 1 day"_s, "SELECT D + interval 1 day FROM T WHERE (D + interval 1 day) = 1"},
+        OpenCase{"DateText", Engine::MySQL, u"select date '2024-05-01' from T"_s, u"DATE '2024-05-01'"_s,
+                 "SELECT date '2024-05-01' FROM T WHERE (date '2024-05-01') = 1"},
+        OpenCase{"Binary", Engine::MySQL, u"select binary N from T"_s, u"binary N"_s,
+                 "SELECT binary N FROM T WHERE (binary N) = 1"},
+        OpenCase{"TextsInARow", Engine::MySQL, u"select 'an' 'n' from T"_s, u"an"_s,
+                 "SELECT 'an' 'n' FROM T WHERE ('an' 'n') = 1"},
+        OpenCase{"TextAsAlias", Engine::SQLite, u"select A 'n' from T"_s, u"n"_s,
+                 "SELECT A 'n' FROM T WHERE A = 1"},
+        OpenCase{"ListWord", Engine::MySQL, u"select straight_join T.A, U.B b from T, U"_s, u"A|b"_s,
+                 "SELECT straight_join T.A, U.B b FROM T, U WHERE U.B = 1"},
+        // A list of several entries in one field.
+        OpenCase{"Array", Engine::PostgreSQL, u"select array[A, B] from T"_s, u"array"_s,
+                 "SELECT array[A, B] FROM T WHERE (array[A, B]) = 1"},
+        OpenCase{"Escape", Engine::PostgreSQL, uR"(select E'it\'s, from x' as e, A as b from T)"_s, u"e|b"_s,
+                 R"(SELECT E'it\'s, from x' as e, A as b FROM T WHERE A = 1)"},
+        OpenCase{"ArrayAndAlias", Engine::PostgreSQL, u"select array[A, B] a from T"_s, u"a"_s,
+                 "SELECT array[A, B] a FROM T WHERE (array[A, B]) = 1"},
+        OpenCase{"ConstantWithPrefix", Engine::PostgreSQL, uR"(select A, E'it\'s' as e from T)"_s, u"a|e"_s,
+                 R"(SELECT A, E'it\'s' as e FROM T WHERE (CASE WHEN 1=1 THEN E'it\'s' END) = 1)"},
+        // Fields that the list can't be matched with.
+        OpenCase{"Row", Engine::PostgreSQL, u"select (r).* from T"_s, u"a|b"_s,
+                 "SELECT * FROM ( select (r).* from T ) AS Q WHERE b = 1"},
+        OpenCase{"Series", Engine::PostgreSQL, u"select generate_series(1, 3) as g from T"_s, u"g"_s,
+                 "SELECT * FROM ( select generate_series(1, 3) as g from T ) AS Q WHERE g = 1"},
+        OpenCase{"Regression", Engine::PostgreSQL, u"select regr_count(A, B) as r from T"_s, u"r"_s,
+                 "SELECT * FROM ( select regr_count(A, B) as r from T ) AS Q WHERE r = 1"},
+        OpenCase{"UnknownAggregate", Engine::PostgreSQL, u"select mine(A) filter (where B > 1) as r from T"_s,
+                 u"r"_s,
+                 "SELECT * FROM ( select mine(A) filter (where B > 1) as r from T ) AS Q WHERE r = 1"},
+        OpenCase{"Deviation", Engine::MySQL, u"select std(A) as s from T"_s, u"s"_s,
+                 "SELECT * FROM ( select std(A) as s from T ) AS Q WHERE s = 1"},
+        OpenCase{"Brackets", Engine::MySQL, u"(select A from T) union (select B from U) order by 1"_s, u"A"_s,
+                 "SELECT * FROM ( (select A from T) union (select B from U) ) AS Q WHERE A = 1 ORDER BY A"},
+        OpenCase{"AliasFirst", Engine::SqlServer, u"select A, Twice = Q * 2 from T"_s, u"A|Twice"_s,
+                 "SELECT A, Twice = Q * 2 FROM T WHERE (Q * 2) = 1"},
+        OpenCase{"Ties", Engine::SqlServer, u"select top (5) with ties A, B from T order by C desc"_s,
+                 u"A|B"_s,
+                 "SELECT * FROM ( select top (5) with ties A, B from T order by C desc ) AS Q WHERE B = 1"},
+        OpenCase{"FirstRows", Engine::Oracle, u"select A, B from T order by A fetch first 3 rows with ties"_s,
+                 u"A|B"_s,
+                 "SELECT * FROM ( select A, B from T order by A fetch first 3 rows with ties ) Q WHERE B = 1 "
+                 "ORDER BY A"},
+        // The sort says which rows are left.
+        OpenCase{"Distinct", Engine::PostgreSQL, u"select distinct C, A as b from T where D = 2 order by b"_s,
+                 u"c|b"_s, "SELECT distinct C, A as b FROM T where D = 2 AND A = 1 ORDER BY A"},
+        OpenCase{"DistinctOn", Engine::PostgreSQL, u"select distinct on (c) c, a from T order by c, b desc"_s,
+                 u"c|a"_s,
+                 "SELECT * FROM ( select distinct on (c) c, a from T order by c, b desc ) AS Q WHERE a = 1"},
+        // What follows the last word must not swallow the condition.
+        OpenCase{"NumberSign", Engine::MySQL, u"select A, B from T # all"_s, u"A|B"_s,
+                 "SELECT A, B FROM T WHERE B = 1"},
+        OpenCase{"NumberSignInside", Engine::MySQL, u"select A, B from T # where\n where A = 2"_s, u"A|B"_s,
+                 "select A, B from T # where where A = 2 AND B = 1"},
+        OpenCase{"Dashes", Engine::SQLite, u"select A, B from T --all"_s, u"A|B"_s,
+                 "SELECT A, B FROM T WHERE B = 1"},
+        OpenCase{"Semicolon", Engine::MySQL, u"select A, B from T where A--1 > 2;"_s, u"A|B"_s,
+                 "SELECT A, B FROM T where A--1 > 2 AND B = 1"},
+        OpenCase{"OrInText", Engine::MySQL, uR"(select A, B from T where A = 'x\' or y')"_s, u"A|B"_s,
+                 R"(select A, B from T where A = 'x\' or y' AND B = 1)"},
+        OpenCase{"OrAfterText", Engine::MySQL, uR"(select A, B from T where A = 'x\'' or B = 2)"_s, u"A|B"_s,
+                 R"(select A, B from T where (A = 'x\'' or B = 2) AND B = 1)"}),
+    [](const auto &parameter) { return std::string(parameter.param.name); });
+
+TEST(DerivationText, AChoiceOfFieldsKeepsTheSortOfDistinctOn)
+{
+    const Derivation derivation = derive(
+        Engine::PostgreSQL, u"select distinct on (c) c, a from T order by c, b desc"_s, {u"c"_s, u"a"_s});
+    expectText(derivation.withFields({u"a"_s}), "SELECT distinct on (c) a FROM T ORDER BY c,b desc");
 }

@@ -99,8 +99,23 @@ TEST(CellFilterOnEngines, FindsWholeNumbersInFloatingColumns)
     EXPECT_EQ(condition(4, u"10.5"_s, Engine::SQLite), u"F like 10.5"_s);
     EXPECT_EQ(condition(5, u"1e+20"_s, Engine::SQLite), u"F like 1e+20"_s);
     EXPECT_EQ(condition(131, u"10"_s, Engine::SQLite), u"F like 10"_s);
-    EXPECT_EQ(condition(5, u"10"_s, Engine::MySQL), u"F like 10"_s);
+    EXPECT_EQ(condition(5, u"10"_s, Engine::MySQL), u"F = 10"_s) << "which can be written 10.0000";
     EXPECT_EQ(condition(5, u"10"_s, Engine::SqlServer), u"F = 10"_s);
+}
+
+TEST(CellFilterOnEngines, FindsFractionsThatAreNotExactlyWhatIsShown)
+{
+    const auto condition = [](qint32 type, const QString &text, Engine engine, bool isComputed = false) {
+        return buildCellFilter(u"F"_s, type, text, engine, isComputed).condition;
+    };
+    EXPECT_EQ(condition(5, u"0.3"_s, Engine::PostgreSQL),
+              u"F BETWEEN 0.2999999999999995 AND 0.3000000000000005"_s);
+    EXPECT_EQ(condition(4, u"0.1"_s, Engine::MySQL), u"F BETWEEN 0.09999950000000001 AND 0.1000005"_s);
+    EXPECT_EQ(condition(5, u"1e+20"_s, Engine::MySQL),
+              u"F BETWEEN 9.999999999999949e+19 AND 1.000000000000005e+20"_s);
+    EXPECT_EQ(condition(5, u"-2"_s, Engine::Standard, true),
+              u"F BETWEEN -2.000000000000005 AND -1.999999999999995"_s);
+    EXPECT_EQ(condition(5, u"0"_s, Engine::MySQL, true), u"F = 0"_s);
 }
 
 TEST(CellFilterOnEngines, TakesCurrencyForANumber)

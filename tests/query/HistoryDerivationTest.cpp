@@ -54,6 +54,71 @@ protected:
 
 } // namespace
 
+namespace {
+
+// Knows what Access would answer from the statement's list.
+class ListReader final : public FieldReader
+{
+public:
+    bool Open(const QString &) override { return true; }
+    Engine engineOf(const QString &) override { return Engine::Access; }
+    std::optional<std::vector<SourceField>> Read(const QString &, const QString &statement) override
+    {
+        const SqlScanner sql(statement);
+        const SelectParts parts = SelectParts::of(sql);
+        if (!parts.items.empty() && parts.items.front().isStar)
+            return Read({}, Derivation(statement, {}, dialectOf(dbAccess, Engine::Access)).table());
+        std::vector<SourceField> fields;
+        for (const SelectParts::Item &item : parts.items)
+            fields.push_back({sql.name(item.tokens.end - 1), 202});
+        return fields;
+    }
+};
+
+} // namespace
+
+// What is chosen out of TOP is the table of what follows, so that other fields need another table.
+TEST(HistoryDerivationOfTop, OtherFieldsCanBeChosenAfterAFilter)
+{
+    ListReader reader;
+    MemoryChooser chooser;
+    clsFilterManagement manager(&reader, &chooser);
+    colShowSQLSentences &history = manager.SQLManager();
+    const QString all = u"select top 5 A, B from T order by B"_s;
+    manager.SetDBType(dbAccess);
+    manager.SetDBConnString(u"memory"_s);
+    manager.SetAllFields(all);
+    manager.SetOriginFilter(all);
+    manager.SetSQLInitData();
+    history.AddCurrentSQL(all, 1);
+    history.GetCurrSQLFieldsStatus();
+
+    QString chosen;
+    chooser.choice = u"B"_s;
+    ASSERT_TRUE(manager.GetPartShowSelFields(all, {}, all, chosen));
+    EXPECT_EQ(chosen.simplified(), u"SELECT top 5 B FROM T ORDER BY B"_s);
+    history.AddCurrentSQL(chosen, 0, history.GetFieldsStatement(chosen));
+    EXPECT_FALSE(history.CanName(*history.DataFields().Item(1)));
+    EXPECT_TRUE(history.CanName(*history.DataFields().Item(2)));
+
+    QString filtered;
+    ASSERT_TRUE(history.GetNextSQLByFilter(u"B = 1"_s, filtered));
+    EXPECT_EQ(filtered.simplified(),
+              u"SELECT * FROM ( SELECT top 5 B FROM T ORDER BY B ) AS Q WHERE B = 1 ORDER BY B"_s);
+    history.AddCurrentSQL(filtered, 0);
+    QString next;
+    ASSERT_TRUE(history.GetNextShowSQL(1, next));
+    EXPECT_EQ(next.simplified(),
+              u"SELECT * FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE B = 1 ORDER BY B"_s);
+    chooser.choice = u"A"_s;
+    ASSERT_TRUE(manager.GetPartShowSelFields(all, chosen, filtered, chosen));
+    EXPECT_EQ(chosen.simplified(),
+              u"SELECT A FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE B = 1 ORDER BY B"_s);
+    EXPECT_EQ(chooser.allFields, (QStringList{u"A"_s, u"B"_s}));
+    ASSERT_TRUE(manager.GetRequirePartSQL(filtered, 3, next));
+    EXPECT_EQ(next.simplified(), u"SELECT * FROM ( select top 5 A, B from T order by B ) AS Q ORDER BY B"_s);
+}
+
 TEST_F(HistoryDerivation, ASimpleStatementStaysLetterForLetter)
 {
     load(u"select * from Ord where Qty > 1"_s);
@@ -120,6 +185,40 @@ TEST_F(HistoryDerivation, AHostsPartStatementIsFoundByItsNames)
     EXPECT_TRUE(history.GetNextShowSQL(2, next));
     EXPECT_EQ(database->read(next).names, (QStringList{u"Qty"_s, u"Name"_s})) << qPrintable(next);
     EXPECT_EQ(firstColumn(next).size(), firstColumn(first).size());
+}
+
+TEST_F(HistoryDerivation, AHostsPartStatementMayLackAnAlias)
+{
+    load(u"select ID as k, Name as n, Qty * 2 as d from Ord"_s, u"select Name, Qty * 2 from Ord"_s);
+    EXPECT_TRUE(history.GetNextShowSQL(2, next));
+    EXPECT_EQ(database->read(next).names, (QStringList{u"n"_s, u"d"_s})) << qPrintable(next);
+    EXPECT_TRUE(history.GetCurrSQLFieldsStatus());
+    EXPECT_TRUE(history.IsSelFieldPartField(u"n"_s));
+    EXPECT_FALSE(history.IsSelFieldPartField(u"k"_s));
+}
+
+TEST_F(HistoryDerivation, TheJoinOfATableWithItselfCanBeUsed)
+{
+    load(u"select a.*, b.* from Ord a join Ord b on a.ID = b.Cust"_s);
+    QStringList written;
+    for (const clsDataField &field : history.DataFields())
+        written.append(history.GetConditionName(field));
+    EXPECT_EQ(written.join(u' '), u"a.ID a.Name a.Qty a.Price a.Cust b.ID b.Name b.Qty b.Price b.Cust"_s);
+    EXPECT_EQ(history.WhyNot(DerivationStep::Condition), QString());
+}
+
+TEST_F(HistoryDerivation, AJoinsFieldsKeepTheirTableInEveryDialog)
+{
+    load(u"select o.*, c.City from Ord o, Cust c where o.Cust = c.ID"_s);
+    EXPECT_EQ(history.GetConditionName(*history.DataFields().Item(1)), u"o.ID"_s);
+    EXPECT_EQ(history.GetColumnRealName(first, {u"ID"_s, u"City"_s}, 0), u"o.ID"_s);
+    QString text;
+    chooser.choice = u"o.ID"_s;
+    EXPECT_TRUE(manager.GetPartShowSelFields(first, {}, first, text));
+    EXPECT_EQ(chooser.written.first() + u' ' + chooser.written.last(), u"o.ID c.City"_s);
+    EXPECT_EQ(firstColumn(text).size(), 8) << qPrintable(text);
+    EXPECT_TRUE(manager.GetPartSortSelFields(first, {}, text));
+    EXPECT_EQ(chooser.written.first() + u' ' + chooser.written.last(), u"o.ID c.City"_s);
 }
 
 TEST_F(HistoryDerivation, AStepBackNeedsNoReadablePartStatement)

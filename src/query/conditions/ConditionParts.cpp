@@ -3,6 +3,7 @@
 #include "query/QueryTexts.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace KOVAVSFDataGridLib {
 
@@ -180,6 +181,22 @@ std::optional<QString> likeInWords(const SqlScanner &sql, TextRange value)
     return std::nullopt;
 }
 
+// The number that is meant by a range around it, which holds all that is shown alike; empty when the range is
+// wider than that.
+QString numberInWords(const SqlScanner &sql, TextRange bounds)
+{
+    qsizetype word = bounds.begin;
+    while (word < bounds.end && !sql.isWord(word, u"AND"))
+        ++word;
+    const double from = textOf(sql, {bounds.begin, word}).toDouble();
+    const double to = textOf(sql, {word + 1, bounds.end}).toDouble();
+    constexpr double widest = 1.1e-5; // of a number with 6 digits
+    if (word >= bounds.end || from == 0 || to == 0 || from > to || to - from > widest * std::abs(to))
+        return {};
+    const int digits = to - from > 1e-13 * std::abs(to) ? 7 : 15;
+    return QString::number((from + to) / 2, 'g', digits);
+}
+
 Comparison comparisonOf(const SqlScanner &sql, TextRange range)
 {
     if (sql.isWord(range.begin, u"CASE"))
@@ -195,6 +212,14 @@ Comparison comparisonOf(const SqlScanner &sql, TextRange range)
                     sql.isWord(i + 1, u"NOT") ? QueryTexts::NotEmptyInWords : QueryTexts::EmptyInWords};
         if (sql.isWord(i, u"LIKE") && !behind.isEmpty() && !sql.isWord(i - 1, u"NOT"))
             return {operand, likeInWords(sql, behind).value_or(QString())};
+        if (sql.isWord(i, u"BETWEEN")) {
+            const QString number = numberInWords(sql, behind);
+            if (number.isEmpty())
+                return {};
+            return sql.isWord(i - 1, u"NOT")
+                       ? Comparison{operandInWords(sql, {range.begin, i - 1}), u"≠ "_s + number}
+                       : Comparison{operand, QueryTexts::EqualsInWords.arg(number)};
+        }
         if (sql.isWord(i, u"IN") && !sql.isWord(i - 1, u"NOT"))
             return {operand,
                     QueryTexts::InListInWords.arg(textOf(sql, withoutBrackets(sql, behind)).simplified())};

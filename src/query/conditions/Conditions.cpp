@@ -150,24 +150,37 @@ QString wordCondition(const QStringList &operands, const QString &word, AllDBTyp
     return operands.join(pattern + QStringLiteral("OR ")) + pattern;
 }
 
-// A column's declared type doesn't say that each of its values is a number.
-bool isNumberText(const QString &text)
+bool isWhole(const QString &number)
 {
-    static const QRegularExpression number(QStringLiteral(R"(\A-?[0-9]+(\.[0-9]+)?([eE][-+]?[0-9]+)?\z)"));
-    return number.match(text).hasMatch();
+    return !number.contains(u'.') && !number.contains(u'e', Qt::CaseInsensitive);
+}
+
+// A computed number or a fraction hardly ever is exactly what is shown; SQLite compares numbers as they are
+// shown, and PostgreSQL's floats are cast.
+NumberRange rangeOfCell(qint32 adoType, const QString &number, Engine engine, bool isComputed)
+{
+    const bool isDouble = adoType == doubleType;
+    if ((!isDouble && adoType != singleType) || engine == Engine::SQLite ||
+        (engine == Engine::PostgreSQL && !isDouble) || (isWhole(number) && !isComputed))
+        return {};
+    return rangeShownAs(number, isDouble ? FloatSize::Double : FloatSize::Single, engine);
 }
 
 // Numbers are compared as numbers where LIKE takes none: as texts they may end in more digits than are shown.
-QString numberCondition(const QString &field, qint32 adoType, const QString &cellText, Engine engine)
+QString numberCondition(const QString &field, qint32 adoType, const QString &cellText, Engine engine,
+                        bool isComputed)
 {
     const QString like = field + QStringLiteral(" like ");
     const QString equals = field + QStringLiteral(" = ");
     if (engine == Engine::Other)
         return like + cellText;
+    // A column's declared type doesn't say that each of its values is a number.
     if (adoType == guidType || !isNumberText(cellText)) {
         return likesTextsOnly(engine) ? equals + literalOf({}, engine, cellText)
                                       : like + literalOf({}, engine, likePattern(engine, cellText));
     }
+    if (const NumberRange range = rangeOfCell(adoType, cellText, engine, isComputed); !range.isEmpty())
+        return QStringLiteral("%1 BETWEEN %2 AND %3").arg(field, range.from, range.to);
     const bool isFloating = adoType == singleType || adoType == doubleType;
     switch (engine) {
     case Engine::PostgreSQL:
@@ -176,12 +189,8 @@ QString numberCondition(const QString &field, qint32 adoType, const QString &cel
     case Engine::SQLite: {
         if (adoType == currencyType)
             return equals + cellText;
-        const bool isWhole =
-            isFloating && !cellText.contains(u'.') && !cellText.contains(u'e', Qt::CaseInsensitive);
-        return like + cellText + (isWhole ? QStringLiteral(".0") : QString());
+        return like + cellText + (isFloating && isWhole(cellText) ? QStringLiteral(".0") : QString());
     }
-    case Engine::MySQL:
-        return (adoType == currencyType ? equals : like) + cellText;
     default:
         return (isFloating || adoType == currencyType ? equals : like) + cellText;
     }
@@ -280,7 +289,7 @@ CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoTyp
     if (isComputed && engine == Engine::SQLite && isNumberText(*cellText))
         return {QStringLiteral("(%1 = %2 OR %1 like '%2')").arg(realName, *cellText), {}};
     if (!isText)
-        return {numberCondition(realName, *adoType, *cellText, engine), {}};
+        return {numberCondition(realName, *adoType, *cellText, engine, isComputed), {}};
     if (cellText->contains(u'\''))
         return {{}, QueryTexts::ApostropheInFilter};
     return {likeOperand(engine, realName) + QStringLiteral(" like ") +

@@ -15,24 +15,6 @@ namespace {
 
 const QString orderWords = u" ORDER BY "_s;
 
-// The text of the tokens with a line break before each FROM, WHERE and ORDER BY at least this deep in
-// brackets.
-QString withWordsApart(const SqlScanner &sql, TextRange tokens, int fromDepth)
-{
-    if (tokens.isEmpty())
-        return {};
-    QString text = textOf(sql, tokens);
-    const qsizetype start = sql.at(tokens.begin).start;
-    for (qsizetype i = tokens.begin + 1; i < tokens.end; ++i) {
-        const bool isClause = sql.isWord(i, u"FROM") || sql.isWord(i, u"WHERE") ||
-                              (sql.isWord(i, u"ORDER") && sql.isWord(i + 1, u"BY"));
-        const qsizetype before = sql.at(i).start - start - 1;
-        if (isClause && sql.at(i).depth >= fromDepth && text.at(before) == u' ')
-            text[before] = u'\n';
-    }
-    return text;
-}
-
 } // namespace
 
 Derivation::Derivation(const QString &statement, const std::vector<SourceField> &fields,
@@ -43,9 +25,10 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
       m_dialect(dialect)
 {
     nameFields(fields);
-    const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinct &&
+    // A condition leaves the same rows before and after DISTINCT.
+    const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
                         !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
-                        !m_parts.hasWindow && !m_parts.isClosed;
+                        !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isClosed && m_isListKnown;
     if (!isOpen) {
         m_kind = Kind::Closed;
         m_written.clear();
@@ -63,6 +46,9 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
 bool Derivation::isFoundAsText() const
 {
     const QString &text = m_sql.sql();
+    // What is added would be within a comment, or after the end.
+    if (m_sql.endsInLineComment() || m_sql.isSymbol(m_sql.count() - 1, u';'))
+        return false;
     const auto isAt = [&](const QString &word, TextRange clause, qsizetype token) {
         const qsizetype found = findUpper(text, word);
         return clause.isEmpty() ? found == 0 : found == m_sql.at(token).start;
@@ -82,7 +68,8 @@ bool Derivation::hasPlainList() const
 bool Derivation::keepsListWords() const
 {
     return (m_parts.isDistinct || m_parts.isTop) && !m_parts.source.isEmpty() && !m_parts.isCompound &&
-           !m_parts.isGrouped && !m_parts.isLimited && !m_parts.hasWindow && !m_parts.isClosed;
+           !m_parts.isGrouped && !m_parts.isLimited && !m_parts.hasWindow && !m_parts.hasRows &&
+           !m_parts.isClosed && m_isListKnown;
 }
 
 bool Derivation::isTextWork(DerivationStep step) const
@@ -102,6 +89,9 @@ QString Derivation::whyNot(DerivationStep step) const
         return QueryTexts::UnnamedField;
     if (isWhole && !equalName().isEmpty())
         return QueryTexts::EqualNames.arg(equalName());
+    const QStringList &usable = step == DerivationStep::Fields ? m_listed : m_written;
+    if (!isWhole && !usable.isEmpty() && std::ranges::all_of(usable, &QString::isEmpty))
+        return QueryTexts::EqualNames.arg(equalName());
     return {};
 }
 
@@ -110,7 +100,7 @@ QString Derivation::withCondition(const QString &condition) const
     if (!whyNot(DerivationStep::Condition).isEmpty())
         return {};
     SQLSentence sentence = base();
-    addCondition(sentence, condition);
+    addCondition(sentence, condition, m_sql.dialect());
     return joinSQLSentence(sentence);
 }
 
@@ -120,27 +110,6 @@ QString Derivation::withSort(const QString &sortList) const
         return {};
     SQLSentence sentence = base();
     sentence.order = sortList.isEmpty() ? QString() : orderWords + sortList;
-    return joinSQLSentence(sentence);
-}
-
-QString Derivation::withFields(const QStringList &listEntries) const
-{
-    if (listEntries.isEmpty() || !whyNot(DerivationStep::Fields).isEmpty())
-        return {};
-    return withList(listEntries.join(u','), listEntries);
-}
-
-QString Derivation::withList(const QString &list, const QStringList &entries) const
-{
-    if (isTextWork(DerivationStep::Fields))
-        return u"SELECT "_s + list + getFromPart(m_sql.sql());
-    SQLSentence sentence = base();
-    if (isSimple())
-        sentence.order = stableSort();
-    if (m_kind == Kind::Closed && keepsListWords())
-        sentence = {headWith(list), withWordsApart(m_sql, m_parts.where, 1), sortWithin(entries)};
-    else
-        sentence.fields = prefix() + u"SELECT "_s + list + u" FROM "_s + source();
     return joinSQLSentence(sentence);
 }
 
@@ -168,7 +137,25 @@ QString Derivation::withoutConditions() const
 
 bool Derivation::hasAsTable(const Derivation &other) const
 {
-    return m_parts.isDerivedTable && other.m_kind == Kind::Closed && source() == other.source();
+    return m_parts.isDerivedTable && other.m_kind == Kind::Closed &&
+           source().simplified().compare(other.source().simplified(), Qt::CaseInsensitive) == 0;
+}
+
+QString Derivation::table() const
+{
+    if (!m_parts.isDerivedTable)
+        return {};
+    qsizetype close = m_parts.source.end - 1;
+    while (!m_sql.isSymbol(close, u')'))
+        --close;
+    return textOf(m_sql, {m_parts.source.begin + 1, close});
+}
+
+QString Derivation::withTable(const Derivation &other) const
+{
+    const SQLSentence sentence = base();
+    return joinSQLSentence(
+        {prefix() + u"SELECT * FROM "_s + other.asTable(), sentence.where, sentence.order});
 }
 
 QString Derivation::withSource(const Derivation &other) const
@@ -188,66 +175,40 @@ bool Derivation::endsCondition(qsizetype token) const
                        [&](QStringView word) { return m_sql.isWord(token, word); });
 }
 
-QString Derivation::withFieldsOf(const Derivation &fieldStatement) const
-{
-    if (!whyNot(DerivationStep::Fields).isEmpty())
-        return {};
-    if (m_sql.sql() == fieldStatement.m_sql.sql())
-        return m_sql.sql();
-    const auto sameText = [](const QString &a, const QString &b) {
-        return a.simplified().compare(b.simplified(), Qt::CaseInsensitive) == 0;
-    };
-    const bool hasWords = m_kind == Kind::Closed && keepsListWords() && fieldStatement.keepsListWords();
-    if (m_kind != Kind::Closed && sameText(source(), fieldStatement.source()))
-        return withList(fieldStatement.m_kind == Kind::Closed ? u"*"_s : fieldStatement.listText(), {});
-    if (hasWords &&
-        sameText(textOf(m_sql, m_parts.source), textOf(fieldStatement.m_sql, fieldStatement.m_parts.source)))
-        return withList(fieldStatement.listText(), splitList(fieldStatement.listText()));
-    QHash<QString, qsizetype> placeOfName;
-    for (qsizetype i = m_names.size() - 1; i >= 0; --i)
-        placeOfName.insert(m_names.at(i), i);
-    QStringList entries;
-    for (const QString &name : fieldStatement.m_names) {
-        const qsizetype at = placeOfName.value(name, -1);
-        if (at >= 0 && !m_listed.at(at).isEmpty())
-            entries.append(m_listed.at(at));
-        else if (m_parts.isDerivedTable)
-            entries.append(writtenName(m_dialect, name)); // of the table, though not of the list
-        else
-            return {};
-    }
-    return withFields(entries);
-}
-
-QString Derivation::fieldsStatement() const
-{
-    if (m_kind == Kind::Closed)
-        return keepsListWords() ? headWith(listText()) : m_sql.sql();
-    return base().fields;
-}
-
 bool Derivation::needsFields() const
 {
     return m_parts.sources.size() > 1 && std::any_of(m_parts.items.begin(), m_parts.items.end(),
                                                      [](const auto &item) { return item.isStar; });
 }
 
-const QStringList &Derivation::listedIn(const Derivation &derived) const
+// The text of the tokens with a line break before each FROM, WHERE and ORDER BY at least this deep in
+// brackets.
+QString Derivation::withWordsApart(TextRange tokens, int fromDepth) const
 {
-    const bool isTableThere = derived.m_parts.isDerivedTable && !m_parts.isDerivedTable;
-    return m_kind == Kind::Closed && isTableThere ? m_written : m_listed;
+    if (tokens.isEmpty())
+        return {};
+    QString text = textOf(m_sql, tokens);
+    const qsizetype start = m_sql.at(tokens.begin).start;
+    for (qsizetype i = tokens.begin + 1; i < tokens.end; ++i) {
+        const bool isClause = m_sql.isWord(i, u"FROM") || m_sql.isWord(i, u"WHERE") ||
+                              (m_sql.isWord(i, u"ORDER") && m_sql.isWord(i + 1, u"BY"));
+        const qsizetype before = m_sql.at(i).start - start - 1;
+        if (isClause && m_sql.at(i).depth >= fromDepth && text.at(before) == u' ')
+            text[before] = u'\n';
+    }
+    return text;
 }
 
 QString Derivation::source() const
 {
-    return m_kind == Kind::Closed ? asTable() : withWordsApart(m_sql, m_parts.source, 1);
+    return m_kind == Kind::Closed ? asTable() : withWordsApart(m_parts.source, 1);
 }
 
 QString Derivation::prefix() const
 {
     if (m_parts.with.isEmpty())
         return {};
-    return withWordsApart(m_sql, m_parts.with, 0) + u' ';
+    return withWordsApart(m_parts.with, 0) + u' ';
 }
 
 FilteredResult Derivation::filteredResult() const
@@ -266,7 +227,7 @@ SQLSentence Derivation::base() const
     case Kind::Simple:
         return *SplitSQLSentence(m_sql.sql());
     case Kind::Open:
-        return {headWith(listText()), withWordsApart(m_sql, m_parts.where, 1), stableSort()};
+        return {headWith(listText()), withWordsApart(m_parts.where, 1), stableSort()};
     case Kind::Closed:
         break;
     }
@@ -278,7 +239,7 @@ QString Derivation::headWith(const QString &list) const
 {
     const QString words = textOf(m_sql, m_parts.listWords);
     return prefix() + u"SELECT "_s + (words.isEmpty() ? QString() : words + u' ') + list + u" FROM "_s +
-           withWordsApart(m_sql, m_parts.source, 1);
+           withWordsApart(m_parts.source, 1);
 }
 
 // Engines call a field without an alias by its text, which therefore stays.
@@ -288,7 +249,7 @@ QString Derivation::listText() const
         std::all_of(m_parts.items.begin(), m_parts.items.end(), [](const SelectParts::Item &item) {
             return item.isStar || item.isName || !item.alias.isEmpty();
         });
-    return isNamed ? withWordsApart(m_sql, m_parts.list, 1) : textOf(m_sql, m_parts.list);
+    return isNamed ? withWordsApart(m_parts.list, 1) : textOf(m_sql, m_parts.list);
 }
 
 QString Derivation::asTable() const
@@ -297,9 +258,10 @@ QString Derivation::asTable() const
     while (m_sql.isSymbol(end - 1, u';'))
         --end;
     const TextRange all{m_parts.with.end, end};
-    QString inner = withWordsApart(m_sql, all, 0);
-    // A limit takes its rows in an order. Any other order is for what comes outside.
-    const bool isOrdered = !m_parts.order.isEmpty() && !m_parts.isLimited && !m_parts.isTop;
+    QString inner = withWordsApart(all, 0);
+    // A limit takes its rows in an order, and so does DISTINCT ON. Any other order is for what comes outside.
+    const bool isOrdered =
+        !m_parts.order.isEmpty() && !m_parts.isLimited && !m_parts.isTop && !m_parts.isDistinctOn;
     if (isOrdered && (!outerSort().isEmpty() || m_dialect.likelyEngine() == Engine::SqlServer)) {
         const qsizetype start = m_sql.at(all.begin).start;
         const qsizetype from = m_sql.at(m_parts.order.begin).start - start;
@@ -345,30 +307,7 @@ QString Derivation::stableSort() const
     }
     if (m_parts.order.isEmpty())
         return {};
-    return isChanged ? orderWords + terms.join(u',') : u' ' + withWordsApart(m_sql, m_parts.order, 1);
-}
-
-// With DISTINCT, a sort can only be by fields of the list.
-QString Derivation::sortWithin(const QStringList &entries) const
-{
-    QStringList terms;
-    for (const SelectParts::Item &term : m_parts.sort) {
-        const int field = fieldOfTerm(term);
-        const QString direction = textOf(m_sql, {term.value.end, term.tokens.end});
-        if (field < 0 && !m_parts.isDistinct)
-            terms.append(textOf(m_sql, term.tokens));
-        else if (field >= 0 && (!m_parts.isDistinct || entries.contains(m_listed.at(field))))
-            terms.append(valueOf(field) + (direction.isEmpty() ? QString() : u' ' + direction));
-    }
-    return terms.isEmpty() ? QString() : orderWords + terms.join(u',');
-}
-
-QString Derivation::valueOf(int field) const
-{
-    const int item = m_itemOfField[static_cast<std::size_t>(field)];
-    if (item < 0 || m_parts.items[static_cast<std::size_t>(item)].isStar)
-        return writtenName(m_dialect, m_names.at(field));
-    return textOf(m_sql, m_parts.items[static_cast<std::size_t>(item)].value);
+    return isChanged ? orderWords + terms.join(u',') : u' ' + withWordsApart(m_parts.order, 1);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -27,12 +27,13 @@ enum class DerivationStep { Condition, Sort, Fields };
 // simple  SELECT list FROM … [WHERE …] [ORDER BY …] with plain names in its list, all of them different,
 // whose
 //         keywords can be found as SqlText.h does it. Such statements are derived from as plain text.
-// open    the same clauses, but with aliases, expressions, equal names or sub-selects. Conditions and sorts
+// open    the same clauses, but with DISTINCT, aliases, expressions, equal names or sub-selects. Conditions
+// and sorts
 //         name a field by its value, so that the statement stays one over its tables and its rows can still
 //         be written back.
 // closed  all others: a condition on their result needs them as a table, `SELECT * FROM (…) AS Q`.
 //
-// Statements are on one line, as JoinStatementLines leaves them. In what is derived from an open or closed
+// Statements are as joinStatementLines leaves them. In what is derived from an open or closed
 // statement, the words FROM, WHERE and ORDER BY of inner SELECTs follow a line break, so that SqlText.h finds
 // only the outer ones.
 class Derivation
@@ -52,7 +53,14 @@ public:
     // tables.
     bool needsFields() const;
     // Whether its list leaves rows out, so that other fields mean other rows.
-    bool isDistinct() const { return m_parts.isDistinct; }
+    bool isDistinct() const { return m_parts.isDistinct && !m_parts.isDistinctOn; }
+    // Whether a choice of fields stays a statement of this form, with TOP, say, before its list, and is the
+    // table of what is derived from it, so that no other fields can be named there.
+    bool hasListAsTable() const { return m_kind == Kind::Closed && keepsListWords(); }
+    // The SELECT in brackets from which it selects; empty when it selects from something else.
+    QString table() const;
+    // For each field of the result, its name.
+    const QStringList &names() const { return m_names; }
     // Whether it selects from more than one table.
     bool isJoined() const { return m_parts.sources.size() > 1; }
 
@@ -76,11 +84,18 @@ public:
     // without conditions.
     bool hasAsTable(const Derivation &other) const;
     QString withSource(const Derivation &other) const;
+    // All fields of `other`, which selects the same rows as table(), under the conditions and the sort of
+    // this statement.
+    QString withTable(const Derivation &other) const;
 
     // The statement with the fields of `fieldStatement`, which selects from the same tables: as they are
     // listed there, or, where this statement is derived from that one as a whole, by their names. Empty when
     // that can't be done.
     QString withFieldsOf(const Derivation &fieldStatement) const;
+
+    // What the list of this statement has for the fields of another one, which may lack its aliases. Empty
+    // when it hasn't got one of them.
+    QStringList listedFor(const Derivation &part) const;
 
     // What this statement's fields are called in the list of one that was derived from it: as listed(), or,
     // where that one has this as a table, by their names.
@@ -100,6 +115,8 @@ private:
 
     void nameFields(const std::vector<SourceField> &fields);
     void nameOpenFields(const std::vector<SourceField> &fields);
+    void placeFields(const std::vector<SourceField> &fields);
+    void dropUnlikelyAliases(const std::vector<SourceField> &fields);
     QString qualified(const SourceField &field, const QString &qualifier) const;
     int countOf(const QString &name) const;
     bool isFoundAsText() const;
@@ -117,6 +134,7 @@ private:
     bool keepsListWords() const;
     bool endsCondition(qsizetype token) const;
     QString headWith(const QString &list) const;
+    QString withWordsApart(TextRange tokens, int fromDepth) const;
     QString withList(const QString &list, const QStringList &entries) const;
 
     SqlScanner m_sql;
@@ -129,6 +147,8 @@ private:
     QStringList m_written;
     QStringList m_listed;
     std::vector<int> m_itemOfField; // the list entry that gives the field
+    QStringList m_tableOfField; // how a field of a star is told apart from others of its name; can be empty
+    bool m_isListKnown = true;  // whether each field has its entry
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -29,6 +29,14 @@ bool isOneCall(const SqlScanner &sql, TextRange value)
     return true;
 }
 
+// E'…', N'…' and the like.
+bool isTextWithPrefix(const SqlScanner &sql, TextRange value)
+{
+    return value.end - value.begin == 2 && sql.at(value.begin).kind == SqlToken::Kind::Word &&
+           sql.at(value.begin + 1).kind == SqlToken::Kind::String &&
+           sql.at(value.begin).end() == sql.at(value.begin + 1).start;
+}
+
 // The value as it can stand beside an operator.
 QString operand(const SqlScanner &sql, const SelectParts::Item &item)
 {
@@ -36,8 +44,10 @@ QString operand(const SqlScanner &sql, const SelectParts::Item &item)
     const bool isOneToken = item.value.end - item.value.begin == 1;
     const SqlToken::Kind kind = sql.at(item.value.begin).kind;
     // A sort takes a number for a position, and some engines refuse other constants.
-    if (isOneToken && !item.isName &&
-        (kind == SqlToken::Kind::Number || kind == SqlToken::Kind::String || kind == SqlToken::Kind::Word))
+    const bool isConstant =
+        isOneToken && !item.isName &&
+        (kind == SqlToken::Kind::Number || kind == SqlToken::Kind::String || kind == SqlToken::Kind::Word);
+    if (isConstant || isTextWithPrefix(sql, item.value))
         return u"(CASE WHEN 1=1 THEN %1 END)"_s.arg(text);
     const bool isWhole = item.isName || isOneToken || isOneCall(sql, item.value);
     return isWhole ? text : u'(' + text + u')';
@@ -61,21 +71,22 @@ void Derivation::nameFields(const std::vector<SourceField> &fields)
         m_types.push_back(field.adoType);
         ++m_countOfName[field.name.toCaseFolded()];
     }
-
-    // A single star gives what the other entries don't; several can't be distinguished by their number.
-    const auto stars = std::count_if(m_parts.items.begin(), m_parts.items.end(),
-                                     [](const SelectParts::Item &item) { return item.isStar; });
-    const auto inStar = static_cast<qsizetype>(all.size() + 1) - static_cast<qsizetype>(m_parts.items.size());
-    m_itemOfField.assign(all.size(), -1);
-    std::size_t field = 0;
-    for (std::size_t item = 0; item < m_parts.items.size() && field < all.size(); ++item) {
-        if (m_parts.items[item].isStar && (stars > 1 || inStar < 0))
-            break;
-        const qsizetype count = m_parts.items[item].isStar ? inStar : 1;
-        for (qsizetype i = 0; i < count && field < all.size(); ++i)
-            m_itemOfField[field++] = static_cast<int>(item);
-    }
+    placeFields(all);
+    if (!fields.empty())
+        dropUnlikelyAliases(fields);
     nameOpenFields(all);
+}
+
+// An engine calls a field by its alias. What it doesn't call so is the end of an expression.
+void Derivation::dropUnlikelyAliases(const std::vector<SourceField> &fields)
+{
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        if (m_itemOfField[i] < 0)
+            continue;
+        SelectParts::Item &item = m_parts.items[static_cast<std::size_t>(m_itemOfField[i])];
+        if (!item.hasAs && !item.alias.isEmpty() && !isSame(item.alias, fields[i].name))
+            item = SelectParts::itemWithoutAlias(m_sql, item.tokens);
+    }
 }
 
 void Derivation::nameOpenFields(const std::vector<SourceField> &fields)
@@ -86,13 +97,7 @@ void Derivation::nameOpenFields(const std::vector<SourceField> &fields)
     for (std::size_t i = 0; i < fields.size(); ++i) {
         const int at = m_itemOfField[i];
         if (at < 0 || m_parts.items[static_cast<std::size_t>(at)].isStar) {
-            QString qualifier;
-            if (at >= 0) {
-                const TextRange value = m_parts.items[static_cast<std::size_t>(at)].value;
-                if (value.end - value.begin > 2)
-                    qualifier = textOf(m_sql, {value.begin, value.end - 2});
-            }
-            m_written.append(qualified(fields[i], qualifier));
+            m_written.append(qualified(fields[i], m_tableOfField.at(static_cast<qsizetype>(i))));
             m_listed.append(m_written.last());
             continue;
         }

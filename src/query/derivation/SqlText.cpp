@@ -26,14 +26,55 @@ QString headWithoutConditions(const QString &statement)
 }
 
 // AND binds closer, so an OR outside all brackets would take rows in that AND is to keep out.
-bool hasOuterOr(const QString &condition)
+bool hasOuterOr(const QString &condition, SqlDialect reading)
 {
-    const SqlScanner scanned(condition);
+    const SqlScanner scanned(condition, reading, {.brackets = true});
     for (qsizetype i = 0; i < scanned.count(); ++i) {
         if (scanned.at(i).depth == 0 && scanned.isWord(i, u"OR"))
             return true;
     }
     return false;
+}
+
+bool isBreak(QChar c)
+{
+    return c == u'\n' || c == u'\r' || c == u'\t';
+}
+
+// Up to and with the character that closes what the first one opens; all of it where none does.
+qsizetype sizeUpTo(QStringView text, QChar closing)
+{
+    const auto end = text.indexOf(closing, 1);
+    return end < 0 ? text.size() : end + 1;
+}
+
+qsizetype sizeOfBlockComment(QStringView text)
+{
+    const auto end = text.indexOf(u"*/", 2);
+    return end < 0 ? text.size() : end + 2;
+}
+
+// Whether only the engine can say what follows: a number sign begins a comment, a date or an operator, two
+// dashes without a blank after them can be two operators, a backslash can keep a quote from closing a text,
+// comments can contain comments, and a dollar sign can begin a text.
+bool isReadInSeveralWays(QStringView rest)
+{
+    const QChar c = rest.front();
+    if (c == u'\'' || c == u'"') {
+        const auto size = sizeUpTo(rest, c);
+        return size > 2 && rest.at(size - 2) == u'\\' && rest.at(size - 1) == c;
+    }
+    if (rest.startsWith(u"--"))
+        return rest.size() > 2 && rest.at(2) != u' ' && !isBreak(rest.at(2));
+    if (rest.startsWith(u"/*"))
+        return rest.first(sizeOfBlockComment(rest)).indexOf(u"/*", 1) > 0;
+    if (c == u'$') {
+        qsizetype end = 1;
+        while (end < rest.size() && (rest.at(end).isLetterOrNumber() || rest.at(end) == u'_'))
+            ++end;
+        return end < rest.size() && rest.at(end) == u'$';
+    }
+    return c == u'#';
 }
 
 } // namespace
@@ -74,7 +115,7 @@ QString ComposeSQL(const QString &head, const QString &where, const QString &ord
     return text;
 }
 
-void addCondition(SQLSentence &sentence, const QString &condition)
+void addCondition(SQLSentence &sentence, const QString &condition, SqlDialect reading)
 {
     if (condition.isEmpty())
         return;
@@ -84,9 +125,10 @@ void addCondition(SQLSentence &sentence, const QString &condition)
         return;
     }
     const qsizetype keyword = whereWord.size() - 2;
-    if (hasOuterOr(From(where, keyword + 1)))
+    if (hasOuterOr(From(where, keyword + 1), reading))
         sentence.where = First(where, keyword) + QStringLiteral(" (") + trim(From(where, keyword + 1)) + u')';
-    sentence.where += QStringLiteral(" AND ") + (hasOuterOr(condition) ? u'(' + condition + u')' : condition);
+    sentence.where +=
+        QStringLiteral(" AND ") + (hasOuterOr(condition, reading) ? u'(' + condition + u')' : condition);
 }
 
 QString ReplaceSQLFieldPart(const QString &statement, const QString &fieldStatement)
@@ -137,9 +179,9 @@ QString getFromPart(const QString &statement)
     return from == 0 ? QString() : From(statement, from);
 }
 
-QStringList splitList(const QString &list)
+QStringList splitList(const QString &list, SqlDialect reading)
 {
-    const SqlScanner scanned(list);
+    const SqlScanner scanned(list, reading, {.brackets = true});
     QStringList entries;
     qsizetype begin = 0;
     for (qsizetype i = 0; i <= scanned.count(); ++i) {
@@ -169,22 +211,23 @@ QString CutStringEnds(const QString &text, const QString &affix, int mode)
 
 QString joinStatementLines(const QString &statement)
 {
-    const auto isBreak = [](QChar c) { return c == u'\n' || c == u'\r' || c == u'\t'; };
     QString joined;
     joined.reserve(statement.size());
     qsizetype quotedEnd = 0;
     for (qsizetype i = 0; i < statement.size();) {
         const QChar c = statement.at(i);
+        if (isReadInSeveralWays(QStringView(statement).sliced(i))) {
+            joined += QStringView(statement).sliced(i);
+            return joined;
+        }
         if (const QChar closing = closingQuote(c); !closing.isNull()) {
-            const auto end = statement.indexOf(closing, i + 1);
-            const auto size = end < 0 ? statement.size() - i : end + 1 - i;
+            const auto size = sizeUpTo(QStringView(statement).sliced(i), closing);
             joined += QStringView(statement).mid(i, size);
             i += size;
             quotedEnd = joined.size();
         } else if (QStringView(statement).mid(i).startsWith(u"/*")) {
             // Kept, because some engines read hints in it; quotes and dashes mean nothing there.
-            const auto end = statement.indexOf(QStringLiteral("*/"), i + 2);
-            const auto size = end < 0 ? statement.size() - i : end + 2 - i;
+            const auto size = sizeOfBlockComment(QStringView(statement).sliced(i));
             for (const QChar part : QStringView(statement).mid(i, size))
                 joined += isBreak(part) ? QChar(u' ') : part;
             i += size;

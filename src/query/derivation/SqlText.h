@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sql/SqlScanner.h"
+
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -38,8 +40,8 @@ QString ComposeSQL(const QString &head, const QString &where, const QString &ord
 
 // One more condition: the first one brings the word WHERE (and a blank before it), each further one AND; then
 // either side that has an OR outside all brackets gets brackets of its own.
-// An empty condition changes nothing.
-void addCondition(SQLSentence &sentence, const QString &condition);
+// An empty condition changes nothing. `reading` says what a text is.
+void addCondition(SQLSentence &sentence, const QString &condition, SqlDialect reading = SqlDialect::Standard);
 
 // The statement with the head of `fieldStatement` in place of its own; empty when either text is empty.
 QString ReplaceSQLFieldPart(const QString &statement, const QString &fieldStatement);
@@ -62,7 +64,7 @@ QString getFromPart(const QString &statement);
 
 // The entries of a SELECT list or a sort, cut at the commas outside brackets, quotes and comments, without
 // blanks at their ends; empty ones are left out.
-QStringList splitList(const QString &list);
+QStringList splitList(const QString &list, SqlDialect reading = SqlDialect::Standard);
 
 // Where CutStringEnds removes.
 enum CutEnds : qint32 { CutBegin = 1, CutEnd = 2, CutBoth = 3 };
@@ -75,6 +77,8 @@ QString CutStringEnds(const QString &text, const QString &affix, int mode);
 // "--" comment is dropped up to its line's end: on one line it would swallow the rest of the statement. A
 // block comment stays.
 // So is a ";" at the very end, which would come to stand in the middle of a derived statement.
+// From the first place on that engines read in different ways ("#", "--" without a blank, a backslash before
+// a quote, …), the text stays as it is.
 QString joinStatementLines(const QString &statement);
 
 } // namespace KOVAVSFDataGridLib

@@ -1,4 +1,5 @@
 #include "ado/Recordset.h"
+#include "query/QueryTexts.h"
 #include "query/conditions/Conditions.h"
 #include "session/Questions.h"
 #include "session/Session.h"
@@ -26,8 +27,10 @@ CellCondition conditionOfCell(Session &session, int row, int col)
         text = recordset.CellText(record, col - 1);
     const ADODB::Field &field = recordset.Fields().Item(col - 1);
     // The statement that was opened, not the one that is called shown: "All" and "Part" only hide columns.
-    const QString name =
-        session.history().GetColumnRealName(recordset.Source(), session.window().Headings(), col - 1);
+    const QStringList headings = session.window().Headings();
+    const QString name = session.history().GetColumnRealName(recordset.Source(), headings, col - 1);
+    if (const QString heading = headings.value(col - 1); name.isEmpty() && headings.count(heading) > 1)
+        return {{}, QueryTexts::EqualNames.arg(heading)};
     return buildCellFilter(name, field.Type(), text, session.result().engine(),
                            field.BaseColumnName().isEmpty());
 }

@@ -28,7 +28,7 @@ std::vector<TypedField> searchedFields(const FindAnswer &answer, const colShowSQ
 {
     std::vector<TypedField> searched;
     for (const clsDataField &field : history.DataFields()) {
-        if (!answer.isOneField || field.FieldName == answer.field)
+        if (answer.isOneField ? field.FieldName == answer.field : history.CanName(field))
             searched.push_back({field.FieldName, typeOf(field, fields), history.GetConditionName(field)});
     }
     return searched;

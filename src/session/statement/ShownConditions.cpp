@@ -96,7 +96,7 @@ QString statementWithout(Session &session, std::size_t condition)
     while (sentence.fields.endsWith(u' '))
         sentence.fields.chop(1);
     for (const QString &part : std::as_const(kept))
-        addCondition(sentence, part);
+        addCondition(sentence, part, session.history().Reading());
     return ComposeSQL(sentence.fields, sentence.where.trimmed(), sentence.order.trimmed());
 }
 

@@ -135,7 +135,8 @@ private:
             replace(i, u"."_s);
         else if (isMember || m_statement.isSymbol(i + 1, u'.'))
             return;
-        else if (const Words *constant = find(constants, m_statement, i); constant && !isCall)
+        else if (const Words *constant = find(constants, m_statement, i);
+                 constant && !isCall && !m_statement.isWord(i - 1, u"AS")) // else it is an alias
             replace(i, constant->sqlite);
         else if (m_statement.isWord(i, u"ALIKE"))
             replace(i, u"LIKE"_s);
