@@ -1,6 +1,5 @@
 #include "filter/FilterCondition.h"
 
-#include "filter/FilterSql.h"
 #include "filter/FilterTexts.h"
 #include "filter/FilterValue.h"
 #include "sql/Like.h"
@@ -20,63 +19,153 @@ QString equals(const QString &field, const FilterValue &value)
     return u"(%1 >= %2 AND %1 < %3)"_s.arg(field, value.literal, value.nextDay);
 }
 
+QString notEquals(const QString &field, const FilterValue &value)
+{
+    if (value.nextDay.isEmpty())
+        return field + " <> "_L1 + value.literal;
+    return u"(%1 < %2 OR %1 >= %3)"_s.arg(field, value.literal, value.nextDay);
+}
+
 QString compare(const QString &field, FilterOperator op, const FilterValue &value)
 {
-    const bool isDay = !value.nextDay.isEmpty();
+    const bool isRange = !value.nextDay.isEmpty();
     switch (op) {
-    case FilterOperator::NotEquals:
-        return isDay ? u"(%1 < %2 OR %1 >= %3)"_s.arg(field, value.literal, value.nextDay)
-                     : field + " <> "_L1 + value.literal;
     case FilterOperator::Greater:
-        return field + (isDay ? " >= "_L1 + value.nextDay : " > "_L1 + value.literal);
+        return field + (isRange ? " >= "_L1 + value.nextDay : " > "_L1 + value.literal);
     case FilterOperator::Less:
         return field + " < "_L1 + value.literal;
     case FilterOperator::AtLeast:
         return field + " >= "_L1 + value.literal;
     case FilterOperator::AtMost:
-        return field + (isDay ? " < "_L1 + value.nextDay : " <= "_L1 + value.literal);
+        return field + (isRange ? " < "_L1 + value.nextDay : " <= "_L1 + value.literal);
     default:
         return equals(field, value);
     }
 }
 
-FilterCondition between(const Dialect &dialect, const FilterChoice &choice)
+// Writes one choice, whose field is already written as it is compared.
+class Writer
 {
-    const auto first = readFilterValue(dialect, choice.field.fieldClass, choice.value);
-    const auto last = readFilterValue(dialect, choice.field.fieldClass, choice.lastValue);
-    if (!first || choice.value.isEmpty())
-        return {{}, whyNoFilterValue(choice.field.fieldClass, choice.value)};
-    if (!last || choice.lastValue.isEmpty())
-        return {{}, whyNoFilterValue(choice.field.fieldClass, choice.lastValue), true};
-    // A day ends a moment before the next one.
-    constexpr double millisecondsToDayEnd = 24 * 60 * 60 * 1000 - 1;
-    const double lastExtent = last->nextDay.isEmpty() ? 0 : millisecondsToDayEnd;
-    if (first->rank && last->rank && *last->rank + lastExtent < *first->rank)
-        return {{}, FilterTexts::EndBeforeStart, true};
-    return {u'(' + compare(choice.field.written, FilterOperator::AtLeast, *first) + " AND "_L1 +
-                compare(choice.field.written, FilterOperator::AtMost, *last) + u')',
-            {}};
-}
-
-FilterCondition inList(const Dialect &dialect, const FilterChoice &choice)
-{
-    QStringList literals;
-    QStringList days;
-    for (const QString &item : splitFilterList(choice.value)) {
-        const auto value = readFilterValue(dialect, choice.field.fieldClass, item);
-        if (!value)
-            return {{}, whyNoFilterValue(choice.field.fieldClass, item)};
-        if (value->nextDay.isEmpty())
-            literals.append(value->literal);
-        else
-            days.append(equals(choice.field.written, *value));
+public:
+    Writer(const Dialect &dialect, const FilterChoice &choice, const FilterScope &scope)
+        : m_dialect(dialect), m_choice(choice), m_scope(scope), m_op(positiveOf(choice.op))
+    {
     }
-    if (!literals.isEmpty())
-        days.prepend(choice.field.written + " IN ("_L1 + literals.join(", "_L1) + u')');
-    if (days.isEmpty())
-        return {{}, FilterTexts::NoValue};
-    return {days.size() == 1 ? days.constFirst() : u'(' + days.join(" OR "_L1) + u')', {}};
-}
+
+    // As the operator's positive form selects.
+    FilterCondition positive() const
+    {
+        if (comparesRecords(m_op))
+            return amongRecords();
+        if (m_op == FilterOperator::Between)
+            return between();
+        if (m_op == FilterOperator::InList)
+            return inList();
+        const auto value = read(m_choice.value);
+        if (!value)
+            return faultOf(m_choice.value);
+        return {m_choice.field.fieldClass == FieldClass::Boolean ? isTrue(m_dialect, field(), value->isTrue)
+                                                                 : single(*value),
+                {}};
+    }
+
+    // The opposite, among the records that have a value.
+    FilterCondition negative() const
+    {
+        const FilterCondition selected = positive();
+        if (!selected.fault.isEmpty())
+            return selected;
+        if (m_op != FilterOperator::Equals)
+            return {"NOT ("_L1 + selected.sql + u')', {}};
+        const FilterValue value = read(m_choice.value).value_or(FilterValue());
+        return {m_choice.field.fieldClass == FieldClass::Boolean ? isTrue(m_dialect, field(), !value.isTrue)
+                                                                 : notEquals(field(), value),
+                {}};
+    }
+
+private:
+    const QString &field() const { return m_choice.field.written; }
+
+    std::optional<FilterValue> read(const QString &typed) const
+    {
+        return typed.isEmpty() ? std::nullopt
+                               : readFilterValue(m_dialect, m_choice.field.fieldClass, typed, m_scope.today);
+    }
+
+    FilterCondition faultOf(const QString &typed, bool isLastValue = false) const
+    {
+        return {{}, whyNoFilterValue(m_choice.field.fieldClass, typed), isLastValue};
+    }
+
+    QString single(const FilterValue &value) const
+    {
+        switch (m_op) {
+        case FilterOperator::Contains:
+            return like(m_dialect, field(), m_choice.value, Anchor::None);
+        case FilterOperator::BeginsWith:
+            return like(m_dialect, field(), m_choice.value, Anchor::Begin);
+        case FilterOperator::EndsWith:
+            return like(m_dialect, field(), m_choice.value, Anchor::End);
+        default:
+            return compare(field(), m_op, value);
+        }
+    }
+
+    FilterCondition between() const
+    {
+        const auto first = read(m_choice.value);
+        const auto last = read(m_choice.lastValue);
+        if (!first)
+            return faultOf(m_choice.value);
+        if (!last)
+            return faultOf(m_choice.lastValue, true);
+        if (first->rank && last->lastRank && *last->lastRank < *first->rank)
+            return {{}, FilterTexts::EndBeforeStart, true};
+        return {u'(' + compare(field(), FilterOperator::AtLeast, *first) + " AND "_L1 +
+                    compare(field(), FilterOperator::AtMost, *last) + u')',
+                {}};
+    }
+
+    FilterCondition inList() const
+    {
+        QStringList literals;
+        QStringList ranges;
+        for (const QString &item : splitFilterList(m_choice.value)) {
+            const auto value = read(item);
+            if (!value)
+                return faultOf(item);
+            if (value->nextDay.isEmpty())
+                literals.append(value->literal);
+            else
+                ranges.append(equals(field(), *value));
+        }
+        if (!literals.isEmpty())
+            ranges.prepend(field() + " IN ("_L1 + literals.join(", "_L1) + u')');
+        if (ranges.isEmpty())
+            return {{}, FilterTexts::NoValue};
+        return {ranges.size() == 1 ? ranges.constFirst() : u'(' + ranges.join(" OR "_L1) + u')', {}};
+    }
+
+    FilterCondition amongRecords() const
+    {
+        if (!m_scope.records)
+            return {{}, FilterTexts::NoRecords};
+        if (!takesCount(m_op))
+            return {FilterSql::isDuplicated(field(), *m_scope.records), {}};
+        const auto count = readFilterCount(m_choice.value);
+        if (!count)
+            return {{},
+                    m_choice.value.trimmed().isEmpty() ? FilterTexts::NoValue
+                                                       : FilterTexts::NoCount.arg(m_choice.value)};
+        const bool isLargest = m_op == FilterOperator::Top;
+        return {FilterSql::isAmongFirst(m_dialect, field(), *m_scope.records, *count, isLargest), {}};
+    }
+
+    const Dialect &m_dialect;
+    const FilterChoice &m_choice;
+    const FilterScope &m_scope;
+    const FilterOperator m_op;
+};
 
 QString isEmpty(const Dialect &dialect, const FilterField &field, bool wanted)
 {
@@ -87,45 +176,25 @@ QString isEmpty(const Dialect &dialect, const FilterField &field, bool wanted)
 
 } // namespace
 
-FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked)
+FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked, const FilterScope &scope)
 {
-    FilterChoice choice = asked;
-    const bool asksForValue = choice.op != FilterOperator::IsEmpty && choice.op != FilterOperator::IsNotEmpty;
-    if (asksForValue && choice.field.fieldClass == FieldClass::Date)
-        choice.field.written = dateOperand(dialect, choice.field.written);
-    else if (asksForValue && choice.field.fieldClass == FieldClass::Moment)
-        choice.field.written = momentOperand(dialect, choice.field.written);
-    const FilterField &field = choice.field;
-    if (field.written.isEmpty())
+    if (asked.field.written.isEmpty())
         return {{}, FilterTexts::NoField};
-    switch (choice.op) {
-    case FilterOperator::IsEmpty:
-    case FilterOperator::IsNotEmpty:
-        return {isEmpty(dialect, field, choice.op == FilterOperator::IsEmpty), {}};
-    case FilterOperator::Between:
-        return between(dialect, choice);
-    case FilterOperator::InList:
-        return inList(dialect, choice);
-    default:
-        break;
-    }
-    const auto value = readFilterValue(dialect, field.fieldClass, choice.value);
-    if (!value || choice.value.isEmpty())
-        return {{}, whyNoFilterValue(field.fieldClass, choice.value)};
-    if (field.fieldClass == FieldClass::Boolean) {
-        const bool wanted = value->isTrue == (choice.op == FilterOperator::Equals);
-        return {isTrue(dialect, field.written, wanted), {}};
-    }
-    switch (choice.op) {
-    case FilterOperator::Contains:
-        return {like(dialect, field.written, choice.value, Anchor::None), {}};
-    case FilterOperator::BeginsWith:
-        return {like(dialect, field.written, choice.value, Anchor::Begin), {}};
-    case FilterOperator::EndsWith:
-        return {like(dialect, field.written, choice.value, Anchor::End), {}};
-    default:
-        return {compare(field.written, choice.op, *value), {}};
-    }
+    if (positiveOf(asked.op) == FilterOperator::IsEmpty)
+        return {isEmpty(dialect, asked.field, !asked.leavesOut()), {}};
+    FilterChoice choice = asked;
+    if (choice.field.fieldClass == FieldClass::Date)
+        choice.field.written = dateOperand(dialect, choice.field.written);
+    else if (choice.field.fieldClass == FieldClass::Moment)
+        choice.field.written = momentOperand(dialect, choice.field.written);
+    const Writer writer(dialect, choice, scope);
+    if (!choice.leavesOut())
+        return writer.positive();
+    FilterCondition condition = writer.negative();
+    // Null differs from nothing to a database, but to the user it is not the value that he leaves out.
+    if (condition.fault.isEmpty() && choice.includesNull)
+        condition.sql = u'(' + condition.sql + " OR "_L1 + asked.field.written + " IS NULL)"_L1;
+    return condition;
 }
 
 } // namespace KOVAVSFDataGridLib

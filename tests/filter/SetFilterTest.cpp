@@ -57,7 +57,7 @@ TEST_F(Builder, AFieldIsFoundByTheBeginningOfItsNameInChineseToo)
 {
     compose(combo("cmbField1"), u"下单"_s);
     EXPECT_EQ(combo("cmbField1").currentText(), u"下单日期"_s);
-    EXPECT_EQ(part<QLineEdit>(dialog, "txtValue1").placeholderText(), u"例如 2024-01-31"_s);
+    EXPECT_EQ(part<QLineEdit>(dialog, "txtValue1").placeholderText(), u"例如 2024-01-31、2024-03 或 本月"_s);
 }
 
 TEST_F(Builder, BetweenTakesTwoValues)
@@ -189,9 +189,10 @@ TEST_F(Builder, TheKeyboardWalksThroughItFromLeftToRight)
     choose("cmbOperator1", u"介于"_s);
     EXPECT_TRUE(QTest::qWaitFor([this] { return combo("cmbField2").isVisible(); }));
     part(dialog, "cmbOpen1").setFocus();
-    EXPECT_EQ(walkedByTab(dialog, 16),
-              "cmbOpen1 cmbField1 cmbOperator1 txtValue1 txtValue1b cmbClose1 cmbJoin1 cmdDeleteRow1 "
-              "cmbOpen2 cmbField2 cmbOperator2 txtValue2 cmbClose2 cmdDeleteRow2 cmdAddRow txtCondition");
+    EXPECT_EQ(
+        walkedByTab(dialog, 18),
+        "cmbOpen1 chkNot1 cmbField1 cmbOperator1 txtValue1 txtValue1b cmbClose1 cmbJoin1 cmdDeleteRow1 "
+        "cmbOpen2 chkNot2 cmbField2 cmbOperator2 txtValue2 cmbClose2 cmdDeleteRow2 cmdAddRow txtCondition");
     for (const char *name : {"cmbOpen1", "cmbField1", "cmbOperator1", "txtValue1", "txtValue1b", "cmbClose1",
                              "cmbJoin1", "cmdDeleteRow1", "txtCondition"})
         EXPECT_FALSE(part(dialog, name).accessibleName().isEmpty()) << name;
