@@ -270,6 +270,8 @@ bool FilterRow::setState(const FilterRowState &state)
     m_operator->setCurrentIndex(opIndex);
     m_value->setText(state.value);
     m_lastValue->setText(state.lastValue);
+    m_value->selectAll(); // what is typed next takes its place
+    m_lastValue->selectAll();
     m_not->setChecked(state.isNegated);
     m_withNull->setChecked(state.includesNull);
     setBrackets(state.opens, state.closes);
@@ -286,6 +288,7 @@ void FilterRow::suggest(const QString &field, const QString &value)
     if (valueCount(op()) == 0 || value.isEmpty())
         return;
     m_value->setText(value);
+    m_value->setFocus();
     m_value->selectAll();
     m_suggested = value;
 }

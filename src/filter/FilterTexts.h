@@ -92,6 +92,8 @@ inline const QString EndBeforeStart = u"结束值小于开始值。"_s;
 inline const QString UnmatchedBracket = u"括号不配对。"_s;
 
 // The builder
+inline const QString FieldMissing = u"这里没有该筛选用到的字段“%1”，或者不能这样比较它。"_s;
+inline const QString GiveUp = u"放弃已输入的条件吗？"_s;
 inline const QString AddRow = u"添加条件(&D)"_s;
 inline const QString Condition = u"条件语句(&T):"_s;
 inline const QString ConditionName = u"条件语句"_s;

@@ -25,6 +25,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString rowsKey = u"rows"_s;
+const QString conditionKey = u"condition"_s;
+
 // Shows that the user has to wait while it lives.
 struct WaitCursor
 {
@@ -142,6 +145,8 @@ void SetFilter::readFields()
     }
     m_hasFields = !context->fields.empty();
     context->dialect = m_source.dialect();
+    if (m_source.hasTable())
+        context->records = {m_source.fromText(), m_currentCondition};
     context->offerValues = [this](const FilterField &field, ValueEdit &edit) {
         offerValues(field, edit, FilterSource::mostValues);
     };
@@ -151,7 +156,41 @@ void SetFilter::readFields()
         m_rows->focusFirstPart();
     else
         m_condition->setFocus();
+    m_stateBefore = State();
     show(fault);
+}
+
+QJsonObject SetFilter::State() const
+{
+    if (m_isByHand)
+        return {{conditionKey, m_condition->text()}};
+    return {{rowsKey, toJson(m_rows->state())}};
+}
+
+void SetFilter::PutState(const QJsonObject &state)
+{
+    if (const QString condition = state[conditionKey].toString(); !condition.isEmpty()) {
+        m_condition->setText(condition);
+        onConditionEdited();
+    } else if (const auto rows = filterStateOf(state[rowsKey])) {
+        if (m_isByHand)
+            setByHand(false);
+        const auto missing = m_rows->setState(*rows);
+        if (missing)
+            show(FilterTexts::FieldMissing.arg(*missing));
+        else
+            m_rows->focusFirstPart();
+    }
+    // What is typed next takes its place.
+    m_condition->selectAll();
+    m_stateBefore = State();
+}
+
+void SetFilter::Suggest(const QString &field, const QString &value)
+{
+    m_rows->suggest(field, value);
+    m_condition->selectAll();
+    m_stateBefore = State();
 }
 
 void SetFilter::offerValues(const FilterField &field, ValueEdit &edit, int most)

@@ -3,9 +3,11 @@
 #include "filter/FilterTexts.h"
 #include "filter/SetFilter.h"
 #include "forms/FormTexts.h"
+#include "forms/Messages.h"
 #include "forms/widgets/GradualControl.h"
 
 #include <QtGui/QIcon>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -77,6 +79,15 @@ void frm_Filter::SetPicture(const QIcon &picture)
     constexpr int size = 16; // pixels at 96 DPI
     if (!picture.isNull())
         m_picture->setPixmap(picture.pixmap(QSize(size, size), devicePixelRatioF()));
+}
+
+// Esc is easily pressed by accident; the buttons are not.
+void frm_Filter::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Cancel) && m_builder->IsChanged() &&
+        !Messages::ask(this, FilterTexts::GiveUp, FilterTexts::Title, QMessageBox::Question, QMessageBox::No))
+        return;
+    QDialog::keyPressEvent(event);
 }
 
 void frm_Filter::filter()
