@@ -44,6 +44,7 @@ SetFilter::SetFilter(QWidget *parent)
       m_scroll(new QScrollArea(this)),
       m_rows(new FilterRows(m_scroll)),
       m_add(new FlatCmd(FilterTexts::AddRow, this)),
+      m_sentence(new QLabel(this)),
       m_condition(new QLineEdit(this)),
       m_backToRows(new FlatCmd(FilterTexts::BackToRows, this)),
       m_notice(new QLabel(this))
@@ -55,6 +56,14 @@ SetFilter::SetFilter(QWidget *parent)
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_add->setObjectName(u"cmdAddRow"_s);
+    m_sentence->setObjectName(u"lblSentence"_s);
+    m_sentence->setTextFormat(Qt::PlainText);
+    m_sentence->setWordWrap(true);
+    m_sentence->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_sentence->setFocusPolicy(Qt::NoFocus);
+    // A long sentence takes no room from the rows: its tool tip has all of it.
+    m_sentence->setFixedHeight(2 * fontMetrics().lineSpacing());
+    m_sentence->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_condition->setObjectName(u"txtCondition"_s);
     m_condition->setAccessibleName(FilterTexts::ConditionName);
     m_condition->setPlaceholderText(FilterTexts::ConditionHint);
@@ -80,7 +89,8 @@ void SetFilter::layOut()
     conditionLabel->setBuddy(m_condition);
     auto *addRow = new QHBoxLayout;
     addRow->addWidget(m_add);
-    addRow->addStretch();
+    addRow->addSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing));
+    addRow->addWidget(m_sentence, 1);
     auto *conditionRow = new QHBoxLayout;
     conditionRow->addWidget(conditionLabel);
     conditionRow->addWidget(m_condition, 1);
@@ -282,6 +292,8 @@ void SetFilter::onRowsChanged()
     if (m_isByHand)
         return;
     show({});
+    m_sentence->setText(m_rows->sentence());
+    m_sentence->setToolTip(m_sentence->text());
     m_condition->setText(m_rows->preview());
     m_condition->setToolTip(m_condition->text());
     m_condition->setCursorPosition(0);
@@ -306,6 +318,10 @@ void SetFilter::backToRows()
 void SetFilter::setByHand(bool isByHand)
 {
     m_isByHand = isByHand;
+    if (isByHand) {
+        m_sentence->clear(); // nobody knows what was typed
+        m_sentence->setToolTip({});
+    }
     m_backToRows->setVisible(isByHand);
     enableParts();
 }

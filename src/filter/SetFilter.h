@@ -91,6 +91,7 @@ private:
     QScrollArea *m_scroll;
     FilterRows *m_rows;
     QPushButton *m_add;
+    QLabel *m_sentence; // the rows in words
     QLineEdit *m_condition;
     QPushButton *m_backToRows;
     QLabel *m_notice;
