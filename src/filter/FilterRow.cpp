@@ -77,14 +77,15 @@ void FilterRow::makeParts()
 
 void FilterRow::layOut()
 {
-    // Widths that do not depend on a row's contents, so that the rows stand in columns.
+    // Small enough for a screen of 800 pixels; the dialog is wider where there is room. Widths that do not
+    // depend on a row's contents, so that the rows stand in columns.
     m_field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_field->setMinimumWidth(widthOfDigits(*this, 22));
+    m_field->setMinimumWidth(widthOfDigits(*this, 11));
     m_operator->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_operator->setMinimumContentsLength(8);
     m_operator->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto *values = new QWidget(this);
-    values->setMinimumWidth(widthOfDigits(*this, 56));
+    values->setMinimumWidth(widthOfDigits(*this, 36));
     auto *valueRow = new QHBoxLayout(values);
     valueRow->setContentsMargins({});
     valueRow->addWidget(m_value, 1);

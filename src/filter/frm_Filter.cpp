@@ -5,15 +5,19 @@
 #include "forms/FormTexts.h"
 #include "forms/Messages.h"
 #include "forms/widgets/GradualControl.h"
+#include "forms/widgets/TextWidth.h"
 
 #include <QtGui/QIcon>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QScreen>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
 
 namespace KOVAVSFDataGridLib {
 
@@ -51,7 +55,12 @@ frm_Filter::frm_Filter(QWidget *parent)
     rows->setContentsMargins({});
     rows->addWidget(makeBand());
     rows->addLayout(body);
-    resize(sizeHint().width(), fontMetrics().height() * 28);
+    // Comfortable for two dates and what stands around them, but never wider than the screen.
+    const int comfortable = widthOfDigits(*this, 130);
+    const int margins = 2 * margin;
+    resize(
+        std::max(sizeHint().width(), std::min(comfortable, screen()->availableGeometry().width() - margins)),
+        fontMetrics().height() * 28);
 
     connect(filter, &QPushButton::clicked, this, &frm_Filter::filter);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);

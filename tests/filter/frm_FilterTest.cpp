@@ -5,6 +5,7 @@
 #include "support/MessageAnswers.h"
 #include "support/TestDatabase.h"
 
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <gtest/gtest.h>
 
@@ -113,6 +114,16 @@ TEST_F(FilterForm, MnemonicsAddARowAndFilter)
     key(dialog, Qt::Key_F, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([this] { return !dialog.isVisible(); }));
     EXPECT_EQ(dialog.strFilterCondition(), u"ID = 3"_s);
+}
+
+TEST_F(FilterForm, ASmallScreenHoldsItWithItsWidestRow)
+{
+    part<QComboBox>(dialog, "cmbOperator1").setCurrentText(u"不介于"_s);
+    press(dialog, "cmdAddRow");
+    EXPECT_TRUE(part(dialog, "chkWithNull1").isVisible());
+    EXPECT_LE(dialog.minimumSizeHint().width(), 800);
+    EXPECT_LE(dialog.minimumSizeHint().height(), 600);
+    EXPECT_LE(dialog.height(), 600);
 }
 
 TEST_F(FilterForm, HasItsDecoration)
