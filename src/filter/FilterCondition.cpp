@@ -1,6 +1,5 @@
 #include "filter/FilterCondition.h"
 
-#include "filter/FilterSql.h"
 #include "filter/FilterTexts.h"
 #include "filter/FilterValue.h"
 #include "sql/Like.h"
@@ -45,90 +44,173 @@ QString compare(const QString &field, FilterOperator op, const FilterValue &valu
 {
     if (!value.shownAlike.isEmpty())
         return compareFloat(field, op, value);
-    const bool isDay = !value.nextDay.isEmpty();
+    const bool isRange = !value.nextDay.isEmpty();
     switch (op) {
     case FilterOperator::NotEquals:
-        return isDay ? u"(%1 < %2 OR %1 >= %3)"_s.arg(field, value.literal, value.nextDay)
-                     : field + " <> "_L1 + value.literal;
+        return isRange ? u"(%1 < %2 OR %1 >= %3)"_s.arg(field, value.literal, value.nextDay)
+                       : field + " <> "_L1 + value.literal;
     case FilterOperator::Greater:
-        return field + (isDay ? " >= "_L1 + value.nextDay : " > "_L1 + value.literal);
+        return field + (isRange ? " >= "_L1 + value.nextDay : " > "_L1 + value.literal);
     case FilterOperator::Less:
         return field + " < "_L1 + value.literal;
     case FilterOperator::AtLeast:
         return field + " >= "_L1 + value.literal;
     case FilterOperator::AtMost:
-        return field + (isDay ? " < "_L1 + value.nextDay : " <= "_L1 + value.literal);
+        return field + (isRange ? " < "_L1 + value.nextDay : " <= "_L1 + value.literal);
     default:
         return equals(field, value);
     }
 }
 
-// A fraction, or a computed number, is hardly ever exactly what is shown.
-std::optional<FilterValue> valueOf(const Dialect &dialect, const FilterField &field, const QString &typed)
+// Writes one choice, whose field is already written as it is compared.
+class Writer
 {
-    auto value = readFilterValue(dialect, field.fieldClass, typed);
-    const bool isWhole =
-        value && !value->literal.contains(u'.') && !value->literal.contains(u'e', Qt::CaseInsensitive);
-    if (value && field.floatSize && (!isWhole || field.isComputed))
-        value->shownAlike = rangeShownAs(value->literal, *field.floatSize, dialect.engine);
-    return value;
-}
-
-// SQLite takes every number for less than any text, so that a number is compared as what each value is.
-QString compareUntyped(const Dialect &dialect, const FilterField &field, FilterOperator op,
-                       const FilterValue &text, const QString &typed)
-{
-    const FilterField asNumber{field.caption, field.written, FieldClass::Number, FloatSize::Double, true};
-    const auto number = valueOf(dialect, asNumber, typed);
-    if (!number)
-        return compare(field.written, op, text);
-    return u"CASE typeof(%1) WHEN 'text' THEN %2 ELSE %3 END"_s.arg(
-        field.written, compare(field.written, op, text), compare(field.written, op, *number));
-}
-
-FilterCondition between(const Dialect &dialect, const FilterChoice &choice)
-{
-    const auto first = valueOf(dialect, choice.field, choice.value);
-    const auto last = valueOf(dialect, choice.field, choice.lastValue);
-    if (!first || choice.value.isEmpty())
-        return {{}, whyNoFilterValue(choice.field.fieldClass, choice.value)};
-    if (!last || choice.lastValue.isEmpty())
-        return {{}, whyNoFilterValue(choice.field.fieldClass, choice.lastValue), true};
-    // A day ends a moment before the next one.
-    constexpr double millisecondsToDayEnd = 24 * 60 * 60 * 1000 - 1;
-    const double lastExtent = last->nextDay.isEmpty() ? 0 : millisecondsToDayEnd;
-    if (first->rank && last->rank && *last->rank + lastExtent < *first->rank)
-        return {{}, FilterTexts::EndBeforeStart, true};
-    const auto bound = [&](FilterOperator op, const FilterValue &value, const QString &typed) {
-        return choice.field.isUntyped ? compareUntyped(dialect, choice.field, op, value, typed)
-                                      : compare(choice.field.written, op, value);
-    };
-    return {u'(' + bound(FilterOperator::AtLeast, *first, choice.value) + " AND "_L1 +
-                bound(FilterOperator::AtMost, *last, choice.lastValue) + u')',
-            {}};
-}
-
-FilterCondition inList(const Dialect &dialect, const FilterChoice &choice)
-{
-    QStringList literals;
-    QStringList days;
-    for (const QString &item : splitFilterList(choice.value)) {
-        const auto value = valueOf(dialect, choice.field, item);
-        if (!value)
-            return {{}, whyNoFilterValue(choice.field.fieldClass, item)};
-        if (choice.field.isUntyped)
-            days.append(compareUntyped(dialect, choice.field, FilterOperator::Equals, *value, item));
-        else if (value->nextDay.isEmpty() && value->shownAlike.isEmpty())
-            literals.append(value->literal);
-        else
-            days.append(equals(choice.field.written, *value));
+public:
+    Writer(const Dialect &dialect, const FilterChoice &choice, const FilterScope &scope)
+        : m_dialect(dialect), m_choice(choice), m_scope(scope), m_op(positiveOf(choice.op))
+    {
     }
-    if (!literals.isEmpty())
-        days.prepend(choice.field.written + " IN ("_L1 + literals.join(", "_L1) + u')');
-    if (days.isEmpty())
-        return {{}, FilterTexts::NoValue};
-    return {days.size() == 1 ? days.constFirst() : u'(' + days.join(" OR "_L1) + u')', {}};
-}
+
+    // As the operator's positive form selects.
+    FilterCondition positive() const
+    {
+        if (comparesRecords(m_op))
+            return amongRecords();
+        if (m_op == FilterOperator::Between)
+            return between();
+        if (m_op == FilterOperator::InList)
+            return inList();
+        const auto value = read(m_choice.value);
+        if (!value)
+            return faultOf(m_choice.value);
+        return {m_choice.field.fieldClass == FieldClass::Boolean ? isTrue(m_dialect, field(), value->isTrue)
+                                                                 : single(*value),
+                {}};
+    }
+
+    // The opposite, among the records that have a value.
+    FilterCondition negative() const
+    {
+        const FilterCondition selected = positive();
+        if (!selected.fault.isEmpty())
+            return selected;
+        if (m_op != FilterOperator::Equals)
+            return {"NOT ("_L1 + selected.sql + u')', {}};
+        const FilterValue value = read(m_choice.value).value_or(FilterValue());
+        return {m_choice.field.fieldClass == FieldClass::Boolean
+                    ? isTrue(m_dialect, field(), !value.isTrue)
+                    : compared(FilterOperator::NotEquals, value, m_choice.value),
+                {}};
+    }
+
+private:
+    const QString &field() const { return m_choice.field.written; }
+
+    std::optional<FilterValue> read(const QString &typed) const { return read(m_choice.field, typed); }
+
+    std::optional<FilterValue> read(const FilterField &field, const QString &typed) const
+    {
+        if (typed.isEmpty())
+            return std::nullopt;
+        auto value = readFilterValue(m_dialect, field.fieldClass, typed, m_scope.today);
+        // A fraction, or a computed number, is hardly ever exactly what is shown.
+        const bool isWhole =
+            value && !value->literal.contains(u'.') && !value->literal.contains(u'e', Qt::CaseInsensitive);
+        if (value && field.floatSize && (!isWhole || field.isComputed))
+            value->shownAlike = rangeShownAs(value->literal, *field.floatSize, m_dialect.engine);
+        return value;
+    }
+
+    // SQLite takes every number for less than any text, so that a number is compared as what each value of an
+    // untyped field is.
+    QString compared(FilterOperator op, const FilterValue &value, const QString &typed) const
+    {
+        if (!m_choice.field.isUntyped)
+            return compare(field(), op, value);
+        const FilterField asNumber{m_choice.field.caption, field(), FieldClass::Number, FloatSize::Double,
+                                   true};
+        const auto number = read(asNumber, typed);
+        return number ? u"CASE typeof(%1) WHEN 'text' THEN %2 ELSE %3 END"_s.arg(
+                            field(), compare(field(), op, value), compare(field(), op, *number))
+                      : compare(field(), op, value);
+    }
+
+    FilterCondition faultOf(const QString &typed, bool isLastValue = false) const
+    {
+        return {{}, whyNoFilterValue(m_choice.field.fieldClass, typed), isLastValue};
+    }
+
+    QString single(const FilterValue &value) const
+    {
+        switch (m_op) {
+        case FilterOperator::Contains:
+            return like(m_dialect, field(), m_choice.value, Anchor::None);
+        case FilterOperator::BeginsWith:
+            return like(m_dialect, field(), m_choice.value, Anchor::Begin);
+        case FilterOperator::EndsWith:
+            return like(m_dialect, field(), m_choice.value, Anchor::End);
+        default:
+            return compared(m_op, value, m_choice.value);
+        }
+    }
+
+    FilterCondition between() const
+    {
+        const auto first = read(m_choice.value);
+        const auto last = read(m_choice.lastValue);
+        if (!first)
+            return faultOf(m_choice.value);
+        if (!last)
+            return faultOf(m_choice.lastValue, true);
+        if (first->rank && last->lastRank && *last->lastRank < *first->rank)
+            return {{}, FilterTexts::EndBeforeStart, true};
+        return {u'(' + compared(FilterOperator::AtLeast, *first, m_choice.value) + " AND "_L1 +
+                    compared(FilterOperator::AtMost, *last, m_choice.lastValue) + u')',
+                {}};
+    }
+
+    FilterCondition inList() const
+    {
+        QStringList literals;
+        QStringList ranges;
+        for (const QString &item : splitFilterList(m_choice.value)) {
+            const auto value = read(item);
+            if (!value)
+                return faultOf(item);
+            if (m_choice.field.isUntyped)
+                ranges.append(compared(FilterOperator::Equals, *value, item));
+            else if (value->nextDay.isEmpty() && value->shownAlike.isEmpty())
+                literals.append(value->literal);
+            else
+                ranges.append(equals(field(), *value));
+        }
+        if (!literals.isEmpty())
+            ranges.prepend(field() + " IN ("_L1 + literals.join(", "_L1) + u')');
+        if (ranges.isEmpty())
+            return {{}, FilterTexts::NoValue};
+        return {ranges.size() == 1 ? ranges.constFirst() : u'(' + ranges.join(" OR "_L1) + u')', {}};
+    }
+
+    FilterCondition amongRecords() const
+    {
+        if (!m_scope.records)
+            return {{}, FilterTexts::NoRecords};
+        if (!takesCount(m_op))
+            return {FilterSql::isDuplicated(field(), *m_scope.records), {}};
+        const auto count = readFilterCount(m_choice.value);
+        if (!count)
+            return {{},
+                    m_choice.value.trimmed().isEmpty() ? FilterTexts::NoValue
+                                                       : FilterTexts::NoCount.arg(m_choice.value)};
+        const bool isLargest = m_op == FilterOperator::Top;
+        return {FilterSql::isAmongFirst(m_dialect, field(), *m_scope.records, *count, isLargest), {}};
+    }
+
+    const Dialect &m_dialect;
+    const FilterChoice &m_choice;
+    const FilterScope &m_scope;
+    const FilterOperator m_op;
+};
 
 QString isEmpty(const Dialect &dialect, const FilterField &field, bool wanted)
 {
@@ -139,51 +221,29 @@ QString isEmpty(const Dialect &dialect, const FilterField &field, bool wanted)
 
 } // namespace
 
-FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked)
+FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked, const FilterScope &scope)
 {
+    if (asked.field.written.isEmpty())
+        return {{}, FilterTexts::NoField};
+    if (positiveOf(asked.op) == FilterOperator::IsEmpty)
+        return {isEmpty(dialect, asked.field, !asked.leavesOut()), {}};
     FilterChoice choice = asked;
     // SQLite's days can have a time as well.
     if (choice.field.fieldClass == FieldClass::Date && dialect.engine == Engine::SQLite && !dialect.isOdbc &&
         (hasTimeOfDay(choice.value) || hasTimeOfDay(choice.lastValue)))
         choice.field.fieldClass = FieldClass::Moment;
-    const bool asksForValue = choice.op != FilterOperator::IsEmpty && choice.op != FilterOperator::IsNotEmpty;
-    if (asksForValue && choice.field.fieldClass == FieldClass::Date)
+    if (choice.field.fieldClass == FieldClass::Date)
         choice.field.written = dateOperand(dialect, choice.field.written);
-    else if (asksForValue && choice.field.fieldClass == FieldClass::Moment)
+    else if (choice.field.fieldClass == FieldClass::Moment)
         choice.field.written = momentOperand(dialect, choice.field.written);
-    const FilterField &field = choice.field;
-    if (field.written.isEmpty())
-        return {{}, FilterTexts::NoField};
-    switch (choice.op) {
-    case FilterOperator::IsEmpty:
-    case FilterOperator::IsNotEmpty:
-        return {isEmpty(dialect, field, choice.op == FilterOperator::IsEmpty), {}};
-    case FilterOperator::Between:
-        return between(dialect, choice);
-    case FilterOperator::InList:
-        return inList(dialect, choice);
-    default:
-        break;
-    }
-    const auto value = valueOf(dialect, field, choice.value);
-    if (!value || choice.value.isEmpty())
-        return {{}, whyNoFilterValue(field.fieldClass, choice.value)};
-    if (field.fieldClass == FieldClass::Boolean) {
-        const bool wanted = value->isTrue == (choice.op == FilterOperator::Equals);
-        return {isTrue(dialect, field.written, wanted), {}};
-    }
-    switch (choice.op) {
-    case FilterOperator::Contains:
-        return {like(dialect, field.written, choice.value, Anchor::None), {}};
-    case FilterOperator::BeginsWith:
-        return {like(dialect, field.written, choice.value, Anchor::Begin), {}};
-    case FilterOperator::EndsWith:
-        return {like(dialect, field.written, choice.value, Anchor::End), {}};
-    default:
-        return {field.isUntyped ? compareUntyped(dialect, field, choice.op, *value, choice.value)
-                                : compare(field.written, choice.op, *value),
-                {}};
-    }
+    const Writer writer(dialect, choice, scope);
+    if (!choice.leavesOut())
+        return writer.positive();
+    FilterCondition condition = writer.negative();
+    // Null differs from nothing to a database, but to the user it is not the value that he leaves out.
+    if (condition.fault.isEmpty() && choice.includesNull)
+        condition.sql = u'(' + condition.sql + " OR "_L1 + asked.field.written + " IS NULL)"_L1;
+    return condition;
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -1,8 +1,13 @@
 #pragma once
 
 #include "filter/FilterOperator.h"
+#include "filter/FilterSql.h"
 #include "sql/Engine.h"
 #include "sql/Literals.h"
+
+#include <optional>
+
+#include <QtCore/QDate>
 
 #include <optional>
 
@@ -25,6 +30,23 @@ struct FilterChoice
     FilterOperator op = FilterOperator::Equals;
     QString value;
     QString lastValue; // of "between"
+    bool isNegated = false;
+    // Whether records without a value are selected too, where the values named are left out.
+    bool includesNull = true;
+
+    // Whether the values named are left out: by the operator, or by the negation of one that selects them.
+    bool leavesOut() const { return isNegative(op) != isNegated; }
+    // Whether includesNull has a meaning.
+    bool asksForNull() const { return leavesOut() && positiveOf(op) != FilterOperator::IsEmpty; }
+};
+
+// What conditions are written for.
+struct FilterScope
+{
+    QDate today = QDate::currentDate();
+    // The records that operators compare with each other. Without them, a condition that needs them is at
+    // fault.
+    std::optional<FilterSql::Records> records = {};
 };
 
 // A condition, or in one line why there is none.
@@ -35,6 +57,7 @@ struct FilterCondition
     bool isLastValueAtFault = false; // rather than the only or the first one
 };
 
-FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &choice);
+FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &choice,
+                            const FilterScope &scope = {});
 
 } // namespace KOVAVSFDataGridLib

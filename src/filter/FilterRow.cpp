@@ -6,6 +6,7 @@
 #include "forms/widgets/TextWidth.h"
 
 #include <QtCore/QSignalBlocker>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHBoxLayout>
@@ -20,11 +21,13 @@ FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *p
     : QWidget(parent),
       m_context(std::move(context)),
       m_opens(makeBrackets(u'(', FilterTexts::OpenBracket)),
+      m_not(new QCheckBox(FilterTexts::Not, this)),
       m_field(new FieldCombo(this)),
       m_operator(new QComboBox(this)),
       m_value(makeValue(FilterTexts::Value)),
       m_to(new QLabel(FilterTexts::To, this)),
       m_lastValue(makeValue(FilterTexts::LastValue)),
+      m_withNull(new QCheckBox(FilterTexts::WithNull, this)),
       m_closes(makeBrackets(u')', FilterTexts::CloseBracket)),
       m_join(new QComboBox(this)),
       m_delete(new QToolButton(this)),
@@ -35,6 +38,8 @@ FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *p
     layOut();
     connect(m_field, &QComboBox::currentIndexChanged, this, &FilterRow::onFieldChanged);
     connect(m_operator, &QComboBox::currentIndexChanged, this, &FilterRow::onOperatorChanged);
+    connect(m_not, &QCheckBox::toggled, this, &FilterRow::onNegated);
+    connect(m_withNull, &QCheckBox::toggled, this, &FilterRow::changed);
     connect(m_join, &QComboBox::currentIndexChanged, this, &FilterRow::changed);
     connect(m_delete, &QToolButton::clicked, this, &FilterRow::deleteRequested);
     onFieldChanged();
@@ -45,8 +50,13 @@ void FilterRow::makeParts()
     m_field->setAccessibleName(FilterTexts::Field);
     for (const FilterField &field : m_context->fields)
         m_field->addItem(field.caption);
+    m_not->setToolTip(FilterTexts::NotTip);
+    m_not->setAccessibleDescription(FilterTexts::NotTip);
+    m_withNull->setToolTip(FilterTexts::WithNullTip);
+    m_withNull->setAccessibleDescription(FilterTexts::WithNullTip);
+    m_withNull->setChecked(true);
     m_operator->setAccessibleName(FilterTexts::Operator);
-    m_operator->setMaxVisibleItems(15);
+    m_operator->setMaxVisibleItems(21);
     m_join->setAccessibleName(FilterTexts::Join);
     m_join->setToolTip(FilterTexts::Join);
     m_join->addItems({FilterTexts::And, FilterTexts::Or});
@@ -67,9 +77,10 @@ void FilterRow::makeParts()
 
 void FilterRow::layOut()
 {
-    // Widths that do not depend on a row's contents, so that the rows stand in columns.
+    // Small enough for a screen of 800 pixels; the dialog is wider where there is room. Widths that do not
+    // depend on a row's contents, so that the rows stand in columns.
     m_field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_field->setMinimumWidth(widthOfDigits(*this, 22));
+    m_field->setMinimumWidth(widthOfDigits(*this, 11));
     m_operator->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_operator->setMinimumContentsLength(8);
     m_operator->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -80,6 +91,7 @@ void FilterRow::layOut()
     valueRow->addWidget(m_value, 1);
     valueRow->addWidget(m_to);
     valueRow->addWidget(m_lastValue, 1);
+    valueRow->addWidget(m_withNull);
     QSizePolicy staying = m_join->sizePolicy();
     staying.setRetainSizeWhenHidden(true);
     m_join->setSizePolicy(staying);
@@ -88,11 +100,11 @@ void FilterRow::layOut()
     grid->setContentsMargins({});
     grid->setVerticalSpacing(2);
     int column = 0;
-    for (QWidget *part :
-         std::initializer_list<QWidget *>{m_opens, m_field, m_operator, values, m_closes, m_join, m_delete})
+    for (QWidget *part : std::initializer_list<QWidget *>{m_opens, m_not, m_field, m_operator, values,
+                                                          m_closes, m_join, m_delete})
         grid->addWidget(part, 0, column++);
-    constexpr int fieldColumn = 1;
-    constexpr int valueColumn = 3;
+    constexpr int fieldColumn = 2;
+    constexpr int valueColumn = 4;
     grid->setColumnStretch(fieldColumn, 3);
     grid->setColumnStretch(valueColumn, 5);
     grid->addWidget(m_fault, 1, fieldColumn, 1, column - fieldColumn);
@@ -123,6 +135,8 @@ void FilterRow::setNumber(int number)
 {
     const QString suffix = QString::number(number);
     m_opens->setObjectName(u"cmbOpen"_s + suffix);
+    m_not->setObjectName(u"chkNot"_s + suffix);
+    m_withNull->setObjectName(u"chkWithNull"_s + suffix);
     m_field->setObjectName(u"cmbField"_s + suffix);
     m_operator->setObjectName(u"cmbOperator"_s + suffix);
     m_value->setObjectName(u"txtValue"_s + suffix);
@@ -142,8 +156,9 @@ void FilterRow::setPlace(bool isLast, bool isOnly)
 void FilterRow::followInTabOrder(const FilterRow &previous)
 {
     QWidget *last = previous.m_delete;
-    for (QWidget *part : std::initializer_list<QWidget *>{m_opens, m_field, m_operator, m_value, m_lastValue,
-                                                          m_closes, m_join, m_delete}) {
+    for (QWidget *part :
+         std::initializer_list<QWidget *>{m_opens, m_not, m_field, m_operator, m_value, m_lastValue,
+                                          m_withNull, m_closes, m_join, m_delete}) {
         setTabOrder(last, part);
         last = part;
     }
@@ -166,10 +181,16 @@ void FilterRow::onFieldChanged()
     {
         const QSignalBlocker quiet(m_operator);
         m_operator->clear();
-        for (const FilterOperator offered : operatorsFor(field().fieldClass))
-            m_operator->addItem(captionOf(offered), static_cast<int>(offered));
+        for (const FilterOperator offered : operatorsFor(field().fieldClass)) {
+            if (m_context->records || !comparesRecords(offered))
+                m_operator->addItem(captionOf(offered), static_cast<int>(offered));
+        }
         m_operator->setCurrentIndex(std::max(0, m_operator->findData(previous)));
     }
+    // Another field has other values.
+    if (!m_suggested.isEmpty() && m_value->text() == m_suggested)
+        m_value->clear();
+    m_suggested.clear();
     onOperatorChanged();
 }
 
@@ -179,8 +200,17 @@ void FilterRow::onOperatorChanged()
     m_value->setVisible(count >= 1);
     m_to->setVisible(count == 2);
     m_lastValue->setVisible(count == 2);
-    m_value->setKind(field().fieldClass, op() == FilterOperator::InList);
+    if (takesCount(op()))
+        m_value->setCount();
+    else
+        m_value->setKind(field().fieldClass, positiveOf(op()) == FilterOperator::InList);
     m_lastValue->setKind(field().fieldClass, false);
+    onNegated();
+}
+
+void FilterRow::onNegated()
+{
+    m_withNull->setVisible(choice().asksForNull());
     onEdited();
 }
 
@@ -205,7 +235,63 @@ void FilterRow::onEditingFinished()
 
 FilterCondition FilterRow::condition() const
 {
-    return conditionOf(m_context->dialect, {field(), op(), m_value->text(), m_lastValue->text()});
+    return conditionOf(m_context->dialect, choice(), m_context->scope());
+}
+
+FilterChoice FilterRow::choice() const
+{
+    return {field(), op(), m_value->text(), m_lastValue->text(), m_not->isChecked(), m_withNull->isChecked()};
+}
+
+FilterRowState FilterRow::state() const
+{
+    return {.field = m_field->currentText(),
+            .op = op(),
+            .value = m_value->text(),
+            .lastValue = m_lastValue->text(),
+            .isNegated = m_not->isChecked(),
+            .includesNull = m_withNull->isChecked(),
+            .opens = m_opens->currentIndex(),
+            .closes = m_closes->currentIndex(),
+            .orNext = m_join->currentIndex() == 1};
+}
+
+bool FilterRow::setState(const FilterRowState &state)
+{
+    const int fieldIndex = m_field->findText(state.field, Qt::MatchFixedString | Qt::MatchCaseSensitive);
+    if (fieldIndex < 0)
+        return false;
+    const int fieldBefore = m_field->currentIndex();
+    m_field->setCurrentIndex(fieldIndex);
+    const int opIndex = m_operator->findData(static_cast<int>(state.op));
+    if (opIndex < 0) {
+        m_field->setCurrentIndex(fieldBefore);
+        return false;
+    }
+    m_operator->setCurrentIndex(opIndex);
+    m_value->setText(state.value);
+    m_lastValue->setText(state.lastValue);
+    m_value->selectAll(); // what is typed next takes its place
+    m_lastValue->selectAll();
+    m_not->setChecked(state.isNegated);
+    m_withNull->setChecked(state.includesNull);
+    setBrackets(state.opens, state.closes);
+    m_join->setCurrentIndex(state.orNext ? 1 : 0);
+    return true;
+}
+
+void FilterRow::suggest(const QString &field, const QString &value)
+{
+    const int index = m_field->findText(field, Qt::MatchFixedString | Qt::MatchCaseSensitive);
+    if (index < 0)
+        return;
+    m_field->setCurrentIndex(index);
+    if (valueCount(op()) == 0 || value.isEmpty())
+        return;
+    m_value->setText(value);
+    m_value->setFocus();
+    m_value->selectAll();
+    m_suggested = value;
 }
 
 FilterCondition FilterRow::checkedCondition()

@@ -2,6 +2,7 @@
 
 #include "filter/FilterCondition.h"
 #include "filter/FilterSql.h"
+#include "filter/FilterState.h"
 
 #include <QtWidgets/QWidget>
 
@@ -9,6 +10,7 @@
 #include <memory>
 #include <vector>
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QToolButton;
@@ -24,6 +26,11 @@ struct FilterRowContext
     Dialect dialect;
     // Shows the values that a field has in a list of the editor; see ValueEdit.
     std::function<void(const FilterField &, ValueEdit &)> offerValues;
+    // The records that are filtered; without them no operator compares records.
+    std::optional<FilterSql::Records> records = {};
+    std::function<QDate()> today = QDate::currentDate;
+
+    FilterScope scope() const { return {today(), records}; }
 };
 
 // One condition: brackets, field, operator, values, and how it goes on with the next one.
@@ -43,6 +50,13 @@ public:
     // The tab key walks through this row after the other one.
     void followInTabOrder(const FilterRow &previous);
 
+    // What the row holds now, and the same put into it. False, and the row stays as it is, when its field or
+    // operator isn't offered.
+    FilterRowState state() const;
+    bool setState(const FilterRowState &state);
+    FilterChoice choice() const;
+    // Puts a value into the row that the next text typed replaces.
+    void suggest(const QString &field, const QString &value);
     // The row's condition as it stands now; without touching what is shown.
     FilterCondition condition() const;
     // The same, and shows what is wrong with it.
@@ -69,6 +83,7 @@ private:
     void onFieldChanged();
     void onOperatorChanged();
     void onEdited();
+    void onNegated();
     void onEditingFinished();
     FilterField field() const;
     FilterOperator op() const;
@@ -76,16 +91,19 @@ private:
 
     std::shared_ptr<const FilterRowContext> m_context;
     QComboBox *m_opens;
+    QCheckBox *m_not;
     QComboBox *m_field;
     QComboBox *m_operator;
     ValueEdit *m_value;
     QLabel *m_to;
     ValueEdit *m_lastValue;
+    QCheckBox *m_withNull;
     QComboBox *m_closes;
     QComboBox *m_join;
     QToolButton *m_delete;
     QLabel *m_fault;
     ValueEdit *m_valueAtFault; // what was last found wrong
+    QString m_suggested;       // the value that suggest() put in
 };
 
 } // namespace KOVAVSFDataGridLib

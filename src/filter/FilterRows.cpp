@@ -1,5 +1,6 @@
 #include "filter/FilterRows.h"
 
+#include "filter/FilterSentence.h"
 #include "filter/FilterTexts.h"
 
 #include <QtWidgets/QVBoxLayout>
@@ -81,6 +82,54 @@ void FilterRows::onRowChanged()
     for (FilterRow *row : std::as_const(m_rows))
         row->clearBracketFault();
     Q_EMIT changed();
+}
+
+FilterState FilterRows::state() const
+{
+    FilterState state;
+    for (const FilterRow *row : m_rows)
+        state.append(row->state());
+    return state;
+}
+
+std::optional<QString> FilterRows::setState(const FilterState &state)
+{
+    const qsizetype before = m_rows.size();
+    std::optional<QString> missing;
+    for (const FilterRowState &each : state) {
+        if (!add()->setState(each)) {
+            missing = each.field;
+            break;
+        }
+    }
+    // Either those before or those just made go.
+    const qsizetype first = missing ? before : 0;
+    const qsizetype count = missing ? m_rows.size() - before : before;
+    for (FilterRow *gone : m_rows.mid(first, count)) {
+        m_rows.removeOne(gone);
+        delete gone;
+    }
+    arrange();
+    return missing;
+}
+
+void FilterRows::suggest(const QString &field, const QString &value)
+{
+    m_rows.constFirst()->suggest(field, value);
+}
+
+QString FilterRows::sentence() const
+{
+    QList<SentenceTerm> terms;
+    QList<FilterSql::Term> frames;
+    for (const FilterRow *row : m_rows) {
+        if (row->condition().sql.isEmpty())
+            continue;
+        const FilterSql::Term frame = row->frame();
+        terms.append({row->choice(), frame.opens, frame.closes, frame.orNext});
+        frames.append(frame);
+    }
+    return FilterSql::unmatchedBracket(frames) < 0 ? sentenceOf(terms, m_context->today()) : QString();
 }
 
 QString FilterRows::preview() const

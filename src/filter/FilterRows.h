@@ -19,6 +19,15 @@ public:
     FilterRow *add();
     void focusFirstPart();
 
+    // What the rows hold, and the same put into as many rows. When a field or its operator isn't offered, the
+    // field is answered and the rows stay as they are.
+    FilterState state() const;
+    std::optional<QString> setState(const FilterState &state);
+    // Puts a value into the first row that the next text typed replaces.
+    void suggest(const QString &field, const QString &value);
+    // The complete rows as a sentence; empty while their brackets don't match.
+    QString sentence() const;
+
     // The rows that are complete, joined.
     QString preview() const;
     // All rows joined; empty, with the rows at fault marked and the first of them given the keyboard, when

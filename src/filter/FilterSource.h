@@ -35,6 +35,8 @@ public:
     void setResult(const FilteredResult &result);
 
     bool hasTable() const { return !m_fromText.isEmpty(); }
+    // As conditions can select from it once more. A WITH is left to the statement around them.
+    const QString &fromText() const { return m_fromText; }
     // How conditions are written. What the database has to be asked for is known once readFields() was
     // called.
     Dialect dialect() const;

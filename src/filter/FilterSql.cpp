@@ -6,6 +6,18 @@ namespace KOVAVSFDataGridLib::FilterSql {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// The words of inner SELECTs follow line breaks, so that text work on a statement finds only the outer ones.
+QString fromRecords(const Records &records, const QString &field)
+{
+    const QString restricted =
+        records.condition.isEmpty() ? QString() : u'(' + records.condition + ") AND "_L1;
+    return "\nFROM "_L1 + records.source + "\nWHERE "_L1 + restricted + field + " IS NOT NULL"_L1;
+}
+
+} // namespace
+
 QString distinctValues(const Dialect &dialect, const QString &field, const QString &table, int count)
 {
     return u"SELECT DISTINCT "_s + field + " FROM "_L1 + table + " WHERE "_L1 + field +
@@ -27,6 +39,23 @@ QString sampleOfValues(const Dialect &dialect, const QString &field, const QStri
                           " IS NOT NULL"_L1 + order + u' ' + rowLimit(dialect, records);
     return u"SELECT DISTINCT kova_value FROM ("_s + first + ") kova_first ORDER BY kova_value"_L1 + u' ' +
            rowLimit(dialect, count);
+}
+
+QString isDuplicated(const QString &field, const Records &records)
+{
+    return field + " IN (SELECT "_L1 + field + fromRecords(records, field) + " GROUP BY "_L1 + field +
+           " HAVING COUNT(*) > 1)"_L1;
+}
+
+QString isAmongFirst(const Dialect &dialect, const QString &field, const Records &records, int count,
+                     bool isLargest)
+{
+    const bool isAccessItself = dialect.isOdbc && dialect.engine == Engine::Access;
+    const QString top = isAccessItself ? u"TOP %1 "_s.arg(count) : QString();
+    // A table of its own, because MariaDB limits no SELECT that IN reads directly.
+    return field + " IN (SELECT KovaValue\nFROM (SELECT "_L1 + top + field + " AS KovaValue"_L1 +
+           fromRecords(records, field) + "\nORDER BY "_L1 + field + (isLargest ? " DESC"_L1 : ""_L1) +
+           (isAccessItself ? QString() : u' ' + rowLimit(dialect, count)) + ") KovaFirst)"_L1;
 }
 
 QString join(const QList<Term> &terms)

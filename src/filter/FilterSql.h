@@ -18,6 +18,19 @@ QString countOfDistinctValues(const QString &field, const QString &table);
 QString sampleOfValues(const Dialect &dialect, const QString &field, const QString &table, int count,
                        int records);
 
+// The records that a condition compares with each other.
+struct Records
+{
+    QString source;    // as it follows FROM
+    QString condition; // that restricts them; may be empty
+};
+
+// A field whose value several of these records have, or that has one of their `count` largest or smallest
+// values.
+QString isDuplicated(const QString &field, const Records &records);
+QString isAmongFirst(const Dialect &dialect, const QString &field, const Records &records, int count,
+                     bool isLargest);
+
 // One condition of several.
 struct Term
 {

@@ -1,5 +1,6 @@
 #include "filter/FilterValue.h"
 
+#include "filter/FilterDays.h"
 #include "filter/FilterTexts.h"
 #include "sql/Literals.h"
 
@@ -23,7 +24,8 @@ std::optional<FilterValue> readNumber(const QString &typed)
     if (!match.hasMatch())
         return std::nullopt;
     // Written as typed, so that no digit of a long number is lost.
-    return FilterValue{.literal = match.captured(1), .rank = match.captured(1).toDouble()};
+    const double number = match.captured(1).toDouble();
+    return FilterValue{.literal = match.captured(1), .rank = number, .lastRank = number};
 }
 
 std::optional<FilterValue> readBoolean(const QString &typed)
@@ -34,18 +36,6 @@ std::optional<FilterValue> readBoolean(const QString &typed)
     if (!yes.contains(text) && !no.contains(text))
         return std::nullopt;
     return FilterValue{.isTrue = yes.contains(text)};
-}
-
-// Invalid when the text is no day.
-QDate readDate(const QString &text)
-{
-    static const QRegularExpression form(
-        uR"(\A([0-9]{4})(?:[-/.年]([0-9]{1,2})[-/.月]([0-9]{1,2})日?|([0-9]{2})([0-9]{2}))\z)"_s);
-    const auto match = form.match(text);
-    const int first = match.lastCapturedIndex() == 5 ? 4 : 2;
-    return match.hasMatch() ? QDate(match.captured(1).toInt(), match.captured(first).toInt(),
-                                    match.captured(first + 1).toInt())
-                            : QDate();
 }
 
 QTime readTime(const QString &text)
@@ -74,32 +64,43 @@ DayAndRest splitMoment(const QString &typed)
 {
     static const QRegularExpression form(u"\\A([^ T]*)(?:[ T]+(.*))?\\z"_s);
     const auto match = form.match(narrow(typed));
-    return {readDate(match.captured(1)), match.captured(2)};
+    // Relative days and months are no one day, whatever day it is today.
+    const auto days = readDays(match.captured(1), {});
+    const bool isDay = days && days->first.addDays(1) == days->end;
+    return {isDay ? days->first : QDate(), match.captured(2)};
 }
 
-std::optional<FilterValue> readMoment(const Dialect &dialect, const QString &typed)
+std::optional<FilterValue> readMoment(const Dialect &dialect, const QString &typed, QDate today)
 {
-    const auto [day, rest] = splitMoment(typed);
-    if (!day.isValid())
-        return std::nullopt;
-    if (rest.isEmpty()) {
-        return FilterValue{.literal = dateLiteral(dialect, day),
-                           .nextDay = dateLiteral(dialect, day.addDays(1)),
-                           .rank = rankOf(day.startOfDay(Qt::UTC))};
+    if (const auto days = readDays(typed, today)) {
+        return FilterValue{.literal = dateLiteral(dialect, days->first),
+                           .nextDay = dateLiteral(dialect, days->end),
+                           .rank = rankOf(days->first.startOfDay(Qt::UTC)),
+                           .lastRank = rankOf(days->end.startOfDay(Qt::UTC)) - 1};
     }
+    const auto [day, rest] = splitMoment(typed);
     const QTime time = readTime(rest);
-    if (!time.isValid())
+    if (!day.isValid() || !time.isValid())
         return std::nullopt;
     const QDateTime moment(day, time, Qt::UTC);
-    return FilterValue{.literal = momentLiteral(dialect, moment), .rank = rankOf(moment)};
+    return FilterValue{
+        .literal = momentLiteral(dialect, moment), .rank = rankOf(moment), .lastRank = rankOf(moment)};
 }
 
-std::optional<FilterValue> readDay(const Dialect &dialect, const QString &typed)
+std::optional<FilterValue> readDate(const Dialect &dialect, const QString &typed, QDate today)
 {
-    const auto [day, rest] = splitMoment(typed);
-    if (!day.isValid() || (!rest.isEmpty() && readTime(rest) != QTime(0, 0)))
-        return std::nullopt;
-    return FilterValue{.literal = dateLiteral(dialect, day), .rank = static_cast<double>(day.toJulianDay())};
+    auto days = readDays(typed, today);
+    if (!days) {
+        const auto [day, rest] = splitMoment(typed);
+        if (!day.isValid() || rest.isEmpty() || readTime(rest) != QTime(0, 0))
+            return std::nullopt;
+        days = {day, day.addDays(1)};
+    }
+    const bool isOneDay = days->first.addDays(1) == days->end;
+    return FilterValue{.literal = dateLiteral(dialect, days->first),
+                       .nextDay = isOneDay ? QString() : dateLiteral(dialect, days->end),
+                       .rank = static_cast<double>(days->first.toJulianDay()),
+                       .lastRank = static_cast<double>(days->end.toJulianDay() - 1)};
 }
 
 std::optional<FilterValue> readTimeOfDay(const Dialect &dialect, const QString &typed)
@@ -108,13 +109,14 @@ std::optional<FilterValue> readTimeOfDay(const Dialect &dialect, const QString &
     if (!time.isValid())
         return std::nullopt;
     return FilterValue{.literal = timeLiteral(dialect, time),
-                       .rank = static_cast<double>(time.msecsSinceStartOfDay())};
+                       .rank = static_cast<double>(time.msecsSinceStartOfDay()),
+                       .lastRank = static_cast<double>(time.msecsSinceStartOfDay())};
 }
 
 } // namespace
 
 std::optional<FilterValue> readFilterValue(const Dialect &dialect, FieldClass fieldClass,
-                                           const QString &typed)
+                                           const QString &typed, QDate today)
 {
     switch (fieldClass) {
     case FieldClass::Text:
@@ -124,15 +126,22 @@ std::optional<FilterValue> readFilterValue(const Dialect &dialect, FieldClass fi
     case FieldClass::Boolean:
         return readBoolean(typed);
     case FieldClass::Date:
-        return readDay(dialect, typed);
+        return readDate(dialect, typed, today);
     case FieldClass::Time:
         return readTimeOfDay(dialect, typed);
     case FieldClass::Moment:
-        return readMoment(dialect, typed);
+        return readMoment(dialect, typed, today);
     case FieldClass::Other:
         return std::nullopt;
     }
     Q_UNREACHABLE();
+}
+
+std::optional<int> readFilterCount(const QString &typed)
+{
+    bool isNumber = false;
+    const int count = narrow(typed).toInt(&isNumber);
+    return isNumber && count >= 1 ? std::optional(count) : std::nullopt;
 }
 
 QDate dayOf(const QString &typed)
@@ -167,7 +176,8 @@ QString whyNoFilterValue(FieldClass fieldClass, const QString &typed)
 
 QStringList splitFilterList(const QString &typed)
 {
-    static const QRegularExpression item(uR"-(\s*(?:"((?:[^"]|"")*)"|([^,，]*?))\s*(?:[,，]|\z))-"_s);
+    static const QRegularExpression item(
+        uR"-(\s*(?:"((?:[^"]|"")*)"|([^,，、；\t\r\n\x{2028}\x{2029}]*?))[^\S\t\r\n]*(?:[,，、；\t\r\n\x{2028}\x{2029}]|\z))-"_s);
     QStringList values;
     for (auto found = item.globalMatch(typed); found.hasNext();) {
         const auto match = found.next();
@@ -180,8 +190,8 @@ QStringList splitFilterList(const QString &typed)
 
 QString filterListItem(const QString &value)
 {
-    const bool isPlain =
-        !value.contains(u',') && !value.contains(u'，') && !value.contains(u'"') && value.trimmed() == value;
+    static const QRegularExpression special(u"[,，、；\"\\t\\r\\n\\x{2028}\\x{2029}]"_s);
+    const bool isPlain = !value.contains(special) && value.trimmed() == value;
     return isPlain ? value : u'"' + QString(value).replace(u'"', "\"\""_L1) + u'"';
 }
 

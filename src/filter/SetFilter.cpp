@@ -25,6 +25,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString rowsKey = u"rows"_s;
+const QString conditionKey = u"condition"_s;
+
 // Shows that the user has to wait while it lives.
 struct WaitCursor
 {
@@ -41,6 +44,7 @@ SetFilter::SetFilter(QWidget *parent)
       m_scroll(new QScrollArea(this)),
       m_rows(new FilterRows(m_scroll)),
       m_add(new FlatCmd(FilterTexts::AddRow, this)),
+      m_sentence(new QLabel(this)),
       m_condition(new QLineEdit(this)),
       m_backToRows(new FlatCmd(FilterTexts::BackToRows, this)),
       m_notice(new QLabel(this))
@@ -52,6 +56,14 @@ SetFilter::SetFilter(QWidget *parent)
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_add->setObjectName(u"cmdAddRow"_s);
+    m_sentence->setObjectName(u"lblSentence"_s);
+    m_sentence->setTextFormat(Qt::PlainText);
+    m_sentence->setWordWrap(true);
+    m_sentence->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_sentence->setFocusPolicy(Qt::NoFocus);
+    // A long sentence takes no room from the rows: its tool tip has all of it.
+    m_sentence->setFixedHeight(2 * fontMetrics().lineSpacing());
+    m_sentence->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_condition->setObjectName(u"txtCondition"_s);
     m_condition->setAccessibleName(FilterTexts::ConditionName);
     m_condition->setPlaceholderText(FilterTexts::ConditionHint);
@@ -77,7 +89,8 @@ void SetFilter::layOut()
     conditionLabel->setBuddy(m_condition);
     auto *addRow = new QHBoxLayout;
     addRow->addWidget(m_add);
-    addRow->addStretch();
+    addRow->addSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing));
+    addRow->addWidget(m_sentence, 1);
     auto *conditionRow = new QHBoxLayout;
     conditionRow->addWidget(conditionLabel);
     conditionRow->addWidget(m_condition, 1);
@@ -142,6 +155,8 @@ void SetFilter::readFields()
     }
     m_hasFields = !context->fields.empty();
     context->dialect = m_source.dialect();
+    if (m_source.hasTable())
+        context->records = {m_source.fromText(), m_currentCondition};
     context->offerValues = [this](const FilterField &field, ValueEdit &edit) {
         offerValues(field, edit, FilterSource::mostValues);
     };
@@ -151,7 +166,41 @@ void SetFilter::readFields()
         m_rows->focusFirstPart();
     else
         m_condition->setFocus();
+    m_stateBefore = State();
     show(fault);
+}
+
+QJsonObject SetFilter::State() const
+{
+    if (m_isByHand)
+        return {{conditionKey, m_condition->text()}};
+    return {{rowsKey, toJson(m_rows->state())}};
+}
+
+void SetFilter::PutState(const QJsonObject &state)
+{
+    if (const QString condition = state[conditionKey].toString(); !condition.isEmpty()) {
+        m_condition->setText(condition);
+        onConditionEdited();
+    } else if (const auto rows = filterStateOf(state[rowsKey])) {
+        if (m_isByHand)
+            setByHand(false);
+        const auto missing = m_rows->setState(*rows);
+        if (missing)
+            show(FilterTexts::FieldMissing.arg(*missing));
+        else
+            m_rows->focusFirstPart();
+    }
+    // What is typed next takes its place.
+    m_condition->selectAll();
+    m_stateBefore = State();
+}
+
+void SetFilter::Suggest(const QString &field, const QString &value)
+{
+    m_rows->suggest(field, value);
+    m_condition->selectAll();
+    m_stateBefore = State();
 }
 
 void SetFilter::offerValues(const FilterField &field, ValueEdit &edit, int most)
@@ -243,6 +292,8 @@ void SetFilter::onRowsChanged()
     if (m_isByHand)
         return;
     show({});
+    m_sentence->setText(m_rows->sentence());
+    m_sentence->setToolTip(m_sentence->text());
     m_condition->setText(m_rows->preview());
     m_condition->setToolTip(m_condition->text());
     m_condition->setCursorPosition(0);
@@ -267,6 +318,10 @@ void SetFilter::backToRows()
 void SetFilter::setByHand(bool isByHand)
 {
     m_isByHand = isByHand;
+    if (isByHand) {
+        m_sentence->clear(); // nobody knows what was typed
+        m_sentence->setToolTip({});
+    }
     m_backToRows->setVisible(isByHand);
     enableParts();
 }

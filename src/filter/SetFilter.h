@@ -3,6 +3,7 @@
 #include "filter/FilterSource.h"
 
 #include <QtCore/QHash>
+#include <QtCore/QJsonObject>
 #include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
@@ -39,6 +40,19 @@ public:
     // The same with the fields of a result.
     void SetResult(const FilteredResult &result);
 
+    // The condition that the filtered records meet already, for what compares them with each other. Before
+    // SetTableName and SetResult.
+    void SetCurrentCondition(const QString &condition) { m_currentCondition = condition; }
+
+    // What was built or typed, and the same put in. When a field of it isn't there any more, the builder says
+    // so and stays as it is.
+    QJsonObject State() const;
+    void PutState(const QJsonObject &state);
+    // Begins with a value of a field; the next text typed replaces it.
+    void Suggest(const QString &field, const QString &value);
+    // Whether the user has changed anything since the builder was prepared.
+    bool IsChanged() const { return State() != m_stateBefore; }
+
     // Says below the condition what is wrong with it, until it is changed.
     void ShowNotice(const QString &notice) { show(notice); }
 
@@ -71,10 +85,13 @@ private:
     FilterField m_readingOf;
     std::optional<OfferedValues> m_shownValues;
     QString m_caption;
+    QString m_currentCondition;
+    QJsonObject m_stateBefore;
     QLabel *m_table;
     QScrollArea *m_scroll;
     FilterRows *m_rows;
     QPushButton *m_add;
+    QLabel *m_sentence; // the rows in words
     QLineEdit *m_condition;
     QPushButton *m_backToRows;
     QLabel *m_notice;

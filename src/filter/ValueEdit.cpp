@@ -1,5 +1,6 @@
 #include "filter/ValueEdit.h"
 
+#include "filter/FilterDays.h"
 #include "filter/FilterTexts.h"
 #include "filter/FilterValue.h"
 
@@ -13,6 +14,7 @@
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QCompleter>
+#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
@@ -122,6 +124,12 @@ void ValueEdit::setKind(FieldClass fieldClass, bool isList)
     m_offerValues->setVisible(hasValues && hasDays(fieldClass));
     m_offer->setText(hasDays(fieldClass) ? FilterTexts::PickDate : FilterTexts::PickValue); // its name
     m_offer->setToolTip(m_offer->text());
+}
+
+void ValueEdit::setCount()
+{
+    setKind(FieldClass::Number, false);
+    setPlaceholderText(FilterTexts::CountHint);
 }
 
 void ValueEdit::setMarked(bool isMarked)
@@ -278,6 +286,7 @@ void ValueEdit::offerCalendar()
         m_calendar->setFirstDayOfWeek(Qt::Monday);
         m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
         usePlainArrows(*m_calendar);
+        m_calendar->layout()->addWidget(makeDayWords());
         connect(m_calendar, &QCalendarWidget::clicked, this, &ValueEdit::setDay);
         connect(m_calendar, &QCalendarWidget::activated, this, &ValueEdit::setDay);
     }
@@ -286,6 +295,31 @@ void ValueEdit::offerCalendar()
     m_calendar->show(); // only now does it have its size
     m_calendar->move(placeOf(m_calendar->size()));
     m_calendar->setFocus();
+}
+
+// Days that move with the calendar, as a button each.
+QWidget *ValueEdit::makeDayWords()
+{
+    auto *words = new QWidget(m_calendar);
+    auto *grid = new QGridLayout(words);
+    grid->setContentsMargins({});
+    grid->setSpacing(0);
+    constexpr int columns = 4;
+    int place = 0;
+    for (const QString &word : relativeDayWords()) {
+        auto *button = new QToolButton(words);
+        button->setText(word);
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::StrongFocus);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        connect(button, &QToolButton::clicked, this, [this, word] {
+            m_calendar->close();
+            take(word);
+        });
+        grid->addWidget(button, place / columns, place % columns);
+        ++place;
+    }
+    return words;
 }
 
 // Below the editor, or above where the screen ends too soon.

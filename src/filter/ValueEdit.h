@@ -31,6 +31,8 @@ public:
     void showValues(const OfferedValues &values);
     // `isList` for several values with commas between them: what is picked is then added.
     void setKind(FieldClass fieldClass, bool isList);
+    // For a number of values.
+    void setCount();
     // Shows that something is wrong with the value.
     void setMarked(bool isMarked);
 
@@ -54,6 +56,7 @@ private:
     QPoint placeOf(QSize popup) const;
     void take(const QString &picked);
     void setDay(QDate day);
+    QWidget *makeDayWords();
 
     std::function<QStringList()> m_readValues;
     std::function<void()> m_askForValues;

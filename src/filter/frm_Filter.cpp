@@ -4,15 +4,21 @@
 #include "filter/SetFilter.h"
 #include "forms/Contrast.h"
 #include "forms/FormTexts.h"
+#include "forms/Messages.h"
 #include "forms/widgets/GradualControl.h"
+#include "forms/widgets/TextWidth.h"
 
 #include <QtGui/QIcon>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QScreen>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
 
 namespace KOVAVSFDataGridLib {
 
@@ -51,7 +57,12 @@ frm_Filter::frm_Filter(QWidget *parent)
     rows->setContentsMargins({});
     rows->addWidget(makeBand());
     rows->addLayout(body);
-    resize(sizeHint().width(), fontMetrics().height() * 28);
+    // Comfortable for two dates and what stands around them, but never wider than the screen.
+    const int comfortable = widthOfDigits(*this, 130);
+    const int margins = 2 * margin;
+    resize(
+        std::max(sizeHint().width(), std::min(comfortable, screen()->availableGeometry().width() - margins)),
+        fontMetrics().height() * 28);
 
     connect(filter, &QPushButton::clicked, this, &frm_Filter::filter);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -79,6 +90,15 @@ void frm_Filter::SetPicture(const QIcon &picture)
     constexpr int size = 16; // pixels at 96 DPI
     if (!picture.isNull())
         m_picture->setPixmap(picture.pixmap(QSize(size, size), devicePixelRatioF()));
+}
+
+// Esc is easily pressed by accident; the buttons are not.
+void frm_Filter::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Cancel) && m_builder->IsChanged() &&
+        !Messages::ask(this, FilterTexts::GiveUp, FilterTexts::Title, QMessageBox::Question, QMessageBox::No))
+        return;
+    QDialog::keyPressEvent(event);
 }
 
 void frm_Filter::filter()

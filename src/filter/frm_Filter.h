@@ -22,6 +22,9 @@ public:
     // Empty when the dialog was cancelled.
     const QString &strFilterCondition() const { return m_strFilterCondition; }
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     QWidget *makeBand();
     void filter();

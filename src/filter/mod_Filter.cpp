@@ -6,6 +6,8 @@
 #include "query/SharedValues.h"
 #include "query/conditions/Conditions.h"
 
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
 #include <QtWidgets/QComboBox>
 
 namespace KOVAVSFDataGridLib {
@@ -68,12 +70,25 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
     else
         builder.SetConnectionString(request.connectionString);
     builder.SetCurrentTable(m_strTableName);
+    builder.SetCurrentCondition(request.condition);
     if (request.result)
         builder.SetResult(*request.result);
     else if (m_isTableKnown)
         builder.SetTableName(fromText);
-    if (!request.field.isEmpty())
+    const auto built = QJsonDocument::fromJson(request.built.toUtf8()).object();
+    if (!built.isEmpty())
+        builder.PutState(built);
+    else if (!request.value.isEmpty())
+        builder.Suggest(request.field, request.value);
+    else if (!request.field.isEmpty())
         beginWithField(builder, request.field);
+}
+
+QString mod_Filter::Built() const
+{
+    if (!m_dialog || m_strFilterCondition.isEmpty())
+        return {};
+    return QString::fromUtf8(QJsonDocument(m_dialog->SetFilter1().State()).toJson(QJsonDocument::Compact));
 }
 
 QString mod_Filter::ShowFilterDialog(const QString &refusal)

@@ -31,8 +31,12 @@ struct FilterRequest
     std::shared_ptr<ADODB::Connection> connection;
     // Where the statement isn't the plain rows of a table: what it is filtered by instead.
     std::optional<FilteredResult> result = {};
-    QIcon picture = {}; // of the command that asks; may be null
-    QString field = {}; // the one to begin with; empty for any
+    QIcon picture = {};     // of the command that asks; may be null
+    QString condition = {}; // that the filtered records meet already
+    // What to begin with: a field, empty for any, and a value of it.
+    QString field = {};
+    QString value = {};
+    QString built = {}; // or what Built() answered for an earlier condition
 };
 
 // Runs the filter dialog and keeps what it left. One object can run any number of dialogs, one after another.
@@ -48,6 +52,9 @@ public:
     // Shows it modally; answers strFilterCondition(). It can be shown again as it was left, with what the
     // database says against the condition.
     QString ShowFilterDialog(const QString &refusal = {});
+
+    // What the condition was built from, as a text for a later request.
+    QString Built() const;
 
     // Empty when the dialog was cancelled.
     const QString &strFilterCondition() const { return m_strFilterCondition; }

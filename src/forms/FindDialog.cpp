@@ -47,6 +47,22 @@ bool isTyped(int key)
     }
 }
 
+// The words that were searched for last in this process, the newest first.
+QStringList &lastWords()
+{
+    static QStringList words;
+    return words;
+}
+
+void remember(const QString &words)
+{
+    constexpr qsizetype most = 10;
+    lastWords().removeOne(words);
+    lastWords().prepend(words);
+    if (lastWords().size() > most)
+        lastWords().removeLast();
+}
+
 bool carriesText(const QInputMethodEvent &event)
 {
     return !event.preeditString().isEmpty() || !event.commitString().isEmpty();
@@ -68,6 +84,9 @@ FindDialog::FindDialog(QWidget *parent)
     m_input->setAccessibleName(FormTexts::FindTitle);
     m_input->setEditable(true);
     m_input->setInsertPolicy(QComboBox::NoInsert);
+    m_input->addItems(lastWords());
+    m_input->setCurrentIndex(-1);
+    m_input->setCompleter(nullptr); // it would add old words to what is typed
     m_input->setMinimumContentsLength(36);
     m_input->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_fields->setObjectName(u"FieldCombo1"_s);
@@ -195,6 +214,7 @@ void FindDialog::find()
     if (answer.strFindText.isEmpty())
         return;
     m_strFindText = answer.strFindText;
+    remember(m_input->currentText().trimmed());
     if (!answer.unloads)
         return;
     m_strFieldName = answer.strFieldName;

@@ -29,6 +29,9 @@ inline const QString AnyFieldInWords = u"%1 个字段之一 %2"_s;
 inline const QString AndInWords = u" 并且 "_s;
 inline const QString OrInWords = u" 或者 "_s;
 inline const QString NotInWords = u"不满足 %1"_s;
+inline const QString RepeatedInWords = u"的值有重复"_s;
+inline const QString LargestInWords = u"是最大的 %1 个之一"_s;
+inline const QString SmallestInWords = u"是最小的 %1 个之一"_s;
 inline const QString BracketsInWords = u"（%1）"_s;
 
 } // namespace KOVAVSFDataGridLib::QueryTexts

@@ -120,6 +120,9 @@ public:
                               qsizetype column) const;
     // What the filter dialog offers instead of a table's fields; nothing for simple statements of one table.
     std::optional<FilteredResult> GetFilteredResult() const;
+
+    // The condition that a statement has already, over the rows of GetFilteredResult() or of its table.
+    QString GetConditionOf(const QString &statement) const;
     // What a condition writes for a field of the catalogue, where that isn't left to whoever builds it.
     QString GetConditionName(const clsDataField &field) const;
 

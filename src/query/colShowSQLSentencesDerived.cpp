@@ -93,6 +93,15 @@ std::optional<FilteredResult> colShowSQLSentences::GetFilteredResult() const
     return all->filteredResult();
 }
 
+QString colShowSQLSentences::GetConditionOf(const QString &statement) const
+{
+    if (const auto derivation = DerivationOf(statement))
+        return derivation->condition();
+    const auto sentence = SplitSQLSentence(statement);
+    const qsizetype word = sizeof("WHERE") - 1;
+    return sentence ? sentence->where.trimmed().mid(word).trimmed() : QString();
+}
+
 QString colShowSQLSentences::GetConditionName(const clsDataField &field) const
 {
     const clsShowSQLSentence *const latest = Latest();

@@ -27,11 +27,18 @@ struct ConditionRequest
     std::shared_ptr<ADODB::Connection> connection; // may be null
     // Where the statement isn't the plain rows of a table: what it is filtered by instead.
     std::optional<FilteredResult> result = {};
+    // The condition that the filtered records meet already; may be empty.
+    QString condition = {};
     // Why the database refused the condition that was built last; empty at first.
     QString refusal = {};
     // What whoever is asked keeps until the next time, so that all is there again as it was typed.
     mutable std::shared_ptr<void> memory = {};
-    QString field = {}; // the one to begin with, by its heading; empty for any
+    // What to begin with: a field by its heading, empty for any, and a value of it as text.
+    QString field = {};
+    QString value = {};
+    // To begin with instead: what the condition in force was built from, as whoever is asked wrote it. Then
+    // what the condition that is answered was built from.
+    mutable QString built = {};
 };
 
 // The words that the user looks for.

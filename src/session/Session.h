@@ -45,6 +45,13 @@ struct SessionTexts
     qint32 tableType = 0; // StatementSource
 };
 
+// The condition that the user built last, and what it was built from; see ConditionRequest.
+struct BuiltCondition
+{
+    QString condition;
+    QString built;
+};
+
 // One open result and all that can be done with it: its pages, its history of statements, the layout of its
 // columns, and the commands. It shows itself in a window, asks its user questions and reports to a host, and
 // knows of the three no more than their interfaces.
@@ -244,6 +251,7 @@ public:
     void clear();
 
     SessionTexts texts;
+    BuiltCondition lastBuilt;
     SharedValues &shared = SharedValues::instance();
 
 private:

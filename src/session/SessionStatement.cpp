@@ -166,9 +166,16 @@ bool Session::replaceResult(const ResultSet::Opened &opened)
 
 ConditionRequest Session::conditionRequest()
 {
-    return {texts.connectionString, filterManager().DBType(),
-            texts.tableType,        joinStatementLines(texts.sqlShow),
-            m_result.connection(),  history().GetFilteredResult()};
+    QString filtered = m_statement;
+    if (!m_rules.narrowsShown)
+        history().GetLatestSQL(filtered);
+    return {.connectionString = texts.connectionString,
+            .dbType = filterManager().DBType(),
+            .tableType = texts.tableType,
+            .sqlShow = joinStatementLines(texts.sqlShow),
+            .connection = m_result.connection(),
+            .result = history().GetFilteredResult(),
+            .condition = history().GetConditionOf(filtered)};
 }
 
 void Session::writeFilter(const QString &statement)

@@ -95,7 +95,7 @@ QString textWithoutClauses(const Dialect &dialect, const QString &text)
         const QString literal = textLiteral(dialect, piece);
         if (joined.isEmpty())
             joined = literal;
-        else if (dialect.isOdbc)
+        else if (dialect.isOdbc && dialect.engine != Engine::SQLite) // whose driver leaves CONCAT to it
             joined = u"{fn CONCAT(%1, %2)}"_s.arg(joined, literal);
         else
             joined = u"(%1 || %2)"_s.arg(joined, literal);

@@ -30,7 +30,7 @@ TEST(FilterCondition, ComparesNumbers)
 {
     const auto number = FieldClass::Number;
     EXPECT_EQ(sql(number, Equals, u"5"_s), "F = 5");
-    EXPECT_EQ(sql(number, NotEquals, u"-5"_s), "F <> -5");
+    EXPECT_EQ(sql(number, NotEquals, u"-5"_s), "(F <> -5 OR F IS NULL)");
     EXPECT_EQ(sql(number, Greater, u"5"_s), "F > 5");
     EXPECT_EQ(sql(number, Less, u"5"_s), "F < 5");
     EXPECT_EQ(sql(number, AtLeast, u"5"_s), "F >= 5");
@@ -99,7 +99,7 @@ TEST(FilterCondition, ADayInAMomentFieldMeansTheWholeDay)
     const auto moment = FieldClass::Moment;
     const QString day = u"2024-01-05"_s;
     EXPECT_EQ(sql(moment, Equals, day), "(F >= '2024-01-05' AND F < '2024-01-06')");
-    EXPECT_EQ(sql(moment, NotEquals, day), "(F < '2024-01-05' OR F >= '2024-01-06')");
+    EXPECT_EQ(sql(moment, NotEquals, day), "((F < '2024-01-05' OR F >= '2024-01-06') OR F IS NULL)");
     EXPECT_EQ(sql(moment, Greater, day), "F >= '2024-01-06'");
     EXPECT_EQ(sql(moment, AtMost, day), "F < '2024-01-06'");
     EXPECT_EQ(sql(moment, Between, day, u"2024-01-31 12:00"_s),
@@ -112,7 +112,7 @@ TEST(FilterCondition, ADayInAMomentFieldMeansTheWholeDay)
 TEST(FilterCondition, YesAndNoAreToldByNumberOrOnServersByText)
 {
     EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"是"_s), "F <> 0");
-    EXPECT_EQ(sql(FieldClass::Boolean, NotEquals, u"是"_s), "F = 0");
+    EXPECT_EQ(sql(FieldClass::Boolean, NotEquals, u"是"_s), "(F = 0 OR F IS NULL)");
     EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"否"_s, {}, oracleServer), "F = '0'");
     EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"是"_s, {}, {dbSQLServer, true}), "F = '1'");
     EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"是"_s, {}, {dbAccess, true}), "F <> 0");
@@ -141,12 +141,85 @@ TEST(FilterCondition, FaultsAreSaidInsteadOfACondition)
     EXPECT_EQ(conditionOf(sqlite, {}).fault, u"没有可以筛选的字段。"_s);
 }
 
+TEST(FilterCondition, WhatIsLeftOutLeavesRecordsWithoutAValueUnlessTheyAreNotWanted)
+{
+    const auto text = FieldClass::Text;
+    EXPECT_EQ(sql(text, NotContains, u"a"_s), "(NOT (F LIKE '%a%') OR F IS NULL)");
+    EXPECT_EQ(sql(text, NotBeginsWith, u"a"_s), "(NOT (F LIKE 'a%') OR F IS NULL)");
+    EXPECT_EQ(sql(text, NotEndsWith, u"a"_s), "(NOT (F LIKE '%a') OR F IS NULL)");
+    EXPECT_EQ(sql(text, NotInList, u"a、b"_s), "(NOT (F IN ('a', 'b')) OR F IS NULL)");
+    EXPECT_EQ(sql(FieldClass::Number, NotBetween, u"1"_s, u"2"_s),
+              "(NOT ((F >= 1 AND F <= 2)) OR F IS NULL)");
+    const auto withoutNull = [](const FilterField &asked, FilterOperator op, bool isNegated) {
+        return conditionOf(sqlite, {asked, op, u"1"_s, {}, isNegated, false}).sql.toStdString();
+    };
+    EXPECT_EQ(withoutNull(field(FieldClass::Number), NotEquals, false), "F <> 1");
+    EXPECT_EQ(withoutNull(field(FieldClass::Number), Greater, true), "NOT (F > 1)");
+    EXPECT_EQ(withoutNull(field(FieldClass::Number), NotEquals, true), "F = 1");
+    EXPECT_EQ(withoutNull(field(FieldClass::Number), IsEmpty, true), "F IS NOT NULL");
+    EXPECT_EQ(withoutNull(field(FieldClass::Number), IsNotEmpty, true), "F IS NULL");
+}
+
+TEST(FilterCondition, RecordsAreComparedWithTheOnesThatAreFiltered)
+{
+    const auto among = [](const Dialect &dialect, FilterOperator op, const QString &count,
+                          const QString &restriction = {}) {
+        FilterScope scope;
+        scope.records = {u"T"_s, restriction};
+        const FilterCondition found = conditionOf(dialect, {field(FieldClass::Number), op, count, {}}, scope);
+        return found.sql.toStdString() + found.fault.toStdString();
+    };
+    EXPECT_EQ(among(sqlite, Duplicated, {}),
+              "F IN (SELECT F\nFROM T\nWHERE F IS NOT NULL GROUP BY F HAVING COUNT(*) > 1)");
+    EXPECT_EQ(
+        among(sqlite, Top, u"3"_s, u"A = 1 OR B = 2"_s),
+        "F IN (SELECT KovaValue\nFROM (SELECT F AS KovaValue\nFROM T\nWHERE (A = 1 OR B = 2) AND F IS NOT "
+        "NULL\nORDER BY F DESC LIMIT 3) KovaFirst)");
+    EXPECT_TRUE(QString::fromStdString(among({dbSQLServer, true}, Bottom, u"3"_s))
+                    .contains(u"ORDER BY F OFFSET 0 ROWS FETCH NEXT 3 ROWS ONLY"_s));
+    EXPECT_TRUE(QString::fromStdString(among({dbAccess, true, false, Engine::Access}, Bottom, u"3"_s))
+                    .contains(u"(SELECT TOP 3 F AS KovaValue"_s));
+    EXPECT_EQ(among(sqlite, Top, u"0"_s), "“0”不是个数，请输入从 1 开始的整数。");
+    EXPECT_EQ(among(sqlite, Top, {}), "请输入值。");
+    EXPECT_EQ(sql(FieldClass::Number, Duplicated), "fault: 这里不能比较各条记录。");
+}
+
+TEST(FilterCondition, DaysAreThoseOfTheDayOnWhichItIsWritten)
+{
+    const auto on = [](QDate today, FilterOperator op, const QString &value, const QString &last = {}) {
+        FilterScope scope;
+        scope.today = today;
+        const FilterCondition found = conditionOf(sqlite, {field(FieldClass::Date), op, value, last}, scope);
+        return found.sql.toStdString() + found.fault.toStdString();
+    };
+    const QDate leapDay(2024, 2, 29);
+    EXPECT_EQ(on(leapDay, Equals, u"今天"_s), "F = '2024-02-29'");
+    EXPECT_EQ(on(leapDay.addDays(1), Equals, u"今天"_s), "F = '2024-03-01'");
+    EXPECT_EQ(on(leapDay, Equals, u"上月"_s), "(F >= '2024-01-01' AND F < '2024-02-01')");
+    EXPECT_EQ(on(leapDay, Greater, u"上月"_s), "F >= '2024-02-01'");
+    EXPECT_EQ(on(leapDay, AtMost, u"去年"_s), "F < '2024-01-01'");
+    EXPECT_EQ(on(leapDay, Between, u"上月"_s, u"本月"_s), "(F >= '2024-01-01' AND F < '2024-03-01')");
+    EXPECT_EQ(on(leapDay, Between, u"本月"_s, u"上月"_s), "结束值小于开始值。");
+    EXPECT_EQ(on(leapDay, Between, u"本月"_s, u"今天"_s), "(F >= '2024-02-01' AND F <= '2024-02-29')");
+}
+
+TEST(FilterOperators, AreFoundByTheirNames)
+{
+    for (int op = 0; op <= static_cast<int>(Bottom); ++op)
+        EXPECT_EQ(operatorNamed(nameOf(static_cast<FilterOperator>(op))), static_cast<FilterOperator>(op));
+    EXPECT_FALSE(operatorNamed(u"like"_s));
+}
+
 TEST(FilterOperators, FitTheFieldsClass)
 {
     EXPECT_TRUE(operatorsFor(FieldClass::Text).contains(Contains));
     EXPECT_FALSE(operatorsFor(FieldClass::Number).contains(Contains));
     EXPECT_EQ(operatorsFor(FieldClass::Other), (QList<FilterOperator>{IsEmpty, IsNotEmpty}));
-    EXPECT_EQ(operatorsFor(FieldClass::Text).size(), 13);
+    EXPECT_EQ(operatorsFor(FieldClass::Text).size(), 19);
+    EXPECT_FALSE(operatorsFor(FieldClass::Text).contains(Top));
+    EXPECT_EQ(captionOf(Bottom), u"后 N 个"_s);
+    EXPECT_EQ(valueCount(NotBetween), 2);
+    EXPECT_EQ(valueCount(Duplicated), 0);
     EXPECT_EQ(captionOf(IsNotEmpty), u"不为空"_s);
     EXPECT_EQ(valueCount(Between), 2);
     EXPECT_EQ(valueCount(IsEmpty), 0);

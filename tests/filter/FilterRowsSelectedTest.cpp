@@ -138,7 +138,7 @@ TEST_F(Selected, ByText)
             expectSame({text, op, value, {}}, [&](const Row &row) { return row.text && wanted(*row.text); });
         };
         with(Equals, [&](const QString &t) { return t == value; });
-        with(NotEquals, [&](const QString &t) { return t != value; });
+        expectSame({text, NotEquals, value, {}}, [&](const Row &row) { return row.text != value; });
         with(Contains, [&](const QString &t) { return contains(t, value); });
         with(BeginsWith, [&](const QString &t) { return t.startsWith(value, Qt::CaseInsensitive); });
         with(EndsWith, [&](const QString &t) { return t.endsWith(value, Qt::CaseInsensitive); });
@@ -167,7 +167,7 @@ TEST_F(Selected, ByNumber)
                        [&](const Row &row) { return row.number && wanted(*row.number); });
         };
         with(Equals, [&](double n) { return n == limit; });
-        with(NotEquals, [&](double n) { return n != limit; });
+        expectSame({number, NotEquals, value, {}}, [&](const Row &row) { return row.number != limit; });
         with(Greater, [&](double n) { return n > limit; });
         with(Less, [&](double n) { return n < limit; });
         with(AtLeast, [&](double n) { return n >= limit; });
@@ -190,7 +190,8 @@ TEST_F(Selected, ByDayAndMoment)
                    [&](const Row &row) { return row.moment && wanted(row.moment->date()); });
     };
     onDay(Equals, [&](QDate d) { return d == day; });
-    onDay(NotEquals, [&](QDate d) { return d != day; });
+    expectSame({moment, NotEquals, u"2024年1月3日"_s, {}},
+               [&](const Row &row) { return !row.moment || row.moment->date() != day; });
     onDay(Greater, [&](QDate d) { return d > day; });
     onDay(Less, [&](QDate d) { return d < day; });
     onDay(AtLeast, [&](QDate d) { return d >= day; });
@@ -213,6 +214,8 @@ TEST_F(Selected, ByYesAndNo)
     const FilterField flag = field(u"Order"_s, FieldClass::Boolean);
     expectSame({flag, Equals, u"是"_s, {}}, [](const Row &row) { return row.flag == true; });
     expectSame({flag, Equals, u"否"_s, {}}, [](const Row &row) { return row.flag == false; });
-    expectSame({flag, NotEquals, u"是"_s, {}}, [](const Row &row) { return row.flag == false; });
+    expectSame({flag, NotEquals, u"是"_s, {}}, [](const Row &row) { return row.flag != true; });
+    expectSame({flag, NotEquals, u"是"_s, {}, false, false},
+               [](const Row &row) { return row.flag == false; });
     expectSame({flag, IsNotEmpty, {}, {}}, [](const Row &row) { return row.flag.has_value(); });
 }

@@ -12,7 +12,7 @@ constexpr Dialect sqlite{dbAccess, false};
 // The literal; "-" when the text is no such value.
 std::string literal(FieldClass fieldClass, const QString &typed)
 {
-    const auto value = readFilterValue(sqlite, fieldClass, typed);
+    const auto value = readFilterValue(sqlite, fieldClass, typed, QDate(2024, 2, 29));
     return value ? value->literal.toStdString() : "-";
 }
 
@@ -61,7 +61,7 @@ TEST(FilterValue, TimesAndMomentsAreRead)
 
 TEST(FilterValue, ADayInAMomentFieldKnowsWhereItEnds)
 {
-    const auto value = readFilterValue(sqlite, FieldClass::Moment, u"2023-12-31"_s);
+    const auto value = readFilterValue(sqlite, FieldClass::Moment, u"2023-12-31"_s, {});
     ASSERT_TRUE(value);
     EXPECT_EQ(value->nextDay, u"'2024-01-01'"_s);
 }
@@ -75,9 +75,10 @@ TEST(FilterValue, TextIsTakenAsTyped)
 TEST(FilterValue, YesAndNoAreReadInSeveralWords)
 {
     for (const QString &typed : {u"是"_s, u"True"_s, u"1"_s, u"-1"_s, u"１"_s})
-        EXPECT_TRUE(readFilterValue(sqlite, FieldClass::Boolean, typed)->isTrue) << qUtf8Printable(typed);
+        EXPECT_TRUE(readFilterValue(sqlite, FieldClass::Boolean, typed, {})->isTrue) << qUtf8Printable(typed);
     for (const QString &typed : {u"否"_s, u"FALSE"_s, u"0"_s})
-        EXPECT_FALSE(readFilterValue(sqlite, FieldClass::Boolean, typed)->isTrue) << qUtf8Printable(typed);
+        EXPECT_FALSE(readFilterValue(sqlite, FieldClass::Boolean, typed, {})->isTrue)
+            << qUtf8Printable(typed);
     EXPECT_EQ(literal(FieldClass::Boolean, u"maybe"_s), "-");
 }
 
@@ -96,10 +97,47 @@ TEST(FilterValue, ListsAreSplitAtNarrowAndWideCommas)
     EXPECT_TRUE(splitFilterList(u" ， "_s).isEmpty());
 }
 
+TEST(FilterValue, ListsPastedFromAChineseTextOrASpreadsheetAreSplit)
+{
+    const QStringList three{u"甲"_s, u"乙 丙"_s, u"丁"_s};
+    for (const QString &typed :
+         {u"甲、乙 丙、丁"_s, u"甲；乙 丙；丁"_s, u"甲，乙 丙，丁"_s, u"甲\n乙 丙\n丁\n"_s,
+          u"甲\r\n乙 丙\r\n\r\n丁\r\n"_s, u"甲\t乙 丙\t丁"_s, u" 甲\u2028乙 丙 \u2029丁 "_s})
+        EXPECT_EQ(splitFilterList(typed), three) << qUtf8Printable(typed);
+    EXPECT_EQ(splitFilterList(u"\"甲、乙\"、\"两\n行\""_s), (QStringList{u"甲、乙"_s, u"两\n行"_s}));
+}
+
+TEST(FilterValue, AMonthOrAWordForDaysIsWhereItsDaysBeginAndEnd)
+{
+    const QDate leapDay(2024, 2, 29);
+    const auto month = readFilterValue(sqlite, FieldClass::Date, u"２月"_s, leapDay);
+    ASSERT_TRUE(month);
+    EXPECT_EQ(month->literal, u"'2024-02-01'"_s);
+    EXPECT_EQ(month->nextDay, u"'2024-03-01'"_s);
+    const auto today = readFilterValue(sqlite, FieldClass::Date, u"今天"_s, leapDay);
+    ASSERT_TRUE(today);
+    EXPECT_EQ(today->literal, u"'2024-02-29'"_s);
+    EXPECT_EQ(today->nextDay, QString()) << "a day is compared as it is";
+    const auto moments = readFilterValue(sqlite, FieldClass::Moment, u"最近 2 天"_s, leapDay);
+    ASSERT_TRUE(moments);
+    EXPECT_EQ(moments->literal, u"'2024-02-28'"_s);
+    EXPECT_EQ(moments->nextDay, u"'2024-03-01'"_s);
+    EXPECT_EQ(literal(FieldClass::Moment, u"今天 08:00"_s), "-");
+    EXPECT_FALSE(dayOf(u"本月"_s).isValid());
+    EXPECT_EQ(dayOf(u"2024-01-31 08:00"_s), QDate(2024, 1, 31));
+}
+
+TEST(FilterValue, CountsAreWholeNumbersFromOne)
+{
+    EXPECT_EQ(readFilterCount(u" １０ "_s), 10);
+    for (const QString &typed : {u""_s, u"0"_s, u"-1"_s, u"2.5"_s, u"x"_s, u"99999999999"_s})
+        EXPECT_FALSE(readFilterCount(typed)) << qUtf8Printable(typed);
+}
+
 TEST(FilterValue, AnyValueSurvivesTheWayIntoAListAndBack)
 {
-    for (const QString &value :
-         {u"plain"_s, u"a,b"_s, u"甲，乙"_s, u" edge "_s, u"\"quoted\""_s, u"it's"_s, u"a\"b"_s}) {
+    for (const QString &value : {u"plain"_s, u"a,b"_s, u"甲，乙"_s, u" edge "_s, u"\"quoted\""_s, u"it's"_s,
+                                 u"a\"b"_s, u"a、b"_s, u"a；b"_s, u"a\nb"_s, u"a\tb"_s}) {
         EXPECT_EQ(splitFilterList(u"x, "_s + filterListItem(value) + u", y"_s),
                   (QStringList{u"x"_s, value, u"y"_s}))
             << qUtf8Printable(value);

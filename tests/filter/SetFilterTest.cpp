@@ -1,6 +1,7 @@
 // The filter builder by mouse and keys: its rows, their operators and faults.
 #include "BuilderFixture.h"
 
+#include <QtCore/QJsonArray>
 #include <QtWidgets/QCompleter>
 
 using namespace KOVAVSFDataGridLib;
@@ -40,6 +41,51 @@ TEST_F(Builder, ShowsTheConditionAsItGrows)
     EXPECT_EQ(answer(), "(城市 = '北京' OR 金额 > -5)");
 }
 
+TEST_F(Builder, SaysTheConditionInWordsUntilItIsTypedAsSql)
+{
+    const auto words = [this] { return part<QLabel>(dialog, "lblSentence").text().toStdString(); };
+    EXPECT_EQ(words(), "");
+    fillRow(1, u"城市"_s, u"不包含"_s, u"京"_s);
+    EXPECT_EQ(words(), "【城市】不包含“京”（也包括空值）。");
+    part<QAbstractButton>(dialog, "chkWithNull1").click();
+    EXPECT_EQ(words(), "【城市】不包含“京”。");
+    EXPECT_EQ(shown(), "NOT (城市 LIKE '%京%')");
+    part<QAbstractButton>(dialog, "chkNot1").click();
+    EXPECT_EQ(shown(), "城市 LIKE '%京%'");
+    EXPECT_FALSE(part(dialog, "chkWithNull1").isVisible());
+    press(dialog, "cmdAddRow");
+    fillRow(2, u"金额"_s, u"前 N 个"_s, u"2"_s);
+    EXPECT_EQ(words(), "并非“【城市】不包含“京””，并且【金额】是最大的 2 个之一。");
+    type("txtCondition", u"编号 = 1"_s);
+    EXPECT_EQ(words(), "");
+    press(dialog, "cmdBackToRows");
+    EXPECT_NE(words(), "");
+}
+
+TEST_F(Builder, AConditionIsPutInAgainAsItWasTyped)
+{
+    fillRow(1, u"金额"_s, u"不等于"_s, u"５"_s);
+    press(dialog, "cmdAddRow");
+    fillRow(2, u"下单日期"_s, u"等于"_s, u"本月"_s);
+    choose("cmbJoin1", u"或者"_s);
+    const QJsonObject state = builder->State();
+    const std::string before = shown();
+    press(dialog, "cmdDeleteRow2");
+    type("txtValue1", u"7"_s);
+    EXPECT_TRUE(builder->IsChanged());
+    builder->PutState(state);
+    EXPECT_EQ(shown(), before);
+    EXPECT_EQ(builder->State(), state);
+    EXPECT_FALSE(builder->IsChanged());
+    EXPECT_EQ(text("txtValue2").text(), u"本月"_s) << "it stays relative";
+
+    QJsonObject other = state;
+    other.insert(u"rows"_s, QJsonArray{QJsonObject{{u"field"_s, u"没有"_s}, {u"operator"_s, u"equals"_s}}});
+    builder->PutState(other);
+    EXPECT_EQ(shown(), before);
+    EXPECT_EQ(fault("lblNotice"), "这里没有该筛选用到的字段“没有”，或者不能这样比较它。");
+}
+
 TEST_F(Builder, TheKeyboardAloneBuildsACondition)
 {
     combo("cmbField1").setFocus();
@@ -57,7 +103,7 @@ TEST_F(Builder, AFieldIsFoundByTheBeginningOfItsNameInChineseToo)
 {
     compose(combo("cmbField1"), u"下单"_s);
     EXPECT_EQ(combo("cmbField1").currentText(), u"下单日期"_s);
-    EXPECT_EQ(part<QLineEdit>(dialog, "txtValue1").placeholderText(), u"例如 2024-01-31"_s);
+    EXPECT_EQ(part<QLineEdit>(dialog, "txtValue1").placeholderText(), u"例如 2024-01-31、2024-03 或 本月"_s);
 }
 
 TEST_F(Builder, BetweenTakesTwoValues)
@@ -189,9 +235,10 @@ TEST_F(Builder, TheKeyboardWalksThroughItFromLeftToRight)
     choose("cmbOperator1", u"介于"_s);
     EXPECT_TRUE(QTest::qWaitFor([this] { return combo("cmbField2").isVisible(); }));
     part(dialog, "cmbOpen1").setFocus();
-    EXPECT_EQ(walkedByTab(dialog, 16),
-              "cmbOpen1 cmbField1 cmbOperator1 txtValue1 txtValue1b cmbClose1 cmbJoin1 cmdDeleteRow1 "
-              "cmbOpen2 cmbField2 cmbOperator2 txtValue2 cmbClose2 cmdDeleteRow2 cmdAddRow txtCondition");
+    EXPECT_EQ(
+        walkedByTab(dialog, 18),
+        "cmbOpen1 chkNot1 cmbField1 cmbOperator1 txtValue1 txtValue1b cmbClose1 cmbJoin1 cmdDeleteRow1 "
+        "cmbOpen2 chkNot2 cmbField2 cmbOperator2 txtValue2 cmbClose2 cmdDeleteRow2 cmdAddRow txtCondition");
     for (const char *name : {"cmbOpen1", "cmbField1", "cmbOperator1", "txtValue1", "txtValue1b", "cmbClose1",
                              "cmbJoin1", "cmdDeleteRow1", "txtCondition"})
         EXPECT_FALSE(part(dialog, name).accessibleName().isEmpty()) << name;

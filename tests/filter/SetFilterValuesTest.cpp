@@ -115,6 +115,27 @@ TEST_F(PickedValues, ADayIsPickedFromACalendarAndKeepsTheTimeBehindIt)
                         " = '2024-01-06 08:30:00'");
 }
 
+TEST_F(PickedValues, DaysThatMoveWithTheCalendarArePickedBelowIt)
+{
+    choose("cmbField1", u"下单日期"_s);
+    QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+    auto &calendar = part<QCalendarWidget>(dialog, "calDays");
+    QStringList words;
+    QToolButton *lastMonth = nullptr;
+    for (auto *button : calendar.findChildren<QToolButton *>()) {
+        words.append(button->text());
+        if (button->text() == u"上月"_s)
+            lastMonth = button;
+    }
+    EXPECT_TRUE(words.contains(u"今天"_s));
+    EXPECT_TRUE(words.contains(u"最近 7 天"_s));
+    ASSERT_NE(lastMonth, nullptr);
+    QTest::mouseClick(lastMonth, Qt::LeftButton);
+    EXPECT_FALSE(calendar.isVisible());
+    EXPECT_EQ(text("txtValue1").text(), u"上月"_s);
+    EXPECT_NE(answer(), "");
+}
+
 TEST_F(PickedValues, TheCalendarHasNoPicturesOfItsOwn)
 {
     choose("cmbField1", u"下单日期"_s);

@@ -2,8 +2,10 @@
 
 #include "filter/SetFilter.h"
 #include "support/Dialogs.h"
+#include "support/MessageAnswers.h"
 #include "support/TestDatabase.h"
 
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <gtest/gtest.h>
 
@@ -57,12 +59,33 @@ TEST_F(FilterForm, CancelEscAndTheCloseBoxLeaveNoCondition)
     QTest::keyClicks(&value(), u"3"_s);
     press(dialog, "cmd_Cancel");
     EXPECT_FALSE(dialog.isVisible());
+    value().clear();
     present(dialog);
     QTest::keyClick(&value(), Qt::Key_Escape);
     EXPECT_FALSE(dialog.isVisible());
     present(dialog);
     EXPECT_TRUE(dialog.close());
     EXPECT_TRUE(dialog.strFilterCondition().isEmpty());
+}
+
+TEST_F(FilterForm, EscAsksBeforeItGivesUpWhatWasTyped)
+{
+    MessageAnswers answers({QMessageBox::No, QMessageBox::Yes});
+    QTest::keyClicks(&value(), u"3"_s);
+    QTest::keyClick(&value(), Qt::Key_Escape);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(value().text(), u"3"_s);
+    QTest::keyClick(&value(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(answers.texts(), QStringList({u"放弃已输入的条件吗？"_s, u"放弃已输入的条件吗？"_s}));
+}
+
+TEST_F(FilterForm, EscAsksNothingAboutWhatTheDialogBeganWith)
+{
+    dialog.SetFilter1().Suggest(u"ID"_s, u"7"_s);
+    EXPECT_EQ(value().text(), u"7"_s);
+    QTest::keyClick(&value(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
 }
 
 TEST_F(FilterForm, TheKeyboardBeginsWithTheFieldAndEndsWithTheButtons)
@@ -91,6 +114,16 @@ TEST_F(FilterForm, MnemonicsAddARowAndFilter)
     key(dialog, Qt::Key_F, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([this] { return !dialog.isVisible(); }));
     EXPECT_EQ(dialog.strFilterCondition(), u"ID = 3"_s);
+}
+
+TEST_F(FilterForm, ASmallScreenHoldsItWithItsWidestRow)
+{
+    part<QComboBox>(dialog, "cmbOperator1").setCurrentText(u"不介于"_s);
+    press(dialog, "cmdAddRow");
+    EXPECT_TRUE(part(dialog, "chkWithNull1").isVisible());
+    EXPECT_LE(dialog.minimumSizeHint().width(), 800);
+    EXPECT_LE(dialog.minimumSizeHint().height(), 600);
+    EXPECT_LE(dialog.height(), 600);
 }
 
 TEST_F(FilterForm, HasItsDecoration)

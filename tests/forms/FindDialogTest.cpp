@@ -212,3 +212,33 @@ TEST_F(Find, TheFieldNameCanBeWritten)
     EXPECT_EQ(dialog.strFieldName(), u"名称"_s);
     EXPECT_FALSE(dialog.bIsAppointField());
 }
+
+TEST_F(Find, OffersTheWordsSearchedForLastNewestFirst)
+{
+    for (const QString &words : {u"绿茶 杭州"_s, u"大米"_s, u"绿茶 杭州"_s}) {
+        FindDialog earlier;
+        EXPECT_TRUE(earlier.InitFrm(&fields));
+        present(earlier);
+        auto &edit = *part<QComboBox>(earlier, "InputCombo1").lineEdit();
+        QTest::keyClicks(&edit, u"x"_s);
+        edit.clear();
+        compose(edit, words);
+        press(earlier, "FindBtn");
+    }
+    FindDialog next;
+    EXPECT_TRUE(next.InitFrm(&fields));
+    present(next);
+    auto &words = part<QComboBox>(next, "InputCombo1");
+    EXPECT_EQ(words.currentText(), Hint);
+    EXPECT_EQ(words.itemText(0), u"绿茶 杭州"_s);
+    EXPECT_EQ(words.itemText(1), u"大米"_s);
+    EXPECT_EQ(words.findText(u"绿茶 杭州"_s, Qt::MatchExactly), 0);
+    // What is typed is not completed from them.
+    compose(*words.lineEdit(), u"大"_s);
+    EXPECT_EQ(words.currentText(), u"大"_s);
+    words.lineEdit()->clear();
+    QTest::keyClick(&words, Qt::Key_Down);
+    EXPECT_EQ(words.currentText(), u"绿茶 杭州"_s);
+    press(next, "FindBtn");
+    EXPECT_EQ(next.strFindText(), u"绿茶%杭州"_s);
+}

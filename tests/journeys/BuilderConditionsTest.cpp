@@ -139,7 +139,8 @@ TEST_P(BuilderConditions, OnTextsMeanWhatTheySay)
                 << qUtf8Printable(captionOf(op));
         };
         compare(Equals, [&](const QString &each) { return each == wanted; });
-        compare(NotEquals, [&](const QString &each) { return each != wanted; });
+        EXPECT_EQ(found(text, NotEquals, wanted).toStdString(),
+                  expected([&](const Values &each) { return each.text != wanted; }).toStdString());
         compare(Contains, [&](const QString &each) { return each.contains(wanted); });
         compare(BeginsWith, [&](const QString &each) { return each.startsWith(wanted); });
         compare(EndsWith, [&](const QString &each) { return each.endsWith(wanted); });
@@ -174,7 +175,8 @@ TEST_P(BuilderConditions, OnNumbersMeanWhatTheySay)
                 << qUtf8Printable(captionOf(op));
         };
         compare(Equals, [&](int each) { return each == wanted; });
-        compare(NotEquals, [&](int each) { return each != wanted; });
+        EXPECT_EQ(found(number, NotEquals, QString::number(wanted)).toStdString(),
+                  expected([&](const Values &each) { return each.number != wanted; }).toStdString());
         compare(Greater, [&](int each) { return each > wanted; });
         compare(Less, [&](int each) { return each < wanted; });
         compare(AtLeast, [&](int each) { return each >= wanted; });

@@ -51,6 +51,9 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
             ConditionRequest request = session->conditionRequest();
             request.refusal = asked.refusal;
             request.memory = asked.memory;
+            request.condition = asked.condition;
+            request.field = asked.field;
+            request.value = asked.value;
             const QString condition = DialogQuestions(viewer).askCondition(request);
             asked.memory = request.memory;
             return condition;

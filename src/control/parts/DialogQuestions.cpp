@@ -72,7 +72,9 @@ QString DialogQuestions::askCondition(const ConditionRequest &request)
     const auto filter =
         request.memory ? std::static_pointer_cast<mod_Filter>(request.memory) : preparedFilter(request);
     request.memory = filter;
-    return filter->ShowFilterDialog(request.refusal);
+    const QString condition = filter->ShowFilterDialog(request.refusal);
+    request.built = filter->Built();
+    return condition;
 }
 
 std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionRequest &request)
@@ -84,7 +86,10 @@ std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionReque
     prepared.sqlShow = request.sqlShow;
     prepared.connection = request.connection;
     prepared.result = request.result;
+    prepared.condition = request.condition;
     prepared.field = request.field;
+    prepared.value = request.value;
+    prepared.built = request.built;
     prepared.picture = toolbarIcon(CommandKeys::Filter);
     auto filter = std::make_shared<mod_Filter>(m_parent);
     filter->PrepareFilterDialog(prepared);

@@ -137,6 +137,32 @@ QString patternInWords(QString pattern, QChar escape)
     return words.arg(quoted(text));
 }
 
+// What the filter builder writes to compare records with each other: values that occur several times, or the
+// first ones of a sort. Nothing for other lists.
+std::optional<QString> recordsInWords(const SqlScanner &sql, TextRange list)
+{
+    if (!sql.isWord(list.begin, u"SELECT"))
+        return std::nullopt;
+    bool isFirstOfSort = false;
+    bool isDescending = false;
+    QString count;
+    const int depth = sql.at(list.begin).depth;
+    for (qsizetype i = list.begin; i < list.end; ++i) {
+        // The records that are compared can have met such a condition themselves, farther inside.
+        if (sql.at(i).depth > depth + 1)
+            continue;
+        if (sql.isWord(i, u"HAVING"))
+            return QueryTexts::RepeatedInWords;
+        isFirstOfSort = isFirstOfSort || sql.isWord(i, u"KovaFirst");
+        isDescending = isDescending || sql.isWord(i, u"DESC");
+        if ((sql.isWord(i, u"LIMIT") || sql.isWord(i, u"NEXT") || sql.isWord(i, u"TOP")) && i + 1 < list.end)
+            count = sql.text(i + 1).toString();
+    }
+    if (!isFirstOfSort)
+        return std::nullopt;
+    return (isDescending ? QueryTexts::LargestInWords : QueryTexts::SmallestInWords).arg(count);
+}
+
 struct Comparison
 {
     QString operand;
@@ -220,9 +246,11 @@ Comparison comparisonOf(const SqlScanner &sql, TextRange range)
                        ? Comparison{operandInWords(sql, {range.begin, i - 1}), u"≠ "_s + number}
                        : Comparison{operand, QueryTexts::EqualsInWords.arg(number)};
         }
-        if (sql.isWord(i, u"IN") && !sql.isWord(i - 1, u"NOT"))
-            return {operand,
-                    QueryTexts::InListInWords.arg(textOf(sql, withoutBrackets(sql, behind)).simplified())};
+        if (sql.isWord(i, u"IN") && !sql.isWord(i - 1, u"NOT")) {
+            const TextRange list = withoutBrackets(sql, behind);
+            return {operand, recordsInWords(sql, list).value_or(
+                                 QueryTexts::InListInWords.arg(textOf(sql, list).simplified()))};
+        }
         static constexpr QStringView signs = u"=<>!";
         const auto isSign = [&](qsizetype token) {
             return token < range.end && sql.at(token).kind == SqlToken::Kind::Symbol &&

@@ -211,6 +211,13 @@ QString Derivation::prefix() const
     return withWordsApart(m_parts.with, 0) + u' ';
 }
 
+QString Derivation::condition() const
+{
+    if (m_kind == Kind::Closed || m_parts.where.isEmpty())
+        return {};
+    return withWordsApart(m_sql, {m_parts.where.begin + 1, m_parts.where.end}, 1);
+}
+
 FilteredResult Derivation::filteredResult() const
 {
     FilteredResult result{prefix(), source(), {}};

@@ -108,6 +108,8 @@ public:
     // any condition: SELECT DISTINCT written() FROM source().
     QString source() const;
     QString prefix() const;
+    // The condition of the statement's own WHERE over source(); empty when there is none.
+    QString condition() const;
     FilteredResult filteredResult() const;
 
 private:

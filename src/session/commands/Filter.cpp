@@ -1,3 +1,4 @@
+#include "ado/Recordset.h"
 #include "session/HostEvents.h"
 #include "session/Questions.h"
 #include "session/Session.h"
@@ -16,29 +17,71 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// The value under the cursor, where it can be typed into one line.
+QString currentValue(Session &session, int row, int col)
+{
+    const ADODB::Recordset &recordset = *session.result().recordset();
+    const qint64 record = session.recordOfRow(row);
+    constexpr qsizetype longest = 100; // characters
+    if (row == 0 || record < 1 || record > recordset.RecordCount() || recordset.IsNull(record, col - 1))
+        return {};
+    const QString text = recordset.CellText(record, col - 1);
+    return text.size() <= longest && !text.contains(u'\n') ? text : QString();
+}
+
+// What the dialog begins with: the field that was asked for, else the condition in force where the new one
+// replaces it, else the current cell.
+void beginWhereUserIs(Session &session, ConditionRequest &request, const QString &field, bool replaces)
+{
+    request.field = field;
+    if (!field.isEmpty())
+        return;
+    if (replaces) {
+        request.built = session.lastBuilt.built;
+        return;
+    }
+    const int col = session.window().currentCol();
+    if (col == 0)
+        return;
+    request.field = session.window().Headings().value(col - 1);
+    request.value = currentValue(session, session.window().Row(), col);
+}
+
+// Whether the condition built last holds now and gives way to the next one.
+bool isReplaced(Session &session)
+{
+    QString shown;
+    const QString condition = session.lastBuilt.condition.simplified();
+    return !session.rules().narrowsShown && !session.isFromResult() && !condition.isEmpty() &&
+           session.history().GetLatestSQL(shown) && shown.simplified().contains(condition);
+}
+
 // Shows the records that meet a condition. What the database says against it goes to `refusal` where one is
 // given, else to the user.
-void filterBy(Session &session, FilterManagerRollback &ground, const QString &condition, QString *refusal)
+bool filterBy(Session &session, FilterManagerRollback &ground, const QString &condition, QString *refusal)
 {
     session.setLastFilter(condition);
     QString statement;
     const QString added = session.rules().trimsCondition ? condition.trimmed() : condition;
-    if (!added.trimmed().isEmpty() && session.addCondition(added, statement) &&
-        session.reloadFiltered(statement, true, refusal))
-        ground.keepChanges();
+    if (added.trimmed().isEmpty() || !session.addCondition(added, statement) ||
+        !session.reloadFiltered(statement, true, refusal))
+        return false;
+    ground.keepChanges();
+    return true;
 }
 
 // Asks until the database takes the condition or the user cancels.
-void askUser(Session &session, FilterManagerRollback &ground, const QString &field)
+void askUser(Session &session, FilterManagerRollback &ground, const QString &field, bool replaces)
 {
     ConditionRequest request = session.conditionRequest();
-    request.field = field;
+    beginWhereUserIs(session, request, field, replaces);
     do {
         const QString condition = session.questions().askCondition(request);
         if (!ground.isResultUntouched())
             return;
         request.refusal.clear();
-        filterBy(session, ground, condition, &request.refusal);
+        if (filterBy(session, ground, condition, &request.refusal))
+            session.lastBuilt = {condition, request.built};
     } while (!request.refusal.isEmpty() && ground.isResultUntouched());
 }
 
@@ -46,6 +89,8 @@ void askUser(Session &session, FilterManagerRollback &ground, const QString &fie
 // when the host puts another result in its place.
 void askHost(Session &session, FilterManagerRollback &ground, const QString &field)
 {
+    const bool replaces = isReplaced(session); // before the history is stepped back
+
     session.texts.passQurryFilter.clear();
     QString base;
     colShowSQLSentences &history = ground.manager().SQLManager();
@@ -57,7 +102,7 @@ void askHost(Session &session, FilterManagerRollback &ground, const QString &fie
     if (!ground.isResultUntouched())
         return;
     if (cancel == leftToTheDialog)
-        askUser(session, ground, field);
+        askUser(session, ground, field, replaces);
     else
         filterBy(session, ground, session.texts.passQurryFilter, nullptr);
 }
@@ -70,7 +115,7 @@ void filterByDialog(Session &session, const QString &field)
     if (session.rules().asksHostForCondition)
         askHost(session, rollback, field);
     else
-        askUser(session, rollback, field);
+        askUser(session, rollback, field, false);
 }
 
 namespace {
