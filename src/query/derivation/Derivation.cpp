@@ -215,7 +215,7 @@ QString Derivation::condition() const
 {
     if (m_kind == Kind::Closed || m_parts.where.isEmpty())
         return {};
-    return withWordsApart(m_sql, {m_parts.where.begin + 1, m_parts.where.end}, 1);
+    return withWordsApart({m_parts.where.begin + 1, m_parts.where.end}, 1);
 }
 
 FilteredResult Derivation::filteredResult() const
