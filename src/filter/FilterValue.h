@@ -17,7 +17,7 @@ struct FilterValue
     // the literal is then the first of them, and this is the day that follows the last of them.
     QString nextDay = {};
     NumberRange shownAlike = {}; // of a float: what is shown like the number
-    bool isTrue = false; // of a Boolean
+    bool isTrue = false;         // of a Boolean
     // For finding which of two values is larger, where that is known: the first and the last one meant.
     std::optional<double> rank = {};
     std::optional<double> lastRank = {};

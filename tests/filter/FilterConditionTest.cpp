@@ -52,7 +52,7 @@ TEST(FilterCondition, AFractionMeansAllNumbersThatAreShownAsIt)
     const std::string from = "0.4999999999999995";
     const std::string to = "0.5000000000000006";
     EXPECT_EQ(sqlOf(Equals, u"0.5"_s), "F BETWEEN " + from + " AND " + to);
-    EXPECT_EQ(sqlOf(NotEquals, u"0.5"_s), "F NOT BETWEEN " + from + " AND " + to);
+    EXPECT_EQ(sqlOf(NotEquals, u"0.5"_s), "(F NOT BETWEEN " + from + " AND " + to + " OR F IS NULL)");
     EXPECT_EQ(sqlOf(Greater, u"0.5"_s), "F > " + to);
     EXPECT_EQ(sqlOf(Less, u"0.5"_s), "F < " + from);
     EXPECT_EQ(sqlOf(AtLeast, u"0.5"_s), "F >= " + from);

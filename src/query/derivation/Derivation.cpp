@@ -28,7 +28,8 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
     // A condition leaves the same rows before and after DISTINCT.
     const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
                         !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
-                        !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isClosed && m_isListKnown;
+                        !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isClosed && m_isListKnown &&
+                        !isDistinctWithConstant();
     if (!isOpen) {
         m_kind = Kind::Closed;
         m_written.clear();

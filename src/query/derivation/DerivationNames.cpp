@@ -37,23 +37,36 @@ bool isTextWithPrefix(const SqlScanner &sql, TextRange value)
            sql.at(value.begin).end() == sql.at(value.begin + 1).start;
 }
 
+bool isConstant(const SqlScanner &sql, const SelectParts::Item &item)
+{
+    if (isTextWithPrefix(sql, item.value))
+        return true;
+    const SqlToken::Kind kind = sql.at(item.value.begin).kind;
+    return item.value.end - item.value.begin == 1 && !item.isName && !item.isStar &&
+           (kind == SqlToken::Kind::Number || kind == SqlToken::Kind::String || kind == SqlToken::Kind::Word);
+}
+
 // The value as it can stand beside an operator.
 QString operand(const SqlScanner &sql, const SelectParts::Item &item)
 {
     const QString text = textOf(sql, item.value);
-    const bool isOneToken = item.value.end - item.value.begin == 1;
-    const SqlToken::Kind kind = sql.at(item.value.begin).kind;
     // A sort takes a number for a position, and some engines refuse other constants.
-    const bool isConstant =
-        isOneToken && !item.isName &&
-        (kind == SqlToken::Kind::Number || kind == SqlToken::Kind::String || kind == SqlToken::Kind::Word);
-    if (isConstant || isTextWithPrefix(sql, item.value))
+    if (isConstant(sql, item))
         return u"(CASE WHEN 1=1 THEN %1 END)"_s.arg(text);
+    const bool isOneToken = item.value.end - item.value.begin == 1;
     const bool isWhole = item.isName || isOneToken || isOneCall(sql, item.value);
     return isWhole ? text : u'(' + text + u')';
 }
 
 } // namespace
+
+// DISTINCT sorts by what stands in its list only, and a constant there can't be sorted by as it is written.
+bool Derivation::isDistinctWithConstant() const
+{
+    return m_parts.isDistinct && std::ranges::any_of(m_parts.items, [this](const SelectParts::Item &item) {
+               return isConstant(m_sql, item);
+           });
+}
 
 void Derivation::nameFields(const std::vector<SourceField> &fields)
 {
