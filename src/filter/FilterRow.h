@@ -1,8 +1,8 @@
 #pragma once
 
-#include "filter/FilterCondition.h"
-#include "filter/FilterSql.h"
-#include "filter/FilterState.h"
+#include "filter/conditions/FilterCondition.h"
+#include "filter/conditions/FilterSql.h"
+#include "filter/conditions/FilterState.h"
 
 #include <QtWidgets/QWidget>
 

@@ -1,7 +1,7 @@
 #include "filter/FilterRows.h"
 
-#include "filter/FilterSentence.h"
 #include "filter/FilterTexts.h"
+#include "filter/conditions/FilterSentence.h"
 
 #include <QtWidgets/QVBoxLayout>
 

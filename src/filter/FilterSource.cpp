@@ -6,7 +6,7 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "ado/connection/EngineOf.h"
-#include "filter/FilterSql.h"
+#include "filter/conditions/FilterSql.h"
 #include "sql/Literals.h"
 #include "sql/Names.h"
 

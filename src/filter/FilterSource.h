@@ -1,7 +1,7 @@
 #pragma once
 
-#include "filter/FilterCondition.h"
 #include "filter/ValueReading.h"
+#include "filter/conditions/FilterCondition.h"
 #include "query/derivation/Derivation.h"
 
 #include <memory>

@@ -1,8 +1,8 @@
 #include "filter/ValueEdit.h"
 
-#include "filter/FilterDays.h"
 #include "filter/FilterTexts.h"
-#include "filter/FilterValue.h"
+#include "filter/conditions/FilterDays.h"
+#include "filter/conditions/FilterValue.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QScopedValueRollback>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "filter/FieldClass.h"
 #include "filter/ValueReading.h"
+#include "filter/conditions/FieldClass.h"
 
 #include <QtWidgets/QLineEdit>
 

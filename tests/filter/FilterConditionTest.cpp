@@ -1,4 +1,4 @@
-#include "filter/FilterCondition.h"
+#include "filter/conditions/FilterCondition.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The days that a text names, on days of the calendar where that goes wrong most easily.
-#include "filter/FilterDays.h"
+#include "filter/conditions/FilterDays.h"
 
 #include <gtest/gtest.h>
 

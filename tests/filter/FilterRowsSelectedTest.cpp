@@ -1,5 +1,5 @@
 // Conditions run on a database select exactly the rows that a plain loop over the same values selects.
-#include "filter/FilterCondition.h"
+#include "filter/conditions/FilterCondition.h"
 
 #include "ado/Connection.h"
 #include "ado/Recordset.h"

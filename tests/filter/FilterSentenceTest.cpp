@@ -1,4 +1,4 @@
-#include "filter/FilterSentence.h"
+#include "filter/conditions/FilterSentence.h"
 
 #include <gtest/gtest.h>
 

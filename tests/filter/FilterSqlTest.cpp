@@ -1,4 +1,4 @@
-#include "filter/FilterSql.h"
+#include "filter/conditions/FilterSql.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "filter/FilterValue.h"
+#include "filter/conditions/FilterValue.h"
 
 #include <gtest/gtest.h>
 

@@ -5,8 +5,8 @@
 #include "ado/Connection.h"
 #include "ado/Recordset.h"
 #include "ado/connection/EngineOf.h"
-#include "filter/FilterCondition.h"
 #include "filter/FilterSource.h"
+#include "filter/conditions/FilterCondition.h"
 
 #include <gtest/gtest.h>
 

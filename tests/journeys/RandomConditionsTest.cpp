@@ -6,8 +6,8 @@
 #include "ado/Connection.h"
 #include "ado/Error.h"
 #include "ado/Recordset.h"
-#include "filter/FilterCondition.h"
 #include "filter/FilterSource.h"
+#include "filter/conditions/FilterCondition.h"
 
 #include <gtest/gtest.h>
 

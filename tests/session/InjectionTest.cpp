@@ -7,7 +7,7 @@
 #include "../journeys/JourneyDatabase.h"
 
 #include "ado/Error.h"
-#include "filter/FilterCondition.h"
+#include "filter/conditions/FilterCondition.h"
 #include "sql/Names.h"
 
 #include <QtCore/QMimeData>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "filter/FieldClass.h"
+#include "filter/conditions/FieldClass.h"
 #include "sql/Literals.h"
 
 #include <QtCore/QDate>

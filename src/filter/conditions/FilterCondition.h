@@ -1,7 +1,7 @@
 #pragma once
 
-#include "filter/FilterOperator.h"
-#include "filter/FilterSql.h"
+#include "filter/conditions/FilterOperator.h"
+#include "filter/conditions/FilterSql.h"
 #include "sql/Engine.h"
 #include "sql/Literals.h"
 

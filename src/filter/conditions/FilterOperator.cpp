@@ -1,4 +1,4 @@
-#include "filter/FilterOperator.h"
+#include "filter/conditions/FilterOperator.h"
 
 #include "filter/FilterTexts.h"
 

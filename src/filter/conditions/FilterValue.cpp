@@ -1,7 +1,7 @@
-#include "filter/FilterValue.h"
+#include "filter/conditions/FilterValue.h"
 
-#include "filter/FilterDays.h"
 #include "filter/FilterTexts.h"
+#include "filter/conditions/FilterDays.h"
 #include "sql/Literals.h"
 
 #include <QtCore/QRegularExpression>

@@ -1,7 +1,7 @@
-#include "filter/FilterCondition.h"
+#include "filter/conditions/FilterCondition.h"
 
 #include "filter/FilterTexts.h"
-#include "filter/FilterValue.h"
+#include "filter/conditions/FilterValue.h"
 #include "sql/Like.h"
 #include "sql/Literals.h"
 #include "sql/Predicates.h"

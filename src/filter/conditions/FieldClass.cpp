@@ -1,4 +1,4 @@
-#include "filter/FieldClass.h"
+#include "filter/conditions/FieldClass.h"
 
 #include "ado/values/NumericTypes.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "filter/FilterCondition.h"
+#include "filter/conditions/FilterCondition.h"
 
 namespace KOVAVSFDataGridLib {
 

@@ -1,8 +1,8 @@
-#include "filter/FilterSentence.h"
+#include "filter/conditions/FilterSentence.h"
 
-#include "filter/FilterDays.h"
 #include "filter/FilterTexts.h"
-#include "filter/FilterValue.h"
+#include "filter/conditions/FilterDays.h"
+#include "filter/conditions/FilterValue.h"
 
 namespace KOVAVSFDataGridLib {
 

@@ -1,4 +1,4 @@
-#include "filter/FilterState.h"
+#include "filter/conditions/FilterState.h"
 
 #include <QtCore/QJsonObject>
 

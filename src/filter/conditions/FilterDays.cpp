@@ -1,4 +1,4 @@
-#include "filter/FilterDays.h"
+#include "filter/conditions/FilterDays.h"
 
 #include "filter/FilterTexts.h"
 

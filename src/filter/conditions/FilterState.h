@@ -1,6 +1,6 @@
 #pragma once
 
-#include "filter/FilterOperator.h"
+#include "filter/conditions/FilterOperator.h"
 
 #include <QtCore/QJsonArray>
 
