@@ -1,6 +1,7 @@
 #include "support/MessageAnswers.h"
 
 #include <QtCore/QEvent>
+#include <QtCore/QPointer>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
@@ -46,9 +47,11 @@ QStringList MessageAnswers::texts() const
 bool MessageAnswers::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Show) {
-        if (auto *box = qobject_cast<QMessageBox *>(watched))
+        if (const QPointer<QMessageBox> box = qobject_cast<QMessageBox *>(watched)) {
+            // Either may be gone by then.
             QMetaObject::invokeMethod(
-                box, [this, box] { answer(*box); }, Qt::QueuedConnection);
+                this, [this, box] { return box ? answer(*box) : void(); }, Qt::QueuedConnection);
+        }
     }
     return QObject::eventFilter(watched, event);
 }
