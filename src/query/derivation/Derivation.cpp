@@ -28,8 +28,7 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
     // A condition leaves the same rows before and after DISTINCT.
     const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
                         !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
-                        !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isClosed && m_isListKnown &&
-                        !isDistinctWithConstant();
+                        !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isClosed && m_isListKnown;
     if (!isOpen) {
         m_kind = Kind::Closed;
         m_written.clear();
@@ -110,7 +109,8 @@ QString Derivation::withSort(const QString &sortList) const
     if (!whyNot(DerivationStep::Sort).isEmpty())
         return {};
     SQLSentence sentence = base();
-    sentence.order = sortList.isEmpty() ? QString() : orderWords + sortList;
+    const QString terms = sortableTerms(sortList);
+    sentence.order = terms.isEmpty() ? QString() : orderWords + terms;
     return joinSQLSentence(sentence);
 }
 

@@ -131,7 +131,7 @@ private:
     QString outerSort() const;
     QString stableSort() const;
     int fieldOfTerm(const SelectParts::Item &term) const;
-    bool isDistinctWithConstant() const;
+    QString sortableTerms(const QString &sortList) const;
     QString sortWithin(const QStringList &entries) const;
     QString valueOf(int field) const;
     bool keepsListWords() const;

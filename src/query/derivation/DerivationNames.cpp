@@ -60,12 +60,27 @@ QString operand(const SqlScanner &sql, const SelectParts::Item &item)
 
 } // namespace
 
-// DISTINCT sorts by what stands in its list only, and a constant there can't be sorted by as it is written.
-bool Derivation::isDistinctWithConstant() const
+// DISTINCT sorts by what its list has, and a constant is written in another way there. It puts no row before
+// another one, so that its terms can be left out.
+QString Derivation::sortableTerms(const QString &sortList) const
 {
-    return m_parts.isDistinct && std::ranges::any_of(m_parts.items, [this](const SelectParts::Item &item) {
-               return isConstant(m_sql, item);
-           });
+    QStringList constants;
+    for (int field = 0; m_kind == Kind::Open && isDistinct() && field < m_written.size(); ++field) {
+        const int item = m_itemOfField[static_cast<std::size_t>(field)];
+        if (item >= 0 && isConstant(m_sql, m_parts.items[static_cast<std::size_t>(item)]))
+            constants.append(m_written.at(field));
+    }
+    if (constants.isEmpty())
+        return sortList;
+    const SqlScanner sql(u"SELECT * FROM T ORDER BY "_s + sortList, readingOf(m_dialect), {.brackets = true});
+    QStringList terms;
+    for (const SelectParts::Item &term : SelectParts::of(sql).sort) {
+        const QString text = textOf(sql, term.tokens);
+        if (std::ranges::none_of(constants,
+                                 [&](const QString &constant) { return text.startsWith(constant); }))
+            terms.append(text);
+    }
+    return terms.join(u',');
 }
 
 void Derivation::nameFields(const std::vector<SourceField> &fields)
