@@ -130,9 +130,8 @@ TEST(HexPane, WritesSixteenBytesOnALine)
     const QByteArray bytes = QByteArray("0123456789ABCDEF") + QByteArray("\x00\xff~ ", 4);
     EXPECT_EQ(HexPane::line(bytes, 0).toStdString(),
               "00000000  30 31 32 33 34 35 36 37 38 39 41 42 43 44 45 46  0123456789ABCDEF");
-    EXPECT_EQ(HexPane::line(bytes, 1).toStdString(),
-              "00000010  00 FF 7E 20" + std::string(36, ' ') + "  ..~ ");
-    EXPECT_EQ(HexPane::line(bytes, 2).toStdString(), "00000020  " + std::string(47, ' ') + "  ");
+    EXPECT_EQ(HexPane::line(bytes, 1), u"00000010  00 FF 7E 20"_s + QString(36, u' ') + u"  ..~ "_s);
+    EXPECT_EQ(HexPane::line(bytes, 2), u"00000020  "_s + QString(47, u' ') + u"  "_s);
 }
 
 TEST_F(ValueWindow, ShowsATextWithItsLineBreaks)
