@@ -80,12 +80,12 @@ void FilterRow::layOut()
     // Small enough for a screen of 800 pixels; the dialog is wider where there is room. Widths that do not
     // depend on a row's contents, so that the rows stand in columns.
     m_field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_field->setMinimumWidth(widthOfDigits(*this, 11));
+    m_field->setMinimumWidth(widthOfDigits(*this, 9));
     m_operator->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_operator->setMinimumContentsLength(8);
     m_operator->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto *values = new QWidget(this);
-    values->setMinimumWidth(widthOfDigits(*this, 28));
+    values->setMinimumWidth(widthOfDigits(*this, 38)); // two days and the buttons beside them
     auto *valueRow = new QHBoxLayout(values);
     valueRow->setContentsMargins({});
     valueRow->addWidget(m_value, 1);

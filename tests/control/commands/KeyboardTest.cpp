@@ -119,8 +119,10 @@ TEST_F(Keyboard, AssistiveToolsHearTheRowTheSelectionAndTheFilter)
     auto *cell = interface->tableInterface()->cellAt(1, 1);
     ASSERT_NE(cell, nullptr);
     EXPECT_EQ(cell->text(QAccessible::Name), u"普洱茶"_s);
+    const QAccessibleTableCellInterface *const place = cell->tableCellInterface();
+    ASSERT_NE(place, nullptr);
     QStringList headings;
-    for (QAccessibleInterface *heading : cell->tableCellInterface()->columnHeaderCells())
+    for (QAccessibleInterface *heading : place->columnHeaderCells())
         headings.append(heading->text(QAccessible::Name));
     EXPECT_TRUE(headings.join(u' ').startsWith(u"名称"_s)) << qPrintable(headings.join(u' '));
     QTest::keyClick(table, Qt::Key_Down, Qt::ShiftModifier);
