@@ -116,7 +116,10 @@ TEST_F(Keyboard, AssistiveToolsHearTheRowTheSelectionAndTheFilter)
     QTest::keyClick(table, Qt::Key_Down);
     EXPECT_TRUE(described().startsWith(u"第 2 条，共 12 条"_s)) << qPrintable(described());
     auto *interface = QAccessible::queryAccessibleInterface(table);
-    auto *cell = interface->tableInterface()->cellAt(1, 1);
+    ASSERT_NE(interface, nullptr);
+    QAccessibleTableInterface *const rows = interface->tableInterface();
+    ASSERT_NE(rows, nullptr);
+    auto *cell = rows->cellAt(1, 1);
     ASSERT_NE(cell, nullptr);
     EXPECT_EQ(cell->text(QAccessible::Name), u"普洱茶"_s);
     const QAccessibleTableCellInterface *const place = cell->tableCellInterface();
