@@ -1,3 +1,5 @@
+#include "Measure.h"
+
 #include "ado/Connection.h"
 #include "ado/Recordset.h"
 #include "ado/values/NumericTypes.h"
@@ -6,7 +8,6 @@
 #include "export/writers/TabTextWriter.h"
 #include "session/records/SelectionSummary.h"
 
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 
@@ -18,22 +19,6 @@
 using namespace KOVAVSFDataGridLib;
 
 namespace {
-
-constexpr int timesMeasured = 3;
-
-// The best of several runs, in milliseconds.
-template<typename Work>
-double measure(Work work, int runs = timesMeasured)
-{
-    double best = 1e12;
-    for (int run = 0; run < runs; ++run) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        best = std::min(best, static_cast<double>(timer.nsecsElapsed()) / 1e6);
-    }
-    return best;
-}
 
 ExportColumns columnsOf(const ADODB::Recordset &recordset)
 {

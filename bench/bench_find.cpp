@@ -1,8 +1,8 @@
+#include "Measure.h"
+
 #include "ado/Connection.h"
 #include "ado/Recordset.h"
 #include "session/find/CellSearch.h"
-
-#include <QtCore/QElapsedTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -12,22 +12,6 @@
 using namespace KOVAVSFDataGridLib;
 
 namespace {
-
-constexpr int timesMeasured = 3;
-
-// The best of several runs, in milliseconds.
-template<typename Work>
-double measure(Work work, int runs = timesMeasured)
-{
-    double best = 1e12;
-    for (int run = 0; run < runs; ++run) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        best = std::min(best, static_cast<double>(timer.nsecsElapsed()) / 1e6);
-    }
-    return best;
-}
 
 struct Sought
 {

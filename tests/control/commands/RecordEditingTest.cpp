@@ -15,17 +15,7 @@ namespace {
 class RecordEditing : public Shop
 {
 protected:
-    void makeCurrent(const QString &field)
-    {
-        const QModelIndex cell = list->model()->index(listedRow(field), 1);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(cell).center());
-        list->setFocus();
-    }
     QPlainTextEdit *lines() { return grid.findChild<QPlainTextEdit *>(u"txtLines"_s); }
-    QString stored(const QString &field, int id) const
-    {
-        return database.ask(u"SELECT \"%1\" FROM 商品 WHERE ID = %2"_s.arg(field).arg(id));
-    }
 };
 
 } // namespace

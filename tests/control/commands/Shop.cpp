@@ -1,5 +1,7 @@
 #include "Shop.h"
 
+#include <QtTest/QTest>
+
 using namespace Qt::StringLiterals;
 
 namespace KovaTest {
@@ -28,6 +30,18 @@ Shop::Shop() : Hands(database.connectionString(), KOVAVSFDataGrid::dbAccess) {}
 bool Shop::load(const QString &statement, const QString &part)
 {
     return Hands::load(statement, part);
+}
+
+void Shop::makeCurrent(const QString &field)
+{
+    const QModelIndex cell = list->model()->index(listedRow(field), 1);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(cell).center());
+    list->setFocus();
+}
+
+QString Shop::stored(const QString &field, int id) const
+{
+    return database.ask(u"SELECT \"%1\" FROM 商品 WHERE ID = %2"_s.arg(field).arg(id));
 }
 
 } // namespace KovaTest

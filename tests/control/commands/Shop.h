@@ -32,6 +32,10 @@ protected:
 
     Shop();
     bool load(const QString &statement = statementOfAll(), const QString &part = statementOfPart());
+    // Makes a field current in the single-record list, which gets the keyboard.
+    void makeCurrent(const QString &field);
+    // What the database has of 商品.
+    QString stored(const QString &field, int id) const;
 };
 
 } // namespace KovaTest

@@ -13,25 +13,15 @@ namespace {
 class SingleRecord : public Shop
 {
 protected:
-    void stand(const QString &field)
-    {
-        const QModelIndex cell = list->model()->index(listedRow(field), 1);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(cell).center());
-        list->setFocus();
-    }
     // Types over a value and takes it with Enter.
     void write(const QString &field, const QString &text)
     {
-        stand(field);
+        makeCurrent(field);
         QTest::keyClick(list, Qt::Key_F2);
         ASSERT_TRUE(edit->isVisible());
         edit->selectAll();
         compose(*edit, text);
         QTest::keyClick(edit, Qt::Key_Return);
-    }
-    QString stored(const QString &field, int id) const
-    {
-        return database.ask(u"SELECT \"%1\" FROM 商品 WHERE ID = %2"_s.arg(field).arg(id));
     }
 };
 
@@ -219,7 +209,7 @@ TEST_F(SingleRecord, TypingBeginsAnEditAndEscRestores)
 {
     ASSERT_TRUE(load());
     click(u"SingleRecord"_s);
-    stand(u"名称"_s);
+    makeCurrent(u"名称"_s);
     QTest::keyClick(list, 'a');
     ASSERT_TRUE(edit->isVisible());
     EXPECT_TRUE(edit->hasFocus());
@@ -236,7 +226,7 @@ TEST_F(SingleRecord, ChineseCanBeTypedToBegin)
 {
     ASSERT_TRUE(load());
     click(u"SingleRecord"_s);
-    stand(u"名称"_s);
+    makeCurrent(u"名称"_s);
     QInputMethodEvent typed;
     typed.setCommitString(u"碧螺春"_s);
     QCoreApplication::sendEvent(list, &typed);
@@ -251,7 +241,7 @@ TEST_F(SingleRecord, AllAndPartTakeWhatIsBeingTyped)
     ASSERT_TRUE(load());
     click(u"SingleRecord"_s);
     for (const QString &key : {u"Part"_s, u"All"_s}) {
-        stand(u"名称"_s);
+        makeCurrent(u"名称"_s);
         QTest::keyClick(list, Qt::Key_F2);
         compose(*edit, key);
         click(key);
@@ -339,7 +329,7 @@ TEST_F(SingleRecord, AnEmptiedNumberIsNull)
 {
     ASSERT_TRUE(load());
     click(u"SingleRecord"_s);
-    stand(u"Unit Price"_s);
+    makeCurrent(u"Unit Price"_s);
     QTest::keyClick(list, Qt::Key_F2);
     edit->clear();
     QTest::keyClick(edit, Qt::Key_Return);
@@ -351,7 +341,7 @@ TEST_F(SingleRecord, WhatCannotBeWrittenOpensForReadingAndSaysSo)
 {
     ASSERT_TRUE(load(u"SELECT 城市, count(*) AS 个数 FROM 商品 GROUP BY 城市"_s, {}));
     click(u"SingleRecord"_s);
-    stand(u"城市"_s);
+    makeCurrent(u"城市"_s);
     QTest::keyClick(list, 'x');
     ASSERT_TRUE(edit->isVisible());
     EXPECT_TRUE(edit->isReadOnly());
@@ -365,7 +355,7 @@ TEST_F(SingleRecord, ResizingTakesTheTypedTextAndPutsTheBoxAway)
 {
     ASSERT_TRUE(load());
     click(u"SingleRecord"_s);
-    stand(u"名称"_s);
+    makeCurrent(u"名称"_s);
     QTest::keyClick(list, 'a');
     grid.resize(1300, 500);
     EXPECT_FALSE(edit->isVisible());
