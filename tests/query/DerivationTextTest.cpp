@@ -124,6 +124,22 @@ TEST(DerivationText, FieldsOfEqualNamesAreToldApartByTheirTable)
         EXPECT_EQ(natural.whyNot(step), QueryTexts::EqualNames.arg(u"ID"_s));
 }
 
+TEST(DerivationText, ChosenFieldsAreFoundAgainByValueAndName)
+{
+    const Dialect dialect = dialectOf(dbAccess, Engine::SQLite);
+    const std::vector<SourceField> fields{
+        {u"ID"_s, 3, u"Ord"_s}, {u"Cust"_s, 3, u"Ord"_s}, {u"ID"_s, 3, u"Cust"_s}};
+    const Derivation stars(u"select o.*, c.* from Ord o, Cust c where o.Cust = c.ID"_s, fields, dialect);
+    const Derivation bothIds(u"select o.ID,c.ID from Ord o, Cust c where o.Cust = c.ID"_s,
+                             {{u"ID"_s, 3, u"Ord"_s}, {u"ID"_s, 3, u"Cust"_s}}, dialect);
+    EXPECT_EQ(stars.listedFor(bothIds), (QStringList{u"o.ID"_s, u"c.ID"_s}));
+
+    const QStringList twice{u"n"_s, u"m"_s};
+    const Derivation aliases = derive(Engine::SQLite, u"select Name as n, Name as m from Ord"_s, twice);
+    const Derivation second = derive(Engine::SQLite, u"select Name as m from Ord"_s, {u"m"_s});
+    EXPECT_EQ(aliases.listedFor(second), QStringList(u"Name as m"_s));
+}
+
 namespace {
 
 struct StarCase

@@ -132,6 +132,7 @@ private:
     QString stableSort() const;
     int fieldOfTerm(const SelectParts::Item &term) const;
     QString sortableTerms(const QString &sortList) const;
+    qsizetype fieldFor(const QString &value, const QString &name) const;
     QString sortWithin(const QStringList &entries) const;
     QString valueOf(int field) const;
     bool keepsListWords() const;

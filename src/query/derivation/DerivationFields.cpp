@@ -66,18 +66,29 @@ QStringList Derivation::listedFor(const Derivation &part) const
 {
     QStringList entries;
     for (qsizetype i = 0; i < part.m_names.size(); ++i) {
-        const QString value = part.valueOf(static_cast<int>(i)).simplified();
-        qsizetype own = 0;
-        while (own < m_names.size() &&
-               valueOf(static_cast<int>(own)).simplified().compare(value, Qt::CaseInsensitive) != 0)
-            ++own;
-        if (own == m_names.size())
-            own = m_names.indexOf(part.m_names.at(i));
+        const qsizetype own = fieldFor(part.valueOf(static_cast<int>(i)).simplified(), part.m_names.at(i));
         if (own < 0)
             return {};
         entries.append(m_listed.at(own));
     }
     return entries;
+}
+
+// The field with that value, of several the one with that name, else the first with that name. A field that
+// comes through a star is known by the way it is listed.
+qsizetype Derivation::fieldFor(const QString &value, const QString &name) const
+{
+    const auto isSame = [&value](const QString &text) {
+        return text.simplified().compare(value, Qt::CaseInsensitive) == 0;
+    };
+    qsizetype found = -1;
+    for (qsizetype own = m_names.size() - 1; own >= 0; --own) {
+        if (!isSame(valueOf(static_cast<int>(own))) && !isSame(m_listed.at(own)))
+            continue;
+        if (found < 0 || m_names.at(own) == name || m_names.at(found) != name)
+            found = own;
+    }
+    return found >= 0 ? found : m_names.indexOf(name);
 }
 
 QString Derivation::fieldsStatement() const
