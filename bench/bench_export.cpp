@@ -1,6 +1,6 @@
 #include "Measure.h"
+#include "MillionRecords.h"
 
-#include "ado/Connection.h"
 #include "ado/Recordset.h"
 #include "ado/values/NumericTypes.h"
 #include "export/ExportFile.h"
@@ -45,16 +45,8 @@ int main()
 {
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     const QTemporaryDir folder;
-    auto connection = std::make_shared<ADODB::Connection>();
-
-    connection->Open(QStringLiteral("Provider=SQLite;Data Source=:memory:"));
     ADODB::Recordset recordset;
-    recordset.Open(QStringLiteral("WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 1000000) "
-                                  "SELECT I, I * 7 AS A, I / 100.0 AS P, '名称' || I AS T, "
-                                  "date('2020-01-01', (I % 1000) || ' days') AS D, I % 2 AS B, I * 1.5 AS R, "
-                                  "'text, with a comma' AS C, NULL AS N, 'x' || (I % 10) AS X, I + 5 AS Y, "
-                                  "'2024-02-29 10:11:12' AS M FROM N"),
-                   connection);
+    openMillionRecords(recordset);
     const ExportColumns columns = columnsOf(recordset);
     const RecordRange all{1, recordset.RecordCount()};
     const auto shouldContinue = [](qint64) { return true; };
