@@ -38,8 +38,8 @@ install(FILES ${PROJECT_BINARY_DIR}/KOVAVSFDataGridLib.pc DESTINATION ${pkgconfi
 if(TARGET kovagrid)
   set_target_properties(kovagrid PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
   install(TARGETS kovagrid RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
-  set(kovagrid_dir ${PROJECT_SOURCE_DIR}/apps/kovagrid)
-  install(FILES ${kovagrid_dir}/kovagrid.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT runtime)
-  install(FILES ${kovagrid_dir}/kovagrid.svg
+  set(assets ${PROJECT_SOURCE_DIR}/apps/kovagrid/assets)
+  install(FILES ${assets}/kovagrid.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT runtime)
+  install(FILES ${assets}/kovagrid.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT runtime)
 endif()

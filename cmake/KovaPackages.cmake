@@ -103,7 +103,7 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
   install(FILES ${CMAKE_CURRENT_LIST_DIR}/packages/copyright DESTINATION ${doc_dir} COMPONENT ${component})
 endforeach()
 if(TARGET kovagrid)
-  kova_install_compressed(${PROJECT_SOURCE_DIR}/apps/kovagrid/kovagrid.1 ${CMAKE_INSTALL_MANDIR}/man1 runtime)
+  kova_install_compressed(${PROJECT_SOURCE_DIR}/apps/kovagrid/assets/kovagrid.1 ${CMAKE_INSTALL_MANDIR}/man1 runtime)
 endif()
 
 include(CPack)

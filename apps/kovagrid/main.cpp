@@ -1,9 +1,9 @@
 #include "HostTexts.h"
-#include "HostWindow.h"
-#include "Options.h"
-#include "QueryPage.h"
-#include "SampleDatabase.h"
-#include "Unattended.h"
+#include "database/SampleDatabase.h"
+#include "start/Options.h"
+#include "start/Unattended.h"
+#include "tab/QueryPage.h"
+#include "window/HostWindow.h"
 
 #include <KOVAVSFDataGrid>
 

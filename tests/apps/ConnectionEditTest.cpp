@@ -1,5 +1,5 @@
 // The host program's line for a connection string shows no password.
-#include "kovagrid/ConnectionEdit.h"
+#include "tab/ConnectionEdit.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtGui/QClipboard>

@@ -1,9 +1,10 @@
 // The window of kovagrid, used with mouse and keys.
-#include "kovagrid/HostWindow.h"
-#include "kovagrid/Catalogue.h"
-#include "kovagrid/QueryPage.h"
-#include "kovagrid/RecentConnections.h"
-#include "kovagrid/StatementEdit.h"
+#include "window/HostWindow.h"
+
+#include "database/Catalogue.h"
+#include "tab/QueryPage.h"
+#include "tab/RecentConnections.h"
+#include "tab/StatementEdit.h"
 
 #include <KOVAVSFDataGrid>
 

@@ -4,6 +4,7 @@
 #include <QtCore/QDirIterator>
 #include <QtCore/QFileInfo>
 #include <QtCore/QRegularExpression>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -85,8 +86,12 @@ QString IncludeArrows::faultOfOwn(const QString &file, const QString &name)
         return arrowFault(file, "src/"_L1 + name);
     if (file.startsWith("src/"_L1))
         return name == "KovaExport.h"_L1 ? QString() : u"includes are written from src/: "_s + name;
-    const QString own = isThere(beside) ? beside : name;
-    return m_rooms.folderOf(own) == m_rooms.folderOf(file) ? QString() : u"may not include "_s + name;
+    const QString folder = m_rooms.folderOf(file);
+    const bool isOwn =
+        std::ranges::any_of(QStringList{beside, folder + u'/' + name, name}, [&](const QString &path) {
+            return isThere(path) && m_rooms.folderOf(path) == folder;
+        });
+    return isOwn ? QString() : u"may not include "_s + name;
 }
 
 QString IncludeArrows::faultOfSystem(const QString &folder, const QString &name)

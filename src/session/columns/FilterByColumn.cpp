@@ -1,7 +1,7 @@
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/columns/ColumnCommand.h"
-#include "session/commands/FilterByDialog.h"
+#include "session/commands/rows/FilterByDialog.h"
 
 // The filter dialog with a column's field.
 

@@ -2,7 +2,7 @@
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/columns/ColumnCommand.h"
-#include "session/commands/ChosenFields.h"
+#include "session/commands/fields/ChosenFields.h"
 
 // Shows the fields that are shown without one of them.
 

@@ -1,6 +1,6 @@
 #include "session/Session.h"
 #include "session/columns/ColumnCommand.h"
-#include "session/commands/ShowSorted.h"
+#include "session/commands/rows/ShowSorted.h"
 #include "session/statement/FilterManagerRollback.h"
 #include "session/statement/ShownOrder.h"
 

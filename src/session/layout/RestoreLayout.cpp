@@ -2,8 +2,8 @@
 #include "session/ResultWatch.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
-#include "session/commands/ChosenFields.h"
 #include "session/commands/CommandKeys.h"
+#include "session/commands/fields/ChosenFields.h"
 #include "session/layout/LayoutTexts.h"
 #include "session/layout/SavedLayout.h"
 

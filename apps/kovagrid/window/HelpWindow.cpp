@@ -1,4 +1,4 @@
-#include "HelpWindow.h"
+#include "window/HelpWindow.h"
 
 #include "HostTexts.h"
 

@@ -1,4 +1,4 @@
-#include "StatementEdit.h"
+#include "tab/StatementEdit.h"
 
 #include <QtGui/QFontMetrics>
 #include <QtGui/QKeyEvent>

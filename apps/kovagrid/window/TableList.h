@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Catalogue.h"
+#include "database/Catalogue.h"
 
 #include <QtWidgets/QTreeWidget>
 

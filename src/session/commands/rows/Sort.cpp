@@ -1,7 +1,7 @@
 #include "session/Session.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
-#include "session/commands/ShowSorted.h"
+#include "session/commands/rows/ShowSorted.h"
 #include "session/statement/FilterManagerRollback.h"
 
 // Lets the user choose a sort and shows the records in it.

@@ -1,10 +1,10 @@
-#include "QueryPage.h"
+#include "tab/QueryPage.h"
 
-#include "Catalogue.h"
-#include "ConnectionEdit.h"
 #include "HostTexts.h"
-#include "RecentConnections.h"
-#include "StatementEdit.h"
+#include "database/Catalogue.h"
+#include "tab/ConnectionEdit.h"
+#include "tab/RecentConnections.h"
+#include "tab/StatementEdit.h"
 
 #include <KOVAVSFDataGrid>
 

@@ -1,14 +1,14 @@
-#include "HostWindow.h"
+#include "window/HostWindow.h"
 
-#include "Catalogue.h"
-#include "EventLog.h"
-#include "HelpWindow.h"
 #include "HostTexts.h"
-#include "PicturePane.h"
-#include "QueryPage.h"
 #include "Settings.h"
-#include "StatementEdit.h"
-#include "TableList.h"
+#include "database/Catalogue.h"
+#include "tab/QueryPage.h"
+#include "tab/StatementEdit.h"
+#include "window/EventLog.h"
+#include "window/HelpWindow.h"
+#include "window/PicturePane.h"
+#include "window/TableList.h"
 
 #include <KOVAVSFDataGrid>
 

@@ -5,7 +5,7 @@
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
-#include "session/commands/FilterByDialog.h"
+#include "session/commands/rows/FilterByDialog.h"
 #include "session/statement/FilterManagerRollback.h"
 
 // Asks the host for a condition by its event QurryFilter, and the user by the filter dialog unless the host

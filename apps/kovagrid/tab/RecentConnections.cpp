@@ -1,4 +1,4 @@
-#include "RecentConnections.h"
+#include "tab/RecentConnections.h"
 
 #include "Settings.h"
 

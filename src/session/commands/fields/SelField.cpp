@@ -1,9 +1,9 @@
 #include "session/HostEvents.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
-#include "session/commands/ChosenFields.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/commands/fields/ChosenFields.h"
 #include "session/statement/FilterManagerRollback.h"
 
 // Lets the user, or another one in his place, choose the part fields and shows them.

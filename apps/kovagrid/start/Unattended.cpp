@@ -1,4 +1,4 @@
-#include "Unattended.h"
+#include "start/Unattended.h"
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QApplication>

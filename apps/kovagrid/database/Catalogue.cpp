@@ -1,4 +1,4 @@
-#include "Catalogue.h"
+#include "database/Catalogue.h"
 
 #include <KOVAVSFDataGridLib/ado/Connection.h>
 #include <KOVAVSFDataGridLib/ado/ConnectionFactory.h>

@@ -1,5 +1,5 @@
 #include "session/SessionWindow.h"
-#include "session/commands/ShowFields.h"
+#include "session/commands/fields/ShowFields.h"
 
 // Shows the part fields alone.
 

@@ -1,4 +1,4 @@
-#include "SampleDatabase.h"
+#include "database/SampleDatabase.h"
 
 #include "HostTexts.h"
 

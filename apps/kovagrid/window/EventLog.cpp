@@ -1,4 +1,4 @@
-#include "EventLog.h"
+#include "window/EventLog.h"
 
 #include <KOVAVSFDataGrid>
 

@@ -1,4 +1,4 @@
-#include "session/commands/ShowFields.h"
+#include "session/commands/fields/ShowFields.h"
 
 #include "session/SessionWindow.h"
 

@@ -1,4 +1,4 @@
-#include "ConnectionEdit.h"
+#include "tab/ConnectionEdit.h"
 
 #include <KOVAVSFDataGridLib/ado/ConnectionString.h>
 

@@ -1,4 +1,4 @@
-#include "Options.h"
+#include "start/Options.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QRegularExpression>

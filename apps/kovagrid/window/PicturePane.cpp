@@ -1,4 +1,4 @@
-#include "PicturePane.h"
+#include "window/PicturePane.h"
 
 #include "HostTexts.h"
 

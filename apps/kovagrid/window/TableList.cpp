@@ -1,4 +1,4 @@
-#include "TableList.h"
+#include "window/TableList.h"
 
 #include "HostTexts.h"
 

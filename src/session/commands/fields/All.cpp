@@ -1,4 +1,4 @@
-#include "session/commands/ShowFields.h"
+#include "session/commands/fields/ShowFields.h"
 
 // Shows all fields.
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Options.h"
+#include "start/Options.h"
 
 #include <QtWidgets/QWidget>
 
