@@ -7,6 +7,7 @@
 #include "ado/Recordset.h"
 #include "ado/connection/EngineOf.h"
 #include "filter/conditions/FilterSql.h"
+#include "filter/conditions/ValueStatements.h"
 #include "sql/Literals.h"
 #include "sql/Names.h"
 
@@ -206,6 +207,23 @@ std::optional<ValueRequest> FilterSource::valueRequest(const FilterField &field,
         .sample =
             m_prefix + FilterSql::sampleOfValues(dialect(), field.written, m_fromText, most, recordsOfSample),
         .most = most};
+}
+
+ValueRequest FilterSource::tickRequest(const FilterField &field, const QString &condition,
+                                       const QString &search)
+{
+    const bool areDays = field.fieldClass == FieldClass::Date || field.fieldClass == FieldClass::Moment;
+    const int most = areDays ? mostDays : mostValues;
+    const ValueStatements statements(dialect(), field, {m_fromText, condition}, search);
+    return {.connection = connection(),
+            .values = m_prefix + statements.counted(most + 1),
+            .count = m_prefix + statements.countOfValues(),
+            .sample = m_prefix + statements.sample(most),
+            .most = most,
+            .withoutValue = search.isEmpty() ? m_prefix + statements.countOfEmpty() : QString(),
+            .isCounted = true,
+            .areDays = areDays,
+            .isHere = m_isShared};
 }
 
 void FilterSource::check(const QString &condition)

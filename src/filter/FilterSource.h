@@ -23,6 +23,7 @@ class FilterSource
 {
 public:
     static constexpr int mostValues = 200;
+    static constexpr int mostDays = 10000; // which a list of ticks shows by years and months
 
     void setDatabase(AllDBType database) { m_database = database; }
     // One of the two. A connection must be open, and is shared; a string is opened on first use.
@@ -48,6 +49,10 @@ public:
     // The same for a thread of its own: how at most `most` values are read. Until they are, nothing else may
     // be asked of this object. Nothing for a connection that is shared, or a host's own way to connect.
     std::optional<ValueRequest> valueRequest(const FilterField &field, int most);
+    // How the values of the field are read for ticks, with their counts. `condition` is what the records meet
+    // already; it may be empty. `search` is a text that the values contain. While they are read, nothing else
+    // may be asked of this object.
+    ValueRequest tickRequest(const FilterField &field, const QString &condition, const QString &search);
     // Lets the database look at a condition without running it.
     void check(const QString &condition);
 

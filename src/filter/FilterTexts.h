@@ -112,6 +112,29 @@ inline const QString ValuesTooSlow = u"%1 秒内没有读完已有的值，请�
 inline const QString ValuesOfSample = u"%1 秒内没有读完已有的值，只列出前面一部分记录中的值。"_s;
 inline const QString NoValues = u"该字段没有已有的值。"_s;
 
+// The list of values with ticks
+inline const QString SearchValues = u"搜索(&S):"_s;
+inline const QString SearchHint = u"输入文字查找值"_s;
+inline const QString AllValues = u"全选"_s;
+inline const QString AllFound = u"全选搜索结果"_s;
+inline const QString ValueList = u"值"_s;
+inline const QString CountOfRecords = u"记录数"_s;
+inline const QString NullValue = u"（空值）"_s;
+inline const QString AnyValue = u"（有值）"_s;
+inline const QString YearOfDays = u"%1年"_s;
+inline const QString MonthOfDays = u"%1月"_s;
+inline const QString DayOfDays = u"%1日"_s;
+inline const QString ReadingTicks = u"正在读取该字段的值…"_s;
+inline const QString StopReading = u"停止(&T)"_s;
+inline const QString ReadingStopped = u"已停止读取。可以输入文字搜索。"_s;
+inline const QString TicksOf = u"已选 %1 / %2 个值"_s;
+inline const QString TooManyValues = u"只列出前 %1 个值，其余的请用搜索查找"_s;
+inline const QString TooManyValuesOf = u"共 %2 个值，只列出前 %1 个，其余的请用搜索查找"_s;
+inline const QString NothingFound = u"没有含“%1”的值"_s;
+inline const QString NothingTicked = u"请至少选择一个值。"_s;
+inline const QString TicksTitle = u"按列筛选：%1"_s;
+inline const QString ByConditions = u"按条件筛选(&C)…"_s;
+
 // The dialog
 inline const QString Title = u"筛选"_s;
 inline const QString Explanation = u"只显示符合下列条件的记录"_s;

@@ -7,7 +7,9 @@
 #include "filter/FilterTexts.h"
 
 #include <QtCore/QDeadlineTimer>
-#include <QtCore/QSet>
+#include <QtCore/QHash>
+
+#include <algorithm>
 
 namespace KOVAVSFDataGridLib {
 
@@ -23,14 +25,19 @@ bool isCancelled(const ADODB::Error &error)
 
 } // namespace
 
-ValueReading::ValueReading(ValueRequest request) : m_request(std::move(request)), m_thread([this] { run(); })
+ValueReading::ValueReading(ValueRequest request) : m_request(std::move(request))
 {
+    if (m_request.isHere)
+        run();
+    else
+        m_thread = std::thread([this] { run(); });
 }
 
 ValueReading::~ValueReading()
 {
     m_isStopped = true;
-    m_thread.join();
+    if (m_thread.joinable())
+        m_thread.join();
 }
 
 bool ValueReading::waitForValues(int milliseconds)
@@ -81,52 +88,92 @@ void ValueReading::read(const std::function<bool()> &shouldContinue)
 {
     OfferedValues read;
     try {
-        read.values = textsOf(m_request.values, shouldContinue);
+        read = valuesOf(m_request.values, shouldContinue);
     } catch (const ADODB::Error &error) {
         if (m_isStopped || !isCancelled(error))
             throw;
         // The time is over: a sorted list gives nothing before it is whole.
         const QDeadlineTimer due(limitOfSample);
         try {
-            read.values = textsOf(m_request.sample, [&] { return !m_isStopped && !due.hasExpired(); });
+            read = valuesOf(m_request.sample, [&] { return !m_isStopped && !due.hasExpired(); });
         } catch (const ADODB::Error &late) {
             if (m_isStopped || !isCancelled(late))
                 throw;
         }
         const QString text = read.values.isEmpty() ? FilterTexts::ValuesTooSlow : FilterTexts::ValuesOfSample;
         read.note = text.arg(m_request.limit / millisecondsOfSecond);
+        read.hasMore = false;
         return put(std::move(read));
     }
-    read.hasMore = read.values.size() > m_request.most;
-    if (read.hasMore)
-        read.values.resize(m_request.most);
     put(read);
-    if (!read.hasMore)
-        return;
+    addFurtherCounts(read, shouldContinue);
+}
+
+void ValueReading::addFurtherCounts(OfferedValues &read, const std::function<bool()> &shouldContinue)
+{
     try {
-        const QStringList count = textsOf(m_request.count, shouldContinue);
-        read.left = count.isEmpty() ? -1 : count.front().toLongLong() - m_request.most;
-        put(std::move(read));
+        if (!m_request.withoutValue.isEmpty()) {
+            read.withoutValue = numberOf(m_request.withoutValue, shouldContinue);
+            put(read);
+        }
+        if (read.hasMore) {
+            const qint64 all = numberOf(m_request.count, shouldContinue);
+            read.left = all < 0 ? -1 : all - m_request.most;
+            put(read);
+        }
     } catch (const ADODB::Error &) {
         // That there are more is known without their number.
     }
 }
 
-QStringList ValueReading::textsOf(const QString &statement, const std::function<bool()> &shouldContinue) const
+QString ValueReading::textOf(const ADODB::Recordset &values, qint64 record) const
+{
+    constexpr qsizetype lengthOfDay = 10; // yyyy-MM-dd
+    const QString text = values.CellText(record, 0);
+    return m_request.areDays ? text.left(lengthOfDay) : text;
+}
+
+OfferedValues ValueReading::valuesOf(const QString &statement,
+                                     const std::function<bool()> &shouldContinue) const
 {
     const ADODB::Waiting waiting(shouldContinue);
     ADODB::Recordset values;
     values.Open(statement, m_request.connection);
-    QStringList texts;
-    QSet<QString> known; // values that differ in the database can read the same
+    const bool hasCounts = values.Fields().Count() > 1;
+    OfferedValues offered;
+    QHash<QString, qsizetype> known; // values that differ in the database can read the same
     for (qint64 record = 1; record <= values.RecordCount(); ++record) {
-        const QString text = values.CellText(record, 0);
-        if (text.isEmpty() || known.contains(text))
+        const QString text = textOf(values, record);
+        const auto place = known.constFind(text);
+        const qint64 count = hasCounts ? values.CellText(record, 1).toLongLong() : 0;
+        if (text.isEmpty())
             continue;
-        known.insert(text);
-        texts.append(text);
+        if (place != known.constEnd()) {
+            if (hasCounts)
+                offered.counts[*place] += count;
+            continue;
+        }
+        known.insert(text, offered.values.size());
+        offered.values.append(text);
+        if (hasCounts)
+            offered.counts.append(count);
     }
-    return texts;
+    // Different values that read the same leave a list of counted ones shorter than it was read.
+    const bool isCut = m_request.isCounted && values.RecordCount() > m_request.most;
+    offered.hasMore = isCut || offered.values.size() > m_request.most;
+    if (offered.values.size() > m_request.most) {
+        offered.values.resize(m_request.most);
+        offered.counts.resize(std::min<qsizetype>(offered.counts.size(), m_request.most));
+    }
+    return offered;
+}
+
+qint64 ValueReading::numberOf(const QString &statement, const std::function<bool()> &shouldContinue) const
+{
+    const ADODB::Waiting waiting(shouldContinue);
+    ADODB::Recordset number;
+    number.Open(statement, m_request.connection);
+    return number.RecordCount() == 1 ? number.CellText(1, 0).toLongLong() : -1;
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -13,7 +13,8 @@
 
 namespace ADODB {
 class Connection;
-}
+class Recordset;
+} // namespace ADODB
 
 namespace KOVAVSFDataGridLib {
 
@@ -24,6 +25,9 @@ struct OfferedValues
     bool hasMore = false;
     qint64 left = -1;  // how many more there are; -1 while nobody knows
     QString note = {}; // for the user; empty when there is nothing to say
+    // In how many records each value occurs; empty while nobody knows. And how many have no value, or -1.
+    QList<qint64> counts = {};
+    qint64 withoutValue = -1;
 
     bool operator==(const OfferedValues &) const = default;
 };
@@ -37,10 +41,14 @@ struct ValueRequest
     QString sample;                                // one that is quick, for when `values` takes too long
     int most = 0;                                  // values to offer
     int limit = 5000;                              // milliseconds
+    QString withoutValue = {}; // one for the number of records without a value; may be empty
+    bool isCounted = false;    // `values` has the number of records in a second column
+    bool areDays = false;      // of moments, the day is the value
+    bool isHere = false;       // the connection is shared: it is used in the caller's thread only
 };
 
-// Reads them in a thread of its own, which ends with this object. What takes longer than the limit is
-// stopped; then those of the first records are offered, with a note.
+// Reads them in a thread of its own, which ends with this object, or at once where the connection is shared.
+// What takes longer than the limit is stopped; then those of the first records are offered, with a note.
 class ValueReading final : public QObject
 {
     Q_OBJECT
@@ -64,7 +72,10 @@ Q_SIGNALS:
 private:
     void run();
     void read(const std::function<bool()> &shouldContinue);
-    QStringList textsOf(const QString &statement, const std::function<bool()> &shouldContinue) const;
+    void addFurtherCounts(OfferedValues &read, const std::function<bool()> &shouldContinue);
+    OfferedValues valuesOf(const QString &statement, const std::function<bool()> &shouldContinue) const;
+    qint64 numberOf(const QString &statement, const std::function<bool()> &shouldContinue) const;
+    QString textOf(const ADODB::Recordset &values, qint64 record) const;
     void put(OfferedValues values);
 
     const ValueRequest m_request;

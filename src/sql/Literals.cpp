@@ -143,6 +143,25 @@ QString momentOperand(const Dialect &dialect, const QString &field)
                   : field;
 }
 
+QString dayOperand(const Dialect &dialect, const QString &field)
+{
+    switch (dialect.engine) {
+    case Engine::SQLite:
+        return u"COALESCE(date(%1), %1)"_s.arg(field);
+    case Engine::Oracle: // whose DATE has a time of day
+        return u"TRUNC(%1)"_s.arg(field);
+    case Engine::SqlServer:
+    case Engine::PostgreSQL:
+    case Engine::MySQL:
+    case Engine::Standard:
+        return u"CAST(%1 AS DATE)"_s.arg(field);
+    case Engine::Access:
+    case Engine::Other:
+        return field;
+    }
+    Q_UNREACHABLE();
+}
+
 QString timeLiteral(const Dialect &dialect, QTime time)
 {
     return momentText(dialect, "t"_L1, timeText(time));

@@ -43,6 +43,9 @@ bool isNumberText(const QString &text);
 QString dateOperand(const Dialect &dialect, const QString &field);
 QString momentOperand(const Dialect &dialect, const QString &field);
 
+// The day of a field of days or moments; the field itself where no way to write it is known.
+QString dayOperand(const Dialect &dialect, const QString &field);
+
 // Literals for a script that another program runs: without ODBC's escapes, and for the likely engine where
 // the engine isn't known. `text` is the date or the moment in ISO form.
 QString scriptText(Dialect dialect, const QString &text);

@@ -28,8 +28,8 @@ struct FilterChoice
 {
     FilterField field;
     FilterOperator op = FilterOperator::Equals;
-    QString value;
-    QString lastValue; // of "between"
+    QString value = {};
+    QString lastValue = {}; // of "between"
     bool isNegated = false;
     // Whether records without a value are selected too, where the values named are left out.
     bool includesNull = true;

@@ -32,11 +32,18 @@ QString countOfDistinctValues(const QString &field, const QString &table)
 QString sampleOfValues(const Dialect &dialect, const QString &field, const QString &table, int count,
                        int records)
 {
+    return distinctOfFirst(dialect, field, " FROM "_L1 + table + " WHERE "_L1 + field + " IS NOT NULL"_L1,
+                           count, records);
+}
+
+QString distinctOfFirst(const Dialect &dialect, const QString &value, const QString &from, int count,
+                        int records)
+{
     // SQL Server takes OFFSET only after a sort.
     const bool needsOrder = rowLimit(dialect, 1).contains("OFFSET"_L1) && dialect.database == dbSQLServer;
     const QString order = needsOrder ? u" ORDER BY (SELECT NULL)"_s : QString();
-    const QString first = u"SELECT "_s + field + " AS kova_value FROM "_L1 + table + " WHERE "_L1 + field +
-                          " IS NOT NULL"_L1 + order + u' ' + rowLimit(dialect, records);
+    const QString first =
+        u"SELECT "_s + value + " AS kova_value"_L1 + from + order + u' ' + rowLimit(dialect, records);
     return u"SELECT DISTINCT kova_value FROM ("_s + first + ") kova_first ORDER BY kova_value"_L1 + u' ' +
            rowLimit(dialect, count);
 }

@@ -17,6 +17,9 @@ QString countOfDistinctValues(const QString &field, const QString &table);
 // At most `count` different values of the first `records` records that have one. Quick, as it sorts few.
 QString sampleOfValues(const Dialect &dialect, const QString &field, const QString &table, int count,
                        int records);
+// The same where `from` is all that follows the list of a SELECT, up to the sort.
+QString distinctOfFirst(const Dialect &dialect, const QString &value, const QString &from, int count,
+                        int records);
 
 // The records that a condition compares with each other.
 struct Records
