@@ -61,10 +61,12 @@ void FilterSource::setResult(const FilteredResult &result)
 
 Dialect FilterSource::dialect() const
 {
+    const EngineMode mode = engineOf(m_connection);
     return {.database = m_database,
             .isOdbc = leadsToOdbc(m_connectionString),
             .escapesByBackslash = m_escapesByBackslash,
-            .engine = engineOf(m_connection)};
+            .engine = mode.engine,
+            .ansiQuotes = mode.quoting.ansiQuotes};
 }
 
 const std::shared_ptr<ADODB::Connection> &FilterSource::connection()
@@ -77,12 +79,13 @@ const std::shared_ptr<ADODB::Connection> &FilterSource::connection()
     return m_connection;
 }
 
-// It depends on the server's settings and the session's, so no name of a driver tells it.
+// Of an engine that nobody here knows, no name tells it.
 bool FilterSource::askWhetherBackslashEscapes()
 {
     const auto &open = connection(); // a server out of reach is an error here as well
-    if (!dialect().isOdbc)
-        return false;
+    const EngineMode mode = engineOf(open);
+    if (mode.engine != Engine::Standard || !dialect().isOdbc)
+        return mode.escapesByBackslash();
     try {
         ADODB::Recordset backslashes;
         backslashes.Open(uR"(SELECT '\\')"_s, open);

@@ -51,7 +51,7 @@ bool clsFilterManagement::LetNewFilter(const QString &strNewFilter, QString &str
             return false;
         strCurrentFilter = derivation->withCondition(strNewFilter);
     } else {
-        addCondition(*sentence, strNewFilter, m_history.Reading());
+        addCondition(*sentence, strNewFilter, m_history.UsedDialect());
         strCurrentFilter = joinSQLSentence(*sentence);
     }
     MakeCurrent(strCurrentFilter);
@@ -118,7 +118,7 @@ bool clsFilterManagement::GetPartShowSelFields(const QString &strAllFields, cons
     if (!m_tableFields.GetPartSelFields(strAllFields, strPartField, chosen))
         return false;
     if (!isText) {
-        strRetFields = current->withFields(splitList(chosen, m_history.Reading()));
+        strRetFields = current->withFields(splitList(chosen, m_history.UsedDialect()));
         m_memory.currentStatement = strRetFields;
         return !strRetFields.isEmpty();
     }

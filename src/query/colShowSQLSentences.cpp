@@ -146,7 +146,7 @@ bool colShowSQLSentences::GetNextSQLByFilter(const QString &strNewFilter, QStrin
         strCurrentFilter = derivation->withCondition(strNewFilter);
         return !strCurrentFilter.isEmpty();
     }
-    addCondition(*sentence, strNewFilter, Reading());
+    addCondition(*sentence, strNewFilter, UsedDialect());
     strCurrentFilter = joinSQLSentence(*sentence);
     return true;
 }
@@ -201,10 +201,10 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
     if (!fields || fields->empty())
         return false;
     // What quotes do to a name is known only with the engine.
-    const Engine engine = engineOf(strPassConnString);
+    const EngineMode engine = engineOf(strPassConnString);
     const auto quoted = [&](const QString &name) {
-        return engine == Engine::Other ? enclosedAsIs(u'"', name, u'"')
-                                       : quotedName(dialectOf(m_database, engine), name);
+        return engine.isKnown() ? quotedName(dialectOf(m_database, engine), name)
+                                : enclosedAsIs(u'"', name, u'"');
     };
     QStringList names;
     QStringList longBinaryNames;
@@ -301,7 +301,7 @@ bool colShowSQLSentences::StepBackTo(qsizetype position, QString &PassFilter, QS
     if (!target)
         return false;
     const bool isInStep = BringInStepWith(*target, m_connString);
-    if (!isInStep && (engineOf(m_connString) == Engine::Other || !m_reader->Open(m_connString)))
+    if (!isInStep && (!engineOf(m_connString).isKnown() || !m_reader->Open(m_connString)))
         return false;
     while (Count() > position)
         m_entries.Remove(Count());

@@ -130,7 +130,7 @@ public:
     bool CanName(const clsDataField &field) const;
 
     // How the engine reads texts and names; as in the standard while it isn't known.
-    SqlDialect Reading() const { return readingOf(dialectOf(m_database, engineOf(m_connString))); }
+    Dialect UsedDialect() const { return dialectOf(m_database, engineOf(m_connString)); }
 
     // `shown`, which was derived from `all` or from a choice of its fields, with other fields of `all`; for a
     // statement that hasListAsTable().
@@ -177,7 +177,7 @@ private:
     bool FillCatalogue(const QString &connectionString, const QString &statement);
     QStringList NamesInCatalogue(const std::vector<SourceField> &fields) const;
     void WriteCatalogueAsText(const QString &statement);
-    Engine engineOf(const QString &connectionString) const;
+    EngineMode engineOf(const QString &connectionString) const;
 
     FieldReader *m_reader = nullptr;
     AllDBType m_database = dbAccess;

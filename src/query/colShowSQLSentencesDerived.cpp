@@ -28,23 +28,23 @@ bool haveDifferentTables(const Derivation &a, const Derivation &b)
 
 } // namespace
 
-Engine colShowSQLSentences::engineOf(const QString &connectionString) const
+EngineMode colShowSQLSentences::engineOf(const QString &connectionString) const
 {
-    return m_reader ? m_reader->engineOf(connectionString) : Engine::Other;
+    return m_reader ? m_reader->engineOf(connectionString) : EngineMode();
 }
 
 std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QString &statement) const
 {
     if (statement.isEmpty() || !m_reader)
         return {};
-    Engine engine = engineOf(m_connString);
-    if (engine == Engine::Other) {
+    EngineMode engine = engineOf(m_connString);
+    if (!engine.isKnown()) {
         // Simple statements don't need to know, so nobody waits for a connection.
         if (m_derivations.of(statement, {}, dialectOf(m_database, engine))->isSimple() ||
             !m_reader->Open(m_connString))
             return {};
         engine = engineOf(m_connString);
-        if (engine == Engine::Other)
+        if (!engine.isKnown())
             return {};
     }
     const Dialect dialect = dialectOf(m_database, engine);

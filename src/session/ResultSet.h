@@ -54,12 +54,12 @@ public:
     const std::shared_ptr<ADODB::Recordset> &recordset() const { return m_recordset; }
     const std::shared_ptr<ADODB::Connection> &connection() const { return m_connection; }
     // What the connection leads to; still known when the server has gone away.
-    Engine engine() const { return m_engine; }
+    const EngineMode &engine() const { return m_engine; }
 
 private:
     QPointer<ADODB::Adodc> m_adodc;
     std::shared_ptr<ADODB::Connection> m_connection;
-    Engine m_engine = Engine::Other;
+    EngineMode m_engine;
     QString m_connectionString;
     std::shared_ptr<ADODB::Recordset> m_recordset;
 };

@@ -38,12 +38,13 @@ Engine Dialect::likelyEngine() const
     return Engine::Standard;
 }
 
-Dialect dialectOf(AllDBType database, Engine engine)
+Dialect dialectOf(AllDBType database, const EngineMode &mode)
 {
     return {.database = database,
-            .isOdbc = engine != Engine::Other && engine != Engine::SQLite,
-            .escapesByBackslash = engine == Engine::MySQL,
-            .engine = engine};
+            .isOdbc = mode.isKnown() && mode.engine != Engine::SQLite,
+            .escapesByBackslash = mode.escapesByBackslash(),
+            .engine = mode.engine,
+            .ansiQuotes = mode.quoting.ansiQuotes};
 }
 
 } // namespace KOVAVSFDataGridLib

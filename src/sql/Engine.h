@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sql/AllDBType.h"
+#include "sql/SqlQuoting.h"
 
 #include <QtCore/QString>
 
@@ -13,14 +14,29 @@ enum class Engine { Other, SQLite, Access, SqlServer, Oracle, PostgreSQL, MySQL,
 // By the name that the engine's driver gives it, in any version or edition. MariaDB is MySQL here.
 Engine engineNamed(const QString &name);
 
+// An engine and how a session's settings have it read statements; an engine alone reads as it usually does.
+struct EngineMode
+{
+    Engine engine = Engine::Other;
+    SqlQuoting quoting = {};
+
+    EngineMode() = default;
+    // NOLINTNEXTLINE(google-explicit-constructor): an engine is one in its usual mode.
+    EngineMode(Engine name, const SqlQuoting &reading = {}) : engine(name), quoting(reading) {}
+
+    // A backslash in a text begins an escape, as MariaDB has it unless it is configured not to.
+    bool escapesByBackslash() const { return engine == Engine::MySQL && quoting.backslashEscapes; }
+    bool isKnown() const { return engine != Engine::Other; }
+};
+
 // What decides how a statement is written and read.
 struct Dialect
 {
     AllDBType database = dbAccess; // as the host declares it
     bool isOdbc = false;
-    // A backslash in a text begins an escape, as MariaDB has it unless it is configured not to.
-    bool escapesByBackslash = false;
+    bool escapesByBackslash = false; // see EngineMode
     Engine engine = Engine::Other;
+    bool ansiQuotes = false; // "…" is a name to an engine that usually takes it for a text
 
     // The engine, or where that is not known the one that the declared type names.
     Engine likelyEngine() const;
@@ -29,6 +45,6 @@ struct Dialect
 };
 
 // As far as the declared type and the engine decide it.
-Dialect dialectOf(AllDBType database, Engine engine);
+Dialect dialectOf(AllDBType database, const EngineMode &mode);
 
 } // namespace KOVAVSFDataGridLib

@@ -31,11 +31,9 @@ QChar closingOf(QChar open)
     return open == u'[' ? u']' : open;
 }
 
-} // namespace
-
-SqlDialect readingOf(const Dialect &dialect)
+SqlDialect readingOf(Engine engine)
 {
-    switch (dialect.engine) {
+    switch (engine) {
     case Engine::PostgreSQL:
         return SqlDialect::PostgreSql;
     case Engine::MySQL:
@@ -47,12 +45,22 @@ SqlDialect readingOf(const Dialect &dialect)
     }
 }
 
+} // namespace
+
 SqlScanner::SqlScanner(QString sql, SqlDialect dialect, const SqlQuoting &quoting)
     : m_sql(std::move(sql)), m_dialect(dialect), m_quoting(quoting)
 {
     scan();
     if (const qsizetype zero = m_sql.indexOf(QChar(u'\0')); zero >= 0)
         markStray(zero);
+}
+
+SqlScanner::SqlScanner(QString sql, const Dialect &dialect)
+    : SqlScanner(std::move(sql), readingOf(dialect.engine),
+                 {.backslashEscapes = dialect.escapesByBackslash,
+                  .ansiQuotes = dialect.ansiQuotes,
+                  .brackets = true})
+{
 }
 
 void SqlScanner::markStray(qsizetype place)

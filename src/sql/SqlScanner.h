@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sql/SqlQuoting.h"
+
 #include <QtCore/QString>
 #include <QtCore/QStringView>
 
@@ -24,15 +26,6 @@ struct SqlToken
 enum class SqlDialect { Standard, PostgreSql, MySql, SqlServer };
 
 struct Dialect;
-SqlDialect readingOf(const Dialect &dialect);
-
-// How a MySQL server reads texts and names, which its sql_mode changes.
-struct SqlQuoting
-{
-    bool backslashEscapes = true; // not with NO_BACKSLASH_ESCAPES
-    bool ansiQuotes = false;      // "…" is a name
-    bool brackets = false;        // […] is a name
-};
 
 // A statement cut into tokens: comments and blanks are left out; quoted names ("a", [a], `a`) and strings are
 // one token each, with their quotes. A quote or comment that is not closed reaches to the end. Knows no
@@ -42,6 +35,9 @@ class SqlScanner
 public:
     explicit SqlScanner(QString sql, SqlDialect dialect = SqlDialect::Standard,
                         const SqlQuoting &quoting = {});
+    // As the dialect reads it, but for brackets, which MySQL's names have here too: names are written so
+    // until the engine is known.
+    SqlScanner(QString sql, const Dialect &dialect);
 
     const QString &sql() const { return m_sql; }
     // Without the semicolon that ends it and the comments after it, in which a driver may see statements.

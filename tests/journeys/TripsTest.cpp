@@ -67,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(
     Servers, Trips,
     testing::Values(FarServer{"PostgreSQL", "KOVA_TEST_POSTGRESQL", KOVAVSFDataGrid::dbOracle, 21, 10, 6, 10},
                     FarServer{"PgBouncer", "KOVA_TEST_PGBOUNCER", KOVAVSFDataGrid::dbOracle, 21, 10, 6, 10},
-                    FarServer{"MariaDB", "KOVA_TEST_MARIADB", KOVAVSFDataGrid::dbSQLServer, 13, 4, 4, 8}),
+                    FarServer{"MariaDB", "KOVA_TEST_MARIADB", KOVAVSFDataGrid::dbSQLServer, 14, 4, 4, 8}),
     [](const auto &server) { return std::string(server.param.name); });
 
 } // namespace

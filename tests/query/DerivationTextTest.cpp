@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Derivation derive(Engine engine, const QString &statement, const QStringList &names,
+Derivation derive(const EngineMode &engine, const QString &statement, const QStringList &names,
                   AllDBType database = dbSQLServer)
 {
     std::vector<SourceField> fields;
@@ -122,6 +122,18 @@ TEST(DerivationText, FieldsOfEqualNamesAreToldApartByTheirTable)
                              dialectOf(dbAccess, Engine::SQLite));
     for (const auto step : {DerivationStep::Condition, DerivationStep::Sort, DerivationStep::Fields})
         EXPECT_EQ(natural.whyNot(step), QueryTexts::EqualNames.arg(u"ID"_s));
+}
+
+TEST(DerivationText, ReadsTextsAsTheModeOfTheSessionDoes)
+{
+    const QString statement = uR"(select F from T where F = 'C:\' group by F order by F)"_s;
+    const EngineMode plain{Engine::MySQL, {.backslashEscapes = false}};
+    expectText(derive(plain, statement, {u"F"_s}).withCondition(u"F > 1"_s),
+               R"(SELECT * FROM ( select F from T where F = 'C:\' group by F ) AS Q WHERE F > 1 ORDER BY F)");
+    const EngineMode ansi{Engine::MySQL, {.ansiQuotes = true}};
+    const QString quoted = uR"(select distinct "a\" from T order by 1)"_s;
+    expectText(derive(ansi, quoted, {uR"(a\)"_s}).withCondition(u"1"_s),
+               R"(SELECT distinct "a\" FROM T WHERE 1 ORDER BY "a\")");
 }
 
 TEST(DerivationText, ChosenFieldsAreFoundAgainByValueAndName)

@@ -49,7 +49,7 @@ TEST(QuickFilterOnEngines, CastsTheOneChosenField)
 
 TEST(QuickFilterOnEngines, ABackslashIsFoundAsOne)
 {
-    const auto pattern = [](Engine engine) {
+    const auto pattern = [](const EngineMode &engine) {
         QString condition;
         EXPECT_TRUE(BuildLikeAllCondition(uR"(C:\')"_s, {u"F"_s, 202}, u"SELECT * FROM t"_s, dbSQLServer,
                                           condition, engine));
@@ -58,6 +58,10 @@ TEST(QuickFilterOnEngines, ABackslashIsFoundAsOne)
     EXPECT_EQ(pattern(Engine::SQLite), uR"( (F LIKE '%C:\''%' ) )"_s);
     EXPECT_EQ(pattern(Engine::PostgreSQL), uR"( (CAST("F" AS TEXT) LIKE '%C:\\''%' ) )"_s);
     EXPECT_EQ(pattern(Engine::MySQL), uR"( (F LIKE '%C:\\\\''%' ) )"_s);
+    const EngineMode plain{Engine::MySQL, {.backslashEscapes = false}};
+    EXPECT_EQ(pattern(plain), uR"( (F LIKE '%C:\\''%' ) )"_s);
+    EXPECT_EQ(buildCellFilter(u"F"_s, 202, uR"(C:\)"_s, Engine::MySQL).condition, uR"(F like 'C:\\\\')"_s);
+    EXPECT_EQ(buildCellFilter(u"F"_s, 202, uR"(C:\)"_s, plain).condition, uR"(F like 'C:\\')"_s);
 }
 
 TEST(CellFilterOnEngines, ComparesNumbersAsNumbersWhereLikeTakesNone)

@@ -61,7 +61,7 @@ class ListReader final : public FieldReader
 {
 public:
     bool Open(const QString &) override { return true; }
-    Engine engineOf(const QString &) override { return Engine::Access; }
+    EngineMode engineOf(const QString &) override { return Engine::Access; }
     std::optional<std::vector<SourceField>> Read(const QString &, const QString &statement) override
     {
         const SqlScanner sql(statement);

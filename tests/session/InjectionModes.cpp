@@ -57,10 +57,9 @@ QStringList chosenTexts(const InjectionMode &mode)
     return chosen;
 }
 
-QString shapeOf(const QString &statement, SqlDialect reading, const SqlQuoting &quoting)
+QString shapeOf(const SqlScanner &sql)
 {
-    const SqlScanner sql(statement, reading, quoting);
-    EXPECT_EQ(sql.strayCharacter(), -1) << statement.toStdString();
+    EXPECT_EQ(sql.strayCharacter(), -1) << sql.sql().toStdString();
     QString shape;
     for (qsizetype i = 0; i < sql.count(); ++i) {
         switch (sql.at(i).kind) {

@@ -28,7 +28,6 @@ QStringList chosenTexts(const InjectionMode &mode);
 
 // What a statement is made of, whatever texts and names it holds. Texts put together of several pieces, and
 // those that are marked as Unicode, are one text.
-QString shapeOf(const QString &statement, KOVAVSFDataGridLib::SqlDialect reading,
-                const KOVAVSFDataGridLib::SqlQuoting &quoting);
+QString shapeOf(const KOVAVSFDataGridLib::SqlScanner &sql);
 
 } // namespace KovaTest

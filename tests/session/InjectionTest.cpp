@@ -136,7 +136,15 @@ protected:
     {
         return dialectOf(static_cast<AllDBType>(engine->dbType), session->result().engine());
     }
-    QString shape() { return shapeOf(session->statement(), readingOf(dialect()), mode.quoting); }
+    // The tokens as this mode has them, whatever the session takes it for.
+    QString shapeOf(const QString &statement) const
+    {
+        const SqlDialect reading = engine->isMariaDb()          ? SqlDialect::MySql
+                                   : engine->isFilledBySqlite() ? SqlDialect::Standard
+                                                                : SqlDialect::PostgreSql;
+        return KovaTest::shapeOf(SqlScanner(statement, reading, mode.quoting));
+    }
+    QString shape() const { return shapeOf(session->statement()); }
     // The ids shown, after it has been seen that the planted table is not.
     QString ids()
     {
@@ -146,12 +154,6 @@ protected:
             ids += row.section(u' ', 0, 0);
         }
         return ids.join(u' ');
-    }
-    // Backslashes are doubled for MariaDB in every mode: where it takes them as they are, a value with one
-    // finds nothing. It stays a value.
-    bool isWrittenRightly(const QString &text) const
-    {
-        return mode.quoting.backslashEscapes || !text.contains(u'\\');
     }
     // Known refusals, before anything has been run.
     bool isRefused()
@@ -211,7 +213,7 @@ TEST_P(SessionInjection, ValuesAndWordsGiveTheirOwnRecords)
         const QString id = QString::number(i + 1);
         SCOPED_TRACE(text.toStdString());
         ASSERT_EQ(window.rows.size(), corpus.size() + 1);
-        const bool isReadable = window.rows[i] == id + u' ' + text + u" 1"_s && isWrittenRightly(text);
+        const bool isReadable = window.rows[i] == id + u' ' + text + u" 1"_s;
         filterByCell(static_cast<int>(i) + 1);
         if (!isRefused()) {
             EXPECT_EQ(shape(), cellShape) << session->statement().toStdString();
@@ -283,15 +285,13 @@ TEST_P(SessionInjection, CopiedStatementsHoldTheirOwnValues)
         const QString text = corpus.value(i, u"abc"_s);
         const int id = i == corpus.size() ? 1000 : static_cast<int>(i) + 1;
         SCOPED_TRACE(text.toStdString());
-        const bool isReadable =
-            window.rows[i] == QString::number(id) + u' ' + text + u" 1"_s && isWrittenRightly(text);
+        const bool isReadable = window.rows[i] == QString::number(id) + u' ' + text + u" 1"_s;
         window.currentRow = static_cast<int>(i) + 1;
         window.currentColumn = 2;
         session->run(u"CopyAsInList"_s);
-        QString list = window.clipboard;
-        list = shapeOf(list, readingOf(dialect()), mode.quoting);
+        const QString list = shapeOf(window.clipboard);
         session->run(u"CopyAsInsert"_s);
-        QString insert = shapeOf(window.clipboard, readingOf(dialect()), mode.quoting);
+        QString insert = shapeOf(window.clipboard);
         insert.replace(u" "_s + QString::number(id) + u" ,"_s, u" 1 ,"_s);
         if (listShape.isEmpty()) {
             listShape = list;

@@ -19,6 +19,16 @@ TEST(Engine, IsKnownByTheNameItsDriverGivesIt)
     EXPECT_EQ(engineNamed({}), Engine::Other);
 }
 
+TEST(Engine, ReadsBackslashesAsTheModeOfTheSessionHasIt)
+{
+    EXPECT_TRUE(dialectOf(dbSQLServer, Engine::MySQL).escapesByBackslash);
+    EXPECT_FALSE(dialectOf(dbSQLServer, Engine::MySQL).ansiQuotes);
+    const EngineMode plain{Engine::MySQL, {.backslashEscapes = false, .ansiQuotes = true}};
+    EXPECT_FALSE(dialectOf(dbSQLServer, plain).escapesByBackslash);
+    EXPECT_TRUE(dialectOf(dbSQLServer, plain).ansiQuotes);
+    EXPECT_FALSE(dialectOf(dbOracle, Engine::PostgreSQL).escapesByBackslash);
+}
+
 TEST(Engine, IsGuessedFromTheDeclaredTypeOnlyWhileUnknown)
 {
     EXPECT_EQ(dialectOf(dbAccess, Engine::Other).likelyEngine(), Engine::Access);

@@ -10,7 +10,7 @@ class Connection;
 
 namespace KOVAVSFDataGridLib {
 
-// What an open connection leads to; Other when it is null or closed.
-Engine engineOf(const std::shared_ptr<ADODB::Connection> &connection);
+// What an open connection leads to and how that reads statements; Other when it is null or closed.
+EngineMode engineOf(const std::shared_ptr<ADODB::Connection> &connection);
 
 } // namespace KOVAVSFDataGridLib

@@ -2,6 +2,7 @@
 
 #include "ado/FieldInfo.h"
 #include "ado/rows/RowWriter.h"
+#include "sql/SqlQuoting.h"
 
 #include <QtCore/QStringList>
 
@@ -13,6 +14,8 @@
 // What a database engine has to offer to be reached through Connection and Recordset. Each engine has its own
 // folder beside this file and is listed in CMakeLists.txt there. Everything throws Error.
 namespace ADODB {
+
+using KOVAVSFDataGridLib::SqlQuoting;
 
 class ConnectionString;
 class RowStore;
@@ -43,6 +46,8 @@ public:
     virtual ~Session();
     // As its driver names it; see Connection::EngineName.
     virtual QString engineName() const { return {}; }
+    // How a MySQL server reads texts and names in this session; nothing to other engines.
+    virtual SqlQuoting quoting() const { return {}; }
     // Refuses what is not one statement that returns rows and changes nothing, before running any of it. With
     // ReadWrite the statement is prepared for writing back as far as it allows that. Asks whether to go on as
     // Statement::fetch() does, where it has to wait for a server.

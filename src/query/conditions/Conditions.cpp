@@ -77,8 +77,9 @@ bool readsBrackets(Engine engine)
 
 // The field as it is written; empty when it can't be searched, nothing when nobody can tell.
 std::optional<QString> nameOfSearched(const TypedField &field, AllDBType database, const QString &qualifier,
-                                      Engine engine)
+                                      const EngineMode &mode)
 {
+    const Engine engine = mode.engine;
     if (likesTextsOnly(engine) && isBinary(field.adoType))
         return QString();
     if (database != dbAccess && database != dbOracle && database != dbSQLServer)
@@ -91,15 +92,16 @@ std::optional<QString> nameOfSearched(const TypedField &field, AllDBType databas
     }
     if (!field.written.isEmpty())
         return field.written;
-    const Dialect dialect = dialectOf(database, engine);
+    const Dialect dialect = dialectOf(database, mode);
     if (database != dbAccess || !readsBrackets(engine))
         return writtenName(dialect, field.name);
     return (qualifier.isEmpty() ? QString() : qualifier + u'.') +
            (engine == Engine::Other ? enclosedAsIs(u'[', field.name, u']') : quotedName(dialect, field.name));
 }
 
-std::optional<std::vector<SearchedField>>
-searchedFields(std::span<const TypedField> fields, AllDBType database, const QString &strSQL, Engine engine)
+std::optional<std::vector<SearchedField>> searchedFields(std::span<const TypedField> fields,
+                                                         AllDBType database, const QString &strSQL,
+                                                         const EngineMode &mode)
 {
     const auto table = GetTableOfSQL(strSQL);
     const bool needsTable = std::any_of(fields.begin(), fields.end(),
@@ -109,14 +111,14 @@ searchedFields(std::span<const TypedField> fields, AllDBType database, const QSt
     const QString qualifier = database == dbAccess && table ? tableQualifier(*table) : QString();
     std::vector<SearchedField> searched;
     for (const TypedField &field : fields) {
-        const auto name = nameOfSearched(field, database, qualifier, engine);
+        const auto name = nameOfSearched(field, database, qualifier, mode);
         if (!name)
             return std::nullopt;
         if (name->isEmpty())
             continue;
-        const QString kind = field.adoType ? classOf(*field.adoType, engine) : QString();
+        const QString kind = field.adoType ? classOf(*field.adoType, mode.engine) : QString();
         searched.push_back(
-            {likeOperand(engine, *name), (kind != u"1" && kind != u"3") || field.adoType == guidType});
+            {likeOperand(mode.engine, *name), (kind != u"1" && kind != u"3") || field.adoType == guidType});
     }
     return searched;
 }
@@ -137,16 +139,17 @@ QStringList operandsFor(const std::vector<SearchedField> &fields, const QString 
 
 // Words that begin a clause are taken apart, so that no later derivation takes them for its own; only a known
 // engine says how.
-QString literalOf(AllDBType database, Engine engine, const QString &text)
+QString literalOf(AllDBType database, const EngineMode &mode, const QString &text)
 {
-    const Dialect dialect = dialectOf(database, engine);
-    return engine == Engine::Other ? textLiteral(dialect, text) : textWithoutClauses(dialect, text);
+    const Dialect dialect = dialectOf(database, mode);
+    return mode.isKnown() ? textWithoutClauses(dialect, text) : textLiteral(dialect, text);
 }
 
-QString wordCondition(const QStringList &operands, const QString &word, AllDBType database, Engine engine)
+QString wordCondition(const QStringList &operands, const QString &word, AllDBType database,
+                      const EngineMode &mode)
 {
     const QString pattern = QStringLiteral(" LIKE ") +
-                            literalOf(database, engine, u'%' + likePattern(engine, word) + u'%') + u' ';
+                            literalOf(database, mode, u'%' + likePattern(mode.engine, word) + u'%') + u' ';
     return operands.join(pattern + QStringLiteral("OR ")) + pattern;
 }
 
@@ -167,17 +170,18 @@ NumberRange rangeOfCell(qint32 adoType, const QString &number, Engine engine, bo
 }
 
 // Numbers are compared as numbers where LIKE takes none: as texts they may end in more digits than are shown.
-QString numberCondition(const QString &field, qint32 adoType, const QString &cellText, Engine engine,
+QString numberCondition(const QString &field, qint32 adoType, const QString &cellText, const EngineMode &mode,
                         bool isComputed)
 {
+    const Engine engine = mode.engine;
     const QString like = field + QStringLiteral(" like ");
     const QString equals = field + QStringLiteral(" = ");
     if (engine == Engine::Other)
         return like + cellText;
     // A column's declared type doesn't say that each of its values is a number.
     if (adoType == guidType || !isNumberText(cellText)) {
-        return likesTextsOnly(engine) ? equals + literalOf({}, engine, cellText)
-                                      : like + literalOf({}, engine, likePattern(engine, cellText));
+        return likesTextsOnly(engine) ? equals + literalOf({}, mode, cellText)
+                                      : like + literalOf({}, mode, likePattern(engine, cellText));
     }
     if (const NumberRange range = rangeOfCell(adoType, cellText, engine, isComputed); !range.isEmpty())
         return QStringLiteral("%1 BETWEEN %2 AND %3").arg(field, range.from, range.to);
@@ -247,17 +251,17 @@ std::optional<QString> GetTableOfSQL(const QString &strSQL)
 }
 
 bool BuildLikeCondition(const QString &strText, std::span<const TypedField> fields, const QString &strSQL,
-                        AllDBType database, QString &strCondition, Engine engine)
+                        AllDBType database, QString &strCondition, const EngineMode &mode)
 {
     QString condition;
     if (!strText.isEmpty()) {
-        const auto searched = searchedFields(fields, database, strSQL, engine);
+        const auto searched = searchedFields(fields, database, strSQL, mode);
         if (!searched || searched->empty())
             return false;
         QStringList words;
         for (const QString &word : SplitText(strText, QStringLiteral("%")))
             words.append(QStringLiteral(" (") +
-                         wordCondition(operandsFor(*searched, word, engine), word, database, engine) +
+                         wordCondition(operandsFor(*searched, word, mode.engine), word, database, mode) +
                          QStringLiteral(") "));
         condition = words.join(QStringLiteral("And "));
     }
@@ -266,14 +270,15 @@ bool BuildLikeCondition(const QString &strText, std::span<const TypedField> fiel
 }
 
 bool BuildLikeAllCondition(const QString &strText, const TypedField &field, const QString &strSQL,
-                           AllDBType database, QString &strCondition, Engine engine)
+                           AllDBType database, QString &strCondition, const EngineMode &mode)
 {
-    return BuildLikeCondition(strText, std::span(&field, 1), strSQL, database, strCondition, engine);
+    return BuildLikeCondition(strText, std::span(&field, 1), strSQL, database, strCondition, mode);
 }
 
 CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoType,
-                           const std::optional<QString> &cellText, Engine engine, bool isComputed)
+                           const std::optional<QString> &cellText, const EngineMode &mode, bool isComputed)
 {
+    const Engine engine = mode.engine;
     // Narrower than the quick filter's classes on purpose: equality makes no sense for the types left out.
     static constexpr std::array<qint32, 12> numbers{2, 3, 4, 5, 14, 16, 18, 20, 21, 72, 131, 139};
     static constexpr std::array<qint32, 4> texts{129, 130, 200, 202};
@@ -289,11 +294,11 @@ CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoTyp
     if (isComputed && engine == Engine::SQLite && isNumberText(*cellText))
         return {QStringLiteral("(%1 = %2 OR %1 like '%2')").arg(realName, *cellText), {}};
     if (!isText)
-        return {numberCondition(realName, *adoType, *cellText, engine, isComputed), {}};
+        return {numberCondition(realName, *adoType, *cellText, mode, isComputed), {}};
     if (cellText->contains(u'\''))
         return {{}, QueryTexts::ApostropheInFilter};
     return {likeOperand(engine, realName) + QStringLiteral(" like ") +
-                literalOf({}, engine, likePattern(engine, *cellText)),
+                literalOf({}, mode, likePattern(engine, *cellText)),
             {}};
 }
 

@@ -32,15 +32,15 @@ QString ClassifyFieldType(qint32 adoType);
 // when the condition or the sort stands before FROM.
 std::optional<QString> GetTableOfSQL(const QString &strSQL);
 
-// A condition that each word of the text ("%" stands between words) occurs in some field, as `engine` can
+// A condition that each word of the text ("%" stands between words) occurs in some field, as the engine can
 // compare them. True with an empty condition when the text is empty. False, with the condition as it was,
 // when there is nothing to search in: a word without any field that can be searched, an unknown database, for
 // Access a type that nobody knows, or a statement that GetTableOfSQL can't read.
 bool BuildLikeCondition(const QString &strText, std::span<const TypedField> fields, const QString &strSQL,
-                        AllDBType database, QString &strCondition, Engine engine = Engine::Other);
+                        AllDBType database, QString &strCondition, const EngineMode &mode = {});
 // The same in one field.
 bool BuildLikeAllCondition(const QString &strText, const TypedField &field, const QString &strSQL,
-                           AllDBType database, QString &strCondition, Engine engine = Engine::Other);
+                           AllDBType database, QString &strCondition, const EngineMode &mode = {});
 
 // A condition that the field equals the cell's text, or what to tell the user instead. Both are empty when
 // there is nothing to filter by.
@@ -54,7 +54,7 @@ struct CellFilter
 // `cellText` is nothing for a Null value. An unknown type, or a field without a real name, gives an empty
 // answer.
 CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoType,
-                           const std::optional<QString> &cellText, Engine engine = Engine::Other,
+                           const std::optional<QString> &cellText, const EngineMode &mode = {},
                            bool isComputed = false);
 
 } // namespace KOVAVSFDataGridLib

@@ -20,9 +20,7 @@ const QString orderWords = u" ORDER BY "_s;
 Derivation::Derivation(const QString &statement, const std::vector<SourceField> &fields,
                        const Dialect &dialect)
     // Which mode MariaDB is in is not known here. Brackets are names in one and an error in all others.
-    : m_sql(statement, readingOf(dialect), {.brackets = true}),
-      m_parts(SelectParts::of(m_sql)),
-      m_dialect(dialect)
+    : m_sql(statement, dialect), m_parts(SelectParts::of(m_sql)), m_dialect(dialect)
 {
     nameFields(fields);
     // A condition leaves the same rows before and after DISTINCT.
@@ -100,7 +98,7 @@ QString Derivation::withCondition(const QString &condition) const
     if (!whyNot(DerivationStep::Condition).isEmpty())
         return {};
     SQLSentence sentence = base();
-    addCondition(sentence, condition, m_sql.dialect());
+    addCondition(sentence, condition, m_dialect);
     return joinSQLSentence(sentence);
 }
 

@@ -45,7 +45,7 @@ QString Derivation::withFieldsOf(const Derivation &fieldStatement) const
         return withList(fieldStatement.m_kind == Kind::Closed ? u"*"_s : fieldStatement.listText(), {});
     if (hasWords &&
         sameText(textOf(m_sql, m_parts.source), textOf(fieldStatement.m_sql, fieldStatement.m_parts.source)))
-        return withList(fieldStatement.listText(), splitList(fieldStatement.listText(), m_sql.dialect()));
+        return withList(fieldStatement.listText(), splitList(fieldStatement.listText(), m_dialect));
     QHash<QString, qsizetype> placeOfName;
     for (qsizetype i = m_names.size() - 1; i >= 0; --i)
         placeOfName.insert(m_names.at(i), i);

@@ -72,7 +72,7 @@ QString Derivation::sortableTerms(const QString &sortList) const
     }
     if (constants.isEmpty())
         return sortList;
-    const SqlScanner sql(u"SELECT * FROM T ORDER BY "_s + sortList, readingOf(m_dialect), {.brackets = true});
+    const SqlScanner sql(u"SELECT * FROM T ORDER BY "_s + sortList, m_dialect);
     QStringList terms;
     for (const SelectParts::Item &term : SelectParts::of(sql).sort) {
         const QString text = textOf(sql, term.tokens);

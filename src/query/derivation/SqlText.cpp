@@ -26,9 +26,9 @@ QString headWithoutConditions(const QString &statement)
 }
 
 // AND binds closer, so an OR outside all brackets would take rows in that AND is to keep out.
-bool hasOuterOr(const QString &condition, SqlDialect reading)
+bool hasOuterOr(const QString &condition, const Dialect &dialect)
 {
-    const SqlScanner scanned(condition, reading, {.brackets = true});
+    const SqlScanner scanned(condition, dialect);
     for (qsizetype i = 0; i < scanned.count(); ++i) {
         if (scanned.at(i).depth == 0 && scanned.isWord(i, u"OR"))
             return true;
@@ -115,7 +115,7 @@ QString ComposeSQL(const QString &head, const QString &where, const QString &ord
     return text;
 }
 
-void addCondition(SQLSentence &sentence, const QString &condition, SqlDialect reading)
+void addCondition(SQLSentence &sentence, const QString &condition, const Dialect &dialect)
 {
     if (condition.isEmpty())
         return;
@@ -125,10 +125,10 @@ void addCondition(SQLSentence &sentence, const QString &condition, SqlDialect re
         return;
     }
     const qsizetype keyword = whereWord.size() - 2;
-    if (hasOuterOr(From(where, keyword + 1), reading))
+    if (hasOuterOr(From(where, keyword + 1), dialect))
         sentence.where = First(where, keyword) + QStringLiteral(" (") + trim(From(where, keyword + 1)) + u')';
     sentence.where +=
-        QStringLiteral(" AND ") + (hasOuterOr(condition, reading) ? u'(' + condition + u')' : condition);
+        QStringLiteral(" AND ") + (hasOuterOr(condition, dialect) ? u'(' + condition + u')' : condition);
 }
 
 QString ReplaceSQLFieldPart(const QString &statement, const QString &fieldStatement)
@@ -179,9 +179,9 @@ QString getFromPart(const QString &statement)
     return from == 0 ? QString() : From(statement, from);
 }
 
-QStringList splitList(const QString &list, SqlDialect reading)
+QStringList splitList(const QString &list, const Dialect &dialect)
 {
-    const SqlScanner scanned(list, reading, {.brackets = true});
+    const SqlScanner scanned(list, dialect);
     QStringList entries;
     qsizetype begin = 0;
     for (qsizetype i = 0; i <= scanned.count(); ++i) {

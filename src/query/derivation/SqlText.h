@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sql/SqlScanner.h"
+#include "sql/Engine.h"
 
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -40,8 +40,8 @@ QString ComposeSQL(const QString &head, const QString &where, const QString &ord
 
 // One more condition: the first one brings the word WHERE (and a blank before it), each further one AND; then
 // either side that has an OR outside all brackets gets brackets of its own.
-// An empty condition changes nothing. `reading` says what a text is.
-void addCondition(SQLSentence &sentence, const QString &condition, SqlDialect reading = SqlDialect::Standard);
+// An empty condition changes nothing. `dialect` says what a text is.
+void addCondition(SQLSentence &sentence, const QString &condition, const Dialect &dialect = {});
 
 // The statement with the head of `fieldStatement` in place of its own; empty when either text is empty.
 QString ReplaceSQLFieldPart(const QString &statement, const QString &fieldStatement);
@@ -64,7 +64,7 @@ QString getFromPart(const QString &statement);
 
 // The entries of a SELECT list or a sort, cut at the commas outside brackets, quotes and comments, without
 // blanks at their ends; empty ones are left out.
-QStringList splitList(const QString &list, SqlDialect reading = SqlDialect::Standard);
+QStringList splitList(const QString &list, const Dialect &dialect = {});
 
 // Where CutStringEnds removes.
 enum CutEnds : qint32 { CutBegin = 1, CutEnd = 2, CutBoth = 3 };

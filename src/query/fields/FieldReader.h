@@ -38,8 +38,8 @@ public:
     virtual std::optional<std::vector<SourceField>> Read(const QString &connectionString,
                                                          const QString &statement) = 0;
 
-    // The engine to which that connection leads; Other when it is not known.
-    virtual Engine engineOf(const QString &) { return Engine::Other; }
+    // The engine to which that connection leads, as it reads there; Other when it is not known.
+    virtual EngineMode engineOf(const QString &) { return {}; }
 };
 
 } // namespace KOVAVSFDataGridLib

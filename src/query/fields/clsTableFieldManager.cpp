@@ -33,7 +33,7 @@ bool clsTableFieldManager::GetSortSelFields(const QString &strAllField, const QS
     const auto sort = m_chooser->ChooseSort(GetSQLTableName(strAllField), Offered(), splitList(strSortField));
     strRetSelFields = sort.value_or(QString());
     // An emptied list removes the sort.
-    return !strRetSelFields.isEmpty() || (sort && m_reader->engineOf(ConnString) != Engine::Other);
+    return !strRetSelFields.isEmpty() || (sort && m_reader->engineOf(ConnString).isKnown());
 }
 
 bool clsTableFieldManager::IsReadyToChoose(const QString &strAllField)

@@ -178,11 +178,11 @@ void ConnectionFieldReader::remember(const QString &connectionString, const QStr
     m_known.insert({connectionString, statement}, known);
 }
 
-Engine ConnectionFieldReader::engineOf(const QString &connectionString)
+EngineMode ConnectionFieldReader::engineOf(const QString &connectionString)
 {
     if (m_result.isConnectedTo(connectionString))
         return m_result.engine();
-    return m_ownText == connectionString ? KOVAVSFDataGridLib::engineOf(m_own) : Engine::Other;
+    return m_ownText == connectionString ? KOVAVSFDataGridLib::engineOf(m_own) : EngineMode();
 }
 
 void ConnectionFieldReader::forget()

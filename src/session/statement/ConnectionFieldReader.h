@@ -32,7 +32,7 @@ public:
 
     // Takes the fields of a statement from its open result, so that nobody has to ask the database for them.
     void remember(const QString &connectionString, const QString &statement, const ADODB::Fields &fields);
-    Engine engineOf(const QString &connectionString) override;
+    EngineMode engineOf(const QString &connectionString) override;
 
     // Why the last reading failed, as a sentence for the user; empty when it did not.
     const QString &Failure() const { return m_failure; }

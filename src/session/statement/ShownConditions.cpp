@@ -18,8 +18,7 @@ class Conditions
 {
 public:
     Conditions(Session &session, const QString &statement)
-        : sql(statement, readingOf(dialectOf(session.filterManager().DBType(), session.result().engine())),
-              {.brackets = true}),
+        : sql(statement, dialectOf(session.filterManager().DBType(), session.result().engine())),
           where(SelectParts::of(sql).where)
     {
         if (!where.isEmpty())
@@ -96,7 +95,7 @@ QString statementWithout(Session &session, std::size_t condition)
     while (sentence.fields.endsWith(u' '))
         sentence.fields.chop(1);
     for (const QString &part : std::as_const(kept))
-        addCondition(sentence, part, session.history().Reading());
+        addCondition(sentence, part, session.history().UsedDialect());
     return ComposeSQL(sentence.fields, sentence.where.trimmed(), sentence.order.trimmed());
 }
 

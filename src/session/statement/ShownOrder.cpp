@@ -37,8 +37,7 @@ std::vector<SortTerm> shownOrder(Session &session)
     if (!session.result().isOpen() || session.isFilterManager(nullptr))
         return {};
     const Dialect dialect = dialectOf(session.filterManager().DBType(), session.result().engine());
-    const SqlScanner statement(session.result().recordset()->Source(), readingOf(dialect),
-                               {.brackets = true});
+    const SqlScanner statement(session.result().recordset()->Source(), dialect);
     const SelectParts parts = SelectParts::of(statement);
     const QStringList headings = session.window().Headings();
     std::vector<SortTerm> terms;

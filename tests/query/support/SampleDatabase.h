@@ -18,7 +18,7 @@ public:
     bool Open(const QString &connectionString) override { return !connectionString.isEmpty(); }
     std::optional<std::vector<KOVAVSFDataGridLib::SourceField>> Read(const QString &connectionString,
                                                                      const QString &statement) override;
-    KOVAVSFDataGridLib::Engine engineOf(const QString &) override
+    KOVAVSFDataGridLib::EngineMode engineOf(const QString &) override
     {
         return KOVAVSFDataGridLib::Engine::SQLite;
     }

@@ -4,10 +4,12 @@
 #include "ado/Texts.h"
 #include "ado/connection/OdbcCatalogue.h"
 #include "ado/providers/odbc/OdbcHandle.h"
+#include "ado/providers/odbc/reading/OdbcLongValue.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QStringList>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -94,6 +96,24 @@ void OdbcPool::connectFirst()
     m_isShared = m_engine.isServer();
     connection->setIdle();
     m_idle.push_back(std::move(connection));
+    if (m_engine.dialect == SqlDialect::MySql)
+        learnQuoting();
+}
+
+// From settings of the server and of the session. Statements are written and checked by it.
+void OdbcPool::learnQuoting()
+{
+    OdbcLongValue value;
+    SQLLEN length = 0;
+    const OdbcHandle statement(take(std::make_shared<std::atomic<bool>>(false)));
+    statement.execute(u"SELECT @@sql_mode"_s);
+    statement.fetch();
+    statement.check(value.read(statement, 0, OdbcTypes::Form::Text, length));
+    const QStringList modes = QString::fromUtf16(reinterpret_cast<const char16_t *>(value.data()),
+                                                 std::max<SQLLEN>(length, 0) / qsizetype{sizeof(char16_t)})
+                                  .split(u',');
+    m_engine.quoting = {!modes.contains(u"NO_BACKSLASH_ESCAPES"_s), modes.contains(u"ANSI_QUOTES"_s),
+                        modes.contains(u"MSSQL"_s)};
 }
 
 void OdbcPool::keepReady()

@@ -41,6 +41,7 @@ public:
 private:
     explicit OdbcPool(OdbcLogin login);
     void connectFirst();
+    void learnQuoting();
     void keepReady();
     std::unique_ptr<OdbcConnection> takeIdle();
     void giveBack(std::unique_ptr<OdbcConnection> connection);

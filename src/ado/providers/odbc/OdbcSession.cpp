@@ -7,10 +7,7 @@
 #include "ado/providers/odbc/OdbcOperation.h"
 #include "ado/providers/odbc/OdbcPool.h"
 #include "ado/providers/odbc/OdbcWaiting.h"
-#include "ado/providers/odbc/reading/OdbcLongValue.h"
 #include "ado/providers/odbc/reading/OdbcStatement.h"
-
-#include <QtCore/QStringList>
 
 #include <algorithm>
 
@@ -46,27 +43,6 @@ std::unique_ptr<Statement> OdbcSession::prepare(const QString &sql, Access acces
 QString OdbcSession::tableStatement(const QString &table) const
 {
     return "SELECT * FROM "_L1 + m_engine.quoted(table);
-}
-
-void OdbcSession::learnQuoting(const QString &sql)
-{
-    const bool matters = m_engine.dialect == SqlDialect::MySql && (sql.contains(u'\\') || sql.contains(u'['));
-    if (!matters || m_knowsQuoting)
-        return;
-    OdbcLongValue value;
-    SQLLEN length = 0;
-    begin([&](const std::shared_ptr<OdbcConnection> &connection) {
-        const OdbcHandle statement(connection);
-        statement.execute(u"SELECT @@sql_mode"_s);
-        statement.fetch();
-        statement.check(value.read(statement, 0, OdbcTypes::Form::Text, length));
-    });
-    const QStringList modes = QString::fromUtf16(reinterpret_cast<const char16_t *>(value.data()),
-                                                 std::max<SQLLEN>(length, 0) / qsizetype{sizeof(char16_t)})
-                                  .split(u',');
-    m_engine.quoting = {!modes.contains(u"NO_BACKSLASH_ESCAPES"_s), modes.contains(u"ANSI_QUOTES"_s),
-                        modes.contains(u"MSSQL"_s)};
-    m_knowsQuoting = true;
 }
 
 void OdbcSession::close()

@@ -25,6 +25,7 @@ public:
                                        const std::function<bool()> &shouldContinue) override;
     QString tableStatement(const QString &table) const override;
     QString engineName() const override { return m_engine.dbmsName; }
+    SqlQuoting quoting() const override { return m_engine.quoting; }
     void close() override;
     bool isOpen() const override;
 
@@ -36,8 +37,6 @@ public:
     std::shared_ptr<OdbcConnection>
     begin(const std::function<void(const std::shared_ptr<OdbcConnection> &)> &first);
     const OdbcEngine &engine() const { return m_engine; }
-    // Learns what the server's mode makes of the quotes in a statement, where that matters.
-    void learnQuoting(const QString &sql);
     int commandTimeout() const { return m_commandTimeout; }
 
 private:
@@ -48,7 +47,6 @@ private:
     std::shared_ptr<OdbcConnection> m_kept; // of a database that lives in its connection
     std::shared_ptr<std::atomic<bool>> m_isLost = std::make_shared<std::atomic<bool>>(false);
     OdbcEngine m_engine;
-    bool m_knowsQuoting = false;
     int m_commandTimeout;
 };
 

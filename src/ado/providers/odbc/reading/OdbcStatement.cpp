@@ -46,7 +46,6 @@ OdbcStatement::OdbcStatement(std::shared_ptr<OdbcSession> session, const QString
     : m_session(std::move(session))
 {
     const OdbcEngine &engine = m_session->engine();
-    m_session->learnQuoting(sql);
     const SqlScanner scanner(sql, engine.dialect, engine.quoting);
     refuseUnlessQuery(scanner);
     m_connection = m_session->begin([&](const std::shared_ptr<OdbcConnection> &connection) {
