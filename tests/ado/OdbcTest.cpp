@@ -165,7 +165,7 @@ TEST_P(OnOdbc, StopsTheServerWhenTheProgressReportSaysSo)
     int reports = 0;
     recordset.SetProgress([&](qint64) { return ++reports < 5; });
     EXPECT_ADO_ERROR(dbErrCancelled, recordset.Open(QString::fromUtf8(GetParam().endless), connection));
-    EXPECT_EQ(reports, 5);
+    EXPECT_GE(reports, 5) << "it is also asked while the server stops";
     EXPECT_EQ(recordset.State(), adStateClosed);
     EXPECT_EQ(connection->State(), adStateOpen);
     recordset.SetProgress({});
