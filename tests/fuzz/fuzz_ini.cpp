@@ -18,9 +18,8 @@ constexpr qsizetype longest = 254;
 // One file for all inputs, in memory where the system has such a folder.
 QString writtenFile(const QByteArray &content)
 {
-    static const QTemporaryDir folder(QFile::exists(QStringLiteral("/dev/shm"))
-                                          ? QStringLiteral("/dev/shm/fuzz_ini-XXXXXX")
-                                          : QString());
+    static const QTemporaryDir folder(
+        QFile::exists(QStringLiteral("/dev/shm")) ? QStringLiteral("/dev/shm/fuzz_ini-XXXXXX") : QString());
     const QString path = folder.filePath(QStringLiteral("a.cfg"));
     QFile file(path);
     Require(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
