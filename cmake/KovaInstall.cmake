@@ -40,6 +40,8 @@ if(TARGET kovagrid)
   install(TARGETS kovagrid RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
   set(assets ${PROJECT_SOURCE_DIR}/apps/kovagrid/assets)
   install(FILES ${assets}/kovagrid.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT runtime)
+  install(FILES ${assets}/example.kovavsfdatagrid.kovagrid.metainfo.xml
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT runtime)
   install(FILES ${assets}/kovagrid.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT runtime)
 endif()

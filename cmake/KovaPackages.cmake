@@ -83,11 +83,14 @@ endfunction()
 # Documents: for users with the program, for developers with the headers.
 set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc)
 set(docs ${PROJECT_SOURCE_DIR}/docs)
-install(FILES ${docs}/messages.md ${docs}/shortcuts.zh-CN.md ${docs}/users.zh-CN.md
+install(FILES ${docs}/messages.md ${docs}/messages.en.md ${docs}/shortcuts.md ${docs}/shortcuts.zh-CN.md ${docs}/users.md ${docs}/users.zh-CN.md
+    ${docs}/kovagrid.md ${docs}/kovagrid.zh-CN.md
   DESTINATION ${doc_dir}/${library_package} COMPONENT runtime)
+install(DIRECTORY ${docs}/images/users DESTINATION ${doc_dir}/${library_package}/images COMPONENT runtime)
 file(GLOB pages CONFIGURE_DEPENDS ${docs}/*.md)
 set(dev_dir ${doc_dir}/${CPACK_DEBIAN_DEV_PACKAGE_NAME})
 install(FILES ${pages} DESTINATION ${dev_dir}/docs COMPONENT dev)
+install(DIRECTORY ${docs}/images DESTINATION ${dev_dir}/docs COMPONENT dev)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${dev_dir} COMPONENT dev)
 if(python IN_LIST CPACK_COMPONENTS_ALL)
   install(DIRECTORY ${PROJECT_SOURCE_DIR}/python/examples

@@ -174,3 +174,20 @@ function(kova_toolbar_icons variable)
   qt_add_resources(source ${list})
   set(${variable} ${source} PARENT_SCOPE)
 endfunction()
+
+# kova_translation(<variable> <file>.ts): the source file that carries this translation as a resource.
+function(kova_translation variable translation)
+  find_program(LRELEASE NAMES lrelease HINTS /usr/lib/qt6/bin REQUIRED) # of the building machine
+  cmake_path(GET translation STEM name)
+  set(compiled ${CMAKE_CURRENT_BINARY_DIR}/${name}.qm)
+  add_custom_command(OUTPUT ${compiled}
+    COMMAND ${LRELEASE} -silent ${translation} -qm ${compiled}
+    DEPENDS ${translation} VERBATIM)
+  set(list ${CMAKE_CURRENT_BINARY_DIR}/${name}.qrc)
+  file(CONFIGURE OUTPUT ${list} CONTENT
+    "<RCC>\n  <qresource prefix=\"/KOVAVSFDataGridLib/translations\">\n    <file alias=\"${name}.qm\">${compiled}</file>\n  </qresource>\n</RCC>\n" @ONLY)
+  set_source_files_properties(${compiled} PROPERTIES GENERATED ON)
+  qt_add_resources(source ${list})
+  set_property(SOURCE ${source} APPEND PROPERTY OBJECT_DEPENDS ${compiled})
+  set(${variable} ${source} PARENT_SCOPE)
+endfunction()

@@ -56,13 +56,27 @@ void pressButtons(const KOVAVSFDataGrid &grid, const QStringList &keys)
         button(grid, key)->trigger();
 }
 
-// Chinese first: a system's default font may draw it in another country's shapes.
-void useChinese(QTranslator &translator)
+// The translators belong to the application.
+void install(const QString &translation, const QString &folder)
 {
-    const QLocale chinese(QLocale::Chinese, QLocale::China);
-    QLocale::setDefault(chinese);
-    if (translator.load(chinese, u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&translator);
+    auto *translator = new QTranslator(QApplication::instance());
+    if (translator->load(translation, folder))
+        QApplication::installTranslator(translator);
+}
+
+// The texts are written in Chinese, Qt's in English. Installing the library's own translation makes it the
+// language of all grids, as their property Language does.
+void useLanguage(const QString &language)
+{
+    if (language == u"en") {
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        install(u"KOVAVSFDataGridLib_en"_s, u":/KOVAVSFDataGridLib/translations"_s);
+        install(u"kovagrid_en"_s, u":/KOVAVSFDataGridLib/translations"_s);
+    } else {
+        QLocale::setDefault(QLocale(QLocale::Chinese, QLocale::China));
+        install(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    }
+    // Chinese first: a system's default font may draw it in another country's shapes.
     QFont font = QApplication::font();
     font.setFamilies({u"Noto Sans CJK SC"_s, u"Microsoft YaHei UI"_s, u"PingFang SC"_s, font.family()});
     QApplication::setFont(font);
@@ -87,7 +101,7 @@ int failed(const QString &text)
 
 int badUsage(const QString &error)
 {
-    std::fprintf(stderr, "%s\n%s\n", qUtf8Printable(error), qUtf8Printable(Options::usage()));
+    std::fprintf(stderr, "%s\n%s\n", qUtf8Printable(error), qUtf8Printable(HostTexts::Usage()));
     return BadUsage;
 }
 
@@ -115,9 +129,9 @@ int runUnattended(HostWindow &window, const Options &options)
     // Standard output belongs to the records when they are asked for.
     std::fprintf(options.print ? stderr : stdout, "%s\n", qUtf8Printable(summary));
     if (options.print && !Unattended::print(*table, options.printRows))
-        return failed(HostTexts::CantPrint);
+        return failed(HostTexts::CantPrint());
     if (!options.screenshot.isEmpty() && !window.grab().save(options.screenshot))
-        return failed(HostTexts::CantSavePicture.arg(options.screenshot));
+        return failed(HostTexts::CantSavePicture().arg(options.screenshot));
     if (!unattended.messages().isEmpty())
         return failed(unattended.messages());
     window.close();
@@ -139,11 +153,10 @@ int run(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(KOVAGRID_VERSION));
     QApplication::setDesktopFileName(u"kovagrid"_s);
     QApplication::setWindowIcon(QIcon(u":/kovagrid.svg"_s));
-    QTranslator translator;
-    useChinese(translator);
+    useLanguage(Options::language(QApplication::arguments().mid(1)));
 
     if (QApplication::arguments().contains(u"--help"_s)) {
-        std::puts(qUtf8Printable(Options::usage()));
+        std::puts(qUtf8Printable(HostTexts::Usage()));
         return Done;
     }
     QString error;
@@ -158,7 +171,7 @@ int run(int argc, char **argv)
     HostWindow window(*options);
     for (const QString &key : std::as_const(options->keys)) {
         if (!button(*window.grid(), key))
-            return badUsage(u"--do: there is no button "_s + key);
+            return badUsage(HostTexts::NoButton().arg(key));
     }
     if (!isWatched || options->print || !options->screenshot.isEmpty())
         return runUnattended(window, *options);

@@ -1,5 +1,7 @@
 #include "Result.h"
 
+#include <QtCore/QCoreApplication>
+
 using namespace ADODB;
 
 bool Result::isOpen() const
@@ -11,7 +13,8 @@ bool Result::isOpen() const
 std::shared_ptr<Recordset> Result::open() const
 {
     if (!isOpen())
-        throw Error(adErrObjectClosed, QStringLiteral("记录集没有打开或已经关闭。"));
+        throw Error(adErrObjectClosed,
+                    QCoreApplication::translate("ADODB::Texts", "记录集没有打开或已经关闭。"));
     return m_recordset.lock();
 }
 

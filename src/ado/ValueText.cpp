@@ -1,5 +1,7 @@
 #include "ado/ValueText.h"
 
+#include "ado/Texts.h"
+
 #include <QtCore/QDateTime>
 #include <QtCore/QUuid>
 
@@ -57,7 +59,7 @@ QString ValueText(const QVariant &value)
     case QMetaType::QUuid:
         return value.toUuid().toString();
     case QMetaType::QByteArray:
-        return u"<%1 字节>"_s.arg(value.toByteArray().size());
+        return Texts::bytes.arg(value.toByteArray().size());
     default:
         return value.toString();
     }

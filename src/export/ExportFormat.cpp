@@ -54,7 +54,8 @@ QString unknownFormatText(const QString &file)
     QStringList endings;
     for (const ExportFormat format : availableFormats())
         endings.append(fileEnding(format));
-    return ExportTexts::UnknownFormat.arg(QFileInfo(file).fileName(), endings.join(u'、'));
+    return ExportTexts::UnknownFormat.arg(QFileInfo(file).fileName(),
+                                          endings.join(ExportTexts::BetweenEndings()));
 }
 
 std::unique_ptr<RecordWriter> newWriter(QIODevice &device, const ExportOptions &options)

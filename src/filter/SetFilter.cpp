@@ -126,7 +126,7 @@ void SetFilter::SetConnectionString(const QString &text)
 
 void SetFilter::SetCurrentTable(const QString &name)
 {
-    m_table->setText(name.isEmpty() ? m_caption : m_caption + u'：' + name);
+    m_table->setText(name.isEmpty() ? m_caption : FilterTexts::TableName.arg(m_caption, name));
 }
 
 void SetFilter::SetTableName(const QString &fromText)

@@ -3,6 +3,7 @@
 #include "filter/FilterTexts.h"
 #include "filter/conditions/FilterDays.h"
 #include "filter/conditions/FilterValue.h"
+#include "language/Language.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QScopedValueRollback>
@@ -106,11 +107,18 @@ ValueEdit::ValueEdit(QWidget *parent)
 {
     m_offer->setObjectName(u"actOffer"_s);
     m_offerValues->setObjectName(u"actValues"_s);
-    m_offerValues->setText(FilterTexts::PickValueOfDays); // its name
-    m_offerValues->setToolTip(FilterTexts::PickValueOfDays);
     connect(m_offerValues, &QAction::triggered, this, &ValueEdit::offerValues);
     connect(m_offer, &QAction::triggered, this, &ValueEdit::offer);
     setKind(FieldClass::Text, false);
+    Language::keepTranslated(*this, [this] { writeTexts(); });
+}
+
+void ValueEdit::writeTexts()
+{
+    m_offer->setText(m_offerText); // its name
+    m_offer->setToolTip(m_offerText);
+    m_offerValues->setText(FilterTexts::PickValueOfDays);
+    m_offerValues->setToolTip(FilterTexts::PickValueOfDays);
 }
 
 void ValueEdit::setKind(FieldClass fieldClass, bool isList)
@@ -122,8 +130,8 @@ void ValueEdit::setKind(FieldClass fieldClass, bool isList)
     m_offer->setVisible(hasDays(fieldClass) || fieldClass == FieldClass::Text ||
                         fieldClass == FieldClass::Boolean || hasValues);
     m_offerValues->setVisible(hasValues && hasDays(fieldClass));
-    m_offer->setText(hasDays(fieldClass) ? FilterTexts::PickDate : FilterTexts::PickValue); // its name
-    m_offer->setToolTip(m_offer->text());
+    m_offerText = hasDays(fieldClass) ? FilterTexts::PickDate : FilterTexts::PickValue;
+    writeTexts();
 }
 
 void ValueEdit::setCount()

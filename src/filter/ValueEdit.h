@@ -2,6 +2,7 @@
 
 #include "filter/ValueReading.h"
 #include "filter/conditions/FieldClass.h"
+#include "language/Text.h"
 
 #include <QtWidgets/QLineEdit>
 
@@ -48,6 +49,7 @@ protected:
 
 private:
     void offer();
+    void writeTexts();
     void offerValues();
     void offerList(const QStringList &values, const QString &end = {});
     void makeList();
@@ -66,6 +68,7 @@ private:
     FieldClass m_fieldClass = FieldClass::Text;
     bool m_isList = false;
     QAction *m_offer;
+    Text m_offerText;
     QAction *m_offerValues;
     QCompleter *m_list = nullptr;
     QCalendarWidget *m_calendar = nullptr;

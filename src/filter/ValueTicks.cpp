@@ -33,8 +33,7 @@ QString grouped(qint64 number)
 QString spokenDay(const QString &day)
 {
     const QDate date = QDate::fromString(day, Qt::ISODate);
-    return FilterTexts::YearOfDays.arg(date.year()) + FilterTexts::MonthOfDays.arg(date.month()) +
-           FilterTexts::DayOfDays.arg(date.day());
+    return FilterTexts::WholeDay.arg(date.year()).arg(date.month()).arg(date.day());
 }
 
 // Those of the values that contain a text.

@@ -1,119 +1,122 @@
 #pragma once
 
-#include <QtCore/QString>
+#include "language/Text.h"
 
 // The texts of the dialogs, for proof-reading in one place.
 namespace KOVAVSFDataGridLib::FormTexts {
 
+inline constexpr TextTable tr{"KOVAVSFDataGridLib::FormTexts"};
+
 using namespace Qt::StringLiterals;
 
-inline const QString Ok = u"确定"_s;
-inline const QString Cancel = u"取消"_s;
-inline const QString Yes = u"是(&Y)"_s;
-inline const QString No = u"否(&N)"_s;
-inline const QString Save = u"保存(&S)"_s;
-inline const QString Discard = u"放弃(&D)"_s;
+inline constexpr Text Ok = tr("确定");
+inline constexpr Text Cancel = tr("取消");
+inline constexpr Text Yes = tr("是(&Y)");
+inline constexpr Text No = tr("否(&N)");
+inline constexpr Text Save = tr("保存(&S)");
+inline constexpr Text Discard = tr("放弃(&D)");
 
 // Dialog_SQLST
-inline const QString SqlDialogTitle = u"文本"_s;
-inline const QString AllowEditing = u"允许编辑(&E)"_s;
-inline const QString AllowEditingHint = u"勾选“允许编辑”后可以修改；不勾选时只供查看和复制。"_s;
+inline constexpr Text SqlDialogTitle = tr("文本");
+inline constexpr Text AllowEditing = tr("允许编辑(&E)");
+inline constexpr Text AllowEditingHint = tr("勾选“允许编辑”后可以修改；不勾选时只供查看和复制。");
 
 // frmSelShowFields
-inline const QString SelectFieldsTitle = u"选择显示字段"_s;
-inline const QString FieldNameColumn = u"字段名称"_s;
-inline const QString SearchField = u"查找(&S):"_s;
-inline const QString SearchFieldHint = u"输入字段名称的一部分"_s;
-inline const QString CheckAll = u"全选(&A)"_s;
-inline const QString CheckNone = u"全不选(&N)"_s;
-inline const QString CheckInvert = u"反选(&I)"_s;
-inline const QString ChecksActOnListed = u"只作用于列出的字段"_s;
-inline const QString CheckedCount = u"已选 %1 个，共 %2 个"_s;
-inline const QString AtLeastOneField = u"至少选择一列"_s;
+inline constexpr Text SelectFieldsTitle = tr("选择显示字段");
+inline constexpr Text FieldNameColumn = tr("字段名称");
+inline constexpr Text SearchField = tr("查找(&S):");
+inline constexpr Text SearchFieldHint = tr("输入字段名称的一部分");
+inline constexpr Text CheckAll = tr("全选(&A)");
+inline constexpr Text CheckNone = tr("全不选(&N)");
+inline constexpr Text CheckInvert = tr("反选(&I)");
+inline constexpr Text ChecksActOnListed = tr("只作用于列出的字段");
+inline constexpr Text CheckedCount = tr("已选 %1 个，共 %2 个");
+inline constexpr Text AtLeastOneField = tr("至少选择一列");
 
 // frmSelSortFields
-inline const QString SelectSortTitle = u"选择排序字段"_s;
-inline const QString SortFieldColumn = u"排序字段"_s;
-inline const QString OrderColumn = u"次序"_s;
-inline const QString SortField = u"字段(&F):"_s;
-inline const QString SortOrder = u"次序(&R):"_s;
-inline const QString AddSortField = u"添加(&A)"_s;
-inline const QString AlreadyInSort = u"该字段已在排序列表中"_s;
-inline const QString DeleteSortField = u"删除(&D)"_s;
-inline const QString MoveSortFieldUp = u"上移(&U)"_s;
-inline const QString MoveSortFieldDown = u"下移(&W)"_s;
-inline const QString NoSortHint = u"选择字段和次序，按“添加”加入排序列表。"_s;
-inline const QString SortListHint = u"双击或按空格键切换升序和降序，拖动改变先后。"_s;
+inline constexpr Text SelectSortTitle = tr("选择排序字段");
+inline constexpr Text SortFieldColumn = tr("排序字段");
+inline constexpr Text OrderColumn = tr("次序");
+inline constexpr Text SortField = tr("字段(&F):");
+inline constexpr Text SortOrder = tr("次序(&R):");
+inline constexpr Text AddSortField = tr("添加(&A)");
+inline constexpr Text AlreadyInSort = tr("该字段已在排序列表中");
+inline constexpr Text DeleteSortField = tr("删除(&D)");
+inline constexpr Text MoveSortFieldUp = tr("上移(&U)");
+inline constexpr Text MoveSortFieldDown = tr("下移(&W)");
+inline constexpr Text NoSortHint = tr("选择字段和次序，按“添加”加入排序列表。");
+inline constexpr Text SortListHint = tr("双击或按空格键切换升序和降序，拖动改变先后。");
 
 // Both selection dialogs
-inline const QString TableName = u"数据表"_s;
+inline constexpr Text TableName = tr("数据表");
 
 // FindDialog
-inline const QString FindTitle = u"查找"_s;
-inline const QString FindHint = u"输入查询内容（以空格分隔）"_s;
-inline const QString FindWhat = u"查询内容(&W):"_s;
-inline const QString FindInField = u"指定的字段名称（默认：全部）(&N):"_s;
-inline const QString FindInFieldName = u"指定的字段名称（默认：全部）"_s;
-inline const QString Find = u"查找(&F)"_s;
+inline constexpr Text FindTitle = tr("查找");
+inline constexpr Text FindHint = tr("输入查询内容（以空格分隔）");
+inline constexpr Text FindWhat = tr("查询内容(&W):");
+inline constexpr Text FindInField = tr("指定的字段名称（默认：全部）(&N):");
+inline constexpr Text FindInFieldName = tr("指定的字段名称（默认：全部）");
+inline constexpr Text Find = tr("查找(&F)");
 
 // ValueDialog
-inline const QString ValueTitle = u"查看内容 - %1"_s;
-inline const QString TextTab = u"文本"_s;
-inline const QString PictureTab = u"图片"_s;
-inline const QString HexTab = u"十六进制"_s;
-inline const QString ValueText = u"内容"_s;
-inline const QString FindInValue = u"在内容中查找（Enter 下一处）"_s;
-inline const QString NotInValue = u"没有找到"_s;
-inline const QString PieceOf = u"第 %1 段，共 %2 段"_s;
-inline const QString PreviousPiece = u"上一段(&P)"_s;
-inline const QString NextPiece = u"下一段(&N)"_s;
-inline const QString NullValue = u"空值（NULL）"_s;
-inline const QString CharactersOfValue = u"%1 个字符"_s;
-inline const QString BytesOfValue = u"%1 字节"_s;
-inline const QString SizeOfPicture = u"%1 × %2 像素"_s;
-inline const QString TooLongToFormat = u"超过 %1 个字符，不显示结构"_s;
-inline const QString CopyValue = u"复制(&C)"_s;
-inline const QString SaveValue = u"保存到文件(&S)…"_s;
-inline const QString CloseValue = u"关闭"_s;
-inline const QString SaveValueTitle = u"保存到文件"_s;
-inline const QString ValueNotSaved = u"文件没有保存：%1"_s;
-inline const QString TooLongToCopy = u"内容太长，不能复制；请保存到文件。"_s;
+inline constexpr Text ValueTitle = tr("查看内容 - %1");
+inline constexpr Text TextTab = tr("文本");
+inline constexpr Text PictureTab = tr("图片");
+inline constexpr Text HexTab = tr("十六进制");
+inline constexpr Text ValueText = tr("内容");
+inline constexpr Text FindInValue = tr("在内容中查找（Enter 下一处）");
+inline constexpr Text NotInValue = tr("没有找到");
+inline constexpr Text PieceOf = tr("第 %1 段，共 %2 段");
+inline constexpr Text PreviousPiece = tr("上一段(&P)");
+inline constexpr Text NextPiece = tr("下一段(&N)");
+inline constexpr Text NullValue = tr("空值（NULL）");
+inline constexpr Text CharactersOfValue = tr("%1 个字符");
+inline constexpr Text BytesOfValue = tr("%1 字节");
+inline constexpr Text SizeOfPicture = tr("%1 × %2 像素");
+inline constexpr Text BetweenFacts = tr("，");
+inline constexpr Text TooLongToFormat = tr("超过 %1 个字符，不显示结构");
+inline constexpr Text CopyValue = tr("复制(&C)");
+inline constexpr Text SaveValue = tr("保存到文件(&S)…");
+inline constexpr Text CloseValue = tr("关闭");
+inline constexpr Text SaveValueTitle = tr("保存到文件");
+inline constexpr Text ValueNotSaved = tr("文件没有保存：%1");
+inline constexpr Text TooLongToCopy = tr("内容太长，不能复制；请保存到文件。");
 
 // FormatDialog
-inline const QString FormatTitle = u"显示格式"_s;
-inline const QString FormatOfColumn = u"列：%1"_s;
-inline const QString Thousands = u"用逗号分隔千位(&T)"_s;
-inline const QString Decimals = u"小数位数(&D):"_s;
-inline const QString DecimalsAsTheyAre = u"按原样"_s;
-inline const QString ShowYesNo = u"显示为“是”和“否”(&Y)"_s;
-inline const QString FormatSample = u"示例：%1"_s;
-inline const QString FormatHint = u"只改变显示，复制、筛选和导出仍用原来的内容。"_s;
+inline constexpr Text FormatTitle = tr("显示格式");
+inline constexpr Text FormatOfColumn = tr("列：%1");
+inline constexpr Text Thousands = tr("用逗号分隔千位(&T)");
+inline constexpr Text Decimals = tr("小数位数(&D):");
+inline constexpr Text DecimalsAsTheyAre = tr("按原样");
+inline constexpr Text ShowYesNo = tr("显示为“是”和“否”(&Y)");
+inline constexpr Text FormatSample = tr("示例：%1");
+inline constexpr Text FormatHint = tr("只改变显示，复制、筛选和导出仍用原来的内容。");
 
 // ExportDialog
-inline const QString ExportTitle = u"导出"_s;
-inline const QString ExportFileLabel = u"文件(&F):"_s;
-inline const QString Browse = u"浏览(&B)…"_s;
-inline const QString ExportFormatLabel = u"格式(&T):"_s;
-inline const QString ExportEncodingLabel = u"编码(&D):"_s;
-inline const QString FormatCsv = u"CSV（逗号分隔）"_s;
-inline const QString FormatXlsx = u"XLSX（电子表格）"_s;
-inline const QString FormatJsonLines = u"JSON Lines（每行一个对象）"_s;
-inline const QString FormatHtml = u"HTML（网页）"_s;
-inline const QString EncodingUtf8WithMark = u"UTF-8（带签名）"_s;
+inline constexpr Text ExportTitle = tr("导出");
+inline constexpr Text ExportFileLabel = tr("文件(&F):");
+inline constexpr Text Browse = tr("浏览(&B)…");
+inline constexpr Text ExportFormatLabel = tr("格式(&T):");
+inline constexpr Text ExportEncodingLabel = tr("编码(&D):");
+inline constexpr Text FormatCsv = tr("CSV（逗号分隔）");
+inline constexpr Text FormatXlsx = tr("XLSX（电子表格）");
+inline constexpr Text FormatJsonLines = tr("JSON Lines（每行一个对象）");
+inline constexpr Text FormatHtml = tr("HTML（网页）");
+inline constexpr Text EncodingUtf8WithMark = tr("UTF-8（带签名）");
 inline const QString EncodingUtf8 = u"UTF-8"_s;
 inline const QString EncodingGb18030 = u"GB18030"_s;
-inline const QString ExportRecordsGroup = u"记录"_s;
-inline const QString ExportAllRecords = u"全部 %1 条(&A)"_s;
-inline const QString ExportMarkedRecords = u"选定的 %1 条(&S)"_s;
-inline const QString ExportColumnsGroup = u"字段"_s;
-inline const QString ExportShownColumns = u"显示的 %1 个(&W)"_s;
-inline const QString ExportAllColumns = u"全部 %1 个(&L)"_s;
-inline const QString ExportHeadings = u"第一行是字段名称(&H)"_s;
-inline const QString ExportGuard = u"防止以 = + - @ 开头的文本被当作公式(&G)"_s;
-inline const QString ExportGuardHint = u"在这样的文本前加一个撇号，电子表格打开文件时不会执行它。"_s;
-inline const QString ExportButton = u"导出(&E)"_s;
-inline const QString ExportNoFile = u"请指定文件。"_s;
-inline const QString ExportReplace = u"文件“%1”已经存在，要替换它吗？"_s;
+inline constexpr Text ExportRecordsGroup = tr("记录");
+inline constexpr Text ExportAllRecords = tr("全部 %1 条(&A)");
+inline constexpr Text ExportMarkedRecords = tr("选定的 %1 条(&S)");
+inline constexpr Text ExportColumnsGroup = tr("字段");
+inline constexpr Text ExportShownColumns = tr("显示的 %1 个(&W)");
+inline constexpr Text ExportAllColumns = tr("全部 %1 个(&L)");
+inline constexpr Text ExportHeadings = tr("第一行是字段名称(&H)");
+inline constexpr Text ExportGuard = tr("防止以 = + - @ 开头的文本被当作公式(&G)");
+inline constexpr Text ExportGuardHint = tr("在这样的文本前加一个撇号，电子表格打开文件时不会执行它。");
+inline constexpr Text ExportButton = tr("导出(&E)");
+inline constexpr Text ExportNoFile = tr("请指定文件。");
+inline constexpr Text ExportReplace = tr("文件“%1”已经存在，要替换它吗？");
 
 // ConnectDialog, which only the host's developer meets
 inline const QString ConnectTitle = u"Connection"_s;

@@ -38,7 +38,7 @@ QMessageBox *newBox(QWidget *parent, const Message &message)
 // In the language of the texts, whatever translator the host has installed.
 void nameButtons(QMessageBox &box)
 {
-    const std::pair<QMessageBox::StandardButton, const QString &> captions[] = {
+    const std::pair<QMessageBox::StandardButton, Text> captions[] = {
         {QMessageBox::Ok, FormTexts::Ok},           {QMessageBox::Yes, FormTexts::Yes},
         {QMessageBox::No, FormTexts::No},           {QMessageBox::Save, FormTexts::Save},
         {QMessageBox::Discard, FormTexts::Discard}, {QMessageBox::Cancel, FormTexts::Cancel}};

@@ -10,7 +10,6 @@
 
 class QComboBox;
 class QLabel;
-class QLineEdit;
 class QPrintPreviewWidget;
 class QToolButton;
 

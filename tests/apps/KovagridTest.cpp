@@ -215,7 +215,28 @@ TEST_F(Kovagrid, HelpsOnRequest)
 {
     const Outcome outcome = run({u"--help"_s});
     EXPECT_EQ(outcome.exitCode, 0);
-    EXPECT_TRUE(outcome.output.startsWith(u"usage: kovagrid"_s));
+    EXPECT_TRUE(outcome.output.startsWith(u"用法：kovagrid"_s));
+}
+
+TEST_F(Kovagrid, HelpsInEnglishOnRequest)
+{
+    for (const QStringList &language : {QStringList{u"--lang"_s, u"en"_s}, QStringList{u"--lang=en"_s}}) {
+        const Outcome outcome = run(language + QStringList{u"--help"_s});
+        EXPECT_EQ(outcome.exitCode, 0);
+        EXPECT_TRUE(outcome.output.startsWith(u"usage: kovagrid"_s)) << outcome.output.toStdString();
+    }
+}
+
+TEST_F(Kovagrid, ReportsErrorsInTheChosenLanguage)
+{
+    const QString missing = home.filePath(u"missing.db"_s);
+    const QStringList arguments{u"--connection"_s, u"Provider=SQLite;Data Source="_s + missing, u"--sql"_s,
+                                u"select * from orders"_s};
+    EXPECT_TRUE(run(arguments).errors.contains(u"找不到数据库文件："_s + missing));
+    const Outcome outcome = run(arguments + QStringList{u"--lang"_s, u"en"_s});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_TRUE(outcome.errors.contains(u"Database file not found: "_s + missing))
+        << outcome.errors.toStdString();
 }
 
 TEST_F(Kovagrid, AStatementWithoutFromIsPrintedLikeAnyOther)
@@ -234,15 +255,20 @@ INSTANTIATE_TEST_SUITE_P(Arguments, BadUsage,
                                          QStringList{u"--db-type"_s, u"mysql"_s},
                                          QStringList{u"--table-type"_s, u"x"_s},
                                          QStringList{u"--do"_s, u"NoSuchButton"_s},
-                                         QStringList{u"--print=x"_s}, QStringList{u"--size"_s, u"big"_s},
+                                         QStringList{u"--lang"_s, u"fr"_s}, QStringList{u"--print=x"_s},
+                                         QStringList{u"--size"_s, u"big"_s},
                                          QStringList{u"--print"_s, u"-1"_s}, QStringList{u"--sql"_s}));
 
 TEST_P(BadUsage, IsExplainedAndExitCode2)
 {
     const Outcome outcome = run(GetParam());
     EXPECT_EQ(outcome.exitCode, 2);
-    EXPECT_TRUE(outcome.errors.contains(u"usage: kovagrid"_s));
+    EXPECT_TRUE(outcome.errors.contains(u"用法：kovagrid"_s));
     EXPECT_EQ(outcome.output, QString());
+    const Outcome english = run(QStringList{u"--lang=en"_s} + GetParam());
+    EXPECT_EQ(english.exitCode, 2);
+    // Of two languages the last one applies.
+    EXPECT_EQ(english.errors.contains(u"usage: kovagrid"_s), !GetParam().contains(u"--lang"_s));
 }
 
 #if defined(Q_OS_LINUX) && !defined(__SANITIZE_ADDRESS__)

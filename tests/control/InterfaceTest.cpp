@@ -1,9 +1,13 @@
 // The control's face as its hosts see it: every name, type and order.
 #include <KOVAVSFDataGrid>
 
+#include <QtCore/QFile>
 #include <QtCore/QMetaMethod>
 #include <QtCore/QMetaProperty>
+#include <QtCore/QRegularExpression>
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -46,6 +50,7 @@ constexpr PropertyFacts properties[] = {
     {"UserMode", "bool", true, false},
     {"ReadOnly", "bool", true, false},
     {"LayoutKey", "QString", true, false},
+    {"Language", "QString", true, false},
 };
 
 constexpr const char *methods[] = {
@@ -180,4 +185,20 @@ TEST(Interface, IsReachedThroughTheAbstractClass)
     IKOVAVSFDataGrid &face = grid;
     face.PutSQLSort(QStringLiteral("NAME DESC"));
     EXPECT_EQ(grid.SQLSort(), QStringLiteral("NAME DESC"));
+}
+
+TEST(Interface, IsInTheReferenceByThemes)
+{
+    QFile file(QStringLiteral(KOVA_SOURCE_DIR "/docs/reference.md"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(file.readAll());
+    const QString themes = text.mid(text.indexOf(u"## Members by theme"_s));
+    for (int i = face.propertyOffset(); i < face.propertyCount(); ++i) {
+        const QString name = QString::fromLatin1(face.property(i).name());
+        EXPECT_TRUE(themes.contains(QRegularExpression(u"::%1[,\\s]"_s.arg(name)))) << qPrintable(name);
+    }
+    for (int i = face.methodOffset(); i < face.methodCount(); ++i) {
+        const QString name = QString::fromLatin1(face.method(i).name());
+        EXPECT_TRUE(themes.contains(u"::%1()"_s.arg(name))) << qPrintable(name);
+    }
 }

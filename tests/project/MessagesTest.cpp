@@ -22,7 +22,8 @@ bool isMessage(const QString &name, const QString &text)
                                              u"CantReadAtRunTime"_s, u"CantSetAtRunTime"_s};
     static const QRegularExpression sentence(u"([。！!？?.](（%\\d）)?|：(%\\d(（%\\d）)?)?)\\s*$"_s);
     static const QRegularExpression noMessage(
-        u"^（|Hint$|Tip$|^DataSource$|^Driver$|^RemoveCondition$|^FormatOfColumn$|^FormatSample$"_s);
+        u"^（|Hint$|Tip$|^DataSource$|^Driver$|^RemoveCondition$|^FormatOfColumn$|^FormatSample$|"
+        u"^ColumnOfSummary$|^TableName$|^TicksTitle$|^AboutText$"_s);
     return withoutFullStop.contains(name) ||
            (sentence.match(text).hasMatch() && !name.contains(noMessage) && !text.contains(noMessage));
 }
@@ -30,14 +31,13 @@ bool isMessage(const QString &name, const QString &text)
 // The texts of a table `…Texts.h`, by name, in each of the forms that the tables have.
 QMap<QString, QString> textsIn(const QString &file)
 {
-    static const QRegularExpression entry(
-        u"(?:KOVA_TEXT\\((\\w+),|QString (\\w+)(?: =|\\(\\)\\s*\\{\\s*return))\\s*"
-        u"(?:u|QStringLiteral\\()?\"((?:[^\"\\\\]|\\\\.)*)\""_s);
+    static const QRegularExpression entry(u"(?:Text|QString) (\\w+)(?: =|\\(\\)\\s*\\{\\s*return)\\s*"
+                                          u"(?:u|tr\\()\"((?:[^\"\\\\]|\\\\.)*)\""_s);
     QMap<QString, QString> texts;
     QRegularExpressionMatchIterator matches = entry.globalMatch(contentOf(file));
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
-        texts.insert(match.captured(1) + match.captured(2), match.captured(3).replace(u"\\\""_s, u"\""_s));
+        texts.insert(match.captured(1), match.captured(2).replace(u"\\\""_s, u"\""_s));
     }
     return texts;
 }
@@ -73,4 +73,16 @@ TEST(Messages, AreAllExplained)
             messages += expectExplained(tables.next(), explained);
     }
     EXPECT_GT(messages, 90) << "a table is not read any more";
+}
+
+// The English document is made from this one; tools/english_messages makes it again.
+TEST(Messages, AreAllInTheEnglishDocument)
+{
+    const QString source = QString::fromUtf8(KOVA_SOURCE_DIR);
+    static const QRegularExpression row(u"^\\| (?!---)"_s, QRegularExpression::MultilineOption);
+    static const QRegularExpression chinese(u"[\\x{2e80}-\\x{9fff}]"_s);
+    const QString english = contentOf(source + u"/docs/messages.en.md"_s);
+    EXPECT_EQ(english.count(row), contentOf(source + u"/docs/messages.md"_s).count(row));
+    for (const QString &line : english.split(u'\n'))
+        EXPECT_FALSE(line.contains(chinese)) << qPrintable(line);
 }

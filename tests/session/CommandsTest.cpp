@@ -50,13 +50,16 @@ TEST(Commands, AreThereForEachNamedKey)
 
 TEST(Commands, HaveTheirShortcutsInTheDocument)
 {
-    QFile document(QStringLiteral(KOVA_SOURCE_DIR "/docs/shortcuts.zh-CN.md"));
-    ASSERT_TRUE(document.open(QIODevice::ReadOnly));
-    const QString documented = QString::fromUtf8(document.readAll());
-    for (const Command *command : Command::all()) {
-        for (const QString &shortcut : {command->shortcut, command->otherShortcut})
-            EXPECT_TRUE(shortcut.isEmpty() || documented.contains(u"| %1 |"_s.arg(shortcut)))
-                << command->key.toStdString() << ' ' << shortcut.toStdString();
+    for (const char *file :
+         {KOVA_SOURCE_DIR "/docs/shortcuts.zh-CN.md", KOVA_SOURCE_DIR "/docs/shortcuts.md"}) {
+        QFile document(QString::fromUtf8(file));
+        ASSERT_TRUE(document.open(QIODevice::ReadOnly)) << file;
+        const QString documented = QString::fromUtf8(document.readAll());
+        for (const Command *command : Command::all()) {
+            for (const QString &shortcut : {command->shortcut, command->otherShortcut})
+                EXPECT_TRUE(shortcut.isEmpty() || documented.contains(u"| %1 |"_s.arg(shortcut)))
+                    << file << ": " << command->key.toStdString() << ' ' << shortcut.toStdString();
+        }
     }
 }
 

@@ -1,9 +1,11 @@
-// dialog_shots FOLDER [dark]: shows each dialog with plausible contents and saves it as a PNG file in the
-// folder, at the scale of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
+// dialog_shots FOLDER [dark] [en]: shows each dialog with plausible contents and saves it as a PNG file in
+// the folder, at the scale of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
 #include "control/connection/ConnectionBuilder.h"
 #include "control/parts/FormatDialog.h"
 #include "control/parts/toolbar/ToolbarIcons.h"
+#include "filter/FilterTexts.h"
 #include "filter/SetFilter.h"
+#include "filter/conditions/FilterOperator.h"
 #include "filter/frm_Filter.h"
 #include "forms/ConnectDialog.h"
 #include "forms/Dialog_SQLST.h"
@@ -11,6 +13,7 @@
 #include "forms/FindDialog.h"
 #include "forms/frmSelShowFields.h"
 #include "forms/frmSelSortFields.h"
+#include "language/Language.h"
 #include "pages/ConnectionString.h"
 #include "pages/PageDialog.h"
 #include "pages/PropertyPage.h"
@@ -223,7 +226,7 @@ void takeFilter(Photographer &photographer)
     frm_Filter filter;
     filter.SetPicture(toolbarIcon(u"Filter"_s));
     SetFilter &builder = filter.SetFilter1();
-    builder.Initialize(u"当前使用数据表"_s, dbAccess);
+    builder.Initialize(FilterTexts::TableCaption, dbAccess);
     builder.SetConnectionString(makeDatabase(folder.path()));
     builder.SetCurrentTable(u"订单"_s);
     builder.SetTableName(u"订单"_s);
@@ -232,20 +235,20 @@ void takeFilter(Photographer &photographer)
     auto &add = part<QAbstractButton>(filter, u"cmdAddRow"_s);
     for (int further = 0; further < 3; ++further)
         add.click();
-    fillRow(filter, 1, u"下单日期"_s, u"介于"_s, u"2024-01-01"_s);
+    fillRow(filter, 1, u"下单日期"_s, captionOf(FilterOperator::Between), u"2024-01-01"_s);
     part<QLineEdit>(filter, u"txtValue1b"_s).setText(u"2024-03-31"_s);
-    fillRow(filter, 2, u"送货 城市"_s, u"在列表中"_s, u"北京, 上海"_s);
+    fillRow(filter, 2, u"送货 城市"_s, captionOf(FilterOperator::InList), u"北京, 上海"_s);
     part<QComboBox>(filter, u"cmbOpen2"_s).setCurrentIndex(1);
     part<QComboBox>(filter, u"cmbJoin2"_s).setCurrentIndex(1);
-    fillRow(filter, 3, u"备注"_s, u"包含"_s, u"100%"_s);
+    fillRow(filter, 3, u"备注"_s, captionOf(FilterOperator::Contains), u"100%"_s);
     part<QComboBox>(filter, u"cmbClose3"_s).setCurrentIndex(1);
-    fillRow(filter, 4, u"金额"_s, u"大于"_s, u"100"_s);
+    fillRow(filter, 4, u"金额"_s, captionOf(FilterOperator::Greater), u"100"_s);
     photographer.take(filter, u"frm_Filter"_s);
 
-    fillRow(filter, 4, u"金额"_s, u"大于"_s, u"一百"_s);
+    fillRow(filter, 4, u"金额"_s, captionOf(FilterOperator::Greater), u"一百"_s);
     builder.ConditionText();
     photographer.take(filter, u"frm_Filter-fault"_s);
-    fillRow(filter, 4, u"金额"_s, u"大于"_s, u"100"_s);
+    fillRow(filter, 4, u"金额"_s, captionOf(FilterOperator::Greater), u"100"_s);
     auto &condition = part<QLineEdit>(filter, u"txtCondition"_s);
     condition.setText(u"金额 > 100 AND 已付款 = 0"_s);
     Q_EMIT condition.textEdited(condition.text());
@@ -258,13 +261,16 @@ int main(int argc, char **argv)
 {
     const QApplication app(argc, argv);
     if (argc < 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
-        std::fputs("usage: dialog_shots FOLDER [dark]\n", stderr);
+        std::fputs("usage: dialog_shots FOLDER [dark] [en]\n", stderr);
         return 2;
     }
-    if (argc > 2)
+    const QStringList options = QApplication::arguments().mid(2);
+    if (options.contains(u"dark"_s))
         QApplication::setPalette(KovaTest::darkPalette());
     QTranslator texts;
-    if (texts.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (options.contains(u"en"_s))
+        Language::use(u"en"_s);
+    else if (texts.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&texts);
     QFont font = QApplication::font();
     font.setFamilies({u"Noto Sans CJK SC"_s, font.family()}); // as kovagrid chooses it

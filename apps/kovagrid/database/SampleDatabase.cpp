@@ -295,13 +295,13 @@ QString SampleDatabase::path()
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     if (!QDir().mkpath(folder))
-        throw failure(HostTexts::CantMakeFolder.arg(folder));
+        throw failure(HostTexts::CantMakeFolder().arg(folder));
     QString fileName = folder + u"/sample.db"_s;
     try {
         if (!isCurrent(fileName))
             createInOneStep(fileName);
     } catch (const std::runtime_error &error) {
-        throw failure(HostTexts::CantMakeSample.arg(fileName, QString::fromUtf8(error.what())));
+        throw failure(HostTexts::CantMakeSample().arg(fileName, QString::fromUtf8(error.what())));
     }
     return fileName;
 }

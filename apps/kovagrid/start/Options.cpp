@@ -1,5 +1,7 @@
 #include "start/Options.h"
 
+#include "HostTexts.h"
+
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QRegularExpression>
 
@@ -9,6 +11,7 @@ namespace {
 
 const QStringList DbTypes{u"access"_s, u"oracle"_s, u"sqlserver"_s};
 const QStringList TableTypes{u"table"_s, u"view"_s, u"sql"_s};
+const QStringList Languages{u"zh"_s, u"en"_s};
 bool isNumber(const QString &text)
 {
     bool ok = false;
@@ -32,37 +35,34 @@ QStringList withExplicitPrintRows(const QStringList &arguments)
     return result;
 }
 
+void addOptions(QCommandLineParser &parser)
+{
+    for (const QString &name : {u"connection"_s, u"db-type"_s, u"sql"_s, u"part"_s, u"sort"_s,
+                                u"table-type"_s, u"do"_s, u"print"_s, u"screenshot"_s, u"size"_s, u"lang"_s})
+        parser.addOption(QCommandLineOption(name, {}, u"value"_s));
+    parser.addOption(QCommandLineOption(u"dark"_s));
+}
+
 } // namespace
 
-QString Options::usage()
+QString Options::language(const QStringList &arguments)
 {
-    return u"usage: kovagrid [--connection TEXT] [--db-type access|oracle|sqlserver] [--sql TEXT] [--part "
-           u"TEXT]\n"
-           "                [--sort TEXT] [--table-type table|view|sql] [--do KEY[,KEY...]] [--print "
-           "[ROWS]]\n"
-           "                [--screenshot FILE] [--size WIDTHxHEIGHT] [--dark]\n"
-           "Without --connection, it opens a sample database, which it creates on first use.\n"
-           "Without a display, or with --screenshot, it prints \"Loaded N records, M fields in S s\" to\n"
-           "standard output. With --print, it prints that line to standard error instead, and only the\n"
-           "records to standard output."_s;
+    QCommandLineParser parser;
+    addOptions(parser);
+    parser.parse(QStringList{u"kovagrid"_s} + withExplicitPrintRows(arguments));
+    return parser.value(u"lang"_s);
 }
 
 std::optional<Options> Options::parse(const QStringList &arguments, QString &error)
 {
     QCommandLineParser parser;
-    const auto add = [&parser](const QString &name) {
-        parser.addOption(QCommandLineOption(name, {}, u"value"_s));
-    };
-    for (const QString &name : {u"connection"_s, u"db-type"_s, u"sql"_s, u"part"_s, u"sort"_s,
-                                u"table-type"_s, u"do"_s, u"print"_s, u"screenshot"_s, u"size"_s})
-        add(name);
-    parser.addOption(QCommandLineOption(u"dark"_s));
+    addOptions(parser);
     if (!parser.parse(QStringList{u"kovagrid"_s} + withExplicitPrintRows(arguments))) {
         error = parser.errorText();
         return {};
     }
     if (!parser.positionalArguments().isEmpty()) {
-        error = u"unexpected argument: "_s + parser.positionalArguments().constFirst();
+        error = HostTexts::UnexpectedArgument().arg(parser.positionalArguments().constFirst());
         return {};
     }
 
@@ -78,7 +78,7 @@ std::optional<Options> Options::parse(const QStringList &arguments, QString &err
         static const QRegularExpression size(u"^(\\d{2,4})x(\\d{2,4})$"_s);
         const QRegularExpressionMatch match = size.match(parser.value(u"size"_s));
         if (!match.hasMatch()) {
-            error = u"--size must be WIDTHxHEIGHT"_s;
+            error = HostTexts::BadSize();
             return {};
         }
         options.size = {match.captured(1).toInt(), match.captured(2).toInt()};
@@ -90,10 +90,11 @@ std::optional<Options> Options::parse(const QStringList &arguments, QString &err
         const qsizetype index = names.indexOf(parser.value(name).toLower());
         value = static_cast<qint32>(index) + first;
         if (index < 0)
-            error = u"--%1 must be one of %2"_s.arg(name, names.join(u", "));
+            error = HostTexts::BadChoice().arg(name, names.join(u", "));
         return index >= 0;
     };
-    if (!choice(u"db-type"_s, DbTypes, options.dbType, 1) ||
+    qint32 language = 0;
+    if (!choice(u"lang"_s, Languages, language, 0) || !choice(u"db-type"_s, DbTypes, options.dbType, 1) ||
         !choice(u"table-type"_s, TableTypes, options.tableType, 0))
         return {};
 
@@ -101,7 +102,7 @@ std::optional<Options> Options::parse(const QStringList &arguments, QString &err
         bool ok = false;
         const int rows = parser.value(u"print"_s).toInt(&ok);
         if (!ok || rows < 0) {
-            error = u"--print takes a number of rows"_s;
+            error = HostTexts::BadRows();
             return {};
         }
         options.printRows = rows;

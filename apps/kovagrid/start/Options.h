@@ -25,5 +25,6 @@ struct Options
 
     // Nothing when the arguments (without the program's name) make no sense; `error` then says why.
     static std::optional<Options> parse(const QStringList &arguments, QString &error);
-    static QString usage();
+    // The language that the arguments ask for, for messages about the others; empty when they don't say.
+    static QString language(const QStringList &arguments);
 };

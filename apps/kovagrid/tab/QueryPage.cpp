@@ -66,19 +66,19 @@ QWidget *QueryPage::makeForm()
 {
     m_connection->setObjectName(u"connection"_s);
     m_recent->setObjectName(u"recent"_s);
-    m_recent->setText(HostTexts::Recent);
+    m_recent->setText(HostTexts::Recent());
     m_recent->setPopupMode(QToolButton::InstantPopup);
     auto *menu = new QMenu(m_recent);
     m_recent->setMenu(menu);
     connect(menu, &QMenu::aboutToShow, this, &QueryPage::showRecent);
-    auto *run = new QPushButton(HostTexts::Run);
+    auto *run = new QPushButton(HostTexts::Run());
     run->setObjectName(u"run"_s);
-    run->setToolTip(HostTexts::RunTip);
+    run->setToolTip(HostTexts::RunTip());
     run->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     connect(run, &QPushButton::clicked, this, &QueryPage::loadForm);
     auto *more = new QToolButton;
-    more->setText(HostTexts::More);
-    more->setToolTip(HostTexts::MoreTip);
+    more->setText(HostTexts::More());
+    more->setToolTip(HostTexts::MoreTip());
     more->setCheckable(true);
     more->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     connect(more, &QToolButton::toggled, m_further, &QWidget::setVisible);
@@ -89,11 +89,11 @@ QWidget *QueryPage::makeForm()
     auto *connection = new QHBoxLayout;
     connection->addWidget(m_connection, 1);
     connection->addWidget(m_recent);
-    connection->addWidget(labelFor(HostTexts::DbType, m_dbType));
+    connection->addWidget(labelFor(HostTexts::DbType(), m_dbType));
     connection->addWidget(m_dbType);
-    grid->addWidget(labelFor(HostTexts::Connection, m_connection), 0, 0);
+    grid->addWidget(labelFor(HostTexts::Connection(), m_connection), 0, 0);
     grid->addLayout(connection, 0, 1, 1, 2);
-    grid->addWidget(labelFor(HostTexts::Statement, m_sql), 1, 0, Qt::AlignTop);
+    grid->addWidget(labelFor(HostTexts::Statement(), m_sql), 1, 0, Qt::AlignTop);
     grid->addWidget(m_sql, 1, 1);
     auto *buttons = new QVBoxLayout;
     buttons->addWidget(run, 1);
@@ -112,9 +112,9 @@ QWidget *QueryPage::makeFurtherFields(const Options &)
     auto *fields = new QWidget(this);
     auto *row = new QHBoxLayout(fields);
     row->setContentsMargins({});
-    row->addWidget(labelFor(HostTexts::Part, m_part));
+    row->addWidget(labelFor(HostTexts::Part(), m_part));
     row->addWidget(m_part, 3);
-    row->addWidget(labelFor(HostTexts::Sort, m_sort));
+    row->addWidget(labelFor(HostTexts::Sort(), m_sort));
     row->addWidget(m_sort, 1);
     return fields;
 }
@@ -132,11 +132,11 @@ void QueryPage::showRecent()
         });
     }
     if (menu.isEmpty()) {
-        menu.addAction(HostTexts::NoRecent)->setEnabled(false);
+        menu.addAction(HostTexts::NoRecent())->setEnabled(false);
         return;
     }
     menu.addSeparator();
-    menu.addAction(HostTexts::ClearRecent, this, [] { RecentConnections::clear(); });
+    menu.addAction(HostTexts::ClearRecent(), this, [] { RecentConnections::clear(); });
 }
 
 QString QueryPage::connection() const
@@ -206,5 +206,5 @@ QString QueryPage::caption() const
                                           QRegularExpression::CaseInsensitiveOption);
     const QString name = table.match(m_sql->statement()).captured(1);
     constexpr qsizetype longest = 24;
-    return name.isEmpty() ? HostTexts::NewTab : name.left(longest);
+    return name.isEmpty() ? HostTexts::NewTab() : name.left(longest);
 }

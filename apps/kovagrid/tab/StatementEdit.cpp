@@ -1,5 +1,7 @@
 #include "tab/StatementEdit.h"
 
+#include "HostTexts.h"
+
 #include <QtGui/QFontMetrics>
 #include <QtGui/QKeyEvent>
 
@@ -9,7 +11,7 @@ StatementEdit::StatementEdit(const QString &statement, QWidget *parent) : QPlain
 {
     setObjectName(u"statement"_s);
     setTabChangesFocus(true);
-    setPlaceholderText(u"SELECT 语句，按 Ctrl+Enter 执行"_s);
+    setPlaceholderText(HostTexts::StatementHint());
 }
 
 QSize StatementEdit::sizeHint() const

@@ -23,11 +23,13 @@ void showShortcuts(QWidget *parent)
 {
     auto *window = new QDialog(parent);
     window->setObjectName(u"shortcuts"_s);
-    window->setWindowTitle(HostTexts::Shortcuts);
+    window->setWindowTitle(HostTexts::Shortcuts());
     window->setAttribute(Qt::WA_DeleteOnClose);
     auto *text = new QTextBrowser;
-    text->setAccessibleName(HostTexts::Shortcuts);
-    text->setMarkdown(textOf(u":/shortcuts-of-kovagrid.md"_s) + u'\n' + textOf(u":/shortcuts.zh-CN.md"_s));
+    text->setAccessibleName(HostTexts::Shortcuts());
+    const QString language = HostTexts::Language() == u"en" ? QString() : u".zh-CN"_s;
+    text->setMarkdown(textOf(u":/kovagrid-shortcuts%1.md"_s.arg(language)) + u'\n' +
+                      textOf(u":/shortcuts%1.md"_s.arg(language)));
     auto *rows = new QVBoxLayout(window);
     rows->addWidget(text);
     window->resize(620, 520);

@@ -50,7 +50,7 @@ QStringList filesIn(const QMimeData &data)
 HostWindow::HostWindow(const Options &options)
     : m_tabs(new QTabWidget), m_tables(new TableList), m_picture(new PicturePane), m_log(new EventLog)
 {
-    setWindowTitle(HostTexts::WindowTitle);
+    setWindowTitle(HostTexts::WindowTitle());
     setAcceptDrops(true);
     m_tabs->setDocumentMode(true);
     m_tabs->setTabsClosable(true);
@@ -98,9 +98,9 @@ void HostWindow::makeDocks()
         m_docks.append(dock);
         return dock;
     };
-    addDock(Qt::LeftDockWidgetArea, u"tablesPane"_s, HostTexts::TablesPane, m_tables);
-    addDock(Qt::LeftDockWidgetArea, u"picturePane"_s, HostTexts::PicturePane, m_picture);
-    addDock(Qt::BottomDockWidgetArea, u"eventsPane"_s, HostTexts::EventsPane, m_log)->hide();
+    addDock(Qt::LeftDockWidgetArea, u"tablesPane"_s, HostTexts::TablesPane(), m_tables);
+    addDock(Qt::LeftDockWidgetArea, u"picturePane"_s, HostTexts::PicturePane(), m_picture);
+    addDock(Qt::BottomDockWidgetArea, u"eventsPane"_s, HostTexts::EventsPane(), m_log)->hide();
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     resizeDocks({m_docks[0], m_docks[1]}, {3, 1}, Qt::Vertical);
     resizeDocks({m_docks[0]}, {180}, Qt::Horizontal);
@@ -108,31 +108,31 @@ void HostWindow::makeDocks()
 
 void HostWindow::makeMenus()
 {
-    QMenu *file = menuBar()->addMenu(u"文件(&F)"_s);
-    file->addAction(u"打开数据库文件(&O)…"_s, QKeySequence::Open, this, &HostWindow::chooseFile);
-    file->addAction(u"新建标签页(&T)"_s, QKeySequence(u"Ctrl+T"_s), this, &HostWindow::addEmptyPage);
-    file->addAction(u"关闭标签页(&W)"_s, QKeySequence(u"Ctrl+W"_s), this,
+    QMenu *file = menuBar()->addMenu(HostTexts::FileMenu());
+    file->addAction(HostTexts::OpenFileAction(), QKeySequence::Open, this, &HostWindow::chooseFile);
+    file->addAction(HostTexts::NewTabAction(), QKeySequence(u"Ctrl+T"_s), this, &HostWindow::addEmptyPage);
+    file->addAction(HostTexts::CloseTabAction(), QKeySequence(u"Ctrl+W"_s), this,
                     [this] { closePage(m_tabs->currentIndex()); });
     file->addSeparator();
-    file->addAction(u"重新加载(&L)"_s, QKeySequence::Refresh, this, [this] { page()->loadForm(); });
-    file->addAction(u"刷新表的列表(&R)"_s, this,
+    file->addAction(HostTexts::ReloadAction(), QKeySequence::Refresh, this, [this] { page()->loadForm(); });
+    file->addAction(HostTexts::RefreshTablesAction(), this,
                     [this] { m_tables->showTablesOf(page()->connection(), page()->dbType(), true); });
     file->addSeparator();
-    file->addAction(u"退出(&X)"_s, QKeySequence::Quit, this, &QWidget::close);
-    QMenu *view = menuBar()->addMenu(u"视图(&V)"_s); // brings a closed pane back
+    file->addAction(HostTexts::QuitAction(), QKeySequence::Quit, this, &QWidget::close);
+    QMenu *view = menuBar()->addMenu(HostTexts::ViewMenu()); // brings a closed pane back
     for (QDockWidget *dock : m_docks)
         view->addAction(dock->toggleViewAction());
     view->addSeparator();
-    view->addAction(u"切换焦点(&F)"_s, QKeySequence(u"F6"_s), this, &HostWindow::focusNextPart);
-    QMenu *help = menuBar()->addMenu(u"帮助(&H)"_s);
-    help->addAction(u"快捷键(&K)"_s, QKeySequence(u"F1"_s), this, [this] { showShortcuts(this); });
+    view->addAction(HostTexts::NextPaneAction(), QKeySequence(u"F6"_s), this, &HostWindow::focusNextPart);
+    QMenu *help = menuBar()->addMenu(HostTexts::HelpMenu());
+    help->addAction(HostTexts::ShortcutsAction(), QKeySequence(u"F1"_s), this,
+                    [this] { showShortcuts(this); });
     help->addSeparator();
-    help->addAction(u"关于 KOVAVSFDataGrid(&A)"_s, this, [this] {
-        QMessageBox::about(this, HostTexts::About,
-                           u"KOVAVSFDataGrid %1\n\n查看查询结果，随意筛选和排序。"_s.arg(
-                               QCoreApplication::applicationVersion()));
+    help->addAction(HostTexts::AboutAction(), this, [this] {
+        QMessageBox::about(this, HostTexts::About(),
+                           HostTexts::AboutText().arg(QCoreApplication::applicationVersion()));
     });
-    help->addAction(u"关于 Qt(&Q)"_s, this, [this] { QMessageBox::aboutQt(this); });
+    help->addAction(HostTexts::AboutQtAction(), this, [this] { QMessageBox::aboutQt(this); });
 }
 
 QueryPage *HostWindow::addPage(const Options &options)
@@ -191,8 +191,8 @@ void HostWindow::openFile(const QString &path)
 {
     const std::optional<QString> connection = Catalogue::connectionForFile(path);
     if (!connection) {
-        QMessageBox::warning(this, HostTexts::OpenFile,
-                             HostTexts::NotADatabase.arg(QFileInfo(path).fileName()));
+        QMessageBox::warning(this, HostTexts::OpenFile(),
+                             HostTexts::NotADatabase().arg(QFileInfo(path).fileName()));
         return;
     }
     Options options;
@@ -206,7 +206,7 @@ void HostWindow::openFile(const QString &path)
 void HostWindow::chooseFile()
 {
     const QString path =
-        QFileDialog::getOpenFileName(this, HostTexts::OpenFile, {}, HostTexts::DatabaseFiles);
+        QFileDialog::getOpenFileName(this, HostTexts::OpenFile(), {}, HostTexts::DatabaseFiles());
     if (!path.isEmpty())
         openFile(path);
 }

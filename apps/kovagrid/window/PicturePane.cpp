@@ -29,7 +29,7 @@ QPixmap pictureOf(QObject &records)
 
 } // namespace
 
-PicturePane::PicturePane(QWidget *parent) : QLabel(HostTexts::NoPicture, parent)
+PicturePane::PicturePane(QWidget *parent) : QLabel(HostTexts::NoPicture(), parent)
 {
     setObjectName(u"picture"_s);
     setAlignment(Qt::AlignCenter);
@@ -46,7 +46,7 @@ void PicturePane::showRecordOf(const KOVAVSFDataGrid &grid)
 void PicturePane::fit()
 {
     if (m_picture.isNull()) {
-        setText(HostTexts::NoPicture);
+        setText(HostTexts::NoPicture());
         return;
     }
     const double ratio = devicePixelRatioF();

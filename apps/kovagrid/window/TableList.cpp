@@ -17,7 +17,7 @@ constexpr int nameRole = Qt::UserRole;
 TableList::TableList(QWidget *parent) : QTreeWidget(parent)
 {
     setObjectName(u"tables"_s);
-    setAccessibleName(HostTexts::Tables);
+    setAccessibleName(HostTexts::Tables());
     setHeaderHidden(true);
     setRootIsDecorated(false);
     setIndentation(12);
@@ -40,7 +40,7 @@ void TableList::showTablesOf(const QString &connection, qint32 dbType, bool isFo
     try {
         fill(Catalogue::read(connection, dbType));
     } catch (const ADODB::Error &error) {
-        showRemark(HostTexts::CantListTables.arg(error.Description()));
+        showRemark(HostTexts::CantListTables().arg(error.Description()));
     }
 }
 
@@ -59,7 +59,7 @@ void TableList::fill(const std::vector<Catalogue::Table> &tables)
             if (table.isView != isView)
                 continue;
             if (!group) {
-                group = new QTreeWidgetItem(this, {isView ? HostTexts::Views : HostTexts::Tables});
+                group = new QTreeWidgetItem(this, {isView ? HostTexts::Views() : HostTexts::Tables()});
                 group->setFlags(Qt::ItemIsEnabled);
                 group->setExpanded(true);
             }
@@ -70,7 +70,7 @@ void TableList::fill(const std::vector<Catalogue::Table> &tables)
         }
     }
     if (topLevelItemCount() == 0)
-        showRemark(HostTexts::NoTables);
+        showRemark(HostTexts::NoTables());
 }
 
 void TableList::showRemark(const QString &text)

@@ -241,7 +241,7 @@ try {
 
 HRESULT objectGone(EXCEPINFO *exception)
 {
-    return raise(RPC_E_DISCONNECTED, u"对象已不存在。"_s, exception);
+    return raise(RPC_E_DISCONNECTED, u"The object no longer exists."_s, exception);
 }
 
 } // namespace KOVAVSFDataGridLib::ActiveX

@@ -107,8 +107,7 @@ InPlace::InPlace(GridControl &control)
       m_object(control, *this),
       m_activeObject(control, *this),
       m_window(
-          control.grid(), [this] { activateUi(); }, [this](bool on) { focusMoved(on); },
-          [this](bool on) { dialogOpen(on); })
+          control.grid(), [this] { activateUi(); }, [this](bool on) { dialogOpen(on); })
 {
 }
 
@@ -192,13 +191,6 @@ void InPlace::end()
     m_frame.Reset();
     m_document.Reset();
     m_site.Reset();
-}
-
-void InPlace::focusMoved(bool here)
-{
-    ComPtr<IOleControlSite> site;
-    if (m_site && SUCCEEDED(m_site.As(&site)))
-        site->OnFocus(here);
 }
 
 void InPlace::dialogOpen(bool on)

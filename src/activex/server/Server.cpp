@@ -56,13 +56,12 @@ STDAPI DllUnregisterServer()
     return unregisterServer();
 }
 
-// `regsvr32 /n /i:user` registers for the user alone, and with /u takes that away.
+// `regsvr32 /n /i:user` registers for the user alone.
 STDAPI DllInstall(BOOL install, PCWSTR command)
 {
-    const bool forUser = command && std::wcscmp(command, L"user") == 0;
-    if (install)
-        return forUser ? registerServerForUser() : registerServer();
-    return forUser ? unregisterServerForUser() : unregisterServer();
+    if (!install)
+        return unregisterServer();
+    return command && std::wcscmp(command, L"user") == 0 ? registerServerForUser() : registerServer();
 }
 
 } // extern "C"

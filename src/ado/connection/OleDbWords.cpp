@@ -32,10 +32,10 @@ void take(ConnectionString &words, OleDbKind kind, const ConnectionString &from)
 
 [[noreturn]] void failWithoutDriver(OleDbKind kind, const QStringList &installed, int bits)
 {
-    throw Error(
-        adErrProviderNotFound,
-        Texts::noOleDbDriver().arg(driverToInstall(kind), QString::number(bits),
-                                   installed.isEmpty() ? Texts::noneInstalled() : installed.join(u"、"_s)));
+    throw Error(adErrProviderNotFound,
+                Texts::noOleDbDriver().arg(driverToInstall(kind), QString::number(bits),
+                                           installed.isEmpty() ? Texts::noneInstalled()
+                                                               : installed.join(Texts::betweenNames())));
 }
 
 void finishOracle(ConnectionString &words, const OdbcDriver &driver)

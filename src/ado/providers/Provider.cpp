@@ -51,7 +51,7 @@ std::shared_ptr<Session> openSession(const ConnectionString &connection)
         names += provider->name();
     names += oleDbServerProviders();
     const QString wanted = connection.value(u"Provider"_s);
-    const QString known = names.join(u"、"_s);
+    const QString known = names.join(Texts::betweenNames());
     throw Error(adErrProviderNotFound, wanted.isEmpty() ? Texts::noProvider().arg(known)
                                                         : Texts::unknownProvider().arg(wanted, known));
 }

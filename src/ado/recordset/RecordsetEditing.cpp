@@ -7,7 +7,7 @@ namespace ADODB {
 
 EditModeEnum Recordset::EditMode() const
 {
-    if (!d->isAdding() && d->position.isDeleted())
+    if (d->position.isDeleted() && !d->isAdding())
         return adEditDelete;
     return d->edit().mode();
 }
@@ -86,14 +86,9 @@ void Recordset::Delete(AffectEnum affect)
     if (d->isAdding()) // nothing of it is in the database yet
         return CancelUpdate();
     withinMemory(Texts::changeOutOfMemory, [&] {
-        std::vector<qint64> &removals = d->shared->removals;
-        removals.reserve(removals.size() + 1); // so that nothing can fail once the record is gone
-        const qint64 record = d->currentRecord();
         const Private::Busy busy(*d);
-        d->edit().remove(d->rows(), record);
-        removals.push_back(record);
+        d->edit().remove(d->rows(), d->currentRecord());
     });
-    ++d->removalsSeen;
     d->position.removeCurrent();
     d->underlying.reset();
     d->notifyChanged(adRsnDelete);

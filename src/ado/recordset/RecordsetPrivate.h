@@ -7,11 +7,11 @@
 #include "ado/rows/RecordEditor.h"
 #include "ado/rows/RecordPosition.h"
 #include "ado/rows/Snapshot.h"
+#include "language/Text.h"
 
 #include <QtCore/QObject>
 
 #include <algorithm>
-#include <memory>
 #include <new>
 #include <optional>
 #include <vector>
@@ -22,7 +22,7 @@ class Session;
 
 // Runs `action`; what it has no memory for becomes an error of the data access with `text`.
 template<typename Action>
-auto withinMemory(QString (*text)(), Action &&action)
+auto withinMemory(KOVAVSFDataGridLib::Text text, Action &&action)
 {
     try {
         return action();
@@ -30,14 +30,6 @@ auto withinMemory(QString (*text)(), Action &&action)
         throw Error(dbErrFailed, text());
     }
 }
-
-// The rows of a result; a recordset and its clones have the same ones.
-struct SharedRows
-{
-    Snapshot snapshot;
-    // The records that were deleted, each with the number that it had then.
-    std::vector<qint64> removals;
-};
 
 // What a recordset keeps and its groups of members share: opening is in Recordset.cpp, moving in
 // RecordsetMoves.cpp, editing in RecordsetEditing.cpp.
@@ -55,9 +47,7 @@ struct Recordset::Private
     ADODB::Fields fields;
     RecordPosition position;
     std::optional<RecordEditor> editor;
-    std::shared_ptr<SharedRows> shared; // set while open, as is the editor
-    std::size_t removalsSeen = 0;       // of the shared rows; the position knows of these
-    std::weak_ptr<Connection> connection;
+    std::optional<Snapshot> snapshot; // set while open, as is the editor
 
     // The row that Resync found, and the record it belongs to.
     std::optional<RowStore> underlying;
@@ -69,17 +59,9 @@ struct Recordset::Private
     // Only while open; all members go through one of these two.
     Snapshot &rows()
     {
-        if (!shared)
+        if (!snapshot)
             throw Error(adErrObjectClosed, Texts::recordsetClosed());
-        followRemovals();
-        return shared->snapshot;
-    }
-    // Another recordset with the same rows may have changed their number.
-    void followRemovals()
-    {
-        for (; removalsSeen < shared->removals.size(); ++removalsSeen)
-            position.removeElsewhere(shared->removals[removalsSeen]);
-        position.appendElsewhere(shared->snapshot.records() - position.count());
+        return *snapshot;
     }
     RecordEditor &edit()
     {
@@ -107,7 +89,7 @@ struct Recordset::Private
     void needClosed() const
     {
         needIdle();
-        if (shared)
+        if (snapshot)
             throw Error(adErrObjectOpen, Texts::recordsetOpen());
     }
     qint64 currentRecord() const

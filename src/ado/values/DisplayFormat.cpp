@@ -1,5 +1,7 @@
 #include "ado/values/DisplayFormat.h"
 
+#include "ado/Texts.h"
+
 #include <QtCore/QRegularExpression>
 
 #include <algorithm>
@@ -49,8 +51,8 @@ QString withThousands(const QString &whole)
 QString asYesNo(const QString &text)
 {
     if (text == "True"_L1 || text == "1"_L1 || text == "-1"_L1)
-        return u"是"_s;
-    return text == "False"_L1 || text == "0"_L1 ? u"否"_s : text;
+        return Texts::yes;
+    return text == "False"_L1 || text == "0"_L1 ? Texts::no() : text;
 }
 
 } // namespace

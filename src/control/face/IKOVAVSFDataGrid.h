@@ -251,4 +251,11 @@ public:
     // is the default); Title and the text above each page, which is the table's name otherwise. Returns false
     // if the user cancels, or after a message box if it fails.
     virtual bool PrintData(const QString &strFile, const QString &strOptions) = 0;
+
+    // The language of the texts that users read: "zh-CN" (the default) or "en". There is one for all controls
+    // of an application. All controls change when their next events are processed; dialogs that are open keep
+    // their language. Forms such as "en_GB" are also accepted, and an empty text is the default. A language
+    // without a translation changes nothing. Messages to developers are always in English.
+    virtual QString Language() const = 0;
+    virtual void PutLanguage(const QString &strName) = 0;
 };

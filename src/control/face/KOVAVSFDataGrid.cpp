@@ -90,4 +90,6 @@ void KOVAVSFDataGrid::changeEvent(QEvent *event)
         d->applyBackColor();
     else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         d->parts.layOut(width(), height());
+    else if (event->type() == QEvent::LanguageChange)
+        d->writeTexts();
 }

@@ -51,6 +51,7 @@ class KOVA_EXPORT KOVAVSFDataGrid : public QWidget, public IKOVAVSFDataGrid
     Q_PROPERTY(bool UserMode READ UserMode WRITE PutUserMode STORED false DESIGNABLE false)
     Q_PROPERTY(bool ReadOnly READ ReadOnly WRITE PutReadOnly STORED false)
     Q_PROPERTY(QString LayoutKey READ LayoutKey WRITE PutLayoutKey STORED false)
+    Q_PROPERTY(QString Language READ Language WRITE PutLanguage STORED false)
 
 public:
     // Who filters and sorts.
@@ -187,6 +188,8 @@ public:
     QString LayoutKey() const override;
     void PutLayoutKey(const QString &strKey) override;
     Q_INVOKABLE bool PrintData(const QString &strFile, const QString &strOptions) override;
+    QString Language() const override;
+    void PutLanguage(const QString &strName) override;
 
     // See the property.
     bool UserMode() const;
@@ -266,7 +269,7 @@ Q_SIGNALS:
 protected:
     // Lays the parts out in the new size.
     void resizeEvent(QResizeEvent *event) override;
-    // Lets BackColor follow the palette.
+    // Lets BackColor follow the palette, and the texts the language.
     void changeEvent(QEvent *event) override;
 
 private:

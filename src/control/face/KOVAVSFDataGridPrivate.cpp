@@ -105,6 +105,15 @@ void KOVAVSFDataGrid::Private::showClickedValue()
         session->run(CommandKeys::ShowValue);
 }
 
+void KOVAVSFDataGrid::Private::writeTexts()
+{
+    const ResultSet &result = session->result();
+    window.showPageNumber(session->page(), result.isOpen() ? result.recordset()->PageCount() : 0);
+    window.refreshCommands();
+    window.refreshStatus();
+    parts.layOutFoot();
+}
+
 // A user who has just loaded goes on with the data; one who is in another part of the host's form stays
 // there.
 void KOVAVSFDataGrid::Private::focusGrid() const

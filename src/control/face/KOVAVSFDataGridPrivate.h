@@ -52,6 +52,8 @@ public:
     // For a cell outside the grid a message with the title, and "".
     QString cellText(int row, int col, const QString &title);
     void emptyGrid();
+    // Writes what depends on the result once more, after a change of the language.
+    void writeTexts();
     // Saves what the user wrote into a record before the control goes; what can't be saved he reads later.
     void saveBeforeEnd();
 

@@ -6,6 +6,7 @@
 #include "control/parts/toolbar/GridToolbar.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
+#include "language/Language.h"
 #include "query/derivation/SqlText.h"
 #include "query/modQNVSFHFDataMain.h"
 #include "session/SessionWindow.h"
@@ -378,6 +379,18 @@ void KOVAVSFDataGrid::PutLayoutKey(const QString &strKey)
     d->layout.setKey(strKey);
     if (alive)
         d->notifyWritten("LayoutKey");
+}
+
+QString KOVAVSFDataGrid::Language() const
+{
+    return KOVAVSFDataGridLib::Language::current();
+}
+
+void KOVAVSFDataGrid::PutLanguage(const QString &strName)
+{
+    const QPointer<KOVAVSFDataGrid> alive(this); // a window of the host may react to the change
+    if (KOVAVSFDataGridLib::Language::use(strName) && alive)
+        d->notifyWritten("Language");
 }
 
 bool KOVAVSFDataGrid::UserMode() const

@@ -8,6 +8,7 @@
 #include "filter/FilterTexts.h"
 #include "filter/ValueEdit.h"
 #include "grid/FlexGrid.h"
+#include "language/Language.h"
 #include "session/Session.h"
 
 #include <QtCore/QScopedValueRollback>
@@ -61,8 +62,8 @@ QVariant valueOf(const ADODB::Field &field, const QString &text)
 {
     if (text.isEmpty() && !isTextType(field.Type()))
         return {};
-    if (field.Type() == ADODB::adBoolean && (text == FilterTexts::Yes || text == FilterTexts::No))
-        return text == FilterTexts::Yes;
+    if (field.Type() == ADODB::adBoolean && (FilterTexts::Yes.is(text) || FilterTexts::No.is(text)))
+        return FilterTexts::Yes.is(text);
     return text;
 }
 
@@ -79,7 +80,7 @@ CellEditor::CellEditor(Session &session, GridParts &parts)
     m_parts.txtEdit->setValueReader([this] { return knownValues(); });
     m_parts.txtEdit->installEventFilter(this);
     m_lines.setObjectName(u"txtLines"_s);
-    m_lines.setAccessibleName(GridTexts::FieldValueHeading);
+    Language::keepTranslated(m_lines, [this] { m_lines.setAccessibleName(GridTexts::FieldValueHeading); });
     m_lines.setTabChangesFocus(true);
     m_lines.hide();
     m_lines.installEventFilter(this);

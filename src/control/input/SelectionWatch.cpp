@@ -77,7 +77,7 @@ void SelectionWatch::showSummary()
     QList<SummaryLine::Item> items;
     if (m_rows > 1)
         items.append({GridTexts::SelectedRows, QString::number(m_rows)});
-    const QString of = m_column.isEmpty() ? QString() : m_column + u'：';
+    const QString of = m_column.isEmpty() ? QString() : GridTexts::ColumnOfSummary.arg(m_column);
     items.append({of + GridTexts::CountOfCells, QString::number(m_summary->count())});
     if (m_summary->numbers() > 0) {
         items.append({GridTexts::SumOfCells, m_summary->sum()});

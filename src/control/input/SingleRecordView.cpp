@@ -12,6 +12,7 @@
 #include "grid/GridSelection.h"
 #include "grid/Twips.h"
 #include "grid/cells/TextCells.h"
+#include "language/Language.h"
 #include "session/Session.h"
 #include "session/commands/CommandKeys.h"
 
@@ -50,6 +51,12 @@ bool isSave(const QKeyEvent &event)
     return event.key() == Qt::Key_S && event.modifiers() == Qt::ControlModifier;
 }
 
+void setHint(QWidget &widget, const QString &hint)
+{
+    widget.setToolTip(hint);
+    widget.setAccessibleName(hint);
+}
+
 bool carriesText(const QInputMethodEvent &event)
 {
     return !event.preeditString().isEmpty() || !event.commitString().isEmpty();
@@ -61,11 +68,19 @@ SingleRecordView::SingleRecordView(KOVAVSFDataGrid &control, Session &session, G
     : m_control(control),
       m_session(session),
       m_parts(parts),
-      m_previous(newStepButton(CommandKeys::PreviousRecord, u"◀"_s, GridTexts::PreviousRecord)),
-      m_next(newStepButton(CommandKeys::NextRecord, u"▶"_s, GridTexts::NextRecord)),
+      m_previous(newStepButton(CommandKeys::PreviousRecord, u"◀"_s)),
+      m_next(newStepButton(CommandKeys::NextRecord, u"▶"_s)),
       m_editor(session, parts)
 {
     MSFlexGrid &list = *parts.MSFlexGrid1;
+    Language::keepTranslated(list, [this] {
+        setHint(*m_previous, GridTexts::PreviousRecord);
+        setHint(*m_next, GridTexts::NextRecord);
+        if (m_parts.MSFlexGrid1->Cols() > valueCol) {
+            m_parts.MSFlexGrid1->PutTextMatrix(0, nameCol, GridTexts::FieldNameHeading);
+            m_parts.MSFlexGrid1->PutTextMatrix(0, valueCol, GridTexts::FieldValueHeading);
+        }
+    });
     list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
     list.horizontalHeader()->viewport()->installEventFilter(this);
@@ -76,14 +91,12 @@ SingleRecordView::SingleRecordView(KOVAVSFDataGrid &control, Session &session, G
     connect(&m_editor, &CellEditor::saveWanted, this, &SingleRecordView::saveWanted);
 }
 
-QPushButton *SingleRecordView::newStepButton(const QString &key, const QString &arrow, const QString &toolTip)
+QPushButton *SingleRecordView::newStepButton(const QString &key, const QString &arrow)
 {
     auto *const button = new QPushButton(arrow, m_parts.MSFlexGrid1->horizontalHeader());
     button->setObjectName(u"cmd"_s + key);
     button->setFlat(true);
     button->setFocusPolicy(Qt::NoFocus); // the keyboard has Alt+PgUp and Alt+PgDown
-    button->setToolTip(toolTip);
-    button->setAccessibleName(toolTip);
     connect(button, &QPushButton::clicked, this, [this, key] { Q_EMIT commandWanted(key); });
     return button;
 }

@@ -55,7 +55,7 @@ private:
     bool keyPressed(const QKeyEvent &event);
     void doubleClicked(const QWidget &source, const QMouseEvent &event);
     void fitNameColumn();
-    QPushButton *newStepButton(const QString &key, const QString &arrow, const QString &toolTip);
+    QPushButton *newStepButton(const QString &key, const QString &arrow);
     void placeStepButtons();
     QString valueText(int field) const;
 

@@ -2,6 +2,7 @@
 
 #include "control/parts/GridTexts.h"
 #include "grid/FlexGrid.h"
+#include "language/Language.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/columns/ColumnCommand.h"
@@ -18,8 +19,11 @@ ColumnMenu::ColumnMenu(QWidget &window, const QWidget &toolbar, VSFlexGrid &grid
     : m_toolbar(toolbar), m_grid(grid), m_session(session), m_run(std::move(run)), m_menu(new QMenu(&window))
 {
     m_menu->setObjectName(u"ColumnMenu"_s);
-    m_menu->setAccessibleName(GridTexts::ColumnMenuName);
-    auto *open = new QAction(GridTexts::ColumnMenuName, &window);
+    auto *open = new QAction(&window);
+    Language::keepTranslated(*m_menu, [this, open] {
+        m_menu->setAccessibleName(GridTexts::ColumnMenuName);
+        open->setText(GridTexts::ColumnMenuName);
+    });
     open->setObjectName(u"OpenColumnMenu"_s);
     open->setShortcut(QKeySequence(u"Ctrl+Alt+Down"_s));
     open->setShortcutContext(Qt::WidgetWithChildrenShortcut);

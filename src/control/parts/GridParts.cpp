@@ -13,6 +13,7 @@
 #include "forms/Contrast.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
+#include "language/Language.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFrame>
@@ -50,11 +51,11 @@ GridParts::GridParts(QWidget &control)
       MSFlexGrid1(named(new MSFlexGrid(picMainBack), u"MSFlexGrid1"_s)),
       txtEdit(named(new ValueEdit(picMainBack), u"txtEdit"_s)),
       txtPage(named(new QLineEdit(picMainBack), u"txtPage"_s)),
-      cmdPgae(named(new QPushButton(GridTexts::GoToPage, picMainBack), u"cmdPgae"_s)),
+      cmdPgae(named(new QPushButton(picMainBack), u"cmdPgae"_s)),
       lblFieldCount(named(new ElidedLabel(picMainBack), u"lblFieldCount"_s)),
       lblSummary(new SummaryLine(picMainBack)),
       lblStatement(new StatementLine(picMainBack)),
-      CheckSelAllRow(named(new QCheckBox(GridTexts::SelectWholeRows, picMainBack), u"CheckSelAllRow"_s)),
+      CheckSelAllRow(named(new QCheckBox(picMainBack), u"CheckSelAllRow"_s)),
       Adodc1(named(new ADODB::Adodc(&control), u"Adodc1"_s))
 {
     picMainBack->setAutoFillBackground(true);
@@ -68,14 +69,21 @@ GridParts::GridParts(QWidget &control)
     MSFlexGrid1->hide();
     txtEdit->hide();
     txtPage->setAlignment(Qt::AlignRight);
+    Language::keepTranslated(control, [this] { writeTexts(); });
+    QObject::connect(find, &FindBar::shownOrHidden, &control,
+                     [this, &control] { layOut(control.width(), control.height()); });
+}
+
+void GridParts::writeTexts() const
+{
     txtPage->setAccessibleName(GridTexts::PageBoxHint);
     txtPage->setToolTip(GridTexts::PageBoxHint);
+    cmdPgae->setText(GridTexts::GoToPage);
     cmdPgae->setToolTip(GridTexts::GoToPageTip);
+    CheckSelAllRow->setText(GridTexts::SelectWholeRows);
     Toolbar1->setAccessibleName(GridTexts::ToolbarName);
     vsfgDataGrid->setAccessibleName(GridTexts::GridName);
     MSFlexGrid1->setAccessibleName(GridTexts::SingleRecordName);
-    QObject::connect(find, &FindBar::shownOrHidden, &control,
-                     [this, &control] { layOut(control.width(), control.height()); });
 }
 
 void GridParts::layOut(int width, int height)

@@ -64,6 +64,7 @@ public:
     QRect foot() const;
 
 private:
+    void writeTexts() const;
     int footHeight() const;
     int gap() const;
 

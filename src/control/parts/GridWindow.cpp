@@ -231,7 +231,8 @@ void GridWindow::showHeadingMarks()
                 continue;
             HeadingMark &mark = marks[static_cast<std::size_t>(col)];
             mark.isFiltered = true;
-            mark.spoken += (mark.spoken.isEmpty() ? QString() : QString(u'，')) + GridTexts::Filtered;
+            mark.spoken +=
+                (mark.spoken.isEmpty() ? QString() : GridTexts::BetweenMarks()) + GridTexts::Filtered;
         }
     }
     m_grid.PutHeadingMarks(marks);

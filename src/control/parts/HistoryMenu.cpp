@@ -2,6 +2,7 @@
 
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/GridToolbar.h"
+#include "language/Language.h"
 #include "session/Session.h"
 #include "session/commands/CommandKeys.h"
 #include "session/history/HistorySteps.h"
@@ -33,7 +34,7 @@ HistoryMenu::HistoryMenu(GridToolbar &toolbar, Session &session)
     : QMenu(&toolbar), m_toolbar(toolbar), m_session(session)
 {
     setObjectName(u"HistoryMenu"_s);
-    setAccessibleName(GridTexts::HistoryName);
+    Language::keepTranslated(*this, [this] { setAccessibleName(GridTexts::HistoryName); });
     setToolTipsVisible(true);
     toolbar.setButtonMenu(CommandKeys::ToPreview, *this);
     connect(this, &QMenu::aboutToShow, this, &HistoryMenu::fill);

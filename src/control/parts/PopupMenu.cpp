@@ -3,6 +3,7 @@
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "control/parts/toolbar/ToolbarIcons.h"
+#include "language/Language.h"
 #include "session/Session.h"
 
 #include <QtGui/QAction>
@@ -18,7 +19,6 @@ PopupMenu::PopupMenu(QWidget &window, const Kind &kind, const GridToolbar &toolb
     : QMenu(&window), m_kind(kind), m_toolbar(toolbar), m_session(session)
 {
     setObjectName(kind.name);
-    setAccessibleName(GridTexts::MenuName);
     const int last = Command::lastMenuIndex(kind.texts);
     for (int index = 1; index <= last; ++index) {
         const Command *const command = Command::findMenuItem(kind.texts, index);
@@ -27,17 +27,34 @@ PopupMenu::PopupMenu(QWidget &window, const Kind &kind, const GridToolbar &toolb
         action->setData(index);
         m_items.push_back(action);
     }
+    Language::keepTranslated(*this, [this] { writeTexts(); });
 }
 
-// The shortcut of a command with a button stays the button's and is only shown.
+void PopupMenu::writeTexts()
+{
+    setAccessibleName(GridTexts::MenuName);
+    for (QAction *const action : m_items) {
+        const Command *const command = Command::findMenuItem(m_kind.texts, action->data().toInt());
+        if (!command)
+            continue;
+        const Text caption = (command->*m_kind.texts).caption;
+        // The shortcut of a command with a button stays the button's and is only shown.
+        const QString shortcut = QKeySequence(command->shortcut).toString(QKeySequence::NativeText);
+        action->setText(command->button ? caption() + u'\t' + shortcut : caption());
+    }
+    if (m_copyAs) {
+        m_copyAs->setTitle(GridTexts::CopyAsMenu);
+        m_copyAs->setAccessibleName(GridTexts::CopyAsName);
+    }
+}
+
 QAction *PopupMenu::addItem(const Command &command, QWidget &window)
 {
     const MenuItemTexts &texts = command.*m_kind.texts;
     const QKeySequence shortcut(command.shortcut);
-    QAction *const action = menuOfGroup(texts.group).addAction(texts.caption);
+    QAction *const action = menuOfGroup(texts.group).addAction(QString());
     if (command.button) {
         action->setIcon(toolbarIcon(command.key));
-        action->setText(texts.caption + u'\t' + shortcut.toString(QKeySequence::NativeText));
     } else if (!shortcut.isEmpty()) {
         action->setShortcuts({shortcut, QKeySequence(command.otherShortcut)});
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
@@ -52,13 +69,11 @@ QMenu &PopupMenu::menuOfGroup(MenuGroup group)
 {
     if (group == MenuGroup::None)
         return *this;
-    const QString name = m_kind.name + u"CopyAs"_s;
-    if (auto *made = findChild<QMenu *>(name))
-        return *made;
-    QMenu *const made = addMenu(GridTexts::CopyAsMenu);
-    made->setObjectName(name);
-    made->setAccessibleName(GridTexts::CopyAsName);
-    return *made;
+    if (!m_copyAs) {
+        m_copyAs = addMenu(QString());
+        m_copyAs->setObjectName(m_kind.name + u"CopyAs"_s);
+    }
+    return *m_copyAs;
 }
 
 void PopupMenu::refresh(bool hasText)

@@ -41,11 +41,13 @@ Q_SIGNALS:
 private:
     QAction *addItem(const Command &command, QWidget &window);
     QMenu &menuOfGroup(MenuGroup group);
+    void writeTexts();
 
     const Kind &m_kind;
     const GridToolbar &m_toolbar;
     Session &m_session;
     std::vector<QAction *> m_items; // by index
+    QMenu *m_copyAs = nullptr;      // the menu of MenuGroup::CopyAs
 };
 
 } // namespace KOVAVSFDataGridLib

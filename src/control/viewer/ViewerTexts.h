@@ -1,19 +1,19 @@
 #pragma once
 
-#include <QtCore/QString>
+#include "language/Text.h"
 
 // The texts of the full-screen viewer, for proof-reading in one place. What it has in common with the control
 // stands in GridTexts.h.
 namespace KOVAVSFDataGridLib::ViewerTexts {
 
-using namespace Qt::StringLiterals;
+inline constexpr TextTable tr{"KOVAVSFDataGridLib::ViewerTexts"};
 
-inline const QString Title = u"全屏显示"_s;
-inline const QString Data = u"查询结果"_s;
-inline const QString PageSuffix = u"页"_s;
-inline const QString GoToPageHint = u"转到输入的页"_s;
-inline const QString Close = u"返回(&X)"_s;
-inline const QString CloseHint = u"退出全屏（Esc 或 F11）"_s;
-inline const QString Back = u"返回(&X)"_s;
+inline constexpr Text Title = tr("全屏显示");
+inline constexpr Text Data = tr("查询结果");
+inline constexpr Text PageSuffix = tr("页");
+inline constexpr Text GoToPageHint = tr("转到输入的页");
+inline constexpr Text Close = tr("返回(&X)");
+inline constexpr Text CloseHint = tr("退出全屏（Esc 或 F11）");
+inline constexpr Text Back = tr("返回(&X)");
 
 } // namespace KOVAVSFDataGridLib::ViewerTexts

@@ -47,26 +47,40 @@ std::optional<DayRange> yearOf(int year)
     return rangeOf({year, 1, 1}, {year + 1, 1, 1});
 }
 
-// A word and its synonyms, and the days that it means.
+// The days that a word means. Synonyms and the English words are understood in every language.
 struct RelativeWord
 {
-    QStringList words;
+    Text word;
+    QStringList others;
     std::optional<DayRange> (*days)(QDate today);
 };
 
 const std::vector<RelativeWord> &relativeWords()
 {
     static const std::vector<RelativeWord> words{
-        {{FilterTexts::Today, u"今日"_s}, [](QDate today) { return dayFrom(today); }},
-        {{FilterTexts::Yesterday, u"昨日"_s}, [](QDate today) { return dayFrom(today.addDays(-1)); }},
-        {{FilterTexts::ThisWeek, u"这周"_s}, [](QDate today) { return weekOf(today); }},
-        {{FilterTexts::LastWeek, u"上个周"_s}, [](QDate today) { return weekOf(today.addDays(-7)); }},
-        {{FilterTexts::ThisMonth, u"这个月"_s}, [](QDate today) { return monthsFrom(monthOf(today), 1); }},
-        {{FilterTexts::LastMonth, u"上个月"_s},
+        {FilterTexts::Today, {u"今日"_s, u"today"_s}, [](QDate today) { return dayFrom(today); }},
+        {FilterTexts::Yesterday,
+         {u"昨日"_s, u"yesterday"_s},
+         [](QDate today) { return dayFrom(today.addDays(-1)); }},
+        {FilterTexts::ThisWeek, {u"这周"_s, u"this week"_s}, [](QDate today) { return weekOf(today); }},
+        {FilterTexts::LastWeek,
+         {u"上个周"_s, u"last week"_s},
+         [](QDate today) { return weekOf(today.addDays(-7)); }},
+        {FilterTexts::ThisMonth,
+         {u"这个月"_s, u"this month"_s},
+         [](QDate today) { return monthsFrom(monthOf(today), 1); }},
+        {FilterTexts::LastMonth,
+         {u"上个月"_s, u"last month"_s},
          [](QDate today) { return monthsFrom(monthOf(today).addMonths(-1), 1); }},
-        {{FilterTexts::ThisQuarter, u"本季度"_s}, [](QDate today) { return quarterOf(today); }},
-        {{FilterTexts::ThisYear, u"本年"_s}, [](QDate today) { return yearOf(today.year()); }},
-        {{FilterTexts::LastYear, u"上年"_s}, [](QDate today) { return yearOf(today.year() - 1); }},
+        {FilterTexts::ThisQuarter,
+         {u"本季度"_s, u"this quarter"_s},
+         [](QDate today) { return quarterOf(today); }},
+        {FilterTexts::ThisYear,
+         {u"本年"_s, u"this year"_s},
+         [](QDate today) { return yearOf(today.year()); }},
+        {FilterTexts::LastYear,
+         {u"上年"_s, u"last year"_s},
+         [](QDate today) { return yearOf(today.year() - 1); }},
     };
     return words;
 }
@@ -79,9 +93,11 @@ QString narrow(const QString &typed)
 // N days up to today, today among them.
 std::optional<DayRange> readLastDays(const QString &text, QDate today)
 {
-    static const QRegularExpression form(u"\\A(?:最近|近) *([0-9]{1,5}) *天\\z"_s);
+    static const QRegularExpression form(
+        u"\\A(?:(?:最近|近) *([0-9]{1,5}) *天|last +([0-9]{1,5}) +days?)\\z"_s,
+        QRegularExpression::CaseInsensitiveOption);
     const auto match = form.match(text);
-    const int days = match.captured(1).toInt();
+    const int days = match.captured(match.lastCapturedIndex()).toInt();
     if (days < 1)
         return std::nullopt;
     return rangeOf(today.addDays(1 - days), today.addDays(1));
@@ -90,7 +106,7 @@ std::optional<DayRange> readLastDays(const QString &text, QDate today)
 std::optional<DayRange> readRelative(const QString &text, QDate today)
 {
     for (const RelativeWord &word : relativeWords()) {
-        if (word.words.contains(text))
+        if (word.word.is(text) || word.others.contains(text.toLower()))
             return word.days(today);
     }
     return readLastDays(text, today);
@@ -110,7 +126,7 @@ std::optional<DayRange> readMonth(const QString &text, QDate today)
 
 std::optional<DayRange> readYear(const QString &text)
 {
-    static const QRegularExpression form(u"\\A([0-9]{4})年\\z"_s);
+    static const QRegularExpression form(u"\\A([0-9]{4})年?\\z"_s);
     const auto match = form.match(text);
     return match.hasMatch() ? yearOf(match.captured(1).toInt()) : std::nullopt;
 }
@@ -150,7 +166,7 @@ QStringList relativeDayWords()
 {
     QStringList words;
     for (const RelativeWord &word : relativeWords())
-        words.append(word.words.constFirst());
+        words.append(word.word());
     return words << FilterTexts::LastDays.arg(7) << FilterTexts::LastDays.arg(30);
 }
 

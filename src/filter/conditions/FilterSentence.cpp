@@ -52,22 +52,22 @@ QString choiceInWords(const FilterChoice &choice, QDate today)
     };
     QString words;
     if (takesCount(op)) {
-        const QString &form =
+        const Text form =
             op == FilterOperator::Top ? FilterTexts::TopInSentence : FilterTexts::BottomInSentence;
         words = form.arg(field, choice.value.trimmed());
     } else if (op == FilterOperator::Duplicated) {
         words = FilterTexts::DuplicatedInSentence.arg(field);
     } else if (positiveOf(op) == FilterOperator::InList) {
-        const QString &form =
-            isNegative(op) ? FilterTexts::NotInListInSentence : FilterTexts::InListInSentence;
+        const Text form = isNegative(op) ? FilterTexts::NotInListInSentence : FilterTexts::InListInSentence;
         words = form.arg(field, listInWords(choice, today));
     } else if (valueCount(op) == 2) {
         words = FilterTexts::BetweenInSentence.arg(field, captionOf(op), value(choice.value),
                                                    value(choice.lastValue));
     } else {
-        const QString &form = choice.field.fieldClass == FieldClass::Text ? FilterTexts::TextInSentence
-                                                                          : FilterTexts::ValueInSentence;
-        words = field + captionOf(op) + (valueCount(op) == 1 ? form.arg(value(choice.value)) : QString());
+        const Text form = choice.field.fieldClass == FieldClass::Text ? FilterTexts::TextComparedInSentence
+                                                                      : FilterTexts::ValueComparedInSentence;
+        words = valueCount(op) == 1 ? form.arg(field, captionOf(op), value(choice.value))
+                                    : FilterTexts::StateInSentence.arg(field, captionOf(op));
     }
     if (choice.isNegated)
         words = FilterTexts::NotInSentence.arg(words);

@@ -30,12 +30,13 @@ std::optional<FilterValue> readNumber(const QString &typed)
 
 std::optional<FilterValue> readBoolean(const QString &typed)
 {
-    static const QStringList yes{FilterTexts::Yes, u"true"_s, u"yes"_s, u"1"_s, u"-1"_s, u"真"_s};
-    static const QStringList no{FilterTexts::No, u"false"_s, u"no"_s, u"0"_s, u"假"_s};
+    static const QStringList yes{u"true"_s, u"yes"_s, u"1"_s, u"-1"_s, u"真"_s};
+    static const QStringList no{u"false"_s, u"no"_s, u"0"_s, u"假"_s};
     const QString text = narrow(typed).toLower();
-    if (!yes.contains(text) && !no.contains(text))
+    const bool isTrue = FilterTexts::Yes.is(text) || yes.contains(text);
+    if (!isTrue && !FilterTexts::No.is(text) && !no.contains(text))
         return std::nullopt;
-    return FilterValue{.isTrue = yes.contains(text)};
+    return FilterValue{.isTrue = isTrue};
 }
 
 QTime readTime(const QString &text)

@@ -136,7 +136,7 @@ QString ValueDialog::summary() const
         parts.append(m_format);
     if (!m_note.isEmpty())
         parts.append(m_note);
-    return parts.join(u"，"_s);
+    return parts.join(FormTexts::BetweenFacts());
 }
 
 void ValueDialog::copy()

@@ -72,8 +72,8 @@ void SortList::removeRow(int row)
 
 void SortList::flipOrder(QTreeWidgetItem *item)
 {
-    const bool isDescending = item->text(1) == QueryTexts::Descending;
-    item->setText(1, isDescending ? QueryTexts::Ascending : QueryTexts::Descending);
+    const bool isDescending = QueryTexts::Descending.is(item->text(1));
+    item->setText(1, isDescending ? QueryTexts::Ascending() : QueryTexts::Descending());
 }
 
 int SortList::rowBehind(QPoint position) const

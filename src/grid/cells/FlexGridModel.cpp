@@ -1,5 +1,6 @@
 #include "grid/cells/FlexGridModel.h"
 
+#include "grid/cells/CellTexts.h"
 #include "grid/cells/TextCells.h"
 
 namespace KOVAVSFDataGridLib {
@@ -118,7 +119,7 @@ QVariant FlexGridModel::headerData(int section, Qt::Orientation orientation, int
     if (role == Qt::AccessibleTextRole && isColumn) {
         const QString spoken = headingMark(section).spoken;
         const QString text = m_source->text(0, section + m_fixedCols);
-        return spoken.isEmpty() ? text : text + u'，' + spoken;
+        return spoken.isEmpty() ? text : CellTexts::Spoken.arg(text, spoken);
     }
     if (role == Qt::TextAlignmentRole) {
         if (!isColumn)

@@ -31,7 +31,7 @@ FindAnswer PressFind(const QString &typed, const QString &fieldComboText)
     if (CharText::trim(fieldComboText).isEmpty())
         return answer;
     answer.strFieldName = fieldComboText;
-    answer.bIsAppointField = fieldComboText != QueryTexts::AllFields;
+    answer.bIsAppointField = !QueryTexts::AllFields.is(fieldComboText);
     answer.unloads = true;
     return answer;
 }

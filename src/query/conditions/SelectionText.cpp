@@ -56,7 +56,7 @@ QString ComposeSortList(const QList<SortTerm> &terms)
     QStringList written;
     for (const SortTerm &term : terms) {
         QString text = term.field;
-        if (term.orderWord == QueryTexts::Descending)
+        if (QueryTexts::Descending.is(term.orderWord))
             text += QStringLiteral(" DESC");
         written.append(text);
     }

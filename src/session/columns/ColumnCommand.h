@@ -8,9 +8,12 @@ namespace KOVAVSFDataGridLib {
 // source file. Columns count from 1.
 struct ColumnCommand
 {
+    // Makes its caption.
+    static constexpr TextTable tr{"KOVAVSFDataGridLib::ColumnCommand"};
+
     QString key;
     int place; // in the menu; each hundred is a group
-    QString caption;
+    Text caption;
     Record record = Record::Stays;
     void (*run)(Session &session, int col);
     // Null when it always can.

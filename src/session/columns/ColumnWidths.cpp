@@ -13,7 +13,7 @@ namespace {
 const ColumnCommand::Registration fit({
     .key = u"FitColumn"_s,
     .place = 300,
-    .caption = u"适合宽度(&W)"_s,
+    .caption = ColumnCommand::tr("适合宽度(&W)"),
     .run =
         [](Session &session, int col) {
             SessionWindow &window = session.window();
@@ -24,7 +24,7 @@ const ColumnCommand::Registration fit({
 const ColumnCommand::Registration fitAll({
     .key = u"FitAllColumns"_s,
     .place = 301,
-    .caption = u"全部适合(&L)"_s,
+    .caption = ColumnCommand::tr("全部适合(&L)"),
     .run =
         [](Session &session, int) {
             SessionWindow &window = session.window();
@@ -38,7 +38,7 @@ const ColumnCommand::Registration fitAll({
 const ColumnCommand::Registration restore({
     .key = u"RestoreWidths"_s,
     .place = 302,
-    .caption = u"还原宽度(&R)"_s,
+    .caption = ColumnCommand::tr("还原宽度(&R)"),
     .run = [](Session &session, int) { session.keptWidths().restore(session.window()); },
     .canRun = [](Session &session, int) { return session.keptWidths().canRestore(session.window()); },
 });

@@ -14,7 +14,7 @@ namespace {
 const ColumnCommand::Registration registration({
     .key = u"FilterByColumn"_s,
     .place = 200,
-    .caption = u"按此列筛选(&F)…"_s,
+    .caption = ColumnCommand::tr("按此列筛选(&F)…"),
     .record = Record::IsLeft,
     .run = [](Session &session,
               int col) { filterByDialog(session, session.window().Headings().value(col - 1)); },

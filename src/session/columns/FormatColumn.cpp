@@ -44,7 +44,7 @@ void chooseFormat(Session &session, int col)
 const ColumnCommand::Registration registration({
     .key = u"FormatColumn"_s,
     .place = 500,
-    .caption = u"格式(&O)…"_s,
+    .caption = ColumnCommand::tr("格式(&O)…"),
     .run = chooseFormat,
     .canRun =
         [](Session &session, int col) {

@@ -18,7 +18,7 @@ bool isLastFrozen(Session &session, int col)
 const ColumnCommand::Registration registration({
     .key = u"FreezeColumns"_s,
     .place = 401,
-    .caption = u"冻结到此列(&Z)"_s,
+    .caption = ColumnCommand::tr("冻结到此列(&Z)"),
     .run =
         [](Session &session, int col) {
             SessionWindow &window = session.window();

@@ -43,7 +43,7 @@ private:
 const ColumnCommand::Registration registration({
     .key = u"HideColumn"_s,
     .place = 400,
-    .caption = u"隐藏此列(&H)"_s,
+    .caption = ColumnCommand::tr("隐藏此列(&H)"),
     .record = Record::IsLeft,
     .run =
         [](Session &session, int col) {

@@ -42,7 +42,7 @@ void sortBy(Session &session, const QStringList &terms)
 }
 
 template<bool isDescending>
-ColumnCommand sortedByOne(const QString &key, int place, const QString &caption)
+ColumnCommand sortedByOne(const QString &key, int place, Text caption)
 {
     return {
         .key = key,
@@ -73,13 +73,15 @@ QStringList textsOf(const std::vector<SortTerm> &order, int leftOut = 0)
     return texts;
 }
 
-const ColumnCommand::Registration ascending(sortedByOne<false>(u"SortAscending"_s, 100, u"升序(&A)"_s));
-const ColumnCommand::Registration descending(sortedByOne<true>(u"SortDescending"_s, 101, u"降序(&D)"_s));
+const ColumnCommand::Registration ascending(sortedByOne<false>(u"SortAscending"_s, 100,
+                                                               ColumnCommand::tr("升序(&A)")));
+const ColumnCommand::Registration descending(sortedByOne<true>(u"SortDescending"_s, 101,
+                                                               ColumnCommand::tr("降序(&D)")));
 
 const ColumnCommand::Registration add({
     .key = u"AddToSort"_s,
     .place = 102,
-    .caption = u"加入排序(&I)"_s,
+    .caption = ColumnCommand::tr("加入排序(&I)"),
     .record = Record::IsLeft,
     .run =
         [](Session &session, int col) {
@@ -91,7 +93,7 @@ const ColumnCommand::Registration add({
 const ColumnCommand::Registration remove({
     .key = u"RemoveFromSort"_s,
     .place = 103,
-    .caption = u"取消排序(&C)"_s,
+    .caption = ColumnCommand::tr("取消排序(&C)"),
     .record = Record::IsLeft,
     .run = [](Session &session, int col) { sortBy(session, textsOf(shownOrder(session), col)); },
     .canRun = [](Session &session, int col) { return canSort(session, col) && isSortedBy(session, col); },

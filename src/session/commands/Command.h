@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QString>
+#include "language/Text.h"
 
 #include <optional>
 #include <vector>
@@ -19,8 +19,8 @@ enum class Record { Stays, IsListedAgain, IsLeft };
 struct ButtonTexts
 {
     int place; // buttons stand in this order; each hundred is a group
-    QString caption;
-    QString toolTip;
+    Text caption;
+    Text toolTip;
     bool isToggle = false;
 };
 
@@ -31,7 +31,7 @@ enum class MenuGroup { None, CopyAs };
 struct MenuItemTexts
 {
     int index = 0; // from 1; 0 for a command that the menu doesn't have
-    QString caption = {};
+    Text caption = {};
     // Chosen here, the command shows many records again first.
     bool leavesSingleRecord = false;
     MenuGroup group = MenuGroup::None;
@@ -45,6 +45,9 @@ struct MenuItemTexts
 // toolbar, menus and shortcuts are made of what is registered.
 struct Command
 {
+    // Makes its texts.
+    static constexpr TextTable tr{"KOVAVSFDataGridLib::Command"};
+
     QString key;                // also the name of its icon
     QString shortcut;           // in the form that QKeySequence reads
     QString otherShortcut = {}; // a second one, of a command without a button

@@ -1,18 +1,18 @@
 #pragma once
 
-#include <QtCore/QString>
+#include "language/Text.h"
 
 // Why a saved layout is refused, for proof-reading in one place.
 namespace KOVAVSFDataGridLib::LayoutTexts {
 
-using namespace Qt::StringLiterals;
+inline constexpr TextTable tr{"KOVAVSFDataGridLib::LayoutTexts"};
 
-inline const QString NothingShown = u"没有打开的结果，无法恢复布局。"_s;
-inline const QString TooLong = u"布局文本太长。"_s;
-inline const QString NotJson = u"布局文本不是有效的 JSON（第 %1 个字符：%2）。"_s;
-inline const QString NotALayout = u"布局文本的格式不对：%1 缺少或无效。"_s;
-inline const QString NotSaved = u"当前记录没有保存，布局没有改变。"_s;
-inline const QString NotRead = u"无法显示布局中的列，布局没有改变。"_s;
-inline const QString AllHidden = u"布局文本隐藏了所有的列。"_s;
+inline constexpr Text NothingShown = tr("没有打开的结果，无法恢复布局。");
+inline constexpr Text TooLong = tr("布局文本太长。");
+inline constexpr Text NotJson = tr("布局文本不是有效的 JSON（第 %1 个字符：%2）。");
+inline constexpr Text NotALayout = tr("布局文本的格式不对：%1 缺少或无效。");
+inline constexpr Text NotSaved = tr("当前记录没有保存，布局没有改变。");
+inline constexpr Text NotRead = tr("无法显示布局中的列，布局没有改变。");
+inline constexpr Text AllHidden = tr("布局文本隐藏了所有的列。");
 
 } // namespace KOVAVSFDataGridLib::LayoutTexts

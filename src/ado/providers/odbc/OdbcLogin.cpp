@@ -107,7 +107,7 @@ void checkInstalled(const QString &driver)
         return;
     throw Error(adErrProviderNotFound,
                 Texts::noDriver().arg(driver, installed.isEmpty() ? Texts::noneInstalled()
-                                                                  : installed.join(u"、"_s)));
+                                                                  : installed.join(Texts::betweenNames())));
 }
 
 } // namespace

@@ -48,8 +48,9 @@ std::unique_ptr<OdbcConnection> connectTo(const OdbcLogin &login)
         for (const OdbcDataSource &source : odbcDataSources())
             names += source.name;
         throw Error(dbErrFailed,
-                    Texts::noOdbcSource().arg(login.dataSource(),
-                                              names.isEmpty() ? Texts::noneInstalled() : names.join(u"、"_s)),
+                    Texts::noOdbcSource().arg(login.dataSource(), names.isEmpty()
+                                                                      ? Texts::noneInstalled()
+                                                                      : names.join(Texts::betweenNames())),
                     error.Source(), error.SQLState(), error.NativeError());
     }
     return connection;

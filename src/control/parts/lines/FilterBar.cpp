@@ -1,6 +1,7 @@
 #include "control/parts/lines/FilterBar.h"
 
 #include "control/parts/GridTexts.h"
+#include "language/Language.h"
 
 #include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
@@ -24,9 +25,11 @@ FilterBar::FilterBar(QWidget *parent)
     : QWidget(parent), m_more(new QToolButton(this)), m_menu(new QMenu(m_more))
 {
     setObjectName(u"FilterBar"_s);
-    setAccessibleName(GridTexts::FilterBarName);
     m_more->setObjectName(u"MoreConditions"_s);
-    m_menu->setAccessibleName(GridTexts::FilterBarName);
+    Language::keepTranslated(*this, [this] {
+        setAccessibleName(GridTexts::FilterBarName);
+        m_menu->setAccessibleName(GridTexts::FilterBarName);
+    });
     m_more->setMenu(m_menu);
     m_more->setPopupMode(QToolButton::InstantPopup);
     m_more->setFocusPolicy(Qt::StrongFocus);

@@ -2,6 +2,7 @@
 
 #include "control/parts/GridTexts.h"
 #include "control/parts/lines/ElidedLabel.h"
+#include "language/Language.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
@@ -21,15 +22,19 @@ namespace {
 constexpr int digitsOfText = 20; // as wide as the text box should be at least
 constexpr int digitsOfFound = 30;
 
-QToolButton *button(FindBar &bar, const QString &name, const QString &hint)
+QToolButton *button(FindBar &bar, const QString &name)
 {
     auto *made = new QToolButton(&bar);
     made->setObjectName(name);
-    made->setToolTip(hint);
-    made->setAccessibleName(hint);
     made->setAutoRaise(true);
     made->setFocusPolicy(Qt::StrongFocus);
     return made;
+}
+
+void setHint(QWidget &widget, const QString &hint)
+{
+    widget.setToolTip(hint);
+    widget.setAccessibleName(hint);
 }
 
 } // namespace
@@ -37,30 +42,26 @@ QToolButton *button(FindBar &bar, const QString &name, const QString &hint)
 FindBar::FindBar(QWidget *parent)
     : QWidget(parent),
       m_text(new QLineEdit(this)),
-      m_previous(button(*this, u"cmdFindPrevious"_s, GridTexts::FindPrevious)),
-      m_next(button(*this, u"cmdFindNext"_s, GridTexts::FindNext)),
+      m_previous(button(*this, u"cmdFindPrevious"_s)),
+      m_next(button(*this, u"cmdFindNext"_s)),
       m_found(new ElidedLabel(this)),
       m_column(new QComboBox(this)),
-      m_wholeCell(new QCheckBox(GridTexts::WholeCell, this)),
-      m_matchCase(new QCheckBox(GridTexts::MatchCase, this)),
-      m_close(button(*this, u"cmdFindClose"_s, GridTexts::CloseFind))
+      m_wholeCell(new QCheckBox(this)),
+      m_matchCase(new QCheckBox(this)),
+      m_close(button(*this, u"cmdFindClose"_s))
 {
     setObjectName(u"FindBar"_s);
-    setAccessibleName(GridTexts::FindBarName);
     m_text->setObjectName(u"txtFindShown"_s);
-    m_text->setPlaceholderText(GridTexts::FindTextHint);
-    m_text->setAccessibleName(GridTexts::FindTextHint);
     m_text->setClearButtonEnabled(true);
     m_found->setObjectName(u"lblFound"_s);
     m_column->setObjectName(u"cmbFindColumn"_s);
-    m_column->setAccessibleName(GridTexts::FindColumnHint);
-    m_column->setToolTip(GridTexts::FindColumnHint);
     m_wholeCell->setObjectName(u"chkWholeCell"_s);
     m_matchCase->setObjectName(u"chkMatchCase"_s);
     m_previous->setArrowType(Qt::UpArrow);
     m_next->setArrowType(Qt::DownArrow);
     m_close->setText(u"✕"_s);
     setColumns({}, {});
+    Language::keepTranslated(*this, [this] { writeTexts(); });
     connect(m_text, &QLineEdit::textChanged, this, &FindBar::changed);
     connect(m_column, &QComboBox::currentIndexChanged, this, &FindBar::changed);
     connect(m_wholeCell, &QCheckBox::toggled, this, &FindBar::changed);
@@ -69,6 +70,20 @@ FindBar::FindBar(QWidget *parent)
     connect(m_next, &QToolButton::clicked, this, &FindBar::nextWanted);
     connect(m_close, &QToolButton::clicked, this, &FindBar::close);
     hide();
+}
+
+void FindBar::writeTexts()
+{
+    setAccessibleName(GridTexts::FindBarName);
+    m_text->setPlaceholderText(GridTexts::FindTextHint);
+    m_text->setAccessibleName(GridTexts::FindTextHint);
+    setHint(*m_previous, GridTexts::FindPrevious);
+    setHint(*m_next, GridTexts::FindNext);
+    setHint(*m_column, GridTexts::FindColumnHint);
+    m_column->setItemText(0, GridTexts::AllColumns);
+    m_wholeCell->setText(GridTexts::WholeCell);
+    m_matchCase->setText(GridTexts::MatchCase);
+    setHint(*m_close, GridTexts::CloseFind);
 }
 
 void FindBar::open()

@@ -55,6 +55,7 @@ private:
     int gap() const;
     int optionsWidth() const;
     void layOut();
+    void writeTexts();
     void close();
 
     QLineEdit *m_text;

@@ -2,6 +2,7 @@
 
 #include "control/parts/GridTexts.h"
 #include "grid/WholeText.h"
+#include "language/Language.h"
 
 #include <QtGui/QAction>
 #include <QtGui/QClipboard>
@@ -18,7 +19,8 @@ StatementLine::StatementLine(QWidget *parent) : ElidedLabel(parent)
     setForegroundRole(QPalette::PlaceholderText);
     setFocusPolicy(Qt::StrongFocus);
     setContextMenuPolicy(Qt::ActionsContextMenu);
-    auto *copyAction = new QAction(GridTexts::CopyStatement, this);
+    auto *copyAction = new QAction(this);
+    Language::keepTranslated(*this, [copyAction] { copyAction->setText(GridTexts::CopyStatement); });
     copyAction->setShortcut(QKeySequence::Copy);
     copyAction->setShortcutContext(Qt::WidgetShortcut);
     connect(copyAction, &QAction::triggered, this, &StatementLine::copy);

@@ -1,6 +1,7 @@
 #include "control/parts/lines/SummaryLine.h"
 
 #include "control/parts/GridTexts.h"
+#include "language/Language.h"
 
 #include <QtGui/QClipboard>
 #include <QtGui/QCursor>
@@ -16,7 +17,7 @@ SummaryLine::SummaryLine(QWidget *parent) : QLabel(parent)
     setObjectName(u"lblSummary"_s);
     setTextFormat(Qt::RichText);
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    setToolTip(GridTexts::SummaryHint);
+    Language::keepTranslated(*this, [this] { setToolTip(GridTexts::SummaryHint); });
     connect(this, &QLabel::linkActivated, this, &SummaryLine::copy);
     hide();
 }

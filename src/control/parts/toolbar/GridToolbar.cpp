@@ -1,6 +1,7 @@
 #include "control/parts/toolbar/GridToolbar.h"
 
 #include "control/parts/toolbar/ToolbarIcons.h"
+#include "language/Language.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
 
@@ -36,6 +37,7 @@ GridToolbar::GridToolbar(QWidget *parent) : QToolBar(parent)
         if (command->button)
             addButton(*command, *views, std::exchange(group, command->button->place / placesOfGroup));
     }
+    Language::keepTranslated(*this, [this] { writeTexts(); });
     setButtonPressed(CommandKeys::All, true);
     setButtonVisible(CommandKeys::AllRecord, false);
 }
@@ -45,13 +47,11 @@ void GridToolbar::addButton(const Command &command, QActionGroup &views, int las
     if (lastGroup > 0 && command.button->place / placesOfGroup != lastGroup)
         addSeparator();
     const QString key = command.key;
-    QAction *action = addAction(command.button->caption);
+    QAction *action = addAction(QString());
     action->setObjectName(key);
     action->setIcon(toolbarIcon(key));
     action->setShortcut(QKeySequence(command.shortcut));
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    action->setToolTip(
-        u"%1 (%2)"_s.arg(command.button->toolTip, action->shortcut().toString(QKeySequence::NativeText)));
     action->setCheckable(command.button->isToggle);
     if (key == CommandKeys::All || key == CommandKeys::Part)
         views.addAction(action);
@@ -59,7 +59,15 @@ void GridToolbar::addButton(const Command &command, QActionGroup &views, int las
         showPressed();
         Q_EMIT buttonClicked(key);
     });
-    m_buttons.emplace(key, Button{.action = action, .toolTip = action->toolTip()});
+    m_buttons.emplace(key, Button{.action = action, .command = &command});
+}
+
+void GridToolbar::writeTexts()
+{
+    for (const auto &[key, button] : m_buttons) {
+        button.action->setText(button.command->button->caption);
+        apply(button);
+    }
 }
 
 void GridToolbar::resizeEvent(QResizeEvent *event)
@@ -242,8 +250,9 @@ void GridToolbar::apply(const Button &button)
 {
     button.action->setVisible(button.isVisible);
     button.action->setEnabled(button.isEnabled && button.reason.isEmpty());
-    button.action->setToolTip(button.reason.isEmpty() ? button.toolTip
-                                                      : button.toolTip + u'\n' + button.reason);
+    const QString toolTip = u"%1 (%2)"_s.arg(button.command->button->toolTip(),
+                                             button.action->shortcut().toString(QKeySequence::NativeText));
+    button.action->setToolTip(button.reason.isEmpty() ? toolTip : toolTip + u'\n' + button.reason);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -54,14 +54,15 @@ private:
     struct Button
     {
         QAction *action = nullptr;
+        const Command *command = nullptr;
         bool isEnabled = true;
         bool isVisible = true;
         bool isPressed = false;
-        QString toolTip = {};
         QString reason = {};
     };
 
     void addButton(const Command &command, QActionGroup &views, int lastGroup);
+    void writeTexts();
     const Button *find(const QString &key) const;
     Button *find(const QString &key);
     void apply(const Button &button);

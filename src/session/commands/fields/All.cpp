@@ -18,10 +18,10 @@ void showAllFields(Session &session)
 const Command::Registration registration({
     .key = CommandKeys::All,
     .shortcut = u"Ctrl+1"_s,
-    .button = {{100, u"全部字段"_s, u"显示全部字段"_s, true}},
-    .menu = {1, u"全部字段(&A)"_s},
+    .button = {{100, Command::tr("全部字段"), Command::tr("显示全部字段"), true}},
+    .menu = {1, Command::tr("全部字段(&A)")},
     .isInViewer = true,
-    .viewerMenu = {1, u"显示全部字段(&A)"_s},
+    .viewerMenu = {1, Command::tr("显示全部字段(&A)")},
     .needs = Needs::Records,
     .record = Record::IsListedAgain,
     .run = showAllFields,

@@ -46,10 +46,10 @@ void showPartFields(Session &session)
 const Command::Registration registration({
     .key = CommandKeys::Part,
     .shortcut = u"Ctrl+2"_s,
-    .button = {{101, u"部分字段"_s, u"只显示选定的部分字段"_s, true}},
-    .menu = {2, u"部分字段(&P)"_s},
+    .button = {{101, Command::tr("部分字段"), Command::tr("只显示选定的部分字段"), true}},
+    .menu = {2, Command::tr("部分字段(&P)")},
     .isInViewer = true,
-    .viewerMenu = {2, u"显示部分字段(&P)"_s},
+    .viewerMenu = {2, Command::tr("显示部分字段(&P)")},
     .needs = Needs::Records,
     .record = Record::IsListedAgain,
     .run = showPartFields,

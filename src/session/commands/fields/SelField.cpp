@@ -107,7 +107,7 @@ namespace {
 const Command::Registration registration({
     .key = CommandKeys::SelField,
     .shortcut = u"Ctrl+L"_s,
-    .button = {{102, u"选择字段"_s, u"选择要显示的字段"_s}},
+    .button = {{102, Command::tr("选择字段"), Command::tr("选择要显示的字段")}},
     .isInViewer = true,
     .run = [](Session &session) { showChosenFields(session); },
     .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Fields); },

@@ -25,7 +25,7 @@ QString whyNotForward(Session &session)
 const Command::Registration toPreview({
     .key = CommandKeys::ToPreview,
     .shortcut = u"Alt+Left"_s,
-    .button = {{500, u"后退"_s, u"返回上一步的结果"_s}},
+    .button = {{500, Command::tr("后退"), Command::tr("返回上一步的结果")}},
     .isInViewer = true,
     .run = [](Session &session) { goBack(session, 1); },
     .whyNot = [](Session &session) { return session.whyNoHistory(); },
@@ -34,7 +34,7 @@ const Command::Registration toPreview({
 const Command::Registration toOrigin({
     .key = u"ToOrigin"_s,
     .shortcut = u"Alt+Home"_s,
-    .button = {{501, u"最初"_s, u"返回最初的结果"_s}},
+    .button = {{501, Command::tr("最初"), Command::tr("返回最初的结果")}},
     .isInViewer = true,
     .run = goToOrigin,
     .whyNot = [](Session &session) { return session.whyNoHistory(); },
@@ -43,9 +43,9 @@ const Command::Registration toOrigin({
 const Command::Registration forward({
     .key = u"Forward"_s,
     .shortcut = u"Alt+Right"_s,
-    .menu = {30, u"前进(&W)"_s},
+    .menu = {30, Command::tr("前进(&W)")},
     .isInViewer = true,
-    .viewerMenu = {19, u"前进(&W)"_s},
+    .viewerMenu = {19, Command::tr("前进(&W)")},
     .run = [](Session &session) { goForward(session, 1); },
     .whyNot = whyNotForward,
 });
@@ -53,9 +53,9 @@ const Command::Registration forward({
 const Command::Registration list({
     .key = u"History"_s,
     .shortcut = u"Ctrl+H"_s,
-    .menu = {31, u"历史(&Z)…"_s},
+    .menu = {31, Command::tr("历史(&Z)…")},
     .isInViewer = true,
-    .viewerMenu = {20, u"历史(&Z)…"_s},
+    .viewerMenu = {20, Command::tr("历史(&Z)…")},
     .record = Record::Stays,
     .run = [](Session &session) { session.window().showHistory(); },
     .whyNot = [](Session &session) { return session.whyNoHistory(); },

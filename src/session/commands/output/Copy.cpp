@@ -73,9 +73,9 @@ void copy(Session &session, bool hasHeadings)
 const Command::Registration plain({
     .key = u"Copy"_s,
     .shortcut = u"Ctrl+C"_s,
-    .menu = {17, u"复制(&Y)"_s},
+    .menu = {17, Command::tr("复制(&Y)")},
     .isInViewer = true,
-    .viewerMenu = {9, u"复制(&C)"_s},
+    .viewerMenu = {9, Command::tr("复制(&C)")},
     .needs = Needs::Records,
     .record = Record::Stays,
     .run = [](Session &session) { copy(session, false); },
@@ -84,9 +84,9 @@ const Command::Registration plain({
 const Command::Registration withHeadings({
     .key = u"CopyWithHeadings"_s,
     .shortcut = u"Ctrl+Shift+C"_s,
-    .menu = {18, u"复制（含标题）(&H)"_s},
+    .menu = {18, Command::tr("复制（含标题）(&H)")},
     .isInViewer = true,
-    .viewerMenu = {10, u"复制（含标题）(&H)"_s},
+    .viewerMenu = {10, Command::tr("复制（含标题）(&H)")},
     .needs = Needs::Records,
     .record = Record::Stays,
     .run = [](Session &session) { copy(session, true); },

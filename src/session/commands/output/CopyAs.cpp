@@ -128,9 +128,9 @@ void copyAsInList(Session &session)
 const Command::Registration insertStatements({
     .key = u"CopyAsInsert"_s,
     .shortcut = u"Ctrl+Alt+C"_s,
-    .menu = {19, u"INSERT 语句(&I)"_s, false, MenuGroup::CopyAs},
+    .menu = {19, Command::tr("INSERT 语句(&I)"), false, MenuGroup::CopyAs},
     .isInViewer = true,
-    .viewerMenu = {11, u"INSERT 语句(&I)"_s, false, MenuGroup::CopyAs},
+    .viewerMenu = {11, Command::tr("INSERT 语句(&I)"), false, MenuGroup::CopyAs},
     .needs = Needs::Records,
     .record = Record::Stays,
     .run = copyAsInsert,
@@ -139,9 +139,9 @@ const Command::Registration insertStatements({
 const Command::Registration inList({
     .key = u"CopyAsInList"_s,
     .shortcut = u"Ctrl+Alt+L"_s,
-    .menu = {20, u"IN 列表(&L)"_s, false, MenuGroup::CopyAs},
+    .menu = {20, Command::tr("IN 列表(&L)"), false, MenuGroup::CopyAs},
     .isInViewer = true,
-    .viewerMenu = {12, u"IN 列表(&L)"_s, false, MenuGroup::CopyAs},
+    .viewerMenu = {12, Command::tr("IN 列表(&L)"), false, MenuGroup::CopyAs},
     .needs = Needs::Records,
     .record = Record::Stays,
     .run = copyAsInList,

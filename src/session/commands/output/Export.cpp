@@ -34,9 +34,9 @@ void exportRecords(Session &session)
 const Command::Registration registration({
     .key = u"Export"_s,
     .shortcut = u"Ctrl+S"_s,
-    .menu = {21, u"导出(&E)…"_s},
+    .menu = {21, Command::tr("导出(&E)…")},
     .isInViewer = true,
-    .viewerMenu = {13, u"导出(&E)…"_s},
+    .viewerMenu = {13, Command::tr("导出(&E)…")},
     .needs = Needs::Records,
     .record = Record::Stays,
     .run = exportRecords,

@@ -30,9 +30,9 @@ void print(Session &session)
 const Command::Registration registration({
     .key = u"Print"_s,
     .shortcut = u"Ctrl+P"_s,
-    .menu = {22, u"打印(&P)…"_s},
+    .menu = {22, Command::tr("打印(&P)…")},
     .isInViewer = true,
-    .viewerMenu = {14, u"打印(&P)…"_s},
+    .viewerMenu = {14, Command::tr("打印(&P)…")},
     .needs = Needs::Records,
     .record = Record::Stays,
     .run = print,

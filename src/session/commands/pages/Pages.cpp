@@ -12,7 +12,7 @@ namespace {
 const Command::Registration first({
     .key = u"First"_s,
     .shortcut = u"Ctrl+Home"_s,
-    .button = {{400, u"首页"_s, u"第一页"_s}},
+    .button = {{400, Command::tr("首页"), Command::tr("第一页")}},
     .isInViewer = true,
     .run = [](Session &session) { session.stepPage(PageStep::First); },
 });
@@ -20,7 +20,7 @@ const Command::Registration first({
 const Command::Registration previous({
     .key = u"Previous"_s,
     .shortcut = u"Ctrl+PgUp"_s,
-    .button = {{401, u"上页"_s, u"上一页"_s}},
+    .button = {{401, Command::tr("上页"), Command::tr("上一页")}},
     .isInViewer = true,
     .run = [](Session &session) { session.stepPage(PageStep::Previous); },
 });
@@ -28,7 +28,7 @@ const Command::Registration previous({
 const Command::Registration next({
     .key = u"Next"_s,
     .shortcut = u"Ctrl+PgDown"_s,
-    .button = {{402, u"下页"_s, u"下一页"_s}},
+    .button = {{402, Command::tr("下页"), Command::tr("下一页")}},
     .isInViewer = true,
     .run = [](Session &session) { session.stepPage(PageStep::Next); },
 });
@@ -36,7 +36,7 @@ const Command::Registration next({
 const Command::Registration last({
     .key = u"Last"_s,
     .shortcut = u"Ctrl+End"_s,
-    .button = {{403, u"末页"_s, u"最后一页"_s}},
+    .button = {{403, Command::tr("末页"), Command::tr("最后一页")}},
     .isInViewer = true,
     .run = [](Session &session) { session.stepPage(PageStep::Last); },
 });

@@ -41,7 +41,7 @@ void addRecord(Session &session)
 const Command::Registration registration({
     .key = u"AddRecord"_s,
     .shortcut = u"Ctrl++"_s,
-    .menu = {8, u"增加记录(&N)"_s},
+    .menu = {8, Command::tr("增加记录(&N)")},
     .record = Record::Stays,
     .run = addRecord,
     .whyNot = [](Session &session) { return session.isReadOnly() ? SessionMessages::ReadOnly : QString(); },

@@ -93,7 +93,7 @@ void deleteRecord(Session &session)
 const Command::Registration registration({
     .key = u"DeleteRecord"_s,
     .shortcut = u"Ctrl+-"_s,
-    .menu = {9, u"删除记录(&D)"_s},
+    .menu = {9, Command::tr("删除记录(&D)")},
     .record = Record::Stays,
     .run = deleteRecord,
     .whyNot = [](Session &session) { return session.isReadOnly() ? SessionMessages::ReadOnly : QString(); },

@@ -20,8 +20,8 @@ void showSingleRecord(Session &session)
 const Command::Registration singleRecord({
     .key = CommandKeys::SingleRecord,
     .shortcut = u"Ctrl+3"_s,
-    .button = {{200, u"单条记录"_s, u"以列表方式查看当前记录"_s}},
-    .menu = {5, u"单条记录(&R)"_s},
+    .button = {{200, Command::tr("单条记录"), Command::tr("以列表方式查看当前记录")}},
+    .menu = {5, Command::tr("单条记录(&R)")},
     .needs = Needs::Records,
     .record = Record::Stays,
     .run = showSingleRecord,
@@ -30,8 +30,8 @@ const Command::Registration singleRecord({
 const Command::Registration allRecord({
     .key = CommandKeys::AllRecord,
     .shortcut = u"Ctrl+4"_s,
-    .button = {{201, u"全部记录"_s, u"返回全部记录"_s}},
-    .menu = {6, u"全部记录(&R)"_s},
+    .button = {{201, Command::tr("全部记录"), Command::tr("返回全部记录")}},
+    .menu = {6, Command::tr("全部记录(&R)")},
     .needs = Needs::Records,
     .run = [](Session &session) { session.window().showAllRecords(); },
 });

@@ -32,7 +32,7 @@ void stepRecord(Session &session, int by)
 const Command::Registration previous({
     .key = CommandKeys::PreviousRecord,
     .shortcut = u"Alt+PgUp"_s,
-    .menu = {24, u"上一条记录(&K)"_s},
+    .menu = {24, Command::tr("上一条记录(&K)")},
     .needs = Needs::Records,
     .run = [](Session &session) { stepRecord(session, -1); },
 });
@@ -40,7 +40,7 @@ const Command::Registration previous({
 const Command::Registration next({
     .key = CommandKeys::NextRecord,
     .shortcut = u"Alt+PgDown"_s,
-    .menu = {25, u"下一条记录(&J)"_s},
+    .menu = {25, Command::tr("下一条记录(&J)")},
     .needs = Needs::Records,
     .run = [](Session &session) { stepRecord(session, 1); },
 });

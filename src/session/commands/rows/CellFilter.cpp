@@ -54,10 +54,12 @@ void filterBySelectedCell(Session &session)
 const Command::Registration registration({
     .key = CommandKeys::CellFilter,
     .shortcut = u"Ctrl+Shift+L"_s,
-    .menu = {14, u"按选定内容筛选(&C)"_s},
+    .menu = {14, Command::tr("按选定内容筛选(&C)")},
     .isInViewer = true,
-    .viewerMenu =
-        {.index = 4, .caption = u"按所选内容筛选(&F)"_s, .enabledAs = CommandKeys::Filter, .needsText = true},
+    .viewerMenu = {.index = 4,
+                   .caption = Command::tr("按所选内容筛选(&F)"),
+                   .enabledAs = CommandKeys::Filter,
+                   .needsText = true},
     .needs = Needs::Records,
     .run = filterBySelectedCell,
     .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Condition); },

@@ -123,8 +123,8 @@ namespace {
 const Command::Registration registration({
     .key = CommandKeys::Filter,
     .shortcut = u"Ctrl+Shift+F"_s,
-    .button = {{300, u"筛选"_s, u"按条件筛选记录"_s}},
-    .menu = {11, u"筛选(&F)"_s, true},
+    .button = {{300, Command::tr("筛选"), Command::tr("按条件筛选记录")}},
+    .menu = {11, Command::tr("筛选(&F)"), true},
     .isInViewer = true,
     .needs = Needs::Records,
     .run = [](Session &session) { filterByDialog(session); },
@@ -135,7 +135,8 @@ const Command::Registration registration({
 const Command::Registration fromResult({
     .key = CommandKeys::FromResult,
     .shortcut = u"Ctrl+R"_s,
-    .button = {{302, u"在结果中筛选"_s, u"按下时在当前结果中继续筛选，弹起时从最初的结果筛选"_s, true}},
+    .button = {{302, Command::tr("在结果中筛选"),
+                Command::tr("按下时在当前结果中继续筛选，弹起时从最初的结果筛选"), true}},
     .record = Record::Stays,
     .run = [](Session &session) { session.toggleFromResult(); },
 });

@@ -68,7 +68,7 @@ void quickFilter(Session &session)
 const Command::Registration registration({
     .key = u"QuickFilter"_s,
     .shortcut = u"Ctrl+F"_s,
-    .button = {{301, u"快速筛选"_s, u"在所有字段中查找"_s}},
+    .button = {{301, Command::tr("快速筛选"), Command::tr("在所有字段中查找")}},
     .needs = Needs::Records,
     .run = quickFilter,
     .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Condition); },

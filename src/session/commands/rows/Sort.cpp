@@ -52,8 +52,8 @@ void sortByDialog(Session &session)
 const Command::Registration registration({
     .key = CommandKeys::Sort,
     .shortcut = u"Ctrl+Shift+O"_s,
-    .button = {{303, u"排序"_s, u"选择排序字段"_s}},
-    .menu = {12, u"排序(&O)"_s, true},
+    .button = {{303, Command::tr("排序"), Command::tr("选择排序字段")}},
+    .menu = {12, Command::tr("排序(&O)"), true},
     .isInViewer = true,
     .run = sortByDialog,
     .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Sort); },

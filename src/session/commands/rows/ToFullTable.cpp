@@ -33,10 +33,10 @@ void showFullTable(Session &session)
 const Command::Registration registration({
     .key = CommandKeys::ToFullTable,
     .shortcut = u"Ctrl+0"_s,
-    .button = {{502, u"整表"_s, u"去掉筛选条件，显示整个表"_s}},
-    .menu = {15, u"显示整表(&T)"_s},
+    .button = {{502, Command::tr("整表"), Command::tr("去掉筛选条件，显示整个表")}},
+    .menu = {15, Command::tr("显示整表(&T)")},
     .isInViewer = true,
-    .viewerMenu = {5, u"显示整个表(&T)"_s},
+    .viewerMenu = {5, Command::tr("显示整个表(&T)")},
     .run = showFullTable,
     .whyNot = [](Session &session) { return session.whyNoHistory(); },
 });

@@ -46,9 +46,9 @@ void showValue(Session &session)
 const Command::Registration registration({
     .key = CommandKeys::ShowValue,
     .shortcut = u"F3"_s,
-    .menu = {28, u"查看内容(&V)…"_s},
+    .menu = {28, Command::tr("查看内容(&V)…")},
     .isInViewer = true,
-    .viewerMenu = {17, u"查看内容(&V)…"_s},
+    .viewerMenu = {17, Command::tr("查看内容(&V)…")},
     .needs = Needs::Records,
     .record = Record::Stays,
     .run = showValue,

@@ -22,7 +22,8 @@ void compressOrRestore(Session &session)
 const Command::Registration compressView({
     .key = u"CompressView"_s,
     .shortcut = u"Ctrl+M"_s,
-    .button = {{600, u"压缩显示"_s, u"调整列宽，使所有列都能看到；再按一次恢复原来的列宽"_s}},
+    .button = {{600, Command::tr("压缩显示"),
+                Command::tr("调整列宽，使所有列都能看到；再按一次恢复原来的列宽")}},
     .isInViewer = true,
     .record = Record::Stays,
     .run = compressOrRestore,
@@ -31,8 +32,8 @@ const Command::Registration compressView({
 const Command::Registration fullScreen({
     .key = u"FullScreen"_s,
     .shortcut = u"F11"_s,
-    .button = {{601, u"全屏"_s, u"全屏显示"_s}},
-    .menu = {4, u"全屏显示(&S)"_s},
+    .button = {{601, Command::tr("全屏"), Command::tr("全屏显示")}},
+    .menu = {4, Command::tr("全屏显示(&S)")},
     .needs = Needs::Records,
     .run = [](Session &session) { session.window().showFullScreen(); },
 });

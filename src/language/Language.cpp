@@ -1,0 +1,83 @@
+#include "language/Language.h"
+
+#include "language/LanguageTexts.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
+#include <QtCore/QLocale>
+#include <QtCore/QPointer>
+#include <QtCore/QTranslator>
+
+#include <memory>
+#include <utility>
+
+namespace KOVAVSFDataGridLib::Language {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Null in Chinese, in which the texts are written. It belongs to the application, which may end and start
+// again.
+QPointer<QTranslator> &translator()
+{
+    static QPointer<QTranslator> installed;
+    return installed;
+}
+
+bool useEnglish()
+{
+    if (translator())
+        return true;
+    auto english = std::make_unique<QTranslator>();
+    if (!english->load(u":/KOVAVSFDataGridLib/translations/KOVAVSFDataGridLib_en.qm"_s))
+        return false;
+    english->setParent(QCoreApplication::instance());
+    translator() = english.release();
+    return QCoreApplication::installTranslator(translator());
+}
+
+class Translated final : public QObject
+{
+public:
+    Translated(QObject &widget, std::function<void()> write) : QObject(&widget), m_write(std::move(write))
+    {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::LanguageChange)
+            m_write();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    const std::function<void()> m_write;
+};
+
+} // namespace
+
+QString current()
+{
+    return LanguageTexts::Name;
+}
+
+bool use(const QString &name)
+{
+    const QLocale::Language language = name.isEmpty() ? QLocale::Chinese : QLocale(name).language();
+    if (!QCoreApplication::instance() || (language != QLocale::Chinese && language != QLocale::English))
+        return false;
+    if (language == QLocale::English)
+        return useEnglish();
+    delete translator(); // which removes it
+    return true;
+}
+
+void keepTranslated(QObject &widget, std::function<void()> write)
+{
+    write();
+    new Translated(widget, std::move(write));
+}
+
+} // namespace KOVAVSFDataGridLib::Language
