@@ -165,6 +165,75 @@ TEST(Values, FontsAreFontObjects)
               DISP_E_TYPEMISMATCH);
 }
 
+TEST(Values, AChangeOfTheFontObjectChangesTheGrid)
+{
+    const Object control = newControl();
+    const Object font = get(control, L"DataFont").object();
+    ASSERT_EQ(put(font, L"Size", 20).outcome, S_OK);
+    EXPECT_NEAR(get(get(control, L"DataFont").object(), L"Size").real(), 20, 0.5);
+    put(font, L"Bold", true);
+    EXPECT_TRUE(get(get(control, L"DataFont").object(), L"Bold").isTrue());
+
+    // A client's own object stays connected too, and one that was replaced does not.
+    FONTDESC description{};
+    description.cbSizeofstruct = sizeof description;
+    description.lpstrName = const_cast<LPOLESTR>(L"Tahoma");
+    description.cySize.int64 = 100000;
+    ComPtr<IFontDisp> own;
+    ASSERT_EQ(OleCreateFontIndirect(&description, IID_PPV_ARGS(&own)), S_OK);
+    EXPECT_EQ(invoke(control, L"DataFont", DISPATCH_PROPERTYPUTREF, {Value(own.Get())}).outcome, S_OK);
+    const Object ownObject = get(control, L"DataFont").object();
+    put(ownObject, L"Italic", true);
+    put(font, L"Size", 33);
+    const Object now = get(control, L"DataFont").object();
+    EXPECT_TRUE(get(now, L"Italic").isTrue());
+    EXPECT_NEAR(get(now, L"Size").real(), 10, 0.5);
+}
+
+TEST(Values, AFontObjectMayOutliveTheControl)
+{
+    Object control = newControl();
+    const Object font = get(control, L"DataFont").object();
+    control.Reset();
+    EXPECT_EQ(put(font, L"Size", 20).outcome, S_OK);
+}
+
+TEST(Values, ATextKeepsItsZeroCharacters)
+{
+    const Object control = newControl();
+    Value text;
+    text.get()->vt = VT_BSTR;
+    text.get()->bstrVal = SysAllocStringLen(L"a\0b", 3);
+    put(control, L"STR_SQLTEMP", text);
+    const Value back = get(control, L"STR_SQLTEMP");
+    EXPECT_EQ(SysStringLen(back.variant().bstrVal), 3u);
+}
+
+TEST(Values, ManyRecordsComeAsATable)
+{
+    const Object control = loadedControl();
+    const Object records = get(control, L"RecordSet").object();
+    const Value rows = get(records, L"GetRows", {2, Value::omitted(), L"name"});
+    ASSERT_EQ(rows.type(), VT_ARRAY | VT_VARIANT);
+    SAFEARRAY *array = rows.variant().parray;
+    ASSERT_EQ(SafeArrayGetDim(array), 2u); // the field, then the record
+    LONG last = -1;
+    EXPECT_EQ(SafeArrayGetUBound(array, 1, &last), S_OK);
+    EXPECT_EQ(last, 0);
+    EXPECT_EQ(SafeArrayGetUBound(array, 2, &last), S_OK);
+    EXPECT_EQ(last, 1);
+    LONG place[] = {0, 1};
+    Value second;
+    ASSERT_EQ(SafeArrayGetElement(array, place, second.get()), S_OK);
+    EXPECT_EQ(second.text(), L"O'Brien");
+
+    EXPECT_EQ(put(records, L"Filter", L"id <> 2").outcome, S_OK);
+    EXPECT_EQ(get(records, L"RecordCount").number(), 2);
+    const Answer refused = call(records, L"Requery");
+    EXPECT_EQ(refused.outcome, DISP_E_EXCEPTION);
+    EXPECT_EQ(refused.errorCode & 0xffff, 3251);
+}
+
 TEST(Values, ValuesKeepTheirTypes)
 {
     const Object control = loadedControl();

@@ -15,7 +15,8 @@ GridDispatch::GridDispatch(GridControl &control)
     : Part(control.identity()),
       m_control(control),
       m_info(typeInfo(interfaceId)),
-      m_members(KOVAVSFDataGrid::staticMetaObject, *m_info.Get())
+      m_members(KOVAVSFDataGrid::staticMetaObject, *m_info.Get()),
+      m_dataFont(control.grid())
 {
 }
 
@@ -54,6 +55,8 @@ STDMETHODIMP GridDispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAM
     const Microsoft::WRL::ComPtr<IUnknown> alive(&m_control.identity());
     if (member->name == u"BackColor")
         return backColor(flags, *parameters, result);
+    if (member->name == u"DataFont")
+        return dataFont(flags, *parameters, result);
     return metaCall(m_control.grid(), *member, flags, *parameters, result, exception, badArgument);
 }
 
@@ -71,6 +74,28 @@ HRESULT GridDispatch::backColor(WORD flags, const DISPPARAMS &parameters, VARIAN
     m_control.persistence().putBackColor(static_cast<quint32>(number.toLongLong()));
     Q_EMIT m_control.grid().PropertyChanged(u"BackColor"_s);
     return S_OK;
+}
+
+HRESULT GridDispatch::dataFont(WORD flags, const DISPPARAMS &parameters, VARIANT *result)
+{
+    const bool isPut = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
+    if (parameters.cArgs != (isPut ? 1u : 0u))
+        return DISP_E_BADPARAMCOUNT;
+    if (isPut) {
+        Variant given;
+        const HRESULT copied = VariantCopyInd(given.get(), &parameters.rgvarg[0]);
+        if (FAILED(copied))
+            return copied;
+        const bool isObject = given->vt == VT_DISPATCH || given->vt == VT_UNKNOWN;
+        return isObject ? m_dataFont.put(given->punkVal) : DISP_E_TYPEMISMATCH;
+    }
+    if (!result)
+        return S_OK;
+    VariantInit(result);
+    const HRESULT outcome = m_dataFont.get(&result->pdispVal);
+    if (SUCCEEDED(outcome))
+        result->vt = VT_DISPATCH;
+    return outcome;
 }
 
 GridHolder::GridHolder(GridControl &control) : Part(control.identity()), m_control(control) {}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "activex/calls/LiveFont.h"
 #include "activex/calls/MemberTable.h"
 #include "activex/calls/ObjectHolder.h"
 #include "activex/server/ComObject.h"
@@ -30,9 +31,12 @@ private:
     // The widget's own colour is the one that shows at the moment; automation's can be one of the system's.
     HRESULT backColor(WORD flags, const DISPPARAMS &parameters, VARIANT *result);
 
+    HRESULT dataFont(WORD flags, const DISPPARAMS &parameters, VARIANT *result);
+
     GridControl &m_control;
     const Microsoft::WRL::ComPtr<ITypeInfo> m_info;
     const MemberTable m_members;
+    LiveFont m_dataFont;
 };
 
 // The way of this server's own code to the widget.

@@ -10,6 +10,7 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPalette>
 
+#include <array>
 #include <cmath>
 #include <wrl/client.h>
 
@@ -72,6 +73,39 @@ HRESULT putBytes(const QByteArray &bytes, VARIANT *result)
     return S_OK;
 }
 
+// A list, or a list of lists that are equally long: one dimension more, with the outer index first.
+HRESULT putList(const QVariantList &list, VARIANT *result)
+{
+    const bool isTable = !list.isEmpty() && list[0].typeId() == QMetaType::QVariantList;
+    const auto length = [](qsizetype size) { return SAFEARRAYBOUND{static_cast<ULONG>(size), 0}; };
+    std::array<SAFEARRAYBOUND, 2> bounds{length(list.size()),
+                                         length(isTable ? list[0].toList().size() : qsizetype{0})};
+    SAFEARRAY *array = SafeArrayCreate(VT_VARIANT, isTable ? 2 : 1, bounds.data());
+    if (!array)
+        return E_OUTOFMEMORY;
+    result->vt = VT_ARRAY | VT_VARIANT;
+    result->parray = array;
+    const auto put = [array](const QVariant &value, LONG outer, LONG inner) {
+        Variant item;
+        std::array<LONG, 2> place{outer, inner};
+        const HRESULT outcome = fromQt(value, item.get());
+        return SUCCEEDED(outcome) ? SafeArrayPutElement(array, place.data(), item.get()) : outcome;
+    };
+    HRESULT outcome = S_OK;
+    for (LONG i = 0; SUCCEEDED(outcome) && i < list.size(); ++i) {
+        if (!isTable) {
+            outcome = put(list[i], i, 0);
+            continue;
+        }
+        const QVariantList inner = list[i].toList();
+        for (LONG j = 0; SUCCEEDED(outcome) && j < inner.size(); ++j)
+            outcome = put(inner[j], i, j);
+    }
+    if (FAILED(outcome))
+        VariantClear(result);
+    return outcome;
+}
+
 HRESULT putText(const QString &text, VARIANT *result)
 {
     result->bstrVal = toBstr(text);
@@ -108,6 +142,30 @@ QVariant numberAs(QMetaType wanted, T number)
     return QVariant(wanted, &number);
 }
 
+// A text can have characters of number 0 inside.
+QString textIn(BSTR text)
+{
+    return QString::fromWCharArray(text, static_cast<qsizetype>(SysStringLen(text)));
+}
+
+QVariant listIn(SAFEARRAY *array, HRESULT *outcome)
+{
+    VARIANT *items = nullptr;
+    if (SafeArrayGetDim(array) != 1 ||
+        FAILED(SafeArrayAccessData(array, reinterpret_cast<void **>(&items)))) {
+        *outcome = DISP_E_TYPEMISMATCH;
+        return {};
+    }
+    QVariantList list;
+    for (ULONG i = 0; SUCCEEDED(*outcome) && i < array->rgsabound[0].cElements; ++i) {
+        QVariant item;
+        *outcome = toQt(items[i], QMetaType(QMetaType::QVariant), &item);
+        list.push_back(item);
+    }
+    SafeArrayUnaccessData(array);
+    return list;
+}
+
 QVariant anything(const VARIANT &value, HRESULT *outcome)
 {
     Variant changed;
@@ -141,9 +199,15 @@ QVariant anything(const VARIANT &value, HRESULT *outcome)
     case VT_DECIMAL:
     case VT_UI8:
         *outcome = change(value, VT_BSTR, changed);
-        return SUCCEEDED(*outcome) ? QVariant(toQString(changed->bstrVal)) : QVariant();
+        return SUCCEEDED(*outcome) ? QVariant(textIn(changed->bstrVal)) : QVariant();
+    case VT_ERROR: // an argument that was left out
+        if (value.scode != DISP_E_PARAMNOTFOUND)
+            *outcome = DISP_E_TYPEMISMATCH;
+        return {};
     case VT_ARRAY | VT_UI1:
         return toBytes(value.parray);
+    case VT_ARRAY | VT_VARIANT:
+        return listIn(value.parray, outcome);
     default:
         *outcome = DISP_E_TYPEMISMATCH;
         return {};
@@ -209,7 +273,7 @@ HRESULT toQtPlain(const VARIANT &value, QMetaType wanted, QVariant *result)
     case QMetaType::QString:
         outcome = change(value, VT_BSTR, changed);
         if (SUCCEEDED(outcome))
-            *result = toQString(changed->bstrVal);
+            *result = textIn(changed->bstrVal);
         return outcome;
     default:
         if (wanted.id() != QMetaType::Int && !(wanted.flags() & QMetaType::IsEnumeration))
@@ -267,6 +331,8 @@ HRESULT fromQt(const QVariant &value, VARIANT *result)
         return putText(value.toString(), result);
     case QMetaType::QByteArray:
         return putBytes(value.toByteArray(), result);
+    case QMetaType::QVariantList:
+        return putList(value.toList(), result);
     case QMetaType::QDate:
     case QMetaType::QTime:
     case QMetaType::QDateTime: {

@@ -1,5 +1,7 @@
 #include "activex/container/EmbeddedWindow.h"
 
+#include "activex/container/DialogOwner.h"
+
 #include <QtCore/QEvent>
 #include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
@@ -10,8 +12,11 @@
 namespace KOVAVSFDataGridLib::ActiveX {
 
 EmbeddedWindow::EmbeddedWindow(QWidget &widget, std::function<void()> entered,
-                               std::function<void(bool)> blocked)
-    : m_widget(widget), m_entered(std::move(entered)), m_blocked(std::move(blocked))
+                               std::function<void(bool)> focused, std::function<void(bool)> blocked)
+    : m_widget(widget),
+      m_entered(std::move(entered)),
+      m_focused(std::move(focused)),
+      m_blocked(std::move(blocked))
 {
     m_widget.setWindowFlags(Qt::FramelessWindowHint);
     // … and on where the keyboard is.
@@ -27,6 +32,7 @@ EmbeddedWindow::~EmbeddedWindow()
 
 void EmbeddedWindow::attach(HWND parent, const RECT &position, const RECT &clip)
 {
+    renew();
     m_parent.reset(QWindow::fromWinId(reinterpret_cast<WId>(parent)));
     // A window that is no child yet would become the active one by its change of parent.
     const auto window = reinterpret_cast<HWND>(m_widget.winId());
@@ -34,15 +40,28 @@ void EmbeddedWindow::attach(HWND parent, const RECT &position, const RECT &clip)
     SetWindowLongW(window, GWL_STYLE, style | WS_CHILD);
     m_widget.windowHandle()->setParent(m_parent.get());
     m_widget.windowHandle()->installEventFilter(this);
+    m_dialogs = std::make_unique<DialogOwner>(m_widget);
     place(position, &clip);
     m_widget.show();
     place(position, &clip); // showing may have moved it
+}
+
+void EmbeddedWindow::renew()
+{
+    QWindow *window = m_widget.windowHandle();
+    if (!window || IsWindow(reinterpret_cast<HWND>(m_widget.winId())))
+        return;
+    window->destroy();
+    m_widget.setParent(nullptr, m_widget.windowFlags()); // forgets the handle
 }
 
 void EmbeddedWindow::detach()
 {
     if (!m_parent)
         return;
+    // Before the host's window can be used again, because the dialogs are in front of it.
+    m_dialogs->cancelDialogs();
+    m_dialogs.reset();
     unblock();
     m_widget.hide();
     m_widget.windowHandle()->removeEventFilter(this);
@@ -98,10 +117,14 @@ bool EmbeddedWindow::wants(const MSG &message) const
     case VK_NEXT:
     case VK_HOME:
     case VK_END:
-    case VK_RETURN:
-    case VK_ESCAPE:
     case VK_DELETE:
         return true;
+    case VK_RETURN:
+    case VK_ESCAPE: {
+        // The grid itself has no use for them; a form has buttons that they press.
+        const QWidget *focused = QApplication::focusWidget();
+        return focused && focused->objectName() != u"vsfgDataGrid";
+    }
     default:
         return false;
     }
@@ -149,6 +172,9 @@ bool EmbeddedWindow::eventFilter(QObject *watched, QEvent *event)
         m_entered();
     } else if (event->type() == QEvent::FocusIn) {
         m_entered();
+        m_focused(true);
+    } else if (event->type() == QEvent::FocusOut) {
+        m_focused(false);
     } else if (event->type() == QEvent::WindowBlocked) {
         block();
     } else if (event->type() == QEvent::WindowUnblocked) {

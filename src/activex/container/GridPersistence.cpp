@@ -25,13 +25,20 @@ public:
 
     QVariant ReadProperty(const QString &name, const QVariant &byDefault) const override
     {
-        Variant value;
-        value->vt = VT_I4; // the type wanted
-        QVariant number;
-        if (FAILED(m_bag.Read(wide(name), value.get(), m_log)) ||
-            FAILED(toQt(*value, QMetaType(QMetaType::Int), &number)))
-            return byDefault;
-        return number;
+        // A form's file can have the number as it stands in a program: &H8000000F&.
+        for (const VARTYPE wanted : {VT_I4, VT_BSTR}) {
+            Variant value;
+            value->vt = wanted;
+            QVariant number;
+            if (FAILED(m_bag.Read(wide(name), value.get(), m_log)))
+                continue;
+            if (value->vt == VT_BSTR &&
+                isHexadecimal(toQString(value->bstrVal ? value->bstrVal : L""), &number))
+                return number;
+            if (SUCCEEDED(toQt(*value, QMetaType(QMetaType::Int), &number)))
+                return number;
+        }
+        return byDefault;
     }
     void WriteProperty(const QString &name, const QVariant &value, const QVariant &byDefault) override
     {
@@ -45,6 +52,15 @@ public:
     HRESULT outcome() const { return m_outcome; }
 
 private:
+    static bool isHexadecimal(const QString &text, QVariant *number)
+    {
+        if (!text.startsWith("&H"_L1, Qt::CaseInsensitive))
+            return false;
+        bool isNumber = false;
+        const QString digits = text.endsWith(u'&') ? text.sliced(2).chopped(1) : text.sliced(2);
+        *number = static_cast<qint32>(digits.toUInt(&isNumber, 16));
+        return isNumber;
+    }
     static LPCOLESTR wide(const QString &text) { return reinterpret_cast<const OLECHAR *>(text.utf16()); }
 
     IPropertyBag &m_bag;

@@ -107,7 +107,8 @@ InPlace::InPlace(GridControl &control)
       m_object(control, *this),
       m_activeObject(control, *this),
       m_window(
-          control.grid(), [this] { activateUi(); }, [this](bool on) { dialogOpen(on); })
+          control.grid(), [this] { activateUi(); }, [this](bool on) { focusMoved(on); },
+          [this](bool on) { dialogOpen(on); })
 {
 }
 
@@ -191,6 +192,13 @@ void InPlace::end()
     m_frame.Reset();
     m_document.Reset();
     m_site.Reset();
+}
+
+void InPlace::focusMoved(bool here)
+{
+    ComPtr<IOleControlSite> site;
+    if (m_site && SUCCEEDED(m_site.As(&site)))
+        site->OnFocus(here);
 }
 
 void InPlace::dialogOpen(bool on)

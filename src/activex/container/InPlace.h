@@ -70,6 +70,8 @@ public:
 
 private:
     HRESULT activateUi();
+    // The keyboard came or left.
+    void focusMoved(bool here);
     // The container's modeless windows must rest while a dialog of the control is open.
     void dialogOpen(bool on);
 

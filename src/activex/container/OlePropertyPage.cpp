@@ -57,7 +57,7 @@ ClassFactory::Create OlePropertyPage::creatorOf(REFCLSID id)
 OlePropertyPage::OlePropertyPage(const QString &title, std::unique_ptr<KOVAVSFDataGridLib::PropertyPage> page)
     : m_page(std::move(page)),
       m_window(
-          *m_page, [] {}, [](bool) {})
+          *m_page, [] {}, [](bool) {}, [](bool) {})
 {
     m_page->setWindowTitle(title);
     QObject::connect(m_page.get(), &KOVAVSFDataGridLib::PropertyPage::ChangedChanged, m_page.get(), [this] {

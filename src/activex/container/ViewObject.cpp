@@ -6,21 +6,49 @@
 
 #include <QtGui/QImage>
 
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
 namespace KOVAVSFDataGridLib::ActiveX {
+
+namespace {
+
+// How many dots of the device the rectangle has: a printer's page is often measured in other units.
+SIZE dotsIn(const RECTL &bounds, HDC context)
+{
+    std::array<POINT, 2> corners{{{bounds.left, bounds.top}, {bounds.right, bounds.bottom}}};
+    LPtoDP(context, corners.data(), static_cast<int>(corners.size()));
+    return {std::abs(corners[1].x - corners[0].x), std::abs(corners[1].y - corners[0].y)};
+}
+
+// Painted anew for the dots that there are, so that texts and lines are as sharp in print as the device can
+// show them. The memory is limited: at most 6 times the screen's dots in each direction.
+QImage painted(KOVAVSFDataGrid &grid, SIZE dots)
+{
+    constexpr qreal most = 6;
+    const QSizeF size = grid.size();
+    const qreal wanted = size.isEmpty() ? 1 : std::max(dots.cx / size.width(), dots.cy / size.height());
+    const qreal scale = std::clamp(wanted, 1.0, most);
+    QImage picture((size * scale).toSize(), QImage::Format_RGB32);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::white);
+    grid.render(&picture);
+    return picture;
+}
+
+} // namespace
 
 ViewObject::ViewObject(GridControl &control) : Part(control.identity()), m_control(control) {}
 
 STDMETHODIMP ViewObject::Draw(DWORD aspect, LONG, void *, DVTARGETDEVICE *, HDC, HDC context, LPCRECTL bounds,
                               LPCRECTL, BOOL(CALLBACK *)(ULONG_PTR), ULONG_PTR)
 {
-    if (aspect != DVASPECT_CONTENT)
+    if (aspect != DVASPECT_CONTENT && aspect != DVASPECT_DOCPRINT)
         return DV_E_DVASPECT;
     if (!context || !bounds)
         return E_INVALIDARG;
-    KOVAVSFDataGrid &grid = m_control.grid();
-    QImage picture(grid.size(), QImage::Format_RGB32);
-    picture.fill(Qt::white);
-    grid.render(&picture);
+    const QImage picture = painted(m_control.grid(), dotsIn(*bounds, context));
 
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;

@@ -1,6 +1,7 @@
 #include "activex/server/QtRuntime.h"
 
 #include "activex/server/ModuleUse.h"
+#include "activex/server/QuitKeeper.h"
 #include "control/face/platform/ModuleFolder.h"
 
 #include <QtCore/QFileInfo>
@@ -63,6 +64,7 @@ HRESULT startQt()
         new QApplication(count, arguments.data()); // lives as long as the process
         QApplication::setQuitOnLastWindowClosed(false);
         useChinese();
+        keepQuitMessages();
     }
     if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
         return E_UNEXPECTED; // the host uses Qt, but without windows

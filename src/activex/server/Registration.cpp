@@ -25,6 +25,13 @@ constexpr wchar_t progId[] = L"KOVAVSFDataGridLib.KOVAVSFDataGrid";
 constexpr GUID controlCategory = {
     0x40fc6ed4, 0x2438, 0x11cf, {0xa3, 0xdb, 0x08, 0x00, 0x36, 0xf1, 0x25, 0x02}};
 constexpr wchar_t controlName[] = L"KOVAVSFDataGrid";
+#ifdef _WIN64
+constexpr SYSKIND systemKind = SYS_WIN64;
+constexpr wchar_t systemName[] = L"win64";
+#else
+constexpr SYSKIND systemKind = SYS_WIN32;
+constexpr wchar_t systemName[] = L"win32";
+#endif
 
 struct Entry
 {
@@ -114,7 +121,6 @@ public:
         RegCloseKey(key);
         return written;
     }
-    void remove(const std::wstring &key) { RegDeleteTreeW(m_key, key.c_str()); }
 
 private:
     HKEY m_key = nullptr;
@@ -132,15 +138,40 @@ HRESULT writeEntries(HKEY root)
     return fromError(outcome);
 }
 
-void removeEntries(HKEY root)
+// What is not there is no failure, even where the user must not write.
+LSTATUS removeKey(HKEY root, const std::wstring &key)
 {
-    Classes classes(root);
-    if (classes.outcome() != ERROR_SUCCESS)
-        return;
-    classes.remove(progId);
-    classes.remove(classKey(controlId));
+    const std::wstring path = L"Software\\Classes\\" + key;
+    HKEY found = nullptr;
+    const LSTATUS opened = RegOpenKeyExW(root, path.c_str(), 0, KEY_READ, &found);
+    if (opened == ERROR_FILE_NOT_FOUND)
+        return ERROR_SUCCESS;
+    if (opened != ERROR_SUCCESS)
+        return opened;
+    RegCloseKey(found);
+    return RegDeleteTreeW(root, path.c_str());
+}
+
+// Removes all that can be removed, and returns the first failure.
+HRESULT unregisterAt(HKEY root, bool forUser)
+{
+    std::vector<std::wstring> keys{progId, classKey(controlId)};
     for (const PageClass &page : pageClasses)
-        classes.remove(classKey(page.id));
+        keys.push_back(classKey(page.id));
+    // Removes the interfaces too, which the library declares; what it leaves is removed with the keys.
+    if (forUser)
+        UnRegisterTypeLibForUser(libraryId, 1, 0, LOCALE_NEUTRAL, systemKind);
+    else
+        UnRegisterTypeLib(libraryId, 1, 0, LOCALE_NEUTRAL, systemKind);
+    keys.push_back(L"TypeLib\\" + text(libraryId) + L"\\1.0\\0\\" + systemName);
+
+    LSTATUS outcome = ERROR_SUCCESS;
+    for (const std::wstring &key : keys) {
+        const LSTATUS removed = removeKey(root, key);
+        if (outcome == ERROR_SUCCESS)
+            outcome = removed;
+    }
+    return fromError(outcome);
 }
 
 HRESULT registerAt(HKEY root, bool forUser)
@@ -172,16 +203,14 @@ HRESULT registerServerForUser()
 
 HRESULT unregisterServer()
 {
-    removeEntries(HKEY_CURRENT_USER);
-    removeEntries(HKEY_LOCAL_MACHINE);
-#ifdef _WIN64
-    constexpr SYSKIND kind = SYS_WIN64;
-#else
-    constexpr SYSKIND kind = SYS_WIN32;
-#endif
-    UnRegisterTypeLibForUser(libraryId, 1, 0, LOCALE_NEUTRAL, kind);
-    UnRegisterTypeLib(libraryId, 1, 0, LOCALE_NEUTRAL, kind);
-    return S_OK;
+    const HRESULT user = unregisterServerForUser();
+    const HRESULT everybody = unregisterAt(HKEY_LOCAL_MACHINE, false);
+    return FAILED(user) ? user : everybody;
+}
+
+HRESULT unregisterServerForUser()
+{
+    return unregisterAt(HKEY_CURRENT_USER, true);
 }
 
 } // namespace KOVAVSFDataGridLib::ActiveX

@@ -9,7 +9,10 @@ namespace KOVAVSFDataGridLib::ActiveX {
 HRESULT registerServer();
 // The same for the user alone, whatever he may do.
 HRESULT registerServerForUser();
-// Takes both away again; what is not there is no error.
+// Takes both away again; what is not there is no error. Fails when something is left, as it is for a user who
+// must not change what was registered for everybody.
 HRESULT unregisterServer();
+// Takes only the user's own away.
+HRESULT unregisterServerForUser();
 
 } // namespace KOVAVSFDataGridLib::ActiveX

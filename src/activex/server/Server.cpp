@@ -56,12 +56,13 @@ STDAPI DllUnregisterServer()
     return unregisterServer();
 }
 
-// `regsvr32 /n /i:user` registers for the user alone.
+// `regsvr32 /n /i:user` registers for the user alone, and with /u takes that away.
 STDAPI DllInstall(BOOL install, PCWSTR command)
 {
-    if (!install)
-        return unregisterServer();
-    return command && std::wcscmp(command, L"user") == 0 ? registerServerForUser() : registerServer();
+    const bool forUser = command && std::wcscmp(command, L"user") == 0;
+    if (install)
+        return forUser ? registerServerForUser() : registerServer();
+    return forUser ? unregisterServerForUser() : unregisterServer();
 }
 
 } // extern "C"

@@ -1,0 +1,121 @@
+#include "Scene.h"
+
+#include <gtest/gtest.h>
+#include <ocidl.h>
+#include <oleidl.h>
+
+using namespace Late;
+
+namespace {
+
+// What is in front of the user while a dialog waits.
+struct Seen
+{
+    bool wasOpen = false;
+    HWND dialog = nullptr;
+    HWND owner = nullptr;
+    RECT place{};
+};
+
+// Looks at the next dialog and closes it with Esc.
+void lookAndCancel(Seen &seen)
+{
+    Container::whenDialogIsOpen([&seen] {
+        seen.wasOpen = true;
+        seen.dialog = GetForegroundWindow();
+        seen.owner = GetWindow(seen.dialog, GW_OWNER);
+        GetWindowRect(seen.dialog, &seen.place);
+        Container::press(VK_ESCAPE);
+    });
+}
+
+bool overlaps(const RECT &one, HWND window)
+{
+    RECT other{};
+    RECT both{};
+    GetWindowRect(window, &other);
+    return IntersectRect(&both, &one, &other);
+}
+
+} // namespace
+
+TEST(DialogTest, TheHostsWindowOwnsADialogAndStaysBehindIt)
+{
+    Container container(800, 500);
+    load(container);
+    container.click(rowX, rowY);
+    Seen seen;
+    bool isBehind = false;
+    Container::whenDialogIsOpen([&] {
+        seen.wasOpen = true;
+        seen.dialog = GetForegroundWindow();
+        seen.owner = GetWindow(seen.dialog, GW_OWNER);
+        BringWindowToTop(container.window());
+        for (HWND next = seen.dialog; next; next = GetWindow(next, GW_HWNDNEXT))
+            isBehind = isBehind || next == container.window();
+        Container::press(VK_ESCAPE);
+    });
+    container.key('L', {VK_CONTROL});
+    container.run([&] { return seen.wasOpen && IsWindowEnabled(container.window()); });
+    ASSERT_TRUE(seen.wasOpen);
+    EXPECT_NE(seen.dialog, container.window());
+    EXPECT_EQ(seen.owner, container.window());
+    EXPECT_TRUE(isBehind);
+    EXPECT_EQ(GetForegroundWindow(), container.window());
+}
+
+TEST(DialogTest, ABoxOfALoadBeforeAnyMessageIsOverTheForm)
+{
+    Container container(400, 300);
+    SetWindowPos(container.window(), nullptr, 600, 420, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    put(container.control(), L"ErrorHint", true);
+    put(container.control(), L"ConnectionString", L"Provider=SQLite;Data Source=Z:\\nowhere.db");
+    put(container.control(), L"SQLShow", L"select 1");
+    Seen seen;
+    lookAndCancel(seen);
+    EXPECT_FALSE(get(container.control(), L"IsLoadData").isTrue());
+    ASSERT_TRUE(seen.wasOpen);
+    EXPECT_EQ(seen.owner, container.window());
+    EXPECT_TRUE(overlaps(seen.place, container.window()));
+}
+
+TEST(DialogTest, TheEndOfTheProcessReachesTheHostThroughADialog)
+{
+    Container container(800, 500);
+    load(container);
+    container.click(rowX, rowY);
+    bool wasOpen = false;
+    Container::whenDialogIsOpen([&] {
+        wasOpen = true;
+        PostQuitMessage(7);
+    });
+    container.key('L', {VK_CONTROL});
+    int exitCode = 0;
+    MSG message{};
+    while (GetMessageW(&message, nullptr, 0, 0)) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    exitCode = static_cast<int>(message.wParam);
+    EXPECT_TRUE(wasOpen);
+    EXPECT_EQ(exitCode, 7);
+    EXPECT_TRUE(IsWindowEnabled(container.window()));
+}
+
+TEST(DialogTest, ClosingTheControlEndsItsDialog)
+{
+    Container container(800, 500);
+    load(container);
+    container.click(rowX, rowY);
+    HWND dialog = nullptr;
+    Container::whenDialogIsOpen([&] {
+        dialog = GetForegroundWindow();
+        container.as<IOleObject>()->Close(OLECLOSE_NOSAVE);
+    });
+    container.key('L', {VK_CONTROL});
+    container.run([&] { return dialog && !IsWindowVisible(dialog); });
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_NE(dialog, container.window());
+    EXPECT_FALSE(IsWindowVisible(dialog));
+    EXPECT_TRUE(IsWindowEnabled(container.window()));
+}
