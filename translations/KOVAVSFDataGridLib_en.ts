@@ -411,6 +411,46 @@
         <source>无法写入文件：%1（%2）</source>
         <translation>Cannot write the file: %1 (%2)</translation>
     </message>
+    <message>
+        <source>该书签不属于这个记录集。</source>
+        <translation>The bookmark does not belong to this record set.</translation>
+    </message>
+    <message>
+        <source>条件“%1”有误，应为“字段 运算符 值”，并可用 AND、OR 和括号连接。</source>
+        <translation>The condition &quot;%1&quot; is wrong. Write &quot;field operator value&quot;, joined with AND, OR and parentheses.</translation>
+    </message>
+    <message>
+        <source>查找条件“%1”有误，只能是一个“字段 运算符 值”。</source>
+        <translation>The search condition &quot;%1&quot; is wrong. It must be one &quot;field operator value&quot;.</translation>
+    </message>
+    <message>
+        <source>排序“%1”有误，应为“字段 ASC”或“字段 DESC”，以逗号分隔。</source>
+        <translation>The sort &quot;%1&quot; is wrong. Write &quot;field ASC&quot; or &quot;field DESC&quot;, separated by commas.</translation>
+    </message>
+    <message>
+        <source>字段名与值的个数必须相同。</source>
+        <translation>There must be as many values as field names.</translation>
+    </message>
+    <message>
+        <source>只能按条件或书签筛选，不能按批量更新的状态筛选。</source>
+        <translation>Records can be filtered by a condition or by bookmarks, not by the state of a batch update.</translation>
+    </message>
+    <message>
+        <source>表格正在显示这个记录集，不能重新查询，请使用表格的 IsLoadData。</source>
+        <translation>The grid shows this record set, so it cannot be queried again. Use IsLoadData of the grid.</translation>
+    </message>
+    <message>
+        <source>记录集只能保存为 XML（格式 1）。</source>
+        <translation>A record set can be saved only as XML (format 1).</translation>
+    </message>
+    <message>
+        <source>只支持格式 2（文本）。</source>
+        <translation>Only format 2 (text) is supported.</translation>
+    </message>
+    <message>
+        <source>这是记录集的副本，不能修改。</source>
+        <translation>This is a copy of the record set and cannot be changed.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::CellTexts</name>

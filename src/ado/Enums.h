@@ -103,6 +103,70 @@ enum EditModeEnum : qint32 {
 };
 Q_ENUM_NS(EditModeEnum)
 
+// The bits of Supports.
+enum CursorOptionEnum : qint32 {
+    adHoldRecords = 0x100,     // more records can be read before changes are saved
+    adMovePrevious = 0x200,    // moves backwards
+    adBookmark = 0x2000,       // Bookmark
+    adApproxPosition = 0x4000, // AbsolutePosition and AbsolutePage
+    adUpdateBatch = 0x10000,   // UpdateBatch; never
+    adResync = 0x20000,        // Resync
+    adNotify = 0x40000,        // events
+    adFind = 0x80000,          // Find
+    adSeek = 0x400000,         // Seek; never
+    adIndex = 0x800000,        // Index; never
+    adAddNew = 0x1000400,      // AddNew
+    adDelete = 0x1000800,      // Delete
+    adUpdate = 0x1008000       // Update
+};
+Q_ENUM_NS(CursorOptionEnum)
+
+// The values of Status.
+enum RecordStatusEnum : qint32 {
+    adRecOK = 0,          // saved; adRecUnmodified is used instead
+    adRecNew = 0x1,       // a new record is not yet saved
+    adRecModified = 0x2,  // the record has unsaved changes
+    adRecDeleted = 0x4,   // the record was deleted
+    adRecUnmodified = 0x8 // the record is as it was read or saved
+};
+Q_ENUM_NS(RecordStatusEnum)
+
+// What Filter accepts besides a condition and bookmarks.
+enum FilterGroupEnum : qint32 {
+    adFilterNone = 0,              // all records
+    adFilterPendingRecords = 1,    // refused, as the following ones
+    adFilterAffectedRecords = 2,   // those of the latest change
+    adFilterFetchedRecords = 3,    // those in the cache
+    adFilterConflictingRecords = 5 // those that could not be saved
+};
+Q_ENUM_NS(FilterGroupEnum)
+
+// The direction of Find.
+enum SearchDirectionEnum : qint32 {
+    adSearchBackward = -1, // to the first record
+    adSearchForward = 1    // to the last record
+};
+Q_ENUM_NS(SearchDirectionEnum)
+
+// The format of GetString.
+enum StringFormatEnum : qint32 {
+    adClipString = 2 // columns and records with delimiters; the only one
+};
+Q_ENUM_NS(StringFormatEnum)
+
+// How many records GetRows reads.
+enum GetRowsOptionEnum : qint32 {
+    adGetRowsRest = -1 // all that are left
+};
+Q_ENUM_NS(GetRowsOptionEnum)
+
+// The format of Save.
+enum PersistFormatEnum : qint32 {
+    adPersistADTG = 0, // a binary format; refused
+    adPersistXML = 1   // XML
+};
+Q_ENUM_NS(PersistFormatEnum)
+
 // The reason for an event.
 enum EventReasonEnum : qint32 {
     adRsnAddNew = 1,        // a record was added
@@ -230,6 +294,7 @@ Q_ENUM_NS(ErrorValueEnum)
 enum ProviderErrorEnum : qint32 {
     dbErrFailed = -2147467259,            // 80004005: the provider gave no more specific number
     dbErrPermissionDenied = -2147217911,  // 80040E09: not permitted
+    dbErrBadBookmark = -2147217906,       // 80040E0E: not a bookmark of this recordset
     dbErrInCommand = -2147217900,         // 80040E14: the statement is wrong
     dbErrDeletedRow = -2147217885,        // 80040E23: the current record was deleted
     dbErrIntegrity = -2147217873,         // 80040E2F: violates a constraint of the database

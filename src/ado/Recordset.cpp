@@ -45,7 +45,7 @@ Recordset::~Recordset() = default;
 
 CursorLocationEnum Recordset::CursorLocation() const
 {
-    return d->snapshot ? adUseClient : d->cursorLocation;
+    return d->shared ? adUseClient : d->cursorLocation;
 }
 
 void Recordset::PutCursorLocation(CursorLocationEnum location)
@@ -58,7 +58,7 @@ void Recordset::PutCursorLocation(CursorLocationEnum location)
 
 CursorTypeEnum Recordset::CursorType() const
 {
-    return d->snapshot ? adOpenStatic : d->cursorType;
+    return d->shared ? adOpenStatic : d->cursorType;
 }
 
 void Recordset::PutCursorType(CursorTypeEnum type)
@@ -70,7 +70,7 @@ void Recordset::PutCursorType(CursorTypeEnum type)
 
 LockTypeEnum Recordset::LockType() const
 {
-    return d->snapshot ? d->openedLockType : d->lockType;
+    return d->shared ? d->openedLockType : d->lockType;
 }
 
 void Recordset::PutLockType(LockTypeEnum type)
@@ -116,13 +116,15 @@ void Recordset::Open(const QString &source, const std::shared_ptr<Connection> &c
     try {
         Snapshot read = d->read(*session, isTable ? session->tableStatement(source) : source);
         d->fields.reset(*this, read.fields());
-        d->snapshot.emplace(std::move(read));
+        d->shared = std::make_shared<SharedRows>(SharedRows{std::move(read), {}});
     } catch (const std::bad_alloc &) {
         d->fields.clear();
         throw Error(dbErrFailed, Texts::outOfMemory());
     }
     d->source = source;
-    d->position.reset(d->snapshot->records());
+    d->connection = connection;
+    d->removalsSeen = 0;
+    d->position.reset(d->shared->snapshot.records());
     d->notifyReplaced(adRsnRequery);
     d->notifyMoved(adRsnMove);
 }
@@ -134,14 +136,38 @@ void Recordset::Close()
     d->fields.clear();
     d->editor.reset();
     d->underlying.reset();
-    d->snapshot.reset();
+    d->shared.reset();
     d->position.reset(0);
     d->notifyReplaced(adRsnClose);
 }
 
 ObjectStateEnum Recordset::State() const
 {
-    return d->snapshot ? adStateOpen : adStateClosed;
+    return d->shared ? adStateOpen : adStateClosed;
+}
+
+std::shared_ptr<Connection> Recordset::ActiveConnection() const
+{
+    return d->connection.lock();
+}
+
+std::shared_ptr<Recordset> Recordset::Clone() const
+{
+    d->rows();
+    auto clone = std::make_shared<Recordset>();
+    clone->d->source = d->source;
+    clone->d->connection = d->connection;
+    clone->d->shared = d->shared;
+    clone->d->removalsSeen = d->shared->removals.size();
+    clone->d->editor.emplace(nullptr, Texts::cloneIsReadOnly());
+    clone->d->fields.reset(*clone, d->shared->snapshot.fields());
+    clone->d->position.reset(d->shared->snapshot.records());
+    return clone;
+}
+
+bool Recordset::IsWritable() const
+{
+    return d->edit().isWritable();
 }
 
 ADODB::Fields &Recordset::Fields()
@@ -163,24 +189,24 @@ QString Recordset::CellText(qint64 record, int column) const
 {
     if (!hasCell(record, column))
         return {};
-    return withinMemory(Texts::outOfMemory, [&] { return d->snapshot->text(record, column); });
+    return withinMemory(Texts::outOfMemory, [&] { return d->shared->snapshot.text(record, column); });
 }
 
 QVariant Recordset::CellValue(qint64 record, int column) const
 {
     if (!hasCell(record, column))
         return {};
-    return withinMemory(Texts::outOfMemory, [&] { return d->snapshot->value(record, column); });
+    return withinMemory(Texts::outOfMemory, [&] { return d->shared->snapshot.value(record, column); });
 }
 
 bool Recordset::IsNull(qint64 record, int column) const
 {
-    return !hasCell(record, column) || d->snapshot->isNull(record, column);
+    return !hasCell(record, column) || d->shared->snapshot.isNull(record, column);
 }
 
 bool Recordset::hasCell(qint64 record, int column) const
 {
-    return d->snapshot && d->snapshot->contains(record, column);
+    return d->shared && d->shared->snapshot.contains(record, column);
 }
 
 void Recordset::AddObserver(RecordsetObserver *observer)

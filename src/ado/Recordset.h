@@ -59,6 +59,15 @@ public:
     void Close();
     // Whether it is open.
     ObjectStateEnum State() const;
+    // The connection that it was opened with; null before the first Open, and after its owners released it.
+    std::shared_ptr<Connection> ActiveConnection() const;
+
+    // Another recordset with the same records, read-only, on the first record. It has a current record of its
+    // own, and shows what is saved through this one. It stays open when this one is closed. Bookmarks are
+    // valid in both.
+    std::shared_ptr<Recordset> Clone() const;
+    // Whether records can be changed, added and deleted. If not, such calls throw 3251.
+    bool IsWritable() const;
 
     // The columns; empty while closed.
     ADODB::Fields &Fields();
@@ -83,6 +92,13 @@ public:
     // throws 3001 outside 1…RecordCount.
     qint64 AbsolutePosition() const;
     void PutAbsolutePosition(qint64 position);
+
+    // Identifies the current record until the recordset is closed, also when other records were deleted.
+    // Always greater than the values of BookmarkEnum. Throws 3021 if there is no current record.
+    qint64 Bookmark() const;
+    // The number of the record with this bookmark. Throws dbErrDeletedRow if it was deleted, and
+    // dbErrBadBookmark if `bookmark` is not one of this recordset.
+    qint64 RecordOf(qint64 bookmark) const;
 
     // Pages of PageSize records (10 by default, at least 1; can be set at any time). Writing AbsolutePage
     // moves to the first record of that page, and throws 3001 outside 1…PageCount.
@@ -132,6 +148,7 @@ public:
 private:
     friend class Field;
     friend class RowReader;
+    friend class RecordView;
     const FieldInfo &fieldInfo(int column) const;
     QVariant currentValue(int column) const;
     void putCurrentValue(int column, const QVariant &value);
@@ -143,6 +160,7 @@ private:
     void moveTo(qint64 record, EventReasonEnum reason);
     void moveBy(qint64 records, BookmarkEnum start, EventReasonEnum reason);
     bool hasCell(qint64 record, int column) const;
+    const std::vector<qint64> &removals() const;
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -102,9 +102,19 @@ inline constexpr Text badPageSize = tr("每页记录数必须大于 0。");
 inline constexpr Text badArgument = tr("参数的值 %1 不在允许的范围内。");
 inline constexpr Text onlyCurrentRecord = tr("只能删除当前记录。");
 inline constexpr Text notAConnection = tr("打开记录集需要一个连接对象。");
+inline constexpr Text badBookmark = tr("该书签不属于这个记录集。");
+inline constexpr Text badCriteria = tr("条件“%1”有误，应为“字段 运算符 值”，并可用 AND、OR 和括号连接。");
+inline constexpr Text badFindCriteria = tr("查找条件“%1”有误，只能是一个“字段 运算符 值”。");
+inline constexpr Text badSort = tr("排序“%1”有误，应为“字段 ASC”或“字段 DESC”，以逗号分隔。");
+inline constexpr Text badFieldList = tr("字段名与值的个数必须相同。");
+inline constexpr Text filterGroup = tr("只能按条件或书签筛选，不能按批量更新的状态筛选。");
+inline constexpr Text noRequery = tr("表格正在显示这个记录集，不能重新查询，请使用表格的 IsLoadData。");
+inline constexpr Text onlyXml = tr("记录集只能保存为 XML（格式 1）。");
+inline constexpr Text onlyClipString = tr("只支持格式 2（文本）。");
 
 // Writing back
 inline constexpr Text openedReadOnly = tr("记录集以只读方式打开，不能修改。");
+inline constexpr Text cloneIsReadOnly = tr("这是记录集的副本，不能修改。");
 inline constexpr Text accessReadOnly = tr("Access 数据库在此系统上只能读取，不能修改或删除记录。");
 inline constexpr Text readOnlyNoTable = tr("查询结果不是直接来自数据库表，不能修改。");
 inline constexpr Text readOnlyJoin = tr("查询结果来自多个表的连接或子查询，不能修改。");

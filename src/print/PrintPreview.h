@@ -10,6 +10,7 @@
 
 class QComboBox;
 class QLabel;
+class QLineEdit;
 class QPrintPreviewWidget;
 class QToolButton;
 

@@ -22,6 +22,8 @@ class KOVA_EXPORT FieldObject : public QObject
     Q_PROPERTY(QVariant OriginalValue READ originalValue)
     Q_PROPERTY(QVariant UnderlyingValue READ underlyingValue)
     Q_PROPERTY(qint32 DefinedSize READ definedSize)
+    // The size of the current value in bytes, with two for each character of a text; 0 for Null.
+    Q_PROPERTY(qint32 ActualSize READ actualSize)
     Q_PROPERTY(qint32 Precision READ precision)
     Q_PROPERTY(qint32 NumericScale READ numericScale)
     Q_PROPERTY(qint32 Attributes READ attributes)
@@ -38,6 +40,7 @@ public:
     QVariant originalValue();
     QVariant underlyingValue();
     qint32 definedSize();
+    qint32 actualSize();
     qint32 precision();
     qint32 numericScale();
     qint32 attributes();

@@ -40,6 +40,21 @@ FieldObject *FieldsObject::itemAt(int index)
     return item;
 }
 
+std::vector<int> FieldsObject::columns(const QVariant &fields) const
+{
+    const bool isList =
+        fields.typeId() == QMetaType::QVariantList || fields.typeId() == QMetaType::QStringList;
+    std::vector<int> columns;
+    for (const QVariant &field : isList ? fields.toList() : QVariantList{fields}) {
+        bool isNumber = false;
+        const int index = field.toInt(&isNumber);
+        const bool isIndex = isNumber && field.typeId() != QMetaType::QString;
+        const ADODB::Fields &all = m_recordset.Fields();
+        columns.push_back((isIndex ? all.Item(index) : all.Item(field.toString())).Index());
+    }
+    return columns;
+}
+
 qint32 FieldsObject::count()
 {
     return m_recordset.Fields().Count();

@@ -31,6 +31,8 @@ public:
 
     // Accessor of the property.
     qint32 count();
+    // For RecordsetObject only: the columns that a name, an index or a list of them means. Throws 3265.
+    std::vector<int> columns(const QVariant &fields) const;
 
 Q_SIGNALS:
     // A call by name failed. The arguments are those of ADODB::Error.

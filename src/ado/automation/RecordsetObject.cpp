@@ -5,16 +5,35 @@
 #include "ado/automation/ConnectionObject.h"
 #include "ado/automation/FieldsObject.h"
 #include "ado/automation/Guarded.h"
+#include "ado/automation/RecordWalk.h"
+
+// The members that move and change; those that read many records are in RecordsetObjectReading.cpp.
 
 namespace ADODB {
 
 RecordsetObject::RecordsetObject(Recordset &recordset)
-    : m_recordset(recordset), m_fields(new FieldsObject(recordset, this))
+    : m_recordset(recordset),
+      m_fields(new FieldsObject(recordset, this)),
+      m_walk(std::make_unique<RecordWalk>(recordset))
 {
     connect(m_fields, &FieldsObject::HostError, this, &RecordsetObject::HostError);
+    // Never removed: the recordset owns this object, or the other way round.
+    recordset.AddObserver(this);
+}
+
+RecordsetObject::RecordsetObject(const std::shared_ptr<Recordset> &clone, QObject *parent)
+    : RecordsetObject(*clone)
+{
+    m_clone = clone;
+    setParent(parent);
 }
 
 RecordsetObject::~RecordsetObject() = default;
+
+void RecordsetObject::recordsetChangeComplete(EventReasonEnum)
+{
+    m_walk->reset();
+}
 
 QObject *RecordsetObject::Fields(const QString &name)
 {
@@ -50,27 +69,57 @@ void RecordsetObject::Close()
 
 void RecordsetObject::Move(qint32 records, qint32 start)
 {
-    guarded(this, [&] { m_recordset.Move(records, static_cast<BookmarkEnum>(start)); });
+    guarded(this, [&] {
+        if (m_walk->isRestricted())
+            m_walk->move(records, start);
+        else
+            m_recordset.Move(records, static_cast<BookmarkEnum>(start));
+    });
+}
+
+void RecordsetObject::Move(qint32 records, const QVariant &startOrBookmark)
+{
+    guarded(this, [&] { m_walk->move(records, startOrBookmark); });
 }
 
 void RecordsetObject::MoveFirst()
 {
-    guarded(this, [&] { m_recordset.MoveFirst(); });
+    guarded(this, [&] {
+        if (m_walk->isRestricted())
+            m_walk->move(0, adBookmarkFirst);
+        else
+            m_recordset.MoveFirst();
+    });
 }
 
 void RecordsetObject::MoveNext()
 {
-    guarded(this, [&] { m_recordset.MoveNext(); });
+    guarded(this, [&] {
+        if (m_walk->isRestricted())
+            m_walk->move(1);
+        else
+            m_recordset.MoveNext();
+    });
 }
 
 void RecordsetObject::MovePrevious()
 {
-    guarded(this, [&] { m_recordset.MovePrevious(); });
+    guarded(this, [&] {
+        if (m_walk->isRestricted())
+            m_walk->move(-1);
+        else
+            m_recordset.MovePrevious();
+    });
 }
 
 void RecordsetObject::MoveLast()
 {
-    guarded(this, [&] { m_recordset.MoveLast(); });
+    guarded(this, [&] {
+        if (m_walk->isRestricted())
+            m_walk->move(0, adBookmarkLast);
+        else
+            m_recordset.MoveLast();
+    });
 }
 
 void RecordsetObject::AddNew()
@@ -83,6 +132,36 @@ void RecordsetObject::Update()
     guarded(this, [&] { m_recordset.Update(); });
 }
 
+void RecordsetObject::AddNew(const QVariant &fields, const QVariant &values)
+{
+    guarded(this, [&] {
+        const std::vector<int> columns = m_fields->columns(fields);
+        m_recordset.AddNew();
+        putValues(columns, values);
+    });
+}
+
+void RecordsetObject::Update(const QVariant &fields, const QVariant &values)
+{
+    guarded(this, [&] { putValues(m_fields->columns(fields), values); });
+}
+
+void RecordsetObject::putValues(const std::vector<int> &columns, const QVariant &values)
+{
+    const QVariantList list =
+        values.typeId() == QMetaType::QVariantList ? values.toList() : QVariantList{values};
+    try {
+        if (static_cast<std::size_t>(list.size()) != columns.size())
+            throw Error(adErrInvalidArgument, Texts::badFieldList());
+        for (std::size_t i = 0; i < columns.size(); ++i)
+            m_recordset.Fields().Item(columns[i]).PutValue(list[static_cast<qsizetype>(i)]);
+        m_recordset.Update();
+    } catch (const Error &) {
+        m_recordset.CancelUpdate();
+        throw;
+    }
+}
+
 void RecordsetObject::CancelUpdate()
 {
     guarded(this, [&] { m_recordset.CancelUpdate(); });
@@ -90,7 +169,12 @@ void RecordsetObject::CancelUpdate()
 
 void RecordsetObject::Delete(qint32 affectRecords)
 {
-    guarded(this, [&] { m_recordset.Delete(static_cast<AffectEnum>(affectRecords)); });
+    guarded(this, [&] {
+        if (m_walk->isRestricted() && affectRecords == adAffectCurrent)
+            m_walk->remove();
+        else
+            m_recordset.Delete(static_cast<AffectEnum>(affectRecords));
+    });
 }
 
 void RecordsetObject::Resync(qint32 affectRecords, qint32 resyncValues)
@@ -102,37 +186,47 @@ void RecordsetObject::Resync(qint32 affectRecords, qint32 resyncValues)
 
 bool RecordsetObject::isBOF()
 {
-    return guardedOr(this, true, [&] { return m_recordset.isBOF(); });
+    return guardedOr(this, true,
+                     [&] { return m_walk->isRestricted() ? m_walk->isBOF() : m_recordset.isBOF(); });
 }
 
 bool RecordsetObject::isEOF()
 {
-    return guardedOr(this, true, [&] { return m_recordset.isEOF(); });
+    return guardedOr(this, true,
+                     [&] { return m_walk->isRestricted() ? m_walk->isEOF() : m_recordset.isEOF(); });
 }
 
 qint32 RecordsetObject::recordCount()
 {
-    return guarded(this, [&] { return narrowed(m_recordset.RecordCount()); });
+    return guarded(this, [&] { return narrowed(m_walk->count()); });
 }
 
 qint32 RecordsetObject::absolutePosition()
 {
-    return guarded(this, [&] { return narrowed(m_recordset.AbsolutePosition()); });
+    return guarded(this, [&] { return narrowed(m_walk->position()); });
 }
 
 void RecordsetObject::setAbsolutePosition(qint32 position)
 {
-    guarded(this, [&] { m_recordset.PutAbsolutePosition(position); });
+    guarded(this, [&] { m_walk->moveToPosition(position); });
 }
 
 qint32 RecordsetObject::absolutePage()
 {
-    return guarded(this, [&] { return narrowed(m_recordset.AbsolutePage()); });
+    return guarded(this, [&] {
+        const qint64 position = m_walk->position();
+        return narrowed(position < 1 ? position : (position - 1) / m_recordset.PageSize() + 1);
+    });
 }
 
 void RecordsetObject::setAbsolutePage(qint32 page)
 {
-    guarded(this, [&] { m_recordset.PutAbsolutePage(page); });
+    guarded(this, [&] {
+        if (m_walk->isRestricted())
+            m_walk->moveToPosition((qint64{page} - 1) * m_recordset.PageSize() + 1);
+        else
+            m_recordset.PutAbsolutePage(page);
+    });
 }
 
 qint32 RecordsetObject::pageSize()
@@ -147,7 +241,9 @@ void RecordsetObject::setPageSize(qint32 records)
 
 qint32 RecordsetObject::pageCount()
 {
-    return guarded(this, [&] { return narrowed(m_recordset.PageCount()); });
+    return guarded(this, [&] {
+        return narrowed((m_walk->count() + m_recordset.PageSize() - 1) / m_recordset.PageSize());
+    });
 }
 
 qint32 RecordsetObject::state()
@@ -198,6 +294,67 @@ QString RecordsetObject::source()
 QObject *RecordsetObject::fields()
 {
     return m_fields;
+}
+
+QObject *RecordsetObject::activeConnection()
+{
+    const std::shared_ptr<Connection> connection = m_recordset.ActiveConnection();
+    if (!m_connection || m_connection->connection() != connection) {
+        delete m_connection;
+        m_connection = connection ? new ConnectionObject(connection, this) : nullptr;
+        if (m_connection)
+            connect(m_connection, &ConnectionObject::HostError, this, &RecordsetObject::HostError);
+    }
+    return m_connection;
+}
+
+qint32 RecordsetObject::status()
+{
+    return guarded(this, [&]() -> qint32 {
+        switch (m_recordset.EditMode()) {
+        case adEditAdd:
+            return adRecNew;
+        case adEditInProgress:
+            return adRecModified;
+        case adEditDelete:
+            return adRecDeleted;
+        case adEditNone:
+            break;
+        }
+        m_recordset.Bookmark(); // throws where there is no record
+        return adRecUnmodified;
+    });
+}
+
+QVariant RecordsetObject::filter()
+{
+    return m_walk->filter().isValid() ? m_walk->filter() : QVariant(qint32{adFilterNone});
+}
+
+void RecordsetObject::setFilter(const QVariant &filter)
+{
+    guarded(this, [&] { m_walk->setFilter(filter); });
+}
+
+QString RecordsetObject::sort()
+{
+    return m_walk->sort();
+}
+
+void RecordsetObject::setSort(const QString &sort)
+{
+    guarded(this, [&] { m_walk->setSort(sort); });
+}
+
+// A double, as automation's own recordsets have it. It is exact for two million deletions.
+QVariant RecordsetObject::bookmark()
+{
+    return guarded(this, [&] { return QVariant(static_cast<double>(m_recordset.Bookmark())); });
+}
+
+void RecordsetObject::setBookmark(const QVariant &bookmark)
+{
+    guarded(this, [&] { m_recordset.PutAbsolutePosition(m_walk->recordOf(bookmark)); });
 }
 
 RecordsetObject *automation(const std::shared_ptr<Recordset> &recordset)

@@ -7,7 +7,7 @@ namespace ADODB {
 
 EditModeEnum Recordset::EditMode() const
 {
-    if (d->position.isDeleted() && !d->isAdding())
+    if (!d->isAdding() && d->position.isDeleted())
         return adEditDelete;
     return d->edit().mode();
 }
@@ -86,9 +86,14 @@ void Recordset::Delete(AffectEnum affect)
     if (d->isAdding()) // nothing of it is in the database yet
         return CancelUpdate();
     withinMemory(Texts::changeOutOfMemory, [&] {
+        std::vector<qint64> &removals = d->shared->removals;
+        removals.reserve(removals.size() + 1); // so that nothing can fail once the record is gone
+        const qint64 record = d->currentRecord();
         const Private::Busy busy(*d);
-        d->edit().remove(d->rows(), d->currentRecord());
+        d->edit().remove(d->rows(), record);
+        removals.push_back(record);
     });
+    ++d->removalsSeen;
     d->position.removeCurrent();
     d->underlying.reset();
     d->notifyChanged(adRsnDelete);

@@ -4,6 +4,12 @@
 
 namespace ADODB {
 
+namespace {
+
+constexpr int bitsOfRecord = 32;
+
+} // namespace
+
 void Recordset::Private::needInRange(qint64 number, qint64 limit, const QString &text) const
 {
     if (position.count() == 0)
@@ -80,6 +86,40 @@ void Recordset::PutAbsolutePosition(qint64 position)
     leaveRecord();
     d->needInRange(position, RecordCount(), Texts::badPosition());
     moveTo(position, adRsnMove);
+}
+
+// The upper half says how many records had been deleted when the lower half was the record's number.
+qint64 Recordset::Bookmark() const
+{
+    if (d->isAdding())
+        throw Error(adErrNoCurrentRecord, Texts::noCurrentRecord());
+    const auto generation = static_cast<qint64>(d->shared->removals.size()) + 1;
+    return (generation << bitsOfRecord) | d->currentRecord();
+}
+
+qint64 Recordset::RecordOf(qint64 bookmark) const
+{
+    const qint64 count = d->rows().records();
+    const std::vector<qint64> &removals = d->shared->removals;
+    const qint64 generation = (bookmark >> bitsOfRecord) - 1;
+    qint64 record = bookmark & ((qint64{1} << bitsOfRecord) - 1);
+    if (generation < 0 || generation > static_cast<qint64>(removals.size()) || record < 1)
+        throw Error(dbErrBadBookmark, Texts::badBookmark());
+    for (auto i = static_cast<std::size_t>(generation); i < removals.size(); ++i) {
+        if (removals[i] == record)
+            throw Error(dbErrDeletedRow, Texts::deletedRecord());
+        if (removals[i] < record)
+            --record;
+    }
+    if (record > count)
+        throw Error(dbErrBadBookmark, Texts::badBookmark());
+    return record;
+}
+
+const std::vector<qint64> &Recordset::removals() const
+{
+    d->rows();
+    return d->shared->removals;
 }
 
 qint32 Recordset::PageSize() const

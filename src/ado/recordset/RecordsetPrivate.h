@@ -12,6 +12,7 @@
 #include <QtCore/QObject>
 
 #include <algorithm>
+#include <memory>
 #include <new>
 #include <optional>
 #include <vector>
@@ -31,6 +32,14 @@ auto withinMemory(KOVAVSFDataGridLib::Text text, Action &&action)
     }
 }
 
+// The rows of a result; a recordset and its clones have the same ones.
+struct SharedRows
+{
+    Snapshot snapshot;
+    // The records that were deleted, each with the number that it had then.
+    std::vector<qint64> removals;
+};
+
 // What a recordset keeps and its groups of members share: opening is in Recordset.cpp, moving in
 // RecordsetMoves.cpp, editing in RecordsetEditing.cpp.
 struct Recordset::Private
@@ -47,7 +56,9 @@ struct Recordset::Private
     ADODB::Fields fields;
     RecordPosition position;
     std::optional<RecordEditor> editor;
-    std::optional<Snapshot> snapshot; // set while open, as is the editor
+    std::shared_ptr<SharedRows> shared; // set while open, as is the editor
+    std::size_t removalsSeen = 0;       // of the shared rows; the position knows of these
+    std::weak_ptr<Connection> connection;
 
     // The row that Resync found, and the record it belongs to.
     std::optional<RowStore> underlying;
@@ -59,9 +70,17 @@ struct Recordset::Private
     // Only while open; all members go through one of these two.
     Snapshot &rows()
     {
-        if (!snapshot)
+        if (!shared)
             throw Error(adErrObjectClosed, Texts::recordsetClosed());
-        return *snapshot;
+        followRemovals();
+        return shared->snapshot;
+    }
+    // Another recordset with the same rows may have changed their number.
+    void followRemovals()
+    {
+        for (; removalsSeen < shared->removals.size(); ++removalsSeen)
+            position.removeElsewhere(shared->removals[removalsSeen]);
+        position.appendElsewhere(shared->snapshot.records() - position.count());
     }
     RecordEditor &edit()
     {
@@ -89,7 +108,7 @@ struct Recordset::Private
     void needClosed() const
     {
         needIdle();
-        if (snapshot)
+        if (shared)
             throw Error(adErrObjectOpen, Texts::recordsetOpen());
     }
     qint64 currentRecord() const

@@ -23,6 +23,7 @@ public:
     RecordEditor(std::unique_ptr<RowWriter> writer, const QString &whyReadOnly);
     ~RecordEditor();
 
+    bool isWritable() const { return m_writer != nullptr; }
     EditModeEnum mode() const { return m_mode; }
     bool isEmpty() const { return m_values.empty(); }
     // The pending value of a column, null when it has none.

@@ -81,4 +81,20 @@ void RecordPosition::append()
     moveTo(m_count);
 }
 
+void RecordPosition::removeElsewhere(qint64 record)
+{
+    if (record < m_at)
+        --m_at;
+    else if (record == m_at && !m_deleted)
+        m_deleted = true;
+    --m_count;
+}
+
+void RecordPosition::appendElsewhere(qint64 records)
+{
+    if (isEOF() && !isBOF())
+        m_at += records;
+    m_count += records;
+}
+
 } // namespace ADODB

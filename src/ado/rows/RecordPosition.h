@@ -29,6 +29,9 @@ public:
     void removeCurrent();
     // A record joined the sequence at its end; stands on it.
     void append();
+    // The same for changes that were made elsewhere: they never move, and the record stood on can be gone.
+    void removeElsewhere(qint64 record);
+    void appendElsewhere(qint64 records);
 
 private:
     qint64 m_count = 0;

@@ -11,11 +11,11 @@ RowReader::RowReader(const Recordset &recordset, int columns)
 
 const std::vector<RawValue> *RowReader::read(qint64 record)
 {
-    const std::optional<Snapshot> &snapshot = m_recordset.d->snapshot;
-    if (!snapshot || record < 1 || record > snapshot->records() ||
-        static_cast<int>(m_cells.size()) > snapshot->columns())
+    const auto &shared = m_recordset.d->shared;
+    if (!shared || record < 1 || record > shared->snapshot.records() ||
+        static_cast<int>(m_cells.size()) > shared->snapshot.columns())
         return nullptr;
-    snapshot->read(record, m_cells);
+    shared->snapshot.read(record, m_cells);
     return &m_cells;
 }
 

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QtCore/QVariant>
+
+#include <memory>
+#include <vector>
+
+namespace ADODB {
+
+class Recordset;
+
+// A condition on records in the words of ADO's Filter and Find: `name LIKE 'L%' AND (age >= 18 OR age =
+// NULL)`. The operators are = <> < <= > >= and LIKE; AND binds stronger than OR. A name with other characters
+// than letters and digits is put in brackets. A value is a number, a text in '…' with doubled quotes inside,
+// a date in #…#, TRUE, FALSE or NULL. Texts are compared without case. In a pattern, * and % are any text.
+class Criteria
+{
+public:
+    // Throws 3001 if `text` is no condition, 3265 for an unknown field.
+    static Criteria parse(const QString &text, const Recordset &recordset);
+    // The same for one comparison, as Find takes it.
+    static Criteria parseComparison(const QString &text, const Recordset &recordset);
+
+    // Whether a record, counted from 1, meets it. Looks at saved values.
+    bool matches(const Recordset &recordset, qint64 record) const;
+
+private:
+    enum class Kind { And, Or, Equal, NotEqual, Less, LessOrEqual, Greater, GreaterOrEqual, Like };
+    struct Node
+    {
+        Kind kind = Kind::Equal;
+        std::vector<Node> parts; // of And and Or
+        int column = 0;
+        bool isNumeric = false; // the column's values are numbers
+        QVariant value;         // invalid: Null
+    };
+    friend class CriteriaParser;
+    static bool matches(const Node &node, const Recordset &recordset, qint64 record);
+    static bool compares(const Node &node, const QVariant &cell);
+
+    Node m_root;
+};
+
+} // namespace ADODB
