@@ -1,6 +1,8 @@
 // What is registered as a command.
+#include "session/columns/ColumnCommand.h"
 #include "session/commands/Command.h"
 
+#include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSet>
@@ -8,6 +10,39 @@
 
 using namespace KOVAVSFDataGridLib;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString sourceFolder = QStringLiteral(KOVA_SOURCE_DIR "/src");
+
+QString textOf(const QString &path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return QString::fromUtf8(file.readAll());
+}
+
+// What the first brackets of a pattern find in a source file.
+QStringList namesIn(const QString &path, const QString &pattern)
+{
+    QStringList names;
+    const QString text = textOf(path);
+    for (const QRegularExpressionMatch &match : QRegularExpression(pattern).globalMatch(text))
+        names += match.captured(1);
+    return names;
+}
+
+QStringList sourcesIn(const QString &folder)
+{
+    QStringList paths;
+    QDirIterator sources(sourceFolder + u'/' + folder, {u"*.h"_s, u"*.cpp"_s}, QDir::Files,
+                         QDirIterator::Subdirectories);
+    while (sources.hasNext())
+        paths += sources.next();
+    return paths;
+}
+
+} // namespace
 
 TEST(Commands, HaveKeysOfTheirOwn)
 {
@@ -35,17 +70,35 @@ TEST(Commands, HaveKeysOfTheirOwn)
 // What other code calls a command by is a command.
 TEST(Commands, AreThereForEachNamedKey)
 {
-    QFile header(QStringLiteral(KOVA_SOURCE_DIR "/src/session/commands/CommandKeys.h"));
-    ASSERT_TRUE(header.open(QIODevice::ReadOnly));
-    static const QRegularExpression constant(u"inline const QString (\\w+) = u\"(\\w+)\"_s;"_s);
-    int keys = 0;
-    for (auto found = constant.globalMatch(QString::fromUtf8(header.readAll())); found.hasNext(); ++keys) {
-        const QRegularExpressionMatch match = found.next();
-        EXPECT_EQ(match.captured(1), match.captured(2));
-        EXPECT_TRUE(Command::find(match.captured(2)))
-            << "CommandKeys.h names " << match.captured(2).toStdString() << ", which no command registers";
+    const QStringList keys = namesIn(sourceFolder + u"/session/commands/CommandKeys.h"_s,
+                                     u"inline const QString (\\w+) = u\"\\1\"_s;"_s);
+    EXPECT_GT(keys.size(), 5);
+    for (const QString &key : keys)
+        EXPECT_TRUE(Command::find(key)) << key.toStdString();
+    EXPECT_TRUE(ColumnCommand::find(ColumnKeys::FitColumn));
+}
+
+// A key written out where it is used could be that of no command.
+TEST(Commands, AreNamedByConstantsOnly)
+{
+    const QStringList sources = sourcesIn(u"session"_s) + sourcesIn(u"control"_s);
+    EXPECT_GT(sources.size(), 100) << "sources are not found any more";
+    for (const QString &path : sources) {
+        for (const QString &word : namesIn(path, u"(?<! = )u\"(\\w+)\"_s"_s))
+            EXPECT_FALSE(Command::find(word) || ColumnCommand::find(word))
+                << path.toStdString() << ": " << word.toStdString();
     }
-    EXPECT_GT(keys, 5);
+}
+
+TEST(Commands, HaveAFileEach)
+{
+    int commands = 0;
+    for (const QString &path : sourcesIn(u"session/commands"_s)) {
+        const qsizetype inFile = namesIn(path, u"(const Command::Registration )"_s).size();
+        EXPECT_LE(inFile, 1) << path.toStdString();
+        commands += static_cast<int>(inFile);
+    }
+    EXPECT_EQ(commands, Command::all().size());
 }
 
 TEST(Commands, HaveTheirShortcutsInTheDocument)

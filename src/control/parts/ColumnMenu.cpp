@@ -30,8 +30,8 @@ ColumnMenu::ColumnMenu(QWidget &window, const QWidget &toolbar, VSFlexGrid &grid
     window.addAction(open);
     connect(open, &QAction::triggered, this, &ColumnMenu::openAtCurrentColumn);
     connect(&grid, &FlexGrid::ColumnMenuWanted, this, &ColumnMenu::popUp);
-    connect(&grid, &FlexGrid::FittingWidthWanted, this,
-            [this](int col) { m_run(*ColumnCommand::find(u"FitColumn"_s), col); });
+    if (const ColumnCommand *const fit = ColumnCommand::find(ColumnKeys::FitColumn))
+        connect(&grid, &FlexGrid::FittingWidthWanted, this, [this, fit](int col) { m_run(*fit, col); });
 }
 
 void ColumnMenu::openAtCurrentColumn()

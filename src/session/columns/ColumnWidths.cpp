@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const ColumnCommand::Registration fit({
-    .key = u"FitColumn"_s,
+    .key = ColumnKeys::FitColumn,
     .place = 300,
     .caption = ColumnCommand::tr("适合宽度(&W)"),
     .run =

@@ -42,25 +42,16 @@ void sortBy(Session &session, const QStringList &terms)
 }
 
 template<bool isDescending>
-ColumnCommand sortedByOne(const QString &key, int place, Text caption)
+void sortByOne(Session &session, int col)
 {
-    return {
-        .key = key,
-        .place = place,
-        .caption = caption,
-        .record = Record::IsLeft,
-        .run =
-            [](Session &session, int col) {
-                sortBy(session, {writtenColumn(session, col) + (isDescending ? u" DESC"_s : QString())});
-            },
-        .canRun = canSort,
-        .isOn =
-            [](Session &session, int col) {
-                const std::vector<SortTerm> order = shownOrder(session);
-                return !order.empty() && order.front().column == col &&
-                       order.front().isDescending == isDescending;
-            },
-    };
+    sortBy(session, {writtenColumn(session, col) + (isDescending ? u" DESC"_s : QString())});
+}
+
+template<bool isDescending>
+bool isSortedFirst(Session &session, int col)
+{
+    const std::vector<SortTerm> order = shownOrder(session);
+    return !order.empty() && order.front().column == col && order.front().isDescending == isDescending;
 }
 
 QStringList textsOf(const std::vector<SortTerm> &order, int leftOut = 0)
@@ -73,10 +64,25 @@ QStringList textsOf(const std::vector<SortTerm> &order, int leftOut = 0)
     return texts;
 }
 
-const ColumnCommand::Registration ascending(sortedByOne<false>(u"SortAscending"_s, 100,
-                                                               ColumnCommand::tr("升序(&A)")));
-const ColumnCommand::Registration descending(sortedByOne<true>(u"SortDescending"_s, 101,
-                                                               ColumnCommand::tr("降序(&D)")));
+const ColumnCommand::Registration ascending({
+    .key = u"SortAscending"_s,
+    .place = 100,
+    .caption = ColumnCommand::tr("升序(&A)"),
+    .record = Record::IsLeft,
+    .run = sortByOne<false>,
+    .canRun = canSort,
+    .isOn = isSortedFirst<false>,
+});
+
+const ColumnCommand::Registration descending({
+    .key = u"SortDescending"_s,
+    .place = 101,
+    .caption = ColumnCommand::tr("降序(&D)"),
+    .record = Record::IsLeft,
+    .run = sortByOne<true>,
+    .canRun = canSort,
+    .isOn = isSortedFirst<true>,
+});
 
 const ColumnCommand::Registration add({
     .key = u"AddToSort"_s,

@@ -22,6 +22,8 @@ struct ButtonTexts
     Text caption;
     Text toolTip;
     bool isToggle = false;
+    // Whether the caption is written beside the picture where there is room: pictures that are alike.
+    bool isCaptioned = false;
 };
 
 // A menu inside a popup menu.

@@ -21,9 +21,6 @@ namespace {
 
 constexpr int placesOfGroup = 100;
 constexpr int gapBesideCaption = 8; // pixels, more than any style takes
-// Pictures that are alike: what their buttons do is written beside them where there is room.
-const QStringList captionedKeys{u"Filter"_s,    u"QuickFilter"_s, u"FromResult"_s,
-                                u"ToPreview"_s, u"ToOrigin"_s,    u"ToFullTable"_s};
 
 } // namespace
 
@@ -98,25 +95,31 @@ QSize GridToolbar::sizeHint() const
 int GridToolbar::heightOfCaption() const
 {
     // As a button measures its text, with the leading.
-    return fontMetrics().size(Qt::TextShowMnemonic, find(captionedKeys.front())->action->text()).height();
+    int height = 0;
+    for (const auto &[key, button] : m_buttons) {
+        if (button.command->button->isCaptioned)
+            height =
+                std::max(height, fontMetrics().size(Qt::TextShowMnemonic, button.action->text()).height());
+    }
+    return height;
 }
 
 void GridToolbar::showCaptions()
 {
     int needed = 0;
-    for (const QString &key : captionedKeys) {
-        const Button *const button = find(key);
-        if (button->isVisible)
-            needed += fontMetrics().horizontalAdvance(button->action->text()) + 2 * gapBesideCaption;
+    for (const auto &[key, button] : m_buttons) {
+        if (button.command->button->isCaptioned && button.isVisible)
+            needed += fontMetrics().horizontalAdvance(button.action->text()) + 2 * gapBesideCaption;
     }
     const int without = QToolBar::sizeHint().width() - (m_isCaptioned ? needed : 0);
     const bool hasRoom = without + needed <= width();
     if (hasRoom == m_isCaptioned)
         return;
     m_isCaptioned = hasRoom;
-    for (const QString &key : captionedKeys) {
-        auto *const shown = qobject_cast<QToolButton *>(widgetForAction(find(key)->action));
-        shown->setToolButtonStyle(hasRoom ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+    for (const auto &[key, button] : m_buttons) {
+        auto *const shown = qobject_cast<QToolButton *>(widgetForAction(button.action));
+        if (shown && button.command->button->isCaptioned)
+            shown->setToolButtonStyle(hasRoom ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
     }
 }
 
@@ -124,7 +127,7 @@ void GridToolbar::showCaptions()
 void GridToolbar::hideButtonsNotInViewer()
 {
     for (const auto &[key, button] : m_buttons) {
-        if (!Command::find(key)->isInViewer)
+        if (!button.command->isInViewer)
             setButtonVisible(key, false);
     }
     bool isGroupEmpty = true;

@@ -1,17 +1,11 @@
+#include "session/commands/record/StepRecord.h"
+
 #include "ado/Recordset.h"
 #include "session/ResultWatch.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
-#include "session/commands/Command.h"
-#include "session/commands/CommandKeys.h"
-
-// The record before the current one and the one after it, on the page beside where it ends.
 
 namespace KOVAVSFDataGridLib {
-
-using namespace Qt::StringLiterals;
-
-namespace {
 
 void stepRecord(Session &session, int by)
 {
@@ -28,23 +22,5 @@ void stepRecord(Session &session, int by)
     if (watch.isUntouched())
         session.window().refreshSingleRecord();
 }
-
-const Command::Registration previous({
-    .key = CommandKeys::PreviousRecord,
-    .shortcut = u"Alt+PgUp"_s,
-    .menu = {24, Command::tr("上一条记录(&K)")},
-    .needs = Needs::Records,
-    .run = [](Session &session) { stepRecord(session, -1); },
-});
-
-const Command::Registration next({
-    .key = CommandKeys::NextRecord,
-    .shortcut = u"Alt+PgDown"_s,
-    .menu = {25, Command::tr("下一条记录(&J)")},
-    .needs = Needs::Records,
-    .run = [](Session &session) { stepRecord(session, 1); },
-});
-
-} // namespace
 
 } // namespace KOVAVSFDataGridLib

@@ -123,22 +123,15 @@ namespace {
 const Command::Registration registration({
     .key = CommandKeys::Filter,
     .shortcut = u"Ctrl+Shift+F"_s,
-    .button = {{300, Command::tr("筛选"), Command::tr("按条件筛选记录")}},
+    .button = {{.place = 300,
+                .caption = Command::tr("筛选"),
+                .toolTip = Command::tr("按条件筛选记录"),
+                .isCaptioned = true}},
     .menu = {11, Command::tr("筛选(&F)"), true},
     .isInViewer = true,
     .needs = Needs::Records,
     .run = [](Session &session) { filterByDialog(session); },
     .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Condition); },
-});
-
-// Whether "Filter" filters what is shown rather than the first statement.
-const Command::Registration fromResult({
-    .key = CommandKeys::FromResult,
-    .shortcut = u"Ctrl+R"_s,
-    .button = {{302, Command::tr("在结果中筛选"),
-                Command::tr("按下时在当前结果中继续筛选，弹起时从最初的结果筛选"), true}},
-    .record = Record::Stays,
-    .run = [](Session &session) { session.toggleFromResult(); },
 });
 
 } // namespace

@@ -68,7 +68,10 @@ void quickFilter(Session &session)
 const Command::Registration registration({
     .key = u"QuickFilter"_s,
     .shortcut = u"Ctrl+F"_s,
-    .button = {{301, Command::tr("快速筛选"), Command::tr("在所有字段中查找")}},
+    .button = {{.place = 301,
+                .caption = Command::tr("快速筛选"),
+                .toolTip = Command::tr("在所有字段中查找"),
+                .isCaptioned = true}},
     .needs = Needs::Records,
     .run = quickFilter,
     .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Condition); },

@@ -33,7 +33,10 @@ void showFullTable(Session &session)
 const Command::Registration registration({
     .key = CommandKeys::ToFullTable,
     .shortcut = u"Ctrl+0"_s,
-    .button = {{502, Command::tr("整表"), Command::tr("去掉筛选条件，显示整个表")}},
+    .button = {{.place = 502,
+                .caption = Command::tr("整表"),
+                .toolTip = Command::tr("去掉筛选条件，显示整个表"),
+                .isCaptioned = true}},
     .menu = {15, Command::tr("显示整表(&T)")},
     .isInViewer = true,
     .viewerMenu = {5, Command::tr("显示整个表(&T)")},

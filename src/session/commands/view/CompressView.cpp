@@ -2,7 +2,7 @@
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
 
-// How much of the result is seen at once.
+// Fits the columns to the width of the grid.
 
 namespace KOVAVSFDataGridLib {
 
@@ -19,7 +19,7 @@ void compressOrRestore(Session &session)
         session.keptWidths().restore(session.window());
 }
 
-const Command::Registration compressView({
+const Command::Registration registration({
     .key = u"CompressView"_s,
     .shortcut = u"Ctrl+M"_s,
     .button = {{600, Command::tr("压缩显示"),
@@ -27,15 +27,6 @@ const Command::Registration compressView({
     .isInViewer = true,
     .record = Record::Stays,
     .run = compressOrRestore,
-});
-
-const Command::Registration fullScreen({
-    .key = u"FullScreen"_s,
-    .shortcut = u"F11"_s,
-    .button = {{601, Command::tr("全屏"), Command::tr("全屏显示")}},
-    .menu = {4, Command::tr("全屏显示(&S)")},
-    .needs = Needs::Records,
-    .run = [](Session &session) { session.window().showFullScreen(); },
 });
 
 } // namespace

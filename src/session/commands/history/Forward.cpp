@@ -1,0 +1,35 @@
+#include "session/Session.h"
+#include "session/SessionMessages.h"
+#include "session/commands/Command.h"
+#include "session/history/HistorySteps.h"
+
+// One statement forward, after going back.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString whyNotForward(Session &session)
+{
+    const QString noHistory = session.whyNoHistory();
+    if (!noHistory.isEmpty())
+        return noHistory;
+    const bool isAtEnd = session.isFilterManager(nullptr) || session.trail().ahead(session.history()).empty();
+    return isAtEnd ? SessionMessages::NothingAhead : QString();
+}
+
+const Command::Registration registration({
+    .key = u"Forward"_s,
+    .shortcut = u"Alt+Right"_s,
+    .menu = {30, Command::tr("前进(&W)")},
+    .isInViewer = true,
+    .viewerMenu = {19, Command::tr("前进(&W)")},
+    .run = [](Session &session) { goForward(session, 1); },
+    .whyNot = whyNotForward,
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

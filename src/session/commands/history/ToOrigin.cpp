@@ -1,0 +1,27 @@
+#include "session/Session.h"
+#include "session/commands/Command.h"
+#include "session/history/HistorySteps.h"
+
+// Back to the first statement.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const Command::Registration registration({
+    .key = u"ToOrigin"_s,
+    .shortcut = u"Alt+Home"_s,
+    .button = {{.place = 501,
+                .caption = Command::tr("最初"),
+                .toolTip = Command::tr("返回最初的结果"),
+                .isCaptioned = true}},
+    .isInViewer = true,
+    .run = goToOrigin,
+    .whyNot = [](Session &session) { return session.whyNoHistory(); },
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,22 @@
+#include "session/Session.h"
+#include "session/commands/Command.h"
+
+// The page after the current one.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const Command::Registration registration({
+    .key = u"Next"_s,
+    .shortcut = u"Ctrl+PgDown"_s,
+    .button = {{402, Command::tr("下页"), Command::tr("下一页")}},
+    .isInViewer = true,
+    .run = [](Session &session) { session.stepPage(PageStep::Next); },
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,22 @@
+#include "session/Session.h"
+#include "session/commands/Command.h"
+
+// The page before the current one.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const Command::Registration registration({
+    .key = u"Previous"_s,
+    .shortcut = u"Ctrl+PgUp"_s,
+    .button = {{401, Command::tr("上页"), Command::tr("上一页")}},
+    .isInViewer = true,
+    .run = [](Session &session) { session.stepPage(PageStep::Previous); },
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib
