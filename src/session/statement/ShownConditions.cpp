@@ -4,6 +4,7 @@
 #include "session/ResultWatch.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
+#include "session/statement/ShowStatement.h"
 
 #include <algorithm>
 
@@ -105,15 +106,8 @@ void removeCondition(Session &session, std::size_t condition)
     if (!session.saveRecord() || !watch.isUntouched())
         return;
     const QString statement = statementWithout(session, condition);
-    if (statement.isEmpty())
-        return;
-    session.columns().SaveColumnWidths();
-    const auto opened = session.read(statement);
-    if (!opened)
-        return;
-    const ADODB::Notifications::Hold hold(session.notifications());
-    session.show(*opened);
-    session.record(statement);
+    if (!statement.isEmpty())
+        showStatement(session, statement, [&] { session.record(statement); });
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -3,6 +3,7 @@
 #include "session/commands/CommandKeys.h"
 #include "session/commands/rows/ShowSorted.h"
 #include "session/statement/FilterManagerRollback.h"
+#include "session/statement/ShowStatement.h"
 
 // Lets the user choose a sort and shows the records in it.
 
@@ -12,15 +13,9 @@ using namespace Qt::StringLiterals;
 
 bool showSorted(Session &session, const QString &statement, const QString &sort)
 {
-    session.columns().SaveColumnWidths();
     session.rememberStatement();
-    const auto opened = session.read(statement);
-    if (!opened)
-        return false;
-    const ADODB::Notifications::Hold hold(session.notifications());
-    session.show(*opened);
-    session.record(statement, colShowSQLSentences::NoPartField(), sort);
-    return true;
+    return showStatement(session, statement,
+                         [&] { session.record(statement, colShowSQLSentences::NoPartField(), sort); });
 }
 
 namespace {

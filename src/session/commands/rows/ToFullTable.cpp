@@ -1,7 +1,7 @@
 #include "session/Session.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
-#include "session/statement/FilterManagerRollback.h"
+#include "session/statement/ShowStatement.h"
 
 // The latest statement without its condition.
 
@@ -20,14 +20,10 @@ void showFullTable(Session &session)
         !session.filterManager().GetRequirePartSQL(latest, PartsWithoutCondition, statement))
         return;
     const bool showsAll = session.history().Item(key)->IsShowAllFields == AllFieldsShown;
-    session.columns().SaveColumnWidths();
-    const auto opened = session.read(statement);
-    if (!opened)
-        return;
-    const ADODB::Notifications::Hold hold(session.notifications());
-    session.show(*opened);
-    session.setFieldView(showsAll ? FieldView::All : FieldView::Part);
-    session.record(statement);
+    showStatement(session, statement, [&] {
+        session.setFieldView(showsAll ? FieldView::All : FieldView::Part);
+        session.record(statement);
+    });
 }
 
 const Command::Registration registration({
