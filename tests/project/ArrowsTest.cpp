@@ -1,6 +1,7 @@
 // Includes point the way that the links in CMake allow, and docs/architecture.md shows the same arrows.
 #include "IncludeArrows.h"
 
+#include <QtCore/QDirIterator>
 #include <QtCore/QRegularExpression>
 #include <gtest/gtest.h>
 
@@ -92,6 +93,20 @@ TEST(Arrows, AreThoseOfTheDocument)
     }
     for (const QString &folder : shown.keys())
         EXPECT_TRUE(rooms().folders().contains(folder)) << qPrintable(folder);
+}
+
+// A newcomer finds what each folder is for.
+TEST(Rooms, HaveEveryFolderInTheDocument)
+{
+    const QString document = architecture().join(u'\n');
+    QDirIterator folders(top + u"/src"_s, QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    int found = 0;
+    for (; folders.hasNext(); ++found) {
+        const QString folder = QFileInfo(folders.next()).fileName();
+        EXPECT_TRUE(document.contains(folder + u"/`"_s) || document.contains(u'/' + folder + u'`'))
+            << qPrintable(folders.filePath());
+    }
+    EXPECT_GT(found, 30);
 }
 
 TEST(Arrows, PointDownInThePicture)

@@ -12,21 +12,19 @@ namespace KovaTest {
 
 namespace {
 
-struct Arrow
-{
-    QLatin1StringView from;
-    QLatin1StringView to;
-};
+// Within a room everything may include everything, but these only those that come after them.
+constexpr QLatin1StringView controlFolders[] = {"src/control/face"_L1, "src/control/viewer"_L1,
+                                                "src/control/input"_L1, "src/control/parts"_L1,
+                                                "src/control/connection"_L1};
 
-// Within a room everything may include everything but this.
-constexpr Arrow forbidden[] = {
-    {"src/control/parts"_L1, "src/control/viewer"_L1},
-    {"src/control/input"_L1, "src/control/viewer"_L1},
-};
-
-bool isBelow(const QString &file, QLatin1StringView folder)
+// The place of a file's folder in that list; -1 when it isn't there.
+int placeOfFolder(const QString &file)
 {
-    return file.startsWith(folder) && file.at(folder.size()) == u'/';
+    for (int i = 0; i < static_cast<int>(std::size(controlFolders)); ++i) {
+        if (file.startsWith(controlFolders[i] + u'/'))
+            return i;
+    }
+    return -1;
 }
 
 } // namespace
@@ -120,10 +118,8 @@ QString IncludeArrows::arrowFault(const QString &file, const QString &target) co
     const QString to = m_rooms.folderOf(target);
     if (!to.isEmpty() && to != from && !m_rooms.restsOn(from).contains(to))
         return u"%1 may not use %2"_s.arg(from, target);
-    for (const Arrow &arrow : forbidden) {
-        if (isBelow(file, arrow.from) && isBelow(target, arrow.to))
-            return u"%1 may not use %2"_s.arg(arrow.from, target);
-    }
+    if (placeOfFolder(target) >= 0 && placeOfFolder(target) < placeOfFolder(file))
+        return u"%1 may not use %2"_s.arg(file.section(u'/', 0, 2), target);
     return {};
 }
 

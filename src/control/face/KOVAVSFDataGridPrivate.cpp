@@ -32,9 +32,9 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
       window(control, parts),
       questions(&control),
       session(std::make_shared<Session>(window, questions, *this, ControlRules, parts.Adodc1)),
-      events(control, parts, *session),
-      singleRecord(control, *session, parts),
-      commands(control, *session, parts, events, singleRecord),
+      events(input, parts, *session),
+      singleRecord(control, input, *session, parts),
+      commands(control, input, *session, parts, events, singleRecord),
       pressedPart(parts),
       closeGuard(control, *session),
       selection(*session, parts),
@@ -79,6 +79,16 @@ KOVAVSFDataGrid::Private::~Private()
 void KOVAVSFDataGrid::Private::connectHost()
 {
     new EndKeys(*parts.vsfgDataGrid, *session, &q);
+    connect(&input, &InputEvents::DataMouseDown, &q, &KOVAVSFDataGrid::DataMouseDown);
+    connect(&input, &InputEvents::DataMouseUp, &q, &KOVAVSFDataGrid::DataMouseUp);
+    connect(&input, &InputEvents::DataMouseMove, &q, &KOVAVSFDataGrid::DataMouseMove);
+    connect(&input, &InputEvents::HeadClick, &q, &KOVAVSFDataGrid::HeadClick);
+    connect(&input, &InputEvents::DataClick, &q, &KOVAVSFDataGrid::DataClick);
+    connect(&input, &InputEvents::DataDblClick, &q, &KOVAVSFDataGrid::DataDblClick);
+    connect(&input, &InputEvents::DataKeyDown, &q, &KOVAVSFDataGrid::DataKeyDown);
+    connect(&input, &InputEvents::MouseUp, &q, &KOVAVSFDataGrid::MouseUp);
+    connect(&input, &InputEvents::DataDBLClickOneCell, &q, &KOVAVSFDataGrid::DataDBLClickOneCell);
+    connect(&input, &InputEvents::DataDBLClickOneRow, &q, &KOVAVSFDataGrid::DataDBLClickOneRow);
     connect(parts.Adodc1, &ADODB::Adodc::MoveComplete, &q, [this](ADODB::EventReasonEnum reason) {
         if (!session->result().isOpen() || session->result().recordset()->RecordCount() == 0)
             return;
@@ -183,6 +193,7 @@ void KOVAVSFDataGrid::Private::runSteps(QStringView title, std::initializer_list
             number = error.Number();
             description = error.Description();
         } catch (const std::exception &error) {
+            qWarning("%s failed: %s", qPrintable(title.toString()), error.what());
             description = QString::fromUtf8(error.what());
         }
         const QString text = QString::number(number) + u'\r' + description + GridTexts::AskContinue;
@@ -193,14 +204,13 @@ void KOVAVSFDataGrid::Private::runSteps(QStringView title, std::initializer_list
 
 void KOVAVSFDataGrid::Private::showText(QStringView title, const QString &label, const QString &text)
 {
-    runSteps(title, {[&] { session->shared.scratch = text; },
-                     [&] {
-                         Dialog_SQLST dialog(&q);
-                         dialog.SetLabel(label);
-                         dialog.SetText(SharedValues::instance().scratch);
-                         dialog.SetEditing(false, false);
-                         dialog.exec();
-                     }});
+    runSteps(title, {[&] {
+                 Dialog_SQLST dialog(&q);
+                 dialog.SetLabel(label);
+                 dialog.SetText(text);
+                 dialog.SetEditing(false, false);
+                 dialog.exec();
+             }});
 }
 
 std::optional<QString> KOVAVSFDataGrid::Private::editText(const QString &label, const QString &text)
@@ -210,8 +220,6 @@ std::optional<QString> KOVAVSFDataGrid::Private::editText(const QString &label, 
     dialog.SetText(text);
     dialog.SetEditing(true, false);
     dialog.exec();
-    if (dialog.result())
-        SharedValues::instance().scratch = *dialog.result();
     return dialog.result();
 }
 
@@ -228,8 +236,8 @@ QString KOVAVSFDataGrid::Private::cellText(int row, int col, const QString &titl
 void KOVAVSFDataGrid::Private::saveBeforeEnd()
 {
     layout.save();
-    const QSignalBlocker nobodyHears(q);
-    const QSignalBlocker nobodyHearsOfMoves(parts.Adodc1);
+    const QSignalBlocker controlBlocked(q);
+    const QSignalBlocker dataBlocked(parts.Adodc1);
     if (const std::optional<QString> failure = session->saveSilently())
         Messages::showLater(*failure);
 }

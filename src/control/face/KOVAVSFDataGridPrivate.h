@@ -7,6 +7,7 @@
 #include "control/input/CloseGuard.h"
 #include "control/input/CommandInput.h"
 #include "control/input/GridEvents.h"
+#include "control/input/InputEvents.h"
 #include "control/input/PressedPart.h"
 #include "control/input/SelectionWatch.h"
 #include "control/input/SingleRecordView.h"
@@ -73,12 +74,13 @@ public:
     KOVAVSFDataGridLib::DialogQuestions questions;
     // Outlives this object while one of its commands runs.
     const std::shared_ptr<KOVAVSFDataGridLib::Session> session;
+    KOVAVSFDataGridLib::InputEvents input;
     KOVAVSFDataGridLib::GridEvents events;
     KOVAVSFDataGridLib::SingleRecordView singleRecord;
 
     KOVAVSFDataGridLib::OleColor backColor{KOVAVSFDataGridLib::OleColor::buttonFace};
     std::optional<bool> userMode; // as the host said
-    qint32 useModel = ModelUsing;
+    UseModelChoose useModel = ModelUsing;
     bool errorHint = false;
     QString sqlTemp;
     QString sysDBCnn;

@@ -2,9 +2,9 @@
 
 #include "ado/Adodc.h"
 #include "ado/Recordset.h"
-#include "control/face/KOVAVSFDataGrid.h"
 #include "control/input/DeleteAfterEvent.h"
 #include "control/input/GridEvents.h"
+#include "control/input/InputEvents.h"
 #include "control/input/KeyCodes.h"
 #include "control/input/SingleRecordView.h"
 #include "control/parts/GridParts.h"
@@ -27,9 +27,10 @@
 
 namespace KOVAVSFDataGridLib {
 
-CommandInput::CommandInput(KOVAVSFDataGrid &control, Session &session, GridParts &parts, GridEvents &events,
-                           SingleRecordView &singleRecord)
+CommandInput::CommandInput(QWidget &control, InputEvents &host, Session &session, GridParts &parts,
+                           GridEvents &events, SingleRecordView &singleRecord)
     : m_control(control),
+      m_host(host),
       m_session(session),
       m_parts(parts),
       m_singleRecord(singleRecord),
@@ -171,17 +172,17 @@ bool CommandInput::eventFilter(QObject *watched, QEvent *event)
             qint16 keyCode = virtualKey(key);
             qint16 shift = shiftState(key.modifiers());
             const QPointer<CommandInput> alive(this);
-            Q_EMIT m_control.DataKeyDown(keyCode, shift);
+            Q_EMIT m_host.DataKeyDown(keyCode, shift);
             if (!alive)
                 return true;
-            m_isKeyTaken = keyCode == 0;
-            if (m_isKeyTaken) {
+            m_isKeyConsumed = keyCode == 0;
+            if (m_isKeyConsumed) {
                 event->accept();
                 return true;
             }
         }
     }
-    if (event->type() == QEvent::KeyPress && std::exchange(m_isKeyTaken, false))
+    if (event->type() == QEvent::KeyPress && std::exchange(m_isKeyConsumed, false))
         return true;
     // The menu key comes as a key as well, and once is enough.
     if (event->type() == QEvent::ContextMenu)

@@ -4,13 +4,14 @@
 
 #include <QtCore/QObject>
 
-class KOVAVSFDataGrid;
 class QKeyEvent;
+class QWidget;
 
 namespace KOVAVSFDataGridLib {
 
 class GridEvents;
 class GridParts;
+class InputEvents;
 class PopupMenu;
 class Session;
 class SingleRecordView;
@@ -23,7 +24,7 @@ class CommandInput : public QObject
 
 public:
     // All must outlive this object.
-    CommandInput(KOVAVSFDataGrid &control, Session &session, GridParts &parts, GridEvents &events,
+    CommandInput(QWidget &control, InputEvents &host, Session &session, GridParts &parts, GridEvents &events,
                  SingleRecordView &singleRecord);
     // Toolbar and menu outlive it until the event loop runs again when the host deletes the control from
     // inside a command, because the button or the item that runs it is still in Qt's hands.
@@ -42,13 +43,14 @@ private:
     void followRecord();
     void followChange();
 
-    KOVAVSFDataGrid &m_control;
+    QWidget &m_control;
+    InputEvents &m_host;
     Session &m_session;
     GridParts &m_parts;
     SingleRecordView &m_singleRecord;
     PopupMenu &m_menu; // the control's
     ColumnMenu m_columnMenu;
-    bool m_isKeyTaken = false; // the host kept the last shortcut from its command
+    bool m_isKeyConsumed = false; // the host kept the last shortcut from its command
 };
 
 } // namespace KOVAVSFDataGridLib

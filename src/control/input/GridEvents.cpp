@@ -4,7 +4,7 @@
 #include "ado/Recordset.h"
 #include "ado/Stream.h"
 #include "ado/Texts.h"
-#include "control/face/KOVAVSFDataGrid.h"
+#include "control/input/InputEvents.h"
 #include "control/input/KeyCodes.h"
 #include "control/input/MenuKey.h"
 #include "control/parts/GridParts.h"
@@ -52,8 +52,8 @@ struct MouseArguments
 
 } // namespace
 
-GridEvents::GridEvents(KOVAVSFDataGrid &control, const GridParts &parts, Session &session)
-    : m_control(control), m_parts(parts), m_session(session)
+GridEvents::GridEvents(InputEvents &host, const GridParts &parts, Session &session)
+    : m_host(host), m_parts(parts), m_session(session)
 {
     VSFlexGrid &grid = *parts.vsfgDataGrid;
     for (QWidget *surface :
@@ -64,7 +64,7 @@ GridEvents::GridEvents(KOVAVSFDataGrid &control, const GridParts &parts, Session
     grid.installEventFilter(this);
     parts.picMainBack->installEventFilter(this);
     connect(&grid, &FlexGrid::HeadingClicked, this,
-            [this](int col) { Q_EMIT m_control.HeadClick(static_cast<qint16>(col)); });
+            [this](int col) { Q_EMIT m_host.HeadClick(static_cast<qint16>(col)); });
     connect(&grid, &FlexGrid::CurrentRowChanged, this, &GridEvents::followGridRow);
 }
 
@@ -85,8 +85,8 @@ bool GridEvents::eventFilter(QObject *watched, QEvent *event)
     // The host is notified before the grid itself acts. A disabled grid reports nothing.
     if (!m_parts.vsfgDataGrid->isEnabled() && watched != m_parts.picMainBack)
         return QObject::eventFilter(watched, event);
-    const QPointer<KOVAVSFDataGrid> alive(&m_control);
-    bool isTaken = false;
+    const QPointer<GridEvents> alive(this);
+    bool isConsumed = false;
     if (isGridSurface(watched)) {
         auto &source = *static_cast<QWidget *>(watched);
         switch (event->type()) {
@@ -106,29 +106,29 @@ bool GridEvents::eventFilter(QObject *watched, QEvent *event)
             break;
         }
     } else if (watched == m_parts.vsfgDataGrid && event->type() == QEvent::KeyPress) {
-        isTaken = keyPressed(*static_cast<QKeyEvent *>(event));
+        isConsumed = keyPressed(*static_cast<QKeyEvent *>(event));
     } else if (watched == m_parts.picMainBack && event->type() == QEvent::MouseButtonRelease) {
         panelReleased(*static_cast<QMouseEvent *>(event));
     }
-    return isTaken || !alive; // an event for a widget that is no more goes nowhere
+    return isConsumed || !alive; // an event for a widget that is no more goes nowhere
 }
 
 void GridEvents::mousePressed(QWidget &source, QMouseEvent &event)
 {
     m_isPressed = event.button() == Qt::LeftButton;
     MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
-    Q_EMIT m_control.DataMouseDown(arguments.button, arguments.shift, arguments.x, arguments.y);
+    Q_EMIT m_host.DataMouseDown(arguments.button, arguments.shift, arguments.x, arguments.y);
 }
 
 void GridEvents::mouseMoved(QWidget &source, QMouseEvent &event)
 {
     MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
-    Q_EMIT m_control.DataMouseMove(arguments.button, arguments.shift, arguments.x, arguments.y);
+    Q_EMIT m_host.DataMouseMove(arguments.button, arguments.shift, arguments.x, arguments.y);
 }
 
 void GridEvents::mouseReleased(QWidget &source, QMouseEvent &event)
 {
-    const QPointer<KOVAVSFDataGrid> alive(&m_control);
+    const QPointer<GridEvents> alive(this);
     const Place place = placeOf(source, event);
     MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
     if (isData(place))
@@ -144,7 +144,7 @@ void GridEvents::mouseReleased(QWidget &source, QMouseEvent &event)
             askForMenu(event.globalPosition().toPoint());
     }
     if (alive)
-        Q_EMIT m_control.DataMouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
+        Q_EMIT m_host.DataMouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
 }
 
 GridEvents::Place GridEvents::placeOf(const QWidget &source, const QMouseEvent &event) const
@@ -160,14 +160,14 @@ GridEvents::Place GridEvents::placeOf(const QWidget &source, const QMouseEvent &
 
 void GridEvents::clicked(Place place)
 {
-    const QPointer<KOVAVSFDataGrid> alive(&m_control);
+    const QPointer<GridEvents> alive(this);
     const bool isRemoved = removePicture();
     if (!alive || !isData(place) || m_parts.vsfgDataGrid->Row() == 0 || !m_session.result().isOpen())
         return;
     if (isRemoved)
         writePicture();
     if (alive)
-        Q_EMIT m_control.DataClick();
+        Q_EMIT m_host.DataClick();
 }
 
 // A picture of another record must not stay. Where the folder doesn't let go of the file, the file is
@@ -236,11 +236,11 @@ void GridEvents::doubleClicked(QWidget &source, QMouseEvent &event)
     if (event.button() != Qt::LeftButton)
         return;
     m_isPressed = false;
-    const QPointer<KOVAVSFDataGrid> alive(&m_control);
+    const QPointer<GridEvents> alive(this);
     const Place place = placeOf(source, event);
     makeCurrent(place, event.position().toPoint());
     if (alive)
-        Q_EMIT m_control.DataDblClick();
+        Q_EMIT m_host.DataDblClick();
     if (!alive)
         return;
     const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
@@ -250,9 +250,9 @@ void GridEvents::doubleClicked(QWidget &source, QMouseEvent &event)
     const bool isWholeRow = m_parts.CheckSelAllRow->isChecked() || place == Place::RowNumber ||
                             (grid.Col() == 1 && grid.ColSel() != 1);
     if (isWholeRow)
-        Q_EMIT m_control.DataDBLClickOneRow(grid.Row());
+        Q_EMIT m_host.DataDBLClickOneRow(grid.Row());
     else
-        Q_EMIT m_control.DataDBLClickOneCell(grid.Col(), grid.Row());
+        Q_EMIT m_host.DataDBLClickOneCell(grid.Col(), grid.Row());
     if (alive && place == Place::Cell && grid.Row() > 0 && grid.IsTextCut(grid.Row(), grid.Col()))
         Q_EMIT valueWanted();
 }
@@ -273,10 +273,10 @@ bool GridEvents::keyPressed(QKeyEvent &event)
     const qint16 code = virtualKey(event);
     if (code == 0)
         return false;
-    const QPointer<KOVAVSFDataGrid> alive(&m_control);
+    const QPointer<GridEvents> alive(this);
     qint16 keyCode = code;
     qint16 shift = shiftState(event.modifiers());
-    Q_EMIT m_control.DataKeyDown(keyCode, shift);
+    Q_EMIT m_host.DataKeyDown(keyCode, shift);
     if (!alive || keyCode == 0)
         return true; // set by a handler that wants the grid to ignore the key
     if (!isMenuKey(event) || m_parts.vsfgDataGrid->Row() == 0)
@@ -302,7 +302,7 @@ void GridEvents::askForMenu(const QPoint &position)
 void GridEvents::panelReleased(QMouseEvent &event)
 {
     MouseArguments arguments(*m_parts.picMainBack, event, *m_parts.picMainBack);
-    Q_EMIT m_control.MouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
+    Q_EMIT m_host.MouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
 }
 
 } // namespace KOVAVSFDataGridLib

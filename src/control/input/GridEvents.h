@@ -2,13 +2,13 @@
 
 #include <QtCore/QObject>
 
-class KOVAVSFDataGrid;
 class QKeyEvent;
 class QMouseEvent;
 
 namespace KOVAVSFDataGridLib {
 
 class GridParts;
+class InputEvents;
 class Session;
 
 // Turns what the user does on the grid with mouse and keys into the control's events, moves the recordset
@@ -21,7 +21,7 @@ class GridEvents : public QObject
 
 public:
     // All must outlive this object.
-    GridEvents(KOVAVSFDataGrid &control, const GridParts &parts, Session &session);
+    GridEvents(InputEvents &host, const GridParts &parts, Session &session);
 
     // Moves the recordset to the record of the grid's current row; the data control tells of the move. A
     // record that can't be left (its edit can't be saved) stays current, in the grid as well.
@@ -63,7 +63,7 @@ private:
     bool isGridSurface(const QObject *object) const;
     Place placeOf(const QWidget &source, const QMouseEvent &event) const;
 
-    KOVAVSFDataGrid &m_control;
+    InputEvents &m_host;
     const GridParts &m_parts;
     Session &m_session;
     bool m_isPictureReported = false; // that the file can't be written is said once

@@ -3,7 +3,7 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "ado/ValueText.h"
-#include "control/face/KOVAVSFDataGrid.h"
+#include "control/input/InputEvents.h"
 #include "control/input/MenuKey.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
@@ -64,8 +64,9 @@ bool carriesText(const QInputMethodEvent &event)
 
 } // namespace
 
-SingleRecordView::SingleRecordView(KOVAVSFDataGrid &control, Session &session, GridParts &parts)
+SingleRecordView::SingleRecordView(QWidget &control, InputEvents &host, Session &session, GridParts &parts)
     : m_control(control),
+      m_host(host),
       m_session(session),
       m_parts(parts),
       m_previous(newStepButton(CommandKeys::PreviousRecord, u"◀"_s)),
@@ -281,7 +282,7 @@ bool SingleRecordView::keyPressed(const QKeyEvent &event)
 void SingleRecordView::doubleClicked(const QWidget &source, const QMouseEvent &event)
 {
     const QPointer<SingleRecordView> alive(this);
-    Q_EMIT m_control.DataDblClick();
+    Q_EMIT m_host.DataDblClick();
     if (!alive)
         return;
     MSFlexGrid &list = *m_parts.MSFlexGrid1;
@@ -289,9 +290,9 @@ void SingleRecordView::doubleClicked(const QWidget &source, const QMouseEvent &e
     const QPoint position = event.position().toPoint();
     if (&source == list.horizontalHeader()->viewport()) {
         if (list.horizontalHeader()->logicalIndexAt(position) == valueCol)
-            Q_EMIT m_control.DataDBLClickOneRow(gridRow);
+            Q_EMIT m_host.DataDBLClickOneRow(gridRow);
     } else if (list.indexAt(position).isValid()) {
-        Q_EMIT m_control.DataDBLClickOneCell(currentGridCol(), gridRow);
+        Q_EMIT m_host.DataDBLClickOneCell(currentGridCol(), gridRow);
         // Unless the host had an answer of its own, which took the list or the keyboard away.
         if (alive && list.isVisible() && list.hasFocus() && m_editor.canWrite(currentGridCol()))
             m_editor.begin(currentGridCol());

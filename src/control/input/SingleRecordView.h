@@ -7,13 +7,14 @@
 
 #include <vector>
 
-class KOVAVSFDataGrid;
 class QKeyEvent;
 class QMouseEvent;
 class QPushButton;
 class QWidget;
 
 namespace KOVAVSFDataGridLib {
+
+class InputEvents;
 
 // The current record as a list of field names and values in MSFlexGrid1, in place of the grid. Binary fields
 // are left out. The values can be edited where the result can be written.
@@ -23,7 +24,7 @@ class SingleRecordView : public QObject
 
 public:
     // All must outlive this object. The view's double-clicks become events of `control`.
-    SingleRecordView(KOVAVSFDataGrid &control, Session &session, GridParts &parts);
+    SingleRecordView(QWidget &control, InputEvents &host, Session &session, GridParts &parts);
 
     // The list in place of the grid, and the grid in place of the list. The keyboard goes along.
     void show();
@@ -59,7 +60,8 @@ private:
     void placeStepButtons();
     QString valueText(int field) const;
 
-    KOVAVSFDataGrid &m_control;
+    QWidget &m_control;
+    InputEvents &m_host;
     Session &m_session;
     GridParts &m_parts;
     QPushButton *m_previous; // in the heading's right end

@@ -1,1 +1,2 @@
+#include "control/face/Face.h"
 #include "control/viewer/Viewer.h"
