@@ -53,7 +53,7 @@ std::optional<QStringList> readFieldNames(const QObject &control, const QString 
 
 GridTaskMenu::GridTaskMenu(QWidget &grid, QObject *parent) : QObject(parent), m_grid(grid)
 {
-    for (const QString &name : PropertyPageNames()) {
+    for (const QString &name : propertyPageNames()) {
         auto *action = new QAction(DesignerTexts::PageAction.arg(name), this);
         action->setObjectName(name);
         connect(action, &QAction::triggered, this, [this, name] { openPage(name); });
@@ -71,12 +71,12 @@ GridTaskMenu::GridTaskMenu(QWidget &grid, QObject *parent) : QObject(parent), m_
 
 void GridTaskMenu::openPage(const QString &name)
 {
-    PropertyPage *page = NewPropertyPage(name);
+    PropertyPage *page = newPropertyPage(name);
     PageDialog dialog(page, m_grid.window());
     page->SetWriter(writeThroughForm);
     if (auto *connection = qobject_cast<ConnectionString *>(page)) {
         connection->SetBuilder([this](QWidget *parent, const QString &present) {
-            return BuildConnection(parent, present, m_grid.property("DBType").toInt());
+            return buildConnection(parent, present, m_grid.property("DBType").toInt());
         });
     }
     if (auto *fields = qobject_cast<PartDisplayField *>(page))

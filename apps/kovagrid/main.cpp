@@ -175,7 +175,7 @@ int run(int argc, char **argv)
     }
     if (!isWatched || options->print || !options->screenshot.isEmpty())
         return runUnattended(window, *options);
-    window.keepWhatTheUserDoes();
+    window.rememberSettings();
     window.show();
     // The window is seen before its data, which can take longer.
     QTimer::singleShot(0, &window, [&] {

@@ -1,6 +1,7 @@
 #include "ado/ConnectionFactory.h"
 
 #include "ado/Connection.h"
+#include "ado/Error.h"
 #include "ado/MiddleTier.h"
 #include "ado/Recordset.h"
 #include "sql/AllDBType.h"
@@ -35,6 +36,20 @@ std::unique_ptr<ConnectionFactory> &theFactory()
     return factory;
 }
 
+// What a host's factory throws is an error of the connection.
+template<typename Object>
+std::shared_ptr<Object> fromFactory(std::shared_ptr<Object> (ConnectionFactory::*create)(qint32),
+                                    qint32 dbType)
+{
+    try {
+        return (ConnectionFactory::instance().*create)(dbType);
+    } catch (const Error &) {
+        throw;
+    } catch (const std::exception &error) {
+        throw Error(dbErrFailed, QString::fromUtf8(error.what()));
+    }
+}
+
 } // namespace
 
 ConnectionFactory::~ConnectionFactory() = default;
@@ -51,13 +66,18 @@ ConnectionFactory &ConnectionFactory::instance()
 std::shared_ptr<Connection> ConnectionFactory::connectionFor(qint32 dbType)
 {
     return dbType == KOVAVSFDataGridLib::dbAccess ? std::make_shared<Connection>()
-                                                  : instance().newConnection(dbType);
+                                                  : fromFactory(&ConnectionFactory::newConnection, dbType);
+}
+
+std::shared_ptr<Connection> ConnectionFactory::connectionToBuild(qint32 dbType)
+{
+    return dbType == KOVAVSFDataGridLib::dbOracle ? connectionFor(dbType) : std::make_shared<Connection>();
 }
 
 std::shared_ptr<Recordset> ConnectionFactory::recordsetFor(qint32 dbType)
 {
     return dbType == KOVAVSFDataGridLib::dbAccess ? std::make_shared<Recordset>()
-                                                  : instance().newRecordset(dbType);
+                                                  : fromFactory(&ConnectionFactory::newRecordset, dbType);
 }
 
 void ConnectionFactory::setInstance(std::unique_ptr<ConnectionFactory> factory)

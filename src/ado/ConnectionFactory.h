@@ -30,9 +30,12 @@ public:
     virtual std::shared_ptr<Recordset> newRecordset(qint32 dbType) = 0;
 
     // New, closed objects for a database type: plain ones for Access, whose files are on this computer, and
-    // the factory's for all others. Never null. Throws what a host's factory throws.
+    // the factory's for all others. Never null. They throw Error, also when a host's factory throws anything
+    // else.
     static std::shared_ptr<Connection> connectionFor(qint32 dbType);
     static std::shared_ptr<Recordset> recordsetFor(qint32 dbType);
+    // The same for a connection that a user builds: the factory's for Oracle alone.
+    static std::shared_ptr<Connection> connectionToBuild(qint32 dbType);
 
     // The factory of this process. The built-in one is created on first use.
     static ConnectionFactory &instance();

@@ -3,7 +3,6 @@
 #include "filter/FilterTexts.h"
 #include "filter/SetFilter.h"
 #include "filter/frm_Filter.h"
-#include "query/SharedValues.h"
 #include "query/conditions/Conditions.h"
 
 #include <QtCore/QJsonDocument>

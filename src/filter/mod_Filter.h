@@ -1,6 +1,7 @@
 #pragma once
 
 #include "query/FilterTableName.h"
+#include "query/StatementSource.h"
 #include "query/derivation/Derivation.h"
 #include "sql/AllDBType.h"
 
@@ -25,8 +26,8 @@ struct FilterRequest
 {
     QString connectionString;
     AllDBType dbType = dbAccess;
-    qint32 tableType = 0; // StatementSource
-    QString sqlShow;      // the statement whose table is filtered
+    StatementSource tableType = FromTable;
+    QString sqlShow; // the statement whose table is filtered
     // For table type 2, where the connection string alone may not lead to the same data; may be null.
     std::shared_ptr<ADODB::Connection> connection;
     // Where the statement isn't the plain rows of a table: what it is filtered by instead.

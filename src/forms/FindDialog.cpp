@@ -210,7 +210,7 @@ bool FindDialog::onKey(int key)
 
 void FindDialog::find()
 {
-    const FindAnswer answer = PressFind(m_input->currentText(), m_fields->currentText());
+    const FindAnswer answer = pressFind(m_input->currentText(), m_fields->currentText());
     if (answer.strFindText.isEmpty())
         return;
     m_strFindText = answer.strFindText;

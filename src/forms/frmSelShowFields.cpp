@@ -226,7 +226,7 @@ void frmSelShowFields::acceptChoice()
     for (const QTreeWidgetItem *item : items())
         rows.append(
             {item->text(0), item->checkState(0) == Qt::Checked, item->data(0, writtenRole).toString()});
-    setResultText(ComposeFieldList(rows));
+    setResultText(composeFieldList(rows));
     if (strRetFields().isEmpty())
         Messages::show(this, FormTexts::AtLeastOneField);
     else

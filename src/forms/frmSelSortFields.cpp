@@ -125,7 +125,7 @@ bool frmSelSortFields::AppendListSortFields(const QStringList *PassSortFields)
         return false;
     m_sort->clear();
     for (const QString &written : *PassSortFields) {
-        SortTerm term = SplitSortTerm(written);
+        SortTerm term = splitSortTerm(written);
         term.field = m_writtenByCaption.key(term.field, term.field);
         m_sort->append(term);
     }
@@ -206,7 +206,7 @@ void frmSelSortFields::acceptChoice()
     QList<SortTerm> terms = m_sort->terms();
     for (SortTerm &term : terms)
         term.field = m_writtenByCaption.value(term.field, term.field);
-    setResultText(ComposeSortList(terms));
+    setResultText(composeSortList(terms));
     accept();
 }
 

@@ -32,7 +32,7 @@ const Entry entries[] = {
 
 } // namespace
 
-QStringList PropertyPageNames()
+QStringList propertyPageNames()
 {
     QStringList names;
     for (const Entry &entry : entries)
@@ -40,7 +40,7 @@ QStringList PropertyPageNames()
     return names;
 }
 
-PropertyPage *NewPropertyPage(const QString &name, QWidget *parent)
+PropertyPage *newPropertyPage(const QString &name, QWidget *parent)
 {
     for (const Entry &entry : entries) {
         if (entry.name == name)

@@ -12,9 +12,9 @@ namespace KOVAVSFDataGridLib {
 class PropertyPage;
 
 // In the order in which they are shown.
-KOVA_EXPORT QStringList PropertyPageNames();
+KOVA_EXPORT QStringList propertyPageNames();
 
 // Creates a page, owned by `parent`, or by the caller if that is null. Null for an unknown name.
-KOVA_EXPORT PropertyPage *NewPropertyPage(const QString &name, QWidget *parent = nullptr);
+KOVA_EXPORT PropertyPage *newPropertyPage(const QString &name, QWidget *parent = nullptr);
 
 } // namespace KOVAVSFDataGridLib

@@ -33,7 +33,7 @@ QString withoutBrackets(QString name)
 
 } // namespace
 
-std::optional<ParseFailure> ParseSQLFieldList(const QString &statement, AllDBType database)
+std::optional<ParseFailure> ParsedStatements::ParseSQLFieldList(const QString &statement, AllDBType database)
 {
     QString text = selectStatement(statement);
     if (text.isEmpty())
@@ -43,8 +43,7 @@ std::optional<ParseFailure> ParseSQLFieldList(const QString &statement, AllDBTyp
             text = First(text, where - 1);
     }
 
-    ParsedStatements &parsed = SharedValues::instance().parsed;
-    parsed.strSQLTable = GetSQLTableName(text);
+    strSQLTable = GetSQLTableName(text);
     const auto blankBeforeFrom = findUpper(text, QStringLiteral(" FROM "));
     if (blankBeforeFrom < listPosition)
         return ParseFailure{QStringLiteral("KOVAVSFDataGridLib"), QString::fromLatin1(invalidArgument)};
@@ -55,21 +54,21 @@ std::optional<ParseFailure> ParseSQLFieldList(const QString &statement, AllDBTyp
     const QString last = items.takeLast();
     for (const QString &written : items) {
         const QString item = trim(written);
-        parsed.colSQLFields.append(database == dbOracle ? item : withoutBrackets(item));
+        colSQLFields.append(database == dbOracle ? item : withoutBrackets(item));
     }
     // The last item differs from the others: elsewhere than on Oracle it keeps its blanks, which also shield
     // its "[".
     if (!last.contains(u'*'))
-        parsed.colSQLFields.append(database == dbOracle ? trim(last) : withoutBrackets(last));
+        colSQLFields.append(database == dbOracle ? trim(last) : withoutBrackets(last));
     return std::nullopt;
 }
 
-void ClearSQLFieldList()
+void ParsedStatements::ClearSQLFieldList()
 {
-    SharedValues::instance().parsed.colSQLFields.clear();
+    colSQLFields.clear();
 }
 
-void ParseSelFieldList(const QString &statement)
+void ParsedStatements::ParseSelFieldList(const QString &statement)
 {
     const QString text = selectStatement(statement);
     if (text.isEmpty())
@@ -79,14 +78,13 @@ void ParseSelFieldList(const QString &statement)
         throw std::invalid_argument(invalidArgument);
     const QString list = First(From(text, listPosition), blankBeforeFrom - listPosition);
 
-    QStringList &fields = SharedValues::instance().parsed.colSelFields;
-    fields.clear();
+    colSelFields.clear();
     QStringList items = list.split(u',');
     const bool isListCut = items.last().isEmpty();
     if (isListCut)
         items.removeLast();
     for (const QString &item : items)
-        fields.append(trim(item));
+        colSelFields.append(trim(item));
     if (isListCut)
         throw std::invalid_argument(invalidArgument);
 }

@@ -3,6 +3,7 @@
 #include "ado/values/DisplayFormat.h"
 #include "export/ExportFormat.h"
 #include "export/WriteRecords.h"
+#include "query/StatementSource.h"
 #include "query/derivation/Derivation.h"
 #include "query/fields/FieldChooser.h"
 
@@ -21,8 +22,8 @@ class colDataFields;
 struct ConditionRequest
 {
     QString connectionString;
-    qint32 dbType = 1; // AllDBType
-    qint32 tableType = 0;
+    AllDBType dbType = dbAccess;
+    StatementSource tableType = FromTable;
     QString sqlShow;
     std::shared_ptr<ADODB::Connection> connection; // may be null
     // Where the statement isn't the plain rows of a table: what it is filtered by instead.

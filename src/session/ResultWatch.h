@@ -11,7 +11,7 @@ namespace KOVAVSFDataGridLib {
 class Session;
 
 // Remembers which result a command works on. While a question is open or a statement is being read, the host
-// may put another one in its place; the command has lost its ground then, and ends.
+// may put another one in its place; the command then ends.
 class ResultWatch
 {
 public:

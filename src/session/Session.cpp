@@ -76,10 +76,10 @@ const std::shared_ptr<StatementTrail> &Session::sharedTrail()
     return m_trail;
 }
 
-void Session::noteShown()
+void Session::noteShownResult()
 {
     if (m_filter && m_result.isOpen())
-        trail().note(history(), m_result.recordset()->RecordCount());
+        trail().addNote(history(), m_result.recordset()->RecordCount());
 }
 
 void Session::run(const QString &key, ChosenBy by)
@@ -102,7 +102,7 @@ void Session::run(const QString &key, ChosenBy by)
 bool Session::makeReady(const Command &command)
 {
     const bool hasCommand = m_rules.hasAllCommands || command.isInViewer;
-    if (!hasCommand || !hasGround() || !whyNot(command).isEmpty())
+    if (!hasCommand || !isUsable() || !whyNot(command).isEmpty())
         return false;
     return makeReady(command.needs, command.record);
 }
@@ -120,7 +120,7 @@ bool Session::makeReady(Needs needs, Record record)
 
 bool Session::canRunOnColumn(const ColumnCommand &command, int col)
 {
-    return hasGround() && m_result.isOpen() && col > 0 && col < m_window->Cols() &&
+    return isUsable() && m_result.isOpen() && col > 0 && col < m_window->Cols() &&
            (!command.canRun || command.canRun(*this, col));
 }
 
@@ -148,7 +148,7 @@ void Session::perform(const std::function<void()> &command)
     }
     --m_running;
     updateRecordPosition();
-    noteShown();
+    noteShownResult();
     m_window->refreshCommands();
 }
 
@@ -175,7 +175,7 @@ QString Session::whyNoHistory() const
 void Session::goToTypedPage(const QString &text)
 {
     const std::optional<TypedPage> typed = TypedPage::read(text, m_rules.keepsTypedPage);
-    if (!typed || !hasGround())
+    if (!typed || !isUsable())
         return;
     perform([&] {
         returnToShownRecord();
@@ -205,7 +205,7 @@ void Session::layOutColumns()
 
 void Session::compressColumns()
 {
-    if (m_window->isSingleRecordShown() || !hasGround())
+    if (m_window->isSingleRecordShown() || !isUsable())
         return;
     const bool showsHidden = m_rules.compressShowsHidden && m_fieldView == FieldView::All;
     m_keptWidths.fit(*m_window, [&] { columns().fitColumns(m_rules.roundWidth, showsHidden); });

@@ -42,7 +42,7 @@ struct SessionTexts
     QString passQurryFilter;
     QString picField;
     QString recordSource;
-    qint32 tableType = 0; // StatementSource
+    StatementSource tableType = FromTable;
 };
 
 // The condition that the user built last, and what it was built from; see ConditionRequest.
@@ -60,7 +60,7 @@ struct BuiltCondition
 // detach() it asks and shows nothing any more, has no result, and every command ends by itself.
 //
 // While a question is open or a statement is being read the host may do anything, even load another result. A
-// command that has waited looks with a ResultWatch whether the ground that it works on is still there, and
+// command that has waited looks with a ResultWatch whether the result that it works on is still there, and
 // ends silently when it isn't. What it changes then, it changes under a Hold; the host hears of it all at
 // once.
 class Session : public std::enable_shared_from_this<Session>
@@ -260,19 +260,19 @@ private:
     std::unique_ptr<clsFilterManagement> newFilterManager();
     std::unique_ptr<clsFilterManagement> filterManagerForLoad();
     std::optional<QString> statementToOpen(clsFilterManagement &manager);
-    Reading readResult(const QString &statement, qint32 dbType, std::optional<ResultSet::Opened> &opened,
+    Reading readResult(const QString &statement, AllDBType dbType, std::optional<ResultSet::Opened> &opened,
                        QString *refusal = nullptr);
-    ResultSet::Opened openStatement(const QString &statement, qint32 dbType);
-    Reading noteCancelled();
+    ResultSet::Opened openStatement(const QString &statement, AllDBType dbType);
+    Reading reportCancelled();
     void reportOpenError(const QString &description);
     void showLoaded(const ResultSet::Opened &opened, const QString &statement,
                     std::unique_ptr<clsFilterManagement> manager);
     bool makeReady(const Command &command);
     // Whether what it works on is still there.
-    bool hasGround() const { return !m_rules.worksOnLentResult || m_filter; }
+    bool isUsable() const { return !m_rules.worksOnLentResult || m_filter; }
     bool makeReady(Needs needs, Record record);
     void cancelChanges();
-    void noteShown();
+    void noteShownResult();
     struct Failure
     {
         QString text; // for the user to read

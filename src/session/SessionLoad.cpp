@@ -18,7 +18,7 @@ std::unique_ptr<clsFilterManagement> Session::filterManagerForLoad()
 {
     const QString allFields = joinStatementLines(texts.sqlShow);
     auto manager = newFilterManager();
-    manager->SetDBType(static_cast<AllDBType>(shared.dbType));
+    manager->SetDBType(shared.dbType);
     manager->SetTBLType(texts.tableType);
     manager->SetFieldStatus(static_cast<qint32>(m_fieldView));
     manager->SetDBConnString(texts.connectionString);
@@ -63,7 +63,7 @@ bool Session::load()
     if (statement)
         reading = readResult(*statement, shared.dbType, opened);
     else if (m_reader.isCancelled())
-        reading = noteCancelled();
+        reading = reportCancelled();
     else
         reportOpenError(m_reader.Failure());
     switch (reading) {
@@ -112,7 +112,7 @@ void Session::showLoaded(const ResultSet::Opened &opened, const QString &stateme
     if (columns().columnsFit())
         columns().fitColumns(m_rules.roundWidth);
     updateRecordPosition();
-    noteShown();
+    noteShownResult();
     m_window->refreshCommands();
 }
 

@@ -20,7 +20,7 @@ void Session::rememberStatement() const
         SharedValues::instance().previousShowStatement = m_statement;
 }
 
-ResultSet::Opened Session::openStatement(const QString &statement, qint32 dbType)
+ResultSet::Opened Session::openStatement(const QString &statement, AllDBType dbType)
 {
     const QScopedValueRollback<bool> opening(shared.isOpening, true);
     const auto progress = m_window->beginOpening();
@@ -34,7 +34,7 @@ ResultSet::Opened Session::openStatement(const QString &statement, qint32 dbType
                     : ResultSet::open(texts.connectionString, statement, dbType, shouldContinue);
 }
 
-Session::Reading Session::readResult(const QString &statement, qint32 dbType,
+Session::Reading Session::readResult(const QString &statement, AllDBType dbType,
                                      std::optional<ResultSet::Opened> &opened, QString *refusal)
 {
     if (shared.isOpening) // one statement at a time in a process
@@ -48,7 +48,8 @@ Session::Reading Session::readResult(const QString &statement, qint32 dbType,
         return m_rules.worksOnLentResult || watch.isUntouched() ? Reading::Done : Reading::Overtaken;
     } catch (const ADODB::Error &error) {
         failure = error.Description();
-    } catch (const std::exception &error) { // from a connection factory of the host's
+    } catch (const std::exception &error) {
+        qWarning("A statement could not be opened: %s", error.what());
         failure = QString::fromUtf8(error.what());
     }
     if (refusal)
@@ -56,12 +57,12 @@ Session::Reading Session::readResult(const QString &statement, qint32 dbType,
     else if (!m_isCancelled)
         reportOpenError(failure);
     else
-        return noteCancelled();
+        return reportCancelled();
     return m_isCancelled ? Reading::Cancelled : Reading::Failed;
 }
 
 // The user knows what he did.
-Session::Reading Session::noteCancelled()
+Session::Reading Session::reportCancelled()
 {
     if (!m_isDetached)
         m_window->showNote(SessionMessages::OpeningCancelled);
@@ -129,7 +130,7 @@ bool Session::reloadFiltered(const QString &statement, bool isRemembered, QStrin
     const auto opened = readForReload(statement, isRemembered, refusal);
     if (!opened) {
         const bool isLeftToCaller = refusal && !refusal->isEmpty();
-        if (!m_rules.reportsOpenErrors && hasGround() && !isLeftToCaller && !m_isCancelled)
+        if (!m_rules.reportsOpenErrors && isUsable() && !isLeftToCaller && !m_isCancelled)
             m_questions->show(SessionMessages::ReadFailed);
         return false;
     }

@@ -263,11 +263,11 @@ TEST_F(HostWindowTest, FitsTheScreenAndComesBackAsItWas)
     EXPECT_LE(window->height(), screen.height());
     EXPECT_LE(window->minimumSizeHint().width(), 800);
     EXPECT_LE(window->minimumSizeHint().height(), 600);
-    window->keepWhatTheUserDoes();
+    window->rememberSettings();
     dock(u"picturePane"_s).toggleViewAction()->trigger();
     EXPECT_TRUE(window->close());
     HostWindow next((Options()));
-    next.keepWhatTheUserDoes();
+    next.rememberSettings();
     next.show();
     EXPECT_FALSE(next.findChild<QDockWidget *>(u"picturePane"_s)->isVisible());
     EXPECT_TRUE(next.findChild<QDockWidget *>(u"tablesPane"_s)->isVisible());

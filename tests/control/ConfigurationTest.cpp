@@ -63,30 +63,30 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_P(ThreeTierSwitch, IsOnForYesUnderItsSectionAndKeyAlone)
 {
     write(GetParam().text);
-    EXPECT_EQ(Read3TierSwitch(), GetParam().isOn);
+    EXPECT_EQ(readThreeTierSwitch(), GetParam().isOn);
 }
 
 TEST_F(ThreeTierFile, MissingMeansOff)
 {
-    EXPECT_EQ(Read3TierSwitch(), 0);
-    EXPECT_EQ(ReadProfileValue(u"Use3Tier"_s, u"MERIX"_s, path), u"Return Err"_s);
+    EXPECT_EQ(readThreeTierSwitch(), 0);
+    EXPECT_EQ(readProfileValue(u"Use3Tier"_s, u"MERIX"_s, path), u"Return Err"_s);
 }
 
 TEST_F(ThreeTierFile, ValuesAreReadAsTheyStand)
 {
     write("[Paths]\nFolder=C:\\new\\table; all %20, 中文 = \"x\"\nEmpty=\nLong=" + QByteArray(400, 'x') +
           "\n");
-    EXPECT_EQ(ReadProfileValue(u"Paths"_s, u"Folder"_s, path), u"C:\\new\\table; all %20, 中文 = \"x\""_s);
-    EXPECT_EQ(ReadProfileValue(u"Paths"_s, u"Empty"_s, path), QString());
-    EXPECT_EQ(ReadProfileValue(u"Paths"_s, u"Missing"_s, path), u"Return Err"_s);
-    EXPECT_EQ(ReadProfileValue(u"Paths"_s, u"Long"_s, path).size(), 254);
+    EXPECT_EQ(readProfileValue(u"Paths"_s, u"Folder"_s, path), u"C:\\new\\table; all %20, 中文 = \"x\""_s);
+    EXPECT_EQ(readProfileValue(u"Paths"_s, u"Empty"_s, path), QString());
+    EXPECT_EQ(readProfileValue(u"Paths"_s, u"Missing"_s, path), u"Return Err"_s);
+    EXPECT_EQ(readProfileValue(u"Paths"_s, u"Long"_s, path).size(), 254);
 }
 
 TEST_F(ThreeTierFile, AFileInUtf16IsReadByItsByteOrderMark)
 {
     const QString text = u"\uFEFF[Use3Tier]\r\nMERIX=YES\r\n"_s;
     write(QByteArray(reinterpret_cast<const char *>(text.utf16()), text.size() * 2));
-    EXPECT_EQ(Read3TierSwitch(), 1);
+    EXPECT_EQ(readThreeTierSwitch(), 1);
 }
 
 TEST_F(ThreeTierFile, MayNameTheMiddleTier)

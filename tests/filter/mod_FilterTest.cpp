@@ -71,7 +71,7 @@ TEST_F(FilterModule, CancellingLeavesNoConditionAndPreparingForgetsTheLastOne)
 TEST_F(FilterModule, UsesTheGivenConnectionForAStatementOfTheHost)
 {
     FilterRequest own = request(u"select * from T"_s);
-    own.tableType = 2;
+    own.tableType = FromOwnStatement;
     own.connectionString = u"Provider=SQLite;Data Source=/missing.db"_s;
     const TestDatabase other{u"CREATE TABLE T (Field INTEGER)"_s};
     own.connection = std::make_shared<ADODB::Connection>();

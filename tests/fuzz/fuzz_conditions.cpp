@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const QString statement = texts.value(1);
     const QString name = texts.value(2);
 
-    const auto words = PrepareFindText(typed);
+    const auto words = prepareFindText(typed);
     Require(!words || !words->contains(u"%%"));
     const std::vector<TypedField> fields{{name, 202}, {QStringLiteral("B"), 3}};
     QString condition;
@@ -32,16 +32,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
                            condition))
         Require(condition.count(u'\'') % 2 == 0);
 
-    Require(SplitText(typed, QStringLiteral("%"), true).join(QString()) == typed);
+    Require(splitText(typed, QStringLiteral("%"), true).join(QString()) == typed);
     const CellFilter filter = buildCellFilter(name, 202, typed);
     Require(filter.condition.isEmpty() || filter.condition.count(u'\'') == 2 + name.count(u'\''));
-    const SortTerm term = SplitSortTerm(typed);
+    const SortTerm term = splitSortTerm(typed);
     Require(typed.startsWith(term.field));
-    ComposeFieldList({{typed, true}, {name, true}});
+    composeFieldList({{typed, true}, {name, true}});
     SetListFieldCheck({typed}, {name});
     SetFilterTableName(typed);
     const FilterTableName table = SplitFilterTableName(typed);
     Require(table.owner.size() + table.table.size() <= typed.size());
-    PressFind(typed, name);
+    pressFind(typed, name);
     return 0;
 }

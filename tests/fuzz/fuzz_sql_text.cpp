@@ -38,15 +38,16 @@ void SplitAndJoin(const QString &statement, const QString &other)
 
 void ParseLists(const QString &statement)
 {
+    ParsedStatements parsed;
     for (const AllDBType database : {dbAccess, dbOracle, dbSQLServer})
-        ParseSQLFieldList(statement, database);
+        parsed.ParseSQLFieldList(statement, database);
     try {
-        ParseSelFieldList(statement);
+        parsed.ParseSelFieldList(statement);
     } catch (const std::invalid_argument &) {
         // The declared answer to a list that can't be read.
     }
     for (const QString &field : writtenFields(statement)) {
-        ShortFieldName(field);
+        shortFieldName(field);
         lastNamePart(field);
     }
     bracketsToQuotes(statement);

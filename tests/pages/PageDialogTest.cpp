@@ -17,7 +17,7 @@ namespace {
 
 struct PageWindow : testing::Test
 {
-    explicit PageWindow(const QString &name = u"SQLShow"_s) : page(NewPropertyPage(name)), dialog(page)
+    explicit PageWindow(const QString &name = u"SQLShow"_s) : page(newPropertyPage(name)), dialog(page)
     {
         control.sqlShow = u"old"_s;
         page->SetSelectedControls({&control});

@@ -45,7 +45,7 @@ struct EachPage : testing::TestWithParam<SimplePage>
     QString value() const { return control.property(GetParam().property).toString(); }
 
     SomeControl control;
-    std::unique_ptr<PropertyPage> page{NewPropertyPage(QLatin1StringView(GetParam().name))};
+    std::unique_ptr<PropertyPage> page{newPropertyPage(QLatin1StringView(GetParam().name))};
 };
 
 INSTANTIATE_TEST_SUITE_P(
@@ -188,7 +188,7 @@ struct RecordSourcePage : testing::Test
     QLineEdit &text() const { return part<QLineEdit>(*page, "txtRecordSource"); }
 
     SomeControl control;
-    std::unique_ptr<PropertyPage> page{NewPropertyPage(u"RecordSource"_s)};
+    std::unique_ptr<PropertyPage> page{newPropertyPage(u"RecordSource"_s)};
     MessageAnswers messages;
 };
 
@@ -311,7 +311,7 @@ TEST_F(ConnectionPage, LookingAtTheWholeStringChangesNothing)
 
 TEST(PropertyPages, AreTheFourInTheirOrder)
 {
-    EXPECT_EQ(PropertyPageNames(),
+    EXPECT_EQ(propertyPageNames(),
               QStringList({u"ConnectionString"_s, u"RecordSource"_s, u"SQLShow"_s, u"PartDisplayField"_s}));
-    EXPECT_EQ(NewPropertyPage(u"SQLSort"_s), nullptr);
+    EXPECT_EQ(newPropertyPage(u"SQLSort"_s), nullptr);
 }

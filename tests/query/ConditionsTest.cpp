@@ -121,23 +121,23 @@ TEST(QuickFilter, FindsTheTableAndWritesItBeforeTheField)
 
 TEST(SplitText, GivesThePiecesBeforeEachSeparator)
 {
-    EXPECT_EQ(SplitText(u"%a%%b"_s, u"%"_s), (QStringList{QString(), u"a"_s, QString(), u"b"_s}));
-    EXPECT_EQ(SplitText(u"a%"_s, u"%"_s), QStringList{u"a"_s});
-    EXPECT_EQ(SplitText(u"a%b"_s, u"%"_s, true), (QStringList{u"a%"_s, u"b"_s}));
-    EXPECT_EQ(SplitText(u"a"_s, {}), QStringList{u"a"_s});
-    EXPECT_TRUE(SplitText({}, u"%"_s).isEmpty());
+    EXPECT_EQ(splitText(u"%a%%b"_s, u"%"_s), (QStringList{QString(), u"a"_s, QString(), u"b"_s}));
+    EXPECT_EQ(splitText(u"a%"_s, u"%"_s), QStringList{u"a"_s});
+    EXPECT_EQ(splitText(u"a%b"_s, u"%"_s, true), (QStringList{u"a%"_s, u"b"_s}));
+    EXPECT_EQ(splitText(u"a"_s, {}), QStringList{u"a"_s});
+    EXPECT_TRUE(splitText({}, u"%"_s).isEmpty());
 }
 
 TEST(FieldTypes, AreNumbersTextsDatesOrOther)
 {
     for (const qint32 number : {2, 3, 4, 5, 14, 16, 17, 18, 19, 20, 21, 72, 131, 139})
-        EXPECT_EQ(ClassifyFieldType(number), u"1"_s) << number;
+        EXPECT_EQ(classifyFieldType(number), u"1"_s) << number;
     for (const qint32 text : {8, 129, 130, 200, 201, 202, 203})
-        EXPECT_EQ(ClassifyFieldType(text), u"2"_s) << text;
+        EXPECT_EQ(classifyFieldType(text), u"2"_s) << text;
     for (const qint32 date : {7, 64, 133, 134, 135})
-        EXPECT_EQ(ClassifyFieldType(date), u"3"_s) << date;
+        EXPECT_EQ(classifyFieldType(date), u"3"_s) << date;
     for (const qint32 other : {-1, 0, 1, 6, 11, 128, 132, 136, 204, 205, 9999})
-        EXPECT_EQ(ClassifyFieldType(other), u"0"_s) << other;
+        EXPECT_EQ(classifyFieldType(other), u"0"_s) << other;
 }
 
 TEST(CellFilterText, NumbersAreComparedBare)

@@ -115,7 +115,7 @@ protected:
         if (value == u"N")
             return written + u" IS NULL"_s;
         const QString text = value.mid(1);
-        return written + u" = "_s + (ClassifyFieldType(type) == u"1" ? text : textLiteral(dialect, text));
+        return written + u" = "_s + (classifyFieldType(type) == u"1" ? text : textLiteral(dialect, text));
     }
 
     static void expectRows(Result actual, std::vector<QStringList> expected, const QString &statement)

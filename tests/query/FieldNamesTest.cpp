@@ -9,12 +9,12 @@ using namespace Qt::StringLiterals;
 
 TEST(FieldNames, ShortNameStandsBehindTheFirstPoint)
 {
-    EXPECT_EQ(ShortFieldName(u"T.[Order Date]"_s), u"Order Date"_s);
-    EXPECT_EQ(ShortFieldName(u"[Name]"_s), u"Name"_s);
-    EXPECT_EQ(ShortFieldName(u"dbo.T.Name"_s), u"T.Name"_s);
-    EXPECT_EQ(ShortFieldName(u"\"Name\""_s), u"\"Name\""_s);
-    EXPECT_EQ(ShortFieldName(u"[[x]]"_s), u"[x]"_s);
-    EXPECT_EQ(ShortFieldName(u"T."_s), QString());
+    EXPECT_EQ(shortFieldName(u"T.[Order Date]"_s), u"Order Date"_s);
+    EXPECT_EQ(shortFieldName(u"[Name]"_s), u"Name"_s);
+    EXPECT_EQ(shortFieldName(u"dbo.T.Name"_s), u"T.Name"_s);
+    EXPECT_EQ(shortFieldName(u"\"Name\""_s), u"\"Name\""_s);
+    EXPECT_EQ(shortFieldName(u"[[x]]"_s), u"[x]"_s);
+    EXPECT_EQ(shortFieldName(u"T."_s), QString());
 }
 
 TEST(FieldNames, WrittenFieldsAreTheTrimmedItemsOfTheList)

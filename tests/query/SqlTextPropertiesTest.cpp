@@ -93,7 +93,7 @@ TEST(SqlTextProperties, NameRoutinesTakeAnyText)
     StatementMaker make;
     for (int i = 0; i < 20000; ++i) {
         const QString text = make();
-        ASSERT_LE(ShortFieldName(text).size(), text.size());
+        ASSERT_LE(shortFieldName(text).size(), text.size());
         ASSERT_LE(lastNamePart(text).size(), text.size());
         for (const AllDBType database : {dbAccess, dbOracle, dbSQLServer})
             ASSERT_GE(writtenName(dialectOf(database, Engine::Other), text).size(), text.size());

@@ -89,7 +89,7 @@ protected:
             script += u"INSERT INTO kova_words VALUES (%1,%2,1)"_s.arg(i + 1).arg(literal(corpus[i]));
         script += u"INSERT INTO kova_words VALUES (1000,'abc',1)"_s;
         database->run(script);
-        SharedValues::instance().dbType = engine->dbType;
+        SharedValues::instance().dbType = static_cast<AllDBType>(engine->dbType);
     }
     void TearDown() override
     {

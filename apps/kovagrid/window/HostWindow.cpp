@@ -139,7 +139,7 @@ QueryPage *HostWindow::addPage(const Options &options)
 {
     auto *added = new QueryPage(options);
     KOVAVSFDataGrid *const grid = added->grid();
-    if (m_isKept)
+    if (m_remembersSettings)
         grid->PutLayoutKey(u"kovagrid"_s);
     m_log->listenTo(*grid);
     const auto showPicture = [this, grid] {
@@ -224,9 +224,9 @@ void HostWindow::focusNextPart()
         page()->statement()->setFocus();
 }
 
-void HostWindow::keepWhatTheUserDoes()
+void HostWindow::rememberSettings()
 {
-    m_isKept = true;
+    m_remembersSettings = true;
     grid()->PutLayoutKey(u"kovagrid"_s);
     const auto settings = userSettings();
     restoreGeometry(settings->value(GeometryKey).toByteArray());
@@ -255,7 +255,7 @@ void HostWindow::closeEvent(QCloseEvent *event)
             return;
         }
     }
-    if (m_isKept) {
+    if (m_remembersSettings) {
         const auto settings = userSettings();
         settings->setValue(GeometryKey, saveGeometry());
         settings->setValue(StateKey, saveState());

@@ -23,7 +23,7 @@ public:
     ~HostWindow() override;
 
     // From here on the window is its user's: places of its parts and layouts of columns are kept.
-    void keepWhatTheUserDoes();
+    void rememberSettings();
     QueryPage *page() const;
     KOVAVSFDataGrid *grid() const;
     // Opens a database file in a tab of its own; its first table is shown.
@@ -50,5 +50,5 @@ private:
     PicturePane *m_picture;
     EventLog *m_log;
     QList<QDockWidget *> m_docks;
-    bool m_isKept = false;
+    bool m_remembersSettings = false;
 };

@@ -181,8 +181,8 @@ HRESULT getOrCall(QObject &object, const Member &member, const DISPPARAMS &param
 }
 
 // `records("name") = "Li"`: the value is for the object that the arguments lead to, for its default property.
-HRESULT putBehind(QObject &object, const Member &member, const DISPPARAMS &parameters, EXCEPINFO *exception,
-                  UINT *badArgument)
+HRESULT putDefaultProperty(QObject &object, const Member &member, const DISPPARAMS &parameters,
+                           EXCEPINFO *exception, UINT *badArgument)
 {
     const DISPPARAMS arguments{parameters.rgvarg + 1, nullptr, parameters.cArgs - 1, 0};
     Variant target;
@@ -203,7 +203,7 @@ HRESULT put(QObject &object, const Member &member, const DISPPARAMS &parameters,
     if (parameters.cArgs == 0 || parameters.cNamedArgs > 1)
         return DISP_E_BADPARAMCOUNT;
     if (parameters.cArgs > 1)
-        return putBehind(object, member, parameters, exception, badArgument);
+        return putDefaultProperty(object, member, parameters, exception, badArgument);
     if (!member.property.isWritable())
         return DISP_E_MEMBERNOTFOUND;
     QVariant value;

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Those that clients hold at present, so that one object always has the same COM identity.
-std::unordered_map<const QObject *, ObjectDispatch *> &handedOut()
+std::unordered_map<const QObject *, ObjectDispatch *> &dispatchObjects()
 {
     static std::unordered_map<const QObject *, ObjectDispatch *> objects;
     return objects;
@@ -70,9 +70,9 @@ IDispatch *ObjectDispatch::of(QObject *object)
 {
     if (!object)
         return nullptr;
-    const auto known = handedOut().find(object);
+    const auto known = dispatchObjects().find(object);
     // An address can come to a new object while a client still holds the old one's.
-    if (known != handedOut().end() && known->second->m_object) {
+    if (known != dispatchObjects().end() && known->second->m_object) {
         known->second->AddRef();
         return known->second;
     }
@@ -81,14 +81,14 @@ IDispatch *ObjectDispatch::of(QObject *object)
 
 ObjectDispatch::ObjectDispatch(QObject &object) : m_object(&object), m_key(&object)
 {
-    handedOut()[m_key] = this;
+    dispatchObjects()[m_key] = this;
 }
 
 ObjectDispatch::~ObjectDispatch()
 {
-    const auto known = handedOut().find(m_key);
-    if (known != handedOut().end() && known->second == this)
-        handedOut().erase(known);
+    const auto known = dispatchObjects().find(m_key);
+    if (known != dispatchObjects().end() && known->second == this)
+        dispatchObjects().erase(known);
 }
 
 STDMETHODIMP ObjectDispatch::GetTypeInfoCount(UINT *count)

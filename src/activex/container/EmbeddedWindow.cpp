@@ -86,7 +86,7 @@ void EmbeddedWindow::place(const RECT &position, const RECT *clip)
     }
 }
 
-void EmbeddedWindow::takeFocus()
+void EmbeddedWindow::setKeyboardFocus()
 {
     if (!m_parent)
         return;
@@ -168,7 +168,7 @@ bool EmbeddedWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonPress) {
         // The system gives a child window neither activation nor focus on a click.
-        takeFocus();
+        setKeyboardFocus();
         m_entered();
     } else if (event->type() == QEvent::FocusIn) {
         m_entered();

@@ -29,7 +29,7 @@ public:
     void attach(HWND parent, const RECT &position, const RECT &clip);
     void detach();
     void place(const RECT &position, const RECT *clip);
-    void takeFocus();
+    void setKeyboardFocus();
 
     HWND handle() const; // null while detached
     // Whether a key message is for the widget rather than for the container's dialog keys.

@@ -12,7 +12,7 @@ using Microsoft::WRL::ComPtr;
 
 namespace {
 
-HRESULT giveWindow(const EmbeddedWindow &window, HWND *handle)
+HRESULT returnHandle(const EmbeddedWindow &window, HWND *handle)
 {
     if (!handle)
         return E_POINTER;
@@ -29,7 +29,7 @@ InPlaceObject::InPlaceObject(GridControl &control, InPlace &inPlace)
 
 STDMETHODIMP InPlaceObject::GetWindow(HWND *window)
 {
-    return giveWindow(m_inPlace.window(), window);
+    return returnHandle(m_inPlace.window(), window);
 }
 
 STDMETHODIMP InPlaceObject::ContextSensitiveHelp(BOOL)
@@ -69,7 +69,7 @@ InPlaceActiveObject::InPlaceActiveObject(GridControl &control, InPlace &inPlace)
 
 STDMETHODIMP InPlaceActiveObject::GetWindow(HWND *window)
 {
-    return giveWindow(m_inPlace.window(), window);
+    return returnHandle(m_inPlace.window(), window);
 }
 
 STDMETHODIMP InPlaceActiveObject::ContextSensitiveHelp(BOOL)
@@ -157,7 +157,7 @@ HRESULT InPlace::activateUi()
         m_frame->SetActiveObject(&m_activeObject, L"KOVAVSFDataGrid");
     if (m_document)
         m_document->SetActiveObject(&m_activeObject, L"KOVAVSFDataGrid");
-    m_window.takeFocus();
+    m_window.setKeyboardFocus();
     return S_OK;
 }
 

@@ -37,7 +37,7 @@ HRESULT OlePropertyPage::create(IUnknown *outer, REFIID iid, void **object)
         return CLASS_E_NOAGGREGATION;
     const QString name = toQString(pageClasses[Index].name);
     auto *page =
-        new OlePropertyPage(name, std::unique_ptr<KOVAVSFDataGridLib::PropertyPage>(NewPropertyPage(name)));
+        new OlePropertyPage(name, std::unique_ptr<KOVAVSFDataGridLib::PropertyPage>(newPropertyPage(name)));
     const HRESULT offered = page->QueryInterface(iid, object);
     page->Release();
     return offered;
@@ -95,7 +95,7 @@ STDMETHODIMP OlePropertyPage::GetPageInfo(PROPPAGEINFO *info)
     *info = {};
     info->cb = sizeof *info;
     info->pszTitle = taskText(m_page->windowTitle());
-    info->size = wish();
+    info->size = preferredSize();
     return info->pszTitle ? S_OK : E_OUTOFMEMORY;
 }
 
@@ -119,7 +119,7 @@ STDMETHODIMP OlePropertyPage::Show(UINT command)
 {
     m_page->setVisible(command != SW_HIDE);
     if (command == SW_SHOWNORMAL)
-        m_window.takeFocus();
+        m_window.setKeyboardFocus();
     return S_OK;
 }
 
@@ -146,7 +146,7 @@ STDMETHODIMP OlePropertyPage::Help(LPCOLESTR)
     return E_NOTIMPL;
 }
 
-SIZE OlePropertyPage::wish() const
+SIZE OlePropertyPage::preferredSize() const
 {
     const QSizeF size = QSizeF(m_page->sizeHint()) * m_page->devicePixelRatioF();
     return {std::lround(size.width()), std::lround(size.height())};
@@ -154,7 +154,7 @@ SIZE OlePropertyPage::wish() const
 
 RECT OlePropertyPage::placeIn(const RECT &room) const
 {
-    const SIZE most = wish();
+    const SIZE most = preferredSize();
     return {room.left, room.top, std::min(room.right, room.left + most.cx),
             std::min(room.bottom, room.top + most.cy)};
 }

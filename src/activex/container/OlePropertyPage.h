@@ -40,7 +40,7 @@ private:
     static HRESULT create(IUnknown *outer, REFIID iid, void **object);
 
     // The size at which the page shows everything, in pixels.
-    SIZE wish() const;
+    SIZE preferredSize() const;
     // Never more than the page wishes: a frame may name more room than its window has in the end.
     RECT placeIn(const RECT &room) const;
 

@@ -17,7 +17,7 @@ public:
 
     STDMETHODIMP Draw(DWORD aspect, LONG index, void *aspectInfo, DVTARGETDEVICE *target, HDC targetContext,
                       HDC context, LPCRECTL bounds, LPCRECTL windowBounds,
-                      BOOL(CALLBACK *shouldContinue)(ULONG_PTR), ULONG_PTR goOnArgument) override;
+                      BOOL(CALLBACK *shouldContinue)(ULONG_PTR), ULONG_PTR continueArgument) override;
     STDMETHODIMP GetColorSet(DWORD aspect, LONG index, void *aspectInfo, DVTARGETDEVICE *target,
                              HDC targetContext, LOGPALETTE **colours) override;
     STDMETHODIMP Freeze(DWORD aspect, LONG index, void *aspectInfo, DWORD *key) override;

@@ -21,7 +21,7 @@ namespace {
 
 // COM frees a server when it leaves a thread, whatever the server says. Qt would be left with pointers to
 // types, resources and window procedures that are gone.
-void stayLoaded()
+void pinModule()
 {
     HMODULE pinned = nullptr;
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
@@ -52,7 +52,7 @@ void useChinese()
 
 HRESULT startQt()
 {
-    stayLoaded();
+    pinModule();
     if (!QCoreApplication::instance()) {
         // The platform plugin lies beside this file, wherever the host program is.
         QCoreApplication::addLibraryPath(moduleFolder());

@@ -7,7 +7,6 @@
 #include "control/connection/ConnectionBuilder.h"
 #include "control/connection/ConnectionTexts.h"
 #include "forms/Messages.h"
-#include "sql/AllDBType.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -40,23 +39,20 @@ QStringList dataSourceNames()
     return names;
 }
 
-// Building a connection to Oracle goes through the factory, which may lead it elsewhere; a host's own may
-// have to reach something first. Null after telling that it failed.
+// A host's factory may have to reach something first. Null when that failed, which the user has been shown.
 std::shared_ptr<ADODB::Connection> newConnection(QWidget *parent, qint32 dbType)
 {
-    if (dbType != dbOracle)
-        return std::make_shared<ADODB::Connection>();
     try {
-        return ADODB::ConnectionFactory::instance().newConnection(dbType);
-    } catch (const std::exception &error) {
-        Messages::show(parent, ConnectionTexts::NotConnected.arg(QString::fromUtf8(error.what())));
+        return ADODB::ConnectionFactory::connectionToBuild(dbType);
+    } catch (const ADODB::Error &error) {
+        Messages::show(parent, ConnectionTexts::NotConnected.arg(error.Description()));
         return nullptr;
     }
 }
 
 } // namespace
 
-std::optional<QString> BuildConnection(QWidget *parent, const QString &present, qint32 dbType)
+std::optional<QString> buildConnection(QWidget *parent, const QString &present, qint32 dbType)
 {
     const auto connection = newConnection(parent, dbType);
     if (!connection)

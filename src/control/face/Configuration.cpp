@@ -87,12 +87,12 @@ QString threeTierFile()
 
 } // namespace
 
-QString ReadProfileValue(const QString &section, const QString &key, const QString &filePath)
+QString readProfileValue(const QString &section, const QString &key, const QString &filePath)
 {
     return profileValue(IniSection(filePath, section), key);
 }
 
-qint32 Read3TierSwitch()
+qint32 readThreeTierSwitch()
 {
     return readThreeTierSettings().isOn ? 1 : 0;
 }

@@ -10,10 +10,10 @@ namespace KOVAVSFDataGridLib {
 
 // The value of an entry of an INI file without blanks around it, or "Return Err" when the file, the
 // section or the key is missing. Names count in any letter case. A value is at most 254 characters long.
-QString ReadProfileValue(const QString &section, const QString &key, const QString &filePath);
+QString readProfileValue(const QString &section, const QString &key, const QString &filePath);
 
 // 1 when the file MERIXUSER3TIER.cfg beside the library switches the middle tier on, else 0.
-qint32 Read3TierSwitch();
+qint32 readThreeTierSwitch();
 
 // The switch with the middle tier that its section names: `Server` and `Port`, or a whole `Connection`
 // string. What isn't there is empty. The file is read once.

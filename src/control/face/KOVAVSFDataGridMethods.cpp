@@ -105,7 +105,7 @@ void KOVAVSFDataGrid::GetConnection()
 {
     ConnectDialog dialog(
         [this](QWidget *parent, const QString &present) {
-            return BuildConnection(parent, present, DBType());
+            return buildConnection(parent, present, DBType());
         },
         this);
     d->runSteps(u"Get Connection", {[&] { dialog.SetConnectionString(d->session->texts.connectionString); },

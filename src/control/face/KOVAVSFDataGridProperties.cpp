@@ -8,7 +8,6 @@
 #include "grid/FlexGrid.h"
 #include "language/Language.h"
 #include "query/derivation/SqlText.h"
-#include "query/modQNVSFHFDataMain.h"
 #include "session/SessionWindow.h"
 #include "session/commands/CommandKeys.h"
 #include "sql/SelectParts.h"
@@ -22,6 +21,16 @@ using namespace KOVAVSFDataGridLib;
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// The public enumerations repeat those of the rooms below, which hosts can't include.
+static_assert(int{KOVAVSFDataGrid::dbAccess} == int{dbAccess} &&
+              int{KOVAVSFDataGrid::dbOracle} == int{dbOracle} &&
+              int{KOVAVSFDataGrid::dbSQLServer} == int{dbSQLServer});
+static_assert(int{KOVAVSFDataGrid::DataTable} == int{FromTable} &&
+              int{KOVAVSFDataGrid::DataView} == int{FromView} &&
+              int{KOVAVSFDataGrid::DefSQL} == int{FromOwnStatement});
+static_assert(KOVAVSFDataGrid::ModelAll == static_cast<int>(FieldView::All) &&
+              KOVAVSFDataGrid::ModelPart == static_cast<int>(FieldView::Part));
 
 // The field list is looked for by its words alone, which comments and odd blanks can hide.
 bool selectsFromTable(const QString &statement)
@@ -143,7 +152,7 @@ void KOVAVSFDataGrid::PutUseModel(qint32 model)
 {
     if (d->isUserMode())
         throw ControlError(ControlError::SetNotSupportedAtRuntime, GridTexts::CantSetAtRunTime);
-    d->useModel = model;
+    d->useModel = static_cast<UseModelChoose>(model);
     d->parts.Toolbar1->setButtonVisible(CommandKeys::Filter, model == ModelUsing);
     d->parts.Toolbar1->setButtonVisible(CommandKeys::Sort, model == ModelUsing);
 }
@@ -187,8 +196,9 @@ QString KOVAVSFDataGrid::ConnectionString() const
 void KOVAVSFDataGrid::PutConnectionString(const QString &text)
 {
     const QPointer<KOVAVSFDataGrid> alive(this);
+    SharedValues &shared = d->session->shared; // of the process
     d->put(d->session->texts.connectionString, text, "ConnectionString");
-    ClearSQLFieldList();
+    shared.parsed.ClearSQLFieldList();
     for (const auto put : {&KOVAVSFDataGrid::PutSQLShow, &KOVAVSFDataGrid::PutSQLFilter,
                            &KOVAVSFDataGrid::PutSQLSort, &KOVAVSFDataGrid::PutSQLPartDisplay}) {
         if (alive)
@@ -196,7 +206,7 @@ void KOVAVSFDataGrid::PutConnectionString(const QString &text)
     }
     if (!alive)
         return;
-    d->session->shared.connectionString = text;
+    shared.connectionString = text;
     d->session->filterManager().ClearFilter();
     d->session->window().refreshCommands(); // those that need the history
 }
@@ -235,7 +245,7 @@ void KOVAVSFDataGrid::PutSQLPartDisplay(const QString &statement)
 {
     d->session->texts.sqlPartDisplay = statement;
     const QString joined = joinStatementLines(statement);
-    const auto failure = ParseSQLFieldList(joined, static_cast<KOVAVSFDataGridLib::AllDBType>(DBType()));
+    const auto failure = d->session->shared.parsed.ParseSQLFieldList(joined, d->session->shared.dbType);
     const QPointer<KOVAVSFDataGrid> alive(this);
     if (failure && !selectsFromTable(joined)) {
         Messages::show(this, GridTexts::FieldListFailed, GridTexts::FieldListFailedTitle,
@@ -275,7 +285,7 @@ qint32 KOVAVSFDataGrid::TableType() const
 void KOVAVSFDataGrid::PutTableType(qint32 type)
 {
     d->session->shared.tableType = static_cast<qint16>(type);
-    d->put(d->session->texts.tableType, type, "TableType");
+    d->put(d->session->texts.tableType, static_cast<StatementSource>(type), "TableType");
 }
 
 bool KOVAVSFDataGrid::ErrorHint() const
@@ -296,7 +306,7 @@ qint32 KOVAVSFDataGrid::DBType() const
 void KOVAVSFDataGrid::PutDBType(qint32 type)
 {
     d->session->shared.dbType16 = static_cast<qint16>(type);
-    d->put(d->session->shared.dbType, type, "DBType");
+    d->put(d->session->shared.dbType, static_cast<KOVAVSFDataGridLib::AllDBType>(type), "DBType");
 }
 
 QString KOVAVSFDataGrid::SysDBCnn() const

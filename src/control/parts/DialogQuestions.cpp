@@ -81,7 +81,7 @@ std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionReque
 {
     FilterRequest prepared;
     prepared.connectionString = request.connectionString;
-    prepared.dbType = static_cast<AllDBType>(request.dbType);
+    prepared.dbType = request.dbType;
     prepared.tableType = request.tableType;
     prepared.sqlShow = request.sqlShow;
     prepared.connection = request.connection;

@@ -59,7 +59,7 @@ constexpr qint32 guidType = 72;
 QString classOf(qint32 adoType, Engine engine)
 {
     return adoType == currencyType && engine != Engine::Other ? QStringLiteral("1")
-                                                              : ClassifyFieldType(adoType);
+                                                              : classifyFieldType(adoType);
 }
 
 struct SearchedField
@@ -202,7 +202,7 @@ QString numberCondition(const QString &field, qint32 adoType, const QString &cel
 
 } // namespace
 
-QStringList SplitText(const QString &text, const QString &separator, bool keepsSeparator)
+QStringList splitText(const QString &text, const QString &separator, bool keepsSeparator)
 {
     if (text.isEmpty())
         return {};
@@ -219,7 +219,7 @@ QStringList SplitText(const QString &text, const QString &separator, bool keepsS
     return pieces;
 }
 
-QString ClassifyFieldType(qint32 adoType)
+QString classifyFieldType(qint32 adoType)
 {
     static constexpr std::array<qint32, 14> numbers{2, 3, 4, 5, 14, 16, 17, 18, 19, 20, 21, 72, 131, 139};
     static constexpr std::array<qint32, 7> texts{8, 129, 130, 200, 201, 202, 203};
@@ -259,7 +259,7 @@ bool BuildLikeCondition(const QString &strText, std::span<const TypedField> fiel
         if (!searched || searched->empty())
             return false;
         QStringList words;
-        for (const QString &word : SplitText(strText, QStringLiteral("%")))
+        for (const QString &word : splitText(strText, QStringLiteral("%")))
             words.append(QStringLiteral(" (") +
                          wordCondition(operandsFor(*searched, word, mode.engine), word, database, mode) +
                          QStringLiteral(") "));

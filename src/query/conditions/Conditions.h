@@ -22,10 +22,10 @@ struct TypedField
 // The pieces before each separator, empty ones too, and what is left over if it isn't empty. With
 // `keepsSeparator` each piece ends in its separator. A text without separator, or an empty separator, gives
 // the text itself.
-QStringList SplitText(const QString &text, const QString &separator, bool keepsSeparator = false);
+QStringList splitText(const QString &text, const QString &separator, bool keepsSeparator = false);
 
 // "1" for numbers, "2" for texts, "3" for dates, "0" for everything else.
-QString ClassifyFieldType(qint32 adoType);
+QString classifyFieldType(qint32 adoType);
 
 // The text between FROM and WHERE, ORDER BY or the end, without blanks around it. The keywords are looked for
 // in capitals, and in any case when there is no FROM in capitals; without any FROM the text is empty. Nothing

@@ -5,7 +5,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-std::optional<QString> PrepareFindText(const QString &typed)
+std::optional<QString> prepareFindText(const QString &typed)
 {
     const QString trimmed = CharText::trim(typed);
     if (trimmed.isEmpty())
@@ -21,10 +21,10 @@ std::optional<QString> PrepareFindText(const QString &typed)
     return text;
 }
 
-FindAnswer PressFind(const QString &typed, const QString &fieldComboText)
+FindAnswer pressFind(const QString &typed, const QString &fieldComboText)
 {
     FindAnswer answer;
-    const auto text = PrepareFindText(typed);
+    const auto text = prepareFindText(typed);
     if (!text)
         return answer;
     answer.strFindText = *text;

@@ -8,7 +8,7 @@
 namespace KOVAVSFDataGridLib {
 
 // The typed words with one "%" between them; nothing when only blanks were typed.
-std::optional<QString> PrepareFindText(const QString &typed);
+std::optional<QString> prepareFindText(const QString &typed);
 
 struct FindAnswer
 {
@@ -18,6 +18,6 @@ struct FindAnswer
     bool unloads = false;         // whether the dialog is done
 };
 
-FindAnswer PressFind(const QString &typed, const QString &fieldComboText);
+FindAnswer pressFind(const QString &typed, const QString &fieldComboText);
 
 } // namespace KOVAVSFDataGridLib

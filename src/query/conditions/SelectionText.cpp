@@ -9,7 +9,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-QString ComposeFieldList(const QList<ListedField> &rows)
+QString composeFieldList(const QList<ListedField> &rows)
 {
     QStringList names;
     for (const ListedField &row : rows) {
@@ -43,7 +43,7 @@ QList<bool> SetListFieldCheck(const QStringList &rowTexts, const QStringList &pa
     return checks;
 }
 
-SortTerm SplitSortTerm(const QString &term)
+SortTerm splitSortTerm(const QString &term)
 {
     const auto descending = CharText::findUpper(term, QStringLiteral(" DESC"));
     if (descending == 0)
@@ -51,7 +51,7 @@ SortTerm SplitSortTerm(const QString &term)
     return {CharText::First(term, descending - 1), QueryTexts::Descending};
 }
 
-QString ComposeSortList(const QList<SortTerm> &terms)
+QString composeSortList(const QList<SortTerm> &terms)
 {
     QStringList written;
     for (const SortTerm &term : terms) {

@@ -22,15 +22,15 @@ struct SortTerm
 
 // The checked names, comma-separated, as they are written; one of which that isn't known gets brackets when
 // it has a blank or "(", unless it begins or ends with a bracket.
-QString ComposeFieldList(const QList<ListedField> &rows);
+QString composeFieldList(const QList<ListedField> &rows);
 
 // For each row, whether a part field is the row's name, plain, in brackets or in double quotes.
 QList<bool> SetListFieldCheck(const QStringList &rowTexts, const QStringList &partFields);
 
 // A term is descending when " DESC" occurs in it, in any case; the field is what stands before.
-SortTerm SplitSortTerm(const QString &term);
+SortTerm splitSortTerm(const QString &term);
 
 // The terms, comma-separated; ascending ones get no keyword.
-QString ComposeSortList(const QList<SortTerm> &terms);
+QString composeSortList(const QList<SortTerm> &terms);
 
 } // namespace KOVAVSFDataGridLib

@@ -28,7 +28,7 @@ QString withoutListWords(QString item)
 
 } // namespace
 
-QString ShortFieldName(const QString &writtenName)
+QString shortFieldName(const QString &writtenName)
 {
     const auto dot = writtenName.indexOf(u'.');
     return withoutBrackets(writtenName.mid(dot + 1));

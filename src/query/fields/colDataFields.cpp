@@ -44,7 +44,7 @@ bool colDataFields::AddFieldsByCol(const QStringList &FieldNameCol)
 bool colDataFields::AppendFieldRealNameByCol(const QStringList &FieldNameCol)
 {
     for (const QString &written : FieldNameCol) {
-        const QString name = ShortFieldName(written);
+        const QString name = shortFieldName(written);
         clsDataField *const field = name.isEmpty() ? nullptr : Named(name);
         if (field)
             field->FieldWholeName = written;

@@ -50,8 +50,8 @@ void goBackTo(Session &session, qsizetype position, StepBack stepBack)
     const ADODB::Notifications::Hold hold(session.notifications());
     session.show(*opened);
     rollback.keepChanges();
-    session.trail().putAhead(session.history(), std::move(left));
-    session.trail().noteAgain(session.history(), opened->recordset->RecordCount());
+    session.trail().setAhead(session.history(), std::move(left));
+    session.trail().replaceNote(session.history(), opened->recordset->RecordCount());
     showAsEntry(session, session.history().Item(key));
 }
 
@@ -114,8 +114,8 @@ void goForward(Session &session, qsizetype steps)
     history.GetCurrSQLFieldsStatus();
     rollback.keepChanges();
     ahead.erase(ahead.begin(), ahead.begin() + steps);
-    session.trail().putAhead(history, std::move(ahead));
-    session.trail().noteAgain(history, opened->recordset->RecordCount());
+    session.trail().setAhead(history, std::move(ahead));
+    session.trail().replaceNote(history, opened->recordset->RecordCount());
     showAsEntry(session, history.Item(history.Count()));
 }
 

@@ -4,14 +4,14 @@
 
 namespace KOVAVSFDataGridLib {
 
-void StatementTrail::note(const colShowSQLSentences &history, qint64 records)
+void StatementTrail::addNote(const colShowSQLSentences &history, qint64 records)
 {
     const clsShowSQLSentence *const latest = history.Item(history.Count());
     if (latest && !noteOf(*latest))
-        noteAgain(history, records);
+        replaceNote(history, records);
 }
 
-void StatementTrail::noteAgain(const colShowSQLSentences &history, qint64 records)
+void StatementTrail::replaceNote(const colShowSQLSentences &history, qint64 records)
 {
     const clsShowSQLSentence *const latest = history.Item(history.Count());
     if (!latest)
@@ -44,7 +44,7 @@ const std::vector<clsShowSQLSentence> &StatementTrail::ahead(const colShowSQLSen
     return latest && latest->SQLKey == m_key && latest->ShowSQL == m_statement ? m_ahead : none;
 }
 
-void StatementTrail::putAhead(const colShowSQLSentences &history, std::vector<clsShowSQLSentence> entries)
+void StatementTrail::setAhead(const colShowSQLSentences &history, std::vector<clsShowSQLSentence> entries)
 {
     const clsShowSQLSentence *const latest = history.Item(history.Count());
     m_ahead = std::move(entries);

@@ -30,15 +30,15 @@ public:
     }
 
     // Notes that the latest entry shows so many records, unless it has a note.
-    void note(const colShowSQLSentences &history, qint64 records);
+    void addNote(const colShowSQLSentences &history, qint64 records);
     // The same with a new note.
-    void noteAgain(const colShowSQLSentences &history, qint64 records);
+    void replaceNote(const colShowSQLSentences &history, qint64 records);
     std::optional<Note> noteOf(const clsShowSQLSentence &entry) const;
 
     // The entries ahead of the latest one, the next one first; none once another one was added.
     const std::vector<clsShowSQLSentence> &ahead(const colShowSQLSentences &history) const;
     // The latest entry has these ahead of it.
-    void putAhead(const colShowSQLSentences &history, std::vector<clsShowSQLSentence> entries);
+    void setAhead(const colShowSQLSentences &history, std::vector<clsShowSQLSentence> entries);
 
 private:
     struct Noted

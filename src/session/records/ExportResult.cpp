@@ -99,21 +99,21 @@ bool exportResult(Session &session, const ExportAnswer &what)
         what.isMarkedOnly ? markedRecords(session) : RecordRange{1, recordset->RecordCount()};
     const ExportColumns columns =
         exportColumnsOf(session, what.hasAllColumns ? allColumns(session) : session.window().shownColumns());
-    QString toTell;
+    QString message;
     bool isWritten = false;
     try {
         writeUnderProgress(session, SessionMessages::RecordsExported, range, [&](const auto &shouldContinue) {
             const ExportOutcome outcome =
                 exportToFile(what.file, what.options, *recordset, range, columns, shouldContinue);
             isWritten = outcome.isWritten;
-            toTell = outcome.losses;
+            message = outcome.losses;
             return isWritten;
         });
     } catch (const ADODB::Error &error) {
-        toTell = error.Description();
+        message = error.Description();
     }
-    if (!toTell.isEmpty())
-        session.questions().show(toTell);
+    if (!message.isEmpty())
+        session.questions().show(message);
     return isWritten;
 }
 

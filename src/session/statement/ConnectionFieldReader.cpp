@@ -16,7 +16,6 @@
 #include <QtCore/QStringList>
 
 #include <algorithm>
-#include <exception>
 
 namespace KOVAVSFDataGridLib {
 
@@ -84,11 +83,19 @@ ConnectionFieldReader::connectUnlessCancelled(const QString &connectionString)
     return connect(connectionString);
 }
 
-void ConnectionFieldReader::noteFailure(const std::exception &error)
+bool ConnectionFieldReader::attempt(const std::function<void()> &reading)
 {
-    m_failure = QString::fromUtf8(error.what());
-    const auto *const cause = dynamic_cast<const ADODB::Error *>(&error);
-    m_isCancelled = m_commands > 0 && cause && cause->is(ADODB::dbErrCancelled);
+    try {
+        reading();
+        return true;
+    } catch (const ADODB::Error &error) {
+        m_failure = error.Description();
+        m_isCancelled = m_commands > 0 && error.is(ADODB::dbErrCancelled);
+    } catch (const std::exception &error) {
+        qWarning("Fields could not be read: %s", error.what());
+        m_failure = QString::fromUtf8(error.what());
+    }
+    return false;
 }
 
 ConnectionFieldReader::Command::Command(ConnectionFieldReader &reader) : m_reader(reader)
@@ -104,13 +111,7 @@ ConnectionFieldReader::Command::~Command()
 
 bool ConnectionFieldReader::Open(const QString &connectionString)
 {
-    try {
-        connectUnlessCancelled(connectionString);
-        return true;
-    } catch (const std::exception &error) { // a connection factory of the host's may throw anything
-        noteFailure(error);
-        return false;
-    }
+    return attempt([&] { connectUnlessCancelled(connectionString); });
 }
 
 std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QString &connectionString,
@@ -124,9 +125,9 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
         m_known.insert(key, *derived);
         return derived;
     }
-    try {
+    std::vector<SourceField> fields;
+    const bool isRead = attempt([&] {
         const auto connection = connectUnlessCancelled(connectionString);
-        std::vector<SourceField> fields;
         try {
             fields = describe(*connection, GetNoRowSQL(statement));
         } catch (const ADODB::Error &error) {
@@ -136,12 +137,11 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
             // It goes over another connection where this one turned out to be lost.
             fields = describe(*connect(connectionString), statement);
         }
-        m_known.insert(key, fields);
-        return fields;
-    } catch (const std::exception &error) {
-        noteFailure(error);
+    });
+    if (!isRead)
         return {};
-    }
+    m_known.insert(key, fields);
+    return fields;
 }
 
 // Each way to the server is a wait, so what other statements have shown is not asked for again.

@@ -4,7 +4,7 @@
 
 #include <QtCore/QHash>
 
-#include <exception>
+#include <functional>
 #include <memory>
 
 namespace ADODB {
@@ -57,10 +57,11 @@ public:
     void forget();
 
 private:
-    // Throws ADODB::Error, and what a connection factory of the host's throws.
+    // Throws ADODB::Error.
     std::shared_ptr<ADODB::Connection> connect(const QString &connectionString);
     std::shared_ptr<ADODB::Connection> connectUnlessCancelled(const QString &connectionString);
-    void noteFailure(const std::exception &error);
+    // Whether the reading succeeded; keeps why not.
+    bool attempt(const std::function<void()> &reading);
     std::optional<std::vector<SourceField>> fromKnown(const QString &connectionString,
                                                       const QString &statement) const;
     void closeOwn();

@@ -30,10 +30,10 @@ QJsonArray JsonOf(const QStringList &texts)
 
 QJsonValue ParseSQLFieldListCase(const Arguments &arguments)
 {
-    ParsedStatements &parsed = SharedValues::instance().parsed;
+    ParsedStatements parsed;
     parsed.strSQLTable = arguments.Text(2);
     parsed.colSQLFields = arguments.Texts(3);
-    const bool isFailed = ParseSQLFieldList(arguments.Text(1), DatabaseOf(arguments)).has_value();
+    const bool isFailed = parsed.ParseSQLFieldList(arguments.Text(1), DatabaseOf(arguments)).has_value();
     return QJsonObject{{u"failed"_s, isFailed},
                        {u"strSQLTable"_s, parsed.strSQLTable},
                        {u"colSQLFields"_s, JsonOf(parsed.colSQLFields)}};
@@ -41,11 +41,11 @@ QJsonValue ParseSQLFieldListCase(const Arguments &arguments)
 
 QJsonValue ParseSelFieldListCase(const Arguments &arguments)
 {
-    ParsedStatements &parsed = SharedValues::instance().parsed;
+    ParsedStatements parsed;
     parsed.colSelFields = arguments.Texts(1);
     bool isFailed = false;
     try {
-        ParseSelFieldList(arguments.Text(0));
+        parsed.ParseSelFieldList(arguments.Text(0));
     } catch (const std::invalid_argument &) {
         isFailed = true;
     }
@@ -219,7 +219,7 @@ QJsonValue ComposeFieldListCase(const Arguments &arguments)
         const Arguments pair(ListOf(row));
         rows.append({pair.Text(0), pair.Flag(1)});
     }
-    return ComposeFieldList(rows);
+    return composeFieldList(rows);
 }
 
 QJsonValue ListFieldCheckCase(const Arguments &arguments)
@@ -232,7 +232,7 @@ QJsonValue ListFieldCheckCase(const Arguments &arguments)
 
 QJsonValue SplitSortTermCase(const Arguments &arguments)
 {
-    const SortTerm term = SplitSortTerm(arguments.Text(0));
+    const SortTerm term = splitSortTerm(arguments.Text(0));
     return QJsonArray{term.field, term.orderWord};
 }
 
@@ -243,18 +243,18 @@ QJsonValue ComposeSortListCase(const Arguments &arguments)
         const Arguments pair(ListOf(row));
         terms.append({pair.Text(0), pair.Text(1)});
     }
-    return ComposeSortList(terms);
+    return composeSortList(terms);
 }
 
 QJsonValue PrepareFindTextCase(const Arguments &arguments)
 {
-    const auto text = PrepareFindText(arguments.Text(0));
+    const auto text = prepareFindText(arguments.Text(0));
     return text ? QJsonValue(*text) : QJsonValue();
 }
 
 QJsonValue PressFindCase(const Arguments &arguments)
 {
-    const FindAnswer answer = PressFind(arguments.Text(0), arguments.Text(1));
+    const FindAnswer answer = pressFind(arguments.Text(0), arguments.Text(1));
     return QJsonObject{{u"strFindText"_s, answer.strFindText},
                        {u"strFieldName"_s, answer.strFieldName},
                        {u"bIsAppointField"_s, answer.bIsAppointField},
@@ -288,11 +288,11 @@ QHash<QString, TextCase> MakeTextCases()
         {u"QNComSplitString1"_s, SplitString1Case},
         {u"QNComSplitString2"_s, SplitString2Case},
         {u"QNComSplitString3"_s, SplitString3Case},
-        {u"ShortFieldName"_s, [](const A &a) { return ShortFieldName(a.Text(0)); }},
+        {u"ShortFieldName"_s, [](const A &a) { return shortFieldName(a.Text(0)); }},
         {u"GetAllFieldNameSQL"_s, AllFieldNameCase},
         {u"GetRequirePartSQL"_s, RequirePartCase},
-        {u"SplitText"_s, [](const A &a) { return JsonOf(SplitText(a.Text(0), a.Text(1), a.Flag(2))); }},
-        {u"ClassifyFieldType"_s, [](const A &a) { return ClassifyFieldType(a.Number(0)); }},
+        {u"SplitText"_s, [](const A &a) { return JsonOf(splitText(a.Text(0), a.Text(1), a.Flag(2))); }},
+        {u"ClassifyFieldType"_s, [](const A &a) { return classifyFieldType(a.Number(0)); }},
         {u"GetTableOfSQL"_s, TableOfSQLCase},
         {u"BuildLikeCondition"_s, LikeConditionCase},
         {u"BuildLikeAllCondition"_s, LikeAllConditionCase},

@@ -50,14 +50,14 @@ private:
 };
 
 // The statement with the fields that the user chooses; empty when he cancels.
-QString askForFields(const FilterManagerRollback &ground, const clsShowSQLSentence &latest)
+QString askForFields(const FilterManagerRollback &rollback, const clsShowSQLSentence &latest)
 {
     QString partFields;
     latest.GetCurrUsePartFieldSQL(partFields);
     QString statement;
     const bool isChosen =
-        ground.manager().GetPartShowSelFields(latest.AllFields, partFields, latest.ShowSQL, statement);
-    return isChosen && ground.isResultUntouched() ? statement : QString();
+        rollback.manager().GetPartShowSelFields(latest.AllFields, partFields, latest.ShowSQL, statement);
+    return isChosen && rollback.isResultUntouched() ? statement : QString();
 }
 
 } // namespace

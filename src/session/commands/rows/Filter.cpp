@@ -58,7 +58,7 @@ bool isReplaced(Session &session)
 
 // Shows the records that meet a condition. What the database says against it goes to `refusal` where one is
 // given, else to the user.
-bool filterBy(Session &session, FilterManagerRollback &ground, const QString &condition, QString *refusal)
+bool filterBy(Session &session, FilterManagerRollback &rollback, const QString &condition, QString *refusal)
 {
     session.setLastFilter(condition);
     QString statement;
@@ -66,45 +66,45 @@ bool filterBy(Session &session, FilterManagerRollback &ground, const QString &co
     if (added.trimmed().isEmpty() || !session.addCondition(added, statement) ||
         !session.reloadFiltered(statement, true, refusal))
         return false;
-    ground.keepChanges();
+    rollback.keepChanges();
     return true;
 }
 
 // Asks until the database takes the condition or the user cancels.
-void askUser(Session &session, FilterManagerRollback &ground, const QString &field, bool replaces)
+void askUser(Session &session, FilterManagerRollback &rollback, const QString &field, bool replaces)
 {
     ConditionRequest request = session.conditionRequest();
     beginWhereUserIs(session, request, field, replaces);
     do {
         const QString condition = session.questions().askCondition(request);
-        if (!ground.isResultUntouched())
+        if (!rollback.isResultUntouched())
             return;
         request.refusal.clear();
-        if (filterBy(session, ground, condition, &request.refusal))
+        if (filterBy(session, rollback, condition, &request.refusal))
             session.lastBuilt = {condition, request.built};
-    } while (!request.refusal.isEmpty() && ground.isResultUntouched());
+    } while (!request.refusal.isEmpty() && rollback.isResultUntouched());
 }
 
 // Asks the host, and the user unless the host takes over. Neither when there is no statement to filter, or
 // when the host puts another result in its place.
-void askHost(Session &session, FilterManagerRollback &ground, const QString &field)
+void askHost(Session &session, FilterManagerRollback &rollback, const QString &field)
 {
     const bool replaces = isReplaced(session); // before the history is stepped back
 
     session.texts.passQurryFilter.clear();
     QString base;
-    colShowSQLSentences &history = ground.manager().SQLManager();
+    colShowSQLSentences &history = rollback.manager().SQLManager();
     if (!(session.isFromResult() ? history.GetLatestSQL(base) : history.GetFirstSQL(base)))
         return;
     constexpr qint32 leftToTheDialog = 1;
     qint32 cancel = leftToTheDialog;
     session.host().askFilter(cancel, base);
-    if (!ground.isResultUntouched())
+    if (!rollback.isResultUntouched())
         return;
     if (cancel == leftToTheDialog)
-        askUser(session, ground, field, replaces);
+        askUser(session, rollback, field, replaces);
     else
-        filterBy(session, ground, session.texts.passQurryFilter, nullptr);
+        filterBy(session, rollback, session.texts.passQurryFilter, nullptr);
 }
 
 } // namespace

@@ -35,16 +35,16 @@ std::vector<TypedField> searchedFields(const FindAnswer &answer, const colShowSQ
 }
 
 // Nothing when the words can't be searched for, or not any more.
-std::optional<QString> askUser(Session &session, const FilterManagerRollback &ground, const QString &latest)
+std::optional<QString> askUser(Session &session, const FilterManagerRollback &rollback, const QString &latest)
 {
-    const colDataFields catalogue = ground.manager().SQLManager().DataFields();
+    const colDataFields catalogue = rollback.manager().SQLManager().DataFields();
     const std::optional<FindAnswer> answer = session.questions().askWords(catalogue);
     QString condition;
-    if (!answer || !ground.isResultUntouched() ||
+    if (!answer || !rollback.isResultUntouched() ||
         !BuildLikeCondition(
             answer->text,
-            searchedFields(*answer, ground.manager().SQLManager(), session.result().recordset()->Fields()),
-            latest, ground.manager().DBType(), condition, session.result().engine()))
+            searchedFields(*answer, rollback.manager().SQLManager(), session.result().recordset()->Fields()),
+            latest, rollback.manager().DBType(), condition, session.result().engine()))
         return {};
     return condition;
 }
