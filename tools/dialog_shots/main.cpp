@@ -194,8 +194,8 @@ void takePages(Photographer &photographer)
     control.setProperty("SQLShow", u"select 订单编号, 客户名称, [送货 城市], 金额 from 订单"_s);
     control.setProperty("RecordSource", u"select 订单编号, 客户名称, [送货 城市], 金额 from 订单"_s);
     control.setProperty("SQLPartDisplay", u"select [订单编号],[金额] from 订单"_s);
-    for (const QString &name : PropertyPageNames()) {
-        PropertyPage *page = NewPropertyPage(name);
+    for (const QString &name : propertyPageNames()) {
+        PropertyPage *page = newPropertyPage(name);
         PageDialog dialog(page);
         page->SetSelectedControls({&control});
         if (auto *connection = qobject_cast<ConnectionString *>(page))
