@@ -35,7 +35,7 @@ Snapshot Recordset::Private::read(Session &session, const QString &statement)
     RowStore store(query->columns(), memoryLimit);
     query->fetch(store,
                  [&](qint64 rowsRead) { return report ? report(rowsRead) : watched.shouldContinue(); });
-    editor.emplace(query->takeWriter(), query->whyReadOnly());
+    editor.emplace(query->releaseWriter(), query->whyReadOnly());
     return Snapshot(query->fields(), std::move(store));
 }
 

@@ -157,7 +157,7 @@ QString odbcWord(OleDbKind kind, const QString &keyword)
     return keyword;
 }
 
-std::optional<bool> switchIn(const ConnectionString &words, const QString &keyword)
+std::optional<bool> booleanValue(const ConnectionString &words, const QString &keyword)
 {
     const QString value = words.value(keyword);
     const auto isOneOf = [&](const auto &candidates) {
@@ -174,7 +174,7 @@ std::optional<bool> switchIn(const ConnectionString &words, const QString &keywo
     throw Error(adErrInvalidArgument, Texts::badSwitch().arg(keyword));
 }
 
-QString takeOut(ConnectionString &words, const QString &keyword)
+QString extractValue(ConnectionString &words, const QString &keyword)
 {
     QString value = words.value(keyword);
     words.remove(keyword);

@@ -13,9 +13,9 @@ QString odbcWord(OleDbKind kind, const QString &keyword);
 
 // A value that is yes or no in any of the ways to write it; nothing when the keyword is not there or empty.
 // Throws 3001 for anything else.
-std::optional<bool> switchIn(const ConnectionString &words, const QString &keyword);
+std::optional<bool> booleanValue(const ConnectionString &words, const QString &keyword);
 
 // Removes a keyword and returns its value.
-QString takeOut(ConnectionString &words, const QString &keyword);
+QString extractValue(ConnectionString &words, const QString &keyword);
 
 } // namespace ADODB

@@ -53,13 +53,13 @@ QString protocolOf(const QString &library)
 Server serverIn(ConnectionString &words)
 {
     // An address takes precedence over a name.
-    const QString address = takeOut(words, u"Address"_s);
+    const QString address = extractValue(words, u"Address"_s);
     Server server(address.isEmpty() ? words.value(u"Server"_s) : address);
     if (server.host.isEmpty())
         server.host = u"(local)"_s; // as the providers do
-    if (const QString port = takeOut(words, u"Port"_s); !port.isEmpty())
+    if (const QString port = extractValue(words, u"Port"_s); !port.isEmpty())
         server.port = port;
-    const QString protocol = protocolOf(takeOut(words, u"Network"_s));
+    const QString protocol = protocolOf(extractValue(words, u"Network"_s));
     if (server.protocol.isEmpty())
         server.protocol = protocol;
     return server;
@@ -81,7 +81,7 @@ void putServer(ConnectionString &words, Server server, const OdbcDriver &driver)
 
 void putLogin(ConnectionString &words)
 {
-    const bool trusted = switchIn(words, u"Trusted_Connection"_s).value_or(false);
+    const bool trusted = booleanValue(words, u"Trusted_Connection"_s).value_or(false);
     words.remove(u"Trusted_Connection"_s);
     if (!trusted)
         return;
@@ -95,7 +95,7 @@ void putLogin(ConnectionString &words)
 void putEncryption(ConnectionString &words, const OdbcDriver &driver, const QString &provider)
 {
     const bool isStrict = words.value(u"Encrypt"_s).compare("strict"_L1, Qt::CaseInsensitive) == 0;
-    std::optional<bool> encrypts = isStrict ? true : switchIn(words, u"Encrypt"_s);
+    std::optional<bool> encrypts = isStrict ? true : booleanValue(words, u"Encrypt"_s);
     words.remove(u"Encrypt"_s);
     if (!encrypts && provider.startsWith("MSOLEDBSQL19"_L1, Qt::CaseInsensitive))
         encrypts = true;
@@ -114,7 +114,7 @@ void putEncryption(ConnectionString &words, const OdbcDriver &driver, const QStr
 
 void putSwitch(ConnectionString &words, const QString &keyword)
 {
-    if (const std::optional<bool> on = switchIn(words, keyword))
+    if (const std::optional<bool> on = booleanValue(words, keyword))
         words.set(keyword, *on ? u"Yes"_s : u"No"_s);
 }
 

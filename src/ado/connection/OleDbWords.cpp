@@ -41,13 +41,13 @@ void take(ConnectionString &words, OleDbKind kind, const ConnectionString &from)
 void finishOracle(ConnectionString &words, const OdbcDriver &driver)
 {
     // The operating system's user logs in under this name, without a password.
-    if (switchIn(words, u"Trusted_Connection"_s).value_or(false)) {
+    if (booleanValue(words, u"Trusted_Connection"_s).value_or(false)) {
         words.set(u"UID"_s, u"/"_s);
         words.remove(u"PWD"_s);
     }
     words.remove(u"Trusted_Connection"_s);
     if (driver.words == OdbcDriver::Words::MicrosoftOracle && words.contains(u"DBQ"_s))
-        words.set(u"Server"_s, takeOut(words, u"DBQ"_s));
+        words.set(u"Server"_s, extractValue(words, u"DBQ"_s));
 }
 
 void finishAccess(ConnectionString &words, const OdbcDriver &driver, int bits)
@@ -59,10 +59,10 @@ void finishAccess(ConnectionString &words, const OdbcDriver &driver, int bits)
         !driver.name.contains(".accdb"_L1, Qt::CaseInsensitive))
         failWithoutDriver(OleDbKind::Access, {driver.name}, bits);
     // The driver has one word for the user's password and the file's. A user has one only in a workgroup.
-    const QString password = takeOut(words, u"DatabasePassword"_s);
+    const QString password = extractValue(words, u"DatabasePassword"_s);
     if (!password.isEmpty())
         words.set(u"PWD"_s, password);
-    const QString mode = takeOut(words, u"Mode"_s);
+    const QString mode = extractValue(words, u"Mode"_s);
     for (const QString &part : mode.split(u'|')) {
         if (part.trimmed().compare("Read"_L1, Qt::CaseInsensitive) == 0)
             words.set(u"ReadOnly"_s, u"1"_s);

@@ -33,7 +33,7 @@ public:
     // number of rows read so far; throws dbErrCancelled when not. `rows` is without meaning while it asks.
     virtual void fetch(RowStore &rows, const std::function<bool(qint64 rowsRead)> &shouldContinue) = 0;
     // Null when rows can't be written back; whyReadOnly() then says why.
-    virtual std::unique_ptr<RowWriter> takeWriter() = 0;
+    virtual std::unique_ptr<RowWriter> releaseWriter() = 0;
     virtual QString whyReadOnly() const = 0;
 };
 

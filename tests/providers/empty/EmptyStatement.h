@@ -12,7 +12,7 @@ public:
     const std::vector<FieldInfo> &fields() const override { return m_fields; }
     int columns() const override { return static_cast<int>(m_fields.size()); }
     void fetch(RowStore &rows, const std::function<bool(qint64)> &shouldContinue) override;
-    std::unique_ptr<RowWriter> takeWriter() override { return nullptr; }
+    std::unique_ptr<RowWriter> releaseWriter() override { return nullptr; }
     QString whyReadOnly() const override;
 
 private:

@@ -72,7 +72,7 @@ std::shared_ptr<OdbcPool> OdbcPool::open(OdbcLogin login)
         pool = registry().pools.value(key).lock();
     }
     if (pool) {
-        pool->keepReady();
+        pool->prepareIdle();
         return pool;
     }
     pool.reset(new OdbcPool(std::move(login)));
@@ -117,16 +117,16 @@ void OdbcPool::learnQuoting()
                         modes.contains(u"MSSQL"_s)};
 }
 
-void OdbcPool::keepReady()
+void OdbcPool::prepareIdle()
 {
-    if (auto connection = takeIdle()) {
-        giveBack(std::move(connection));
+    if (auto connection = acquireIdle()) {
+        returnConnection(std::move(connection));
         return;
     }
-    giveBack(connectTo(m_login));
+    returnConnection(connectTo(m_login));
 }
 
-std::unique_ptr<OdbcConnection> OdbcPool::takeIdle()
+std::unique_ptr<OdbcConnection> OdbcPool::acquireIdle()
 {
     // What is not taken ends only when the lock is released.
     std::vector<std::unique_ptr<OdbcConnection>> ended;
@@ -144,20 +144,20 @@ std::unique_ptr<OdbcConnection> OdbcPool::takeIdle()
     return nullptr;
 }
 
-std::shared_ptr<OdbcConnection> OdbcPool::take(const std::shared_ptr<std::atomic<bool>> &isLost)
+std::shared_ptr<OdbcConnection> OdbcPool::acquire(const std::shared_ptr<std::atomic<bool>> &isLost)
 {
-    std::unique_ptr<OdbcConnection> connection = takeIdle();
+    std::unique_ptr<OdbcConnection> connection = acquireIdle();
     if (!connection)
         connection = connectTo(m_login);
     return {connection.release(), [pool = shared_from_this(), isLost](OdbcConnection *used) {
                 std::unique_ptr<OdbcConnection> owned(used);
                 if (owned->isLost() && !owned->isUntried())
                     *isLost = true;
-                pool->giveBack(std::move(owned));
+                pool->returnConnection(std::move(owned));
             }};
 }
 
-void OdbcPool::giveBack(std::unique_ptr<OdbcConnection> connection)
+void OdbcPool::returnConnection(std::unique_ptr<OdbcConnection> connection)
 {
     if (m_isShared && !connection->isFit())
         return;

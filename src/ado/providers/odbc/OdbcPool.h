@@ -34,7 +34,7 @@ public:
     const OdbcEngine &engine() const { return m_engine; }
     // `isLost` becomes true when the session turns out to be lost, unless that happened before anything was
     // done with it; see OdbcConnection::isUntried().
-    std::shared_ptr<OdbcConnection> take(const std::shared_ptr<std::atomic<bool>> &isLost);
+    std::shared_ptr<OdbcConnection> acquire(const std::shared_ptr<std::atomic<bool>> &isLost);
     // Ends all sessions that nobody uses: one of them was dead, so the others are.
     void dropIdle();
 
@@ -42,9 +42,9 @@ private:
     explicit OdbcPool(OdbcLogin login);
     void connectFirst();
     void learnQuoting();
-    void keepReady();
-    std::unique_ptr<OdbcConnection> takeIdle();
-    void giveBack(std::unique_ptr<OdbcConnection> connection);
+    void prepareIdle();
+    std::unique_ptr<OdbcConnection> acquireIdle();
+    void returnConnection(std::unique_ptr<OdbcConnection> connection);
 
     OdbcLogin m_login;
     OdbcEngine m_engine;

@@ -80,7 +80,7 @@ std::shared_ptr<OdbcConnection> OdbcSession::connection()
         connection = m_kept;
     }
     if (!connection)
-        connection = pool->take(m_isLost);
+        connection = pool->acquire(m_isLost);
     if (operation)
         operation->setLease(this, connection);
     const QMutexLocker lock(&m_mutex);

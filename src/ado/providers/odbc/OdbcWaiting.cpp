@@ -47,7 +47,7 @@ OdbcWaitingStatement::OdbcWaitingStatement(std::shared_ptr<OdbcSession> session,
       m_columns(m_statement->columns()),
       m_whyReadOnly(m_statement->whyReadOnly())
 {
-    if (auto writer = m_statement->takeWriter())
+    if (auto writer = m_statement->releaseWriter())
         m_writer = std::make_unique<OdbcWaitingWriter>(std::move(writer));
 }
 

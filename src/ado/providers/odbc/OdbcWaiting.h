@@ -20,7 +20,7 @@ public:
     const std::vector<FieldInfo> &fields() const override { return m_fields; }
     int columns() const override { return m_columns; }
     void fetch(RowStore &rows, const std::function<bool(qint64)> &shouldContinue) override;
-    std::unique_ptr<RowWriter> takeWriter() override { return std::move(m_writer); }
+    std::unique_ptr<RowWriter> releaseWriter() override { return std::move(m_writer); }
     QString whyReadOnly() const override { return m_whyReadOnly; }
 
 private:

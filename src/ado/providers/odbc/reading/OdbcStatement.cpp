@@ -158,7 +158,7 @@ void OdbcStatement::fetch(RowStore &rows)
     }
 }
 
-std::unique_ptr<OdbcRowWriter> OdbcStatement::takeWriter()
+std::unique_ptr<OdbcRowWriter> OdbcStatement::releaseWriter()
 {
     return std::move(m_writer);
 }

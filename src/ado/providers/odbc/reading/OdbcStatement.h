@@ -30,7 +30,7 @@ public:
     void fetch(RowStore &rows);
     // Ends what the server holds.
     void release();
-    std::unique_ptr<OdbcRowWriter> takeWriter();
+    std::unique_ptr<OdbcRowWriter> releaseWriter();
     QString whyReadOnly() const { return m_whyReadOnly; }
 
 private:
