@@ -28,7 +28,7 @@ QString writtenFile(const QByteArray &content)
 
 QString valueIn(const QByteArray &content)
 {
-    return ReadProfileValue(QStringLiteral("Use3Tier"), QStringLiteral("Server"), writtenFile(content));
+    return readProfileValue(QStringLiteral("Use3Tier"), QStringLiteral("Server"), writtenFile(content));
 }
 
 // What can be a value as it is: one line without quotes around it.
