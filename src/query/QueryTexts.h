@@ -13,6 +13,7 @@ inline const QString AllFields = u"全部"_s;
 inline const QString ApostropheInFilter = u"对不起，过滤内容中不能含有\"  ' \"符号!"_s;
 inline const QString NotDerived = u"该语句不是普通的 SELECT 查询，不能再过滤、排序或选择字段。"_s;
 inline const QString EqualNames = u"查询结果中有多个名为“%1”的字段，请先在语句中用 AS 给它们不同的名称。"_s;
+inline const QString UnknownTable = u"无法确定字段“%1”属于哪个表，请先在语句中写出各字段的名称，不用“*”。"_s;
 inline const QString UnnamedField = u"查询结果中有没有名称的字段，请先在语句中用 AS 给它命名。"_s;
 inline const QString TypeNotFiltered = u"对不起，过滤操作不支持选中内容的数据类型！"_s;
 

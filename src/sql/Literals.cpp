@@ -74,6 +74,12 @@ double halfStepOfFloat(double number)
     return (static_cast<double>(next) - static_cast<double>(nearest)) / 2;
 }
 
+// SQLite has no type for dates. `form` makes one text of all those that mean the same; %1 is the field.
+QString inOneForm(const Dialect &dialect, const QString &field, const QString &form)
+{
+    return dialect.engine == Engine::SQLite && !dialect.isOdbc ? form.arg(field) : field;
+}
+
 QString timeText(QTime time)
 {
     return time.toString(time.msec() == 0 ? u"HH:mm:ss"_s : u"HH:mm:ss.zzz"_s);
@@ -131,16 +137,20 @@ QString dateLiteral(const Dialect &dialect, QDate date)
 
 QString dateOperand(const Dialect &dialect, const QString &field)
 {
-    const bool isText = dialect.engine == Engine::SQLite && !dialect.isOdbc;
-    return isText ? u"COALESCE(date(%1), %1)"_s.arg(field) : field;
+    return inOneForm(dialect, field,
+                     u"COALESCE(REPLACE(strftime('%Y-%m-%d %H:%M:%f', %1), ' 00:00:00.000', ''), %1)"_s);
+}
+
+QString dayOperand(const Dialect &dialect, const QString &field)
+{
+    return inOneForm(dialect, field, u"COALESCE(date(%1), %1)"_s);
 }
 
 QString momentOperand(const Dialect &dialect, const QString &field)
 {
-    const bool isText = dialect.engine == Engine::SQLite && !dialect.isOdbc;
     // A fraction only where there is one, as literals have it.
-    return isText ? u"COALESCE(REPLACE(strftime('%Y-%m-%d %H:%M:%f', %1), '.000', ''), %1)"_s.arg(field)
-                  : field;
+    return inOneForm(dialect, field,
+                     u"COALESCE(REPLACE(strftime('%Y-%m-%d %H:%M:%f', %1), '.000', ''), %1)"_s);
 }
 
 QString timeLiteral(const Dialect &dialect, QTime time)

@@ -39,8 +39,11 @@ NumberRange rangeShownAs(const QString &number, FloatSize size, Engine engine);
 bool isNumberText(const QString &text);
 
 // A field of days or moments as it is compared with DateLiteral or MomentLiteral. SQLite keeps them as texts
-// of several forms, of which those that mean the same are to be equal.
+// of several forms, of which those that mean the same are to be equal. A day there can have a time, which is
+// shown with it: by dateOperand only midnight is the day itself, by dayOperand any time of it is neither
+// before nor after it.
 QString dateOperand(const Dialect &dialect, const QString &field);
+QString dayOperand(const Dialect &dialect, const QString &field);
 QString momentOperand(const Dialect &dialect, const QString &field);
 
 // Literals for a script that another program runs: without ODBC's escapes, and for the likely engine where

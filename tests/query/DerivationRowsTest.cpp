@@ -17,8 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Dialect dialect = dialectOf(dbAccess, Engine::SQLite);
-
 class DerivationRows : public testing::Test
 {
 protected:
@@ -33,7 +31,7 @@ protected:
     }
     static Derivation derivationOf(const QString &statement)
     {
-        return Derivation(statement, database->fields(statement), dialect);
+        return KovaTest::derivationOf(*database, statement);
     }
 
     static std::unique_ptr<SqliteRows> database;

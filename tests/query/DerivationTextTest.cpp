@@ -180,7 +180,18 @@ INSTANTIATE_TEST_SUITE_P(
                              u"ID.Ord|Cust.Ord|ID.Ord|Cust.Ord"_s, u"a.ID|a.Cust|b.ID|b.Cust"_s},
                     // The names say that the first table has more fields than the second.
                     StarCase{"Uneven", u"select a.*, b.* from Ord a, Ord b"_s, u"ID.Ord|N.Ord|M.Ord|ID.Ord"_s,
-                             u"|N|M|"_s}),
+                             u"|||"_s},
+                    // What comes before a star says nothing about it; what follows one can be of its table.
+                    StarCase{"BehindPlain", u"select a.ID, c.*, i.* from Ord a, Cust c, Item i"_s,
+                             u"ID.Ord|ID.Cust|Name.Cust|N.Item"_s, u"a.ID|c.ID|c.Name|i.N"_s},
+                    StarCase{"Unclear", u"select c.*, c.ID, i.* from Cust c, Item i"_s,
+                             u"ID.Cust|Name.Cust|ID.Cust|N.Item"_s, u"|||"_s},
+                    StarCase{"ViewBesideItsTable", u"select v.*, c.* from V v, Cust c"_s,
+                             u"ID.Cust|Name.Cust|ID.Cust|Name.Cust"_s, u"|||"_s},
+                    StarCase{"SelectBesideItsTable", u"select * from (select ID from Cust) x, Cust c"_s,
+                             u"ID.Cust|ID.Cust|Name.Cust"_s, u"||"_s},
+                    StarCase{"SelectWithAlias", u"select x.* from (select ID from Cust) x, Item i"_s,
+                             u"ID.Cust"_s, u"x.ID"_s}),
     [](const auto &parameter) { return std::string(parameter.param.name); });
 
 namespace {

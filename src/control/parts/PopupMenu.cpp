@@ -19,6 +19,7 @@ PopupMenu::PopupMenu(QWidget &window, const Kind &kind, const GridToolbar &toolb
 {
     setObjectName(kind.name);
     setAccessibleName(GridTexts::MenuName);
+    setToolTipsVisible(true); // why an item can't be used
     const int last = Command::lastMenuIndex(kind.texts);
     for (int index = 1; index <= last; ++index) {
         const Command *const command = Command::findMenuItem(kind.texts, index);
@@ -72,7 +73,9 @@ void PopupMenu::refresh(bool hasText)
         if (command->button)
             action->setVisible(m_toolbar.isButtonVisible(button));
         const bool isGiven = button.isEmpty() || m_toolbar.isButtonEnabled(button);
-        action->setEnabled(isGiven && (hasText || !texts.needsText) && m_session.whyNot(*command).isEmpty());
+        const QString why = m_session.whyNot(*command);
+        action->setEnabled(isGiven && (hasText || !texts.needsText) && why.isEmpty());
+        action->setToolTip(why);
     }
 }
 

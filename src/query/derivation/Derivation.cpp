@@ -18,13 +18,13 @@ const QString orderWords = u" ORDER BY "_s;
 } // namespace
 
 Derivation::Derivation(const QString &statement, const std::vector<SourceField> &fields,
-                       const Dialect &dialect)
+                       const Dialect &dialect, const StarSizes &sizes)
     // Which mode MariaDB is in is not known here. Brackets are names in one and an error in all others.
     : m_sql(statement, readingOf(dialect), {.brackets = true}),
       m_parts(SelectParts::of(m_sql)),
       m_dialect(dialect)
 {
-    nameFields(fields);
+    nameFields(fields, sizes);
     // A condition leaves the same rows before and after DISTINCT.
     const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
                         !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
@@ -91,7 +91,8 @@ QString Derivation::whyNot(DerivationStep step) const
         return QueryTexts::EqualNames.arg(equalName());
     const QStringList &usable = step == DerivationStep::Fields ? m_listed : m_written;
     if (!isWhole && !usable.isEmpty() && std::ranges::all_of(usable, &QString::isEmpty))
-        return QueryTexts::EqualNames.arg(equalName());
+        return equalName().isEmpty() ? QueryTexts::UnknownTable.arg(m_names.first())
+                                     : QueryTexts::EqualNames.arg(equalName());
     return {};
 }
 

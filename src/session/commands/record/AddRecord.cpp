@@ -44,7 +44,7 @@ const Command::Registration registration({
     .menu = {8, u"增加记录(&N)"_s},
     .record = Record::Stays,
     .run = addRecord,
-    .whyNot = [](Session &session) { return session.isReadOnly() ? SessionMessages::ReadOnly : QString(); },
+    .whyNot = [](Session &session) { return session.whyNotWritten(); },
 });
 
 } // namespace

@@ -96,7 +96,7 @@ const Command::Registration registration({
     .menu = {9, u"删除记录(&D)"_s},
     .record = Record::Stays,
     .run = deleteRecord,
-    .whyNot = [](Session &session) { return session.isReadOnly() ? SessionMessages::ReadOnly : QString(); },
+    .whyNot = [](Session &session) { return session.whyNotWritten(); },
 });
 
 } // namespace
