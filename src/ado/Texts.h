@@ -34,6 +34,8 @@ KOVA_TEXT(accessTooNew, "该 Access 数据库的版本太新，无法读取：%1
 KOVA_TEXT(accessDamaged, "Access 数据库已损坏或者不完整，无法读取：%1")
 KOVA_TEXT(accessEncrypted, "该 Access 数据库已加密，在此系统上无法读取：%1")
 KOVA_TEXT(accessQuery, "Access 查询“%1”需要参数，或者用到了此处没有的功能，不能运行。")
+KOVA_TEXT(accessDistinctRow,
+          "无法确定 DISTINCTROW 要去掉哪些表的重复记录；请写成 DISTINCT，或在每个字段前写出表名。")
 KOVA_TEXT(accessPassword, "该 Access 数据库的密码不正确或者没有给出：%1")
 KOVA_TEXT(badTimeout, "连接字符串中的 Connect Timeout 必须是不小于 0 的秒数。")
 

@@ -80,9 +80,10 @@ QString inOneForm(const Dialect &dialect, const QString &field, const QString &f
     return dialect.engine == Engine::SQLite && !dialect.isOdbc ? form.arg(field) : field;
 }
 
-QString timeText(QTime time)
+QString timeText(QTime time, const QString &finer)
 {
-    return time.toString(time.msec() == 0 ? u"HH:mm:ss"_s : u"HH:mm:ss.zzz"_s);
+    const bool isWhole = time.msec() == 0 && finer.isEmpty();
+    return time.toString(isWhole ? u"HH:mm:ss"_s : u"HH:mm:ss.zzz"_s) + finer;
 }
 
 } // namespace
@@ -148,19 +149,22 @@ QString dayOperand(const Dialect &dialect, const QString &field)
 
 QString momentOperand(const Dialect &dialect, const QString &field)
 {
-    // A fraction only where there is one, as literals have it.
+    // A fraction only where there is one, as literals have it; one of more than three decimals is shown as it
+    // is stored.
     return inOneForm(dialect, field,
-                     u"COALESCE(REPLACE(strftime('%Y-%m-%d %H:%M:%f', %1), '.000', ''), %1)"_s);
+                     u"COALESCE(CASE WHEN length(rtrim(%1, '0')) < 24 THEN "
+                     "REPLACE(strftime('%Y-%m-%d %H:%M:%f', %1), '.000', '') END, %1)"_s);
 }
 
-QString timeLiteral(const Dialect &dialect, QTime time)
+QString timeLiteral(const Dialect &dialect, QTime time, const QString &finer)
 {
-    return momentText(dialect, "t"_L1, timeText(time));
+    return momentText(dialect, "t"_L1, timeText(time, finer));
 }
 
-QString momentLiteral(const Dialect &dialect, const QDateTime &moment)
+QString momentLiteral(const Dialect &dialect, const QDateTime &moment, const QString &finer)
 {
-    return momentText(dialect, "ts"_L1, moment.date().toString(Qt::ISODate) + u' ' + timeText(moment.time()));
+    return momentText(dialect, "ts"_L1,
+                      moment.date().toString(Qt::ISODate) + u' ' + timeText(moment.time(), finer));
 }
 
 // In PostgreSQL it depends on a setting of the session what a backslash means, except in such a text.

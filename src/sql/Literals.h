@@ -17,8 +17,9 @@ QString textLiteral(const Dialect &dialect, QString text);
 QString textWithoutClauses(const Dialect &dialect, const QString &text);
 
 QString dateLiteral(const Dialect &dialect, QDate date);
-QString timeLiteral(const Dialect &dialect, QTime time);
-QString momentLiteral(const Dialect &dialect, const QDateTime &moment);
+// `finer` are the decimals of the second after the third one, without zeros at their end.
+QString timeLiteral(const Dialect &dialect, QTime time, const QString &finer = {});
+QString momentLiteral(const Dialect &dialect, const QDateTime &moment, const QString &finer = {});
 
 // What a floating column holds: 4 bytes or 8.
 enum class FloatSize { Single, Double };

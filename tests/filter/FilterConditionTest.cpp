@@ -90,6 +90,18 @@ TEST(FilterCondition, ADayOfSqliteCanHaveATime)
     EXPECT_TRUE(sql(date, Equals, u"2024-05-01 12:00"_s).starts_with("fault"));
 }
 
+TEST(FilterCondition, DecimalsOfASecondAreWrittenAsTyped)
+{
+    const auto moment = FieldClass::Moment;
+    EXPECT_EQ(sql(moment, Equals, u"2024-05-01 12:00:00.123456"_s, {}, oracleServer),
+              "F = {ts '2024-05-01 12:00:00.123456'}");
+    EXPECT_EQ(sql(moment, Equals, u"2024-05-01 12:00:00.000001"_s), "F = '2024-05-01 12:00:00.000001'");
+    EXPECT_EQ(sql(moment, Equals, u"2024-05-01 12:00:00.500000"_s), "F = '2024-05-01 12:00:00.500'");
+    EXPECT_EQ(sql(FieldClass::Time, Equals, u"12:00:00.1234"_s), "F = '12:00:00.1234'");
+    EXPECT_TRUE(sql(moment, Equals, u"2024-05-01 12:00:00.1234567890"_s).starts_with("fault"));
+    EXPECT_TRUE(sql(FieldClass::Date, Equals, u"2024-05-01 00:00:00.000001"_s).starts_with("fault"));
+}
+
 TEST(FilterCondition, AnEmptyTextIsAsEmptyAsNoText)
 {
     EXPECT_EQ(sql(FieldClass::Text, IsEmpty), "(F IS NULL OR F = '')");

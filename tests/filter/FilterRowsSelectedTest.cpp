@@ -214,6 +214,27 @@ TEST_F(Selected, ByDayAndMoment)
     });
 }
 
+TEST_F(Selected, ByMomentFinerThanMilliseconds)
+{
+    database.run(u"CREATE TABLE U (ID INTEGER, M TIMESTAMP); INSERT INTO U VALUES"
+                 "(1,'2024-07-01 12:00:00.123456'),(2,'2024-07-01 12:00:00.123'),(3,'2024-07-01T12:00:00.123000'),"
+                 "(4,'2024-07-01 12:00:00+08:00'),(5,'2024-07-01 12:00'),(6,NULL)"_s);
+    const auto found = [&](const QString &typed) {
+        const FilterCondition condition =
+            conditionOf(dialect, {{u"M"_s, u"M"_s, FieldClass::Moment}, Equals, typed, {}});
+        ADODB::Recordset records;
+        records.Open(u"select ID from U where "_s + condition.sql, connection);
+        QStringList ids;
+        for (qint64 record = 1; record <= records.RecordCount(); ++record)
+            ids.append(records.CellText(record, 0));
+        return ids.join(u' ');
+    };
+    EXPECT_EQ(found(u"2024-07-01 12:00:00.123456"_s), u"1"_s);
+    EXPECT_EQ(found(u"2024-07-01 12:00:00.123"_s), u"2 3"_s);
+    EXPECT_EQ(found(u"2024-07-01 12:00:00.1230"_s), u"2 3"_s);
+    EXPECT_EQ(found(u"2024-07-01 12:00:00"_s), u"5"_s) << "another zone is shown otherwise";
+}
+
 // A field of days whose values can have a time: it equals the day only where no other time is shown, and is
 // neither before nor after the day at any time of it.
 TEST_F(Selected, ByDayThatCanHaveATime)

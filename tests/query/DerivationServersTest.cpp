@@ -148,7 +148,7 @@ TEST_P(DerivationServers, DerivedStatementsHaveTheRowsOfALoop)
     if (!connection)
         GTEST_SKIP() << GetParam().variable << " names no server";
     int taken = 0;
-    for (const Case &c : ReadCases(u"statements.cases"_s)) {
+    for (const Case &c : ReadCases({u"statements.cases"_s, u"server_statements.cases"_s})) {
         SCOPED_TRACE(c.place.toStdString());
         const QString statement = joinStatementLines(c[u"statement"_s]);
         Result all;

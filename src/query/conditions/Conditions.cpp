@@ -115,8 +115,9 @@ searchedFields(std::span<const TypedField> fields, AllDBType database, const QSt
         if (name->isEmpty())
             continue;
         const QString kind = field.adoType ? classOf(*field.adoType, engine) : QString();
+        const bool isDouble = field.adoType == doubleType;
         searched.push_back(
-            {likeOperand(engine, *name), (kind != u"1" && kind != u"3") || field.adoType == guidType});
+            {isDouble ? likeOperandOfDouble(engine, *name) : likeOperand(engine, *name), (kind != u"1" && kind != u"3") || field.adoType == guidType});
     }
     return searched;
 }

@@ -149,7 +149,8 @@ private:
     QString sortWithin(const QStringList &entries) const;
     QString valueOf(int field) const;
     bool keepsListWords() const;
-    bool endsCondition(qsizetype token) const;
+    std::vector<qsizetype> unitedConditions() const;
+    bool endsCondition(qsizetype token, int depth) const;
     QString headWith(const QString &list) const;
     QString withWordsApart(TextRange tokens, int fromDepth) const;
     QString withList(const QString &list, const QStringList &entries) const;
