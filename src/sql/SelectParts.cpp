@@ -33,7 +33,7 @@ public:
     SelectParts parts()
     {
         qsizetype next = readWith();
-        const bool isInBrackets = isSubselect(m_sql, next);
+        const bool isInBrackets = beginsSelectInBrackets(next);
         m_parts.isSelect = m_sql.isWord(next, u"SELECT") || isInBrackets;
         if (!m_parts.isSelect)
             return m_parts;
@@ -57,10 +57,22 @@ private:
         if (!m_sql.isWord(0, u"WITH"))
             return 0;
         qsizetype next = 1;
-        while (next < m_end && !(m_sql.at(next).depth == 0 && m_sql.isWord(next, u"SELECT")))
+        const auto isSelect = [&](qsizetype i) {
+            return m_sql.at(i).depth == 0 &&
+                   (m_sql.isWord(i, u"SELECT") || (m_sql.isSymbol(i - 1, u')') && beginsSelectInBrackets(i)));
+        };
+        while (next < m_end && !isSelect(next))
             ++next;
         m_parts.with = {0, next};
         return next;
+    }
+
+    // ((SELECT …) UNION …) as well
+    bool beginsSelectInBrackets(qsizetype open) const
+    {
+        while (m_sql.isSymbol(open, u'(') && m_sql.isSymbol(open + 1, u'('))
+            ++open;
+        return isSubselect(m_sql, open);
     }
 
     qsizetype readListWords(qsizetype next)

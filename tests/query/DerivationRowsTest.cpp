@@ -3,9 +3,9 @@
 
 #include "CaseFile.h"
 #include "SampleDatabase.h"
-#include "query/derivation/SqlText.h"
 #include "sql/Literals.h"
 #include "sql/Names.h"
+#include "sql/StatementLines.h"
 
 #include <gtest/gtest.h>
 

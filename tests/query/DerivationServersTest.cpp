@@ -8,10 +8,10 @@
 #include "ado/Recordset.h"
 #include "ado/connection/EngineOf.h"
 #include "query/conditions/Conditions.h"
-#include "query/derivation/SqlText.h"
 #include "servers/OdbcSession.h"
 #include "servers/Servers.h"
 #include "sql/Literals.h"
+#include "sql/StatementLines.h"
 
 #include <gtest/gtest.h>
 

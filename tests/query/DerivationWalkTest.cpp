@@ -5,7 +5,7 @@
 #include "CaseFile.h"
 #include "SampleDatabase.h"
 #include "query/conditions/Conditions.h"
-#include "query/derivation/SqlText.h"
+#include "sql/StatementLines.h"
 
 #include <QtCore/QSet>
 #include <gtest/gtest.h>

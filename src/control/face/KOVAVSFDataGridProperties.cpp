@@ -6,11 +6,11 @@
 #include "control/parts/toolbar/GridToolbar.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
-#include "query/derivation/SqlText.h"
 #include "query/modQNVSFHFDataMain.h"
 #include "session/SessionWindow.h"
 #include "session/commands/CommandKeys.h"
 #include "sql/SelectParts.h"
+#include "sql/StatementLines.h"
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QPushButton>

@@ -2,6 +2,7 @@
 
 #include "query/CharText.h"
 #include "query/QueryTexts.h"
+#include "sql/Brackets.h"
 #include "sql/Like.h"
 #include "sql/Literals.h"
 #include "sql/Names.h"
@@ -95,7 +96,7 @@ std::optional<QString> nameOfSearched(const TypedField &field, AllDBType databas
     if (database != dbAccess || !readsBrackets(engine))
         return writtenName(dialect, field.name);
     return (qualifier.isEmpty() ? QString() : qualifier + u'.') +
-           (engine == Engine::Other ? enclosedAsIs(u'[', field.name, u']') : quotedName(dialect, field.name));
+           (engine == Engine::Other ? inBrackets(field.name) : quotedName(dialect, field.name));
 }
 
 std::optional<std::vector<SearchedField>>
@@ -116,8 +117,8 @@ searchedFields(std::span<const TypedField> fields, AllDBType database, const QSt
             continue;
         const QString kind = field.adoType ? classOf(*field.adoType, engine) : QString();
         const bool isDouble = field.adoType == doubleType;
-        searched.push_back(
-            {isDouble ? likeOperandOfDouble(engine, *name) : likeOperand(engine, *name), (kind != u"1" && kind != u"3") || field.adoType == guidType});
+        searched.push_back({isDouble ? likeOperandOfDouble(engine, *name) : likeOperand(engine, *name),
+                            (kind != u"1" && kind != u"3") || field.adoType == guidType});
     }
     return searched;
 }
