@@ -216,9 +216,10 @@ TEST_F(Selected, ByDayAndMoment)
 
 TEST_F(Selected, ByMomentFinerThanMilliseconds)
 {
-    database.run(u"CREATE TABLE U (ID INTEGER, M TIMESTAMP); INSERT INTO U VALUES"
-                 "(1,'2024-07-01 12:00:00.123456'),(2,'2024-07-01 12:00:00.123'),(3,'2024-07-01T12:00:00.123000'),"
-                 "(4,'2024-07-01 12:00:00+08:00'),(5,'2024-07-01 12:00'),(6,NULL)"_s);
+    database.run(
+        u"CREATE TABLE U (ID INTEGER, M TIMESTAMP); INSERT INTO U VALUES"
+        "(1,'2024-07-01 12:00:00.123456'),(2,'2024-07-01 12:00:00.123'),(3,'2024-07-01T12:00:00.123000'),"
+        "(4,'2024-07-01 12:00:00+08:00'),(5,'2024-07-01 12:00'),(6,NULL)"_s);
     const auto found = [&](const QString &typed) {
         const FilterCondition condition =
             conditionOf(dialect, {{u"M"_s, u"M"_s, FieldClass::Moment}, Equals, typed, {}});

@@ -47,8 +47,8 @@ protected:
         const QString collation =
             engine.isMariaDb() ? u" CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin"_s : QString();
         database->run(
-            {u"DROP VIEW IF EXISTS AllCust"_s, u"DROP TABLE IF EXISTS Item"_s, u"DROP TABLE IF EXISTS Ord"_s, u"DROP TABLE IF EXISTS Cust"_s,
-             u"DROP TABLE IF EXISTS 客户"_s,
+            {u"DROP VIEW IF EXISTS AllCust"_s, u"DROP TABLE IF EXISTS Item"_s, u"DROP TABLE IF EXISTS Ord"_s,
+             u"DROP TABLE IF EXISTS Cust"_s, u"DROP TABLE IF EXISTS 客户"_s,
              u"CREATE TABLE Cust(ID INTEGER PRIMARY KEY, Name VARCHAR(40), City VARCHAR(40))"_s + collation,
              u"INSERT INTO Cust VALUES (1,'anna','B'),(2,'bob','A'),(3,'cid','B'),(4,'b order by c','A')"_s,
              u"CREATE VIEW AllCust AS SELECT ID, Name, City FROM Cust"_s,

@@ -111,8 +111,9 @@ TEST(DerivationText, TheWholeTableHasNoConditionInAnyUnitedSelect)
     expectText(whole(u"(select a from T where b = 1) union all (select a from U where c in (select d from V "
                      "where e = 2) order by a limit 3)"_s),
                "(select a from T ) union all (select a from U order by a limit 3)");
-    expectText(whole(u"((select a from T where b = 1) union select a from U where c = 1) except select a from V"_s),
-               "((select a from T ) union select a from U ) except select a from V");
+    expectText(
+        whole(u"((select a from T where b = 1) union select a from U where c = 1) except select a from V"_s),
+        "((select a from T ) union select a from U ) except select a from V");
     expectText(whole(u"with W as (select a from T where b = 1) (select a from W where a > 1);"_s),
                "with W as (select a from T where b = 1) (select a from W );");
     expectText(whole(u"select (select max(a) from T where b = 1) as a from U where c = (1) group by d"_s),

@@ -221,12 +221,11 @@ TEST_F(ReadOnlyGrid, ResultsThatCannotBeWrittenOfferNoChangeBeforeAnybodyIsAsked
         QString statement;
         QString why; // part of the tip
     };
-    const Refused results[] = {
-        {u"SELECT a.ID, b.名称 FROM 商品 a, 商品 b WHERE a.ID = b.ID"_s, u"连接"_s},
-        {u"SELECT 城市, count(*) AS N FROM 商品 GROUP BY 城市"_s, u"汇总"_s},
-        {u"SELECT DISTINCT 城市 FROM 商品"_s, u"DISTINCT"_s},
-        {u"SELECT ID FROM 商品 UNION SELECT 99"_s, u"合并"_s},
-        {u"SELECT ID, row_number() OVER (ORDER BY ID) AS N FROM 商品"_s, u"汇总"_s}};
+    const Refused results[] = {{u"SELECT a.ID, b.名称 FROM 商品 a, 商品 b WHERE a.ID = b.ID"_s, u"连接"_s},
+                               {u"SELECT 城市, count(*) AS N FROM 商品 GROUP BY 城市"_s, u"汇总"_s},
+                               {u"SELECT DISTINCT 城市 FROM 商品"_s, u"DISTINCT"_s},
+                               {u"SELECT ID FROM 商品 UNION SELECT 99"_s, u"合并"_s},
+                               {u"SELECT ID, row_number() OVER (ORDER BY ID) AS N FROM 商品"_s, u"汇总"_s}};
     const auto *menu = grid.findChild<QMenu *>(u"PopMnuData"_s);
     EXPECT_TRUE(menu->toolTipsVisible());
     for (const Refused &result : results) {
