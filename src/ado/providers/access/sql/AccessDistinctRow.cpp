@@ -138,8 +138,7 @@ qsizetype endOfSelect(const SqlScanner &sql, qsizetype from)
     const int depth = sql.at(from).depth;
     qsizetype end = from;
     while (end < sql.count() && sql.at(end).depth >= depth &&
-           !(sql.at(end).depth == depth &&
-             (sql.isSymbol(end, u';') || sql.isSymbol(end, u')') || sql.isWord(end, u"UNION"))))
+           !(sql.at(end).depth == depth && (sql.isSymbol(end, u';') || sql.isWord(end, u"UNION"))))
         ++end;
     return end;
 }
