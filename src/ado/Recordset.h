@@ -116,6 +116,9 @@ public:
     // record is counted after it is saved. A move drops a new record without any value. AddNew on an unsaved
     // new record saves it first; it throws dbErrCancelled if the record is refused or has no value.
     EditModeEnum EditMode() const;
+    // Why no record of the result can be added, changed or deleted, as a sentence for the user. Empty if the
+    // result can be written, or if it is closed. Known since Open; the database is not asked.
+    QString WhyReadOnly() const;
     void AddNew();
     void Update();
     void CancelUpdate();

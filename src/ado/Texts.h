@@ -32,6 +32,8 @@ inline constexpr Text accessTooNew = tr("该 Access 数据库的版本太新，�
 inline constexpr Text accessDamaged = tr("Access 数据库已损坏或者不完整，无法读取：%1");
 inline constexpr Text accessEncrypted = tr("该 Access 数据库已加密，在此系统上无法读取：%1");
 inline constexpr Text accessQuery = tr("Access 查询“%1”需要参数，或者用到了此处没有的功能，不能运行。");
+inline constexpr Text accessDistinctRow =
+    tr("无法确定 DISTINCTROW 要去掉哪些表的重复记录；请写成 DISTINCT，或在每个字段前写出表名。");
 inline constexpr Text accessPassword = tr("该 Access 数据库的密码不正确或者没有给出：%1");
 inline constexpr Text badTimeout = tr("连接字符串中的 Connect Timeout 必须是不小于 0 的秒数。");
 

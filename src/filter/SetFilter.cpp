@@ -5,7 +5,7 @@
 #include "filter/FilterTexts.h"
 #include "filter/ValueEdit.h"
 #include "forms/widgets/FlatCmd.h"
-#include "query/derivation/SqlText.h"
+#include "sql/StatementLines.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtGui/QGuiApplication>

@@ -1,10 +1,9 @@
 #include "pages/PartFields.h"
 
-#include "query/derivation/SqlText.h"
+#include "sql/Brackets.h"
 #include "sql/Names.h"
 #include "sql/SelectParts.h"
-
-#include <QtCore/QRegularExpression>
+#include "sql/StatementLines.h"
 
 namespace KOVAVSFDataGridLib::PartFields {
 
@@ -12,26 +11,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Brackets that a name could do without go; what is in others could be taken for an expression.
-QString withoutBrackets(const QString &name)
-{
-    static const QRegularExpression enclosed(uR"(\A\[([\p{L}\p{N}_ ]+)\]\z)"_s,
-                                             QRegularExpression::UseUnicodePropertiesOption);
-    const auto match = enclosed.match(name);
-    return match.hasMatch() ? match.captured(1) : name;
-}
-
-// Brackets would make a strange name of an expression or an alias, and can't stand around others.
-bool isMoreThanAName(const QString &field)
-{
-    static const QRegularExpression signs(uR"x([\[\]()"'`*/+|<>=-]|\sas\s)x"_s,
-                                          QRegularExpression::CaseInsensitiveOption);
-    return field.contains(signs);
-}
-
+// Brackets would make a strange name of an expression or an alias.
 QString enclosed(const QString &field)
 {
-    return isMoreThanAName(field) ? field : u'[' + QString(field).replace(u'.', "].["_L1) + u']';
+    return isMoreThanAName(field) ? field : partsInBrackets(field);
 }
 
 // An alias gets its AS, without which it would be taken for a part of the name. After an expression, what
@@ -87,7 +70,7 @@ std::optional<NamedFields> read(const QString &statement, AllDBType database, co
             continue;
         }
         const QString text = itemText(sql, item);
-        named.fields += database == dbAccess ? withoutBrackets(text) : text;
+        named.fields += database == dbAccess ? withoutSpareBrackets(text) : text;
     }
     return named;
 }
@@ -105,7 +88,7 @@ QString compose(const QStringList &fields, const QString &table, AllDBType datab
 
 bool isSame(const QString &a, const QString &b)
 {
-    return withoutBrackets(a).compare(withoutBrackets(b), Qt::CaseInsensitive) == 0;
+    return withoutSpareBrackets(a).compare(withoutSpareBrackets(b), Qt::CaseInsensitive) == 0;
 }
 
 } // namespace KOVAVSFDataGridLib::PartFields

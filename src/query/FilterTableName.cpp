@@ -1,12 +1,13 @@
 #include "query/FilterTableName.h"
 
 #include "query/derivation/SqlText.h"
+#include "sql/Brackets.h"
 
 namespace KOVAVSFDataGridLib {
 
 QString SetFilterTableName(const QString &name)
 {
-    return CutStringEnds(CutStringEnds(name, QStringLiteral("["), CutBegin), QStringLiteral("]"), CutEnd);
+    return withoutBrackets(name);
 }
 
 FilterTableName SplitFilterTableName(const QString &name)

@@ -144,7 +144,7 @@ bool clsFilterManagement::GetPartSortSelFields(const QString &strAllFields, cons
     QString offered = strAllFields;
     auto all = m_history.DerivationOf(strAllFields);
     if (const clsShowSQLSentence *const latest = m_history.Item(m_history.Count());
-        latest && all && (all->hasListAsTable() || all->isDistinct())) {
+        latest && all && (m_history.NamesShownAlone(*all) || all->isDistinct())) {
         offered = latest->ShowSQL; // no other field can be named
         all = m_history.DerivationOf(offered);
     }

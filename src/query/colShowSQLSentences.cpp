@@ -345,7 +345,7 @@ bool colShowSQLSentences::FillCatalogue(const QString &connectionString, const Q
         return false;
     m_catalogue.Clear();
     const Dialect dialect = dialectOf(m_database, engineOf(connectionString));
-    const auto derivation = m_derivations.of(statement, *fields, dialect);
+    const auto derivation = DerivationOf(statement, *fields, connectionString);
     const bool isText =
         dialect.engine == Engine::Other || (derivation->isSimple() && !derivation->isJoined());
     for (std::size_t i = 0; i < fields->size(); ++i) {

@@ -136,6 +136,9 @@ public:
     // statement that hasListAsTable().
     QString WithFieldsOfWhole(const Derivation &shown, const Derivation &all, const Derivation &fields) const;
 
+    // Whether conditions and sorts can name only the fields that are shown, and not the others of `all`.
+    bool NamesShownAlone(const Derivation &all) const;
+
     // Whether the statement's rows depend on the fields in its list.
     bool IsDistinct(const QString &statement) const;
 
@@ -169,6 +172,12 @@ public:
     const_iterator end() const { return m_entries.end(); }
 
 private:
+    std::shared_ptr<const Derivation> DerivationOf(const QString &statement,
+                                                   const std::vector<SourceField> &fields,
+                                                   const QString &connectionString) const;
+    std::shared_ptr<const Derivation>
+    WithAllFieldsInside(const std::shared_ptr<const Derivation> &shown) const;
+    bool NamesByItself(const Derivation &all) const;
     const clsShowSQLSentence *Latest() const { return Item(Count()); }
     std::optional<SQLSentence> SplitLatest() const;
     QString WithFieldsOf(const QString &statement, const QString &fieldStatement) const;

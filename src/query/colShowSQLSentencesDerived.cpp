@@ -52,14 +52,52 @@ std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QStrin
     if (byText->isSimple() && !byText->needsFields())
         return byText;
     const auto fields = m_reader->Read(m_connString, statement);
-    return fields ? m_derivations.of(statement, *fields, dialect) : byText;
+    return fields ? DerivationOf(statement, *fields, m_connString) : byText;
+}
+
+// Each star that the database has to be asked about is a wait, so that it is asked only where no table tells.
+std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QString &statement,
+                                                                    const std::vector<SourceField> &fields,
+                                                                    const QString &connectionString) const
+{
+    const Dialect dialect = dialectOf(m_database, engineOf(connectionString));
+    auto derivation = m_derivations.of(statement, fields, dialect);
+    StarSizes sizes;
+    for (const QString &star : derivation->starsToMeasure()) {
+        const auto given = m_reader->Read(connectionString, derivation->statementOfStar(star));
+        if (!given)
+            return derivation;
+        sizes.insert(star, std::ssize(*given));
+    }
+    return sizes.isEmpty() ? derivation : m_derivations.of(statement, fields, dialect, sizes);
 }
 
 std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QString &statement,
                                                                     DerivationStep step) const
 {
     auto derivation = DerivationOf(statement);
-    return derivation && !derivation->isTextWork(step) ? derivation : nullptr;
+    if (derivation && derivation->isTextWork(step))
+        return nullptr;
+    return derivation && step != DerivationStep::Fields ? WithAllFieldsInside(derivation) : derivation;
+}
+
+// A choice of fields from TOP is made again outside of it, so that a condition or a sort can name the others.
+std::shared_ptr<const Derivation>
+colShowSQLSentences::WithAllFieldsInside(const std::shared_ptr<const Derivation> &shown) const
+{
+    const clsShowSQLSentence *const latest = Latest();
+    const auto all = latest && shown->hasListAsTable() ? DerivationOf(latest->AllFields) : nullptr;
+    if (!all || !all->hasListAsTable() || NamesShownAlone(*all) || all->names() == shown->names())
+        return shown;
+    const auto whole = DerivationOf(shown->withFieldsOf(*all));
+    const auto chosen = whole ? DerivationOf(whole->asTableWith(shown->names())) : nullptr;
+    return chosen ? chosen : shown;
+}
+
+// Whether conditions and sorts can name no field but those shown: DISTINCT of other fields has other rows.
+bool colShowSQLSentences::NamesShownAlone(const Derivation &all) const
+{
+    return all.hasListAsTable() && (all.isDistinct() || !all.whyNot(DerivationStep::Condition).isEmpty());
 }
 
 QString colShowSQLSentences::WhyNot(DerivationStep step) const
@@ -86,10 +124,10 @@ std::optional<FilteredResult> colShowSQLSentences::GetFilteredResult() const
     auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
     if (!all || (all->isSimple() && !all->isJoined() && isTableFoundAsText(latest->AllFields, *all)))
         return std::nullopt;
-    const QString &named = all->hasListAsTable() ? latest->ShowSQL : latest->AllFields;
+    const QString &named = NamesShownAlone(*all) ? latest->ShowSQL : latest->AllFields;
     // Under the names that the result has, not those that the statement writes.
     if (const auto fields = m_reader->Read(m_connString, named))
-        all = m_derivations.of(named, *fields, dialectOf(m_database, engineOf(m_connString)));
+        all = DerivationOf(named, *fields, m_connString);
     return all->filteredResult();
 }
 
@@ -106,18 +144,24 @@ QString colShowSQLSentences::GetConditionName(const clsDataField &field) const
 {
     const clsShowSQLSentence *const latest = Latest();
     const auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
-    // Of several tables, more than one can have a field of that name.
-    const bool isWritten = all && (all->isJoined() || !all->isTextWork(DerivationStep::Condition) ||
-                                   !isTableFoundAsText(latest->AllFields, *all));
-    return isWritten ? field.FieldWholeName : QString();
+    return all && NamesByItself(*all) ? field.FieldWholeName : QString();
+}
+
+// Of several tables, more than one can have a field of that name.
+bool colShowSQLSentences::NamesByItself(const Derivation &all) const
+{
+    return all.isJoined() || !all.isTextWork(DerivationStep::Condition) ||
+           !isTableFoundAsText(Latest()->AllFields, all);
 }
 
 bool colShowSQLSentences::CanName(const clsDataField &field) const
 {
     const clsShowSQLSentence *const latest = Latest();
     const auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
-    if (!all || !all->hasListAsTable())
+    if (!all)
         return true;
+    if (!NamesShownAlone(*all))
+        return !field.FieldWholeName.isEmpty() || !NamesByItself(*all);
     const auto shown = DerivationOf(latest->ShowSQL);
     return shown->names().contains(field.FieldName);
 }
@@ -141,7 +185,7 @@ QString colShowSQLSentences::Sorted(const QString &statement, const QString &sor
     const auto derivation = sortList.isEmpty() ? nullptr : DerivationOf(statement, DerivationStep::Sort);
     if (!derivation)
         return AppendOrderWord(statement, sortList);
-    return derivation->isSorted() ? statement : derivation->withSort(sortList);
+    return DerivationOf(statement)->isSorted() ? statement : derivation->withSort(sortList);
 }
 
 QString colShowSQLSentences::WithFieldsOf(const QString &statement, const QString &fieldStatement) const

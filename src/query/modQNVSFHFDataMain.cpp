@@ -2,6 +2,7 @@
 
 #include "query/CharText.h"
 #include "query/derivation/SqlText.h"
+#include "sql/Brackets.h"
 
 #include <stdexcept>
 
@@ -20,15 +21,6 @@ QString selectStatement(const QString &statement)
 {
     const QString trimmed = trim(statement);
     return findUpper(trimmed, QStringLiteral("SELECT")) > 0 ? trimmed : QString();
-}
-
-QString withoutBrackets(QString name)
-{
-    if (name.startsWith(u'['))
-        name.remove(0, 1);
-    if (name.endsWith(u']'))
-        name.chop(1);
-    return name;
 }
 
 } // namespace

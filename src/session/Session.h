@@ -237,6 +237,9 @@ public:
     bool hasUnsavedChanges() const;
     // Whether records can be neither added, changed nor deleted.
     bool isReadOnly() const { return m_isReadOnly; }
+    // Why that is so for what is shown now, for the user to read: because the host wants it, or because the
+    // result can't be written. Empty when it isn't so.
+    QString whyNotWritten() const;
     void setReadOnly(bool on);
     // Whether the open result has a field that can be written.
     bool canAddRecords() const;

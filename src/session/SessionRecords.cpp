@@ -154,9 +154,16 @@ void Session::setReadOnly(bool on)
     m_window->refreshCommands();
 }
 
+QString Session::whyNotWritten() const
+{
+    if (m_isReadOnly)
+        return SessionMessages::ReadOnly;
+    return m_result.isOpen() ? m_result.recordset()->WhyReadOnly() : QString();
+}
+
 bool Session::canAddRecords() const
 {
-    if (m_isReadOnly || !m_result.isOpen())
+    if (!m_result.isOpen() || !whyNotWritten().isEmpty())
         return false;
     const ADODB::Fields &fields = m_result.recordset()->Fields();
     for (int i = 0; i < fields.Count(); ++i) {

@@ -1,12 +1,12 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
-#include "query/derivation/SqlText.h"
 #include "session/HostEvents.h"
 #include "session/Questions.h"
 #include "session/ResultWatch.h"
 #include "session/Session.h"
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
+#include "sql/StatementLines.h"
 
 #include <QtCore/QScopedValueRollback>
 

@@ -18,6 +18,15 @@ QString likeOperand(Engine engine, const QString &field)
     return likesTextsOnly(engine) ? "CAST("_L1 + field + " AS TEXT)"_L1 : field;
 }
 
+// A cast to NUMERIC keeps 15 digits; very large and very small numbers are written with an exponent.
+QString likeOperandOfDouble(Engine engine, const QString &field)
+{
+    const QString asText = likeOperand(engine, field);
+    return asText == field ? field
+                           : u"COALESCE(CASE WHEN abs(%1) BETWEEN 0.0001 AND 1e15 THEN "
+                             "CAST(CAST(%1 AS NUMERIC) AS TEXT) END, %2)"_s.arg(field, asText);
+}
+
 // The backslash is LIKE's own escape on these, quite apart from what literals make of it.
 QString likePattern(Engine engine, QString text)
 {

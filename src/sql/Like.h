@@ -13,6 +13,10 @@ bool likesTextsOnly(Engine engine);
 // The field as LIKE takes it, whatever its type is.
 QString likeOperand(Engine engine, const QString &field);
 
+// The same for a field of 8-byte floating numbers: LIKE is to see the digits that are shown, 15 at most, of
+// which engines that cast write more.
+QString likeOperandOfDouble(Engine engine, const QString &field);
+
 // The text as a pattern of LIKE without ESCAPE: "%" and "_" are wildcards, a backslash is itself.
 QString likePattern(Engine engine, QString text);
 

@@ -74,9 +74,16 @@ double halfStepOfFloat(double number)
     return (static_cast<double>(next) - static_cast<double>(nearest)) / 2;
 }
 
-QString timeText(QTime time)
+// SQLite has no type for dates. `form` makes one text of all those that mean the same; %1 is the field.
+QString inOneForm(const Dialect &dialect, const QString &field, const QString &form)
 {
-    return time.toString(time.msec() == 0 ? u"HH:mm:ss"_s : u"HH:mm:ss.zzz"_s);
+    return dialect.engine == Engine::SQLite && !dialect.isOdbc ? form.arg(field) : field;
+}
+
+QString timeText(QTime time, const QString &finer)
+{
+    const bool isWhole = time.msec() == 0 && finer.isEmpty();
+    return time.toString(isWhole ? u"HH:mm:ss"_s : u"HH:mm:ss.zzz"_s) + finer;
 }
 
 } // namespace
@@ -131,45 +138,33 @@ QString dateLiteral(const Dialect &dialect, QDate date)
 
 QString dateOperand(const Dialect &dialect, const QString &field)
 {
-    const bool isText = dialect.engine == Engine::SQLite && !dialect.isOdbc;
-    return isText ? u"COALESCE(date(%1), %1)"_s.arg(field) : field;
-}
-
-QString momentOperand(const Dialect &dialect, const QString &field)
-{
-    const bool isText = dialect.engine == Engine::SQLite && !dialect.isOdbc;
-    // A fraction only where there is one, as literals have it.
-    return isText ? u"COALESCE(REPLACE(strftime('%Y-%m-%d %H:%M:%f', %1), '.000', ''), %1)"_s.arg(field)
-                  : field;
+    return inOneForm(dialect, field,
+                     u"COALESCE(REPLACE(strftime('%Y-%m-%d %H:%M:%f', %1), ' 00:00:00.000', ''), %1)"_s);
 }
 
 QString dayOperand(const Dialect &dialect, const QString &field)
 {
-    switch (dialect.engine) {
-    case Engine::SQLite:
-        return u"COALESCE(date(%1), %1)"_s.arg(field);
-    case Engine::Oracle: // whose DATE has a time of day
-        return u"TRUNC(%1)"_s.arg(field);
-    case Engine::SqlServer:
-    case Engine::PostgreSQL:
-    case Engine::MySQL:
-    case Engine::Standard:
-        return u"CAST(%1 AS DATE)"_s.arg(field);
-    case Engine::Access:
-    case Engine::Other:
-        return field;
-    }
-    Q_UNREACHABLE();
+    return inOneForm(dialect, field, u"COALESCE(date(%1), %1)"_s);
 }
 
-QString timeLiteral(const Dialect &dialect, QTime time)
+QString momentOperand(const Dialect &dialect, const QString &field)
 {
-    return momentText(dialect, "t"_L1, timeText(time));
+    // A fraction only where there is one, as literals have it; one of more than three decimals is shown as it
+    // is stored.
+    return inOneForm(dialect, field,
+                     u"COALESCE(CASE WHEN length(rtrim(%1, '0')) < 24 THEN "
+                     "REPLACE(strftime('%Y-%m-%d %H:%M:%f', %1), '.000', '') END, %1)"_s);
 }
 
-QString momentLiteral(const Dialect &dialect, const QDateTime &moment)
+QString timeLiteral(const Dialect &dialect, QTime time, const QString &finer)
 {
-    return momentText(dialect, "ts"_L1, moment.date().toString(Qt::ISODate) + u' ' + timeText(moment.time()));
+    return momentText(dialect, "t"_L1, timeText(time, finer));
+}
+
+QString momentLiteral(const Dialect &dialect, const QDateTime &moment, const QString &finer)
+{
+    return momentText(dialect, "ts"_L1,
+                      moment.date().toString(Qt::ISODate) + u' ' + timeText(moment.time(), finer));
 }
 
 // In PostgreSQL it depends on a setting of the session what a backslash means, except in such a text.

@@ -17,8 +17,9 @@ QString textLiteral(const Dialect &dialect, QString text);
 QString textWithoutClauses(const Dialect &dialect, const QString &text);
 
 QString dateLiteral(const Dialect &dialect, QDate date);
-QString timeLiteral(const Dialect &dialect, QTime time);
-QString momentLiteral(const Dialect &dialect, const QDateTime &moment);
+// `finer` are the decimals of the second after the third one, without zeros at their end.
+QString timeLiteral(const Dialect &dialect, QTime time, const QString &finer = {});
+QString momentLiteral(const Dialect &dialect, const QDateTime &moment, const QString &finer = {});
 
 // What a floating column holds: 4 bytes or 8.
 enum class FloatSize { Single, Double };
@@ -39,8 +40,11 @@ NumberRange rangeShownAs(const QString &number, FloatSize size, Engine engine);
 bool isNumberText(const QString &text);
 
 // A field of days or moments as it is compared with DateLiteral or MomentLiteral. SQLite keeps them as texts
-// of several forms, of which those that mean the same are to be equal.
+// of several forms, of which those that mean the same are to be equal. A day there can have a time, which is
+// shown with it: by dateOperand only midnight is the day itself, by dayOperand any time of it is neither
+// before nor after it.
 QString dateOperand(const Dialect &dialect, const QString &field);
+QString dayOperand(const Dialect &dialect, const QString &field);
 QString momentOperand(const Dialect &dialect, const QString &field);
 
 // The day of a field of days or moments; the field itself where no way to write it is known.

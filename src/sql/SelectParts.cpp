@@ -1,45 +1,24 @@
 #include "sql/SelectParts.h"
 
 #include "sql/KnownFunctions.h"
+#include "sql/SelectSources.h"
+#include "sql/SqlWalk.h"
 
 #include <algorithm>
-#include <initializer_list>
 
 namespace KOVAVSFDataGridLib {
 
 namespace {
-
-using Words = std::initializer_list<QStringView>;
-
-bool isOneOf(const SqlScanner &statement, qsizetype index, Words words)
-{
-    return std::any_of(words.begin(), words.end(),
-                       [&](QStringView word) { return statement.isWord(index, word); });
-}
 
 bool isQualified(const SqlScanner &statement, qsizetype index)
 {
     return statement.isSymbol(index - 1, u'.') || statement.isSymbol(index + 1, u'.');
 }
 
-// After the bracket that matches the one at `open`.
-qsizetype afterBrackets(const SqlScanner &statement, qsizetype open)
-{
-    qsizetype close = open + 1;
-    while (close < statement.count() && statement.at(close).depth > statement.at(open).depth)
-        ++close;
-    return std::min(close + 1, statement.count());
-}
-
 // What MySQL takes between SELECT and the list.
 constexpr QStringView mySqlListWords[] = {u"HIGH_PRIORITY",       u"STRAIGHT_JOIN", u"SQL_SMALL_RESULT",
                                           u"SQL_BIG_RESULT",      u"SQL_CACHE",     u"SQL_BUFFER_RESULT",
                                           u"SQL_CALC_FOUND_ROWS", u"SQL_NO_CACHE"};
-
-bool isSubselect(const SqlScanner &statement, qsizetype open)
-{
-    return statement.isSymbol(open, u'(') && isOneOf(statement, open + 1, {u"SELECT", u"WITH", u"VALUES"});
-}
 
 // Reads one statement; see SelectParts.
 class Reader
@@ -54,7 +33,7 @@ public:
     SelectParts parts()
     {
         qsizetype next = readWith();
-        const bool isInBrackets = isSubselect(m_sql, next);
+        const bool isInBrackets = beginsSelectInBrackets(next);
         m_parts.isSelect = m_sql.isWord(next, u"SELECT") || isInBrackets;
         if (!m_parts.isSelect)
             return m_parts;
@@ -78,10 +57,22 @@ private:
         if (!m_sql.isWord(0, u"WITH"))
             return 0;
         qsizetype next = 1;
-        while (next < m_end && !(m_sql.at(next).depth == 0 && m_sql.isWord(next, u"SELECT")))
+        const auto isSelect = [&](qsizetype i) {
+            return m_sql.at(i).depth == 0 &&
+                   (m_sql.isWord(i, u"SELECT") || (m_sql.isSymbol(i - 1, u')') && beginsSelectInBrackets(i)));
+        };
+        while (next < m_end && !isSelect(next))
             ++next;
         m_parts.with = {0, next};
         return next;
+    }
+
+    // ((SELECT …) UNION …) as well
+    bool beginsSelectInBrackets(qsizetype open) const
+    {
+        while (m_sql.isSymbol(open, u'(') && m_sql.isSymbol(open + 1, u'('))
+            ++open;
+        return isSubselect(m_sql, open);
     }
 
     qsizetype readListWords(qsizetype next)
@@ -277,45 +268,9 @@ private:
                 ++next;
             m_parts.isDerivedTable = next + 1 == end && m_sql.isName(next);
         }
-        bool expectsTable = true;
-        for (qsizetype i = begin; i < end; ++i) {
-            if (isOneOf(m_sql, i, {u"USING", u"NATURAL"}))
-                m_parts.hasPlainSources = false;
-            if (isSubselect(m_sql, i)) {
-                i = afterBrackets(m_sql, i) - 1;
-                expectsTable = false;
-                m_parts.hasPlainSources = false;
-            } else if (m_sql.isSymbol(i, u',') || m_sql.isWord(i, u"JOIN")) {
-                expectsTable = true;
-            } else if (expectsTable && m_sql.isName(i) && !isOneOf(m_sql, i, {u"LATERAL", u"ONLY"})) {
-                i = readSource(i, end);
-                expectsTable = false;
-            }
-        }
-    }
-
-    qsizetype readSource(qsizetype index, qsizetype end)
-    {
-        const qsizetype begin = index;
-        while (m_sql.isSymbol(index + 1, u'.') && m_sql.isName(index + 2) && index + 2 < end)
-            index += 2;
-        SelectParts::Source source{m_sql.name(index), m_sql.name(index), textOf(m_sql, {begin, index + 1})};
-        if (m_sql.isSymbol(index + 1, u'('))
-            m_parts.hasPlainSources = false;
-        qsizetype next = index + 1;
-        if (m_sql.isWord(next, u"AS"))
-            ++next;
-        const bool isAlias = next < end && m_sql.isName(next) &&
-                             !isOneOf(m_sql, next,
-                                      {u"JOIN", u"INNER", u"LEFT", u"RIGHT", u"FULL", u"CROSS", u"NATURAL",
-                                       u"ON", u"USING", u"INDEXED", u"NOT", u"STRAIGHT_JOIN", u"OUTER"});
-        if (isAlias) {
-            source.alias = m_sql.name(next);
-            source.writtenAlias = m_sql.text(next).toString();
-            index = next;
-        }
-        m_parts.sources.push_back(source);
-        return index;
+        SelectSources found = SelectSources::in(m_sql, m_parts.source);
+        m_parts.sources = std::move(found.sources);
+        m_parts.hasPlainSources = found.arePlain;
     }
 
     // Whether one of these functions is called outside of inner SELECTs.

@@ -30,11 +30,11 @@ struct SelectParts
         // A name, or several with dots between them; the last one is the column's.
         bool isName = false;
     };
-    // A table that FROM names, with the name by which the rest of the statement knows it.
+    // One of what FROM selects from, with the name by which the rest of the statement knows it.
     struct Source
     {
-        QString table;
-        QString alias; // without quotes
+        QString table; // empty for a SELECT in brackets and for a function
+        QString alias; // without quotes; empty for a SELECT that has none
         QString writtenAlias;
     };
 
@@ -57,7 +57,8 @@ struct SelectParts
     std::vector<Item> items;
     std::vector<Item> sort;
     std::vector<Source> sources;
-    // Whether the sources are all of FROM: no SELECT, function, USING or NATURAL.
+    // Whether `*` gives the fields of one source after the other: each has a name, and no USING or NATURAL
+    // makes one field of two.
     bool hasPlainSources = true;
     bool isDerivedTable = false; // the source is one SELECT in brackets with its alias
 

@@ -1,20 +1,13 @@
 #include "sql/SimpleSelect.h"
 
 #include "sql/SqlScanner.h"
-
-#include <algorithm>
+#include "sql/SqlWalk.h"
 
 namespace KOVAVSFDataGridLib {
 
 namespace {
 
 using Fault = SimpleSelect::Fault;
-
-bool isOneOf(const SqlScanner &statement, qsizetype index, std::initializer_list<QStringView> words)
-{
-    return std::any_of(words.begin(), words.end(),
-                       [&](QStringView word) { return statement.isWord(index, word); });
-}
 
 // The words that can follow a table in a SELECT and therefore are no alias.
 bool isAlias(const SqlScanner &statement, qsizetype index)
@@ -26,21 +19,13 @@ bool isAlias(const SqlScanner &statement, qsizetype index)
                      u"CROSS",  u"NATURAL",   u"INDEXED", u"NOT",   u"FETCH", u"OFFSET", u"FOR"});
 }
 
-qsizetype endOfParentheses(const SqlScanner &statement, qsizetype open)
-{
-    qsizetype close = open + 1;
-    while (close < statement.count() && statement.at(close).depth > statement.at(open).depth)
-        ++close;
-    return close;
-}
-
 // Window functions see the other rows of the result, so a row can't be computed again by itself. Those of a
 // subquery see only its own rows.
 bool hasWindow(const SqlScanner &statement)
 {
     for (qsizetype i = 1; i < statement.count(); ++i) {
         if (statement.isSymbol(i, u'(') && isOneOf(statement, i + 1, {u"SELECT", u"WITH"}))
-            i = endOfParentheses(statement, i);
+            i = afterBrackets(statement, i) - 1;
         if (statement.isSymbol(i, u')') && statement.isWord(i + 1, u"OVER"))
             return true;
     }

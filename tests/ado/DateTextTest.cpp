@@ -31,6 +31,20 @@ TEST(DateText, ReadsTimes)
         EXPECT_FALSE(DateText::time(text).isValid()) << text;
 }
 
+TEST(DateText, KnowsWhatIsFinerThanATimeHolds)
+{
+    for (const char *text : {"12:00:00.1234", "23:59:59.000001", "12:00:00.123456789"})
+        EXPECT_TRUE(DateText::isFinerTime(text)) << text;
+    for (const char *text : {"", "12:00", "12:00:00.123", "12:00:60.123456", "12:00:00.1234567890",
+                             "12:00:00.12345x", "12:00:00,123456", "12:00:00.123+08"})
+        EXPECT_FALSE(DateText::isFinerTime(text)) << text;
+    for (const char *text : {"2021-03-28 02:30:00.123456", "2021-03-28T02:30:00.1234"})
+        EXPECT_TRUE(DateText::isFinerMoment(text)) << text;
+    for (const char *text : {"2021-03-28", "2021-03-28 02:30:00.123", "2021-02-29 02:30:00.123456",
+                             "2021-03-28_02:30:00.123456", "2021-03-28 02:30:00.123456Z"})
+        EXPECT_FALSE(DateText::isFinerMoment(text)) << text;
+}
+
 TEST(DateText, ReadsMoments)
 {
     EXPECT_EQ(DateText::moment("2021-03-28"), QDateTime(QDate(2021, 3, 28), QTime(0, 0), Qt::UTC));

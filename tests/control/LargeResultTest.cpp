@@ -2,6 +2,7 @@
 #include "GridFixture.h"
 #include "query/SharedValues.h"
 
+#include <QtGui/QAction>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -64,6 +65,38 @@ TEST_F(LargeResult, IsCountedUpToTheCapAndPagedByIt)
     EXPECT_EQ(table->columnWidth(1), 333) << "a page turn keeps the widths";
     click(5, 1);
     EXPECT_EQ(grid.CurrPosition(), 5);
+}
+
+TEST_F(LargeResult, PagesAreTurnedAfterTheHostHasWalkedToTheEnd)
+{
+    const auto walkToEnd = [this] {
+        QMetaObject::invokeMethod(grid.RecordSet(), "MoveLast");
+        QMetaObject::invokeMethod(grid.RecordSet(), "MoveNext");
+        ASSERT_TRUE(grid.RecordSet()->property("EOF").toBool());
+    };
+    const auto press = [this](const QString &key) { part<QAction>(qPrintable(key))->trigger(); };
+    const auto expectPage = [this](int page, int position) {
+        EXPECT_TRUE(label().startsWith(u"第%1页"_s.arg(page))) << qUtf8Printable(label());
+        EXPECT_EQ(grid.CurrPosition(), position);
+        EXPECT_FALSE(grid.RecordSet()->property("EOF").toBool());
+    };
+    click(5, 1);
+    walkToEnd();
+    press(u"Next"_s);
+    expectPage(2, 1000000);
+    walkToEnd();
+    press(u"Previous"_s);
+    expectPage(1, 1);
+    walkToEnd();
+    press(u"Last"_s);
+    expectPage(2, 1000000);
+    walkToEnd();
+    goTo(1);
+    expectPage(1, 1);
+    walkToEnd();
+    press(u"Previous"_s); // there is none
+    EXPECT_TRUE(label().startsWith(u"第1页"_s)) << qUtf8Printable(label());
+    EXPECT_EQ(table->model()->rowCount(), 999999);
 }
 
 TEST_F(LargeResult, SecondControlKeepsItsOwnCountOfRecordsApart)

@@ -81,10 +81,25 @@ TEST(FilterCondition, ADayOfSqliteCanHaveATime)
 {
     constexpr Dialect engine{.database = dbAccess, .engine = Engine::SQLite};
     const auto date = FieldClass::Date;
-    EXPECT_EQ(sql(date, Equals, u"2024-05-01 00:00:00"_s, {}, engine), "COALESCE(date(F), F) = '2024-05-01'");
+    const std::string shown = "COALESCE(REPLACE(strftime('%Y-%m-%d %H:%M:%f', F), ' 00:00:00.000', ''), F)";
+    EXPECT_EQ(sql(date, Equals, u"2024-05-01 00:00:00"_s, {}, engine), shown + " = '2024-05-01'");
+    EXPECT_EQ(sql(date, InList, u"2024-05-01"_s, {}, engine), shown + " IN ('2024-05-01')");
+    EXPECT_EQ(sql(date, AtMost, u"2024-05-01"_s, {}, engine), "COALESCE(date(F), F) <= '2024-05-01'");
     EXPECT_EQ(sql(date, Equals, u"2024-05-01 00:00:00"_s), "F = '2024-05-01'");
     EXPECT_TRUE(sql(date, Equals, u"2024-05-01 12:00"_s, {}, engine).ends_with("= '2024-05-01 12:00:00'"));
     EXPECT_TRUE(sql(date, Equals, u"2024-05-01 12:00"_s).starts_with("fault"));
+}
+
+TEST(FilterCondition, DecimalsOfASecondAreWrittenAsTyped)
+{
+    const auto moment = FieldClass::Moment;
+    EXPECT_EQ(sql(moment, Equals, u"2024-05-01 12:00:00.123456"_s, {}, oracleServer),
+              "F = {ts '2024-05-01 12:00:00.123456'}");
+    EXPECT_EQ(sql(moment, Equals, u"2024-05-01 12:00:00.000001"_s), "F = '2024-05-01 12:00:00.000001'");
+    EXPECT_EQ(sql(moment, Equals, u"2024-05-01 12:00:00.500000"_s), "F = '2024-05-01 12:00:00.500'");
+    EXPECT_EQ(sql(FieldClass::Time, Equals, u"12:00:00.1234"_s), "F = '12:00:00.1234'");
+    EXPECT_TRUE(sql(moment, Equals, u"2024-05-01 12:00:00.1234567890"_s).starts_with("fault"));
+    EXPECT_TRUE(sql(FieldClass::Date, Equals, u"2024-05-01 00:00:00.000001"_s).starts_with("fault"));
 }
 
 TEST(FilterCondition, AnEmptyTextIsAsEmptyAsNoText)

@@ -53,7 +53,7 @@ struct Selected : testing::Test
         const QDateTime start(QDate(2024, 1, 1), QTime(0, 0), Qt::UTC);
         QString script =
             u"CREATE TABLE T (ID INTEGER PRIMARY KEY, [Text %] VARCHAR(50), N NUMERIC(10,2), M TIMESTAMP, "
-            "[Order] BOOLEAN);"_s;
+            "[Order] BOOLEAN, D DATE);"_s;
         // SQLite keeps a moment as the text that it was given.
         const QString forms[] = {u"yyyy-MM-dd HH:mm:ss"_s, u"yyyy-MM-ddTHH:mm:ss"_s, u"yyyy-MM-dd HH:mm"_s};
         for (int id = 0; id < 400; ++id) {
@@ -66,10 +66,15 @@ struct Selected : testing::Test
                 row.moment = start.addSecs(static_cast<qint64>(random() % 20) * 6 * 3600);
             if (random() % 8 != 0)
                 row.flag = random() % 2 == 0;
-            script += u"INSERT INTO T VALUES (%1, %2, %3, %4, %5);"_s.arg(
+            script += u"INSERT INTO T VALUES (%1, %2, %3, %4, %5, %6);"_s.arg(
                 QString::number(id), literal(row.text), row.number ? QString::number(*row.number) : u"NULL"_s,
                 literal(row.moment ? std::optional(row.moment->toString(forms[random() % 3])) : std::nullopt),
-                row.flag ? QString::number(*row.flag ? 1 : 0) : u"NULL"_s);
+                row.flag ? QString::number(*row.flag ? 1 : 0) : u"NULL"_s,
+                // Midnight can be the bare day as well.
+                literal(row.moment ? std::optional(row.moment->toString(
+                                         row.moment->time() == QTime(0, 0) && id % 2 == 0 ? u"yyyy-MM-dd"_s
+                                                                                          : forms[id % 3]))
+                                   : std::nullopt));
             rows.push_back(row);
         }
         database.run(u"BEGIN;"_s + script + u"COMMIT;"_s); // one wait for the disk instead of 400
@@ -206,6 +211,56 @@ TEST_F(Selected, ByDayAndMoment)
     });
     expectSame({moment, InList, u"2024-01-01,2024-01-03 12:00"_s, {}}, [&](const Row &row) {
         return row.moment && (row.moment->date() == QDate(2024, 1, 1) || *row.moment == noon);
+    });
+}
+
+TEST_F(Selected, ByMomentFinerThanMilliseconds)
+{
+    database.run(
+        u"CREATE TABLE U (ID INTEGER, M TIMESTAMP); INSERT INTO U VALUES"
+        "(1,'2024-07-01 12:00:00.123456'),(2,'2024-07-01 12:00:00.123'),(3,'2024-07-01T12:00:00.123000'),"
+        "(4,'2024-07-01 12:00:00+08:00'),(5,'2024-07-01 12:00'),(6,NULL)"_s);
+    const auto found = [&](const QString &typed) {
+        const FilterCondition condition =
+            conditionOf(dialect, {{u"M"_s, u"M"_s, FieldClass::Moment}, Equals, typed, {}});
+        ADODB::Recordset records;
+        records.Open(u"select ID from U where "_s + condition.sql, connection);
+        QStringList ids;
+        for (qint64 record = 1; record <= records.RecordCount(); ++record)
+            ids.append(records.CellText(record, 0));
+        return ids.join(u' ');
+    };
+    EXPECT_EQ(found(u"2024-07-01 12:00:00.123456"_s), u"1"_s);
+    EXPECT_EQ(found(u"2024-07-01 12:00:00.123"_s), u"2 3"_s);
+    EXPECT_EQ(found(u"2024-07-01 12:00:00.1230"_s), u"2 3"_s);
+    EXPECT_EQ(found(u"2024-07-01 12:00:00"_s), u"5"_s) << "another zone is shown otherwise";
+}
+
+// A field of days whose values can have a time: it equals the day only where no other time is shown, and is
+// neither before nor after the day at any time of it.
+TEST_F(Selected, ByDayThatCanHaveATime)
+{
+    const FilterField field{u"D"_s, u"D"_s, FieldClass::Date};
+    const QDate day(2024, 1, 3);
+    const QDateTime midnight(day, QTime(0, 0), Qt::UTC);
+    const QDateTime noon(day, QTime(12, 0), Qt::UTC);
+    const auto with = [&](FilterOperator op, const QString &value,
+                          const std::function<bool(const QDateTime &)> &wanted) {
+        expectSame({field, op, value, {}}, [&](const Row &row) { return row.moment && wanted(*row.moment); });
+    };
+    const QString typed = u"2024-01-03"_s;
+    with(Equals, typed, [&](const QDateTime &m) { return m == midnight; });
+    with(Equals, u"2024-01-03 00:00:00"_s, [&](const QDateTime &m) { return m == midnight; });
+    with(Equals, u"2024-01-03 12:00:00"_s, [&](const QDateTime &m) { return m == noon; });
+    with(InList, u"2024-01-03, 2024-01-04"_s,
+         [&](const QDateTime &m) { return m == midnight || m == midnight.addDays(1); });
+    expectSame({field, NotEquals, typed, {}}, [&](const Row &row) { return row.moment != midnight; });
+    with(Greater, typed, [&](const QDateTime &m) { return m.date() > day; });
+    with(Less, typed, [&](const QDateTime &m) { return m.date() < day; });
+    with(AtLeast, typed, [&](const QDateTime &m) { return m.date() >= day; });
+    with(AtMost, typed, [&](const QDateTime &m) { return m.date() <= day; });
+    expectSame({field, Between, u"2024-01-02"_s, typed}, [&](const Row &row) {
+        return row.moment && row.moment->date() >= day.addDays(-1) && row.moment->date() <= day;
     });
 }
 

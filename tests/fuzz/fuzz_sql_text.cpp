@@ -5,6 +5,7 @@
 #include "query/fields/FieldNames.h"
 #include "query/modQNVSFHFDataMain.h"
 #include "sql/Names.h"
+#include "sql/StatementLines.h"
 
 #include <stdexcept>
 

@@ -9,7 +9,9 @@
 #include <KOVAVSFDataGridLib/ado/Error.h>
 #include <KOVAVSFDataGridLib/ado/Recordset.h>
 
+#include <QtTest/QTest>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QTreeWidget>
 
 #include <algorithm>
@@ -35,13 +37,21 @@ protected:
         EngineTest::SetUp();
         if (IsSkipped())
             return;
+        createTables();
+        connection = std::make_shared<ADODB::Connection>();
+        connection->Open(database->connectionString());
+    }
+
+    void createTables()
+    {
         const QString collation =
             engine.isMariaDb() ? u" CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin"_s : QString();
         database->run(
-            {u"DROP TABLE IF EXISTS Item"_s, u"DROP TABLE IF EXISTS Ord"_s, u"DROP TABLE IF EXISTS Cust"_s,
-             u"DROP TABLE IF EXISTS 客户"_s,
+            {u"DROP VIEW IF EXISTS AllCust"_s, u"DROP TABLE IF EXISTS Item"_s, u"DROP TABLE IF EXISTS Ord"_s,
+             u"DROP TABLE IF EXISTS Cust"_s, u"DROP TABLE IF EXISTS 客户"_s,
              u"CREATE TABLE Cust(ID INTEGER PRIMARY KEY, Name VARCHAR(40), City VARCHAR(40))"_s + collation,
              u"INSERT INTO Cust VALUES (1,'anna','B'),(2,'bob','A'),(3,'cid','B'),(4,'b order by c','A')"_s,
+             u"CREATE VIEW AllCust AS SELECT ID, Name, City FROM Cust"_s,
              u"CREATE TABLE Ord(ID INTEGER PRIMARY KEY, Name VARCHAR(40), Qty INTEGER, Price DECIMAL(8,2), "
              "Cust INTEGER)"_s +
                  collation,
@@ -52,8 +62,6 @@ protected:
              u"INSERT INTO Item VALUES (1,'tea',3),(1,'cup',0),(2,'tea',1),(3,'pot',2),(7,'jug',5),(7,'tea',4)"_s,
              u"CREATE TABLE 客户(名称 VARCHAR(20), 城市 VARCHAR(20))"_s + collation,
              u"INSERT INTO 客户 VALUES ('甲','北京'),('乙','上海'),('丙',''),('丁','北京')"_s});
-        connection = std::make_shared<ADODB::Connection>();
-        connection->Open(database->connectionString());
     }
 
     // Nothing where the engine doesn't take the statement.
@@ -254,6 +262,74 @@ protected:
         expectShown(all, "ToOrigin");
     }
 
+    // Of fields with one name, the one that is ticked is shown.
+    void chooseOneOfEqualNames(const Answer &all)
+    {
+        for (qsizetype column = 0; column < all.names.size(); ++column) {
+            if (all.names.count(all.names.at(column)) == 1)
+                continue;
+            Answer expected{{all.names.at(column)}, {}};
+            for (const QStringList &row : all.rows)
+                expected.rows.push_back({row.at(column)});
+            WindowAnswers dialogs({[&](QDialog &dialog) { tickOnly(dialog, static_cast<int>(column)); }});
+            hands->click(u"SelField"_s);
+            expectShown(expected, "the choice of one of equal names");
+            hands->click(u"All"_s);
+            expectShown(all, "All after one of equal names");
+            hands->click(u"Part"_s);
+            expectShown(expected, "Part with one of equal names");
+            hands->click(u"ToOrigin"_s);
+            expectShown(all, "ToOrigin");
+        }
+    }
+
+    static void tickOnly(QDialog &dialog, int field)
+    {
+        auto &view = part<QAbstractItemView>(dialog, "lvSelField");
+        for (int row = 0; row < view.model()->rowCount(); ++row) {
+            const QModelIndex item = view.model()->index(row, 0);
+            if ((item.data(Qt::CheckStateRole).toInt() == Qt::Checked) != (row == field)) {
+                view.setFocus();
+                view.setCurrentIndex(item);
+                QTest::keyClick(&view, Qt::Key_Space);
+            }
+        }
+        press(dialog, "cmdOK");
+    }
+
+    // The list of a single record and the statement's rows are the same.
+    void showSingleRecord(const Answer &all)
+    {
+        if (all.rows.empty())
+            return;
+        hands->clickCell(1, 1);
+        hands->click(u"SingleRecord"_s);
+        for (qsizetype column = 0; column < all.names.size(); ++column) {
+            const QModelIndex index = hands->list->model()->index(static_cast<int>(column), 0);
+            EXPECT_EQ(index.data().toString(), all.names.at(column));
+            EXPECT_EQ(index.siblingAtColumn(1).data().toString(), all.rows.front().at(column))
+                << qUtf8Printable(all.names.at(column));
+        }
+        hands->click(u"AllRecord"_s);
+        expectShown(all, "the single record");
+    }
+
+    // Whether records can be deleted; where they can't, nobody is asked.
+    bool canDelete()
+    {
+        const auto *menu = hands->grid.findChild<QMenu *>(u"PopMnuData"_s);
+        const QAction *const item = menu->actions().at(8);
+        EXPECT_EQ(item->isEnabled(), item->toolTip().isEmpty());
+        return item->isEnabled();
+    }
+
+    int recordsInTables()
+    {
+        return database->ask(u"SELECT count(*) FROM Ord"_s).toInt() +
+               database->ask(u"SELECT count(*) FROM Cust"_s).toInt() +
+               database->ask(u"SELECT count(*) FROM 客户"_s).toInt();
+    }
+
     void showWholeTable(const Answer &all, const QString &whole)
     {
         const auto expected = whole.isEmpty() ? std::optional(all) : read(whole);
@@ -270,7 +346,7 @@ TEST_P(EngineStatements, AreShownWithTheRowsThatALoopTakes)
 {
     int taken = 0;
     QStringList left;
-    for (const Case &c : ReadCases(u"statements.cases"_s)) {
+    for (const Case &c : ReadCases({u"statements.cases"_s, u"server_statements.cases"_s})) {
         SCOPED_TRACE(c.place.toStdString());
         const QString statement = c[u"statement"_s];
         const auto all = read(statement);
@@ -288,11 +364,51 @@ TEST_P(EngineStatements, AreShownWithTheRowsThatALoopTakes)
         filterByBuilder(*all);
         sort(*all);
         chooseFields(*all, statement.startsWith(u"select distinct", Qt::CaseInsensitive));
+        chooseOneOfEqualNames(*all);
+        showSingleRecord(*all);
+        canDelete();
         if (c.Has(u"whole"_s) || !statement.contains(u"where", Qt::CaseInsensitive))
             showWholeTable(*all, c[u"whole"_s]);
     }
     std::printf("%s takes %d statements; left out: %s\n", engine.name, taken, qPrintable(left.join(u' ')));
     EXPECT_GE(taken, engine.store == JourneyEngine::SqliteFile ? 60 : 40);
+}
+
+// What is derived from a statement whose records can be deleted is one as well.
+TEST_P(EngineStatements, RecordsCanBeDeletedFromWhatIsFilteredAndSorted)
+{
+    int deleted = 0;
+    for (const Case &c : ReadCases({u"statements.cases"_s, u"server_statements.cases"_s})) {
+        SCOPED_TRACE(c.place.toStdString());
+        const QString statement = c[u"statement"_s];
+        const auto all = read(statement);
+        if (!all || all->rows.size() < 2)
+            continue;
+        ASSERT_TRUE(hands->load(statement, {}));
+        if (!canDelete())
+            continue;
+        EXPECT_TRUE(engine.isWritable());
+        WindowAnswers dialogs({[&](QDialog &dialog) {
+            Hands::sort(dialog, {part<QComboBox>(dialog, "cmbFields").itemText(0)}, true);
+        }});
+        hands->click(u"Sort"_s);
+        hands->choose(14, 1, 1); // the cell filter
+        hands->messages.clear(); // some types have no such filter
+        ASSERT_TRUE(canDelete()) << qUtf8Printable(hands->statement());
+        const Answer kept = shown();
+        const int before = recordsInTables();
+        hands->messages.answerNext(QMessageBox::Yes);
+        hands->choose(9, 1);
+        EXPECT_EQ(hands->messages.shown().size(), 1u) << qUtf8Printable(hands->messages.texts().join(u'|'));
+        hands->messages.clear();
+        EXPECT_EQ(hands->rows(), static_cast<int>(kept.rows.size()) - 1);
+        EXPECT_EQ(recordsInTables(), before - 1) << qUtf8Printable(hands->statement());
+        ++deleted;
+        createTables();
+    }
+    std::printf("%s: records of %d statements deleted\n", engine.name, deleted);
+    EXPECT_GE(deleted, engine.isWritable() ? 10 : 0);
+    EXPECT_TRUE(engine.isWritable() || deleted == 0);
 }
 
 const std::vector<JourneyEngine> &enginesOfStatements()

@@ -1,6 +1,12 @@
 // Values at the edge of what engines hold, as they stand in the grid.
 #include "EngineJourney.h"
 
+#include "support/Dialogs.h"
+
+#include <QtTest/QTest>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QTableView>
+
 #include <limits>
 
 using namespace KovaTest;
@@ -147,6 +153,67 @@ TEST_P(EngineValues, AMomentWithATimeZoneIsShownInTheSessions)
     const QString inSession = database->ask(
         u"SELECT to_char(TIMESTAMP WITH TIME ZONE '2024-07-01 12:00:00+08', 'YYYY-MM-DD HH24:MI:SS')"_s);
     EXPECT_TRUE(shown(u"zoned"_s).startsWith(inSession)) << qUtf8Printable(shown(u"zoned"_s));
+}
+
+// With all the decimals of its second, and with a time zone where the engine has one.
+TEST_P(EngineValues, AMomentCanBeTypedAsItIsShown)
+{
+    const QString decimals = engine.store == JourneyEngine::AccessFile ? QString() : u".123456"_s;
+    insert(u"a_moment"_s, u"1,'2024-07-01 12:00:00%1'"_s.arg(decimals));
+    insert(u"a_moment"_s, u"2,'2024-07-01 12:00:01'"_s);
+    insert(u"a_moment"_s, u"3,NULL"_s);
+    if (isPostgres())
+        database->run({u"ALTER TABLE journey_values ALTER a_moment TYPE TIMESTAMP(6) WITH TIME ZONE"_s});
+    ASSERT_TRUE(load());
+    const QString first = shown(u"a_moment"_s);
+    EXPECT_EQ(first, u"2024-07-01 12:00:00"_s + decimals);
+    for (int row = 0; row < 2; ++row) {
+        const QString text = hands->texts(u"a_moment"_s).at(row);
+        WindowAnswers dialogs(
+            {[&](QDialog &dialog) { buildFilter(dialog, u"a_moment"_s, u"等于"_s, text); }});
+        hands->click(u"Filter"_s);
+        EXPECT_EQ(hands->texts(u"a_moment"_s), QStringList(text)) << qUtf8Printable(hands->statement());
+        hands->click(u"ToPreview"_s);
+        ASSERT_EQ(hands->rows(), 3);
+    }
+    if (!engine.isWritable())
+        return;
+    hands->clickCell(1, 1);
+    hands->click(u"SingleRecord"_s);
+    hands->list->setCurrentIndex(hands->list->model()->index(hands->listedRow(u"a_moment"_s), 1));
+    hands->list->setFocus();
+    QTest::keyClick(hands->list, Qt::Key_F2);
+    EXPECT_EQ(hands->edit->text(), first);
+    const QString other = first.chopped(1) + u'7';
+    hands->edit->clear();
+    compose(*hands->edit, other);
+    QTest::keyClick(hands->edit, Qt::Key_Return);
+    hands->click(u"AllRecord"_s);
+    EXPECT_TRUE(hands->messages.texts().isEmpty()) << qUtf8Printable(hands->messages.texts().join(u'|'));
+    EXPECT_EQ(shown(u"a_moment"_s), other);
+    hands->click(u"ToOrigin"_s);
+    EXPECT_EQ(shown(u"a_moment"_s), other) << "read again";
+}
+
+// A fraction is hardly ever exactly what is shown of it.
+TEST_P(EngineValues, TheQuickFilterLooksForDigitsThatAreShown)
+{
+    if (engine.isMariaDb())
+        GTEST_SKIP() << "its LIKE sees all digits that it has";
+    insert(u"real_number"_s, u"1,0.1+0.2"_s);
+    insert(u"real_number"_s, u"2,1.5e300"_s);
+    insert(u"real_number"_s, u"3,-2.5e-10"_s);
+    insert(u"real_number"_s, u"4,0"_s);
+    ASSERT_TRUE(load());
+    EXPECT_EQ(hands->texts(u"real_number"_s), (QStringList{u"0.3"_s, u"1.5e+300"_s, u"-2.5e-10"_s, u"0"_s}));
+    const std::pair<QString, QStringList> words[] = {
+        {u"0.3"_s, {u"1"_s}}, {u"000"_s, {}}, {u"+300"_s, {u"2"_s}}, {u"-10"_s, {u"3"_s}}};
+    for (const auto &[word, ids] : words) {
+        WindowAnswers dialogs({[&](QDialog &dialog) { Hands::find(dialog, word, u"real_number"_s); }});
+        hands->click(u"QuickFilter"_s);
+        EXPECT_EQ(hands->texts(u"id"_s), ids) << qUtf8Printable(word + u' ' + hands->statement());
+        hands->click(u"ToPreview"_s);
+    }
 }
 
 TEST_P(EngineValues, PicturesComeThroughByteForByte)

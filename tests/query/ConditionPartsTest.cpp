@@ -52,9 +52,15 @@ const Case cases[] = {
     {"Sum", u"价格 * 2 > 5"_s, {u"价格 * 2 > 5"_s}, {u"价格"_s}},
     {"Day", u"date(日期) >= '2024-01-31'"_s, {u"日期 ≥ “2024-01-31”"_s}, {u"日期"_s}},
     {"Moment",
-     u"COALESCE(REPLACE(strftime('%Y-%m-%d %H:%M:%f', t), '.000', ''), t) = '2024'"_s,
+     u"COALESCE(CASE WHEN length(rtrim(t, '0')) < 24 THEN REPLACE(strftime('%Y-%m-%d %H:%M:%f', t), "
+     "'.000', '') END, t) = '2024'"_s,
      {u"t = “2024”"_s},
      {u"t"_s}},
+    {"DoubleAsText",
+     u"(COALESCE(CASE WHEN abs(价格) BETWEEN 0.0001 AND 1e15 THEN CAST(CAST(价格 AS NUMERIC) AS TEXT) END, "
+     "CAST(价格 AS TEXT)) LIKE '%1.5%' OR CAST(名称 AS TEXT) LIKE '%1.5%' )"_s,
+     {u"价格 包含 “1.5” 或者 名称 包含 “1.5”"_s},
+     {u"价格"_s, u"名称"_s}},
     {"Quoted", u"商品.[Unit Price] > 12.5"_s, {u"Unit Price > 12.5"_s}, {u"Unit Price"_s}},
     {"Apostrophe", u"名称 = 'O''Neil 红茶'"_s, {u"名称 = “O'Neil 红茶”"_s}},
     {"Null", u"日期 IS NULL AND 城市 is not null"_s, {u"日期 为空"_s, u"城市 不为空"_s}},

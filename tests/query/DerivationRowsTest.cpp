@@ -3,9 +3,9 @@
 
 #include "CaseFile.h"
 #include "SampleDatabase.h"
-#include "query/derivation/SqlText.h"
 #include "sql/Literals.h"
 #include "sql/Names.h"
+#include "sql/StatementLines.h"
 
 #include <gtest/gtest.h>
 
@@ -16,8 +16,6 @@ using namespace KovaTest;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const Dialect dialect = dialectOf(dbAccess, Engine::SQLite);
 
 class DerivationRows : public testing::Test
 {
@@ -33,7 +31,7 @@ protected:
     }
     static Derivation derivationOf(const QString &statement)
     {
-        return Derivation(statement, database->fields(statement), dialect);
+        return KovaTest::derivationOf(*database, statement);
     }
 
     static std::unique_ptr<SqliteRows> database;

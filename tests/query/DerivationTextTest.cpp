@@ -103,6 +103,23 @@ TEST(DerivationText, WhatCannotBeDoneSaysWhyBeforeAnythingIsTyped)
               QString());
 }
 
+TEST(DerivationText, TheWholeTableHasNoConditionInAnyUnitedSelect)
+{
+    const auto whole = [](const QString &statement) {
+        return derive(Engine::PostgreSQL, statement, {u"a"_s}).withoutConditions();
+    };
+    expectText(whole(u"(select a from T where b = 1) union all (select a from U where c in (select d from V "
+                     "where e = 2) order by a limit 3)"_s),
+               "(select a from T ) union all (select a from U order by a limit 3)");
+    expectText(
+        whole(u"((select a from T where b = 1) union select a from U where c = 1) except select a from V"_s),
+        "((select a from T ) union select a from U ) except select a from V");
+    expectText(whole(u"with W as (select a from T where b = 1) (select a from W where a > 1);"_s),
+               "with W as (select a from T where b = 1) (select a from W );");
+    expectText(whole(u"select (select max(a) from T where b = 1) as a from U where c = (1) group by d"_s),
+               "select (select max(a) from T where b = 1) as a from U group by d");
+}
+
 TEST(DerivationText, FieldsOfEqualNamesAreToldApartByTheirTable)
 {
     const Derivation joined(u"select * from Ord o join Cust on o.C = Cust.ID"_s,
@@ -192,7 +209,18 @@ INSTANTIATE_TEST_SUITE_P(
                              u"ID.Ord|Cust.Ord|ID.Ord|Cust.Ord"_s, u"a.ID|a.Cust|b.ID|b.Cust"_s},
                     // The names say that the first table has more fields than the second.
                     StarCase{"Uneven", u"select a.*, b.* from Ord a, Ord b"_s, u"ID.Ord|N.Ord|M.Ord|ID.Ord"_s,
-                             u"|N|M|"_s}),
+                             u"|||"_s},
+                    // What comes before a star says nothing about it; what follows one can be of its table.
+                    StarCase{"BehindPlain", u"select a.ID, c.*, i.* from Ord a, Cust c, Item i"_s,
+                             u"ID.Ord|ID.Cust|Name.Cust|N.Item"_s, u"a.ID|c.ID|c.Name|i.N"_s},
+                    StarCase{"Unclear", u"select c.*, c.ID, i.* from Cust c, Item i"_s,
+                             u"ID.Cust|Name.Cust|ID.Cust|N.Item"_s, u"|||"_s},
+                    StarCase{"ViewBesideItsTable", u"select v.*, c.* from V v, Cust c"_s,
+                             u"ID.Cust|Name.Cust|ID.Cust|Name.Cust"_s, u"|||"_s},
+                    StarCase{"SelectBesideItsTable", u"select * from (select ID from Cust) x, Cust c"_s,
+                             u"ID.Cust|ID.Cust|Name.Cust"_s, u"||"_s},
+                    StarCase{"SelectWithAlias", u"select x.* from (select ID from Cust) x, Item i"_s,
+                             u"ID.Cust"_s, u"x.ID"_s}),
     [](const auto &parameter) { return std::string(parameter.param.name); });
 
 namespace {

@@ -5,7 +5,7 @@
 #include "CaseFile.h"
 #include "SampleDatabase.h"
 #include "query/conditions/Conditions.h"
-#include "query/derivation/SqlText.h"
+#include "sql/StatementLines.h"
 
 #include <QtCore/QSet>
 #include <gtest/gtest.h>
@@ -320,9 +320,7 @@ TEST(DerivationProperties, NoCellsTextChangesAStatementsStructure)
                              u"客户"_s};
     for (const Case &c : ReadCases(u"statements.cases"_s)) {
         SCOPED_TRACE(c.place.toStdString());
-        const Derivation derivation(joinStatementLines(c[u"statement"_s]),
-                                    database->fields(joinStatementLines(c[u"statement"_s])),
-                                    dialectOf(dbAccess, Engine::SQLite));
+        const Derivation derivation = derivationOf(*database, joinStatementLines(c[u"statement"_s]));
         QString structures[3];
         for (int round = 0; round < 40; ++round) {
             QString text = u"x"_s; // no number
@@ -337,7 +335,7 @@ TEST(DerivationProperties, NoCellsTextChangesAStatementsStructure)
                 buildCellFilter(name, 202, text.split(u'\'').join(u' '), Engine::SQLite).condition, words};
             for (int kind = 0; kind < 3; ++kind) {
                 const QString once = derivation.withCondition(conditions[kind]);
-                const Derivation again(once, database->fields(once), dialectOf(dbAccess, Engine::SQLite));
+                const Derivation again = derivationOf(*database, once);
                 const QString structure = structureOf(again.withSort(again.written().first()));
                 if (round == 0)
                     structures[kind] = structure;

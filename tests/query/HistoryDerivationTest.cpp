@@ -77,8 +77,8 @@ public:
 
 } // namespace
 
-// What is chosen out of TOP is the table of what follows, so that other fields need another table.
-TEST(HistoryDerivationOfTop, OtherFieldsCanBeChosenAfterAFilter)
+// TOP takes its rows before a condition, which can name the fields that were not chosen all the same.
+TEST(HistoryDerivationOfTop, AFilterCanNameFieldsThatWereNotChosen)
 {
     ListReader reader;
     MemoryChooser chooser;
@@ -98,25 +98,28 @@ TEST(HistoryDerivationOfTop, OtherFieldsCanBeChosenAfterAFilter)
     ASSERT_TRUE(manager.GetPartShowSelFields(all, {}, all, chosen));
     EXPECT_EQ(chosen.simplified(), u"SELECT top 5 B FROM T ORDER BY B"_s);
     history.AddCurrentSQL(chosen, 0, history.GetFieldsStatement(chosen));
-    EXPECT_FALSE(history.CanName(*history.DataFields().Item(1)));
-    EXPECT_TRUE(history.CanName(*history.DataFields().Item(2)));
+    EXPECT_TRUE(history.CanName(*history.DataFields().Item(1)));
+    EXPECT_EQ(history.GetColumnRealName(chosen, {u"B"_s}, 0), u"B"_s);
 
     QString filtered;
-    ASSERT_TRUE(history.GetNextSQLByFilter(u"B = 1"_s, filtered));
+    ASSERT_TRUE(history.GetNextSQLBySort(u"A DESC"_s, filtered));
     EXPECT_EQ(filtered.simplified(),
-              u"SELECT * FROM ( SELECT top 5 B FROM T ORDER BY B ) AS Q WHERE B = 1 ORDER BY B"_s);
+              u"SELECT B FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q ORDER BY A DESC"_s);
+    ASSERT_TRUE(history.GetNextSQLByFilter(u"A = 1"_s, filtered));
+    EXPECT_EQ(filtered.simplified(),
+              u"SELECT B FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE A = 1 ORDER BY B"_s);
     history.AddCurrentSQL(filtered, 0);
     QString next;
     ASSERT_TRUE(history.GetNextShowSQL(1, next));
     EXPECT_EQ(next.simplified(),
-              u"SELECT * FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE B = 1 ORDER BY B"_s);
+              u"SELECT * FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE A = 1 ORDER BY B"_s);
     chooser.choice = u"A"_s;
     ASSERT_TRUE(manager.GetPartShowSelFields(all, chosen, filtered, chosen));
     EXPECT_EQ(chosen.simplified(),
-              u"SELECT A FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE B = 1 ORDER BY B"_s);
+              u"SELECT A FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE A = 1 ORDER BY B"_s);
     EXPECT_EQ(chooser.allFields, (QStringList{u"A"_s, u"B"_s}));
     ASSERT_TRUE(manager.GetRequirePartSQL(filtered, 3, next));
-    EXPECT_EQ(next.simplified(), u"SELECT * FROM ( select top 5 A, B from T order by B ) AS Q ORDER BY B"_s);
+    EXPECT_EQ(next.simplified(), u"SELECT B FROM ( select top 5 A, B from T order by B ) AS Q ORDER BY B"_s);
 }
 
 TEST_F(HistoryDerivation, ASimpleStatementStaysLetterForLetter)

@@ -2,6 +2,7 @@
 #include "query/derivation/SqlText.h"
 #include "query/fields/FieldNames.h"
 #include "sql/Names.h"
+#include "sql/StatementLines.h"
 
 #include "CaseFile.h"
 

@@ -1,4 +1,5 @@
 #include "query/derivation/SqlText.h"
+#include "sql/StatementLines.h"
 
 #include "CaseFile.h"
 

@@ -58,6 +58,14 @@ TEST(Like, MatchesABackslashAsItself)
     expectText(like(mariaDb, u"F"_s, uR"(a\%)"_s, Anchor::End), R"(F LIKE '%a\\!%' ESCAPE '!')");
 }
 
+TEST(Like, SeesTheDigitsOfADoubleThatAreShown)
+{
+    EXPECT_EQ(likeOperandOfDouble(Engine::MySQL, u"F"_s), u"F"_s);
+    EXPECT_EQ(likeOperandOfDouble(Engine::PostgreSQL, u"F"_s),
+              u"COALESCE(CASE WHEN abs(F) BETWEEN 0.0001 AND 1e15 THEN CAST(CAST(F AS NUMERIC) AS TEXT) END, "
+              "CAST(F AS TEXT))"_s);
+}
+
 TEST(Like, CastsWhatIsReportedAsTextOnPostgreSql)
 {
     const Dialect postgres = dialectOf(dbOracle, Engine::PostgreSQL);

@@ -12,6 +12,11 @@ EditModeEnum Recordset::EditMode() const
     return d->edit().mode();
 }
 
+QString Recordset::WhyReadOnly() const
+{
+    return d->shared && d->editor ? d->editor->whyReadOnly() : QString();
+}
+
 // A new record that can't be saved keeps the place that another one would take.
 void Recordset::saveBeforeAddNew()
 {

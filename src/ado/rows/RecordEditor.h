@@ -25,6 +25,8 @@ public:
 
     bool isWritable() const { return m_writer != nullptr; }
     EditModeEnum mode() const { return m_mode; }
+    // Empty for a result that can be written.
+    QString whyReadOnly() const { return m_writer ? QString() : m_whyReadOnly; }
     bool isEmpty() const { return m_values.empty(); }
     // The pending value of a column, null when it has none.
     const QVariant *pending(int column) const;

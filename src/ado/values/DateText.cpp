@@ -29,6 +29,14 @@ int milliseconds(QByteArrayView decimals)
     return std::all_of(rest.begin(), rest.end(), [](char c) { return c == '0'; }) ? number : -1;
 }
 
+// Whether the text is `held` characters that a QTime can hold and up to six further decimals.
+bool hasFinerDecimals(QByteArrayView text, qsizetype held)
+{
+    constexpr qsizetype further = 6;
+    return text.size() > held && text.size() <= held + further && text[held - 4] == '.' &&
+           digits(text, held, text.size() - held) >= 0;
+}
+
 } // namespace
 
 QDate date(QByteArrayView text)
@@ -64,6 +72,18 @@ QDateTime moment(QByteArrayView text)
         return {day, QTime(0, 0), Qt::UTC};
     const QTime clock = text[10] == ' ' || text[10] == 'T' ? time(text.sliced(11)) : QTime();
     return clock.isValid() ? QDateTime(day, clock, Qt::UTC) : QDateTime();
+}
+
+bool isFinerTime(QByteArrayView text)
+{
+    constexpr qsizetype held = sizeof("HH:mm:ss.zzz") - 1;
+    return hasFinerDecimals(text, held) && time(text.first(held)).isValid();
+}
+
+bool isFinerMoment(QByteArrayView text)
+{
+    constexpr qsizetype held = sizeof("yyyy-MM-dd HH:mm:ss.zzz") - 1;
+    return hasFinerDecimals(text, held) && moment(text.first(held)).isValid();
 }
 
 } // namespace ADODB::DateText

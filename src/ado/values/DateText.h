@@ -15,4 +15,9 @@ QTime time(QByteArrayView text);
 // A date alone, or a date and a time with a blank or a T between. No zone; the answer is in UTC.
 QDateTime moment(QByteArrayView text);
 
+// Whether it is such a text but for its decimals, of which there are more than a QTime can hold, nine at
+// most.
+bool isFinerTime(QByteArrayView text);
+bool isFinerMoment(QByteArrayView text);
+
 } // namespace ADODB::DateText

@@ -216,7 +216,10 @@ QVariant convert(const QVariant &value, DataTypeEnum type, bool *ok)
     case Shape::Any:
         return value;
     }
-    QVariant read = readText(ValueText(value).trimmed().toUtf8(), shape);
+    const QByteArray text = ValueText(value).trimmed().toUtf8();
+    const bool isFiner = (shape == Shape::Time && DateText::isFinerTime(text)) ||
+                         (shape == Shape::Moment && DateText::isFinerMoment(text));
+    QVariant read = isFiner ? QVariant(QString::fromUtf8(text)) : readText(text, shape);
     *ok = read.isValid();
     return read;
 }

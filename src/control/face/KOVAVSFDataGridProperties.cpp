@@ -7,10 +7,10 @@
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "language/Language.h"
-#include "query/derivation/SqlText.h"
 #include "session/SessionWindow.h"
 #include "session/commands/CommandKeys.h"
 #include "sql/SelectParts.h"
+#include "sql/StatementLines.h"
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QPushButton>

@@ -19,6 +19,7 @@ PopupMenu::PopupMenu(QWidget &window, const Kind &kind, const GridToolbar &toolb
     : QMenu(&window), m_kind(kind), m_toolbar(toolbar), m_session(session)
 {
     setObjectName(kind.name);
+    setToolTipsVisible(true); // why an item can't be used
     const int last = Command::lastMenuIndex(kind.texts);
     for (int index = 1; index <= last; ++index) {
         const Command *const command = Command::findMenuItem(kind.texts, index);
@@ -87,7 +88,9 @@ void PopupMenu::refresh(bool hasText)
         if (command->button)
             action->setVisible(m_toolbar.isButtonVisible(button));
         const bool isGiven = button.isEmpty() || m_toolbar.isButtonEnabled(button);
-        action->setEnabled(isGiven && (hasText || !texts.needsText) && m_session.whyNot(*command).isEmpty());
+        const QString why = m_session.whyNot(*command);
+        action->setEnabled(isGiven && (hasText || !texts.needsText) && why.isEmpty());
+        action->setToolTip(why);
     }
 }
 

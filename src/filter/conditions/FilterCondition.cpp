@@ -219,6 +219,14 @@ QString isEmpty(const Dialect &dialect, const FilterField &field, bool wanted)
     return wanted ? isEmptyText(dialect, field.written) : isNotEmptyText(dialect, field.written);
 }
 
+// Whether it looks for values as they are shown, rather than for what comes before or after.
+bool isByValue(FilterOperator op)
+{
+    op = positiveOf(op);
+    return op == FilterOperator::Equals || op == FilterOperator::InList ||
+           (comparesRecords(op) && !takesCount(op));
+}
+
 } // namespace
 
 FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked, const FilterScope &scope)
@@ -233,7 +241,8 @@ FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked, c
         (hasTimeOfDay(choice.value) || hasTimeOfDay(choice.lastValue)))
         choice.field.fieldClass = FieldClass::Moment;
     if (choice.field.fieldClass == FieldClass::Date)
-        choice.field.written = dateOperand(dialect, choice.field.written);
+        choice.field.written = isByValue(choice.op) ? dateOperand(dialect, choice.field.written)
+                                                    : dayOperand(dialect, choice.field.written);
     else if (choice.field.fieldClass == FieldClass::Moment)
         choice.field.written = momentOperand(dialect, choice.field.written);
     const Writer writer(dialect, choice, scope);

@@ -39,15 +39,24 @@ std::optional<FilterValue> readBoolean(const QString &typed)
     return FilterValue{.isTrue = isTrue};
 }
 
-QTime readTime(const QString &text)
+struct TypedTime
+{
+    QTime time;    // invalid when the text is none
+    QString finer; // decimals after the milliseconds, as a database can have them
+
+    bool isMidnight() const { return time == QTime(0, 0) && finer.isEmpty(); }
+};
+
+TypedTime readTime(const QString &text)
 {
     static const QRegularExpression form(
-        uR"(\A([0-9]{1,2}):([0-9]{2})(?::([0-9]{2})(?:\.([0-9]{1,3}))?)?\z)"_s);
+        uR"(\A([0-9]{1,2}):([0-9]{2})(?::([0-9]{2})(?:\.([0-9]{1,3})([0-9]{0,6}?)0*)?)?\z)"_s);
     const auto match = form.match(text);
-    return match.hasMatch()
-               ? QTime(match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt(),
-                       match.captured(4).leftJustified(3, u'0').toInt())
-               : QTime();
+    if (!match.hasMatch())
+        return {};
+    return {QTime(match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt(),
+                  match.captured(4).leftJustified(3, u'0').toInt()),
+            match.captured(5)};
 }
 
 double rankOf(const QDateTime &moment)
@@ -80,12 +89,13 @@ std::optional<FilterValue> readMoment(const Dialect &dialect, const QString &typ
                            .lastRank = rankOf(days->end.startOfDay(Qt::UTC)) - 1};
     }
     const auto [day, rest] = splitMoment(typed);
-    const QTime time = readTime(rest);
-    if (!day.isValid() || !time.isValid())
+    const TypedTime typedTime = readTime(rest);
+    if (!day.isValid() || !typedTime.time.isValid())
         return std::nullopt;
-    const QDateTime moment(day, time, Qt::UTC);
-    return FilterValue{
-        .literal = momentLiteral(dialect, moment), .rank = rankOf(moment), .lastRank = rankOf(moment)};
+    const QDateTime moment(day, typedTime.time, Qt::UTC);
+    return FilterValue{.literal = momentLiteral(dialect, moment, typedTime.finer),
+                       .rank = rankOf(moment),
+                       .lastRank = rankOf(moment)};
 }
 
 std::optional<FilterValue> readDate(const Dialect &dialect, const QString &typed, QDate today)
@@ -93,7 +103,7 @@ std::optional<FilterValue> readDate(const Dialect &dialect, const QString &typed
     auto days = readDays(typed, today);
     if (!days) {
         const auto [day, rest] = splitMoment(typed);
-        if (!day.isValid() || rest.isEmpty() || readTime(rest) != QTime(0, 0))
+        if (!day.isValid() || rest.isEmpty() || !readTime(rest).isMidnight())
             return std::nullopt;
         days = {day, day.addDays(1)};
     }
@@ -106,10 +116,10 @@ std::optional<FilterValue> readDate(const Dialect &dialect, const QString &typed
 
 std::optional<FilterValue> readTimeOfDay(const Dialect &dialect, const QString &typed)
 {
-    const QTime time = readTime(narrow(typed));
+    const auto [time, finer] = readTime(narrow(typed));
     if (!time.isValid())
         return std::nullopt;
-    return FilterValue{.literal = timeLiteral(dialect, time),
+    return FilterValue{.literal = timeLiteral(dialect, time, finer),
                        .rank = static_cast<double>(time.msecsSinceStartOfDay()),
                        .lastRank = static_cast<double>(time.msecsSinceStartOfDay())};
 }
@@ -153,8 +163,8 @@ QDate dayOf(const QString &typed)
 bool hasTimeOfDay(const QString &typed)
 {
     const auto [day, rest] = splitMoment(typed);
-    const QTime time = readTime(rest);
-    return day.isValid() && time.isValid() && time != QTime(0, 0);
+    const TypedTime typedTime = readTime(rest);
+    return day.isValid() && typedTime.time.isValid() && !typedTime.isMidnight();
 }
 
 QString whyNoFilterValue(FieldClass fieldClass, const QString &typed)

@@ -2,6 +2,7 @@
 
 #include "query/CharText.h"
 #include "query/QueryTexts.h"
+#include "sql/Brackets.h"
 #include "sql/Like.h"
 #include "sql/Literals.h"
 #include "sql/Names.h"
@@ -96,7 +97,7 @@ std::optional<QString> nameOfSearched(const TypedField &field, AllDBType databas
     if (database != dbAccess || !readsBrackets(engine))
         return writtenName(dialect, field.name);
     return (qualifier.isEmpty() ? QString() : qualifier + u'.') +
-           (engine == Engine::Other ? enclosedAsIs(u'[', field.name, u']') : quotedName(dialect, field.name));
+           (engine == Engine::Other ? inBrackets(field.name) : quotedName(dialect, field.name));
 }
 
 std::optional<std::vector<SearchedField>> searchedFields(std::span<const TypedField> fields,
@@ -117,8 +118,10 @@ std::optional<std::vector<SearchedField>> searchedFields(std::span<const TypedFi
         if (name->isEmpty())
             continue;
         const QString kind = field.adoType ? classOf(*field.adoType, mode.engine) : QString();
+        const bool isDouble = field.adoType == doubleType;
         searched.push_back(
-            {likeOperand(mode.engine, *name), (kind != u"1" && kind != u"3") || field.adoType == guidType});
+            {isDouble ? likeOperandOfDouble(mode.engine, *name) : likeOperand(mode.engine, *name),
+             (kind != u"1" && kind != u"3") || field.adoType == guidType});
     }
     return searched;
 }

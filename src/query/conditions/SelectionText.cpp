@@ -3,7 +3,7 @@
 #include "query/CharText.h"
 #include "query/QueryTexts.h"
 #include "query/derivation/SqlText.h"
-#include "sql/Names.h"
+#include "sql/Brackets.h"
 
 #include <QtCore/QSet>
 
@@ -20,9 +20,8 @@ QString composeFieldList(const QList<ListedField> &rows)
             continue;
         }
         const bool isSpecial = row.name.contains(u' ') || row.name.contains(u'(');
-        const bool isBracketed = row.name.startsWith(u'[') || row.name.endsWith(u']');
-        if (isSpecial && !isBracketed)
-            names.append(enclosedAsIs(u'[', row.name, u']'));
+        if (isSpecial && !hasBracket(row.name))
+            names.append(inBrackets(row.name));
         else
             names.append(row.name);
     }
@@ -39,7 +38,7 @@ QList<bool> SetListFieldCheck(const QStringList &rowTexts, const QStringList &pa
     }
     QList<bool> checks;
     for (const QString &row : rowTexts)
-        checks.append(asWritten.contains(u'[' + row + u']') || withoutQuotes.contains(row));
+        checks.append(asWritten.contains(inBrackets(row)) || withoutQuotes.contains(row));
     return checks;
 }
 

@@ -3,6 +3,7 @@
 #include "query/CharText.h"
 #include "query/QueryTexts.h"
 #include "sql/Names.h"
+#include "sql/SqlWalk.h"
 
 #include <algorithm>
 
@@ -18,11 +19,11 @@ const QString orderWords = u" ORDER BY "_s;
 } // namespace
 
 Derivation::Derivation(const QString &statement, const std::vector<SourceField> &fields,
-                       const Dialect &dialect)
+                       const Dialect &dialect, const StarSizes &sizes)
     // Which mode MariaDB is in is not known here. Brackets are names in one and an error in all others.
     : m_sql(statement, dialect), m_parts(SelectParts::of(m_sql)), m_dialect(dialect)
 {
-    nameFields(fields);
+    nameFields(fields, sizes);
     // A condition leaves the same rows before and after DISTINCT.
     const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
                         !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
@@ -89,7 +90,8 @@ QString Derivation::whyNot(DerivationStep step) const
         return QueryTexts::EqualNames.arg(equalName());
     const QStringList &usable = step == DerivationStep::Fields ? m_listed : m_written;
     if (!isWhole && !usable.isEmpty() && std::ranges::all_of(usable, &QString::isEmpty))
-        return QueryTexts::EqualNames.arg(equalName());
+        return equalName().isEmpty() ? QueryTexts::UnknownTable.arg(m_names.first())
+                                     : QueryTexts::EqualNames.arg(equalName());
     return {};
 }
 
@@ -120,18 +122,39 @@ QString Derivation::withoutConditions() const
         const SQLSentence sentence = base();
         return ComposeSQL(sentence.fields, {}, sentence.order);
     }
-    // In each SELECT that is united; a table of WITH belongs to what is selected from.
     QString text = m_sql.sql();
-    for (qsizetype i = m_sql.count() - 1; i >= m_parts.with.end; --i) {
-        if (m_sql.at(i).depth > 0 || !m_sql.isWord(i, u"WHERE") || m_sql.isSymbol(i - 1, u'.'))
-            continue;
-        qsizetype next = i + 1;
-        while (next < m_sql.count() && !endsCondition(next))
+    const std::vector<qsizetype> conditions = unitedConditions();
+    for (auto condition = conditions.rbegin(); condition != conditions.rend(); ++condition) {
+        const int depth = m_sql.at(*condition).depth;
+        qsizetype next = *condition + 1;
+        while (next < m_sql.count() && m_sql.at(next).depth >= depth && !endsCondition(next, depth))
             ++next;
         const qsizetype end = next < m_sql.count() ? m_sql.at(next).start : m_sql.withoutSemicolon().size();
-        text.remove(m_sql.at(i).start, end - m_sql.at(i).start);
+        text.remove(m_sql.at(*condition).start, end - m_sql.at(*condition).start);
     }
     return text;
+}
+
+// The WHERE of each SELECT that is united, in brackets or not. A table of WITH belongs to what is selected
+// from.
+std::vector<qsizetype> Derivation::unitedConditions() const
+{
+    const auto beginsSelect = [&](qsizetype i) {
+        const qsizetype before = isOneOf(m_sql, i - 1, {u"ALL", u"DISTINCT"}) ? i - 2 : i - 1;
+        return i == m_parts.with.end || m_sql.isSymbol(i - 1, u'(') ||
+               isOneOf(m_sql, before, {u"UNION", u"EXCEPT", u"INTERSECT", u"MINUS"});
+    };
+    std::vector<qsizetype> conditions;
+    int depth = 0; // of the SELECT that is read
+    for (qsizetype i = m_parts.with.end; i < m_sql.count(); ++i) {
+        if (m_sql.at(i).depth < depth)
+            --depth; // at the closing bracket
+        else if (m_sql.at(i).depth == depth && m_sql.isSymbol(i, u'(') && beginsSelect(i))
+            ++depth;
+        else if (m_sql.at(i).depth == depth && m_sql.isWord(i, u"WHERE") && !m_sql.isSymbol(i - 1, u'.'))
+            conditions.push_back(i);
+    }
+    return conditions;
 }
 
 bool Derivation::hasAsTable(const Derivation &other) const
@@ -164,12 +187,12 @@ QString Derivation::withSource(const Derivation &other) const
                       CharText::trim(sentence.order));
 }
 
-bool Derivation::endsCondition(qsizetype token) const
+bool Derivation::endsCondition(qsizetype token, int depth) const
 {
     static constexpr QStringView words[] = {u"GROUP",     u"HAVING", u"WINDOW", u"UNION",  u"EXCEPT",
                                             u"INTERSECT", u"MINUS",  u"ORDER",  u"LIMIT",  u"OFFSET",
                                             u"FETCH",     u"FOR",    u"OPTION", u"CONNECT"};
-    return m_sql.at(token).depth == 0 &&
+    return m_sql.at(token).depth == depth &&
            std::any_of(std::begin(words), std::end(words),
                        [&](QStringView word) { return m_sql.isWord(token, word); });
 }

@@ -22,6 +22,9 @@ struct FilteredResult
 // What a command does to a statement; see Derivation::whyNot.
 enum class DerivationStep { Condition, Sort, Fields };
 
+// How many fields each star of a list gives, by the star as Derivation::starsToMeasure writes it.
+using StarSizes = QHash<QString, qsizetype>;
+
 // Derives from one statement. There are three kinds of statements:
 //
 // simple  SELECT list FROM … [WHERE …] [ORDER BY …] with plain names in its list, all of them different,
@@ -39,8 +42,15 @@ enum class DerivationStep { Condition, Sort, Fields };
 class Derivation
 {
 public:
-    // `fields` are those of the statement's result, in its order; none when they can't be read.
-    Derivation(const QString &statement, const std::vector<SourceField> &fields, const Dialect &dialect);
+    // `fields` are those of the statement's result, in its order; none when they can't be read. `sizes` are
+    // needed where starsToMeasure() asks for them.
+    Derivation(const QString &statement, const std::vector<SourceField> &fields, const Dialect &dialect,
+               const StarSizes &sizes = {});
+
+    // The stars of the list, where only the database can say which of them gives a field; a field is not
+    // known by its table then. The first fields of a statement of one star are that star's.
+    QStringList starsToMeasure() const;
+    QString statementOfStar(const QString &star) const;
 
     bool isSimple() const { return m_kind == Kind::Simple; }
     // Whether plain text work takes this step rightly: with a simple statement, unless the list changes and
@@ -78,6 +88,8 @@ public:
     QString withCondition(const QString &condition) const;
     QString withSort(const QString &sortList) const;
     QString withFields(const QStringList &listEntries) const;
+    // The fields of these names from the statement as a table.
+    QString asTableWith(const QStringList &names) const;
     QString withoutConditions() const;
 
     // Whether this statement was derived from `other` as a table, and the same over another table instead,
@@ -115,11 +127,12 @@ public:
 private:
     enum class Kind { Simple, Open, Closed };
 
-    void nameFields(const std::vector<SourceField> &fields);
+    void nameFields(const std::vector<SourceField> &fields, const StarSizes &sizes);
     void nameOpenFields(const std::vector<SourceField> &fields);
-    void placeFields(const std::vector<SourceField> &fields);
+    void placeFields(const std::vector<SourceField> &fields, const StarSizes &sizes);
     void dropUnlikelyAliases(const std::vector<SourceField> &fields);
-    QString qualified(const SourceField &field, const QString &qualifier) const;
+    bool hasAllFields() const;
+    QString qualified(const std::vector<SourceField> &fields, std::size_t index) const;
     int countOf(const QString &name) const;
     bool isFoundAsText() const;
     bool hasPlainList() const;
@@ -136,7 +149,8 @@ private:
     QString sortWithin(const QStringList &entries) const;
     QString valueOf(int field) const;
     bool keepsListWords() const;
-    bool endsCondition(qsizetype token) const;
+    std::vector<qsizetype> unitedConditions() const;
+    bool endsCondition(qsizetype token, int depth) const;
     QString headWith(const QString &list) const;
     QString withWordsApart(TextRange tokens, int fromDepth) const;
     QString withList(const QString &list, const QStringList &entries) const;
@@ -152,7 +166,8 @@ private:
     QStringList m_listed;
     std::vector<int> m_itemOfField; // the list entry that gives the field
     QStringList m_tableOfField; // how a field of a star is told apart from others of its name; can be empty
-    bool m_isListKnown = true;  // whether each field has its entry
+    bool m_isPlaced = true;     // whether each field has its entry
+    bool m_isListKnown = true;  // whether the list can have given these fields
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -17,6 +17,16 @@ QString Derivation::withFields(const QStringList &listEntries) const
     return withList(listEntries.join(u','), listEntries);
 }
 
+QString Derivation::asTableWith(const QStringList &names) const
+{
+    QStringList entries;
+    for (const QString &name : names)
+        entries.append(writtenName(m_dialect, name));
+    const QString sort = outerSort();
+    return ComposeSQL(prefix() + u"SELECT "_s + entries.join(u',') + u" FROM "_s + asTable(), {},
+                      sort.isEmpty() ? QString() : u"ORDER BY "_s + sort);
+}
+
 QString Derivation::withList(const QString &list, const QStringList &entries) const
 {
     if (isTextWork(DerivationStep::Fields))

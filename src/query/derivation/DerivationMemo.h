@@ -13,7 +13,7 @@ class DerivationMemo
 {
 public:
     std::shared_ptr<const Derivation> of(const QString &statement, const std::vector<SourceField> &fields,
-                                         const Dialect &dialect);
+                                         const Dialect &dialect, const StarSizes &sizes = {});
 
 private:
     struct Entry
@@ -21,6 +21,7 @@ private:
         QString statement;
         std::vector<SourceField> fields;
         Dialect dialect;
+        StarSizes sizes;
         std::shared_ptr<const Derivation> derivation;
     };
 

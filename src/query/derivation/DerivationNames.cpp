@@ -83,7 +83,7 @@ QString Derivation::sortableTerms(const QString &sortList) const
     return terms.join(u',');
 }
 
-void Derivation::nameFields(const std::vector<SourceField> &fields)
+void Derivation::nameFields(const std::vector<SourceField> &fields, const StarSizes &sizes)
 {
     std::vector<SourceField> all = fields;
     const bool hasStar = std::any_of(m_parts.items.begin(), m_parts.items.end(),
@@ -99,7 +99,7 @@ void Derivation::nameFields(const std::vector<SourceField> &fields)
         m_types.push_back(field.adoType);
         ++m_countOfName[field.name.toCaseFolded()];
     }
-    placeFields(all);
+    placeFields(all, sizes);
     if (!fields.empty())
         dropUnlikelyAliases(fields);
     nameOpenFields(all);
@@ -125,7 +125,7 @@ void Derivation::nameOpenFields(const std::vector<SourceField> &fields)
     for (std::size_t i = 0; i < fields.size(); ++i) {
         const int at = m_itemOfField[i];
         if (at < 0 || m_parts.items[static_cast<std::size_t>(at)].isStar) {
-            m_written.append(qualified(fields[i], m_tableOfField.at(static_cast<qsizetype>(i))));
+            m_written.append(qualified(fields, i));
             m_listed.append(m_written.last());
             continue;
         }
@@ -136,7 +136,7 @@ void Derivation::nameOpenFields(const std::vector<SourceField> &fields)
         const QString name = isBareName ? m_sql.name(item.value.begin) : QString();
         const bool isAliasOfOther =
             isBareName && countOfAlias.value(name.toCaseFolded()) > (isSame(item.alias, name) ? 1 : 0);
-        if (isAliasOfOther && m_parts.sources.size() == 1)
+        if (isAliasOfOther && m_parts.sources.size() == 1 && !m_parts.sources.front().writtenAlias.isEmpty())
             written = m_parts.sources.front().writtenAlias + u'.' + written;
         m_written.append(written);
         m_listed.append(textOf(m_sql, item.tokens));
@@ -148,22 +148,38 @@ int Derivation::countOf(const QString &name) const
     return m_countOfName.value(name.toCaseFolded());
 }
 
-QString Derivation::qualified(const SourceField &field, const QString &qualifier) const
+bool Derivation::hasAllFields() const
 {
+    return std::ranges::any_of(m_parts.items, [](const SelectParts::Item &item) {
+        return item.isStar && item.value.end - item.value.begin == 1;
+    });
+}
+
+// The name of a field that a star gives; empty when it could mean another field as well.
+QString Derivation::qualified(const std::vector<SourceField> &fields, std::size_t index) const
+{
+    if (!m_isPlaced)
+        return {};
+    const SourceField &field = fields[index];
     const QString name = writtenName(m_dialect, field.name);
-    if (!qualifier.isEmpty())
+    if (const QString &qualifier = m_tableOfField.at(static_cast<qsizetype>(index)); !qualifier.isEmpty())
         return qualifier + u'.' + name;
-    if (countOf(field.name) == 1)
+    const std::vector<SelectParts::Source> &sources = m_parts.sources;
+    // What the result has once, the sources have once, unless it leaves some of their fields out.
+    if (countOf(field.name) == 1 && (sources.size() <= 1 || hasAllFields()))
         return name;
-    const SelectParts::Source *source = nullptr;
-    for (const SelectParts::Source &candidate : m_parts.sources) {
-        if (!isSame(candidate.table, field.table))
-            continue;
-        if (source)
-            return {}; // a table joined to itself
-        source = &candidate;
-    }
-    return source ? source->writtenAlias + u'.' + name : QString();
+    const auto isIts = [&](const SelectParts::Source &source) {
+        return sources.size() == 1 || isSame(source.table, field.table);
+    };
+    // Not if the table is joined to itself, or to what selects from it.
+    const auto isEqual = [&](const SourceField &other) {
+        return isSame(other.name, field.name) && isSame(other.table, field.table);
+    };
+    const auto source = std::ranges::find_if(sources, isIts);
+    if (source == sources.end() || std::ranges::count_if(sources, isIts) > 1 ||
+        (sources.size() > 1 && std::ranges::count_if(fields, isEqual) > 1))
+        return {};
+    return source->writtenAlias.isEmpty() ? name : source->writtenAlias + u'.' + name;
 }
 
 QString Derivation::equalName() const

@@ -1,19 +1,23 @@
 #include "query/derivation/Derivation.h"
 
 #include <algorithm>
+#include <iterator>
 
 // Which entry of the list gives which field of the result.
 
 namespace KOVAVSFDataGridLib {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-// A run of fields: those of one table, or the one of an entry that is no star.
+// A run of fields: those of one source, or the one of an entry that is no star.
 struct Run
 {
     int item;
-    QString table;     // the table's own name; empty for an entry that is no star, or an unknown table
-    QString qualifier; // what tells its fields apart
+    QString source;    // stars of the same one give the same fields; empty for an entry that is no star
+    QString table;     // the source's own name; empty where it has none
+    QString qualifier; // what tells its fields apart; empty for a star of several sources
     qsizetype size = 1;
     bool isStar = false;
 };
@@ -23,11 +27,17 @@ bool isSame(const QString &a, const QString &b)
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
-const SelectParts::Source *sourceNamed(const SelectParts &parts, const QString &name)
+Run runOf(int item, const SelectParts::Source &source, const QString &qualifier)
+{
+    const QString &name = source.table.isEmpty() ? qualifier : source.table;
+    return {item, name.toCaseFolded(), source.table, qualifier, 0, true};
+}
+
+SelectParts::Source sourceNamed(const SelectParts &parts, const QString &name)
 {
     const auto found = std::ranges::find_if(
         parts.sources, [&](const SelectParts::Source &source) { return isSame(source.alias, name); });
-    return found == parts.sources.end() ? nullptr : &*found;
+    return found == parts.sources.end() ? SelectParts::Source() : *found;
 }
 
 std::vector<Run> runsOf(const SqlScanner &sql, const SelectParts &parts)
@@ -38,89 +48,155 @@ std::vector<Run> runsOf(const SqlScanner &sql, const SelectParts &parts)
         const int at = static_cast<int>(i);
         const bool isQualified = item.value.end - item.value.begin > 2;
         if (!item.isStar) {
-            runs.push_back({at, {}, {}});
+            runs.push_back({at, {}, {}, {}});
         } else if (isQualified) {
-            const SelectParts::Source *const source = sourceNamed(parts, sql.name(item.value.end - 3));
-            runs.push_back({at, source ? source->table : QString(),
-                            textOf(sql, {item.value.begin, item.value.end - 2}), 0, true});
+            runs.push_back(runOf(at, sourceNamed(parts, sql.name(item.value.end - 3)),
+                                 textOf(sql, {item.value.begin, item.value.end - 2})));
         } else if (parts.hasPlainSources && parts.sources.size() > 1) {
             for (const SelectParts::Source &source : parts.sources)
-                runs.push_back({at, source.table, source.writtenAlias, 0, true});
+                runs.push_back(runOf(at, source, source.writtenAlias));
         } else {
-            runs.push_back({at, {}, {}, 0, true});
+            runs.push_back({at, u"*"_s, {}, {}, 0, true});
         }
     }
     return runs;
 }
 
-// How many fields each star gives. False when that can't be said.
-bool measure(std::vector<Run> &runs, const std::vector<SourceField> &fields)
+QString starOf(const Run &run)
+{
+    return run.qualifier.isEmpty() ? u"*"_s : run.qualifier + u".*"_s;
+}
+
+bool isOneSource(const std::vector<Run> &runs)
+{
+    const auto first = std::ranges::find_if(runs, &Run::isStar);
+    return std::all_of(first, runs.end(),
+                       [&](const Run &run) { return !run.isStar || run.source == first->source; });
+}
+
+// The stars of one source share what the other entries leave.
+bool measureOneSource(std::vector<Run> &runs, qsizetype fieldCount)
 {
     const auto stars = std::ranges::count_if(runs, &Run::isStar);
-    const qsizetype inStars =
-        static_cast<qsizetype>(fields.size()) - (static_cast<qsizetype>(runs.size()) - stars);
-    if (stars == 0 || inStars < stars)
+    const qsizetype inStars = fieldCount - (std::ssize(runs) - stars);
+    if (stars == 0 || inStars < stars || inStars % stars != 0)
         return stars == 0 && inStars == 0;
+    for (Run &run : runs)
+        run.size = run.isStar ? inStars / stars : 1;
+    return true;
+}
+
+// By the tables that the fields come from. Behind a star, an entry that is none can be of the same table.
+bool measureByTables(std::vector<Run> &runs, const std::vector<SourceField> &fields)
+{
+    const auto firstStar = std::ranges::find_if(runs, &Run::isStar);
+    const auto before = static_cast<std::size_t>(firstStar - runs.begin());
+    if (before > fields.size() ||
+        !std::all_of(firstStar, runs.end(), [](const Run &run) { return !run.table.isEmpty(); }))
+        return false;
     for (Run &run : runs) {
         if (!run.isStar)
             continue;
-        const auto alike = std::ranges::count_if(
-            runs, [&](const Run &other) { return other.isStar && isSame(other.table, run.table); });
-        qsizetype count = inStars;
-        if (alike != stars) {
-            // The entries that are no stars may be fields of the same table.
-            if (static_cast<qsizetype>(runs.size()) != stars || run.table.isEmpty())
-                return false;
-            count = std::ranges::count_if(
-                fields, [&](const SourceField &field) { return isSame(field.table, run.table); });
-        } else if (stars > 1 && run.table.isEmpty()) {
-            return false;
-        }
+        const auto alike =
+            std::ranges::count_if(runs, [&](const Run &other) { return other.source == run.source; });
+        const auto count =
+            std::count_if(fields.begin() + static_cast<std::ptrdiff_t>(before), fields.end(),
+                          [&](const SourceField &field) { return isSame(field.table, run.table); });
         if (count == 0 || count % alike != 0)
             return false;
         run.size = count / alike;
     }
+    std::size_t next = before;
+    for (auto run = firstStar; run != runs.end(); ++run) {
+        for (qsizetype i = 0; i < run->size; ++i, ++next) {
+            if (next >= fields.size() || !isSame(fields[next].table, run->table))
+                return false;
+        }
+    }
     return true;
 }
 
-// Whether the runs of one table have the same names, and all come from where the result says.
-bool fit(const std::vector<Run> &runs, const std::vector<SourceField> &fields)
+bool measureByDatabase(std::vector<Run> &runs, const StarSizes &sizes)
+{
+    for (Run &run : runs) {
+        if (run.isStar)
+            run.size = sizes.value(starOf(run));
+        if (run.size == 0)
+            return false;
+    }
+    return true;
+}
+
+bool areAll(const std::vector<Run> &runs, const std::vector<SourceField> &fields)
+{
+    qsizetype count = 0;
+    for (const Run &run : runs)
+        count += run.size;
+    return count == std::ssize(fields);
+}
+
+// Whether the stars of one source give the same names.
+bool areAlike(const std::vector<Run> &runs, const std::vector<SourceField> &fields)
 {
     std::size_t next = 0;
-    std::vector<std::pair<QString, std::size_t>> firstOfTable;
+    QHash<QString, std::size_t> firstOfSource;
     for (const Run &run : runs) {
-        const auto size = static_cast<std::size_t>(run.size);
-        if (next + size > fields.size())
-            return false;
-        const auto known = std::ranges::find_if(
-            firstOfTable, [&](const auto &table) { return isSame(table.first, run.table); });
-        for (std::size_t i = 0; run.isStar && !run.table.isEmpty() && i < size; ++i) {
-            const SourceField &field = fields[next + i];
-            if ((!field.table.isEmpty() && !isSame(field.table, run.table)) ||
-                (known != firstOfTable.end() && field.name != fields[known->second + i].name))
+        const std::size_t first = run.isStar ? firstOfSource.value(run.source, next) : next;
+        for (std::size_t i = 0; i < static_cast<std::size_t>(run.size); ++i) {
+            if (fields[next + i].name != fields[first + i].name)
                 return false;
         }
-        if (run.isStar && known == firstOfTable.end())
-            firstOfTable.emplace_back(run.table, next);
-        next += size;
+        if (run.isStar && !firstOfSource.contains(run.source))
+            firstOfSource.insert(run.source, next);
+        next += static_cast<std::size_t>(run.size);
     }
-    return next == fields.size();
+    return true;
+}
+
+bool measure(std::vector<Run> &runs, const std::vector<SourceField> &fields, const StarSizes &sizes)
+{
+    if (!sizes.isEmpty())
+        return measureByDatabase(runs, sizes) && areAll(runs, fields);
+    const bool isMeasured =
+        isOneSource(runs) ? measureOneSource(runs, std::ssize(fields)) : measureByTables(runs, fields);
+    return isMeasured && areAll(runs, fields) && areAlike(runs, fields);
 }
 
 } // namespace
 
-void Derivation::placeFields(const std::vector<SourceField> &fields)
+QStringList Derivation::starsToMeasure() const
+{
+    QStringList stars;
+    if (m_isPlaced || !m_isListKnown || m_names.isEmpty())
+        return stars;
+    for (const Run &run : runsOf(m_sql, m_parts)) {
+        if (run.isStar && !stars.contains(starOf(run)))
+            stars.append(starOf(run));
+    }
+    return stars;
+}
+
+QString Derivation::statementOfStar(const QString &star) const
+{
+    return prefix() + u"SELECT "_s + star + u" FROM "_s + withWordsApart(m_parts.source, 1);
+}
+
+void Derivation::placeFields(const std::vector<SourceField> &fields, const StarSizes &sizes)
 {
     m_itemOfField.assign(fields.size(), -1);
     m_tableOfField.resize(static_cast<qsizetype>(fields.size()));
     if (fields.empty())
         return;
+    // PostgreSQL's (row).*, of as many fields as the row has
+    const bool hasRowStar = std::ranges::any_of(m_parts.items, [&](const SelectParts::Item &item) {
+        return !item.isStar && m_sql.isSymbol(item.value.end - 1, u'*');
+    });
     std::vector<Run> runs = runsOf(m_sql, m_parts);
-    const bool isPlaced = measure(runs, fields) && fit(runs, fields);
-    if (!isPlaced) {
+    m_isPlaced = !hasRowStar && measure(runs, fields, sizes);
+    if (!m_isPlaced) {
         const auto stars = std::ranges::count_if(m_parts.items, &SelectParts::Item::isStar);
         const auto least = static_cast<std::size_t>(std::ssize(m_parts.items) - stars);
-        m_isListKnown = stars > 0 && least < fields.size();
+        m_isListKnown = stars > 0 && least < fields.size() && !hasRowStar;
         // Before the first star, each entry has one field.
         for (std::size_t i = 0; m_isListKnown && !m_parts.items[i].isStar; ++i)
             m_itemOfField[i] = static_cast<int>(i);

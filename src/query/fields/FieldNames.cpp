@@ -1,7 +1,7 @@
 #include "query/fields/FieldNames.h"
 
 #include "query/CharText.h"
-#include "query/derivation/SqlText.h"
+#include "sql/Brackets.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -9,11 +9,6 @@ using namespace CharText;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString withoutBrackets(const QString &name)
-{
-    return CutStringEnds(CutStringEnds(name, QStringLiteral("["), CutBegin), QStringLiteral("]"), CutEnd);
-}
 
 // "DISTINCT T.A" lists T.A.
 QString withoutListWords(QString item)

@@ -9,10 +9,10 @@
 #include "query/SharedValues.h"
 #include "query/derivation/SqlText.h"
 #include "session/ResultSet.h"
+#include "sql/SelectParts.h"
 #include "sql/SimpleSelect.h"
 #include "sql/SqlScanner.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtCore/QStringList>
 
 #include <algorithm>
@@ -41,15 +41,18 @@ struct PlainColumns
 
 PlainColumns plainColumns(const QString &statement)
 {
-    static const QRegularExpression form(
-        uR"(^\s*SELECT\s((?:\s*(?:\*|\w+|"\w+"|`\w+`|\[\w+\])\s*,)*\s*(?:\*|\w+|"\w+"|`\w+`|\[\w+\])\s*)\sFROM\s)"_s,
-        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
-    static const QRegularExpression quotes(uR"([\s"`\[\]])"_s);
-    const auto match = form.match(statement);
-    const SimpleSelect select = SimpleSelect::parse(SqlScanner(statement));
-    if (!match.hasMatch() || select.fault != SimpleSelect::Fault::None)
+    const SqlScanner sql(statement);
+    const SimpleSelect select = SimpleSelect::parse(sql);
+    if (select.fault != SimpleSelect::Fault::None)
         return {};
-    return {select.tableText, match.captured(1).remove(quotes).split(u',')};
+    PlainColumns columns{select.tableText, {}};
+    for (const SelectParts::Item &item : SelectParts::of(sql).items) {
+        const bool isOneToken = item.tokens.end - item.tokens.begin == 1;
+        if (!isOneToken || (!item.isStar && !item.isName))
+            return {};
+        columns.names.append(item.isStar ? u"*"_s : sql.name(item.tokens.begin));
+    }
+    return columns;
 }
 
 } // namespace

@@ -54,9 +54,45 @@ TEST_F(RecordsOf, TheRowShownCurrentIsMeantAfterTheHostHasWalkedToTheEnd)
     messages.answerNext(QMessageBox::Yes);
     choose(9, row.toInt()); // deletion
     EXPECT_EQ(database.ask(u"SELECT count(*) FROM 商品 WHERE ID = "_s + row), u"0"_s);
+}
+
+TEST_F(RecordsOf, EveryCommandMeansTheRowShownAfterTheHostHasWalkedToTheEnd)
+{
+    ASSERT_TRUE(load());
+    clickCell(3, 2);
+    const auto walk = [&] {
+        QObject *const recordset = grid.RecordSet();
+        QMetaObject::invokeMethod(recordset, "MoveLast");
+        QMetaObject::invokeMethod(recordset, "MoveNext");
+        ASSERT_TRUE(recordset->property("EOF").toBool());
+    };
+    walk();
+    const int row = grid.GetGridRowL();
+    const QString name = texts(u"名称"_s).at(row - 1);
+    click(u"SingleRecord"_s);
+    EXPECT_EQ(listed(u"名称"_s), name);
+    click(u"AllRecord"_s);
+    walk();
+    for (const char *key : {"First", "Previous", "Next", "Last"}) { // the only page stays
+        click(QString::fromLatin1(key));
+        EXPECT_EQ(rows(), records);
+        EXPECT_EQ(grid.GetGridRowL(), row);
+    }
     walk();
     click(u"CompressView"_s);
-    EXPECT_EQ(pageLabel->text().contains(u"0/"), false);
+    EXPECT_EQ(grid.GetGridRowL(), row);
+    walk();
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier); // the cell filter
+    EXPECT_EQ(texts(u"名称"_s), QStringList(name)) << qUtf8Printable(statement());
+    click(u"ToPreview"_s);
+    grid.SetGridRow(5);
+    walk();
+    const QString shown = texts(u"ID"_s).at(grid.GetGridRowL() - 1);
+    messages.answerNext(QMessageBox::Yes);
+    QTest::keyClick(table, Qt::Key_Minus, Qt::ControlModifier); // deletion
+    EXPECT_EQ(database.ask(u"SELECT count(*) FROM 商品 WHERE ID = "_s + shown), u"0"_s);
+    EXPECT_EQ(count(), QString::number(records - 1));
 }
 
 TEST_F(RecordsOf, DeletingTakesTheOneRecordAndTheNextBecomesCurrent)

@@ -212,3 +212,37 @@ TEST_F(ReadOnlyGrid, OffersNeitherToAddNorToDeleteNorToChange)
     choose(6, 1);
     EXPECT_TRUE(menu->actions().at(7)->isEnabled());
 }
+
+// A result that the database can't take back offers no change, and says why.
+TEST_F(ReadOnlyGrid, ResultsThatCannotBeWrittenOfferNoChangeBeforeAnybodyIsAsked)
+{
+    struct Refused
+    {
+        QString statement;
+        QString why; // part of the tip
+    };
+    const Refused results[] = {{u"SELECT a.ID, b.名称 FROM 商品 a, 商品 b WHERE a.ID = b.ID"_s, u"连接"_s},
+                               {u"SELECT 城市, count(*) AS N FROM 商品 GROUP BY 城市"_s, u"汇总"_s},
+                               {u"SELECT DISTINCT 城市 FROM 商品"_s, u"DISTINCT"_s},
+                               {u"SELECT ID FROM 商品 UNION SELECT 99"_s, u"合并"_s},
+                               {u"SELECT ID, row_number() OVER (ORDER BY ID) AS N FROM 商品"_s, u"汇总"_s}};
+    const auto *menu = grid.findChild<QMenu *>(u"PopMnuData"_s);
+    EXPECT_TRUE(menu->toolTipsVisible());
+    for (const Refused &result : results) {
+        SCOPED_TRACE(qUtf8Printable(result.statement));
+        ASSERT_TRUE(load(result.statement));
+        const int shown = rows();
+        for (const int item : {7, 8}) {
+            EXPECT_FALSE(menu->actions().at(item)->isEnabled());
+            EXPECT_TRUE(menu->actions().at(item)->toolTip().contains(result.why))
+                << qUtf8Printable(menu->actions().at(item)->toolTip());
+        }
+        QTest::keyClick(table, Qt::Key_Minus, Qt::ControlModifier);
+        menu->actions().at(8)->trigger();
+        EXPECT_TRUE(messages.texts().isEmpty()) << qUtf8Printable(messages.texts().join(u'|'));
+        EXPECT_EQ(rows(), shown);
+    }
+    ASSERT_TRUE(load());
+    EXPECT_TRUE(menu->actions().at(8)->isEnabled());
+    EXPECT_EQ(menu->actions().at(8)->toolTip(), QString());
+}

@@ -3,6 +3,9 @@
 #include <QtCore/QFile>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
+
 namespace KovaTest {
 
 namespace {
@@ -43,6 +46,14 @@ std::vector<Case> ReadCases(const QString &fileName)
     }
     EXPECT_FALSE(cases.empty()) << fileName.toStdString();
     return cases;
+}
+
+std::vector<Case> ReadCases(const QStringList &fileNames)
+{
+    std::vector<Case> all;
+    for (const QString &fileName : fileNames)
+        std::ranges::copy(ReadCases(fileName), std::back_inserter(all));
+    return all;
 }
 
 } // namespace KovaTest

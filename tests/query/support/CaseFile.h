@@ -31,5 +31,7 @@ struct Case
 
 // All cases of a file in tests/query/data. The test fails when there is none.
 std::vector<Case> ReadCases(const QString &fileName);
+// Those of several files.
+std::vector<Case> ReadCases(const QStringList &fileNames);
 
 } // namespace KovaTest

@@ -11,6 +11,17 @@ std::unique_ptr<SqliteRows> sampleDatabase()
     return database;
 }
 
+KOVAVSFDataGridLib::Derivation derivationOf(const SqliteRows &database, const QString &statement)
+{
+    using namespace KOVAVSFDataGridLib;
+    const Dialect dialect = dialectOf(dbAccess, Engine::SQLite);
+    const Derivation derivation(statement, database.fields(statement), dialect);
+    StarSizes sizes;
+    for (const QString &star : derivation.starsToMeasure())
+        sizes.insert(star, std::ssize(database.fields(derivation.statementOfStar(star))));
+    return sizes.isEmpty() ? derivation : Derivation(statement, database.fields(statement), dialect, sizes);
+}
+
 std::optional<std::vector<KOVAVSFDataGridLib::SourceField>> SqliteReader::Read(const QString &,
                                                                                const QString &statement)
 {

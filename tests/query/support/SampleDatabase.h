@@ -1,6 +1,7 @@
 #pragma once
 
 #include "SqliteRows.h"
+#include "query/derivation/Derivation.h"
 
 #include <memory>
 
@@ -8,6 +9,9 @@ namespace KovaTest {
 
 // The tables that the statements of statements.cases select from.
 std::unique_ptr<SqliteRows> sampleDatabase();
+
+// What the control would derive from the statement.
+KOVAVSFDataGridLib::Derivation derivationOf(const SqliteRows &database, const QString &statement);
 
 // Reads fields as the control's own reader does.
 class SqliteReader final : public KOVAVSFDataGridLib::FieldReader

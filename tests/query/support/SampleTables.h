@@ -12,6 +12,7 @@ inline constexpr const char sampleTables[] =
     "(5,'x where y',2,0.5,2),(6,' FROM ',NULL,3,1),(7,'anna',4,2.25,3),(8,NULL,1,8,4);"
     "CREATE TABLE Item(Ord INTEGER, Item TEXT, N INTEGER);"
     "INSERT INTO Item VALUES (1,'tea',3),(1,'cup',0),(2,'tea',1),(3,'pot',2),(7,'jug',5),(7,'tea',4);"
+    "CREATE VIEW AllCust AS SELECT ID, Name, City FROM Cust;"
     "CREATE TABLE Odd(\"order\" INTEGER, \"group by\" TEXT, \"no#\" INTEGER, \"it's\" TEXT, "
     "\"a\"\"b\" TEXT,"
     "\"where \" TEXT);"

@@ -7,6 +7,7 @@
 #include "ado/providers/access/functions/AccessFunctions.h"
 #include "ado/providers/access/sql/AccessCollation.h"
 #include "ado/providers/access/sql/AccessDialect.h"
+#include "ado/providers/access/sql/AccessDistinctRow.h"
 #include "ado/providers/access/sql/AccessModule.h"
 #include "ado/providers/access/sql/AccessQueries.h"
 #include "sql/SqlScanner.h"
@@ -32,6 +33,7 @@ AccessSession::AccessSession(const QString &path, const QString &password)
     : SqliteSession(SqliteEngine{AccessTypes::applyDeclaration, Texts::accessReadOnly()})
 {
     const auto file = std::make_shared<const AccessFile>(path, password);
+    m_tables = file->tables();
     AccessCollation::install(db(), file->language());
     AccessFunctions::install(db());
     AccessModule::install(db(), file);
@@ -43,7 +45,8 @@ std::unique_ptr<Statement> AccessSession::prepare(const QString &sql, Access acc
                                                   const std::function<bool()> &shouldContinue)
 {
     try {
-        return SqliteSession::prepare(AccessDialect::toSqlite(sql), access, shouldContinue);
+        return SqliteSession::prepare(AccessDialect::toSqlite(AccessDistinctRow::asGrouping(sql, m_tables)),
+                                      access, shouldContinue);
     } catch (const Error &error) {
         if (error.is(dbErrNoTable))
             throwIfLeftOut(SqlScanner(sql), m_queriesLeftOut);

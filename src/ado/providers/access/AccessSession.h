@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ado/providers/access/file/AccessColumn.h"
 #include "ado/providers/sqlite/SqliteSession.h"
 
 #include <QtCore/QStringList>
@@ -13,11 +14,12 @@ class AccessSession : public SqliteSession
 public:
     AccessSession(const QString &path, const QString &password);
 
-    // Understands, beyond SQLite's SQL, what AccessDialect translates.
+    // Understands, beyond SQLite's SQL, what AccessDialect and AccessDistinctRow translate.
     std::unique_ptr<Statement> prepare(const QString &sql, Access access,
                                        const std::function<bool()> &shouldContinue) override;
 
 private:
+    std::vector<AccessTable> m_tables;
     QStringList m_queriesLeftOut;
 };
 

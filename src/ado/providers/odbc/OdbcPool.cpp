@@ -106,7 +106,7 @@ void OdbcPool::learnQuoting()
 {
     OdbcLongValue value;
     SQLLEN length = 0;
-    const OdbcHandle statement(take(std::make_shared<std::atomic<bool>>(false)));
+    const OdbcHandle statement(acquire(std::make_shared<std::atomic<bool>>(false)));
     statement.execute(u"SELECT @@sql_mode"_s);
     statement.fetch();
     statement.check(value.read(statement, 0, OdbcTypes::Form::Text, length));

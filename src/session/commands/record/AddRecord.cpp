@@ -44,7 +44,7 @@ const Command::Registration registration({
     .menu = {8, Command::tr("增加记录(&N)")},
     .record = Record::Stays,
     .run = addRecord,
-    .whyNot = [](Session &session) { return session.isReadOnly() ? SessionMessages::ReadOnly : QString(); },
+    .whyNot = [](Session &session) { return session.whyNotWritten(); },
 });
 
 } // namespace

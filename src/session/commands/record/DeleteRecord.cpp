@@ -96,7 +96,7 @@ const Command::Registration registration({
     .menu = {9, Command::tr("删除记录(&D)")},
     .record = Record::Stays,
     .run = deleteRecord,
-    .whyNot = [](Session &session) { return session.isReadOnly() ? SessionMessages::ReadOnly : QString(); },
+    .whyNot = [](Session &session) { return session.whyNotWritten(); },
 });
 
 } // namespace

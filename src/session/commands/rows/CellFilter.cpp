@@ -29,8 +29,11 @@ CellCondition conditionOfCell(Session &session, int row, int col)
     // The statement that was opened, not the one that is called shown: "All" and "Part" only hide columns.
     const QStringList headings = session.window().Headings();
     const QString name = session.history().GetColumnRealName(recordset.Source(), headings, col - 1);
-    if (const QString heading = headings.value(col - 1); name.isEmpty() && headings.count(heading) > 1)
-        return {{}, QueryTexts::EqualNames.arg(heading)};
+    const QString heading = headings.value(col - 1);
+    if (name.isEmpty() && session.history().DataFields().Find(heading)) {
+        const bool isOneOfSeveral = headings.count(heading) > 1;
+        return {{}, (isOneOfSeveral ? QueryTexts::EqualNames : QueryTexts::UnknownTable).arg(heading)};
+    }
     return buildCellFilter(name, field.Type(), text, session.result().engine(),
                            field.BaseColumnName().isEmpty());
 }

@@ -28,7 +28,7 @@ std::vector<TypedField> searchedFields(const FindAnswer &answer, const colShowSQ
 {
     std::vector<TypedField> searched;
     for (const clsDataField &field : history.DataFields()) {
-        if (answer.isOneField ? field.FieldName == answer.field : history.CanName(field))
+        if ((!answer.isOneField || field.FieldName == answer.field) && history.CanName(field))
             searched.push_back({field.FieldName, typeOf(field, fields), history.GetConditionName(field)});
     }
     return searched;
@@ -37,7 +37,12 @@ std::vector<TypedField> searchedFields(const FindAnswer &answer, const colShowSQ
 // Nothing when the words can't be searched for, or not any more.
 std::optional<QString> askUser(Session &session, const FilterManagerRollback &rollback, const QString &latest)
 {
-    const colDataFields catalogue = rollback.manager().SQLManager().DataFields();
+    const colShowSQLSentences &history = rollback.manager().SQLManager();
+    colDataFields catalogue = history.DataFields();
+    for (const clsDataField &field : history.DataFields()) {
+        if (!history.CanName(field))
+            catalogue.Remove(field.FieldKey);
+    }
     const std::optional<FindAnswer> answer = session.questions().askWords(catalogue);
     QString condition;
     if (!answer || !rollback.isResultUntouched() ||

@@ -144,8 +144,6 @@ private:
             replace(i, u"GLOB"_s);
         else if (m_statement.isSymbol(i, u'/')) // which SQLite would cut off between whole numbers
             replace(i, u"*1.0/"_s);
-        else if (m_statement.isWord(i, u"DISTINCTROW") && m_statement.isWord(i - 1, u"SELECT"))
-            replace(i, {});
         else if (m_statement.isWord(i, u"MOD") && endsOperand(i - 1) && !isClauseWord(i - 1))
             replace(i, u"%"_s);
         else if (isCall)

@@ -3,6 +3,7 @@
 #include "ado/Error.h"
 #include "ado/providers/access/file/AccessNamedReader.h"
 #include "ado/providers/access/sql/AccessDialect.h"
+#include "ado/providers/access/sql/AccessDistinctRow.h"
 #include "ado/providers/access/sql/AccessQuery.h"
 #include "ado/providers/sqlite/SqliteSession.h"
 
@@ -49,14 +50,15 @@ void run(const SqliteSession &session, const QString &sql)
 }
 
 // A view is compiled only when it is used, so that one can be defined before those it reads.
-bool define(const SqliteSession &session, const AccessQuery &query)
+bool define(const SqliteSession &session, const AccessQuery &query, const std::vector<AccessTable> &tables)
 {
     const QString select = query.select();
     if (select.isEmpty())
         return false;
     try {
         run(session, u"CREATE VIEW "_s + quotedName(query.name) + " AS "_L1 +
-                         AccessDialect::toSqlite(select, AccessDialect::Patterns::Access));
+                         AccessDialect::toSqlite(AccessDistinctRow::asGrouping(select, tables),
+                                                 AccessDialect::Patterns::Access));
         return true;
     } catch (const Error &) {
         return false;
@@ -86,7 +88,7 @@ QStringList AccessQueries::install(const SqliteSession &session, const AccessFil
     QStringList views;
     QStringList leftOut;
     for (const auto &[id, query] : queries)
-        (define(session, query) ? views : leftOut) += query.name;
+        (define(session, query, file.tables()) ? views : leftOut) += query.name;
     QStringList broken;
     std::copy_if(views.begin(), views.end(), std::back_inserter(broken),
                  [&](const QString &view) { return !canRun(session, view); });

@@ -15,6 +15,7 @@ enum Kind : qint64 { SelectKind = 1, UnionKind = 9 };
 enum Option : qint64 {
     AllFields = 0x01,
     Distinct = 0x02, // of a union: each record once
+    DistinctRow = 0x08,
     Top = 0x10,
     TopPercent = 0x20
 };
@@ -200,6 +201,8 @@ QString AccessQuery::select() const
     QString sql = u"SELECT "_s;
     if (options & Distinct)
         sql += "DISTINCT "_L1;
+    else if (options & DistinctRow)
+        sql += "DISTINCTROW "_L1;
     if (options & Top)
         sql += "TOP "_L1 + count + (options & TopPercent ? " PERCENT "_L1 : " "_L1);
     sql += columnsOf(*this, options).join(u", "_s) + " FROM "_L1 + source.from();
