@@ -41,6 +41,7 @@ void FilterSource::setConnection(std::shared_ptr<ADODB::Connection> connection)
 void FilterSource::setConnectionString(const QString &text)
 {
     m_connection.reset();
+    m_countConnection.reset();
     m_connectionString = text;
     m_isShared = false;
 }
@@ -227,6 +228,19 @@ ValueRequest FilterSource::tickRequest(const FilterField &field, const QString &
             .isCounted = true,
             .areDays = areDays,
             .isHere = m_isShared};
+}
+
+std::optional<CountRequest> FilterSource::countRequest(const QString &current, const QString &condition)
+{
+    if (m_isShared || !hasTable())
+        return {};
+    if (!m_countConnection)
+        m_countConnection = ADODB::ConnectionFactory::connectionFor(m_database);
+    const QString restricted = current.isEmpty() ? QString() : u'(' + current + ") AND "_L1;
+    return CountRequest{.connection = m_countConnection,
+                        .connectionString = m_connectionString,
+                        .statement = m_prefix + "SELECT COUNT(*) FROM "_L1 + m_fromText + " WHERE "_L1 +
+                                     restricted + u'(' + condition + u')'};
 }
 
 void FilterSource::check(const QString &condition)

@@ -2,6 +2,7 @@
 
 #include "filter/ValueReading.h"
 #include "filter/conditions/FilterCondition.h"
+#include "filter/count/CountReading.h"
 #include "query/derivation/Derivation.h"
 
 #include <memory>
@@ -53,6 +54,9 @@ public:
     // already; it may be empty. `search` is a text that the values contain. While they are read, nothing else
     // may be asked of this object.
     ValueRequest tickRequest(const FilterField &field, const QString &condition, const QString &search);
+    // How the records that meet two conditions are counted in a thread of its own, through a connection of
+    // its own. Nothing for a connection that is shared. The first condition may be empty.
+    std::optional<CountRequest> countRequest(const QString &current, const QString &condition);
     // Lets the database look at a condition without running it.
     void check(const QString &condition);
 
@@ -67,6 +71,7 @@ private:
     AllDBType m_database = dbAccess;
     QString m_connectionString;
     std::shared_ptr<ADODB::Connection> m_connection;
+    std::shared_ptr<ADODB::Connection> m_countConnection;
     QString m_prefix;
     QString m_fromText;
     QList<OfferedField> m_offered; // of a result; empty for a table

@@ -70,6 +70,7 @@ inline constexpr Text WithNullInSentence = tr("（也包括空值）");
 inline constexpr Text AndInSentence = tr("，并且");
 inline constexpr Text OrInSentence = tr("，或者");
 inline constexpr Text BracketsInSentence = tr("（%1）");
+inline constexpr Text NoneInSentence = tr("并非（%1）");
 inline constexpr Text EndOfSentence = tr("。");
 
 // What to type
@@ -138,6 +139,51 @@ inline constexpr Text NothingFound = tr("没有含“%1”的值");
 inline constexpr Text NothingTicked = tr("请至少选择一个值。");
 inline constexpr Text TicksTitle = tr("按列筛选：%1");
 inline constexpr Text ByConditions = tr("按条件筛选(&C)…");
+
+// The values of a list, picked by ticks
+inline constexpr Text PickValues = tr("选择“%1”的值");
+
+// How many records meet the condition
+inline constexpr Text CountName = tr("符合条件的记录数");
+inline constexpr Text AboutRecords = tr("约 %1 条");
+inline constexpr Text Counting = tr("正在计数…");
+inline constexpr Text StopCounting = tr("停止计数");
+inline constexpr Text NotCounted = tr("无法计数");
+
+// The conditions as groups inside groups
+inline constexpr Text ShowGroups = tr("按组显示(&G)");
+inline constexpr Text ShowGroupsTip = tr("用缩进的组代替括号，组可以拖动");
+inline constexpr Text AddBrackets = tr("加上括号(&K)");
+inline constexpr Text AddBracketsTip = tr("没有括号时先算“并且”。按此加上括号，条件的意思不变。");
+inline constexpr Text Grip = tr("移动（拖动，或按 ↑ ↓）");
+inline constexpr Text GroupKind = tr("组内条件的关系");
+inline constexpr Text GroupAll = tr("且：全部符合");
+inline constexpr Text GroupAny = tr("或：符合任何一个");
+inline constexpr Text GroupNone = tr("都不：一个也不符合");
+inline constexpr Text AddToGroup = tr("＋ 条件");
+inline constexpr Text AddToGroupTip = tr("在这一组中添加条件");
+inline constexpr Text Dissolve = tr("解散");
+inline constexpr Text DissolveTip = tr("解散这一组，保留其中的条件");
+inline constexpr Text EncloseRow = tr("把这个条件放入新的组");
+
+// The saved filters of a table
+inline constexpr Text SavedFilters = tr("已存的筛选(&M)");
+inline constexpr Text SavedFiltersTip = tr("取出、保存、重命名或删除该表的筛选条件");
+inline constexpr Text RecentFilters = tr("最近用过的(&L)");
+inline constexpr Text SaveFilter = tr("保存当前条件(&S)…");
+inline constexpr Text RenameFilter = tr("重命名(&N)");
+inline constexpr Text DeleteFilter = tr("删除(&X)");
+inline constexpr Text FilterName = tr("筛选的名称：");
+inline constexpr Text SaveFilterTitle = tr("保存筛选");
+inline constexpr Text RenameFilterTitle = tr("重命名筛选");
+inline constexpr Text DeleteFilterTitle = tr("删除筛选");
+inline constexpr Text AskReplaceFilter = tr("已有名为“%1”的筛选，替换它吗？");
+inline constexpr Text AskDeleteFilter = tr("确实要删除筛选“%1”吗？");
+inline constexpr Text TooManyFilters = tr("该表已存的筛选太多，请先删除一些。");
+inline constexpr Text FiltersTooLong = tr("筛选文本太长。");
+inline constexpr Text FiltersNotJson = tr("筛选文本不是有效的 JSON（第 %1 个字符：%2）。");
+inline constexpr Text NotFilters = tr("筛选文本的格式不对：%1 缺少或无效。");
+inline constexpr Text NoTableOfFilters = tr("没有打开的结果，无法恢复筛选。");
 
 // The dialog
 inline constexpr Text Title = tr("筛选");

@@ -1,14 +1,17 @@
 #include "filter/SetFilter.h"
 
 #include "ado/Error.h"
-#include "filter/FilterRows.h"
 #include "filter/FilterTexts.h"
-#include "filter/ValueEdit.h"
+#include "filter/WaitCursor.h"
+#include "filter/count/FilterCount.h"
+#include "filter/rows/FilterRows.h"
+#include "filter/rows/TickDialog.h"
 #include "forms/widgets/FlatCmd.h"
 #include "sql/StatementLines.h"
 
 #include <QtCore/QRegularExpression>
-#include <QtGui/QGuiApplication>
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -17,53 +20,57 @@
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QVBoxLayout>
 
-#include <utility>
-
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QString rowsKey = u"rows"_s;
-const QString conditionKey = u"condition"_s;
-
-// Shows that the user has to wait while it lives.
-struct WaitCursor
-{
-    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-    Q_DISABLE_COPY_MOVE(WaitCursor)
-};
-
-} // namespace
-
 SetFilter::SetFilter(QWidget *parent)
     : QWidget(parent),
       m_table(new QLabel(this)),
+      m_saved(new SavedFilterMenu(this)),
       m_scroll(new QScrollArea(this)),
       m_rows(new FilterRows(m_scroll)),
       m_add(new FlatCmd(FilterTexts::AddRow, this)),
+      m_groups(new QCheckBox(FilterTexts::ShowGroups, this)),
+      m_addBrackets(new FlatCmd(FilterTexts::AddBrackets, this)),
       m_sentence(new QLabel(this)),
+      m_count(new FilterCount(this)),
       m_condition(new QLineEdit(this)),
       m_backToRows(new FlatCmd(FilterTexts::BackToRows, this)),
       m_notice(new QLabel(this))
 {
     m_table->setObjectName(u"lblTable"_s);
     m_table->setTextFormat(Qt::PlainText);
+    m_saved->setObjectName(u"cmdSaved"_s);
+    m_saved->setSource([this] { return completeState(); });
+    m_saved->setWords([this](const BuiltFilter &filter) { return wordsFor(filter); });
     m_scroll->setWidget(m_rows);
     m_scroll->setWidgetResizable(true);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_add->setObjectName(u"cmdAddRow"_s);
+    m_groups->setObjectName(u"chkGroups"_s);
+    m_groups->setToolTip(FilterTexts::ShowGroupsTip);
+    m_groups->setAccessibleDescription(FilterTexts::ShowGroupsTip);
+    m_addBrackets->setObjectName(u"cmdAddBrackets"_s);
+    m_addBrackets->setToolTip(FilterTexts::AddBracketsTip);
+    m_addBrackets->setAccessibleDescription(FilterTexts::AddBracketsTip);
+    m_addBrackets->hide();
     m_sentence->setObjectName(u"lblSentence"_s);
     m_sentence->setTextFormat(Qt::PlainText);
     m_sentence->setWordWrap(true);
     m_sentence->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_sentence->setFocusPolicy(Qt::NoFocus);
     // A long sentence takes no room from the rows: its tool tip has all of it.
-    m_sentence->setFixedHeight(2 * fontMetrics().lineSpacing());
+    m_sentence->setText(FilterTexts::And() + u'\n' + FilterTexts::Or()); // in the font that has these signs
+    m_sentence->setFixedHeight(m_sentence->sizeHint().height());
+    m_sentence->clear();
     m_sentence->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_count->setSource([this]() -> std::optional<CountRequest> {
+        if (m_isByHand || m_condition->text().isEmpty())
+            return {};
+        return m_source.countRequest(m_currentCondition, m_condition->text());
+    });
     m_condition->setObjectName(u"txtCondition"_s);
     m_condition->setAccessibleName(FilterTexts::ConditionName);
     m_condition->setPlaceholderText(FilterTexts::ConditionHint);
@@ -75,10 +82,16 @@ SetFilter::SetFilter(QWidget *parent)
     layOut();
     enableParts();
 
+    connect(m_saved, &SavedFilterMenu::recalled, this, &SetFilter::recall);
     connect(m_rows, &FilterRows::changed, this, &SetFilter::onRowsChanged);
     // A new row, or what is said below one, has its place only once the area has grown.
     connect(m_scroll->verticalScrollBar(), &QScrollBar::rangeChanged, this, &SetFilter::showFocusedPart);
     connect(m_add, &QPushButton::clicked, this, &SetFilter::addRow);
+    connect(m_groups, &QCheckBox::toggled, this, &SetFilter::onGroupsToggled);
+    connect(m_addBrackets, &QPushButton::clicked, this, [this] {
+        m_rows->addBrackets();
+        m_rows->focusFirstPart(); // the button goes
+    });
     connect(m_condition, &QLineEdit::textEdited, this, &SetFilter::onConditionEdited);
     connect(m_backToRows, &QPushButton::clicked, this, &SetFilter::backToRows);
 }
@@ -87,17 +100,23 @@ void SetFilter::layOut()
 {
     auto *conditionLabel = new QLabel(FilterTexts::Condition, this);
     conditionLabel->setBuddy(m_condition);
+    auto *tableRow = new QHBoxLayout;
+    tableRow->addWidget(m_table, 1);
+    tableRow->addWidget(m_saved);
     auto *addRow = new QHBoxLayout;
     addRow->addWidget(m_add);
+    addRow->addWidget(m_groups);
+    addRow->addWidget(m_addBrackets);
     addRow->addSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing));
     addRow->addWidget(m_sentence, 1);
+    addRow->addWidget(m_count);
     auto *conditionRow = new QHBoxLayout;
     conditionRow->addWidget(conditionLabel);
     conditionRow->addWidget(m_condition, 1);
     conditionRow->addWidget(m_backToRows);
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins({});
-    rows->addWidget(m_table);
+    rows->addLayout(tableRow);
     rows->addWidget(m_scroll, 1);
     rows->addLayout(addRow);
     rows->addLayout(conditionRow);
@@ -153,16 +172,25 @@ void SetFilter::readFields()
     } catch (const ADODB::Error &error) {
         fault = FilterTexts::FieldsUnreadable.arg(error.Description());
     }
-    m_hasFields = !context->fields.empty();
+    m_fields = context->fields;
     context->dialect = m_source.dialect();
     if (m_source.hasTable())
         context->records = {m_source.fromText(), m_currentCondition};
     context->offerValues = [this](const FilterField &field, ValueEdit &edit) {
         offerValues(field, edit, FilterSource::mostValues);
     };
+    context->askTicks = [this](const FilterField &field, const TickedValues &named) {
+        stopReading();
+        return askTicks(
+            this, field,
+            [this, field](const QString &search) {
+                return m_source.tickRequest(field, m_currentCondition, search);
+            },
+            named);
+    };
     m_rows->start(std::move(context));
     enableParts();
-    if (m_hasFields)
+    if (!m_fields.empty())
         m_rows->focusFirstPart();
     else
         m_condition->setFocus();
@@ -170,115 +198,17 @@ void SetFilter::readFields()
     show(fault);
 }
 
-QJsonObject SetFilter::State() const
-{
-    if (m_isByHand)
-        return {{conditionKey, m_condition->text()}};
-    return {{rowsKey, toJson(m_rows->state())}};
-}
-
-void SetFilter::PutState(const QJsonObject &state)
-{
-    if (const QString condition = state[conditionKey].toString(); !condition.isEmpty()) {
-        m_condition->setText(condition);
-        onConditionEdited();
-    } else if (const auto rows = filterStateOf(state[rowsKey])) {
-        if (m_isByHand)
-            setByHand(false);
-        const auto missing = m_rows->setState(*rows);
-        if (missing)
-            show(FilterTexts::FieldMissing.arg(*missing));
-        else
-            m_rows->focusFirstPart();
-    }
-    // What is typed next takes its place.
-    m_condition->selectAll();
-    m_stateBefore = State();
-}
-
-void SetFilter::Suggest(const QString &field, const QString &value)
-{
-    m_rows->suggest(field, value);
-    m_condition->selectAll();
-    m_stateBefore = State();
-}
-
-void SetFilter::offerValues(const FilterField &field, ValueEdit &edit, int most)
-{
-    constexpr int patience = 100; // milliseconds before the list says that it is being read
-    constexpr int growth = 10;
-    stopReading();
-    disconnect(&edit, nullptr, this, nullptr);
-    connect(&edit, &ValueEdit::listClosed, this, &SetFilter::stopReading);
-    connect(&edit, &ValueEdit::moreWanted, this,
-            [this, field, &edit, most] { offerValues(field, edit, most * growth); });
-    const auto known = m_knownValues.constFind(field.written);
-    if (known != m_knownValues.constEnd() && (!known->hasMore || known->values.size() >= most))
-        return edit.showValues(*known);
-    try {
-        auto request = m_source.valueRequest(field, most);
-        if (!request)
-            return readValuesHere(field, edit);
-        m_reading = std::make_unique<ValueReading>(std::move(*request));
-    } catch (const ADODB::Error &error) {
-        return show(FilterTexts::ValuesUnreadable.arg(error.Description()));
-    }
-    m_readingFor = &edit;
-    m_shownValues.reset();
-    m_readingOf = field;
-    connect(m_reading.get(), &ValueReading::arrived, this, &SetFilter::onValuesArrived);
-    if (m_reading->waitForValues(patience))
-        onValuesArrived();
-    else
-        edit.showReading();
-}
-
-// Through a connection that the control uses as well.
-void SetFilter::readValuesHere(const FilterField &field, ValueEdit &edit)
-{
-    const QPointer<SetFilter> alive(this);
-    const QPointer<ValueEdit> asked(&edit);
-    try {
-        const WaitCursor waiting;
-        const OfferedValues values{.values = m_source.readValues(field)};
-        if (!alive || !asked)
-            return;
-        show(values.values.isEmpty() ? FilterTexts::NoValues : QString());
-        m_knownValues.insert(field.written, values);
-        edit.showValues(values);
-    } catch (const ADODB::Error &error) {
-        if (alive)
-            show(FilterTexts::ValuesUnreadable.arg(error.Description()));
-    }
-}
-
-void SetFilter::onValuesArrived()
-{
-    if (!m_reading)
-        return;
-    const OfferedValues values = m_reading->values();
-    const QString failure = m_reading->failure();
-    if (failure.isEmpty() && values.note.isEmpty())
-        m_knownValues.insert(m_readingOf.written, values);
-    if (!failure.isEmpty())
-        show(FilterTexts::ValuesUnreadable.arg(failure));
-    else if (!values.note.isEmpty() || values.values.isEmpty())
-        show(values.note.isEmpty() ? FilterTexts::NoValues : values.note);
-    else
-        show({});
-    // A list that the user moves in is not filled again with the same.
-    if (m_readingFor && std::exchange(m_shownValues, values) != values)
-        m_readingFor->showValues(values);
-}
-
-void SetFilter::stopReading()
-{
-    m_reading.reset();
-}
-
 void SetFilter::addRow()
 {
     m_rows->add()->focusFirstPart();
+}
+
+// Where brackets don't match there are no groups to show.
+void SetFilter::onGroupsToggled(bool on)
+{
+    m_rows->setGrouped(on);
+    const QSignalBlocker quiet(m_groups);
+    m_groups->setChecked(m_rows->isGrouped());
 }
 
 void SetFilter::showFocusedPart()
@@ -297,6 +227,8 @@ void SetFilter::onRowsChanged()
     m_condition->setText(m_rows->preview());
     m_condition->setToolTip(m_condition->text());
     m_condition->setCursorPosition(0);
+    m_count->restart();
+    m_addBrackets->setVisible(!m_rows->isGrouped() && m_rows->needsBrackets());
 }
 
 void SetFilter::onConditionEdited()
@@ -321,6 +253,7 @@ void SetFilter::setByHand(bool isByHand)
     if (isByHand) {
         m_sentence->clear(); // nobody knows what was typed
         m_sentence->setToolTip({});
+        m_count->stop();
     }
     m_backToRows->setVisible(isByHand);
     enableParts();
@@ -329,8 +262,10 @@ void SetFilter::setByHand(bool isByHand)
 // Without fields only a condition by hand is left.
 void SetFilter::enableParts()
 {
-    m_rows->setEnabled(m_hasFields && !m_isByHand);
-    m_add->setEnabled(m_hasFields && !m_isByHand);
+    m_rows->setEnabled(!m_fields.empty() && !m_isByHand);
+    m_add->setEnabled(!m_fields.empty() && !m_isByHand);
+    m_groups->setEnabled(!m_fields.empty() && !m_isByHand);
+    m_addBrackets->setEnabled(!m_isByHand);
 }
 
 QString SetFilter::ConditionText()

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "filter/FilterSource.h"
+#include "filter/saved/SavedFilterMenu.h"
 
 #include <QtCore/QHash>
-#include <QtCore/QJsonObject>
 #include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
+class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -14,6 +15,7 @@ class QScrollArea;
 
 namespace KOVAVSFDataGridLib {
 
+class FilterCount;
 class FilterRows;
 class ValueEdit;
 
@@ -46,12 +48,15 @@ public:
 
     // What was built or typed, and the same put in. When a field of it isn't there any more, the builder says
     // so and stays as it is.
-    QJsonObject State() const;
-    void PutState(const QJsonObject &state);
+    BuiltFilter State() const;
+    void PutState(const BuiltFilter &state);
     // Begins with a value of a field; the next text typed replaces it.
     void Suggest(const QString &field, const QString &value);
     // Whether the user has changed anything since the builder was prepared.
     bool IsChanged() const { return State() != m_stateBefore; }
+
+    // Where the filters of the table are kept that the user saves; without it none are.
+    void SetShelf(FilterShelf shelf) { m_saved->setShelf(std::move(shelf)); }
 
     // Says below the condition what is wrong with it, until it is changed.
     void ShowNotice(const QString &notice) { show(notice); }
@@ -64,6 +69,10 @@ private:
     void layOut();
     void readFields();
     void addRow();
+    void onGroupsToggled(bool on);
+    std::optional<BuiltFilter> completeState();
+    QString wordsFor(const BuiltFilter &filter) const;
+    void recall(const BuiltFilter &filter);
     void showFocusedPart();
     void onRowsChanged();
     void onConditionEdited();
@@ -86,16 +95,20 @@ private:
     std::optional<OfferedValues> m_shownValues;
     QString m_caption;
     QString m_currentCondition;
-    QJsonObject m_stateBefore;
+    BuiltFilter m_stateBefore;
+    std::vector<FilterField> m_fields;
     QLabel *m_table;
+    SavedFilterMenu *m_saved;
     QScrollArea *m_scroll;
     FilterRows *m_rows;
     QPushButton *m_add;
+    QCheckBox *m_groups;
+    QPushButton *m_addBrackets;
     QLabel *m_sentence; // the rows in words
+    FilterCount *m_count;
     QLineEdit *m_condition;
     QPushButton *m_backToRows;
     QLabel *m_notice;
-    bool m_hasFields = false;
     bool m_isByHand = false;
 };
 

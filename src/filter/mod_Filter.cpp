@@ -6,7 +6,6 @@
 #include "query/conditions/Conditions.h"
 
 #include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
 #include <QtWidgets/QComboBox>
 
 namespace KOVAVSFDataGridLib {
@@ -62,7 +61,9 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
     // A dialog begins without the conditions of the one before.
     m_dialog = std::make_unique<frm_Filter>(m_parent);
     m_dialog->SetPicture(request.picture);
+    m_shelf = request.shelf;
     SetFilter &builder = m_dialog->SetFilter1();
+    builder.SetShelf(m_shelf);
     builder.Initialize(FilterTexts::TableCaption, request.dbType);
     if (request.tableType == FromOwnStatement && request.connection)
         builder.SetConnection(request.connection);
@@ -74,9 +75,8 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
         builder.SetResult(*request.result);
     else if (m_isTableKnown)
         builder.SetTableName(fromText);
-    const auto built = QJsonDocument::fromJson(request.built.toUtf8()).object();
-    if (!built.isEmpty())
-        builder.PutState(built);
+    if (const auto built = builtFilterOf(QJsonDocument::fromJson(request.built.toUtf8()).object()))
+        builder.PutState(*built);
     else if (!request.value.isEmpty())
         builder.Suggest(request.field, request.value);
     else if (!request.field.isEmpty())
@@ -87,7 +87,17 @@ QString mod_Filter::Built() const
 {
     if (!m_dialog || m_strFilterCondition.isEmpty())
         return {};
-    return QString::fromUtf8(QJsonDocument(m_dialog->SetFilter1().State()).toJson(QJsonDocument::Compact));
+    return QString::fromUtf8(
+        QJsonDocument(toJson(m_dialog->SetFilter1().State())).toJson(QJsonDocument::Compact));
+}
+
+void mod_Filter::NoteUsed()
+{
+    if (!m_dialog || !m_shelf.isThere())
+        return;
+    SavedFilters filters = m_shelf.filters();
+    filters.noteUsed(m_dialog->SetFilter1().State());
+    m_shelf.put(filters);
 }
 
 QString mod_Filter::ShowFilterDialog(const QString &refusal)

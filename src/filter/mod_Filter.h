@@ -1,5 +1,6 @@
 #pragma once
 
+#include "filter/saved/SavedFilterMenu.h"
 #include "query/FilterTableName.h"
 #include "query/StatementSource.h"
 #include "query/derivation/Derivation.h"
@@ -37,7 +38,8 @@ struct FilterRequest
     // What to begin with: a field, empty for any, and a value of it.
     QString field = {};
     QString value = {};
-    QString built = {}; // or what Built() answered for an earlier condition
+    QString built = {};     // or what Built() answered for an earlier condition
+    FilterShelf shelf = {}; // of the filters that the user keeps for the table
 };
 
 // Runs the filter dialog and keeps what it left. One object can run any number of dialogs, one after another.
@@ -57,6 +59,9 @@ public:
     // What the condition was built from, as a text for a later request.
     QString Built() const;
 
+    // The condition was used: it becomes the first of the shelf's recent ones.
+    void NoteUsed();
+
     // Empty when the dialog was cancelled.
     const QString &strFilterCondition() const { return m_strFilterCondition; }
 
@@ -73,6 +78,7 @@ public:
 private:
     QPointer<QWidget> m_parent;
     std::unique_ptr<frm_Filter> m_dialog;
+    FilterShelf m_shelf;
     QString m_strFilterCondition;
     QString m_strTableName;
     FilterTableName m_nameParts;

@@ -37,6 +37,8 @@ struct ConditionRequest
     // What to begin with: a field by its heading, empty for any, and a value of it as text.
     QString field = {};
     QString value = {};
+    // Whose filters are kept for the user; empty for none.
+    QString table = {};
     // To begin with instead: what the condition in force was built from, as whoever is asked wrote it. Then
     // what the condition that is answered was built from.
     mutable QString built = {};
@@ -130,6 +132,8 @@ public:
     }
     // An empty text when the user cancels.
     virtual QString askCondition(const ConditionRequest &) { return {}; }
+    // The database took the condition that was answered.
+    virtual void noteConditionUsed(const ConditionRequest &) {}
     // Nothing when there are no fields to look in.
     virtual std::optional<FindAnswer> askWords(const colDataFields &) { return {}; }
     // Nothing when the user cancels. A file that is there already may be replaced.

@@ -7,6 +7,7 @@
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "sql/StatementLines.h"
+#include "session/statement/LoadedTable.h"
 
 #include <QtCore/QScopedValueRollback>
 
@@ -176,7 +177,8 @@ ConditionRequest Session::conditionRequest()
             .sqlShow = joinStatementLines(texts.sqlShow),
             .connection = m_result.connection(),
             .result = history().GetFilteredResult(),
-            .condition = history().GetConditionOf(filtered)};
+            .condition = history().GetConditionOf(filtered),
+            .table = loadedTable(*this)};
 }
 
 void Session::writeFilter(const QString &statement)

@@ -205,6 +205,8 @@ TEST(TypeLibrary, HasTheMembersInTheirOrder)
 58 get BSTR LayoutKey()
 58 put void LayoutKey(BSTR)
 59 VARIANT_BOOL PrintData(BSTR strFile, BSTR strOptions)
+60 BSTR SaveFilters()
+61 VARIANT_BOOL RestoreFilters(BSTR strFilters)
 62 get BSTR Language()
 62 put void Language(BSTR)
 )");

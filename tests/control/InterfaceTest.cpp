@@ -86,6 +86,8 @@ constexpr const char *methods[] = {
     "QString SaveLayout()",
     "bool RestoreLayout(QString)",
     "bool PrintData(QString,QString)",
+    "QString SaveFilters()",
+    "bool RestoreFilters(QString)",
 };
 
 constexpr const char *events[] = {

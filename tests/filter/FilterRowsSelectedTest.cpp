@@ -117,6 +117,16 @@ struct Selected : testing::Test
         EXPECT_EQ(ids, expected) << qUtf8Printable(condition.sql);
     }
 
+    QStringList selected(const QString &condition)
+    {
+        ADODB::Recordset found;
+        found.Open(u"SELECT ID FROM T WHERE "_s + condition + u" ORDER BY ID"_s, connection);
+        QStringList ids;
+        for (qint64 record = 1; record <= found.RecordCount(); ++record)
+            ids.append(found.CellText(record, 0));
+        return ids;
+    }
+
     static constexpr Dialect dialect{dbAccess, false, false, Engine::SQLite};
     KovaTest::TestDatabase database{QString()};
     std::shared_ptr<ADODB::Connection> connection = std::make_shared<ADODB::Connection>();
@@ -273,4 +283,28 @@ TEST_F(Selected, ByYesAndNo)
     expectSame({flag, NotEquals, u"是"_s, {}, false, false},
                [](const Row &row) { return row.flag == false; });
     expectSame({flag, IsNotEmpty, {}, {}}, [](const Row &row) { return row.flag.has_value(); });
+}
+
+TEST_F(Selected, AComplementIsEveryOtherRecord)
+{
+    const FilterScope scope{QDate(2024, 1, 2), FilterSql::Records{u"T"_s, {}}};
+    for (const FilterField &each :
+         {field(u"Text %"_s, FieldClass::Text), field(u"N"_s, FieldClass::Number),
+          field(u"M"_s, FieldClass::Moment), field(u"Order"_s, FieldClass::Boolean)}) {
+        const QString value = each.fieldClass == FieldClass::Moment    ? u"本月"_s
+                              : each.fieldClass == FieldClass::Boolean ? u"是"_s
+                                                                       : u"2"_s;
+        for (const FilterOperator op : operatorsFor(each.fieldClass)) {
+            for (const int ticks : {0, 1, 2, 3}) {
+                const FilterChoice choice{
+                    each, op, takesCount(op) ? u"3"_s : value, value, (ticks & 1) != 0, (ticks & 2) != 0};
+                const QStringList met = selected(conditionOf(dialect, choice, scope).sql);
+                const QStringList others = selected(complementOf(dialect, choice, scope).sql);
+                EXPECT_EQ(met.size() + others.size(), static_cast<qsizetype>(rows.size()))
+                    << qUtf8Printable(captionOf(op)) << ticks;
+                for (const QString &id : met)
+                    EXPECT_FALSE(others.contains(id)) << qUtf8Printable(captionOf(op)) << ticks;
+            }
+        }
+    }
 }

@@ -1,5 +1,7 @@
 #include "filter/conditions/FilterState.h"
 
+#include "filter/conditions/FilterSql.h"
+
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <gtest/gtest.h>
@@ -53,6 +55,6 @@ TEST(FilterState, BracketsThatNobodyCanTypeAreCutToThoseThatOneCan)
 {
     const auto state = filterStateOf(json(R"([{"field":"A","operator":"equals","open":99,"close":-1}])"));
     ASSERT_TRUE(state);
-    EXPECT_EQ(state->first().opens, 3);
+    EXPECT_EQ(state->first().opens, FilterSql::mostBrackets);
     EXPECT_EQ(state->first().closes, 0);
 }

@@ -1,7 +1,6 @@
 // The filter builder by mouse and keys: its rows, their operators and faults.
 #include "BuilderFixture.h"
 
-#include <QtCore/QJsonArray>
 #include <QtWidgets/QCompleter>
 
 using namespace KOVAVSFDataGridLib;
@@ -68,7 +67,7 @@ TEST_F(Builder, AConditionIsPutInAgainAsItWasTyped)
     press(dialog, "cmdAddRow");
     fillRow(2, u"下单日期"_s, u"等于"_s, u"本月"_s);
     choose("cmbJoin1", u"或者"_s);
-    const QJsonObject state = builder->State();
+    const BuiltFilter state = builder->State();
     const std::string before = shown();
     press(dialog, "cmdDeleteRow2");
     type("txtValue1", u"7"_s);
@@ -79,11 +78,57 @@ TEST_F(Builder, AConditionIsPutInAgainAsItWasTyped)
     EXPECT_FALSE(builder->IsChanged());
     EXPECT_EQ(text("txtValue2").text(), u"本月"_s) << "it stays relative";
 
-    QJsonObject other = state;
-    other.insert(u"rows"_s, QJsonArray{QJsonObject{{u"field"_s, u"没有"_s}, {u"operator"_s, u"equals"_s}}});
-    builder->PutState(other);
+    builder->PutState({.rows = {{.field = u"没有"_s}}});
     EXPECT_EQ(shown(), before);
     EXPECT_EQ(fault("lblNotice"), "这里没有该筛选用到的字段“没有”，或者不能这样比较它。");
+}
+
+TEST_F(Builder, SaysHowManyRecordsMeetTheConditionAMomentAfterIt)
+{
+    const auto counted = [this] { return part<QLabel>(dialog, "lblCount").text(); };
+    fillRow(1, u"城市"_s, u"等于"_s, u"北京"_s);
+    EXPECT_EQ(counted(), QString());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return counted() == u"约 2 条"_s; })) << qUtf8Printable(counted());
+    type("txtValue1", u"广州"_s);
+    EXPECT_EQ(counted(), QString()) << "what was counted is no longer true";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return counted() == u"约 0 条"_s; }));
+    type("txtCondition", u"编号 > 1"_s);
+    EXPECT_EQ(counted(), QString());
+}
+
+TEST_F(Builder, ACountThatTakesLongSaysSoAndCanBeStopped)
+{
+    database.run(u"CREATE VIEW 无尽 AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n)"
+                 " SELECT CAST(i AS TEXT) AS 值 FROM n"_s);
+    builder->SetTableName(u"无尽"_s);
+    fillRow(1, u"值"_s, u"不等于"_s, u"-1"_s);
+    auto &stop = part<QAbstractButton>(dialog, "cmdStopCount");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return stop.isVisible(); }));
+    EXPECT_EQ(fault("lblCount"), "正在计数…");
+    QTest::mouseClick(&stop, Qt::LeftButton);
+    EXPECT_EQ(fault("lblCount"), "");
+    EXPECT_FALSE(stop.isVisible());
+    EXPECT_NE(answer(), "");
+}
+
+TEST_F(Builder, ACountThatTheDatabaseRefusesIsSaidWithItsReason)
+{
+    fillRow(1, u"编号"_s, u"大于"_s, u"1"_s);
+    database.run(u"DROP TABLE 订单"_s);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return fault("lblCount") == "无法计数"; }));
+    EXPECT_TRUE(part<QLabel>(dialog, "lblCount").toolTip().contains(u"订单"_s));
+}
+
+TEST_F(Builder, ABuilderThatGoesWhileItCountsLeavesNothingBehind)
+{
+    database.run(u"CREATE VIEW 无尽 AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n)"
+                 " SELECT CAST(i AS TEXT) AS 值 FROM n"_s);
+    builder->SetTableName(u"无尽"_s);
+    fillRow(1, u"值"_s, u"不等于"_s, u"-1"_s);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return fault("lblCount") == "正在计数…"; }));
+    delete builder;
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(exists("lblCount"));
 }
 
 TEST_F(Builder, TheKeyboardAloneBuildsACondition)
@@ -235,10 +280,10 @@ TEST_F(Builder, TheKeyboardWalksThroughItFromLeftToRight)
     choose("cmbOperator1", u"介于"_s);
     EXPECT_TRUE(QTest::qWaitFor([this] { return combo("cmbField2").isVisible(); }));
     part(dialog, "cmbOpen1").setFocus();
-    EXPECT_EQ(
-        walkedByTab(dialog, 18),
-        "cmbOpen1 chkNot1 cmbField1 cmbOperator1 txtValue1 txtValue1b cmbClose1 cmbJoin1 cmdDeleteRow1 "
-        "cmbOpen2 chkNot2 cmbField2 cmbOperator2 txtValue2 cmbClose2 cmdDeleteRow2 cmdAddRow txtCondition");
+    EXPECT_EQ(walkedByTab(dialog, 19),
+              "cmbOpen1 chkNot1 cmbField1 cmbOperator1 txtValue1 txtValue1b cmbClose1 cmbJoin1 cmdDeleteRow1 "
+              "cmbOpen2 chkNot2 cmbField2 cmbOperator2 txtValue2 cmbClose2 cmdDeleteRow2 cmdAddRow chkGroups "
+              "txtCondition");
     for (const char *name : {"cmbOpen1", "cmbField1", "cmbOperator1", "txtValue1", "txtValue1b", "cmbClose1",
                              "cmbJoin1", "cmdDeleteRow1", "txtCondition"})
         EXPECT_FALSE(part(dialog, name).accessibleName().isEmpty()) << name;

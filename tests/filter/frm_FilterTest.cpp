@@ -90,8 +90,9 @@ TEST_F(FilterForm, EscAsksNothingAboutWhatTheDialogBeganWith)
 
 TEST_F(FilterForm, TheKeyboardBeginsWithTheFieldAndEndsWithTheButtons)
 {
-    EXPECT_EQ(walkedByTab(dialog, 8),
-              "cmbField1 cmbOperator1 txtValue1 cmbClose1 cmdAddRow txtCondition cmd_Filter cmd_Cancel");
+    EXPECT_EQ(
+        walkedByTab(dialog, 9),
+        "cmbField1 cmbOperator1 txtValue1 cmbClose1 cmdAddRow chkGroups txtCondition cmd_Filter cmd_Cancel");
 }
 
 TEST_F(FilterForm, AltF4LeavesNoCondition)

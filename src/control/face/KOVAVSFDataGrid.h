@@ -188,6 +188,8 @@ public:
     QString LayoutKey() const override;
     void PutLayoutKey(const QString &strKey) override;
     Q_INVOKABLE bool PrintData(const QString &strFile, const QString &strOptions) override;
+    Q_INVOKABLE QString SaveFilters() override;
+    Q_INVOKABLE bool RestoreFilters(const QString &strFilters) override;
     QString Language() const override;
     void PutLanguage(const QString &strName) override;
 

@@ -7,6 +7,8 @@
 #include "control/face/KOVAVSFDataGridPrivate.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/GridToolbar.h"
+#include "filter/FilterTexts.h"
+#include "filter/saved/SavedFilterMenu.h"
 #include "forms/ConnectDialog.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
@@ -16,6 +18,7 @@
 #include "session/layout/SavedLayout.h"
 #include "session/records/ExportResult.h"
 #include "session/records/PrintResult.h"
+#include "session/statement/LoadedTable.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
@@ -322,4 +325,26 @@ bool KOVAVSFDataGrid::RestoreLayout(const QString &strLayout)
     if (alive)
         Messages::show(this, *reason);
     return false;
+}
+
+QString KOVAVSFDataGrid::SaveFilters()
+{
+    Session &session = *d->session;
+    if (!session.result().isOpen())
+        return {};
+    const FilterShelf shelf{[table = loadedTable(session)] { return readFilters(table); }, {}};
+    return shelf.filters().toText();
+}
+
+bool KOVAVSFDataGrid::RestoreFilters(const QString &strFilters)
+{
+    Session &session = *d->session;
+    const auto filters = SavedFilters::fromText(strFilters);
+    const QString *const reason = std::get_if<QString>(&filters);
+    if (reason || !session.result().isOpen()) {
+        Messages::show(this, reason ? *reason : FilterTexts::NoTableOfFilters);
+        return false;
+    }
+    saveFilters(loadedTable(session), std::get<SavedFilters>(filters).toText());
+    return true;
 }

@@ -2,10 +2,10 @@
 
 #include "control/face/Configuration.h"
 #include "grid/FlexGrid.h"
-#include "query/derivation/SqlText.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/layout/SavedLayout.h"
+#include "session/statement/LoadedTable.h"
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QPointer>
@@ -56,8 +56,7 @@ void LayoutKeeper::restore()
     m_table.clear();
     if (m_key.isEmpty() || !m_session.result().isOpen())
         return;
-    const clsShowSQLSentence *const first = m_session.history().Item(1);
-    m_table = GetSQLTableName(first ? first->ShowSQL : m_session.statement());
+    m_table = loadedTable(m_session);
     // What can't be read any more is as good as nothing, and is replaced by the next change.
     const auto kept = SavedLayout::fromText(readLayout(place()));
     const QPointer<LayoutKeeper> alive(this);

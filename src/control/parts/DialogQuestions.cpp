@@ -1,6 +1,7 @@
 #include "control/parts/DialogQuestions.h"
 
 #include "ado/Error.h"
+#include "control/face/Configuration.h"
 #include "control/parts/FormatDialog.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/ToolbarIcons.h"
@@ -77,6 +78,12 @@ QString DialogQuestions::askCondition(const ConditionRequest &request)
     return condition;
 }
 
+void DialogQuestions::noteConditionUsed(const ConditionRequest &request)
+{
+    if (request.memory)
+        std::static_pointer_cast<mod_Filter>(request.memory)->NoteUsed();
+}
+
 std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionRequest &request)
 {
     FilterRequest prepared;
@@ -91,6 +98,9 @@ std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionReque
     prepared.value = request.value;
     prepared.built = request.built;
     prepared.picture = toolbarIcon(CommandKeys::Filter);
+    if (const QString table = request.table; !table.isEmpty())
+        prepared.shelf = {[table] { return readFilters(table); },
+                          [table](const QString &filters) { saveFilters(table, filters); }};
     auto filter = std::make_shared<mod_Filter>(m_parent);
     filter->PrepareFilterDialog(prepared);
     return filter;

@@ -255,4 +255,16 @@ FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked, c
     return condition;
 }
 
+FilterCondition complementOf(const Dialect &dialect, const FilterChoice &choice, const FilterScope &scope)
+{
+    FilterChoice opposite = choice;
+    opposite.isNegated = !choice.isNegated;
+    opposite.includesNull = true;
+    FilterCondition condition = conditionOf(dialect, opposite, scope);
+    const bool leavesNullOut = choice.asksForNull() && !choice.includesNull;
+    if (condition.fault.isEmpty() && leavesNullOut)
+        condition.sql = u'(' + condition.sql + " OR "_L1 + choice.field.written + " IS NULL)"_L1;
+    return condition;
+}
+
 } // namespace KOVAVSFDataGridLib

@@ -59,5 +59,8 @@ struct FilterCondition
 
 FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &choice,
                             const FilterScope &scope = {});
+// Selects exactly the records that the other one doesn't.
+FilterCondition complementOf(const Dialect &dialect, const FilterChoice &choice,
+                             const FilterScope &scope = {});
 
 } // namespace KOVAVSFDataGridLib

@@ -2,7 +2,10 @@
 
 #include "filter/FilterTexts.h"
 #include "filter/conditions/FilterDays.h"
+#include "filter/conditions/FilterTree.h"
 #include "filter/conditions/FilterValue.h"
+
+#include <algorithm>
 
 namespace KOVAVSFDataGridLib {
 
@@ -76,74 +79,61 @@ QString choiceInWords(const FilterChoice &choice, QDate today)
     return words;
 }
 
-// Reads terms as a database does, and brackets the ones that AND joins among others that OR joins.
-class Reader
+class Sentence
 {
 public:
-    Reader(const QList<SentenceTerm> &terms, QDate today) : m_terms(terms), m_today(today) {}
+    Sentence(const QList<SentenceTerm> &terms, QDate today) : m_terms(terms), m_today(today) {}
 
-    // From the next term up to the bracket that closes this level, or to the end.
-    QString level()
+    // A group's parts, those that are groups in brackets.
+    QString partsOf(const FilterNode &group) const
     {
-        QStringList alternatives;
-        QStringList joined;
-        bool hasBoth = false;
-        for (;;) {
-            joined.append(operand());
-            const bool isEnd = m_at >= m_terms.size() || m_pendingCloses > 0;
-            const bool isOr = !isEnd && m_terms.at(m_at - 1).orNext;
-            if (isEnd || isOr) {
-                hasBoth |= joined.size() > 1;
-                alternatives.append(joined.join(FilterTexts::AndInSentence));
-                m_isCompound.append(joined.size() > 1);
-                joined.clear();
-            }
-            if (isEnd)
-                break;
+        QStringList words;
+        for (const FilterNode &part : group.parts) {
+            const bool isAlone = group.parts.size() == 1 && part.isGroup() && !part.hasBrackets;
+            words.append(isAlone ? partsOf(part) : wordsOf(part));
         }
-        const qsizetype first = m_isCompound.size() - alternatives.size();
-        for (qsizetype i = 0; i < alternatives.size(); ++i) {
-            if (hasBoth && alternatives.size() > 1 && m_isCompound.at(first + i))
-                alternatives[i] = FilterTexts::BracketsInSentence.arg(alternatives.at(i));
-        }
-        m_isCompound.resize(first);
-        return alternatives.join(FilterTexts::OrInSentence);
+        const bool isAll = group.kind == FilterNode::Kind::All;
+        return words.join(isAll ? FilterTexts::AndInSentence() : FilterTexts::OrInSentence());
     }
 
 private:
-    // A term, or all that its brackets enclose.
-    QString operand()
+    QString wordsOf(const FilterNode &part) const
     {
-        if (m_pendingOpens < 0)
-            m_pendingOpens = m_terms.at(m_at).opens;
-        if (m_pendingOpens > 0) {
-            --m_pendingOpens;
-            const QString inner = level();
-            // A bracket that is never closed ends with the last term.
-            m_pendingCloses = std::max(0, m_pendingCloses - 1);
-            return FilterTexts::BracketsInSentence.arg(inner);
-        }
-        const SentenceTerm &term = m_terms.at(m_at++);
-        m_pendingOpens = -1;
-        m_pendingCloses = term.closes;
-        return choiceInWords(term.choice, m_today);
+        if (!part.isGroup())
+            return choiceInWords(m_terms.at(part.row).choice, m_today);
+        const Text form = part.kind == FilterNode::Kind::None ? FilterTexts::NoneInSentence
+                                                              : FilterTexts::BracketsInSentence;
+        return form.arg(partsOf(part));
     }
 
     const QList<SentenceTerm> &m_terms;
     QDate m_today;
-    qsizetype m_at = 0;
-    int m_pendingOpens = -1; // brackets of the next term that were not entered yet; -1 before they are read
-    int m_pendingCloses = 0;
-    QList<bool> m_isCompound;
 };
 
 } // namespace
 
 QString sentenceOf(const QList<SentenceTerm> &terms, QDate today)
 {
-    if (terms.isEmpty())
-        return {};
-    return Reader(terms, today).level() + FilterTexts::EndOfSentence;
+    QList<FilterSql::Term> frames;
+    for (const SentenceTerm &term : terms)
+        frames.append({{}, term.opens, term.closes, term.orNext, term.negatedOpens});
+    const auto tree = treeOf(frames);
+    return tree ? Sentence(terms, today).partsOf(*tree) + FilterTexts::EndOfSentence() : QString();
+}
+
+QList<SentenceTerm> termsOf(const FilterState &rows, const std::vector<FilterField> &fields)
+{
+    QList<SentenceTerm> terms;
+    for (const FilterRowState &row : rows) {
+        const auto found = std::ranges::find(fields, row.field, &FilterField::caption);
+        const FilterField field = found == fields.end() ? FilterField{row.field, row.field} : *found;
+        terms.append({{field, row.op, row.value, row.lastValue, row.isNegated, row.includesNull},
+                      row.opens,
+                      row.closes,
+                      row.orNext,
+                      row.negatedOpens});
+    }
+    return terms;
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -34,6 +34,9 @@ QString isDuplicated(const QString &field, const Records &records);
 QString isAmongFirst(const Dialect &dialect, const QString &field, const Records &records, int count,
                      bool isLargest);
 
+// More than anybody needs, and few enough for their negations to be bits of a number.
+constexpr int mostBrackets = 8;
+
 // One condition of several.
 struct Term
 {
@@ -41,6 +44,17 @@ struct Term
     int opens = 0;       // brackets opened before it
     int closes = 0;      // brackets closed behind it
     bool orNext = false; // joined to the next one by OR rather than AND
+    // A bit for each of the opened brackets, the outermost first, that stands for records that do not meet
+    // what is in it. join() writes none of these; see withoutNone().
+    int negatedOpens = 0;
+
+    bool isNegated(int bracket) const { return (negatedOpens >> bracket & 1) != 0; }
+    // Opens one more bracket around those that there are.
+    void openAround(bool isNegated)
+    {
+        ++opens;
+        negatedOpens = negatedOpens << 1 | (isNegated ? 1 : 0);
+    }
 };
 
 // The terms as one text that can be joined to further conditions by AND.

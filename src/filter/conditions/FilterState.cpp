@@ -1,5 +1,7 @@
 #include "filter/conditions/FilterState.h"
 
+#include "filter/conditions/FilterSql.h"
+
 #include <QtCore/QJsonObject>
 
 #include <algorithm>
@@ -24,6 +26,7 @@ QJsonObject toJson(const FilterRowState &row)
     add(u"open"_s, row.opens, 0);
     add(u"close"_s, row.closes, 0);
     add(u"or"_s, row.orNext, false);
+    add(u"openNot"_s, row.negatedOpens, 0);
     return json;
 }
 
@@ -32,16 +35,17 @@ std::optional<FilterRowState> rowOf(const QJsonValue &json)
     const auto op = operatorNamed(json[u"operator"_s].toString());
     if (!op || !json[u"field"_s].isString())
         return std::nullopt;
-    constexpr int mostBrackets = 3;
+    const int opens = std::clamp(json[u"open"_s].toInt(0), 0, FilterSql::mostBrackets);
     return FilterRowState{.field = json[u"field"_s].toString(),
                           .op = *op,
                           .value = json[u"value"_s].toString(),
                           .lastValue = json[u"lastValue"_s].toString(),
                           .isNegated = json[u"not"_s].toBool(false),
                           .includesNull = json[u"withNull"_s].toBool(true),
-                          .opens = std::clamp(json[u"open"_s].toInt(0), 0, mostBrackets),
-                          .closes = std::clamp(json[u"close"_s].toInt(0), 0, mostBrackets),
-                          .orNext = json[u"or"_s].toBool(false)};
+                          .opens = opens,
+                          .closes = std::clamp(json[u"close"_s].toInt(0), 0, FilterSql::mostBrackets),
+                          .orNext = json[u"or"_s].toBool(false),
+                          .negatedOpens = json[u"openNot"_s].toInt(0) & ((1 << opens) - 1)};
 }
 
 } // namespace

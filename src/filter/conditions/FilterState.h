@@ -18,6 +18,7 @@ struct FilterRowState
     int opens = 0;
     int closes = 0;
     bool orNext = false;
+    int negatedOpens = 0; // as in FilterSql::Term
 
     bool operator==(const FilterRowState &) const = default;
 };

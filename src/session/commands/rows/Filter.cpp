@@ -80,8 +80,10 @@ void askUser(Session &session, FilterManagerRollback &rollback, const QString &f
         if (!rollback.isResultUntouched())
             return;
         request.refusal.clear();
-        if (filterBy(session, rollback, condition, &request.refusal))
+        if (filterBy(session, rollback, condition, &request.refusal)) {
             session.lastBuilt = {condition, request.built};
+            session.questions().noteConditionUsed(request);
+        }
     } while (!request.refusal.isEmpty() && rollback.isResultUntouched());
 }
 

@@ -3,6 +3,8 @@
 #include "filter/conditions/FilterCondition.h"
 #include "filter/conditions/FilterSql.h"
 #include "filter/conditions/FilterState.h"
+#include "filter/conditions/TickedValues.h"
+#include "filter/rows/BracketCombo.h"
 
 #include <QtWidgets/QWidget>
 
@@ -11,12 +13,12 @@
 #include <vector>
 
 class QCheckBox;
-class QComboBox;
 class QLabel;
 class QToolButton;
 
 namespace KOVAVSFDataGridLib {
 
+class FilterGrip;
 class ValueEdit;
 
 // What the rows of a builder are made for.
@@ -26,6 +28,9 @@ struct FilterRowContext
     Dialect dialect;
     // Shows the values that a field has in a list of the editor; see ValueEdit.
     std::function<void(const FilterField &, ValueEdit &)> offerValues;
+    // Asks which of a field's values a list names, beginning with those that it names already; nothing when
+    // the user cancels.
+    std::function<std::optional<TickedValues>(const FilterField &, const TickedValues &)> askTicks = {};
     // The records that are filtered; without them no operator compares records.
     std::optional<FilterSql::Records> records = {};
     std::function<QDate()> today = QDate::currentDate;
@@ -39,16 +44,19 @@ class FilterRow final : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr int mostBrackets = 3;
-
     explicit FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *parent = nullptr);
 
     // Gives the parts their names; counted from 1.
     void setNumber(int number);
     // Whether a further row follows, and whether the row may be deleted.
     void setPlace(bool isLast, bool isOnly);
-    // The tab key walks through this row after the other one.
-    void followInTabOrder(const FilterRow &previous);
+    // In a tree the row is indented and can be moved, and the groups around it say how it is joined; without
+    // a level it has brackets and a join of its own.
+    void setLevel(std::optional<int> level);
+    FilterGrip &grip() const { return *m_grip; }
+    // The tab key walks through this row after `previous`; the answer is its last part.
+    QWidget *followInTabOrder(QWidget *previous);
+    QWidget *lastPart() const;
 
     // What the row holds now, and the same put into it. False, and the row stays as it is, when its field or
     // operator isn't offered.
@@ -57,8 +65,8 @@ public:
     FilterChoice choice() const;
     // Puts a value into the row that the next text typed replaces.
     void suggest(const QString &field, const QString &value);
-    // The row's condition as it stands now; without touching what is shown.
-    FilterCondition condition() const;
+    // The row's condition as it stands now, or that of all other records; without touching what is shown.
+    FilterCondition condition(bool isComplement = false) const;
     // The same, and shows what is wrong with it.
     FilterCondition checkedCondition();
     void showFault(const QString &fault);
@@ -66,7 +74,7 @@ public:
     void clearBracketFault();
     // Brackets and join, with an empty condition.
     FilterSql::Term frame() const;
-    void setBrackets(int opens, int closes);
+    void setFrame(const FilterSql::Term &frame);
 
     void focusFirstPart();
     void focusFault();
@@ -74,12 +82,18 @@ public:
 Q_SIGNALS:
     void changed();
     void deleteRequested();
+    // The row shall be in a group of its own.
+    void encloseRequested();
 
 private:
     void makeParts();
     void layOut();
     ValueEdit *makeValue(const QString &accessibleName);
-    QComboBox *makeBrackets(QChar bracket, const QString &accessibleName);
+    BracketCombo *makeBrackets(BracketCombo::Side side);
+    void placeParts();
+    void offerValues(ValueEdit &edit);
+    void pickList();
+    void putOperator(FilterOperator op);
     void onFieldChanged();
     void onOperatorChanged();
     void onEdited();
@@ -90,7 +104,8 @@ private:
     bool isStarted() const;
 
     std::shared_ptr<const FilterRowContext> m_context;
-    QComboBox *m_opens;
+    FilterGrip *m_grip;
+    BracketCombo *m_opens;
     QCheckBox *m_not;
     QComboBox *m_field;
     QComboBox *m_operator;
@@ -98,9 +113,12 @@ private:
     QLabel *m_to;
     ValueEdit *m_lastValue;
     QCheckBox *m_withNull;
-    QComboBox *m_closes;
+    BracketCombo *m_closes;
     QComboBox *m_join;
+    QToolButton *m_enclose;
     QToolButton *m_delete;
+    std::optional<int> m_level;
+    bool m_isLast = true;
     QLabel *m_fault;
     ValueEdit *m_valueAtFault; // what was last found wrong
     QString m_suggested;       // the value that suggest() put in

@@ -1,15 +1,16 @@
-#include "filter/FilterRow.h"
+#include "filter/rows/FilterRow.h"
 
 #include "filter/FilterTexts.h"
 #include "filter/ValueEdit.h"
+#include "filter/conditions/FilterValue.h"
+#include "filter/rows/BracketCombo.h"
+#include "filter/rows/FilterGrip.h"
 #include "forms/widgets/FieldCombo.h"
-#include "forms/widgets/TextWidth.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QGridLayout>
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
 
@@ -36,7 +37,8 @@ int lettersOfOperators(const QWidget &widget)
 FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *parent)
     : QWidget(parent),
       m_context(std::move(context)),
-      m_opens(makeBrackets(u'(', FilterTexts::OpenBracket)),
+      m_grip(new FilterGrip(this)),
+      m_opens(makeBrackets(BracketCombo::Side::Before)),
       m_not(new QCheckBox(FilterTexts::Not, this)),
       m_field(new FieldCombo(this)),
       m_operator(new QComboBox(this)),
@@ -44,8 +46,9 @@ FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *p
       m_to(new QLabel(FilterTexts::To, this)),
       m_lastValue(makeValue(FilterTexts::LastValue)),
       m_withNull(new QCheckBox(FilterTexts::WithNull, this)),
-      m_closes(makeBrackets(u')', FilterTexts::CloseBracket)),
+      m_closes(makeBrackets(BracketCombo::Side::After)),
       m_join(new QComboBox(this)),
+      m_enclose(new QToolButton(this)),
       m_delete(new QToolButton(this)),
       m_fault(new QLabel(this)),
       m_valueAtFault(m_value)
@@ -57,128 +60,9 @@ FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *p
     connect(m_not, &QCheckBox::toggled, this, &FilterRow::onNegated);
     connect(m_withNull, &QCheckBox::toggled, this, &FilterRow::changed);
     connect(m_join, &QComboBox::currentIndexChanged, this, &FilterRow::changed);
+    connect(m_enclose, &QToolButton::clicked, this, &FilterRow::encloseRequested);
     connect(m_delete, &QToolButton::clicked, this, &FilterRow::deleteRequested);
     onFieldChanged();
-}
-
-void FilterRow::makeParts()
-{
-    m_field->setAccessibleName(FilterTexts::Field);
-    for (const FilterField &field : m_context->fields)
-        m_field->addItem(field.caption);
-    m_not->setToolTip(FilterTexts::NotTip);
-    m_not->setAccessibleDescription(FilterTexts::NotTip);
-    m_withNull->setToolTip(FilterTexts::WithNullTip);
-    m_withNull->setAccessibleDescription(FilterTexts::WithNullTip);
-    m_withNull->setChecked(true);
-    m_operator->setAccessibleName(FilterTexts::Operator);
-    m_operator->setMaxVisibleItems(21);
-    m_join->setAccessibleName(FilterTexts::Join);
-    m_join->setToolTip(FilterTexts::Join);
-    m_join->addItems({FilterTexts::And, FilterTexts::Or});
-    m_delete->setAccessibleName(FilterTexts::DeleteRow);
-    m_delete->setToolTip(FilterTexts::DeleteRow);
-    m_delete->setText(u"×"_s);
-    m_delete->setAutoRaise(true);
-    m_delete->setFocusPolicy(Qt::StrongFocus);
-
-    QPalette warning = m_fault->palette();
-    const bool isDark = warning.color(QPalette::Window).lightness() < 128;
-    warning.setColor(QPalette::WindowText, isDark ? QColor(255, 130, 120) : QColor(176, 20, 20));
-    m_fault->setPalette(warning);
-    m_fault->setTextFormat(Qt::PlainText);
-    m_fault->setWordWrap(true);
-    m_fault->hide();
-}
-
-void FilterRow::layOut()
-{
-    // Small enough for a screen of 800 pixels; the dialog is wider where there is room. Widths that do not
-    // depend on a row's contents, so that the rows stand in columns.
-    m_field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_field->setMinimumWidth(widthOfDigits(*this, 9));
-    m_operator->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_operator->setMinimumContentsLength(lettersOfOperators(*this));
-    m_operator->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    auto *values = new QWidget(this);
-    // Two days, the buttons beside them and the word between them.
-    values->setMinimumWidth(widthOfDigits(*this, 36) + fontMetrics().horizontalAdvance(m_to->text()));
-    auto *valueRow = new QHBoxLayout(values);
-    valueRow->setContentsMargins({});
-    valueRow->addWidget(m_value, 1);
-    valueRow->addWidget(m_to);
-    valueRow->addWidget(m_lastValue, 1);
-    valueRow->addWidget(m_withNull);
-    QSizePolicy staying = m_join->sizePolicy();
-    staying.setRetainSizeWhenHidden(true);
-    m_join->setSizePolicy(staying);
-
-    auto *grid = new QGridLayout(this);
-    grid->setContentsMargins({});
-    grid->setVerticalSpacing(2);
-    int column = 0;
-    for (QWidget *part : std::initializer_list<QWidget *>{m_opens, m_not, m_field, m_operator, values,
-                                                          m_closes, m_join, m_delete})
-        grid->addWidget(part, 0, column++);
-    constexpr int fieldColumn = 2;
-    constexpr int valueColumn = 4;
-    grid->setColumnStretch(fieldColumn, 3);
-    grid->setColumnStretch(valueColumn, 5);
-    grid->addWidget(m_fault, 1, fieldColumn, 1, column - fieldColumn);
-}
-
-ValueEdit *FilterRow::makeValue(const QString &accessibleName)
-{
-    auto *edit = new ValueEdit(this);
-    edit->setAccessibleName(accessibleName);
-    edit->setValueAsker([this, edit] { m_context->offerValues(field(), *edit); });
-    connect(edit, &QLineEdit::textChanged, this, &FilterRow::onEdited);
-    connect(edit, &QLineEdit::editingFinished, this, &FilterRow::onEditingFinished);
-    return edit;
-}
-
-QComboBox *FilterRow::makeBrackets(QChar bracket, const QString &accessibleName)
-{
-    auto *combo = new QComboBox(this);
-    combo->setAccessibleName(accessibleName);
-    combo->setToolTip(accessibleName);
-    for (int count = 0; count <= mostBrackets; ++count)
-        combo->addItem(QString(count, bracket));
-    connect(combo, &QComboBox::currentIndexChanged, this, [this] { onEdited(); });
-    return combo;
-}
-
-void FilterRow::setNumber(int number)
-{
-    const QString suffix = QString::number(number);
-    m_opens->setObjectName(u"cmbOpen"_s + suffix);
-    m_not->setObjectName(u"chkNot"_s + suffix);
-    m_withNull->setObjectName(u"chkWithNull"_s + suffix);
-    m_field->setObjectName(u"cmbField"_s + suffix);
-    m_operator->setObjectName(u"cmbOperator"_s + suffix);
-    m_value->setObjectName(u"txtValue"_s + suffix);
-    m_lastValue->setObjectName(u"txtValue"_s + suffix + u'b');
-    m_closes->setObjectName(u"cmbClose"_s + suffix);
-    m_join->setObjectName(u"cmbJoin"_s + suffix);
-    m_delete->setObjectName(u"cmdDeleteRow"_s + suffix);
-    m_fault->setObjectName(u"lblFault"_s + suffix);
-}
-
-void FilterRow::setPlace(bool isLast, bool isOnly)
-{
-    m_join->setVisible(!isLast);
-    m_delete->setEnabled(!isOnly);
-}
-
-void FilterRow::followInTabOrder(const FilterRow &previous)
-{
-    QWidget *last = previous.m_delete;
-    for (QWidget *part :
-         std::initializer_list<QWidget *>{m_opens, m_not, m_field, m_operator, m_value, m_lastValue,
-                                          m_withNull, m_closes, m_join, m_delete}) {
-        setTabOrder(last, part);
-        last = part;
-    }
 }
 
 FilterField FilterRow::field() const
@@ -190,6 +74,39 @@ FilterField FilterRow::field() const
 FilterOperator FilterRow::op() const
 {
     return static_cast<FilterOperator>(m_operator->currentData().toInt());
+}
+
+void FilterRow::offerValues(ValueEdit &edit)
+{
+    if (positiveOf(op()) == FilterOperator::InList && m_context->askTicks)
+        pickList();
+    else
+        m_context->offerValues(field(), edit);
+}
+
+// All values but some are those that are not in a list; the tick for Null says whether the list has it.
+void FilterRow::pickList()
+{
+    const QPointer<FilterRow> alive(this);
+    const TickedValues named{.areLeftOut = false, .values = splitFilterList(m_value->text())};
+    const auto picked = m_context->askTicks(field(), named);
+    if (!alive || !picked)
+        return;
+    const bool leavesOut = isNegative(op()) != picked->areLeftOut;
+    if (picked->areLeftOut && picked->values.isEmpty()) {
+        putOperator(leavesOut ? FilterOperator::IsNotEmpty : FilterOperator::IsEmpty);
+    } else {
+        putOperator(leavesOut ? FilterOperator::NotInList : FilterOperator::InList);
+        if (leavesOut && picked->hasNull)
+            m_withNull->setChecked(*picked->hasNull == picked->areLeftOut);
+        m_value->setText(listOf(*picked));
+    }
+    m_value->setFocus();
+}
+
+void FilterRow::putOperator(FilterOperator op)
+{
+    m_operator->setCurrentIndex(m_operator->findData(static_cast<int>(op)));
 }
 
 void FilterRow::onFieldChanged()
@@ -250,9 +167,10 @@ void FilterRow::onEditingFinished()
         checkedCondition();
 }
 
-FilterCondition FilterRow::condition() const
+FilterCondition FilterRow::condition(bool isComplement) const
 {
-    return conditionOf(m_context->dialect, choice(), m_context->scope());
+    return isComplement ? complementOf(m_context->dialect, choice(), m_context->scope())
+                        : conditionOf(m_context->dialect, choice(), m_context->scope());
 }
 
 FilterChoice FilterRow::choice() const
@@ -262,15 +180,17 @@ FilterChoice FilterRow::choice() const
 
 FilterRowState FilterRow::state() const
 {
+    const FilterSql::Term framed = frame();
     return {.field = m_field->currentText(),
             .op = op(),
             .value = m_value->text(),
             .lastValue = m_lastValue->text(),
             .isNegated = m_not->isChecked(),
             .includesNull = m_withNull->isChecked(),
-            .opens = m_opens->currentIndex(),
-            .closes = m_closes->currentIndex(),
-            .orNext = m_join->currentIndex() == 1};
+            .opens = framed.opens,
+            .closes = framed.closes,
+            .orNext = framed.orNext,
+            .negatedOpens = framed.negatedOpens};
 }
 
 bool FilterRow::setState(const FilterRowState &state)
@@ -292,8 +212,7 @@ bool FilterRow::setState(const FilterRowState &state)
     m_lastValue->selectAll();
     m_not->setChecked(state.isNegated);
     m_withNull->setChecked(state.includesNull);
-    setBrackets(state.opens, state.closes);
-    m_join->setCurrentIndex(state.orNext ? 1 : 0);
+    setFrame({{}, state.opens, state.closes, state.orNext, state.negatedOpens});
     return true;
 }
 
@@ -337,13 +256,14 @@ void FilterRow::clearBracketFault()
 
 FilterSql::Term FilterRow::frame() const
 {
-    return {{}, m_opens->currentIndex(), m_closes->currentIndex(), m_join->currentIndex() == 1};
+    return {{}, m_opens->brackets(), m_closes->brackets(), m_join->currentIndex() == 1, m_opens->negated()};
 }
 
-void FilterRow::setBrackets(int opens, int closes)
+void FilterRow::setFrame(const FilterSql::Term &frame)
 {
-    m_opens->setCurrentIndex(std::min(opens, mostBrackets));
-    m_closes->setCurrentIndex(std::min(closes, mostBrackets));
+    m_opens->put(frame.opens, frame.negatedOpens);
+    m_closes->put(frame.closes);
+    m_join->setCurrentIndex(frame.orNext ? 1 : 0);
 }
 
 void FilterRow::focusFirstPart()

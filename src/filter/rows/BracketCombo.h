@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QtWidgets/QComboBox>
+
+namespace KOVAVSFDataGridLib {
+
+// The brackets before or after a condition. The usual ones are offered; others become an entry when they are
+// needed.
+class BracketCombo final : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    enum class Side { Before, After };
+
+    BracketCombo(Side side, const QString &name, QWidget *parent);
+
+    // `negated` as in FilterSql::Term.
+    void put(int brackets, int negated = 0);
+    int brackets() const { return currentData().toPoint().x(); }
+    int negated() const { return currentData().toPoint().y(); }
+
+private:
+    QString textOf(int brackets, int negated) const;
+
+    const Side m_side;
+};
+
+} // namespace KOVAVSFDataGridLib

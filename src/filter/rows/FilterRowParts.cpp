@@ -1,0 +1,168 @@
+#include "filter/FilterTexts.h"
+#include "filter/ValueEdit.h"
+#include "filter/rows/FilterGrip.h"
+#include "filter/rows/FilterGroupHead.h"
+#include "filter/rows/FilterRow.h"
+#include "forms/widgets/FieldCombo.h"
+#include "forms/widgets/TextWidth.h"
+
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QToolButton>
+
+// The parts of a row of the builder and their places.
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+void FilterRow::makeParts()
+{
+    m_field->setAccessibleName(FilterTexts::Field);
+    for (const FilterField &field : m_context->fields)
+        m_field->addItem(field.caption);
+    m_not->setToolTip(FilterTexts::NotTip);
+    m_not->setAccessibleDescription(FilterTexts::NotTip);
+    m_withNull->setToolTip(FilterTexts::WithNullTip);
+    m_withNull->setAccessibleDescription(FilterTexts::WithNullTip);
+    m_withNull->setChecked(true);
+    m_operator->setAccessibleName(FilterTexts::Operator);
+    m_operator->setMaxVisibleItems(21);
+    m_join->setAccessibleName(FilterTexts::Join);
+    m_join->setToolTip(FilterTexts::Join);
+    m_join->addItems({FilterTexts::And, FilterTexts::Or});
+    m_delete->setAccessibleName(FilterTexts::DeleteRow);
+    m_delete->setToolTip(FilterTexts::DeleteRow);
+    m_delete->setText(u"×"_s);
+    m_delete->setAutoRaise(true);
+    m_delete->setFocusPolicy(Qt::StrongFocus);
+    m_enclose->setAccessibleName(FilterTexts::EncloseRow);
+    m_enclose->setToolTip(FilterTexts::EncloseRow);
+    m_enclose->setText(u"( )"_s);
+    m_enclose->setAutoRaise(true);
+    m_enclose->setFocusPolicy(Qt::StrongFocus);
+
+    QPalette warning = m_fault->palette();
+    const bool isDark = warning.color(QPalette::Window).lightness() < 128;
+    warning.setColor(QPalette::WindowText, isDark ? QColor(255, 130, 120) : QColor(176, 20, 20));
+    m_fault->setPalette(warning);
+    m_fault->setTextFormat(Qt::PlainText);
+    m_fault->setWordWrap(true);
+    m_fault->hide();
+}
+
+void FilterRow::layOut()
+{
+    // Small enough for a screen of 800 pixels; the dialog is wider where there is room. Widths that do not
+    // depend on a row's contents, so that the rows stand in columns.
+    m_field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_field->setMinimumWidth(widthOfDigits(*this, 9));
+    m_operator->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_operator->setMinimumContentsLength(8);
+    m_operator->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    auto *values = new QWidget(this);
+    values->setMinimumWidth(widthOfDigits(*this, 38)); // two days and the buttons beside them
+    auto *valueRow = new QHBoxLayout(values);
+    valueRow->setContentsMargins({});
+    valueRow->addWidget(m_value, 1);
+    valueRow->addWidget(m_to);
+    valueRow->addWidget(m_lastValue, 1);
+    valueRow->addWidget(m_withNull);
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins({});
+    grid->setVerticalSpacing(2);
+    int column = 0;
+    for (QWidget *part : std::initializer_list<QWidget *>{m_grip, m_opens, m_not, m_field, m_operator, values,
+                                                          m_closes, m_join, m_enclose, m_delete})
+        grid->addWidget(part, 0, column++);
+    constexpr int fieldColumn = 3;
+    constexpr int valueColumn = 5;
+    grid->setColumnStretch(fieldColumn, 3);
+    grid->setColumnStretch(valueColumn, 5);
+    grid->addWidget(m_fault, 1, fieldColumn, 1, column - fieldColumn);
+    placeParts();
+}
+
+ValueEdit *FilterRow::makeValue(const QString &accessibleName)
+{
+    auto *edit = new ValueEdit(this);
+    edit->setAccessibleName(accessibleName);
+    edit->setValueAsker([this, edit] { offerValues(*edit); });
+    connect(edit, &QLineEdit::textChanged, this, &FilterRow::onEdited);
+    connect(edit, &QLineEdit::editingFinished, this, &FilterRow::onEditingFinished);
+    return edit;
+}
+
+BracketCombo *FilterRow::makeBrackets(BracketCombo::Side side)
+{
+    const QString name =
+        side == BracketCombo::Side::Before ? FilterTexts::OpenBracket : FilterTexts::CloseBracket;
+    auto *combo = new BracketCombo(side, name, this);
+    connect(combo, &QComboBox::currentIndexChanged, this, &FilterRow::onEdited);
+    return combo;
+}
+
+void FilterRow::setNumber(int number)
+{
+    const QString suffix = QString::number(number);
+    m_opens->setObjectName(u"cmbOpen"_s + suffix);
+    m_not->setObjectName(u"chkNot"_s + suffix);
+    m_withNull->setObjectName(u"chkWithNull"_s + suffix);
+    m_field->setObjectName(u"cmbField"_s + suffix);
+    m_operator->setObjectName(u"cmbOperator"_s + suffix);
+    m_value->setObjectName(u"txtValue"_s + suffix);
+    m_lastValue->setObjectName(u"txtValue"_s + suffix + u'b');
+    m_closes->setObjectName(u"cmbClose"_s + suffix);
+    m_join->setObjectName(u"cmbJoin"_s + suffix);
+    m_grip->setObjectName(u"grpMoveRow"_s + suffix);
+    m_enclose->setObjectName(u"cmdEnclose"_s + suffix);
+    m_delete->setObjectName(u"cmdDeleteRow"_s + suffix);
+    m_fault->setObjectName(u"lblFault"_s + suffix);
+}
+
+void FilterRow::setPlace(bool isLast, bool isOnly)
+{
+    m_isLast = isLast;
+    m_delete->setEnabled(!isOnly);
+    placeParts();
+}
+
+void FilterRow::setLevel(std::optional<int> level)
+{
+    m_level = level;
+    placeParts();
+}
+
+void FilterRow::placeParts()
+{
+    for (QWidget *part : std::initializer_list<QWidget *>{m_opens, m_closes})
+        part->setVisible(!m_level);
+    for (QWidget *part : std::initializer_list<QWidget *>{m_grip, m_enclose})
+        part->setVisible(m_level.has_value());
+    // Room for a join also in the last row, so that the rows stand in columns.
+    QSizePolicy staying = m_join->sizePolicy();
+    staying.setRetainSizeWhenHidden(!m_level);
+    m_join->setSizePolicy(staying);
+    m_join->setVisible(!m_isLast && !m_level);
+    layout()->setContentsMargins(indentOf(*this, m_level.value_or(0)), 0, 0, 0);
+}
+
+QWidget *FilterRow::lastPart() const
+{
+    return m_delete;
+}
+
+QWidget *FilterRow::followInTabOrder(QWidget *previous)
+{
+    for (QWidget *part :
+         std::initializer_list<QWidget *>{m_grip, m_opens, m_not, m_field, m_operator, m_value, m_lastValue,
+                                          m_withNull, m_closes, m_join, m_enclose, m_delete}) {
+        setTabOrder(previous, part);
+        previous = part;
+    }
+    return previous;
+}
+
+} // namespace KOVAVSFDataGridLib

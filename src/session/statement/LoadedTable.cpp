@@ -1,0 +1,14 @@
+#include "session/statement/LoadedTable.h"
+
+#include "query/derivation/SqlText.h"
+#include "session/Session.h"
+
+namespace KOVAVSFDataGridLib {
+
+QString loadedTable(Session &session)
+{
+    const clsShowSQLSentence *const first = session.history().Item(1);
+    return GetSQLTableName(first ? first->ShowSQL : session.statement());
+}
+
+} // namespace KOVAVSFDataGridLib
