@@ -764,6 +764,10 @@
         <source>全屏显示(&amp;S)</source>
         <translation>F&amp;ull Screen</translation>
     </message>
+    <message>
+        <source>复制为新记录(&amp;Q)</source>
+        <translation>Copy as new record (&amp;Q)</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::ExportTexts</name>
@@ -1353,6 +1357,158 @@
     <message>
         <source>%1年%2月%3日</source>
         <translation>%1-%2-%3</translation>
+    </message>
+    <message>
+        <source>并非（%1）</source>
+        <translation>not (%1)</translation>
+    </message>
+    <message>
+        <source>选择“%1”的值</source>
+        <translation>Values of &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>符合条件的记录数</source>
+        <translation>Number of records that meet the condition</translation>
+    </message>
+    <message>
+        <source>约 %1 条</source>
+        <translation>about %1 records</translation>
+    </message>
+    <message>
+        <source>正在计数…</source>
+        <translation>Counting…</translation>
+    </message>
+    <message>
+        <source>停止计数</source>
+        <translation>Stop counting</translation>
+    </message>
+    <message>
+        <source>无法计数</source>
+        <translation>Not counted</translation>
+    </message>
+    <message>
+        <source>按组显示(&amp;G)</source>
+        <translation>Show &amp;groups</translation>
+    </message>
+    <message>
+        <source>用缩进的组代替括号，组可以拖动</source>
+        <translation>Indented groups instead of brackets; groups can be dragged</translation>
+    </message>
+    <message>
+        <source>加上括号(&amp;K)</source>
+        <translation>Add brac&amp;kets</translation>
+    </message>
+    <message>
+        <source>没有括号时先算“并且”。按此加上括号，条件的意思不变。</source>
+        <translation>Without brackets, &quot;and&quot; binds closer than &quot;or&quot;. This adds the brackets that say so; the condition keeps its meaning.</translation>
+    </message>
+    <message>
+        <source>移动（拖动，或按 ↑ ↓）</source>
+        <translation>Move (drag, or press ↑ ↓)</translation>
+    </message>
+    <message>
+        <source>组内条件的关系</source>
+        <translation>How the conditions of the group are joined</translation>
+    </message>
+    <message>
+        <source>且：全部符合</source>
+        <translation>And: all are met</translation>
+    </message>
+    <message>
+        <source>或：符合任何一个</source>
+        <translation>Or: any is met</translation>
+    </message>
+    <message>
+        <source>都不：一个也不符合</source>
+        <translation>None is met</translation>
+    </message>
+    <message>
+        <source>＋ 条件</source>
+        <translation>+ Condition</translation>
+    </message>
+    <message>
+        <source>在这一组中添加条件</source>
+        <translation>Add a condition to this group</translation>
+    </message>
+    <message>
+        <source>解散</source>
+        <translation>Ungroup</translation>
+    </message>
+    <message>
+        <source>解散这一组，保留其中的条件</source>
+        <translation>Dissolve this group and keep its conditions</translation>
+    </message>
+    <message>
+        <source>把这个条件放入新的组</source>
+        <translation>Put this condition into a new group</translation>
+    </message>
+    <message>
+        <source>已存的筛选(&amp;M)</source>
+        <translation>Saved filters (&amp;M)</translation>
+    </message>
+    <message>
+        <source>取出、保存、重命名或删除该表的筛选条件</source>
+        <translation>Recall, save, rename or delete the filters of this table</translation>
+    </message>
+    <message>
+        <source>最近用过的(&amp;L)</source>
+        <translation>&amp;Last used</translation>
+    </message>
+    <message>
+        <source>保存当前条件(&amp;S)…</source>
+        <translation>&amp;Save this condition…</translation>
+    </message>
+    <message>
+        <source>重命名(&amp;N)</source>
+        <translation>Re&amp;name</translation>
+    </message>
+    <message>
+        <source>删除(&amp;X)</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>筛选的名称：</source>
+        <translation>Name of the filter:</translation>
+    </message>
+    <message>
+        <source>保存筛选</source>
+        <translation>Save filter</translation>
+    </message>
+    <message>
+        <source>重命名筛选</source>
+        <translation>Rename filter</translation>
+    </message>
+    <message>
+        <source>删除筛选</source>
+        <translation>Delete filter</translation>
+    </message>
+    <message>
+        <source>已有名为“%1”的筛选，替换它吗？</source>
+        <translation>There is a filter called &quot;%1&quot; already. Replace it?</translation>
+    </message>
+    <message>
+        <source>确实要删除筛选“%1”吗？</source>
+        <translation>Delete the filter &quot;%1&quot;?</translation>
+    </message>
+    <message>
+        <source>该表已存的筛选太多，请先删除一些。</source>
+        <translation>This table has too many saved filters. Delete some first.</translation>
+    </message>
+    <message>
+        <source>筛选文本太长。</source>
+        <translation>The text with the filters is too long.</translation>
+    </message>
+    <message>
+        <source>筛选文本不是有效的 JSON（第 %1 个字符：%2）。</source>
+        <translation>The text with the filters is not valid JSON (character %1: %2).</translation>
+    </message>
+    <message>
+        <source>筛选文本的格式不对：%1 缺少或无效。</source>
+        <translation>The text with the filters is wrong: %1 is missing or invalid.</translation>
+    </message>
+    <message>
+        <source>没有打开的结果，无法恢复筛选。</source>
+        <translation>Nothing is open, so no filters can be restored.</translation>
     </message>
 </context>
 <context>
@@ -2036,6 +2192,34 @@
         <source>没有打开的结果，无法导出。</source>
         <translation>There is no open result to export.</translation>
     </message>
+    <message>
+        <source>%1：不能为空</source>
+        <translation>%1: needs a value</translation>
+    </message>
+    <message>
+        <source>图片</source>
+        <translation>Pictures</translation>
+    </message>
+    <message>
+        <source>同时显示图片字段（Ctrl+Shift+I）；双击图片或按 Enter 从文件替换，Ctrl+0 清空</source>
+        <translation>Also list fields with pictures (Ctrl+Shift+I). Double-click a picture or press Enter to replace it from a file; Ctrl+0 removes it.</translation>
+    </message>
+    <message>
+        <source>用文件替换图片</source>
+        <translation>Replace the picture from a file</translation>
+    </message>
+    <message>
+        <source>图片 (*.png *.jpg *.jpeg *.bmp *.gif *.tif *.tiff *.webp *.svg *.ico);;所有文件 (*)</source>
+        <translation>Pictures (*.png *.jpg *.jpeg *.bmp *.gif *.tif *.tiff *.webp *.svg *.ico);;All files (*)</translation>
+    </message>
+    <message>
+        <source>无法读取文件“%1”：%2</source>
+        <translation>Cannot read the file &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>文件“%1”不是图片，或者太大。</source>
+        <translation>The file &quot;%1&quot; is no picture, or is too large.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::LanguageTexts</name>
@@ -2354,6 +2538,10 @@ Row %1: %2 = %3</translation>
     <message>
         <source>删除操作与数据库的约束冲突，不能删除此记录！</source>
         <translation>Deleting conflicts with a constraint of the database. This record cannot be deleted!</translation>
+    </message>
+    <message>
+        <source>无法复制记录：</source>
+        <translation>The record cannot be copied: </translation>
     </message>
 </context>
 <context>

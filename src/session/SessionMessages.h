@@ -22,6 +22,7 @@ inline constexpr Text OpeningCancelled = tr("已取消读取，仍显示原来�
 inline constexpr Text PlaceOfValue = tr("%1（第 %2 行）");
 inline constexpr Text NothingAhead = tr("没有可以前进到的结果。");
 inline constexpr Text InsertCancelled = tr("再次插入空行操作已被取消");
+inline constexpr Text CopyRefused = tr("无法复制记录：");
 inline constexpr Text ReadOnly = tr("记录只读，不能增加、修改或删除。");
 inline constexpr Text RecordsCopied = tr("已复制 %1 条记录");
 inline constexpr Text RecordsExported = tr("已导出 %1 条记录");

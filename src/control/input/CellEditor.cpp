@@ -10,6 +10,7 @@
 #include "grid/FlexGrid.h"
 #include "language/Language.h"
 #include "session/Session.h"
+#include "session/records/ForeignValues.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QKeyEvent>
@@ -205,9 +206,12 @@ QString CellEditor::typedText() const
     return text;
 }
 
-// The texts that the column has in the first records, when they are few.
+// What the field can refer to, or the texts that the column has in the first records, when they are few.
 QStringList CellEditor::knownValues() const
 {
+    const ADODB::Field &field = m_session.result().recordset()->Fields().Item(m_field);
+    if (const auto keys = foreignValues(m_session, field))
+        return *keys;
     QStringList values;
     const ADODB::Recordset &recordset = *m_session.result().recordset();
     const qint64 last = std::min(recordset.RecordCount(), recordsSearched);

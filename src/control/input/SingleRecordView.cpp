@@ -5,9 +5,12 @@
 #include "ado/ValueText.h"
 #include "control/input/InputEvents.h"
 #include "control/input/MenuKey.h"
+#include "control/input/record/RecordDelegate.h"
+#include "control/input/record/RecordKeys.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/GridToolbar.h"
+#include "forms/value/PicturePane.h"
 #include "grid/FlexGrid.h"
 #include "grid/GridSelection.h"
 #include "grid/Twips.h"
@@ -20,6 +23,7 @@
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QPushButton>
 
@@ -40,15 +44,9 @@ bool isListed(const ADODB::Field &field)
     return field.Type() != ADODB::adBinary && field.Type() != ADODB::adLongVarBinary;
 }
 
-bool isText(const QKeyEvent &event)
+bool isWritable(const ADODB::Field &field)
 {
-    const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    return !isCommand && !event.text().isEmpty() && event.text().at(0).isPrint();
-}
-
-bool isSave(const QKeyEvent &event)
-{
-    return event.key() == Qt::Key_S && event.modifiers() == Qt::ControlModifier;
+    return (field.Attributes() & (ADODB::adFldUpdatable | ADODB::adFldUnknownUpdatable)) != 0;
 }
 
 void setHint(QWidget &widget, const QString &hint)
@@ -69,12 +67,17 @@ SingleRecordView::SingleRecordView(QWidget &control, InputEvents &host, Session 
       m_host(host),
       m_session(session),
       m_parts(parts),
+      m_pictureFields(session, control),
+      m_pictures(newPictureBox()),
       m_previous(newStepButton(CommandKeys::PreviousRecord, u"◀"_s)),
       m_next(newStepButton(CommandKeys::NextRecord, u"▶"_s)),
       m_editor(session, parts)
 {
     MSFlexGrid &list = *parts.MSFlexGrid1;
     Language::keepTranslated(list, [this] {
+        m_pictures->setText(GridTexts::Pictures);
+        m_pictures->setToolTip(GridTexts::PicturesTip);
+        m_pictures->setAccessibleDescription(GridTexts::PicturesTip);
         setHint(*m_previous, GridTexts::PreviousRecord);
         setHint(*m_next, GridTexts::NextRecord);
         if (m_parts.MSFlexGrid1->Cols() > valueCol) {
@@ -82,6 +85,9 @@ SingleRecordView::SingleRecordView(QWidget &control, InputEvents &host, Session 
             m_parts.MSFlexGrid1->PutTextMatrix(0, valueCol, GridTexts::FieldValueHeading);
         }
     });
+    auto *const delegate = new RecordDelegate(m_fields, this);
+    list.setItemDelegateForColumn(nameCol, delegate);
+    list.setItemDelegateForColumn(valueCol, delegate);
     list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
     list.horizontalHeader()->viewport()->installEventFilter(this);
@@ -89,7 +95,17 @@ SingleRecordView::SingleRecordView(QWidget &control, InputEvents &host, Session 
         list.setAttribute(Qt::WA_InputMethodEnabled); // so that Chinese can be typed to begin an edit
         m_session.commitEdit();                       // last, because the host may delete the control
     });
+    connect(&m_pictureFields, &PictureFields::written, this, &SingleRecordView::FillSingleRecordView);
     connect(&m_editor, &CellEditor::saveWanted, this, &SingleRecordView::saveWanted);
+}
+
+QCheckBox *SingleRecordView::newPictureBox()
+{
+    auto *const box = new QCheckBox(m_parts.MSFlexGrid1->horizontalHeader());
+    box->setObjectName(u"chkPictures"_s);
+    box->setFocusPolicy(Qt::NoFocus); // the keyboard has Ctrl+Shift+I
+    connect(box, &QCheckBox::clicked, this, &SingleRecordView::togglePictures);
+    return box;
 }
 
 QPushButton *SingleRecordView::newStepButton(const QString &key, const QString &arrow)
@@ -102,12 +118,27 @@ QPushButton *SingleRecordView::newStepButton(const QString &key, const QString &
     return button;
 }
 
-void SingleRecordView::placeStepButtons()
+// What is being typed is taken first.
+void SingleRecordView::togglePictures()
+{
+    const QPointer<SingleRecordView> alive(this);
+    const bool isTaken = m_session.commitEdit();
+    if (!alive)
+        return;
+    if (isTaken)
+        FillSingleRecordView();
+    else
+        m_pictures->toggle();
+}
+
+void SingleRecordView::placeHeadingParts()
 {
     const QSize header = m_parts.MSFlexGrid1->horizontalHeader()->size();
     const int width = m_parts.MSFlexGrid1->fontMetrics().horizontalAdvance(u"▶▶"_s);
     m_previous->setGeometry(header.width() - 2 * width, 0, width, header.height());
     m_next->setGeometry(header.width() - width, 0, width, header.height());
+    const int tick = m_pictures->sizeHint().width();
+    m_pictures->setGeometry(header.width() - 2 * width - tick, 0, tick, header.height());
 }
 
 void SingleRecordView::show()
@@ -140,27 +171,59 @@ void SingleRecordView::hide()
 void SingleRecordView::FillSingleRecordView()
 {
     m_editor.close();
-    m_fields.clear();
-    const int fields = m_session.result().isOpen() ? m_session.result().recordset()->Fields().Count() : 0;
-    for (int field = 0; field < fields; ++field) {
-        if (isListed(m_session.result().recordset()->Fields().Item(field)))
-            m_fields.push_back(field);
-    }
-
+    listFields();
     MSFlexGrid &list = *m_parts.MSFlexGrid1;
     const int row = list.Row();
     auto cells = std::make_unique<TextCells>(static_cast<int>(m_fields.size()) + 1, 2);
     cells->setText(0, nameCol, GridTexts::FieldNameHeading);
     cells->setText(0, valueCol, GridTexts::FieldValueHeading);
     int at = 0;
-    for (const int field : m_fields) {
-        cells->setText(++at, nameCol, m_session.result().recordset()->Fields().Item(field).Name());
-        cells->setText(at, valueCol, valueText(field));
+    for (const ListedField &listed : m_fields) {
+        cells->setText(++at, nameCol, m_session.result().recordset()->Fields().Item(listed.field).Name());
+        cells->setText(at, valueCol, valueText(listed.field));
     }
     list.Show(std::move(cells));
+    showPictures();
     if (at > 0) {
         list.PutRow(std::clamp(row, 1, at));
         list.PutCol(valueCol);
+    }
+}
+
+void SingleRecordView::listFields()
+{
+    m_fields.clear();
+    bool hasBinary = false;
+    const int fields = m_session.result().isOpen() ? m_session.result().recordset()->Fields().Count() : 0;
+    for (int i = 0; i < fields; ++i) {
+        const ADODB::Field &field = m_session.result().recordset()->Fields().Item(i);
+        ListedField listed{.field = i, .isBinary = PictureFields::isBinary(field)};
+        listed.isRequired = !m_session.isReadOnly() && isWritable(field) &&
+                            (field.Attributes() & ADODB::adFldIsNullable) == 0;
+        hasBinary |= listed.isBinary;
+        if (!isListed(field) && !m_pictures->isChecked())
+            continue;
+        m_fields.push_back(std::move(listed));
+    }
+    m_pictures->setVisible(hasBinary);
+}
+
+// Rows with a picture are higher.
+void SingleRecordView::showPictures()
+{
+    MSFlexGrid &list = *m_parts.MSFlexGrid1;
+    const int usual = list.verticalHeader()->defaultSectionSize();
+    for (std::size_t row = 0; row < m_fields.size(); ++row) {
+        ListedField &listed = m_fields[row];
+        try {
+            if (listed.isBinary && m_pictures->isChecked())
+                listed.picture = PicturePane::pictureIn(
+                    m_session.result().recordset()->Fields().Item(listed.field).Value().toByteArray());
+        } catch (const ADODB::Error &) {
+            listed.picture = {}; // there is no current record
+        }
+        const int height = list.fontMetrics().lineSpacing() * RecordDelegate::linesOfPicture;
+        list.setRowHeight(static_cast<int>(row), listed.picture.isNull() ? usual : height);
     }
 }
 
@@ -176,15 +239,15 @@ QString SingleRecordView::valueText(int field) const
 int SingleRecordView::currentGridCol() const
 {
     const int row = m_parts.MSFlexGrid1->Row();
-    return row < 1 ? 0 : m_fields[static_cast<std::size_t>(row - 1)] + 1;
+    return row < 1 ? 0 : m_fields[static_cast<std::size_t>(row - 1)].field + 1;
 }
 
 std::vector<int> SingleRecordView::listedColumns() const
 {
     std::vector<int> columns;
     columns.reserve(m_fields.size());
-    for (const int field : m_fields)
-        columns.push_back(field + 1);
+    for (const ListedField &listed : m_fields)
+        columns.push_back(listed.field + 1);
     return columns;
 }
 
@@ -193,7 +256,7 @@ std::vector<int> SingleRecordView::markedColumns() const
     const GridSelection marked = selectedCells(*m_parts.MSFlexGrid1);
     std::vector<int> columns;
     for (int row = marked.firstRow; row <= marked.lastRow; ++row)
-        columns.push_back(m_fields[static_cast<std::size_t>(row - 1)] + 1);
+        columns.push_back(m_fields[static_cast<std::size_t>(row - 1)].field + 1);
     return columns;
 }
 
@@ -229,17 +292,19 @@ bool SingleRecordView::handleEvent(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::Resize:
         if (watched == m_parts.MSFlexGrid1->horizontalHeader()->viewport())
-            placeStepButtons();
+            placeHeadingParts();
         return false;
     case QEvent::ShortcutOverride:
-        // A record that has changes is saved by the key that exports otherwise.
-        if (isSave(*static_cast<QKeyEvent *>(event)) && m_session.hasUnsavedChanges())
+        // A record that has changes is saved by the key that exports otherwise, and a picture cleared by the
+        // one that leads to another view.
+        if ((isSave(*static_cast<QKeyEvent *>(event)) && m_session.hasUnsavedChanges()) ||
+            (isClear(*static_cast<QKeyEvent *>(event)) && isPictureCurrent()))
             event->accept();
         return false;
     case QEvent::KeyPress:
         return watched == m_parts.MSFlexGrid1 && keyPressed(*static_cast<QKeyEvent *>(event));
     case QEvent::InputMethod:
-        if (!carriesText(*static_cast<QInputMethodEvent *>(event)) ||
+        if (!carriesText(*static_cast<QInputMethodEvent *>(event)) || isPictureCurrent() ||
             !m_editor.begin(currentGridCol(), u""_s))
             return false;
         return QCoreApplication::sendEvent(&m_editor.widget(), event);
@@ -263,7 +328,15 @@ bool SingleRecordView::handleEvent(QObject *watched, QEvent *event)
 bool SingleRecordView::keyPressed(const QKeyEvent &event)
 {
     if (event.key() == Qt::Key_F2 || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
-        return m_editor.begin(currentGridCol());
+        return editCurrent();
+    if (isPictures(event) && m_pictures->isVisible()) {
+        m_pictures->click();
+        return true;
+    }
+    if (isClear(event) && isPictureCurrent()) {
+        clearPicture();
+        return true;
+    }
     if (isSave(event)) {
         Q_EMIT saveWanted();
         return true;
@@ -276,7 +349,28 @@ bool SingleRecordView::keyPressed(const QKeyEvent &event)
         Q_EMIT menuWanted(menuPlace(*m_parts.MSFlexGrid1));
         return true;
     }
-    return isText(event) && m_editor.begin(currentGridCol(), event.text());
+    return isText(event) && !isPictureCurrent() && m_editor.begin(currentGridCol(), event.text());
+}
+
+bool SingleRecordView::isPictureCurrent() const
+{
+    const int row = m_parts.MSFlexGrid1->Row();
+    return m_pictures->isChecked() && row >= 1 && m_fields[static_cast<std::size_t>(row - 1)].isBinary;
+}
+
+bool SingleRecordView::editCurrent()
+{
+    if (!isPictureCurrent())
+        return m_editor.begin(currentGridCol());
+    if (m_editor.canWrite(currentGridCol()))
+        m_pictureFields.replace(currentGridCol() - 1);
+    return true;
+}
+
+void SingleRecordView::clearPicture()
+{
+    if (m_editor.canWrite(currentGridCol()))
+        m_pictureFields.clear(currentGridCol() - 1);
 }
 
 void SingleRecordView::doubleClicked(const QWidget &source, const QMouseEvent &event)
@@ -295,7 +389,7 @@ void SingleRecordView::doubleClicked(const QWidget &source, const QMouseEvent &e
         Q_EMIT m_host.DataDBLClickOneCell(currentGridCol(), gridRow);
         // Unless the host had an answer of its own, which took the list or the keyboard away.
         if (alive && list.isVisible() && list.hasFocus() && m_editor.canWrite(currentGridCol()))
-            m_editor.begin(currentGridCol());
+            editCurrent();
     }
 }
 

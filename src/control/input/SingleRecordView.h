@@ -1,12 +1,15 @@
 #pragma once
 
 #include "control/input/CellEditor.h"
+#include "control/input/record/ListedField.h"
+#include "control/input/record/PictureFields.h"
 #include "session/SessionWindow.h"
 
 #include <QtCore/QObject>
 
 #include <vector>
 
+class QCheckBox;
 class QKeyEvent;
 class QMouseEvent;
 class QPushButton;
@@ -17,7 +20,8 @@ namespace KOVAVSFDataGridLib {
 class InputEvents;
 
 // The current record as a list of field names and values in MSFlexGrid1, in place of the grid. Binary fields
-// are left out. The values can be edited where the result can be written.
+// are left out, unless the user wants to see pictures. The values can be edited where the result can be
+// written.
 class SingleRecordView : public QObject
 {
     Q_OBJECT
@@ -55,18 +59,27 @@ private:
     bool handleEvent(QObject *watched, QEvent *event);
     bool keyPressed(const QKeyEvent &event);
     void doubleClicked(const QWidget &source, const QMouseEvent &event);
+    bool editCurrent();
+    void clearPicture();
+    bool isPictureCurrent() const;
+    void listFields();
+    void showPictures();
     void fitNameColumn();
+    QCheckBox *newPictureBox();
+    void togglePictures();
     QPushButton *newStepButton(const QString &key, const QString &arrow);
-    void placeStepButtons();
+    void placeHeadingParts();
     QString valueText(int field) const;
 
     QWidget &m_control;
     InputEvents &m_host;
     Session &m_session;
     GridParts &m_parts;
-    QPushButton *m_previous; // in the heading's right end
+    PictureFields m_pictureFields;
+    QCheckBox *m_pictures; // in the heading's right end, as the buttons
+    QPushButton *m_previous;
     QPushButton *m_next;
-    std::vector<int> m_fields; // the 0-based field of each row below the heading
+    std::vector<ListedField> m_fields; // of the rows below the heading
     CellEditor m_editor;
 };
 

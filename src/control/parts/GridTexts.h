@@ -18,6 +18,15 @@ inline constexpr Text ReadOnlyCell =
 inline constexpr Text LinesHint = tr("按 Ctrl+Enter 换行，按 Enter 接受");
 inline constexpr Text PreviousRecord = tr("上一条记录");
 inline constexpr Text NextRecord = tr("下一条记录");
+inline constexpr Text RequiredField = tr("%1：不能为空");
+inline constexpr Text Pictures = tr("图片");
+inline constexpr Text PicturesTip =
+    tr("同时显示图片字段（Ctrl+Shift+I）；双击图片或按 Enter 从文件替换，Ctrl+0 清空");
+inline constexpr Text ChoosePicture = tr("用文件替换图片");
+inline constexpr Text PictureFiles =
+    tr("图片 (*.png *.jpg *.jpeg *.bmp *.gif *.tif *.tiff *.webp *.svg *.ico);;所有文件 (*)");
+inline constexpr Text PictureUnreadable = tr("无法读取文件“%1”：%2");
+inline constexpr Text NoPicture = tr("文件“%1”不是图片，或者太大。");
 inline constexpr Text ValueRefusedPrefix = tr("输入的内容无效：");
 
 // A record that can't be saved when its result is about to go.

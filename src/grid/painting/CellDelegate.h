@@ -7,7 +7,7 @@ namespace KOVAVSFDataGridLib {
 // Draws no more of a cell's text than can be seen: the first line, and of that so much that no column is
 // wide enough for more. A view shapes and elides the whole text on every paint, which takes seconds for
 // pages of memo fields. A text that is cut is shown in full by a tool tip.
-class CellDelegate final : public QStyledItemDelegate
+class CellDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
 

@@ -1,0 +1,72 @@
+#include "control/input/record/PictureFields.h"
+
+#include "ado/Error.h"
+#include "ado/Recordset.h"
+#include "control/parts/GridTexts.h"
+#include "forms/Messages.h"
+#include "forms/value/PicturePane.h"
+#include "session/ResultWatch.h"
+#include "session/Session.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QPointer>
+#include <QtWidgets/QFileDialog>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+bool PictureFields::isBinary(const ADODB::Field &field)
+{
+    return field.Type() == ADODB::adBinary || field.Type() == ADODB::adVarBinary ||
+           field.Type() == ADODB::adLongVarBinary;
+}
+
+void PictureFields::replace(int field)
+{
+    const qint64 record = m_session.result().recordset()->AbsolutePosition();
+    const auto watch = std::make_shared<ResultWatch>(m_session);
+    auto *const chooser = new QFileDialog(&m_window, GridTexts::ChoosePicture, {}, GridTexts::PictureFiles);
+    chooser->setAttribute(Qt::WA_DeleteOnClose);
+    chooser->setFileMode(QFileDialog::ExistingFile);
+    connect(chooser, &QFileDialog::fileSelected, this, [this, field, record, watch](const QString &file) {
+        // Another record is not the one that was meant.
+        if (watch->isUntouched() && m_session.result().recordset()->AbsolutePosition() == record)
+            readFile(field, file);
+    });
+    chooser->open();
+}
+
+void PictureFields::readFile(int field, const QString &file)
+{
+    constexpr qint64 largest = 256 * 1024 * 1024; // bytes
+    QFile source(file);
+    if (!source.open(QIODevice::ReadOnly))
+        return Messages::show(&m_window, GridTexts::PictureUnreadable.arg(file, source.errorString()));
+    const QByteArray bytes = source.size() <= largest ? source.readAll() : QByteArray();
+    if (PicturePane::formatOf(bytes).isEmpty())
+        return Messages::show(&m_window, GridTexts::NoPicture.arg(file));
+    write(field, bytes);
+}
+
+void PictureFields::clear(int field)
+{
+    write(field, {});
+}
+
+void PictureFields::write(int field, const QVariant &value)
+{
+    const QPointer<PictureFields> alive(this);
+    try {
+        const ADODB::Notifications::Hold hold(m_session.notifications());
+        m_session.result().recordset()->Fields().Item(field).PutValue(value);
+    } catch (const ADODB::Error &error) {
+        if (alive)
+            Messages::show(&m_window, GridTexts::ValueRefusedPrefix() + error.Description());
+        return;
+    }
+    if (alive)
+        Q_EMIT written();
+}
+
+} // namespace KOVAVSFDataGridLib

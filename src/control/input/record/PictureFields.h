@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+class QWidget;
+
+namespace ADODB {
+class Field;
+}
+
+namespace KOVAVSFDataGridLib {
+
+class Session;
+
+// The pictures of the current record: replaced from a file, and taken away.
+class PictureFields : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Both must outlive this object.
+    PictureFields(Session &session, QWidget &window) : m_session(session), m_window(window) {}
+
+    static bool isBinary(const ADODB::Field &field);
+
+    // Asks for a file and writes its picture into a field (0-based) of the current record, which is then not
+    // saved yet. A file that is no picture changes nothing, which the user is shown.
+    void replace(int field);
+    void clear(int field);
+
+Q_SIGNALS:
+    void written();
+
+private:
+    void readFile(int field, const QString &file);
+    void write(int field, const QVariant &value);
+
+    Session &m_session;
+    QWidget &m_window;
+};
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,227 @@
+// The list of a single record as a form: what has to be filled in, new records from old ones, values to pick
+// and pictures.
+#include "Shop.h"
+
+#include "support/Dialogs.h"
+
+#include <QtCore/QBuffer>
+#include <QtCore/QFile>
+#include <QtGui/QImage>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QCompleter>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QHeaderView>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct RecordForm : Shop
+{
+    QRect cell(const QString &field, int col) const
+    {
+        return list->visualRect(list->model()->index(listedRow(field), col));
+    }
+    // Whether something red is drawn at the right end of a field's name.
+    bool isMarked(const QString &field) const
+    {
+        const QRect name = cell(field, 0);
+        const QImage shown =
+            list->viewport()->grab(QRect(name.right() - 9, name.top(), 9, name.height())).toImage();
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x) {
+                const QColor colour = shown.pixelColor(x, y);
+                if (colour.red() > colour.green() + 60)
+                    return true;
+            }
+        }
+        return false;
+    }
+    QCheckBox &pictures() const { return *list->findChild<QCheckBox *>(u"chkPictures"_s); }
+    QString pictureFile(const QColor &colour)
+    {
+        const QString path = folder.filePath(u"图.png"_s);
+        QImage picture(40, 30, QImage::Format_RGB32);
+        picture.fill(colour);
+        EXPECT_TRUE(picture.save(path));
+        return path;
+    }
+    void showPicturesOf(int record)
+    {
+        clickCell(record, 1);
+        click(u"SingleRecord"_s);
+        QTest::mouseClick(&pictures(), Qt::LeftButton);
+        makeCurrent(u"图片"_s);
+    }
+    static WindowAnswers::Answer chooseFile(const QString &path)
+    {
+        return [path](QDialog &dialog) {
+            auto *chooser = qobject_cast<QFileDialog *>(&dialog);
+            ASSERT_TRUE(chooser);
+            chooser->selectFile(path);
+            QMetaObject::invokeMethod(chooser, "accept");
+        };
+    }
+    QColor shownPicture() const
+    {
+        const QRect room = cell(u"图片"_s, 1);
+        return list->viewport()->grab(room).toImage().pixelColor(15, 15);
+    }
+
+    QTemporaryDir folder;
+};
+
+} // namespace
+
+TEST_F(RecordForm, NamesOfFieldsThatTakeNoNullAreMarked)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 1);
+    click(u"SingleRecord"_s);
+    list->clearSelection();
+    EXPECT_TRUE(isMarked(u"名称"_s));
+    EXPECT_FALSE(isMarked(u"城市"_s));
+    EXPECT_EQ(listed(u"名称"_s), u"普洱茶"_s) << "the name itself stays as it is";
+    click(u"AllRecord"_s);
+    grid.setProperty("ReadOnly", true);
+    click(u"SingleRecord"_s);
+    list->clearSelection();
+    EXPECT_FALSE(isMarked(u"名称"_s)) << "there is nothing to fill in";
+}
+
+TEST_F(RecordForm, ACopyHasAllValuesButTheKey)
+{
+    ASSERT_TRUE(load());
+    choose(36, 2);
+    EXPECT_TRUE(isSingleRecordShown());
+    EXPECT_EQ(listed(u"ID"_s), QString());
+    EXPECT_EQ(listed(u"名称"_s), u"普洱茶"_s);
+    EXPECT_EQ(listed(u"日期"_s), u"2024-02-29"_s);
+    QTest::keyClick(list, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(messages.texts(), QStringList());
+    EXPECT_EQ(stored(u"名称"_s, 13), u"普洱茶"_s);
+    EXPECT_EQ(stored(u"hex(图片)"_s, 13), u"424D"_s);
+    EXPECT_EQ(stored(u"名称"_s, 2), u"普洱茶"_s);
+    EXPECT_EQ(database.ask(u"SELECT count(*) FROM 商品"_s), u"13"_s);
+}
+
+TEST_F(RecordForm, ACopyIsGivenUpWithEsc)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 1);
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(listed(u"ID"_s), QString());
+    QTest::keyClick(list, Qt::Key_Escape);
+    click(u"AllRecord"_s);
+    EXPECT_EQ(rows(), records);
+    EXPECT_EQ(database.ask(u"SELECT count(*) FROM 商品"_s), u"12"_s);
+}
+
+TEST_F(RecordForm, WhatIsTypedIsSavedBeforeARecordIsCopied)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 1);
+    click(u"SingleRecord"_s);
+    makeCurrent(u"城市"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    edit->selectAll();
+    compose(*edit, u"大理"_s);
+    QTest::keyClick(edit, Qt::Key_Return);
+    QTest::keyClick(list, Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(stored(u"城市"_s, 2), u"大理"_s);
+    EXPECT_EQ(listed(u"城市"_s), u"大理"_s);
+    EXPECT_EQ(listed(u"ID"_s), QString());
+}
+
+TEST_F(RecordForm, NothingIsCopiedWhereRecordsAreReadOnly)
+{
+    ASSERT_TRUE(load());
+    grid.setProperty("ReadOnly", true);
+    clickCell(2, 1);
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_FALSE(isSingleRecordShown());
+    EXPECT_EQ(database.ask(u"SELECT count(*) FROM 商品"_s), u"12"_s);
+}
+
+TEST_F(RecordForm, AFieldThatRefersToAnotherTableOffersItsKeys)
+{
+    ASSERT_TRUE(load(u"SELECT * FROM 订单"_s, QString()));
+    clickCell(1, 1);
+    click(u"SingleRecord"_s);
+    makeCurrent(u"商品"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    QTest::keyClick(edit, Qt::Key_F4);
+    auto *offered = edit->findChild<QCompleter *>();
+    ASSERT_TRUE(offered);
+    ASSERT_EQ(offered->model()->rowCount(), records);
+    EXPECT_EQ(offered->model()->index(11, 0).data(), u"12"_s);
+}
+
+TEST_F(RecordForm, PicturesAreListedOnlyWhereTheyAreWanted)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 1);
+    click(u"SingleRecord"_s);
+    EXPECT_TRUE(pictures().isVisible());
+    EXPECT_LT(listedRow(u"图片"_s), 0);
+    QTest::mouseClick(&pictures(), Qt::LeftButton);
+    EXPECT_EQ(listed(u"图片"_s), u"<2 字节>"_s) << "no picture";
+    QTest::mouseClick(&pictures(), Qt::LeftButton);
+    EXPECT_LT(listedRow(u"图片"_s), 0);
+    QTest::keyClick(list, Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_GE(listedRow(u"图片"_s), 0);
+    ASSERT_TRUE(load(u"SELECT ID, 名称 FROM 商品"_s, QString()));
+    click(u"SingleRecord"_s);
+    EXPECT_FALSE(pictures().isVisible());
+}
+
+TEST_F(RecordForm, APictureIsReplacedFromAFileAndSaved)
+{
+    ASSERT_TRUE(load());
+    showPicturesOf(3);
+    {
+        WindowAnswers dialogs({chooseFile(pictureFile(Qt::blue))});
+        QTest::keyClick(list, Qt::Key_Return);
+    }
+    EXPECT_EQ(shownPicture(), QColor(Qt::blue));
+    EXPECT_GT(cell(u"图片"_s, 1).height(), 2 * cell(u"城市"_s, 1).height());
+    EXPECT_EQ(stored(u"图片"_s, 3), QString());
+    QTest::keyClick(list, Qt::Key_S, Qt::ControlModifier);
+    QFile file(pictureFile(Qt::blue));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(stored(u"hex(图片)"_s, 3), QString::fromLatin1(file.readAll().toHex().toUpper()));
+    QTest::keyClick(list, Qt::Key_0, Qt::ControlModifier);
+    QTest::keyClick(list, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(stored(u"图片 IS NULL"_s, 3), u"1"_s);
+}
+
+TEST_F(RecordForm, AFileThatIsNoPictureChangesNothing)
+{
+    ASSERT_TRUE(load());
+    showPicturesOf(3);
+    const QString path = folder.filePath(u"文.txt"_s);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("no picture") > 0);
+    file.close();
+    {
+        WindowAnswers dialogs({chooseFile(path)});
+        QTest::keyClick(list, Qt::Key_Return);
+    }
+    EXPECT_EQ(messages.texts(), QStringList{u"文件“%1”不是图片，或者太大。"_s.arg(path)});
+    EXPECT_EQ(listed(u"图片"_s), QString());
+}
+
+TEST_F(RecordForm, APictureThatCannotBeWrittenIsOnlyShown)
+{
+    ASSERT_TRUE(load());
+    grid.setProperty("ReadOnly", true);
+    showPicturesOf(2);
+    QTest::keyClick(list, Qt::Key_Return);
+    QTest::keyClick(list, Qt::Key_0, Qt::ControlModifier);
+    QTest::keyClicks(list, u"x"_s);
+    EXPECT_EQ(listed(u"图片"_s), u"<2 字节>"_s);
+    EXPECT_FALSE(edit->isVisible());
+}
