@@ -8,6 +8,7 @@
 #include "ado/Recordset.h"
 #include "filter/FilterSource.h"
 #include "filter/conditions/FilterCondition.h"
+#include "filter/conditions/FilterTree.h"
 
 #include <gtest/gtest.h>
 
@@ -160,10 +161,11 @@ protected:
         return offered;
     }
 
-    // A condition, and for each record whether it is meant.
+    // A condition with its complement, and for each record whether it is meant.
     struct Meant
     {
         QString sql;
+        QString complement;
         std::vector<bool> records;
     };
 
@@ -229,7 +231,7 @@ protected:
         };
         const FilterCondition written = conditionOf(source.dialect(), choice, scope);
         EXPECT_EQ(written.fault, QString()) << qUtf8Printable(captionOf(op) + choice.value);
-        Meant meant{written.sql, {}};
+        Meant meant{written.sql, complementOf(source.dialect(), choice, scope).sql, {}};
         const bool isLeftOut = isNegative(op) != choice.isNegated;
         for (const Row &row : rows) {
             const Cell &cell = row[column];
@@ -242,6 +244,35 @@ protected:
                 meant.records.push_back(isAmong(positive, compared, *cell, selects(*cell)) != isLeftOut);
         }
         return meant;
+    }
+
+    // One to three conditions or groups of them, all, any or none of which are to be met. Groups without
+    // brackets are those that AND makes among others that OR joins.
+    FilterNode group(Generator &random, int depth, std::vector<Meant> &meant)
+    {
+        using Kind = FilterNode::Kind;
+        FilterNode made{.kind = random.oneOf(std::vector{Kind::All, Kind::Any, Kind::None})};
+        made.hasBrackets = !random.oneIn(3);
+        for (int count = random.below(3) + 1; count > 0; --count) {
+            if (depth > 0 && random.oneIn(3)) {
+                made.parts.push_back(group(random, depth - 1, meant));
+            } else {
+                made.parts.push_back({.row = static_cast<qsizetype>(meant.size())});
+                meant.push_back(condition(random));
+            }
+        }
+        return made;
+    }
+
+    static bool isMet(const FilterNode &node, const std::vector<Meant> &meant, std::size_t row)
+    {
+        if (!node.isGroup())
+            return meant[static_cast<std::size_t>(node.row)].records[row];
+        const auto met = std::ranges::count_if(
+            node.parts, [&](const FilterNode &part) { return isMet(part, meant, row); });
+        if (node.kind == FilterNode::Kind::All)
+            return met == std::ssize(node.parts);
+        return (met > 0) == (node.kind == FilterNode::Kind::Any);
     }
 
     // Who is between the smallest and the largest value of the first ones, but has a value that none of the
@@ -275,36 +306,17 @@ TEST_P(RandomConditions, SelectWhatAPlainLoopSelects)
     const int asked = qEnvironmentVariableIntValue("KOVA_RANDOM_CONDITIONS");
     Generator random(20260103);
     for (int round = 0; round < (asked > 0 ? asked : 1250) && !HasFailure(); ++round) {
-        // One to three conditions, joined and bracketed at random.
+        std::vector<Meant> meant;
+        const FilterNode tree = group(random, 2, meant);
         QList<FilterSql::Term> terms;
-        std::vector<std::vector<bool>> meant;
-        for (int count = random.below(3) + 1; count > 0; --count) {
-            const Meant each = condition(random);
-            terms.append({each.sql, 0, 0, random.oneIn(2)});
-            meant.push_back(each.records);
+        for (const FilterPlace &place : flatOf(withoutNone(tree))) {
+            const Meant &each = meant[static_cast<std::size_t>(place.row)];
+            terms.append(place.term);
+            terms.last().condition = place.isComplement ? each.complement : each.sql;
         }
-        const bool hasBrackets = terms.size() == 3 && random.oneIn(2);
-        if (hasBrackets) {
-            terms[1].opens = 1;
-            terms[2].closes = 1;
-        }
-        const auto value = [&](std::size_t term, std::size_t row) -> bool { return meant[term][row]; };
         QStringList expected;
         for (std::size_t row = 0; row < rows.size(); ++row) {
-            bool selected = value(0, row);
-            if (terms.size() == 2)
-                selected = terms[0].orNext ? selected || value(1, row) : selected && value(1, row);
-            if (terms.size() == 3) {
-                const bool firstOr = terms[0].orNext;
-                const bool lastOr = terms[1].orNext;
-                const bool last = lastOr ? value(1, row) || value(2, row) : value(1, row) && value(2, row);
-                // AND binds closer.
-                if (hasBrackets || (firstOr && !lastOr) || firstOr == lastOr)
-                    selected = firstOr ? selected || last : selected && last;
-                else
-                    selected = (selected && value(1, row)) || value(2, row);
-            }
-            if (selected)
+            if (isMet(tree, meant, row))
                 expected += QString::number(row + 1);
         }
         const QString condition = FilterSql::join(terms);
