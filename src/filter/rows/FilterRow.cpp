@@ -14,25 +14,9 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
 
-#include <algorithm>
-
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// As many of the letters that a combo box counts as the widest comparison has.
-int lettersOfOperators(const QWidget &widget)
-{
-    const QFontMetrics metrics = widget.fontMetrics();
-    int widest = 0;
-    for (const Text &caption : FilterTexts::Operators)
-        widest = std::max(widest, metrics.horizontalAdvance(caption()));
-    return std::max(8, widest / metrics.horizontalAdvance(u'X'));
-}
-
-} // namespace
 
 FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *parent)
     : QWidget(parent),

@@ -13,10 +13,26 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
 
+#include <algorithm>
+
 // The parts of a row of the builder and their places.
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// As many of the letters that a combo box counts as the widest comparison has.
+int lettersOfOperators(const QWidget &widget)
+{
+    const QFontMetrics metrics = widget.fontMetrics();
+    int widest = 0;
+    for (const Text &caption : FilterTexts::Operators)
+        widest = std::max(widest, metrics.horizontalAdvance(caption()));
+    return std::max(8, widest / metrics.horizontalAdvance(u'X'));
+}
+
+} // namespace
 
 void FilterRow::makeParts()
 {
@@ -60,10 +76,11 @@ void FilterRow::layOut()
     m_field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_field->setMinimumWidth(widthOfDigits(*this, 9));
     m_operator->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_operator->setMinimumContentsLength(8);
+    m_operator->setMinimumContentsLength(lettersOfOperators(*this));
     m_operator->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto *values = new QWidget(this);
-    values->setMinimumWidth(widthOfDigits(*this, 38)); // two days and the buttons beside them
+    // Two days, the buttons beside them and the word between them.
+    values->setMinimumWidth(widthOfDigits(*this, 36) + fontMetrics().horizontalAdvance(m_to->text()));
     auto *valueRow = new QHBoxLayout(values);
     valueRow->setContentsMargins({});
     valueRow->addWidget(m_value, 1);
