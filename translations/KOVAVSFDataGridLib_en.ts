@@ -764,6 +764,14 @@
         <source>全屏显示(&amp;S)</source>
         <translation>F&amp;ull Screen</translation>
     </message>
+    <message>
+        <source>打开链接(&amp;K)</source>
+        <translation>Open lin&amp;k</translation>
+    </message>
+    <message>
+        <source>标出空值(&amp;U)</source>
+        <translation>Mark n&amp;ulls</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::ExportTexts</name>
@@ -2260,6 +2268,14 @@
         <source>（%1）</source>
         <translation>(%1)</translation>
     </message>
+    <message>
+        <source>%1 介于 %2 和 %3</source>
+        <translation>%1 between %2 and %3</translation>
+    </message>
+    <message>
+        <source>%1年</source>
+        <translation>%1</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::SessionMessages</name>
@@ -2354,6 +2370,10 @@ Row %1: %2 = %3</translation>
     <message>
         <source>删除操作与数据库的约束冲突，不能删除此记录！</source>
         <translation>Deleting conflicts with a constraint of the database. This record cannot be deleted!</translation>
+    </message>
+    <message>
+        <source>当前单元格不是链接（http、https 或 mailto）。</source>
+        <translation>The current cell is not a link (http, https or mailto).</translation>
     </message>
 </context>
 <context>

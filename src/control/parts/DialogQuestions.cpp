@@ -4,6 +4,7 @@
 #include "control/parts/FormatDialog.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/ToolbarIcons.h"
+#include "filter/TicksDialog.h"
 #include "filter/mod_Filter.h"
 #include "forms/ExportDialog.h"
 #include "forms/FindDialog.h"
@@ -77,7 +78,9 @@ QString DialogQuestions::askCondition(const ConditionRequest &request)
     return condition;
 }
 
-std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionRequest &request)
+namespace {
+
+FilterRequest filterRequest(const ConditionRequest &request)
 {
     FilterRequest prepared;
     prepared.connectionString = request.connectionString;
@@ -91,9 +94,29 @@ std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionReque
     prepared.value = request.value;
     prepared.built = request.built;
     prepared.picture = toolbarIcon(CommandKeys::Filter);
+    return prepared;
+}
+
+} // namespace
+
+std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionRequest &request)
+{
     auto filter = std::make_shared<mod_Filter>(m_parent);
-    filter->PrepareFilterDialog(prepared);
+    filter->PrepareFilterDialog(filterRequest(request));
     return filter;
+}
+
+std::optional<ValuesAnswer> DialogQuestions::askValues(const ValuesRequest &request)
+{
+    TicksDialog dialog(filterRequest(request.records), request.written, m_parent);
+    switch (dialog.exec()) {
+    case TicksDialog::Chosen:
+        return ValuesAnswer{dialog.condition(), dialog.Built()};
+    case TicksDialog::WantsBuilder:
+        return ValuesAnswer{.wantsBuilder = true};
+    default:
+        return {};
+    }
 }
 
 std::optional<FindAnswer> DialogQuestions::askWords(const colDataFields &fields)

@@ -87,6 +87,8 @@ void PopupMenu::refresh(bool hasText)
         if (command->button)
             action->setVisible(m_toolbar.isButtonVisible(button));
         const bool isGiven = button.isEmpty() || m_toolbar.isButtonEnabled(button);
+        action->setCheckable(command->isOn != nullptr);
+        action->setChecked(command->isOn && command->isOn(m_session));
         action->setEnabled(isGiven && (hasText || !texts.needsText) && m_session.whyNot(*command).isEmpty());
     }
 }
