@@ -768,6 +768,14 @@
         <source>复制为新记录(&amp;Q)</source>
         <translation>Copy as new record (&amp;Q)</translation>
     </message>
+    <message>
+        <source>打开链接(&amp;K)</source>
+        <translation>Open lin&amp;k</translation>
+    </message>
+    <message>
+        <source>标出空值(&amp;U)</source>
+        <translation>Mark n&amp;ulls</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::ExportTexts</name>
@@ -2444,6 +2452,14 @@
         <source>（%1）</source>
         <translation>(%1)</translation>
     </message>
+    <message>
+        <source>%1 介于 %2 和 %3</source>
+        <translation>%1 between %2 and %3</translation>
+    </message>
+    <message>
+        <source>%1年</source>
+        <translation>%1</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::SessionMessages</name>
@@ -2542,6 +2558,10 @@ Row %1: %2 = %3</translation>
     <message>
         <source>无法复制记录：</source>
         <translation>The record cannot be copied: </translation>
+    </message>
+    <message>
+        <source>当前单元格不是链接（http、https 或 mailto）。</source>
+        <translation>The current cell is not a link (http, https or mailto).</translation>
     </message>
 </context>
 <context>

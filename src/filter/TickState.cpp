@@ -1,7 +1,5 @@
 #include "filter/TickState.h"
 
-#include "filter/FilterTexts.h"
-
 #include <algorithm>
 
 namespace KOVAVSFDataGridLib {
@@ -18,7 +16,7 @@ QString monthOf(const QString &day)
 
 QString yearOf(const QString &day)
 {
-    return FilterTexts::YearOfDays.arg(day.left(4));
+    return day.left(4) + u'年'; // as it is typed in any language
 }
 
 // How many days of each month and each year there are.

@@ -97,6 +97,10 @@ public:
     void PutColFormat(int col, const ADODB::DisplayFormat &format);
     void ResetColFormats();
 
+    // Whether cells without a value show a pale NULL, which is no text of theirs.
+    bool ShowsNulls() const;
+    void PutShowsNulls(bool on);
+
     // Marks parts of the texts that are shown; null marks nothing.
     void PutTextMarker(TextMarker marker);
     // Whether a column is too narrow for a cell's text, or only the text's first line is shown.

@@ -112,6 +112,17 @@ void FlexGrid::PutColFormat(int col, const ADODB::DisplayFormat &format)
     m_model->setFormats(formats);
 }
 
+bool FlexGrid::ShowsNulls() const
+{
+    return m_model->showsNulls();
+}
+
+void FlexGrid::PutShowsNulls(bool on)
+{
+    m_model->setShowsNulls(on);
+    viewport()->update();
+}
+
 void FlexGrid::ResetColFormats()
 {
     m_model->setFormats({});

@@ -25,6 +25,8 @@ inline constexpr Text ContainsInWords = tr("包含 %1");
 inline constexpr Text BeginsInWords = tr("开头是 %1");
 inline constexpr Text EndsInWords = tr("结尾是 %1");
 inline const QString EqualsInWords = u"= %1"_s;
+inline constexpr Text BetweenInWords = tr("%1 介于 %2 和 %3");
+inline constexpr Text YearInWords = tr("%1年");
 inline constexpr Text InListInWords = tr("在列表中 %1");
 inline constexpr Text EmptyInWords = tr("为空");
 inline constexpr Text NotEmptyInWords = tr("不为空");

@@ -44,6 +44,22 @@ struct ConditionRequest
     mutable QString built = {};
 };
 
+// A column whose records the user chooses by their values.
+struct ValuesRequest
+{
+    // The records whose values are offered; `field` is the column's heading, `built` what the choice in force
+    // was built from.
+    ConditionRequest records;
+    QString written; // the field as statements write it
+};
+
+struct ValuesAnswer
+{
+    QString condition = {};    // empty for all records
+    QString built = {};        // for the next time
+    bool wantsBuilder = false; // to build a condition of any kind instead
+};
+
 // The words that the user looks for.
 struct FindAnswer
 {
@@ -134,6 +150,8 @@ public:
     virtual QString askCondition(const ConditionRequest &) { return {}; }
     // The database took the condition that was answered.
     virtual void noteConditionUsed(const ConditionRequest &) {}
+    // Nothing when the user cancels.
+    virtual std::optional<ValuesAnswer> askValues(const ValuesRequest &) { return {}; }
     // Nothing when there are no fields to look in.
     virtual std::optional<FindAnswer> askWords(const colDataFields &) { return {}; }
     // Nothing when the user cancels. A file that is there already may be replaced.

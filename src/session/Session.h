@@ -52,6 +52,14 @@ struct BuiltCondition
     QString built;
 };
 
+// A condition that the user made by choosing values of a column.
+struct ChosenValues
+{
+    QString field;     // as statements write it
+    QString condition; // as the statement that is shown has it
+    QString built;     // see ValuesAnswer
+};
+
 // One open result and all that can be done with it: its pages, its history of statements, the layout of its
 // columns, and the commands. It shows itself in a window, asks its user questions and reports to a host, and
 // knows of the three no more than their interfaces.
@@ -255,6 +263,7 @@ public:
 
     SessionTexts texts;
     BuiltCondition lastBuilt;
+    std::vector<ChosenValues> chosenValues; // of all statements so far, the latest last
     SharedValues &shared = SharedValues::instance();
 
 private:

@@ -7,6 +7,7 @@ namespace KOVAVSFDataGridLib::SessionMessages {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::SessionMessages"};
 
+inline constexpr Text NoLink = tr("当前单元格不是链接（http、https 或 mailto）。");
 inline constexpr Text OpenErrorPrefix = tr("错误描述为：");
 inline constexpr Text OpenFailed = tr("数据库打开失败。");
 inline constexpr Text ReadFailed = tr("数据库读失败。");

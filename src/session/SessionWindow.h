@@ -11,6 +11,7 @@
 #include <vector>
 
 class QMimeData;
+class QUrl;
 
 namespace ADODB {
 class Recordset;
@@ -120,6 +121,8 @@ public:
     virtual void showFind() {}
     // Shows a value whole, beside everything else.
     virtual void showValue(const CellValue &) {}
+    // Opens the address of a page or a mailbox with the program that the user has for it.
+    virtual void openLink(const QUrl &) {}
     // Lists the statements that the user can go to.
     virtual void showHistory() {}
     // Shows that a statement is being opened. Only one can live in a process. Null shows nothing.

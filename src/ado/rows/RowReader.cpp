@@ -4,8 +4,8 @@
 
 namespace ADODB {
 
-RowReader::RowReader(const Recordset &recordset, int columns)
-    : m_recordset(recordset), m_cells(static_cast<std::size_t>(columns))
+RowReader::RowReader(const Recordset &recordset, int columns, int first)
+    : m_recordset(recordset), m_first(first), m_cells(static_cast<std::size_t>(columns))
 {
 }
 
@@ -13,9 +13,9 @@ const std::vector<RawValue> *RowReader::read(qint64 record)
 {
     const auto &shared = m_recordset.d->shared;
     if (!shared || record < 1 || record > shared->snapshot.records() ||
-        static_cast<int>(m_cells.size()) > shared->snapshot.columns())
+        m_first + static_cast<int>(m_cells.size()) > shared->snapshot.columns())
         return nullptr;
-    shared->snapshot.read(record, m_cells);
+    shared->snapshot.read(record, m_first, m_cells);
     return &m_cells;
 }
 

@@ -15,15 +15,17 @@ class Recordset;
 class RowReader
 {
 public:
-    // Reads the first `columns` fields. `recordset` must outlive this object.
-    RowReader(const Recordset &recordset, int columns);
+    // Reads `columns` fields from the one at `first`, counted from 0. `recordset` must outlive this object.
+    RowReader(const Recordset &recordset, int columns, int first = 0);
 
-    // The cells of a record, from 1; they are valid until the next call or a change of the recordset. Null
-    // when there is no such record, because it was deleted or the recordset is closed.
+    // The cells of a record, from 1, without those before `first`; they are valid until the next call or a
+    // change of the recordset. Null when there is no such record, because it was deleted or the recordset is
+    // closed.
     const std::vector<RawValue> *read(qint64 record);
 
 private:
     const Recordset &m_recordset;
+    const int m_first;
     std::vector<RawValue> m_cells;
 };
 

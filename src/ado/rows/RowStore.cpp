@@ -121,30 +121,44 @@ const char *RowStore::nextCell(const char *cell)
     Q_UNREACHABLE();
 }
 
-RawValue RowStore::decode(const char *cell)
+const char *RowStore::decode(const char *cell, RawValue &value)
 {
-    const auto bytes = [&](const char *start) { return QByteArrayView(start, nextCell(cell) - start); };
+    using Kind = RawValue::Kind;
+    const auto putInteger = [&](auto integer) {
+        value.kind = Kind::Integer;
+        value.integer = integer;
+        return cell + 1 + sizeof integer;
+    };
+    const auto putBytes = [&](Kind kind, auto size) {
+        const char *const start = cell + 1 + sizeof size;
+        value.kind = kind;
+        value.bytes = QByteArrayView(start, static_cast<qsizetype>(size));
+        return start + size;
+    };
     switch (tagAt(cell)) {
     case Tag::Null:
-        return {};
+        value.kind = Kind::Null;
+        return cell + 1;
     case Tag::Integer8:
-        return RawValue::fromInteger(numberAt<qint8>(cell + 1));
+        return putInteger(numberAt<qint8>(cell + 1));
     case Tag::Integer16:
-        return RawValue::fromInteger(numberAt<qint16>(cell + 1));
+        return putInteger(numberAt<qint16>(cell + 1));
     case Tag::Integer32:
-        return RawValue::fromInteger(numberAt<qint32>(cell + 1));
+        return putInteger(numberAt<qint32>(cell + 1));
     case Tag::Integer64:
-        return RawValue::fromInteger(numberAt<qint64>(cell + 1));
+        return putInteger(numberAt<qint64>(cell + 1));
     case Tag::Real:
-        return RawValue::fromReal(numberAt<double>(cell + 1));
+        value.kind = Kind::Real;
+        value.real = numberAt<double>(cell + 1);
+        return cell + 1 + sizeof value.real;
     case Tag::ShortText:
-        return RawValue::fromText(bytes(cell + 2));
+        return putBytes(Kind::Text, numberAt<quint8>(cell + 1));
     case Tag::LongText:
-        return RawValue::fromText(bytes(cell + 5));
+        return putBytes(Kind::Text, numberAt<quint32>(cell + 1));
     case Tag::ShortBlob:
-        return RawValue::fromBlob(bytes(cell + 2));
+        return putBytes(Kind::Blob, numberAt<quint8>(cell + 1));
     case Tag::LongBlob:
-        return RawValue::fromBlob(bytes(cell + 5));
+        return putBytes(Kind::Blob, numberAt<quint32>(cell + 1));
     }
     Q_UNREACHABLE();
 }
@@ -154,23 +168,25 @@ RawValue RowStore::cell(qint64 row, int column) const
     const char *at = rowStart(row);
     for (int i = 0; i < column; ++i)
         at = nextCell(at);
-    return decode(at);
+    RawValue value;
+    decode(at, value);
+    return value;
 }
 
 std::vector<RawValue> RowStore::row(qint64 row) const
 {
     std::vector<RawValue> cells(static_cast<std::size_t>(m_columns));
-    read(row, cells);
+    read(row, 0, cells);
     return cells;
 }
 
-void RowStore::read(qint64 row, std::vector<RawValue> &cells) const
+void RowStore::read(qint64 row, int first, std::vector<RawValue> &cells) const
 {
     const char *at = rowStart(row);
-    for (RawValue &cell : cells) {
-        cell = decode(at);
+    for (int i = 0; i < first; ++i)
         at = nextCell(at);
-    }
+    for (RawValue &cell : cells)
+        at = decode(at, cell);
 }
 
 void RowStore::remove(qint64 row)

@@ -54,8 +54,9 @@ public:
     // dies.
     RawValue cell(qint64 row, int column) const;
     std::vector<RawValue> row(qint64 row) const;
-    // The first columns of a row, as many as there are cells.
-    void read(qint64 row, std::vector<RawValue> &cells) const;
+    // Columns of a row from `first` on, as many as there are cells. Of each cell only the kind and what
+    // belongs to it are written.
+    void read(qint64 row, int first, std::vector<RawValue> &cells) const;
 
     void remove(qint64 row);
     // Takes the cells of a row with the same number of columns.
@@ -87,7 +88,8 @@ private:
 
     static Tag tagAt(const char *cell) { return static_cast<Tag>(*cell); }
     static const char *nextCell(const char *cell);
-    static RawValue decode(const char *cell);
+    // Takes the value out and answers where the next cell is.
+    static const char *decode(const char *cell, RawValue &value);
 
     void addBytes(Tag shortTag, Tag longTag, QByteArrayView bytes);
     // Writes the tag and makes room for `size` bytes behind it.

@@ -26,7 +26,10 @@ public:
     bool isNull(qint64 record, int column) const;
 
     std::vector<RawValue> raw(qint64 record) const { return m_rows.row(record - 1); }
-    void read(qint64 record, std::vector<RawValue> &cells) const { m_rows.read(record - 1, cells); }
+    void read(qint64 record, int first, std::vector<RawValue> &cells) const
+    {
+        m_rows.read(record - 1, first, cells);
+    }
     void remove(qint64 record) { m_rows.remove(record - 1); }
     // Both take the first row of `stored`.
     void replace(qint64 record, const RowStore &stored);

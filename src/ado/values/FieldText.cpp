@@ -18,34 +18,59 @@ void appendAsValue(QByteArray &utf8, const RawValue &raw, DataTypeEnum type)
     utf8 += ValueText(FieldValue::fromRaw(raw, type)).toUtf8();
 }
 
-void appendInteger(QByteArray &utf8, qint64 value)
+char *writeInteger(char *to, qint64 value)
 {
-    std::array<char, 20> digits;
-    const auto end = std::to_chars(digits.begin(), digits.end(), value).ptr;
-    utf8.append(digits.data(), end - digits.data());
+    return std::to_chars(to, to + longestNumber, value).ptr;
+}
+
+// Most numbers have a few decimals. An integer through a power of ten that gives exactly this number says it
+// in at most 15 digits, and rounding to 15 digits can say nothing else.
+char *writeDecimal(char *to, double value)
+{
+    static constexpr std::array<double, 5> powers{1, 10, 100, 1000, 10000};
+    constexpr double limit = 1e15;
+    for (std::size_t decimals = 0; decimals < powers.size(); ++decimals) {
+        const double scaled = value * powers[decimals];
+        if (!(std::abs(scaled) < limit))
+            return nullptr;
+        const auto whole = static_cast<qint64>(scaled < 0 ? scaled - 0.5 : scaled + 0.5);
+        if (static_cast<double>(whole) / powers[decimals] != value)
+            continue;
+        if (decimals == 0)
+            return writeInteger(to, whole);
+        if (value < 0)
+            *to++ = '-';
+        const auto size = static_cast<quint64>(std::abs(whole));
+        const auto power = static_cast<quint64>(powers[decimals]);
+        to = std::to_chars(to, to + longestNumber, size / power).ptr;
+        *to = '.';
+        quint64 fraction = size % power;
+        for (char *digit = to + decimals; digit > to; --digit, fraction /= 10)
+            *digit = static_cast<char>('0' + fraction % 10);
+        return to + 1 + decimals;
+    }
+    return nullptr;
 }
 
 // Whatever the shortest text that reads back as the number says in at most 15 digits, rounding to 15 digits
-// says as well. False for the few numbers that need more, and those written with an exponent.
-bool appendShortReal(QByteArray &utf8, double value)
+// says as well. Null for the few numbers that need more, and those written with an exponent.
+char *writeShortReal(char *to, double value)
 {
     const double size = std::abs(value);
     if (value == 0) {
-        utf8 += '0'; // the negative zero too
-        return true;
+        *to = '0'; // the negative zero too
+        return to + 1;
     }
     if (!(size >= 1e-4 && size < 1e15))
-        return false;
-    std::array<char, 32> text;
-    const auto [end, error] = std::to_chars(text.begin(), text.end(), value, std::chars_format::fixed);
+        return nullptr;
+    if (char *const end = writeDecimal(to, value))
+        return end;
+    const auto [end, error] = std::to_chars(to, to + longestNumber, value, std::chars_format::fixed);
     if (error != std::errc())
-        return false;
+        return nullptr;
     // Zeros before the first digit are counted too, which at worst takes the long way.
-    const auto digits = std::count_if(text.data(), end, [](char c) { return c >= '0' && c <= '9'; });
-    if (digits > std::numeric_limits<double>::digits10)
-        return false;
-    utf8.append(text.data(), end - text.data());
-    return true;
+    const auto digits = std::count_if(to, end, [](char c) { return c >= '0' && c <= '9'; });
+    return digits > std::numeric_limits<double>::digits10 ? nullptr : end;
 }
 
 bool hasDigits(QByteArrayView text, qsizetype from, int count)
@@ -77,8 +102,10 @@ bool isPlainTime(QByteArrayView text)
            twoDigits(text, 6) < 60;
 }
 
-// Whether the type shows this text as it is. False only means that it takes a closer look.
-bool isShownAsStored(QByteArrayView text, DataTypeEnum type)
+} // namespace
+
+// False only means that it takes a closer look.
+bool isShownAsStored(QByteArrayView text, DataTypeEnum type, bool isAscii)
 {
     switch (type) {
     case adBoolean:
@@ -91,34 +118,35 @@ bool isShownAsStored(QByteArrayView text, DataTypeEnum type)
     case adDBTimeStamp:
         return text.size() == 19 && isPlainDate(text) && text[10] == ' ' && isPlainTime(text.sliced(11));
     default:
-        return text.isValidUtf8();
+        return isAscii || text.isValidUtf8();
     }
 }
 
-} // namespace
-
-void appendText(QByteArray &utf8, const RawValue &raw, DataTypeEnum type)
+char *writeNumber(char *to, const RawValue &raw, DataTypeEnum type)
 {
     switch (raw.kind) {
     case RawValue::Kind::Null:
-        return;
+        return to;
     case RawValue::Kind::Integer:
-        if (type == adBoolean)
-            break;
-        return appendInteger(utf8, raw.integer);
+        return type == adBoolean ? nullptr : writeInteger(to, raw.integer);
     case RawValue::Kind::Real:
-        if (type == adSingle || !appendShortReal(utf8, raw.real))
-            break;
-        return;
-    case RawValue::Kind::Text:
-        if (!isShownAsStored(raw.bytes, type))
-            break;
+        return type == adSingle ? nullptr : writeShortReal(to, raw.real);
+    default:
+        return nullptr;
+    }
+}
+
+void appendText(QByteArray &utf8, const RawValue &raw, DataTypeEnum type)
+{
+    if (raw.kind == RawValue::Kind::Text && isShownAsStored(raw.bytes, type)) {
         utf8 += raw.bytes;
         return;
-    case RawValue::Kind::Blob:
-        break;
     }
-    appendAsValue(utf8, raw, type);
+    std::array<char, longestNumber> number;
+    if (const char *const end = writeNumber(number.data(), raw, type))
+        utf8.append(number.data(), end - number.data());
+    else
+        appendAsValue(utf8, raw, type);
 }
 
 } // namespace ADODB

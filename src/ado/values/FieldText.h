@@ -11,4 +11,12 @@ namespace ADODB {
 // of what is stored as it is shown, which is nearly everything.
 void appendText(QByteArray &utf8, const RawValue &raw, DataTypeEnum type);
 
+// The same in pieces, for what writes many values into room of its own. A number or Null takes at most
+// `longestNumber` bytes; the answer is the end of what was written, or null where only appendText() can write
+// it, as it can't with texts.
+constexpr qsizetype longestNumber = 32;
+char *writeNumber(char *to, const RawValue &raw, DataTypeEnum type);
+// Whether a text is shown as it is stored. `isAscii` says that all its bytes are known to be.
+bool isShownAsStored(QByteArrayView text, DataTypeEnum type, bool isAscii = false);
+
 } // namespace ADODB

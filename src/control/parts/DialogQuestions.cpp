@@ -5,6 +5,7 @@
 #include "control/parts/FormatDialog.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/ToolbarIcons.h"
+#include "filter/TicksDialog.h"
 #include "filter/mod_Filter.h"
 #include "forms/ExportDialog.h"
 #include "forms/FindDialog.h"
@@ -84,7 +85,9 @@ void DialogQuestions::noteConditionUsed(const ConditionRequest &request)
         std::static_pointer_cast<mod_Filter>(request.memory)->NoteUsed();
 }
 
-std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionRequest &request)
+namespace {
+
+FilterRequest filterRequest(const ConditionRequest &request)
 {
     FilterRequest prepared;
     prepared.connectionString = request.connectionString;
@@ -101,9 +104,29 @@ std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionReque
     if (const QString table = request.table; !table.isEmpty())
         prepared.shelf = {[table] { return readFilters(table); },
                           [table](const QString &filters) { saveFilters(table, filters); }};
+    return prepared;
+}
+
+} // namespace
+
+std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionRequest &request)
+{
     auto filter = std::make_shared<mod_Filter>(m_parent);
-    filter->PrepareFilterDialog(prepared);
+    filter->PrepareFilterDialog(filterRequest(request));
     return filter;
+}
+
+std::optional<ValuesAnswer> DialogQuestions::askValues(const ValuesRequest &request)
+{
+    TicksDialog dialog(filterRequest(request.records), request.written, m_parent);
+    switch (dialog.exec()) {
+    case TicksDialog::Chosen:
+        return ValuesAnswer{dialog.condition(), dialog.Built()};
+    case TicksDialog::WantsBuilder:
+        return ValuesAnswer{.wantsBuilder = true};
+    default:
+        return {};
+    }
 }
 
 std::optional<FindAnswer> DialogQuestions::askWords(const colDataFields &fields)

@@ -28,6 +28,7 @@ public:
     Unsaved askUnsaved(const QString &reason, bool isChangedByOthers) override;
     QString askCondition(const ConditionRequest &request) override;
     void noteConditionUsed(const ConditionRequest &request) override;
+    std::optional<ValuesAnswer> askValues(const ValuesRequest &request) override;
     std::optional<FindAnswer> askWords(const colDataFields &fields) override;
     std::optional<ExportAnswer> askExport(const ExportRequest &request) override;
     std::optional<PrintAnswer> askPrint(const PrintRequest &request) override;

@@ -2,6 +2,7 @@
 
 #include "control/parts/GridTexts.h"
 #include "control/parts/HistoryMenu.h"
+#include "control/parts/LinkPointer.h"
 #include "control/parts/PopupMenu.h"
 #include "control/parts/ResultFinder.h"
 #include "control/parts/toolbar/GridToolbar.h"
@@ -10,11 +11,15 @@
 #include "grid/GridSelection.h"
 #include "grid/Twips.h"
 #include "session/Session.h"
+#include "session/commands/view/ShowValue.h"
 #include "session/statement/ShownConditions.h"
 #include "session/statement/ShownOrder.h"
 
+#include <QtCore/QItemSelectionModel>
 #include <QtCore/QMimeData>
+#include <QtCore/QTimer>
 #include <QtGui/QClipboard>
+#include <QtGui/QDesktopServices>
 #include <QtGui/QGuiApplication>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
@@ -22,9 +27,32 @@
 
 namespace KOVAVSFDataGridLib {
 
+namespace {
+
+ShownValue shownValue(const CellValue &value)
+{
+    return {value.field, value.place, value.isNull, value.isBinary, value.text, value.bytes};
+}
+
+// It belongs to the window: the grid may be hidden while a single record is shown.
+ValueDialog *openViewer(const VSFlexGrid &grid)
+{
+    return grid.parentWidget()->findChild<ValueDialog *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+} // namespace
+
 GridWindow::GridWindow(VSFlexGrid &grid, GridToolbar &toolbar) : m_grid(grid), m_toolbar(toolbar)
 {
     grid.PutHasColumnMenus(true);
+    // Once for all that an event changes.
+    auto *later = new QTimer(&grid);
+    later->setSingleShot(true);
+    QObject::connect(later, &QTimer::timeout, &grid, [this] { followValue(); });
+    QObject::connect(grid.selectionModel(), &QItemSelectionModel::currentChanged, later,
+                     qOverload<>(&QTimer::start));
+    auto *links = new LinkPointer(grid); // which the grid owns
+    QObject::connect(links, &LinkPointer::clicked, &grid, [this](const QUrl &link) { openLink(link); });
 }
 
 int GridWindow::Cols() const
@@ -79,6 +107,17 @@ void GridWindow::putColumnFormat(int col, const QString &format)
 {
     if (const auto read = ADODB::DisplayFormat::fromText(format))
         m_grid.PutColFormat(col, *read);
+}
+
+bool GridWindow::showsNulls() const
+{
+    return m_grid.ShowsNulls();
+}
+
+void GridWindow::putShowsNulls(bool on)
+{
+    m_grid.PutShowsNulls(on);
+    refreshCommands();
 }
 
 int GridWindow::placeOf(int col) const
@@ -186,11 +225,25 @@ void GridWindow::refreshCommands()
 
 void GridWindow::showValue(const CellValue &value)
 {
-    QWidget *const window = m_grid.parentWidget(); // the grid may be hidden while a single record is shown
-    auto *shown = window->findChild<ValueDialog *>(QString(), Qt::FindDirectChildrenOnly);
+    ValueDialog *shown = openViewer(m_grid);
     if (!shown)
-        shown = new ValueDialog(window);
-    shown->show(ShownValue{value.field, value.place, value.isNull, value.isBinary, value.text, value.bytes});
+        shown = new ValueDialog(m_grid.parentWidget());
+    shown->show(shownValue(value));
+}
+
+// The viewer shows the value of the cell that is current, for as long as it is open.
+void GridWindow::followValue()
+{
+    ValueDialog *const viewer = openViewer(m_grid);
+    if (!viewer || !viewer->isVisible() || !m_session)
+        return;
+    if (const auto value = currentValue(*m_session))
+        viewer->replace(shownValue(*value));
+}
+
+void GridWindow::openLink(const QUrl &link)
+{
+    QDesktopServices::openUrl(link);
 }
 
 void GridWindow::showHistory()

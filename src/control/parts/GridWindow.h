@@ -31,6 +31,8 @@ public:
     int fittingWidth(int col) const override;
     QString columnFormat(int col) const override;
     void putColumnFormat(int col, const QString &format) override;
+    bool showsNulls() const override;
+    void putShowsNulls(bool on) override;
     int placeOf(int col) const override;
     QStringList columnOrder() const override;
     int frozenColumns() const override;
@@ -53,6 +55,7 @@ public:
     void showFind() override;
     void showHistory() override;
     void showValue(const CellValue &value) override;
+    void openLink(const QUrl &link) override;
 
     // What it shows; not owned. To be set before anything is shown.
     void setSession(Session &session) { m_session = &session; }
@@ -76,6 +79,7 @@ protected:
 
 private:
     void showHeadingMarks();
+    void followValue();
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -88,6 +88,8 @@ void PopupMenu::refresh(bool hasText)
         if (command->button)
             action->setVisible(m_toolbar.isButtonVisible(button));
         const bool isGiven = button.isEmpty() || m_toolbar.isButtonEnabled(button);
+        action->setCheckable(command->isOn != nullptr);
+        action->setChecked(command->isOn && command->isOn(m_session));
         const QString why = m_session.whyNot(*command);
         action->setEnabled(isGiven && (hasText || !texts.needsText) && why.isEmpty());
         action->setToolTip(why);

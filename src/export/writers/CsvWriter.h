@@ -26,12 +26,18 @@ public:
     void end() override;
 
 private:
-    // Makes a value of what was appended from `start` on.
-    void finishValue(qsizetype start, bool isText);
+    // The most that a record takes.
+    qsizetype roomFor(const std::vector<ADODB::RawValue> &cells) const;
+    // Makes room behind the text; what isn't used is to be cut off.
+    char *writableEnd(qsizetype room);
+    // Writes a cell and answers its end; null where it has to be written by way of its text.
+    char *write(char *to, const ADODB::RawValue &cell, ADODB::DataTypeEnum type) const;
+    void appendValue(QByteArrayView value, bool isText);
 
     const Options m_options;
     TextSink m_sink;
     ExportColumns m_columns;
+    QByteArray m_value;
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -76,6 +76,15 @@ ValueDialog::ValueDialog(QWidget *parent)
 
 void ValueDialog::show(const ShownValue &value)
 {
+    replace(value);
+    QDialog::show();
+    raise();
+    activateWindow();
+    m_views->currentWidget()->setFocus();
+}
+
+void ValueDialog::replace(const ShownValue &value)
+{
     m_value = value;
     m_picture = {};
     m_format.clear();
@@ -90,10 +99,6 @@ void ValueDialog::show(const ShownValue &value)
         addText(value.text);
     m_views->tabBar()->setVisible(m_views->count() > 1);
     m_summary->setText(summary());
-    QDialog::show();
-    raise();
-    activateWindow();
-    m_views->currentWidget()->setFocus();
 }
 
 void ValueDialog::addText(const QString &text)

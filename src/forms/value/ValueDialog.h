@@ -20,6 +20,8 @@ public:
     explicit ValueDialog(QWidget *parent);
 
     void show(const ShownValue &value);
+    // Shows another value in place of the one that is shown; the keyboard stays where it is.
+    void replace(const ShownValue &value);
     using QDialog::show;
 
     // Writes the value, a text as UTF-8. False when it can't be written; what was there stays then.

@@ -24,6 +24,8 @@ public:
     // True while no cell and no heading has a text.
     virtual bool isBlank() const { return false; }
     virtual QString text(int row, int col) const = 0;
+    // Whether a cell has no value, not even an empty text.
+    virtual bool isNull(int /*row*/, int /*col*/) const { return false; }
     // Whether the column holds numbers, which stand to the right.
     virtual bool isNumeric(int col) const = 0;
     // False when the source can't be written.

@@ -41,6 +41,11 @@ public:
     void setFormats(const QHash<QString, ADODB::DisplayFormat> &formats);
     // A cell's text as it is shown, in grid coordinates.
     QString shownText(int row, int col) const;
+    // Whether cells without a value say so.
+    bool showsNulls() const { return m_showsNulls; }
+    void setShowsNulls(bool on) { m_showsNulls = on; }
+    // Whether that is what a cell shows, in grid coordinates.
+    bool isShownNull(int row, int col) const { return m_showsNulls && m_source->isNull(row, col); }
     // Marks parts of the shown texts; null marks nothing.
     const TextMarker &textMarker() const { return m_marker; }
     void setTextMarker(TextMarker marker) { m_marker = std::move(marker); }
@@ -58,6 +63,7 @@ private:
     std::unique_ptr<CellSource> m_source;
     std::vector<HeadingMark> m_marks;
     TextMarker m_marker;
+    bool m_showsNulls = false;
     QHash<QString, ADODB::DisplayFormat> m_formats;
     std::vector<ADODB::DisplayFormat> m_formatOfCol; // empty when no column has one
 };

@@ -35,6 +35,11 @@ QString RecordWindow::cellText(qint64 record, int column) const
     }
 }
 
+bool RecordWindow::isNull(int row, int col) const
+{
+    return row > 0 && col > 0 && m_recordset->IsNull(m_first + row - 1, col - 1);
+}
+
 bool RecordWindow::isNumeric(int col) const
 {
     return col > 0 && col <= m_recordset->Fields().Count() &&

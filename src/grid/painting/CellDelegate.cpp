@@ -25,6 +25,19 @@ QString CellDelegate::shownText(const QString &text)
     return length == text.size() ? text : text.first(length) + u'…';
 }
 
+QString CellDelegate::nullText()
+{
+    return QStringLiteral("NULL");
+}
+
+// Quieter than texts, but with a contrast at which it can still be read.
+QColor CellDelegate::pale(QColor colour)
+{
+    constexpr float share = 0.62f;
+    colour.setAlphaF(colour.alphaF() * share);
+    return colour;
+}
+
 QString CellDelegate::displayText(const QVariant &value, const QLocale &) const
 {
     return shownText(value.toString());
@@ -34,8 +47,17 @@ void CellDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelInd
 {
     QStyledItemDelegate::initStyleOption(option, index);
     const auto *cells = qobject_cast<const FlexGridModel *>(index.model());
-    if (cells && cells->hasFormats())
-        option->text = shownText(cells->shownText(index.row() + 1, index.column() + cells->fixedCols()));
+    if (!cells)
+        return;
+    const int row = index.row() + 1;
+    const int col = index.column() + cells->fixedCols();
+    if (cells->hasFormats())
+        option->text = shownText(cells->shownText(row, col));
+    if (option->text.isEmpty() && cells->isShownNull(row, col)) {
+        option->text = nullText();
+        for (const auto role : {QPalette::Text, QPalette::HighlightedText})
+            option->palette.setColor(role, pale(option->palette.color(role)));
+    }
 }
 
 void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,

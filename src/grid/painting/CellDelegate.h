@@ -17,6 +17,10 @@ public:
     // What is drawn of a text.
     static QString shownText(const QString &text);
 
+    // What is drawn where there is no value, and the colour of a text turned into that in which it is drawn.
+    static QString nullText();
+    static QColor pale(QColor colour);
+
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QString displayText(const QVariant &value, const QLocale &locale) const override;

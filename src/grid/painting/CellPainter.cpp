@@ -60,8 +60,8 @@ private:
     QRect clipped(QRect dirty) const;
     void enterRow(int visualRow);
     void paintRow(int visualRow, Span columns);
-    void paintCell(int row, const Column &column, const QString &text);
-    void placeText(const QString &text, const Column &column, bool isSelected);
+    void paintCell(int row, const Column &column, const QString &text, bool isNull);
+    void placeText(const QString &text, const Column &column, bool isSelected, bool isNull);
     bool isSelected(int row, int section) const;
 
     QTableView &m_view;
@@ -205,11 +205,14 @@ void CellPainter::Frame::paintRow(int visualRow, Span columns)
         if (column.width <= 0 || m_isPainted[begin + place])
             continue;
         m_isPainted[begin + place] = true;
-        paintCell(row, column, m_model.shownText(row + 1, column.section + m_model.fixedCols()));
+        const int col = column.section + m_model.fixedCols();
+        const QString text = m_model.shownText(row + 1, col);
+        const bool isNull = text.isEmpty() && m_model.isShownNull(row + 1, col);
+        paintCell(row, column, isNull ? CellDelegate::nullText() : text, isNull);
     }
 }
 
-void CellPainter::Frame::paintCell(int row, const Column &column, const QString &text)
+void CellPainter::Frame::paintCell(int row, const Column &column, const QString &text, bool isNull)
 {
     const auto isThis = [&](const QModelIndex &index) {
         return index.row() == row && index.column() == column.section;
@@ -234,10 +237,10 @@ void CellPainter::Frame::paintCell(int row, const Column &column, const QString 
             m_view.style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &m_cell, &m_painter, &m_view);
     }
     if (!text.isEmpty())
-        placeText(text, column, selected);
+        placeText(text, column, selected, isNull);
 }
 
-void CellPainter::Frame::placeText(const QString &text, const Column &column, bool isSelected)
+void CellPainter::Frame::placeText(const QString &text, const Column &column, bool isSelected, bool isNull)
 {
     const QRect &row = m_option.rect;
     const qreal room = column.width - 2 * m_margin;
@@ -249,14 +252,15 @@ void CellPainter::Frame::placeText(const QString &text, const Column &column, bo
     const bool isAtRight = column.isNumeric != (m_option.direction == Qt::RightToLeft);
     const qreal left = column.left + m_margin + (isAtRight ? room - m_line.width : 0);
     const int top = row.top() + row.height() / 2 - m_glyphs.height() / 2;
-    if (m_model.textMarker()) {
+    if (m_model.textMarker() && !isNull) {
         const PlacedText placed{shown, QRectF(left, row.top(), m_line.width, row.height()), m_option.font,
                                 isSelected};
         paintTextMarks(m_painter, m_option.palette, placed, column.section + m_model.fixedCols(),
                        m_model.textMarker());
     }
     const QPalette::ColorRole role = isSelected ? QPalette::HighlightedText : QPalette::Text;
-    m_batch.add(m_line, {left, top + m_glyphs.ascent()}, m_option.palette.color(colourGroup(m_option), role));
+    const QColor colour = m_option.palette.color(colourGroup(m_option), role);
+    m_batch.add(m_line, {left, top + m_glyphs.ascent()}, isNull ? CellDelegate::pale(colour) : colour);
 }
 
 bool CellPainter::Frame::isSelected(int row, int section) const

@@ -1,9 +1,17 @@
+#include "session/Questions.h"
+#include "session/ResultWatch.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/columns/ColumnCommand.h"
 #include "session/commands/rows/FilterByDialog.h"
+#include "session/statement/FilterManagerRollback.h"
+#include "session/statement/ShownConditions.h"
+#include "session/statement/ShownOrder.h"
 
-// The filter dialog with a column's field.
+#include <algorithm>
+
+// The records that have certain values in a column: one condition more, or another one in the place of the
+// condition that was made so before.
 
 namespace KOVAVSFDataGridLib {
 
@@ -11,15 +19,91 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// A condition in force that values of a field were chosen for.
+struct Choice
+{
+    std::size_t place; // among the shown conditions
+    QString built;
+};
+
+std::optional<Choice> choiceInForce(Session &session, const QString &field)
+{
+    const std::vector<ShownCondition> shown = shownConditions(session);
+    for (std::size_t place = 0; place < shown.size(); ++place) {
+        const auto chosen = std::ranges::find_if(session.chosenValues, [&](const ChosenValues &values) {
+            return values.field == field && values.condition == shown[place].text;
+        });
+        if (chosen != session.chosenValues.end())
+            return Choice{place, chosen->built};
+    }
+    return std::nullopt;
+}
+
+// Finds the condition in the statement that is shown, so that it is known again.
+void remember(Session &session, const QString &field, const ValuesAnswer &answer)
+{
+    for (const ShownCondition &shown : shownConditions(session)) {
+        if (answer.condition.simplified().contains(shown.text.simplified()))
+            session.chosenValues.push_back({field, shown.text, answer.built});
+    }
+}
+
+void show(Session &session, const QString &field, const std::optional<Choice> &inForce,
+          const ValuesAnswer &answer)
+{
+    if (answer.condition.isEmpty()) {
+        if (inForce)
+            removeCondition(session, inForce->place);
+        return;
+    }
+    FilterManagerRollback rollback(session);
+    QString statement;
+    if (inForce)
+        statement = statementWith(session, inForce->place, answer.condition);
+    else if (!session.addCondition(answer.condition, statement))
+        return;
+    if (!session.reloadFiltered(statement, true))
+        return;
+    rollback.keepChanges();
+    remember(session, field, answer);
+}
+
+void filterByColumn(Session &session, int col)
+{
+    const ResultWatch watch(session);
+    const QString heading = session.window().Headings().value(col - 1);
+    const QString field = writtenColumn(session, col);
+    const std::optional<Choice> inForce = choiceInForce(session, field);
+    ValuesRequest request{session.conditionRequest(), field};
+    request.records.field = heading;
+    if (inForce) {
+        // The values that it leaves out are offered too.
+        request.records.condition =
+            session.history().GetConditionOf(statementWithout(session, inForce->place));
+        request.records.built = inForce->built;
+    }
+    const std::optional<ValuesAnswer> answer = session.questions().askValues(request);
+    if (!answer || !watch.isUntouched())
+        return;
+    if (answer->wantsBuilder)
+        filterByDialog(session, heading);
+    else
+        show(session, field, inForce, *answer);
+}
+
 const ColumnCommand::Registration registration({
     .key = u"FilterByColumn"_s,
     .place = 200,
     .caption = ColumnCommand::tr("按此列筛选(&F)…"),
     .record = Record::IsLeft,
-    .run = [](Session &session,
-              int col) { filterByDialog(session, session.window().Headings().value(col - 1)); },
-    .canRun = [](Session &session,
-                 int) { return session.hasRecords() && session.whyNot(DerivationStep::Condition).isEmpty(); },
+    .run = filterByColumn,
+    // A filter that leaves no record can still be changed where it was made.
+    .canRun =
+        [](Session &session, int col) {
+            return session.whyNot(DerivationStep::Condition).isEmpty() &&
+                   !writtenColumn(session, col).isEmpty() &&
+                   (session.hasRecords() || choiceInForce(session, writtenColumn(session, col)));
+        },
 });
 
 } // namespace

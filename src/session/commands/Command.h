@@ -64,6 +64,8 @@ struct Command
     // Why it can't run on what is shown now, for the user to read; empty when it can. Null when it always
     // can.
     QString (*whyNot)(Session &session) = nullptr;
+    // Whether what a menu item switches is on. Null for all others.
+    bool (*isOn)(Session &session) = nullptr;
 
     struct Registration
     {

@@ -34,6 +34,10 @@ public:
     virtual QString columnFormat(int /*col*/) const { return {}; }
     virtual void putColumnFormat(int /*col*/, const QString & /*format*/) {}
 
+    // Whether cells without a value say so.
+    virtual bool showsNulls() const { return false; }
+    virtual void putShowsNulls(bool /*on*/) {}
+
     // Where a column is shown, from 0 at the left; hidden ones have a place too.
     virtual int placeOf(int col) const { return col - 1; }
     // The headings from the left, and how many of the first columns stay in view.

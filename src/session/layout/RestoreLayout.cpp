@@ -110,6 +110,7 @@ SavedLayout layoutOf(Session &session)
             layout.columns.push_back({field.FieldName, std::max(field.FieldWidth, -1), true});
     }
     layout.frozen = window.frozenColumns();
+    layout.showsNulls = window.showsNulls();
     return layout;
 }
 
@@ -133,6 +134,7 @@ QString restoreLayout(Session &session, const SavedLayout &layout)
     }
     session.window().arrangeColumns(order, layout.frozen);
     applyWidths(session, layout);
+    session.window().putShowsNulls(layout.showsNulls);
     return {};
 }
 

@@ -70,7 +70,9 @@ QString SavedLayout::toText() const
             object.insert("format"_L1, column.format);
         array.append(object);
     }
-    const QJsonObject whole{{u"layout"_s, version}, {u"columns"_s, array}, {u"frozen"_s, frozen}};
+    QJsonObject whole{{u"layout"_s, version}, {u"columns"_s, array}, {u"frozen"_s, frozen}};
+    if (showsNulls)
+        whole.insert("nulls"_L1, true);
     return QString::fromUtf8(QJsonDocument(whole).toJson(QJsonDocument::Compact));
 }
 
@@ -105,6 +107,10 @@ std::variant<SavedLayout, QString> SavedLayout::fromText(const QString &text)
             return wrong(u"frozen"_s);
         layout.frozen = *count;
     }
+    const QJsonValue nulls = whole.value("nulls"_L1);
+    if (!nulls.isUndefined() && !nulls.isBool())
+        return wrong(u"nulls"_s);
+    layout.showsNulls = nulls.toBool();
     return layout;
 }
 

@@ -16,7 +16,8 @@ class Session;
 //   {"layout":1,"columns":[{"field":"名称","width":1500},{"field":"单价","hidden":true}],"frozen":1}
 //
 // The columns are in their order from the left; widths are twips (left out for the default), "format" is what
-// ADODB::DisplayFormat writes, "frozen" is how many of the first stay in view.
+// ADODB::DisplayFormat writes, "frozen" is how many of the first stay in view, and "nulls" is true where
+// cells without a value say so.
 struct SavedLayout
 {
     struct Column
@@ -34,6 +35,7 @@ struct SavedLayout
 
     std::vector<Column> columns;
     int frozen = 0;
+    bool showsNulls = false;
 
     QString toText() const;
     // The layout of a text, or why it is none, for the user to read.

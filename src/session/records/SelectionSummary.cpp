@@ -14,12 +14,16 @@ using RawKind = ADODB::RawValue::Kind;
 
 constexpr qint64 cellsOfAStep = 200000; // some ten milliseconds
 
-int fieldsOf(const ExportColumns &columns)
+int firstFieldOf(const ExportColumns &columns)
 {
-    int fields = 0;
-    for (const ExportColumn &column : columns)
-        fields = std::max(fields, column.field + 1);
-    return fields;
+    const auto first = std::ranges::min_element(columns, {}, &ExportColumn::field);
+    return first == columns.end() ? 0 : first->field;
+}
+
+int endOfFields(const ExportColumns &columns)
+{
+    const auto last = std::ranges::max_element(columns, {}, &ExportColumn::field);
+    return last == columns.end() ? 0 : last->field + 1;
 }
 
 bool isDateType(ADODB::DataTypeEnum type)
@@ -32,7 +36,10 @@ bool isDateType(ADODB::DataTypeEnum type)
 
 SelectionSummary::SelectionSummary(const ADODB::Recordset &recordset, const RecordRange &range,
                                    ExportColumns columns)
-    : m_range(range), m_reader(recordset, fieldsOf(columns)), m_next(range.first)
+    : m_range(range),
+      m_firstField(firstFieldOf(columns)),
+      m_reader(recordset, endOfFields(columns) - m_firstField, m_firstField),
+      m_next(range.first)
 {
     for (const ExportColumn &column : columns) {
         const Kind kind = isDateType(column.type)             ? Kind::Date
@@ -40,7 +47,7 @@ SelectionSummary::SelectionSummary(const ADODB::Recordset &recordset, const Reco
                           : ADODB::isNumericType(column.type) ? Kind::Number
                           : column.type == ADODB::adVariant   ? Kind::Number
                                                               : Kind::Other;
-        m_columns.push_back({column.field, column.type, kind});
+        m_columns.push_back({column.field - m_firstField, column.type, kind});
     }
 }
 
@@ -87,15 +94,10 @@ void SelectionSummary::addNumber(const ADODB::RawValue &cell, const Column &colu
         return;
     }
     ++m_numbers;
-    const auto put = [&](std::optional<Extreme> &extreme) {
-        extreme.emplace();
-        ADODB::appendText(extreme->text, cell, column.type);
-        extreme->number = number;
-    };
     if (!m_smallest || number < m_smallest->number)
-        put(m_smallest);
+        put(m_smallest, cell, column, number);
     if (!m_largest || number > m_largest->number)
-        put(m_largest);
+        put(m_largest, cell, column, number);
 }
 
 // Their texts are in the order of time.
@@ -104,19 +106,35 @@ void SelectionSummary::addDate(const ADODB::RawValue &cell, const Column &column
     if (cell.kind != RawKind::Text)
         return;
     ++m_dates;
-    const auto put = [&](std::optional<Extreme> &extreme) {
+    if (!m_earliest || cell.bytes < m_earliest->bytes)
+        put(m_earliest, cell, column);
+    if (!m_latest || cell.bytes > m_latest->bytes)
+        put(m_latest, cell, column);
+}
+
+void SelectionSummary::put(std::optional<Extreme> &extreme, const ADODB::RawValue &cell, const Column &column,
+                           double number)
+{
+    if (!extreme)
         extreme.emplace();
-        ADODB::appendText(extreme->text, cell, column.type);
-    };
-    if (!m_earliest || cell.bytes < m_earliest->text)
-        put(m_earliest);
-    if (!m_latest || cell.bytes > m_latest->text)
-        put(m_latest);
+    extreme->value = cell;
+    extreme->value.bytes = {};
+    extreme->bytes.resize(0); // which keeps the room
+    if (cell.kind == RawKind::Text)
+        extreme->bytes.append(cell.bytes);
+    extreme->type = column.type;
+    extreme->number = number;
 }
 
 QString SelectionSummary::textOf(const std::optional<Extreme> &extreme)
 {
-    return extreme ? QString::fromUtf8(extreme->text) : QString();
+    if (!extreme)
+        return {};
+    ADODB::RawValue value = extreme->value;
+    value.bytes = extreme->bytes;
+    QByteArray text;
+    ADODB::appendText(text, value, extreme->type);
+    return QString::fromUtf8(text);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -36,9 +36,12 @@ public:
 
 private:
     enum class Kind { Other, Number, Date };
+    // A value as it is stored: of most cells nobody ever reads the text.
     struct Extreme
     {
-        QByteArray text; // the value's own text
+        ADODB::RawValue value; // without its bytes
+        QByteArray bytes;
+        ADODB::DataTypeEnum type = ADODB::adEmpty;
         double number = 0;
     };
     struct Column
@@ -51,9 +54,12 @@ private:
     void take(const ADODB::RawValue &cell, const Column &column);
     void addNumber(const ADODB::RawValue &cell, const Column &column);
     void addDate(const ADODB::RawValue &cell, const Column &column);
+    static void put(std::optional<Extreme> &extreme, const ADODB::RawValue &cell, const Column &column,
+                    double number = 0);
     static QString textOf(const std::optional<Extreme> &extreme);
 
     const RecordRange m_range;
+    const int m_firstField;
     std::vector<Column> m_columns;
     ADODB::RowReader m_reader;
     qint64 m_next;

@@ -76,6 +76,11 @@ std::vector<ShownCondition> shownConditions(Session &session)
 
 QString statementWithout(Session &session, std::size_t condition)
 {
+    return statementWith(session, condition, {});
+}
+
+QString statementWith(Session &session, std::size_t condition, const QString &replacement)
+{
     QString statement;
     if (!session.history().GetLatestSQL(statement))
         return {};
@@ -87,6 +92,8 @@ QString statementWithout(Session &session, std::size_t condition)
     for (std::size_t i = 0; i < latest.parts.size(); ++i) {
         if (i != own[condition])
             kept.append(latest.textOfPart(i));
+        else if (!replacement.isEmpty())
+            kept.append(replacement);
     }
     SQLSentence sentence;
     const SqlToken &word = latest.sql.at(latest.where.begin);

@@ -21,7 +21,9 @@ struct ShownCondition
 // Those of the latest statement that the first one of the history doesn't have.
 std::vector<ShownCondition> shownConditions(Session &session);
 
-// The latest statement without one of them; empty when there is no such condition.
+// The latest statement with another condition in the place of one of them, or without it; empty when there is
+// no such condition.
+QString statementWith(Session &session, std::size_t condition, const QString &replacement);
 QString statementWithout(Session &session, std::size_t condition);
 
 // Saves the current record and shows the latest statement without one of them, as an entry of the history.

@@ -47,6 +47,22 @@ protected:
 
 } // namespace
 
+TEST_F(ShowValue, TheOpenWindowFollowsTheCurrentCell)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 2);
+    press(table);
+    ASSERT_EQ(shownText(), u"普洱茶"_s);
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_Down);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shownText() == u"铁观音"_s; })) << shownText().toStdString();
+    EXPECT_EQ(window()->findChild<QLabel *>(u"lblPlace"_s)->text(), u"名称（第 3 行）"_s);
+    window()->close();
+    clickCell(1, 2);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(window() && window()->isVisible()) << "it stays closed";
+}
+
 TEST_F(ShowValue, F3ShowsTheCurrentCellAndAnotherOneInTheSameWindow)
 {
     ASSERT_TRUE(load());

@@ -1,8 +1,9 @@
+#include "session/commands/view/ShowValue.h"
+
 #include "ado/Recordset.h"
 #include "ado/ValueText.h"
 #include "session/Session.h"
 #include "session/SessionMessages.h"
-#include "session/SessionWindow.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
 
@@ -19,13 +20,17 @@ bool isBinary(ADODB::DataTypeEnum type)
     return type == ADODB::adBinary || type == ADODB::adVarBinary || type == ADODB::adLongVarBinary;
 }
 
-void showValue(Session &session)
+} // namespace
+
+std::optional<CellValue> currentValue(Session &session)
 {
+    if (!session.hasRecords())
+        return std::nullopt;
     const ADODB::Recordset &recordset = *session.result().recordset();
     const int col = session.window().currentCol();
     const qint64 record = session.recordOfRow(session.window().Row());
     if (session.window().Row() < 1 || col < 1 || col > recordset.Fields().Count())
-        return;
+        return std::nullopt;
     const ADODB::Field &field = recordset.Fields().Item(col - 1);
     // In the list of a single record what was written into it and is not saved yet is shown as well.
     const QVariant value =
@@ -40,7 +45,15 @@ void showValue(Session &session)
         shown.bytes = value.toByteArray();
     else
         shown.text = ADODB::ValueText(value);
-    session.window().showValue(shown);
+    return shown;
+}
+
+namespace {
+
+void showValue(Session &session)
+{
+    if (const auto value = currentValue(session))
+        session.window().showValue(*value);
 }
 
 const Command::Registration registration({

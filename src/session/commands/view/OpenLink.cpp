@@ -1,0 +1,45 @@
+#include "ado/Recordset.h"
+#include "session/Session.h"
+#include "session/SessionMessages.h"
+#include "session/SessionWindow.h"
+#include "session/commands/Command.h"
+#include "session/records/LinkText.h"
+
+// Opens the page or writes to the mailbox whose address is the current cell's text.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QUrl currentLink(Session &session)
+{
+    const int row = session.window().Row();
+    const int col = session.window().currentCol();
+    if (row < 1 || col < 1 || !session.hasRecords())
+        return {};
+    return linkIn(session.result().recordset()->CellText(session.recordOfRow(row), col - 1));
+}
+
+const Command::Registration registration({
+    .key = u"OpenLink"_s,
+    .shortcut = u"Ctrl+F3"_s,
+    .menu = {32, Command::tr("打开链接(&K)")},
+    .isInViewer = true,
+    .viewerMenu = {21, Command::tr("打开链接(&K)")},
+    .needs = Needs::Records,
+    .record = Record::Stays,
+    .run =
+        [](Session &session) {
+            const QUrl link = currentLink(session);
+            if (link.isValid())
+                session.window().openLink(link);
+            else
+                session.window().showNote(SessionMessages::NoLink);
+        },
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,26 @@
+#include "session/Session.h"
+#include "session/SessionWindow.h"
+#include "session/commands/Command.h"
+
+// Tells cells without a value from empty texts.
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const Command::Registration registration({
+    .key = u"ShowNulls"_s,
+    .shortcut = {},
+    .menu = {33, Command::tr("标出空值(&U)")},
+    .isInViewer = true,
+    .viewerMenu = {22, Command::tr("标出空值(&U)")},
+    .record = Record::Stays,
+    .run = [](Session &session) { session.window().putShowsNulls(!session.window().showsNulls()); },
+    .isOn = [](Session &session) { return session.window().showsNulls(); },
+});
+
+} // namespace
+
+} // namespace KOVAVSFDataGridLib

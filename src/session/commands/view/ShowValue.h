@@ -1,0 +1,14 @@
+#pragma once
+
+#include "session/SessionWindow.h"
+
+#include <optional>
+
+namespace KOVAVSFDataGridLib {
+
+class Session;
+
+// The value of the current cell; nothing where there is none.
+std::optional<CellValue> currentValue(Session &session);
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,240 @@
+// Filtering by the values of a column, from its menu.
+#include "Shop.h"
+
+#include "support/Dialogs.h"
+
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QToolButton>
+#include <QtWidgets/QTreeWidget>
+#include <QtWidgets/QTreeWidgetItemIterator>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class ColumnValues : public Shop
+{
+protected:
+    // Opens the column's menu by the keyboard and its entry by the letter.
+    void open(const QString &column)
+    {
+        grid.activateWindow(); // which a dialog was before
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&grid));
+        const int col = grid.GetBindFieldIndex(column);
+        table->setCurrentIndex(table->model()->index(0, col - 1));
+        table->setFocus();
+        QTest::keyClick(table, Qt::Key_Down, Qt::ControlModifier | Qt::AltModifier);
+        auto *menu = grid.findChild<QMenu *>(u"ColumnMenu"_s);
+        ASSERT_TRUE(menu->isVisible());
+        QTest::keyClick(menu, Qt::Key_F);
+    }
+    QStringList conditions() const
+    {
+        QStringList words;
+        const auto *bar = grid.findChild<QWidget *>(u"FilterBar"_s);
+        for (int number = 1;; ++number) {
+            const auto *button = bar->findChild<QToolButton *>(u"Condition%1"_s.arg(number));
+            if (!button)
+                return words;
+            words.append(button->text().chopped(3));
+        }
+    }
+    QString spoken(const QString &column) const
+    {
+        return table->model()
+            ->headerData(grid.GetBindFieldIndex(column) - 1, Qt::Horizontal, Qt::AccessibleTextRole)
+            .toString();
+    }
+    static QStringList listed(const QDialog &dialog)
+    {
+        QStringList texts;
+        for (QTreeWidgetItemIterator item(&part<QTreeWidget>(dialog, "lstTicks")); *item; ++item) {
+            texts.append(((*item)->checkState(0) == Qt::Checked ? u"x "_s : u"  "_s) + (*item)->text(0));
+        }
+        return texts;
+    }
+    static void waitFor(const QDialog &dialog, const QString &entry)
+    {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return listed(dialog).contains(entry); }))
+            << entry.toStdString() << ": " << listed(dialog).join(u'|').toStdString();
+    }
+    // Waits for the entry and presses the space bar on it.
+    static void tick(const QDialog &dialog, const QString &text)
+    {
+        auto &list = part<QTreeWidget>(dialog, "lstTicks");
+        const auto found = [&] { return list.findItems(text, Qt::MatchExactly | Qt::MatchRecursive); };
+        ASSERT_TRUE(QTest::qWaitFor([&] { return found().size() == 1; })) << text.toStdString();
+        list.setCurrentItem(found().front());
+        QTest::keyClick(&list, Qt::Key_Space);
+    }
+    static void tickAll(const QDialog &dialog, bool isTicked)
+    {
+        auto &all = part<QCheckBox>(dialog, "chkAll");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return listed(dialog).size() > 1; }));
+        while (all.checkState() != (isTicked ? Qt::Checked : Qt::Unchecked))
+            QTest::mouseClick(&all, Qt::LeftButton, {}, {8, all.height() / 2});
+    }
+};
+
+} // namespace
+
+TEST_F(ColumnValues, WhatIsTickedIsOneMoreConditionOfTheBar)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) {
+                               EXPECT_EQ(dialog.windowTitle(), u"按列筛选：城市"_s);
+                               tickAll(dialog, false);
+                               EXPECT_FALSE(part<QAbstractButton>(dialog, "cmdOK").isEnabled());
+                               tick(dialog, u"大连"_s);
+                               tick(dialog, u"杭州"_s);
+                               tick(dialog, u"（空值）"_s);
+                               press(dialog, "cmdOK");
+                           },
+                           [](QDialog &dialog) {
+                               tick(dialog, u"绿茶"_s);
+                               EXPECT_FALSE(listed(dialog).contains(u"x 挂面"_s)) << "it is not shown";
+                               press(dialog, "cmdOK");
+                           }});
+    open(u"城市"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"1"_s, u"5"_s, u"8"_s, u"9"_s, u"11"_s}));
+    EXPECT_EQ(spoken(u"城市"_s), u"城市，已筛选"_s);
+    EXPECT_EQ(conditions().size(), 1) << conditions().join(u'|').toStdString();
+    open(u"名称"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"1"_s, u"5"_s, u"8"_s, u"9"_s}));
+    EXPECT_EQ(conditions().value(1), u"名称 ≠ “绿茶”"_s);
+    QTest::mouseClick(grid.findChild<QToolButton *>(u"Condition1"_s), Qt::LeftButton);
+    EXPECT_EQ(conditions(), QStringList(u"名称 ≠ “绿茶”"_s));
+    EXPECT_EQ(rows(), records - 1);
+    // Each step is one of the history.
+    click(u"ToPreview"_s);
+    EXPECT_EQ(conditions().size(), 2);
+    click(u"ToPreview"_s);
+    EXPECT_EQ(conditions().size(), 1);
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), records);
+}
+
+TEST_F(ColumnValues, AColumnsChoiceIsChangedWhereItWasMade)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) {
+                               tick(dialog, u"大连"_s);
+                               tick(dialog, u"（空值）"_s);
+                               press(dialog, "cmdOK");
+                           },
+                           [](QDialog &dialog) {
+                               waitFor(dialog, u"  （空值）"_s);
+                               EXPECT_TRUE(listed(dialog).contains(u"  大连"_s))
+                                   << "what it left out is offered";
+                               EXPECT_TRUE(listed(dialog).contains(u"x 杭州"_s));
+                               tick(dialog, u"大连"_s);
+                               tick(dialog, u"杭州"_s);
+                               press(dialog, "cmdOK");
+                           },
+                           [](QDialog &dialog) {
+                               waitFor(dialog, u"  杭州"_s);
+                               tickAll(dialog, true);
+                               press(dialog, "cmdOK");
+                           }});
+    open(u"城市"_s);
+    EXPECT_EQ(texts(u"ID"_s),
+              QStringList({u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"6"_s, u"7"_s, u"10"_s, u"11"_s, u"12"_s}));
+    open(u"城市"_s);
+    EXPECT_EQ(texts(u"ID"_s),
+              QStringList({u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s, u"8"_s, u"10"_s, u"12"_s}));
+    EXPECT_EQ(conditions().size(), 1) << conditions().join(u'|').toStdString();
+    open(u"城市"_s);
+    EXPECT_EQ(rows(), records);
+    EXPECT_EQ(conditions(), QStringList());
+}
+
+TEST_F(ColumnValues, AFilterThatLeavesNoRecordIsChangedThereToo)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) {
+                               tickAll(dialog, false);
+                               tick(dialog, u"大连"_s);
+                               press(dialog, "cmdOK");
+                           },
+                           [](QDialog &dialog) {
+                               waitFor(dialog, u"x 大连"_s);
+                               EXPECT_TRUE(listed(dialog).contains(u"  杭州"_s));
+                               press(dialog, "cmdCancel");
+                           }});
+    open(u"城市"_s);
+    EXPECT_EQ(rows(), 2);
+    database.run(
+        u"DELETE FROM 商品 WHERE 城市='大连'; INSERT INTO 商品 (ID,名称,城市) VALUES (20,'x','大连')"_s);
+    open(u"城市"_s);
+    EXPECT_EQ(conditions(), QStringList(u"城市 = “大连”"_s));
+}
+
+TEST_F(ColumnValues, DaysAreOnePartOfTheBarAsWell)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) {
+        tickAll(dialog, false);
+        tick(dialog, u"1月"_s);
+        tick(dialog, u"31日"_s);
+        press(dialog, "cmdOK");
+    }});
+    open(u"日期"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"1"_s, u"4"_s, u"7"_s}));
+    EXPECT_EQ(conditions().size(), 1) << conditions().join(u'|').toStdString();
+    QTest::mouseClick(grid.findChild<QToolButton *>(u"Condition1"_s), Qt::LeftButton);
+    EXPECT_EQ(rows(), records);
+}
+
+TEST_F(ColumnValues, NumbersAndBooleans)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) {
+                               tick(dialog, u"49.5"_s);
+                               press(dialog, "cmdOK");
+                           },
+                           [](QDialog &dialog) {
+                               tick(dialog, u"否"_s);
+                               press(dialog, "cmdOK");
+                           }});
+    open(u"Unit Price"_s);
+    EXPECT_FALSE(texts(u"ID"_s).contains(u"4"_s));
+    EXPECT_EQ(rows(), records - 1);
+    open(u"停用"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"3"_s, u"7"_s, u"12"_s}));
+}
+
+TEST_F(ColumnValues, GroupedRowsAndAliasesHaveThemToo)
+{
+    ASSERT_TRUE(load(u"SELECT 城市 AS 地方,COUNT(*) AS 数量 FROM 商品 WHERE ID < 9 GROUP BY 城市"_s, {}));
+    WindowAnswers dialogs({[](QDialog &dialog) {
+                               tick(dialog, u"1"_s);
+                               press(dialog, "cmdOK");
+                           },
+                           [](QDialog &dialog) {
+                               EXPECT_EQ(dialog.windowTitle(), u"按列筛选：地方"_s);
+                               EXPECT_TRUE(QTest::qWaitFor([&] {
+                                   return listed(dialog) == QStringList(u"x 大连"_s);
+                               })) << listed(dialog).join(u'|').toStdString();
+                               press(dialog, "cmdCancel");
+                           }});
+    open(u"数量"_s);
+    EXPECT_EQ(texts(u"地方"_s), QStringList(u"大连"_s));
+    open(u"地方"_s);
+    EXPECT_EQ(rows(), 1);
+}
+
+TEST_F(ColumnValues, EnterInTheSearchShowsWhatItFinds)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) {
+        ASSERT_EQ(dialog.focusWidget()->objectName(), u"txtSearch"_s);
+        waitFor(dialog, u"x 花茶"_s);
+        compose(*dialog.focusWidget(), u"茶"_s);
+        EXPECT_EQ(listed(dialog).size(), 6);
+        key(dialog, Qt::Key_Return);
+    }});
+    open(u"名称"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"1"_s, u"2"_s, u"4"_s, u"10"_s, u"11"_s, u"12"_s}));
+}
