@@ -13,6 +13,7 @@ public:
     const std::vector<FieldInfo> &fields() const override { return m_fields; }
     int columns() const override;
     void fetch(RowStore &rows, const std::function<bool(qint64)> &shouldContinue) override;
+    std::shared_ptr<const RowStore> rowsSoFar() const override;
     std::unique_ptr<RowWriter> takeWriter() override { return std::move(m_writer); }
     QString whyReadOnly() const override { return m_whyReadOnly; }
 
@@ -23,6 +24,7 @@ private:
 
     std::shared_ptr<SqliteSession> m_session;
     SqliteHandle m_statement;
+    const RowStore *m_fetched = nullptr; // while rows are fetched
     std::vector<FieldInfo> m_fields;
     std::vector<int> m_untyped; // columns whose type waits for their first value
     std::unique_ptr<RowWriter> m_writer;

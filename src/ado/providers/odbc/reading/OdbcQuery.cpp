@@ -118,7 +118,7 @@ bool OdbcQuery::readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &wat
     while (reader.fetch(watch)) {
         if (!reader.append(rows))
             return false;
-        watch.ask(rows.rows());
+        watch.ask(rows);
     }
     return true;
 }
