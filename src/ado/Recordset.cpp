@@ -5,6 +5,8 @@
 #include "ado/providers/Provider.h"
 #include "ado/recordset/RecordsetPrivate.h"
 
+#include <QtCore/QScopedValueRollback>
+
 #include <new>
 
 namespace ADODB {
@@ -33,6 +35,7 @@ Snapshot Recordset::Private::read(Session &session, const QString &statement)
         session.prepare(statement, openedLockType == adLockReadOnly ? Access::ReadOnly : Access::ReadWrite,
                         [&] { return report ? report(0) : watched.shouldContinue(); });
     RowStore store(query->columns(), memoryLimit);
+    const QScopedValueRollback<const Statement *> reading(fetching, query.get());
     query->fetch(store,
                  [&](qint64 rowsRead) { return report ? report(rowsRead) : watched.shouldContinue(); });
     editor.emplace(query->releaseWriter(), query->whyReadOnly());

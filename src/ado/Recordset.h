@@ -152,6 +152,7 @@ private:
     friend class Field;
     friend class RowReader;
     friend class RecordView;
+    friend std::shared_ptr<const Recordset> recordsSoFar(const Recordset &opening);
     const FieldInfo &fieldInfo(int column) const;
     QVariant currentValue(int column) const;
     void putCurrentValue(int column, const QVariant &value);
@@ -164,6 +165,7 @@ private:
     void moveBy(qint64 records, BookmarkEnum start, EventReasonEnum reason);
     bool hasCell(qint64 record, int column) const;
     const std::vector<qint64> &removals() const;
+    std::shared_ptr<const Recordset> soFar() const;
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -1,5 +1,6 @@
 #include "filter/mod_Filter.h"
 
+#include "ado/connection/EngineOf.h"
 #include "filter/FilterTexts.h"
 #include "filter/SetFilter.h"
 #include "filter/frm_Filter.h"
@@ -22,6 +23,20 @@ void beginWithField(const SetFilter &builder, const QString &field)
     fields->setCurrentIndex(found);
     if (auto *const operators = builder.findChild<QComboBox *>(QStringLiteral("cmbOperator1")))
         operators->setFocus();
+}
+
+// Its sessions are all alike, and one that nobody else uses can read lists of values in the background.
+bool isServer(const std::shared_ptr<ADODB::Connection> &connection)
+{
+    switch (engineOf(connection)) {
+    case Engine::SqlServer:
+    case Engine::Oracle:
+    case Engine::PostgreSQL:
+    case Engine::MySQL:
+        return true;
+    default:
+        return false;
+    }
 }
 
 } // namespace
@@ -65,7 +80,7 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
     SetFilter &builder = m_dialog->SetFilter1();
     builder.SetShelf(m_shelf);
     builder.Initialize(FilterTexts::TableCaption, request.dbType);
-    if (request.tableType == FromOwnStatement && request.connection)
+    if (request.tableType == FromOwnStatement && request.connection && !isServer(request.connection))
         builder.SetConnection(request.connection);
     else
         builder.SetConnectionString(request.connectionString);

@@ -207,6 +207,12 @@ void FlexGrid::Show(std::unique_ptr<CellSource> source)
     applyArrangement();
 }
 
+void FlexGrid::ShowMore(std::unique_ptr<CellSource> source)
+{
+    m_model->growTo(std::move(source));
+    updateGeometries(); // the view itself would wait for its next events
+}
+
 bool FlexGrid::event(QEvent *event)
 {
     // A window that moved to a screen of another resolution.

@@ -137,6 +137,9 @@ public:
     // Shows the cells of `source` (not null) instead of the grid's own. Columns that stay within the
     // number of columns keep their widths; nothing is current afterwards.
     void Show(std::unique_ptr<CellSource> source);
+    // Shows the cells of `source` (not null), which are those that are shown and further rows below. Nothing
+    // else changes.
+    void ShowMore(std::unique_ptr<CellSource> source);
 
 Q_SIGNALS:
     // Another data row became current, by mouse, key or program. Like HeadingClicked it may delete the grid:

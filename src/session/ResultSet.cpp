@@ -44,9 +44,12 @@ ResultSet::Opened ResultSet::open(const QString &connectionString, const QString
 
     recordset->PutCursorLocation(ADODB::adUseClient);
     connection->PutConnectionString(connectionString);
-    const ADODB::Waiting waiting([&] { return !progress || progress(0); });
+    const auto report = [&progress, &opening = *recordset](qint64 rowsRead) {
+        return !progress || progress(rowsRead, opening);
+    };
+    const ADODB::Waiting waiting([&] { return report(0); });
     connection->Open();
-    recordset->SetProgress(progress);
+    recordset->SetProgress(report);
     recordset->Open(statement, connection, ADODB::adOpenKeyset, ADODB::adLockOptimistic, ADODB::adCmdText);
     recordset->SetProgress({});
     recordset->PutPageSize(SharedValues::recordCap);

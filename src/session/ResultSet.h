@@ -33,8 +33,9 @@ public:
         std::shared_ptr<ADODB::Recordset> recordset;
     };
     // Opens `statement` through a new connection and touches nothing else; throws ADODB::Error. `dbType` is
-    // AllDBType; `progress` as in ADODB::Recordset::SetProgress.
-    using Progress = std::function<bool(qint64 rowsRead)>;
+    // AllDBType. `progress` is called as in ADODB::Recordset::SetProgress, with the recordset that is being
+    // opened: what has come of it is in recordsSoFar().
+    using Progress = std::function<bool(qint64 rowsRead, const ADODB::Recordset &opening)>;
     static Opened open(const QString &connectionString, const QString &statement, qint32 dbType,
                        const Progress &progress);
     // Closes the old result and takes the new one in its place. The data control reports both.

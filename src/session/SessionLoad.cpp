@@ -114,6 +114,7 @@ void Session::showLoaded(const ResultSet::Opened &opened, const QString &stateme
     updateRecordPosition();
     noteShownResult();
     m_window->refreshCommands();
+    m_window->scrollAsOpened();
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -25,7 +25,9 @@ ResultSet::Opened Session::openStatement(const QString &statement, AllDBType dbT
 {
     const QScopedValueRollback<bool> opening(shared.isOpening, true);
     const auto progress = m_window->beginOpening();
-    const auto shouldContinue = [&](qint64 rowsRead) {
+    const auto shouldContinue = [&](qint64 rowsRead, const ADODB::Recordset &recordset) {
+        if (progress && rowsRead > 0)
+            progress->showOpening(recordset);
         // Asked after a cancel as well, so that windows are painted until the server has answered it.
         const bool isWanted = !progress || progress->shouldContinue(rowsRead);
         m_isCancelled |= !isWanted;
@@ -123,6 +125,7 @@ void Session::show(const ResultSet::Opened &opened)
     if (m_rules.alwaysResetsWidths || m_window->Headings() != headingsBefore)
         m_window->ResetColWidths();
     m_window->refreshSingleRecord();
+    m_window->scrollAsOpened();
     m_host->refresh();
 }
 

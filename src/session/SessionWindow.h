@@ -26,6 +26,9 @@ public:
     virtual ~OpeningProgress() = default;
     // To be called every few milliseconds; false once the user has cancelled. It doesn't throw.
     virtual bool shouldContinue(qint64 rowsDone) = 0;
+    // To be called before it while a recordset is being opened that has records already: they can be looked
+    // at until this object goes. See ADODB::recordsSoFar().
+    virtual void showOpening(const ADODB::Recordset &) {}
 };
 
 // The cells that the user has marked: some of the columns over some rows in sequence, both from 1.
@@ -127,6 +130,8 @@ public:
     virtual void showHistory() {}
     // Shows that a statement is being opened. Only one can live in a process. Null shows nothing.
     virtual std::unique_ptr<OpeningProgress> beginOpening() { return nullptr; }
+    // Scrolls to where the user has scrolled the records while they were being read.
+    virtual void scrollAsOpened() {}
     // Shows that `total` records are being written; `done` says so with %1 for the number. Only one of these
     // and beginOpening can live in a process. Null shows nothing.
     virtual std::unique_ptr<OpeningProgress> beginWriting(const QString & /*done*/, qint64 /*total*/)

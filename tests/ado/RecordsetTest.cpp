@@ -2,6 +2,8 @@
 #include "TestDatabase.h"
 #include "Throwing.h"
 
+#include "ado/recordset/RecordsSoFar.h"
+
 using namespace Qt::Literals::StringLiterals;
 using namespace ADODB;
 using AdoTest::TestDatabase;
@@ -289,6 +291,40 @@ TEST_F(BigResult, ThatTheDiskDoesNotTakeIsAFailedOpen)
     open();
     EXPECT_EQ(recordset.RecordCount(), count);
     EXPECT_ADO_ERROR(adErrObjectOpen, recordset.PutMemoryLimit(0));
+}
+
+TEST(Recordset, ShowsWhatHasBeenReadWhileItIsOpened)
+{
+    const TestDatabase database(numbers);
+    const auto connection = database.connect();
+    Recordset recordset;
+    EXPECT_EQ(recordsSoFar(recordset), nullptr);
+    std::vector<std::shared_ptr<const Recordset>> seen;
+    recordset.SetProgress([&](qint64 rowsRead) {
+        if (const auto soFar = recordsSoFar(recordset)) {
+            EXPECT_EQ(soFar->RecordCount(), rowsRead);
+            EXPECT_EQ(recordset.State(), adStateClosed);
+            seen.push_back(soFar);
+        }
+        return seen.size() < 3;
+    });
+    EXPECT_ADO_ERROR(dbErrCancelled,
+                     recordset.Open(u"WITH RECURSIVE s(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM s)"
+                                    "SELECT i AS n, 'no ' || i AS name FROM s"_s,
+                                    connection));
+    EXPECT_EQ(recordsSoFar(recordset), nullptr);
+    ASSERT_EQ(seen.size(), 3U);
+    EXPECT_LT(seen[0]->RecordCount(), seen[2]->RecordCount());
+    for (const auto &soFar : seen) {
+        const qint64 last = soFar->RecordCount();
+        EXPECT_EQ(soFar->State(), adStateOpen);
+        EXPECT_EQ(soFar->CellText(1, 1), u"no 1"_s);
+        EXPECT_EQ(soFar->CellText(last, 0), QString::number(last));
+        EXPECT_EQ(soFar->CellText(last, 1), u"no %1"_s.arg(last));
+        EXPECT_EQ(soFar->CellText(last + 1, 1), QString());
+        EXPECT_EQ(soFar->Fields().Item(1).Name(), u"name"_s);
+        EXPECT_EQ(soFar->EditMode(), adEditNone);
+    }
 }
 
 } // namespace

@@ -290,4 +290,60 @@ TEST(RowStore, KeepsItsRowsWhenTheDiskTakesNoMore)
     expectSame(store, model);
 }
 
+TEST(RowStore, ACopyKeepsItsRowsWhileTheOriginalGrows)
+{
+    // A row of 100 bytes; blocks have 4 MiB, and all but the first are spilled.
+    constexpr qint64 rowsOfABlock = (qint64{4} << 20) / 106;
+    RowStore store(1, qint64{4} << 20);
+    const auto add = [&store](qint64 count) {
+        for (qint64 i = 0; i < count; ++i) {
+            store.addText(QByteArray::number(store.rows()).rightJustified(100, '0'));
+            store.endRow();
+        }
+    };
+    const auto expectRows = [](const RowStore &rows, qint64 count) {
+        ASSERT_EQ(rows.rows(), count);
+        for (const qint64 row : {qint64{0}, count / 2, count - 1})
+            EXPECT_EQ(rows.cell(row, 0).bytes.toByteArray().toLongLong(), row);
+    };
+    add(10);
+    const RowStore ten = store;
+    add(3 * rowsOfABlock);
+    store.addText("a row that has only begun"); // no column of the copy's
+    const RowStore many = store;
+    store.dropBegunRow();
+    add(3 * rowsOfABlock);
+    EXPECT_GT(store.bytesSpilled(), 0);
+    expectRows(ten, 10);
+    expectRows(many, 10 + 3 * rowsOfABlock);
+    store.clear();
+    expectRows(ten, 10);
+    expectRows(many, 10 + 3 * rowsOfABlock);
+}
+
+TEST(RowStore, ACopyAndItsOriginalCanBothBeChanged)
+{
+    RowStore store(1);
+    for (int i = 0; i < 3; ++i) {
+        store.addInteger(i);
+        store.endRow();
+    }
+    RowStore copy = store;
+    copy.addInteger(30);
+    copy.endRow();
+    copy.remove(0);
+    store.addInteger(40);
+    store.endRow();
+    store.replace(1, {RawValue::fromInteger(10)});
+    const auto all = [](const RowStore &rows) {
+        std::vector<qint64> numbers;
+        for (qint64 row = 0; row < rows.rows(); ++row)
+            numbers.push_back(rows.cell(row, 0).integer);
+        return numbers;
+    };
+    EXPECT_EQ(all(copy), (std::vector<qint64>{1, 2, 30}));
+    EXPECT_EQ(all(store), (std::vector<qint64>{0, 10, 2, 40}));
+    EXPECT_LT(copy.bytesWritten(), 100);
+}
+
 } // namespace

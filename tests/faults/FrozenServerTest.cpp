@@ -4,6 +4,7 @@
 #include "FaultFixture.h"
 
 #include "../support/Dialogs.h"
+#include "servers/LoopbackProxy.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTimer>
@@ -12,6 +13,8 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QToolBar>
+
+#include <atomic>
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
@@ -67,6 +70,18 @@ protected:
     }
     void freeze() const { controlServer("freeze", engine.server); }
     void thaw() const { controlServer("thaw", engine.server); }
+    // Freezes the server just before a client's first words of that kind reach it.
+    LoopbackProxy::Filter freezeOn(const char *words)
+    {
+        return [this, words](LoopbackProxy::From from, const QByteArray &bytes) {
+            if (from == LoopbackProxy::From::Client && bytes.toUpper().contains(words) && !isFrozen) {
+                freeze();
+                isFrozen = true;
+            }
+            return true;
+        };
+    }
+    std::atomic<bool> isFrozen = false;
     bool loadKept() { return load(u"SELECT * FROM kept ORDER BY id"_s); }
     QString stored(const QString &what) const { return ask(u"SELECT %1 FROM kept WHERE id = 1"_s.arg(what)); }
 
@@ -124,6 +139,39 @@ protected:
         hands->edit->clear();
         compose(*hands->edit, text);
         QTest::keyClick(hands->edit, Qt::Key_Return);
+    }
+    void cancelAListOfValues()
+    {
+        WindowAnswers dialogs({[&](QDialog &dialog) {
+            part<QComboBox>(dialog, "cmbField1").setCurrentText(u"price"_s);
+            auto &value = part<QLineEdit>(dialog, "txtValue1");
+            Paintings paintings(dialog);
+            const auto open = [&] { QTest::keyClick(&value, Qt::Key_F4); };
+            const auto listed = [] {
+                const auto *list = qobject_cast<QAbstractItemView *>(QApplication::activePopupWidget());
+                return list ? list->model()->index(0, 0).data().toString() : QString();
+            };
+            freeze();
+            open();
+            EXPECT_EQ(listed(), u"正在读取…（Esc 取消）"_s);
+            const int before = paintings.count();
+            dialog.update();
+            EXPECT_TRUE(QTest::qWaitFor([&] { return paintings.count() > before; }));
+            QElapsedTimer sinceEscape;
+            sinceEscape.start();
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+            EXPECT_LT(sinceEscape.elapsed(), 3000)
+                << "the rest is for a machine that is busy with other things";
+            EXPECT_TRUE(dialog.isVisible());
+            thaw();
+            open();
+            EXPECT_TRUE(QTest::qWaitFor([&] { return listed() == u"1.00"_s; })) << qUtf8Printable(listed());
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+            dialog.reject();
+        }});
+        hands->click(u"Filter"_s);
+        EXPECT_EQ(takeMessages(), QStringList());
+        expectKept();
     }
     QStringList takeMessages()
     {
@@ -221,35 +269,14 @@ TEST_P(FrozenServer, LetsTheUserCancelTheCheckOfACondition)
 TEST_P(FrozenServer, LetsTheUserCancelAListOfValues)
 {
     ASSERT_TRUE(loadKept());
-    WindowAnswers dialogs({[&](QDialog &dialog) {
-        part<QComboBox>(dialog, "cmbField1").setCurrentText(u"price"_s);
-        auto &value = part<QLineEdit>(dialog, "txtValue1");
-        Paintings paintings(dialog);
-        const auto open = [&] { QTest::keyClick(&value, Qt::Key_F4); };
-        const auto listed = [] {
-            const auto *list = qobject_cast<QAbstractItemView *>(QApplication::activePopupWidget());
-            return list ? list->model()->index(0, 0).data().toString() : QString();
-        };
-        freeze();
-        open();
-        EXPECT_EQ(listed(), u"正在读取…（Esc 取消）"_s);
-        const int before = paintings.count();
-        dialog.update();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return paintings.count() > before; }));
-        QElapsedTimer sinceEscape;
-        sinceEscape.start();
-        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
-        EXPECT_LT(sinceEscape.elapsed(), 3000) << "the rest is for a machine that is busy with other things";
-        EXPECT_TRUE(dialog.isVisible());
-        thaw();
-        open();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return listed() == u"1.00"_s; })) << qUtf8Printable(listed());
-        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
-        dialog.reject();
-    }});
-    hands->click(u"Filter"_s);
-    EXPECT_EQ(takeMessages(), QStringList());
-    expectKept();
+    cancelAListOfValues();
+}
+
+TEST_P(FrozenServer, LetsTheUserCancelAListOfValuesOfAnOwnStatement)
+{
+    hands->grid.PutTableType(KOVAVSFDataGrid::DefSQL);
+    ASSERT_TRUE(loadKept());
+    cancelAListOfValues();
 }
 
 TEST_P(FrozenServer, LetsTheUserCancelAnEdit)
@@ -363,4 +390,63 @@ TEST_P(FrozenServer, LetsTheHostDeleteTheControlMeanwhile)
     takeMessages();
     // Whatever became of it, it is whole and nothing holds it.
     EXPECT_TRUE(QStringList({u"name 1"_s, u"gone"_s}).contains(stored(u"name"_s)));
+}
+
+// Nobody can tell then whether the change was saved, and the user is told so.
+TEST_P(FrozenServer, ReportsACommitWithoutAnAnswerAsUnknown)
+{
+    LoopbackProxy proxy(LoopbackProxy::portOf(connection()), freezeOn("COMMIT"));
+    hands->grid.PutConnectionString(proxy.in(connection()));
+    ASSERT_TRUE(loadKept());
+    write(u"name"_s, u"mine"_s);
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, &user, [this] {
+        if (QWidget *const line = progressLine(); line && isFrozen)
+            QTest::keyClick(line->window(), Qt::Key_Escape);
+    });
+    user.start(10);
+    QElapsedTimer sinceSave;
+    sinceSave.start();
+    hands->click(u"AllRecord"_s);
+    EXPECT_LT(sinceSave.elapsed(), 10'000) << "3 s for the answer, the rest for a busy machine";
+    ASSERT_TRUE(isFrozen);
+    const QStringList texts = takeMessages();
+    ASSERT_EQ(texts.size(), 1);
+    EXPECT_TRUE(texts.front().contains(u"无法确定更改是否已经保存"_s)) << qUtf8Printable(texts.front());
+    thaw();
+    EXPECT_TRUE(QStringList({u"name 1"_s, u"mine"_s}).contains(stored(u"name"_s)));
+    hands->grid.PutConnectionString(connection());
+    ASSERT_TRUE(loadKept());
+    takeMessages();
+}
+
+// The values are there, and only how many more there are is not.
+TEST_P(FrozenServer, LetsTheUserPickAValueWhileTheOthersAreCounted)
+{
+    LoopbackProxy proxy(LoopbackProxy::portOf(connection()), freezeOn("COUNT(DISTINCT"));
+    hands->grid.PutConnectionString(proxy.in(connection()));
+    ASSERT_TRUE(loadKept());
+    WindowAnswers dialogs({[&](QDialog &dialog) {
+        part<QComboBox>(dialog, "cmbField1").setCurrentText(u"price"_s);
+        QTest::keyClick(&part<QLineEdit>(dialog, "txtValue1"), Qt::Key_F4);
+        const auto first = [] {
+            const auto *list = qobject_cast<QAbstractItemView *>(QApplication::activePopupWidget());
+            return list ? list->model()->index(0, 0).data().toString() : QString();
+        };
+        EXPECT_TRUE(QTest::qWaitFor([&] { return first() == u"1.00"_s && isFrozen; }))
+            << qUtf8Printable(first());
+        QElapsedTimer sinceEscape;
+        sinceEscape.start();
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        EXPECT_LT(sinceEscape.elapsed(), 3000) << "the rest is for a machine that is busy with other things";
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+        EXPECT_TRUE(dialog.isVisible());
+        thaw();
+        dialog.reject();
+    }});
+    hands->click(u"Filter"_s);
+    EXPECT_EQ(takeMessages(), QStringList());
+    expectKept();
+    hands->grid.PutConnectionString(connection());
+    ASSERT_TRUE(loadKept());
 }

@@ -1,5 +1,7 @@
 #include "EngineJourney.h"
 
+#include "SpreadTable.h"
+
 #include "support/Dialogs.h"
 
 #include <QtWidgets/QComboBox>
@@ -41,15 +43,19 @@ void EngineJourney::SetUp()
         {u"DROP TABLE IF EXISTS journey_orders"_s, u"DROP TABLE IF EXISTS journey_goods"_s,
          create.arg(engine.quoted(price), QString::fromLatin1(engine.binary),
                     engine.isMariaDb() ? u" CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin"_s : QString()),
-         insert.arg(engine.quoted(price)) + rows.arg(yes, no, engine.bytes("424D00FF")),
-         u"CREATE TABLE journey_orders (id INTEGER PRIMARY KEY, goods INTEGER,"
-         " FOREIGN KEY (goods) REFERENCES journey_goods(id))"_s,
-         u"INSERT INTO journey_orders VALUES (1,3)"_s});
+         insert.arg(engine.quoted(price)) + rows.arg(yes, no, engine.bytes("424D00FF"))});
+    if (engine.isSpread())
+        return spreadTable(engine, u"journey_goods"_s);
+    database->run({u"CREATE TABLE journey_orders (id INTEGER PRIMARY KEY, goods INTEGER,"
+                   " FOREIGN KEY (goods) REFERENCES journey_goods(id))"_s,
+                   u"INSERT INTO journey_orders VALUES (1,3)"_s});
 }
 
 bool EngineJourney::load()
 {
-    return hands->load(u"SELECT * FROM journey_goods"_s, u"SELECT id,名称 FROM journey_goods"_s);
+    // Records of several databases come in any order.
+    const QString order = engine.isSpread() ? u" ORDER BY id"_s : QString();
+    return hands->load(u"SELECT * FROM journey_goods"_s + order, u"SELECT id,名称 FROM journey_goods"_s);
 }
 
 QString EngineJourney::writtenPrice() const

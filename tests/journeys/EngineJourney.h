@@ -24,7 +24,8 @@ protected:
 // A user before a small shop on each engine.
 //
 // journey_goods has the fields id, 名称, the engine's unitPrice, qty, 城市, 日期, 停用 and 图片 (binary) and
-// twelve records; journey_orders refers to the record 3. The part fields are id and 名称.
+// twelve records; journey_orders refers to the record 3, unless the engine spreads journey_goods over several
+// databases. The part fields are id and 名称.
 class EngineJourney : public EngineTest
 {
 protected:

@@ -3,6 +3,7 @@
 #include "servers/Servers.h"
 #include "sql/AllDBType.h"
 
+#include <algorithm>
 #include <ostream>
 
 using namespace KOVAVSFDataGridLib;
@@ -68,6 +69,27 @@ const std::vector<JourneyEngine> &journeyEngines()
         sqlServer.variable = "KOVA_TEST_MARIADB_MSSQL";
         sqlServer.dbType = dbSQLServer;
         return std::vector{sqlite, access, sqliteOdbc, postgres, bouncer, mariaDb, oracle, sqlServer};
+    }();
+    return engines;
+}
+
+const std::vector<JourneyEngine> &spreadEngines()
+{
+    static const std::vector<JourneyEngine> engines = [] {
+        const auto named = [](QLatin1StringView name) {
+            return *std::ranges::find(journeyEngines(), name, [](const JourneyEngine &engine) {
+                return QLatin1StringView(engine.name);
+            });
+        };
+        JourneyEngine foreign = named("PostgreSQL"_L1);
+        foreign.name = "PostgreSQLOverShards";
+        foreign.variable = "KOVA_TEST_SHARDS";
+        foreign.spread = JourneyEngine::ForeignTables;
+        JourneyEngine spider = named("MariaDB"_L1);
+        spider.name = "MariaDBOverShards";
+        spider.variable = "KOVA_TEST_SPIDER";
+        spider.spread = JourneyEngine::Spider;
+        return std::vector{foreign, spider};
     }();
     return engines;
 }

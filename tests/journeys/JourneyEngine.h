@@ -28,9 +28,12 @@ struct JourneyEngine
     const char *moment;
     const char *digits; // the longest decimal
     const char *yes;    // what a user types for a Boolean that is true
+    // Over which other databases its tables are spread, by their key id.
+    enum Spread { Nowhere, ForeignTables, Spider } spread = Nowhere;
 
     bool isThere() const;
     bool isWritable() const { return store != AccessFile; }
+    bool isSpread() const { return spread != Nowhere; }
     // Whether SQLite runs the statements that fill the tables.
     bool isFilledBySqlite() const { return store != Server; }
     // Whose names are read in back quotes in every mode.
@@ -42,5 +45,7 @@ struct JourneyEngine
 std::ostream &operator<<(std::ostream &out, const JourneyEngine &engine);
 
 const std::vector<JourneyEngine> &journeyEngines();
+// Those that spread a table over several databases.
+const std::vector<JourneyEngine> &spreadEngines();
 
 } // namespace KovaTest

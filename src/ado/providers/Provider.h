@@ -32,6 +32,9 @@ public:
     // Runs the statement and appends all its rows. Asks at least every 20 ms whether to go on, with the
     // number of rows read so far; throws dbErrCancelled when not. `rows` is without meaning while it asks.
     virtual void fetch(RowStore &rows, const std::function<bool(qint64 rowsRead)> &shouldContinue) = 0;
+    // The whole rows that fetch() has read, while it asks: all or nearly all of them. Null when there are
+    // none yet, or the provider can't tell.
+    virtual std::shared_ptr<const RowStore> rowsSoFar() const { return nullptr; }
     // Null when rows can't be written back; whyReadOnly() then says why.
     virtual std::unique_ptr<RowWriter> releaseWriter() = 0;
     virtual QString whyReadOnly() const = 0;

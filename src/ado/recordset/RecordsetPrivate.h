@@ -20,6 +20,7 @@
 namespace ADODB {
 
 class Session;
+class Statement;
 
 // Runs `action`; what it has no memory for becomes an error of the data access with `text`.
 template<typename Action>
@@ -51,6 +52,7 @@ struct Recordset::Private
     qint32 pageSize = 10;
     QString source;
     std::function<bool(qint64)> progress;
+    const Statement *fetching = nullptr; // while Open reads its rows
     qint64 memoryLimit = RowStore::defaultMemoryLimit;
 
     ADODB::Fields fields;

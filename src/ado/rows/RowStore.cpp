@@ -21,6 +21,23 @@ T numberAt(const char *at)
 
 RowStore::RowStore(int columns, qint64 memoryLimit) : m_columns(columns), m_memoryLimit(memoryLimit) {}
 
+// The block that the original is filling is a full one here: what comes next begins a block of its own.
+RowStore::RowStore(const RowStore &other)
+    : m_columns(other.m_columns),
+      m_memoryLimit(other.m_memoryLimit),
+      m_stored(other.m_stored),
+      m_spill(other.m_spill),
+      m_blocks(other.m_blocks),
+      m_memoryBytes(other.m_memoryBytes),
+      m_spilledBytes(other.m_spilledBytes),
+      m_closedBytes(other.m_closedBytes + (other.m_rowStart - other.m_blockStart)),
+      m_removed(other.m_removed),
+      m_replaced(other.m_replaced)
+{
+    if (other.m_blockStart)
+        m_memoryBytes += m_blocks.back().size;
+}
+
 const char *RowStore::Block::start(qint64 storedRow) const
 {
     const char *const slot = bytes + size - (storedRow - firstRow + 1) * startSize;
@@ -46,7 +63,7 @@ void RowStore::add(const RawValue &value)
 void RowStore::endRow()
 {
     // A row without any column still takes room for its start.
-    if (m_blocks.empty() || m_end < m_write)
+    if (!m_blockStart || m_end < m_write)
         newBlock(0);
     const auto start = static_cast<quint32>(m_rowStart - m_blockStart);
     std::memcpy(m_end, &start, sizeof start);
@@ -62,7 +79,7 @@ void RowStore::newBlock(qsizetype room)
     const qsizetype begun = m_write - m_rowStart;
     Block block;
     block.size = std::max(blockSize, begun + std::max(begun, room) + startSize);
-    block.memory = std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(block.size));
+    block.memory = std::make_shared_for_overwrite<char[]>(static_cast<std::size_t>(block.size));
     block.bytes = block.memory.get();
     block.firstRow = m_stored;
     char *const start = block.memory.get();
@@ -70,7 +87,7 @@ void RowStore::newBlock(qsizetype room)
         std::memcpy(start, m_rowStart, static_cast<std::size_t>(begun));
     if (!m_blocks.empty() && m_blocks.back().firstRow == m_stored) {
         m_blocks.pop_back(); // it held nothing but this row's beginning
-    } else if (!m_blocks.empty()) {
+    } else if (m_blockStart) {
         keepOrSpill(m_blocks.back());
         m_closedBytes += m_rowStart - m_blockStart;
     }
@@ -88,7 +105,7 @@ void RowStore::keepOrSpill(Block &block)
         return;
     }
     if (!m_spill)
-        m_spill = std::make_unique<SpillFile>();
+        m_spill = std::make_shared<SpillFile>();
     // What memory happened to hold in the gap is nobody's business on a disk.
     char *const starts = block.memory.get() + block.size - (m_stored - block.firstRow) * startSize;
     std::fill(m_rowStart, starts, '\0');

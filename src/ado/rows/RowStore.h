@@ -19,6 +19,10 @@ namespace ADODB {
 //
 // Blocks that are more than the memory limit move into a spill file when they are full.
 //
+// A copy has the whole rows of its original and shares their blocks, so it costs next to nothing. Whatever is
+// done to one of the two, the other stays as it is: a copy can be read in one thread while the original grows
+// in another.
+//
 // Rows and columns are counted from 0; rows in the live sequence.
 class RowStore
 {
@@ -27,6 +31,11 @@ public:
 
     // Full blocks take no more than `memoryLimit` bytes of memory.
     explicit RowStore(int columns, qint64 memoryLimit = defaultMemoryLimit);
+    RowStore(const RowStore &other);
+    RowStore(RowStore &&other) = default;
+    RowStore &operator=(const RowStore &other) { return *this = RowStore(other); }
+    RowStore &operator=(RowStore &&other) = default;
+    ~RowStore() = default;
 
     // Forgets all rows.
     void clear() { *this = RowStore(m_columns, m_memoryLimit); }
@@ -80,7 +89,7 @@ private:
     {
         const char *start(qint64 storedRow) const;
 
-        std::unique_ptr<char[]> memory; // null once the block is spilled
+        std::shared_ptr<char[]> memory; // null once the block is spilled
         const char *bytes = nullptr;    // there or in the spill file
         qsizetype size = 0;
         qint64 firstRow = 0; // counted with the removed ones
@@ -113,12 +122,12 @@ private:
     int m_columns;
     qint64 m_memoryLimit;
     qint64 m_stored = 0;                // rows written, with the removed ones
-    std::unique_ptr<SpillFile> m_spill; // null until it is needed
+    std::shared_ptr<SpillFile> m_spill; // null until it is needed
     std::vector<Block> m_blocks;
     qint64 m_memoryBytes = 0;  // of the full blocks
     qint64 m_spilledBytes = 0; // of the others
     qint64 m_closedBytes = 0;
-    char *m_blockStart = nullptr;
+    char *m_blockStart = nullptr; // of the block that is being filled; null when none is
     char *m_rowStart = nullptr;
     char *m_write = nullptr;
     char *m_end = nullptr;         // of the room for cells, with the begun row's start already left out

@@ -8,7 +8,6 @@
 #include "control/parts/lines/ElidedLabel.h"
 #include "control/parts/lines/EmptyHint.h"
 #include "control/parts/lines/FilterBar.h"
-#include "control/parts/lines/LoadProgress.h"
 #include "control/parts/lines/StatementLine.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
@@ -187,15 +186,9 @@ void ControlWindow::showConditions(const QStringList &words)
         m_parts.layOut(m_control.width(), m_control.height());
 }
 
-std::unique_ptr<OpeningProgress> ControlWindow::beginOpening()
+QRect ControlWindow::progressPlace() const
 {
-    return std::make_unique<LoadProgress>(m_control, [this] { return m_parts.foot(); });
-}
-
-std::unique_ptr<OpeningProgress> ControlWindow::beginWriting(const QString &done, qint64 total)
-{
-    return std::make_unique<LoadProgress>(
-        m_control, [this] { return m_parts.foot(); }, done, total);
+    return m_parts.foot();
 }
 
 } // namespace KOVAVSFDataGridLib

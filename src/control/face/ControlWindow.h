@@ -40,10 +40,10 @@ public:
     void enableCommands() override;
     void showFullScreen() override;
     void showConditions(const QStringList &words) override;
-    std::unique_ptr<OpeningProgress> beginOpening() override;
-    std::unique_ptr<OpeningProgress> beginWriting(const QString &done, qint64 total) override;
 
 private:
+    QWidget &progressWindow() override { return m_control; }
+    QRect progressPlace() const override;
     QString place() const;
 
     QWidget &m_control;

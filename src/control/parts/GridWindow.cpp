@@ -5,6 +5,7 @@
 #include "control/parts/LinkPointer.h"
 #include "control/parts/PopupMenu.h"
 #include "control/parts/ResultFinder.h"
+#include "control/parts/lines/ShownOpening.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "forms/value/ValueDialog.h"
 #include "grid/FlexGrid.h"
@@ -24,6 +25,8 @@
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QToolTip>
+
+#include <utility>
 
 namespace KOVAVSFDataGridLib {
 
@@ -256,6 +259,27 @@ void GridWindow::showFind()
 {
     if (m_finder)
         m_finder->open();
+}
+
+std::unique_ptr<OpeningProgress> GridWindow::beginOpening()
+{
+    return std::make_unique<ShownOpening>(
+        progressWindow(), [this] { return progressPlace(); }, m_grid, m_scrolled);
+}
+
+std::unique_ptr<OpeningProgress> GridWindow::beginWriting(const QString &done, qint64 total)
+{
+    return std::make_unique<LoadProgress>(
+        progressWindow(), [this] { return progressPlace(); }, done, total);
+}
+
+void GridWindow::scrollAsOpened()
+{
+    const std::optional<QPoint> place = std::exchange(*m_scrolled, std::nullopt);
+    if (!place)
+        return;
+    m_grid.horizontalScrollBar()->setValue(place->x());
+    m_grid.verticalScrollBar()->setValue(place->y());
 }
 
 void GridWindow::showHeadingMarks()

@@ -2,7 +2,9 @@
 
 #include "session/SessionWindow.h"
 
-class QRect;
+#include <QtCore/QPoint>
+#include <QtCore/QRect>
+
 class QWidget;
 
 namespace KOVAVSFDataGridLib {
@@ -56,6 +58,9 @@ public:
     void showHistory() override;
     void showValue(const CellValue &value) override;
     void openLink(const QUrl &link) override;
+    std::unique_ptr<OpeningProgress> beginOpening() override;
+    std::unique_ptr<OpeningProgress> beginWriting(const QString &done, qint64 total) override;
+    void scrollAsOpened() override;
 
     // What it shows; not owned. To be set before anything is shown.
     void setSession(Session &session) { m_session = &session; }
@@ -67,6 +72,9 @@ public:
     void setFinder(ResultFinder *finder) { m_finder = finder; }
 
 protected:
+    // Where on the whole window a line shows progress.
+    virtual QWidget &progressWindow() = 0;
+    virtual QRect progressPlace() const = 0;
     // Shows the conditions in force in words.
     virtual void showConditions(const QStringList &words) = 0;
 
@@ -80,6 +88,9 @@ protected:
 private:
     void showHeadingMarks();
     void followValue();
+
+    // By the latest opening, until the result is shown. What shows an opening can outlive this object.
+    const std::shared_ptr<std::optional<QPoint>> m_scrolled = std::make_shared<std::optional<QPoint>>();
 };
 
 } // namespace KOVAVSFDataGridLib

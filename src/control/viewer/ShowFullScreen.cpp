@@ -77,7 +77,9 @@ ResultSet::Opened Visit::open(const QString &statement, const ResultSet::Progres
 {
     const auto opened =
         ResultSet::open(m_session.texts.connectionString, statement, m_session.filterManager().DBType(),
-                        [&](qint64 rowsRead) { return progress(rowsRead) && !m_isOver; });
+                        [&](qint64 rowsRead, const ADODB::Recordset &opening) {
+                            return progress(rowsRead, opening) && !m_isOver;
+                        });
     if (!m_isOver) {
         const QScopedValueRollback<bool> replacing(m_isReplacing, true);
         if (!m_session.replaceResult(opened) && !m_isOver)

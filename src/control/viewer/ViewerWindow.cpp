@@ -4,7 +4,6 @@
 #include "control/parts/GridTexts.h"
 #include "control/parts/lines/EmptyHint.h"
 #include "control/parts/lines/FilterBar.h"
-#include "control/parts/lines/LoadProgress.h"
 #include "control/viewer/ViewerCells.h"
 #include "control/viewer/ViewerParts.h"
 #include "control/viewer/ViewerTexts.h"
@@ -68,17 +67,6 @@ void ViewerWindow::showConditions(const QStringList &words)
     m_parts.conditions->show(words);
 }
 
-std::unique_ptr<OpeningProgress> ViewerWindow::beginOpening()
-{
-    return std::make_unique<LoadProgress>(m_window, [this] { return m_parts.foot(); });
-}
-
-std::unique_ptr<OpeningProgress> ViewerWindow::beginWriting(const QString &done, qint64 total)
-{
-    return std::make_unique<LoadProgress>(
-        m_window, [this] { return m_parts.foot(); }, done, total);
-}
-
 void ViewerWindow::makeShownCellCurrent()
 {
     if (!m_session->result().isOpen() || m_grid.UsedRows() < 2 || m_grid.Cols() < 2)
@@ -88,6 +76,11 @@ void ViewerWindow::makeShownCellCurrent()
         m_grid.PutRow(row > 0 && row < m_grid.UsedRows() ? row : 1);
     }
     m_grid.PutCol(m_grid.ShownCol());
+}
+
+QRect ViewerWindow::progressPlace() const
+{
+    return m_parts.foot();
 }
 
 } // namespace KOVAVSFDataGridLib

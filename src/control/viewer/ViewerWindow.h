@@ -20,14 +20,14 @@ public:
     void showTypedPage(const QString &text) override;
     void refreshStatus() override;
     void showConditions(const QStringList &words) override;
-    std::unique_ptr<OpeningProgress> beginOpening() override;
-    std::unique_ptr<OpeningProgress> beginWriting(const QString &done, qint64 total) override;
 
     // So that the keyboard always has a cell to start from: the current record's row, else the first, and a
     // column that is seen.
     void makeShownCellCurrent();
 
 private:
+    QWidget &progressWindow() override { return m_window; }
+    QRect progressPlace() const override;
     QWidget &m_window;
     const ViewerParts &m_parts;
     const WaitPlace m_waits;

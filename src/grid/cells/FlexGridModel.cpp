@@ -21,6 +21,18 @@ void FlexGridModel::setSource(std::unique_ptr<CellSource> source)
     endResetModel();
 }
 
+void FlexGridModel::growTo(std::unique_ptr<CellSource> source)
+{
+    Q_ASSERT(source && source->cols() == m_source->cols() && source->rows() >= m_source->rows());
+    const int rowsBefore = rowCount();
+    const int rowsAfter = source->rows() - 1;
+    if (rowsAfter == rowsBefore)
+        return;
+    beginInsertRows({}, rowsBefore, rowsAfter - 1);
+    m_source = std::move(source);
+    endInsertRows();
+}
+
 bool FlexGridModel::setText(int row, int col, const QString &text)
 {
     if (!m_source->setText(row, col, text))

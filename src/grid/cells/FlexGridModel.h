@@ -29,6 +29,8 @@ public:
     const CellSource &source() const { return *m_source; }
     // Replaces all cells (model reset). `source` must not be null.
     void setSource(std::unique_ptr<CellSource> source);
+    // Takes a source with the same cells and further rows below them, if any (rows inserted). Not null.
+    void growTo(std::unique_ptr<CellSource> source);
     // Writes one cell in grid coordinates, headings included; false when the source can't be written.
     bool setText(int row, int col, const QString &text);
 

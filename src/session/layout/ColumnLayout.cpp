@@ -110,14 +110,12 @@ bool ColumnLayout::columnsFit() const
     return m_grid.widthOfColumns() <= m_grid.width();
 }
 
-std::optional<double> ColumnLayout::shareOfWidth(qsizetype shown) const
+std::optional<double> ColumnLayout::shareOfWidth(int gridWidth, qsizetype columns)
 {
-    if (m_history.Count() == 0 || shown < 1)
-        return std::nullopt;
-    const int room = m_grid.width() - scrollBarMargin - rowHeadingMargin;
-    if (room < shown)
-        return std::nullopt; // no room at all: better too wide than gone
-    return static_cast<double>(room) / static_cast<double>(shown);
+    const int room = gridWidth - scrollBarMargin - rowHeadingMargin;
+    if (columns < 1 || room < columns)
+        return std::nullopt; // better too wide than gone
+    return static_cast<double>(room) / static_cast<double>(columns);
 }
 
 void ColumnLayout::fitColumns(int (*round)(double), bool showsHidden)
@@ -127,7 +125,9 @@ void ColumnLayout::fitColumns(int (*round)(double), bool showsHidden)
         if (showsHidden || m_grid.ColWidth(col) != 0)
             columns.push_back(col);
     }
-    const std::optional<double> share = shareOfWidth(static_cast<qsizetype>(columns.size()));
+    if (m_history.Count() == 0)
+        return;
+    const std::optional<double> share = shareOfWidth(m_grid.width(), static_cast<qsizetype>(columns.size()));
     for (const int col : share ? columns : std::vector<int>())
         m_grid.PutColWidth(col, round(*share));
 }

@@ -54,10 +54,10 @@ public:
     // hidden ones as well when `showsHidden`. Nothing changes when no field is shown or there is no room.
     void fitColumns(int (*round)(double twips), bool showsHidden = false);
     bool columnsFit() const;
+    // What each of so many columns gets of a grid's width, in twips; nothing where there is no room at all.
+    static std::optional<double> shareOfWidth(int gridWidth, qsizetype columns);
 
 private:
-    std::optional<double> shareOfWidth(qsizetype shown) const;
-
     ColumnView &m_grid;
     colShowSQLSentences &m_history;
 };

@@ -25,6 +25,7 @@ struct OdbcEngine
     // itself keeps functions in a query from that (SQL Server, Oracle) or knows no such thing.
     QString beginReading;
     QString endReading;
+    bool rollbackClosesCursors = false; // and the driver knows it
     // After beginReading: has the engine plan queries for all their rows, as they are read. Not every engine
     // that goes by the name knows it.
     QString planForAllRows;

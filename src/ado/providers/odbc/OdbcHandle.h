@@ -13,6 +13,7 @@
 namespace ADODB {
 
 struct OdbcTable;
+struct OdbcTableFields;
 
 // The environment and connection handles of one connection. Its statements share it, so that a connection
 // that is closed while one of them still reads ends when that one does.
@@ -50,6 +51,8 @@ public:
     void setPlansForAllRows(bool does) { m_plansForAllRows = does; }
     // What the catalogue said about the tables in this session, by their names in a statement.
     QHash<QString, std::shared_ptr<const OdbcTable>> &tables() { return m_tables; }
+    // What statements for all columns of a table have shown, likewise.
+    QHash<QString, std::shared_ptr<const OdbcTableFields>> &tableFields() { return m_tableFields; }
     // How many OdbcReading there are.
     int readings() const { return m_readings; }
     void setReadings(int readings) { m_readings = readings; }
@@ -67,6 +70,7 @@ private:
     std::atomic<int> m_readings = 0;
     bool m_plansForAllRows = true;
     QHash<QString, std::shared_ptr<const OdbcTable>> m_tables;
+    QHash<QString, std::shared_ptr<const OdbcTableFields>> m_tableFields;
     QStringList m_secrets;
 };
 

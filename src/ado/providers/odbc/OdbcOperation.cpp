@@ -3,6 +3,8 @@
 #include "ado/Error.h"
 #include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcHandle.h"
+#include "ado/providers/odbc/OdbcRowFeed.h"
+#include "ado/rows/RowStore.h"
 
 #include <QtCore/QDeadlineTimer>
 
@@ -50,6 +52,7 @@ void OdbcOperation::run(std::function<void()> work, const Wait &wait)
     const auto operation = std::make_shared<OdbcOperation>();
     operation->m_timeout = wait.limit;
     operation->m_due = after(wait.limit);
+    operation->m_feed = wait.feed;
     std::thread([operation, work = std::move(work)]() mutable {
         theCurrent = operation.get();
         try {
@@ -119,6 +122,13 @@ void OdbcOperation::check() const
 {
     if (m_stop != Stop::None)
         throwStopped();
+}
+
+void OdbcOperation::report(const RowStore &rows)
+{
+    m_rows = rows.rows();
+    if (m_feed)
+        m_feed->put(rows);
 }
 
 // The one that stops sets its mark and then looks at this one; so at least one of the two sees the other's.

@@ -15,6 +15,8 @@ namespace ADODB {
 class Error;
 class OdbcConnection;
 class OdbcHandle;
+class OdbcRowFeed;
+class RowStore;
 
 // The rules for threads of this provider.
 //
@@ -38,6 +40,8 @@ public:
         std::function<bool(qint64 rows)> shouldContinue;
         // Seconds that the whole may take, 0 for ever.
         int limit = 0;
+        // Gets the rows that are read, for the caller to look at meanwhile; may be null.
+        std::shared_ptr<OdbcRowFeed> feed = {};
     };
 
     // Runs `work` as an operation; within one, in its thread. Throws what it throws, dbErrCancelled when
@@ -58,7 +62,7 @@ public:
     void check() const;
     // From here on, until it is set to false, the server may be saving. Throws when it is to stop.
     void setSaving(bool isSaving);
-    void setRows(qint64 rows) { m_rows = rows; }
+    void report(const RowStore &rows);
 
     // The server's session that `owner` uses in this operation.
     std::shared_ptr<OdbcConnection> lease(const void *owner) const;
@@ -77,6 +81,7 @@ private:
     std::atomic<Stop> m_stop = Stop::None;
     std::atomic<bool> m_saving = false;
     std::atomic<qint64> m_rows = 0;
+    std::shared_ptr<OdbcRowFeed> m_feed;
     std::atomic<qint64> m_due = 0; // milliseconds of the steady clock; 0 for never
     std::atomic<int> m_timeout = 0;
     QSemaphore m_done;

@@ -3,6 +3,7 @@
 #include "ado/Error.h"
 #include "ado/connection/Waiting.h"
 #include "ado/providers/odbc/OdbcOperation.h"
+#include "ado/providers/odbc/OdbcRowFeed.h"
 #include "ado/providers/odbc/OdbcSession.h"
 #include "ado/providers/odbc/reading/OdbcStatement.h"
 #include "ado/providers/odbc/writing/OdbcRowWriter.h"
@@ -43,6 +44,7 @@ OdbcWaitingStatement::OdbcWaitingStatement(std::shared_ptr<OdbcSession> session,
                                            std::shared_ptr<OdbcStatement> statement)
     : m_session(std::move(session)),
       m_statement(std::move(statement)),
+      m_feed(std::make_shared<OdbcRowFeed>()),
       m_fields(m_statement->fields()),
       m_columns(m_statement->columns()),
       m_whyReadOnly(m_statement->whyReadOnly())
@@ -70,11 +72,16 @@ void OdbcWaitingStatement::fetch(RowStore &rows, const std::function<bool(qint64
 {
     const auto own = std::make_shared<RowStore>(std::move(rows));
     OdbcOperation::run([statement = std::move(m_statement), own] { statement->fetch(*own); },
-                       {shouldContinue});
+                       {shouldContinue, 0, m_feed});
     rows = std::move(*own);
     // However quick it was, the caller has been asked.
     if (!shouldContinue(rows.rows()))
         throw OdbcOperation::cancelled();
+}
+
+std::shared_ptr<const RowStore> OdbcWaitingStatement::rowsSoFar() const
+{
+    return m_feed->latest();
 }
 
 OdbcWaitingWriter::OdbcWaitingWriter(std::shared_ptr<OdbcRowWriter> writer) : m_writer(std::move(writer)) {}

@@ -4,6 +4,7 @@
 
 namespace ADODB {
 
+class OdbcRowFeed;
 class OdbcRowWriter;
 class OdbcSession;
 class OdbcStatement;
@@ -21,11 +22,13 @@ public:
     int columns() const override { return m_columns; }
     void fetch(RowStore &rows, const std::function<bool(qint64)> &shouldContinue) override;
     std::unique_ptr<RowWriter> releaseWriter() override { return std::move(m_writer); }
+    std::shared_ptr<const RowStore> rowsSoFar() const override;
     QString whyReadOnly() const override { return m_whyReadOnly; }
 
 private:
     std::shared_ptr<OdbcSession> m_session;
     std::shared_ptr<OdbcStatement> m_statement; // until it was fetched
+    const std::shared_ptr<OdbcRowFeed> m_feed;
     std::vector<FieldInfo> m_fields;
     int m_columns;
     std::unique_ptr<RowWriter> m_writer;

@@ -13,10 +13,10 @@ SQLRETURN OdbcWatch::run(const std::function<SQLRETURN()> &call) const
     return operation ? operation->call(m_statement, m_timeout, call) : call();
 }
 
-void OdbcWatch::ask(qint64 rows) const
+void OdbcWatch::ask(const RowStore &rows) const
 {
     if (OdbcOperation *const operation = OdbcOperation::current()) {
-        operation->setRows(rows);
+        operation->report(rows);
         operation->check();
     }
 }

@@ -7,6 +7,7 @@
 namespace ADODB {
 
 class OdbcHandle;
+class RowStore;
 
 // Calls of an operation that can wait for the server and can be stopped by one statement; see OdbcOperation.
 class OdbcWatch
@@ -18,8 +19,8 @@ public:
     // Answers what the call answered. Throws dbErrCancelled when the operation was stopped, and dbErrFailed
     // when it took too long.
     SQLRETURN run(const std::function<SQLRETURN()> &call) const;
-    // Reports how many rows have been read, and throws as run() does.
-    void ask(qint64 rows) const;
+    // Reports the rows that have been read, and throws as run() does.
+    void ask(const RowStore &rows) const;
 
 private:
     const OdbcHandle &m_statement;

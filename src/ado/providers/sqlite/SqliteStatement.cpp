@@ -7,6 +7,8 @@
 #include "ado/providers/sqlite/SqliteTypes.h"
 #include "ado/rows/RowStore.h"
 
+#include <QtCore/QScopedValueRollback>
+
 #include <sqlite3.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -148,6 +150,7 @@ void SqliteStatement::learnTypes()
 
 void SqliteStatement::fetch(RowStore &rows, const std::function<bool(qint64)> &shouldContinue)
 {
+    const QScopedValueRollback<const RowStore *> fetching(m_fetched, &rows);
     sqlite3 *const db = sqlite3_db_handle(m_statement.get());
     const ProgressWatch watch(db, [&] { return shouldContinue(rows.rows()); });
     qint64 nextQuestion = 0;
@@ -162,6 +165,11 @@ void SqliteStatement::fetch(RowStore &rows, const std::function<bool(qint64)> &s
         }
     }
     sqlite3_reset(m_statement.get());
+}
+
+std::shared_ptr<const RowStore> SqliteStatement::rowsSoFar() const
+{
+    return m_fetched && m_fetched->rows() > 0 ? std::make_shared<const RowStore>(*m_fetched) : nullptr;
 }
 
 void appendCurrentRow(sqlite3_stmt *statement, RowStore &rows)

@@ -14,6 +14,7 @@ public:
     int columns() const override;
     void fetch(RowStore &rows, const std::function<bool(qint64)> &shouldContinue) override;
     std::unique_ptr<RowWriter> releaseWriter() override { return std::move(m_writer); }
+    std::shared_ptr<const RowStore> rowsSoFar() const override;
     QString whyReadOnly() const override { return m_whyReadOnly; }
 
 private:
@@ -23,6 +24,7 @@ private:
 
     std::shared_ptr<SqliteSession> m_session;
     SqliteHandle m_statement;
+    const RowStore *m_fetched = nullptr; // while rows are fetched
     std::vector<FieldInfo> m_fields;
     std::vector<int> m_untyped; // columns whose type waits for their first value
     std::unique_ptr<RowWriter> m_writer;

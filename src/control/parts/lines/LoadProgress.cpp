@@ -8,9 +8,11 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollBar>
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -36,6 +38,44 @@ bool isInput(const QEvent &event)
         return event.spontaneous(); // by the user, or by close() of a window that is seen
     default:
         return event.isInputEvent();
+    }
+}
+
+// Whether it is the mouse over one part of the window.
+bool isFor(const QWidget *part, const QObject &watched, const QEvent &event)
+{
+    if (!part || !event.isPointerEvent())
+        return false;
+    if (watched.isWidgetType()) {
+        const auto &widget = static_cast<const QWidget &>(watched);
+        return &widget == part || part->isAncestorOf(&widget);
+    }
+    // On its way to a widget a pointer event comes by the window first.
+    const auto &points = static_cast<const QPointerEvent &>(event).points();
+    return !points.isEmpty() &&
+           part->rect().contains(part->mapFromGlobal(points.front().globalPosition()).toPoint());
+}
+
+// Nothing for a key that doesn't scroll.
+std::optional<QAbstractSlider::SliderAction> scrollingOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Up:
+    case Qt::Key_Left:
+        return QAbstractSlider::SliderSingleStepSub;
+    case Qt::Key_Down:
+    case Qt::Key_Right:
+        return QAbstractSlider::SliderSingleStepAdd;
+    case Qt::Key_PageUp:
+        return QAbstractSlider::SliderPageStepSub;
+    case Qt::Key_PageDown:
+        return QAbstractSlider::SliderPageStepAdd;
+    case Qt::Key_Home:
+        return QAbstractSlider::SliderToMinimum;
+    case Qt::Key_End:
+        return QAbstractSlider::SliderToMaximum;
+    default:
+        return {};
     }
 }
 
@@ -133,27 +173,28 @@ void LoadProgress::updateLine(qint64 rowsDone)
 bool LoadProgress::eventFilter(QObject *watched, QEvent *event)
 {
     // A dialog that waits for its user would otherwise wait forever, and the load with it.
-    if (!isInput(*event) || QApplication::activeModalWidget() != m_modalBefore || isForLine(*watched, *event))
+    if (!isInput(*event) || QApplication::activeModalWidget() != m_modalBefore ||
+        isFor(m_line, *watched, *event) || isFor(m_view, *watched, *event))
         return false;
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape)
-        m_isCancelled = true;
     event->ignore();
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)
+        takeKey(static_cast<QKeyEvent &>(*event));
     return true;
 }
 
-bool LoadProgress::isForLine(const QObject &watched, const QEvent &event) const
+void LoadProgress::takeKey(QKeyEvent &key)
 {
-    const QWidget *const line = m_line;
-    if (!line || !event.isPointerEvent())
-        return false;
-    if (watched.isWidgetType()) {
-        const auto &widget = static_cast<const QWidget &>(watched);
-        return &widget == line || line->isAncestorOf(&widget);
-    }
-    // On its way to a widget a pointer event comes by the window first.
-    const auto &points = static_cast<const QPointerEvent &>(event).points();
-    return !points.isEmpty() &&
-           line->rect().contains(line->mapFromGlobal(points.front().globalPosition()).toPoint());
+    const bool isPress = key.type() == QEvent::KeyPress;
+    if (isPress && key.key() == Qt::Key_Escape)
+        m_isCancelled = true;
+    const auto scrolling = scrollingOf(key.key());
+    if (!m_view || !scrolling)
+        return;
+    key.accept(); // no shortcut of any command now
+    const bool isSideways = key.key() == Qt::Key_Left || key.key() == Qt::Key_Right;
+    QScrollBar *const bar = isSideways ? m_view->horizontalScrollBar() : m_view->verticalScrollBar();
+    if (isPress)
+        bar->triggerAction(*scrolling);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -6,10 +6,11 @@
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QRect>
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QAbstractScrollArea>
 
 #include <functional>
 
+class QKeyEvent;
 class QLabel;
 class QProgressBar;
 
@@ -20,7 +21,8 @@ namespace KOVAVSFDataGridLib {
 // offers to cancel, by its button or Esc.
 //
 // From then on the application's events are dispatched, so that windows are drawn and timers run, but
-// nothing except the line takes the user's input (a modal dialog that a timer has opened meanwhile does).
+// nothing except the line takes the user's input (a modal dialog that a timer has opened meanwhile does), and
+// a view of what has come, which can be scrolled.
 // Only one can live in a process; the session that makes it sees to that.
 class LoadProgress final : public QObject, public OpeningProgress
 {
@@ -39,6 +41,8 @@ public:
     // May still be called once it has answered false: it then goes on painting.
     bool shouldContinue(qint64 rowsDone) override;
     bool isWindowGone() const { return m_isWindowGone; }
+    // This one takes the mouse, and wherever the focus is the keys that scroll.
+    void setScrolledView(QAbstractScrollArea *view) { m_view = view; }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -46,7 +50,7 @@ protected:
 private:
     void showLine();
     void updateLine(qint64 rowsDone);
-    bool isForLine(const QObject &watched, const QEvent &event) const;
+    void takeKey(QKeyEvent &key);
 
     QWidget &m_window;
     const std::function<QRect()> m_place;
@@ -54,6 +58,7 @@ private:
     const qint64 m_total; // 0 when nobody knows
     QString m_cancelHint;
     QPointer<QWidget> m_line; // null during the first half second; a child of the window
+    QPointer<QAbstractScrollArea> m_view;
     QLabel *m_count = nullptr;
     QProgressBar *m_bar = nullptr;
     QPointer<QWidget> m_modalBefore;

@@ -89,13 +89,15 @@ void OdbcQuery::askForDatesAsText()
     m_statement->prepare(m_text);
 }
 
-void OdbcQuery::read(RowStore &rows, int timeout)
+void OdbcQuery::read(RowStore &rows, int timeout, const std::function<void()> &atEnd)
 {
     const OdbcWatch watch(*m_statement, timeout);
     bool done = false;
     if (m_engine.asksAgain || OdbcBlockReader::haveRoom(m_columns)) {
         OdbcBlockReader reader(*m_statement, m_columns, m_engine.asksAgain);
         done = readAll(reader, rows, watch);
+        if (done && atEnd)
+            atEnd();
     }
     if (!done) {
         rows.clear();
@@ -118,7 +120,7 @@ bool OdbcQuery::readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &wat
     while (reader.fetch(watch)) {
         if (!reader.append(rows))
             return false;
-        watch.ask(rows.rows());
+        watch.ask(rows);
     }
     return true;
 }

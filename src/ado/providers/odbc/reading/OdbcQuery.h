@@ -3,6 +3,7 @@
 #include "ado/FieldInfo.h"
 #include "ado/providers/odbc/reading/OdbcReader.h"
 
+#include <functional>
 #include <memory>
 
 namespace ADODB {
@@ -28,8 +29,9 @@ public:
     // For binding parameters.
     const OdbcHandle &handle() const { return *m_statement; }
 
-    // Runs it and appends all rows. See OdbcWatch for the errors.
-    void read(RowStore &rows, int timeout);
+    // Runs it and appends all rows. `atEnd` is called after the last one, while the cursor is still open. See
+    // OdbcWatch for the errors.
+    void read(RowStore &rows, int timeout, const std::function<void()> &atEnd = {});
 
 private:
     void prepare(int timeout);

@@ -7,7 +7,9 @@
 #include "ado/providers/odbc/reading/OdbcQuery.h"
 #include "ado/providers/odbc/reading/OdbcRefusal.h"
 #include "ado/providers/odbc/writing/OdbcRowWriter.h"
+#include "ado/providers/odbc/writing/OdbcTable.h"
 #include "ado/rows/RowStore.h"
+#include "sql/SimpleSelect.h"
 #include "sql/SqlScanner.h"
 
 #include <QtCore/QScopeGuard>
@@ -15,6 +17,8 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
+
+using KOVAVSFDataGridLib::SimpleSelect;
 
 namespace {
 
@@ -84,6 +88,7 @@ void OdbcStatement::prepare(const SqlScanner &scanner, Access access, int timeou
     if (likely.isEmpty()) {
         m_query = std::make_unique<OdbcQuery>(m_connection, m_session->engine(), scanner.sql(), timeout);
         m_fields = m_query->fields();
+        rememberTable(scanner);
     }
     if (m_fields.empty())
         throw Error(dbErrPermissionDenied, Texts::notAQuery(), u"ODBC"_s, u"42000"_s);
@@ -97,6 +102,15 @@ void OdbcStatement::prepare(const SqlScanner &scanner, Access access, int timeou
     m_text = scanner.sql();
 }
 
+void OdbcStatement::rememberTable(const SqlScanner &scanner)
+{
+    const SimpleSelect select = SimpleSelect::parse(scanner);
+    const bool isWhole = select.fault == SimpleSelect::Fault::None && select.items.size() == 1 &&
+                         select.items.front().all && !m_fields.empty();
+    if (isWhole)
+        m_connection->tableFields()[select.tableText] = OdbcTableFields::of(m_query->handle(), m_fields);
+}
+
 // Where the table is known already, the statement with the hidden key is prepared at once. Empty when it is
 // not, or turns out to be another one.
 QString OdbcStatement::prepareLikely(const SqlScanner &scanner, int timeout)
@@ -104,7 +118,7 @@ QString OdbcStatement::prepareLikely(const SqlScanner &scanner, int timeout)
     std::size_t shown = 0;
     std::size_t all = 0;
     const QString likely =
-        OdbcTarget::likelyStatement(*m_connection, m_session->engine(), scanner, shown, all);
+        OdbcTarget::likelyStatement(m_connection, m_session->engine(), scanner, shown, all);
     if (likely.isEmpty())
         return {};
     try {
@@ -148,13 +162,18 @@ void OdbcStatement::fetch(RowStore &rows)
 {
     const int timeout = m_session->commandTimeout();
     const auto released = qScopeGuard([this] { release(); });
+    // Where that closes the cursor as well, it saves a way to the server.
+    const auto endReading = [this] {
+        if (m_session->engine().rollbackClosesCursors)
+            m_reading.reset();
+    };
     try {
-        m_query->read(rows, timeout);
+        m_query->read(rows, timeout, endReading);
     } catch (const Error &error) {
         if (!waitForLocks(error, m_text, timeout))
             throw;
         rows.clear();
-        m_query->read(rows, timeout);
+        m_query->read(rows, timeout, endReading);
     }
 }
 

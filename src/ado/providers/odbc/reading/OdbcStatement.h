@@ -35,6 +35,8 @@ public:
 
 private:
     void prepare(const SqlScanner &scanner, Access access, int timeout);
+    // What the query that was just prepared says about all columns of a table.
+    void rememberTable(const SqlScanner &scanner);
     QString prepareLikely(const SqlScanner &scanner, int timeout);
     // `prepared` is the statement that m_query is for, empty when that is the user's.
     void prepareWriter(const SqlScanner &scanner, const QString &prepared, int timeout);

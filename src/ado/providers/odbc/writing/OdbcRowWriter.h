@@ -50,6 +50,8 @@ private:
     // Runs a statement with a condition on `row` that changes it.
     qint64 changeRow(const QString &sql, const std::vector<Change> &changes, const std::vector<RawValue> &row,
                      const Key &key) const;
+    // Whether a row that was there, and that a deletion did not count, is gone.
+    bool isGoneUncounted(const Key &key, int columns) const;
     // Both run the statement with a condition on the row and read the row again: under the key that the
     // database answers, or under the one that the changes make of it.
     void updateAndReturn(const QString &sql, const std::vector<Change> &changes, const Key &before,

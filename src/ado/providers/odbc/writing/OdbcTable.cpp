@@ -72,11 +72,9 @@ QString stored(const QString &name, bool quoted, SQLUSMALLINT identifierCase)
     return name;
 }
 
-Name fullName(const OdbcHandle &probe, const OdbcConnection &connection, const SimpleSelect &select,
-              const std::vector<FieldInfo> &fields)
+Name fullName(const OdbcTableFields &all, const OdbcConnection &connection, const SimpleSelect &select)
 {
-    Name name{probe.columnText(0, SQL_DESC_CATALOG_NAME), probe.columnText(0, SQL_DESC_SCHEMA_NAME),
-              fields.front().baseTable};
+    Name name{all.catalog, all.schema, all.fields.front().baseTable};
     if (name.table.isEmpty()) {
         const bool quoted = !select.tableText.endsWith(select.table);
         const SQLUSMALLINT identifierCase = connection.shortNumber(SQL_IDENTIFIER_CASE);
@@ -210,18 +208,21 @@ QStringList neverNull(const std::shared_ptr<OdbcConnection> &connection, const N
     return columns;
 }
 
-// Empty for what can be read but not as a whole: MariaDB's DUAL, or a table of which this user may see only
-// some columns.
-std::vector<FieldInfo> allFields(const OdbcHandle &probe, const OdbcEngine &engine,
-                                 const SimpleSelect &select)
+// Without fields for what can be read but not as a whole: MariaDB's DUAL, or a table of which this user may
+// see only some columns.
+std::shared_ptr<const OdbcTableFields> allFields(const std::shared_ptr<OdbcConnection> &connection,
+                                                 const OdbcEngine &engine, const SimpleSelect &select)
 {
+    if (const auto seen = OdbcTableFields::seenLately(*connection, select))
+        return seen;
+    const OdbcHandle probe(connection);
     try {
         probe.prepare("SELECT * FROM "_L1 + select.tableText);
-        return describeColumns(probe);
+        return OdbcTableFields::of(probe, describeColumns(probe));
     } catch (const Error &) {
-        if (probe.connection()->isLost() || !OdbcReading::renew(probe.connection(), engine))
+        if (connection->isLost() || !OdbcReading::renew(connection, engine))
             throw;
-        return {};
+        return std::make_shared<const OdbcTableFields>();
     }
 }
 
@@ -232,17 +233,33 @@ bool isComparable(const FieldInfo &field)
 
 } // namespace
 
+std::shared_ptr<const OdbcTableFields> OdbcTableFields::of(const OdbcHandle &described,
+                                                           const std::vector<FieldInfo> &fields)
+{
+    return std::make_shared<const OdbcTableFields>(
+        OdbcTableFields{fields, described.columnText(0, SQL_DESC_CATALOG_NAME),
+                        described.columnText(0, SQL_DESC_SCHEMA_NAME), std::chrono::steady_clock::now()});
+}
+
+std::shared_ptr<const OdbcTableFields> OdbcTableFields::seenLately(OdbcConnection &connection,
+                                                                   const SimpleSelect &select)
+{
+    constexpr std::chrono::seconds moment(5);
+    const auto seen = connection.tableFields().value(select.tableText);
+    return seen && std::chrono::steady_clock::now() - seen->seen < moment ? seen : nullptr;
+}
+
 OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
                           const SimpleSelect &select)
 {
-    const OdbcHandle probe(connection);
-    const std::vector<FieldInfo> fields = allFields(probe, engine, select);
+    const auto all = allFields(connection, engine, select);
+    const std::vector<FieldInfo> &fields = all->fields;
     OdbcTable table;
     if (fields.empty()) {
         table.whyReadOnly = Texts::readOnlyNoTable();
         return table;
     }
-    const Name name = fullName(probe, *connection, select, fields);
+    const Name name = fullName(*all, *connection, select);
     // Some drivers name what is behind a view.
     // Each question is a way to the server and back, so one that a key has answered is not asked.
     table.key = primaryKey(connection, name);

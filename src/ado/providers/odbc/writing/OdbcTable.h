@@ -4,6 +4,7 @@
 
 #include <QtCore/QStringList>
 
+#include <chrono>
 #include <memory>
 #include <vector>
 
@@ -16,7 +17,24 @@ namespace ADODB {
 using KOVAVSFDataGridLib::SimpleSelect;
 
 class OdbcConnection;
+class OdbcHandle;
 struct OdbcEngine;
+
+// All columns of a table, as a statement for them was described, and the table's full name. Each way to the
+// server is a wait, so what one statement has shown is not asked for again by the next one.
+struct OdbcTableFields
+{
+    std::vector<FieldInfo> fields; // empty for what can't be read as a whole
+    QString catalog;
+    QString schema;
+    std::chrono::steady_clock::time_point seen;
+
+    static std::shared_ptr<const OdbcTableFields> of(const OdbcHandle &described,
+                                                     const std::vector<FieldInfo> &fields);
+    // What the session has seen a moment ago; null when it hasn't. Somebody may alter the table later.
+    static std::shared_ptr<const OdbcTableFields> seenLately(OdbcConnection &connection,
+                                                             const SimpleSelect &select);
+};
 
 // What the database's catalogue says about the table of a statement.
 struct OdbcTable

@@ -66,6 +66,14 @@ bool agrees(const OdbcTable &table, const SimpleSelect &select, const std::vecto
     return field == fields.size();
 }
 
+// Null when rows can't be written.
+std::shared_ptr<const OdbcTable> writableTable(const std::shared_ptr<OdbcConnection> &connection,
+                                               const OdbcEngine &engine, const SimpleSelect &select)
+{
+    const OdbcTable table = OdbcTable::find(connection, engine, select);
+    return table.whyReadOnly.isEmpty() ? std::make_shared<const OdbcTable>(table) : nullptr;
+}
+
 // Asks the catalogue once in a session, and again where the table was changed. What can't be written is asked
 // for each time, because it may become a table.
 OdbcTable tableOf(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
@@ -145,12 +153,17 @@ OdbcTarget OdbcTarget::find(const std::shared_ptr<OdbcConnection> &connection, c
     return target;
 }
 
-QString OdbcTarget::likelyStatement(OdbcConnection &connection, const OdbcEngine &engine,
-                                    const SqlScanner &statement, std::size_t &shown, std::size_t &all)
+QString OdbcTarget::likelyStatement(const std::shared_ptr<OdbcConnection> &connection,
+                                    const OdbcEngine &engine, const SqlScanner &statement, std::size_t &shown,
+                                    std::size_t &all)
 {
     const SimpleSelect select = SimpleSelect::parse(statement);
-    const auto table = connection.tables().value(select.tableText);
-    if (select.fault != SimpleSelect::Fault::None || !table)
+    if (select.fault != SimpleSelect::Fault::None)
+        return {};
+    auto &table = connection->tables()[select.tableText];
+    if (!table && OdbcTableFields::seenLately(*connection, select))
+        table = writableTable(connection, engine, select);
+    if (!table)
         return {};
     QStringList names;
     for (const SimpleSelect::Item &item : select.items)

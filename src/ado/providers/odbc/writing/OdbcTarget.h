@@ -49,8 +49,9 @@ struct OdbcTarget
     // The `statement` that find() will answer, as far as can be told from what the session knows about the
     // table; empty when it can't, or when nothing will be hidden. `shown` is how many of its `all` columns
     // are the user's.
-    static QString likelyStatement(OdbcConnection &connection, const OdbcEngine &engine,
-                                   const SqlScanner &statement, std::size_t &shown, std::size_t &all);
+    static QString likelyStatement(const std::shared_ptr<OdbcConnection> &connection,
+                                   const OdbcEngine &engine, const SqlScanner &statement, std::size_t &shown,
+                                   std::size_t &all);
     static OdbcTarget find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
                            const SqlScanner &statement, const std::vector<FieldInfo> &fields);
 

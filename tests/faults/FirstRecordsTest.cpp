@@ -1,0 +1,102 @@
+// The first records of a result that takes long, over a server: they are seen while the rest is read, and
+// whatever happens to the server, what was shown before comes back.
+#include "FaultFixture.h"
+
+#include "../support/OpeningView.h"
+
+#include <QtCore/QTimer>
+#include <QtTest/QTest>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QScrollBar>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// MariaDB's driver gives no record before it has all.
+class FirstRecordsOfServer : public FaultFixture
+{
+protected:
+    // Reads more than any test waits for; `act` is called as soon as the user sees the first records and the
+    // line below them, again and again until it answers true.
+    bool loadEndless(const std::function<bool()> &act)
+    {
+        bool isDone = false;
+        QTimer user;
+        QObject::connect(&user, &QTimer::timeout, &user, [&] {
+            isDone = isDone || (opening.view() && hands->grid.findChild<QProgressBar *>() && act());
+        });
+        user.start(0);
+        const bool isLoaded = load(QString::fromLatin1(engine.endless));
+        EXPECT_TRUE(isDone) << "nothing was seen";
+        return isLoaded;
+    }
+    QString cell(int row, int column) const
+    {
+        return opening.view()->model()->index(row, column).data().toString();
+    }
+    void cancel() { QTest::keyClick(&hands->grid, Qt::Key_Escape); }
+    void expectNothingLeft() const
+    {
+        EXPECT_EQ(opening.view(), nullptr);
+        EXPECT_GT(opening.paintings(), 0);
+        expectAsLoaded();
+    }
+
+    OpeningView opening;
+};
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Servers, FirstRecordsOfServer, testing::Values(faultEngines[0]),
+                         [](const auto &engine) { return std::string(engine.param.name); });
+
+TEST_P(FirstRecordsOfServer, AreSeenAndScrolledWhileTheRestIsRead)
+{
+    ASSERT_TRUE(load());
+    int rows = 0;
+    EXPECT_FALSE(loadEndless([&] {
+        if (rows == 0) {
+            rows = opening.view()->model()->rowCount();
+            EXPECT_GE(rows, 1000);
+            EXPECT_EQ(cell(0, 0), u"1"_s);
+            EXPECT_EQ(cell(999, 1), u"name 1000"_s);
+            QTest::keyClick(&hands->grid, Qt::Key_PageDown);
+            QTest::keyClick(&hands->grid, Qt::Key_PageDown);
+            EXPECT_GT(opening.view()->verticalScrollBar()->value(), 0);
+        }
+        if (opening.view()->model()->rowCount() == rows)
+            return false;
+        const int last = opening.view()->model()->rowCount();
+        EXPECT_EQ(cell(last - 1, 1), u"name %1"_s.arg(last));
+        cancel();
+        return true;
+    }));
+    EXPECT_TRUE(hands->messages.texts().isEmpty()) << "the user knows what he did";
+    expectNothingLeft();
+}
+
+TEST_P(FirstRecordsOfServer, GoAwayWithTheServer)
+{
+    ASSERT_TRUE(load());
+    EXPECT_FALSE(loadEndless([this] {
+        controlServer("kill", engine.server);
+        return true;
+    }));
+    EXPECT_TRUE(loadError().contains(u"连接已断开"));
+    expectNothingLeft();
+}
+
+TEST_P(FirstRecordsOfServer, GoAwayWhenTheUserGivesAFrozenServerUp)
+{
+    ASSERT_TRUE(load());
+    EXPECT_FALSE(loadEndless([this] {
+        controlServer("freeze", engine.server);
+        cancel();
+        return true;
+    }));
+    controlServer("thaw", engine.server);
+    EXPECT_TRUE(hands->messages.texts().isEmpty()) << "the user knows what he did";
+    expectNothingLeft();
+}

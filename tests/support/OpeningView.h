@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QtCore/QEvent>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QTableView>
+
+namespace KovaTest {
+
+// Looks for the view of the records that have come while a statement is being opened, in any window.
+class OpeningView : public QObject
+{
+public:
+    OpeningView() { qApp->installEventFilter(this); }
+
+    // Null while there is none.
+    QTableView *view() const { return m_view; }
+    // How often its cells were painted, also when it is gone again.
+    int paintings() const { return m_paintings; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *const view = qobject_cast<QTableView *>(watched->parent());
+        if (event->type() != QEvent::Paint || !view || view->viewport() != watched ||
+            view->objectName() != QLatin1StringView("vsfgOpening"))
+            return false;
+        if (m_view != view)
+            connect(view, &QObject::destroyed, this, [this] { m_view = nullptr; });
+        m_view = view;
+        ++m_paintings;
+        return false;
+    }
+
+private:
+    QTableView *m_view = nullptr;
+    int m_paintings = 0;
+};
+
+} // namespace KovaTest
