@@ -76,6 +76,10 @@
         <translation>The Access query &quot;%1&quot; needs parameters or uses a feature that is not available here. It cannot be run.</translation>
     </message>
     <message>
+        <source>无法确定 DISTINCTROW 要去掉哪些表的重复记录；请写成 DISTINCT，或在每个字段前写出表名。</source>
+        <translation>It is not known for which tables DISTINCTROW leaves out repeated records. Write DISTINCT instead, or the table before each field.</translation>
+    </message>
+    <message>
         <source>该 Access 数据库的密码不正确或者没有给出：%1</source>
         <translation>The password of this Access database is wrong or missing: %1</translation>
     </message>
@@ -2383,6 +2387,10 @@
     <message>
         <source>查询结果中有多个名为“%1”的字段，请先在语句中用 AS 给它们不同的名称。</source>
         <translation>The result has several fields named &quot;%1&quot;. Give them different names with AS in the statement first.</translation>
+    </message>
+    <message>
+        <source>无法确定字段“%1”属于哪个表，请先在语句中写出各字段的名称，不用“*”。</source>
+        <translation>It is not known which table the field &quot;%1&quot; belongs to. List the fields in the statement instead of &quot;*&quot; first.</translation>
     </message>
     <message>
         <source>查询结果中有没有名称的字段，请先在语句中用 AS 给它命名。</source>
