@@ -21,7 +21,7 @@ struct FilterModule : testing::Test
 {
     FilterRequest request(const QString &sqlShow, AllDBType database = dbAccess) const
     {
-        return {files.connectionString(), database, 0, sqlShow, nullptr};
+        return {files.connectionString(), database, FromTable, sqlShow, nullptr};
     }
     // Shows the prepared dialog and does something with it.
     QString run(const std::function<void(QWidget &)> &act)
