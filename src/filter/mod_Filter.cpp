@@ -28,7 +28,7 @@ void beginWithField(const SetFilter &builder, const QString &field)
 // Its sessions are all alike, and one that nobody else uses can read lists of values in the background.
 bool isServer(const std::shared_ptr<ADODB::Connection> &connection)
 {
-    switch (engineOf(connection)) {
+    switch (engineOf(connection).engine) {
     case Engine::SqlServer:
     case Engine::Oracle:
     case Engine::PostgreSQL:
