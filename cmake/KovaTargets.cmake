@@ -191,3 +191,15 @@ function(kova_translation variable translation)
   set_property(SOURCE ${source} APPEND PROPERTY OBJECT_DEPENDS ${compiled})
   set(${variable} ${source} PARENT_SCOPE)
 endfunction()
+
+# kova_file_version(<target> <description> <file name>): what Windows shows of a file, and finds out whether it is newer
+# than another. Does nothing elsewhere.
+function(kova_file_version target description file)
+  if(NOT WIN32)
+    return()
+  endif()
+  string(REPLACE "." "," numbers ${PROJECT_VERSION})
+  set(resource ${CMAKE_CURRENT_BINARY_DIR}/${target}_version.rc)
+  configure_file(${PROJECT_SOURCE_DIR}/packaging/windows/version.rc.in ${resource} @ONLY)
+  target_sources(${target} PRIVATE ${resource})
+endfunction()

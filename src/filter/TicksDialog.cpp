@@ -115,6 +115,7 @@ ValueRequest TicksDialog::requestFor(const QString &search)
 
 void TicksDialog::choose()
 {
+    m_ticks->stop(); // which uses the connection
     const FilterCondition condition = conditionOf(m_source.dialect(), m_field, m_ticks->ticked());
     if (!condition.fault.isEmpty())
         return Messages::show(this, condition.fault);
