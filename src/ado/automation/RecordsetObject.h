@@ -49,7 +49,7 @@ class KOVA_EXPORT RecordsetObject : public QObject, private RecordsetObserver
     // one of them moves to the first record. Both are determined when they are set: a record that is changed
     // later stays where it is, and a new one is the last. Opening and closing reset them.
     //
-    // Filter is a condition (`name LIKE 'L%' AND (age >= 18 OR age = NULL)`), a list of bookmarks, or an
+    // Filter is a condition (``name LIKE 'L%' AND (age >= 18 OR age = NULL)``), a list of bookmarks, or an
     // empty text or adFilterNone for all records. Sort is a list of fields (`name DESC, id`).
     Q_PROPERTY(QVariant Filter READ filter WRITE setFilter)
     Q_PROPERTY(QString Sort READ sort WRITE setSort)
@@ -84,11 +84,12 @@ public:
     // once. If that fails, no change is left pending.
     Q_INVOKABLE void AddNew(const QVariant &fields, const QVariant &values);
     Q_INVOKABLE void Update(const QVariant &fields, const QVariant &values);
+    // The same as in Recordset.
     Q_INVOKABLE void CancelUpdate();
     Q_INVOKABLE void Delete(qint32 affectRecords = 1);
     Q_INVOKABLE void Resync(qint32 affectRecords = 1, qint32 resyncValues = 2);
 
-    // Moves to the next record that meets a condition on one field (`name = 'Li'`), or to the end. Starts at
+    // Moves to the next record that meets a condition on one field (``name = 'Li'``), or to the end. Starts at
     // the current record or at a bookmark, after `skipRecords`.
     Q_INVOKABLE void Find(const QString &criteria, const QVariant &skipRecords = {},
                           const QVariant &searchDirection = {}, const QVariant &start = {});
