@@ -51,9 +51,9 @@ std::optional<QStringList> foreignValues(Session &session, const ADODB::Field &f
     const auto &connection = session.result().connection();
     if (field.BaseTableName().isEmpty() || field.BaseColumnName().isEmpty() || !connection)
         return std::nullopt;
-    const Engine engine = session.result().engine();
-    const Dialect dialect = dialectOf(session.filterManager().DBType(), engine);
-    const QString statement = referenceStatement(engine, textLiteral(dialect, field.BaseTableName()),
+    const EngineMode mode = session.result().engine();
+    const Dialect dialect = dialectOf(session.filterManager().DBType(), mode);
+    const QString statement = referenceStatement(mode.engine, textLiteral(dialect, field.BaseTableName()),
                                                  textLiteral(dialect, field.BaseColumnName()));
     if (statement.isEmpty())
         return std::nullopt;
