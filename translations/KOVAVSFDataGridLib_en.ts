@@ -1479,8 +1479,8 @@
         <translation>&amp;Delete</translation>
     </message>
     <message>
-        <source>筛选的名称：</source>
-        <translation>Name of the filter:</translation>
+        <source>筛选的名称</source>
+        <translation>Name of the filter</translation>
     </message>
     <message>
         <source>保存筛选</source>
