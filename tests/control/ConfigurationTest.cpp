@@ -1,8 +1,8 @@
 // The INI file beside the library and the one setting of the user.
-#include "control/face/Configuration.h"
+#include "control/settings/Configuration.h"
 #include "ado/ConnectionFactory.h"
 #include "control/face/KOVAVSFDataGrid.h"
-#include "control/face/platform/ModuleFolder.h"
+#include "control/settings/platform/ModuleFolder.h"
 #include "support/TestDatabase.h"
 
 #include <QtCore/QDir>

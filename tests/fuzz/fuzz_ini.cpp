@@ -1,7 +1,7 @@
 // INI files: whatever is in one, an entry is read whole or not at all, and nothing behind it changes it.
 #include "FuzzInput.h"
 
-#include "control/face/Configuration.h"
+#include "control/settings/Configuration.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>

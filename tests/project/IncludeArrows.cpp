@@ -13,9 +13,9 @@ namespace KovaTest {
 namespace {
 
 // Within a room everything may include everything, but these only those that come after them.
-constexpr QLatin1StringView controlFolders[] = {"src/control/face"_L1, "src/control/viewer"_L1,
-                                                "src/control/input"_L1, "src/control/parts"_L1,
-                                                "src/control/connection"_L1};
+constexpr QLatin1StringView controlFolders[] = {"src/control/face"_L1,       "src/control/viewer"_L1,
+                                                "src/control/input"_L1,      "src/control/parts"_L1,
+                                                "src/control/connection"_L1, "src/control/settings"_L1};
 
 // The place of a file's folder in that list; -1 when it isn't there.
 int placeOfFolder(const QString &file)

@@ -2,7 +2,7 @@
 
 #include "activex/server/ModuleUse.h"
 #include "activex/server/QuitKeeper.h"
-#include "control/face/platform/ModuleFolder.h"
+#include "control/settings/platform/ModuleFolder.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>

@@ -1,6 +1,6 @@
 #include "control/face/LayoutKeeper.h"
 
-#include "control/face/Configuration.h"
+#include "control/settings/Configuration.h"
 #include "grid/FlexGrid.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"

@@ -1,10 +1,10 @@
 #include "control/parts/DialogQuestions.h"
 
 #include "ado/Error.h"
-#include "control/face/Configuration.h"
 #include "control/parts/FormatDialog.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/ToolbarIcons.h"
+#include "control/settings/Configuration.h"
 #include "filter/TicksDialog.h"
 #include "filter/mod_Filter.h"
 #include "forms/ExportDialog.h"

@@ -1,4 +1,4 @@
-#include "control/face/platform/ModuleFolder.h"
+#include "control/settings/platform/ModuleFolder.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>

@@ -1,6 +1,6 @@
-#include "control/face/Configuration.h"
+#include "control/settings/Configuration.h"
 
-#include "control/face/platform/ModuleFolder.h"
+#include "control/settings/platform/ModuleFolder.h"
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QDir>
