@@ -147,6 +147,25 @@ QString dayOperand(const Dialect &dialect, const QString &field)
     return inOneForm(dialect, field, u"COALESCE(date(%1), %1)"_s);
 }
 
+QString dayValue(const Dialect &dialect, const QString &field)
+{
+    switch (dialect.engine) {
+    case Engine::SQLite:
+        return u"COALESCE(date(%1), %1)"_s.arg(field);
+    case Engine::Oracle: // whose DATE has a time of day
+        return u"TRUNC(%1)"_s.arg(field);
+    case Engine::SqlServer:
+    case Engine::PostgreSQL:
+    case Engine::MySQL:
+    case Engine::Standard:
+        return u"CAST(%1 AS DATE)"_s.arg(field);
+    case Engine::Access:
+    case Engine::Other:
+        return field;
+    }
+    Q_UNREACHABLE();
+}
+
 QString momentOperand(const Dialect &dialect, const QString &field)
 {
     // A fraction only where there is one, as literals have it; one of more than three decimals is shown as it

@@ -47,8 +47,9 @@ QString dateOperand(const Dialect &dialect, const QString &field);
 QString dayOperand(const Dialect &dialect, const QString &field);
 QString momentOperand(const Dialect &dialect, const QString &field);
 
-// The day of a field of days or moments; the field itself where no way to write it is known.
-QString dayOperand(const Dialect &dialect, const QString &field);
+// The day of a field of days or moments as a value of its own; the field itself where no way to write it is
+// known.
+QString dayValue(const Dialect &dialect, const QString &field);
 
 // Literals for a script that another program runs: without ODBC's escapes, and for the likely engine where
 // the engine isn't known. `text` is the date or the moment in ISO form.

@@ -12,7 +12,7 @@ namespace {
 
 const Command::Registration registration({
     .key = u"ShowNulls"_s,
-    .shortcut = {},
+    .shortcut = u"Ctrl+Alt+N"_s,
     .menu = {33, Command::tr("标出空值(&U)")},
     .isInViewer = true,
     .viewerMenu = {22, Command::tr("标出空值(&U)")},
