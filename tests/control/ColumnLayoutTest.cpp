@@ -38,6 +38,8 @@ struct PlainWindow final : GridWindow
 {
     using GridWindow::GridWindow;
     void showConditions(const QStringList & /*words*/) override {}
+    QWidget &progressWindow() override { return m_grid; }
+    QRect progressPlace() const override { return {}; }
 };
 
 struct Layout : testing::Test

@@ -2,6 +2,7 @@
 #include "GridFixture.h"
 #include "control/face/ControlWindow.h"
 #include "control/input/GridEvents.h"
+#include "control/input/InputEvents.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
@@ -17,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The parts of a second control, put together by hand, whose events go to the first one.
+// The parts of a control, put together without one.
 struct GridMenu : testing::Test
 {
     GridMenu()
@@ -26,7 +27,7 @@ struct GridMenu : testing::Test
         shown.setSession(*session);
         parts.layOut(600, 400);
         window.show();
-        QObject::connect(&control, &KOVAVSFDataGrid::DataMouseUp, &window,
+        QObject::connect(&host, &InputEvents::DataMouseUp, &window,
                          [this] { menusAtMouseUp = menus.count(); });
     }
 
@@ -46,7 +47,7 @@ struct GridMenu : testing::Test
     }
 
     TestDatabase database{u"CREATE TABLE T (ID); INSERT INTO T VALUES (1),(2),(3)"_s};
-    KOVAVSFDataGrid control;
+    InputEvents host;
     QWidget window;
     GridParts parts{window};
     ControlWindow shown{window, parts};
@@ -54,7 +55,7 @@ struct GridMenu : testing::Test
     HostEvents noHost;
     std::shared_ptr<Session> session =
         std::make_shared<Session>(shown, nobody, noHost, ControlRules, parts.Adodc1);
-    GridEvents events{control, parts, *session};
+    GridEvents events{host, parts, *session};
     QSignalSpy menus{&events, &GridEvents::menuWanted};
     qsizetype menusAtMouseUp = -1;
 };
