@@ -107,8 +107,7 @@ void SetFilter::layOut()
     addRow->addWidget(m_add);
     addRow->addWidget(m_groups);
     addRow->addWidget(m_addBrackets);
-    addRow->addSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing));
-    addRow->addWidget(m_sentence, 1);
+    addRow->addStretch(1);
     addRow->addWidget(m_count);
     auto *conditionRow = new QHBoxLayout;
     conditionRow->addWidget(conditionLabel);
@@ -119,6 +118,7 @@ void SetFilter::layOut()
     rows->addLayout(tableRow);
     rows->addWidget(m_scroll, 1);
     rows->addLayout(addRow);
+    rows->addWidget(m_sentence);
     rows->addLayout(conditionRow);
     rows->addWidget(m_notice);
     // Room for the notice from the beginning, so that nothing jumps when there is one.

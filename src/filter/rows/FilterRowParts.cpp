@@ -77,7 +77,8 @@ void FilterRow::layOut()
     m_field->setMinimumWidth(widthOfDigits(*this, 9));
     m_operator->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_operator->setMinimumContentsLength(lettersOfOperators(*this));
-    m_operator->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_operator->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    m_operator->setMinimumWidth(widthOfDigits(*this, 11)); // where the window is narrow
     auto *values = new QWidget(this);
     // Two days, the buttons beside them and the word between them.
     values->setMinimumWidth(widthOfDigits(*this, 36) + fontMetrics().horizontalAdvance(m_to->text()));
