@@ -45,7 +45,8 @@ ValueDialog *openViewer(const VSFlexGrid &grid)
 
 } // namespace
 
-GridWindow::GridWindow(VSFlexGrid &grid, GridToolbar &toolbar) : m_grid(grid), m_toolbar(toolbar)
+GridWindow::GridWindow(VSFlexGrid &grid, GridToolbar &toolbar)
+    : m_grid(grid), m_toolbar(toolbar), m_links(std::make_unique<LinkPointer>(grid))
 {
     grid.PutHasColumnMenus(true);
     // Once for all that an event changes.
@@ -54,9 +55,11 @@ GridWindow::GridWindow(VSFlexGrid &grid, GridToolbar &toolbar) : m_grid(grid), m
     QObject::connect(later, &QTimer::timeout, &grid, [this] { followValue(); });
     QObject::connect(grid.selectionModel(), &QItemSelectionModel::currentChanged, later,
                      qOverload<>(&QTimer::start));
-    auto *links = new LinkPointer(grid); // which the grid owns
-    QObject::connect(links, &LinkPointer::clicked, &grid, [this](const QUrl &link) { openLink(link); });
+    QObject::connect(m_links.get(), &LinkPointer::clicked, &grid,
+                     [this](const QUrl &link) { openLink(link); });
 }
+
+GridWindow::~GridWindow() = default;
 
 int GridWindow::Cols() const
 {

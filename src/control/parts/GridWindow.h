@@ -11,6 +11,7 @@ namespace KOVAVSFDataGridLib {
 
 class GridToolbar;
 class HistoryMenu;
+class LinkPointer;
 class PopupMenu;
 class ResultFinder;
 class Session;
@@ -22,6 +23,7 @@ class GridWindow : public SessionWindow
 public:
     // Both must outlive this object.
     GridWindow(VSFlexGrid &grid, GridToolbar &toolbar);
+    ~GridWindow() override;
 
     int Cols() const override;
     QStringList Headings() const override;
@@ -89,6 +91,7 @@ private:
     void showHeadingMarks();
     void followValue();
 
+    const std::unique_ptr<LinkPointer> m_links;
     // By the latest opening, until the result is shown. What shows an opening can outlive this object.
     const std::shared_ptr<std::optional<QPoint>> m_scrolled = std::make_shared<std::optional<QPoint>>();
 };

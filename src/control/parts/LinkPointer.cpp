@@ -13,8 +13,7 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-LinkPointer::LinkPointer(VSFlexGrid &grid)
-    : QObject(&grid), m_grid(grid), m_line(new QWidget(grid.viewport()))
+LinkPointer::LinkPointer(VSFlexGrid &grid) : m_grid(grid), m_line(new QWidget(grid.viewport()))
 {
     m_line->setObjectName(u"LinkLine"_s);
     m_line->setAttribute(Qt::WA_TransparentForMouseEvents);

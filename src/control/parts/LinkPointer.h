@@ -20,7 +20,7 @@ class LinkPointer final : public QObject
     Q_OBJECT
 
 public:
-    // A child of the grid.
+    // The grid must outlive this object: what it reports while it goes would still reach it.
     explicit LinkPointer(VSFlexGrid &grid);
 
 Q_SIGNALS:
