@@ -6,8 +6,8 @@
 #include "session/Session.h"
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
-#include "sql/StatementLines.h"
 #include "session/statement/LoadedTable.h"
+#include "sql/StatementLines.h"
 
 #include <QtCore/QScopedValueRollback>
 

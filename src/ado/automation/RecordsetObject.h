@@ -89,8 +89,8 @@ public:
     Q_INVOKABLE void Delete(qint32 affectRecords = 1);
     Q_INVOKABLE void Resync(qint32 affectRecords = 1, qint32 resyncValues = 2);
 
-    // Moves to the next record that meets a condition on one field (``name = 'Li'``), or to the end. Starts at
-    // the current record or at a bookmark, after `skipRecords`.
+    // Moves to the next record that meets a condition on one field (``name = 'Li'``), or to the end. Starts
+    // at the current record or at a bookmark, after `skipRecords`.
     Q_INVOKABLE void Find(const QString &criteria, const QVariant &skipRecords = {},
                           const QVariant &searchDirection = {}, const QVariant &start = {});
     // A list of values for each field, of the records from the current one or a bookmark on: all, or as many

@@ -19,8 +19,7 @@ std::shared_ptr<const Recordset> Recordset::soFar() const
     auto recordset = std::make_shared<Recordset>();
     recordset->d->fields.reset(*recordset, statement->fields());
     recordset->d->editor.emplace(nullptr, Texts::openedReadOnly());
-    recordset->d->shared =
-        std::make_shared<SharedRows>(SharedRows{Snapshot(statement->fields(), *rows), {}});
+    recordset->d->shared = std::make_shared<SharedRows>(SharedRows{Snapshot(statement->fields(), *rows), {}});
     recordset->d->position.reset(rows->rows());
     return recordset;
 }

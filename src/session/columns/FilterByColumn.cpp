@@ -48,18 +48,18 @@ void remember(Session &session, const QString &field, const ValuesAnswer &answer
     }
 }
 
-void show(Session &session, const QString &field, const std::optional<Choice> &inForce,
+void show(Session &session, const QString &field, const std::optional<Choice> &current,
           const ValuesAnswer &answer)
 {
     if (answer.condition.isEmpty()) {
-        if (inForce)
-            removeCondition(session, inForce->place);
+        if (current)
+            removeCondition(session, current->place);
         return;
     }
     FilterManagerRollback rollback(session);
     QString statement;
-    if (inForce)
-        statement = statementWith(session, inForce->place, answer.condition);
+    if (current)
+        statement = statementWith(session, current->place, answer.condition);
     else if (!session.addCondition(answer.condition, statement))
         return;
     if (!session.reloadFiltered(statement, true))
@@ -73,14 +73,14 @@ void filterByColumn(Session &session, int col)
     const ResultWatch watch(session);
     const QString heading = session.window().Headings().value(col - 1);
     const QString field = writtenColumn(session, col);
-    const std::optional<Choice> inForce = choiceInForce(session, field);
+    const std::optional<Choice> current = choiceInForce(session, field);
     ValuesRequest request{session.conditionRequest(), field};
     request.records.field = heading;
-    if (inForce) {
+    if (current) {
         // The values that it leaves out are offered too.
         request.records.condition =
-            session.history().GetConditionOf(statementWithout(session, inForce->place));
-        request.records.built = inForce->built;
+            session.history().GetConditionOf(statementWithout(session, current->place));
+        request.records.built = current->built;
     }
     const std::optional<ValuesAnswer> answer = session.questions().askValues(request);
     if (!answer || !watch.isUntouched())
@@ -88,7 +88,7 @@ void filterByColumn(Session &session, int col)
     if (answer->wantsBuilder)
         filterByDialog(session, heading);
     else
-        show(session, field, inForce, *answer);
+        show(session, field, current, *answer);
 }
 
 const ColumnCommand::Registration registration({
