@@ -49,8 +49,9 @@ struct TypedTime
 
 TypedTime readTime(const QString &text)
 {
+    // No database keeps more than nine decimals of a second.
     static const QRegularExpression form(
-        uR"(\A([0-9]{1,2}):([0-9]{2})(?::([0-9]{2})(?:\.([0-9]{1,3})([0-9]{0,6}?)0*)?)?\z)"_s);
+        uR"(\A([0-9]{1,2}):([0-9]{2})(?::([0-9]{2})(?:\.(?=[0-9]{1,9}\z)([0-9]{1,3})([0-9]*?)0*)?)?\z)"_s);
     const auto match = form.match(text);
     if (!match.hasMatch())
         return {};
