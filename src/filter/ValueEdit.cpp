@@ -127,8 +127,9 @@ void ValueEdit::setKind(FieldClass fieldClass, bool isList)
     m_isList = isList;
     setPlaceholderText(isList ? FilterTexts::ListHint : hintFor(fieldClass));
     const bool hasValues = m_askForValues && fieldClass != FieldClass::Other;
+    const bool hasReader = m_readValues && fieldClass == FieldClass::Number;
     m_offer->setVisible(hasDays(fieldClass) || fieldClass == FieldClass::Text ||
-                        fieldClass == FieldClass::Boolean || hasValues);
+                        fieldClass == FieldClass::Boolean || hasReader || hasValues);
     m_offerValues->setVisible(hasValues && hasDays(fieldClass));
     m_offerText = hasDays(fieldClass) ? FilterTexts::PickDate : FilterTexts::PickValue;
     writeTexts();

@@ -14,7 +14,7 @@ class QCompleter;
 namespace KOVAVSFDataGridLib {
 
 // Takes a typed value and offers, behind a button at its end, Alt+Down and F4, what fits the field: a
-// calendar for days, yes and no, or the values that a text field has already.
+// calendar for days, yes and no, or the values that a field has already.
 class ValueEdit final : public QLineEdit
 {
     Q_OBJECT
@@ -22,7 +22,8 @@ class ValueEdit final : public QLineEdit
 public:
     explicit ValueEdit(QWidget *parent = nullptr);
 
-    // Called each time a list is opened; an empty answer opens none.
+    // Called each time a list is opened for a text or a number; an empty answer opens none. Comes before
+    // setKind().
     void setValueReader(std::function<QStringList()> reader) { m_readValues = std::move(reader); }
     // The same for values that take a while, of every kind of field: what is asked answers by showValues(),
     // at once or later, and by showReading() meanwhile. Days have a second button for them, and Shift+F4.

@@ -1,6 +1,8 @@
 #include "support/ExpectedWarnings.h"
 
+#include <QtCore/QSettings>
 #include <QtCore/QStandardPaths>
+#include <QtCore/QTemporaryDir>
 #include <QtWidgets/QApplication>
 #include <gtest/gtest.h>
 
@@ -56,6 +58,8 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("kova-tests"));
     // Tests never touch the settings of the person who runs them.
     QStandardPaths::setTestModeEnabled(true);
+    const QTemporaryDir settings; // nor those of test programs beside this one
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     testing::InitGoogleTest(&argc, argv);
     qInstallMessageHandler(onMessage);
     const int result = RUN_ALL_TESTS();

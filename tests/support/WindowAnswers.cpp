@@ -47,13 +47,24 @@ bool WindowAnswers::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::Show)
         return QObject::eventFilter(watched, event);
+    const QPointer<WindowAnswers> self(this); // which may end before the answer's turn comes
     if (auto *dialog = qobject_cast<QDialog *>(watched); dialog && !qobject_cast<QMessageBox *>(watched))
         QMetaObject::invokeMethod(
-            dialog, [this, dialog] { answer(*dialog); }, Qt::QueuedConnection);
+            dialog,
+            [self, dialog] {
+                if (self)
+                    self->answer(*dialog);
+            },
+            Qt::QueuedConnection);
     if (auto *menu = qobject_cast<QMenu *>(watched)) {
         m_wasMenuShown = true;
         QMetaObject::invokeMethod(
-            menu, [this, menu] { clickItem(*menu, m_menuItem); }, Qt::QueuedConnection);
+            menu,
+            [self, menu] {
+                if (self)
+                    clickItem(*menu, self->m_menuItem);
+            },
+            Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
 }

@@ -222,7 +222,10 @@ QStringList CellEditor::knownValues() const
     }
     if (values.size() > mostValues)
         return {};
-    values.sort();
+    if (m_isText)
+        values.sort();
+    else
+        std::ranges::sort(values, {}, [](const QString &number) { return number.toDouble(); });
     return values;
 }
 

@@ -41,7 +41,12 @@ void Shop::makeCurrent(const QString &field)
 
 QString Shop::stored(const QString &field, int id) const
 {
-    return database.ask(u"SELECT \"%1\" FROM 商品 WHERE ID = %2"_s.arg(field).arg(id));
+    return computed(u'"' + field + u'"', id);
+}
+
+QString Shop::computed(const QString &expression, int id) const
+{
+    return database.ask(u"SELECT %1 FROM 商品 WHERE ID = %2"_s.arg(expression).arg(id));
 }
 
 } // namespace KovaTest

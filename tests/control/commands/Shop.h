@@ -34,8 +34,9 @@ protected:
     bool load(const QString &statement = statementOfAll(), const QString &part = statementOfPart());
     // Makes a field current in the single-record list, which gets the keyboard.
     void makeCurrent(const QString &field);
-    // What the database has of 商品.
+    // What the database has of 商品, in a field, and as an expression's value.
     QString stored(const QString &field, int id) const;
+    QString computed(const QString &expression, int id) const;
 };
 
 } // namespace KovaTest
