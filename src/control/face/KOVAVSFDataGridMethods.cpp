@@ -14,6 +14,7 @@
 #include "grid/FlexGrid.h"
 #include "print/PdfWriter.h"
 #include "print/PrintOptions.h"
+#include "session/ResultWatch.h"
 #include "session/commands/CommandKeys.h"
 #include "session/layout/SavedLayout.h"
 #include "session/records/ExportResult.h"
@@ -33,6 +34,20 @@ using namespace Qt::StringLiterals;
 
 // The methods of the interface; its properties are in KOVAVSFDataGridProperties.cpp.
 
+namespace {
+
+// Saves what a move would save, but shows it as well: a new record is one more row.
+void saveBeforeMove(Session &session)
+{
+    const ADODB::EditModeEnum mode = session.result().recordset()->EditMode();
+    if (mode != ADODB::adEditAdd && mode != ADODB::adEditInProgress)
+        return;
+    const ADODB::Notifications::Hold hold(session.notifications());
+    session.saveChanges();
+}
+
+} // namespace
+
 void KOVAVSFDataGrid::Refresh()
 {
     const SessionTexts &texts = d->session->texts;
@@ -45,19 +60,24 @@ void KOVAVSFDataGrid::Refresh()
 bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
 {
     VSFlexGrid &grid = *d->parts.vsfgDataGrid;
-    Session &session = *d->session;
-    const bool isOtherPage = session.result().isOpen() && session.page() != 1;
-    const qint32 rows = isOtherPage ? session.recordsOnPage(1) + 1 : grid.Rows();
+    const std::shared_ptr<Session> held = d->session; // the control can go while a record is saved
+    Session &session = *held;
+    const auto isOtherPage = [&] { return session.result().isOpen() && session.page() != 1; };
+    const qint32 rows = isOtherPage() ? session.recordsOnPage(1) + 1 : grid.Rows();
     if (lRecordRow <= 0 || lRecordRow > rows)
         return false;
     if (lRecordRow < 2 || lRecordRow == rows || !session.result().isOpen() ||
         lRecordRow == session.result().recordset()->AbsolutePosition())
         return true;
+    const ResultWatch watch(session);
     try {
+        saveBeforeMove(session);
+        if (!watch.isUntouched())
+            return true;
         const QSignalBlocker onlyOurOwnEvent(d->parts.Adodc1);
-        ADODB::Recordset &recordset = *session.result().recordset();
+        ADODB::Recordset &recordset = *watch.recordset();
         recordset.MoveFirst(); // a host may have left it behind the last record, where no page can be shown
-        if (isOtherPage)
+        if (isOtherPage())
             session.showPage(1);
         recordset.Move(lRecordRow - 1);
         grid.PutRow(lRecordRow);

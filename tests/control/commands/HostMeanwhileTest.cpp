@@ -2,6 +2,8 @@
 // ends there: an answer meant for one result is never applied to another.
 #include "Shop.h"
 
+#include "ado/Adodc.h"
+#include "ado/Recordset.h"
 #include "support/Dialogs.h"
 
 #include <QtCore/QPointer>
@@ -231,6 +233,19 @@ TEST_F(HostDestroys, TheControlWhenItIsToldOfOtherFields)
     WindowAnswers dialogs({[](QDialog &dialog) { tick(dialog, {u"ID"_s}); }});
     press(u"SelField"_s);
     EXPECT_FALSE(other);
+}
+
+TEST_F(HostDestroys, TheControlWhenARecordIsSavedOnTheWayToAnother)
+{
+    KOVAVSFDataGrid *const control = other;
+    ASSERT_NE(control, nullptr);
+    auto *const data = control->findChild<ADODB::Adodc *>();
+    data->Recordset()->AddNew();
+    data->Recordset()->Fields().Item(1).PutValue(u"x"_s);
+    QObject::connect(data, &ADODB::Adodc::RecordChangeComplete, control, [this] { delete other; });
+    EXPECT_TRUE(control->LocateSelRecord(5));
+    EXPECT_FALSE(other);
+    EXPECT_EQ(database.ask(u"SELECT count(*) FROM 商品"_s), u"13"_s);
 }
 
 TEST_F(HostDestroys, TheControlUnderTheViewer)

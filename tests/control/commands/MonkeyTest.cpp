@@ -146,6 +146,7 @@ protected:
         case 3:
             if (QObject *recordset = grid.RecordSet(); recordset && rows() > 0)
                 QMetaObject::invokeMethod(recordset, "MoveFirst");
+            QCoreApplication::processEvents(); // the grid follows when the host is done
             break;
         case 4:
             table->setColumnWidth(pick(table->model()->columnCount()), 20 + pick(200));

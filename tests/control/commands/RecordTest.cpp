@@ -295,6 +295,45 @@ TEST_F(RecordsOf, WhatTheHostChangesIsShown)
     EXPECT_EQ(count(), u"11"_s);
 }
 
+TEST_F(RecordsOf, ANewRecordThatTheHostLeavesForAnotherIsShown)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 1);
+    choose(8, 2);
+    write(u"名称"_s, u"x"_s);
+    EXPECT_TRUE(grid.LocateSelRecord(5));
+    EXPECT_EQ(count(), u"13"_s);
+    EXPECT_EQ(rows(), 13);
+    EXPECT_EQ(grid.GetGridRow(), 5);
+    EXPECT_EQ(grid.CurrPosition(), 5);
+    EXPECT_EQ(listed(u"ID"_s), u"5"_s);
+}
+
+TEST_F(RecordsOf, ANewRecordThatTheHostLeavesByNameIsShown)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 1);
+    choose(8, 2);
+    write(u"名称"_s, u"x"_s);
+    ASSERT_TRUE(QMetaObject::invokeMethod(grid.RecordSet(), "MoveFirst"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(count(), u"13"_s);
+    EXPECT_EQ(rows(), 13);
+    EXPECT_EQ(grid.GetGridRow(), 1);
+    EXPECT_EQ(grid.CurrPosition(), 1);
+}
+
+TEST_F(RecordsOf, ANewRecordThatIsEmptyIsGivenUpWhenTheHostLeavesIt)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 1);
+    choose(8, 2);
+    EXPECT_TRUE(grid.LocateSelRecord(5));
+    EXPECT_EQ(count(), u"12"_s);
+    EXPECT_EQ(rows(), 12);
+    EXPECT_EQ(grid.CurrPosition(), 5);
+}
+
 TEST_F(RecordsOf, DeletingTheNewRecordGivesItUp)
 {
     ASSERT_TRUE(load());
