@@ -154,8 +154,8 @@ int main(int argc, char **argv)
                 times.engine = firstRecord(connection, statement);
                 all.push_back(times);
             }
-            std::printf("%-12lld %-10s %14.1f %14.1f %14.1f\n", static_cast<long long>(records),
-                        isSorted ? "sorted" : "", median(all, &Times::engine), median(all, &Times::painted),
+            std::printf("%-12lld %-10s %14.1f %14.1f %14.1f\n", records, isSorted ? "sorted" : "",
+                        median(all, &Times::engine), median(all, &Times::painted),
                         median(all, &Times::returned));
             std::fflush(stdout);
         }

@@ -374,12 +374,15 @@ TEST_P(EngineStatements, AreShownWithTheRowsThatALoopTakes)
     EXPECT_GE(taken, engine.store == JourneyEngine::SqliteFile ? 60 : 40);
 }
 
-// What is derived from a statement whose records can be deleted is one as well.
+// What is derived from a statement whose records can be deleted is one as well, unless the statement becomes a
+// derived table: then the menu says that its records can't be deleted.
 TEST_P(EngineStatements, RecordsCanBeDeletedFromWhatIsFilteredAndSorted)
 {
     int deleted = 0;
     for (const Case &c : ReadCases({u"statements.cases"_s, u"server_statements.cases"_s})) {
         SCOPED_TRACE(c.place.toStdString());
+        if (c[u"kind"_s] == u"closed"_s)
+            continue;
         const QString statement = c[u"statement"_s];
         const auto all = read(statement);
         if (!all || all->rows.size() < 2)

@@ -3,7 +3,6 @@
 #include "query/colShowSQLSentences.h"
 #include "session/layout/ColumnView.h"
 
-#include <QtCore/QSet>
 
 #include <algorithm>
 #include <vector>
@@ -100,9 +99,9 @@ QStringList ColumnLayout::fieldsShownBy(FieldView view) const
 bool ColumnLayout::hasColumnsFor(const QStringList &fields) const
 {
     const QStringList shown = m_grid.Headings();
-    const QSet<QString> headings(shown.cbegin(), shown.cend());
+    // Columns of one name can't be told apart: all of them are meant, or the statement is read.
     return std::all_of(fields.cbegin(), fields.cend(),
-                       [&](const QString &field) { return headings.contains(field); });
+                       [&](const QString &field) { return shown.count(field) == fields.count(field); });
 }
 
 bool ColumnLayout::columnsFit() const
