@@ -392,34 +392,6 @@ TEST_P(FrozenServer, LetsTheHostDeleteTheControlMeanwhile)
     EXPECT_TRUE(QStringList({u"name 1"_s, u"gone"_s}).contains(stored(u"name"_s)));
 }
 
-// Nobody can tell then whether the change was saved, and the user is told so.
-TEST_P(FrozenServer, ReportsACommitWithoutAnAnswerAsUnknown)
-{
-    LoopbackProxy proxy(LoopbackProxy::portOf(connection()), freezeOn("COMMIT"));
-    hands->grid.PutConnectionString(proxy.in(connection()));
-    ASSERT_TRUE(loadKept());
-    write(u"name"_s, u"mine"_s);
-    QTimer user;
-    QObject::connect(&user, &QTimer::timeout, &user, [this] {
-        if (QWidget *const line = progressLine(); line && isFrozen)
-            QTest::keyClick(line->window(), Qt::Key_Escape);
-    });
-    user.start(10);
-    QElapsedTimer sinceSave;
-    sinceSave.start();
-    hands->click(u"AllRecord"_s);
-    EXPECT_LT(sinceSave.elapsed(), 10'000) << "3 s for the answer, the rest for a busy machine";
-    ASSERT_TRUE(isFrozen);
-    const QStringList texts = takeMessages();
-    ASSERT_EQ(texts.size(), 1);
-    EXPECT_TRUE(texts.front().contains(u"无法确定更改是否已经保存"_s)) << qUtf8Printable(texts.front());
-    thaw();
-    EXPECT_TRUE(QStringList({u"name 1"_s, u"mine"_s}).contains(stored(u"name"_s)));
-    hands->grid.PutConnectionString(connection());
-    ASSERT_TRUE(loadKept());
-    takeMessages();
-}
-
 // The values are there, and only how many more there are is not.
 TEST_P(FrozenServer, LetsTheUserPickAValueWhileTheOthersAreCounted)
 {
