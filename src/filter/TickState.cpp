@@ -1,5 +1,7 @@
 #include "filter/TickState.h"
 
+#include "filter/FilterTexts.h"
+
 #include <algorithm>
 
 namespace KOVAVSFDataGridLib {
@@ -16,7 +18,12 @@ QString monthOf(const QString &day)
 
 QString yearOf(const QString &day)
 {
-    return day.left(4) + u'年'; // as it is typed in any language
+    return day.left(4);
+}
+
+QString yearInChinese(const QString &day)
+{
+    return yearOf(day) + u'年';
 }
 
 // How many days of each month and each year there are.
@@ -30,7 +37,8 @@ QHash<QString, int> countsOf(const QStringList &days)
     return counts;
 }
 
-// A month or a year of which only one day is there is still named by the day.
+// A month or a year of which only one day is there is still named by the day. A year is written in the
+// language of the moment, as it can be typed.
 QStringList inFewestWords(const QStringList &days, const QStringList &all)
 {
     const QHash<QString, int> counts = countsOf(all);
@@ -40,7 +48,9 @@ QStringList inFewestWords(const QStringList &days, const QStringList &all)
     };
     QStringList names;
     for (const QString &day : days) {
-        const QString name = isWhole(yearOf(day)) ? yearOf(day) : isWhole(monthOf(day)) ? monthOf(day) : day;
+        const QString name = isWhole(yearOf(day))    ? FilterTexts::YearOfDays.arg(yearOf(day))
+                             : isWhole(monthOf(day)) ? monthOf(day)
+                                                     : day;
         if (names.isEmpty() || names.constLast() != name)
             names.append(name);
     }
@@ -75,7 +85,8 @@ void TickState::nameDays(const QStringList &days)
 {
     QStringList stretches;
     for (const QString &day : days) {
-        for (const QString &stretch : {monthOf(day), yearOf(day)}) {
+        // A filter may have been saved in another language than the one of the moment.
+        for (const QString &stretch : {monthOf(day), yearOf(day), yearInChinese(day)}) {
             if (!m_named.contains(stretch))
                 continue;
             stretches.append(stretch);

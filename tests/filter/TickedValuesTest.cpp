@@ -2,6 +2,8 @@
 #include "filter/TickState.h"
 #include "filter/conditions/ValueStatements.h"
 
+#include <QtCore/QCoreApplication>
+#include <QtCore/QTranslator>
 #include <gtest/gtest.h>
 
 using namespace KOVAVSFDataGridLib;
@@ -37,6 +39,19 @@ TickedValues amongDays(const QStringList &unticked)
     ticked.hasNull.reset();
     return ticked;
 }
+
+// Stands for the library's English, in which a year is its number alone.
+class PlainYears : public QTranslator
+{
+public:
+    PlainYears() { QCoreApplication::installTranslator(this); }
+
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        return QString::fromUtf8(source) == u"%1年"_s ? u"%1"_s : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
 
 } // namespace
 
@@ -121,6 +136,23 @@ TEST(TickState, NamesMonthsAndYearsOfDays)
               (TickedValues{true, {u"2023-12-31"_s, u"2025-05-05"_s}, {}}))
         << "the only day of a year is a day";
     EXPECT_EQ(amongDays({u"2023-12-31"_s, u"2025-05-05"_s}).values.size(), 2);
+}
+
+TEST(TickState, NamesAYearInTheUsersLanguage)
+{
+    const QStringList days = QStringList(someDays) << u"2026-01-01"_s << u"2027-01-01"_s << u"2028-01-01"_s;
+    const auto year = [](const QString &name) { return TickedValues{false, {name}, false}; };
+    const auto among = [&](const QString &name) {
+        TickState state(year(name));
+        state.nameDays(days);
+        return state.amongAll(days, true);
+    };
+    EXPECT_EQ(among(u"2024年"_s), year(u"2024年"_s));
+    EXPECT_EQ(among(u"2024"_s), year(u"2024年"_s));
+    const PlainYears english;
+    EXPECT_EQ(among(u"2024"_s), year(u"2024"_s));
+    EXPECT_EQ(among(u"2024年"_s), year(u"2024"_s)) << "a filter that was saved in Chinese";
+    EXPECT_EQ(sql(FieldClass::Date, year(u"2024"_s)), sql(FieldClass::Date, year(u"2024年"_s)));
 }
 
 TEST(TickState, FindsTheDaysOfAMonthAgain)

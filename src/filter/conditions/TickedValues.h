@@ -13,7 +13,7 @@ namespace KOVAVSFDataGridLib {
 struct TickedValues
 {
     bool areLeftOut = true; // whether the values named are those without a tick
-    // As they can be typed for the field. A day, but also a month (2024-03) or a year (2024年) of days.
+    // As they can be typed for the field. A day, but also a month (2024-03) or a year (2024年, 2024) of days.
     QStringList values = {};
     // Whether records without a value are ticked; nothing where there are no such records.
     std::optional<bool> hasNull = {};
