@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>该 Access 数据库的版本太新，无法读取：%1</source>
-        <translation>This Access database has a newer version than can be read: %1</translation>
+        <translation>The version of this Access database is too new to be read: %1</translation>
     </message>
     <message>
         <source>Access 数据库已损坏或者不完整，无法读取：%1</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>无法确定 DISTINCTROW 要去掉哪些表的重复记录；请写成 DISTINCT，或在每个字段前写出表名。</source>
-        <translation>It is not known for which tables DISTINCTROW leaves out repeated records. Write DISTINCT instead, or the table before each field.</translation>
+        <translation>Cannot determine from which tables DISTINCTROW removes duplicates. Write DISTINCT instead, or put the table name before each field.</translation>
     </message>
     <message>
         <source>该 Access 数据库的密码不正确或者没有给出：%1</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>没有执行此操作的数据库权限。（%1）</source>
-        <translation>You do not have the database permission for this operation. (%1)</translation>
+        <translation>You do not have permission for this operation in the database. (%1)</translation>
     </message>
     <message>
         <source>只能打开返回记录的查询语句；该语句会修改数据库，没有执行。（%1）</source>
@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>记录太多，内存放不下，又无法写入临时文件夹：%1（%2）</source>
-        <translation>There are too many records for the memory, and the temporary folder cannot be written: %1 (%2)</translation>
+        <translation>There are too many records to hold in memory, and the temporary folder cannot be written: %1 (%2)</translation>
     </message>
     <message>
         <source>SQL 语句有误：%1</source>
@@ -217,7 +217,7 @@
     </message>
     <message>
         <source>操作违反了数据库的约束：%1</source>
-        <translation>The operation violates a constraint of the database: %1</translation>
+        <translation>The operation violates a database constraint: %1</translation>
     </message>
     <message>
         <source>数据库是只读的，不能写入。（%1）</source>
@@ -253,15 +253,15 @@
     </message>
     <message>
         <source>这个记录集的上一项操作还在等待数据库，请稍后再试。</source>
-        <translation>The last operation of this record set is still waiting for the database. Try again later.</translation>
+        <translation>The last operation of this recordset is still waiting for the database. Try again later.</translation>
     </message>
     <message>
         <source>记录集已经打开，请先关闭。</source>
-        <translation>The record set is already open. Close it first.</translation>
+        <translation>The recordset is already open. Close it first.</translation>
     </message>
     <message>
         <source>记录集没有打开或已经关闭。</source>
-        <translation>The record set is not open, or it has been closed.</translation>
+        <translation>The recordset is not open, or it has been closed.</translation>
     </message>
     <message>
         <source>没有当前记录：已在第一条之前、最后一条之后，或者没有任何记录。</source>
@@ -297,11 +297,11 @@
     </message>
     <message>
         <source>打开记录集需要一个连接对象。</source>
-        <translation>A connection object is needed to open a record set.</translation>
+        <translation>A connection object is needed to open a recordset.</translation>
     </message>
     <message>
         <source>记录集以只读方式打开，不能修改。</source>
-        <translation>The record set was opened read-only and cannot be changed.</translation>
+        <translation>The recordset was opened read-only and cannot be changed.</translation>
     </message>
     <message>
         <source>Access 数据库在此系统上只能读取，不能修改或删除记录。</source>
@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>查询结果去掉了重复记录（DISTINCT），不能修改。</source>
-        <translation>The result leaves out repeated records (DISTINCT) and cannot be changed.</translation>
+        <translation>The result has no duplicate records (DISTINCT) and cannot be changed.</translation>
     </message>
     <message>
         <source>查询结果由多个查询合并而成，不能修改。</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>数据库保存的值与填写的不同，因而无法再找到该记录，没有保存任何更改。</source>
-        <translation>The database stored other values than those entered, so the record cannot be found again. No changes were saved.</translation>
+        <translation>The database stored values that differ from those entered, so the record cannot be found again. No changes were saved.</translation>
     </message>
     <message>
         <source>保存时与数据库的连接中断，无法确定更改是否已经保存，请重新打开后核对。（%1）</source>
@@ -417,7 +417,7 @@
     </message>
     <message>
         <source>该书签不属于这个记录集。</source>
-        <translation>The bookmark does not belong to this record set.</translation>
+        <translation>The bookmark does not belong to this recordset.</translation>
     </message>
     <message>
         <source>条件“%1”有误，应为“字段 运算符 值”，并可用 AND、OR 和括号连接。</source>
@@ -441,11 +441,11 @@
     </message>
     <message>
         <source>表格正在显示这个记录集，不能重新查询，请使用表格的 IsLoadData。</source>
-        <translation>The grid shows this record set, so it cannot be queried again. Use IsLoadData of the grid.</translation>
+        <translation>The grid shows this recordset, so it cannot be queried again. Use IsLoadData of the grid.</translation>
     </message>
     <message>
         <source>记录集只能保存为 XML（格式 1）。</source>
-        <translation>A record set can be saved only as XML (format 1).</translation>
+        <translation>A recordset can be saved only as XML (format 1).</translation>
     </message>
     <message>
         <source>只支持格式 2（文本）。</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>这是记录集的副本，不能修改。</source>
-        <translation>This is a copy of the record set and cannot be changed.</translation>
+        <translation>This is a copy of the recordset and cannot be changed.</translation>
     </message>
 </context>
 <context>
@@ -534,7 +534,7 @@
     </message>
     <message>
         <source>按选定内容筛选(&amp;C)</source>
-        <translation>Filter by Selected &amp;Cell</translation>
+        <translation>Filter &amp;by Selected Cell</translation>
     </message>
     <message>
         <source>按所选内容筛选(&amp;F)</source>
@@ -542,7 +542,7 @@
     </message>
     <message>
         <source>复制(&amp;Y)</source>
-        <translation>Cop&amp;y</translation>
+        <translation>&amp;Copy</translation>
     </message>
     <message>
         <source>复制(&amp;C)</source>
@@ -762,7 +762,7 @@
     </message>
     <message>
         <source>全屏显示</source>
-        <translation>Show on the full screen</translation>
+        <translation>Show in full screen</translation>
     </message>
     <message>
         <source>全屏显示(&amp;S)</source>
@@ -770,15 +770,15 @@
     </message>
     <message>
         <source>复制为新记录(&amp;Q)</source>
-        <translation>Copy as new record (&amp;Q)</translation>
+        <translation>Cop&amp;y as New Record</translation>
     </message>
     <message>
         <source>打开链接(&amp;K)</source>
-        <translation>Open lin&amp;k</translation>
+        <translation>Open Lin&amp;k</translation>
     </message>
     <message>
-        <source>标出空值(&amp;U)</source>
-        <translation>Mark n&amp;ulls</translation>
+        <source>标出空值(&amp;B)</source>
+        <translation>Mark N&amp;ulls</translation>
     </message>
 </context>
 <context>
@@ -793,7 +793,7 @@
     </message>
     <message>
         <source>无法从文件名“%1”得知格式。可用的扩展名：%2。</source>
-        <translation>The file name &quot;%1&quot; does not tell the format. Available endings: %2.</translation>
+        <translation>The file name &quot;%1&quot; has no known extension. Available extensions: %2.</translation>
     </message>
     <message>
         <source>、</source>
@@ -820,7 +820,7 @@
         <translation>%1 values are longer than an XLSX cell can hold (32767 characters). Only their beginnings were written.</translation>
     </message>
     <message>
-        <source>不认识导出选项“%1=%2”。</source>
+        <source>无法识别导出选项“%1=%2”。</source>
         <translation>Unknown export option &quot;%1=%2&quot;.</translation>
     </message>
     <message>
@@ -1132,7 +1132,7 @@
     </message>
     <message>
         <source>个数，并列的值都包括</source>
-        <translation>How many; equal values are all included</translation>
+        <translation>How many; ties are included</translation>
     </message>
     <message>
         <source>没有可以筛选的字段。</source>
@@ -1200,11 +1200,11 @@
     </message>
     <message>
         <source>随上面的条件自动生成，熟悉 SQL 时也可以直接修改</source>
-        <translation>Follows from the conditions above; if you know SQL, you can also edit it</translation>
+        <translation>Generated from the conditions above; if you know SQL, you can also edit it</translation>
     </message>
     <message>
         <source>条件语句已手工修改，上面的条件暂不起作用。</source>
-        <translation>The statement was edited. The conditions above are not used now.</translation>
+        <translation>The statement was edited. The conditions above are ignored for now.</translation>
     </message>
     <message>
         <source>恢复自动生成(&amp;R)</source>
@@ -1244,7 +1244,7 @@
     </message>
     <message>
         <source>%1 秒内没有读完已有的值，请直接输入。</source>
-        <translation>The existing values could not be read within %1 s. Type the value.</translation>
+        <translation>The existing values could not be read within %1 s. Enter the value yourself.</translation>
     </message>
     <message>
         <source>%1 秒内没有读完已有的值，只列出前面一部分记录中的值。</source>
@@ -1292,7 +1292,7 @@
     </message>
     <message>
         <source>输入文字查找值</source>
-        <translation>Type a text to find values</translation>
+        <translation>Type text to find values</translation>
     </message>
     <message>
         <source>全选</source>
@@ -1300,7 +1300,7 @@
     </message>
     <message>
         <source>全选搜索结果</source>
-        <translation>All found</translation>
+        <translation>All found values</translation>
     </message>
     <message>
         <source>记录数</source>
@@ -1336,7 +1336,7 @@
     </message>
     <message>
         <source>已停止读取。可以输入文字搜索。</source>
-        <translation>Reading was stopped. You can type a text to search.</translation>
+        <translation>Reading was stopped. You can type text to search for.</translation>
     </message>
     <message>
         <source>已选 %1 / %2 个值</source>
@@ -1408,11 +1408,11 @@
     </message>
     <message>
         <source>加上括号(&amp;K)</source>
-        <translation>Add brac&amp;kets</translation>
+        <translation>Add Brac&amp;kets</translation>
     </message>
     <message>
         <source>没有括号时先算“并且”。按此加上括号，条件的意思不变。</source>
-        <translation>Without brackets, &quot;and&quot; binds closer than &quot;or&quot;. This adds the brackets that say so; the condition keeps its meaning.</translation>
+        <translation>Without brackets, &quot;and&quot; takes precedence over &quot;or&quot;. Adds brackets that show this; the meaning of the condition does not change.</translation>
     </message>
     <message>
         <source>移动（拖动，或按 ↑ ↓）</source>
@@ -1420,7 +1420,7 @@
     </message>
     <message>
         <source>组内条件的关系</source>
-        <translation>How the conditions of the group are joined</translation>
+        <translation>How the conditions of the group are combined</translation>
     </message>
     <message>
         <source>且：全部符合</source>
@@ -1456,7 +1456,7 @@
     </message>
     <message>
         <source>已存的筛选(&amp;M)</source>
-        <translation>Saved filters (&amp;M)</translation>
+        <translation>Sa&amp;ved Filters</translation>
     </message>
     <message>
         <source>取出、保存、重命名或删除该表的筛选条件</source>
@@ -1464,11 +1464,11 @@
     </message>
     <message>
         <source>最近用过的(&amp;L)</source>
-        <translation>&amp;Last used</translation>
+        <translation>&amp;Recently Used</translation>
     </message>
     <message>
         <source>保存当前条件(&amp;S)…</source>
-        <translation>&amp;Save this condition…</translation>
+        <translation>&amp;Save This Condition…</translation>
     </message>
     <message>
         <source>重命名(&amp;N)</source>
@@ -1484,15 +1484,15 @@
     </message>
     <message>
         <source>保存筛选</source>
-        <translation>Save filter</translation>
+        <translation>Save Filter</translation>
     </message>
     <message>
         <source>重命名筛选</source>
-        <translation>Rename filter</translation>
+        <translation>Rename Filter</translation>
     </message>
     <message>
         <source>删除筛选</source>
-        <translation>Delete filter</translation>
+        <translation>Delete Filter</translation>
     </message>
     <message>
         <source>已有名为“%1”的筛选，替换它吗？</source>
@@ -1516,7 +1516,7 @@
     </message>
     <message>
         <source>筛选文本的格式不对：%1 缺少或无效。</source>
-        <translation>The text with the filters is wrong: %1 is missing or invalid.</translation>
+        <translation>The text with the filters has the wrong form: %1 is missing or invalid.</translation>
     </message>
     <message>
         <source>没有打开的结果，无法恢复筛选。</source>
@@ -1575,7 +1575,7 @@
     </message>
     <message>
         <source>输入字段名称的一部分</source>
-        <translation>Type a part of the field name</translation>
+        <translation>Type part of the field name</translation>
     </message>
     <message>
         <source>全选(&amp;A)</source>
@@ -1591,7 +1591,7 @@
     </message>
     <message>
         <source>只作用于列出的字段</source>
-        <translation>Acts only on the listed fields</translation>
+        <translation>Applies only to the listed fields</translation>
     </message>
     <message>
         <source>已选 %1 个，共 %2 个</source>
@@ -1659,7 +1659,7 @@
     </message>
     <message>
         <source>输入查询内容（以空格分隔）</source>
-        <translation>Words to search for, separated by blanks</translation>
+        <translation>Words to search for, separated by spaces</translation>
     </message>
     <message>
         <source>查询内容(&amp;W):</source>
@@ -1830,8 +1830,8 @@
         <translation>HTML (web page)</translation>
     </message>
     <message>
-        <source>UTF-8（带签名）</source>
-        <translation>UTF-8 (with signature)</translation>
+        <source>UTF-8（带 BOM）</source>
+        <translation>UTF-8 (with BOM)</translation>
     </message>
     <message>
         <source>记录</source>
@@ -1863,7 +1863,7 @@
     </message>
     <message>
         <source>防止以 = + - @ 开头的文本被当作公式(&amp;G)</source>
-        <translation>&amp;Guard texts that begin with = + - @ against becoming formulas</translation>
+        <translation>Prevent texts that be&amp;gin with = + - @ from becoming formulas</translation>
     </message>
     <message>
         <source>在这样的文本前加一个撇号，电子表格打开文件时不会执行它。</source>
@@ -1875,7 +1875,7 @@
     </message>
     <message>
         <source>请指定文件。</source>
-        <translation>Give a file.</translation>
+        <translation>Enter a file name.</translation>
     </message>
     <message>
         <source>文件“%1”已经存在，要替换它吗？</source>
@@ -2158,7 +2158,7 @@
     </message>
     <message>
         <source>页  只显示</source>
-        <translation>  showing at most </translation>
+        <translation>, at most </translation>
     </message>
     <message>
         <source>条以内的记录</source>
@@ -2214,11 +2214,11 @@
     </message>
     <message>
         <source>同时显示图片字段（Ctrl+Shift+I）；双击图片或按 Enter 从文件替换，Ctrl+0 清空</source>
-        <translation>Also list fields with pictures (Ctrl+Shift+I). Double-click a picture or press Enter to replace it from a file; Ctrl+0 removes it.</translation>
+        <translation>Also list picture fields (Ctrl+Shift+I). Double-click a picture or press Enter to replace it with a file; Ctrl+0 removes it.</translation>
     </message>
     <message>
         <source>用文件替换图片</source>
-        <translation>Replace the picture from a file</translation>
+        <translation>Replace the picture with a file</translation>
     </message>
     <message>
         <source>图片 (*.png *.jpg *.jpeg *.bmp *.gif *.tif *.tiff *.webp *.svg *.ico);;所有文件 (*)</source>
@@ -2230,7 +2230,7 @@
     </message>
     <message>
         <source>文件“%1”不是图片，或者太大。</source>
-        <translation>The file &quot;%1&quot; is no picture, or is too large.</translation>
+        <translation>The file &quot;%1&quot; is not a picture, or is too large.</translation>
     </message>
 </context>
 <context>
@@ -2256,7 +2256,7 @@
     </message>
     <message>
         <source>布局文本的格式不对：%1 缺少或无效。</source>
-        <translation>The layout text has a wrong form: %1 is missing or invalid.</translation>
+        <translation>The layout text has the wrong form: %1 is missing or invalid.</translation>
     </message>
     <message>
         <source>当前记录没有保存，布局没有改变。</source>
@@ -2286,7 +2286,7 @@
         <translation>Cannot write the file &quot;%1&quot;: %2</translation>
     </message>
     <message>
-        <source>不认识打印选项“%1=%2”。</source>
+        <source>无法识别打印选项“%1=%2”。</source>
         <translation>Unknown print option &quot;%1=%2&quot;.</translation>
     </message>
     <message>
@@ -2323,7 +2323,7 @@
     </message>
     <message>
         <source>上页(&amp;U)</source>
-        <translation>Page &amp;Up</translation>
+        <translation>Previo&amp;us Page</translation>
     </message>
     <message>
         <source>下页(&amp;N)</source>
@@ -2381,7 +2381,7 @@
         <translation>Sorry, the filter text must not contain the character &quot;  &apos; &quot;!</translation>
     </message>
     <message>
-        <source>该语句不是普通的 SELECT 查询，不能再过滤、排序或选择字段。</source>
+        <source>该语句不是普通的 SELECT 查询，不能再筛选、排序或选择字段。</source>
         <translation>This statement is not a plain SELECT query. It cannot be filtered or sorted, and its fields cannot be chosen.</translation>
     </message>
     <message>
@@ -2390,7 +2390,7 @@
     </message>
     <message>
         <source>无法确定字段“%1”属于哪个表，请先在语句中写出各字段的名称，不用“*”。</source>
-        <translation>It is not known which table the field &quot;%1&quot; belongs to. List the fields in the statement instead of &quot;*&quot; first.</translation>
+        <translation>Cannot determine which table the field &quot;%1&quot; belongs to. Name the fields in the statement instead of using &quot;*&quot; first.</translation>
     </message>
     <message>
         <source>查询结果中有没有名称的字段，请先在语句中用 AS 给它命名。</source>
@@ -2485,7 +2485,7 @@
     </message>
     <message>
         <source>无法翻页：</source>
-        <translation>Cannot turn to the page: </translation>
+        <translation>Cannot go to the page: </translation>
     </message>
     <message>
         <source>请在页数输入正整数.</source>
@@ -2561,7 +2561,7 @@ Row %1: %2 = %3</translation>
     </message>
     <message>
         <source>删除操作与数据库的约束冲突，不能删除此记录！</source>
-        <translation>Deleting conflicts with a constraint of the database. This record cannot be deleted!</translation>
+        <translation>Deleting this record would violate a database constraint. It cannot be deleted!</translation>
     </message>
     <message>
         <source>无法复制记录：</source>
@@ -2596,7 +2596,7 @@ Row %1: %2 = %3</translation>
     </message>
     <message>
         <source>退出全屏（Esc 或 F11）</source>
-        <translation>Leave the full screen (Esc or F11)</translation>
+        <translation>Leave full screen (Esc or F11)</translation>
     </message>
 </context>
 </TS>

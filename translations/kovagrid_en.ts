@@ -105,11 +105,11 @@ records to standard output.</translation>
     </message>
     <message>
         <source>部分字段和排序</source>
-        <translation>Some fields, and sort</translation>
+        <translation>Part statement and sort order</translation>
     </message>
     <message>
         <source>部分字段(&amp;P):</source>
-        <translation>Some fields (&amp;P):amp;Part statement:</translation>
+        <translation>&amp;Part statement:</translation>
     </message>
     <message>
         <source>排序(&amp;O):</source>
@@ -153,7 +153,7 @@ records to standard output.</translation>
     </message>
     <message>
         <source>切换焦点(&amp;F)</source>
-        <translation>Switch &amp;Focus</translation>
+        <translation>&amp;Next Pane</translation>
     </message>
     <message>
         <source>帮助(&amp;H)</source>
@@ -177,7 +177,7 @@ records to standard output.</translation>
 查看查询结果，随意筛选和排序。</source>
         <translation>KOVAVSFDataGrid %1
 
-Looks through query results; filters and sorts them.</translation>
+Look through query results, filter and sort them.</translation>
     </message>
     <message>
         <source>KOVAVSFDataGrid 数据表格</source>

@@ -17,7 +17,7 @@ inline constexpr Text TooManyColumns = tr("XLSX 最多有 %1 列，而结果有 
 inline constexpr Text XlsxFailed = tr("无法生成 XLSX：%1");
 inline constexpr Text CutTexts =
     tr("有 %1 个内容超过 XLSX 单元格的上限（32767 个字符），只写入了前面的部分。");
-inline constexpr Text UnknownOption = tr("不认识导出选项“%1=%2”。");
+inline constexpr Text UnknownOption = tr("无法识别导出选项“%1=%2”。");
 inline constexpr Text Sheet = tr("数据");
 inline constexpr Text NextSheet = tr("数据 %1");
 

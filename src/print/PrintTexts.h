@@ -10,7 +10,7 @@ inline constexpr TextTable tr{"KOVAVSFDataGridLib::PrintTexts"};
 inline constexpr Text PageOf = tr("第 %1 页，共 %2 页");
 inline constexpr Text CantPrint = tr("打印机不接受打印任务。");
 inline constexpr Text CantWrite = tr("无法写入文件“%1”：%2");
-inline constexpr Text UnknownOption = tr("不认识打印选项“%1=%2”。");
+inline constexpr Text UnknownOption = tr("无法识别打印选项“%1=%2”。");
 
 // PrintPreview
 inline constexpr Text Title = tr("打印预览");

@@ -13,7 +13,7 @@ inline constexpr Text Ascending = tr("升序");
 inline constexpr Text Descending = tr("降序");
 inline constexpr Text AllFields = tr("全部");
 inline constexpr Text ApostropheInFilter = tr("对不起，过滤内容中不能含有\"  ' \"符号!");
-inline constexpr Text NotDerived = tr("该语句不是普通的 SELECT 查询，不能再过滤、排序或选择字段。");
+inline constexpr Text NotDerived = tr("该语句不是普通的 SELECT 查询，不能再筛选、排序或选择字段。");
 inline constexpr Text EqualNames = tr("查询结果中有多个名为“%1”的字段，请先在语句中用 AS 给它们不同的名称。");
 inline constexpr Text UnknownTable =
     tr("无法确定字段“%1”属于哪个表，请先在语句中写出各字段的名称，不用“*”。");

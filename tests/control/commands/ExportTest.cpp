@@ -160,9 +160,9 @@ TEST_F(ExportTest, TheHostIsToldWhatIsWrong)
     EXPECT_FALSE(exportData(u"a.txt"_s));
     EXPECT_TRUE(takeTexts().join(u' ').startsWith(u"无法从文件名“a.txt”得知格式"_s));
     EXPECT_FALSE(exportData(u"a.csv"_s, u"Encoding=Klingon"_s));
-    EXPECT_EQ(takeTexts(), QStringList{u"不认识导出选项“Encoding=Klingon”。"_s});
+    EXPECT_EQ(takeTexts(), QStringList{u"无法识别导出选项“Encoding=Klingon”。"_s});
     EXPECT_FALSE(exportData(u"a.csv"_s, u"Colour=Red"_s));
-    EXPECT_EQ(takeTexts(), QStringList{u"不认识导出选项“Colour=Red”。"_s});
+    EXPECT_EQ(takeTexts(), QStringList{u"无法识别导出选项“Colour=Red”。"_s});
     EXPECT_FALSE(exportData(u"none/a.csv"_s));
     EXPECT_TRUE(takeTexts().join(u' ').startsWith(u"无法写入文件“"_s));
 }

@@ -178,7 +178,7 @@ TEST_F(PrintTest, TheHostIsToldWhatIsWrong)
     EXPECT_EQ(takeTexts(), QStringList{u"没有打开的结果，无法打印。"_s});
     ASSERT_TRUE(load());
     EXPECT_FALSE(printData(u"a.pdf"_s, u"Paper=Pink"_s));
-    EXPECT_EQ(takeTexts(), QStringList{u"不认识打印选项“Paper=Pink”。"_s});
+    EXPECT_EQ(takeTexts(), QStringList{u"无法识别打印选项“Paper=Pink”。"_s});
     EXPECT_FALSE(printData(u"none/a.pdf"_s));
     EXPECT_TRUE(takeTexts().join(u' ').startsWith(u"无法写入文件“"_s));
 }

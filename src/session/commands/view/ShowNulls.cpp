@@ -13,9 +13,9 @@ namespace {
 const Command::Registration registration({
     .key = u"ShowNulls"_s,
     .shortcut = u"Ctrl+Alt+N"_s,
-    .menu = {33, Command::tr("标出空值(&U)")},
+    .menu = {33, Command::tr("标出空值(&B)")},
     .isInViewer = true,
-    .viewerMenu = {22, Command::tr("标出空值(&U)")},
+    .viewerMenu = {22, Command::tr("标出空值(&B)")},
     .record = Record::Stays,
     .run = [](Session &session) { session.window().putShowsNulls(!session.window().showsNulls()); },
     .isOn = [](Session &session) { return session.window().showsNulls(); },
