@@ -10,23 +10,23 @@ using namespace Qt::StringLiterals;
 // What stands above a page's text is the property's name.
 inline const QString ConnectionString = u"&ConnectionString:"_s;
 inline const QString ConnectionStringHint =
-    u"Applying it empties SQLShow, SQLPartDisplay, SQLFilter and SQLSort."_s;
+    u"Applying it clears SQLShow, SQLPartDisplay, SQLFilter and SQLSort."_s;
 inline const QString Build = u"&Build…"_s;
-inline const QString BuildHint = u"Opens the connection builder and takes over what it builds."_s;
+inline const QString BuildHint = u"Opens the connection builder and uses the string that it builds."_s;
 inline const QString NoBuilder = u"No connection builder is available here; type the connection string."_s;
 inline const QString ShowWhole = u"Sho&w…"_s;
-inline const QString ShowWholeHint = u"Shows the whole connection string in a window of its own."_s;
+inline const QString ShowWholeHint = u"Shows the whole connection string in a separate window."_s;
 inline const QString WholeLabel = u"ConnectionString:"_s;
 
 inline const QString SqlShow = u"S&QLShow:"_s;
-inline const QString SqlShowHint = u"The SELECT to show; applying it also makes it SQLPartDisplay."_s;
+inline const QString SqlShowHint = u"The SELECT to show. Applying it also sets SQLPartDisplay."_s;
 
 inline const QString RecordSource = u"&RecordSource:"_s;
 inline const QString RecordSourceHint = u"The statement that the last load opened. It is read-only."_s;
 
 inline const QString PartDisplay = u"SQL&PartDisplay:"_s;
 inline const QString PartDisplayHint =
-    u"Offered are the fields that SQLShow names; for a \"*\" those of its tables, where the connection opens."_s;
+    u"The fields that SQLShow names. For a \"*\", all fields of its tables if the connection can be opened."_s;
 inline const QString NotChosen = u"&Fields not chosen:"_s;
 inline const QString Chosen = u"C&hosen fields:"_s;
 inline const QString Add = u"&Add >"_s;
