@@ -80,18 +80,25 @@ function(kova_install_compressed file folder component)
   endif()
 endfunction()
 
-# Documents: for users with the program, for developers with the headers.
+# Documents: for users with the program, for developers with the headers. Each package has all that its documents
+# link to.
 set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc)
 set(docs ${PROJECT_SOURCE_DIR}/docs)
-install(FILES ${docs}/messages.md ${docs}/messages.en.md ${docs}/shortcuts.md ${docs}/shortcuts.zh-CN.md ${docs}/users.md ${docs}/users.zh-CN.md
-    ${docs}/kovagrid.md ${docs}/kovagrid.zh-CN.md
-  DESTINATION ${doc_dir}/${library_package} COMPONENT runtime)
-install(DIRECTORY ${docs}/images/users DESTINATION ${doc_dir}/${library_package}/images COMPONENT runtime)
+set(user_dir ${doc_dir}/${library_package})
+set(user_docs kovagrid users shortcuts)
+list(TRANSFORM user_docs REPLACE "(.+)" "${docs}/\\1.md;${docs}/\\1.zh-CN.md")
+list(APPEND user_docs ${docs}/messages.md ${docs}/messages.en.md ${docs}/databases.md ${docs}/access.md ${docs}/scale.md)
+install(FILES ${user_docs} DESTINATION ${user_dir} COMPONENT runtime)
+install(FILES ${docs}/images/kovagrid.png ${docs}/images/kovagrid-en.png DESTINATION ${user_dir}/images COMPONENT runtime)
+install(FILES ${docs}/images/dialogs/PrintPreview.png DESTINATION ${user_dir}/images/dialogs COMPONENT runtime)
+install(DIRECTORY ${docs}/images/users DESTINATION ${user_dir}/images COMPONENT runtime)
 file(GLOB pages CONFIGURE_DEPENDS ${docs}/*.md)
 set(dev_dir ${doc_dir}/${CPACK_DEBIAN_DEV_PACKAGE_NAME})
+install(FILES ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${dev_dir} COMPONENT dev)
 install(FILES ${pages} DESTINATION ${dev_dir}/docs COMPONENT dev)
 install(DIRECTORY ${docs}/images DESTINATION ${dev_dir}/docs COMPONENT dev)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${dev_dir} COMPONENT dev)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/python/examples DESTINATION ${dev_dir}/python COMPONENT dev)
 if(python IN_LIST CPACK_COMPONENTS_ALL)
   install(DIRECTORY ${PROJECT_SOURCE_DIR}/python/examples
     DESTINATION ${doc_dir}/${CPACK_DEBIAN_PYTHON_PACKAGE_NAME} COMPONENT python)
