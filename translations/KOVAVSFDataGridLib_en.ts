@@ -2029,8 +2029,8 @@
         <translation>Current record</translation>
     </message>
     <message>
-        <source>复制为(&amp;U)…</source>
-        <translation>Copy A&amp;s…</translation>
+        <source>复制为(&amp;U)</source>
+        <translation>Copy A&amp;s</translation>
     </message>
     <message>
         <source>复制为</source>

@@ -27,8 +27,8 @@ public:
 
     // The number for hosts: 0x800A0000 + ErrorValueEnum, or a ProviderErrorEnum.
     qint32 Number() const { return m_number; }
-    // One or two sentences in Simplified Chinese for the user, followed by the database's own text if it
-    // helps.
+    // One or two sentences for the user, in the application's language, followed by the database's own text
+    // if it helps.
     QString Description() const { return m_description; }
     // The name of the database; empty for an error of ADO itself.
     QString Source() const { return m_source; }

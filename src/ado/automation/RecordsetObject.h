@@ -45,7 +45,7 @@ class KOVA_EXPORT RecordsetObject : public QObject, private RecordsetObserver
     // RecordStatusEnum of the current record.
     Q_PROPERTY(qint32 Status READ status)
 
-    // Which records this object visits, and in which order. The grid shows all of them all the same. Writing
+    // Which records this object visits, and in which order. The grid still shows all of them. Writing
     // one of them moves to the first record. Both are determined when they are set: a record that is changed
     // later stays where it is, and a new one is the last. Opening and closing reset them.
     //

@@ -232,30 +232,30 @@ public:
     // spreadsheet would evaluate get an apostrophe). The first of each is the default. Returns false if the
     // user cancels, or after a message box if it fails.
     virtual bool ExportData(const QString &strFile, const QString &strOptions) = 0;
-    // How the columns are laid out, as a small JSON text: their fields from the left, each with its width in
-    // twips, whether it is hidden and how its texts are shown, and how many of the first stay in view. Empty
-    // while nothing is open.
+    // The layout of the columns as a short JSON text: the fields from left to right, each with its width in
+    // twips, whether it is hidden and its display format, and how many columns are frozen. Empty while
+    // nothing is open.
     virtual QString SaveLayout() = 0;
-    // Lays the columns out as SaveLayout() gave it, also on another result; fields that either lacks are left
-    // alone. Columns are hidden and shown as by a choice of fields. False, and nothing is changed, when
-    // nothing is open or the text is no layout, which is shown in a message box.
+    // Applies a layout that SaveLayout() returned, also to another result. Fields that only one of them has
+    // are ignored. Columns are hidden and shown as by a choice of fields. If nothing is open or the text is
+    // not a layout, it shows a message box, changes nothing and returns false.
     virtual bool RestoreLayout(const QString &strLayout) = 0;
-    // Under which name the layouts of the user's tables are kept: each is saved when it was changed, and
-    // restored by the next load of its table in any control with the same key. Columns of a table without one
-    // are fitted to their contents. Empty at first: none is kept.
+    // The name under which layouts are stored for the user, one for each table. A changed layout is saved,
+    // and restored by the next load of its table in any control with the same key. If a table has none yet,
+    // its columns are fitted to their contents. Empty at first: nothing is stored.
     virtual QString LayoutKey() const = 0;
     virtual void PutLayoutKey(const QString &strKey) = 0;
-    // Prints the shown columns of the open result, fitted to the width of the page, with the headings on each
-    // page, to a PDF file; an existing file is replaced when the new one is complete. `strOptions` is empty
-    // or `Keyword=value;…`: Records All or Marked; Orientation Auto, Portrait or Landscape (the first of each
-    // is the default); Title and the text above each page, which is the table's name otherwise. Returns false
-    // if the user cancels, or after a message box if it fails.
+    // Prints the shown columns of the open result to a PDF file, reduced to the width of the page if they are
+    // wider, with the headings on each page. An existing file is replaced when the new one is complete.
+    // `strOptions` is empty or `Keyword=value;…`: Records All or Marked; Orientation Auto, Portrait or
+    // Landscape (the first of each is the default); Title and the text above each page, which is the table's
+    // name otherwise. Returns false if the user cancels, or after a message box if it fails.
     virtual bool PrintData(const QString &strFile, const QString &strOptions) = 0;
-    // The filters that the user keeps for the table of the open result, with those used last, as a small JSON
-    // text. Relative days in them stay relative. Empty while nothing is open.
+    // The filters that the user has saved for the table of the open result, and those used last, as a short
+    // JSON text. Relative days in them stay relative. Empty while nothing is open.
     virtual QString SaveFilters() = 0;
-    // Keeps the filters of such a text for the user in place of those of the table. False, and nothing is
-    // changed, when nothing is open or the text has no filters, which is shown in a message box.
+    // Replaces the user's filters for the table by those in such a text. If nothing is open or the text is
+    // not valid, it shows a message box, changes nothing and returns false.
     virtual bool RestoreFilters(const QString &strFilters) = 0;
 
     // The language of the texts that users read: "zh-CN" (the default) or "en". There is one for all controls

@@ -71,7 +71,7 @@ inline constexpr Text BetweenDescriptions = tr("；");
 inline constexpr Text SingleRecordName = tr("当前记录");
 
 // The menus inside the popup menu.
-inline constexpr Text CopyAsMenu = tr("复制为(&U)…");
+inline constexpr Text CopyAsMenu = tr("复制为(&U)");
 inline constexpr Text CopyAsName = tr("复制为");
 
 // A column's heading and its menu.
