@@ -1,4 +1,4 @@
-// A host that knows the grid by names alone, as a script or a program made before the grid would. The form
+// A host that uses the grid by name only, like a script, or a program that is older than the grid. The form
 // comes from a .ui file and the grid from its plugin; properties are set, methods called and events received
 // by name.
 //
@@ -14,8 +14,8 @@
 #include <cstdio>
 #include <memory>
 
-// Receives the grid's events. A slot is found by its name and its types, so it must be spelled as the event
-// is.
+// Receives the grid's events. A slot is found by its name and its types, so they must be written exactly as
+// in the event.
 class Host : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
     }
 
 public Q_SLOTS:
-    // Left at 1, Cancel means that the grid asks the user.
+    // If Cancel stays 1, the grid asks the user.
     void answerFilter(qint32 &Cancel, const QString &strLastFilter)
     {
         std::printf("QurryFilter %d %s\n", Cancel, qUtf8Printable(strLastFilter));
@@ -71,7 +71,7 @@ int main(int argc, char **argv)
     QWidget *grid = form ? form->findChild<QWidget *>(QStringLiteral("grid")) : nullptr;
     if (!grid || !grid->setProperty("ConnectionString",
                                     QStringLiteral("Provider=SQLite;Data Source=") + arguments.at(0))) {
-        std::fputs("Qt finds no plugin with the grid; is QT_PLUGIN_PATH set?\n", stderr);
+        std::fputs("Qt cannot find the grid's plugin. Is QT_PLUGIN_PATH set?\n", stderr);
         return 1;
     }
     grid->setProperty("DBType", QStringLiteral("dbAccess"));
@@ -82,7 +82,7 @@ int main(int argc, char **argv)
     bool isLoaded = false;
     QMetaObject::invokeMethod(grid, "IsLoadData", Q_RETURN_ARG(bool, isLoaded));
     if (!isLoaded)
-        return 1; // the grid has said why
+        return 1; // the grid has shown the user the reason
     int result = 0;
     if (isPrinting) {
         print(*grid);

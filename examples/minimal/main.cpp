@@ -25,7 +25,7 @@ int main(int argc, char **argv)
     grid.resize(960, 600);
     grid.show();
     if (!grid.IsLoadData())
-        return 1; // the grid has said why
+        return 1; // the grid has shown the user the reason
     const int result = QApplication::exec();
     grid.ClearObject();
     return result;

@@ -23,7 +23,7 @@ class GridForm : Form
     {
         base.OnLoad(e);
         grid.ConnectionString = @"Provider=SQLite;Data Source=C:\data\shop.db";
-        grid.DBType = AllDBType.dbSQLServer;
+        grid.DBType = AllDBType.dbAccess;
         grid.SQLShow = "select * from orders";
         if (!grid.IsLoadData())
             return;

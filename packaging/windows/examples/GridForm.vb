@@ -23,7 +23,7 @@ Public Class GridForm
     Protected Overrides Sub OnLoad(e As EventArgs)
         MyBase.OnLoad(e)
         grid.ConnectionString = "Provider=SQLite;Data Source=C:\data\shop.db"
-        grid.DBType = AllDBType.dbSQLServer
+        grid.DBType = AllDBType.dbAccess
         grid.SQLShow = "select * from orders"
         If Not grid.IsLoadData() Then Return
         Dim records As Object = grid.RecordSet

@@ -74,7 +74,7 @@ int list(IDispatch *grid, const wchar_t *file)
 {
     invoke(grid, L"ConnectionString", DISPATCH_PROPERTYPUT,
            {Value((std::wstring(L"Provider=SQLite;Data Source=") + file).c_str())});
-    invoke(grid, L"DBType", DISPATCH_PROPERTYPUT, {Value(3L)});
+    invoke(grid, L"DBType", DISPATCH_PROPERTYPUT, {Value(1L)});
     invoke(grid, L"SQLShow", DISPATCH_PROPERTYPUT, {Value(L"select * from orders")});
     if (!invoke(grid, L"IsLoadData", get).isTrue())
         return 1;

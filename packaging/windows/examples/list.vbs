@@ -3,10 +3,9 @@ Option Explicit
 Dim grid, records
 Set grid = CreateObject("KOVAVSFDataGridLib.KOVAVSFDataGrid")
 grid.ConnectionString = "Provider=SQLite;Data Source=" & WScript.Arguments(0)
-grid.DBType = 3 ' SQL Server's way to write conditions
-grid.ErrorHint = False ' no message boxes; IsLoadData answers False
+grid.DBType = 1 ' dbAccess, also right for SQLite
 grid.SQLShow = "select * from orders"
-If Not grid.IsLoadData Then
+If Not grid.IsLoadData Then ' a message box has shown the reason
     WScript.Echo "The orders cannot be read."
     WScript.Quit 1
 End If
