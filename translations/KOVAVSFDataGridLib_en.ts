@@ -1251,7 +1251,7 @@
         <translation>The existing values could not be read within %1 s. Only the values of the first records are listed.</translation>
     </message>
     <message>
-        <source>该字段没有已有的值。</source>
+        <source>该字段还没有任何值。</source>
         <translation>This field has no existing values.</translation>
     </message>
     <message>
@@ -1339,7 +1339,7 @@
         <translation>Reading was stopped. You can type text to search for.</translation>
     </message>
     <message>
-        <source>已选 %1 / %2 个值</source>
+        <source>已选 %1 个值，共 %2 个</source>
         <translation>%1 of %2 values chosen</translation>
     </message>
     <message>
@@ -1351,7 +1351,7 @@
         <translation>Only the first %1 of %2 values are listed; search for others</translation>
     </message>
     <message>
-        <source>没有含“%1”的值</source>
+        <source>没有包含“%1”的值</source>
         <translation>No value contains &quot;%1&quot;</translation>
     </message>
     <message>

@@ -114,7 +114,7 @@ inline constexpr Text MoreValues = tr("更多…");
 inline constexpr Text MoreValuesLeft = tr("更多…（还有 %1 个）");
 inline constexpr Text ValuesTooSlow = tr("%1 秒内没有读完已有的值，请直接输入。");
 inline constexpr Text ValuesOfSample = tr("%1 秒内没有读完已有的值，只列出前面一部分记录中的值。");
-inline constexpr Text NoValues = tr("该字段没有已有的值。");
+inline constexpr Text NoValues = tr("该字段还没有任何值。");
 
 // The list of values with ticks
 inline constexpr Text SearchValues = tr("搜索(&S):");
@@ -132,10 +132,10 @@ inline constexpr Text WholeDay = tr("%1年%2月%3日");
 inline constexpr Text ReadingTicks = tr("正在读取该字段的值…");
 inline constexpr Text StopReading = tr("停止(&T)");
 inline constexpr Text ReadingStopped = tr("已停止读取。可以输入文字搜索。");
-inline constexpr Text TicksOf = tr("已选 %1 / %2 个值");
+inline constexpr Text TicksOf = tr("已选 %1 个值，共 %2 个");
 inline constexpr Text TooManyValues = tr("只列出前 %1 个值，其余的请用搜索查找");
 inline constexpr Text TooManyValuesOf = tr("共 %2 个值，只列出前 %1 个，其余的请用搜索查找");
-inline constexpr Text NothingFound = tr("没有含“%1”的值");
+inline constexpr Text NothingFound = tr("没有包含“%1”的值");
 inline constexpr Text NothingTicked = tr("请至少选择一个值。");
 inline constexpr Text TicksTitle = tr("按列筛选：%1");
 inline constexpr Text ByConditions = tr("按条件筛选(&C)…");

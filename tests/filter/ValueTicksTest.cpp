@@ -119,7 +119,7 @@ TEST_F(Ticks, ListTheValuesWithTheNumberOfTheirRecords)
 {
     start(u"城市"_s);
     EXPECT_TRUE(becomes({u"[x] （空值） 2"_s, u"[x] 上海 1"_s, u"[x] 北京 2"_s}));
-    EXPECT_EQ(note(), "已选 2 / 2 个值");
+    EXPECT_EQ(note(), "已选 2 个值，共 2 个");
     EXPECT_EQ(all().checkState(), Qt::Checked);
     EXPECT_TRUE(ticks->ticked().isEverything());
 }
@@ -253,7 +253,7 @@ TEST_F(Ticks, ASearchThatIsGivenUpChangesNothing)
     start(u"城市"_s);
     search(u"无"_s);
     EXPECT_EQ(listed(), QStringList());
-    EXPECT_EQ(note(), "没有含“无”的值");
+    EXPECT_EQ(note(), "没有包含“无”的值");
     EXPECT_FALSE(all().isEnabled());
     search({});
     EXPECT_TRUE(ticks->ticked().isEverything());
