@@ -6,8 +6,7 @@
 #include "sql/Like.h"
 #include "sql/Literals.h"
 #include "sql/Names.h"
-
-#include <QtCore/QRegularExpression>
+#include "sql/SelectParts.h"
 
 #include <algorithm>
 #include <array>
@@ -35,15 +34,18 @@ bool isAmong(const std::array<qint32, Count> &types, qint32 adoType)
 // else nothing, because the fields of a join can't be distinguished by its text.
 QString tableQualifier(const QString &fromText)
 {
-    static const QRegularExpression oneName = [] {
-        const auto part = QStringLiteral(R"((?:\[[^\]]+\]|"[^"]+"|[\p{L}_][\p{L}\p{N}_$#]*))");
-        const auto name = QStringLiteral(R"(%1(?:\.%1)*)").arg(part);
-        return QRegularExpression(QStringLiteral(R"(\A(%1)(?: +(?:AS +)?(%1))?\z)").arg(name),
-                                  QRegularExpression::CaseInsensitiveOption |
-                                      QRegularExpression::UseUnicodePropertiesOption);
-    }();
-    const auto match = oneName.match(fromText);
-    return match.captured(match.lastCapturedIndex() == 2 ? 2 : 1);
+    const SqlScanner from(fromText);
+    if (!from.isName(0))
+        return {};
+    qsizetype end = 1;
+    while (from.isSymbol(end, u'.') && from.isName(end + 1))
+        end += 2;
+    const TextRange table{0, end};
+    if (end < from.count())
+        end += from.isWord(end, u"AS") ? 2 : 1;
+    if (end == table.end)
+        return textOf(from, table);
+    return end == from.count() && from.isName(end - 1) ? from.text(end - 1).toString() : QString();
 }
 
 bool isBinary(std::optional<qint32> adoType)
