@@ -100,7 +100,7 @@ void MeasureStatements()
     });
     NamesReader reader(names);
     colShowSQLSentences history(&reader);
-    history.AddCurrentSQL(statement, 1);
+    history.AddCurrentSQL(statement, AllFieldsShown);
     Measure("quick filter on two words, composed into the next statement", [&] {
         QString condition;
         QString next;
@@ -116,7 +116,7 @@ void MeasureStatements()
         history.SetConnString(QStringLiteral("DSN=a"));
         history.SetAllFields(statement);
         history.SetShowFieds(statement);
-        history.AddCurrentSQL(statement, 1);
+        history.AddCurrentSQL(statement, AllFieldsShown);
         history.GetCurrSQLFieldsStatus();
     });
 }
@@ -143,7 +143,7 @@ void MeasureHistory()
         history.SetConnString(QStringLiteral("DSN=a"));
         history.SetAllFields(QStringLiteral("select * from T"));
         for (int number = 0; number < 1000; ++number) {
-            history.AddCurrentSQL(QStringLiteral("select * from T where ID > %1").arg(number), 1,
+            history.AddCurrentSQL(QStringLiteral("select * from T where ID > %1").arg(number), AllFieldsShown,
                                   history.NoPartField(), history.NoSort());
         }
     };

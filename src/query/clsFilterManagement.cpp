@@ -88,12 +88,12 @@ bool clsFilterManagement::IsCanPreviewFilter(QString &PassFilter)
     return GetPreviewFilter(PassFilter);
 }
 
-QString clsFilterManagement::GetCurrentSQL(qint32 SQLType)
+QString clsFilterManagement::GetCurrentSQL(StatementType SQLType)
 {
     return MakeDerivedCurrent(SQLType, false);
 }
 
-QString clsFilterManagement::GetCurrentSQL20(qint32 SQLType)
+QString clsFilterManagement::GetCurrentSQL20(StatementType SQLType)
 {
     return MakeDerivedCurrent(SQLType, true);
 }
@@ -163,7 +163,7 @@ bool clsFilterManagement::GetPartSortFields(QString &strRetSelFields)
     return GetPartSortSelFields(m_allFields, m_orderFields, strRetSelFields);
 }
 
-bool clsFilterManagement::GetRequirePartSQL(const QString &strOrgSQL, qint32 lngSelPart,
+bool clsFilterManagement::GetRequirePartSQL(const QString &strOrgSQL, StatementParts lngSelPart,
                                             QString &strRetSQL) const
 {
     strRetSQL.clear();
@@ -260,7 +260,7 @@ void clsFilterManagement::MakeCurrent(const QString &statement)
     m_memory.filterStack.append(statement);
 }
 
-QString clsFilterManagement::MakeDerivedCurrent(qint32 SQLType, bool isDerivedByHistory)
+QString clsFilterManagement::MakeDerivedCurrent(StatementType SQLType, bool isDerivedByHistory)
 {
     const auto derived = Derive(SQLType, isDerivedByHistory);
     if (!derived)
@@ -271,7 +271,7 @@ QString clsFilterManagement::MakeDerivedCurrent(qint32 SQLType, bool isDerivedBy
     return m_memory.currentStatement;
 }
 
-std::optional<QString> clsFilterManagement::Derive(qint32 SQLType, bool isDerivedByHistory)
+std::optional<QString> clsFilterManagement::Derive(StatementType SQLType, bool isDerivedByHistory)
 {
     QString text;
     switch (SQLType) {
@@ -299,7 +299,7 @@ std::optional<QString> clsFilterManagement::Derive(qint32 SQLType, bool isDerive
     }
 }
 
-QString clsFilterManagement::DeriveFromCurrent(qint32 SQLType) const
+QString clsFilterManagement::DeriveFromCurrent(StatementType SQLType) const
 {
     const QString &partFields =
         m_memory.currentPartFields.isEmpty() ? m_showFields : m_memory.currentPartFields;
@@ -307,7 +307,7 @@ QString clsFilterManagement::DeriveFromCurrent(qint32 SQLType) const
                                SQLType == AllFieldsStatement ? m_allFields : partFields);
 }
 
-QString clsFilterManagement::DeriveFromHistory(qint32 SQLType) const
+QString clsFilterManagement::DeriveFromHistory(StatementType SQLType) const
 {
     QString statement;
     m_history.GetNextShowSQL(SQLType, statement);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "query/StatementSource.h"
 #include "query/colShowSQLSentences.h"
 #include "query/fields/clsTableFieldManager.h"
 
@@ -43,8 +44,8 @@ public:
     void SetDBConnString(const QString &text) { m_dbConnString = text; }
     AllDBType DBType() const { return m_dbType; }
     void SetDBType(AllDBType type);
-    qint32 TBLType() const { return m_tblType; }
-    void SetTBLType(qint32 type) { m_tblType = type; }
+    StatementSource TBLType() const { return m_tblType; }
+    void SetTBLType(StatementSource type) { m_tblType = type; }
     qint32 FieldStatus() const { return m_fieldStatus; }
     void SetFieldStatus(qint32 status) { m_fieldStatus = status; }
     const QString &OriginFilter() const { return m_memory.originFilter; }
@@ -72,12 +73,13 @@ public:
     QString GetAllFieldSQL() const { return FieldListWithCurrentSource(m_allFields); }
     QString GetPartFieldSQL() const { return FieldListWithCurrentSource(m_showFields); }
 
-    // Derives a statement and makes it the one shown. `SQLType` is a StatementType; any other number, and
-    // what derives nothing, answers the statement shown. PreviousStatement, ChosenFieldsStatement and
-    // ChosenSortStatement answer an empty text when there is no way back or the user cancels. GetCurrentSQL20
-    // derives AllFieldsStatement and PartFieldsStatement from the history's latest entry.
-    QString GetCurrentSQL(qint32 SQLType);
-    QString GetCurrentSQL20(qint32 SQLType);
+    // Derives a statement and makes it the one shown. Another number than those of
+    // StatementType, and what derives nothing, answers the statement shown. PreviousStatement,
+    // ChosenFieldsStatement and ChosenSortStatement answer an empty text when there is no way back or the
+    // user cancels. GetCurrentSQL20 derives AllFieldsStatement and PartFieldsStatement from the history's
+    // latest entry.
+    QString GetCurrentSQL(StatementType SQLType);
+    QString GetCurrentSQL20(StatementType SQLType);
 
     // Let the user choose: a statement with the chosen fields and the FROM part of `strCurrentSQL`, or a sort
     // list. False when the user cancels.
@@ -88,9 +90,9 @@ public:
     bool GetPartShowFields(QString &strRetSelFields);
     bool GetPartSortFields(QString &strRetSelFields);
 
-    // The parts of a statement by a number of StatementParts: 1 all, 2 without the sort, 3 without condition.
-    // Any other choice answers True with an empty text; an empty statement answers False.
-    bool GetRequirePartSQL(const QString &strOrgSQL, qint32 lngSelPart, QString &strRetSQL) const;
+    // The parts of a statement. Another number than those of StatementParts answers True with an empty text;
+    // an empty statement answers False.
+    bool GetRequirePartSQL(const QString &strOrgSQL, StatementParts lngSelPart, QString &strRetSQL) const;
 
     // The name of the current statement's field at a position counted from 1; empty when there is none.
     QString GetSelFieldRealName(const QString &strConnString, qint32 FieldIndex);
@@ -107,18 +109,18 @@ private:
     std::optional<QString> WithoutConditions(const QString &statement) const;
     QString FieldListWithCurrentSource(const QString &fieldStatement) const;
     void MakeCurrent(const QString &statement);
-    QString MakeDerivedCurrent(qint32 SQLType, bool isDerivedByHistory);
+    QString MakeDerivedCurrent(StatementType SQLType, bool isDerivedByHistory);
     // An empty text when nothing is to be derived; nothing at all when the command ends here.
-    std::optional<QString> Derive(qint32 SQLType, bool isDerivedByHistory);
-    QString DeriveFromCurrent(qint32 SQLType) const;
-    QString DeriveFromHistory(qint32 SQLType) const;
+    std::optional<QString> Derive(StatementType SQLType, bool isDerivedByHistory);
+    QString DeriveFromCurrent(StatementType SQLType) const;
+    QString DeriveFromHistory(StatementType SQLType) const;
 
     QString m_allFields;
     QString m_showFields;
     QString m_orderFields;
     QString m_dbConnString;
     AllDBType m_dbType{};
-    qint32 m_tblType = 0;
+    StatementSource m_tblType = FromTable;
     qint32 m_fieldStatus = 0;
     Memory m_memory;
     colShowSQLSentences m_history;

@@ -11,14 +11,14 @@ enum ShownFields : qint32 { PartFieldsShown = 0, AllFieldsShown = 1 };
 class clsShowSQLSentence
 {
 public:
-    QString SQLFields;                        // head of the statement: SELECT list and FROM part
-    QString SQLWhere;                         // with the word WHERE
-    QString SQLOrder;                         // with the words ORDER BY
-    QString SQLKey;                           // the entry's key in the history
-    qint32 IsShowAllFields = PartFieldsShown; // ShownFields
-    QString AllFields;                        // statement that selects all fields of the source
-    QString PartFields;                       // statement that selects the part fields chosen at set-up
-    QString OrderFields;                      // sort list chosen at set-up
+    QString SQLFields; // head of the statement: SELECT list and FROM part
+    QString SQLWhere;  // with the word WHERE
+    QString SQLOrder;  // with the words ORDER BY
+    QString SQLKey;    // the entry's key in the history
+    ShownFields IsShowAllFields = PartFieldsShown;
+    QString AllFields;       // statement that selects all fields of the source
+    QString PartFields;      // statement that selects the part fields chosen at set-up
+    QString OrderFields;     // sort list chosen at set-up
     QString CurrPartFields;  // statement with the part fields that the user chose since; wins over PartFields
     QString CurrOrderFields; // sort list that the user chose since; wins over OrderFields
     QString OrgSQL;          // the filter that was given with the entry

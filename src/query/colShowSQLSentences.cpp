@@ -53,13 +53,13 @@ bool colShowSQLSentences::SetSQLInitData(const QString &strAllFields, const QStr
 }
 
 bool colShowSQLSentences::AddSimpleSQLMess(const QString &strOrgSQL, const QString &strShowSQL,
-                                           qint32 lngIsShowAllFields, QString *PassKey)
+                                           ShownFields lngIsShowAllFields, QString *PassKey)
 {
     return AddSQLMess(strOrgSQL, strShowSQL, lngIsShowAllFields, {}, {}, {}, {}, {}, PassKey);
 }
 
 bool colShowSQLSentences::AddSQLMess(const QString &strOrgSQL, const QString &strShowSQL,
-                                     qint32 lngIsShowAllFields, const QString &strAllFields,
+                                     ShownFields lngIsShowAllFields, const QString &strAllFields,
                                      const QString &strPartFields, const QString &strOrderFields,
                                      const QString &strCurrPartFields, const QString &strCurrOrderFields,
                                      QString *PassKey)
@@ -70,7 +70,7 @@ bool colShowSQLSentences::AddSQLMess(const QString &strOrgSQL, const QString &st
 
 bool colShowSQLSentences::AddAllSQLMess(const QString &strSQLFields, const QString &strSQLWhere,
                                         const QString &strSQLOrder, const QString &strOrgSQL,
-                                        const QString &strShowSQL, qint32 lngIsShowAllFields,
+                                        const QString &strShowSQL, ShownFields lngIsShowAllFields,
                                         const QString &strAllFields, const QString &strPartFields,
                                         const QString &strOrderFields, const QString &strCurrPartFields,
                                         const QString &strCurrOrderFields, QString *PassKey)
@@ -93,7 +93,7 @@ bool colShowSQLSentences::AddAllSQLMess(const QString &strSQLFields, const QStri
     return isAdded;
 }
 
-bool colShowSQLSentences::AddCurrentSQL(const QString &strShowSQL, qint32 lngIsShowAllFields,
+bool colShowSQLSentences::AddCurrentSQL(const QString &strShowSQL, ShownFields lngIsShowAllFields,
                                         const QString &strCurrPartFields, const QString &strCurrSortFields,
                                         QString *PassKey)
 {
@@ -168,7 +168,7 @@ bool colShowSQLSentences::GetNextSQLBySort(const QString &strNewSort, QString &s
     return true;
 }
 
-bool colShowSQLSentences::GetNextShowSQL(qint32 SQLType, QString &PassSQL) const
+bool colShowSQLSentences::GetNextShowSQL(StatementType SQLType, QString &PassSQL) const
 {
     PassSQL.clear();
     const clsShowSQLSentence *const latest = Latest();

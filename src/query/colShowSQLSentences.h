@@ -65,20 +65,20 @@ public:
 
     // Each adds an entry. An empty *PassKey (or none) gets a new key, which it then holds; a given one is
     // used as it is. False when the key is taken.
-    bool AddSimpleSQLMess(const QString &strOrgSQL, const QString &strShowSQL, qint32 lngIsShowAllFields,
+    bool AddSimpleSQLMess(const QString &strOrgSQL, const QString &strShowSQL, ShownFields lngIsShowAllFields,
                           QString *PassKey = nullptr);
-    bool AddSQLMess(const QString &strOrgSQL, const QString &strShowSQL, qint32 lngIsShowAllFields,
+    bool AddSQLMess(const QString &strOrgSQL, const QString &strShowSQL, ShownFields lngIsShowAllFields,
                     const QString &strAllFields, const QString &strPartFields, const QString &strOrderFields,
                     const QString &strCurrPartFields = {}, const QString &strCurrOrderFields = {},
                     QString *PassKey = nullptr);
     bool AddAllSQLMess(const QString &strSQLFields, const QString &strSQLWhere, const QString &strSQLOrder,
-                       const QString &strOrgSQL, const QString &strShowSQL, qint32 lngIsShowAllFields,
+                       const QString &strOrgSQL, const QString &strShowSQL, ShownFields lngIsShowAllFields,
                        const QString &strAllFields, const QString &strPartFields,
                        const QString &strOrderFields, const QString &strCurrPartFields = {},
                        const QString &strCurrOrderFields = {}, QString *PassKey = nullptr);
     // Adds what the grid shows now, with the set-up values of the history; the markers above keep the user's
     // choices of the latest entry. False when the statement is empty.
-    bool AddCurrentSQL(const QString &strShowSQL, qint32 lngIsShowAllFields,
+    bool AddCurrentSQL(const QString &strShowSQL, ShownFields lngIsShowAllFields,
                        const QString &strCurrPartFields = {}, const QString &strCurrSortFields = {},
                        QString *PassKey = nullptr);
 
@@ -93,7 +93,7 @@ public:
     // PartFieldsStatement; any other number answers True with an empty statement.
     bool GetNextSQLByFilter(const QString &strNewFilter, QString &strCurrentFilter) const;
     bool GetNextSQLBySort(const QString &strNewSort, QString &strCurrentFilter) const;
-    bool GetNextShowSQL(qint32 SQLType, QString &PassSQL) const;
+    bool GetNextShowSQL(StatementType SQLType, QString &PassSQL) const;
 
     // The statement whose list is "*" alone with the source's fields in its place, in quotes, long binary
     // fields last. Every other statement comes back as it is.

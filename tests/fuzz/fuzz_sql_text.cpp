@@ -34,7 +34,7 @@ void SplitAndJoin(const QString &statement, const QString &other)
     const QString joined = joinStatementLines(statement);
     Require(joined.size() <= statement.size());
     for (int mode = 0; mode <= 4; ++mode)
-        Require(CutStringEnds(statement, other, mode).size() <= statement.size());
+        Require(CutStringEnds(statement, other, static_cast<CutEnds>(mode)).size() <= statement.size());
 }
 
 void ParseLists(const QString &statement)

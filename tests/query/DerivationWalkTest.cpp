@@ -79,7 +79,8 @@ public:
         m_manager.SetAllFields(statement);
         m_manager.SetOriginFilter(statement);
         m_manager.SetSQLInitData();
-        EXPECT_EQ(m_manager.GetCurrentSQL20(0), statement) << "the first statement is shown as it is written";
+        EXPECT_EQ(m_manager.GetCurrentSQL20(FirstStatement), statement)
+            << "the first statement is shown as it is written";
         m_distinct = SelectParts::of(SqlScanner(statement)).isDistinct;
         record(statement, {database.read(statement), {}, true}, colShowSQLSentences::NoPartField());
     }
@@ -95,9 +96,9 @@ public:
         case 3:
             return chooseFields();
         case 4:
-            return show(1);
+            return show(AllFieldsStatement);
         case 5:
-            return show(2);
+            return show(PartFieldsStatement);
         default:
             return back();
         }
@@ -110,7 +111,8 @@ private:
 
     void record(const QString &statement, const Shown &shown, const QString &partFields)
     {
-        history().AddCurrentSQL(statement, shown.isAll ? 1 : 0, partFields, colShowSQLSentences::NoSort());
+        history().AddCurrentSQL(statement, shown.isAll ? AllFieldsShown : PartFieldsShown, partFields,
+                                colShowSQLSentences::NoSort());
         EXPECT_TRUE(history().GetCurrSQLFieldsStatus()) << qPrintable(statement);
         m_shown.push_back(shown);
         compare();
@@ -216,16 +218,17 @@ private:
         m_part = m_chooser.chosen;
     }
 
-    void show(qint32 type)
+    void show(StatementType type)
     {
         QString partStatement;
-        if (type == 2 && !history().Item(history().Count())->GetCurrUsePartFieldSQL(partStatement))
+        if (type == PartFieldsStatement &&
+            !history().Item(history().Count())->GetCurrUsePartFieldSQL(partStatement))
             return;
         QString next;
         ASSERT_TRUE(history().GetNextShowSQL(type, next)) << qPrintable(statement());
         Shown shown = top();
-        shown.isAll = type == 1;
-        if (type == 2)
+        shown.isAll = type == AllFieldsStatement;
+        if (type == PartFieldsStatement)
             shown.fields = m_database.read(partStatement).names;
         record(next, shown, colShowSQLSentences::NoPartField());
     }

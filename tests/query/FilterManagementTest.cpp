@@ -53,7 +53,7 @@ TEST_F(FilterManagement, SetUpReachesTheHistory)
 TEST_F(FilterManagement, KeepsWhatTheHostSets)
 {
     manager.SetDBType(dbSQLServer);
-    manager.SetTBLType(1);
+    manager.SetTBLType(FromView);
     manager.SetFieldStatus(2);
     EXPECT_EQ(manager.DBType(), dbSQLServer);
     EXPECT_EQ(manager.TBLType(), 1);
@@ -140,76 +140,78 @@ TEST_F(FilterManagement, FieldListsTakeTheSourceOfTheStatementShown)
 
 TEST_F(FilterManagement, FirstStatementIsDeliveredOnceAndSorted)
 {
-    EXPECT_EQ(manager.GetCurrentSQL(0), u"select * from T ORDER BY A"_s);
+    EXPECT_EQ(manager.GetCurrentSQL(FirstStatement), u"select * from T ORDER BY A"_s);
     EXPECT_EQ(manager.LastUseFilter(), u"select * from T ORDER BY A"_s);
     manager.SetAllFields(u"select B from T"_s);
-    EXPECT_EQ(manager.GetCurrentSQL(0), u"select * from T ORDER BY A"_s);
+    EXPECT_EQ(manager.GetCurrentSQL(FirstStatement), u"select * from T ORDER BY A"_s);
     EXPECT_EQ(Stack().size(), 2);
     manager.ClearCurrMess();
     manager.ClearCurrStatus();
-    EXPECT_EQ(manager.GetCurrentSQL(0), u"select B from T ORDER BY A"_s);
+    EXPECT_EQ(manager.GetCurrentSQL(FirstStatement), u"select B from T ORDER BY A"_s);
 }
 
 TEST_F(FilterManagement, ShowsAllOrPartFieldsOfTheCurrentStatement)
 {
-    manager.GetCurrentSQL(0);
-    EXPECT_EQ(manager.GetCurrentSQL(2), u"select A from T  ORDER BY A"_s);
-    EXPECT_EQ(manager.GetCurrentSQL(1), u"select * from T  ORDER BY A"_s);
+    manager.GetCurrentSQL(FirstStatement);
+    EXPECT_EQ(manager.GetCurrentSQL(PartFieldsStatement), u"select A from T  ORDER BY A"_s);
+    EXPECT_EQ(manager.GetCurrentSQL(AllFieldsStatement), u"select * from T  ORDER BY A"_s);
     manager.SetShowFields({});
-    EXPECT_EQ(manager.GetCurrentSQL(2), u"select * from T  ORDER BY A"_s) << "no part, nothing changes";
-    EXPECT_EQ(manager.GetCurrentSQL(6), u"select * from T  ORDER BY A"_s);
-    EXPECT_EQ(manager.GetCurrentSQL(-1), u"select * from T  ORDER BY A"_s);
+    EXPECT_EQ(manager.GetCurrentSQL(PartFieldsStatement), u"select * from T  ORDER BY A"_s)
+        << "no part, nothing changes";
+    EXPECT_EQ(manager.GetCurrentSQL(StatementType{6}), u"select * from T  ORDER BY A"_s);
+    EXPECT_EQ(manager.GetCurrentSQL(StatementType{-1}), u"select * from T  ORDER BY A"_s);
 }
 
 TEST_F(FilterManagement, HistoryDerivesForTheNewerFunction)
 {
-    manager.GetCurrentSQL20(0);
-    EXPECT_EQ(manager.GetCurrentSQL20(1), u"select * from T ORDER BY A"_s) << "no entry, nothing to derive";
-    manager.SQLManager().AddCurrentSQL(u"select B from T where B=1"_s, 1);
-    EXPECT_EQ(manager.GetCurrentSQL20(1), u"select * from T where B=1  ORDER BY A"_s);
-    EXPECT_EQ(manager.GetCurrentSQL20(2), u"select A from T where B=1  ORDER BY A"_s);
+    manager.GetCurrentSQL20(FirstStatement);
+    EXPECT_EQ(manager.GetCurrentSQL20(AllFieldsStatement), u"select * from T ORDER BY A"_s)
+        << "no entry, nothing to derive";
+    manager.SQLManager().AddCurrentSQL(u"select B from T where B=1"_s, AllFieldsShown);
+    EXPECT_EQ(manager.GetCurrentSQL20(AllFieldsStatement), u"select * from T where B=1  ORDER BY A"_s);
+    EXPECT_EQ(manager.GetCurrentSQL20(PartFieldsStatement), u"select A from T where B=1  ORDER BY A"_s);
 }
 
 TEST_F(FilterManagement, ThirdTypeStepsBack)
 {
     manager.LetNewSQLStr(u"b"_s);
-    EXPECT_EQ(manager.GetCurrentSQL(3), kAll);
+    EXPECT_EQ(manager.GetCurrentSQL(PreviousStatement), kAll);
     EXPECT_EQ(manager.Remembered().currentStatement, kAll);
-    EXPECT_EQ(clsFilterManagement().GetCurrentSQL(3), QString());
+    EXPECT_EQ(clsFilterManagement().GetCurrentSQL(PreviousStatement), QString());
 }
 
 TEST_F(FilterManagement, UserChoosesFields)
 {
-    manager.GetCurrentSQL(0);
+    manager.GetCurrentSQL(FirstStatement);
     chooser.choice = u"[B C],A"_s;
-    EXPECT_EQ(manager.GetCurrentSQL(4), u"SELECT [B C],A from T ORDER BY A"_s);
+    EXPECT_EQ(manager.GetCurrentSQL(ChosenFieldsStatement), u"SELECT [B C],A from T ORDER BY A"_s);
     EXPECT_EQ(chooser.title, u"T"_s);
     EXPECT_EQ(chooser.allFields, (QStringList{u"A"_s, u"B C"_s}));
     EXPECT_EQ(chooser.written, (QStringList{u"A"_s, u"[B C]"_s}));
     EXPECT_TRUE(chooser.present.isEmpty());
     EXPECT_EQ(manager.Remembered().currentPartFields, u"SELECT [B C],A from T ORDER BY A"_s);
     chooser.choice.reset();
-    EXPECT_EQ(manager.GetCurrentSQL(4), QString());
+    EXPECT_EQ(manager.GetCurrentSQL(ChosenFieldsStatement), QString());
     EXPECT_EQ(manager.LastUseFilter(), u"SELECT [B C],A from T ORDER BY A"_s) << "cancelling changes nothing";
-    EXPECT_EQ(manager.GetCurrentSQL(2), u"SELECT [B C],A from T   ORDER BY A"_s);
+    EXPECT_EQ(manager.GetCurrentSQL(PartFieldsStatement), u"SELECT [B C],A from T   ORDER BY A"_s);
 }
 
 TEST_F(FilterManagement, UserChoosesASort)
 {
-    manager.GetCurrentSQL(0);
+    manager.GetCurrentSQL(FirstStatement);
     chooser.choice = u"[B C] DESC"_s;
-    EXPECT_EQ(manager.GetCurrentSQL(5), u"select * from T  ORDER BY [B C] DESC"_s);
+    EXPECT_EQ(manager.GetCurrentSQL(ChosenSortStatement), u"select * from T  ORDER BY [B C] DESC"_s);
     EXPECT_EQ(manager.Remembered().currentSortFields, u"[B C] DESC"_s);
-    EXPECT_EQ(manager.GetCurrentSQL(5), u"select * from T   ORDER BY [B C] DESC"_s);
+    EXPECT_EQ(manager.GetCurrentSQL(ChosenSortStatement), u"select * from T   ORDER BY [B C] DESC"_s);
     EXPECT_EQ(chooser.present, QStringList{u"[B C] DESC"_s});
     chooser.choice = QString();
-    EXPECT_EQ(manager.GetCurrentSQL(5), QString());
+    EXPECT_EQ(manager.GetCurrentSQL(ChosenSortStatement), QString());
 }
 
 TEST_F(FilterManagement, OracleGetsQuotesForBrackets)
 {
     manager.SetDBType(dbOracle);
-    manager.GetCurrentSQL(0);
+    manager.GetCurrentSQL(FirstStatement);
     chooser.choice = u"[B C],A"_s;
     EXPECT_TRUE(manager.GetPartShowFields(text));
     EXPECT_EQ(text, u"SELECT \"B C\",A from T ORDER BY A"_s);
@@ -228,21 +230,21 @@ TEST_F(FilterManagement, SortOfTheSetUpIsOfferedForChoice)
 TEST_F(FilterManagement, ReturnsPartsOfAStatement)
 {
     const QString statement = u"select * from T where A=1 order by B"_s;
-    EXPECT_TRUE(manager.GetRequirePartSQL(statement, 1, text));
+    EXPECT_TRUE(manager.GetRequirePartSQL(statement, AllParts, text));
     EXPECT_EQ(text, u"select * from T  where A=1  order by B"_s);
-    EXPECT_TRUE(manager.GetRequirePartSQL(statement, 2, text));
+    EXPECT_TRUE(manager.GetRequirePartSQL(statement, PartsWithoutSort, text));
     EXPECT_EQ(text, u"select * from T  where A=1 "_s);
-    EXPECT_TRUE(manager.GetRequirePartSQL(statement, 3, text));
+    EXPECT_TRUE(manager.GetRequirePartSQL(statement, PartsWithoutCondition, text));
     EXPECT_EQ(text, u"select * from T  order by B"_s);
-    EXPECT_TRUE(manager.GetRequirePartSQL(statement, 4, text));
+    EXPECT_TRUE(manager.GetRequirePartSQL(statement, StatementParts{4}, text));
     EXPECT_EQ(text, QString());
-    EXPECT_FALSE(manager.GetRequirePartSQL({}, 1, text));
+    EXPECT_FALSE(manager.GetRequirePartSQL({}, AllParts, text));
 }
 
 TEST_F(FilterManagement, NamesAFieldOfTheCurrentStatement)
 {
     manager.SetOrderFields({});
-    manager.GetCurrentSQL(0);
+    manager.GetCurrentSQL(FirstStatement);
     EXPECT_EQ(manager.GetSelFieldRealName(u"DSN=a"_s, 2), u"B C"_s);
 }
 
@@ -257,8 +259,8 @@ TEST_F(FilterManagement, GoesBackToTheOrigin)
 
 TEST_F(FilterManagement, ClearFilterKeepsTheConnectionString)
 {
-    manager.GetCurrentSQL(0);
-    manager.SQLManager().AddCurrentSQL(kAll, 1);
+    manager.GetCurrentSQL(FirstStatement);
+    manager.SQLManager().AddCurrentSQL(kAll, AllFieldsShown);
     manager.ClearFilter();
     EXPECT_EQ(manager.AllFields() + manager.ShowFields() + manager.OrderFields() + manager.OriginFilter() +
                   manager.LastUseFilter() + manager.Remembered().currentStatement,

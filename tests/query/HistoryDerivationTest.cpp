@@ -25,12 +25,12 @@ protected:
         manager.SetOrderFields(sort);
         manager.SetOriginFilter(statement);
         manager.SetSQLInitData();
-        first = manager.GetCurrentSQL20(0);
+        first = manager.GetCurrentSQL20(FirstStatement);
         show(first);
     }
     void show(const QString &statement, const QString &part = colShowSQLSentences::NoPartField())
     {
-        history.AddCurrentSQL(statement, 1, part, colShowSQLSentences::NoSort());
+        history.AddCurrentSQL(statement, AllFieldsShown, part, colShowSQLSentences::NoSort());
         history.GetCurrSQLFieldsStatus();
     }
     QStringList firstColumn(const QString &statement) const
@@ -90,14 +90,14 @@ TEST(HistoryDerivationOfTop, AFilterCanNameFieldsThatWereNotChosen)
     manager.SetAllFields(all);
     manager.SetOriginFilter(all);
     manager.SetSQLInitData();
-    history.AddCurrentSQL(all, 1);
+    history.AddCurrentSQL(all, AllFieldsShown);
     history.GetCurrSQLFieldsStatus();
 
     QString chosen;
     chooser.choice = u"B"_s;
     ASSERT_TRUE(manager.GetPartShowSelFields(all, {}, all, chosen));
     EXPECT_EQ(chosen.simplified(), u"SELECT top 5 B FROM T ORDER BY B"_s);
-    history.AddCurrentSQL(chosen, 0, history.GetFieldsStatement(chosen));
+    history.AddCurrentSQL(chosen, PartFieldsShown, history.GetFieldsStatement(chosen));
     EXPECT_TRUE(history.CanName(*history.DataFields().Item(1)));
     EXPECT_EQ(history.GetColumnRealName(chosen, {u"B"_s}, 0), u"B"_s);
 
@@ -108,9 +108,9 @@ TEST(HistoryDerivationOfTop, AFilterCanNameFieldsThatWereNotChosen)
     ASSERT_TRUE(history.GetNextSQLByFilter(u"A = 1"_s, filtered));
     EXPECT_EQ(filtered.simplified(),
               u"SELECT B FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE A = 1 ORDER BY B"_s);
-    history.AddCurrentSQL(filtered, 0);
+    history.AddCurrentSQL(filtered, PartFieldsShown);
     QString next;
-    ASSERT_TRUE(history.GetNextShowSQL(1, next));
+    ASSERT_TRUE(history.GetNextShowSQL(AllFieldsStatement, next));
     EXPECT_EQ(next.simplified(),
               u"SELECT * FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE A = 1 ORDER BY B"_s);
     chooser.choice = u"A"_s;
@@ -118,7 +118,7 @@ TEST(HistoryDerivationOfTop, AFilterCanNameFieldsThatWereNotChosen)
     EXPECT_EQ(chosen.simplified(),
               u"SELECT A FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE A = 1 ORDER BY B"_s);
     EXPECT_EQ(chooser.allFields, (QStringList{u"A"_s, u"B"_s}));
-    ASSERT_TRUE(manager.GetRequirePartSQL(filtered, 3, next));
+    ASSERT_TRUE(manager.GetRequirePartSQL(filtered, PartsWithoutCondition, next));
     EXPECT_EQ(next.simplified(), u"SELECT B FROM ( select top 5 A, B from T order by B ) AS Q ORDER BY B"_s);
 }
 
@@ -175,7 +175,7 @@ TEST_F(HistoryDerivation, TheWholeTableKeepsTheGrouping)
     EXPECT_EQ(firstColumn(next), (QStringList{u"2"_s, u"3"_s}));
     show(next);
     QString whole;
-    EXPECT_TRUE(manager.GetRequirePartSQL(next, 3, whole));
+    EXPECT_TRUE(manager.GetRequirePartSQL(next, PartsWithoutCondition, whole));
     EXPECT_EQ(firstColumn(whole), (QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s})) << qPrintable(whole);
     EXPECT_TRUE(manager.LetNewFilter(u"N = 1"_s, next)) << "from the statement that the manager remembers";
     EXPECT_EQ(firstColumn(next), (QStringList{u"1"_s}));
@@ -185,7 +185,7 @@ TEST_F(HistoryDerivation, AHostsPartStatementIsFoundByItsNames)
 {
     load(u"select o.ID as No, c.Name, o.Qty from Ord o join Cust c on c.ID = o.Cust where o.Qty > 1"_s,
          u"select Qty, Name from Cust, Ord"_s);
-    EXPECT_TRUE(history.GetNextShowSQL(2, next));
+    EXPECT_TRUE(history.GetNextShowSQL(PartFieldsStatement, next));
     EXPECT_EQ(database->read(next).names, (QStringList{u"Qty"_s, u"Name"_s})) << qPrintable(next);
     EXPECT_EQ(firstColumn(next).size(), firstColumn(first).size());
 }
@@ -193,7 +193,7 @@ TEST_F(HistoryDerivation, AHostsPartStatementIsFoundByItsNames)
 TEST_F(HistoryDerivation, AHostsPartStatementMayLackAnAlias)
 {
     load(u"select ID as k, Name as n, Qty * 2 as d from Ord"_s, u"select Name, Qty * 2 from Ord"_s);
-    EXPECT_TRUE(history.GetNextShowSQL(2, next));
+    EXPECT_TRUE(history.GetNextShowSQL(PartFieldsStatement, next));
     EXPECT_EQ(database->read(next).names, (QStringList{u"n"_s, u"d"_s})) << qPrintable(next);
     EXPECT_TRUE(history.GetCurrSQLFieldsStatus());
     EXPECT_TRUE(history.IsSelFieldPartField(u"n"_s));

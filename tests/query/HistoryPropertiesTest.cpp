@@ -86,8 +86,8 @@ private:
     {
         const Entry entry{u"select "_s + QString::number(m_random() % 100) + u" from T"_s, {}};
         QString key;
-        ASSERT_TRUE(
-            m_history.AddCurrentSQL(entry.statement, 1, m_history.NoPartField(), m_history.NoSort(), &key));
+        ASSERT_TRUE(m_history.AddCurrentSQL(entry.statement, AllFieldsShown, m_history.NoPartField(),
+                                            m_history.NoSort(), &key));
         ASSERT_FALSE(m_used.contains(key)) << "keys are never used again";
         m_used.insert(key);
         m_entries.push_back({entry.statement, key});
@@ -133,11 +133,11 @@ TEST(HistoryProperties, SteppingBackUndoesEachPush)
     history.SetConnString(u"DSN=a"_s);
     history.SetAllFields(u"all"_s);
     QStringList shown{u"select * from T"_s};
-    ASSERT_TRUE(history.AddCurrentSQL(shown.last(), 1));
+    ASSERT_TRUE(history.AddCurrentSQL(shown.last(), AllFieldsShown));
     for (int i = 0; i < 200; ++i) {
         QString next;
         ASSERT_TRUE(history.GetNextSQLByFilter(u"A="_s + QString::number(i), next));
-        ASSERT_TRUE(history.AddCurrentSQL(next, 1, history.NoPartField(), history.NoSort()));
+        ASSERT_TRUE(history.AddCurrentSQL(next, AllFieldsShown, history.NoPartField(), history.NoSort()));
         shown.append(next);
     }
     while (shown.size() > 1) {

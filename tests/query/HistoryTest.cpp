@@ -33,7 +33,7 @@ protected:
 
     void Push(const QString &text)
     {
-        ASSERT_TRUE(history.AddCurrentSQL(text, 1, history.NoPartField(), history.NoSort()));
+        ASSERT_TRUE(history.AddCurrentSQL(text, AllFieldsShown, history.NoPartField(), history.NoSort()));
     }
 
     QStringList Statements() const
@@ -64,8 +64,8 @@ TEST_F(History, KeepsItsSetUp)
 
 TEST_F(History, EntriesHoldWhatTheyWereAddedWith)
 {
-    ASSERT_TRUE(history.AddAllSQLMess(u"f"_s, u"w"_s, u"o"_s, u"org"_s, u"show"_s, 1, u"all"_s, u"part"_s,
-                                      u"sort"_s, u"cp"_s, u"cs"_s, &key));
+    ASSERT_TRUE(history.AddAllSQLMess(u"f"_s, u"w"_s, u"o"_s, u"org"_s, u"show"_s, AllFieldsShown, u"all"_s,
+                                      u"part"_s, u"sort"_s, u"cp"_s, u"cs"_s, &key));
     const clsShowSQLSentence *const entry = history.Item(key);
     ASSERT_TRUE(entry);
     EXPECT_EQ(entry->SQLFields + entry->SQLWhere + entry->SQLOrder, u"fwo"_s);
@@ -83,14 +83,14 @@ TEST_F(History, EntriesHoldWhatTheyWereAddedWith)
 TEST_F(History, GivenKeyIsUsedAndATakenOneRefused)
 {
     key = u"mine"_s;
-    EXPECT_TRUE(history.AddSimpleSQLMess({}, u"a"_s, 0, &key));
-    EXPECT_FALSE(history.AddSimpleSQLMess({}, u"b"_s, 0, &key));
+    EXPECT_TRUE(history.AddSimpleSQLMess({}, u"a"_s, PartFieldsShown, &key));
+    EXPECT_FALSE(history.AddSimpleSQLMess({}, u"b"_s, PartFieldsShown, &key));
     EXPECT_EQ(Statements(), QStringList{u"a"_s});
 }
 
 TEST_F(History, CurrentStatementInheritsTheSetUp)
 {
-    ASSERT_TRUE(history.AddCurrentSQL(u"show"_s, 1, u"cp"_s, u"cs"_s));
+    ASSERT_TRUE(history.AddCurrentSQL(u"show"_s, AllFieldsShown, u"cp"_s, u"cs"_s));
     const clsShowSQLSentence *const entry = history.Item(1);
     EXPECT_EQ(entry->OrgSQL, u"first filter"_s);
     EXPECT_EQ(entry->AllFields, kAll);
@@ -104,17 +104,17 @@ TEST_F(History, MarkersKeepTheChoicesOfTheLatestEntry)
 {
     Push(u"a"_s);
     EXPECT_EQ(history.Item(1)->CurrPartFields + history.Item(1)->CurrOrderFields, QString());
-    history.AddCurrentSQL(u"b"_s, 1, u"cp"_s, u"cs"_s);
+    history.AddCurrentSQL(u"b"_s, AllFieldsShown, u"cp"_s, u"cs"_s);
     Push(u"c"_s);
     EXPECT_EQ(history.Item(3)->CurrPartFields, u"cp"_s);
     EXPECT_EQ(history.Item(3)->CurrOrderFields, u"cs"_s);
-    history.AddCurrentSQL(u"d"_s, 1);
+    history.AddCurrentSQL(u"d"_s, AllFieldsShown);
     EXPECT_EQ(history.Item(4)->CurrPartFields, QString());
 }
 
 TEST_F(History, EmptyStatementIsNotAdded)
 {
-    EXPECT_FALSE(history.AddCurrentSQL({}, 1));
+    EXPECT_FALSE(history.AddCurrentSQL({}, AllFieldsShown));
     EXPECT_EQ(history.Count(), 0);
 }
 
@@ -127,7 +127,7 @@ TEST_F(History, EmptyHistoryAnswersFalse)
     EXPECT_FALSE(history.GetFirstSQL(statement, &key));
     EXPECT_FALSE(history.GetNextSQLByFilter(u"a=1"_s, statement));
     EXPECT_FALSE(history.GetNextSQLBySort(u"a"_s, statement));
-    EXPECT_FALSE(history.GetNextShowSQL(3, statement));
+    EXPECT_FALSE(history.GetNextShowSQL(PreviousStatement, statement));
     EXPECT_FALSE(history.GetCurrSQLFieldsStatus());
     EXPECT_FALSE(history.GetCurrShowFieldsCount(count));
 }
@@ -193,11 +193,11 @@ TEST_F(History, NextStatementsAreDerivedFromTheLatestWithoutAPush)
 TEST_F(History, ShowsAllOrPartFieldsOfTheLatest)
 {
     Push(u"select * from T where A=1"_s);
-    EXPECT_TRUE(history.GetNextShowSQL(1, statement));
+    EXPECT_TRUE(history.GetNextShowSQL(AllFieldsStatement, statement));
     EXPECT_EQ(statement, kAll + u" where A=1  ORDER BY Name"_s);
-    EXPECT_TRUE(history.GetNextShowSQL(2, statement));
+    EXPECT_TRUE(history.GetNextShowSQL(PartFieldsStatement, statement));
     EXPECT_EQ(statement, kPart + u" where A=1  ORDER BY Name"_s);
-    for (const qint32 other : {-1, 0, 3, 4}) {
+    for (const auto other : {StatementType{-1}, FirstStatement, PreviousStatement, ChosenFieldsStatement}) {
         statement = u"old"_s;
         EXPECT_TRUE(history.GetNextShowSQL(other, statement));
         EXPECT_EQ(statement, QString());
@@ -206,8 +206,8 @@ TEST_F(History, ShowsAllOrPartFieldsOfTheLatest)
 
 TEST_F(History, PartFieldsThatTheUserChoseWin)
 {
-    history.AddCurrentSQL(u"select * from T"_s, 1, u"select C from T"_s);
-    EXPECT_TRUE(history.GetNextShowSQL(2, statement));
+    history.AddCurrentSQL(u"select * from T"_s, AllFieldsShown, u"select C from T"_s);
+    EXPECT_TRUE(history.GetNextShowSQL(PartFieldsStatement, statement));
     EXPECT_EQ(statement, u"select C from T   ORDER BY Name"_s);
 }
 
@@ -215,7 +215,7 @@ TEST_F(History, NoPartStatementMeansNoPartFieldsToShow)
 {
     history.SetShowFieds({});
     Push(u"select * from T"_s);
-    EXPECT_FALSE(history.GetNextShowSQL(2, statement));
+    EXPECT_FALSE(history.GetNextShowSQL(PartFieldsStatement, statement));
     EXPECT_TRUE(history.GetCurrSQLFieldsStatus());
 }
 
@@ -276,7 +276,7 @@ TEST_F(History, PartFieldsAreMarkedByWhatTheirStatementYields)
     qint32 count = 0;
     EXPECT_TRUE(history.GetCurrShowFieldsCount(count));
     EXPECT_EQ(count, 5) << "the latest entry shows all fields";
-    history.AddCurrentSQL(u"select * from T"_s, 0);
+    history.AddCurrentSQL(u"select * from T"_s, PartFieldsShown);
     EXPECT_TRUE(history.GetCurrShowFieldsCount(count));
     EXPECT_EQ(count, 1);
 }
@@ -319,7 +319,7 @@ TEST_F(History, ClearForgetsEverythingButItsReader)
     EXPECT_EQ(history.ConnString() + history.AllFields() + history.OrderWord(), QString());
     history.SetConnString(u"DSN=a"_s);
     history.SetAllFields(kAll);
-    ASSERT_TRUE(history.AddCurrentSQL(u"a"_s, 1, {}, {}, &key));
+    ASSERT_TRUE(history.AddCurrentSQL(u"a"_s, AllFieldsShown, {}, {}, &key));
     EXPECT_EQ(key, u"0ForDel"_s);
     EXPECT_TRUE(history.GetCurrSQLFieldsStatus());
 }

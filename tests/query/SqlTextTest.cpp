@@ -90,19 +90,19 @@ TEST(SqlText, CutsAffixesOnceAtTheWantedEnds)
 {
     const QString quoted = u"\"\"A\"\""_s;
     const QString quote = u"\""_s;
-    EXPECT_EQ(CutStringEnds(quoted, quote, 1), u"\"A\"\""_s);
-    EXPECT_EQ(CutStringEnds(quoted, quote, 2), u"\"\"A\""_s);
-    EXPECT_EQ(CutStringEnds(quoted, quote, 3), u"\"A\""_s);
-    EXPECT_EQ(CutStringEnds(quoted, quote, 0), quoted);
-    EXPECT_EQ(CutStringEnds(quoted, quote, 4), quoted);
-    EXPECT_EQ(CutStringEnds(u"abA"_s, u"a"_s, 3), u"bA"_s) << "letter for letter";
-    EXPECT_EQ(CutStringEnds(quote, quote, 3), QString()) << "one character is either end, not both";
+    EXPECT_EQ(CutStringEnds(quoted, quote, CutBegin), u"\"A\"\""_s);
+    EXPECT_EQ(CutStringEnds(quoted, quote, CutEnd), u"\"\"A\""_s);
+    EXPECT_EQ(CutStringEnds(quoted, quote, CutBoth), u"\"A\""_s);
+    EXPECT_EQ(CutStringEnds(quoted, quote, CutEnds{0}), quoted);
+    EXPECT_EQ(CutStringEnds(quoted, quote, CutEnds{4}), quoted);
+    EXPECT_EQ(CutStringEnds(u"abA"_s, u"a"_s, CutBoth), u"bA"_s) << "letter for letter";
+    EXPECT_EQ(CutStringEnds(quote, quote, CutBoth), QString()) << "one character is either end, not both";
 }
 
 TEST(SqlText, EmptyAffixEmptiesTheText)
 {
-    EXPECT_EQ(CutStringEnds(u"A"_s, {}, 3), QString());
-    EXPECT_EQ(CutStringEnds({}, u"A"_s, 3), QString());
+    EXPECT_EQ(CutStringEnds(u"A"_s, {}, CutBoth), QString());
+    EXPECT_EQ(CutStringEnds({}, u"A"_s, CutBoth), QString());
 }
 
 TEST(SqlText, FromPartReachesToTheEnd)

@@ -155,14 +155,14 @@ QStringList splitList(const QString &list, const Dialect &dialect)
     return entries;
 }
 
-QString CutStringEnds(const QString &text, const QString &affix, int mode)
+QString CutStringEnds(const QString &text, const QString &affix, CutEnds ends)
 {
     if (text.isEmpty() || affix.isEmpty())
         return {};
     QString rest = text;
-    if ((mode == CutBegin || mode == CutBoth) && rest.startsWith(affix))
+    if ((ends == CutBegin || ends == CutBoth) && rest.startsWith(affix))
         rest.remove(0, affix.size());
-    if ((mode == CutEnd || mode == CutBoth) && rest.endsWith(affix))
+    if ((ends == CutEnd || ends == CutBoth) && rest.endsWith(affix))
         rest.chop(affix.size());
     return rest;
 }

@@ -68,8 +68,8 @@ QStringList splitList(const QString &list, const Dialect &dialect = {});
 
 // Where CutStringEnds removes.
 enum CutEnds : qint32 { CutBegin = 1, CutEnd = 2, CutBoth = 3 };
-// Removes one `affix` at the text's begin, end or both; a `mode` that is no CutEnds changes nothing. An empty
+// Removes one `affix` at the text's begin, end or both; another number changes nothing. An empty
 // affix empties the result.
-QString CutStringEnds(const QString &text, const QString &affix, int mode);
+QString CutStringEnds(const QString &text, const QString &affix, CutEnds ends);
 
 } // namespace KOVAVSFDataGridLib

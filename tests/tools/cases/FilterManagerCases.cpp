@@ -63,7 +63,7 @@ QJsonValue SortSelFields(M &m, const A &a)
 QJsonValue RequirePart(M &m, const A &a)
 {
     QString statement;
-    const bool isDone = m.GetRequirePartSQL(a.Text(0), a.Number(1), statement);
+    const bool isDone = m.GetRequirePartSQL(a.Text(0), static_cast<StatementParts>(a.Number(1)), statement);
     return Chosen(isDone, u"strRetSQL"_s, statement);
 }
 
@@ -75,13 +75,13 @@ QJsonValue Let(M &m, const A &a)
         {u"OrderFields"_s, &M::SetOrderFields},
         {u"OriginFilter"_s, &M::SetOriginFilter},
         {u"DBConnString"_s, &M::SetDBConnString}};
-    static const QHash<QString, void (M::*)(qint32)> numberSetters{{u"TBLType"_s, &M::SetTBLType},
-                                                                   {u"FieldStatus"_s, &M::SetFieldStatus}};
     const QString name = a.Text(0);
     if (const auto setText = textSetters.value(name))
         (m.*setText)(a.Text(1));
-    else if (const auto setNumber = numberSetters.value(name))
-        (m.*setNumber)(a.Number(1));
+    else if (name == u"TBLType")
+        m.SetTBLType(static_cast<StatementSource>(a.Number(1)));
+    else if (name == u"FieldStatus")
+        m.SetFieldStatus(a.Number(1));
     else if (name == u"DBType")
         m.SetDBType(static_cast<AllDBType>(a.Number(1)));
     else
@@ -100,8 +100,10 @@ const QHash<QString, ManagerOperation> &Operations()
         {u"IsCanPreviewFilter"_s, Answering(&M::IsCanPreviewFilter, u"PassFilter"_s)},
         {u"GetAllFieldSQL"_s, [](M &m, const A &) { return m.GetAllFieldSQL(); }},
         {u"GetPartFieldSQL"_s, [](M &m, const A &) { return m.GetPartFieldSQL(); }},
-        {u"GetCurrentSQL"_s, [](M &m, const A &a) { return m.GetCurrentSQL(a.Number(0)); }},
-        {u"GetCurrentSQL20"_s, [](M &m, const A &a) { return m.GetCurrentSQL20(a.Number(0)); }},
+        {u"GetCurrentSQL"_s,
+         [](M &m, const A &a) { return m.GetCurrentSQL(static_cast<StatementType>(a.Number(0))); }},
+        {u"GetCurrentSQL20"_s,
+         [](M &m, const A &a) { return m.GetCurrentSQL20(static_cast<StatementType>(a.Number(0))); }},
         {u"GetPartShowSelFields"_s, ShowSelFields},
         {u"GetPartSortSelFields"_s, SortSelFields},
         {u"GetPartShowFields"_s, Answering(&M::GetPartShowFields, u"strRetSelFields"_s)},

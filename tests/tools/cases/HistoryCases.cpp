@@ -29,31 +29,32 @@ QJsonValue Init(H &h, const A &a)
 QJsonValue AddSimple(H &h, const A &a)
 {
     QString key = a.OptionalText(3);
-    const bool isDone = h.AddSimpleSQLMess(a.Text(0), a.Text(1), a.Number(2), &key);
+    const bool isDone = h.AddSimpleSQLMess(a.Text(0), a.Text(1), static_cast<ShownFields>(a.Number(2)), &key);
     return Added(isDone, key);
 }
 
 QJsonValue AddSQL(H &h, const A &a)
 {
     QString key = a.OptionalText(8);
-    const bool isDone = h.AddSQLMess(a.Text(0), a.Text(1), a.Number(2), a.Text(3), a.Text(4), a.Text(5),
-                                     a.OptionalText(6), a.OptionalText(7), &key);
+    const bool isDone = h.AddSQLMess(a.Text(0), a.Text(1), static_cast<ShownFields>(a.Number(2)), a.Text(3),
+                                     a.Text(4), a.Text(5), a.OptionalText(6), a.OptionalText(7), &key);
     return Added(isDone, key);
 }
 
 QJsonValue AddAll(H &h, const A &a)
 {
     QString key = a.OptionalText(11);
-    const bool isDone =
-        h.AddAllSQLMess(a.Text(0), a.Text(1), a.Text(2), a.Text(3), a.Text(4), a.Number(5), a.Text(6),
-                        a.Text(7), a.Text(8), a.OptionalText(9), a.OptionalText(10), &key);
+    const bool isDone = h.AddAllSQLMess(a.Text(0), a.Text(1), a.Text(2), a.Text(3), a.Text(4),
+                                        static_cast<ShownFields>(a.Number(5)), a.Text(6), a.Text(7),
+                                        a.Text(8), a.OptionalText(9), a.OptionalText(10), &key);
     return Added(isDone, key);
 }
 
 QJsonValue AddCurrent(H &h, const A &a)
 {
     QString key = a.OptionalText(4);
-    const bool isDone = h.AddCurrentSQL(a.Text(0), a.Number(1), a.OptionalText(2), a.OptionalText(3), &key);
+    const bool isDone = h.AddCurrentSQL(a.Text(0), static_cast<ShownFields>(a.Number(1)), a.OptionalText(2),
+                                        a.OptionalText(3), &key);
     return Added(isDone, key);
 }
 
@@ -87,7 +88,7 @@ HistoryOperation Next(NextStatement next)
 QJsonValue NextShow(H &h, const A &a)
 {
     QString statement;
-    const bool isDone = h.GetNextShowSQL(a.Number(0), statement);
+    const bool isDone = h.GetNextShowSQL(static_cast<StatementType>(a.Number(0)), statement);
     return QJsonObject{{u"ok"_s, isDone}, {u"PassSQL"_s, statement}};
 }
 

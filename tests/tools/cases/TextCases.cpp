@@ -156,8 +156,8 @@ QJsonValue AllFieldNameCase(const Arguments &arguments)
 QJsonValue RequirePartCase(const Arguments &arguments)
 {
     QString statement;
-    const bool isDone =
-        clsFilterManagement().GetRequirePartSQL(arguments.Text(0), arguments.Number(1), statement);
+    const bool isDone = clsFilterManagement().GetRequirePartSQL(
+        arguments.Text(0), static_cast<StatementParts>(arguments.Number(1)), statement);
     return QJsonObject{{u"result"_s, isDone}, {u"strRetSQL"_s, statement}};
 }
 
@@ -274,7 +274,8 @@ QHash<QString, TextCase> MakeTextCases()
         {u"ParseSQLFieldList"_s, ParseSQLFieldListCase},
         {u"ParseSelFieldList"_s, ParseSelFieldListCase},
         {u"GetSQLTableName"_s, [](const A &a) { return GetSQLTableName(a.Text(0)); }},
-        {u"CutStringEnds"_s, [](const A &a) { return CutStringEnds(a.Text(0), a.Text(1), a.Number(2)); }},
+        {u"CutStringEnds"_s,
+         [](const A &a) { return CutStringEnds(a.Text(0), a.Text(1), static_cast<CutEnds>(a.Number(2))); }},
         {u"GetNoRowSQL"_s, [](const A &a) { return GetNoRowSQL(a.Text(0)); }},
         {u"AppendOrderWord"_s, [](const A &a) { return AppendOrderWord(a.Text(0), a.Text(1)); }},
         {u"ReplaceSQLFieldPart"_s, [](const A &a) { return ReplaceSQLFieldPart(a.Text(0), a.Text(1)); }},
