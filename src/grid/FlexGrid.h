@@ -95,7 +95,6 @@ public:
     // when other cells are shown.
     ADODB::DisplayFormat ColFormat(int col) const;
     void PutColFormat(int col, const ADODB::DisplayFormat &format);
-    void ResetColFormats();
 
     // Whether cells without a value show a pale NULL, which is no text of theirs.
     bool ShowsNulls() const;

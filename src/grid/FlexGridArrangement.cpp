@@ -123,11 +123,6 @@ void FlexGrid::PutShowsNulls(bool on)
     viewport()->update();
 }
 
-void FlexGrid::ResetColFormats()
-{
-    m_model->setFormats({});
-}
-
 void FlexGrid::PutHeadingMarks(const std::vector<HeadingMark> &marks)
 {
     m_model->setHeadingMarks(marks);
