@@ -2,10 +2,10 @@
 
 #include "ado/Error.h"
 #include "filter/FilterTexts.h"
+#include "filter/TicksDialog.h"
 #include "filter/WaitCursor.h"
 #include "filter/count/FilterCount.h"
 #include "filter/rows/FilterRows.h"
-#include "filter/rows/TickDialog.h"
 #include "forms/widgets/FlatCmd.h"
 #include "sql/StatementLines.h"
 
@@ -181,12 +181,15 @@ void SetFilter::readFields()
     };
     context->askTicks = [this](const FilterField &field, const TickedValues &named) {
         stopReading();
-        return askTicks(
-            this, field,
-            [this, field](const QString &search) {
-                return m_source.tickRequest(field, m_currentCondition, search);
-            },
-            named);
+        const auto answer =
+            askTicks(this, {.title = FilterTexts::PickValues.arg(field.caption),
+                            .fieldClass = field.fieldClass,
+                            .requests =
+                                [this, field](const QString &search) {
+                                    return m_source.tickRequest(field, m_currentCondition, search);
+                                },
+                            .ticked = named});
+        return answer ? std::optional(answer->ticked) : std::nullopt;
     };
     m_rows->start(std::move(context));
     enableParts();

@@ -1,47 +1,34 @@
 #pragma once
 
-#include "filter/FilterSource.h"
-#include "filter/conditions/TickedValues.h"
-#include "filter/mod_Filter.h"
+#include "filter/ValueTicks.h"
 
-#include <QtWidgets/QDialog>
-
-class QPushButton;
+#include <functional>
+#include <optional>
 
 namespace KOVAVSFDataGridLib {
 
-class ValueTicks;
-
-// Lets the user choose records by ticking values of one field.
-class TicksDialog final : public QDialog
+// What a user is asked by askTicks.
+struct TicksRequest
 {
-    Q_OBJECT
-
-public:
-    // What he leaves the dialog for.
-    enum Result { Cancelled = Rejected, Chosen = Accepted, WantsBuilder };
-
-    // `request.field` is the field's caption and `written` how statements write it. `request.built` is what
-    // Built() answered for an earlier choice.
-    TicksDialog(const FilterRequest &request, const QString &written, QWidget *parent = nullptr);
-
-    // The condition of what is ticked; empty when that is everything.
-    const QString &condition() const { return m_condition; }
-    QString Built() const;
-
-private:
-    ValueRequest requestFor(const QString &search);
-    void readField(const QString &caption, const QString &written);
-    void layOut();
-    void choose();
-
-    FilterSource m_source;
-    QString m_records; // the condition that they meet
-    FilterField m_field;
-    QString m_fault;
-    QString m_condition;
-    ValueTicks *m_ticks;
-    QPushButton *m_ok;
+    QString title;
+    FieldClass fieldClass;
+    ValueTicks::Requests requests; // see ValueTicks::start
+    TickedValues ticked = {};      // what the list begins with
+    // Whether the user can choose what is ticked; without it, he can choose everything.
+    std::function<bool(const TickedValues &)> canChoose = {};
+    // Why it can't be taken once he has chosen it, for him to read; empty when it can.
+    std::function<QString(const TickedValues &)> whyNot = {};
+    bool offersBuilder = false; // the filter builder instead
 };
+
+struct TicksAnswer
+{
+    TickedValues ticked = {};
+    bool wantsBuilder = false; // then nothing is ticked
+};
+
+// Lets the user tick values of one field in a dialog. Nothing when he cancels, or when `parent` goes
+// meanwhile.
+std::optional<TicksAnswer> askTicks(QWidget *parent, const TicksRequest &request);
 
 } // namespace KOVAVSFDataGridLib

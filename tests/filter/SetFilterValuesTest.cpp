@@ -90,7 +90,7 @@ WindowAnswers::Answer tick(const QStringList &values)
             list->setCurrentItem(find());
             QTest::keyClick(list, Qt::Key_Space);
         }
-        QTest::mouseClick(&part<QAbstractButton>(ticks, "cmdOk"), Qt::LeftButton);
+        QTest::mouseClick(&part<QAbstractButton>(ticks, "cmdOK"), Qt::LeftButton);
     };
 }
 

@@ -5,7 +5,7 @@
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/ToolbarIcons.h"
 #include "control/settings/Configuration.h"
-#include "filter/TicksDialog.h"
+#include "filter/ColumnTicks.h"
 #include "filter/mod_Filter.h"
 #include "forms/ExportDialog.h"
 #include "forms/FindDialog.h"
@@ -118,15 +118,10 @@ std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionReque
 
 std::optional<ValuesAnswer> DialogQuestions::askValues(const ValuesRequest &request)
 {
-    TicksDialog dialog(filterRequest(request.records), request.written, m_parent);
-    switch (dialog.exec()) {
-    case TicksDialog::Chosen:
-        return ValuesAnswer{dialog.condition(), dialog.Built()};
-    case TicksDialog::WantsBuilder:
-        return ValuesAnswer{.wantsBuilder = true};
-    default:
+    const auto choice = askColumnTicks(m_parent, filterRequest(request.records), request.written);
+    if (!choice)
         return {};
-    }
+    return ValuesAnswer{choice->condition, choice->built, choice->wantsBuilder};
 }
 
 std::optional<FindAnswer> DialogQuestions::askWords(const colDataFields &fields)
