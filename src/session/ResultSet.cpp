@@ -94,6 +94,11 @@ void ResultSet::release()
         m_adodc->PutRecordset(nullptr);
 }
 
+bool ResultSet::hasRecords() const
+{
+    return isOpen() && m_recordset->RecordCount() != 0;
+}
+
 bool ResultSet::isOpen() const
 {
     return m_recordset && m_recordset->State() == ADODB::adStateOpen;

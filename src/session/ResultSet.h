@@ -49,6 +49,8 @@ public:
     void release();
 
     bool isOpen() const;
+    // Looks into the open result, since other controls write the shared values as well.
+    bool hasRecords() const;
     // Whether the open connection was made from exactly this text.
     bool isConnectedTo(const QString &connectionString) const;
     // Null before the first result and after release().

@@ -2,31 +2,42 @@
 
 #include "ado/Adodc.h"
 #include "ado/Error.h"
-#include "ado/Recordset.h"
+#include "ado/Notifications.h"
+#include "query/SharedValues.h"
 #include "session/HostEvents.h"
 #include "session/Questions.h"
-#include "session/ResultWatch.h"
-#include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
-#include "session/TypedPage.h"
+#include "session/WindowRules.h"
 #include "session/columns/ColumnCommand.h"
 #include "session/commands/Command.h"
-#include "session/commands/CommandKeys.h"
-#include "session/history/StatementTrail.h"
+#include "session/editing/EditedRecord.h"
+#include "session/history/SharedHistory.h"
+#include "session/layout/ColumnLayout.h"
+#include "session/layout/ShownColumns.h"
+#include "session/pages/Pages.h"
+#include "session/statement/ConnectionFieldReader.h"
+#include "session/statement/ShownStatement.h"
+#include "session/statement/StatementReader.h"
 
 namespace KOVAVSFDataGridLib {
 
 Session::Session(SessionWindow &window, Questions &questions, HostEvents &host, const WindowRules &rules,
                  ADODB::Adodc *adodc, Opener opener)
-    : m_window(&window),
+    : shared(SharedValues::instance()),
+      m_window(&window),
       m_questions(&questions),
       m_host(&host),
       m_rules(rules),
-      m_opener(std::move(opener)),
-      m_adodc(adodc),
+      m_ownNotifications(std::make_unique<ADODB::Notifications>()),
+      m_notifications(adodc ? &adodc->notifications() : m_ownNotifications.get()),
       m_result(adodc),
-      m_reader(m_result),
-      m_notifications(adodc ? &adodc->notifications() : &m_ownNotifications)
+      m_fieldReader(std::make_unique<ConnectionFieldReader>(m_result)),
+      m_statementReader(std::make_unique<StatementReader>(*this, std::move(opener))),
+      m_history(std::make_unique<SharedHistory>(*this)),
+      m_shown(std::make_unique<ShownStatement>(*this)),
+      m_fields(std::make_unique<ShownColumns>(*this)),
+      m_pages(std::make_unique<Pages>(*this, adodc)),
+      m_record(std::make_unique<EditedRecord>(*this))
 {
 }
 
@@ -40,46 +51,25 @@ void Session::detach()
     m_window = &nowhere;
     m_questions = &nobody;
     m_host = &noHost;
-    m_notifications = &m_ownNotifications;
+    m_notifications = m_ownNotifications.get();
     m_isDetached = true;
-    if (m_filter && !m_rules.worksOnLentResult)
-        m_filter->SetFieldChooser(nullptr);
+    m_history->detach();
     m_result.borrow({}); // which closes it, unless the host holds it as well
 }
 
-ColumnLayout Session::columns()
+ColumnLayout Session::columns() const
 {
     return ColumnLayout(*m_window, history());
 }
 
-const std::shared_ptr<clsFilterManagement> &Session::sharedFilterManager()
+clsFilterManagement &Session::filterManager() const
 {
-    if (!m_filter)
-        m_filter = newFilterManager();
-    return m_filter;
+    return *m_history->manager();
 }
 
-std::unique_ptr<clsFilterManagement> Session::newFilterManager()
+colShowSQLSentences &Session::history() const
 {
-    return std::make_unique<clsFilterManagement>(&m_reader, m_questions);
-}
-
-void Session::setFilterManager(std::shared_ptr<clsFilterManagement> manager)
-{
-    m_filter = std::move(manager);
-}
-
-const std::shared_ptr<StatementTrail> &Session::sharedTrail()
-{
-    if (!m_trail || !m_trail->isOf(m_filter))
-        m_trail = std::make_shared<StatementTrail>(m_filter);
-    return m_trail;
-}
-
-void Session::noteShownResult()
-{
-    if (m_filter && m_result.isOpen())
-        trail().addNote(history(), m_result.recordset()->RecordCount());
+    return filterManager().SQLManager();
 }
 
 void Session::run(const QString &key, ChosenBy by)
@@ -109,13 +99,12 @@ bool Session::makeReady(const Command &command)
 
 bool Session::makeReady(Needs needs, Record record)
 {
-    returnToShownRecord();
-    const ResultWatch watch(*this);
-    if (record == Record::IsListedAgain && !commitEdit())
+    m_pages->returnToShownRecord();
+    if (record == Record::IsListedAgain && !m_record->commitEdit())
         return false;
-    if (record == Record::IsLeft && !saveRecord())
+    if (record == Record::IsLeft && !m_record->save())
         return false;
-    return watch.isUntouched() && (needs == Needs::Nothing || hasRecords());
+    return needs == Needs::Nothing || m_result.hasRecords();
 }
 
 bool Session::canRunOnColumn(const ColumnCommand &command, int col)
@@ -137,7 +126,7 @@ void Session::perform(const std::function<void()> &command)
     if (shared.isWaiting) // by the host, while another command waits for its server
         return;
     const auto alive = shared_from_this();
-    const ConnectionFieldReader::Command asCommand(m_reader);
+    const ConnectionFieldReader::Command asCommand(*m_fieldReader);
     ++m_running;
     try {
         command();
@@ -147,9 +136,14 @@ void Session::perform(const std::function<void()> &command)
         qWarning("A command failed: %s", error.what());
     }
     --m_running;
-    updateRecordPosition();
-    noteShownResult();
+    m_pages->updateRecordPosition();
+    m_history->noteShownResult();
     m_window->refreshCommands();
+}
+
+bool Session::isUsable() const
+{
+    return !m_rules.worksOnLentResult || !m_history->isManager(nullptr);
 }
 
 QString Session::whyNot(const Command &command)
@@ -157,80 +151,10 @@ QString Session::whyNot(const Command &command)
     return command.whyNot ? command.whyNot(*this) : QString();
 }
 
-QString Session::whyNot(DerivationStep step)
-{
-    const QString noHistory = whyNoHistory();
-    if (!noHistory.isEmpty() || !m_filter || !m_result.isOpen())
-        return noHistory;
-    return history().WhyNot(step);
-}
-
-// Another connection string has emptied the history, and no load has come after it.
-QString Session::whyNoHistory() const
-{
-    const bool isEmpty = m_filter && m_filter->SQLManager().Count() == 0;
-    return isEmpty && m_result.isOpen() ? SessionMessages::LoadFirst : QString();
-}
-
-void Session::goToTypedPage(const QString &text)
-{
-    const std::optional<TypedPage> typed = TypedPage::read(text, m_rules.keepsTypedPage);
-    if (!typed || !isUsable())
-        return;
-    perform([&] {
-        returnToShownRecord();
-        if (typed->number < 1) {
-            m_questions->show(SessionMessages::NotAPageNumber);
-        } else if (saveRecord()) {
-            turnToPage(typed->number);
-            if (m_rules.keepsTypedPage)
-                m_window->showTypedPage(typed->text);
-        }
-    });
-}
-
-void Session::setFieldView(FieldView view)
-{
-    m_fieldView = view;
-    m_window->setPressed(view == FieldView::All ? CommandKeys::All : CommandKeys::Part, true);
-}
-
-void Session::layOutColumns()
-{
-    if (m_fieldView == FieldView::All)
-        columns().ShowAllFieldColumns();
-    else
-        columns().ShowPartFieldColumns(PartWidths::Kept);
-}
-
-void Session::compressColumns()
-{
-    if (m_window->isSingleRecordShown() || !isUsable())
-        return;
-    const bool showsHidden = m_rules.compressShowsHidden && m_fieldView == FieldView::All;
-    m_keptWidths.fit(*m_window, [&] { columns().fitColumns(m_rules.roundWidth, showsHidden); });
-}
-
-void Session::setLastFilter(const QString &condition)
-{
-    if (m_rules.remembersForDialogs)
-        shared.lastFilter = condition;
-    if (m_rules.writesFilter && condition.trimmed().isEmpty())
-        writeFilter({});
-}
-
-void Session::toggleFromResult()
-{
-    m_isFromResult = !m_isFromResult;
-    m_window->setPressed(CommandKeys::FromResult, m_isFromResult);
-}
-
 void Session::clear()
 {
-    m_reader.forget();
-    if (m_filter)
-        m_filter->ClearObject();
-    m_filter.reset();
+    m_fieldReader->forget();
+    m_history->clear();
     m_result.release();
 }
 

@@ -9,6 +9,8 @@
 #include "session/HostEvents.h"
 #include "session/Questions.h"
 #include "session/Session.h"
+#include "session/WindowRules.h"
+#include "session/pages/Pages.h"
 
 #include <QtTest/QSignalSpy>
 
@@ -34,8 +36,8 @@ struct GridMenu : testing::Test
     void fill(const QString &statement)
     {
         session->result().replaceBy(ResultSet::open(database.connectionString(), statement, 1, {}));
-        session->setPage(1);
-        session->fillPage();
+        session->pages().setPage(1);
+        session->pages().fillPage();
     }
     QPoint rowPlace(int row) const
     {

@@ -7,6 +7,11 @@
 #include "control/viewer/ShowFullScreen.h"
 #include "forms/DialogFieldChooser.h"
 #include "grid/FlexGrid.h"
+#include "session/WindowRules.h"
+#include "session/layout/ColumnLayout.h"
+#include "session/layout/ShownColumns.h"
+#include "session/pages/Pages.h"
+#include "session/statement/ShownStatement.h"
 
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
@@ -42,7 +47,7 @@ struct HandBack : LoadedParts
                               [this](QWidget *, const ConditionRequest &) { return askCondition(); });
     }
     bool isRequeried() const { return host.filtersWritten > 0; }
-    bool isAll() const { return session->fieldView() == FieldView::All; }
+    bool isAll() const { return session->fields().view() == FieldView::All; }
 
     std::function<QString()> askCondition = [this] { return condition; };
     QString row(int row) const
@@ -84,7 +89,7 @@ TEST_F(HandBack, LookingAroundMovesNothing)
     EXPECT_EQ(visits, 1);
     EXPECT_TRUE(isAll());
     EXPECT_FALSE(isRequeried());
-    EXPECT_EQ(session->statement(), statement);
+    EXPECT_EQ(session->shown().text(), statement);
     EXPECT_EQ(result.recordset(), before);
     EXPECT_EQ(position(), 3);
     EXPECT_EQ(parts.vsfgDataGrid->Row(), 3);
@@ -109,7 +114,7 @@ TEST_F(HandBack, ThePageGoesAlong)
     QSignalSpy moves(parts.Adodc1, &ADODB::Adodc::MoveComplete);
     visit([](const ViewerUser &user) { user.press(u"Last"_s); });
     EXPECT_FALSE(isRequeried());
-    EXPECT_EQ(session->page(), 2);
+    EXPECT_EQ(session->pages().current(), 2);
     EXPECT_EQ(parts.txtPage->text(), u"2"_s);
     EXPECT_EQ(row(1), u"1000000"_s);
     EXPECT_EQ(position(), 1000000);
@@ -118,7 +123,7 @@ TEST_F(HandBack, ThePageGoesAlong)
         EXPECT_EQ(user.label(), u"第2页共2页"_s);
         user.goTo(u"1"_s);
     });
-    EXPECT_EQ(session->page(), 1);
+    EXPECT_EQ(session->pages().current(), 1);
     EXPECT_EQ(row(1), u"1"_s);
 }
 
@@ -132,7 +137,7 @@ TEST_F(HandBack, AnotherResultIsTakenOver)
         EXPECT_EQ(row(1), user.row(1)) << "the control behind the viewer shows the same result";
     });
     EXPECT_TRUE(isRequeried());
-    EXPECT_EQ(session->statement(), latestStatement());
+    EXPECT_EQ(session->shown().text(), latestStatement());
     EXPECT_EQ(result.recordset()->RecordCount(), 2);
     EXPECT_EQ(parts.vsfgDataGrid->model()->rowCount(), 2);
     EXPECT_EQ(row(2), u"4 Anna 40 2004-04-04"_s);
@@ -148,7 +153,7 @@ TEST_F(HandBack, AnEmptyResultIsTakenOverToo)
     condition = u"ID > 99"_s;
     visit([](const ViewerUser &user) { user.press(u"Filter"_s); });
     EXPECT_EQ(parts.vsfgDataGrid->model()->rowCount(), 0);
-    EXPECT_EQ(session->page(), 0);
+    EXPECT_EQ(session->pages().current(), 0);
     EXPECT_EQ(row(0), u"ID Name Price Born"_s);
 }
 
@@ -187,7 +192,7 @@ TEST_F(HandBack, AColumnOfAnotherFieldIsNotHiddenByTheOneThatWasInItsPlace)
     forgetWidths();
     session->columns().ShowPartFieldColumns(PartWidths::Unchanged);
     ASSERT_EQ(row(0), u"Name"_s);
-    session->setFieldView(FieldView::Part);
+    session->fields().setView(FieldView::Part);
     chooser.answer = u"[Born],[ID]"_s;
     visit([](const ViewerUser &user) { user.press(u"SelField"_s); });
     EXPECT_EQ(row(0), u"Born ID"_s);
@@ -270,8 +275,8 @@ TEST_F(HandBack, AControlThatIsDestroyedMeanwhileTakesTheViewerAlong)
     const auto other = std::make_shared<Session>(otherWindow, chooser, host, ControlRules, others.Adodc1);
     otherWindow.setSession(*other);
     other->result().replaceBy(ResultSet::open(database.connectionString(), statement, dbAccess, {}));
-    other->setPage(1);
-    other->fillPage();
+    other->pages().setPage(1);
+    other->pages().fillPage();
     QObject::connect(form, &QObject::destroyed, form, [&] { other->detach(); });
     QTimer::singleShot(0, form, [form] { delete form; });
     EXPECT_FALSE(

@@ -4,6 +4,11 @@
 #include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "query/SharedValues.h"
+#include "session/history/SharedHistory.h"
+#include "session/layout/ColumnLayout.h"
+#include "session/layout/ShownColumns.h"
+#include "session/pages/Pages.h"
+#include "session/statement/ShownStatement.h"
 
 #include <QtTest/QTest>
 #include <QtWidgets/QLabel>
@@ -64,8 +69,8 @@ void LoadedParts::load(const QString &sql, const QString &partStatement, const Q
     session->texts.connectionString = connection;
     session->texts.sqlShow = sql;
     session->texts.sqlSort = sort;
-    session->setStatement(sql);
-    session->setFieldView(FieldView::All);
+    session->shown().setText(sql);
+    session->fields().setView(FieldView::All);
     result.replaceBy(ResultSet::open(connection, statement, dbAccess, {}));
     filter.SetDBType(dbAccess);
     filter.SetDBConnString(connection);
@@ -74,8 +79,8 @@ void LoadedParts::load(const QString &sql, const QString &partStatement, const Q
     filter.SetShowFields(partStatement);
     filter.SetOrderFields(sort);
     filter.SetSQLInitData();
-    session->setPage(1);
-    session->fillPage();
+    session->pages().setPage(1);
+    session->pages().fillPage();
     session->columns().RecordShowSQL(statement, FieldView::All, true, colShowSQLSentences::NoPartField(),
                                      colShowSQLSentences::NoSort(), connection);
 }
@@ -197,7 +202,7 @@ ViewerHost Viewer::lend()
 
 void Viewer::show(qint32 page, bool isAll)
 {
-    viewer.PutFilterManager(session->sharedFilterManager());
+    viewer.PutFilterManager(session->sharedHistory().manager());
     viewer.GetData(result.connection(), result.recordset(), page, database.connectionString(), statement,
                    true, {}, isAll, true, true, true);
     viewer.show();

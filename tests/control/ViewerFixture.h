@@ -7,6 +7,7 @@
 #include "session/HostEvents.h"
 #include "session/Questions.h"
 #include "session/Session.h"
+#include "session/WindowRules.h"
 #include "support/ExpectedWarnings.h"
 #include "support/TestDatabase.h"
 

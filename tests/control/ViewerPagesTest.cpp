@@ -2,7 +2,7 @@
 #include "ViewerFixture.h"
 
 #include "grid/FlexGrid.h"
-#include "session/TypedPage.h"
+#include "session/pages/TypedPage.h"
 #include "support/MessageAnswers.h"
 
 #include <QtTest/QTest>

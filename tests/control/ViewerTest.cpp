@@ -6,6 +6,8 @@
 #include "grid/FlexGrid.h"
 #include "query/SharedValues.h"
 #include "session/commands/Command.h"
+#include "session/history/SharedHistory.h"
+#include "session/layout/ColumnLayout.h"
 
 #include <QtGui/QScreen>
 #include <QtTest/QTest>
@@ -153,7 +155,7 @@ TEST_F(Viewer, ANullIsTheEmptyText)
 TEST_F(Viewer, TakesTheButtonStatesThatItIsGiven)
 {
     load(u"select * from T"_s);
-    viewer.PutFilterManager(session->sharedFilterManager());
+    viewer.PutFilterManager(session->sharedHistory().manager());
     viewer.GetData(result.connection(), result.recordset(), 1, database.connectionString(), statement, false,
                    {}, false, false, true, false);
     EXPECT_FALSE(user.toolbar().isButtonEnabled(u"Filter"_s));

@@ -8,6 +8,11 @@
 
 #include "ado/Error.h"
 #include "filter/conditions/FilterCondition.h"
+#include "query/SharedValues.h"
+#include "query/clsFilterManagement.h"
+#include "session/LoadResult.h"
+#include "session/WindowRules.h"
+#include "session/statement/ShownStatement.h"
 #include "sql/Names.h"
 
 #include <QtCore/QMimeData>
@@ -130,7 +135,7 @@ protected:
     {
         session->texts.connectionString = connectionString();
         session->texts.sqlShow = statement;
-        return session->load();
+        return loadResult(*session);
     }
     Dialect dialect()
     {
@@ -144,13 +149,13 @@ protected:
                                                                 : SqlDialect::PostgreSql;
         return KovaTest::shapeOf(SqlScanner(statement, reading, mode.quoting));
     }
-    QString shape() const { return shapeOf(session->statement()); }
+    QString shape() const { return shapeOf(session->shown().text()); }
     // The ids shown, after it has been seen that the planted table is not.
     QString ids()
     {
         QStringList ids;
         for (const QString &row : window.rows) {
-            EXPECT_FALSE(row.contains(secret)) << session->statement().toStdString();
+            EXPECT_FALSE(row.contains(secret)) << session->shown().text().toStdString();
             ids += row.section(u' ', 0, 0);
         }
         return ids.join(u' ');
@@ -216,26 +221,26 @@ TEST_P(SessionInjection, ValuesAndWordsGiveTheirOwnRecords)
         const bool isReadable = window.rows[i] == id + u' ' + text + u" 1"_s;
         filterByCell(static_cast<int>(i) + 1);
         if (!isRefused()) {
-            EXPECT_EQ(shape(), cellShape) << session->statement().toStdString();
+            EXPECT_EQ(shape(), cellShape) << session->shown().text().toStdString();
             // A cell's "%" and "_" are LIKE's.
             const bool isPattern = text.contains(u'%') || text.contains(u'_');
             const QString found = ids();
             EXPECT_TRUE(found == id || (isPattern && (u' ' + found + u' ').contains(u' ' + id + u' ')) ||
                         (!isReadable && !found.contains(u' ')))
-                << found.toStdString() << ": " << session->statement().toStdString();
+                << found.toStdString() << ": " << session->shown().text().toStdString();
         }
         session->run(u"ToOrigin"_s);
         filterByDialog(FilterOperator::Equals, text);
         EXPECT_FALSE(isRefused());
-        EXPECT_EQ(shape(), dialogShape) << session->statement().toStdString();
+        EXPECT_EQ(shape(), dialogShape) << session->shown().text().toStdString();
         EXPECT_TRUE(ids() == id || (!isReadable && !ids().contains(u' ')))
-            << ids().toStdString() << ": " << session->statement().toStdString();
+            << ids().toStdString() << ": " << session->shown().text().toStdString();
         session->run(u"ToOrigin"_s);
         user.words = text;
         session->run(u"QuickFilter"_s);
         const QString found = u' ' + ids() + u' ';
         EXPECT_TRUE(isRefused() || !isReadable || found.contains(u' ' + id + u' '))
-            << session->statement().toStdString();
+            << session->shown().text().toStdString();
         session->run(u"ToOrigin"_s);
         if (HasFailure())
             break;
@@ -355,17 +360,17 @@ TEST_P(SessionInjection, NamesMeanTheirOwnFieldsAndTables)
                 window.currentColumn = 2;
                 session->run(u"CellFilter"_s);
                 // Where a name can't be written the command is refused and everything stays.
-                EXPECT_TRUE(ids() == u"2"_s || ids() == whole) << session->statement().toStdString();
+                EXPECT_TRUE(ids() == u"2"_s || ids() == whole) << session->shown().text().toStdString();
                 session->run(u"ToOrigin"_s);
                 session->run(u"Sort"_s);
-                EXPECT_TRUE(ids() == u"2 1"_s || ids() == whole) << session->statement().toStdString();
+                EXPECT_TRUE(ids() == u"2 1"_s || ids() == whole) << session->shown().text().toStdString();
                 session->run(u"ToOrigin"_s);
                 session->run(u"SelField"_s);
                 for (const QString &row : window.rows)
-                    EXPECT_FALSE(row.contains(secret)) << session->statement().toStdString();
+                    EXPECT_FALSE(row.contains(secret)) << session->shown().text().toStdString();
                 session->run(u"ToFullTable"_s);
                 for (const QString &row : window.rows)
-                    EXPECT_FALSE(row.contains(secret)) << session->statement().toStdString();
+                    EXPECT_FALSE(row.contains(secret)) << session->shown().text().toStdString();
             }
             session->clear();
             database->run({u"DROP TABLE "_s + table});

@@ -1,5 +1,9 @@
 #include "SessionFixture.h"
 
+#include "query/SharedValues.h"
+#include "query/clsFilterManagement.h"
+#include "session/LoadResult.h"
+
 #include <utility>
 
 using namespace KOVAVSFDataGridLib;
@@ -90,7 +94,7 @@ bool SessionFixture::load(const QString &statement, const QString &part)
     session->texts.connectionString = database.connectionString();
     session->texts.sqlShow = statement;
     session->texts.sqlPartDisplay = part;
-    return session->load();
+    return loadResult(*session);
 }
 
 QString SessionFixture::statement() const

@@ -4,6 +4,7 @@
 #include "session/Questions.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
+#include "session/WindowRules.h"
 #include "support/TestDatabase.h"
 
 #include "ado/Adodc.h"

@@ -2,6 +2,15 @@
 #include "SessionFixture.h"
 
 #include "ado/Error.h"
+#include "query/SharedValues.h"
+#include "query/clsFilterManagement.h"
+#include "session/LoadResult.h"
+#include "session/WindowRules.h"
+#include "session/history/SharedHistory.h"
+#include "session/statement/ConnectionFieldReader.h"
+#include "session/statement/ShownStatement.h"
+
+#include <gtest/gtest-spi.h>
 
 using namespace KovaTest;
 using namespace KOVAVSFDataGridLib;
@@ -30,7 +39,7 @@ TEST_F(Sessions, AFailedLoadLeavesWhatWasShown)
     EXPECT_EQ(user.messages.back(), u"数据库打开失败。"_s);
     EXPECT_EQ(window.rows.size(), 3);
     EXPECT_EQ(session->history().Count(), 1);
-    EXPECT_EQ(session->statement(), u"select * from T"_s);
+    EXPECT_EQ(session->shown().text(), u"select * from T"_s);
 }
 
 TEST_F(Sessions, CommandsDeriveStatementsAndStepBack)
@@ -106,7 +115,7 @@ TEST_F(Sessions, ASessionOutlivesItsWindowWhileACommandRuns)
         auto other = std::make_shared<Session>(window, user, host, ControlRules, &adodc);
         other->texts.connectionString = database.connectionString();
         other->texts.sqlShow = u"select * from T"_s;
-        ASSERT_TRUE(other->load());
+        ASSERT_TRUE(loadResult(*other));
         const std::weak_ptr<Session> watch = other;
         user.sort = user.fields = u"ID"_s;
         user.condition = user.words = u"ID = 1"_s;
@@ -145,7 +154,7 @@ TEST_F(Sessions, TheFieldsOfTheOpenResultAreNotReadAgain)
 {
     ASSERT_TRUE(load());
     database.run(u"ALTER TABLE T RENAME TO Away"_s);
-    const auto fields = session->reader().Read(database.connectionString(), u"select * from T"_s);
+    const auto fields = session->fieldReader().Read(database.connectionString(), u"select * from T"_s);
     ASSERT_TRUE(fields);
     EXPECT_EQ(fields->size(), 3u);
 }
@@ -180,13 +189,13 @@ TEST_F(Sessions, ALentResultThatIsTakenAwayEndsTheCommandSilently)
     viewer =
         std::make_shared<Session>(window, user, host, ViewerRules, nullptr,
                                   [&](const QString &, const ResultSet::Progress &) -> ResultSet::Opened {
-                                      viewer->setFilterManager(nullptr);
+                                      viewer->sharedHistory().setManager(nullptr);
                                       throw ADODB::Error(ADODB::dbErrCancelled, {});
                                   });
-    viewer->setFilterManager(session->sharedFilterManager());
-    viewer->borrow(
+    viewer->sharedHistory().setManager(session->sharedHistory().manager());
+    viewer->shown().borrow(
         {database.connectionString(), session->result().connection(), session->result().recordset()},
-        session->statement(), 1);
+        session->shown().text(), 1);
     window.currentColumn = 1;
     viewer->run(u"CellFilter"_s);
     EXPECT_TRUE(user.messages.isEmpty());
@@ -215,10 +224,10 @@ TEST_F(Sessions, OneStatementIsOpenedAtATimeWithoutAProgressLineToo)
         return ResultSet::open(database.connectionString(), statement, 1, progress);
     };
     const auto viewer = std::make_shared<Session>(window, user, host, ViewerRules, nullptr, open);
-    viewer->setFilterManager(session->sharedFilterManager());
-    viewer->borrow(
+    viewer->sharedHistory().setManager(session->sharedHistory().manager());
+    viewer->shown().borrow(
         {database.connectionString(), session->result().connection(), session->result().recordset()},
-        session->statement(), 1);
+        session->shown().text(), 1);
     viewer->texts.connectionString = database.connectionString();
     user.sort = u"Name"_s;
     viewer->run(u"Sort"_s);
@@ -232,7 +241,15 @@ TEST_F(Sessions, AskingForRecordsLeavesTheSharedValuesAlone)
     ASSERT_TRUE(load());
     session->shared.recordCountSnapshot = -1;
     session->shared.recordPosition = -1;
-    EXPECT_TRUE(session->hasRecords());
+    EXPECT_TRUE(session->result().hasRecords());
     EXPECT_EQ(session->shared.recordCountSnapshot, -1);
     EXPECT_EQ(session->shared.recordPosition, -1);
+}
+
+// A message that nobody expects fails a test, so no command can be called by a key that it doesn't have.
+TEST_F(Sessions, AKeyWithoutACommandFailsTheTestThatUsesIt)
+{
+    ASSERT_TRUE(load());
+    EXPECT_NONFATAL_FAILURE(session->run(u"NoSuchCommand"_s), "No command has the key NoSuchCommand");
+    EXPECT_EQ(session->history().Count(), 1);
 }

@@ -13,8 +13,11 @@
 #include "grid/FlexGrid.h"
 #include "grid/cells/RecordWindow.h"
 #include "grid/cells/TextCells.h"
+#include "query/SharedValues.h"
+#include "query/clsFilterManagement.h"
 #include "session/Session.h"
 #include "session/commands/CommandKeys.h"
+#include "session/editing/EditedRecord.h"
 
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -134,7 +137,7 @@ void ControlWindow::cancelEdit()
 QString ControlWindow::place() const
 {
     const ADODB::Recordset &recordset = *m_session->result().recordset();
-    const QString unsaved = m_session->hasUnsavedChanges() ? GridTexts::Unsaved : QString();
+    const QString unsaved = m_session->record().hasUnsavedChanges() ? GridTexts::Unsaved : QString();
     if (recordset.EditMode() == ADODB::adEditAdd)
         return GridTexts::NewRecord.arg(grouped(recordset.RecordCount())) + unsaved;
     return GridTexts::RecordOf.arg(grouped(std::max<qint64>(0, recordset.AbsolutePosition())),
@@ -157,7 +160,8 @@ void ControlWindow::refreshStatus()
     if (m_session->result().recordset()->RecordCount() > 0)
         m_parts.lblEmpty->showText({});
     else
-        m_parts.lblEmpty->showNoRecords(m_session->history().Count() > 1, m_session->canAddRecords());
+        m_parts.lblEmpty->showNoRecords(m_session->history().Count() > 1,
+                                        m_session->record().canAddRecords());
 }
 
 void ControlWindow::enableCommands()

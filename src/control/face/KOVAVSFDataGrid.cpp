@@ -1,9 +1,11 @@
 #include "control/face/KOVAVSFDataGrid.h"
 
+#include "ado/Notifications.h"
 #include "control/face/KOVAVSFDataGridPrivate.h"
 #include "control/face/PropertyBag.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
+#include "session/layout/ShownColumns.h"
 
 #include <QtGui/QResizeEvent>
 #include <QtWidgets/QDialog>
@@ -53,7 +55,7 @@ void KOVAVSFDataGrid::InitProperties()
     texts.sqlFilter.clear();
     texts.sqlSort.clear();
     d->useModel = ModelUsing;
-    d->session->putFieldView(FieldView::All);
+    d->session->fields().putView(FieldView::All);
     d->emptyGrid();
 }
 

@@ -1,6 +1,7 @@
 #include "ado/Adodc.h"
 #include "ado/ConnectionFactory.h"
 #include "ado/Error.h"
+#include "ado/Notifications.h"
 #include "ado/Recordset.h"
 #include "control/connection/BuildConnection.h"
 #include "control/face/KOVAVSFDataGridPrivate.h"
@@ -14,9 +15,13 @@
 #include "grid/FlexGrid.h"
 #include "print/PdfWriter.h"
 #include "print/PrintOptions.h"
+#include "session/LoadResult.h"
 #include "session/ResultWatch.h"
 #include "session/commands/CommandKeys.h"
+#include "session/editing/EditedRecord.h"
 #include "session/layout/SavedLayout.h"
+#include "session/layout/ShownColumns.h"
+#include "session/pages/Pages.h"
 #include "session/records/ExportResult.h"
 #include "session/records/PrintResult.h"
 #include "session/statement/LoadedTable.h"
@@ -43,7 +48,7 @@ void saveBeforeMove(Session &session)
     if (mode != ADODB::adEditAdd && mode != ADODB::adEditInProgress)
         return;
     const ADODB::Notifications::Hold hold(session.notifications());
-    session.saveChanges();
+    session.record().saveChanges();
 }
 
 } // namespace
@@ -62,8 +67,8 @@ bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
     VSFlexGrid &grid = *d->parts.vsfgDataGrid;
     const std::shared_ptr<Session> held = d->session; // the control can go while a record is saved
     Session &session = *held;
-    const auto isOtherPage = [&] { return session.result().isOpen() && session.page() != 1; };
-    const qint32 rows = isOtherPage() ? session.recordsOnPage(1) + 1 : grid.Rows();
+    const auto isOtherPage = [&] { return session.result().isOpen() && session.pages().current() != 1; };
+    const qint32 rows = isOtherPage() ? session.pages().recordsOnPage(1) + 1 : grid.Rows();
     if (lRecordRow <= 0 || lRecordRow > rows)
         return false;
     if (lRecordRow < 2 || lRecordRow == rows || !session.result().isOpen() ||
@@ -78,7 +83,7 @@ bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
         ADODB::Recordset &recordset = *watch.recordset();
         recordset.MoveFirst(); // a host may have left it behind the last record, where no page can be shown
         if (isOtherPage())
-            session.showPage(1);
+            session.pages().showPage(1);
         recordset.Move(lRecordRow - 1);
         grid.PutRow(lRecordRow);
         grid.PutCol(1);
@@ -186,7 +191,7 @@ QString KOVAVSFDataGrid::CellText(const qint16 &n_row, const qint16 &n_col)
 void KOVAVSFDataGrid::Clear()
 {
     const auto session = d->session;
-    if (!session->leaveResult())
+    if (!session->record().leaveResult())
         return;
     const ADODB::Notifications::Hold hold(session->notifications());
     session->result().close();
@@ -201,7 +206,7 @@ void KOVAVSFDataGrid::Clear()
 void KOVAVSFDataGrid::ClearAll()
 {
     const auto session = d->session;
-    if (!session->leaveResult())
+    if (!session->record().leaveResult())
         return;
     const ADODB::Notifications::Hold hold(session->notifications());
     if (!session->texts.recordSource.isEmpty() && session->result().isOpen()) {
@@ -250,7 +255,7 @@ bool KOVAVSFDataGrid::IsLoadData()
     d->setThreeTierSwitch();
     d->layout.save();
     const QPointer<KOVAVSFDataGrid> alive(this);
-    const bool isLoaded = session->load();
+    const bool isLoaded = loadResult(*session);
     if (isLoaded && alive) {
         d->layout.restore();
         d->focusGrid();
@@ -260,13 +265,13 @@ bool KOVAVSFDataGrid::IsLoadData()
 
 void KOVAVSFDataGrid::SeeCompressView()
 {
-    d->session->compressColumns();
+    d->session->fields().compress();
 }
 
 void KOVAVSFDataGrid::ClearObject()
 {
     const auto session = d->session;
-    if (!session->leaveResult())
+    if (!session->record().leaveResult())
         return;
     d->layout.save();
     const ADODB::Notifications::Hold hold(session->notifications());

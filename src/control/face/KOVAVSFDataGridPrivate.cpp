@@ -15,7 +15,11 @@
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "grid/cells/TextCells.h"
+#include "session/WindowRules.h"
 #include "session/commands/CommandKeys.h"
+#include "session/editing/EditedRecord.h"
+#include "session/pages/Pages.h"
+#include "session/statement/ShownStatement.h"
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
@@ -48,7 +52,7 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
     window.setHistoryMenu(new HistoryMenu(*parts.Toolbar1, *session));
     window.setFullScreen([this] {
         ShowFullScreen(q, *session, parts, [this](QWidget *viewer, const ConditionRequest &asked) {
-            ConditionRequest request = session->conditionRequest();
+            ConditionRequest request = session->shown().conditionRequest();
             request.refusal = asked.refusal;
             request.memory = asked.memory;
             request.condition = asked.condition;
@@ -118,7 +122,7 @@ void KOVAVSFDataGrid::Private::showClickedValue()
 void KOVAVSFDataGrid::Private::writeTexts()
 {
     const ResultSet &result = session->result();
-    window.showPageNumber(session->page(), result.isOpen() ? result.recordset()->PageCount() : 0);
+    window.showPageNumber(session->pages().current(), result.isOpen() ? result.recordset()->PageCount() : 0);
     window.refreshCommands();
     window.refreshStatus();
     parts.layOutFoot();
@@ -238,7 +242,7 @@ void KOVAVSFDataGrid::Private::saveBeforeEnd()
     layout.save();
     const QSignalBlocker controlBlocked(q);
     const QSignalBlocker dataBlocked(parts.Adodc1);
-    if (const std::optional<QString> failure = session->saveSilently())
+    if (const std::optional<QString> failure = session->record().saveSilently())
         Messages::showLater(*failure);
 }
 

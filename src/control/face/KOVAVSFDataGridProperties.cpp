@@ -7,13 +7,16 @@
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
 #include "language/Language.h"
+#include "query/SharedValues.h"
+#include "query/clsFilterManagement.h"
 #include "session/SessionWindow.h"
 #include "session/commands/CommandKeys.h"
+#include "session/editing/EditedRecord.h"
+#include "session/layout/ShownColumns.h"
 #include "sql/SelectParts.h"
 #include "sql/StatementLines.h"
 
 #include <QtCore/QPointer>
-#include <QtWidgets/QPushButton>
 
 // The properties of the interface. Writing most of them notifies the host, which may delete the control.
 
@@ -39,12 +42,6 @@ bool selectsFromTable(const QString &statement)
     return !SelectParts::of(scanned).source.isEmpty();
 }
 
-// Whether a widget was disabled by itself rather than along with a parent.
-bool isExplicitlyEnabled(const QWidget &widget)
-{
-    return !widget.testAttribute(Qt::WA_ForceDisabled);
-}
-
 } // namespace
 
 QString KOVAVSFDataGrid::STR_SQLTEMP() const
@@ -55,90 +52,6 @@ QString KOVAVSFDataGrid::STR_SQLTEMP() const
 void KOVAVSFDataGrid::PutSTR_SQLTEMP(const QString &text)
 {
     d->sqlTemp = text;
-}
-
-bool KOVAVSFDataGrid::Enabled() const
-{
-    return isExplicitlyEnabled(*this);
-}
-
-void KOVAVSFDataGrid::PutEnabled(bool on)
-{
-    d->parts.picMainBack->setEnabled(on);
-    d->parts.vsfgDataGrid->setEnabled(on);
-}
-
-QColor KOVAVSFDataGrid::BackColor() const
-{
-    return d->backColor.in(palette());
-}
-
-void KOVAVSFDataGrid::PutBackColor(const QColor &colour)
-{
-    const OleColor written = colour.isValid() ? OleColor(colour) : OleColor(OleColor::buttonFace);
-    d->backColor = written;
-    d->applyBackColor();
-    d->notifyWritten("BackColor");
-}
-
-void KOVAVSFDataGrid::ResetBackColor()
-{
-    PutBackColor({});
-}
-
-bool KOVAVSFDataGrid::DisplayEable() const
-{
-    return isExplicitlyEnabled(*d->parts.Toolbar1);
-}
-
-void KOVAVSFDataGrid::PutDisplayEable(bool on)
-{
-    d->parts.Toolbar1->setEnabled(on);
-    d->parts.cmdPgae->setEnabled(on);
-    if (!on)
-        d->parts.Toolbar1->setAllButtonsEnabled(false);
-}
-
-bool KOVAVSFDataGrid::FilterEnable() const
-{
-    return d->parts.Toolbar1->isButtonEnabled(CommandKeys::Filter);
-}
-
-void KOVAVSFDataGrid::PutFilterEnable(bool on)
-{
-    d->parts.Toolbar1->setButtonEnabled(CommandKeys::Filter, on);
-}
-
-bool KOVAVSFDataGrid::SortEnable() const
-{
-    return d->parts.Toolbar1->isButtonEnabled(CommandKeys::Sort);
-}
-
-void KOVAVSFDataGrid::PutSortEnable(bool on)
-{
-    d->parts.Toolbar1->setButtonEnabled(CommandKeys::Sort, on);
-}
-
-QColor KOVAVSFDataGrid::DataBackColor() const
-{
-    return d->parts.vsfgDataGrid->BackColor();
-}
-
-void KOVAVSFDataGrid::PutDataBackColor(const QColor &colour)
-{
-    d->parts.vsfgDataGrid->PutBackColor(colour);
-    d->parts.MSFlexGrid1->PutBackColor(colour); // the same data, one record of it
-}
-
-QFont KOVAVSFDataGrid::DataFont() const
-{
-    return d->parts.vsfgDataGrid->font();
-}
-
-void KOVAVSFDataGrid::PutDataFont(const QFont &font)
-{
-    d->parts.vsfgDataGrid->setFont(font);
-    d->parts.MSFlexGrid1->setFont(font);
 }
 
 qint32 KOVAVSFDataGrid::UseModel() const
@@ -178,12 +91,12 @@ void KOVAVSFDataGrid::putLateUseModel(qint32 model)
 
 qint32 KOVAVSFDataGrid::ShowModel() const
 {
-    return static_cast<qint32>(d->session->fieldView());
+    return static_cast<qint32>(d->session->fields().view());
 }
 
 void KOVAVSFDataGrid::PutShowModel(qint32 model)
 {
-    d->session->putFieldView(static_cast<FieldView>(model));
+    d->session->fields().putView(static_cast<FieldView>(model));
 }
 
 QString KOVAVSFDataGrid::ConnectionString() const
@@ -368,12 +281,12 @@ void KOVAVSFDataGrid::PutPicField(const QString &field)
 
 bool KOVAVSFDataGrid::ReadOnly() const
 {
-    return d->session->isReadOnly();
+    return d->session->record().isReadOnly();
 }
 
 void KOVAVSFDataGrid::PutReadOnly(bool on)
 {
-    d->session->setReadOnly(on);
+    d->session->record().setReadOnly(on);
     d->notifyWritten("ReadOnly");
 }
 

@@ -1,6 +1,7 @@
 #include "control/input/CellEditor.h"
 
 #include "ado/Error.h"
+#include "ado/Notifications.h"
 #include "ado/Recordset.h"
 #include "ado/ValueText.h"
 #include "control/parts/GridParts.h"
@@ -10,6 +11,7 @@
 #include "grid/FlexGrid.h"
 #include "language/Language.h"
 #include "session/Session.h"
+#include "session/editing/EditedRecord.h"
 #include "session/records/ForeignValues.h"
 
 #include <QtCore/QScopedValueRollback>
@@ -111,13 +113,13 @@ void CellEditor::setFocus()
 
 bool CellEditor::canWrite(int gridCol) const
 {
-    return gridCol >= 1 && m_session.result().isOpen() && !m_session.isReadOnly() &&
+    return gridCol >= 1 && m_session.result().isOpen() && !m_session.record().isReadOnly() &&
            isWritable(m_session.result().recordset()->Fields().Item(gridCol - 1));
 }
 
 bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
 {
-    if (gridCol < 1 || !m_session.result().isOpen() || !m_session.commitEdit())
+    if (gridCol < 1 || !m_session.result().isOpen() || !m_session.record().commitEdit())
         return false;
     try {
         const ADODB::Field &field = m_session.result().recordset()->Fields().Item(gridCol - 1);
@@ -304,7 +306,7 @@ bool CellEditor::eventFilter(QObject *watched, QEvent *event)
         if (isControl)
             breakLine();
         else
-            m_session.commitEdit();
+            m_session.record().commitEdit();
         return true;
     case Qt::Key_Escape:
         close();

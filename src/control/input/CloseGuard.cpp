@@ -1,6 +1,7 @@
 #include "control/input/CloseGuard.h"
 
 #include "session/Session.h"
+#include "session/editing/EditedRecord.h"
 
 #include <QtCore/QEvent>
 
@@ -22,7 +23,7 @@ bool CloseGuard::eventFilter(QObject *watched, QEvent *event)
     }
     if (watched == m_window && event->type() == QEvent::Close) {
         const QPointer<CloseGuard> alive(this);
-        const bool isLeft = m_session.leaveResult();
+        const bool isLeft = m_session.record().leaveResult();
         if (!isLeft)
             event->ignore();
         return !isLeft || !alive;

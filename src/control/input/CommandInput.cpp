@@ -1,6 +1,7 @@
 #include "control/input/CommandInput.h"
 
 #include "ado/Adodc.h"
+#include "ado/Notifications.h"
 #include "ado/Recordset.h"
 #include "control/input/DeleteAfterEvent.h"
 #include "control/input/GridEvents.h"
@@ -14,6 +15,8 @@
 #include "grid/FlexGrid.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
+#include "session/editing/EditedRecord.h"
+#include "session/pages/Pages.h"
 #include "session/statement/ShownConditions.h"
 
 #include <QtCore/QPointer>
@@ -58,15 +61,15 @@ CommandInput::CommandInput(QWidget &control, InputEvents &host, Session &session
     connect(&events, &GridEvents::headingMenuWanted, this, &CommandInput::showHeadingMenu);
     connect(parts.conditions, &FilterBar::removeWanted, this, &CommandInput::removeCondition);
     connect(&singleRecord, &SingleRecordView::menuWanted, this, &CommandInput::showMenu);
-    connect(&singleRecord, &SingleRecordView::cancelWanted, this, [this] { m_session.cancelRecord(); });
+    connect(&singleRecord, &SingleRecordView::cancelWanted, this, [this] { m_session.record().cancel(); });
     connect(&singleRecord, &SingleRecordView::saveWanted, this,
-            [this] { m_session.perform([this] { m_session.saveRecord(); }); });
+            [this] { m_session.perform([this] { m_session.record().save(); }); });
     connect(&singleRecord, &SingleRecordView::commandWanted, this, [this](const QString &key) {
         if (m_parts.Toolbar1->isEnabled())
             m_session.run(key);
     });
     connect(parts.cmdPgae, &QPushButton::clicked, this,
-            [this] { m_session.goToTypedPage(m_parts.txtPage->text()); });
+            [this] { m_session.pages().goToTypedPage(m_parts.txtPage->text()); });
     connect(parts.txtPage, &QLineEdit::returnPressed, parts.cmdPgae, &QPushButton::click);
     connect(parts.Adodc1, &ADODB::Adodc::MoveComplete, this, &CommandInput::followRecord);
     connect(parts.Adodc1, &ADODB::Adodc::RecordChangeComplete, this, [this](ADODB::EventReasonEnum reason) {
@@ -105,7 +108,7 @@ void CommandInput::showHeadingMenu(int col, const QPoint &position)
 
 void CommandInput::showMenu(const QPoint &position)
 {
-    if (!m_session.hasRecords() || !m_parts.Toolbar1->isEnabled())
+    if (!m_session.result().hasRecords() || !m_parts.Toolbar1->isEnabled())
         return;
     // A row heading does not become current by the right button of itself.
     VSFlexGrid &grid = *m_parts.vsfgDataGrid;
@@ -127,7 +130,7 @@ void CommandInput::followRecord()
 {
     if (!m_session.result().isOpen())
         return;
-    const int row = m_session.rowOfRecord(m_session.result().recordset()->AbsolutePosition());
+    const int row = m_session.pages().rowOfRecord(m_session.result().recordset()->AbsolutePosition());
     if (row > 0 && row != m_parts.vsfgDataGrid->Row())
         m_parts.vsfgDataGrid->PutRow(row);
 }
@@ -140,17 +143,19 @@ void CommandInput::followChange()
         return;
     const ADODB::Notifications::Hold hold(m_session.notifications());
     const ADODB::Recordset &recordset = *m_session.result().recordset();
-    const int rows = m_session.page() > 0 ? m_session.recordsOnPage(m_session.page()) : 0;
+    const int rows =
+        m_session.pages().current() > 0 ? m_session.pages().recordsOnPage(m_session.pages().current()) : 0;
     VSFlexGrid &grid = *m_parts.vsfgDataGrid;
     if (rows + 1 != grid.Rows()) {
         const qint64 position = std::max<qint64>(recordset.AbsolutePosition(), 0);
-        const qint64 wanted = position > 0 ? position : m_session.recordOfRow(std::max(grid.Row(), 1));
-        m_session.refillAtRecord(std::min(wanted, recordset.RecordCount()));
+        const qint64 wanted =
+            position > 0 ? position : m_session.pages().recordOfRow(std::max(grid.Row(), 1));
+        m_session.pages().refillAtRecord(std::min(wanted, recordset.RecordCount()));
     }
     grid.Refresh();
     if (!m_singleRecord.editor().isOpen())
         m_session.window().refreshSingleRecord();
-    m_session.updateRecordPosition();
+    m_session.pages().updateRecordPosition();
 }
 
 bool CommandInput::isShortcut(const QKeyEvent &event) const

@@ -20,7 +20,7 @@ bool EndKeys::eventFilter(QObject *watched, QEvent *event)
         const auto &key = *static_cast<QKeyEvent *>(event);
         const bool isEnd =
             key.modifiers() == Qt::ControlModifier && (key.key() == Qt::Key_Home || key.key() == Qt::Key_End);
-        if (isEnd && m_session.hasRecords() && m_session.result().recordset()->PageCount() < 2) {
+        if (isEnd && m_session.result().hasRecords() && m_session.result().recordset()->PageCount() < 2) {
             event->accept();
             return true;
         }

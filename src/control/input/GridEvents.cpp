@@ -1,6 +1,7 @@
 #include "control/input/GridEvents.h"
 
 #include "ado/Error.h"
+#include "ado/Notifications.h"
 #include "ado/Recordset.h"
 #include "ado/Stream.h"
 #include "ado/Texts.h"
@@ -14,6 +15,7 @@
 #include "session/Questions.h"
 #include "session/ResultWatch.h"
 #include "session/Session.h"
+#include "session/pages/Pages.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
@@ -196,21 +198,21 @@ void GridEvents::followGridRow()
     const ResultWatch watch(*session);
     const ADODB::Notifications::Hold hold(session->notifications());
     ADODB::Recordset &recordset = *watch.recordset();
-    const qint64 record = session->recordOfRow(grid.Row());
+    const qint64 record = session->pages().recordOfRow(grid.Row());
     try {
         if (record <= recordset.RecordCount() && record != recordset.AbsolutePosition())
             recordset.PutAbsolutePosition(record);
     } catch (const ADODB::Error &) {
         if (!watch.isUntouched())
             return;
-        if (const int row = session->rowOfRecord(recordset.AbsolutePosition()); row > 0)
+        if (const int row = session->pages().rowOfRecord(recordset.AbsolutePosition()); row > 0)
             grid.PutRow(row);
     }
 }
 
 void GridEvents::writePicture()
 {
-    const int index = m_session.pictureField();
+    const int index = m_session.pages().pictureField();
     if (index < 0)
         return;
     try {

@@ -18,6 +18,7 @@
 #include "language/Language.h"
 #include "session/Session.h"
 #include "session/commands/CommandKeys.h"
+#include "session/editing/EditedRecord.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
@@ -93,7 +94,7 @@ SingleRecordView::SingleRecordView(QWidget &control, InputEvents &host, Session 
     list.horizontalHeader()->viewport()->installEventFilter(this);
     connect(&list, &FlexGrid::CurrentRowChanged, this, [this, &list] {
         list.setAttribute(Qt::WA_InputMethodEnabled); // so that Chinese can be typed to begin an edit
-        m_session.commitEdit();                       // last, because the host may delete the control
+        m_session.record().commitEdit();              // last, because the host may delete the control
     });
     connect(&m_pictureFields, &PictureFields::written, this, &SingleRecordView::FillSingleRecordView);
     connect(&m_editor, &CellEditor::saveWanted, this, &SingleRecordView::saveWanted);
@@ -122,7 +123,7 @@ QPushButton *SingleRecordView::newStepButton(const QString &key, const QString &
 void SingleRecordView::togglePictures()
 {
     const QPointer<SingleRecordView> alive(this);
-    const bool isTaken = m_session.commitEdit();
+    const bool isTaken = m_session.record().commitEdit();
     if (!alive)
         return;
     if (isTaken)
@@ -198,7 +199,7 @@ void SingleRecordView::listFields()
     for (int i = 0; i < fields; ++i) {
         const ADODB::Field &field = m_session.result().recordset()->Fields().Item(i);
         ListedField listed{.field = i, .isBinary = PictureFields::isBinary(field)};
-        listed.isRequired = !m_session.isReadOnly() && isWritable(field) &&
+        listed.isRequired = !m_session.record().isReadOnly() && isWritable(field) &&
                             (field.Attributes() & ADODB::adFldIsNullable) == 0;
         hasBinary |= listed.isBinary;
         if (!isListed(field) && !m_pictures->isChecked())
@@ -297,7 +298,7 @@ bool SingleRecordView::handleEvent(QObject *watched, QEvent *event)
     case QEvent::ShortcutOverride:
         // A record that has changes is saved by the key that exports otherwise, and a picture cleared by the
         // one that leads to another view.
-        if ((isSave(*static_cast<QKeyEvent *>(event)) && m_session.hasUnsavedChanges()) ||
+        if ((isSave(*static_cast<QKeyEvent *>(event)) && m_session.record().hasUnsavedChanges()) ||
             (isClear(*static_cast<QKeyEvent *>(event)) && isPictureCurrent()))
             event->accept();
         return false;

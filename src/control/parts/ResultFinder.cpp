@@ -6,6 +6,7 @@
 #include "grid/FlexGrid.h"
 #include "grid/GridSelection.h"
 #include "session/Session.h"
+#include "session/pages/Pages.h"
 #include "session/statement/ShownConditions.h"
 
 #include <QtCore/QItemSelectionModel>
@@ -106,8 +107,9 @@ bool ResultFinder::prepare()
         if (!isBinary(type))
             columns.push_back({col, col - 1, type, m_grid.ColFormat(col)});
     }
-    const RecordRange range{m_session.recordOfRow(1),
-                            std::min(m_session.recordOfRow(m_grid.UsedRows() - 1), recordset.RecordCount())};
+    const RecordRange range{
+        m_session.pages().recordOfRow(1),
+        std::min(m_session.pages().recordOfRow(m_grid.UsedRows() - 1), recordset.RecordCount())};
     m_recordset = m_session.result().recordset();
     m_search.emplace(recordset, range, std::move(columns), matcherOf(m_bar));
     return true;
@@ -150,7 +152,8 @@ std::optional<CellSearch::Cell> ResultFinder::currentCell() const
     const auto at = std::ranges::find_if(columns, [&](const CellSearch::Column &column) {
         return header.visualIndex(column.col - 1) >= visual;
     });
-    return CellSearch::Cell{m_session.recordOfRow(m_grid.Row()), static_cast<int>(at - columns.begin())};
+    return CellSearch::Cell{m_session.pages().recordOfRow(m_grid.Row()),
+                            static_cast<int>(at - columns.begin())};
 }
 
 void ResultFinder::go(Direction direction)
@@ -181,7 +184,7 @@ void ResultFinder::go(Direction direction)
 // The grid reports the new row to the host, which may delete the control.
 void ResultFinder::showCell(const CellSearch::Cell &cell)
 {
-    const int row = m_session.rowOfRecord(cell.record);
+    const int row = m_session.pages().rowOfRecord(cell.record);
     const int col = m_search->columns()[static_cast<std::size_t>(cell.place)].col;
     if (row < 1)
         return;

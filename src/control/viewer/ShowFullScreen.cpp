@@ -2,14 +2,21 @@
 
 #include "ado/Adodc.h"
 #include "ado/Error.h"
+#include "ado/Notifications.h"
 #include "ado/Recordset.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "control/viewer/frm_FullScreen.h"
 #include "grid/FlexGrid.h"
+#include "query/clsFilterManagement.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/commands/CommandKeys.h"
+#include "session/history/SharedHistory.h"
+#include "session/layout/ColumnLayout.h"
+#include "session/layout/ShownColumns.h"
+#include "session/pages/Pages.h"
+#include "session/statement/ShownStatement.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QPushButton>
@@ -82,7 +89,7 @@ ResultSet::Opened Visit::open(const QString &statement, const ResultSet::Progres
                         });
     if (!m_isOver) {
         const QScopedValueRollback<bool> replacing(m_isReplacing, true);
-        if (!m_session.replaceResult(opened) && !m_isOver)
+        if (!m_session.shown().replaceResult(opened) && !m_isOver)
             end();
     }
     if (m_isOver)
@@ -95,22 +102,22 @@ void adoptState(Session &session, GridParts &parts, const frm_FullScreen &viewer
     const ADODB::Notifications::Hold hold(session.notifications());
     parts.Toolbar1->setEnabled(true);
     parts.cmdPgae->setEnabled(true);
-    session.setFieldView(viewer.IsAll() ? FieldView::All : FieldView::Part);
-    const bool isPageTurned = viewer.GetPageIndex() != session.page();
+    session.fields().setView(viewer.IsAll() ? FieldView::All : FieldView::Part);
+    const bool isPageTurned = viewer.GetPageIndex() != session.pages().current();
     if (isPageTurned)
-        session.showPage(viewer.GetPageIndex());
+        session.pages().showPage(viewer.GetPageIndex());
     if (viewer.IsRequeried() || viewer.IsAll() != wasAll || (isPageTurned && !viewer.IsAll()))
-        session.layOutColumns();
-    session.setStatement(viewer.CurrentSQL());
+        session.fields().layOut();
+    session.shown().setText(viewer.CurrentSQL());
     if (viewer.IsRequeried())
-        session.writeFilter(viewer.CurrentSQL());
+        session.shown().writeFilter(viewer.CurrentSQL());
 }
 
 } // namespace
 
 bool ShowFullScreen(QWidget &control, Session &session, GridParts &parts, const AskCondition &askCondition)
 {
-    if (!session.hasRecords())
+    if (!session.result().hasRecords())
         return false;
     const auto alive = session.shared_from_this();
     if (session.window().isSingleRecordShown())
@@ -121,11 +128,11 @@ bool ShowFullScreen(QWidget &control, Session &session, GridParts &parts, const 
 
     Visit visit(control, session, parts, askCondition);
     frm_FullScreen &viewer = visit.viewer();
-    viewer.PutFilterManager(session.sharedFilterManager());
-    viewer.PutTrail(session.sharedTrail());
-    viewer.GetData(session.result().connection(), session.result().recordset(), session.page(),
-                   session.texts.connectionString, session.statement(), true, session.texts.sqlSort, wasAll,
-                   isOffered(toolbar, CommandKeys::Filter), isOffered(toolbar, CommandKeys::Sort),
+    viewer.PutFilterManager(session.sharedHistory().manager());
+    viewer.PutTrail(session.sharedHistory().sharedTrail());
+    viewer.GetData(session.result().connection(), session.result().recordset(), session.pages().current(),
+                   session.texts.connectionString, session.shown().text(), true, session.texts.sqlSort,
+                   wasAll, isOffered(toolbar, CommandKeys::Filter), isOffered(toolbar, CommandKeys::Sort),
                    isOffered(toolbar, CommandKeys::ToFullTable));
     VSFlexGrid &shown = viewer.grid();
     shown.ArrangeColumns(parts.vsfgDataGrid->ColumnOrder(), parts.vsfgDataGrid->FrozenCols());

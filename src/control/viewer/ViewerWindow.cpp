@@ -10,6 +10,9 @@
 #include "grid/FlexGrid.h"
 #include "grid/cells/TextCells.h"
 #include "session/Session.h"
+#include "session/history/SharedHistory.h"
+#include "session/layout/ColumnLayout.h"
+#include "session/pages/Pages.h"
 
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -57,7 +60,7 @@ void ViewerWindow::refreshStatus()
     makeShownCellCurrent();
     const bool isEmpty = m_session->result().isOpen() && m_session->result().recordset()->RecordCount() == 0;
     if (isEmpty)
-        m_parts.lblEmpty->showNoRecords(m_session->canGoBack(), false);
+        m_parts.lblEmpty->showNoRecords(m_session->sharedHistory().canGoBack(), false);
     else
         m_parts.lblEmpty->showText({});
 }
@@ -72,7 +75,7 @@ void ViewerWindow::makeShownCellCurrent()
     if (!m_session->result().isOpen() || m_grid.UsedRows() < 2 || m_grid.Cols() < 2)
         return;
     if (m_grid.Row() == 0) {
-        const int row = m_session->rowOfRecord(m_session->result().recordset()->AbsolutePosition());
+        const int row = m_session->pages().rowOfRecord(m_session->result().recordset()->AbsolutePosition());
         m_grid.PutRow(row > 0 && row < m_grid.UsedRows() ? row : 1);
     }
     m_grid.PutCol(m_grid.ShownCol());

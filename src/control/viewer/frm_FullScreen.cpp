@@ -14,8 +14,13 @@
 #include "control/viewer/ViewerTexts.h"
 #include "forms/Contrast.h"
 #include "grid/FlexGrid.h"
+#include "session/WindowRules.h"
 #include "session/commands/CommandKeys.h"
+#include "session/history/SharedHistory.h"
+#include "session/layout/ShownColumns.h"
+#include "session/pages/Pages.h"
 #include "session/statement/ShownConditions.h"
+#include "session/statement/ShownStatement.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
@@ -77,7 +82,7 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
     connect(m_parts.Toolbar1, &GridToolbar::buttonClicked, this,
             [this](const QString &key) { m_session->run(key); });
     connect(m_parts.cmdPgae, &QPushButton::clicked, this,
-            [this] { m_session->goToTypedPage(m_parts.txtPage->text()); });
+            [this] { m_session->pages().goToTypedPage(m_parts.txtPage->text()); });
     connect(m_parts.conditions, &FilterBar::removeWanted, this, [this](int condition) {
         m_session->perform([&] { removeCondition(*m_session, static_cast<std::size_t>(condition)); });
         m_parts.vsfgShowData->setFocus();
@@ -113,17 +118,17 @@ void frm_FullScreen::fillScreen()
 
 void frm_FullScreen::PutFilterManager(std::shared_ptr<clsFilterManagement> manager)
 {
-    m_session->setFilterManager(std::move(manager));
+    m_session->sharedHistory().setManager(std::move(manager));
 }
 
 void frm_FullScreen::PutTrail(std::shared_ptr<StatementTrail> trail)
 {
-    m_session->setTrail(std::move(trail));
+    m_session->sharedHistory().setTrail(std::move(trail));
 }
 
 void frm_FullScreen::ClearRefObject()
 {
-    m_session->setFilterManager(nullptr);
+    m_session->sharedHistory().setManager(nullptr);
 }
 
 void frm_FullScreen::GetData(const std::shared_ptr<ADODB::Connection> &newConnection,
@@ -138,7 +143,7 @@ void frm_FullScreen::GetData(const std::shared_ptr<ADODB::Connection> &newConnec
     m_parts.Toolbar1->setButtonEnabled(CommandKeys::Sort, bCanSort);
     m_session->texts.connectionString = newConnectionString;
     m_session->texts.sqlSort = SortString;
-    m_session->setFieldView(IsAll ? FieldView::All : FieldView::Part);
+    m_session->fields().setView(IsAll ? FieldView::All : FieldView::Part);
     try {
         // A snapshot has nothing to refresh, but a move to where it stands saves an edit that was begun.
         const bool isOpen = newTable && newTable->State() == ADODB::adStateOpen;
@@ -147,35 +152,35 @@ void frm_FullScreen::GetData(const std::shared_ptr<ADODB::Connection> &newConnec
     } catch (const ADODB::Error &) {
         // The edit stays with the control, which tells why it can't be saved when the user goes on with it.
     }
-    m_session->borrow({newConnectionString, newConnection, newTable}, NewSQL, nCurPageIndex);
-    m_session->layOutColumns();
-    m_session->updateRecordPosition();
+    m_session->shown().borrow({newConnectionString, newConnection, newTable}, NewSQL, nCurPageIndex);
+    m_session->fields().layOut();
+    m_session->pages().updateRecordPosition();
     m_menu->refresh();
 }
 
 qint32 frm_FullScreen::GetPageIndex() const
 {
-    return m_session->page();
+    return m_session->pages().current();
 }
 
 bool frm_FullScreen::IsAll() const
 {
-    return m_session->fieldView() == FieldView::All;
+    return m_session->fields().view() == FieldView::All;
 }
 
 const QString &frm_FullScreen::CurrentSQL() const
 {
-    return m_session->statement();
+    return m_session->shown().text();
 }
 
 bool frm_FullScreen::IsRequeried() const
 {
-    return m_session->isRequeried();
+    return m_session->shown().isRequeried();
 }
 
 void frm_FullScreen::SeeCompressView()
 {
-    m_session->compressColumns();
+    m_session->fields().compress();
 }
 
 void frm_FullScreen::showEvent(QShowEvent *event)
@@ -209,7 +214,7 @@ bool frm_FullScreen::eventFilter(QObject *watched, QEvent *event)
                event->type() == QEvent::MouseButtonRelease) {
         const auto &mouse = *static_cast<QMouseEvent *>(event);
         const int col = grid.ColumnOfHeadingAt(mouse.position().toPoint());
-        if (mouse.button() == Qt::RightButton && col > 0 && m_session->hasRecords()) {
+        if (mouse.button() == Qt::RightButton && col > 0 && m_session->result().hasRecords()) {
             m_columnMenu->addTo(*m_menu, col);
             popUp(mouse.globalPosition().toPoint(), false);
         }
@@ -226,8 +231,8 @@ bool frm_FullScreen::eventFilter(QObject *watched, QEvent *event)
 
 void frm_FullScreen::popUp(const QPoint &globalPosition, bool isOnCell)
 {
-    m_session->updateRecordPosition();
-    if (!m_session->hasRecords())
+    m_session->pages().updateRecordPosition();
+    if (!m_session->result().hasRecords())
         return;
     m_menu->refresh(isOnCell && !m_parts.vsfgShowData->Text().isEmpty());
     m_menu->popup(globalPosition);

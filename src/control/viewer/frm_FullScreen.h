@@ -16,6 +16,8 @@ namespace KOVAVSFDataGridLib {
 class ColumnMenu;
 class PopupMenu;
 class ResultFinder;
+class StatementTrail;
+class clsFilterManagement;
 
 // What the viewer asks of the control that opened it.
 struct ViewerHost

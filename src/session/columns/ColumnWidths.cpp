@@ -1,6 +1,7 @@
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/columns/ColumnCommand.h"
+#include "session/layout/ShownColumns.h"
 
 // Columns as wide as their texts, and as they were.
 
@@ -17,7 +18,8 @@ const ColumnCommand::Registration fit({
     .run =
         [](Session &session, int col) {
             SessionWindow &window = session.window();
-            session.keptWidths().fit(window, [&] { window.PutColWidth(col, window.fittingWidth(col)); });
+            session.fields().keptWidths().fit(window,
+                                              [&] { window.PutColWidth(col, window.fittingWidth(col)); });
         },
 });
 
@@ -28,7 +30,7 @@ const ColumnCommand::Registration fitAll({
     .run =
         [](Session &session, int) {
             SessionWindow &window = session.window();
-            session.keptWidths().fit(window, [&] {
+            session.fields().keptWidths().fit(window, [&] {
                 for (const int col : window.shownColumns())
                     window.PutColWidth(col, window.fittingWidth(col));
             });
@@ -39,8 +41,9 @@ const ColumnCommand::Registration restore({
     .key = u"RestoreWidths"_s,
     .place = 302,
     .caption = ColumnCommand::tr("还原宽度(&R)"),
-    .run = [](Session &session, int) { session.keptWidths().restore(session.window()); },
-    .canRun = [](Session &session, int) { return session.keptWidths().canRestore(session.window()); },
+    .run = [](Session &session, int) { session.fields().keptWidths().restore(session.window()); },
+    .canRun = [](Session &session,
+                 int) { return session.fields().keptWidths().canRestore(session.window()); },
 });
 
 } // namespace

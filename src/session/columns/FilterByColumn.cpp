@@ -1,12 +1,15 @@
+#include "query/clsFilterManagement.h"
 #include "session/Questions.h"
 #include "session/ResultWatch.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/columns/ColumnCommand.h"
 #include "session/commands/rows/FilterByDialog.h"
+#include "session/history/SharedHistory.h"
 #include "session/statement/FilterManagerRollback.h"
 #include "session/statement/ShownConditions.h"
 #include "session/statement/ShownOrder.h"
+#include "session/statement/ShownStatement.h"
 
 #include <algorithm>
 
@@ -30,10 +33,11 @@ std::optional<Choice> choiceInForce(Session &session, const QString &field)
 {
     const std::vector<ShownCondition> shown = shownConditions(session);
     for (std::size_t place = 0; place < shown.size(); ++place) {
-        const auto chosen = std::ranges::find_if(session.chosenValues, [&](const ChosenValues &values) {
-            return values.field == field && values.condition == shown[place].text;
-        });
-        if (chosen != session.chosenValues.end())
+        const auto chosen =
+            std::ranges::find_if(session.shown().chosenValues, [&](const ChosenValues &values) {
+                return values.field == field && values.condition == shown[place].text;
+            });
+        if (chosen != session.shown().chosenValues.end())
             return Choice{place, chosen->built};
     }
     return std::nullopt;
@@ -44,7 +48,7 @@ void remember(Session &session, const QString &field, const ValuesAnswer &answer
 {
     for (const ShownCondition &shown : shownConditions(session)) {
         if (answer.condition.simplified().contains(shown.text.simplified()))
-            session.chosenValues.push_back({field, shown.text, answer.built});
+            session.shown().chosenValues.push_back({field, shown.text, answer.built});
     }
 }
 
@@ -60,9 +64,9 @@ void show(Session &session, const QString &field, const std::optional<Choice> &c
     QString statement;
     if (current)
         statement = statementWith(session, current->place, answer.condition);
-    else if (!session.addCondition(answer.condition, statement))
+    else if (!session.shown().addCondition(answer.condition, statement))
         return;
-    if (!session.reloadFiltered(statement, true))
+    if (!session.shown().reloadFiltered(statement, true))
         return;
     rollback.keepChanges();
     remember(session, field, answer);
@@ -74,7 +78,7 @@ void filterByColumn(Session &session, int col)
     const QString heading = session.window().Headings().value(col - 1);
     const QString field = writtenColumn(session, col);
     const std::optional<Choice> current = choiceInForce(session, field);
-    ValuesRequest request{session.conditionRequest(), field};
+    ValuesRequest request{session.shown().conditionRequest(), field};
     request.records.field = heading;
     if (current) {
         // The values that it leaves out are offered too.
@@ -100,9 +104,9 @@ const ColumnCommand::Registration registration({
     // A filter that leaves no record can still be changed where it was made.
     .canRun =
         [](Session &session, int col) {
-            return session.whyNot(DerivationStep::Condition).isEmpty() &&
+            return session.sharedHistory().whyNot(DerivationStep::Condition).isEmpty() &&
                    !writtenColumn(session, col).isEmpty() &&
-                   (session.hasRecords() || choiceInForce(session, writtenColumn(session, col)));
+                   (session.result().hasRecords() || choiceInForce(session, writtenColumn(session, col)));
         },
 });
 

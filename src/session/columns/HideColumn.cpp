@@ -3,6 +3,7 @@
 #include "session/SessionWindow.h"
 #include "session/columns/ColumnCommand.h"
 #include "session/commands/fields/ChosenFields.h"
+#include "session/history/SharedHistory.h"
 
 // Shows the fields that are shown without one of them.
 
@@ -54,9 +55,9 @@ const ColumnCommand::Registration registration({
     .canRun =
         [](Session &session, int col) {
             const QStringList headings = session.window().Headings();
-            return session.hasRecords() && headings.count(headings.at(col - 1)) == 1 &&
+            return session.result().hasRecords() && headings.count(headings.at(col - 1)) == 1 &&
                    session.window().shownColumns().size() > 1 &&
-                   session.whyNot(DerivationStep::Fields).isEmpty();
+                   session.sharedHistory().whyNot(DerivationStep::Fields).isEmpty();
         },
 });
 

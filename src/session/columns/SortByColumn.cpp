@@ -1,6 +1,8 @@
+#include "query/clsFilterManagement.h"
 #include "session/Session.h"
 #include "session/columns/ColumnCommand.h"
 #include "session/commands/rows/ShowSorted.h"
+#include "session/history/SharedHistory.h"
 #include "session/statement/FilterManagerRollback.h"
 #include "session/statement/ShownOrder.h"
 
@@ -16,7 +18,7 @@ namespace {
 
 bool canSort(Session &session, int col)
 {
-    return session.hasRecords() && session.whyNot(DerivationStep::Sort).isEmpty() &&
+    return session.result().hasRecords() && session.sharedHistory().whyNot(DerivationStep::Sort).isEmpty() &&
            !writtenColumn(session, col).isEmpty();
 }
 

@@ -1,9 +1,16 @@
 #include "session/history/HistorySteps.h"
 
+#include "ado/Notifications.h"
 #include "ado/Recordset.h"
+#include "query/clsFilterManagement.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
+#include "session/editing/EditedRecord.h"
+#include "session/history/SharedHistory.h"
+#include "session/layout/ShownColumns.h"
+#include "session/pages/Pages.h"
 #include "session/statement/FilterManagerRollback.h"
+#include "session/statement/ShownStatement.h"
 
 #include <algorithm>
 
@@ -16,9 +23,9 @@ using StepBack = bool (colShowSQLSentences::*)(QString &PassFilter, QString *Pas
 // The latest entry's result is open: shows it as the entry does.
 void showAsEntry(Session &session, const clsShowSQLSentence *entry)
 {
-    session.setFieldView(entry && entry->IsShowAllFields == AllFieldsShown ? FieldView::All
-                                                                           : FieldView::Part);
-    session.layOutColumns();
+    session.fields().setView(entry && entry->IsShowAllFields == AllFieldsShown ? FieldView::All
+                                                                               : FieldView::Part);
+    session.fields().layOut();
     if (session.window().isSingleRecordShown())
         session.window().showAllRecords();
 }
@@ -30,7 +37,7 @@ std::vector<clsShowSQLSentence> entriesAfter(Session &session, qsizetype positio
     std::vector<clsShowSQLSentence> entries;
     for (qsizetype i = position + 1; i <= history.Count(); ++i)
         entries.push_back(*history.Item(i));
-    std::ranges::copy(session.trail().ahead(history), std::back_inserter(entries));
+    std::ranges::copy(session.sharedHistory().trail().ahead(history), std::back_inserter(entries));
     return entries;
 }
 
@@ -44,14 +51,14 @@ void goBackTo(Session &session, qsizetype position, StepBack stepBack)
     QString key;
     if (!(session.history().*stepBack)(statement, &key))
         return;
-    const auto opened = session.readForReload(statement, true);
+    const auto opened = session.shown().readForReload(statement, true);
     if (!opened)
         return;
     const ADODB::Notifications::Hold hold(session.notifications());
-    session.show(*opened);
+    session.shown().show(*opened);
     rollback.keepChanges();
-    session.trail().setAhead(session.history(), std::move(left));
-    session.trail().replaceNote(session.history(), opened->recordset->RecordCount());
+    session.sharedHistory().trail().setAhead(session.history(), std::move(left));
+    session.sharedHistory().trail().replaceNote(session.history(), opened->recordset->RecordCount());
     showAsEntry(session, session.history().Item(key));
 }
 
@@ -67,10 +74,10 @@ bool addAgain(colShowSQLSentences &history, const clsShowSQLSentence &entry)
 
 std::vector<HistoryStep> historySteps(Session &session)
 {
-    if (session.isFilterManager(nullptr))
+    if (session.sharedHistory().isManager(nullptr))
         return {};
     const colShowSQLSentences &history = session.history();
-    const StatementTrail &trail = session.trail();
+    const StatementTrail &trail = session.sharedHistory().trail();
     std::vector<HistoryStep> steps;
     int step = -static_cast<int>(history.Count());
     const auto add = [&](const clsShowSQLSentence &entry) {
@@ -99,14 +106,15 @@ void goToOrigin(Session &session)
 void goForward(Session &session, qsizetype steps)
 {
     FilterManagerRollback rollback(session);
-    std::vector<clsShowSQLSentence> ahead = session.trail().ahead(session.history());
+    std::vector<clsShowSQLSentence> ahead = session.sharedHistory().trail().ahead(session.history());
     if (steps < 1 || steps > std::ssize(ahead))
         return;
-    const auto opened = session.readForReload(ahead[static_cast<std::size_t>(steps - 1)].ShowSQL, true);
+    const auto opened =
+        session.shown().readForReload(ahead[static_cast<std::size_t>(steps - 1)].ShowSQL, true);
     if (!opened)
         return;
     const ADODB::Notifications::Hold hold(session.notifications());
-    session.show(*opened);
+    session.shown().show(*opened);
     colShowSQLSentences &history = session.history();
     for (qsizetype i = 0; i < steps; ++i)
         addAgain(history, ahead[static_cast<std::size_t>(i)]);
@@ -114,8 +122,8 @@ void goForward(Session &session, qsizetype steps)
     history.GetCurrSQLFieldsStatus();
     rollback.keepChanges();
     ahead.erase(ahead.begin(), ahead.begin() + steps);
-    session.trail().setAhead(history, std::move(ahead));
-    session.trail().replaceNote(history, opened->recordset->RecordCount());
+    session.sharedHistory().trail().setAhead(history, std::move(ahead));
+    session.sharedHistory().trail().replaceNote(history, opened->recordset->RecordCount());
     showAsEntry(session, history.Item(history.Count()));
 }
 
@@ -123,8 +131,8 @@ void goToStep(Session &session, int steps)
 {
     session.perform([&] {
         const ResultWatch watch(session);
-        session.returnToShownRecord();
-        if (!session.whyNoHistory().isEmpty() || !session.saveRecord() || !watch.isUntouched())
+        session.pages().returnToShownRecord();
+        if (!session.sharedHistory().whyNone().isEmpty() || !session.record().save() || !watch.isUntouched())
             return;
         if (steps < 0)
             goBack(session, -steps);

@@ -3,7 +3,6 @@
 #include "query/colShowSQLSentences.h"
 #include "session/layout/ColumnView.h"
 
-
 #include <algorithm>
 #include <vector>
 

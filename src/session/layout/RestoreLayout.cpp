@@ -1,9 +1,12 @@
+#include "query/clsFilterManagement.h"
 #include "session/Questions.h"
-#include "session/ResultWatch.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/commands/CommandKeys.h"
 #include "session/commands/fields/ChosenFields.h"
+#include "session/editing/EditedRecord.h"
+#include "session/history/SharedHistory.h"
+#include "session/layout/ColumnLayout.h"
 #include "session/layout/LayoutTexts.h"
 #include "session/layout/SavedLayout.h"
 
@@ -58,10 +61,9 @@ std::set<QString> hiddenFields(const SessionWindow &window)
 // Answers why not; empty when it was done.
 QString showAllBut(Session &session, const std::set<QString> &hidden)
 {
-    if (const QString reason = session.whyNot(DerivationStep::Fields); !reason.isEmpty())
+    if (const QString reason = session.sharedHistory().whyNot(DerivationStep::Fields); !reason.isEmpty())
         return reason;
-    const ResultWatch watch(session);
-    if (!session.saveRecord() || !watch.isUntouched())
+    if (!session.record().save())
         return LayoutTexts::NotSaved;
     if (hidden.empty()) {
         session.run(CommandKeys::All);

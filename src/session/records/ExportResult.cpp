@@ -10,6 +10,7 @@
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "session/records/LongWork.h"
+#include "session/statement/ShownStatement.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -74,7 +75,7 @@ QString fileNameOf(Session &session)
 {
     static const QRegularExpression notInNames(u"[\\\\/:*?\"<>|\\[\\]`\\x00-\\x1f]+"_s);
     constexpr qsizetype longest = 60;
-    return GetSQLTableName(session.statement()).remove(notInNames).simplified().left(longest);
+    return GetSQLTableName(session.shown().text()).remove(notInNames).simplified().left(longest);
 }
 
 ExportAnswer exportAnswerFrom(const QString &file, const QString &options)

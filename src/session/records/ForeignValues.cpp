@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 #include "ado/Recordset.h"
+#include "query/clsFilterManagement.h"
 #include "session/Session.h"
 #include "sql/Literals.h"
 #include "sql/Names.h"

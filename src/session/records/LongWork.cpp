@@ -1,8 +1,10 @@
 #include "session/records/LongWork.h"
 
 #include "ado/Recordset.h"
+#include "query/SharedValues.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
+#include "session/pages/Pages.h"
 
 #include <QtCore/QScopedValueRollback>
 
@@ -37,8 +39,8 @@ RecordRange markedRecords(Session &session)
     const MarkedCells marked = session.window().markedCells();
     if (marked.lastRow < marked.firstRow || marked.firstRow < 1)
         return {};
-    const qint64 last = session.recordOfRow(marked.lastRow);
-    return {session.recordOfRow(marked.firstRow),
+    const qint64 last = session.pages().recordOfRow(marked.lastRow);
+    return {session.pages().recordOfRow(marked.firstRow),
             std::min(last, session.result().recordset()->RecordCount())};
 }
 

@@ -8,6 +8,7 @@
 #include "session/SessionWindow.h"
 #include "session/records/ExportResult.h"
 #include "session/records/LongWork.h"
+#include "session/statement/ShownStatement.h"
 
 #include <algorithm>
 
@@ -17,7 +18,7 @@ PrintRequest printRequestOf(Session &session)
 {
     const std::vector<int> shown = session.window().shownColumns();
     PrintRequest request;
-    request.title = GetSQLTableName(session.statement()).simplified();
+    request.title = GetSQLTableName(session.shown().text()).simplified();
     request.file = fileNameOf(session);
     request.all = {1, session.result().recordset()->RecordCount()};
     request.marked = markedRecords(session);

@@ -1,13 +1,14 @@
 #include "session/statement/FilterManagerRollback.h"
 
 #include "session/Session.h"
+#include "session/history/SharedHistory.h"
 
 namespace KOVAVSFDataGridLib {
 
 FilterManagerRollback::FilterManagerRollback(Session &session)
     : m_session(session),
       m_result(session),
-      m_manager(session.sharedFilterManager()),
+      m_manager(session.sharedHistory().manager()),
       m_before(*m_manager),
       m_connectionString(session.texts.connectionString)
 {
@@ -21,7 +22,7 @@ FilterManagerRollback::~FilterManagerRollback()
 
 bool FilterManagerRollback::isResultUntouched() const
 {
-    return m_result.isUntouched() && m_session.isFilterManager(m_manager) &&
+    return m_result.isUntouched() && m_session.sharedHistory().isManager(m_manager) &&
            m_session.texts.connectionString == m_connectionString;
 }
 

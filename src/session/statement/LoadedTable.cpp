@@ -1,14 +1,16 @@
 #include "session/statement/LoadedTable.h"
 
+#include "query/clsFilterManagement.h"
 #include "query/derivation/SqlText.h"
 #include "session/Session.h"
+#include "session/statement/ShownStatement.h"
 
 namespace KOVAVSFDataGridLib {
 
 QString loadedTable(Session &session)
 {
     const clsShowSQLSentence *const first = session.history().Item(1);
-    return GetSQLTableName(first ? first->ShowSQL : session.statement());
+    return GetSQLTableName(first ? first->ShowSQL : session.shown().text());
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -1,10 +1,13 @@
 #include "session/statement/ShownConditions.h"
 
+#include "query/clsFilterManagement.h"
 #include "query/conditions/ConditionParts.h"
-#include "session/ResultWatch.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
+#include "session/editing/EditedRecord.h"
+#include "session/history/SharedHistory.h"
 #include "session/statement/ShowStatement.h"
+#include "session/statement/ShownStatement.h"
 
 #include <algorithm>
 
@@ -59,7 +62,7 @@ std::vector<std::size_t> ownParts(Session &session, const Conditions &latest)
 std::vector<ShownCondition> shownConditions(Session &session)
 {
     QString statement;
-    if (!session.result().isOpen() || session.isFilterManager(nullptr) ||
+    if (!session.result().isOpen() || session.sharedHistory().isManager(nullptr) ||
         !session.history().GetLatestSQL(statement))
         return {};
     const Conditions latest(session, statement);
@@ -109,12 +112,11 @@ QString statementWith(Session &session, std::size_t condition, const QString &re
 
 void removeCondition(Session &session, std::size_t condition)
 {
-    const ResultWatch watch(session);
-    if (!session.saveRecord() || !watch.isUntouched())
+    if (!session.record().save())
         return;
     const QString statement = statementWithout(session, condition);
     if (!statement.isEmpty())
-        showStatement(session, statement, [&] { session.record(statement); });
+        showStatement(session, statement, [&] { session.shown().addToHistory(statement); });
 }
 
 } // namespace KOVAVSFDataGridLib

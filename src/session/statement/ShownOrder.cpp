@@ -1,8 +1,10 @@
 #include "session/statement/ShownOrder.h"
 
 #include "ado/Recordset.h"
+#include "query/clsFilterManagement.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
+#include "session/history/SharedHistory.h"
 #include "sql/Names.h"
 #include "sql/SelectParts.h"
 
@@ -34,7 +36,7 @@ QString writtenColumn(Session &session, int col)
 
 std::vector<SortTerm> shownOrder(Session &session)
 {
-    if (!session.result().isOpen() || session.isFilterManager(nullptr))
+    if (!session.result().isOpen() || session.sharedHistory().isManager(nullptr))
         return {};
     const Dialect dialect = dialectOf(session.filterManager().DBType(), session.result().engine());
     const SqlScanner statement(session.result().recordset()->Source(), dialect);

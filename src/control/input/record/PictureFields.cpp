@@ -1,6 +1,7 @@
 #include "control/input/record/PictureFields.h"
 
 #include "ado/Error.h"
+#include "ado/Notifications.h"
 #include "ado/Recordset.h"
 #include "control/parts/GridTexts.h"
 #include "forms/Messages.h"

@@ -1,5 +1,8 @@
 #include "session/commands/fields/ShowFields.h"
 
+#include "session/history/SharedHistory.h"
+#include "session/layout/ColumnLayout.h"
+
 // Shows all fields.
 
 namespace KOVAVSFDataGridLib {
@@ -25,7 +28,7 @@ const Command::Registration registration({
     .needs = Needs::Records,
     .record = Record::IsListedAgain,
     .run = showAllFields,
-    .whyNot = [](Session &session) { return session.whyNoHistory(); },
+    .whyNot = [](Session &session) { return session.sharedHistory().whyNone(); },
 });
 
 } // namespace

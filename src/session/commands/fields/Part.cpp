@@ -1,5 +1,9 @@
+#include "query/clsFilterManagement.h"
 #include "session/SessionWindow.h"
 #include "session/commands/fields/ShowFields.h"
+#include "session/history/SharedHistory.h"
+#include "session/layout/ColumnLayout.h"
+#include "session/layout/ShownColumns.h"
 
 // Shows the part fields alone.
 
@@ -24,8 +28,8 @@ void showAllInstead(Session &session, FilterManagerRollback &rollback)
         showFields(session, rollback.manager().GetCurrentSQL20(AllFieldsStatement), FieldView::All, rollback);
         return;
     }
-    session.setFieldView(FieldView::All);
-    session.layOutColumns();
+    session.fields().setView(FieldView::All);
+    session.fields().layOut();
     session.window().refreshSingleRecord();
 }
 
@@ -53,7 +57,7 @@ const Command::Registration registration({
     .needs = Needs::Records,
     .record = Record::IsListedAgain,
     .run = showPartFields,
-    .whyNot = [](Session &session) { return session.whyNoHistory(); },
+    .whyNot = [](Session &session) { return session.sharedHistory().whyNone(); },
 });
 
 } // namespace

@@ -1,10 +1,18 @@
+#include "ado/Notifications.h"
 #include "session/HostEvents.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
+#include "session/WindowRules.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
 #include "session/commands/fields/ChosenFields.h"
+#include "session/history/SharedHistory.h"
+#include "session/layout/ColumnLayout.h"
+#include "session/layout/ShownColumns.h"
+#include "session/statement/ConnectionFieldReader.h"
 #include "session/statement/FilterManagerRollback.h"
+#include "session/statement/ShownStatement.h"
+#include "session/statement/StatementReader.h"
 
 // Lets the user, or another one in his place, choose the part fields and shows them.
 
@@ -17,7 +25,7 @@ namespace {
 QStringList namesOf(Session &session, const QString &statement)
 {
     QStringList names;
-    for (const SourceField &field : session.reader()
+    for (const SourceField &field : session.fieldReader()
                                         .Read(session.texts.connectionString, statement)
                                         .value_or(std::vector<SourceField>()))
         names.append(field.name);
@@ -64,7 +72,7 @@ QString askForFields(const FilterManagerRollback &rollback, const clsShowSQLSent
 
 void showChosenFields(Session &session, FieldChooser *chooser)
 {
-    if (!session.rules().choosesFieldsWithoutRecords && !session.hasRecords())
+    if (!session.rules().choosesFieldsWithoutRecords && !session.result().hasRecords())
         return;
     FilterManagerRollback rollback(session);
     const colShowSQLSentences &history = rollback.manager().SQLManager();
@@ -85,18 +93,18 @@ void showChosenFields(Session &session, FieldChooser *chooser)
     std::optional<ResultSet::Opened> opened;
     if (session.rules().alwaysOpensFields || history.IsDistinct(statement) ||
         !session.columns().hasColumnsFor(namesOf(session, chosenFields))) {
-        opened = session.read(statement);
+        opened = session.statementReader().read(statement);
         if (!opened)
             return;
     }
     const ADODB::Notifications::Hold hold(session.notifications());
     if (opened)
-        session.show(*opened);
+        session.shown().show(*opened);
     rollback.keepChanges();
     if (session.rules().writesFilter)
-        session.writeFilter(statement);
-    session.setFieldView(FieldView::Part);
-    session.record(statement, chosenFields);
+        session.shown().writeFilter(statement);
+    session.fields().setView(FieldView::Part);
+    session.shown().addToHistory(statement, chosenFields);
     session.host().fieldsChanged(statement);
     if (session.window().isSingleRecordShown())
         session.window().showAllRecords();
@@ -110,7 +118,7 @@ const Command::Registration registration({
     .button = {{102, Command::tr("选择字段"), Command::tr("选择要显示的字段")}},
     .isInViewer = true,
     .run = [](Session &session) { showChosenFields(session); },
-    .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Fields); },
+    .whyNot = [](Session &session) { return session.sharedHistory().whyNot(DerivationStep::Fields); },
 });
 
 } // namespace

@@ -1,6 +1,14 @@
 #include "session/commands/fields/ShowFields.h"
 
+#include "ado/Notifications.h"
+#include "query/clsFilterManagement.h"
 #include "session/SessionWindow.h"
+#include "session/WindowRules.h"
+#include "session/editing/EditedRecord.h"
+#include "session/layout/ColumnLayout.h"
+#include "session/layout/ShownColumns.h"
+#include "session/statement/ShownStatement.h"
+#include "session/statement/StatementReader.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -13,17 +21,17 @@ void showFields(Session &session, const QString &statement, FieldView view, Filt
                                  !session.columns().hasColumnsFor(fields));
     std::optional<ResultSet::Opened> opened;
     if (needsOpening) {
-        if (!session.saveRecord() || !(opened = session.read(statement)))
+        if (!session.record().save() || !(opened = session.statementReader().read(statement)))
             return;
     }
     const ADODB::Notifications::Hold hold(session.notifications());
     if (opened)
-        session.show(*opened);
+        session.shown().show(*opened);
     rollback.keepChanges();
-    session.setStatement(statement);
-    session.setFieldView(view);
+    session.shown().setText(statement);
+    session.fields().setView(view);
     session.window().refreshSingleRecord();
-    session.record(statement);
+    session.shown().addToHistory(statement);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -3,6 +3,7 @@
 #include "session/Session.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/layout/ColumnLayout.h"
 #include "session/statement/FilterManagerRollback.h"
 
 namespace KOVAVSFDataGridLib {

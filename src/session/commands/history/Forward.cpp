@@ -1,7 +1,9 @@
+#include "query/clsFilterManagement.h"
 #include "session/Session.h"
 #include "session/SessionMessages.h"
 #include "session/commands/Command.h"
 #include "session/history/HistorySteps.h"
+#include "session/history/SharedHistory.h"
 
 // One statement forward, after going back.
 
@@ -13,10 +15,11 @@ namespace {
 
 QString whyNotForward(Session &session)
 {
-    const QString noHistory = session.whyNoHistory();
+    const QString noHistory = session.sharedHistory().whyNone();
     if (!noHistory.isEmpty())
         return noHistory;
-    const bool isAtEnd = session.isFilterManager(nullptr) || session.trail().ahead(session.history()).empty();
+    const bool isAtEnd = session.sharedHistory().isManager(nullptr) ||
+                         session.sharedHistory().trail().ahead(session.history()).empty();
     return isAtEnd ? SessionMessages::NothingAhead : QString();
 }
 

@@ -1,6 +1,7 @@
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
+#include "session/history/SharedHistory.h"
 
 // The list of all statements of the history.
 
@@ -18,7 +19,7 @@ const Command::Registration registration({
     .viewerMenu = {20, Command::tr("历史(&Z)…")},
     .record = Record::Stays,
     .run = [](Session &session) { session.window().showHistory(); },
-    .whyNot = [](Session &session) { return session.whyNoHistory(); },
+    .whyNot = [](Session &session) { return session.sharedHistory().whyNone(); },
 });
 
 } // namespace

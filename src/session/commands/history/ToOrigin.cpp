@@ -1,6 +1,7 @@
 #include "session/Session.h"
 #include "session/commands/Command.h"
 #include "session/history/HistorySteps.h"
+#include "session/history/SharedHistory.h"
 
 // Back to the first statement.
 
@@ -19,7 +20,7 @@ const Command::Registration registration({
                 .isCaptioned = true}},
     .isInViewer = true,
     .run = goToOrigin,
-    .whyNot = [](Session &session) { return session.whyNoHistory(); },
+    .whyNot = [](Session &session) { return session.sharedHistory().whyNone(); },
 });
 
 } // namespace

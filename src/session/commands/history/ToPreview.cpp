@@ -2,6 +2,7 @@
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
 #include "session/history/HistorySteps.h"
+#include "session/history/SharedHistory.h"
 
 // One statement back.
 
@@ -20,7 +21,7 @@ const Command::Registration registration({
                 .isCaptioned = true}},
     .isInViewer = true,
     .run = [](Session &session) { goBack(session, 1); },
-    .whyNot = [](Session &session) { return session.whyNoHistory(); },
+    .whyNot = [](Session &session) { return session.sharedHistory().whyNone(); },
 });
 
 } // namespace

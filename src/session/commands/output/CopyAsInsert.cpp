@@ -6,6 +6,7 @@
 #include "session/commands/output/MarkedRecords.h"
 #include "session/records/LongWork.h"
 #include "session/records/SqlValue.h"
+#include "session/statement/ShownStatement.h"
 #include "sql/Names.h"
 
 // Puts the marked records on the clipboard as statements that insert them.
@@ -29,9 +30,9 @@ QString tableOf(Session &session, const ExportColumns &columns)
     const QString table = fields.Item(columns.front().field).BaseTableName();
     for (const ExportColumn &column : columns) {
         if (fields.Item(column.field).BaseTableName() != table)
-            return GetSQLTableName(session.statement()).trimmed();
+            return GetSQLTableName(session.shown().text()).trimmed();
     }
-    return table.isEmpty() ? GetSQLTableName(session.statement()).trimmed()
+    return table.isEmpty() ? GetSQLTableName(session.shown().text()).trimmed()
                            : writtenName(dialectFor(session), table);
 }
 

@@ -1,6 +1,7 @@
 #include "session/commands/output/MarkedRecords.h"
 
 #include "ado/Recordset.h"
+#include "query/clsFilterManagement.h"
 #include "session/Session.h"
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"

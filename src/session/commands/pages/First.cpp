@@ -1,5 +1,6 @@
 #include "session/Session.h"
 #include "session/commands/Command.h"
+#include "session/pages/Pages.h"
 
 // The first page of the result.
 
@@ -14,7 +15,7 @@ const Command::Registration registration({
     .shortcut = u"Ctrl+Home"_s,
     .button = {{400, Command::tr("首页"), Command::tr("第一页")}},
     .isInViewer = true,
-    .run = [](Session &session) { session.stepPage(PageStep::First); },
+    .run = [](Session &session) { session.pages().stepPage(PageStep::First); },
 });
 
 } // namespace

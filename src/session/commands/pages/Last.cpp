@@ -1,5 +1,6 @@
 #include "session/Session.h"
 #include "session/commands/Command.h"
+#include "session/pages/Pages.h"
 
 // The last page of the result.
 
@@ -14,7 +15,7 @@ const Command::Registration registration({
     .shortcut = u"Ctrl+End"_s,
     .button = {{403, Command::tr("末页"), Command::tr("最后一页")}},
     .isInViewer = true,
-    .run = [](Session &session) { session.stepPage(PageStep::Last); },
+    .run = [](Session &session) { session.pages().stepPage(PageStep::Last); },
 });
 
 } // namespace

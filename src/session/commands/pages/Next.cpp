@@ -1,5 +1,6 @@
 #include "session/Session.h"
 #include "session/commands/Command.h"
+#include "session/pages/Pages.h"
 
 // The page after the current one.
 
@@ -14,7 +15,7 @@ const Command::Registration registration({
     .shortcut = u"Ctrl+PgDown"_s,
     .button = {{402, Command::tr("下页"), Command::tr("下一页")}},
     .isInViewer = true,
-    .run = [](Session &session) { session.stepPage(PageStep::Next); },
+    .run = [](Session &session) { session.pages().stepPage(PageStep::Next); },
 });
 
 } // namespace

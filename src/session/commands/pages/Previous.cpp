@@ -1,5 +1,6 @@
 #include "session/Session.h"
 #include "session/commands/Command.h"
+#include "session/pages/Pages.h"
 
 // The page before the current one.
 
@@ -14,7 +15,7 @@ const Command::Registration registration({
     .shortcut = u"Ctrl+PgUp"_s,
     .button = {{401, Command::tr("上页"), Command::tr("上一页")}},
     .isInViewer = true,
-    .run = [](Session &session) { session.stepPage(PageStep::Previous); },
+    .run = [](Session &session) { session.pages().stepPage(PageStep::Previous); },
 });
 
 } // namespace

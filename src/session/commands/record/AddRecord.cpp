@@ -1,4 +1,5 @@
 #include "ado/Error.h"
+#include "ado/Notifications.h"
 #include "ado/Recordset.h"
 #include "session/Questions.h"
 #include "session/ResultWatch.h"
@@ -6,6 +7,7 @@
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
+#include "session/editing/EditedRecord.h"
 
 // Begins a new record and shows it as a list.
 
@@ -17,16 +19,16 @@ namespace {
 
 void addRecord(Session &session)
 {
-    if (!session.result().isOpen() || !session.commitEdit())
+    if (!session.result().isOpen() || !session.record().commitEdit())
         return;
     const ResultWatch watch(session);
     ADODB::Recordset &recordset = *watch.recordset();
-    if (recordset.EditMode() == ADODB::adEditInProgress && !session.saveRecord())
+    if (recordset.EditMode() == ADODB::adEditInProgress && !session.record().save())
         return;
     try {
         const ADODB::Notifications::Hold hold(session.notifications());
-        if (recordset.EditMode() == ADODB::adEditAdd && !session.isRecordEmpty())
-            session.saveChanges();
+        if (recordset.EditMode() == ADODB::adEditAdd && !session.record().isEmpty())
+            session.record().saveChanges();
         if (!watch.isUntouched())
             return;
         recordset.AddNew();
@@ -44,7 +46,7 @@ const Command::Registration registration({
     .menu = {8, Command::tr("增加记录(&N)")},
     .record = Record::Stays,
     .run = addRecord,
-    .whyNot = [](Session &session) { return session.whyNotWritten(); },
+    .whyNot = [](Session &session) { return session.record().whyNotWritten(); },
 });
 
 } // namespace

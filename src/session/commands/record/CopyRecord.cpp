@@ -1,4 +1,5 @@
 #include "ado/Error.h"
+#include "ado/Notifications.h"
 #include "ado/Recordset.h"
 #include "session/Questions.h"
 #include "session/ResultWatch.h"
@@ -6,6 +7,7 @@
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
+#include "session/editing/EditedRecord.h"
 
 #include <vector>
 
@@ -47,9 +49,9 @@ void beginRecord(ADODB::Recordset &recordset, const std::vector<CopiedValue> &va
 
 void copyRecord(Session &session)
 {
-    const ResultWatch watch(session);
-    if (!session.saveRecord() || !watch.isUntouched())
+    if (!session.record().save())
         return;
+    const ResultWatch watch(session);
     ADODB::Recordset &recordset = *watch.recordset();
     try {
         const ADODB::Notifications::Hold hold(session.notifications());
@@ -69,7 +71,7 @@ const Command::Registration registration({
     .needs = Needs::Records,
     .record = Record::Stays,
     .run = copyRecord,
-    .whyNot = [](Session &session) { return session.whyNotWritten(); },
+    .whyNot = [](Session &session) { return session.record().whyNotWritten(); },
 });
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "ado/Error.h"
+#include "ado/Notifications.h"
 #include "ado/Recordset.h"
 #include "session/Questions.h"
 #include "session/ResultWatch.h"
@@ -6,6 +7,8 @@
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
+#include "session/editing/EditedRecord.h"
+#include "session/pages/Pages.h"
 
 #include <algorithm>
 
@@ -28,28 +31,26 @@ QString question(Session &session)
     const ADODB::Recordset &recordset = *session.result().recordset();
     const int field = shown.front() - 1;
     return SessionMessages::AskDelete +
-           SessionMessages::RecordMeant.arg(QString::number(window.Row()),
-                                            recordset.Fields().Item(field).Name(),
-                                            recordset.CellText(session.recordOfRow(window.Row()), field));
+           SessionMessages::RecordMeant.arg(
+               QString::number(window.Row()), recordset.Fields().Item(field).Name(),
+               recordset.CellText(session.pages().recordOfRow(window.Row()), field));
 }
 
 // The answer is meant for the record that was current when the question came up, and for no other that the
 // host has made current meanwhile.
-bool askToDelete(Session &session)
+bool askToDelete(Session &session, const ResultWatch &watch)
 {
-    const ResultWatch watch(session);
     const qint64 position = watch.recordset()->AbsolutePosition();
     return session.questions().ask(question(session), SessionMessages::AskDeleteTitle) &&
            watch.isUntouched() && watch.recordset()->AbsolutePosition() == position;
 }
 
-void deleteCurrentRecord(Session &session)
+void deleteCurrentRecord(Session &session, const ResultWatch &watch)
 {
     const ADODB::Notifications::Hold hold(session.notifications());
-    const ResultWatch watch(session);
     ADODB::Recordset &recordset = *watch.recordset();
     if (recordset.EditMode() == ADODB::adEditAdd) {
-        session.cancelRecord();
+        session.record().cancel();
         return;
     }
     const qint64 position = recordset.AbsolutePosition();
@@ -60,7 +61,7 @@ void deleteCurrentRecord(Session &session)
     const qint64 next = std::min(position, recordset.RecordCount());
     if (next < 1)
         recordset.MoveFirst(); // off the deleted record: nothing is left
-    session.refillAtRecord(next);
+    session.pages().refillAtRecord(next);
     if (next >= 1)
         recordset.PutAbsolutePosition(next);
     else if (session.window().isSingleRecordShown())
@@ -73,11 +74,11 @@ void deleteRecord(Session &session)
     if (!session.result().isOpen())
         return;
     const bool isNew = session.result().recordset()->EditMode() == ADODB::adEditAdd;
-    if ((!session.hasRecords() && !isNew) || !askToDelete(session))
-        return;
     const ResultWatch watch(session);
+    if ((!session.result().hasRecords() && !isNew) || !askToDelete(session, watch))
+        return;
     try {
-        deleteCurrentRecord(session);
+        deleteCurrentRecord(session, watch);
     } catch (const ADODB::Error &error) {
         // Not every refusal is a constraint: the file may be read-only, the record changed by somebody else.
         if (!watch.isUntouched())
@@ -86,7 +87,7 @@ void deleteRecord(Session &session)
             session.questions().showWithCause(SessionMessages::DeleteRefused, error.Description());
         else if (session.questions().offerNewValues(SessionMessages::DeleteRefused, error.Description()) &&
                  watch.isUntouched())
-            session.showNewValues();
+            session.record().showNewValues();
     }
 }
 
@@ -96,7 +97,7 @@ const Command::Registration registration({
     .menu = {9, Command::tr("删除记录(&D)")},
     .record = Record::Stays,
     .run = deleteRecord,
-    .whyNot = [](Session &session) { return session.whyNotWritten(); },
+    .whyNot = [](Session &session) { return session.record().whyNotWritten(); },
 });
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/statement/ShownStatement.h"
 
 // Shows the current record as a list of its fields.
 
@@ -13,7 +14,7 @@ namespace {
 
 void showSingleRecord(Session &session)
 {
-    if (!session.statement().trimmed().isEmpty())
+    if (!session.shown().text().trimmed().isEmpty())
         session.window().showSingleRecord();
 }
 

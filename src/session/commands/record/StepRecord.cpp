@@ -1,26 +1,26 @@
 #include "session/commands/record/StepRecord.h"
 
+#include "ado/Notifications.h"
 #include "ado/Recordset.h"
-#include "session/ResultWatch.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
+#include "session/pages/Pages.h"
 
 namespace KOVAVSFDataGridLib {
 
 void stepRecord(Session &session, int by)
 {
-    const ResultWatch watch(session);
-    const qint64 record = watch.recordset()->AbsolutePosition() + by;
-    if (record < 1 || record > watch.recordset()->RecordCount())
+    const ADODB::Notifications::Hold hold(session.notifications());
+    const ADODB::Recordset &recordset = *session.result().recordset();
+    const qint64 record = recordset.AbsolutePosition() + by;
+    if (record < 1 || record > recordset.RecordCount())
         return;
-    if (session.rowOfRecord(record) == 0)
-        session.turnToPage(session.page() + by);
-    if (!watch.isUntouched())
+    if (session.pages().rowOfRecord(record) == 0 &&
+        !session.pages().turnToPage(session.pages().current() + by))
         return;
-    if (const int row = session.rowOfRecord(record); row > 0)
+    if (const int row = session.pages().rowOfRecord(record); row > 0)
         session.window().PutRow(row);
-    if (watch.isUntouched())
-        session.window().refreshSingleRecord();
+    session.window().refreshSingleRecord();
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -1,12 +1,16 @@
 #include "ado/Recordset.h"
 #include "query/QueryTexts.h"
+#include "query/clsFilterManagement.h"
 #include "query/conditions/Conditions.h"
 #include "session/Questions.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/history/SharedHistory.h"
+#include "session/pages/Pages.h"
 #include "session/statement/FilterManagerRollback.h"
+#include "session/statement/ShownStatement.h"
 
 // Keeps the records whose field equals the current cell.
 
@@ -21,7 +25,7 @@ using CellCondition = KOVAVSFDataGridLib::CellFilter;
 CellCondition conditionOfCell(Session &session, int row, int col)
 {
     const ADODB::Recordset &recordset = *session.result().recordset();
-    const qint64 record = session.recordOfRow(row);
+    const qint64 record = session.pages().recordOfRow(row);
     std::optional<QString> text;
     if (!recordset.IsNull(record, col - 1))
         text = recordset.CellText(record, col - 1);
@@ -49,8 +53,8 @@ void filterBySelectedCell(Session &session)
         return session.questions().show(filter.message);
     FilterManagerRollback rollback(session);
     QString statement;
-    if (!filter.condition.isEmpty() && session.addCondition(filter.condition, statement) &&
-        session.reloadFiltered(statement, false))
+    if (!filter.condition.isEmpty() && session.shown().addCondition(filter.condition, statement) &&
+        session.shown().reloadFiltered(statement, false))
         rollback.keepChanges();
 }
 
@@ -65,7 +69,7 @@ const Command::Registration registration({
                    .needsText = true},
     .needs = Needs::Records,
     .run = filterBySelectedCell,
-    .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Condition); },
+    .whyNot = [](Session &session) { return session.sharedHistory().whyNot(DerivationStep::Condition); },
 });
 
 } // namespace

@@ -1,12 +1,17 @@
 #include "ado/Recordset.h"
+#include "query/clsFilterManagement.h"
 #include "session/HostEvents.h"
 #include "session/Questions.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
+#include "session/WindowRules.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
 #include "session/commands/rows/FilterByDialog.h"
+#include "session/history/SharedHistory.h"
+#include "session/pages/Pages.h"
 #include "session/statement/FilterManagerRollback.h"
+#include "session/statement/ShownStatement.h"
 
 // Asks the host for a condition by its event QurryFilter, and the user by the filter dialog unless the host
 // took over.
@@ -21,7 +26,7 @@ namespace {
 QString currentValue(Session &session, int row, int col)
 {
     const ADODB::Recordset &recordset = *session.result().recordset();
-    const qint64 record = session.recordOfRow(row);
+    const qint64 record = session.pages().recordOfRow(row);
     constexpr qsizetype longest = 100; // characters
     if (row == 0 || record < 1 || record > recordset.RecordCount() || recordset.IsNull(record, col - 1))
         return {};
@@ -37,7 +42,7 @@ void beginWhereUserIs(Session &session, ConditionRequest &request, const QString
     if (!field.isEmpty())
         return;
     if (replaces) {
-        request.built = session.lastBuilt.built;
+        request.built = session.shown().lastBuilt.built;
         return;
     }
     const int col = session.window().currentCol();
@@ -51,8 +56,8 @@ void beginWhereUserIs(Session &session, ConditionRequest &request, const QString
 bool isReplaced(Session &session)
 {
     QString shown;
-    const QString condition = session.lastBuilt.condition.simplified();
-    return !session.rules().narrowsShown && !session.isFromResult() && !condition.isEmpty() &&
+    const QString condition = session.shown().lastBuilt.condition.simplified();
+    return !session.rules().narrowsShown && !session.shown().isFromResult() && !condition.isEmpty() &&
            session.history().GetLatestSQL(shown) && shown.simplified().contains(condition);
 }
 
@@ -60,11 +65,11 @@ bool isReplaced(Session &session)
 // given, else to the user.
 bool filterBy(Session &session, FilterManagerRollback &rollback, const QString &condition, QString *refusal)
 {
-    session.setLastFilter(condition);
+    session.shown().setLastFilter(condition);
     QString statement;
     const QString added = session.rules().trimsCondition ? condition.trimmed() : condition;
-    if (added.trimmed().isEmpty() || !session.addCondition(added, statement) ||
-        !session.reloadFiltered(statement, true, refusal))
+    if (added.trimmed().isEmpty() || !session.shown().addCondition(added, statement) ||
+        !session.shown().reloadFiltered(statement, true, refusal))
         return false;
     rollback.keepChanges();
     return true;
@@ -73,7 +78,7 @@ bool filterBy(Session &session, FilterManagerRollback &rollback, const QString &
 // Asks until the database takes the condition or the user cancels.
 void askUser(Session &session, FilterManagerRollback &rollback, const QString &field, bool replaces)
 {
-    ConditionRequest request = session.conditionRequest();
+    ConditionRequest request = session.shown().conditionRequest();
     beginWhereUserIs(session, request, field, replaces);
     do {
         const QString condition = session.questions().askCondition(request);
@@ -81,7 +86,7 @@ void askUser(Session &session, FilterManagerRollback &rollback, const QString &f
             return;
         request.refusal.clear();
         if (filterBy(session, rollback, condition, &request.refusal)) {
-            session.lastBuilt = {condition, request.built};
+            session.shown().lastBuilt = {condition, request.built};
             session.questions().noteConditionUsed(request);
         }
     } while (!request.refusal.isEmpty() && rollback.isResultUntouched());
@@ -96,7 +101,7 @@ void askHost(Session &session, FilterManagerRollback &rollback, const QString &f
     session.texts.passQurryFilter.clear();
     QString base;
     colShowSQLSentences &history = rollback.manager().SQLManager();
-    if (!(session.isFromResult() ? history.GetLatestSQL(base) : history.GetFirstSQL(base)))
+    if (!(session.shown().isFromResult() ? history.GetLatestSQL(base) : history.GetFirstSQL(base)))
         return;
     constexpr qint32 leftToTheDialog = 1;
     qint32 cancel = leftToTheDialog;
@@ -133,7 +138,7 @@ const Command::Registration registration({
     .isInViewer = true,
     .needs = Needs::Records,
     .run = [](Session &session) { filterByDialog(session); },
-    .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Condition); },
+    .whyNot = [](Session &session) { return session.sharedHistory().whyNot(DerivationStep::Condition); },
 });
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "session/Session.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/statement/ShownStatement.h"
 
 // Whether "Filter" filters what is shown rather than the first statement.
 
@@ -19,7 +20,7 @@ const Command::Registration registration({
                 .isToggle = true,
                 .isCaptioned = true}},
     .record = Record::Stays,
-    .run = [](Session &session) { session.toggleFromResult(); },
+    .run = [](Session &session) { session.shown().toggleFromResult(); },
 });
 
 } // namespace

@@ -3,7 +3,9 @@
 #include "session/Questions.h"
 #include "session/Session.h"
 #include "session/commands/Command.h"
+#include "session/history/SharedHistory.h"
 #include "session/statement/FilterManagerRollback.h"
+#include "session/statement/ShownStatement.h"
 
 // Asks for words and looks for them in all fields, or in one.
 
@@ -63,10 +65,10 @@ void quickFilter(Session &session)
     const std::optional<QString> condition = askUser(session, rollback, latest);
     if (!condition)
         return;
-    session.setLastFilter(*condition);
+    session.shown().setLastFilter(*condition);
     QString statement;
-    if (!condition->trimmed().isEmpty() && session.addCondition(*condition, statement) &&
-        session.reloadFiltered(statement, true))
+    if (!condition->trimmed().isEmpty() && session.shown().addCondition(*condition, statement) &&
+        session.shown().reloadFiltered(statement, true))
         rollback.keepChanges();
 }
 
@@ -79,7 +81,7 @@ const Command::Registration registration({
                 .isCaptioned = true}},
     .needs = Needs::Records,
     .run = quickFilter,
-    .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Condition); },
+    .whyNot = [](Session &session) { return session.sharedHistory().whyNot(DerivationStep::Condition); },
 });
 
 } // namespace

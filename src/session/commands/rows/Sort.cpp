@@ -1,9 +1,12 @@
 #include "session/Session.h"
+#include "session/WindowRules.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
 #include "session/commands/rows/ShowSorted.h"
+#include "session/history/SharedHistory.h"
 #include "session/statement/FilterManagerRollback.h"
 #include "session/statement/ShowStatement.h"
+#include "session/statement/ShownStatement.h"
 
 // Lets the user choose a sort and shows the records in it.
 
@@ -13,9 +16,10 @@ using namespace Qt::StringLiterals;
 
 bool showSorted(Session &session, const QString &statement, const QString &sort)
 {
-    session.rememberStatement();
-    return showStatement(session, statement,
-                         [&] { session.record(statement, colShowSQLSentences::NoPartField(), sort); });
+    session.shown().remember();
+    return showStatement(session, statement, [&] {
+        session.shown().addToHistory(statement, colShowSQLSentences::NoPartField(), sort);
+    });
 }
 
 namespace {
@@ -51,7 +55,7 @@ const Command::Registration registration({
     .menu = {12, Command::tr("排序(&O)"), true},
     .isInViewer = true,
     .run = sortByDialog,
-    .whyNot = [](Session &session) { return session.whyNot(DerivationStep::Sort); },
+    .whyNot = [](Session &session) { return session.sharedHistory().whyNot(DerivationStep::Sort); },
 });
 
 } // namespace

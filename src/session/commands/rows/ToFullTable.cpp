@@ -1,7 +1,11 @@
+#include "query/clsFilterManagement.h"
 #include "session/Session.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/history/SharedHistory.h"
+#include "session/layout/ShownColumns.h"
 #include "session/statement/ShowStatement.h"
+#include "session/statement/ShownStatement.h"
 
 // The latest statement without its condition.
 
@@ -21,8 +25,8 @@ void showFullTable(Session &session)
         return;
     const bool showsAll = session.history().Item(key)->IsShowAllFields == AllFieldsShown;
     showStatement(session, statement, [&] {
-        session.setFieldView(showsAll ? FieldView::All : FieldView::Part);
-        session.record(statement);
+        session.fields().setView(showsAll ? FieldView::All : FieldView::Part);
+        session.shown().addToHistory(statement);
     });
 }
 
@@ -37,7 +41,7 @@ const Command::Registration registration({
     .isInViewer = true,
     .viewerMenu = {5, Command::tr("显示整个表(&T)")},
     .run = showFullTable,
-    .whyNot = [](Session &session) { return session.whyNoHistory(); },
+    .whyNot = [](Session &session) { return session.sharedHistory().whyNone(); },
 });
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
+#include "session/layout/ShownColumns.h"
 
 // Fits the columns to the width of the grid.
 
@@ -14,9 +15,9 @@ namespace {
 void compressOrRestore(Session &session)
 {
     const std::vector<int> before = widthsOf(session.window());
-    session.compressColumns();
+    session.fields().compress();
     if (widthsOf(session.window()) == before && !session.window().isSingleRecordShown())
-        session.keptWidths().restore(session.window());
+        session.fields().keptWidths().restore(session.window());
 }
 
 const Command::Registration registration({

@@ -3,6 +3,7 @@
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
+#include "session/pages/Pages.h"
 #include "session/records/LinkText.h"
 
 // Opens the page or writes to the mailbox whose address is the current cell's text.
@@ -17,9 +18,9 @@ QUrl currentLink(Session &session)
 {
     const int row = session.window().Row();
     const int col = session.window().currentCol();
-    if (row < 1 || col < 1 || !session.hasRecords())
+    if (row < 1 || col < 1 || !session.result().hasRecords())
         return {};
-    return linkIn(session.result().recordset()->CellText(session.recordOfRow(row), col - 1));
+    return linkIn(session.result().recordset()->CellText(session.pages().recordOfRow(row), col - 1));
 }
 
 const Command::Registration registration({

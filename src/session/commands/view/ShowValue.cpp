@@ -6,6 +6,7 @@
 #include "session/SessionMessages.h"
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
+#include "session/pages/Pages.h"
 
 // Shows the current cell's value in a window of its own.
 
@@ -24,11 +25,11 @@ bool isBinary(ADODB::DataTypeEnum type)
 
 std::optional<CellValue> currentValue(Session &session)
 {
-    if (!session.hasRecords())
+    if (!session.result().hasRecords())
         return std::nullopt;
     const ADODB::Recordset &recordset = *session.result().recordset();
     const int col = session.window().currentCol();
-    const qint64 record = session.recordOfRow(session.window().Row());
+    const qint64 record = session.pages().recordOfRow(session.window().Row());
     if (session.window().Row() < 1 || col < 1 || col > recordset.Fields().Count())
         return std::nullopt;
     const ADODB::Field &field = recordset.Fields().Item(col - 1);

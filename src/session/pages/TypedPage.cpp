@@ -1,4 +1,4 @@
-#include "session/TypedPage.h"
+#include "session/pages/TypedPage.h"
 
 #include <QtCore/QRegularExpression>
 

@@ -1,4 +1,5 @@
 #include "ado/Error.h"
+#include "ado/Notifications.h"
 #include "ado/Recordset.h"
 #include "ado/ValueText.h"
 #include "session/Questions.h"
@@ -6,6 +7,7 @@
 #include "session/Session.h"
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
+#include "session/editing/EditedRecord.h"
 
 #include <vector>
 
@@ -55,29 +57,29 @@ QString readAgain(ADODB::Recordset &recordset)
 
 } // namespace
 
-void Session::showNewValues()
+void EditedRecord::showNewValues()
 {
-    const auto alive = shared_from_this();
-    const ResultWatch watch(*this);
+    const auto alive = m_session.shared_from_this();
+    const ResultWatch watch(m_session);
     if (!commitEdit())
         return;
     QString message;
     {
-        const ADODB::Notifications::Hold hold(*m_notifications);
+        const ADODB::Notifications::Hold hold(m_session.notifications());
         try {
             message = readAgain(*watch.recordset());
             if (!watch.isUntouched())
                 return;
             if (!message.isEmpty())
                 message.prepend(SessionMessages::ChangedFields);
-            m_window->refreshRecords();
-            m_window->refreshSingleRecord();
+            m_session.window().refreshRecords();
+            m_session.window().refreshSingleRecord();
         } catch (const ADODB::Error &error) {
             message = SessionMessages::NewValuesRefused + error.Description();
         }
     }
     if (!message.isEmpty() && watch.isUntouched())
-        m_questions->show(message);
+        m_session.questions().show(message);
 }
 
 } // namespace KOVAVSFDataGridLib

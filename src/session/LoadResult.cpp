@@ -1,0 +1,137 @@
+#include "session/LoadResult.h"
+
+#include "ado/ConnectionFactory.h"
+#include "ado/Notifications.h"
+#include "ado/Recordset.h"
+#include "query/SharedValues.h"
+#include "session/Questions.h"
+#include "session/Session.h"
+#include "session/SessionMessages.h"
+#include "session/SessionWindow.h"
+#include "session/WindowRules.h"
+#include "session/editing/EditedRecord.h"
+#include "session/history/SharedHistory.h"
+#include "session/layout/ShownColumns.h"
+#include "session/pages/Pages.h"
+#include "session/statement/ConnectionFieldReader.h"
+#include "session/statement/ShownStatement.h"
+#include "session/statement/StatementReader.h"
+#include "sql/StatementLines.h"
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::unique_ptr<clsFilterManagement> filterManagerForLoad(Session &session)
+{
+    const QString allFields = joinStatementLines(session.texts.sqlShow);
+    auto manager = session.sharedHistory().newManager();
+    manager->SetDBType(session.shared.dbType);
+    manager->SetTBLType(session.texts.tableType);
+    manager->SetFieldStatus(static_cast<qint32>(session.fields().view()));
+    manager->SetDBConnString(session.texts.connectionString);
+    manager->SetAllFields(allFields);
+    manager->SetOriginFilter(allFields);
+    manager->SetShowFields(joinStatementLines(session.texts.sqlPartDisplay));
+    manager->SetOrderFields(joinStatementLines(session.texts.sqlSort));
+    manager->SetSQLInitData();
+    return manager;
+}
+
+// For Oracle the field list is spelled out, so that each field can be named and long binary ones come last.
+// Nothing when it can't be, for the reason that the reader gives.
+std::optional<QString> statementToOpen(Session &session, clsFilterManagement &manager)
+{
+    const QString first = manager.GetCurrentSQL20(FirstStatement);
+    // What is missing is reported when the statement is opened.
+    if (session.shared.dbType != dbOracle || session.texts.connectionString.isEmpty() || first.isEmpty())
+        return first;
+    QString rewritten;
+    if (!manager.SQLManager().GetAllFieldNameSQL(session.texts.connectionString, first, rewritten))
+        return {};
+    manager.SetAllFields(rewritten);
+    manager.SetOriginFilter(rewritten);
+    manager.SetSQLInitData();
+    return rewritten;
+}
+
+void showLoaded(Session &session, const ResultSet::Opened &opened, const QString &statement,
+                std::unique_ptr<clsFilterManagement> manager)
+{
+    const ADODB::Notifications::Hold hold(session.notifications());
+    const QStringList fieldsBefore = session.window().Headings();
+    session.result().replaceBy(opened);
+    session.sharedHistory().setManager(std::move(manager));
+    session.texts.recordSource = statement;
+    session.shown().setText(statement);
+    session.fieldReader().remember(session.texts.connectionString, statement,
+                                   session.result().recordset()->Fields());
+
+    session.window().enableCommands();
+    session.pages().showPage(1);
+    // Widths and places belong to fields: the same ones loaded again keep theirs.
+    if (session.window().Headings() != fieldsBefore) {
+        session.window().ResetColWidths();
+        session.window().arrangeColumns({}, 0);
+    }
+    session.window().showAllRecords();
+
+    session.pages().storeRecordCount();
+    if (session.shared.hasRecords && session.window().Cols() > 1) {
+        session.window().PutRow(1);
+        session.window().PutCol(1);
+    }
+    session.fields().setView(session.fields().view());
+    session.columns().RecordShowSQL(statement, session.fields().view(), true,
+                                    colShowSQLSentences::NoPartField(), colShowSQLSentences::NoSort(),
+                                    session.texts.connectionString);
+    if (session.columns().columnsFit())
+        session.columns().fitColumns(session.rules().roundWidth);
+    session.pages().updateRecordPosition();
+    session.sharedHistory().noteShownResult();
+    session.window().refreshCommands();
+    session.window().scrollAsOpened();
+}
+
+} // namespace
+
+// Everything is made ready beside what is shown and takes its place only when the statement has been read, so
+// that a failed load leaves grid, history and position as they were.
+bool loadResult(Session &session)
+{
+    using Outcome = StatementReader::Outcome;
+    const auto alive = session.shared_from_this();
+    if (session.shared.isOpening || !session.record().leaveResult())
+        return false;
+    session.fieldReader().forget();
+    const ConnectionFieldReader::Command command(session.fieldReader());
+    auto manager = filterManagerForLoad(session);
+    const std::optional<QString> statement = statementToOpen(session, *manager);
+    StatementReader &reader = session.statementReader();
+    StatementReader::Reading reading;
+    if (statement) {
+        reading = reader.read(*statement, session.shared.dbType);
+    } else if (session.fieldReader().isCancelled()) {
+        reading.outcome = Outcome::Cancelled;
+        reader.reportCancelled();
+    } else {
+        reader.reportError(session.fieldReader().Failure());
+    }
+    switch (reading.outcome) {
+    case Outcome::Failed:
+        session.questions().show(SessionMessages::OpenFailed);
+        return false;
+    case Outcome::Cancelled:
+        return false;
+    case Outcome::Overtaken: // by another load, say, which has done all that follows
+        return !session.isDetached() && session.result().isOpen();
+    case Outcome::Done:
+        break;
+    }
+    showLoaded(session, *reading.opened, *statement, std::move(manager));
+    return !session.isDetached() && session.result().isOpen();
+}
+
+} // namespace KOVAVSFDataGridLib

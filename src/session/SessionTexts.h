@@ -1,0 +1,23 @@
+#pragma once
+
+#include "query/StatementSource.h"
+
+#include <QtCore/QString>
+
+namespace KOVAVSFDataGridLib {
+
+// What the host asked for, as the properties of its control.
+struct SessionTexts
+{
+    QString connectionString;
+    QString sqlShow;
+    QString sqlPartDisplay;
+    QString sqlFilter;
+    QString sqlSort;
+    QString passQurryFilter;
+    QString picField;
+    QString recordSource;
+    StatementSource tableType = FromTable;
+};
+
+} // namespace KOVAVSFDataGridLib

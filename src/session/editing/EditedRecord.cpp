@@ -1,0 +1,188 @@
+#include "session/editing/EditedRecord.h"
+
+#include "ado/Error.h"
+#include "ado/Notifications.h"
+#include "ado/Recordset.h"
+#include "query/SharedValues.h"
+#include "session/Questions.h"
+#include "session/ResultWatch.h"
+#include "session/Session.h"
+#include "session/SessionMessages.h"
+#include "session/SessionWindow.h"
+#include "session/pages/Pages.h"
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+bool hasNoValue(ADODB::Recordset &recordset)
+{
+    for (int i = 0; i < recordset.Fields().Count(); ++i) {
+        if (recordset.Fields().Item(i).Value().isValid())
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+EditedRecord::EditedRecord(Session &session) : m_session(session) {}
+
+bool EditedRecord::isEmpty() const
+{
+    return hasNoValue(*m_session.result().recordset());
+}
+
+void EditedRecord::cancelChanges()
+{
+    ADODB::Recordset &recordset = *m_session.result().recordset();
+    recordset.CancelUpdate();
+    if (recordset.RecordCount() == 0 && m_session.window().isSingleRecordShown())
+        m_session.window().showAllRecords(); // there is no single record to show
+    m_session.window().refreshSingleRecord();
+}
+
+void EditedRecord::saveChanges()
+{
+    const ResultWatch watch(m_session);
+    ADODB::Recordset &recordset = *watch.recordset();
+    const bool isNew = recordset.EditMode() == ADODB::adEditAdd;
+    if (isNew && hasNoValue(recordset))
+        return cancelChanges();
+    recordset.Update();
+    if (!watch.isUntouched()) // the control went while it was saved
+        return;
+    if (isNew)
+        m_session.pages().refillAtRecord(recordset.AbsolutePosition());
+    else
+        m_session.window().refreshRecords();
+    m_session.window().refreshSingleRecord();
+}
+
+bool EditedRecord::commitEdit()
+{
+    const auto alive = m_session.shared_from_this();
+    const ResultWatch watch(m_session);
+    const std::optional<QString> failure = m_session.window().commitEdit();
+    if (!failure)
+        return watch.isUntouched();
+    m_session.questions().show(*failure);
+    if (watch.isUntouched())
+        m_session.window().focusEdit();
+    return false;
+}
+
+bool EditedRecord::hasUnsavedChanges() const
+{
+    if (!m_session.result().isOpen())
+        return false;
+    const ADODB::EditModeEnum mode = m_session.result().recordset()->EditMode();
+    return mode == ADODB::adEditInProgress ||
+           (mode == ADODB::adEditAdd && !hasNoValue(*m_session.result().recordset()));
+}
+
+// Why the record could not be saved; nothing when it was, or has nothing to be saved.
+std::optional<EditedRecord::Failure> EditedRecord::trySave()
+{
+    if (!m_session.result().isOpen())
+        return {};
+    const ADODB::EditModeEnum mode = m_session.result().recordset()->EditMode();
+    if (mode != ADODB::adEditAdd && mode != ADODB::adEditInProgress)
+        return {};
+    try {
+        const ADODB::Notifications::Hold hold(m_session.notifications());
+        saveChanges();
+        return {};
+    } catch (const ADODB::Error &error) {
+        return Failure{SessionMessages::NotSavedPrefix + error.Description(),
+                       error.is(ADODB::dbErrConcurrency)};
+    }
+}
+
+bool EditedRecord::save()
+{
+    if (m_session.shared.isWaiting)
+        return false;
+    const auto alive = m_session.shared_from_this();
+    const ResultWatch watch(m_session);
+    if (!commitEdit())
+        return false;
+    const std::optional<Failure> failure = trySave();
+    if (failure && watch.isUntouched()) {
+        if (!failure->isChangedByOthers)
+            m_session.questions().show(failure->text);
+        else if (m_session.questions().offerNewValues(failure->text, {}) && watch.isUntouched())
+            showNewValues();
+    }
+    return !failure && watch.isUntouched();
+}
+
+bool EditedRecord::leaveResult()
+{
+    if (m_session.shared.isWaiting) // for what is done to this very result
+        return false;
+    const auto alive = m_session.shared_from_this();
+    const ResultWatch watch(m_session);
+    for (;;) {
+        std::optional<Failure> failure;
+        if (const std::optional<QString> refused = m_session.window().commitEdit())
+            failure = Failure{*refused};
+        else
+            failure = trySave();
+        if (!failure || !watch.isUntouched())
+            return watch.isUntouched();
+        const Unsaved choice = m_session.questions().askUnsaved(failure->text, failure->isChangedByOthers);
+        if (!watch.isUntouched())
+            return false;
+        if (choice == Unsaved::ShowNewValues)
+            showNewValues();
+        if (choice == Unsaved::Discard)
+            cancel();
+        if (choice != Unsaved::SaveAgain)
+            return choice == Unsaved::Discard;
+    }
+}
+
+std::optional<QString> EditedRecord::saveSilently()
+{
+    const auto alive = m_session.shared_from_this();
+    if (std::optional<QString> refused = m_session.window().commitEdit())
+        return refused;
+    const std::optional<Failure> failure = trySave();
+    return failure ? std::optional(failure->text) : std::nullopt;
+}
+
+void EditedRecord::setReadOnly(bool on)
+{
+    m_isReadOnly = on;
+    m_session.window().refreshCommands();
+}
+
+QString EditedRecord::whyNotWritten() const
+{
+    if (m_isReadOnly)
+        return SessionMessages::ReadOnly;
+    return m_session.result().isOpen() ? m_session.result().recordset()->WhyReadOnly() : QString();
+}
+
+bool EditedRecord::canAddRecords() const
+{
+    if (!m_session.result().isOpen() || !whyNotWritten().isEmpty())
+        return false;
+    const ADODB::Fields &fields = m_session.result().recordset()->Fields();
+    for (int i = 0; i < fields.Count(); ++i) {
+        if (fields.Item(i).Attributes() & (ADODB::adFldUpdatable | ADODB::adFldUnknownUpdatable))
+            return true;
+    }
+    return false;
+}
+
+void EditedRecord::cancel()
+{
+    const ADODB::Notifications::Hold hold(m_session.notifications());
+    m_session.window().cancelEdit();
+    if (m_session.result().isOpen())
+        cancelChanges();
+}
+
+} // namespace KOVAVSFDataGridLib
