@@ -2,10 +2,10 @@
 
 #include "ado/Error.h"
 #include "filter/FilterTexts.h"
-#include "filter/TicksDialog.h"
 #include "filter/WaitCursor.h"
 #include "filter/count/FilterCount.h"
 #include "filter/rows/FilterRows.h"
+#include "filter/ticks/TicksDialog.h"
 #include "forms/widgets/FlatCmd.h"
 #include "sql/StatementLines.h"
 

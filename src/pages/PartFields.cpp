@@ -2,8 +2,8 @@
 
 #include "sql/Brackets.h"
 #include "sql/Names.h"
-#include "sql/SelectParts.h"
 #include "sql/StatementLines.h"
+#include "sql/select/SelectParts.h"
 
 namespace KOVAVSFDataGridLib::PartFields {
 

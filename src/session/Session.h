@@ -1,7 +1,7 @@
 #pragma once
 
+#include "session/LoadRequest.h"
 #include "session/ResultSet.h"
-#include "session/SessionTexts.h"
 
 #include <functional>
 #include <memory>
@@ -111,7 +111,7 @@ public:
     // Closes the result and forgets its history.
     void clear();
 
-    SessionTexts texts;
+    LoadRequest texts;
     SharedValues &shared;
 
 private:

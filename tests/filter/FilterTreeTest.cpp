@@ -1,6 +1,6 @@
 // Rows with brackets and groups inside groups say the same.
-#include "filter/conditions/FilterTree.h"
-#include "filter/conditions/FilterOutline.h"
+#include "filter/tree/FilterTree.h"
+#include "filter/tree/FilterOutline.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // What is ticked, as a condition.
-#include "filter/TickState.h"
 #include "filter/conditions/ValueStatements.h"
+#include "filter/ticks/TickState.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QTranslator>

@@ -1,6 +1,6 @@
 // The list of a field's values with ticks, over a real database.
-#include "filter/ValueTicks.h"
-#include "filter/TickList.h"
+#include "filter/ticks/ValueTicks.h"
+#include "filter/ticks/TickList.h"
 
 #include "filter/FilterSource.h"
 #include "support/Dialogs.h"

@@ -4,8 +4,8 @@
 
 #include "ado/Error.h"
 #include "ado/providers/odbc/reading/OdbcRefusal.h"
-#include "sql/SimpleSelect.h"
 #include "sql/SqlScanner.h"
+#include "sql/select/SimpleSelect.h"
 
 #include <sqlite3.h>
 

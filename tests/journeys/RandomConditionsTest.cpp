@@ -8,7 +8,7 @@
 #include "ado/Recordset.h"
 #include "filter/FilterSource.h"
 #include "filter/conditions/FilterCondition.h"
-#include "filter/conditions/FilterTree.h"
+#include "filter/tree/FilterTree.h"
 
 #include <gtest/gtest.h>
 

@@ -109,6 +109,18 @@ TEST(Rooms, HaveEveryFolderInTheDocument)
     EXPECT_GT(found, 30);
 }
 
+// Where there are more, subfolders say what belongs together.
+TEST(Rooms, HaveAtMostTwentyFiveFilesOnALevel)
+{
+    QMap<QString, int> files;
+    QDirIterator sources(top + u"/src"_s, {u"*.cpp"_s, u"*.h"_s}, QDir::Files, QDirIterator::Subdirectories);
+    while (sources.hasNext())
+        ++files[QFileInfo(sources.next()).path()];
+    EXPECT_GT(files.size(), 30);
+    for (const auto &[folder, count] : files.asKeyValueRange())
+        EXPECT_LE(count, 25) << qPrintable(folder);
+}
+
 TEST(Arrows, PointDownInThePicture)
 {
     for (const QString &folder : rooms().folders()) {

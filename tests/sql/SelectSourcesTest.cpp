@@ -1,5 +1,5 @@
 // What FROM names, by a table of statements.
-#include "sql/SelectParts.h"
+#include "sql/select/SelectParts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "sql/SimpleSelect.h"
+#include "sql/select/SimpleSelect.h"
 #include "sql/SqlScanner.h"
 
 #include <QtCore/QStringList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sql/SimpleSelect.h"
+#include "sql/select/SimpleSelect.h"
 
 namespace ADODB {
 

@@ -49,7 +49,7 @@ KOVAVSFDataGrid::~KOVAVSFDataGrid()
 
 void KOVAVSFDataGrid::InitProperties()
 {
-    SessionTexts &texts = d->session->texts;
+    LoadRequest &texts = d->session->texts;
     texts.sqlShow.clear();
     texts.sqlPartDisplay.clear();
     texts.sqlFilter.clear();

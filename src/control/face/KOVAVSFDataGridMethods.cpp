@@ -55,7 +55,7 @@ void saveBeforeMove(Session &session)
 
 void KOVAVSFDataGrid::Refresh()
 {
-    const SessionTexts &texts = d->session->texts;
+    const LoadRequest &texts = d->session->texts;
     const bool isIncomplete = texts.connectionString.isEmpty() || texts.recordSource.trimmed().isEmpty();
     if (isIncomplete && d->errorHint)
         Messages::show(this, GridTexts::NothingToLink, GridTexts::NothingToLinkTitle, QMessageBox::Critical);

@@ -13,8 +13,8 @@
 #include "session/commands/CommandKeys.h"
 #include "session/editing/EditedRecord.h"
 #include "session/layout/ShownColumns.h"
-#include "sql/SelectParts.h"
 #include "sql/StatementLines.h"
+#include "sql/select/SelectParts.h"
 
 #include <QtCore/QPointer>
 

@@ -2,8 +2,8 @@
 
 #include "filter/FilterTexts.h"
 #include "filter/conditions/FilterDays.h"
-#include "filter/conditions/FilterTree.h"
 #include "filter/conditions/FilterValue.h"
+#include "filter/tree/FilterTree.h"
 
 #include <algorithm>
 

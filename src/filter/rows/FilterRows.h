@@ -1,7 +1,7 @@
 #pragma once
 
-#include "filter/conditions/FilterOutline.h"
 #include "filter/rows/FilterRow.h"
+#include "filter/tree/FilterOutline.h"
 
 class QFrame;
 class QVBoxLayout;

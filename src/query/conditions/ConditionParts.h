@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sql/SelectParts.h"
+#include "sql/select/SelectParts.h"
 
 #include <QtCore/QStringList>
 

@@ -6,7 +6,7 @@
 #include "sql/Like.h"
 #include "sql/Literals.h"
 #include "sql/Names.h"
-#include "sql/SelectParts.h"
+#include "sql/select/SelectParts.h"
 
 #include <algorithm>
 #include <array>

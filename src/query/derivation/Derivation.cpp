@@ -3,7 +3,7 @@
 #include "query/CharText.h"
 #include "query/QueryTexts.h"
 #include "sql/Names.h"
-#include "sql/SqlWalk.h"
+#include "sql/select/SqlWalk.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "query/derivation/SqlText.h"
 #include "query/fields/FieldChooser.h"
 #include "query/fields/FieldReader.h"
-#include "sql/SelectParts.h"
+#include "sql/select/SelectParts.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QStringList>

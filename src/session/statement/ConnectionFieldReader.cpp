@@ -9,9 +9,9 @@
 #include "query/SharedValues.h"
 #include "query/derivation/SqlText.h"
 #include "session/ResultSet.h"
-#include "sql/SelectParts.h"
-#include "sql/SimpleSelect.h"
 #include "sql/SqlScanner.h"
+#include "sql/select/SelectParts.h"
+#include "sql/select/SimpleSelect.h"
 
 #include <QtCore/QStringList>
 

@@ -6,7 +6,7 @@
 #include "session/SessionWindow.h"
 #include "session/history/SharedHistory.h"
 #include "sql/Names.h"
-#include "sql/SelectParts.h"
+#include "sql/select/SelectParts.h"
 
 #include <algorithm>
 

@@ -5,8 +5,8 @@
 #include "ado/providers/sqlite/SqliteDigest.h"
 #include "ado/providers/sqlite/SqliteSession.h"
 #include "ado/recordset/ReadOnlyReason.h"
-#include "sql/SimpleSelect.h"
 #include "sql/SqlScanner.h"
+#include "sql/select/SimpleSelect.h"
 
 #include <QtCore/QStringList>
 

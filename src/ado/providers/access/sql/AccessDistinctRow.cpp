@@ -2,8 +2,8 @@
 
 #include "ado/Error.h"
 #include "ado/Texts.h"
-#include "sql/SelectParts.h"
-#include "sql/SqlWalk.h"
+#include "sql/select/SelectParts.h"
+#include "sql/select/SqlWalk.h"
 
 #include <QtCore/QStringList>
 

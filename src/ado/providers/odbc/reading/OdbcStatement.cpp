@@ -9,8 +9,8 @@
 #include "ado/providers/odbc/writing/OdbcRowWriter.h"
 #include "ado/providers/odbc/writing/OdbcTable.h"
 #include "ado/rows/RowStore.h"
-#include "sql/SimpleSelect.h"
 #include "sql/SqlScanner.h"
+#include "sql/select/SimpleSelect.h"
 
 #include <QtCore/QScopeGuard>
 

@@ -8,7 +8,7 @@
 #include "ado/providers/odbc/reading/OdbcLongValue.h"
 #include "ado/providers/odbc/reading/OdbcReading.h"
 #include "ado/providers/odbc/writing/OdbcParameters.h"
-#include "sql/SimpleSelect.h"
+#include "sql/select/SimpleSelect.h"
 
 #include <algorithm>
 #include <functional>

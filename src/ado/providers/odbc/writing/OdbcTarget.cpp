@@ -6,8 +6,8 @@
 #include "ado/providers/odbc/writing/OdbcTable.h"
 #include "ado/recordset/ReadOnlyReason.h"
 #include "ado/values/FieldValue.h"
-#include "sql/SimpleSelect.h"
 #include "sql/SqlScanner.h"
+#include "sql/select/SimpleSelect.h"
 
 #include <algorithm>
 

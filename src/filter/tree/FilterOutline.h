@@ -1,6 +1,6 @@
 #pragma once
 
-#include "filter/conditions/FilterTree.h"
+#include "filter/tree/FilterTree.h"
 
 namespace KOVAVSFDataGridLib {
 

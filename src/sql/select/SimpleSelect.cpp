@@ -1,7 +1,7 @@
-#include "sql/SimpleSelect.h"
+#include "sql/select/SimpleSelect.h"
 
 #include "sql/SqlScanner.h"
-#include "sql/SqlWalk.h"
+#include "sql/select/SqlWalk.h"
 
 namespace KOVAVSFDataGridLib {
 

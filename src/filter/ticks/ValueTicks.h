@@ -1,7 +1,7 @@
 #pragma once
 
-#include "filter/TickState.h"
 #include "filter/ValueReading.h"
+#include "filter/ticks/TickState.h"
 
 #include <QtWidgets/QWidget>
 

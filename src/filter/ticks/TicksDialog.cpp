@@ -1,4 +1,4 @@
-#include "filter/TicksDialog.h"
+#include "filter/ticks/TicksDialog.h"
 
 #include "filter/FilterTexts.h"
 #include "forms/Contrast.h"

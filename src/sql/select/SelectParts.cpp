@@ -1,8 +1,8 @@
-#include "sql/SelectParts.h"
+#include "sql/select/SelectParts.h"
 
 #include "sql/KnownFunctions.h"
-#include "sql/SelectSources.h"
-#include "sql/SqlWalk.h"
+#include "sql/select/SelectSources.h"
+#include "sql/select/SqlWalk.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "filter/ValueTicks.h"
+#include "filter/ticks/ValueTicks.h"
 
 #include <functional>
 #include <optional>

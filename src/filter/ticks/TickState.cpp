@@ -1,4 +1,4 @@
-#include "filter/TickState.h"
+#include "filter/ticks/TickState.h"
 
 #include "filter/FilterTexts.h"
 

@@ -1,8 +1,8 @@
-#include "filter/ValueTicks.h"
+#include "filter/ticks/ValueTicks.h"
 
 #include "ado/Error.h"
 #include "filter/FilterTexts.h"
-#include "filter/TickList.h"
+#include "filter/ticks/TickList.h"
 
 #include <QtCore/QDate>
 #include <QtCore/QLocale>

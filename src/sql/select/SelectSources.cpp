@@ -1,6 +1,6 @@
-#include "sql/SelectSources.h"
+#include "sql/select/SelectSources.h"
 
-#include "sql/SqlWalk.h"
+#include "sql/select/SqlWalk.h"
 
 namespace KOVAVSFDataGridLib {
 

@@ -1,10 +1,10 @@
-#include "filter/ColumnTicks.h"
+#include "filter/ticks/ColumnTicks.h"
 
 #include "ado/Error.h"
 #include "filter/FilterSource.h"
 #include "filter/FilterTexts.h"
-#include "filter/TicksDialog.h"
 #include "filter/conditions/TickedValues.h"
+#include "filter/ticks/TicksDialog.h"
 #include "query/SharedValues.h"
 #include "query/conditions/Conditions.h"
 

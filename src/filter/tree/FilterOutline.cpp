@@ -1,4 +1,4 @@
-#include "filter/conditions/FilterOutline.h"
+#include "filter/tree/FilterOutline.h"
 
 #include <algorithm>
 

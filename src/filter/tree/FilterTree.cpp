@@ -1,4 +1,4 @@
-#include "filter/conditions/FilterTree.h"
+#include "filter/tree/FilterTree.h"
 
 #include <algorithm>
 #include <utility>

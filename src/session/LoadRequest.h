@@ -7,7 +7,7 @@
 namespace KOVAVSFDataGridLib {
 
 // What the host asked for, as the properties of its control.
-struct SessionTexts
+struct LoadRequest
 {
     QString connectionString;
     QString sqlShow;

@@ -1,4 +1,4 @@
-#include "filter/TickList.h"
+#include "filter/ticks/TickList.h"
 
 #include "filter/FilterTexts.h"
 
