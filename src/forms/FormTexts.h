@@ -130,7 +130,7 @@ inline const QString ConnectionStringHint = u"For example: Provider=SQLite;Data 
 inline const QString SqlShowHint = u"For example: select * from Orders"_s;
 inline const QString AskSqlShowToo = u"Then enter the &SQLShow statement"_s;
 inline const QString LinkButton = u"B&uild…"_s;
-inline const QString LinkButtonHint = u"Opens the connection builder and takes over what it builds."_s;
+inline const QString LinkButtonHint = u"Opens the connection builder and uses the string that it builds."_s;
 inline const QString NoConnectionBuilder =
     u"No connection builder is available here; type the connection string."_s;
 
