@@ -158,7 +158,7 @@ TEST(ChineseTexts, AreInTheTables)
         u"src/export/writers/FormulaGuard.cpp"_s,       // characters that a spreadsheet evaluates
         u"src/filter/conditions/FilterDays.cpp"_s,      // words that are understood in every language
         u"src/filter/conditions/FilterValue.cpp"_s,     // words and separators, likewise
-        u"src/filter/ticks/TickState.cpp"_s,                  // a year in filters that were saved in Chinese
+        u"src/filter/ticks/TickState.cpp"_s,            // a year in filters that were saved in Chinese
         u"src/grid/painting/GlyphTable.cpp"_s,          // a sample of the script
         u"apps/kovagrid/database/SampleDatabase.cpp"_s, // the sample company
     };

@@ -101,13 +101,39 @@ TEST(Commands, HaveAFileEach)
     EXPECT_EQ(commands, Command::all().size());
 }
 
+TEST(Commands, HaveTheirButtonsInTheDocuments)
+{
+    for (const char *file : {"docs/reference.md", "docs/kovagrid.md", "docs/kovagrid.zh-CN.md",
+                             "apps/kovagrid/assets/kovagrid.1"}) {
+        const QString documented = textOf(QStringLiteral(KOVA_SOURCE_DIR "/") + QString::fromUtf8(file));
+        for (const Command *command : Command::all()) {
+            const QRegularExpression key(u"\\b%1\\b"_s.arg(command->key));
+            EXPECT_TRUE(!command->button || documented.contains(key))
+                << file << ": " << command->key.toStdString();
+        }
+    }
+}
+
+TEST(Commands, HaveTheirMenuItemsInTheDocument)
+{
+    const QString document = textOf(QStringLiteral(KOVA_SOURCE_DIR "/docs/reference.md"));
+    const qsizetype table = document.indexOf(u"| number in the popup menu |"_s);
+    ASSERT_GE(table, 0);
+    static const QRegularExpression lastCell(u"\\| ([0-9, ]+) \\|\n"_s);
+    QStringList documented;
+    for (const QRegularExpressionMatch &match : lastCell.globalMatch(document, table))
+        documented += match.captured(1).split(u", "_s);
+    for (const Command *command : Command::all()) {
+        const int index = command->menu.index;
+        EXPECT_TRUE(index == 0 || documented.contains(QString::number(index)))
+            << command->key.toStdString() << ' ' << index;
+    }
+}
+
 TEST(Commands, HaveTheirShortcutsInTheDocument)
 {
-    for (const char *file :
-         {KOVA_SOURCE_DIR "/docs/shortcuts.zh-CN.md", KOVA_SOURCE_DIR "/docs/shortcuts.md"}) {
-        QFile document(QString::fromUtf8(file));
-        ASSERT_TRUE(document.open(QIODevice::ReadOnly)) << file;
-        const QString documented = QString::fromUtf8(document.readAll());
+    for (const char *file : {"docs/shortcuts.zh-CN.md", "docs/shortcuts.md"}) {
+        const QString documented = textOf(QStringLiteral(KOVA_SOURCE_DIR "/") + QString::fromUtf8(file));
         for (const Command *command : Command::all()) {
             for (const QString &shortcut : {command->shortcut, command->otherShortcut})
                 EXPECT_TRUE(shortcut.isEmpty() || documented.contains(u"| %1 |"_s.arg(shortcut)))
