@@ -31,11 +31,14 @@ QString valueIn(const QByteArray &content)
     return readProfileValue(QStringLiteral("Use3Tier"), QStringLiteral("Server"), writtenFile(content));
 }
 
-// What can be a value as it is: one line without quotes around it.
+// What can be a value as it is: one line without quotes around it, and without byte order marks, which are
+// lost where a text begins.
 QString asValue(const QString &text)
 {
     QString value = text;
-    value.removeIf([](QChar c) { return c == u'\n' || c == u'\r' || c == u'\0' || c == u'"' || c == u'\''; });
+    value.removeIf([](QChar c) {
+        return c == u'\n' || c == u'\r' || c == u'\0' || c == u'"' || c == u'\'' || c == QChar::ByteOrderMark;
+    });
     // In UTF-8 and back, because a character can be cut in half.
     return QString::fromUtf8(value.trimmed().left(longest).trimmed().toUtf8());
 }

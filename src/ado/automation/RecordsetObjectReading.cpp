@@ -76,8 +76,8 @@ QVariant RecordsetObject::GetRows(const QVariant &rows, const QVariant &start, c
                 values[i].push_back(m_recordset.CellValue(record, columns[i]));
         });
         QVariantList whole;
-        for (QVariantList &field : values)
-            whole.push_back(QVariant(std::move(field)));
+        for (const QVariantList &field : values)
+            whole.push_back(QVariant(field));
         return QVariant(whole);
     });
 }

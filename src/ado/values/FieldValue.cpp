@@ -217,10 +217,14 @@ QVariant convert(const QVariant &value, DataTypeEnum type, bool *ok)
         return value;
     }
     const QByteArray text = ValueText(value).trimmed().toUtf8();
+    QVariant read = readText(text, shape);
+    if (read.isValid())
+        return read;
     const bool isFiner = (shape == Shape::Time && DateText::isFinerTime(text)) ||
                          (shape == Shape::Moment && DateText::isFinerMoment(text));
-    QVariant read = isFiner ? QVariant(QString::fromUtf8(text)) : readText(text, shape);
-    *ok = read.isValid();
+    if (isFiner)
+        read = QString::fromUtf8(text);
+    *ok = isFiner;
     return read;
 }
 

@@ -57,7 +57,7 @@ private:
     };
     static constexpr int unknown = -1;
     static constexpr int shaped = -2; // only a layout knows
-    static constexpr int pageSize = 256;
+    static constexpr std::size_t pageSize = 256;
     static constexpr int printable = 95; // of ASCII
     using Page = std::array<Entry, pageSize>;
 

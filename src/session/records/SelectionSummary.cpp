@@ -116,7 +116,7 @@ void SelectionSummary::put(std::optional<Extreme> &extreme, const ADODB::RawValu
                            double number)
 {
     if (!extreme)
-        extreme.emplace();
+        extreme = Extreme{};
     extreme->value = cell;
     extreme->value.bytes = {};
     extreme->bytes.resize(0); // which keeps the room

@@ -323,6 +323,21 @@ TEST_F(RecordsOf, ANewRecordThatTheHostLeavesByNameIsShown)
     EXPECT_EQ(grid.CurrPosition(), 1);
 }
 
+TEST_F(RecordsOf, ANewRecordIsSavedBeforeATextIsLookedForInAllRecords)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 1);
+    choose(8, 2);
+    write(u"名称"_s, u"x"_s);
+    choose(27, 1); // 查找显示的内容
+    EXPECT_TRUE(table->isVisible());
+    EXPECT_EQ(count(), u"13"_s);
+    EXPECT_EQ(rows(), 13);
+    clickCell(5, 1);
+    EXPECT_EQ(rows(), 13);
+    EXPECT_EQ(grid.CurrPosition(), 5);
+}
+
 TEST_F(RecordsOf, ANewRecordThatIsEmptyIsGivenUpWhenTheHostLeavesIt)
 {
     ASSERT_TRUE(load());

@@ -119,6 +119,8 @@ OdbcHandle::OdbcHandle(std::shared_ptr<OdbcConnection> connection) : m_connectio
 
 OdbcHandle::~OdbcHandle()
 {
+    // PostgreSQL's driver forgets to free what it knows of a statement that was only prepared.
+    SQLFreeStmt(m_statement, SQL_CLOSE);
     SQLFreeHandle(SQL_HANDLE_STMT, m_statement);
 }
 

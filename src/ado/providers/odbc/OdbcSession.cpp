@@ -93,7 +93,7 @@ std::shared_ptr<OdbcConnection>
 OdbcSession::begin(const std::function<void(const std::shared_ptr<OdbcConnection> &)> &first)
 {
     for (bool isAgain = false;; isAgain = true) {
-        const auto connection = this->connection();
+        auto connection = this->connection();
         try {
             first(connection);
             connection->setTried();

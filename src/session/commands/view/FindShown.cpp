@@ -25,7 +25,6 @@ const Command::Registration registration({
     .isInViewer = true,
     .viewerMenu = {16, Command::tr("查找显示的内容(&G)…")},
     .needs = Needs::Records,
-    .record = Record::IsListedAgain,
     .run = findShown,
 });
 

@@ -166,9 +166,9 @@ private:
     void readKey(int realIndices)
     {
         constexpr quint8 primaryKey = 1;
-        const qsizetype firstIndex = m_indices + realIndices * m_layout.realIndexSize;
+        const qsizetype firstIndex = m_indices + qsizetype{realIndices} * m_layout.realIndexSize;
         const int indices = count(m_definition, m_layout.indices, mostIndices);
-        for (int i = 0; i < indices; ++i) {
+        for (qsizetype i = 0; i < indices; ++i) {
             const QByteArrayView index =
                 part(m_definition, firstIndex + i * m_layout.indexSize, m_layout.indexSize);
             if (number<quint8>(index, m_layout.indexKind) != primaryKey)
@@ -206,7 +206,7 @@ private:
             for (qsizetype at = 1; at + 4 <= map.size() && first < m_file.pages(); at += 4) {
                 if (const auto bitsPage = number<quint32>(map, at); bitsPage != 0)
                     addPages(m_file.page(bitsPage)->bytes().sliced(headSize), first);
-                first += (holder->size - headSize) * 8;
+                first += qint64{holder->size - headSize} * 8;
             }
         } else {
             AccessBytes::throwDamaged("the pages of a table are not listed");

@@ -37,7 +37,7 @@ std::optional<QByteArrayView> AccessRow::field(const AccessColumn &column) const
 int AccessRow::variableStart(int variable) const
 {
     if (!m_isJet3)
-        return number<quint16>(m_bytes, m_flags - 4 - 2 * variable);
+        return number<quint16>(m_bytes, m_flags - 4 - qsizetype{2} * variable);
     // One byte each in Jet 3, so a longer row also lists the columns at which another 256 is to be added.
     const qsizetype last = m_flags - 2;
     qsizetype jumps = (m_bytes.size() - 1) / 256;

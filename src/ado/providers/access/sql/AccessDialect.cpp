@@ -274,7 +274,8 @@ private:
             const bool isCase = m_statement.isWord(i, u"CASE");
             const bool isEnd = cases > 0 && m_statement.isWord(i, u"END");
             cases -= isEnd ? 1 : 0;
-            const auto depth = static_cast<std::size_t>(m_statement.at(i).depth + cases);
+            const auto depth =
+                static_cast<std::size_t>(m_statement.at(i).depth) + static_cast<std::size_t>(cases);
             cases += isCase ? 1 : 0;
             for (; levels.size() > depth + 1; levels.pop_back())
                 finish(levels.back());

@@ -257,7 +257,7 @@ void run(sqlite3 *db, const QString &sql)
 
 } // namespace
 
-void AccessModule::install(sqlite3 *db, std::shared_ptr<const AccessFile> file)
+void AccessModule::install(sqlite3 *db, const std::shared_ptr<const AccessFile> &file)
 {
     const std::vector<AccessTable> &tables = file->tables();
     auto context = std::make_unique<File>(file);

@@ -14,7 +14,7 @@ class AccessFile;
 namespace AccessModule {
 
 // The database keeps the file open until it is closed and its last statement has ended.
-void install(sqlite3 *db, std::shared_ptr<const AccessFile> file);
+void install(sqlite3 *db, const std::shared_ptr<const AccessFile> &file);
 
 } // namespace AccessModule
 

@@ -53,6 +53,7 @@ std::vector<FieldInfo> describeColumns(const OdbcHandle &statement)
 {
     std::vector<FieldInfo> fields;
     const int count = statement.columns();
+    fields.reserve(static_cast<std::size_t>(count));
     for (int column = 0; column < count; ++column)
         fields.push_back(describe(statement, column));
     return fields;

@@ -117,8 +117,7 @@ QString OdbcStatement::prepareLikely(const SqlScanner &scanner, int timeout)
 {
     std::size_t shown = 0;
     std::size_t all = 0;
-    const QString likely =
-        OdbcTarget::likelyStatement(m_connection, m_session->engine(), scanner, shown, all);
+    QString likely = OdbcTarget::likelyStatement(m_connection, m_session->engine(), scanner, shown, all);
     if (likely.isEmpty())
         return {};
     try {

@@ -213,7 +213,7 @@ QStringList neverNull(const std::shared_ptr<OdbcConnection> &connection, const N
 std::shared_ptr<const OdbcTableFields> allFields(const std::shared_ptr<OdbcConnection> &connection,
                                                  const OdbcEngine &engine, const SimpleSelect &select)
 {
-    if (const auto seen = OdbcTableFields::seenLately(*connection, select))
+    if (auto seen = OdbcTableFields::seenLately(*connection, select))
         return seen;
     const OdbcHandle probe(connection);
     try {

@@ -81,7 +81,7 @@ OdbcTable tableOf(const std::shared_ptr<OdbcConnection> &connection, const OdbcE
 {
     auto &known = connection->tables()[select.tableText];
     if (!known || !agrees(*known, select, fields)) {
-        const OdbcTable table = OdbcTable::find(connection, engine, select);
+        OdbcTable table = OdbcTable::find(connection, engine, select);
         known = table.whyReadOnly.isEmpty() ? std::make_shared<const OdbcTable>(table) : nullptr;
         return table;
     }
