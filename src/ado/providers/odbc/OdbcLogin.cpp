@@ -100,16 +100,6 @@ QString quoted(const QString &keyword, const QString &value)
     return needed ? u'{' + QString(value).replace(u'}', "}}"_L1) + u'}' : value;
 }
 
-void checkInstalled(const QString &driver)
-{
-    const QStringList installed = odbcDrivers();
-    if (installed.contains(driver, Qt::CaseInsensitive) || QFileInfo(driver).isFile())
-        return;
-    throw Error(adErrProviderNotFound,
-                Texts::noDriver().arg(driver, installed.isEmpty() ? Texts::noneInstalled()
-                                                                  : installed.join(Texts::betweenNames())));
-}
-
 } // namespace
 
 OdbcLogin::OdbcLogin(const ConnectionString &connection)
@@ -124,9 +114,8 @@ OdbcLogin::OdbcLogin(const ConnectionString &connection)
     const QString source = connection.value(u"Data Source"_s);
     if (!source.isEmpty())
         put(contains(u"Driver") ? u"Server"_s : u"DSN"_s, source);
-    if (contains(u"Driver"))
-        checkInstalled(value(u"Driver"));
-    if (likelyEngine() == OdbcEngine::Kind::MariaDb)
+    m_likelyEngine = engineOfDriver();
+    if (m_likelyEngine == OdbcEngine::Kind::MariaDb)
         adaptToMariaDb();
 }
 
@@ -195,12 +184,28 @@ QStringList OdbcLogin::secrets() const
     return secrets;
 }
 
-OdbcEngine::Kind OdbcLogin::likelyEngine() const
+void OdbcLogin::checkDriver() const
+{
+    const QString driver = value(u"Driver");
+    if (!contains(u"Driver") || QFileInfo(driver).isFile())
+        return;
+    const QStringList installed = odbcDrivers();
+    if (!installed.contains(driver, Qt::CaseInsensitive)) {
+        throw Error(adErrProviderNotFound,
+                    Texts::noDriver().arg(driver, installed.isEmpty()
+                                                      ? Texts::noneInstalled()
+                                                      : installed.join(Texts::betweenNames())));
+    }
+}
+
+OdbcEngine::Kind OdbcLogin::engineOfDriver() const
 {
     QString driver = value(u"Driver");
-    for (const OdbcDataSource &source : odbcDataSources()) {
-        if (driver.isEmpty() && sameWord(source.name, dataSource()))
-            driver = source.driver;
+    if (driver.isEmpty() && !dataSource().isEmpty()) {
+        for (const OdbcDataSource &source : odbcDataSources()) {
+            if (driver.isEmpty() && sameWord(source.name, dataSource()))
+                driver = source.driver;
+        }
     }
     if (driver.contains("psql"_L1, Qt::CaseInsensitive))
         return OdbcEngine::Kind::PostgreSql;
