@@ -191,7 +191,7 @@ void Session::goToTypedPage(const QString &text)
 
 void Session::setFieldView(FieldView view)
 {
-    m_fieldView = view;
+    putFieldView(view);
     m_window->setPressed(view == FieldView::All ? CommandKeys::All : CommandKeys::Part, true);
 }
 

@@ -179,7 +179,11 @@ public:
 
     FieldView fieldView() const { return m_fieldView; }
     // What a host writes; nothing changes by it.
-    void putFieldView(FieldView view) { m_fieldView = view; }
+    void putFieldView(FieldView view)
+    {
+        m_fieldView = view;
+        m_lacksPartFields = false;
+    }
     // Shows that all or the part fields are shown.
     void setFieldView(FieldView view);
     void layOutColumns();
@@ -279,6 +283,7 @@ private:
     void reportOpenError(const QString &description);
     void showLoaded(const ResultSet::Opened &opened, const QString &statement,
                     std::unique_ptr<clsFilterManagement> manager);
+    void showLoadedFields();
     bool makeReady(const Command &command);
     // Whether what it works on is still there.
     bool isUsable() const { return !m_rules.worksOnLentResult || m_filter; }
@@ -312,6 +317,7 @@ private:
     int m_running = 0;          // commands, one inside the other
     bool m_isCancelled = false; // the last reading, by the user
     bool m_isFromResult = false;
+    bool m_lacksPartFields = false; // all are shown for that alone; the next load shows part of its fields
     bool m_isRequeried = false;
     bool m_isDetached = false;
     bool m_isReadOnly = false;

@@ -106,7 +106,7 @@ void Session::showLoaded(const ResultSet::Opened &opened, const QString &stateme
         m_window->PutRow(1);
         m_window->PutCol(1);
     }
-    setFieldView(m_fieldView);
+    showLoadedFields();
     columns().RecordShowSQL(statement, m_fieldView, true, colShowSQLSentences::NoPartField(),
                             colShowSQLSentences::NoSort(), texts.connectionString);
     if (columns().columnsFit())
@@ -115,6 +115,15 @@ void Session::showLoaded(const ResultSet::Opened &opened, const QString &stateme
     noteShownResult();
     m_window->refreshCommands();
     m_window->scrollAsOpened();
+}
+
+// Without part fields all of them are shown, as by "Part".
+void Session::showLoadedFields()
+{
+    const bool isPart = m_fieldView == FieldView::Part || m_lacksPartFields;
+    const bool lacksPartFields = isPart && m_filter->ShowFields().trimmed().isEmpty();
+    setFieldView(isPart && !lacksPartFields ? FieldView::Part : FieldView::All);
+    m_lacksPartFields = lacksPartFields;
 }
 
 } // namespace KOVAVSFDataGridLib
