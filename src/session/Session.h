@@ -275,13 +275,18 @@ private:
 
     std::unique_ptr<clsFilterManagement> newFilterManager();
     std::unique_ptr<clsFilterManagement> filterManagerForLoad();
-    std::optional<QString> statementToOpen(clsFilterManagement &manager);
+    struct LoadedStatement
+    {
+        QString written; // SQLShow as it is, unless it has to be another statement
+        QString line;    // what is run, and what others are derived from
+    };
+    std::optional<LoadedStatement> statementToOpen(clsFilterManagement &manager);
     Reading readResult(const QString &statement, AllDBType dbType, std::optional<ResultSet::Opened> &opened,
                        QString *refusal = nullptr);
     ResultSet::Opened openStatement(const QString &statement, AllDBType dbType);
     Reading reportCancelled();
     void reportOpenError(const QString &description);
-    void showLoaded(const ResultSet::Opened &opened, const QString &statement,
+    void showLoaded(const ResultSet::Opened &opened, const LoadedStatement &statement,
                     std::unique_ptr<clsFilterManagement> manager);
     void showLoadedFields();
     bool makeReady(const Command &command);

@@ -32,19 +32,24 @@ std::unique_ptr<clsFilterManagement> Session::filterManagerForLoad()
 
 // For Oracle the field list is spelled out, so that each field can be named and long binary ones come last.
 // Nothing when it can't be, for the reason that the reader gives.
-std::optional<QString> Session::statementToOpen(clsFilterManagement &manager)
+std::optional<Session::LoadedStatement> Session::statementToOpen(clsFilterManagement &manager)
 {
-    const QString first = manager.GetCurrentSQL20(FirstStatement);
+    const QString given = manager.AllFields();
+    LoadedStatement first{texts.sqlShow, manager.GetCurrentSQL20(FirstStatement)};
     // What is missing is reported when the statement is opened.
-    if (shared.dbType != dbOracle || texts.connectionString.isEmpty() || first.isEmpty())
-        return first;
-    QString rewritten;
-    if (!manager.SQLManager().GetAllFieldNameSQL(texts.connectionString, first, rewritten))
-        return {};
-    manager.SetAllFields(rewritten);
-    manager.SetOriginFilter(rewritten);
-    manager.SetSQLInitData();
-    return rewritten;
+    if (shared.dbType == dbOracle && !texts.connectionString.isEmpty() && !first.line.isEmpty()) {
+        QString rewritten;
+        if (!manager.SQLManager().GetAllFieldNameSQL(texts.connectionString, first.line, rewritten))
+            return {};
+        manager.SetAllFields(rewritten);
+        manager.SetOriginFilter(rewritten);
+        manager.SetSQLInitData();
+        first.line = rewritten;
+    }
+    if (first.line != given) // sorted or spelled out, so that it isn't the host's own any more
+        first.written = first.line;
+    manager.SQLManager().SetWritten(first.written, first.line);
+    return first;
 }
 
 // Everything is made ready beside what is shown and takes its place only when the statement has been read, so
@@ -57,11 +62,11 @@ bool Session::load()
     m_reader.forget();
     const ConnectionFieldReader::Command command(m_reader);
     auto manager = filterManagerForLoad();
-    const std::optional<QString> statement = statementToOpen(*manager);
+    const std::optional<LoadedStatement> statement = statementToOpen(*manager);
     std::optional<ResultSet::Opened> opened;
     Reading reading = Reading::Failed;
     if (statement)
-        reading = readResult(*statement, shared.dbType, opened);
+        reading = readResult(statement->line, shared.dbType, opened);
     else if (m_reader.isCancelled())
         reading = reportCancelled();
     else
@@ -81,16 +86,16 @@ bool Session::load()
     return !m_isDetached && m_result.isOpen();
 }
 
-void Session::showLoaded(const ResultSet::Opened &opened, const QString &statement,
+void Session::showLoaded(const ResultSet::Opened &opened, const LoadedStatement &statement,
                          std::unique_ptr<clsFilterManagement> manager)
 {
     const ADODB::Notifications::Hold hold(*m_notifications);
     const QStringList fieldsBefore = m_window->Headings();
     m_result.replaceBy(opened);
     m_filter = std::move(manager);
-    texts.recordSource = statement;
-    m_statement = statement;
-    m_reader.remember(texts.connectionString, statement, m_result.recordset()->Fields());
+    texts.recordSource = statement.written;
+    m_statement = statement.line;
+    m_reader.remember(texts.connectionString, statement.line, m_result.recordset()->Fields());
 
     m_window->enableCommands();
     showPage(1);
@@ -107,7 +112,7 @@ void Session::showLoaded(const ResultSet::Opened &opened, const QString &stateme
         m_window->PutCol(1);
     }
     showLoadedFields();
-    columns().RecordShowSQL(statement, m_fieldView, true, colShowSQLSentences::NoPartField(),
+    columns().RecordShowSQL(statement.written, m_fieldView, true, colShowSQLSentences::NoPartField(),
                             colShowSQLSentences::NoSort(), texts.connectionString);
     if (columns().columnsFit())
         columns().fitColumns(m_rules.roundWidth);

@@ -83,7 +83,7 @@ std::optional<ResultSet::Opened> Session::read(const QString &statement, QString
     std::optional<ResultSet::Opened> opened;
     // What a filter manager was set up for stays right when another control sets another type meanwhile.
     if (statement.isEmpty() ||
-        readResult(statement, filterManager().DBType(), opened, refusal) != Reading::Done)
+        readResult(history().LineOf(statement), filterManager().DBType(), opened, refusal) != Reading::Done)
         return std::nullopt;
     return opened;
 }

@@ -8,7 +8,7 @@ namespace KOVAVSFDataGridLib {
 QString loadedTable(Session &session)
 {
     const clsShowSQLSentence *const first = session.history().Item(1);
-    return GetSQLTableName(first ? first->ShowSQL : session.statement());
+    return GetSQLTableName(first ? session.history().LineOf(first->ShowSQL) : session.statement());
 }
 
 } // namespace KOVAVSFDataGridLib

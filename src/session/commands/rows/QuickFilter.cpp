@@ -49,7 +49,7 @@ std::optional<QString> askUser(Session &session, const FilterManagerRollback &ro
         !BuildLikeCondition(
             answer->text,
             searchedFields(*answer, rollback.manager().SQLManager(), session.result().recordset()->Fields()),
-            latest, rollback.manager().DBType(), condition, session.result().engine()))
+            history.LineOf(latest), rollback.manager().DBType(), condition, session.result().engine()))
         return {};
     return condition;
 }
