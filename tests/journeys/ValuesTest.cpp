@@ -251,6 +251,45 @@ TEST_P(EngineValues, TheQuickFilterLooksForDigitsThatAreShown)
     }
 }
 
+// Each engine writes it in its own way.
+TEST_P(EngineValues, ANumberWithAnExponentIsFoundAsItIsShown)
+{
+    for (const char *record : {"1,1e19", "2,-2.5e-10", "3,2", "4,1e20"})
+        insert(u"real_number"_s, QString::fromLatin1(record));
+    ASSERT_TRUE(load());
+    const QStringList numbers{u"1E+19"_s, u"-2.5E-10"_s, u"2"_s, u"1E+20"_s};
+    ASSERT_EQ(hands->texts(u"real_number"_s), numbers);
+    for (const qsizetype row : {0, 1, 3}) {
+        WindowAnswers dialogs(
+            {[&](QDialog &dialog) { Hands::find(dialog, numbers.at(row), u"real_number"_s); }});
+        hands->click(u"QuickFilter"_s);
+        EXPECT_EQ(hands->texts(u"id"_s), QStringList(QString::number(row + 1)))
+            << qUtf8Printable(hands->statement());
+        hands->click(u"ToPreview"_s);
+    }
+}
+
+// A fraction is hardly ever exactly what is shown of it.
+TEST_P(EngineValues, TheQuickFilterLooksForDigitsThatAreShown)
+{
+    if (engine.isMariaDb())
+        GTEST_SKIP() << "its LIKE sees all digits that it has";
+    insert(u"real_number"_s, u"1,0.1+0.2"_s);
+    insert(u"real_number"_s, u"2,1.5e300"_s);
+    insert(u"real_number"_s, u"3,-2.5e-10"_s);
+    insert(u"real_number"_s, u"4,0"_s);
+    ASSERT_TRUE(load());
+    EXPECT_EQ(hands->texts(u"real_number"_s), (QStringList{u"0.3"_s, u"1.5E+300"_s, u"-2.5E-10"_s, u"0"_s}));
+    const std::pair<QString, QStringList> words[] = {
+        {u"0.3"_s, {u"1"_s}}, {u"000"_s, {}}, {u"+300"_s, {u"2"_s}}, {u"-10"_s, {u"3"_s}}};
+    for (const auto &[word, ids] : words) {
+        WindowAnswers dialogs({[&](QDialog &dialog) { Hands::find(dialog, word, u"real_number"_s); }});
+        hands->click(u"QuickFilter"_s);
+        EXPECT_EQ(hands->texts(u"id"_s), ids) << qUtf8Printable(word + u' ' + hands->statement());
+        hands->click(u"ToPreview"_s);
+    }
+}
+
 TEST_P(EngineValues, PicturesComeThroughByteForByte)
 {
     insert(u"picture"_s, u"1,"_s + engine.bytes("00FF27005C0D0A"));
