@@ -5,8 +5,10 @@
 #include "ado/ValueText.h"
 #include "ado/providers/Provider.h"
 #include "ado/rows/Snapshot.h"
+#include "ado/values/DateText.h"
 #include "ado/values/FieldValue.h"
 
+#include <algorithm>
 #include <new>
 
 namespace ADODB {
@@ -24,6 +26,24 @@ void showSaved(Action &&action)
     } catch (const std::bad_alloc &) {
         throw Error(dbErrInDoubt, Texts::savedUnseen().arg(Texts::outOfMemory()));
     }
+}
+
+bool isZonedMoment(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QString &&
+           DateText::isZonedMoment(value.toString().trimmed().toUtf8());
+}
+
+// Whether the field keeps zones, as its values show. Where it doesn't, a database would drop the zone without
+// a word.
+bool showsZones(const Snapshot &snapshot, int column)
+{
+    constexpr qint64 recordsLookedAt = 1000;
+    for (qint64 record = 1; record <= std::min(snapshot.records(), recordsLookedAt); ++record) {
+        if (!snapshot.isNull(record, column))
+            return DateText::isZonedMoment(snapshot.text(record, column).toUtf8());
+    }
+    return false;
 }
 
 } // namespace
@@ -60,7 +80,11 @@ void RecordEditor::set(int column, const QVariant &value, const Snapshot &snapsh
     if (!writer().isWritable(column))
         throw Error(adErrFeatureNotAvailable, Texts::readOnlyField().arg(field.name));
     bool ok = false;
-    const QVariant converted = FieldValue::convert(value, field.type, &ok);
+    QVariant converted = FieldValue::convert(value, field.type, &ok);
+    if (!ok && isZonedMoment(value) && showsZones(snapshot, column)) {
+        converted = ValueText(value).trimmed();
+        ok = true;
+    }
     if (!ok) {
         const bool binary = value.typeId() == QMetaType::QByteArray;
         throw Error(adErrDataConversion,
