@@ -99,6 +99,7 @@ void RecordEditor::cancel()
 {
     m_mode = adEditNone;
     m_values.clear();
+    m_isInDoubt = false;
 }
 
 std::vector<Change> RecordEditor::changes() const
@@ -120,10 +121,38 @@ void RecordEditor::saveNew(Snapshot &snapshot)
 
 void RecordEditor::saveChanges(Snapshot &snapshot, qint64 record)
 {
-    RowStore stored(snapshot.columns());
-    writer().update(snapshot.raw(record), changes(), stored);
-    showSaved([&] { snapshot.replace(record, stored); });
+    try {
+        const RowStore stored = update(snapshot, record);
+        showSaved([&] { snapshot.replace(record, stored); });
+    } catch (const Error &error) {
+        m_isInDoubt = m_isInDoubt || error.is(dbErrInDoubt);
+        throw;
+    }
     cancel();
+}
+
+RowStore RecordEditor::update(const Snapshot &snapshot, qint64 record) const
+{
+    RowStore stored(snapshot.columns());
+    try {
+        writer().update(snapshot.raw(record), changes(), stored);
+        return stored;
+    } catch (const Error &error) {
+        if (!m_isInDoubt || !error.is(dbErrConcurrency))
+            throw;
+        // What has changed the record may be the attempt before this one, whose answer never came.
+        RowStore now(snapshot.columns());
+        if (!writer().read(snapshot.raw(record), now) || now.rows() != 1 ||
+            !holdsChanges(Snapshot(snapshot.fields(), now)))
+            throw;
+        return now;
+    }
+}
+
+bool RecordEditor::holdsChanges(const Snapshot &row) const
+{
+    return std::all_of(m_values.begin(), m_values.end(),
+                       [&](const auto &change) { return row.value(1, change.first) == change.second; });
 }
 
 RowStore RecordEditor::readAgain(const Snapshot &snapshot, qint64 record) const
