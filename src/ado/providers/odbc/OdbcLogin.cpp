@@ -58,7 +58,8 @@ struct Default
     QStringView value;
 };
 
-// Without the first two the driver keeps a whole result in memory; without LFConversion it gives other line
+// With the first two the driver prepares a statement without a name, which it need not give up; it fetches
+// itself only what is not fetched for it, see OdbcEngine::portion. Without LFConversion it gives other line
 // ends than the database holds. The last leaves out the savepoints that the driver puts around each
 // statement: they cost trips, and between two portions of a result over foreign tables they make it fail.
 // Without them nothing more can be done in a transaction in which something failed, and nothing is.
@@ -210,6 +211,18 @@ OdbcEngine::Kind OdbcLogin::engineOfDriver() const
     if (driver.contains("psql"_L1, Qt::CaseInsensitive))
         return OdbcEngine::Kind::PostgreSql;
     return OdbcEngine::kindNamed(driver);
+}
+
+int OdbcLogin::portion() const
+{
+    const auto number = [this](QStringView keyword, QStringView shortName) {
+        return value(contains(keyword) ? keyword : shortName).toInt();
+    };
+    if (number(u"UseDeclareFetch", u"B6") == 0)
+        return 0;
+    constexpr int usual = 5000; // of the defaults, for what is no number
+    const int rows = number(u"Fetch", u"A7");
+    return rows > 0 ? rows : usual;
 }
 
 bool OdbcLogin::addDefaults(OdbcEngine::Kind engine)

@@ -32,6 +32,9 @@ public:
     // Adds what the engine's driver needs in order to fetch a result in portions, to cut nothing and to call
     // a Boolean one; what the text says itself stays. False when it was all there already.
     bool addDefaults(OdbcEngine::Kind engine);
+    // How many rows of a result to fetch at once, as the text says in the words of PostgreSQL's driver once
+    // the defaults are in it; 0 for all.
+    int portion() const;
     QString dataSource() const { return value(u"DSN"); }
     // Throws 3706 if the text names a driver that is not installed. The driver manager takes longer and
     // longer to list the drivers, so this is for explaining why it could not connect.

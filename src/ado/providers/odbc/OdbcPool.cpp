@@ -103,6 +103,8 @@ void OdbcPool::connectFirst()
         connection.reset();
         connection = connectTo(m_login);
     }
+    if (m_engine.usesPortions)
+        m_engine.portion = m_login.portion();
     m_isShared = m_engine.isServer();
     connection->setIdle();
     m_idle.push_back(std::move(connection));
