@@ -111,7 +111,7 @@ public:
     // Writing a field's Value or calling AddNew begins an edit. Update writes it to the database in a
     // transaction, and shows what the database stored. CancelUpdate discards it. Update and Delete change the
     // record only if all of it is still as shown; otherwise they throw dbErrConcurrency. If Update fails,
-    // nothing is saved and the edit stays pending; only after dbErrInDoubt is the outcome unknown. If a
+    // nothing is saved and the edit stays pending; after dbErrInDoubt the next Update finds that out. If a
     // result can't be written (read-only, join, view, aggregate, distinct, union), they throw 3251. A new
     // record is counted after it is saved. A move drops a new record without any value. AddNew on an unsaved
     // new record saves it first; it throws dbErrCancelled if the record is refused or has no value.

@@ -45,7 +45,8 @@ int heightOfTip(const QString &text, const QFontMetrics &metrics)
 
 QString textForTip(const QString &text, const QWidget &widget)
 {
-    const int highest = widget.screen()->availableSize().height() / 3;
+    constexpr int borders = 20; // pixels, of the tip and of the document in it
+    const int highest = widget.screen()->availableSize().height() / 3 - borders;
     const QFontMetrics metrics(QToolTip::font());
     if (text.size() <= mostShown && heightOfTip(text, metrics) <= highest)
         return text;

@@ -42,7 +42,7 @@ bool clsFilterManagement::SetSQLInitData()
 
 bool clsFilterManagement::LetNewFilter(const QString &strNewFilter, QString &strCurrentFilter)
 {
-    const QString statement = trim(m_memory.lastUseFilter);
+    const QString statement = trim(m_history.LineOf(m_memory.lastUseFilter));
     auto sentence = SplitSQLSentence(statement);
     if (!sentence)
         return false;
@@ -122,7 +122,7 @@ bool clsFilterManagement::GetPartShowSelFields(const QString &strAllFields, cons
         m_memory.currentStatement = strRetFields;
         return !strRetFields.isEmpty();
     }
-    QString source = getFromPart(strCurrentSQL);
+    QString source = getFromPart(m_history.LineOf(strCurrentSQL));
     if (m_dbType == dbOracle) {
         // Oracle doesn't know brackets. List and source are rewritten apart, so that a lone apostrophe in a
         // name doesn't pair up with one behind FROM.
@@ -145,7 +145,7 @@ bool clsFilterManagement::GetPartSortSelFields(const QString &strAllFields, cons
     auto all = m_history.DerivationOf(strAllFields);
     if (const clsShowSQLSentence *const latest = m_history.Item(m_history.Count());
         latest && all && (m_history.NamesShownAlone(*all) || all->isDistinct())) {
-        offered = latest->ShowSQL; // no other field can be named
+        offered = m_history.LineOf(latest->ShowSQL); // no other field can be named
         all = m_history.DerivationOf(offered);
     }
     if (all && (!all->isSimple() || all->isJoined()))
@@ -167,7 +167,7 @@ bool clsFilterManagement::GetRequirePartSQL(const QString &strOrgSQL, StatementP
                                             QString &strRetSQL) const
 {
     strRetSQL.clear();
-    const auto sentence = SplitSQLSentence(strOrgSQL);
+    const auto sentence = SplitSQLSentence(m_history.LineOf(strOrgSQL));
     if (!sentence)
         return false;
     if (lngSelPart == PartsWithoutCondition) {

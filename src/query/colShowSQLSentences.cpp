@@ -52,6 +52,12 @@ bool colShowSQLSentences::SetSQLInitData(const QString &strAllFields, const QStr
     return true;
 }
 
+void colShowSQLSentences::SetWritten(const QString &statement, const QString &line)
+{
+    m_written = statement;
+    m_line = line;
+}
+
 bool colShowSQLSentences::AddSimpleSQLMess(const QString &strOrgSQL, const QString &strShowSQL,
                                            ShownFields lngIsShowAllFields, QString *PassKey)
 {
@@ -287,7 +293,7 @@ bool colShowSQLSentences::Clear()
 std::optional<SQLSentence> colShowSQLSentences::SplitLatest() const
 {
     const clsShowSQLSentence *const latest = Latest();
-    return SplitSQLSentence(latest ? latest->ShowSQL : QString());
+    return SplitSQLSentence(latest ? LineOf(latest->ShowSQL) : QString());
 }
 
 // The step is tried on the entry to go back to before anything is removed, so that a lost connection leaves

@@ -59,6 +59,12 @@ public:
     colDataFields &DataFields() { return m_catalogue; }
     void SetDataFields(const colDataFields &catalogue) { m_catalogue = catalogue; }
 
+    // A statement that entries show as its host has written it, in several lines and with comments, and the
+    // one line that is run and that others are derived from; see joinStatementLines.
+    void SetWritten(const QString &statement, const QString &line);
+    // That line; any other statement as it is.
+    QString LineOf(const QString &statement) const { return statement == m_written ? m_line : statement; }
+
     bool SetSQLInitData(const QString &strAllFields, const QString &strShowFieds,
                         const QString &strFilterWord, const QString &strOrderWord,
                         const QString &strOriginFilter);
@@ -200,6 +206,8 @@ private:
     QString m_filterWord;
     QString m_orderWord;
     QString m_originFilter;
+    QString m_written;
+    QString m_line;
 };
 
 } // namespace KOVAVSFDataGridLib

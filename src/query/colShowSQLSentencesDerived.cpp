@@ -37,10 +37,11 @@ std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QStrin
 {
     if (statement.isEmpty() || !m_reader)
         return {};
+    const QString line = LineOf(statement);
     EngineMode engine = engineOf(m_connString);
     if (!engine.isKnown()) {
         // Simple statements don't need to know, so nobody waits for a connection.
-        if (m_derivations.of(statement, {}, dialectOf(m_database, engine))->isSimple() ||
+        if (m_derivations.of(line, {}, dialectOf(m_database, engine))->isSimple() ||
             !m_reader->Open(m_connString))
             return {};
         engine = engineOf(m_connString);
@@ -48,11 +49,11 @@ std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QStrin
             return {};
     }
     const Dialect dialect = dialectOf(m_database, engine);
-    auto byText = m_derivations.of(statement, {}, dialect);
+    auto byText = m_derivations.of(line, {}, dialect);
     if (byText->isSimple() && !byText->needsFields())
         return byText;
-    const auto fields = m_reader->Read(m_connString, statement);
-    return fields ? DerivationOf(statement, *fields, m_connString) : byText;
+    const auto fields = m_reader->Read(m_connString, line);
+    return fields ? DerivationOf(line, *fields, m_connString) : byText;
 }
 
 // Each star that the database has to be asked about is a wait, so that it is asked only where no table tells.
@@ -124,7 +125,7 @@ std::optional<FilteredResult> colShowSQLSentences::GetFilteredResult() const
     auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
     if (!all || (all->isSimple() && !all->isJoined() && isTableFoundAsText(latest->AllFields, *all)))
         return std::nullopt;
-    const QString &named = NamesShownAlone(*all) ? latest->ShowSQL : latest->AllFields;
+    const QString &named = NamesShownAlone(*all) ? LineOf(latest->ShowSQL) : latest->AllFields;
     // Under the names that the result has, not those that the statement writes.
     if (const auto fields = m_reader->Read(m_connString, named))
         all = DerivationOf(named, *fields, m_connString);
@@ -135,7 +136,7 @@ QString colShowSQLSentences::GetConditionOf(const QString &statement) const
 {
     if (const auto derivation = DerivationOf(statement))
         return derivation->condition();
-    const auto sentence = SplitSQLSentence(statement);
+    const auto sentence = SplitSQLSentence(LineOf(statement));
     const qsizetype word = sizeof("WHERE") - 1;
     return sentence ? sentence->where.trimmed().mid(word).trimmed() : QString();
 }
@@ -196,7 +197,7 @@ QString colShowSQLSentences::WithFieldsOf(const QString &statement, const QStrin
                         (derivation->isTextWork(DerivationStep::Fields) && fields->isSimple() &&
                          !haveDifferentTables(*derivation, *fields));
     if (isText)
-        return ReplaceSQLFieldPart(statement, fieldStatement);
+        return ReplaceSQLFieldPart(LineOf(statement), fieldStatement);
     const auto all = DerivationOf(Latest()->AllFields);
     if (all && all->hasListAsTable())
         return WithFieldsOfWhole(*derivation, *all, *fields);

@@ -40,33 +40,45 @@ std::unique_ptr<clsFilterManagement> filterManagerForLoad(Session &session)
     return manager;
 }
 
+struct LoadedStatement
+{
+    QString written; // SQLShow as it is, unless it has to be another statement
+    QString line;    // what is run, and what others are derived from
+};
+
 // For Oracle the field list is spelled out, so that each field can be named and long binary ones come last.
 // Nothing when it can't be, for the reason that the reader gives.
-std::optional<QString> statementToOpen(Session &session, clsFilterManagement &manager)
+std::optional<LoadedStatement> statementToOpen(Session &session, clsFilterManagement &manager)
 {
-    const QString first = manager.GetCurrentSQL20(FirstStatement);
+    const QString given = manager.AllFields();
+    const QString &connectionString = session.texts.connectionString;
+    LoadedStatement first{session.texts.sqlShow, manager.GetCurrentSQL20(FirstStatement)};
     // What is missing is reported when the statement is opened.
-    if (session.shared.dbType != dbOracle || session.texts.connectionString.isEmpty() || first.isEmpty())
-        return first;
-    QString rewritten;
-    if (!manager.SQLManager().GetAllFieldNameSQL(session.texts.connectionString, first, rewritten))
-        return {};
-    manager.SetAllFields(rewritten);
-    manager.SetOriginFilter(rewritten);
-    manager.SetSQLInitData();
-    return rewritten;
+    if (session.shared.dbType == dbOracle && !connectionString.isEmpty() && !first.line.isEmpty()) {
+        QString rewritten;
+        if (!manager.SQLManager().GetAllFieldNameSQL(connectionString, first.line, rewritten))
+            return {};
+        manager.SetAllFields(rewritten);
+        manager.SetOriginFilter(rewritten);
+        manager.SetSQLInitData();
+        first.line = rewritten;
+    }
+    if (first.line != given) // sorted or spelled out, so that it isn't the host's own any more
+        first.written = first.line;
+    manager.SQLManager().SetWritten(first.written, first.line);
+    return first;
 }
 
-void showLoaded(Session &session, const ResultSet::Opened &opened, const QString &statement,
+void showLoaded(Session &session, const ResultSet::Opened &opened, const LoadedStatement &statement,
                 std::unique_ptr<clsFilterManagement> manager)
 {
     const ADODB::Notifications::Hold hold(session.notifications());
     const QStringList fieldsBefore = session.window().Headings();
     session.result().replaceBy(opened);
     session.sharedHistory().setManager(std::move(manager));
-    session.texts.recordSource = statement;
-    session.shown().setText(statement);
-    session.fieldReader().remember(session.texts.connectionString, statement,
+    session.texts.recordSource = statement.written;
+    session.shown().setText(statement.line);
+    session.fieldReader().remember(session.texts.connectionString, statement.line,
                                    session.result().recordset()->Fields());
 
     session.window().enableCommands();
@@ -83,8 +95,8 @@ void showLoaded(Session &session, const ResultSet::Opened &opened, const QString
         session.window().PutRow(1);
         session.window().PutCol(1);
     }
-    session.fields().setView(session.fields().view());
-    session.columns().RecordShowSQL(statement, session.fields().view(), true,
+    session.fields().showLoaded(session.filterManager().ShowFields());
+    session.columns().RecordShowSQL(statement.written, session.fields().view(), true,
                                     colShowSQLSentences::NoPartField(), colShowSQLSentences::NoSort(),
                                     session.texts.connectionString);
     if (session.columns().columnsFit())
@@ -108,11 +120,11 @@ bool loadResult(Session &session)
     session.fieldReader().forget();
     const ConnectionFieldReader::Command command(session.fieldReader());
     auto manager = filterManagerForLoad(session);
-    const std::optional<QString> statement = statementToOpen(session, *manager);
+    const std::optional<LoadedStatement> statement = statementToOpen(session, *manager);
     StatementReader &reader = session.statementReader();
     StatementReader::Reading reading;
     if (statement) {
-        reading = reader.read(*statement, session.shared.dbType);
+        reading = reader.read(statement->line, session.shared.dbType);
     } else if (session.fieldReader().isCancelled()) {
         reading.outcome = Outcome::Cancelled;
         reader.reportCancelled();

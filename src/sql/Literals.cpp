@@ -86,6 +86,11 @@ QString timeText(QTime time, const QString &finer)
     return time.toString(isWhole ? u"HH:mm:ss"_s : u"HH:mm:ss.zzz"_s) + finer;
 }
 
+QString dayAndTime(const QDateTime &moment, const QString &finer)
+{
+    return moment.date().toString(Qt::ISODate) + u' ' + timeText(moment.time(), finer);
+}
+
 } // namespace
 
 QString textLiteral(const Dialect &dialect, QString text)
@@ -182,8 +187,15 @@ QString timeLiteral(const Dialect &dialect, QTime time, const QString &finer)
 
 QString momentLiteral(const Dialect &dialect, const QDateTime &moment, const QString &finer)
 {
-    return momentText(dialect, "ts"_L1,
-                      moment.date().toString(Qt::ISODate) + u' ' + timeText(moment.time(), finer));
+    return momentText(dialect, "ts"_L1, dayAndTime(moment, finer));
+}
+
+QString zonedMomentLiteral(const Dialect &dialect, const QDateTime &moment, const QString &finer,
+                           const QString &zone)
+{
+    // Not in the standard's words, of which WITH begins something else.
+    return dialect.engine == Engine::PostgreSQL ? "TIMESTAMPTZ "_L1 + quoted(dayAndTime(moment, finer) + zone)
+                                                : QString();
 }
 
 // In PostgreSQL it depends on a setting of the session what a backslash means, except in such a text.

@@ -20,6 +20,10 @@ QString dateLiteral(const Dialect &dialect, QDate date);
 // `finer` are the decimals of the second after the third one, without zeros at their end.
 QString timeLiteral(const Dialect &dialect, QTime time, const QString &finer = {});
 QString momentLiteral(const Dialect &dialect, const QDateTime &moment, const QString &finer = {});
+// The same by a clock in this zone, an offset such as +08; empty for an engine of which no such literal is
+// known.
+QString zonedMomentLiteral(const Dialect &dialect, const QDateTime &moment, const QString &finer,
+                           const QString &zone);
 
 // What a floating column holds: 4 bytes or 8.
 enum class FloatSize { Single, Double };

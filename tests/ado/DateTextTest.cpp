@@ -45,6 +45,19 @@ TEST(DateText, KnowsWhatIsFinerThanATimeHolds)
         EXPECT_FALSE(DateText::isFinerMoment(text)) << text;
 }
 
+TEST(DateText, KnowsMomentsWithAZone)
+{
+    for (const char *text : {"2021-03-28 02:30:00+08", "2021-03-28 02:30-0330", "2021-03-28T02:30:00Z",
+                             "2021-03-28 02:30:00.123456-03:30", "1900-01-01 08:05:43+08:05:43",
+                             "2021-03-28 02:30:00.1234567 +08:00"})
+        EXPECT_TRUE(DateText::isZonedMoment(text)) << text;
+    for (const char *text :
+         {"", "Z", "2021-03-28", "2021-03-28+08", "2021-03-28 02:30:00", "2021-03-28 02:30Z1",
+          "2021-02-29 02:30+08", "2021-03-28 02:30+8", "2021-03-28 02:30+08:0", "2021-03-28 02:30+0x",
+          "2021-03-28 02:30+08:00:0", "2021-03-28 02:30  +08"})
+        EXPECT_FALSE(DateText::isZonedMoment(text)) << text;
+}
+
 TEST(DateText, ReadsMoments)
 {
     EXPECT_EQ(DateText::moment("2021-03-28"), QDateTime(QDate(2021, 3, 28), QTime(0, 0), Qt::UTC));

@@ -31,10 +31,15 @@ struct Case
     QString translated;
 };
 
+std::function<QStringList()> are(const QStringList &installed)
+{
+    return [&installed] { return installed; };
+}
+
 void expectTranslated(std::initializer_list<Case> cases)
 {
     for (const Case &c : cases) {
-        EXPECT_EQ(inOdbcWords(ConnectionString(c.given), c.installed).text(), c.translated)
+        EXPECT_EQ(inOdbcWords(ConnectionString(c.given), are(c.installed)).text(), c.translated)
             << qUtf8Printable(c.given);
     }
 }
@@ -204,7 +209,7 @@ TEST(OleDbWords, KeepValuesAsTheyAre)
         const QString braced = u"Provider=SQLOLEDB;Data Source=db;User ID=sa;Password={"_s +
                                QString(password).replace(u'}', u"}}"_s) + u'}';
         for (const QString &text : {given.text(), braced}) {
-            const ConnectionString words = inOdbcWords(ConnectionString(text), driver17);
+            const ConnectionString words = inOdbcWords(ConnectionString(text), are(driver17));
             EXPECT_EQ(words.value(u"PWD"_s), password);
             EXPECT_EQ(ConnectionString(words.text()).value(u"PWD"_s), password);
             EXPECT_EQ(words.value(u"Server"_s), u"db"_s);
@@ -322,8 +327,8 @@ TEST(OleDbWords, NameWhatToInstall)
     for (const Missing &c : cases) {
         for (const int bits : {32, 64}) {
             const Error error = errorOf([&] {
-                inOdbcWords(ConnectionString(c.given + u";Password=marker;User ID=marker"_s), c.installed,
-                            bits);
+                inOdbcWords(ConnectionString(c.given + u";Password=marker;User ID=marker"_s),
+                            are(c.installed), bits);
             });
             EXPECT_TRUE(error.is(adErrProviderNotFound)) << error.what();
             EXPECT_TRUE(error.Description().contains(u"%1 位"_s.arg(bits))) << error.what();
@@ -359,9 +364,32 @@ TEST(OleDbWords, RefuseWhatNobodyUnderstandsWithoutQuotingIt)
          adErrFeatureNotAvailable},
     };
     for (const Refused &c : cases) {
-        const Error error = errorOf([&] { inOdbcWords(ConnectionString(c.given), c.installed); });
+        const Error error = errorOf([&] { inOdbcWords(ConnectionString(c.given), are(c.installed)); });
         EXPECT_TRUE(error.is(c.number)) << qUtf8Printable(c.given) << error.what();
         EXPECT_FALSE(error.Description().contains(u"marker"_s)) << error.what();
+    }
+}
+
+// A driver manager takes its time for the list.
+TEST(OleDbWords, AskForTheDriversOnceAndOnlyWhereOneIsChosen)
+{
+    const struct
+    {
+        const char *given;
+        int asked;
+    } cases[] = {
+        {"Provider=SQLOLEDB;Data Source=db", 1}, {"Provider=SQLOLEDB;Driver=FreeTDS;Data Source=db", 1},
+        {"Driver=SQL Server;Server=db", 0},      {"DSN=shop", 0},
+        {"Provider=MSDASQL;DSN=shop", 0},        {"Provider=MSDASQL;Driver=SQL Server;Server=db", 0},
+        {"Provider=SQLOLEDB;DSN=shop", 0},
+    };
+    for (const auto &c : cases) {
+        int asked = 0;
+        inOdbcWords(ConnectionString(QString::fromLatin1(c.given)), [&asked] {
+            ++asked;
+            return driver17;
+        });
+        EXPECT_EQ(asked, c.asked) << c.given;
     }
 }
 

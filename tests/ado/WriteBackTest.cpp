@@ -30,6 +30,24 @@ void put(Recordset &recordset, const QString &field, const QVariant &value)
     recordset.Fields().Item(field).PutValue(value);
 }
 
+// A database that keeps no zone would drop it without a word.
+TEST(WriteBack, TakesAZoneWhereValuesShowOne)
+{
+    const TestDatabase database(u"CREATE TABLE t(id INTEGER PRIMARY KEY, plain TIMESTAMP, zoned TIMESTAMP);"
+                                "INSERT INTO t VALUES (1, '2024-07-01 12:00:00', NULL),"
+                                "(2, NULL, '2024-07-01 12:00:00+08')"_s);
+    const auto recordset = database.open(u"SELECT * FROM t ORDER BY id"_s);
+    const QString typed = u"2024-07-02 01:02:03.123456-03:30"_s;
+    EXPECT_ADO_ERROR(adErrDataConversion, put(*recordset, u"plain"_s, typed));
+    EXPECT_ADO_ERROR(adErrDataConversion, put(*recordset, u"zoned"_s, u"2024-07-32 01:02+08"_s));
+    put(*recordset, u"zoned"_s, typed);
+    recordset->Update();
+    EXPECT_EQ(database.ask(u"SELECT plain || zoned FROM t WHERE id = 1"_s), u"2024-07-01 12:00:00"_s + typed);
+    recordset->AddNew();
+    put(*recordset, u"zoned"_s, u"2024-07-02 01:02"_s);
+    EXPECT_ADO_ERROR(adErrDataConversion, put(*recordset, u"plain"_s, typed));
+}
+
 TEST(WriteBack, DeletesTheOneRecord)
 {
     const TestDatabase database(shop);

@@ -195,6 +195,9 @@ TEST_F(Layout, NothingIsHiddenWhileNoColumnIsAPartField)
     ASSERT_TRUE(record(Statement, FieldView::All, true, {}));
     columns.ShowPartFieldColumns(PartWidths::Kept);
     EXPECT_EQ(std::ranges::count(widths(), 0), 0);
+    grid.PutColWidth(2, 0); // by an earlier choice
+    columns.ShowPartFieldColumns(PartWidths::Kept);
+    EXPECT_EQ(std::ranges::count(widths(), 0), 0);
 }
 
 TEST_F(Layout, FittingSharesTheWidthAmongShownColumnsAndLeavesHiddenOnes)

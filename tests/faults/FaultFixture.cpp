@@ -4,6 +4,8 @@
 #include <QtCore/QFile>
 #include <QtTest/QTest>
 
+#include <cstdio>
+
 using namespace Qt::StringLiterals;
 
 namespace KovaTest {
@@ -46,6 +48,8 @@ void FaultFixture::TearDown()
     if (IsSkipped())
         return;
     startServer();
+    if (HasFailure())
+        std::printf("messages: %s\n", qPrintable(hands->messages.texts().join(u'|')));
     for (const ShownMessage &message : hands->messages.shown())
         EXPECT_FALSE((message.text + message.title + message.cause).contains(markerPassword()))
             << "in a message";

@@ -19,6 +19,7 @@ int callsLeft = 0;          // to the one that fails; 0 when none does
 Fault nextFault = Fault::NotDone;
 bool isLost = false;
 const char *failedCall = nullptr;
+int listsRead = 0;
 std::map<SQLHANDLE, const char *> states; // of the failures that nobody has called over yet
 
 thread_local int depth = 0; // of calls that the driver manager makes itself
@@ -108,6 +109,12 @@ QString failed()
     return QString::fromLatin1(failedCall);
 }
 
+int listsRead()
+{
+    const std::lock_guard lock(mutex);
+    return ::listsRead;
+}
+
 } // namespace KovaTest::FaultyOdbc
 
 #define KOVA_FAULTY(name, canBeDone, handle, parameters, arguments)                                          \
@@ -189,6 +196,22 @@ SQLRETURN SQL_API SQLDisconnect(SQLHDBC h)
     --depth;
     return code;
 }
+
+// Both lists are read by the data access alone; a fault in them has no meaning for what is read or written.
+#define KOVA_COUNTED(name)                                                                                   \
+    SQLRETURN SQL_API name(SQLHENV h, SQLUSMALLINT direction, SQLWCHAR *a, SQLSMALLINT ar, SQLSMALLINT *al,  \
+                           SQLWCHAR *b, SQLSMALLINT br, SQLSMALLINT *bl)                                     \
+    {                                                                                                        \
+        static auto *const next = real<decltype(name)>(#name);                                               \
+        if (direction == SQL_FETCH_FIRST) {                                                                  \
+            const std::lock_guard lock(mutex);                                                               \
+            ++listsRead;                                                                                     \
+        }                                                                                                    \
+        return next(h, direction, a, ar, al, b, br, bl);                                                     \
+    }
+
+KOVA_COUNTED(SQLDriversW)
+KOVA_COUNTED(SQLDataSourcesW)
 
 SQLRETURN SQL_API SQLGetDiagRecW(SQLSMALLINT type, SQLHANDLE h, SQLSMALLINT record, SQLWCHAR *state,
                                  SQLINTEGER *native, SQLWCHAR *text, SQLSMALLINT room, SQLSMALLINT *length)

@@ -21,6 +21,9 @@ void stopFailing();
 // The name of the call that has failed since failAt(); empty when none has.
 QString failed();
 
+// How often the driver manager was asked to begin a list of its drivers or of its data sources.
+int listsRead();
+
 // What the driver says of a failed call.
 inline const char *const words = "injected by the test";
 

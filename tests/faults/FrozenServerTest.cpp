@@ -1,145 +1,23 @@
-// A server, or a pooler before one, that is there and answers nothing: its process is stopped, its
-// connections stay. Whatever the user waits for then, windows are painted, Esc ends the wait, what was shown
-// stays, and the next command works once the server answers again.
-#include "FaultFixture.h"
+// A server, or a pooler before one, that is there and answers nothing. Whatever the user waits for then,
+// windows are painted, Esc ends the wait, what was shown stays, and the next command works once the server
+// answers again.
+#include "FrozenServer.h"
 
 #include "../support/Dialogs.h"
-#include "servers/LoopbackProxy.h"
 
 #include <QtCore/QElapsedTimer>
-#include <QtCore/QTimer>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QProgressBar>
-#include <QtWidgets/QToolBar>
-
-#include <atomic>
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// What is asked through a pooler waits for the pooler.
-FaultEngine pooler()
-{
-    FaultEngine engine = faultEngines[0];
-    engine.name = "PgBouncer";
-    engine.server = "pgbouncer";
-    engine.variable = "KOVA_TEST_PGBOUNCER";
-    engine.oracleVariable = "KOVA_TEST_PGBOUNCER";
-    return engine;
-}
-
-// Counts the paintings of a widget.
-class Paintings : public QObject
-{
-public:
-    explicit Paintings(QWidget &widget) { widget.installEventFilter(this); }
-    int count() const { return m_count; }
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        m_count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-
-private:
-    int m_count = 0;
-};
-
-class FrozenServer : public FaultFixture
+class FrozenServerReading : public FrozenServer
 {
 protected:
-    void SetUp() override
-    {
-        FaultFixture::SetUp();
-        if (IsSkipped())
-            return;
-        run(u"DROP TABLE IF EXISTS kept"_s);
-        run(u"CREATE TABLE kept (id INTEGER PRIMARY KEY, name VARCHAR(20), price DECIMAL(8,2))"_s);
-        run(u"INSERT INTO kept SELECT g, concat('name ', g), g FROM "_s + engine.numbersTo(1000));
-    }
-    void TearDown() override
-    {
-        if (!IsSkipped())
-            thaw();
-        FaultFixture::TearDown();
-    }
-    void freeze() const { controlServer("freeze", engine.server); }
-    void thaw() const { controlServer("thaw", engine.server); }
-    // Freezes the server just before a client's first words of that kind reach it.
-    LoopbackProxy::Filter freezeOn(const char *words)
-    {
-        return [this, words](LoopbackProxy::From from, const QByteArray &bytes) {
-            if (from == LoopbackProxy::From::Client && bytes.toUpper().contains(words) && !isFrozen) {
-                freeze();
-                isFrozen = true;
-            }
-            return true;
-        };
-    }
-    std::atomic<bool> isFrozen = false;
-    bool loadKept() { return load(u"SELECT * FROM kept ORDER BY id"_s); }
-    QString stored(const QString &what) const { return ask(u"SELECT %1 FROM kept WHERE id = 1"_s.arg(what)); }
-
-    // Freezes the server and does something that waits for it. As soon as the user sees that he waits, the
-    // window is asked to paint; when it has done so he presses Esc, and this returns after that.
-    void cancelWhileFrozen(const std::function<void()> &action)
-    {
-        freeze();
-        QWidget &shown = *(hands->isSingleRecordShown() ? hands->list : hands->table)->viewport();
-        Paintings paintings(shown);
-        int before = -1;
-        QElapsedTimer sinceEscape;
-        QTimer user;
-        QObject::connect(&user, &QTimer::timeout, &user, [&] {
-            QWidget *const line = progressLine();
-            if (sinceEscape.isValid() || !line)
-                return;
-            if (before < 0) {
-                before = paintings.count();
-                shown.update();
-            } else if (paintings.count() > before) {
-                sinceEscape.start();
-                QTest::keyClick(line->window(), Qt::Key_Escape);
-            }
-        });
-        user.start(10);
-        action();
-        ASSERT_TRUE(sinceEscape.isValid()) << "nothing could be cancelled";
-        RecordProperty("milliseconds", static_cast<int>(sinceEscape.elapsed()));
-        EXPECT_LT(sinceEscape.elapsed(), 3000) << "the rest is for a machine that is busy with other things";
-        EXPECT_EQ(progressLine(), nullptr);
-    }
-    static QWidget *progressLine()
-    {
-        for (QWidget *widget : QApplication::allWidgets()) {
-            if (qobject_cast<QProgressBar *>(widget) && widget->isVisible())
-                return widget;
-        }
-        return nullptr;
-    }
-    void expectKept() const
-    {
-        EXPECT_EQ(hands->rows(), 1000);
-        EXPECT_EQ(hands->texts(u"name"_s).first(), u"name 1"_s);
-        EXPECT_TRUE(hands->table->isEnabled());
-    }
-    // The values that the user writes into the record that is listed, in the order of its fields.
-    void write(const QString &field, const QString &text)
-    {
-        if (!hands->isSingleRecordShown())
-            hands->click(u"SingleRecord"_s);
-        hands->list->setCurrentIndex(hands->list->model()->index(hands->listedRow(field), 1));
-        hands->list->setFocus();
-        QTest::keyClick(hands->list, Qt::Key_F2);
-        hands->edit->clear();
-        compose(*hands->edit, text);
-        QTest::keyClick(hands->edit, Qt::Key_Return);
-    }
     void cancelAListOfValues()
     {
         WindowAnswers dialogs({[&](QDialog &dialog) {
@@ -173,22 +51,13 @@ protected:
         EXPECT_EQ(takeMessages(), QStringList());
         expectKept();
     }
-    QStringList takeMessages()
-    {
-        const QStringList texts = hands->messages.texts();
-        hands->messages.clear();
-        return texts;
-    }
 };
 
-const QString cancelled = u"操作已取消。"_s;
+KOVA_ON_FROZEN_SERVERS(FrozenServerReading);
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Servers, FrozenServer, testing::Values(faultEngines[0], faultEngines[1], pooler()),
-                         [](const auto &engine) { return std::string(engine.param.name); });
-
-TEST_P(FrozenServer, LetsTheUserCancelALoadInItsSession)
+TEST_P(FrozenServerReading, LetsTheUserCancelALoadInItsSession)
 {
     ASSERT_TRUE(load());
     cancelWhileFrozen([this] { EXPECT_FALSE(load()); });
@@ -199,7 +68,7 @@ TEST_P(FrozenServer, LetsTheUserCancelALoadInItsSession)
     expectAsLoaded();
 }
 
-TEST_P(FrozenServer, LetsTheUserCancelWhileItConnects)
+TEST_P(FrozenServerReading, LetsTheUserCancelWhileItConnects)
 {
     cancelWhileFrozen([this] { EXPECT_FALSE(load()); });
     EXPECT_EQ(takeMessages(), QStringList()) << "the user knows what he did";
@@ -208,7 +77,7 @@ TEST_P(FrozenServer, LetsTheUserCancelWhileItConnects)
     expectAsLoaded();
 }
 
-TEST_P(FrozenServer, LetsTheUserCancelASort)
+TEST_P(FrozenServerReading, LetsTheUserCancelASort)
 {
     ASSERT_TRUE(loadKept());
     WindowAnswers dialogs({[](QDialog &dialog) { Hands::sort(dialog, {u"name"_s}); }});
@@ -221,7 +90,7 @@ TEST_P(FrozenServer, LetsTheUserCancelASort)
 }
 
 // Which are the fields of an Oracle's statement, asked before it is opened.
-TEST_P(FrozenServer, LetsTheUserCancelAQuestionAboutTheCatalogue)
+TEST_P(FrozenServerReading, LetsTheUserCancelAQuestionAboutTheCatalogue)
 {
     ASSERT_TRUE(loadKept());
     hands->grid.PutConnectionString(engine.oracleConnection());
@@ -234,7 +103,7 @@ TEST_P(FrozenServer, LetsTheUserCancelAQuestionAboutTheCatalogue)
     expectKept();
 }
 
-TEST_P(FrozenServer, LetsTheUserCancelTheFieldsOfTheFilterDialog)
+TEST_P(FrozenServerReading, LetsTheUserCancelTheFieldsOfTheFilterDialog)
 {
     ASSERT_TRUE(loadKept());
     QString notice;
@@ -248,7 +117,7 @@ TEST_P(FrozenServer, LetsTheUserCancelTheFieldsOfTheFilterDialog)
     EXPECT_EQ(takeMessages(), QStringList());
 }
 
-TEST_P(FrozenServer, LetsTheUserCancelTheCheckOfACondition)
+TEST_P(FrozenServerReading, LetsTheUserCancelTheCheckOfACondition)
 {
     ASSERT_TRUE(loadKept());
     QString notice;
@@ -266,134 +135,21 @@ TEST_P(FrozenServer, LetsTheUserCancelTheCheckOfACondition)
 }
 
 // They are read in a thread of their own, so the dialog does not even wait.
-TEST_P(FrozenServer, LetsTheUserCancelAListOfValues)
+TEST_P(FrozenServerReading, LetsTheUserCancelAListOfValues)
 {
     ASSERT_TRUE(loadKept());
     cancelAListOfValues();
 }
 
-TEST_P(FrozenServer, LetsTheUserCancelAListOfValuesOfAnOwnStatement)
+TEST_P(FrozenServerReading, LetsTheUserCancelAListOfValuesOfAnOwnStatement)
 {
     hands->grid.PutTableType(KOVAVSFDataGrid::DefSQL);
     ASSERT_TRUE(loadKept());
     cancelAListOfValues();
 }
 
-TEST_P(FrozenServer, LetsTheUserCancelAnEdit)
-{
-    ASSERT_TRUE(loadKept());
-    write(u"name"_s, u"mine"_s);
-    cancelWhileFrozen([this] { hands->click(u"AllRecord"_s); });
-    const QStringList texts = takeMessages();
-    ASSERT_EQ(texts.size(), 1);
-    EXPECT_EQ(texts.front(), u"记录没有保存："_s + cancelled) << "nothing was committed yet";
-    ASSERT_TRUE(hands->isSingleRecordShown()) << "the record is not left";
-    EXPECT_EQ(hands->listed(u"name"_s), u"mine"_s) << "what he wrote is still there";
-    thaw();
-    EXPECT_EQ(stored(u"name"_s), u"name 1"_s);
-    hands->click(u"AllRecord"_s);
-    EXPECT_EQ(takeMessages(), QStringList());
-    EXPECT_EQ(stored(u"name"_s), u"mine"_s);
-}
-
-TEST_P(FrozenServer, LetsTheUserCancelANewRecord)
-{
-    ASSERT_TRUE(loadKept());
-    hands->choose(8, 1);
-    write(u"id"_s, u"2000"_s);
-    write(u"name"_s, u"new"_s);
-    cancelWhileFrozen([this] { hands->click(u"AllRecord"_s); });
-    const QStringList texts = takeMessages();
-    ASSERT_EQ(texts.size(), 1);
-    EXPECT_EQ(texts.front(), u"记录没有保存："_s + cancelled);
-    thaw();
-    EXPECT_EQ(ask(u"SELECT count(*) FROM kept"_s), u"1000"_s);
-    hands->click(u"AllRecord"_s);
-    EXPECT_EQ(takeMessages(), QStringList());
-    EXPECT_EQ(ask(u"SELECT name FROM kept WHERE id = 2000"_s), u"new"_s);
-    EXPECT_EQ(hands->rows(), 1001);
-}
-
-TEST_P(FrozenServer, LetsTheUserCancelADeletion)
-{
-    ASSERT_TRUE(loadKept());
-    hands->messages.answerNext(QMessageBox::Yes);
-    cancelWhileFrozen([this] { hands->choose(9, 1); });
-    const std::vector<ShownMessage> shown = hands->messages.shown();
-    ASSERT_EQ(shown.size(), 2U);
-    EXPECT_TRUE(shown.back().cause.contains(cancelled)) << qUtf8Printable(shown.back().cause);
-    hands->messages.clear();
-    expectKept();
-    thaw();
-    EXPECT_EQ(ask(u"SELECT count(*) FROM kept"_s), u"1000"_s);
-    hands->messages.answerNext(QMessageBox::Yes);
-    hands->choose(9, 1);
-    hands->messages.clear();
-    EXPECT_EQ(ask(u"SELECT count(*) FROM kept"_s), u"999"_s);
-    EXPECT_EQ(hands->rows(), 999);
-}
-
-// What the host does meanwhile neither disturbs a change nor gets lost in it.
-TEST_P(FrozenServer, LetsTheHostReadButNotChangeMeanwhile)
-{
-    ASSERT_TRUE(loadKept());
-    write(u"name"_s, u"mine"_s);
-    QStringList read;
-    int rows = -1;
-    QTimer host;
-    QObject::connect(&host, &QTimer::timeout, &host, [&] {
-        if (!progressLine() || rows >= 0)
-            return;
-        read = hands->texts(u"name"_s);
-        hands->grid.Clear();
-        hands->grid.ClearObject();
-        EXPECT_FALSE(hands->grid.IsLoadData());
-        hands->grid.LocateSelRecord(5);
-        hands->grid.SetSortFN();
-        rows = hands->rows();
-    });
-    host.start(5);
-    cancelWhileFrozen([this] { hands->click(u"AllRecord"_s); });
-    EXPECT_EQ(rows, 1000);
-    EXPECT_EQ(read.size(), 1000);
-    const QStringList texts = takeMessages();
-    EXPECT_EQ(texts, QStringList(u"记录没有保存："_s + cancelled)) << qUtf8Printable(texts.join(u'|'));
-    EXPECT_EQ(hands->listed(u"name"_s), u"mine"_s);
-    expectKept();
-}
-
-// A control that goes while it saves leaves the rest to the thread that waits.
-TEST_P(FrozenServer, LetsTheHostDeleteTheControlMeanwhile)
-{
-    auto other = std::make_unique<KOVAVSFDataGrid>();
-    other->resize(900, 500);
-    other->show();
-    other->PutConnectionString(connection());
-    other->PutSQLShow(u"SELECT * FROM kept ORDER BY id"_s);
-    ASSERT_TRUE(other->IsLoadData());
-    QObject *field = nullptr;
-    QMetaObject::invokeMethod(other->RecordSet(), "Fields", Q_RETURN_ARG(QObject *, field),
-                              Q_ARG(QString, u"name"_s));
-    ASSERT_TRUE(field);
-    ASSERT_TRUE(field->setProperty("Value", u"gone"_s));
-    freeze();
-    QTimer host;
-    QObject::connect(&host, &QTimer::timeout, &host, [&] {
-        if (!progressLine() || !other)
-            return;
-        other.reset();
-        thaw();
-    });
-    host.start(5);
-    other->findChild<QAction *>(u"Sort"_s)->trigger(); // which saves first
-    EXPECT_EQ(other, nullptr);
-    takeMessages();
-    // Whatever became of it, it is whole and nothing holds it.
-    EXPECT_TRUE(QStringList({u"name 1"_s, u"gone"_s}).contains(stored(u"name"_s)));
-}
-
 // The values are there, and only how many more there are is not.
-TEST_P(FrozenServer, LetsTheUserPickAValueWhileTheOthersAreCounted)
+TEST_P(FrozenServerReading, LetsTheUserPickAValueWhileTheOthersAreCounted)
 {
     LoopbackProxy proxy(LoopbackProxy::portOf(connection()), freezeOn("COUNT(DISTINCT"));
     hands->grid.PutConnectionString(proxy.in(connection()));

@@ -102,6 +102,25 @@ TEST(FilterCondition, DecimalsOfASecondAreWrittenAsTyped)
     EXPECT_TRUE(sql(FieldClass::Date, Equals, u"2024-05-01 00:00:00.000001"_s).starts_with("fault"));
 }
 
+TEST(FilterCondition, AZoneIsTakenWhereTheEngineHasALiteralForIt)
+{
+    const Dialect postgres{dbSQLServer, true, false, Engine::PostgreSQL};
+    const auto moment = FieldClass::Moment;
+    const auto equal = [&](const QString &typed) { return sql(moment, Equals, typed, {}, postgres); };
+    EXPECT_EQ(equal(u"2024-05-01 12:00:00.123456+08"_s), "F = TIMESTAMPTZ '2024-05-01 12:00:00.123456+08'");
+    EXPECT_EQ(equal(u"2024-05-01 12:00 -03:30"_s), "F = TIMESTAMPTZ '2024-05-01 12:00:00-03:30'");
+    EXPECT_EQ(equal(u"2024-05-01T12:00:00Z"_s), "F = TIMESTAMPTZ '2024-05-01 12:00:00+00'");
+    EXPECT_EQ(equal(u"1900-01-01 08:05:43+08:05:43"_s), "F = TIMESTAMPTZ '1900-01-01 08:05:43+08:05:43'");
+    EXPECT_EQ(equal(u"2024-05-01 12:00:00"_s), "F = {ts '2024-05-01 12:00:00'}") << "in the session's zone";
+    for (const QString &typed : {u"2024-05-01 12:00+8"_s, u"2024-05-01 +08"_s, u"2024-05-01 12:00+08:0"_s})
+        EXPECT_TRUE(equal(typed).starts_with("fault")) << typed.toStdString();
+    EXPECT_TRUE(sql(moment, Equals, u"2024-05-01 12:00:00+08"_s).starts_with("fault"));
+    EXPECT_TRUE(sql(FieldClass::Date, Equals, u"2024-05-01 00:00+08"_s, {}, postgres).starts_with("fault"));
+    // By the moment that is meant, not by the clock.
+    EXPECT_EQ(sql(moment, Between, u"2024-05-01 12:00+08"_s, u"2024-05-01 05:00+00"_s, postgres),
+              "(F >= TIMESTAMPTZ '2024-05-01 12:00:00+08' AND F <= TIMESTAMPTZ '2024-05-01 05:00:00+00')");
+}
+
 TEST(FilterCondition, AnEmptyTextIsAsEmptyAsNoText)
 {
     EXPECT_EQ(sql(FieldClass::Text, IsEmpty), "(F IS NULL OR F = '')");

@@ -202,9 +202,8 @@ TEST_P(EngineValues, AMomentCanBeTypedAsItIsShown)
     EXPECT_EQ(shown(u"a_moment"_s), other) << "read again";
 }
 
-// PostgreSQL shows the zone of the session behind it. A zone that is typed is refused: where a field has
-// none, the server would drop it without a word.
-TEST_P(EngineValues, AMomentWithATimeZoneIsTypedInTheSessions)
+// PostgreSQL shows the zone of the session behind it. Without one, what is typed is in the session's.
+TEST_P(EngineValues, AMomentWithATimeZoneIsTypedInTheSessionsOrItsOwn)
 {
     if (!isPostgres())
         GTEST_SKIP() << "only PostgreSQL has a type for it";
@@ -217,17 +216,46 @@ TEST_P(EngineValues, AMomentWithATimeZoneIsTypedInTheSessions)
     ASSERT_TRUE(first.startsWith(typed)) << qUtf8Printable(first);
     const QString zone = first.sliced(typed.size());
     EXPECT_FALSE(zone.isEmpty());
-    filterMoments(typed);
-    EXPECT_EQ(hands->texts(u"a_moment"_s), QStringList(first)) << qUtf8Printable(hands->statement());
-    hands->click(u"ToPreview"_s);
-    ASSERT_EQ(hands->rows(), 2);
+    const QString elsewhere =
+        database->ask(u"SELECT to_char(a_moment AT TIME ZONE 'UTC' + INTERVAL '5:45', "
+                      "'YYYY-MM-DD HH24:MI:SS.US') || '+05:45' FROM journey_values WHERE id=1"_s);
+    for (const QString &text : {typed, first, elsewhere}) {
+        filterMoments(text);
+        EXPECT_EQ(hands->texts(u"a_moment"_s), QStringList(first)) << qUtf8Printable(hands->statement());
+        hands->click(u"ToPreview"_s);
+        ASSERT_EQ(hands->rows(), 2);
+    }
 
+    QString before = first;
     const QString other = typed.chopped(1) + u'7';
-    replaceMoment(first, other);
-    EXPECT_TRUE(hands->messages.texts().isEmpty()) << qUtf8Printable(hands->messages.texts().join(u'|'));
-    hands->click(u"ToOrigin"_s);
-    EXPECT_EQ(shown(u"a_moment"_s), other + zone);
-    EXPECT_EQ(hands->texts(u"a_moment"_s).at(1), u"2024-07-01 12:00:01"_s + zone);
+    const std::pair<QString, QString> changes[] = {
+        {other, other}, {first, typed}, {elsewhere.chopped(7) + u"7+05:45"_s, other}};
+    for (const auto &[replacement, stored] : changes) {
+        replaceMoment(before, replacement);
+        EXPECT_TRUE(hands->messages.texts().isEmpty()) << qUtf8Printable(hands->messages.texts().join(u'|'));
+        hands->click(u"ToOrigin"_s);
+        before = stored + zone;
+        EXPECT_EQ(shown(u"a_moment"_s), before) << qUtf8Printable(replacement);
+        EXPECT_EQ(hands->texts(u"a_moment"_s).at(1), u"2024-07-01 12:00:01"_s + zone);
+    }
+}
+
+// Each engine writes it in its own way.
+TEST_P(EngineValues, ANumberWithAnExponentIsFoundAsItIsShown)
+{
+    for (const char *record : {"1,1e19", "2,-2.5e-10", "3,2", "4,1e20"})
+        insert(u"real_number"_s, QString::fromLatin1(record));
+    ASSERT_TRUE(load());
+    const QStringList numbers{u"1E+19"_s, u"-2.5E-10"_s, u"2"_s, u"1E+20"_s};
+    ASSERT_EQ(hands->texts(u"real_number"_s), numbers);
+    for (const qsizetype row : {0, 1, 3}) {
+        WindowAnswers dialogs(
+            {[&](QDialog &dialog) { Hands::find(dialog, numbers.at(row), u"real_number"_s); }});
+        hands->click(u"QuickFilter"_s);
+        EXPECT_EQ(hands->texts(u"id"_s), QStringList(QString::number(row + 1)))
+            << qUtf8Printable(hands->statement());
+        hands->click(u"ToPreview"_s);
+    }
 }
 
 // A fraction is hardly ever exactly what is shown of it.

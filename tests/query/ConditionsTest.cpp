@@ -66,6 +66,25 @@ TEST(QuickFilter, WritesForAccessWhatTheEngineReads)
     EXPECT_EQ(written(Engine::MySQL), u" (`A B` LIKE '%x%' OR name LIKE '%x%' OR `a]b` LIKE '%x%' ) "_s);
 }
 
+TEST(QuickFilter, FindsWholeValuesThatTheEngineWritesOtherwise)
+{
+    const std::vector<TypedField> fields{{u"A"_s, 202}, {u"D"_s, 5}, {u"B"_s, 11}};
+    const auto written = [&](const QString &word, const EngineMode &engine) {
+        QString condition;
+        EXPECT_TRUE(BuildLikeCondition(word, fields, kFromT, dbSQLServer, condition, engine));
+        return condition;
+    };
+    const QString likes = u" (A LIKE '%%1%' OR D LIKE '%%1%' OR B LIKE '%%1%' "_s;
+    EXPECT_EQ(written(u"1E+19"_s, Engine::SQLite),
+              likes.arg(u"1E+19"_s) + u"OR D BETWEEN 9.999999999999951e+18 AND 1.000000000000005e+19 ) "_s);
+    EXPECT_EQ(written(u"true"_s, Engine::SQLite), likes.arg(u"true"_s) + u"OR B <> 0 ) "_s);
+    EXPECT_EQ(written(u"False"_s, Engine::SQLite), likes.arg(u"False"_s) + u"OR B = 0 ) "_s);
+    for (const QString &word : {u"19"_s, u"E+19"_s, u"1E"_s, u"tru"_s, u"0E1"_s})
+        EXPECT_EQ(written(word, Engine::SQLite), likes.arg(word) + u") "_s);
+    EXPECT_EQ(written(u"1E+19"_s, Engine::Other), likes.arg(u"1E+19"_s) + u") "_s);
+    EXPECT_EQ(written(u"True"_s, Engine::Other), likes.arg(u"True"_s) + u") "_s);
+}
+
 TEST(QuickFilter, LeavesOutFieldsThatCannotBeSearchedOnAccess)
 {
     EXPECT_EQ(like(dbAccess, u"x"_s, {{u"A"_s, 11}, {u"B"_s, 3}}), u" (T.[B] LIKE '%x%' ) "_s);

@@ -116,7 +116,8 @@ bool isByName(const ConnectionString &words)
 
 } // namespace
 
-ConnectionString inOdbcWords(const ConnectionString &connection, const QStringList &installed, int bits)
+ConnectionString inOdbcWords(const ConnectionString &connection,
+                             const std::function<QStringList()> &installed, int bits)
 {
     const QString provider = connection.value(u"Provider"_s);
     const auto kind = isForAccess(connection) ? OleDbKind::Access : oleDbKind(provider);
@@ -134,7 +135,7 @@ ConnectionString inOdbcWords(const ConnectionString &connection, const QStringLi
 
     OdbcDriver driver;
     if (!isByName(words)) {
-        driver = driverFor(*kind, connection.value(u"Driver"_s), installed, bits);
+        driver = driverFor(*kind, connection.value(u"Driver"_s), installed(), bits);
         words.remove(u"DSN"_s);
         words.remove(u"FILEDSN"_s);
     }

@@ -5,8 +5,10 @@
 #include "ado/ValueText.h"
 #include "ado/providers/Provider.h"
 #include "ado/rows/Snapshot.h"
+#include "ado/values/DateText.h"
 #include "ado/values/FieldValue.h"
 
+#include <algorithm>
 #include <new>
 
 namespace ADODB {
@@ -24,6 +26,24 @@ void showSaved(Action &&action)
     } catch (const std::bad_alloc &) {
         throw Error(dbErrInDoubt, Texts::savedUnseen().arg(Texts::outOfMemory()));
     }
+}
+
+bool isZonedMoment(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QString &&
+           DateText::isZonedMoment(value.toString().trimmed().toUtf8());
+}
+
+// Whether the field keeps zones, as its values show. Where it doesn't, a database would drop the zone without
+// a word.
+bool showsZones(const Snapshot &snapshot, int column)
+{
+    constexpr qint64 recordsLookedAt = 1000;
+    for (qint64 record = 1; record <= std::min(snapshot.records(), recordsLookedAt); ++record) {
+        if (!snapshot.isNull(record, column))
+            return DateText::isZonedMoment(snapshot.text(record, column).toUtf8());
+    }
+    return false;
 }
 
 } // namespace
@@ -60,7 +80,11 @@ void RecordEditor::set(int column, const QVariant &value, const Snapshot &snapsh
     if (!writer().isWritable(column))
         throw Error(adErrFeatureNotAvailable, Texts::readOnlyField().arg(field.name));
     bool ok = false;
-    const QVariant converted = FieldValue::convert(value, field.type, &ok);
+    QVariant converted = FieldValue::convert(value, field.type, &ok);
+    if (!ok && isZonedMoment(value) && showsZones(snapshot, column)) {
+        converted = ValueText(value).trimmed();
+        ok = true;
+    }
     if (!ok) {
         const bool binary = value.typeId() == QMetaType::QByteArray;
         throw Error(adErrDataConversion,
@@ -75,6 +99,7 @@ void RecordEditor::cancel()
 {
     m_mode = adEditNone;
     m_values.clear();
+    m_isInDoubt = false;
 }
 
 std::vector<Change> RecordEditor::changes() const
@@ -96,10 +121,38 @@ void RecordEditor::saveNew(Snapshot &snapshot)
 
 void RecordEditor::saveChanges(Snapshot &snapshot, qint64 record)
 {
-    RowStore stored(snapshot.columns());
-    writer().update(snapshot.raw(record), changes(), stored);
-    showSaved([&] { snapshot.replace(record, stored); });
+    try {
+        const RowStore stored = update(snapshot, record);
+        showSaved([&] { snapshot.replace(record, stored); });
+    } catch (const Error &error) {
+        m_isInDoubt = m_isInDoubt || error.is(dbErrInDoubt);
+        throw;
+    }
     cancel();
+}
+
+RowStore RecordEditor::update(const Snapshot &snapshot, qint64 record) const
+{
+    RowStore stored(snapshot.columns());
+    try {
+        writer().update(snapshot.raw(record), changes(), stored);
+        return stored;
+    } catch (const Error &error) {
+        if (!m_isInDoubt || !error.is(dbErrConcurrency))
+            throw;
+        // What has changed the record may be the attempt before this one, whose answer never came.
+        RowStore now(snapshot.columns());
+        if (!writer().read(snapshot.raw(record), now) || now.rows() != 1 ||
+            !holdsChanges(Snapshot(snapshot.fields(), now)))
+            throw;
+        return now;
+    }
+}
+
+bool RecordEditor::holdsChanges(const Snapshot &row) const
+{
+    return std::all_of(m_values.begin(), m_values.end(),
+                       [&](const auto &change) { return row.value(1, change.first) == change.second; });
 }
 
 RowStore RecordEditor::readAgain(const Snapshot &snapshot, qint64 record) const

@@ -36,7 +36,8 @@ public:
     void set(int column, const QVariant &value, const Snapshot &snapshot);
     void cancel();
 
-    // Both end the edit when they succeed and keep it when they throw.
+    // Both end the edit when they succeed and keep it when they throw. After dbErrInDoubt, the next attempt
+    // to save changes finds out whether they were saved.
     void saveNew(Snapshot &snapshot);
     void saveChanges(Snapshot &snapshot, qint64 record);
     // Deletes a record, whatever is pending.
@@ -48,11 +49,14 @@ public:
 private:
     RowWriter &writer() const;
     std::vector<Change> changes() const;
+    RowStore update(const Snapshot &snapshot, qint64 record) const;
+    bool holdsChanges(const Snapshot &row) const;
 
     std::unique_ptr<RowWriter> m_writer;
     QString m_whyReadOnly;
     EditModeEnum m_mode = adEditNone;
     std::map<int, QVariant> m_values;
+    bool m_isInDoubt = false; // the changes may have been saved
 };
 
 } // namespace ADODB

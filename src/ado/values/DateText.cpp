@@ -37,6 +37,18 @@ bool hasFinerDecimals(QByteArrayView text, qsizetype held)
            digits(text, held, text.size() - held) >= 0;
 }
 
+// hh, hhmm, hh:mm or hh:mm:ss
+bool isOffsetOf(QByteArrayView text)
+{
+    const bool hasColons = text.size() > 2 && text[2] == ':';
+    const bool isLong = hasColons && text.size() == 8;
+    if (text.size() != 2 && text.size() != (hasColons ? 5 : 4) && !isLong)
+        return false;
+    const qsizetype minutes = hasColons ? 3 : 2;
+    return digits(text, 0, 2) >= 0 && (text.size() == 2 || digits(text, minutes, 2) >= 0) &&
+           (!isLong || (text[5] == ':' && digits(text, 6, 2) >= 0));
+}
+
 } // namespace
 
 QDate date(QByteArrayView text)
@@ -84,6 +96,20 @@ bool isFinerMoment(QByteArrayView text)
 {
     constexpr qsizetype held = sizeof("yyyy-MM-dd HH:mm:ss.zzz") - 1;
     return hasFinerDecimals(text, held) && moment(text.first(held)).isValid();
+}
+
+bool isZonedMoment(QByteArrayView text)
+{
+    constexpr qsizetype shortest = sizeof("yyyy-MM-dd HH:mm") - 1;
+    const auto isSign = [](char c) { return c == '+' || c == '-' || c == 'Z'; };
+    const auto sign = std::find_if(text.begin() + std::min(shortest, text.size()), text.end(), isSign);
+    if (sign == text.end())
+        return false;
+    const qsizetype at = sign - text.begin();
+    const QByteArrayView zone = text.sliced(at + 1);
+    const QByteArrayView local = text.first(at - (text[at - 1] == ' ' ? 1 : 0));
+    const bool isOffset = *sign == 'Z' ? zone.isEmpty() : isOffsetOf(zone);
+    return isOffset && (moment(local).isValid() || isFinerMoment(local));
 }
 
 } // namespace ADODB::DateText

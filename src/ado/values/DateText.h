@@ -20,4 +20,8 @@ QDateTime moment(QByteArrayView text);
 bool isFinerTime(QByteArrayView text);
 bool isFinerMoment(QByteArrayView text);
 
+// Whether it is a moment with a zone behind it: an offset such as +08, -03:30 or Z, with or without a blank
+// before it.
+bool isZonedMoment(QByteArrayView text);
+
 } // namespace ADODB::DateText

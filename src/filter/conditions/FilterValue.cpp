@@ -65,20 +65,32 @@ double rankOf(const QDateTime &moment)
     return static_cast<double>(moment.toMSecsSinceEpoch());
 }
 
-struct DayAndRest
+struct MomentParts
 {
-    QDate day; // invalid when the text does not begin with one
-    QString rest;
+    QDate day;    // invalid when the text does not begin with one
+    QString time; // what follows it, but for the zone
+    QString zone; // an offset such as +08 or -03:30, where there is one
 };
 
-DayAndRest splitMoment(const QString &typed)
+MomentParts splitMoment(const QString &typed)
 {
-    static const QRegularExpression form(u"\\A([^ T]*)(?:[ T]+(.*))?\\z"_s);
-    const auto match = form.match(narrow(typed));
+    static const QRegularExpression form(
+        uR"(\A([^ T]*)(?:[ T]+(.*?) ?([Zz]|[-+][0-9]{2}(?::?[0-9]{2}){0,2})?)?\z)"_s);
+    const auto match = form.match(narrow(typed).replace(u'−', u'-'));
     // Relative days and months are no one day, whatever day it is today.
     const auto days = readDays(match.captured(1), {});
     const bool isDay = days && days->first.addDays(1) == days->end;
-    return {isDay ? days->first : QDate(), match.captured(2)};
+    const QString zone = match.captured(3);
+    return {isDay ? days->first : QDate(), match.captured(2),
+            zone.compare(u'Z', Qt::CaseInsensitive) == 0 ? u"+00"_s : zone};
+}
+
+// What a clock in such a zone is ahead of UTC.
+int secondsOf(const QString &zone)
+{
+    const QString digits = zone.sliced(1).remove(u':').leftJustified(6, u'0');
+    const int seconds = digits.left(2).toInt() * 3600 + digits.mid(2, 2).toInt() * 60 + digits.mid(4).toInt();
+    return zone.startsWith(u'-') ? -seconds : seconds;
 }
 
 std::optional<FilterValue> readMoment(const Dialect &dialect, const QString &typed, QDate today)
@@ -89,11 +101,18 @@ std::optional<FilterValue> readMoment(const Dialect &dialect, const QString &typ
                            .rank = rankOf(days->first.startOfDay(Qt::UTC)),
                            .lastRank = rankOf(days->end.startOfDay(Qt::UTC)) - 1};
     }
-    const auto [day, rest] = splitMoment(typed);
-    const TypedTime typedTime = readTime(rest);
+    const auto [day, time, zone] = splitMoment(typed);
+    const TypedTime typedTime = readTime(time);
     if (!day.isValid() || !typedTime.time.isValid())
         return std::nullopt;
-    const QDateTime moment(day, typedTime.time, Qt::UTC);
+    QDateTime moment(day, typedTime.time, Qt::UTC);
+    if (!zone.isEmpty()) {
+        const QString literal = zonedMomentLiteral(dialect, moment, typedTime.finer, zone);
+        if (literal.isEmpty())
+            return std::nullopt;
+        moment = moment.addSecs(-secondsOf(zone));
+        return FilterValue{.literal = literal, .rank = rankOf(moment), .lastRank = rankOf(moment)};
+    }
     return FilterValue{.literal = momentLiteral(dialect, moment, typedTime.finer),
                        .rank = rankOf(moment),
                        .lastRank = rankOf(moment)};
@@ -103,8 +122,8 @@ std::optional<FilterValue> readDate(const Dialect &dialect, const QString &typed
 {
     auto days = readDays(typed, today);
     if (!days) {
-        const auto [day, rest] = splitMoment(typed);
-        if (!day.isValid() || rest.isEmpty() || !readTime(rest).isMidnight())
+        const auto [day, time, zone] = splitMoment(typed);
+        if (!day.isValid() || !zone.isEmpty() || time.isEmpty() || !readTime(time).isMidnight())
             return std::nullopt;
         days = {day, day.addDays(1)};
     }
@@ -163,9 +182,9 @@ QDate dayOf(const QString &typed)
 
 bool hasTimeOfDay(const QString &typed)
 {
-    const auto [day, rest] = splitMoment(typed);
-    const TypedTime typedTime = readTime(rest);
-    return day.isValid() && typedTime.time.isValid() && !typedTime.isMidnight();
+    const MomentParts parts = splitMoment(typed);
+    const TypedTime typedTime = readTime(parts.time);
+    return parts.day.isValid() && typedTime.time.isValid() && !typedTime.isMidnight();
 }
 
 QString whyNoFilterValue(FieldClass fieldClass, const QString &typed)

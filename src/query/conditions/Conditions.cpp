@@ -6,6 +6,7 @@
 #include "sql/Like.h"
 #include "sql/Literals.h"
 #include "sql/Names.h"
+#include "sql/Predicates.h"
 #include "sql/select/SelectParts.h"
 
 #include <algorithm>
@@ -56,6 +57,7 @@ bool isBinary(std::optional<qint32> adoType)
 constexpr qint32 singleType = 4;
 constexpr qint32 doubleType = 5;
 constexpr qint32 currencyType = 6;
+constexpr qint32 booleanType = 11;
 constexpr qint32 guidType = 72;
 
 // Where the engine isn't known, currency is left out as it always was.
@@ -69,7 +71,30 @@ struct SearchedField
 {
     QString operand;
     bool holdsLetters = true;
+    QString name = {};
+    qint32 adoType = 0;
 };
+
+// The comparison that finds a whole value where the engine's own text of it isn't the one that is shown: of a
+// number with an exponent, and of a Boolean. Empty where there is no such difference.
+QString conditionOfShown(const SearchedField &field, const QString &word, const Dialect &dialect)
+{
+    if (dialect.engine == Engine::Other)
+        return {};
+    if (field.adoType == booleanType) {
+        const bool isTrueWord = word.compare(u"True", Qt::CaseInsensitive) == 0;
+        const bool isFalseWord = word.compare(u"False", Qt::CaseInsensitive) == 0;
+        return isTrueWord || isFalseWord ? isTrue(dialect, field.name, isTrueWord) : QString();
+    }
+    const bool isDouble = field.adoType == doubleType;
+    if ((!isDouble && field.adoType != singleType) || !isNumberText(word) ||
+        !word.contains(u'e', Qt::CaseInsensitive))
+        return {};
+    const NumberRange range =
+        rangeShownAs(word, isDouble ? FloatSize::Double : FloatSize::Single, dialect.engine);
+    return range.isEmpty() ? QString()
+                           : QStringLiteral("%1 BETWEEN %2 AND %3").arg(field.name, range.from, range.to);
+}
 
 // Where the declared type is Access, the brackets that it reads stay as long as the engine reads them too.
 bool readsBrackets(Engine engine)
@@ -123,7 +148,7 @@ std::optional<std::vector<SearchedField>> searchedFields(std::span<const TypedFi
         const bool isDouble = field.adoType == doubleType;
         searched.push_back(
             {isDouble ? likeOperandOfDouble(mode.engine, *name) : likeOperand(mode.engine, *name),
-             (kind != u"1" && kind != u"3") || field.adoType == guidType});
+             (kind != u"1" && kind != u"3") || field.adoType == guidType, *name, field.adoType.value_or(0)});
     }
     return searched;
 }
@@ -150,12 +175,18 @@ QString literalOf(AllDBType database, const EngineMode &mode, const QString &tex
     return mode.isKnown() ? textWithoutClauses(dialect, text) : textLiteral(dialect, text);
 }
 
-QString wordCondition(const QStringList &operands, const QString &word, AllDBType database,
+QString wordCondition(const std::vector<SearchedField> &fields, const QString &word, AllDBType database,
                       const EngineMode &mode)
 {
     const QString pattern = QStringLiteral(" LIKE ") +
                             literalOf(database, mode, u'%' + likePattern(mode.engine, word) + u'%') + u' ';
-    return operands.join(pattern + QStringLiteral("OR ")) + pattern;
+    const QStringList operands = operandsFor(fields, word, mode.engine);
+    QString condition = operands.join(pattern + QStringLiteral("OR ")) + pattern;
+    for (const SearchedField &field : fields) {
+        if (const QString shown = conditionOfShown(field, word, dialectOf(database, mode)); !shown.isEmpty())
+            condition += QStringLiteral("OR ") + shown + u' ';
+    }
+    return condition;
 }
 
 bool isWhole(const QString &number)
@@ -265,8 +296,7 @@ bool BuildLikeCondition(const QString &strText, std::span<const TypedField> fiel
             return false;
         QStringList words;
         for (const QString &word : splitText(strText, QStringLiteral("%")))
-            words.append(QStringLiteral(" (") +
-                         wordCondition(operandsFor(*searched, word, mode.engine), word, database, mode) +
+            words.append(QStringLiteral(" (") + wordCondition(*searched, word, database, mode) +
                          QStringLiteral(") "));
         condition = words.join(QStringLiteral("And "));
     }

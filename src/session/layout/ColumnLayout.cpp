@@ -56,8 +56,11 @@ void ColumnLayout::ShowPartFieldColumns(PartWidths widths)
     const colDataFields &fields = m_history.DataFields();
     const QStringList headings = m_grid.Headings();
     if (std::none_of(headings.cbegin(), headings.cend(),
-                     [this](const QString &name) { return m_history.IsSelFieldPartField(name); }))
+                     [this](const QString &name) { return m_history.IsSelFieldPartField(name); })) {
+        if (widths == PartWidths::Kept)
+            ShowAllFieldColumns();
         return;
+    }
     for (int col = 1; col < m_grid.Cols(); ++col) {
         const QString &name = headings.at(col - 1);
         if (!m_history.IsSelFieldPartField(name)) {

@@ -40,7 +40,7 @@ public:
 
     // Keeps the grid's widths in the catalogue.
     void SaveColumnWidths(HiddenWidths hidden = HiddenWidths::Unsaved);
-    // Hides what is no part field. Nothing is hidden while no column belongs to a part field.
+    // Hides what is no part field. While no column belongs to one, all of them are shown.
     void ShowPartFieldColumns(PartWidths widths);
     // Gives every field its kept width, which shows it. A column without a field keeps its own, unless it is
     // hidden: nothing else could bring it back.

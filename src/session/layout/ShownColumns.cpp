@@ -9,10 +9,24 @@ namespace KOVAVSFDataGridLib {
 
 ShownColumns::ShownColumns(Session &session) : m_session(session) {}
 
-void ShownColumns::setView(FieldView view)
+void ShownColumns::putView(FieldView view)
 {
     m_view = view;
+    m_lacksPartFields = false;
+}
+
+void ShownColumns::setView(FieldView view)
+{
+    putView(view);
     m_session.window().setPressed(view == FieldView::All ? CommandKeys::All : CommandKeys::Part, true);
+}
+
+void ShownColumns::showLoaded(const QString &partFields)
+{
+    const bool isPart = m_view == FieldView::Part || m_lacksPartFields;
+    const bool lacksPartFields = isPart && partFields.trimmed().isEmpty();
+    setView(isPart && !lacksPartFields ? FieldView::Part : FieldView::All);
+    m_lacksPartFields = lacksPartFields;
 }
 
 void ShownColumns::layOut()

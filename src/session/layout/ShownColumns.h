@@ -15,9 +15,12 @@ public:
 
     FieldView view() const { return m_view; }
     // What a host writes; nothing changes by it.
-    void putView(FieldView view) { m_view = view; }
+    void putView(FieldView view);
     // Shows that all or the part fields are shown.
     void setView(FieldView view);
+    // The same for a result that was loaded with these part fields. Without any all fields are shown, as by
+    // "Part".
+    void showLoaded(const QString &partFields);
     // Lays the columns out as the view wants them.
     void layOut();
 
@@ -30,6 +33,7 @@ private:
     Session &m_session;
     KeptWidths m_keptWidths;
     FieldView m_view = FieldView::All;
+    bool m_lacksPartFields = false; // all are shown for that alone; the next load shows part of its fields
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -10,7 +10,7 @@ namespace KOVAVSFDataGridLib {
 QString loadedTable(Session &session)
 {
     const clsShowSQLSentence *const first = session.history().Item(1);
-    return GetSQLTableName(first ? first->ShowSQL : session.shown().text());
+    return GetSQLTableName(first ? session.history().LineOf(first->ShowSQL) : session.shown().text());
 }
 
 } // namespace KOVAVSFDataGridLib

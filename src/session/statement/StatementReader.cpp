@@ -6,6 +6,7 @@
 #include "session/Questions.h"
 #include "session/ResultWatch.h"
 #include "session/SessionMessages.h"
+#include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/WindowRules.h"
 
@@ -67,7 +68,8 @@ std::optional<ResultSet::Opened> StatementReader::read(const QString &statement,
     if (statement.isEmpty())
         return std::nullopt;
     // What a filter manager was set up for stays right when another control sets another type meanwhile.
-    Reading reading = read(statement, m_session.filterManager().DBType(), refusal);
+    Reading reading =
+        read(m_session.history().LineOf(statement), m_session.filterManager().DBType(), refusal);
     return reading.outcome == Outcome::Done ? std::move(reading.opened) : std::nullopt;
 }
 

@@ -203,6 +203,53 @@ TEST_F(Filters, QuickFilterInOneField)
     EXPECT_EQ(texts(u"ID"_s), QStringList(u"5"_s));
 }
 
+TEST_F(Filters, QuickFilterInAFieldThatIsNotSearchedSaysSo)
+{
+    ASSERT_TRUE(load());
+    for (const QString &field : {u"停用"_s, u"图片"_s}) {
+        WindowAnswers dialogs({[&](QDialog &dialog) { find(dialog, u"True"_s, field); }});
+        click(u"QuickFilter"_s);
+        EXPECT_EQ(messages.texts(), QStringList(u"对不起，过滤操作不支持选中内容的数据类型！"_s))
+            << qUtf8Printable(field);
+        EXPECT_EQ(rows(), records);
+        messages.clear();
+    }
+}
+
+TEST_F(Filters, QuickFilterForSqlServerFindsBooleansAsTheyAreShown)
+{
+    grid.PutDBType(KOVAVSFDataGrid::dbSQLServer);
+    ASSERT_TRUE(load());
+    ASSERT_EQ(texts(u"停用"_s).first(), u"False"_s);
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"True"_s, u"停用"_s); },
+                           [](QDialog &dialog) { find(dialog, u"false"_s); }});
+    click(u"QuickFilter"_s);
+    EXPECT_EQ(texts(u"ID"_s), QStringList({u"3"_s, u"7"_s}));
+    click(u"ToPreview"_s);
+    click(u"QuickFilter"_s);
+    EXPECT_EQ(rows(), 9);
+    grid.PutDBType(KOVAVSFDataGrid::dbAccess);
+}
+
+TEST_F(Filters, AStatementWithoutFromIsFilteredAsAnyOther)
+{
+    grid.PutSQLShow(u"SELECT 1 AS A, 'x' AS B UNION ALL SELECT 2, 'y'"_s);
+    messages.clear(); // what is said of its missing FROM
+    ASSERT_TRUE(grid.IsLoadData());
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"y"_s); },
+                           [](QDialog &dialog) { filter(dialog, u"A = 1"_s); },
+                           [](QDialog &dialog) { sort(dialog, {u"A"_s}, true); }});
+    click(u"QuickFilter"_s);
+    EXPECT_EQ(texts(u"A"_s), QStringList(u"2"_s));
+    click(u"ToPreview"_s);
+    click(u"Filter"_s);
+    EXPECT_EQ(texts(u"A"_s), QStringList(u"1"_s));
+    click(u"ToOrigin"_s);
+    click(u"Sort"_s);
+    EXPECT_EQ(texts(u"A"_s), QStringList({u"2"_s, u"1"_s}));
+    EXPECT_TRUE(messages.shown().empty()) << qUtf8Printable(messages.texts().join(u'|'));
+}
+
 TEST_F(Filters, QuickFilterForSqlServerWritesNamesWithoutTable)
 {
     grid.PutDBType(KOVAVSFDataGrid::dbSQLServer);

@@ -45,7 +45,7 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         engine.rowVersion = u"xmin"_s;
         engine.returning = true;
         engine.onlyTablesHaveKeys = true;
-        engine.asksAgain = engine.bendsDates = engine.rollbackClosesCursors =
+        engine.asksAgain = engine.bendsDates = engine.usesPortions =
             connection.info(SQL_DRIVER_NAME).contains("psqlodbc"_L1, Qt::CaseInsensitive);
         break;
     case Kind::MariaDb:

@@ -25,7 +25,11 @@ struct OdbcEngine
     // itself keeps functions in a query from that (SQL Server, Oracle) or knows no such thing.
     QString beginReading;
     QString endReading;
-    bool rollbackClosesCursors = false; // and the driver knows it
+    // Results are fetched in portions, from a cursor in the server that ends with the transaction.
+    // PostgreSQL's driver has cursors of its own, but it crashes when the server goes away while it fetches
+    // more rows from one.
+    bool usesPortions = false;
+    int portion = 0; // how many rows; 0 for all
     // After beginReading: has the engine plan queries for all their rows, as they are read. Not every engine
     // that goes by the name knows it.
     QString planForAllRows;

@@ -58,7 +58,8 @@ struct Default
     QStringView value;
 };
 
-// Without the first two the driver keeps a whole result in memory; without LFConversion it gives other line
+// With the first two the driver prepares a statement without a name, which it need not give up; it fetches
+// itself only what is not fetched for it, see OdbcEngine::portion. Without LFConversion it gives other line
 // ends than the database holds. The last leaves out the savepoints that the driver puts around each
 // statement: they cost trips, and between two portions of a result over foreign tables they make it fail.
 // Without them nothing more can be done in a transaction in which something failed, and nothing is.
@@ -100,16 +101,6 @@ QString quoted(const QString &keyword, const QString &value)
     return needed ? u'{' + QString(value).replace(u'}', "}}"_L1) + u'}' : value;
 }
 
-void checkInstalled(const QString &driver)
-{
-    const QStringList installed = odbcDrivers();
-    if (installed.contains(driver, Qt::CaseInsensitive) || QFileInfo(driver).isFile())
-        return;
-    throw Error(adErrProviderNotFound,
-                Texts::noDriver().arg(driver, installed.isEmpty() ? Texts::noneInstalled()
-                                                                  : installed.join(Texts::betweenNames())));
-}
-
 } // namespace
 
 OdbcLogin::OdbcLogin(const ConnectionString &connection)
@@ -124,9 +115,8 @@ OdbcLogin::OdbcLogin(const ConnectionString &connection)
     const QString source = connection.value(u"Data Source"_s);
     if (!source.isEmpty())
         put(contains(u"Driver") ? u"Server"_s : u"DSN"_s, source);
-    if (contains(u"Driver"))
-        checkInstalled(value(u"Driver"));
-    if (likelyEngine() == OdbcEngine::Kind::MariaDb)
+    m_likelyEngine = engineOfDriver();
+    if (m_likelyEngine == OdbcEngine::Kind::MariaDb)
         adaptToMariaDb();
 }
 
@@ -195,16 +185,44 @@ QStringList OdbcLogin::secrets() const
     return secrets;
 }
 
-OdbcEngine::Kind OdbcLogin::likelyEngine() const
+void OdbcLogin::checkDriver() const
+{
+    const QString driver = value(u"Driver");
+    if (!contains(u"Driver") || QFileInfo(driver).isFile())
+        return;
+    const QStringList installed = odbcDrivers();
+    if (!installed.contains(driver, Qt::CaseInsensitive)) {
+        throw Error(adErrProviderNotFound,
+                    Texts::noDriver().arg(driver, installed.isEmpty()
+                                                      ? Texts::noneInstalled()
+                                                      : installed.join(Texts::betweenNames())));
+    }
+}
+
+OdbcEngine::Kind OdbcLogin::engineOfDriver() const
 {
     QString driver = value(u"Driver");
-    for (const OdbcDataSource &source : odbcDataSources()) {
-        if (driver.isEmpty() && sameWord(source.name, dataSource()))
-            driver = source.driver;
+    if (driver.isEmpty() && !dataSource().isEmpty()) {
+        for (const OdbcDataSource &source : odbcDataSources()) {
+            if (driver.isEmpty() && sameWord(source.name, dataSource()))
+                driver = source.driver;
+        }
     }
     if (driver.contains("psql"_L1, Qt::CaseInsensitive))
         return OdbcEngine::Kind::PostgreSql;
     return OdbcEngine::kindNamed(driver);
+}
+
+int OdbcLogin::portion() const
+{
+    const auto number = [this](QStringView keyword, QStringView shortName) {
+        return value(contains(keyword) ? keyword : shortName).toInt();
+    };
+    if (number(u"UseDeclareFetch", u"B6") == 0)
+        return 0;
+    constexpr int usual = 5000; // of the defaults, for what is no number
+    const int rows = number(u"Fetch", u"A7");
+    return rows > 0 ? rows : usual;
 }
 
 bool OdbcLogin::addDefaults(OdbcEngine::Kind engine)

@@ -35,15 +35,24 @@ Registry &registry()
     return theRegistry;
 }
 
+// Of a driver that it can't find, one manager says that there is no such data source, another warns that it
+// can't open a file.
+bool isFromManager(const Error &error)
+{
+    return error.SQLState().startsWith("IM"_L1) || error.SQLState().startsWith("01"_L1);
+}
+
 std::unique_ptr<OdbcConnection> connectTo(const OdbcLogin &login)
 {
     auto connection = std::make_unique<OdbcConnection>();
     try {
         connection->connect(login.text(), login.connectTimeout(), login.secrets());
     } catch (const Error &error) {
+        // The driver manager's own words are of no help to anybody who reads no English.
+        if (isFromManager(error))
+            login.checkDriver();
         if (error.SQLState() != "IM002"_L1)
             throw;
-        // The driver manager's own words are of no help to anybody who reads no English.
         QStringList names;
         for (const OdbcDataSource &source : odbcDataSources())
             names += source.name;
@@ -94,6 +103,8 @@ void OdbcPool::connectFirst()
         connection.reset();
         connection = connectTo(m_login);
     }
+    if (m_engine.usesPortions)
+        m_engine.portion = m_login.portion();
     m_isShared = m_engine.isServer();
     connection->setIdle();
     m_idle.push_back(std::move(connection));

@@ -32,7 +32,7 @@ bool OdbcProvider::claims(const ConnectionString &connection) const
 
 std::shared_ptr<Session> OdbcProvider::open(const ConnectionString &connection) const
 {
-    OdbcLogin login(inOdbcWords(connection, odbcDrivers()));
+    OdbcLogin login(inOdbcWords(connection, odbcDrivers));
     const int commandTimeout = login.commandTimeout();
     const auto pool = std::make_shared<std::shared_ptr<OdbcPool>>();
     Watched watched;

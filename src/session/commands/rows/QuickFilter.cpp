@@ -1,4 +1,5 @@
 #include "ado/Recordset.h"
+#include "query/QueryTexts.h"
 #include "query/conditions/Conditions.h"
 #include "session/Questions.h"
 #include "session/Session.h"
@@ -46,14 +47,16 @@ std::optional<QString> askUser(Session &session, const FilterManagerRollback &ro
             catalogue.Remove(field.FieldKey);
     }
     const std::optional<FindAnswer> answer = session.questions().askWords(catalogue);
-    QString condition;
-    if (!answer || !rollback.isResultUntouched() ||
-        !BuildLikeCondition(
-            answer->text,
-            searchedFields(*answer, rollback.manager().SQLManager(), session.result().recordset()->Fields()),
-            latest, rollback.manager().DBType(), condition, session.result().engine()))
+    if (!answer || !rollback.isResultUntouched())
         return {};
-    return condition;
+    const auto fields = searchedFields(*answer, history, session.result().recordset()->Fields());
+    QString condition;
+    if (BuildLikeCondition(answer->text, fields, history.LineOf(latest), rollback.manager().DBType(),
+                           condition, session.result().engine()))
+        return condition;
+    if (answer->isOneField) // the records that stay don't say why
+        session.questions().show(QueryTexts::TypeNotFiltered);
+    return {};
 }
 
 void quickFilter(Session &session)

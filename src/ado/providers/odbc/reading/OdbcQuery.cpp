@@ -5,13 +5,16 @@
 #include "ado/providers/odbc/OdbcWatch.h"
 #include "ado/providers/odbc/reading/OdbcBlockReader.h"
 #include "ado/providers/odbc/reading/OdbcDescription.h"
+#include "ado/providers/odbc/reading/OdbcRefusal.h"
 #include "ado/providers/odbc/reading/OdbcValueReader.h"
+#include "ado/rows/RowStore.h"
 #include "ado/values/FieldValue.h"
 #include "sql/SqlScanner.h"
 
 #include <QtCore/QStringList>
 
 #include <algorithm>
+#include <atomic>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -33,6 +36,17 @@ OdbcColumn columnOf(const FieldInfo &field, bool loose)
     const OdbcTypes::Form form = OdbcTypes::formOf(field.type, loose);
     const bool isSized = FieldValue::isText(field.type) || form == OdbcTypes::Form::Bytes;
     return {form, isSized ? field.definedSize : longestAsText};
+}
+
+// False when the rows have to be read again, value by value.
+bool appendAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch)
+{
+    while (reader.fetch(watch)) {
+        if (!reader.append(rows))
+            return false;
+        watch.ask(rows);
+    }
+    return true;
 }
 
 } // namespace
@@ -89,15 +103,23 @@ void OdbcQuery::askForDatesAsText()
     m_statement->prepare(m_text);
 }
 
-void OdbcQuery::read(RowStore &rows, int timeout, const std::function<void()> &atEnd)
+void OdbcQuery::readResult(RowStore &rows, int timeout)
+{
+    const bool hasCursor =
+        m_engine.portion > 0 && isExplainable(SqlScanner(m_text, m_engine.dialect, m_engine.quoting));
+    if (hasCursor && readPortions(rows, timeout))
+        return;
+    rows.clear();
+    read(rows, timeout);
+}
+
+void OdbcQuery::read(RowStore &rows, int timeout)
 {
     const OdbcWatch watch(*m_statement, timeout);
     bool done = false;
     if (m_engine.asksAgain || OdbcBlockReader::haveRoom(m_columns)) {
         OdbcBlockReader reader(*m_statement, m_columns, m_engine.asksAgain);
         done = readAll(reader, rows, watch);
-        if (done && atEnd)
-            atEnd();
     }
     if (!done) {
         rows.clear();
@@ -109,7 +131,6 @@ void OdbcQuery::read(RowStore &rows, int timeout, const std::function<void()> &a
     SQLFreeStmt(m_statement->get(), SQL_CLOSE);
 }
 
-// False when the rows have to be read again, value by value.
 bool OdbcQuery::readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch)
 {
     SQLHSTMT const statement = m_statement->get();
@@ -117,12 +138,33 @@ bool OdbcQuery::readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &wat
     if (code == SQL_NO_DATA) // a change that found no row and so returns none
         return true;
     m_statement->check(code);
-    while (reader.fetch(watch)) {
-        if (!reader.append(rows))
+    return appendAll(reader, rows, watch);
+}
+
+// The first portion comes with the answer that the cursor is there.
+bool OdbcQuery::readPortions(RowStore &rows, int timeout) const
+{
+    static std::atomic<quint64> cursors = 0;
+    const QString cursor = u"kova_%1"_s.arg(++cursors);
+    const QString next = u"FETCH %1 FROM %2"_s.arg(m_engine.portion).arg(cursor);
+    const OdbcHandle portions(m_connection);
+    SQLHSTMT const handle = portions.get();
+    const OdbcWatch watch(portions, timeout);
+    OdbcBlockReader reader(portions, m_columns, m_engine.asksAgain);
+    const auto execute = [&](const QString &sql) {
+        portions.check(watch.run(
+            [&] { return SQLExecDirectW(handle, wide(sql), static_cast<SQLINTEGER>(sql.size())); }));
+    };
+    execute(u"DECLARE %1 NO SCROLL CURSOR FOR\n"_s.arg(cursor) + m_text + "\n;"_L1 + next);
+    portions.check(watch.run([&] { return SQLMoreResults(handle); }));
+    for (qint64 before = 0;; before = rows.rows()) {
+        if (!appendAll(reader, rows, watch))
             return false;
-        watch.ask(rows);
+        if (rows.rows() - before < m_engine.portion)
+            return true;
+        SQLFreeStmt(handle, SQL_CLOSE);
+        execute(next);
     }
-    return true;
 }
 
 } // namespace ADODB

@@ -3,7 +3,6 @@
 #include "ado/FieldInfo.h"
 #include "ado/providers/odbc/reading/OdbcReader.h"
 
-#include <functional>
 #include <memory>
 
 namespace ADODB {
@@ -29,14 +28,16 @@ public:
     // For binding parameters.
     const OdbcHandle &handle() const { return *m_statement; }
 
-    // Runs it and appends all rows. `atEnd` is called after the last one, while the cursor is still open. See
-    // OdbcWatch for the errors.
-    void read(RowStore &rows, int timeout, const std::function<void()> &atEnd = {});
+    // Runs it and appends all rows. See OdbcWatch for the errors.
+    void read(RowStore &rows, int timeout);
+    // The same for many rows. A cursor in the server ends with the OdbcReading around it.
+    void readResult(RowStore &rows, int timeout);
 
 private:
     void prepare(int timeout);
     void askForDatesAsText();
     bool readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch);
+    bool readPortions(RowStore &rows, int timeout) const;
 
     std::shared_ptr<OdbcConnection> m_connection;
     const OdbcEngine &m_engine;

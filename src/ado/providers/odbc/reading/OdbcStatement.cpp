@@ -161,18 +161,13 @@ void OdbcStatement::fetch(RowStore &rows)
 {
     const int timeout = m_session->commandTimeout();
     const auto released = qScopeGuard([this] { release(); });
-    // Where that closes the cursor as well, it saves a way to the server.
-    const auto endReading = [this] {
-        if (m_session->engine().rollbackClosesCursors)
-            m_reading.reset();
-    };
     try {
-        m_query->read(rows, timeout, endReading);
+        m_query->readResult(rows, timeout);
     } catch (const Error &error) {
         if (!waitForLocks(error, m_text, timeout))
             throw;
         rows.clear();
-        m_query->read(rows, timeout, endReading);
+        m_query->readResult(rows, timeout);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "ado/providers/odbc/writing/OdbcParameters.h"
 
 #include "ado/providers/odbc/OdbcHandle.h"
+#include "ado/values/DateText.h"
 
 #include <algorithm>
 
@@ -40,9 +41,13 @@ void OdbcParameters::bind(const RawValue &value, const OdbcTypes::Declared &type
         address = parameter.bytes.data();
         break;
     }
+    // Of a moment that it binds as one, a driver drops the zone.
+    const bool isZoned = type.sqlType == SQL_TYPE_TIMESTAMP && value.kind == RawValue::Kind::Text &&
+                         DateText::isZonedMoment(value.bytes);
+    const int sqlType = isZoned ? SQL_VARCHAR : type.sqlType;
     const auto size = static_cast<SQLULEN>(std::max<qint64>({type.size, units, 1}));
     m_statement.check(SQLBindParameter(m_statement.get(), static_cast<SQLUSMALLINT>(m_parameters.size()),
-                                       SQL_PARAM_INPUT, cType, static_cast<SQLSMALLINT>(type.sqlType), size,
+                                       SQL_PARAM_INPUT, cType, static_cast<SQLSMALLINT>(sqlType), size,
                                        static_cast<SQLSMALLINT>(type.scale), address,
                                        std::max<SQLLEN>(parameter.length, 0), &parameter.length));
 }

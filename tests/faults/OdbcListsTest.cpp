@@ -1,0 +1,76 @@
+// The driver manager's lists of drivers and data sources, which it takes longer to read each time: they are
+// read where they are needed and nowhere else.
+#include "FaultyOdbc.h"
+
+#include "ado/OdbcEngines.h"
+
+#include "ado/Error.h"
+#include "ado/connection/OdbcCatalogue.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+using namespace ADODB;
+using KovaTest::FaultyOdbc::listsRead;
+
+namespace {
+
+class OdbcLists : public AdoTest::OnOdbc
+{
+};
+
+KOVA_ON_ODBC_ENGINES(OdbcLists);
+
+void expectRefused(const QString &connectionString)
+{
+    Connection connection;
+    EXPECT_THROW(connection.Open(connectionString), Error) << qUtf8Printable(connectionString);
+}
+
+} // namespace
+
+TEST_P(OdbcLists, AreNotReadForADriverThatIsNamed)
+{
+    const int before = listsRead();
+    const auto first = connect();
+    const auto second = connect(); // in the session that is there
+    EXPECT_EQ(open(u"SELECT 6 * 7"_s, second)->CellText(1, 0), u"42"_s);
+    EXPECT_EQ(listsRead(), before);
+}
+
+TEST(OdbcListsOfDrivers, AreReadOnceToTellWhichThereAre)
+{
+    const int before = listsRead();
+    expectRefused(u"Driver={No such driver};Server=x"_s);
+    EXPECT_EQ(listsRead(), before + 1);
+}
+
+TEST(OdbcListsOfDrivers, AreReadOnceForTheProviderOfAServer)
+{
+    const int before = listsRead();
+    expectRefused(u"Provider=OraOLEDB.Oracle;Data Source=orcl"_s);
+    EXPECT_EQ(listsRead(), before + 1);
+}
+
+TEST(OdbcListsOfDataSources, AreReadOnceToFindTheDriverOfOne)
+{
+    if (!odbcDrivers().contains(u"SQLite3"_s))
+        GTEST_SKIP() << "SQLite's ODBC driver is not installed";
+    QTemporaryDir folder;
+    QFile list(folder.filePath(u"odbc.ini"_s));
+    ASSERT_TRUE(list.open(QIODevice::WriteOnly));
+    list.write("[kova shop]\nDriver=SQLite3\nDatabase=" + QFile::encodeName(folder.filePath(u"shop.db"_s)) +
+               "\n");
+    list.close();
+    const QByteArray user = qgetenv("ODBCINI");
+    qputenv("ODBCINI", QFile::encodeName(list.fileName()));
+    const int before = listsRead();
+    {
+        Connection connection;
+        connection.Open(u"DSN=kova shop"_s);
+        EXPECT_EQ(connection.State(), adStateOpen);
+    }
+    EXPECT_EQ(listsRead(), before + 1);
+    user.isNull() ? qunsetenv("ODBCINI") : qputenv("ODBCINI", user);
+}
