@@ -5,8 +5,8 @@
 #include "query/clsFilterManagement.h"
 #include "session/Questions.h"
 #include "session/ResultWatch.h"
-#include "session/SessionMessages.h"
 #include "session/Session.h"
+#include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "session/WindowRules.h"
 
