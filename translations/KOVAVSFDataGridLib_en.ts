@@ -1522,6 +1522,18 @@
         <source>没有打开的结果，无法恢复筛选。</source>
         <translation>Nothing is open, so no filters can be restored.</translation>
     </message>
+    <message>
+        <source>显示 SQL(&amp;Q)</source>
+        <translation>Show S&amp;QL</translation>
+    </message>
+    <message>
+        <source>显示由条件生成的语句，可以直接修改</source>
+        <translation>Shows the statement that the conditions make, which can be edited</translation>
+    </message>
+    <message>
+        <source>记录太多，短时间内数不完。</source>
+        <translation>There are too many records to count them in a moment.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::FormTexts</name>
