@@ -2252,6 +2252,14 @@
         <translation>en</translation>
     </message>
 </context>
+    <message>
+        <source>（还有更多，输入几个字后再打开列表查找）</source>
+        <translation>(There are more: type some letters and open the list again)</translation>
+    </message>
+    <message>
+        <source>增加第一条记录</source>
+        <translation>Add the First Record</translation>
+    </message>
 <context>
     <name>KOVAVSFDataGridLib::LayoutTexts</name>
     <message>

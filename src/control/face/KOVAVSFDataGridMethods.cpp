@@ -71,7 +71,10 @@ bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
         return true;
     const ResultWatch watch(session);
     try {
-        saveBeforeMove(session);
+        if (d->window.commitEdit()) // a text that doesn't fit stays
+            return true;
+        if (watch.isUntouched())
+            saveBeforeMove(session);
         if (!watch.isUntouched())
             return true;
         const QSignalBlocker onlyOurOwnEvent(d->parts.Adodc1);

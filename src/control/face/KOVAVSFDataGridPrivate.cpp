@@ -8,6 +8,7 @@
 #include "control/input/EndKeys.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/HistoryMenu.h"
+#include "control/parts/lines/EmptyHint.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "control/settings/Configuration.h"
 #include "control/viewer/ShowFullScreen.h"
@@ -97,6 +98,8 @@ void KOVAVSFDataGrid::Private::connectHost()
         Q_EMIT q.RecordChanged(reason,
                                static_cast<qint32>(session->result().recordset()->AbsolutePosition()));
     });
+    connect(parts.lblEmpty, &EmptyHint::addWanted, &q,
+            [this] { session->run(QStringLiteral("AddRecord"), ChosenBy::MenuItem); });
     connect(parts.Adodc1, &ADODB::Adodc::RecordChangeComplete, &q, [this] { window.refreshStatus(); });
     connect(parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, &q,
             [this](ADODB::EventReasonEnum reason) { Q_EMIT q.RecordsetChanged(reason); });
