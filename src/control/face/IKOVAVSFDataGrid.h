@@ -251,8 +251,8 @@ public:
     // is the default); Title and the text above each page, which is the table's name otherwise. Returns false
     // if the user cancels, or after a message box if it fails.
     virtual bool PrintData(const QString &strFile, const QString &strOptions) = 0;
-    // The filters that the user keeps for the table of the open result, with those used last, as a small JSON
-    // text. Relative days in them stay relative. Empty while nothing is open.
+    // The filters that the user keeps for the table of the open result and the LayoutKey, with those used
+    // last, as a JSON text. Relative days in them stay relative. Empty while nothing is open.
     virtual QString SaveFilters() = 0;
     // Keeps the filters of such a text for the user in place of those of the table. False, and nothing is
     // changed, when nothing is open or the text has no filters, which is shown in a message box.

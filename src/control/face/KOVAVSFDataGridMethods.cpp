@@ -19,7 +19,6 @@
 #include "session/layout/SavedLayout.h"
 #include "session/records/ExportResult.h"
 #include "session/records/PrintResult.h"
-#include "session/statement/LoadedTable.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
@@ -355,7 +354,7 @@ QString KOVAVSFDataGrid::SaveFilters()
     Session &session = *d->session;
     if (!session.result().isOpen())
         return {};
-    const FilterShelf shelf{[table = loadedTable(session)] { return readFilters(table); }, {}};
+    const FilterShelf shelf{[place = d->filterPlace()] { return readFilters(place); }, {}};
     return shelf.filters().toText();
 }
 
@@ -368,6 +367,6 @@ bool KOVAVSFDataGrid::RestoreFilters(const QString &strFilters)
         Messages::show(this, reason ? *reason : FilterTexts::NoTableOfFilters);
         return false;
     }
-    saveFilters(loadedTable(session), std::get<SavedFilters>(filters).toText());
+    saveFilters(d->filterPlace(), std::get<SavedFilters>(filters).toText());
     return true;
 }

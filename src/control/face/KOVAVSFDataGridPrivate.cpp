@@ -17,6 +17,7 @@
 #include "grid/FlexGrid.h"
 #include "grid/cells/TextCells.h"
 #include "session/commands/CommandKeys.h"
+#include "session/statement/LoadedTable.h"
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
@@ -43,6 +44,7 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
       layout(*session, *parts.vsfgDataGrid)
 {
     window.setSession(*session);
+    questions.setHostKey([this] { return layout.key(); });
     window.setSingleRecordView(&singleRecord);
     window.setMenu(&commands.menu());
     window.setFinder(&finder);
@@ -55,7 +57,9 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
             request.condition = asked.condition;
             request.field = asked.field;
             request.value = asked.value;
-            const QString condition = DialogQuestions(viewer).askCondition(request);
+            DialogQuestions inViewer(viewer);
+            inViewer.setHostKey([this] { return layout.key(); });
+            const QString condition = inViewer.askCondition(request);
             asked.memory = request.memory;
             return condition;
         });
@@ -243,6 +247,11 @@ void KOVAVSFDataGrid::Private::saveBeforeEnd()
     const QSignalBlocker dataBlocked(parts.Adodc1);
     if (const std::optional<QString> failure = session->saveSilently())
         Messages::showLater(*failure);
+}
+
+FilterPlace KOVAVSFDataGrid::Private::filterPlace() const
+{
+    return {layout.key(), session->texts.connectionString, loadedTable(*session)};
 }
 
 void KOVAVSFDataGrid::Private::emptyGrid()
