@@ -115,7 +115,8 @@ QString shownText(const Referenced &table, const QString &key, const QString &de
     const QString text = description.simplified().left(longest);
     if (text.isEmpty())
         return key;
-    return table.isKeyRead ? key + u"　"_s + text : text + u"　"_s + key;
+    constexpr QChar between(0x3000); // a wide blank
+    return table.isKeyRead ? key + between + text : text + between + key;
 }
 
 ForeignValues read(const std::shared_ptr<ADODB::Connection> &connection, const Dialect &dialect,
