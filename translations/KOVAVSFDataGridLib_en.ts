@@ -1794,10 +1794,6 @@
         <translation>as they are</translation>
     </message>
     <message>
-        <source>显示为“是”和“否”(&amp;Y)</source>
-        <translation>Show as &quot;&amp;yes&quot; and &quot;no&quot;</translation>
-    </message>
-    <message>
         <source>示例：%1</source>
         <translation>Example: %1</translation>
     </message>
@@ -1892,6 +1888,18 @@
     <message>
         <source>文件“%1”已经存在，要替换它吗？</source>
         <translation>The file &quot;%1&quot; already exists. Replace it?</translation>
+    </message>
+    <message>
+        <source>按原样（True 和 False）(&amp;A)</source>
+        <translation>&amp;As it is (True and False)</translation>
+    </message>
+    <message>
+        <source>“是”和“否”(&amp;Y)</source>
+        <translation>&quot;&amp;Yes&quot; and &quot;No&quot;</translation>
+    </message>
+    <message>
+        <source>方框 ☑ ☐(&amp;B)</source>
+        <translation>&amp;Box ☑ ☐</translation>
     </message>
 </context>
 <context>
@@ -2244,14 +2252,6 @@
         <source>文件“%1”不是图片，或者太大。</source>
         <translation>The file &quot;%1&quot; is no picture, or is too large.</translation>
     </message>
-</context>
-<context>
-    <name>KOVAVSFDataGridLib::LanguageTexts</name>
-    <message>
-        <source>zh-CN</source>
-        <translation>en</translation>
-    </message>
-</context>
     <message>
         <source>（还有更多，输入几个字后再打开列表查找）</source>
         <translation>(There are more: type some letters and open the list again)</translation>
@@ -2260,6 +2260,14 @@
         <source>增加第一条记录</source>
         <translation>Add the First Record</translation>
     </message>
+</context>
+<context>
+    <name>KOVAVSFDataGridLib::LanguageTexts</name>
+    <message>
+        <source>zh-CN</source>
+        <translation>en</translation>
+    </message>
+</context>
 <context>
     <name>KOVAVSFDataGridLib::LayoutTexts</name>
     <message>
