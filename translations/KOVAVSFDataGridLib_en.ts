@@ -1522,6 +1522,18 @@
         <source>没有打开的结果，无法恢复筛选。</source>
         <translation>Nothing is open, so no filters can be restored.</translation>
     </message>
+    <message>
+        <source>显示 SQL(&amp;Q)</source>
+        <translation>Show S&amp;QL</translation>
+    </message>
+    <message>
+        <source>显示由条件生成的语句，可以直接修改</source>
+        <translation>Shows the statement that the conditions make, which can be edited</translation>
+    </message>
+    <message>
+        <source>记录太多，短时间内数不完。</source>
+        <translation>There are too many records to count them in a moment.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::FormTexts</name>
@@ -1782,10 +1794,6 @@
         <translation>as they are</translation>
     </message>
     <message>
-        <source>显示为“是”和“否”(&amp;Y)</source>
-        <translation>Show as &quot;&amp;yes&quot; and &quot;no&quot;</translation>
-    </message>
-    <message>
         <source>示例：%1</source>
         <translation>Example: %1</translation>
     </message>
@@ -1880,6 +1888,18 @@
     <message>
         <source>文件“%1”已经存在，要替换它吗？</source>
         <translation>The file &quot;%1&quot; already exists. Replace it?</translation>
+    </message>
+    <message>
+        <source>按原样（True 和 False）(&amp;A)</source>
+        <translation>&amp;As it is (True and False)</translation>
+    </message>
+    <message>
+        <source>“是”和“否”(&amp;Y)</source>
+        <translation>&quot;&amp;Yes&quot; and &quot;No&quot;</translation>
+    </message>
+    <message>
+        <source>方框 ☑ ☐(&amp;B)</source>
+        <translation>&amp;Box ☑ ☐</translation>
     </message>
 </context>
 <context>
@@ -2231,6 +2251,14 @@
     <message>
         <source>文件“%1”不是图片，或者太大。</source>
         <translation>The file &quot;%1&quot; is not a picture, or is too large.</translation>
+    </message>
+    <message>
+        <source>（还有更多，输入几个字后再打开列表查找）</source>
+        <translation>(There are more: type some letters and open the list again)</translation>
+    </message>
+    <message>
+        <source>增加第一条记录</source>
+        <translation>Add the First Record</translation>
     </message>
 </context>
 <context>

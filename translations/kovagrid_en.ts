@@ -231,5 +231,9 @@ Look through query results, filter and sort them.</translation>
         <source>关于 KOVAVSFDataGrid</source>
         <translation>About KOVAVSFDataGrid</translation>
     </message>
+    <message>
+        <source>内容</source>
+        <translation>Value</translation>
+    </message>
 </context>
 </TS>

@@ -80,6 +80,7 @@ public:
     static QString TablesPane() { return tr("表和视图"); }
     static QString PicturePane() { return tr("图片"); }
     static QString NoPicture() { return tr("（无图片）"); }
+    static QString ValuePane() { return tr("内容"); }
     static QString EventsPane() { return tr("事件记录"); }
     static QString OpenFile() { return tr("打开数据库文件"); }
     static QString DatabaseFiles()

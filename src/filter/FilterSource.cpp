@@ -232,15 +232,16 @@ ValueRequest FilterSource::tickRequest(const FilterField &field, const QString &
 
 std::optional<CountRequest> FilterSource::countRequest(const QString &current, const QString &condition)
 {
-    if (m_isShared || !hasTable())
+    if (!hasTable())
         return {};
-    if (!m_countConnection)
+    if (!m_isShared && !m_countConnection)
         m_countConnection = ADODB::ConnectionFactory::connectionFor(m_database);
     const QString restricted = current.isEmpty() ? QString() : u'(' + current + ") AND "_L1;
-    return CountRequest{.connection = m_countConnection,
+    return CountRequest{.connection = m_isShared ? m_connection : m_countConnection,
                         .connectionString = m_connectionString,
                         .statement = m_prefix + "SELECT COUNT(*) FROM "_L1 + m_fromText + " WHERE "_L1 +
-                                     restricted + u'(' + condition + u')'};
+                                     restricted + u'(' + condition + u')',
+                        .isHere = m_isShared};
 }
 
 void FilterSource::check(const QString &condition)

@@ -54,8 +54,8 @@ public:
     // already; it may be empty. `search` is a text that the values contain. While they are read, nothing else
     // may be asked of this object.
     ValueRequest tickRequest(const FilterField &field, const QString &condition, const QString &search);
-    // How the records that meet two conditions are counted in a thread of its own, through a connection of
-    // its own. Nothing for a connection that is shared. The first condition may be empty.
+    // How the records that meet two conditions are counted: in a thread of its own through a connection of
+    // its own, unless the connection is shared. The first condition may be empty.
     std::optional<CountRequest> countRequest(const QString &current, const QString &condition);
     // Lets the database look at a condition without running it.
     void check(const QString &condition);

@@ -100,6 +100,8 @@ inline constexpr Text FieldMissing = tr("这里没有该筛选用到的字段“
 inline constexpr Text GiveUp = tr("放弃已输入的条件吗？");
 inline constexpr Text AddRow = tr("添加条件(&D)");
 inline constexpr Text Condition = tr("条件语句(&T):");
+inline constexpr Text ShowSql = tr("显示 SQL(&Q)");
+inline constexpr Text ShowSqlTip = tr("显示由条件生成的语句，可以直接修改");
 inline constexpr Text ConditionName = tr("条件语句");
 inline constexpr Text ConditionHint = tr("随上面的条件自动生成，熟悉 SQL 时也可以直接修改");
 inline constexpr Text ByHand = tr("条件语句已手工修改，上面的条件暂不起作用。");
@@ -149,6 +151,7 @@ inline constexpr Text AboutRecords = tr("约 %1 条");
 inline constexpr Text Counting = tr("正在计数…");
 inline constexpr Text StopCounting = tr("停止计数");
 inline constexpr Text NotCounted = tr("无法计数");
+inline constexpr Text TooLongToCount = tr("记录太多，短时间内数不完。");
 
 // The conditions as groups inside groups
 inline constexpr Text ShowGroups = tr("按组显示(&G)");

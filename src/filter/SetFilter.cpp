@@ -35,6 +35,8 @@ SetFilter::SetFilter(QWidget *parent)
       m_addBrackets(new FlatCmd(FilterTexts::AddBrackets, this)),
       m_sentence(new QLabel(this)),
       m_count(new FilterCount(this)),
+      m_sql(new QCheckBox(FilterTexts::ShowSql, this)),
+      m_conditionLabel(new QLabel(FilterTexts::Condition, this)),
       m_condition(new QLineEdit(this)),
       m_backToRows(new FlatCmd(FilterTexts::BackToRows, this)),
       m_notice(new QLabel(this))
@@ -66,11 +68,10 @@ SetFilter::SetFilter(QWidget *parent)
     m_sentence->setFixedHeight(m_sentence->sizeHint().height());
     m_sentence->clear();
     m_sentence->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_count->setSource([this]() -> std::optional<CountRequest> {
-        if (m_isByHand || m_condition->text().isEmpty())
-            return {};
-        return m_source.countRequest(m_currentCondition, m_condition->text());
-    });
+    m_count->setSource([this] { return countRequest(); });
+    m_sql->setObjectName(u"chkSql"_s);
+    m_sql->setToolTip(FilterTexts::ShowSqlTip);
+    m_sql->setAccessibleDescription(FilterTexts::ShowSqlTip);
     m_condition->setObjectName(u"txtCondition"_s);
     m_condition->setAccessibleName(FilterTexts::ConditionName);
     m_condition->setPlaceholderText(FilterTexts::ConditionHint);
@@ -92,14 +93,19 @@ SetFilter::SetFilter(QWidget *parent)
         m_rows->addBrackets();
         m_rows->focusFirstPart(); // the button goes
     });
+    connect(m_sql, &QCheckBox::toggled, this, &SetFilter::showSql);
+    connect(m_sql, &QCheckBox::clicked, this, [this](bool on) {
+        m_isSqlWanted = on;
+        if (on)
+            m_condition->setFocus();
+    });
     connect(m_condition, &QLineEdit::textEdited, this, &SetFilter::onConditionEdited);
     connect(m_backToRows, &QPushButton::clicked, this, &SetFilter::backToRows);
 }
 
 void SetFilter::layOut()
 {
-    auto *conditionLabel = new QLabel(FilterTexts::Condition, this);
-    conditionLabel->setBuddy(m_condition);
+    m_conditionLabel->setBuddy(m_condition);
     auto *tableRow = new QHBoxLayout;
     tableRow->addWidget(m_table, 1);
     tableRow->addWidget(m_saved);
@@ -109,8 +115,9 @@ void SetFilter::layOut()
     addRow->addWidget(m_addBrackets);
     addRow->addStretch(1);
     addRow->addWidget(m_count);
+    addRow->addWidget(m_sql);
     auto *conditionRow = new QHBoxLayout;
-    conditionRow->addWidget(conditionLabel);
+    conditionRow->addWidget(m_conditionLabel);
     conditionRow->addWidget(m_condition, 1);
     conditionRow->addWidget(m_backToRows);
     auto *rows = new QVBoxLayout(this);
@@ -192,6 +199,7 @@ void SetFilter::readFields()
         return answer ? std::optional(answer->ticked) : std::nullopt;
     };
     m_rows->start(std::move(context));
+    m_sql->setChecked(m_fields.empty() || m_isSqlWanted);
     enableParts();
     if (!m_fields.empty())
         m_rows->focusFirstPart();
@@ -236,10 +244,27 @@ void SetFilter::onRowsChanged()
 
 void SetFilter::onConditionEdited()
 {
+    setByHand(true);
     // Typing goes on here, wherever the keyboard was when this began.
     m_condition->setFocus();
-    setByHand(true);
+    m_count->restart();
     show(FilterTexts::ByHand);
+}
+
+// Whoever uses SQL shows it; the others are told by the sentence.
+void SetFilter::showSql()
+{
+    m_conditionLabel->setVisible(m_sql->isChecked());
+    m_condition->setVisible(m_sql->isChecked());
+}
+
+// Where a condition by hand isn't whole yet, the count says that there is none.
+std::optional<CountRequest> SetFilter::countRequest()
+{
+    const QString condition = joinStatementLines(m_condition->text()).trimmed();
+    if (condition.isEmpty())
+        return {};
+    return m_source.countRequest(m_currentCondition, condition);
 }
 
 void SetFilter::backToRows()
@@ -269,6 +294,11 @@ void SetFilter::enableParts()
     m_add->setEnabled(!m_fields.empty() && !m_isByHand);
     m_groups->setEnabled(!m_fields.empty() && !m_isByHand);
     m_addBrackets->setEnabled(!m_isByHand);
+    const bool isSqlAll = m_fields.empty() || m_isByHand; // what there is to be seen
+    m_sql->setEnabled(!isSqlAll);
+    if (isSqlAll)
+        m_sql->setChecked(true);
+    showSql();
 }
 
 QString SetFilter::ConditionText()

@@ -58,6 +58,10 @@ public:
     // Where the filters of the table are kept that the user saves; without it none are.
     void SetShelf(FilterShelf shelf) { m_saved->setShelf(std::move(shelf)); }
 
+    // Whether the user wants to see the condition as SQL. Before SetTableName and SetResult.
+    void SetSqlWanted(bool isWanted) { m_isSqlWanted = isWanted; }
+    bool IsSqlWanted() const { return m_isSqlWanted; }
+
     // Says below the condition what is wrong with it, until it is changed.
     void ShowNotice(const QString &notice) { show(notice); }
 
@@ -77,6 +81,8 @@ private:
     void onRowsChanged();
     void onConditionEdited();
     void backToRows();
+    void showSql();
+    std::optional<CountRequest> countRequest();
     void setByHand(bool isByHand);
     void enableParts();
     QString conditionByHand();
@@ -106,10 +112,13 @@ private:
     QPushButton *m_addBrackets;
     QLabel *m_sentence; // the rows in words
     FilterCount *m_count;
+    QCheckBox *m_sql;
+    QLabel *m_conditionLabel;
     QLineEdit *m_condition;
     QPushButton *m_backToRows;
     QLabel *m_notice;
     bool m_isByHand = false;
+    bool m_isSqlWanted = false;
 };
 
 } // namespace KOVAVSFDataGridLib

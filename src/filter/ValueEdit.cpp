@@ -126,10 +126,9 @@ void ValueEdit::setKind(FieldClass fieldClass, bool isList)
     m_fieldClass = fieldClass;
     m_isList = isList;
     setPlaceholderText(isList ? FilterTexts::ListHint : hintFor(fieldClass));
-    const bool hasValues = m_askForValues && fieldClass != FieldClass::Other;
-    const bool hasReader = m_readValues && fieldClass == FieldClass::Number;
+    const bool hasValues = (m_askForValues || m_readValues) && fieldClass != FieldClass::Other;
     m_offer->setVisible(hasDays(fieldClass) || fieldClass == FieldClass::Text ||
-                        fieldClass == FieldClass::Boolean || hasReader || hasValues);
+                        fieldClass == FieldClass::Boolean || hasValues);
     m_offerValues->setVisible(hasValues && hasDays(fieldClass));
     m_offerText = hasDays(fieldClass) ? FilterTexts::PickDate : FilterTexts::PickValue;
     writeTexts();
@@ -182,7 +181,7 @@ void ValueEdit::offer()
     if (hasDays(m_fieldClass))
         offerCalendar();
     else if (m_fieldClass == FieldClass::Boolean)
-        offerList({FilterTexts::Yes, FilterTexts::No});
+        offerList({.values = {FilterTexts::Yes, FilterTexts::No}});
     else
         offerValues();
 }
@@ -209,17 +208,16 @@ void ValueEdit::makeList()
             [this](const QModelIndex &picked) { pick(picked.row()); });
 }
 
-// `end` comes after the values and is none itself.
-void ValueEdit::offerList(const QStringList &values, const QString &end)
+void ValueEdit::offerList(const ListedValues &list)
 {
-    QStringList entries = values;
-    if (!end.isEmpty())
-        entries.append(end);
+    QStringList entries = list.shown.isEmpty() ? list.values : list.shown;
+    if (!list.end.isEmpty())
+        entries.append(list.end);
     if (entries.isEmpty())
         return;
     if (!m_list)
         makeList();
-    m_listed = values.size();
+    m_listed = list.values;
     {
         const QScopedValueRollback<bool> refilling(m_isRefilling, true);
         const int current = m_list->popup()->isVisible() ? m_list->popup()->currentIndex().row() : -1;
@@ -234,7 +232,7 @@ void ValueEdit::offerList(const QStringList &values, const QString &end)
 void ValueEdit::showReading()
 {
     if (m_isAsking)
-        offerList({}, FilterTexts::ReadingValues);
+        offerList({.end = FilterTexts::ReadingValues});
 }
 
 void ValueEdit::showValues(const OfferedValues &values)
@@ -246,14 +244,14 @@ void ValueEdit::showValues(const OfferedValues &values)
         end = values.left > 0 ? FilterTexts::MoreValuesLeft.arg(values.left) : FilterTexts::MoreValues;
     if (values.values.isEmpty() && m_list)
         m_list->popup()->hide();
-    offerList(values.values, end);
+    offerList({.values = values.values, .end = end});
 }
 
 void ValueEdit::pick(int row)
 {
-    if (row < m_listed) {
-        take(m_list->model()->index(row, 0).data().toString());
-    } else if (m_listed > 0) {
+    if (row < m_listed.size()) {
+        take(m_listed.at(row));
+    } else if (!m_listed.isEmpty() && m_askForValues) {
         // Later, because the list is about to close.
         QMetaObject::invokeMethod(
             this,

@@ -13,6 +13,14 @@ class QCompleter;
 
 namespace KOVAVSFDataGridLib {
 
+// The entries of a list from which a value is picked.
+struct ListedValues
+{
+    QStringList values = {};
+    QStringList shown = {}; // what is read in their places; empty where that is the values
+    QString end = {};       // comes after them and is none; may be empty
+};
+
 // Takes a typed value and offers, behind a button at its end, Alt+Down and F4, what fits the field: a
 // calendar for days, yes and no, or the values that a field has already.
 class ValueEdit final : public QLineEdit
@@ -22,11 +30,11 @@ class ValueEdit final : public QLineEdit
 public:
     explicit ValueEdit(QWidget *parent = nullptr);
 
-    // Called each time a list is opened for a text or a number; an empty answer opens none. Comes before
-    // setKind().
-    void setValueReader(std::function<QStringList()> reader) { m_readValues = std::move(reader); }
-    // The same for values that take a while, of every kind of field: what is asked answers by showValues(),
-    // at once or later, and by showReading() meanwhile. Days have a second button for them, and Shift+F4.
+    // Called each time a list is opened; an empty answer opens none. Days have a second button for it, and
+    // Shift+F4. Comes before setKind().
+    void setValueReader(std::function<ListedValues()> reader) { m_readValues = std::move(reader); }
+    // The same for values that take a while: what is asked answers by showValues(), at once or later, and by
+    // showReading() meanwhile.
     void setValueAsker(std::function<void()> asker) { m_askForValues = std::move(asker); }
     void showReading();
     // Does nothing once the list was closed.
@@ -52,7 +60,7 @@ private:
     void offer();
     void writeTexts();
     void offerValues();
-    void offerList(const QStringList &values, const QString &end = {});
+    void offerList(const ListedValues &list);
     void makeList();
     void pick(int row);
     void offerCalendar();
@@ -61,11 +69,11 @@ private:
     void setDay(QDate day);
     QWidget *makeDayWords();
 
-    std::function<QStringList()> m_readValues;
+    std::function<ListedValues()> m_readValues;
     std::function<void()> m_askForValues;
     bool m_isAsking = false;    // from the question until the list is closed
     bool m_isRefilling = false; // the list closes for a moment
-    qsizetype m_listed = 0;     // values in the list; what comes after them is no value
+    QStringList m_listed;       // the values in the list; what comes after them is no value
     FieldClass m_fieldClass = FieldClass::Text;
     bool m_isList = false;
     QAction *m_offer;

@@ -79,6 +79,7 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
     m_shelf = request.shelf;
     SetFilter &builder = m_dialog->SetFilter1();
     builder.SetShelf(m_shelf);
+    builder.SetSqlWanted(request.isSqlWanted);
     builder.Initialize(FilterTexts::TableCaption, request.dbType);
     if (request.tableType == FromOwnStatement && request.connection && !isServer(request.connection))
         builder.SetConnection(request.connection);
@@ -104,6 +105,11 @@ QString mod_Filter::Built() const
         return {};
     return QString::fromUtf8(
         QJsonDocument(toJson(m_dialog->SetFilter1().State())).toJson(QJsonDocument::Compact));
+}
+
+bool mod_Filter::IsSqlWanted() const
+{
+    return m_dialog && m_dialog->SetFilter1().IsSqlWanted();
 }
 
 void mod_Filter::NoteUsed()

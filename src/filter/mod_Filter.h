@@ -38,8 +38,9 @@ struct FilterRequest
     // What to begin with: a field, empty for any, and a value of it.
     QString field = {};
     QString value = {};
-    QString built = {};     // or what Built() answered for an earlier condition
-    FilterShelf shelf = {}; // of the filters that the user keeps for the table
+    QString built = {};       // or what Built() answered for an earlier condition
+    FilterShelf shelf = {};   // of the filters that the user keeps for the table
+    bool isSqlWanted = false; // to see the condition as SQL
 };
 
 // Runs the filter dialog and keeps what it left. One object can run any number of dialogs, one after another.
@@ -58,6 +59,9 @@ public:
 
     // What the condition was built from, as a text for a later request.
     QString Built() const;
+
+    // Whether the user wanted to see the condition as SQL when the dialog closed.
+    bool IsSqlWanted() const;
 
     // The condition was used: it becomes the first of the shelf's recent ones.
     void NoteUsed();

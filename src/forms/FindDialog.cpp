@@ -47,22 +47,6 @@ bool isTyped(int key)
     }
 }
 
-// The words that were searched for last in this process, the newest first.
-QStringList &lastWords()
-{
-    static QStringList words;
-    return words;
-}
-
-void remember(const QString &words)
-{
-    constexpr qsizetype most = 10;
-    lastWords().removeOne(words);
-    lastWords().prepend(words);
-    if (lastWords().size() > most)
-        lastWords().removeLast();
-}
-
 bool carriesText(const QInputMethodEvent &event)
 {
     return !event.preeditString().isEmpty() || !event.commitString().isEmpty();
@@ -84,8 +68,6 @@ FindDialog::FindDialog(QWidget *parent)
     m_input->setAccessibleName(FormTexts::FindTitle);
     m_input->setEditable(true);
     m_input->setInsertPolicy(QComboBox::NoInsert);
-    m_input->addItems(lastWords());
-    m_input->setCurrentIndex(-1);
     m_input->setCompleter(nullptr); // it would add old words to what is typed
     m_input->setMinimumContentsLength(36);
     m_input->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -137,6 +119,24 @@ bool FindDialog::InitFrm(const colDataFields *colFields)
         m_fields->addItem(field.FieldName);
     m_fields->setCurrentIndex(0);
     return true;
+}
+
+void FindDialog::SetEarlierWords(const QStringList &words)
+{
+    m_earlierWords = words;
+    m_input->clear();
+    m_input->addItems(words);
+    m_input->setCurrentIndex(-1);
+    showHint();
+}
+
+void FindDialog::remember(const QString &words)
+{
+    constexpr qsizetype most = 10;
+    m_earlierWords.removeOne(words);
+    m_earlierWords.prepend(words);
+    if (m_earlierWords.size() > most)
+        m_earlierWords.removeLast();
 }
 
 void FindDialog::showHint()

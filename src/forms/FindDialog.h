@@ -21,6 +21,11 @@ public:
     // nothing in it.
     bool InitFrm(const colDataFields *colFields);
 
+    // The words that were searched for before, the newest first, which are offered; and, after Find, with
+    // those that were typed.
+    void SetEarlierWords(const QStringList &words);
+    const QStringList &EarlierWords() const { return m_earlierWords; }
+
     // The words searched for, "%" between them; empty until Find has succeeded.
     const QString &strFindText() const { return m_strFindText; }
     // The field chosen, or the text that means all fields.
@@ -39,10 +44,12 @@ private:
     void keepOutOfHint();
     void onInputChanged(const QString &text);
     void find();
+    void remember(const QString &words);
 
     QComboBox *m_input;
     QComboBox *m_fields;
     QPushButton *m_find;
+    QStringList m_earlierWords;
     QString m_strFindText;
     QString m_strFieldName;
     bool m_bIsAppointField = false;

@@ -88,7 +88,9 @@ inline constexpr Text FormatOfColumn = tr("列：%1");
 inline constexpr Text Thousands = tr("用逗号分隔千位(&T)");
 inline constexpr Text Decimals = tr("小数位数(&D):");
 inline constexpr Text DecimalsAsTheyAre = tr("按原样");
-inline constexpr Text ShowYesNo = tr("显示为“是”和“否”(&Y)");
+inline constexpr Text ShowAsItIs = tr("按原样（True 和 False）(&A)");
+inline constexpr Text ShowYesNo = tr("“是”和“否”(&Y)");
+inline constexpr Text ShowBox = tr("方框 ☑ ☐(&B)");
 inline constexpr Text FormatSample = tr("示例：%1");
 inline constexpr Text FormatHint = tr("只改变显示，复制、筛选和导出仍用原来的内容。");
 

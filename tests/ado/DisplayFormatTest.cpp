@@ -40,6 +40,10 @@ TEST(DisplayFormat, ShowsTextsAsItSays)
              {u"是/否"_s, u"-1"_s, u"是"_s},
              {u"是/否"_s, u""_s, u""_s},
              {u"是/否"_s, u"maybe"_s, u"maybe"_s},
+             {u"☑/☐"_s, u"True"_s, u"☑"_s},
+             {u"☑/☐"_s, u"0"_s, u"☐"_s},
+             {u"☑/☐"_s, u""_s, u""_s},
+             {u"☑/☐"_s, u"maybe"_s, u"maybe"_s},
          }) {
         const auto format = DisplayFormat::fromText(test.format);
         ASSERT_TRUE(format) << test.format.toStdString();

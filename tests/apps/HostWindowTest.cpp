@@ -23,6 +23,7 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QMenuBar>
+#include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QTableView>
 #include <QtWidgets/QTextBrowser>
@@ -254,6 +255,50 @@ TEST_F(HostWindowTest, EventsAreListedOnlyOnRequest)
     QTest::mouseClick(table().viewport(), Qt::LeftButton, {},
                       table().visualRect(table().model()->index(1, 1)).center());
     EXPECT_TRUE(log.toPlainText().contains(u"DataClick"_s));
+}
+
+TEST_F(HostWindowTest, F3ShowsTheValueInAPaneBesideTheGrid)
+{
+    QDockWidget &pane = dock(u"valuePane"_s);
+    const auto shown = [&] {
+        QString text;
+        for (const auto *view : pane.findChildren<QPlainTextEdit *>(u"txtValue"_s))
+            text += view->isVisible() ? view->toPlainText() : QString();
+        return text;
+    };
+    EXPECT_FALSE(pane.isVisible());
+    table().setCurrentIndex(table().model()->index(0, 1));
+    press(Qt::Key_F3);
+    EXPECT_TRUE(pane.isVisible());
+    EXPECT_EQ(shown(), u"甲"_s);
+    EXPECT_TRUE(pane.isAncestorOf(window->focusWidget()));
+    EXPECT_FALSE(window->grid()->findChild<QDialog *>(u"ValueDialog"_s));
+    // It follows the cell, and the tab.
+    table().setFocus();
+    press(Qt::Key_Down);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == u"乙"_s; })) << shown().toStdString();
+    press(Qt::Key_T, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown().isEmpty(); }));
+    press(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == u"乙"_s; })) << shown().toStdString();
+}
+
+TEST_F(HostWindowTest, ADoubleClickOnATextThatIsCutShowsItUnlessEventsAreListed)
+{
+    const QPoint place = table().visualRect(table().model()->index(0, 1)).center();
+    table().setColumnWidth(1, 12);
+    QDockWidget &pane = dock(u"valuePane"_s);
+    const auto doubleClick = [&] {
+        const QPoint cell(table().visualRect(table().model()->index(0, 1)).center().x(), place.y());
+        QTest::mouseClick(table().viewport(), Qt::LeftButton, {}, cell);
+        QTest::mouseDClick(table().viewport(), Qt::LeftButton, {}, cell);
+    };
+    dock(u"eventsPane"_s).toggleViewAction()->trigger();
+    doubleClick();
+    EXPECT_FALSE(pane.isVisible()) << "the log is a host that listens";
+    dock(u"eventsPane"_s).toggleViewAction()->trigger();
+    doubleClick();
+    EXPECT_TRUE(pane.isVisible());
 }
 
 TEST_F(HostWindowTest, FitsTheScreenAndComesBackAsItWas)

@@ -1,6 +1,9 @@
 // The filter builder by mouse and keys: its rows, their operators and faults.
 #include "BuilderFixture.h"
 
+#include "ado/Connection.h"
+
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QCompleter>
 
 using namespace KOVAVSFDataGridLib;
@@ -94,6 +97,49 @@ TEST_F(Builder, SaysHowManyRecordsMeetTheConditionAMomentAfterIt)
     EXPECT_TRUE(QTest::qWaitFor([&] { return counted() == u"约 0 条"_s; }));
     type("txtCondition", u"编号 > 1"_s);
     EXPECT_EQ(counted(), QString());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return counted() == u"约 2 条"_s; })) << qUtf8Printable(counted());
+    type("txtCondition", u"编号 >"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return counted() == u"无法计数"_s; }));
+    press(dialog, "cmdBackToRows");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return counted() == u"约 0 条"_s; })) << "of the row again";
+}
+
+TEST_F(Builder, CountsThroughASharedConnectionForAMomentOnly)
+{
+    database.run(u"CREATE VIEW 无尽 AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n)"
+                 " SELECT CAST(i AS TEXT) AS 值 FROM n"_s);
+    auto shared = std::make_shared<ADODB::Connection>();
+    shared->Open(database.connectionString());
+    builder->SetConnection(shared);
+    builder->SetTableName(u"订单"_s);
+    fillRow(1, u"城市"_s, u"等于"_s, u"北京"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fault("lblCount") == "约 2 条"; }));
+    builder->SetTableName(u"无尽"_s);
+    fillRow(1, u"值"_s, u"不等于"_s, u"-1"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fault("lblCount") == "无法计数"; }));
+    EXPECT_EQ(part<QLabel>(dialog, "lblCount").toolTip(), u"记录太多，短时间内数不完。"_s);
+}
+
+TEST_F(Builder, ShowsTheStatementOnRequest)
+{
+    QLineEdit &sql = text("txtCondition");
+    auto &show = part<QCheckBox>(dialog, "chkSql");
+    fillRow(1, u"编号"_s, u"大于"_s, u"1"_s);
+    EXPECT_FALSE(sql.isVisible());
+    show.setFocus();
+    QTest::keyClick(&show, Qt::Key_Space);
+    EXPECT_TRUE(sql.isVisible());
+    EXPECT_TRUE(sql.hasFocus());
+    EXPECT_EQ(sql.text(), u"编号 > 1"_s);
+    type("txtCondition", u"编号 > 2"_s);
+    EXPECT_FALSE(show.isEnabled()) << "it is all that there is now";
+    press(dialog, "cmdBackToRows");
+    QTest::mouseClick(&show, Qt::LeftButton);
+    EXPECT_FALSE(sql.isVisible());
+    EXPECT_EQ(sql.text(), u"编号 > 1"_s);
+
+    builder->PutState({.condition = u"编号 > 3"_s});
+    EXPECT_TRUE(sql.isVisible()) << "no row says it";
 }
 
 TEST_F(Builder, ACountThatTakesLongSaysSoAndCanBeStopped)
@@ -283,7 +329,7 @@ TEST_F(Builder, TheKeyboardWalksThroughItFromLeftToRight)
     EXPECT_EQ(walkedByTab(dialog, 19),
               "cmbOpen1 chkNot1 cmbField1 cmbOperator1 txtValue1 txtValue1b cmbClose1 cmbJoin1 cmdDeleteRow1 "
               "cmbOpen2 chkNot2 cmbField2 cmbOperator2 txtValue2 cmbClose2 cmdDeleteRow2 cmdAddRow chkGroups "
-              "txtCondition");
+              "chkSql");
     for (const char *name : {"cmbOpen1", "cmbField1", "cmbOperator1", "txtValue1", "txtValue1b", "cmbClose1",
                              "cmbJoin1", "cmdDeleteRow1", "txtCondition"})
         EXPECT_FALSE(part(dialog, name).accessibleName().isEmpty()) << name;

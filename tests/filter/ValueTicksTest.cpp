@@ -335,3 +335,10 @@ TEST_F(Ticks, SayWhyNothingCanBeRead)
     EXPECT_TRUE(QTest::qWaitFor([&] { return note().starts_with("无法读取已有的值："); })) << note();
     EXPECT_TRUE(ticks->ticked().isEverything());
 }
+
+TEST_F(Ticks, WhereEachRecordHasAValueNoEntryIsForThoseWithoutOne)
+{
+    start(u"编号"_s, {.areLeftOut = false, .values = {u"1"_s}});
+    EXPECT_TRUE(becomes({u"[x] 1 1"_s, u"[ ] 2 1"_s, u"[ ] 3 1"_s, u"[ ] 4 1"_s, u"[ ] 5 1"_s}))
+        << qUtf8Printable(listed().join(u'|'));
+}

@@ -92,7 +92,7 @@ TEST_F(FilterForm, TheKeyboardBeginsWithTheFieldAndEndsWithTheButtons)
 {
     EXPECT_EQ(
         walkedByTab(dialog, 9),
-        "cmbField1 cmbOperator1 txtValue1 cmbClose1 cmdAddRow chkGroups txtCondition cmd_Filter cmd_Cancel");
+        "cmbField1 cmbOperator1 txtValue1 cmbClose1 cmdAddRow chkGroups chkSql cmd_Filter cmd_Cancel");
 }
 
 TEST_F(FilterForm, AltF4LeavesNoCondition)
@@ -110,6 +110,9 @@ TEST_F(FilterForm, MnemonicsAddARowAndFilter)
     EXPECT_TRUE(QTest::qWaitFor([this] { return dialog.findChild<QWidget *>(u"cmbField2"_s) != nullptr; }));
     press(dialog, "cmdDeleteRow2");
     QTest::keyClicks(&value(), u"3"_s);
+    key(dialog, Qt::Key_Q, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return part(dialog, "txtCondition").isVisible(); }));
+    part(dialog, "cmbField1").setFocus();
     key(dialog, Qt::Key_T, Qt::AltModifier);
     EXPECT_EQ(dialog.focusWidget(), &part(dialog, "txtCondition"));
     key(dialog, Qt::Key_F, Qt::AltModifier);

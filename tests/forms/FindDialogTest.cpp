@@ -215,8 +215,10 @@ TEST_F(Find, TheFieldNameCanBeWritten)
 
 TEST_F(Find, OffersTheWordsSearchedForLastNewestFirst)
 {
+    QStringList known;
     for (const QString &words : {u"绿茶 杭州"_s, u"大米"_s, u"绿茶 杭州"_s}) {
         FindDialog earlier;
+        earlier.SetEarlierWords(known);
         EXPECT_TRUE(earlier.InitFrm(&fields));
         present(earlier);
         auto &edit = *part<QComboBox>(earlier, "InputCombo1").lineEdit();
@@ -224,8 +226,10 @@ TEST_F(Find, OffersTheWordsSearchedForLastNewestFirst)
         edit.clear();
         compose(edit, words);
         press(earlier, "FindBtn");
+        known = earlier.EarlierWords();
     }
     FindDialog next;
+    next.SetEarlierWords(known);
     EXPECT_TRUE(next.InitFrm(&fields));
     present(next);
     auto &words = part<QComboBox>(next, "InputCombo1");

@@ -64,6 +64,28 @@ TEST_F(Window, ANullIsEmptyAndNumbersStandRight)
     EXPECT_FALSE(window.isNumeric(0));
 }
 
+TEST_F(Window, TheBeginningOfALongTextIsReadWithoutItsEnd)
+{
+    recordset->Close();
+    recordset->Open(
+        u"select 'x' || printf('%.*c', 5000, '-') as A, replace(printf('%.*c', 5000, '-'), '-', '茶') "
+        "as B, 'short' as C, zeroblob(5000) as D, 12345 as E"_s,
+        connection);
+    const RecordWindow window(recordset, 1, 1);
+    constexpr qsizetype length = 100;
+    for (const int col : {1, 2}) {
+        const QString beginning = window.beginning(1, col, length);
+        EXPECT_GE(beginning.size(), length);
+        EXPECT_LE(beginning.size(), 3 * length);
+        EXPECT_TRUE(window.text(1, col).startsWith(beginning)) << "no character is cut in two";
+    }
+    for (const int col : {3, 4, 5})
+        EXPECT_EQ(window.beginning(1, col, length), window.text(1, col));
+    EXPECT_EQ(window.beginning(0, 1, length), u"A"_s);
+    recordset->Close();
+    EXPECT_EQ(window.beginning(1, 1, length), QString());
+}
+
 TEST_F(Window, ReadingMovesNothing)
 {
     MoveCounter counter;

@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <ctime>
 
 using namespace KOVAVSFDataGridLib;
 using namespace KovaTest;
@@ -28,6 +29,10 @@ protected:
     {
         if (!engine.isThere())
             GTEST_SKIP() << engine.variable << " is not set";
+        // Of the process, and of the server's sessions.
+        qputenv("TZ", zone.id());
+        qputenv("PGTZ", zone.id());
+        tzset();
         database.emplace(engine);
         fill();
         connection->Open(database->connectionString());
@@ -38,18 +43,53 @@ protected:
         ASSERT_EQ(fields.size(), columns + 1U);
     }
 
+    void TearDown() override
+    {
+        qunsetenv("TZ");
+        qunsetenv("PGTZ");
+        tzset();
+    }
+
+    bool isPostgres() const { return QLatin1StringView(engine.name).startsWith("PostgreSQL"_L1); }
+    TextRule rule(Column column) const
+    {
+        const bool isLoose = column == Loose;
+        if (engine.store == JourneyEngine::AccessFile)
+            return {.ignoresCase = true, .likeIgnoresCase = true};
+        if (isPostgres())
+            return {.ignoresEnd = isLoose, .likeIgnoresEnd = isLoose};
+        if (engine.isMariaDb())
+            return {.hasUpperCase = true,
+                    .ignoresCase = isLoose,
+                    .ignoresEnd = isLoose,
+                    .likeIgnoresCase = isLoose};
+        return {.ignoresCase = isLoose, .likeIgnoresCase = true};
+    }
+    QString looseType() const
+    {
+        if (engine.store == JourneyEngine::AccessFile)
+            return u"VARCHAR(60)"_s;
+        if (isPostgres())
+            return u"CHAR(60) COLLATE \"C\""_s;
+        return engine.isMariaDb() ? u"VARCHAR(60) CHARACTER SET utf8mb4 COLLATE utf8mb4_general_ci"_s
+                                  : u"VARCHAR(60) COLLATE NOCASE"_s;
+    }
+
     void fill()
     {
         const bool isMariaDb = engine.isMariaDb();
-        const bool isPostgres = QLatin1StringView(engine.name).startsWith("PostgreSQL"_L1);
+        const bool isPostgres = this->isPostgres();
+        const QString zoned =
+            isPostgres ? u"TIMESTAMP(6) WITH TIME ZONE"_s : QString::fromLatin1(engine.moment);
         // Moments for days too where a database has no type for days alone.
         const QString day = engine.store == JourneyEngine::AccessFile ? u"DATETIME"_s : u"DATE"_s;
         QStringList script{
             u"DROP TABLE IF EXISTS journey_random"_s,
-            u"CREATE TABLE journey_random (id INTEGER PRIMARY KEY, t VARCHAR(60)%1, n INTEGER, d %2, m %3, b %4)%5"_s
+            u"CREATE TABLE journey_random (id INTEGER PRIMARY KEY, t VARCHAR(60)%1, n INTEGER, d %2, m %3, b %4, u %6, z %7)%5"_s
                 .arg(isPostgres ? u" COLLATE \"C\""_s : QString(), day, QString::fromLatin1(engine.moment),
                      u"BOOLEAN"_s,
-                     isMariaDb ? u" CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin"_s : QString())};
+                     isMariaDb ? u" CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin"_s : QString(),
+                     looseType(), zoned)};
         Generator random(20260102); // the same on each run
         for (int id = 1; id <= 80; ++id) {
             Row row;
@@ -60,10 +100,18 @@ protected:
                     text.replace(u'\\', u"\\\\"_s);
                 return u'\'' + text + u'\'';
             };
-            if (!random.oneIn(6)) {
+            for (const Column column : {Text, Loose}) {
+                if (random.oneIn(6))
+                    continue;
                 const QString text = random.text(hasEmoji());
-                row[Text] = keyOf(text);
-                literals[Text] = quoted(text);
+                row[column] = keyOf(text, rule(column));
+                literals[column] = quoted(text);
+            }
+            if (!random.oneIn(6)) {
+                const QDateTime there = random.momentIn(zone);
+                row[Zoned] = keyOf(QDateTime(there.date(), there.time(), Qt::UTC));
+                literals[Zoned] = quoted(isPostgres ? there.toUTC().toString(u"yyyy-MM-dd HH:mm:ss'+00'"_s)
+                                                    : there.toString(u"yyyy-MM-dd HH:mm:ss"_s));
             }
             if (!random.oneIn(6)) {
                 const int number = random.below(41) - 20;
@@ -98,11 +146,12 @@ protected:
     Typed typed(Column column, FieldClass fieldClass, Generator &random) const
     {
         switch (column) {
-        case Text: {
+        case Text:
+        case Loose: {
             QString text = random.text(hasEmoji());
             if (text.trimmed().isEmpty())
                 text = u"a"_s;
-            return {text, keyOf(text)};
+            return {text, keyOf(text, rule(column)), {}, rule(column).pattern(text)};
         }
         case Number: {
             const int number = random.below(45) - 22;
@@ -152,7 +201,7 @@ protected:
     QList<FilterOperator> operators(Column column, FieldClass fieldClass) const
     {
         QList<FilterOperator> offered = operatorsFor(fieldClass);
-        if (column == Text && engine.store == JourneyEngine::AccessFile) {
+        if (isText(column) && engine.store == JourneyEngine::AccessFile) {
             offered.removeIf([](FilterOperator op) {
                 const QList<FilterOperator> orders{Greater, Less, AtLeast, AtMost, Between, NotBetween};
                 return orders.contains(op);
@@ -226,7 +275,7 @@ protected:
                 return !compared.empty() && value <= compared[std::min(count, compared.size()) - 1] &&
                        value >= compared.front();
             default:
-                return contains(positive, value.text, values[0].first.text);
+                return contains(positive, value.liked, values[0].pattern);
             }
         };
         const FilterCondition written = conditionOf(source.dialect(), choice, scope);
@@ -235,7 +284,7 @@ protected:
         const bool isLeftOut = isNegative(op) != choice.isNegated;
         for (const Row &row : rows) {
             const Cell &cell = row[column];
-            const bool isEmptyText = column == Text && cell && cell->text.isEmpty();
+            const bool isEmptyText = isText(column) && cell && cell->text.isEmpty();
             if (positive == IsEmpty)
                 meant.records.push_back((!cell || isEmptyText) != isLeftOut);
             else if (!cell)
@@ -289,6 +338,7 @@ protected:
     }
 
     const JourneyEngine &engine = GetParam();
+    const QTimeZone zone{"America/Sao_Paulo"}; // where days began at one o'clock when the clocks were changed
     std::vector<Row> rows;
     std::optional<JourneyDatabase> database;
     std::shared_ptr<ADODB::Connection> connection = std::make_shared<ADODB::Connection>();

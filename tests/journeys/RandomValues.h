@@ -3,6 +3,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QDateTime>
 #include <QtCore/QStringList>
+#include <QtCore/QTimeZone>
 
 #include <array>
 #include <optional>
@@ -17,6 +18,7 @@ using namespace Qt::StringLiterals;
 struct Key
 {
     QByteArray text = {};
+    QByteArray liked = {}; // the text as LIKE sees it
     double number = 0;
 
     auto operator<=>(const Key &other) const
@@ -27,17 +29,51 @@ struct Key
                : number > other.number ? std::strong_ordering::greater
                                        : std::strong_ordering::equal;
     }
-    bool operator==(const Key &) const = default;
+    bool operator==(const Key &other) const { return text == other.text && number == other.number; }
 };
 
 using Cell = std::optional<Key>;
-enum Column { Text, Number, Day, Moment, YesNo };
-constexpr int columns = 5;
+// Loose is a text whose case or whose blanks at the end don't count, and Zoned a moment of a type with a time
+// zone, as far as the engine has these.
+enum Column { Text, Number, Day, Moment, YesNo, Loose, Zoned };
+constexpr int columns = 7;
 using Row = std::array<Cell, columns>;
 
-inline Key keyOf(const QString &text)
+constexpr bool isText(Column column)
 {
-    return {.text = text.toUtf8()};
+    return column == Text || column == Loose;
+}
+
+// How an engine compares the texts of a column.
+struct TextRule
+{
+    bool hasUpperCase = false; // in the order of texts, if case doesn't count
+    bool ignoresCase = false;
+    bool ignoresEnd = false; // blanks there
+    bool likeIgnoresCase = false;
+    bool likeIgnoresEnd = false; // of the text, not of the pattern
+
+    QString folded(const QString &text) const { return hasUpperCase ? text.toUpper() : text.toLower(); }
+    static QString withoutEnd(QString text)
+    {
+        while (text.endsWith(u' '))
+            text.chop(1);
+        return text;
+    }
+    // What is equal has equal ones, in the order of the engine.
+    QByteArray compared(const QString &text) const
+    {
+        const QString end = ignoresEnd ? withoutEnd(text) : text;
+        return (ignoresCase ? folded(end) : end).toUtf8();
+    }
+    // What LIKE sees of a pattern, and of a value.
+    QByteArray pattern(const QString &text) const { return (likeIgnoresCase ? folded(text) : text).toUtf8(); }
+    QByteArray liked(const QString &text) const { return pattern(likeIgnoresEnd ? withoutEnd(text) : text); }
+};
+
+inline Key keyOf(const QString &text, const TextRule &rule)
+{
+    return {.text = rule.compared(text), .liked = rule.liked(text)};
 }
 
 inline Key keyOf(const QDateTime &moment)
@@ -56,6 +92,7 @@ struct Typed
     QString text;
     Key first;
     std::optional<Key> end = {};
+    QByteArray pattern = {}; // of a text, as LIKE sees it
 
     bool means(const Key &value) const { return end ? first <= value && value < *end : value == first; }
     bool endsBefore(const Key &value) const { return end ? *end <= value : first < value; }
@@ -66,9 +103,28 @@ inline const QDate today(2024, 2, 29);
 inline const std::vector<QDate> &days()
 {
     static const std::vector<QDate> days{
-        {2022, 12, 31}, {2023, 1, 1},  {2023, 12, 31}, {2024, 1, 1},  {2024, 1, 31},  {2024, 2, 1},
-        {2024, 2, 19},  {2024, 2, 25}, {2024, 2, 26},  {2024, 2, 28}, {2024, 2, 29},  {2024, 3, 1},
-        {2024, 3, 3},   {2024, 3, 4},  {2024, 3, 31},  {2024, 4, 1},  {2024, 12, 31}, {2025, 1, 1}};
+        {2022, 12, 31},
+        {2023, 1, 1},
+        {2023, 12, 31},
+        {2024, 1, 1},
+        {2024, 1, 31},
+        {2024, 2, 1},
+        {2024, 2, 19},
+        {2024, 2, 25},
+        {2024, 2, 26},
+        {2024, 2, 28},
+        {2024, 2, 29},
+        {2024, 3, 1},
+        {2024, 3, 3},
+        {2024, 3, 4},
+        {2024, 3, 31},
+        {2024, 4, 1},
+        {2024, 12, 31},
+        {2025, 1, 1},
+        // The day before the clocks were changed at midnight, the day without a midnight, and the next one.
+        {2018, 11, 3},
+        {2018, 11, 4},
+        {2018, 11, 5}};
     return days;
 }
 
@@ -106,11 +162,11 @@ public:
         return values[static_cast<typename Values::size_type>(below(static_cast<int>(values.size())))];
     }
 
-    // Letters of one case only: whether case counts is the column's affair.
     QString text(bool hasEmoji)
     {
-        static const QStringList pieces{u"'"_s,  u"\\"_s, u"%"_s,   u"_"_s,  u"["_s,  u"]"_s,  u"!"_s,
-                                        u"茶"_s, u"a"_s,  u"b c"_s, u"\""_s, u"，"_s, u"、"_s, u" FROM x"_s};
+        static const QStringList pieces{u"'"_s,  u"\\"_s, u"%"_s,  u"_"_s, u"["_s,       u"]"_s,
+                                        u"!"_s,  u"茶"_s, u"a"_s,  u"A"_s, u"b c"_s,     u"B c"_s,
+                                        u"\""_s, u"，"_s, u"、"_s, u" "_s, u" FROM x"_s, u"a "_s};
         QString text;
         for (int count = below(4); count > 0; --count)
             text += hasEmoji && oneIn(12) ? u"🍵"_s : oneOf(pieces);
@@ -121,6 +177,16 @@ public:
     {
         static const std::vector<QTime> times{{0, 0}, {0, 0, 1}, {12, 0}, {23, 59, 59}};
         return {oneOf(days()), oneOf(times), Qt::UTC};
+    }
+    // One that there was in the zone.
+    QDateTime momentIn(const QTimeZone &zone)
+    {
+        for (;;) {
+            const QDateTime wall = moment();
+            const QDateTime there(wall.date(), wall.time(), zone);
+            if (there.isValid() && there.date() == wall.date() && there.time() == wall.time())
+                return there;
+        }
     }
 
 private:

@@ -51,7 +51,7 @@ TEST(DecimalSum, AddsIntegersBeyondTheirOwnRange)
     for (int i = 0; i < 3; ++i)
         sum.add(std::numeric_limits<qint64>::max());
     EXPECT_EQ(sum.text(), QStringLiteral("27670116110564327421"));
-    EXPECT_EQ(sum.average(3), QStringLiteral("9.22337203685478E+18"));
+    EXPECT_EQ(sum.average(3), QStringLiteral("9223372036854775807"));
 }
 
 TEST(DecimalSum, LosesNoSmallTermsBesideLargeOnes)
@@ -67,4 +67,38 @@ TEST(DecimalSum, LosesNoSmallTermsBesideLargeOnes)
         tenths.add(0.1);
     EXPECT_EQ(tenths.text(), QStringLiteral("1"));
     EXPECT_EQ(tenths.average(10), QStringLiteral("0.1"));
+}
+
+TEST(DecimalSum, TheAverageOfDecimalsKeepsTheirDigits)
+{
+    struct Average
+    {
+        std::vector<const char *> terms;
+        const char *average;
+    };
+    for (const Average &one : std::vector<Average>{
+             {{"10.00", "10.01"}, "10.005"},
+             {{"1", "0", "0"}, "0.333333333333333"},
+             {{"2", "0", "0"}, "0.666666666666667"},
+             {{"-2", "0", "0"}, "-0.666666666666667"},
+             {{"12345678901234567.89", "12345678901234567.91"}, "12345678901234567.9"},
+             {{"12345678901234567.89", "12345678901234567.90"}, "12345678901234567.9"},
+             {{"100", "200"}, "150"},
+             {{"0.00", "-0.00"}, "0"},
+         }) {
+        DecimalSum sum;
+        for (const char *term : one.terms)
+            EXPECT_TRUE(sum.addText(term));
+        EXPECT_EQ(sum.average(static_cast<qint64>(one.terms.size())).toStdString(), one.average);
+    }
+}
+
+TEST(DecimalSum, HasASign)
+{
+    DecimalSum sum;
+    EXPECT_EQ(sum.sign(), 0);
+    sum.addText("12345678901234567.89");
+    EXPECT_EQ(sum.sign(), 1);
+    sum.addText("-12345678901234567.90");
+    EXPECT_EQ(sum.sign(), -1);
 }

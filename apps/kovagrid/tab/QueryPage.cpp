@@ -7,6 +7,7 @@
 #include "tab/StatementEdit.h"
 
 #include <KOVAVSFDataGrid>
+#include <KOVAVSFDataGridLib/control/face/NewValuePane.h>
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QRegularExpression>
@@ -58,9 +59,14 @@ QueryPage::QueryPage(const Options &options, QWidget *parent)
     rows->setContentsMargins(6, 6, 6, 6);
     rows->addWidget(parts);
     connect(m_sql, &StatementEdit::runRequested, this, &QueryPage::loadForm);
+    m_valuePane = KOVAVSFDataGridLib::newValuePane(*m_grid, this, [this] { Q_EMIT valueWanted(); });
+    m_valuePane->hide();
 }
 
-QueryPage::~QueryPage() = default;
+QueryPage::~QueryPage()
+{
+    delete m_valuePane; // wherever it is
+}
 
 QWidget *QueryPage::makeForm()
 {

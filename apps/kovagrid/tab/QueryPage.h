@@ -2,6 +2,7 @@
 
 #include "start/Options.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
 class ConnectionEdit;
@@ -33,6 +34,8 @@ public:
 
     KOVAVSFDataGrid *grid() const { return m_grid; }
     StatementEdit *statement() const { return m_sql; }
+    // Shows the value of the current cell. The page deletes it; a window puts it where it has room.
+    QWidget *valuePane() const { return m_valuePane; }
     QString connection() const;
     void setConnection(const QString &connection);
     qint32 dbType() const;
@@ -42,6 +45,8 @@ public:
 
 Q_SIGNALS:
     void loaded();
+    // The user asks for the pane of the value.
+    void valueWanted();
 
 private:
     QWidget *makeForm();
@@ -56,6 +61,7 @@ private:
     QLineEdit *m_part;
     QLineEdit *m_sort;
     QWidget *m_further;
+    QPointer<QWidget> m_valuePane;
     qint32 m_tableType;
     double m_seconds = 0;
 };

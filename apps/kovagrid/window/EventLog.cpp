@@ -1,8 +1,8 @@
 #include "window/EventLog.h"
 
-#include <KOVAVSFDataGrid>
-
 #include <QtCore/QTime>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -18,13 +18,37 @@ void EventLog::add(const QString &line)
     appendPlainText(QTime::currentTime().toString(QStringLiteral("HH:mm:ss  ")) + line);
 }
 
-// Every event but DataMouseMove, which would drown the others.
 void EventLog::listenTo(const KOVAVSFDataGrid &grid)
 {
-    const auto log = [this](const QString &line) {
-        if (isVisible())
-            add(line);
-    };
+    m_grids.append(&grid);
+    if (isVisible())
+        connectTo(grid);
+}
+
+void EventLog::showEvent(QShowEvent *event)
+{
+    QPlainTextEdit::showEvent(event);
+    for (const auto &grid : std::as_const(m_grids)) {
+        if (grid) {
+            disconnect(grid, nullptr, this, nullptr);
+            connectTo(*grid);
+        }
+    }
+}
+
+void EventLog::hideEvent(QHideEvent *event)
+{
+    QPlainTextEdit::hideEvent(event);
+    for (const auto &grid : std::as_const(m_grids)) {
+        if (grid)
+            disconnect(grid, nullptr, this, nullptr);
+    }
+}
+
+// Every event but DataMouseMove, which would drown the others.
+void EventLog::connectTo(const KOVAVSFDataGrid &grid)
+{
+    const auto log = [this](const QString &line) { add(line); };
     connect(&grid, &KOVAVSFDataGrid::DataMouseDown, this,
             [log](qint16 &button, qint16 &shift, float &x, float &y) {
                 log(u"DataMouseDown %1 %2 (%3, %4)"_s.arg(button).arg(shift).arg(x).arg(y));

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QtWidgets/QPlainTextEdit>
+#include <KOVAVSFDataGrid>
 
-class KOVAVSFDataGrid;
+#include <QtCore/QPointer>
+#include <QtWidgets/QPlainTextEdit>
 
 // Lists what happened, the newest below.
 class EventLog : public QPlainTextEdit
@@ -13,6 +14,16 @@ public:
     explicit EventLog(QWidget *parent = nullptr);
 
     void add(const QString &line);
-    // Adds each event of the grid from now on while this log can be seen.
+    // Adds each event of the grid from now on while this log can be seen. At other times it is not connected:
+    // what a double click does depends on whether somebody listens.
     void listenTo(const KOVAVSFDataGrid &grid);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    void connectTo(const KOVAVSFDataGrid &grid);
+
+    QList<QPointer<const KOVAVSFDataGrid>> m_grids;
 };

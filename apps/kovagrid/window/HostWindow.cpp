@@ -22,6 +22,7 @@
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QToolButton>
 
@@ -48,7 +49,11 @@ QStringList filesIn(const QMimeData &data)
 } // namespace
 
 HostWindow::HostWindow(const Options &options)
-    : m_tabs(new QTabWidget), m_tables(new TableList), m_picture(new PicturePane), m_log(new EventLog)
+    : m_tabs(new QTabWidget),
+      m_tables(new TableList),
+      m_picture(new PicturePane),
+      m_log(new EventLog),
+      m_values(new QStackedWidget)
 {
     setWindowTitle(HostTexts::WindowTitle());
     setAcceptDrops(true);
@@ -100,6 +105,7 @@ void HostWindow::makeDocks()
     };
     addDock(Qt::LeftDockWidgetArea, u"tablesPane"_s, HostTexts::TablesPane(), m_tables);
     addDock(Qt::LeftDockWidgetArea, u"picturePane"_s, HostTexts::PicturePane(), m_picture);
+    addDock(Qt::RightDockWidgetArea, u"valuePane"_s, HostTexts::ValuePane(), m_values)->hide();
     addDock(Qt::BottomDockWidgetArea, u"eventsPane"_s, HostTexts::EventsPane(), m_log)->hide();
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     resizeDocks({m_docks[0], m_docks[1]}, {3, 1}, Qt::Vertical);
@@ -149,6 +155,13 @@ QueryPage *HostWindow::addPage(const Options &options)
     connect(grid, &KOVAVSFDataGrid::DataClick, this, showPicture);
     connect(grid, &KOVAVSFDataGrid::RecordChanged, this, showPicture);
     connect(grid, &KOVAVSFDataGrid::RecordsetChanged, this, showPicture);
+    m_values->addWidget(added->valuePane());
+    connect(added, &QueryPage::valueWanted, this, [this, added] {
+        m_values->setCurrentWidget(added->valuePane());
+        auto *dock = qobject_cast<QDockWidget *>(m_values->parentWidget());
+        dock->show();
+        dock->raise();
+    });
     connect(added, &QueryPage::loaded, this, [this, added] {
         m_tabs->setTabText(m_tabs->indexOf(added), added->caption());
         if (added == page())
@@ -185,6 +198,7 @@ void HostWindow::showPage()
         return;
     m_tables->showTablesOf(page()->connection(), page()->dbType());
     m_picture->showRecordOf(*grid());
+    m_values->setCurrentWidget(page()->valuePane());
 }
 
 void HostWindow::openFile(const QString &path)
@@ -220,6 +234,8 @@ void HostWindow::focusNextPart()
         m_tables->setFocus();
     else if (now == page()->statement())
         grid()->setFocus();
+    else if (m_values->isVisible() && !m_values->isAncestorOf(now))
+        page()->valuePane()->setFocus();
     else
         page()->statement()->setFocus();
 }

@@ -8,6 +8,7 @@ class EventLog;
 class KOVAVSFDataGrid;
 class PicturePane;
 class QDockWidget;
+class QStackedWidget;
 class QTabWidget;
 class QueryPage;
 class TableList;
@@ -49,6 +50,7 @@ private:
     TableList *m_tables;
     PicturePane *m_picture;
     EventLog *m_log;
+    QStackedWidget *m_values; // of the tabs
     QList<QDockWidget *> m_docks;
     bool m_remembersSettings = false;
 };

@@ -33,6 +33,7 @@ void Recordset::saveBeforeAddNew()
 void Recordset::AddNew()
 {
     d->needIdle();
+    d->notifyLeaving();
     if (d->isAdding())
         saveBeforeAddNew();
     Update();
@@ -44,6 +45,7 @@ void Recordset::AddNew()
 void Recordset::Update()
 {
     d->needIdle();
+    d->notifyLeaving();
     switch (d->edit().mode()) {
     case adEditAdd:
         withinMemory(Texts::changeOutOfMemory, [&] {

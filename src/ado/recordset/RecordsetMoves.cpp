@@ -32,6 +32,7 @@ bool Recordset::isEOF() const
 void Recordset::leaveRecord()
 {
     d->needIdle();
+    d->notifyLeaving();
     if (d->isAdding() && d->edit().isEmpty())
         CancelUpdate();
     else

@@ -128,14 +128,16 @@ struct Recordset::Private
     void needInRange(qint64 number, qint64 limit, const QString &text) const;
 
     // An observer may remove itself or others when it is called.
-    void notify(void (RecordsetObserver::*what)(EventReasonEnum), EventReasonEnum reason)
+    template<typename... Arguments>
+    void notify(void (RecordsetObserver::*what)(Arguments...), Arguments... arguments)
     {
         const auto told = observers;
         for (RecordsetObserver *observer : told) {
             if (std::find(observers.begin(), observers.end(), observer) != observers.end())
-                (observer->*what)(reason);
+                (observer->*what)(arguments...);
         }
     }
+    void notifyLeaving() { notify(&RecordsetObserver::willLeaveRecord); }
     void notifyMoved(EventReasonEnum reason) { notify(&RecordsetObserver::moveComplete, reason); }
     void notifyChanged(EventReasonEnum reason) { notify(&RecordsetObserver::recordChangeComplete, reason); }
     void notifyReplaced(EventReasonEnum reason)

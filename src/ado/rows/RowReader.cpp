@@ -19,4 +19,12 @@ const std::vector<RawValue> *RowReader::read(qint64 record)
     return &m_cells;
 }
 
+QString RowReader::beginning(const Recordset &recordset, qint64 record, int column, qsizetype length)
+{
+    const auto &shared = recordset.d->shared;
+    if (!shared || !shared->snapshot.contains(record, column))
+        return {};
+    return shared->snapshot.beginning(record, column, length);
+}
+
 } // namespace ADODB

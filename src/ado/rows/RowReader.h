@@ -2,7 +2,7 @@
 
 #include "ado/values/RawValue.h"
 
-#include <QtCore/qglobal.h>
+#include <QtCore/QString>
 
 #include <vector>
 
@@ -22,6 +22,10 @@ public:
     // change of the recordset. Null when there is no such record, because it was deleted or the recordset is
     // closed.
     const std::vector<RawValue> *read(qint64 record);
+
+    // One cell's text, without what of a long one comes behind the first `length` characters or so. Empty
+    // when there is no such cell.
+    static QString beginning(const Recordset &recordset, qint64 record, int column, qsizetype length);
 
 private:
     const Recordset &m_recordset;

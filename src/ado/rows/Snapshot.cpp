@@ -1,9 +1,23 @@
 #include "ado/rows/Snapshot.h"
 
+#include "ado/Texts.h"
 #include "ado/ValueText.h"
 #include "ado/values/FieldValue.h"
 
 namespace ADODB {
+
+namespace {
+
+// As many whole characters as there are in the first bytes.
+QByteArrayView firstOf(QByteArrayView utf8, qsizetype bytes)
+{
+    const auto goesOn = [&] { return (static_cast<unsigned char>(utf8[bytes]) & 0xc0) == 0x80; };
+    for (int longest = 4; longest > 0 && bytes > 0 && goesOn(); --longest)
+        --bytes;
+    return utf8.first(bytes);
+}
+
+} // namespace
 
 Snapshot::Snapshot(std::vector<FieldInfo> fields, RowStore rows)
     : m_fields(std::move(fields)), m_rows(std::move(rows))
@@ -28,7 +42,21 @@ QString Snapshot::text(qint64 record, int column) const
     // The most frequent cell by far, spared the way through a QVariant.
     if (raw.kind == RawValue::Kind::Text && FieldValue::isText(type))
         return QString::fromUtf8(raw.bytes);
+    // Which says only how many there are; they needn't be copied.
+    if (raw.kind == RawValue::Kind::Blob)
+        return Texts::bytes.arg(raw.bytes.size());
     return ValueText(FieldValue::fromRaw(raw, type));
+}
+
+QString Snapshot::beginning(qint64 record, int column, qsizetype length) const
+{
+    constexpr qsizetype mostBytes = 3; // of UTF-8 for one of QString's characters
+    const RawValue raw = m_rows.cell(record - 1, column);
+    const DataTypeEnum type = m_fields[static_cast<std::size_t>(column)].type;
+    const bool isText = raw.kind == RawValue::Kind::Text && (FieldValue::isText(type) || type == adVariant);
+    if (isText && raw.bytes.size() > mostBytes * length)
+        return QString::fromUtf8(firstOf(raw.bytes, mostBytes * length));
+    return text(record, column);
 }
 
 bool Snapshot::isNull(qint64 record, int column) const

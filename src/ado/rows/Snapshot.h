@@ -23,6 +23,8 @@ public:
 
     QVariant value(qint64 record, int column) const;
     QString text(qint64 record, int column) const;
+    // The same, without what of a long text comes behind the first `length` characters or so.
+    QString beginning(qint64 record, int column, qsizetype length) const;
     bool isNull(qint64 record, int column) const;
 
     std::vector<RawValue> raw(qint64 record) const { return m_rows.row(record - 1); }

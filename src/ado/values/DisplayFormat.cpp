@@ -13,6 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString yesNo = u"是/否"_s;
+const QString box = u"☑/☐"_s;
 
 // Digit by digit, because a decimal may have more digits than a double.
 void round(QString &whole, QString &fraction, int decimals)
@@ -48,11 +49,11 @@ QString withThousands(const QString &whole)
     return grouped;
 }
 
-QString asYesNo(const QString &text)
+QString asTruth(const QString &text, const QString &yes, const QString &no)
 {
     if (text == "True"_L1 || text == "1"_L1 || text == "-1"_L1)
-        return Texts::yes;
-    return text == "False"_L1 || text == "0"_L1 ? Texts::no() : text;
+        return yes;
+    return text == "False"_L1 || text == "0"_L1 ? no : text;
 }
 
 } // namespace
@@ -62,7 +63,9 @@ std::optional<DisplayFormat> DisplayFormat::fromText(const QString &text)
     if (text.isEmpty())
         return DisplayFormat();
     if (text == yesNo)
-        return DisplayFormat{.isYesNo = true};
+        return DisplayFormat{.truth = Truth::YesNo};
+    if (text == box)
+        return DisplayFormat{.truth = Truth::Box};
     static const QRegularExpression number(u"\\A(#,##)?(?:0(?:\\.(0{1,%1}))?)?\\z"_s.arg(mostDecimals));
     const QRegularExpressionMatch match = number.match(text);
     if (!match.hasMatch())
@@ -74,8 +77,8 @@ std::optional<DisplayFormat> DisplayFormat::fromText(const QString &text)
 
 QString DisplayFormat::toText() const
 {
-    if (isYesNo)
-        return yesNo;
+    if (truth != Truth::Word)
+        return truth == Truth::YesNo ? yesNo : box;
     QString text = hasThousands ? u"#,##"_s : QString();
     if (decimals >= 0)
         text += u'0';
@@ -86,8 +89,10 @@ QString DisplayFormat::toText() const
 
 QString DisplayFormat::applied(const QString &text) const
 {
-    if (isYesNo)
-        return asYesNo(text);
+    if (truth == Truth::YesNo)
+        return asTruth(text, Texts::yes, Texts::no);
+    if (truth == Truth::Box)
+        return asTruth(text, box.first(1), box.last(1));
     if (isNone())
         return text;
     static const QRegularExpression number(u"\\A(-?)([0-9]+)(?:\\.([0-9]+))?([eE][-+]?[0-9]+)?\\z"_s);

@@ -14,14 +14,15 @@ struct DisplayFormat
 
     bool hasThousands = false;
     int decimals = -1; // rounded half away from zero; -1 as many as the text has
-    bool isYesNo = false;
+    enum class Truth { Word, YesNo, Box };
+    Truth truth = Truth::Word; // how a Boolean is shown
 
-    // "0", "0.00", "#,##0", "#,##0.000", "#,##" (any decimals with thousands), "是/否", and "" for none;
-    // nothing for any other text.
+    // "0", "0.00", "#,##0", "#,##0.000", "#,##" (any decimals with thousands), "是/否", "☑/☐", and "" for
+    // none; nothing for any other text.
     static std::optional<DisplayFormat> fromText(const QString &text);
     QString toText() const;
 
-    bool isNone() const { return !hasThousands && decimals < 0 && !isYesNo; }
+    bool isNone() const { return !hasThousands && decimals < 0 && truth == Truth::Word; }
     // A text that the format is not made for stays as it is.
     QString applied(const QString &text) const;
 

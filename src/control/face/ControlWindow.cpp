@@ -19,6 +19,7 @@
 #include "session/commands/CommandKeys.h"
 #include "session/editing/EditedRecord.h"
 
+#include <QtCore/QItemSelectionModel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
@@ -49,6 +50,8 @@ ControlWindow::ControlWindow(QWidget &control, GridParts &parts)
       m_waits(control, [this] { return m_parts.foot(); })
 {
     m_parts.lblFieldCount->setText(pageLabel({}, {}));
+    QObject::connect(parts.MSFlexGrid1->selectionModel(), &QItemSelectionModel::currentChanged,
+                     parts.MSFlexGrid1, [this] { followCurrentCell(); });
 }
 
 void ControlWindow::showRecords(std::shared_ptr<ADODB::Recordset> recordset, qint64 first, int count)

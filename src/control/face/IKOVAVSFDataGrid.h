@@ -251,8 +251,8 @@ public:
     // Landscape (the first of each is the default); Title and the text above each page, which is the table's
     // name otherwise. Returns false if the user cancels, or after a message box if it fails.
     virtual bool PrintData(const QString &strFile, const QString &strOptions) = 0;
-    // The filters that the user has saved for the table of the open result, and those used last, as a short
-    // JSON text. Relative days in them stay relative. Empty while nothing is open.
+    // The filters that the user has saved for the table of the open result and the LayoutKey, and those used
+    // last, as a short JSON text. Relative days in them stay relative. Empty while nothing is open.
     virtual QString SaveFilters() = 0;
     // Replaces the user's filters for the table by those in such a text. If nothing is open or the text is
     // not valid, it shows a message box, changes nothing and returns false.

@@ -90,8 +90,10 @@ void KOVAVSFDataGrid::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         d->applyBackColor();
-    else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        const ADODB::Notifications::Hold hold(d->session->notifications()); // as above
+        d->singleRecord.editor().commit();
         d->parts.layOut(width(), height());
-    else if (event->type() == QEvent::LanguageChange)
+    } else if (event->type() == QEvent::LanguageChange)
         d->writeTexts();
 }

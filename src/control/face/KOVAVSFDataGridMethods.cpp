@@ -24,7 +24,6 @@
 #include "session/pages/Pages.h"
 #include "session/records/ExportResult.h"
 #include "session/records/PrintResult.h"
-#include "session/statement/LoadedTable.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
@@ -76,7 +75,10 @@ bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
         return true;
     const ResultWatch watch(session);
     try {
-        saveBeforeMove(session);
+        if (d->window.commitEdit()) // a text that doesn't fit stays
+            return true;
+        if (watch.isUntouched())
+            saveBeforeMove(session);
         if (!watch.isUntouched())
             return true;
         const QSignalBlocker onlyOurOwnEvent(d->parts.Adodc1);
@@ -357,7 +359,7 @@ QString KOVAVSFDataGrid::SaveFilters()
     Session &session = *d->session;
     if (!session.result().isOpen())
         return {};
-    const FilterShelf shelf{[table = loadedTable(session)] { return readFilters(table); }, {}};
+    const FilterShelf shelf{[place = d->filterPlace()] { return readFilters(place); }, {}};
     return shelf.filters().toText();
 }
 
@@ -370,6 +372,6 @@ bool KOVAVSFDataGrid::RestoreFilters(const QString &strFilters)
         Messages::show(this, reason ? *reason : FilterTexts::NoTableOfFilters);
         return false;
     }
-    saveFilters(loadedTable(session), std::get<SavedFilters>(filters).toText());
+    saveFilters(d->filterPlace(), std::get<SavedFilters>(filters).toText());
     return true;
 }

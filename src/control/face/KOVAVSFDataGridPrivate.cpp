@@ -8,6 +8,7 @@
 #include "control/input/EndKeys.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/HistoryMenu.h"
+#include "control/parts/lines/EmptyHint.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "control/settings/Configuration.h"
 #include "control/viewer/ShowFullScreen.h"
@@ -20,6 +21,7 @@
 #include "session/editing/EditedRecord.h"
 #include "session/pages/Pages.h"
 #include "session/statement/ShownStatement.h"
+#include "session/statement/LoadedTable.h"
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
@@ -46,6 +48,7 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
       layout(*session, *parts.vsfgDataGrid)
 {
     window.setSession(*session);
+    questions.setHostKey([this] { return layout.key(); });
     window.setSingleRecordView(&singleRecord);
     window.setMenu(&commands.menu());
     window.setFinder(&finder);
@@ -58,7 +61,9 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
             request.condition = asked.condition;
             request.field = asked.field;
             request.value = asked.value;
-            const QString condition = DialogQuestions(viewer).askCondition(request);
+            DialogQuestions inViewer(viewer);
+            inViewer.setHostKey([this] { return layout.key(); });
+            const QString condition = inViewer.askCondition(request);
             asked.memory = request.memory;
             return condition;
         });
@@ -101,6 +106,8 @@ void KOVAVSFDataGrid::Private::connectHost()
         Q_EMIT q.RecordChanged(reason,
                                static_cast<qint32>(session->result().recordset()->AbsolutePosition()));
     });
+    connect(parts.lblEmpty, &EmptyHint::addWanted, &q,
+            [this] { session->run(QStringLiteral("AddRecord"), ChosenBy::MenuItem); });
     connect(parts.Adodc1, &ADODB::Adodc::RecordChangeComplete, &q, [this] { window.refreshStatus(); });
     connect(parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, &q,
             [this](ADODB::EventReasonEnum reason) { Q_EMIT q.RecordsetChanged(reason); });
@@ -244,6 +251,11 @@ void KOVAVSFDataGrid::Private::saveBeforeEnd()
     const QSignalBlocker dataBlocked(parts.Adodc1);
     if (const std::optional<QString> failure = session->record().saveSilently())
         Messages::showLater(*failure);
+}
+
+FilterPlace KOVAVSFDataGrid::Private::filterPlace() const
+{
+    return {layout.key(), session->texts.connectionString, loadedTable(*session)};
 }
 
 void KOVAVSFDataGrid::Private::emptyGrid()

@@ -14,6 +14,7 @@
 #include "control/parts/DialogQuestions.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/ResultFinder.h"
+#include "control/settings/KeptFilters.h"
 #include "session/HostEvents.h"
 #include "session/Session.h"
 
@@ -52,6 +53,8 @@ public:
     std::optional<QString> editText(const QString &label, const QString &text);
     // For a cell outside the grid a message with the title, and "".
     QString cellText(int row, int col, const QString &title);
+    // Where the filters of the loaded table are kept.
+    KOVAVSFDataGridLib::FilterPlace filterPlace() const;
     void emptyGrid();
     // Writes what depends on the result once more, after a change of the language.
     void writeTexts();

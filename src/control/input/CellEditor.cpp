@@ -15,6 +15,7 @@
 #include "session/records/ForeignValues.h"
 
 #include <QtCore/QScopedValueRollback>
+#include <QtCore/QSet>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QToolTip>
@@ -29,10 +30,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int linesShown = 6;
-constexpr qsizetype longestLine = 60;    // of a text that gets several lines without having any
-constexpr qint64 recordsSearched = 2000; // for the values that a column has already
-constexpr qsizetype mostValues = 50;     // a column with more is none to pick from
-constexpr QChar paragraphEnd(0x2029);    // a line break, to a text document
+constexpr qsizetype longestLine = 60;     // of a text that gets several lines without having any
+constexpr qint64 recordsSearched = 20000; // for the values that a column has already
+constexpr qsizetype mostValues = 200;     // of these in the list
+constexpr QChar paragraphEnd(0x2029);     // a line break, to a text document
 
 bool isTextType(ADODB::DataTypeEnum type)
 {
@@ -89,6 +90,20 @@ CellEditor::CellEditor(Session &session, GridParts &parts)
     m_lines.installEventFilter(this);
 }
 
+CellEditor::~CellEditor()
+{
+    observe({});
+}
+
+void CellEditor::observe(const std::shared_ptr<ADODB::Recordset> &recordset)
+{
+    if (const auto before = m_recordset.lock())
+        before->RemoveObserver(this);
+    m_recordset = recordset;
+    if (recordset)
+        recordset->AddObserver(this);
+}
+
 QWidget &CellEditor::widget() const
 {
     if (m_hasLines)
@@ -133,6 +148,7 @@ bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
     }
     QWidget &edit = widget();
     place();
+    observe(m_session.result().recordset());
     edit.show();
     edit.setFocus();
     if (m_isReadOnly)
@@ -208,27 +224,47 @@ QString CellEditor::typedText() const
     return text;
 }
 
-// What the field can refer to, or the texts that the column has in the first records, when they are few.
-QStringList CellEditor::knownValues() const
+// What the field can refer to, or the texts that the column has already. Who has typed something looks for
+// values that contain it.
+ListedValues CellEditor::knownValues() const
 {
+    const QString typed = typedText();
+    const QString search = typed == m_before ? QString() : typed;
     const ADODB::Field &field = m_session.result().recordset()->Fields().Item(m_field);
-    if (const auto keys = foreignValues(m_session, field))
-        return *keys;
-    QStringList values;
+    ListedValues list;
+    bool hasMore = false;
+    if (auto foreign = foreignValues(m_session, field, search)) {
+        list = {.values = foreign->keys, .shown = foreign->shown};
+        hasMore = foreign->hasMore;
+    } else {
+        list = valuesOfColumn(search);
+        hasMore = list.values.size() > mostValues;
+        list.values = list.values.first(std::min(list.values.size(), mostValues));
+    }
+    if (hasMore)
+        list.end = GridTexts::MoreValuesByTyping;
+    else if (list.values.isEmpty())
+        list.end = search.isEmpty() ? FilterTexts::NoValues() : FilterTexts::NothingFound.arg(search);
+    return list;
+}
+
+// In order, and one more than are listed where there are more.
+ListedValues CellEditor::valuesOfColumn(const QString &search) const
+{
     const ADODB::Recordset &recordset = *m_session.result().recordset();
     const qint64 last = std::min(recordset.RecordCount(), recordsSearched);
-    for (qint64 record = 1; record <= last && values.size() <= mostValues; ++record) {
+    QSet<QString> found;
+    for (qint64 record = 1; record <= last && found.size() <= mostValues; ++record) {
         const QString text = recordset.CellText(record, m_field);
-        if (!text.isEmpty() && !values.contains(text))
-            values += text;
+        if (!text.isEmpty() && !text.contains(u'\n') && text.contains(search, Qt::CaseInsensitive))
+            found.insert(text);
     }
-    if (values.size() > mostValues)
-        return {};
-    if (m_isText)
-        values.sort();
-    else
+    QStringList values = found.values();
+    if (fieldClassOf(recordset.Fields().Item(m_field).Type()) == FieldClass::Number)
         std::ranges::sort(values, {}, [](const QString &number) { return number.toDouble(); });
-    return values;
+    else
+        values.sort();
+    return {.values = values};
 }
 
 std::optional<QString> CellEditor::commit()
@@ -245,15 +281,27 @@ std::optional<QString> CellEditor::commit(Written what)
         return {};
     }
     try {
-        // It ends last, because the host may then delete this.
-        const ADODB::Notifications::Hold hold(m_session.notifications());
-        const QScopedValueRollback<bool> committing(m_isCommitting, true);
-        write(what);
-        close();
+        writeAndClose(what);
         return {};
     } catch (const ADODB::Error &error) {
         return GridTexts::ValueRefusedPrefix + error.Description();
     }
+}
+
+void CellEditor::writeAndClose(Written what)
+{
+    // It ends last, because the host may then delete this.
+    const ADODB::Notifications::Hold hold(m_session.notifications());
+    const QScopedValueRollback<bool> committing(m_isCommitting, true);
+    write(what);
+    close();
+}
+
+// By a host, or it would have been taken before.
+void CellEditor::willLeaveRecord()
+{
+    if (isOpen() && !m_isCommitting && m_recordset.lock() == m_session.result().recordset())
+        writeAndClose(Written::Typed);
 }
 
 // An unchanged text is not written: it may be shorter than the value (fifteen digits of a number).
@@ -274,6 +322,7 @@ void CellEditor::close()
     if (!isOpen())
         return;
     const bool hadFocus = hasFocus();
+    observe({});
     widget().hide();
     if (hadFocus)
         m_parts.MSFlexGrid1->setFocus();

@@ -1,32 +1,38 @@
 #pragma once
 
+#include "ado/RecordsetObserver.h"
+
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
+#include <memory>
 #include <optional>
 
 class QPlainTextEdit;
 
 namespace ADODB {
 class Field;
-}
+class Recordset;
+} // namespace ADODB
 
 namespace KOVAVSFDataGridLib {
 
 class GridParts;
 class Session;
+struct ListedValues;
 
 // The editor over a value of the single-record list: txtEdit, which offers a calendar, yes and no, or the
 // values that the column has already, or a box of several lines for long texts and those with line breaks.
 // What is taken from it is written into the field of the current record; it reaches the database when the
-// record is saved.
-class CellEditor : public QObject
+// record is saved. When a host saves the record or moves to another one, what is typed is taken first.
+class CellEditor : public QObject, private ADODB::RecordsetObserver
 {
     Q_OBJECT
 
 public:
     // Both must outlive this object.
     CellEditor(Session &session, GridParts &parts);
+    ~CellEditor() override;
 
     // Opens over the list's current row for the field in that column of the main grid (from 1), with its
     // value, or with a text that the user began with. A field that can't be written is opened for reading,
@@ -55,19 +61,29 @@ protected:
 private:
     enum class Written { Typed, Null };
 
+    void willLeaveRecord() override;
+    void moveComplete(ADODB::EventReasonEnum) override {}
+    void recordChangeComplete(ADODB::EventReasonEnum) override {}
+    void recordsetChangeComplete(ADODB::EventReasonEnum) override {}
+    void observe(const std::shared_ptr<ADODB::Recordset> &recordset);
+
     void open(const ADODB::Field &field, const QString &text, bool isReadOnly);
     // Goes on in several lines.
     void breakLine();
     void place();
     QString typedText() const;
-    QStringList knownValues() const;
+    ListedValues knownValues() const;
+    ListedValues valuesOfColumn(const QString &search) const;
     std::optional<QString> commit(Written what);
+    // The same; throws ADODB::Error where the text doesn't fit.
+    void writeAndClose(Written what);
     void write(Written what);
 
     Session &m_session;
     GridParts &m_parts;
     QPlainTextEdit &m_lines;
-    bool m_hasLines = false; // whether m_lines is the one in use
+    std::weak_ptr<ADODB::Recordset> m_recordset; // whose record is edited, while it is open
+    bool m_hasLines = false;                     // whether m_lines is the one in use
     bool m_isReadOnly = false;
     bool m_isText = false;
     QString m_before; // the text that it opened with

@@ -5,6 +5,7 @@
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/ToolbarIcons.h"
 #include "control/settings/Configuration.h"
+#include "control/settings/KeptFilters.h"
 #include "filter/mod_Filter.h"
 #include "filter/ticks/ColumnTicks.h"
 #include "forms/ExportDialog.h"
@@ -76,6 +77,7 @@ QString DialogQuestions::askCondition(const ConditionRequest &request)
     request.memory = filter;
     const QString condition = filter->ShowFilterDialog(request.refusal);
     request.built = filter->Built();
+    saveSqlWanted(filter->IsSqlWanted());
     return condition;
 }
 
@@ -85,9 +87,7 @@ void DialogQuestions::noteConditionUsed(const ConditionRequest &request)
         std::static_pointer_cast<mod_Filter>(request.memory)->NoteUsed();
 }
 
-namespace {
-
-FilterRequest filterRequest(const ConditionRequest &request)
+FilterRequest DialogQuestions::filterRequest(const ConditionRequest &request) const
 {
     FilterRequest prepared;
     prepared.connectionString = request.connectionString;
@@ -100,14 +100,15 @@ FilterRequest filterRequest(const ConditionRequest &request)
     prepared.field = request.field;
     prepared.value = request.value;
     prepared.built = request.built;
+    prepared.isSqlWanted = readSqlWanted();
     prepared.picture = toolbarIcon(CommandKeys::Filter);
-    if (const QString table = request.table; !table.isEmpty())
-        prepared.shelf = {[table] { return readFilters(table); },
-                          [table](const QString &filters) { saveFilters(table, filters); }};
+    if (!request.table.isEmpty()) {
+        const FilterPlace place{m_hostKey ? m_hostKey() : QString(), request.connectionString, request.table};
+        prepared.shelf = {[place] { return readFilters(place); },
+                          [place](const QString &filters) { saveFilters(place, filters); }};
+    }
     return prepared;
 }
-
-} // namespace
 
 std::shared_ptr<mod_Filter> DialogQuestions::preparedFilter(const ConditionRequest &request)
 {
@@ -127,9 +128,11 @@ std::optional<ValuesAnswer> DialogQuestions::askValues(const ValuesRequest &requ
 std::optional<FindAnswer> DialogQuestions::askWords(const colDataFields &fields)
 {
     FindDialog dialog(m_parent);
+    dialog.SetEarlierWords(readSearchedWords());
     if (!dialog.InitFrm(&fields))
         return {};
-    dialog.exec();
+    if (dialog.exec() == QDialog::Accepted)
+        saveSearchedWords(dialog.EarlierWords());
     return FindAnswer{dialog.strFindText(), dialog.bIsAppointField(), dialog.strFieldName()};
 }
 

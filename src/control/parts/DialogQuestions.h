@@ -6,9 +6,12 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
+#include <functional>
+
 namespace KOVAVSFDataGridLib {
 
 class mod_Filter;
+struct FilterRequest;
 
 // Asks and tells with dialogs and message boxes above a window.
 class DialogQuestions : public Questions
@@ -16,6 +19,9 @@ class DialogQuestions : public Questions
 public:
     // `parent` is not owned and may go before this object does.
     explicit DialogQuestions(QWidget *parent);
+
+    // How the host's key is known under which it keeps what is the user's; empty where it has none.
+    void setHostKey(std::function<QString()> hostKey) { m_hostKey = std::move(hostKey); }
 
     std::optional<QString> ChooseVisibleFields(const QString &title, const QList<OfferedField> &allFields,
                                                const QStringList &partFields) override;
@@ -36,8 +42,10 @@ public:
 
 private:
     std::shared_ptr<mod_Filter> preparedFilter(const ConditionRequest &request);
+    FilterRequest filterRequest(const ConditionRequest &request) const;
 
     QPointer<QWidget> m_parent;
+    std::function<QString()> m_hostKey;
     DialogFieldChooser m_chooser;
 };
 

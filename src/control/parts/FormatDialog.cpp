@@ -1,6 +1,5 @@
 #include "control/parts/FormatDialog.h"
 
-#include "ado/values/DisplayFormat.h"
 #include "forms/Contrast.h"
 #include "forms/FormTexts.h"
 
@@ -9,6 +8,7 @@
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QVBoxLayout>
 
@@ -39,25 +39,10 @@ FormatDialog::FormatDialog(const QString &column, bool isBoolean, const QString 
     auto *heading = new QLabel(FormTexts::FormatOfColumn.arg(column));
     heading->setTextFormat(Qt::PlainText);
     rows->addWidget(heading);
-    if (isBoolean) {
-        m_yesNo = named(new QCheckBox(FormTexts::ShowYesNo), u"chkYesNo"_s);
-        m_yesNo->setChecked(given.isYesNo);
-        connect(m_yesNo, &QCheckBox::toggled, this, &FormatDialog::showSample);
-        rows->addWidget(m_yesNo);
-    } else {
-        m_thousands = named(new QCheckBox(FormTexts::Thousands), u"chkThousands"_s);
-        m_thousands->setChecked(given.hasThousands);
-        m_decimals = named(new QSpinBox, u"spnDecimals"_s);
-        m_decimals->setRange(-1, ADODB::DisplayFormat::mostDecimals);
-        m_decimals->setSpecialValueText(FormTexts::DecimalsAsTheyAre);
-        m_decimals->setValue(given.decimals);
-        connect(m_thousands, &QCheckBox::toggled, this, &FormatDialog::showSample);
-        connect(m_decimals, &QSpinBox::valueChanged, this, &FormatDialog::showSample);
-        rows->addWidget(m_thousands);
-        auto *decimals = new QFormLayout;
-        decimals->addRow(FormTexts::Decimals, m_decimals);
-        rows->addLayout(decimals);
-    }
+    if (isBoolean)
+        addTruths(*rows, given.truth);
+    else
+        addNumbers(*rows, given);
     m_sample->setTextFormat(Qt::PlainText);
     rows->addWidget(m_sample);
     auto *hint = new QLabel(FormTexts::FormatHint);
@@ -72,11 +57,44 @@ FormatDialog::FormatDialog(const QString &column, bool isBoolean, const QString 
     showSample();
 }
 
+void FormatDialog::addTruths(QVBoxLayout &rows, ADODB::DisplayFormat::Truth given)
+{
+    using Truth = ADODB::DisplayFormat::Truth;
+    const auto add = [&](const QString &caption, const QString &name, Truth truth) {
+        auto *choice = named(new QRadioButton(caption), name);
+        choice->setChecked(given == truth);
+        connect(choice, &QRadioButton::toggled, this, &FormatDialog::showSample);
+        rows.addWidget(choice);
+        return choice;
+    };
+    add(FormTexts::ShowAsItIs, u"optAsItIs"_s, Truth::Word);
+    m_yesNo = add(FormTexts::ShowYesNo, u"optYesNo"_s, Truth::YesNo);
+    m_box = add(FormTexts::ShowBox, u"optBox"_s, Truth::Box);
+}
+
+void FormatDialog::addNumbers(QVBoxLayout &rows, const ADODB::DisplayFormat &given)
+{
+    m_thousands = named(new QCheckBox(FormTexts::Thousands), u"chkThousands"_s);
+    m_thousands->setChecked(given.hasThousands);
+    m_decimals = named(new QSpinBox, u"spnDecimals"_s);
+    m_decimals->setRange(-1, ADODB::DisplayFormat::mostDecimals);
+    m_decimals->setSpecialValueText(FormTexts::DecimalsAsTheyAre);
+    m_decimals->setValue(given.decimals);
+    connect(m_thousands, &QCheckBox::toggled, this, &FormatDialog::showSample);
+    connect(m_decimals, &QSpinBox::valueChanged, this, &FormatDialog::showSample);
+    rows.addWidget(m_thousands);
+    auto *decimals = new QFormLayout;
+    decimals->addRow(FormTexts::Decimals, m_decimals);
+    rows.addLayout(decimals);
+}
+
 QString FormatDialog::format() const
 {
-    if (m_yesNo)
-        return ADODB::DisplayFormat{.isYesNo = m_yesNo->isChecked()}.toText();
-    return ADODB::DisplayFormat{m_thousands->isChecked(), m_decimals->value()}.toText();
+    using Truth = ADODB::DisplayFormat::Truth;
+    if (m_thousands)
+        return ADODB::DisplayFormat{m_thousands->isChecked(), m_decimals->value()}.toText();
+    const Truth truth = m_yesNo->isChecked() ? Truth::YesNo : m_box->isChecked() ? Truth::Box : Truth::Word;
+    return ADODB::DisplayFormat{.truth = truth}.toText();
 }
 
 void FormatDialog::showSample()

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "ado/values/DisplayFormat.h"
+
 #include <QtWidgets/QDialog>
 
 class QCheckBox;
 class QLabel;
+class QRadioButton;
 class QSpinBox;
+class QVBoxLayout;
 
 namespace KOVAVSFDataGridLib {
 
@@ -20,12 +24,15 @@ public:
     QString format() const;
 
 private:
+    void addTruths(QVBoxLayout &rows, ADODB::DisplayFormat::Truth given);
+    void addNumbers(QVBoxLayout &rows, const ADODB::DisplayFormat &given);
     void showSample();
 
     const QString m_text;
     QCheckBox *m_thousands = nullptr;
     QSpinBox *m_decimals = nullptr;
-    QCheckBox *m_yesNo = nullptr;
+    QRadioButton *m_yesNo = nullptr; // this and the next only for a Boolean
+    QRadioButton *m_box = nullptr;
     QLabel *m_sample;
 };
 

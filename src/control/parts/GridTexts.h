@@ -15,6 +15,7 @@ inline constexpr Text FieldNameHeading = tr("字段名称");
 inline constexpr Text FieldValueHeading = tr("字段内容");
 inline constexpr Text ReadOnlyCell =
     tr("此内容只读：它不直接来自一个表中可以修改的字段，或者无法唯一确定所在的记录。");
+inline constexpr Text MoreValuesByTyping = tr("（还有更多，输入几个字后再打开列表查找）");
 inline constexpr Text LinesHint = tr("按 Ctrl+Enter 换行，按 Enter 接受");
 inline constexpr Text PreviousRecord = tr("上一条记录");
 inline constexpr Text NextRecord = tr("下一条记录");
@@ -59,6 +60,7 @@ inline constexpr Text SummaryCopied = tr("已复制 %1");
 // In the middle of a grid that has nothing to show.
 inline constexpr Text NothingLoaded = tr("尚未加载数据");
 inline constexpr Text NoRecords = tr("没有记录");
+inline constexpr Text AddFirst = tr("增加第一条记录");
 inline constexpr Text AddFirstHint = tr("没有记录。按 Ctrl++ 增加第一条记录。");
 inline constexpr Text NoRecordsFound = tr("没有符合条件的记录。按“后退”返回上一步的结果。");
 

@@ -5,20 +5,17 @@
 #include "control/parts/LinkPointer.h"
 #include "control/parts/PopupMenu.h"
 #include "control/parts/ResultFinder.h"
+#include "control/parts/ValueViewer.h"
 #include "control/parts/lines/ShownOpening.h"
 #include "control/parts/toolbar/GridToolbar.h"
-#include "forms/value/ValueDialog.h"
 #include "grid/FlexGrid.h"
 #include "grid/GridSelection.h"
 #include "grid/Twips.h"
 #include "session/Session.h"
-#include "session/commands/view/ShowValue.h"
 #include "session/statement/ShownConditions.h"
 #include "session/statement/ShownOrder.h"
 
-#include <QtCore/QItemSelectionModel>
 #include <QtCore/QMimeData>
-#include <QtCore/QTimer>
 #include <QtGui/QClipboard>
 #include <QtGui/QDesktopServices>
 #include <QtGui/QGuiApplication>
@@ -30,31 +27,13 @@
 
 namespace KOVAVSFDataGridLib {
 
-namespace {
-
-ShownValue shownValue(const CellValue &value)
-{
-    return {value.field, value.place, value.isNull, value.isBinary, value.text, value.bytes};
-}
-
-// It belongs to the window: the grid may be hidden while a single record is shown.
-ValueDialog *openViewer(const VSFlexGrid &grid)
-{
-    return grid.parentWidget()->findChild<ValueDialog *>(QString(), Qt::FindDirectChildrenOnly);
-}
-
-} // namespace
-
 GridWindow::GridWindow(VSFlexGrid &grid, GridToolbar &toolbar)
-    : m_grid(grid), m_toolbar(toolbar), m_links(std::make_unique<LinkPointer>(grid))
+    : m_grid(grid),
+      m_toolbar(toolbar),
+      m_links(std::make_unique<LinkPointer>(grid)),
+      m_values(new ValueViewer(grid))
 {
     grid.PutHasColumnMenus(true);
-    // Once for all that an event changes.
-    auto *later = new QTimer(&grid);
-    later->setSingleShot(true);
-    QObject::connect(later, &QTimer::timeout, &grid, [this] { followValue(); });
-    QObject::connect(grid.selectionModel(), &QItemSelectionModel::currentChanged, later,
-                     qOverload<>(&QTimer::start));
     QObject::connect(m_links.get(), &LinkPointer::clicked, &grid,
                      [this](const QUrl &link) { openLink(link); });
 }
@@ -149,6 +128,7 @@ void GridWindow::arrangeColumns(const QStringList &order, int frozen)
 void GridWindow::refreshRecords()
 {
     m_grid.Refresh();
+    m_values->follow();
     if (m_finder)
         m_finder->startOver();
 }
@@ -229,22 +209,20 @@ void GridWindow::refreshCommands()
         m_finder->markFilterWords();
 }
 
-void GridWindow::showValue(const CellValue &value)
+void GridWindow::setSession(Session &session)
 {
-    ValueDialog *shown = openViewer(m_grid);
-    if (!shown)
-        shown = new ValueDialog(m_grid.parentWidget());
-    shown->show(shownValue(value));
+    m_session = &session;
+    m_values->setSession(session);
 }
 
-// The viewer shows the value of the cell that is current, for as long as it is open.
-void GridWindow::followValue()
+void GridWindow::showValue(const CellValue &value)
 {
-    ValueDialog *const viewer = openViewer(m_grid);
-    if (!viewer || !viewer->isVisible() || !m_session)
-        return;
-    if (const auto value = currentValue(*m_session))
-        viewer->replace(shownValue(*value));
+    m_values->show(value);
+}
+
+void GridWindow::followCurrentCell()
+{
+    m_values->follow();
 }
 
 void GridWindow::openLink(const QUrl &link)

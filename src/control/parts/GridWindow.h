@@ -15,6 +15,7 @@ class LinkPointer;
 class PopupMenu;
 class ResultFinder;
 class Session;
+class ValueViewer;
 class VSFlexGrid;
 
 // What the control and its full-screen viewer have in common as windows of a session: a grid and a toolbar.
@@ -65,7 +66,7 @@ public:
     void scrollAsOpened() override;
 
     // What it shows; not owned. To be set before anything is shown.
-    void setSession(Session &session) { m_session = &session; }
+    void setSession(Session &session);
     // The menu whose items follow the commands; not owned.
     void setMenu(PopupMenu *menu) { m_menu = menu; }
     // Its list of statements; not owned.
@@ -80,6 +81,9 @@ protected:
     // Shows the conditions in force in words.
     virtual void showConditions(const QStringList &words) = 0;
 
+    // Another cell is current, of another view than the grid.
+    void followCurrentCell();
+
     VSFlexGrid &m_grid;
     GridToolbar &m_toolbar;
     Session *m_session = nullptr;
@@ -89,9 +93,9 @@ protected:
 
 private:
     void showHeadingMarks();
-    void followValue();
 
     const std::unique_ptr<LinkPointer> m_links;
+    ValueViewer *m_values; // belongs to the grid
     // By the latest opening, until the result is shown. What shows an opening can outlive this object.
     const std::shared_ptr<std::optional<QPoint>> m_scrolled = std::make_shared<std::optional<QPoint>>();
 };

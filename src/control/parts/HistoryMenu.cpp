@@ -2,6 +2,7 @@
 
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/GridToolbar.h"
+#include "grid/WholeText.h"
 #include "language/Language.h"
 #include "session/Session.h"
 #include "session/commands/CommandKeys.h"
@@ -57,7 +58,7 @@ void HistoryMenu::fill()
         // What was added last is at the end, so both ends are read.
         QString text = fontMetrics().elidedText(step.statement.simplified(), Qt::ElideMiddle, widest);
         QAction *const action = addAction(text.replace(u'&', "&&"_L1) + u'\t' + noteText(step));
-        action->setToolTip(Qt::convertFromPlainText(step.statement));
+        action->setToolTip(Qt::convertFromPlainText(textForTip(step.statement, m_toolbar)));
         action->setData(step.steps);
         action->setCheckable(true);
         action->setChecked(step.steps == 0);

@@ -2,7 +2,6 @@
 
 #include "control/settings/platform/ModuleFolder.h"
 
-#include <QtCore/QCryptographicHash>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QSettings>
@@ -81,13 +80,6 @@ QString profileValue(const IniSection &section, const QString &key)
     return value ? value->left(longestValue).trimmed() : missingEntry;
 }
 
-// Of one length, whatever characters the table's name has.
-QString filtersKey(const QString &table)
-{
-    const QByteArray hash = QCryptographicHash::hash(table.toUtf8(), QCryptographicHash::Sha1);
-    return u"Filters/"_s + QString::fromLatin1(hash.toHex());
-}
-
 QString threeTierFile()
 {
     return QDir(moduleFolder()).filePath(u"MERIXUSER3TIER.cfg"_s);
@@ -132,16 +124,6 @@ QString readLayout(const QString &name)
 void saveLayout(const QString &name, const QString &layout)
 {
     QSettings(applicationName, applicationName).setValue(layoutGroup + name, layout);
-}
-
-QString readFilters(const QString &table)
-{
-    return QSettings(applicationName, applicationName).value(filtersKey(table)).toString();
-}
-
-void saveFilters(const QString &table, const QString &filters)
-{
-    QSettings(applicationName, applicationName).setValue(filtersKey(table), filters);
 }
 
 } // namespace KOVAVSFDataGridLib

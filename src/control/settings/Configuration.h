@@ -32,8 +32,4 @@ void saveSelectWholeRows(bool on);
 QString readLayout(const QString &name);
 void saveLayout(const QString &name, const QString &layout);
 
-// The filters that the user keeps for a table, as SavedFilters writes them; empty when there are none.
-QString readFilters(const QString &table);
-void saveFilters(const QString &table, const QString &filters);
-
 } // namespace KOVAVSFDataGridLib

@@ -4,17 +4,25 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "ado/connection/Waiting.h"
+#include "filter/FilterTexts.h"
+
+#include <QtCore/QDeadlineTimer>
 
 namespace KOVAVSFDataGridLib {
 
-CountReading::CountReading(CountRequest request) : m_request(std::move(request)), m_thread([this] { run(); })
+CountReading::CountReading(CountRequest request) : m_request(std::move(request))
 {
+    if (m_request.isHere)
+        run();
+    else
+        m_thread = std::thread([this] { run(); });
 }
 
 CountReading::~CountReading()
 {
     m_isStopped = true;
-    m_thread.join();
+    if (m_thread.joinable())
+        m_thread.join();
 }
 
 bool CountReading::waitForEnd(int milliseconds)
@@ -36,10 +44,15 @@ QString CountReading::failure() const
 
 void CountReading::run()
 {
+    constexpr int patience = 500; // milliseconds
+    const QDeadlineTimer due(m_request.isHere ? QDeadlineTimer(patience) : QDeadlineTimer::Forever);
     try {
-        const qint64 count = read();
+        const qint64 count = read([&] { return !m_isStopped && !due.hasExpired(); });
         const QMutexLocker lock(&m_mutex);
         m_count = count;
+    } catch (const ADODB::Error &error) {
+        const QMutexLocker lock(&m_mutex);
+        m_failure = due.hasExpired() ? FilterTexts::TooLongToCount() : error.Description();
     } catch (const std::exception &error) {
         const QMutexLocker lock(&m_mutex);
         m_failure = QString::fromUtf8(error.what());
@@ -48,9 +61,9 @@ void CountReading::run()
     QMetaObject::invokeMethod(this, &CountReading::ended, Qt::QueuedConnection);
 }
 
-qint64 CountReading::read()
+qint64 CountReading::read(const std::function<bool()> &shouldContinue)
 {
-    const ADODB::Waiting waiting([this] { return !m_isStopped; });
+    const ADODB::Waiting waiting(shouldContinue);
     if (m_request.connection->State() == ADODB::adStateClosed)
         m_request.connection->Open(m_request.connectionString);
     ADODB::Recordset counted;

@@ -5,6 +5,7 @@
 #include <QtCore/QSemaphore>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <thread>
@@ -20,10 +21,12 @@ struct CountRequest
 {
     std::shared_ptr<ADODB::Connection> connection; // used by nobody else meanwhile; opened if it is closed
     QString connectionString;
-    QString statement; // for one number
+    QString statement;   // for one number
+    bool isHere = false; // the connection is shared: it is used in the caller's thread only
 };
 
-// Counts them in a thread of its own, which ends with this object.
+// Counts them in a thread of its own, which ends with this object, or at once where the connection is shared.
+// Who waits for that has to wait no longer than a moment: then it is given up.
 class CountReading final : public QObject
 {
     Q_OBJECT
@@ -44,7 +47,7 @@ Q_SIGNALS:
 
 private:
     void run();
-    qint64 read();
+    qint64 read(const std::function<bool()> &shouldContinue);
 
     const CountRequest m_request;
     std::atomic<bool> m_isStopped = false;

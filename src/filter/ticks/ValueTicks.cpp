@@ -273,7 +273,7 @@ bool ValueTicks::areDays() const
 
 void ValueTicks::fill()
 {
-    const bool hasNull = !isSearch() && (m_all.withoutValue != 0 || !m_state.isNullTicked());
+    const bool hasNull = !isSearch() && m_all.withoutValue != 0;
     m_list->list(m_fieldClass, listed(), hasNull, isSearch());
     showState();
 }

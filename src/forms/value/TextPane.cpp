@@ -2,6 +2,7 @@
 
 #include "forms/FormTexts.h"
 #include "forms/value/FormatHighlighter.h"
+#include "forms/widgets/TextWidth.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QTextCursor>
@@ -40,7 +41,8 @@ TextPane::TextPane(const QString &text, QWidget *parent)
       m_found(new QLabel(this)),
       m_pieceLabel(new QLabel(this)),
       m_previousPiece(button(FormTexts::PreviousPiece, u"cmdPreviousPiece"_s, this)),
-      m_nextPiece(button(FormTexts::NextPiece, u"cmdNextPiece"_s, this))
+      m_nextPiece(button(FormTexts::NextPiece, u"cmdNextPiece"_s, this)),
+      m_foot(new QBoxLayout(QBoxLayout::LeftToRight))
 {
     m_shown->setObjectName(u"txtValue"_s);
     m_shown->setReadOnly(true);
@@ -60,15 +62,19 @@ TextPane::TextPane(const QString &text, QWidget *parent)
                     marked.color(QPalette::Active, QPalette::HighlightedText));
     m_shown->setPalette(marked);
 
-    auto *line = new QHBoxLayout;
-    line->addWidget(m_words, 1);
-    line->addWidget(m_found, 1);
-    line->addWidget(m_pieceLabel);
-    line->addWidget(m_previousPiece);
-    line->addWidget(m_nextPiece);
+    auto *words = new QHBoxLayout;
+    words->addWidget(m_words, 1);
+    words->addWidget(m_found);
+    auto *steps = new QHBoxLayout;
+    steps->addStretch();
+    steps->addWidget(m_pieceLabel);
+    steps->addWidget(m_previousPiece);
+    steps->addWidget(m_nextPiece);
+    m_foot->addLayout(words, 1);
+    m_foot->addLayout(steps);
     auto *rows = new QVBoxLayout(this);
     rows->addWidget(m_shown, 1);
-    rows->addLayout(line);
+    rows->addLayout(m_foot);
 
     connect(m_previousPiece, &QPushButton::clicked, this, [this] { showPiece(m_piece - 1); });
     connect(m_nextPiece, &QPushButton::clicked, this, [this] { showPiece(m_piece + 1); });
@@ -151,6 +157,14 @@ void TextPane::find(bool isForward)
     marked.setPosition(std::min(inPiece + static_cast<int>(words.size()), last), QTextCursor::KeepAnchor);
     m_shown->setTextCursor(marked);
     m_shown->ensureCursorVisible();
+}
+
+void TextPane::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    constexpr int narrowDigits = 60;
+    const bool isNarrow = width() < widthOfDigits(*this, narrowDigits);
+    m_foot->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
 void TextPane::keyPressEvent(QKeyEvent *event)

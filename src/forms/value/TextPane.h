@@ -4,6 +4,7 @@
 
 #include <QtWidgets/QWidget>
 
+class QBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -25,6 +26,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     qsizetype pieces() const;
@@ -39,6 +41,7 @@ private:
     QLabel *m_pieceLabel;
     QPushButton *m_previousPiece;
     QPushButton *m_nextPiece;
+    QBoxLayout *m_foot;
     qsizetype m_piece = -1;
 };
 

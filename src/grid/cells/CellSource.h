@@ -24,6 +24,8 @@ public:
     // True while no cell and no heading has a text.
     virtual bool isBlank() const { return false; }
     virtual QString text(int row, int col) const = 0;
+    // The same for what shows only the first `length` characters: of a longer text the rest may be missing.
+    virtual QString beginning(int row, int col, qsizetype /*length*/) const { return text(row, col); }
     // Whether a cell has no value, not even an empty text.
     virtual bool isNull(int /*row*/, int /*col*/) const { return false; }
     // Whether the column holds numbers, which stand to the right.

@@ -2,6 +2,7 @@
 
 #include "grid/cells/CellTexts.h"
 #include "grid/cells/TextCells.h"
+#include "grid/painting/CellDelegate.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -91,7 +92,7 @@ QString FlexGridModel::shownText(int row, int col) const
 {
     const auto place = static_cast<std::size_t>(col);
     if (row == 0 || place >= m_formatOfCol.size() || m_formatOfCol[place].isNone())
-        return m_source->text(row, col);
+        return m_source->beginning(row, col, CellDelegate::longestText + 1);
     return m_formatOfCol[place].applied(m_source->text(row, col));
 }
 

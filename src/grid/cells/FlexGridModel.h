@@ -41,7 +41,7 @@ public:
     // How texts are shown, by the headings of their columns; kept when other cells are shown.
     const QHash<QString, ADODB::DisplayFormat> &formats() const { return m_formats; }
     void setFormats(const QHash<QString, ADODB::DisplayFormat> &formats);
-    // A cell's text as it is shown, in grid coordinates.
+    // A cell's text as it is shown, in grid coordinates. What no cell has room for may be missing at its end.
     QString shownText(int row, int col) const;
     // Whether cells without a value say so.
     bool showsNulls() const { return m_showsNulls; }

@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 #include "ado/Recordset.h"
+#include "ado/rows/RowReader.h"
 #include "ado/values/NumericTypes.h"
 
 namespace KOVAVSFDataGridLib {
@@ -23,6 +24,14 @@ QString RecordWindow::text(int row, int col) const
     if (row > 0)
         return cellText(m_first + row - 1, col - 1);
     return col <= m_recordset->Fields().Count() ? m_recordset->Fields().Item(col - 1).Name() : QString();
+}
+
+// A cell is painted again and again, and may hold a hundred megabytes.
+QString RecordWindow::beginning(int row, int col, qsizetype length) const
+{
+    if (row == 0 || col == 0)
+        return text(row, col);
+    return ADODB::RowReader::beginning(*m_recordset, m_first + row - 1, col - 1, length);
 }
 
 // Cells are painted where nobody can catch anything; one that is too long for the memory says so.

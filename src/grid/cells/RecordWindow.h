@@ -24,6 +24,7 @@ public:
     int rows() const override { return m_count + 1; }
     int cols() const override { return m_fields + 1; }
     QString text(int row, int col) const override;
+    QString beginning(int row, int col, qsizetype length) const override;
     bool isNull(int row, int col) const override;
     bool isNumeric(int col) const override;
     bool setText(int, int, const QString &) override { return false; }

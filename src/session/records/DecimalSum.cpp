@@ -15,6 +15,16 @@ QString shown(double value)
     return QString::number(value + 0.0, 'G', shownDigits);
 }
 
+// With the point before the last `scale` digits.
+QString decimalText(QString digits, int scale, bool isNegative)
+{
+    if (scale > 0) {
+        digits = digits.rightJustified(scale + 1, u'0');
+        digits.insert(digits.size() - scale, u'.');
+    }
+    return isNegative ? u'-' + digits : digits;
+}
+
 } // namespace
 
 void DecimalSum::add(qint64 value)
@@ -100,27 +110,52 @@ double DecimalSum::approximate() const
     return static_cast<double>(exact + m_real + m_rest);
 }
 
+QString DecimalSum::digitsOf(Wide value)
+{
+    QString digits;
+    do {
+        digits.prepend(QChar(u'0' + static_cast<char16_t>(value % 10)));
+        value /= 10;
+    } while (value > 0);
+    return digits;
+}
+
 QString DecimalSum::text() const
 {
     if (!m_isExact)
         return shown(approximate());
     const bool isNegative = m_exact < 0;
-    Wide rest = isNegative ? -m_exact : m_exact;
-    QString digits;
-    do {
-        digits.prepend(QChar(u'0' + static_cast<char16_t>(rest % 10)));
-        rest /= 10;
-    } while (rest > 0);
-    if (m_scale > 0) {
-        digits = digits.rightJustified(m_scale + 1, u'0');
-        digits.insert(digits.size() - m_scale, u'.');
-    }
-    return isNegative ? u'-' + digits : digits;
+    return decimalText(digitsOf(isNegative ? -m_exact : m_exact), m_scale, isNegative);
 }
 
+// Of an exact sum by long division, so that no digit before the point or of the values' own is lost.
 QString DecimalSum::average(qint64 count) const
 {
-    return count > 0 ? shown(approximate() / static_cast<double>(count)) : QString();
+    if (count <= 0)
+        return {};
+    if (!m_isExact)
+        return shown(approximate() / static_cast<double>(count));
+    const bool isNegative = m_exact < 0;
+    const Wide size = isNegative ? -m_exact : m_exact;
+    Wide quotient = size / count;
+    Wide rest = size % count;
+    int scale = m_scale;
+    for (; rest > 0 && (quotient == 0 || digitsOf(quotient).size() < shownDigits); ++scale) {
+        quotient = quotient * 10 + rest * 10 / count;
+        rest = rest * 10 % count;
+    }
+    if (rest * 2 >= count)
+        ++quotient;
+    for (; scale > 0 && quotient % 10 == 0; --scale)
+        quotient /= 10;
+    return decimalText(digitsOf(quotient), scale, isNegative && quotient > 0);
+}
+
+int DecimalSum::sign() const
+{
+    if (!m_isExact)
+        return approximate() < 0 ? -1 : approximate() > 0 ? 1 : 0;
+    return m_exact < 0 ? -1 : m_exact > 0 ? 1 : 0;
 }
 
 } // namespace KOVAVSFDataGridLib

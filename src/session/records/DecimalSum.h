@@ -18,12 +18,15 @@ public:
     bool addText(QByteArrayView text);
 
     QString text() const;
-    // 15 significant digits.
+    // At least 15 significant digits; of an exact sum, all before the point and those of its decimals.
     QString average(qint64 count) const;
+    // -1, 0 or 1.
+    int sign() const;
 
 private:
     __extension__ using Wide = __int128;
 
+    static QString digitsOf(Wide value);
     bool addExactly(Wide value, int scale);
     bool addAsReal(const QByteArray &text);
     double approximate() const;

@@ -1,12 +1,17 @@
 #include "session/records/ForeignValues.h"
 
+#include "ado/Connection.h"
 #include "ado/Error.h"
+#include "ado/FieldInfo.h"
 #include "ado/Recordset.h"
 #include "query/clsFilterManagement.h"
 #include "session/Session.h"
+#include "sql/Like.h"
 #include "sql/Literals.h"
 #include "sql/Names.h"
 #include "sql/Predicates.h"
+
+#include <algorithm>
 
 namespace KOVAVSFDataGridLib {
 
@@ -14,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int mostValues = 1000;
+constexpr qint64 mostValues = 1000;
 
 // A statement for schema, table and column that a column refers to; empty where no engine answers it.
 QString referenceStatement(Engine engine, const QString &table, const QString &column)
@@ -45,9 +50,96 @@ LEFT JOIN pragma_table_info(f."table") k ON k.pk = 1 WHERE f."from" = %2 COLLATE
     }
 }
 
+bool isText(ADODB::DataTypeEnum type)
+{
+    switch (type) {
+    case ADODB::adBSTR:
+    case ADODB::adChar:
+    case ADODB::adWChar:
+    case ADODB::adVarChar:
+    case ADODB::adLongVarChar:
+    case ADODB::adVarWChar:
+    case ADODB::adLongVarWChar:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// A table that is referred to.
+struct Referenced
+{
+    QString from;          // as it follows FROM
+    QString key;           // as it is written
+    QString description;   // the same; empty where no field describes a record
+    bool isKeyRead = true; // by people: a GUID is not
+};
+
+Referenced referenced(ADODB::Connection &connection, const Dialect &dialect,
+                      const ADODB::Recordset &reference)
+{
+    const QString schema = reference.CellText(1, 0);
+    const QString table = writtenName(dialect, reference.CellText(1, 1));
+    const QString key = reference.CellText(1, 2);
+    Referenced found{schema.isEmpty() ? table : writtenName(dialect, schema) + u'.' + table,
+                     writtenName(dialect, key),
+                     {}};
+    for (const ADODB::FieldInfo &info : connection.Describe(u"SELECT * FROM "_s + found.from)) {
+        if (info.name.compare(key, Qt::CaseInsensitive) == 0)
+            found.isKeyRead = info.type != ADODB::adGUID;
+        else if (found.description.isEmpty() && isText(info.type))
+            found.description = writtenName(dialect, info.name);
+    }
+    return found;
+}
+
+QString statementOf(const Dialect &dialect, const Referenced &table, const QString &search)
+{
+    const bool isDescribed = !table.description.isEmpty();
+    QString condition = table.key + " IS NOT NULL"_L1;
+    if (!search.isEmpty()) {
+        condition += " AND ("_L1 + like(dialect, table.key, search, Anchor::None);
+        if (isDescribed)
+            condition += " OR "_L1 + like(dialect, table.description, search, Anchor::None);
+        condition += u')';
+    }
+    const QString order = isDescribed && !table.isKeyRead ? table.description : table.key;
+    return u"SELECT "_s + table.key + (isDescribed ? u',' + table.description : QString()) + " FROM "_L1 +
+           table.from + " WHERE "_L1 + condition + " ORDER BY "_L1 + order + u' ' +
+           rowLimit(dialect, static_cast<int>(mostValues) + 1);
+}
+
+// One line, with what a person knows in front.
+QString shownText(const Referenced &table, const QString &key, const QString &description)
+{
+    constexpr qsizetype longest = 60; // characters
+    const QString text = description.simplified().left(longest);
+    if (text.isEmpty())
+        return key;
+    constexpr QChar between(0x3000); // a wide blank
+    return table.isKeyRead ? key + between + text : text + between + key;
+}
+
+ForeignValues read(const std::shared_ptr<ADODB::Connection> &connection, const Dialect &dialect,
+                   const Referenced &table, const QString &search)
+{
+    ADODB::Recordset records;
+    records.Open(statementOf(dialect, table, search), connection);
+    ForeignValues values{.hasMore = records.RecordCount() > mostValues};
+    for (qint64 record = 1; record <= std::min(records.RecordCount(), mostValues); ++record) {
+        const QString key = records.CellText(record, 0);
+        if (!values.keys.isEmpty() && values.keys.constLast() == key)
+            continue; // MariaDB lets a key refer to one that occurs more than once
+        values.keys.append(key);
+        values.shown.append(
+            shownText(table, key, table.description.isEmpty() ? QString() : records.CellText(record, 1)));
+    }
+    return values;
+}
+
 } // namespace
 
-std::optional<QStringList> foreignValues(Session &session, const ADODB::Field &field)
+std::optional<ForeignValues> foreignValues(Session &session, const ADODB::Field &field, const QString &search)
 {
     const auto &connection = session.result().connection();
     if (field.BaseTableName().isEmpty() || field.BaseColumnName().isEmpty() || !connection)
@@ -63,20 +155,7 @@ std::optional<QStringList> foreignValues(Session &session, const ADODB::Field &f
         reference.Open(statement, connection);
         if (reference.RecordCount() == 0)
             return std::nullopt;
-        const QString schema = reference.CellText(1, 0);
-        const QString table = writtenName(dialect, reference.CellText(1, 1));
-        const QString column = writtenName(dialect, reference.CellText(1, 2));
-        const QString from = schema.isEmpty() ? table : writtenName(dialect, schema) + u'.' + table;
-        ADODB::Recordset values;
-        values.Open(u"SELECT DISTINCT %1 FROM %2 WHERE %1 IS NOT NULL ORDER BY %1 %3"_s.arg(
-                        column, from, rowLimit(dialect, mostValues + 1)),
-                    connection);
-        if (values.RecordCount() > mostValues)
-            return std::nullopt;
-        QStringList texts;
-        for (qint64 record = 1; record <= values.RecordCount(); ++record)
-            texts.append(values.CellText(record, 0));
-        return texts;
+        return read(connection, dialect, referenced(*connection, dialect, reference), search);
     } catch (const ADODB::Error &) {
         return std::nullopt; // a table that the user may not read: the value can still be typed
     }

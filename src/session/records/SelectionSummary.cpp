@@ -94,10 +94,27 @@ void SelectionSummary::addNumber(const ADODB::RawValue &cell, const Column &colu
         return;
     }
     ++m_numbers;
-    if (!m_smallest || number < m_smallest->number)
+    if (!m_smallest || compare(cell, number, *m_smallest) < 0)
         put(m_smallest, cell, column, number);
-    if (!m_largest || number > m_largest->number)
+    if (!m_largest || compare(cell, number, *m_largest) > 0)
         put(m_largest, cell, column, number);
+}
+
+// Two numbers can differ in digits that a double has no room for.
+int SelectionSummary::compare(const ADODB::RawValue &cell, double number, const Extreme &extreme)
+{
+    if (number != extreme.number)
+        return number < extreme.number ? -1 : 1;
+    if (cell.kind != extreme.value.kind)
+        return 0;
+    if (cell.kind == RawKind::Integer)
+        return cell.integer < extreme.value.integer ? -1 : cell.integer > extreme.value.integer ? 1 : 0;
+    if (cell.kind != RawKind::Text || cell.bytes == extreme.bytes)
+        return 0;
+    DecimalSum difference;
+    difference.addText(cell.bytes);
+    difference.addText(extreme.bytes.startsWith('-') ? extreme.bytes.sliced(1) : '-' + extreme.bytes);
+    return difference.sign();
 }
 
 // Their texts are in the order of time.

@@ -54,6 +54,7 @@ private:
     void take(const ADODB::RawValue &cell, const Column &column);
     void addNumber(const ADODB::RawValue &cell, const Column &column);
     void addDate(const ADODB::RawValue &cell, const Column &column);
+    static int compare(const ADODB::RawValue &cell, double number, const Extreme &extreme);
     static void put(std::optional<Extreme> &extreme, const ADODB::RawValue &cell, const Column &column,
                     double number = 0);
     static QString textOf(const std::optional<Extreme> &extreme);

@@ -10,6 +10,7 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSpinBox>
 
 using namespace KovaTest;
@@ -172,6 +173,24 @@ TEST_F(Layout, AKeptTextThatIsBrokenDoesNoHarm)
     const NextStart next(database.connectionString(), u"k"_s);
     ASSERT_TRUE(next.isLoaded);
     EXPECT_EQ(shownOrder(next.control), AllColumns);
+}
+
+TEST_F(Layout, ABooleanCanBeShownAsABox)
+{
+    ASSERT_TRUE(load());
+    const QImage before = table->viewport()->grab().toImage();
+    WindowAnswers dialogs({[](QDialog &dialog) {
+        EXPECT_TRUE(part<QRadioButton>(dialog, "optAsItIs").isChecked());
+        part<QRadioButton>(dialog, "optYesNo").setChecked(true);
+        EXPECT_EQ(part<QLabel>(dialog, "lblSample").text(), u"示例：否"_s);
+        part<QRadioButton>(dialog, "optBox").setChecked(true);
+        EXPECT_EQ(part<QLabel>(dialog, "lblSample").text(), u"示例：☐"_s);
+        press(dialog, "cmdOK");
+    }});
+    chooseInColumnMenu(6, u"FormatColumn"_s);
+    EXPECT_NE(table->viewport()->grab().toImage(), before);
+    EXPECT_TRUE(saved().contains(u"☑/☐"_s));
+    EXPECT_EQ(texts(u"停用"_s).first(), u"False"_s);
 }
 
 TEST_F(Layout, AFormatChangesWhatIsSeenAndNothingElse)

@@ -1,5 +1,5 @@
-// The list of a single record as a form: what has to be filled in, new records from old ones, values to pick
-// and pictures.
+// The list of a single record as a form: what has to be filled in, new records from old ones and
+// pictures.
 #include "Shop.h"
 
 #include "support/Dialogs.h"
@@ -8,7 +8,6 @@
 #include <QtCore/QFile>
 #include <QtGui/QImage>
 #include <QtWidgets/QCheckBox>
-#include <QtWidgets/QCompleter>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QHeaderView>
 
@@ -147,20 +146,6 @@ TEST_F(RecordForm, NothingIsCopiedWhereRecordsAreReadOnly)
     QTest::keyClick(table, Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_FALSE(isSingleRecordShown());
     EXPECT_EQ(database.ask(u"SELECT count(*) FROM 商品"_s), u"12"_s);
-}
-
-TEST_F(RecordForm, AFieldThatRefersToAnotherTableOffersItsKeys)
-{
-    ASSERT_TRUE(load(u"SELECT * FROM 订单"_s, QString()));
-    clickCell(1, 1);
-    click(u"SingleRecord"_s);
-    makeCurrent(u"商品"_s);
-    QTest::keyClick(list, Qt::Key_F2);
-    QTest::keyClick(edit, Qt::Key_F4);
-    auto *offered = edit->findChild<QCompleter *>();
-    ASSERT_TRUE(offered);
-    ASSERT_EQ(offered->model()->rowCount(), records);
-    EXPECT_EQ(offered->model()->index(11, 0).data(), u"12"_s);
 }
 
 TEST_F(RecordForm, PicturesAreListedOnlyWhereTheyAreWanted)

@@ -65,6 +65,56 @@ TEST_F(KeptFilters, TheHostTakesThemOutAndHandsThemIn)
     EXPECT_FALSE(saved().contains(u"今天的"_s)) << "each table has its own";
 }
 
+TEST_F(KeptFilters, EachDatabaseAndEachKeyOfTheHostHasItsOwn)
+{
+    const QString text = u"{\"filters\":1,\"named\":[{\"name\":\"大\",\"condition\":\"ID > 5\"}]}"_s;
+    ASSERT_TRUE(load());
+    EXPECT_TRUE(restore(text));
+    grid.setProperty("LayoutKey", u"仓库窗口"_s);
+    EXPECT_FALSE(saved().contains(u"大"_s));
+    grid.setProperty("LayoutKey", QString());
+    EXPECT_TRUE(saved().contains(u"大"_s));
+
+    const ShopDatabase other;
+    grid.PutConnectionString(other.database.connectionString());
+    ASSERT_TRUE(load());
+    EXPECT_FALSE(saved().contains(u"大"_s));
+    grid.PutConnectionString(u"data source="_s + database.path() +
+                             u";User ID=li;Password=x;Provider=SQLite"_s);
+    ASSERT_TRUE(load());
+    EXPECT_TRUE(saved().contains(u"大"_s)) << "the same database, whoever logs in";
+}
+
+TEST_F(KeptFilters, WhoWantsToSeeTheStatementSeesItTheNextTime)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) {
+                               EXPECT_FALSE(part<QLineEdit>(dialog, "txtCondition").isVisible());
+                               press(dialog, "chkSql");
+                               press(dialog, "cmd_Cancel");
+                           },
+                           [](QDialog &dialog) {
+                               EXPECT_TRUE(part<QLineEdit>(dialog, "txtCondition").isVisible());
+                               press(dialog, "cmd_Cancel");
+                           }});
+    click(u"Filter"_s);
+    click(u"Filter"_s);
+}
+
+TEST_F(KeptFilters, TheWordsThatWereSearchedForStayToo)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"茶"_s); },
+                           [](QDialog &dialog) {
+                               EXPECT_EQ(part<QComboBox>(dialog, "InputCombo1").itemText(0), u"茶"_s);
+                               press(dialog, "CancelBtn");
+                           }});
+    click(u"QuickFilter"_s);
+    const QSettings settings(u"KOVAVSFDataGrid"_s, u"KOVAVSFDataGrid"_s);
+    EXPECT_EQ(settings.value(u"Find/Words"_s).toStringList().value(0), u"茶"_s);
+    click(u"QuickFilter"_s);
+}
+
 TEST_F(KeptFilters, ATextThatIsNoneIsRefusedAndChangesNothing)
 {
     EXPECT_FALSE(restore(u"{\"filters\":1}"_s)) << "nothing is open";

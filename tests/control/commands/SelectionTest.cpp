@@ -65,6 +65,14 @@ TEST_F(SelectionTest, SumsUpNumbersCountsTextsAndOrdersDates)
     EXPECT_EQ(shownSummary(), QString());
 }
 
+TEST_F(SelectionTest, TellsNumbersApartThatADoubleTakesForOne)
+{
+    ASSERT_TRUE(load(u"SELECT 9007199254740992 + (ID = 1) AS A FROM 商品 WHERE ID < 3 ORDER BY ID"_s, {}));
+    mark(1, 1, 2, 1);
+    EXPECT_EQ(shownSummary(), u"选定行数 2，计数 2，求和 18014398509481985，平均 9007199254740993，"
+                              "最小 9007199254740992，最大 9007199254740993"_s);
+}
+
 TEST_F(SelectionTest, OfWholeRowsTheCurrentColumnIsSummedUp)
 {
     ASSERT_TRUE(load(numbers, {}));

@@ -1,11 +1,14 @@
 // A cell's value in a window of its own.
 #include "Shop.h"
 
+#include <KOVAVSFDataGridLib/control/face/NewValuePane.h>
+
 #include <QtTest/QTest>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
 
 using namespace KovaTest;
@@ -157,4 +160,45 @@ TEST_F(ShowValue, AnOpenWindowGoesWithItsControl)
     delete other;
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(shown);
+}
+
+TEST_F(ShowValue, AHostsPaneIsUsedInPlaceOfTheWindow)
+{
+    QWidget host;
+    QWidget *const pane = KOVAVSFDataGridLib::newValuePane(grid, &host, [&] { host.show(); });
+    const auto shown = [&] {
+        const auto *view = pane->findChild<QPlainTextEdit *>(u"txtValue"_s);
+        return view ? view->toPlainText() : QString();
+    };
+    ASSERT_TRUE(load());
+    clickCell(2, 2);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(shown(), QString()) << "nobody can see it";
+    press(table);
+    EXPECT_TRUE(host.isVisible());
+    EXPECT_FALSE(window());
+    EXPECT_EQ(shown(), u"普洱茶"_s);
+    for (const auto *button : pane->findChildren<QPushButton *>())
+        EXPECT_FALSE(button->text().contains(u'&')) << "the host has access keys of its own";
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_Down);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == u"铁观音"_s; })) << shown().toStdString();
+    // In a single record, the pane follows the field.
+    button(u"SingleRecord"_s)->trigger();
+    makeCurrent(u"城市"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == u"厦门"_s; })) << shown().toStdString();
+    button(u"AllRecord"_s)->trigger();
+    // A pane that comes into view has what was chosen meanwhile.
+    host.hide();
+    clickCell(4, 2);
+    QCoreApplication::processEvents();
+    host.show();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == u"花茶"_s; })) << shown().toStdString();
+    grid.ClearObject();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown().isEmpty(); })) << shown().toStdString();
+    delete pane;
+    ASSERT_TRUE(load());
+    clickCell(2, 2);
+    press(table);
+    EXPECT_TRUE(window()) << "without the pane there is the window again";
 }

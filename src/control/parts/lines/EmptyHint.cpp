@@ -4,10 +4,11 @@
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QAbstractScrollArea>
+#include <QtWidgets/QPushButton>
 
 namespace KOVAVSFDataGridLib {
 
-EmptyHint::EmptyHint(QAbstractScrollArea &view) : QLabel(&view), m_view(view)
+EmptyHint::EmptyHint(QAbstractScrollArea &view) : QLabel(&view), m_view(view), m_add(new QPushButton(&view))
 {
     setObjectName(QStringLiteral("lblEmpty"));
     setTextFormat(Qt::PlainText);
@@ -15,19 +16,30 @@ EmptyHint::EmptyHint(QAbstractScrollArea &view) : QLabel(&view), m_view(view)
     setWordWrap(true);
     setForegroundRole(QPalette::PlaceholderText);
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_add->setObjectName(QStringLiteral("cmdAddFirst"));
+    m_add->setAutoDefault(false);
+    connect(m_add, &QPushButton::clicked, this, [this] {
+        m_view.setFocus(); // the button goes
+        Q_EMIT addWanted();
+    });
     view.viewport()->installEventFilter(this);
     hide();
+    m_add->hide();
 }
 
 void EmptyHint::showText(const QString &text)
 {
+    m_offersToAdd = false;
     setText(text);
     place();
 }
 
 void EmptyHint::showNoRecords(bool canGoBack, bool canAdd)
 {
-    showText(canGoBack ? GridTexts::NoRecordsFound : canAdd ? GridTexts::AddFirstHint : GridTexts::NoRecords);
+    m_offersToAdd = canAdd && !canGoBack;
+    m_add->setText(GridTexts::AddFirst);
+    setText(canGoBack ? GridTexts::NoRecordsFound : canAdd ? GridTexts::AddFirstHint : GridTexts::NoRecords);
+    place();
 }
 
 bool EmptyHint::eventFilter(QObject *watched, QEvent *event)
@@ -39,8 +51,18 @@ bool EmptyHint::eventFilter(QObject *watched, QEvent *event)
 
 void EmptyHint::place()
 {
-    setGeometry(m_view.viewport()->geometry());
+    const QRect area = m_view.viewport()->geometry();
+    setGeometry(area);
     setVisible(!text().isEmpty() && height() >= fontMetrics().height());
+    // The button has its place below the text, which stays in the middle.
+    const QSize size = m_add->sizeHint();
+    const int lines = heightForWidth(area.width());
+    QRect button({}, size);
+    button.moveCenter(area.center());
+    button.moveTop(area.center().y() + lines / 2 + fontMetrics().height() / 2);
+    m_add->setGeometry(button);
+    m_add->setVisible(m_offersToAdd && isVisibleTo(&m_view) && area.contains(button));
+    m_add->raise();
 }
 
 } // namespace KOVAVSFDataGridLib

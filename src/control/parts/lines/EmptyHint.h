@@ -3,10 +3,12 @@
 #include <QtWidgets/QLabel>
 
 class QAbstractScrollArea;
+class QPushButton;
 
 namespace KOVAVSFDataGridLib {
 
-// Says in the middle of a view that has nothing to show why that is so. The mouse passes through it.
+// Says in the middle of a view that has nothing to show why that is so, and offers to add the first record of
+// an empty table. The mouse passes through the text.
 class EmptyHint final : public QLabel
 {
     Q_OBJECT
@@ -20,6 +22,10 @@ public:
     // the first one.
     void showNoRecords(bool canGoBack, bool canAdd);
 
+Q_SIGNALS:
+    // The user wants to add a record. The view has the keyboard.
+    void addWanted();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -28,6 +34,8 @@ private:
     void place();
 
     QAbstractScrollArea &m_view;
+    QPushButton *m_add; // beside the text, as it takes the mouse
+    bool m_offersToAdd = false;
 };
 
 } // namespace KOVAVSFDataGridLib

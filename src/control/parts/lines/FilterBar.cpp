@@ -1,10 +1,12 @@
 #include "control/parts/lines/FilterBar.h"
 
 #include "control/parts/GridTexts.h"
+#include "grid/WholeText.h"
 #include "language/Language.h"
 
 #include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QTextDocument>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QToolButton>
 
@@ -59,8 +61,9 @@ QToolButton *FilterBar::makeButton(int condition)
     auto *button = new QToolButton(this);
     button->setObjectName(u"Condition%1"_s.arg(condition + 1));
     button->setFocusPolicy(Qt::StrongFocus);
-    button->setToolTip(GridTexts::RemoveCondition.arg(m_conditions.at(condition)).toHtmlEscaped());
-    button->setAccessibleName(GridTexts::RemoveCondition.arg(m_conditions.at(condition)));
+    const QString words = GridTexts::RemoveCondition.arg(m_conditions.at(condition));
+    button->setToolTip(Qt::convertFromPlainText(textForTip(words, *this), Qt::WhiteSpaceNormal));
+    button->setAccessibleName(words);
     connect(button, &QToolButton::clicked, this, [this, condition] { Q_EMIT removeWanted(condition); });
     return button;
 }

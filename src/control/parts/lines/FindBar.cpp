@@ -52,7 +52,6 @@ FindBar::FindBar(QWidget *parent)
 {
     setObjectName(u"FindBar"_s);
     m_text->setObjectName(u"txtFindShown"_s);
-    m_text->setClearButtonEnabled(true);
     m_found->setObjectName(u"lblFound"_s);
     m_column->setObjectName(u"cmbFindColumn"_s);
     m_wholeCell->setObjectName(u"chkWholeCell"_s);
@@ -89,6 +88,8 @@ void FindBar::writeTexts()
 void FindBar::open()
 {
     if (isHidden()) {
+        // Its icon is looked for in some thousand places of the icon theme, which a start needn't wait for.
+        m_text->setClearButtonEnabled(true);
         show();
         Q_EMIT shownOrHidden();
     }
