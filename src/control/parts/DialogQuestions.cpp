@@ -4,8 +4,6 @@
 #include "control/parts/FormatDialog.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/ToolbarIcons.h"
-#include "control/settings/Configuration.h"
-#include "control/settings/KeptFilters.h"
 #include "filter/mod_Filter.h"
 #include "filter/ticks/ColumnTicks.h"
 #include "forms/ExportDialog.h"
