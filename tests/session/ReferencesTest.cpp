@@ -1,0 +1,99 @@
+// The values that a field can take because it refers to another table, for keys of each type, on each engine
+// that can be asked for references.
+#include "SessionFixture.h"
+
+#include "../journeys/JourneyDatabase.h"
+
+#include "ado/Recordset.h"
+#include "session/records/ForeignValues.h"
+
+using namespace KOVAVSFDataGridLib;
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class References : public testing::TestWithParam<JourneyEngine>
+{
+protected:
+    void SetUp() override
+    {
+        if (!engine.isThere())
+            GTEST_SKIP() << engine.variable << " is not set";
+        database.emplace(engine);
+        dropTables();
+        const bool isPostgres = QLatin1StringView(engine.name).startsWith("PostgreSQL"_L1);
+        const QString guid = isPostgres ? u"UUID"_s : u"CHAR(36)"_s;
+        database->run(
+            {u"CREATE TABLE kova_fruits (k %1 PRIMARY KEY, t VARCHAR(20))"_s.arg(guid),
+             u"INSERT INTO kova_fruits VALUES ('10000000-0000-0000-0000-00000000000a', 'pear')"_s,
+             u"INSERT INTO kova_fruits VALUES ('20000000-0000-0000-0000-00000000000b', 'apple')"_s,
+             u"CREATE TABLE kova_days (d DATE PRIMARY KEY, n INTEGER, t VARCHAR(20))"_s,
+             u"INSERT INTO kova_days VALUES ('2024-10-01', 1, 'october')"_s,
+             u"INSERT INTO kova_days VALUES ('2024-01-01', 2, NULL)"_s,
+             u"CREATE TABLE kova_refs (id INTEGER PRIMARY KEY, k %1, d DATE, FOREIGN KEY (k) REFERENCES "
+             "kova_fruits (k), FOREIGN KEY (d) REFERENCES kova_days (d))"_s.arg(guid),
+             u"INSERT INTO kova_refs VALUES (1, NULL, NULL)"_s});
+        SharedValues::instance().dbType = static_cast<AllDBType>(engine.dbType);
+        session->texts.connectionString = database->connectionString();
+        session->texts.sqlShow = u"SELECT id, k, d FROM kova_refs"_s;
+        ASSERT_TRUE(session->load()) << qUtf8Printable(user.messages.join(u'|'));
+    }
+    void TearDown() override
+    {
+        session->detach();
+        if (database)
+            dropTables();
+    }
+    void dropTables()
+    {
+        for (const QString &table : {u"kova_refs"_s, u"kova_fruits"_s, u"kova_days"_s})
+            database->run({u"DROP TABLE IF EXISTS "_s + table});
+    }
+    ADODB::Field &field(const QString &name) { return session->result().recordset()->Fields().Item(name); }
+    ForeignValues values(const QString &name, const QString &search = {})
+    {
+        return foreignValues(*session, field(name), search).value_or(ForeignValues());
+    }
+
+    const JourneyEngine &engine = GetParam();
+    std::optional<JourneyDatabase> database;
+    ADODB::Adodc adodc;
+    PlainWindow window;
+    PlainUser user;
+    PlainHost host;
+    std::shared_ptr<Session> session = std::make_shared<Session>(window, user, host, ControlRules, &adodc);
+};
+
+std::vector<JourneyEngine> enginesWithReferences()
+{
+    std::vector<JourneyEngine> engines = journeyEngines();
+    std::erase_if(engines, [](const JourneyEngine &each) { return each.store == JourneyEngine::AccessFile; });
+    return engines;
+}
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Engines, References, testing::ValuesIn(enginesWithReferences()),
+                         [](const auto &each) { return std::string(each.param.name); });
+
+TEST_P(References, ToADayAreListedWithWhatDescribesThem)
+{
+    EXPECT_EQ(values(u"d"_s).keys, QStringList({u"2024-01-01"_s, u"2024-10-01"_s}));
+    EXPECT_EQ(values(u"d"_s).shown, QStringList({u"2024-01-01"_s, u"2024-10-01　october"_s}));
+    EXPECT_EQ(values(u"d"_s, u"ctob"_s).keys, QStringList{u"2024-10-01"_s});
+    EXPECT_EQ(values(u"d"_s, u"01-01"_s).keys, QStringList{u"2024-01-01"_s});
+    EXPECT_FALSE(foreignValues(*session, field(u"id"_s), {}).has_value());
+}
+
+TEST_P(References, ToAGuidCanBeStoredAsTheyAreListed)
+{
+    const ForeignValues pears = values(u"k"_s, u"pear"_s);
+    ASSERT_EQ(pears.keys.size(), 1);
+    EXPECT_TRUE(pears.shown.front().contains(u"pear"_s));
+    EXPECT_EQ(values(u"k"_s).keys.size(), 2);
+    EXPECT_EQ(values(u"k"_s, u"0000b"_s).keys.size(), 1);
+    field(u"k"_s).PutValue(pears.keys.front());
+    session->result().recordset()->Update();
+    EXPECT_TRUE(database->ask(u"SELECT k FROM kova_refs"_s).contains(u"10000000-"_s));
+}
