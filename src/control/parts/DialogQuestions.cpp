@@ -4,6 +4,8 @@
 #include "control/parts/FormatDialog.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/ToolbarIcons.h"
+#include "control/settings/Configuration.h"
+#include "control/settings/KeptFilters.h"
 #include "filter/mod_Filter.h"
 #include "filter/ticks/ColumnTicks.h"
 #include "forms/ExportDialog.h"
