@@ -65,6 +65,12 @@ protected:
     std::shared_ptr<Session> session = std::make_shared<Session>(window, user, host, ControlRules, &adodc);
 };
 
+// Where a DATE includes a time, it is read with it.
+QStringList days(QStringList texts)
+{
+    return texts.replaceInStrings(u" 00:00:00"_s, QString());
+}
+
 std::vector<JourneyEngine> enginesWithReferences()
 {
     std::vector<JourneyEngine> engines = journeyEngines();
@@ -79,10 +85,10 @@ INSTANTIATE_TEST_SUITE_P(Engines, References, testing::ValuesIn(enginesWithRefer
 
 TEST_P(References, ToADayAreListedWithWhatDescribesThem)
 {
-    EXPECT_EQ(values(u"d"_s).keys, QStringList({u"2024-01-01"_s, u"2024-10-01"_s}));
-    EXPECT_EQ(values(u"d"_s).shown, QStringList({u"2024-01-01"_s, u"2024-10-01　october"_s}));
-    EXPECT_EQ(values(u"d"_s, u"ctob"_s).keys, QStringList{u"2024-10-01"_s});
-    EXPECT_EQ(values(u"d"_s, u"01-01"_s).keys, QStringList{u"2024-01-01"_s});
+    EXPECT_EQ(days(values(u"d"_s).keys), QStringList({u"2024-01-01"_s, u"2024-10-01"_s}));
+    EXPECT_EQ(days(values(u"d"_s).shown), QStringList({u"2024-01-01"_s, u"2024-10-01　october"_s}));
+    EXPECT_EQ(days(values(u"d"_s, u"ctob"_s).keys), QStringList{u"2024-10-01"_s});
+    EXPECT_EQ(days(values(u"d"_s, u"01-01"_s).keys), QStringList{u"2024-01-01"_s});
     EXPECT_FALSE(foreignValues(*session, field(u"id"_s), {}).has_value());
 }
 
