@@ -108,13 +108,13 @@ bool EditedRecord::save()
     if (!commitEdit())
         return false;
     const std::optional<Failure> failure = trySave();
-    if (failure && watch.isUntouched()) {
-        if (!failure->isChangedByOthers)
-            m_session.questions().show(failure->text);
-        else if (m_session.questions().offerNewValues(failure->text, {}) && watch.isUntouched())
-            showNewValues();
-    }
-    return !failure && watch.isUntouched();
+    if (!failure || !watch.isUntouched())
+        return watch.isUntouched();
+    if (!failure->isChangedByOthers)
+        m_session.questions().show(failure->text);
+    else if (m_session.questions().offerNewValues(failure->text, {}) && watch.isUntouched())
+        showNewValues();
+    return false;
 }
 
 bool EditedRecord::leaveResult()
