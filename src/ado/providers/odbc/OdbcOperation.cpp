@@ -63,12 +63,15 @@ void OdbcOperation::run(std::function<void()> work, const Wait &wait)
         work = nullptr; // what nobody else holds ends here
         theCurrent = nullptr;
         operation->m_ended.release();
+        operation->m_isDone = true;
         operation->m_done.release();
     }).detach();
 
     std::exception_ptr fromCaller;
     qint64 stopped = 0;
-    while (!operation->m_done.tryAcquire(1, millisecondsBetweenQuestions)) {
+    while (!operation->m_isDone) {
+        if (operation->m_done.tryAcquire(1, millisecondsBetweenQuestions))
+            continue;
         bool isWanted = false;
         try {
             isWanted = !fromCaller && wait.shouldContinue(operation->m_rows);

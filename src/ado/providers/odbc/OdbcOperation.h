@@ -84,8 +84,9 @@ private:
     std::shared_ptr<OdbcRowFeed> m_feed;
     std::atomic<qint64> m_due = 0; // milliseconds of the steady clock; 0 for never
     std::atomic<int> m_timeout = 0;
-    QSemaphore m_done;
-    QSemaphore m_ended; // for the thread that cancels
+    QSemaphore m_done;                  // wakes the caller, who then looks at m_isDone
+    std::atomic<bool> m_isDone = false; // from then on all that the work has written is the caller's
+    QSemaphore m_ended;                 // for the thread that cancels
     std::exception_ptr m_error;
     QMutex m_mutex; // guards m_running; held while the driver cancels
     SQLHSTMT m_running = SQL_NULL_HSTMT;
