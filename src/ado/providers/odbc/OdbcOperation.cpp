@@ -60,7 +60,8 @@ void OdbcOperation::run(std::function<void()> work, const Wait &wait)
         } catch (...) {
             operation->m_error = std::current_exception();
         }
-        work = nullptr; // what nobody else holds ends here
+        work = nullptr;             // what nobody else holds ends here
+        operation->m_lease.reset(); // which keeps the pool, whose sessions would end behind the caller's back
         theCurrent = nullptr;
         operation->m_ended.release();
         operation->m_isDone = true;
