@@ -14,7 +14,8 @@ EditModeEnum Recordset::EditMode() const
 
 QString Recordset::WhyReadOnly() const
 {
-    return d->shared && d->editor ? d->editor->whyReadOnly() : QString();
+    const auto &editor = d->editor;
+    return d->shared && editor ? editor->whyReadOnly() : QString();
 }
 
 // A new record that can't be saved keeps the place that another one would take.
