@@ -5,6 +5,9 @@
 #include "../journeys/JourneyDatabase.h"
 
 #include "ado/Recordset.h"
+#include "query/SharedValues.h"
+#include "session/LoadResult.h"
+#include "session/Session.h"
 #include "session/records/ForeignValues.h"
 
 using namespace KOVAVSFDataGridLib;
@@ -37,7 +40,7 @@ protected:
         SharedValues::instance().dbType = static_cast<AllDBType>(engine.dbType);
         session->texts.connectionString = database->connectionString();
         session->texts.sqlShow = u"SELECT id, k, d FROM kova_refs"_s;
-        ASSERT_TRUE(session->load()) << qUtf8Printable(user.messages.join(u'|'));
+        ASSERT_TRUE(loadResult(*session)) << qUtf8Printable(user.messages.join(u'|'));
     }
     void TearDown() override
     {
