@@ -68,7 +68,7 @@ TEST_F(RecordValues, OfAReferenceAreFoundByTheKeyAndByTheDescription)
     EXPECT_EQ(offered(), QStringList{u"11　绿茶"_s});
     QTest::keyClick(edit->findChild<QCompleter *>()->popup(), Qt::Key_Escape);
     edit->setText(u"没有"_s);
-    EXPECT_EQ(offered(), QStringList{u"没有含“没有”的值"_s});
+    EXPECT_EQ(offered(), QStringList{u"没有包含“没有”的值"_s});
 }
 
 TEST_F(RecordValues, OfAReferenceToADayHaveAButtonOfTheirOwn)
@@ -127,5 +127,5 @@ TEST_F(RecordValues, OfAColumnWithoutAnyAreSaidToBeNone)
     database.run(
         u"CREATE TABLE 空 (ID INTEGER PRIMARY KEY, 值 VARCHAR(20)); INSERT INTO 空 VALUES (1, NULL);"_s);
     editFirst(u"空"_s, u"值"_s);
-    EXPECT_EQ(offered(), QStringList{u"该字段没有已有的值。"_s});
+    EXPECT_EQ(offered(), QStringList{u"该字段还没有任何值。"_s});
 }
