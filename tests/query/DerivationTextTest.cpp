@@ -167,6 +167,53 @@ TEST(DerivationText, ChosenFieldsAreFoundAgainByValueAndName)
     const Derivation aliases = derive(Engine::SQLite, u"select Name as n, Name as m from Ord"_s, twice);
     const Derivation second = derive(Engine::SQLite, u"select Name as m from Ord"_s, {u"m"_s});
     EXPECT_EQ(aliases.listedFor(second), QStringList(u"Name as m"_s));
+
+    const Derivation text = derive(Engine::SQLite, u"select 'A' as x, ID from Ord"_s, {u"x"_s, u"ID"_s});
+    const Derivation other = derive(Engine::SQLite, u"select 'a' as x from Ord"_s, {u"x"_s});
+    EXPECT_EQ(text.listedFor(other), QStringList()) << "not that text";
+}
+
+TEST(DerivationText, ASortByAConstantIsLeftOutWhereTheListIsWrittenAgain)
+{
+    for (const QString &word : {u"distinct"_s, u"top 3"_s}) {
+        const Derivation sorted = derive(
+            Engine::SqlServer, u"select %1 'x' as K, 7 as N, Qty from Ord order by 1, N desc, 3"_s.arg(word),
+            {u"K"_s, u"N"_s, u"Qty"_s});
+        EXPECT_EQ(sorted.withFields(sorted.listed()).simplified(),
+                  u"SELECT %1 'x' as K,7 as N,Qty FROM Ord ORDER BY Qty"_s.arg(word));
+    }
+}
+
+TEST(DerivationText, FieldsOfStarsAreFoundAgainByTheirTable)
+{
+    const Dialect dialect = dialectOf(dbOracle, Engine::PostgreSQL);
+    const std::vector<SourceField> fields{
+        {u"id"_s, 3, u"ord"_s}, {u"cust"_s, 3, u"ord"_s}, {u"id"_s, 3, u"cust"_s}};
+    const QString stars = u"select * from Ord o join Cust c on o.Cust = c.ID"_s;
+    const Derivation part(stars, fields, dialect);
+    const Derivation all(stars + u" ORDER BY 1 DESC"_s, fields, dialect);
+    EXPECT_EQ(all.listedFor(part), (QStringList{u"o.id"_s, u"cust"_s, u"c.id"_s}));
+
+    const std::vector<SourceField> itsFields{
+        {u"id"_s, 3, u"ord"_s}, {u"cust"_s, 3, u"ord"_s}, {u"id"_s, 3, u"ord"_s}, {u"cust"_s, 3, u"ord"_s}};
+    const Derivation itself(u"select a.*, b.* from Ord a join Ord b on a.ID = b.Cust"_s, itsFields, dialect);
+    const Derivation turned(u"select b.*, a.* from Ord a inner join Ord b on a.ID = b.Cust"_s, itsFields,
+                            dialect);
+    EXPECT_EQ(itself.listedFor(turned), (QStringList{u"b.id"_s, u"b.cust"_s, u"a.id"_s, u"a.cust"_s}));
+    expectText(itself.withFieldsOf(turned),
+               "SELECT b.id,b.cust,a.id,a.cust FROM Ord a join Ord b on a.ID = b.Cust");
+
+    // Whose they are is not known, and neither is that of a name that is another table's alone.
+    const Derivation natural(u"select * from Ord a natural join Ord b"_s,
+                             {{u"id"_s, 3, u"ord"_s}, {u"id"_s, 3, u"ord"_s}}, dialect);
+    EXPECT_EQ(itself.listedFor(natural), QStringList());
+    EXPECT_EQ(itself.withFieldsOf(natural), QString());
+    const Derivation ordered(u"select o.ID, o.Cust from Ord o join Cust c on o.Cust = c.ID"_s,
+                             {{u"id"_s, 3, u"ord"_s}, {u"cust"_s, 3, u"ord"_s}}, dialect);
+    const Derivation customer(u"select c.ID from Ord o inner join Cust c on o.Cust = c.ID"_s,
+                              {{u"id"_s, 3, u"cust"_s}}, dialect);
+    EXPECT_EQ(ordered.listedFor(customer), QStringList());
+    EXPECT_EQ(ordered.withFieldsOf(customer), QString());
 }
 
 namespace {

@@ -200,6 +200,16 @@ TEST_F(HistoryDerivation, AHostsPartStatementMayLackAnAlias)
     EXPECT_FALSE(history.IsSelFieldPartField(u"k"_s));
 }
 
+// The part statement needs not be the whole one to the letter.
+TEST_F(HistoryDerivation, APartStatementOfStarsHasTheFieldsOfBothTables)
+{
+    const QString stars = u"select * from Ord o join Cust c on o.Cust = c.ID"_s;
+    load(stars + u" where o.Qty > 1 order by 1 desc"_s, stars);
+    EXPECT_TRUE(history.GetNextShowSQL(PartFieldsStatement, next));
+    EXPECT_EQ(database->read(next).text(), database->read(first).text()) << qPrintable(next);
+    EXPECT_EQ(database->read(next).error, QString());
+}
+
 TEST_F(HistoryDerivation, TheJoinOfATableWithItselfCanBeUsed)
 {
     load(u"select a.*, b.* from Ord a join Ord b on a.ID = b.Cust"_s);

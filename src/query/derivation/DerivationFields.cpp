@@ -1,5 +1,6 @@
 #include "query/derivation/Derivation.h"
 
+#include "query/derivation/ConstantItem.h"
 #include "sql/Names.h"
 
 #include <algorithm>
@@ -9,6 +10,18 @@
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Letter case and spaces mean nothing except in quotes.
+bool isSameValue(const QString &a, const QString &b)
+{
+    static constexpr QStringView quotes = u"'\"`[";
+    const bool isQuoted = std::ranges::any_of(a, [](QChar letter) { return quotes.contains(letter); });
+    return isQuoted ? a == b : a.simplified().compare(b.simplified(), Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
 
 QString Derivation::withFields(const QStringList &listEntries) const
 {
@@ -56,49 +69,59 @@ QString Derivation::withFieldsOf(const Derivation &fieldStatement) const
     if (hasWords &&
         sameText(textOf(m_sql, m_parts.source), textOf(fieldStatement.m_sql, fieldStatement.m_parts.source)))
         return withList(fieldStatement.listText(), splitList(fieldStatement.listText(), m_dialect));
-    QHash<QString, qsizetype> placeOfName;
-    for (qsizetype i = m_names.size() - 1; i >= 0; --i)
-        placeOfName.insert(m_names.at(i), i);
+    if (!m_parts.isDerivedTable)
+        return withFields(listedFor(fieldStatement));
     QStringList entries;
     for (const QString &name : fieldStatement.m_names) {
-        const qsizetype at = placeOfName.value(name, -1);
-        if (at >= 0 && !m_listed.at(at).isEmpty())
-            entries.append(m_listed.at(at));
-        else if (m_parts.isDerivedTable)
-            entries.append(writtenName(m_dialect, name)); // of the table, though not of the list
-        else
-            return {};
+        const qsizetype at = m_names.indexOf(name);
+        const bool isListed = at >= 0 && !m_listed.at(at).isEmpty();
+        // Else it is of the table, though not of the list.
+        entries.append(isListed ? m_listed.at(at) : writtenName(m_dialect, name));
     }
     return withFields(entries);
 }
 
+// Only a column is found by its name alone, and only where that name can't be another table's.
 QStringList Derivation::listedFor(const Derivation &part) const
 {
+    const auto isColumn = [](const Derivation &statement, qsizetype field) {
+        const int item = statement.m_itemOfField[static_cast<std::size_t>(field)];
+        return item < 0 || statement.m_parts.items[static_cast<std::size_t>(item)].isStar ||
+               statement.m_parts.items[static_cast<std::size_t>(item)].isName;
+    };
+    const auto isBare = [](const Derivation &statement, qsizetype field) {
+        return !statement.valueOf(static_cast<int>(field)).contains(u'.');
+    };
     QStringList entries;
     for (qsizetype i = 0; i < part.m_names.size(); ++i) {
-        const qsizetype own = fieldFor(part.valueOf(static_cast<int>(i)).simplified(), part.m_names.at(i));
-        if (own < 0)
+        const QString &name = part.m_names.at(i);
+        if (part.m_listed.at(i).isEmpty() && part.countOf(name) > 1)
+            return {}; // of which table is not known
+        qsizetype own = fieldFor(part.valueOf(static_cast<int>(i)), name);
+        if (own < 0 && countOf(name) == 1) {
+            const qsizetype named = m_names.indexOf(name);
+            if (named >= 0 && isColumn(*this, named) && isColumn(part, i) &&
+                (!isJoined() || isBare(*this, named) || isBare(part, i)))
+                own = named;
+        }
+        if (own < 0 || m_listed.at(own).isEmpty())
             return {};
         entries.append(m_listed.at(own));
     }
     return entries;
 }
 
-// The field with that value, of several the one with that name, else the first with that name. A field that
-// comes through a star is known by the way it is listed.
+// The field with that value, of several the one with that name.
 qsizetype Derivation::fieldFor(const QString &value, const QString &name) const
 {
-    const auto isSame = [&value](const QString &text) {
-        return text.simplified().compare(value, Qt::CaseInsensitive) == 0;
-    };
     qsizetype found = -1;
     for (qsizetype own = m_names.size() - 1; own >= 0; --own) {
-        if (!isSame(valueOf(static_cast<int>(own))) && !isSame(m_listed.at(own)))
+        if (!isSameValue(valueOf(static_cast<int>(own)), value) && !isSameValue(m_listed.at(own), value))
             continue;
         if (found < 0 || m_names.at(own) == name || m_names.at(found) != name)
             found = own;
     }
-    return found >= 0 ? found : m_names.indexOf(name);
+    return found;
 }
 
 QString Derivation::fieldsStatement() const
@@ -114,12 +137,16 @@ const QStringList &Derivation::listedIn(const Derivation &derived) const
     return m_kind == Kind::Closed && isTableThere ? m_written : m_listed;
 }
 
-// With DISTINCT, a sort can only be by fields of the list.
+// With DISTINCT, a sort can only be by fields of the list. A constant puts no row before another one, and
+// engines refuse it or count the entries of the list with it.
 QString Derivation::sortWithin(const QStringList &entries) const
 {
     QStringList terms;
     for (const SelectParts::Item &term : m_parts.sort) {
         const int field = fieldOfTerm(term);
+        const int item = field < 0 ? -1 : m_itemOfField[static_cast<std::size_t>(field)];
+        if (item >= 0 && isConstant(m_sql, m_parts.items[static_cast<std::size_t>(item)]))
+            continue;
         const QString direction = textOf(m_sql, {term.value.end, term.tokens.end});
         if (field < 0 && !isDistinct())
             terms.append(textOf(m_sql, term.tokens));
@@ -133,7 +160,7 @@ QString Derivation::valueOf(int field) const
 {
     const int item = m_itemOfField[static_cast<std::size_t>(field)];
     if (item < 0 || m_parts.items[static_cast<std::size_t>(item)].isStar)
-        return writtenName(m_dialect, m_names.at(field));
+        return m_listed.at(field).isEmpty() ? writtenName(m_dialect, m_names.at(field)) : m_listed.at(field);
     return textOf(m_sql, m_parts.items[static_cast<std::size_t>(item)].value);
 }
 

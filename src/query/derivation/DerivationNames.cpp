@@ -1,5 +1,6 @@
 #include "query/derivation/Derivation.h"
 
+#include "query/derivation/ConstantItem.h"
 #include "sql/Names.h"
 
 #include <algorithm>
@@ -27,23 +28,6 @@ bool isOneCall(const SqlScanner &sql, TextRange value)
             return false;
     }
     return true;
-}
-
-// E'…', N'…' and the like.
-bool isTextWithPrefix(const SqlScanner &sql, TextRange value)
-{
-    return value.end - value.begin == 2 && sql.at(value.begin).kind == SqlToken::Kind::Word &&
-           sql.at(value.begin + 1).kind == SqlToken::Kind::String &&
-           sql.at(value.begin).end() == sql.at(value.begin + 1).start;
-}
-
-bool isConstant(const SqlScanner &sql, const SelectParts::Item &item)
-{
-    if (isTextWithPrefix(sql, item.value))
-        return true;
-    const SqlToken::Kind kind = sql.at(item.value.begin).kind;
-    return item.value.end - item.value.begin == 1 && !item.isName && !item.isStar &&
-           (kind == SqlToken::Kind::Number || kind == SqlToken::Kind::String || kind == SqlToken::Kind::Word);
 }
 
 // The value as it can stand beside an operator.
