@@ -1,4 +1,4 @@
-// Records of the statements of statements.cases are changed where they are shown, also through what
+// Records of the statements of statements.cases are changed and added where they are shown, also through what
 // was derived from a statement.
 #include "EngineStatements.h"
 
@@ -14,6 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto NewText = "kova";
+constexpr auto NewNumber = "99";
 
 class EngineStatementEdits : public EngineStatements
 {
@@ -59,6 +60,17 @@ protected:
         hands->choose(14, 1, 1); // the cell filter
         hands->messages.clear(); // some types have no such filter
     }
+
+    bool canAdd() const { return hands->grid.findChild<QAction *>(u"PopMnuDataAction8"_s)->isEnabled(); }
+
+    void giveUp()
+    {
+        hands->messages.clear();
+        hands->list->setFocus();
+        QTest::keyClick(hands->list, Qt::Key_Escape);
+        hands->click(u"AllRecord"_s);
+        hands->messages.clear();
+    }
 };
 
 TEST_P(EngineStatementEdits, AValueIsChangedInOneRecordAndShown)
@@ -97,6 +109,53 @@ TEST_P(EngineStatementEdits, AValueIsChangedInOneRecordAndShown)
     std::printf("%s: %d records changed\n", engine.name, changed);
     EXPECT_GE(changed, engine.isWritable() ? 20 : 0);
     EXPECT_TRUE(engine.isWritable() || changed == 0);
+}
+
+// A record that the database refuses, for the key of a second table, say, is not added at all.
+TEST_P(EngineStatementEdits, ARecordIsAddedAndShownOrRefused)
+{
+    int added = 0;
+    for (const Case &c : cases()) {
+        SCOPED_TRACE(c.place.toStdString());
+        const QString statement = c[u"statement"_s];
+        const auto all = read(statement);
+        if (!all || all->rows.empty())
+            continue;
+        ASSERT_TRUE(hands->load(statement, {}));
+        if (!canAdd())
+            continue;
+        EXPECT_TRUE(engine.isWritable());
+        const int before = recordsInTables();
+        hands->choose(8, 1);
+        ASSERT_TRUE(hands->isSingleRecordShown());
+        bool isWritten = false;
+        bool isText = false;
+        for (qsizetype column = 0; column < all->names.size(); ++column) {
+            const QString text = all->rows.front().at(column);
+            bool isNumber = false;
+            text.toDouble(&isNumber);
+            const QString value = QString::fromLatin1(isNumber ? NewNumber : NewText);
+            if (isOnlyOne(*all, column) && write(all->names.at(column), value)) {
+                isWritten = true;
+                isText = isText || !isNumber;
+            }
+        }
+        hands->click(u"AllRecord"_s);
+        const bool isSaved = isWritten && hands->messages.shown().empty();
+        EXPECT_EQ(recordsInTables(), before + (isSaved ? 1 : 0)) << qUtf8Printable(hands->statement());
+        if (isSaved) {
+            EXPECT_EQ(hands->rows(), static_cast<int>(all->rows.size()) + 1);
+            const QStringList last = shown().rows.back();
+            EXPECT_TRUE(last.contains(QString::fromLatin1(isText ? NewText : NewNumber)))
+                << qUtf8Printable(last.join(u'|'));
+            ++added;
+            createTables();
+        } else if (hands->isSingleRecordShown()) {
+            giveUp();
+        }
+    }
+    std::printf("%s: records added to %d statements\n", engine.name, added);
+    EXPECT_GE(added, engine.isWritable() ? 15 : 0);
 }
 
 } // namespace
