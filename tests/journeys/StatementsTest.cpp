@@ -1,17 +1,11 @@
 // The statements of statements.cases in the grid, on every engine that takes them: after each command the
 // rows are those that a loop over the statement's own rows takes, and the way back leads to all of them.
-#include "EngineJourney.h"
+#include "EngineStatements.h"
 
-#include "query/support/CaseFile.h"
 #include "support/Dialogs.h"
-
-#include <KOVAVSFDataGridLib/ado/Connection.h>
-#include <KOVAVSFDataGridLib/ado/Error.h>
-#include <KOVAVSFDataGridLib/ado/Recordset.h>
 
 #include <QtTest/QTest>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QMenu>
 #include <QtWidgets/QTreeWidget>
 
 #include <algorithm>
@@ -22,125 +16,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using Texts = std::vector<QStringList>;
+using Answer = StatementAnswer;
 
-struct Answer
-{
-    QStringList names;
-    Texts rows;
-};
-
-class EngineStatements : public EngineTest
+class StatementsOnEngines : public EngineStatements
 {
 protected:
-    void SetUp() override
-    {
-        EngineTest::SetUp();
-        if (IsSkipped())
-            return;
-        createTables();
-        connection = std::make_shared<ADODB::Connection>();
-        connection->Open(database->connectionString());
-    }
-
-    void createTables()
-    {
-        const QString collation =
-            engine.isMariaDb() ? u" CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin"_s : QString();
-        database->run(
-            {u"DROP VIEW IF EXISTS AllCust"_s, u"DROP TABLE IF EXISTS Item"_s, u"DROP TABLE IF EXISTS Ord"_s,
-             u"DROP TABLE IF EXISTS Cust"_s, u"DROP TABLE IF EXISTS 客户"_s,
-             u"CREATE TABLE Cust(ID INTEGER PRIMARY KEY, Name VARCHAR(40), City VARCHAR(40))"_s + collation,
-             u"INSERT INTO Cust VALUES (1,'anna','B'),(2,'bob','A'),(3,'cid','B'),(4,'b order by c','A')"_s,
-             u"CREATE VIEW AllCust AS SELECT ID, Name, City FROM Cust"_s,
-             u"CREATE TABLE Ord(ID INTEGER PRIMARY KEY, Name VARCHAR(40), Qty INTEGER, Price DECIMAL(8,2), "
-             "Cust INTEGER)"_s +
-                 collation,
-             u"INSERT INTO Ord VALUES (1,'bob',5,1.5,1),(2,'anna',2,2.25,2),(3,'zoe',1,9,1),"
-             "(4,'a order by b',3,4,3),(5,'x where y',2,0.5,2),(6,' FROM x',NULL,3,1),(7,'anna',4,2.25,3),"
-             "(8,NULL,1,8,4)"_s,
-             u"CREATE TABLE Item(Ord INTEGER, Item VARCHAR(40), N INTEGER)"_s + collation,
-             u"INSERT INTO Item VALUES (1,'tea',3),(1,'cup',0),(2,'tea',1),(3,'pot',2),(7,'jug',5),(7,'tea',4)"_s,
-             u"CREATE TABLE 客户(名称 VARCHAR(20), 城市 VARCHAR(20))"_s + collation,
-             u"INSERT INTO 客户 VALUES ('甲','北京'),('乙','上海'),('丙',''),('丁','北京')"_s});
-    }
-
-    // Nothing where the engine doesn't take the statement.
-    std::optional<Answer> read(const QString &statement) const
-    {
-        try {
-            ADODB::Recordset records;
-            records.Open(statement, connection);
-            Answer answer;
-            for (int field = 0; field < records.Fields().Count(); ++field)
-                answer.names.append(records.Fields().Item(field).Name());
-            for (qint64 record = 1; record <= records.RecordCount(); ++record) {
-                QStringList row;
-                for (int field = 0; field < answer.names.size(); ++field)
-                    row.append(records.CellText(record, field));
-                answer.rows.push_back(row);
-            }
-            return answer;
-        } catch (const ADODB::Error &) {
-            return std::nullopt;
-        }
-    }
-
-    Answer shown() const
-    {
-        Answer answer;
-        answer.names = hands->columns();
-        const QAbstractItemModel &model = *hands->table->model();
-        for (int row = 0; row < hands->rows(); ++row) {
-            QStringList texts;
-            for (int col = 0; col < model.columnCount(); ++col) {
-                if (!hands->table->isColumnHidden(col))
-                    texts.append(model.index(row, col).data().toString());
-            }
-            answer.rows.push_back(texts);
-        }
-        return answer;
-    }
-
-    void expectShown(Answer expected, const char *after) const
-    {
-        Answer actual = shown();
-        std::sort(actual.rows.begin(), actual.rows.end());
-        std::sort(expected.rows.begin(), expected.rows.end());
-        EXPECT_EQ(actual.names, expected.names) << after << '\n' << qUtf8Printable(hands->statement());
-        EXPECT_TRUE(actual.rows == expected.rows)
-            << after << '\n'
-            << qUtf8Printable(hands->statement()) << '\n'
-            << actual.rows.size() << " rows instead of " << expected.rows.size();
-        EXPECT_TRUE(hands->messages.shown().empty())
-            << after << '\n'
-            << qUtf8Printable(hands->messages.texts().join(u'|')) << '\n'
-            << qUtf8Printable(hands->statement());
-        hands->messages.clear();
-    }
-
-    void back(const Answer &all)
-    {
-        hands->click(u"ToPreview"_s);
-        expectShown(all, "ToPreview");
-    }
-
-    // Whether the command can be used; one that can't says why.
-    bool canUse(const QString &key)
-    {
-        const QAction &action = *hands->button(key);
-        if (!action.isEnabled())
-            ADD_FAILURE() << qUtf8Printable(key) << ' ' << qUtf8Printable(action.toolTip());
-        return action.isEnabled();
-    }
-
-    // Keeps the rows with the text of this row in this column.
-    static Answer sameText(const Answer &all, qsizetype column, const QString &text)
-    {
-        Answer kept = all;
-        std::erase_if(kept.rows, [&](const QStringList &row) { return row.at(column) != text; });
-        return kept;
-    }
-
     void filterByCells(const Answer &all)
     {
         const auto columns = static_cast<int>(all.names.size());
@@ -168,11 +48,9 @@ protected:
     void filterByWords(const Answer &all)
     {
         const QString word = u"an"_s;
-        // Which letters are alike is the engine's and its tables' affair.
-        const bool isExact = engine.store == JourneyEngine::Server;
-        const auto letters = isExact ? Qt::CaseSensitive : Qt::CaseInsensitive;
         Answer kept = all;
-        std::erase_if(kept.rows, [&](const QStringList &row) { return row.filter(word, letters).isEmpty(); });
+        std::erase_if(kept.rows,
+                      [&](const QStringList &row) { return row.filter(word, letters()).isEmpty(); });
         WindowAnswers dialogs({[&](QDialog &dialog) { Hands::find(dialog, word); }});
         hands->click(u"QuickFilter"_s);
         expectShown(kept, "the quick filter");
@@ -314,27 +192,6 @@ protected:
         expectShown(all, "the single record");
     }
 
-    static std::vector<Case> cases()
-    {
-        return ReadCases({u"statements.cases"_s, u"server_statements.cases"_s});
-    }
-
-    // Whether records can be deleted; where they can't, nobody is asked.
-    bool canDelete()
-    {
-        const auto *item = hands->grid.findChild<QAction *>(u"PopMnuDataAction9"_s);
-        const QString toolTipOfText = QAction(item->text()).toolTip(); // of an action that has none
-        EXPECT_EQ(item->isEnabled(), item->toolTip() == toolTipOfText);
-        return item->isEnabled();
-    }
-
-    int recordsInTables()
-    {
-        return database->ask(u"SELECT count(*) FROM Ord"_s).toInt() +
-               database->ask(u"SELECT count(*) FROM Cust"_s).toInt() +
-               database->ask(u"SELECT count(*) FROM 客户"_s).toInt();
-    }
-
     void showWholeTable(const Answer &all, const QString &whole)
     {
         const auto expected = whole.isEmpty() ? std::optional(all) : read(whole);
@@ -343,11 +200,9 @@ protected:
         expectShown({all.names, expected->rows}, "the whole table");
         back(all);
     }
-
-    std::shared_ptr<ADODB::Connection> connection;
 };
 
-TEST_P(EngineStatements, AreShownWithTheRowsThatALoopTakes)
+TEST_P(StatementsOnEngines, AreShownWithTheRowsThatALoopTakes)
 {
     int taken = 0;
     QStringList left;
@@ -381,7 +236,7 @@ TEST_P(EngineStatements, AreShownWithTheRowsThatALoopTakes)
 
 // What is derived from a statement whose records can be deleted is one as well, unless the statement becomes
 // a derived table: then the menu says that its records can't be deleted.
-TEST_P(EngineStatements, RecordsCanBeDeletedFromWhatIsFilteredAndSorted)
+TEST_P(StatementsOnEngines, RecordsCanBeDeletedFromWhatIsFilteredAndSorted)
 {
     int deleted = 0;
     for (const Case &c : cases()) {
@@ -419,19 +274,6 @@ TEST_P(EngineStatements, RecordsCanBeDeletedFromWhatIsFilteredAndSorted)
     EXPECT_TRUE(engine.isWritable() || deleted == 0);
 }
 
-const std::vector<JourneyEngine> &enginesOfStatements()
-{
-    static const std::vector<JourneyEngine> engines = [] {
-        std::vector<JourneyEngine> some = journeyEngines();
-        std::erase_if(some, [](const JourneyEngine &engine) { // two ways to an engine that is there
-            return QLatin1StringView(engine.name).contains(QLatin1StringView("Through"));
-        });
-        return some;
-    }();
-    return engines;
-}
-
-INSTANTIATE_TEST_SUITE_P(Engines, EngineStatements, testing::ValuesIn(enginesOfStatements()),
-                         [](const auto &engine) { return std::string(engine.param.name); });
-
 } // namespace
+
+KOVA_ON_ENGINES_OF_STATEMENTS(StatementsOnEngines);

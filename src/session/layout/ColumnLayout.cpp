@@ -101,9 +101,10 @@ QStringList ColumnLayout::fieldsShownBy(FieldView view) const
 bool ColumnLayout::hasColumnsFor(const QStringList &fields) const
 {
     const QStringList shown = m_grid.Headings();
-    // Columns of one name can't be told apart: all of them are meant, or the statement is read.
-    return std::all_of(fields.cbegin(), fields.cend(),
-                       [&](const QString &field) { return shown.count(field) == fields.count(field); });
+    // Columns of one name can't be told apart, so that the statement is read.
+    return std::all_of(fields.cbegin(), fields.cend(), [&](const QString &field) {
+        return shown.count(field) == 1 && fields.count(field) == 1;
+    });
 }
 
 bool ColumnLayout::columnsFit() const
