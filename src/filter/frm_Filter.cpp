@@ -6,6 +6,7 @@
 #include "forms/FormTexts.h"
 #include "forms/Messages.h"
 #include "forms/widgets/GradualControl.h"
+#include "forms/widgets/StandardPicture.h"
 #include "forms/widgets/TextWidth.h"
 
 #include <QtGui/QIcon>
@@ -15,7 +16,6 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QStyle>
 #include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
@@ -23,6 +23,12 @@
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int pictureSize = 16; // pixels at 96 DPI
+
+} // namespace
 
 frm_Filter::frm_Filter(QWidget *parent)
     : QDialog(parent), m_builder(new SetFilter(this)), m_picture(new QLabel(this))
@@ -73,7 +79,7 @@ QWidget *frm_Filter::makeBand()
     auto *band = new GradualControl(this);
     band->setObjectName(u"GradualControl1"_s);
     m_picture->setObjectName(u"Picture2"_s);
-    SetPicture(style()->standardIcon(QStyle::SP_FileDialogContentsView));
+    m_picture->setPixmap(standardPicture(*this, QStyle::SP_FileDialogContentsView, pictureSize));
     auto *explanation = new QLabel(FilterTexts::Explanation, band);
     explanation->setObjectName(u"Label2"_s);
     QFont bold = explanation->font();
@@ -87,9 +93,8 @@ QWidget *frm_Filter::makeBand()
 
 void frm_Filter::SetPicture(const QIcon &picture)
 {
-    constexpr int size = 16; // pixels at 96 DPI
     if (!picture.isNull())
-        m_picture->setPixmap(picture.pixmap(QSize(size, size), devicePixelRatioF()));
+        m_picture->setPixmap(picture.pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
 }
 
 // Esc is easily pressed by accident; the buttons are not.

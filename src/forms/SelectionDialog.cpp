@@ -3,6 +3,7 @@
 #include "forms/Contrast.h"
 #include "forms/FormTexts.h"
 #include "forms/widgets/GradualControl.h"
+#include "forms/widgets/StandardPicture.h"
 
 #include <QtGui/QCloseEvent>
 #include <QtGui/QIcon>
@@ -10,7 +11,6 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QStyle>
 #include <QtWidgets/QVBoxLayout>
 
 namespace KOVAVSFDataGridLib {
@@ -68,7 +68,7 @@ QWidget *SelectionDialog::makeBand(const QString &bandName)
     auto *band = new GradualControl(this);
     band->setObjectName(bandName);
     m_picture->setObjectName(u"Picture1"_s);
-    SetPicture(style()->standardIcon(QStyle::SP_FileDialogDetailedView));
+    m_picture->setPixmap(standardPicture(*this, QStyle::SP_FileDialogDetailedView, pictureSize));
 
     m_tableName->setObjectName(u"txtTableName"_s);
     m_tableName->setAccessibleName(FormTexts::TableName);

@@ -1,4 +1,6 @@
 #include "forms/DialogFieldChooser.h"
+#include "forms/frmSelShowFields.h"
+#include "forms/frmSelSortFields.h"
 
 #include "support/Dialogs.h"
 
@@ -9,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <set>
 
 using namespace KOVAVSFDataGridLib;
 using namespace KovaTest;
@@ -79,4 +82,21 @@ TEST(DialogFieldChooser, ShowsThePictureOfTheCommandThatAsks)
     EXPECT_FALSE(chooser.ChooseVisibleFields(u"T"_s, {{u"A"_s, u"A"_s}}, {}));
     expectPicture(green);
     EXPECT_FALSE(chooser.ChooseSort(u"T"_s, {{u"A"_s, u"A"_s}}, {}));
+}
+
+// What is drawn anew for each dialog stays in Qt's pixmap cache, if only by name.
+TEST(DialogFieldChooser, AllDialogsShareThePictureThatNobodyChose)
+{
+    std::set<qint64> pictures;
+    for (int i = 0; i < 20; ++i) {
+        const frmSelShowFields fields;
+        const frmSelSortFields sort;
+        for (const QWidget *dialog :
+             {static_cast<const QWidget *>(&fields), static_cast<const QWidget *>(&sort)}) {
+            const QPixmap picture = part<QLabel>(*dialog, "Picture1").pixmap();
+            ASSERT_FALSE(picture.isNull());
+            pictures.insert(picture.cacheKey());
+        }
+    }
+    EXPECT_EQ(pictures.size(), 1U);
 }
