@@ -24,7 +24,8 @@ bool hasPartStatement(const colShowSQLSentences &history)
 void showAllInstead(Session &session, FilterManagerRollback &rollback)
 {
     const QStringList all = session.columns().fieldsShownBy(FieldView::All);
-    if (!session.columns().hasColumnsFor(all)) {
+    const bool areShown = session.fields().view() == FieldView::All && session.window().Headings() == all;
+    if (!areShown && !session.columns().hasColumnsFor(all)) {
         showFields(session, rollback.manager().GetCurrentSQL20(AllFieldsStatement), FieldView::All, rollback);
         return;
     }
