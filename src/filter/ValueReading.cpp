@@ -70,18 +70,24 @@ void ValueReading::put(OfferedValues values)
 void ValueReading::run()
 {
     const QDeadlineTimer due(m_request.limit);
+    QString failure;
     try {
         read([&] { return !m_isStopped && !due.hasExpired(); });
+        return;
+    } catch (const ADODB::Error &error) {
+        failure = error.Description();
     } catch (const std::exception &error) {
-        if (m_isStopped)
-            return;
-        {
-            const QMutexLocker lock(&m_mutex);
-            m_failure = QString::fromUtf8(error.what());
-        }
-        m_first.release();
-        QMetaObject::invokeMethod(this, &ValueReading::arrived, Qt::QueuedConnection);
+        qWarning("Values could not be read: %s", error.what());
+        failure = QString::fromUtf8(error.what());
     }
+    if (m_isStopped)
+        return;
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_failure = failure;
+    }
+    m_first.release();
+    QMetaObject::invokeMethod(this, &ValueReading::arrived, Qt::QueuedConnection);
 }
 
 void ValueReading::read(const std::function<bool()> &shouldContinue)

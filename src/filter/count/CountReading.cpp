@@ -54,6 +54,7 @@ void CountReading::run()
         const QMutexLocker lock(&m_mutex);
         m_failure = due.hasExpired() ? FilterTexts::TooLongToCount() : error.Description();
     } catch (const std::exception &error) {
+        qWarning("Records could not be counted: %s", error.what());
         const QMutexLocker lock(&m_mutex);
         m_failure = QString::fromUtf8(error.what());
     }
