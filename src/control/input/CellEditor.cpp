@@ -4,6 +4,7 @@
 #include "ado/Notifications.h"
 #include "ado/Recordset.h"
 #include "ado/ValueText.h"
+#include "ado/values/FieldValue.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
 #include "filter/FilterTexts.h"
@@ -35,22 +36,6 @@ constexpr qint64 recordsSearched = 20000; // for the values that a column has al
 constexpr qsizetype mostValues = 200;     // of these in the list
 constexpr QChar paragraphEnd(0x2029);     // a line break, to a text document
 
-bool isTextType(ADODB::DataTypeEnum type)
-{
-    switch (type) {
-    case ADODB::adBSTR:
-    case ADODB::adChar:
-    case ADODB::adWChar:
-    case ADODB::adVarChar:
-    case ADODB::adLongVarChar:
-    case ADODB::adVarWChar:
-    case ADODB::adLongVarWChar:
-        return true;
-    default:
-        return false;
-    }
-}
-
 bool isLongText(ADODB::DataTypeEnum type)
 {
     return type == ADODB::adLongVarChar || type == ADODB::adLongVarWChar;
@@ -64,7 +49,7 @@ bool isWritable(const ADODB::Field &field)
 // What the typed text means to the field. Nothing typed means no value, except in a text field.
 QVariant valueOf(const ADODB::Field &field, const QString &text)
 {
-    if (text.isEmpty() && !isTextType(field.Type()))
+    if (text.isEmpty() && !ADODB::FieldValue::isText(field.Type()))
         return {};
     if (field.Type() == ADODB::adBoolean && (FilterTexts::Yes.is(text) || FilterTexts::No.is(text)))
         return FilterTexts::Yes.is(text);
@@ -160,7 +145,7 @@ bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
 
 void CellEditor::open(const ADODB::Field &field, const QString &text, bool isReadOnly)
 {
-    m_isText = isTextType(field.Type());
+    m_isText = ADODB::FieldValue::isText(field.Type());
     m_hasLines =
         m_isText && (m_before.contains(u'\n') || (isLongText(field.Type()) && m_before.size() > longestLine));
     if (m_hasLines) {

@@ -4,6 +4,7 @@
 #include "ado/Error.h"
 #include "ado/FieldInfo.h"
 #include "ado/Recordset.h"
+#include "ado/values/FieldValue.h"
 #include "query/clsFilterManagement.h"
 #include "session/Session.h"
 #include "sql/Like.h"
@@ -50,22 +51,6 @@ LEFT JOIN pragma_table_info(f."table") k ON k.pk = 1 WHERE f."from" = %2 COLLATE
     }
 }
 
-bool isText(ADODB::DataTypeEnum type)
-{
-    switch (type) {
-    case ADODB::adBSTR:
-    case ADODB::adChar:
-    case ADODB::adWChar:
-    case ADODB::adVarChar:
-    case ADODB::adLongVarChar:
-    case ADODB::adVarWChar:
-    case ADODB::adLongVarWChar:
-        return true;
-    default:
-        return false;
-    }
-}
-
 // A table that is referred to.
 struct Referenced
 {
@@ -87,7 +72,7 @@ Referenced referenced(ADODB::Connection &connection, const Dialect &dialect,
     for (const ADODB::FieldInfo &info : connection.Describe(u"SELECT * FROM "_s + found.from)) {
         if (info.name.compare(key, Qt::CaseInsensitive) == 0)
             found.isKeyRead = info.type != ADODB::adGUID;
-        else if (found.description.isEmpty() && isText(info.type))
+        else if (found.description.isEmpty() && ADODB::FieldValue::isText(info.type))
             found.description = writtenName(dialect, info.name);
     }
     return found;
