@@ -12,19 +12,12 @@ namespace KovaTest {
 
 namespace {
 
-// Within a room everything may include everything, but these only those that come after them.
-constexpr QLatin1StringView controlFolders[] = {"src/control/face"_L1,       "src/control/viewer"_L1,
-                                                "src/control/input"_L1,      "src/control/parts"_L1,
-                                                "src/control/connection"_L1, "src/control/settings"_L1};
+constexpr QLatin1StringView orderedRoom = "src/control/"_L1;
 
-// The place of a file's folder in that list; -1 when it isn't there.
-int placeOfFolder(const QString &file)
+// The folder right below that room which a file is in; empty for a file of another room.
+QString orderedFolder(const QString &file)
 {
-    for (int i = 0; i < static_cast<int>(std::size(controlFolders)); ++i) {
-        if (file.startsWith(controlFolders[i] + u'/'))
-            return i;
-    }
-    return -1;
+    return file.startsWith(orderedRoom) ? file.mid(orderedRoom.size()).section(u'/', 0, 0) : QString();
 }
 
 } // namespace
@@ -46,6 +39,7 @@ void IncludeArrows::checkFile(const QString &file)
 {
     static const QRegularExpression include(u"^ *# *include *([\"<])([^\">]+)"_s);
     const QStringList lines = linesOf(m_tree + u'/' + file);
+    const QString ordered = orderedFolder(file);
     const auto add = [&](const QString &fault) {
         if (!fault.isEmpty())
             m_faults += file + u": "_s + fault;
@@ -57,6 +51,8 @@ void IncludeArrows::checkFile(const QString &file)
         add(u"CMake doesn't say what its folder links"_s);
         return;
     }
+    if (!ordered.isEmpty() && !m_order.contains(ordered))
+        add(u"%1 has no place among the folders of its room"_s.arg(ordered));
     for (const QString &line : lines) {
         const QRegularExpressionMatch match = include.match(line);
         if (match.hasMatch())
@@ -118,7 +114,8 @@ QString IncludeArrows::arrowFault(const QString &file, const QString &target) co
     const QString to = m_rooms.folderOf(target);
     if (!to.isEmpty() && to != from && !m_rooms.restsOn(from).contains(to))
         return u"%1 may not use %2"_s.arg(from, target);
-    if (placeOfFolder(target) >= 0 && placeOfFolder(target) < placeOfFolder(file))
+    const qsizetype place = m_order.indexOf(orderedFolder(target));
+    if (place >= 0 && place < m_order.indexOf(orderedFolder(file)))
         return u"%1 may not use %2"_s.arg(file.section(u'/', 0, 2), target);
     return {};
 }

@@ -8,7 +8,12 @@ namespace KovaTest {
 class IncludeArrows
 {
 public:
-    IncludeArrows(const QString &tree, const Rooms &rooms) : m_tree(tree), m_rooms(rooms) {}
+    // Within a room everything may include everything, but the folders of control/ only those that follow
+    // them in `order`. A folder without a place in it is a fault.
+    IncludeArrows(const QString &tree, const Rooms &rooms, const QStringList &order)
+        : m_tree(tree), m_rooms(rooms), m_order(order)
+    {
+    }
 
     // One text a fault: "<file>: <what is wrong>".
     QStringList faults();
@@ -24,6 +29,7 @@ private:
 
     QString m_tree;
     const Rooms &m_rooms;
+    QStringList m_order;
     QStringList m_faults;
     int m_includes = 0;
 };
