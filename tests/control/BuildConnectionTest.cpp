@@ -6,6 +6,7 @@
 #include "ado/Recordset.h"
 #include "ado/connection/OdbcCatalogue.h"
 #include "support/Dialogs.h"
+#include "support/ExpectedWarnings.h"
 #include "support/MessageAnswers.h"
 #include "support/TestDatabase.h"
 #include "support/WindowAnswers.h"
@@ -88,6 +89,7 @@ TEST_F(BuildConnection, AFactoryThatFailsIsToldAndLeavesTheString)
     grid.PutDBType(KOVAVSFDataGrid::dbOracle);
     grid.PutConnectionString(u"DSN=old"_s);
     MessageAnswers messages;
+    const ExpectedWarning logged(u"the tier is away"_s);
     WindowAnswers windows({[](QDialog &connect) {
         press(connect, "OptionLINK");
         press(connect, "cmd_link");

@@ -36,7 +36,7 @@ std::unique_ptr<ConnectionFactory> &theFactory()
     return factory;
 }
 
-// What a host's factory throws is an error of the connection.
+// What a host's factory throws is an error of the connection. Anything but Error is logged as well.
 template<typename Object>
 std::shared_ptr<Object> fromFactory(std::shared_ptr<Object> (ConnectionFactory::*create)(qint32),
                                     qint32 dbType)
@@ -46,6 +46,7 @@ std::shared_ptr<Object> fromFactory(std::shared_ptr<Object> (ConnectionFactory::
     } catch (const Error &) {
         throw;
     } catch (const std::exception &error) {
+        qWarning("A host's factory failed: %s", error.what());
         throw Error(dbErrFailed, QString::fromUtf8(error.what()));
     }
 }
