@@ -10,6 +10,13 @@
 #include <QtCore/QSettings>
 #include <gtest/gtest.h>
 
+#ifdef Q_OS_LINUX
+#include <algorithm>
+#include <array>
+#include <sys/inotify.h>
+#include <unistd.h>
+#endif
+
 using namespace KOVAVSFDataGridLib;
 using KovaTest::TestDatabase;
 using namespace Qt::StringLiterals;
@@ -31,6 +38,34 @@ struct ThreeTierFile : testing::Test
 
     const QString path = QDir(moduleFolder()).filePath(u"MERIXUSER3TIER.cfg"_s);
 };
+
+#ifdef Q_OS_LINUX
+// How often a file is opened, as the system tells.
+class OpenCounter
+{
+public:
+    explicit OpenCounter(const QString &path)
+    {
+        EXPECT_GE(inotify_add_watch(m_queue, QFile::encodeName(path).constData(), IN_OPEN | IN_CLOSE), 0);
+    }
+    ~OpenCounter() { close(m_queue); }
+    Q_DISABLE_COPY_MOVE(OpenCounter)
+
+    // Since the last time. Equal events in a row are reported as one, so that each must be followed by a
+    // close.
+    int opens() const
+    {
+        std::array<inotify_event, 100> events;
+        const auto bytes = read(m_queue, events.data(), sizeof events);
+        const auto count = bytes < 0 ? 0 : bytes / static_cast<ssize_t>(sizeof(inotify_event));
+        return static_cast<int>(std::count_if(events.begin(), events.begin() + count,
+                                              [](const auto &event) { return event.mask & IN_OPEN; }));
+    }
+
+private:
+    const int m_queue = inotify_init1(IN_NONBLOCK);
+};
+#endif
 
 struct SwitchCase
 {
@@ -140,6 +175,21 @@ TEST_F(ThreeTierFile, TheFactoryIsToldWhenAControlIsMade)
     const KOVAVSFDataGrid another;
     EXPECT_FALSE(ADODB::ConnectionFactory::instance().ThreeTier());
 }
+
+#ifdef Q_OS_LINUX
+TEST_F(ThreeTierFile, IsOpenedOnceForALoad)
+{
+    write("[Use3Tier]\nMERIX=NO\n");
+    KOVAVSFDataGrid grid;
+    grid.PutConnectionString(u"Provider=SQLite;Data Source=:memory:"_s);
+    grid.PutSQLShow(u"select 1 as A from (select 2)"_s);
+    const OpenCounter counter(path);
+    ASSERT_TRUE(grid.IsLoadData());
+    EXPECT_EQ(counter.opens(), 1);
+    ASSERT_TRUE(grid.IsLoadData());
+    EXPECT_EQ(counter.opens(), 1);
+}
+#endif
 
 TEST(SelectWholeRows, IsOnUntilTheUserSaysOtherwise)
 {
