@@ -107,7 +107,7 @@ void KOVAVSFDataGrid::Private::connectHost()
                                static_cast<qint32>(session->result().recordset()->AbsolutePosition()));
     });
     connect(parts.lblEmpty, &EmptyHint::addWanted, &q,
-            [this] { session->run(QStringLiteral("AddRecord"), ChosenBy::MenuItem); });
+            [this] { session->run(CommandKeys::AddRecord, ChosenBy::MenuItem); });
     connect(parts.Adodc1, &ADODB::Adodc::RecordChangeComplete, &q, [this] { window.refreshStatus(); });
     connect(parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete, &q,
             [this](ADODB::EventReasonEnum reason) { Q_EMIT q.RecordsetChanged(reason); });

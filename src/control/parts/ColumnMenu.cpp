@@ -6,6 +6,7 @@
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/columns/ColumnCommand.h"
+#include "session/columns/ColumnKeys.h"
 
 #include <QtGui/QAction>
 #include <QtWidgets/QMenu>

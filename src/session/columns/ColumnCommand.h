@@ -4,11 +4,6 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The keys of the column commands that other code names.
-namespace ColumnKeys {
-inline const QString FitColumn = QStringLiteral("FitColumn");
-}
-
 // One thing that a user can do with a column, from its menu. Like a Command it is a static Registration in a
 // source file. Columns count from 1.
 struct ColumnCommand

@@ -1,6 +1,7 @@
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/columns/ColumnCommand.h"
+#include "session/columns/ColumnKeys.h"
 #include "session/layout/ShownColumns.h"
 
 // Columns as wide as their texts, and as they were.

@@ -13,6 +13,7 @@ inline const QString SelField = u"SelField"_s;
 inline const QString SingleRecord = u"SingleRecord"_s;
 inline const QString PreviousRecord = u"PreviousRecord"_s;
 inline const QString NextRecord = u"NextRecord"_s;
+inline const QString AddRecord = u"AddRecord"_s;
 inline const QString AllRecord = u"AllRecord"_s;
 inline const QString Filter = u"Filter"_s;
 inline const QString FromResult = u"FromResult"_s;

@@ -7,6 +7,7 @@
 #include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
+#include "session/commands/CommandKeys.h"
 #include "session/editing/EditedRecord.h"
 
 // Begins a new record and shows it as a list.
@@ -41,7 +42,7 @@ void addRecord(Session &session)
 }
 
 const Command::Registration registration({
-    .key = u"AddRecord"_s,
+    .key = CommandKeys::AddRecord,
     .shortcut = u"Ctrl++"_s,
     .menu = {8, Command::tr("增加记录(&N)")},
     .record = Record::Stays,
