@@ -15,7 +15,7 @@ namespace {
 
 constexpr qsizetype mostShown = 1000; // characters, as many as can be read in passing
 constexpr qsizetype longestWord = 60; // characters that go on one line; a tip is as wide as its longest word
-constexpr QChar BreakHere(0x200B);
+constexpr QChar breakHere(0x200B);
 
 // A tip wraps its lines between words. Codes and addresses have none.
 QString breakable(const QString &text)
@@ -25,7 +25,7 @@ QString breakable(const QString &text)
     for (const QChar c : text) {
         sinceBreak = c.isSpace() ? 0 : sinceBreak + 1;
         if (sinceBreak > longestWord && !c.isLowSurrogate()) {
-            broken += BreakHere;
+            broken += breakHere;
             sinceBreak = 1;
         }
         broken += c;

@@ -18,7 +18,7 @@ int rounded(double twips)
 
 } // namespace
 
-const WindowRules ControlRules = {
+const WindowRules controlRules = {
     .hasAllCommands = true,
     .worksOnLentResult = false,
     .writesFilter = true,
@@ -38,7 +38,7 @@ const WindowRules ControlRules = {
     .roundWidth = truncated,
 };
 
-const WindowRules ViewerRules = {
+const WindowRules viewerRules = {
     .hasAllCommands = false,
     .worksOnLentResult = true,
     .writesFilter = false,

@@ -42,7 +42,7 @@ struct WindowRules
     int (*roundWidth)(double twips);
 };
 
-extern const WindowRules ControlRules;
-extern const WindowRules ViewerRules;
+extern const WindowRules controlRules;
+extern const WindowRules viewerRules;
 
 } // namespace KOVAVSFDataGridLib

@@ -204,18 +204,18 @@ TEST_F(Layout, FittingSharesTheWidthAmongShownColumnsAndLeavesHiddenOnes)
 {
     ASSERT_TRUE(record(Statement, FieldView::All, true, {}));
     grid.PutColWidth(2, 0);
-    columns.fitColumns(ControlRules.roundWidth);
+    columns.fitColumns(controlRules.roundWidth);
     const int share = (1000 * 15 - 260 - 600) / 2;
     EXPECT_EQ(widths(), QList<int>({share, 0, share}));
 }
 
 TEST_F(Layout, FittingIntoNoRoomOrWithoutAHistoryChangesNothing)
 {
-    columns.fitColumns(ControlRules.roundWidth);
+    columns.fitColumns(controlRules.roundWidth);
     EXPECT_EQ(widths(), QList<int>({-1, -1, -1}));
     ASSERT_TRUE(record(Statement, FieldView::All, true, {}));
     grid.resize(50, 300);
-    columns.fitColumns(ControlRules.roundWidth);
+    columns.fitColumns(controlRules.roundWidth);
     EXPECT_EQ(widths(), QList<int>({960, 960, 960}));
     EXPECT_FALSE(columns.columnsFit());
 }

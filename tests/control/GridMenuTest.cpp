@@ -56,7 +56,7 @@ struct GridMenu : testing::Test
     Questions nobody;
     HostEvents noHost;
     std::shared_ptr<Session> session =
-        std::make_shared<Session>(shown, nobody, noHost, ControlRules, parts.Adodc1);
+        std::make_shared<Session>(shown, nobody, noHost, controlRules, parts.Adodc1);
     GridEvents events{host, parts, *session};
     QSignalSpy menus{&events, &GridEvents::menuWanted};
     qsizetype menusAtMouseUp = -1;

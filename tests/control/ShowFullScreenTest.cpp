@@ -272,7 +272,7 @@ TEST_F(HandBack, AControlThatIsDestroyedMeanwhileTakesTheViewerAlong)
     auto *form = new QWidget;
     GridParts others(*form);
     ControlWindow otherWindow(*form, others);
-    const auto other = std::make_shared<Session>(otherWindow, chooser, host, ControlRules, others.Adodc1);
+    const auto other = std::make_shared<Session>(otherWindow, chooser, host, controlRules, others.Adodc1);
     otherWindow.setSession(*other);
     other->result().replaceBy(ResultSet::open(database.connectionString(), statement, dbAccess, {}));
     other->pages().setPage(1);

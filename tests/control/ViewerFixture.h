@@ -73,7 +73,7 @@ struct LoadedParts : testing::Test
     SilentHost host;
     KOVAVSFDataGridLib::ControlWindow window{control, parts};
     std::shared_ptr<KOVAVSFDataGridLib::Session> session = std::make_shared<KOVAVSFDataGridLib::Session>(
-        window, chooser, host, KOVAVSFDataGridLib::ControlRules, parts.Adodc1);
+        window, chooser, host, KOVAVSFDataGridLib::controlRules, parts.Adodc1);
     KOVAVSFDataGridLib::ResultSet &result = session->result();
     KOVAVSFDataGridLib::clsFilterManagement &filter = session->filterManager();
     QString statement;

@@ -1,4 +1,5 @@
-// Every file and folder that CONTRIBUTING.md names is there.
+// Every file and folder that CONTRIBUTING.md names is there, every name that docs/architecture.md has is in
+// the sources, and constants are named as CONTRIBUTING.md says.
 #include "Rooms.h"
 
 #include <QtCore/QDirIterator>
@@ -56,6 +57,66 @@ QStringList missing(const QStringList &paths)
     return gone;
 }
 
+QStringList filesIn(const QString &folder, const QStringList &patterns)
+{
+    QStringList paths;
+    QDirIterator files(QStringLiteral(KOVA_SOURCE_DIR "/") + folder, patterns, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext())
+        paths += files.next();
+    return paths;
+}
+
+QSet<QString> wordsOf(const QString &text)
+{
+    static const QRegularExpression between(u"\\W+"_s);
+    const QStringList words = text.split(between, Qt::SkipEmptyParts);
+    return {words.cbegin(), words.cend()};
+}
+
+// The words of all sources, and their files' and folders' names.
+QSet<QString> wordsOfSources()
+{
+    QSet<QString> words;
+    for (const QString &folder :
+         {u"src"_s, u"apps"_s, u"designer"_s, u"examples"_s, u"python"_s, u"tests"_s, u"bench"_s}) {
+        for (const QString &path : filesIn(folder, {})) {
+            words += wordsOf(path.mid(static_cast<qsizetype>(sizeof(KOVA_SOURCE_DIR))));
+            static const QRegularExpression text(u"\\.(cpp|h|txt|cmake|py)$"_s);
+            if (text.match(path).hasMatch())
+                words += wordsOf(linesOf(path).join(u'\n'));
+        }
+    }
+    return words;
+}
+
+// Names between single backquotes: `Name`, `name()`, `room/` and all parts of `room/Name.h`.
+QSet<QString> namesIn(const QStringList &lines)
+{
+    static const QRegularExpression code(u"`([\\w./:<>()-]+)`"_s);
+    QSet<QString> names;
+    bool isPicture = false;
+    for (const QString &line : lines) {
+        isPicture = line.startsWith(u"```"_s) != isPicture;
+        for (const QRegularExpressionMatch &match : code.globalMatch(isPicture ? QString() : line))
+            names += wordsOf(match.captured(1));
+    }
+    return names;
+}
+
+// What is called other than lowerCamelCase in a source.
+QStringList wrongConstantsIn(const QString &source)
+{
+    static const QRegularExpression constant(
+        u"^[ \\t]*(?:inline |static )*(?:constexpr|const) [^()=;{}\\n]*(?<!::)\\b([A-Z]\\w*)(?:\\[\\w*\\])?"
+        "(?: =|\\{|\\((?=[\"0-9]))"_s,
+        QRegularExpression::MultilineOption);
+    QStringList names;
+    for (const QRegularExpressionMatch &match : constant.globalMatch(source))
+        names += match.captured(1);
+    return names;
+}
+
 } // namespace
 
 TEST(Recipes, NameFilesThatAreThere)
@@ -72,4 +133,43 @@ TEST(Recipes, AreFoundOutWhereAFileIsGone)
         pathsNamedIn({u"Copy `src/ado/gone/` to `tests/providers/<name>/X.cpp`, see `Gone.h`, "
                       "`Rooms.h`, `cmake --preset dev`, `Session` and `grid/Twips.h`."_s});
     EXPECT_EQ(missing(paths).join(u' ').toStdString(), "src/ado/gone/ Gone.h");
+}
+
+TEST(Architecture, NamesWhatIsThere)
+{
+    const QSet<QString> names = namesIn(linesOf(QStringLiteral(KOVA_SOURCE_DIR "/docs/architecture.md")));
+    EXPECT_GT(names.size(), 200) << "names are not found any more";
+    const QSet<QString> words = wordsOfSources();
+    QStringList gone;
+    for (const QString &name : names) {
+        if (!words.contains(name))
+            gone += name;
+    }
+    EXPECT_EQ(gone.join(u' ').toStdString(), "");
+}
+
+TEST(Constants, BeginWithASmallLetter)
+{
+    static const QRegularExpression table(u"(Texts|Messages|Keys)\\.h$"_s);
+    int files = 0;
+    for (const QString &folder : {u"src"_s, u"apps"_s, u"designer"_s, u"examples"_s, u"python"_s}) {
+        for (const QString &path : filesIn(folder, {u"*.h"_s, u"*.cpp"_s})) {
+            if (table.match(path).hasMatch())
+                continue;
+            EXPECT_EQ(wrongConstantsIn(linesOf(path).join(u'\n')).join(u' ').toStdString(), "")
+                << path.toStdString();
+            ++files;
+        }
+    }
+    EXPECT_GT(files, 500) << "sources are not found any more";
+}
+
+// The check itself is checked.
+TEST(Constants, AreFoundOutWhereTheyBeginWithACapital)
+{
+    EXPECT_EQ(wrongConstantsIn(u"const int Wrong = 1;\n    static constexpr QChar Bad(0x200B);\n"
+                               "inline const std::array Four{1};\nconstexpr int Six[] = {1};\n"
+                               "const int right = Wrong;\nconst Field &Item(int index);\n"
+                               "constexpr Kind kinds[] = {Kind::First};\nconst int Fields::Count = 1;"_s),
+              (QStringList{u"Wrong"_s, u"Bad"_s, u"Four"_s, u"Six"_s}));
 }

@@ -179,7 +179,7 @@ protected:
     Window window;
     User user;
     PlainHost host;
-    std::shared_ptr<Session> session = std::make_shared<Session>(window, user, host, ControlRules, &adodc);
+    std::shared_ptr<Session> session = std::make_shared<Session>(window, user, host, controlRules, &adodc);
 };
 
 INSTANTIATE_TEST_SUITE_P(Modes, SessionInjection, testing::ValuesIn(injectionModes),

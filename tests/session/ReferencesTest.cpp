@@ -65,7 +65,7 @@ protected:
     PlainWindow window;
     PlainUser user;
     PlainHost host;
-    std::shared_ptr<Session> session = std::make_shared<Session>(window, user, host, ControlRules, &adodc);
+    std::shared_ptr<Session> session = std::make_shared<Session>(window, user, host, controlRules, &adodc);
 };
 
 // Where a DATE includes a time, it is read with it.

@@ -118,7 +118,7 @@ struct SessionFixture : testing::Test
     PlainUser user;
     PlainHost host;
     std::shared_ptr<KOVAVSFDataGridLib::Session> session = std::make_shared<KOVAVSFDataGridLib::Session>(
-        window, user, host, KOVAVSFDataGridLib::ControlRules, &adodc);
+        window, user, host, KOVAVSFDataGridLib::controlRules, &adodc);
 };
 
 } // namespace KovaTest

@@ -112,7 +112,7 @@ TEST_F(Sessions, AQuestionThatAnotherLoadOvertakesEndsItsCommand)
 TEST_F(Sessions, ASessionOutlivesItsWindowWhileACommandRuns)
 {
     for (const char *key : {"Sort", "Filter", "QuickFilter", "SelField", "DeleteRecord"}) {
-        auto other = std::make_shared<Session>(window, user, host, ControlRules, &adodc);
+        auto other = std::make_shared<Session>(window, user, host, controlRules, &adodc);
         other->texts.connectionString = database.connectionString();
         other->texts.sqlShow = u"select * from T"_s;
         ASSERT_TRUE(loadResult(*other));
@@ -187,7 +187,7 @@ TEST_F(Sessions, ALentResultThatIsTakenAwayEndsTheCommandSilently)
     ASSERT_TRUE(load());
     std::shared_ptr<Session> viewer;
     viewer =
-        std::make_shared<Session>(window, user, host, ViewerRules, nullptr,
+        std::make_shared<Session>(window, user, host, viewerRules, nullptr,
                                   [&](const QString &, const ResultSet::Progress &) -> ResultSet::Opened {
                                       viewer->sharedHistory().setManager(nullptr);
                                       throw ADODB::Error(ADODB::dbErrCancelled, {});
@@ -223,7 +223,7 @@ TEST_F(Sessions, OneStatementIsOpenedAtATimeWithoutAProgressLineToo)
         EXPECT_FALSE(load());
         return ResultSet::open(database.connectionString(), statement, 1, progress);
     };
-    const auto viewer = std::make_shared<Session>(window, user, host, ViewerRules, nullptr, open);
+    const auto viewer = std::make_shared<Session>(window, user, host, viewerRules, nullptr, open);
     viewer->sharedHistory().setManager(session->sharedHistory().manager());
     viewer->shown().borrow(
         {database.connectionString(), session->result().connection(), session->result().recordset()},

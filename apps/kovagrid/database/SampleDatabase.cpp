@@ -40,19 +40,19 @@ struct Product
     int cents;
 };
 
-const std::array Cities{u"北京"_s, u"上海"_s, u"广州"_s, u"深圳"_s, u"杭州"_s, u"南京"_s,
+const std::array cities{u"北京"_s, u"上海"_s, u"广州"_s, u"深圳"_s, u"杭州"_s, u"南京"_s,
                         u"成都"_s, u"武汉"_s, u"西安"_s, u"青岛"_s, u"厦门"_s, u"长沙"_s,
                         u"天津"_s, u"苏州"_s, u"昆明"_s, u"大连"_s};
-const std::array Names{u"恒昌"_s, u"万通"_s, u"金桥"_s, u"华信"_s, u"明达"_s, u"宏远"_s, u"瑞丰"_s, u"天成"_s,
+const std::array companies{u"恒昌"_s, u"万通"_s, u"金桥"_s, u"华信"_s, u"明达"_s, u"宏远"_s, u"瑞丰"_s, u"天成"_s,
                        u"永利"_s, u"新宇"_s, u"东方"_s, u"海纳"_s, u"佳和"_s, u"同仁"_s, u"博雅"_s};
-const std::array Trades{u"贸易有限公司"_s, u"百货公司"_s, u"食品商行"_s, u"超市"_s};
-const std::array Surnames{u"王"_s, u"李"_s, u"张"_s, u"刘"_s, u"陈"_s,
+const std::array trades{u"贸易有限公司"_s, u"百货公司"_s, u"食品商行"_s, u"超市"_s};
+const std::array surnames{u"王"_s, u"李"_s, u"张"_s, u"刘"_s, u"陈"_s,
                           u"杨"_s, u"赵"_s, u"黄"_s, u"周"_s, u"吴"_s};
-const std::array GivenNames{u"伟"_s,   u"芳"_s, u"秀英"_s, u"敏"_s,  u"静"_s,
+const std::array givenNames{u"伟"_s,   u"芳"_s, u"秀英"_s, u"敏"_s,  u"静"_s,
                             u"建国"_s, u"丽"_s, u"强"_s,   u"晓明"_s};
-const std::array Notes{u"请在上午送货"_s,   u"需开增值税发票"_s, u"老客户，包装加固"_s,
+const std::array notes{u"请在上午送货"_s,   u"需开增值税发票"_s, u"老客户，包装加固"_s,
                        u"到货前电话联系"_s, u"货到付款"_s,       u"与上一单合并发货"_s};
-const std::array Products{
+const std::array products{
     Product{u"龙井茶 250克"_s, u"茶叶"_s, 12800},
     Product{u"铁观音 500克"_s, u"茶叶"_s, 16800},
     Product{u"普洱茶饼"_s, u"茶叶"_s, 23600},
@@ -193,10 +193,10 @@ std::vector<QString> fillCustomers(Database &database, Dice &dice)
         const auto at = [i](const auto &items, int step) {
             return items[static_cast<std::size_t>(i / step) % items.size()];
         };
-        const QString city = at(Cities, 1);
-        const QString name = city + at(Names, static_cast<int>(Cities.size())) + dice.oneOf(Trades);
+        const QString city = at(cities, 1);
+        const QString name = city + at(companies, static_cast<int>(cities.size())) + dice.oneOf(trades);
         const QString contact =
-            dice.below(8) == 0 ? QString() : dice.oneOf(Surnames) + dice.oneOf(GivenNames);
+            dice.below(8) == 0 ? QString() : dice.oneOf(surnames) + dice.oneOf(givenNames);
         const QString phone =
             u"1%1%2"_s.arg(30 + dice.below(60)).arg(dice.below(100000000), 8, 10, QLatin1Char('0'));
         insert.row(i + 1, name, contact, city, phone, 5000.0 * (1 + dice.below(40)),
@@ -210,7 +210,7 @@ void fillProducts(Database &database, Dice &dice)
 {
     Insert insert(database, "INSERT INTO 产品 VALUES (?,?,?,?,?,?,?)");
     int number = 0;
-    for (const Product &product : Products) {
+    for (const Product &product : products) {
         ++number;
         insert.row(number, product.name, product.category, product.cents / 100.0, dice.below(900),
                    dice.below(9) == 0 ? 1 : 0, pictureOf(number));
@@ -223,8 +223,8 @@ void fillOrders(Database &database, Dice &dice, const std::vector<QString> &cust
     const QDate first(2021, 1, 4);
     for (int i = 0; i < orderCount; ++i) {
         const int customer = dice.below(customerCount);
-        const int number = dice.below(static_cast<int>(Products.size()));
-        const Product &product = Products[static_cast<std::size_t>(number)];
+        const int number = dice.below(static_cast<int>(products.size()));
+        const Product &product = products[static_cast<std::size_t>(number)];
         const int quantity = 1 + dice.below(60);
         const QDate day = first.addDays(static_cast<qint64>(i) * 1800 / orderCount);
         const bool isShipped = dice.below(12) != 0;
@@ -235,8 +235,8 @@ void fillOrders(Database &database, Dice &dice, const std::vector<QString> &cust
                                     : QString();
         insert.row(i + 1, day.toString(Qt::ISODate), customers[static_cast<std::size_t>(customer)],
                    product.name, quantity, product.cents / 100.0, quantity * product.cents / 100.0,
-                   dice.below(4) == 0 ? 0 : 1, shipped, dice.oneOf(Cities),
-                   dice.below(6) == 0 ? dice.oneOf(Notes) : QString());
+                   dice.below(4) == 0 ? 0 : 1, shipped, dice.oneOf(cities),
+                   dice.below(6) == 0 ? dice.oneOf(notes) : QString());
     }
 }
 

@@ -9,9 +9,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QStringList DbTypes{u"access"_s, u"oracle"_s, u"sqlserver"_s};
-const QStringList TableTypes{u"table"_s, u"view"_s, u"sql"_s};
-const QStringList Languages{u"zh"_s, u"en"_s};
+const QStringList dbTypes{u"access"_s, u"oracle"_s, u"sqlserver"_s};
+const QStringList tableTypes{u"table"_s, u"view"_s, u"sql"_s};
+const QStringList languages{u"zh"_s, u"en"_s};
 bool isNumber(const QString &text)
 {
     bool ok = false;
@@ -94,8 +94,8 @@ std::optional<Options> Options::parse(const QStringList &arguments, QString &err
         return index >= 0;
     };
     qint32 language = 0;
-    if (!choice(u"lang"_s, Languages, language, 0) || !choice(u"db-type"_s, DbTypes, options.dbType, 1) ||
-        !choice(u"table-type"_s, TableTypes, options.tableType, 0))
+    if (!choice(u"lang"_s, languages, language, 0) || !choice(u"db-type"_s, dbTypes, options.dbType, 1) ||
+        !choice(u"table-type"_s, tableTypes, options.tableType, 0))
         return {};
 
     if (options.print && parser.value(u"print"_s) != u"all") {

@@ -11,13 +11,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Key = u"recentConnections"_s;
+const QString settingsKey = u"recentConnections"_s;
 
 } // namespace
 
 QStringList RecentConnections::all()
 {
-    return userSettings()->value(Key).toStringList();
+    return userSettings()->value(settingsKey).toStringList();
 }
 
 void RecentConnections::add(const QString &connection)
@@ -33,10 +33,10 @@ void RecentConnections::add(const QString &connection)
     QStringList list = all();
     list.removeAll(kept);
     list.prepend(kept);
-    userSettings()->setValue(Key, list.mid(0, most));
+    userSettings()->setValue(settingsKey, list.mid(0, most));
 }
 
 void RecentConnections::clear()
 {
-    userSettings()->remove(Key);
+    userSettings()->remove(settingsKey);
 }

@@ -32,8 +32,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString GeometryKey = u"geometry"_s;
-const QString StateKey = u"state"_s;
+const QString geometryKey = u"geometry"_s;
+const QString stateKey = u"state"_s;
 
 // The files that are dragged; none when something else is.
 QStringList filesIn(const QMimeData &data)
@@ -245,8 +245,8 @@ void HostWindow::rememberSettings()
     m_remembersSettings = true;
     grid()->PutLayoutKey(u"kovagrid"_s);
     const auto settings = userSettings();
-    restoreGeometry(settings->value(GeometryKey).toByteArray());
-    restoreState(settings->value(StateKey).toByteArray());
+    restoreGeometry(settings->value(geometryKey).toByteArray());
+    restoreState(settings->value(stateKey).toByteArray());
 }
 
 void HostWindow::dragEnterEvent(QDragEnterEvent *event)
@@ -273,8 +273,8 @@ void HostWindow::closeEvent(QCloseEvent *event)
     }
     if (m_remembersSettings) {
         const auto settings = userSettings();
-        settings->setValue(GeometryKey, saveGeometry());
-        settings->setValue(StateKey, saveState());
+        settings->setValue(geometryKey, saveGeometry());
+        settings->setValue(stateKey, saveState());
     }
     QMainWindow::closeEvent(event);
 }

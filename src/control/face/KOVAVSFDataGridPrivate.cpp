@@ -37,7 +37,7 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
       parts(control),
       window(control, parts),
       questions(&control),
-      session(std::make_shared<Session>(window, questions, *this, ControlRules, parts.Adodc1)),
+      session(std::make_shared<Session>(window, questions, *this, controlRules, parts.Adodc1)),
       events(input, parts, *session),
       singleRecord(control, input, *session, parts),
       commands(control, input, *session, parts, events, singleRecord),

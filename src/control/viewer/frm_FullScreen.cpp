@@ -62,7 +62,7 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
       m_questions(std::make_unique<ViewerQuestions>(*this, std::move(host.askCondition))),
       m_parts(*this),
       m_window(*this, m_parts),
-      m_session(std::make_shared<Session>(m_window, *m_questions, m_noHost, ViewerRules, nullptr,
+      m_session(std::make_shared<Session>(m_window, *m_questions, m_noHost, viewerRules, nullptr,
                                           std::move(host.open))),
       m_menu(new PopupMenu(*this, PopupMenu::ofViewer, *m_parts.Toolbar1, *m_session)),
       m_columnMenu(std::make_unique<ColumnMenu>(

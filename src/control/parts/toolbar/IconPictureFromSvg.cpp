@@ -9,8 +9,8 @@ namespace KOVAVSFDataGridLib {
 namespace {
 
 // The colours as the drawings write them, chosen so that any viewer shows the files sensibly.
-constexpr QByteArrayView LineInDrawing("currentColor");
-constexpr QByteArrayView AccentInDrawing("#2a82da");
+constexpr QByteArrayView lineInDrawing("currentColor");
+constexpr QByteArrayView accentInDrawing("#2a82da");
 
 QString fileOf(const QString &key)
 {
@@ -30,8 +30,8 @@ QImage iconPicture(const QString &key, const QSize &size, const QColor &line, co
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QByteArray drawing = file.readAll();
-    drawing.replace(LineInDrawing, line.name().toLatin1());
-    drawing.replace(AccentInDrawing, accent.name().toLatin1());
+    drawing.replace(lineInDrawing, line.name().toLatin1());
+    drawing.replace(accentInDrawing, accent.name().toLatin1());
 
     QImage picture(size, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
