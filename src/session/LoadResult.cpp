@@ -91,7 +91,7 @@ void showLoaded(Session &session, const ResultSet::Opened &opened, const LoadedS
     session.window().showAllRecords();
 
     session.pages().storeRecordCount();
-    if (session.shared.hasRecords && session.window().Cols() > 1) {
+    if (session.result().hasRecords() && session.window().Cols() > 1) {
         session.window().PutRow(1);
         session.window().PutCol(1);
     }
@@ -114,7 +114,6 @@ void showLoaded(Session &session, const ResultSet::Opened &opened, const LoadedS
 bool loadResult(Session &session)
 {
     using Outcome = StatementReader::Outcome;
-    const auto alive = session.shared_from_this();
     if (session.shared.isOpening || !session.record().leaveResult())
         return false;
     session.fieldReader().forget();

@@ -5,14 +5,16 @@
 namespace KOVAVSFDataGridLib {
 
 ResultWatch::ResultWatch(Session &session)
-    : m_session(session), m_recordset(session.result().recordset()), m_wasOpen(session.result().isOpen())
+    : m_session(session.shared_from_this()),
+      m_recordset(session.result().recordset()),
+      m_wasOpen(session.result().isOpen())
 {
 }
 
 bool ResultWatch::isUntouched() const
 {
-    return !m_session.isDetached() && m_session.result().isOpen() == m_wasOpen &&
-           m_session.result().recordset() == m_recordset;
+    return !m_session->isDetached() && m_session->result().isOpen() == m_wasOpen &&
+           m_session->result().recordset() == m_recordset;
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -11,7 +11,8 @@ namespace KOVAVSFDataGridLib {
 class Session;
 
 // Remembers which result a command works on. While a question is open or a statement is being read, the host
-// may put another one in its place; the command then ends.
+// may put another one in its place, or destroy the control; the command then ends. The session lives at least
+// as long as this object.
 class ResultWatch
 {
 public:
@@ -23,7 +24,7 @@ public:
     const std::shared_ptr<ADODB::Recordset> &recordset() const { return m_recordset; }
 
 private:
-    Session &m_session;
+    const std::shared_ptr<Session> m_session;
     const std::shared_ptr<ADODB::Recordset> m_recordset;
     const bool m_wasOpen;
 };

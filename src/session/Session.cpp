@@ -125,7 +125,7 @@ void Session::perform(const std::function<void()> &command)
 {
     if (shared.isWaiting) // by the host, while another command waits for its server
         return;
-    const auto alive = shared_from_this();
+    const auto alive = shared_from_this(); // the host may destroy the control while the command runs
     const ConnectionFieldReader::Command asCommand(*m_fieldReader);
     ++m_running;
     try {

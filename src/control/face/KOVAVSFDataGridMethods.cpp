@@ -64,8 +64,7 @@ void KOVAVSFDataGrid::Refresh()
 bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
 {
     VSFlexGrid &grid = *d->parts.vsfgDataGrid;
-    const std::shared_ptr<Session> held = d->session; // the control can go while a record is saved
-    Session &session = *held;
+    Session &session = *d->session;
     const auto isOtherPage = [&] { return session.result().isOpen() && session.pages().current() != 1; };
     const qint32 rows = isOtherPage() ? session.pages().recordsOnPage(1) + 1 : grid.Rows();
     if (lRecordRow <= 0 || lRecordRow > rows)
@@ -73,7 +72,7 @@ bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
     if (lRecordRow < 2 || lRecordRow == rows || !session.result().isOpen() ||
         lRecordRow == session.result().recordset()->AbsolutePosition())
         return true;
-    const ResultWatch watch(session);
+    const ResultWatch watch(session); // the control can go while a record is saved
     try {
         if (d->window.commitEdit()) // a text that doesn't fit stays
             return true;
@@ -256,9 +255,8 @@ bool KOVAVSFDataGrid::IsLoadData()
     const auto session = d->session;
     d->setThreeTierSwitch();
     d->layout.save();
-    const QPointer<KOVAVSFDataGrid> alive(this);
     const bool isLoaded = loadResult(*session);
-    if (isLoaded && alive) {
+    if (isLoaded) {
         d->layout.restore();
         d->focusGrid();
     }
@@ -342,15 +340,13 @@ QString KOVAVSFDataGrid::SaveLayout()
 bool KOVAVSFDataGrid::RestoreLayout(const QString &strLayout)
 {
     const auto session = d->session;
-    const QPointer<KOVAVSFDataGrid> alive(this);
     auto layout = SavedLayout::fromText(strLayout);
     if (const auto *read = std::get_if<SavedLayout>(&layout))
         layout = restoreLayout(*session, *read);
     const QString *const reason = std::get_if<QString>(&layout);
     if (!reason || reason->isEmpty())
         return true;
-    if (alive)
-        Messages::show(this, *reason);
+    session->questions().show(*reason);
     return false;
 }
 

@@ -8,6 +8,7 @@
 #include "control/input/EndKeys.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/HistoryMenu.h"
+#include "control/parts/Survives.h"
 #include "control/parts/lines/EmptyHint.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "control/settings/Configuration.h"
@@ -20,11 +21,10 @@
 #include "session/commands/CommandKeys.h"
 #include "session/editing/EditedRecord.h"
 #include "session/pages/Pages.h"
-#include "session/statement/ShownStatement.h"
 #include "session/statement/LoadedTable.h"
+#include "session/statement/ShownStatement.h"
 
 #include <QtCore/QMetaMethod>
-#include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QCheckBox>
 
@@ -152,9 +152,12 @@ void KOVAVSFDataGrid::Private::setThreeTierSwitch() const
     factory.SetMiddleTier(settings.tier);
 }
 
-void KOVAVSFDataGrid::Private::notifyWritten(const char *name)
+bool KOVAVSFDataGrid::Private::notifyWritten(const char *name)
 {
-    session->notifications().send(&q, [this, name] { Q_EMIT q.PropertyChanged(QLatin1StringView(name)); });
+    return survives(q, [&](KOVAVSFDataGrid &control) {
+        session->notifications().send(
+            &control, [&control, name] { Q_EMIT control.PropertyChanged(QLatin1StringView(name)); });
+    });
 }
 
 void KOVAVSFDataGrid::Private::filterWritten()
@@ -191,13 +194,11 @@ void KOVAVSFDataGrid::Private::applyBackColor()
 
 void KOVAVSFDataGrid::Private::runSteps(QStringView title, std::initializer_list<std::function<void()>> steps)
 {
-    const QPointer<KOVAVSFDataGrid> alive(&q);
     for (const auto &step : steps) {
         qint32 number = 0;
         QString description;
         try {
-            step();
-            if (!alive) // the host has deleted the control behind the dialog that the step showed
+            if (!survives(q, [&](KOVAVSFDataGrid &) { step(); }))
                 return;
             continue;
         } catch (const ADODB::Error &error) {
@@ -208,7 +209,7 @@ void KOVAVSFDataGrid::Private::runSteps(QStringView title, std::initializer_list
             description = QString::fromUtf8(error.what());
         }
         const QString text = QString::number(number) + u'\r' + description + GridTexts::AskContinue;
-        if (!Messages::ask(&q, text, title.toString(), QMessageBox::Critical) || !alive)
+        if (!Messages::ask(&q, text, title.toString(), QMessageBox::Critical))
             return;
     }
 }

@@ -31,14 +31,15 @@ public:
     explicit Private(KOVAVSFDataGrid &control);
     ~Private() override;
 
-    // Stores a property's value and reports that it was written, even when it is the same.
+    // Stores a property's value and reports that it was written, even when it is the same. False when the
+    // host has deleted the control at that.
     template<typename Value>
-    void put(Value &property, const Value &value, const char *name)
+    bool put(Value &property, const Value &value, const char *name)
     {
         property = value;
-        notifyWritten(name);
+        return notifyWritten(name);
     }
-    void notifyWritten(const char *name);
+    bool notifyWritten(const char *name);
 
     bool isUserMode() const;
     void applyBackColor();

@@ -3,6 +3,7 @@
 #include "control/face/ControlError.h"
 #include "control/face/KOVAVSFDataGridPrivate.h"
 #include "control/parts/GridTexts.h"
+#include "control/parts/Survives.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "forms/Messages.h"
 #include "grid/FlexGrid.h"
@@ -15,8 +16,6 @@
 #include "session/layout/ShownColumns.h"
 #include "sql/StatementLines.h"
 #include "sql/select/SelectParts.h"
-
-#include <QtCore/QPointer>
 
 // The properties of the interface. Writing most of them notifies the host, which may delete the control.
 
@@ -108,16 +107,13 @@ QString KOVAVSFDataGrid::ConnectionString() const
 // that loads in the first one still finds its statement.
 void KOVAVSFDataGrid::PutConnectionString(const QString &text)
 {
-    const QPointer<KOVAVSFDataGrid> alive(this);
     SharedValues &shared = d->session->shared; // of the process
-    d->put(d->session->texts.connectionString, text, "ConnectionString");
+    bool isThere = d->put(d->session->texts.connectionString, text, "ConnectionString");
     shared.parsed.ClearSQLFieldList();
     for (const auto put : {&KOVAVSFDataGrid::PutSQLShow, &KOVAVSFDataGrid::PutSQLFilter,
-                           &KOVAVSFDataGrid::PutSQLSort, &KOVAVSFDataGrid::PutSQLPartDisplay}) {
-        if (alive)
-            (this->*put)({});
-    }
-    if (!alive)
+                           &KOVAVSFDataGrid::PutSQLSort, &KOVAVSFDataGrid::PutSQLPartDisplay})
+        isThere = isThere && survives(*this, put, QString());
+    if (!isThere)
         return;
     shared.connectionString = text;
     d->session->filterManager().ClearFilter();
@@ -131,11 +127,9 @@ QString KOVAVSFDataGrid::SQLShow() const
 
 void KOVAVSFDataGrid::PutSQLShow(const QString &statement)
 {
-    const QPointer<KOVAVSFDataGrid> alive(this);
     d->session->shared.sqlShow = statement;
     d->session->shared.sqlShowCopy = statement;
-    d->put(d->session->texts.sqlShow, statement, "SQLShow");
-    if (alive)
+    if (d->put(d->session->texts.sqlShow, statement, "SQLShow"))
         PutSQLPartDisplay(statement);
 }
 
@@ -159,14 +153,14 @@ void KOVAVSFDataGrid::PutSQLPartDisplay(const QString &statement)
     d->session->texts.sqlPartDisplay = statement;
     const QString joined = joinStatementLines(statement);
     const auto failure = d->session->shared.parsed.ParseSQLFieldList(joined, d->session->shared.dbType);
-    const QPointer<KOVAVSFDataGrid> alive(this);
-    if (failure && !selectsFromTable(joined)) {
-        Messages::show(this, GridTexts::FieldListFailed, GridTexts::FieldListFailedTitle,
-                       QMessageBox::Critical);
-        if (alive)
-            Messages::show(this, failure->source + failure->description);
-    }
-    if (alive)
+    const auto showFailure = [&](QWidget &control) {
+        if (survives(control, [](QWidget &parent) {
+                Messages::show(&parent, GridTexts::FieldListFailed, GridTexts::FieldListFailedTitle,
+                               QMessageBox::Critical);
+            }))
+            Messages::show(&control, failure->source + failure->description);
+    };
+    if (!failure || selectsFromTable(joined) || survives(*this, showFailure))
         d->notifyWritten("SQLPartDisplay");
 }
 
@@ -298,9 +292,7 @@ QString KOVAVSFDataGrid::LayoutKey() const
 void KOVAVSFDataGrid::PutLayoutKey(const QString &strKey)
 {
     const auto session = d->session;
-    const QPointer<KOVAVSFDataGrid> alive(this);
-    d->layout.setKey(strKey);
-    if (alive)
+    if (survives(d->layout, &LayoutKeeper::setKey, strKey))
         d->notifyWritten("LayoutKey");
 }
 
@@ -311,8 +303,9 @@ QString KOVAVSFDataGrid::Language() const
 
 void KOVAVSFDataGrid::PutLanguage(const QString &strName)
 {
-    const QPointer<KOVAVSFDataGrid> alive(this); // a window of the host may react to the change
-    if (KOVAVSFDataGridLib::Language::use(strName) && alive)
+    bool isChanged = false;
+    const auto use = [&](KOVAVSFDataGrid &) { isChanged = KOVAVSFDataGridLib::Language::use(strName); };
+    if (survives(*this, use) && isChanged) // a window of the host may react to the change
         d->notifyWritten("Language");
 }
 

@@ -1,5 +1,6 @@
 #include "control/face/LayoutKeeper.h"
 
+#include "control/parts/Survives.h"
 #include "control/settings/Configuration.h"
 #include "grid/FlexGrid.h"
 #include "session/Session.h"
@@ -8,7 +9,6 @@
 #include "session/statement/LoadedTable.h"
 
 #include <QtCore/QCryptographicHash>
-#include <QtCore/QPointer>
 
 #include <utility>
 
@@ -59,12 +59,13 @@ void LayoutKeeper::restore()
     m_table = loadedTable(m_session);
     // What can't be read any more is as good as nothing, and is replaced by the next change.
     const auto kept = SavedLayout::fromText(readLayout(place()));
-    const QPointer<LayoutKeeper> alive(this);
-    if (const auto *layout = std::get_if<SavedLayout>(&kept))
-        restoreLayout(m_session, *layout);
-    else
-        fitColumns();
-    if (alive && m_session.result().isOpen())
+    const auto show = [&kept](LayoutKeeper &keeper) {
+        if (const auto *layout = std::get_if<SavedLayout>(&kept))
+            restoreLayout(keeper.m_session, *layout);
+        else
+            keeper.fitColumns();
+    };
+    if (survives(*this, show) && m_session.result().isOpen())
         m_known = layoutOf(m_session).toText();
 }
 

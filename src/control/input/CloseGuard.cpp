@@ -1,5 +1,6 @@
 #include "control/input/CloseGuard.h"
 
+#include "control/parts/Survives.h"
 #include "session/Session.h"
 #include "session/editing/EditedRecord.h"
 
@@ -22,11 +23,12 @@ bool CloseGuard::eventFilter(QObject *watched, QEvent *event)
         m_window->installEventFilter(this);
     }
     if (watched == m_window && event->type() == QEvent::Close) {
-        const QPointer<CloseGuard> alive(this);
-        const bool isLeft = m_session.record().leaveResult();
+        bool isLeft = false;
+        const auto leave = [&](CloseGuard &) { isLeft = m_session.record().leaveResult(); };
+        const bool isThere = survives(*this, leave);
         if (!isLeft)
             event->ignore();
-        return !isLeft || !alive;
+        return !isLeft || !isThere;
     }
     return false;
 }

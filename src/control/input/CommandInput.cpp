@@ -9,17 +9,14 @@
 #include "control/input/KeyCodes.h"
 #include "control/input/SingleRecordView.h"
 #include "control/parts/GridParts.h"
-#include "control/parts/PopupMenu.h"
-#include "control/parts/lines/FilterBar.h"
+#include "control/parts/Survives.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/editing/EditedRecord.h"
 #include "session/pages/Pages.h"
-#include "session/statement/ShownConditions.h"
 
-#include <QtCore/QPointer>
 #include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
@@ -37,40 +34,20 @@ CommandInput::CommandInput(QWidget &control, InputEvents &host, Session &session
       m_session(session),
       m_parts(parts),
       m_singleRecord(singleRecord),
-      m_menu(*new PopupMenu(control, PopupMenu::ofControl, *parts.Toolbar1, session)),
-      m_columnMenu(control, *parts.Toolbar1, *parts.vsfgDataGrid, session,
-                   [this](const ColumnCommand &command, int col) {
-                       if (m_parts.Toolbar1->isEnabled())
-                           m_session.runOnColumn(command, col);
-                   })
+      m_commands(control, PopupMenu::ofControl,
+                 {*parts.Toolbar1, *parts.vsfgDataGrid, *parts.conditions, *parts.txtPage, *parts.cmdPgae},
+                 session)
 {
-    for (QAction *action : parts.Toolbar1->actions()) {
-        if (!action->shortcut().isEmpty())
-            control.addAction(action);
-    }
     parts.vsfgDataGrid->installEventFilter(this);
-    connect(parts.Toolbar1, &GridToolbar::buttonClicked, this, [this](const QString &key) {
-        if (m_parts.Toolbar1->isEnabled()) // a shortcut does not know
-            m_session.run(key);
-    });
-    connect(&m_menu, &PopupMenu::chosen, this, [this](const QString &key) {
-        if (m_parts.Toolbar1->isEnabled())
-            m_session.run(key, ChosenBy::MenuItem);
-    });
     connect(&events, &GridEvents::menuWanted, this, &CommandInput::showMenu);
-    connect(&events, &GridEvents::headingMenuWanted, this, &CommandInput::showHeadingMenu);
-    connect(parts.conditions, &FilterBar::removeWanted, this, &CommandInput::removeCondition);
+    connect(&events, &GridEvents::headingMenuWanted, this,
+            [this](int col, const QPoint &position) { m_commands.menuFor(true, col).exec(position); });
     connect(&singleRecord, &SingleRecordView::menuWanted, this, &CommandInput::showMenu);
     connect(&singleRecord, &SingleRecordView::cancelWanted, this, [this] { m_session.record().cancel(); });
     connect(&singleRecord, &SingleRecordView::saveWanted, this,
             [this] { m_session.perform([this] { m_session.record().save(); }); });
-    connect(&singleRecord, &SingleRecordView::commandWanted, this, [this](const QString &key) {
-        if (m_parts.Toolbar1->isEnabled())
-            m_session.run(key);
-    });
-    connect(parts.cmdPgae, &QPushButton::clicked, this,
-            [this] { m_session.pages().goToTypedPage(m_parts.txtPage->text()); });
-    connect(parts.txtPage, &QLineEdit::returnPressed, parts.cmdPgae, &QPushButton::click);
+    connect(&singleRecord, &SingleRecordView::commandWanted, this,
+            [this](const QString &key) { m_commands.run(key); });
     connect(parts.Adodc1, &ADODB::Adodc::MoveComplete, this, &CommandInput::followRecord);
     connect(parts.Adodc1, &ADODB::Adodc::RecordChangeComplete, this, [this](ADODB::EventReasonEnum reason) {
         // Later, because the host may be in the middle of several changes.
@@ -84,26 +61,8 @@ CommandInput::~CommandInput()
     if (!m_session.isRunning())
         return;
     deleteAfterEvent(*m_parts.Toolbar1);
-    deleteAfterEvent(m_menu);
-    deleteAfterEvent(m_columnMenu.menu());
-}
-
-void CommandInput::removeCondition(int condition)
-{
-    if (!m_parts.Toolbar1->isEnabled())
-        return;
-    const QPointer<CommandInput> alive(this);
-    m_session.perform(
-        [&] { KOVAVSFDataGridLib::removeCondition(m_session, static_cast<std::size_t>(condition)); });
-    if (alive)
-        m_parts.vsfgDataGrid->setFocus(); // the button that had it is gone
-}
-
-void CommandInput::showHeadingMenu(int col, const QPoint &position)
-{
-    m_menu.refresh();
-    m_columnMenu.addTo(m_menu, col);
-    m_menu.exec(position);
+    deleteAfterEvent(m_commands.menu());
+    deleteAfterEvent(m_commands.columnMenu());
 }
 
 void CommandInput::showMenu(const QPoint &position)
@@ -115,14 +74,10 @@ void CommandInput::showMenu(const QPoint &position)
     if (!m_session.window().isSingleRecordShown()) {
         const int y = grid.viewport()->mapFromGlobal(position).y();
         const int row = y < 0 ? 0 : grid.rowAt(y) + 1; // none above the rows, scrolled or not
-        const QPointer<CommandInput> alive(this);
-        if (row >= 1 && row != grid.Row())
-            grid.PutRow(row);
-        if (!alive)
+        if (row >= 1 && row != grid.Row() && !survives(grid, &VSFlexGrid::PutRow, row))
             return;
     }
-    m_menu.refresh();
-    m_menu.exec(position);
+    m_commands.menuFor(true).exec(position);
 }
 
 // The host moved the recordset: the row under the cursor is the record meant.
@@ -176,9 +131,7 @@ bool CommandInput::eventFilter(QObject *watched, QEvent *event)
         if (isShortcut(key)) {
             qint16 keyCode = virtualKey(key);
             qint16 shift = shiftState(key.modifiers());
-            const QPointer<CommandInput> alive(this);
-            Q_EMIT m_host.DataKeyDown(keyCode, shift);
-            if (!alive)
+            if (!survives(m_host, &InputEvents::DataKeyDown, keyCode, shift))
                 return true;
             m_isKeyConsumed = keyCode == 0;
             if (m_isKeyConsumed) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "control/parts/ColumnMenu.h"
+#include "control/parts/WindowCommands.h"
 
 #include <QtCore/QObject>
 
@@ -12,12 +12,10 @@ namespace KOVAVSFDataGridLib {
 class GridEvents;
 class GridParts;
 class InputEvents;
-class PopupMenu;
-class Session;
 class SingleRecordView;
 
-// Runs the session's commands as the user asks for them: by toolbar, popup menu, shortcut and page box. Keeps
-// the grid's current row and the recordset's current record together when the host moves or changes it.
+// Runs the session's commands as the user asks for them in the control, after the host has heard of a key.
+// Keeps the grid's current row and the recordset's current record together when the host moves or changes it.
 class CommandInput : public QObject
 {
     Q_OBJECT
@@ -30,15 +28,13 @@ public:
     // inside a command, because the button or the item that runs it is still in Qt's hands.
     ~CommandInput() override;
 
-    PopupMenu &menu() { return m_menu; }
+    PopupMenu &menu() { return m_commands.menu(); }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void showMenu(const QPoint &position);
-    void removeCondition(int condition);
-    void showHeadingMenu(int col, const QPoint &position);
     bool isShortcut(const QKeyEvent &event) const;
     void followRecord();
     void followChange();
@@ -48,8 +44,7 @@ private:
     Session &m_session;
     GridParts &m_parts;
     SingleRecordView &m_singleRecord;
-    PopupMenu &m_menu; // the control's
-    ColumnMenu m_columnMenu;
+    WindowCommands m_commands;
     bool m_isKeyConsumed = false; // the host kept the last shortcut from its command
 };
 

@@ -9,6 +9,7 @@
 #include "control/input/KeyCodes.h"
 #include "control/input/MenuKey.h"
 #include "control/parts/GridParts.h"
+#include "control/parts/Survives.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
@@ -20,7 +21,6 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
-#include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QCheckBox>
@@ -32,10 +32,8 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
 // What a mouse event carries to the host, in twips from the widget's corner. A handler may change it.
-struct MouseArguments
+struct GridEvents::MouseArguments
 {
     MouseArguments(const QWidget &source, const QMouseEvent &event, const QWidget &origin)
         : button(buttonState(event.type() == QEvent::MouseMove ? event.buttons() : event.button())),
@@ -51,8 +49,6 @@ struct MouseArguments
     float x = 0;
     float y = 0;
 };
-
-} // namespace
 
 GridEvents::GridEvents(InputEvents &host, const GridParts &parts, Session &session)
     : m_host(host), m_parts(parts), m_session(session)
@@ -87,66 +83,52 @@ bool GridEvents::eventFilter(QObject *watched, QEvent *event)
     // The host is notified before the grid itself acts. A disabled grid reports nothing.
     if (!m_parts.vsfgDataGrid->isEnabled() && watched != m_parts.picMainBack)
         return QObject::eventFilter(watched, event);
-    const QPointer<GridEvents> alive(this);
-    bool isConsumed = false;
     if (isGridSurface(watched)) {
         auto &source = *static_cast<QWidget *>(watched);
         switch (event->type()) {
         case QEvent::MouseButtonPress:
-            mousePressed(source, *static_cast<QMouseEvent *>(event));
-            break;
+            return mousePressed(source, *static_cast<QMouseEvent *>(event));
         case QEvent::MouseMove:
-            mouseMoved(source, *static_cast<QMouseEvent *>(event));
-            break;
+            return report({source, *static_cast<QMouseEvent *>(event), *m_parts.vsfgDataGrid},
+                          &InputEvents::DataMouseMove);
         case QEvent::MouseButtonRelease:
-            mouseReleased(source, *static_cast<QMouseEvent *>(event));
-            break;
+            return mouseReleased(source, *static_cast<QMouseEvent *>(event));
         case QEvent::MouseButtonDblClick:
-            doubleClicked(source, *static_cast<QMouseEvent *>(event));
-            break;
+            return doubleClicked(source, *static_cast<QMouseEvent *>(event));
         default:
-            break;
+            return false;
         }
-    } else if (watched == m_parts.vsfgDataGrid && event->type() == QEvent::KeyPress) {
-        isConsumed = keyPressed(*static_cast<QKeyEvent *>(event));
-    } else if (watched == m_parts.picMainBack && event->type() == QEvent::MouseButtonRelease) {
-        panelReleased(*static_cast<QMouseEvent *>(event));
     }
-    return isConsumed || !alive; // an event for a widget that is no more goes nowhere
+    if (watched == m_parts.vsfgDataGrid && event->type() == QEvent::KeyPress)
+        return keyPressed(*static_cast<QKeyEvent *>(event));
+    if (watched == m_parts.picMainBack && event->type() == QEvent::MouseButtonRelease)
+        return panelReleased(*static_cast<QMouseEvent *>(event));
+    return false;
 }
 
-void GridEvents::mousePressed(QWidget &source, QMouseEvent &event)
+bool GridEvents::report(MouseArguments arguments, MouseSignal raised)
+{
+    return !survives(m_host, raised, arguments.button, arguments.shift, arguments.x, arguments.y);
+}
+
+bool GridEvents::mousePressed(QWidget &source, QMouseEvent &event)
 {
     m_isPressed = event.button() == Qt::LeftButton;
-    MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
-    Q_EMIT m_host.DataMouseDown(arguments.button, arguments.shift, arguments.x, arguments.y);
+    return report({source, event, *m_parts.vsfgDataGrid}, &InputEvents::DataMouseDown);
 }
 
-void GridEvents::mouseMoved(QWidget &source, QMouseEvent &event)
+bool GridEvents::mouseReleased(QWidget &source, QMouseEvent &event)
 {
-    MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
-    Q_EMIT m_host.DataMouseMove(arguments.button, arguments.shift, arguments.x, arguments.y);
-}
-
-void GridEvents::mouseReleased(QWidget &source, QMouseEvent &event)
-{
-    const QPointer<GridEvents> alive(this);
     const Place place = placeOf(source, event);
-    MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
-    if (isData(place))
-        followGridRow();
-    if (alive && event.button() == Qt::LeftButton && std::exchange(m_isPressed, false))
-        clicked(place);
-    if (alive && event.button() == Qt::RightButton) {
-        const int col =
-            place == Place::Heading ? m_parts.vsfgDataGrid->ColumnOfHeadingAt(event.position().toPoint()) : 0;
-        if (col > 0 && canShowMenu())
-            Q_EMIT headingMenuWanted(col, event.globalPosition().toPoint());
-        else
-            askForMenu(event.globalPosition().toPoint());
-    }
-    if (alive)
-        Q_EMIT m_host.DataMouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
+    const MouseArguments arguments(source, event, *m_parts.vsfgDataGrid);
+    if (isData(place) && !survives(*this, &GridEvents::followGridRow))
+        return true;
+    if (event.button() == Qt::LeftButton && std::exchange(m_isPressed, false) &&
+        !survives(*this, &GridEvents::clicked, place))
+        return true;
+    if (event.button() == Qt::RightButton && !survives(*this, &GridEvents::askForMenuAt, place, event))
+        return true;
+    return report(arguments, &InputEvents::DataMouseUp);
 }
 
 GridEvents::Place GridEvents::placeOf(const QWidget &source, const QMouseEvent &event) const
@@ -162,31 +144,32 @@ GridEvents::Place GridEvents::placeOf(const QWidget &source, const QMouseEvent &
 
 void GridEvents::clicked(Place place)
 {
-    const QPointer<GridEvents> alive(this);
-    const bool isRemoved = removePicture();
-    if (!alive || !isData(place) || m_parts.vsfgDataGrid->Row() == 0 || !m_session.result().isOpen())
+    const QString stays = removePicture();
+    if (!survives(*this, &GridEvents::reportPicture, stays) || !isOnRecord(place))
         return;
-    if (isRemoved)
-        writePicture();
-    if (alive)
+    if (!stays.isEmpty() || survives(*this, &GridEvents::reportPicture, writePicture()))
         Q_EMIT m_host.DataClick();
 }
 
+bool GridEvents::isOnRecord(Place place) const
+{
+    return isData(place) && m_parts.vsfgDataGrid->Row() != 0 && m_session.result().isOpen();
+}
+
 // A picture of another record must not stay. Where the folder doesn't let go of the file, the file is
-// emptied.
-bool GridEvents::removePicture()
+// emptied. Answers why even that failed.
+QString GridEvents::removePicture()
 {
     QFile file(pictureFile());
     if (!file.exists() || file.remove() || file.resize(0))
-        return true;
-    reportPicture(ADODB::Texts::fileNotWritten().arg(file.fileName(), file.errorString()));
-    return false;
+        return {};
+    return ADODB::Texts::fileNotWritten().arg(file.fileName(), file.errorString());
 }
 
-void GridEvents::reportPicture(const QString &description)
+void GridEvents::reportPicture(const QString &failure)
 {
-    if (!std::exchange(m_isPictureReported, true))
-        m_session.questions().show(description);
+    if (!failure.isEmpty() && !std::exchange(m_isPictureReported, true))
+        m_session.questions().show(failure);
 }
 
 void GridEvents::followGridRow()
@@ -210,15 +193,16 @@ void GridEvents::followGridRow()
     }
 }
 
-void GridEvents::writePicture()
+// Answers why it failed.
+QString GridEvents::writePicture()
 {
     const int index = m_session.pages().pictureField();
     if (index < 0)
-        return;
+        return {};
     try {
         const QVariant picture = m_session.result().recordset()->Fields().Item(index).Value();
         if (!picture.isValid())
-            return;
+            return {};
         ADODB::Stream stream;
         stream.PutType(ADODB::adTypeBinary);
         stream.Open();
@@ -229,34 +213,32 @@ void GridEvents::writePicture()
                           isThere ? ADODB::adSaveCreateOverWrite : ADODB::adSaveCreateNotExist);
         stream.Close();
     } catch (const ADODB::Error &error) {
-        reportPicture(error.Description()); // the host finds no file, as for a record without one
+        return error.Description(); // the host finds no file, as for a record without one
     }
+    return {};
 }
 
-void GridEvents::doubleClicked(QWidget &source, QMouseEvent &event)
+bool GridEvents::doubleClicked(QWidget &source, QMouseEvent &event)
 {
     if (event.button() != Qt::LeftButton)
-        return;
+        return false;
     m_isPressed = false;
-    const QPointer<GridEvents> alive(this);
     const Place place = placeOf(source, event);
-    makeCurrent(place, event.position().toPoint());
-    if (alive)
-        Q_EMIT m_host.DataDblClick();
-    if (!alive)
-        return;
+    if (!survives(*this, &GridEvents::makeCurrent, place, event.position().toPoint()) ||
+        !survives(m_host, &InputEvents::DataDblClick))
+        return true;
     const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
     if (!isData(place) || grid.Row() == 0)
-        return;
+        return false;
     // On a row number all of the row is meant even when its first columns are scrolled away or hidden.
     const bool isWholeRow = m_parts.CheckSelAllRow->isChecked() || place == Place::RowNumber ||
                             (grid.Col() == 1 && grid.ColSel() != 1);
-    if (isWholeRow)
-        Q_EMIT m_host.DataDBLClickOneRow(grid.Row());
-    else
-        Q_EMIT m_host.DataDBLClickOneCell(grid.Col(), grid.Row());
-    if (alive && place == Place::Cell && grid.Row() > 0 && grid.IsTextCut(grid.Row(), grid.Col()))
-        Q_EMIT valueWanted();
+    if (!(isWholeRow ? survives(m_host, &InputEvents::DataDBLClickOneRow, grid.Row())
+                     : survives(m_host, &InputEvents::DataDBLClickOneCell, grid.Col(), grid.Row())))
+        return true;
+    if (place == Place::Cell && grid.Row() > 0 && grid.IsTextCut(grid.Row(), grid.Col()))
+        return !survives(*this, &GridEvents::valueWanted);
+    return false;
 }
 
 // The second press can come down beside the cell of the first; the grid follows only after the host is
@@ -275,16 +257,13 @@ bool GridEvents::keyPressed(QKeyEvent &event)
     const qint16 code = virtualKey(event);
     if (code == 0)
         return false;
-    const QPointer<GridEvents> alive(this);
     qint16 keyCode = code;
     qint16 shift = shiftState(event.modifiers());
-    Q_EMIT m_host.DataKeyDown(keyCode, shift);
-    if (!alive || keyCode == 0)
+    if (!survives(m_host, &InputEvents::DataKeyDown, keyCode, shift) || keyCode == 0)
         return true; // set by a handler that wants the grid to ignore the key
     if (!isMenuKey(event) || m_parts.vsfgDataGrid->Row() == 0)
         return false;
-    followGridRow();
-    if (alive)
+    if (survives(*this, &GridEvents::followGridRow))
         askForMenu(menuPlace(*m_parts.vsfgDataGrid));
     return true;
 }
@@ -295,16 +274,25 @@ bool GridEvents::canShowMenu() const
            m_session.result().recordset()->RecordCount() > 0;
 }
 
+void GridEvents::askForMenuAt(Place place, const QMouseEvent &event)
+{
+    const int col =
+        place == Place::Heading ? m_parts.vsfgDataGrid->ColumnOfHeadingAt(event.position().toPoint()) : 0;
+    if (col > 0 && canShowMenu())
+        Q_EMIT headingMenuWanted(col, event.globalPosition().toPoint());
+    else
+        askForMenu(event.globalPosition().toPoint());
+}
+
 void GridEvents::askForMenu(const QPoint &position)
 {
     if (canShowMenu())
         Q_EMIT menuWanted(position);
 }
 
-void GridEvents::panelReleased(QMouseEvent &event)
+bool GridEvents::panelReleased(QMouseEvent &event)
 {
-    MouseArguments arguments(*m_parts.picMainBack, event, *m_parts.picMainBack);
-    Q_EMIT m_host.MouseUp(arguments.button, arguments.shift, arguments.x, arguments.y);
+    return report({*m_parts.picMainBack, event, *m_parts.picMainBack}, &InputEvents::MouseUp);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -13,8 +13,6 @@ class Session;
 
 // Turns what the user does on the grid with mouse and keys into the control's events, moves the recordset
 // along with the grid's current row, and leaves a clicked record's picture in a file for the host.
-//
-// A host may delete the control in any handler; what raises an event looks whether it is still there.
 class GridEvents : public QObject
 {
     Q_OBJECT
@@ -46,20 +44,27 @@ private:
     enum class Place { None, Heading, RowNumber, Cell };
     static bool isData(Place place) { return place == Place::RowNumber || place == Place::Cell; }
 
-    void mousePressed(QWidget &source, QMouseEvent &event);
-    void mouseMoved(QWidget &source, QMouseEvent &event);
-    void mouseReleased(QWidget &source, QMouseEvent &event);
-    void doubleClicked(QWidget &source, QMouseEvent &event);
-    // True when the key is dealt with: the host took it for itself, or it asked for the menu.
+    struct MouseArguments;
+    using MouseSignal = void (InputEvents::*)(qint16 &, qint16 &, float &, float &);
+
+    // These are true when the event goes no further: the host took a key for itself, it asked for the menu,
+    // or the host has deleted the control.
+    bool report(MouseArguments arguments, MouseSignal raised);
+    bool mousePressed(QWidget &source, QMouseEvent &event);
+    bool mouseReleased(QWidget &source, QMouseEvent &event);
+    bool doubleClicked(QWidget &source, QMouseEvent &event);
     bool keyPressed(QKeyEvent &event);
-    void panelReleased(QMouseEvent &event);
+    bool panelReleased(QMouseEvent &event);
+
     void makeCurrent(Place place, const QPoint &position);
     bool canShowMenu() const;
+    void askForMenuAt(Place place, const QMouseEvent &event);
     void askForMenu(const QPoint &position);
     void clicked(Place place);
-    bool removePicture();
-    void writePicture();
-    void reportPicture(const QString &description);
+    bool isOnRecord(Place place) const;
+    QString removePicture();
+    QString writePicture();
+    void reportPicture(const QString &failure);
     bool isGridSurface(const QObject *object) const;
     Place placeOf(const QWidget &source, const QMouseEvent &event) const;
 

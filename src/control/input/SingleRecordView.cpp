@@ -9,6 +9,7 @@
 #include "control/input/record/RecordKeys.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
+#include "control/parts/Survives.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "forms/value/PicturePane.h"
 #include "grid/FlexGrid.h"
@@ -21,7 +22,6 @@
 #include "session/editing/EditedRecord.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QCheckBox>
@@ -96,7 +96,6 @@ SingleRecordView::SingleRecordView(QWidget &control, InputEvents &host, Session 
         list.setAttribute(Qt::WA_InputMethodEnabled); // so that Chinese can be typed to begin an edit
         m_session.record().commitEdit();              // last, because the host may delete the control
     });
-    connect(&m_pictureFields, &PictureFields::written, this, &SingleRecordView::FillSingleRecordView);
     connect(&m_editor, &CellEditor::saveWanted, this, &SingleRecordView::saveWanted);
 }
 
@@ -122,9 +121,8 @@ QPushButton *SingleRecordView::newStepButton(const QString &key, const QString &
 // What is being typed is taken first.
 void SingleRecordView::togglePictures()
 {
-    const QPointer<SingleRecordView> alive(this);
-    const bool isTaken = m_session.record().commitEdit();
-    if (!alive)
+    bool isTaken = false;
+    if (!survives(*this, [&](SingleRecordView &) { isTaken = m_session.record().commitEdit(); }))
         return;
     if (isTaken)
         FillSingleRecordView();
@@ -283,8 +281,9 @@ void SingleRecordView::fitNameColumn()
 
 bool SingleRecordView::eventFilter(QObject *watched, QEvent *event)
 {
-    const QPointer<SingleRecordView> alive(this);
-    return handleEvent(watched, event) || !alive; // an event for a widget that is no more goes nowhere
+    bool isConsumed = false;
+    const auto handle = [&](SingleRecordView &view) { isConsumed = view.handleEvent(watched, event); };
+    return !survives(*this, handle) || isConsumed; // an event for a widget that is no more goes nowhere
 }
 
 bool SingleRecordView::handleEvent(QObject *watched, QEvent *event)
@@ -376,9 +375,7 @@ void SingleRecordView::clearPicture()
 
 void SingleRecordView::doubleClicked(const QWidget &source, const QMouseEvent &event)
 {
-    const QPointer<SingleRecordView> alive(this);
-    Q_EMIT m_host.DataDblClick();
-    if (!alive)
+    if (!survives(m_host, &InputEvents::DataDblClick))
         return;
     MSFlexGrid &list = *m_parts.MSFlexGrid1;
     const int gridRow = m_parts.vsfgDataGrid->Row();
@@ -387,9 +384,9 @@ void SingleRecordView::doubleClicked(const QWidget &source, const QMouseEvent &e
         if (list.horizontalHeader()->logicalIndexAt(position) == valueCol)
             Q_EMIT m_host.DataDBLClickOneRow(gridRow);
     } else if (list.indexAt(position).isValid()) {
-        Q_EMIT m_host.DataDBLClickOneCell(currentGridCol(), gridRow);
         // Unless the host had an answer of its own, which took the list or the keyboard away.
-        if (alive && list.isVisible() && list.hasFocus() && m_editor.canWrite(currentGridCol()))
+        if (survives(m_host, &InputEvents::DataDBLClickOneCell, currentGridCol(), gridRow) &&
+            list.isVisible() && list.hasFocus() && m_editor.canWrite(currentGridCol()))
             editCurrent();
     }
 }

@@ -119,7 +119,6 @@ bool ShowFullScreen(QWidget &control, Session &session, GridParts &parts, const 
 {
     if (!session.result().hasRecords())
         return false;
-    const auto alive = session.shared_from_this();
     if (session.window().isSingleRecordShown())
         session.window().showAllRecords();
     const GridToolbar &toolbar = *parts.Toolbar1;

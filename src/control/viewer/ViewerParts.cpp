@@ -48,7 +48,6 @@ ViewerParts::ViewerParts(QDialog &window)
     // Enter belongs to the page box and must not press a button beside it.
     cmdPgae->setAutoDefault(false);
     cmdClose->setAutoDefault(false);
-    QObject::connect(txtPage, &QLineEdit::returnPressed, cmdPgae, &QPushButton::click);
 }
 
 void ViewerParts::nameParts()

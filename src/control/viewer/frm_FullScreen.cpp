@@ -4,12 +4,10 @@
 #include "ado/Recordset.h"
 #include "control/input/EndKeys.h"
 #include "control/input/MenuKey.h"
-#include "control/parts/ColumnMenu.h"
 #include "control/parts/DialogQuestions.h"
 #include "control/parts/HistoryMenu.h"
-#include "control/parts/PopupMenu.h"
 #include "control/parts/ResultFinder.h"
-#include "control/parts/lines/FilterBar.h"
+#include "control/parts/WindowCommands.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "control/viewer/ViewerTexts.h"
 #include "forms/Contrast.h"
@@ -19,7 +17,6 @@
 #include "session/history/SharedHistory.h"
 #include "session/layout/ShownColumns.h"
 #include "session/pages/Pages.h"
-#include "session/statement/ShownConditions.h"
 #include "session/statement/ShownStatement.h"
 
 #include <QtGui/QKeyEvent>
@@ -64,10 +61,12 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
       m_window(*this, m_parts),
       m_session(std::make_shared<Session>(m_window, *m_questions, m_noHost, viewerRules, nullptr,
                                           std::move(host.open))),
-      m_menu(new PopupMenu(*this, PopupMenu::ofViewer, *m_parts.Toolbar1, *m_session)),
-      m_columnMenu(std::make_unique<ColumnMenu>(
-          *this, *m_parts.Toolbar1, *m_parts.vsfgShowData, *m_session,
-          [this](const ColumnCommand &command, int col) { m_session->runOnColumn(command, col); })),
+      m_commands(std::make_unique<WindowCommands>(
+          *this, PopupMenu::ofViewer,
+          WindowCommands::Parts{*m_parts.Toolbar1, *m_parts.vsfgShowData, *m_parts.conditions,
+                                *m_parts.txtPage, *m_parts.cmdPgae},
+          *m_session)),
+      m_menu(&m_commands->menu()),
       m_finder(std::make_unique<ResultFinder>(*m_session, *m_parts.vsfgShowData, *m_parts.find))
 {
     makeHintsReadable(*this);
@@ -78,18 +77,7 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
     setObjectName(u"frm_FullScreen"_s);
     setWindowTitle(ViewerTexts::Title);
     fillScreen();
-    addActions(m_parts.Toolbar1->actions()); // so that their shortcuts work wherever the keyboard is
-    connect(m_parts.Toolbar1, &GridToolbar::buttonClicked, this,
-            [this](const QString &key) { m_session->run(key); });
-    connect(m_parts.cmdPgae, &QPushButton::clicked, this,
-            [this] { m_session->pages().goToTypedPage(m_parts.txtPage->text()); });
-    connect(m_parts.conditions, &FilterBar::removeWanted, this, [this](int condition) {
-        m_session->perform([&] { removeCondition(*m_session, static_cast<std::size_t>(condition)); });
-        m_parts.vsfgShowData->setFocus();
-    });
     connect(m_parts.cmdClose, &QPushButton::clicked, this, &QDialog::accept);
-    connect(m_menu, &PopupMenu::chosen, this,
-            [this](const QString &key) { m_session->run(key, ChosenBy::MenuItem); });
     // Its items depend on the cell that it was opened on, their shortcuts don't.
     connect(m_menu, &QMenu::aboutToHide, this, [this] { m_menu->refresh(); });
     QAction &back = m_menu->item(backIndex);
@@ -214,10 +202,8 @@ bool frm_FullScreen::eventFilter(QObject *watched, QEvent *event)
                event->type() == QEvent::MouseButtonRelease) {
         const auto &mouse = *static_cast<QMouseEvent *>(event);
         const int col = grid.ColumnOfHeadingAt(mouse.position().toPoint());
-        if (mouse.button() == Qt::RightButton && col > 0 && m_session->result().hasRecords()) {
-            m_columnMenu->addTo(*m_menu, col);
-            popUp(mouse.globalPosition().toPoint(), false);
-        }
+        if (mouse.button() == Qt::RightButton && col > 0)
+            popUp(mouse.globalPosition().toPoint(), false, col);
     } else if (watched == &grid && event->type() == QEvent::KeyPress) {
         if (isMenuKey(*static_cast<QKeyEvent *>(event))) {
             popUp(menuPlace(grid), grid.Row() > 0);
@@ -229,13 +215,12 @@ bool frm_FullScreen::eventFilter(QObject *watched, QEvent *event)
     return QDialog::eventFilter(watched, event);
 }
 
-void frm_FullScreen::popUp(const QPoint &globalPosition, bool isOnCell)
+void frm_FullScreen::popUp(const QPoint &globalPosition, bool isOnCell, int col)
 {
     m_session->pages().updateRecordPosition();
     if (!m_session->result().hasRecords())
         return;
-    m_menu->refresh(isOnCell && !m_parts.vsfgShowData->Text().isEmpty());
-    m_menu->popup(globalPosition);
+    m_commands->menuFor(isOnCell && !m_parts.vsfgShowData->Text().isEmpty(), col).popup(globalPosition);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -13,10 +13,10 @@
 
 namespace KOVAVSFDataGridLib {
 
-class ColumnMenu;
 class PopupMenu;
 class ResultFinder;
 class StatementTrail;
+class WindowCommands;
 class clsFilterManagement;
 
 // What the viewer asks of the control that opened it.
@@ -73,15 +73,15 @@ protected:
 
 private:
     void fillScreen();
-    void popUp(const QPoint &globalPosition, bool isOnCell);
+    void popUp(const QPoint &globalPosition, bool isOnCell, int col = 0);
 
     HostEvents m_noHost; // which hears of everything when the user has come back
     const std::unique_ptr<Questions> m_questions;
     const ViewerParts m_parts;
     ViewerWindow m_window;
     const std::shared_ptr<Session> m_session;
+    const std::unique_ptr<WindowCommands> m_commands;
     PopupMenu *m_menu;
-    const std::unique_ptr<ColumnMenu> m_columnMenu;
     const std::unique_ptr<ResultFinder> m_finder;
 };
 

@@ -61,7 +61,6 @@ void EditedRecord::saveChanges()
 
 bool EditedRecord::commitEdit()
 {
-    const auto alive = m_session.shared_from_this();
     const ResultWatch watch(m_session);
     const std::optional<QString> failure = m_session.window().commitEdit();
     if (!failure)
@@ -103,7 +102,6 @@ bool EditedRecord::save()
 {
     if (m_session.shared.isWaiting)
         return false;
-    const auto alive = m_session.shared_from_this();
     const ResultWatch watch(m_session);
     if (!commitEdit())
         return false;
@@ -121,7 +119,6 @@ bool EditedRecord::leaveResult()
 {
     if (m_session.shared.isWaiting) // for what is done to this very result
         return false;
-    const auto alive = m_session.shared_from_this();
     const ResultWatch watch(m_session);
     for (;;) {
         std::optional<Failure> failure;
@@ -145,7 +142,6 @@ bool EditedRecord::leaveResult()
 
 std::optional<QString> EditedRecord::saveSilently()
 {
-    const auto alive = m_session.shared_from_this();
     if (std::optional<QString> refused = m_session.window().commitEdit())
         return refused;
     const std::optional<Failure> failure = trySave();

@@ -59,7 +59,6 @@ QString readAgain(ADODB::Recordset &recordset)
 
 void EditedRecord::showNewValues()
 {
-    const auto alive = m_session.shared_from_this();
     const ResultWatch watch(m_session);
     if (!commitEdit())
         return;

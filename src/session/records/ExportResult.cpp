@@ -94,7 +94,6 @@ ExportAnswer exportAnswerFrom(const QString &file, const QString &options)
 
 bool exportResult(Session &session, const ExportAnswer &what)
 {
-    const auto alive = session.shared_from_this();
     const std::shared_ptr<ADODB::Recordset> recordset = session.result().recordset();
     const RecordRange range =
         what.isMarkedOnly ? markedRecords(session) : RecordRange{1, recordset->RecordCount()};

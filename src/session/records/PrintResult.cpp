@@ -31,7 +31,6 @@ PrintRequest printRequestOf(Session &session)
 
 bool printResult(Session &session, const PrintRequest &request, const PrintAnswer &what)
 {
-    const auto alive = session.shared_from_this();
     const std::shared_ptr<ADODB::Recordset> recordset = session.result().recordset();
     const RecordRange &range = what.isMarkedOnly ? request.marked : request.all;
     try {

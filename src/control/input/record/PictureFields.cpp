@@ -6,11 +6,12 @@
 #include "control/parts/GridTexts.h"
 #include "forms/Messages.h"
 #include "forms/value/PicturePane.h"
+#include "session/Questions.h"
 #include "session/ResultWatch.h"
 #include "session/Session.h"
+#include "session/SessionWindow.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QPointer>
 #include <QtWidgets/QFileDialog>
 
 namespace KOVAVSFDataGridLib {
@@ -57,17 +58,14 @@ void PictureFields::clear(int field)
 
 void PictureFields::write(int field, const QVariant &value)
 {
-    const QPointer<PictureFields> alive(this);
+    const auto session = m_session.shared_from_this(); // the host, notified, may destroy the control
     try {
-        const ADODB::Notifications::Hold hold(m_session.notifications());
-        m_session.result().recordset()->Fields().Item(field).PutValue(value);
+        const ADODB::Notifications::Hold hold(session->notifications());
+        session->result().recordset()->Fields().Item(field).PutValue(value);
     } catch (const ADODB::Error &error) {
-        if (alive)
-            Messages::show(&m_window, GridTexts::ValueRefusedPrefix() + error.Description());
-        return;
+        return session->questions().show(GridTexts::ValueRefusedPrefix() + error.Description());
     }
-    if (alive)
-        Q_EMIT written();
+    session->window().refreshSingleRecord();
 }
 
 } // namespace KOVAVSFDataGridLib

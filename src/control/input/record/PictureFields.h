@@ -28,9 +28,6 @@ public:
     void replace(int field);
     void clear(int field);
 
-Q_SIGNALS:
-    void written();
-
 private:
     void readFile(int field, const QString &file);
     void write(int field, const QVariant &value);

@@ -1,0 +1,64 @@
+#include "control/parts/WindowCommands.h"
+
+#include "control/parts/Survives.h"
+#include "control/parts/lines/FilterBar.h"
+#include "control/parts/toolbar/GridToolbar.h"
+#include "grid/FlexGrid.h"
+#include "session/pages/Pages.h"
+#include "session/statement/ShownConditions.h"
+
+#include <QtGui/QAction>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QLineEdit>
+
+namespace KOVAVSFDataGridLib {
+
+WindowCommands::WindowCommands(QWidget &window, const PopupMenu::Kind &kind, const Parts &parts,
+                               Session &session)
+    : m_parts(parts),
+      m_session(session),
+      m_menu(*new PopupMenu(window, kind, parts.toolbar, session)),
+      m_columnMenu(window, parts.toolbar, parts.grid, session, [this](const ColumnCommand &command, int col) {
+          if (m_parts.toolbar.isEnabled())
+              m_session.runOnColumn(command, col);
+      })
+{
+    for (QAction *action : parts.toolbar.actions()) {
+        if (!action->shortcut().isEmpty())
+            window.addAction(action); // so that it works wherever in the window the keyboard is
+    }
+    connect(&parts.toolbar, &GridToolbar::buttonClicked, this, [this](const QString &key) { run(key); });
+    connect(&m_menu, &PopupMenu::chosen, this, [this](const QString &key) { run(key, ChosenBy::MenuItem); });
+    connect(&parts.conditions, &FilterBar::removeWanted, this, &WindowCommands::removeCondition);
+    connect(&parts.goToPage, &QAbstractButton::clicked, this,
+            [this] { m_session.pages().goToTypedPage(m_parts.page.text()); });
+    connect(&parts.page, &QLineEdit::returnPressed, &parts.goToPage, &QAbstractButton::click);
+}
+
+PopupMenu &WindowCommands::menuFor(bool hasText, int col)
+{
+    m_menu.refresh(hasText);
+    if (col > 0)
+        m_columnMenu.addTo(m_menu, col);
+    return m_menu;
+}
+
+void WindowCommands::run(const QString &key, ChosenBy by)
+{
+    if (m_parts.toolbar.isEnabled()) // which a shortcut doesn't know
+        m_session.run(key, by);
+}
+
+void WindowCommands::removeCondition(int condition)
+{
+    if (!m_parts.toolbar.isEnabled())
+        return;
+    const auto remove = [&](WindowCommands &) {
+        m_session.perform(
+            [&] { KOVAVSFDataGridLib::removeCondition(m_session, static_cast<std::size_t>(condition)); });
+    };
+    if (survives(*this, remove))
+        m_parts.grid.setFocus(); // the button that had it is gone
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "control/parts/ColumnMenu.h"
+#include "control/parts/PopupMenu.h"
+#include "session/Session.h"
+
+#include <QtCore/QObject>
+
+class QAbstractButton;
+class QLineEdit;
+
+namespace KOVAVSFDataGridLib {
+
+class FilterBar;
+class GridToolbar;
+class VSFlexGrid;
+
+// Runs a session's commands as its user asks for them in a window: by toolbar, menu, shortcut, page box, the
+// menu of a column and the line of conditions. Nothing runs while the toolbar is disabled.
+class WindowCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Parts
+    {
+        GridToolbar &toolbar;
+        VSFlexGrid &grid;
+        FilterBar &conditions;
+        QLineEdit &page;
+        QAbstractButton &goToPage;
+    };
+
+    // All must outlive this object. `window` owns the menus and gets the shortcuts.
+    WindowCommands(QWidget &window, const PopupMenu::Kind &kind, const Parts &parts, Session &session);
+
+    PopupMenu &menu() { return m_menu; }
+    QMenu &columnMenu() const { return m_columnMenu.menu(); }
+    // The menu in step with what is shown; with the entries of a column at its end, if one is given.
+    // `hasText` says whether the current cell has one.
+    PopupMenu &menuFor(bool hasText, int col = 0);
+
+    void run(const QString &key, ChosenBy by = ChosenBy::Button);
+
+private:
+    void removeCondition(int condition);
+
+    const Parts m_parts;
+    Session &m_session;
+    PopupMenu &m_menu; // the window's
+    ColumnMenu m_columnMenu;
+};
+
+} // namespace KOVAVSFDataGridLib
