@@ -20,8 +20,8 @@
 #include "session/commands/CommandKeys.h"
 #include "session/editing/EditedRecord.h"
 #include "session/pages/Pages.h"
-#include "session/statement/ShownStatement.h"
 #include "session/statement/LoadedTable.h"
+#include "session/statement/ShownStatement.h"
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
