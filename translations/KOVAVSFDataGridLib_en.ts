@@ -24,7 +24,7 @@
         <translation>Part %1 of the connection string has text after the closing quote.</translation>
     </message>
     <message>
-        <source>不认识连接字符串中的数据库提供程序“%1”，可用的有：%2。</source>
+        <source>无法识别连接字符串中的数据库提供程序“%1”，可用的有：%2。</source>
         <translation>The connection string names an unknown database provider &quot;%1&quot;. Available are: %2.</translation>
     </message>
     <message>
@@ -72,7 +72,7 @@
         <translation>This Access database is encrypted and cannot be read on this system: %1</translation>
     </message>
     <message>
-        <source>Access 查询“%1”需要参数，或者用到了此处没有的功能，不能运行。</source>
+        <source>Access 查询“%1”需要参数，或者使用了此处不支持的功能，无法运行。</source>
         <translation>The Access query &quot;%1&quot; needs parameters or uses a feature that is not available here. It cannot be run.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Cannot determine from which tables DISTINCTROW removes duplicates. Write DISTINCT instead, or put the table name before each field.</translation>
     </message>
     <message>
-        <source>该 Access 数据库的密码不正确或者没有给出：%1</source>
+        <source>该 Access 数据库的密码不正确，或者没有提供密码：%1</source>
         <translation>The password of this Access database is wrong or missing: %1</translation>
     </message>
     <message>
@@ -152,7 +152,7 @@
         <translation>The database server did not finish the operation within the time limit. (%1)</translation>
     </message>
     <message>
-        <source>限定为 %1 秒</source>
+        <source>时限为 %1 秒</source>
         <translation>the limit is %1 s</translation>
     </message>
     <message>
@@ -176,7 +176,7 @@
         <translation>Only one SQL statement can be opened at a time, and something follows the first one. Nothing was run.</translation>
     </message>
     <message>
-        <source>SQL 语句的第 %1 个字符是控制字符，或者使注释、文字的结尾不明确（编码 U+%2）；没有执行任何操作。</source>
+        <source>SQL 语句的第 %1 个字符是控制字符，或者使注释或字符串的结尾不明确（编码 U+%2）；没有执行任何操作。</source>
         <translation>Character %1 of the SQL statement is a control character, or makes it unclear where a comment or a text ends (code U+%2). Nothing was run.</translation>
     </message>
     <message>
@@ -184,8 +184,8 @@
         <translation>Only statements that return records can be opened. This statement would change the database or returns no records; it was not run.</translation>
     </message>
     <message>
-        <source>SQL 语句含有没有值的参数“%1”。</source>
-        <translation>The SQL statement contains the parameter &quot;%1&quot;, which has no value.</translation>
+        <source>SQL 语句中的参数“%1”没有值。</source>
+        <translation>The parameter &quot;%1&quot; in the SQL statement has no value.</translation>
     </message>
     <message>
         <source>操作已取消。</source>
@@ -348,7 +348,7 @@
         <translation>Nothing has been entered in the new record yet. Adding another empty row was cancelled.</translation>
     </message>
     <message>
-        <source>新记录必须填写关键字段 %1，没有保存任何更改。</source>
+        <source>新记录必须填写主键字段 %1，没有保存任何更改。</source>
         <translation>A new record needs a value for the key field %1. No changes were saved.</translation>
     </message>
     <message>
@@ -537,7 +537,7 @@
         <translation>Filter &amp;by Selected Cell</translation>
     </message>
     <message>
-        <source>按所选内容筛选(&amp;F)</source>
+        <source>按选定内容筛选(&amp;F)</source>
         <translation>&amp;Filter by Selected Cell</translation>
     </message>
     <message>
@@ -589,7 +589,7 @@
         <translation>When pressed, filters within the current result; otherwise filters the original result</translation>
     </message>
     <message>
-        <source>查找显示的内容(&amp;G)…</source>
+        <source>在表格中查找(&amp;G)…</source>
         <translation>Find in &amp;Grid…</translation>
     </message>
     <message>
@@ -614,7 +614,7 @@
     </message>
     <message>
         <source>历史(&amp;Z)…</source>
-        <translation>H&amp;istory…</translation>
+        <translation>&amp;Query History…</translation>
     </message>
     <message>
         <source>首页</source>
@@ -665,7 +665,7 @@
         <translation>Show So&amp;me Fields</translation>
     </message>
     <message>
-        <source>打印(&amp;P)…</source>
+        <source>打印(&amp;I)…</source>
         <translation>&amp;Print…</translation>
     </message>
     <message>
@@ -737,16 +737,12 @@
         <translation>Whole Table</translation>
     </message>
     <message>
-        <source>去掉筛选条件，显示整个表</source>
+        <source>清除筛选条件，显示整个表</source>
         <translation>Remove the filter and show the whole table</translation>
     </message>
     <message>
         <source>显示整表(&amp;T)</source>
         <translation>Whole &amp;Table</translation>
-    </message>
-    <message>
-        <source>显示整个表(&amp;T)</source>
-        <translation>Show Whole &amp;Table</translation>
     </message>
     <message>
         <source>压缩显示</source>
@@ -773,12 +769,12 @@
         <translation>Cop&amp;y as New Record</translation>
     </message>
     <message>
-        <source>打开链接(&amp;K)</source>
-        <translation>Open Lin&amp;k</translation>
+        <source>打开链接(&amp;L)</source>
+        <translation>Open L&amp;ink</translation>
     </message>
     <message>
         <source>标出空值(&amp;B)</source>
-        <translation>Mark N&amp;ulls</translation>
+        <translation>Mar&amp;k Nulls</translation>
     </message>
 </context>
 <context>
@@ -1083,8 +1079,8 @@
         <translation>%1 has repeated values</translation>
     </message>
     <message>
-        <source>并非“%1”</source>
-        <translation>not &quot;%1&quot;</translation>
+        <source>并非（%1）</source>
+        <translation>not (%1)</translation>
     </message>
     <message>
         <source>（也包括空值）</source>
@@ -1111,20 +1107,20 @@
         <translation>Number</translation>
     </message>
     <message>
-        <source>例如 2024-01-31、2024-03 或 本月</source>
-        <translation>For example 2024-01-31, 2024-03 or this month</translation>
+        <source>例如 2024-01-31、2024-03 或“本月”</source>
+        <translation>For example 2024-01-31, 2024-03 or &quot;this month&quot;</translation>
     </message>
     <message>
         <source>例如 08:30</source>
         <translation>For example 08:30</translation>
     </message>
     <message>
-        <source>例如 2024-01-31、2024-01-31 08:30 或 本月</source>
-        <translation>For example 2024-01-31, 2024-01-31 08:30 or this month</translation>
+        <source>例如 2024-01-31、2024-01-31 08:30 或“本月”</source>
+        <translation>For example 2024-01-31, 2024-01-31 08:30 or &quot;this month&quot;</translation>
     </message>
     <message>
-        <source>是 或 否</source>
-        <translation>yes or no</translation>
+        <source>“是”或“否”</source>
+        <translation>&quot;yes&quot; or &quot;no&quot;</translation>
     </message>
     <message>
         <source>多个值用逗号分隔</source>
@@ -1371,10 +1367,6 @@
         <translation>%1-%2-%3</translation>
     </message>
     <message>
-        <source>并非（%1）</source>
-        <translation>not (%1)</translation>
-    </message>
-    <message>
         <source>选择“%1”的值</source>
         <translation>Values of &quot;%1&quot;</translation>
     </message>
@@ -1411,7 +1403,7 @@
         <translation>Add Brac&amp;kets</translation>
     </message>
     <message>
-        <source>没有括号时先算“并且”。按此加上括号，条件的意思不变。</source>
+        <source>没有括号时先算“并且”。单击可加上括号，条件的含义不变。</source>
         <translation>Without brackets, &quot;and&quot; takes precedence over &quot;or&quot;. Adds brackets that show this; the meaning of the condition does not change.</translation>
     </message>
     <message>
@@ -1455,15 +1447,15 @@
         <translation>Put this condition into a new group</translation>
     </message>
     <message>
-        <source>已存的筛选(&amp;M)</source>
+        <source>已保存的筛选(&amp;M)</source>
         <translation>Sa&amp;ved Filters</translation>
     </message>
     <message>
-        <source>取出、保存、重命名或删除该表的筛选条件</source>
-        <translation>Recall, save, rename or delete the filters of this table</translation>
+        <source>使用、保存、重命名或删除该表的筛选条件</source>
+        <translation>Use, save, rename or delete the filters of this table</translation>
     </message>
     <message>
-        <source>最近用过的(&amp;L)</source>
+        <source>最近使用(&amp;L)</source>
         <translation>&amp;Recently Used</translation>
     </message>
     <message>
@@ -1503,7 +1495,7 @@
         <translation>Delete the filter &quot;%1&quot;?</translation>
     </message>
     <message>
-        <source>该表已存的筛选太多，请先删除一些。</source>
+        <source>该表已保存的筛选太多，请先删除一些。</source>
         <translation>This table has too many saved filters. Delete some first.</translation>
     </message>
     <message>
@@ -1533,6 +1525,18 @@
     <message>
         <source>记录太多，短时间内数不完。</source>
         <translation>There are too many records to count them in a moment.</translation>
+    </message>
+    <message>
+        <source>%1是%2之一</source>
+        <translation>%1 is one of %2</translation>
+    </message>
+    <message>
+        <source>%1不是%2之一</source>
+        <translation>%1 is not one of %2</translation>
+    </message>
+    <message>
+        <source>%1%2%3和%4之间</source>
+        <translation>%1 %2 %3 and %4</translation>
     </message>
 </context>
 <context>
@@ -1782,8 +1786,8 @@
         <translation>Column: %1</translation>
     </message>
     <message>
-        <source>用逗号分隔千位(&amp;T)</source>
-        <translation>Group &amp;thousands with commas</translation>
+        <source>使用千位分隔符(&amp;T)</source>
+        <translation>Use &amp;thousands separators</translation>
     </message>
     <message>
         <source>小数位数(&amp;D):</source>
@@ -1913,11 +1917,11 @@
         <translation>Value</translation>
     </message>
     <message>
-        <source>此内容只读：它不直接来自一个表中可以修改的字段，或者无法唯一确定所在的记录。</source>
+        <source>此内容只读：它不是直接取自某个表中可以修改的字段，或者无法唯一确定所在的记录。</source>
         <translation>This value is read-only: it does not come directly from a field of one table that can be changed, or its record cannot be identified with certainty.</translation>
     </message>
     <message>
-        <source>按 Ctrl+Enter 换行，按 Enter 接受</source>
+        <source>按 Ctrl+Enter 换行，按 Enter 确认</source>
         <translation>Ctrl+Enter starts a new line, Enter accepts</translation>
     </message>
     <message>
@@ -2037,8 +2041,8 @@
         <translation>Data menu</translation>
     </message>
     <message>
-        <source>筛选条件“%1”</source>
-        <translation>Filtered by &quot;%1&quot;</translation>
+        <source>筛选条件：%1</source>
+        <translation>Filtered by: %1</translation>
     </message>
     <message>
         <source>；</source>
@@ -2057,11 +2061,11 @@
         <translation>Copy as</translation>
     </message>
     <message>
-        <source>第 %1 升序</source>
+        <source>第 %1 排序字段，升序</source>
         <translation>ascending, number %1</translation>
     </message>
     <message>
-        <source>第 %1 降序</source>
+        <source>第 %1 排序字段，降序</source>
         <translation>descending, number %1</translation>
     </message>
     <message>
@@ -2077,7 +2081,7 @@
         <translation>Filter conditions</translation>
     </message>
     <message>
-        <source>去掉条件：%1</source>
+        <source>移除条件：%1</source>
         <translation>Remove condition: %1</translation>
     </message>
     <message>
@@ -2085,7 +2089,7 @@
         <translation>%1 more</translation>
     </message>
     <message>
-        <source>查找显示的内容</source>
+        <source>在表格中查找</source>
         <translation>Find in the grid</translation>
     </message>
     <message>
@@ -2101,12 +2105,12 @@
         <translation>All columns</translation>
     </message>
     <message>
-        <source>整格相同(&amp;H)</source>
-        <translation>W&amp;hole cell</translation>
+        <source>单元格匹配(&amp;L)</source>
+        <translation>Who&amp;le cell</translation>
     </message>
     <message>
-        <source>区分大小写(&amp;E)</source>
-        <translation>Match cas&amp;e</translation>
+        <source>区分大小写(&amp;A)</source>
+        <translation>M&amp;atch case</translation>
     </message>
     <message>
         <source>下一处（Enter）</source>
@@ -2133,12 +2137,12 @@
         <translation>%1 of %2</translation>
     </message>
     <message>
-        <source>（回到开头）</source>
-        <translation> (from the start)</translation>
+        <source>（已从开头继续）</source>
+        <translation> (continued from the start)</translation>
     </message>
     <message>
-        <source>（回到末尾）</source>
-        <translation> (from the end)</translation>
+        <source>（已从末尾继续）</source>
+        <translation> (continued from the end)</translation>
     </message>
     <message>
         <source>正在查找… %1%</source>
@@ -2153,7 +2157,7 @@
         <translation>%1 records  %2</translation>
     </message>
     <message>
-        <source>（没有历史）</source>
+        <source>（没有历史记录）</source>
         <translation>(no history)</translation>
     </message>
     <message>
@@ -2233,7 +2237,7 @@
         <translation>Pictures</translation>
     </message>
     <message>
-        <source>同时显示图片字段（Ctrl+Shift+I）；双击图片或按 Enter 从文件替换，Ctrl+0 清空</source>
+        <source>同时显示图片字段（Ctrl+Shift+I）；双击图片或按 Enter 可用文件替换，按 Ctrl+0 清空</source>
         <translation>Also list picture fields (Ctrl+Shift+I). Double-click a picture or press Enter to replace it with a file; Ctrl+0 removes it.</translation>
     </message>
     <message>
@@ -2421,7 +2425,7 @@
         <translation>Cannot determine which table the field &quot;%1&quot; belongs to. Name the fields in the statement instead of using &quot;*&quot; first.</translation>
     </message>
     <message>
-        <source>查询结果中有没有名称的字段，请先在语句中用 AS 给它命名。</source>
+        <source>查询结果中有字段未命名，请先在语句中用 AS 为它命名。</source>
         <translation>The result has a field without a name. Name it with AS in the statement first.</translation>
     </message>
     <message>
@@ -2433,19 +2437,19 @@
         <translation>&quot;%1&quot;</translation>
     </message>
     <message>
-        <source>包含 %1</source>
+        <source>包含%1</source>
         <translation>contains %1</translation>
     </message>
     <message>
-        <source>开头是 %1</source>
+        <source>开头是%1</source>
         <translation>begins with %1</translation>
     </message>
     <message>
-        <source>结尾是 %1</source>
+        <source>结尾是%1</source>
         <translation>ends with %1</translation>
     </message>
     <message>
-        <source>在列表中 %1</source>
+        <source>是 %1 之一</source>
         <translation>in list %1</translation>
     </message>
     <message>
@@ -2461,11 +2465,11 @@
         <translation>one of %1 fields %2</translation>
     </message>
     <message>
-        <source> 并且 </source>
+        <source>，并且 </source>
         <translation> and </translation>
     </message>
     <message>
-        <source> 或者 </source>
+        <source>，或者 </source>
         <translation> or </translation>
     </message>
     <message>
@@ -2620,7 +2624,7 @@ Row %1: %2 = %3</translation>
     </message>
     <message>
         <source>返回(&amp;X)</source>
-        <translation>&amp;Close</translation>
+        <translation>E&amp;xit Full Screen</translation>
     </message>
     <message>
         <source>退出全屏（Esc 或 F11）</source>

@@ -72,8 +72,8 @@ records to standard output.</translation>
         <translation>&amp;Connection:</translation>
     </message>
     <message>
-        <source>最近(&amp;R)</source>
-        <translation>&amp;Recent</translation>
+        <source>最近(&amp;N)</source>
+        <translation>Rece&amp;nt</translation>
     </message>
     <message>
         <source>（没有）</source>

@@ -41,7 +41,7 @@ public:
 
     // The form
     static QString Connection() { return tr("连接(&C):"); }
-    static QString Recent() { return tr("最近(&R)"); }
+    static QString Recent() { return tr("最近(&N)"); }
     static QString NoRecent() { return tr("（没有）"); }
     static QString ClearRecent() { return tr("清除(&L)"); }
     static QString DbType() { return tr("类型(&D):"); }

@@ -16,7 +16,7 @@ inline constexpr Text connectionClosed = tr("连接没有打开或已经关闭�
 inline constexpr Text connectionNoEquals = tr("连接字符串的第 %1 段缺少关键字或等号。");
 inline constexpr Text connectionOpenQuote = tr("连接字符串的第 %1 段缺少右引号或右括号。");
 inline constexpr Text connectionAfterQuote = tr("连接字符串的第 %1 段在右引号之后还有内容。");
-inline constexpr Text unknownProvider = tr("不认识连接字符串中的数据库提供程序“%1”，可用的有：%2。");
+inline constexpr Text unknownProvider = tr("无法识别连接字符串中的数据库提供程序“%1”，可用的有：%2。");
 inline constexpr Text noProvider =
     tr("连接字符串没有说明要打开的数据库（需要 Provider 或 Data Source），可用的提供程序有：%1。");
 
@@ -31,10 +31,10 @@ inline constexpr Text notAnAccessFile = tr("文件不是 Access 数据库：%1")
 inline constexpr Text accessTooNew = tr("该 Access 数据库的版本太新，无法读取：%1");
 inline constexpr Text accessDamaged = tr("Access 数据库已损坏或者不完整，无法读取：%1");
 inline constexpr Text accessEncrypted = tr("该 Access 数据库已加密，在此系统上无法读取：%1");
-inline constexpr Text accessQuery = tr("Access 查询“%1”需要参数，或者用到了此处没有的功能，不能运行。");
+inline constexpr Text accessQuery = tr("Access 查询“%1”需要参数，或者使用了此处不支持的功能，无法运行。");
 inline constexpr Text accessDistinctRow =
     tr("无法确定 DISTINCTROW 要去掉哪些表的重复记录；请写成 DISTINCT，或在每个字段前写出表名。");
-inline constexpr Text accessPassword = tr("该 Access 数据库的密码不正确或者没有给出：%1");
+inline constexpr Text accessPassword = tr("该 Access 数据库的密码不正确，或者没有提供密码：%1");
 inline constexpr Text badTimeout = tr("连接字符串中的 Connect Timeout 必须是不小于 0 的秒数。");
 
 // Database servers
@@ -56,7 +56,7 @@ inline constexpr Text connectTimedOut = tr("连接数据库服务器超时，请
 inline constexpr Text authenticationFailed = tr("数据库服务器拒绝登录，请检查用户名和密码。（%1）");
 inline constexpr Text connectionLost = tr("与数据库服务器的连接已断开，请在服务器恢复后重试。（%1）");
 inline constexpr Text timedOut = tr("数据库服务器没有在限定时间内完成操作。（%1）");
-inline constexpr Text secondsLimit = tr("限定为 %1 秒");
+inline constexpr Text secondsLimit = tr("时限为 %1 秒");
 inline constexpr Text permissionDenied = tr("没有执行此操作的数据库权限。（%1）");
 inline constexpr Text readOnlyQuery = tr("只能打开返回记录的查询语句；该语句会修改数据库，没有执行。（%1）");
 inline constexpr Text cancelledByServer = tr("数据库服务器中止了操作。（%1）");
@@ -66,10 +66,10 @@ inline constexpr Text emptyStatement = tr("没有可执行的 SQL 语句。");
 inline constexpr Text secondStatement =
     tr("一次只能打开一条 SQL 语句，第一条语句之后还有其他内容；没有执行任何操作。");
 inline constexpr Text strayCharacter =
-    tr("SQL 语句的第 %1 个字符是控制字符，或者使注释、文字的结尾不明确（编码 U+%2）；没有执行任何操作。");
+    tr("SQL 语句的第 %1 个字符是控制字符，或者使注释或字符串的结尾不明确（编码 U+%2）；没有执行任何操作。");
 inline constexpr Text notAQuery =
     tr("只能打开返回记录的查询语句；该语句会修改数据库或不返回记录，没有执行。");
-inline constexpr Text parameterInStatement = tr("SQL 语句含有没有值的参数“%1”。");
+inline constexpr Text parameterInStatement = tr("SQL 语句中的参数“%1”没有值。");
 inline constexpr Text cancelled = tr("操作已取消。");
 inline constexpr Text outOfMemory = tr("内存不足，无法读取全部记录。");
 inline constexpr Text changeOutOfMemory = tr("内存不足，没有保存任何更改。");
@@ -128,7 +128,7 @@ inline constexpr Text readOnlyField = tr("字段“%1”是计算得出的，不
 inline constexpr Text badValue = tr("值“%1”不适合字段“%2”的数据类型。");
 inline constexpr Text binaryValue = tr("二进制数据");
 inline constexpr Text emptyRecordAgain = tr("新记录还没有填写任何内容，再次插入空行的操作已取消。");
-inline constexpr Text newRowWithoutKey = tr("新记录必须填写关键字段 %1，没有保存任何更改。");
+inline constexpr Text newRowWithoutKey = tr("新记录必须填写主键字段 %1，没有保存任何更改。");
 inline constexpr Text rowGone = tr("记录已被其他用户修改或删除，没有保存任何更改，请刷新后重试。");
 inline constexpr Text rowChanged = tr("记录已被其他用户修改，没有保存任何更改，请查看新内容后重试。");
 inline constexpr Text rowDeleted = tr("记录已被其他用户删除，无法重新读取。");

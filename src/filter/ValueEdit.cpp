@@ -3,6 +3,7 @@
 #include "filter/FilterTexts.h"
 #include "filter/conditions/FilterDays.h"
 #include "filter/conditions/FilterValue.h"
+#include "language/GroupedNumber.h"
 #include "language/Language.h"
 
 #include <QtCore/QRegularExpression>
@@ -241,7 +242,8 @@ void ValueEdit::showValues(const OfferedValues &values)
         return;
     QString end;
     if (values.hasMore)
-        end = values.left > 0 ? FilterTexts::MoreValuesLeft.arg(values.left) : FilterTexts::MoreValues;
+        end =
+            values.left > 0 ? FilterTexts::MoreValuesLeft.arg(grouped(values.left)) : FilterTexts::MoreValues;
     if (values.values.isEmpty() && m_list)
         m_list->popup()->hide();
     offerList({.values = values.values, .end = end});

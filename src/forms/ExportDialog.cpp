@@ -4,6 +4,7 @@
 #include "forms/FormTexts.h"
 #include "forms/Messages.h"
 #include "forms/widgets/TextWidth.h"
+#include "language/GroupedNumber.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -65,10 +66,11 @@ ExportDialog::ExportDialog(const Choices &choices, QWidget *parent)
       m_file(named(new QLineEdit, u"txtFile"_s)),
       m_format(named(new QComboBox, u"cmbFormat"_s)),
       m_encoding(named(new QComboBox, u"cmbEncoding"_s)),
-      m_allRecords(
-          named(new QRadioButton(FormTexts::ExportAllRecords.arg(choices.records)), u"optAllRecords"_s)),
-      m_markedRecords(named(new QRadioButton(FormTexts::ExportMarkedRecords.arg(choices.markedRecords)),
-                            u"optMarkedRecords"_s)),
+      m_allRecords(named(new QRadioButton(FormTexts::ExportAllRecords.arg(grouped(choices.records))),
+                         u"optAllRecords"_s)),
+      m_markedRecords(
+          named(new QRadioButton(FormTexts::ExportMarkedRecords.arg(grouped(choices.markedRecords))),
+                u"optMarkedRecords"_s)),
       m_shownColumns(named(new QRadioButton(FormTexts::ExportShownColumns.arg(choices.shownColumns)),
                            u"optShownColumns"_s)),
       m_allColumns(

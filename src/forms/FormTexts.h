@@ -85,7 +85,7 @@ inline constexpr Text TooLongToCopy = tr("内容太长，不能复制；请保�
 // FormatDialog
 inline constexpr Text FormatTitle = tr("显示格式");
 inline constexpr Text FormatOfColumn = tr("列：%1");
-inline constexpr Text Thousands = tr("用逗号分隔千位(&T)");
+inline constexpr Text Thousands = tr("使用千位分隔符(&T)");
 inline constexpr Text Decimals = tr("小数位数(&D):");
 inline constexpr Text DecimalsAsTheyAre = tr("按原样");
 inline constexpr Text ShowAsItIs = tr("按原样（True 和 False）(&A)");

@@ -3,6 +3,7 @@
 #include "ado/Error.h"
 #include "ado/values/FieldText.h"
 #include "ado/values/NumericTypes.h"
+#include "language/GroupedNumber.h"
 #include "print/PrintTexts.h"
 
 #include <QtGui/QFontMetricsF>
@@ -102,7 +103,7 @@ void PageWriter::beginPage()
     m_painter.setFont(m_font);
     const QRectF foot(0, m_device.height() - m_lineHeight, m_device.width(), m_lineHeight);
     m_painter.drawText(foot, Qt::AlignHCenter | Qt::AlignBottom,
-                       PrintTexts::PageOf.arg(m_page).arg(pageCount()));
+                       PrintTexts::PageOf.arg(grouped(m_page), grouped(pageCount())));
     drawHeadings();
 }
 

@@ -3,6 +3,7 @@
 #include "ado/Error.h"
 #include "forms/Contrast.h"
 #include "forms/Messages.h"
+#include "language/GroupedNumber.h"
 #include "print/PdfWriter.h"
 #include "print/PrintOptions.h"
 #include "print/PrintTexts.h"
@@ -90,9 +91,9 @@ void PrintPreview::layOut()
 
 QWidget *PrintPreview::makeChoices()
 {
-    m_records->addItem(PrintTexts::AllRecords.arg(m_choices.records), false);
+    m_records->addItem(PrintTexts::AllRecords.arg(grouped(m_choices.records)), false);
     if (m_choices.markedRecords > 0)
-        m_records->addItem(PrintTexts::MarkedRecords.arg(m_choices.markedRecords), true);
+        m_records->addItem(PrintTexts::MarkedRecords.arg(grouped(m_choices.markedRecords)), true);
     // Who marks several records and prints means these.
     m_records->setCurrentIndex(m_choices.markedRecords > 1 ? 1 : 0);
     m_orientation->addItem(PrintTexts::Portrait, QPageLayout::Portrait);
@@ -200,8 +201,9 @@ void PrintPreview::showPage(int page)
         m_pages->setCurrentPage(page);
     m_previous->setEnabled(page > 1);
     m_next->setEnabled(page < shown);
-    m_place->setText(shown < m_pageCount ? PrintTexts::ShownPageOfFirst.arg(page).arg(m_pageCount).arg(shown)
-                                         : PrintTexts::ShownPage.arg(page).arg(shown));
+    m_place->setText(shown < m_pageCount ? PrintTexts::ShownPageOfFirst.arg(
+                                               grouped(page), grouped(m_pageCount), grouped(shown))
+                                         : PrintTexts::ShownPage.arg(grouped(page), grouped(shown)));
 }
 
 void PrintPreview::print()

@@ -17,23 +17,23 @@ inline constexpr Text NotDerived = tr("该语句不是普通的 SELECT 查询，
 inline constexpr Text EqualNames = tr("查询结果中有多个名为“%1”的字段，请先在语句中用 AS 给它们不同的名称。");
 inline constexpr Text UnknownTable =
     tr("无法确定字段“%1”属于哪个表，请先在语句中写出各字段的名称，不用“*”。");
-inline constexpr Text UnnamedField = tr("查询结果中有没有名称的字段，请先在语句中用 AS 给它命名。");
+inline constexpr Text UnnamedField = tr("查询结果中有字段未命名，请先在语句中用 AS 为它命名。");
 inline constexpr Text TypeNotFiltered = tr("对不起，过滤操作不支持选中内容的数据类型！");
 
 // A condition in words. %1 is the value, where there is one.
 inline constexpr Text QuotedInWords = tr("“%1”");
-inline constexpr Text ContainsInWords = tr("包含 %1");
-inline constexpr Text BeginsInWords = tr("开头是 %1");
-inline constexpr Text EndsInWords = tr("结尾是 %1");
+inline constexpr Text ContainsInWords = tr("包含%1");
+inline constexpr Text BeginsInWords = tr("开头是%1");
+inline constexpr Text EndsInWords = tr("结尾是%1");
 inline const QString EqualsInWords = u"= %1"_s;
 inline constexpr Text BetweenInWords = tr("%1 介于 %2 和 %3");
 inline constexpr Text YearInWords = tr("%1年");
-inline constexpr Text InListInWords = tr("在列表中 %1");
+inline constexpr Text InListInWords = tr("是 %1 之一");
 inline constexpr Text EmptyInWords = tr("为空");
 inline constexpr Text NotEmptyInWords = tr("不为空");
 inline constexpr Text AnyFieldInWords = tr("%1 个字段之一 %2");
-inline constexpr Text AndInWords = tr(" 并且 ");
-inline constexpr Text OrInWords = tr(" 或者 ");
+inline constexpr Text AndInWords = tr("，并且 ");
+inline constexpr Text OrInWords = tr("，或者 ");
 inline constexpr Text NotInWords = tr("不满足 %1");
 inline constexpr Text RepeatedInWords = tr("的值有重复");
 inline constexpr Text LargestInWords = tr("是最大的 %1 个之一");

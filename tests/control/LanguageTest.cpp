@@ -211,7 +211,7 @@ TEST_F(Language, OfConditionsInForceFollows)
     });
     ASSERT_TRUE(loadOrders());
     button(u"Filter"_s)->trigger();
-    EXPECT_TRUE(textsOf(grid).contains(u"Name 包含 “i”  ✕"_s)) << qPrintable(textsOf(grid).join(u'\n'));
+    EXPECT_TRUE(textsOf(grid).contains(u"Name 包含“i”  ✕"_s)) << qPrintable(textsOf(grid).join(u'\n'));
     speak(u"en"_s);
     EXPECT_TRUE(textsOf(grid).contains(u"Name contains \"i\"  ✕"_s));
     EXPECT_TRUE(textsOf(grid).contains(u"Remove condition: Sold is not empty"_s));

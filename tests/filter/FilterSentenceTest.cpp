@@ -58,7 +58,7 @@ TEST(FilterSentence, SaysEachOperator)
     EXPECT_EQ(sentence({term(u"城市"_s, text, Equals, u"北京"_s)}), "【城市】等于“北京”。");
     EXPECT_EQ(sentence({term(u"城市"_s, text, NotContains, u"京"_s)}), "【城市】不包含“京”（也包括空值）。");
     EXPECT_EQ(sentence({term(u"城市"_s, text, IsNotEmpty)}), "【城市】不为空。");
-    EXPECT_EQ(sentence({term(u"城市"_s, text, InList, u"甲，乙"_s)}), "【城市】是 “甲”、“乙” 之一。");
+    EXPECT_EQ(sentence({term(u"城市"_s, text, InList, u"甲，乙"_s)}), "【城市】是“甲”、“乙”之一。");
     EXPECT_EQ(sentence({term(u"金额"_s, number, NotInList, u"1 2,3"_s)}),
               "【金额】不是 1 2、3 之一（也包括空值）。");
     EXPECT_EQ(sentence({term(u"金额"_s, number, Between, u"1"_s, u"2"_s)}), "【金额】介于 1 和 2 之间。");
@@ -71,12 +71,12 @@ TEST(FilterSentence, SaysWhetherARowIsNegatedAndTakesRecordsWithoutValues)
 {
     SentenceTerm negated = term(u"金额"_s, FieldClass::Number, Less, u"5"_s);
     negated.choice.isNegated = true;
-    EXPECT_EQ(sentence({negated}), "并非“【金额】小于 5”（也包括空值）。");
+    EXPECT_EQ(sentence({negated}), "并非（【金额】小于 5）（也包括空值）。");
     negated.choice.includesNull = false;
-    EXPECT_EQ(sentence({negated}), "并非“【金额】小于 5”。");
+    EXPECT_EQ(sentence({negated}), "并非（【金额】小于 5）。");
     negated.choice.op = NotEquals;
     negated.choice.includesNull = true;
-    EXPECT_EQ(sentence({negated}), "并非“【金额】不等于 5”。");
+    EXPECT_EQ(sentence({negated}), "并非（【金额】不等于 5）。");
 }
 
 TEST(FilterSentence, SaysWhichDaysAreMeant)

@@ -57,7 +57,7 @@ TEST_F(Builder, SaysTheConditionInWordsUntilItIsTypedAsSql)
     EXPECT_FALSE(part(dialog, "chkWithNull1").isVisible());
     press(dialog, "cmdAddRow");
     fillRow(2, u"金额"_s, u"前 N 个"_s, u"2"_s);
-    EXPECT_EQ(words(), "并非“【城市】不包含“京””，并且【金额】是最大的 2 个之一。");
+    EXPECT_EQ(words(), "并非（【城市】不包含“京”），并且【金额】是最大的 2 个之一。");
     type("txtCondition", u"编号 = 1"_s);
     EXPECT_EQ(words(), "");
     press(dialog, "cmdBackToRows");
@@ -194,7 +194,7 @@ TEST_F(Builder, AFieldIsFoundByTheBeginningOfItsNameInChineseToo)
 {
     compose(combo("cmbField1"), u"下单"_s);
     EXPECT_EQ(combo("cmbField1").currentText(), u"下单日期"_s);
-    EXPECT_EQ(part<QLineEdit>(dialog, "txtValue1").placeholderText(), u"例如 2024-01-31、2024-03 或 本月"_s);
+    EXPECT_EQ(part<QLineEdit>(dialog, "txtValue1").placeholderText(), u"例如 2024-01-31、2024-03 或“本月”"_s);
 }
 
 TEST_F(Builder, BetweenTakesTwoValues)

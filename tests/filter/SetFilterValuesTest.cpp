@@ -211,7 +211,7 @@ TEST_F(PickedValues, MoreThanTwoHundredAreLeftToALastEntryThatTellsTheirNumber)
                  " INSERT INTO 订单 (编号, 城市) SELECT i, printf('城%05d', i) FROM n"_s);
     choose("cmbField1", u"城市"_s);
     QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return listed().value(200) == u"更多…（还有 2147 个）"_s; }))
+    EXPECT_TRUE(QTest::qWaitFor([&] { return listed().value(200) == u"更多…（还有 2,147 个）"_s; }))
         << qUtf8Printable(listed().value(200));
     EXPECT_EQ(listed().size(), 201);
     const auto pickLast = [&] {

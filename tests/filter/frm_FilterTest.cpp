@@ -90,9 +90,8 @@ TEST_F(FilterForm, EscAsksNothingAboutWhatTheDialogBeganWith)
 
 TEST_F(FilterForm, TheKeyboardBeginsWithTheFieldAndEndsWithTheButtons)
 {
-    EXPECT_EQ(
-        walkedByTab(dialog, 9),
-        "cmbField1 cmbOperator1 txtValue1 cmbClose1 cmdAddRow chkGroups chkSql cmd_Filter cmd_Cancel");
+    EXPECT_EQ(walkedByTab(dialog, 9),
+              "cmbField1 cmbOperator1 txtValue1 cmbClose1 cmdAddRow chkGroups chkSql cmd_Filter cmd_Cancel");
 }
 
 TEST_F(FilterForm, AltF4LeavesNoCondition)

@@ -194,13 +194,13 @@ TEST_F(ValueWindow, ShowsAVeryLongTextPieceByPieceAndFindsInAllOfIt)
     longText.replace(49999, 2, QString::fromUtf8("\U0001F375")); // a character across the first border
     longText.replace(49999990, 4, u"here"_s);
     show(textValue(longText));
-    EXPECT_EQ(part<QLabel>("lblPiece")->text(), u"第 1 段，共 1000 段"_s);
+    EXPECT_EQ(part<QLabel>("lblPiece")->text(), u"第 1 段，共 1,000 段"_s);
     EXPECT_TRUE(text()->toPlainText().endsWith(QString::fromUtf8("\U0001F375")));
     press("cmdNextPiece");
-    EXPECT_EQ(part<QLabel>("lblPiece")->text(), u"第 2 段，共 1000 段"_s);
+    EXPECT_EQ(part<QLabel>("lblPiece")->text(), u"第 2 段，共 1,000 段"_s);
     EXPECT_TRUE(text()->toPlainText().startsWith(u'x'));
     findIn(u"HERE"_s);
-    EXPECT_EQ(part<QLabel>("lblPiece")->text(), u"第 1000 段，共 1000 段"_s);
+    EXPECT_EQ(part<QLabel>("lblPiece")->text(), u"第 1,000 段，共 1,000 段"_s);
     EXPECT_EQ(text()->textCursor().selectedText(), u"here"_s);
     EXPECT_FALSE(part<QPushButton>("cmdNextPiece")->isEnabled());
 }
@@ -209,7 +209,7 @@ TEST_F(ValueWindow, SaysThatALongStructureIsNotShown)
 {
     show(textValue(u'[' + QString(FormattedText::longest, u' ') + u']'));
     EXPECT_EQ(views(), QStringList(u"文本"_s));
-    EXPECT_EQ(summary->text(), u"1000002 个字符，超过 1000000 个字符，不显示结构"_s);
+    EXPECT_EQ(summary->text(), u"1,000,002 个字符，超过 1,000,000 个字符，不显示结构"_s);
 }
 
 TEST_F(ValueWindow, ShowsAPictureAndItsBytes)

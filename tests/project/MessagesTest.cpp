@@ -23,7 +23,7 @@ bool isMessage(const QString &name, const QString &text)
     static const QRegularExpression sentence(u"([。！!？?.](（%\\d）)?|：(%\\d(（%\\d）)?)?)\\s*$"_s);
     static const QRegularExpression noMessage(
         u"^（|Hint$|Tip$|^DataSource$|^Driver$|^RemoveCondition$|^FormatOfColumn$|^FormatSample$|"
-        u"^ColumnOfSummary$|^TableName$|^TicksTitle$|^AboutText$|^FilterName$"_s);
+        u"^ColumnOfSummary$|^FilteredBy$|^TableName$|^TicksTitle$|^AboutText$|^FilterName$"_s);
     return withoutFullStop.contains(name) ||
            (sentence.match(text).hasMatch() && !name.contains(noMessage) && !text.contains(noMessage));
 }

@@ -1,7 +1,6 @@
 #include "control/face/ControlWindow.h"
 
 #include "ado/Recordset.h"
-#include "ado/values/DisplayFormat.h"
 #include "control/input/SingleRecordView.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
@@ -13,6 +12,7 @@
 #include "grid/FlexGrid.h"
 #include "grid/cells/RecordWindow.h"
 #include "grid/cells/TextCells.h"
+#include "language/GroupedNumber.h"
 #include "query/SharedValues.h"
 #include "query/clsFilterManagement.h"
 #include "session/Session.h"
@@ -28,12 +28,6 @@
 namespace KOVAVSFDataGridLib {
 
 namespace {
-
-// With its thousands apart, as people read large numbers.
-QString grouped(qint64 number)
-{
-    return ADODB::DisplayFormat{.hasThousands = true}.applied(QString::number(number));
-}
 
 QString pageLabel(const QString &page, const QString &pageCount)
 {

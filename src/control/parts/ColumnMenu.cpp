@@ -8,6 +8,7 @@
 #include "session/columns/ColumnCommand.h"
 #include "session/columns/ColumnKeys.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtGui/QAction>
 #include <QtWidgets/QMenu>
 
@@ -59,9 +60,13 @@ void ColumnMenu::addTo(QMenu &menu, int col)
 {
     QList<QAction *> added{menu.addSeparator()};
     added += makeActions(menu, col);
-    // The action that was chosen is triggered after the menu has closed.
-    for (QAction *action : std::as_const(added))
+    // In Chinese "升序(&A)".
+    static const QRegularExpression accessKey(u"\\(&\\w\\)|&"_s);
+    for (QAction *action : std::as_const(added)) {
+        action->setText(action->text().remove(accessKey));
+        // The action that was chosen is triggered after the menu has closed.
         connect(&menu, &QMenu::aboutToHide, action, &QObject::deleteLater);
+    }
 }
 
 QList<QAction *> ColumnMenu::makeActions(QMenu &menu, int col)

@@ -34,7 +34,8 @@ public:
 
     // Shows the menu at a place on the screen. Nothing for a column that has none.
     void popUp(int col, const QPoint &place);
-    // Adds a column's entries to the end of a menu, until it is closed.
+    // Adds a column's entries to the end of a menu, until it is closed. They have no access keys there: the
+    // menu's own entries have these letters.
     void addTo(QMenu &menu, int col);
 
 private:

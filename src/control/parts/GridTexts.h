@@ -14,15 +14,15 @@ using namespace Qt::StringLiterals;
 inline constexpr Text FieldNameHeading = tr("字段名称");
 inline constexpr Text FieldValueHeading = tr("字段内容");
 inline constexpr Text ReadOnlyCell =
-    tr("此内容只读：它不直接来自一个表中可以修改的字段，或者无法唯一确定所在的记录。");
+    tr("此内容只读：它不是直接取自某个表中可以修改的字段，或者无法唯一确定所在的记录。");
 inline constexpr Text MoreValuesByTyping = tr("（还有更多，输入几个字后再打开列表查找）");
-inline constexpr Text LinesHint = tr("按 Ctrl+Enter 换行，按 Enter 接受");
+inline constexpr Text LinesHint = tr("按 Ctrl+Enter 换行，按 Enter 确认");
 inline constexpr Text PreviousRecord = tr("上一条记录");
 inline constexpr Text NextRecord = tr("下一条记录");
 inline constexpr Text RequiredField = tr("%1：不能为空");
 inline constexpr Text Pictures = tr("图片");
 inline constexpr Text PicturesTip =
-    tr("同时显示图片字段（Ctrl+Shift+I）；双击图片或按 Enter 从文件替换，Ctrl+0 清空");
+    tr("同时显示图片字段（Ctrl+Shift+I）；双击图片或按 Enter 可用文件替换，按 Ctrl+0 清空");
 inline constexpr Text ChoosePicture = tr("用文件替换图片");
 inline constexpr Text PictureFiles =
     tr("图片 (*.png *.jpg *.jpeg *.bmp *.gif *.tif *.tiff *.webp *.svg *.ico);;所有文件 (*)");
@@ -68,7 +68,7 @@ inline constexpr Text NoRecordsFound = tr("没有符合条件的记录。按“�
 inline constexpr Text ToolbarName = tr("数据命令");
 inline constexpr Text GridName = tr("数据");
 inline constexpr Text MenuName = tr("数据菜单");
-inline constexpr Text FilteredBy = tr("筛选条件“%1”");
+inline constexpr Text FilteredBy = tr("筛选条件：%1");
 inline constexpr Text BetweenDescriptions = tr("；");
 inline constexpr Text SingleRecordName = tr("当前记录");
 
@@ -77,38 +77,38 @@ inline constexpr Text CopyAsMenu = tr("复制为(&U)");
 inline constexpr Text CopyAsName = tr("复制为");
 
 // A column's heading and its menu.
-inline constexpr Text SortedAscending = tr("第 %1 升序");
-inline constexpr Text SortedDescending = tr("第 %1 降序");
+inline constexpr Text SortedAscending = tr("第 %1 排序字段，升序");
+inline constexpr Text SortedDescending = tr("第 %1 排序字段，降序");
 inline constexpr Text Filtered = tr("已筛选");
 inline constexpr Text BetweenMarks = tr("，");
 inline constexpr Text ColumnMenuName = tr("列菜单");
 
 // The conditions in force, above the grid.
 inline constexpr Text FilterBarName = tr("筛选条件");
-inline constexpr Text RemoveCondition = tr("去掉条件：%1");
+inline constexpr Text RemoveCondition = tr("移除条件：%1");
 inline constexpr Text MoreConditions = tr("还有 %1 个");
 
 // The bar that looks for a text in what is shown.
-inline constexpr Text FindBarName = tr("查找显示的内容");
+inline constexpr Text FindBarName = tr("在表格中查找");
 inline constexpr Text FindTextHint = tr("查找内容");
 inline constexpr Text FindColumnHint = tr("在哪一列查找");
 inline constexpr Text AllColumns = tr("所有列");
-inline constexpr Text WholeCell = tr("整格相同(&H)");
-inline constexpr Text MatchCase = tr("区分大小写(&E)");
+inline constexpr Text WholeCell = tr("单元格匹配(&L)");
+inline constexpr Text MatchCase = tr("区分大小写(&A)");
 inline constexpr Text FindNext = tr("下一处（Enter）");
 inline constexpr Text FindPrevious = tr("上一处（Shift+Enter）");
 inline constexpr Text CloseFind = tr("关闭（Esc）");
 inline constexpr Text NothingFound = tr("没有找到");
 inline constexpr Text FoundCount = tr("共 %1 处");
 inline constexpr Text FoundPlace = tr("第 %1 处，共 %2 处");
-inline constexpr Text FoundFromStart = tr("（回到开头）");
-inline constexpr Text FoundFromEnd = tr("（回到末尾）");
+inline constexpr Text FoundFromStart = tr("（已从开头继续）");
+inline constexpr Text FoundFromEnd = tr("（已从末尾继续）");
 inline constexpr Text FindRunning = tr("正在查找… %1%");
 
 // The statements to go back and forward to.
 inline constexpr Text HistoryName = tr("历史");
 inline constexpr Text HistoryNote = tr("%1 条  %2");
-inline constexpr Text NoHistory = tr("（没有历史）");
+inline constexpr Text NoHistory = tr("（没有历史记录）");
 
 // Page box and label.
 inline constexpr Text GoToPage = tr("转到");

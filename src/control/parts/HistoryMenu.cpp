@@ -3,6 +3,7 @@
 #include "control/parts/GridTexts.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "grid/WholeText.h"
+#include "language/GroupedNumber.h"
 #include "language/Language.h"
 #include "session/Session.h"
 #include "session/commands/CommandKeys.h"
@@ -24,9 +25,9 @@ constexpr int widestStatement = 48; // digits
 
 QString noteText(const HistoryStep &step)
 {
-    return step.note
-               ? GridTexts::HistoryNote.arg(step.note->records).arg(step.note->time.toString(u"HH:mm:ss"_s))
-               : QString();
+    return step.note ? GridTexts::HistoryNote.arg(grouped(step.note->records),
+                                                  step.note->time.toString(u"HH:mm:ss"_s))
+                     : QString();
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "control/parts/lines/FindBar.h"
 #include "grid/FlexGrid.h"
 #include "grid/GridSelection.h"
+#include "language/GroupedNumber.h"
 #include "session/Session.h"
 #include "session/pages/Pages.h"
 #include "session/statement/ShownConditions.h"
@@ -200,10 +201,11 @@ void ResultFinder::showFound(const QString &wrapped)
     if (m_search->count() == 0)
         m_bar.showFound(GridTexts::NothingFound);
     else if (!m_at)
-        m_bar.showFound(GridTexts::FoundCount.arg(m_search->count()));
+        m_bar.showFound(GridTexts::FoundCount.arg(grouped(m_search->count())));
     else
-        m_bar.showFound(GridTexts::FoundPlace.arg(m_search->numberOf(*m_at)).arg(m_search->count()) +
-                        wrapped);
+        m_bar.showFound(
+            GridTexts::FoundPlace.arg(grouped(m_search->numberOf(*m_at)), grouped(m_search->count())) +
+            wrapped);
 }
 
 void ResultFinder::showMarks()

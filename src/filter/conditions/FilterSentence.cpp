@@ -49,6 +49,7 @@ QString listInWords(const FilterChoice &choice, QDate today)
 QString choiceInWords(const FilterChoice &choice, QDate today)
 {
     const FilterOperator op = choice.op;
+    const bool isText = choice.field.fieldClass == FieldClass::Text; // then values are in quotes
     const QString field = FilterTexts::FieldInSentence.arg(choice.field.caption);
     const auto value = [&](const QString &typed) {
         return valueInWords(choice.field.fieldClass, typed, today);
@@ -61,14 +62,16 @@ QString choiceInWords(const FilterChoice &choice, QDate today)
     } else if (op == FilterOperator::Duplicated) {
         words = FilterTexts::DuplicatedInSentence.arg(field);
     } else if (positiveOf(op) == FilterOperator::InList) {
-        const Text form = isNegative(op) ? FilterTexts::NotInListInSentence : FilterTexts::InListInSentence;
+        const Text form =
+            isNegative(op)
+                ? (isText ? FilterTexts::TextNotInListInSentence : FilterTexts::NotInListInSentence)
+                : (isText ? FilterTexts::TextInListInSentence : FilterTexts::InListInSentence);
         words = form.arg(field, listInWords(choice, today));
     } else if (valueCount(op) == 2) {
-        words = FilterTexts::BetweenInSentence.arg(field, captionOf(op), value(choice.value),
-                                                   value(choice.lastValue));
+        const Text form = isText ? FilterTexts::TextBetweenInSentence : FilterTexts::BetweenInSentence;
+        words = form.arg(field, captionOf(op), value(choice.value), value(choice.lastValue));
     } else {
-        const Text form = choice.field.fieldClass == FieldClass::Text ? FilterTexts::TextComparedInSentence
-                                                                      : FilterTexts::ValueComparedInSentence;
+        const Text form = isText ? FilterTexts::TextComparedInSentence : FilterTexts::ValueComparedInSentence;
         words = valueCount(op) == 1 ? form.arg(field, captionOf(op), value(choice.value))
                                     : FilterTexts::StateInSentence.arg(field, captionOf(op));
     }

@@ -2,8 +2,8 @@
 
 #include "ado/Error.h"
 #include "filter/FilterTexts.h"
+#include "language/GroupedNumber.h"
 
-#include <QtCore/QLocale>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
@@ -75,8 +75,7 @@ void FilterCount::onEnded()
     const auto count = m_reading->count();
     const QString failure = m_reading->failure();
     m_reading.reset();
-    static const QLocale chinese(QLocale::Chinese, QLocale::China);
-    show(count ? FilterTexts::AboutRecords.arg(chinese.toString(*count)) : FilterTexts::NotCounted);
+    show(count ? FilterTexts::AboutRecords.arg(grouped(*count)) : FilterTexts::NotCounted);
     m_text->setToolTip(failure);
 }
 

@@ -1,9 +1,9 @@
 #include "filter/ticks/TickList.h"
 
 #include "filter/FilterTexts.h"
+#include "language/GroupedNumber.h"
 
 #include <QtCore/QDate>
-#include <QtCore/QLocale>
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
@@ -33,7 +33,7 @@ void putCount(QTreeWidgetItem &item, qint64 count)
 {
     item.setData(valueColumn, countRole, count);
     if (count >= 0)
-        item.setText(countColumn, QLocale(QLocale::Chinese, QLocale::China).toString(count));
+        item.setText(countColumn, grouped(count));
     item.setTextAlignment(countColumn, Qt::AlignRight | Qt::AlignVCenter);
 }
 

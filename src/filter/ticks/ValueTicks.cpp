@@ -3,9 +3,9 @@
 #include "ado/Error.h"
 #include "filter/FilterTexts.h"
 #include "filter/ticks/TickList.h"
+#include "language/GroupedNumber.h"
 
 #include <QtCore/QDate>
-#include <QtCore/QLocale>
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QCheckBox>
@@ -23,11 +23,6 @@ namespace KOVAVSFDataGridLib {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString grouped(qint64 number)
-{
-    return QLocale(QLocale::Chinese, QLocale::China).toString(number);
-}
 
 // A day as a person may look for it too.
 QString spokenDay(const QString &day)

@@ -3,6 +3,7 @@
 #include "forms/FormTexts.h"
 #include "forms/value/FormatHighlighter.h"
 #include "forms/widgets/TextWidth.h"
+#include "language/GroupedNumber.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QTextCursor>
@@ -117,7 +118,7 @@ void TextPane::showPiece(qsizetype piece)
     m_piece = piece;
     const qsizetype begin = beginOfPiece(piece);
     m_shown->setPlainText(m_text.sliced(begin, beginOfPiece(piece + 1) - begin));
-    m_pieceLabel->setText(FormTexts::PieceOf.arg(piece + 1).arg(pieces()));
+    m_pieceLabel->setText(FormTexts::PieceOf.arg(grouped(piece + 1), grouped(pieces())));
     m_previousPiece->setEnabled(piece > 0);
     m_nextPiece->setEnabled(piece + 1 < pieces());
 }

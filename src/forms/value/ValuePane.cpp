@@ -6,6 +6,7 @@
 #include "forms/value/PicturePane.h"
 #include "forms/value/TextPane.h"
 #include "forms/widgets/TextWidth.h"
+#include "language/GroupedNumber.h"
 #include "language/Language.h"
 
 #include <QtCore/QRegularExpression>
@@ -178,7 +179,7 @@ void ValuePane::addText(const QString &text)
         m_views->setCurrentIndex(m_views->addTab(pane, m_format));
     } else if (const QChar first = text.isEmpty() ? QChar() : text.at(0);
                text.size() > FormattedText::longest && (first == u'{' || first == u'[' || first == u'<')) {
-        m_note = FormTexts::TooLongToFormat.arg(FormattedText::longest);
+        m_note = FormTexts::TooLongToFormat.arg(grouped(FormattedText::longest));
     }
 }
 
@@ -199,8 +200,8 @@ QString ValuePane::summary() const
 {
     if (m_value.isNull)
         return FormTexts::NullValue;
-    QStringList parts{m_value.isBinary ? FormTexts::BytesOfValue.arg(m_value.bytes.size())
-                                       : FormTexts::CharactersOfValue.arg(m_value.text.size())};
+    QStringList parts{m_value.isBinary ? FormTexts::BytesOfValue.arg(grouped(m_value.bytes.size()))
+                                       : FormTexts::CharactersOfValue.arg(grouped(m_value.text.size()))};
     if (!m_picture.isNull())
         parts.append(FormTexts::SizeOfPicture.arg(m_picture.width()).arg(m_picture.height()));
     if (!m_format.isEmpty())

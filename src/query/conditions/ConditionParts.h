@@ -14,7 +14,7 @@ std::vector<TextRange> conditionParts(const SqlScanner &statement, TextRange con
 // The fields that a condition names, each once, without tables and quotes.
 QStringList fieldsOfCondition(const SqlScanner &statement, TextRange condition);
 
-// The condition in the user's words: "名称 包含 “茶”". What has no words of its own stays as it is written.
+// The condition in the user's words: "名称 包含“茶”". What has no words of its own stays as it is written.
 QString conditionInWords(const SqlScanner &statement, TextRange condition);
 
 // What the condition's LIKEs look for anywhere in a text, without wildcards.

@@ -76,10 +76,10 @@ TEST_F(ColumnMenu, SortsByTheColumnAndByOneMore)
     choose(u"城市"_s, u"SortDescending"_s);
     EXPECT_TRUE(statement().endsWith(u"ORDER BY 城市 DESC"_s)) << qUtf8Printable(statement());
     EXPECT_EQ(texts(u"ID"_s).first(), u"6"_s);
-    EXPECT_EQ(spoken(u"城市"_s), u"城市，第 1 降序"_s);
+    EXPECT_EQ(spoken(u"城市"_s), u"城市，第 1 排序字段，降序"_s);
     choose(u"Unit Price"_s, u"AddToSort"_s);
     EXPECT_TRUE(statement().endsWith(u"ORDER BY 城市 DESC,[Unit Price]"_s)) << qUtf8Printable(statement());
-    EXPECT_EQ(spoken(u"Unit Price"_s), u"Unit Price，第 2 升序"_s);
+    EXPECT_EQ(spoken(u"Unit Price"_s), u"Unit Price，第 2 排序字段，升序"_s);
     open(u"城市"_s);
     EXPECT_FALSE(entry(u"AddToSort"_s)->isEnabled());
     EXPECT_TRUE(entry(u"SortDescending"_s)->isChecked());
@@ -95,25 +95,25 @@ TEST_F(ColumnMenu, SortsByTheColumnAndByOneMore)
     // Every step is one of the history.
     click(u"ToPreview"_s);
     EXPECT_TRUE(statement().endsWith(u"ORDER BY [Unit Price]"_s));
-    EXPECT_EQ(spoken(u"Unit Price"_s), u"Unit Price，第 1 升序"_s);
+    EXPECT_EQ(spoken(u"Unit Price"_s), u"Unit Price，第 1 排序字段，升序"_s);
 }
 
 TEST_F(ColumnMenu, ShowsTheSortThatTheStatementCameWith)
 {
     ASSERT_TRUE(load(u"SELECT ID,名称 AS 品名,城市 FROM 商品 ORDER BY 3 DESC, 品名"_s, {}));
-    EXPECT_EQ(spoken(u"城市"_s), u"城市，第 1 降序"_s);
-    EXPECT_EQ(spoken(u"品名"_s), u"品名，第 2 升序"_s);
+    EXPECT_EQ(spoken(u"城市"_s), u"城市，第 1 排序字段，降序"_s);
+    EXPECT_EQ(spoken(u"品名"_s), u"品名，第 2 排序字段，升序"_s);
     EXPECT_EQ(spoken(u"ID"_s), u"ID"_s);
     choose(u"品名"_s, u"SortAscending"_s);
     EXPECT_EQ(spoken(u"城市"_s), u"城市"_s);
-    EXPECT_EQ(spoken(u"品名"_s), u"品名，第 1 升序"_s);
+    EXPECT_EQ(spoken(u"品名"_s), u"品名，第 1 排序字段，升序"_s);
 }
 
 TEST_F(ColumnMenu, GroupedRowsAreSortedAsWell)
 {
     ASSERT_TRUE(load(u"SELECT 城市,COUNT(*) AS 数量 FROM 商品 GROUP BY 城市"_s, {}));
     choose(u"数量"_s, u"SortDescending"_s);
-    EXPECT_EQ(spoken(u"数量"_s), u"数量，第 1 降序"_s);
+    EXPECT_EQ(spoken(u"数量"_s), u"数量，第 1 排序字段，降序"_s);
     EXPECT_EQ(texts(u"数量"_s).first(), u"2"_s);
 }
 
@@ -338,13 +338,13 @@ TEST_F(ColumnMenu, TheFullScreenViewerHasItToo)
             QTest::keyClick(&opened, Qt::Key_Down);
             QTest::keyClick(&opened, Qt::Key_Return);
             EXPECT_EQ(shown.model()->headerData(3, Qt::Horizontal, Qt::AccessibleTextRole).toString(),
-                      u"城市，第 1 降序"_s);
+                      u"城市，第 1 排序字段，降序"_s);
             shown.horizontalHeader()->moveSection(0, 3);
             viewer.accept();
         }});
         click(u"FullScreen"_s);
     }
-    EXPECT_EQ(spoken(u"城市"_s), u"城市，第 1 降序"_s);
+    EXPECT_EQ(spoken(u"城市"_s), u"城市，第 1 排序字段，降序"_s);
     EXPECT_EQ(shownOrder(),
               QStringList({u"Unit Price"_s, u"ID"_s, u"城市"_s, u"名称"_s, u"日期"_s, u"停用"_s, u"图片"_s}));
 }

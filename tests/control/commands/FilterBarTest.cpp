@@ -51,7 +51,7 @@ TEST_F(FilterBar, IsThereOnlyWhileAConditionIsInForce)
     const QRect before = table->geometry();
     findWords(u"茶"_s, u"名称"_s);
     ASSERT_TRUE(bar()->isVisible());
-    EXPECT_EQ(conditions(), QStringList(u"名称 包含 “茶”"_s));
+    EXPECT_EQ(conditions(), QStringList(u"名称 包含“茶”"_s));
     EXPECT_EQ(bar()->geometry().top(), before.top());
     EXPECT_EQ(table->geometry().top(), bar()->geometry().bottom() + 1);
     EXPECT_EQ(table->geometry().bottom(), before.bottom());
@@ -67,13 +67,13 @@ TEST_F(FilterBar, EachPartIsRemovedAlone)
     findWords(u"茶"_s, u"名称"_s);
     click(u"FromResult"_s);
     filterBy(u"[Unit Price] > 60 AND (城市 = '杭州' OR 城市 = '昆明')"_s);
-    EXPECT_EQ(conditions(), QStringList({u"名称 包含 “茶”"_s, u"Unit Price > 60"_s,
-                                         u"城市 = “杭州” 或者 城市 = “昆明”"_s}));
+    EXPECT_EQ(conditions(), QStringList({u"名称 包含“茶”"_s, u"Unit Price > 60"_s,
+                                         u"城市 = “杭州”，或者 城市 = “昆明”"_s}));
     EXPECT_EQ(texts(u"ID"_s), QStringList({u"1"_s, u"2"_s, u"11"_s}));
     WindowAnswers sorting({[](QDialog &dialog) { sort(dialog, {u"ID"_s}, true); }});
     click(u"Sort"_s);
     QTest::mouseClick(condition(3), Qt::LeftButton);
-    EXPECT_EQ(conditions(), QStringList({u"名称 包含 “茶”"_s, u"Unit Price > 60"_s}));
+    EXPECT_EQ(conditions(), QStringList({u"名称 包含“茶”"_s, u"Unit Price > 60"_s}));
     EXPECT_EQ(texts(u"ID"_s), QStringList({u"12"_s, u"11"_s, u"10"_s, u"2"_s, u"1"_s})) << "sorted as before";
     QTest::mouseClick(condition(1), Qt::LeftButton);
     EXPECT_EQ(conditions(), QStringList({u"Unit Price > 60"_s}));
@@ -91,7 +91,7 @@ TEST_F(FilterBar, TheHostsOwnConditionIsNotTheUsersToRemove)
     ASSERT_TRUE(load(u"SELECT * FROM 商品 WHERE ID > 2 OR 城市 = '昆明' ORDER BY ID DESC"_s, {}));
     EXPECT_FALSE(bar()->isVisible());
     findWords(u"茶"_s, u"名称"_s);
-    EXPECT_EQ(conditions(), QStringList(u"名称 包含 “茶”"_s));
+    EXPECT_EQ(conditions(), QStringList(u"名称 包含“茶”"_s));
     EXPECT_EQ(texts(u"ID"_s), QStringList({u"12"_s, u"11"_s, u"10"_s, u"4"_s, u"2"_s}));
     QTest::mouseClick(condition(1), Qt::LeftButton);
     EXPECT_FALSE(bar()->isVisible());
@@ -119,7 +119,7 @@ TEST_F(FilterBar, IsReachedAndUsedByKeys)
     table->setFocus();
     QTest::keyClick(table, Qt::Key_Backtab);
     ASSERT_EQ(QApplication::focusWidget(), condition(1));
-    EXPECT_EQ(condition(1)->accessibleName(), u"去掉条件：名称 包含 “茶”"_s);
+    EXPECT_EQ(condition(1)->accessibleName(), u"移除条件：名称 包含“茶”"_s);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
     EXPECT_FALSE(bar()->isVisible());
     EXPECT_EQ(QApplication::focusWidget(), table);
@@ -152,5 +152,5 @@ TEST_F(FilterBar, AConditionThatCantBeReadStays)
     QTest::mouseClick(condition(1), Qt::LeftButton);
     EXPECT_FALSE(messages.texts().isEmpty());
     EXPECT_EQ(statement(), before);
-    EXPECT_EQ(conditions(), QStringList(u"名称 包含 “茶”"_s));
+    EXPECT_EQ(conditions(), QStringList(u"名称 包含“茶”"_s));
 }

@@ -119,10 +119,10 @@ TEST_F(FindShown, CountsWhatItFindsAndGoesFromOneToTheNext)
     press(Qt::Key_Return, Qt::ShiftModifier);
     press(Qt::Key_Return, Qt::ShiftModifier);
     EXPECT_EQ(current(), u"12,2"_s);
-    EXPECT_EQ(found->text(), u"第 6 处，共 6 处（回到末尾）"_s);
+    EXPECT_EQ(found->text(), u"第 6 处，共 6 处（已从末尾继续）"_s);
     press(Qt::Key_Return);
     EXPECT_EQ(current(), u"1,2"_s);
-    EXPECT_EQ(found->text(), u"第 1 处，共 6 处（回到开头）"_s);
+    EXPECT_EQ(found->text(), u"第 1 处，共 6 处（已从开头继续）"_s);
     QTest::mouseClick(grid.findChild<QWidget *>(u"cmdFindNext"_s), Qt::LeftButton);
     EXPECT_EQ(current(), u"2,2"_s);
     EXPECT_TRUE(sought->isVisible());

@@ -133,5 +133,5 @@ TEST_F(Keyboard, AssistiveToolsHearTheRowTheSelectionAndTheFilter)
         << qPrintable(described());
     WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"茶"_s, u"名称"_s); }});
     QTest::keyClick(table, Qt::Key_F, Qt::ControlModifier);
-    EXPECT_TRUE(described().contains(u"筛选条件“名称"_s)) << qPrintable(described());
+    EXPECT_TRUE(described().contains(u"筛选条件：名称"_s)) << qPrintable(described());
 }

@@ -329,7 +329,7 @@ TEST_F(RecordsOf, ANewRecordIsSavedBeforeATextIsLookedForInAllRecords)
     clickCell(2, 1);
     choose(8, 2);
     write(u"名称"_s, u"x"_s);
-    choose(27, 1); // 查找显示的内容
+    choose(27, 1); // 在表格中查找
     EXPECT_TRUE(table->isVisible());
     EXPECT_EQ(count(), u"13"_s);
     EXPECT_EQ(rows(), 13);

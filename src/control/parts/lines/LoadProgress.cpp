@@ -1,6 +1,7 @@
 #include "control/parts/lines/LoadProgress.h"
 
 #include "control/parts/GridTexts.h"
+#include "language/GroupedNumber.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
@@ -163,7 +164,7 @@ void LoadProgress::updateLine(qint64 rowsDone)
     if (m_isCancelled)
         m_count->setText(GridTexts::Cancelling);
     else
-        m_count->setText(m_done.contains("%1"_L1) ? m_done.arg(rowsDone) : m_done);
+        m_count->setText(m_done.contains("%1"_L1) ? m_done.arg(grouped(rowsDone)) : m_done);
     const qint64 value = m_total > 0 ? rowsDone * barSteps / m_total : rowsDone;
     m_bar->setValue(static_cast<int>(std::min<qint64>(value, std::numeric_limits<int>::max())));
     m_line->setGeometry(m_place()); // the window can have been resized

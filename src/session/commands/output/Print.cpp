@@ -30,9 +30,9 @@ void print(Session &session)
 const Command::Registration registration({
     .key = u"Print"_s,
     .shortcut = u"Ctrl+P"_s,
-    .menu = {22, Command::tr("打印(&P)…")},
+    .menu = {22, Command::tr("打印(&I)…")},
     .isInViewer = true,
-    .viewerMenu = {14, Command::tr("打印(&P)…")},
+    .viewerMenu = {14, Command::tr("打印(&I)…")},
     .needs = Needs::Records,
     .record = Record::Stays,
     .run = print,

@@ -1,6 +1,7 @@
 #include "ado/Error.h"
 #include "ado/Notifications.h"
 #include "ado/Recordset.h"
+#include "language/GroupedNumber.h"
 #include "session/Questions.h"
 #include "session/ResultWatch.h"
 #include "session/Session.h"
@@ -32,7 +33,7 @@ QString question(Session &session)
     const int field = shown.front() - 1;
     return SessionMessages::AskDelete +
            SessionMessages::RecordMeant.arg(
-               QString::number(window.Row()), recordset.Fields().Item(field).Name(),
+               grouped(window.Row()), recordset.Fields().Item(field).Name(),
                recordset.CellText(session.pages().recordOfRow(window.Row()), field));
 }
 

@@ -64,7 +64,7 @@ const Command::Registration registration({
     .menu = {14, Command::tr("按选定内容筛选(&C)")},
     .isInViewer = true,
     .viewerMenu = {.index = 4,
-                   .caption = Command::tr("按所选内容筛选(&F)"),
+                   .caption = Command::tr("按选定内容筛选(&F)"),
                    .enabledAs = CommandKeys::Filter,
                    .needsText = true},
     .needs = Needs::Records,

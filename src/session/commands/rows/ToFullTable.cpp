@@ -35,11 +35,11 @@ const Command::Registration registration({
     .shortcut = u"Ctrl+0"_s,
     .button = {{.place = 502,
                 .caption = Command::tr("整表"),
-                .toolTip = Command::tr("去掉筛选条件，显示整个表"),
+                .toolTip = Command::tr("清除筛选条件，显示整个表"),
                 .isCaptioned = true}},
     .menu = {15, Command::tr("显示整表(&T)")},
     .isInViewer = true,
-    .viewerMenu = {5, Command::tr("显示整个表(&T)")},
+    .viewerMenu = {5, Command::tr("显示整表(&T)")},
     .run = showFullTable,
     .whyNot = [](Session &session) { return session.sharedHistory().whyNone(); },
 });

@@ -21,9 +21,9 @@ const Command::Registration registration({
     .key = u"FindShown"_s,
     .shortcut = u"Ctrl+G"_s,
     .otherShortcut = u"F7"_s,
-    .menu = {27, Command::tr("查找显示的内容(&G)…")},
+    .menu = {27, Command::tr("在表格中查找(&G)…")},
     .isInViewer = true,
-    .viewerMenu = {16, Command::tr("查找显示的内容(&G)…")},
+    .viewerMenu = {16, Command::tr("在表格中查找(&G)…")},
     .needs = Needs::Records,
     .run = findShown,
 });

@@ -26,9 +26,9 @@ QUrl currentLink(Session &session)
 const Command::Registration registration({
     .key = u"OpenLink"_s,
     .shortcut = u"Ctrl+F3"_s,
-    .menu = {32, Command::tr("打开链接(&K)")},
+    .menu = {32, Command::tr("打开链接(&L)")},
     .isInViewer = true,
-    .viewerMenu = {21, Command::tr("打开链接(&K)")},
+    .viewerMenu = {21, Command::tr("打开链接(&L)")},
     .needs = Needs::Records,
     .record = Record::Stays,
     .run =

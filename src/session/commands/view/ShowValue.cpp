@@ -2,6 +2,7 @@
 
 #include "ado/Recordset.h"
 #include "ado/ValueText.h"
+#include "language/GroupedNumber.h"
 #include "session/Session.h"
 #include "session/SessionMessages.h"
 #include "session/commands/Command.h"
@@ -38,7 +39,7 @@ std::optional<CellValue> currentValue(Session &session)
         session.window().isSingleRecordShown() ? field.Value() : recordset.CellValue(record, col - 1);
     CellValue shown;
     shown.field = field.Name();
-    shown.place = SessionMessages::PlaceOfValue.arg(field.Name()).arg(session.window().Row());
+    shown.place = SessionMessages::PlaceOfValue.arg(field.Name(), grouped(session.window().Row()));
     shown.isNull = !value.isValid();
     // A database without types of its own has binary values in other fields as well.
     shown.isBinary = isBinary(field.Type()) || value.typeId() == QMetaType::QByteArray;
