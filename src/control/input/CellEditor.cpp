@@ -5,6 +5,7 @@
 #include "ado/Recordset.h"
 #include "ado/ValueText.h"
 #include "ado/values/FieldValue.h"
+#include "control/input/record/LinesEdit.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
 #include "filter/FilterTexts.h"
@@ -18,7 +19,6 @@
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QSet>
 #include <QtGui/QKeyEvent>
-#include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QToolTip>
 
 #include <algorithm>
@@ -34,7 +34,6 @@ constexpr int linesShown = 6;
 constexpr qsizetype longestLine = 60;     // of a text that gets several lines without having any
 constexpr qint64 recordsSearched = 20000; // for the values that a column has already
 constexpr qsizetype mostValues = 200;     // of these in the list
-constexpr QChar paragraphEnd(0x2029);     // a line break, to a text document
 
 bool isLongText(ADODB::DataTypeEnum type)
 {
@@ -59,7 +58,7 @@ QVariant valueOf(const ADODB::Field &field, const QString &text)
 } // namespace
 
 CellEditor::CellEditor(Session &session, GridParts &parts)
-    : m_session(session), m_parts(parts), m_lines(*new QPlainTextEdit(parts.MSFlexGrid1->viewport()))
+    : m_session(session), m_parts(parts), m_lines(*new LinesEdit(parts.MSFlexGrid1->viewport()))
 {
     // As a part of the list's surface it scrolls along and is cut off at the list's edge.
     m_parts.txtEdit->setParent(m_parts.MSFlexGrid1->viewport());
@@ -149,7 +148,11 @@ void CellEditor::open(const ADODB::Field &field, const QString &text, bool isRea
     m_hasLines =
         m_isText && (m_before.contains(u'\n') || (isLongText(field.Type()) && m_before.size() > longestLine));
     if (m_hasLines) {
-        m_lines.setPlainText(text);
+        m_lines.setText(m_before);
+        if (text != m_before) {
+            m_lines.selectAll();
+            m_lines.insertPlainText(text);
+        }
         m_lines.moveCursor(QTextCursor::End);
         m_lines.setReadOnly(isReadOnly);
     } else {
@@ -168,7 +171,7 @@ void CellEditor::breakLine()
         return;
     if (!m_hasLines) {
         const QLineEdit &line = *m_parts.txtEdit;
-        m_lines.setPlainText(line.text());
+        m_lines.setText(line.text());
         m_lines.setReadOnly(false);
         m_lines.setToolTip(GridTexts::LinesHint);
         m_lines.setAccessibleName(line.accessibleName());
@@ -201,12 +204,7 @@ void CellEditor::place()
 
 QString CellEditor::typedText() const
 {
-    if (!m_hasLines)
-        return m_parts.txtEdit->text();
-    // The plain text would have blanks in place of those that don't break.
-    QString text = m_lines.document()->toRawText();
-    text.replace(paragraphEnd, m_before.contains("\r\n"_L1) ? u"\r\n"_s : u"\n"_s);
-    return text;
+    return m_hasLines ? m_lines.text() : m_parts.txtEdit->text();
 }
 
 // What the field can refer to, or the texts that the column has already. Who has typed something looks for

@@ -8,8 +8,6 @@
 #include <memory>
 #include <optional>
 
-class QPlainTextEdit;
-
 namespace ADODB {
 class Field;
 class Recordset;
@@ -18,6 +16,7 @@ class Recordset;
 namespace KOVAVSFDataGridLib {
 
 class GridParts;
+class LinesEdit;
 class Session;
 struct ListedValues;
 
@@ -81,7 +80,7 @@ private:
 
     Session &m_session;
     GridParts &m_parts;
-    QPlainTextEdit &m_lines;
+    LinesEdit &m_lines;
     std::weak_ptr<ADODB::Recordset> m_recordset; // whose record is edited, while it is open
     bool m_hasLines = false;                     // whether m_lines is the one in use
     bool m_isReadOnly = false;

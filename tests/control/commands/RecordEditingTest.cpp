@@ -214,6 +214,63 @@ TEST_F(RecordEditing, ALongTextHasSeveralLines)
     EXPECT_EQ(hex(1), u"610D0A62C2A0630D0A64"_s) << "the line breaks of the text, and its blank";
 }
 
+TEST_F(RecordEditing, EndsOfLinesStayAsTheyAreWhereNothingIsTyped)
+{
+    const QStringList texts{
+        u"a\r\nb\nc"_s,          u"a\rb\nc"_s,     u"a\r\r\nb"_s,         u"\n\r"_s,
+        u"a\u2029b\nc\u2028d"_s, u"a\uFDD0b\nc"_s, u"\uFDD1\r\n\uFFFC"_s, u"a\n\U0001F600\r"_s};
+    database.run(u"CREATE TABLE 备忘 (ID INTEGER PRIMARY KEY, 内容 TEXT, 备注 TEXT)"_s);
+    const auto hex = [this] { return database.ask(u"SELECT hex(内容) FROM 备忘"_s); };
+    const auto isHexOf = [&](const QString &text) {
+        EXPECT_EQ(hex(), QString::fromLatin1(text.toUtf8().toHex().toUpper())) << qPrintable(text);
+    };
+    for (const QString &text : texts) {
+        database.run(u"DELETE FROM 备忘; INSERT INTO 备忘 VALUES (1, CAST(x'%1' AS TEXT), 'a')"_s.arg(
+            QString::fromLatin1(text.toUtf8().toHex())));
+        ASSERT_TRUE(load(u"SELECT * FROM 备忘"_s, {}));
+        click(u"SingleRecord"_s);
+        makeCurrent(u"内容"_s);
+        QTest::keyClick(list, Qt::Key_F2);
+        ASSERT_TRUE(lines()->isVisible());
+        QTest::keyClick(lines(), Qt::Key_Return);
+        makeCurrent(u"备注"_s);
+        QTest::keyClick(list, 'b');
+        QTest::keyClick(edit, Qt::Key_Return);
+        click(u"AllRecord"_s);
+        EXPECT_EQ(database.ask(u"SELECT 备注 FROM 备忘"_s), u"b"_s);
+        isHexOf(text);
+
+        for (const Qt::Key end : {Qt::Key_End, Qt::Key_Home}) {
+            click(u"SingleRecord"_s);
+            makeCurrent(u"内容"_s);
+            QTest::keyClick(list, Qt::Key_F2);
+            QTest::keyClick(lines(), end, Qt::ControlModifier);
+            QTest::keyClicks(lines(), u"x"_s);
+            QTest::keyClick(lines(), Qt::Key_Return);
+            click(u"AllRecord"_s);
+            isHexOf(end == Qt::Key_End ? text + u'x' : u'x' + text + u'x');
+        }
+    }
+}
+
+TEST_F(RecordEditing, ALineThatIsTakenOutLeavesTheOthers)
+{
+    database.run(
+        u"CREATE TABLE 备忘 (ID INTEGER PRIMARY KEY, 内容 TEXT);"
+        "INSERT INTO 备忘 VALUES (1, 'a' || char(13,10) || 'b' || char(10) || 'c' || char(13) || 'd')"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 备忘"_s, {}));
+    click(u"SingleRecord"_s);
+    makeCurrent(u"内容"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    QTest::keyClick(lines(), Qt::Key_Home, Qt::ControlModifier);
+    QTest::keyClick(lines(), Qt::Key_Down);
+    QTest::keyClick(lines(), Qt::Key_Delete);
+    QTest::keyClick(lines(), Qt::Key_Delete);
+    QTest::keyClick(lines(), Qt::Key_Return);
+    click(u"AllRecord"_s);
+    EXPECT_EQ(database.ask(u"SELECT 内容 FROM 备忘"_s), u"a\r\nc\rd"_s);
+}
+
 TEST_F(RecordEditing, ALongTextIsGivenUpWithEsc)
 {
     database.run(u"CREATE TABLE 备忘 (ID INTEGER PRIMARY KEY, 内容 TEXT);"

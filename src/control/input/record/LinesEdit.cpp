@@ -1,0 +1,59 @@
+#include "control/input/record/LinesEdit.h"
+
+#include <QtCore/QList>
+
+#include <algorithm>
+#include <iterator>
+
+namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QChar paragraphEnd(0x2029); // a line break, to a text document
+
+// Where in the text each character begins that a document shows of it, and where the last one ends: CR LF is
+// shown as one, anything else as it is.
+QList<qsizetype> placesOfShown(const QString &text)
+{
+    QList<qsizetype> places;
+    places.reserve(text.size() + 1);
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        places.append(i);
+        if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n')
+            ++i;
+    }
+    places.append(text.size());
+    return places;
+}
+
+} // namespace
+
+void LinesEdit::setText(const QString &text)
+{
+    setPlainText(text);
+    m_text = text;
+    m_shown = document()->toRawText(); // the plain text would have blanks in place of those that don't break
+}
+
+QString LinesEdit::text() const
+{
+    const QString shown = document()->toRawText();
+    if (shown == m_shown)
+        return m_text;
+    const qsizetype shorter = std::min(shown.size(), m_shown.size());
+    const qsizetype head = std::ranges::mismatch(shown, m_shown).in1 - shown.begin();
+    const auto ends = std::mismatch(shown.rbegin(), shown.rbegin() + (shorter - head), m_shown.rbegin());
+    const qsizetype tail = ends.first - shown.rbegin();
+
+    const QString lineEnd = m_text.contains("\r\n"_L1) ? u"\r\n"_s : u"\n"_s;
+    const auto written = [&lineEnd](QString text) { return text.replace(paragraphEnd, lineEnd); };
+    const QList<qsizetype> places = placesOfShown(m_text);
+    if (places.size() != m_shown.size() + 1) // the document shows more or less of it
+        return written(shown);
+    return m_text.first(places[head]) + written(shown.sliced(head, shown.size() - head - tail)) +
+           m_text.sliced(places[m_shown.size() - tail]);
+}
+
+} // namespace KOVAVSFDataGridLib
