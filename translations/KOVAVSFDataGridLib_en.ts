@@ -2264,6 +2264,10 @@
         <source>增加第一条记录</source>
         <translation>Add the First Record</translation>
     </message>
+    <message>
+        <source>此内容超过 %1 个字符，不能在这里修改，请按 F3 查看。</source>
+        <translation>This text has more than %1 characters. It can&apos;t be edited here; press F3 to view it.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::LanguageTexts</name>
@@ -2602,6 +2606,10 @@ Row %1: %2 = %3</translation>
     <message>
         <source>当前单元格不是链接（http、https 或 mailto）。</source>
         <translation>The current cell is not a link (http, https or mailto).</translation>
+    </message>
+    <message>
+        <source>内存不足，操作没有完成。</source>
+        <translation>There is not enough memory. The operation was not completed.</translation>
     </message>
 </context>
 <context>

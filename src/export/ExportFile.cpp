@@ -1,10 +1,13 @@
 #include "export/ExportFile.h"
 
 #include "ado/Error.h"
+#include "ado/Texts.h"
 #include "export/ExportTexts.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QSaveFile>
+
+#include <new>
 
 namespace KOVAVSFDataGridLib {
 
@@ -26,6 +29,8 @@ ExportOutcome exportToFile(const QString &file, const ExportOptions &options,
         outcome.losses = lossesOf(*writer);
     } catch (const ADODB::Error &error) {
         throw cantWrite(error.Description());
+    } catch (const std::bad_alloc &) { // one value can be larger than what is left
+        throw cantWrite(ADODB::Texts::outOfMemory);
     }
     if (outcome.isWritten && !target.commit())
         throw cantWrite(target.errorString());

@@ -6,6 +6,7 @@
 #include "query/SharedValues.h"
 #include "session/HostEvents.h"
 #include "session/Questions.h"
+#include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "session/WindowRules.h"
 #include "session/columns/ColumnCommand.h"
@@ -132,6 +133,8 @@ void Session::perform(const std::function<void()> &command)
         command();
     } catch (const ADODB::Error &) {
         // What the user should know has been reported.
+    } catch (const std::bad_alloc &) {
+        m_questions->show(SessionMessages::OutOfMemory);
     } catch (const std::exception &error) {
         qWarning("A command failed: %s", error.what());
     }

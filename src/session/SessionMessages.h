@@ -12,6 +12,7 @@ inline constexpr Text OpenErrorPrefix = tr("错误描述为：");
 inline constexpr Text OpenFailed = tr("数据库打开失败。");
 inline constexpr Text ReadFailed = tr("数据库读失败。");
 inline constexpr Text PageErrorPrefix = tr("无法翻页：");
+inline constexpr Text OutOfMemory = tr("内存不足，操作没有完成。");
 inline constexpr Text NotAPageNumber = tr("请在页数输入正整数.");
 inline constexpr Text NotSavedPrefix = tr("记录没有保存：");
 inline constexpr Text NewValuesRefused = tr("无法查看新值：");

@@ -74,6 +74,24 @@ TEST(ExportFile, SaysWhichFileCantBeWritten)
     }
 }
 
+TEST(ExportFile, SaysThatMemoryRanOut)
+{
+    ExportRecords records;
+    records.open(QLatin1StringView(series));
+    const QString file = records.path(u"good.csv"_s);
+    put(file, "good");
+    ExportOptions options;
+    options.format = ExportFormat::Csv;
+    try {
+        exportToFile(file, options, *records.recordset, records.all(), records.columns(),
+                     [](qint64) -> bool { throw std::bad_alloc(); });
+        ADD_FAILURE();
+    } catch (const ADODB::Error &error) {
+        EXPECT_TRUE(error.Description().contains(u"内存不足"_s)) << qPrintable(error.Description());
+    }
+    EXPECT_EQ(contentOf(file), "good");
+}
+
 TEST(ExportFile, WritesSomeRecordsAndColumnsInAnyOrder)
 {
     ExportRecords records(u"CREATE TABLE T (A, B, C); INSERT INTO T VALUES (1,2,3), (4,5,6), (7,8,9)"_s);

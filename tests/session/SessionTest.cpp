@@ -99,6 +99,13 @@ TEST_F(Sessions, ADeletedRecordGoesAndTheNextOneIsCurrent)
     EXPECT_EQ(window.rows.size(), 2);
 }
 
+TEST_F(Sessions, ACommandThatRunsOutOfMemorySaysSo)
+{
+    session->perform([] { throw std::bad_alloc(); });
+    EXPECT_EQ(user.messages, QStringList{u"内存不足，操作没有完成。"_s});
+    EXPECT_FALSE(session->isRunning());
+}
+
 TEST_F(Sessions, AQuestionThatAnotherLoadOvertakesEndsItsCommand)
 {
     ASSERT_TRUE(load());

@@ -11,6 +11,7 @@
 #include "filter/FilterTexts.h"
 #include "filter/ValueEdit.h"
 #include "grid/FlexGrid.h"
+#include "language/GroupedNumber.h"
 #include "language/Language.h"
 #include "session/Session.h"
 #include "session/editing/EditedRecord.h"
@@ -31,9 +32,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int linesShown = 6;
-constexpr qsizetype longestLine = 60;     // of a text that gets several lines without having any
-constexpr qint64 recordsSearched = 20000; // for the values that a column has already
-constexpr qsizetype mostValues = 200;     // of these in the list
+constexpr qsizetype longestEdited = 10'000'000; // a text box takes a second or more for longer ones
+constexpr qsizetype longestLine = 60;           // of a text that gets several lines without having any
+constexpr qint64 recordsSearched = 20000;       // for the values that a column has already
+constexpr qsizetype mostValues = 200;           // of these in the list
 
 bool isLongText(ADODB::DataTypeEnum type)
 {
@@ -122,6 +124,8 @@ bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
         return false;
     try {
         const ADODB::Field &field = m_session.result().recordset()->Fields().Item(gridCol - 1);
+        if (refusesLong(field))
+            return false;
         m_before = ADODB::ValueText(field.Value());
         m_isReadOnly = !canWrite(gridCol);
         m_field = gridCol - 1;
@@ -139,6 +143,18 @@ bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
         QToolTip::showText(edit.mapToGlobal(QPoint(0, edit.height())), GridTexts::ReadOnlyCell, &edit);
     else if (!typed && !m_hasLines)
         m_parts.txtEdit->selectAll();
+    return true;
+}
+
+// Says so where the value is too long for a text box, which would take the process down with it.
+bool CellEditor::refusesLong(const ADODB::Field &field) const
+{
+    const QVariant value = field.Value();
+    if (value.typeId() != QMetaType::QString || value.toString().size() <= longestEdited)
+        return false;
+    QWidget &list = *m_parts.MSFlexGrid1->viewport();
+    QToolTip::showText(list.mapToGlobal(list.rect().center()),
+                       GridTexts::TooLongCell.arg(grouped(longestEdited)), &list);
     return true;
 }
 

@@ -35,7 +35,8 @@ public:
 
     // Opens over the list's current row for the field in that column of the main grid (from 1), with its
     // value, or with a text that the user began with. A field that can't be written is opened for reading,
-    // and says so. False when there is no such field or no record.
+    // and says so. False when there is no such field or no record, and when the text is too long to be
+    // edited, which the user has been told.
     bool begin(int gridCol, const std::optional<QString> &typed = {});
     // Whether the field in that column can be written.
     bool canWrite(int gridCol) const;
@@ -66,6 +67,7 @@ private:
     void recordsetChangeComplete(ADODB::EventReasonEnum) override {}
     void observe(const std::shared_ptr<ADODB::Recordset> &recordset);
 
+    bool refusesLong(const ADODB::Field &field) const;
     void open(const ADODB::Field &field, const QString &text, bool isReadOnly);
     // Goes on in several lines.
     void breakLine();

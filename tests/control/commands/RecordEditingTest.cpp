@@ -5,6 +5,7 @@
 #include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QToolTip>
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
@@ -269,6 +270,21 @@ TEST_F(RecordEditing, ALineThatIsTakenOutLeavesTheOthers)
     QTest::keyClick(lines(), Qt::Key_Return);
     click(u"AllRecord"_s);
     EXPECT_EQ(database.ask(u"SELECT 内容 FROM 备忘"_s), u"a\r\nc\rd"_s);
+}
+
+TEST_F(RecordEditing, ATextThatIsTooLongForATextBoxIsNotEdited)
+{
+    database.run(u"CREATE TABLE 备忘 (ID INTEGER PRIMARY KEY, 内容 TEXT);"
+                 "INSERT INTO 备忘 VALUES (1, replace(hex(zeroblob(5000001)), '00', 'ab'))"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 备忘"_s, {}));
+    click(u"SingleRecord"_s);
+    makeCurrent(u"内容"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    EXPECT_FALSE(lines()->isVisible());
+    EXPECT_FALSE(edit->isVisible());
+    EXPECT_TRUE(QToolTip::text().contains(u"F3"_s)) << qPrintable(QToolTip::text());
+    click(u"AllRecord"_s);
+    EXPECT_EQ(database.ask(u"SELECT length(内容) FROM 备忘"_s), u"10000002"_s);
 }
 
 TEST_F(RecordEditing, ALongTextIsGivenUpWithEsc)
