@@ -12,6 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QChar paragraphEnd(0x2029); // a line break, to a text document
+constexpr qsizetype longestOfWords = 10'000;
 
 // Where in the text each character begins that a document shows of it, and where the last one ends: CR LF is
 // shown as one, anything else as it is.
@@ -28,10 +29,26 @@ QList<qsizetype> placesOfShown(const QString &text)
     return places;
 }
 
+// Looking for the words of a line takes the square of its length when it has none: minutes for a picture in
+// base64.
+QTextOption::WrapMode wrapModeFor(const QString &text)
+{
+    qsizetype begin = 0;
+    while (begin < text.size()) {
+        const qsizetype end = text.indexOf(u'\n', begin);
+        const qsizetype length = (end < 0 ? text.size() : end) - begin;
+        if (length > longestOfWords)
+            return QTextOption::WrapAnywhere;
+        begin += length + 1;
+    }
+    return QTextOption::WrapAtWordBoundaryOrAnywhere;
+}
+
 } // namespace
 
 void LinesEdit::setText(const QString &text)
 {
+    setWordWrapMode(wrapModeFor(text));
     setPlainText(text);
     m_text = text;
     m_shown = document()->toRawText(); // the plain text would have blanks in place of those that don't break
