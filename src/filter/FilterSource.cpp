@@ -62,12 +62,11 @@ void FilterSource::setResult(const FilteredResult &result)
 
 Dialect FilterSource::dialect() const
 {
-    const EngineMode mode = engineOf(m_connection);
-    return {.database = m_database,
-            .isOdbc = leadsToOdbc(m_connectionString),
-            .escapesByBackslash = m_escapesByBackslash,
-            .engine = mode.engine,
-            .ansiQuotes = mode.quoting.ansiQuotes};
+    Dialect dialect = dialectOf(m_database, engineOf(m_connection));
+    dialect.isOdbc =
+        leadsToOdbc(m_connectionString); // known before it is opened, and of SQLite's driver as well
+    dialect.escapesByBackslash = m_escapesByBackslash;
+    return dialect;
 }
 
 const std::shared_ptr<ADODB::Connection> &FilterSource::connection()

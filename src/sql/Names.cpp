@@ -84,6 +84,11 @@ QString quotedName(const Dialect &dialect, const QString &name)
     return enclosed(u'"', name, u'"');
 }
 
+QString nameInBrackets(const Dialect &dialect, const QString &name)
+{
+    return dialect.engine == Engine::Other ? enclosedAsIs(u'[', name, u']') : quotedName(dialect, name);
+}
+
 QString enclosed(QChar opening, QString name, QChar closing)
 {
     return opening + name.replace(closing, QString(2, closing)) + closing;

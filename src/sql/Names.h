@@ -18,6 +18,10 @@ QString writtenName(const Dialect &dialect, const QString &name);
 // The name in the engine's quotes, whether it needs them or not. Quotes inside are doubled.
 QString quotedName(const Dialect &dialect, const QString &name);
 
+// The same where the host declares Access: a name in brackets, if the engine reads these. For an unknown
+// engine it stays as it is inside them, because such an engine may not read a doubled bracket as one.
+QString nameInBrackets(const Dialect &dialect, const QString &name);
+
 // The text between two quote characters, the closing one doubled inside.
 QString enclosed(QChar opening, QString name, QChar closing);
 // The same with quotes inside left as they are, for an unknown engine, which may not read a doubled one as

@@ -43,8 +43,9 @@ struct Product
 const std::array cities{u"北京"_s, u"上海"_s, u"广州"_s, u"深圳"_s, u"杭州"_s, u"南京"_s,
                         u"成都"_s, u"武汉"_s, u"西安"_s, u"青岛"_s, u"厦门"_s, u"长沙"_s,
                         u"天津"_s, u"苏州"_s, u"昆明"_s, u"大连"_s};
-const std::array companies{u"恒昌"_s, u"万通"_s, u"金桥"_s, u"华信"_s, u"明达"_s, u"宏远"_s, u"瑞丰"_s, u"天成"_s,
-                       u"永利"_s, u"新宇"_s, u"东方"_s, u"海纳"_s, u"佳和"_s, u"同仁"_s, u"博雅"_s};
+const std::array companies{u"恒昌"_s, u"万通"_s, u"金桥"_s, u"华信"_s, u"明达"_s,
+                           u"宏远"_s, u"瑞丰"_s, u"天成"_s, u"永利"_s, u"新宇"_s,
+                           u"东方"_s, u"海纳"_s, u"佳和"_s, u"同仁"_s, u"博雅"_s};
 const std::array trades{u"贸易有限公司"_s, u"百货公司"_s, u"食品商行"_s, u"超市"_s};
 const std::array surnames{u"王"_s, u"李"_s, u"张"_s, u"刘"_s, u"陈"_s,
                           u"杨"_s, u"赵"_s, u"黄"_s, u"周"_s, u"吴"_s};

@@ -2,7 +2,6 @@
 
 #include "query/CharText.h"
 #include "query/QueryTexts.h"
-#include "sql/Brackets.h"
 #include "sql/Like.h"
 #include "sql/Literals.h"
 #include "sql/Names.h"
@@ -123,8 +122,7 @@ std::optional<QString> nameOfSearched(const TypedField &field, AllDBType databas
     const Dialect dialect = dialectOf(database, mode);
     if (database != dbAccess || !readsBrackets(engine))
         return writtenName(dialect, field.name);
-    return (qualifier.isEmpty() ? QString() : qualifier + u'.') +
-           (engine == Engine::Other ? inBrackets(field.name) : quotedName(dialect, field.name));
+    return (qualifier.isEmpty() ? QString() : qualifier + u'.') + nameInBrackets(dialect, field.name);
 }
 
 std::optional<std::vector<SearchedField>> searchedFields(std::span<const TypedField> fields,
@@ -327,7 +325,9 @@ CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoTyp
         return {realName + QStringLiteral(" IS NULL"), {}};
     // 9 and 9.0 look alike, and SQLite computes either.
     if (isComputed && engine == Engine::SQLite && isNumberText(*cellText))
-        return {QStringLiteral("(%1 = %2 OR %1 like '%2')").arg(realName, *cellText), {}};
+        return {QStringLiteral("(%1 = %2 OR %1 like %3)")
+                    .arg(realName, *cellText, literalOf({}, mode, *cellText)),
+                {}};
     if (!isText)
         return {numberCondition(realName, *adoType, *cellText, mode, isComputed), {}};
     if (cellText->contains(u'\''))

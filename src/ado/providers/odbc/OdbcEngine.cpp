@@ -1,6 +1,7 @@
 #include "ado/providers/odbc/OdbcEngine.h"
 
 #include "ado/providers/odbc/OdbcHandle.h"
+#include "sql/Names.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -80,8 +81,11 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
 
 QString OdbcEngine::quoted(const QString &name) const
 {
-    const QString close = quote == "["_L1 ? u"]"_s : quote;
-    return quote + QString(name).replace(close, close + close) + close;
+    if (quote.isEmpty())
+        return name;
+    const QChar opening = quote.front();
+    const QChar closing = KOVAVSFDataGridLib::closingQuote(opening);
+    return KOVAVSFDataGridLib::enclosed(opening, name, closing.isNull() ? opening : closing);
 }
 
 } // namespace ADODB

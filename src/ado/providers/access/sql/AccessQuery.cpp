@@ -1,5 +1,7 @@
 #include "ado/providers/access/sql/AccessQuery.h"
 
+#include "sql/Brackets.h"
+
 #include <QtCore/QSet>
 #include <QtCore/QStringList>
 
@@ -8,6 +10,8 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
+
+using KOVAVSFDataGridLib::inBrackets;
 
 namespace {
 
@@ -20,11 +24,6 @@ enum Option : qint64 {
     TopPercent = 0x20
 };
 enum Join : qint64 { InnerJoin = 1, LeftJoin = 2, RightJoin = 3 };
-
-QString bracketed(const QString &name)
-{
-    return u'[' + name + u']';
-}
 
 // A name by which the other parts call the table.
 QString aliasOf(const AccessQuery::Row &table)
@@ -107,8 +106,8 @@ private:
             if (aliasOf(table) != alias)
                 continue;
             const QString what =
-                table.name1.isEmpty() ? u'(' + table.expression + u')' : bracketed(table.name1);
-            return alias == table.name1 ? what : what + " AS "_L1 + bracketed(alias);
+                table.name1.isEmpty() ? u'(' + table.expression + u')' : inBrackets(table.name1);
+            return alias == table.name1 ? what : what + " AS "_L1 + inBrackets(alias);
         }
         return {};
     }
@@ -163,7 +162,7 @@ QStringList columnsOf(const AccessQuery &query, qint64 options)
 {
     QStringList columns;
     for (const AccessQuery::Row &row : partsOf(query, AccessQuery::ColumnRow))
-        columns += row.name1.isEmpty() ? row.expression : row.expression + " AS "_L1 + bracketed(row.name1);
+        columns += row.name1.isEmpty() ? row.expression : row.expression + " AS "_L1 + inBrackets(row.name1);
     if (columns.isEmpty() || options & AllFields)
         columns += u"*"_s;
     return columns;
