@@ -24,9 +24,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHeaderView>
-#include <QtWidgets/QPushButton>
 
 #include <algorithm>
 
@@ -50,12 +48,6 @@ bool isWritable(const ADODB::Field &field)
     return (field.Attributes() & (ADODB::adFldUpdatable | ADODB::adFldUnknownUpdatable)) != 0;
 }
 
-void setHint(QWidget &widget, const QString &hint)
-{
-    widget.setToolTip(hint);
-    widget.setAccessibleName(hint);
-}
-
 bool carriesText(const QInputMethodEvent &event)
 {
     return !event.preeditString().isEmpty() || !event.commitString().isEmpty();
@@ -69,24 +61,18 @@ SingleRecordView::SingleRecordView(QWidget &control, InputEvents &host, Session 
       m_session(session),
       m_parts(parts),
       m_pictureFields(session, control),
-      m_pictures(newPictureBox()),
-      m_previous(newStepButton(CommandKeys::PreviousRecord, u"◀"_s)),
-      m_next(newStepButton(CommandKeys::NextRecord, u"▶"_s)),
+      m_heading(*parts.MSFlexGrid1->horizontalHeader()),
       m_editor(session, parts)
 {
     MSFlexGrid &list = *parts.MSFlexGrid1;
     Language::keepTranslated(list, [this] {
-        m_pictures->setText(GridTexts::Pictures);
-        m_pictures->setToolTip(GridTexts::PicturesTip);
-        m_pictures->setAccessibleDescription(GridTexts::PicturesTip);
-        setHint(*m_previous, GridTexts::PreviousRecord);
-        setHint(*m_next, GridTexts::NextRecord);
         if (m_parts.MSFlexGrid1->Cols() > valueCol) {
             m_parts.MSFlexGrid1->PutTextMatrix(0, nameCol, GridTexts::FieldNameHeading);
             m_parts.MSFlexGrid1->PutTextMatrix(0, valueCol, GridTexts::FieldValueHeading);
         }
     });
-    auto *const delegate = new RecordDelegate(m_fields, this);
+    auto *const delegate = new RecordDelegate(
+        m_fields, [this](int field) { return isNull(field); }, this);
     list.setItemDelegateForColumn(nameCol, delegate);
     list.setItemDelegateForColumn(valueCol, delegate);
     list.installEventFilter(this);
@@ -97,25 +83,8 @@ SingleRecordView::SingleRecordView(QWidget &control, InputEvents &host, Session 
         m_session.record().commitEdit();              // last, because the host may delete the control
     });
     connect(&m_editor, &CellEditor::saveWanted, this, &SingleRecordView::saveWanted);
-}
-
-QCheckBox *SingleRecordView::newPictureBox()
-{
-    auto *const box = new QCheckBox(m_parts.MSFlexGrid1->horizontalHeader());
-    box->setObjectName(u"chkPictures"_s);
-    box->setFocusPolicy(Qt::NoFocus); // the keyboard has Ctrl+Shift+I
-    connect(box, &QCheckBox::clicked, this, &SingleRecordView::togglePictures);
-    return box;
-}
-
-QPushButton *SingleRecordView::newStepButton(const QString &key, const QString &arrow)
-{
-    auto *const button = new QPushButton(arrow, m_parts.MSFlexGrid1->horizontalHeader());
-    button->setObjectName(u"cmd"_s + key);
-    button->setFlat(true);
-    button->setFocusPolicy(Qt::NoFocus); // the keyboard has Alt+PgUp and Alt+PgDown
-    connect(button, &QPushButton::clicked, this, [this, key] { Q_EMIT commandWanted(key); });
-    return button;
+    connect(&m_heading, &RecordHeading::picturesClicked, this, &SingleRecordView::togglePictures);
+    connect(&m_heading, &RecordHeading::commandWanted, this, &SingleRecordView::commandWanted);
 }
 
 // What is being typed is taken first.
@@ -127,17 +96,7 @@ void SingleRecordView::togglePictures()
     if (isTaken)
         FillSingleRecordView();
     else
-        m_pictures->toggle();
-}
-
-void SingleRecordView::placeHeadingParts()
-{
-    const QSize header = m_parts.MSFlexGrid1->horizontalHeader()->size();
-    const int width = m_parts.MSFlexGrid1->fontMetrics().horizontalAdvance(u"▶▶"_s);
-    m_previous->setGeometry(header.width() - 2 * width, 0, width, header.height());
-    m_next->setGeometry(header.width() - width, 0, width, header.height());
-    const int tick = m_pictures->sizeHint().width();
-    m_pictures->setGeometry(header.width() - 2 * width - tick, 0, tick, header.height());
+        m_heading.undoClick();
 }
 
 void SingleRecordView::show()
@@ -200,11 +159,11 @@ void SingleRecordView::listFields()
         listed.isRequired = !m_session.record().isReadOnly() && isWritable(field) &&
                             (field.Attributes() & ADODB::adFldIsNullable) == 0;
         hasBinary |= listed.isBinary;
-        if (!isListed(field) && !m_pictures->isChecked())
+        if (!isListed(field) && !m_heading.hasPictures())
             continue;
         m_fields.push_back(std::move(listed));
     }
-    m_pictures->setVisible(hasBinary);
+    m_heading.offerPictures(hasBinary);
 }
 
 // Rows with a picture are higher.
@@ -215,7 +174,7 @@ void SingleRecordView::showPictures()
     for (std::size_t row = 0; row < m_fields.size(); ++row) {
         ListedField &listed = m_fields[row];
         try {
-            if (listed.isBinary && m_pictures->isChecked())
+            if (listed.isBinary && m_heading.hasPictures())
                 listed.picture = PicturePane::pictureIn(
                     m_session.result().recordset()->Fields().Item(listed.field).Value().toByteArray());
         } catch (const ADODB::Error &) {
@@ -232,6 +191,16 @@ QString SingleRecordView::valueText(int field) const
         return ADODB::ValueText(m_session.result().recordset()->Fields().Item(field).Value());
     } catch (const ADODB::Error &) {
         return {}; // there is no current record
+    }
+}
+
+bool SingleRecordView::isNull(int field) const
+{
+    try {
+        return m_session.result().isOpen() &&
+               !m_session.result().recordset()->Fields().Item(field).Value().isValid();
+    } catch (const ADODB::Error &) {
+        return false; // there is no current record
     }
 }
 
@@ -290,10 +259,6 @@ bool SingleRecordView::handleEvent(QObject *watched, QEvent *event)
 {
     const auto *source = static_cast<const QWidget *>(watched);
     switch (event->type()) {
-    case QEvent::Resize:
-        if (watched == m_parts.MSFlexGrid1->horizontalHeader()->viewport())
-            placeHeadingParts();
-        return false;
     case QEvent::ShortcutOverride:
         // A record that has changes is saved by the key that exports otherwise, and a picture cleared by the
         // one that leads to another view.
@@ -329,8 +294,8 @@ bool SingleRecordView::keyPressed(const QKeyEvent &event)
 {
     if (event.key() == Qt::Key_F2 || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
         return editCurrent();
-    if (isPictures(event) && m_pictures->isVisible()) {
-        m_pictures->click();
+    if (isPictures(event) && m_heading.arePicturesOffered()) {
+        m_heading.clickPictures();
         return true;
     }
     if (isClear(event) && isPictureCurrent()) {
@@ -355,7 +320,7 @@ bool SingleRecordView::keyPressed(const QKeyEvent &event)
 bool SingleRecordView::isPictureCurrent() const
 {
     const int row = m_parts.MSFlexGrid1->Row();
-    return m_pictures->isChecked() && row >= 1 && m_fields[static_cast<std::size_t>(row - 1)].isBinary;
+    return m_heading.hasPictures() && row >= 1 && m_fields[static_cast<std::size_t>(row - 1)].isBinary;
 }
 
 bool SingleRecordView::editCurrent()

@@ -3,16 +3,15 @@
 #include "control/input/CellEditor.h"
 #include "control/input/record/ListedField.h"
 #include "control/input/record/PictureFields.h"
+#include "control/input/record/RecordHeading.h"
 #include "session/SessionWindow.h"
 
 #include <QtCore/QObject>
 
 #include <vector>
 
-class QCheckBox;
 class QKeyEvent;
 class QMouseEvent;
-class QPushButton;
 class QWidget;
 
 namespace KOVAVSFDataGridLib {
@@ -65,20 +64,16 @@ private:
     void listFields();
     void showPictures();
     void fitNameColumn();
-    QCheckBox *newPictureBox();
     void togglePictures();
-    QPushButton *newStepButton(const QString &key, const QString &arrow);
-    void placeHeadingParts();
     QString valueText(int field) const;
+    bool isNull(int field) const;
 
     QWidget &m_control;
     InputEvents &m_host;
     Session &m_session;
     GridParts &m_parts;
     PictureFields m_pictureFields;
-    QCheckBox *m_pictures; // in the heading's right end, as the buttons
-    QPushButton *m_previous;
-    QPushButton *m_next;
+    RecordHeading m_heading;
     std::vector<ListedField> m_fields; // of the rows below the heading
     CellEditor m_editor;
 };

@@ -38,6 +38,13 @@ QColor CellDelegate::pale(QColor colour)
     return colour;
 }
 
+void CellDelegate::showNull(QStyleOptionViewItem &option)
+{
+    option.text = nullText();
+    for (const auto role : {QPalette::Text, QPalette::HighlightedText})
+        option.palette.setColor(role, pale(option.palette.color(role)));
+}
+
 QString CellDelegate::displayText(const QVariant &value, const QLocale &) const
 {
     return shownText(value.toString());
@@ -53,11 +60,8 @@ void CellDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelInd
     const int col = index.column() + cells->fixedCols();
     if (cells->hasFormats())
         option->text = shownText(cells->shownText(row, col));
-    if (option->text.isEmpty() && cells->isShownNull(row, col)) {
-        option->text = nullText();
-        for (const auto role : {QPalette::Text, QPalette::HighlightedText})
-            option->palette.setColor(role, pale(option->palette.color(role)));
-    }
+    if (option->text.isEmpty() && cells->isShownNull(row, col))
+        showNull(*option);
 }
 
 void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,

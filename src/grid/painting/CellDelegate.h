@@ -20,6 +20,8 @@ public:
     // What is drawn where there is no value, and the colour of a text turned into that in which it is drawn.
     static QString nullText();
     static QColor pale(QColor colour);
+    // Makes an option draw it.
+    static void showNull(QStyleOptionViewItem &option);
 
     using QStyledItemDelegate::QStyledItemDelegate;
 

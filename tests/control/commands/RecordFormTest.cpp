@@ -37,6 +37,18 @@ struct RecordForm : Shop
         }
         return false;
     }
+    // Whether anything is drawn in a field's value.
+    bool hasSign(const QString &field) const
+    {
+        const QImage shown = list->viewport()->grab(cell(field, 1).adjusted(2, 2, -2, -2)).toImage();
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x) {
+                if (shown.pixel(x, y) != shown.pixel(0, 0))
+                    return true;
+            }
+        }
+        return false;
+    }
     QCheckBox &pictures() const { return *list->findChild<QCheckBox *>(u"chkPictures"_s); }
     QString pictureFile(const QColor &colour)
     {
@@ -90,6 +102,41 @@ TEST_F(RecordForm, NamesOfFieldsThatTakeNoNullAreMarked)
     click(u"SingleRecord"_s);
     list->clearSelection();
     EXPECT_FALSE(isMarked(u"名称"_s)) << "there is nothing to fill in";
+}
+
+TEST_F(RecordForm, AFieldWithoutAValueIsToldFromAnEmptyText)
+{
+    database.run(u"UPDATE 商品 SET 名称 = '' WHERE ID = 9"_s);
+    ASSERT_TRUE(load());
+    clickCell(9, 1);
+    click(u"SingleRecord"_s);
+    list->setCurrentIndex(list->model()->index(listedRow(u"ID"_s), 0));
+    list->clearSelection();
+    EXPECT_FALSE(hasSign(u"名称"_s));
+    EXPECT_TRUE(hasSign(u"城市"_s));
+    EXPECT_EQ(listed(u"城市"_s), QString()) << "its text stays empty";
+
+    makeCurrent(u"城市"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    edit->setText(u"x"_s);
+    edit->clear();
+    QTest::keyClick(edit, Qt::Key_Return);
+    list->clearSelection();
+    EXPECT_TRUE(hasSign(u"城市"_s)) << "nothing was changed";
+    QTest::keyClick(list, Qt::Key_F2);
+    edit->setText(u"x"_s);
+    QTest::keyClick(edit, Qt::Key_Return);
+    QTest::keyClick(list, Qt::Key_F2);
+    edit->clear();
+    QTest::keyClick(edit, Qt::Key_Return);
+    list->clearSelection();
+    list->setCurrentIndex(list->model()->index(listedRow(u"ID"_s), 0));
+    list->clearSelection();
+    EXPECT_FALSE(hasSign(u"城市"_s)) << "an emptied text is empty, not missing";
+    makeCurrent(u"城市"_s);
+    QTest::keyClick(list, Qt::Key_F2);
+    QTest::keyClick(edit, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_TRUE(hasSign(u"城市"_s));
 }
 
 TEST_F(RecordForm, ACopyHasAllValuesButTheKey)

@@ -16,8 +16,9 @@ constexpr int nameColumn = 0;
 
 } // namespace
 
-RecordDelegate::RecordDelegate(const std::vector<ListedField> &fields, QObject *parent)
-    : CellDelegate(parent), m_fields(fields)
+RecordDelegate::RecordDelegate(const std::vector<ListedField> &fields, std::function<bool(int)> isNull,
+                               QObject *parent)
+    : CellDelegate(parent), m_fields(fields), m_isNull(std::move(isNull))
 {
 }
 
@@ -47,6 +48,14 @@ void RecordDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
     painter->drawText(option.rect.adjusted(0, 0, -margin, 0), Qt::AlignRight | Qt::AlignVCenter,
                       QStringLiteral("*"));
     painter->restore();
+}
+
+void RecordDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    CellDelegate::initStyleOption(option, index);
+    const ListedField *const field = fieldOf(index);
+    if (field && index.column() != nameColumn && option->text.isEmpty() && m_isNull(field->field))
+        showNull(*option);
 }
 
 void RecordDelegate::paintPicture(QPainter &painter, const QStyleOptionViewItem &option,
