@@ -26,6 +26,7 @@ public:
     QString tableStatement(const QString &table) const override;
     QString engineName() const override { return m_engine.dbmsName; }
     SqlQuoting quoting() const override { return m_engine.quoting; }
+    bool isRepeatable() const override { return m_engine.isServer(); }
     void close() override;
     bool isOpen() const override;
 
