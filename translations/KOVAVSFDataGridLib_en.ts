@@ -509,6 +509,14 @@
         <source>取消排序(&amp;C)</source>
         <translation>&amp;Clear Sort</translation>
     </message>
+    <message>
+        <source>左移(&amp;B)</source>
+        <translation>&amp;Move Left</translation>
+    </message>
+    <message>
+        <source>右移(&amp;N)</source>
+        <translation>Mo&amp;ve Right</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::Command</name>

@@ -3,8 +3,10 @@
 #include "ado/Enums.h"
 #include "ado/values/RawValue.h"
 
+#include <QtCore/QByteArray>
 #include <QtCore/QString>
 
+#include <memory>
 #include <vector>
 
 namespace KOVAVSFDataGridLib {
@@ -21,6 +23,18 @@ struct ExportColumn
 
 using ExportColumns = std::vector<ExportColumn>;
 
+// Makes texts of records, for one thread.
+class RowTexts
+{
+public:
+    RowTexts() = default;
+    virtual ~RowTexts() = default;
+    Q_DISABLE_COPY_MOVE(RowTexts)
+
+    // `cells` are the record's, by field number.
+    virtual void append(QByteArray &text, const std::vector<ADODB::RawValue> &cells) = 0;
+};
+
 // Writes records in one format. Call begin() once, row() for each record, and end() once.
 class RecordWriter
 {
@@ -29,11 +43,16 @@ public:
     virtual ~RecordWriter() = default;
     Q_DISABLE_COPY_MOVE(RecordWriter)
 
-    // All three throw ADODB::Error when the result can't be written.
+    // These throw ADODB::Error when the result can't be written.
     virtual void begin(const ExportColumns &columns) = 0;
     // `cells` are the record's, by field number.
     virtual void row(const std::vector<ADODB::RawValue> &cells) = 0;
     virtual void end() = 0;
+
+    // Where the text of a record says nothing of those before: what makes these texts, to be handed to add()
+    // in the place of row(). After begin(). Null for other formats.
+    virtual std::unique_ptr<RowTexts> newRowTexts() const { return nullptr; }
+    virtual void add(QByteArrayView /*text*/) {}
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -185,31 +185,16 @@ std::vector<FilterField> FilterSource::readOfferedFields()
     return fields;
 }
 
-QStringList FilterSource::readValues(const FilterField &field)
+ValueRequest FilterSource::valueRequest(const FilterField &field, int most)
 {
-    ADODB::Recordset values;
-    values.Open(m_prefix + FilterSql::distinctValues(dialect(), field.written, m_fromText, mostValues),
-                connection());
-    QStringList texts;
-    for (qint64 record = 1; record <= values.RecordCount(); ++record) {
-        if (const QString text = values.CellText(record, 0); !text.isEmpty())
-            texts.append(text);
-    }
-    return texts;
-}
-
-std::optional<ValueRequest> FilterSource::valueRequest(const FilterField &field, int most)
-{
-    if (m_isShared)
-        return {};
     constexpr int recordsOfSample = 10000;
-    return ValueRequest{
-        .connection = connection(),
-        .values = m_prefix + FilterSql::distinctValues(dialect(), field.written, m_fromText, most + 1),
-        .count = m_prefix + FilterSql::countOfDistinctValues(field.written, m_fromText),
-        .sample =
-            m_prefix + FilterSql::sampleOfValues(dialect(), field.written, m_fromText, most, recordsOfSample),
-        .most = most};
+    return {.connection = connection(),
+            .values = m_prefix + FilterSql::distinctValues(dialect(), field.written, m_fromText, most + 1),
+            .count = m_prefix + FilterSql::countOfDistinctValues(field.written, m_fromText),
+            .sample = m_prefix +
+                      FilterSql::sampleOfValues(dialect(), field.written, m_fromText, most, recordsOfSample),
+            .most = most,
+            .isHere = m_isShared};
 }
 
 ValueRequest FilterSource::tickRequest(const FilterField &field, const QString &condition,
@@ -224,7 +209,6 @@ ValueRequest FilterSource::tickRequest(const FilterField &field, const QString &
             .sample = m_prefix + statements.sample(most),
             .most = most,
             .withoutValue = search.isEmpty() ? m_prefix + statements.countOfEmpty() : QString(),
-            .isCounted = true,
             .areDays = areDays,
             .isHere = m_isShared};
 }

@@ -45,11 +45,9 @@ public:
 
     // The table's fields in its order. A name that several tables share is qualified by the table's.
     std::vector<FilterField> readFields();
-    // At most mostValues values that the field has, in order.
-    QStringList readValues(const FilterField &field);
-    // The same for a thread of its own: how at most `most` values are read. Until they are, nothing else may
-    // be asked of this object. Nothing for a connection that is shared, or a host's own way to connect.
-    std::optional<ValueRequest> valueRequest(const FilterField &field, int most);
+    // How at most `most` values that the field has are read, in order. Until they are, nothing else may be
+    // asked of this object.
+    ValueRequest valueRequest(const FilterField &field, int most);
     // How the values of the field are read for ticks, with their counts. `condition` is what the records meet
     // already; it may be empty. `search` is a text that the values contain. While they are read, nothing else
     // may be asked of this object.

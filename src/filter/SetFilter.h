@@ -88,7 +88,6 @@ private:
     QString conditionByHand();
     // Values that were read once are shown again without asking the database.
     void offerValues(const FilterField &field, ValueEdit &edit, int most);
-    void readValuesHere(const FilterField &field, ValueEdit &edit);
     void onValuesArrived();
     void stopReading();
     void show(const QString &notice);

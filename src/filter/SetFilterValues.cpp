@@ -22,10 +22,8 @@ void SetFilter::offerValues(const FilterField &field, ValueEdit &edit, int most)
     if (known != m_knownValues.constEnd() && (!known->hasMore || known->values.size() >= most))
         return edit.showValues(*known);
     try {
-        auto request = m_source.valueRequest(field, most);
-        if (!request)
-            return readValuesHere(field, edit);
-        m_reading = std::make_unique<ValueReading>(std::move(*request));
+        const WaitCursor waiting;
+        m_reading = std::make_unique<ValueReading>(m_source.valueRequest(field, most));
     } catch (const ADODB::Error &error) {
         return show(FilterTexts::ValuesUnreadable.arg(error.Description()));
     }
@@ -37,25 +35,6 @@ void SetFilter::offerValues(const FilterField &field, ValueEdit &edit, int most)
         onValuesArrived();
     else
         edit.showReading();
-}
-
-// Through a connection that the control uses as well.
-void SetFilter::readValuesHere(const FilterField &field, ValueEdit &edit)
-{
-    const QPointer<SetFilter> alive(this);
-    const QPointer<ValueEdit> asked(&edit);
-    try {
-        const WaitCursor waiting;
-        const OfferedValues values{.values = m_source.readValues(field)};
-        if (!alive || !asked)
-            return;
-        show(values.values.isEmpty() ? FilterTexts::NoValues : QString());
-        m_knownValues.insert(field.written, values);
-        edit.showValues(values);
-    } catch (const ADODB::Error &error) {
-        if (alive)
-            show(FilterTexts::ValuesUnreadable.arg(error.Description()));
-    }
 }
 
 void SetFilter::onValuesArrived()

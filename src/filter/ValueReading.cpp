@@ -15,7 +15,10 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr int limitOfSample = 2000; // milliseconds
+// Milliseconds; the others for what the caller's thread does itself.
+constexpr int limitOfSample = 2000;
+constexpr int limitHere = 1000;
+constexpr int limitOfSampleHere = 500;
 constexpr int millisecondsOfSecond = 1000;
 
 bool isCancelled(const ADODB::Error &error)
@@ -25,7 +28,9 @@ bool isCancelled(const ADODB::Error &error)
 
 } // namespace
 
-ValueReading::ValueReading(ValueRequest request) : m_request(std::move(request))
+ValueReading::ValueReading(ValueRequest request)
+    : m_request(std::move(request)),
+      m_limit(m_request.isHere ? std::min(m_request.limit, limitHere) : m_request.limit)
 {
     if (m_request.isHere)
         run();
@@ -69,7 +74,7 @@ void ValueReading::put(OfferedValues values)
 
 void ValueReading::run()
 {
-    const QDeadlineTimer due(m_request.limit);
+    const QDeadlineTimer due(m_limit);
     QString failure;
     try {
         read([&] { return !m_isStopped && !due.hasExpired(); });
@@ -99,7 +104,7 @@ void ValueReading::read(const std::function<bool()> &shouldContinue)
         if (m_isStopped || !isCancelled(error))
             throw;
         // The time is over: a sorted list gives nothing before it is whole.
-        const QDeadlineTimer due(limitOfSample);
+        const QDeadlineTimer due(m_request.isHere ? limitOfSampleHere : limitOfSample);
         try {
             read = valuesOf(m_request.sample, [&] { return !m_isStopped && !due.hasExpired(); });
         } catch (const ADODB::Error &late) {
@@ -107,7 +112,7 @@ void ValueReading::read(const std::function<bool()> &shouldContinue)
                 throw;
         }
         const QString text = read.values.isEmpty() ? FilterTexts::ValuesTooSlow : FilterTexts::ValuesOfSample;
-        read.note = text.arg(m_request.limit / millisecondsOfSecond);
+        read.note = text.arg(m_limit / millisecondsOfSecond);
         read.hasMore = false;
         return put(std::move(read));
     }
@@ -164,9 +169,8 @@ OfferedValues ValueReading::valuesOf(const QString &statement,
         if (hasCounts)
             offered.counts.append(count);
     }
-    // Different values that read the same leave a list of counted ones shorter than it was read.
-    const bool isCut = m_request.isCounted && values.RecordCount() > m_request.most;
-    offered.hasMore = isCut || offered.values.size() > m_request.most;
+    // Empty texts, and different values that read the same, leave the list shorter than it was read.
+    offered.hasMore = values.RecordCount() > m_request.most;
     if (offered.values.size() > m_request.most) {
         offered.values.resize(m_request.most);
         offered.counts.resize(std::min<qsizetype>(offered.counts.size(), m_request.most));

@@ -42,13 +42,13 @@ struct ValueRequest
     int most = 0;                                  // values to offer
     int limit = 5000;                              // milliseconds
     QString withoutValue = {}; // one for the number of records without a value; may be empty
-    bool isCounted = false;    // `values` has the number of records in a second column
     bool areDays = false;      // of moments, the day is the value
     bool isHere = false;       // the connection is shared: it is used in the caller's thread only
 };
 
 // Reads them in a thread of its own, which ends with this object, or at once where the connection is shared.
-// What takes longer than the limit is stopped; then those of the first records are offered, with a note.
+// What takes longer than the limit is stopped; then those of the first records are offered, with a note. At
+// once the limit is a second.
 class ValueReading final : public QObject
 {
     Q_OBJECT
@@ -79,6 +79,7 @@ private:
     void put(OfferedValues values);
 
     const ValueRequest m_request;
+    const int m_limit; // milliseconds
     std::atomic<bool> m_isStopped = false;
     QSemaphore m_first;
     mutable QMutex m_mutex; // guards the two below

@@ -25,21 +25,13 @@ void beginWithField(const SetFilter &builder, const QString &field)
         operators->setFocus();
 }
 
-// Its sessions are all alike, and one that nobody else uses can read lists of values in the background.
-bool isServer(const std::shared_ptr<ADODB::Connection> &connection)
-{
-    switch (engineOf(connection).engine) {
-    case Engine::SqlServer:
-    case Engine::Oracle:
-    case Engine::PostgreSQL:
-    case Engine::MySQL:
-        return true;
-    default:
-        return false;
-    }
-}
-
 } // namespace
+
+bool isConnectionNeeded(const FilterRequest &request)
+{
+    return request.tableType == FromOwnStatement && request.connection &&
+           !isRepeatable(request.connection, request.connectionString);
+}
 
 mod_Filter::mod_Filter(QWidget *parent) : m_parent(parent) {}
 
@@ -81,7 +73,7 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
     builder.SetShelf(m_shelf);
     builder.SetSqlWanted(request.isSqlWanted);
     builder.Initialize(FilterTexts::TableCaption, request.dbType);
-    if (request.tableType == FromOwnStatement && request.connection && !isServer(request.connection))
+    if (isConnectionNeeded(request))
         builder.SetConnection(request.connection);
     else
         builder.SetConnectionString(request.connectionString);

@@ -29,7 +29,8 @@ struct FilterRequest
     AllDBType dbType = dbAccess;
     StatementSource tableType = FromTable;
     QString sqlShow; // the statement whose table is filtered
-    // For table type 2, where the connection string alone may not lead to the same data; may be null.
+    // For table type 2, where the connection string alone may not lead to the same data; may be null. See
+    // isConnectionNeeded().
     std::shared_ptr<ADODB::Connection> connection;
     // Where the statement isn't the plain rows of a table: what it is filtered by instead.
     std::optional<FilteredResult> result = {};
@@ -42,6 +43,10 @@ struct FilterRequest
     FilterShelf shelf = {};   // of the filters that the user keeps for the table
     bool isSqlWanted = false; // to see the condition as SQL
 };
+
+// Whether only the request's own connection leads to the data. Elsewhere it is left to the control: a
+// connection that nobody else uses can read in the background.
+bool isConnectionNeeded(const FilterRequest &request);
 
 // Runs the filter dialog and keeps what it left. One object can run any number of dialogs, one after another.
 class mod_Filter

@@ -3,6 +3,7 @@
 #include "ado/ConnectionFactory.h"
 #include "ado/Notifications.h"
 #include "ado/Recordset.h"
+#include "ado/connection/OneCommand.h"
 #include "query/SharedValues.h"
 #include "session/Questions.h"
 #include "session/Session.h"
@@ -119,15 +120,19 @@ bool loadResult(Session &session)
     session.fieldReader().forget();
     const ConnectionFieldReader::Command command(session.fieldReader());
     auto manager = filterManagerForLoad(session);
-    const std::optional<LoadedStatement> statement = statementToOpen(session, *manager);
     StatementReader &reader = session.statementReader();
     StatementReader::Reading reading;
-    if (statement) {
-        reading = reader.read(statement->line, session.shared.dbType);
-    } else if (session.fieldReader().isCancelled()) {
+    std::optional<LoadedStatement> statement;
+    {
+        const ADODB::OneCommand oneCommand;
+        statement = statementToOpen(session, *manager);
+        if (statement)
+            reading = reader.read(statement->line, session.shared.dbType);
+    }
+    if (!statement && session.fieldReader().isCancelled()) {
         reading.outcome = Outcome::Cancelled;
         reader.reportCancelled();
-    } else {
+    } else if (!statement) {
         reader.reportError(session.fieldReader().Failure());
     }
     switch (reading.outcome) {

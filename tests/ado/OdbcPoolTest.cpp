@@ -3,6 +3,7 @@
 #include "TestDatabase.h"
 #include "Throwing.h"
 
+#include "ado/connection/OneCommand.h"
 #include "servers/OdbcSession.h"
 
 #include <QtCore/QRegularExpression>
@@ -56,6 +57,37 @@ TEST_P(OdbcPools, EndTheirSessionsWithTheLastConnection)
     const QString session = sessionOf(connect());
     const auto later = connect();
     EXPECT_NE(sessionOf(later), session);
+}
+
+// Of a transaction that has only read, MariaDB does not tell that it is open.
+TEST_P(OdbcPools, LeaveATransactionOpenBetweenTheStatementsOfOneCommandOnly)
+{
+    makeTable();
+    const QString all = u"SELECT * FROM kova_a ORDER BY id"_s;
+    const auto connection = connect();
+    const QString state = u"SELECT state FROM pg_stat_activity WHERE pid = "_s + sessionOf(connection);
+    const auto isOpen = [&] {
+        return is("MariaDB") ? std::nullopt : std::optional(ask(state) == u"idle in transaction"_s);
+    };
+    const auto recordset = open(all, connection);
+    connection->Describe(all);
+    EXPECT_NE(isOpen(), true) << "no command";
+    {
+        const OneCommand command;
+        connection->Describe(all);
+        EXPECT_NE(isOpen(), false);
+        EXPECT_EQ(open(all, connection)->RecordCount(), 2);
+        EXPECT_NE(isOpen(), true) << "it was the next statement's";
+        connection->Describe(all);
+        recordset->Fields().Item(1).PutValue(u"mine"_s);
+        recordset->Update();
+        EXPECT_EQ(ask(u"SELECT name FROM kova_a WHERE id = 1"_s), u"mine"_s) << "a change has its own";
+        EXPECT_THROW(connection->Describe(u"SELECT missing FROM kova_a"_s), Error);
+        EXPECT_NE(isOpen(), true) << "a statement failed in it";
+        connection->Describe(all);
+    }
+    EXPECT_NE(isOpen(), true) << "it ends with the command";
+    EXPECT_EQ(open(all, connection)->RecordCount(), 2);
 }
 
 TEST_P(OdbcPools, MixNoLogins)

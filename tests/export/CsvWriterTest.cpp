@@ -3,6 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QtCore/QProcess>
+#include <QtCore/QRegularExpression>
+
+#include <cmath>
+#include <random>
 
 using namespace KOVAVSFDataGridLib;
 using namespace KovaTest;
@@ -39,6 +43,41 @@ Rows rowsOf(const QString &text)
     EXPECT_FALSE(isQuoted);
     EXPECT_TRUE(row.isEmpty() && value.isEmpty()) << "the last line ends as well";
     return rows;
+}
+
+// A value as SQLite reads it: pieces that need quotes or look like something else, and any number.
+QString randomValue(std::mt19937 &random)
+{
+    static const QStringList pieces{
+        u","_s,    u"\""_s,         u"\r\n"_s,     u"\n"_s,         u"中文"_s, u"😀"_s,  u"a"_s,
+        u"="_s,    u"2024-02-29"_s, u"1"_s,        u"é"_s,          u" "_s,    u"\t"_s, u"12345678"_s,
+        u"-1.5"_s, u"True"_s,       u"10:11:12"_s, u"0001-01-01"_s, u"x\"y"_s, u"\r"_s, u"'"_s};
+    const auto upTo = [&](int most) { return std::uniform_int_distribution(0, most)(random); };
+    switch (upTo(5)) {
+    case 0:
+        return u"NULL"_s;
+    case 1:
+        return QString::number(static_cast<qint64>((quint64{random()} << 32 | random()) >> upTo(63)));
+    case 2:
+        return QString::number((upTo(2000000) - 1000000) / std::pow(10, upTo(6)), 'g', 17);
+    case 3:
+        return u"x'"_s + QString::fromLatin1(QByteArray(upTo(20), static_cast<char>(upTo(255))).toHex()) +
+               u'\'';
+    default:
+        break;
+    }
+    QByteArray text;
+    for (int count = upTo(6); count > 0; --count)
+        text += pieces.at(upTo(static_cast<int>(pieces.size()) - 1)).toUtf8();
+    if (upTo(20) == 0)
+        text += '\xff'; // no UTF-8
+    return u"CAST(x'%1' AS TEXT)"_s.arg(QString::fromLatin1(text.toHex()));
+}
+
+QString quoted(const QString &text)
+{
+    static const QRegularExpression special(u"[,\"\r\n]"_s);
+    return text.contains(special) ? u'"' + QString(text).replace(u'"', u"\"\""_s) + u'"' : text;
 }
 
 } // namespace
@@ -92,4 +131,33 @@ TEST(CsvWriter, WritesGb18030AsOtherProgramsReadIt)
     iconv.closeWriteChannel();
     ASSERT_TRUE(iconv.waitForFinished());
     EXPECT_EQ(iconv.readAllStandardOutput(), "列,B\r\n中文é😀,龥\r\n");
+}
+
+// Each value is the text that the grid shows, quoted where it has to be.
+TEST(CsvWriter, WritesTheShownTextsOfAnyValues)
+{
+    constexpr int rows = 12000; // enough for two threads
+    std::mt19937 random(20261122);
+    QStringList lines;
+    for (int row = 0; row < rows; ++row) {
+        QStringList values;
+        for (int column = 0; column < 8; ++column)
+            values.append(randomValue(random));
+        lines.append(u'(' + values.join(u',') + u')');
+    }
+    ExportRecords records(
+        u"CREATE TABLE T (A TEXT, B INTEGER, C REAL, D DATE, E TIMESTAMP, F BOOLEAN, G NUMERIC(12,2),"
+        " H TIME); INSERT INTO T VALUES "_s +
+        lines.join(u','));
+    records.open(u"SELECT * FROM T"_s);
+    QString expected;
+    for (qint64 record = 1; record <= rows; ++record) {
+        QStringList texts;
+        for (int column = 0; column < 8; ++column)
+            texts.append(quoted(records.recordset->CellText(record, column)));
+        expected += texts.join(u',') + u"\r\n"_s;
+    }
+    const ExportOptions options{
+        .encoding = TextEncoding::Utf8, .hasHeadings = false, .guardsFormulas = false};
+    EXPECT_TRUE(records.write(u"t.csv"_s, options) == expected.toUtf8());
 }

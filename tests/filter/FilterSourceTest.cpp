@@ -24,6 +24,14 @@ struct Source : testing::Test
         return names;
     }
 
+    OfferedValues valuesOf(const FilterField &field)
+    {
+        ValueReading reading(source.valueRequest(field, FilterSource::mostValues));
+        EXPECT_TRUE(reading.waitForValues(10000));
+        EXPECT_EQ(reading.failure(), QString());
+        return reading.values();
+    }
+
     KovaTest::TestDatabase database{
         u"CREATE TABLE [订单 明细] (编号 INTEGER, 名称 VARCHAR(20), [单价(元)] NUMERIC, 日期 DATE, 时刻 "
         u"TIMESTAMP,"
@@ -112,10 +120,11 @@ TEST_F(Source, AMissingTableIsAnError)
 TEST_F(Source, ReadsAtMostTwoHundredDifferentValuesInOrder)
 {
     source.setTable(u"Many"_s);
-    const QStringList values = source.readValues({u"V"_s, u"V"_s, FieldClass::Text});
-    EXPECT_EQ(values.size(), 199); // 200 with the empty one, which can't be typed
-    EXPECT_EQ(values.constFirst(), u"v000"_s);
-    EXPECT_EQ(values.constLast(), u"v198"_s);
+    const OfferedValues offered = valuesOf({u"V"_s, u"V"_s, FieldClass::Text});
+    EXPECT_EQ(offered.values.size(), 200) << "without the empty one, which can't be typed";
+    EXPECT_EQ(offered.values.constFirst(), u"v000"_s);
+    EXPECT_EQ(offered.values.constLast(), u"v199"_s);
+    EXPECT_TRUE(offered.hasMore);
 }
 
 TEST_F(Source, UsesAConnectionThatItIsGiven)
@@ -156,7 +165,7 @@ TEST_F(Source, OffersTheFieldsOfAResult)
     EXPECT_EQ(fields[0].written, u"x.ID"_s);
     EXPECT_EQ(fields[0].fieldClass, FieldClass::Number);
     EXPECT_EQ(fields[2].caption, u"ID (2)"_s);
-    EXPECT_TRUE(source.readValues(fields[2]).isEmpty());
+    EXPECT_TRUE(valuesOf(fields[2]).values.isEmpty());
     EXPECT_NO_THROW(source.check(u"x.ID = 1"_s));
     EXPECT_THROW(source.check(u"A.ID = 1"_s), ADODB::Error);
 }

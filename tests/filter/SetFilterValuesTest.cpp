@@ -244,6 +244,17 @@ TEST_F(PickedValues, AListThatTakesLongSaysSoAndCanBeCancelled)
     dialog.close(); // ends the reading too
 }
 
+TEST_F(PickedValues, AreReadThroughASharedConnectionForAMomentOnly)
+{
+    auto shared = std::make_shared<ADODB::Connection>();
+    shared->Open(database.connectionString());
+    builder->SetConnection(shared);
+    offerEndlessValues();
+    QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+    EXPECT_EQ(listed().value(0), u"1"_s);
+    EXPECT_EQ(fault("lblNotice"), "1 秒内没有读完已有的值，只列出前面一部分记录中的值。");
+}
+
 // A field that never comes to an end, read with a short limit.
 TEST(ValueReading, EndsAtItsLimitWithTheValuesOfSomeRecordsAndANote)
 {

@@ -190,7 +190,9 @@ TEST_P(BuilderConditions, OnNumbersMeanWhatTheySay)
 
 TEST_P(BuilderConditions, OfferTheValuesThatAreThere)
 {
-    const QStringList offered = source.readValues(fields.at(number));
+    ValueReading reading(source.valueRequest(fields.at(number), FilterSource::mostValues));
+    ASSERT_TRUE(reading.waitForValues(10000));
+    const QStringList offered = reading.values().values;
     EXPECT_TRUE(offered.contains(u"-123"_s));
     EXPECT_TRUE(offered.contains(u"2147483647"_s));
     EXPECT_FALSE(offered.contains(QString()));

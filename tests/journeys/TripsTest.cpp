@@ -65,8 +65,8 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(
     Servers, Trips,
-    testing::Values(FarServer{"PostgreSQL", "KOVA_TEST_POSTGRESQL", KOVAVSFDataGrid::dbOracle, 16, 9, 5, 4},
-                    FarServer{"PgBouncer", "KOVA_TEST_PGBOUNCER", KOVAVSFDataGrid::dbOracle, 16, 9, 5, 4},
+    testing::Values(FarServer{"PostgreSQL", "KOVA_TEST_POSTGRESQL", KOVAVSFDataGrid::dbOracle, 14, 7, 5, 4},
+                    FarServer{"PgBouncer", "KOVA_TEST_PGBOUNCER", KOVAVSFDataGrid::dbOracle, 14, 7, 5, 4},
                     FarServer{"MariaDB", "KOVA_TEST_MARIADB", KOVAVSFDataGrid::dbSQLServer, 13, 4, 4, 3}),
     [](const auto &server) { return std::string(server.param.name); });
 

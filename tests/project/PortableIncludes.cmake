@@ -2,7 +2,7 @@ cmake_minimum_required(VERSION 3.25)
 
 # cmake -DSOURCE_DIR=<project> -P PortableIncludes.cmake
 #
-# Fails when what hosts use includes a header that only one operating system has. src/control/settings/platform is the place
+# Fails when what hosts use includes a header that only one operating system has. A folder `platform` of a room is the place
 # for those; src/activex is built for Windows alone.
 set(one_system_only
   "arpa/|dirent\\.h|dlfcn\\.h|fcntl\\.h|glob\\.h|grp\\.h|langinfo\\.h|libgen\\.h|link\\.h|mach|malloc\\.h|net/|netdb\\.h|netinet/|"
@@ -13,11 +13,11 @@ list(JOIN one_system_only "" one_system_only)
 set(faults "")
 foreach(folder IN ITEMS include src apps designer examples)
   file(GLOB_RECURSE files ${SOURCE_DIR}/${folder}/*.h ${SOURCE_DIR}/${folder}/*.cpp)
-  list(FILTER files EXCLUDE REGEX "/src/(control/settings/platform|activex)/")
+  list(FILTER files EXCLUDE REGEX "/src/(control/settings/platform|export/platform|activex)/")
   foreach(file IN LISTS files)
     file(STRINGS ${file} lines REGEX "^ *# *include *<(${one_system_only})")
     foreach(line IN LISTS lines)
-      list(APPEND faults "${file}: belongs in src/control/settings/platform: ${line}")
+      list(APPEND faults "${file}: belongs in a folder platform: ${line}")
     endforeach()
   endforeach()
 endforeach()

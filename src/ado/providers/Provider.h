@@ -58,6 +58,9 @@ public:
                                                const std::function<bool()> &shouldContinue) = 0;
     // The statement that reads a whole table.
     virtual QString tableStatement(const QString &table) const = 0;
+    // Whether another session that is opened in the same way finds the same data. Not where a database lives
+    // in its connection, nor where nobody knows.
+    virtual bool isRepeatable() const { return false; }
     // Ends the connection; writers that still hold the session throw from then on.
     virtual void close() = 0;
     // False once it is closed or its server went away; nothing more can be done with it then.

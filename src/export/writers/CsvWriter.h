@@ -1,7 +1,9 @@
 #pragma once
 
-#include "export/RecordWriter.h"
 #include "export/TextSink.h"
+#include "export/writers/CsvRows.h"
+
+#include <optional>
 
 namespace KOVAVSFDataGridLib {
 
@@ -23,21 +25,15 @@ public:
 
     void begin(const ExportColumns &columns) override;
     void row(const std::vector<ADODB::RawValue> &cells) override;
+    std::unique_ptr<RowTexts> newRowTexts() const override;
+    void add(QByteArrayView text) override;
     void end() override;
 
 private:
-    // The most that a record takes.
-    qsizetype roomFor(const std::vector<ADODB::RawValue> &cells) const;
-    // Makes room behind the text; what isn't used is to be cut off.
-    char *writableEnd(qsizetype room);
-    // Writes a cell and answers its end; null where it has to be written by way of its text.
-    char *write(char *to, const ADODB::RawValue &cell, ADODB::DataTypeEnum type) const;
-    void appendValue(QByteArrayView value, bool isText);
-
     const Options m_options;
     TextSink m_sink;
     ExportColumns m_columns;
-    QByteArray m_value;
+    std::optional<CsvRows> m_rows;
 };
 
 } // namespace KOVAVSFDataGridLib

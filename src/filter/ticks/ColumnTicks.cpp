@@ -20,7 +20,7 @@ FilterSource sourceOf(const FilterRequest &request)
 {
     FilterSource source;
     source.setDatabase(request.dbType);
-    if (request.tableType == FromOwnStatement && request.connection)
+    if (isConnectionNeeded(request))
         source.setConnection(request.connection);
     else
         source.setConnectionString(request.connectionString);

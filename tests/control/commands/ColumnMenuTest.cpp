@@ -254,6 +254,31 @@ TEST_F(ColumnMenu, MovedColumnsStayWhereTheyAreWhenRecordsChange)
     EXPECT_EQ(shownOrder(), PartColumns);
 }
 
+// As dragging a heading does, without a mouse.
+TEST_F(ColumnMenu, MovesTheColumnByKeysPastTheOnesThatAreHidden)
+{
+    ASSERT_TRUE(load());
+    choose(u"名称"_s, u"HideColumn"_s);
+    const auto press = [&](const QString &column, Qt::Key letter) {
+        table->setCurrentIndex(table->model()->index(0, grid.GetBindFieldIndex(column) - 1));
+        table->setFocus();
+        QTest::keyClick(table, Qt::Key_Down, Qt::ControlModifier | Qt::AltModifier);
+        ASSERT_TRUE(menu()->isVisible());
+        QTest::keyClick(menu(), letter);
+    };
+    press(u"ID"_s, Qt::Key_N);
+    EXPECT_EQ(shownOrder(),
+              QStringList({u"Unit Price"_s, u"ID"_s, u"城市"_s, u"日期"_s, u"停用"_s, u"图片"_s}));
+    EXPECT_EQ(grid.GetBindFieldIndex(u"ID"_s), 1) << "the number is the field's";
+    press(u"城市"_s, Qt::Key_B);
+    EXPECT_EQ(shownOrder(),
+              QStringList({u"Unit Price"_s, u"城市"_s, u"ID"_s, u"日期"_s, u"停用"_s, u"图片"_s}));
+    open(u"Unit Price"_s);
+    EXPECT_FALSE(entry(u"MoveLeft"_s)->isEnabled()) << "it is the first";
+    EXPECT_TRUE(entry(u"MoveRight"_s)->isEnabled());
+    menu()->close();
+}
+
 TEST_F(ColumnMenu, OpensByKeysAndGoesOnByKeys)
 {
     ASSERT_TRUE(load());

@@ -5,6 +5,7 @@
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QProgressBar>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QTreeWidgetItemIterator>
@@ -242,4 +243,21 @@ TEST_F(ColumnValues, EnterInTheSearchShowsWhatItFinds)
     }});
     open(u"名称"_s);
     EXPECT_EQ(texts(u"ID"_s), QStringList({u"1"_s, u"2"_s, u"4"_s, u"10"_s, u"11"_s, u"12"_s}));
+}
+
+// A column whose values never come to an end: the window stays alive, and the button ends it.
+TEST_F(ColumnValues, OfAStatementOfTheHostAreReadInTheBackground)
+{
+    database.run(u"CREATE VIEW 数 AS SELECT 1 AS 值"_s);
+    grid.PutTableType(KOVAVSFDataGrid::DefSQL);
+    ASSERT_TRUE(load(u"SELECT * FROM 数"_s, u"SELECT 值 FROM 数"_s));
+    database.run(u"DROP VIEW 数; CREATE VIEW 数 AS WITH RECURSIVE n(i) AS "
+                 "(SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT i AS 值 FROM n"_s);
+    WindowAnswers dialogs({[](QDialog &dialog) {
+        EXPECT_TRUE(part<QProgressBar>(dialog, "prgReading").isVisible());
+        press(dialog, "cmdStop");
+        EXPECT_EQ(part<QLabel>(dialog, "lblTicks").text(), u"已停止读取。可以输入文字搜索。"_s);
+        press(dialog, "cmdCancel");
+    }});
+    open(u"值"_s);
 }

@@ -56,6 +56,9 @@ public:
     // How many OdbcReading there are.
     int readings() const { return m_readings; }
     void setReadings(int readings) { m_readings = readings; }
+    // Whether there is none, but the last one was kept for the next.
+    bool isReadingKept() const { return m_isReadingKept; }
+    void setReadingKept(bool isKept) { m_isReadingKept = isKept; }
 
 private:
     void release();
@@ -68,6 +71,7 @@ private:
     bool m_untried = false;
     std::chrono::steady_clock::time_point m_idleSince;
     std::atomic<int> m_readings = 0;
+    bool m_isReadingKept = false;
     bool m_plansForAllRows = true;
     QHash<QString, std::shared_ptr<const OdbcTable>> m_tables;
     QHash<QString, std::shared_ptr<const OdbcTableFields>> m_tableFields;

@@ -5,6 +5,7 @@
 #include "ado/connection/OdbcCatalogue.h"
 #include "ado/providers/odbc/OdbcHandle.h"
 #include "ado/providers/odbc/reading/OdbcLongValue.h"
+#include "ado/providers/odbc/reading/OdbcReading.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QStringList>
@@ -158,8 +159,12 @@ std::unique_ptr<OdbcConnection> OdbcPool::acquireIdle()
 std::shared_ptr<OdbcConnection> OdbcPool::acquire(const std::shared_ptr<std::atomic<bool>> &isLost)
 {
     std::unique_ptr<OdbcConnection> connection = acquireIdle();
-    if (!connection)
-        connection = connectTo(m_login);
+    return lend(connection ? std::move(connection) : connectTo(m_login), isLost);
+}
+
+std::shared_ptr<OdbcConnection> OdbcPool::lend(std::unique_ptr<OdbcConnection> connection,
+                                               const std::shared_ptr<std::atomic<bool>> &isLost)
+{
     return {connection.release(), [pool = shared_from_this(), isLost](OdbcConnection *used) {
                 std::unique_ptr<OdbcConnection> owned(used);
                 if (owned->isLost() && !owned->isUntried())
@@ -178,6 +183,13 @@ void OdbcPool::returnConnection(std::unique_ptr<OdbcConnection> connection)
     const QMutexLocker lock(&m_mutex);
     if (m_idle.size() < mostIdle)
         m_idle.push_back(std::move(connection));
+}
+
+void OdbcPool::endKeptReading()
+{
+    if (auto connection = acquireIdle())
+        OdbcReading::endKept(lend(std::move(connection), std::make_shared<std::atomic<bool>>(false)),
+                             m_engine);
 }
 
 void OdbcPool::dropIdle()

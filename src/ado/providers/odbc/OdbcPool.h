@@ -35,6 +35,8 @@ public:
     // `isLost` becomes true when the session turns out to be lost, unless that happened before anything was
     // done with it; see OdbcConnection::isUntried().
     std::shared_ptr<OdbcConnection> acquire(const std::shared_ptr<std::atomic<bool>> &isLost);
+    // Ends a reading that was kept in a session that nobody uses; see OdbcReading::keep.
+    void endKeptReading();
     // Ends all sessions that nobody uses: one of them was dead, so the others are.
     void dropIdle();
 
@@ -44,6 +46,8 @@ private:
     void learnQuoting();
     void prepareIdle();
     std::unique_ptr<OdbcConnection> acquireIdle();
+    std::shared_ptr<OdbcConnection> lend(std::unique_ptr<OdbcConnection> connection,
+                                         const std::shared_ptr<std::atomic<bool>> &isLost);
     void returnConnection(std::unique_ptr<OdbcConnection> connection);
 
     OdbcLogin m_login;

@@ -7,6 +7,7 @@
 #include "ado/providers/odbc/OdbcOperation.h"
 #include "ado/providers/odbc/OdbcPool.h"
 #include "ado/providers/odbc/OdbcWaiting.h"
+#include "ado/providers/odbc/reading/OdbcReading.h"
 #include "ado/providers/odbc/reading/OdbcStatement.h"
 
 #include <algorithm>
@@ -66,7 +67,7 @@ std::shared_ptr<OdbcPool> OdbcSession::pool() const
     return m_pool;
 }
 
-std::shared_ptr<OdbcConnection> OdbcSession::connection()
+std::shared_ptr<OdbcConnection> OdbcSession::connection(KeptReading kept)
 {
     OdbcOperation *const operation = OdbcOperation::current();
     auto connection = operation ? operation->lease(this) : nullptr;
@@ -81,6 +82,8 @@ std::shared_ptr<OdbcConnection> OdbcSession::connection()
     }
     if (!connection)
         connection = pool->acquire(m_isLost);
+    if (kept == KeptReading::End)
+        OdbcReading::endKept(connection, m_engine);
     if (operation)
         operation->setLease(this, connection);
     const QMutexLocker lock(&m_mutex);
@@ -90,10 +93,11 @@ std::shared_ptr<OdbcConnection> OdbcSession::connection()
 }
 
 std::shared_ptr<OdbcConnection>
-OdbcSession::begin(const std::function<void(const std::shared_ptr<OdbcConnection> &)> &first)
+OdbcSession::begin(const std::function<void(const std::shared_ptr<OdbcConnection> &)> &first,
+                   KeptReading kept)
 {
     for (bool isAgain = false;; isAgain = true) {
-        auto connection = this->connection();
+        auto connection = this->connection(kept);
         try {
             first(connection);
             connection->setTried();

@@ -26,22 +26,27 @@ public:
     QString tableStatement(const QString &table) const override;
     QString engineName() const override { return m_engine.dbmsName; }
     SqlQuoting quoting() const override { return m_engine.quoting; }
+    bool isRepeatable() const override { return m_engine.isServer(); }
     void close() override;
     bool isOpen() const override;
 
+    // What becomes of a reading that was kept in the server's session; see OdbcReading::keep.
+    enum class KeptReading { End, Use };
+
     // The server's session of the operation that is under way, for as long as somebody holds it, else another
     // one. In autocommit mode. Throws 3709 once this is closed.
-    std::shared_ptr<OdbcConnection> connection();
+    std::shared_ptr<OdbcConnection> connection(KeptReading kept = KeptReading::End);
     // Begins a command with `first`. Where the server had ended the session while nobody used it, `first` is
     // run once more in a new one.
     std::shared_ptr<OdbcConnection>
-    begin(const std::function<void(const std::shared_ptr<OdbcConnection> &)> &first);
+    begin(const std::function<void(const std::shared_ptr<OdbcConnection> &)> &first,
+          KeptReading kept = KeptReading::End);
     const OdbcEngine &engine() const { return m_engine; }
     int commandTimeout() const { return m_commandTimeout; }
-
-private:
+    // Null once it is closed.
     std::shared_ptr<OdbcPool> pool() const;
 
+private:
     mutable QMutex m_mutex;                 // guards m_pool and m_kept
     std::shared_ptr<OdbcPool> m_pool;       // null once it is closed
     std::shared_ptr<OdbcConnection> m_kept; // of a database that lives in its connection

@@ -1,8 +1,10 @@
 #include "ado/providers/odbc/OdbcWaiting.h"
 
 #include "ado/Error.h"
+#include "ado/connection/OneCommand.h"
 #include "ado/connection/Waiting.h"
 #include "ado/providers/odbc/OdbcOperation.h"
+#include "ado/providers/odbc/OdbcPool.h"
 #include "ado/providers/odbc/OdbcRowFeed.h"
 #include "ado/providers/odbc/OdbcSession.h"
 #include "ado/providers/odbc/reading/OdbcStatement.h"
@@ -16,6 +18,25 @@ namespace {
 bool always(qint64)
 {
     return true;
+}
+
+// Runs what nobody waits for.
+void runQuietly(const char *fault, const std::function<void()> &work)
+{
+    try {
+        work();
+    } catch (const Error &) {
+        // Nothing was asked for that could be missed.
+    } catch (const std::exception &error) {
+        qWarning("%s: %s", fault, error.what());
+    }
+}
+
+// What takes longer than a moment ends by itself.
+void runForAMoment(std::function<void()> work)
+{
+    constexpr int limit = 1; // second
+    OdbcOperation::run(std::move(work), {always, limit});
 }
 
 // A row with bytes of its own.
@@ -58,14 +79,18 @@ OdbcWaitingStatement::~OdbcWaitingStatement()
 {
     if (!m_statement)
         return;
-    constexpr int limit = 1; // second; what takes longer ends by itself
-    try {
-        OdbcOperation::run([statement = std::move(m_statement)] { statement->release(); }, {always, limit});
-    } catch (const Error &) {
-        // Nothing was asked for that could be missed.
-    } catch (const std::exception &error) {
-        qWarning("A statement could not be released: %s", error.what());
-    }
+    runQuietly("A statement could not be released", [this] {
+        OneCommand *const command = OneCommand::current();
+        const auto pool = m_session->pool();
+        const bool isKept = command && pool && m_session->engine().isServer();
+        runForAMoment([statement = std::move(m_statement), isKept] { statement->release(isKept); });
+        if (isKept) {
+            command->atEnd([pool] {
+                runQuietly("A transaction could not be ended",
+                           [&pool] { runForAMoment([pool] { pool->endKeptReading(); }); });
+            });
+        }
+    });
 }
 
 void OdbcWaitingStatement::fetch(RowStore &rows, const std::function<bool(qint64)> &shouldContinue)

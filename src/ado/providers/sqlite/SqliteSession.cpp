@@ -84,7 +84,7 @@ void SqliteFinalizer::operator()(sqlite3_stmt *statement) const
 }
 
 SqliteSession::SqliteSession(const QString &path, int timeoutInMilliseconds)
-    : m_engine{SqliteTypes::applyDeclaration, {}}
+    : m_engine{SqliteTypes::applyDeclaration, {}}, m_isOfFile(path != ":memory:"_L1)
 {
     const QByteArray name = path.toUtf8();
     int code = sqlite3_open_v2(name.constData(), &m_db, openFlags | SQLITE_OPEN_READWRITE, nullptr);

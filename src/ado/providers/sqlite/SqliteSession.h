@@ -38,6 +38,7 @@ public:
                                        const std::function<bool()> &shouldContinue) override;
     QString tableStatement(const QString &table) const override;
     QString engineName() const override { return QStringLiteral("SQLite"); }
+    bool isRepeatable() const override { return m_isOfFile; }
     void close() override;
 
     // Lets SQLite write while it lives.
@@ -94,6 +95,7 @@ private:
     void setQueryOnly(bool on) const;
 
     SqliteEngine m_engine;
+    bool m_isOfFile = true;
     mutable Watch m_watch;
     sqlite3 *m_db = nullptr;
 };

@@ -33,12 +33,26 @@ void begin(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &
     statement.execute(first);
 }
 
+void end(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine)
+{
+    if (engine.endReading.isEmpty() || connection->isLost())
+        return;
+    try {
+        OdbcHandle(connection).execute(engine.endReading);
+    } catch (const Error &) {
+        // Only a connection that is gone fails here, and the next statement tells that.
+        connection->setLost();
+    }
+}
+
 } // namespace
 
 OdbcReading::OdbcReading(std::shared_ptr<OdbcConnection> connection, const OdbcEngine &engine, Locks locks)
     : m_connection(std::move(connection)), m_engine(engine)
 {
-    if (m_connection->readings() == 0 && !m_engine.beginReading.isEmpty())
+    if (m_connection->isReadingKept())
+        m_connection->setReadingKept(false);
+    else if (m_connection->readings() == 0 && !m_engine.beginReading.isEmpty())
         begin(m_connection, m_engine, locks);
     m_connection->setReadings(m_connection->readings() + 1);
 }
@@ -57,14 +71,20 @@ bool OdbcReading::renew(const std::shared_ptr<OdbcConnection> &connection, const
 OdbcReading::~OdbcReading()
 {
     m_connection->setReadings(m_connection->readings() - 1);
-    if (m_connection->readings() > 0 || m_engine.endReading.isEmpty() || m_connection->isLost())
+    if (m_connection->readings() > 0)
         return;
-    try {
-        OdbcHandle(m_connection).execute(m_engine.endReading);
-    } catch (const Error &) {
-        // Only a connection that is gone fails here, and the next statement tells that.
-        m_connection->setLost();
-    }
+    if (m_isKept)
+        m_connection->setReadingKept(true);
+    else
+        end(m_connection, m_engine);
+}
+
+void OdbcReading::endKept(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine)
+{
+    if (!connection->isReadingKept())
+        return;
+    connection->setReadingKept(false);
+    end(connection, engine);
 }
 
 } // namespace ADODB

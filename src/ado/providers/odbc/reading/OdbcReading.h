@@ -22,6 +22,11 @@ public:
     ~OdbcReading();
     Q_DISABLE_COPY_MOVE(OdbcReading)
 
+    // Has the connection go on reading only when this ends, for the next OdbcReading with FailSoon, which
+    // then needs not ask the server. Everybody else must call endKept() before.
+    void keep() { m_isKept = true; }
+    static void endKept(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine);
+
     // Lets a connection on which a statement failed read on, and wait for locks: until then an engine may
     // refuse all others. False when something else reads on it as well, which this would end.
     static bool renew(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine);
@@ -29,6 +34,7 @@ public:
 private:
     std::shared_ptr<OdbcConnection> m_connection;
     const OdbcEngine &m_engine;
+    bool m_isKept = false;
 };
 
 } // namespace ADODB

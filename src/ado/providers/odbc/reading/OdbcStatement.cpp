@@ -47,14 +47,16 @@ bool isLockTimeout(const Error &error)
 } // namespace
 
 OdbcStatement::OdbcStatement(std::shared_ptr<OdbcSession> session, const QString &sql, Access access)
-    : m_session(std::move(session))
+    : m_session(std::move(session)), m_access(access)
 {
     const OdbcEngine &engine = m_session->engine();
     const SqlScanner scanner(sql, engine.dialect, engine.quoting);
     refuseUnlessQuery(scanner);
-    m_connection = m_session->begin([&](const std::shared_ptr<OdbcConnection> &connection) {
-        m_reading.emplace(connection, engine, OdbcReading::Locks::FailSoon);
-    });
+    m_connection = m_session->begin(
+        [&](const std::shared_ptr<OdbcConnection> &connection) {
+            m_reading.emplace(connection, engine, OdbcReading::Locks::FailSoon);
+        },
+        OdbcSession::KeptReading::Use);
     const int timeout = m_session->commandTimeout();
     try {
         prepare(scanner, access, timeout);
@@ -176,9 +178,12 @@ std::unique_ptr<OdbcRowWriter> OdbcStatement::releaseWriter()
     return std::move(m_writer);
 }
 
-void OdbcStatement::release()
+// A transaction that may have been begun anew waits for locks.
+void OdbcStatement::release(bool isKept)
 {
     m_query.reset();
+    if (m_reading && isKept && m_access == Access::ReadOnly && !m_hasWaited)
+        m_reading->keep();
     m_reading.reset();
     m_connection.reset();
 }

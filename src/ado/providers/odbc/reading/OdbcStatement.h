@@ -28,8 +28,9 @@ public:
     const std::vector<FieldInfo> &fields() const { return m_fields; }
     int columns() const { return m_columns; }
     void fetch(RowStore &rows);
-    // Ends what the server holds.
-    void release();
+    // Ends what the server holds. `isKept`: leaves the transaction to the next statement, if it can; see
+    // OdbcReading::keep.
+    void release(bool isKept = false);
     std::unique_ptr<OdbcRowWriter> releaseWriter();
     QString whyReadOnly() const { return m_whyReadOnly; }
 
@@ -48,6 +49,7 @@ private:
     std::optional<OdbcReading> m_reading;
     std::unique_ptr<OdbcQuery> m_query;
     QString m_text;
+    Access m_access;
     bool m_hasWaited = false;
     int m_columns = 0;
     std::vector<FieldInfo> m_fields;

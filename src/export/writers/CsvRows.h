@@ -1,0 +1,31 @@
+#pragma once
+
+#include "export/RecordWriter.h"
+
+namespace KOVAVSFDataGridLib {
+
+// Records as lines of comma-separated values.
+class CsvRows final : public RowTexts
+{
+public:
+    // `guardsFormulas` as in CsvWriter.
+    CsvRows(ExportColumns columns, bool guardsFormulas);
+
+    void appendHeadings(QByteArray &text) const;
+    void append(QByteArray &text, const std::vector<ADODB::RawValue> &cells) override;
+
+private:
+    // The most that a record takes.
+    qsizetype roomFor(const std::vector<ADODB::RawValue> &cells) const;
+    // Makes room behind the text; what isn't used is to be cut off.
+    static char *writableEnd(QByteArray &text, qsizetype room);
+    // Writes a cell and answers its end; null where it has to be written by way of its text.
+    char *write(char *to, const ADODB::RawValue &cell, ADODB::DataTypeEnum type) const;
+    void appendValue(QByteArray &text, QByteArrayView value, bool isText) const;
+
+    const ExportColumns m_columns;
+    const bool m_guardsFormulas;
+    QByteArray m_value;
+};
+
+} // namespace KOVAVSFDataGridLib
