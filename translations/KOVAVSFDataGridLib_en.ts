@@ -2496,6 +2496,10 @@
         <source>%1年</source>
         <translation>%1</translation>
     </message>
+    <message>
+        <source>部分字段的语句与当前语句的字段对应不上，不能只显示这些字段。</source>
+        <translation>The statement of the part fields does not match the fields of the shown statement, so they can&apos;t be shown alone.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::SessionMessages</name>
@@ -2598,6 +2602,10 @@ Row %1: %2 = %3</translation>
     <message>
         <source>当前单元格不是链接（http、https 或 mailto）。</source>
         <translation>The current cell is not a link (http, https or mailto).</translation>
+    </message>
+    <message>
+        <source>查询结果中没有可以修改的字段，不能增加记录。</source>
+        <translation>None of the result&apos;s fields can be changed, so no record can be added.</translation>
     </message>
 </context>
 <context>
