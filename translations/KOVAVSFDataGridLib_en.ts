@@ -2512,6 +2512,10 @@
         <source>%1年</source>
         <translation>%1</translation>
     </message>
+    <message>
+        <source>部分字段的语句与当前语句的字段对应不上，不能只显示这些字段。</source>
+        <translation>The statement of the part fields does not match the fields of the shown statement, so they can&apos;t be shown alone.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::SessionMessages</name>
@@ -2618,6 +2622,10 @@ Row %1: %2 = %3</translation>
     <message>
         <source>内存不足，操作没有完成。</source>
         <translation>There is not enough memory. The operation was not completed.</translation>
+    </message>
+    <message>
+        <source>查询结果中没有可以修改的字段，不能增加记录。</source>
+        <translation>None of the result&apos;s fields can be changed, so no record can be added.</translation>
     </message>
 </context>
 <context>

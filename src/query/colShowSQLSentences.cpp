@@ -324,7 +324,11 @@ bool colShowSQLSentences::BringInStepWith(const clsShowSQLSentence &entry, const
     if (!entry.GetCurrUsePartFieldSQL(partStatement))
         return true;
     const auto partFields = m_reader->Read(connectionString, partStatement);
-    return partFields && m_catalogue.SetPartFieldStatusByCol(NamesInCatalogue(*partFields));
+    if (!partFields || !m_catalogue.SetPartFieldStatusByCol(NamesInCatalogue(*partFields)))
+        return false;
+    m_isPartKnownByPlace = false;
+    SetPartFields(PartOfEqualNames(entry.AllFields, partStatement));
+    return true;
 }
 
 // A host's part statement can name by its value what has an alias in the whole.

@@ -120,6 +120,10 @@ public:
     // Why a command can't derive from the latest entry, for a person to read; empty when it can.
     QString WhyNot(DerivationStep step) const;
 
+    // Why the latest entry can't be shown with the part fields that it has, for a person to read; empty when
+    // it can, or has none.
+    QString WhyNoPartFields() const;
+
     // What a condition writes for a column of a result that was opened with `shownStatement` and has these
     // fields; `column` counts from 0. Tells columns of equal names apart. Empty when there is no such name.
     QString GetColumnRealName(const QString &shownStatement, const QStringList &shownNames,
@@ -159,6 +163,11 @@ public:
 
     QString GetSelFieldRealName(const QString &strFieldName) const;
     bool IsSelFieldPartField(const QString &strFieldName) const;
+    // For each field of the catalogue, whether it is a part field: of fields that share a name, the chosen
+    // one alone where that is known, else all of them.
+    QList<bool> PartFields() const;
+    // Marks them so. Nothing happens when these are not as many as the catalogue has.
+    void SetPartFields(const QList<bool> &areParts);
     // How many fields the latest entry shows; False when there is no entry.
     bool GetCurrShowFieldsCount(qint32 &PassCount) const;
 
@@ -189,6 +198,7 @@ private:
     QString WithFieldsOf(const QString &statement, const QString &fieldStatement) const;
     bool StepBackTo(qsizetype position, QString &PassFilter, QString *PassKey);
     bool BringInStepWith(const clsShowSQLSentence &entry, const QString &connectionString);
+    QList<bool> PartOfEqualNames(const QString &statement, const QString &partStatement) const;
     bool FillCatalogue(const QString &connectionString, const QString &statement);
     QStringList NamesInCatalogue(const std::vector<SourceField> &fields) const;
     void WriteCatalogueAsText(const QString &statement);
@@ -198,6 +208,7 @@ private:
     AllDBType m_database = dbAccess;
     KeyedList<clsShowSQLSentence> m_entries{QStringLiteral("ForDel")};
     colDataFields m_catalogue;
+    bool m_isPartKnownByPlace = false; // and not by name alone
     mutable DerivationMemo m_derivations;
     QString m_connString;
     QString m_allFields;

@@ -1,6 +1,9 @@
 #include "query/colShowSQLSentences.h"
 
+#include "query/QueryTexts.h"
 #include "query/conditions/Conditions.h"
+
+#include <QtCore/QSet>
 
 #include <algorithm>
 
@@ -108,6 +111,17 @@ QString colShowSQLSentences::WhyNot(DerivationStep step) const
     return derivation ? derivation->whyNot(step) : QString();
 }
 
+QString colShowSQLSentences::WhyNoPartFields() const
+{
+    const clsShowSQLSentence *const latest = Latest();
+    QString partStatement;
+    if (!latest || !latest->GetCurrUsePartFieldSQL(partStatement) ||
+        !WithFieldsOf(latest->ShowSQL, partStatement).isEmpty())
+        return {};
+    const QString reason = WhyNot(DerivationStep::Fields);
+    return reason.isEmpty() ? QueryTexts::NoPartFields : reason;
+}
+
 QString colShowSQLSentences::GetColumnRealName(const QString &shownStatement, const QStringList &shownNames,
                                                qsizetype column) const
 {
@@ -165,6 +179,41 @@ bool colShowSQLSentences::CanName(const clsDataField &field) const
         return !field.FieldWholeName.isEmpty() || !NamesByItself(*all);
     const auto shown = DerivationOf(latest->ShowSQL);
     return shown->names().contains(field.FieldName);
+}
+
+// A name finds the first of the fields that share it; the list entries tell which of them are meant. Nothing
+// where names are enough or entries can't tell.
+QList<bool> colShowSQLSentences::PartOfEqualNames(const QString &statement,
+                                                  const QString &partStatement) const
+{
+    const auto all = DerivationOf(statement);
+    if (!all || QSet<QString>(all->names().cbegin(), all->names().cend()).size() == all->names().size())
+        return {};
+    const auto part = DerivationOf(partStatement);
+    const QStringList listed = part ? all->listedFor(*part) : QStringList();
+    QList<bool> areParts;
+    for (qsizetype i = 0; i < all->listed().size() && !listed.isEmpty(); ++i)
+        areParts.append(listed.contains(all->listed().at(i)));
+    return areParts;
+}
+
+QList<bool> colShowSQLSentences::PartFields() const
+{
+    QList<bool> areParts;
+    for (const clsDataField &field : m_catalogue)
+        areParts.append(m_isPartKnownByPlace ? field.IsPartField != 0
+                                             : m_catalogue.IsSelFieldPartField(field.FieldName));
+    return areParts;
+}
+
+void colShowSQLSentences::SetPartFields(const QList<bool> &areParts)
+{
+    if (areParts.size() != m_catalogue.Count())
+        return;
+    m_isPartKnownByPlace = true;
+    for (qsizetype i = 0; i < areParts.size(); ++i)
+        m_catalogue.Update(m_catalogue.Item(i + 1)->FieldKey,
+                           [&](clsDataField &field) { field.IsPartField = areParts.at(i) ? 1 : 0; });
 }
 
 bool colShowSQLSentences::IsDistinct(const QString &statement) const

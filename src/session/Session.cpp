@@ -111,7 +111,7 @@ bool Session::makeReady(Needs needs, Record record)
 bool Session::canRunOnColumn(const ColumnCommand &command, int col)
 {
     return isUsable() && m_result.isOpen() && col > 0 && col < m_window->Cols() &&
-           (!command.canRun || command.canRun(*this, col));
+           whyNot(command).isEmpty() && (!command.canRun || command.canRun(*this, col));
 }
 
 void Session::runOnColumn(const ColumnCommand &command, int col)
@@ -152,6 +152,11 @@ bool Session::isUsable() const
 QString Session::whyNot(const Command &command)
 {
     return command.whyNot ? command.whyNot(*this) : QString();
+}
+
+QString Session::whyNot(const ColumnCommand &command) const
+{
+    return command.step ? m_history->whyNot(*command.step) : QString();
 }
 
 void Session::clear()

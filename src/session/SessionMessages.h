@@ -26,6 +26,7 @@ inline constexpr Text NothingAhead = tr("没有可以前进到的结果。");
 inline constexpr Text InsertCancelled = tr("再次插入空行操作已被取消");
 inline constexpr Text CopyRefused = tr("无法复制记录：");
 inline constexpr Text ReadOnly = tr("记录只读，不能增加、修改或删除。");
+inline constexpr Text NothingToAdd = tr("查询结果中没有可以修改的字段，不能增加记录。");
 inline constexpr Text RecordsCopied = tr("已复制 %1 条记录");
 inline constexpr Text RecordsExported = tr("已导出 %1 条记录");
 inline constexpr Text RecordsPrinted = tr("已打印 %1 条记录");

@@ -50,8 +50,12 @@ TEST(AccessDialectTest, ConcatenationTakesWholeExpressions)
 TEST(AccessDialectTest, TopBecomesLimit)
 {
     EXPECT_EQ(sqlite(u"SELECT TOP 5 a FROM T ORDER BY a;"_s), u"SELECT   a FROM T ORDER BY a LIMIT 5;"_s);
-    EXPECT_EQ(sqlite(u"SELECT * FROM (SELECT TOP 2 a & b FROM T) AS S"_s),
-              u"SELECT * FROM (SELECT   access_concat(a , b) COLLATE ACCESS_TEXT FROM T LIMIT 2) AS S"_s);
+    EXPECT_EQ(
+        sqlite(u"SELECT * FROM (SELECT TOP 2 a & b FROM T) AS S"_s),
+        u"SELECT * FROM (SELECT   access_concat(a , b) COLLATE ACCESS_TEXT FROM T ORDER BY NULL LIMIT 2) AS S"_s)
+        << "a sort outside leaves the same records";
+    EXPECT_EQ(sqlite(u"SELECT * FROM (SELECT TOP 2 a FROM T ORDER BY b) AS S"_s),
+              u"SELECT * FROM (SELECT   a FROM T ORDER BY b LIMIT 2) AS S"_s);
 }
 
 TEST(AccessDialectTest, TopPercentCountsTheRecords)

@@ -100,9 +100,9 @@ TEST(FilterValue, ListsAreSplitAtNarrowAndWideCommas)
 TEST(FilterValue, ListsPastedFromAChineseTextOrASpreadsheetAreSplit)
 {
     const QStringList three{u"甲"_s, u"乙 丙"_s, u"丁"_s};
-    for (const QString &typed :
-         {u"甲、乙 丙、丁"_s, u"甲；乙 丙；丁"_s, u"甲，乙 丙，丁"_s, u"甲\n乙 丙\n丁\n"_s,
-          u"甲\r\n乙 丙\r\n\r\n丁\r\n"_s, u"甲\t乙 丙\t丁"_s, u" 甲\u2028乙 丙 \u2029丁 "_s})
+    for (const QString &typed : {u"甲、乙 丙、丁"_s, u"甲；乙 丙；丁"_s, u"甲;乙 丙 ; 丁"_s,
+                                 u"甲，乙 丙，丁"_s, u"甲\n乙 丙\n丁\n"_s, u"甲\r\n乙 丙\r\n\r\n丁\r\n"_s,
+                                 u"甲\t乙 丙\t丁"_s, u" 甲\u2028乙 丙 \u2029丁 "_s})
         EXPECT_EQ(splitFilterList(typed), three) << qUtf8Printable(typed);
     EXPECT_EQ(splitFilterList(u"\"甲、乙\"、\"两\n行\""_s), (QStringList{u"甲、乙"_s, u"两\n行"_s}));
 }
@@ -137,7 +137,7 @@ TEST(FilterValue, CountsAreWholeNumbersFromOne)
 TEST(FilterValue, AnyValueSurvivesTheWayIntoAListAndBack)
 {
     for (const QString &value : {u"plain"_s, u"a,b"_s, u"甲，乙"_s, u" edge "_s, u"\"quoted\""_s, u"it's"_s,
-                                 u"a\"b"_s, u"a、b"_s, u"a；b"_s, u"a\nb"_s, u"a\tb"_s}) {
+                                 u"a\"b"_s, u"a、b"_s, u"a；b"_s, u"a;b"_s, u"a\nb"_s, u"a\tb"_s}) {
         EXPECT_EQ(splitFilterList(u"x, "_s + filterListItem(value) + u", y"_s),
                   (QStringList{u"x"_s, value, u"y"_s}))
             << qUtf8Printable(value);

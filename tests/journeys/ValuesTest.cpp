@@ -60,14 +60,19 @@ protected:
     {
         hands->clickCell(1, 1);
         hands->click(u"SingleRecord"_s);
-        hands->list->setCurrentIndex(hands->list->model()->index(hands->listedRow(u"a_moment"_s), 1));
+        EXPECT_EQ(hands->listed(u"a_moment"_s), before);
+        type(u"a_moment"_s, typed);
+        hands->click(u"AllRecord"_s);
+    }
+    // Into a field of the record that is listed.
+    void type(const QString &field, const QString &text)
+    {
+        hands->list->setCurrentIndex(hands->list->model()->index(hands->listedRow(field), 1));
         hands->list->setFocus();
         QTest::keyClick(hands->list, Qt::Key_F2);
-        EXPECT_EQ(hands->edit->text(), before);
         hands->edit->clear();
-        compose(*hands->edit, typed);
+        compose(*hands->edit, text);
         QTest::keyClick(hands->edit, Qt::Key_Return);
-        hands->click(u"AllRecord"_s);
     }
     bool isPostgres() const { return QByteArray(engine.name).startsWith("PostgreSQL"); }
 };
@@ -238,6 +243,30 @@ TEST_P(EngineValues, AMomentWithATimeZoneIsTypedInTheSessionsOrItsOwn)
         EXPECT_EQ(shown(u"a_moment"_s), before) << qUtf8Printable(replacement);
         EXPECT_EQ(hands->texts(u"a_moment"_s).at(1), u"2024-07-01 12:00:01"_s + zone);
     }
+}
+
+// No value shows that there is a zone; the driver tells.
+TEST_P(EngineValues, AMomentWithATimeZoneIsTypedIntoAnEmptyColumnAndANewRecord)
+{
+    if (!isPostgres())
+        GTEST_SKIP() << "only PostgreSQL has a type for it";
+    insert(u"a_moment"_s, u"1,NULL"_s);
+    database->run({u"ALTER TABLE journey_values ALTER a_moment TYPE TIMESTAMP(6) WITH TIME ZONE"_s});
+    const QString stored = u"SELECT to_char(a_moment AT TIME ZONE 'UTC', 'YYYY-MM-DD HH24:MI') "
+                           "FROM journey_values WHERE id=%1"_s;
+    ASSERT_TRUE(load());
+    replaceMoment({}, u"2024-07-01 12:00:00+05:45"_s);
+    EXPECT_TRUE(hands->messages.texts().isEmpty()) << qUtf8Printable(hands->messages.texts().join(u'|'));
+    EXPECT_EQ(database->ask(stored.arg(1)), u"2024-07-01 06:15"_s);
+
+    database->run({u"DELETE FROM journey_values"_s});
+    ASSERT_TRUE(load());
+    hands->grid.findChild<QAction *>(u"PopMnuDataAction8"_s)->trigger();
+    type(u"id"_s, u"2"_s);
+    type(u"a_moment"_s, u"2024-07-01T12:00:00Z"_s);
+    hands->click(u"AllRecord"_s);
+    EXPECT_TRUE(hands->messages.texts().isEmpty()) << qUtf8Printable(hands->messages.texts().join(u'|'));
+    EXPECT_EQ(database->ask(stored.arg(2)), u"2024-07-01 12:00"_s);
 }
 
 // Each engine writes it in its own way.

@@ -44,6 +44,19 @@ TEST(DerivationText, ALimitKeepsItsSortInsideAndHasItOutsideAsWell)
         "SELECT * FROM ( select A from T where rownum <= 5 ) Q WHERE A = 1");
 }
 
+TEST(DerivationText, WhatBindsLooserThanAndHasBracketsAsOrHas)
+{
+    const auto filtered = [](Engine engine, const QString &condition, const QString &added) {
+        return derive(engine, u"select A from T where "_s + condition, {u"A"_s}).withCondition(added);
+    };
+    expectText(filtered(Engine::MySQL, u"A = 1 || B = 2"_s, u"C = 3 xor not D"_s),
+               "select A from T where (A = 1 || B = 2) AND (C = 3 xor not D)");
+    expectText(filtered(Engine::Access, u"A = 1 Imp B = 2"_s, u"imp > 5"_s),
+               "select A from T where (A = 1 Imp B = 2) AND imp > 5");
+    expectText(filtered(Engine::PostgreSQL, u"A || 'x' = B"_s, u"xor = 1"_s),
+               "select A from T where A || 'x' = B AND xor = 1");
+}
+
 TEST(DerivationText, WithGoesToTheFront)
 {
     expectText(derive(Engine::SqlServer,

@@ -151,7 +151,7 @@ TEST_F(HistoryDerivation, TheCatalogueHasTheResultsNamesAndWhatConditionsWrite)
 TEST_F(HistoryDerivation, ASortSetUpByTheHostGoesOutsideALimit)
 {
     load(u"select ID, Name from Ord limit 3"_s, {}, u"ID DESC"_s);
-    EXPECT_EQ(firstColumn(first).size(), 3) << qPrintable(first);
+    EXPECT_EQ(firstColumn(first), (QStringList{u"3"_s, u"2"_s, u"1"_s})) << qPrintable(first);
     EXPECT_TRUE(first.endsWith(u"ORDER BY ID DESC"));
 }
 
@@ -253,4 +253,18 @@ TEST_F(HistoryDerivation, ACommandThatCannotRunSaysWhy)
     EXPECT_FALSE(manager.LetNewFilter(u"ID = 1"_s, next));
     load(u"select ID from Ord"_s);
     EXPECT_EQ(history.WhyNot(DerivationStep::Sort), QString());
+}
+
+TEST_F(HistoryDerivation, PartFieldsThatTheStatementHasNotAreRefusedWithTheReason)
+{
+    const QString grouped = u"select Cust, count(*) as N from Ord group by Cust"_s;
+    const QString equal = u"select ID, ID from Ord union select 1, 2"_s;
+    load(grouped, u"select Name from Cust"_s);
+    EXPECT_EQ(history.WhyNoPartFields(), QueryTexts::NoPartFields);
+    load(grouped, u"select Cust from Ord"_s);
+    EXPECT_EQ(history.WhyNoPartFields(), QString());
+    load(equal, u"select ID from Ord"_s);
+    EXPECT_EQ(history.WhyNoPartFields(), QueryTexts::EqualNames.arg(u"ID"_s));
+    load(equal);
+    EXPECT_EQ(history.WhyNoPartFields(), QString()) << "Part shows all fields";
 }

@@ -13,6 +13,11 @@ using namespace Qt::Literals::StringLiterals;
 namespace ADODB {
 
 RowWriter::~RowWriter() = default;
+
+bool RowWriter::keepsZones(int) const
+{
+    return false;
+}
 Statement::~Statement() = default;
 Session::~Session() = default;
 Provider::~Provider() = default;

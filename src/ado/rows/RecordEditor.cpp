@@ -34,8 +34,8 @@ bool isZonedMoment(const QVariant &value)
            DateText::isZonedMoment(value.toString().trimmed().toUtf8());
 }
 
-// Whether the field keeps zones, as its values show. Where it doesn't, a database would drop the zone without
-// a word.
+// Whether the field keeps zones, as its values show where no driver tells. Where it doesn't, a database would
+// drop the zone without a word.
 bool showsZones(const Snapshot &snapshot, int column)
 {
     constexpr qint64 recordsLookedAt = 1000;
@@ -81,7 +81,7 @@ void RecordEditor::set(int column, const QVariant &value, const Snapshot &snapsh
         throw Error(adErrFeatureNotAvailable, Texts::readOnlyField().arg(field.name));
     bool ok = false;
     QVariant converted = FieldValue::convert(value, field.type, &ok);
-    if (!ok && isZonedMoment(value) && showsZones(snapshot, column)) {
+    if (!ok && isZonedMoment(value) && (writer().keepsZones(column) || showsZones(snapshot, column))) {
         converted = ValueText(value).trimmed();
         ok = true;
     }

@@ -41,6 +41,8 @@ public:
     virtual ~RowWriter();
     // Whether a column can be given a value.
     virtual bool isWritable(int column) const = 0;
+    // Whether the database is known to keep the time zone of a moment there.
+    virtual bool keepsZones(int column) const;
     virtual void insert(const std::vector<Change> &changes, RowStore &stored) = 0;
     virtual void update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
                         RowStore &stored) = 0;

@@ -21,6 +21,7 @@ ColumnMenu::ColumnMenu(QWidget &window, const QWidget &toolbar, VSFlexGrid &grid
     : m_toolbar(toolbar), m_grid(grid), m_session(session), m_run(std::move(run)), m_menu(new QMenu(&window))
 {
     m_menu->setObjectName(u"ColumnMenu"_s);
+    m_menu->setToolTipsVisible(true); // why an item can't be used
     auto *open = new QAction(&window);
     Language::keepTranslated(*m_menu, [this, open] {
         m_menu->setAccessibleName(GridTexts::ColumnMenuName);
@@ -81,6 +82,7 @@ QList<QAction *> ColumnMenu::makeActions(QMenu &menu, int col)
         QAction *const action = menu.addAction(command->caption);
         action->setObjectName(u"ColumnMenu"_s + command->key);
         action->setEnabled(m_session.canRunOnColumn(*command, col));
+        action->setToolTip(m_session.whyNot(*command));
         action->setCheckable(command->isOn != nullptr);
         action->setChecked(action->isEnabled() && command->isOn && command->isOn(m_session, col));
         connect(action, &QAction::triggered, this, [this, command, col] { m_run(*command, col); });

@@ -12,6 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString listSeparators = uR"(,，、;；\t\r\n\x{2028}\x{2029})"_s; // as a regular expression has them
+
 QString narrow(const QString &typed)
 {
     return typed.normalized(QString::NormalizationForm_KC).trimmed();
@@ -208,7 +210,7 @@ QString whyNoFilterValue(FieldClass fieldClass, const QString &typed)
 QStringList splitFilterList(const QString &typed)
 {
     static const QRegularExpression item(
-        uR"-(\s*(?:"((?:[^"]|"")*)"|([^,，、；\t\r\n\x{2028}\x{2029}]*?))[^\S\t\r\n]*(?:[,，、；\t\r\n\x{2028}\x{2029}]|\z))-"_s);
+        uR"-(\s*(?:"((?:[^"]|"")*)"|([^%1]*?))[^\S\t\r\n]*(?:[%1]|\z))-"_s.arg(listSeparators));
     QStringList values;
     for (auto found = item.globalMatch(typed); found.hasNext();) {
         const auto match = found.next();
@@ -221,7 +223,7 @@ QStringList splitFilterList(const QString &typed)
 
 QString filterListItem(const QString &value)
 {
-    static const QRegularExpression special(u"[,，、；\"\\t\\r\\n\\x{2028}\\x{2029}]"_s);
+    static const QRegularExpression special(uR"([%1"])"_s.arg(listSeparators));
     const bool isPlain = !value.contains(special) && value.trimmed() == value;
     return isPlain ? value : u'"' + QString(value).replace(u'"', "\"\""_L1) + u'"';
 }

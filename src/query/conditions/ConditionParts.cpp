@@ -53,7 +53,7 @@ std::vector<TextRange> conditionParts(const SqlScanner &statement, TextRange con
     condition = withoutBrackets(statement, condition);
     if (condition.isEmpty())
         return {};
-    if (cutAt(statement, condition, u"OR").size() > 1)
+    if (isAlternative(statement, condition))
         return {condition};
     const std::vector<TextRange> pieces = cutAt(statement, condition, u"AND");
     if (pieces.size() < 2)

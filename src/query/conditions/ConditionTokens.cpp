@@ -1,5 +1,7 @@
 #include "query/conditions/ConditionTokens.h"
 
+#include "sql/select/SqlWalk.h"
+
 #include <algorithm>
 
 namespace KOVAVSFDataGridLib {
@@ -80,6 +82,19 @@ std::vector<TextRange> cutAt(const SqlScanner &sql, TextRange range, QStringView
     return pieces;
 }
 
+bool isAlternative(const SqlScanner &sql, TextRange range)
+{
+    const int depth = sql.at(range.begin).depth;
+    int cases = 0;
+    for (qsizetype i = range.begin; i < range.end; ++i) {
+        cases += isJoin(sql, i, u"CASE", depth) ? 1 : 0;
+        cases -= isJoin(sql, i, u"END", depth) ? 1 : 0;
+        if (cases == 0 && sql.at(i).depth == depth && bindsLooserThanAnd(sql, i))
+            return true;
+    }
+    return false;
+}
+
 bool isFunction(const SqlScanner &sql, qsizetype token)
 {
     return sql.at(token).kind == SqlToken::Kind::Word && sql.isSymbol(token + 1, u'(');
@@ -104,7 +119,7 @@ QChar escapeOf(const SqlScanner &sql, qsizetype word)
 std::optional<Bounds> boundsOf(const SqlScanner &sql, TextRange condition)
 {
     const TextRange inner = withoutBrackets(sql, condition);
-    if (inner.isEmpty() || inner.begin == condition.begin || cutAt(sql, inner, u"OR").size() > 1)
+    if (inner.isEmpty() || inner.begin == condition.begin || isAlternative(sql, inner))
         return std::nullopt;
     const std::vector<TextRange> pieces = cutAt(sql, inner, u"AND");
     if (pieces.size() != 2)

@@ -16,6 +16,9 @@ TextRange withoutBrackets(const SqlScanner &sql, TextRange range);
 // The pieces between a word on the outermost level. The AND of BETWEEN and the words of CASE join nothing.
 std::vector<TextRange> cutAt(const SqlScanner &sql, TextRange range, QStringView word);
 
+// Whether OR, or what else binds looser than AND, joins its outermost pieces.
+bool isAlternative(const SqlScanner &sql, TextRange range);
+
 bool isFunction(const SqlScanner &sql, qsizetype token);
 
 // A text without its quotes; nothing for what isn't one text alone.

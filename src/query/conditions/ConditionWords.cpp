@@ -248,11 +248,13 @@ QString conditionInWords(const SqlScanner &statement, TextRange condition)
         return {};
     if (const auto pieces = cutAt(statement, condition, u"OR"); pieces.size() > 1)
         return alternativesInWords(statement, pieces);
+    if (isAlternative(statement, condition))
+        return textOf(statement, condition).simplified();
     if (const auto pieces = cutAt(statement, condition, u"AND"); pieces.size() > 1) {
         QStringList words;
         for (const TextRange &piece : pieces) {
             const QString text = conditionInWords(statement, piece);
-            const bool isLoose = cutAt(statement, withoutBrackets(statement, piece), u"OR").size() > 1;
+            const bool isLoose = isAlternative(statement, withoutBrackets(statement, piece));
             words.append(isLoose ? QueryTexts::BracketsInWords.arg(text) : text);
         }
         return words.join(QueryTexts::AndInWords);

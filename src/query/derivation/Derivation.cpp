@@ -296,21 +296,34 @@ QString Derivation::asTable() const
         const qsizetype from = m_sql.at(m_parts.order.begin).start - start;
         inner.remove(from, m_sql.at(m_parts.order.end - 1).end() - start - from);
     }
+    inner = inner.trimmed();
+    // SQLite would sort before it takes the first records.
+    if (m_dialect.engine == Engine::SQLite && m_parts.isLimited && m_parts.order.isEmpty())
+        inner = u"SELECT *\nFROM (\n"_s + inner + u"\n) LIMIT -1"_s;
     // A comment to the end of its line must not swallow the bracket.
-    return u"(\n"_s + inner.trimmed() + u"\n)"_s +
-           (m_dialect.likelyEngine() == Engine::Oracle ? u" Q"_s : u" AS Q"_s);
+    return u"(\n"_s + inner + u"\n)"_s + (m_dialect.likelyEngine() == Engine::Oracle ? u" Q"_s : u" AS Q"_s);
+}
+
+std::vector<OuterTerm> Derivation::outerTerms() const
+{
+    std::vector<OuterTerm> terms;
+    for (const SelectParts::Item &term : m_parts.sort) {
+        const int field = fieldOfTerm(term);
+        const QString direction = textOf(m_sql, {term.value.end, term.tokens.end});
+        const QString name = field < 0 ? QString() : writtenName(m_dialect, m_names.at(field));
+        terms.push_back({field, name.isEmpty() || direction.isEmpty() ? name : name + u' ' + direction,
+                         direction.startsWith("DESC"_L1, Qt::CaseInsensitive)});
+    }
+    return terms;
 }
 
 QString Derivation::outerSort() const
 {
     QStringList terms;
-    for (const SelectParts::Item &term : m_parts.sort) {
-        const int field = fieldOfTerm(term);
-        if (field < 0)
+    for (const OuterTerm &term : outerTerms()) {
+        if (term.text.isEmpty())
             return {};
-        const QString direction = textOf(m_sql, {term.value.end, term.tokens.end});
-        terms.append(writtenName(m_dialect, m_names.at(field)) +
-                     (direction.isEmpty() ? QString() : u' ' + direction));
+        terms.append(term.text);
     }
     return terms.join(u',');
 }

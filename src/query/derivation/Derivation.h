@@ -22,6 +22,14 @@ struct FilteredResult
 // What a command does to a statement; see Derivation::whyNot.
 enum class DerivationStep { Condition, Sort, Fields };
 
+// A term of the sort of a statement that has become a table.
+struct OuterTerm
+{
+    int field = -1; // of the table, from 0; -1 when it sorts by none of them
+    QString text;   // empty then, because it can't be written
+    bool isDescending = false;
+};
+
 // How many fields each star of a list gives, by the star as Derivation::starsToMeasure writes it.
 using StarSizes = QHash<QString, qsizetype>;
 
@@ -62,6 +70,10 @@ public:
     // Whether only the result's fields tell what kind it is: a star can bring equal names from several
     // tables.
     bool needsFields() const;
+    // Whether what is derived from it has it as a table, and the terms of its sort as they are written
+    // outside of that.
+    bool isTable() const { return m_kind == Kind::Closed; }
+    std::vector<OuterTerm> outerTerms() const;
     // Whether its list leaves rows out, so that other fields mean other rows.
     bool isDistinct() const { return m_parts.isDistinct && !m_parts.isDistinctOn; }
     // Whether a choice of fields stays a statement of this form, with TOP, say, before its list, and is the

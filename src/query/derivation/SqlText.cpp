@@ -2,6 +2,7 @@
 
 #include "query/CharText.h"
 #include "sql/SqlScanner.h"
+#include "sql/select/SqlWalk.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -24,12 +25,12 @@ QString headWithoutConditions(const QString &statement)
     return head;
 }
 
-// AND binds closer, so an OR outside all brackets would take rows in that AND is to keep out.
+// AND binds closer, so an OR or the like outside all brackets would take rows in that AND is to keep out.
 bool hasOuterOr(const QString &condition, const Dialect &dialect)
 {
     const SqlScanner scanned(condition, dialect);
     for (qsizetype i = 0; i < scanned.count(); ++i) {
-        if (scanned.at(i).depth == 0 && scanned.isWord(i, u"OR"))
+        if (scanned.at(i).depth == 0 && bindsLooserThanAnd(scanned, i))
             return true;
     }
     return false;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "query/derivation/Derivation.h"
 #include "session/commands/Command.h"
+
+#include <optional>
 
 namespace KOVAVSFDataGridLib {
 
@@ -16,7 +19,9 @@ struct ColumnCommand
     Text caption;
     Record record = Record::Stays;
     void (*run)(Session &session, int col);
-    // Null when it always can.
+    // What it derives from the shown statement; where that is refused, it can't run.
+    std::optional<DerivationStep> step = {};
+    // What else keeps it from running. Null when nothing does.
     bool (*canRun)(Session &session, int col) = nullptr;
     // Whether it is in force already. Null for what never is.
     bool (*isOn)(Session &session, int col) = nullptr;

@@ -101,11 +101,11 @@ const ColumnCommand::Registration registration({
     .caption = ColumnCommand::tr("按此列筛选(&F)…"),
     .record = Record::IsLeft,
     .run = filterByColumn,
+    .step = DerivationStep::Condition,
     // A filter that leaves no record can still be changed where it was made.
     .canRun =
         [](Session &session, int col) {
-            return session.sharedHistory().whyNot(DerivationStep::Condition).isEmpty() &&
-                   !writtenColumn(session, col).isEmpty() &&
+            return !writtenColumn(session, col).isEmpty() &&
                    (session.result().hasRecords() || choiceInForce(session, writtenColumn(session, col)));
         },
 });

@@ -51,13 +51,13 @@ const ColumnCommand::Registration registration({
             AllButOne chooser(session.window(), col);
             showChosenFields(session, &chooser);
         },
+    .step = DerivationStep::Fields,
     // Columns are hidden by their names.
     .canRun =
         [](Session &session, int col) {
             const QStringList headings = session.window().Headings();
             return session.result().hasRecords() && headings.count(headings.at(col - 1)) == 1 &&
-                   session.window().shownColumns().size() > 1 &&
-                   session.sharedHistory().whyNot(DerivationStep::Fields).isEmpty();
+                   session.window().shownColumns().size() > 1;
         },
 });
 

@@ -18,8 +18,7 @@ namespace {
 
 bool canSort(Session &session, int col)
 {
-    return session.result().hasRecords() && session.sharedHistory().whyNot(DerivationStep::Sort).isEmpty() &&
-           !writtenColumn(session, col).isEmpty();
+    return session.result().hasRecords() && !writtenColumn(session, col).isEmpty();
 }
 
 const SortTerm *termOf(const std::vector<SortTerm> &order, int col)
@@ -60,7 +59,7 @@ QStringList textsOf(const std::vector<SortTerm> &order, int leftOut = 0)
 {
     QStringList texts;
     for (const SortTerm &term : order) {
-        if (leftOut == 0 || term.column != leftOut)
+        if (!term.text.isEmpty() && (leftOut == 0 || term.column != leftOut))
             texts.append(term.text);
     }
     return texts;
@@ -72,6 +71,7 @@ const ColumnCommand::Registration ascending({
     .caption = ColumnCommand::tr("升序(&A)"),
     .record = Record::IsLeft,
     .run = sortByOne<false>,
+    .step = DerivationStep::Sort,
     .canRun = canSort,
     .isOn = isSortedFirst<false>,
 });
@@ -82,6 +82,7 @@ const ColumnCommand::Registration descending({
     .caption = ColumnCommand::tr("降序(&D)"),
     .record = Record::IsLeft,
     .run = sortByOne<true>,
+    .step = DerivationStep::Sort,
     .canRun = canSort,
     .isOn = isSortedFirst<true>,
 });
@@ -95,6 +96,7 @@ const ColumnCommand::Registration add({
         [](Session &session, int col) {
             sortBy(session, textsOf(shownOrder(session)) + QStringList(writtenColumn(session, col)));
         },
+    .step = DerivationStep::Sort,
     .canRun = [](Session &session, int col) { return canSort(session, col) && !isSortedBy(session, col); },
 });
 
@@ -104,6 +106,7 @@ const ColumnCommand::Registration remove({
     .caption = ColumnCommand::tr("取消排序(&C)"),
     .record = Record::IsLeft,
     .run = [](Session &session, int col) { sortBy(session, textsOf(shownOrder(session), col)); },
+    .step = DerivationStep::Sort,
     .canRun = [](Session &session, int col) { return canSort(session, col) && isSortedBy(session, col); },
 });
 

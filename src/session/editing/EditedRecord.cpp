@@ -24,6 +24,16 @@ bool hasNoValue(ADODB::Recordset &recordset)
     return true;
 }
 
+bool hasWritableField(const ADODB::Recordset &recordset)
+{
+    const ADODB::Fields &fields = recordset.Fields();
+    for (int i = 0; i < fields.Count(); ++i) {
+        if (fields.Item(i).Attributes() & (ADODB::adFldUpdatable | ADODB::adFldUnknownUpdatable))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 EditedRecord::EditedRecord(Session &session) : m_session(session) {}
@@ -161,16 +171,17 @@ QString EditedRecord::whyNotWritten() const
     return m_session.result().isOpen() ? m_session.result().recordset()->WhyReadOnly() : QString();
 }
 
+QString EditedRecord::whyNotAdded() const
+{
+    const QString reason = whyNotWritten();
+    if (!reason.isEmpty() || !m_session.result().isOpen())
+        return reason;
+    return hasWritableField(*m_session.result().recordset()) ? QString() : SessionMessages::NothingToAdd;
+}
+
 bool EditedRecord::canAddRecords() const
 {
-    if (!m_session.result().isOpen() || !whyNotWritten().isEmpty())
-        return false;
-    const ADODB::Fields &fields = m_session.result().recordset()->Fields();
-    for (int i = 0; i < fields.Count(); ++i) {
-        if (fields.Item(i).Attributes() & (ADODB::adFldUpdatable | ADODB::adFldUnknownUpdatable))
-            return true;
-    }
-    return false;
+    return m_session.result().isOpen() && whyNotAdded().isEmpty();
 }
 
 void EditedRecord::cancel()

@@ -45,7 +45,9 @@ public:
     // Why that can't be done to what is shown now, for the user to read: because the host wants it, or
     // because the result can't be written. Empty when it can.
     QString whyNotWritten() const;
-    // Whether the open result has a field that can be written.
+    // The same for adding a record alone: rows can be deleted even where none of their fields can be written.
+    QString whyNotAdded() const;
+    // Whether records can be added to the open result.
     bool canAddRecords() const;
 
 private:

@@ -20,9 +20,21 @@ namespace {
 
 using StepBack = bool (colShowSQLSentences::*)(QString &PassFilter, QString *PassKey);
 
+// An entry without a part statement was shown with the part fields chosen before it: a filter of the first
+// statement keeps them. Later choices are none of its own.
+void markPartFieldsOf(Session &session, const clsShowSQLSentence &entry)
+{
+    QString partStatement;
+    const auto note = session.sharedHistory().trail().noteOf(entry);
+    if (note && !entry.GetCurrUsePartFieldSQL(partStatement))
+        session.history().SetPartFields(note->partFields);
+}
+
 // The latest entry's result is open: shows it as the entry does.
 void showAsEntry(Session &session, const clsShowSQLSentence *entry)
 {
+    if (entry)
+        markPartFieldsOf(session, *entry);
     session.fields().setView(entry && entry->IsShowAllFields == AllFieldsShown ? FieldView::All
                                                                                : FieldView::Part);
     session.fields().layOut();

@@ -64,6 +64,14 @@ QString SharedHistory::whyNot(DerivationStep step) const
     return m_manager->SQLManager().WhyNot(step);
 }
 
+QString SharedHistory::whyNoPartFields() const
+{
+    const QString none = whyNone();
+    if (!none.isEmpty() || !m_manager || !m_session.result().isOpen())
+        return none;
+    return m_manager->SQLManager().WhyNoPartFields();
+}
+
 void SharedHistory::detach()
 {
     if (m_manager && !m_session.rules().worksOnLentResult)

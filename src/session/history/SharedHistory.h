@@ -41,6 +41,8 @@ public:
     QString whyNone() const;
     // The same for a kind of statement that a command would derive.
     QString whyNot(DerivationStep step) const;
+    // The same for the part fields.
+    QString whyNoPartFields() const;
 
     // The user can't be asked any more.
     void detach();

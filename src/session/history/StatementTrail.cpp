@@ -17,7 +17,10 @@ void StatementTrail::replaceNote(const colShowSQLSentences &history, qint64 reco
     if (!latest)
         return;
     forgetOthers(history);
-    m_notes[latest->SQLKey] = {latest->ShowSQL, {records, QDateTime::currentDateTime()}};
+    const std::optional<Note> former = noteOf(*latest);
+    m_notes[latest->SQLKey] = {
+        latest->ShowSQL,
+        {records, QDateTime::currentDateTime(), former ? former->partFields : history.PartFields()}};
 }
 
 void StatementTrail::forgetOthers(const colShowSQLSentences &history)

@@ -19,7 +19,8 @@ public:
     struct Note
     {
         qint64 records = 0;
-        QDateTime time; // when it was last shown
+        QDateTime time;         // when it was last shown
+        QList<bool> partFields; // of the catalogue, as they were marked when it was first shown
     };
 
     // Of the history of this filter manager, and of no other one.
@@ -31,7 +32,7 @@ public:
 
     // Notes that the latest entry shows so many records, unless it has a note.
     void addNote(const colShowSQLSentences &history, qint64 records);
-    // The same with a new note.
+    // The same with a new note; the part fields of the former one stay.
     void replaceNote(const colShowSQLSentences &history, qint64 records);
     std::optional<Note> noteOf(const clsShowSQLSentence &entry) const;
 

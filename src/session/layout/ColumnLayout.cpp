@@ -51,22 +51,34 @@ void ColumnLayout::SaveColumnWidths(HiddenWidths hidden)
     }
 }
 
+// For each heading, whether it is of a part field: by its place where all fields are shown, because several
+// can have its name.
+QList<bool> ColumnLayout::partColumns(const QStringList &headings) const
+{
+    if (headings == fieldsShownBy(FieldView::All))
+        return m_history.PartFields();
+    const QStringList names = fieldsShownBy(FieldView::Part);
+    QList<bool> areParts;
+    for (const QString &heading : headings)
+        areParts.append(names.contains(heading));
+    return areParts;
+}
+
 void ColumnLayout::ShowPartFieldColumns(PartWidths widths)
 {
     const colDataFields &fields = m_history.DataFields();
     const QStringList headings = m_grid.Headings();
-    if (std::none_of(headings.cbegin(), headings.cend(),
-                     [this](const QString &name) { return m_history.IsSelFieldPartField(name); })) {
+    const QList<bool> areParts = partColumns(headings);
+    if (!areParts.contains(true)) {
         if (widths == PartWidths::Kept)
             ShowAllFieldColumns();
         return;
     }
     for (int col = 1; col < m_grid.Cols(); ++col) {
-        const QString &name = headings.at(col - 1);
-        if (!m_history.IsSelFieldPartField(name)) {
+        if (!areParts.at(col - 1)) {
             m_grid.PutColWidth(col, 0);
         } else if (widths == PartWidths::Kept) {
-            const clsDataField *field = fields.Find(name);
+            const clsDataField *field = fields.Find(headings.at(col - 1));
             if (field && field->FieldWidth >= 1)
                 m_grid.PutColWidth(col, field->FieldWidth);
         }
@@ -101,9 +113,11 @@ QStringList ColumnLayout::fieldsShownBy(FieldView view) const
 bool ColumnLayout::hasColumnsFor(const QStringList &fields) const
 {
     const QStringList shown = m_grid.Headings();
-    // Columns of one name can't be told apart, so that the statement is read.
+    const QStringList all = fieldsShownBy(FieldView::All);
+    // Fields of one name can't be told apart, even where one of them alone is shown or wanted, so that the
+    // statement is read.
     return std::all_of(fields.cbegin(), fields.cend(), [&](const QString &field) {
-        return shown.count(field) == 1 && fields.count(field) == 1;
+        return shown.count(field) == 1 && fields.count(field) == 1 && all.count(field) <= 1;
     });
 }
 

@@ -58,6 +58,8 @@ public:
     static std::optional<double> shareOfWidth(int gridWidth, qsizetype columns);
 
 private:
+    QList<bool> partColumns(const QStringList &headings) const;
+
     ColumnView &m_grid;
     colShowSQLSentences &m_history;
 };

@@ -38,6 +38,13 @@ std::vector<SortTerm> shownOrder(Session &session)
 {
     if (!session.result().isOpen() || session.sharedHistory().isManager(nullptr))
         return {};
+    if (const auto derivation = session.history().DerivationOf(session.result().recordset()->Source());
+        derivation && derivation->isTable()) {
+        std::vector<SortTerm> terms;
+        for (const OuterTerm &term : derivation->outerTerms())
+            terms.push_back({term.field + 1, term.text, term.isDescending});
+        return terms;
+    }
     const Dialect dialect = dialectOf(session.filterManager().DBType(), session.result().engine());
     const SqlScanner statement(session.result().recordset()->Source(), dialect);
     const SelectParts parts = SelectParts::of(statement);

@@ -12,7 +12,7 @@ class Session;
 struct SortTerm
 {
     int column = 0; // from 1; 0 when it sorts by no column
-    QString text;   // as it is written, with its direction
+    QString text;   // as a sort of the records has it, with its direction; empty when none can
     bool isDescending = false;
 };
 

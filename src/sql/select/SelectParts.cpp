@@ -15,11 +15,6 @@ bool isQualified(const SqlScanner &statement, qsizetype index)
     return statement.isSymbol(index - 1, u'.') || statement.isSymbol(index + 1, u'.');
 }
 
-// What MySQL takes between SELECT and the list.
-constexpr QStringView mySqlListWords[] = {u"HIGH_PRIORITY",       u"STRAIGHT_JOIN", u"SQL_SMALL_RESULT",
-                                          u"SQL_BIG_RESULT",      u"SQL_CACHE",     u"SQL_BUFFER_RESULT",
-                                          u"SQL_CALC_FOUND_ROWS", u"SQL_NO_CACHE"};
-
 // Reads one statement; see SelectParts.
 class Reader
 {
@@ -79,14 +74,14 @@ private:
     {
         const qsizetype begin = next;
         while (next < m_end) {
-            if (isOneOf(m_sql, next, {u"DISTINCT", u"DISTINCTROW", u"UNIQUE"})) {
+            if (isDistinctWord(m_sql, next)) {
                 m_parts.isDistinct = true;
                 ++next;
                 if (m_sql.isWord(next, u"ON") && m_sql.isSymbol(next + 1, u'(')) {
                     m_parts.isDistinctOn = true;
                     next = afterBrackets(m_sql, next + 1);
                 }
-            } else if (m_sql.isWord(next, u"ALL") || isMySqlListWord(next)) {
+            } else if (isIdleListWord(m_sql, next)) {
                 ++next;
             } else if (isTopAt(next)) {
                 m_parts.isTop = true;
@@ -101,13 +96,6 @@ private:
         }
         m_parts.listWords = {begin, next};
         return next;
-    }
-
-    bool isMySqlListWord(qsizetype index) const
-    {
-        return m_sql.dialect() == SqlDialect::MySql &&
-               std::ranges::any_of(mySqlListWords,
-                                   [&](QStringView word) { return m_sql.isWord(index, word); });
     }
 
     // A column can be called Top.

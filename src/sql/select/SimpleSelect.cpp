@@ -95,10 +95,18 @@ bool changesByItself(const SqlScanner &statement, qsizetype first, qsizetype end
     return false;
 }
 
+qsizetype beginOfList(const SqlScanner &statement)
+{
+    qsizetype first = 1;
+    while (isIdleListWord(statement, first))
+        ++first;
+    return first;
+}
+
 std::vector<SimpleSelect::Item> itemsBefore(const SqlScanner &statement, qsizetype from)
 {
     std::vector<SimpleSelect::Item> items;
-    qsizetype first = statement.isWord(1, u"ALL") ? 2 : 1;
+    qsizetype first = beginOfList(statement);
     for (qsizetype i = first; i <= from; ++i) {
         if (i == from || (statement.isSymbol(i, u',') && statement.at(i).depth == 0)) {
             items.push_back(itemAt(statement, first, i));
@@ -112,7 +120,7 @@ std::vector<SimpleSelect::Item> itemsBefore(const SqlScanner &statement, qsizety
 // How what surrounds the table folds or combines rows; None when it does neither.
 SimpleSelect::Fault folding(const SqlScanner &statement)
 {
-    if (statement.isWord(1, u"DISTINCT"))
+    if (isDistinctWord(statement, beginOfList(statement)))
         return Fault::Distinct;
     for (qsizetype i = 0; i < statement.count(); ++i) {
         if (statement.at(i).depth > 0)

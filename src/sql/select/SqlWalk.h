@@ -29,4 +29,43 @@ inline bool isSubselect(const SqlScanner &statement, qsizetype open)
     return statement.isSymbol(open, u'(') && isOneOf(statement, open + 1, {u"SELECT", u"WITH", u"VALUES"});
 }
 
+// A word that says that equal rows count as one.
+inline bool isDistinctWord(const SqlScanner &statement, qsizetype index)
+{
+    return isOneOf(statement, index, {u"DISTINCT", u"DISTINCTROW", u"UNIQUE"});
+}
+
+// A word between SELECT and the list that changes no row.
+inline bool isIdleListWord(const SqlScanner &statement, qsizetype index)
+{
+    return statement.isWord(index, u"ALL") ||
+           (statement.dialect() == SqlDialect::MySql &&
+            isOneOf(statement, index,
+                    {u"HIGH_PRIORITY", u"STRAIGHT_JOIN", u"SQL_SMALL_RESULT", u"SQL_BIG_RESULT", u"SQL_CACHE",
+                     u"SQL_BUFFER_RESULT", u"SQL_CALC_FOUND_ROWS", u"SQL_NO_CACHE"}));
+}
+
+// A number, a text or a name.
+inline bool isOperand(const SqlScanner &statement, qsizetype index)
+{
+    return index >= 0 && index < statement.count() && statement.at(index).kind != SqlToken::Kind::Symbol &&
+           !isOneOf(statement, index,
+                    {u"AND", u"OR", u"NOT", u"LIKE", u"IN", u"IS", u"BETWEEN", u"CASE", u"WHEN", u"THEN",
+                     u"ELSE", u"END", u"FROM", u"ESCAPE", u"WHERE", u"BY"});
+}
+
+// Whether an operator stands here that binds looser than AND: OR, the || of MySQL, and XOR, EQV and IMP where
+// an engine has them. To any other engine a word between two values is an error.
+inline bool bindsLooserThanAnd(const SqlScanner &statement, qsizetype index)
+{
+    if (statement.isWord(index, u"OR"))
+        return true;
+    if (statement.dialect() == SqlDialect::MySql && statement.isSymbol(index, u'|'))
+        return statement.isSymbol(index + 1, u'|');
+    const bool followsValue = isOperand(statement, index - 1) || statement.isSymbol(index - 1, u')');
+    const bool precedesValue = isOperand(statement, index + 1) || statement.isWord(index + 1, u"NOT") ||
+                               statement.isSymbol(index + 1, u'(') || statement.isSymbol(index + 1, u'-');
+    return followsValue && precedesValue && isOneOf(statement, index, {u"XOR", u"EQV", u"IMP"});
+}
+
 } // namespace KOVAVSFDataGridLib

@@ -5,6 +5,7 @@
 
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QToolButton>
 
@@ -119,6 +120,59 @@ TEST_F(History, ForwardShowsTheFieldsThatWereShown)
     press(Qt::Key_Right);
     EXPECT_EQ(columns(), PartColumns);
     EXPECT_EQ(rows(), 6);
+}
+
+// Its entry has no part statement of its own.
+TEST_F(History, AStepBackToAFilterOfTheFirstStatementShowsTheFieldsThatItShowed)
+{
+    ASSERT_TRUE(load(statementOfAll(), {}));
+    WindowAnswers dialogs({[](QDialog &dialog) {
+                               tick(dialog, {u"ID"_s, u"名称"_s});
+                           },
+                           [](QDialog &dialog) { filter(dialog, u"ID < 5"_s); },
+                           [](QDialog &dialog) { tick(dialog, {u"名称"_s}); }});
+    click(u"SelField"_s);
+    click(u"Filter"_s);
+    EXPECT_EQ(columns(), PartColumns);
+    click(u"SelField"_s);
+    EXPECT_EQ(columns(), QStringList(u"名称"_s));
+    click(u"ToPreview"_s);
+    EXPECT_EQ(columns(), PartColumns);
+    EXPECT_EQ(rows(), 4);
+    press(Qt::Key_Right);
+    EXPECT_EQ(columns(), QStringList(u"名称"_s));
+}
+
+// The first of them alone is found by the name.
+TEST_F(History, OfTwoFieldsOfANameTheChosenOneIsShownThroughAFilter)
+{
+    const auto tickOnly = [](int field) {
+        return [field](QDialog &dialog) {
+            auto &view = part<QAbstractItemView>(dialog, "lvSelField");
+            for (int row = 0; row < view.model()->rowCount(); ++row) {
+                const QModelIndex item = view.model()->index(row, 0);
+                if ((item.data(Qt::CheckStateRole).toInt() == Qt::Checked) == (row == field))
+                    continue;
+                view.setFocus();
+                view.setCurrentIndex(item);
+                QTest::keyClick(&view, Qt::Key_Space);
+            }
+            KovaTest::press(dialog, "cmdOK");
+        };
+    };
+    ASSERT_TRUE(load(u"SELECT a.ID, b.ID, a.名称 FROM 商品 a JOIN 商品 b ON b.ID = a.ID + 1"_s, {}));
+    WindowAnswers dialogs(
+        {tickOnly(1), tickOnly(0), tickOnly(1), [](QDialog &dialog) { filter(dialog, u"a.ID < 3"_s); }});
+    click(u"SelField"_s);
+    EXPECT_EQ(texts(u"ID"_s).first(), u"2"_s);
+    click(u"SelField"_s);
+    EXPECT_EQ(texts(u"ID"_s).first(), u"1"_s) << "the other one is read";
+    click(u"SelField"_s);
+    click(u"Filter"_s);
+    EXPECT_EQ(rows(), 2);
+    EXPECT_EQ(columns(), QStringList(u"ID"_s));
+    EXPECT_TRUE(table->isColumnHidden(0));
+    EXPECT_FALSE(table->isColumnHidden(1));
 }
 
 TEST_F(History, TheOriginLeavesAllStatementsAhead)

@@ -4,6 +4,7 @@
 #include "support/Dialogs.h"
 
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollBar>
 
 using namespace KovaTest;
@@ -278,6 +279,26 @@ TEST_F(RecordsOf, AddingToWhatCannotBeWrittenEndsSilently)
     QTest::keyClick(table, Qt::Key_Plus, Qt::ControlModifier);
     EXPECT_FALSE(isSingleRecordShown());
     EXPECT_TRUE(messages.shown().empty());
+}
+
+TEST_F(RecordsOf, AddingWhereNoFieldCanBeWrittenIsGreyAndSaysWhy)
+{
+    const QString computed = u"SELECT ID + 0 AS 编号, upper(城市) AS 地区 FROM 商品"_s;
+    ASSERT_TRUE(load(computed, {}));
+    auto *add = menu->actions().at(7);
+    EXPECT_FALSE(add->isEnabled());
+    EXPECT_EQ(add->toolTip(), u"查询结果中没有可以修改的字段，不能增加记录。"_s);
+    EXPECT_TRUE(menu->actions().at(8)->isEnabled()) << "the rows can be deleted";
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_Plus, Qt::ControlModifier);
+    QTest::keyClick(table, Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_FALSE(isSingleRecordShown());
+
+    ASSERT_TRUE(load(computed + u" WHERE ID > 100"_s, {}));
+    EXPECT_FALSE(grid.findChild<QPushButton *>(u"cmdAddFirst"_s)->isVisible());
+
+    ASSERT_TRUE(load(u"SELECT ID + 0 AS 编号, 名称 FROM 商品"_s, {}));
+    EXPECT_TRUE(add->isEnabled());
 }
 
 TEST_F(RecordsOf, WhatTheHostChangesIsShown)

@@ -56,6 +56,22 @@ TEST_F(Toolbar, AllOpensItsStatementWhenTheResultHasFewerFields)
     EXPECT_TRUE(isPressed(u"All"_s));
 }
 
+TEST_F(Toolbar, PartFieldsThatTheStatementHasNotAreRefusedWithTheReason)
+{
+    const QString grouped = u"SELECT 城市, count(*) AS 数 FROM 商品 GROUP BY 城市"_s;
+    ASSERT_TRUE(load(grouped, u"SELECT 名称 FROM 商品"_s));
+    EXPECT_FALSE(button(u"Part"_s)->isEnabled());
+    EXPECT_TRUE(button(u"Part"_s)->toolTip().contains(
+        u"部分字段的语句与当前语句的字段对应不上，不能只显示这些字段。"_s))
+        << qUtf8Printable(button(u"Part"_s)->toolTip());
+    click(u"All"_s);
+    EXPECT_EQ(columns(), (QStringList{u"城市"_s, u"数"_s}));
+
+    ASSERT_TRUE(load(grouped, u"SELECT 城市 FROM 商品"_s));
+    click(u"Part"_s);
+    EXPECT_EQ(columns(), QStringList(u"城市"_s));
+}
+
 TEST_F(Toolbar, AColumnKeepsItsWidthThroughPartAndReload)
 {
     ASSERT_TRUE(load());

@@ -124,6 +124,11 @@ bool OdbcWaitingWriter::isWritable(int column) const
     return m_writer->isWritable(column);
 }
 
+bool OdbcWaitingWriter::keepsZones(int column) const
+{
+    return m_writer->keepsZones(column);
+}
+
 void OdbcWaitingWriter::insert(const std::vector<Change> &changes, RowStore &stored)
 {
     const auto own = std::make_shared<RowStore>(stored.columns());

@@ -41,6 +41,7 @@ public:
     explicit OdbcWaitingWriter(std::shared_ptr<OdbcRowWriter> writer);
 
     bool isWritable(int column) const override;
+    bool keepsZones(int column) const override;
     void insert(const std::vector<Change> &changes, RowStore &stored) override;
     void update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
                 RowStore &stored) override;

@@ -58,7 +58,7 @@ const Command::Registration registration({
     .needs = Needs::Records,
     .record = Record::IsListedAgain,
     .run = showPartFields,
-    .whyNot = [](Session &session) { return session.sharedHistory().whyNone(); },
+    .whyNot = [](Session &session) { return session.sharedHistory().whyNoPartFields(); },
 });
 
 } // namespace

@@ -47,7 +47,7 @@ const Command::Registration registration({
     .menu = {8, Command::tr("增加记录(&N)")},
     .record = Record::Stays,
     .run = addRecord,
-    .whyNot = [](Session &session) { return session.record().whyNotWritten(); },
+    .whyNot = [](Session &session) { return session.record().whyNotAdded(); },
 });
 
 } // namespace

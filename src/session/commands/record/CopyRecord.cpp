@@ -71,7 +71,7 @@ const Command::Registration registration({
     .needs = Needs::Records,
     .record = Record::Stays,
     .run = copyRecord,
-    .whyNot = [](Session &session) { return session.record().whyNotWritten(); },
+    .whyNot = [](Session &session) { return session.record().whyNotAdded(); },
 });
 
 } // namespace

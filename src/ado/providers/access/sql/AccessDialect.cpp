@@ -328,7 +328,20 @@ private:
         }
         for (qsizetype i = top; i < top + (isPercent ? 3 : 2); ++i)
             replace(i, {});
-        insert(Edit::Open, m_statement.at(end - 1).end(), " LIMIT "_L1 + limit);
+        // What selects from these records may sort them; SQLite would sort before it takes the first ones.
+        const qsizetype select = isSelectModifier(m_statement, top - 1) ? top - 2 : top - 1;
+        const bool isTable = m_statement.isSymbol(select - 1, u'(') && !hasOrder(top, end, depth);
+        insert(Edit::Open, m_statement.at(end - 1).end(),
+               (isTable ? " ORDER BY NULL LIMIT "_L1 : " LIMIT "_L1) + limit);
+    }
+
+    bool hasOrder(qsizetype begin, qsizetype end, int depth) const
+    {
+        for (qsizetype i = begin; i < end; ++i) {
+            if (m_statement.at(i).depth == depth && m_statement.isWord(i, u"ORDER"))
+                return true;
+        }
+        return false;
     }
 
     QString edited()

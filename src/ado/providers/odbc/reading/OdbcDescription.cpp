@@ -45,8 +45,11 @@ FieldInfo describe(const OdbcHandle &statement, int column)
 OdbcTypes::Declared declaredType(const OdbcHandle &statement, int column)
 {
     const Answer answer(statement, column);
+    const bool isMoment = answer.sqlType == SQL_TYPE_TIMESTAMP || answer.sqlType == SQL_TIMESTAMP;
+    const QString name = isMoment ? statement.columnText(column, SQL_DESC_TYPE_NAME) : QString();
     return {answer.sqlType, static_cast<qint64>(answer.size), answer.scale,
-            statement.columnNumber(column, SQL_DESC_UNSIGNED) == SQL_TRUE};
+            statement.columnNumber(column, SQL_DESC_UNSIGNED) == SQL_TRUE,
+            OdbcTypes::isZonedType(answer.sqlType, name)};
 }
 
 std::vector<FieldInfo> describeColumns(const OdbcHandle &statement)

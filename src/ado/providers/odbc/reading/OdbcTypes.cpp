@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace ADODB::OdbcTypes {
 
 namespace {
@@ -73,6 +75,12 @@ bool isLongType(DataTypeEnum type)
 }
 
 } // namespace
+
+bool isZonedType(int sqlType, const QString &name)
+{
+    return sqlType == sqlServerOffset || name.compare("timestamptz"_L1, Qt::CaseInsensitive) == 0 ||
+           name.endsWith("with time zone"_L1, Qt::CaseInsensitive);
+}
 
 void apply(FieldInfo &field, const Declared &declared)
 {

@@ -12,7 +12,11 @@ struct Declared
     qint64 size = 0; // characters, bytes or digits; 0 where it has no limit or none is known
     int scale = 0;
     bool isUnsigned = false;
+    bool isZoned = false; // moments with a time zone
 };
+
+// Whether a column of this type, as the driver calls it, keeps the time zone of a moment.
+bool isZonedType(int sqlType, const QString &name);
 
 // Sets type, size, precision, scale and what goes with the type among the attributes.
 void apply(FieldInfo &field, const Declared &declared);

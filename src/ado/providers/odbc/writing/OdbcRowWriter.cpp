@@ -64,6 +64,11 @@ bool OdbcRowWriter::isWritable(int column) const
     return !nameOf(column).isEmpty();
 }
 
+bool OdbcRowWriter::keepsZones(int column) const
+{
+    return m_types[static_cast<std::size_t>(column)].isZoned;
+}
+
 QString OdbcRowWriter::keyCondition(const QString &prefix, const Key &key) const
 {
     QStringList terms;

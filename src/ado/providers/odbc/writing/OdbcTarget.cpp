@@ -193,7 +193,8 @@ std::size_t OdbcTarget::findRow(const OdbcEngine &engine, const SqlScanner &scan
     const auto locate = [&](const QString &name) {
         if (const qsizetype place = shown.indexOf(name); place >= 0)
             return static_cast<int>(place);
-        hidden += ", "_L1 + alias + u'.' + engine.quoted(name);
+        // Under another name, because the statement's sort can mean a field of the column's name.
+        hidden += u", %1.%2 AS kova_%3"_s.arg(alias, engine.quoted(name), QString::number(count));
         return count++;
     };
     for (const QString &name : isRealKey ? from.key : from.comparable)
