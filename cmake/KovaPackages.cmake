@@ -116,4 +116,24 @@ if(TARGET kovagrid)
   kova_install_compressed(${PROJECT_SOURCE_DIR}/apps/kovagrid/assets/kovagrid.1 ${CMAKE_INSTALL_MANDIR}/man1 runtime)
 endif()
 
+# The same components as RPM packages, for systems that have these: `cpack -G RPM` in the build folder.
+set(CPACK_RPM_COMPONENT_INSTALL ON)
+set(CPACK_RPM_FILE_NAME RPM-DEFAULT)
+set(CPACK_RPM_PACKAGE_LICENSE MIT)
+set(CPACK_RPM_PACKAGE_VENDOR KOVAVSFDataGrid)
+set(CPACK_RPM_PACKAGE_RELEASE 1)
+set(CPACK_RPM_EXCLUDE_FROM_AUTO_FILELIST_ADDITION # folders of the system
+  /usr/lib/${CMAKE_LIBRARY_ARCHITECTURE} /usr/lib/python3 /usr/lib/python3/dist-packages /usr/share/applications
+  /usr/share/icons /usr/share/icons/hicolor /usr/share/icons/hicolor/scalable /usr/share/icons/hicolor/scalable/apps
+  /usr/share/man /usr/share/man/man1 /usr/share/metainfo)
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+  string(TOUPPER ${component} COMPONENT)
+  set(CPACK_RPM_${COMPONENT}_PACKAGE_NAME ${CPACK_DEBIAN_${COMPONENT}_PACKAGE_NAME})
+  # Debian writes an empty line as a dot.
+  string(REPLACE "\n.\n" "\n\n" CPACK_RPM_${COMPONENT}_PACKAGE_DESCRIPTION "${CPACK_DEBIAN_${COMPONENT}_DESCRIPTION}")
+  if(NOT component STREQUAL runtime)
+    set(CPACK_RPM_${COMPONENT}_PACKAGE_REQUIRES "${library_package} = ${PROJECT_VERSION}-1")
+  endif()
+endforeach()
+
 include(CPack)

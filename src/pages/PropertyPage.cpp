@@ -6,10 +6,12 @@
 
 #include <QtCore/QMetaProperty>
 #include <QtCore/QVariant>
+#include <QtGui/QScreen>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace KOVAVSFDataGridLib {
@@ -49,7 +51,10 @@ QSize PropertyPage::sizeHint() const
 {
     // A wish and not the text box's minimum: a property frame may be narrower, and must not cut it off.
     constexpr int statementLength = 60; // characters
-    return QWidget::sizeHint().expandedTo({widthOfDigits(*this, statementLength), 0});
+    // Nor a wish that a small screen can't meet: a new window gets two thirds of it at most, and the height
+    // that the hint's lines need at the width that it wished for.
+    const int widest = screen()->availableGeometry().width() / 2;
+    return QWidget::sizeHint().expandedTo({std::min(widthOfDigits(*this, statementLength), widest), 0});
 }
 
 void PropertyPage::SetSelectedControls(const QList<QObject *> &controls)

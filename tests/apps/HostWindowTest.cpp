@@ -8,6 +8,7 @@
 
 #include <KOVAVSFDataGrid>
 
+#include "support/AccessKeys.h"
 #include "support/AccessWriter.h"
 #include "support/ExpectedWarnings.h"
 #include "support/MessageAnswers.h"
@@ -17,6 +18,7 @@
 #include <QtCore/QMimeData>
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QTranslator>
 #include <QtCore/QUrl>
 #include <QtGui/QDropEvent>
 #include <QtGui/QScreen>
@@ -51,6 +53,12 @@ struct HostWindowTest : testing::Test
     HostWindowTest()
     {
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, home.path());
+        open();
+    }
+    ~HostWindowTest() override { window->close(); }
+
+    void open()
+    {
         Options options;
         options.connection = database.connectionString();
         options.sql = u"select * from orders"_s;
@@ -60,7 +68,6 @@ struct HostWindowTest : testing::Test
         EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
         window->page()->loadForm();
     }
-    ~HostWindowTest() override { window->close(); }
 
     StatementEdit &statement() const { return *window->page()->statement(); }
     QTableView &table() const { return *window->grid()->findChild<QTableView *>(u"vsfgDataGrid"_s); }
@@ -211,6 +218,35 @@ TEST_F(HostWindowTest, TabsComeAndGoByKeys)
     EXPECT_EQ(table().model()->rowCount(), 3);
     press(Qt::Key_W, Qt::ControlModifier);
     EXPECT_EQ(tabs().count(), 1) << "the last one stays";
+}
+
+TEST_F(HostWindowTest, AccessKeysAreTheirOwnInBothLanguages)
+{
+    const auto expectOwnKeys = [this] {
+        for (QToolButton *button : window->page()->findChildren<QToolButton *>()) {
+            if (button->isCheckable() && button->isVisible())
+                button->setChecked(true); // what it opens has keys too
+        }
+        window->grid()->findChild<QAction *>(u"PopMnuDataAction27"_s)->trigger(); // the find bar
+        QStringList captions = accessCaptions(*window);
+        EXPECT_GT(captions.size(), 10);
+        for (const QAction *action : window->menuBar()->actions()) {
+            captions.append(action->text());
+            EXPECT_EQ(sharedAccessKeys(*action->menu()), QStringList());
+        }
+        EXPECT_EQ(sharedAccessKeys(captions), QStringList());
+    };
+    expectOwnKeys();
+    QTranslator english;
+    ASSERT_TRUE(english.load(u":/KOVAVSFDataGridLib/translations/kovagrid_en.qm"_s));
+    QCoreApplication::installTranslator(&english);
+    window->grid()->PutLanguage(u"en"_s);
+    window->close();
+    open();
+    EXPECT_EQ(window->menuBar()->actions().front()->text(), u"&File"_s);
+    expectOwnKeys();
+    window->grid()->PutLanguage({}); // everybody's
+    QCoreApplication::removeTranslator(&english);
 }
 
 TEST_F(HostWindowTest, RecentConnectionsHaveNoPasswords)

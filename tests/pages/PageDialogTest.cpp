@@ -3,9 +3,13 @@
 #include "SomeControl.h"
 #include "pages/PropertyPage.h"
 #include "pages/PropertyPages.h"
+#include "support/AccessKeys.h"
 #include "support/Dialogs.h"
 #include "support/MessageAnswers.h"
 
+#include <QtGui/QScreen>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <gtest/gtest.h>
 
@@ -86,4 +90,35 @@ TEST_F(ReadOnlyPageWindow, StaysOpenWhenTheTextIsRefused)
     press(dialog, "OKButton");
     EXPECT_EQ(messages.shown().size(), 1U);
     EXPECT_TRUE(dialog.isVisible());
+}
+
+TEST(PageDialogs, ShowTheirHintsWholeInLargeLettersOnASmallScreen)
+{
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSizeF(2 * before.pointSizeF());
+    QApplication::setFont(large);
+    for (const QString &name : propertyPageNames()) {
+        PageDialog dialog(newPropertyPage(name));
+        present(dialog);
+        int hints = 0;
+        for (const QLabel *label : dialog.findChildren<QLabel *>()) {
+            if (!label->wordWrap())
+                continue;
+            ++hints;
+            EXPECT_GE(label->height(), label->heightForWidth(label->width())) << qPrintable(name);
+        }
+        EXPECT_GT(hints, 0) << qPrintable(name);
+        EXPECT_LE(dialog.width(), dialog.screen()->availableGeometry().width()) << qPrintable(name);
+    }
+    QApplication::setFont(before);
+}
+
+TEST(PageDialogs, HaveAccessKeysOfTheirOwn)
+{
+    for (const QString &name : propertyPageNames()) {
+        PageDialog dialog(newPropertyPage(name));
+        present(dialog);
+        EXPECT_EQ(sharedAccessKeys(accessCaptions(dialog)), QStringList()) << qPrintable(name);
+    }
 }
