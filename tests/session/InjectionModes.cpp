@@ -35,6 +35,7 @@ const std::vector<InjectionMode> injectionModes = {
     {"MariaDBSqlServer", "MariaDBInSqlServerMode", "", {true, true, true}},
     {"MariaDBGbk", "MariaDB", "OPTION=67108864;CHARSET=gbk"},
     {"MariaDBBig5", "MariaDB", "OPTION=67108864;CHARSET=big5"},
+    {"MariaDBLatin1", "MariaDB", "OPTION=67108864;CHARSET=latin1"},
     {"MariaDBGbkSet", "MariaDB", "OPTION=67108864;INITSTMT={SET NAMES gbk}"},
 };
 

@@ -125,6 +125,10 @@ void OdbcLogin::adaptToMariaDb()
     // Its driver overlooks ODBC's own way to say this, and would wait for ever.
     if (m_connectTimeout > 0)
         put(u"CONN_TIMEOUT"_s, QString::number(m_connectTimeout));
+    // In any other character set the driver writes the nearest sign for one that the set lacks, an apostrophe
+    // for a fullwidth one: a text would end within itself, and what follows in it would run as SQL.
+    std::erase_if(m_parts, [](const auto &part) { return sameWord(part.first, u"Charset"); });
+    put(u"Charset"_s, u"utf8mb4"_s);
     // Nobody runs several statements in one text here, and the driver stays locked when one of them fails.
     constexpr quint32 severalStatements = 1u << 26;
     for (auto &[keyword, value] : m_parts) {
@@ -227,7 +231,7 @@ int OdbcLogin::portion() const
 
 bool OdbcLogin::addDefaults(OdbcEngine::Kind engine)
 {
-    const std::size_t before = m_parts.size();
+    const auto before = m_parts;
     const auto add = [this](const auto &defaults) {
         for (const Default &standard : defaults) {
             if (standard.shortName.isEmpty() || !contains(standard.shortName))
@@ -238,7 +242,9 @@ bool OdbcLogin::addDefaults(OdbcEngine::Kind engine)
         add(postgreSqlDefaults);
     else if (engine == OdbcEngine::Kind::Sqlite)
         add(sqliteDefaults);
-    return m_parts.size() > before;
+    else if (engine == OdbcEngine::Kind::MariaDb)
+        adaptToMariaDb();
+    return m_parts != before;
 }
 
 } // namespace ADODB
