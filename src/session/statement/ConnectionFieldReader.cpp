@@ -16,6 +16,7 @@
 #include <QtCore/QStringList>
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace KOVAVSFDataGridLib {
 
@@ -53,6 +54,37 @@ PlainColumns plainColumns(const QString &statement)
         columns.names.append(item.isStar ? u"*"_s : sql.name(item.tokens.begin));
     }
     return columns;
+}
+
+bool isClauseWord(const SqlScanner &sql, qsizetype token)
+{
+    return std::ranges::any_of(
+        std::initializer_list<QStringView>{u"SELECT", u"FROM", u"WHERE", u"ORDER", u"BY"},
+        [&](QStringView word) { return sql.isWord(token, word); });
+}
+
+// A statement as it is remembered. One that was derived differs from the host's in the letter case of these
+// words and the blanks around them. All else stays, because engines call a field by the text of its
+// expression.
+QString remembered(const QString &statement)
+{
+    const SqlScanner sql(statement);
+    QString text;
+    qsizetype end = 0;
+    bool isAtClause = true;
+    for (qsizetype i = 0; i < sql.count(); ++i) {
+        const QStringView before = QStringView(statement).mid(end, sql.at(i).start - end);
+        const bool isClause = isClauseWord(sql, i);
+        const bool isSpare = (isClause || isAtClause) && before.trimmed().isEmpty();
+        text += isSpare ? QStringView(u" ") : before;
+        text += isClause ? sql.text(i).toString().toUpper() : sql.text(i).toString();
+        end = sql.at(i).end();
+        isAtClause = isClause;
+    }
+    const QStringView rest = QStringView(statement).mid(end);
+    if (!rest.trimmed().isEmpty())
+        text += rest;
+    return text;
 }
 
 } // namespace
@@ -121,7 +153,7 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
                                                                     const QString &statement)
 {
     m_failure.clear();
-    const std::pair key(connectionString, statement);
+    const std::pair key(connectionString, remembered(statement));
     if (const auto known = m_known.constFind(key); known != m_known.constEnd())
         return *known;
     if (const auto derived = fromKnown(connectionString, statement)) {
@@ -178,7 +210,7 @@ void ConnectionFieldReader::remember(const QString &connectionString, const QStr
         const ADODB::Field &field = fields.Item(i);
         known.push_back({field.Name(), field.Type(), field.BaseTableName()});
     }
-    m_known.insert({connectionString, statement}, known);
+    m_known.insert({connectionString, remembered(statement)}, known);
 }
 
 EngineMode ConnectionFieldReader::engineOf(const QString &connectionString)
