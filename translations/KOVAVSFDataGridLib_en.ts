@@ -1534,6 +1534,30 @@
         <source>记录太多，短时间内数不完。</source>
         <translation>There are too many records to count them in a moment.</translation>
     </message>
+    <message>
+        <source>%1是按顺序排在最前的 %2 个之一</source>
+        <translation>%1 is one of the first %2 in order</translation>
+    </message>
+    <message>
+        <source>%1是按顺序排在最后的 %2 个之一</source>
+        <translation>%1 is one of the last %2 in order</translation>
+    </message>
+    <message>
+        <source>%1（条件 %2）</source>
+        <translation>%1 (condition %2)</translation>
+    </message>
+    <message>
+        <source>移动条件 %1，在第 %2 级</source>
+        <translation>Move condition %1, on level %2</translation>
+    </message>
+    <message>
+        <source>移动组 %1，在第 %2 级</source>
+        <translation>Move group %1, on level %2</translation>
+    </message>
+    <message>
+        <source>%1（组 %2）</source>
+        <translation>%1 (group %2)</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::FormTexts</name>
@@ -2495,6 +2519,14 @@
     <message>
         <source>%1年</source>
         <translation>%1</translation>
+    </message>
+    <message>
+        <source>是按顺序排在最前的 %1 个之一</source>
+        <translation>is one of the first %1 in order</translation>
+    </message>
+    <message>
+        <source>是按顺序排在最后的 %1 个之一</source>
+        <translation>is one of the last %1 in order</translation>
     </message>
 </context>
 <context>
