@@ -1546,6 +1546,30 @@
         <source>%1%2%3和%4之间</source>
         <translation>%1 %2 %3 and %4</translation>
     </message>
+    <message>
+        <source>%1是按顺序排在最前的 %2 个之一</source>
+        <translation>%1 is one of the first %2 in order</translation>
+    </message>
+    <message>
+        <source>%1是按顺序排在最后的 %2 个之一</source>
+        <translation>%1 is one of the last %2 in order</translation>
+    </message>
+    <message>
+        <source>%1（条件 %2）</source>
+        <translation>%1 (condition %2)</translation>
+    </message>
+    <message>
+        <source>移动条件 %1，在第 %2 级</source>
+        <translation>Move condition %1, on level %2</translation>
+    </message>
+    <message>
+        <source>移动组 %1，在第 %2 级</source>
+        <translation>Move group %1, on level %2</translation>
+    </message>
+    <message>
+        <source>%1（组 %2）</source>
+        <translation>%1 (group %2)</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::FormTexts</name>
@@ -2515,6 +2539,14 @@
     <message>
         <source>部分字段的语句与当前语句的字段对应不上，不能只显示这些字段。</source>
         <translation>The statement of the part fields does not match the fields of the shown statement, so they can&apos;t be shown alone.</translation>
+    </message>
+    <message>
+        <source>是按顺序排在最前的 %1 个之一</source>
+        <translation>is one of the first %1 in order</translation>
+    </message>
+    <message>
+        <source>是按顺序排在最后的 %1 个之一</source>
+        <translation>is one of the last %1 in order</translation>
     </message>
 </context>
 <context>

@@ -39,6 +39,8 @@ inline constexpr Text NotInWords = tr("不满足 %1");
 inline constexpr Text RepeatedInWords = tr("的值有重复");
 inline constexpr Text LargestInWords = tr("是最大的 %1 个之一");
 inline constexpr Text SmallestInWords = tr("是最小的 %1 个之一");
+inline constexpr Text FirstTextsInWords = tr("是按顺序排在最前的 %1 个之一");
+inline constexpr Text LastTextsInWords = tr("是按顺序排在最后的 %1 个之一");
 inline constexpr Text BracketsInWords = tr("（%1）");
 
 } // namespace KOVAVSFDataGridLib::QueryTexts

@@ -218,6 +218,21 @@ TEST(FilterCondition, RecordsAreComparedWithTheOnesThatAreFiltered)
     EXPECT_EQ(sql(FieldClass::Number, Duplicated), "fault: 这里不能比较各条记录。");
 }
 
+TEST(FilterCondition, TheFirstTextsAreThoseThatBeginTheirOrder)
+{
+    FilterScope scope;
+    scope.records = {u"T"_s, {}};
+    const auto first = [&](FilterOperator op) {
+        return conditionOf(sqlite, {field(FieldClass::Text), op, u"3"_s, {}}, scope).sql.toStdString();
+    };
+    EXPECT_EQ(first(Top),
+              "F IN (SELECT KovaValue\nFROM (SELECT F AS KovaValue\nFROM T\nWHERE F <> ''\nORDER BY "
+              "F LIMIT 3) KovaFirstTexts)");
+    EXPECT_EQ(first(Bottom),
+              "F IN (SELECT KovaValue\nFROM (SELECT F AS KovaValue\nFROM T\nWHERE F <> ''\nORDER "
+              "BY F DESC LIMIT 3) KovaFirstTexts)");
+}
+
 TEST(FilterCondition, DaysAreThoseOfTheDayOnWhichItIsWritten)
 {
     const auto on = [](QDate today, FilterOperator op, const QString &value, const QString &last = {}) {
@@ -249,8 +264,10 @@ TEST(FilterOperators, FitTheFieldsClass)
     EXPECT_TRUE(operatorsFor(FieldClass::Text).contains(Contains));
     EXPECT_FALSE(operatorsFor(FieldClass::Number).contains(Contains));
     EXPECT_EQ(operatorsFor(FieldClass::Other), (QList<FilterOperator>{IsEmpty, IsNotEmpty}));
-    EXPECT_EQ(operatorsFor(FieldClass::Text).size(), 19);
-    EXPECT_FALSE(operatorsFor(FieldClass::Text).contains(Top));
+    EXPECT_EQ(operatorsFor(FieldClass::Text).size(), 21);
+    // Two values have many records each.
+    EXPECT_EQ(operatorsFor(FieldClass::Boolean),
+              (QList<FilterOperator>{Equals, NotEquals, IsEmpty, IsNotEmpty}));
     EXPECT_EQ(captionOf(Bottom), u"后 N 个"_s);
     EXPECT_EQ(valueCount(NotBetween), 2);
     EXPECT_EQ(valueCount(Duplicated), 0);

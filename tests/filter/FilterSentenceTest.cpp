@@ -64,6 +64,8 @@ TEST(FilterSentence, SaysEachOperator)
     EXPECT_EQ(sentence({term(u"金额"_s, number, Between, u"1"_s, u"2"_s)}), "【金额】介于 1 和 2 之间。");
     EXPECT_EQ(sentence({term(u"金额"_s, number, Top, u"10"_s)}), "【金额】是最大的 10 个之一。");
     EXPECT_EQ(sentence({term(u"金额"_s, number, Bottom, u"3"_s)}), "【金额】是最小的 3 个之一。");
+    EXPECT_EQ(sentence({term(u"品名"_s, text, Top, u"10"_s)}), "【品名】是按顺序排在最前的 10 个之一。");
+    EXPECT_EQ(sentence({term(u"品名"_s, text, Bottom, u"3"_s)}), "【品名】是按顺序排在最后的 3 个之一。");
     EXPECT_EQ(sentence({term(u"城市"_s, text, Duplicated)}), "【城市】的值有重复。");
 }
 

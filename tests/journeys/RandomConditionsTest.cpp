@@ -1,19 +1,14 @@
 // Conditions put together at random over all operators of the filter builder select the records that a plain
 // loop over the values selects, on each engine.
-#include "JourneyDatabase.h"
-#include "RandomValues.h"
+#include "RandomTable.h"
 
-#include "ado/Connection.h"
 #include "ado/Error.h"
 #include "ado/Recordset.h"
-#include "filter/FilterSource.h"
 #include "filter/conditions/FilterCondition.h"
+#include "filter/conditions/TickedValues.h"
 #include "filter/tree/FilterTree.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <ctime>
 
 using namespace KOVAVSFDataGridLib;
 using namespace KovaTest;
@@ -22,162 +17,9 @@ using enum FilterOperator;
 
 namespace {
 
-class RandomConditions : public testing::TestWithParam<JourneyEngine>
+class RandomConditions : public RandomTable
 {
 protected:
-    void SetUp() override
-    {
-        if (!engine.isThere())
-            GTEST_SKIP() << engine.variable << " is not set";
-        // Of the process, and of the server's sessions.
-        qputenv("TZ", zone.id());
-        qputenv("PGTZ", zone.id());
-        tzset();
-        database.emplace(engine);
-        fill();
-        connection->Open(database->connectionString());
-        source.setDatabase(static_cast<AllDBType>(engine.dbType));
-        source.setConnection(connection);
-        source.setTable(u"journey_random"_s);
-        fields = source.readFields();
-        ASSERT_EQ(fields.size(), columns + 1U);
-    }
-
-    void TearDown() override
-    {
-        qunsetenv("TZ");
-        qunsetenv("PGTZ");
-        tzset();
-    }
-
-    bool isPostgres() const { return QLatin1StringView(engine.name).startsWith("PostgreSQL"_L1); }
-    TextRule rule(Column column) const
-    {
-        const bool isLoose = column == Loose;
-        if (engine.store == JourneyEngine::AccessFile)
-            return {.ignoresCase = true, .likeIgnoresCase = true};
-        if (isPostgres())
-            return {.ignoresEnd = isLoose, .likeIgnoresEnd = isLoose};
-        if (engine.isMariaDb())
-            return {.hasUpperCase = true,
-                    .ignoresCase = isLoose,
-                    .ignoresEnd = isLoose,
-                    .likeIgnoresCase = isLoose};
-        return {.ignoresCase = isLoose, .likeIgnoresCase = true};
-    }
-    QString looseType() const
-    {
-        if (engine.store == JourneyEngine::AccessFile)
-            return u"VARCHAR(60)"_s;
-        if (isPostgres())
-            return u"CHAR(60) COLLATE \"C\""_s;
-        return engine.isMariaDb() ? u"VARCHAR(60) CHARACTER SET utf8mb4 COLLATE utf8mb4_general_ci"_s
-                                  : u"VARCHAR(60) COLLATE NOCASE"_s;
-    }
-
-    void fill()
-    {
-        const bool isMariaDb = engine.isMariaDb();
-        const bool isPostgres = this->isPostgres();
-        const QString zoned =
-            isPostgres ? u"TIMESTAMP(6) WITH TIME ZONE"_s : QString::fromLatin1(engine.moment);
-        // Moments for days too where a database has no type for days alone.
-        const QString day = engine.store == JourneyEngine::AccessFile ? u"DATETIME"_s : u"DATE"_s;
-        QStringList script{
-            u"DROP TABLE IF EXISTS journey_random"_s,
-            u"CREATE TABLE journey_random (id INTEGER PRIMARY KEY, t VARCHAR(60)%1, n INTEGER, d %2, m %3, b %4, u %6, z %7)%5"_s
-                .arg(isPostgres ? u" COLLATE \"C\""_s : QString(), day, QString::fromLatin1(engine.moment),
-                     u"BOOLEAN"_s,
-                     isMariaDb ? u" CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin"_s : QString(),
-                     looseType(), zoned)};
-        Generator random(20260102); // the same on each run
-        for (int id = 1; id <= 80; ++id) {
-            Row row;
-            QStringList literals(columns, u"NULL"_s);
-            const auto quoted = [&](QString text) {
-                text.replace(u'\'', u"''"_s);
-                if (isMariaDb)
-                    text.replace(u'\\', u"\\\\"_s);
-                return u'\'' + text + u'\'';
-            };
-            for (const Column column : {Text, Loose}) {
-                if (random.oneIn(6))
-                    continue;
-                const QString text = random.text(hasEmoji());
-                row[column] = keyOf(text, rule(column));
-                literals[column] = quoted(text);
-            }
-            if (!random.oneIn(6)) {
-                const QDateTime there = random.momentIn(zone);
-                row[Zoned] = keyOf(QDateTime(there.date(), there.time(), Qt::UTC));
-                literals[Zoned] = quoted(isPostgres ? there.toUTC().toString(u"yyyy-MM-dd HH:mm:ss'+00'"_s)
-                                                    : there.toString(u"yyyy-MM-dd HH:mm:ss"_s));
-            }
-            if (!random.oneIn(6)) {
-                const int number = random.below(41) - 20;
-                row[Number] = Key{.number = static_cast<double>(number)};
-                literals[Number] = QString::number(number);
-            }
-            if (!random.oneIn(6)) {
-                const QDate date = random.oneOf(days());
-                row[Day] = keyOf(date);
-                literals[Day] = quoted(date.toString(Qt::ISODate));
-            }
-            if (!random.oneIn(6)) {
-                const QDateTime moment = random.moment();
-                row[Moment] = keyOf(moment);
-                literals[Moment] = quoted(moment.toString(u"yyyy-MM-dd HH:mm:ss"_s));
-            }
-            // Access has no Null among Booleans.
-            if (engine.store == JourneyEngine::AccessFile || !random.oneIn(6)) {
-                const bool yes = random.oneIn(2);
-                row[YesNo] = Key{.number = yes ? 1.0 : 0.0};
-                literals[YesNo] = isPostgres ? (yes ? u"TRUE"_s : u"FALSE"_s) : QString::number(yes ? 1 : 0);
-            }
-            rows.push_back(row);
-            script += u"INSERT INTO journey_random VALUES (%1,%2)"_s.arg(id).arg(literals.join(u','));
-        }
-        database->run(script);
-    }
-
-    // SQLite's ODBC driver takes no emoji in a statement.
-    bool hasEmoji() const { return engine.store != JourneyEngine::SqliteFile || !engine.variable; }
-
-    Typed typed(Column column, FieldClass fieldClass, Generator &random) const
-    {
-        switch (column) {
-        case Text:
-        case Loose: {
-            QString text = random.text(hasEmoji());
-            if (text.trimmed().isEmpty())
-                text = u"a"_s;
-            return {text, keyOf(text, rule(column)), {}, rule(column).pattern(text)};
-        }
-        case Number: {
-            const int number = random.below(45) - 22;
-            return {QString::number(number), {.number = static_cast<double>(number)}};
-        }
-        case YesNo: {
-            const bool yes = random.oneIn(2);
-            // A number to some engines.
-            const QString words = yes ? u"是"_s : u"否"_s;
-            return {fieldClass == FieldClass::Boolean ? words : QString::number(yes ? 1 : 0),
-                    {.number = yes ? 1.0 : 0.0}};
-        }
-        default:
-            break;
-        }
-        if (random.oneIn(2))
-            return random.oneOf(namedDays());
-        if (fieldClass == FieldClass::Moment && random.oneIn(2)) {
-            const QDateTime moment = random.moment();
-            return {moment.toString(u"yyyy-MM-dd HH:mm:ss"_s), keyOf(moment)};
-        }
-        const QDate date = random.oneOf(days());
-        return {date.toString(random.oneIn(2) ? u"yyyy-MM-dd"_s : u"yyyy年M月d日"_s), keyOf(date),
-                keyOf(date.addDays(1))};
-    }
-
     static bool contains(FilterOperator op, const QByteArray &text, const QByteArray &part)
     {
         return op == Contains     ? text.contains(part)
@@ -185,12 +27,14 @@ protected:
                                   : text.endsWith(part);
     }
 
-    // The values of those records that are compared with each other.
-    std::vector<Key> pool(Column column, bool isRestricted) const
+    // The values of those records that are compared with each other. An empty text is none of the first ones.
+    std::vector<Key> pool(Column column, FilterOperator op, bool isRestricted) const
     {
         std::vector<Key> values;
         for (const Row &row : rows) {
-            if (row[column] && (!isRestricted || (row[Number] && row[Number]->number >= -5)))
+            const bool isLeftOut =
+                !row[column] || (isText(column) && takesCount(op) && row[column]->text.isEmpty());
+            if (!isLeftOut && (!isRestricted || (row[Number] && row[Number]->number >= -5)))
                 values.push_back(*row[column]);
         }
         std::ranges::sort(values);
@@ -203,7 +47,8 @@ protected:
         QList<FilterOperator> offered = operatorsFor(fieldClass);
         if (isText(column) && engine.store == JourneyEngine::AccessFile) {
             offered.removeIf([](FilterOperator op) {
-                const QList<FilterOperator> orders{Greater, Less, AtLeast, AtMost, Between, NotBetween};
+                const QList<FilterOperator> orders{Greater, Less,       AtLeast, AtMost,
+                                                   Between, NotBetween, Top,     Bottom};
                 return orders.contains(op);
             });
         }
@@ -217,6 +62,40 @@ protected:
         QString complement;
         std::vector<bool> records;
     };
+
+    // Values of a list that are ticked, or all but those.
+    Meant ticks(Generator &random)
+    {
+        const auto column = static_cast<Column>(random.below(columns));
+        const FilterField &field = fields.at(static_cast<std::size_t>(column) + 1);
+        std::vector<Typed> values;
+        TickedValues ticked{.areLeftOut = random.oneIn(2), .values = {}, .hasNull = random.oneIn(2)};
+        for (int count = random.below(3) + 1; count > 0; --count) {
+            values.push_back(typed(column, field.fieldClass, random));
+            if (!ticked.values.contains(values.back().text))
+                ticked.values.append(values.back().text);
+        }
+        FilterScope scope;
+        scope.today = today;
+        TickedValues others = ticked;
+        others.areLeftOut = !ticked.areLeftOut;
+        others.hasNull = !*ticked.hasNull;
+        const FilterCondition written = conditionOf(source.dialect(), field, ticked, scope);
+        EXPECT_EQ(written.fault, QString());
+        Meant meant{written.sql, conditionOf(source.dialect(), field, others, scope).sql, {}};
+        for (const Row &row : rows) {
+            const Cell &cell = row[column];
+            const bool isNamed =
+                cell && std::ranges::any_of(values, [&](const Typed &each) { return each.means(*cell); });
+            meant.records.push_back(isEmpty(column, cell) ? *ticked.hasNull : isNamed != ticked.areLeftOut);
+        }
+        return meant;
+    }
+
+    static bool isEmpty(Column column, const Cell &cell)
+    {
+        return !cell || (isText(column) && cell->text.isEmpty());
+    }
 
     Meant condition(Generator &random)
     {
@@ -246,7 +125,7 @@ protected:
                 items.append(filterListItemOf(value.text));
             choice.value = items.join(random.oneIn(2) ? u"、"_s : u"\n"_s);
         }
-        const std::vector<Key> compared = pool(column, isRestricted);
+        const std::vector<Key> compared = pool(column, op, isRestricted);
 
         const auto selects = [&](const Key &value) {
             switch (positive) {
@@ -268,12 +147,13 @@ protected:
             case Duplicated:
                 return std::ranges::count(compared, value) > 1;
             case Top:
-                return !compared.empty() &&
-                       value >= compared[compared.size() - std::min(count, compared.size())] &&
-                       value <= compared.back();
             case Bottom:
-                return !compared.empty() && value <= compared[std::min(count, compared.size()) - 1] &&
-                       value >= compared.front();
+                if (compared.empty())
+                    return false;
+                // The first texts are the smallest, the first of all others the largest.
+                return (op == Top) == isText(column)
+                           ? value <= compared[std::min(count, compared.size()) - 1]
+                           : value >= compared[compared.size() - std::min(count, compared.size())];
             default:
                 return contains(positive, value.liked, values[0].pattern);
             }
@@ -284,9 +164,8 @@ protected:
         const bool isLeftOut = isNegative(op) != choice.isNegated;
         for (const Row &row : rows) {
             const Cell &cell = row[column];
-            const bool isEmptyText = isText(column) && cell && cell->text.isEmpty();
             if (positive == IsEmpty)
-                meant.records.push_back((!cell || isEmptyText) != isLeftOut);
+                meant.records.push_back(isEmpty(column, cell) != isLeftOut);
             else if (!cell)
                 meant.records.push_back(isLeftOut && choice.includesNull);
             else
@@ -307,7 +186,7 @@ protected:
                 made.parts.push_back(group(random, depth - 1, meant));
             } else {
                 made.parts.push_back({.row = static_cast<qsizetype>(meant.size())});
-                meant.push_back(condition(random));
+                meant.push_back(random.oneIn(6) ? ticks(random) : condition(random));
             }
         }
         return made;
@@ -330,20 +209,6 @@ protected:
     {
         return isInside && (!takesCount(op) || std::ranges::binary_search(compared, value));
     }
-
-    // As the user types it, with quotes where the value holds what separates values.
-    static QString filterListItemOf(const QString &value)
-    {
-        return u'"' + QString(value).replace(u'"', u"\"\""_s) + u'"';
-    }
-
-    const JourneyEngine &engine = GetParam();
-    const QTimeZone zone{"America/Sao_Paulo"}; // where days began at one o'clock when the clocks were changed
-    std::vector<Row> rows;
-    std::optional<JourneyDatabase> database;
-    std::shared_ptr<ADODB::Connection> connection = std::make_shared<ADODB::Connection>();
-    FilterSource source;
-    std::vector<FilterField> fields;
 };
 
 } // namespace

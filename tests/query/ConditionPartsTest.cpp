@@ -47,6 +47,16 @@ const Case cases[] = {
     {"Largest",
      u"价格 IN (SELECT KovaValue\nFROM (SELECT 价格 AS KovaValue\nFROM 商品\nORDER BY 价格 DESC LIMIT 3) KovaFirst)"_s,
      {u"价格 是最大的 3 个之一"_s}},
+    {"FirstTexts",
+     u"名称 IN (SELECT KovaValue\nFROM (SELECT 名称 AS KovaValue\nFROM 商品\nWHERE 名称 <> ''\nORDER BY 名称 "
+     u"LIMIT "
+     "3) KovaFirstTexts)"_s,
+     {u"名称 是按顺序排在最前的 3 个之一"_s}},
+    {"LastTexts",
+     u"名称 IN (SELECT KovaValue\nFROM (SELECT 名称 AS KovaValue\nFROM 商品\nWHERE 名称 <> ''\nORDER BY 名称 "
+     u"DESC "
+     "LIMIT 3) KovaFirstTexts)"_s,
+     {u"名称 是按顺序排在最后的 3 个之一"_s}},
     {"Cast", u"CAST(名称 AS TEXT) LIKE '%茶%'"_s, {u"名称 包含“茶”"_s}, {u"名称"_s}},
     {"Function", u"ABS(价格) > 5"_s, {u"ABS(价格) > 5"_s}, {u"价格"_s}},
     {"Sum", u"价格 * 2 > 5"_s, {u"价格 * 2 > 5"_s}, {u"价格"_s}},

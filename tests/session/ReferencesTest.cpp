@@ -4,7 +4,9 @@
 
 #include "../journeys/JourneyDatabase.h"
 
+#include "ado/ConnectionString.h"
 #include "ado/Recordset.h"
+#include "ado/providers/Provider.h"
 #include "query/SharedValues.h"
 #include "session/LoadResult.h"
 #include "session/Session.h"
@@ -81,6 +83,69 @@ std::vector<JourneyEngine> enginesWithReferences()
     return engines;
 }
 
+// A driver that doesn't tell which tables the values come from, as those of some servers.
+class Untold : public ADODB::Provider
+{
+    class Answer : public ADODB::Statement
+    {
+    public:
+        explicit Answer(std::unique_ptr<ADODB::Statement> real) : m_real(std::move(real)) {}
+        const std::vector<ADODB::FieldInfo> &fields() const override
+        {
+            m_fields = m_real->fields();
+            for (ADODB::FieldInfo &field : m_fields)
+                field.baseTable = field.baseColumn = QString();
+            return m_fields;
+        }
+        int columns() const override { return m_real->columns(); }
+        void fetch(ADODB::RowStore &rows, const std::function<bool(qint64)> &shouldContinue) override
+        {
+            m_real->fetch(rows, shouldContinue);
+        }
+        std::unique_ptr<ADODB::RowWriter> releaseWriter() override { return m_real->releaseWriter(); }
+        QString whyReadOnly() const override { return m_real->whyReadOnly(); }
+
+    private:
+        std::unique_ptr<ADODB::Statement> m_real;
+        mutable std::vector<ADODB::FieldInfo> m_fields;
+    };
+
+    class Open : public ADODB::Session
+    {
+    public:
+        explicit Open(std::shared_ptr<ADODB::Session> real) : m_real(std::move(real)) {}
+        QString engineName() const override { return m_real->engineName(); }
+        std::unique_ptr<ADODB::Statement> prepare(const QString &sql, ADODB::Access access,
+                                                  const std::function<bool()> &shouldContinue) override
+        {
+            return std::make_unique<Answer>(m_real->prepare(sql, access, shouldContinue));
+        }
+        std::optional<ADODB::TableColumn> reference(const ADODB::TableColumn &column,
+                                                    const std::function<bool()> &shouldContinue) override
+        {
+            return m_real->reference(column, shouldContinue);
+        }
+        QString tableStatement(const QString &table) const override { return m_real->tableStatement(table); }
+        void close() override { m_real->close(); }
+
+    private:
+        std::shared_ptr<ADODB::Session> m_real;
+    };
+
+public:
+    QString name() const override { return u"Untold"_s; }
+    bool claims(const ADODB::ConnectionString &connection) const override
+    {
+        return connection.value(u"Provider"_s) == name();
+    }
+    std::shared_ptr<ADODB::Session> open(const ADODB::ConnectionString &connection) const override
+    {
+        ADODB::ConnectionString real = connection;
+        real.set(u"Provider"_s, u"SQLite"_s);
+        return std::make_shared<Open>(ADODB::openSession(real));
+    }
+};
+
 } // namespace
 
 INSTANTIATE_TEST_SUITE_P(Engines, References, testing::ValuesIn(enginesWithReferences()),
@@ -105,4 +170,36 @@ TEST_P(References, ToAGuidCanBeStoredAsTheyAreListed)
     field(u"k"_s).PutValue(pears.keys.front());
     session->result().recordset()->Update();
     EXPECT_TRUE(database->ask(u"SELECT k FROM kova_refs"_s).contains(u"10000000-"_s));
+}
+
+TEST(ReferencesOfUntoldTables, AreReadOffTheStatement)
+{
+    const Untold provider;
+    const ADODB::ProviderRegistration registration(provider);
+    const TestDatabase database(u"CREATE TABLE fruits (k INTEGER PRIMARY KEY, name TEXT);"
+                                "INSERT INTO fruits VALUES (1, 'pear'), (2, 'apple');"
+                                "CREATE TABLE refs (id INTEGER PRIMARY KEY, fruit INTEGER REFERENCES fruits);"
+                                "INSERT INTO refs VALUES (1, 1)"_s);
+    SharedValues::instance().dbType = dbAccess;
+    const auto keysOf = [&](const QString &statement, int field) {
+        ADODB::Adodc adodc;
+        PlainWindow window;
+        PlainUser user;
+        PlainHost host;
+        const auto session = std::make_shared<Session>(window, user, host, ControlRules, &adodc);
+        session->texts.connectionString = u"Provider=Untold;Data Source="_s + database.path();
+        session->texts.sqlShow = statement;
+        EXPECT_TRUE(loadResult(*session)) << qUtf8Printable(user.messages.join(u'|'));
+        const ADODB::Field &shown = session->result().recordset()->Fields().Item(field);
+        EXPECT_EQ(shown.BaseTableName(), QString());
+        const QStringList keys = foreignValues(*session, shown, {}).value_or(ForeignValues()).keys;
+        session->detach();
+        return keys;
+    };
+    const QStringList keys{u"1"_s, u"2"_s};
+    EXPECT_EQ(keysOf(u"SELECT * FROM refs"_s, 1), keys);
+    EXPECT_EQ(keysOf(u"SELECT r.fruit AS f, id FROM refs r"_s, 0), keys);
+    EXPECT_EQ(keysOf(u"SELECT fruit + 0, id FROM refs"_s, 0), QStringList());
+    EXPECT_EQ(keysOf(u"SELECT id, * FROM refs"_s, 2), QStringList()) << "it can't be told which one it is";
+    EXPECT_EQ(keysOf(u"SELECT max(fruit) AS fruit FROM refs"_s, 0), QStringList());
 }

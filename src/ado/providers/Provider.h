@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ado/FieldInfo.h"
+#include "ado/connection/TableColumn.h"
 #include "ado/rows/RowWriter.h"
 #include "sql/SqlQuoting.h"
 
@@ -56,6 +57,13 @@ public:
     // Statement::fetch() does, where it has to wait for a server.
     virtual std::unique_ptr<Statement> prepare(const QString &sql, Access access,
                                                const std::function<bool()> &shouldContinue) = 0;
+    // The column of another table that this one refers to by a foreign key; nothing where it refers to none,
+    // or the engine can't be asked. Asks whether to go on as prepare() does.
+    virtual std::optional<TableColumn> reference(const TableColumn & /*column*/,
+                                                 const std::function<bool()> & /*shouldContinue*/)
+    {
+        return std::nullopt;
+    }
     // The statement that reads a whole table.
     virtual QString tableStatement(const QString &table) const = 0;
     // Whether another session that is opened in the same way finds the same data. Not where a database lives

@@ -202,8 +202,12 @@ private:
             return {{},
                     m_choice.value.trimmed().isEmpty() ? FilterTexts::NoValue
                                                        : FilterTexts::NoCount.arg(m_choice.value)};
-        const bool isLargest = m_op == FilterOperator::Top;
-        return {FilterSql::isAmongFirst(m_dialect, field(), *m_scope.records, *count, isLargest), {}};
+        // The first texts of a list are those that begin it, while the first numbers are the largest.
+        const bool areTexts = m_choice.field.fieldClass == FieldClass::Text;
+        const bool isDescending = (m_op == FilterOperator::Top) != areTexts;
+        return {
+            FilterSql::isAmongFirst(m_dialect, field(), *m_scope.records, {*count, isDescending, areTexts}),
+            {}};
     }
 
     const Dialect &m_dialect;

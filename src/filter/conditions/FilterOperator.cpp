@@ -25,9 +25,9 @@ QList<FilterOperator> operatorsFor(FieldClass fieldClass)
     using enum FilterOperator;
     switch (fieldClass) {
     case FieldClass::Text:
-        return {Equals,        NotEquals,   Contains,  BeginsWith, EndsWith,  InList,     Between,
-                Greater,       Less,        AtLeast,   AtMost,     IsEmpty,   IsNotEmpty, NotContains,
-                NotBeginsWith, NotEndsWith, NotInList, NotBetween, Duplicated};
+        return {Equals,        NotEquals,   Contains,  BeginsWith, EndsWith,   InList,     Between,
+                Greater,       Less,        AtLeast,   AtMost,     IsEmpty,    IsNotEmpty, NotContains,
+                NotBeginsWith, NotEndsWith, NotInList, NotBetween, Duplicated, Top,        Bottom};
     case FieldClass::Boolean:
         return {Equals, NotEquals, IsEmpty, IsNotEmpty};
     case FieldClass::Other:

@@ -29,8 +29,8 @@ enum class FilterOperator {
     NotInList,
     NotBetween,
     Duplicated, // the value occurs in several records
-    Top,        // among the N largest values
-    Bottom      // among the N smallest values
+    Top,        // among the N largest values; of texts, those that come first in their order
+    Bottom      // among the N smallest values; of texts, the last ones
 };
 
 // Those that make sense for a field's class, the usual ones first.

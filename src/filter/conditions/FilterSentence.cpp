@@ -56,8 +56,10 @@ QString choiceInWords(const FilterChoice &choice, QDate today)
     };
     QString words;
     if (takesCount(op)) {
-        const Text form =
-            op == FilterOperator::Top ? FilterTexts::TopInSentence : FilterTexts::BottomInSentence;
+        const bool isTop = op == FilterOperator::Top;
+        const Text form = choice.field.fieldClass == FieldClass::Text
+                              ? (isTop ? FilterTexts::FirstTextInSentence : FilterTexts::LastTextInSentence)
+                              : (isTop ? FilterTexts::TopInSentence : FilterTexts::BottomInSentence);
         words = form.arg(field, choice.value.trimmed());
     } else if (op == FilterOperator::Duplicated) {
         words = FilterTexts::DuplicatedInSentence.arg(field);

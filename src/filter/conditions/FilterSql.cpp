@@ -8,12 +8,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QString isNotNull(const QString &field)
+{
+    return field + " IS NOT NULL"_L1;
+}
+
 // The words of inner SELECTs follow line breaks, so that text work on a statement finds only the outer ones.
-QString fromRecords(const Records &records, const QString &field)
+QString fromRecords(const Records &records, const QString &hasValue)
 {
     const QString restricted =
         records.condition.isEmpty() ? QString() : u'(' + records.condition + ") AND "_L1;
-    return "\nFROM "_L1 + records.source + "\nWHERE "_L1 + restricted + field + " IS NOT NULL"_L1;
+    return "\nFROM "_L1 + records.source + "\nWHERE "_L1 + restricted + hasValue;
 }
 
 } // namespace
@@ -50,19 +55,22 @@ QString distinctOfFirst(const Dialect &dialect, const QString &value, const QStr
 
 QString isDuplicated(const QString &field, const Records &records)
 {
-    return field + " IN (SELECT "_L1 + field + fromRecords(records, field) + " GROUP BY "_L1 + field +
-           " HAVING COUNT(*) > 1)"_L1;
+    return field + " IN (SELECT "_L1 + field + fromRecords(records, isNotNull(field)) + " GROUP BY "_L1 +
+           field + " HAVING COUNT(*) > 1)"_L1;
 }
 
-QString isAmongFirst(const Dialect &dialect, const QString &field, const Records &records, int count,
-                     bool isLargest)
+QString isAmongFirst(const Dialect &dialect, const QString &field, const Records &records, const First &first)
 {
     const bool isAccessItself = dialect.isOdbc && dialect.engine == Engine::Access;
-    const QString top = isAccessItself ? u"TOP %1 "_s.arg(count) : QString();
-    // A table of its own, because MariaDB limits no SELECT that IN reads directly.
+    const QString top = isAccessItself ? u"TOP %1 "_s.arg(first.count) : QString();
+    const QString hasValue = first.areTexts ? isNotEmptyText(dialect, field) : isNotNull(field);
+    // A table of its own, because MariaDB limits no SELECT that IN reads directly. Its name says how to put
+    // it in words.
     return field + " IN (SELECT KovaValue\nFROM (SELECT "_L1 + top + field + " AS KovaValue"_L1 +
-           fromRecords(records, field) + "\nORDER BY "_L1 + field + (isLargest ? " DESC"_L1 : ""_L1) +
-           (isAccessItself ? QString() : u' ' + rowLimit(dialect, count)) + ") KovaFirst)"_L1;
+           fromRecords(records, hasValue) + "\nORDER BY "_L1 + field +
+           (first.isDescending ? " DESC"_L1 : ""_L1) +
+           (isAccessItself ? QString() : u' ' + rowLimit(dialect, first.count)) +
+           (first.areTexts ? ") KovaFirstTexts)"_L1 : ") KovaFirst)"_L1);
 }
 
 QString join(const QList<Term> &terms)

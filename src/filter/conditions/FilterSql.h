@@ -28,11 +28,18 @@ struct Records
     QString condition; // that restricts them; may be empty
 };
 
-// A field whose value several of these records have, or that has one of their `count` largest or smallest
-// values.
+// Some values of a sort.
+struct First
+{
+    int count = 0;
+    bool isDescending = false;
+    bool areTexts = false; // those without any character are then left out
+};
+
+// A field whose value several of these records have, or that has one of their first values.
 QString isDuplicated(const QString &field, const Records &records);
-QString isAmongFirst(const Dialect &dialect, const QString &field, const Records &records, int count,
-                     bool isLargest);
+QString isAmongFirst(const Dialect &dialect, const QString &field, const Records &records,
+                     const First &first);
 
 // More than anybody needs, and few enough for their negations to be bits of a number.
 constexpr int mostBrackets = 8;

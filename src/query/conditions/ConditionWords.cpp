@@ -71,6 +71,7 @@ std::optional<QString> recordsInWords(const SqlScanner &sql, TextRange list)
     if (!sql.isWord(list.begin, u"SELECT"))
         return std::nullopt;
     bool isFirstOfSort = false;
+    bool areTexts = false;
     bool isDescending = false;
     QString count;
     const int depth = sql.at(list.begin).depth;
@@ -80,13 +81,16 @@ std::optional<QString> recordsInWords(const SqlScanner &sql, TextRange list)
             continue;
         if (sql.isWord(i, u"HAVING"))
             return QueryTexts::RepeatedInWords;
-        isFirstOfSort = isFirstOfSort || sql.isWord(i, u"KovaFirst");
+        areTexts = areTexts || sql.isWord(i, u"KovaFirstTexts");
+        isFirstOfSort = isFirstOfSort || areTexts || sql.isWord(i, u"KovaFirst");
         isDescending = isDescending || sql.isWord(i, u"DESC");
         if ((sql.isWord(i, u"LIMIT") || sql.isWord(i, u"NEXT") || sql.isWord(i, u"TOP")) && i + 1 < list.end)
             count = sql.text(i + 1).toString();
     }
     if (!isFirstOfSort)
         return std::nullopt;
+    if (areTexts)
+        return (isDescending ? QueryTexts::LastTextsInWords : QueryTexts::FirstTextsInWords).arg(count);
     return (isDescending ? QueryTexts::LargestInWords : QueryTexts::SmallestInWords).arg(count);
 }
 

@@ -4,13 +4,16 @@
 #include "ado/Error.h"
 #include "ado/FieldInfo.h"
 #include "ado/Recordset.h"
+#include "ado/connection/References.h"
 #include "ado/values/FieldValue.h"
 #include "query/clsFilterManagement.h"
 #include "session/Session.h"
+#include "session/statement/ShownStatement.h"
 #include "sql/Like.h"
-#include "sql/Literals.h"
 #include "sql/Names.h"
 #include "sql/Predicates.h"
+#include "sql/SqlScanner.h"
+#include "sql/select/SimpleSelect.h"
 
 #include <algorithm>
 
@@ -22,33 +25,26 @@ namespace {
 
 constexpr qint64 mostValues = 1000;
 
-// A statement for schema, table and column that a column refers to; empty where no engine answers it.
-QString referenceStatement(Engine engine, const QString &table, const QString &column)
+// The column of a table that a field shows; empty where it is none. Some drivers don't tell; the statement
+// does, if it is one of a single table.
+ADODB::TableColumn columnOf(const Session &session, const Dialect &dialect, const ADODB::Field &field)
 {
-    switch (engine) {
-    case Engine::SQLite:
-        // A reference without a column is one to the key.
-        return uR"(SELECT '', f."table", COALESCE(f."to", k.name) FROM pragma_foreign_key_list(%1) f
-LEFT JOIN pragma_table_info(f."table") k ON k.pk = 1 WHERE f."from" = %2 COLLATE NOCASE)"_s.arg(table,
-                                                                                                column);
-    case Engine::PostgreSQL:
-        return u"SELECT u.table_schema, u.table_name, u.column_name FROM information_schema.key_column_usage "
-               u"k"
-               " JOIN information_schema.referential_constraints r ON r.constraint_schema = "
-               "k.constraint_schema"
-               " AND r.constraint_name = k.constraint_name JOIN information_schema.key_column_usage u"
-               " ON u.constraint_schema = r.unique_constraint_schema"
-               " AND u.constraint_name = r.unique_constraint_name"
-               " AND u.ordinal_position = k.position_in_unique_constraint"
-               " WHERE k.table_name = %1 AND k.column_name = %2"_s.arg(table, column);
-    case Engine::MySQL:
-        return u"SELECT '', referenced_table_name, referenced_column_name"
-               " FROM information_schema.key_column_usage WHERE table_schema = DATABASE()"
-               " AND referenced_table_name IS NOT NULL AND table_name = %1 AND column_name = %2"_s.arg(
-                   table, column);
-    default:
-        return {};
+    ADODB::TableColumn column{{}, field.BaseTableName(), field.BaseColumnName()};
+    const SimpleSelect select = SimpleSelect::parse(SqlScanner(session.shown().text(), dialect));
+    if (select.fault != SimpleSelect::Fault::None)
+        return column;
+    if (column.table.isEmpty()) {
+        const bool hasAll = std::ranges::any_of(select.items, &SimpleSelect::Item::all);
+        const auto index = static_cast<std::size_t>(field.Index());
+        column.table = select.table;
+        if (hasAll)
+            column.column = select.items.size() == 1 ? field.Name() : QString();
+        else
+            column.column = index < select.items.size() ? select.items[index].column : QString();
     }
+    if (column.table.compare(select.table, Qt::CaseInsensitive) == 0)
+        column.schema = select.schema;
+    return column;
 }
 
 // A table that is referred to.
@@ -61,16 +57,15 @@ struct Referenced
 };
 
 Referenced referenced(ADODB::Connection &connection, const Dialect &dialect,
-                      const ADODB::Recordset &reference)
+                      const ADODB::TableColumn &reference)
 {
-    const QString schema = reference.CellText(1, 0);
-    const QString table = writtenName(dialect, reference.CellText(1, 1));
-    const QString key = reference.CellText(1, 2);
-    Referenced found{schema.isEmpty() ? table : writtenName(dialect, schema) + u'.' + table,
-                     writtenName(dialect, key),
+    const QString table = writtenName(dialect, reference.table);
+    Referenced found{reference.schema.isEmpty() ? table
+                                                : writtenName(dialect, reference.schema) + u'.' + table,
+                     writtenName(dialect, reference.column),
                      {}};
     for (const ADODB::FieldInfo &info : connection.Describe(u"SELECT * FROM "_s + found.from)) {
-        if (info.name.compare(key, Qt::CaseInsensitive) == 0)
+        if (info.name.compare(reference.column, Qt::CaseInsensitive) == 0)
             found.isKeyRead = info.type != ADODB::adGUID;
         else if (found.description.isEmpty() && ADODB::FieldValue::isText(info.type))
             found.description = writtenName(dialect, info.name);
@@ -127,20 +122,17 @@ ForeignValues read(const std::shared_ptr<ADODB::Connection> &connection, const D
 std::optional<ForeignValues> foreignValues(Session &session, const ADODB::Field &field, const QString &search)
 {
     const auto &connection = session.result().connection();
-    if (field.BaseTableName().isEmpty() || field.BaseColumnName().isEmpty() || !connection)
+    if (!connection)
         return std::nullopt;
-    const EngineMode &mode = session.result().engine();
-    const Dialect dialect = dialectOf(session.filterManager().DBType(), mode);
-    const QString statement = referenceStatement(mode.engine, textLiteral(dialect, field.BaseTableName()),
-                                                 textLiteral(dialect, field.BaseColumnName()));
-    if (statement.isEmpty())
+    const Dialect dialect = dialectOf(session.filterManager().DBType(), session.result().engine());
+    const ADODB::TableColumn column = columnOf(session, dialect, field);
+    if (column.table.isEmpty() || column.column.isEmpty())
         return std::nullopt;
     try {
-        ADODB::Recordset reference;
-        reference.Open(statement, connection);
-        if (reference.RecordCount() == 0)
+        const auto reference = ADODB::referenceOf(*connection, column);
+        if (!reference)
             return std::nullopt;
-        return read(connection, dialect, referenced(*connection, dialect, reference), search);
+        return read(connection, dialect, referenced(*connection, dialect, *reference), search);
     } catch (const ADODB::Error &) {
         return std::nullopt; // a table that the user may not read: the value can still be typed
     }

@@ -8,6 +8,7 @@
 #include "ado/providers/odbc/OdbcPool.h"
 #include "ado/providers/odbc/OdbcWaiting.h"
 #include "ado/providers/odbc/reading/OdbcReading.h"
+#include "ado/providers/odbc/reading/OdbcReferences.h"
 #include "ado/providers/odbc/reading/OdbcStatement.h"
 
 #include <algorithm>
@@ -39,6 +40,20 @@ std::unique_ptr<Statement> OdbcSession::prepare(const QString &sql, Access acces
                         made] { *made = std::make_shared<OdbcStatement>(session, sql, access); },
                        {[&](qint64) { return shouldContinue(); }, limit});
     return std::make_unique<OdbcWaitingStatement>(shared_from_this(), std::move(*made));
+}
+
+std::optional<TableColumn> OdbcSession::reference(const TableColumn &column,
+                                                  const std::function<bool()> &shouldContinue)
+{
+    const auto found = std::make_shared<std::optional<TableColumn>>();
+    OdbcOperation::run(
+        [session = shared_from_this(), column, found] {
+            session->begin([&](const std::shared_ptr<OdbcConnection> &connection) {
+                *found = odbcReference(connection, session->engine(), column);
+            });
+        },
+        {[&](qint64) { return shouldContinue(); }, Waiting::isWatched() ? 0 : limitOfUnwatched});
+    return *found;
 }
 
 QString OdbcSession::tableStatement(const QString &table) const

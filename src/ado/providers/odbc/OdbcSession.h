@@ -23,6 +23,8 @@ public:
 
     std::unique_ptr<Statement> prepare(const QString &sql, Access access,
                                        const std::function<bool()> &shouldContinue) override;
+    std::optional<TableColumn> reference(const TableColumn &column,
+                                         const std::function<bool()> &shouldContinue) override;
     QString tableStatement(const QString &table) const override;
     QString engineName() const override { return m_engine.dbmsName; }
     SqlQuoting quoting() const override { return m_engine.quoting; }

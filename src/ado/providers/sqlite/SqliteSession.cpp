@@ -179,6 +179,22 @@ std::unique_ptr<Statement> SqliteSession::prepare(const QString &sql, Access acc
     return std::make_unique<SqliteStatement>(shared_from_this(), sql, access);
 }
 
+std::optional<TableColumn> SqliteSession::reference(const TableColumn &column, const std::function<bool()> &)
+{
+    const auto literal = [](const QString &text) { return KOVAVSFDataGridLib::enclosed(u'\'', text, u'\''); };
+    // A reference without a column is one to the key.
+    const SqliteHandle keys =
+        prepareOwn(uR"(SELECT f."table", COALESCE(f."to", k.name) FROM pragma_foreign_key_list(%1) f
+LEFT JOIN pragma_table_info(f."table") k ON k.pk = f.seq + 1 WHERE f."from" = %2 COLLATE NOCASE)"_s.arg(
+            literal(column.table), literal(column.column)));
+    if (!stepRow(keys) || sqlite3_column_type(keys.get(), 1) == SQLITE_NULL)
+        return std::nullopt;
+    const auto text = [&](int at) {
+        return QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(keys.get(), at)));
+    };
+    return TableColumn{{}, text(0), text(1)};
+}
+
 QString SqliteSession::tableStatement(const QString &table) const
 {
     return "SELECT * FROM "_L1 + quotedName(table);

@@ -4,14 +4,13 @@
 #include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcEngine.h"
 #include "ado/providers/odbc/OdbcHandle.h"
+#include "ado/providers/odbc/reading/OdbcCatalogueAnswers.h"
 #include "ado/providers/odbc/reading/OdbcDescription.h"
-#include "ado/providers/odbc/reading/OdbcLongValue.h"
 #include "ado/providers/odbc/reading/OdbcReading.h"
 #include "ado/providers/odbc/writing/OdbcParameters.h"
 #include "sql/select/SimpleSelect.h"
 
 #include <algorithm>
-#include <functional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,67 +18,15 @@ namespace ADODB {
 
 namespace {
 
-// The full name of a table. Empty parts are not asked for.
-struct Name
+OdbcTableName fullName(const OdbcTableFields &all, const OdbcConnection &connection,
+                       const SimpleSelect &select)
 {
-    QString catalog;
-    QString schema;
-    QString table;
-};
-
-class Part
-{
-public:
-    explicit Part(const QString &text) : m_text(text) {}
-    SQLWCHAR *text() const { return m_text.isEmpty() ? nullptr : wide(m_text); }
-    SQLSMALLINT length() const { return static_cast<SQLSMALLINT>(m_text.size()); }
-
-private:
-    const QString &m_text;
-};
-
-// Asks the catalogue and calls `see` with each row's values in the wanted columns, which count from 1 and go
-// up. What the driver does not answer, it does not know.
-void forEachAnswer(const std::shared_ptr<OdbcConnection> &connection,
-                   const std::function<SQLRETURN(SQLHSTMT)> &ask, const std::vector<int> &wanted,
-                   const std::function<void(const QStringList &)> &see)
-{
-    const OdbcHandle statement(connection);
-    if (!succeeded(ask(statement.get())))
-        return;
-    OdbcLongValue value;
-    while (statement.fetch()) {
-        QStringList row;
-        for (const int column : wanted) {
-            SQLLEN length = 0;
-            const SQLRETURN code = value.read(statement, column - 1, OdbcTypes::Form::Text, length);
-            row += succeeded(code) && length > 0
-                       ? QString::fromUtf16(reinterpret_cast<const char16_t *>(value.data()),
-                                            length / qsizetype{sizeof(char16_t)})
-                       : QString();
-        }
-        see(row);
-    }
-}
-
-// As the database keeps a name that is written without quotes.
-QString stored(const QString &name, bool quoted, SQLUSMALLINT identifierCase)
-{
-    if (!quoted && identifierCase == SQL_IC_UPPER)
-        return name.toUpper();
-    if (!quoted && identifierCase == SQL_IC_LOWER)
-        return name.toLower();
-    return name;
-}
-
-Name fullName(const OdbcTableFields &all, const OdbcConnection &connection, const SimpleSelect &select)
-{
-    Name name{all.catalog, all.schema, all.fields.front().baseTable};
+    OdbcTableName name{all.catalog, all.schema, all.fields.front().baseTable};
     if (name.table.isEmpty()) {
         const bool quoted = !select.tableText.endsWith(select.table);
         const SQLUSMALLINT identifierCase = connection.shortNumber(SQL_IDENTIFIER_CASE);
-        name.table = stored(select.table, quoted, identifierCase);
-        name.schema = stored(select.schema, quoted, identifierCase);
+        name.table = storedName(select.table, quoted, identifierCase);
+        name.schema = storedName(select.schema, quoted, identifierCase);
     }
     return name;
 }
@@ -95,12 +42,12 @@ QString escaped(const QString &name, const QString &escape)
 }
 
 // Empty when it is no table.
-QString tableType(const std::shared_ptr<OdbcConnection> &connection, const Name &name)
+QString tableType(const std::shared_ptr<OdbcConnection> &connection, const OdbcTableName &name)
 {
     const QString pattern = escaped(name.table, connection->info(SQL_SEARCH_PATTERN_ESCAPE));
-    const Part catalog(name.catalog);
-    const Part schema(name.schema);
-    const Part table(pattern);
+    const OdbcNamePart catalog(name.catalog);
+    const OdbcNamePart schema(name.schema);
+    const OdbcNamePart table(pattern);
     QString type;
     forEachAnswer(
         connection,
@@ -118,7 +65,7 @@ QString tableType(const std::shared_ptr<OdbcConnection> &connection, const Name 
 }
 
 // Asks MariaDB or MySQL. What is not listed has none.
-bool isTransactional(const std::shared_ptr<OdbcConnection> &connection, const Name &name)
+bool isTransactional(const std::shared_ptr<OdbcConnection> &connection, const OdbcTableName &name)
 {
     const OdbcHandle statement(connection);
     statement.prepare("SELECT 1 FROM information_schema.TABLES t JOIN information_schema.ENGINES e "
@@ -135,11 +82,11 @@ bool isTransactional(const std::shared_ptr<OdbcConnection> &connection, const Na
     return statement.fetch();
 }
 
-QStringList primaryKey(const std::shared_ptr<OdbcConnection> &connection, const Name &name)
+QStringList primaryKey(const std::shared_ptr<OdbcConnection> &connection, const OdbcTableName &name)
 {
-    const Part catalog(name.catalog);
-    const Part schema(name.schema);
-    const Part table(name.table);
+    const OdbcNamePart catalog(name.catalog);
+    const OdbcNamePart schema(name.schema);
+    const OdbcNamePart table(name.table);
     QStringList key;
     forEachAnswer(
         connection,
@@ -153,7 +100,7 @@ QStringList primaryKey(const std::shared_ptr<OdbcConnection> &connection, const 
 
 // The columns of the first unique index that covers every row, which one with a Null or with a condition does
 // not.
-QStringList uniqueIndex(const std::shared_ptr<OdbcConnection> &connection, const Name &name,
+QStringList uniqueIndex(const std::shared_ptr<OdbcConnection> &connection, const OdbcTableName &name,
                         const QStringList &neverNull)
 {
     struct Index
@@ -162,9 +109,9 @@ QStringList uniqueIndex(const std::shared_ptr<OdbcConnection> &connection, const
         QStringList columns;
         bool usable = true;
     };
-    const Part catalog(name.catalog);
-    const Part schema(name.schema);
-    const Part table(name.table);
+    const OdbcNamePart catalog(name.catalog);
+    const OdbcNamePart schema(name.schema);
+    const OdbcNamePart table(name.table);
     std::vector<Index> indexes;
     forEachAnswer(
         connection,
@@ -187,12 +134,12 @@ QStringList uniqueIndex(const std::shared_ptr<OdbcConnection> &connection, const
     return found == indexes.end() ? QStringList() : found->columns;
 }
 
-QStringList neverNull(const std::shared_ptr<OdbcConnection> &connection, const Name &name)
+QStringList neverNull(const std::shared_ptr<OdbcConnection> &connection, const OdbcTableName &name)
 {
     const QString pattern = escaped(name.table, connection->info(SQL_SEARCH_PATTERN_ESCAPE));
-    const Part catalog(name.catalog);
-    const Part schema(name.schema);
-    const Part table(pattern);
+    const OdbcNamePart catalog(name.catalog);
+    const OdbcNamePart schema(name.schema);
+    const OdbcNamePart table(pattern);
     QStringList columns;
     forEachAnswer(
         connection,
@@ -259,7 +206,7 @@ OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, con
         table.whyReadOnly = Texts::readOnlyNoTable();
         return table;
     }
-    const Name name = fullName(*all, *connection, select);
+    const OdbcTableName name = fullName(*all, *connection, select);
     // Some drivers name what is behind a view.
     // Each question is a way to the server and back, so one that a key has answered is not asked.
     table.key = primaryKey(connection, name);

@@ -1,0 +1,17 @@
+#include "ado/connection/References.h"
+
+#include "ado/Connection.h"
+#include "ado/connection/Waiting.h"
+#include "ado/providers/Provider.h"
+
+namespace ADODB {
+
+std::optional<TableColumn> referenceOf(const Connection &connection, const TableColumn &column)
+{
+    // A copy, because whoever watches the wait can let the host close the connection.
+    const std::shared_ptr<Session> session = connection.session();
+    Watched watched;
+    return session->reference(column, [&] { return watched.shouldContinue(); });
+}
+
+} // namespace ADODB
