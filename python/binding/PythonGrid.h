@@ -17,6 +17,10 @@ public:
     // The open result; closed when there is none.
     Result result();
 
+    // Public, because the binding passes calls from Python on to them.
+    using KOVAVSFDataGrid::changeEvent;
+    using KOVAVSFDataGrid::resizeEvent;
+
 Q_SIGNALS:
     void DataMouseDown(const MouseArguments &arguments);
     void DataMouseUp(const MouseArguments &arguments);

@@ -2,19 +2,19 @@
 from __future__ import annotations
 
 from collections.abc import Iterator, Sequence
-from typing import Any
+from typing import Any, overload
 
 from ._kovavsfdatagrid import ADODB
 
 _RECORDS_AT_ONCE = 1000
 
 
-class Record(Sequence):
+class Record(Sequence[Any]):
     """The values of one record, by field name or by position: record['price'], record[0], dict(record)."""
 
     __slots__ = ('_values', '_indexes')
 
-    def __init__(self, values: tuple, indexes: dict[str, int]):
+    def __init__(self, values: tuple[Any, ...], indexes: dict[str, int]):
         self._values = values
         self._indexes = indexes
 
@@ -29,7 +29,9 @@ class Record(Sequence):
         return len(self._values)
 
     def __eq__(self, other: object) -> bool:
-        return tuple(self) == tuple(other) if isinstance(other, (Record, tuple)) else NotImplemented
+        if not isinstance(other, (Record, tuple)):
+            return NotImplemented
+        return tuple(self) == tuple(other)
 
     def __hash__(self) -> int:
         return hash(self._values)
@@ -105,7 +107,7 @@ class Field:
         return self._result.fieldUnderlyingValue(self._index)
 
 
-class Fields(Sequence):
+class Fields(Sequence[Field]):
     """The columns: by position, by name in any letter case, or in a loop."""
 
     def __init__(self, result: Any):
@@ -119,7 +121,15 @@ class Fields(Sequence):
         """How many there are."""
         return len(self)
 
-    def __getitem__(self, key: str | int) -> Field:
+    @overload
+    def __getitem__(self, key: str | int) -> Field: ...
+
+    @overload
+    def __getitem__(self, key: slice) -> list[Field]: ...
+
+    def __getitem__(self, key: str | int | slice) -> Field | list[Field]:
+        if isinstance(key, slice):
+            return [self[index] for index in range(*key.indices(len(self)))]
         if isinstance(key, str):
             index = self._result.indexOf(key)
             if index < 0:
@@ -134,7 +144,7 @@ class Fields(Sequence):
     Item = __getitem__
 
 
-class Recordset(Sequence):
+class Recordset(Sequence[Record]):
     """The open result. It is valid until the next load; after that its members raise Error 3704.
 
     A loop over it gives every record and moves nothing. The members with ADO's names work on the current record, which
@@ -146,6 +156,12 @@ class Recordset(Sequence):
 
     def __len__(self) -> int:
         return self._result.RecordCount()
+
+    @overload
+    def __getitem__(self, key: int) -> Record: ...
+
+    @overload
+    def __getitem__(self, key: slice) -> list[Record]: ...
 
     def __getitem__(self, key: int | slice) -> Record | list[Record]:
         if isinstance(key, slice):

@@ -15,6 +15,22 @@ def test_is_a_widget_with_the_controls_name():
     assert grid.findChild(QTableView, 'vsfgDataGrid')
 
 
+def test_what_the_control_overrides_runs_from_python_too():
+    class Grid(KOVAVSFDataGrid):
+        resized = 0
+
+        def resizeEvent(self, event):
+            super().resizeEvent(event)
+            self.resized += 1
+
+    grid = Grid()
+    assert grid.sizeHint().width() == 3 * grid.minimumWidth()
+    grid.resize(900, 500)
+    grid.show()
+    assert grid.resized > 0
+    assert grid.findChild(QTableView, 'vsfgDataGrid').width() > 850
+
+
 @pytest.mark.parametrize('name, value', [
     ('STR_SQLTEMP', '文字'), ('BackColor', QColor(1, 2, 3)), ('DataBackColor', QColor(4, 5, 6)), ('ErrorHint', True),
     ('ConnectionString', 'Provider=SQLite;Data Source=a.db'), ('SQLShow', 'select * from T'), ('SQLSort', 'a DESC'),

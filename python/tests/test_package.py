@@ -1,5 +1,7 @@
 """Forms, type hints, docstrings and examples."""
 import ast
+import os
+import re
 import subprocess
 import sys
 from pathlib import Path
@@ -22,7 +24,7 @@ def hinted_members():
             names.add(node.name)
         elif isinstance(node, ast.AnnAssign):
             names.add(node.target.id)
-    return names - {'__init__'}
+    return {name for name in names if not name.startswith('_')}
 
 
 def real_members():
@@ -36,11 +38,19 @@ def test_the_type_hints_name_what_there_is():
 
 def test_every_member_of_the_interface_is_there():
     header = (TOP / 'src/control/face/IKOVAVSFDataGrid.h').read_text('utf-8')
-    import re
     names = set(re.findall(r'virtual [^~;]*?(\w+)\([^;]*= 0;', header))
     names -= {name for name in names if name.startswith('Put')}
     assert len(names) > 50
     assert names - {'RecordSet'} <= real_members()
+
+
+def test_no_override_is_missing():
+    face = TOP / 'src/control/face'
+    control = (face / 'KOVAVSFDataGrid.h').read_text('utf-8')
+    overrides = set(re.findall(r'(\w+)\([^()]*\)(?: const)? override;', control))
+    interface = set(re.findall(r'(\w+)\([^()]*\)(?: const)? = 0;', (face / 'IKOVAVSFDataGrid.h').read_text('utf-8')))
+    own = overrides - interface - {'KOVAVSFDataGrid'}
+    assert {'sizeHint', 'resizeEvent'} <= own <= real_members()
 
 
 @pytest.mark.parametrize('name', sorted(real_members()))
@@ -64,6 +74,31 @@ def test_a_form_is_compiled(tmp_path):
     form = names['Ui_ShopForm']()
     form.setupUi(window)
     assert type(form.grid) is KOVAVSFDataGrid
+
+
+def test_a_host_passes_a_type_checker(tmp_path):
+    pytest.importorskip('mypy')
+    host = tmp_path / 'host.py'
+    host.write_text("""
+from kovavsfdatagrid import FilterArguments, KOVAVSFDataGrid
+
+def choose(arguments: FilterArguments) -> None:
+    arguments.Cancel = 0
+
+def names(grid: KOVAVSFDataGrid) -> list[str]:
+    grid.DBType = KOVAVSFDataGrid.AllDBType.dbOracle
+    grid.QurryFilter.connect(choose)
+    if not grid.IsLoadData() or grid.RecordSet is None:
+        return []
+    first = grid.RecordSet[0]
+    width: int = grid.RecordSet.Fields('name').DefinedSize
+    return [str(first['name'])[:width]] + [str(record['name']) for record in grid.RecordSet]
+""")
+    package = Path(kovavsfdatagrid.__file__).parents[1]
+    command = [sys.executable, '-m', 'mypy', '--strict', '--follow-imports=silent', '--cache-dir', tmp_path / 'cache']
+    outcome = subprocess.run(command + [host], capture_output=True, text=True,
+                             env=os.environ | {'MYPYPATH': str(package)})
+    assert outcome.stdout.startswith('Success'), outcome.stdout
 
 
 @pytest.mark.parametrize('example', sorted((TOP / 'python/examples').glob('*.py')), ids=lambda path: path.name)
