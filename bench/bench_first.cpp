@@ -3,6 +3,7 @@
 // time at which the engine gave its first records to a recordset alone.
 //   bench_first [CONNECTION [MOST]]      MOST is the number of records of the largest table, 1,000,000 unless
 //   given
+//   bench_first CONNECTION STATEMENT...  the same for statements
 // Without a connection, or with an empty one, a SQLite file is made; a PostgreSQL needs the right to make a
 // table.
 
@@ -47,7 +48,7 @@ protected:
     {
         auto *const view = qobject_cast<QTableView *>(watched->parent());
         if (m_milliseconds > 0 || m_isPainting || event->type() != QEvent::Paint || !view ||
-            view->viewport() != watched || view->model()->columnCount() < 5 || view->model()->rowCount() == 0)
+            view->viewport() != watched || view->model()->columnCount() < 3 || view->model()->rowCount() == 0)
             return false;
         m_isPainting = true;
         QCoreApplication::sendEvent(watched, event);
@@ -132,6 +133,19 @@ QString makeFile(const QTemporaryDir &folder, qint64 records)
     return u"Provider=SQLite;Data Source="_s + path;
 }
 
+void measure(const QString &connection, const QString &statement, int times)
+{
+    std::vector<Times> all;
+    for (int round = 0; round < times; ++round) {
+        Times taken = load(connection, statement);
+        taken.engine = firstRecord(connection, statement);
+        all.push_back(taken);
+    }
+    std::printf("%14.1f %14.1f %14.1f\n", median(all, &Times::engine), median(all, &Times::painted),
+                median(all, &Times::returned));
+    std::fflush(stdout);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -140,24 +154,25 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication app(argc, argv);
     const QTemporaryDir folder;
-    const qint64 most = argc > 2 ? std::strtoll(argv[2], nullptr, 10) : 1'000'000;
     const QString given = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
+    if (argc > 2 && std::strtoll(argv[2], nullptr, 10) == 0) {
+        std::printf("%14s %14s %14s\n", "engine ms", "painted ms", "returned ms");
+        for (int i = 2; i < argc; ++i) {
+            std::printf("%s\n", argv[i]);
+            measure(given, QString::fromLocal8Bit(argv[i]), 3);
+        }
+        return 0;
+    }
+    const qint64 most = argc > 2 ? std::strtoll(argv[2], nullptr, 10) : 1'000'000;
     const QString connection = given.isEmpty() ? makeFile(folder, most) : given;
     std::printf("%-12s %-10s %14s %14s %14s\n", "records", "", "engine ms", "painted ms", "returned ms");
     for (const bool isSorted : {false, true}) {
         for (qint64 records = 1000; records <= most; records *= 10) {
-            const QString statement = u"SELECT * FROM kova_first WHERE id <= %1%2"_s.arg(
-                QString::number(records), isSorted ? u" ORDER BY amount"_s : QString());
-            std::vector<Times> all;
-            for (int round = 0; round < (records < 1'000'000 ? rounds : 3); ++round) {
-                Times times = load(connection, statement);
-                times.engine = firstRecord(connection, statement);
-                all.push_back(times);
-            }
-            std::printf("%-12lld %-10s %14.1f %14.1f %14.1f\n", records, isSorted ? "sorted" : "",
-                        median(all, &Times::engine), median(all, &Times::painted),
-                        median(all, &Times::returned));
-            std::fflush(stdout);
+            std::printf("%-12lld %-10s ", records, isSorted ? "sorted" : "");
+            measure(connection,
+                    u"SELECT * FROM kova_first WHERE id <= %1%2"_s.arg(
+                        QString::number(records), isSorted ? u" ORDER BY amount"_s : QString()),
+                    records < 1'000'000 ? rounds : 3);
         }
     }
     return 0;
