@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 #include "filter/FilterTexts.h"
+#include "filter/SentenceLabel.h"
 #include "filter/WaitCursor.h"
 #include "filter/count/FilterCount.h"
 #include "filter/rows/FilterRows.h"
@@ -11,6 +12,7 @@
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QAccessible>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -33,7 +35,7 @@ SetFilter::SetFilter(QWidget *parent)
       m_add(new FlatCmd(FilterTexts::AddRow, this)),
       m_groups(new QCheckBox(FilterTexts::ShowGroups, this)),
       m_addBrackets(new FlatCmd(FilterTexts::AddBrackets, this)),
-      m_sentence(new QLabel(this)),
+      m_sentence(new SentenceLabel(this)),
       m_count(new FilterCount(this)),
       m_sql(new QCheckBox(FilterTexts::ShowSql, this)),
       m_conditionLabel(new QLabel(FilterTexts::Condition, this)),
@@ -59,15 +61,6 @@ SetFilter::SetFilter(QWidget *parent)
     m_addBrackets->setAccessibleDescription(FilterTexts::AddBracketsTip);
     m_addBrackets->hide();
     m_sentence->setObjectName(u"lblSentence"_s);
-    m_sentence->setTextFormat(Qt::PlainText);
-    m_sentence->setWordWrap(true);
-    m_sentence->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_sentence->setFocusPolicy(Qt::NoFocus);
-    // A long sentence takes no room from the rows: its tool tip has all of it.
-    m_sentence->setText(FilterTexts::And() + u'\n' + FilterTexts::Or()); // in the font that has these signs
-    m_sentence->setFixedHeight(m_sentence->sizeHint().height());
-    m_sentence->clear();
-    m_sentence->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_count->setSource([this] { return countRequest(); });
     m_sql->setObjectName(u"chkSql"_s);
     m_sql->setToolTip(FilterTexts::ShowSqlTip);
@@ -233,8 +226,7 @@ void SetFilter::onRowsChanged()
     if (m_isByHand)
         return;
     show({});
-    m_sentence->setText(m_rows->sentence());
-    m_sentence->setToolTip(m_sentence->text());
+    m_sentence->say(m_rows->sentence());
     m_condition->setText(m_rows->preview());
     m_condition->setToolTip(m_condition->text());
     m_condition->setCursorPosition(0);
@@ -279,8 +271,7 @@ void SetFilter::setByHand(bool isByHand)
 {
     m_isByHand = isByHand;
     if (isByHand) {
-        m_sentence->clear(); // nobody knows what was typed
-        m_sentence->setToolTip({});
+        m_sentence->say({}); // nobody knows what was typed
         m_count->stop();
     }
     m_backToRows->setVisible(isByHand);
@@ -349,6 +340,10 @@ QString SetFilter::conditionByHand()
 void SetFilter::show(const QString &notice)
 {
     m_notice->setText(notice);
+    if (notice.isEmpty())
+        return;
+    QAccessibleEvent alert(m_notice, QAccessible::Alert); // the keyboard is elsewhere
+    QAccessible::updateAccessibility(&alert);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -17,6 +17,7 @@ namespace KOVAVSFDataGridLib {
 
 class FilterCount;
 class FilterRows;
+class SentenceLabel;
 class ValueEdit;
 
 // Builds a condition for the rows of a table. Prepare it in this order: Initialize, one of SetConnection and
@@ -109,7 +110,7 @@ private:
     QPushButton *m_add;
     QCheckBox *m_groups;
     QPushButton *m_addBrackets;
-    QLabel *m_sentence; // the rows in words
+    SentenceLabel *m_sentence; // the rows in words
     FilterCount *m_count;
     QCheckBox *m_sql;
     QLabel *m_conditionLabel;

@@ -1,7 +1,7 @@
 #include "filter/ValueEdit.h"
 
+#include "filter/DayCalendar.h"
 #include "filter/FilterTexts.h"
-#include "filter/conditions/FilterDays.h"
 #include "filter/conditions/FilterValue.h"
 #include "language/GroupedNumber.h"
 #include "language/Language.h"
@@ -12,12 +12,8 @@
 #include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
-#include <QtGui/QScreen>
 #include <QtWidgets/QAbstractItemView>
-#include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QCompleter>
-#include <QtWidgets/QGridLayout>
-#include <QtWidgets/QToolButton>
 
 #include <algorithm>
 
@@ -90,15 +86,6 @@ bool hasDays(FieldClass fieldClass)
     return fieldClass == FieldClass::Date || fieldClass == FieldClass::Moment;
 }
 
-// Without an icon theme Qt has green discs for turning the months, whatever the colours around them.
-void usePlainArrows(const QCalendarWidget &calendar)
-{
-    if (auto *previous = calendar.findChild<QToolButton *>(u"qt_calendar_prevmonth"_s))
-        previous->setArrowType(Qt::LeftArrow);
-    if (auto *next = calendar.findChild<QToolButton *>(u"qt_calendar_nextmonth"_s))
-        next->setArrowType(Qt::RightArrow);
-}
-
 } // namespace
 
 ValueEdit::ValueEdit(QWidget *parent)
@@ -110,6 +97,7 @@ ValueEdit::ValueEdit(QWidget *parent)
     m_offerValues->setObjectName(u"actValues"_s);
     connect(m_offerValues, &QAction::triggered, this, &ValueEdit::offerValues);
     connect(m_offer, &QAction::triggered, this, &ValueEdit::offer);
+    connect(this, &QLineEdit::textEdited, this, &ValueEdit::dropLineEnd);
     setKind(FieldClass::Text, false);
     Language::keepTranslated(*this, [this] { writeTexts(); });
 }
@@ -137,8 +125,29 @@ void ValueEdit::setKind(FieldClass fieldClass, bool isList)
 
 void ValueEdit::setCount()
 {
-    setKind(FieldClass::Number, false);
+    setKind(FieldClass::Other, false); // the field's values are no numbers of values
     setPlaceholderText(FilterTexts::CountHint);
+}
+
+// A cell that was copied from a spreadsheet ends with a line break, which is no part of a value.
+void ValueEdit::dropLineEnd()
+{
+    const auto isAfterBreak = [this] {
+        const QString typed = text();
+        return cursorPosition() == typed.size() && (typed.endsWith(u'\n') || typed.endsWith(u'\r'));
+    };
+    while (!m_isList && isAfterBreak())
+        backspace();
+}
+
+int ValueEdit::comfortableWidth() const
+{
+    const QString longest = m_fieldClass == FieldClass::Moment ? u"2024-12-30 20:00:00"_s
+                            : m_fieldClass == FieldClass::Date ? u"2024-12-30"_s
+                                                               : u"0000000000"_s;
+    // What there is beside the text is the same for each.
+    const QFontMetrics metrics = fontMetrics();
+    return minimumSizeHint().width() - metrics.maxWidth() + metrics.horizontalAdvance(longest + u' ');
 }
 
 void ValueEdit::setMarked(bool isMarked)
@@ -285,66 +294,20 @@ void ValueEdit::take(const QString &picked)
     Q_EMIT textEdited(text());
 }
 
+// A value that is stored is a day, while a filter can wait until it runs to know which.
 void ValueEdit::offerCalendar()
 {
     if (!m_calendar) {
-        m_calendar = new QCalendarWidget(this);
-        m_calendar->setObjectName(u"calDays"_s);
-        m_calendar->setWindowFlag(Qt::Popup);
-        m_calendar->setLocale(QLocale(QLocale::Chinese, QLocale::China));
-        m_calendar->setFirstDayOfWeek(Qt::Monday);
-        m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-        usePlainArrows(*m_calendar);
-        m_calendar->layout()->addWidget(makeDayWords());
-        connect(m_calendar, &QCalendarWidget::clicked, this, &ValueEdit::setDay);
-        connect(m_calendar, &QCalendarWidget::activated, this, &ValueEdit::setDay);
+        m_calendar = new DayCalendar(
+            m_readValues ? DayCalendar::Offers::Today : DayCalendar::Offers::RelativeDays, this);
+        connect(m_calendar, &DayCalendar::dayPicked, this, &ValueEdit::setDay);
+        connect(m_calendar, &DayCalendar::wordPicked, this, &ValueEdit::take);
     }
-    if (const QDate typed = dayOf(text()); typed.isValid())
-        m_calendar->setSelectedDate(typed);
-    m_calendar->show(); // only now does it have its size
-    m_calendar->move(placeOf(m_calendar->size()));
-    m_calendar->setFocus();
-}
-
-// Days that move with the calendar, as a button each.
-QWidget *ValueEdit::makeDayWords()
-{
-    auto *words = new QWidget(m_calendar);
-    auto *grid = new QGridLayout(words);
-    grid->setContentsMargins({});
-    grid->setSpacing(0);
-    constexpr int columns = 4;
-    int place = 0;
-    for (const QString &word : relativeDayWords()) {
-        auto *button = new QToolButton(words);
-        button->setText(word);
-        button->setAutoRaise(true);
-        button->setFocusPolicy(Qt::StrongFocus);
-        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        connect(button, &QToolButton::clicked, this, [this, word] {
-            m_calendar->close();
-            take(word);
-        });
-        grid->addWidget(button, place / columns, place % columns);
-        ++place;
-    }
-    return words;
-}
-
-// Below the editor, or above where the screen ends too soon.
-QPoint ValueEdit::placeOf(QSize popup) const
-{
-    const QRect free = screen()->availableGeometry();
-    QPoint place = mapToGlobal(rect().bottomLeft());
-    if (place.y() + popup.height() > free.bottom())
-        place.setY(mapToGlobal(rect().topLeft()).y() - popup.height());
-    place.setX(std::max(free.left(), std::min(place.x(), free.right() - popup.width())));
-    return place;
+    m_calendar->open(*this, dayOf(text()));
 }
 
 void ValueEdit::setDay(QDate day)
 {
-    m_calendar->close();
     // A time that stands behind the old day stays.
     static const QRegularExpression time(u" +[0-9]{1,2}:[0-9:.]+$"_s);
     const QString kept = m_isList ? QString() : time.match(text()).captured();

@@ -8,10 +8,11 @@
 
 #include <functional>
 
-class QCalendarWidget;
 class QCompleter;
 
 namespace KOVAVSFDataGridLib {
+
+class DayCalendar;
 
 // The entries of a list from which a value is picked.
 struct ListedValues
@@ -45,6 +46,8 @@ public:
     void setCount();
     // Shows that something is wrong with the value.
     void setMarked(bool isMarked);
+    // For a value of its kind and the buttons beside it.
+    int comfortableWidth() const;
 
 Q_SIGNALS:
     // The entry for more values was picked; they are shown by showValues().
@@ -59,15 +62,14 @@ protected:
 private:
     void offer();
     void writeTexts();
+    void dropLineEnd();
     void offerValues();
     void offerList(const ListedValues &list);
     void makeList();
     void pick(int row);
     void offerCalendar();
-    QPoint placeOf(QSize popup) const;
     void take(const QString &picked);
     void setDay(QDate day);
-    QWidget *makeDayWords();
 
     std::function<ListedValues()> m_readValues;
     std::function<void()> m_askForValues;
@@ -80,7 +82,7 @@ private:
     Text m_offerText;
     QAction *m_offerValues;
     QCompleter *m_list = nullptr;
-    QCalendarWidget *m_calendar = nullptr;
+    DayCalendar *m_calendar = nullptr;
 };
 
 } // namespace KOVAVSFDataGridLib

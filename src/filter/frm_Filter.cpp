@@ -64,7 +64,7 @@ frm_Filter::frm_Filter(QWidget *parent)
     rows->addWidget(makeBand());
     rows->addLayout(body);
     // Comfortable for two dates and what stands around them, but never wider than the screen.
-    const int comfortable = widthOfDigits(*this, 130);
+    const int comfortable = widthOfDigits(*this, 150);
     const int margins = 2 * margin;
     resize(
         std::max(sizeHint().width(), std::min(comfortable, screen()->availableGeometry().width() - margins)),

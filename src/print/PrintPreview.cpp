@@ -13,6 +13,7 @@
 #include <QtCore/QStandardPaths>
 #include <QtPrintSupport/QPrintDialog>
 #include <QtPrintSupport/QPrintPreviewWidget>
+#include <QtWidgets/QAbstractScrollArea>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFileDialog>
@@ -73,6 +74,8 @@ PrintPreview::PrintPreview(Choices choices, QWidget *parent)
     setWindowTitle(PrintTexts::Title);
     m_printer->setPageLayout(PrintOptions().layoutFor(m_choices.columns));
     m_pages = named(new QPrintPreviewWidget(m_printer.get(), this), u"pages"_s);
+    if (auto *const view = m_pages->findChild<QAbstractScrollArea *>())
+        view->setAccessibleName(PrintTexts::Title); // it takes the keyboard for the pages
     layOut();
     findChild<QPushButton *>(u"cmdPrint"_s)->setFocus();
     connect(m_pages, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter *on) { drawPages(*on); });

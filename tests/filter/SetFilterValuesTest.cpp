@@ -3,12 +3,17 @@
 
 #include "ado/Connection.h"
 #include "filter/ValueReading.h"
+#include "language/Language.h"
 #include "support/WindowAnswers.h"
 
 #include <QtGui/QAction>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
 #include <QtWidgets/QCalendarWidget>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QListView>
+#include <QtWidgets/QTableView>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeWidget>
 
@@ -58,6 +63,21 @@ TEST_F(PickedValues, TheValuesOfATextFieldAreReadWhenTheirListIsOpened)
     QTest::keyClick(list, Qt::Key_Down);
     QTest::keyClick(list, Qt::Key_Return);
     EXPECT_EQ(answer(), "城市 = '北京'");
+}
+
+TEST_F(PickedValues, CellsOfASpreadsheetArePasted)
+{
+    const auto paste = [this](const QString &copied) {
+        QGuiApplication::clipboard()->setText(copied);
+        QTest::keyClick(&text("txtValue1"), Qt::Key_V, Qt::ControlModifier);
+    };
+    fillRow(1, u"城市"_s, u"在列表中"_s, {});
+    paste(u"北京\r\n上海\r\n"_s);
+    EXPECT_EQ(answer(), "城市 IN ('北京', '上海')");
+    choose("cmbOperator1", u"等于"_s);
+    text("txtValue1").clear();
+    paste(u"北京\r\n"_s);
+    EXPECT_EQ(answer(), "城市 = '北京'") << "one cell ends with a line break, too";
 }
 
 TEST_F(PickedValues, TheArrowIsAsPaleAsTheValue)
@@ -170,6 +190,22 @@ TEST_F(PickedValues, TheCalendarHasNoPicturesOfItsOwn)
     auto &calendar = part<QCalendarWidget>(dialog, "calDays");
     EXPECT_EQ(part<QToolButton>(dialog, "qt_calendar_prevmonth").arrowType(), Qt::LeftArrow);
     EXPECT_EQ(part<QToolButton>(dialog, "qt_calendar_nextmonth").arrowType(), Qt::RightArrow);
+    calendar.close();
+}
+
+TEST_F(PickedValues, TheCalendarShowsAllWeeksInTheUsersLanguage)
+{
+    choose("cmbField1", u"下单日期"_s);
+    QTest::keyClick(&text("txtValue1"), Qt::Key_F4);
+    auto &calendar = part<QCalendarWidget>(dialog, "calDays");
+    const auto &weeks = part<QTableView>(dialog, "qt_calendar_calendarview");
+    EXPECT_GE(weeks.viewport()->height(), weeks.verticalHeader()->length());
+    EXPECT_EQ(calendar.locale().language(), QLocale::Chinese);
+    ASSERT_TRUE(KOVAVSFDataGridLib::Language::use(u"en"_s));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(calendar.locale().language(), QLocale::English);
+    EXPECT_EQ(calendar.firstDayOfWeek(), Qt::Monday) << "as in 本周";
+    KOVAVSFDataGridLib::Language::use({});
     calendar.close();
 }
 

@@ -127,6 +127,14 @@ TEST_F(FilterForm, ASmallScreenHoldsItWithItsWidestRow)
     EXPECT_LE(dialog.minimumSizeHint().width(), 800);
     EXPECT_LE(dialog.minimumSizeHint().height(), 600);
     EXPECT_LE(dialog.height(), 600);
+    dialog.resize(800, 600);
+    QCoreApplication::processEvents();
+    for (const char *name : {"txtValue1", "txtValue1b", "chkWithNull1", "cmbJoin1"}) {
+        const QWidget &shown = part(dialog, name);
+        EXPECT_GE(shown.width(), name[0] == 't' ? 80 : shown.sizeHint().width()) << name;
+        EXPECT_TRUE(shown.parentWidget()->rect().contains(shown.geometry())) << name;
+    }
+    EXPECT_FALSE(part(dialog, "txtValue1").geometry().intersects(part(dialog, "chkWithNull1").geometry()));
 }
 
 TEST_F(FilterForm, HasItsDecoration)

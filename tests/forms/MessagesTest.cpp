@@ -1,7 +1,9 @@
-// Message boxes in a host without a translator: their buttons speak the language of their texts.
+// Message boxes in a host without a translator, and with one of its own: their buttons speak the language of
+// their texts.
 #include "forms/Messages.h"
 
 #include <QtCore/QTimer>
+#include <QtCore/QTranslator>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <gtest/gtest.h>
@@ -29,6 +31,19 @@ QStringList captionsOf(const std::function<void()> &show)
     return captions;
 }
 
+// Has words for all that Qt writes itself.
+class HostTranslator : public QTranslator
+{
+public:
+    HostTranslator() { QCoreApplication::installTranslator(this); }
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        return QLatin1StringView(context).startsWith("Q"_L1) ? u"host: "_s + QLatin1StringView(source)
+                                                             : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
 } // namespace
 
 TEST(Messages, ANoticeHasAChineseButton)
@@ -50,4 +65,15 @@ TEST(Messages, AnOfferStandsBesideOk)
 {
     EXPECT_EQ(captionsOf([] { Messages::offer(nullptr, u"记录已修改"_s, {}, u"查看新值(&V)"_s); }),
               QStringList({u"查看新值(&V)"_s, u"确定"_s}));
+}
+
+TEST(Messages, TheHostsTranslatorNamesNoButton)
+{
+    const HostTranslator translator;
+    ASSERT_EQ(QCoreApplication::translate("QPlatformTheme", "&Yes"), u"host: &Yes"_s);
+    EXPECT_EQ(captionsOf([] { Messages::ask(nullptr, u"删除？"_s, u"删除"_s, QMessageBox::Question); }),
+              QStringList({u"否(&N)"_s, u"是(&Y)"_s}));
+    EXPECT_EQ(captionsOf([] { Messages::askToSave(nullptr, u"没有保存"_s, u"记录"_s); }),
+              QStringList({u"保存(&S)"_s, u"取消"_s, u"放弃(&D)"_s}));
+    EXPECT_EQ(captionsOf([] { Messages::show(nullptr, u"已加载"_s); }), QStringList(u"确定"_s));
 }

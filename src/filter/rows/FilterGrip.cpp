@@ -9,12 +9,12 @@
 
 namespace KOVAVSFDataGridLib {
 
-FilterGrip::FilterGrip(QWidget *parent) : QWidget(parent)
+FilterGrip::FilterGrip(QWidget *parent) : QAbstractButton(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::OpenHandCursor);
     setToolTip(FilterTexts::Grip);
-    setAccessibleName(FilterTexts::Grip);
+    setAccessibleDescription(FilterTexts::Grip);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -31,7 +31,7 @@ void FilterGrip::keyPressEvent(QKeyEvent *event)
         m_isDragging = false;
         Q_EMIT cancelled();
     } else
-        QWidget::keyPressEvent(event);
+        QWidget::keyPressEvent(event); // there is nothing to be pressed
 }
 
 void FilterGrip::mousePressEvent(QMouseEvent *event)
@@ -59,13 +59,13 @@ void FilterGrip::mouseReleaseEvent(QMouseEvent *event)
 
 void FilterGrip::focusInEvent(QFocusEvent *event)
 {
-    QWidget::focusInEvent(event);
+    QAbstractButton::focusInEvent(event);
     update();
 }
 
 void FilterGrip::focusOutEvent(QFocusEvent *event)
 {
-    QWidget::focusOutEvent(event);
+    QAbstractButton::focusOutEvent(event);
     update();
 }
 
@@ -77,7 +77,7 @@ void FilterGrip::paintEvent(QPaintEvent *)
     painter.setPen(Qt::NoPen);
     painter.setBrush(
         palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
-    const double step = height() / 5.0;
+    const double step = sizeHint().height() / 5.0;
     const double radius = step / 4;
     for (const int column : {-1, 1}) {
         for (const int row : {-1, 0, 1})

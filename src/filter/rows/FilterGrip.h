@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QAbstractButton>
 
 namespace KOVAVSFDataGridLib {
 
 // What a line of a tree is taken by to be moved: dragged by the mouse, or by the arrow keys.
-class FilterGrip final : public QWidget
+class FilterGrip final : public QAbstractButton
 {
     Q_OBJECT
 

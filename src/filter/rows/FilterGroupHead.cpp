@@ -18,7 +18,6 @@ QToolButton *newButton(const QString &text, const QString &toolTip, QWidget *par
     auto *const button = new QToolButton(parent);
     button->setText(text);
     button->setToolTip(toolTip);
-    button->setAccessibleName(toolTip);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::StrongFocus);
     return button;
@@ -33,7 +32,6 @@ FilterGroupHead::FilterGroupHead(QWidget *parent)
       m_add(newButton(FilterTexts::AddToGroup, FilterTexts::AddToGroupTip, this)),
       m_dissolve(newButton(FilterTexts::Dissolve, FilterTexts::DissolveTip, this))
 {
-    m_kind->setAccessibleName(FilterTexts::GroupKind);
     m_kind->addItem(FilterTexts::GroupAll, static_cast<int>(FilterNode::Kind::All));
     m_kind->addItem(FilterTexts::GroupAny, static_cast<int>(FilterNode::Kind::Any));
     m_kind->addItem(FilterTexts::GroupNone, static_cast<int>(FilterNode::Kind::None));
@@ -54,6 +52,13 @@ void FilterGroupHead::setPlace(int number, int level, FilterNode::Kind kind)
     m_kind->setObjectName(u"cmbGroup"_s + suffix);
     m_add->setObjectName(u"cmdAddToGroup"_s + suffix);
     m_dissolve->setObjectName(u"cmdDissolve"_s + suffix);
+    const auto name = [number](QWidget &part, const Text &said) {
+        part.setAccessibleName(FilterTexts::PartOfGroup.arg(said(), number));
+    };
+    name(*m_kind, FilterTexts::GroupKind);
+    name(*m_add, FilterTexts::AddToGroupTip);
+    name(*m_dissolve, FilterTexts::DissolveTip);
+    m_grip->setAccessibleName(FilterTexts::MoveGroup.arg(number).arg(level));
     m_kind->setCurrentIndex(m_kind->findData(static_cast<int>(kind)));
     m_grip->setVisible(level > 0);
     m_dissolve->setVisible(level > 0);

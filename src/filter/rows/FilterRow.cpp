@@ -5,6 +5,7 @@
 #include "filter/conditions/FilterValue.h"
 #include "filter/rows/BracketCombo.h"
 #include "filter/rows/FilterGrip.h"
+#include "filter/rows/FilterValues.h"
 #include "forms/widgets/FieldCombo.h"
 
 #include <QtCore/QPointer>
@@ -26,9 +27,9 @@ FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *p
       m_not(new QCheckBox(FilterTexts::Not, this)),
       m_field(new FieldCombo(this)),
       m_operator(new QComboBox(this)),
-      m_value(makeValue(FilterTexts::Value)),
+      m_value(makeValue()),
       m_to(new QLabel(FilterTexts::To, this)),
-      m_lastValue(makeValue(FilterTexts::LastValue)),
+      m_lastValue(makeValue()),
       m_withNull(new QCheckBox(FilterTexts::WithNull, this)),
       m_closes(makeBrackets(BracketCombo::Side::After)),
       m_join(new QComboBox(this)),
@@ -129,6 +130,7 @@ void FilterRow::onOperatorChanged()
 void FilterRow::onNegated()
 {
     m_withNull->setVisible(choice().asksForNull());
+    m_values->arrange();
     onEdited();
 }
 
@@ -228,8 +230,10 @@ void FilterRow::showFault(const QString &fault)
         return;
     m_fault->setText(fault);
     m_fault->setVisible(!fault.isEmpty());
-    m_value->setMarked(!fault.isEmpty());
-    m_lastValue->setMarked(!fault.isEmpty());
+    for (ValueEdit *edit : {m_value, m_lastValue}) {
+        edit->setMarked(!fault.isEmpty());
+        edit->setAccessibleDescription(fault);
+    }
 }
 
 void FilterRow::clearBracketFault()

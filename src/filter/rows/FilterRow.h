@@ -19,6 +19,7 @@ class QToolButton;
 namespace KOVAVSFDataGridLib {
 
 class FilterGrip;
+class FilterValues;
 class ValueEdit;
 
 // What the rows of a builder are made for.
@@ -88,9 +89,10 @@ Q_SIGNALS:
 private:
     void makeParts();
     void layOut();
-    ValueEdit *makeValue(const QString &accessibleName);
+    ValueEdit *makeValue();
     BracketCombo *makeBrackets(BracketCombo::Side side);
     void placeParts();
+    void nameGrip();
     void offerValues(ValueEdit &edit);
     void pickList();
     void putOperator(FilterOperator op);
@@ -113,12 +115,14 @@ private:
     QLabel *m_to;
     ValueEdit *m_lastValue;
     QCheckBox *m_withNull;
+    FilterValues *m_values = nullptr; // around these four
     BracketCombo *m_closes;
     QComboBox *m_join;
     QToolButton *m_enclose;
     QToolButton *m_delete;
     std::optional<int> m_level;
     bool m_isLast = true;
+    int m_number = 1;
     QLabel *m_fault;
     ValueEdit *m_valueAtFault; // what was last found wrong
     QString m_suggested;       // the value that suggest() put in

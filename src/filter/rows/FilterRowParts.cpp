@@ -3,13 +3,13 @@
 #include "filter/rows/FilterGrip.h"
 #include "filter/rows/FilterGroupHead.h"
 #include "filter/rows/FilterRow.h"
+#include "filter/rows/FilterValues.h"
 #include "forms/widgets/FieldCombo.h"
 #include "forms/widgets/TextWidth.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QGridLayout>
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
 
@@ -36,7 +36,6 @@ int lettersOfOperators(const QWidget &widget)
 
 void FilterRow::makeParts()
 {
-    m_field->setAccessibleName(FilterTexts::Field);
     for (const FilterField &field : m_context->fields)
         m_field->addItem(field.caption);
     m_not->setToolTip(FilterTexts::NotTip);
@@ -44,17 +43,13 @@ void FilterRow::makeParts()
     m_withNull->setToolTip(FilterTexts::WithNullTip);
     m_withNull->setAccessibleDescription(FilterTexts::WithNullTip);
     m_withNull->setChecked(true);
-    m_operator->setAccessibleName(FilterTexts::Operator);
     m_operator->setMaxVisibleItems(21);
-    m_join->setAccessibleName(FilterTexts::Join);
     m_join->setToolTip(FilterTexts::Join);
     m_join->addItems({FilterTexts::And, FilterTexts::Or});
-    m_delete->setAccessibleName(FilterTexts::DeleteRow);
     m_delete->setToolTip(FilterTexts::DeleteRow);
     m_delete->setText(u"×"_s);
     m_delete->setAutoRaise(true);
     m_delete->setFocusPolicy(Qt::StrongFocus);
-    m_enclose->setAccessibleName(FilterTexts::EncloseRow);
     m_enclose->setToolTip(FilterTexts::EncloseRow);
     m_enclose->setText(u"( )"_s);
     m_enclose->setAutoRaise(true);
@@ -79,34 +74,37 @@ void FilterRow::layOut()
     m_operator->setMinimumContentsLength(lettersOfOperators(*this));
     m_operator->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     m_operator->setMinimumWidth(widthOfDigits(*this, 11)); // where the window is narrow
-    auto *values = new QWidget(this);
-    // Two days, the buttons beside them and the word between them.
-    values->setMinimumWidth(widthOfDigits(*this, 36) + fontMetrics().horizontalAdvance(m_to->text()));
-    auto *valueRow = new QHBoxLayout(values);
-    valueRow->setContentsMargins({});
-    valueRow->addWidget(m_value, 1);
-    valueRow->addWidget(m_to);
-    valueRow->addWidget(m_lastValue, 1);
-    valueRow->addWidget(m_withNull);
+    const std::initializer_list<QWidget *> before = {m_grip, m_opens, m_not, m_field, m_operator};
+    const std::initializer_list<QWidget *> after = {m_closes, m_join, m_enclose, m_delete};
+    int lineHeight = 0;
+    for (const auto &parts : {before, after}) {
+        for (const QWidget *part : parts)
+            lineHeight = std::max(lineHeight, part->sizeHint().height());
+    }
+    m_values = new FilterValues({m_value, m_to, m_lastValue, m_withNull}, lineHeight, this);
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins({});
     grid->setVerticalSpacing(2);
     int column = 0;
-    for (QWidget *part : std::initializer_list<QWidget *>{m_grip, m_opens, m_not, m_field, m_operator, values,
-                                                          m_closes, m_join, m_enclose, m_delete})
-        grid->addWidget(part, 0, column++);
+    // All on the first line of the values, of which there can be several.
+    const auto place = [&](QWidget *part) {
+        part->setMinimumHeight(lineHeight);
+        grid->addWidget(part, 0, column++, Qt::AlignTop);
+    };
+    std::ranges::for_each(before, place);
+    place(m_values);
+    std::ranges::for_each(after, place);
     constexpr int fieldColumn = 3;
     constexpr int valueColumn = 5;
     grid->setColumnStretch(fieldColumn, 3);
-    grid->setColumnStretch(valueColumn, 5);
+    grid->setColumnStretch(valueColumn, 6);
     grid->addWidget(m_fault, 1, fieldColumn, 1, column - fieldColumn);
     placeParts();
 }
 
-ValueEdit *FilterRow::makeValue(const QString &accessibleName)
+ValueEdit *FilterRow::makeValue()
 {
     auto *edit = new ValueEdit(this);
-    edit->setAccessibleName(accessibleName);
     edit->setValueAsker([this, edit] { offerValues(*edit); });
     connect(edit, &QLineEdit::textChanged, this, &FilterRow::onEdited);
     connect(edit, &QLineEdit::editingFinished, this, &FilterRow::onEditingFinished);
@@ -125,19 +123,31 @@ BracketCombo *FilterRow::makeBrackets(BracketCombo::Side side)
 void FilterRow::setNumber(int number)
 {
     const QString suffix = QString::number(number);
-    m_opens->setObjectName(u"cmbOpen"_s + suffix);
-    m_not->setObjectName(u"chkNot"_s + suffix);
-    m_withNull->setObjectName(u"chkWithNull"_s + suffix);
-    m_field->setObjectName(u"cmbField"_s + suffix);
-    m_operator->setObjectName(u"cmbOperator"_s + suffix);
-    m_value->setObjectName(u"txtValue"_s + suffix);
-    m_lastValue->setObjectName(u"txtValue"_s + suffix + u'b');
-    m_closes->setObjectName(u"cmbClose"_s + suffix);
-    m_join->setObjectName(u"cmbJoin"_s + suffix);
+    const auto name = [&](QWidget &part, const QString &objectName, const Text &said) {
+        part.setObjectName(objectName);
+        part.setAccessibleName(FilterTexts::PartOfRow.arg(said(), suffix));
+    };
+    name(*m_opens, u"cmbOpen"_s + suffix, FilterTexts::OpenBracket);
+    name(*m_not, u"chkNot"_s + suffix, FilterTexts::Not);
+    name(*m_withNull, u"chkWithNull"_s + suffix, FilterTexts::WithNull);
+    name(*m_field, u"cmbField"_s + suffix, FilterTexts::Field);
+    name(*m_operator, u"cmbOperator"_s + suffix, FilterTexts::Operator);
+    name(*m_value, u"txtValue"_s + suffix, FilterTexts::Value);
+    name(*m_lastValue, u"txtValue"_s + suffix + u'b', FilterTexts::LastValue);
+    name(*m_closes, u"cmbClose"_s + suffix, FilterTexts::CloseBracket);
+    name(*m_join, u"cmbJoin"_s + suffix, FilterTexts::Join);
+    name(*m_enclose, u"cmdEnclose"_s + suffix, FilterTexts::EncloseRow);
+    name(*m_delete, u"cmdDeleteRow"_s + suffix, FilterTexts::DeleteRow);
     m_grip->setObjectName(u"grpMoveRow"_s + suffix);
-    m_enclose->setObjectName(u"cmdEnclose"_s + suffix);
-    m_delete->setObjectName(u"cmdDeleteRow"_s + suffix);
     m_fault->setObjectName(u"lblFault"_s + suffix);
+    m_number = number;
+    nameGrip();
+}
+
+// With the row's place, so that screen readers speak a move.
+void FilterRow::nameGrip()
+{
+    m_grip->setAccessibleName(FilterTexts::MoveRow.arg(m_number).arg(m_level.value_or(0)));
 }
 
 void FilterRow::setPlace(bool isLast, bool isOnly)
@@ -150,6 +160,7 @@ void FilterRow::setPlace(bool isLast, bool isOnly)
 void FilterRow::setLevel(std::optional<int> level)
 {
     m_level = level;
+    nameGrip();
     placeParts();
 }
 

@@ -42,6 +42,7 @@ SavedFilterMenu::SavedFilterMenu(QWidget *parent) : QToolButton(parent), m_menu(
     setMenu(m_menu);
     m_menu->setObjectName(u"mnuSaved"_s);
     m_menu->setToolTipsVisible(true);
+    m_menu->setAccessibleName(FilterTexts::SavedFiltersTip);
     connect(m_menu, &QMenu::aboutToShow, this, &SavedFilterMenu::fill);
     setShelf({});
 }

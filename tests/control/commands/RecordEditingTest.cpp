@@ -5,6 +5,7 @@
 #include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QToolTip>
 
 using namespace KovaTest;
@@ -405,6 +406,12 @@ TEST_F(RecordEditing, ADateIsPickedFromACalendar)
     auto *calendar = edit->findChild<QCalendarWidget *>();
     ASSERT_TRUE(calendar && calendar->isVisible());
     EXPECT_EQ(calendar->selectedDate(), QDate(2024, 2, 29));
+    QStringList words;
+    for (const auto *button : calendar->findChildren<QToolButton *>()) {
+        if (!button->objectName().startsWith(u"qt_"_s))
+            words.append(button->text());
+    }
+    EXPECT_EQ(words, QStringList(u"今天"_s)) << "no field holds a week";
     Q_EMIT calendar->activated(QDate(2024, 3, 1));
     QTest::keyClick(edit, Qt::Key_Return);
     click(u"AllRecord"_s);

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QtWidgets/QLabel>
+
+namespace KOVAVSFDataGridLib {
+
+// Two lines for a sentence. Of a longer one an ellipsis stands for the rest, and the tool tip has all of it.
+class SentenceLabel final : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit SentenceLabel(QWidget *parent = nullptr);
+
+    void say(const QString &sentence);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool fits(const QString &text) const;
+};
+
+} // namespace KOVAVSFDataGridLib
