@@ -140,14 +140,17 @@ function(kova_program name)
   target_link_libraries(${name} PRIVATE ${rooms} ${PROGRAM_LINKS})
 endfunction()
 
-# kova_test(<name> SOURCES <files> ROOMS <rooms> LINKS <libraries> [RUN_BY <command>])
+# kova_test(<name> SOURCES <files> ROOMS <rooms> LINKS <libraries> [RUN_BY <command>] [COST <seconds>] [MOC])
 #
 # One test program, one ctest entry, one process. ROOMS and those they rest on are compiled in directly, so that a room's
 # inner classes can be tested although the library hides them; tests of the control link the library. RUN_BY
-# is put before the program, to start what it needs.
+# is put before the program, to start what it needs. COST: of a test of more than half a minute; ctest starts the longest
+# first, so that none runs alone at the end. MOC: some of the sources have Q_OBJECT; for all others, scanning
+# them and compiling the empty outcome would cost more than a test.
 function(kova_test name)
-  cmake_parse_arguments(TEST "" "TIMEOUT" "SOURCES;ROOMS;LINKS;LABELS;RUN_BY" ${ARGN})
+  cmake_parse_arguments(TEST "MOC" "TIMEOUT;COST" "SOURCES;ROOMS;LINKS;LABELS;RUN_BY" ${ARGN})
   kova_program(${name} SOURCES ${TEST_SOURCES} ROOMS ${TEST_ROOMS} LINKS ${TEST_LINKS} kova_test_main)
+  set_target_properties(${name} PROPERTIES AUTOMOC ${TEST_MOC})
   kova_precompile(${name} tests)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/src)
   if(NOT TEST_TIMEOUT)
@@ -157,6 +160,22 @@ function(kova_test name)
   set_tests_properties(${name} PROPERTIES TIMEOUT ${TEST_TIMEOUT} LABELS "${TEST_LABELS}"
     ENVIRONMENT "LC_ALL=C.UTF-8"
     SKIP_REGULAR_EXPRESSION "ALL TESTS SKIPPED")
+  if(TEST_COST)
+    set_tests_properties(${name} PROPERTIES COST ${TEST_COST})
+  endif()
+endfunction()
+
+# kova_test_part(<name> SOURCES <files> LINKS <libraries>): what several test programs have, compiled once for all of
+# them. They link it, and what it links: an object library brings in its own objects only.
+function(kova_test_part name)
+  cmake_parse_arguments(PART "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} OBJECT ${PART_SOURCES})
+  kova_compile_settings(${name})
+  set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+  kova_precompile(${name} tests)
+  target_include_directories(${name} PRIVATE
+    ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include ${PROJECT_BINARY_DIR}/include)
+  target_link_libraries(${name} PRIVATE kova_test_main ${PART_LINKS})
 endfunction()
 
 # kova_toolbar_icons(<variable>): the source file that carries the drawings of src/control/parts/icons as resources.
