@@ -20,8 +20,8 @@
 #include "session/commands/CommandKeys.h"
 #include "session/editing/EditedRecord.h"
 #include "session/pages/Pages.h"
-#include "session/statement/ShownStatement.h"
 #include "session/statement/LoadedTable.h"
+#include "session/statement/ShownStatement.h"
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
@@ -63,7 +63,7 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
             request.value = asked.value;
             DialogQuestions inViewer(viewer);
             inViewer.setHostKey([this] { return layout.key(); });
-            const QString condition = inViewer.askCondition(request);
+            QString condition = inViewer.askCondition(request);
             asked.memory = request.memory;
             return condition;
         });
