@@ -455,6 +455,22 @@
         <source>这是记录集的副本，不能修改。</source>
         <translation>This is a copy of the recordset and cannot be changed.</translation>
     </message>
+    <message>
+        <source>上次保存这条新记录时连接中断，其主键未知，无法核对是否已经保存。再次保存可能会重复。</source>
+        <translation>The connection to the database was lost when this new record was saved last. Its primary key is not known, so it cannot be checked whether the record was saved. Saving it again may save it twice.</translation>
+    </message>
+    <message>
+        <source>上次保存这条新记录时连接中断，现在主键相同的记录与它不同，不知是否同一条。再次保存可能会重复。</source>
+        <translation>The connection to the database was lost when this new record was saved last. The record that now has its primary key is different: either this record was saved and then changed, or it is another record. Saving it again may save it twice.</translation>
+    </message>
+    <message>
+        <source>当前记录有尚未保存的修改，不能关闭记录集。</source>
+        <translation>The current record has unsaved changes, so the recordset cannot be closed.</translation>
+    </message>
+    <message>
+        <source>数据库文件已被移动、删除或替换，没有保存任何更改，请重新打开。</source>
+        <translation>The database file was moved, deleted or replaced. Nothing was saved; load the data again.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::CellTexts</name>

@@ -111,10 +111,12 @@ public:
     // Writing a field's Value or calling AddNew begins an edit. Update writes it to the database in a
     // transaction, and shows what the database stored. CancelUpdate discards it. Update and Delete change the
     // record only if all of it is still as shown; otherwise they throw dbErrConcurrency. If Update fails,
-    // nothing is saved and the edit stays pending; after dbErrInDoubt the next Update finds that out. If a
-    // result can't be written (read-only, join, view, aggregate, distinct, union), they throw 3251. A new
-    // record is counted after it is saved. A move drops a new record without any value. AddNew on an unsaved
-    // new record saves it first; it throws dbErrCancelled if the record is refused or has no value.
+    // nothing is saved and the edit stays pending. After dbErrInDoubt the next Update finds out whether the
+    // edit was saved, and saves it only if not. If that can't be told of a new record, it throws
+    // dbErrPerhapsSaved until ForgetAttempt or CancelUpdate. If a result can't be written (read-only, join,
+    // view, aggregate, distinct, union), they throw 3251. A new record is counted after it is saved. A move
+    // drops a new record without any value. AddNew on an unsaved new record saves it first; it throws
+    // dbErrCancelled if the record is refused or has no value.
     EditModeEnum EditMode() const;
     // Why no record of the result can be added, changed or deleted, as a sentence for the user. Empty if the
     // result can be written, or if it is closed. Known since Open; the database is not asked.
@@ -122,6 +124,9 @@ public:
     void AddNew();
     void Update();
     void CancelUpdate();
+    // After dbErrPerhapsSaved: the next Update adds the new record once more, although it may be saved
+    // already.
+    void ForgetAttempt();
     // Reads the current record from the database again. After dbErrConcurrency this returns what another user
     // wrote. Only adAffectCurrent is supported. Throws 3251 for a result that can't be written, and
     // dbErrDeletedRow if the record was deleted.

@@ -138,6 +138,12 @@ inline constexpr Text changedRowLost =
     tr("数据库保存的值与填写的不同，因而无法再找到该记录，没有保存任何更改。");
 inline constexpr Text inDoubt =
     tr("保存时与数据库的连接中断，无法确定更改是否已经保存，请重新打开后核对。（%1）");
+inline constexpr Text newKeyUnknown =
+    tr("上次保存这条新记录时连接中断，其主键未知，无法核对是否已经保存。再次保存可能会重复。");
+inline constexpr Text newKeyTaken =
+    tr("上次保存这条新记录时连接中断，现在主键相同的记录与它不同，不知是否同一条。再次保存可能会重复。");
+inline constexpr Text fileReplaced = tr("数据库文件已被移动、删除或替换，没有保存任何更改，请重新打开。");
+inline constexpr Text closedWhileEdited = tr("当前记录有尚未保存的修改，不能关闭记录集。");
 inline constexpr Text savedUnseen = tr("更改可能已经保存，但无法再读取该记录，请重新打开后核对。（%1）");
 inline constexpr Text readOnlyNoTransaction = tr("表“%1”既没有主键，又不支持事务，无法安全地修改。");
 inline constexpr Text tableAltered = tr("表的结构已被其他程序更改，没有保存任何更改，请刷新后重试。");

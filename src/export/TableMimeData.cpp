@@ -64,8 +64,8 @@ QByteArray TableMimeData::html() const
     bool isHeading = m_hasHeadings;
     for (qsizetype at = 0; at < m_text.size();) {
         html += "<tr>";
-        for (std::size_t column = 0; column < m_isNumeric.size(); ++column) {
-            html += isHeading ? "<th>" : m_isNumeric[column] ? "<td>" : textCell;
+        for (const bool isNumeric : m_isNumeric) {
+            html += isHeading ? "<th>" : isNumeric ? "<td>" : textCell;
             if (isOneValue) {
                 appendHtml(html, m_text);
                 at = m_text.size();

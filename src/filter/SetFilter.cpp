@@ -296,7 +296,7 @@ QString SetFilter::ConditionText()
 {
     if (m_isByHand)
         return conditionByHand();
-    const QString text = m_rows->checkedText();
+    QString text = m_rows->checkedText();
     if (text.isEmpty()) {
         show(FilterTexts::CorrectRows);
         showFocusedPart();
@@ -321,7 +321,7 @@ QString SetFilter::conditionByHand()
     static const QRegularExpression looseWord(uR"(\bX?OR\b|\|\|)"_s,
                                               QRegularExpression::CaseInsensitiveOption);
     const QString enclosed = u'(' + typed + u')';
-    const QString text = typed.contains(looseWord) ? enclosed : typed;
+    QString text = typed.contains(looseWord) ? enclosed : typed;
     if (!m_source.hasTable())
         return text;
     stopReading();

@@ -192,7 +192,7 @@ void ExportDialog::browse()
 
 QString ExportDialog::file() const
 {
-    const QString typed = QDir::fromNativeSeparators(m_file->text().trimmed());
+    QString typed = QDir::fromNativeSeparators(m_file->text().trimmed());
     if (typed.isEmpty() || formatOfFile(typed) == format())
         return typed;
     return typed + fileEnding(format());

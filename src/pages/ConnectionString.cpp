@@ -56,8 +56,8 @@ void ConnectionString::showWhole()
     dialog.SetText(text().text());
     dialog.SetEditing(true, false);
     dialog.exec();
-    if (dialog.result())
-        text().setText(*dialog.result());
+    if (const auto written = dialog.result())
+        text().setText(*written);
 }
 
 } // namespace KOVAVSFDataGridLib

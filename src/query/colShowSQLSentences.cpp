@@ -227,6 +227,8 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
         list.append(quoted(field.name));
     }
     auto sentence = SplitSQLSentence(strOrgSQL);
+    if (!sentence)
+        return false;
     sentence->fields.replace(*star, 1, (names + longBinaryNames).join(u','));
     strRetSQL = joinSQLSentence(*sentence);
     return true;

@@ -255,8 +255,7 @@ QString colShowSQLSentences::WithFieldsOf(const QString &statement, const QStrin
                             all->source().simplified() == fields->source().simplified() &&
                             derivation->source().simplified() == fields->source().simplified();
     const QStringList listed = isOverSame ? all->listedFor(*fields) : QStringList();
-    const QString derived =
-        listed.isEmpty() ? derivation->withFieldsOf(*fields) : derivation->withFields(listed);
+    QString derived = listed.isEmpty() ? derivation->withFieldsOf(*fields) : derivation->withFields(listed);
     if (!derived.isEmpty() || fieldStatement == Latest()->AllFields)
         return derived;
     // What is shown may lack a field that the whole has.

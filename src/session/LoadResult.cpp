@@ -146,7 +146,8 @@ bool loadResult(Session &session)
     case Outcome::Done:
         break;
     }
-    showLoaded(session, *reading.opened, *statement, std::move(manager));
+    if (reading.opened && statement)
+        showLoaded(session, *reading.opened, *statement, std::move(manager));
     return !session.isDetached() && session.result().isOpen();
 }
 

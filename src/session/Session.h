@@ -25,12 +25,12 @@ class Pages;
 class Questions;
 class SessionWindow;
 class SharedHistory;
-class SharedValues;
 class ShownColumns;
 class ShownStatement;
 class StatementReader;
 class clsFilterManagement;
 class colShowSQLSentences;
+struct SharedValues;
 
 // What the user has chosen a command by.
 enum class ChosenBy { Button, MenuItem };

@@ -95,6 +95,26 @@ TEST(Automation, EditsByNames)
     EXPECT_EQ(database.ask(u"SELECT count(*) FROM t"_s), u"3"_s);
 }
 
+TEST(Automation, DoesNotCloseOverAPendingEdit)
+{
+    const TestDatabase database(script);
+    const auto recordset = database.open(u"SELECT * FROM t ORDER BY id"_s);
+    QObject *host = automation(recordset);
+    QSignalSpy errors(host, SIGNAL(HostError(qint32, QString)));
+    for (const char *begin : {"AddNew", "MoveFirst"}) {
+        call(host, begin);
+        EXPECT_TRUE(field(host, u"名称"_s)->setProperty("Value", u"改"_s));
+        call(host, "Close");
+        ASSERT_EQ(errors.size(), 1);
+        EXPECT_EQ(errors.takeFirst()[0], QVariant(ADODB::Error::hresult(ADODB::adErrIllegalOperation)));
+        EXPECT_EQ(get(field(host, u"名称"_s), "Value"), QVariant(u"改"_s));
+        call(host, "CancelUpdate");
+    }
+    call(host, "Close");
+    EXPECT_TRUE(errors.isEmpty());
+    EXPECT_EQ(recordset->State(), ADODB::adStateClosed);
+}
+
 TEST(Automation, TellsWhatSomebodyElseWrote)
 {
     const TestDatabase database(script);

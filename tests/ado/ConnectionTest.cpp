@@ -85,6 +85,25 @@ TEST(Connection, RefusesPipesAndDevicesAtOnce)
         EXPECT_TRUE(error.Description().contains(u"管道或设备")) << error.what();
     }
 }
+
+TEST(Connection, RefusesAPipeThatSQLiteWouldReadBesideTheFile)
+{
+    for (const QLatin1StringView ending : {"-journal"_L1, "-wal"_L1, "-shm"_L1}) {
+        SCOPED_TRACE(ending.data());
+        const TestDatabase database(u"CREATE TABLE t(a)"_s);
+        ASSERT_EQ(mkfifo((database.path() + ending).toUtf8().constData(), 0600), 0);
+        Connection connection;
+        const Error error = AdoTest::errorOf([&] { connection.Open(database.connectionString()); });
+        EXPECT_TRUE(error.is(adErrOpeningFile)) << error.what();
+        EXPECT_TRUE(error.Description().contains(u"管道或设备")) << error.what();
+    }
+}
+
+TEST(Connection, ReadsNothingOfWhatOnlyLooksLikeAFile)
+{
+    Connection connection; // reading this one as root waits for the kernel to say something
+    EXPECT_THROW(connection.Open(u"Provider=SQLite;Data Source=/proc/kmsg"_s), Error);
+}
 #endif
 
 TEST(Connection, RefusesWhatIsNoDatabaseAndLeavesItAlone)

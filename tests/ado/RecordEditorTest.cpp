@@ -20,6 +20,8 @@ struct Table
     bool answers = true;
     bool isDeleted = false;
     int updates = 0; // that were saved
+    int inserts = 0; // likewise
+    bool tellsNewRow = true;
 };
 
 void addRow(RowStore &rows, const QString &text)
@@ -34,7 +36,19 @@ class TableWriter : public RowWriter
 public:
     explicit TableWriter(Table &table) : m_table(table) {}
     bool isWritable(int) const override { return true; }
-    void insert(const std::vector<Change> &, RowStore &) override {}
+    void insert(const std::vector<Change> &changes, RowStore &stored) override
+    {
+        const QString text = changes.front().value.toString();
+        if (m_table.tellsNewRow)
+            addRow(stored, text);
+        if (m_table.answers || m_table.isSavedInDoubt) {
+            m_table.text = text;
+            m_table.isDeleted = false;
+            ++m_table.inserts;
+        }
+        if (!m_table.answers)
+            throw Error(dbErrInDoubt, u"no answer"_s);
+    }
     void remove(const std::vector<RawValue> &) override {}
     void update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
                 RowStore &stored) override
@@ -60,21 +74,22 @@ private:
     Table &m_table;
 };
 
+std::vector<FieldInfo> fields()
+{
+    FieldInfo id;
+    id.name = u"id"_s;
+    id.type = adBigInt;
+    FieldInfo text;
+    text.name = u"text"_s;
+    return {id, text};
+}
+
 class EditInDoubt : public testing::Test
 {
 protected:
     EditInDoubt() : editor(std::make_unique<TableWriter>(table), {}), snapshot(fields(), oldRow())
     {
         editor.set(1, u"mine"_s, snapshot);
-    }
-    static std::vector<FieldInfo> fields()
-    {
-        FieldInfo id;
-        id.name = u"id"_s;
-        id.type = adBigInt;
-        FieldInfo text;
-        text.name = u"text"_s;
-        return {id, text};
     }
     static RowStore oldRow()
     {
@@ -95,6 +110,39 @@ protected:
     {
         EXPECT_EQ(editor.mode(), adEditNone);
         EXPECT_EQ(snapshot.text(1, 1), text);
+    }
+
+    Table table;
+    RecordEditor editor;
+    Snapshot snapshot;
+};
+
+// A new record; its key is the database's.
+class NewRecordInDoubt : public testing::Test
+{
+protected:
+    NewRecordInDoubt() : editor(std::make_unique<TableWriter>(table), {}), snapshot(fields(), RowStore(2))
+    {
+        table.isDeleted = true;
+        editor.beginNew();
+        editor.set(1, u"mine"_s, snapshot);
+    }
+    void save() { editor.saveNew(snapshot); }
+    void saveWithoutAnswer(bool isSaved)
+    {
+        table.isSavedInDoubt = isSaved;
+        table.answers = false;
+        EXPECT_ADO_ERROR(dbErrInDoubt, save());
+        table.answers = true;
+        EXPECT_EQ(editor.mode(), adEditAdd);
+        EXPECT_EQ(snapshot.records(), 0);
+    }
+    void expectShown(const QString &text) const
+    {
+        EXPECT_EQ(editor.mode(), adEditNone);
+        ASSERT_EQ(snapshot.records(), 1);
+        EXPECT_EQ(snapshot.text(1, 1), text);
+        EXPECT_EQ(table.text, text);
     }
 
     Table table;
@@ -138,4 +186,61 @@ TEST_F(EditInDoubt, IsForgottenWithTheEdit)
     editor.cancel();
     editor.set(1, u"mine"_s, snapshot);
     EXPECT_ADO_ERROR(dbErrConcurrency, save());
+}
+
+TEST_F(NewRecordInDoubt, IsNotAddedTwice)
+{
+    saveWithoutAnswer(true);
+    save();
+    expectShown(u"mine"_s);
+    EXPECT_EQ(table.inserts, 1);
+    EXPECT_EQ(table.updates, 0);
+}
+
+TEST_F(NewRecordInDoubt, IsAddedWhenItWasNot)
+{
+    saveWithoutAnswer(false);
+    save();
+    expectShown(u"mine"_s);
+    EXPECT_EQ(table.inserts, 1);
+}
+
+TEST_F(NewRecordInDoubt, IsChangedWhereTheUserWroteMoreMeanwhile)
+{
+    saveWithoutAnswer(true);
+    editor.set(1, u"more"_s, snapshot);
+    save();
+    expectShown(u"more"_s);
+    EXPECT_EQ(table.inserts, 1);
+    EXPECT_EQ(table.updates, 1);
+}
+
+// It can be the user's, changed by somebody else, or somebody else's with the key that was undone.
+TEST_F(NewRecordInDoubt, IsNotAddedAgainWhereAnotherHasItsKey)
+{
+    saveWithoutAnswer(true);
+    table.text = u"theirs"_s;
+    EXPECT_ADO_ERROR(dbErrPerhapsSaved, save());
+    EXPECT_ADO_ERROR(dbErrPerhapsSaved, save());
+    EXPECT_EQ(table.inserts, 1);
+    EXPECT_EQ(editor.mode(), adEditAdd);
+    editor.forgetAttempt();
+    save();
+    EXPECT_EQ(table.inserts, 2);
+    expectShown(u"mine"_s);
+}
+
+TEST_F(NewRecordInDoubt, IsNotAddedAgainWhereItsKeyIsNotKnown)
+{
+    table.tellsNewRow = false;
+    saveWithoutAnswer(false);
+    EXPECT_ADO_ERROR(dbErrPerhapsSaved, save());
+    EXPECT_EQ(table.inserts, 0);
+    editor.cancel();
+    editor.beginNew();
+    editor.set(1, u"other"_s, snapshot);
+    table.tellsNewRow = true;
+    save();
+    EXPECT_EQ(table.inserts, 1) << "the doubt is forgotten with the record";
+    expectShown(u"other"_s);
 }

@@ -120,6 +120,13 @@ TEST(Opening, KeepsWhatAStatementCallsFromWriting)
     EXPECT_EQ(database.ask(u"SELECT group_concat(stat) FROM sqlite_stat1"_s), statistics);
 }
 
+// SQLite's full-text search can be told where in memory its functions are.
+TEST(Opening, LetsNoStatementNameCodeToRun)
+{
+    const TestDatabase database;
+    EXPECT_THROW(database.open(u"SELECT fts3_tokenizer('simple', x'4141414141414141') AS a"_s), Error);
+}
+
 TEST(Opening, ReadsAndWritesTablesForSearchingTextsAndPlaces)
 {
     const TestDatabase database(u"CREATE VIRTUAL TABLE f USING fts5(title, body);"

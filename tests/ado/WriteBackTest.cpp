@@ -1,6 +1,8 @@
 #include "TestDatabase.h"
 #include "Throwing.h"
 
+#include <QtCore/QFile>
+
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
@@ -360,6 +362,31 @@ TEST(WriteBack, UndoesWhatATriggerStops)
     EXPECT_EQ(cellTexts(*recordset), u"x"_s);
     EXPECT_EQ(database.ask(u"SELECT a FROM t"_s), u"x"_s);
 }
+
+#ifdef Q_OS_UNIX
+TEST(WriteBack, WritesNothingWhereTheFileIsNoMoreTheOneThatWasRead)
+{
+    for (const bool isReplaced : {false, true}) {
+        SCOPED_TRACE(isReplaced ? "replaced" : "deleted");
+        const QString table = u"PRAGMA journal_mode = WAL; CREATE TABLE t(id INTEGER PRIMARY KEY, a TEXT);"_s;
+        const TestDatabase database(table + u"INSERT INTO t VALUES (1, 'old')"_s);
+        const TestDatabase other(table + u"INSERT INTO t VALUES (1, 'old'), (2, 'new')"_s);
+        const auto recordset = database.open(u"SELECT * FROM t ORDER BY id"_s);
+        ASSERT_TRUE(QFile::remove(database.path()));
+        if (isReplaced) {
+            ASSERT_TRUE(QFile::rename(other.path(), database.path()));
+        }
+        put(*recordset, u"a"_s, u"mine"_s);
+        const Error error = AdoTest::errorOf([&] { recordset->Update(); });
+        EXPECT_TRUE(error.Description().contains(u"已被移动、删除或替换")) << error.what();
+        recordset->CancelUpdate();
+        EXPECT_THROW(recordset->Delete(), Error);
+        if (isReplaced) {
+            EXPECT_EQ(database.ask(u"SELECT group_concat(a) FROM t"_s), u"old,new"_s);
+        }
+    }
+}
+#endif
 
 TEST(WriteBack, SaysThatTheDatabaseIsLocked)
 {

@@ -64,7 +64,12 @@ void RecordsetObject::Open(const QString &source, QObject *connection, qint32 cu
 
 void RecordsetObject::Close()
 {
-    guarded(this, [&] { m_recordset.Close(); });
+    guarded(this, [&] {
+        const EditModeEnum mode = m_recordset.EditMode();
+        if (mode == adEditInProgress || mode == adEditAdd)
+            throw Error(adErrIllegalOperation, Texts::closedWhileEdited());
+        m_recordset.Close();
+    });
 }
 
 void RecordsetObject::Move(qint32 records, qint32 start)

@@ -70,8 +70,10 @@ public:
     // Like Recordset::Open; `connection` is a ConnectionObject.
     Q_INVOKABLE void Open(const QString &source, QObject *connection, qint32 cursorType = -1,
                           qint32 lockType = -1, qint32 options = -1);
-    // As the members of Recordset with these names.
+    // Like Recordset::Close, but 3219 while an edit is pending: what a user wrote is not for a host to drop
+    // by the way.
     Q_INVOKABLE void Close();
+    // As the members of Recordset with these names.
     Q_INVOKABLE void Move(qint32 records, qint32 start = 0);
     Q_INVOKABLE void Move(qint32 records, const QVariant &startOrBookmark);
     Q_INVOKABLE void MoveFirst();

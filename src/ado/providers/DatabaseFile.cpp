@@ -26,7 +26,8 @@ DatabaseFile::DatabaseFile(const QString &name, qint64 headerSize)
     if (!file.open(QIODevice::ReadOnly))
         throw Error(adErrOpeningFile, Texts::fileUnreadable().arg(shown, file.errorString()));
     size = file.size();
-    header = file.read(headerSize);
+    if (size > 0) // reading what only looks like a file can wait for ever
+        header = file.read(headerSize);
 }
 
 bool isAccessFileName(const QString &name)

@@ -86,6 +86,12 @@ void Recordset::CancelUpdate()
     }
 }
 
+void Recordset::ForgetAttempt()
+{
+    d->needIdle();
+    d->edit().forgetAttempt();
+}
+
 void Recordset::Delete(AffectEnum affect)
 {
     d->needIdle();

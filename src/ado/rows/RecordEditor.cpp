@@ -4,6 +4,7 @@
 #include "ado/Texts.h"
 #include "ado/ValueText.h"
 #include "ado/providers/Provider.h"
+#include "ado/rows/RowComparison.h"
 #include "ado/rows/Snapshot.h"
 #include "ado/values/DateText.h"
 #include "ado/values/FieldValue.h"
@@ -100,6 +101,7 @@ void RecordEditor::cancel()
     m_mode = adEditNone;
     m_values.clear();
     m_isInDoubt = false;
+    m_sent.reset();
 }
 
 std::vector<Change> RecordEditor::changes() const
@@ -113,10 +115,55 @@ std::vector<Change> RecordEditor::changes() const
 
 void RecordEditor::saveNew(Snapshot &snapshot)
 {
-    RowStore stored(snapshot.columns());
-    writer().insert(changes(), stored);
-    showSaved([&] { snapshot.append(stored); });
+    if (!isSavedAlready())
+        insert(snapshot.columns());
+    else if (m_sent->values != m_values)
+        changeSaved();
+    showSaved([&] { snapshot.append(m_sent->row); });
     cancel();
+}
+
+// Whether the attempt before this one, whose answer never came, has saved the new record.
+bool RecordEditor::isSavedAlready()
+{
+    if (!m_sent)
+        return false;
+    if (m_sent->row.rows() == 0)
+        throw Error(dbErrPerhapsSaved, Texts::newKeyUnknown());
+    RowStore now(m_sent->row.columns());
+    if (!writer().read(m_sent->row.row(0), now))
+        return false;
+    // Somebody else may have changed it, or have got the key that was undone.
+    const bool isSame =
+        now.rows() == 1 && std::all_of(m_sent->values.begin(), m_sent->values.end(), [&](const auto &value) {
+            return RowComparison::isSame(now.cell(0, value.first), m_sent->row.cell(0, value.first));
+        });
+    if (!isSame)
+        throw Error(dbErrPerhapsSaved, Texts::newKeyTaken());
+    m_sent->row = std::move(now);
+    return true;
+}
+
+void RecordEditor::insert(int columns)
+{
+    // Made before, so that nothing can fail once it is saved.
+    std::unique_ptr<NewRecord> sent(new NewRecord{m_values, RowStore(columns)});
+    try {
+        writer().insert(changes(), sent->row);
+    } catch (const Error &error) {
+        if (error.is(dbErrInDoubt))
+            m_sent = std::move(sent);
+        throw;
+    }
+    m_sent = std::move(sent);
+}
+
+// What was written into the new record since it was saved.
+void RecordEditor::changeSaved()
+{
+    std::unique_ptr<NewRecord> sent(new NewRecord{m_values, RowStore(m_sent->row.columns())});
+    writer().update(m_sent->row.row(0), changes(), sent->row);
+    m_sent = std::move(sent);
 }
 
 void RecordEditor::saveChanges(Snapshot &snapshot, qint64 record)

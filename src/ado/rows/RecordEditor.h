@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ado/Enums.h"
+#include "ado/rows/RowStore.h"
 
 #include <QtCore/QVariant>
 
@@ -10,7 +11,6 @@
 
 namespace ADODB {
 
-class RowStore;
 class RowWriter;
 class Snapshot;
 struct Change;
@@ -37,9 +37,11 @@ public:
     void cancel();
 
     // Both end the edit when they succeed and keep it when they throw. After dbErrInDoubt, the next attempt
-    // to save changes finds out whether they were saved.
+    // finds out whether it was saved. Where that can't be told of a new record, saveNew() throws
+    // dbErrPerhapsSaved until that attempt is forgotten.
     void saveNew(Snapshot &snapshot);
     void saveChanges(Snapshot &snapshot, qint64 record);
+    void forgetAttempt() { m_sent.reset(); }
     // Deletes a record, whatever is pending.
     void remove(Snapshot &snapshot, qint64 record);
     // The record as the database has it now, the only row of the answer. Throws 3251, and dbErrDeletedRow
@@ -51,12 +53,23 @@ private:
     std::vector<Change> changes() const;
     RowStore update(const Snapshot &snapshot, qint64 record) const;
     bool holdsChanges(const Snapshot &row) const;
+    bool isSavedAlready();
+    void insert(int columns);
+    void changeSaved();
 
     std::unique_ptr<RowWriter> m_writer;
     QString m_whyReadOnly;
     EditModeEnum m_mode = adEditNone;
     std::map<int, QVariant> m_values;
     bool m_isInDoubt = false; // the changes may have been saved
+
+    struct NewRecord
+    {
+        std::map<int, QVariant> values; // as they were sent
+        RowStore row;                   // as it was to be saved; none where that isn't known
+    };
+    // It was saved, or may have been, and isn't shown yet.
+    std::unique_ptr<NewRecord> m_sent;
 };
 
 } // namespace ADODB

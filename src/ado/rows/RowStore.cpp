@@ -141,10 +141,10 @@ const char *RowStore::nextCell(const char *cell)
 const char *RowStore::decode(const char *cell, RawValue &value)
 {
     using Kind = RawValue::Kind;
-    const auto putInteger = [&](auto integer) {
+    const auto putInteger = [&](qint64 integer, std::size_t size) {
         value.kind = Kind::Integer;
         value.integer = integer;
-        return cell + 1 + sizeof integer;
+        return cell + 1 + size;
     };
     const auto putBytes = [&](Kind kind, auto size) {
         const char *const start = cell + 1 + sizeof size;
@@ -157,13 +157,13 @@ const char *RowStore::decode(const char *cell, RawValue &value)
         value.kind = Kind::Null;
         return cell + 1;
     case Tag::Integer8:
-        return putInteger(numberAt<qint8>(cell + 1));
+        return putInteger(numberAt<qint8>(cell + 1), sizeof(qint8));
     case Tag::Integer16:
-        return putInteger(numberAt<qint16>(cell + 1));
+        return putInteger(numberAt<qint16>(cell + 1), sizeof(qint16));
     case Tag::Integer32:
-        return putInteger(numberAt<qint32>(cell + 1));
+        return putInteger(numberAt<qint32>(cell + 1), sizeof(qint32));
     case Tag::Integer64:
-        return putInteger(numberAt<qint64>(cell + 1));
+        return putInteger(numberAt<qint64>(cell + 1), sizeof(qint64));
     case Tag::Real:
         value.kind = Kind::Real;
         value.real = numberAt<double>(cell + 1);

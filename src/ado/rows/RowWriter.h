@@ -34,7 +34,8 @@ struct Change
 // - It throws: nothing is saved. dbErrConcurrency means that the row is not the one shown any more; read()
 //   then gives the row that is there.
 // - It throws dbErrInDoubt: the connection was lost while the database was saving, so nobody knows whether it
-//   did. Only reading the row again on a new connection can tell.
+//   did. Only reading the row again can tell. insert() then leaves the row in `stored` as the database was to
+//   save it, or no row where that isn't known.
 class RowWriter
 {
 public:

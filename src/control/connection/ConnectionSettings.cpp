@@ -55,7 +55,7 @@ ADODB::FileChoice fileChoiceOf(const ConnectionTarget &target)
 {
     for (const ADODB::Provider *provider : fileProviders()) {
         if (provider->name() == target.name)
-            return *provider->fileChoice();
+            return provider->fileChoice().value_or(ADODB::FileChoice());
     }
     return {};
 }

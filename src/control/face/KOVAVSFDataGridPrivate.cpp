@@ -63,7 +63,7 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
             request.value = asked.value;
             DialogQuestions inViewer(viewer);
             inViewer.setHostKey([this] { return layout.key(); });
-            const QString condition = inViewer.askCondition(request);
+            QString condition = inViewer.askCondition(request);
             asked.memory = request.memory;
             return condition;
         });

@@ -68,7 +68,8 @@ bool SelectionWatch::prepare()
     if (isWholeRows)
         m_column = columns.front().heading;
     m_recordset = m_session.result().recordset();
-    m_summary.emplace(*m_session.result().recordset(), markedRecords(m_session), columns);
+    m_summary = std::make_unique<SelectionSummary>(*m_session.result().recordset(), markedRecords(m_session),
+                                                   columns);
     return true;
 }
 

@@ -6,7 +6,6 @@
 #include <QtCore/QTimer>
 
 #include <memory>
-#include <optional>
 
 namespace KOVAVSFDataGridLib {
 
@@ -34,7 +33,7 @@ private:
     GridParts &m_parts;
     QTimer m_timer;
     std::weak_ptr<ADODB::Recordset> m_recordset; // of the summary
-    std::optional<SelectionSummary> m_summary;
+    std::unique_ptr<SelectionSummary> m_summary;
     int m_rows = 0;
     QString m_column; // the only one that is summed up; empty for all
 };

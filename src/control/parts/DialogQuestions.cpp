@@ -75,7 +75,7 @@ QString DialogQuestions::askCondition(const ConditionRequest &request)
     const auto filter =
         request.memory ? std::static_pointer_cast<mod_Filter>(request.memory) : preparedFilter(request);
     request.memory = filter;
-    const QString condition = filter->ShowFilterDialog(request.refusal);
+    QString condition = filter->ShowFilterDialog(request.refusal);
     request.built = filter->Built();
     saveSqlWanted(filter->IsSqlWanted());
     return condition;

@@ -82,7 +82,7 @@ void Visit::end()
 // The control's own grid goes along at once, because its rows are read from the result that was replaced.
 ResultSet::Opened Visit::open(const QString &statement, const ResultSet::Progress &progress)
 {
-    const auto opened =
+    auto opened =
         ResultSet::open(m_session.texts.connectionString, statement, m_session.filterManager().DBType(),
                         [&](qint64 rowsRead, const ADODB::Recordset &opening) {
                             return progress(rowsRead, opening) && !m_isOver;

@@ -91,7 +91,7 @@ public:
     // The opposite, among the records that have a value.
     FilterCondition negative() const
     {
-        const FilterCondition selected = positive();
+        FilterCondition selected = positive();
         if (!selected.fault.isEmpty())
             return selected;
         if (m_op != FilterOperator::Equals)

@@ -27,7 +27,7 @@ QString valueInWords(FieldClass fieldClass, const QString &typed, QDate today)
 {
     if (fieldClass == FieldClass::Text)
         return quoted(typed);
-    const QString text = typed.trimmed();
+    QString text = typed.trimmed();
     const auto days = hasDays(fieldClass) ? readDays(text, today) : std::nullopt;
     if (!days || days->first.toString(Qt::ISODate) == text)
         return text;

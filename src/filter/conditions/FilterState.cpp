@@ -65,7 +65,7 @@ std::optional<FilterState> filterStateOf(const QJsonValue &json)
     if (rows.isEmpty() || rows.size() > mostRows)
         return std::nullopt;
     FilterState state;
-    for (const QJsonValue &each : rows) {
+    for (const QJsonValue each : rows) {
         const auto row = rowOf(each);
         if (!row)
             return std::nullopt;

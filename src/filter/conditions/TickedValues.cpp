@@ -98,7 +98,7 @@ QJsonObject toJson(const TickedValues &ticked)
 TickedValues tickedValuesOf(const QJsonObject &json)
 {
     TickedValues ticked{.areLeftOut = json[leftOutKey].toBool(true)};
-    for (const QJsonValue &value : json[valuesKey].toArray())
+    for (const QJsonValue value : json[valuesKey].toArray())
         ticked.values.append(value.toString());
     if (json[nullKey].isBool())
         ticked.hasNull = json[nullKey].toBool();

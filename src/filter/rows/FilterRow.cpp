@@ -218,7 +218,7 @@ void FilterRow::suggest(const QString &field, const QString &value)
 
 FilterCondition FilterRow::checkedCondition()
 {
-    const FilterCondition found = condition();
+    FilterCondition found = condition();
     showFault(found.fault);
     m_valueAtFault = found.isLastValueAtFault ? m_lastValue : m_value;
     return found;

@@ -45,7 +45,7 @@ FilterRow *FilterRows::addTo(qsizetype group)
     connect(row, &FilterRow::changed, this, &FilterRows::onRowChanged);
     connect(row, &FilterRow::deleteRequested, this, [this, row] { remove(row); });
     connect(row, &FilterRow::encloseRequested, this, [this, row] {
-        m_outline->enclose(lineOf(row));
+        outline().enclose(lineOf(row));
         arrange();
     });
     connectGrip(row->grip(), [this, row] { return lineOf(row); });

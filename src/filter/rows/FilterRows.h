@@ -56,7 +56,10 @@ private:
     QList<FilterSql::Term> frames() const;
     void setFrames(const QList<FilterPlace> &places);
     std::optional<FilterNode> completeTree() const;
-    qsizetype lineOf(const FilterRow *row) const { return m_outline->lineOf(m_rows.indexOf(row)); }
+    // Where isGrouped().
+    FilterOutline &outline() { return *m_outline; }             // NOLINT(bugprone-unchecked-optional-access)
+    const FilterOutline &outline() const { return *m_outline; } // NOLINT(bugprone-unchecked-optional-access)
+    qsizetype lineOf(const FilterRow *row) const { return outline().lineOf(m_rows.indexOf(row)); }
     qsizetype lineOf(const FilterGroupHead *head) const;
     void step(qsizetype line, int by);
     void connectGrip(const FilterGrip &grip, const std::function<qsizetype()> &line);

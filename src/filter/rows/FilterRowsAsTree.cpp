@@ -28,12 +28,12 @@ FilterGroupHead *FilterRows::newHead()
 {
     auto *const head = new FilterGroupHead(this);
     connect(head, &FilterGroupHead::kindChanged, this, [this, head] {
-        m_outline->setKind(lineOf(head), head->kind());
+        outline().setKind(lineOf(head), head->kind());
         arrange();
     });
     connect(head, &FilterGroupHead::addWanted, this, [this, head] { addTo(lineOf(head))->focusFirstPart(); });
     connect(head, &FilterGroupHead::dissolveWanted, this, [this, head] {
-        m_outline->dissolve(lineOf(head));
+        outline().dissolve(lineOf(head));
         arrange();
         m_rows.constFirst()->focusFirstPart();
     });
@@ -54,14 +54,14 @@ void FilterRows::connectGrip(const FilterGrip &grip, const std::function<qsizety
     connect(&grip, &FilterGrip::dropped, this, [this, line](const QPoint &place) {
         m_dropMark->hide();
         const DropPlace drop = dropPlaceAt(place);
-        m_outline->moveTo(line(), drop.before, drop.level);
+        outline().moveTo(line(), drop.before, drop.level);
         arrange();
     });
 }
 
 void FilterRows::step(qsizetype line, int by)
 {
-    const qsizetype now = by < 0 ? m_outline->moveUp(line) : m_outline->moveDown(line);
+    const qsizetype now = by < 0 ? outline().moveUp(line) : outline().moveDown(line);
     arrange();
     // A heading is the one of the group at its place, so that the keyboard has to follow the group.
     if (const auto *head = qobject_cast<FilterGroupHead *>(m_lines.at(now)))
@@ -74,7 +74,7 @@ FilterRows::DropPlace FilterRows::dropPlaceAt(const QPoint &global) const
     const int y = mapFromGlobal(global).y();
     for (qsizetype i = 1; i < m_lines.size(); ++i) {
         const QRect place = m_lines.at(i)->geometry();
-        const FilterOutline::Line &line = m_outline->lines().at(i);
+        const FilterOutline::Line &line = outline().lines().at(i);
         if (y < place.center().y())
             return {i, line.level, place.top()};
         if (y <= place.bottom())
@@ -96,10 +96,10 @@ void FilterRows::showDropPlace(const QPoint &global)
 void FilterRows::orderRows()
 {
     QList<FilterRow *> ordered;
-    for (const qsizetype row : m_outline->renumber())
+    for (const qsizetype row : outline().renumber())
         ordered.append(m_rows.at(row));
     m_rows = ordered;
-    setFrames(flatOf(m_outline->tree()));
+    setFrames(flatOf(outline().tree()));
 }
 
 void FilterRows::layOutLines()

@@ -108,7 +108,7 @@ std::variant<SavedFilters, QString> SavedFilters::fromText(const QString &text)
         return wrong(u"recent"_s);
     SavedFilters filters;
     int place = 0;
-    for (const QJsonValue &json : whole["named"_L1].toArray()) {
+    for (const QJsonValue json : whole["named"_L1].toArray()) {
         const QString name = json["name"_L1].toString();
         if (name.isEmpty() || name != nameOf(name) || filters.find(name))
             return wrong(u"named[%1].name"_s.arg(place));
@@ -118,7 +118,7 @@ std::variant<SavedFilters, QString> SavedFilters::fromText(const QString &text)
         filters.keep(name, *filter);
         ++place;
     }
-    for (const QJsonValue &json : whole["recent"_L1].toArray()) {
+    for (const QJsonValue json : whole["recent"_L1].toArray()) {
         const auto filter = builtFilterOf(json);
         if (!filter)
             return wrong(u"recent[%1]"_s.arg(filters.m_recent.size()));

@@ -60,8 +60,10 @@ void FlexGridModel::setHeadingMarks(std::vector<HeadingMark> marks)
 
 HeadingMark FlexGridModel::headingMark(int section) const
 {
-    const auto place = static_cast<std::size_t>(section + m_fixedCols);
-    return section >= 0 && place < m_marks.size() ? m_marks[place] : HeadingMark();
+    if (section < 0)
+        return {};
+    const std::size_t place = static_cast<std::size_t>(section) + static_cast<std::size_t>(m_fixedCols);
+    return place < m_marks.size() ? m_marks[place] : HeadingMark();
 }
 
 void FlexGridModel::setFormats(const QHash<QString, ADODB::DisplayFormat> &formats)

@@ -47,7 +47,8 @@ QTextLine lineOf(QTextLayout &layout, Qt::LayoutDirection direction, QTextOption
     layout.setTextOption(option);
     layout.beginLayout();
     QTextLine line = layout.createLine();
-    line.setLineWidth(std::numeric_limits<int>::max() / 256);
+    constexpr int widest = std::numeric_limits<int>::max() / 256;
+    line.setLineWidth(widest);
     layout.endLayout();
     return line;
 }

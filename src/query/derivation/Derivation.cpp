@@ -6,6 +6,7 @@
 #include "sql/select/SqlWalk.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace KOVAVSFDataGridLib {
 
@@ -124,13 +125,13 @@ QString Derivation::withoutConditions() const
     }
     QString text = m_sql.sql();
     const std::vector<qsizetype> conditions = unitedConditions();
-    for (auto condition = conditions.rbegin(); condition != conditions.rend(); ++condition) {
-        const int depth = m_sql.at(*condition).depth;
-        qsizetype next = *condition + 1;
+    for (const qsizetype condition : conditions | std::views::reverse) {
+        const int depth = m_sql.at(condition).depth;
+        qsizetype next = condition + 1;
         while (next < m_sql.count() && m_sql.at(next).depth >= depth && !endsCondition(next, depth))
             ++next;
         const qsizetype end = next < m_sql.count() ? m_sql.at(next).start : m_sql.withoutSemicolon().size();
-        text.remove(m_sql.at(*condition).start, end - m_sql.at(*condition).start);
+        text.remove(m_sql.at(condition).start, end - m_sql.at(condition).start);
     }
     return text;
 }
@@ -254,7 +255,7 @@ SQLSentence Derivation::base() const
 {
     switch (m_kind) {
     case Kind::Simple:
-        return *SplitSQLSentence(m_sql.sql());
+        return SplitSQLSentence(m_sql.sql()).value_or(SQLSentence());
     case Kind::Open:
         return {headWith(listText()), withWordsApart(m_parts.where, 1), stableSort()};
     case Kind::Closed:

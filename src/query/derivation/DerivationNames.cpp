@@ -145,7 +145,7 @@ QString Derivation::qualified(const std::vector<SourceField> &fields, std::size_
     if (!m_isPlaced)
         return {};
     const SourceField &field = fields[index];
-    const QString name = writtenName(m_dialect, field.name);
+    QString name = writtenName(m_dialect, field.name);
     if (const QString &qualifier = m_tableOfField.at(static_cast<qsizetype>(index)); !qualifier.isEmpty())
         return qualifier + u'.' + name;
     const std::vector<SelectParts::Source> &sources = m_parts.sources;

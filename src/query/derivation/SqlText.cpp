@@ -53,10 +53,9 @@ std::optional<SQLSentence> SplitSQLSentence(const QString &statement)
     const auto byOrder = SplitByKeyword(statement, orderWords);
     if (!byOrder)
         return std::nullopt;
-    // What stands before a keyword holds at least the keyword's own blank, so there is always a text to
-    // split.
-    const auto byWhere = SplitByKeyword(byOrder->before, whereWord);
-    return SQLSentence{byWhere->before, byWhere->after, byOrder->after};
+    const KeywordCut byWhere =
+        SplitByKeyword(byOrder->before, whereWord).value_or(KeywordCut{byOrder->before, {}});
+    return SQLSentence{byWhere.before, byWhere.after, byOrder->after};
 }
 
 QString joinSQLSentence(const SQLSentence &sentence)

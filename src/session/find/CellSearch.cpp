@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <ranges>
 
 namespace KOVAVSFDataGridLib {
 
@@ -110,9 +111,9 @@ std::optional<CellSearch::Cell> CellSearch::previous(const Cell &from, bool isIn
     while (at != m_found.begin()) {
         --at;
         const std::vector<int> places = placesOf(at->record);
-        for (auto place = places.rbegin(); place != places.rend(); ++place) {
-            if (at->record < from.record || *place < from.place || (isIncluded && *place == from.place))
-                return Cell{at->record, *place};
+        for (const int place : places | std::views::reverse) {
+            if (at->record < from.record || place < from.place || (isIncluded && place == from.place))
+                return Cell{at->record, place};
         }
     }
     return std::nullopt;

@@ -58,7 +58,7 @@ QString SharedHistory::whyNone() const
 
 QString SharedHistory::whyNot(DerivationStep step) const
 {
-    const QString none = whyNone();
+    QString none = whyNone();
     if (!none.isEmpty() || !m_manager || !m_session.result().isOpen())
         return none;
     return m_manager->SQLManager().WhyNot(step);

@@ -144,7 +144,9 @@ void ColumnLayout::fitColumns(int (*round)(double), bool showsHidden)
     if (m_history.Count() == 0)
         return;
     const std::optional<double> share = shareOfWidth(m_grid.width(), static_cast<qsizetype>(columns.size()));
-    for (const int col : share ? columns : std::vector<int>())
+    if (!share)
+        return;
+    for (const int col : columns)
         m_grid.PutColWidth(col, round(*share));
 }
 

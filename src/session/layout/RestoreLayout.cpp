@@ -61,7 +61,7 @@ std::set<QString> hiddenFields(const SessionWindow &window)
 // Answers why not; empty when it was done.
 QString showAllBut(Session &session, const std::set<QString> &hidden)
 {
-    if (const QString reason = session.sharedHistory().whyNot(DerivationStep::Fields); !reason.isEmpty())
+    if (QString reason = session.sharedHistory().whyNot(DerivationStep::Fields); !reason.isEmpty())
         return reason;
     if (!session.record().save())
         return LayoutTexts::NotSaved;
@@ -131,7 +131,7 @@ QString restoreLayout(Session &session, const SavedLayout &layout)
     if (!headings.isEmpty() && hidden.size() == std::set<QString>(headings.cbegin(), headings.cend()).size())
         return LayoutTexts::AllHidden;
     if (hidden != hiddenFields(session.window())) {
-        if (const QString reason = showAllBut(session, hidden); !reason.isEmpty())
+        if (QString reason = showAllBut(session, hidden); !reason.isEmpty())
             return reason;
     }
     session.window().arrangeColumns(order, layout.frozen);

@@ -92,7 +92,7 @@ std::variant<SavedLayout, QString> SavedLayout::fromText(const QString &text)
     SavedLayout layout;
     bool isAllHidden = true;
     const QJsonArray array = whole.value("columns"_L1).toArray();
-    for (const QJsonValue &value : array) {
+    for (const QJsonValue value : array) {
         auto column = columnFrom(value, u"columns[%1]"_s.arg(layout.columns.size()));
         if (const auto *reason = std::get_if<QString>(&column))
             return *reason;

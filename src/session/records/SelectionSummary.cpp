@@ -35,7 +35,7 @@ bool isDateType(ADODB::DataTypeEnum type)
 } // namespace
 
 SelectionSummary::SelectionSummary(const ADODB::Recordset &recordset, const RecordRange &range,
-                                   ExportColumns columns)
+                                   const ExportColumns &columns)
     : m_range(range),
       m_firstField(firstFieldOf(columns)),
       m_reader(recordset, endOfFields(columns) - m_firstField, m_firstField),

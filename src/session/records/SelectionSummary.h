@@ -14,7 +14,8 @@ class SelectionSummary
 {
 public:
     // `recordset` must outlive this object. Records that go meanwhile end the work early.
-    SelectionSummary(const ADODB::Recordset &recordset, const RecordRange &range, ExportColumns columns);
+    SelectionSummary(const ADODB::Recordset &recordset, const RecordRange &range,
+                     const ExportColumns &columns);
 
     // Looks at some more records.
     void addNextCells();

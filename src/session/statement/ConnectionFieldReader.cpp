@@ -156,7 +156,7 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
     const std::pair key(connectionString, remembered(statement));
     if (const auto known = m_known.constFind(key); known != m_known.constEnd())
         return *known;
-    if (const auto derived = fromKnown(connectionString, statement)) {
+    if (auto derived = fromKnown(connectionString, statement)) {
         m_known.insert(key, *derived);
         return derived;
     }

@@ -115,8 +115,14 @@ OdbcWaitingWriter::OdbcWaitingWriter(std::shared_ptr<OdbcRowWriter> writer) : m_
 void OdbcWaitingWriter::run(std::function<void()> work) const
 {
     Watched watched;
-    OdbcOperation::run(std::move(work),
-                       {[&](qint64) { return watched.shouldContinue(); }, 2 * m_writer->timeout()});
+    OdbcOperation::run(
+        [mutex = m_mutex, work = std::move(work)] {
+            const QMutexLocker lock(mutex.get());
+            if (const OdbcOperation *const operation = OdbcOperation::current())
+                operation->check();
+            work();
+        },
+        {[&](qint64) { return watched.shouldContinue(); }, 2 * m_writer->timeout()});
 }
 
 bool OdbcWaitingWriter::isWritable(int column) const
@@ -132,7 +138,14 @@ bool OdbcWaitingWriter::keepsZones(int column) const
 void OdbcWaitingWriter::insert(const std::vector<Change> &changes, RowStore &stored)
 {
     const auto own = std::make_shared<RowStore>(stored.columns());
-    run([writer = m_writer, changes, own] { writer->insert(changes, *own); });
+    try {
+        run([writer = m_writer, changes, own] { writer->insert(changes, *own); });
+    } catch (const Error &error) {
+        // Only COMMIT can still be under way then, and the row is complete before it.
+        if (error.is(dbErrInDoubt) && m_writer->hasTransactions())
+            stored = *own;
+        throw;
+    }
     stored = std::move(*own);
 }
 

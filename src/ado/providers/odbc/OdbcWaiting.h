@@ -2,6 +2,8 @@
 
 #include "ado/providers/Provider.h"
 
+#include <QtCore/QMutex>
+
 namespace ADODB {
 
 class OdbcRowFeed;
@@ -52,6 +54,9 @@ private:
     void run(std::function<void()> work) const;
 
     std::shared_ptr<OdbcRowWriter> m_writer;
+    // Held while the writer works: what it reads must not be older than what it was saving when its caller
+    // was released.
+    std::shared_ptr<QMutex> m_mutex = std::make_shared<QMutex>();
 };
 
 } // namespace ADODB

@@ -6,6 +6,8 @@
 #include "ado/providers/DatabaseFile.h"
 #include "ado/providers/sqlite/SqliteSession.h"
 
+#include <QtCore/QFileInfo>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
@@ -20,6 +22,12 @@ QString checkedPath(const QString &path)
     const DatabaseFile file(path, header.size());
     if (file.header != header)
         throw Error(adErrOpeningFile, Texts::notADatabase().arg(file.shown));
+    // SQLite opens these by itself, and would wait at a pipe.
+    for (const QLatin1StringView ending : {"-journal"_L1, "-wal"_L1, "-shm"_L1}) {
+        const QFileInfo beside(file.path + ending);
+        if (beside.exists() && !beside.isFile())
+            throw Error(adErrOpeningFile, Texts::fileIsSpecial().arg(file.shown + ending));
+    }
     // An absolute path can't be mistaken for a URI with options of its own.
     return file.path;
 }

@@ -1,6 +1,7 @@
 #include "ado/providers/sqlite/SqliteRowWriter.h"
 
 #include "ado/Error.h"
+#include "ado/Texts.h"
 #include "ado/providers/sqlite/SqliteCall.h"
 #include "ado/providers/sqlite/SqliteStatement.h"
 #include "ado/rows/RowComparison.h"
@@ -18,6 +19,15 @@ namespace ADODB {
 
 namespace {
 
+// With a write-ahead log SQLite goes on in a file that nobody finds any more, and in the log beside the one
+// that has come in its place.
+void needFileInPlace(sqlite3 *db)
+{
+    int hasMoved = 0;
+    if (sqlite3_file_control(db, "main", SQLITE_FCNTL_HAS_MOVED, &hasMoved) == SQLITE_OK && hasMoved)
+        throw Error(dbErrFailed, Texts::fileReplaced(), u"SQLite"_s);
+}
+
 // Undone unless it is committed. What ends it is compiled before it begins, so that this needs no memory
 // then.
 class Transaction
@@ -28,6 +38,7 @@ public:
           m_commit(session, SqliteCall::Writes, u"COMMIT"_s),
           m_rollback(session, SqliteCall::Writes, u"ROLLBACK"_s)
     {
+        needFileInPlace(session.db());
         // The lock is taken at once, so a busy database is noticed before anything is changed, and what is
         // read now stays as it is until the end.
         SqliteCall(session, SqliteCall::Writes, u"BEGIN IMMEDIATE"_s).step();

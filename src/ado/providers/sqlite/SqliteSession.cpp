@@ -98,9 +98,10 @@ SqliteSession::SqliteSession(const QString &path, int timeoutInMilliseconds)
         sqlite3_busy_timeout(m_db, timeoutInMilliseconds);
         sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_FKEY, 1, nullptr);
         // A file can come from a stranger: its schema may not call what has effects, and nothing writes to
-        // what SQLite keeps for itself.
+        // what SQLite keeps for itself. A statement may not name an address to be run either.
         sqlite3_db_config(m_db, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
         sqlite3_db_config(m_db, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+        sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_FTS3_TOKENIZER, 0, nullptr);
         SqliteDigest::install(m_db);
         // The first look into the file: a locked, encrypted or damaged one shows here rather than at the
         // first statement.
@@ -116,8 +117,10 @@ SqliteSession::SqliteSession(SqliteEngine engine) : m_engine(std::move(engine))
 {
     const int code =
         sqlite3_open_v2(":memory:", &m_db, openFlags | SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
-    if (code == SQLITE_OK)
+    if (code == SQLITE_OK) {
+        sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_FTS3_TOKENIZER, 0, nullptr);
         return;
+    }
     try {
         throwSqliteError(m_db, code);
     } catch (...) {

@@ -41,7 +41,7 @@ void PictureFields::replace(int field)
 
 void PictureFields::readFile(int field, const QString &file)
 {
-    constexpr qint64 largest = 256 * 1024 * 1024; // bytes
+    constexpr qint64 largest = qint64{256} * 1024 * 1024; // bytes
     QFile source(file);
     if (!source.open(QIODevice::ReadOnly))
         return Messages::show(&m_window, GridTexts::PictureUnreadable.arg(file, source.errorString()));

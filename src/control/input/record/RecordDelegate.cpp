@@ -4,6 +4,7 @@
 
 #include <QtGui/QHelpEvent>
 #include <QtGui/QPainter>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QToolTip>

@@ -21,7 +21,9 @@ void showFields(Session &session, const QString &statement, FieldView view, Filt
                                  !session.columns().hasColumnsFor(fields));
     std::optional<ResultSet::Opened> opened;
     if (needsOpening) {
-        if (!session.record().save() || !(opened = session.statementReader().read(statement)))
+        if (session.record().save())
+            opened = session.statementReader().read(statement);
+        if (!opened)
             return;
     }
     const ADODB::Notifications::Hold hold(session.notifications());

@@ -15,7 +15,7 @@ namespace {
 
 QString whyNotForward(Session &session)
 {
-    const QString noHistory = session.sharedHistory().whyNone();
+    QString noHistory = session.sharedHistory().whyNone();
     if (!noHistory.isEmpty())
         return noHistory;
     const bool isAtEnd = session.sharedHistory().isManager(nullptr) ||

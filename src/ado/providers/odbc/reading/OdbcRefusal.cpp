@@ -67,10 +67,26 @@ bool beginsStatement(const SqlScanner &statement, qsizetype index)
            });
 }
 
+// EXPLAIN ("analyze") …: PostgreSQL takes its options in quotes as well, and so written that only it can tell
+// which they are. In parentheses can also be the query itself.
+bool hasQuotedOption(const SqlScanner &statement, qsizetype explain)
+{
+    if (!statement.isWord(explain, u"EXPLAIN") || !statement.isSymbol(explain + 1, u'(') ||
+        statement.isSymbol(explain + 2, u'(') ||
+        isOneOf(statement, explain + 2, {u"SELECT", u"WITH", u"VALUES", u"TABLE"}))
+        return false;
+    for (qsizetype i = explain + 2; i < statement.count() && !statement.isSymbol(i, u')'); ++i) {
+        if (statement.at(i).kind == SqlToken::Kind::QuotedName)
+            return true;
+    }
+    return false;
+}
+
 bool reads(const SqlScanner &statement, qsizetype first)
 {
     if (!isOneOf(statement, first,
-                 {u"SELECT", u"WITH", u"VALUES", u"TABLE", u"SHOW", u"DESCRIBE", u"DESC", u"EXPLAIN"}))
+                 {u"SELECT", u"WITH", u"VALUES", u"TABLE", u"SHOW", u"DESCRIBE", u"DESC", u"EXPLAIN"}) ||
+        hasQuotedOption(statement, first))
         return false;
     for (qsizetype i = first; i < statement.count(); ++i) {
         // EXPLAIN ANALYZE runs the statement that it explains.

@@ -19,6 +19,7 @@ public:
 
     bool isWritable(int column) const override;
     bool keepsZones(int column) const override;
+    bool hasTransactions() const { return m_target.hasTransactions; }
     // Seconds to wait for a row that somebody else is changing.
     int timeout() const;
     void insert(const std::vector<Change> &changes, RowStore &stored) override;
