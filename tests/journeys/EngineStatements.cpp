@@ -145,12 +145,12 @@ StatementAnswer EngineStatements::sameText(const StatementAnswer &all, qsizetype
     return kept;
 }
 
-bool EngineStatements::canDelete()
+bool EngineStatements::canChoose(int item)
 {
-    const auto *item = hands->grid.findChild<QAction *>(u"PopMnuDataAction9"_s);
-    const QString toolTipOfText = QAction(item->text()).toolTip(); // of an action that has none
-    EXPECT_EQ(item->isEnabled(), item->toolTip() == toolTipOfText);
-    return item->isEnabled();
+    const auto *action = hands->grid.findChild<QAction *>(u"PopMnuDataAction%1"_s.arg(item));
+    const QString toolTipOfText = QAction(action->text()).toolTip(); // of an action that has none
+    EXPECT_EQ(action->isEnabled(), action->toolTip() == toolTipOfText);
+    return action->isEnabled();
 }
 
 int EngineStatements::recordsInTables()
@@ -169,6 +169,41 @@ std::vector<Case> EngineStatements::cases() const
     all.push_back({u"odd names"_s, {{u"statement"_s, list}, {u"whole"_s, list}}});
     all.push_back({u"odd names under *"_s, {{u"statement"_s, u"SELECT * FROM Odd"_s}}});
     return all;
+}
+
+int EngineStatements::forEachTaken(const std::function<void(const TakenCase &)> &use)
+{
+    int taken = 0;
+    const std::vector<Case> all = cases();
+    for (std::size_t number = 0; number < all.size() && !HasFatalFailure(); ++number) {
+        SCOPED_TRACE(all[number].place.toStdString());
+        const QString statement = all[number][u"statement"_s];
+        if (const auto answer = read(statement)) {
+            ++taken;
+            use({all[number], number, statement, *answer});
+        } else {
+            leftOut.append(all[number].place); // another engine's words
+        }
+    }
+    return taken;
+}
+
+void EngineStatements::runShare(const TakenCase &taken,
+                                const std::vector<std::function<void()>> &commands) const
+{
+    std::size_t modes = 0;
+    std::size_t own = 0;
+    for (const JourneyEngine &other : enginesOfStatements()) {
+        if (QLatin1StringView(other.name) == QLatin1StringView(engine.name))
+            own = modes;
+        if (engine.isMariaDb() && other.isMariaDb() && other.isThere())
+            ++modes;
+    }
+    modes = std::max<std::size_t>(modes, 1);
+    for (std::size_t i = 0; i < commands.size(); ++i) {
+        if ((taken.number + i) % modes == own)
+            commands[i]();
+    }
 }
 
 Qt::CaseSensitivity EngineStatements::letters() const

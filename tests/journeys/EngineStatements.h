@@ -6,6 +6,7 @@
 
 #include <KOVAVSFDataGridLib/ado/Connection.h>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -18,6 +19,15 @@ struct StatementAnswer
     std::vector<QStringList> rows;
 };
 
+// A statement that the engine takes.
+struct TakenCase
+{
+    const Case &c;
+    std::size_t number; // among all cases
+    QString statement;
+    StatementAnswer all;
+};
+
 // A user before the tables of statements.cases, on an engine that may take a statement or not.
 class EngineStatements : public EngineTest
 {
@@ -28,6 +38,12 @@ protected:
     // Those of the files, and some for the engine's own quotes.
     std::vector<Case> cases() const;
     QStringList oddNames() const;
+    // Goes over the cases that the engine takes, until a failure that is fatal; answers how many there were.
+    int forEachTaken(const std::function<void(const TakenCase &)> &use);
+    // Runs the commands whose turn it is after this statement. An engine that is tried in one way has all of
+    // them. The modes of MariaDB share them, so that together they run each command after each statement: all
+    // commands in all modes would take minutes.
+    void runShare(const TakenCase &taken, const std::vector<std::function<void()>> &commands) const;
     // What the engine itself answers; nothing where it doesn't take the statement.
     std::optional<StatementAnswer> read(const QString &statement) const;
     // At most so many rows.
@@ -46,11 +62,15 @@ protected:
 
     // Whether the command can be used; one that can't says why.
     bool canUse(const QString &key);
+    // Whether this item of the popup menu can be chosen; one that can't says why.
+    bool canChoose(int item);
+    bool canAdd() { return canChoose(8); }
     // Whether records can be deleted; where they can't, nobody is asked.
-    bool canDelete();
+    bool canDelete() { return canChoose(9); }
     int recordsInTables();
 
     std::shared_ptr<ADODB::Connection> connection;
+    QStringList leftOut; // the places of the cases that the engine doesn't take
 };
 
 const std::vector<JourneyEngine> &enginesOfStatements();

@@ -319,43 +319,21 @@ protected:
         hands->grid.PutSQLSort({});
     }
 
-    std::size_t engineIndex() const
-    {
-        const auto &engines = enginesOfStatements();
-        return static_cast<std::size_t>(std::ranges::find(engines, engine.name, &JourneyEngine::name) -
-                                        engines.begin());
-    }
-
     int turn = 0;
     std::map<QString, int> used; // operators
 };
 
 TEST_P(EngineStatementCommands, ShowTheRowsThatALoopTakes)
 {
-    int taken = 0;
-    for (const Case &c : cases()) {
-        SCOPED_TRACE(c.place.toStdString());
-        const QString statement = c[u"statement"_s];
-        const auto all = read(statement);
-        if (!all)
-            continue; // another engine's words
-        ++taken;
-        loadSorted(statement, *all);
-        ASSERT_TRUE(hands->load(statement, {})) << qUtf8Printable(hands->messages.texts().join(u'|'));
-        const std::vector<std::function<void()>> commands{[&] { findManyWordsAndOneField(*all); },
-                                                          [&] { filterByHost(*all); },
-                                                          [&] { filterByOperators(*all); },
-                                                          [&] { filterByTwoRows(*all); },
-                                                          [&] { filterWhatIsLeft(*all); },
-                                                          [&] { turnPagesAndCompress(*all); },
-                                                          [&] { showFullScreen(*all); }};
-        // Each engine has a third of the commands after a statement, and another third than the one before
-        // it: all of them on all engines would take minutes.
-        constexpr std::size_t turns = 3;
-        for (std::size_t i = (static_cast<std::size_t>(taken) + engineIndex()) % turns; i < commands.size();
-             i += turns)
-            commands[i]();
-    }
+    const int taken = forEachTaken([&](const TakenCase &one) {
+        const StatementAnswer &all = one.all;
+        loadSorted(one.statement, all);
+        ASSERT_TRUE(hands->load(one.statement, {})) << qUtf8Printable(hands->messages.texts().join(u'|'));
+        runShare(one, {[&] { findManyWordsAndOneField(all); }, [&] { filterByHost(all); },
+                       [&] { filterByOperators(all); }, [&] { filterByTwoRows(all); },
+                       [&] { filterWhatIsLeft(all); }, [&] { turnPagesAndCompress(all); },
+                       [&] { showFullScreen(all); }});
+    });
     EXPECT_GE(taken, 100);
     EXPECT_EQ(used.size(), 15u) << "operators";
 }
