@@ -57,6 +57,18 @@ TEST(DerivationText, WhatBindsLooserThanAndHasBracketsAsOrHas)
                "select A from T where A || 'x' = B AND xor = 1");
 }
 
+TEST(DerivationText, ACommentAtTheEndOfAConditionDoesNotSwallowTheSort)
+{
+    const auto filtered = [](const QString &statement, const QString &condition) {
+        return derive(Engine::PostgreSQL, statement, {u"A"_s}).withCondition(condition);
+    };
+    EXPECT_EQ(filtered(u"select A from T order by A desc"_s, u"A = 1 -- x"_s),
+              u"select A from T WHERE A = 1 -- x\n order by A desc"_s);
+    EXPECT_EQ(filtered(u"select A from T where A > 1 or B order by A"_s, u"A = 1 or A = 2 -- x"_s),
+              u"select A from T where (A > 1 or B) AND (A = 1 or A = 2 -- x\n) order by A"_s);
+    EXPECT_EQ(filtered(u"select A from T"_s, u"A = '-- x'"_s), u"select A from T WHERE A = '-- x'"_s);
+}
+
 TEST(DerivationText, WithGoesToTheFront)
 {
     expectText(derive(Engine::SqlServer,

@@ -73,10 +73,12 @@ QString ComposeSQL(const QString &head, const QString &where, const QString &ord
     return text;
 }
 
-void addCondition(SQLSentence &sentence, const QString &condition, const Dialect &dialect)
+void addCondition(SQLSentence &sentence, const QString &added, const Dialect &dialect)
 {
-    if (condition.isEmpty())
+    if (added.isEmpty())
         return;
+    // A comment that ends with its line must not swallow what follows.
+    const QString condition = SqlScanner(added, dialect).endsInLineComment() ? added + u'\n' : added;
     const QString where = trim(sentence.where);
     if (where.isEmpty()) {
         sentence.where = whereWord + condition;
