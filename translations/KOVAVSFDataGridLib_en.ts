@@ -2276,6 +2276,10 @@
         <source>增加第一条记录</source>
         <translation>Add the First Record</translation>
     </message>
+    <message>
+        <source>内容太长，不能在此编辑。</source>
+        <translation>The value is too long to be edited here.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::LanguageTexts</name>
@@ -2614,6 +2618,18 @@ Row %1: %2 = %3</translation>
     <message>
         <source>当前单元格不是链接（http、https 或 mailto）。</source>
         <translation>The current cell is not a link (http, https or mailto).</translation>
+    </message>
+    <message>
+        <source>%1
+
+仍要再次保存吗？</source>
+        <translation>%1
+
+Save it again anyway?</translation>
+    </message>
+    <message>
+        <source>再次保存</source>
+        <translation>Save Again</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "ado/Recordset.h"
 #include "ado/ValueText.h"
 #include "ado/values/FieldValue.h"
+#include "control/input/record/LineBreaks.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
 #include "filter/FilterTexts.h"
@@ -31,10 +32,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int linesShown = 6;
-constexpr qsizetype longestLine = 60;     // of a text that gets several lines without having any
-constexpr qint64 recordsSearched = 20000; // for the values that a column has already
-constexpr qsizetype mostValues = 200;     // of these in the list
-constexpr QChar paragraphEnd(0x2029);     // a line break, to a text document
+constexpr qsizetype longestLine = 60;           // of a text that gets several lines without having any
+constexpr qsizetype longestEdited = 10'000'000; // characters; an editor lays them all out at once
+constexpr qint64 recordsSearched = 20000;       // for the values that a column has already
+constexpr qsizetype mostValues = 200;           // of these in the list
 
 bool isLongText(ADODB::DataTypeEnum type)
 {
@@ -124,6 +125,13 @@ bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
     try {
         const ADODB::Field &field = m_session.result().recordset()->Fields().Item(gridCol - 1);
         m_before = ADODB::ValueText(field.Value());
+        if (m_before.size() > longestEdited) {
+            MSFlexGrid &list = *m_parts.MSFlexGrid1;
+            const QRect cell = list.visualRect(list.model()->index(list.Row() - 1, 1));
+            QToolTip::showText(list.viewport()->mapToGlobal(cell.bottomLeft()), GridTexts::TooLongToEdit,
+                               &list);
+            return false;
+        }
         m_isReadOnly = !canWrite(gridCol);
         m_field = gridCol - 1;
         m_row = m_parts.MSFlexGrid1->Row();
@@ -149,6 +157,8 @@ void CellEditor::open(const ADODB::Field &field, const QString &text, bool isRea
     m_hasLines =
         m_isText && (m_before.contains(u'\n') || (isLongText(field.Type()) && m_before.size() > longestLine));
     if (m_hasLines) {
+        // Each of its lines would be looked for through all that is left.
+        m_lines.setLineWrapMode(hasLongWord(text) ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
         m_lines.setPlainText(text);
         m_lines.moveCursor(QTextCursor::End);
         m_lines.setReadOnly(isReadOnly);
@@ -204,9 +214,7 @@ QString CellEditor::typedText() const
     if (!m_hasLines)
         return m_parts.txtEdit->text();
     // The plain text would have blanks in place of those that don't break.
-    QString text = m_lines.document()->toRawText();
-    text.replace(paragraphEnd, m_before.contains("\r\n"_L1) ? u"\r\n"_s : u"\n"_s);
-    return text;
+    return withLineBreaksOf(m_before, m_lines.document()->toRawText());
 }
 
 // What the field can refer to, or the texts that the column has already. Who has typed something looks for

@@ -15,6 +15,7 @@ inline constexpr Text FieldNameHeading = tr("字段名称");
 inline constexpr Text FieldValueHeading = tr("字段内容");
 inline constexpr Text ReadOnlyCell =
     tr("此内容只读：它不直接来自一个表中可以修改的字段，或者无法唯一确定所在的记录。");
+inline constexpr Text TooLongToEdit = tr("内容太长，不能在此编辑。");
 inline constexpr Text MoreValuesByTyping = tr("（还有更多，输入几个字后再打开列表查找）");
 inline constexpr Text LinesHint = tr("按 Ctrl+Enter 换行，按 Enter 接受");
 inline constexpr Text PreviousRecord = tr("上一条记录");
