@@ -2675,6 +2675,18 @@ Row %1: %2 = %3</translation>
         <source>查询结果中没有可以修改的字段，不能增加记录。</source>
         <translation>None of the result&apos;s fields can be changed, so no record can be added.</translation>
     </message>
+    <message>
+        <source>%1
+
+仍要再次保存吗？</source>
+        <translation>%1
+
+Save it again anyway?</translation>
+    </message>
+    <message>
+        <source>再次保存</source>
+        <translation>Save Again</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::ViewerTexts</name>

@@ -6,22 +6,27 @@
 
 namespace KOVAVSFDataGridLib {
 
+// A disk that runs full takes a part first, and tells why only when it is given the rest.
+void writeWhole(QIODevice &device, QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        const qint64 written = device.write(bytes.data(), bytes.size());
+        if (written <= 0)
+            throw ADODB::Error(ADODB::adErrWriteFile, device.errorString());
+        bytes = bytes.sliced(written);
+    }
+}
+
 TextSink::TextSink(QIODevice &device, TextEncoding encoding) : m_device(device), m_encoder(encoding)
 {
     m_text.reserve(2 * pieceSize);
-    write(m_encoder.mark());
+    writeWhole(m_device, m_encoder.mark());
 }
 
 void TextSink::flush()
 {
-    write(m_encoder.encode(m_text));
+    writeWhole(m_device, m_encoder.encode(m_text));
     m_text.resize(0); // which keeps the room
-}
-
-void TextSink::write(QByteArrayView bytes)
-{
-    if (m_device.write(bytes.data(), bytes.size()) != bytes.size())
-        throw ADODB::Error(ADODB::adErrWriteFile, m_device.errorString());
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -6,6 +6,9 @@ class QIODevice;
 
 namespace KOVAVSFDataGridLib {
 
+// Throws ADODB::Error when the device refuses.
+void writeWhole(QIODevice &device, QByteArrayView bytes);
+
 // Gathers text and writes it to a device in larger pieces.
 class TextSink
 {
@@ -25,8 +28,6 @@ public:
 
 private:
     static constexpr qsizetype pieceSize = qsizetype{256} << 10; // bytes
-
-    void write(QByteArrayView bytes);
 
     QIODevice &m_device;
     Encoder m_encoder;

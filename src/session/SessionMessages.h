@@ -15,6 +15,8 @@ inline constexpr Text PageErrorPrefix = tr("无法翻页：");
 inline constexpr Text OutOfMemory = tr("内存不足，操作没有完成。");
 inline constexpr Text NotAPageNumber = tr("请在页数输入正整数.");
 inline constexpr Text NotSavedPrefix = tr("记录没有保存：");
+inline constexpr Text AskSaveAgain = tr("%1\n\n仍要再次保存吗？");
+inline constexpr Text AskSaveAgainTitle = tr("再次保存");
 inline constexpr Text NewValuesRefused = tr("无法查看新值：");
 inline constexpr Text ChangedFields =
     tr("您修改的内容尚未保存，其他用户也修改了下列字段。再次保存会替换其他用户的内容，按 Esc 放弃您的修改：");

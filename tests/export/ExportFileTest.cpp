@@ -1,11 +1,15 @@
 #include "ExportRecords.h"
 
 #include "ado/Error.h"
+#include "export/TextSink.h"
 
 #include <gtest/gtest.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QIODevice>
+
+#include <algorithm>
 
 using namespace KOVAVSFDataGridLib;
 using namespace KovaTest;
@@ -23,7 +27,43 @@ void put(const QString &path, const QByteArray &content)
     file.write(content);
 }
 
+// A disk with room for some bytes. It takes part of what is too much, without an error.
+class SmallDisk : public QIODevice
+{
+public:
+    explicit SmallDisk(qint64 room) : m_room(room) { open(WriteOnly | Unbuffered); }
+
+protected:
+    qint64 readData(char *, qint64) override { return -1; }
+    qint64 writeData(const char *, qint64 size) override
+    {
+        if (m_room == 0) {
+            setErrorString(u"full"_s);
+            return -1;
+        }
+        const qint64 taken = std::min(size, m_room);
+        m_room -= taken;
+        return taken;
+    }
+
+private:
+    qint64 m_room;
+};
+
 } // namespace
+
+TEST(ExportFile, SaysWhyADiskTakesNoMore)
+{
+    SmallDisk disk(10);
+    TextSink sink(disk, TextEncoding::Utf8);
+    sink.text() += "a longer text";
+    try {
+        sink.flush();
+        ADD_FAILURE() << "it has no room";
+    } catch (const ADODB::Error &error) {
+        EXPECT_EQ(error.Description(), u"full"_s);
+    }
+}
 
 TEST(ExportFile, KnowsItsFormatByTheEnding)
 {

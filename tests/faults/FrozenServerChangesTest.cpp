@@ -28,6 +28,39 @@ protected:
         compose(*hands->edit, text);
         QTest::keyClick(hands->edit, Qt::Key_Return);
     }
+    // Leaves the record; the server freezes at COMMIT and the user does not want to wait. Nobody can tell
+    // then whether the change was saved, and the user is told so.
+    void leaveWhileCommitFreezes()
+    {
+        QTimer user;
+        QObject::connect(&user, &QTimer::timeout, &user, [this] {
+            if (QWidget *const line = progressLine(); line && isFrozen)
+                QTest::keyClick(line->window(), Qt::Key_Escape);
+        });
+        user.start(10);
+        QElapsedTimer sinceSave;
+        sinceSave.start();
+        hands->click(u"AllRecord"_s);
+        EXPECT_LT(sinceSave.elapsed(), 10'000) << "3 s for the answer, the rest for a busy machine";
+        ASSERT_TRUE(isFrozen);
+        const QStringList texts = takeMessages();
+        ASSERT_EQ(texts.size(), 1);
+        EXPECT_TRUE(texts.front().contains(u"无法确定更改是否已经保存"_s)) << qUtf8Printable(texts.front());
+        EXPECT_FALSE(texts.front().contains(u"没有保存"_s)) << qUtf8Printable(texts.front());
+    }
+    // A new record in a table whose keys are the database's.
+    void addWhileCommitFreezes()
+    {
+        run(u"DROP TABLE IF EXISTS made"_s);
+        run(u"CREATE TABLE made (id SERIAL PRIMARY KEY, name VARCHAR(20))"_s);
+        run(u"INSERT INTO made (name) VALUES ('first')"_s);
+        ASSERT_TRUE(load(u"SELECT * FROM made ORDER BY id"_s));
+        hands->choose(8, 1);
+        write(u"name"_s, u"new"_s);
+        leaveWhileCommitFreezes();
+        thaw();
+    }
+    QString made(const QString &what) const { return ask(u"SELECT %1 FROM made"_s.arg(what)); }
 };
 
 KOVA_ON_FROZEN_SERVERS(FrozenServerChanges);
@@ -147,27 +180,13 @@ TEST_P(FrozenServerChanges, LetsTheHostDeleteTheControlMeanwhile)
     EXPECT_TRUE(QStringList({u"name 1"_s, u"gone"_s}).contains(stored(u"name"_s)));
 }
 
-// Nobody can tell then whether the change was saved, and the user is told so.
 TEST_P(FrozenServerChanges, ReportsACommitWithoutAnAnswerAsUnknown)
 {
     LoopbackProxy proxy(LoopbackProxy::portOf(connection()), freezeOn("COMMIT"));
     hands->grid.PutConnectionString(proxy.in(connection()));
     ASSERT_TRUE(loadKept());
     write(u"name"_s, u"mine"_s);
-    QTimer user;
-    QObject::connect(&user, &QTimer::timeout, &user, [this] {
-        if (QWidget *const line = progressLine(); line && isFrozen)
-            QTest::keyClick(line->window(), Qt::Key_Escape);
-    });
-    user.start(10);
-    QElapsedTimer sinceSave;
-    sinceSave.start();
-    hands->click(u"AllRecord"_s);
-    EXPECT_LT(sinceSave.elapsed(), 10'000) << "3 s for the answer, the rest for a busy machine";
-    ASSERT_TRUE(isFrozen);
-    const QStringList texts = takeMessages();
-    ASSERT_EQ(texts.size(), 1);
-    EXPECT_TRUE(texts.front().contains(u"无法确定更改是否已经保存"_s)) << qUtf8Printable(texts.front());
+    leaveWhileCommitFreezes();
     thaw();
     // It was saved when the server went on, and leaving the record finds that out.
     hands->grid.PutConnectionString(connection());
@@ -175,4 +194,38 @@ TEST_P(FrozenServerChanges, ReportsACommitWithoutAnAnswerAsUnknown)
     EXPECT_EQ(takeMessages(), QStringList());
     EXPECT_EQ(stored(u"name"_s), u"mine"_s);
     EXPECT_EQ(hands->texts(u"name"_s).first(), u"mine"_s);
+}
+
+TEST_P(FrozenServerChanges, DoNotAddARecordTwiceWhoseCommitGotNoAnswer)
+{
+    LoopbackProxy proxy(LoopbackProxy::portOf(connection()), freezeOn("COMMIT"));
+    hands->grid.PutConnectionString(proxy.in(connection()));
+    addWhileCommitFreezes();
+    hands->click(u"AllRecord"_s);
+    EXPECT_EQ(takeMessages(), QStringList());
+    EXPECT_FALSE(hands->isSingleRecordShown());
+    EXPECT_EQ(hands->texts(u"name"_s), QStringList({u"first"_s, u"new"_s}));
+    EXPECT_EQ(made(u"count(*)"_s), u"2"_s);
+}
+
+TEST_P(FrozenServerChanges, AskBeforeARecordIsAddedThatMayBeThereOtherwise)
+{
+    LoopbackProxy proxy(LoopbackProxy::portOf(connection()), freezeOn("COMMIT"));
+    hands->grid.PutConnectionString(proxy.in(connection()));
+    addWhileCommitFreezes();
+    QTRY_COMPARE(made(u"count(*)"_s), u"2"_s);
+    run(u"UPDATE made SET name = 'theirs' WHERE name = 'new'"_s);
+    hands->messages.answerNext(QMessageBox::No);
+    hands->click(u"AllRecord"_s);
+    QStringList texts = takeMessages();
+    ASSERT_EQ(texts.size(), 1);
+    EXPECT_TRUE(texts.front().endsWith(u"仍要再次保存吗？"_s)) << qUtf8Printable(texts.front());
+    EXPECT_EQ(made(u"count(*)"_s), u"2"_s);
+    EXPECT_EQ(hands->listed(u"name"_s), u"new"_s) << "what he wrote is still there";
+    hands->messages.answerNext(QMessageBox::Yes);
+    hands->click(u"AllRecord"_s);
+    texts = takeMessages();
+    EXPECT_EQ(texts.size(), 1);
+    EXPECT_EQ(made(u"count(*)"_s), u"3"_s);
+    EXPECT_EQ(hands->texts(u"name"_s), QStringList({u"first"_s, u"new"_s}));
 }

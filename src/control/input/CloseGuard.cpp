@@ -4,33 +4,54 @@
 #include "session/Session.h"
 #include "session/editing/EditedRecord.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
+#include <QtWidgets/QDialog>
 
 namespace KOVAVSFDataGridLib {
 
 CloseGuard::CloseGuard(QWidget &control, Session &session) : m_control(control), m_session(session)
 {
     control.installEventFilter(this);
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &CloseGuard::save);
+}
+
+// All of them, because a dock that floats or a dialog goes with the window behind it.
+void CloseGuard::watchParents()
+{
+    for (const QPointer<QWidget> &left : std::as_const(m_parents)) {
+        if (!left)
+            continue;
+        left->removeEventFilter(this);
+        left->disconnect(this);
+    }
+    m_parents.clear();
+    for (QWidget *parent = m_control.parentWidget(); parent; parent = parent->parentWidget()) {
+        m_parents.append(parent);
+        parent->installEventFilter(this);
+        if (const auto *dialog = qobject_cast<QDialog *>(parent))
+            connect(dialog, &QDialog::finished, this, &CloseGuard::save); // which can come without a close
+    }
+}
+
+// Where nobody can stay any more.
+void CloseGuard::save()
+{
+    m_session.record().save();
 }
 
 bool CloseGuard::eventFilter(QObject *watched, QEvent *event)
 {
     // A control can be put on another window at any time, but is shown on it before the user writes anything.
-    if (watched == &m_control && event->type() == QEvent::Show && m_window != m_control.window()) {
-        if (m_window && m_window != &m_control)
-            m_window->removeEventFilter(this);
-        m_window = m_control.window();
-        m_window->installEventFilter(this);
-    }
-    if (watched == m_window && event->type() == QEvent::Close) {
-        bool isLeft = false;
-        const auto leave = [&](CloseGuard &) { isLeft = m_session.record().leaveResult(); };
-        const bool isThere = survives(*this, leave);
-        if (!isLeft)
-            event->ignore();
-        return !isLeft || !isThere;
-    }
-    return false;
+    if (watched == &m_control && event->type() == QEvent::Show)
+        watchParents();
+    if (event->type() != QEvent::Close)
+        return false;
+    bool isLeft = false;
+    const bool isThere = survives(*this, [&](CloseGuard &) { isLeft = m_session.record().leaveResult(); });
+    if (!isLeft)
+        event->ignore();
+    return !isLeft || !isThere;
 }
 
 } // namespace KOVAVSFDataGridLib

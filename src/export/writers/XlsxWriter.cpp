@@ -5,6 +5,7 @@
 #include "ado/values/FieldValue.h"
 #include "ado/values/NumericTypes.h"
 #include "export/ExportTexts.h"
+#include "export/TextSink.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QFile>
@@ -222,8 +223,9 @@ void XlsxWriter::end()
     constexpr qint64 piece = 1 << 20;
     while (!written.atEnd()) {
         const QByteArray bytes = written.read(piece);
-        if (bytes.isEmpty() || m_device.write(bytes) != bytes.size())
-            throw ADODB::Error(ADODB::adErrWriteFile, m_device.errorString());
+        if (bytes.isEmpty())
+            throw ADODB::Error(ADODB::adErrWriteFile, written.errorString());
+        writeWhole(m_device, bytes);
     }
 }
 

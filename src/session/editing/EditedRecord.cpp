@@ -103,9 +103,16 @@ std::optional<EditedRecord::Failure> EditedRecord::trySave()
         saveChanges();
         return {};
     } catch (const ADODB::Error &error) {
-        return Failure{SessionMessages::NotSavedPrefix + error.Description(),
-                       error.is(ADODB::dbErrConcurrency)};
+        return failureOf(error);
     }
+}
+
+EditedRecord::Failure EditedRecord::failureOf(const ADODB::Error &error)
+{
+    const bool isPerhapsSaved = error.is(ADODB::dbErrPerhapsSaved);
+    if (isPerhapsSaved || error.is(ADODB::dbErrInDoubt)) // which is not to say that it is not saved
+        return {error.Description(), false, isPerhapsSaved};
+    return {SessionMessages::NotSavedPrefix + error.Description(), error.is(ADODB::dbErrConcurrency)};
 }
 
 bool EditedRecord::save()
@@ -118,6 +125,14 @@ bool EditedRecord::save()
     const std::optional<Failure> failure = trySave();
     if (!failure || !watch.isUntouched())
         return watch.isUntouched();
+    if (failure->isPerhapsSaved) {
+        const bool isWanted = m_session.questions().ask(SessionMessages::AskSaveAgain.arg(failure->text),
+                                                        SessionMessages::AskSaveAgainTitle);
+        if (!isWanted || !watch.isUntouched())
+            return false;
+        watch.recordset()->ForgetAttempt();
+        return save();
+    }
     if (!failure->isChangedByOthers)
         m_session.questions().show(failure->text);
     else if (m_session.questions().offerNewValues(failure->text, {}) && watch.isUntouched())
@@ -143,6 +158,8 @@ bool EditedRecord::leaveResult()
             return false;
         if (choice == Unsaved::ShowNewValues)
             showNewValues();
+        if (choice == Unsaved::SaveAgain && failure->isPerhapsSaved)
+            watch.recordset()->ForgetAttempt();
         if (choice == Unsaved::Discard)
             cancel();
         if (choice != Unsaved::SaveAgain)

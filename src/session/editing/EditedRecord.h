@@ -4,6 +4,10 @@
 
 #include <optional>
 
+namespace ADODB {
+class Error;
+}
+
 namespace KOVAVSFDataGridLib {
 
 class Session;
@@ -55,8 +59,10 @@ private:
     {
         QString text; // for the user to read
         bool isChangedByOthers = false;
+        bool isPerhapsSaved = false; // a new record, by an attempt whose outcome nobody knows
     };
 
+    static Failure failureOf(const ADODB::Error &error);
     std::optional<Failure> trySave();
     void cancelChanges();
 

@@ -1,6 +1,8 @@
 // From record to record in the list, and what its editors do beside taking a line of text.
 #include "Shop.h"
 
+#include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
 #include <QtTest/QTest>
 #include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QPlainTextEdit>
@@ -19,7 +21,53 @@ protected:
     QPlainTextEdit *lines() { return grid.findChild<QPlainTextEdit *>(u"txtLines"_s); }
 };
 
+// A text as an SQL expression, and what it becomes when "Z" is put into the place of its "c".
+struct BrokenText
+{
+    const char *expression;
+    const char *changed;
+};
+
 } // namespace
+
+// The editor shows every line break as the same.
+TEST_F(RecordEditing, LineBreaksThatWereNotTouchedStayAsTheyAre)
+{
+    const BrokenText texts[] = {
+        {"'a'||char(13,10)||'b'||char(10)||'c'", "'a'||char(13,10)||'b'||char(10)||'Z'"},
+        {"'a'||char(10)||'c'||char(13,10)||'d'", "'a'||char(10)||'Z'||char(13,10)||'d'"},
+        {"'a'||char(13)||'b'||char(10)||'c'||char(13)", "'a'||char(13)||'b'||char(10)||'Z'||char(13)"},
+        {"'a'||char(13,13,10)||'c'", "'a'||char(13,13,10)||'Z'"},
+        {"char(8233)||'c'||char(64976,10)||'d'", "char(8233)||'Z'||char(64976,10)||'d'"},
+    };
+    for (const BrokenText &text : texts) {
+        SCOPED_TRACE(text.expression);
+        const QString expression = QString::fromLatin1(text.expression);
+        database.run(u"UPDATE 商品 SET 名称 = %1 WHERE ID = 1"_s.arg(expression));
+        ASSERT_TRUE(load());
+        click(u"SingleRecord"_s);
+        makeCurrent(u"名称"_s);
+        QTest::keyClick(list, Qt::Key_F2);
+        ASSERT_TRUE(lines()->isVisible());
+        QTest::keyClick(lines(), Qt::Key_Return);
+        makeCurrent(u"城市"_s); // another field is changed
+        QTest::keyClick(list, Qt::Key_F2);
+        edit->setText(u"x"_s);
+        QTest::keyClick(edit, Qt::Key_Return);
+        click(u"AllRecord"_s);
+        EXPECT_EQ(computed(u"名称 = "_s + expression, 1), u"1"_s);
+
+        click(u"SingleRecord"_s);
+        makeCurrent(u"名称"_s);
+        QTest::keyClick(list, Qt::Key_F2);
+        QTextCursor cursor = lines()->document()->find(u"c"_s);
+        ASSERT_FALSE(cursor.isNull());
+        cursor.insertText(u"Z"_s);
+        QTest::keyClick(lines(), Qt::Key_Return);
+        click(u"AllRecord"_s);
+        EXPECT_EQ(computed(u"名称 = "_s + QString::fromLatin1(text.changed), 1), u"1"_s);
+    }
+}
 
 TEST_F(RecordEditing, AltPageKeysGoFromRecordToRecord)
 {

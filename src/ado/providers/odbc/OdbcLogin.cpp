@@ -73,8 +73,9 @@ constexpr Default postgreSqlDefaults[] = {
     {u"LFConversion", u"C5", u"0"},          {u"Protocol", u"A1", u"7.4-0"},
 };
 
-// Without it the driver keeps a whole result in memory.
-constexpr Default sqliteDefaults[] = {{u"StepAPI", {}, u"1"}};
+// Without the first the driver keeps a whole result in memory. Without the second it makes a database where
+// there is none.
+constexpr Default sqliteDefaults[] = {{u"StepAPI", {}, u"1"}, {u"NoCreat", {}, u"1"}};
 
 int seconds(const ConnectionString &connection, std::initializer_list<QLatin1StringView> keywords,
             int otherwise)

@@ -145,9 +145,10 @@ int SqliteSession::allow(void *data, int action, const char *first, const char *
     switch (action) {
     case SQLITE_SELECT:
     case SQLITE_READ:
-    case SQLITE_FUNCTION:
     case SQLITE_RECURSIVE:
         return SQLITE_OK;
+    case SQLITE_FUNCTION: // this one gives out addresses of code
+        return qstricmp(second, "fts3_tokenizer") == 0 ? SQLITE_DENY : SQLITE_OK;
     case SQLITE_PRAGMA:
         return isReadingPragma(first) || (isReadingWithoutValue(first) && !second) ? SQLITE_OK : SQLITE_DENY;
     case SQLITE_INSERT:

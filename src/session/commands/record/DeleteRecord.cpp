@@ -84,7 +84,9 @@ void deleteRecord(Session &session)
         // Not every refusal is a constraint: the file may be read-only, the record changed by somebody else.
         if (!watch.isUntouched())
             return;
-        if (!error.is(ADODB::dbErrConcurrency))
+        if (error.is(ADODB::dbErrInDoubt)) // which is not to say that it is not deleted
+            session.questions().show(error.Description());
+        else if (!error.is(ADODB::dbErrConcurrency))
             session.questions().showWithCause(SessionMessages::DeleteRefused, error.Description());
         else if (session.questions().offerNewValues(SessionMessages::DeleteRefused, error.Description()) &&
                  watch.isUntouched())
