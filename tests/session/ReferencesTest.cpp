@@ -186,7 +186,7 @@ TEST(ReferencesOfUntoldTables, AreReadOffTheStatement)
         PlainWindow window;
         PlainUser user;
         PlainHost host;
-        const auto session = std::make_shared<Session>(window, user, host, ControlRules, &adodc);
+        const auto session = std::make_shared<Session>(window, user, host, controlRules, &adodc);
         session->texts.connectionString = u"Provider=Untold;Data Source="_s + database.path();
         session->texts.sqlShow = statement;
         EXPECT_TRUE(loadResult(*session)) << qUtf8Printable(user.messages.join(u'|'));

@@ -30,17 +30,20 @@ protected:
         grid->PutConnectionString(database.connectionString());
         grid->PutSQLShow(u"select * from T"_s);
     }
-    ~UnsavedInAWindow() override { delete grid; }
+    ~UnsavedInAWindow() override { delete there; }
     // Where the control has its place by now.
     void type()
     {
         grid->show();
         ASSERT_TRUE(grid->IsLoadData());
-        grid->findChild<QAction *>(u"SingleRecord"_s)->trigger();
+        auto *single = grid->findChild<QAction *>(u"SingleRecord"_s);
         auto *list = grid->findChild<QTableView *>(u"MSFlexGrid1"_s);
+        auto *edit = grid->findChild<QLineEdit *>(u"txtEdit"_s);
+        ASSERT_TRUE(single && list && edit);
+        single->trigger();
         list->setCurrentIndex(list->model()->index(1, 1));
         QTest::keyClick(list, Qt::Key_F2);
-        grid->findChild<QLineEdit *>(u"txtEdit"_s)->setText(u"b"_s);
+        edit->setText(u"b"_s);
     }
     void refuse()
     {
@@ -56,7 +59,7 @@ protected:
         EXPECT_FALSE(closed.close());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_EQ(messages.shown().size(), 1U);
-        ASSERT_TRUE(shown && grid);
+        ASSERT_TRUE(shown && there);
         EXPECT_TRUE(grid->isVisible());
         database.run(u"DROP TRIGGER No"_s);
         EXPECT_TRUE(closed.close());
@@ -65,7 +68,8 @@ protected:
 
     TestDatabase database{u"CREATE TABLE T (ID INTEGER PRIMARY KEY, A TEXT); INSERT INTO T VALUES (1,'a')"_s};
     MessageAnswers messages;
-    QPointer<KOVAVSFDataGrid> grid = new KOVAVSFDataGrid;
+    KOVAVSFDataGrid *const grid = new KOVAVSFDataGrid;
+    const QPointer<KOVAVSFDataGrid> there{grid}; // as long as no window has deleted it
 };
 
 } // namespace
@@ -133,7 +137,9 @@ TEST_F(UnsavedInAWindow, IsReportedWhereAFinishedDialogCannotSaveIt)
     EXPECT_TRUE(messages.texts().front().startsWith(u"记录没有保存："_s));
     database.run(u"DROP TRIGGER No"_s);
     dialog.show();
-    EXPECT_EQ(grid->findChild<QLineEdit *>(u"txtEdit"_s)->text(), u"b"_s) << "it is not lost";
+    const auto *edit = grid->findChild<QLineEdit *>(u"txtEdit"_s);
+    ASSERT_NE(edit, nullptr);
+    EXPECT_EQ(edit->text(), u"b"_s) << "it is not lost";
     dialog.accept();
     EXPECT_EQ(stored(), u"b"_s);
 }
