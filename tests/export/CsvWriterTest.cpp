@@ -52,24 +52,24 @@ QString randomValue(std::mt19937 &random)
         u","_s,    u"\""_s,         u"\r\n"_s,     u"\n"_s,         u"中文"_s, u"😀"_s,  u"a"_s,
         u"="_s,    u"2024-02-29"_s, u"1"_s,        u"é"_s,          u" "_s,    u"\t"_s, u"12345678"_s,
         u"-1.5"_s, u"True"_s,       u"10:11:12"_s, u"0001-01-01"_s, u"x\"y"_s, u"\r"_s, u"'"_s};
-    const auto upTo = [&](int most) { return std::uniform_int_distribution(0, most)(random); };
-    switch (upTo(5)) {
+    const auto atMost = [&](int most) { return std::uniform_int_distribution(0, most)(random); };
+    switch (atMost(5)) {
     case 0:
         return u"NULL"_s;
     case 1:
-        return QString::number(static_cast<qint64>((quint64{random()} << 32 | random()) >> upTo(63)));
+        return QString::number(static_cast<qint64>((quint64{random()} << 32 | random()) >> atMost(63)));
     case 2:
-        return QString::number((upTo(2000000) - 1000000) / std::pow(10, upTo(6)), 'g', 17);
+        return QString::number((atMost(2000000) - 1000000) / std::pow(10, atMost(6)), 'g', 17);
     case 3:
-        return u"x'"_s + QString::fromLatin1(QByteArray(upTo(20), static_cast<char>(upTo(255))).toHex()) +
+        return u"x'"_s + QString::fromLatin1(QByteArray(atMost(20), static_cast<char>(atMost(255))).toHex()) +
                u'\'';
     default:
         break;
     }
     QByteArray text;
-    for (int count = upTo(6); count > 0; --count)
-        text += pieces.at(upTo(static_cast<int>(pieces.size()) - 1)).toUtf8();
-    if (upTo(20) == 0)
+    for (int count = atMost(6); count > 0; --count)
+        text += pieces.at(atMost(static_cast<int>(pieces.size()) - 1)).toUtf8();
+    if (atMost(20) == 0)
         text += '\xff'; // no UTF-8
     return u"CAST(x'%1' AS TEXT)"_s.arg(QString::fromLatin1(text.toHex()));
 }

@@ -58,10 +58,10 @@ TEST(OdbcListsOfDataSources, AreReadOnceToFindTheDriverOfOne)
     if (!odbcDrivers().contains(u"SQLite3"_s))
         GTEST_SKIP() << "SQLite's ODBC driver is not installed";
     QTemporaryDir folder;
+    QFile shop(folder.filePath(u"shop.db"_s));
     QFile list(folder.filePath(u"odbc.ini"_s));
-    ASSERT_TRUE(list.open(QIODevice::WriteOnly));
-    list.write("[kova shop]\nDriver=SQLite3\nDatabase=" + QFile::encodeName(folder.filePath(u"shop.db"_s)) +
-               "\n");
+    ASSERT_TRUE(shop.open(QIODevice::WriteOnly) && list.open(QIODevice::WriteOnly));
+    list.write("[kova shop]\nDriver=SQLite3\nDatabase=" + QFile::encodeName(shop.fileName()) + "\n");
     list.close();
     const QByteArray user = qgetenv("ODBCINI");
     qputenv("ODBCINI", QFile::encodeName(list.fileName()));
@@ -72,5 +72,8 @@ TEST(OdbcListsOfDataSources, AreReadOnceToFindTheDriverOfOne)
         EXPECT_EQ(connection.State(), adStateOpen);
     }
     EXPECT_EQ(listsRead(), before + 1);
+    ASSERT_TRUE(shop.remove());
+    expectRefused(u"DSN=kova shop"_s);
+    EXPECT_FALSE(shop.exists()) << "a database that is missing is not made";
     user.isNull() ? qunsetenv("ODBCINI") : qputenv("ODBCINI", user);
 }

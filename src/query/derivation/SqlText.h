@@ -40,8 +40,8 @@ QString ComposeSQL(const QString &head, const QString &where, const QString &ord
 
 // One more condition: the first one brings the word WHERE (and a blank before it), each further one AND; then
 // either side that has an OR outside all brackets gets brackets of its own.
-// An empty condition changes nothing; one that ends in a comment gets a line break. `dialect` says what a text
-// is.
+// An empty condition changes nothing; one that ends in a comment gets a line break. `dialect` says what a
+// text is.
 void addCondition(SQLSentence &sentence, const QString &condition, const Dialect &dialect = {});
 
 // The statement with the head of `fieldStatement` in place of its own; empty when either text is empty.
