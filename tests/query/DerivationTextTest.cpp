@@ -60,7 +60,8 @@ TEST(DerivationText, WhatBindsLooserThanAndHasBracketsAsOrHas)
 TEST(DerivationText, ACommentAtTheEndOfAConditionDoesNotSwallowTheSort)
 {
     const auto filtered = [](const QString &statement, const QString &condition) {
-        return derive(Engine::PostgreSQL, statement, {u"A"_s}).withCondition(condition);
+        const QString text = derive(Engine::PostgreSQL, statement, {u"A"_s}).withCondition(condition);
+        return text.split(u' ', Qt::SkipEmptyParts).join(u' '); // the line breaks stay
     };
     EXPECT_EQ(filtered(u"select A from T order by A desc"_s, u"A = 1 -- x"_s),
               u"select A from T WHERE A = 1 -- x\n order by A desc"_s);
