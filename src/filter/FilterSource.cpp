@@ -6,6 +6,7 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "ado/connection/EngineOf.h"
+#include "ado/connection/OleDbDrivers.h"
 #include "filter/conditions/FilterSql.h"
 #include "filter/conditions/ValueStatements.h"
 #include "sql/Literals.h"
@@ -23,9 +24,7 @@ using namespace Qt::StringLiterals;
 bool leadsToOdbc(const QString &connectionString)
 {
     try {
-        const ADODB::ConnectionString parts(connectionString);
-        return parts.value(u"Provider"_s).startsWith("MSDASQL"_L1, Qt::CaseInsensitive) ||
-               parts.contains(u"DSN"_s) || parts.contains(u"FILEDSN"_s) || parts.contains(u"Driver"_s);
+        return ADODB::leadsToOdbc(ADODB::ConnectionString(connectionString));
     } catch (const ADODB::Error &) {
         return false;
     }

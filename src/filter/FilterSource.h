@@ -15,7 +15,7 @@ struct FieldInfo;
 
 namespace KOVAVSFDataGridLib {
 
-// Whether a connection string names an ODBC driver or data source. A malformed one does not.
+// Whether a connection string leads to an ODBC driver. A malformed one does not.
 bool leadsToOdbc(const QString &connectionString);
 
 // Where the builder's fields and values come from. Reads nothing before it is asked. The reading functions

@@ -4,6 +4,7 @@
 #include "support/MessageAnswers.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QLocale>
 #include <QtCore/QTimer>
 #include <QtGui/QWindow>
 #include <QtTest/QSignalSpy>
@@ -84,7 +85,7 @@ TEST_F(LoadProgressTest, TheLineTellsHowManyRecordsHaveBeenRead)
         EXPECT_TRUE(cancelButton()->isVisible());
     }));
     EXPECT_GT(value, 1000);
-    EXPECT_EQ(text, u"已读取 %1 条记录"_s.arg(value));
+    EXPECT_EQ(text, u"已读取 %1 条记录"_s.arg(QLocale(QLocale::English).toString(value)));
     EXPECT_EQ(place.width(), grid.width());
     EXPECT_EQ(place.bottom(), grid.rect().bottom());
     EXPECT_LT(place.height(), 60) << "a slim line";

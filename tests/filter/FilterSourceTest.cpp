@@ -149,6 +149,8 @@ TEST(FilterSource, ReadsOdbcOffTheConnectionString)
     EXPECT_TRUE(leadsToOdbc(u"DSN=prod;UID=me"_s));
     EXPECT_TRUE(leadsToOdbc(u"driver={PostgreSQL Unicode};Server=db"_s));
     EXPECT_TRUE(leadsToOdbc(u"Provider=MSDASQL.1;FileDSN=x.dsn"_s));
+    EXPECT_TRUE(leadsToOdbc(u"Provider=SQLOLEDB;Data Source=h"_s));
+    EXPECT_TRUE(leadsToOdbc(u"Provider=OraOLEDB.Oracle;Data Source=orcl"_s));
     EXPECT_FALSE(leadsToOdbc(u"Provider=SQLite;Data Source=shop.db"_s));
     EXPECT_FALSE(leadsToOdbc(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=nwind.mdb"_s));
     EXPECT_FALSE(leadsToOdbc(u"Data Source='not closed"_s));

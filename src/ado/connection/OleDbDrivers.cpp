@@ -1,5 +1,6 @@
 #include "ado/connection/OleDbDrivers.h"
 
+#include "ado/ConnectionString.h"
 #include "ado/Texts.h"
 
 #include <QtCore/QRegularExpression>
@@ -84,6 +85,17 @@ std::optional<OleDbKind> oleDbKind(const QString &provider)
             return known.kind;
     }
     return std::nullopt;
+}
+
+bool leadsToOdbc(const ConnectionString &connection)
+{
+    const QString provider = connection.value(u"Provider"_s);
+    if (!provider.isEmpty()) {
+        const auto kind = oleDbKind(provider);
+        return kind && *kind != OleDbKind::Access;
+    }
+    return connection.contains(u"Driver"_s) || connection.contains(u"DSN"_s) ||
+           connection.contains(u"FILEDSN"_s);
 }
 
 QStringList oleDbServerProviders()

@@ -8,11 +8,17 @@
 // The OLE DB providers that connection strings name, and the ODBC drivers that reach the same databases.
 namespace ADODB {
 
+class ConnectionString;
+
 enum class OleDbKind { Odbc, SqlServer, Oracle, Access };
 
 // The database that a provider is for, by its name in any letter case, with or without a version
 // (`SQLOLEDB.1`). Nothing for a provider that is not known.
 std::optional<OleDbKind> oleDbKind(const QString &provider);
+
+// Whether a connection string leads to an ODBC driver: by its provider or, when it names none, by a driver or
+// a data source.
+bool leadsToOdbc(const ConnectionString &connection);
 
 // The known providers of servers, as a message lists them.
 QStringList oleDbServerProviders();

@@ -115,7 +115,7 @@ std::vector<Change> RecordEditor::changes() const
 
 void RecordEditor::saveNew(Snapshot &snapshot)
 {
-    if (!isSavedAlready())
+    if (!findSaved())
         insert(snapshot.columns());
     else if (m_sent->values != m_values)
         changeSaved();
@@ -124,7 +124,7 @@ void RecordEditor::saveNew(Snapshot &snapshot)
 }
 
 // Whether the attempt before this one, whose answer never came, has saved the new record.
-bool RecordEditor::isSavedAlready()
+bool RecordEditor::findSaved()
 {
     if (!m_sent)
         return false;

@@ -53,7 +53,7 @@ private:
     std::vector<Change> changes() const;
     RowStore update(const Snapshot &snapshot, qint64 record) const;
     bool holdsChanges(const Snapshot &row) const;
-    bool isSavedAlready();
+    bool findSaved();
     void insert(int columns);
     void changeSaved();
 

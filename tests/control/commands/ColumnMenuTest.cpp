@@ -122,16 +122,16 @@ TEST_F(ColumnMenu, GroupedRowsAreSortedAsWell)
 TEST_F(ColumnMenu, AddsToASortOfWhatHasBecomeATable)
 {
     ASSERT_TRUE(load(u"SELECT 城市,COUNT(*) FROM 商品 GROUP BY 城市 ORDER BY COUNT(*) DESC"_s, {}));
-    EXPECT_EQ(spoken(u"COUNT(*)"_s), u"COUNT(*)，第 1 降序"_s);
+    EXPECT_EQ(spoken(u"COUNT(*)"_s), u"COUNT(*)，第 1 排序字段，降序"_s);
     choose(u"城市"_s, u"AddToSort"_s);
-    EXPECT_EQ(spoken(u"COUNT(*)"_s), u"COUNT(*)，第 1 降序"_s);
-    EXPECT_EQ(spoken(u"城市"_s), u"城市，第 2 升序"_s);
+    EXPECT_EQ(spoken(u"COUNT(*)"_s), u"COUNT(*)，第 1 排序字段，降序"_s);
+    EXPECT_EQ(spoken(u"城市"_s), u"城市，第 2 排序字段，升序"_s);
 
     // The rows were taken by a field that is not shown, which no sort of them can name.
     ASSERT_TRUE(load(u"SELECT ID,城市 FROM 商品 ORDER BY [Unit Price] DESC, 城市 LIMIT 5"_s, {}));
     const QStringList taken = texts(u"ID"_s);
     choose(u"ID"_s, u"AddToSort"_s);
-    EXPECT_EQ(spoken(u"ID"_s), u"ID，第 2 升序"_s);
+    EXPECT_EQ(spoken(u"ID"_s), u"ID，第 2 排序字段，升序"_s);
     QStringList sorted = texts(u"ID"_s);
     EXPECT_TRUE(std::ranges::is_permutation(sorted, taken));
     EXPECT_TRUE(messages.shown().empty()) << qUtf8Printable(messages.texts().join(u'|'));

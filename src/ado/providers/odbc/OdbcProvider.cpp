@@ -21,13 +21,7 @@ QString OdbcProvider::name() const
 
 bool OdbcProvider::claims(const ConnectionString &connection) const
 {
-    const QString provider = connection.value(u"Provider"_s);
-    if (!provider.isEmpty()) {
-        const auto kind = oleDbKind(provider);
-        return kind && *kind != OleDbKind::Access;
-    }
-    return connection.contains(u"Driver"_s) || connection.contains(u"DSN"_s) ||
-           connection.contains(u"FILEDSN"_s);
+    return leadsToOdbc(connection);
 }
 
 std::shared_ptr<Session> OdbcProvider::open(const ConnectionString &connection) const
