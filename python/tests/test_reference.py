@@ -1,4 +1,4 @@
-"""The reference lists the names by which hosts find the control's parts and commands."""
+"""The documents list the names by which hosts find the control's parts and commands."""
 import re
 from pathlib import Path
 
@@ -10,23 +10,26 @@ from PyQt6.QtWidgets import QToolBar
 from kovavsfdatagrid import KOVAVSFDataGrid
 
 
+DOCUMENTS = Path(__file__).resolve().parents[2] / 'docs'
+
+
 @pytest.fixture
 def names():
-    """The text of that section."""
-    file = Path(__file__).resolve().parents[2] / 'docs' / 'reference.md'
-    return file.read_text('utf-8').partition('## Names of parts and commands')[2]
+    """The text of that section of the reference."""
+    return (DOCUMENTS / 'reference.md').read_text('utf-8').partition('## Names of parts and commands')[2]
+
+
+@pytest.fixture(params=['shortcuts.md', 'shortcuts.zh-CN.md'])
+def commands(request):
+    """The keys and the numbers in the last column of the table of commands, each once."""
+    rows = re.findall(r'^\| [^|]+ \| [^|]+ \|([^|]*)\|$', (DOCUMENTS / request.param).read_text('utf-8'), re.M)
+    cells = ' '.join(rows)
+    return set(re.findall(r'`(\w+)`', cells)), {int(number) for number in re.findall(r'\d+', cells)}
 
 
 @pytest.fixture
 def grid():
     return KOVAVSFDataGrid()
-
-
-def commands(names):
-    """Of each row: the keys and the numbers."""
-    rows = re.findall(r'^\| [^|]+ \|([^|]*)\|([^|]*)\|$', names, re.M)
-    return ([key for keys, _ in rows for key in re.findall(r'`(\w+)`', keys)],
-            [int(number) for _, numbers in rows for number in re.findall(r'\d+', numbers)])
 
 
 def test_every_part_is_there(grid, names):
@@ -35,12 +38,12 @@ def test_every_part_is_there(grid, names):
     assert [name for name in parts if grid.findChild(QObject, name) is None] == []
 
 
-def test_every_button_is_listed(grid, names):
+def test_every_button_is_listed(grid, commands):
     buttons = grid.findChild(QToolBar, 'Toolbar1').actions()
-    assert sorted(commands(names)[0]) == sorted(action.objectName() for action in buttons if action.objectName())
+    assert commands[0] == {action.objectName() for action in buttons if action.objectName()}
 
 
-def test_every_entry_of_the_popup_menu_is_listed(grid, names):
+def test_every_entry_of_the_popup_menu_is_listed(grid, commands):
     actions = {int(action.objectName().removeprefix('PopMnuDataAction')): action for action in grid.findChildren(QAction)
                if action.objectName().startswith('PopMnuDataAction')}
-    assert sorted(commands(names)[1]) == sorted(number for number, action in actions.items() if action.text())
+    assert commands[1] == {number for number, action in actions.items() if action.text()}
