@@ -58,7 +58,14 @@ public:
     void show(const QString &text) override { messages += text; }
     void showWithCause(const QString &text, const QString &cause) override { messages += text + cause; }
     bool ask(const QString &, const QString &) override { return true; }
-    QString askCondition(const ConditionRequest &) override { return condition; }
+    // Gives up a condition that the database refuses.
+    QString askCondition(const ConditionRequest &request) override
+    {
+        if (request.refusal.isEmpty())
+            return condition;
+        messages += request.refusal;
+        return {};
+    }
     std::optional<FindAnswer> askWords(const colDataFields &) override
     {
         return FindAnswer{words, false, {}};
