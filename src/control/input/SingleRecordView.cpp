@@ -277,6 +277,10 @@ bool SingleRecordView::handleEvent(QObject *watched, QEvent *event)
         if (static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
             doubleClicked(*source, *static_cast<QMouseEvent *>(event));
         return false;
+    case QEvent::FontChange:
+        if (watched == m_parts.MSFlexGrid1)
+            fitNameColumn();
+        return false;
     case QEvent::ContextMenu:
         // The menu key comes as a key, and the right button is reported below: once each.
         return true;

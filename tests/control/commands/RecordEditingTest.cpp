@@ -3,6 +3,7 @@
 
 #include <QtTest/QTest>
 #include <QtWidgets/QCalendarWidget>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolButton>
 
@@ -242,6 +243,23 @@ TEST_F(RecordEditing, TheListHasTheDatasFontAndColour)
     EXPECT_EQ(list->viewport()->grab(value).toImage().pixelColor(value.width() - 20, value.height() / 2),
               QColor(255, 250, 220));
     EXPECT_GE(value.height(), list->fontMetrics().height());
+}
+
+TEST_F(RecordEditing, ALargerFontMakesRoomForNamesAndTheTickAtOnce)
+{
+    database.run(u"CREATE TABLE 照片 (ID INTEGER PRIMARY KEY, 拍摄时间和地点 TEXT, 照片 BLOB);"
+                 "INSERT INTO 照片 VALUES (1, 'a', x'89504E470D0A1A0A')"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 照片"_s, {}));
+    click(u"SingleRecord"_s);
+    const int before = list->columnWidth(0);
+    QFont large = grid.DataFont();
+    large.setPointSize(large.pointSize() * 2);
+    grid.PutDataFont(large);
+    EXPECT_GE(list->columnWidth(0), list->fontMetrics().horizontalAdvance(u"拍摄时间和地点"_s));
+    EXPECT_GT(list->columnWidth(0), before);
+    const auto *pictures = grid.findChild<QCheckBox *>(u"chkPictures"_s);
+    ASSERT_TRUE(pictures && pictures->isVisible());
+    EXPECT_GE(pictures->width(), pictures->sizeHint().width());
 }
 
 TEST_F(RecordEditing, ADateIsPickedFromACalendar)

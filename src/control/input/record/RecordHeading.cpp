@@ -31,6 +31,7 @@ RecordHeading::RecordHeading(QHeaderView &header)
 {
     Language::keepTranslated(header, [this] { translate(); });
     header.viewport()->installEventFilter(this);
+    header.installEventFilter(this);
 }
 
 QCheckBox *RecordHeading::newPictureBox()
@@ -89,7 +90,7 @@ void RecordHeading::undoClick()
 
 bool RecordHeading::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Resize)
+    if (event->type() == QEvent::Resize || (event->type() == QEvent::FontChange && watched == &m_header))
         place();
     return QObject::eventFilter(watched, event);
 }
