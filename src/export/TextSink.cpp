@@ -29,4 +29,10 @@ void TextSink::flush()
     m_text.resize(0); // which keeps the room
 }
 
+void TextSink::write(QByteArrayView text)
+{
+    flush();
+    writeWhole(m_device, m_encoder.encode(text));
+}
+
 } // namespace KOVAVSFDataGridLib

@@ -25,6 +25,8 @@ public:
             flush();
     }
     void flush();
+    // Writes a larger text, after what has been gathered, without a copy of it.
+    void write(QByteArrayView text);
 
 private:
     static constexpr qsizetype pieceSize = qsizetype{256} << 10; // bytes

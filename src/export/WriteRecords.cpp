@@ -5,6 +5,7 @@
 #include "export/ExportTexts.h"
 
 #include <algorithm>
+#include <chrono>
 #include <future>
 #include <optional>
 
@@ -43,8 +44,9 @@ private:
     ADODB::RowReader m_reader;
 };
 
-// Half of the records by this thread, and those that follow them by another one meanwhile. It has nothing to
-// read while `shouldContinue` is asked, which may let the host change the recordset.
+// Some of the records by this thread, and those that follow them by another one meanwhile. This thread also
+// writes what the other one made before. The other one has nothing to read while `shouldContinue` is asked,
+// which may let the host change the recordset.
 class TwoThreads
 {
 public:
@@ -54,28 +56,41 @@ public:
     {
     }
 
-    // Writes the next records of those up to `last` and answers how many.
+    // Takes the next records of those up to `last` and answers how many.
     qint64 write(qint64 first, qint64 last)
     {
-        const qint64 half = std::min(m_portion, last - first + 1);
-        const qint64 begin = first + half;
+        const qint64 own = std::min(std::max(m_portion * m_ownShare / 100, least), last - first + 1);
+        const qint64 begin = first + own;
         const qint64 end = std::min(begin + m_portion - 1, last);
         // Its end waits for the thread, whatever is thrown here.
         auto others =
             std::async(std::launch::async | std::launch::deferred, [&] { return append(begin, end); });
+        writeOthers();
         for (qint64 record = first; record < begin; ++record)
             m_writer.row(m_own.read(record));
+        const bool waits = others.wait_for(std::chrono::seconds::zero()) != std::future_status::ready;
+        m_ownShare = std::clamp(m_ownShare + (waits ? shareStep : -shareStep), shareStep, 100);
         const qint64 appended = others.get();
-        m_writer.add(m_text);
-        if (appended > 0)
-            m_portion = std::clamp(appended * wanted / std::max(m_text.size(), qsizetype{1}), least, most);
-        return half + appended;
+        m_othersText.swap(m_text);
+        if (appended > 0) {
+            m_portion =
+                std::clamp(appended * wanted / std::max(m_othersText.size(), qsizetype{1}), least, most);
+        }
+        return own + appended;
+    }
+
+    // What the other thread made last.
+    void writeOthers()
+    {
+        m_writer.add(m_othersText);
+        m_othersText.resize(0);
     }
 
 private:
     static constexpr qint64 least = 64;
     static constexpr qint64 most = 16384;
     static constexpr qsizetype wanted = qsizetype{1} << 20; // bytes at a time
+    static constexpr int shareStep = 2;                      // %
 
     // Ends early where texts are long, and before a record that is gone.
     qint64 append(qint64 first, qint64 last)
@@ -95,8 +110,10 @@ private:
     Records m_others;
     RecordWriter &m_writer;
     RowTexts &m_texts;
-    QByteArray m_text;
+    QByteArray m_text;       // is being made by the other thread
+    QByteArray m_othersText; // was made by it, and follows what has been written
     qint64 m_portion = least;
+    int m_ownShare = 80; // % of the other thread's portion, moved until neither waits for the other
 };
 
 } // namespace
@@ -122,6 +139,8 @@ bool writeRecords(const ADODB::Recordset &recordset, const RecordRange &range, c
         for (; record < next; ++record)
             writer.row(records.read(record));
     }
+    if (both)
+        both->writeOthers();
     writer.end();
     return true;
 }

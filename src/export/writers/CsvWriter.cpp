@@ -28,8 +28,7 @@ std::unique_ptr<RowTexts> CsvWriter::newRowTexts() const
 
 void CsvWriter::add(QByteArrayView text)
 {
-    m_sink.text() += text;
-    m_sink.flushWhenFull();
+    m_sink.write(text);
 }
 
 void CsvWriter::end()
