@@ -90,7 +90,7 @@ private:
     static constexpr qint64 least = 64;
     static constexpr qint64 most = 16384;
     static constexpr qsizetype wanted = qsizetype{1} << 20; // bytes at a time
-    static constexpr int shareStep = 2;                      // %
+    static constexpr int shareStep = 2;                     // %
 
     // Ends early where texts are long, and before a record that is gone.
     qint64 append(qint64 first, qint64 last)

@@ -28,35 +28,32 @@ constexpr quint64 zeroByte(quint64 bytes)
     return (bytes - inEachByte(1)) & ~bytes & inEachByte(0x80);
 }
 
-template<typename Word>
-quint64 wordAt(const char *at)
-{
-    Word word = 0;
-    std::memcpy(&word, at, sizeof word);
-    return word;
-}
-
-// Eight bytes at a time, without branches. Some are looked at twice, and zeros are added to a short text.
-TextLook lookAt(QByteArrayView text)
+// Copies a text and looks at it on the way: eight bytes at a time, without branches. Some are taken twice.
+TextLook copyText(char *to, QByteArrayView text)
 {
     quint64 special = 0;
     quint64 bits = 0;
-    const auto look = [&](quint64 bytes) {
+    const char *const from = text.data();
+    const auto copy = [&]<typename Word>(qsizetype at, Word word) {
+        std::memcpy(&word, from + at, sizeof word);
+        std::memcpy(to + at, &word, sizeof word);
+        const quint64 bytes = word;
         special |= zeroByte(bytes ^ inEachByte(',')) | zeroByte(bytes ^ inEachByte('"')) |
                    zeroByte(bytes ^ inEachByte('\r')) | zeroByte(bytes ^ inEachByte('\n'));
         bits |= bytes;
     };
     const qsizetype size = text.size();
-    const char *const begin = text.data();
-    const char *const end = begin + size;
     if (size >= 8) {
-        for (const char *at = begin; at < end - 8; at += 8)
-            look(wordAt<quint64>(at));
-        look(wordAt<quint64>(end - 8));
+        for (qsizetype at = 0; at < size - 8; at += 8)
+            copy(at, quint64{});
+        copy(size - 8, quint64{});
     } else if (size >= 4) {
-        look(wordAt<quint32>(begin) | wordAt<quint32>(end - 4) << 32);
+        copy(0, quint32{});
+        copy(size - 4, quint32{});
     } else if (size > 0) {
-        look(wordAt<quint8>(begin) | wordAt<quint8>(begin + size / 2) << 8 | wordAt<quint8>(end - 1) << 16);
+        copy(0, quint8{});
+        copy(size / 2, quint8{});
+        copy(size - 1, quint8{});
     }
     return {special != 0, (bits & inEachByte(0x80)) == 0};
 }
@@ -148,24 +145,22 @@ char *CsvRows::write(char *to, const ADODB::RawValue &cell, ADODB::DataTypeEnum 
 {
     if (cell.kind != ADODB::RawValue::Kind::Text)
         return ADODB::writeNumber(to, cell, type);
-    const TextLook look = lookAt(cell.bytes);
+    const TextLook look = copyText(to, cell.bytes);
     if (!ADODB::isShownAsStored(cell.bytes, type, look.isAscii))
         return nullptr;
     const bool isGuarded = m_guardsFormulas && looksLikeFormula(cell.bytes);
     if (isGuarded || look.needsQuotes)
         return writeQuoted(to, cell.bytes, isGuarded);
-    return std::copy(cell.bytes.begin(), cell.bytes.end(), to);
+    return to + cell.bytes.size();
 }
 
 void CsvRows::appendValue(QByteArray &text, QByteArrayView value, bool isText) const
 {
     const bool isGuarded = isText && m_guardsFormulas && looksLikeFormula(value);
-    if (!isGuarded && !lookAt(value).needsQuotes) {
-        text += value;
-        return;
-    }
     char *const to = writableEnd(text, longestText(value));
-    text.truncate(writeQuoted(to, value, isGuarded) - text.constData());
+    const bool isQuoted = copyText(to, value).needsQuotes || isGuarded;
+    char *const end = isQuoted ? writeQuoted(to, value, isGuarded) : to + value.size();
+    text.truncate(end - text.constData());
 }
 
 } // namespace KOVAVSFDataGridLib
