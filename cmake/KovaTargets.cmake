@@ -31,7 +31,9 @@ function(kova_compile_settings target)
     target_link_options(${target} PRIVATE -Wl,-z,relro,-z,now)
   endif()
   if(KOVA_SANITIZE)
-    target_compile_options(${target} PRIVATE -fsanitize=${KOVA_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_compile_options(${target} PRIVATE -fsanitize=${KOVA_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all
+      # False with what the sanitizers add, as in an assignment to an empty std::optional.
+      $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_link_options(${target} PUBLIC -fsanitize=${KOVA_SANITIZE})
   endif()
   if(KOVA_COVERAGE)
