@@ -156,6 +156,9 @@ function(kova_test name)
   if(NOT TEST_TIMEOUT)
     set(TEST_TIMEOUT 300)
   endif()
+  if(KOVA_SANITIZE)
+    math(EXPR TEST_TIMEOUT "4 * ${TEST_TIMEOUT}") # which makes everything slower
+  endif()
   add_test(NAME ${name} COMMAND ${TEST_RUN_BY} $<TARGET_FILE:${name}>)
   set_tests_properties(${name} PROPERTIES TIMEOUT ${TEST_TIMEOUT} LABELS "${TEST_LABELS}"
     ENVIRONMENT "LC_ALL=C.UTF-8"
