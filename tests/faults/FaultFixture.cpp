@@ -4,10 +4,11 @@
 #include <QtCore/QFile>
 #include <QtTest/QTest>
 
+#include <cstddef>
 #include <cstdio>
 
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // GCC 12 has it without a header
 #endif
 
 using namespace Qt::StringLiterals;
