@@ -158,6 +158,9 @@ function(kova_test name)
   if(NOT TEST_TIMEOUT)
     set(TEST_TIMEOUT 300)
   endif()
+  if(KOVA_SANITIZE)
+    math(EXPR TEST_TIMEOUT "4 * ${TEST_TIMEOUT}") # which makes everything slower
+  endif()
   add_test(NAME ${name} COMMAND ${TEST_RUN_BY} $<TARGET_FILE:${name}>)
   set_tests_properties(${name} PROPERTIES TIMEOUT ${TEST_TIMEOUT} LABELS "${TEST_LABELS}"
     ENVIRONMENT "LC_ALL=C.UTF-8"
@@ -165,6 +168,18 @@ function(kova_test name)
   if(TEST_COST)
     set_tests_properties(${name} PROPERTIES COST ${TEST_COST})
   endif()
+endfunction()
+
+# kova_test_of_foreign_program(<test>): of a program that loads what this project builds. Where that is instrumented for
+# addresses, the run-time library has to come first all the same; what such a program leaves behind when it ends is not
+# looked at.
+function(kova_test_of_foreign_program test)
+  if(NOT KOVA_SANITIZE MATCHES address OR NOT CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    return()
+  endif()
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libasan.so
+    OUTPUT_VARIABLE runtime OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  set_property(TEST ${test} APPEND PROPERTY ENVIRONMENT "LD_PRELOAD=${runtime}" "ASAN_OPTIONS=detect_leaks=0")
 endfunction()
 
 # kova_test_part(<name> SOURCES <files> LINKS <libraries>): what several test programs have, compiled once for all of

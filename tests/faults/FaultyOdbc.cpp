@@ -139,6 +139,9 @@ KOVA_FAULTY(SQLAllocHandle, false, parent, (SQLSMALLINT type, SQLHANDLE parent, 
 KOVA_FAULTY(SQLSetEnvAttr, true, h, (SQLHENV h, SQLINTEGER a, SQLPOINTER v, SQLINTEGER l), (h, a, v, l))
 KOVA_FAULTY(SQLSetConnectAttrW, true, h, (SQLHDBC h, SQLINTEGER a, SQLPOINTER v, SQLINTEGER l), (h, a, v, l))
 KOVA_FAULTY(SQLSetStmtAttrW, true, h, (SQLHSTMT h, SQLINTEGER a, SQLPOINTER v, SQLINTEGER l), (h, a, v, l))
+KOVA_FAULTY(SQLGetInfoA, true, h,
+            (SQLHDBC h, SQLUSMALLINT what, SQLPOINTER v, SQLSMALLINT room, SQLSMALLINT *length),
+            (h, what, v, room, length))
 KOVA_FAULTY(SQLGetInfoW, true, h,
             (SQLHDBC h, SQLUSMALLINT what, SQLPOINTER v, SQLSMALLINT room, SQLSMALLINT *length),
             (h, what, v, room, length))

@@ -63,6 +63,9 @@ int main(int argc, char **argv)
     testing::InitGoogleTest(&argc, argv);
     qInstallMessageHandler(onMessage);
     const int result = RUN_ALL_TESTS();
+    // A box that a control leaves when it ends, about what it could not save, waits for its user.
+    QApplication::closeAllWindows();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     qInstallMessageHandler(nullptr);
     const auto &unit = *testing::UnitTest::GetInstance();
     if (result == 0 && unit.test_to_run_count() > 0 && unit.skipped_test_count() == unit.test_to_run_count())

@@ -88,13 +88,14 @@ std::chrono::steady_clock::duration OdbcConnection::idleTime() const
     return std::chrono::steady_clock::now() - m_idleSince;
 }
 
+// Narrow, as all of them are ASCII: a driver of narrow texts then writes into this room itself. It may write
+// nothing for what it does not know, and the driver manager would widen whatever its own room holds.
 QString OdbcConnection::info(SQLUSMALLINT what) const
 {
-    Text buffer{};
-    SQLSMALLINT bytes = 0;
+    std::array<char, 1024> buffer{};
     const SQLRETURN code =
-        SQLGetInfoW(m_connection, what, buffer.data(), static_cast<SQLSMALLINT>(sizeof buffer), &bytes);
-    return succeeded(code) ? textOf(buffer, bytes) : QString();
+        SQLGetInfoA(m_connection, what, buffer.data(), static_cast<SQLSMALLINT>(buffer.size() - 1), nullptr);
+    return succeeded(code) ? QString::fromLatin1(buffer.data()) : QString();
 }
 
 SQLUINTEGER OdbcConnection::number(SQLUSMALLINT what) const

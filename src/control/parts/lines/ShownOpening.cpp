@@ -12,6 +12,7 @@ ShownOpening::ShownOpening(QWidget &window, std::function<QRect()> place, VSFlex
 ShownOpening::~ShownOpening()
 {
     *m_scrolled = m_preview.scrolledTo();
+    m_line.setScrolledView(nullptr); // it watches events, also those of a view that is being deleted
 }
 
 bool ShownOpening::shouldContinue(qint64 rowsDone)
