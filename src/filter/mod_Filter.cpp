@@ -61,7 +61,7 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
     if (!fromText.isEmpty()) {
         SetFilterTableName();
         // Elsewhere than in one name a "." stands between a table and its field.
-        if (request.dbType == dbOracle && !fromText.contains(u' '))
+        if (namesOwners(request.dbType) && !fromText.contains(u' '))
             SplitFilterTableName();
     }
 

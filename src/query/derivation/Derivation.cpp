@@ -3,6 +3,7 @@
 #include "query/CharText.h"
 #include "query/QueryTexts.h"
 #include "sql/Names.h"
+#include "sql/Predicates.h"
 #include "sql/select/SqlWalk.h"
 
 #include <algorithm>
@@ -292,17 +293,16 @@ QString Derivation::asTable() const
     // A limit takes its rows in an order, and so does DISTINCT ON. Any other order is for what comes outside.
     const bool isOrdered =
         !m_parts.order.isEmpty() && !m_parts.isLimited && !m_parts.isTop && !m_parts.isDistinctOn;
-    if (isOrdered && (!outerSort().isEmpty() || m_dialect.likelyEngine() == Engine::SqlServer)) {
+    if (isOrdered && (!outerSort().isEmpty() || !takesInnerSort(m_dialect))) {
         const qsizetype start = m_sql.at(all.begin).start;
         const qsizetype from = m_sql.at(m_parts.order.begin).start - start;
         inner.remove(from, m_sql.at(m_parts.order.end - 1).end() - start - from);
     }
     inner = inner.trimmed();
-    // SQLite would sort before it takes the first records.
-    if (m_dialect.engine == Engine::SQLite && m_parts.isLimited && m_parts.order.isEmpty())
+    if (sortsBeforeInnerLimit(m_dialect) && m_parts.isLimited && m_parts.order.isEmpty())
         inner = u"SELECT *\nFROM (\n"_s + inner + u"\n) LIMIT -1"_s;
     // A comment to the end of its line must not swallow the bracket.
-    return u"(\n"_s + inner + u"\n)"_s + (m_dialect.likelyEngine() == Engine::Oracle ? u" Q"_s : u" AS Q"_s);
+    return u"(\n"_s + inner + u"\n)"_s + innerTableAlias(m_dialect, u"Q"_s);
 }
 
 std::vector<OuterTerm> Derivation::outerTerms() const
