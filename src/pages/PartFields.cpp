@@ -61,6 +61,7 @@ std::optional<NamedFields> read(const QString &statement, AllDBType database, co
     NamedFields named;
     named.table = textOf(sql, parts.source);
     named.words = textOf(sql, parts.listWords);
+    named.group = textOf(sql, parts.group);
     for (const SelectParts::Item &item : parts.items) {
         if (item.tokens.isEmpty())
             return std::nullopt; // not to be understood: what was listed before is better than half of it
@@ -75,15 +76,15 @@ std::optional<NamedFields> read(const QString &statement, AllDBType database, co
     return named;
 }
 
-QString compose(const QStringList &fields, const QString &table, AllDBType database, const QString &words)
+QString compose(const NamedFields &named, AllDBType database)
 {
-    if (fields.isEmpty())
+    if (named.fields.isEmpty())
         return {};
     QStringList written;
-    for (const QString &field : fields)
+    for (const QString &field : named.fields)
         written += writesBrackets(database) ? enclosed(field) : field;
-    return u"select "_s + (words.isEmpty() ? QString() : words + u' ') + written.join(u',') + u" from "_s +
-           table;
+    return u"select "_s + (named.words.isEmpty() ? QString() : named.words + u' ') + written.join(u',') +
+           u" from "_s + named.table + (named.group.isEmpty() ? QString() : u' ' + named.group);
 }
 
 bool isSame(const QString &a, const QString &b)

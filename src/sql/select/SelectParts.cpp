@@ -5,6 +5,7 @@
 #include "sql/select/SqlWalk.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace KOVAVSFDataGridLib {
 
@@ -141,10 +142,10 @@ private:
             m_parts.isCompound = true;
             return &other;
         }
-        if ((m_sql.isWord(index, u"GROUP") && m_sql.isWord(index + 1, u"BY")) ||
-            m_sql.isWord(index, u"HAVING")) {
+        const bool isGroup = m_sql.isWord(index, u"GROUP") && m_sql.isWord(index + 1, u"BY");
+        if (isGroup || m_sql.isWord(index, u"HAVING")) {
             m_parts.isGrouped = true;
-            return &other;
+            return std::exchange(m_isInGroup, isGroup) ? nullptr : &m_parts.group;
         }
         if (isOneOf(m_sql, index, {u"LIMIT", u"OFFSET", u"FETCH"})) {
             m_parts.isLimited = true;
@@ -301,6 +302,7 @@ private:
 
     const SqlScanner &m_sql;
     qsizetype m_end;
+    bool m_isInGroup = false; // GROUP BY was read, to which HAVING belongs
     SelectParts m_parts;
 };
 

@@ -44,6 +44,7 @@ struct SelectParts
     TextRange list;
     TextRange source; // between FROM and the next clause; empty without FROM
     TextRange where;  // from the word WHERE on
+    TextRange group;  // from GROUP BY or HAVING on, with both
     TextRange order;  // from ORDER BY on
     bool isDistinct = false;
     bool isDistinctOn = false; // DISTINCT ON (…), whose sort decides which rows it leaves
