@@ -279,6 +279,17 @@ INSTANTIATE_TEST_SUITE_P(
         // What follows the last word must not swallow the condition.
         OpenCase{"NumberSign", Engine::MySQL, u"select A, B from T # all"_s, u"A|B"_s,
                  "SELECT A, B FROM T WHERE B = 1"},
+        // What MySQL runs of a comment: words without effect, and a condition that some versions skip.
+        OpenCase{
+            "VersionComment", Engine::MySQL,
+            u"select /*!40001 sql_no_cache */ /*M!100100 high_priority */ A, B from T where C = 2"_s,
+            u"A|B"_s,
+            "SELECT /*!40001 sql_no_cache */ /*M!100100 high_priority */ A, B FROM T where C = 2 AND B = 1"},
+        OpenCase{"VersionedCondition", Engine::MySQL, u"select A, B from T where C = 2 /*! or D = 1 */"_s,
+                 u"A|B"_s,
+                 "SELECT * FROM ( select A, B from T where C = 2 /*! or D = 1 */ ) AS Q WHERE B = 1"},
+        OpenCase{"VersionedList", Engine::MySQL, u"select /*! distinct */ A, B from T"_s, u"A|B"_s,
+                 "SELECT * FROM ( select /*! distinct */ A, B from T ) AS Q WHERE B = 1"},
         OpenCase{"NumberSignInside", Engine::MySQL, u"select A, B from T # where\n where A = 2"_s, u"A|B"_s,
                  "select A, B from T # where where A = 2 AND B = 1"},
         OpenCase{"Dashes", Engine::SQLite, u"select A, B from T --all"_s, u"A|B"_s,

@@ -29,7 +29,8 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
     // A condition leaves the same rows before and after DISTINCT.
     const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
                         !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
-                        !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isClosed && m_isListKnown;
+                        !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isVersioned && !m_parts.isClosed &&
+                        m_isListKnown;
     if (!isOpen) {
         m_kind = Kind::Closed;
         m_written.clear();
@@ -70,7 +71,7 @@ bool Derivation::keepsListWords() const
 {
     return (m_parts.isDistinct || m_parts.isTop) && !m_parts.source.isEmpty() && !m_parts.isCompound &&
            !m_parts.isGrouped && !m_parts.isLimited && !m_parts.hasWindow && !m_parts.hasRows &&
-           !m_parts.isClosed && m_isListKnown;
+           !m_parts.isVersioned && !m_parts.isClosed && m_isListKnown;
 }
 
 bool Derivation::isTextWork(DerivationStep step) const
@@ -161,7 +162,7 @@ std::vector<qsizetype> Derivation::unitedConditions() const
 
 bool Derivation::hasAsTable(const Derivation &other) const
 {
-    return m_parts.isDerivedTable && other.m_kind == Kind::Closed &&
+    return m_kind != Kind::Closed && m_parts.isDerivedTable && other.m_kind == Kind::Closed &&
            source().simplified().compare(other.source().simplified(), Qt::CaseInsensitive) == 0;
 }
 

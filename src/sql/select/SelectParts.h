@@ -54,6 +54,7 @@ struct SelectParts
     bool isLimited = false;    // LIMIT, OFFSET, FETCH, ROWNUM
     bool hasWindow = false;    // a window function or a WINDOW clause
     bool hasRows = false;      // a function in the list that gives several rows
+    bool isVersioned = false;  // MySQL runs a part of it, or skips that, by its version
     bool isClosed = false;     // has what no derived table can hold: FOR, INTO, OPTION and the like
     std::vector<Item> items;
     std::vector<Item> sort;
