@@ -114,10 +114,8 @@ std::vector<FilterField> FilterSource::readFields()
         m_fromText = written;
     }
 
-    const auto isNamed = [](const QString &name) {
-        return [name](const ADODB::FieldInfo &info) {
-            return info.name.compare(name, Qt::CaseInsensitive) == 0;
-        };
+    const auto isNamed = [this](const QString &name) {
+        return [this, name](const ADODB::FieldInfo &info) { return isOneName(dialect(), info.name, name); };
     };
     std::vector<FilterField> fields;
     QSet<QString> captions;

@@ -90,6 +90,12 @@ QString nameInBrackets(const Dialect &dialect, const QString &name)
     return dialect.engine == Engine::Other ? enclosedAsIs(u'[', name, u']') : quotedName(dialect, name);
 }
 
+bool isOneName(const Dialect &dialect, const QString &a, const QString &b)
+{
+    const bool tellsCase = dialect.engine == Engine::PostgreSQL || dialect.engine == Engine::Oracle;
+    return a.compare(b, tellsCase ? Qt::CaseSensitive : Qt::CaseInsensitive) == 0;
+}
+
 bool takesBrackets(const Dialect &dialect)
 {
     const Engine engine = dialect.engine;
