@@ -4,6 +4,9 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 
+#include <QtSql/QSqlDatabase>
+#include <QtSql/QSqlError>
+#include <QtSql/QSqlQueryModel>
 #include <sqlite3.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -90,6 +93,19 @@ Measurement openRecordset(const BenchTable &table)
     recordset.SetProgress([](qint64) { return true; });
     open(recordset, table, true);
     return watch.read();
+}
+
+void fetch(QSqlQueryModel &model, const BenchTable &table)
+{
+    QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s);
+    database.setDatabaseName(QString::fromUtf8(table.path));
+    if (!database.open())
+        stop(qPrintable(database.lastError().text()));
+    model.setQuery(QString::fromLatin1(wholeTable), database);
+    while (model.canFetchMore())
+        model.fetchMore();
+    if (model.rowCount() != table.rows || model.columnCount() != table.columns)
+        stop("the query model did not read the table");
 }
 
 Measurement inChild(Measurement (*work)(const BenchTable &), const BenchTable &table)

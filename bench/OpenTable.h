@@ -5,6 +5,8 @@
 #include <chrono>
 #include <ctime>
 
+class QSqlQueryModel;
+
 namespace ADODB {
 class Recordset;
 }
@@ -48,6 +50,9 @@ Measurement readByBareLoop(const BenchTable &table);
 void open(ADODB::Recordset &recordset, const BenchTable &table, bool isEditable);
 // As a grid opens it: ready for editing, and with a report that looks at nothing.
 Measurement openRecordset(const BenchTable &table);
+
+// Qt's own model with all rows.
+void fetch(QSqlQueryModel &model, const BenchTable &table);
 
 // Answers what `work` does in a child process, with that one's memory peak.
 Measurement inChild(Measurement (*work)(const BenchTable &), const BenchTable &table);

@@ -9,7 +9,6 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QTemporaryDir>
-#include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlQueryModel>
 
 #include <algorithm>
@@ -51,16 +50,8 @@ Measurement fetchModel(const BenchTable &table)
     int argc = 0;
     const QCoreApplication app(argc, nullptr);
     const Stopwatch watch;
-    QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s);
-    database.setDatabaseName(QString::fromUtf8(table.path));
-    if (!database.open())
-        stop("Qt's driver for SQLite is missing");
     QSqlQueryModel model;
-    model.setQuery(QString::fromLatin1(wholeTable), database);
-    while (model.canFetchMore())
-        model.fetchMore();
-    if (model.rowCount() != table.rows)
-        stop("the query model did not read the table");
+    fetch(model, table);
     return watch.read();
 }
 

@@ -11,8 +11,6 @@
 #include "grid/cells/RecordWindow.h"
 
 #include <QtCore/QTemporaryDir>
-#include <QtSql/QSqlDatabase>
-#include <QtSql/QSqlError>
 #include <QtSql/QSqlQueryModel>
 #include <QtWidgets/QApplication>
 
@@ -75,16 +73,8 @@ Measurement paintTableView(const BenchTable &table)
     int argc = 0;
     const QApplication app(argc, nullptr);
     const Stopwatch watch;
-    QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s);
-    database.setDatabaseName(QString::fromUtf8(table.path));
-    if (!database.open())
-        stop(qPrintable(database.lastError().text()));
     QSqlQueryModel model;
-    model.setQuery(QString::fromLatin1(wholeTable), database);
-    while (model.canFetchMore())
-        model.fetchMore();
-    if (model.rowCount() != rowCount || model.columnCount() != columnCount)
-        stop("the query model did not read the table");
+    fetch(model, table);
     QTableView view;
     view.setModel(&model);
     showAndPaint(view);

@@ -7,9 +7,9 @@
 #include "ado/Recordset.h"
 #include "ado/connection/EngineOf.h"
 #include "ado/connection/OleDbDrivers.h"
+#include "ado/connection/UntypedFields.h"
 #include "filter/conditions/FilterSql.h"
 #include "filter/conditions/ValueStatements.h"
-#include "sql/Literals.h"
 #include "sql/Names.h"
 
 #include <QtCore/QHash>
@@ -83,7 +83,7 @@ bool FilterSource::askWhetherBackslashEscapes()
 {
     const auto &open = connection(); // a server out of reach is an error here as well
     const EngineMode mode = engineOf(open);
-    if (mode.engine != Engine::Standard || !dialect().isOdbc)
+    if (mode.tellsOfBackslashes() || !dialect().isOdbc)
         return mode.escapesByBackslash();
     try {
         ADODB::Recordset backslashes;
@@ -114,10 +114,8 @@ std::vector<FilterField> FilterSource::readFields()
         m_fromText = written;
     }
 
-    const auto isNamed = [](const QString &name) {
-        return [name](const ADODB::FieldInfo &info) {
-            return info.name.compare(name, Qt::CaseInsensitive) == 0;
-        };
+    const auto isNamed = [this](const QString &name) {
+        return [this, name](const ADODB::FieldInfo &info) { return isOneName(dialect(), info.name, name); };
     };
     std::vector<FilterField> fields;
     QSet<QString> captions;
@@ -143,23 +141,8 @@ FilterField FilterSource::fieldOf(const QString &caption, const QString &written
     if (type == ADODB::adDouble || type == ADODB::adSingle)
         field.floatSize = type == ADODB::adDouble ? FloatSize::Double : FloatSize::Single;
     field.isComputed = info.baseColumn.isEmpty();
-    field.isUntyped = field.fieldClass == FieldClass::Text && dialect().engine == Engine::SQLite &&
-                      !dialect().isOdbc && (field.isComputed || hasNoDeclaredType(info));
+    field.isUntyped = field.fieldClass == FieldClass::Text && ADODB::isUntyped(connection(), info);
     return field;
-}
-
-// SQLite then keeps each value as what it is.
-bool FilterSource::hasNoDeclaredType(const ADODB::FieldInfo &info)
-{
-    try {
-        ADODB::Recordset columns;
-        columns.Open(u"SELECT 1 FROM pragma_table_xinfo(%1) WHERE name = %2 AND type = ''"_s.arg(
-                         textLiteral(dialect(), info.baseTable), textLiteral(dialect(), info.baseColumn)),
-                     connection());
-        return columns.RecordCount() > 0;
-    } catch (const ADODB::Error &) {
-        return false; // a table of another database that is attached
-    }
 }
 
 // Fields of equal names keep the order in which the user sees them.

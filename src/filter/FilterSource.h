@@ -63,7 +63,6 @@ private:
     std::vector<FilterField> readOfferedFields();
     FilterField fieldOf(const QString &caption, const QString &written, ADODB::DataTypeEnum type,
                         const ADODB::FieldInfo &info);
-    bool hasNoDeclaredType(const ADODB::FieldInfo &info);
     bool askWhetherBackslashEscapes();
 
     AllDBType m_database = dbAccess;

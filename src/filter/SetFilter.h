@@ -51,7 +51,7 @@ public:
     // so and stays as it is.
     BuiltFilter State() const;
     void PutState(const BuiltFilter &state);
-    // Begins with a value of a field; the next text typed replaces it.
+    // As FilterRow has it. The user has not changed anything then.
     void Suggest(const QString &field, const QString &value);
     // Whether the user has changed anything since the builder was prepared.
     bool IsChanged() const { return State() != m_stateBefore; }

@@ -7,25 +7,8 @@
 #include "query/conditions/Conditions.h"
 
 #include <QtCore/QJsonDocument>
-#include <QtWidgets/QComboBox>
 
 namespace KOVAVSFDataGridLib {
-
-namespace {
-
-// The keyboard goes on to what is compared.
-void beginWithField(const SetFilter &builder, const QString &field)
-{
-    auto *const fields = builder.findChild<QComboBox *>(QStringLiteral("cmbField1"));
-    const int found = fields ? fields->findText(field) : -1;
-    if (found < 0)
-        return;
-    fields->setCurrentIndex(found);
-    if (auto *const operators = builder.findChild<QComboBox *>(QStringLiteral("cmbOperator1")))
-        operators->setFocus();
-}
-
-} // namespace
 
 bool isConnectionNeeded(const FilterRequest &request)
 {
@@ -61,7 +44,7 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
     if (!fromText.isEmpty()) {
         SetFilterTableName();
         // Elsewhere than in one name a "." stands between a table and its field.
-        if (request.dbType == dbOracle && !fromText.contains(u' '))
+        if (namesOwners(request.dbType) && !fromText.contains(u' '))
             SplitFilterTableName();
     }
 
@@ -85,10 +68,8 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
         builder.SetTableName(fromText);
     if (const auto built = builtFilterOf(QJsonDocument::fromJson(request.built.toUtf8()).object()))
         builder.PutState(*built);
-    else if (!request.value.isEmpty())
-        builder.Suggest(request.field, request.value);
     else if (!request.field.isEmpty())
-        beginWithField(builder, request.field);
+        builder.Suggest(request.field, request.value);
 }
 
 QString mod_Filter::Built() const

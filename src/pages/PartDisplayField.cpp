@@ -111,6 +111,7 @@ void PartDisplayField::listFields()
 
     m_table = all ? all->table : part->table;
     m_words = all ? all->words : part->words;
+    m_group = all ? all->group : part->group;
     const QStringList chosen = part ? part->fields : QStringList();
     m_chosen->clear();
     m_chosen->addItems(chosen);
@@ -130,7 +131,9 @@ void PartDisplayField::move(QListWidget &from, QListWidget &to)
         return;
     to.addItem(from.takeItem(from.row(selected.first())));
     to.setCurrentRow(to.count() - 1);
-    text().setText(PartFields::compose(textsOf(*m_chosen), m_table, databaseOf(*control()), m_words));
+    text().setText(PartFields::compose(
+        {.fields = textsOf(*m_chosen), .table = m_table, .words = m_words, .group = m_group},
+        databaseOf(*control())));
     enableButtons();
 }
 

@@ -44,6 +44,7 @@ private:
     QPushButton *m_remove;
     QString m_table;
     QString m_words; // before the list
+    QString m_group; // behind the table
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -35,12 +35,12 @@ QStringList starFields(const QString &star, const QString &table, AllDBType data
 {
     const QStringList names = reader(u"select %1 from %2"_s.arg(star, table)).value_or(QStringList());
     const QString qualifier = star.chopped(1); // with its dot
-    const Dialect dialect = dialectOf(database, Engine::Other);
+    const Dialect dialect = dialectOf(database, {});
     QStringList fields;
     for (const QString &name : names) {
         if (names.count(name) > 1)
             continue;
-        if (database != dbAccess)
+        if (!writesBrackets(database))
             fields += qualifier + writtenName(dialect, name);
         else if (!qualifier.isEmpty() || isMoreThanAName(name) || name.contains(u'.'))
             fields += qualifier + quotedName(dialect, name);
@@ -61,6 +61,7 @@ std::optional<NamedFields> read(const QString &statement, AllDBType database, co
     NamedFields named;
     named.table = textOf(sql, parts.source);
     named.words = textOf(sql, parts.listWords);
+    named.group = textOf(sql, parts.group);
     for (const SelectParts::Item &item : parts.items) {
         if (item.tokens.isEmpty())
             return std::nullopt; // not to be understood: what was listed before is better than half of it
@@ -70,20 +71,20 @@ std::optional<NamedFields> read(const QString &statement, AllDBType database, co
             continue;
         }
         const QString text = itemText(sql, item);
-        named.fields += database == dbAccess ? withoutSpareBrackets(text) : text;
+        named.fields += writesBrackets(database) ? withoutSpareBrackets(text) : text;
     }
     return named;
 }
 
-QString compose(const QStringList &fields, const QString &table, AllDBType database, const QString &words)
+QString compose(const NamedFields &named, AllDBType database)
 {
-    if (fields.isEmpty())
+    if (named.fields.isEmpty())
         return {};
     QStringList written;
-    for (const QString &field : fields)
-        written += database == dbAccess ? enclosed(field) : field;
-    return u"select "_s + (words.isEmpty() ? QString() : words + u' ') + written.join(u',') + u" from "_s +
-           table;
+    for (const QString &field : named.fields)
+        written += writesBrackets(database) ? enclosed(field) : field;
+    return u"select "_s + (named.words.isEmpty() ? QString() : named.words + u' ') + written.join(u',') +
+           u" from "_s + named.table + (named.group.isEmpty() ? QString() : u' ' + named.group);
 }
 
 bool isSame(const QString &a, const QString &b)

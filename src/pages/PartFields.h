@@ -16,6 +16,7 @@ struct NamedFields
     QStringList fields; // as written, but for dbAccess without the brackets around a whole name
     QString table;      // the FROM text, without blanks at its ends
     QString words = {}; // DISTINCT and the like before the list
+    QString group = {}; // GROUP BY and HAVING
 };
 
 // The names of the fields that a SELECT of no conditions has; nothing when they can't be read.
@@ -25,10 +26,8 @@ using StarReader = std::function<std::optional<QStringList>(const QString &state
 // Nothing when the statement has no table.
 std::optional<NamedFields> read(const QString &statement, AllDBType database, const StarReader &reader = {});
 
-// The SELECT of these fields, with `words` before its list; empty without fields. For dbAccess each name is
-// enclosed in "[" and "]".
-QString compose(const QStringList &fields, const QString &table, AllDBType database,
-                const QString &words = {});
+// The SELECT of these fields; empty without fields. For dbAccess each name is enclosed in "[" and "]".
+QString compose(const NamedFields &named, AllDBType database);
 
 // Whether both are the same field, brackets or not.
 bool isSame(const QString &a, const QString &b);

@@ -77,7 +77,7 @@ PrintPreview::PrintPreview(Choices choices, QWidget *parent)
     if (auto *const view = m_pages->findChild<QAbstractScrollArea *>())
         view->setAccessibleName(PrintTexts::Title); // it takes the keyboard for the pages
     layOut();
-    findChild<QPushButton *>(u"cmdPrint"_s)->setFocus();
+    m_print->setFocus();
     connect(m_pages, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter *on) { drawPages(*on); });
     connect(m_pages, &QPrintPreviewWidget::previewChanged, this,
             [this] { showPage(m_pages->currentPage()); });
@@ -142,12 +142,12 @@ QWidget *PrintPreview::makeButtons()
     m_next->setText(PrintTexts::NextPage);
     connect(m_previous, &QToolButton::clicked, this, [this] { showPage(m_pages->currentPage() - 1); });
     connect(m_next, &QToolButton::clicked, this, [this] { showPage(m_pages->currentPage() + 1); });
-    auto *printButton = named(new QPushButton(PrintTexts::Print), u"cmdPrint"_s);
+    m_print = named(new QPushButton(PrintTexts::Print), u"cmdPrint"_s);
     auto *pdfButton = named(new QPushButton(PrintTexts::SavePdf), u"cmdPdf"_s);
     auto *closeButton = named(new QPushButton(PrintTexts::Close), u"cmdCancel"_s);
-    for (QPushButton *button : {printButton, pdfButton, closeButton})
+    for (QPushButton *button : {m_print, pdfButton, closeButton})
         button->setAutoDefault(false); // Enter ends the title
-    connect(printButton, &QPushButton::clicked, this, &PrintPreview::print);
+    connect(m_print, &QPushButton::clicked, this, &PrintPreview::print);
     connect(pdfButton, &QPushButton::clicked, this, &PrintPreview::savePdf);
     connect(closeButton, &QPushButton::clicked, this, &QDialog::reject);
 
@@ -157,7 +157,7 @@ QWidget *PrintPreview::makeButtons()
     row->addWidget(m_previous);
     row->addWidget(m_next);
     row->addWidget(m_place, 1);
-    row->addWidget(printButton);
+    row->addWidget(m_print);
     row->addWidget(pdfButton);
     row->addWidget(closeButton);
     return buttons;

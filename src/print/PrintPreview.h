@@ -12,6 +12,7 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPrintPreviewWidget;
+class QPushButton;
 class QToolButton;
 
 namespace KOVAVSFDataGridLib {
@@ -64,6 +65,7 @@ private:
     QToolButton *m_previous;
     QToolButton *m_next;
     QLabel *m_place;
+    QPushButton *m_print;
     qint64 m_pageCount = 0;
     QString m_file; // of the PDF file; empty for a printer
 };

@@ -1,6 +1,7 @@
 #include "query/clsFilterManagement.h"
 
 #include "query/CharText.h"
+#include "sql/AllDBType.h"
 #include "sql/Names.h"
 
 namespace KOVAVSFDataGridLib {
@@ -123,8 +124,8 @@ bool clsFilterManagement::GetPartShowSelFields(const QString &strAllFields, cons
         return !strRetFields.isEmpty();
     }
     QString source = getFromPart(m_history.LineOf(strCurrentSQL));
-    if (m_dbType == dbOracle) {
-        // Oracle doesn't know brackets. List and source are rewritten apart, so that a lone apostrophe in a
+    if (!readsBrackets(m_dbType)) {
+        // List and source are rewritten apart, so that a lone apostrophe in a
         // name doesn't pair up with one behind FROM.
         chosen = bracketsToQuotes(chosen);
         source = bracketsToQuotes(source);

@@ -358,8 +358,7 @@ bool colShowSQLSentences::FillCatalogue(const QString &connectionString, const Q
     m_catalogue.Clear();
     const Dialect dialect = dialectOf(m_database, engineOf(connectionString));
     const auto derivation = DerivationOf(statement, *fields, connectionString);
-    const bool isText =
-        dialect.engine == Engine::Other || (derivation->isSimple() && !derivation->isJoined());
+    const bool isText = !dialect.isKnown() || (derivation->isSimple() && !derivation->isJoined());
     for (std::size_t i = 0; i < fields->size(); ++i) {
         const SourceField &source = fields->at(i);
         if (source.name.isEmpty())

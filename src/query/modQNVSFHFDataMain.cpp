@@ -30,7 +30,7 @@ std::optional<ParseFailure> ParsedStatements::ParseSQLFieldList(const QString &s
     QString text = selectStatement(statement);
     if (text.isEmpty())
         return std::nullopt;
-    if (database != dbOracle) {
+    if (readsBrackets(database)) {
         if (const auto where = findUpper(text, QStringLiteral(" WHERE ")); where > 0)
             text = First(text, where - 1);
     }
@@ -46,12 +46,12 @@ std::optional<ParseFailure> ParsedStatements::ParseSQLFieldList(const QString &s
     const QString last = items.takeLast();
     for (const QString &written : items) {
         const QString item = trim(written);
-        colSQLFields.append(database == dbOracle ? item : withoutBrackets(item));
+        colSQLFields.append(readsBrackets(database) ? withoutBrackets(item) : item);
     }
     // The last item differs from the others: elsewhere than on Oracle it keeps its blanks, which also shield
     // its "[".
     if (!last.contains(u'*'))
-        colSQLFields.append(database == dbOracle ? trim(last) : withoutBrackets(last));
+        colSQLFields.append(readsBrackets(database) ? withoutBrackets(last) : trim(last));
     return std::nullopt;
 }
 

@@ -17,6 +17,7 @@
 #include "session/statement/ConnectionFieldReader.h"
 #include "session/statement/ShownStatement.h"
 #include "session/statement/StatementReader.h"
+#include "sql/AllDBType.h"
 #include "sql/StatementLines.h"
 
 namespace KOVAVSFDataGridLib {
@@ -55,7 +56,7 @@ std::optional<LoadedStatement> statementToOpen(Session &session, clsFilterManage
     const QString &connectionString = session.texts.connectionString;
     LoadedStatement first{session.texts.sqlShow, manager.GetCurrentSQL20(FirstStatement)};
     // What is missing is reported when the statement is opened.
-    if (session.shared.dbType == dbOracle && !connectionString.isEmpty() && !first.line.isEmpty()) {
+    if (spellsOutStar(session.shared.dbType) && !connectionString.isEmpty() && !first.line.isEmpty()) {
         QString rewritten;
         if (!manager.SQLManager().GetAllFieldNameSQL(connectionString, first.line, rewritten))
             return {};

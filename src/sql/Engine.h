@@ -27,6 +27,8 @@ struct EngineMode
     // A backslash in a text begins an escape, as MariaDB has it unless it is configured not to.
     bool escapesByBackslash() const { return engine == Engine::MySQL && quoting.backslashEscapes; }
     bool isKnown() const { return engine != Engine::Other; }
+    // Whether the engine's name says what a backslash means to it.
+    bool tellsOfBackslashes() const { return engine != Engine::Standard; }
 };
 
 // What decides how a statement is written and read.
@@ -38,6 +40,7 @@ struct Dialect
     Engine engine = Engine::Other;
     bool ansiQuotes = false; // "…" is a name to an engine that usually takes it for a text
 
+    bool isKnown() const { return engine != Engine::Other; }
     // The engine, or where that is not known the one that the declared type names.
     Engine likelyEngine() const;
 

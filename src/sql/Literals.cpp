@@ -74,10 +74,16 @@ double halfStepOfFloat(double number)
     return (static_cast<double>(next) - static_cast<double>(nearest)) / 2;
 }
 
-// SQLite has no type for dates. `form` makes one text of all those that mean the same; %1 is the field.
+// SQLite has no type for dates; through ODBC its driver has.
+bool keepsDatesAsTexts(const Dialect &dialect)
+{
+    return dialect.engine == Engine::SQLite && !dialect.isOdbc;
+}
+
+// `form` makes one text of all those that mean the same; %1 is the field.
 QString inOneForm(const Dialect &dialect, const QString &field, const QString &form)
 {
-    return dialect.engine == Engine::SQLite && !dialect.isOdbc ? form.arg(field) : field;
+    return keepsDatesAsTexts(dialect) ? form.arg(field) : field;
 }
 
 QString timeText(QTime time, const QString &finer)
@@ -150,6 +156,11 @@ QString dateOperand(const Dialect &dialect, const QString &field)
 QString dayOperand(const Dialect &dialect, const QString &field)
 {
     return inOneForm(dialect, field, u"COALESCE(date(%1), %1)"_s);
+}
+
+bool daysHaveTimes(const Dialect &dialect)
+{
+    return keepsDatesAsTexts(dialect);
 }
 
 QString dayValue(const Dialect &dialect, const QString &field)

@@ -51,6 +51,9 @@ QString dateOperand(const Dialect &dialect, const QString &field);
 QString dayOperand(const Dialect &dialect, const QString &field);
 QString momentOperand(const Dialect &dialect, const QString &field);
 
+// Whether a field of days can hold moments as well.
+bool daysHaveTimes(const Dialect &dialect);
+
 // The day of a field of days or moments as a value of its own; the field itself where no way to write it is
 // known.
 QString dayValue(const Dialect &dialect, const QString &field);

@@ -1,5 +1,6 @@
 #include "sql/Names.h"
 
+#include "sql/AllDBType.h"
 #include "sql/ReservedWords.h"
 
 #include <QtCore/QList>
@@ -87,6 +88,19 @@ QString quotedName(const Dialect &dialect, const QString &name)
 QString nameInBrackets(const Dialect &dialect, const QString &name)
 {
     return dialect.engine == Engine::Other ? enclosedAsIs(u'[', name, u']') : quotedName(dialect, name);
+}
+
+bool isOneName(const Dialect &dialect, const QString &a, const QString &b)
+{
+    const bool tellsCase = dialect.engine == Engine::PostgreSQL || dialect.engine == Engine::Oracle;
+    return a.compare(b, tellsCase ? Qt::CaseSensitive : Qt::CaseInsensitive) == 0;
+}
+
+bool takesBrackets(const Dialect &dialect)
+{
+    const Engine engine = dialect.engine;
+    return writesBrackets(dialect.database) && (engine == Engine::Other || engine == Engine::Access ||
+                                                engine == Engine::SQLite || engine == Engine::SqlServer);
 }
 
 QString enclosed(QChar opening, QString name, QChar closing)

@@ -22,6 +22,13 @@ QString quotedName(const Dialect &dialect, const QString &name);
 // engine it stays as it is inside them, because such an engine may not read a doubled bracket as one.
 QString nameInBrackets(const Dialect &dialect, const QString &name);
 
+// Whether two names, as the database reports them, are one to it.
+bool isOneName(const Dialect &dialect, const QString &a, const QString &b);
+
+// Whether names are put in brackets: the host declares Access, and the engine reads them too as far as it is
+// known.
+bool takesBrackets(const Dialect &dialect);
+
 // The text between two quote characters, the closing one doubled inside.
 QString enclosed(QChar opening, QString name, QChar closing);
 // The same with quotes inside left as they are, for an unknown engine, which may not read a doubled one as

@@ -27,12 +27,39 @@ QString isNotEmptyText(const Dialect &dialect, const QString &field)
            (dialect.database == dbOracle ? " LIKE '_%'"_L1 : " <> ''"_L1);
 }
 
-QString rowLimit(const Dialect &dialect, int count)
+RowLimit rowLimit(const Dialect &dialect, int count)
 {
     const Engine engine = dialect.engine;
+    if (dialect.isOdbc && engine == Engine::Access)
+        return {u"TOP %1 "_s.arg(count), {}};
     const bool knowsLimit = !dialect.isOdbc || engine == Engine::SQLite || engine == Engine::PostgreSQL ||
                             engine == Engine::MySQL;
-    return (knowsLimit ? u"LIMIT %1"_s : u"OFFSET 0 ROWS FETCH NEXT %1 ROWS ONLY"_s).arg(count);
+    return {{}, (knowsLimit ? u" LIMIT %1"_s : u" OFFSET 0 ROWS FETCH NEXT %1 ROWS ONLY"_s).arg(count)};
+}
+
+RowLimit rowLimitWithoutSort(const Dialect &dialect, int count)
+{
+    RowLimit limit = rowLimit(dialect, count);
+    // SQL Server takes OFFSET only after a sort.
+    if (dialect.likelyEngine() == Engine::SqlServer && limit.behindSort.contains("OFFSET"_L1))
+        limit.behindSort.prepend(" ORDER BY (SELECT NULL)"_L1);
+    return limit;
+}
+
+QString innerTableAlias(const Dialect &dialect, const QString &name)
+{
+    return (dialect.likelyEngine() == Engine::Oracle ? " "_L1 : " AS "_L1) + name;
+}
+
+bool takesInnerSort(const Dialect &dialect)
+{
+    return dialect.likelyEngine() != Engine::SqlServer;
+}
+
+// SQLite makes one SELECT of both.
+bool sortsBeforeInnerLimit(const Dialect &dialect)
+{
+    return dialect.engine == Engine::SQLite;
 }
 
 } // namespace KOVAVSFDataGridLib

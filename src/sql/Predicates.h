@@ -14,7 +14,23 @@ QString isTrue(const Dialect &dialect, const QString &field, bool wanted);
 QString isEmptyText(const Dialect &dialect, const QString &field);
 QString isNotEmptyText(const Dialect &dialect, const QString &field);
 
-// What follows ORDER BY and its list so that at most `count` rows are read.
-QString rowLimit(const Dialect &dialect, int count);
+// The words of a SELECT that is to give its first records only. Each has the blank that keeps it apart.
+struct RowLimit
+{
+    QString beforeList;
+    QString behindSort;
+};
+RowLimit rowLimit(const Dialect &dialect, int count);
+// The same for a SELECT without a sort.
+RowLimit rowLimitWithoutSort(const Dialect &dialect, int count);
+
+// What follows the closing bracket of a SELECT that is selected from, with the blank before it.
+QString innerTableAlias(const Dialect &dialect, const QString &name);
+
+// Whether such a SELECT may be sorted where it isn't limited.
+bool takesInnerSort(const Dialect &dialect);
+
+// Whether an outer sort would be done before its limit takes the records.
+bool sortsBeforeInnerLimit(const Dialect &dialect);
 
 } // namespace KOVAVSFDataGridLib

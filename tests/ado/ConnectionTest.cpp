@@ -1,6 +1,8 @@
 #include "TestDatabase.h"
 #include "Throwing.h"
 
+#include "ado/connection/UntypedFields.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 
@@ -194,6 +196,8 @@ TEST(Connection, DescribesAStatementWithoutReadingARow)
     EXPECT_EQ(fields[1].attributes & adFldIsNullable, 0);
     EXPECT_EQ(fields[2].type, adVarWChar);
     EXPECT_EQ(fields[3].baseColumn, QString());
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        EXPECT_EQ(isUntyped(connection, fields[i]), i >= 2) << i;
     EXPECT_ADO_ERROR(dbErrMultipleStatements, connection->Describe(u"SELECT 1; SELECT 2"_s));
     connection->Close();
     EXPECT_ADO_ERROR(adErrObjectClosed, connection->Describe(u"SELECT 1"_s));

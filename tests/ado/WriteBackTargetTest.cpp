@@ -96,21 +96,58 @@ TEST(WriteBackTarget, RefusesResultsWhoseRowsAreNoneOfTheTable)
 {
     const TestDatabase database(script);
     const QByteArray before = database.fileBytes();
-    for (const QString &sql :
-         {u"SELECT name, (SELECT max(S.id)) FROM S"_s, u"SELECT name, (SELECT (SELECT min(S.id))) FROM S"_s,
-          u"SELECT name, (SELECT max(S.id) FROM W) FROM S"_s, u"SELECT id, 1 + total(v) AS v FROM S"_s,
-          u"SELECT a.id, a.name FROM S a, S b WHERE b.id = 4"_s,
-          u"SELECT b.* FROM S a JOIN S b ON b.id = a.id + 1"_s, u"SELECT * FROM S a NATURAL JOIN S b"_s,
-          u"SELECT * FROM (SELECT id, v, name FROM S)"_s, u"SELECT * FROM (S)"_s,
-          u"WITH S AS (SELECT 4 AS id, 5 AS v) SELECT id FROM S"_s, u"SELECT * FROM seen"_s,
-          u"SELECT id, sum(v) OVER () FROM S"_s, u"SELECT id IS DISTINCT FROM v FROM S"_s}) {
+    for (const QString &sql : {u"SELECT name, (SELECT max(S.id)) FROM S"_s,
+                               u"SELECT name, (SELECT (SELECT min(S.id))) FROM S"_s,
+                               u"SELECT name, (SELECT max(S.id) FROM W) FROM S"_s,
+                               u"SELECT id, 1 + total(v) AS v FROM S"_s,
+                               u"SELECT a.id, a.name FROM S a, S b WHERE b.id = 4"_s,
+                               u"SELECT b.* FROM S a JOIN S b ON b.id = a.id + 1"_s,
+                               u"SELECT * FROM S a NATURAL JOIN S b"_s,
+                               u"SELECT * FROM (SELECT id, v, name FROM S)"_s,
+                               u"SELECT * FROM (S)"_s,
+                               u"WITH S AS (SELECT 4 AS id, 5 AS v) SELECT id FROM S"_s,
+                               u"SELECT * FROM seen"_s,
+                               u"SELECT id, sum(v) OVER () FROM S"_s,
+                               u"SELECT id IS DISTINCT FROM v FROM S"_s,
+                               u"SELECT S.* FROM S JOIN loose ON loose.n = S.id"_s,
+                               u"SELECT * FROM S, W"_s,
+                               u"SELECT count(*) AS id FROM S"_s,
+                               u"SELECT max(id) AS id FROM S"_s,
+                               u"SELECT id, upper(group_concat(name)) FROM S"_s,
+                               u"SELECT v, count(*) FROM S GROUP BY v"_s,
+                               u"SELECT DISTINCT name FROM S"_s,
+                               u"SELECT id FROM S UNION SELECT 1"_s,
+                               u"WITH x AS (SELECT * FROM S) SELECT * FROM x"_s,
+                               u"SELECT id, row_number() OVER () FROM S"_s,
+                               u"VALUES (1)"_s,
+                               u"SELECT * FROM json_each('[1]')"_s,
+                               u"SELECT 1"_s}) {
         SCOPED_TRACE(sql.toStdString());
         const auto recordset = database.open(sql);
+        const qint64 records = recordset->RecordCount();
         EXPECT_ADO_ERROR(adErrFeatureNotAvailable, recordset->Delete());
         EXPECT_ADO_ERROR(adErrFeatureNotAvailable, recordset->AddNew());
         EXPECT_ADO_ERROR(adErrFeatureNotAvailable, recordset->Fields().Item(0).PutValue(1));
+        EXPECT_EQ(recordset->EditMode(), adEditNone);
+        EXPECT_EQ(recordset->RecordCount(), records);
     }
+    EXPECT_ADO_ERROR(adErrFeatureNotAvailable, database.open(u"SELECT * FROM S"_s, adLockReadOnly)->Delete());
     EXPECT_EQ(database.fileBytes(), before);
+}
+
+TEST(WriteBackTarget, AllowsWhatOnlyLooksFolded)
+{
+    const TestDatabase database(script);
+    for (const char *sql :
+         {"SELECT name, max(id, 5) FROM S", "SELECT name, (SELECT count(*) FROM W) FROM S",
+          "SELECT name FROM S WHERE id > (SELECT min(id) FROM S) - 1", "SELECT name AS [count] FROM S"}) {
+        SCOPED_TRACE(sql);
+        const auto recordset = database.open(QString::fromUtf8(sql));
+        EXPECT_NE(recordset->Fields().Item(0).Attributes() & adFldUpdatable, 0);
+        recordset->Fields().Item(0).PutValue(u"same"_s);
+        recordset->Update();
+        EXPECT_EQ(recordset->CellText(1, 0), u"same"_s);
+    }
 }
 
 TEST(WriteBackTarget, TakesTheKeyOfATableWithoutRowidFromItsOwnColumnsOnly)

@@ -2,8 +2,6 @@
 // what may have been saved is told as unknown.
 #include "FrozenServer.h"
 
-#include "../support/Dialogs.h"
-
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
@@ -17,17 +15,7 @@ class FrozenServerChanges : public FrozenServer
 {
 protected:
     // The values that the user writes into the record that is listed, in the order of its fields.
-    void write(const QString &field, const QString &text)
-    {
-        if (!hands->isSingleRecordShown())
-            hands->click(u"SingleRecord"_s);
-        hands->list->setCurrentIndex(hands->list->model()->index(hands->listedRow(field), 1));
-        hands->list->setFocus();
-        QTest::keyClick(hands->list, Qt::Key_F2);
-        hands->edit->clear();
-        compose(*hands->edit, text);
-        QTest::keyClick(hands->edit, Qt::Key_Return);
-    }
+    void write(const QString &field, const QString &text) { EXPECT_TRUE(hands->writeListed(field, text)); }
     // Leaves the record; the server freezes at COMMIT and the user does not want to wait. Nobody can tell
     // then whether the change was saved, and the user is told so.
     void leaveWhileCommitFreezes()

@@ -55,6 +55,18 @@ TEST_F(FilterModule, AnswersTheConditionForTheStatementsTable)
     EXPECT_EQ(filter.strFilterCondition(), condition);
 }
 
+TEST_F(FilterModule, AFieldToBeginWithLeavesTheKeyboardAtItsOperator)
+{
+    FilterRequest asked = request(u"select * from [Order Details]"_s);
+    asked.field = u"Unit Price"_s;
+    filter.PrepareFilterDialog(asked);
+    run([](QWidget &dialog) {
+        EXPECT_EQ(part<QComboBox>(dialog, "cmbField1").currentText(), u"Unit Price"_s);
+        EXPECT_EQ(dialog.focusWidget(), &part<QComboBox>(dialog, "cmbOperator1"));
+        dialog.close(); // nothing was changed, so nothing is asked
+    });
+}
+
 TEST_F(FilterModule, CancellingLeavesNoConditionAndPreparingForgetsTheLastOne)
 {
     filter.PrepareFilterDialog(request(u"select * from [Order Details]"_s));

@@ -29,15 +29,7 @@ protected:
     // Types into a field of the first record, as it is listed; Enter confirms it.
     void write(const QString &field, const QString &text, bool isConfirmed = true)
     {
-        if (!hands->isSingleRecordShown())
-            hands->click(u"SingleRecord"_s);
-        hands->list->setCurrentIndex(hands->list->model()->index(hands->listedRow(field), 1));
-        hands->list->setFocus();
-        QTest::keyClick(hands->list, Qt::Key_F2);
-        hands->edit->clear();
-        compose(*hands->edit, text);
-        if (isConfirmed)
-            QTest::keyClick(hands->edit, Qt::Key_Return);
+        EXPECT_TRUE(hands->writeListed(field, text, isConfirmed));
     }
     void changeByOthers(const QString &assignment)
     {

@@ -50,6 +50,28 @@ TEST_P(EngineResults, ATableThatWasDroppedEndsTheCommandOnly)
     expectAsLoaded();
 }
 
+// PostgreSQL's names can differ in case only.
+TEST_P(EngineResults, FieldsWhoseNamesDifferInCaseAreFilteredEach)
+{
+    if (!QByteArray(engine.name).startsWith("PostgreSQL"))
+        GTEST_SKIP() << "its names can't";
+    database->run({u"DROP TABLE IF EXISTS \"Journey_Mixed\""_s,
+                   u"CREATE TABLE \"Journey_Mixed\" (id INTEGER, \"Name\" VARCHAR(9), name VARCHAR(9))"_s,
+                   u"INSERT INTO \"Journey_Mixed\" VALUES (1,'a','b'),(2,'b','a'),(3,'c','a')"_s});
+    const std::pair<QString, QStringList> found[] = {{u"Name"_s, {u"1"_s}}, {u"name"_s, {u"2"_s, u"3"_s}}};
+    for (const QString &statement :
+         {u"SELECT * FROM \"Journey_Mixed\""_s, u"SELECT m.id, m.* FROM \"Journey_Mixed\" m"_s}) {
+        for (const auto &[field, ids] : found) {
+            ASSERT_TRUE(load(statement));
+            WindowAnswers dialogs({[&](QDialog &dialog) { buildFilter(dialog, field, u"等于"_s, u"a"_s); }});
+            hands->click(u"Filter"_s);
+            EXPECT_EQ(hands->messages.texts(), QStringList()) << qPrintable(statement + field);
+            EXPECT_EQ(hands->texts(u"id"_s), ids) << qPrintable(statement + field);
+        }
+    }
+    database->run({u"DROP TABLE \"Journey_Mixed\""_s});
+}
+
 TEST_P(EngineResults, AFieldWhoseTypeWasChangedIsReadAsItIs)
 {
     ASSERT_TRUE(load());

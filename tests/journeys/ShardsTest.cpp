@@ -181,12 +181,7 @@ TEST_P(Shards, KeepWhatTheUserWritesIntoOneRecord)
 {
     ASSERT_TRUE(load());
     hands->clickCell(77, 2);
-    hands->click(u"SingleRecord"_s);
-    hands->list->setCurrentIndex(hands->list->model()->index(hands->listedRow(u"name"_s), 1));
-    hands->list->setFocus();
-    QTest::keyClick(hands->list, Qt::Key_F2);
-    hands->edit->setText(u"mine"_s);
-    QTest::keyClick(hands->edit, Qt::Key_Return);
+    EXPECT_TRUE(hands->writeListed(u"name"_s, u"mine"_s));
     hands->click(u"AllRecord"_s);
     EXPECT_EQ(takeMessages(), QStringList());
     EXPECT_EQ(stored(u"name"_s, 77), u"mine"_s);

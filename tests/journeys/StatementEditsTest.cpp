@@ -19,24 +19,6 @@ constexpr auto NewNumber = "99";
 class EngineStatementEdits : public EngineStatements
 {
 protected:
-    // Types into a field of the record in the list; false when the field takes nothing.
-    bool write(const QString &field, const QString &text)
-    {
-        hands->list->setCurrentIndex(hands->list->model()->index(hands->listedRow(field), 1));
-        hands->list->setFocus();
-        QTest::keyClick(hands->list, Qt::Key_F2);
-        if (!hands->edit->isVisible())
-            return false;
-        if (hands->edit->isReadOnly()) {
-            QTest::keyClick(hands->edit, Qt::Key_Escape);
-            return false;
-        }
-        hands->edit->clear();
-        compose(*hands->edit, text);
-        QTest::keyClick(hands->edit, Qt::Key_Return);
-        return true;
-    }
-
     int countOf(const QString &text)
     {
         int count = 0;
@@ -89,7 +71,7 @@ TEST_P(EngineStatementEdits, AValueIsChangedInOneRecordAndShown)
             const QString before = hands->listed(field);
             const bool isText = std::ranges::any_of(before, [](QChar letter) { return letter.isLetter(); }) &&
                                 isOnlyOne(all, column);
-            if (!isText || !write(field, QString::fromLatin1(NewText)))
+            if (!isText || !hands->writeListed(field, QString::fromLatin1(NewText)))
                 continue;
             hands->click(u"AllRecord"_s);
             EXPECT_TRUE(hands->messages.shown().empty())
@@ -131,7 +113,7 @@ TEST_P(EngineStatementEdits, ARecordIsAddedAndShownOrRefused)
             bool isNumber = false;
             text.toDouble(&isNumber);
             const QString value = QString::fromLatin1(isNumber ? NewNumber : NewText);
-            if (isOnlyOne(all, column) && write(all.names.at(column), value)) {
+            if (isOnlyOne(all, column) && hands->writeListed(all.names.at(column), value)) {
                 isWritten = true;
                 isText = isText || !isNumber;
             }

@@ -47,7 +47,7 @@ TEST(PartFields, AreForAStarThoseOfItsTables)
     };
     const auto read = [&](const QString &statement, AllDBType database) {
         const auto named = PartFields::read(statement, database, reader);
-        return named ? PartFields::compose(named->fields, named->table, database, named->words) : QString();
+        return named ? PartFields::compose(*named, database) : QString();
     };
     EXPECT_EQ(read(u"select * from T where ID > 3"_s, dbAccess),
               u"select [ID],[Full Name],[a.b],[占比%] from T"_s);
@@ -71,16 +71,16 @@ TEST(PartFields, AreNotReadWithoutATable)
 
 TEST(PartFields, AreComposedWithBracketsForAccess)
 {
-    const QStringList fields{u"ID"_s, u"Full Name"_s};
-    EXPECT_EQ(PartFields::compose(fields, u"T"_s, dbAccess), u"select [ID],[Full Name] from T"_s);
-    EXPECT_EQ(PartFields::compose(fields, u"T"_s, dbOracle), u"select ID,Full Name from T"_s);
-    EXPECT_EQ(PartFields::compose({}, u"T"_s, dbAccess), QString());
+    const PartFields::NamedFields named{{u"ID"_s, u"Full Name"_s}, u"T"_s};
+    EXPECT_EQ(PartFields::compose(named, dbAccess), u"select [ID],[Full Name] from T"_s);
+    EXPECT_EQ(PartFields::compose(named, dbOracle), u"select ID,Full Name from T"_s);
+    EXPECT_EQ(PartFields::compose({{}, u"T"_s}, dbAccess), QString());
 }
 
 TEST(PartFields, WhatIsMoreThanANameStaysAsItIs)
 {
     EXPECT_EQ(
-        PartFields::compose({u"T.A"_s, u"T.[B]"_s, u"count(x)"_s, u"a AS b"_s, u"'x'"_s}, u"T"_s, dbAccess),
+        PartFields::compose({{u"T.A"_s, u"T.[B]"_s, u"count(x)"_s, u"a AS b"_s, u"'x'"_s}, u"T"_s}, dbAccess),
         u"select [T].[A],T.[B],count(x),a AS b,'x' from T"_s);
 }
 
@@ -88,7 +88,7 @@ TEST(PartFields, RunWhateverIsListed)
 {
     const auto again = [](const QString &statement) {
         const auto named = PartFields::read(statement, dbAccess);
-        return named ? PartFields::compose(named->fields, named->table, dbAccess, named->words) : QString();
+        return named ? PartFields::compose(*named, dbAccess) : QString();
     };
     EXPECT_EQ(again(u"select distinct ID, [Full Name] from T where ID > 1"_s),
               u"select distinct [ID],[Full Name] from T"_s);
@@ -100,6 +100,13 @@ TEST(PartFields, RunWhateverIsListed)
               u"select [A-B],[a.b],[单价(元)],'x, y' from T"_s);
     EXPECT_EQ(again(u"select (select max(x) from U where U.i = T.i) m, 订单.编号 from T, 订单 order by 1"_s),
               u"select (select max(x) from U where U.i = T.i) AS m,[订单].[编号] from T, 订单"_s);
+    EXPECT_EQ(again(u"select dept, count(*) as n from emp where id > 1 group by dept having count(*) > 1 "
+                    "order by dept"_s),
+              u"select [dept],count(*) as n from emp group by dept having count(*) > 1"_s);
+    EXPECT_EQ(again(u"select count(*) as n from emp having count(*) > 1 limit 5"_s),
+              u"select count(*) as n from emp having count(*) > 1"_s);
+    EXPECT_EQ(again(u"select (select a from U group by a) as a from T union select b from V group by b"_s),
+              u"select (select a from U group by a) as a from T"_s);
 }
 
 TEST(PartFields, AreTheSameWithAndWithoutBrackets)

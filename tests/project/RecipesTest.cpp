@@ -1,5 +1,5 @@
 // Every file and folder that CONTRIBUTING.md names is there, every name that docs/architecture.md has is in
-// the sources, and constants are named as CONTRIBUTING.md says.
+// the sources, and constants and widgets are named as CONTRIBUTING.md says.
 #include "Rooms.h"
 
 #include <QtCore/QDirIterator>
@@ -117,6 +117,17 @@ QStringList wrongConstantsIn(const QString &source)
     return names;
 }
 
+// The object names, written out, by which a source looks for a widget. Those that begin with "qt_" are Qt's.
+QStringList namesLookedFor(const QString &source)
+{
+    static const QRegularExpression lookup(
+        u"(?:findChild(?:ren)?<[^>]*>\\(|objectName\\(\\) *[=!]=)\\s*(?:u|QStringLiteral\\()?\"(?!qt_)(\\w+)\""_s);
+    QStringList names;
+    for (const QRegularExpressionMatch &match : lookup.globalMatch(source))
+        names += match.captured(1);
+    return names;
+}
+
 } // namespace
 
 TEST(Recipes, NameFilesThatAreThere)
@@ -172,4 +183,25 @@ TEST(Constants, AreFoundOutWhereTheyBeginWithACapital)
                                "const int right = Wrong;\nconst Field &Item(int index);\n"
                                "constexpr Kind kinds[] = {Kind::First};\nconst int Fields::Count = 1;"_s),
               (QStringList{u"Wrong"_s, u"Bad"_s, u"Four"_s, u"Six"_s}));
+}
+
+// Programs around the control are hosts, which find its parts by their names.
+TEST(ObjectNames, AreWrittenOnceWhereTheWidgetIsMade)
+{
+    for (const QString &folder : {u"src"_s, u"designer"_s}) {
+        for (const QString &path : filesIn(folder, {u"*.h"_s, u"*.cpp"_s}))
+            EXPECT_EQ(namesLookedFor(linesOf(path).join(u'\n')).join(u' ').toStdString(), "")
+                << path.toStdString();
+    }
+}
+
+// The check itself is checked.
+TEST(ObjectNames, AreFoundOutWhereTheyAreWrittenAgain)
+{
+    EXPECT_EQ(namesLookedFor(u"box.findChild<QComboBox *>(QStringLiteral(\"cmbField1\"));\n"
+                             "findChild<QPushButton *>(\n    u\"cmdPrint\"_s)->setFocus();\n"
+                             "return focused->objectName() != u\"vsfgDataGrid\";\n"
+                             "calendar.findChild<QToolButton *>(u\"qt_calendar_nextmonth\"_s);\n"
+                             "part->setObjectName(u\"txtPage\"_s);"_s),
+              (QStringList{u"cmbField1"_s, u"cmdPrint"_s, u"vsfgDataGrid"_s}));
 }

@@ -181,6 +181,21 @@ TEST_F(HistoryDerivation, TheWholeTableKeepsTheGrouping)
     EXPECT_EQ(firstColumn(next), (QStringList{u"1"_s}));
 }
 
+TEST_F(HistoryDerivation, TheWholeTableOfWhatIsGroupedOverASelectKeepsItsSort)
+{
+    load(u"select x.Name, count(*) as N from (select Name from Ord union all select Name from Cust) x "
+         "group by x.Name having count(*) > 1 or x.Name is null order by N desc, x.Name"_s);
+    const QStringList all = firstColumn(first);
+    ASSERT_GT(all.size(), 1);
+    QString whole;
+    EXPECT_TRUE(manager.GetRequirePartSQL(first, PartsWithoutCondition, whole));
+    EXPECT_EQ(firstColumn(whole), all) << qPrintable(whole);
+    EXPECT_TRUE(history.GetNextSQLByFilter(u"N = 2"_s, next));
+    show(next);
+    EXPECT_TRUE(manager.GetRequirePartSQL(next, PartsWithoutCondition, whole));
+    EXPECT_EQ(firstColumn(whole), all) << qPrintable(whole);
+}
+
 TEST_F(HistoryDerivation, AHostsPartStatementIsFoundByItsNames)
 {
     load(u"select o.ID as No, c.Name, o.Qty from Ord o join Cust c on c.ID = o.Cust where o.Qty > 1"_s,

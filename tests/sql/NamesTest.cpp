@@ -133,3 +133,13 @@ TEST(Names, BracketsBecomeQuotesOutsideQuotes)
               u"where a like '[x]%' and \"[b]\"=\"c\"\"d\""_s);
     EXPECT_EQ(bracketsToQuotes(u"O'Neil,[A],[B"_s), u"O'Neil,\"A\",[B"_s) << "what never ends is no quote";
 }
+
+TEST(Names, ThatDifferInCaseOnlyAreTwoWhereTheEngineTellsThemApart)
+{
+    for (const Engine engine : {Engine::PostgreSQL, Engine::Oracle})
+        EXPECT_FALSE(isOneName({dbAccess, true, false, engine}, u"Name"_s, u"name"_s));
+    for (const Engine engine : {Engine::SQLite, Engine::Access, Engine::MySQL, Engine::SqlServer})
+        EXPECT_TRUE(isOneName({dbAccess, true, false, engine}, u"Name"_s, u"name"_s));
+    EXPECT_TRUE(isOneName({dbAccess, true, false, Engine::PostgreSQL}, u"name"_s, u"name"_s));
+    EXPECT_FALSE(isOneName({dbAccess, true, false, Engine::SQLite}, u"name"_s, u"names"_s));
+}

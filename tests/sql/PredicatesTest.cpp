@@ -35,7 +35,48 @@ TEST(Predicates, ABooleanIsComparedWithWhatTheEngineTakes)
 TEST(Predicates, RowsAreLimitedInTheEnginesOwnWords)
 {
     for (const Engine engine : {Engine::SQLite, Engine::PostgreSQL, Engine::MySQL})
-        expectText(rowLimit({dbSQLServer, true, false, engine}, 5), "LIMIT 5");
-    expectText(rowLimit(sqliteFile, 5), "LIMIT 5");
-    expectText(rowLimit(sqlServer, 5), "OFFSET 0 ROWS FETCH NEXT 5 ROWS ONLY");
+        expectText(rowLimit({dbSQLServer, true, false, engine}, 5).behindSort, " LIMIT 5");
+    expectText(rowLimit(sqliteFile, 5).behindSort, " LIMIT 5");
+    expectText(rowLimit(sqliteFile, 5).beforeList, "");
+    expectText(rowLimit(sqlServer, 5).behindSort, " OFFSET 0 ROWS FETCH NEXT 5 ROWS ONLY");
+}
+
+TEST(Predicates, AccessItselfLimitsRowsBeforeTheList)
+{
+    constexpr Dialect access{dbAccess, true, false, Engine::Access};
+    expectText(rowLimit(access, 5).beforeList, "TOP 5 ");
+    expectText(rowLimit(access, 5).behindSort, "");
+    // The reader of its files takes what SQLite takes.
+    expectText(rowLimit({dbAccess, false, false, Engine::Access}, 5).behindSort, " LIMIT 5");
+}
+
+TEST(Predicates, SqlServerIsGivenASortToLimitRowsWithoutOne)
+{
+    for (const Dialect &dialect : {sqlServer, Dialect{dbAccess, true, false, Engine::SqlServer}})
+        expectText(rowLimitWithoutSort(dialect, 5).behindSort,
+                   " ORDER BY (SELECT NULL) OFFSET 0 ROWS FETCH NEXT 5 ROWS ONLY");
+    expectText(rowLimitWithoutSort({dbOracle, true, false, Engine::Oracle}, 5).behindSort,
+               " OFFSET 0 ROWS FETCH NEXT 5 ROWS ONLY");
+    expectText(rowLimitWithoutSort(sqliteFile, 5).behindSort, " LIMIT 5");
+}
+
+TEST(Predicates, OracleTakesNoWordBeforeTheAliasOfAnInnerTable)
+{
+    EXPECT_EQ(innerTableAlias({dbAccess, false, false, Engine::SQLite}, u"Q"_s), u" AS Q"_s);
+    EXPECT_EQ(innerTableAlias({dbAccess, true, false, Engine::Oracle}, u"Q"_s), u" Q"_s);
+    EXPECT_EQ(innerTableAlias({dbOracle}, u"Q"_s), u" Q"_s) << "the declared type is all that is known";
+    EXPECT_EQ(innerTableAlias({dbOracle, true, false, Engine::PostgreSQL}, u"Q"_s), u" AS Q"_s);
+}
+
+TEST(Predicates, OnlySqlServerRefusesAnInnerTablesSort)
+{
+    EXPECT_FALSE(takesInnerSort({dbAccess, true, false, Engine::SqlServer}));
+    EXPECT_FALSE(takesInnerSort({dbSQLServer}));
+    EXPECT_TRUE(takesInnerSort({dbSQLServer, true, false, Engine::MySQL}));
+}
+
+TEST(Predicates, OnlySqliteSortsBeforeAnInnerTablesLimit)
+{
+    EXPECT_TRUE(sortsBeforeInnerLimit({dbAccess, false, false, Engine::SQLite}));
+    EXPECT_FALSE(sortsBeforeInnerLimit({dbAccess, true, false, Engine::PostgreSQL}));
 }

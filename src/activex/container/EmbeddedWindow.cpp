@@ -1,6 +1,7 @@
 #include "activex/container/EmbeddedWindow.h"
 
 #include "activex/container/DialogOwner.h"
+#include "control/parts/GridParts.h"
 
 #include <QtCore/QEvent>
 #include <QtGui/QWindow>
@@ -123,7 +124,7 @@ bool EmbeddedWindow::wants(const MSG &message) const
     case VK_ESCAPE: {
         // The grid itself has no use for them; a form has buttons that they press.
         const QWidget *focused = QApplication::focusWidget();
-        return focused && focused->objectName() != u"vsfgDataGrid";
+        return focused && focused->objectName() != GridParts::gridName;
     }
     default:
         return false;

@@ -45,7 +45,7 @@ GridParts::GridParts(QWidget &control)
     : picMainBack(named(new QWidget(&control), u"picMainBack"_s)),
       Toolbar1(new GridToolbar(picMainBack)),
       conditions(new FilterBar(picMainBack)),
-      vsfgDataGrid(named(new VSFlexGrid(picMainBack), u"vsfgDataGrid"_s)),
+      vsfgDataGrid(named(new VSFlexGrid(picMainBack), gridName)),
       find(new FindBar(picMainBack)),
       lblEmpty(new EmptyHint(*vsfgDataGrid)),
       MSFlexGrid1(named(new MSFlexGrid(picMainBack), u"MSFlexGrid1"_s)),

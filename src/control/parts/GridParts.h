@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QLatin1StringView>
 #include <QtCore/QRect>
 
 class QCheckBox;
@@ -34,6 +35,8 @@ class GridParts
 public:
     static constexpr int minimumWidth = 3000;  // twips
     static constexpr int minimumHeight = 1500; // twips
+    // The name of the grid, for rooms that don't know its class.
+    static constexpr QLatin1StringView gridName{"vsfgDataGrid"};
 
     explicit GridParts(QWidget &control);
     Q_DISABLE_COPY_MOVE(GridParts)

@@ -240,8 +240,7 @@ FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked, c
     if (positiveOf(asked.op) == FilterOperator::IsEmpty)
         return {isEmpty(dialect, asked.field, !asked.leavesOut()), {}};
     FilterChoice choice = asked;
-    // SQLite's days can have a time as well.
-    if (choice.field.fieldClass == FieldClass::Date && dialect.engine == Engine::SQLite && !dialect.isOdbc &&
+    if (choice.field.fieldClass == FieldClass::Date && daysHaveTimes(dialect) &&
         (hasTimeOfDay(choice.value) || hasTimeOfDay(choice.lastValue)))
         choice.field.fieldClass = FieldClass::Moment;
     if (choice.field.fieldClass == FieldClass::Date)

@@ -25,8 +25,9 @@ QString fromRecords(const Records &records, const QString &hasValue)
 
 QString distinctValues(const Dialect &dialect, const QString &field, const QString &table, int count)
 {
-    return u"SELECT DISTINCT "_s + field + " FROM "_L1 + table + " WHERE "_L1 + field +
-           " IS NOT NULL ORDER BY "_L1 + field + u' ' + rowLimit(dialect, count);
+    const RowLimit limit = rowLimit(dialect, count);
+    return "SELECT DISTINCT "_L1 + limit.beforeList + field + " FROM "_L1 + table + " WHERE "_L1 +
+           isNotNull(field) + " ORDER BY "_L1 + field + limit.behindSort;
 }
 
 QString countOfDistinctValues(const QString &field, const QString &table)
@@ -44,13 +45,11 @@ QString sampleOfValues(const Dialect &dialect, const QString &field, const QStri
 QString distinctOfFirst(const Dialect &dialect, const QString &value, const QString &from, int count,
                         int records)
 {
-    // SQL Server takes OFFSET only after a sort.
-    const bool needsOrder = rowLimit(dialect, 1).contains("OFFSET"_L1) && dialect.database == dbSQLServer;
-    const QString order = needsOrder ? u" ORDER BY (SELECT NULL)"_s : QString();
-    const QString first =
-        u"SELECT "_s + value + " AS kova_value"_L1 + from + order + u' ' + rowLimit(dialect, records);
-    return u"SELECT DISTINCT kova_value FROM ("_s + first + ") kova_first ORDER BY kova_value"_L1 + u' ' +
-           rowLimit(dialect, count);
+    const RowLimit read = rowLimitWithoutSort(dialect, records);
+    const RowLimit shown = rowLimit(dialect, count);
+    return "SELECT DISTINCT "_L1 + shown.beforeList + "kova_value FROM (SELECT "_L1 + read.beforeList +
+           value + " AS kova_value"_L1 + from + read.behindSort + ") kova_first ORDER BY kova_value"_L1 +
+           shown.behindSort;
 }
 
 QString isDuplicated(const QString &field, const Records &records)
@@ -61,15 +60,13 @@ QString isDuplicated(const QString &field, const Records &records)
 
 QString isAmongFirst(const Dialect &dialect, const QString &field, const Records &records, const First &first)
 {
-    const bool isAccessItself = dialect.isOdbc && dialect.engine == Engine::Access;
-    const QString top = isAccessItself ? u"TOP %1 "_s.arg(first.count) : QString();
+    const RowLimit limit = rowLimit(dialect, first.count);
     const QString hasValue = first.areTexts ? isNotEmptyText(dialect, field) : isNotNull(field);
     // A table of its own, because MariaDB limits no SELECT that IN reads directly. Its name says how to put
     // it in words.
-    return field + " IN (SELECT KovaValue\nFROM (SELECT "_L1 + top + field + " AS KovaValue"_L1 +
+    return field + " IN (SELECT KovaValue\nFROM (SELECT "_L1 + limit.beforeList + field + " AS KovaValue"_L1 +
            fromRecords(records, hasValue) + "\nORDER BY "_L1 + field +
-           (first.isDescending ? " DESC"_L1 : ""_L1) +
-           (isAccessItself ? QString() : u' ' + rowLimit(dialect, first.count)) +
+           (first.isDescending ? " DESC"_L1 : ""_L1) + limit.behindSort +
            (first.areTexts ? ") KovaFirstTexts)"_L1 : ") KovaFirst)"_L1);
 }
 

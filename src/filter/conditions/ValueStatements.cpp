@@ -42,8 +42,9 @@ QString ValueStatements::from(const QString &condition) const
 
 QString ValueStatements::counted(int count) const
 {
-    return "SELECT "_L1 + m_value + " AS kova_value, COUNT(*) AS kova_count"_L1 + from(m_hasValue) +
-           " GROUP BY "_L1 + m_value + " ORDER BY "_L1 + m_value + u' ' + rowLimit(m_dialect, count);
+    const RowLimit limit = rowLimit(m_dialect, count);
+    return "SELECT "_L1 + limit.beforeList + m_value + " AS kova_value, COUNT(*) AS kova_count"_L1 +
+           from(m_hasValue) + " GROUP BY "_L1 + m_value + " ORDER BY "_L1 + m_value + limit.behindSort;
 }
 
 QString ValueStatements::sample(int count) const

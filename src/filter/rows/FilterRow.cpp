@@ -208,7 +208,9 @@ void FilterRow::suggest(const QString &field, const QString &value)
     if (index < 0)
         return;
     m_field->setCurrentIndex(index);
-    if (valueCount(op()) == 0 || value.isEmpty())
+    if (value.isEmpty())
+        m_operator->setFocus();
+    if (value.isEmpty() || valueCount(op()) == 0)
         return;
     m_value->setText(value);
     m_value->setFocus();

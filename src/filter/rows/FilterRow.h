@@ -64,7 +64,8 @@ public:
     FilterRowState state() const;
     bool setState(const FilterRowState &state);
     FilterChoice choice() const;
-    // Puts a value into the row that the next text typed replaces.
+    // Begins with a field, and with a value that the next text typed replaces; without a value the keyboard
+    // goes to the operator.
     void suggest(const QString &field, const QString &value);
     // The row's condition as it stands now, or that of all other records; without touching what is shown.
     FilterCondition condition(bool isComplement = false) const;

@@ -28,7 +28,7 @@ public:
     // field is answered and the rows stay as they are.
     FilterState state() const;
     std::optional<QString> setState(const FilterState &state);
-    // Puts a value into the first row that the next text typed replaces.
+    // As FilterRow has it, in the first row.
     void suggest(const QString &field, const QString &value);
     // The complete rows as a sentence; empty while their brackets don't match.
     QString sentence() const;

@@ -35,9 +35,11 @@ FilterSource sourceOf(const FilterRequest &request)
 FilterField fieldOf(FilterSource &source, const QString &caption, const QString &written)
 {
     const std::vector<FilterField> fields = source.readFields();
-    auto found = std::ranges::find_if(fields, [&](const FilterField &field) {
-        return field.written.compare(written, Qt::CaseInsensitive) == 0;
-    });
+    auto found = std::ranges::find(fields, written, &FilterField::written);
+    if (found == fields.end())
+        found = std::ranges::find_if(fields, [&](const FilterField &field) {
+            return field.written.compare(written, Qt::CaseInsensitive) == 0;
+        });
     if (found == fields.end())
         found = std::ranges::find(fields, caption, &FilterField::caption);
     if (found == fields.end())

@@ -2,10 +2,12 @@
 
 #include "query/CharText.h"
 #include "query/QueryTexts.h"
+#include "sql/AllDBType.h"
 #include "sql/Like.h"
 #include "sql/Literals.h"
 #include "sql/Names.h"
 #include "sql/Predicates.h"
+#include "sql/ShownNumbers.h"
 #include "sql/select/SelectParts.h"
 
 #include <algorithm>
@@ -60,10 +62,9 @@ constexpr qint32 booleanType = 11;
 constexpr qint32 guidType = 72;
 
 // Where the engine isn't known, currency is left out as it always was.
-QString classOf(qint32 adoType, Engine engine)
+QString classOf(qint32 adoType, const EngineMode &mode)
 {
-    return adoType == currencyType && engine != Engine::Other ? QStringLiteral("1")
-                                                              : classifyFieldType(adoType);
+    return adoType == currencyType && mode.isKnown() ? QStringLiteral("1") : classifyFieldType(adoType);
 }
 
 struct SearchedField
@@ -78,7 +79,7 @@ struct SearchedField
 // number with an exponent, and of a Boolean. Empty where there is no such difference.
 QString conditionOfShown(const SearchedField &field, const QString &word, const Dialect &dialect)
 {
-    if (dialect.engine == Engine::Other)
+    if (!dialect.isKnown())
         return {};
     if (field.adoType == booleanType) {
         const bool isTrueWord = word.compare(u"True", Qt::CaseInsensitive) == 0;
@@ -95,32 +96,24 @@ QString conditionOfShown(const SearchedField &field, const QString &word, const 
                            : QStringLiteral("%1 BETWEEN %2 AND %3").arg(field.name, range.from, range.to);
 }
 
-// Where the declared type is Access, the brackets that it reads stay as long as the engine reads them too.
-bool readsBrackets(Engine engine)
-{
-    return engine == Engine::Other || engine == Engine::Access || engine == Engine::SQLite ||
-           engine == Engine::SqlServer;
-}
-
 // The field as it is written; empty when it can't be searched, nothing when nobody can tell.
 std::optional<QString> nameOfSearched(const TypedField &field, AllDBType database, const QString &qualifier,
                                       const EngineMode &mode)
 {
-    const Engine engine = mode.engine;
-    if (likesTextsOnly(engine) && isBinary(field.adoType))
+    if (likesTextsOnly(mode.engine) && isBinary(field.adoType))
         return QString();
-    if (database != dbAccess && database != dbOracle && database != dbSQLServer)
+    if (!isDeclared(database))
         return QString();
-    if (database == dbAccess) {
+    if (searchesByType(database)) {
         if (!field.adoType)
             return std::nullopt;
-        if (classOf(*field.adoType, engine) == u"0")
+        if (classOf(*field.adoType, mode) == u"0")
             return QString();
     }
     if (!field.written.isEmpty())
         return field.written;
     const Dialect dialect = dialectOf(database, mode);
-    if (database != dbAccess || !readsBrackets(engine))
+    if (!takesBrackets(dialect))
         return writtenName(dialect, field.name);
     return (qualifier.isEmpty() ? QString() : qualifier + u'.') + nameInBrackets(dialect, field.name);
 }
@@ -134,7 +127,7 @@ std::optional<std::vector<SearchedField>> searchedFields(std::span<const TypedFi
                                         [](const TypedField &field) { return field.written.isEmpty(); });
     if (!table && needsTable)
         return std::nullopt;
-    const QString qualifier = database == dbAccess && table ? tableQualifier(*table) : QString();
+    const QString qualifier = writesBrackets(database) && table ? tableQualifier(*table) : QString();
     std::vector<SearchedField> searched;
     for (const TypedField &field : fields) {
         const auto name = nameOfSearched(field, database, qualifier, mode);
@@ -142,7 +135,7 @@ std::optional<std::vector<SearchedField>> searchedFields(std::span<const TypedFi
             return std::nullopt;
         if (name->isEmpty())
             continue;
-        const QString kind = field.adoType ? classOf(*field.adoType, mode.engine) : QString();
+        const QString kind = field.adoType ? classOf(*field.adoType, mode) : QString();
         const bool isDouble = field.adoType == doubleType;
         searched.push_back(
             {isDouble ? likeOperandOfDouble(mode.engine, *name) : likeOperand(mode.engine, *name),
@@ -187,51 +180,32 @@ QString wordCondition(const std::vector<SearchedField> &fields, const QString &w
     return condition;
 }
 
-bool isWhole(const QString &number)
+NumberKind kindOf(qint32 adoType)
 {
-    return !number.contains(u'.') && !number.contains(u'e', Qt::CaseInsensitive);
+    switch (adoType) {
+    case singleType:
+        return NumberKind::Single;
+    case doubleType:
+        return NumberKind::Double;
+    case currencyType:
+        return NumberKind::Currency;
+    default:
+        return NumberKind::Exact;
+    }
 }
 
-// A computed number or a fraction hardly ever is exactly what is shown; SQLite compares numbers as they are
-// shown, and PostgreSQL's floats are cast.
-NumberRange rangeOfCell(qint32 adoType, const QString &number, Engine engine, bool isComputed)
-{
-    const bool isDouble = adoType == doubleType;
-    if ((!isDouble && adoType != singleType) || engine == Engine::SQLite ||
-        (engine == Engine::PostgreSQL && !isDouble) || (isWhole(number) && !isComputed))
-        return {};
-    return rangeShownAs(number, isDouble ? FloatSize::Double : FloatSize::Single, engine);
-}
-
-// Numbers are compared as numbers where LIKE takes none: as texts they may end in more digits than are shown.
 QString numberCondition(const QString &field, qint32 adoType, const QString &cellText, const EngineMode &mode,
                         bool isComputed)
 {
-    const Engine engine = mode.engine;
     const QString like = field + QStringLiteral(" like ");
-    const QString equals = field + QStringLiteral(" = ");
-    if (engine == Engine::Other)
+    if (!mode.isKnown())
         return like + cellText;
+    const Engine engine = mode.engine;
+    if (adoType != guidType && isNumberText(cellText))
+        return showsNumber(engine, field, kindOf(adoType), cellText, isComputed);
     // A column's declared type doesn't say that each of its values is a number.
-    if (adoType == guidType || !isNumberText(cellText)) {
-        return likesTextsOnly(engine) ? equals + literalOf({}, mode, cellText)
-                                      : like + literalOf({}, mode, likePattern(engine, cellText));
-    }
-    if (const NumberRange range = rangeOfCell(adoType, cellText, engine, isComputed); !range.isEmpty())
-        return QStringLiteral("%1 BETWEEN %2 AND %3").arg(field, range.from, range.to);
-    const bool isFloating = adoType == singleType || adoType == doubleType;
-    switch (engine) {
-    case Engine::PostgreSQL:
-        // Only as a number of the same few digits it is the same number.
-        return equals + (adoType == singleType ? QStringLiteral("CAST(%1 AS REAL)").arg(cellText) : cellText);
-    case Engine::SQLite: {
-        if (adoType == currencyType)
-            return equals + cellText;
-        return like + cellText + (isFloating && isWhole(cellText) ? QStringLiteral(".0") : QString());
-    }
-    default:
-        return (isFloating || adoType == currencyType ? equals : like) + cellText;
-    }
+    return likesTextsOnly(engine) ? field + QStringLiteral(" = ") + literalOf({}, mode, cellText)
+                                  : like + literalOf({}, mode, likePattern(engine, cellText));
 }
 
 } // namespace
@@ -311,29 +285,27 @@ bool BuildLikeAllCondition(const QString &strText, const TypedField &field, cons
 CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoType,
                            const std::optional<QString> &cellText, const EngineMode &mode, bool isComputed)
 {
-    const Engine engine = mode.engine;
     // Narrower than the quick filter's classes on purpose: equality makes no sense for the types left out.
     static constexpr std::array<qint32, 12> numbers{2, 3, 4, 5, 14, 16, 18, 20, 21, 72, 131, 139};
     static constexpr std::array<qint32, 4> texts{129, 130, 200, 202};
     if (realName.isEmpty() || !adoType)
         return {};
     const bool isText = isAmong(texts, *adoType);
-    const bool isNumber = isAmong(numbers, *adoType) || (*adoType == currencyType && engine != Engine::Other);
+    const bool isNumber = isAmong(numbers, *adoType) || (*adoType == currencyType && mode.isKnown());
     if (!isText && !isNumber)
         return {{}, QueryTexts::TypeNotFiltered};
     if (!cellText)
         return {realName + QStringLiteral(" IS NULL"), {}};
-    // 9 and 9.0 look alike, and SQLite computes either.
-    if (isComputed && engine == Engine::SQLite && isNumberText(*cellText))
-        return {QStringLiteral("(%1 = %2 OR %1 like %3)")
-                    .arg(realName, *cellText, literalOf({}, mode, *cellText)),
-                {}};
+    if (isComputed && isNumberText(*cellText)) {
+        if (const QString shown = showsComputedNumber(mode.engine, realName, *cellText); !shown.isEmpty())
+            return {shown, {}};
+    }
     if (!isText)
         return {numberCondition(realName, *adoType, *cellText, mode, isComputed), {}};
     if (cellText->contains(u'\''))
         return {{}, QueryTexts::ApostropheInFilter};
-    return {likeOperand(engine, realName) + QStringLiteral(" like ") +
-                literalOf({}, mode, likePattern(engine, *cellText)),
+    return {likeOperand(mode.engine, realName) + QStringLiteral(" like ") +
+                literalOf({}, mode, likePattern(mode.engine, *cellText)),
             {}};
 }
 

@@ -3,6 +3,7 @@
 #include "query/CharText.h"
 #include "query/QueryTexts.h"
 #include "sql/Names.h"
+#include "sql/Predicates.h"
 #include "sql/select/SqlWalk.h"
 
 #include <algorithm>
@@ -28,7 +29,8 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
     // A condition leaves the same rows before and after DISTINCT.
     const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
                         !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
-                        !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isClosed && m_isListKnown;
+                        !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isVersioned && !m_parts.isClosed &&
+                        m_isListKnown;
     if (!isOpen) {
         m_kind = Kind::Closed;
         m_written.clear();
@@ -69,7 +71,7 @@ bool Derivation::keepsListWords() const
 {
     return (m_parts.isDistinct || m_parts.isTop) && !m_parts.source.isEmpty() && !m_parts.isCompound &&
            !m_parts.isGrouped && !m_parts.isLimited && !m_parts.hasWindow && !m_parts.hasRows &&
-           !m_parts.isClosed && m_isListKnown;
+           !m_parts.isVersioned && !m_parts.isClosed && m_isListKnown;
 }
 
 bool Derivation::isTextWork(DerivationStep step) const
@@ -160,7 +162,7 @@ std::vector<qsizetype> Derivation::unitedConditions() const
 
 bool Derivation::hasAsTable(const Derivation &other) const
 {
-    return m_parts.isDerivedTable && other.m_kind == Kind::Closed &&
+    return m_kind != Kind::Closed && m_parts.isDerivedTable && other.m_kind == Kind::Closed &&
            source().simplified().compare(other.source().simplified(), Qt::CaseInsensitive) == 0;
 }
 
@@ -292,17 +294,16 @@ QString Derivation::asTable() const
     // A limit takes its rows in an order, and so does DISTINCT ON. Any other order is for what comes outside.
     const bool isOrdered =
         !m_parts.order.isEmpty() && !m_parts.isLimited && !m_parts.isTop && !m_parts.isDistinctOn;
-    if (isOrdered && (!outerSort().isEmpty() || m_dialect.likelyEngine() == Engine::SqlServer)) {
+    if (isOrdered && (!outerSort().isEmpty() || !takesInnerSort(m_dialect))) {
         const qsizetype start = m_sql.at(all.begin).start;
         const qsizetype from = m_sql.at(m_parts.order.begin).start - start;
         inner.remove(from, m_sql.at(m_parts.order.end - 1).end() - start - from);
     }
     inner = inner.trimmed();
-    // SQLite would sort before it takes the first records.
-    if (m_dialect.engine == Engine::SQLite && m_parts.isLimited && m_parts.order.isEmpty())
+    if (sortsBeforeInnerLimit(m_dialect) && m_parts.isLimited && m_parts.order.isEmpty())
         inner = u"SELECT *\nFROM (\n"_s + inner + u"\n) LIMIT -1"_s;
     // A comment to the end of its line must not swallow the bracket.
-    return u"(\n"_s + inner + u"\n)"_s + (m_dialect.likelyEngine() == Engine::Oracle ? u" Q"_s : u" AS Q"_s);
+    return u"(\n"_s + inner + u"\n)"_s + innerTableAlias(m_dialect, u"Q"_s);
 }
 
 std::vector<OuterTerm> Derivation::outerTerms() const

@@ -84,9 +84,10 @@ QString statementOf(const Dialect &dialect, const Referenced &table, const QStri
         condition += u')';
     }
     const QString order = isDescribed && !table.isKeyRead ? table.description : table.key;
-    return u"SELECT "_s + table.key + (isDescribed ? u',' + table.description : QString()) + " FROM "_L1 +
-           table.from + " WHERE "_L1 + condition + " ORDER BY "_L1 + order + u' ' +
-           rowLimit(dialect, static_cast<int>(mostValues) + 1);
+    const RowLimit limit = rowLimit(dialect, static_cast<int>(mostValues) + 1);
+    return "SELECT "_L1 + limit.beforeList + table.key +
+           (isDescribed ? u',' + table.description : QString()) + " FROM "_L1 + table.from + " WHERE "_L1 +
+           condition + " ORDER BY "_L1 + order + limit.behindSort;
 }
 
 // One line, with what a person knows in front.

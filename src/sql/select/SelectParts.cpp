@@ -5,6 +5,7 @@
 #include "sql/select/SqlWalk.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace KOVAVSFDataGridLib {
 
@@ -40,6 +41,8 @@ public:
         if (!m_parts.order.isEmpty())
             m_parts.sort = itemsIn({m_parts.order.begin + 2, m_parts.order.end}, true);
         readSources();
+        m_parts.isVersioned =
+            hasVersionMark({0, m_parts.listWords.begin}) || hasVersionMark({m_parts.listWords.end, m_end});
         m_parts.isGrouped |= hasAggregate(m_parts.list) || hasAggregate(m_parts.order);
         m_parts.hasWindow |= hasOver(m_parts.list) || hasOver(m_parts.order);
         m_parts.hasRows = m_sql.dialect() == SqlDialect::PostgreSql && hasCall(m_parts.list, isRowFunction);
@@ -83,6 +86,8 @@ private:
                 }
             } else if (isIdleListWord(m_sql, next)) {
                 ++next;
+            } else if (const qsizetype behind = afterIdleComment(next); behind > next) {
+                next = behind;
             } else if (isTopAt(next)) {
                 m_parts.isTop = true;
                 next = m_sql.isSymbol(next + 1, u'(') ? afterBrackets(m_sql, next + 1) : next + 2;
@@ -96,6 +101,26 @@ private:
         }
         m_parts.listWords = {begin, next};
         return next;
+    }
+
+    // Behind a comment that MySQL runs and in which it finds words without effect on the rows; else `index`.
+    qsizetype afterIdleComment(qsizetype index) const
+    {
+        qsizetype next = afterVersionMark(m_sql, index);
+        if (next == index)
+            return index;
+        while (isIdleListWord(m_sql, next))
+            ++next;
+        return m_sql.isSymbol(next, u'*') && m_sql.isSymbol(next + 1, u'/') ? next + 2 : index;
+    }
+
+    bool hasVersionMark(TextRange range) const
+    {
+        for (qsizetype i = range.begin; i < range.end; ++i) {
+            if (afterVersionMark(m_sql, i) > i)
+                return true;
+        }
+        return false;
     }
 
     // A column can be called Top.
@@ -141,10 +166,10 @@ private:
             m_parts.isCompound = true;
             return &other;
         }
-        if ((m_sql.isWord(index, u"GROUP") && m_sql.isWord(index + 1, u"BY")) ||
-            m_sql.isWord(index, u"HAVING")) {
+        const bool isGroup = m_sql.isWord(index, u"GROUP") && m_sql.isWord(index + 1, u"BY");
+        if (isGroup || m_sql.isWord(index, u"HAVING")) {
             m_parts.isGrouped = true;
-            return &other;
+            return std::exchange(m_isInGroup, isGroup) ? nullptr : &m_parts.group;
         }
         if (isOneOf(m_sql, index, {u"LIMIT", u"OFFSET", u"FETCH"})) {
             m_parts.isLimited = true;
@@ -301,6 +326,7 @@ private:
 
     const SqlScanner &m_sql;
     qsizetype m_end;
+    bool m_isInGroup = false; // GROUP BY was read, to which HAVING belongs
     SelectParts m_parts;
 };
 

@@ -44,6 +44,7 @@ struct SelectParts
     TextRange list;
     TextRange source; // between FROM and the next clause; empty without FROM
     TextRange where;  // from the word WHERE on
+    TextRange group;  // from GROUP BY or HAVING on, with both
     TextRange order;  // from ORDER BY on
     bool isDistinct = false;
     bool isDistinctOn = false; // DISTINCT ON (…), whose sort decides which rows it leaves
@@ -53,6 +54,7 @@ struct SelectParts
     bool isLimited = false;    // LIMIT, OFFSET, FETCH, ROWNUM
     bool hasWindow = false;    // a window function or a WINDOW clause
     bool hasRows = false;      // a function in the list that gives several rows
+    bool isVersioned = false;  // MySQL runs a part of it, or skips that, by its version
     bool isClosed = false;     // has what no derived table can hold: FOR, INTO, OPTION and the like
     std::vector<Item> items;
     std::vector<Item> sort;

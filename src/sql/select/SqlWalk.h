@@ -45,6 +45,20 @@ inline bool isIdleListWord(const SqlScanner &statement, qsizetype index)
                      u"SQL_BUFFER_RESULT", u"SQL_CALC_FOUND_ROWS", u"SQL_NO_CACHE"}));
 }
 
+// Behind the beginning of a comment that MySQL runs, on some versions only if it holds a number; else
+// `index`.
+inline qsizetype afterVersionMark(const SqlScanner &statement, qsizetype index)
+{
+    if (statement.dialect() != SqlDialect::MySql || !statement.isSymbol(index, u'/') ||
+        !statement.isSymbol(index + 1, u'*'))
+        return index;
+    qsizetype next = statement.isWord(index + 2, u"M") ? index + 3 : index + 2;
+    if (!statement.isSymbol(next, u'!'))
+        return index;
+    ++next;
+    return next < statement.count() && statement.at(next).kind == SqlToken::Kind::Number ? next + 1 : next;
+}
+
 // A number, a text or a name.
 inline bool isOperand(const SqlScanner &statement, qsizetype index)
 {

@@ -1,76 +1,15 @@
 // A column's menu: opened by mouse and keys, and what its entries do.
-#include "Shop.h"
+#include "ColumnMenuFixture.h"
 
 #include "support/Dialogs.h"
 
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QHeaderView>
-#include <QtWidgets/QMenu>
-#include <QtWidgets/QScrollBar>
 
 #include <algorithm>
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-class ColumnMenu : public Shop
-{
-protected:
-    QMenu *menu() const { return m_menu; }
-    QHeaderView *header() const { return table->horizontalHeader(); }
-
-    QPoint heading(const QString &column) const
-    {
-        const int section = grid.GetBindFieldIndex(column) - 1;
-        return {header()->sectionViewportPosition(section) + 5, header()->height() / 2};
-    }
-    QPoint arrow(const QString &column) const
-    {
-        const int section = grid.GetBindFieldIndex(column) - 1;
-        return {header()->sectionViewportPosition(section) + header()->sectionSize(section) - 8,
-                header()->height() / 2};
-    }
-    void open(const QString &column)
-    {
-        QTest::mouseMove(header()->viewport(), arrow(column));
-        QTest::mouseClick(header()->viewport(), Qt::LeftButton, {}, arrow(column));
-        ASSERT_TRUE(menu()->isVisible());
-    }
-    QAction *entry(const QString &key) const { return menu()->findChild<QAction *>(u"ColumnMenu"_s + key); }
-    // Opens the menu by the arrow and clicks an entry.
-    void choose(const QString &column, const QString &key)
-    {
-        open(column);
-        ASSERT_TRUE(entry(key) && entry(key)->isEnabled()) << qUtf8Printable(key);
-        QTest::mouseClick(menu(), Qt::LeftButton, {}, menu()->actionGeometry(entry(key)).center());
-        EXPECT_FALSE(menu()->isVisible());
-    }
-    QString spoken(const QString &column) const
-    {
-        return table->model()
-            ->headerData(grid.GetBindFieldIndex(column) - 1, Qt::Horizontal, Qt::AccessibleTextRole)
-            .toString();
-    }
-    int width(int col) const { return table->columnWidth(col - 1); }
-    QStringList shownOrder() const
-    {
-        QStringList names;
-        for (int visual = 0; visual < header()->count(); ++visual) {
-            const int section = header()->logicalIndex(visual);
-            if (!table->isColumnHidden(section))
-                names.append(table->model()->headerData(section, Qt::Horizontal).toString());
-        }
-        return names;
-    }
-
-private:
-    QMenu *const m_menu = grid.findChild<QMenu *>(u"ColumnMenu"_s);
-};
-
-} // namespace
 
 TEST_F(ColumnMenu, SortsByTheColumnAndByOneMore)
 {
@@ -208,108 +147,6 @@ TEST_F(ColumnMenu, OneOfTwoColumnsOfANameIsNotHidden)
     menu()->close();
     choose(u"商品"_s, u"HideColumn"_s);
     EXPECT_EQ(columns(), QStringList({u"ID"_s, u"ID"_s}));
-}
-
-TEST_F(ColumnMenu, FitsAndRestoresWidths)
-{
-    ASSERT_TRUE(load());
-    const int before = width(3);
-    const int idBefore = width(1);
-    choose(u"Unit Price"_s, u"FitColumn"_s);
-    EXPECT_NE(width(3), before);
-    EXPECT_EQ(width(1), idBefore);
-    choose(u"Unit Price"_s, u"RestoreWidths"_s);
-    EXPECT_EQ(width(3), before);
-    open(u"ID"_s);
-    EXPECT_FALSE(entry(u"RestoreWidths"_s)->isEnabled());
-    menu()->close();
-    choose(u"ID"_s, u"FitAllColumns"_s);
-    EXPECT_LT(width(1), idBefore);
-    // The widths belong to the fields from now on.
-    const int fitted = width(1);
-    click(u"Part"_s);
-    click(u"All"_s);
-    EXPECT_EQ(width(1), fitted);
-}
-
-TEST_F(ColumnMenu, CompressViewPressedAgainBringsTheWidthsBack)
-{
-    ASSERT_TRUE(load());
-    choose(u"ID"_s, u"FitAllColumns"_s);
-    QList<int> before;
-    for (int col = 1; col <= AllColumns.size(); ++col)
-        before.append(width(col));
-    click(u"CompressView"_s);
-    const int share = width(1);
-    EXPECT_EQ(width(2), share);
-    EXPECT_NE(share, before.front());
-    click(u"CompressView"_s);
-    for (int col = 1; col <= AllColumns.size(); ++col)
-        EXPECT_EQ(width(col), before.at(col - 1)) << col;
-    click(u"CompressView"_s);
-    EXPECT_EQ(width(1), share);
-    grid.SeeCompressView();
-    EXPECT_EQ(width(1), share) << "a host that fits twice gets the same";
-}
-
-TEST_F(ColumnMenu, FreezesUpToTheColumnAndThaws)
-{
-    ASSERT_TRUE(load());
-    grid.resize(500, 400);
-    choose(u"名称"_s, u"FreezeColumns"_s);
-    table->horizontalScrollBar()->setValue(table->horizontalScrollBar()->maximum());
-    ASSERT_GT(table->horizontalScrollBar()->value(), 0);
-    EXPECT_EQ(table->visualRect(table->model()->index(0, 0)).left(), 0);
-    table->horizontalScrollBar()->setValue(0);
-    open(u"名称"_s);
-    EXPECT_TRUE(entry(u"FreezeColumns"_s)->isChecked());
-    menu()->close();
-    choose(u"名称"_s, u"FreezeColumns"_s);
-    table->horizontalScrollBar()->setValue(table->horizontalScrollBar()->maximum());
-    EXPECT_LT(table->visualRect(table->model()->index(0, 0)).left(), 0);
-}
-
-TEST_F(ColumnMenu, MovedColumnsStayWhereTheyAreWhenRecordsChange)
-{
-    ASSERT_TRUE(load());
-    header()->moveSection(0, 2);
-    const QStringList moved{u"名称"_s, u"Unit Price"_s, u"ID"_s, u"城市"_s, u"日期"_s, u"停用"_s, u"图片"_s};
-    ASSERT_EQ(shownOrder(), moved);
-    choose(u"城市"_s, u"SortAscending"_s);
-    EXPECT_EQ(shownOrder(), moved);
-    EXPECT_EQ(grid.GetBindFieldIndex(u"ID"_s), 1);
-    choose(u"日期"_s, u"HideColumn"_s);
-    EXPECT_EQ(shownOrder(),
-              QStringList({u"名称"_s, u"Unit Price"_s, u"ID"_s, u"城市"_s, u"停用"_s, u"图片"_s}));
-    // Other fields come in their own order, and so do these when they come again.
-    ASSERT_TRUE(load(u"SELECT ID,商品 FROM 订单"_s, {}));
-    ASSERT_TRUE(load());
-    EXPECT_EQ(shownOrder(), PartColumns);
-}
-
-// As dragging a heading does, without a mouse.
-TEST_F(ColumnMenu, MovesTheColumnByKeysPastTheOnesThatAreHidden)
-{
-    ASSERT_TRUE(load());
-    choose(u"名称"_s, u"HideColumn"_s);
-    const auto press = [&](const QString &column, Qt::Key letter) {
-        table->setCurrentIndex(table->model()->index(0, grid.GetBindFieldIndex(column) - 1));
-        table->setFocus();
-        QTest::keyClick(table, Qt::Key_Down, Qt::ControlModifier | Qt::AltModifier);
-        ASSERT_TRUE(menu()->isVisible());
-        QTest::keyClick(menu(), letter);
-    };
-    press(u"ID"_s, Qt::Key_N);
-    EXPECT_EQ(shownOrder(),
-              QStringList({u"Unit Price"_s, u"ID"_s, u"城市"_s, u"日期"_s, u"停用"_s, u"图片"_s}));
-    EXPECT_EQ(grid.GetBindFieldIndex(u"ID"_s), 1) << "the number is the field's";
-    press(u"城市"_s, Qt::Key_B);
-    EXPECT_EQ(shownOrder(),
-              QStringList({u"Unit Price"_s, u"城市"_s, u"ID"_s, u"日期"_s, u"停用"_s, u"图片"_s}));
-    open(u"Unit Price"_s);
-    EXPECT_FALSE(entry(u"MoveLeft"_s)->isEnabled()) << "it is the first";
-    EXPECT_TRUE(entry(u"MoveRight"_s)->isEnabled());
-    menu()->close();
 }
 
 TEST_F(ColumnMenu, OpensByKeysAndGoesOnByKeys)

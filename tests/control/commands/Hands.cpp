@@ -105,6 +105,26 @@ QString Hands::listed(const QString &field) const
     return row < 0 ? QString() : list->model()->index(row, 1).data().toString();
 }
 
+bool Hands::writeListed(const QString &field, const QString &text, bool isConfirmed)
+{
+    if (!isSingleRecordShown())
+        click(u"SingleRecord"_s);
+    list->setCurrentIndex(list->model()->index(listedRow(field), 1));
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_F2);
+    if (!edit->isVisible())
+        return false;
+    if (edit->isReadOnly()) {
+        QTest::keyClick(edit, Qt::Key_Escape);
+        return false;
+    }
+    edit->clear();
+    compose(*edit, text);
+    if (isConfirmed)
+        QTest::keyClick(edit, Qt::Key_Return);
+    return true;
+}
+
 void Hands::tick(QDialog &dialog, const QStringList &fields)
 {
     auto &view = part<QAbstractItemView>(dialog, "lvSelField");

@@ -46,6 +46,10 @@ public:
     QString listed(const QString &field) const;
     int listedRow(const QString &field) const; // of the list's model, -1 when there is none
 
+    // Writes a text in the place of a field's in the single-record list, which is opened if need be; Enter
+    // confirms it. False when the field takes nothing.
+    bool writeListed(const QString &field, const QString &text, bool isConfirmed = true);
+
     // Answers for the dialogs.
     static void tick(QDialog &dialog, const QStringList &fields);
     static void sort(QDialog &dialog, const QStringList &fields, bool isDescending = false);

@@ -9,6 +9,8 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QToolButton>
 
+#include <functional>
+
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
 
@@ -62,6 +64,21 @@ protected:
     QMenu *menu = grid.findChild<QMenu *>(u"HistoryMenu"_s);
     ExpectedWarning noPopup{u"This plugin does not support"_s};
 };
+
+// Ticks the fields by their place in the dialog, where several can have one name.
+void tickWhere(QDialog &dialog, const std::function<bool(int)> &isWanted)
+{
+    auto &view = part<QAbstractItemView>(dialog, "lvSelField");
+    for (int row = 0; row < view.model()->rowCount(); ++row) {
+        const QModelIndex item = view.model()->index(row, 0);
+        if ((item.data(Qt::CheckStateRole).toInt() == Qt::Checked) == isWanted(row))
+            continue;
+        view.setFocus();
+        view.setCurrentIndex(item);
+        QTest::keyClick(&view, Qt::Key_Space);
+    }
+    press(dialog, "cmdOK");
+}
 
 } // namespace
 
@@ -147,18 +164,7 @@ TEST_F(History, AStepBackToAFilterOfTheFirstStatementShowsTheFieldsThatItShowed)
 TEST_F(History, OfTwoFieldsOfANameTheChosenOneIsShownThroughAFilter)
 {
     const auto tickOnly = [](int field) {
-        return [field](QDialog &dialog) {
-            auto &view = part<QAbstractItemView>(dialog, "lvSelField");
-            for (int row = 0; row < view.model()->rowCount(); ++row) {
-                const QModelIndex item = view.model()->index(row, 0);
-                if ((item.data(Qt::CheckStateRole).toInt() == Qt::Checked) == (row == field))
-                    continue;
-                view.setFocus();
-                view.setCurrentIndex(item);
-                QTest::keyClick(&view, Qt::Key_Space);
-            }
-            KovaTest::press(dialog, "cmdOK");
-        };
+        return [field](QDialog &dialog) { tickWhere(dialog, [=](int row) { return row == field; }); };
     };
     ASSERT_TRUE(load(u"SELECT a.ID, b.ID, a.名称 FROM 商品 a JOIN 商品 b ON b.ID = a.ID + 1"_s, {}));
     WindowAnswers dialogs(
@@ -173,6 +179,25 @@ TEST_F(History, OfTwoFieldsOfANameTheChosenOneIsShownThroughAFilter)
     EXPECT_EQ(columns(), QStringList(u"ID"_s));
     EXPECT_TRUE(table->isColumnHidden(0));
     EXPECT_FALSE(table->isColumnHidden(1));
+}
+
+TEST_F(History, OfEqualNamesUnderStarsTheOneLeftOutStaysHiddenThroughAFilter)
+{
+    ASSERT_TRUE(load(u"SELECT a.*, b.*, c.* FROM 商品 a LEFT JOIN 商品 b ON b.ID = a.ID + 1 "
+                     "LEFT JOIN 订单 c ON c.商品 = a.ID"_s,
+                     {}));
+    const QStringList all = columns();
+    const int leftOut = static_cast<int>(all.indexOf(u"名称"_s));
+    ASSERT_EQ(all.count(u"名称"_s), 2);
+    WindowAnswers dialogs(
+        {[&](QDialog &dialog) { tickWhere(dialog, [&](int row) { return row != leftOut; }); },
+         [](QDialog &dialog) { filter(dialog, u"a.ID < 3"_s); }});
+    click(u"SelField"_s);
+    click(u"Filter"_s);
+    EXPECT_EQ(rows(), 2);
+    ASSERT_EQ(table->model()->columnCount(), all.size());
+    for (int column = 0; column < all.size(); ++column)
+        EXPECT_EQ(table->isColumnHidden(column), column == leftOut) << column;
 }
 
 TEST_F(History, TheOriginLeavesAllStatementsAhead)

@@ -30,13 +30,7 @@ protected:
     // Types into a field of the first record; Enter confirms it.
     void write(const QString &field, const QString &text, bool isConfirmed)
     {
-        click(u"SingleRecord"_s);
-        list->setCurrentIndex(list->model()->index(listedRow(field), 1));
-        list->setFocus();
-        QTest::keyClick(list, Qt::Key_F2);
-        compose(*edit, text);
-        if (isConfirmed)
-            QTest::keyClick(edit, Qt::Key_Return);
+        EXPECT_TRUE(writeListed(field, text, isConfirmed));
     }
     void refuse()
     {

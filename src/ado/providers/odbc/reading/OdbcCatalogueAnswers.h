@@ -20,17 +20,15 @@ struct OdbcTableName
     QString table;
 };
 
-// A part of a name, as a function of the catalogue takes it. The text must outlive it.
-class OdbcNamePart
+// Calls a function of the catalogue with the text and the length of each part of the name.
+template<typename Function>
+SQLRETURN askFor(const OdbcTableName &name, const Function &function)
 {
-public:
-    explicit OdbcNamePart(const QString &text) : m_text(text) {}
-    SQLWCHAR *text() const { return m_text.isEmpty() ? nullptr : wide(m_text); }
-    SQLSMALLINT length() const { return static_cast<SQLSMALLINT>(m_text.size()); }
-
-private:
-    const QString &m_text;
-};
+    const auto text = [](const QString &part) { return part.isEmpty() ? nullptr : wide(part); };
+    const auto length = [](const QString &part) { return static_cast<SQLSMALLINT>(part.size()); };
+    return function(text(name.catalog), length(name.catalog), text(name.schema), length(name.schema),
+                    text(name.table), length(name.table));
+}
 
 // Asks the catalogue and calls `see` with each row's values in the wanted columns, which count from 1 and go
 // up. What the driver does not answer, it does not know.

@@ -17,16 +17,13 @@ std::optional<TableColumn> referenceIn(const std::shared_ptr<OdbcConnection> &co
     const OdbcTableName name{.catalog = hasCatalogues ? column.schema : QString(),
                              .schema = hasCatalogues ? QString() : column.schema,
                              .table = column.table};
-    const OdbcNamePart catalog(name.catalog);
-    const OdbcNamePart owner(name.schema);
-    const OdbcNamePart table(name.table);
     std::optional<TableColumn> found;
     forEachAnswer(
         connection,
         [&](SQLHSTMT statement) {
-            return SQLForeignKeysW(statement, nullptr, 0, nullptr, 0, nullptr, 0, catalog.text(),
-                                   catalog.length(), owner.text(), owner.length(), table.text(),
-                                   table.length());
+            return askFor(name, [&](auto... parts) {
+                return SQLForeignKeysW(statement, nullptr, 0, nullptr, 0, nullptr, 0, parts...);
+            });
         },
         {1, 2, 3, 4, 8},
         [&](const QStringList &row) {

@@ -31,29 +31,26 @@ OdbcTableName fullName(const OdbcTableFields &all, const OdbcConnection &connect
     return name;
 }
 
-QString escaped(const QString &name, const QString &escape)
+// For the functions that look for patterns.
+OdbcTableName asPattern(OdbcTableName name, const OdbcConnection &connection)
 {
-    QString pattern = name;
+    const QString escape = connection.info(SQL_SEARCH_PATTERN_ESCAPE);
     for (const QString &special : {escape, u"_"_s, u"%"_s}) {
         if (!escape.isEmpty())
-            pattern.replace(special, escape + special);
+            name.table.replace(special, escape + special);
     }
-    return pattern;
+    return name;
 }
 
 // Empty when it is no table.
 QString tableType(const std::shared_ptr<OdbcConnection> &connection, const OdbcTableName &name)
 {
-    const QString pattern = escaped(name.table, connection->info(SQL_SEARCH_PATTERN_ESCAPE));
-    const OdbcNamePart catalog(name.catalog);
-    const OdbcNamePart schema(name.schema);
-    const OdbcNamePart table(pattern);
     QString type;
     forEachAnswer(
         connection,
         [&](SQLHSTMT statement) {
-            return SQLTablesW(statement, catalog.text(), catalog.length(), schema.text(), schema.length(),
-                              table.text(), table.length(), nullptr, 0);
+            return askFor(asPattern(name, *connection),
+                          [&](auto... parts) { return SQLTablesW(statement, parts..., nullptr, 0); });
         },
         {3, 4},
         [&](const QStringList &row) {
@@ -84,15 +81,11 @@ bool isTransactional(const std::shared_ptr<OdbcConnection> &connection, const Od
 
 QStringList primaryKey(const std::shared_ptr<OdbcConnection> &connection, const OdbcTableName &name)
 {
-    const OdbcNamePart catalog(name.catalog);
-    const OdbcNamePart schema(name.schema);
-    const OdbcNamePart table(name.table);
     QStringList key;
     forEachAnswer(
         connection,
         [&](SQLHSTMT statement) {
-            return SQLPrimaryKeysW(statement, catalog.text(), catalog.length(), schema.text(),
-                                   schema.length(), table.text(), table.length());
+            return askFor(name, [&](auto... parts) { return SQLPrimaryKeysW(statement, parts...); });
         },
         {4}, [&](const QStringList &row) { key += row.at(0); });
     return key;
@@ -109,15 +102,13 @@ QStringList uniqueIndex(const std::shared_ptr<OdbcConnection> &connection, const
         QStringList columns;
         bool usable = true;
     };
-    const OdbcNamePart catalog(name.catalog);
-    const OdbcNamePart schema(name.schema);
-    const OdbcNamePart table(name.table);
     std::vector<Index> indexes;
     forEachAnswer(
         connection,
         [&](SQLHSTMT statement) {
-            return SQLStatisticsW(statement, catalog.text(), catalog.length(), schema.text(), schema.length(),
-                                  table.text(), table.length(), SQL_INDEX_UNIQUE, SQL_QUICK);
+            return askFor(name, [&](auto... parts) {
+                return SQLStatisticsW(statement, parts..., SQL_INDEX_UNIQUE, SQL_QUICK);
+            });
         },
         {6, 9, 13},
         [&](const QStringList &row) {
@@ -136,16 +127,12 @@ QStringList uniqueIndex(const std::shared_ptr<OdbcConnection> &connection, const
 
 QStringList neverNull(const std::shared_ptr<OdbcConnection> &connection, const OdbcTableName &name)
 {
-    const QString pattern = escaped(name.table, connection->info(SQL_SEARCH_PATTERN_ESCAPE));
-    const OdbcNamePart catalog(name.catalog);
-    const OdbcNamePart schema(name.schema);
-    const OdbcNamePart table(pattern);
     QStringList columns;
     forEachAnswer(
         connection,
         [&](SQLHSTMT statement) {
-            return SQLColumnsW(statement, catalog.text(), catalog.length(), schema.text(), schema.length(),
-                               table.text(), table.length(), nullptr, 0);
+            return askFor(asPattern(name, *connection),
+                          [&](auto... parts) { return SQLColumnsW(statement, parts..., nullptr, 0); });
         },
         {4, 11},
         [&](const QStringList &row) {
