@@ -33,6 +33,22 @@ protected:
 
 KOVA_ON_ODBC_ENGINES(WritingOnOdbc);
 
+TEST_P(WritingOnOdbc, KeepsAByteOrderMarkAtTheBeginningOfAText)
+{
+    const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s);
+    const QString text = u"\uFEFF\uFEFF甲"_s;
+    for (const char *field : {"name", "note"})
+        recordset->Fields().Item(QString::fromLatin1(field)).PutValue(text);
+    recordset->Update();
+    for (const int column : {1, 3}) {
+        EXPECT_EQ(recordset->CellText(1, column), text);
+        EXPECT_EQ(open(u"SELECT * FROM kova_a ORDER BY id"_s)->CellText(1, column), text);
+    }
+    EXPECT_EQ(
+        ask(u"SELECT %1(name) FROM kova_a WHERE id = 1"_s.arg(is("SQLite") ? u"length"_s : u"char_length"_s)),
+        u"3"_s);
+}
+
 TEST_P(WritingOnOdbc, ChangesDeletesAndInsertsTheOneRow)
 {
     const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s);
