@@ -79,6 +79,8 @@ void EditedRecord::saveChanges()
     const bool isNew = recordset.EditMode() == ADODB::adEditAdd;
     if (isNew && hasNoValue(recordset))
         return cancelChanges();
+    if (m_isReadOnly)
+        throw ADODB::Error(ADODB::adErrFeatureNotAvailable, SessionMessages::ReadOnlySince);
     change([](ADODB::Recordset &changed) { changed.Update(); }, SessionMessages::SavedAfterLoss,
            SessionMessages::NotSavedAfterLoss);
     if (!watch.isUntouched()) // the control went while it was saved
