@@ -128,8 +128,7 @@ void RecordEditor::saveNew(Snapshot &snapshot)
                 throw;
         }
     }
-    if (m_sent->values != m_values)
-        changeSaved();
+    changeSaved();
     showNew(snapshot);
 }
 
@@ -168,15 +167,13 @@ bool RecordEditor::findSavedNew()
     return true;
 }
 
-void RecordEditor::insert(int columns)
+// Makes an attempt with what is pending now. `attempt` gets the row for what is stored.
+void RecordEditor::send(int columns, const std::function<void(RowStore &)> &attempt)
 {
     // Made before, so that nothing can fail once it is saved.
     std::unique_ptr<Sent> sent(new Sent{m_values, RowStore(columns)});
     try {
-        if (m_sent)
-            writer().insertAgain(changes(), m_sent->row.row(0), sent->row);
-        else
-            writer().insert(changes(), sent->row);
+        attempt(sent->row);
     } catch (const Error &error) {
         if (error.is(dbErrInDoubt))
             m_sent = std::move(sent);
@@ -185,12 +182,22 @@ void RecordEditor::insert(int columns)
     m_sent = std::move(sent);
 }
 
-// What was written into the new record since it was saved.
+void RecordEditor::insert(int columns)
+{
+    send(columns, [this](RowStore &stored) {
+        if (m_sent)
+            writer().insertAgain(changes(), m_sent->row.row(0), stored);
+        else
+            writer().insert(changes(), stored);
+    });
+}
+
+// What was written into the record since the attempt that saved it.
 void RecordEditor::changeSaved()
 {
-    std::unique_ptr<Sent> sent(new Sent{m_values, RowStore(m_sent->row.columns())});
-    writer().update(m_sent->row.row(0), changes(), sent->row);
-    m_sent = std::move(sent);
+    if (m_sent->values != m_values)
+        send(m_sent->row.columns(),
+             [this](RowStore &stored) { writer().update(m_sent->row.row(0), changes(), stored); });
 }
 
 void RecordEditor::saveChanges(Snapshot &snapshot, qint64 record)
@@ -201,7 +208,7 @@ void RecordEditor::saveChanges(Snapshot &snapshot, qint64 record)
 
 bool RecordEditor::findChanges(Snapshot &snapshot, qint64 record)
 {
-    if (!m_sent || !findSaved(snapshot, record))
+    if (!m_sent || m_sent->values != m_values || !findSaved(snapshot, record))
         return false;
     showChanges(snapshot, record);
     return true;
@@ -215,19 +222,15 @@ void RecordEditor::showChanges(Snapshot &snapshot, qint64 record)
 
 void RecordEditor::update(const Snapshot &snapshot, qint64 record)
 {
-    // Made before, so that nothing can fail once it is saved.
-    std::unique_ptr<Sent> sent(new Sent{m_values, RowStore(snapshot.columns())});
     try {
-        writer().update(snapshot.raw(record), changes(), sent->row);
+        send(snapshot.columns(),
+             [&](RowStore &stored) { writer().update(snapshot.raw(record), changes(), stored); });
     } catch (const Error &error) {
         // What has changed the record may be the attempt before this one, whose answer never came.
-        if (m_sent && error.is(dbErrConcurrency) && findSaved(snapshot, record))
-            return;
-        if (error.is(dbErrInDoubt))
-            m_sent = std::move(sent);
-        throw;
+        if (!m_sent || !error.is(dbErrConcurrency) || !findSaved(snapshot, record))
+            throw;
+        changeSaved();
     }
-    m_sent = std::move(sent);
 }
 
 // Whether the database has what the attempt before this one was to save, under the key that it was to have.
@@ -235,8 +238,7 @@ bool RecordEditor::findSaved(const Snapshot &snapshot, qint64 record)
 {
     const bool isRowKnown = m_sent->row.rows() == 1;
     RowStore now(snapshot.columns());
-    if (m_sent->values != m_values ||
-        !writer().read(isRowKnown ? m_sent->row.row(0) : snapshot.raw(record), now) || now.rows() != 1)
+    if (!writer().read(isRowKnown ? m_sent->row.row(0) : snapshot.raw(record), now) || now.rows() != 1)
         return false;
     const Snapshot found(snapshot.fields(), now);
     const auto isSaved = [&](const auto &change) {
@@ -244,7 +246,7 @@ bool RecordEditor::findSaved(const Snapshot &snapshot, qint64 record)
                    ? RowComparison::isSame(now.cell(0, change.first), m_sent->row.cell(0, change.first))
                    : found.value(1, change.first) == change.second;
     };
-    if (!std::all_of(m_values.begin(), m_values.end(), isSaved))
+    if (!std::all_of(m_sent->values.begin(), m_sent->values.end(), isSaved))
         return false;
     m_sent->row = std::move(now);
     return true;

@@ -5,6 +5,7 @@
 
 #include <QtCore/QVariant>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
@@ -58,6 +59,7 @@ public:
 private:
     RowWriter &writer() const;
     std::vector<Change> changes() const;
+    void send(int columns, const std::function<void(RowStore &)> &attempt);
     void update(const Snapshot &snapshot, qint64 record);
     bool findSaved(const Snapshot &snapshot, qint64 record);
     bool findSavedNew();
