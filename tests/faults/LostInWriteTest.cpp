@@ -191,6 +191,27 @@ TEST_P(LostInWrite, ANewRecordIsAddedOnce)
     }
 }
 
+TEST_P(LostInWrite, AnotherRecordIsBegunOnlyWhenTheFirstIsSaved)
+{
+    hands->choose(8, 1);
+    write(u"new"_s);
+    proxy->dropAtCommit(DroppingProxy::BeforeTheServerHears);
+    hands->choose(8, 1);
+    EXPECT_TRUE(proxy->hasDropped());
+    const std::vector<ShownMessage> shown = told();
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_EQ(shown.front().text, u"再次插入空行操作已被取消"_s);
+    EXPECT_TRUE(shown.front().cause.startsWith(u"保存时与数据库的连接中断。"_s))
+        << qUtf8Printable(shown.front().cause);
+    EXPECT_EQ(hands->listed(u"name"_s), u"new"_s);
+    proxy->dropAtCommit(DroppingProxy::AfterTheServerAnswered);
+    hands->choose(8, 1);
+    EXPECT_TRUE(proxy->hasDropped());
+    expectNothingTold();
+    EXPECT_EQ(hands->listed(u"name"_s), QString()) << "the next one";
+    EXPECT_EQ(count(), u"4"_s);
+}
+
 TEST_P(LostInWrite, ADeletionThatWasDoneIsShown)
 {
     proxy->dropAtCommit(DroppingProxy::AfterTheServerAnswered);

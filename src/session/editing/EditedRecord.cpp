@@ -238,7 +238,7 @@ QString EditedRecord::whyNotWritten() const
 
 QString EditedRecord::whyNotAdded() const
 {
-    const QString reason = whyNotWritten();
+    QString reason = whyNotWritten();
     if (!reason.isEmpty() || !m_session.result().isOpen())
         return reason;
     return hasWritableField(*m_session.result().recordset()) ? QString() : SessionMessages::NothingToAdd;
