@@ -372,14 +372,6 @@
         <translation>The database stored values that differ from those entered, so the record cannot be found again. No changes were saved.</translation>
     </message>
     <message>
-        <source>保存时与数据库的连接中断，无法确定更改是否已经保存，请重新打开后核对。（%1）</source>
-        <translation>The connection was lost while saving, so it is not known whether the changes were saved. Open the data again and check. (%1)</translation>
-    </message>
-    <message>
-        <source>更改可能已经保存，但无法再读取该记录，请重新打开后核对。（%1）</source>
-        <translation>The changes may have been saved, but the record cannot be read any more. Open the data again and check. (%1)</translation>
-    </message>
-    <message>
         <source>表“%1”既没有主键，又不支持事务，无法安全地修改。</source>
         <translation>The table &quot;%1&quot; has no primary key and no transactions, so it cannot be changed safely.</translation>
     </message>
@@ -470,6 +462,18 @@
     <message>
         <source>数据库文件已被移动、删除或替换，没有保存任何更改，请重新打开。</source>
         <translation>The database file was moved, deleted or replaced. Nothing was saved; load the data again.</translation>
+    </message>
+    <message>
+        <source>保存时与数据库的连接中断，无法确定更改是否已经保存。重试时会先核对。（%1）</source>
+        <translation>The connection to the database was lost while saving. It is not known whether the change was saved; a retry checks first. (%1)</translation>
+    </message>
+    <message>
+        <source>更改可能已经保存，但无法再读取该记录。重试时会先核对。（%1）</source>
+        <translation>The change may have been saved, but the record cannot be read again. A retry checks first. (%1)</translation>
+    </message>
+    <message>
+        <source>字段“%1”的内容中有空字符（U+0000），此数据库不能保存，请去掉它。</source>
+        <translation>The text for the field &quot;%1&quot; contains a null character (U+0000), which this database cannot store. Remove it.</translation>
     </message>
 </context>
 <context>
@@ -2686,6 +2690,26 @@ Save it again anyway?</translation>
     <message>
         <source>再次保存</source>
         <translation>Save Again</translation>
+    </message>
+    <message>
+        <source>保存时连接中断；重新连接后核对，更改已经保存</source>
+        <translation>The connection was lost while saving; checked again: the change was saved</translation>
+    </message>
+    <message>
+        <source>保存时与数据库的连接中断。重新连接后核对，数据库中还没有这些更改，可以再次保存。</source>
+        <translation>The connection to the database was lost while saving. Checked again: the database does not have the change yet. You can save it again.</translation>
+    </message>
+    <message>
+        <source>删除时连接中断；重新连接后核对，记录已经删除</source>
+        <translation>The connection was lost while deleting; checked again: the record was deleted</translation>
+    </message>
+    <message>
+        <source>删除时与数据库的连接中断。重新连接后核对，记录还在数据库中，可以再次删除。</source>
+        <translation>The connection to the database was lost while deleting. Checked again: the record is still in the database. You can delete it again.</translation>
+    </message>
+    <message>
+        <source>记录已设为只读，不能再保存。修改的内容仍在，按 Esc 放弃。</source>
+        <translation>The records are now read-only and can no longer be saved. Your changes are still here; discard them with Esc.</translation>
     </message>
 </context>
 <context>

@@ -40,7 +40,7 @@ public:
     // Throws 3704 if already closed.
     void Close();
     // Whether it is open. It is also closed after the connection to a server was lost, and can be opened
-    // again.
+    // again. A change to a record of one of its recordsets opens it as well.
     ObjectStateEnum State() const;
 
     // The name of the engine as its driver returns it ("SQLite", "PostgreSQL"), or empty. Throws 3704 if

@@ -126,6 +126,7 @@ inline constexpr Text readOnlyDistinct = tr("查询结果去掉了重复记录�
 inline constexpr Text readOnlyCompound = tr("查询结果由多个查询合并而成，不能修改。");
 inline constexpr Text readOnlyField = tr("字段“%1”是计算得出的，不能修改。");
 inline constexpr Text badValue = tr("值“%1”不适合字段“%2”的数据类型。");
+inline constexpr Text nulInText = tr("字段“%1”的内容中有空字符（U+0000），此数据库不能保存，请去掉它。");
 inline constexpr Text binaryValue = tr("二进制数据");
 inline constexpr Text emptyRecordAgain = tr("新记录还没有填写任何内容，再次插入空行的操作已取消。");
 inline constexpr Text newRowWithoutKey = tr("新记录必须填写主键字段 %1，没有保存任何更改。");
@@ -137,14 +138,14 @@ inline constexpr Text changePrevented =
 inline constexpr Text changedRowLost =
     tr("数据库保存的值与填写的不同，因而无法再找到该记录，没有保存任何更改。");
 inline constexpr Text inDoubt =
-    tr("保存时与数据库的连接中断，无法确定更改是否已经保存，请重新打开后核对。（%1）");
+    tr("保存时与数据库的连接中断，无法确定更改是否已经保存。重试时会先核对。（%1）");
 inline constexpr Text newKeyUnknown =
     tr("上次保存这条新记录时连接中断，其主键未知，无法核对是否已经保存。再次保存可能会重复。");
 inline constexpr Text newKeyTaken =
     tr("上次保存这条新记录时连接中断，现在主键相同的记录与它不同，不知是否同一条。再次保存可能会重复。");
 inline constexpr Text fileReplaced = tr("数据库文件已被移动、删除或替换，没有保存任何更改，请重新打开。");
 inline constexpr Text closedWhileEdited = tr("当前记录有尚未保存的修改，不能关闭记录集。");
-inline constexpr Text savedUnseen = tr("更改可能已经保存，但无法再读取该记录，请重新打开后核对。（%1）");
+inline constexpr Text savedUnseen = tr("更改可能已经保存，但无法再读取该记录。重试时会先核对。（%1）");
 inline constexpr Text readOnlyNoTransaction = tr("表“%1”既没有主键，又不支持事务，无法安全地修改。");
 inline constexpr Text tableAltered = tr("表的结构已被其他程序更改，没有保存任何更改，请刷新后重试。");
 inline constexpr Text rowNotUnique = tr("无法唯一确定要修改的记录（有 %1 条相同的记录），没有保存任何更改。");

@@ -1,6 +1,7 @@
 #include "export/Encoder.h"
 
 #include "ado/Error.h"
+#include "ado/values/Utf8.h"
 #include "export/ExportTexts.h"
 
 namespace KOVAVSFDataGridLib {
@@ -36,7 +37,7 @@ QByteArrayView Encoder::encode(QByteArrayView utf8)
 {
     if (!m_converter)
         return utf8;
-    m_encoded = m_converter->encode(QString::fromUtf8(utf8));
+    m_encoded = m_converter->encode(ADODB::textFromUtf8(utf8));
     if (m_converter->hasError()) {
         throw ADODB::Error(ADODB::adErrWriteFile,
                            ExportTexts::CantEncode.arg(QLatin1StringView(gb18030Name)));

@@ -1,5 +1,6 @@
 #include "export/TableMimeData.h"
 
+#include "ado/values/Utf8.h"
 #include "export/writers/HtmlText.h"
 
 namespace KOVAVSFDataGridLib {
@@ -53,7 +54,7 @@ QVariant TableMimeData::retrieveData(const QString &mimeType, QMetaType type) co
     if (mimeType == "text/html"_L1)
         return wantsBytes ? QVariant(html()) : QVariant(QString::fromUtf8(html()));
     if (mimeType.startsWith("text/plain"_L1))
-        return wantsBytes ? QVariant(m_text) : QVariant(QString::fromUtf8(m_text));
+        return wantsBytes ? QVariant(m_text) : QVariant(ADODB::textFromUtf8(m_text));
     return QMimeData::retrieveData(mimeType, type);
 }
 

@@ -15,6 +15,12 @@ inline constexpr Text PageErrorPrefix = tr("无法翻页：");
 inline constexpr Text OutOfMemory = tr("内存不足，操作没有完成。");
 inline constexpr Text NotAPageNumber = tr("请在页数输入正整数.");
 inline constexpr Text NotSavedPrefix = tr("记录没有保存：");
+inline constexpr Text SavedAfterLoss = tr("保存时连接中断；重新连接后核对，更改已经保存");
+inline constexpr Text NotSavedAfterLoss =
+    tr("保存时与数据库的连接中断。重新连接后核对，数据库中还没有这些更改，可以再次保存。");
+inline constexpr Text DeletedAfterLoss = tr("删除时连接中断；重新连接后核对，记录已经删除");
+inline constexpr Text NotDeletedAfterLoss =
+    tr("删除时与数据库的连接中断。重新连接后核对，记录还在数据库中，可以再次删除。");
 inline constexpr Text AskSaveAgain = tr("%1\n\n仍要再次保存吗？");
 inline constexpr Text AskSaveAgainTitle = tr("再次保存");
 inline constexpr Text NewValuesRefused = tr("无法查看新值：");
@@ -27,6 +33,7 @@ inline constexpr Text PlaceOfValue = tr("%1（第 %2 行）");
 inline constexpr Text NothingAhead = tr("没有可以前进到的结果。");
 inline constexpr Text InsertCancelled = tr("再次插入空行操作已被取消");
 inline constexpr Text CopyRefused = tr("无法复制记录：");
+inline constexpr Text ReadOnlySince = tr("记录已设为只读，不能再保存。修改的内容仍在，按 Esc 放弃。");
 inline constexpr Text ReadOnly = tr("记录只读，不能增加、修改或删除。");
 inline constexpr Text NothingToAdd = tr("查询结果中没有可以修改的字段，不能增加记录。");
 inline constexpr Text RecordsCopied = tr("已复制 %1 条记录");

@@ -8,8 +8,8 @@
 
 namespace AdoTest {
 
-// Stands between one client and a server on the loopback interface, and goes away when the client sends a
-// word that it waits for. Unix only.
+// Stands between clients and a server on the loopback interface, and ends a connection when its client sends
+// a word that it waits for. Unix only.
 class DroppingProxy
 {
 public:
@@ -19,14 +19,19 @@ public:
     Q_DISABLE_COPY_MOVE(DroppingProxy)
 
     int port() const { return m_proxy.port(); }
-    // From now on it waits for COMMIT.
-    void dropAtCommit(When when);
+    // From now on it waits for these words, in capital letters.
+    void dropAt(const QByteArray &words, When when);
+    void dropAtCommit(When when) { dropAt("COMMIT", when); }
     bool hasDropped() const { return m_dropped; }
+    // Whether it lets nobody through either, from the next time it ends a connection on.
+    void setStaysAway(bool stays);
 
 private:
     bool passes(KovaTest::LoopbackProxy::From from, const QByteArray &said);
 
+    QByteArray m_words; // read only while it is armed
     std::atomic<bool> m_armed = false;
+    std::atomic<bool> m_staysAway = false;
     std::atomic<When> m_when = BeforeTheServerHears;
     std::atomic<bool> m_dropped = false;
     std::atomic<bool> m_dropsAnswer = false;

@@ -279,25 +279,4 @@ TEST_P(OnMariaDb, ChangesNothingWhereBackslashesEndNoText)
     EXPECT_EQ(open(u"SELECT 1"_s, connection)->CellText(1, 0), u"1"_s) << "the driver still works";
 }
 
-TEST_P(OnMariaDb, KeepsFullwidthQuotesInATextWhateverTheCharacterSet)
-{
-    execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY, a VARCHAR(40) CHARACTER SET utf8mb4)"_s);
-    execute(u"INSERT INTO kova_a VALUES (1, 'a')"_s);
-    for (const QString &charset : {u"big5"_s, u"sjis"_s, u"latin1"_s, u"cp1251"_s, u"ascii"_s, u"gbk"_s}) {
-        const auto connection = std::make_shared<Connection>();
-        connection->Open(connectionString().replace(u"Charset=utf8mb4"_s, u"charset="_s + charset));
-        const auto text = open(u"SELECT '＇ AS b, a AS c FROM kova_a -- ' AS a"_s, connection);
-        ASSERT_EQ(text->Fields().Count(), 1) << qPrintable(charset);
-        EXPECT_EQ(text->CellText(1, 0), u"＇ AS b, a AS c FROM kova_a -- "_s) << qPrintable(charset);
-
-        const QString typed = u"＇é\U0001F600\u02BC\uFF3C"_s;
-        const auto recordset = open(u"SELECT id, a FROM kova_a"_s, connection);
-        recordset->Fields().Item(1).PutValue(typed);
-        recordset->Update();
-        EXPECT_EQ(open(u"SELECT a FROM kova_a"_s, connection)->CellText(1, 0), typed) << qPrintable(charset);
-        recordset->Fields().Item(1).PutValue(u"a"_s);
-        recordset->Update();
-    }
-}
-
 } // namespace

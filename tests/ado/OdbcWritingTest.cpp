@@ -33,6 +33,38 @@ protected:
 
 KOVA_ON_ODBC_ENGINES(WritingOnOdbc);
 
+// Drivers cut it there, some when it is written and others when it is read again.
+TEST_P(WritingOnOdbc, RefusesATextWithU0000)
+{
+    const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s);
+    for (const char *field : {"name", "note"}) {
+        const QString name = QString::fromLatin1(field);
+        const QString before = ask(u"SELECT %1 FROM kova_a WHERE id = 1"_s.arg(name));
+        const Error error = errorOf([&] { recordset->Fields().Item(name).PutValue(u"a\0b"_s); });
+        EXPECT_TRUE(error.is(adErrDataConversion)) << error.what();
+        EXPECT_TRUE(error.Description().contains(u"U+0000")) << error.what();
+        EXPECT_EQ(recordset->EditMode(), adEditNone);
+        recordset->Update();
+        EXPECT_EQ(ask(u"SELECT %1 FROM kova_a WHERE id = 1"_s.arg(name)), before);
+    }
+}
+
+TEST_P(WritingOnOdbc, KeepsAByteOrderMarkAtTheBeginningOfAText)
+{
+    const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s);
+    const QString text = u"\uFEFF\uFEFF甲"_s;
+    for (const char *field : {"name", "note"})
+        recordset->Fields().Item(QString::fromLatin1(field)).PutValue(text);
+    recordset->Update();
+    for (const int column : {1, 3}) {
+        EXPECT_EQ(recordset->CellText(1, column), text);
+        EXPECT_EQ(open(u"SELECT * FROM kova_a ORDER BY id"_s)->CellText(1, column), text);
+    }
+    EXPECT_EQ(
+        ask(u"SELECT %1(name) FROM kova_a WHERE id = 1"_s.arg(is("SQLite") ? u"length"_s : u"char_length"_s)),
+        u"3"_s);
+}
+
 TEST_P(WritingOnOdbc, ChangesDeletesAndInsertsTheOneRow)
 {
     const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s);

@@ -168,6 +168,32 @@ TEST_F(EditInDoubt, IsSavedWhenItWasNot)
     EXPECT_EQ(table.updates, 1);
 }
 
+TEST_F(EditInDoubt, IsFollowedByWhatTheUserWroteSince)
+{
+    for (const bool isSaved : {true, false}) {
+        saveWithoutAnswer(isSaved);
+        editor.set(1, u"more"_s, snapshot);
+        EXPECT_FALSE(editor.findChanges(snapshot, 1)) << "not all of it";
+        save();
+        expectShown(u"more"_s);
+        EXPECT_EQ(table.text, u"more"_s);
+        editor.set(1, u"mine"_s, snapshot);
+    }
+}
+
+TEST_F(EditInDoubt, IsFoundWithoutAnotherAttempt)
+{
+    saveWithoutAnswer(false);
+    EXPECT_FALSE(editor.findChanges(snapshot, 1));
+    EXPECT_EQ(editor.mode(), adEditInProgress);
+    EXPECT_EQ(table.updates, 0);
+    saveWithoutAnswer(true);
+    EXPECT_TRUE(editor.findChanges(snapshot, 1));
+    expectShown(u"mine"_s);
+    EXPECT_EQ(table.updates, 1);
+    EXPECT_FALSE(editor.findChanges(snapshot, 1)) << "nothing is open any more";
+}
+
 TEST_F(EditInDoubt, GivesWayToWhatSomebodyElseWroteSince)
 {
     saveWithoutAnswer(true);

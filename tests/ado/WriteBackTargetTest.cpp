@@ -221,4 +221,21 @@ TEST(WriteBackTarget, LeavesGeneratedColumnsToTheDatabase)
     EXPECT_EQ(database.ask(u"SELECT group_concat(a) FROM g"_s), u"2"_s);
 }
 
+// What other programs take for a mark or an end is a character like any other.
+TEST(WriteBackTarget, StoresTextsWhole)
+{
+    const TestDatabase database(script);
+    for (const QString &text : {u"\uFEFFa"_s, u"\uFEFF\uFEFF"_s, u"a\0b"_s, u"\uFFFEa"_s}) {
+        const auto recordset = database.open(u"SELECT * FROM S ORDER BY id"_s);
+        put(*recordset, u"name"_s, text);
+        recordset->Update();
+        EXPECT_EQ(recordset->Fields().Item(u"name"_s).Value(), QVariant(text));
+        EXPECT_EQ(database.ask(u"SELECT hex(name) FROM S WHERE id = 1"_s),
+                  QString::fromLatin1(text.toUtf8().toHex().toUpper()));
+        const auto again = database.open(u"SELECT * FROM S ORDER BY id"_s);
+        EXPECT_EQ(again->CellText(1, 2), text);
+        EXPECT_EQ(again->CellValue(1, 2), QVariant(text));
+    }
+}
+
 } // namespace

@@ -5,12 +5,6 @@
 
 #include "servers/OdbcSession.h"
 
-#ifdef Q_OS_UNIX
-#include "DroppingProxy.h"
-#endif
-
-#include <QtCore/QRegularExpression>
-
 using namespace Qt::Literals::StringLiterals;
 using namespace ADODB;
 using AdoTest::cellTexts;
@@ -250,67 +244,5 @@ TEST_P(WritesOnPostgreSql, SeeAChangeOfAFieldThatIsNotShown)
     recordset->Delete();
     EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s);
 }
-
-#ifdef Q_OS_UNIX
-class LostInCommit : public WriteOutcomes
-{
-protected:
-    // A connection through a proxy that goes away in the next COMMIT.
-    std::shared_ptr<Recordset> openThrough(AdoTest::DroppingProxy &proxy, AdoTest::DroppingProxy::When when)
-    {
-        auto connection = std::make_shared<Connection>();
-        connection->Open(connectionString().replace(port, u"Port=%1"_s.arg(proxy.port())));
-        auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s, connection);
-        proxy.dropAtCommit(when);
-        return recordset;
-    }
-    int serverPort() const { return port.match(connectionString()).captured(1).toInt(); }
-    const QRegularExpression port{u"Port=(\\d+)"_s};
-};
-
-KOVA_ON_ODBC_SERVERS(LostInCommit);
-
-TEST_P(LostInCommit, SaysThatNobodyKnows)
-{
-    makeTable();
-    using enum AdoTest::DroppingProxy::When;
-    for (const auto when : {BeforeTheServerHears, AfterTheServerAnswered}) {
-        SCOPED_TRACE(when == BeforeTheServerHears ? "before" : "after");
-        AdoTest::DroppingProxy proxy(serverPort());
-        const auto recordset = openThrough(proxy, when);
-        const QString name = when == BeforeTheServerHears ? u"lost"_s : u"kept"_s;
-        put(*recordset, u"name"_s, name);
-        const Error error = errorOf([&] { recordset->Update(); });
-        EXPECT_TRUE(proxy.hasDropped());
-        EXPECT_TRUE(error.is(dbErrInDoubt)) << std::hex << error.Number() << error.what();
-        EXPECT_TRUE(error.Description().contains(u"无法确定更改是否已经保存")) << error.what();
-        EXPECT_FALSE(error.Description().contains(u"没有保存")) << error.what();
-        EXPECT_EQ(content(), when == BeforeTheServerHears ? u"one"_s : u"kept"_s);
-        EXPECT_THROW(recordset->Update(), Error) << "the connection is gone";
-    }
-    for (const auto when : {BeforeTheServerHears, AfterTheServerAnswered}) {
-        SCOPED_TRACE(when == BeforeTheServerHears ? "before" : "after");
-        AdoTest::DroppingProxy proxy(serverPort());
-        const auto recordset = openThrough(proxy, when);
-        EXPECT_ADO_ERROR(dbErrInDoubt, recordset->Delete());
-        EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), when == BeforeTheServerHears ? u"2"_s : u"1"_s);
-    }
-}
-
-// Which is known as long as the server has not been asked to commit.
-TEST_P(LostInCommit, SaysThatNothingIsSavedWhereItIsLostBefore)
-{
-    makeTable();
-    auto proxy = std::make_unique<AdoTest::DroppingProxy>(serverPort());
-    auto connection = std::make_shared<Connection>();
-    connection->Open(connectionString().replace(port, u"Port=%1"_s.arg(proxy->port())));
-    const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s, connection);
-    proxy.reset();
-    put(*recordset, u"name"_s, u"mine"_s);
-    const Error error = errorOf([&] { recordset->Update(); });
-    EXPECT_FALSE(error.is(dbErrInDoubt)) << error.what();
-    EXPECT_EQ(content(), u"one"_s);
-}
-#endif
 
 } // namespace

@@ -14,6 +14,17 @@ namespace ADODB {
 
 RowWriter::~RowWriter() = default;
 
+void RowWriter::insertAgain(const std::vector<Change> &changes, const std::vector<RawValue> &,
+                            RowStore &stored)
+{
+    insert(changes, stored);
+}
+
+bool RowWriter::keepsNulCharacters() const
+{
+    return true;
+}
+
 bool RowWriter::keepsZones(int) const
 {
     return false;

@@ -86,6 +86,29 @@ void Recordset::CancelUpdate()
     }
 }
 
+bool Recordset::FindAttempt()
+{
+    d->needIdle();
+    const EditModeEnum mode = d->edit().mode();
+    if (mode == adEditNone && (d->position.isDeleted() || d->position.record() == 0))
+        return false;
+    const bool isFound = withinMemory(Texts::outOfMemory, [&] {
+        const Private::Busy busy(*d);
+        if (mode == adEditAdd)
+            return d->edit().findNew(d->rows());
+        if (mode == adEditInProgress)
+            return d->edit().findChanges(d->rows(), d->currentRecord());
+        return d->removeCurrent([&](qint64 record) { return d->edit().findRemoval(d->rows(), record); });
+    });
+    if (!isFound)
+        return false;
+    if (mode == adEditAdd)
+        d->position.append();
+    d->underlying.reset();
+    d->notifyChanged(mode == adEditNone ? adRsnDelete : adRsnUpdate);
+    return true;
+}
+
 void Recordset::ForgetAttempt()
 {
     d->needIdle();
@@ -100,15 +123,12 @@ void Recordset::Delete(AffectEnum affect)
     if (d->isAdding()) // nothing of it is in the database yet
         return CancelUpdate();
     withinMemory(Texts::changeOutOfMemory, [&] {
-        std::vector<qint64> &removals = d->shared->removals;
-        removals.reserve(removals.size() + 1); // so that nothing can fail once the record is gone
-        const qint64 record = d->currentRecord();
         const Private::Busy busy(*d);
-        d->edit().remove(d->rows(), record);
-        removals.push_back(record);
+        d->removeCurrent([&](qint64 record) {
+            d->edit().remove(d->rows(), record);
+            return true;
+        });
     });
-    ++d->removalsSeen;
-    d->position.removeCurrent();
     d->underlying.reset();
     d->notifyChanged(adRsnDelete);
 }

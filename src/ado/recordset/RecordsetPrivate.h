@@ -122,6 +122,20 @@ struct Recordset::Private
         return position.record();
     }
     bool isAdding() { return edit().mode() == adEditAdd; }
+    // Follows `action`, which answers whether it has taken the current record out of the rows.
+    template<typename Action>
+    bool removeCurrent(Action &&action)
+    {
+        std::vector<qint64> &removals = shared->removals;
+        removals.reserve(removals.size() + 1); // so that nothing can fail once the record is gone
+        const qint64 record = currentRecord();
+        if (!action(record))
+            return false;
+        removals.push_back(record);
+        ++removalsSeen;
+        position.removeCurrent();
+        return true;
+    }
 
     Snapshot read(Session &session, const QString &statement);
     // The number must be one of 1…limit; `text` is the message for one that is not.

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 namespace ADODB {
 
@@ -91,6 +92,9 @@ void RecordEditor::set(int column, const QVariant &value, const Snapshot &snapsh
         throw Error(adErrDataConversion,
                     Texts::badValue().arg(binary ? Texts::binaryValue() : ValueText(value), field.name));
     }
+    if (converted.typeId() == QMetaType::QString && converted.toString().contains(QChar::Null) &&
+        !writer().keepsNulCharacters())
+        throw Error(adErrDataConversion, Texts::nulInText().arg(field.name));
     m_values[column] = converted;
     if (m_mode == adEditNone)
         m_mode = adEditInProgress;
@@ -100,8 +104,8 @@ void RecordEditor::cancel()
 {
     m_mode = adEditNone;
     m_values.clear();
-    m_isInDoubt = false;
     m_sent.reset();
+    m_removed = 0;
 }
 
 std::vector<Change> RecordEditor::changes() const
@@ -115,16 +119,35 @@ std::vector<Change> RecordEditor::changes() const
 
 void RecordEditor::saveNew(Snapshot &snapshot)
 {
-    if (!findSaved())
-        insert(snapshot.columns());
-    else if (m_sent->values != m_values)
-        changeSaved();
+    if (!findSavedNew()) {
+        try {
+            insert(snapshot.columns());
+        } catch (const Error &error) {
+            // The attempt before this one may have come to its end only now.
+            if (!error.is(dbErrIntegrity) || !findSavedNew())
+                throw;
+        }
+    }
+    changeSaved();
+    showNew(snapshot);
+}
+
+bool RecordEditor::findNew(Snapshot &snapshot)
+{
+    if (!m_sent || m_sent->values != m_values || !findSavedNew())
+        return false;
+    showNew(snapshot);
+    return true;
+}
+
+void RecordEditor::showNew(Snapshot &snapshot)
+{
     showSaved([&] { snapshot.append(m_sent->row); });
     cancel();
 }
 
 // Whether the attempt before this one, whose answer never came, has saved the new record.
-bool RecordEditor::findSaved()
+bool RecordEditor::findSavedNew()
 {
     if (!m_sent)
         return false;
@@ -144,12 +167,13 @@ bool RecordEditor::findSaved()
     return true;
 }
 
-void RecordEditor::insert(int columns)
+// Makes an attempt with what is pending now. `attempt` gets the row for what is stored.
+void RecordEditor::send(int columns, const std::function<void(RowStore &)> &attempt)
 {
     // Made before, so that nothing can fail once it is saved.
-    std::unique_ptr<NewRecord> sent(new NewRecord{m_values, RowStore(columns)});
+    std::unique_ptr<Sent> sent(new Sent{m_values, RowStore(columns)});
     try {
-        writer().insert(changes(), sent->row);
+        attempt(sent->row);
     } catch (const Error &error) {
         if (error.is(dbErrInDoubt))
             m_sent = std::move(sent);
@@ -158,48 +182,74 @@ void RecordEditor::insert(int columns)
     m_sent = std::move(sent);
 }
 
-// What was written into the new record since it was saved.
+void RecordEditor::insert(int columns)
+{
+    send(columns, [this](RowStore &stored) {
+        if (m_sent)
+            writer().insertAgain(changes(), m_sent->row.row(0), stored);
+        else
+            writer().insert(changes(), stored);
+    });
+}
+
+// What was written into the record since the attempt that saved it.
 void RecordEditor::changeSaved()
 {
-    std::unique_ptr<NewRecord> sent(new NewRecord{m_values, RowStore(m_sent->row.columns())});
-    writer().update(m_sent->row.row(0), changes(), sent->row);
-    m_sent = std::move(sent);
+    if (m_sent->values != m_values)
+        send(m_sent->row.columns(),
+             [this](RowStore &stored) { writer().update(m_sent->row.row(0), changes(), stored); });
 }
 
 void RecordEditor::saveChanges(Snapshot &snapshot, qint64 record)
 {
-    try {
-        const RowStore stored = update(snapshot, record);
-        showSaved([&] { snapshot.replace(record, stored); });
-    } catch (const Error &error) {
-        m_isInDoubt = m_isInDoubt || error.is(dbErrInDoubt);
-        throw;
-    }
+    update(snapshot, record);
+    showChanges(snapshot, record);
+}
+
+bool RecordEditor::findChanges(Snapshot &snapshot, qint64 record)
+{
+    if (!m_sent || m_sent->values != m_values || !findSaved(snapshot, record))
+        return false;
+    showChanges(snapshot, record);
+    return true;
+}
+
+void RecordEditor::showChanges(Snapshot &snapshot, qint64 record)
+{
+    showSaved([&] { snapshot.replace(record, m_sent->row); });
     cancel();
 }
 
-RowStore RecordEditor::update(const Snapshot &snapshot, qint64 record) const
+void RecordEditor::update(const Snapshot &snapshot, qint64 record)
 {
-    RowStore stored(snapshot.columns());
     try {
-        writer().update(snapshot.raw(record), changes(), stored);
-        return stored;
+        send(snapshot.columns(),
+             [&](RowStore &stored) { writer().update(snapshot.raw(record), changes(), stored); });
     } catch (const Error &error) {
-        if (!m_isInDoubt || !error.is(dbErrConcurrency))
-            throw;
         // What has changed the record may be the attempt before this one, whose answer never came.
-        RowStore now(snapshot.columns());
-        if (!writer().read(snapshot.raw(record), now) || now.rows() != 1 ||
-            !holdsChanges(Snapshot(snapshot.fields(), now)))
+        if (!m_sent || !error.is(dbErrConcurrency) || !findSaved(snapshot, record))
             throw;
-        return now;
+        changeSaved();
     }
 }
 
-bool RecordEditor::holdsChanges(const Snapshot &row) const
+// Whether the database has what the attempt before this one was to save, under the key that it was to have.
+bool RecordEditor::findSaved(const Snapshot &snapshot, qint64 record)
 {
-    return std::all_of(m_values.begin(), m_values.end(),
-                       [&](const auto &change) { return row.value(1, change.first) == change.second; });
+    const bool isRowKnown = m_sent->row.rows() == 1;
+    RowStore now(snapshot.columns());
+    if (!writer().read(isRowKnown ? m_sent->row.row(0) : snapshot.raw(record), now) || now.rows() != 1)
+        return false;
+    const Snapshot found(snapshot.fields(), now);
+    const auto isSaved = [&](const auto &change) {
+        return isRowKnown
+                   ? RowComparison::isSame(now.cell(0, change.first), m_sent->row.cell(0, change.first))
+                   : found.value(1, change.first) == change.second;
+    };
+    if (!std::all_of(m_sent->values.begin(), m_sent->values.end(), isSaved))
+        return false;
+    m_sent->row = std::move(now);
+    return true;
 }
 
 RowStore RecordEditor::readAgain(const Snapshot &snapshot, qint64 record) const
@@ -214,7 +264,31 @@ RowStore RecordEditor::readAgain(const Snapshot &snapshot, qint64 record) const
 
 void RecordEditor::remove(Snapshot &snapshot, qint64 record)
 {
-    writer().remove(snapshot.raw(record));
+    try {
+        writer().remove(snapshot.raw(record));
+    } catch (const Error &error) {
+        // The attempt before this one, whose answer never came, may have deleted it.
+        if (error.is(dbErrConcurrency) && findRemoval(snapshot, record))
+            return;
+        if (error.is(dbErrInDoubt))
+            m_removed = record;
+        throw;
+    }
+    m_removed = record;
+    showRemoval(snapshot, record);
+}
+
+bool RecordEditor::findRemoval(Snapshot &snapshot, qint64 record)
+{
+    RowStore now(snapshot.columns());
+    if (record == 0 || m_removed != record || writer().read(snapshot.raw(record), now))
+        return false;
+    showRemoval(snapshot, record);
+    return true;
+}
+
+void RecordEditor::showRemoval(Snapshot &snapshot, qint64 record)
+{
     showSaved([&] { snapshot.remove(record); });
     cancel();
 }

@@ -5,6 +5,7 @@
 
 #include <QtCore/QVariant>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
@@ -42,8 +43,15 @@ public:
     void saveNew(Snapshot &snapshot);
     void saveChanges(Snapshot &snapshot, qint64 record);
     void forgetAttempt() { m_sent.reset(); }
-    // Deletes a record, whatever is pending.
+    // Deletes a record, whatever is pending. After dbErrInDoubt, the next attempt finds out whether it is
+    // deleted.
     void remove(Snapshot &snapshot, qint64 record);
+    // The same three without an attempt: whether the one before, which ended with dbErrInDoubt, has done what
+    // it was to do; it is then shown as by the attempt itself. False where no outcome is open. They throw
+    // what reading throws, and the first one dbErrPerhapsSaved too.
+    bool findNew(Snapshot &snapshot);
+    bool findChanges(Snapshot &snapshot, qint64 record);
+    bool findRemoval(Snapshot &snapshot, qint64 record);
     // The record as the database has it now, the only row of the answer. Throws 3251, and dbErrDeletedRow
     // when it is gone.
     RowStore readAgain(const Snapshot &snapshot, qint64 record) const;
@@ -51,25 +59,29 @@ public:
 private:
     RowWriter &writer() const;
     std::vector<Change> changes() const;
-    RowStore update(const Snapshot &snapshot, qint64 record) const;
-    bool holdsChanges(const Snapshot &row) const;
-    bool findSaved();
+    void send(int columns, const std::function<void(RowStore &)> &attempt);
+    void update(const Snapshot &snapshot, qint64 record);
+    bool findSaved(const Snapshot &snapshot, qint64 record);
+    bool findSavedNew();
     void insert(int columns);
     void changeSaved();
+    void showNew(Snapshot &snapshot);
+    void showChanges(Snapshot &snapshot, qint64 record);
+    void showRemoval(Snapshot &snapshot, qint64 record);
 
     std::unique_ptr<RowWriter> m_writer;
     QString m_whyReadOnly;
     EditModeEnum m_mode = adEditNone;
     std::map<int, QVariant> m_values;
-    bool m_isInDoubt = false; // the changes may have been saved
 
-    struct NewRecord
+    struct Sent
     {
         std::map<int, QVariant> values; // as they were sent
         RowStore row;                   // as it was to be saved; none where that isn't known
     };
-    // It was saved, or may have been, and isn't shown yet.
-    std::unique_ptr<NewRecord> m_sent;
+    // What was saved, or may have been, and isn't shown yet: the new record, or the changed one.
+    std::unique_ptr<Sent> m_sent;
+    qint64 m_removed = 0; // the record that may have been deleted; 0 for none
 };
 
 } // namespace ADODB

@@ -34,8 +34,8 @@ struct Change
 // - It throws: nothing is saved. dbErrConcurrency means that the row is not the one shown any more; read()
 //   then gives the row that is there.
 // - It throws dbErrInDoubt: the connection was lost while the database was saving, so nobody knows whether it
-//   did. Only reading the row again can tell. insert() then leaves the row in `stored` as the database was to
-//   save it, or no row where that isn't known.
+//   did. Only reading the row again can tell. insert() and update() then leave the row in `stored` as the
+//   database was to save it, or no row where that isn't known.
 class RowWriter
 {
 public:
@@ -44,7 +44,13 @@ public:
     virtual bool isWritable(int column) const = 0;
     // Whether the database is known to keep the time zone of a moment there.
     virtual bool keepsZones(int column) const;
+    // Whether a text with U+0000 in it is stored and read whole.
+    virtual bool keepsNulCharacters() const;
     virtual void insert(const std::vector<Change> &changes, RowStore &stored) = 0;
+    // The same after an insert() that left `before` with dbErrInDoubt and can still be under way: the new row
+    // gets the same key where the engine allows that, so that the database can't save both.
+    virtual void insertAgain(const std::vector<Change> &changes, const std::vector<RawValue> &before,
+                             RowStore &stored);
     virtual void update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
                         RowStore &stored) = 0;
     virtual void remove(const std::vector<RawValue> &row) = 0;

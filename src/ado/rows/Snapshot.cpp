@@ -3,6 +3,7 @@
 #include "ado/Texts.h"
 #include "ado/ValueText.h"
 #include "ado/values/FieldValue.h"
+#include "ado/values/Utf8.h"
 
 namespace ADODB {
 
@@ -41,7 +42,7 @@ QString Snapshot::text(qint64 record, int column) const
     const DataTypeEnum type = m_fields[static_cast<std::size_t>(column)].type;
     // The most frequent cell by far, spared the way through a QVariant.
     if (raw.kind == RawValue::Kind::Text && FieldValue::isText(type))
-        return QString::fromUtf8(raw.bytes);
+        return textFromUtf8(raw.bytes);
     // Which says only how many there are; they needn't be copied.
     if (raw.kind == RawValue::Kind::Blob)
         return Texts::bytes.arg(raw.bytes.size());
@@ -55,7 +56,7 @@ QString Snapshot::beginning(qint64 record, int column, qsizetype length) const
     const DataTypeEnum type = m_fields[static_cast<std::size_t>(column)].type;
     const bool isText = raw.kind == RawValue::Kind::Text && (FieldValue::isText(type) || type == adVariant);
     if (isText && raw.bytes.size() > mostBytes * length)
-        return QString::fromUtf8(firstOf(raw.bytes, mostBytes * length));
+        return textFromUtf8(firstOf(raw.bytes, mostBytes * length));
     return text(record, column);
 }
 

@@ -2,6 +2,7 @@
 
 #include "ado/ValueText.h"
 #include "ado/values/DateText.h"
+#include "ado/values/Utf8.h"
 
 #include <algorithm>
 #include <cmath>
@@ -71,7 +72,7 @@ QVariant asStored(const RawValue &raw)
     case RawValue::Kind::Real:
         return raw.real;
     case RawValue::Kind::Text:
-        return QString::fromUtf8(raw.bytes);
+        return textFromUtf8(raw.bytes);
     case RawValue::Kind::Blob:
         return raw.bytes.toByteArray();
     }

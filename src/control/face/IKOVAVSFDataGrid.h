@@ -221,8 +221,8 @@ public:
     // Like GetGridRow, for any row.
     virtual qint32 GetGridRowL() = 0;
 
-    // True if the user cannot add, change or delete records. False at first. A change made before can still
-    // be saved.
+    // True if the user cannot add, change or delete records. False at first. A change made before stays
+    // visible, and can be discarded; it can be saved only when this is False again.
     virtual bool ReadOnly() const = 0;
     virtual void PutReadOnly(bool on) = 0;
     // Writes the open result to a file. The file name's extension determines the format: .csv, .xlsx (not on

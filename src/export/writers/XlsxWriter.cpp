@@ -4,6 +4,7 @@
 #include "ado/values/FieldText.h"
 #include "ado/values/FieldValue.h"
 #include "ado/values/NumericTypes.h"
+#include "ado/values/Utf8.h"
 #include "export/ExportTexts.h"
 #include "export/TextSink.h"
 
@@ -202,7 +203,7 @@ void XlsxWriter::writeText(quint16 col, QByteArrayView utf8)
 {
     QByteArray text = utf8.toByteArray();
     if (text.size() > longestText) {
-        QString wide = QString::fromUtf8(text);
+        QString wide = ADODB::textFromUtf8(text);
         if (wide.size() > longestText) {
             const bool splitsPair = wide.at(longestText - 1).isHighSurrogate();
             wide.truncate(longestText - (splitsPair ? 1 : 0));

@@ -13,6 +13,8 @@
 
 namespace KOVAVSFDataGridLib {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool hasNoValue(ADODB::Recordset &recordset)
@@ -32,6 +34,24 @@ bool hasWritableField(const ADODB::Recordset &recordset)
             return true;
     }
     return false;
+}
+
+// From a server that the user, or a time limit, does not wait for any more.
+bool isWithoutAnswer(const ADODB::Error &error)
+{
+    return error.SQLState() == "HY008"_L1 || error.SQLState().startsWith("HYT"_L1);
+}
+
+// Throws `inDoubt` where that can't be told now.
+bool isFound(ADODB::Recordset &recordset, const ADODB::Error &inDoubt)
+{
+    try {
+        return recordset.FindAttempt();
+    } catch (const ADODB::Error &error) {
+        if (error.is(ADODB::dbErrPerhapsSaved)) // which says why
+            throw;
+    }
+    throw ADODB::Error(inDoubt);
 }
 
 } // namespace
@@ -59,7 +79,10 @@ void EditedRecord::saveChanges()
     const bool isNew = recordset.EditMode() == ADODB::adEditAdd;
     if (isNew && hasNoValue(recordset))
         return cancelChanges();
-    recordset.Update();
+    if (m_isReadOnly)
+        throw ADODB::Error(ADODB::adErrFeatureNotAvailable, SessionMessages::ReadOnlySince);
+    change([](ADODB::Recordset &changed) { changed.Update(); }, SessionMessages::SavedAfterLoss,
+           SessionMessages::NotSavedAfterLoss);
     if (!watch.isUntouched()) // the control went while it was saved
         return;
     if (isNew)
@@ -67,6 +90,31 @@ void EditedRecord::saveChanges()
     else
         m_session.window().refreshRecords();
     m_session.window().refreshSingleRecord();
+}
+
+void EditedRecord::remove()
+{
+    change([](ADODB::Recordset &recordset) { recordset.Delete(); }, SessionMessages::DeletedAfterLoss,
+           SessionMessages::NotDeletedAfterLoss);
+}
+
+// Where nobody knows whether the attempt was successful, because the connection was lost in it, the record is
+// read again through a new one, and the user is told what has come of it.
+void EditedRecord::change(const std::function<void(ADODB::Recordset &)> &attempt, const QString &isDone,
+                          const QString &isNotDone)
+{
+    const ResultWatch watch(m_session);
+    try {
+        attempt(*watch.recordset());
+    } catch (const ADODB::Error &inDoubt) {
+        if (!inDoubt.is(ADODB::dbErrInDoubt) || isWithoutAnswer(inDoubt) || !watch.isUntouched())
+            throw;
+        if (!isFound(*watch.recordset(), inDoubt))
+            throw ADODB::Error(ADODB::dbErrFailed, isNotDone, inDoubt.Source(), inDoubt.SQLState(),
+                               inDoubt.NativeError());
+        if (watch.isUntouched())
+            m_session.window().showNote(isDone);
+    }
 }
 
 bool EditedRecord::commitEdit()
@@ -190,7 +238,7 @@ QString EditedRecord::whyNotWritten() const
 
 QString EditedRecord::whyNotAdded() const
 {
-    const QString reason = whyNotWritten();
+    QString reason = whyNotWritten();
     if (!reason.isEmpty() || !m_session.result().isOpen())
         return reason;
     return hasWritableField(*m_session.result().recordset()) ? QString() : SessionMessages::NothingToAdd;

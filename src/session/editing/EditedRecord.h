@@ -2,11 +2,13 @@
 
 #include <QtCore/QString>
 
+#include <functional>
 #include <optional>
 
 namespace ADODB {
 class Error;
-}
+class Recordset;
+} // namespace ADODB
 
 namespace KOVAVSFDataGridLib {
 
@@ -31,8 +33,11 @@ public:
     // The same for a control that is being destroyed, which can neither ask nor report. Answers why the
     // changes could not be saved, for the user to read.
     std::optional<QString> saveSilently();
-    // The same for a record that is known to be changed. Throws ADODB::Error when the database refuses.
+    // The same for a record that is known to be changed. Throws ADODB::Error when the database or the host
+    // refuses.
     void saveChanges();
+    // Deletes the current record. Throws ADODB::Error when the database refuses. Shows nothing.
+    void remove();
     // Forgets what was written into it.
     void cancel();
     // Reads it again and shows what somebody else has written. What the user wrote into it stays and is still
@@ -62,6 +67,8 @@ private:
         bool isPerhapsSaved = false; // a new record, by an attempt whose outcome nobody knows
     };
 
+    void change(const std::function<void(ADODB::Recordset &)> &attempt, const QString &isDone,
+                const QString &isNotDone);
     static Failure failureOf(const ADODB::Error &error);
     std::optional<Failure> trySave();
     void cancelChanges();

@@ -1,6 +1,7 @@
 #include "session/find/CellSearch.h"
 
 #include "ado/values/FieldText.h"
+#include "ado/values/Utf8.h"
 
 #include <algorithm>
 #include <limits>
@@ -79,7 +80,7 @@ bool CellSearch::isMatch(const ADODB::RawValue &cell, const Column &column)
     if (m_matcher.matches(m_text))
         return true;
     return !column.format.isNone() &&
-           m_matcher.matches(column.format.applied(QString::fromUtf8(m_text)).toUtf8());
+           m_matcher.matches(column.format.applied(ADODB::textFromUtf8(m_text)).toUtf8());
 }
 
 std::vector<int> CellSearch::placesOf(qint64 record)

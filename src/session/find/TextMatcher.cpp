@@ -1,5 +1,7 @@
 #include "session/find/TextMatcher.h"
 
+#include "ado/values/Utf8.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -56,7 +58,7 @@ bool TextMatcher::matches(QByteArrayView utf8) const
     if (isEmpty())
         return false;
     if (!m_isBytewise) {
-        const QString text = QString::fromUtf8(utf8);
+        const QString text = ADODB::textFromUtf8(utf8);
         return m_isWhole ? text.compare(m_text, m_case) == 0 : text.contains(m_text, m_case);
     }
     const qsizetype length = m_bytes.size();

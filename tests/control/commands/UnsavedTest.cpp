@@ -207,6 +207,40 @@ TEST_F(ReadOnlyGrid, OffersNeitherToAddNorToDeleteNorToChange)
     EXPECT_TRUE(menu->actions().at(7)->isEnabled());
 }
 
+// What was written before is kept where it can be seen, and reaches the database only when the host lets it.
+TEST_P(Unsaved, AChangeIsKeptButNotSavedOnceTheHostWantsRecordsReadOnly)
+{
+    for (const bool isConfirmed : {true, false}) {
+        SCOPED_TRACE(isConfirmed ? "confirmed" : "typed");
+        ASSERT_TRUE(load());
+        const QString before = name();
+        write(u"名称"_s, u"新茶"_s, isConfirmed);
+        grid.setProperty("ReadOnly", true);
+        messages.answerNext(QMessageBox::Cancel);
+        GetParam().leave(grid);
+        EXPECT_EQ(messages.texts(),
+                  QStringList(u"记录没有保存：记录已设为只读，不能再保存。修改的内容仍在，按 Esc 放弃。"_s));
+        EXPECT_EQ(name(), before);
+        ASSERT_TRUE(isSingleRecordShown());
+        EXPECT_EQ(listed(u"名称"_s), u"新茶"_s);
+        messages.clear();
+        click(u"AllRecord"_s);
+        EXPECT_EQ(messages.texts().size(), 1);
+        EXPECT_TRUE(isSingleRecordShown());
+        EXPECT_EQ(name(), before);
+        if (isConfirmed) {
+            QTest::keyClick(list, Qt::Key_Escape);
+            EXPECT_EQ(listed(u"名称"_s), before) << "the user can give it up";
+        }
+        messages.clear();
+        grid.setProperty("ReadOnly", false);
+        GetParam().leave(grid);
+        EXPECT_TRUE(messages.texts().isEmpty());
+        EXPECT_EQ(name(), isConfirmed ? before : u"新茶"_s) << "or the host can let it be saved";
+        grid.show();
+    }
+}
+
 // A result that the database can't take back offers no change, and says why.
 TEST_F(ReadOnlyGrid, ResultsThatCannotBeWrittenOfferNoChangeBeforeAnybodyIsAsked)
 {

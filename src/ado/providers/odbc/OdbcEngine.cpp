@@ -45,6 +45,8 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         engine.lockRow = u" FOR UPDATE"_s;
         engine.rowVersion = u"xmin"_s;
         engine.returning = true;
+        engine.takesMadeKeys = true;
+        engine.overrideKey = u" OVERRIDING SYSTEM VALUE"_s;
         engine.onlyTablesHaveKeys = true;
         engine.asksAgain = engine.bendsDates = engine.usesPortions =
             connection.info(SQL_DRIVER_NAME).contains("psqlodbc"_L1, Qt::CaseInsensitive);
@@ -59,6 +61,7 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         engine.onlyTablesHaveKeys = true;
         engine.reportsLossAtOnce = false;
         engine.newKey = u"SELECT LAST_INSERT_ID()"_s;
+        engine.takesMadeKeys = true;
         break;
     case Kind::Sqlite:
         engine.beginReading = u"PRAGMA query_only = ON"_s;

@@ -51,6 +51,10 @@ struct OdbcEngine
     // Otherwise the statement that gives the key which the database made for the row just inserted here;
     // empty where there is none.
     QString newKey;
+    // A new row can be given a key that the database makes otherwise; behind the names of the columns in
+    // INSERT stands `overrideKey` then, which may be empty.
+    bool takesMadeKeys = false;
+    QString overrideKey;
     // A column can hold values of any type, whatever it is declared as.
     bool looseTypes = false;
     // Within a block of rows, the driver gives single values once more and then fetches on where it was. Some

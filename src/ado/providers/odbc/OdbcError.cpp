@@ -70,7 +70,11 @@ bool isLoss(const Diagnosis &diagnosis, const OdbcConnection &connection)
         std::find(std::begin(numbers), std::end(numbers), diagnosis.native) != std::end(numbers))
         return true;
     // PostgreSQL's driver gives this state to failures of its own in a connection that still works.
-    return diagnosis.state.startsWith("08"_L1) && connection.isDead().value_or(true);
+    if (diagnosis.state.startsWith("08"_L1))
+        return connection.isDead().value_or(true);
+    // And a general one to a loss, of which it knows without asking the server.
+    return connection.info(SQL_DRIVER_NAME).contains("psqlodbc"_L1, Qt::CaseInsensitive) &&
+           connection.isDead().value_or(false);
 }
 
 bool startsWithAny(const QString &state, std::initializer_list<QLatin1StringView> starts)

@@ -66,6 +66,16 @@ std::unique_ptr<OdbcConnection> connectTo(const OdbcLogin &login)
     return connection;
 }
 
+// Of the row that a statement stands on.
+QString textAt(const OdbcHandle &statement, int column)
+{
+    OdbcLongValue value;
+    SQLLEN length = 0;
+    statement.check(value.read(statement, column, OdbcTypes::Form::Text, length));
+    return QString::fromUtf16(reinterpret_cast<const char16_t *>(value.data()),
+                              std::max<SQLLEN>(length, 0) / qsizetype{sizeof(char16_t)});
+}
+
 } // namespace
 
 OdbcPool::OdbcPool(OdbcLogin login) : m_login(std::move(login)) {}
@@ -110,32 +120,45 @@ void OdbcPool::connectFirst()
     connection->setIdle();
     m_idle.push_back(std::move(connection));
     if (m_engine.dialect == SqlDialect::MySql)
-        learnQuoting();
+        learnModes();
 }
 
-// From settings of the server and of the session. Statements are written and checked by it.
-void OdbcPool::learnQuoting()
+// Settings of the server, the account or the connection string can change both in the session, past the
+// driver. Statements are written and checked by the quoting. What the driver sends is UTF-8, and a server
+// that takes it for something else finds other characters in it, also quotes.
+void OdbcPool::learnModes()
 {
-    OdbcLongValue value;
-    SQLLEN length = 0;
-    const OdbcHandle statement(acquire(std::make_shared<std::atomic<bool>>(false)));
-    statement.execute(u"SELECT @@sql_mode"_s);
-    statement.fetch();
-    statement.check(value.read(statement, 0, OdbcTypes::Form::Text, length));
-    const QStringList modes = QString::fromUtf16(reinterpret_cast<const char16_t *>(value.data()),
-                                                 std::max<SQLLEN>(length, 0) / qsizetype{sizeof(char16_t)})
-                                  .split(u',');
+    const auto connection = acquire(std::make_shared<std::atomic<bool>>(false));
+    QStringList modes;
+    {
+        const OdbcHandle statement(connection);
+        statement.execute(u"SELECT @@sql_mode, @@character_set_client"_s);
+        statement.fetch();
+        modes = textAt(statement, 0).split(u',');
+        if (textAt(statement, 1) != "utf8mb4"_L1)
+            m_newSession = u"SET character_set_client = utf8mb4, character_set_results = utf8mb4, "
+                           "character_set_connection = utf8mb4"_s; // the driver refuses SET NAMES
+    }
+    setModes(connection);
     m_engine.quoting = {!modes.contains(u"NO_BACKSLASH_ESCAPES"_s), modes.contains(u"ANSI_QUOTES"_s),
                         modes.contains(u"MSSQL"_s)};
 }
 
+void OdbcPool::setModes(const std::shared_ptr<OdbcConnection> &connection) const
+{
+    if (m_newSession.isEmpty())
+        return;
+    try {
+        OdbcHandle(connection).execute(m_newSession);
+    } catch (const Error &) {
+        connection->setUnfit();
+        throw;
+    }
+}
+
 void OdbcPool::prepareIdle()
 {
-    if (auto connection = acquireIdle()) {
-        returnConnection(std::move(connection));
-        return;
-    }
-    returnConnection(connectTo(m_login));
+    acquire(std::make_shared<std::atomic<bool>>(false)); // which is idle again at once
 }
 
 std::unique_ptr<OdbcConnection> OdbcPool::acquireIdle()
@@ -158,8 +181,11 @@ std::unique_ptr<OdbcConnection> OdbcPool::acquireIdle()
 
 std::shared_ptr<OdbcConnection> OdbcPool::acquire(const std::shared_ptr<std::atomic<bool>> &isLost)
 {
-    std::unique_ptr<OdbcConnection> connection = acquireIdle();
-    return lend(connection ? std::move(connection) : connectTo(m_login), isLost);
+    if (std::unique_ptr<OdbcConnection> connection = acquireIdle())
+        return lend(std::move(connection), isLost);
+    auto connection = lend(connectTo(m_login), isLost);
+    setModes(connection);
+    return connection;
 }
 
 std::shared_ptr<OdbcConnection> OdbcPool::lend(std::unique_ptr<OdbcConnection> connection,

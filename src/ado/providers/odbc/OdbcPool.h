@@ -43,7 +43,8 @@ public:
 private:
     explicit OdbcPool(OdbcLogin login);
     void connectFirst();
-    void learnQuoting();
+    void learnModes();
+    void setModes(const std::shared_ptr<OdbcConnection> &connection) const;
     void prepareIdle();
     std::unique_ptr<OdbcConnection> acquireIdle();
     std::shared_ptr<OdbcConnection> lend(std::unique_ptr<OdbcConnection> connection,
@@ -52,6 +53,7 @@ private:
 
     OdbcLogin m_login;
     OdbcEngine m_engine;
+    QString m_newSession; // the statement that a new session begins with; empty for none
     bool m_isShared = false;
     QMutex m_mutex;                                      // guards m_idle
     std::vector<std::unique_ptr<OdbcConnection>> m_idle; // the latest used at the end

@@ -89,14 +89,16 @@ std::shared_ptr<OdbcConnection> OdbcSession::connection(KeptReading kept)
     if (connection)
         return connection;
     const auto pool = this->pool();
-    if (!pool || *m_isLost)
+    if (!pool || (*m_isLost && !m_engine.isServer()))
         throw Error(adErrInvalidConnection, Texts::connectionClosed());
     {
         const QMutexLocker lock(&m_mutex);
         connection = m_kept;
     }
-    if (!connection)
+    if (!connection) {
         connection = pool->acquire(m_isLost);
+        *m_isLost = false;
+    }
     if (kept == KeptReading::End)
         OdbcReading::endKept(connection, m_engine);
     if (operation)

@@ -12,7 +12,9 @@ namespace ADODB {
 class OdbcConnection;
 class OdbcPool;
 
-// An open connection for its users. For each command it takes a session of the server from the pool.
+// An open connection for its users. For each command it takes a session of the server from the pool. When a
+// session was lost, this one is closed for those who want to open another one instead; a writer that holds it
+// still gets a new session of the server, and with it this one is open again.
 class OdbcSession : public Session, public std::enable_shared_from_this<OdbcSession>
 {
 public:

@@ -135,13 +135,19 @@ bool OdbcWaitingWriter::keepsZones(int column) const
     return m_writer->keepsZones(column);
 }
 
-void OdbcWaitingWriter::insert(const std::vector<Change> &changes, RowStore &stored)
+bool OdbcWaitingWriter::keepsNulCharacters() const
+{
+    return m_writer->keepsNulCharacters();
+}
+
+// Where the outcome is in doubt, only COMMIT can still be under way, and the row is complete before it.
+void OdbcWaitingWriter::write(const std::function<void(OdbcRowWriter &, RowStore &)> &action,
+                              RowStore &stored) const
 {
     const auto own = std::make_shared<RowStore>(stored.columns());
     try {
-        run([writer = m_writer, changes, own] { writer->insert(changes, *own); });
+        run([writer = m_writer, action, own] { action(*writer, *own); });
     } catch (const Error &error) {
-        // Only COMMIT can still be under way then, and the row is complete before it.
         if (error.is(dbErrInDoubt) && m_writer->hasTransactions())
             stored = *own;
         throw;
@@ -149,13 +155,27 @@ void OdbcWaitingWriter::insert(const std::vector<Change> &changes, RowStore &sto
     stored = std::move(*own);
 }
 
+void OdbcWaitingWriter::insert(const std::vector<Change> &changes, RowStore &stored)
+{
+    write([changes](OdbcRowWriter &writer, RowStore &row) { writer.insert(changes, row); }, stored);
+}
+
+void OdbcWaitingWriter::insertAgain(const std::vector<Change> &changes, const std::vector<RawValue> &before,
+                                    RowStore &stored)
+{
+    const auto sent = std::make_shared<OwnRow>(before);
+    write([sent, changes](OdbcRowWriter &writer,
+                          RowStore &row) { writer.insertAgain(changes, sent->values(), row); },
+          stored);
+}
+
 void OdbcWaitingWriter::update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
                                RowStore &stored)
 {
-    const auto own = std::make_shared<RowStore>(stored.columns());
     const auto shown = std::make_shared<OwnRow>(row);
-    run([writer = m_writer, shown, changes, own] { writer->update(shown->values(), changes, *own); });
-    stored = std::move(*own);
+    write([shown, changes](OdbcRowWriter &writer,
+                           RowStore &changed) { writer.update(shown->values(), changes, changed); },
+          stored);
 }
 
 void OdbcWaitingWriter::remove(const std::vector<RawValue> &row)

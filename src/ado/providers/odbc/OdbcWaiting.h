@@ -44,7 +44,10 @@ public:
 
     bool isWritable(int column) const override;
     bool keepsZones(int column) const override;
+    bool keepsNulCharacters() const override;
     void insert(const std::vector<Change> &changes, RowStore &stored) override;
+    void insertAgain(const std::vector<Change> &changes, const std::vector<RawValue> &before,
+                     RowStore &stored) override;
     void update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
                 RowStore &stored) override;
     void remove(const std::vector<RawValue> &row) override;
@@ -52,6 +55,7 @@ public:
 
 private:
     void run(std::function<void()> work) const;
+    void write(const std::function<void(OdbcRowWriter &, RowStore &)> &action, RowStore &stored) const;
 
     std::shared_ptr<OdbcRowWriter> m_writer;
     // Held while the writer works: what it reads must not be older than what it was saving when its caller

@@ -35,9 +35,13 @@ void addRecord(Session &session)
         recordset.AddNew();
         session.window().showSingleRecord();
     } catch (const ADODB::Error &error) {
-        const bool isCancelled = recordset.EditMode() == ADODB::adEditAdd || error.is(ADODB::dbErrCancelled);
-        if (watch.isUntouched() && isCancelled)
+        if (!watch.isUntouched())
+            return;
+        // Nothing is written into the record, which the user sees, or it could not be saved.
+        if (error.is(ADODB::dbErrCancelled))
             session.questions().show(SessionMessages::InsertCancelled);
+        else if (recordset.EditMode() == ADODB::adEditAdd)
+            session.questions().showWithCause(SessionMessages::InsertCancelled, error.Description());
     }
 }
 

@@ -55,7 +55,7 @@ void deleteCurrentRecord(Session &session, const ResultWatch &watch)
         return;
     }
     const qint64 position = recordset.AbsolutePosition();
-    recordset.Delete(ADODB::adAffectCurrent);
+    session.record().remove();
     if (!watch.isUntouched()) // the control went while it was deleted
         return;
     session.window().cancelEdit(); // only now: a record that stays keeps what is being typed into it

@@ -2,6 +2,7 @@
 
 #include "ado/providers/odbc/OdbcHandle.h"
 #include "ado/values/DateText.h"
+#include "ado/values/Utf8.h"
 
 #include <algorithm>
 
@@ -28,7 +29,7 @@ void OdbcParameters::bind(const RawValue &value, const OdbcTypes::Declared &type
         address = &parameter.real;
         break;
     case RawValue::Kind::Text:
-        parameter.text = QString::fromUtf8(value.bytes);
+        parameter.text = textFromUtf8(value.bytes);
         units = parameter.text.size();
         parameter.length = units * SQLLEN{sizeof(SQLWCHAR)};
         address = wide(parameter.text);

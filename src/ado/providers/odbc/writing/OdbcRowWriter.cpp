@@ -11,6 +11,7 @@
 #include "ado/providers/odbc/writing/OdbcTransaction.h"
 #include "ado/rows/RowComparison.h"
 #include "ado/rows/RowStore.h"
+#include "ado/values/FieldValue.h"
 
 #include <QtCore/QStringList>
 
@@ -250,18 +251,36 @@ void OdbcRowWriter::insertAndFindKey(const QString &insertion, const std::vector
 
 void OdbcRowWriter::insert(const std::vector<Change> &changes, RowStore &stored)
 {
+    insertRow(changes, {}, stored);
+}
+
+void OdbcRowWriter::insertAgain(const std::vector<Change> &changes, const std::vector<RawValue> &before,
+                                RowStore &stored)
+{
+    std::vector<Change> all = changes;
+    for (const OdbcTarget::KeyColumn &key : m_target.key) {
+        const RawValue &made = before[static_cast<std::size_t>(key.column)];
+        if (m_target.isRealKey && m_session->engine().takesMadeKeys && !changeOf(changes, key.column))
+            all.push_back({key.column, FieldValue::toStorage(FieldValue::fromRaw(made, adVariant))});
+    }
+    insertRow(all, m_session->engine().overrideKey, stored);
+}
+
+void OdbcRowWriter::insertRow(const std::vector<Change> &changes, const QString &override, RowStore &stored)
+{
     const OdbcEngine &engine = m_session->engine();
     OdbcTransaction transaction(*m_session, limitOfLocks());
     QStringList names;
     QStringList places;
     for (const Change &change : changes) {
-        names += nameOf(change.column);
+        const auto key = std::ranges::find(m_target.key, change.column, &OdbcTarget::KeyColumn::column);
+        names += key == m_target.key.end() ? nameOf(change.column) : key->name;
         places += u"?"_s;
     }
-    const bool isMySql = engine.dialect == SqlDialect::MySql;
-    const QString values = changes.empty() && !isMySql
-                               ? u"DEFAULT VALUES"_s
-                               : u"(%1) VALUES (%2)"_s.arg(names.join(", "_L1), places.join(", "_L1));
+    const QString values =
+        changes.empty() && engine.dialect != SqlDialect::MySql
+            ? u"DEFAULT VALUES"_s
+            : u"(%1)%2 VALUES (%3)"_s.arg(names.join(", "_L1), override, places.join(", "_L1));
     const QString insertion = "INSERT INTO "_L1 + m_target.table + u' ' + values;
 
     RowStore key(static_cast<int>(m_target.key.size()));

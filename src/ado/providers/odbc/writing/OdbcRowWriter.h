@@ -19,10 +19,14 @@ public:
 
     bool isWritable(int column) const override;
     bool keepsZones(int column) const override;
+    // Drivers take it for the end of a text: when they write it, or when they give it back.
+    bool keepsNulCharacters() const override { return false; }
     bool hasTransactions() const { return m_target.hasTransactions; }
     // Seconds to wait for a row that somebody else is changing.
     int timeout() const;
     void insert(const std::vector<Change> &changes, RowStore &stored) override;
+    void insertAgain(const std::vector<Change> &changes, const std::vector<RawValue> &before,
+                     RowStore &stored) override;
     void update(const std::vector<RawValue> &row, const std::vector<Change> &changes,
                 RowStore &stored) override;
     void remove(const std::vector<RawValue> &row) override;
@@ -63,6 +67,8 @@ private:
     // What fails after a table without transactions was changed says nothing about the change.
     template<typename Action>
     void onceWritten(Action &&action) const;
+    // `override` has the engine take a key that it makes itself otherwise.
+    void insertRow(const std::vector<Change> &changes, const QString &override, RowStore &stored);
     // Both run the statement and give the new row's key, as the database answers it or as it was given.
     void insertAndReturnKey(const QString &insertion, const std::vector<Change> &changes,
                             RowStore &key) const;
