@@ -3,6 +3,7 @@
 #include "query/CharText.h"
 #include "query/QueryTexts.h"
 #include "sql/Names.h"
+#include "sql/select/LimitFence.h"
 #include "sql/select/SqlWalk.h"
 
 #include <algorithm>
@@ -28,7 +29,8 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
     // A condition leaves the same rows before and after DISTINCT.
     const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
                         !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
-                        !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isClosed && m_isListKnown;
+                        !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isClosed && m_isListKnown &&
+                        !isSourceUnfenced();
     if (!isOpen) {
         m_kind = Kind::Closed;
         m_written.clear();
@@ -41,6 +43,15 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
     const bool isSimple = m_parts.with.isEmpty() && m_parts.listWords.isEmpty() && isFoundAsText() &&
                           hasPlainList() && equalName().isEmpty();
     m_kind = isSimple ? Kind::Simple : Kind::Open;
+}
+
+// Whether a condition or a sort would change which records it selects from; see LimitFence.h.
+bool Derivation::isSourceUnfenced() const
+{
+    const Engine engine = m_dialect.engine;
+    return needsFence(m_sql, m_parts.source, engine) ||
+           (needsFence(m_sql, m_parts.with, engine) &&
+            !(m_parts.isDerivedTable && isFenced(m_sql, m_parts.source, engine)));
 }
 
 bool Derivation::isFoundAsText() const
@@ -298,9 +309,8 @@ QString Derivation::asTable() const
         inner.remove(from, m_sql.at(m_parts.order.end - 1).end() - start - from);
     }
     inner = inner.trimmed();
-    // SQLite would sort before it takes the first records.
-    if (m_dialect.engine == Engine::SQLite && m_parts.isLimited && m_parts.order.isEmpty())
-        inner = u"SELECT *\nFROM (\n"_s + inner + u"\n) LIMIT -1"_s;
+    if (needsFence(m_sql, {0, end}, m_dialect.engine))
+        inner = fenced(inner, m_dialect.engine);
     // A comment to the end of its line must not swallow the bracket.
     return u"(\n"_s + inner + u"\n)"_s + (m_dialect.likelyEngine() == Engine::Oracle ? u" Q"_s : u" AS Q"_s);
 }
