@@ -152,6 +152,11 @@ QString dayOperand(const Dialect &dialect, const QString &field)
     return inOneForm(dialect, field, u"COALESCE(date(%1), %1)"_s);
 }
 
+QString moneyOperand(const Dialect &dialect, const QString &field)
+{
+    return dialect.engine == Engine::PostgreSQL ? u"CAST(%1 AS NUMERIC)"_s.arg(field) : field;
+}
+
 QString dayValue(const Dialect &dialect, const QString &field)
 {
     switch (dialect.engine) {

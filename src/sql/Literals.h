@@ -51,6 +51,9 @@ QString dateOperand(const Dialect &dialect, const QString &field);
 QString dayOperand(const Dialect &dialect, const QString &field);
 QString momentOperand(const Dialect &dialect, const QString &field);
 
+// A field of money as it is compared with a number: PostgreSQL compares its money with money alone.
+QString moneyOperand(const Dialect &dialect, const QString &field);
+
 // The day of a field of days or moments as a value of its own; the field itself where no way to write it is
 // known.
 QString dayValue(const Dialect &dialect, const QString &field);

@@ -27,6 +27,11 @@ QString isNotEmptyText(const Dialect &dialect, const QString &field)
            (dialect.database == dbOracle ? " LIKE '_%'"_L1 : " <> ''"_L1);
 }
 
+QString beforeTexts(const Dialect &dialect, const QString &field)
+{
+    return dialect.engine == Engine::SQLite ? field + " < ''"_L1 : QString();
+}
+
 QString rowLimit(const Dialect &dialect, int count)
 {
     const Engine engine = dialect.engine;

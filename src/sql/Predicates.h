@@ -14,6 +14,10 @@ QString isTrue(const Dialect &dialect, const QString &field, bool wanted);
 QString isEmptyText(const Dialect &dialect, const QString &field);
 QString isNotEmptyText(const Dialect &dialect, const QString &field);
 
+// A condition that the value of a number field is a number, where the engine keeps texts in it as well, which
+// it takes for larger than any number. Empty where it keeps none.
+QString beforeTexts(const Dialect &dialect, const QString &field);
+
 // What follows ORDER BY and its list so that at most `count` rows are read.
 QString rowLimit(const Dialect &dialect, int count);
 

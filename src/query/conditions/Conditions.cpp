@@ -144,8 +144,10 @@ std::optional<std::vector<SearchedField>> searchedFields(std::span<const TypedFi
             continue;
         const QString kind = field.adoType ? classOf(*field.adoType, mode.engine) : QString();
         const bool isDouble = field.adoType == doubleType;
+        const QString value =
+            field.adoType == currencyType ? moneyOperand(dialectOf(database, mode), *name) : *name;
         searched.push_back(
-            {isDouble ? likeOperandOfDouble(mode.engine, *name) : likeOperand(mode.engine, *name),
+            {isDouble ? likeOperandOfDouble(mode.engine, value) : likeOperand(mode.engine, value),
              (kind != u"1" && kind != u"3") || field.adoType == guidType, *name, field.adoType.value_or(0)});
     }
     return searched;
@@ -209,7 +211,8 @@ QString numberCondition(const QString &field, qint32 adoType, const QString &cel
 {
     const Engine engine = mode.engine;
     const QString like = field + QStringLiteral(" like ");
-    const QString equals = field + QStringLiteral(" = ");
+    const QString equals =
+        (adoType == currencyType ? moneyOperand(dialectOf({}, mode), field) : field) + QStringLiteral(" = ");
     if (engine == Engine::Other)
         return like + cellText;
     // A column's declared type doesn't say that each of its values is a number.

@@ -172,7 +172,9 @@ std::vector<qsizetype> Derivation::unitedConditions() const
 bool Derivation::hasAsTable(const Derivation &other) const
 {
     return m_parts.isDerivedTable && other.m_kind == Kind::Closed &&
-           source().simplified().compare(other.source().simplified(), Qt::CaseInsensitive) == 0;
+           textOf(m_sql, m_parts.source)
+                   .simplified()
+                   .compare(other.asTable().simplified(), Qt::CaseInsensitive) == 0;
 }
 
 QString Derivation::table() const
