@@ -62,8 +62,8 @@ void FilterSource::setResult(const FilteredResult &result)
 Dialect FilterSource::dialect() const
 {
     Dialect dialect = dialectOf(m_database, engineOf(m_connection));
-    dialect.isOdbc =
-        leadsToOdbc(m_connectionString); // known before it is opened, and of SQLite's driver as well
+    // Known before it is opened. SQLite reads its own SQL through a driver, too.
+    dialect.isOdbc = dialect.engine != Engine::SQLite && leadsToOdbc(m_connectionString);
     dialect.escapesByBackslash = m_escapesByBackslash;
     return dialect;
 }
@@ -140,6 +140,7 @@ FilterField FilterSource::fieldOf(const QString &caption, const QString &written
     FilterField field{caption, written, fieldClassOf(type)};
     if (type == ADODB::adDouble || type == ADODB::adSingle)
         field.floatSize = type == ADODB::adDouble ? FloatSize::Double : FloatSize::Single;
+    field.isMoney = type == ADODB::adCurrency;
     field.isComputed = info.baseColumn.isEmpty();
     field.isUntyped = field.fieldClass == FieldClass::Text && ADODB::isUntyped(connection(), info);
     return field;

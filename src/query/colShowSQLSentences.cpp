@@ -217,20 +217,29 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
     QSet<QString> different;
     for (const SourceField &field : *fields) {
         // Two tables of a join have it, and a bare name is neither's.
-        if (const QString folded = field.name.toCaseFolded(); !different.contains(folded)) {
-            different.insert(folded);
-        } else {
+        if (different.contains(field.name.toCaseFolded())) {
             strRetSQL = strOrgSQL;
             return true;
         }
-        QStringList &list = field.adoType == longVarBinaryType ? longBinaryNames : names;
-        list.append(quoted(field.name));
+        different.insert(field.name.toCaseFolded());
+        (field.adoType == longVarBinaryType ? longBinaryNames : names).append(field.name);
     }
-    auto sentence = SplitSQLSentence(strOrgSQL);
+    const auto sentence = SplitSQLSentence(strOrgSQL);
     if (!sentence)
         return false;
-    sentence->fields.replace(*star, 1, (names + longBinaryNames).join(u','));
-    strRetSQL = joinSQLSentence(*sentence);
+    const auto spelledOut = [&](const auto &write) {
+        QStringList list;
+        for (const QString &name : names + longBinaryNames)
+            list.append(write(name));
+        SQLSentence made = *sentence;
+        made.fields.replace(*star, 1, list.join(u','));
+        return joinSQLSentence(made);
+    };
+    strRetSQL = spelledOut(quoted);
+    // SQLite takes a name in double quotes that is no column for a text, and its driver cuts names off.
+    const auto inBackQuotes = [](const QString &name) { return enclosed(u'`', name, u'`'); };
+    if (engine.engine == Engine::SQLite && !m_reader->Read(strPassConnString, spelledOut(inBackQuotes)))
+        strRetSQL = strOrgSQL;
     return true;
 }
 

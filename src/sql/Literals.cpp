@@ -163,6 +163,11 @@ bool daysHaveTimes(const Dialect &dialect)
     return keepsDatesAsTexts(dialect);
 }
 
+QString moneyOperand(Engine engine, const QString &field)
+{
+    return engine == Engine::PostgreSQL ? u"CAST(%1 AS NUMERIC)"_s.arg(field) : field;
+}
+
 QString dayValue(const Dialect &dialect, const QString &field)
 {
     switch (dialect.engine) {

@@ -54,6 +54,9 @@ QString momentOperand(const Dialect &dialect, const QString &field);
 // Whether a field of days can hold moments as well.
 bool daysHaveTimes(const Dialect &dialect);
 
+// A field of money as it is compared with a number: PostgreSQL compares its money with money alone.
+QString moneyOperand(Engine engine, const QString &field);
+
 // The day of a field of days or moments as a value of its own; the field itself where no way to write it is
 // known.
 QString dayValue(const Dialect &dialect, const QString &field);

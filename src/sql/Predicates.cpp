@@ -27,6 +27,11 @@ QString isNotEmptyText(const Dialect &dialect, const QString &field)
            (dialect.database == dbOracle ? " LIKE '_%'"_L1 : " <> ''"_L1);
 }
 
+QString beforeTexts(const Dialect &dialect, const QString &field)
+{
+    return dialect.engine == Engine::SQLite ? field + " < ''"_L1 : QString();
+}
+
 RowLimit rowLimit(const Dialect &dialect, int count)
 {
     const Engine engine = dialect.engine;
@@ -54,12 +59,6 @@ QString innerTableAlias(const Dialect &dialect, const QString &name)
 bool takesInnerSort(const Dialect &dialect)
 {
     return dialect.likelyEngine() != Engine::SqlServer;
-}
-
-// SQLite makes one SELECT of both.
-bool sortsBeforeInnerLimit(const Dialect &dialect)
-{
-    return dialect.engine == Engine::SQLite;
 }
 
 } // namespace KOVAVSFDataGridLib

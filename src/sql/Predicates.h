@@ -14,6 +14,10 @@ QString isTrue(const Dialect &dialect, const QString &field, bool wanted);
 QString isEmptyText(const Dialect &dialect, const QString &field);
 QString isNotEmptyText(const Dialect &dialect, const QString &field);
 
+// A condition that the value of a number field is a number, where the engine keeps texts in it as well, which
+// it takes for larger than any number. Empty where it keeps none.
+QString beforeTexts(const Dialect &dialect, const QString &field);
+
 // The words of a SELECT that is to give its first records only. Each has the blank that keeps it apart.
 struct RowLimit
 {
@@ -29,8 +33,5 @@ QString innerTableAlias(const Dialect &dialect, const QString &name);
 
 // Whether such a SELECT may be sorted where it isn't limited.
 bool takesInnerSort(const Dialect &dialect);
-
-// Whether an outer sort would be done before its limit takes the records.
-bool sortsBeforeInnerLimit(const Dialect &dialect);
 
 } // namespace KOVAVSFDataGridLib

@@ -36,6 +36,8 @@ QString showsNumber(Engine engine, const QString &field, NumberKind kind, const 
     const bool isFloating = kind == NumberKind::Single || kind == NumberKind::Double;
     switch (engine) {
     case Engine::PostgreSQL:
+        if (kind == NumberKind::Currency)
+            return u"%1 = %2"_s.arg(moneyOperand(engine, field), number);
         // Only as a number of the same few digits it is the same number.
         return equals + (kind == NumberKind::Single ? u"CAST(%1 AS REAL)"_s.arg(number) : number);
     case Engine::SQLite:

@@ -41,6 +41,30 @@ TEST(FilterCondition, ComparesNumbers)
     EXPECT_EQ(sql(number, IsNotEmpty), "F IS NOT NULL");
 }
 
+TEST(FilterCondition, WhatIsLargerThanANumberIsNoTextOfSqlite)
+{
+    const Dialect engine{.engine = Engine::SQLite};
+    const auto number = FieldClass::Number;
+    EXPECT_EQ(sql(number, Greater, u"5"_s, {}, engine), "(F > 5 AND F < '')");
+    EXPECT_EQ(sql(number, AtLeast, u"5"_s, {}, engine), "(F >= 5 AND F < '')");
+    EXPECT_EQ(sql(number, Less, u"5"_s, {}, engine), "F < 5");
+    EXPECT_EQ(sql(number, Between, u"-2"_s, u"5"_s, engine), "(F >= -2 AND F <= 5)");
+    EXPECT_EQ(sql(FieldClass::Text, Greater, u"5"_s, {}, engine), "F > '5'");
+}
+
+TEST(FilterCondition, MoneyOfPostgresIsComparedAsANumber)
+{
+    FilterField money = field(FieldClass::Number);
+    money.isMoney = true;
+    const auto sqlOf = [&](Engine engine, FilterOperator op, const QString &value) {
+        return conditionOf({.isOdbc = true, .engine = engine}, {money, op, value, {}}).sql.toStdString();
+    };
+    EXPECT_EQ(sqlOf(Engine::PostgreSQL, Equals, u"12.5"_s), "CAST(F AS NUMERIC) = 12.5");
+    EXPECT_EQ(sqlOf(Engine::PostgreSQL, InList, u"0, 12.5"_s), "CAST(F AS NUMERIC) IN (0, 12.5)");
+    EXPECT_EQ(sqlOf(Engine::PostgreSQL, IsEmpty, {}), "F IS NULL");
+    EXPECT_EQ(sqlOf(Engine::Access, Less, u"12.5"_s), "F < 12.5");
+}
+
 TEST(FilterCondition, AFractionMeansAllNumbersThatAreShownAsIt)
 {
     const auto sqlOf = [](FilterOperator op, const QString &value, bool isComputed = false) {

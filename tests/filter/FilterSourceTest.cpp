@@ -2,6 +2,7 @@
 
 #include "ado/Connection.h"
 #include "ado/Error.h"
+#include "filter/conditions/TickedValues.h"
 #include "support/TestDatabase.h"
 
 #include <gtest/gtest.h>
@@ -77,6 +78,45 @@ TEST_F(Source, FieldsNamedLikeWordsOfTheLanguageCanBeFilteredBy)
         conditions.append(name + u" = 1"_s);
     EXPECT_EQ(conditions.size(), 7);
     EXPECT_EQ(database.ask(u"SELECT count(*) FROM Words WHERE "_s + conditions.join(u" AND "_s)), u"1"_s);
+}
+
+TEST_F(Source, TextsInANumberFieldAreFoundByTicksAndByNoNumber)
+{
+    database.run(
+        u"CREATE TABLE Loose (N INTEGER, D DOUBLE);"
+        "INSERT INTO Loose VALUES (10, 1.5), ('abc', 'x'), (7, 20), ('1 or 1=1', NULL), (NULL, 3)"_s);
+    source.setTable(u"Loose"_s);
+    const FilterField number = source.readFields().front();
+    const auto count = [&](const FilterCondition &condition) {
+        EXPECT_EQ(condition.fault, QString());
+        return database.ask(u"SELECT count(*) FROM Loose WHERE "_s + condition.sql);
+    };
+    const auto counted = [&](FilterOperator op, const QString &value, const QString &last = {}) {
+        return count(conditionOf(source.dialect(), FilterChoice{number, op, value, last}));
+    };
+    using enum FilterOperator;
+    EXPECT_EQ(counted(AtLeast, u"7"_s), u"2"_s);
+    EXPECT_EQ(counted(Greater, u"7"_s), u"1"_s);
+    EXPECT_EQ(counted(Less, u"100"_s), u"2"_s);
+    EXPECT_EQ(counted(Between, u"7"_s, u"100"_s), u"2"_s);
+
+    ValueReading reading(source.tickRequest(number, {}, {}));
+    ASSERT_TRUE(reading.waitForValues(10000));
+    EXPECT_EQ(reading.values().values, (QStringList{u"7"_s, u"10"_s, u"1 or 1=1"_s, u"abc"_s}));
+    TickedValues ticked;
+    ticked.areLeftOut = false;
+    for (const QString &value : reading.values().values) {
+        ticked.values = {value};
+        EXPECT_EQ(count(conditionOf(source.dialect(), number, ticked)), u"1"_s) << qPrintable(value);
+    }
+    ticked.values = {u"1 or 1=1"_s, u"10"_s};
+    EXPECT_EQ(count(conditionOf(source.dialect(), number, ticked)), u"2"_s);
+
+    const FilterScope records{.records = FilterSql::Records{u"Loose"_s, {}}};
+    EXPECT_EQ(count(conditionOf(source.dialect(), FilterChoice{number, Top, u"1"_s}, records)), u"1"_s);
+    EXPECT_EQ(database.ask(u"SELECT N FROM Loose WHERE "_s +
+                           conditionOf(source.dialect(), FilterChoice{number, Top, u"1"_s}, records).sql),
+              u"10"_s);
 }
 
 TEST_F(Source, ValuesWithoutADeclaredTypeAreFoundAsWhatTheyAre)

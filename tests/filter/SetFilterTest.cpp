@@ -38,9 +38,9 @@ TEST_F(Builder, ShowsTheConditionAsItGrows)
     EXPECT_EQ(dialog.focusWidget(), &combo("cmbField2"));
     EXPECT_EQ(shown(), "城市 = '北京'");
     fillRow(2, u"金额"_s, u"大于"_s, u"-5"_s);
-    EXPECT_EQ(shown(), "城市 = '北京' AND 金额 > -5");
+    EXPECT_EQ(shown(), "城市 = '北京' AND (金额 > -5 AND 金额 < '')");
     choose("cmbJoin1", u"或者"_s);
-    EXPECT_EQ(answer(), "(城市 = '北京' OR 金额 > -5)");
+    EXPECT_EQ(answer(), "(城市 = '北京' OR (金额 > -5 AND 金额 < ''))");
 }
 
 TEST_F(Builder, SaysTheConditionInWordsUntilItIsTypedAsSql)
@@ -130,13 +130,13 @@ TEST_F(Builder, ShowsTheStatementOnRequest)
     QTest::keyClick(&show, Qt::Key_Space);
     EXPECT_TRUE(sql.isVisible());
     EXPECT_TRUE(sql.hasFocus());
-    EXPECT_EQ(sql.text(), u"编号 > 1"_s);
+    EXPECT_EQ(sql.text(), u"(编号 > 1 AND 编号 < '')"_s);
     type("txtCondition", u"编号 > 2"_s);
     EXPECT_FALSE(show.isEnabled()) << "it is all that there is now";
     press(dialog, "cmdBackToRows");
     QTest::mouseClick(&show, Qt::LeftButton);
     EXPECT_FALSE(sql.isVisible());
-    EXPECT_EQ(sql.text(), u"编号 > 1"_s);
+    EXPECT_EQ(sql.text(), u"(编号 > 1 AND 编号 < '')"_s);
 
     builder->PutState({.condition = u"编号 > 3"_s});
     EXPECT_TRUE(sql.isVisible()) << "no row says it";
@@ -187,7 +187,7 @@ TEST_F(Builder, TheKeyboardAloneBuildsACondition)
     key(dialog, Qt::Key_Down); // 大于
     key(dialog, Qt::Key_Tab);
     QTest::keyClicks(dialog.focusWidget(), u"100"_s);
-    EXPECT_EQ(answer(), "金额 > 100");
+    EXPECT_EQ(answer(), "(金额 > 100 AND 金额 < '')");
 }
 
 TEST_F(Builder, AFieldIsFoundByTheBeginningOfItsNameInChineseToo)
@@ -223,7 +223,7 @@ TEST_F(Builder, BracketsGroupConditions)
     EXPECT_EQ(fault("lblFault2"), "括号不配对。");
     choose("cmbClose3", u")"_s);
     EXPECT_EQ(fault("lblFault2"), "");
-    EXPECT_EQ(answer(), "编号 > 1 AND (城市 = '北京' OR 城市 = '上海')");
+    EXPECT_EQ(answer(), "(编号 > 1 AND 编号 < '') AND (城市 = '北京' OR 城市 = '上海')");
 }
 
 TEST_F(Builder, DeletingARowRenumbersTheOthersAndKeepsTheirBrackets)

@@ -92,6 +92,24 @@ TEST(TickedValues, AreOneCondition)
               "(F >= {d '2024-01-05'} AND F < {d '2024-01-06'})");
 }
 
+TEST(TickedValues, CanBeTextsInANumberFieldOfSqlite)
+{
+    const Dialect engine{.engine = Engine::SQLite};
+    const auto ticked = [](const QStringList &values, bool areLeftOut) {
+        TickedValues made;
+        made.areLeftOut = areLeftOut;
+        made.values = values;
+        return made;
+    };
+    const auto number = FieldClass::Number;
+    EXPECT_EQ(sql(number, ticked({u"abc"_s}, false), engine), "F = 'abc'");
+    EXPECT_EQ(sql(number, ticked({u"10"_s}, false), engine), "F = 10");
+    EXPECT_EQ(sql(number, ticked({u"abc"_s, u"-1"_s}, true), engine),
+              "NOT ((F = 'abc' OR CASE typeof(F) WHEN 'text' THEN F = '-1' ELSE "
+              "F BETWEEN -1.000000000000005 AND -0.999999999999995 END))");
+    EXPECT_EQ(sql(number, ticked({u"abc"_s}, false)), "fault: “abc”不是数字。");
+}
+
 TEST(TickedValues, AreTypedAsAList)
 {
     EXPECT_EQ(listOf({false, {u"a"_s, u"b, c"_s, u" d"_s}, {}}), u"a, \"b, c\", \" d\""_s);

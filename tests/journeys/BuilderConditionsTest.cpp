@@ -83,7 +83,7 @@ protected:
             conditionOf(source.dialect(), {fields.at(static_cast<std::size_t>(field)), op, value, lastValue});
         EXPECT_EQ(condition.fault, QString());
         ADODB::Recordset recordset;
-        recordset.Open(u"SELECT id FROM journey_conditions WHERE "_s + condition.sql + u" ORDER BY id"_s,
+        recordset.Open(u"SELECT id FROM "_s + table + u" WHERE "_s + condition.sql + u" ORDER BY id"_s,
                        connection);
         QStringList keys;
         for (qint64 record = 1; record <= recordset.RecordCount(); ++record)
@@ -115,6 +115,7 @@ protected:
     std::shared_ptr<ADODB::Connection> connection = std::make_shared<ADODB::Connection>();
     FilterSource source;
     std::vector<FilterField> fields;
+    QString table = u"journey_conditions"_s;
 };
 
 } // namespace
@@ -186,6 +187,55 @@ TEST_P(BuilderConditions, OnNumbersMeanWhatTheySay)
                   return each.number && *each.number >= -12 && *each.number <= 7;
               }));
     EXPECT_EQ(found(number, IsEmpty, {}), expected([](const Values &each) { return !each.number; }));
+}
+
+// A driver can take what is computed for a text.
+TEST_P(BuilderConditions, OnComputedNumbersMeanWhatTheySay)
+{
+    table = u"(SELECT id, n - 1 AS less, COUNT(*) AS one\nFROM journey_conditions GROUP BY id, n) Q"_s;
+    source.setTable(table);
+    fields = source.readFields();
+    using enum FilterOperator;
+    constexpr int less = 1;
+    constexpr int one = 2;
+    const auto where = [&](const std::function<bool(int)> &isMeant) {
+        return expected([&](const Values &each) { return each.number && isMeant(*each.number - 1); });
+    };
+    EXPECT_EQ(found(less, Equals, u"14"_s), where([](int each) { return each == 14; }));
+    EXPECT_EQ(found(less, InList, u"14, -24, 0"_s),
+              where([](int each) { return each == 14 || each == -24 || each == 0; }));
+    EXPECT_EQ(found(less, Between, u"-12"_s, u"9"_s),
+              where([](int each) { return each >= -12 && each <= 9; }));
+    EXPECT_EQ(found(less, Less, u"-9"_s), where([](int each) { return each < -9; }));
+    EXPECT_EQ(found(one, Equals, u"1"_s), expected([](const Values &) { return true; }));
+    EXPECT_EQ(found(one, NotEquals, u"1"_s), QString());
+    EXPECT_EQ(found(one, Greater, u"1"_s), QString());
+}
+
+TEST_P(BuilderConditions, OnMoneyMeanWhatTheySay)
+{
+    if (!QLatin1StringView(engine.name).startsWith("PostgreSQL"_L1))
+        GTEST_SKIP() << engine.name << " has no such type";
+    table = u"journey_money"_s;
+    database->run({u"DROP TABLE IF EXISTS journey_money"_s,
+                   u"CREATE TABLE journey_money (id INTEGER PRIMARY KEY, m MONEY)"_s,
+                   u"INSERT INTO journey_money VALUES (1, 12.5), (2, 1234.5), (3, 0), (4, -3), (5, NULL)"_s});
+    source.setTable(table);
+    fields = source.readFields();
+    using enum FilterOperator;
+    constexpr int money = 1;
+    EXPECT_EQ(found(money, Equals, u"1234.5"_s), u"2"_s);
+    EXPECT_EQ(found(money, NotEquals, u"0"_s), u"1 2 4 5"_s);
+    EXPECT_EQ(found(money, InList, u"0, 12.5"_s), u"1 3"_s);
+    EXPECT_EQ(found(money, Between, u"0"_s, u"12.5"_s), u"1 3"_s);
+    EXPECT_EQ(found(money, Greater, u"12.5"_s), u"2"_s);
+    EXPECT_EQ(found(money, IsEmpty, {}), u"5"_s);
+
+    ADODB::Recordset records;
+    records.Open(u"SELECT m FROM journey_money ORDER BY id"_s, connection);
+    EXPECT_EQ(records.Fields().Item(0).Type(), ADODB::adCurrency);
+    EXPECT_EQ(records.CellText(2, 0), u"1234.5"_s);
+    EXPECT_EQ(records.CellText(4, 0), u"-3"_s);
 }
 
 TEST_P(BuilderConditions, OfferTheValuesThatAreThere)

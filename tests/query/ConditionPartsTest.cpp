@@ -28,6 +28,7 @@ struct ConditionWords : testing::TestWithParam<Case>
 const Case cases[] = {
     {"Number", u"ID > 3"_s, {u"ID > 3"_s}, {u"ID"_s}},
     {"Two", u"ID >= 3 AND 城市 = '大连'"_s, {u"ID ≥ 3"_s, u"城市 = “大连”"_s}, {u"ID"_s}},
+    {"OnlyNumbers", u"(ID >= 3 AND ID < '') AND (价格 > 5 AND 价格 < '')"_s, {u"ID ≥ 3"_s, u"价格 > 5"_s}},
     {"Brackets", u"((ID <> 3) AND (价格 <= 5))"_s, {u"ID ≠ 3"_s, u"价格 ≤ 5"_s}, {u"ID"_s}},
     {"Or", u"(ID = 1 OR ID = 2) AND 停用 <> 0"_s, {u"ID = 1，或者 ID = 2"_s, u"停用 ≠ 0"_s}, {u"ID"_s}},
     {"OrAbove",

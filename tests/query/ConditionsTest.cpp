@@ -165,6 +165,19 @@ TEST(CellFilterText, NumbersAreComparedBare)
         EXPECT_EQ(buildCellFilter(u"Qty"_s, type, u"12"_s).condition, u"Qty like 12"_s) << type;
 }
 
+TEST(CellFilterText, MoneyIsComparedAsANumber)
+{
+    constexpr int money = 6;
+    EXPECT_EQ(buildCellFilter(u"M"_s, money, u"12.5"_s, Engine::PostgreSQL).condition,
+              u"CAST(M AS NUMERIC) = 12.5"_s);
+    EXPECT_EQ(buildCellFilter(u"M"_s, money, u"12.5"_s, Engine::Access).condition, u"M = 12.5"_s);
+    const TypedField field{u"m"_s, money};
+    QString condition;
+    EXPECT_TRUE(BuildLikeAllCondition(u"1234"_s, field, u"SELECT m FROM T"_s, dbOracle, condition,
+                                      Engine::PostgreSQL));
+    EXPECT_EQ(condition, u" (CAST(CAST(m AS NUMERIC) AS TEXT) LIKE '%1234%' ) "_s);
+}
+
 TEST(CellFilterText, TextsAreComparedInQuotesAndLetterForLetter)
 {
     for (const qint32 type : {129, 130, 200, 202})

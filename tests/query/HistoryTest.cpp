@@ -227,6 +227,19 @@ TEST_F(History, StarBecomesTheQuotedFieldsWithLongBinaryOnesLast)
     EXPECT_EQ(statement, u"select \"A\",\"B\",\"P\" from T  "_s);
 }
 
+// A driver of SQLite calls "x.y" y.
+TEST_F(History, StarStaysWhereItsFieldsAreNotCalledWhatTheDriverSays)
+{
+    const QString star = u"select * from T"_s;
+    reader.mode = Engine::SQLite;
+    reader.fieldsByStatement.insert(star, {{u"A"_s, 202}, {u"y"_s, 202}});
+    EXPECT_TRUE(history.GetAllFieldNameSQL(u"DSN=a"_s, star, statement));
+    EXPECT_EQ(statement, star);
+    reader.fieldsByStatement.insert(u"select `A`,`y` from T  "_s, {{u"A"_s, 202}, {u"y"_s, 202}});
+    EXPECT_TRUE(history.GetAllFieldNameSQL(u"DSN=a"_s, star, statement));
+    EXPECT_EQ(statement, u"select [A],[y] from T  "_s);
+}
+
 TEST_F(History, StatementWithoutStarIsNotExpanded)
 {
     EXPECT_TRUE(history.GetAllFieldNameSQL(u"DSN=a"_s, kPart, statement));

@@ -149,6 +149,11 @@ private:
             return like(m_dialect, field(), m_choice.value, Anchor::Begin);
         case FilterOperator::EndsWith:
             return like(m_dialect, field(), m_choice.value, Anchor::End);
+        case FilterOperator::Greater:
+        case FilterOperator::AtLeast:
+            return numberLimit().isEmpty()
+                       ? compared(m_op, value, m_choice.value)
+                       : u'(' + compared(m_op, value, m_choice.value) + " AND "_L1 + numberLimit() + u')';
         default:
             return compared(m_op, value, m_choice.value);
         }
@@ -205,9 +210,17 @@ private:
         // The first texts of a list are those that begin it, while the first numbers are the largest.
         const bool areTexts = m_choice.field.fieldClass == FieldClass::Text;
         const bool isDescending = (m_op == FilterOperator::Top) != areTexts;
-        return {
-            FilterSql::isAmongFirst(m_dialect, field(), *m_scope.records, {*count, isDescending, areTexts}),
-            {}};
+        FilterSql::Records records = *m_scope.records;
+        if (const QString limit = numberLimit(); !limit.isEmpty())
+            records.condition =
+                records.condition.isEmpty() ? limit : u'(' + records.condition + ") AND "_L1 + limit;
+        return {FilterSql::isAmongFirst(m_dialect, field(), records, {*count, isDescending, areTexts}), {}};
+    }
+
+    // Where texts are larger than numbers, what is larger than a number is still to be one.
+    QString numberLimit() const
+    {
+        return m_choice.field.fieldClass == FieldClass::Number ? beforeTexts(m_dialect, field()) : QString();
     }
 
     const Dialect &m_dialect;
@@ -248,6 +261,8 @@ FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked, c
                                                     : dayOperand(dialect, choice.field.written);
     else if (choice.field.fieldClass == FieldClass::Moment)
         choice.field.written = momentOperand(dialect, choice.field.written);
+    else if (choice.field.isMoney)
+        choice.field.written = moneyOperand(dialect.engine, choice.field.written);
     const Writer writer(dialect, choice, scope);
     if (!choice.leavesOut())
         return writer.positive();

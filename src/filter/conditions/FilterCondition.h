@@ -21,6 +21,7 @@ struct FilterField
     std::optional<FloatSize> floatSize = {}; // of a number that is a float
     bool isComputed = false;                 // from no column of a table
     bool isUntyped = false;                  // of SQLite: each value has a type of its own
+    bool isMoney = false;                    // a number that is an amount of money to the database
 };
 
 // What one row of the builder says.

@@ -5,6 +5,8 @@
 
 #include <QtCore/QJsonArray>
 
+#include <algorithm>
+
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
@@ -55,11 +57,25 @@ FilterCondition withoutNamed(const Dialect &dialect, const FilterField &field, c
                        scope);
 }
 
+// A number field of SQLite can hold texts, which are compared as such.
+FilterField fieldOf(const Dialect &dialect, const FilterField &field, const TickedValues &ticked)
+{
+    FilterField made = field;
+    const bool hasTexts = field.fieldClass == FieldClass::Number && dialect.engine == Engine::SQLite &&
+                          !std::ranges::all_of(ticked.values, isNumberText);
+    if (hasTexts) {
+        made.fieldClass = FieldClass::Text;
+        made.isUntyped = true;
+    }
+    return made;
+}
+
 } // namespace
 
-FilterCondition conditionOf(const Dialect &dialect, const FilterField &field, const TickedValues &ticked,
-                            const FilterScope &scope)
+FilterCondition conditionOf(const Dialect &dialect, const FilterField &tickedField,
+                            const TickedValues &ticked, const FilterScope &scope)
 {
+    const FilterField field = fieldOf(dialect, tickedField, ticked);
     if (ticked.isEverything())
         return {};
     if (ticked.isNothing())

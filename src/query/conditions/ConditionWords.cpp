@@ -234,6 +234,9 @@ QString boundsInWords(const SqlScanner &sql, const Bounds &bounds)
     if (const QString days = daysInWords(sql, bounds); !days.isEmpty())
         return operand + u' ' + QueryTexts::EqualsInWords.arg(days);
     const QString lower = operandInWords(sql, bounds.lower);
+    // No text is smaller: the operand is to be a number.
+    if (textOfLiteral(sql, bounds.upper) == QString() && !bounds.isUpperIncluded)
+        return operand + (bounds.isLowerIncluded ? u" ≥ "_s : u" > "_s) + lower;
     const QString upper = operandInWords(sql, bounds.upper);
     if (bounds.isLowerIncluded && bounds.isUpperIncluded)
         return QueryTexts::BetweenInWords.arg(operand, lower, upper);

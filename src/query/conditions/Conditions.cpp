@@ -137,8 +137,9 @@ std::optional<std::vector<SearchedField>> searchedFields(std::span<const TypedFi
             continue;
         const QString kind = field.adoType ? classOf(*field.adoType, mode) : QString();
         const bool isDouble = field.adoType == doubleType;
+        const QString value = field.adoType == currencyType ? moneyOperand(mode.engine, *name) : *name;
         searched.push_back(
-            {isDouble ? likeOperandOfDouble(mode.engine, *name) : likeOperand(mode.engine, *name),
+            {isDouble ? likeOperandOfDouble(mode.engine, value) : likeOperand(mode.engine, value),
              (kind != u"1" && kind != u"3") || field.adoType == guidType, *name, field.adoType.value_or(0)});
     }
     return searched;

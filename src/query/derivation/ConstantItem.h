@@ -5,31 +5,36 @@
 // Which entries of a SELECT list are the same in every row.
 namespace KOVAVSFDataGridLib {
 
-// E'…', N'…', U&'…' and the like: nothing stands between their tokens.
-inline bool isTextWithPrefix(const SqlScanner &sql, TextRange value)
+// A word that is part of a text or a value: the type of E'…', N'…' or DATE '…', the U of U&'…', what follows
+// ::.
+inline bool isWordOfConstant(const SqlScanner &sql, qsizetype word, qsizetype end)
 {
-    const qsizetype text = value.end - 1;
-    const bool isUnicode = text - value.begin == 2 && sql.isSymbol(text - 1, u'&');
-    return (text - value.begin == 1 || isUnicode) && sql.at(value.begin).kind == SqlToken::Kind::Word &&
-           sql.at(text).kind == SqlToken::Kind::String &&
-           sql.at(value.begin).end() + (isUnicode ? 1 : 0) == sql.at(text).start;
+    const auto isText = [&](qsizetype token) {
+        return token < end && sql.at(token).kind == SqlToken::Kind::String;
+    };
+    const bool isCast = sql.isSymbol(word - 1, u':') && sql.isSymbol(word - 2, u':');
+    const bool isUnicode =
+        sql.isSymbol(word + 1, u'&') && isText(word + 2) && sql.at(word).end() + 1 == sql.at(word + 2).start;
+    return isCast || isUnicode || isText(word + 1) || sql.isWord(word, u"TRUE") ||
+           sql.isWord(word, u"FALSE") || sql.isWord(word, u"NULL");
 }
 
-inline bool isNumberWithSign(const SqlScanner &sql, TextRange value)
-{
-    return value.end - value.begin == 2 &&
-           (sql.isSymbol(value.begin, u'-') || sql.isSymbol(value.begin, u'+')) &&
-           sql.at(value.begin + 1).kind == SqlToken::Kind::Number;
-}
-
-// A text, a number or a word like NULL.
+// Texts, numbers and what is written of these alone, or a word like CURRENT_DATE.
 inline bool isConstant(const SqlScanner &sql, const SelectParts::Item &item)
 {
-    if (isTextWithPrefix(sql, item.value) || isNumberWithSign(sql, item.value))
-        return true;
-    const SqlToken::Kind kind = sql.at(item.value.begin).kind;
-    return item.value.end - item.value.begin == 1 && !item.isName && !item.isStar &&
-           (kind == SqlToken::Kind::Number || kind == SqlToken::Kind::String || kind == SqlToken::Kind::Word);
+    if (item.isName || item.isStar || item.value.isEmpty())
+        return false;
+    const bool isOneWord = item.value.end - item.value.begin == 1;
+    for (qsizetype i = item.value.begin; i < item.value.end; ++i) {
+        const SqlToken::Kind kind = sql.at(i).kind;
+        const bool isOther =
+            kind == SqlToken::Kind::QuotedName ||
+            (kind == SqlToken::Kind::Word && !isOneWord && !isWordOfConstant(sql, i, item.value.end));
+        // A parameter or a variable can be anything.
+        if (isOther || sql.isSymbol(i, u'?') || sql.isSymbol(i, u'@') || sql.isSymbol(i, u'$'))
+            return false;
+    }
+    return true;
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -4,6 +4,7 @@
 #include "query/QueryTexts.h"
 #include "sql/Names.h"
 #include "sql/Predicates.h"
+#include "sql/select/LimitFence.h"
 #include "sql/select/SqlWalk.h"
 
 #include <algorithm>
@@ -30,7 +31,7 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
     const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
                         !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
                         !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isVersioned && !m_parts.isClosed &&
-                        m_isListKnown;
+                        m_isListKnown && !isSourceUnfenced();
     if (!isOpen) {
         m_kind = Kind::Closed;
         m_written.clear();
@@ -43,6 +44,15 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
     const bool isSimple = m_parts.with.isEmpty() && m_parts.listWords.isEmpty() && isFoundAsText() &&
                           hasPlainList() && equalName().isEmpty();
     m_kind = isSimple ? Kind::Simple : Kind::Open;
+}
+
+// Whether a condition or a sort would change which records it selects from; see LimitFence.h.
+bool Derivation::isSourceUnfenced() const
+{
+    const Engine engine = m_dialect.engine;
+    return needsFence(m_sql, m_parts.source, engine) ||
+           (needsFence(m_sql, m_parts.with, engine) &&
+            !(m_parts.isDerivedTable && isFenced(m_sql, m_parts.source, engine)));
 }
 
 bool Derivation::isFoundAsText() const
@@ -162,8 +172,10 @@ std::vector<qsizetype> Derivation::unitedConditions() const
 
 bool Derivation::hasAsTable(const Derivation &other) const
 {
-    return m_kind != Kind::Closed && m_parts.isDerivedTable && other.m_kind == Kind::Closed &&
-           source().simplified().compare(other.source().simplified(), Qt::CaseInsensitive) == 0;
+    return m_parts.isDerivedTable && other.m_kind == Kind::Closed &&
+           textOf(m_sql, m_parts.source)
+                   .simplified()
+                   .compare(other.asTable().simplified(), Qt::CaseInsensitive) == 0;
 }
 
 QString Derivation::table() const
@@ -300,8 +312,8 @@ QString Derivation::asTable() const
         inner.remove(from, m_sql.at(m_parts.order.end - 1).end() - start - from);
     }
     inner = inner.trimmed();
-    if (sortsBeforeInnerLimit(m_dialect) && m_parts.isLimited && m_parts.order.isEmpty())
-        inner = u"SELECT *\nFROM (\n"_s + inner + u"\n) LIMIT -1"_s;
+    if (needsFence(m_sql, {0, end}, m_dialect.engine))
+        inner = fenced(inner, m_dialect.engine);
     // A comment to the end of its line must not swallow the bracket.
     return u"(\n"_s + inner + u"\n)"_s + innerTableAlias(m_dialect, u"Q"_s);
 }

@@ -148,6 +148,7 @@ private:
     int countOf(const QString &name) const;
     bool isFoundAsText() const;
     bool hasPlainList() const;
+    bool isSourceUnfenced() const;
     QString equalName() const; // a name that several fields have; empty when there is none
     // The clauses that the steps work on: those of this statement, or of one that has it as a table.
     SQLSentence base() const;

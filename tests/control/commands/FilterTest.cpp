@@ -320,6 +320,17 @@ TEST_F(Filters, ACellOfAnotherTypeIsTold)
     EXPECT_EQ(rows(), records);
 }
 
+TEST_F(Filters, BytesInANumberColumnAreNoNumber)
+{
+    database.run(
+        u"CREATE TABLE 字节 (ID INTEGER PRIMARY KEY, 数 NUMERIC); INSERT INTO 字节 VALUES (1, x'31')"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 字节"_s, {}));
+    ASSERT_EQ(texts(u"数"_s), QStringList(u"<1 字节>"_s));
+    choose(14, 1, 2);
+    EXPECT_EQ(messages.texts(), QStringList(u"对不起，过滤操作不支持选中内容的数据类型！"_s));
+    EXPECT_EQ(rows(), 1);
+}
+
 TEST_F(Filters, TheCellFilterOfTheListUsesItsField)
 {
     ASSERT_TRUE(load());

@@ -15,9 +15,11 @@ public:
 
     bool isPluggedIn = true;
     int reads = 0;
+    KOVAVSFDataGridLib::EngineMode mode = {};
     QHash<QString, Fields> fieldsByStatement;
 
     bool Open(const QString &connectionString) override { return isPluggedIn && !connectionString.isEmpty(); }
+    KOVAVSFDataGridLib::EngineMode engineOf(const QString &) override { return mode; }
     std::optional<Fields> Read(const QString &connectionString, const QString &statement) override
     {
         ++reads;

@@ -38,6 +38,9 @@ CellCondition conditionOfCell(Session &session, int row, int col)
         const bool isOneOfSeveral = headings.count(heading) > 1;
         return {{}, (isOneOfSeveral ? QueryTexts::EqualNames : QueryTexts::UnknownTable).arg(heading)};
     }
+    // SQLite keeps bytes in a column of any type.
+    if (recordset.CellValue(record, col - 1).typeId() == QMetaType::QByteArray)
+        return {{}, QueryTexts::TypeNotFiltered};
     return buildCellFilter(name, field.Type(), text, session.result().engine(),
                            field.BaseColumnName().isEmpty());
 }

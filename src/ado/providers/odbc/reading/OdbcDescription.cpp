@@ -4,6 +4,8 @@
 
 #include <array>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace ADODB {
 
 namespace {
@@ -46,10 +48,14 @@ OdbcTypes::Declared declaredType(const OdbcHandle &statement, int column)
 {
     const Answer answer(statement, column);
     const bool isMoment = answer.sqlType == SQL_TYPE_TIMESTAMP || answer.sqlType == SQL_TIMESTAMP;
-    const QString name = isMoment ? statement.columnText(column, SQL_DESC_TYPE_NAME) : QString();
-    return {answer.sqlType, static_cast<qint64>(answer.size), answer.scale,
+    const bool isFloat = answer.sqlType == SQL_FLOAT || answer.sqlType == SQL_DOUBLE;
+    const QString name = isMoment || isFloat ? statement.columnText(column, SQL_DESC_TYPE_NAME) : QString();
+    return {answer.sqlType,
+            static_cast<qint64>(answer.size),
+            answer.scale,
             statement.columnNumber(column, SQL_DESC_UNSIGNED) == SQL_TRUE,
-            OdbcTypes::isZonedType(answer.sqlType, name)};
+            OdbcTypes::isZonedType(answer.sqlType, name),
+            isFloat && name.compare("money"_L1, Qt::CaseInsensitive) == 0};
 }
 
 std::vector<FieldInfo> describeColumns(const OdbcHandle &statement)

@@ -59,6 +59,8 @@ constexpr Rule rules[] = {
     {sqlServerOffset, adDBTimeStamp, adDBTimeStamp, 16, 23},
 };
 
+constexpr Rule money{SQL_FLOAT, adCurrency, adCurrency, 8, 19};
+
 // Intervals and whatever else a driver has can be read as text.
 constexpr Rule asText{0, adVarChar, adVarChar, 0, 0};
 
@@ -84,7 +86,7 @@ bool isZonedType(int sqlType, const QString &name)
 
 void apply(FieldInfo &field, const Declared &declared)
 {
-    const Rule &rule = ruleOf(declared.sqlType);
+    const Rule &rule = declared.isMoney ? money : ruleOf(declared.sqlType);
     // A driver calls texts unsigned as well, which means nothing there.
     field.type = declared.isUnsigned ? rule.unsignedType : rule.type;
     const auto size =
@@ -116,6 +118,7 @@ Form formOf(DataTypeEnum type, bool loose)
         return Form::Whole;
     case adSingle:
     case adDouble:
+    case adCurrency:
         return loose ? Form::Approximate : Form::Real;
     case adBoolean:
         return loose ? Form::Whole : Form::Boolean;

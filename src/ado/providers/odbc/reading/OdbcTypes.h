@@ -13,6 +13,7 @@ struct Declared
     int scale = 0;
     bool isUnsigned = false;
     bool isZoned = false; // moments with a time zone
+    bool isMoney = false; // the driver passes off money as a float
 };
 
 // Whether a column of this type, as the driver calls it, keeps the time zone of a moment.

@@ -162,7 +162,8 @@ std::shared_ptr<const OdbcTableFields> allFields(const std::shared_ptr<OdbcConne
 
 bool isComparable(const FieldInfo &field)
 {
-    return field.type != adSingle && field.type != adDouble && (field.attributes & adFldLong) == 0;
+    return field.type != adSingle && field.type != adDouble && field.type != adCurrency &&
+           (field.attributes & adFldLong) == 0;
 }
 
 } // namespace
