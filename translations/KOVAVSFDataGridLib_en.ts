@@ -2316,6 +2316,14 @@
         <source>此内容超过 %1 个字符，不能在这里修改，请按 F3 查看。</source>
         <translation>This text has more than %1 characters. It can&apos;t be edited here; press F3 to view it.</translation>
     </message>
+    <message>
+        <source>保存(&amp;S)</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>保存这条记录（Ctrl+S）</source>
+        <translation>Save this record (Ctrl+S)</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::LanguageTexts</name>

@@ -14,6 +14,7 @@
 #include "language/GroupedNumber.h"
 #include "language/Language.h"
 #include "session/Session.h"
+#include "session/SessionWindow.h"
 #include "session/editing/EditedRecord.h"
 #include "session/records/ForeignValues.h"
 
@@ -69,11 +70,13 @@ CellEditor::CellEditor(Session &session, GridParts &parts)
     m_parts.txtEdit->setMaxLength(std::numeric_limits<int>::max());
     m_parts.txtEdit->setValueReader([this] { return knownValues(); });
     m_parts.txtEdit->installEventFilter(this);
+    connect(m_parts.txtEdit, &QLineEdit::textChanged, this, &CellEditor::noteTyped);
     m_lines.setObjectName(u"txtLines"_s);
     Language::keepTranslated(m_lines, [this] { m_lines.setAccessibleName(GridTexts::FieldValueHeading); });
     m_lines.setTabChangesFocus(true);
     m_lines.hide();
     m_lines.installEventFilter(this);
+    connect(&m_lines, &QPlainTextEdit::textChanged, this, &CellEditor::noteTyped);
 }
 
 CellEditor::~CellEditor()
@@ -100,6 +103,20 @@ QWidget &CellEditor::widget() const
 bool CellEditor::isOpen() const
 {
     return !widget().isHidden();
+}
+
+bool CellEditor::isChanged() const
+{
+    return isOpen() && !m_isReadOnly && typedText() != m_before;
+}
+
+// The user sees at once that there is something to be saved, or no longer.
+void CellEditor::noteTyped()
+{
+    if (isChanged() == m_isShownChanged)
+        return;
+    m_isShownChanged = !m_isShownChanged;
+    m_session.window().refreshStatus();
 }
 
 bool CellEditor::hasFocus() const
@@ -139,6 +156,7 @@ bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
     observe(m_session.result().recordset());
     edit.show();
     edit.setFocus();
+    noteTyped();
     if (m_isReadOnly)
         QToolTip::showText(edit.mapToGlobal(QPoint(0, edit.height())), GridTexts::ReadOnlyCell, &edit);
     else if (!typed && !m_hasLines)
@@ -325,6 +343,7 @@ void CellEditor::close()
     widget().hide();
     if (hadFocus)
         m_parts.MSFlexGrid1->setFocus();
+    noteTyped();
 }
 
 bool CellEditor::eventFilter(QObject *watched, QEvent *event)

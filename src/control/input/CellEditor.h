@@ -41,6 +41,8 @@ public:
     // Whether the field in that column can be written.
     bool canWrite(int gridCol) const;
     bool isOpen() const;
+    // Whether something is typed that the field doesn't have yet.
+    bool isChanged() const;
     bool hasFocus() const;
     void setFocus();
     // The widget that takes the keys while it is open.
@@ -72,6 +74,7 @@ private:
     // Goes on in several lines.
     void breakLine();
     void place();
+    void noteTyped();
     QString typedText() const;
     ListedValues knownValues() const;
     ListedValues valuesOfColumn(const QString &search) const;
@@ -87,6 +90,7 @@ private:
     bool m_hasLines = false;                     // whether m_lines is the one in use
     bool m_isReadOnly = false;
     bool m_isText = false;
+    bool m_isShownChanged = false; // as the window tells the user
     QString m_before; // the text that it opened with
     int m_field = 0;  // 0-based
     int m_row = 0;    // of the list
