@@ -4,6 +4,7 @@
 #include "ado/Texts.h"
 #include "ado/ValueText.h"
 #include "ado/providers/Provider.h"
+#include "ado/rows/MissingValue.h"
 #include "ado/rows/RowComparison.h"
 #include "ado/rows/Snapshot.h"
 #include "ado/values/DateText.h"
@@ -113,12 +114,33 @@ std::vector<Change> RecordEditor::changes() const
     return changes;
 }
 
+Error RecordEditor::named(const Error &error, const Snapshot &snapshot) const
+{
+    if (error.SQLState() != nullRefused)
+        return error;
+    std::vector<FieldInfo> withoutValue;
+    for (int column = 0; column < static_cast<int>(snapshot.fields().size()); ++column) {
+        const QVariant *const value = pending(column);
+        if (writer().isWritable(column) && (value ? !value->isValid() : m_mode == adEditAdd))
+            withoutValue.push_back(snapshot.fields()[static_cast<std::size_t>(column)]);
+    }
+    const QString field = missingField(error.Description(), withoutValue);
+    if (field.isEmpty())
+        return error;
+    return {dbErrIntegrity, Texts::valueNeeded().arg(field) + u'\n' + error.Description(), error.Source(),
+            error.SQLState(), error.NativeError()};
+}
+
 void RecordEditor::saveNew(Snapshot &snapshot)
 {
-    if (!findSaved())
-        insert(snapshot.columns());
-    else if (m_sent->values != m_values)
-        changeSaved();
+    try {
+        if (!findSaved())
+            insert(snapshot.columns());
+        else if (m_sent->values != m_values)
+            changeSaved();
+    } catch (const Error &error) {
+        throw named(error, snapshot);
+    }
     showSaved([&] { snapshot.append(m_sent->row); });
     cancel();
 }
@@ -173,7 +195,7 @@ void RecordEditor::saveChanges(Snapshot &snapshot, qint64 record)
         showSaved([&] { snapshot.replace(record, stored); });
     } catch (const Error &error) {
         m_isInDoubt = m_isInDoubt || error.is(dbErrInDoubt);
-        throw;
+        throw named(error, snapshot);
     }
     cancel();
 }

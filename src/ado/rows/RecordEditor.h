@@ -11,6 +11,7 @@
 
 namespace ADODB {
 
+class Error;
 class RowWriter;
 class Snapshot;
 struct Change;
@@ -53,6 +54,8 @@ private:
     std::vector<Change> changes() const;
     RowStore update(const Snapshot &snapshot, qint64 record) const;
     bool holdsChanges(const Snapshot &row) const;
+    // The error, with the name of the field where the database refused one without a value.
+    Error named(const Error &error, const Snapshot &snapshot) const;
     bool findSaved();
     void insert(int columns);
     void changeSaved();
