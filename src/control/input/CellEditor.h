@@ -79,6 +79,8 @@ private:
     ListedValues knownValues() const;
     ListedValues valuesOfColumn(const QString &search) const;
     std::optional<QString> commit(Written what);
+    // Writes Null in place of what was typed; says so where the field takes none.
+    void clear();
     // The same; throws ADODB::Error where the text doesn't fit.
     void writeAndClose(Written what);
     void write(Written what);
@@ -91,9 +93,9 @@ private:
     bool m_isReadOnly = false;
     bool m_isText = false;
     bool m_isShownChanged = false; // as the window tells the user
-    QString m_before; // the text that it opened with
-    int m_field = 0;  // 0-based
-    int m_row = 0;    // of the list
+    QString m_before;              // the text that it opened with
+    int m_field = 0;               // 0-based
+    int m_row = 0;                 // of the list
     bool m_isCommitting = false;
 };
 

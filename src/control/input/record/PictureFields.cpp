@@ -3,6 +3,8 @@
 #include "ado/Error.h"
 #include "ado/Notifications.h"
 #include "ado/Recordset.h"
+#include "ado/Texts.h"
+#include "control/input/record/FieldRules.h"
 #include "control/parts/GridTexts.h"
 #include "forms/Messages.h"
 #include "forms/value/PicturePane.h"
@@ -61,7 +63,10 @@ void PictureFields::write(int field, const QVariant &value)
     const auto session = m_session.shared_from_this(); // the host, notified, may destroy the control
     try {
         const ADODB::Notifications::Hold hold(session->notifications());
-        session->result().recordset()->Fields().Item(field).PutValue(value);
+        ADODB::Field &written = session->result().recordset()->Fields().Item(field);
+        if (!value.isValid() && isRequired(written))
+            throw ADODB::Error(ADODB::adErrDataConversion, ADODB::Texts::valueNeeded().arg(written.Name()));
+        written.PutValue(value);
     } catch (const ADODB::Error &error) {
         return session->questions().show(GridTexts::ValueRefusedPrefix() + error.Description());
     }
