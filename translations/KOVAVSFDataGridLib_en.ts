@@ -2010,22 +2010,6 @@
         <translation>Show &amp;Hidden Files</translation>
     </message>
     <message>
-        <source>名称</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>大小</source>
-        <translation>Size</translation>
-    </message>
-    <message>
-        <source>类型</source>
-        <translation>Type</translation>
-    </message>
-    <message>
-        <source>修改日期</source>
-        <translation>Date modified</translation>
-    </message>
-    <message>
         <source>找不到文件“%1”。</source>
         <translation>The file &quot;%1&quot; was not found.</translation>
     </message>

@@ -6,6 +6,7 @@
 #include "ado/Texts.h"
 #include "control/input/record/FieldRules.h"
 #include "control/parts/GridTexts.h"
+#include "forms/FileDialog.h"
 #include "forms/Messages.h"
 #include "forms/value/PicturePane.h"
 #include "session/Questions.h"
@@ -14,7 +15,6 @@
 #include "session/SessionWindow.h"
 
 #include <QtCore/QFile>
-#include <QtWidgets/QFileDialog>
 
 namespace KOVAVSFDataGridLib {
 
@@ -30,9 +30,9 @@ void PictureFields::replace(int field)
 {
     const qint64 record = m_session.result().recordset()->AbsolutePosition();
     const auto watch = std::make_shared<ResultWatch>(m_session);
-    auto *const chooser = new QFileDialog(&m_window, GridTexts::ChoosePicture, {}, GridTexts::PictureFiles);
+    auto *const chooser = new FileDialog(&m_window, GridTexts::ChoosePicture, {}, GridTexts::PictureFiles);
     chooser->setAttribute(Qt::WA_DeleteOnClose);
-    chooser->setFileMode(QFileDialog::ExistingFile);
+    chooser->setFileMode(FileDialog::ExistingFile);
     connect(chooser, &QFileDialog::fileSelected, this, [this, field, record, watch](const QString &file) {
         // Another record is not the one that was meant.
         if (watch->isUntouched() && m_session.result().recordset()->AbsolutePosition() == record)
