@@ -475,12 +475,20 @@
         <source>字段“%1”的内容中有空字符（U+0000），此数据库不能保存，请去掉它。</source>
         <translation>The text for the field &quot;%1&quot; contains a null character (U+0000), which this database cannot store. Remove it.</translation>
     </message>
+    <message>
+        <source>字段“%1”不能为空。</source>
+        <translation>The field &quot;%1&quot; cannot be empty.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::CellTexts</name>
     <message>
         <source>%1，%2</source>
         <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>空值</source>
+        <translation>no value</translation>
     </message>
 </context>
 <context>
@@ -1016,11 +1024,11 @@
     </message>
     <message>
         <source>是</source>
-        <translation>yes</translation>
+        <translation>Yes</translation>
     </message>
     <message>
         <source>否</source>
-        <translation>no</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>今天</source>
@@ -1148,7 +1156,7 @@
     </message>
     <message>
         <source>“是”或“否”</source>
-        <translation>&quot;yes&quot; or &quot;no&quot;</translation>
+        <translation>&quot;Yes&quot; or &quot;No&quot;</translation>
     </message>
     <message>
         <source>多个值用逗号分隔</source>
@@ -1192,7 +1200,7 @@
     </message>
     <message>
         <source>“%1”不是“是”或“否”。</source>
-        <translation>&quot;%1&quot; is neither &quot;yes&quot; nor &quot;no&quot;.</translation>
+        <translation>&quot;%1&quot; is neither &quot;Yes&quot; nor &quot;No&quot;.</translation>
     </message>
     <message>
         <source>结束值小于开始值。</source>
@@ -1590,6 +1598,10 @@
         <source>%1（组 %2）</source>
         <translation>%1 (group %2)</translation>
     </message>
+    <message>
+        <source>筛选文本是空的。</source>
+        <translation>The text with the filters is empty.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::FormTexts</name>
@@ -1957,6 +1969,70 @@
         <source>方框 ☑ ☐(&amp;B)</source>
         <translation>&amp;Box ☑ ☐</translation>
     </message>
+    <message>
+        <source>文件名(&amp;N):</source>
+        <translation>File &amp;name:</translation>
+    </message>
+    <message>
+        <source>打开(&amp;O)</source>
+        <translation>&amp;Open</translation>
+    </message>
+    <message>
+        <source>后退</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>前进</source>
+        <translation>Forward</translation>
+    </message>
+    <message>
+        <source>上一级文件夹</source>
+        <translation>Parent folder</translation>
+    </message>
+    <message>
+        <source>新建文件夹</source>
+        <translation>New folder</translation>
+    </message>
+    <message>
+        <source>新建文件夹(&amp;F)</source>
+        <translation>New &amp;Folder</translation>
+    </message>
+    <message>
+        <source>列表</source>
+        <translation>List</translation>
+    </message>
+    <message>
+        <source>详细信息</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>重命名(&amp;R)</source>
+        <translation>&amp;Rename</translation>
+    </message>
+    <message>
+        <source>显示隐藏文件(&amp;H)</source>
+        <translation>Show &amp;Hidden Files</translation>
+    </message>
+    <message>
+        <source>找不到文件“%1”。</source>
+        <translation>The file &quot;%1&quot; was not found.</translation>
+    </message>
+    <message>
+        <source>文件列表</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>常用位置</source>
+        <translation>Places</translation>
+    </message>
+    <message>
+        <source>文件夹:</source>
+        <translation>Folder:</translation>
+    </message>
+    <message>
+        <source>文件类型:</source>
+        <translation>File type:</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::GridTexts</name>
@@ -2320,12 +2396,68 @@
         <source>此内容超过 %1 个字符，不能在这里修改，请按 F3 查看。</source>
         <translation>This text has more than %1 characters. It can&apos;t be edited here; press F3 to view it.</translation>
     </message>
+    <message>
+        <source>保存(&amp;S)</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>保存这条记录（Ctrl+S）</source>
+        <translation>Save this record (Ctrl+S)</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::LanguageTexts</name>
     <message>
         <source>zh-CN</source>
         <translation>en</translation>
+    </message>
+    <message>
+        <source>缺少“}”</source>
+        <translation>&quot;}&quot; is missing</translation>
+    </message>
+    <message>
+        <source>缺少“]”</source>
+        <translation>&quot;]&quot; is missing</translation>
+    </message>
+    <message>
+        <source>缺少冒号</source>
+        <translation>a colon is missing</translation>
+    </message>
+    <message>
+        <source>缺少逗号</source>
+        <translation>a comma is missing</translation>
+    </message>
+    <message>
+        <source>缺少右引号</source>
+        <translation>a closing quotation mark is missing</translation>
+    </message>
+    <message>
+        <source>缺少带引号的名称</source>
+        <translation>a name in quotation marks is missing</translation>
+    </message>
+    <message>
+        <source>字符不正确</source>
+        <translation>not a correct character</translation>
+    </message>
+    <message>
+        <source>层次太多</source>
+        <translation>too many levels</translation>
+    </message>
+    <message>
+        <source>太长</source>
+        <translation>too long</translation>
+    </message>
+    <message>
+        <source>结尾之后还有其他内容</source>
+        <translation>there is more after the end</translation>
+    </message>
+    <message>
+        <source>这里的值不正确</source>
+        <translation>the value here is not correct</translation>
+    </message>
+    <message>
+        <source>内容不完整</source>
+        <translation>the text is incomplete</translation>
     </message>
 </context>
 <context>
@@ -2357,6 +2489,10 @@
     <message>
         <source>布局文本隐藏了所有的列。</source>
         <translation>The layout text hides all columns.</translation>
+    </message>
+    <message>
+        <source>布局文本是空的。</source>
+        <translation>The layout text is empty.</translation>
     </message>
 </context>
 <context>

@@ -127,6 +127,7 @@ inline constexpr Text readOnlyCompound = tr("查询结果由多个查询合并�
 inline constexpr Text readOnlyField = tr("字段“%1”是计算得出的，不能修改。");
 inline constexpr Text badValue = tr("值“%1”不适合字段“%2”的数据类型。");
 inline constexpr Text nulInText = tr("字段“%1”的内容中有空字符（U+0000），此数据库不能保存，请去掉它。");
+inline constexpr Text valueNeeded = tr("字段“%1”不能为空。");
 inline constexpr Text binaryValue = tr("二进制数据");
 inline constexpr Text emptyRecordAgain = tr("新记录还没有填写任何内容，再次插入空行的操作已取消。");
 inline constexpr Text newRowWithoutKey = tr("新记录必须填写主键字段 %1，没有保存任何更改。");

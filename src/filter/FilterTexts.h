@@ -192,6 +192,7 @@ inline constexpr Text DeleteFilterTitle = tr("删除筛选");
 inline constexpr Text AskReplaceFilter = tr("已有名为“%1”的筛选，替换它吗？");
 inline constexpr Text AskDeleteFilter = tr("确实要删除筛选“%1”吗？");
 inline constexpr Text TooManyFilters = tr("该表已保存的筛选太多，请先删除一些。");
+inline constexpr Text NoFiltersText = tr("筛选文本是空的。");
 inline constexpr Text FiltersTooLong = tr("筛选文本太长。");
 inline constexpr Text FiltersNotJson = tr("筛选文本不是有效的 JSON（第 %1 个字符：%2）。");
 inline constexpr Text NotFilters = tr("筛选文本的格式不对：%1 缺少或无效。");

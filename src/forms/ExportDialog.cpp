@@ -1,6 +1,7 @@
 #include "forms/ExportDialog.h"
 
 #include "forms/Contrast.h"
+#include "forms/FileDialog.h"
 #include "forms/FormTexts.h"
 #include "forms/Messages.h"
 #include "forms/widgets/TextWidth.h"
@@ -13,7 +14,6 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialogButtonBox>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QHBoxLayout>
@@ -179,7 +179,7 @@ void ExportDialog::browse()
     QString filter = filters.at(m_format->currentIndex());
     const QPointer<ExportDialog> alive(this);
     const QString chosen =
-        QFileDialog::getSaveFileName(this, FormTexts::ExportTitle, file(), filters.join(";;"_L1), &filter);
+        FileDialog::askToSave(this, FormTexts::ExportTitle, file(), filters.join(";;"_L1), &filter);
     if (!alive || chosen.isEmpty())
         return;
     const std::optional<ExportFormat> byEnding = formatOfFile(chosen);

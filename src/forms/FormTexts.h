@@ -16,6 +16,25 @@ inline constexpr Text No = tr("否(&N)");
 inline constexpr Text Save = tr("保存(&S)");
 inline constexpr Text Discard = tr("放弃(&D)");
 
+// FileDialog
+inline constexpr Text LookInFolder = tr("文件夹:");
+inline constexpr Text NameOfFile = tr("文件名(&N):");
+inline constexpr Text TypeOfFile = tr("文件类型:");
+inline constexpr Text OpenFile = tr("打开(&O)");
+inline constexpr Text BackFolder = tr("后退");
+inline constexpr Text ForwardFolder = tr("前进");
+inline constexpr Text ParentFolder = tr("上一级文件夹");
+inline constexpr Text NewFolder = tr("新建文件夹");
+inline constexpr Text NewFolderEntry = tr("新建文件夹(&F)");
+inline constexpr Text ListOfFiles = tr("列表");
+inline constexpr Text DetailsOfFiles = tr("详细信息");
+inline constexpr Text RenameFile = tr("重命名(&R)");
+inline constexpr Text DeleteFile = tr("删除(&D)");
+inline constexpr Text HiddenFiles = tr("显示隐藏文件(&H)");
+inline constexpr Text ListedFiles = tr("文件列表");
+inline constexpr Text ListedPlaces = tr("常用位置");
+inline constexpr Text FileMissing = tr("找不到文件“%1”。");
+
 // Dialog_SQLST
 inline constexpr Text SqlDialogTitle = tr("文本");
 inline constexpr Text AllowEditing = tr("允许编辑(&E)");

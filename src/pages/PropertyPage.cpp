@@ -25,6 +25,21 @@ bool isReadOnly(const QObject &object, const QByteArray &name)
     return index >= 0 && !object.metaObject()->property(index).isWritable();
 }
 
+// Lines of text that are never cut off. A layout asks for a minimum without knowing how many lines there will
+// be, and would squeeze the other parts of a small window for them.
+class Lines final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override
+    {
+        QLabel::resizeEvent(event);
+        setMinimumHeight(heightForWidth(width()));
+    }
+};
+
 } // namespace
 
 PropertyPage::PropertyPage(const QString &property, const QString &textBox, const QString &label,
@@ -38,7 +53,7 @@ PropertyPage::PropertyPage(const QString &property, const QString &textBox, cons
     setFocusProxy(m_text);
     auto *above = new QLabel(label, this);
     above->setBuddy(m_text);
-    auto *below = new QLabel(hint, this);
+    auto *below = new Lines(hint, this);
     below->setForegroundRole(QPalette::PlaceholderText);
     below->setWordWrap(true);
     m_rows->addWidget(above);

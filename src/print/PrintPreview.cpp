@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 #include "forms/Contrast.h"
+#include "forms/FileDialog.h"
 #include "forms/Messages.h"
 #include "language/GroupedNumber.h"
 #include "print/PdfWriter.h"
@@ -16,7 +17,6 @@
 #include <QtWidgets/QAbstractScrollArea>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -223,8 +223,8 @@ void PrintPreview::savePdf()
 {
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     const QPointer<PrintPreview> alive(this);
-    QString file = QFileDialog::getSaveFileName(
-        this, PrintTexts::Title, folder.filePath(m_choices.file + u".pdf"_s), PrintTexts::PdfFiles);
+    QString file = FileDialog::askToSave(this, PrintTexts::Title, folder.filePath(m_choices.file + u".pdf"_s),
+                                         PrintTexts::PdfFiles);
     if (!alive || file.isEmpty())
         return;
     if (!file.endsWith(u".pdf"_s, Qt::CaseInsensitive))

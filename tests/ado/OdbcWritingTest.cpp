@@ -188,6 +188,33 @@ TEST_P(WritingOnOdbc, ChangesNothingWhereAConstraintForbidsIt)
     EXPECT_EQ(ask(u"SELECT name FROM kova_a WHERE id = 1"_s), u"after"_s);
 }
 
+TEST_P(WritingOnOdbc, NamesTheFieldThatTakesNoNull)
+{
+    execute(u"CREATE TABLE kova_b(id %1, 名称 VARCHAR(40) NOT NULL, 城市 VARCHAR(40))"_s.arg(
+        QLatin1StringView(GetParam().integerKey)));
+    execute(u"INSERT INTO kova_b(id, 名称, 城市) VALUES (1, '甲', '名称')"_s);
+    // SQLite's driver doesn't tell which column has another name.
+    const QString field = is("SQLite") ? u"名称"_s : u"品名"_s;
+    const auto recordset = open(u"SELECT id, 名称 AS %1, 城市 FROM kova_b"_s.arg(field));
+    recordset->Fields().Item(field).PutValue({});
+    const Error changed = errorOf([&] { recordset->Update(); });
+    recordset->CancelUpdate();
+    recordset->AddNew();
+    recordset->Fields().Item(u"城市"_s).PutValue(u"北京"_s);
+    const Error added = errorOf([&] { recordset->Update(); });
+    recordset->CancelUpdate();
+    for (const Error &error : {changed, added}) {
+        EXPECT_TRUE(error.is(dbErrIntegrity)) << error.what();
+        EXPECT_EQ(error.SQLState(), u"23502"_s) << error.what();
+        const QStringList lines = error.Description().split(u'\n');
+        ASSERT_GE(lines.size(), 2) << error.what();
+        EXPECT_EQ(lines.at(0), u"字段“%1”不能为空。"_s.arg(field));
+        EXPECT_TRUE(lines.at(1).startsWith(u"操作违反了数据库的约束："_s) && lines.at(1).contains(u"名称"_s))
+            << "the engine's own words: " << error.what();
+    }
+    EXPECT_EQ(ask(u"SELECT count(*) FROM kova_b"_s), u"1"_s);
+}
+
 TEST_P(WritingOnOdbc, RefusesToPickOneOfTwoEqualRows)
 {
     execute(u"CREATE TABLE kova_b(a INTEGER, b VARCHAR(10))"_s);

@@ -54,6 +54,19 @@ void expectNoChinese(const QStringList &texts, const std::string &where)
         EXPECT_FALSE(text.contains(chinese)) << where << ": " << qPrintable(text);
 }
 
+// Has words for the host's own texts, and for all that Qt writes itself.
+class HostTranslator : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        const QLatin1StringView name(context);
+        return name == "Host"_L1 || name.startsWith(u'Q') ? u"host: "_s + QLatin1StringView(source)
+                                                          : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
 struct Language : GridFixture
 {
     Language()
@@ -156,6 +169,39 @@ TEST_F(Language, CanComeFromATranslatorOfTheHost)
     QCoreApplication::processEvents();
     EXPECT_EQ(grid.Language(), u"zh-CN"_s);
     EXPECT_EQ(button(u"Sort"_s)->text(), u"排序"_s);
+}
+
+TEST_F(Language, AHostsOwnTranslatorStaysBesideIt)
+{
+    HostTranslator host;
+    QCoreApplication::installTranslator(&host);
+    QCoreApplication::processEvents();
+    const auto hostsText = [] { return QCoreApplication::translate("Host", "Orders"); };
+    MessageAnswers messages;
+    const auto answersOfABox = [&] {
+        messages.clear();
+        grid.RestoreFilters(u"?"_s);
+        return messages.shown().empty() ? QStringList() : messages.shown().front().captions;
+    };
+    EXPECT_EQ(grid.Language(), u"zh-CN"_s) << "it has no words for the control";
+    EXPECT_EQ(answersOfABox(), QStringList(u"确定"_s));
+    for (int round = 0; round < 2; ++round) {
+        speak(u"en"_s);
+        EXPECT_EQ(grid.Language(), u"en"_s);
+        EXPECT_EQ(button(u"Sort"_s)->text(), u"Sort"_s);
+        EXPECT_EQ(answersOfABox(), QStringList(u"OK"_s));
+        expectNoChinese(messages.texts(), "the box");
+        EXPECT_EQ(hostsText(), u"host: Orders"_s);
+        speak(u"zh-CN"_s);
+        EXPECT_EQ(button(u"Sort"_s)->text(), u"排序"_s);
+        EXPECT_EQ(answersOfABox(), QStringList(u"确定"_s));
+        EXPECT_EQ(hostsText(), u"host: Orders"_s);
+    }
+    speak(u"en"_s);
+    QCoreApplication::removeTranslator(&host);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(button(u"Sort"_s)->text(), u"Sort"_s) << "it is the control's own English";
+    EXPECT_EQ(hostsText(), u"Orders"_s);
 }
 
 TEST_F(Language, IsThatOfEveryDialog)

@@ -127,6 +127,30 @@ TEST(FilterValue, AMonthOrAWordForDaysIsWhereItsDaysBeginAndEnd)
     EXPECT_EQ(dayOf(u"2024-01-31 08:00"_s), QDate(2024, 1, 31));
 }
 
+TEST(FilterValue, AFieldTakesTheSameTextsInItsOwnForm)
+{
+    const QDate leapDay(2024, 2, 29);
+    const auto plain = [&](FieldClass fieldClass, const QString &typed) {
+        return plainValue(fieldClass, typed, leapDay).value_or(u"-"_s).toStdString();
+    };
+    EXPECT_EQ(plain(FieldClass::Number, u"－１２．５０"_s), "-12.50");
+    EXPECT_EQ(plain(FieldClass::Number, u"十二"_s), "-");
+    EXPECT_EQ(plain(FieldClass::Boolean, u"是"_s), "True");
+    EXPECT_EQ(plain(FieldClass::Boolean, u"No"_s), "False");
+    for (const QString &typed : {u"2024年3月1日"_s, u"２０２４/３/１"_s, u"20240301"_s, u"2024.3.1"_s}) {
+        EXPECT_EQ(plain(FieldClass::Date, typed), "2024-03-01") << qUtf8Printable(typed);
+        EXPECT_EQ(plain(FieldClass::Moment, typed), "2024-03-01") << qUtf8Printable(typed);
+    }
+    EXPECT_EQ(plain(FieldClass::Date, u"昨天"_s), "2024-02-28");
+    for (const QString &typed : {u"本月"_s, u"2024年3月"_s, u"2024"_s, u"最近 2 天"_s, u"2024年2月30日"_s})
+        EXPECT_EQ(plain(FieldClass::Date, typed), "-") << qUtf8Printable(typed);
+    EXPECT_EQ(plain(FieldClass::Moment, u"2024年3月1日 ８：３０"_s), "2024-03-01 08:30:00");
+    EXPECT_EQ(plain(FieldClass::Moment, u"2024-3-1T8:30:01.123456"_s), "2024-03-01 08:30:01.123456");
+    EXPECT_EQ(plain(FieldClass::Moment, u"2024-3-1 8:30Z"_s), "2024-03-01 08:30:00+00");
+    EXPECT_EQ(plain(FieldClass::Time, u"８：３０"_s), "08:30:00");
+    EXPECT_EQ(plain(FieldClass::Text, u" １２ "_s), " １２ ");
+}
+
 TEST(FilterValue, CountsAreWholeNumbersFromOne)
 {
     EXPECT_EQ(readFilterCount(u" １０ "_s), 10);

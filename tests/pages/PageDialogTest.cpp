@@ -41,12 +41,37 @@ struct PageWindow : testing::Test
     PageDialog dialog;
 };
 
+struct PartPageWindow : PageWindow
+{
+    PartPageWindow() : PageWindow(u"PartDisplayField"_s) {}
+};
+
 struct ReadOnlyPageWindow : PageWindow
 {
     ReadOnlyPageWindow() : PageWindow(u"RecordSource"_s) {}
 };
 
 } // namespace
+
+TEST_F(PartPageWindow, NoButtonIsSqueezedWhereTheFontIsLargeAndTheScreenSmall)
+{
+    QFont large = dialog.font();
+    large.setPointSize(large.pointSize() * 2);
+    dialog.setFont(large);
+    for (const QSize &size : {QSize(800, 600), QSize(1, 1)}) { // as small as it can be, at last
+        dialog.resize(size);
+        for (int i = 0; i < 3; ++i)
+            QCoreApplication::processEvents(); // the lines of the hint, then the window around them
+        for (const char *name : {"Cmd_add", "Cmd_Abs", "OKButton"}) {
+            const auto &button = part<QAbstractButton>(dialog, name);
+            EXPECT_GE(button.height(), button.sizeHint().height()) << name << ' ' << dialog.height();
+            EXPECT_GE(button.width(), button.minimumSizeHint().width()) << name;
+        }
+        EXPECT_LE(part<QAbstractButton>(dialog, "Cmd_add").geometry().bottom(),
+                  part<QAbstractButton>(dialog, "Cmd_Abs").geometry().top());
+    }
+    EXPECT_LE(dialog.height(), 600);
+}
 
 TEST_F(PageWindow, ApplyWritesAndStays)
 {

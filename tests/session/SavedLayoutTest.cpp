@@ -31,12 +31,12 @@ QString withColumn(const QString &column)
 }
 
 const Refused refused[] = {
-    {"Empty", QString(), u"JSON"_s},
+    {"Empty", QString(), u"布局文本是空的"_s},
     {"NoJson", u"layout=1"_s, u"JSON"_s},
     {"CutOff", u"{\"layout\":1,\"columns\":[{\"field\":\"a\""_s, u"JSON"_s},
     {"Garbage", u"{\"layout\":1}}"_s, u"JSON"_s},
     {"Deep", QString(100000, u'['), u"JSON"_s},
-    {"TooLong", QString(SavedLayout::longestText + 1, u' '), u"太长"_s},
+    {"TooLong", QString(SavedLayout::longestText + 1, u'['), u"太长"_s},
     {"Array", u"[]"_s, u"layout"_s},
     {"Null", u"null"_s, u"JSON"_s},
     {"NoVersion", u"{\"columns\":[{\"field\":\"a\"}]}"_s, u"layout"_s},

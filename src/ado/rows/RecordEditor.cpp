@@ -4,6 +4,7 @@
 #include "ado/Texts.h"
 #include "ado/ValueText.h"
 #include "ado/providers/Provider.h"
+#include "ado/rows/MissingValue.h"
 #include "ado/rows/RowComparison.h"
 #include "ado/rows/Snapshot.h"
 #include "ado/values/DateText.h"
@@ -117,18 +118,39 @@ std::vector<Change> RecordEditor::changes() const
     return changes;
 }
 
+Error RecordEditor::named(const Error &error, const Snapshot &snapshot) const
+{
+    if (error.SQLState() != nullRefused)
+        return error;
+    std::vector<FieldInfo> withoutValue;
+    for (int column = 0; column < static_cast<int>(snapshot.fields().size()); ++column) {
+        const QVariant *const value = pending(column);
+        if (writer().isWritable(column) && (value ? !value->isValid() : m_mode == adEditAdd))
+            withoutValue.push_back(snapshot.fields()[static_cast<std::size_t>(column)]);
+    }
+    const QString field = missingField(error.Description(), withoutValue);
+    if (field.isEmpty())
+        return error;
+    return {dbErrIntegrity, Texts::valueNeeded().arg(field) + u'\n' + error.Description(), error.Source(),
+            error.SQLState(), error.NativeError()};
+}
+
 void RecordEditor::saveNew(Snapshot &snapshot)
 {
-    if (!findSavedNew()) {
-        try {
-            insert(snapshot.columns());
-        } catch (const Error &error) {
-            // The attempt before this one may have come to its end only now.
-            if (!error.is(dbErrIntegrity) || !findSavedNew())
-                throw;
+    try {
+        if (!findSavedNew()) {
+            try {
+                insert(snapshot.columns());
+            } catch (const Error &error) {
+                // The attempt before this one may have come to its end only now.
+                if (!error.is(dbErrIntegrity) || !findSavedNew())
+                    throw;
+            }
         }
+        changeSaved();
+    } catch (const Error &error) {
+        throw named(error, snapshot);
     }
-    changeSaved();
     showNew(snapshot);
 }
 
@@ -202,7 +224,11 @@ void RecordEditor::changeSaved()
 
 void RecordEditor::saveChanges(Snapshot &snapshot, qint64 record)
 {
-    update(snapshot, record);
+    try {
+        update(snapshot, record);
+    } catch (const Error &error) {
+        throw named(error, snapshot);
+    }
     showChanges(snapshot, record);
 }
 

@@ -12,6 +12,7 @@
 
 namespace ADODB {
 
+class Error;
 class RowWriter;
 class Snapshot;
 struct Change;
@@ -63,6 +64,8 @@ private:
     void update(const Snapshot &snapshot, qint64 record);
     bool findSaved(const Snapshot &snapshot, qint64 record);
     bool findSavedNew();
+    // The error, with the name of the field where the database refused one without a value.
+    Error named(const Error &error, const Snapshot &snapshot) const;
     void insert(int columns);
     void changeSaved();
     void showNew(Snapshot &snapshot);

@@ -99,12 +99,14 @@ void ControlWindow::showSingleRecord()
 {
     if (m_singleRecord)
         m_singleRecord->show();
+    offerToSave();
 }
 
 void ControlWindow::showAllRecords()
 {
     if (m_singleRecord)
         m_singleRecord->hide();
+    offerToSave();
 }
 
 void ControlWindow::refreshSingleRecord()
@@ -130,11 +132,30 @@ void ControlWindow::cancelEdit()
         m_singleRecord->editor().close();
 }
 
+// Whether something was written or is being typed that is not saved yet.
+bool ControlWindow::isUnsaved() const
+{
+    return m_session->record().hasUnsavedChanges() ||
+           (m_singleRecord && m_singleRecord->editor().isChanged());
+}
+
+void ControlWindow::offerToSave()
+{
+    const bool isOffered = isSingleRecordShown() && isUnsaved() && !m_session->record().isReadOnly();
+    QPushButton &save = *m_parts.cmdSaveRecord;
+    if (save.isHidden() != isOffered)
+        return;
+    if (save.hasFocus())
+        m_control.setFocus(); // the button goes
+    save.setVisible(isOffered);
+    m_parts.layOutFoot();
+}
+
 // Which record is current, in words.
 QString ControlWindow::place() const
 {
     const ADODB::Recordset &recordset = *m_session->result().recordset();
-    const QString unsaved = m_session->record().hasUnsavedChanges() ? GridTexts::Unsaved : QString();
+    const QString unsaved = isUnsaved() ? GridTexts::Unsaved : QString();
     if (recordset.EditMode() == ADODB::adEditAdd)
         return GridTexts::NewRecord.arg(grouped(recordset.RecordCount())) + unsaved;
     return GridTexts::RecordOf.arg(grouped(std::max<qint64>(0, recordset.AbsolutePosition())),
@@ -144,6 +165,7 @@ QString ControlWindow::place() const
 
 void ControlWindow::refreshStatus()
 {
+    offerToSave();
     if (!m_session->result().isOpen()) {
         m_parts.lblStatement->show({}, {});
         m_parts.lblEmpty->showText(GridTexts::NothingLoaded);

@@ -45,6 +45,8 @@ private:
     QWidget &progressWindow() override { return m_control; }
     QRect progressPlace() const override;
     QString place() const;
+    bool isUnsaved() const;
+    void offerToSave();
 
     QWidget &m_control;
     GridParts &m_parts;

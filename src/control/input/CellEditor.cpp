@@ -3,20 +3,26 @@
 #include "ado/Error.h"
 #include "ado/Notifications.h"
 #include "ado/Recordset.h"
+#include "ado/Texts.h"
 #include "ado/ValueText.h"
 #include "ado/values/FieldValue.h"
+#include "control/input/record/FieldRules.h"
 #include "control/input/record/LinesEdit.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
 #include "filter/FilterTexts.h"
 #include "filter/ValueEdit.h"
+#include "filter/conditions/FilterValue.h"
 #include "grid/FlexGrid.h"
 #include "language/GroupedNumber.h"
 #include "language/Language.h"
+#include "session/Questions.h"
 #include "session/Session.h"
+#include "session/SessionWindow.h"
 #include "session/editing/EditedRecord.h"
 #include "session/records/ForeignValues.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QSet>
 #include <QtGui/QKeyEvent>
@@ -42,19 +48,13 @@ bool isLongText(ADODB::DataTypeEnum type)
     return type == ADODB::adLongVarChar || type == ADODB::adLongVarWChar;
 }
 
-bool isWritable(const ADODB::Field &field)
-{
-    return (field.Attributes() & (ADODB::adFldUpdatable | ADODB::adFldUnknownUpdatable)) != 0;
-}
-
-// What the typed text means to the field. Nothing typed means no value, except in a text field.
+// What the typed text means to the field, read as the filter reads it. Nothing typed means no value, except
+// in a text field.
 QVariant valueOf(const ADODB::Field &field, const QString &text)
 {
     if (text.isEmpty() && !ADODB::FieldValue::isText(field.Type()))
         return {};
-    if (field.Type() == ADODB::adBoolean && (FilterTexts::Yes.is(text) || FilterTexts::No.is(text)))
-        return FilterTexts::Yes.is(text);
-    return text;
+    return plainValue(fieldClassOf(field.Type()), text, QDate::currentDate()).value_or(text);
 }
 
 } // namespace
@@ -69,11 +69,13 @@ CellEditor::CellEditor(Session &session, GridParts &parts)
     m_parts.txtEdit->setMaxLength(std::numeric_limits<int>::max());
     m_parts.txtEdit->setValueReader([this] { return knownValues(); });
     m_parts.txtEdit->installEventFilter(this);
+    connect(m_parts.txtEdit, &QLineEdit::textChanged, this, &CellEditor::noteTyped);
     m_lines.setObjectName(u"txtLines"_s);
     Language::keepTranslated(m_lines, [this] { m_lines.setAccessibleName(GridTexts::FieldValueHeading); });
     m_lines.setTabChangesFocus(true);
     m_lines.hide();
     m_lines.installEventFilter(this);
+    connect(&m_lines, &QPlainTextEdit::textChanged, this, &CellEditor::noteTyped);
 }
 
 CellEditor::~CellEditor()
@@ -102,6 +104,20 @@ bool CellEditor::isOpen() const
     return !widget().isHidden();
 }
 
+bool CellEditor::isChanged() const
+{
+    return isOpen() && !m_isReadOnly && typedText() != m_before;
+}
+
+// The user sees at once that there is something to be saved, or no longer.
+void CellEditor::noteTyped()
+{
+    if (isChanged() == m_isShownChanged)
+        return;
+    m_isShownChanged = !m_isShownChanged;
+    m_session.window().refreshStatus();
+}
+
 bool CellEditor::hasFocus() const
 {
     return widget().hasFocus();
@@ -126,7 +142,7 @@ bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
         const ADODB::Field &field = m_session.result().recordset()->Fields().Item(gridCol - 1);
         if (refusesLong(field))
             return false;
-        m_before = ADODB::ValueText(field.Value());
+        m_before = shownText(field);
         m_isReadOnly = !canWrite(gridCol);
         m_field = gridCol - 1;
         m_row = m_parts.MSFlexGrid1->Row();
@@ -139,6 +155,7 @@ bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
     observe(m_session.result().recordset());
     edit.show();
     edit.setFocus();
+    noteTyped();
     if (m_isReadOnly)
         QToolTip::showText(edit.mapToGlobal(QPoint(0, edit.height())), GridTexts::ReadOnlyCell, &edit);
     else if (!typed && !m_hasLines)
@@ -308,11 +325,13 @@ void CellEditor::write(Written what)
 {
     ADODB::Field &field = m_session.result().recordset()->Fields().Item(m_field);
     const QString text = typedText();
-    const bool isUnchanged =
-        what == Written::Null ? !field.Value().isValid() : text == ADODB::ValueText(field.Value());
+    const bool isUnchanged = what == Written::Null ? !field.Value().isValid() : text == shownText(field);
     if (m_isReadOnly || isUnchanged)
         return;
-    field.PutValue(what == Written::Null ? QVariant() : valueOf(field, text));
+    const QVariant value = what == Written::Null ? QVariant() : valueOf(field, text);
+    if (!value.isValid() && isRequired(field))
+        throw ADODB::Error(ADODB::adErrDataConversion, ADODB::Texts::valueNeeded().arg(field.Name()));
+    field.PutValue(value);
     m_parts.MSFlexGrid1->PutTextMatrix(m_row, 1, ADODB::ValueText(field.Value()));
 }
 
@@ -325,6 +344,19 @@ void CellEditor::close()
     widget().hide();
     if (hadFocus)
         m_parts.MSFlexGrid1->setFocus();
+    noteTyped();
+}
+
+void CellEditor::clear()
+{
+    const auto session = m_session.shared_from_this(); // the host, notified, may destroy the control
+    const QPointer<CellEditor> alive(this);
+    const std::optional<QString> refused = commit(Written::Null);
+    if (!refused)
+        return;
+    session->questions().show(*refused);
+    if (alive && isOpen())
+        setFocus();
 }
 
 bool CellEditor::eventFilter(QObject *watched, QEvent *event)
@@ -341,7 +373,7 @@ bool CellEditor::eventFilter(QObject *watched, QEvent *event)
         return false;
     }
     if (isNull) {
-        commit(Written::Null);
+        clear();
         return true;
     }
     if (isSave) {

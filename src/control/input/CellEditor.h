@@ -41,6 +41,8 @@ public:
     // Whether the field in that column can be written.
     bool canWrite(int gridCol) const;
     bool isOpen() const;
+    // Whether something is typed that the field doesn't have yet.
+    bool isChanged() const;
     bool hasFocus() const;
     void setFocus();
     // The widget that takes the keys while it is open.
@@ -72,10 +74,13 @@ private:
     // Goes on in several lines.
     void breakLine();
     void place();
+    void noteTyped();
     QString typedText() const;
     ListedValues knownValues() const;
     ListedValues valuesOfColumn(const QString &search) const;
     std::optional<QString> commit(Written what);
+    // Writes Null in place of what was typed; says so where the field takes none.
+    void clear();
     // The same; throws ADODB::Error where the text doesn't fit.
     void writeAndClose(Written what);
     void write(Written what);
@@ -87,9 +92,10 @@ private:
     bool m_hasLines = false;                     // whether m_lines is the one in use
     bool m_isReadOnly = false;
     bool m_isText = false;
-    QString m_before; // the text that it opened with
-    int m_field = 0;  // 0-based
-    int m_row = 0;    // of the list
+    bool m_isShownChanged = false; // as the window tells the user
+    QString m_before;              // the text that it opened with
+    int m_field = 0;               // 0-based
+    int m_row = 0;                 // of the list
     bool m_isCommitting = false;
 };
 

@@ -44,8 +44,9 @@ CommandInput::CommandInput(QWidget &control, InputEvents &host, Session &session
             [this](int col, const QPoint &position) { m_commands.menuFor(true, col).exec(position); });
     connect(&singleRecord, &SingleRecordView::menuWanted, this, &CommandInput::showMenu);
     connect(&singleRecord, &SingleRecordView::cancelWanted, this, [this] { m_session.record().cancel(); });
-    connect(&singleRecord, &SingleRecordView::saveWanted, this,
-            [this] { m_session.perform([this] { m_session.record().save(); }); });
+    const auto save = [this] { m_session.perform([this] { m_session.record().save(); }); };
+    connect(&singleRecord, &SingleRecordView::saveWanted, this, save);
+    connect(parts.cmdSaveRecord, &QPushButton::clicked, this, save);
     connect(&singleRecord, &SingleRecordView::commandWanted, this,
             [this](const QString &key) { m_commands.run(key); });
     connect(parts.Adodc1, &ADODB::Adodc::MoveComplete, this, &CommandInput::followRecord);

@@ -5,6 +5,8 @@
 #include "ado/ValueText.h"
 #include "control/input/InputEvents.h"
 #include "control/input/MenuKey.h"
+#include "control/input/record/FieldRules.h"
+#include "control/input/record/RecordCells.h"
 #include "control/input/record/RecordDelegate.h"
 #include "control/input/record/RecordKeys.h"
 #include "control/parts/GridParts.h"
@@ -15,13 +17,14 @@
 #include "grid/FlexGrid.h"
 #include "grid/GridSelection.h"
 #include "grid/Twips.h"
-#include "grid/cells/TextCells.h"
+#include "grid/cells/CellTexts.h"
 #include "language/Language.h"
 #include "session/Session.h"
 #include "session/commands/CommandKeys.h"
 #include "session/editing/EditedRecord.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QHeaderView>
@@ -41,11 +44,6 @@ constexpr int valueCol = 1;
 bool isListed(const ADODB::Field &field)
 {
     return field.Type() != ADODB::adBinary && field.Type() != ADODB::adLongVarBinary;
-}
-
-bool isWritable(const ADODB::Field &field)
-{
-    return (field.Attributes() & (ADODB::adFldUpdatable | ADODB::adFldUnknownUpdatable)) != 0;
 }
 
 bool carriesText(const QInputMethodEvent &event)
@@ -132,7 +130,10 @@ void SingleRecordView::FillSingleRecordView()
     listFields();
     MSFlexGrid &list = *m_parts.MSFlexGrid1;
     const int row = list.Row();
-    auto cells = std::make_unique<TextCells>(static_cast<int>(m_fields.size()) + 1, 2);
+    auto cells =
+        std::make_unique<RecordCells>(static_cast<int>(m_fields.size()), [view = QPointer(this)](int line) {
+            return view ? view->spokenValue(line) : QString();
+        });
     cells->setText(0, nameCol, GridTexts::FieldNameHeading);
     cells->setText(0, valueCol, GridTexts::FieldValueHeading);
     int at = 0;
@@ -156,8 +157,8 @@ void SingleRecordView::listFields()
     for (int i = 0; i < fields; ++i) {
         const ADODB::Field &field = m_session.result().recordset()->Fields().Item(i);
         ListedField listed{.field = i, .isBinary = PictureFields::isBinary(field)};
-        listed.isRequired = !m_session.record().isReadOnly() && isWritable(field) &&
-                            (field.Attributes() & ADODB::adFldIsNullable) == 0;
+        listed.format = shownFormat(field);
+        listed.isRequired = !m_session.record().isReadOnly() && isRequired(field);
         hasBinary |= listed.isBinary;
         if (!isListed(field) && !m_heading.hasPictures())
             continue;
@@ -202,6 +203,14 @@ bool SingleRecordView::isNull(int field) const
     } catch (const ADODB::Error &) {
         return false; // there is no current record
     }
+}
+
+QString SingleRecordView::spokenValue(int row) const
+{
+    const ListedField &listed = m_fields[static_cast<std::size_t>(row - 1)];
+    if (isNull(listed.field))
+        return CellTexts::NoValue;
+    return listed.format.applied(m_parts.MSFlexGrid1->TextMatrix(row, valueCol));
 }
 
 int SingleRecordView::currentGridCol() const

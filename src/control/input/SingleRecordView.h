@@ -67,6 +67,7 @@ private:
     void togglePictures();
     QString valueText(int field) const;
     bool isNull(int field) const;
+    QString spokenValue(int row) const;
 
     QWidget &m_control;
     InputEvents &m_host;

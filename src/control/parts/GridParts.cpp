@@ -54,6 +54,7 @@ GridParts::GridParts(QWidget &control)
       cmdPgae(named(new QPushButton(picMainBack), u"cmdPgae"_s)),
       lblFieldCount(named(new ElidedLabel(picMainBack), u"lblFieldCount"_s)),
       lblSummary(new SummaryLine(picMainBack)),
+      cmdSaveRecord(named(new QPushButton(picMainBack), u"cmdSaveRecord"_s)),
       lblStatement(new StatementLine(picMainBack)),
       CheckSelAllRow(named(new QCheckBox(picMainBack), u"CheckSelAllRow"_s)),
       Adodc1(named(new ADODB::Adodc(&control), u"Adodc1"_s))
@@ -68,6 +69,9 @@ GridParts::GridParts(QWidget &control)
     }
     MSFlexGrid1->hide();
     txtEdit->hide();
+    cmdSaveRecord->setAutoDefault(false);
+    cmdSaveRecord->setFocusPolicy(Qt::TabFocus); // the mouse leaves the keyboard where it is
+    cmdSaveRecord->hide();
     txtPage->setAlignment(Qt::AlignRight);
     Language::keepTranslated(control, [this] { writeTexts(); });
     QObject::connect(find, &FindBar::shownOrHidden, &control,
@@ -80,6 +84,9 @@ void GridParts::writeTexts() const
     txtPage->setToolTip(GridTexts::PageBoxHint);
     cmdPgae->setText(GridTexts::GoToPage);
     cmdPgae->setToolTip(GridTexts::GoToPageTip);
+    cmdSaveRecord->setText(GridTexts::SaveRecord);
+    cmdSaveRecord->setToolTip(GridTexts::SaveRecordTip);
+    cmdSaveRecord->setAccessibleName(GridTexts::SaveRecordTip);
     CheckSelAllRow->setText(GridTexts::SelectWholeRows);
     Toolbar1->setAccessibleName(GridTexts::ToolbarName);
     vsfgDataGrid->setAccessibleName(GridTexts::GridName);
@@ -140,7 +147,7 @@ int GridParts::gap() const
 
 // The page box, its button, the label, the selection's summary and the statement from the left, the check box
 // at the right edge. When it gets narrow, the statement gives way, then the label, then box and button, and
-// the check box last.
+// the check box last. What saves a record takes its room from the statement and the label.
 void GridParts::layOutFoot() const
 {
     const QRect strip = foot();
@@ -167,9 +174,11 @@ void GridParts::layOutFoot() const
     place(cmdPgae, isNarrow ? caption + 2 * gap : cmdPgae->sizeHint().width());
     const int checkWidth = std::min(CheckSelAllRow->sizeHint().width(), width - gap - x);
     const int room = std::max(0, width - checkWidth - 2 * gap - x);
-    const int labelWidth = std::min(room, lblFieldCount->sizeHint().width());
+    const int saveWidth = cmdSaveRecord->isHidden() ? 0 : std::min(room, cmdSaveRecord->sizeHint().width());
+    const int saveRoom = saveWidth > 0 ? saveWidth + gap : 0;
+    const int labelWidth = std::clamp(room - saveRoom, 0, lblFieldCount->sizeHint().width());
     place(lblFieldCount, labelWidth);
-    int rest = std::max(0, room - labelWidth - gap);
+    int rest = std::max(0, room - saveRoom - labelWidth - gap);
     if (!lblSummary->isHidden()) {
         const int summaryWidth = std::min(rest, lblSummary->sizeHint().width());
         if (summaryWidth > 0)
@@ -177,8 +186,10 @@ void GridParts::layOutFoot() const
         place(lblSummary, summaryWidth);
         rest = std::max(0, rest - summaryWidth - gap);
     }
-    if (rest > 0)
+    if (rest > 0 || saveWidth > 0)
         divide(x);
+    if (saveWidth > 0)
+        place(cmdSaveRecord, saveWidth);
     place(lblStatement, rest);
     x = width - checkWidth - gap;
     if (room > 0)

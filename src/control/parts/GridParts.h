@@ -53,6 +53,7 @@ public:
     QPushButton *cmdPgae;
     ElidedLabel *lblFieldCount;
     SummaryLine *lblSummary;
+    QPushButton *cmdSaveRecord; // beside lblStatement while it says that a record is not saved
     StatementLine *lblStatement;
     QCheckBox *CheckSelAllRow;
     ADODB::Adodc *Adodc1;

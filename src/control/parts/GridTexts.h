@@ -41,6 +41,8 @@ inline constexpr Text ShowNewValues = tr("查看新值(&V)");
 inline constexpr Text RecordOf = tr("第 %1 条，共 %2 条");
 inline constexpr Text NewRecord = tr("新记录，共 %1 条");
 inline constexpr Text Unsaved = tr("（未保存）");
+inline constexpr Text SaveRecord = tr("保存(&S)");
+inline constexpr Text SaveRecordTip = tr("保存这条记录（Ctrl+S）");
 inline constexpr Text BeforeStatement = tr("　");
 inline constexpr Text CopyStatement = tr("复制语句(&C)");
 

@@ -24,6 +24,10 @@ public:
     {
         return col > 0 && row < usedRows() ? m_records.text(row, col) : QString();
     }
+    bool isNull(int row, int col) const override
+    {
+        return col > 0 && row < usedRows() && m_records.isNull(row, col);
+    }
     bool isNumeric(int col) const override { return m_records.isNumeric(col); }
     bool setText(int, int, const QString &) override { return false; }
 

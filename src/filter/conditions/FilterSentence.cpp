@@ -23,11 +23,11 @@ QString quoted(const QString &text)
     return FilterTexts::QuotedInSentence.arg(text);
 }
 
-QString valueInWords(FieldClass fieldClass, const QString &typed, QDate today)
+QString wordsOfValue(FieldClass fieldClass, const QString &typed, QDate today)
 {
     if (fieldClass == FieldClass::Text)
         return quoted(typed);
-    QString text = typed.trimmed();
+    const QString text = valueInWords(fieldClass, typed.trimmed());
     const auto days = hasDays(fieldClass) ? readDays(text, today) : std::nullopt;
     if (!days || days->first.toString(Qt::ISODate) == text)
         return text;
@@ -42,7 +42,7 @@ QString listInWords(const FilterChoice &choice, QDate today)
 {
     QStringList words;
     for (const QString &item : splitFilterList(choice.value))
-        words.append(valueInWords(choice.field.fieldClass, item, today));
+        words.append(wordsOfValue(choice.field.fieldClass, item, today));
     return words.join(FilterTexts::ListSeparator);
 }
 
@@ -52,7 +52,7 @@ QString choiceInWords(const FilterChoice &choice, QDate today)
     const bool isText = choice.field.fieldClass == FieldClass::Text; // then values are in quotes
     const QString field = FilterTexts::FieldInSentence.arg(choice.field.caption);
     const auto value = [&](const QString &typed) {
-        return valueInWords(choice.field.fieldClass, typed, today);
+        return wordsOfValue(choice.field.fieldClass, typed, today);
     };
     QString words;
     if (takesCount(op)) {

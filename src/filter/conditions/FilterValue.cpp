@@ -19,18 +19,24 @@ QString narrow(const QString &typed)
     return typed.normalized(QString::NormalizationForm_KC).trimmed();
 }
 
-std::optional<FilterValue> readNumber(const QString &typed)
+// Written as typed, so that no digit of a long number is lost.
+std::optional<QString> plainNumber(const QString &typed)
 {
     static const QRegularExpression form(uR"(\A\+?(-?[0-9]+(?:\.[0-9]+)?(?:[eE][-+]?[0-9]+)?)\z)"_s);
     const auto match = form.match(narrow(typed).replace(u'−', u'-'));
-    if (!match.hasMatch())
-        return std::nullopt;
-    // Written as typed, so that no digit of a long number is lost.
-    const double number = match.captured(1).toDouble();
-    return FilterValue{.literal = match.captured(1), .rank = number, .lastRank = number};
+    return match.hasMatch() ? std::optional(match.captured(1)) : std::nullopt;
 }
 
-std::optional<FilterValue> readBoolean(const QString &typed)
+std::optional<FilterValue> readNumber(const QString &typed)
+{
+    const auto number = plainNumber(typed);
+    if (!number)
+        return std::nullopt;
+    const double rank = number->toDouble();
+    return FilterValue{.literal = *number, .rank = rank, .lastRank = rank};
+}
+
+std::optional<bool> plainBoolean(const QString &typed)
 {
     static const QStringList yes{u"true"_s, u"yes"_s, u"1"_s, u"-1"_s, u"真"_s};
     static const QStringList no{u"false"_s, u"no"_s, u"0"_s, u"假"_s};
@@ -38,7 +44,13 @@ std::optional<FilterValue> readBoolean(const QString &typed)
     const bool isTrue = FilterTexts::Yes.is(text) || yes.contains(text);
     if (!isTrue && !FilterTexts::No.is(text) && !no.contains(text))
         return std::nullopt;
-    return FilterValue{.isTrue = isTrue};
+    return isTrue;
+}
+
+std::optional<FilterValue> readBoolean(const QString &typed)
+{
+    const auto isTrue = plainBoolean(typed);
+    return isTrue ? std::optional(FilterValue{.isTrue = *isTrue}) : std::nullopt;
 }
 
 struct TypedTime
@@ -60,6 +72,12 @@ TypedTime readTime(const QString &text)
     return {QTime(match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt(),
                   match.captured(4).leftJustified(3, u'0').toInt()),
             match.captured(5)};
+}
+
+QString plainTime(const TypedTime &typed)
+{
+    const bool hasFraction = typed.time.msec() != 0 || !typed.finer.isEmpty();
+    return typed.time.toString(hasFraction ? u"HH:mm:ss.zzz"_s : u"HH:mm:ss"_s) + typed.finer;
 }
 
 double rankOf(const QDateTime &moment)
@@ -120,6 +138,19 @@ std::optional<FilterValue> readMoment(const Dialect &dialect, const QString &typ
                        .lastRank = rankOf(moment)};
 }
 
+// A day, or a day with a time and perhaps a zone.
+std::optional<QString> plainMoment(const QString &typed, QDate today)
+{
+    const auto days = readDays(typed, today);
+    if (days && days->first.addDays(1) == days->end)
+        return days->first.toString(Qt::ISODate);
+    const auto [day, time, zone] = splitMoment(typed);
+    const TypedTime typedTime = readTime(time);
+    if (days || !day.isValid() || !typedTime.time.isValid())
+        return std::nullopt;
+    return day.toString(Qt::ISODate) + u' ' + plainTime(typedTime) + zone;
+}
+
 std::optional<FilterValue> readDate(const Dialect &dialect, const QString &typed, QDate today)
 {
     auto days = readDays(typed, today);
@@ -168,6 +199,38 @@ std::optional<FilterValue> readFilterValue(const Dialect &dialect, FieldClass fi
         return std::nullopt;
     }
     Q_UNREACHABLE();
+}
+
+std::optional<QString> plainValue(FieldClass fieldClass, const QString &typed, QDate today)
+{
+    switch (fieldClass) {
+    case FieldClass::Text:
+        return typed;
+    case FieldClass::Number:
+        return plainNumber(typed);
+    case FieldClass::Boolean:
+        if (const auto isTrue = plainBoolean(typed))
+            return *isTrue ? u"True"_s : u"False"_s;
+        return std::nullopt;
+    case FieldClass::Date:
+    case FieldClass::Moment:
+        return plainMoment(typed, today);
+    case FieldClass::Time: {
+        const TypedTime time = readTime(narrow(typed));
+        return time.time.isValid() ? std::optional(plainTime(time)) : std::nullopt;
+    }
+    case FieldClass::Other:
+        return std::nullopt;
+    }
+    Q_UNREACHABLE();
+}
+
+QString valueInWords(FieldClass fieldClass, const QString &typed)
+{
+    const auto isTrue = fieldClass == FieldClass::Boolean ? plainBoolean(typed) : std::nullopt;
+    if (!isTrue)
+        return typed;
+    return *isTrue ? FilterTexts::Yes : FilterTexts::No;
 }
 
 std::optional<int> readFilterCount(const QString &typed)

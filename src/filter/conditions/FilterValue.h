@@ -29,6 +29,14 @@ struct FilterValue
 std::optional<FilterValue> readFilterValue(const Dialect &dialect, FieldClass fieldClass,
                                            const QString &typed, QDate today);
 
+// The same text as a field takes it: 12 for full-width digits, 2024-03-01 for 2024年3月1日. Nothing when the
+// text is no value of that class, or means more than one, as a month does. Text is taken as it was typed.
+std::optional<QString> plainValue(FieldClass fieldClass, const QString &typed, QDate today);
+
+// A value in the words that users pick it by, in their language: yes or no for a Boolean. Any other text
+// stays as it is.
+QString valueInWords(FieldClass fieldClass, const QString &typed);
+
 // A number of values, from 1; nothing when the text is none.
 std::optional<int> readFilterCount(const QString &typed);
 

@@ -192,8 +192,8 @@ bool FilterRow::setState(const FilterRowState &state)
         return false;
     }
     m_operator->setCurrentIndex(opIndex);
-    m_value->setText(state.value);
-    m_lastValue->setText(state.lastValue);
+    m_value->setText(valueInWords(field().fieldClass, state.value));
+    m_lastValue->setText(valueInWords(field().fieldClass, state.lastValue));
     m_value->selectAll(); // what is typed next takes its place
     m_lastValue->selectAll();
     m_not->setChecked(state.isNegated);
@@ -212,10 +212,10 @@ void FilterRow::suggest(const QString &field, const QString &value)
         m_operator->setFocus();
     if (value.isEmpty() || valueCount(op()) == 0)
         return;
-    m_value->setText(value);
+    m_suggested = valueInWords(this->field().fieldClass, value);
+    m_value->setText(m_suggested);
     m_value->setFocus();
     m_value->selectAll();
-    m_suggested = value;
 }
 
 FilterCondition FilterRow::checkedCondition()

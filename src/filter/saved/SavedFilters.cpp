@@ -1,6 +1,7 @@
 #include "filter/saved/SavedFilters.h"
 
 #include "filter/FilterTexts.h"
+#include "language/JsonFault.h"
 
 #include <QtCore/QJsonDocument>
 
@@ -93,12 +94,16 @@ QString SavedFilters::toText() const
 
 std::variant<SavedFilters, QString> SavedFilters::fromText(const QString &text)
 {
+    if (text.trimmed().isEmpty())
+        return FilterTexts::NoFiltersText();
     if (text.size() > longestText)
         return FilterTexts::FiltersTooLong();
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8(), &error);
-    if (error.error != QJsonParseError::NoError)
-        return FilterTexts::FiltersNotJson.arg(QString::number(error.offset), error.errorString());
+    if (error.error != QJsonParseError::NoError) {
+        const JsonFault fault = jsonFault(text, error);
+        return FilterTexts::FiltersNotJson.arg(fault.place, fault.reason);
+    }
     const QJsonObject whole = document.object();
     if (whole["filters"_L1].toInt() != version)
         return wrong(u"filters"_s);

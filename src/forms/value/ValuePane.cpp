@@ -1,5 +1,6 @@
 #include "forms/value/ValuePane.h"
 
+#include "forms/FileDialog.h"
 #include "forms/FormTexts.h"
 #include "forms/Messages.h"
 #include "forms/value/HexPane.h"
@@ -15,7 +16,6 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QShortcut>
 #include <QtWidgets/QBoxLayout>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
@@ -248,7 +248,7 @@ void ValuePane::save()
     QString name = m_value.field;
     static constexpr QStringView notInNames = u"\\/:*?\"<>|";
     name.removeIf([](QChar c) { return notInNames.contains(c) || !c.isPrint(); });
-    auto *chooser = new QFileDialog(this, FormTexts::SaveValueTitle, name + ending());
+    auto *chooser = new FileDialog(this, FormTexts::SaveValueTitle, name + ending(), {});
     chooser->setAttribute(Qt::WA_DeleteOnClose);
     chooser->setAcceptMode(QFileDialog::AcceptSave);
     connect(chooser, &QFileDialog::fileSelected, this, [this](const QString &file) {

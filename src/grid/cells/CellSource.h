@@ -28,6 +28,8 @@ public:
     virtual QString beginning(int row, int col, qsizetype /*length*/) const { return text(row, col); }
     // Whether a cell has no value, not even an empty text.
     virtual bool isNull(int /*row*/, int /*col*/) const { return false; }
+    // What a screen reader says of a cell. A cell without a value is not one with an empty text.
+    virtual QString spoken(int row, int col) const;
     // Whether the column holds numbers, which stand to the right.
     virtual bool isNumeric(int col) const = 0;
     // False when the source can't be written.

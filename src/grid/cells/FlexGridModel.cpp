@@ -115,6 +115,8 @@ QVariant FlexGridModel::data(const QModelIndex &index, int role) const
     const int col = index.column() + m_fixedCols;
     if (role == Qt::DisplayRole)
         return m_source->text(index.row() + 1, col);
+    if (role == Qt::AccessibleTextRole)
+        return m_source->spoken(index.row() + 1, col);
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(Qt::AlignVCenter |
                                    (m_source->isNumeric(col) ? Qt::AlignRight : Qt::AlignLeft));

@@ -7,7 +7,7 @@
 namespace KOVAVSFDataGridLib {
 
 // Cells that the grid itself keeps. Only cells with a text take room, so an empty grid of any size is cheap.
-class TextCells final : public CellSource
+class TextCells : public CellSource
 {
 public:
     // At least one row and one column.

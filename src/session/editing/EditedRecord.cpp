@@ -227,6 +227,7 @@ void EditedRecord::setReadOnly(bool on)
 {
     m_isReadOnly = on;
     m_session.window().refreshCommands();
+    m_session.window().refreshStatus();
 }
 
 QString EditedRecord::whyNotWritten() const

@@ -8,6 +8,7 @@ namespace KOVAVSFDataGridLib::LayoutTexts {
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::LayoutTexts"};
 
 inline constexpr Text NothingShown = tr("没有打开的结果，无法恢复布局。");
+inline constexpr Text Empty = tr("布局文本是空的。");
 inline constexpr Text TooLong = tr("布局文本太长。");
 inline constexpr Text NotJson = tr("布局文本不是有效的 JSON（第 %1 个字符：%2）。");
 inline constexpr Text NotALayout = tr("布局文本的格式不对：%1 缺少或无效。");

@@ -1,6 +1,7 @@
 #include "session/layout/SavedLayout.h"
 
 #include "ado/values/DisplayFormat.h"
+#include "language/JsonFault.h"
 #include "session/layout/LayoutTexts.h"
 
 #include <QtCore/QJsonArray>
@@ -78,12 +79,16 @@ QString SavedLayout::toText() const
 
 std::variant<SavedLayout, QString> SavedLayout::fromText(const QString &text)
 {
+    if (text.trimmed().isEmpty())
+        return LayoutTexts::Empty;
     if (text.size() > longestText)
         return LayoutTexts::TooLong;
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8(), &error);
-    if (error.error != QJsonParseError::NoError)
-        return LayoutTexts::NotJson.arg(QString::number(error.offset), error.errorString());
+    if (error.error != QJsonParseError::NoError) {
+        const JsonFault fault = jsonFault(text, error);
+        return LayoutTexts::NotJson.arg(fault.place, fault.reason);
+    }
     const QJsonObject whole = document.object();
     if (!wholeNumber(whole.value("layout"_L1), version, version))
         return wrong(u"layout"_s);

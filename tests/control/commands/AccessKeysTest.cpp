@@ -5,6 +5,7 @@
 #include "support/Dialogs.h"
 
 #include <QtCore/QPointer>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QToolButton>
 
@@ -120,6 +121,11 @@ TEST_P(AccessKeys, OfTheControlAreTheirOwn)
     expectOwnKeys(grid);
     click(u"SingleRecord"_s);
     expectOwnKeys(grid);
+    makeCurrent(u"城市"_s);
+    QTest::keyClicks(list, u"x"_s);
+    ASSERT_TRUE(grid.findChild<QWidget *>(u"cmdSaveRecord"_s)->isVisible());
+    expectOwnKeys(grid);
+    QTest::keyClick(edit, Qt::Key_Escape);
 }
 
 TEST_P(AccessKeys, OfTheDialogsAreTheirOwn)
@@ -155,4 +161,49 @@ TEST_P(AccessKeys, OfTheViewerAreTheirOwn)
         viewer.reject();
     }});
     click(u"FullScreen"_s);
+}
+
+TEST_P(AccessKeys, OfTheConnectionsDialogsAreTheirOwn)
+{
+    WindowAnswers answers({[](QDialog &connect) {
+                               expectOwnKeys(connect);
+                               press(connect, "OptionLINK");
+                               press(connect, "cmd_link");
+                               press(connect, "Check_con");
+                               press(connect, "OKButton"); // goes on to the statement
+                               expectOwnKeys(connect);
+                               connect.reject();
+                           },
+                           [](QDialog &builder) {
+                               auto &target = part<QComboBox>(builder, "cmbTarget");
+                               for (int i = 0; i < target.count(); ++i) {
+                                   target.setCurrentIndex(i);
+                                   expectOwnKeys(builder);
+                               }
+                               press(builder, "OKButton");
+                           }});
+    grid.GetConnection();
+}
+
+TEST_P(AccessKeys, OfTheMessageBoxesAreTheirOwn)
+{
+    ASSERT_TRUE(load());
+    clickCell(2, 2);
+    choose(9, 2); // delete
+    clickCell(2, 1);
+    click(u"SingleRecord"_s);
+    makeCurrent(u"名称"_s);
+    QTest::keyClicks(list, u"x"_s);
+    QTest::keyClick(edit, Qt::Key_Return);
+    database.run(u"UPDATE 商品 SET 名称 = 'y' WHERE ID = 2"_s); // by somebody else, who can be looked at
+    click(u"AllRecord"_s);
+    messages.answerNext(QMessageBox::Discard);
+    grid.Clear();
+    ASSERT_GE(messages.shown().size(), 3U);
+    QSet<qsizetype> sizes;
+    for (const ShownMessage &shown : messages.shown()) {
+        EXPECT_EQ(sharedAccessKeys(shown.captions), QStringList()) << qPrintable(shown.text);
+        sizes.insert(shown.captions.size());
+    }
+    EXPECT_EQ(sizes, QSet<qsizetype>({2, 4})) << "a question, an offer, and one of four answers";
 }

@@ -4,6 +4,7 @@
 #include "support/Dialogs.h"
 
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QMenu>
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
@@ -47,4 +48,24 @@ TEST_F(GroupedNumbers, AreInTheLines)
     auto *const found = grid.findChild<QLabel *>(u"lblFound"_s);
     EXPECT_TRUE(QTest::qWaitFor([&] { return found->text() == u"共 1,234 处"_s; }))
         << qPrintable(found->text());
+}
+
+TEST_F(GroupedNumbers, AreInTheListOfStatements)
+{
+    ASSERT_TRUE(load(many, {}));
+    auto *const menu = grid.findChild<QMenu *>(u"HistoryMenu"_s);
+    ASSERT_TRUE(menu);
+    QStringList entries;
+    const auto watch = QObject::connect(menu, &QMenu::aboutToShow, menu, [&] {
+        for (const QAction *action : menu->actions())
+            entries.append(action->text());
+    });
+    WindowAnswers closed;
+    closed.clickInMenu({}); // Esc
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_H, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !entries.isEmpty(); }));
+    QObject::disconnect(watch);
+    ASSERT_EQ(entries.size(), 1);
+    EXPECT_TRUE(entries.front().contains(u"\t1,234 条  "_s)) << qPrintable(entries.front());
 }

@@ -3,6 +3,7 @@
 #include "ado/Error.h"
 #include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcHandle.h"
+#include "ado/rows/MissingValue.h"
 
 #include <algorithm>
 #include <array>
@@ -61,6 +62,19 @@ void refineSqlite(Diagnosis &diagnosis)
         diagnosis.state = u"42S02"_s;
 }
 
+// The engines have numbers of their own for a field that takes no Null, under more general states.
+void refineNull(Diagnosis &diagnosis)
+{
+    static constexpr SQLINTEGER numbers[] = {1048, 1263, 1364, // MariaDB and MySQL
+                                             515,              // SQL Server
+                                             1400, 1407};      // Oracle
+    const bool isGeneral = diagnosis.state == "HY000"_L1 || diagnosis.state.startsWith("23"_L1);
+    const bool isNumber =
+        std::find(std::begin(numbers), std::end(numbers), diagnosis.native) != std::end(numbers);
+    if (isGeneral && (isNumber || diagnosis.words.contains("NOT NULL constraint failed"_L1)))
+        diagnosis.state = nullRefused;
+}
+
 // The native numbers by which MariaDB, MySQL and their drivers say under a general state that the server went
 // away: killed, gone, lost, and that nobody reads any more what is written.
 bool isLoss(const Diagnosis &diagnosis, const OdbcConnection &connection)
@@ -89,6 +103,7 @@ void throwOdbcError(SQLSMALLINT handleType, SQLHANDLE handle, OdbcConnection &co
 {
     Diagnosis diagnosis = diagnose(handleType, handle);
     refineSqlite(diagnosis);
+    refineNull(diagnosis);
     const QString &state = diagnosis.state;
     const QString words = withoutSecrets(diagnosis.words, connection.secrets());
     const auto fail = [&](auto number, const QString &text) {

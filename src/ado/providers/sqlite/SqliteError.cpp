@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 #include "ado/Texts.h"
+#include "ado/rows/MissingValue.h"
 
 #include <sqlite3.h>
 
@@ -23,7 +24,8 @@ void throwSqliteError(sqlite3 *db, int code)
     case SQLITE_AUTH:
         throw Error(dbErrPermissionDenied, Texts::notAQuery(), source, u"42000"_s, native);
     case SQLITE_CONSTRAINT:
-        throw Error(dbErrIntegrity, Texts::constraintFailed().arg(words), source, u"23000"_s, native);
+        throw Error(dbErrIntegrity, Texts::constraintFailed().arg(words), source,
+                    native == SQLITE_CONSTRAINT_NOTNULL ? nullRefused : u"23000"_s, native);
     case SQLITE_READONLY:
         throw Error(dbErrPermissionDenied, Texts::readOnlyDatabase().arg(words), source, u"25006"_s, native);
     case SQLITE_CORRUPT:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ado/values/DisplayFormat.h"
+
 #include <QtGui/QImage>
 
 namespace KOVAVSFDataGridLib {
@@ -10,7 +12,8 @@ struct ListedField
     int field = 0;           // 0-based
     bool isRequired = false; // it can be written, and takes no Null
     bool isBinary = false;
-    QImage picture = {}; // of a binary value that is one
+    ADODB::DisplayFormat format = {}; // of the value
+    QImage picture = {};              // of a binary value that is one
 };
 
 } // namespace KOVAVSFDataGridLib

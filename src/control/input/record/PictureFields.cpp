@@ -3,7 +3,10 @@
 #include "ado/Error.h"
 #include "ado/Notifications.h"
 #include "ado/Recordset.h"
+#include "ado/Texts.h"
+#include "control/input/record/FieldRules.h"
 #include "control/parts/GridTexts.h"
+#include "forms/FileDialog.h"
 #include "forms/Messages.h"
 #include "forms/value/PicturePane.h"
 #include "session/Questions.h"
@@ -12,7 +15,6 @@
 #include "session/SessionWindow.h"
 
 #include <QtCore/QFile>
-#include <QtWidgets/QFileDialog>
 
 namespace KOVAVSFDataGridLib {
 
@@ -28,9 +30,9 @@ void PictureFields::replace(int field)
 {
     const qint64 record = m_session.result().recordset()->AbsolutePosition();
     const auto watch = std::make_shared<ResultWatch>(m_session);
-    auto *const chooser = new QFileDialog(&m_window, GridTexts::ChoosePicture, {}, GridTexts::PictureFiles);
+    auto *const chooser = new FileDialog(&m_window, GridTexts::ChoosePicture, {}, GridTexts::PictureFiles);
     chooser->setAttribute(Qt::WA_DeleteOnClose);
-    chooser->setFileMode(QFileDialog::ExistingFile);
+    chooser->setFileMode(FileDialog::ExistingFile);
     connect(chooser, &QFileDialog::fileSelected, this, [this, field, record, watch](const QString &file) {
         // Another record is not the one that was meant.
         if (watch->isUntouched() && m_session.result().recordset()->AbsolutePosition() == record)
@@ -61,7 +63,10 @@ void PictureFields::write(int field, const QVariant &value)
     const auto session = m_session.shared_from_this(); // the host, notified, may destroy the control
     try {
         const ADODB::Notifications::Hold hold(session->notifications());
-        session->result().recordset()->Fields().Item(field).PutValue(value);
+        ADODB::Field &written = session->result().recordset()->Fields().Item(field);
+        if (!value.isValid() && isRequired(written))
+            throw ADODB::Error(ADODB::adErrDataConversion, ADODB::Texts::valueNeeded().arg(written.Name()));
+        written.PutValue(value);
     } catch (const ADODB::Error &error) {
         return session->questions().show(GridTexts::ValueRefusedPrefix() + error.Description());
     }

@@ -55,7 +55,11 @@ void RecordDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelI
 {
     CellDelegate::initStyleOption(option, index);
     const ListedField *const field = fieldOf(index);
-    if (field && index.column() != nameColumn && option->text.isEmpty() && m_isNull(field->field))
+    if (!field || index.column() == nameColumn)
+        return;
+    if (!field->format.isNone())
+        option->text = field->format.applied(option->text);
+    if (option->text.isEmpty() && m_isNull(field->field))
         showNull(*option);
 }
 
