@@ -97,6 +97,19 @@ TEST(SimpleSelect, TellsPlainColumnsFromWhatIsComputed)
     EXPECT_EQ(items.join(u'|'), u"*|*|*|a|b|c d|e\"f|h|j|m|||||||||||||"_s);
 }
 
+TEST(SimpleSelect, ReadsCommentsThatMySqlRuns)
+{
+    const auto faultOf = [](const QString &sql) {
+        return SimpleSelect::parse(SqlScanner(sql, SqlDialect::MySql)).fault;
+    };
+    EXPECT_EQ(faultOf(u"select /*!40001 sql_no_cache */ /*M!100100 high_priority */ a from t"_s),
+              Fault::None);
+    for (const QString &words : {u"/*!40001 sql_no_cache */ distinct"_s, u"sql_no_cache /*! */ distinctrow"_s,
+                                 u"/*! distinct */"_s, u"/*! sql_no_cache distinct */"_s})
+        EXPECT_EQ(faultOf(u"select %1 a from t"_s.arg(words)), Fault::Distinct) << qPrintable(words);
+    EXPECT_EQ(parse(u"select /*! distinct */ a from t"_s).fault, Fault::None) << "a comment elsewhere";
+}
+
 TEST(SimpleSelect, RefusesWindowsExceptInSubqueries)
 {
     for (const QString &sql : {u"select sum(v) over () from t"_s, u"select (sum(v) over w) + 1 from t"_s,

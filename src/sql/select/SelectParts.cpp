@@ -84,9 +84,7 @@ private:
                     m_parts.isDistinctOn = true;
                     next = afterBrackets(m_sql, next + 1);
                 }
-            } else if (isIdleListWord(m_sql, next)) {
-                ++next;
-            } else if (const qsizetype behind = afterIdleComment(next); behind > next) {
+            } else if (const qsizetype behind = afterIdleListWord(m_sql, next); behind > next) {
                 next = behind;
             } else if (isTopAt(next)) {
                 m_parts.isTop = true;
@@ -103,21 +101,11 @@ private:
         return next;
     }
 
-    // Behind a comment that MySQL runs and in which it finds words without effect on the rows; else `index`.
-    qsizetype afterIdleComment(qsizetype index) const
-    {
-        qsizetype next = afterVersionMark(m_sql, index);
-        if (next == index)
-            return index;
-        while (isIdleListWord(m_sql, next))
-            ++next;
-        return m_sql.isSymbol(next, u'*') && m_sql.isSymbol(next + 1, u'/') ? next + 2 : index;
-    }
-
+    // What brackets hold stays as a whole.
     bool hasVersionMark(TextRange range) const
     {
         for (qsizetype i = range.begin; i < range.end; ++i) {
-            if (afterVersionMark(m_sql, i) > i)
+            if (m_sql.at(i).depth == 0 && afterVersionMark(m_sql, i) > i)
                 return true;
         }
         return false;

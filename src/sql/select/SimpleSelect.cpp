@@ -98,8 +98,8 @@ bool changesByItself(const SqlScanner &statement, qsizetype first, qsizetype end
 qsizetype beginOfList(const SqlScanner &statement)
 {
     qsizetype first = 1;
-    while (isIdleListWord(statement, first))
-        ++first;
+    while (afterIdleListWord(statement, first) > first)
+        first = afterIdleListWord(statement, first);
     return first;
 }
 
@@ -120,7 +120,9 @@ std::vector<SimpleSelect::Item> itemsBefore(const SqlScanner &statement, qsizety
 // How what surrounds the table folds or combines rows; None when it does neither.
 SimpleSelect::Fault folding(const SqlScanner &statement)
 {
-    if (isDistinctWord(statement, beginOfList(statement)))
+    const qsizetype list = beginOfList(statement);
+    // What MySQL runs of a comment can be DISTINCT too.
+    if (isDistinctWord(statement, list) || afterVersionMark(statement, list) > list)
         return Fault::Distinct;
     for (qsizetype i = 0; i < statement.count(); ++i) {
         if (statement.at(i).depth > 0)

@@ -59,6 +59,20 @@ inline qsizetype afterVersionMark(const SqlScanner &statement, qsizetype index)
     return next < statement.count() && statement.at(next).kind == SqlToken::Kind::Number ? next + 1 : next;
 }
 
+// Behind what changes no row between SELECT and the list: a word, or a comment that MySQL runs and in which
+// it finds only such words; else `index`.
+inline qsizetype afterIdleListWord(const SqlScanner &statement, qsizetype index)
+{
+    if (isIdleListWord(statement, index))
+        return index + 1;
+    qsizetype next = afterVersionMark(statement, index);
+    if (next == index)
+        return index;
+    while (isIdleListWord(statement, next))
+        ++next;
+    return statement.isSymbol(next, u'*') && statement.isSymbol(next + 1, u'/') ? next + 2 : index;
+}
+
 // A number, a text or a name.
 inline bool isOperand(const SqlScanner &statement, qsizetype index)
 {

@@ -10,6 +10,8 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
 
+#include <utility>
+
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
 
@@ -77,12 +79,16 @@ private:
         }
         QTimer::singleShot(5, this, [this] { poll(); });
         QWidget *const found = m_steps[m_next].find();
-        if (found && found->isVisible())
-            m_steps[m_next++].use(*found);
+        // Seen twice, because what was open above it may still be on its way out.
+        if (std::exchange(m_seen, found) != found || !found || !found->isVisible())
+            return;
+        m_seen = nullptr;
+        m_steps[m_next++].use(*found);
     }
 
     std::vector<Step> m_steps;
     std::size_t m_next = 0;
+    QWidget *m_seen = nullptr;
     QElapsedTimer m_since;
 };
 
