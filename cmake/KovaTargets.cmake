@@ -171,15 +171,19 @@ function(kova_test name)
 endfunction()
 
 # kova_test_of_foreign_program(<test>): of a program that loads what this project builds. Where that is instrumented for
-# addresses, the run-time library has to come first all the same; what such a program leaves behind when it ends is not
-# looked at.
+# addresses, the run-time library has to come first all the same, and with it what throws exceptions. What such a program
+# leaves behind when it ends is not looked at.
 function(kova_test_of_foreign_program test)
   if(NOT KOVA_SANITIZE MATCHES address OR NOT CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     return()
   endif()
-  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libasan.so
-    OUTPUT_VARIABLE runtime OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-  set_property(TEST ${test} APPEND PROPERTY ENVIRONMENT "LD_PRELOAD=${runtime}" "ASAN_OPTIONS=detect_leaks=0")
+  foreach(library IN ITEMS libasan.so libstdc++.so.6)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${library}
+      OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    list(APPEND first ${path})
+  endforeach()
+  list(JOIN first ":" first)
+  set_property(TEST ${test} APPEND PROPERTY ENVIRONMENT "LD_PRELOAD=${first}" "ASAN_OPTIONS=detect_leaks=0")
 endfunction()
 
 # kova_test_part(<name> SOURCES <files> LINKS <libraries>): what several test programs have, compiled once for all of

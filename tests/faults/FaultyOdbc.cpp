@@ -126,14 +126,6 @@ int listsRead()
 
 extern "C" {
 
-#ifdef __SANITIZE_ADDRESS__
-// Drivers stay, so that what they keep is still in use at the end, and what they leave behind has their name.
-int dlclose(void * /*library*/) noexcept
-{
-    return 0;
-}
-#endif
-
 KOVA_FAULTY(SQLAllocHandle, false, parent, (SQLSMALLINT type, SQLHANDLE parent, SQLHANDLE *made_),
             (type, parent, made_))
 KOVA_FAULTY(SQLSetEnvAttr, true, h, (SQLHENV h, SQLINTEGER a, SQLPOINTER v, SQLINTEGER l), (h, a, v, l))
