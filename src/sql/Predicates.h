@@ -18,6 +18,9 @@ QString isNotEmptyText(const Dialect &dialect, const QString &field);
 // it takes for larger than any number. Empty where it keeps none.
 QString beforeTexts(const Dialect &dialect, const QString &field);
 
+// Whether WHERE can name a field of the list by its alias.
+bool readsAliasesInConditions(Engine engine);
+
 // What follows ORDER BY and its list so that at most `count` rows are read.
 QString rowLimit(const Dialect &dialect, int count);
 
