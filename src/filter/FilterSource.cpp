@@ -62,8 +62,8 @@ void FilterSource::setResult(const FilteredResult &result)
 Dialect FilterSource::dialect() const
 {
     Dialect dialect = dialectOf(m_database, engineOf(m_connection));
-    // Known before it is opened. SQLite reads its own SQL through a driver, too.
-    dialect.isOdbc = dialect.engine != Engine::SQLite && leadsToOdbc(m_connectionString);
+    // Known before it is opened.
+    dialect.isOdbc = !readsItsOwnSqlOverOdbc(dialect.engine) && leadsToOdbc(m_connectionString);
     dialect.escapesByBackslash = m_escapesByBackslash;
     return dialect;
 }

@@ -236,9 +236,10 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
         return joinSQLSentence(made);
     };
     strRetSQL = spelledOut(quoted);
-    // SQLite takes a name in double quotes that is no column for a text, and its driver cuts names off.
+    // SQLite's driver cuts names off, and what is left would be read as a text.
     const auto inBackQuotes = [](const QString &name) { return enclosed(u'`', name, u'`'); };
-    if (engine.engine == Engine::SQLite && !m_reader->Read(strPassConnString, spelledOut(inBackQuotes)))
+    if (readsUnknownNamesAsTexts(engine.engine) &&
+        !m_reader->Read(strPassConnString, spelledOut(inBackQuotes)))
         strRetSQL = strOrgSQL;
     return true;
 }

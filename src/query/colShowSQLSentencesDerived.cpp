@@ -73,6 +73,10 @@ std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QStrin
             return derivation;
         sizes.insert(star, std::ssize(*given));
     }
+    for (const QString &alias : derivation->aliasesToTell()) {
+        if (!m_reader->Read(connectionString, derivation->statementOfStar(alias)))
+            sizes.insert(alias, 0);
+    }
     return sizes.isEmpty() ? derivation : m_derivations.of(statement, fields, dialect, sizes);
 }
 

@@ -23,6 +23,21 @@ Engine engineNamed(const QString &name)
     return name.isEmpty() ? Engine::Other : Engine::Standard;
 }
 
+bool hasUntypedFields(Engine engine)
+{
+    return engine == Engine::SQLite;
+}
+
+bool readsUnknownNamesAsTexts(Engine engine)
+{
+    return engine == Engine::SQLite;
+}
+
+bool readsItsOwnSqlOverOdbc(Engine engine)
+{
+    return engine == Engine::SQLite;
+}
+
 Engine Dialect::likelyEngine() const
 {
     if (engine != Engine::Other)

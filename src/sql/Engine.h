@@ -14,6 +14,15 @@ enum class Engine { Other, SQLite, Access, SqlServer, Oracle, PostgreSQL, MySQL,
 // By the name that the engine's driver gives it, in any version or edition. MariaDB is MySQL here.
 Engine engineNamed(const QString &name);
 
+// Whether a field can hold values of other types than the one that it was declared with.
+bool hasUntypedFields(Engine engine);
+
+// Whether a name in double quotes that no field has is read as a text.
+bool readsUnknownNamesAsTexts(Engine engine);
+
+// Whether its ODBC driver takes the statements that the database itself takes.
+bool readsItsOwnSqlOverOdbc(Engine engine);
+
 // An engine and how a session's settings have it read statements; an engine alone reads as it usually does.
 struct EngineMode
 {

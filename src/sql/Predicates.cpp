@@ -32,6 +32,11 @@ QString beforeTexts(const Dialect &dialect, const QString &field)
     return dialect.engine == Engine::SQLite ? field + " < ''"_L1 : QString();
 }
 
+bool readsAliasesInConditions(Engine engine)
+{
+    return engine == Engine::SQLite;
+}
+
 RowLimit rowLimit(const Dialect &dialect, int count)
 {
     const Engine engine = dialect.engine;

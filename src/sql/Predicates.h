@@ -18,6 +18,9 @@ QString isNotEmptyText(const Dialect &dialect, const QString &field);
 // it takes for larger than any number. Empty where it keeps none.
 QString beforeTexts(const Dialect &dialect, const QString &field);
 
+// Whether WHERE can name a field of the list by its alias.
+bool readsAliasesInConditions(Engine engine);
+
 // The words of a SELECT that is to give its first records only. Each has the blank that keeps it apart.
 struct RowLimit
 {

@@ -74,9 +74,3 @@ TEST(Predicates, OnlySqlServerRefusesAnInnerTablesSort)
     EXPECT_FALSE(takesInnerSort({dbSQLServer}));
     EXPECT_TRUE(takesInnerSort({dbSQLServer, true, false, Engine::MySQL}));
 }
-
-TEST(Predicates, OnlySqliteSortsBeforeAnInnerTablesLimit)
-{
-    EXPECT_TRUE(sortsBeforeInnerLimit({dbAccess, false, false, Engine::SQLite}));
-    EXPECT_FALSE(sortsBeforeInnerLimit({dbAccess, true, false, Engine::PostgreSQL}));
-}

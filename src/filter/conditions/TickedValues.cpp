@@ -57,11 +57,11 @@ FilterCondition withoutNamed(const Dialect &dialect, const FilterField &field, c
                        scope);
 }
 
-// A number field of SQLite can hold texts, which are compared as such.
+// A number field that can hold texts: they are compared as such.
 FilterField fieldOf(const Dialect &dialect, const FilterField &field, const TickedValues &ticked)
 {
     FilterField made = field;
-    const bool hasTexts = field.fieldClass == FieldClass::Number && dialect.engine == Engine::SQLite &&
+    const bool hasTexts = field.fieldClass == FieldClass::Number && hasUntypedFields(dialect.engine) &&
                           !std::ranges::all_of(ticked.values, isNumberText);
     if (hasTexts) {
         made.fieldClass = FieldClass::Text;

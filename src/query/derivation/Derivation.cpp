@@ -27,11 +27,14 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
     : m_sql(statement, dialect), m_parts(SelectParts::of(m_sql)), m_dialect(dialect)
 {
     nameFields(fields, sizes);
+    const QStringList aliases = aliasesToTell();
+    const bool namesAlias =
+        std::ranges::any_of(aliases, [&](const QString &alias) { return sizes.contains(alias); });
     // A condition leaves the same rows before and after DISTINCT.
     const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
                         !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
                         !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isVersioned && !m_parts.isClosed &&
-                        m_isListKnown && !isSourceUnfenced();
+                        m_isListKnown && !isSourceUnfenced() && !namesAlias;
     if (!isOpen) {
         m_kind = Kind::Closed;
         m_written.clear();

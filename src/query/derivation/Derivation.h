@@ -30,7 +30,8 @@ struct OuterTerm
     bool isDescending = false;
 };
 
-// How many fields each star of a list gives, by the star as Derivation::starsToMeasure writes it.
+// How many fields each star of a list gives, by the star as Derivation::starsToMeasure writes it; 0 for an
+// alias of Derivation::aliasesToTell that is no column.
 using StarSizes = QHash<QString, qsizetype>;
 
 // Derives from one statement. There are three kinds of statements:
@@ -51,13 +52,17 @@ class Derivation
 {
 public:
     // `fields` are those of the statement's result, in its order; none when they can't be read. `sizes` are
-    // needed where starsToMeasure() asks for them.
+    // needed where starsToMeasure() or aliasesToTell() asks for them.
     Derivation(const QString &statement, const std::vector<SourceField> &fields, const Dialect &dialect,
                const StarSizes &sizes = {});
 
     // The stars of the list, where only the database can say which of them gives a field; a field is not
     // known by its table then. The first fields of a statement of one star are that star's.
     QStringList starsToMeasure() const;
+    // What the condition names and the list has as an alias: the alias is meant unless the sources have a
+    // column of that name, and then what is derived from the statement must keep it.
+    QStringList aliasesToTell() const;
+    // The star, or the alias as a column, alone.
     QString statementOfStar(const QString &star) const;
 
     bool isSimple() const { return m_kind == Kind::Simple; }

@@ -155,7 +155,7 @@ bool areAlike(const std::vector<Run> &runs, const std::vector<SourceField> &fiel
 
 bool measure(std::vector<Run> &runs, const std::vector<SourceField> &fields, const StarSizes &sizes)
 {
-    if (!sizes.isEmpty())
+    if (std::ranges::any_of(sizes, [](qsizetype size) { return size > 0; }))
         return measureByDatabase(runs, sizes) && areAll(runs, fields);
     const bool isMeasured =
         isOneSource(runs) ? measureOneSource(runs, std::ssize(fields)) : measureByTables(runs, fields);

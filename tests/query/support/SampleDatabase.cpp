@@ -19,6 +19,10 @@ KOVAVSFDataGridLib::Derivation derivationOf(const SqliteRows &database, const QS
     StarSizes sizes;
     for (const QString &star : derivation.starsToMeasure())
         sizes.insert(star, std::ssize(database.fields(derivation.statementOfStar(star))));
+    for (const QString &alias : derivation.aliasesToTell()) {
+        if (database.fields(derivation.statementOfStar(alias)).empty())
+            sizes.insert(alias, 0);
+    }
     return sizes.isEmpty() ? derivation : Derivation(statement, database.fields(statement), dialect, sizes);
 }
 
