@@ -154,6 +154,9 @@ OfferedValues ValueReading::valuesOf(const QString &statement,
     OfferedValues offered;
     QHash<QString, qsizetype> known; // values that differ in the database can read the same
     for (qint64 record = 1; record <= values.RecordCount(); ++record) {
+        // No condition is written about bytes, which a column of SQLite can hold whatever its type.
+        if (values.CellValue(record, 0).typeId() == QMetaType::QByteArray)
+            continue;
         const QString text = textOf(values, record);
         const auto place = known.constFind(text);
         const qint64 count = hasCounts ? values.CellText(record, 1).toLongLong() : 0;

@@ -80,11 +80,11 @@ TEST_F(Source, FieldsNamedLikeWordsOfTheLanguageCanBeFilteredBy)
     EXPECT_EQ(database.ask(u"SELECT count(*) FROM Words WHERE "_s + conditions.join(u" AND "_s)), u"1"_s);
 }
 
-TEST_F(Source, TextsInANumberFieldAreFoundByTicksAndByNoNumber)
+TEST_F(Source, TextsInANumberFieldAreFoundByTicksAndBytesByNothing)
 {
     database.run(
         u"CREATE TABLE Loose (N INTEGER, D DOUBLE);"
-        "INSERT INTO Loose VALUES (10, 1.5), ('abc', 'x'), (7, 20), ('1 or 1=1', NULL), (NULL, 3)"_s);
+        "INSERT INTO Loose VALUES (10, 1.5), ('abc', 'x'), (7, 20), ('1 or 1=1', NULL), (NULL, 3), (x'31', 4)"_s);
     source.setTable(u"Loose"_s);
     const FilterField number = source.readFields().front();
     const auto count = [&](const FilterCondition &condition) {
