@@ -37,8 +37,8 @@ protected:
         QAccessible::deleteAccessibleInterface(
             QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&view)));
         QAccessibleInterface *const whole = QAccessible::queryAccessibleInterface(&view);
-        QAccessibleInterface *const cell =
-            whole && whole->tableInterface() ? whole->tableInterface()->cellAt(row, col) : nullptr;
+        QAccessibleTableInterface *const rows = whole ? whole->tableInterface() : nullptr;
+        QAccessibleInterface *const cell = rows ? rows->cellAt(row, col) : nullptr;
         return cell ? cell->text(QAccessible::Name) : u"(not found)"_s;
     }
     QString spokenValue(const QString &field) { return spoken(*list, listedRow(field), 1); }
