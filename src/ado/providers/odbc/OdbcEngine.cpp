@@ -68,6 +68,7 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
         engine.endReading = u"PRAGMA query_only = OFF"_s;
         engine.newKey = u"SELECT last_insert_rowid()"_s; // its driver sees no rows in RETURNING
         engine.looseTypes = true;
+        engine.cancelTakesRows = true;
         break;
     case Kind::SqlServer:
         engine.dialect = SqlDialect::SqlServer;

@@ -57,6 +57,9 @@ struct OdbcEngine
     QString overrideKey;
     // A column can hold values of any type, whatever it is declared as.
     bool looseTypes = false;
+    // A cancel ends what runs in the whole connection, and takes from its own statement the rows that another
+    // thread may still be reading.
+    bool cancelTakesRows = false;
     // Within a block of rows, the driver gives single values once more and then fetches on where it was. Some
     // claim that and lose rows instead, so only those count that were tried.
     bool asksAgain = false;

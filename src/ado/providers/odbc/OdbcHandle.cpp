@@ -43,6 +43,8 @@ OdbcConnection::~OdbcConnection()
 
 void OdbcConnection::release()
 {
+    if (m_canceller)
+        SQLFreeHandle(SQL_HANDLE_STMT, m_canceller);
     if (m_connected) {
         // A driver refuses to disconnect within a transaction.
         if (!succeeded(SQLDisconnect(m_connection))) {
@@ -68,6 +70,12 @@ void OdbcConnection::connect(const QString &text, int timeoutInSeconds, const QS
     m_connected = succeeded(code);
     if (!m_connected)
         throwOdbcError(SQL_HANDLE_DBC, m_connection, *this, OdbcWork::Connecting);
+}
+
+void OdbcConnection::makeCanceller()
+{
+    if (!m_canceller && !succeeded(SQLAllocHandle(SQL_HANDLE_STMT, m_connection, &m_canceller)))
+        throwOdbcError(SQL_HANDLE_DBC, m_connection, *this);
 }
 
 std::optional<bool> OdbcConnection::isDead() const

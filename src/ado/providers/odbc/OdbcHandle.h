@@ -46,6 +46,10 @@ public:
     void setTried() { m_untried = false; }
     void setIdle();
     std::chrono::steady_clock::duration idleTime() const;
+    // The statement through which a call on `running` is cancelled: that one, or one of its own. Making the
+    // latter throws what the driver says.
+    SQLHSTMT canceller(SQLHSTMT running) const { return m_canceller ? m_canceller : running; }
+    void makeCanceller();
     // Whether the server knows OdbcEngine::planForAllRows; true until it has refused it.
     bool plansForAllRows() const { return m_plansForAllRows; }
     void setPlansForAllRows(bool does) { m_plansForAllRows = does; }
@@ -65,6 +69,7 @@ private:
 
     SQLHENV m_environment = SQL_NULL_HANDLE;
     SQLHDBC m_connection = SQL_NULL_HANDLE;
+    SQLHSTMT m_canceller = SQL_NULL_HANDLE;
     bool m_connected = false;
     std::atomic<bool> m_lost = false;
     std::atomic<bool> m_fit = true;

@@ -157,7 +157,7 @@ SQLRETURN OdbcOperation::call(const OdbcHandle &statement, int timeout,
     }
     {
         const QMutexLocker lock(&m_mutex);
-        m_running = statement.get();
+        m_running = statement.connection()->canceller(statement.get());
     }
     const SQLRETURN code = call();
     {

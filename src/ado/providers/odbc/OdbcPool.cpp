@@ -191,6 +191,8 @@ std::shared_ptr<OdbcConnection> OdbcPool::acquire(const std::shared_ptr<std::ato
 std::shared_ptr<OdbcConnection> OdbcPool::lend(std::unique_ptr<OdbcConnection> connection,
                                                const std::shared_ptr<std::atomic<bool>> &isLost)
 {
+    if (m_engine.cancelTakesRows)
+        connection->makeCanceller();
     return {connection.release(), [pool = shared_from_this(), isLost](OdbcConnection *used) {
                 std::unique_ptr<OdbcConnection> owned(used);
                 if (owned->isLost() && !owned->isUntried())
