@@ -12,6 +12,12 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr QLatin1StringView nameEdit = "fileNameEdit"_L1; // as Qt's own dialog calls it
+
+} // namespace
+
 FileDialog::FileDialog(QWidget *parent, const QString &title, const QString &start, const QString &filters)
     : QFileDialog(parent, title, start, filters)
 {
@@ -60,7 +66,7 @@ QString FileDialog::ask(QPointer<FileDialog> dialog, QString *filter)
 
 bool FileDialog::isQtsOwn() const
 {
-    return findChild<QLineEdit *>(u"fileNameEdit"_s) != nullptr;
+    return findChild<QLineEdit *>(nameEdit) != nullptr;
 }
 
 void FileDialog::showEvent(QShowEvent *event)
@@ -105,7 +111,7 @@ void FileDialog::nameParts()
     }
     nameAccept();
     // Qt writes its own word where a folder is chosen, and whenever there is another text.
-    connect(findChild<QLineEdit *>(u"fileNameEdit"_s), &QLineEdit::textChanged, this,
+    connect(findChild<QLineEdit *>(nameEdit), &QLineEdit::textChanged, this,
             &FileDialog::nameAccept);
     connect(this, &QFileDialog::currentChanged, this, &FileDialog::nameAccept);
     connect(this, &QFileDialog::directoryEntered, this, &FileDialog::nameAccept, Qt::QueuedConnection);
@@ -113,7 +119,7 @@ void FileDialog::nameParts()
 
 void FileDialog::nameAccept()
 {
-    const QString typed = findChild<QLineEdit *>(u"fileNameEdit"_s)->text();
+    const QString typed = findChild<QLineEdit *>(nameEdit)->text();
     const bool isFolder = !typed.isEmpty() && QFileInfo(directory(), typed).isDir();
     const bool saves = acceptMode() == AcceptSave && !isFolder;
     setLabelText(Accept, saves ? FormTexts::Save : FormTexts::OpenFile);

@@ -348,11 +348,13 @@ QStringList colShowSQLSentences::NamesInCatalogue(const std::vector<SourceField>
 {
     QStringList names = namesOf(fields);
     for (QString &name : names) {
+        if (m_catalogue.Find(name))
+            continue;
         const auto isIt = [&](const clsDataField &field) {
             return lastNamePart(field.FieldWholeName).compare(name, Qt::CaseInsensitive) == 0;
         };
         const auto found = std::find_if(m_catalogue.begin(), m_catalogue.end(), isIt);
-        if (!m_catalogue.Find(name) && found != m_catalogue.end())
+        if (found != m_catalogue.end())
             name = (*found).FieldName;
     }
     return names;

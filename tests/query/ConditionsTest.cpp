@@ -165,6 +165,17 @@ TEST(CellFilterText, NumbersAreComparedBare)
         EXPECT_EQ(buildCellFilter(u"Qty"_s, type, u"12"_s).condition, u"Qty like 12"_s) << type;
 }
 
+TEST(CellFilterText, BlanksUpToTheFieldsLengthAreLeftOutWhereTheCastDropsThem)
+{
+    constexpr int fixed = 130;
+    constexpr int varying = 202;
+    EXPECT_EQ(buildCellFilter(u"C"_s, fixed, u"a b  "_s, Engine::PostgreSQL).condition,
+              u"CAST(C AS TEXT) like 'a b'"_s);
+    EXPECT_EQ(buildCellFilter(u"C"_s, varying, u"a b  "_s, Engine::PostgreSQL).condition,
+              u"CAST(C AS TEXT) like 'a b  '"_s);
+    EXPECT_EQ(buildCellFilter(u"C"_s, fixed, u"a b  "_s, Engine::SQLite).condition, u"C like 'a b  '"_s);
+}
+
 TEST(CellFilterText, MoneyIsComparedAsANumber)
 {
     constexpr int money = 6;

@@ -289,6 +289,7 @@ CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoTyp
     // Narrower than the quick filter's classes on purpose: equality makes no sense for the types left out.
     static constexpr std::array<qint32, 12> numbers{2, 3, 4, 5, 14, 16, 18, 20, 21, 72, 131, 139};
     static constexpr std::array<qint32, 4> texts{129, 130, 200, 202};
+    static constexpr std::array<qint32, 2> paddedTexts{129, 130}; // with blanks up to the field's length
     if (realName.isEmpty() || !adoType)
         return {};
     const bool isText = isAmong(texts, *adoType);
@@ -305,8 +306,14 @@ CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoTyp
         return {numberCondition(realName, *adoType, *cellText, mode, isComputed), {}};
     if (cellText->contains(u'\''))
         return {{}, QueryTexts::ApostropheInFilter};
+    QString text = *cellText;
+    // The operand's cast leaves them out.
+    if (likesTextsOnly(mode.engine) && isAmong(paddedTexts, *adoType)) {
+        while (text.endsWith(u' '))
+            text.chop(1);
+    }
     return {likeOperand(mode.engine, realName) + QStringLiteral(" like ") +
-                literalOf({}, mode, likePattern(mode.engine, *cellText)),
+                literalOf({}, mode, likePattern(mode.engine, text)),
             {}};
 }
 
