@@ -111,8 +111,7 @@ void FileDialog::nameParts()
     }
     nameAccept();
     // Qt writes its own word where a folder is chosen, and whenever there is another text.
-    connect(findChild<QLineEdit *>(nameEdit), &QLineEdit::textChanged, this,
-            &FileDialog::nameAccept);
+    connect(findChild<QLineEdit *>(nameEdit), &QLineEdit::textChanged, this, &FileDialog::nameAccept);
     connect(this, &QFileDialog::currentChanged, this, &FileDialog::nameAccept);
     connect(this, &QFileDialog::directoryEntered, this, &FileDialog::nameAccept, Qt::QueuedConnection);
 }
