@@ -80,7 +80,8 @@ TEST(Connection, RefusesPipesAndDevicesAtOnce)
     ASSERT_EQ(mkfifo(pipe.toUtf8().constData(), 0600), 0);
     for (const QString &text :
          {u"Provider=SQLite;Data Source="_s + pipe, u"Provider=SQLite;Data Source=/dev/zero"_s,
-          u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + pipe}) {
+          u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + pipe, u"Driver=SQLite3;Database="_s + pipe,
+          u"Driver=SQLite3;Database=/dev/zero"_s}) {
         Connection connection;
         const Error error = AdoTest::errorOf([&] { connection.Open(text); });
         EXPECT_TRUE(error.is(adErrOpeningFile)) << error.what();

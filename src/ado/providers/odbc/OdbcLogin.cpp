@@ -4,6 +4,7 @@
 #include "ado/Error.h"
 #include "ado/Texts.h"
 #include "ado/connection/OdbcCatalogue.h"
+#include "ado/providers/DatabaseFile.h"
 
 #include <QtCore/QFileInfo>
 
@@ -202,6 +203,15 @@ void OdbcLogin::checkDriver() const
                                                       ? Texts::noneInstalled()
                                                       : installed.join(Texts::betweenNames())));
     }
+}
+
+void OdbcLogin::checkFile() const
+{
+    const QString file = value(u"Database");
+    // The other two are no paths: SQLite's own name for a database in memory, and an address.
+    if (m_likelyEngine == OdbcEngine::Kind::Sqlite && !file.isEmpty() && file != ":memory:"_L1 &&
+        !file.startsWith("file:"_L1))
+        DatabaseFile(file, 0);
 }
 
 OdbcEngine::Kind OdbcLogin::engineOfDriver() const

@@ -39,6 +39,9 @@ public:
     // Throws 3706 if the text names a driver that is not installed. The driver manager takes longer and
     // longer to list the drivers, so this is for explaining why it could not connect.
     void checkDriver() const;
+    // Throws 3002 if SQLite's driver is to open a missing file, a pipe or a device. On a pipe it waits for ever,
+    // and /dev/zero is an endless file to it. A file that only a data source names is not known here.
+    void checkFile() const;
 
 private:
     QString value(QStringView keyword) const;

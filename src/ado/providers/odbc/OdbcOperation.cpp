@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <chrono>
 #include <thread>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -91,8 +92,9 @@ void OdbcOperation::run(std::function<void()> work, const Wait &wait)
     }
     if (fromCaller)
         std::rethrow_exception(fromCaller);
+    // Taken out, so that the error is the caller's alone: the work's thread may still hold the operation.
     if (operation->m_error)
-        std::rethrow_exception(operation->m_error);
+        std::rethrow_exception(std::exchange(operation->m_error, nullptr));
 }
 
 bool OdbcOperation::isOverdue() const

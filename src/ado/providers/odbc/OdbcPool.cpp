@@ -45,6 +45,7 @@ bool isFromManager(const Error &error)
 
 std::unique_ptr<OdbcConnection> connectTo(const OdbcLogin &login)
 {
+    login.checkFile();
     auto connection = std::make_unique<OdbcConnection>();
     try {
         connection->connect(login.text(), login.connectTimeout(), login.secrets());
