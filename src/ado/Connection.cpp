@@ -5,12 +5,18 @@
 #include "ado/Texts.h"
 #include "ado/connection/Waiting.h"
 #include "ado/providers/Provider.h"
+#include "ado/rows/Snapshot.h"
+#include "sql/Names.h"
+#include "sql/Tables.h"
 
 #include <new>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
+
+using KOVAVSFDataGridLib::Engine;
+using KOVAVSFDataGridLib::engineNamed;
 
 namespace {
 
@@ -88,6 +94,34 @@ const std::shared_ptr<Session> &Connection::session() const
     if (State() == adStateClosed)
         throw Error(adErrObjectClosed, Texts::connectionClosed());
     return m_session;
+}
+
+QString Connection::WrittenName(const QString &name) const
+{
+    KOVAVSFDataGridLib::EngineMode mode(engineNamed(session()->engineName()), session()->quoting());
+    if (!mode.isKnown())
+        mode.engine = Engine::Standard;
+    return writtenName(dialectOf(KOVAVSFDataGridLib::dbAccess, mode), name);
+}
+
+std::vector<Connection::Table> Connection::Tables() const
+{
+    // A copy, because whoever watches the wait can let the host close this connection.
+    const std::shared_ptr<Session> session = this->session();
+    const Engine engine = engineNamed(session->engineName());
+    Watched watched;
+    const auto statement = session->prepare(KOVAVSFDataGridLib::statementOfTables(engine), Access::ReadOnly,
+                                            [&] { return watched.shouldContinue(); });
+    RowStore rows(statement->columns());
+    statement->fetch(rows, [&](qint64) { return watched.shouldContinue(); });
+    const Snapshot found(statement->fields(), std::move(rows));
+    std::vector<Table> tables;
+    for (qint64 record = 1; record <= found.records(); ++record) {
+        const QString name = found.text(record, 1);
+        if (!isTableOfSystem(engine, name))
+            tables.push_back({found.text(record, 0), name, found.text(record, 2) == "view"_L1});
+    }
+    return tables;
 }
 
 } // namespace ADODB

@@ -54,6 +54,22 @@ public:
     // For internal use. Throws 3704 if closed.
     const std::shared_ptr<Session> &session() const;
 
+    // The name of a field, table or schema, as the database reports it, as a statement for this engine writes
+    // it: without quotes if the engine then reads exactly this name, otherwise quoted. Quote each part of a
+    // name such as `schema.table` separately. Standard SQL if the engine is not known. Throws 3704 if closed.
+    QString WrittenName(const QString &name) const;
+
+    // A table or view.
+    struct Table
+    {
+        QString schema; // empty if a statement doesn't need it
+        QString name;   // as the database reports it; see WrittenName()
+        bool isView = false;
+    };
+    // The tables and views that the user can see, without those of the system, ordered by schema and name.
+    // Throws 3704 if closed, and otherwise like Recordset::Open.
+    std::vector<Table> Tables() const;
+
 private:
     QString m_text;
     MiddleTier m_middleTier;

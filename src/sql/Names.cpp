@@ -1,7 +1,7 @@
 #include "sql/Names.h"
 
 #include "sql/AllDBType.h"
-#include "sql/ReservedWords.h"
+#include "sql/words/ReservedWords.h"
 
 #include <QtCore/QList>
 

@@ -221,6 +221,10 @@ TEST(Automation, OpensThroughAConnectionObject)
     connection->setProperty("ConnectionString", database.connectionString());
     call(connection, "Open");
     EXPECT_EQ(get(connection, "State"), QVariant(1));
+    QString written;
+    EXPECT_TRUE(QMetaObject::invokeMethod(connection, "WrittenName", Q_RETURN_ARG(QString, written),
+                                          Q_ARG(QString, u"order"_s)));
+    EXPECT_EQ(written, u"[order]"_s);
 
     const auto recordset = std::make_shared<ADODB::Recordset>();
     QObject *host = automation(recordset);

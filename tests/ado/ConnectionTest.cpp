@@ -6,6 +6,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 
+#include <sqlite3.h>
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
 #endif
@@ -202,6 +203,48 @@ TEST(Connection, DescribesAStatementWithoutReadingARow)
     EXPECT_ADO_ERROR(dbErrMultipleStatements, connection->Describe(u"SELECT 1; SELECT 2"_s));
     connection->Close();
     EXPECT_ADO_ERROR(adErrObjectClosed, connection->Describe(u"SELECT 1"_s));
+}
+
+// Every word of SQLite's language, and names that need quotes for their characters.
+TEST(Connection, WritesEachNameAsTheEngineReadsIt)
+{
+    QStringList names{u"plain"_s, u"Capital"_s, u"客户"_s, u"two words"_s, u"1a"_s,  u"a\"b"_s, u"a]b"_s,
+                      u"a`b"_s,   u"it's"_s,    u"a.b"_s,  u"--"_s,        u"no#"_s, u"a;b"_s,  u"[a]"_s};
+    const int words = sqlite3_keyword_count();
+    EXPECT_GT(words, 100);
+    for (int i = 0; i < words; ++i) {
+        const char *word = nullptr;
+        int length = 0;
+        sqlite3_keyword_name(i, &word, &length);
+        names += QString::fromLatin1(word, length).toLower();
+    }
+    const TestDatabase database(u"CREATE VIEW a_view AS SELECT 1; CREATE TABLE made(i INTEGER PRIMARY KEY "
+                                "AUTOINCREMENT)"_s); // which makes sqlite_sequence, a table of the engine
+    for (const QString &name : names) {
+        const QString quoted = u'"' + QString(name).replace(u'"', u"\"\""_s) + u'"';
+        database.execute(u"CREATE TABLE %1 (%1); INSERT INTO %1 VALUES (5)"_s.arg(quoted));
+    }
+    const auto connection = database.connect();
+    QStringList tables;
+    for (const Connection::Table &table : connection->Tables()) {
+        EXPECT_EQ(table.isView, table.name == u"a_view"_s);
+        EXPECT_EQ(table.schema, QString());
+        tables += table.name;
+        if (!names.contains(table.name))
+            continue;
+        Recordset records;
+        records.Open(u"SELECT %1 FROM %1 WHERE %1 = 5"_s.arg(connection->WrittenName(table.name)),
+                     connection);
+        EXPECT_EQ(records.RecordCount(), 1) << table.name.toStdString();
+        EXPECT_EQ(records.Fields().Item(0).Name(), table.name);
+    }
+    names += {u"a_view"_s, u"made"_s};
+    names.sort();
+    tables.sort();
+    EXPECT_EQ(tables, names);
+    connection->Close();
+    EXPECT_ADO_ERROR(adErrObjectClosed, connection->WrittenName(u"a"_s));
+    EXPECT_ADO_ERROR(adErrObjectClosed, connection->Tables());
 }
 
 } // namespace

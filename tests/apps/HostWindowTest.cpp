@@ -1,7 +1,6 @@
 // The window of kovagrid, used with mouse and keys.
 #include "window/HostWindow.h"
 
-#include "database/Catalogue.h"
 #include "tab/QueryPage.h"
 #include "tab/RecentConnections.h"
 #include "tab/StatementEdit.h"
@@ -145,6 +144,28 @@ TEST_F(HostWindowTest, TablesAndViewsAreListedAndOpened)
     tables().setCurrentItem(item(u"v"_s));
     QTest::keyClick(&tables(), Qt::Key_Return);
     EXPECT_EQ(table().model()->headerData(0, Qt::Horizontal), u"one"_s);
+}
+
+TEST_F(HostWindowTest, TablesWithNamesOfAnyKindAreOpened)
+{
+    const QStringList names{u"case"_s,    u"not"_s,  u"having"_s, u"is"_s,  u"order"_s,
+                            u"primary"_s, u"a\"b"_s, u"a]b"_s,    u"a`b"_s, u"1 a"_s,
+                            u"订单"_s,    u"it's"_s, u"a.b"_s,    u"a;b"_s, u"--"_s};
+    TestDatabase named({}, u"named.db"_s);
+    for (const QString &name : names) {
+        const QString quoted = u'"' + QString(name).replace(u'"', u"\"\""_s) + u'"';
+        named.run(u"CREATE TABLE %1 (A); INSERT INTO %1 VALUES ('%2')"_s.arg(
+            quoted, QString(name).replace(u'\'', u"''"_s)));
+    }
+    drop(named.path());
+    for (const QString &name : names) {
+        ASSERT_TRUE(item(name)) << name.toStdString();
+        tables().setFocus();
+        tables().setCurrentItem(item(name));
+        QTest::keyClick(&tables(), Qt::Key_Return);
+        EXPECT_EQ(table().model()->index(0, 0).data(), name);
+    }
+    EXPECT_TRUE(messages.texts().isEmpty()) << messages.texts().join(u'\n').toStdString();
 }
 
 TEST_F(HostWindowTest, ATableIsDraggedIntoTheStatement)
@@ -363,28 +384,4 @@ TEST_F(HostWindowTest, F1ShowsTheShortcuts)
     EXPECT_TRUE(text.contains(u"Ctrl+Enter"_s)) << qPrintable(text);
     EXPECT_TRUE(text.contains(u"Ctrl+Shift+C"_s)) << "those of the grid";
     QTest::keyClick(help, Qt::Key_Escape);
-}
-
-TEST(CatalogueNames, AreWrittenAsTheEngineReadsThem)
-{
-    struct Case
-    {
-        const char *engine;
-        QString name;
-        QString written;
-    };
-    const Case cases[] = {
-        {"SQLite", u"orders"_s, u"orders"_s},
-        {"SQLite", u"订单"_s, u"订单"_s},
-        {"SQLite", u"order"_s, u"[order]"_s},
-        {"SQLite", u"a]b"_s, u"\"a]b\""_s},
-        {"PostgreSQL", u"Orders"_s, u"\"Orders\""_s},
-        {"PostgreSQL", u"a\"b"_s, u"\"a\"\"b\""_s},
-        {"MariaDB", u"a b"_s, u"`a b`"_s},
-        {"MySQL", u"a`b"_s, u"`a``b`"_s},
-        {"Oracle", u"orders"_s, u"\"orders\""_s},
-        {"Microsoft SQL Server", u"1a"_s, u"[1a]"_s},
-    };
-    for (const Case &one : cases)
-        EXPECT_EQ(Catalogue::written(one.name, QString::fromLatin1(one.engine)), one.written) << one.engine;
 }

@@ -13,6 +13,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Those of the product and of programs that users read.
+const QStringList ownFolders{u"src"_s, u"apps"_s, u"designer"_s, u"examples"_s, u"python"_s};
+
 // Between single backquotes, without blanks: a path, or a file's name alone. A recipe's <name> ends what can
 // be looked up.
 QStringList pathsNamedIn(const QStringList &lines)
@@ -104,17 +107,33 @@ QSet<QString> namesIn(const QStringList &lines)
     return names;
 }
 
-// What is called other than lowerCamelCase in a source.
+// Constants of a source that are not lowerCamelCase, or have a prefix. Members are called m_….
 QStringList wrongConstantsIn(const QString &source)
 {
     static const QRegularExpression constant(
-        u"^[ \\t]*(?:inline |static )*(?:constexpr|const) [^()=;{}\\n]*(?<!::)\\b([A-Z]\\w*)(?:\\[\\w*\\])?"
-        "(?: =|\\{|\\((?=[\"0-9]))"_s,
+        u"^[ \\t]*(?:inline |static |thread_local )*(?:constexpr|constinit|const) [^()=;{}\\n]*(?<!::)"
+        "\\b(\\w+)(?:\\[\\w*\\])*(?: =|\\{|\\((?=[\"0-9]))"_s,
         QRegularExpression::MultilineOption);
+    static const QRegularExpression right(u"^(?:m_)?(?![kc][A-Z])[a-z][A-Za-z0-9]*$"_s);
     QStringList names;
-    for (const QRegularExpressionMatch &match : constant.globalMatch(source))
-        names += match.captured(1);
+    for (const QRegularExpressionMatch &match : constant.globalMatch(source)) {
+        if (!right.match(match.captured(1)).hasMatch())
+            names += match.captured(1);
+    }
     return names;
+}
+
+// A constant has a type, and a function of one file is in its unnamed namespace.
+QStringList macrosAndStaticsIn(const QString &source)
+{
+    static const QRegularExpression macro(
+        u"^[ \\t]*#[ \\t]*define[ \\t]+(?!KOVA_EXPORT\\b)\\w+|^(?:\\[\\[.*\\]\\] *|template *<.*> *|inline "
+        "|constexpr )*static .*"_s,
+        QRegularExpression::MultilineOption);
+    QStringList found;
+    for (const QRegularExpressionMatch &match : macro.globalMatch(source))
+        found += match.captured().trimmed();
+    return found;
 }
 
 // The object names, written out, by which a source looks for a widget. Those that begin with "qt_" are Qt's.
@@ -159,15 +178,16 @@ TEST(Architecture, NamesWhatIsThere)
     EXPECT_EQ(gone.join(u' ').toStdString(), "");
 }
 
-TEST(Constants, BeginWithASmallLetter)
+TEST(Constants, AreNamedAsContributingSays)
 {
     static const QRegularExpression table(u"(Texts|Messages|Keys)\\.h$"_s);
     int files = 0;
-    for (const QString &folder : {u"src"_s, u"apps"_s, u"designer"_s, u"examples"_s, u"python"_s}) {
+    for (const QString &folder : ownFolders) {
         for (const QString &path : filesIn(folder, {u"*.h"_s, u"*.cpp"_s})) {
-            if (table.match(path).hasMatch())
-                continue;
-            EXPECT_EQ(wrongConstantsIn(linesOf(path).join(u'\n')).join(u' ').toStdString(), "")
+            const QString source = linesOf(path).join(u'\n');
+            EXPECT_EQ(macrosAndStaticsIn(source).join(u'\n').toStdString(), "") << path.toStdString();
+            const bool isTable = table.match(path).hasMatch();
+            EXPECT_EQ(isTable ? "" : wrongConstantsIn(source).join(u' ').toStdString(), "")
                 << path.toStdString();
             ++files;
         }
@@ -176,13 +196,30 @@ TEST(Constants, BeginWithASmallLetter)
 }
 
 // The check itself is checked.
-TEST(Constants, AreFoundOutWhereTheyBeginWithACapital)
+TEST(Constants, AreFoundOutWhereTheirNamesAreWrong)
 {
     EXPECT_EQ(wrongConstantsIn(u"const int Wrong = 1;\n    static constexpr QChar Bad(0x200B);\n"
                                "inline const std::array Four{1};\nconstexpr int Six[] = {1};\n"
+                               "constexpr int kBad = 1;\nconst int MAX_ROWS = 2;\nconst int max_rows = 2;\n"
+                               "const QString cName(\"x\");\nconstexpr int Grid[2][3] = {};\n"
                                "const int right = Wrong;\nconst Field &Item(int index);\n"
-                               "constexpr Kind kinds[] = {Kind::First};\nconst int Fields::Count = 1;"_s),
-              (QStringList{u"Wrong"_s, u"Bad"_s, u"Four"_s, u"Six"_s}));
+                               "constexpr Kind kinds[] = {Kind::First};\nconst int Fields::Count = 1;\n"
+                               "    const bool m_isRight = true;\nconst auto key = 1, column2 = 2;"_s),
+              (QStringList{u"Wrong"_s, u"Bad"_s, u"Four"_s, u"Six"_s, u"kBad"_s, u"MAX_ROWS"_s, u"max_rows"_s,
+                           u"cName"_s, u"Grid"_s}));
+}
+
+TEST(Constants, AreNoMacrosAndFunctionsOfAFileAreNotStatic)
+{
+    EXPECT_EQ(
+        macrosAndStaticsIn(u"#define KOVA_EXPORT Q_DECL_EXPORT\n#define LIMIT 3\n  # define TWICE(x) x\n"
+                           "static int count()\n{\n    static const QString once;\n}\n"
+                           "template<typename T> static T most(T a);\n[[nodiscard]] static bool is();\n"
+                           "class A\n{\n    static bool isRight();\n};\nstatic_assert(true);\n"
+                           "inline static int size = 3;"_s),
+        (QStringList{u"#define LIMIT"_s, u"# define TWICE"_s, u"static int count()"_s,
+                     u"template<typename T> static T most(T a);"_s, u"[[nodiscard]] static bool is();"_s,
+                     u"inline static int size = 3;"_s}));
 }
 
 // Programs around the control are hosts, which find its parts by their names.

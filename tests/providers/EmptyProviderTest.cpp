@@ -55,6 +55,15 @@ TEST_F(EmptyProviderTest, ServesItsRows)
     EXPECT_EQ(recordset.Fields().Item(u"text"_s).Value(), QVariant(u"2500"_s));
 }
 
+// Standard SQL reads them so, and nobody knows better.
+TEST_F(EmptyProviderTest, HasNamesWrittenAsInStandardSql)
+{
+    const auto connection = opened(u"provider=EMPTY"_s);
+    EXPECT_EQ(connection->WrittenName(u"plain"_s), u"plain"_s);
+    EXPECT_EQ(connection->WrittenName(u"a \"b"_s), u"\"a \"\"b\""_s);
+    EXPECT_EQ(connection->WrittenName(u"Order"_s), u"\"Order\""_s);
+}
+
 TEST_F(EmptyProviderTest, ServesATableByItsName)
 {
     Recordset recordset;

@@ -1,7 +1,7 @@
 // How each engine's names are written and read.
 #include "sql/Names.h"
 
-#include "sql/ReservedWords.h"
+#include "sql/words/ReservedWords.h"
 
 #include <gtest/gtest.h>
 

@@ -19,9 +19,6 @@ struct Table
 // The tables and views of a connection, by name. Throws ADODB::Error.
 std::vector<Table> read(const QString &connection, qint32 dbType);
 
-// How a name is written in a statement for an engine.
-QString written(const QString &name, const QString &engine);
-
 QString statementFor(const QString &writtenName);
 
 // The connection string for a file of a database; nothing for any other file.

@@ -21,6 +21,11 @@ void ConnectionObject::Close()
     guarded(this, [&] { m_connection->Close(); });
 }
 
+QString ConnectionObject::WrittenName(const QString &name)
+{
+    return guarded(this, [&] { return m_connection->WrittenName(name); });
+}
+
 QString ConnectionObject::connectionString()
 {
     return guarded(this, [&] { return m_connection->ConnectionString(); });

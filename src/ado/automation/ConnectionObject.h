@@ -26,6 +26,7 @@ public:
     Q_INVOKABLE void Open(const QString &connectionString = {}, const QString &user = {},
                           const QString &password = {}, qint32 options = -1);
     Q_INVOKABLE void Close();
+    Q_INVOKABLE QString WrittenName(const QString &name);
 
     // Accessors of the properties.
     QString connectionString();

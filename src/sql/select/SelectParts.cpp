@@ -1,8 +1,8 @@
 #include "sql/select/SelectParts.h"
 
-#include "sql/KnownFunctions.h"
 #include "sql/select/SelectSources.h"
 #include "sql/select/SqlWalk.h"
+#include "sql/words/KnownFunctions.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "sql/KnownFunctions.h"
+#include "sql/words/KnownFunctions.h"
 
 #include <algorithm>
 
