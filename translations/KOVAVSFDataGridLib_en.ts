@@ -876,27 +876,27 @@
     </message>
     <message>
         <source>大于</source>
-        <translation>greater than</translation>
+        <translation>is greater than</translation>
     </message>
     <message>
         <source>小于</source>
-        <translation>less than</translation>
+        <translation>is less than</translation>
     </message>
     <message>
         <source>大于或等于</source>
-        <translation>at least</translation>
+        <translation>is at least</translation>
     </message>
     <message>
         <source>小于或等于</source>
-        <translation>at most</translation>
+        <translation>is at most</translation>
     </message>
     <message>
         <source>介于</source>
-        <translation>between</translation>
+        <translation>is between</translation>
     </message>
     <message>
         <source>在列表中</source>
-        <translation>in list</translation>
+        <translation>is in list</translation>
     </message>
     <message>
         <source>包含</source>
@@ -932,11 +932,11 @@
     </message>
     <message>
         <source>不在列表中</source>
-        <translation>not in list</translation>
+        <translation>is not in list</translation>
     </message>
     <message>
         <source>不介于</source>
-        <translation>not between</translation>
+        <translation>is not between</translation>
     </message>
     <message>
         <source>重复的值</source>
@@ -1601,6 +1601,14 @@
     <message>
         <source>筛选文本是空的。</source>
         <translation>The text with the filters is empty.</translation>
+    </message>
+    <message>
+        <source>保留：%1</source>
+        <translation>Keep: %1</translation>
+    </message>
+    <message>
+        <source>已经生效的条件。去掉勾选，筛选后就不再起作用。</source>
+        <translation>A condition that is in force. Clear the tick to drop it when you filter.</translation>
     </message>
 </context>
 <context>
@@ -2404,6 +2412,14 @@
         <source>保存这条记录（Ctrl+S）</source>
         <translation>Save this record (Ctrl+S)</translation>
     </message>
+    <message>
+        <source>%1/%2</source>
+        <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>新记录</source>
+        <translation>New record</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::LanguageTexts</name>
@@ -2642,7 +2658,7 @@
     </message>
     <message>
         <source>是 %1 之一</source>
-        <translation>in list %1</translation>
+        <translation>is one of %1</translation>
     </message>
     <message>
         <source>为空</source>
@@ -2666,7 +2682,7 @@
     </message>
     <message>
         <source>不满足 %1</source>
-        <translation>not %1</translation>
+        <translation>not (%1)</translation>
     </message>
     <message>
         <source>的值有重复</source>
@@ -2686,7 +2702,7 @@
     </message>
     <message>
         <source>%1 介于 %2 和 %3</source>
-        <translation>%1 between %2 and %3</translation>
+        <translation>%1 is between %2 and %3</translation>
     </message>
     <message>
         <source>%1年</source>

@@ -5,6 +5,7 @@
 #include "filter/SentenceLabel.h"
 #include "filter/WaitCursor.h"
 #include "filter/count/FilterCount.h"
+#include "filter/kept/KeptConditions.h"
 #include "filter/rows/FilterRows.h"
 #include "filter/ticks/TicksDialog.h"
 #include "forms/widgets/FlatCmd.h"
@@ -31,6 +32,7 @@ SetFilter::SetFilter(QWidget *parent)
       m_table(new QLabel(this)),
       m_saved(new SavedFilterMenu(this)),
       m_scroll(new QScrollArea(this)),
+      m_kept(new KeptConditions(m_scroll)),
       m_rows(new FilterRows(m_scroll)),
       m_add(new FlatCmd(FilterTexts::AddRow, this)),
       m_groups(new QCheckBox(FilterTexts::ShowGroups, this)),
@@ -48,7 +50,13 @@ SetFilter::SetFilter(QWidget *parent)
     m_saved->setObjectName(u"cmdSaved"_s);
     m_saved->setSource([this] { return completeState(); });
     m_saved->setWords([this](const BuiltFilter &filter) { return wordsFor(filter); });
-    m_scroll->setWidget(m_rows);
+    auto *parts = new QWidget(m_scroll);
+    auto *lines = new QVBoxLayout(parts);
+    lines->setContentsMargins({});
+    lines->setSpacing(0);
+    lines->addWidget(m_kept);
+    lines->addWidget(m_rows, 1);
+    m_scroll->setWidget(parts);
     m_scroll->setWidgetResizable(true);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setFocusPolicy(Qt::NoFocus);
@@ -78,6 +86,7 @@ SetFilter::SetFilter(QWidget *parent)
 
     connect(m_saved, &SavedFilterMenu::recalled, this, &SetFilter::recall);
     connect(m_rows, &FilterRows::changed, this, &SetFilter::onRowsChanged);
+    connect(m_kept, &KeptConditions::changed, this, &SetFilter::onKeptChanged);
     // A new row, or what is said below one, has its place only once the area has grown.
     connect(m_scroll->verticalScrollBar(), &QScrollBar::rangeChanged, this, &SetFilter::showFocusedPart);
     connect(m_add, &QPushButton::clicked, this, &SetFilter::addRow);
@@ -191,6 +200,8 @@ void SetFilter::readFields()
                             .ticked = named});
         return answer ? std::optional(answer->ticked) : std::nullopt;
     };
+    m_kept->removeAll();
+    m_kept->setDialect(context->dialect);
     m_rows->start(std::move(context));
     m_sql->setChecked(m_fields.empty() || m_isSqlWanted);
     enableParts();
@@ -226,7 +237,7 @@ void SetFilter::onRowsChanged()
     if (m_isByHand)
         return;
     show({});
-    m_sentence->say(m_rows->sentence());
+    m_sentence->say(sentence());
     m_condition->setText(m_rows->preview());
     m_condition->setToolTip(m_condition->text());
     m_condition->setCursorPosition(0);
@@ -248,15 +259,17 @@ void SetFilter::showSql()
 {
     m_conditionLabel->setVisible(m_sql->isChecked());
     m_condition->setVisible(m_sql->isChecked());
+    m_kept->showSql(m_sql->isChecked());
 }
 
 // Where a condition by hand isn't whole yet, the count says that there is none.
 std::optional<CountRequest> SetFilter::countRequest()
 {
     const QString condition = joinStatementLines(m_condition->text()).trimmed();
-    if (condition.isEmpty())
+    const QString all = m_kept->joinedWith(condition.isEmpty() ? QString() : u'(' + condition + u')');
+    if (all.isEmpty())
         return {};
-    return m_source.countRequest(m_currentCondition, condition);
+    return m_source.countRequest(m_currentCondition, m_kept->isAnyKept() ? all : condition);
 }
 
 void SetFilter::backToRows()
@@ -294,14 +307,25 @@ void SetFilter::enableParts()
 
 QString SetFilter::ConditionText()
 {
-    if (m_isByHand)
-        return conditionByHand();
-    QString text = m_rows->checkedText();
-    if (text.isEmpty()) {
+    const std::optional<QString> built = builtText();
+    m_builtCondition = built.value_or(QString());
+    return built ? m_kept->joinedWith(*built) : QString();
+}
+
+// Nothing when something is wrong with it, which is then shown. What is kept needs no other condition.
+std::optional<QString> SetFilter::builtText()
+{
+    const bool isBlank = m_isByHand ? m_condition->text().trimmed().isEmpty() : m_rows->isBlank();
+    if (isBlank && m_kept->isAnyKept())
+        return QString();
+    QString text = m_isByHand ? conditionByHand() : m_rows->checkedText();
+    if (!text.isEmpty())
+        return text;
+    if (!m_isByHand) {
         show(FilterTexts::CorrectRows);
         showFocusedPart();
     }
-    return text;
+    return std::nullopt;
 }
 
 QString SetFilter::conditionByHand()

@@ -2,6 +2,7 @@
 
 #include "filter/FilterSource.h"
 #include "filter/saved/SavedFilterMenu.h"
+#include "query/conditions/ConditionInForce.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QPointer>
@@ -17,6 +18,7 @@ namespace KOVAVSFDataGridLib {
 
 class FilterCount;
 class FilterRows;
+class KeptConditions;
 class SentenceLabel;
 class ValueEdit;
 
@@ -51,8 +53,11 @@ public:
     // so and stays as it is.
     BuiltFilter State() const;
     void PutState(const BuiltFilter &state);
-    // As FilterRow has it. The user has not changed anything then.
+    // As FilterRow has it. The user has not changed anything then, and neither after Begin().
     void Suggest(const QString &field, const QString &value);
+    // Begins with conditions in force: as rows where they were made from such or from ticked values, else as
+    // lines that are kept unless the user unticks them. A field that isn't empty is asked for besides.
+    void Begin(const std::vector<ConditionInForce> &conditions, const QString &field);
     // Whether the user has changed anything since the builder was prepared.
     bool IsChanged() const { return State() != m_stateBefore; }
 
@@ -69,6 +74,8 @@ public:
     // The condition, ready to be joined to others by AND. Empty when there is none or something is wrong with
     // it, which is then shown.
     QString ConditionText();
+    // The same without the conditions in force that are kept; may be empty then. Of the last ConditionText().
+    const QString &BuiltCondition() const { return m_builtCondition; }
 
 private:
     void layOut();
@@ -86,7 +93,11 @@ private:
     std::optional<CountRequest> countRequest();
     void setByHand(bool isByHand);
     void enableParts();
+    std::optional<QString> builtText();
     QString conditionByHand();
+    QString sentence() const;
+    void askFor(const QString &field);
+    void onKeptChanged();
     // Values that were read once are shown again without asking the database.
     void offerValues(const FilterField &field, ValueEdit &edit, int most);
     void onValuesArrived();
@@ -101,11 +112,13 @@ private:
     std::optional<OfferedValues> m_shownValues;
     QString m_caption;
     QString m_currentCondition;
+    QString m_builtCondition;
     BuiltFilter m_stateBefore;
     std::vector<FilterField> m_fields;
     QLabel *m_table;
     SavedFilterMenu *m_saved;
     QScrollArea *m_scroll;
+    KeptConditions *m_kept; // above the rows, in the area too
     FilterRows *m_rows;
     QPushButton *m_add;
     QCheckBox *m_groups;

@@ -1,19 +1,26 @@
 #include "filter/FilterTexts.h"
 #include "filter/SetFilter.h"
 #include "filter/conditions/FilterSentence.h"
+#include "filter/conditions/RestoredRows.h"
+#include "filter/count/FilterCount.h"
+#include "filter/kept/KeptConditions.h"
 #include "filter/rows/FilterRows.h"
 #include "forms/Messages.h"
 
+#include <QtCore/QJsonDocument>
 #include <QtWidgets/QLineEdit>
+
+#include <algorithm>
 
 // What the builder holds, put in and taken out.
 namespace KOVAVSFDataGridLib {
 
 BuiltFilter SetFilter::State() const
 {
+    const QStringList kept = m_kept->kept();
     if (m_isByHand)
-        return {.condition = m_condition->text()};
-    return {.rows = m_rows->state()};
+        return {.condition = m_condition->text(), .kept = kept};
+    return {.rows = m_rows->isBlank() && !kept.isEmpty() ? FilterState() : m_rows->state(), .kept = kept};
 }
 
 void SetFilter::PutState(const BuiltFilter &state)
@@ -29,10 +36,83 @@ void SetFilter::PutState(const BuiltFilter &state)
             show(FilterTexts::FieldMissing.arg(*missing));
         else
             m_rows->focusFirstPart();
+    } else if (!state.kept.isEmpty()) {
+        if (m_isByHand)
+            setByHand(false);
+        m_rows->startAgain();
+        m_rows->focusFirstPart();
     }
+    for (const QString &kept : state.kept)
+        m_kept->add(kept);
+    m_kept->followInTabOrder(m_saved);
     // What is typed next takes its place.
     m_condition->selectAll();
     m_stateBefore = State();
+}
+
+void SetFilter::Begin(const std::vector<ConditionInForce> &conditions, const QString &field)
+{
+    const Dialect dialect = m_source.dialect();
+    FilterScope scope;
+    if (m_source.hasTable())
+        scope.records = {m_source.fromText(), m_currentCondition};
+    BuiltFilter state;
+    for (const ConditionInForce &each : conditions) {
+        const auto rows = rowsOf(each, dialect, m_fields, scope);
+        auto joined = rows ? joinedRows(state.rows, *rows) : std::nullopt;
+        if (joined)
+            state.rows = *std::move(joined);
+        else
+            state.kept.append(each.text);
+    }
+    // One that was typed can be edited where nothing else takes its place.
+    for (const ConditionInForce &each : conditions) {
+        const auto typed = builtFilterOf(QJsonDocument::fromJson(each.built.toUtf8()).object());
+        if (each.field.isEmpty() && typed && !typed->condition.isEmpty() && state.rows.isEmpty() &&
+            field.isEmpty()) {
+            state.kept.removeOne(each.text);
+            state.condition = typed->condition;
+            break;
+        }
+    }
+    PutState(state);
+    if (!field.isEmpty())
+        askFor(field);
+}
+
+void SetFilter::askFor(const QString &field)
+{
+    const FilterState rows = m_rows->state();
+    if (m_rows->isBlank()) {
+        m_rows->suggest(field, {});
+    } else if (std::ranges::find(rows, field, &FilterRowState::field) == rows.end()) {
+        if (const auto bracketed = joinedRows(rows, {FilterRowState{.field = field}}))
+            m_rows->setState(bracketed->first(rows.size()));
+        m_rows->add()->suggest(field, {});
+    }
+    m_stateBefore = State();
+}
+
+QString SetFilter::sentence() const
+{
+    const QStringList kept = m_kept->wordsOf(m_kept->kept());
+    QString rows = m_rows->sentence();
+    if (kept.isEmpty())
+        return rows;
+    rows.chop(rows.isEmpty() ? 0 : FilterTexts::EndOfSentence().size());
+    QStringList parts = kept;
+    if (!rows.isEmpty())
+        parts.append(m_rows->isAlternative() ? FilterTexts::BracketsInSentence.arg(rows) : rows);
+    return parts.join(FilterTexts::AndInSentence()) + FilterTexts::EndOfSentence();
+}
+
+void SetFilter::onKeptChanged()
+{
+    show({});
+    if (m_isByHand)
+        m_count->restart();
+    else
+        onRowsChanged();
 }
 
 void SetFilter::Suggest(const QString &field, const QString &value)
@@ -51,13 +131,16 @@ std::optional<BuiltFilter> SetFilter::completeState()
 
 QString SetFilter::wordsFor(const BuiltFilter &filter) const
 {
-    if (!filter.condition.isEmpty())
-        return filter.condition;
-    QString words = sentenceOf(termsOf(filter.rows, m_fields), QDate::currentDate());
+    QStringList parts = m_kept->wordsOf(filter.kept);
+    QString words = filter.condition;
+    if (!filter.rows.isEmpty())
+        words = sentenceOf(termsOf(filter.rows, m_fields), QDate::currentDate());
     const QString end = FilterTexts::EndOfSentence;
-    if (words.endsWith(end))
+    if (!filter.rows.isEmpty() && words.endsWith(end))
         words.chop(end.size());
-    return words;
+    if (!words.isEmpty())
+        parts.append(words);
+    return parts.join(FilterTexts::AndInSentence());
 }
 
 void SetFilter::recall(const BuiltFilter &filter)

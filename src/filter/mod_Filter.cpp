@@ -66,10 +66,15 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
         builder.SetResult(*request.result);
     else if (m_isTableKnown)
         builder.SetTableName(fromText);
-    if (const auto built = builtFilterOf(QJsonDocument::fromJson(request.built.toUtf8()).object()))
-        builder.PutState(*built);
+    if (!request.replaced.empty())
+        builder.Begin(request.replaced, request.field);
     else if (!request.field.isEmpty())
         builder.Suggest(request.field, request.value);
+}
+
+QString mod_Filter::BuiltCondition() const
+{
+    return m_dialog && !m_strFilterCondition.isEmpty() ? m_dialog->SetFilter1().BuiltCondition() : QString();
 }
 
 QString mod_Filter::Built() const

@@ -3,6 +3,7 @@
 #include "filter/saved/SavedFilterMenu.h"
 #include "query/FilterTableName.h"
 #include "query/StatementSource.h"
+#include "query/conditions/ConditionInForce.h"
 #include "query/derivation/Derivation.h"
 #include "sql/AllDBType.h"
 
@@ -11,6 +12,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 class QWidget;
 
@@ -39,7 +41,9 @@ struct FilterRequest
     // What to begin with: a field, empty for any, and a value of it.
     QString field = {};
     QString value = {};
-    QString built = {};       // or what Built() answered for an earlier condition
+    std::vector<ConditionInForce> replaced =
+        {};                   // conditions to begin with; a field is then asked for besides
+    QString built = {};       // of ticked values: what an earlier choice answered
     FilterShelf shelf = {};   // of the filters that the user keeps for the table
     bool isSqlWanted = false; // to see the condition as SQL
 };
@@ -62,7 +66,9 @@ public:
     // database says against the condition.
     QString ShowFilterDialog(const QString &refusal = {});
 
-    // What the condition was built from, as a text for a later request.
+    // The condition without those in force that the user keeps; empty where he kept them alone. And what it
+    // was built from, as a text for a later request.
+    QString BuiltCondition() const;
     QString Built() const;
 
     // Whether the user wanted to see the condition as SQL when the dialog closed.

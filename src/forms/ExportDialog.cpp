@@ -121,11 +121,9 @@ void ExportDialog::layOut(const Choices &choices)
     auto *browseButton = named(new QPushButton(FormTexts::Browse), u"cmdBrowse"_s);
     browseButton->setAutoDefault(false);
     connect(browseButton, &QPushButton::clicked, this, &ExportDialog::browse);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    auto *buttons = new QDialogButtonBox;
     auto *ok = named(buttons->addButton(FormTexts::ExportButton, QDialogButtonBox::AcceptRole), u"cmdOK"_s);
-    QPushButton *const cancel = buttons->button(QDialogButtonBox::Cancel);
-    cancel->setObjectName(u"cmdCancel"_s);
-    cancel->setText(FormTexts::Cancel);
+    auto *cancel = named(buttons->addButton(FormTexts::Cancel, QDialogButtonBox::RejectRole), u"cmdCancel"_s);
     cancel->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::accepted, this, &ExportDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -71,15 +71,33 @@ bool FileDialog::isQtsOwn() const
 
 void FileDialog::showEvent(QShowEvent *event)
 {
-    nameParts();
+    start();
     QFileDialog::showEvent(event);
+}
+
+// Qt then writes its own words, in the parts as well, which have had the event when this one is through.
+bool FileDialog::event(QEvent *event)
+{
+    const bool isHandled = QFileDialog::event(event);
+    if (event->type() == QEvent::LanguageChange && m_isStarted)
+        nameParts();
+    return isHandled;
+}
+
+void FileDialog::start()
+{
+    if (!isQtsOwn() || m_isStarted)
+        return;
+    m_isStarted = true;
+    nameParts();
+    // Qt writes its own word where a folder is chosen, and whenever there is another text.
+    connect(findChild<QLineEdit *>(nameEdit), &QLineEdit::textChanged, this, &FileDialog::nameAccept);
+    connect(this, &QFileDialog::currentChanged, this, &FileDialog::nameAccept);
+    connect(this, &QFileDialog::directoryEntered, this, &FileDialog::nameAccept, Qt::QueuedConnection);
 }
 
 void FileDialog::nameParts()
 {
-    if (!isQtsOwn() || m_isNamed)
-        return;
-    m_isNamed = true;
     setLabelText(LookIn, FormTexts::LookInFolder);
     setLabelText(FileName, FormTexts::NameOfFile);
     setLabelText(FileType, FormTexts::TypeOfFile);
@@ -110,10 +128,6 @@ void FileDialog::nameParts()
             list->setAccessibleName(text);
     }
     nameAccept();
-    // Qt writes its own word where a folder is chosen, and whenever there is another text.
-    connect(findChild<QLineEdit *>(nameEdit), &QLineEdit::textChanged, this, &FileDialog::nameAccept);
-    connect(this, &QFileDialog::currentChanged, this, &FileDialog::nameAccept);
-    connect(this, &QFileDialog::directoryEntered, this, &FileDialog::nameAccept, Qt::QueuedConnection);
 }
 
 void FileDialog::nameAccept()

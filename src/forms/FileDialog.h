@@ -23,6 +23,7 @@ public:
     FileDialog(QWidget *parent, const QString &title, const QString &start, const QString &filters);
 
 protected:
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void accept() override;
 
@@ -30,10 +31,11 @@ private:
     static QString ask(QPointer<FileDialog> dialog, QString *filter);
 
     bool isQtsOwn() const;
+    void start();
     void nameParts();
     void nameAccept();
 
-    bool m_isNamed = false;
+    bool m_isStarted = false;
 };
 
 } // namespace KOVAVSFDataGridLib

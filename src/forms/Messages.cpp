@@ -22,9 +22,38 @@ struct Message
     QMessageBox::StandardButton onEnter = QMessageBox::NoButton;
 };
 
-QMessageBox *newBox(QWidget *parent, const Message &message)
+// A box whose buttons are in the language of the texts, whatever translator the host has installed.
+class Box final : public QMessageBox
 {
-    auto *const box = new QMessageBox(parent);
+public:
+    using QMessageBox::QMessageBox;
+
+    void nameButtons()
+    {
+        const std::pair<StandardButton, Text> captions[] = {
+            {Ok, FormTexts::Ok},     {Yes, FormTexts::Yes},         {No, FormTexts::No},
+            {Save, FormTexts::Save}, {Discard, FormTexts::Discard}, {Cancel, FormTexts::Cancel}};
+        for (const auto &[standard, caption] : captions) {
+            if (QAbstractButton *const named = button(standard))
+                named->setText(caption);
+        }
+    }
+
+protected:
+    // Qt then writes its own captions, also when the translator came just before the box. Its buttons have
+    // had the event when this one is through.
+    bool event(QEvent *event) override
+    {
+        const bool isHandled = QMessageBox::event(event);
+        if (event->type() == QEvent::LanguageChange)
+            nameButtons();
+        return isHandled;
+    }
+};
+
+Box *newBox(QWidget *parent, const Message &message)
+{
+    auto *const box = new Box(parent);
     box->setTextFormat(Qt::PlainText);
     box->setText(message.text);
     box->setInformativeText(message.cause);
@@ -35,26 +64,13 @@ QMessageBox *newBox(QWidget *parent, const Message &message)
     return box;
 }
 
-// In the language of the texts, whatever translator the host has installed.
-void nameButtons(QMessageBox &box)
-{
-    const std::pair<QMessageBox::StandardButton, Text> captions[] = {
-        {QMessageBox::Ok, FormTexts::Ok},           {QMessageBox::Yes, FormTexts::Yes},
-        {QMessageBox::No, FormTexts::No},           {QMessageBox::Save, FormTexts::Save},
-        {QMessageBox::Discard, FormTexts::Discard}, {QMessageBox::Cancel, FormTexts::Cancel}};
-    for (const auto &[button, caption] : captions) {
-        if (QAbstractButton *const named = box.button(button))
-            named->setText(caption);
-    }
-}
-
 int show(QWidget *parent, const Message &message, QMessageBox::StandardButtons buttons,
          QMessageBox::StandardButton onEscape)
 {
     // On the heap, because the parent owns it as well: either may go first.
-    const QPointer<QMessageBox> box = newBox(parent, message);
+    const QPointer<Box> box = newBox(parent, message);
     box->setStandardButtons(buttons);
-    nameButtons(*box);
+    box->nameButtons();
     box->setDefaultButton(message.onEnter);
     box->setEscapeButton(onEscape);
     const int answer = box->exec();
@@ -78,9 +94,9 @@ void showWithCause(QWidget *parent, const QString &text, const QString &cause)
 
 bool offer(QWidget *parent, const QString &text, const QString &cause, const QString &button)
 {
-    const QPointer<QMessageBox> box = newBox(parent, {text, {}, cause});
+    const QPointer<Box> box = newBox(parent, {text, {}, cause});
     box->addButton(QMessageBox::Ok);
-    nameButtons(*box);
+    box->nameButtons();
     const QPointer<QAbstractButton> offered = box->addButton(button, QMessageBox::ActionRole);
     box->setDefaultButton(QMessageBox::Ok);
     box->setEscapeButton(QMessageBox::Ok);
@@ -100,9 +116,9 @@ bool ask(QWidget *parent, const QString &text, const QString &title, QMessageBox
 QMessageBox::StandardButton askToSave(QWidget *parent, const QString &text, const QString &title,
                                       const QString &offered)
 {
-    const QPointer<QMessageBox> box = newBox(parent, {text, title, {}, QMessageBox::Warning});
+    const QPointer<Box> box = newBox(parent, {text, title, {}, QMessageBox::Warning});
     box->setStandardButtons(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
-    nameButtons(*box);
+    box->nameButtons();
     const QPointer<QAbstractButton> offer =
         offered.isEmpty() ? nullptr : box->addButton(offered, QMessageBox::ActionRole);
     box->setDefaultButton(QMessageBox::Save);
@@ -119,7 +135,7 @@ void showLater(const QString &text)
 {
     auto *const box = newBox(nullptr, {text, {}, {}, QMessageBox::Warning});
     box->setStandardButtons(QMessageBox::Ok);
-    nameButtons(*box);
+    box->nameButtons();
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::NonModal);
     box->show();

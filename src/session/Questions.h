@@ -4,6 +4,7 @@
 #include "export/ExportFormat.h"
 #include "export/WriteRecords.h"
 #include "query/StatementSource.h"
+#include "query/conditions/ConditionInForce.h"
 #include "query/derivation/Derivation.h"
 #include "query/fields/FieldChooser.h"
 
@@ -39,9 +40,13 @@ struct ConditionRequest
     QString value = {};
     // Whose filters are kept for the user; empty for none.
     QString table = {};
-    // To begin with instead: what the condition in force was built from, as whoever is asked wrote it. Then
-    // what the condition that is answered was built from.
+    // The conditions that the one asked for replaces; to begin with, all of them.
+    std::vector<ConditionInForce> replaced = {};
+    // Of a choice of values: what the one in force was made from, as whoever is asked wrote it.
+    // Of a condition that is answered: what was built anew in it, and what from. The rest of it are some of
+    // `replaced`, which the user keeps.
     mutable QString built = {};
+    mutable QString builtCondition = {};
 };
 
 // A column whose records the user chooses by their values.

@@ -36,6 +36,19 @@ std::string fault(const char *text)
 
 } // namespace
 
+TEST(SavedFilters, HaveTheConditionsThatAreKept)
+{
+    for (BuiltFilter filter : {byHand(u"a > 1"_s), thisMonth(), BuiltFilter()}) {
+        filter.kept = {u"b = 'x  y' OR c = 2"_s, u"d LIKE '%\n%'"_s};
+        EXPECT_EQ(builtFilterOf(toJson(filter)), filter);
+    }
+    EXPECT_EQ(fault(R"({"filters":1,"named":[{"name":"a","kept":["b = 1"]}]})"), "none");
+    for (const char *kept : {"[]", "[\"\"]", "[1]", "\"b\""}) {
+        const QByteArray text = QByteArray(R"({"filters":1,"named":[{"name":"a","kept":)") + kept + "}]}";
+        EXPECT_NE(fault(text.constData()), "none") << kept;
+    }
+}
+
 TEST(SavedFilters, SurviveTheWayIntoATextWithTheirRelativeDays)
 {
     SavedFilters filters;

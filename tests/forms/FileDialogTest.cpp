@@ -100,6 +100,21 @@ TEST_P(FileDialogs, HaveNoTextInAnotherLanguage)
     }
 }
 
+TEST_P(FileDialogs, FollowTheLanguageWhileTheyAreOpen)
+{
+    static const QRegularExpression letters(u"(?<![&A-Za-z])[A-Za-z]{2,}"_s);
+    static const QRegularExpression chinese(u"\\p{Han}"_s);
+    FileDialog dialog(nullptr, u"1"_s, folder.path(), u"1 (*.1)"_s);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    present(dialog);
+    Language::use(isEnglish ? u"zh-CN"_s : u"en"_s);
+    QCoreApplication::sendPostedEvents();
+    for (const QString &text : textsOf(dialog))
+        EXPECT_FALSE(text.contains(isEnglish ? letters : chinese)) << qUtf8Printable(text);
+    EXPECT_EQ(name(dialog).text(), QString());
+    button(dialog, isEnglish ? u"保存(&S)"_s : u"&Save"_s);
+}
+
 TEST_P(FileDialogs, AskBeforeAFileIsReplacedInTheSameLanguage)
 {
     MessageAnswers answers({QMessageBox::No, QMessageBox::Yes});

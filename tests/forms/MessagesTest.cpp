@@ -2,6 +2,8 @@
 // their texts.
 #include "forms/Messages.h"
 
+#include "language/Language.h"
+
 #include <QtCore/QTimer>
 #include <QtCore/QTranslator>
 #include <QtWidgets/QAbstractButton>
@@ -9,19 +11,24 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <optional>
 
 using namespace KOVAVSFDataGridLib;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// The captions of the box that `show` opens, without the marks of their keys, in alphabetical order.
-QStringList captionsOf(const std::function<void()> &show)
+// The captions of the box that `show` opens, in alphabetical order, after what happens `meanwhile`.
+QStringList captionsOf(const std::function<void()> &show, const std::function<void()> &meanwhile = {})
 {
     QStringList captions;
     QTimer::singleShot(0, qApp, [&] {
         auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         ASSERT_TRUE(box);
+        if (meanwhile) {
+            meanwhile();
+            QCoreApplication::sendPostedEvents(); // as Qt posts the change to the windows
+        }
         for (const QAbstractButton *button : box->buttons())
             captions += button->text();
         box->reject();
@@ -76,4 +83,29 @@ TEST(Messages, TheHostsTranslatorNamesNoButton)
     EXPECT_EQ(captionsOf([] { Messages::askToSave(nullptr, u"没有保存"_s, u"记录"_s); }),
               QStringList({u"保存(&S)"_s, u"取消"_s, u"放弃(&D)"_s}));
     EXPECT_EQ(captionsOf([] { Messages::show(nullptr, u"已加载"_s); }), QStringList(u"确定"_s));
+}
+
+TEST(Messages, ATranslatorThatComesWhileABoxIsOpenNamesNoButton)
+{
+    std::optional<HostTranslator> translator;
+    EXPECT_EQ(captionsOf([] { Messages::ask(nullptr, u"删除？"_s, u"删除"_s, QMessageBox::Question); },
+                         [&] { translator.emplace(); }),
+              QStringList({u"否(&N)"_s, u"是(&Y)"_s}));
+}
+
+// The windows hear of it later, when the box is there.
+TEST(Messages, ATranslatorThatComesJustBeforeABoxNamesNoButton)
+{
+    QWidget window;
+    window.show();
+    const HostTranslator translator;
+    EXPECT_EQ(captionsOf([&] { Messages::askToSave(&window, u"没有保存"_s, u"记录"_s); }, [] {}),
+              QStringList({u"保存(&S)"_s, u"取消"_s, u"放弃(&D)"_s}));
+}
+
+TEST(Messages, ABoxThatIsOpenFollowsTheLanguage)
+{
+    EXPECT_EQ(captionsOf([] { Messages::show(nullptr, u"已加载"_s); }, [] { Language::use(u"en"_s); }),
+              QStringList(u"OK"_s));
+    Language::use(u"zh-CN"_s);
 }

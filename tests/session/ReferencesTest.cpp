@@ -10,6 +10,7 @@
 #include "query/SharedValues.h"
 #include "session/LoadResult.h"
 #include "session/Session.h"
+#include "session/records/FilledFields.h"
 #include "session/records/ForeignValues.h"
 
 using namespace KOVAVSFDataGridLib;
@@ -170,6 +171,32 @@ TEST_P(References, ToAGuidCanBeStoredAsTheyAreListed)
     field(u"k"_s).PutValue(pears.keys.front());
     session->result().recordset()->Update();
     EXPECT_TRUE(database->ask(u"SELECT k FROM kova_refs"_s).contains(u"10000000-"_s));
+}
+
+// A record needs no value in these columns, whichever way they have one of their own.
+TEST_P(References, ColumnsThatTheDatabaseFillsAreKnown)
+{
+    const bool isPostgres = QLatin1StringView(engine.name).startsWith("PostgreSQL"_L1);
+    const QString key = isPostgres           ? u"id SERIAL PRIMARY KEY"_s
+                        : engine.isMariaDb() ? u"id INTEGER AUTO_INCREMENT PRIMARY KEY"_s
+                                             : u"id INTEGER PRIMARY KEY NOT NULL"_s;
+    const QString others = isPostgres ? u", i INTEGER GENERATED ALWAYS AS IDENTITY,"
+                                        " g INTEGER GENERATED ALWAYS AS (c * 2) STORED NOT NULL"_s
+                                      : QString();
+    const auto drop = [this] { database->run({u"DROP TABLE IF EXISTS kova_filled"_s}); };
+    drop();
+    database->run({u"CREATE TABLE kova_filled ("_s + key +
+                   u", c INTEGER NOT NULL, n INTEGER DEFAULT 5 NOT NULL, t VARCHAR(20) NOT NULL"_s + others +
+                   u')'});
+    session->texts.sqlShow = u"SELECT * FROM kova_filled"_s;
+    ASSERT_TRUE(loadResult(*session)) << qUtf8Printable(user.messages.join(u'|'));
+    const std::set<int> filled = filledFields(*session);
+    EXPECT_TRUE(filled.contains(2)) << "it has a default";
+    EXPECT_FALSE(filled.contains(1) || filled.contains(3)) << "these need a value";
+    const bool isCountedKnown = isPostgres || engine.isMariaDb() || !engine.variable;
+    EXPECT_TRUE(!isCountedKnown || filled.contains(0)) << "it is counted";
+    EXPECT_TRUE(!isPostgres || (filled.contains(4) && filled.contains(5))) << "identity and computed";
+    drop();
 }
 
 TEST(ReferencesOfUntoldTables, AreReadOffTheStatement)

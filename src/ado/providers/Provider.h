@@ -64,6 +64,13 @@ public:
     {
         return std::nullopt;
     }
+    // The columns of a table that the engine gives a value where a new record has none. `table` names no
+    // column. Asks whether to go on as prepare() does.
+    virtual QStringList filledColumns(const TableColumn & /*table*/,
+                                      const std::function<bool()> & /*shouldContinue*/)
+    {
+        return {};
+    }
     // The statement that reads a whole table.
     virtual QString tableStatement(const QString &table) const = 0;
     // Whether another session that is opened in the same way finds the same data. Not where a database lives

@@ -151,16 +151,22 @@ void ControlWindow::offerToSave()
     m_parts.layOutFoot();
 }
 
-// Which record is current, in words.
-QString ControlWindow::place() const
+// Which record is current, in words; each time in fewer, of which what isn't saved is the last to go.
+QStringList ControlWindow::places() const
 {
     const ADODB::Recordset &recordset = *m_session->result().recordset();
-    const QString unsaved = isUnsaved() ? GridTexts::Unsaved : QString();
-    if (recordset.EditMode() == ADODB::adEditAdd)
-        return GridTexts::NewRecord.arg(grouped(recordset.RecordCount())) + unsaved;
-    return GridTexts::RecordOf.arg(grouped(std::max<qint64>(0, recordset.AbsolutePosition())),
-                                   grouped(recordset.RecordCount())) +
-           unsaved;
+    const QString position = grouped(std::max<qint64>(0, recordset.AbsolutePosition()));
+    const QString count = grouped(recordset.RecordCount());
+    QStringList places = recordset.EditMode() == ADODB::adEditAdd
+                             ? QStringList{GridTexts::NewRecord.arg(count), GridTexts::NewRecordBriefly}
+                             : QStringList{GridTexts::RecordOf.arg(position, count),
+                                           GridTexts::RecordOfBriefly.arg(position, count)};
+    if (!isUnsaved())
+        return places;
+    for (QString &place : places)
+        place += GridTexts::Unsaved;
+    places.append(GridTexts::Unsaved().trimmed());
+    return places;
 }
 
 void ControlWindow::refreshStatus()
@@ -174,7 +180,7 @@ void ControlWindow::refreshStatus()
     }
     QString statement;
     m_session->history().GetLatestSQL(statement);
-    m_parts.lblStatement->show(statement.isEmpty() ? QString() : place(), statement);
+    m_parts.lblStatement->show(places(), statement);
     m_parts.describeGrid();
     if (m_session->result().recordset()->RecordCount() > 0)
         m_parts.lblEmpty->showText({});

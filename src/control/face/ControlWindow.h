@@ -44,7 +44,7 @@ public:
 private:
     QWidget &progressWindow() override { return m_control; }
     QRect progressPlace() const override;
-    QString place() const;
+    QStringList places() const;
     bool isUnsaved() const;
     void offerToSave();
 

@@ -38,6 +38,8 @@ public:
     // and says so. False when there is no such field or no record, and when the text is too long to be
     // edited, which the user has been told.
     bool begin(int gridCol, const std::optional<QString> &typed = {});
+    // Writes Null in place of what is typed; says so where the field takes none.
+    void clear();
     // Whether the field in that column can be written.
     bool canWrite(int gridCol) const;
     bool isOpen() const;
@@ -79,8 +81,6 @@ private:
     ListedValues knownValues() const;
     ListedValues valuesOfColumn(const QString &search) const;
     std::optional<QString> commit(Written what);
-    // Writes Null in place of what was typed; says so where the field takes none.
-    void clear();
     // The same; throws ADODB::Error where the text doesn't fit.
     void writeAndClose(Written what);
     void write(Written what);

@@ -3,6 +3,7 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "ado/ValueText.h"
+#include "ado/connection/Waiting.h"
 #include "control/input/InputEvents.h"
 #include "control/input/MenuKey.h"
 #include "control/input/record/FieldRules.h"
@@ -22,9 +23,11 @@
 #include "session/Session.h"
 #include "session/commands/CommandKeys.h"
 #include "session/editing/EditedRecord.h"
+#include "session/records/FilledFields.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
+#include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QHeaderView>
@@ -153,18 +156,48 @@ void SingleRecordView::listFields()
 {
     m_fields.clear();
     bool hasBinary = false;
+    const auto recordset = m_session.result().recordset();
+    const bool isLearned = recordset && m_learnedOf.lock() == recordset;
     const int fields = m_session.result().isOpen() ? m_session.result().recordset()->Fields().Count() : 0;
     for (int i = 0; i < fields; ++i) {
         const ADODB::Field &field = m_session.result().recordset()->Fields().Item(i);
         ListedField listed{.field = i, .isBinary = PictureFields::isBinary(field)};
         listed.format = shownFormat(field);
-        listed.isRequired = !m_session.record().isReadOnly() && isRequired(field);
+        listed.isRequired =
+            isLearned && !m_session.record().isReadOnly() && isRequired(field) && !m_filledFields.contains(i);
         hasBinary |= listed.isBinary;
         if (!isListed(field) && !m_heading.hasPictures())
             continue;
         m_fields.push_back(std::move(listed));
     }
     m_heading.offerPictures(hasBinary);
+    if (!isLearned)
+        QTimer::singleShot(0, this, &SingleRecordView::learnFilledFields);
+}
+
+// Marks what is required. The database is asked once for a result, when the record is there to be seen.
+void SingleRecordView::learnFilledFields()
+{
+    const auto recordset = m_session.result().recordset();
+    // Not while something else waits for the database; the next record asks again.
+    if (!m_session.result().isOpen() || m_learnedOf.lock() == recordset || m_session.record().isReadOnly() ||
+        ADODB::Waiting::isWatched())
+        return;
+    const QPointer<SingleRecordView> alive(this);
+    std::set<int> filled;
+    bool isAnyRequired = false;
+    for (int i = 0; i < recordset->Fields().Count(); ++i)
+        isAnyRequired |= isRequired(recordset->Fields().Item(i));
+    if (isAnyRequired)
+        filled = filledFields(m_session);
+    if (!alive || m_session.result().recordset() != recordset)
+        return;
+    m_filledFields = std::move(filled);
+    m_learnedOf = recordset;
+    for (ListedField &listed : m_fields)
+        listed.isRequired =
+            isRequired(recordset->Fields().Item(listed.field)) && !m_filledFields.contains(listed.field);
+    m_parts.MSFlexGrid1->viewport()->update();
 }
 
 // Rows with a picture are higher.
@@ -269,10 +302,10 @@ bool SingleRecordView::handleEvent(QObject *watched, QEvent *event)
     const auto *source = static_cast<const QWidget *>(watched);
     switch (event->type()) {
     case QEvent::ShortcutOverride:
-        // A record that has changes is saved by the key that exports otherwise, and a picture cleared by the
-        // one that leads to another view.
+        // A record that has changes is saved by the key that exports otherwise, and a value cleared by the
+        // one that shows the whole table: who is at a value means the value, and would lose the place.
         if ((isSave(*static_cast<QKeyEvent *>(event)) && m_session.record().hasUnsavedChanges()) ||
-            (isClear(*static_cast<QKeyEvent *>(event)) && isPictureCurrent()))
+            (isClear(*static_cast<QKeyEvent *>(event)) && watched == m_parts.MSFlexGrid1))
             event->accept();
         return false;
     case QEvent::KeyPress:
@@ -311,8 +344,8 @@ bool SingleRecordView::keyPressed(const QKeyEvent &event)
         m_heading.clickPictures();
         return true;
     }
-    if (isClear(event) && isPictureCurrent()) {
-        clearPicture();
+    if (isClear(event)) {
+        clearCurrent();
         return true;
     }
     if (isSave(event)) {
@@ -345,10 +378,14 @@ bool SingleRecordView::editCurrent()
     return true;
 }
 
-void SingleRecordView::clearPicture()
+void SingleRecordView::clearCurrent()
 {
-    if (m_editor.canWrite(currentGridCol()))
+    if (!isPictureCurrent()) {
+        if (m_editor.begin(currentGridCol()) && m_editor.canWrite(currentGridCol()))
+            m_editor.clear();
+    } else if (m_editor.canWrite(currentGridCol())) {
         m_pictureFields.clear(currentGridCol() - 1);
+    }
 }
 
 void SingleRecordView::doubleClicked(const QWidget &source, const QMouseEvent &event)

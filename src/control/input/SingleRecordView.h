@@ -8,6 +8,8 @@
 
 #include <QtCore/QObject>
 
+#include <memory>
+#include <set>
 #include <vector>
 
 class QKeyEvent;
@@ -59,9 +61,10 @@ private:
     bool keyPressed(const QKeyEvent &event);
     void doubleClicked(const QWidget &source, const QMouseEvent &event);
     bool editCurrent();
-    void clearPicture();
+    void clearCurrent();
     bool isPictureCurrent() const;
     void listFields();
+    void learnFilledFields();
     void showPictures();
     void fitNameColumn();
     void togglePictures();
@@ -76,6 +79,9 @@ private:
     PictureFields m_pictureFields;
     RecordHeading m_heading;
     std::vector<ListedField> m_fields; // of the rows below the heading
+    // Those that need no value from the user, once the database was asked about this result.
+    std::set<int> m_filledFields;
+    std::weak_ptr<ADODB::Recordset> m_learnedOf;
     CellEditor m_editor;
 };
 

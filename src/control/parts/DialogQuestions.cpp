@@ -77,6 +77,7 @@ QString DialogQuestions::askCondition(const ConditionRequest &request)
     request.memory = filter;
     QString condition = filter->ShowFilterDialog(request.refusal);
     request.built = filter->Built();
+    request.builtCondition = filter->BuiltCondition();
     saveSqlWanted(filter->IsSqlWanted());
     return condition;
 }
@@ -100,6 +101,7 @@ FilterRequest DialogQuestions::filterRequest(const ConditionRequest &request) co
     prepared.field = request.field;
     prepared.value = request.value;
     prepared.built = request.built;
+    prepared.replaced = request.replaced;
     prepared.isSqlWanted = readSqlWanted();
     prepared.picture = toolbarIcon(CommandKeys::Filter);
     if (!request.table.isEmpty()) {

@@ -147,7 +147,8 @@ int GridParts::gap() const
 
 // The page box, its button, the label, the selection's summary and the statement from the left, the check box
 // at the right edge. When it gets narrow, the statement gives way, then the label, then box and button, and
-// the check box last. What saves a record takes its room from the statement and the label.
+// the check box last. What saves a record, and the place that tells it isn't saved, take their room from all
+// of these but the check box.
 void GridParts::layOutFoot() const
 {
     const QRect strip = foot();
@@ -168,19 +169,24 @@ void GridParts::layOutFoot() const
     };
     const int digit = txtPage->fontMetrics().horizontalAdvance(u'0');
     const int caption = cmdPgae->fontMetrics().horizontalAdvance(cmdPgae->text());
+    const bool canSave = !cmdSaveRecord->isHidden();
+    const int saveNeeds =
+        canSave ? cmdSaveRecord->sizeHint().width() + lblStatement->smallestWidth() + 3 * gap : 0;
     const bool isNarrow =
-        8 * digit + cmdPgae->sizeHint().width() + CheckSelAllRow->sizeHint().width() + 4 * gap > width;
+        8 * digit + cmdPgae->sizeHint().width() + CheckSelAllRow->sizeHint().width() + 4 * gap + saveNeeds >
+        width;
     place(txtPage, (isNarrow ? 4 : 8) * digit);
     place(cmdPgae, isNarrow ? caption + 2 * gap : cmdPgae->sizeHint().width());
     const int checkWidth = std::min(CheckSelAllRow->sizeHint().width(), width - gap - x);
     const int room = std::max(0, width - checkWidth - 2 * gap - x);
-    const int saveWidth = cmdSaveRecord->isHidden() ? 0 : std::min(room, cmdSaveRecord->sizeHint().width());
+    const int saveWidth = canSave ? std::min(room, cmdSaveRecord->sizeHint().width()) : 0;
     const int saveRoom = saveWidth > 0 ? saveWidth + gap : 0;
-    const int labelWidth = std::clamp(room - saveRoom, 0, lblFieldCount->sizeHint().width());
+    const int placeRoom = canSave ? lblStatement->widthOfPlace() + gap : 0;
+    const int labelWidth = std::clamp(room - saveRoom - placeRoom, 0, lblFieldCount->sizeHint().width());
     place(lblFieldCount, labelWidth);
     int rest = std::max(0, room - saveRoom - labelWidth - gap);
     if (!lblSummary->isHidden()) {
-        const int summaryWidth = std::min(rest, lblSummary->sizeHint().width());
+        const int summaryWidth = std::clamp(rest - placeRoom, 0, lblSummary->sizeHint().width());
         if (summaryWidth > 0)
             divide(x);
         place(lblSummary, summaryWidth);

@@ -40,6 +40,8 @@ inline constexpr Text ShowNewValues = tr("查看新值(&V)");
 // The line below the grid: position, count, statement.
 inline constexpr Text RecordOf = tr("第 %1 条，共 %2 条");
 inline constexpr Text NewRecord = tr("新记录，共 %1 条");
+inline constexpr Text RecordOfBriefly = tr("%1/%2");
+inline constexpr Text NewRecordBriefly = tr("新记录");
 inline constexpr Text Unsaved = tr("（未保存）");
 inline constexpr Text SaveRecord = tr("保存(&S)");
 inline constexpr Text SaveRecordTip = tr("保存这条记录（Ctrl+S）");

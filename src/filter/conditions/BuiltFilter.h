@@ -3,14 +3,17 @@
 #include "filter/conditions/FilterState.h"
 
 #include <QtCore/QJsonObject>
+#include <QtCore/QStringList>
 
 namespace KOVAVSFDataGridLib {
 
-// What a condition was built from: the rows of the builder, or a text that was typed instead of them.
+// What a condition was built from: the rows of the builder, or a text that was typed instead of them, and
+// conditions that were in force and are kept.
 struct BuiltFilter
 {
     FilterState rows = {};
     QString condition = {}; // then there are no rows
+    QStringList kept = {};  // each as statements have it
 
     bool operator==(const BuiltFilter &) const = default;
 };

@@ -159,6 +159,12 @@ FilterCondition FilterRow::condition(bool isComplement) const
                         : conditionOf(m_context->dialect, choice(), m_context->scope());
 }
 
+bool FilterRow::isBlank() const
+{
+    const int count = valueCount(op());
+    return count > 0 && m_value->text().isEmpty() && (count == 1 || m_lastValue->text().isEmpty());
+}
+
 FilterChoice FilterRow::choice() const
 {
     return {field(), op(), m_value->text(), m_lastValue->text(), m_not->isChecked(), m_withNull->isChecked()};

@@ -64,6 +64,8 @@ public:
     FilterRowState state() const;
     bool setState(const FilterRowState &state);
     FilterChoice choice() const;
+    // Whether values are missing and none is begun.
+    bool isBlank() const;
     // Begins with a field, and with a value that the next text typed replaces; without a value the keyboard
     // goes to the operator.
     void suggest(const QString &field, const QString &value);

@@ -167,6 +167,17 @@ std::optional<FilterNode> FilterRows::completeTree() const
                : std::nullopt;
 }
 
+bool FilterRows::isBlank() const
+{
+    return m_rows.size() == 1 && m_rows.constFirst()->isBlank();
+}
+
+bool FilterRows::isAlternative() const
+{
+    const auto tree = completeTree();
+    return tree && tree->kind == FilterNode::Kind::Any && tree->parts.size() > 1;
+}
+
 QString FilterRows::sentence() const
 {
     const auto tree = completeTree();

@@ -21,6 +21,7 @@ public:
 
     // Starts again with one row over these fields.
     void start(std::shared_ptr<const FilterRowContext> context);
+    void startAgain() { start(m_context); }
     FilterRow *add() { return addTo(0); }
     void focusFirstPart();
 
@@ -30,6 +31,10 @@ public:
     std::optional<QString> setState(const FilterState &state);
     // As FilterRow has it, in the first row.
     void suggest(const QString &field, const QString &value);
+    // Whether there is only one row, which nothing was typed into.
+    bool isBlank() const;
+    // Whether OR joins the complete rows.
+    bool isAlternative() const;
     // The complete rows as a sentence; empty while their brackets don't match.
     QString sentence() const;
 

@@ -64,6 +64,17 @@ std::vector<TextRange> conditionParts(const SqlScanner &statement, TextRange con
     return parts;
 }
 
+QStringList textsOfParts(const QString &condition, const Dialect &dialect)
+{
+    const SqlScanner sql(condition, dialect);
+    QStringList texts;
+    if (sql.count() == 0)
+        return texts;
+    for (const TextRange &part : conditionParts(sql, {0, sql.count()}))
+        texts.append(textOf(sql, part));
+    return texts;
+}
+
 QStringList fieldsOfCondition(const SqlScanner &statement, TextRange condition)
 {
     QStringList fields;

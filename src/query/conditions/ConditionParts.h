@@ -10,6 +10,8 @@ namespace KOVAVSFDataGridLib {
 // The conditions that AND joins, brackets around them left out; one, where OR joins them. `condition` is
 // without the word WHERE.
 std::vector<TextRange> conditionParts(const SqlScanner &statement, TextRange condition);
+// The same of a condition that stands alone, as texts.
+QStringList textsOfParts(const QString &condition, const Dialect &dialect);
 
 // The fields that a condition names, each once, without tables and quotes.
 QStringList fieldsOfCondition(const SqlScanner &statement, TextRange condition);

@@ -8,12 +8,10 @@
 #include "ado/values/FieldValue.h"
 #include "query/clsFilterManagement.h"
 #include "session/Session.h"
-#include "session/statement/ShownStatement.h"
+#include "session/records/ColumnOfField.h"
 #include "sql/Like.h"
 #include "sql/Names.h"
 #include "sql/Predicates.h"
-#include "sql/SqlScanner.h"
-#include "sql/select/SimpleSelect.h"
 
 #include <algorithm>
 
@@ -24,28 +22,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 mostValues = 1000;
-
-// The column of a table that a field shows; empty where it is none. Some drivers don't tell; the statement
-// does, if it is one of a single table.
-ADODB::TableColumn columnOf(const Session &session, const Dialect &dialect, const ADODB::Field &field)
-{
-    ADODB::TableColumn column{{}, field.BaseTableName(), field.BaseColumnName()};
-    const SimpleSelect select = SimpleSelect::parse(SqlScanner(session.shown().text(), dialect));
-    if (select.fault != SimpleSelect::Fault::None)
-        return column;
-    if (column.table.isEmpty()) {
-        const bool hasAll = std::ranges::any_of(select.items, &SimpleSelect::Item::all);
-        const auto index = static_cast<std::size_t>(field.Index());
-        column.table = select.table;
-        if (hasAll)
-            column.column = select.items.size() == 1 ? field.Name() : QString();
-        else
-            column.column = index < select.items.size() ? select.items[index].column : QString();
-    }
-    if (column.table.compare(select.table, Qt::CaseInsensitive) == 0)
-        column.schema = select.schema;
-    return column;
-}
 
 // A table that is referred to.
 struct Referenced

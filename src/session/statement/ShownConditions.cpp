@@ -10,6 +10,10 @@
 #include "session/statement/ShownStatement.h"
 
 #include <algorithm>
+#include <map>
+#include <numeric>
+#include <optional>
+#include <ranges>
 
 namespace KOVAVSFDataGridLib {
 
@@ -57,6 +61,24 @@ std::vector<std::size_t> ownParts(Session &session, const Conditions &latest)
     return own;
 }
 
+// Takes the parts of a condition out of those that are left; nothing when one isn't there.
+std::optional<std::vector<std::size_t>>
+takeParts(std::vector<std::size_t> &left, const std::vector<ShownCondition> &shown, const QStringList &parts)
+{
+    std::vector<std::size_t> rest = left;
+    std::vector<std::size_t> taken;
+    for (const QString &part : parts) {
+        const auto found = std::ranges::find_if(
+            rest, [&](std::size_t at) { return shown[at].text.simplified() == part.simplified(); });
+        if (found == rest.end())
+            return std::nullopt;
+        taken.push_back(*found);
+        rest.erase(found);
+    }
+    left = std::move(rest);
+    return taken;
+}
+
 } // namespace
 
 std::vector<ShownCondition> shownConditions(Session &session)
@@ -75,6 +97,34 @@ std::vector<ShownCondition> shownConditions(Session &session)
                               fieldsOfCondition(latest.sql, range), textsSought(latest.sql, range)});
     }
     return conditions;
+}
+
+std::vector<ConditionInForce> conditionsInForce(Session &session)
+{
+    const std::vector<ShownCondition> shown = shownConditions(session);
+    std::vector<std::size_t> left(shown.size());
+    std::iota(left.begin(), left.end(), std::size_t{0});
+    std::map<std::size_t, ConditionInForce> byPlace; // by the place of the first part
+    const Dialect dialect = dialectOf(session.filterManager().DBType(), session.result().engine());
+    for (const BuiltCondition &built : session.shown().builtConditions | std::views::reverse) {
+        const auto taken =
+            left.empty() ? std::nullopt : takeParts(left, shown, textsOfParts(built.condition, dialect));
+        if (taken && !taken->empty())
+            byPlace.emplace(std::ranges::min(*taken), ConditionInForce{built.condition, built.built});
+    }
+    for (const std::size_t place : left) {
+        const auto chosen =
+            std::ranges::find_if(session.shown().chosenValues, [&](const ChosenValues &values) {
+                return values.condition == shown[place].text;
+            });
+        byPlace.emplace(place, chosen == session.shown().chosenValues.end()
+                                   ? ConditionInForce{shown[place].text}
+                                   : ConditionInForce{shown[place].text, chosen->built, chosen->field});
+    }
+    std::vector<ConditionInForce> ordered;
+    for (const auto &[place, condition] : byPlace)
+        ordered.push_back(condition);
+    return ordered;
 }
 
 QString statementWithout(Session &session, std::size_t condition)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "query/conditions/ConditionInForce.h"
+
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -20,6 +22,9 @@ struct ShownCondition
 
 // Those of the latest statement that the first one of the history doesn't have.
 std::vector<ShownCondition> shownConditions(Session &session);
+
+// The same as they were made: parts that were built together are one.
+std::vector<ConditionInForce> conditionsInForce(Session &session);
 
 // The latest statement with another condition in the place of one of them, or without it; empty when there is
 // no such condition.

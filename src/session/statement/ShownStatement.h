@@ -13,7 +13,7 @@ namespace KOVAVSFDataGridLib {
 struct ConditionRequest;
 class Session;
 
-// The condition that the user built last, and what it was built from; see ConditionRequest.
+// A condition that the user built, and what it was built from; see ConditionRequest.
 struct BuiltCondition
 {
     QString condition;
@@ -72,8 +72,9 @@ public:
     bool isFromResult() const { return m_isFromResult; }
     void toggleFromResult();
 
-    BuiltCondition lastBuilt;
-    std::vector<ChosenValues> chosenValues; // of all statements so far, the latest last
+    // Of all statements so far, the latest last.
+    std::vector<BuiltCondition> builtConditions;
+    std::vector<ChosenValues> chosenValues;
 
 private:
     Session &m_session;

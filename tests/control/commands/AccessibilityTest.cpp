@@ -194,7 +194,7 @@ TEST_P(Spoken, TheFilterDialogSaysWhichConditionAPartBelongsTo)
                        kind.currentText());
 
              auto &operators = part<QComboBox>(dialog, "cmbOperator1");
-             operators.setCurrentIndex(operators.findText(isEnglish ? u"in list"_s : u"在列表中"_s));
+             operators.setCurrentIndex(operators.findText(isEnglish ? u"is in list"_s : u"在列表中"_s));
              QTest::keyClick(&part<QLineEdit>(dialog, "txtValue1"), Qt::Key_F4);
              operators.setCurrentIndex(0);
              QTest::keyClick(&part<QComboBox>(dialog, "cmbField1"), Qt::Key_Down);

@@ -228,3 +228,32 @@ TEST_P(NamedFilters, ARecentOneIsRecalledFromItsMenu)
     openFilter(steps);
     EXPECT_EQ(texts(u"ID"_s), QStringList({u"5"_s, u"8"_s}));
 }
+
+TEST_P(NamedFilters, HaveTheConditionsThatWereKept)
+{
+    ASSERT_TRUE(load());
+    {
+        WindowAnswers words({[](QDialog &dialog) { find(dialog, u"茶"_s, u"名称"_s); }});
+        click(u"QuickFilter"_s);
+    }
+    ASSERT_EQ(rows(), 6);
+    Steps saving;
+    saving.openMenu();
+    saving.inMenu("mnuSaved", [](QMenu &menu) { clickOn(menu, menu.findChild<QAction *>(u"actSave"_s)); });
+    saving.typeName(u"各种茶"_s);
+    saving.inDialog("frm_Filter", [](QDialog &dialog) { press(dialog, "cmd_Filter"); });
+    openFilter(saving);
+    EXPECT_EQ(rows(), 6);
+    click(u"ToOrigin"_s);
+    table->setCurrentIndex(table->model()->index(4, 3));
+    Steps recalling;
+    recalling.openMenu();
+    recalling.inMenu("mnuSaved", [](QMenu &menu) { clickOn(menu, u"各种茶"_s); });
+    recalling.inDialog("frm_Filter", [](QDialog &dialog) {
+        EXPECT_TRUE(part<QAbstractButton>(dialog, "chkKept1").isChecked());
+        EXPECT_EQ(part<QLineEdit>(dialog, "txtValue1").text(), QString()) << "the current cell gives way";
+        press(dialog, "cmd_Filter");
+    });
+    openFilter(recalling);
+    EXPECT_EQ(rows(), 6);
+}

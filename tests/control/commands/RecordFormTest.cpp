@@ -94,7 +94,7 @@ TEST_F(RecordForm, NamesOfFieldsThatTakeNoNullAreMarked)
     clickCell(2, 1);
     click(u"SingleRecord"_s);
     list->clearSelection();
-    EXPECT_TRUE(isMarked(u"名称"_s));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return isMarked(u"名称"_s); })) << "once the database was asked";
     EXPECT_FALSE(isMarked(u"城市"_s));
     EXPECT_EQ(listed(u"名称"_s), u"普洱茶"_s) << "the name itself stays as it is";
     click(u"AllRecord"_s);
@@ -102,6 +102,27 @@ TEST_F(RecordForm, NamesOfFieldsThatTakeNoNullAreMarked)
     click(u"SingleRecord"_s);
     list->clearSelection();
     EXPECT_FALSE(isMarked(u"名称"_s)) << "there is nothing to fill in";
+}
+
+TEST_F(RecordForm, FieldsThatTheDatabaseFillsAreNotMarked)
+{
+    database.run(
+        u"CREATE TABLE 货架 (编号 INTEGER PRIMARY KEY NOT NULL, 名称 TEXT NOT NULL,"
+        " 停用 BOOLEAN NOT NULL DEFAULT 0, 双倍 INTEGER NOT NULL GENERATED ALWAYS AS (编号 * 2));"
+        "INSERT INTO 货架 (名称) VALUES ('左');"
+        "CREATE TABLE 代码 (代码 INTEGER PRIMARY KEY NOT NULL) WITHOUT ROWID; INSERT INTO 代码 VALUES (1)"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 货架"_s, u"SELECT * FROM 货架"_s));
+    click(u"SingleRecord"_s);
+    list->clearSelection();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return isMarked(u"名称"_s); }));
+    EXPECT_FALSE(isMarked(u"编号"_s)) << "the number of the row";
+    EXPECT_FALSE(isMarked(u"停用"_s));
+    EXPECT_FALSE(isMarked(u"双倍"_s));
+    click(u"AllRecord"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 代码"_s, u"SELECT * FROM 代码"_s));
+    click(u"SingleRecord"_s);
+    list->clearSelection();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return isMarked(u"代码"_s); }));
 }
 
 TEST_F(RecordForm, AFieldWithoutAValueIsToldFromAnEmptyText)

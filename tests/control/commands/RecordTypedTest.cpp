@@ -130,6 +130,53 @@ TEST_P(RecordTyped, NullIsRefusedAtOnceWhereAValueIsNeeded)
     EXPECT_EQ(database.ask(u"SELECT 数量 IS NULL FROM 订货"_s), u"1"_s) << "which takes it";
 }
 
+TEST_P(RecordTyped, ANarrowWindowStillSaysThatTheRecordIsNotSaved)
+{
+    showRecord();
+    type(u"数量"_s, u"3"_s);
+    const auto *save = grid.findChild<QWidget *>(u"cmdSaveRecord"_s);
+    const auto *line = grid.findChild<QLabel *>(u"lblStatement"_s);
+    for (int width = 900; width >= 500; width -= 20) {
+        grid.resize(width, 500);
+        const int whole = line->fontMetrics().horizontalAdvance(isEnglish ? u"Record 1 of 1 (not saved)"_s
+                                                                          : u"第 1 条，共 1 条（未保存）"_s);
+        const int brief =
+            line->fontMetrics().horizontalAdvance(isEnglish ? u"1/1 (not saved)"_s : u"1/1（未保存）"_s);
+        EXPECT_GE(line->width(), width >= 720 ? whole : brief) << width;
+        EXPECT_GE(save->width(), save->minimumSizeHint().width()) << width;
+        EXPECT_LT(save->geometry().right(), line->geometry().left()) << width;
+    }
+}
+
+TEST_P(RecordTyped, NullIsAlsoWrittenWhereTheValueIsOnlySelected)
+{
+    showRecord();
+    const auto shownNow = [this] { return grid.findChild<QLabel *>(u"lblStatement"_s)->toolTip(); };
+    const QString shown = shownNow();
+    makeCurrent(u"数量"_s);
+    QTest::keyClick(list, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_FALSE(edit->isVisible());
+    EXPECT_TRUE(list->isVisible()) << "it is not the key of the whole table here";
+    EXPECT_EQ(shownNow(), shown);
+    auto *const save = grid.findChild<QAbstractButton *>(u"cmdSaveRecord"_s);
+    EXPECT_TRUE(save->isVisible());
+    QTest::keyClick(list, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(database.ask(u"SELECT 数量 IS NULL FROM 订货"_s), u"1"_s);
+
+    makeCurrent(u"单价"_s);
+    QTest::keyClick(list, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(messages.texts().size(), 1) << "a value is needed";
+    EXPECT_TRUE(edit->isVisible());
+    messages.clear();
+    QTest::keyClick(edit, Qt::Key_Escape);
+
+    grid.PutReadOnly(true);
+    QTest::keyClick(list, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(shownNow(), shown);
+    EXPECT_EQ(messages.texts(), QStringList());
+    EXPECT_FALSE(save->isVisible());
+}
+
 TEST_P(RecordTyped, ANewRecordWithoutANeededValueSaysWhichOne)
 {
     ASSERT_TRUE(load(u"SELECT * FROM 订货"_s, {}));

@@ -10,6 +10,7 @@
 #include "ado/providers/odbc/reading/OdbcReading.h"
 #include "ado/providers/odbc/reading/OdbcReferences.h"
 #include "ado/providers/odbc/reading/OdbcStatement.h"
+#include "ado/providers/odbc/writing/OdbcFilledColumns.h"
 
 #include <algorithm>
 
@@ -50,6 +51,19 @@ std::optional<TableColumn> OdbcSession::reference(const TableColumn &column,
         [session = shared_from_this(), column, found] {
             session->begin([&](const std::shared_ptr<OdbcConnection> &connection) {
                 *found = odbcReference(connection, session->engine(), column);
+            });
+        },
+        {[&](qint64) { return shouldContinue(); }, Waiting::isWatched() ? 0 : limitOfUnwatched});
+    return *found;
+}
+
+QStringList OdbcSession::filledColumns(const TableColumn &table, const std::function<bool()> &shouldContinue)
+{
+    const auto found = std::make_shared<QStringList>();
+    OdbcOperation::run(
+        [session = shared_from_this(), table, found] {
+            session->begin([&](const std::shared_ptr<OdbcConnection> &connection) {
+                *found = odbcFilledColumns(connection, session->engine(), table);
             });
         },
         {[&](qint64) { return shouldContinue(); }, Waiting::isWatched() ? 0 : limitOfUnwatched});

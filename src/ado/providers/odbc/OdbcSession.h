@@ -27,6 +27,7 @@ public:
                                        const std::function<bool()> &shouldContinue) override;
     std::optional<TableColumn> reference(const TableColumn &column,
                                          const std::function<bool()> &shouldContinue) override;
+    QStringList filledColumns(const TableColumn &table, const std::function<bool()> &shouldContinue) override;
     QString tableStatement(const QString &table) const override;
     QString engineName() const override { return m_engine.dbmsName; }
     SqlQuoting quoting() const override { return m_engine.quoting; }

@@ -199,6 +199,20 @@ LEFT JOIN pragma_table_info(f."table") k ON k.pk = f.seq + 1 WHERE f."from" = %2
     return TableColumn{{}, text(0), text(1)};
 }
 
+QStringList SqliteSession::filledColumns(const TableColumn &table, const std::function<bool()> &)
+{
+    // An INTEGER alone in the key is the number of the row, unless the table has none.
+    const SqliteHandle columns = prepareOwn(
+        uR"(SELECT name FROM pragma_table_xinfo(%1) t WHERE dflt_value IS NOT NULL OR hidden IN (2, 3)
+OR (pk = 1 AND type = 'INTEGER' COLLATE NOCASE AND (SELECT COUNT(*) FROM pragma_table_xinfo(%1) WHERE pk > 0) = 1
+AND NOT EXISTS (SELECT 1 FROM pragma_index_list(%1) WHERE origin = 'pk')))"_s.arg(
+            KOVAVSFDataGridLib::enclosed(u'\'', table.table, u'\'')));
+    QStringList names;
+    while (stepRow(columns))
+        names += QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(columns.get(), 0)));
+    return names;
+}
+
 QString SqliteSession::tableStatement(const QString &table) const
 {
     return "SELECT * FROM "_L1 + quotedName(table);

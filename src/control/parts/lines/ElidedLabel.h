@@ -19,8 +19,8 @@ protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
-private:
-    QString shownText() const;
+    // What there is room for.
+    virtual QString shownText() const;
 };
 
 } // namespace KOVAVSFDataGridLib

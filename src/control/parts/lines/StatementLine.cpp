@@ -9,6 +9,8 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 
+#include <algorithm>
+
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
@@ -27,14 +29,36 @@ StatementLine::StatementLine(QWidget *parent) : ElidedLabel(parent)
     addAction(copyAction);
 }
 
-void StatementLine::show(const QString &place, const QString &statement)
+void StatementLine::show(const QStringList &places, const QString &statement)
 {
     m_statement = statement;
-    m_place = place;
-    setText(statement.isEmpty() ? QString() : place + GridTexts::BeforeStatement + statement.simplified());
+    m_places = statement.isEmpty() ? QStringList() : places;
+    setText(statement.isEmpty() ? QString() : place() + GridTexts::BeforeStatement + statement.simplified());
     setToolTip(statement.isEmpty() ? QString()
                                    : u"<p style='white-space:pre-wrap'>"_s +
                                          textForTip(statement, *this).toHtmlEscaped() + u"</p>"_s);
+}
+
+int StatementLine::widthOfPlace() const
+{
+    return fontMetrics().horizontalAdvance(place());
+}
+
+int StatementLine::smallestWidth() const
+{
+    return m_places.isEmpty() ? 0 : fontMetrics().horizontalAdvance(m_places.constLast());
+}
+
+QString StatementLine::shownText() const
+{
+    const auto fits = [this](const QString &text) {
+        return fontMetrics().horizontalAdvance(text) <= width();
+    };
+    const auto fitting = std::ranges::find_if(m_places, fits);
+    if (fitting == m_places.begin() || m_places.isEmpty())
+        return ElidedLabel::shownText();
+    return fitting == m_places.end() ? fontMetrics().elidedText(m_places.constLast(), Qt::ElideRight, width())
+                                     : *fitting;
 }
 
 bool StatementLine::event(QEvent *event)

@@ -13,22 +13,27 @@ class StatementLine final : public ElidedLabel
 public:
     explicit StatementLine(QWidget *parent);
 
-    // `place` tells which record is current. An empty statement empties the line.
+    // `places` tells which record is current, each time in fewer words: the first one for which there is room
+    // is shown, so that its end isn't cut. An empty statement empties the line.
     using QWidget::show;
-    void show(const QString &place, const QString &statement);
+    void show(const QStringList &places, const QString &statement);
     const QString &statement() const { return m_statement; }
-    const QString &place() const { return m_place; }
+    QString place() const { return m_places.value(0); }
+    // Of the place in the most words, and in the fewest.
+    int widthOfPlace() const;
+    int smallestWidth() const;
 
 protected:
     // The control has a command of the same shortcut; the line's own comes first where it has the focus.
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    QString shownText() const override;
 
 private:
     void copy();
 
     QString m_statement;
-    QString m_place;
+    QStringList m_places;
 };
 
 } // namespace KOVAVSFDataGridLib

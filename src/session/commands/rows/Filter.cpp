@@ -11,6 +11,7 @@
 #include "session/history/SharedHistory.h"
 #include "session/pages/Pages.h"
 #include "session/statement/FilterManagerRollback.h"
+#include "session/statement/ShownConditions.h"
 #include "session/statement/ShownStatement.h"
 
 // Asks the host for a condition by its event QurryFilter, and the user by the filter dialog unless the host
@@ -34,17 +35,13 @@ QString currentValue(Session &session, int row, int col)
     return text.size() <= longest && !text.contains(u'\n') ? text : QString();
 }
 
-// What the dialog begins with: the field that was asked for, else the condition in force where the new one
-// replaces it, else the current cell.
-void beginWhereUserIs(Session &session, ConditionRequest &request, const QString &field, bool replaces)
+// What the dialog begins with: the conditions in force that the new one replaces and the field that was asked
+// for; without both, the current cell.
+void beginWhereUserIs(Session &session, ConditionRequest &request, const QString &field)
 {
     request.field = field;
-    if (!field.isEmpty())
+    if (!field.isEmpty() || !request.replaced.empty())
         return;
-    if (replaces) {
-        request.built = session.shown().lastBuilt.built;
-        return;
-    }
     const int col = session.window().currentCol();
     if (col == 0)
         return;
@@ -52,13 +49,12 @@ void beginWhereUserIs(Session &session, ConditionRequest &request, const QString
     request.value = currentValue(session, session.window().Row(), col);
 }
 
-// Whether the condition built last holds now and gives way to the next one.
-bool isReplaced(Session &session)
+// The conditions that give way to the next one.
+std::vector<ConditionInForce> replacedConditions(Session &session)
 {
-    QString shown;
-    const QString condition = session.shown().lastBuilt.condition.simplified();
-    return !session.rules().narrowsShown && !session.shown().isFromResult() && !condition.isEmpty() &&
-           session.history().GetLatestSQL(shown) && shown.simplified().contains(condition);
+    if (session.rules().narrowsShown || session.shown().isFromResult())
+        return {};
+    return conditionsInForce(session);
 }
 
 // Shows the records that meet a condition. What the database says against it goes to `refusal` where one is
@@ -76,17 +72,20 @@ bool filterBy(Session &session, FilterManagerRollback &rollback, const QString &
 }
 
 // Asks until the database takes the condition or the user cancels.
-void askUser(Session &session, FilterManagerRollback &rollback, const QString &field, bool replaces)
+void askUser(Session &session, FilterManagerRollback &rollback, const QString &field,
+             std::vector<ConditionInForce> replaced)
 {
     ConditionRequest request = session.shown().conditionRequest();
-    beginWhereUserIs(session, request, field, replaces);
+    request.replaced = std::move(replaced);
+    beginWhereUserIs(session, request, field);
     do {
         const QString condition = session.questions().askCondition(request);
         if (!rollback.isResultUntouched())
             return;
         request.refusal.clear();
         if (filterBy(session, rollback, condition, &request.refusal)) {
-            session.shown().lastBuilt = {condition, request.built};
+            if (!request.builtCondition.isEmpty())
+                session.shown().builtConditions.push_back({request.builtCondition, request.built});
             session.questions().noteConditionUsed(request);
         }
     } while (!request.refusal.isEmpty() && rollback.isResultUntouched());
@@ -96,7 +95,8 @@ void askUser(Session &session, FilterManagerRollback &rollback, const QString &f
 // when the host puts another result in its place.
 void askHost(Session &session, FilterManagerRollback &rollback, const QString &field)
 {
-    const bool replaces = isReplaced(session); // before the history is stepped back
+    std::vector<ConditionInForce> replaced =
+        replacedConditions(session); // before the history is stepped back
 
     session.texts.passQurryFilter.clear();
     QString base;
@@ -109,7 +109,7 @@ void askHost(Session &session, FilterManagerRollback &rollback, const QString &f
     if (!rollback.isResultUntouched())
         return;
     if (cancel == leftToTheDialog)
-        askUser(session, rollback, field, replaces);
+        askUser(session, rollback, field, std::move(replaced));
     else
         filterBy(session, rollback, session.texts.passQurryFilter, nullptr);
 }
@@ -122,7 +122,7 @@ void filterByDialog(Session &session, const QString &field)
     if (session.rules().asksHostForCondition)
         askHost(session, rollback, field);
     else
-        askUser(session, rollback, field, false);
+        askUser(session, rollback, field, {});
 }
 
 namespace {

@@ -1,0 +1,148 @@
+#include "filter/conditions/RestoredRows.h"
+
+#include "filter/conditions/BuiltFilter.h"
+#include "filter/conditions/FilterSentence.h"
+#include "filter/tree/FilterTree.h"
+#include "query/conditions/ConditionParts.h"
+
+#include <QtCore/QJsonDocument>
+
+#include <algorithm>
+
+namespace KOVAVSFDataGridLib {
+
+namespace {
+
+QList<FilterSql::Term> framesOf(const FilterState &rows)
+{
+    QList<FilterSql::Term> frames;
+    for (const FilterRowState &row : rows)
+        frames.append({{}, row.opens, row.closes, row.orNext, row.negatedOpens});
+    return frames;
+}
+
+bool isOffered(const FilterRowState &row, const std::vector<FilterField> &fields)
+{
+    const auto field = std::ranges::find(fields, row.field, &FilterField::caption);
+    return field != fields.end() && operatorsFor(field->fieldClass).contains(row.op);
+}
+
+// As the rows would be written now.
+QString conditionOf(const FilterState &rows, const Dialect &dialect, const std::vector<FilterField> &fields,
+                    const FilterScope &scope)
+{
+    const auto tree = treeOf(framesOf(rows));
+    if (!tree)
+        return {};
+    const auto choices = termsOf(rows, fields);
+    QList<FilterSql::Term> terms;
+    for (const FilterPlace &place : flatOf(withoutNone(*tree))) {
+        const FilterChoice &choice = choices.at(place.row).choice;
+        terms.append(place.term);
+        terms.last().condition = place.isComplement
+                                     ? complementOf(dialect, choice, scope).sql
+                                     : KOVAVSFDataGridLib::conditionOf(dialect, choice, scope).sql;
+    }
+    return FilterSql::join(terms);
+}
+
+// The field with what is ticked but for Null, as the builder would have it typed.
+FilterChoice choiceOf(const FilterField &field, const TickedValues &ticked)
+{
+    FilterChoice choice{.field = field, .includesNull = false};
+    const bool hasDays = field.fieldClass == FieldClass::Date || field.fieldClass == FieldClass::Moment;
+    if (ticked.values.isEmpty()) {
+        choice.op = ticked.areLeftOut ? FilterOperator::IsNotEmpty : FilterOperator::IsEmpty;
+    } else if (ticked.values.size() > 1 || hasDays) {
+        choice.op = ticked.areLeftOut ? FilterOperator::NotInList : FilterOperator::InList;
+        choice.value = listOf(ticked);
+    } else {
+        choice.op = ticked.areLeftOut ? FilterOperator::NotEquals : FilterOperator::Equals;
+        choice.value = ticked.values.constFirst();
+    }
+    return choice;
+}
+
+std::optional<FilterState> rowsOfTicks(const FilterField &field, const TickedValues &ticked,
+                                       const Dialect &dialect, const FilterScope &scope)
+{
+    FilterChoice choice = choiceOf(field, ticked);
+    if (!ticked.values.isEmpty()) {
+        TickedValues valuesAlone = ticked;
+        valuesAlone.hasNull.reset();
+        if (conditionOf(dialect, field, valuesAlone, scope).sql != conditionOf(dialect, choice, scope).sql)
+            return std::nullopt; // of several types, say
+        // A row can only leave values out and say whether Null goes with them. What is empty besides Null
+        // isn't named by it.
+        const bool isText = field.fieldClass == FieldClass::Text;
+        if (ticked.hasNull == !ticked.areLeftOut && (!ticked.areLeftOut || isText))
+            return std::nullopt;
+        choice.includesNull = ticked.areLeftOut && ticked.hasNull == true;
+    }
+    return FilterState{{.field = field.caption,
+                        .op = choice.op,
+                        .value = choice.value,
+                        .includesNull = choice.includesNull}};
+}
+
+// Whether AND, joined to the rows, would reach only some of them.
+bool isLoose(const FilterState &rows)
+{
+    int depth = 0;
+    for (qsizetype i = 0; i + 1 < rows.size(); ++i) {
+        depth += rows.at(i).opens - rows.at(i).closes;
+        if (rows.at(i).orNext && depth <= 0)
+            return true;
+    }
+    return false;
+}
+
+std::optional<FilterState> withBrackets(FilterState rows)
+{
+    if (!isLoose(rows))
+        return rows;
+    if (rows.constFirst().opens >= FilterSql::mostBrackets ||
+        rows.constLast().closes >= FilterSql::mostBrackets)
+        return std::nullopt;
+    ++rows.first().opens;
+    rows.first().negatedOpens <<= 1;
+    ++rows.last().closes;
+    return rows;
+}
+
+} // namespace
+
+std::optional<FilterState> rowsOf(const ConditionInForce &condition, const Dialect &dialect,
+                                  const std::vector<FilterField> &fields, const FilterScope &scope)
+{
+    const QJsonObject json = QJsonDocument::fromJson(condition.built.toUtf8()).object();
+    if (!condition.field.isEmpty()) {
+        const auto field = std::ranges::find(fields, condition.field, &FilterField::written);
+        return field == fields.end() ? std::nullopt
+                                     : rowsOfTicks(*field, tickedValuesOf(json), dialect, scope);
+    }
+    const auto built = builtFilterOf(json);
+    if (!built || built->rows.isEmpty() ||
+        !std::ranges::all_of(built->rows, [&](const FilterRowState &row) { return isOffered(row, fields); }))
+        return std::nullopt;
+    const bool comparesRecords =
+        std::ranges::any_of(built->rows, KOVAVSFDataGridLib::comparesRecords, &FilterRowState::op);
+    if (comparesRecords &&
+        conditionOf(built->rows, dialect, fields, scope).simplified() != condition.text.simplified())
+        return std::nullopt;
+    return built->rows;
+}
+
+std::optional<FilterState> joinedRows(const FilterState &first, const FilterState &second)
+{
+    if (first.isEmpty() || second.isEmpty())
+        return first + second;
+    auto joined = withBrackets(first);
+    const auto added = withBrackets(second);
+    if (!joined || !added)
+        return std::nullopt;
+    joined->last().orNext = false;
+    return *joined + *added;
+}
+
+} // namespace KOVAVSFDataGridLib

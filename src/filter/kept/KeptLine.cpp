@@ -1,0 +1,58 @@
+#include "filter/kept/KeptLine.h"
+
+#include "filter/FilterTexts.h"
+
+#include <QtCore/QEvent>
+#include <QtGui/QTextDocument>
+#include <QtWidgets/QStyle>
+
+namespace KOVAVSFDataGridLib {
+
+KeptLine::KeptLine(const QString &condition, const QString &words, QWidget *parent)
+    : QCheckBox(parent), m_condition(condition), m_words(words)
+{
+    constexpr qsizetype mostInTip = 1000; // characters
+    setChecked(true);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setAccessibleName(FilterTexts::KeepCondition.arg(words));
+    setAccessibleDescription(FilterTexts::KeepConditionTip);
+    QString tip = words.left(mostInTip) + u'\n' + condition.left(mostInTip);
+    tip += u'\n' + FilterTexts::KeepConditionTip();
+    setToolTip(Qt::convertFromPlainText(tip, Qt::WhiteSpaceNormal));
+    write();
+}
+
+void KeptLine::showSql(bool isSql)
+{
+    m_isSql = isSql;
+    write();
+}
+
+QSize KeptLine::minimumSizeHint() const
+{
+    return {fontMetrics().height() * 4, QCheckBox::minimumSizeHint().height()};
+}
+
+void KeptLine::resizeEvent(QResizeEvent *event)
+{
+    QCheckBox::resizeEvent(event);
+    write();
+}
+
+void KeptLine::changeEvent(QEvent *event)
+{
+    QCheckBox::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        write();
+}
+
+void KeptLine::write()
+{
+    const int room = width() - style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this) -
+                     style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, this);
+    const QString whole = FilterTexts::KeepCondition.arg((m_isSql ? m_condition : m_words).simplified());
+    QString text = fontMetrics().elidedText(whole, Qt::ElideRight, room);
+    setText(text.replace(u'&', QLatin1String("&&"))); // no mnemonic
+}
+
+} // namespace KOVAVSFDataGridLib

@@ -1,0 +1,323 @@
+// The conditions in force when the filter dialog opens: none is lost unless the user drops it.
+#include "ColumnValuesFixture.h"
+
+#include <QtWidgets/QComboBox>
+
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class FilterKeeps : public ColumnValues
+{
+protected:
+    static void fill(QDialog &dialog, int row, const QString &field, const QString &op, const QString &value)
+    {
+        const QByteArray number = QByteArray::number(row);
+        if (!dialog.findChild<QComboBox *>(u"cmbField"_s + QString::number(row)))
+            press(dialog, "cmdAddRow");
+        part<QComboBox>(dialog, ("cmbField" + number).constData()).setCurrentText(field);
+        part<QComboBox>(dialog, ("cmbOperator" + number).constData()).setCurrentText(op);
+        auto &edit = part<QLineEdit>(dialog, ("txtValue" + number).constData());
+        edit.clear();
+        compose(edit, value);
+    }
+    static QString row(QDialog &dialog, int number)
+    {
+        const QByteArray text = QByteArray::number(number);
+        const auto *field = dialog.findChild<QComboBox *>(u"cmbField"_s + QString::number(number));
+        if (!field)
+            return {};
+        return field->currentText() + u' ' +
+               part<QComboBox>(dialog, ("cmbOperator" + text).constData()).currentText() + u' ' +
+               part<QLineEdit>(dialog, ("txtValue" + text).constData()).text();
+    }
+    static QStringList keptLines(const QDialog &dialog)
+    {
+        QStringList lines;
+        for (int number = 1;; ++number) {
+            const auto *line = dialog.findChild<QCheckBox *>(u"chkKept%1"_s.arg(number));
+            if (!line)
+                return lines;
+            lines.append((line->isChecked() ? u"x "_s : u"  "_s) + line->text());
+        }
+    }
+    static QString sentence(const QDialog &dialog) { return part<QLabel>(dialog, "lblSentence").text(); }
+    static QString counted(const QDialog &dialog)
+    {
+        const auto &label = part<QLabel>(dialog, "lblCount");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return label.text().startsWith(u"约 "_s); }))
+            << label.text().toStdString();
+        return label.text();
+    }
+    static void ok(QDialog &dialog)
+    {
+        press(dialog, "cmd_Filter");
+        EXPECT_FALSE(dialog.isVisible()) << part<QLabel>(dialog, "lblNotice").text().toStdString();
+    }
+    void filterWith(const std::function<void(QDialog &)> &use)
+    {
+        WindowAnswers dialogs({use});
+        click(u"Filter"_s);
+    }
+    void findWords(const QString &words, const QString &field = {})
+    {
+        WindowAnswers dialogs({[&](QDialog &dialog) { find(dialog, words, field); }});
+        click(u"QuickFilter"_s);
+    }
+    void tickAlone(const QString &column, const QStringList &values)
+    {
+        WindowAnswers dialogs({[&](QDialog &dialog) {
+            tickAll(dialog, false);
+            for (const QString &value : values)
+                tick(dialog, value);
+            press(dialog, "cmdOK");
+        }});
+        open(column);
+    }
+    QStringList ids() const { return texts(u"ID"_s); }
+};
+
+} // namespace
+
+TEST_F(FilterKeeps, TickedValuesAreARowAgain)
+{
+    ASSERT_TRUE(load());
+    tickAlone(u"城市"_s, {u"大连"_s, u"杭州"_s});
+    ASSERT_EQ(ids(), QStringList({u"1"_s, u"5"_s, u"8"_s, u"11"_s}));
+    const QString shown = statement();
+    filterWith([](QDialog &dialog) {
+        EXPECT_EQ(row(dialog, 1), u"城市 在列表中 大连, 杭州"_s);
+        EXPECT_EQ(keptLines(dialog), QStringList());
+        EXPECT_EQ(counted(dialog), u"约 4 条"_s);
+        ok(dialog);
+    });
+    EXPECT_EQ(statement(), shown);
+    filterWith([](QDialog &dialog) {
+        fill(dialog, 2, u"ID"_s, u"小于"_s, u"8"_s);
+        ok(dialog);
+    });
+    EXPECT_EQ(ids(), QStringList({u"1"_s, u"5"_s}));
+    EXPECT_EQ(conditions().size(), 2);
+}
+
+TEST_F(FilterKeeps, AHeadingsPartStaysWhenTheBuildersRowIsChanged)
+{
+    ASSERT_TRUE(load());
+    filterWith([](QDialog &dialog) {
+        fill(dialog, 1, u"ID"_s, u"小于"_s, u"9"_s);
+        ok(dialog);
+    });
+    tickAlone(u"城市"_s, {u"大连"_s});
+    ASSERT_EQ(ids(), QStringList({u"5"_s, u"8"_s}));
+    filterWith([](QDialog &dialog) {
+        EXPECT_EQ(row(dialog, 1), u"ID 小于 9"_s);
+        EXPECT_EQ(row(dialog, 2), u"城市 等于 大连"_s);
+        fill(dialog, 1, u"ID"_s, u"小于"_s, u"6"_s);
+        ok(dialog);
+    });
+    EXPECT_EQ(ids(), QStringList(u"5"_s));
+    EXPECT_EQ(conditions(), QStringList({u"ID < 6"_s, u"城市 = “大连”"_s}));
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), records) << "the dialog filters from the origin, whose entry comes before";
+}
+
+TEST_F(FilterKeeps, AlternativesOfTheBuilderStayTogether)
+{
+    ASSERT_TRUE(load());
+    filterWith([](QDialog &dialog) {
+        fill(dialog, 1, u"ID"_s, u"小于"_s, u"3"_s);
+        fill(dialog, 2, u"ID"_s, u"大于"_s, u"10"_s);
+        part<QComboBox>(dialog, "cmbJoin1").setCurrentIndex(1);
+        ok(dialog);
+    });
+    tickAlone(u"城市"_s, {u"杭州"_s});
+    ASSERT_EQ(ids(), QStringList({u"1"_s, u"11"_s}));
+    filterWith([](QDialog &dialog) {
+        EXPECT_EQ(row(dialog, 3), u"城市 等于 杭州"_s);
+        EXPECT_EQ(sentence(dialog), u"（【ID】小于 3，或者【ID】大于 10），并且【城市】等于“杭州”。"_s);
+        ok(dialog);
+    });
+    EXPECT_EQ(ids(), QStringList({u"1"_s, u"11"_s}));
+}
+
+TEST_F(FilterKeeps, WhatHasNoRowIsALineThatIsKept)
+{
+    ASSERT_TRUE(load());
+    findWords(u"茶"_s, u"名称"_s);
+    filterWith([](QDialog &dialog) {
+        EXPECT_EQ(keptLines(dialog), QStringList(u"x 保留：名称 包含“茶”"_s));
+        EXPECT_EQ(sentence(dialog), u"名称 包含“茶”。"_s);
+        EXPECT_EQ(counted(dialog), u"约 6 条"_s);
+        fill(dialog, 1, u"城市"_s, u"等于"_s, u"杭州"_s);
+        EXPECT_EQ(sentence(dialog), u"名称 包含“茶”，并且【城市】等于“杭州”。"_s);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return part<QLabel>(dialog, "lblCount").text() == u"约 2 条"_s; }));
+        ok(dialog);
+    });
+    EXPECT_EQ(ids(), QStringList({u"1"_s, u"11"_s}));
+    EXPECT_EQ(conditions(), QStringList({u"名称 包含“茶”"_s, u"城市 = “杭州”"_s}));
+    filterWith([](QDialog &dialog) {
+        EXPECT_EQ(keptLines(dialog).size(), 1);
+        EXPECT_EQ(row(dialog, 1), u"城市 等于 杭州"_s);
+        QTest::mouseClick(&part<QCheckBox>(dialog, "chkKept1"), Qt::LeftButton, {}, {8, 8});
+        EXPECT_EQ(sentence(dialog), u"【城市】等于“杭州”。"_s);
+        fill(dialog, 1, u"城市"_s, u"等于"_s, u"厦门"_s);
+        ok(dialog);
+    });
+    EXPECT_EQ(ids(), QStringList({u"3"_s, u"12"_s}));
+    EXPECT_EQ(conditions(), QStringList(u"城市 = “厦门”"_s));
+    EXPECT_EQ(grid.SQLFilter(), u"SELECT * FROM 商品  WHERE 城市 = '厦门' "_s);
+}
+
+TEST_F(FilterKeeps, KeptConditionsNeedNoOther)
+{
+    ASSERT_TRUE(load());
+    table->setCurrentIndex(table->model()->index(4, grid.GetBindFieldIndex(u"城市"_s) - 1));
+    choose(14, 5, grid.GetBindFieldIndex(u"城市"_s));
+    ASSERT_EQ(ids(), QStringList({u"5"_s, u"8"_s}));
+    filterWith([](QDialog &dialog) {
+        EXPECT_EQ(keptLines(dialog), QStringList(u"x 保留：城市 = “大连”"_s));
+        EXPECT_EQ(row(dialog, 1), u"ID 等于 "_s);
+        ok(dialog);
+    });
+    EXPECT_EQ(ids(), QStringList({u"5"_s, u"8"_s}));
+    filterWith([](QDialog &dialog) {
+        auto &line = part<QCheckBox>(dialog, "chkKept1");
+        line.setFocus();
+        QTest::keyClick(&line, Qt::Key_Space);
+        press(dialog, "cmd_Filter");
+        EXPECT_TRUE(dialog.isVisible()) << "nothing is left to filter by";
+        QTest::keyClick(&line, Qt::Key_Space);
+        fill(dialog, 1, u"ID"_s, u"大于"_s, u"5"_s);
+        ok(dialog);
+    });
+    EXPECT_EQ(ids(), QStringList(u"8"_s));
+}
+
+TEST_F(FilterKeeps, EscapeAsksOnceALineIsUnticked)
+{
+    ASSERT_TRUE(load());
+    findWords(u"茶"_s);
+    messages.answerNext(QMessageBox::No);
+    filterWith([this](QDialog &dialog) {
+        QTest::mouseClick(&part<QCheckBox>(dialog, "chkKept1"), Qt::LeftButton, {}, {8, 8});
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        EXPECT_EQ(messages.texts(), QStringList(u"放弃已输入的条件吗？"_s));
+        EXPECT_TRUE(dialog.isVisible());
+        QTest::mouseClick(&part<QCheckBox>(dialog, "chkKept1"), Qt::LeftButton, {}, {8, 8});
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        EXPECT_FALSE(dialog.isVisible()) << "all is as it was";
+    });
+    EXPECT_EQ(conditions().size(), 1);
+}
+
+TEST_F(FilterKeeps, TheHostsConditionIsKeptInItsBrackets)
+{
+    ASSERT_TRUE(load());
+    bool isHosts = true;
+    QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid, [&](qint32 &cancel, const QString &) {
+        if (!isHosts)
+            return;
+        grid.PutPassQurryFilter(u"城市 = '杭州' OR 城市 = '厦门'"_s);
+        cancel = 0;
+    });
+    click(u"Filter"_s);
+    ASSERT_EQ(rows(), 4);
+    isHosts = false;
+    filterWith([](QDialog &dialog) {
+        EXPECT_EQ(keptLines(dialog), QStringList(u"x 保留：城市 = “杭州”，或者 城市 = “厦门”"_s));
+        fill(dialog, 1, u"ID"_s, u"小于"_s, u"11"_s);
+        EXPECT_EQ(sentence(dialog), u"（城市 = “杭州”，或者 城市 = “厦门”），并且【ID】小于 11。"_s);
+        part<QCheckBox>(dialog, "chkSql").click();
+        EXPECT_EQ(keptLines(dialog), QStringList(u"x 保留：城市 = '杭州' OR 城市 = '厦门'"_s));
+        EXPECT_EQ(part<QLineEdit>(dialog, "txtCondition").text(), u"ID < 11"_s);
+        part<QCheckBox>(dialog, "chkSql").click(); // which the next dialog would begin with
+        ok(dialog);
+    });
+    EXPECT_EQ(ids(), QStringList({u"1"_s, u"3"_s}));
+    EXPECT_EQ(grid.SQLFilter(), u"SELECT * FROM 商品  WHERE (城市 = '杭州' OR 城市 = '厦门') AND ID < 11 "_s);
+}
+
+TEST_F(FilterKeeps, ATypedConditionIsJoinedToWhatIsKept)
+{
+    ASSERT_TRUE(load());
+    findWords(u"茶"_s, u"名称"_s);
+    filterWith([](QDialog &dialog) { filter(dialog, u"ID = 1 OR ID = 5 OR ID = 11"_s); });
+    EXPECT_EQ(ids(), QStringList({u"1"_s, u"11"_s}));
+    filterWith([](QDialog &dialog) {
+        EXPECT_EQ(keptLines(dialog).size(), 1);
+        EXPECT_EQ(part<QLineEdit>(dialog, "txtCondition").text(), u"ID = 1 OR ID = 5 OR ID = 11"_s);
+        EXPECT_EQ(counted(dialog), u"约 2 条"_s);
+        cancel(dialog);
+    });
+}
+
+TEST_F(FilterKeeps, APartThatIsLeftOfSeveralRowsIsKeptToo)
+{
+    ASSERT_TRUE(load());
+    filterWith([](QDialog &dialog) {
+        fill(dialog, 1, u"ID"_s, u"小于"_s, u"9"_s);
+        fill(dialog, 2, u"城市"_s, u"等于"_s, u"大连"_s);
+        ok(dialog);
+    });
+    QTest::mouseClick(grid.findChild<QToolButton *>(u"Condition1"_s), Qt::LeftButton);
+    ASSERT_EQ(conditions(), QStringList(u"城市 = “大连”"_s));
+    filterWith([](QDialog &dialog) {
+        EXPECT_EQ(keptLines(dialog), QStringList(u"x 保留：城市 = “大连”"_s));
+        fill(dialog, 1, u"ID"_s, u"大于"_s, u"5"_s);
+        ok(dialog);
+    });
+    EXPECT_EQ(ids(), QStringList(u"8"_s));
+}
+
+TEST_F(FilterKeeps, RowsThatCompareOtherRecordsThanTheyDidAreALine)
+{
+    ASSERT_TRUE(load());
+    tickAlone(u"城市"_s, {u"大连"_s, u"杭州"_s});
+    click(u"FromResult"_s);
+    filterWith([](QDialog &dialog) {
+        fill(dialog, 1, u"Unit Price"_s, u"前 N 个"_s, u"1"_s);
+        ok(dialog);
+    });
+    ASSERT_EQ(ids(), QStringList(u"1"_s)) << "among four";
+    click(u"FromResult"_s);
+    filterWith([](QDialog &dialog) {
+        EXPECT_EQ(row(dialog, 1), u"城市 在列表中 大连, 杭州"_s);
+        EXPECT_EQ(keptLines(dialog), QStringList(u"x 保留：Unit Price 是最大的 1 个之一"_s));
+        EXPECT_EQ(counted(dialog), u"约 1 条"_s);
+        ok(dialog);
+    });
+    EXPECT_EQ(ids(), QStringList(u"1"_s));
+}
+
+TEST_F(FilterKeeps, TheBuilderOfAHeadingBeginsWithThemToo)
+{
+    ASSERT_TRUE(load());
+    findWords(u"茶"_s, u"名称"_s);
+    tickAlone(u"城市"_s, {u"杭州"_s, u"厦门"_s});
+    WindowAnswers dialogs({[](QDialog &dialog) { press(dialog, "cmdByConditions"); },
+                           [](QDialog &dialog) {
+                               EXPECT_EQ(keptLines(dialog), QStringList(u"x 保留：名称 包含“茶”"_s));
+                               EXPECT_EQ(row(dialog, 1), u"城市 在列表中 厦门, 杭州"_s);
+                               EXPECT_EQ(row(dialog, 2), u"ID 等于 "_s);
+                               fill(dialog, 2, u"ID"_s, u"大于"_s, u"1"_s);
+                               ok(dialog);
+                           }});
+    open(u"ID"_s);
+    EXPECT_EQ(ids(), QStringList({u"11"_s, u"12"_s}));
+}
+
+TEST_F(FilterKeeps, NothingIsInTheWayWhereTheResultIsNarrowed)
+{
+    ASSERT_TRUE(load());
+    findWords(u"茶"_s, u"名称"_s);
+    click(u"FromResult"_s);
+    table->setCurrentIndex(table->model()->index(0, 0));
+    filterWith([](QDialog &dialog) {
+        EXPECT_EQ(keptLines(dialog), QStringList());
+        EXPECT_EQ(row(dialog, 1), u"ID 等于 1"_s);
+        ok(dialog);
+    });
+    EXPECT_EQ(ids(), QStringList(u"1"_s));
+    EXPECT_EQ(conditions().size(), 2);
+}

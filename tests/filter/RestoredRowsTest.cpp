@@ -1,0 +1,127 @@
+// Conditions in force as rows of the builder: the rows select the same records on a real database.
+#include "filter/conditions/RestoredRows.h"
+
+#include "filter/conditions/BuiltFilter.h"
+#include "filter/conditions/FilterSentence.h"
+#include "support/TestDatabase.h"
+
+#include <QtCore/QJsonDocument>
+#include <gtest/gtest.h>
+
+using namespace KOVAVSFDataGridLib;
+using namespace KovaTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Dialect sqlite{.database = dbAccess, .engine = Engine::SQLite};
+
+const std::vector<FilterField> fields{{u"城市"_s, u"城市"_s, FieldClass::Text},
+                                      {u"数量"_s, u"数量"_s, FieldClass::Number},
+                                      {u"日期"_s, u"日期"_s, FieldClass::Date},
+                                      {u"停用"_s, u"停用"_s, FieldClass::Boolean}};
+
+QString textOf(const QJsonObject &json)
+{
+    return QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Compact));
+}
+
+std::optional<FilterState> rowsOfTicks(const FilterField &field, const TickedValues &ticked)
+{
+    return rowsOf({conditionOf(sqlite, field, ticked).sql, textOf(toJson(ticked)), field.written}, sqlite,
+                  fields, {});
+}
+
+std::optional<FilterState> rowsOfBuilt(const BuiltFilter &built, const QString &condition,
+                                       const FilterScope &scope = {})
+{
+    return rowsOf({condition, textOf(toJson(built))}, sqlite, fields, scope);
+}
+
+} // namespace
+
+TEST(RestoredRows, SelectWhatTheTicksSelect)
+{
+    const TestDatabase database(
+        u"CREATE TABLE t (ID INTEGER, 城市 TEXT, 数量 INTEGER, 日期 DATE, 停用 BOOLEAN);"
+        "INSERT INTO t VALUES "
+        "(1,'大连',7,'2024-01-31',1),(2,'杭州',8,'2024-02-01',0),(3,NULL,NULL,NULL,NULL),"
+        "(4,'',9,'2024-02-29',1),(5,'a, b',7,'2023-12-31',0),(6,'大连','一些','2024-02-01',1);"_s);
+    const auto selected = [&](const QString &condition) {
+        return database.ask(u"SELECT group_concat(ID) FROM t WHERE "_s + condition).toStdString();
+    };
+    const std::vector<QStringList> values{{u"大连"_s, u"a, b"_s},
+                                          {u"7"_s, u"一些"_s, u"8"_s},
+                                          {u"2024-02"_s, u"2023-12-31"_s},
+                                          {u"是"_s, u"否"_s}};
+    int restored = 0;
+    int kept = 0;
+    for (std::size_t at = 0; at < fields.size(); ++at) {
+        for (qsizetype count = 0; count <= values[at].size(); ++count) {
+            for (const bool areLeftOut : {false, true}) {
+                for (const std::optional<bool> hasNull :
+                     {std::optional<bool>(), std::optional(false), std::optional(true)}) {
+                    const TickedValues ticked{areLeftOut, values[at].first(count), hasNull};
+                    if (ticked.isEverything() || ticked.isNothing())
+                        continue;
+                    const auto rows = rowsOfTicks(fields[at], ticked);
+                    ++(rows ? restored : kept);
+                    if (!rows)
+                        continue;
+                    ASSERT_EQ(rows->size(), 1);
+                    const auto terms = termsOf(*rows, fields);
+                    EXPECT_EQ(selected(conditionOf(sqlite, terms.front().choice).sql),
+                              selected(conditionOf(sqlite, fields[at], ticked).sql))
+                        << textOf(toJson(ticked)).toStdString();
+                }
+            }
+        }
+    }
+    EXPECT_GT(restored, 30);
+    EXPECT_GT(kept, 10) << "values with Null are no row";
+}
+
+TEST(RestoredRows, AreThoseThatWereBuilt)
+{
+    const BuiltFilter built{
+        .rows = {{.field = u"数量"_s, .op = FilterOperator::Less, .value = u"5"_s, .orNext = true},
+                 {.field = u"城市"_s, .value = u"大连"_s}}};
+    EXPECT_EQ(rowsOfBuilt(built, u"(数量 < 5 OR 城市 = '大连')"_s), built.rows);
+    EXPECT_FALSE(rowsOfBuilt({.condition = u"数量 < 5"_s}, u"数量 < 5"_s));
+    EXPECT_FALSE(rowsOf({u"数量 < 5"_s}, sqlite, fields, {})) << "nobody built it";
+    BuiltFilter elsewhere = built;
+    elsewhere.rows.last().field = u"价格"_s;
+    EXPECT_FALSE(rowsOfBuilt(elsewhere, u"(数量 < 5 OR 价格 = '大连')"_s));
+}
+
+TEST(RestoredRows, CompareOnlyTheRecordsThatTheyDid)
+{
+    const BuiltFilter built{.rows = {{.field = u"数量"_s, .op = FilterOperator::Duplicated}}};
+    const FilterScope some{.records = FilterSql::Records{u"t"_s, u"ID < 4"_s}};
+    const QString condition = FilterSql::isDuplicated(u"数量"_s, *some.records);
+    EXPECT_EQ(rowsOfBuilt(built, condition, some), built.rows);
+    EXPECT_FALSE(rowsOfBuilt(built, condition, {.records = FilterSql::Records{u"t"_s, {}}}));
+}
+
+TEST(RestoredRows, AreJoinedWithoutTearingAlternativesApart)
+{
+    const FilterRowState less{.field = u"数量"_s, .op = FilterOperator::Less, .value = u"5"_s};
+    const FilterRowState city{.field = u"城市"_s, .value = u"大连"_s};
+    FilterState either{less, city};
+    either.first().orNext = true;
+    const auto joined = joinedRows(either, {city});
+    ASSERT_TRUE(joined);
+    ASSERT_EQ(joined->size(), 3);
+    EXPECT_EQ(joined->at(0).opens, 1);
+    EXPECT_EQ(joined->at(1).closes, 1);
+    EXPECT_FALSE(joined->at(1).orNext);
+    EXPECT_EQ(joinedRows({less}, {city}), FilterState({less, city}));
+    EXPECT_EQ(joinedRows({}, either), either);
+    // In brackets of their own already as often as there are.
+    either.first().opens = FilterSql::mostBrackets;
+    either.last().closes = FilterSql::mostBrackets;
+    EXPECT_TRUE(joinedRows(either, {city}));
+    either.first() = {.field = u"数量"_s, .value = u"1"_s, .opens = FilterSql::mostBrackets, .closes = 8};
+    either.first().orNext = true;
+    EXPECT_FALSE(joinedRows(either, {city}));
+}
