@@ -44,22 +44,6 @@ const char *RowStore::Block::start(qint64 storedRow) const
     return bytes + numberAt<quint32>(slot);
 }
 
-void RowStore::add(const RawValue &value)
-{
-    switch (value.kind) {
-    case RawValue::Kind::Null:
-        return addNull();
-    case RawValue::Kind::Integer:
-        return addInteger(value.integer);
-    case RawValue::Kind::Real:
-        return addReal(value.real);
-    case RawValue::Kind::Text:
-        return addText(value.bytes);
-    case RawValue::Kind::Blob:
-        return addBlob(value.bytes);
-    }
-}
-
 void RowStore::endRow()
 {
     // A row without any column still takes room for its start.

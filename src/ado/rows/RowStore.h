@@ -172,4 +172,21 @@ inline void RowStore::addBytes(Tag shortTag, Tag longTag, QByteArrayView bytes)
     m_write += bytes.size();
 }
 
+// Here, so that where the kind is known it isn't asked again.
+inline void RowStore::add(const RawValue &value)
+{
+    switch (value.kind) {
+    case RawValue::Kind::Null:
+        return addNull();
+    case RawValue::Kind::Integer:
+        return addInteger(value.integer);
+    case RawValue::Kind::Real:
+        return addReal(value.real);
+    case RawValue::Kind::Text:
+        return addText(value.bytes);
+    case RawValue::Kind::Blob:
+        return addBlob(value.bytes);
+    }
+}
+
 } // namespace ADODB

@@ -45,26 +45,32 @@ private:
 };
 
 // Without memory for another form of a value SQLite gives none at all, which must not look like an empty one.
-QByteArrayView needBytes(sqlite3_stmt *statement, int column, const void *bytes)
+QByteArrayView needBytes(sqlite3_stmt *statement, const void *bytes, int size, bool isWanted)
 {
-    const int size = sqlite3_column_bytes(statement, column);
-    sqlite3 *const db = sqlite3_db_handle(statement);
-    if (!bytes && (size > 0 || sqlite3_errcode(db) == SQLITE_NOMEM))
-        throwSqliteError(db, SQLITE_NOMEM);
+    if (!bytes && isWanted)
+        throwSqliteError(sqlite3_db_handle(statement), SQLITE_NOMEM);
     return {static_cast<const char *>(bytes), size};
 }
 
+// Valid until the next step. A column is looked up once, and not by each of the functions that say its type,
+// bytes and their number. Connections have no mutex (see SqliteSession), so a value needs no protection.
 RawValue currentValue(sqlite3_stmt *statement, int column)
 {
-    switch (sqlite3_column_type(statement, column)) {
+    sqlite3_value *const value = sqlite3_column_value(statement, column);
+    switch (sqlite3_value_type(value)) {
     case SQLITE_INTEGER:
-        return RawValue::fromInteger(sqlite3_column_int64(statement, column));
+        return RawValue::fromInteger(sqlite3_value_int64(value));
     case SQLITE_FLOAT:
-        return RawValue::fromReal(sqlite3_column_double(statement, column));
-    case SQLITE_TEXT:
-        return RawValue::fromText(needBytes(statement, column, sqlite3_column_text(statement, column)));
-    case SQLITE_BLOB:
-        return RawValue::fromBlob(needBytes(statement, column, sqlite3_column_blob(statement, column)));
+        return RawValue::fromReal(sqlite3_value_double(value));
+    case SQLITE_TEXT: {
+        const void *const text = sqlite3_value_text(value); // an empty one has an address, too
+        return RawValue::fromText(needBytes(statement, text, sqlite3_value_bytes(value), true));
+    }
+    case SQLITE_BLOB: {
+        const void *const blob = sqlite3_value_blob(value);
+        const int size = sqlite3_value_bytes(value);
+        return RawValue::fromBlob(needBytes(statement, blob, size, size > 0));
+    }
     default:
         return {};
     }
