@@ -188,6 +188,13 @@ TEST_F(ValueWindow, FindsForwardsAndBackwardsAndAround)
     EXPECT_TRUE(dialog.isVisible()) << "Enter closes nothing";
 }
 
+TEST_F(ValueWindow, FindsBehindLinesThatEndAsInWindows)
+{
+    show(textValue(u"one\r\ntwo\r\nthree, tea\r\n"_s));
+    findIn(u"TEA"_s);
+    EXPECT_EQ(text()->textCursor().selectedText(), u"tea"_s);
+}
+
 TEST_F(ValueWindow, ShowsAVeryLongTextPieceByPieceAndFindsInAllOfIt)
 {
     QString longText(50000000, u'x');

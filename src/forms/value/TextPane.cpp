@@ -34,9 +34,10 @@ QPushButton *button(const QString &caption, const QString &name, QWidget *parent
 
 } // namespace
 
+// A text edit has one character for each end of a line, by which what is found is counted.
 TextPane::TextPane(const QString &text, QWidget *parent)
     : QWidget(parent),
-      m_text(text),
+      m_text(QString(text).replace("\r\n"_L1, "\n"_L1)),
       m_shown(new QPlainTextEdit(this)),
       m_words(new QLineEdit(this)),
       m_found(new QLabel(this)),

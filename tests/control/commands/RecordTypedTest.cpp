@@ -136,6 +136,7 @@ TEST_P(RecordTyped, ANarrowWindowStillSaysThatTheRecordIsNotSaved)
     type(u"数量"_s, u"3"_s);
     const auto *save = grid.findChild<QWidget *>(u"cmdSaveRecord"_s);
     const auto *line = grid.findChild<QLabel *>(u"lblStatement"_s);
+    const QString mark = isEnglish ? u"(not saved)"_s : u"（未保存）"_s;
     for (int width = 900; width >= 500; width -= 20) {
         grid.resize(width, 500);
         const int whole = line->fontMetrics().horizontalAdvance(isEnglish ? u"Record 1 of 1 (not saved)"_s
@@ -143,6 +144,8 @@ TEST_P(RecordTyped, ANarrowWindowStillSaysThatTheRecordIsNotSaved)
         const int brief =
             line->fontMetrics().horizontalAdvance(isEnglish ? u"1/1 (not saved)"_s : u"1/1（未保存）"_s);
         EXPECT_GE(line->width(), width >= 720 ? whole : brief) << width;
+        const QString shown = line->property("shownText").toString();
+        EXPECT_TRUE(shown.contains(mark)) << width << ' ' << shown.toStdString();
         EXPECT_GE(save->width(), save->minimumSizeHint().width()) << width;
         EXPECT_LT(save->geometry().right(), line->geometry().left()) << width;
     }

@@ -9,18 +9,18 @@ namespace KOVAVSFDataGridLib {
 class ElidedLabel : public QLabel
 {
     Q_OBJECT
+    Q_PROPERTY(QString shownText READ shownText)
 
 public:
     explicit ElidedLabel(QWidget *parent);
 
     QSize minimumSizeHint() const override;
+    // What there is room for.
+    virtual QString shownText() const;
 
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-
-    // What there is room for.
-    virtual QString shownText() const;
 };
 
 } // namespace KOVAVSFDataGridLib

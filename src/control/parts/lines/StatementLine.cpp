@@ -51,12 +51,11 @@ int StatementLine::smallestWidth() const
 
 QString StatementLine::shownText() const
 {
-    const auto fits = [this](const QString &text) {
-        return fontMetrics().horizontalAdvance(text) <= width();
-    };
-    const auto fitting = std::ranges::find_if(m_places, fits);
-    if (fitting == m_places.begin() || m_places.isEmpty())
-        return ElidedLabel::shownText();
+    const QString all = ElidedLabel::shownText();
+    if (m_places.isEmpty() || all.startsWith(place()))
+        return all;
+    const auto fitting = std::ranges::find_if(
+        m_places, [this](const QString &text) { return fontMetrics().horizontalAdvance(text) <= width(); });
     return fitting == m_places.end() ? fontMetrics().elidedText(m_places.constLast(), Qt::ElideRight, width())
                                      : *fitting;
 }

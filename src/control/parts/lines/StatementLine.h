@@ -22,12 +22,12 @@ public:
     // Of the place in the most words, and in the fewest.
     int widthOfPlace() const;
     int smallestWidth() const;
+    QString shownText() const override;
 
 protected:
     // The control has a command of the same shortcut; the line's own comes first where it has the focus.
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    QString shownText() const override;
 
 private:
     void copy();
