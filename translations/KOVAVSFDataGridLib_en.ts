@@ -2863,6 +2863,26 @@ Save it again anyway?</translation>
         <source>记录已设为只读，不能再保存。修改的内容仍在，按 Esc 放弃。</source>
         <translation>The records are now read-only and can no longer be saved. Your changes are still here; discard them with Esc.</translation>
     </message>
+    <message>
+        <source>记录已经按此列排序。</source>
+        <translation>The records are sorted by this column already.</translation>
+    </message>
+    <message>
+        <source>记录没有按此列排序。</source>
+        <translation>The records are not sorted by this column.</translation>
+    </message>
+    <message>
+        <source>至少要显示一列。</source>
+        <translation>At least one column must be shown.</translation>
+    </message>
+    <message>
+        <source>这一侧没有其他列。</source>
+        <translation>There is no other column on this side.</translation>
+    </message>
+    <message>
+        <source>只有数字列和是否列可以设置格式。</source>
+        <translation>Only columns of numbers and of yes and no have a format.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::ViewerTexts</name>

@@ -49,6 +49,7 @@ void FilterSource::setTable(const QString &fromText)
 {
     m_prefix.clear();
     m_fromText = fromText.trimmed();
+    m_list = u"*"_s;
     m_offered.clear();
 }
 
@@ -56,6 +57,7 @@ void FilterSource::setResult(const FilteredResult &result)
 {
     m_prefix = result.prefix;
     m_fromText = result.source;
+    m_list = result.list;
     m_offered = result.fields;
 }
 
@@ -203,16 +205,21 @@ std::optional<CountRequest> FilterSource::countRequest(const QString &current, c
     if (!m_isShared && !m_countConnection)
         m_countConnection = ADODB::ConnectionFactory::connectionFor(m_database);
     const QString restricted = current.isEmpty() ? QString() : u'(' + current + ") AND "_L1;
+    const QString counted = m_fromText + " WHERE "_L1 + restricted + u'(' + condition + u')';
+    // Its conditions can name what the list has.
+    const bool hasAliases = m_list != u'*';
     return CountRequest{.connection = m_isShared ? m_connection : m_countConnection,
                         .connectionString = m_connectionString,
-                        .statement = m_prefix + "SELECT COUNT(*) FROM "_L1 + m_fromText + " WHERE "_L1 +
-                                     restricted + u'(' + condition + u')',
+                        .statement =
+                            m_prefix + "SELECT COUNT(*) FROM "_L1 +
+                            (hasAliases ? "(SELECT "_L1 + m_list + " FROM "_L1 + counted + u')' : counted),
                         .isHere = m_isShared};
 }
 
 void FilterSource::check(const QString &condition)
 {
-    connection()->Describe(m_prefix + u"SELECT * FROM "_s + m_fromText + " WHERE "_L1 + condition);
+    connection()->Describe(m_prefix + "SELECT "_L1 + m_list + " FROM "_L1 + m_fromText + " WHERE "_L1 +
+                           condition);
 }
 
 } // namespace KOVAVSFDataGridLib

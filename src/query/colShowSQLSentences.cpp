@@ -174,24 +174,6 @@ bool colShowSQLSentences::GetNextSQLBySort(const QString &strNewSort, QString &s
     return true;
 }
 
-bool colShowSQLSentences::GetNextShowSQL(StatementType SQLType, QString &PassSQL) const
-{
-    PassSQL.clear();
-    const clsShowSQLSentence *const latest = Latest();
-    if (!latest)
-        return false;
-    if (SQLType != AllFieldsStatement && SQLType != PartFieldsStatement)
-        return true;
-    QString fieldStatement = latest->AllFields;
-    if (SQLType == PartFieldsStatement)
-        latest->GetCurrUsePartFieldSQL(fieldStatement);
-    const QString statement = WithFieldsOf(latest->ShowSQL, fieldStatement);
-    if (statement.isEmpty())
-        return false;
-    PassSQL = Sorted(statement, m_orderWord);
-    return true;
-}
-
 bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, const QString &strOrgSQL,
                                              QString &strRetSQL) const
 {

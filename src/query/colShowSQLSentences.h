@@ -166,6 +166,9 @@ public:
     // For each field of the catalogue, whether it is a part field: of fields that share a name, the chosen
     // one alone where that is known, else all of them.
     QList<bool> PartFields() const;
+    // For each field of a statement that was derived from the latest entry's, what a list has for it, where
+    // several of the entry's fields share a name. Nothing where names are enough or entries can't tell.
+    QStringList EntriesOfEqualNames(const QString &statement) const;
     // Marks them so. Nothing happens when these are not as many as the catalogue has.
     void SetPartFields(const QList<bool> &areParts);
     // How many fields the latest entry shows; False when there is no entry.
@@ -196,6 +199,7 @@ private:
     const clsShowSQLSentence *Latest() const { return Item(Count()); }
     std::optional<SQLSentence> SplitLatest() const;
     QString WithFieldsOf(const QString &statement, const QString &fieldStatement) const;
+    bool CanShowFieldsOf(const QString &partStatement) const;
     bool StepBackTo(qsizetype position, QString &PassFilter, QString *PassKey);
     bool BringInStepWith(const clsShowSQLSentence &entry, const QString &connectionString);
     QList<bool> PartOfEqualNames(const QString &statement, const QString &partStatement) const;

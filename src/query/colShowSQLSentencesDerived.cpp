@@ -131,9 +131,13 @@ QString colShowSQLSentences::GetColumnRealName(const QString &shownStatement, co
 {
     if (column < 0 || column >= shownNames.size())
         return {};
-    const auto derivation = DerivationOf(shownStatement, DerivationStep::Condition);
+    const QString &name = shownNames.at(column);
+    // Of several fields with that name, the catalogue answers the first one.
+    const bool isShared = std::ranges::count(m_catalogue, name, &clsDataField::FieldName) > 1;
+    const auto derivation =
+        isShared ? DerivationOf(shownStatement) : DerivationOf(shownStatement, DerivationStep::Condition);
     if (!derivation || derivation->written().size() != shownNames.size())
-        return GetSelFieldRealName(shownNames.at(column));
+        return GetSelFieldRealName(name);
     return derivation->written().at(column);
 }
 
@@ -185,6 +189,16 @@ bool colShowSQLSentences::CanName(const clsDataField &field) const
     return shown->names().contains(field.FieldName);
 }
 
+QStringList colShowSQLSentences::EntriesOfEqualNames(const QString &statement) const
+{
+    const clsShowSQLSentence *const latest = Latest();
+    const auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
+    if (!all || QSet<QString>(all->names().cbegin(), all->names().cend()).size() == all->names().size())
+        return {};
+    const auto derived = DerivationOf(statement);
+    return derived ? all->listedFor(*derived) : QStringList();
+}
+
 // A name finds the first of the fields that share it; the list entries tell which of them are meant. Nothing
 // where names are enough or entries can't tell.
 QList<bool> colShowSQLSentences::PartOfEqualNames(const QString &statement,
@@ -232,6 +246,41 @@ QString colShowSQLSentences::GetFieldsStatement(const QString &statement) const
         return derivation->fieldsStatement();
     const auto sentence = SplitSQLSentence(statement);
     return sentence ? sentence->fields : QString();
+}
+
+bool colShowSQLSentences::GetNextShowSQL(StatementType SQLType, QString &PassSQL) const
+{
+    PassSQL.clear();
+    const clsShowSQLSentence *const latest = Latest();
+    if (!latest)
+        return false;
+    if (SQLType != AllFieldsStatement && SQLType != PartFieldsStatement)
+        return true;
+    QString fieldStatement = latest->AllFields;
+    const bool isPart = SQLType == PartFieldsStatement;
+    if (isPart && latest->GetCurrUsePartFieldSQL(fieldStatement) && !CanShowFieldsOf(fieldStatement))
+        fieldStatement = latest->AllFields;
+    QString shown = latest->ShowSQL;
+    const auto all = isPart && !m_orderWord.isEmpty() ? DerivationOf(latest->AllFields) : nullptr;
+    // Of several tables, only the whole list may tell what the sort means.
+    if (all && all->isJoined()) {
+        if (const auto derivation = DerivationOf(shown); derivation && !derivation->isSorted())
+            shown = Sorted(WithFieldsOf(shown, latest->AllFields), m_orderWord);
+    }
+    const QString statement = WithFieldsOf(shown, fieldStatement);
+    if (statement.isEmpty())
+        return false;
+    PassSQL = Sorted(statement, m_orderWord);
+    return true;
+}
+
+// Not what a host has written so that neither the database nor the catalogue knows its fields.
+bool colShowSQLSentences::CanShowFieldsOf(const QString &partStatement) const
+{
+    const auto part = engineOf(m_connString).isKnown() ? DerivationOf(partStatement) : nullptr;
+    return !part ||
+           std::ranges::all_of(part->names(), [&](const QString &name) { return m_catalogue.Find(name); }) ||
+           m_reader->Read(m_connString, partStatement);
 }
 
 QString colShowSQLSentences::Sorted(const QString &statement, const QString &sortList) const

@@ -111,7 +111,7 @@ bool Session::makeReady(Needs needs, Record record)
 bool Session::canRunOnColumn(const ColumnCommand &command, int col)
 {
     return isUsable() && m_result.isOpen() && col > 0 && col < m_window->Cols() &&
-           whyNot(command).isEmpty() && (!command.canRun || command.canRun(*this, col));
+           (!command.canRun || command.canRun(*this, col)) && whyNot(command, col).isEmpty();
 }
 
 void Session::runOnColumn(const ColumnCommand &command, int col)
@@ -154,9 +154,12 @@ QString Session::whyNot(const Command &command)
     return command.whyNot ? command.whyNot(*this) : QString();
 }
 
-QString Session::whyNot(const ColumnCommand &command) const
+QString Session::whyNot(const ColumnCommand &command, int col)
 {
-    return command.step ? m_history->whyNot(*command.step) : QString();
+    const QString reason = command.step ? m_history->whyNot(*command.step) : QString();
+    const bool isOnColumn =
+        command.whyNot && isUsable() && m_result.isOpen() && col > 0 && col < m_window->Cols();
+    return reason.isEmpty() && isOnColumn ? command.whyNot(*this, col) : reason;
 }
 
 void Session::clear()

@@ -96,7 +96,7 @@ public:
 
     // Why a command can't run on what is shown now, for the user to read; empty when it can.
     QString whyNot(const Command &command);
-    QString whyNot(const ColumnCommand &command) const;
+    QString whyNot(const ColumnCommand &command, int col);
     // Runs the command of a key, whether or not its button is enabled; one that can't run ends silently. One
     // chosen from the menu needs an open result and shows many records again where its item says so.
     void run(const QString &key, ChosenBy by = ChosenBy::Button);

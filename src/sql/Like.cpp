@@ -18,6 +18,11 @@ QString likeOperand(Engine engine, const QString &field)
     return likesTextsOnly(engine) ? "CAST("_L1 + field + " AS TEXT)"_L1 : field;
 }
 
+QString shownOperand(Engine engine, const QString &field)
+{
+    return likesTextsOnly(engine) ? "concat("_L1 + field + u')' : field;
+}
+
 // A cast to NUMERIC keeps 15 digits; very large and very small numbers are written with an exponent.
 QString likeOperandOfDouble(Engine engine, const QString &field)
 {

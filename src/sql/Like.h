@@ -13,6 +13,10 @@ bool likesTextsOnly(Engine engine);
 // The field as LIKE takes it, whatever its type is.
 QString likeOperand(Engine engine, const QString &field);
 
+// The same, with the text that is shown where the engine's cast writes another one: that of a network address
+// has its mask in PostgreSQL.
+QString shownOperand(Engine engine, const QString &field);
+
 // The same for a field of 8-byte floating numbers: LIKE is to see the digits that are shown, 15 at most, of
 // which engines that cast write more.
 QString likeOperandOfDouble(Engine engine, const QString &field);

@@ -49,9 +49,11 @@ TEST(OdbcRefusal, RefusesWhatRunsInsideAQuery)
 {
     for (const char *sql : {"select 1 into outfile '/tmp/x'", "select 1 /*!50000 into outfile '/tmp/x' */",
                             "(select 1 into @a)", "select 1 /*M!100000 into outfile '/tmp/x' */", "call p()",
-                            "show tables into x"})
+                            "show tables into x", "select a from t lock in share mode",
+                            "select a from (select a from t limit 1 lock  IN share /* */ mode) q"})
         EXPECT_ADO_ERROR(dbErrPermissionDenied, check(sql, SqlDialect::MySql));
     EXPECT_NO_THROW(check("(select t.into, 'into' from t) union (select 1, 2)", SqlDialect::MySql));
+    EXPECT_NO_THROW(check("select lock, share, mode from t", SqlDialect::MySql));
     EXPECT_NO_THROW(check("select insert('abc', 1, 1, 'x'), (update_count) from t", SqlDialect::MySql));
 }
 

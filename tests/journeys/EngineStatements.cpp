@@ -138,10 +138,18 @@ bool EngineStatements::canUse(const QString &key)
     return action.isEnabled();
 }
 
-StatementAnswer EngineStatements::sameText(const StatementAnswer &all, qsizetype column, const QString &text)
+StatementAnswer EngineStatements::sameText(const StatementAnswer &all, qsizetype column,
+                                           const QString &text) const
 {
+    const bool hasTwoForms = engine.isFilledBySqlite() && engine.variable;
+    const auto isSame = [&](const QString &other) {
+        bool isNumber = false;
+        const double value = text.toDouble(&isNumber);
+        return other == text || (hasTwoForms && isNumber && !other.isEmpty() &&
+                                 other.toDouble(&isNumber) == value && isNumber);
+    };
     StatementAnswer kept = all;
-    std::erase_if(kept.rows, [&](const QStringList &row) { return row.at(column) != text; });
+    std::erase_if(kept.rows, [&](const QStringList &row) { return !isSame(row.at(column)); });
     return kept;
 }
 
@@ -220,8 +228,8 @@ const std::vector<JourneyEngine> &enginesOfStatements()
 {
     static const std::vector<JourneyEngine> engines = [] {
         std::vector<JourneyEngine> some = journeyEngines();
-        std::erase_if(some, [](const JourneyEngine &engine) { // two ways to an engine that is there
-            return QLatin1StringView(engine.name).contains(QLatin1StringView("Through"));
+        std::erase_if(some, [](const JourneyEngine &engine) { // another way to an engine that is there
+            return QLatin1StringView(engine.name).contains(QLatin1StringView("Bouncer"));
         });
         return some;
     }();

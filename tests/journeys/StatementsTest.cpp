@@ -28,7 +28,8 @@ protected:
         const auto rows = static_cast<int>(std::min<std::size_t>(all.rows.size(), 9));
         for (int column = 0; column < columns; ++column) {
             // Every cell on one engine; the others have the same tables and take longer.
-            const int step = engine.store == JourneyEngine::SqliteFile ? 1 : std::max(rows, 1);
+            const bool isFast = engine.store == JourneyEngine::SqliteFile && !engine.variable;
+            const int step = isFast ? 1 : std::max(rows, 1);
             QSet<QString> seen;
             for (int row = step > 1 ? column % std::max(rows, 1) : 0; row < rows; row += step) {
                 const QString text = all.rows.at(static_cast<std::size_t>(row)).at(column);
@@ -158,6 +159,7 @@ protected:
             WindowAnswers dialogs({[&](QDialog &dialog) { tickOnly(dialog, static_cast<int>(column)); }});
             hands->click(u"SelField"_s);
             expectShown(expected, "the choice of one of equal names");
+            filterByShownCell(expected);
             hands->click(u"All"_s);
             expectShown(all, "All after one of equal names");
             hands->click(u"Part"_s);
@@ -165,6 +167,23 @@ protected:
         }
         hands->click(u"ToOrigin"_s);
         expectShown(all, "ToOrigin");
+    }
+
+    // A condition means the column that is shown, and not another one of its name.
+    void filterByShownCell(const Answer &expected)
+    {
+        int column = 0;
+        while (column < hands->table->model()->columnCount() && hands->table->isColumnHidden(column))
+            ++column;
+        const QString text = expected.rows.empty() ? QString() : shown().rows.front().front();
+        if (text.isEmpty())
+            return;
+        hands->choose(14, 1, column + 1);
+        if (hands->messages.shown().empty()) {
+            expectShown(sameText(expected, 0, text), "the cell filter on one of equal names");
+            back(expected);
+        }
+        hands->messages.clear();
     }
 
     static void tickOnly(QDialog &dialog, int field)

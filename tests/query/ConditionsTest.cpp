@@ -176,6 +176,19 @@ TEST(CellFilterText, BlanksUpToTheFieldsLengthAreLeftOutWhereTheCastDropsThem)
     EXPECT_EQ(buildCellFilter(u"C"_s, fixed, u"a b  "_s, Engine::SQLite).condition, u"C like 'a b  '"_s);
 }
 
+// PostgreSQL casts an inet to a text with its mask, which is not shown.
+TEST(CellFilterText, AnAddressIsComparedAsItIsShown)
+{
+    const auto condition = [](const QString &text, Engine engine) {
+        return buildCellFilter(u"A"_s, 202, text, engine).condition;
+    };
+    for (const QString &address : {u"10.0.0.1"_s, u"fe80::1"_s, u"::ffff:10.0.0.1"_s, u"08:00:2b:01:02:03"_s})
+        EXPECT_EQ(condition(address, Engine::PostgreSQL), u"concat(A) like '%1'"_s.arg(address));
+    for (const QString &text : {u"10.0.1"_s, u"8:30"_s, u"v1.2.3.4"_s, QString()})
+        EXPECT_EQ(condition(text, Engine::PostgreSQL), u"CAST(A AS TEXT) like '%1'"_s.arg(text));
+    EXPECT_EQ(condition(u"10.0.0.1"_s, Engine::MySQL), u"A like '10.0.0.1'"_s);
+}
+
 TEST(CellFilterText, MoneyIsComparedAsANumber)
 {
     constexpr int money = 6;

@@ -142,6 +142,13 @@ TEST(DerivationText, TheWholeTableHasNoConditionInAnyUnitedSelect)
         "((select a from T ) union select a from U ) except select a from V");
     expectText(whole(u"with W as (select a from T where b = 1) (select a from W where a > 1);"_s),
                "with W as (select a from T where b = 1) (select a from W );");
+    const auto wholeOfMySql = [](const QString &statement) {
+        return derive(Engine::MySQL, statement, {u"a"_s}).withoutConditions();
+    };
+    expectText(wholeOfMySql(u"select a from T /*!50000 where b = 1 */ group by a"_s),
+               "select a from T /*!50000 */ group by a");
+    expectText(wholeOfMySql(u"select a from T where b = 1 /*! and c = 2 */ group by a"_s),
+               "select a from T group by a");
     expectText(whole(u"select (select max(a) from T where b = 1) as a from U where c = (1) group by d"_s),
                "select (select max(a) from T where b = 1) as a from U group by d");
 }
@@ -187,6 +194,29 @@ TEST(DerivationText, ASortByAConstantIsLeftOutWhereTheListIsWrittenAgain)
         EXPECT_EQ(sorted.withFields(sorted.listed()).simplified(),
                   u"SELECT %1 'x' as K,7 as N,Qty FROM Ord ORDER BY Qty"_s.arg(word));
     }
+}
+
+TEST(DerivationText, ASortKeepsItsMeaningWithoutTheFieldsThatItNames)
+{
+    const auto chosen = [](const QString &statement, const QStringList &names) {
+        const Derivation derivation = derive(Engine::PostgreSQL, statement, names);
+        return derivation.withFields({derivation.listed().first()}).simplified();
+    };
+    const QStringList two{u"id"_s, u"name"_s};
+    // Of two tables, both of which have the name.
+    EXPECT_EQ(chosen(u"select a.id, b.name from A a join B b on a.id = b.id order by name desc, id"_s, two),
+              u"SELECT a.id FROM A a join B b on a.id = b.id ORDER BY b.name desc,a.id"_s);
+    EXPECT_EQ(chosen(u"select a.id as n, b.name from A a, B b where a.id = b.id order by name, n"_s,
+                     {u"n"_s, u"name"_s}),
+              u"SELECT a.id as n FROM A a, B b where a.id = b.id ORDER BY b.name,a.id"_s);
+    // As an engine calls an expression.
+    EXPECT_EQ(chosen(u"select id, upper(name) from A order by upper, id"_s, {u"id"_s, u"upper"_s}),
+              u"SELECT id FROM A ORDER BY upper(name),id"_s);
+    // The tables' own names are enough.
+    EXPECT_EQ(chosen(u"select a.id, a.name from A a order by name, other"_s, two),
+              u"SELECT a.id from A a order by name, other"_s);
+    EXPECT_EQ(chosen(u"select id, name from A join B using (id) order by name"_s, two),
+              u"SELECT id from A join B using (id) order by name"_s);
 }
 
 namespace {
@@ -279,6 +309,25 @@ INSTANTIATE_TEST_SUITE_P(
         // What follows the last word must not swallow the condition.
         OpenCase{"NumberSign", Engine::MySQL, u"select A, B from T # all"_s, u"A|B"_s,
                  "SELECT A, B FROM T WHERE B = 1"},
+        // Which MySQL compares without the quotes that it shows.
+        OpenCase{"JsonExtract", Engine::MySQL, u"select A, json_extract(B, '$.t') as t from T"_s, u"A|t"_s,
+                 "SELECT A, json_extract(B, '$.t') as t FROM T WHERE concat(json_extract(B, '$.t')) = 1"},
+        OpenCase{"JsonExtractInside", Engine::MySQL,
+                 u"select json_unquote(json_extract(B, '$.t')) t from T"_s, u"t"_s,
+                 "SELECT json_unquote(json_extract(B, '$.t')) t FROM T WHERE "
+                 "json_unquote(json_extract(B, '$.t')) = 1"},
+        // Words that MySQL takes at the beginning of a statement only.
+        OpenCase{
+            "FirstListWord", Engine::MySQL,
+            u"select sql_no_cache straight_join A, count(*) as N from T group by A"_s, u"A|N"_s,
+            "SELECT * FROM ( select straight_join A, count(*) as N from T group by A ) AS Q WHERE N = 1"},
+        OpenCase{
+            "FirstListWordInBrackets", Engine::MySQL,
+            u"(select /*! sql_cache */ distinct high_priority A from T) union (select A from U)"_s, u"A"_s,
+            "SELECT * FROM ( (select /*! */ distinct A from T) union (select A from U) ) AS Q WHERE A = 1"},
+        OpenCase{"NoListWord", Engine::PostgreSQL, u"select sql_no_cache, count(*) as n from T group by 1"_s,
+                 u"sql_no_cache|n"_s,
+                 "SELECT * FROM ( select sql_no_cache, count(*) as n from T group by 1 ) AS Q WHERE n = 1"},
         // What MySQL runs of a comment: words without effect, and a condition that some versions skip.
         OpenCase{
             "VersionComment", Engine::MySQL,
@@ -304,6 +353,18 @@ INSTANTIATE_TEST_SUITE_P(
         OpenCase{"OrAfterText", Engine::MySQL, uR"(select A, B from T where A = 'x\'' or B = 2)"_s, u"A|B"_s,
                  R"(select A, B from T where (A = 'x\'' or B = 2) AND B = 1)"}),
     [](const auto &parameter) { return std::string(parameter.param.name); });
+
+TEST(DerivationText, AConditionMayNameAnAliasWhereTheEngineTakesIt)
+{
+    const auto list = [](Engine engine, const QString &statement) {
+        return derive(engine, statement, {u"b"_s, u"n"_s}).filteredResult().list;
+    };
+    EXPECT_EQ(list(Engine::SQLite, u"select A as b, upper(C) n from T where C > 1"_s),
+              u"A as b, upper(C) n"_s);
+    EXPECT_EQ(list(Engine::PostgreSQL, u"select A as b, upper(C) n from T where C > 1"_s), u"*"_s);
+    EXPECT_EQ(list(Engine::SQLite, u"select A as b, count(*) n from T group by A"_s), u"*"_s)
+        << "of the table";
+}
 
 TEST(DerivationText, AChoiceOfFieldsKeepsTheSortOfDistinctOn)
 {

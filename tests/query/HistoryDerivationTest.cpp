@@ -56,12 +56,13 @@ protected:
 
 namespace {
 
-// Knows what Access would answer from the statement's list.
+// Knows what an engine would answer from the statement's list.
 class ListReader final : public FieldReader
 {
 public:
+    explicit ListReader(Engine engine = Engine::Access) : m_engine(engine) {}
     bool Open(const QString &) override { return true; }
-    EngineMode engineOf(const QString &) override { return Engine::Access; }
+    EngineMode engineOf(const QString &) override { return m_engine; }
     std::optional<std::vector<SourceField>> Read(const QString &, const QString &statement) override
     {
         const SqlScanner sql(statement);
@@ -73,9 +74,33 @@ public:
             fields.push_back({sql.name(item.tokens.end - 1), 202});
         return fields;
     }
+
+private:
+    Engine m_engine;
 };
 
 } // namespace
+
+TEST(HistorySort, OfTheHostIsByTheFieldThatTheWholeListMeans)
+{
+    ListReader reader(Engine::PostgreSQL);
+    MemoryChooser chooser;
+    clsFilterManagement manager{&reader, &chooser};
+    manager.SetDBType(dbOracle);
+    manager.SetDBConnString(u"server"_s);
+    const QString all = u"select e.id, e.name, d.city from E e join D d on d.id = e.dept"_s;
+    manager.SetAllFields(all);
+    manager.SetShowFields(u"select e.id from E e join D d on d.id = e.dept"_s);
+    manager.SetOrderFields(u"name desc"_s);
+    manager.SetOriginFilter(all);
+    manager.SetSQLInitData();
+    colShowSQLSentences &history = manager.SQLManager();
+    history.AddCurrentSQL(all, AllFieldsShown);
+    history.GetCurrSQLFieldsStatus();
+    QString part;
+    EXPECT_TRUE(history.GetNextShowSQL(PartFieldsStatement, part));
+    EXPECT_EQ(part.simplified(), u"SELECT e.id FROM E e join D d on d.id = e.dept ORDER BY e.name desc"_s);
+}
 
 // TOP takes its rows before a condition, which can name the fields that were not chosen all the same.
 TEST(HistoryDerivationOfTop, AFilterCanNameFieldsThatWereNotChosen)

@@ -25,3 +25,18 @@ TEST(LimitFence, KeepsTheFirstRecordsFromWhatIsAdded)
               u"SELECT * FROM ( SELECT * FROM ( select A from (select A from T limit 5) V ) LIMIT -1 ) AS Q "
               "WHERE A = 1"_s);
 }
+
+TEST(LimitFence, KeepsAConditionOutOfWhatIsGroupedByManyColumns)
+{
+    const auto isFenced = [](Engine engine, const QString &end) {
+        const QString statement = u"select A, count(*) as N from T "_s + end;
+        return Derivation(statement, {{u"A"_s, 202}, {u"N"_s, 3}}, dialectOf(dbSQLServer, engine))
+            .withCondition(u"A = 1 or N = 2"_s)
+            .contains(u"LIMIT 18446744073709551615"_s);
+    };
+    EXPECT_TRUE(isFenced(Engine::MySQL, u"group by T.A, U.A"_s));
+    EXPECT_TRUE(isFenced(Engine::MySQL, u"group by T.A, U.A having count(*) > 1 order by A"_s));
+    EXPECT_FALSE(isFenced(Engine::MySQL, u"group by T.A, U.A limit 5"_s)) << "its own limit is one";
+    EXPECT_FALSE(isFenced(Engine::MySQL, u"group by coalesce(T.A, U.A) order by A, N"_s));
+    EXPECT_FALSE(isFenced(Engine::PostgreSQL, u"group by T.A, U.A"_s));
+}

@@ -82,7 +82,7 @@ QList<QAction *> ColumnMenu::makeActions(QMenu &menu, int col)
         QAction *const action = menu.addAction(command->caption);
         action->setObjectName(u"ColumnMenu"_s + command->key);
         action->setEnabled(m_session.canRunOnColumn(*command, col));
-        action->setToolTip(m_session.whyNot(*command));
+        action->setToolTip(m_session.whyNot(*command, col));
         action->setCheckable(command->isOn != nullptr);
         action->setChecked(action->isEnabled() && command->isOn && command->isOn(m_session, col));
         connect(action, &QAction::triggered, this, [this, command, col] { m_run(*command, col); });

@@ -283,6 +283,20 @@ bool BuildLikeAllCondition(const QString &strText, const TypedField &field, cons
     return BuildLikeCondition(strText, std::span(&field, 1), strSQL, database, strCondition, mode);
 }
 
+namespace {
+
+// 10.0.0.1 or fe80::1, of which the type says no more than that it is a text.
+bool isLikeAnAddress(const QString &text)
+{
+    const auto isPart = [](QChar c) {
+        return c == u'.' || c == u':' ||
+               (c.unicode() < 128 && (c.isDigit() || (c.toLower() >= u'a' && c.toLower() <= u'f')));
+    };
+    return std::ranges::all_of(text, isPart) && (text.count(u'.') == 3 || text.count(u':') >= 2);
+}
+
+} // namespace
+
 CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoType,
                            const std::optional<QString> &cellText, const EngineMode &mode, bool isComputed)
 {
@@ -312,9 +326,9 @@ CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoTyp
         while (text.endsWith(u' '))
             text.chop(1);
     }
-    return {likeOperand(mode.engine, realName) + QStringLiteral(" like ") +
-                literalOf({}, mode, likePattern(mode.engine, text)),
-            {}};
+    const QString operand =
+        isLikeAnAddress(text) ? shownOperand(mode.engine, realName) : likeOperand(mode.engine, realName);
+    return {operand + QStringLiteral(" like ") + literalOf({}, mode, likePattern(mode.engine, text)), {}};
 }
 
 } // namespace KOVAVSFDataGridLib

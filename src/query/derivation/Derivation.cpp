@@ -89,10 +89,9 @@ bool Derivation::keepsListWords() const
 
 bool Derivation::isTextWork(DerivationStep step) const
 {
-    return isSimple() && (step != DerivationStep::Fields ||
-                          std::none_of(m_parts.sort.begin(), m_parts.sort.end(), [&](const auto &term) {
-                              return m_sql.at(term.value.begin).kind == SqlToken::Kind::Number;
-                          }));
+    return isSimple() &&
+           (step != DerivationStep::Fields ||
+            std::ranges::none_of(m_parts.sort, [&](const auto &term) { return meansEntry(term); }));
 }
 
 QString Derivation::whyNot(DerivationStep step) const
@@ -143,7 +142,9 @@ QString Derivation::withoutConditions() const
     for (const qsizetype condition : conditions | std::views::reverse) {
         const int depth = m_sql.at(condition).depth;
         qsizetype next = condition + 1;
-        while (next < m_sql.count() && m_sql.at(next).depth >= depth && !endsCondition(next, depth))
+        const bool isInComment = isInVersionComment(m_sql, condition);
+        while (next < m_sql.count() && m_sql.at(next).depth >= depth && !endsCondition(next, depth) &&
+               !(isInComment && isVersionCommentEnd(m_sql, next)))
             ++next;
         const qsizetype end = next < m_sql.count() ? m_sql.at(next).start : m_sql.withoutSemicolon().size();
         text.remove(m_sql.at(condition).start, end - m_sql.at(condition).start);
@@ -261,6 +262,8 @@ QString Derivation::condition() const
 FilteredResult Derivation::filteredResult() const
 {
     FilteredResult result{prefix(), source(), {}};
+    if (m_kind == Kind::Open && readsAliasesInConditions(m_dialect.engine))
+        result.list = listText();
     for (qsizetype i = 0; i < m_names.size(); ++i) {
         if (!m_written.at(i).isEmpty())
             result.fields.append({m_names.at(i), m_written.at(i), m_types[static_cast<std::size_t>(i)]});
@@ -309,11 +312,13 @@ QString Derivation::asTable() const
     // A limit takes its rows in an order, and so does DISTINCT ON. Any other order is for what comes outside.
     const bool isOrdered =
         !m_parts.order.isEmpty() && !m_parts.isLimited && !m_parts.isTop && !m_parts.isDistinctOn;
+    const qsizetype start = m_sql.at(all.begin).start;
     if (isOrdered && (!outerSort().isEmpty() || !takesInnerSort(m_dialect))) {
-        const qsizetype start = m_sql.at(all.begin).start;
         const qsizetype from = m_sql.at(m_parts.order.begin).start - start;
         inner.remove(from, m_sql.at(m_parts.order.end - 1).end() - start - from);
     }
+    for (const qsizetype word : firstListWords(m_sql, all) | std::views::reverse)
+        inner.remove(m_sql.at(word).start - start, m_sql.at(word).length);
     inner = inner.trimmed();
     if (needsFence(m_sql, {0, end}, m_dialect.engine))
         inner = fenced(inner, m_dialect.engine);
@@ -345,20 +350,32 @@ QString Derivation::outerSort() const
     return terms.join(u',');
 }
 
-// Positions and aliases in a sort mean entries of the list, which may change.
+// Such a term means another field, or none, where the list lacks the entry.
+bool Derivation::meansEntry(const SelectParts::Item &term) const
+{
+    const bool isNumber = m_sql.at(term.value.begin).kind == SqlToken::Kind::Number;
+    const bool isBareName = term.isName && term.value.end - term.value.begin == 1;
+    const int field = isNumber || isBareName ? fieldOfTerm(term) : -1;
+    if (field < 0 || isNumber)
+        return isNumber;
+    // Of several tables, more than one can have a field of that name.
+    if (isJoined() && m_written.at(field).contains(u'.'))
+        return true;
+    const int at = m_itemOfField[static_cast<std::size_t>(field)];
+    if (at < 0)
+        return false;
+    const SelectParts::Item &item = m_parts.items[static_cast<std::size_t>(at)];
+    return !item.alias.isEmpty() || !(item.isStar || item.isName);
+}
+
+// The value of the entries that it means, which may go.
 QString Derivation::stableSort() const
 {
     QStringList terms;
     bool isChanged = false;
     for (const SelectParts::Item &term : m_parts.sort) {
-        const bool isNumber = m_sql.at(term.value.begin).kind == SqlToken::Kind::Number;
-        const int field = isNumber || term.isName ? fieldOfTerm(term) : -1;
-        const bool isMoved =
-            field >= 0 && m_itemOfField[static_cast<std::size_t>(field)] >= 0 &&
-            !m_written.at(field).isEmpty() &&
-            (isNumber ||
-             !m_parts.items[static_cast<std::size_t>(m_itemOfField[static_cast<std::size_t>(field)])]
-                  .alias.isEmpty());
+        const int field = meansEntry(term) ? fieldOfTerm(term) : -1;
+        const bool isMoved = field >= 0 && !m_written.at(field).isEmpty();
         const QString direction = textOf(m_sql, {term.value.end, term.tokens.end});
         terms.append(!isMoved ? textOf(m_sql, term.tokens)
                               : m_written.at(field) + (direction.isEmpty() ? QString() : u' ' + direction));

@@ -17,6 +17,8 @@ struct FilteredResult
     QString prefix;
     QString source;
     QList<OfferedField> fields; // those of the result that a condition can name
+    // Of a SELECT of these rows, where a condition can name an alias in it; else "*".
+    QString list = QStringLiteral("*");
 };
 
 // What a command does to a statement; see Derivation::whyNot.
@@ -160,6 +162,9 @@ private:
     QString asTable() const;
     QString listText() const;
     QString outerSort() const;
+    // Whether a term of the sort is found by the list: a position, an alias, or a name that isn't enough for
+    // one of the sources.
+    bool meansEntry(const SelectParts::Item &term) const;
     QString stableSort() const;
     int fieldOfTerm(const SelectParts::Item &term) const;
     QString sortableTerms(const QString &sortList) const;

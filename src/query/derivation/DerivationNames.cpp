@@ -38,6 +38,10 @@ QString operand(const SqlScanner &sql, const SelectParts::Item &item)
     // A sort takes a number for a position, and some engines refuse other constants.
     if (isConstant(sql, item))
         return u"(CASE WHEN 1=1 THEN %1 END)"_s.arg(text);
+    // MySQL compares what this finds without the quotes that it is shown with.
+    if (sql.dialect() == SqlDialect::MySql && sql.isWord(item.value.begin, u"JSON_EXTRACT") &&
+        isOneCall(sql, item.value))
+        return u"concat("_s + text + u')';
     const bool isOneToken = item.value.end - item.value.begin == 1;
     const bool isWhole = item.isName || isOneToken || isOneCall(sql, item.value);
     return isWhole ? text : u'(' + text + u')';

@@ -21,8 +21,10 @@ struct ColumnCommand
     void (*run)(Session &session, int col);
     // What it derives from the shown statement; where that is refused, it can't run.
     std::optional<DerivationStep> step = {};
-    // What else keeps it from running. Null when nothing does.
+    // Whether what is shown has anything for it. Null when that is always so.
     bool (*canRun)(Session &session, int col) = nullptr;
+    // Why it can't run on this column, for the user to read; empty when it can. Null when it always can.
+    QString (*whyNot)(Session &session, int col) = nullptr;
     // Whether it is in force already. Null for what never is.
     bool (*isOn)(Session &session, int col) = nullptr;
 

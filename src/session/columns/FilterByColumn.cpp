@@ -105,9 +105,9 @@ const ColumnCommand::Registration registration({
     // A filter that leaves no record can still be changed where it was made.
     .canRun =
         [](Session &session, int col) {
-            return !writtenColumn(session, col).isEmpty() &&
-                   (session.result().hasRecords() || choiceInForce(session, writtenColumn(session, col)));
+            return session.result().hasRecords() || choiceInForce(session, writtenColumn(session, col));
         },
+    .whyNot = whyNotWritten,
 });
 
 } // namespace

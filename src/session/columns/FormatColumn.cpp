@@ -3,6 +3,7 @@
 #include "session/Questions.h"
 #include "session/ResultWatch.h"
 #include "session/Session.h"
+#include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "session/columns/ColumnCommand.h"
 
@@ -46,9 +47,11 @@ const ColumnCommand::Registration registration({
     .place = 500,
     .caption = ColumnCommand::tr("格式(&O)…"),
     .run = chooseFormat,
-    .canRun =
+    .whyNot =
         [](Session &session, int col) {
-            return typeOf(session, col) == ADODB::adBoolean || ADODB::isNumericType(typeOf(session, col));
+            const bool hasFormats =
+                typeOf(session, col) == ADODB::adBoolean || ADODB::isNumericType(typeOf(session, col));
+            return hasFormats ? QString() : SessionMessages::NoFormat;
         },
 });
 

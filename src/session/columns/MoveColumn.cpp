@@ -1,4 +1,5 @@
 #include "session/Session.h"
+#include "session/SessionMessages.h"
 #include "session/SessionWindow.h"
 #include "session/columns/ColumnCommand.h"
 
@@ -43,9 +44,9 @@ void move(Session &session, int col)
 }
 
 template<Side side>
-bool canMove(Session &session, int col)
+QString whyNotMoved(Session &session, int col)
 {
-    return placeBeside(session.window(), col, side).has_value();
+    return placeBeside(session.window(), col, side) ? QString() : SessionMessages::NoColumnBeside;
 }
 
 const ColumnCommand::Registration left({
@@ -53,7 +54,7 @@ const ColumnCommand::Registration left({
     .place = 410,
     .caption = ColumnCommand::tr("左移(&B)"),
     .run = move<Side::Left>,
-    .canRun = canMove<Side::Left>,
+    .whyNot = whyNotMoved<Side::Left>,
 });
 
 const ColumnCommand::Registration right({
@@ -61,7 +62,7 @@ const ColumnCommand::Registration right({
     .place = 411,
     .caption = ColumnCommand::tr("右移(&N)"),
     .run = move<Side::Right>,
-    .canRun = canMove<Side::Right>,
+    .whyNot = whyNotMoved<Side::Right>,
 });
 
 } // namespace

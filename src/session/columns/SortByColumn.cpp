@@ -1,5 +1,6 @@
 #include "query/clsFilterManagement.h"
 #include "session/Session.h"
+#include "session/SessionMessages.h"
 #include "session/columns/ColumnCommand.h"
 #include "session/commands/rows/ShowSorted.h"
 #include "session/history/SharedHistory.h"
@@ -16,9 +17,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool canSort(Session &session, int col)
+bool canSort(Session &session, int)
 {
-    return session.result().hasRecords() && !writtenColumn(session, col).isEmpty();
+    return session.result().hasRecords();
 }
 
 const SortTerm *termOf(const std::vector<SortTerm> &order, int col)
@@ -31,6 +32,15 @@ bool isSortedBy(Session &session, int col)
 {
     const std::vector<SortTerm> order = shownOrder(session);
     return termOf(order, col);
+}
+
+template<bool isWanted>
+QString whyNotSorted(Session &session, int col)
+{
+    const QString reason = whyNotWritten(session, col);
+    if (!reason.isEmpty() || isSortedBy(session, col) == isWanted)
+        return reason;
+    return isWanted ? SessionMessages::NotSorted : SessionMessages::AlreadySorted;
 }
 
 void sortBy(Session &session, const QStringList &terms)
@@ -73,6 +83,7 @@ const ColumnCommand::Registration ascending({
     .run = sortByOne<false>,
     .step = DerivationStep::Sort,
     .canRun = canSort,
+    .whyNot = whyNotWritten,
     .isOn = isSortedFirst<false>,
 });
 
@@ -84,6 +95,7 @@ const ColumnCommand::Registration descending({
     .run = sortByOne<true>,
     .step = DerivationStep::Sort,
     .canRun = canSort,
+    .whyNot = whyNotWritten,
     .isOn = isSortedFirst<true>,
 });
 
@@ -97,7 +109,8 @@ const ColumnCommand::Registration add({
             sortBy(session, textsOf(shownOrder(session)) + QStringList(writtenColumn(session, col)));
         },
     .step = DerivationStep::Sort,
-    .canRun = [](Session &session, int col) { return canSort(session, col) && !isSortedBy(session, col); },
+    .canRun = canSort,
+    .whyNot = whyNotSorted<false>,
 });
 
 const ColumnCommand::Registration remove({
@@ -107,7 +120,8 @@ const ColumnCommand::Registration remove({
     .record = Record::IsLeft,
     .run = [](Session &session, int col) { sortBy(session, textsOf(shownOrder(session), col)); },
     .step = DerivationStep::Sort,
-    .canRun = [](Session &session, int col) { return canSort(session, col) && isSortedBy(session, col); },
+    .canRun = canSort,
+    .whyNot = whyNotSorted<true>,
 });
 
 } // namespace

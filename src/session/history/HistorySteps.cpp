@@ -3,6 +3,7 @@
 #include "ado/Notifications.h"
 #include "ado/Recordset.h"
 #include "query/clsFilterManagement.h"
+#include "session/ResultWatch.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/editing/EditedRecord.h"
@@ -11,6 +12,7 @@
 #include "session/pages/Pages.h"
 #include "session/statement/FilterManagerRollback.h"
 #include "session/statement/ShownStatement.h"
+#include "session/statement/StatementReader.h"
 
 #include <algorithm>
 
@@ -53,7 +55,8 @@ std::vector<clsShowSQLSentence> entriesAfter(Session &session, qsizetype positio
     return entries;
 }
 
-void goBackTo(Session &session, qsizetype position, StepBack stepBack)
+// Answers whether that was shown; `refusal` is what the database says against it.
+bool showEntry(Session &session, qsizetype position, StepBack stepBack, QString &refusal)
 {
     FilterManagerRollback rollback(session);
     std::vector<clsShowSQLSentence> left = entriesAfter(session, position);
@@ -62,16 +65,43 @@ void goBackTo(Session &session, qsizetype position, StepBack stepBack)
     QString statement;
     QString key;
     if (!(session.history().*stepBack)(statement, &key))
-        return;
-    const auto opened = session.shown().readForReload(statement, true);
+        return false;
+    const auto opened = session.shown().readForReload(statement, true, &refusal);
     if (!opened)
-        return;
+        return false;
     const ADODB::Notifications::Hold hold(session.notifications());
     session.shown().show(*opened);
     rollback.keepChanges();
     session.sharedHistory().trail().setAhead(session.history(), std::move(left));
     session.sharedHistory().trail().replaceNote(session.history(), opened->recordset->RecordCount());
     showAsEntry(session, session.history().Item(key));
+    return true;
+}
+
+// A database can refuse what it has shown before. What was shown before that is the way out then; the refused
+// statement is ahead.
+void goBackTo(Session &session, qsizetype position, StepBack stepBack)
+{
+    const ResultWatch watch(session);
+    const auto manager = session.sharedHistory().manager();
+    const StatementReader &reader = session.statementReader();
+    QString firstRefusal;
+    for (; position >= 1; --position) {
+        QString refusal;
+        if (showEntry(session, position, stepBack, refusal) || session.isDetached() || !watch.isUntouched() ||
+            !session.sharedHistory().isManager(manager))
+            return;
+        if (firstRefusal.isEmpty())
+            firstRefusal = refusal;
+        if (refusal.isEmpty() || !reader.isRefused())
+            break;
+    }
+    if (firstRefusal.isEmpty())
+        return;
+    if (reader.isCancelled())
+        session.statementReader().reportCancelled();
+    else
+        session.statementReader().reportError(firstRefusal);
 }
 
 bool addAgain(colShowSQLSentences &history, const clsShowSQLSentence &entry)

@@ -1,6 +1,7 @@
 #include "session/statement/ShownOrder.h"
 
 #include "ado/Recordset.h"
+#include "query/QueryTexts.h"
 #include "query/clsFilterManagement.h"
 #include "session/Session.h"
 #include "session/SessionWindow.h"
@@ -32,6 +33,15 @@ QString writtenColumn(Session &session, int col)
     // The statement that was opened, not the one that is called shown: "All" and "Part" only hide columns.
     return session.history().GetColumnRealName(session.result().recordset()->Source(),
                                                session.window().Headings(), col - 1);
+}
+
+QString whyNotWritten(Session &session, int col)
+{
+    if (!writtenColumn(session, col).isEmpty())
+        return {};
+    const QStringList headings = session.window().Headings();
+    const QString heading = headings.value(col - 1);
+    return (headings.count(heading) > 1 ? QueryTexts::EqualNames : QueryTexts::UnknownTable).arg(heading);
 }
 
 std::vector<SortTerm> shownOrder(Session &session)

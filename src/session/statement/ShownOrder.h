@@ -20,5 +20,7 @@ struct SortTerm
 std::vector<SortTerm> shownOrder(Session &session);
 // What a sort or a condition writes for a column; empty when it has no name of its own.
 QString writtenColumn(Session &session, int col);
+// Why it has none, for the user to read; empty when it has one.
+QString whyNotWritten(Session &session, int col);
 
 } // namespace KOVAVSFDataGridLib

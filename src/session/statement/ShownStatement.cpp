@@ -87,8 +87,12 @@ bool ShownStatement::reloadFiltered(const QString &statement, bool isRemembered,
     return true;
 }
 
-bool ShownStatement::addCondition(const QString &condition, QString &statement) const
+bool ShownStatement::addCondition(const QString &condition, QString &statement)
 {
+    // What is added now was not chosen by values, even where that was written in the same way.
+    const QString added = condition.simplified();
+    std::erase_if(chosenValues,
+                  [&](const ChosenValues &values) { return values.condition.simplified() == added; });
     if (!m_session.rules().narrowsShown)
         return m_session.history().GetNextSQLByFilter(condition, statement);
     if (m_session.filterManager().LastUseFilter() != m_text)

@@ -64,8 +64,8 @@ public:
 
     // What a user has to know to build a condition for it.
     ConditionRequest conditionRequest() const;
-    // The statement with one more condition; false when none can be derived.
-    bool addCondition(const QString &condition, QString &statement) const;
+    // The statement with one more condition, which chosenValues has no more; false when none can be derived.
+    bool addCondition(const QString &condition, QString &statement);
     // Keeps a filter's condition for the dialogs of the process; an empty one empties SQLFilter as well.
     void setLastFilter(const QString &condition);
     // Whether the next filter is added to this statement and not to the first one.

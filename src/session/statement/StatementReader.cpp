@@ -14,6 +14,18 @@
 
 namespace KOVAVSFDataGridLib {
 
+namespace {
+
+// Data that a statement can't work with are its own fault too: SQLSTATE class 22.
+bool isAboutStatement(const ADODB::Error &error)
+{
+    const bool isElse =
+        error.is(ADODB::dbErrFailed) || error.is(ADODB::dbErrAuthFailed) || error.is(ADODB::dbErrCancelled);
+    return !isElse || error.SQLState().startsWith(QLatin1StringView("22"));
+}
+
+} // namespace
+
 StatementReader::StatementReader(Session &session, Session::Opener opener)
     : m_session(session), m_opener(std::move(opener))
 {
@@ -41,6 +53,7 @@ StatementReader::Reading StatementReader::read(const QString &statement, AllDBTy
         return {};
     const ResultWatch watch(m_session);
     m_isCancelled = false;
+    m_isRefused = false;
     QString failure;
     try {
         Reading reading{.opened = open(statement, dbType)};
@@ -50,6 +63,7 @@ StatementReader::Reading StatementReader::read(const QString &statement, AllDBTy
         return reading;
     } catch (const ADODB::Error &error) {
         failure = error.Description();
+        m_isRefused = !m_isCancelled && isAboutStatement(error);
     } catch (const std::exception &error) {
         qWarning("A statement could not be opened: %s", error.what());
         failure = QString::fromUtf8(error.what());

@@ -33,6 +33,8 @@ public:
 
     // Whether the user has cancelled the last reading.
     bool isCancelled() const { return m_isCancelled; }
+    // Whether the database has refused the last statement itself, and is there to answer others.
+    bool isRefused() const { return m_isRefused; }
     // What the user is shown, unless the session's window wants it otherwise.
     void reportCancelled();
     void reportError(const QString &description);
@@ -43,6 +45,7 @@ private:
     Session &m_session;
     const Session::Opener m_opener;
     bool m_isCancelled = false;
+    bool m_isRefused = false;
 };
 
 } // namespace KOVAVSFDataGridLib

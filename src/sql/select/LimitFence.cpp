@@ -16,12 +16,18 @@ struct Level
     bool isLimited = false;
     bool isSorted = false;
     bool isCompound = false;
+    bool isGrouped = false;
+    bool isInGroup = false;
+    bool isGroupedByMany = false;
+    bool hasJson = false; // a field that compares without the quotes that it is shown with
     bool isFence = false;
     bool holdsUnfenced = false;
 
     bool needsFence(Engine engine) const
     {
-        const bool isOwn = isLimited && (engine == Engine::SQLite ? !isSorted : isCompound);
+        const bool isOwn = engine == Engine::SQLite ? isLimited && !isSorted
+                           : isLimited              ? isCompound
+                                       : isGroupedByMany || (hasJson && (isGrouped || isCompound));
         return !isFence && (isOwn || holdsUnfenced);
     }
 };
@@ -62,15 +68,27 @@ bool needsFence(const SqlScanner &statement, TextRange tokens, Engine engine)
             levels.emplace_back();
         else if (statement.isSymbol(i, u')') && levels.size() > 1)
             closeLevel();
+        else if (statement.isSymbol(i, u','))
+            level.isGroupedByMany = level.isGroupedByMany || level.isInGroup;
         else if (statement.isSymbol(i - 1, u'.'))
             continue;
+        else if (statement.isWord(i, u"GROUP") && statement.isWord(i + 1, u"BY"))
+            level.isGrouped = level.isInGroup = true;
+        else if (statement.isWord(i, u"JSON_EXTRACT"))
+            level.hasJson = true;
+        else if (statement.isWord(i, u"HAVING"))
+            level.isInGroup = false;
         else if (isLimitWord(statement, i, engine)) {
+            level.isInGroup = false;
             level.isLimited = true;
             level.isFence = limitsToAll(statement, i, engine);
-        } else if (statement.isWord(i, u"ORDER") && statement.isWord(i + 1, u"BY"))
+        } else if (statement.isWord(i, u"ORDER") && statement.isWord(i + 1, u"BY")) {
+            level.isInGroup = false;
             level.isSorted = true;
-        else if (isOneOf(statement, i, {u"UNION", u"EXCEPT", u"INTERSECT"}))
+        } else if (isOneOf(statement, i, {u"UNION", u"EXCEPT", u"INTERSECT"})) {
+            level.isInGroup = false;
             level.isCompound = true;
+        }
     }
     while (levels.size() > 1)
         closeLevel();

@@ -7,7 +7,9 @@
 
 // Some engines let what stands around a SELECT in brackets choose among more records than it gives: SQLite
 // sorts before it takes the first ones of a SELECT without a sort, and MariaDB looks for a condition in each
-// SELECT that is united before it takes the first records of all of them. A limit that takes all of them
+// SELECT that is united before it takes the first records of all of them. MariaDB also moves a condition into
+// a SELECT that is grouped or united: there it finds the names of the grouping ambiguous where two columns
+// have one name, and compares what JSON_EXTRACT finds without its quotes. A limit that takes all of them
 // keeps an engine from it.
 namespace KOVAVSFDataGridLib {
 

@@ -346,4 +346,21 @@ QString textOf(const SqlScanner &statement, TextRange tokens)
     return statement.sql().sliced(begin, statement.at(tokens.end - 1).end() - begin);
 }
 
+std::vector<qsizetype> firstListWords(const SqlScanner &sql, TextRange tokens)
+{
+    std::vector<qsizetype> words;
+    for (qsizetype i = tokens.begin; i < tokens.end; ++i) {
+        const auto behindListWord = [&](qsizetype next) {
+            return isDistinctWord(sql, next) ? next + 1 : afterIdleListWord(sql, next);
+        };
+        for (qsizetype next = i + 1; sql.isWord(i, u"SELECT") && behindListWord(next) > next;) {
+            for (const qsizetype behind = behindListWord(next); next < behind; ++next) {
+                if (isFirstListWord(sql, next))
+                    words.push_back(next);
+            }
+        }
+    }
+    return words;
+}
+
 } // namespace KOVAVSFDataGridLib

@@ -72,4 +72,7 @@ struct SelectParts
 // The text of a range of tokens as it is written.
 QString textOf(const SqlScanner &statement, TextRange tokens);
 
+// The words among these tokens that a SELECT in brackets can't have. None of them changes a row.
+std::vector<qsizetype> firstListWords(const SqlScanner &statement, TextRange tokens);
+
 } // namespace KOVAVSFDataGridLib

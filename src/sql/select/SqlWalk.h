@@ -45,6 +45,15 @@ inline bool isIdleListWord(const SqlScanner &statement, qsizetype index)
                      u"SQL_BUFFER_RESULT", u"SQL_CALC_FOUND_ROWS", u"SQL_NO_CACHE"}));
 }
 
+// One of those that MySQL takes at the beginning of a statement only.
+inline bool isFirstListWord(const SqlScanner &statement, qsizetype index)
+{
+    return statement.dialect() == SqlDialect::MySql &&
+           isOneOf(statement, index,
+                   {u"HIGH_PRIORITY", u"SQL_CACHE", u"SQL_NO_CACHE", u"SQL_BUFFER_RESULT",
+                    u"SQL_CALC_FOUND_ROWS"});
+}
+
 // Behind the beginning of a comment that MySQL runs, on some versions only if it holds a number; else
 // `index`.
 inline qsizetype afterVersionMark(const SqlScanner &statement, qsizetype index)
@@ -59,6 +68,24 @@ inline qsizetype afterVersionMark(const SqlScanner &statement, qsizetype index)
     return next < statement.count() && statement.at(next).kind == SqlToken::Kind::Number ? next + 1 : next;
 }
 
+inline bool isVersionCommentEnd(const SqlScanner &statement, qsizetype index)
+{
+    return statement.dialect() == SqlDialect::MySql && statement.isSymbol(index, u'*') &&
+           statement.isSymbol(index + 1, u'/');
+}
+
+// Whether this is in a comment that MySQL runs.
+inline bool isInVersionComment(const SqlScanner &statement, qsizetype index)
+{
+    qsizetype before = index - 1;
+    while (before >= 0 && !isVersionCommentEnd(statement, before)) {
+        if (afterVersionMark(statement, before) > before)
+            return true;
+        --before;
+    }
+    return false;
+}
+
 // Behind what changes no row between SELECT and the list: a word, or a comment that MySQL runs and in which
 // it finds only such words; else `index`.
 inline qsizetype afterIdleListWord(const SqlScanner &statement, qsizetype index)
@@ -70,7 +97,7 @@ inline qsizetype afterIdleListWord(const SqlScanner &statement, qsizetype index)
         return index;
     while (isIdleListWord(statement, next))
         ++next;
-    return statement.isSymbol(next, u'*') && statement.isSymbol(next + 1, u'/') ? next + 2 : index;
+    return isVersionCommentEnd(statement, next) ? next + 2 : index;
 }
 
 // A number, a text or a name.

@@ -51,14 +51,20 @@ protected:
             .toString();
     }
     int width(int col) const { return table->columnWidth(col - 1); }
+    QList<int> shownSections() const
+    {
+        QList<int> sections;
+        for (int visual = 0; visual < header()->count(); ++visual) {
+            if (const int section = header()->logicalIndex(visual); !table->isColumnHidden(section))
+                sections.append(section);
+        }
+        return sections;
+    }
     QStringList shownOrder() const
     {
         QStringList names;
-        for (int visual = 0; visual < header()->count(); ++visual) {
-            const int section = header()->logicalIndex(visual);
-            if (!table->isColumnHidden(section))
-                names.append(table->model()->headerData(section, Qt::Horizontal).toString());
-        }
+        for (const int section : shownSections())
+            names.append(table->model()->headerData(section, Qt::Horizontal).toString());
         return names;
     }
 

@@ -138,15 +138,48 @@ TEST_F(ColumnMenu, TheLastColumnStays)
     EXPECT_FALSE(entry(u"HideColumn"_s)->isEnabled());
 }
 
-// Columns are hidden by their names.
-TEST_F(ColumnMenu, OneOfTwoColumnsOfANameIsNotHidden)
+TEST_F(ColumnMenu, HidesOneOfTwoColumnsOfAName)
 {
+    const auto shownRow = [&] {
+        QStringList values;
+        for (const int section : shownSections())
+            values.append(table->model()->index(0, section).data().toString());
+        return values;
+    };
     ASSERT_TRUE(load(u"SELECT a.ID, b.ID, b.商品 FROM 商品 a JOIN 订单 b ON b.商品 = a.ID"_s, {}));
-    open(u"ID"_s);
-    EXPECT_FALSE(entry(u"HideColumn"_s)->isEnabled());
-    menu()->close();
+    ASSERT_EQ(shownRow(), QStringList({u"3"_s, u"1"_s, u"3"_s}));
+    choose(u"ID"_s, u"HideColumn"_s); // the first of them
+    EXPECT_EQ(columns(), QStringList({u"ID"_s, u"商品"_s}));
+    EXPECT_EQ(shownRow(), QStringList({u"1"_s, u"3"_s}));
     choose(u"商品"_s, u"HideColumn"_s);
-    EXPECT_EQ(columns(), QStringList({u"ID"_s, u"ID"_s}));
+    EXPECT_EQ(columns(), QStringList(u"ID"_s));
+    EXPECT_EQ(shownRow(), QStringList(u"1"_s)) << "the other one stays away";
+    choose(u"ID"_s, u"SortDescending"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY b.ID DESC"_s)) << qUtf8Printable(statement());
+    Hands::choose(14, 1, shownSections().first() + 1); // the cell filter
+    EXPECT_TRUE(statement().contains(u"WHERE b.ID"_s)) << qUtf8Printable(statement());
+    EXPECT_EQ(rows(), 1);
+    click(u"All"_s);
+    EXPECT_EQ(shownRow(), QStringList({u"3"_s, u"1"_s, u"3"_s}));
+}
+
+TEST_F(ColumnMenu, SaysWhyAnEntryIsGrey)
+{
+    ASSERT_TRUE(load());
+    const auto why = [&](const QString &column, const QString &key) {
+        open(column);
+        const QString tip = entry(key)->isEnabled() ? u"it is not"_s : entry(key)->toolTip();
+        menu()->close();
+        return tip;
+    };
+    EXPECT_EQ(why(u"城市"_s, u"RemoveFromSort"_s), u"记录没有按此列排序。"_s);
+    EXPECT_EQ(why(u"城市"_s, u"FormatColumn"_s), u"只有数字列和是否列可以设置格式。"_s);
+    EXPECT_EQ(why(u"ID"_s, u"MoveLeft"_s), u"这一侧没有其他列。"_s);
+    EXPECT_EQ(why(u"ID"_s, u"MoveRight"_s), u"it is not"_s);
+    choose(u"城市"_s, u"AddToSort"_s);
+    EXPECT_EQ(why(u"城市"_s, u"AddToSort"_s), u"记录已经按此列排序。"_s);
+    ASSERT_TRUE(load(u"SELECT 名称 FROM 商品"_s, {}));
+    EXPECT_EQ(why(u"名称"_s, u"HideColumn"_s), u"至少要显示一列。"_s);
 }
 
 TEST_F(ColumnMenu, OpensByKeysAndGoesOnByKeys)

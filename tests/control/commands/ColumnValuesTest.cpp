@@ -182,3 +182,31 @@ TEST_F(ColumnValues, OfAStatementOfTheHostAreReadInTheBackground)
     }});
     open(u"值"_s);
 }
+
+TEST_F(ColumnValues, AConditionMadeOtherwiseIsNoChoiceOfValues)
+{
+    ASSERT_TRUE(load());
+    QString chosen;
+    WindowAnswers dialogs({[](QDialog &dialog) {
+                               tickAll(dialog, false);
+                               tick(dialog, u"3"_s);
+                               press(dialog, "cmdOK");
+                           },
+                           [](QDialog &dialog) {
+                               waitFor(dialog, u"x 3"_s);
+                               EXPECT_FALSE(listed(dialog).contains(u"  5"_s))
+                                   << "it is left out by the host";
+                               dialog.reject();
+                           }});
+    open(u"ID"_s);
+    ASSERT_EQ(texts(u"ID"_s), QStringList(u"3"_s));
+    chosen = statement().section(u"WHERE "_s, 1).trimmed();
+    ASSERT_TRUE(load());
+    QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid, [&](qint32 &cancel, const QString &) {
+        grid.PutPassQurryFilter(chosen);
+        cancel = 0;
+    });
+    click(u"Filter"_s);
+    ASSERT_EQ(texts(u"ID"_s), QStringList(u"3"_s));
+    open(u"ID"_s);
+}

@@ -58,6 +58,22 @@ TEST_F(Filters, ARefusedConditionComesBackAsItWasTyped)
     EXPECT_EQ(rows(), records);
 }
 
+TEST_F(Filters, AnAliasCanBeTypedWhereTheDatabaseTakesIt)
+{
+    ASSERT_TRUE(load(u"SELECT ID AS 编号, 名称 FROM 商品 WHERE ID > 6 OR 停用 = 1"_s, {}));
+    WindowAnswers dialogs({[](QDialog &dialog) {
+        auto &condition = part<QLineEdit>(dialog, "txtCondition");
+        compose(condition, u"编号 > 9"_s);
+        const auto &count = part<QLabel>(dialog, "lblCount");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return count.text() == u"约 3 条"_s; }))
+            << qUtf8Printable(count.text());
+        press(dialog, "cmd_Filter");
+    }});
+    click(u"Filter"_s);
+    EXPECT_EQ(texts(u"编号"_s), QStringList({u"10"_s, u"11"_s, u"12"_s}));
+    EXPECT_EQ(messages.texts(), QStringList());
+}
+
 TEST_F(Filters, WhoGivesARefusedConditionUpKeepsWhatIsShown)
 {
     ASSERT_TRUE(load());

@@ -278,3 +278,44 @@ TEST_F(History, AnUnsavedRecordIsSavedFirst)
     EXPECT_FALSE(isSingleRecordShown());
     EXPECT_EQ(texts(u"城市"_s).constFirst(), u"Beijing"_s);
 }
+
+TEST_F(History, ABackStepPassesWhatTheDatabaseRefusesNow)
+{
+    database.run(u"CREATE VIEW 货架 AS SELECT ID, 名称, 城市 FROM 商品"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 货架"_s, u"SELECT ID,名称 FROM 货架"_s));
+    {
+        WindowAnswers dialogs({[&](QDialog &dialog) { find(dialog, u"杭州"_s, u"城市"_s); }});
+        click(u"QuickFilter"_s);
+    }
+    ASSERT_EQ(rows(), 2);
+    click(u"ToFullTable"_s);
+    ASSERT_EQ(rows(), records);
+    database.run(u"DROP VIEW 货架; CREATE VIEW 货架 AS SELECT ID, 名称 FROM 商品 WHERE ID < 9"_s);
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), 8) << "the first statement, as the second has a condition on a lost field";
+    EXPECT_EQ(statement(), u"SELECT * FROM 货架"_s);
+    EXPECT_EQ(messages.texts(), QStringList());
+    EXPECT_EQ(listed(), (QStringList{u"12"_s, u"2"_s, u"*8"_s})) << "what was left is ahead";
+
+    database.run(u"DROP VIEW 货架"_s);
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), 8);
+    ASSERT_EQ(messages.texts().size(), 1);
+    EXPECT_TRUE(messages.texts().first().contains(u"货架"_s)) << qPrintable(messages.texts().first());
+    messages.clear();
+}
+
+TEST_F(History, APartStatementThatCannotBeReadHidesNothingAndStopsNothing)
+{
+    load(statementOfAll(), u"SELECT nope FROM nowhere"_s);
+    messages.clear();
+    click(u"Part"_s);
+    EXPECT_EQ(columns(), AllColumns);
+    narrow(u"茶"_s);
+    EXPECT_EQ(rows(), 6);
+    EXPECT_EQ(columns(), AllColumns);
+    click(u"ToPreview"_s);
+    EXPECT_EQ(rows(), records);
+    EXPECT_EQ(messages.texts(), QStringList());
+    messages.clear();
+}
