@@ -92,3 +92,21 @@ TEST(FieldText, OfAnyDoubleIsThatOfItsValue)
         }
     }
 }
+
+// Every length, and zeros at every place.
+TEST(FieldText, OfAnyIntegerAndDecimalIsThatOfItsValue)
+{
+    std::vector<qint64> integers;
+    for (qint64 power = 1; power <= 100'000'000'000'000'000; power *= 10) {
+        for (const qint64 near : {power - 1, power, power + 1, power * 7 + 30, power * 9 + 900})
+            integers.insert(integers.end(), {near, -near});
+    }
+    for (const qint64 integer : integers) {
+        const RawValue raw = RawValue::fromInteger(integer);
+        ASSERT_EQ(textOf(raw, adBigInt), QByteArray::number(integer));
+        for (double power = 1; power <= 1e6; power *= 10) {
+            const RawValue decimal = RawValue::fromReal(static_cast<double>(integer) / power);
+            ASSERT_EQ(textOf(decimal, adDouble), wanted(decimal, adDouble)) << integer << " / " << power;
+        }
+    }
+}

@@ -7,6 +7,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 namespace ADODB {
@@ -18,38 +19,85 @@ void appendAsValue(QByteArray &utf8, const RawValue &raw, DataTypeEnum type)
     utf8 += ValueText(FieldValue::fromRaw(raw, type)).toUtf8();
 }
 
-char *writeInteger(char *to, qint64 value)
+constexpr auto digitPairs = [] {
+    std::array<char, 200> pairs{};
+    for (std::size_t i = 0; i < 100; ++i) {
+        pairs[2 * i] = static_cast<char>('0' + i / 10);
+        pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
+    }
+    return pairs;
+}();
+
+char *writePair(char *to, quint32 value)
 {
-    return std::to_chars(to, to + longestNumber, value).ptr;
+    std::memcpy(to, &digitPairs[std::size_t{2} * value], 2);
+    return to + 2;
 }
 
-// Most numbers have a few decimals. An integer through a power of ten that gives exactly this number says it
-// in at most 15 digits, and rounding to 15 digits can say nothing else.
+// Less than 10,000, without zeros in front.
+char *writeFew(char *to, quint32 value)
+{
+    if (value >= 100)
+        return writePair(writeFew(to, value / 100), value % 100);
+    if (value >= 10)
+        return writePair(to, value);
+    *to = static_cast<char>('0' + value);
+    return to + 1;
+}
+
+// Less than 10,000, with zeros in front.
+char *writeFour(char *to, quint32 value)
+{
+    return writePair(writePair(to, value / 100), value % 100);
+}
+
+char *writeUnsigned(char *to, quint64 value)
+{
+    constexpr quint64 four = 10000;
+    constexpr quint64 eight = four * four;
+    if (value < four)
+        return writeFew(to, static_cast<quint32>(value));
+    if (value < eight) {
+        const auto small = static_cast<quint32>(value);
+        return writeFour(writeFew(to, small / four), small % four);
+    }
+    const auto end = static_cast<quint32>(value % eight);
+    return writeFour(writeFour(writeUnsigned(to, value / eight), end / four), end % four);
+}
+
+char *writeInteger(char *to, qint64 value)
+{
+    auto size = static_cast<quint64>(value);
+    if (value < 0) {
+        *to++ = '-';
+        size = 0 - size;
+    }
+    return writeUnsigned(to, size);
+}
+
+// Most numbers have at most four decimals. An integer through 10,000 that gives exactly this number says it
+// in at most 15 digits, and rounding to 15 digits can say nothing else. Null for any other number.
 char *writeDecimal(char *to, double value)
 {
-    static constexpr std::array<double, 5> powers{1, 10, 100, 1000, 10000};
+    constexpr double power = 10000;
     constexpr double limit = 1e15;
-    for (std::size_t decimals = 0; decimals < powers.size(); ++decimals) {
-        const double scaled = value * powers[decimals];
-        if (!(std::abs(scaled) < limit))
-            return nullptr;
-        const auto whole = static_cast<qint64>(scaled < 0 ? scaled - 0.5 : scaled + 0.5);
-        if (static_cast<double>(whole) / powers[decimals] != value)
-            continue;
-        if (decimals == 0)
-            return writeInteger(to, whole);
-        if (value < 0)
-            *to++ = '-';
-        const auto size = static_cast<quint64>(std::abs(whole));
-        const auto power = static_cast<quint64>(powers[decimals]);
-        to = std::to_chars(to, to + longestNumber, size / power).ptr;
-        *to = '.';
-        quint64 fraction = size % power;
-        for (char *digit = to + decimals; digit > to; --digit, fraction /= 10)
-            *digit = static_cast<char>('0' + fraction % 10);
-        return to + 1 + decimals;
-    }
-    return nullptr;
+    const double scaled = std::abs(value) * power;
+    if (!(scaled < limit))
+        return nullptr;
+    const auto whole = static_cast<qint64>(scaled + 0.5);
+    if (static_cast<double>(whole) / power != std::abs(value))
+        return nullptr;
+    if (value < 0)
+        *to++ = '-';
+    to = writeUnsigned(to, static_cast<quint64>(whole) / 10000);
+    const auto decimals = static_cast<quint32>(static_cast<quint64>(whole) % 10000);
+    if (decimals == 0)
+        return to;
+    *to = '.';
+    char *end = writeFour(to + 1, decimals);
+    while (end[-1] == '0')
+        --end;
+    return end;
 }
 
 // Whatever the shortest text that reads back as the number says in at most 15 digits, rounding to 15 digits
@@ -104,7 +152,12 @@ bool isPlainTime(QByteArrayView text)
 
 } // namespace
 
-// False only means that it takes a closer look.
+bool isTextType(DataTypeEnum type)
+{
+    return type != adBoolean && type != adDBDate && type != adDBTime && type != adDate &&
+           type != adDBTimeStamp;
+}
+
 bool isShownAsStored(QByteArrayView text, DataTypeEnum type, bool isAscii)
 {
     switch (type) {

@@ -16,7 +16,10 @@ void appendText(QByteArray &utf8, const RawValue &raw, DataTypeEnum type);
 // it, as it can't with texts.
 constexpr qsizetype longestNumber = 32;
 char *writeNumber(char *to, const RawValue &raw, DataTypeEnum type);
-// Whether a text is shown as it is stored. `isAscii` says that all its bytes are known to be.
+// Whether a text is shown as it is stored. False only means that it takes a closer look. With `isAscii` all
+// its bytes are known to be.
 bool isShownAsStored(QByteArrayView text, DataTypeEnum type, bool isAscii = false);
+// Whether texts of this type are shown as they are stored when they are ASCII.
+bool isTextType(DataTypeEnum type);
 
 } // namespace ADODB

@@ -15,15 +15,24 @@ public:
     void append(QByteArray &text, const std::vector<ADODB::RawValue> &cells) override;
 
 private:
+    // What is asked for each value, together.
+    struct Column
+    {
+        std::size_t field;
+        ADODB::DataTypeEnum type;
+        bool isText; // see isTextType()
+    };
+
     // The most that a record takes.
     qsizetype roomFor(const std::vector<ADODB::RawValue> &cells) const;
     // Makes room behind the text; what isn't used is to be cut off.
     static char *writableEnd(QByteArray &text, qsizetype room);
     // Writes a cell and answers its end; null where it has to be written by way of its text.
-    char *write(char *to, const ADODB::RawValue &cell, ADODB::DataTypeEnum type) const;
+    char *write(char *to, const ADODB::RawValue &cell, const Column &column) const;
     void appendValue(QByteArray &text, QByteArrayView value, bool isText) const;
 
-    const ExportColumns m_columns;
+    const ExportColumns m_exported;
+    std::vector<Column> m_columns;
     const bool m_guardsFormulas;
     QByteArray m_value;
 };

@@ -20,7 +20,7 @@ bool isPlainNumber(QByteArrayView text)
 
 } // namespace
 
-bool looksLikeFormula(QByteArrayView utf8)
+bool isFormula(QByteArrayView utf8)
 {
     if (utf8.isEmpty())
         return false;
