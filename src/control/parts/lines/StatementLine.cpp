@@ -29,12 +29,12 @@ StatementLine::StatementLine(QWidget *parent) : ElidedLabel(parent)
 
 void StatementLine::show(const QString &place, const QString &statement)
 {
+    // The place changes with every record.
+    if (statement != m_statement)
+        setToolTip(wholeTextTip(statement, *this));
     m_statement = statement;
     m_place = place;
     setText(statement.isEmpty() ? QString() : place + GridTexts::BeforeStatement + statement.simplified());
-    setToolTip(statement.isEmpty() ? QString()
-                                   : u"<p style='white-space:pre-wrap'>"_s +
-                                         textForTip(statement, *this).toHtmlEscaped() + u"</p>"_s);
 }
 
 bool StatementLine::event(QEvent *event)
