@@ -2033,6 +2033,10 @@
         <source>文件类型:</source>
         <translation>File type:</translation>
     </message>
+    <message>
+        <source>按字段（%1 位）</source>
+        <translation>as the field (%1)</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::GridTexts</name>
@@ -2403,6 +2407,10 @@
     <message>
         <source>保存这条记录（Ctrl+S）</source>
         <translation>Save this record (Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>列“%1”</source>
+        <translation>Column &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
