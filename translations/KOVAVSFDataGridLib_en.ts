@@ -2041,6 +2041,10 @@
         <source>文件类型:</source>
         <translation>File type:</translation>
     </message>
+    <message>
+        <source>按字段（%1 位）</source>
+        <translation>as the field (%1)</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::GridTexts</name>
@@ -2419,6 +2423,10 @@
     <message>
         <source>新记录</source>
         <translation>New record</translation>
+    </message>
+    <message>
+        <source>列“%1”</source>
+        <translation>Column &quot;%1&quot;</translation>
     </message>
 </context>
 <context>

@@ -90,6 +90,12 @@ void useDarkColours()
     palette.setColor(QPalette::AlternateBase, QColor(43, 43, 43));
     palette.setColor(QPalette::Highlight, QColor(48, 140, 198));
     palette.setColor(QPalette::Link, QColor(80, 160, 240));
+    // Qt makes those of disabled texts of the others only for light colours.
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(150, 150, 150));
+    palette.setColor(QPalette::Disabled, QPalette::Base, QColor(45, 45, 45));
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(80, 80, 80));
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, QColor(180, 180, 180));
     QApplication::setPalette(palette);
 }
 

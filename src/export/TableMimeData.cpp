@@ -1,7 +1,13 @@
 #include "export/TableMimeData.h"
 
+#include "ado/values/DateText.h"
+#include "ado/values/NumericTypes.h"
 #include "ado/values/Utf8.h"
 #include "export/writers/HtmlText.h"
+
+#include <QtCore/QDateTime>
+
+#include <algorithm>
 
 namespace KOVAVSFDataGridLib {
 
@@ -9,11 +15,99 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The office formats keep what they call a text as it is; each of the two has its own word for it.
-constexpr char head[] =
-    "<html><head><meta charset=\"utf-8\"><style>.t{mso-number-format:\"\\@\"}</style></head>"
-    "<body><table>";
-constexpr char textCell[] = "<td class=\"t\" sdnum=\"1033;0;@\">";
+// Each of the two families of office programs has its own words for what a cell holds: classes, and a
+// number's format with the day's number in their calendar.
+constexpr char head[] = "<html><head><meta charset=\"utf-8\"><style>.t{mso-number-format:\"\\@\"}"
+                        ".d{mso-number-format:\"yyyy\\-mm\\-dd\"}.h{mso-number-format:\"hh\\:mm\\:ss\"}"
+                        ".m{mso-number-format:\"yyyy\\-mm\\-dd\\ hh\\:mm\\:ss\"}</style></head>"
+                        "<body><table>";
+constexpr char numberCell[] = "<td>";
+constexpr char textCell[] = "<td class=\"t\" sdnum=\"1033;0;@\">"; // stays as it is
+
+constexpr int exactDigits = 15;   // of a spreadsheet's numbers
+const QDate firstDay(1900, 3, 1); // from which on all spreadsheets count the same days
+const QDate dayNought(1899, 12, 30);
+constexpr double secondsOfDay = 86400;
+
+bool isFloating(ADODB::DataTypeEnum type)
+{
+    return type == ADODB::adSingle || type == ADODB::adDouble;
+}
+
+// A number of which a spreadsheet loses nothing: not "007", and no more digits than it has. A column of
+// numbers can hold any text in some databases.
+bool isPlainNumber(QByteArrayView text, ADODB::DataTypeEnum type)
+{
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    const QByteArrayView number = text.startsWith('-') ? text.sliced(1) : text;
+    const bool isPadded = number.size() > 1 && number[0] == '0' && isDigit(number[1]);
+    if (number.isEmpty() || !isDigit(number[0]) || isPadded)
+        return false;
+    const auto digits = std::count_if(number.begin(), number.end(), isDigit);
+    if (isFloating(type))
+        return std::all_of(number.begin(), number.end(), [&](char c) {
+            return isDigit(c) || c == '.' || c == 'e' || c == 'E' || c == '+' || c == '-';
+        });
+    return digits <= exactDigits && number.size() - digits <= 1 &&
+           std::all_of(number.begin(), number.end(), [&](char c) { return isDigit(c) || c == '.'; });
+}
+
+QByteArray dayCell(const char *cellClass, const char *format, double days)
+{
+    return QByteArray("<td class=\"") + cellClass + "\" sdval=\"" + QByteArray::number(days, 'g', 15) +
+           "\" sdnum=\"1033;0;" + format + "\">";
+}
+
+// A date or time that a spreadsheet can hold, without fractions of a second; anything else is a text.
+QByteArray dateCell(QByteArrayView text)
+{
+    const QTime time = ADODB::DateText::time(text);
+    if (time.isValid() && time.msec() == 0)
+        return dayCell("h", "HH:MM:SS", QTime(0, 0).secsTo(time) / secondsOfDay);
+    const QDateTime moment = ADODB::DateText::moment(text);
+    if (!moment.isValid() || moment.date() < firstDay || moment.time().msec() != 0)
+        return textCell;
+    const auto days = static_cast<double>(dayNought.daysTo(moment.date()));
+    if (ADODB::DateText::date(text).isValid())
+        return dayCell("d", "YYYY-MM-DD", days);
+    return dayCell("m", "YYYY-MM-DD HH:MM:SS", days + QTime(0, 0).secsTo(moment.time()) / secondsOfDay);
+}
+
+QByteArray beginOfCell(QByteArrayView text, ADODB::DataTypeEnum type)
+{
+    switch (type) {
+    case ADODB::adDate:
+    case ADODB::adDBDate:
+    case ADODB::adDBTime:
+    case ADODB::adDBTimeStamp:
+        return dateCell(text);
+    default:
+        return ADODB::isNumericType(type) && (text.isEmpty() || isPlainNumber(text, type)) ? numberCell
+                                                                                           : textCell;
+    }
+}
+
+// HTML makes one blank of several and none of those at a line's ends, unless they are of another kind; in
+// this span they become usual ones again.
+void appendWithBlanks(QByteArray &html, QByteArrayView text)
+{
+    const auto isLost = [&](qsizetype at) {
+        const auto isEnd = [](char c) { return c == ' ' || c == '\n' || c == '\r'; };
+        return text[at] == ' ' &&
+               (at == 0 || at + 1 == text.size() || isEnd(text[at - 1]) || isEnd(text[at + 1]));
+    };
+    for (qsizetype at = 0; at < text.size();) {
+        const qsizetype begin = at;
+        const bool areBlanks = isLost(at);
+        while (at < text.size() && isLost(at) == areBlanks)
+            ++at;
+        if (areBlanks)
+            html +=
+                "<span style=\"mso-spacerun:yes\">" + QByteArray("&nbsp;").repeated(at - begin) + "</span>";
+        else
+            appendHtml(html, text.sliced(begin, at - begin));
+    }
+}
 
 // One value of a text separated by tabs, which may be quoted, from `at` on. Moves `at` to what ends it.
 QByteArray nextValue(QByteArrayView text, qsizetype &at)
@@ -38,8 +132,8 @@ QByteArray nextValue(QByteArrayView text, qsizetype &at)
 
 } // namespace
 
-TableMimeData::TableMimeData(QByteArray text, std::vector<bool> isNumeric, bool hasHeadings)
-    : m_text(std::move(text)), m_isNumeric(std::move(isNumeric)), m_hasHeadings(hasHeadings)
+TableMimeData::TableMimeData(QByteArray text, std::vector<ADODB::DataTypeEnum> types, bool hasHeadings)
+    : m_text(std::move(text)), m_types(std::move(types)), m_hasHeadings(hasHeadings)
 {
 }
 
@@ -65,15 +159,17 @@ QByteArray TableMimeData::html() const
     bool isHeading = m_hasHeadings;
     for (qsizetype at = 0; at < m_text.size();) {
         html += "<tr>";
-        for (const bool isNumeric : m_isNumeric) {
-            html += isHeading ? "<th>" : isNumeric ? "<td>" : textCell;
+        for (const ADODB::DataTypeEnum type : m_types) {
+            QByteArray value;
             if (isOneValue) {
-                appendHtml(html, m_text);
+                value = m_text;
                 at = m_text.size();
             } else if (at < m_text.size()) {
-                appendHtml(html, nextValue(m_text, at));
+                value = nextValue(m_text, at);
                 at += m_text.mid(at, 1) == "\t" ? 1 : 0;
             }
+            html += isHeading ? QByteArray("<th>") : beginOfCell(value, type);
+            appendWithBlanks(html, value);
             html += isHeading ? "</th>" : "</td>";
         }
         html += "</tr>";

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ado/Enums.h"
+
 #include <QtCore/QMimeData>
 
 #include <vector>
@@ -13,9 +15,10 @@ class TableMimeData final : public QMimeData
     Q_OBJECT
 
 public:
-    // `text` is UTF-8, as TabTextWriter makes it. A column that holds no numbers is pasted as text, so that
-    // a spreadsheet keeps the zeros before a number and computes no formula.
-    TableMimeData(QByteArray text, std::vector<bool> isNumeric, bool hasHeadings);
+    // `text` is UTF-8, as TabTextWriter makes it, with columns of these types. A number of which a
+    // spreadsheet loses no digit is pasted as number, a date or time that it can hold as such, and everything
+    // else as text, so that it keeps the zeros before a number and computes no formula.
+    TableMimeData(QByteArray text, std::vector<ADODB::DataTypeEnum> types, bool hasHeadings);
 
     QStringList formats() const override;
 
@@ -26,7 +29,7 @@ private:
     QByteArray html() const;
 
     const QByteArray m_text;
-    const std::vector<bool> m_isNumeric;
+    const std::vector<ADODB::DataTypeEnum> m_types;
     const bool m_hasHeadings;
 };
 

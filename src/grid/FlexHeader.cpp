@@ -15,6 +15,9 @@ namespace KOVAVSFDataGridLib {
 namespace {
 
 constexpr int leastSize = 4; // pixels, so that an edge can be found again
+// Pixels at both sides of a column's heading, besides the style's own, so that a name at the right of its
+// column and the next one at the left of its own are told apart.
+constexpr int headingPadding = 2;
 
 // The same event where the header itself has the heading that was hit.
 QMouseEvent shifted(const QMouseEvent &event, int shift)
@@ -111,10 +114,16 @@ QSize FlexHeader::sectionSizeFromContents(int logicalIndex) const
     return m_grid.isBlank() ? QSize(0, size.height()) : size;
 }
 
+// Whether the column is sorted by and pointed at now or not.
 int FlexHeader::fittingWidth(int logicalIndex) const
 {
-    return sectionSizeFromContents(logicalIndex).width() +
-           headingMarkWidth(markOf(logicalIndex), fontMetrics());
+    int width = sectionSizeFromContents(logicalIndex).width() + 2 * headingPadding;
+    if (m_grid.HasColumnMenus()) {
+        HeadingMark mark = markOf(logicalIndex);
+        mark.sortPlace = std::max(mark.sortPlace, 1);
+        width += headingMarkWidth(mark, fontMetrics()) + arrowWidth();
+    }
+    return std::max(width, 2 * arrowWidth());
 }
 
 // A style draws a text that is too long over both ends of its section.
@@ -124,10 +133,15 @@ void FlexHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int logical
     // Styles write such a section's text bold.
     if (orientation() == Qt::Vertical && m_grid.currentIndex().row() == logicalIndex)
         option->state |= QStyle::State_On;
-    const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
     option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight,
-                                                  sectionRect(logicalIndex).width() - margins -
+                                                  sectionRect(logicalIndex).width() - 2 * margin() -
                                                       headingMarkWidth(markOf(logicalIndex), fontMetrics()));
+}
+
+int FlexHeader::margin() const
+{
+    return style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this) +
+           (orientation() == Qt::Horizontal ? headingPadding : 0);
 }
 
 void FlexHeader::paintEvent(QPaintEvent *event)
@@ -154,34 +168,32 @@ void FlexHeader::paintSection(QPainter *painter, const QRect &rect, int logicalI
     option.rect = rect;
     if (isPlain)
         return style()->drawControl(QStyle::CE_HeaderEmptyArea, &option, painter, this);
-    const HeadingMark mark = markOf(logicalIndex);
-    const bool showsArrow = hasArrow(logicalIndex);
-    if (mark.isEmpty() && !showsArrow)
+    if (orientation() == Qt::Vertical)
         return QHeaderView::paintSection(painter, rect, logicalIndex);
+    const HeadingMark mark = markOf(logicalIndex);
     initStyleOptionForIndex(&option, logicalIndex);
     option.rect = rect;
     painter->save();
     painter->setClipRect(rect);
     style()->drawControl(QStyle::CE_HeaderSection, &option, painter, this);
-    const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
-    const int arrow = showsArrow ? arrowWidth() : 0;
+    const int arrow = hasArrow(logicalIndex) ? arrowWidth() : 0;
     const int markWidth = headingMarkWidth(mark, fontMetrics());
-    QRect marks = rect;
-    marks.setLeft(rect.right() + 1 - margin - markWidth - (markWidth > 0 ? arrow : 0));
-    marks.setWidth(markWidth);
+    // Text and marks give way to the arrow.
+    const QRect room = rect.adjusted(margin(), 0, -std::max(margin(), arrow), 0);
+    const QRect marks(room.right() + 1 - markWidth, rect.top(), markWidth, rect.height());
     QStyleOptionHeaderV2 label = option;
-    label.rect = style()->subElementRect(QStyle::SE_HeaderLabel, &option, this);
-    label.rect.setRight(std::min(label.rect.right(), marks.left() - 1));
-    style()->drawControl(QStyle::CE_HeaderLabel, &label, painter, this);
-    if (showsArrow) {
-        // Over whatever of the text is there.
+    label.rect = room.adjusted(0, 0, -markWidth, 0);
+    label.text = option.fontMetrics.elidedText(option.text, Qt::ElideRight, label.rect.width());
+    if (label.rect.isValid())
+        style()->drawControl(QStyle::CE_HeaderLabel, &label, painter, this);
+    paintHeadingMark(*painter, marks, mark, option.palette, fontMetrics());
+    if (arrow > 0) {
+        // Over whatever is there of marks that have no room.
         const QRect place(rect.right() + 1 - arrow, rect.top(), arrow, rect.height());
         painter->setClipRect(place);
         style()->drawControl(QStyle::CE_HeaderSection, &option, painter, this);
         paintMenuArrow(*painter, place, option.palette, m_pressedArrow == logicalIndex);
-        painter->setClipRect(rect);
     }
-    paintHeadingMark(*painter, marks, mark, option.palette, fontMetrics());
     painter->restore();
 }
 

@@ -24,7 +24,7 @@ public:
     // Where a heading is drawn, and which one a place belongs to (-1 for none): frozen ones count.
     QRect headingRect(int logicalIndex) const;
     int headingAt(const QPoint &position) const;
-    // The pixels that a heading's text and marks need.
+    // The pixels at which a heading's text, the mark of a sort and the arrow of its menu are seen together.
     int fittingWidth(int logicalIndex) const;
 
 protected:
@@ -42,6 +42,7 @@ private:
     QRect sectionRect(int logicalIndex) const;
     void showHeadingTip(const QPoint &position, const QPoint &place);
     HeadingMark markOf(int logicalIndex) const;
+    int margin() const;
     int arrowWidth() const;
     QRect arrowRect(int logicalIndex) const;
     bool hasArrow(int logicalIndex) const;

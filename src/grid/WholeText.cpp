@@ -2,9 +2,10 @@
 
 #include <QtCore/QPoint>
 #include <QtCore/QRect>
-#include <QtGui/QFontMetrics>
 #include <QtGui/QScreen>
 #include <QtGui/QTextDocument>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QToolTip>
 
 #include <algorithm>
@@ -33,36 +34,46 @@ QString breakable(const QString &text)
     return broken;
 }
 
-// The height that it takes as a tool tip, which is about this many letters wide.
-int heightOfTip(const QString &text, const QFontMetrics &metrics)
+QString asTip(const QString &text)
 {
-    constexpr int letters = 70;
-    const QRect room(0, 0, letters * metrics.averageCharWidth(), QWIDGETSIZE_MAX);
-    return metrics.boundingRect(room, Qt::TextWordWrap | Qt::TextWrapAnywhere, text).height();
+    return Qt::convertFromPlainText(breakable(text), Qt::WhiteSpaceNormal);
+}
+
+// Made as Qt makes its tool tips.
+int heightOfTip(const QString &tip)
+{
+    QLabel label;
+    label.setFont(QToolTip::font());
+    label.setMargin(1 + label.style()->pixelMetric(QStyle::PM_ToolTipLabelFrameWidth, nullptr, &label));
+    label.setIndent(1);
+    label.setWordWrap(true);
+    label.setText(tip);
+    constexpr int extra = 1; // which some fonts get
+    return label.sizeHint().height() + extra;
 }
 
 } // namespace
 
-QString textForTip(const QString &text, const QWidget &widget)
+QString wholeTextTip(const QString &text, const QWidget &widget)
 {
-    constexpr int borders = 20; // pixels, of the tip and of the document in it
-    const int highest = widget.screen()->availableSize().height() / 3 - borders;
-    const QFontMetrics metrics(QToolTip::font());
-    if (text.size() <= mostShown && heightOfTip(text, metrics) <= highest)
-        return text;
+    if (text.isEmpty())
+        return {};
+    const int highest = widget.screen()->availableSize().height() / 3;
+    if (text.size() <= mostShown && heightOfTip(asTip(text)) <= highest)
+        return asTip(text);
     qsizetype fits = 0;
     for (qsizetype step = mostShown; step > 0; step /= 2) {
-        if (fits + step <= text.size() && heightOfTip(text.first(fits + step), metrics) <= highest)
-            fits += step;
+        const qsizetype tried = fits + step;
+        if (tried <= std::min(text.size(), mostShown) &&
+            heightOfTip(asTip(text.first(tried) + u'…')) <= highest)
+            fits = tried;
     }
-    return text.first(std::min(fits, mostShown)) + u'…';
+    return asTip(text.first(fits) + u'…');
 }
 
 void showWholeText(const QString &text, const QPoint &place, QWidget &widget, const QRect &area)
 {
-    QToolTip::showText(place,
-                       Qt::convertFromPlainText(breakable(textForTip(text, widget)), Qt::WhiteSpaceNormal),
-                       &widget, area);
+    QToolTip::showText(place, wholeTextTip(text, widget), &widget, area);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -8,7 +8,6 @@
 #include "session/columns/ColumnCommand.h"
 #include "session/columns/ColumnKeys.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtGui/QAction>
 #include <QtWidgets/QMenu>
 
@@ -59,25 +58,28 @@ void ColumnMenu::popUp(int col, const QPoint &place)
 
 void ColumnMenu::addTo(QMenu &menu, int col)
 {
-    QList<QAction *> added{menu.addSeparator()};
-    added += makeActions(menu, col);
-    // In Chinese "升序(&A)".
-    static const QRegularExpression accessKey(u"\\(&\\w\\)|&"_s);
-    for (QAction *action : std::as_const(added)) {
-        action->setText(action->text().remove(accessKey));
-        // The action that was chosen is triggered after the menu has closed.
-        connect(&menu, &QMenu::aboutToHide, action, &QObject::deleteLater);
-    }
+    constexpr qsizetype longestHeading = 24;
+    QString heading = m_grid.Headings().value(col - 1);
+    if (heading.size() > longestHeading)
+        heading = heading.first(longestHeading) + u'…';
+    QAction *const separator = menu.addSeparator();
+    QMenu *const entries = menu.addMenu(GridTexts::ColumnEntries.arg(heading.replace(u'&', "&&"_L1)));
+    entries->setObjectName(u"PopMnuColumn"_s);
+    entries->setAccessibleName(GridTexts::ColumnMenuName);
+    entries->setToolTipsVisible(true);
+    makeActions(*entries, col);
+    // The action that was chosen is triggered after the menu has closed.
+    connect(&menu, &QMenu::aboutToHide, separator, &QObject::deleteLater);
+    connect(&menu, &QMenu::aboutToHide, entries, &QObject::deleteLater);
 }
 
-QList<QAction *> ColumnMenu::makeActions(QMenu &menu, int col)
+void ColumnMenu::makeActions(QMenu &menu, int col)
 {
-    QList<QAction *> actions;
     constexpr int group = 100;
     int lastGroup = ColumnCommand::all().front()->place / group;
     for (const ColumnCommand *command : ColumnCommand::all()) {
         if (command->place / group != lastGroup)
-            actions.append(menu.addSeparator());
+            menu.addSeparator();
         lastGroup = command->place / group;
         QAction *const action = menu.addAction(command->caption);
         action->setObjectName(u"ColumnMenu"_s + command->key);
@@ -86,9 +88,7 @@ QList<QAction *> ColumnMenu::makeActions(QMenu &menu, int col)
         action->setCheckable(command->isOn != nullptr);
         action->setChecked(action->isEnabled() && command->isOn && command->isOn(m_session, col));
         connect(action, &QAction::triggered, this, [this, command, col] { m_run(*command, col); });
-        actions.append(action);
     }
-    return actions;
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -34,13 +34,12 @@ public:
 
     // Shows the menu at a place on the screen. Nothing for a column that has none.
     void popUp(int col, const QPoint &place);
-    // Adds a column's entries to the end of a menu, until it is closed. They have no access keys there: the
-    // menu's own entries have these letters.
+    // Adds a menu with a column's entries to the end of another one, until that is closed.
     void addTo(QMenu &menu, int col);
 
 private:
     void openAtCurrentColumn();
-    QList<QAction *> makeActions(QMenu &menu, int col);
+    void makeActions(QMenu &menu, int col);
 
     const QWidget &m_toolbar;
     VSFlexGrid &m_grid;

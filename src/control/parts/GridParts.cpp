@@ -146,9 +146,9 @@ int GridParts::gap() const
 }
 
 // The page box, its button, the label, the selection's summary and the statement from the left, the check box
-// at the right edge. When it gets narrow, the statement gives way, then the label, then box and button, and
-// the check box last. What saves a record, and the place that tells it isn't saved, take their room from all
-// of these but the check box.
+// at the right edge. When it gets narrow, the statement gives way, then the summary, whose values are in a
+// menu then, then the label, then box and button, and the check box last. What saves a record, and the place
+// that tells it isn't saved, take their room from all of these but the check box.
 void GridParts::layOutFoot() const
 {
     const QRect strip = foot();
@@ -162,44 +162,59 @@ void GridParts::layOutFoot() const
         x += partWidth + gap;
     };
     std::size_t dividers = 0;
-    // A line in the gap to the left of what comes next.
+    // A line between two gaps.
     const auto divide = [&](int at) {
-        m_dividers[dividers]->setGeometry(at - gap / 2 - 1, top + gap, 1, partHeight - gap);
+        m_dividers[dividers]->setGeometry(at, top + gap, 1, partHeight - gap);
         m_dividers[dividers++]->show();
     };
     const int digit = txtPage->fontMetrics().horizontalAdvance(u'0');
     const int caption = cmdPgae->fontMetrics().horizontalAdvance(cmdPgae->text());
     const bool canSave = !cmdSaveRecord->isHidden();
     const int saveNeeds =
-        canSave ? cmdSaveRecord->sizeHint().width() + lblStatement->smallestWidth() + 3 * gap : 0;
+        canSave ? cmdSaveRecord->sizeHint().width() + lblStatement->smallestWidth() + 4 * gap : 0;
     const bool isNarrow =
         8 * digit + cmdPgae->sizeHint().width() + CheckSelAllRow->sizeHint().width() + 4 * gap + saveNeeds >
         width;
     place(txtPage, (isNarrow ? 4 : 8) * digit);
     place(cmdPgae, isNarrow ? caption + 2 * gap : cmdPgae->sizeHint().width());
     const int checkWidth = std::min(CheckSelAllRow->sizeHint().width(), width - gap - x);
-    const int room = std::max(0, width - checkWidth - 2 * gap - x);
+    const int room = std::max(0, width - checkWidth - 3 * gap - x);
     const int saveWidth = canSave ? std::min(room, cmdSaveRecord->sizeHint().width()) : 0;
-    const int saveRoom = saveWidth > 0 ? saveWidth + gap : 0;
+    const int saveRoom = saveWidth > 0 ? saveWidth + 2 * gap : 0;
     const int placeRoom = canSave ? lblStatement->widthOfPlace() + gap : 0;
-    const int labelWidth = std::clamp(room - saveRoom - placeRoom, 0, lblFieldCount->sizeHint().width());
+    const bool isSummed = !lblSummary->isHidden();
+    const int leastOfSummary = isSummed ? lblSummary->widthFor(0) + 2 * gap : 0;
+    const int labelWidth =
+        std::clamp(room - saveRoom - placeRoom - leastOfSummary, 0, lblFieldCount->sizeHint().width());
     place(lblFieldCount, labelWidth);
-    int rest = std::max(0, room - saveRoom - labelWidth - gap);
-    if (!lblSummary->isHidden()) {
-        const int summaryWidth = std::clamp(rest - placeRoom, 0, lblSummary->sizeHint().width());
-        if (summaryWidth > 0)
-            divide(x);
-        place(lblSummary, summaryWidth);
-        rest = std::max(0, rest - summaryWidth - gap);
-    }
-    if (rest > 0 || saveWidth > 0)
+    int rest = std::max(0, room - labelWidth - gap);
+    // A part behind a divider.
+    const auto placeNext = [&](QWidget *part, int partWidth) {
         divide(x);
+        x += gap;
+        place(part, partWidth);
+        rest = std::max(0, rest - partWidth - 2 * gap);
+    };
+    if (isSummed) {
+        // Where there is room, it leaves some to the record's place.
+        constexpr qsizetype mainValues = 3;
+        const int most = rest - saveRoom - gap;
+        const int besides = lblStatement->fontMetrics().horizontalAdvance(lblStatement->place() +
+                                                                          GridTexts::BeforeStatement + u'…') +
+                            3 * gap;
+        const bool leavesPlace = most - besides >= lblSummary->widthFor(mainValues);
+        placeNext(lblSummary,
+                  std::clamp(leavesPlace ? most - besides : most, 0, lblSummary->sizeHint().width()));
+    }
     if (saveWidth > 0)
-        place(cmdSaveRecord, saveWidth);
-    place(lblStatement, rest);
+        placeNext(cmdSaveRecord, saveWidth);
+    if (saveWidth > 0 || rest <= gap)
+        place(lblStatement, rest);
+    else
+        placeNext(lblStatement, rest - gap);
     x = width - checkWidth - gap;
     if (room > 0)
-        divide(x);
+        divide(x - gap);
     place(CheckSelAllRow, checkWidth);
     for (; dividers < m_dividers.size(); ++dividers)
         m_dividers[dividers]->hide();

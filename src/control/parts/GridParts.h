@@ -72,7 +72,7 @@ private:
     int footHeight() const;
     int gap() const;
 
-    std::array<QFrame *, 3> m_dividers; // between the parts of the foot
+    std::array<QFrame *, 4> m_dividers; // between the parts of the foot
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -87,6 +87,7 @@ inline constexpr Text SortedDescending = tr("第 %1 排序字段，降序");
 inline constexpr Text Filtered = tr("已筛选");
 inline constexpr Text BetweenMarks = tr("，");
 inline constexpr Text ColumnMenuName = tr("列菜单");
+inline constexpr Text ColumnEntries = tr("列“%1”");
 
 // The conditions in force, above the grid.
 inline constexpr Text FilterBarName = tr("筛选条件");

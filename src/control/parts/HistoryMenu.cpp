@@ -6,12 +6,12 @@
 #include "language/GroupedNumber.h"
 #include "language/Language.h"
 #include "session/Session.h"
+#include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
 #include "session/history/HistorySteps.h"
 
 #include <QtGui/QAction>
 #include <QtGui/QScreen>
-#include <QtGui/QTextDocument>
 
 #include <algorithm>
 
@@ -59,7 +59,7 @@ void HistoryMenu::fill()
         // What was added last is at the end, so both ends are read.
         QString text = fontMetrics().elidedText(step.statement.simplified(), Qt::ElideMiddle, widest);
         QAction *const action = addAction(text.replace(u'&', "&&"_L1) + u'\t' + noteText(step));
-        action->setToolTip(Qt::convertFromPlainText(textForTip(step.statement, m_toolbar)));
+        action->setToolTip(wholeTextTip(step.statement, m_toolbar));
         action->setData(step.steps);
         action->setCheckable(true);
         action->setChecked(step.steps == 0);
@@ -72,6 +72,26 @@ void HistoryMenu::fill()
     }
     if (isEmpty())
         addAction(GridTexts::NoHistory)->setEnabled(false);
+    else
+        addForward();
+}
+
+void HistoryMenu::addForward()
+{
+    const Command *const forward = Command::find(CommandKeys::Forward);
+    if (!forward)
+        return;
+    addSeparator();
+    QAction *const action = addAction(forward->menu.caption() + u'\t' +
+                                      QKeySequence(forward->shortcut).toString(QKeySequence::NativeText));
+    action->setObjectName(u"HistoryForward"_s);
+    const QString why = m_session.whyNot(*forward);
+    action->setEnabled(why.isEmpty());
+    action->setToolTip(why);
+    connect(action, &QAction::triggered, this, [this] {
+        if (m_toolbar.isEnabled())
+            m_session.run(CommandKeys::Forward, ChosenBy::MenuItem);
+    });
 }
 
 } // namespace KOVAVSFDataGridLib

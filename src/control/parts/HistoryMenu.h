@@ -8,7 +8,7 @@ class GridToolbar;
 class Session;
 
 // The statements that the user can go back and forward to, the newest first, as a drop-down of the button
-// that goes back. It is filled each time it opens.
+// that goes back, and one step forward at its end. It is filled each time it opens.
 class HistoryMenu final : public QMenu
 {
     Q_OBJECT
@@ -22,6 +22,7 @@ public:
 
 private:
     void fill();
+    void addForward();
 
     GridToolbar &m_toolbar;
     Session &m_session;

@@ -18,10 +18,8 @@ WindowCommands::WindowCommands(QWidget &window, const PopupMenu::Kind &kind, con
     : m_parts(parts),
       m_session(session),
       m_menu(*new PopupMenu(window, kind, parts.toolbar, session)),
-      m_columnMenu(window, parts.toolbar, parts.grid, session, [this](const ColumnCommand &command, int col) {
-          if (m_parts.toolbar.isEnabled())
-              m_session.runOnColumn(command, col);
-      })
+      m_columnMenu(window, parts.toolbar, parts.grid, session,
+                   [this](const ColumnCommand &command, int col) { runOnColumn(command, col); })
 {
     for (QAction *action : parts.toolbar.actions()) {
         if (!action->shortcut().isEmpty())
@@ -47,6 +45,23 @@ void WindowCommands::run(const QString &key, ChosenBy by)
 {
     if (m_parts.toolbar.isEnabled()) // which a shortcut doesn't know
         m_session.run(key, by);
+}
+
+// Whoever works with one column goes on with it when other records are shown.
+void WindowCommands::runOnColumn(const ColumnCommand &command, int col)
+{
+    if (!m_parts.toolbar.isEnabled())
+        return;
+    VSFlexGrid &grid = m_parts.grid;
+    const int current = grid.Col();
+    const QString heading = grid.Headings().value(current - 1);
+    const auto run = [&](WindowCommands &) { m_session.runOnColumn(command, col); };
+    if (!survives(*this, run) || current < 1 || grid.Row() < 1)
+        return;
+    if (grid.Col() != current && grid.Headings().value(current - 1) == heading) {
+        grid.PutCol(current);
+        grid.scrollTo(grid.currentIndex());
+    }
 }
 
 void WindowCommands::removeCondition(int condition)

@@ -43,6 +43,7 @@ public:
     void run(const QString &key, ChosenBy by = ChosenBy::Button);
 
 private:
+    void runOnColumn(const ColumnCommand &command, int col);
     void removeCondition(int condition);
 
     const Parts m_parts;

@@ -11,7 +11,8 @@ namespace {
 constexpr char head[] =
     "<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<style>\n"
     "table { border-collapse: collapse; font-family: sans-serif; font-size: 10pt; }\n"
-    "th, td { border: 1px solid #b0b0b0; padding: 2px 6px; text-align: left; vertical-align: top; }\n"
+    "th, td { border: 1px solid #b0b0b0; padding: 2px 6px; text-align: left; vertical-align: top;"
+    " white-space: pre-wrap; }\n"
     "th { background: #e8e8e8; position: sticky; top: 0; }\n"
     ".n { text-align: right; }\n</style>\n</head>\n<body>\n<table>\n";
 

@@ -266,10 +266,15 @@ bool ValueTicks::areDays() const
     return m_fieldClass == FieldClass::Date || m_fieldClass == FieldClass::Moment;
 }
 
+// Whether the list has a line for the records without a value.
+bool ValueTicks::listsNull() const
+{
+    return !isSearch() && m_all.withoutValue != 0;
+}
+
 void ValueTicks::fill()
 {
-    const bool hasNull = !isSearch() && m_all.withoutValue != 0;
-    m_list->list(m_fieldClass, listed(), hasNull, isSearch());
+    m_list->list(m_fieldClass, listed(), listsNull(), isSearch());
     showState();
 }
 
@@ -302,7 +307,10 @@ QString ValueTicks::stateInWords() const
         return isSearch() ? FilterTexts::NothingFound.arg(m_search->text()) : QString();
     const auto ticked = std::ranges::count_if(
         values.values, [this](const QString &value) { return m_state.isTicked(value); });
-    return FilterTexts::TicksOf.arg(grouped(ticked), grouped(values.values.size()));
+    // Records without a value have a box as well.
+    const int nulls = listsNull() ? 1 : 0;
+    const int tickedNulls = nulls == 1 && m_state.isNullTicked() ? 1 : 0;
+    return FilterTexts::TicksOf.arg(grouped(ticked + tickedNulls), grouped(values.values.size() + nulls));
 }
 
 void ValueTicks::showReading(bool isReading)

@@ -66,6 +66,7 @@ private:
     OfferedValues listed() const;
     bool isSearch() const;
     bool areAllListed() const;
+    bool listsNull() const;
     bool areDays() const;
     void fill();
     void showState();

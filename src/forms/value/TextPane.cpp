@@ -54,6 +54,10 @@ TextPane::TextPane(const QString &text, QWidget *parent)
     m_words->setPlaceholderText(FormTexts::FindInValue);
     m_words->setAccessibleName(FormTexts::FindInValue);
     m_words->setClearButtonEnabled(true);
+    // Its hint is read whole, and its frame and the button have room.
+    constexpr int besides = 6;
+    m_words->setMinimumWidth(m_words->fontMetrics().horizontalAdvance(m_words->placeholderText()) +
+                             widthOfDigits(*m_words, besides));
     m_found->setObjectName(u"lblFoundInValue"_s);
     m_pieceLabel->setObjectName(u"lblPiece"_s);
     // What was found is seen while the words are typed.

@@ -21,6 +21,7 @@ inline const QString CellFilter = u"CellFilter"_s;
 inline const QString ShowValue = u"ShowValue"_s;
 inline const QString Sort = u"Sort"_s;
 inline const QString ToPreview = u"ToPreview"_s;
+inline const QString Forward = u"Forward"_s;
 inline const QString ToFullTable = u"ToFullTable"_s;
 
 } // namespace KOVAVSFDataGridLib::CommandKeys

@@ -1,7 +1,9 @@
 // The entries of a column's menu that change its width and its place.
 #include "ColumnMenuFixture.h"
 
+#include <QtGui/QHelpEvent>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QToolTip>
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
@@ -28,6 +30,24 @@ TEST_F(ColumnMenuLayout, FitsAndRestoresWidths)
     click(u"Part"_s);
     click(u"All"_s);
     EXPECT_EQ(width(1), fitted);
+}
+
+// Also while the mouse is over it, and when the column is sorted by later.
+TEST_F(ColumnMenuLayout, AFittedHeadingHasRoomForNameSortAndArrow)
+{
+    ASSERT_TRUE(load());
+    choose(u"ID"_s, u"FitAllColumns"_s);
+    for (const QString &name : AllColumns) {
+        SCOPED_TRACE(name.toStdString());
+        if (name != u"图片")
+            choose(name, u"SortDescending"_s);
+        QHelpEvent help(QEvent::ToolTip, heading(name), header()->viewport()->mapToGlobal(heading(name)));
+        QCoreApplication::sendEvent(header()->viewport(), &help);
+        EXPECT_FALSE(QToolTip::isVisible()) << "nothing of the name is cut";
+        open(name);
+        EXPECT_TRUE(menu()->isVisible());
+        menu()->close();
+    }
 }
 
 TEST_F(ColumnMenuLayout, CompressViewPressedAgainBringsTheWidthsBack)

@@ -110,6 +110,38 @@ TEST_F(CopyTest, TextsKeepTabsQuotesLineEndsAndMarkup)
         EXPECT_TRUE(html().contains(u'>' + cell + u"</td>"_s)) << qUtf8Printable(html());
 }
 
+// What a spreadsheet would change is pasted as text; dates it can hold are dates, with the day's number in
+// its calendar.
+TEST_F(CopyTest, ASpreadsheetLosesNothingOfWhatIsPasted)
+{
+    database.run(u"CREATE TABLE 粘贴 (大 BIGINT, 小数 DECIMAL(20,2), 日 DATE, 刻 TIMESTAMP, 文 TEXT)"_s);
+    database.run(u"INSERT INTO 粘贴 VALUES (12345678901234567, 1234.5, '2024-03-01', '2024-03-01 18:00:00', "
+                 "'  a  b '), (-123456789012345, '=1+1', '1899-01-01', '2024-03-01 18:00:00.5', '007')"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 粘贴"_s, {}));
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_A, Qt::ControlModifier);
+    pressCopy(table);
+    const QString text = u"<td class=\"t\" sdnum=\"1033;0;@\">"_s;
+    const QString blank = u"&nbsp;"_s;
+    const auto blanks = [&](int count) {
+        return u"<span style=\"mso-spacerun:yes\">"_s + blank.repeated(count) + u"</span>"_s;
+    };
+    const QStringList cells{
+        text + u"12345678901234567</td>"_s,
+        u"<td>1234.5</td>"_s,
+        u"<td class=\"d\" sdval=\"45352\" sdnum=\"1033;0;YYYY-MM-DD\">2024-03-01</td>"_s,
+        u"<td class=\"m\" sdval=\"45352.75\" sdnum=\"1033;0;YYYY-MM-DD HH:MM:SS\">2024-03-01 18:00:00</td>"_s,
+        text + blanks(2) + u'a' + blanks(2) + u'b' + blanks(1) + u"</td>"_s,
+        u"<td>-123456789012345</td>"_s,
+        text + u"=1+1</td>"_s,
+        text + u"1899-01-01</td>"_s,
+        text + texts(u"刻"_s).at(1) + u"</td>"_s,
+        text + u"007</td>"_s,
+    };
+    for (const QString &cell : cells)
+        EXPECT_TRUE(html().contains(cell)) << qUtf8Printable(cell) << '\n' << qUtf8Printable(html());
+}
+
 TEST_F(CopyTest, TheListOfOneRecordIsCopiedAsItIsMarked)
 {
     ASSERT_TRUE(load());

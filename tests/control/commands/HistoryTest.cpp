@@ -49,6 +49,8 @@ protected:
     {
         QStringList lines;
         for (const QAction *action : openList()->actions()) {
+            if (!action->data().isValid()) // no step
+                continue;
             static const QRegularExpression note(u"\t(\\d+) 条  \\d\\d:\\d\\d:\\d\\d$"_s);
             lines.append((action->isChecked() ? u"*"_s : QString()) + note.match(action->text()).captured(1));
         }
@@ -102,6 +104,20 @@ TEST_F(History, ForwardGoesWhereTheStepBackCameFrom)
     EXPECT_EQ(rows(), 6) << "the history is as it was";
     press(Qt::Key_Left);
     EXPECT_EQ(rows(), records);
+}
+
+TEST_F(History, TheListEndsWithForward)
+{
+    narrowTwice();
+    const auto forward = [this] { return openList()->actions().constLast(); };
+    EXPECT_TRUE(forward()->text().startsWith(u"前进"_s));
+    EXPECT_FALSE(menu->actions().constLast()->isEnabled());
+    menu->hide();
+    press(Qt::Key_Left);
+    ASSERT_EQ(rows(), 6);
+    ASSERT_TRUE(forward()->isEnabled());
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(menu->actions().constLast()).center());
+    EXPECT_EQ(rows(), 1);
 }
 
 TEST_F(History, ForwardIsLeftOutOnceSomethingNewIsDone)

@@ -3,9 +3,11 @@
 
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QTextDocument>
 #include <QtTest/QTest>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QMenu>
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
@@ -92,6 +94,49 @@ TEST_F(SelectionTest, AValueIsCopiedByAClickOrByTheKeyboard)
         QTest::keyClick(summary, Qt::Key_Tab);
     QTest::keyClick(summary, Qt::Key_Return);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"10"_s);
+}
+
+// A value is shown whole or not at all, and what is not shown is in a menu.
+TEST_F(SelectionTest, EveryValueCanBeReadAndCopiedAtAnyWidth)
+{
+    ASSERT_TRUE(load(u"SELECT ID * 123456.75 AS 金额 FROM 商品 WHERE ID < 5"_s, {}));
+    mark(1, 1, 4, 1);
+    ASSERT_NE(shownSummary(), QString());
+    auto *statement = grid.findChild<QLabel *>(u"lblStatement"_s);
+    grid.resize(1600, 400);
+    EXPECT_GE(summary->width(), summary->sizeHint().width());
+    EXPECT_FALSE(summary->text().contains(u"…"_s));
+    EXPECT_GT(statement->width(), 0);
+    EXPECT_FALSE(statement->geometry().intersects(summary->geometry()));
+    for (const int width : {1200, 1000, 900, 800, 700, 640}) {
+        SCOPED_TRACE(width);
+        grid.resize(width, 400);
+        EXPECT_GT(summary->width(), 0);
+        EXPECT_LE(summary->QLabel::sizeHint().width(), summary->width()) << "nothing of it is cut";
+        EXPECT_LT(summary->geometry().right(), wholeRows->x());
+        QTextDocument shown;
+        shown.setDefaultFont(summary->font());
+        shown.setDocumentMargin(0);
+        shown.setHtml(summary->text());
+        const QStringList values = summary->accessibleName().split(u'，');
+        bool hasMore = false;
+        for (const QString &value : values) {
+            const bool isShown = shown.toPlainText().replace(QChar::Nbsp, u' ').contains(value);
+            EXPECT_TRUE(isShown || summary->toolTip().contains(value)) << value.toStdString();
+            hasMore = hasMore || !isShown;
+        }
+        ASSERT_EQ(shown.toPlainText().contains(u'…'), hasMore);
+        if (!hasMore)
+            continue;
+        QTest::mouseClick(summary, Qt::LeftButton, {},
+                          QPoint(static_cast<int>(shown.idealWidth()) - 4, summary->height() / 2));
+        auto *menu = summary->findChild<QMenu *>(u"SummaryMenu"_s);
+        ASSERT_TRUE(menu && menu->isVisible());
+        ASSERT_EQ(menu->actions().size(), values.size());
+        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(menu->actions().last()).center());
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), u"493827"_s);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 }
 
 TEST_F(SelectionTest, GoesWithTheResult)

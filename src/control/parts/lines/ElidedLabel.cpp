@@ -28,7 +28,7 @@ bool ElidedLabel::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || shownText() == text())
         return QLabel::event(event);
-    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), textForTip(text(), *this), this);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), wholeTextTip(text(), *this), this);
     return true;
 }
 

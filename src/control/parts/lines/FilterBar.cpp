@@ -6,7 +6,6 @@
 
 #include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
-#include <QtGui/QTextDocument>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QToolButton>
 
@@ -62,7 +61,7 @@ QToolButton *FilterBar::makeButton(int condition)
     button->setObjectName(u"Condition%1"_s.arg(condition + 1));
     button->setFocusPolicy(Qt::StrongFocus);
     const QString words = GridTexts::RemoveCondition.arg(m_conditions.at(condition));
-    button->setToolTip(Qt::convertFromPlainText(textForTip(words, *this), Qt::WhiteSpaceNormal));
+    button->setToolTip(wholeTextTip(words, *this));
     button->setAccessibleName(words);
     connect(button, &QToolButton::clicked, this, [this, condition] { Q_EMIT removeWanted(condition); });
     return button;

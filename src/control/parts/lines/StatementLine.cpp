@@ -31,12 +31,12 @@ StatementLine::StatementLine(QWidget *parent) : ElidedLabel(parent)
 
 void StatementLine::show(const QStringList &places, const QString &statement)
 {
+    // The place changes with every record.
+    if (statement != m_statement)
+        setToolTip(wholeTextTip(statement, *this));
     m_statement = statement;
     m_places = statement.isEmpty() ? QStringList() : places;
     setText(statement.isEmpty() ? QString() : place() + GridTexts::BeforeStatement + statement.simplified());
-    setToolTip(statement.isEmpty() ? QString()
-                                   : u"<p style='white-space:pre-wrap'>"_s +
-                                         textForTip(statement, *this).toHtmlEscaped() + u"</p>"_s);
 }
 
 int StatementLine::widthOfPlace() const

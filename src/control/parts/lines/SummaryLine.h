@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QtCore/QList>
 #include <QtWidgets/QLabel>
 
 namespace KOVAVSFDataGridLib {
 
 // What the selected cells come to, in the line below the grid. Each value can be clicked, or reached by the
-// arrow keys and pressed by Enter, to copy it.
+// Tab key and pressed by Enter, to copy it. Values are never cut: those without room are in a menu behind
+// "…".
 class SummaryLine final : public QLabel
 {
     Q_OBJECT
@@ -23,12 +25,24 @@ public:
     using QWidget::show;
     void show(const QList<Item> &items);
 
+    // Wide enough for all values.
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    // The pixels for so many of the values, and for what leads to the others.
+    int widthFor(qsizetype values) const;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
-    void copy(const QString &link);
+    void fit();
+    QString html(qsizetype values) const;
+    void follow(const QString &link);
+    void openMenu();
+    void copy(const QString &value);
 
-    QStringList m_values;
+    QList<Item> m_items;
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -71,14 +71,17 @@ void GridToolbar::resizeEvent(QResizeEvent *event)
 {
     QToolBar::resizeEvent(event);
     showCaptions();
+    narrowMenuButton();
 }
 
 bool GridToolbar::event(QEvent *event)
 {
     const bool isDone = QToolBar::event(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange ||
-        event->type() == QEvent::LayoutRequest)
+        event->type() == QEvent::LayoutRequest) {
         showCaptions();
+        narrowMenuButton();
+    }
     return isDone;
 }
 
@@ -121,6 +124,17 @@ void GridToolbar::showCaptions()
         if (shown && button.command->button->isCaptioned)
             shown->setToolButtonStyle(hasRoom ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
     }
+}
+
+// The arrow stands at the caption that it belongs to: a tool button keeps two blanks and a margin free behind its
+// text, which would move the arrow to the next button.
+void GridToolbar::narrowMenuButton()
+{
+    constexpr int margin = 4;
+    if (!m_menuButton)
+        return;
+    const int surplus = m_isCaptioned ? 2 * m_menuButton->fontMetrics().horizontalAdvance(u' ') + margin : 0;
+    m_menuButton->setMaximumWidth(m_menuButton->sizeHint().width() - surplus);
 }
 
 // What a window has no command for isn't offered, nor a separator with no button after the one before it.
@@ -200,6 +214,8 @@ void GridToolbar::setButtonMenu(const QString &key, QMenu &menu)
     // Not of the action, which is the command's alone.
     shown->setMenu(&menu);
     shown->setPopupMode(QToolButton::MenuButtonPopup);
+    m_menuButton = shown;
+    narrowMenuButton();
 }
 
 QWidget *GridToolbar::shownButton(const QString &key) const

@@ -5,6 +5,7 @@
 #include <map>
 
 class QActionGroup;
+class QToolButton;
 
 namespace KOVAVSFDataGridLib {
 
@@ -69,9 +70,11 @@ private:
     void showPressed();
     int heightOfCaption() const;
     void showCaptions();
+    void narrowMenuButton();
 
     std::map<QString, Button> m_buttons;
     bool m_isCaptioned = false;
+    QToolButton *m_menuButton = nullptr; // the one that a menu drops down from
 };
 
 } // namespace KOVAVSFDataGridLib

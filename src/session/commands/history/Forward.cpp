@@ -2,6 +2,7 @@
 #include "session/Session.h"
 #include "session/SessionMessages.h"
 #include "session/commands/Command.h"
+#include "session/commands/CommandKeys.h"
 #include "session/history/HistorySteps.h"
 #include "session/history/SharedHistory.h"
 
@@ -24,7 +25,7 @@ QString whyNotForward(Session &session)
 }
 
 const Command::Registration registration({
-    .key = u"Forward"_s,
+    .key = CommandKeys::Forward,
     .shortcut = u"Alt+Right"_s,
     .menu = {30, Command::tr("前进(&W)")},
     .isInViewer = true,

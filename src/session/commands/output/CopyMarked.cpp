@@ -1,7 +1,6 @@
 #include "session/commands/output/CopyMarked.h"
 
 #include "ado/Recordset.h"
-#include "ado/values/NumericTypes.h"
 #include "export/TableMimeData.h"
 #include "export/writers/TabTextWriter.h"
 #include "session/Session.h"
@@ -27,11 +26,11 @@ void copyCells(Session &session, bool hasHeadings)
         });
     if (!isWhole)
         return;
-    std::vector<bool> isNumeric;
+    std::vector<ADODB::DataTypeEnum> types;
     for (const ExportColumn &column : columns)
-        isNumeric.push_back(ADODB::isNumericType(column.type));
+        types.push_back(column.type);
     session.window().putOnClipboard(
-        std::make_unique<TableMimeData>(writer.text(), std::move(isNumeric), hasHeadings));
+        std::make_unique<TableMimeData>(writer.text(), std::move(types), hasHeadings));
 }
 
 // As the list has it: a line for each field, its name beside its value. The headings are the names.
@@ -52,8 +51,8 @@ void copyFields(Session &session, bool hasHeadings)
     }
     if (marked.fields.size() == 1 && !hasNames)
         text = marked.fields.front().text.toUtf8();
-    session.window().putOnClipboard(
-        std::make_unique<TableMimeData>(text, std::vector<bool>(hasNames ? 2 : 1, false), false));
+    session.window().putOnClipboard(std::make_unique<TableMimeData>(
+        text, std::vector<ADODB::DataTypeEnum>(hasNames ? 2 : 1, ADODB::adVarWChar), false));
 }
 
 } // namespace
