@@ -22,8 +22,8 @@ bool isMessage(const QString &name, const QString &text)
                                              u"CantReadAtRunTime"_s, u"CantSetAtRunTime"_s};
     static const QRegularExpression sentence(u"([。！!？?.](（%\\d）)?|：(%\\d(（%\\d）)?)?)\\s*$"_s);
     static const QRegularExpression noMessage(
-        u"^（|Hint$|Tip$|^DataSource$|^Driver$|^RemoveCondition$|^FormatOfColumn$|^FormatSample$|"
-        u"^ColumnOfSummary$|^FilteredBy$|^TableName$|^TicksTitle$|^AboutText$|^FilterName$"_s);
+        u"^（|Hint$|Tip$|^DataSource$|^Driver$|^RemoveCondition$|^KeepCondition$|^FormatOfColumn$|"
+        u"^FormatSample$|^ColumnOfSummary$|^FilteredBy$|^TableName$|^TicksTitle$|^AboutText$|^FilterName$"_s);
     return withoutFullStop.contains(name) ||
            (sentence.match(text).hasMatch() && !name.contains(noMessage) && !text.contains(noMessage));
 }

@@ -157,6 +157,7 @@ void SingleRecordView::listFields()
     m_fields.clear();
     bool hasBinary = false;
     const auto recordset = m_session.result().recordset();
+    m_listedOf = recordset;
     const bool isLearned = recordset && m_learnedOf.lock() == recordset;
     const int fields = m_session.result().isOpen() ? m_session.result().recordset()->Fields().Count() : 0;
     for (int i = 0; i < fields; ++i) {
@@ -180,8 +181,8 @@ void SingleRecordView::learnFilledFields()
 {
     const auto recordset = m_session.result().recordset();
     // Not while something else waits for the database; the next record asks again.
-    if (!m_session.result().isOpen() || m_learnedOf.lock() == recordset || m_session.record().isReadOnly() ||
-        ADODB::Waiting::isWatched())
+    if (!m_session.result().isOpen() || m_listedOf.lock() != recordset || m_learnedOf.lock() == recordset ||
+        m_session.record().isReadOnly() || ADODB::Waiting::isWatched())
         return;
     const QPointer<SingleRecordView> alive(this);
     std::set<int> filled;
@@ -190,7 +191,7 @@ void SingleRecordView::learnFilledFields()
         isAnyRequired |= isRequired(recordset->Fields().Item(i));
     if (isAnyRequired)
         filled = filledFields(m_session);
-    if (!alive || m_session.result().recordset() != recordset)
+    if (!alive || m_session.result().recordset() != recordset || m_listedOf.lock() != recordset)
         return;
     m_filledFields = std::move(filled);
     m_learnedOf = recordset;

@@ -82,6 +82,7 @@ private:
     // Those that need no value from the user, once the database was asked about this result.
     std::set<int> m_filledFields;
     std::weak_ptr<ADODB::Recordset> m_learnedOf;
+    std::weak_ptr<ADODB::Recordset> m_listedOf; // whose fields m_fields has
     CellEditor m_editor;
 };
 
