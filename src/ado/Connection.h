@@ -62,9 +62,9 @@ public:
     // A table or view.
     struct Table
     {
-        QString schema; // empty if a statement doesn't need it
-        QString name;   // as the database reports it; see WrittenName()
-        bool isView = false;
+        QString schema;      // empty if a statement doesn't need it
+        QString name;        // as the database reports it; see WrittenName()
+        bool isView = false; // else a table
     };
     // The tables and views that the user can see, without those of the system, ordered by schema and name.
     // Throws 3704 if closed, and otherwise like Recordset::Open.

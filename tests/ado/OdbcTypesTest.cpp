@@ -1,5 +1,6 @@
 // The types by which ADO's own bridge to ODBC calls a driver's.
 #include "OdbcEngines.h"
+#include "TestDatabase.h"
 
 #include "ado/providers/odbc/reading/OdbcTypes.h"
 
@@ -117,6 +118,23 @@ TEST_P(OdbcServerTypes, ComeThroughTheDriver)
         const auto &[declaration, type] = columns[static_cast<std::size_t>(i)];
         EXPECT_EQ(recordset->Fields().Item(i).Type(), type) << declaration;
     }
+}
+
+// One that is too large for a signed integer is a text, as it is everywhere else.
+TEST_P(OdbcServerTypes, KeepLargeNumbersWithoutASign)
+{
+    if (!is("MariaDB"))
+        GTEST_SKIP() << "the other has none";
+    execute(u"CREATE TABLE kova_a (id BIGINT UNSIGNED PRIMARY KEY, n BIGINT UNSIGNED)"_s);
+    execute(u"INSERT INTO kova_a VALUES (1,0),(2,9223372036854775807),(3,9223372036854775808),"
+            "(18446744073709551615,18446744073709551615),(5,NULL)"_s);
+    const auto records = open(u"SELECT * FROM kova_a ORDER BY id"_s);
+    EXPECT_EQ(AdoTest::cellTexts(*records), u"1|0\n2|9223372036854775807\n3|9223372036854775808\n5|\n"
+                                            "18446744073709551615|18446744073709551615"_s);
+    records->MoveLast();
+    records->Fields().Item(1).PutValue(7);
+    records->Update();
+    EXPECT_EQ(ask(u"SELECT n FROM kova_a WHERE id = 18446744073709551615"_s), u"7"_s);
 }
 
 } // namespace

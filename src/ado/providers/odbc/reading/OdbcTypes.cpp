@@ -114,8 +114,8 @@ Form formOf(DataTypeEnum type, bool loose)
     case adUnsignedInt:
     case adBigInt:
         return loose ? Form::Whole : Form::Integer;
-    case adUnsignedBigInt: // can be too large for an integer
-        return Form::Whole;
+    case adUnsignedBigInt:
+        return loose ? Form::Whole : Form::Unsigned;
     case adSingle:
     case adDouble:
     case adCurrency:

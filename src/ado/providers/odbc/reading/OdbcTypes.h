@@ -25,6 +25,7 @@ void apply(FieldInfo &field, const Declared &declared);
 // How a column's values are asked for.
 enum class Form {
     Integer,
+    Unsigned, // can be too large for an integer, and then becomes text
     Real,
     Boolean,
     Digits, // the text of a number or a date, which is plain ASCII

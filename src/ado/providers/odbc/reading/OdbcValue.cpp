@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cstring>
+#include <limits>
 
 namespace ADODB {
 
@@ -45,6 +46,8 @@ OdbcLayout OdbcLayout::of(Form form)
     switch (form) {
     case Form::Integer:
         return {SQL_C_SBIGINT, sizeof(qint64), 0};
+    case Form::Unsigned:
+        return {SQL_C_UBIGINT, sizeof(quint64), 0};
     case Form::Real:
         return {SQL_C_DOUBLE, sizeof(double), 0};
     case Form::Boolean:
@@ -67,6 +70,12 @@ void OdbcValue::append(RowStore &rows, Form form, const char *value, SQLLEN leng
     switch (form) {
     case Form::Integer:
         return rows.addInteger(numberAt<qint64>(value));
+    case Form::Unsigned: {
+        const auto number = numberAt<quint64>(value);
+        return number <= static_cast<quint64>(std::numeric_limits<qint64>::max())
+                   ? rows.addInteger(static_cast<qint64>(number))
+                   : rows.addText(QByteArray::number(number));
+    }
     case Form::Real:
         return rows.addReal(numberAt<double>(value));
     case Form::Boolean:
