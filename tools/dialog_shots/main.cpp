@@ -214,9 +214,9 @@ void fillRow(const QWidget &dialog, int number, const QString &field, const QStr
 
 void takeFormats(Photographer &photographer)
 {
-    FormatDialog number(u"金额"_s, false, u"#,##0.00"_s, u"12345.678"_s, nullptr);
+    FormatDialog number(u"金额"_s, false, u"#,##0.00"_s, u"12345.6"_s, 2, nullptr);
     photographer.take(number, u"FormatDialog"_s);
-    FormatDialog boolean(u"已付款"_s, true, {}, u"True"_s, nullptr);
+    FormatDialog boolean(u"已付款"_s, true, {}, u"True"_s, 0, nullptr);
     photographer.take(boolean, u"FormatDialog-boolean"_s);
 }
 
