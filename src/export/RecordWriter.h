@@ -17,8 +17,9 @@ struct ExportColumn
     int field = 0; // 0-based, of the recordset
     QString heading;
     ADODB::DataTypeEnum type = ADODB::adVarWChar;
-    int scale = 0; // digits after the decimal point, where the field says so
-    int width = 0; // pixels at 96 DPI; 0 when nobody knows
+    int scale = 0;        // digits after the decimal point, where the field says so
+    int width = 0;        // pixels at 96 DPI; 0 when nobody knows
+    int fittingWidth = 0; // the same for what its heading and texts need
 };
 
 using ExportColumns = std::vector<ExportColumn>;

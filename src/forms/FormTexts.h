@@ -107,6 +107,7 @@ inline constexpr Text FormatOfColumn = tr("列：%1");
 inline constexpr Text Thousands = tr("使用千位分隔符(&T)");
 inline constexpr Text Decimals = tr("小数位数(&D):");
 inline constexpr Text DecimalsAsTheyAre = tr("按原样");
+inline constexpr Text DecimalsOfField = tr("按字段（%1 位）");
 inline constexpr Text ShowAsItIs = tr("按原样（True 和 False）(&A)");
 inline constexpr Text ShowYesNo = tr("“是”和“否”(&Y)");
 inline constexpr Text ShowBox = tr("方框 ☑ ☐(&B)");

@@ -29,4 +29,16 @@ std::vector<int> arrangedColumns(const QStringList &headings, const QStringList 
     return arranged;
 }
 
+QStringList mergedOrder(QStringList order, const QStringList &known)
+{
+    qsizetype next = 0;
+    for (const QString &name : known) {
+        const qsizetype found = order.indexOf(name);
+        if (found < 0)
+            order.insert(next, name);
+        next = (found < 0 ? next : found) + 1;
+    }
+    return order;
+}
+
 } // namespace KOVAVSFDataGridLib

@@ -10,4 +10,7 @@ namespace KOVAVSFDataGridLib {
 // one before it. The first of equal names in one list is the first of them in the other.
 std::vector<int> arrangedColumns(const QStringList &headings, const QStringList &order);
 
+// `order` with the names that only `known` has, each after the one before it there.
+QStringList mergedOrder(QStringList order, const QStringList &known);
+
 } // namespace KOVAVSFDataGridLib

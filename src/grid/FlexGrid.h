@@ -84,17 +84,22 @@ public:
     // The headings from the left, hidden ones too. Column numbers are those of the fields wherever a column
     // is shown.
     QStringList ColumnOrder() const;
+    // The same with further columns where they would be shown.
+    QStringList OrderWith(const QStringList &names) const;
     // How many of the first columns stay in view when the others scroll.
     int FrozenCols() const { return m_frozenCols; }
     // Puts columns into this order; those that it does not name stay after the one before them. An empty
     // order is that of the fields. The first `frozen` columns stay in view. Both are kept, by the headings,
-    // when other cells are shown.
+    // when other cells are shown; so are the places of columns that are not there then.
     void ArrangeColumns(const QStringList &order, int frozen);
 
     // How a column's texts are shown; TextMatrix and copies keep the texts themselves. Kept by the heading
     // when other cells are shown.
     ADODB::DisplayFormat ColFormat(int col) const;
     void PutColFormat(int col, const ADODB::DisplayFormat &format);
+    // The same by the heading, whether its column is there now or not.
+    ADODB::DisplayFormat HeadingFormat(const QString &heading) const;
+    void PutHeadingFormat(const QString &heading, const ADODB::DisplayFormat &format);
 
     // Whether cells without a value show a pale NULL, which is no text of theirs.
     bool ShowsNulls() const;
@@ -185,6 +190,7 @@ private:
     void applyWidth(int col);
     void onSectionResized(int section, int size);
     void applyArrangement();
+    void keepOrder();
     void onSectionMoved();
     bool isFrozen(int section) const;
     void paintFrozenCells(const QStyleOptionViewItem &option, const QRegion &dirty);

@@ -31,18 +31,33 @@ QStringList FlexGrid::ColumnOrder() const
     return order;
 }
 
+QStringList FlexGrid::OrderWith(const QStringList &names) const
+{
+    QStringList arranged;
+    for (const int place : arrangedColumns(names, m_order))
+        arranged.append(names.at(place));
+    return mergedOrder(ColumnOrder(), arranged);
+}
+
 void FlexGrid::ArrangeColumns(const QStringList &order, int frozen)
 {
-    m_order = order;
+    m_order = order.isEmpty() ? QStringList() : mergedOrder(order, m_order);
     m_frozenNames.clear();
     applyArrangement();
     m_frozenCols = std::clamp(frozen, 0, m_model->columnCount());
-    if (m_frozenCols > 0) {
-        m_order = ColumnOrder();
-        m_frozenNames = m_order.first(m_frozenCols);
-    }
+    if (m_frozenCols > 0)
+        keepOrder();
     Refresh();
     Q_EMIT ColumnsArranged();
+}
+
+// Columns that are not there now keep their places among the others.
+void FlexGrid::keepOrder()
+{
+    const QStringList shown = ColumnOrder();
+    m_order = mergedOrder(shown, m_order);
+    const qsizetype frozen = std::min<qsizetype>(m_frozenCols, shown.size());
+    m_frozenNames = frozen > 0 ? m_order.first(m_order.indexOf(shown.at(frozen - 1)) + 1) : QStringList();
 }
 
 // Cells without headings come and go between two results.
@@ -50,24 +65,23 @@ void FlexGrid::applyArrangement()
 {
     const QStringList headings = Headings();
     const std::vector<int> places = arrangedColumns(headings, m_order);
-    {
-        const QScopedValueRollback<bool> arranging(m_isArranging, true);
-        QHeaderView &header = *horizontalHeader();
-        for (int visual = 0; visual < static_cast<int>(places.size()); ++visual)
-            header.moveSection(header.visualIndex(places[static_cast<std::size_t>(visual)]), visual);
-    }
+    const QScopedValueRollback<bool> arranging(m_isArranging, true);
+    QHeaderView &header = *horizontalHeader();
     m_frozenCols = 0;
-    while (m_frozenCols < static_cast<int>(places.size()) &&
-           m_frozenNames.contains(headings.at(places[static_cast<std::size_t>(m_frozenCols)])))
-        ++m_frozenCols;
+    for (int visual = 0; visual < static_cast<int>(places.size()); ++visual) {
+        const int place = places[static_cast<std::size_t>(visual)];
+        header.moveSection(header.visualIndex(place), visual);
+        // One that came back between two frozen ones is frozen as well.
+        if (m_frozenNames.contains(headings.at(place)))
+            m_frozenCols = visual + 1;
+    }
 }
 
 void FlexGrid::onSectionMoved()
 {
     if (m_isArranging)
         return;
-    m_order = ColumnOrder();
-    m_frozenNames = m_order.first(std::min<qsizetype>(m_frozenCols, m_order.size()));
+    keepOrder();
     Refresh();
     Q_EMIT ColumnsArranged();
 }
@@ -99,16 +113,26 @@ int FlexGrid::FittingColWidth(int col) const
 ADODB::DisplayFormat FlexGrid::ColFormat(int col) const
 {
     checkCol(col);
-    return m_model->formats().value(m_model->source().text(0, col));
+    return HeadingFormat(m_model->source().text(0, col));
 }
 
 void FlexGrid::PutColFormat(int col, const ADODB::DisplayFormat &format)
 {
     checkCol(col);
+    PutHeadingFormat(m_model->source().text(0, col), format);
+}
+
+ADODB::DisplayFormat FlexGrid::HeadingFormat(const QString &heading) const
+{
+    return m_model->formats().value(heading);
+}
+
+void FlexGrid::PutHeadingFormat(const QString &heading, const ADODB::DisplayFormat &format)
+{
     QHash<QString, ADODB::DisplayFormat> formats = m_model->formats();
-    formats.insert(m_model->source().text(0, col), format);
+    formats.insert(heading, format);
     if (format.isNone())
-        formats.remove(m_model->source().text(0, col));
+        formats.remove(heading);
     m_model->setFormats(formats);
 }
 

@@ -10,6 +10,7 @@
 #include <QtGui/QPagedPaintDevice>
 
 #include <algorithm>
+#include <numeric>
 
 namespace KOVAVSFDataGridLib {
 
@@ -29,19 +30,38 @@ double widthOf(const ExportColumn &column)
     return column.width > 0 ? column.width : widthOfUnknown;
 }
 
-double sumOfWidths(const ExportColumns &columns)
+// Letters on paper are not fitted to pixels, which makes some of them wider than on a screen.
+double missingWidth(const ExportColumn &column)
+{
+    constexpr double widerOnPaper = 1.1;
+    return std::max(0.0, column.fittingWidth * widerOnPaper - widthOf(column));
+}
+
+double sumOf(const ExportColumns &columns, double (*of)(const ExportColumn &))
 {
     double sum = 0;
     for (const ExportColumn &column : columns)
-        sum += widthOf(column);
+        sum += of(column);
     return sum;
+}
+
+// As in the grid; where the page has room left, columns that are too narrow for their texts get it.
+std::vector<double> widthsOn(double page, const ExportColumns &columns)
+{
+    const double missing = sumOf(columns, missingWidth);
+    const double room = std::max(0.0, page - sumOf(columns, widthOf));
+    const double share = missing > 0 ? std::min(1.0, room / missing) : 0;
+    std::vector<double> widths;
+    for (const ExportColumn &column : columns)
+        widths.push_back(widthOf(column) + missingWidth(column) * share);
+    return widths;
 }
 
 } // namespace
 
 bool isForLandscape(const ExportColumns &columns)
 {
-    return sumOfWidths(columns) > portraitPixels;
+    return sumOf(columns, widthOf) + sumOf(columns, missingWidth) > portraitPixels;
 }
 
 PageWriter::PageWriter(QPagedPaintDevice &device, PageOptions options)
@@ -62,8 +82,9 @@ void PageWriter::begin(const ExportColumns &columns)
 
 void PageWriter::measure()
 {
-    const double page = m_device.width();
-    const double wanted = sumOfWidths(m_columns) * m_device.logicalDpiX() / pixelsPerInch;
+    const double page = m_device.width() * pixelsPerInch / m_device.logicalDpiX();
+    const std::vector<double> widths = widthsOn(page, m_columns);
+    const double wanted = std::accumulate(widths.begin(), widths.end(), 0.0);
     const double share = wanted > 0 ? std::min(1.0, page / wanted) : 1.0;
     m_font.setPointSizeF(std::max(smallestFont, largestFont * share));
     m_bold = m_font;
@@ -72,8 +93,8 @@ void PageWriter::measure()
     m_lineHeight = metrics.height() * 1.4;
     m_padding = metrics.height() * 0.25;
     m_lefts.assign(1, 0);
-    for (const ExportColumn &column : m_columns)
-        m_lefts.push_back(m_lefts.back() + widthOf(column) * m_device.logicalDpiX() / pixelsPerInch * share);
+    for (const double width : widths)
+        m_lefts.push_back(m_lefts.back() + width * m_device.logicalDpiX() / pixelsPerInch * share);
     // The title, a gap, the headings, the rows, and the number of the page.
     const QFontMetricsF title(m_bold, &m_device);
     m_firstRow = title.height() * 1.8 + m_lineHeight;
@@ -148,8 +169,12 @@ QString PageWriter::textOf(std::size_t column, const ADODB::RawValue &cell)
     m_value.resize(0);
     ADODB::appendText(m_value, cell, m_columns[column].type);
     QString text = QString::fromUtf8(m_value.left(4 * longestText)).left(longestText);
-    if (column < m_options.formats.size())
-        text = m_options.formats[column].applied(text);
+    if (column < m_options.formats.size()) {
+        ADODB::DisplayFormat format = m_options.formats[column];
+        if (!cell.isNumber())
+            format.leastDecimals = 0;
+        text = format.applied(text);
+    }
     for (QChar &c : text) {
         if (c < u' ')
             c = u' ';

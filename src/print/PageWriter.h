@@ -22,8 +22,9 @@ struct PageOptions
 };
 
 // Draws records as a table on the pages of a printer or a PDF file. Each page has the title, the headings and
-// its number. The columns are fitted to the page's width, in the proportions that they have in the grid; what
-// is longer than its column is cut and ends with dots.
+// its number. The columns are as wide as in the grid, or wider where the page has room for what their texts
+// need; together they are never wider than the page. What is longer than its column is cut and ends with
+// dots.
 class PageWriter final : public RecordWriter
 {
 public:

@@ -120,7 +120,8 @@ struct FormatRequest
     QString column;
     bool isBoolean = false; // else it holds numbers
     QString format;         // as ADODB::DisplayFormat writes it
-    QString sample;         // one of its texts
+    QString sample = {};    // one of its texts
+    int decimals = 0;       // with which that is shown at least while nothing else is chosen
 };
 
 // What a session asks and reports to its user. Each function returns when the user is done; meanwhile a host

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 using ADODB::DisplayFormat;
 using namespace Qt::StringLiterals;
 
@@ -51,6 +53,28 @@ TEST(DisplayFormat, ShowsTextsAsItSays)
             << test.format.toStdString() << ' ' << test.text.toStdString();
         EXPECT_EQ(format->toText(), test.format);
     }
+}
+
+TEST(DisplayFormat, TheFieldsDecimalsAreTheLeastAndHideNoDigit)
+{
+    for (const auto &[text, shown, thousands] : std::initializer_list<std::array<QString, 3>>{
+             {u"0.2"_s, u"0.20"_s, u"0.20"_s},
+             {u"-1234"_s, u"-1234.00"_s, u"-1,234.00"_s},
+             {u"1.125"_s, u"1.125"_s, u"1.125"_s},
+             {u"1E-07"_s, u"1E-07"_s, u"1E-07"_s},
+             {u"面议"_s, u"面议"_s, u"面议"_s},
+             {u""_s, u""_s, u""_s},
+             {u"-"_s, u"-"_s, u"-"_s},
+             {u"1."_s, u"1."_s, u"1."_s},
+             {u"1.2.3"_s, u"1.2.3"_s, u"1.2.3"_s},
+         }) {
+        EXPECT_EQ(DisplayFormat{.leastDecimals = 2}.applied(text), shown) << text.toStdString();
+        const DisplayFormat grouped{.hasThousands = true, .leastDecimals = 2};
+        EXPECT_EQ(grouped.applied(text), thousands) << text.toStdString();
+    }
+    const DisplayFormat chosen{.decimals = 1, .leastDecimals = 2};
+    EXPECT_EQ(chosen.applied(u"0.25"_s), u"0.3"_s) << "what the user has chosen comes first";
+    EXPECT_EQ(chosen.toText(), u"0.0"_s);
 }
 
 TEST(DisplayFormat, IsReadFromNoOtherText)

@@ -1,5 +1,8 @@
-// dialog_shots FOLDER [dark] [en]: shows each dialog with plausible contents and saves it as a PNG file in
-// the folder, at the scale of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
+// dialog_shots FOLDER [dark] [en] [grid]: shows each dialog with plausible contents, and with `grid` the
+// control in use with its menus and windows as well, and saves them as PNG files in the folder, at the scale
+// of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
+#include "Photographer.h"
+
 #include "control/connection/ConnectionBuilder.h"
 #include "control/parts/FormatDialog.h"
 #include "control/parts/toolbar/ToolbarIcons.h"
@@ -22,10 +25,12 @@
 #include "query/fields/colDataFields.h"
 #include "support/DarkPalette.h"
 
+#include <QtCore/QBuffer>
 #include <QtCore/QDir>
 #include <QtCore/QLibraryInfo>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTranslator>
+#include <QtGui/QImage>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
@@ -54,39 +59,28 @@ QString makeDatabase(const QString &folder)
         "CREATE TABLE 订单 (订单编号 INTEGER, 下单日期 DATE, 客户编号 INTEGER, 客户名称 VARCHAR(60),"
         " 产品编号 INTEGER, 产品名称 VARCHAR(60), 数量 INTEGER, [单价(元)] NUMERIC(10,2), 金额 NUMERIC(12,2),"
         " 已付款 BOOLEAN, 发货时间 TIMESTAMP, [送货 城市] VARCHAR(20), 备注 TEXT);"
-        "INSERT INTO 订单 ([送货 城市]) VALUES ('北京'), ('上海'), ('广州'), ('深圳'), ('杭州'), ('成都')";
+        "ALTER TABLE 订单 ADD 照片 BLOB;"
+        "WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 200),"
+        " 城(C, 名, 品) AS (VALUES (0, '北京', '龙井茶 250克'), (1, '上海', '手工挂面'), (2, '广州', "
+        "'青花瓷碗（六只）'),"
+        " (3, '深圳', '铁观音 500克'), (4, '杭州', '宣纸 100张'), (5, NULL, '折扇')) "
+        "INSERT INTO 订单 SELECT I, date('2024-01-01', I || ' days'), 100 + I, 名 || '同仁百货有限公司', 10 "
+        "+ C, 品,"
+        " 3 * I % 47 + 1, 12.5 + C, (3 * I % 47 + 1) * (12.5 + C), I % 3 > 0,"
+        " datetime('2024-01-01 08:30', I || ' hours'), 名,"
+        " CASE I WHEN 1 THEN '{\"客户\":\"长沙新宇百货公司\",\"明细\":[{\"产品\":\"龙井茶\",\"数量\":12}]}'"
+        " WHEN 3 THEN '货到付款' END, CASE I WHEN 2 THEN randomblob(300) END FROM N, 城 WHERE C = I % 6 "
+        "ORDER BY I";
     sqlite3_exec(db, script, nullptr, nullptr, nullptr);
+    QImage picture(160, 120, QImage::Format_RGB32);
+    picture.fill(QColor(60, 130, 190));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    picture.save(&buffer, "PNG");
+    sqlite3_exec(db, ("UPDATE 订单 SET 照片 = x'" + bytes.toHex() + "' WHERE 订单编号 = 3").constData(),
+                 nullptr, nullptr, nullptr);
     sqlite3_close(db);
     return u"Provider=SQLite;Data Source="_s + path;
-}
-
-class Photographer
-{
-public:
-    explicit Photographer(const QString &folder) : m_folder(folder) {}
-
-    void take(QWidget &window, const QString &name)
-    {
-        window.show();
-        window.activateWindow();
-        // Whatever a part has grown or shrunk by reaches the layouts around it one after the other.
-        for (int layouts = 0; layouts < 4; ++layouts)
-            QApplication::processEvents();
-        const QString file = m_folder.filePath(name + u".png"_s);
-        m_isDone &= window.grab().save(file);
-        std::puts(qUtf8Printable(file));
-    }
-    bool isDone() const { return m_isDone; }
-
-private:
-    QDir m_folder;
-    bool m_isDone = true;
-};
-
-template<typename T>
-T &part(const QWidget &dialog, const QString &name)
-{
-    return *dialog.findChild<T *>(name);
 }
 
 void takeSelections(Photographer &photographer)
@@ -214,20 +208,19 @@ void fillRow(const QWidget &dialog, int number, const QString &field, const QStr
 
 void takeFormats(Photographer &photographer)
 {
-    FormatDialog number(u"金额"_s, false, u"#,##0.00"_s, u"12345.678"_s, nullptr);
+    FormatDialog number(u"金额"_s, false, u"#,##0.00"_s, u"12345.6"_s, 2, nullptr);
     photographer.take(number, u"FormatDialog"_s);
-    FormatDialog boolean(u"已付款"_s, true, {}, u"True"_s, nullptr);
+    FormatDialog boolean(u"已付款"_s, true, {}, u"True"_s, 0, nullptr);
     photographer.take(boolean, u"FormatDialog-boolean"_s);
 }
 
-void takeFilter(Photographer &photographer)
+void takeFilter(Photographer &photographer, const QString &connectionString)
 {
-    const QTemporaryDir folder;
     frm_Filter filter;
     filter.SetPicture(toolbarIcon(u"Filter"_s));
     SetFilter &builder = filter.SetFilter1();
     builder.Initialize(FilterTexts::TableCaption, dbAccess);
-    builder.SetConnectionString(makeDatabase(folder.path()));
+    builder.SetConnectionString(connectionString);
     builder.SetCurrentTable(u"订单"_s);
     builder.SetTableName(u"订单"_s);
     photographer.take(filter, u"frm_Filter-empty"_s);
@@ -244,6 +237,9 @@ void takeFilter(Photographer &photographer)
     part<QComboBox>(filter, u"cmbClose3"_s).setCurrentIndex(1);
     fillRow(filter, 4, u"金额"_s, captionOf(FilterOperator::Greater), u"100"_s);
     photographer.take(filter, u"frm_Filter"_s);
+    part<QAbstractButton>(filter, u"chkGroups"_s).click();
+    photographer.take(filter, u"frm_Filter-groups"_s);
+    part<QAbstractButton>(filter, u"chkGroups"_s).click();
 
     fillRow(filter, 4, u"金额"_s, captionOf(FilterOperator::Greater), u"一百"_s);
     builder.ConditionText();
@@ -261,7 +257,7 @@ int main(int argc, char **argv)
 {
     const QApplication app(argc, argv);
     if (argc < 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
-        std::fputs("usage: dialog_shots FOLDER [dark] [en]\n", stderr);
+        std::fputs("usage: dialog_shots FOLDER [dark] [en] [grid]\n", stderr);
         return 2;
     }
     const QStringList options = QApplication::arguments().mid(2);
@@ -284,6 +280,10 @@ int main(int argc, char **argv)
     takeTexts(photographer);
     takeBuilder(photographer);
     takePages(photographer);
-    takeFilter(photographer);
+    const QTemporaryDir folder;
+    const QString connectionString = makeDatabase(folder.path());
+    takeFilter(photographer, connectionString);
+    if (options.contains(u"grid"_s))
+        takeGrid(photographer, connectionString);
     return photographer.isDone() ? 0 : 1;
 }

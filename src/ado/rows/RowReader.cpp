@@ -1,6 +1,7 @@
 #include "ado/rows/RowReader.h"
 
 #include "ado/recordset/RecordsetPrivate.h"
+#include "ado/values/NumericTypes.h"
 
 namespace ADODB {
 
@@ -25,6 +26,20 @@ QString RowReader::beginning(const Recordset &recordset, qint64 record, int colu
     if (!shared || !shared->snapshot.contains(record, column))
         return {};
     return shared->snapshot.beginning(record, column, length);
+}
+
+int RowReader::lostDecimals(const Recordset &recordset, qint64 record, int column)
+{
+    const auto &shared = recordset.d->shared;
+    if (!shared || !shared->snapshot.contains(record, column))
+        return 0;
+    const FieldInfo &field = shared->snapshot.fields()[static_cast<std::size_t>(column)];
+    const int scale = decimalsOf(field.type, field.numericScale);
+    if (scale == 0)
+        return 0;
+    std::vector<RawValue> cell(1);
+    shared->snapshot.read(record, column, cell);
+    return cell.front().isNumber() ? scale : 0;
 }
 
 } // namespace ADODB

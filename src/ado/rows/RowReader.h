@@ -27,6 +27,10 @@ public:
     // when there is no such cell.
     static QString beginning(const Recordset &recordset, qint64 record, int column, qsizetype length);
 
+    // The decimals that a cell's field has and its value can't have kept, because it is stored as a mere
+    // number; 0 where it is a text, which has them, or the field says nothing of them.
+    static int lostDecimals(const Recordset &recordset, qint64 record, int column);
+
 private:
     const Recordset &m_recordset;
     const int m_first;

@@ -38,6 +38,25 @@ void round(QString &whole, QString &fraction, int decimals)
     fraction = digits.last(decimals);
 }
 
+// What most cells of a grid go through, so it is read once.
+QString padded(const QString &text, int decimals)
+{
+    qsizetype point = -1;
+    for (qsizetype i = text.startsWith(u'-') ? 1 : 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        if (c == u'.' && point < 0)
+            point = i;
+        else if (c < u'0' || c > u'9')
+            return text;
+    }
+    if (text.isEmpty() || !text.back().isDigit())
+        return text;
+    const qsizetype missing = decimals - (point < 0 ? 0 : text.size() - point - 1);
+    if (missing <= 0)
+        return text;
+    return text + (point < 0 ? u"."_s : QString()) + QString(missing, u'0');
+}
+
 QString withThousands(const QString &whole)
 {
     QString grouped;
@@ -95,6 +114,8 @@ QString DisplayFormat::applied(const QString &text) const
         return asTruth(text, box.first(1), box.last(1));
     if (isNone())
         return text;
+    if (!hasThousands && decimals < 0)
+        return padded(text, leastDecimals);
     static const QRegularExpression number(u"\\A(-?)([0-9]+)(?:\\.([0-9]+))?([eE][-+]?[0-9]+)?\\z"_s);
     QRegularExpressionMatch match = number.match(text);
     if (!match.hasMatch())
@@ -110,6 +131,8 @@ QString DisplayFormat::applied(const QString &text) const
     QString fraction = match.captured(3);
     if (decimals >= 0)
         round(whole, fraction, decimals);
+    else
+        fraction = fraction.leftJustified(leastDecimals, u'0');
     const auto isZero = [](QChar digit) { return digit == u'0'; };
     const bool isNothing = std::ranges::all_of(whole, isZero) && std::ranges::all_of(fraction, isZero);
     return (isNothing ? QString() : match.captured(1)) + (hasThousands ? withThousands(whole) : whole) +

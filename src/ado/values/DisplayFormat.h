@@ -16,13 +16,19 @@ struct DisplayFormat
     int decimals = -1; // rounded half away from zero; -1 as many as the text has
     enum class Truth { Word, YesNo, Box };
     Truth truth = Truth::Word; // how a Boolean is shown
+    // Where all decimals are shown: zeros behind a number that has fewer. That is the field's, no part of the
+    // text.
+    int leastDecimals = 0;
 
     // "0", "0.00", "#,##0", "#,##0.000", "#,##" (any decimals with thousands), "是/否", "☑/☐", and "" for
     // none; nothing for any other text.
     static std::optional<DisplayFormat> fromText(const QString &text);
     QString toText() const;
 
-    bool isNone() const { return !hasThousands && decimals < 0 && truth == Truth::Word; }
+    bool isNone() const
+    {
+        return !hasThousands && decimals < 0 && truth == Truth::Word && leastDecimals == 0;
+    }
     // A text that the format is not made for stays as it is.
     QString applied(const QString &text) const;
 

@@ -25,4 +25,11 @@ bool isNumericType(DataTypeEnum type)
     }
 }
 
+int decimalsOf(DataTypeEnum type, int scale)
+{
+    constexpr int most = 15; // more are no decimals that anybody chose
+    const bool isDecimal = type == adNumeric || type == adDecimal || type == adVarNumeric;
+    return isDecimal && scale > 0 && scale <= most ? scale : 0;
+}
+
 } // namespace ADODB

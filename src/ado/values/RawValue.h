@@ -14,6 +14,8 @@ struct RawValue
     double real = 0;
     QByteArrayView bytes; // UTF-8 for Text
 
+    bool isNumber() const { return kind == Kind::Integer || kind == Kind::Real; }
+
     static RawValue fromInteger(qint64 value) { return {Kind::Integer, value, 0, {}}; }
     static RawValue fromReal(double value) { return {Kind::Real, 0, value, {}}; }
     static RawValue fromText(QByteArrayView utf8) { return {Kind::Text, 0, 0, utf8}; }

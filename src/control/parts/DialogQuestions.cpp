@@ -140,7 +140,8 @@ std::optional<FindAnswer> DialogQuestions::askWords(const colDataFields &fields)
 
 std::optional<QString> DialogQuestions::askFormat(const FormatRequest &request)
 {
-    FormatDialog dialog(request.column, request.isBoolean, request.format, request.sample, m_parent);
+    FormatDialog dialog(request.column, request.isBoolean, request.format, request.sample, request.decimals,
+                        m_parent);
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return dialog.format();

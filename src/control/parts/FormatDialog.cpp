@@ -28,8 +28,8 @@ Widget *named(Widget *widget, const QString &name)
 } // namespace
 
 FormatDialog::FormatDialog(const QString &column, bool isBoolean, const QString &format,
-                           const QString &sample, QWidget *parent)
-    : QDialog(parent), m_text(sample), m_sample(named(new QLabel, u"lblSample"_s))
+                           const QString &sample, int decimals, QWidget *parent)
+    : QDialog(parent), m_text(sample), m_leastDecimals(decimals), m_sample(named(new QLabel, u"lblSample"_s))
 {
     makeHintsReadable(*this);
     setObjectName(u"FormatDialog"_s);
@@ -78,7 +78,8 @@ void FormatDialog::addNumbers(QVBoxLayout &rows, const ADODB::DisplayFormat &giv
     m_thousands->setChecked(given.hasThousands);
     m_decimals = named(new QSpinBox, u"spnDecimals"_s);
     m_decimals->setRange(-1, ADODB::DisplayFormat::mostDecimals);
-    m_decimals->setSpecialValueText(FormTexts::DecimalsAsTheyAre);
+    m_decimals->setSpecialValueText(m_leastDecimals > 0 ? FormTexts::DecimalsOfField.arg(m_leastDecimals)
+                                                        : FormTexts::DecimalsAsTheyAre);
     m_decimals->setValue(given.decimals);
     connect(m_thousands, &QCheckBox::toggled, this, &FormatDialog::showSample);
     connect(m_decimals, &QSpinBox::valueChanged, this, &FormatDialog::showSample);
@@ -100,8 +101,9 @@ QString FormatDialog::format() const
 void FormatDialog::showSample()
 {
     constexpr qsizetype longest = 60;
-    const auto format = ADODB::DisplayFormat::fromText(this->format());
-    m_sample->setText(FormTexts::FormatSample.arg(format->applied(m_text).left(longest)));
+    auto format = ADODB::DisplayFormat::fromText(this->format()).value_or(ADODB::DisplayFormat());
+    format.leastDecimals = m_leastDecimals;
+    m_sample->setText(FormTexts::FormatSample.arg(format.applied(m_text).left(longest)));
 }
 
 } // namespace KOVAVSFDataGridLib

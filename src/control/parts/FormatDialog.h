@@ -12,14 +12,15 @@ class QVBoxLayout;
 
 namespace KOVAVSFDataGridLib {
 
-// Asks how the texts of a column are shown. Formats are what ADODB::DisplayFormat writes.
+// Asks how the texts of a column are shown. Formats are what ADODB::DisplayFormat writes; `decimals` are
+// those with which the sample is shown at least while no others are chosen.
 class FormatDialog final : public QDialog
 {
     Q_OBJECT
 
 public:
     FormatDialog(const QString &column, bool isBoolean, const QString &format, const QString &sample,
-                 QWidget *parent);
+                 int decimals, QWidget *parent);
 
     QString format() const;
 
@@ -29,6 +30,7 @@ private:
     void showSample();
 
     const QString m_text;
+    const int m_leastDecimals;
     QCheckBox *m_thousands = nullptr;
     QSpinBox *m_decimals = nullptr;
     QRadioButton *m_yesNo = nullptr; // this and the next only for a Boolean

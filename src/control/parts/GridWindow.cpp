@@ -83,15 +83,15 @@ int GridWindow::fittingWidth(int col) const
     return m_grid.FittingColWidth(col);
 }
 
-QString GridWindow::columnFormat(int col) const
+QString GridWindow::columnFormat(const QString &heading) const
 {
-    return m_grid.ColFormat(col).toText();
+    return m_grid.HeadingFormat(heading).toText();
 }
 
-void GridWindow::putColumnFormat(int col, const QString &format)
+void GridWindow::putColumnFormat(const QString &heading, const QString &format)
 {
     if (const auto read = ADODB::DisplayFormat::fromText(format))
-        m_grid.PutColFormat(col, *read);
+        m_grid.PutHeadingFormat(heading, *read);
 }
 
 bool GridWindow::showsNulls() const
@@ -113,6 +113,11 @@ int GridWindow::placeOf(int col) const
 QStringList GridWindow::columnOrder() const
 {
     return m_grid.ColumnOrder();
+}
+
+QStringList GridWindow::orderWith(const QStringList &fields) const
+{
+    return m_grid.OrderWith(fields);
 }
 
 int GridWindow::frozenColumns() const

@@ -34,12 +34,13 @@ public:
     int widthOfColumns() const override;
     int width() const override;
     int fittingWidth(int col) const override;
-    QString columnFormat(int col) const override;
-    void putColumnFormat(int col, const QString &format) override;
+    QString columnFormat(const QString &heading) const override;
+    void putColumnFormat(const QString &heading, const QString &format) override;
     bool showsNulls() const override;
     void putShowsNulls(bool on) override;
     int placeOf(int col) const override;
     QStringList columnOrder() const override;
+    QStringList orderWith(const QStringList &fields) const override;
     int frozenColumns() const override;
     void arrangeColumns(const QStringList &order, int frozen) override;
 

@@ -1,6 +1,7 @@
 #include "control/parts/ResultFinder.h"
 
 #include "ado/Recordset.h"
+#include "ado/values/NumericTypes.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/lines/FindBar.h"
 #include "grid/FlexGrid.h"
@@ -104,9 +105,12 @@ bool ResultFinder::prepare()
     for (const int col : shownColumns(m_grid)) {
         if (col > recordset.Fields().Count() || (m_bar.column() != 0 && col != m_bar.column()))
             continue;
-        const ADODB::DataTypeEnum type = recordset.Fields().Item(col - 1).Type();
-        if (!isBinary(type))
-            columns.push_back({col, col - 1, type, m_grid.ColFormat(col)});
+        const ADODB::Field &field = recordset.Fields().Item(col - 1);
+        if (isBinary(field.Type()))
+            continue;
+        ADODB::DisplayFormat format = m_grid.ColFormat(col);
+        format.leastDecimals = ADODB::decimalsOf(field.Type(), field.NumericScale());
+        columns.push_back({col, col - 1, field.Type(), format});
     }
     const RecordRange range{
         m_session.pages().recordOfRow(1),

@@ -32,6 +32,10 @@ public:
     virtual QString spoken(int row, int col) const;
     // Whether the column holds numbers, which stand to the right.
     virtual bool isNumeric(int col) const = 0;
+    // The decimals that the numbers of a column are shown with at least, and those of one cell; 0 where they
+    // are shown as they are.
+    virtual int decimalsOfColumn(int /*col*/) const { return 0; }
+    virtual int decimals(int /*row*/, int /*col*/) const { return 0; }
     // False when the source can't be written.
     virtual bool setText(int row, int col, const QString &text) = 0;
 };

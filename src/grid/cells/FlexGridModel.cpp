@@ -77,13 +77,12 @@ void FlexGridModel::setFormats(const QHash<QString, ADODB::DisplayFormat> &forma
 void FlexGridModel::findFormats()
 {
     m_formatOfCol.clear();
-    if (m_formats.isEmpty())
-        return;
     std::vector<ADODB::DisplayFormat> found(static_cast<std::size_t>(m_source->cols()));
     bool isAny = false;
     for (int col = m_fixedCols; col < m_source->cols(); ++col) {
         ADODB::DisplayFormat &format = found[static_cast<std::size_t>(col)];
         format = m_formats.value(m_source->text(0, col));
+        format.leastDecimals = m_source->decimalsOfColumn(col);
         isAny = isAny || !format.isNone();
     }
     if (isAny)
@@ -95,7 +94,10 @@ QString FlexGridModel::shownText(int row, int col) const
     const auto place = static_cast<std::size_t>(col);
     if (row == 0 || place >= m_formatOfCol.size() || m_formatOfCol[place].isNone())
         return m_source->beginning(row, col, CellDelegate::longestText + 1);
-    return m_formatOfCol[place].applied(m_source->text(row, col));
+    ADODB::DisplayFormat format = m_formatOfCol[place];
+    if (format.leastDecimals > 0)
+        format.leastDecimals = m_source->decimals(row, col);
+    return format.applied(m_source->text(row, col));
 }
 
 int FlexGridModel::rowCount(const QModelIndex &parent) const

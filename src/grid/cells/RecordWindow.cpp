@@ -55,4 +55,17 @@ bool RecordWindow::isNumeric(int col) const
            ADODB::isNumericType(m_recordset->Fields().Item(col - 1).Type());
 }
 
+int RecordWindow::decimalsOfColumn(int col) const
+{
+    if (col < 1 || col > m_recordset->Fields().Count())
+        return 0;
+    const ADODB::Field &field = m_recordset->Fields().Item(col - 1);
+    return ADODB::decimalsOf(field.Type(), field.NumericScale());
+}
+
+int RecordWindow::decimals(int row, int col) const
+{
+    return row > 0 && col > 0 ? ADODB::RowReader::lostDecimals(*m_recordset, m_first + row - 1, col - 1) : 0;
+}
+
 } // namespace KOVAVSFDataGridLib

@@ -27,6 +27,8 @@ public:
     QString beginning(int row, int col, qsizetype length) const override;
     bool isNull(int row, int col) const override;
     bool isNumeric(int col) const override;
+    int decimalsOfColumn(int col) const override;
+    int decimals(int row, int col) const override;
     bool setText(int, int, const QString &) override { return false; }
 
 private:

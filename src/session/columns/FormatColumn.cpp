@@ -1,4 +1,5 @@
 #include "ado/Recordset.h"
+#include "ado/rows/RowReader.h"
 #include "ado/values/NumericTypes.h"
 #include "session/Questions.h"
 #include "session/ResultWatch.h"
@@ -20,26 +21,29 @@ ADODB::DataTypeEnum typeOf(Session &session, int col)
     return session.result().recordset()->Fields().Item(col - 1).Type();
 }
 
-// The first text that there is, so that the user sees what a choice does.
-QString sampleOf(Session &session, int col)
+// Takes the first text that there is, so that the user sees what a choice does.
+void addSample(FormatRequest &request, const ADODB::Recordset &recordset, int col)
 {
-    const ADODB::Recordset &recordset = *session.result().recordset();
     constexpr qint64 mostLookedAt = 1000;
     for (qint64 record = 1; record <= std::min(recordset.RecordCount(), mostLookedAt); ++record) {
-        if (!recordset.IsNull(record, col - 1))
-            return recordset.CellText(record, col - 1);
+        if (recordset.IsNull(record, col - 1))
+            continue;
+        request.sample = recordset.CellText(record, col - 1);
+        request.decimals = ADODB::RowReader::lostDecimals(recordset, record, col - 1);
+        return;
     }
-    return {};
 }
 
 void chooseFormat(Session &session, int col)
 {
     const ResultWatch watch(session);
-    const std::optional<QString> format = session.questions().askFormat(
-        {session.window().Headings().value(col - 1), typeOf(session, col) == ADODB::adBoolean,
-         session.window().columnFormat(col), sampleOf(session, col)});
+    const QString heading = session.window().Headings().value(col - 1);
+    FormatRequest request{heading, typeOf(session, col) == ADODB::adBoolean,
+                          session.window().columnFormat(heading)};
+    addSample(request, *session.result().recordset(), col);
+    const std::optional<QString> format = session.questions().askFormat(request);
     if (format && watch.isUntouched() && col < session.window().Cols())
-        session.window().putColumnFormat(col, *format);
+        session.window().putColumnFormat(heading, *format);
 }
 
 const ColumnCommand::Registration registration({

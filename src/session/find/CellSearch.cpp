@@ -69,7 +69,11 @@ bool CellSearch::isMatch(const ADODB::RawValue &cell, const Column &column)
 {
     if (cell.kind == RawKind::Null || cell.kind == RawKind::Blob)
         return false;
-    if (column.format.isNone()) {
+    ADODB::DisplayFormat format = column.format;
+    if (!cell.isNumber())
+        format.leastDecimals = 0;
+    const bool isPlain = format == ADODB::DisplayFormat{.leastDecimals = format.leastDecimals};
+    if (isPlain) {
         if (cell.kind == RawKind::Text && !isConverted(column.type))
             return m_matcher.matches(cell.bytes);
         if (cell.kind != RawKind::Text && column.type != ADODB::adBoolean && !m_matcher.canMatchNumber())
@@ -79,8 +83,7 @@ bool CellSearch::isMatch(const ADODB::RawValue &cell, const Column &column)
     ADODB::appendText(m_text, cell, column.type);
     if (m_matcher.matches(m_text))
         return true;
-    return !column.format.isNone() &&
-           m_matcher.matches(column.format.applied(ADODB::textFromUtf8(m_text)).toUtf8());
+    return !format.isNone() && m_matcher.matches(format.applied(ADODB::textFromUtf8(m_text)).toUtf8());
 }
 
 std::vector<int> CellSearch::placesOf(qint64 record)

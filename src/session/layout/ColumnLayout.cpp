@@ -39,16 +39,22 @@ void ColumnLayout::RecordShowSQL(const QString &strSQL, FieldView view, bool sav
 
 void ColumnLayout::SaveColumnWidths(HiddenWidths hidden)
 {
-    colDataFields &fields = m_history.DataFields();
     const QStringList headings = m_grid.Headings();
     for (int col = 1; col < m_grid.Cols(); ++col) {
         int width = m_grid.ColWidth(col);
         if (width == ColumnView::useDefaultWidth || (width == 0 && hidden == HiddenWidths::AsDefault))
             width = ColumnView::defaultColWidth;
-        QString key;
-        if (width >= 1 && fields.GetSelFieldKey(headings.at(col - 1), key))
-            fields.Update(key, [width](clsDataField &field) { field.FieldWidth = width; });
+        if (width >= 1)
+            keepWidth(headings.at(col - 1), width);
     }
+}
+
+void ColumnLayout::keepWidth(const QString &field, int width)
+{
+    colDataFields &fields = m_history.DataFields();
+    QString key;
+    if (fields.GetSelFieldKey(field, key))
+        fields.Update(key, [width](clsDataField &kept) { kept.FieldWidth = width; });
 }
 
 // For each heading, whether it is of a part field: by its place where all fields are shown, because several

@@ -40,6 +40,8 @@ public:
 
     // Keeps the grid's widths in the catalogue.
     void SaveColumnWidths(HiddenWidths hidden = HiddenWidths::Unsaved);
+    // Keeps the width with which a field's column comes back.
+    void keepWidth(const QString &field, int width);
     // Hides what is no part field. While no column belongs to one, all of them are shown.
     void ShowPartFieldColumns(PartWidths widths);
     // Gives every field its kept width, which shows it. A column without a field keeps its own, unless it is

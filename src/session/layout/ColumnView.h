@@ -30,9 +30,10 @@ public:
     // The width at which a column's heading and texts can be read.
     virtual int fittingWidth(int /*col*/) const { return defaultColWidth; }
 
-    // How a column's texts are shown, as ADODB::DisplayFormat writes it.
-    virtual QString columnFormat(int /*col*/) const { return {}; }
-    virtual void putColumnFormat(int /*col*/, const QString & /*format*/) {}
+    // How the texts of a heading's column, which need not be there now, are shown, as ADODB::DisplayFormat
+    // writes it.
+    virtual QString columnFormat(const QString & /*heading*/) const { return {}; }
+    virtual void putColumnFormat(const QString & /*heading*/, const QString & /*format*/) {}
 
     // Whether cells without a value say so.
     virtual bool showsNulls() const { return false; }
@@ -42,6 +43,8 @@ public:
     virtual int placeOf(int col) const { return col - 1; }
     // The headings from the left, and how many of the first columns stay in view.
     virtual QStringList columnOrder() const { return Headings(); }
+    // The same with further fields where their columns would be shown.
+    virtual QStringList orderWith(const QStringList & /*fields*/) const { return Headings(); }
     virtual int frozenColumns() const { return 0; }
     // Puts columns into this order; those that it does not name stay after the one before them.
     virtual void arrangeColumns(const QStringList & /*order*/, int /*frozen*/) {}

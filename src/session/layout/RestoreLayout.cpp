@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 // A layout and the columns that are shown.
 namespace KOVAVSFDataGridLib {
@@ -41,21 +42,57 @@ private:
     const std::set<QString> m_hidden;
 };
 
-int widthOf(Session &session, int col, const QString &heading)
+// The width of a column that can't be seen is in the catalogue.
+int widthOf(Session &session, const QString &field)
 {
-    const int width = session.window().ColWidth(col);
-    const clsDataField *const field = session.history().DataFields().Find(heading);
-    return width == 0 && field && field->FieldWidth > 0 ? field->FieldWidth : width;
+    const clsDataField *const known = session.history().DataFields().Find(field);
+    return known && known->FieldWidth > 0 ? known->FieldWidth : ColumnView::useDefaultWidth;
 }
 
-// Those whose columns can't be seen.
-std::set<QString> hiddenFields(const SessionWindow &window)
+// Those that can be shown, in the order of the statement; some may have no column now.
+QStringList knownFields(Session &session)
+{
+    QStringList names = session.columns().fieldsShownBy(FieldView::All);
+    const QStringList headings = session.window().Headings();
+    for (const QString &heading : headings) {
+        if (!names.contains(heading))
+            names.append(heading);
+    }
+    return names;
+}
+
+// Those whose columns can't be seen in the grid, which may give its place to a single record.
+std::set<QString> hiddenFields(Session &session)
+{
+    const SessionWindow &window = session.window();
+    const QStringList names = knownFields(session);
+    const QStringList headings = window.Headings();
+    std::set<QString> hidden(names.cbegin(), names.cend());
+    for (int col = 1; col < window.Cols(); ++col) {
+        if (window.ColWidth(col) != 0)
+            hidden.erase(headings.at(col - 1));
+    }
+    return hidden;
+}
+
+// The columns of each heading, several of which can be equal, from the right.
+QHash<QString, QList<int>> columnsByHeading(const SessionWindow &window)
 {
     const QStringList headings = window.Headings();
-    std::set<QString> hidden(headings.cbegin(), headings.cend());
-    for (const int col : window.shownColumns())
-        hidden.erase(headings.at(col - 1));
-    return hidden;
+    QList<int> fromTheRight(headings.size());
+    for (int col = 1; col <= headings.size(); ++col)
+        fromTheRight[headings.size() - 1 - window.placeOf(col)] = col;
+    QHash<QString, QList<int>> columns;
+    for (const int col : std::as_const(fromTheRight))
+        columns[headings.at(col - 1)].append(col);
+    return columns;
+}
+
+// The leftmost that is left; 0 when none is.
+int takeColumn(QHash<QString, QList<int>> &columns, const QString &heading)
+{
+    const auto found = columns.find(heading);
+    return found == columns.end() || found->isEmpty() ? 0 : found->takeLast();
 }
 
 // Answers why not; empty when it was done.
@@ -71,23 +108,22 @@ QString showAllBut(Session &session, const std::set<QString> &hidden)
         AllButHidden chooser(hidden);
         session.perform([&] { showChosenFields(session, &chooser); });
     }
-    return hidden == hiddenFields(session.window()) ? QString() : LayoutTexts::NotRead;
+    return hidden == hiddenFields(session) ? QString() : LayoutTexts::NotRead;
 }
 
-void applyWidths(Session &session, const SavedLayout &layout)
+void applyColumns(Session &session, const SavedLayout &layout)
 {
     SessionWindow &window = session.window();
-    const QStringList headings = window.Headings();
-    QHash<QString, const SavedLayout::Column *> byField;
-    for (const SavedLayout::Column &column : layout.columns)
-        byField.insert(column.field, &column);
-    for (int col = 1; col < window.Cols(); ++col) {
-        const SavedLayout::Column *const column = byField.value(headings.at(col - 1));
-        if (!column)
-            continue;
-        if (window.ColWidth(col) != 0)
-            window.PutColWidth(col, column->width > 0 ? column->width : ColumnView::useDefaultWidth);
-        window.putColumnFormat(col, column->format);
+    const std::set<QString> hidden = hiddenFields(session);
+    QHash<QString, QList<int>> columns = columnsByHeading(window);
+    for (const SavedLayout::Column &column : layout.columns) {
+        const int width = column.width > 0 ? column.width : ColumnView::useDefaultWidth;
+        const int col = takeColumn(columns, column.field);
+        if (hidden.contains(column.field))
+            session.columns().keepWidth(column.field, width);
+        else if (col > 0)
+            window.PutColWidth(col, width);
+        window.putColumnFormat(column.field, column.format);
     }
     session.columns().SaveColumnWidths();
 }
@@ -98,20 +134,17 @@ SavedLayout layoutOf(Session &session)
 {
     SavedLayout layout;
     const SessionWindow &window = session.window();
-    const QStringList headings = window.Headings();
-    const std::set<QString> hidden = hiddenFields(window);
-    layout.columns.resize(static_cast<std::size_t>(headings.size()));
-    for (int col = 1; col < window.Cols(); ++col) {
-        const QString &heading = headings.at(col - 1);
-        layout.columns[static_cast<std::size_t>(window.placeOf(col))] = {
-            heading, widthOf(session, col, heading), hidden.contains(heading), window.columnFormat(col)};
+    const std::set<QString> hidden = hiddenFields(session);
+    QHash<QString, QList<int>> columns = columnsByHeading(window);
+    const int frozen = window.frozenColumns();
+    for (const QString &field : window.orderWith(knownFields(session))) {
+        const int col = takeColumn(columns, field);
+        const bool isHidden = hidden.contains(field);
+        layout.columns.push_back({field, isHidden ? widthOf(session, field) : window.ColWidth(col), isHidden,
+                                  window.columnFormat(field)});
+        if (col > 0 && window.placeOf(col) < frozen)
+            layout.frozen = static_cast<int>(layout.columns.size());
     }
-    // What the statement leaves out is hidden as well.
-    for (const clsDataField &field : session.history().DataFields()) {
-        if (!headings.contains(field.FieldName))
-            layout.columns.push_back({field.FieldName, std::max(field.FieldWidth, -1), true});
-    }
-    layout.frozen = window.frozenColumns();
     layout.showsNulls = window.showsNulls();
     return layout;
 }
@@ -120,22 +153,30 @@ QString restoreLayout(Session &session, const SavedLayout &layout)
 {
     if (!session.result().isOpen())
         return LayoutTexts::NothingShown;
-    const QStringList headings = session.window().Headings();
-    std::set<QString> hidden;
+    const QStringList fields = knownFields(session);
+    const std::set<QString> known(fields.cbegin(), fields.cend());
+    const std::set<QString> hiddenBefore = hiddenFields(session);
+    std::set<QString> hidden = hiddenBefore;
     QStringList order;
     for (const SavedLayout::Column &column : layout.columns) {
         order.append(column.field);
-        if (column.isHidden && headings.contains(column.field))
+        if (!column.isHidden)
+            hidden.erase(column.field);
+        else if (known.contains(column.field))
             hidden.insert(column.field);
     }
-    if (!headings.isEmpty() && hidden.size() == std::set<QString>(headings.cbegin(), headings.cend()).size())
+    if (!known.empty() && hidden.size() == known.size())
         return LayoutTexts::AllHidden;
-    if (hidden != hiddenFields(session.window())) {
+    if (hidden != hiddenBefore) {
         if (QString reason = showAllBut(session, hidden); !reason.isEmpty())
             return reason;
     }
-    session.window().arrangeColumns(order, layout.frozen);
-    applyWidths(session, layout);
+    const QStringList headings = session.window().Headings();
+    const auto isThere = [&](const SavedLayout::Column &column) { return headings.contains(column.field); };
+    const auto frozen =
+        std::count_if(layout.columns.begin(), layout.columns.begin() + layout.frozen, isThere);
+    session.window().arrangeColumns(order, static_cast<int>(frozen));
+    applyColumns(session, layout);
     session.window().putShowsNulls(layout.showsNulls);
     return {};
 }

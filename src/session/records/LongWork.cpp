@@ -12,12 +12,6 @@
 
 namespace KOVAVSFDataGridLib {
 
-namespace {
-
-constexpr int twipsOfPixel = 15; // at 96 DPI
-
-} // namespace
-
 ExportColumns exportColumnsOf(Session &session, const std::vector<int> &columns)
 {
     const ADODB::Fields &fields = session.result().recordset()->Fields();

@@ -9,6 +9,8 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
+constexpr int twipsOfPixel = 15; // at 96 DPI, in which exports have their widths
+
 // Writing many records of what a session shows. It asks nothing and tells nothing; the host may do anything
 // while the progress line is up.
 

@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 #include "ado/Recordset.h"
+#include "ado/values/NumericTypes.h"
 #include "query/derivation/SqlText.h"
 #include "session/Session.h"
 #include "session/SessionMessages.h"
@@ -23,9 +24,16 @@ PrintRequest printRequestOf(Session &session)
     request.all = {1, session.result().recordset()->RecordCount()};
     request.marked = markedRecords(session);
     request.columns = exportColumnsOf(session, shown);
+    for (ExportColumn &column : request.columns)
+        column.fittingWidth = session.window().fittingWidth(column.field + 1) / twipsOfPixel;
+    const QStringList headings = session.window().Headings();
     for (const int col : shown)
-        request.formats.push_back(ADODB::DisplayFormat::fromText(session.window().columnFormat(col))
-                                      .value_or(ADODB::DisplayFormat()));
+        request.formats.push_back(
+            ADODB::DisplayFormat::fromText(session.window().columnFormat(headings.at(col - 1)))
+                .value_or(ADODB::DisplayFormat()));
+    for (std::size_t i = 0; i < request.columns.size(); ++i)
+        request.formats[i].leastDecimals =
+            ADODB::decimalsOf(request.columns[i].type, request.columns[i].scale);
     return request;
 }
 

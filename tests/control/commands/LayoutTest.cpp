@@ -13,6 +13,8 @@
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSpinBox>
 
+#include <random>
+
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
 
@@ -50,8 +52,28 @@ protected:
         QTest::keyClick(table, Qt::Key_Down, Qt::ControlModifier | Qt::AltModifier);
         auto *menu = grid.findChild<QMenu *>(u"ColumnMenu"_s);
         auto *entry = grid.findChild<QAction *>(u"ColumnMenu"_s + key);
-        ASSERT_TRUE(menu && menu->isVisible() && entry && entry->isEnabled());
+        ASSERT_TRUE(menu && menu->isVisible()) << col << ' ' << statement().toStdString();
+        ASSERT_TRUE(entry && entry->isEnabled()) << key.toStdString();
         QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entry).center());
+    }
+    // All fields again, by the keyboard.
+    void showAll()
+    {
+        grid.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&grid));
+        table->setFocus();
+        QTest::keyClick(table, Qt::Key_1, Qt::ControlModifier);
+    }
+    // A column that can be seen, from the left.
+    int shownCol(std::size_t number) const
+    {
+        std::vector<int> shown;
+        for (int visual = 0; visual < table->horizontalHeader()->count(); ++visual) {
+            const int section = table->horizontalHeader()->logicalIndex(visual);
+            if (!table->isColumnHidden(section))
+                shown.push_back(section + 1);
+        }
+        return shown[number % shown.size()];
     }
     QString saved() const
     {
@@ -105,6 +127,110 @@ TEST_F(Layout, IsSavedAndRestoredAsText)
     EXPECT_EQ(shownOrder(grid), order);
     EXPECT_EQ(table->columnWidth(1), width);
     EXPECT_EQ(saved(), changed);
+}
+
+// A hidden column comes back where it was and as wide as it was: in this control, by the text, and in the
+// next start of the program.
+TEST_F(Layout, AHiddenColumnKeepsItsPlaceWidthAndFormat)
+{
+    QSettings(u"KOVAVSFDataGrid"_s, u"KOVAVSFDataGrid"_s).remove(u"Layouts"_s);
+    grid.setProperty("LayoutKey", u"hidden"_s);
+    ASSERT_TRUE(load());
+    table->horizontalHeader()->moveSection(2, 0);
+    widen(3, 77);
+    {
+        WindowAnswers dialogs({[](QDialog &dialog) {
+            part<QSpinBox>(dialog, "spnDecimals").setValue(3);
+            press(dialog, "cmdOK");
+        }});
+        chooseInColumnMenu(3, u"FormatColumn"_s);
+    }
+    chooseInColumnMenu(1, u"FreezeColumns"_s);
+    const int width = table->columnWidth(2);
+    const QStringList order = shownOrder(grid);
+    chooseInColumnMenu(3, u"HideColumn"_s);
+    const QString hidden = saved();
+    // The statement is read again without the column.
+    showAll();
+    EXPECT_EQ(shownOrder(grid), order);
+    QTest::keyClick(table, Qt::Key_Left, Qt::AltModifier);
+    ASSERT_EQ(columns().size(), AllColumns.size() - 1);
+    EXPECT_EQ(saved(), hidden);
+    table->horizontalHeader()->moveSection(table->horizontalHeader()->count() - 1, 1);
+    EXPECT_TRUE(grid.RestoreLayout(hidden));
+    EXPECT_EQ(saved(), hidden);
+    grid.ClearObject();
+    {
+        NextStart next(database.connectionString(), u"hidden"_s);
+        ASSERT_TRUE(next.isLoaded);
+        EXPECT_EQ(next.control.SaveLayout(), hidden);
+        next.control.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&next.control));
+        QTest::keyClick(next.table, Qt::Key_1, Qt::ControlModifier);
+        EXPECT_EQ(shownOrder(next.control), order);
+        EXPECT_EQ(next.table->columnWidth(2), width);
+        EXPECT_TRUE(next.control.SaveLayout().contains(u"0.000"_s));
+    }
+    NextStart other(database.connectionString(), QString());
+    EXPECT_TRUE(other.control.RestoreLayout(hidden));
+    EXPECT_EQ(other.control.SaveLayout(), hidden);
+}
+
+// Whatever has been done, a layout is the same after it was restored: by another control, and by this one
+// from any other state.
+TEST_F(Layout, RestoringWhatWasSavedGivesTheSameText)
+{
+    ASSERT_TRUE(load());
+    std::mt19937 random(20261123);
+    const auto any = [&random](std::size_t below) { return random() % below; };
+    std::vector<QString> layouts{saved()};
+    for (int step = 0; step < 60; ++step) {
+        SCOPED_TRACE(step);
+        QHeaderView &header = *table->horizontalHeader();
+        const int col = shownCol(any(20));
+        switch (any(8)) {
+        case 0:
+            widen(col, static_cast<int>(any(60)) - 20);
+            break;
+        case 1:
+            header.moveSection(header.visualIndex(col - 1), static_cast<int>(any(5)));
+            break;
+        case 2:
+            if (shownOrder(grid).size() > 2)
+                chooseInColumnMenu(col, u"HideColumn"_s);
+            break;
+        case 3:
+            chooseInColumnMenu(col, u"FreezeColumns"_s);
+            break;
+        case 4:
+            showAll();
+            break;
+        case 5:
+            grid.activateWindow();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(&grid));
+            QTest::keyClick(table, any(2) ? Qt::Key_Left : Qt::Key_Right, Qt::AltModifier);
+            break;
+        case 6:
+            if (table->model()->headerData(col - 1, Qt::Horizontal) != u"图片"_s) // which has no order
+                chooseInColumnMenu(col, u"SortDescending"_s);
+            break;
+        case 7: {
+            const QString &earlier = layouts[any(layouts.size())];
+            EXPECT_TRUE(grid.RestoreLayout(earlier));
+            EXPECT_EQ(saved(), earlier);
+            break;
+        }
+        }
+        layouts.push_back(saved());
+    }
+    for (std::size_t i = 0; i < layouts.size(); i += 4) {
+        NextStart next(database.connectionString(), QString());
+        ASSERT_TRUE(next.isLoaded);
+        EXPECT_TRUE(next.control.RestoreLayout(layouts[i]));
+        EXPECT_EQ(next.control.SaveLayout(), layouts[i]);
+        ASSERT_TRUE(next.control.RestoreLayout(layouts[0]));
+        EXPECT_EQ(next.control.SaveLayout(), layouts[0]);
+    }
 }
 
 TEST_F(Layout, ATextThatIsNoneIsRefusedAndChangesNothing)

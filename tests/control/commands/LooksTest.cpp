@@ -107,6 +107,67 @@ TEST_F(Looks, NoToolTipIsHigherThanAThirdOfTheScreen)
     EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
 }
 
+TEST_F(Looks, TheToolTipOfALongTextWithoutBlanksIsNotHigherEither)
+{
+    for (const QString &text : {u"'长'"_s, u"'W'"_s, u"'a b '"_s, u"'行' || char(10)"_s}) {
+        SCOPED_TRACE(text.toStdString());
+        ASSERT_TRUE(load(u"SELECT replace(printf('%3000s', ''), ' ', "_s + text + u") AS A FROM 商品"_s, {}));
+        const QPoint place = table->visualRect(table->model()->index(0, 0)).center();
+        QHelpEvent asking(QEvent::ToolTip, place, table->viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(table->viewport(), &asking);
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        const auto tip = std::ranges::find_if(windows, [](const QWidget *window) {
+            return window->inherits("QTipLabel") && window->isVisible();
+        });
+        ASSERT_NE(tip, windows.cend());
+        const int third = grid.screen()->availableSize().height() / 3;
+        EXPECT_LE((*tip)->height(), third);
+        EXPECT_GT((*tip)->height(), third / 2) << "as much as there is room for";
+        QToolTip::hideText();
+        EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+    }
+}
+
+// SQLite keeps no zeros of a decimal. What hosts read stays the text of the value.
+TEST_F(Looks, NumbersAreShownWithTheDecimalsOfTheirField)
+{
+    database.run(u"CREATE TABLE 价 (甲 DECIMAL(12,2), 乙 DOUBLE, 丙 DECIMAL(12,2));"
+                 "INSERT INTO 价 VALUES (0.2, 0.2, '面议'), (10, 10, 1.125), (NULL, NULL, 3)"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 价"_s, {}));
+    EXPECT_EQ(texts(u"甲"_s), (QStringList{u"0.2"_s, u"10"_s, QString()}));
+    EXPECT_EQ(grid.CellTextL(1, 1), u"0.2"_s);
+    const auto cell = [this](int row, int col) {
+        table->clearSelection();
+        return table->viewport()->grab(table->visualRect(table->model()->index(row, col))).toImage();
+    };
+    const auto widthOfText = [](const QImage &image) {
+        int left = image.width();
+        for (int x = image.width() - 3; x >= 2; --x) {
+            for (int y = 3; y < image.height() - 3; ++y) {
+                if (qGray(image.pixel(x, y)) < 128)
+                    left = x;
+            }
+        }
+        return image.width() - left;
+    };
+    clickCell(3, 1); // the others are neither current nor selected
+    grid.findChild<QAbstractButton *>(u"CheckSelAllRow"_s)->setChecked(false);
+    EXPECT_GT(widthOfText(cell(0, 0)), widthOfText(cell(0, 1))) << "0.20 beside 0.2";
+    EXPECT_GT(widthOfText(cell(1, 0)), widthOfText(cell(1, 1))) << "10.00 beside 10";
+    EXPECT_GT(widthOfText(cell(1, 2)), widthOfText(cell(2, 2))) << "no digit of 1.125 is hidden";
+    EXPECT_FALSE(grid.SaveLayout().contains(u"format"_s));
+    // What is found is what is seen, or what is stored.
+    QTest::keyClick(table, Qt::Key_G, Qt::ControlModifier);
+    auto *words = grid.findChild<QLineEdit *>(u"txtFindShown"_s);
+    auto *found = grid.findChild<QLabel *>(u"lblFound"_s);
+    for (const auto &[word, count] :
+         {std::pair{u"0.20"_s, u"1"_s}, std::pair{u"10.00"_s, u"1"_s}, std::pair{u"3.00"_s, u"1"_s}}) {
+        words->setText(word);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return found->text().contains(count); }))
+            << qPrintable(word + u": "_s + found->text());
+    }
+}
+
 TEST_F(Looks, RowHeadingsHaveRoomForThreeDigits)
 {
     ASSERT_TRUE(load(u"SELECT 1 AS A"_s, {}));

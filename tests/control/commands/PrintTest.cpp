@@ -12,6 +12,7 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QProgressBar>
 
 using namespace KovaTest;
@@ -112,6 +113,19 @@ TEST_F(PrintTest, WideResultsLieOnTheirSideAndAllColumnsFit)
     EXPECT_TRUE(outputOf(u"pdfinfo"_s, {path(u"b.pdf"_s)}).contains(u"842 x 595"_s));
     ASSERT_TRUE(printData(u"b.pdf"_s, u"Orientation=Portrait"_s));
     EXPECT_TRUE(outputOf(u"pdfinfo"_s, {path(u"b.pdf"_s)}).contains(u"595 x 842"_s));
+}
+
+// In a narrow column of the grid a text is cut; on the page there is room for it.
+TEST_F(PrintTest, ColumnsAreAsWideAsTheirTextsWhereThePageHasRoom)
+{
+    KOVA_NEEDS_READER;
+    ASSERT_TRUE(load(u"SELECT ID, 'Porcelain bowls, six' AS 名称, 1234567.125 AS 金额 FROM 商品"_s, {}));
+    for (int section = 0; section < 3; ++section)
+        table->horizontalHeader()->resizeSection(section, 40);
+    ASSERT_TRUE(printData(u"a.pdf"_s));
+    const QString page = pagesOf(u"a.pdf"_s).value(0);
+    EXPECT_TRUE(page.contains(u"Porcelain bowls, six"_s)) << qPrintable(page.left(200));
+    EXPECT_TRUE(page.contains(u"1234567.125"_s)) << qPrintable(page.left(200));
 }
 
 TEST_F(PrintTest, HiddenColumnsAreLeftOutAndOnlyMarkedRecordsPrintedOnRequest)

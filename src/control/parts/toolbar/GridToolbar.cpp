@@ -126,8 +126,8 @@ void GridToolbar::showCaptions()
     }
 }
 
-// The arrow stands at the caption that it belongs to: a tool button keeps two blanks and a margin free behind its
-// text, which would move the arrow to the next button.
+// The arrow stands at the caption that it belongs to: a tool button keeps two blanks and a margin free behind
+// its text, which would move the arrow to the next button.
 void GridToolbar::narrowMenuButton()
 {
     constexpr int margin = 4;
