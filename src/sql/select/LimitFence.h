@@ -5,20 +5,20 @@
 
 #include <QtCore/QString>
 
-// Some engines let what stands around a SELECT in brackets choose among more records than it gives: SQLite
-// sorts before it takes the first ones of a SELECT without a sort, and MariaDB looks for a condition in each
-// SELECT that is united before it takes the first records of all of them. A limit that takes all of them
-// keeps an engine from it.
+// Some engines apply an outer clause inside a limited subquery and so select from more records than it
+// returns: SQLite sorts before it takes the first records of an unsorted SELECT, and MariaDB applies a
+// condition to each SELECT of a union before it takes the first records of the union. Another limit, one that
+// includes all records, prevents that.
 namespace KOVAVSFDataGridLib {
 
-// Whether that can happen to a SELECT among these tokens, in brackets or not, which has no such limit around
-// it.
+// Whether that can happen to a SELECT among these tokens,
+// nested or not, that has no such limit around it.
 bool needsFence(const SqlScanner &statement, TextRange tokens, Engine engine);
 
-// Whether the first of these tokens opens brackets around a SELECT that has such a limit.
+// Whether these tokens begin with a subquery that has such a limit.
 bool isFenced(const SqlScanner &statement, TextRange source, Engine engine);
 
-// The SELECT, with line breaks around it, as one of the same records that has this limit.
+// The SELECT, with line breaks around it, inside another one that has such a limit.
 QString fenced(const QString &select, Engine engine);
 
 } // namespace KOVAVSFDataGridLib

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <initializer_list>
 
-// What several readers of statements ask of their tokens.
+// Token checks that several parsers of statements use.
 namespace KOVAVSFDataGridLib {
 
 inline bool isOneOf(const SqlScanner &statement, qsizetype index, std::initializer_list<QStringView> words)
@@ -14,7 +14,7 @@ inline bool isOneOf(const SqlScanner &statement, qsizetype index, std::initializ
                        [&](QStringView word) { return statement.isWord(index, word); });
 }
 
-// After the bracket that matches the one at `open`; at most the statement's end.
+// The index after the bracket that matches the one at `open`; at most the statement's end.
 inline qsizetype afterBrackets(const SqlScanner &statement, qsizetype open)
 {
     qsizetype close = open + 1;
@@ -23,19 +23,19 @@ inline qsizetype afterBrackets(const SqlScanner &statement, qsizetype open)
     return std::min(close + 1, statement.count());
 }
 
-// Whether a SELECT in brackets begins here.
+// Whether a subquery in brackets begins here.
 inline bool isSubselect(const SqlScanner &statement, qsizetype open)
 {
     return statement.isSymbol(open, u'(') && isOneOf(statement, open + 1, {u"SELECT", u"WITH", u"VALUES"});
 }
 
-// A word that says that equal rows count as one.
+// Whether the word removes duplicate rows.
 inline bool isDistinctWord(const SqlScanner &statement, qsizetype index)
 {
     return isOneOf(statement, index, {u"DISTINCT", u"DISTINCTROW", u"UNIQUE"});
 }
 
-// A word between SELECT and the list that changes no row.
+// Whether it is a word between SELECT and the list that doesn't change the rows.
 inline bool isIdleListWord(const SqlScanner &statement, qsizetype index)
 {
     return statement.isWord(index, u"ALL") ||
@@ -45,8 +45,8 @@ inline bool isIdleListWord(const SqlScanner &statement, qsizetype index)
                      u"SQL_BUFFER_RESULT", u"SQL_CALC_FOUND_ROWS", u"SQL_NO_CACHE"}));
 }
 
-// Behind the beginning of a comment that MySQL runs, on some versions only if it holds a number; else
-// `index`.
+// The index after the start of a version comment of MySQL, including its version number if it has one;
+// otherwise `index`.
 inline qsizetype afterVersionMark(const SqlScanner &statement, qsizetype index)
 {
     if (statement.dialect() != SqlDialect::MySql || !statement.isSymbol(index, u'/') ||
@@ -59,8 +59,8 @@ inline qsizetype afterVersionMark(const SqlScanner &statement, qsizetype index)
     return next < statement.count() && statement.at(next).kind == SqlToken::Kind::Number ? next + 1 : next;
 }
 
-// Behind what changes no row between SELECT and the list: a word, or a comment that MySQL runs and in which
-// it finds only such words; else `index`.
+// The index after something between SELECT and the list that doesn't change the rows: a word, or a version
+// comment of MySQL that contains only such words; otherwise `index`.
 inline qsizetype afterIdleListWord(const SqlScanner &statement, qsizetype index)
 {
     if (isIdleListWord(statement, index))
@@ -73,7 +73,7 @@ inline qsizetype afterIdleListWord(const SqlScanner &statement, qsizetype index)
     return statement.isSymbol(next, u'*') && statement.isSymbol(next + 1, u'/') ? next + 2 : index;
 }
 
-// A number, a text or a name.
+// Whether it is a number, a string or a name.
 inline bool isOperand(const SqlScanner &statement, qsizetype index)
 {
     return index >= 0 && index < statement.count() && statement.at(index).kind != SqlToken::Kind::Symbol &&
@@ -82,8 +82,8 @@ inline bool isOperand(const SqlScanner &statement, qsizetype index)
                      u"ELSE", u"END", u"FROM", u"ESCAPE", u"WHERE", u"BY"});
 }
 
-// Whether an operator stands here that binds looser than AND: OR, the || of MySQL, and XOR, EQV and IMP where
-// an engine has them. To any other engine a word between two values is an error.
+// Whether there is an operator with lower precedence than AND: OR, MySQL's ||, and XOR, EQV and IMP if an
+// engine has them. For any other engine, a word between two values is an error.
 inline bool bindsLooserThanAnd(const SqlScanner &statement, qsizetype index)
 {
     if (statement.isWord(index, u"OR"))
