@@ -29,13 +29,13 @@ QMessageBox *newBox(QWidget *parent, const Message &message)
     box->setText(message.text);
     box->setInformativeText(message.cause);
     if (auto *cause = box->findChild<QLabel *>(u"qt_msgbox_informativelabel"_s))
-        cause->setTextFormat(Qt::PlainText); // the box sets it for the text alone
+        cause->setTextFormat(Qt::PlainText); // QMessageBox sets the format only for the main text
     box->setIcon(message.icon);
     box->setWindowTitle(message.title.isEmpty() ? QApplication::applicationDisplayName() : message.title);
     return box;
 }
 
-// In the language of the texts, whatever translator the host has installed.
+// Sets the button texts in the language of the library, whatever translator the host has installed.
 void nameButtons(QMessageBox &box)
 {
     const std::pair<QMessageBox::StandardButton, Text> captions[] = {
@@ -51,7 +51,7 @@ void nameButtons(QMessageBox &box)
 int show(QWidget *parent, const Message &message, QMessageBox::StandardButtons buttons,
          QMessageBox::StandardButton onEscape)
 {
-    // On the heap, because the parent owns it as well: either may go first.
+    // On the heap, because the parent owns it too: either may be destroyed first.
     const QPointer<QMessageBox> box = newBox(parent, message);
     box->setStandardButtons(buttons);
     nameButtons(*box);
