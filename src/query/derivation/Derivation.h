@@ -183,9 +183,9 @@ private:
     QStringList m_written;
     QStringList m_listed;
     std::vector<int> m_itemOfField; // the list entry that the field comes from
-    QStringList m_tableOfField; // distinguishes a star's field from others of its name; can be empty
-    bool m_isPlaced = true;     // whether the entry of each field is known
-    bool m_isListKnown = true;  // whether the list can have these fields
+    QStringList m_tableOfField;     // distinguishes a star's field from others of its name; can be empty
+    bool m_isPlaced = true;         // whether the entry of each field is known
+    bool m_isListKnown = true;      // whether the list can have these fields
 };
 
 } // namespace KOVAVSFDataGridLib
