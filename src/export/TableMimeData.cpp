@@ -9,13 +9,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The office formats keep what they call a text as it is; each of the two has its own word for it.
+// Marks cells as text, which office programs then don't convert. Two programs need different attributes.
 constexpr char head[] =
     "<html><head><meta charset=\"utf-8\"><style>.t{mso-number-format:\"\\@\"}</style></head>"
     "<body><table>";
 constexpr char textCell[] = "<td class=\"t\" sdnum=\"1033;0;@\">";
 
-// One value of a text separated by tabs, which may be quoted, from `at` on. Moves `at` to what ends it.
+// The value at `at` in a tab-separated text, which may be quoted. Moves `at` to the separator after it.
 QByteArray nextValue(QByteArrayView text, qsizetype &at)
 {
     QByteArray value;

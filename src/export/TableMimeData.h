@@ -6,15 +6,15 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A table on the clipboard, as text separated by tabs and as HTML. Only the text is kept; the HTML, which is
-// several times as long, is made of it when a program asks for it.
+// A table for the clipboard, as tab-separated text and as HTML. Only the text is stored; the HTML, several
+// times as long, is generated when a program requests it.
 class TableMimeData final : public QMimeData
 {
     Q_OBJECT
 
 public:
-    // `text` is UTF-8, as TabTextWriter makes it. A column that holds no numbers is pasted as text, so that
-    // a spreadsheet keeps the zeros before a number and computes no formula.
+    // `text` is UTF-8 from TabTextWriter. A column that is not numeric is pasted as text, so that a
+    // spreadsheet keeps leading zeros and evaluates no formulas.
     TableMimeData(QByteArray text, std::vector<bool> isNumeric, bool hasHeadings);
 
     QStringList formats() const override;

@@ -8,18 +8,18 @@ namespace KOVAVSFDataGridLib {
 class CsvRows final : public RowTexts
 {
 public:
-    // `guardsFormulas` as in CsvWriter.
+    // For `guardsFormulas`, see CsvWriter.
     CsvRows(ExportColumns columns, bool guardsFormulas);
 
     void appendHeadings(QByteArray &text) const;
     void append(QByteArray &text, const std::vector<ADODB::RawValue> &cells) override;
 
 private:
-    // The most that a record takes.
+    // The maximum size of a record.
     qsizetype roomFor(const std::vector<ADODB::RawValue> &cells) const;
-    // Makes room behind the text; what isn't used is to be cut off.
+    // Reserves space at the end of the text; the caller must cut off what it doesn't use.
     static char *writableEnd(QByteArray &text, qsizetype room);
-    // Writes a cell and answers its end; null where it has to be written by way of its text.
+    // Writes a cell and returns its end; null if the cell must be converted to text first.
     char *write(char *to, const ADODB::RawValue &cell, ADODB::DataTypeEnum type) const;
     void appendValue(QByteArray &text, QByteArrayView value, bool isText) const;
 
