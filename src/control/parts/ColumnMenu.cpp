@@ -21,7 +21,7 @@ ColumnMenu::ColumnMenu(QWidget &window, const QWidget &toolbar, VSFlexGrid &grid
     : m_toolbar(toolbar), m_grid(grid), m_session(session), m_run(std::move(run)), m_menu(new QMenu(&window))
 {
     m_menu->setObjectName(u"ColumnMenu"_s);
-    m_menu->setToolTipsVisible(true); // why an item can't be used
+    m_menu->setToolTipsVisible(true); // for the reason why an item is disabled
     auto *open = new QAction(&window);
     Language::keepTranslated(*m_menu, [this, open] {
         m_menu->setAccessibleName(GridTexts::ColumnMenuName);
@@ -53,7 +53,7 @@ void ColumnMenu::popUp(int col, const QPoint &place)
     m_menu->clear();
     makeActions(*m_menu, col);
     m_menu->popup(place);
-    // From the keyboard one goes on with the keyboard.
+    // If the menu was opened by key, its first item is selected.
     m_menu->setActiveAction(m_menu->actions().value(0));
 }
 
@@ -61,11 +61,11 @@ void ColumnMenu::addTo(QMenu &menu, int col)
 {
     QList<QAction *> added{menu.addSeparator()};
     added += makeActions(menu, col);
-    // In Chinese "升序(&A)".
+    // In Chinese the access key is written "升序(&A)".
     static const QRegularExpression accessKey(u"\\(&\\w\\)|&"_s);
     for (QAction *action : std::as_const(added)) {
         action->setText(action->text().remove(accessKey));
-        // The action that was chosen is triggered after the menu has closed.
+        // The chosen action is triggered after the menu has closed.
         connect(&menu, &QMenu::aboutToHide, action, &QObject::deleteLater);
     }
 }

@@ -12,7 +12,7 @@ class QVBoxLayout;
 
 namespace KOVAVSFDataGridLib {
 
-// Asks how the texts of a column are shown. Formats are what ADODB::DisplayFormat writes.
+// Asks how to show the texts of a column. Formats are those of ADODB::DisplayFormat.
 class FormatDialog final : public QDialog
 {
     Q_OBJECT

@@ -70,7 +70,7 @@ GridParts::GridParts(QWidget &control)
     MSFlexGrid1->hide();
     txtEdit->hide();
     cmdSaveRecord->setAutoDefault(false);
-    cmdSaveRecord->setFocusPolicy(Qt::TabFocus); // the mouse leaves the keyboard where it is
+    cmdSaveRecord->setFocusPolicy(Qt::TabFocus); // a mouse click does not move the focus
     cmdSaveRecord->hide();
     txtPage->setAlignment(Qt::AlignRight);
     Language::keepTranslated(control, [this] { writeTexts(); });
@@ -145,9 +145,9 @@ int GridParts::gap() const
     return Twips::toPixels(footGap, *picMainBack);
 }
 
-// The page box, its button, the label, the selection's summary and the statement from the left, the check box
-// at the right edge. When it gets narrow, the statement gives way, then the label, then box and button, and
-// the check box last. What saves a record takes its room from the statement and the label.
+// From the left: the page box, its button, the label, the selection's summary and the statement; the check
+// box is at the right edge. If there is not enough room, the statement shrinks first, then the label, box and
+// button, and the check box last. The buttons for saving a record take room from the statement and the label.
 void GridParts::layOutFoot() const
 {
     const QRect strip = foot();
@@ -161,7 +161,7 @@ void GridParts::layOutFoot() const
         x += partWidth + gap;
     };
     std::size_t dividers = 0;
-    // A line in the gap to the left of what comes next.
+    // A line in the gap to the left of the next part.
     const auto divide = [&](int at) {
         m_dividers[dividers]->setGeometry(at - gap / 2 - 1, top + gap, 1, partHeight - gap);
         m_dividers[dividers++]->show();

@@ -34,7 +34,7 @@ public:
     // False if other widgets in the window already use these keys.
     void putHasAccessKeys(bool on);
 
-    // Writes the value, a text as UTF-8. False when it can't be written; what was there stays then.
+    // Writes the value, a text as UTF-8. Returns false if that fails, and leaves an existing file unchanged.
     bool saveTo(const QString &file, QString &failure) const;
 
 Q_SIGNALS:
