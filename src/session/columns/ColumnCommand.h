@@ -7,8 +7,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// One thing that a user can do with a column, from its menu. Like a Command it is a static Registration in a
-// source file. Columns count from 1.
+// A command on a column, from its menu. Like a Command, it is a static Registration in a source file. Columns
+// are numbered from 1.
 struct ColumnCommand
 {
     // Makes its caption.
@@ -19,11 +19,11 @@ struct ColumnCommand
     Text caption;
     Record record = Record::Stays;
     void (*run)(Session &session, int col);
-    // What it derives from the shown statement; where that is refused, it can't run.
+    // The derivation from the shown statement that it needs; it can't run if that is refused.
     std::optional<DerivationStep> step = {};
-    // What else keeps it from running. Null when nothing does.
+    // Other conditions for running it. Null if there are none.
     bool (*canRun)(Session &session, int col) = nullptr;
-    // Whether it is in force already. Null for what never is.
+    // Whether it is already in effect. Null if that does not apply.
     bool (*isOn)(Session &session, int col) = nullptr;
 
     struct Registration
@@ -31,9 +31,9 @@ struct ColumnCommand
         explicit Registration(ColumnCommand command);
     };
 
-    // All of them in their order.
+    // All commands, in their order.
     static const std::vector<const ColumnCommand *> &all();
-    // Null when there is no such command.
+    // Null if there is no such command.
     static const ColumnCommand *find(const QString &key);
 };
 

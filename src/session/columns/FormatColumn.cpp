@@ -6,7 +6,7 @@
 #include "session/SessionWindow.h"
 #include "session/columns/ColumnCommand.h"
 
-// How a column's texts are shown.
+// Chooses the display format of a column.
 
 namespace KOVAVSFDataGridLib {
 
@@ -19,7 +19,7 @@ ADODB::DataTypeEnum typeOf(Session &session, int col)
     return session.result().recordset()->Fields().Item(col - 1).Type();
 }
 
-// The first text that there is, so that the user sees what a choice does.
+// The first text of the column, so that the user sees the effect of a choice.
 QString sampleOf(Session &session, int col)
 {
     const ADODB::Recordset &recordset = *session.result().recordset();

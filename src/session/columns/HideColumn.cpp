@@ -5,7 +5,7 @@
 #include "session/commands/fields/ChosenFields.h"
 #include "session/history/SharedHistory.h"
 
-// Shows the fields that are shown without one of them.
+// Shows all shown fields except one.
 
 namespace KOVAVSFDataGridLib {
 
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Chooses what is shown but for one column.
+// Chooses all shown fields except one column's.
 class AllButOne final : public Questions
 {
 public:

@@ -51,8 +51,8 @@ void ColumnLayout::SaveColumnWidths(HiddenWidths hidden)
     }
 }
 
-// For each heading, whether it is of a part field: by its place where all fields are shown, because several
-// can have its name.
+// For each heading, whether it is a part field: by position if all fields are shown, because several can have
+// the same name.
 QList<bool> ColumnLayout::partColumns(const QStringList &headings) const
 {
     if (headings == fieldsShownBy(FieldView::All))
@@ -114,8 +114,8 @@ bool ColumnLayout::hasColumnsFor(const QStringList &fields) const
 {
     const QStringList shown = m_grid.Headings();
     const QStringList all = fieldsShownBy(FieldView::All);
-    // Fields of one name can't be told apart, even where one of them alone is shown or wanted, so that the
-    // statement is read.
+    // Fields with the same name can't be distinguished, even if only one of them is shown or wanted, so the
+    // statement must be read.
     return std::all_of(fields.cbegin(), fields.cend(), [&](const QString &field) {
         return shown.count(field) == 1 && fields.count(field) == 1 && all.count(field) <= 1;
     });
@@ -130,7 +130,7 @@ std::optional<double> ColumnLayout::shareOfWidth(int gridWidth, qsizetype column
 {
     const int room = gridWidth - scrollBarMargin - rowHeadingMargin;
     if (columns < 1 || room < columns)
-        return std::nullopt; // better too wide than gone
+        return std::nullopt; // too wide is better than invisible
     return static_cast<double>(room) / static_cast<double>(columns);
 }
 

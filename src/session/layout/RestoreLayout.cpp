@@ -15,7 +15,7 @@
 #include <algorithm>
 #include <set>
 
-// A layout and the columns that are shown.
+// Applies a layout to the shown columns.
 namespace KOVAVSFDataGridLib {
 
 namespace {
@@ -48,7 +48,7 @@ int widthOf(Session &session, int col, const QString &heading)
     return width == 0 && field && field->FieldWidth > 0 ? field->FieldWidth : width;
 }
 
-// Those whose columns can't be seen.
+// The fields whose columns are not visible.
 std::set<QString> hiddenFields(const SessionWindow &window)
 {
     const QStringList headings = window.Headings();
@@ -58,7 +58,7 @@ std::set<QString> hiddenFields(const SessionWindow &window)
     return hidden;
 }
 
-// Answers why not; empty when it was done.
+// Returns the reason if it failed; empty on success.
 QString showAllBut(Session &session, const std::set<QString> &hidden)
 {
     if (QString reason = session.sharedHistory().whyNot(DerivationStep::Fields); !reason.isEmpty())
@@ -106,7 +106,7 @@ SavedLayout layoutOf(Session &session)
         layout.columns[static_cast<std::size_t>(window.placeOf(col))] = {
             heading, widthOf(session, col, heading), hidden.contains(heading), window.columnFormat(col)};
     }
-    // What the statement leaves out is hidden as well.
+    // Fields that the statement omits are hidden too.
     for (const clsDataField &field : session.history().DataFields()) {
         if (!headings.contains(field.FieldName))
             layout.columns.push_back({field.FieldName, std::max(field.FieldWidth, -1), true});

@@ -13,8 +13,8 @@
 #include "session/statement/FilterManagerRollback.h"
 #include "session/statement/ShownStatement.h"
 
-// Asks the host for a condition by its event QurryFilter, and the user by the filter dialog unless the host
-// took over.
+// Asks the host for a condition with the event QurryFilter, and then the user with the filter dialog unless
+// the host has handled it.
 
 namespace KOVAVSFDataGridLib {
 
@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The value under the cursor, where it can be typed into one line.
+// The current cell's value, if it can be typed as a single line.
 QString currentValue(Session &session, int row, int col)
 {
     const ADODB::Recordset &recordset = *session.result().recordset();
@@ -34,8 +34,8 @@ QString currentValue(Session &session, int row, int col)
     return text.size() <= longest && !text.contains(u'\n') ? text : QString();
 }
 
-// What the dialog begins with: the field that was asked for, else the condition in force where the new one
-// replaces it, else the current cell.
+// Sets the initial content of the dialog: the requested field; or else the active condition if the new one
+// replaces it; or else the current cell.
 void beginWhereUserIs(Session &session, ConditionRequest &request, const QString &field, bool replaces)
 {
     request.field = field;
@@ -52,7 +52,7 @@ void beginWhereUserIs(Session &session, ConditionRequest &request, const QString
     request.value = currentValue(session, session.window().Row(), col);
 }
 
-// Whether the condition built last holds now and gives way to the next one.
+// Whether the last condition is active and will be replaced by the next one.
 bool isReplaced(Session &session)
 {
     QString shown;
@@ -61,8 +61,8 @@ bool isReplaced(Session &session)
            session.history().GetLatestSQL(shown) && shown.simplified().contains(condition);
 }
 
-// Shows the records that meet a condition. What the database says against it goes to `refusal` where one is
-// given, else to the user.
+// Shows the records that meet a condition. If the database rejects it, its message is stored in `refusal` if
+// that is given, and otherwise shown to the user.
 bool filterBy(Session &session, FilterManagerRollback &rollback, const QString &condition, QString *refusal)
 {
     session.shown().setLastFilter(condition);
@@ -75,7 +75,7 @@ bool filterBy(Session &session, FilterManagerRollback &rollback, const QString &
     return true;
 }
 
-// Asks until the database takes the condition or the user cancels.
+// Asks until the database accepts the condition or the user cancels.
 void askUser(Session &session, FilterManagerRollback &rollback, const QString &field, bool replaces)
 {
     ConditionRequest request = session.shown().conditionRequest();
@@ -92,11 +92,11 @@ void askUser(Session &session, FilterManagerRollback &rollback, const QString &f
     } while (!request.refusal.isEmpty() && rollback.isResultUntouched());
 }
 
-// Asks the host, and the user unless the host takes over. Neither when there is no statement to filter, or
-// when the host puts another result in its place.
+// Asks the host, and then the user unless the host has handled it. Does neither if there is no statement to
+// filter, and stops if the host replaces the result.
 void askHost(Session &session, FilterManagerRollback &rollback, const QString &field)
 {
-    const bool replaces = isReplaced(session); // before the history is stepped back
+    const bool replaces = isReplaced(session); // must be known before the history is stepped back
 
     session.texts.passQurryFilter.clear();
     QString base;
