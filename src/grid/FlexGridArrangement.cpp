@@ -11,12 +11,12 @@
 
 #include <algorithm>
 
-// Where the columns are, what their headings show, and how wide they would be best.
+// The order of columns, the marks of their headings, and their fitting widths.
 namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr int sampledRows = 200; // of all, besides those in view
+constexpr int sampledRows = 200; // in total, besides the visible ones
 constexpr int widestShare = 2;   // of the grid's width: a half
 constexpr int leastFittingTwips = 300;
 
@@ -45,7 +45,7 @@ void FlexGrid::ArrangeColumns(const QStringList &order, int frozen)
     Q_EMIT ColumnsArranged();
 }
 
-// Cells without headings come and go between two results.
+// Between two results there may be cells without headings.
 void FlexGrid::applyArrangement()
 {
     const QStringList headings = Headings();

@@ -14,9 +14,9 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr int leastSize = 4; // pixels, so that an edge can be found again
+constexpr int leastSize = 4; // pixels, so that the edge can still be grabbed
 
-// The same event where the header itself has the heading that was hit.
+// The same event at the position where the header itself has the heading.
 QMouseEvent shifted(const QMouseEvent &event, int shift)
 {
     return {event.type(),          event.position() - QPointF(shift, 0),
@@ -30,7 +30,7 @@ QMouseEvent shifted(const QMouseEvent &event, int shift)
 FlexHeader::FlexHeader(Qt::Orientation orientation, FlexGrid &grid)
     : QHeaderView(orientation, &grid), m_grid(grid)
 {
-    // As a table view sets up the headers of its own.
+    // Set up like the headers of a table view.
     setSectionsClickable(true);
 }
 
@@ -46,7 +46,7 @@ void FlexHeader::mousePressEvent(QMouseEvent *event)
         return;
     }
     m_pressShift = shiftAt(event->position().toPoint());
-    // Its place below the others can't be pointed at.
+    // A section covered by others must not react to the mouse.
     if (m_pressShift != 0)
         setSectionsMovable(false);
     QMouseEvent inner = shifted(*event, m_pressShift);
@@ -97,14 +97,14 @@ void FlexHeader::mouseDoubleClickEvent(QMouseEvent *event)
     m_grid.notifyAfter([&] { QHeaderView::mouseDoubleClickEvent(&inner); });
 }
 
-// Qt's own adds what a highlighted section needs for its bold text, and none is highlighted here.
+// Qt adds room for the bold text of highlighted sections, which are not used here.
 QSize FlexHeader::sectionSizeFromContents(int logicalIndex) const
 {
     QStyleOptionHeader option;
     initStyleOption(&option);
     option.section = logicalIndex;
     option.text = model()->headerData(logicalIndex, orientation()).toString();
-    // The row headings keep their width while the first hundreds of records are walked through.
+    // The row headings keep their width for the first hundreds of records.
     if (orientation() == Qt::Vertical && option.text.size() < 3)
         option.text = QStringLiteral("000");
     const QSize size = style()->sizeFromContents(QStyle::CT_HeaderSection, &option, {}, this);
@@ -117,11 +117,11 @@ int FlexHeader::fittingWidth(int logicalIndex) const
            headingMarkWidth(markOf(logicalIndex), fontMetrics());
 }
 
-// A style draws a text that is too long over both ends of its section.
+// A style paints a text that is too long over both ends of its section.
 void FlexHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int logicalIndex) const
 {
     QHeaderView::initStyleOptionForIndex(option, logicalIndex);
-    // Styles write such a section's text bold.
+    // Styles use a bold font for such a section.
     if (orientation() == Qt::Vertical && m_grid.currentIndex().row() == logicalIndex)
         option->state |= QStyle::State_On;
     const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
@@ -174,7 +174,7 @@ void FlexHeader::paintSection(QPainter *painter, const QRect &rect, int logicalI
     label.rect.setRight(std::min(label.rect.right(), marks.left() - 1));
     style()->drawControl(QStyle::CE_HeaderLabel, &label, painter, this);
     if (showsArrow) {
-        // Over whatever of the text is there.
+        // Covers the end of the text.
         const QRect place(rect.right() + 1 - arrow, rect.top(), arrow, rect.height());
         painter->setClipRect(place);
         style()->drawControl(QStyle::CE_HeaderSection, &option, painter, this);
@@ -217,7 +217,7 @@ int FlexHeader::arrowWidth() const
     return std::max(fontMetrics().height(), 12);
 }
 
-// The edges of a heading are for its width.
+// The edges of a heading are for resizing.
 QRect FlexHeader::arrowRect(int logicalIndex) const
 {
     const QRect heading = headingRect(logicalIndex);
@@ -247,7 +247,7 @@ int FlexHeader::shiftAt(const QPoint &position) const
     return isFrozen ? offset() : 0;
 }
 
-// A header takes no drag that begins left of it, where it has the frozen sections.
+// A header ignores a drag that begins to the left of it, where frozen sections are.
 int FlexHeader::frozenEdgeAt(const QPoint &position) const
 {
     const int shift = shiftAt(position);

@@ -13,11 +13,11 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr qsizetype mostShown = 1000; // characters, as many as can be read in passing
-constexpr qsizetype longestWord = 60; // characters that go on one line; a tip is as wide as its longest word
+constexpr qsizetype mostShown = 1000; // characters, as much as people read in a tool tip
+constexpr qsizetype longestWord = 60; // characters without a break; a tool tip is as wide as its longest word
 constexpr QChar breakHere(0x200B);
 
-// A tip wraps its lines between words. Codes and addresses have none.
+// A tool tip wraps lines between words, but codes and addresses have no spaces.
 QString breakable(const QString &text)
 {
     QString broken;
@@ -33,7 +33,7 @@ QString breakable(const QString &text)
     return broken;
 }
 
-// The height that it takes as a tool tip, which is about this many letters wide.
+// The height of the text in a tool tip, which is about this many characters wide.
 int heightOfTip(const QString &text, const QFontMetrics &metrics)
 {
     constexpr int letters = 70;
@@ -45,7 +45,7 @@ int heightOfTip(const QString &text, const QFontMetrics &metrics)
 
 QString textForTip(const QString &text, const QWidget &widget)
 {
-    constexpr int borders = 20; // pixels, of the tip and of the document in it
+    constexpr int borders = 20; // pixels, for the tool tip and the document in it
     const int highest = widget.screen()->availableSize().height() / 3 - borders;
     const QFontMetrics metrics(QToolTip::font());
     if (text.size() <= mostShown && heightOfTip(text, metrics) <= highest)
