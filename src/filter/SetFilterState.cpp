@@ -6,7 +6,7 @@
 
 #include <QtWidgets/QLineEdit>
 
-// What the builder holds, put in and taken out.
+// Saves and restores the contents of the builder.
 namespace KOVAVSFDataGridLib {
 
 BuiltFilter SetFilter::State() const
@@ -30,7 +30,7 @@ void SetFilter::PutState(const BuiltFilter &state)
         else
             m_rows->focusFirstPart();
     }
-    // What is typed next takes its place.
+    // Selected, so that typing replaces it.
     m_condition->selectAll();
     m_stateBefore = State();
 }

@@ -6,16 +6,16 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What a condition was built from: the rows of the builder, or a text that was typed instead of them.
+// What a condition was built from: the rows of the builder, or a typed text.
 struct BuiltFilter
 {
     FilterState rows = {};
-    QString condition = {}; // then there are no rows
+    QString condition = {}; // if not empty, there are no rows
 
     bool operator==(const BuiltFilter &) const = default;
 };
 
-// As it is kept in files. What can't be read as a filter gives nothing.
+// The form for files. Reading invalid data returns no value.
 QJsonObject toJson(const BuiltFilter &filter);
 std::optional<BuiltFilter> builtFilterOf(const QJsonValue &json);
 
