@@ -8,8 +8,8 @@ namespace KOVAVSFDataGridLib {
 class Session;
 class VSFlexGrid;
 
-// Keeps the layout of the columns for the user, by the host's key and the table: restored when the table is
-// loaded, saved a moment after it was changed and when the result goes. Does nothing while the key is empty.
+// Stores the layout of the columns for the user, by the host's key and the table. It is restored after the
+// table was loaded, and saved soon after a change and before the result closes. Not used if the key is empty.
 class LayoutKeeper : public QObject
 {
     Q_OBJECT
