@@ -6,25 +6,25 @@
 #include <optional>
 #include <vector>
 
-// What a database has to show.
+// Lists the tables of a database.
 namespace Catalogue {
 
 struct Table
 {
     QString caption;
-    QString name; // as a statement writes it
+    QString name; // its form in SQL
     bool isView = false;
 };
 
 // The tables and views of a connection, by name. Throws ADODB::Error.
 std::vector<Table> read(const QString &connection, qint32 dbType);
 
-// How a name is written in a statement for an engine.
+// A name in the engine's SQL syntax.
 QString written(const QString &name, const QString &engine);
 
 QString statementFor(const QString &writtenName);
 
-// The connection string for a file of a database; nothing for any other file.
+// The connection string for a database file; no value for any other file.
 std::optional<QString> connectionForFile(const QString &path);
 
 } // namespace Catalogue
