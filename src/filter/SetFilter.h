@@ -51,7 +51,7 @@ public:
     // changes nothing.
     BuiltFilter State() const;
     void PutState(const BuiltFilter &state);
-    // See FilterRow::suggest. This does not count as a change by the user.
+    // As FilterRow has it. The user has not changed anything then.
     void Suggest(const QString &field, const QString &value);
     // Whether the user has changed anything since the builder was prepared.
     bool IsChanged() const { return State() != m_stateBefore; }
@@ -87,7 +87,7 @@ private:
     void setByHand(bool isByHand);
     void enableParts();
     QString conditionByHand();
-    // Values that were read before are shown without querying the database.
+    // Values that were read once are shown again without asking the database.
     void offerValues(const FilterField &field, ValueEdit &edit, int most);
     void onValuesArrived();
     void stopReading();

@@ -6,7 +6,7 @@
 
 #include <QtWidgets/QLineEdit>
 
-// Saves and restores the contents of the builder.
+// What the builder holds, put in and taken out.
 namespace KOVAVSFDataGridLib {
 
 BuiltFilter SetFilter::State() const
@@ -30,7 +30,7 @@ void SetFilter::PutState(const BuiltFilter &state)
         else
             m_rows->focusFirstPart();
     }
-    // Selected, so that typing replaces it.
+    // What is typed next takes its place.
     m_condition->selectAll();
     m_stateBefore = State();
 }

@@ -39,9 +39,9 @@ struct FilterRequest
     // The initial content: a field (empty for any) and a value of it.
     QString field = {};
     QString value = {};
-    QString built = {};       // or the result of Built() for an earlier condition
-    FilterShelf shelf = {};   // for the user's saved filters of the table
-    bool isSqlWanted = false; // whether to show the condition as SQL
+    QString built = {};       // or what Built() answered for an earlier condition
+    FilterShelf shelf = {};   // of the filters that the user keeps for the table
+    bool isSqlWanted = false; // to see the condition as SQL
 };
 
 // Whether only the request's own connection leads to the data. If not, the connection is not passed on: a

@@ -110,7 +110,7 @@ void FileDialog::nameParts()
             list->setAccessibleName(text);
     }
     nameAccept();
-    // Qt sets its own text when a folder is selected and whenever the text changes.
+    // Qt writes its own word where a folder is chosen, and whenever there is another text.
     connect(findChild<QLineEdit *>(nameEdit), &QLineEdit::textChanged, this, &FileDialog::nameAccept);
     connect(this, &QFileDialog::currentChanged, this, &FileDialog::nameAccept);
     connect(this, &QFileDialog::directoryEntered, this, &FileDialog::nameAccept, Qt::QueuedConnection);

@@ -35,7 +35,7 @@ QMessageBox *newBox(QWidget *parent, const Message &message)
     return box;
 }
 
-// Sets the button texts in the language of the library, whatever translator the host has installed.
+// In the language of the texts, whatever translator the host has installed.
 void nameButtons(QMessageBox &box)
 {
     const std::pair<QMessageBox::StandardButton, Text> captions[] = {
@@ -51,7 +51,7 @@ void nameButtons(QMessageBox &box)
 int show(QWidget *parent, const Message &message, QMessageBox::StandardButtons buttons,
          QMessageBox::StandardButton onEscape)
 {
-    // On the heap, because the parent owns it too: either may be destroyed first.
+    // On the heap, because the parent owns it as well: either may go first.
     const QPointer<QMessageBox> box = newBox(parent, message);
     box->setStandardButtons(buttons);
     nameButtons(*box);

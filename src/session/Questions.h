@@ -39,8 +39,8 @@ struct ConditionRequest
     QString value = {};
     // The table whose saved filters are offered; empty for none.
     QString table = {};
-    // Takes precedence over those: what the active condition was built from, in the callee's format. On
-    // return, what the new condition was built from.
+    // To begin with instead: what the condition in force was built from, as whoever is asked wrote it. Then
+    // what the condition that is answered was built from.
     mutable QString built = {};
 };
 

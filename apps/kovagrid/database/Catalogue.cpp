@@ -22,8 +22,8 @@ bool isMariaDb(const QString &engine)
     return isEngine(engine, "MariaDB"_L1) || isEngine(engine, "MySQL"_L1);
 }
 
-// Three columns: the schema or nothing, the name, and "view" for a view. The first statement is simple enough
-// for Access's SQL, too.
+// Three columns: the schema or nothing, the name, and "view" for a view. The first is plain enough for
+// Access's SQL, too.
 QString statementOfTables(const QString &engine)
 {
     if (isEngine(engine, "SQLite"_L1))
@@ -81,7 +81,7 @@ std::vector<Catalogue::Table> Catalogue::read(const QString &connection, qint32 
         const QString schema = found.CellText(record, 0);
         const QString name = found.CellText(record, 1);
         if (name.startsWith("sqlite_"_L1))
-            continue; // an internal table of the engine
+            continue; // the engine's own
         const QString dot = schema.isEmpty() ? QString() : u"."_s;
         const QString whole =
             (schema.isEmpty() ? QString() : written(schema, engine)) + dot + written(name, engine);

@@ -19,7 +19,7 @@ struct Table
 // The tables and views of a connection, by name. Throws ADODB::Error.
 std::vector<Table> read(const QString &connection, qint32 dbType);
 
-// A name in the engine's SQL syntax.
+// How a name is written in a statement for an engine.
 QString written(const QString &name, const QString &engine);
 
 QString statementFor(const QString &writtenName);

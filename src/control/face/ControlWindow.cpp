@@ -151,7 +151,7 @@ void ControlWindow::offerToSave()
     m_parts.layOutFoot();
 }
 
-// The position of the current record, in words.
+// Which record is current, in words.
 QString ControlWindow::place() const
 {
     const ADODB::Recordset &recordset = *m_session->result().recordset();

@@ -79,9 +79,9 @@ private:
     ListedValues knownValues() const;
     ListedValues valuesOfColumn(const QString &search) const;
     std::optional<QString> commit(Written what);
-    // Replaces the text with Null. Tells the user if the field does not accept Null.
+    // Writes Null in place of what was typed; says so where the field takes none.
     void clear();
-    // The same for a text. Throws ADODB::Error if it doesn't fit.
+    // The same; throws ADODB::Error where the text doesn't fit.
     void writeAndClose(Written what);
     void write(Written what);
 

@@ -269,8 +269,8 @@ bool SingleRecordView::handleEvent(QObject *watched, QEvent *event)
     const auto *source = static_cast<const QWidget *>(watched);
     switch (event->type()) {
     case QEvent::ShortcutOverride:
-        // If the record has changes, the export key saves it. The key that leads to another view elsewhere
-        // clears a picture here.
+        // A record that has changes is saved by the key that exports otherwise, and a picture cleared by the
+        // one that leads to another view.
         if ((isSave(*static_cast<QKeyEvent *>(event)) && m_session.record().hasUnsavedChanges()) ||
             (isClear(*static_cast<QKeyEvent *>(event)) && isPictureCurrent()))
             event->accept();

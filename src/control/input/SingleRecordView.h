@@ -75,7 +75,7 @@ private:
     GridParts &m_parts;
     PictureFields m_pictureFields;
     RecordHeading m_heading;
-    std::vector<ListedField> m_fields; // for the rows below the heading
+    std::vector<ListedField> m_fields; // of the rows below the heading
     CellEditor m_editor;
 };
 

@@ -145,9 +145,9 @@ int GridParts::gap() const
     return Twips::toPixels(footGap, *picMainBack);
 }
 
-// From the left: the page box, its button, the label, the selection's summary and the statement; the check
-// box is at the right edge. If there is not enough room, the statement shrinks first, then the label, box and
-// button, and the check box last. The buttons for saving a record take room from the statement and the label.
+// The page box, its button, the label, the selection's summary and the statement from the left, the check box
+// at the right edge. When it gets narrow, the statement gives way, then the label, then box and button, and
+// the check box last. What saves a record takes its room from the statement and the label.
 void GridParts::layOutFoot() const
 {
     const QRect strip = foot();

@@ -6,11 +6,11 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What a condition was built from: the rows of the builder, or a typed text.
+// What a condition was built from: the rows of the builder, or a text that was typed instead of them.
 struct BuiltFilter
 {
     FilterState rows = {};
-    QString condition = {}; // if not empty, there are no rows
+    QString condition = {}; // then there are no rows
 
     bool operator==(const BuiltFilter &) const = default;
 };

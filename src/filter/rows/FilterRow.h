@@ -64,8 +64,8 @@ public:
     FilterRowState state() const;
     bool setState(const FilterRowState &state);
     FilterChoice choice() const;
-    // Starts with a field and a value, which typing replaces. Without a value, the focus moves to the
-    // operator.
+    // Begins with a field, and with a value that the next text typed replaces; without a value the keyboard
+    // goes to the operator.
     void suggest(const QString &field, const QString &value);
     // The row's current condition, or that of all other records. Does not change what is shown.
     FilterCondition condition(bool isComplement = false) const;

@@ -30,7 +30,7 @@ public:
     std::optional<QString> setState(const FilterState &state);
     // See FilterRow::suggest; for the first row.
     void suggest(const QString &field, const QString &value);
-    // The complete rows as a sentence; empty if their brackets don't match.
+    // The complete rows as a sentence; empty while their brackets don't match.
     QString sentence() const;
 
     // Shows the rows as a tree, or with brackets. If brackets don't match, marks them instead.

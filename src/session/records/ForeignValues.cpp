@@ -25,8 +25,8 @@ namespace {
 
 constexpr qint64 mostValues = 1000;
 
-// The table column that a field shows; empty if there is none. If the driver doesn't report it, it is taken
-// from the statement, if that has a single table.
+// The column of a table that a field shows; empty where it is none. Some drivers don't tell; the statement
+// does, if it is one of a single table.
 ADODB::TableColumn columnOf(const Session &session, const Dialect &dialect, const ADODB::Field &field)
 {
     ADODB::TableColumn column{{}, field.BaseTableName(), field.BaseColumnName()};
@@ -47,7 +47,7 @@ ADODB::TableColumn columnOf(const Session &session, const Dialect &dialect, cons
     return column;
 }
 
-// A referenced table.
+// A table that is referred to.
 struct Referenced
 {
     QString from;          // its form after FROM

@@ -21,8 +21,8 @@ struct ShownCondition
 // The conditions of the latest statement that the first one of the history doesn't have.
 std::vector<ShownCondition> shownConditions(Session &session);
 
-// The latest statement with one of them replaced, or removed if `replacement` is empty. Empty if there is no
-// such condition.
+// The latest statement with another condition in the place of one of them, or without it; empty when there is
+// no such condition.
 QString statementWith(Session &session, std::size_t condition, const QString &replacement);
 QString statementWithout(Session &session, std::size_t condition);
 

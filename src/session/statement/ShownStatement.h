@@ -13,7 +13,7 @@ namespace KOVAVSFDataGridLib {
 struct ConditionRequest;
 class Session;
 
-// The last condition that the user built, and what it was built from; see ConditionRequest.
+// The condition that the user built last, and what it was built from; see ConditionRequest.
 struct BuiltCondition
 {
     QString condition;
@@ -73,7 +73,7 @@ public:
     void toggleFromResult();
 
     BuiltCondition lastBuilt;
-    std::vector<ChosenValues> chosenValues; // for all statements so far, the latest last
+    std::vector<ChosenValues> chosenValues; // of all statements so far, the latest last
 
 private:
     Session &m_session;

@@ -13,7 +13,7 @@ class StatementLine final : public ElidedLabel
 public:
     explicit StatementLine(QWidget *parent);
 
-    // `place` describes the current record. An empty statement clears the line.
+    // `place` tells which record is current. An empty statement empties the line.
     using QWidget::show;
     void show(const QString &place, const QString &statement);
     const QString &statement() const { return m_statement; }

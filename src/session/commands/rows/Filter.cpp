@@ -34,8 +34,8 @@ QString currentValue(Session &session, int row, int col)
     return text.size() <= longest && !text.contains(u'\n') ? text : QString();
 }
 
-// Sets the initial content of the dialog: the requested field; or else the active condition if the new one
-// replaces it; or else the current cell.
+// What the dialog begins with: the field that was asked for, else the condition in force where the new one
+// replaces it, else the current cell.
 void beginWhereUserIs(Session &session, ConditionRequest &request, const QString &field, bool replaces)
 {
     request.field = field;
@@ -52,7 +52,7 @@ void beginWhereUserIs(Session &session, ConditionRequest &request, const QString
     request.value = currentValue(session, session.window().Row(), col);
 }
 
-// Whether the last condition is active and will be replaced by the next one.
+// Whether the condition built last holds now and gives way to the next one.
 bool isReplaced(Session &session)
 {
     QString shown;
@@ -75,7 +75,7 @@ bool filterBy(Session &session, FilterManagerRollback &rollback, const QString &
     return true;
 }
 
-// Asks until the database accepts the condition or the user cancels.
+// Asks until the database takes the condition or the user cancels.
 void askUser(Session &session, FilterManagerRollback &rollback, const QString &field, bool replaces)
 {
     ConditionRequest request = session.shown().conditionRequest();
@@ -96,7 +96,7 @@ void askUser(Session &session, FilterManagerRollback &rollback, const QString &f
 // filter, and stops if the host replaces the result.
 void askHost(Session &session, FilterManagerRollback &rollback, const QString &field)
 {
-    const bool replaces = isReplaced(session); // must be known before the history is stepped back
+    const bool replaces = isReplaced(session); // before the history is stepped back
 
     session.texts.passQurryFilter.clear();
     QString base;
