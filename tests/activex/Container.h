@@ -41,7 +41,7 @@ public:
     HWND window() const { return m_window; }
     HWND controlWindow() const;
     HRESULT doVerb(LONG verb);
-    // Gives everything back; true when the control was gone with the last reference.
+    // Releases everything; returns true if the control was destroyed with the last reference.
     bool release();
 
     void setUserMode(bool on);
@@ -60,12 +60,12 @@ public:
     bool isModeless() const { return m_isModeless; }
     ULONG references() const { return m_references; }
 
-    // Input as the user gives it, at a point of the control's window.
+    // User input at a point of the control's window.
     void click(int x, int y);
     void doubleClick(int x, int y);
     void key(WORD virtualKey, const std::vector<WORD> &modifiers = {});
-    // What the user does in the modal dialog that the next input opens. Called from that dialog's own loop,
-    // so it may give input but must not wait for it.
+    // The user's action in the modal dialog that the next input opens. It is called from that dialog's own
+    // event loop, so it may send input but must not wait for it.
     static void whenDialogIsOpen(std::function<void()> action);
     static void press(WORD virtualKey, const std::vector<WORD> &modifiers = {});
     // Runs the message loop until it has been idle for a while, or until `done`.

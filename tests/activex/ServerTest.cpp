@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-// The server as a file: its exported functions. These tests need a process in which there was no control yet
-// (packaging/windows/test gives them one), because Qt stays once it is there.
+// The exported functions of the server file. These tests need a process without any control so far
+// (packaging/windows/test starts them so), because Qt is never unloaded.
 
 namespace {
 

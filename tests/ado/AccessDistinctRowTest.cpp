@@ -30,7 +30,7 @@ struct DistinctRowCase
 {
     const char *name;
     QString statement;
-    QString rows; // columns parted by |, records by blanks; empty where it is refused
+    QString rows; // columns separated by |, records by blanks; empty if it is refused
 };
 
 class AccessDistinctRows : public testing::TestWithParam<DistinctRowCase>
@@ -82,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(
             "Inside",
             u"SELECT COUNT(*) FROM (SELECT DISTINCTROW c.Name FROM Cust c, Ord o WHERE c.ID = o.Cust) q"_s,
             u"3"_s},
-        // Nothing is left out where all tables are shown, or where there is one.
+        // No rows are omitted if all tables are shown, or if there is only one.
         DistinctRowCase{"OneTable", u"SELECT DISTINCTROW Name FROM Cust ORDER BY ID"_s, u"anna bob anna"_s},
         DistinctRowCase{
             "AllTables",

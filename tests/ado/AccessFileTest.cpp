@@ -146,7 +146,7 @@ TEST_P(DamagedAccessFileTest, WrongBytesDoNoHarm)
     int refused = 0;
     for (int round = 0; round < rounds; ++round) {
         QByteArray bytes = whole;
-        // Some anywhere, some close together where a page has its numbers.
+        // Some at random positions, some close together where a page has its numbers.
         const qsizetype page = random.bounded(static_cast<int>(bytes.size() / 2048)) * 2048;
         for (int i = 0; i < 20; ++i) {
             bytes[random.bounded(static_cast<int>(bytes.size() - 128)) + 128] =

@@ -225,7 +225,7 @@ TEST(AccessPatternTest, AdoHasPercentAndUnderline)
     EXPECT_TRUE(isLike("50%", "50!%", U'!'));
     EXPECT_FALSE(isLike("500", "50!%", U'!'));
     EXPECT_TRUE(isLike("[a]", "[a]", 0));
-    // Takes no time although each % could stand for anything.
+    // Takes no time, although each % could match anything.
     EXPECT_FALSE(isLike(QByteArray(20000, 'a'), "%a%a%a%a%a%a%a%a%a%a%b", 0));
 }
 

@@ -129,7 +129,7 @@ protected:
     std::shared_ptr<Connection> connectWith(const QString &mode) const
     {
         auto connection = std::make_shared<Connection>();
-        // What is said first counts.
+        // The first value is used.
         connection->Open(mode.isEmpty() ? connectionString() : mode + u';' + connectionString());
         return connection;
     }
@@ -185,7 +185,7 @@ TEST_P(Injection, LetsHarmlessTextsThrough)
               u"select id /* a;b */\r\nfrom kova_a;\r\n"_s, u"select id, 'C:\\dir' as path from kova_a"_s,
               u"select id,\r\n'[x]' as a from kova_a -- c\r\n"_s}) {
             if (is("SQLite") && sql.contains(u"a;b"))
-                continue; // its driver takes a semicolon in a comment for the end
+                continue; // its driver ends the comment at a semicolon
             SCOPED_TRACE((mode + u" | "_s + sql).toStdString());
             EXPECT_NO_THROW(EXPECT_EQ(open(sql, connection)->RecordCount(), 2));
         }

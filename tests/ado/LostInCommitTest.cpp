@@ -35,7 +35,7 @@ protected:
             QLatin1StringView(GetParam().integerKey)));
         execute(u"INSERT INTO kova_a VALUES (1, 'one', 1.5), (2, 'two', 2.5)"_s);
     }
-    // A connection through a proxy that goes away in the next COMMIT.
+    // A connection through a proxy that drops it in the next COMMIT.
     std::shared_ptr<Recordset> openThrough(AdoTest::DroppingProxy &proxy, AdoTest::DroppingProxy::When when)
     {
         auto connection = std::make_shared<Connection>();
@@ -116,8 +116,8 @@ TEST_P(LostInCommit, AddsNoRecordTwice)
     }
 }
 
-// A server can still be at work on the COMMIT of a connection that is gone. A transaction of another session
-// stands for it here; it has the key that the database made for the record.
+// A server may still be processing the COMMIT of a lost connection. A transaction of another session
+// simulates that here; it uses the key that the database generated for the record.
 TEST_P(LostInCommit, AddsNoRecordTwiceWhoseCommitComesToItsEndLater)
 {
     makeTable();
@@ -166,7 +166,7 @@ TEST_P(LostInCommit, MayHaveDeletedARecord)
     }
 }
 
-// A record that somebody else deletes is another matter.
+// If somebody else deletes the record, that is not the user's deletion.
 TEST_P(LostInCommit, TakesNoOtherDeletionForItsOwn)
 {
     makeTable();

@@ -1,4 +1,4 @@
-// Where connections lead while a middle tier stands before the database.
+// The target of connections when there is a middle tier between them and the database.
 #include "TestDatabase.h"
 #include "Throwing.h"
 
@@ -58,7 +58,7 @@ class ThreeTierFactory : public testing::Test
 protected:
     ~ThreeTierFactory() override { ConnectionFactory::setInstance(nullptr); }
 
-    // The first field of the first row behind the connection.
+    // The first field of the first row, read through the connection.
     static QString ask(const std::shared_ptr<Connection> &connection)
     {
         Recordset recordset;

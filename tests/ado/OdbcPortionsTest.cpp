@@ -47,7 +47,7 @@ TEST_P(OdbcPortions, ComeWhole)
     expectNumbersTo(5002, *open(numbersTo(5002) + u" -- and no more;"_s, connection));
 }
 
-// In the words of PostgreSQL's driver, which connection strings have.
+// By the keyword of PostgreSQL's driver.
 TEST_P(OdbcPortions, HaveTheSizeThatTheConnectionStringSays)
 {
     if (!is("PostgreSQL"))

@@ -56,7 +56,7 @@ TEST(OdbcTypes, KeepSizesDigitsAndWhatGoesWithThem)
     EXPECT_EQ(fieldOf({SQL_INTEGER, 11, 0, false}).definedSize, 4);
 }
 
-using Column = std::pair<const char *, DataTypeEnum>; // its type in the server's words and in ADO's
+using Column = std::pair<const char *, DataTypeEnum>; // its type in the server's SQL and in ADO
 
 const std::vector<Column> postgreSqlColumns{{"SMALLINT", adSmallInt},
                                             {"INTEGER", adInteger},

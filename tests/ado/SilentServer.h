@@ -25,7 +25,7 @@ public:
     ~SilentServer() { close(m_socket); }
     Q_DISABLE_COPY_MOVE(SilentServer)
 
-    // 0 when it could not be opened.
+    // 0 if it could not be opened.
     int port() const { return ntohs(m_address.sin_port); }
 
 private:

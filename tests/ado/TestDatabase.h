@@ -25,7 +25,7 @@ public:
     QString filePath(const QString &name) const { return m_folder.filePath(name); }
 
     void execute(const QString &script) const;
-    // The first column of the first row as text; "NULL" for Null, "none" when there is no row.
+    // The first column of the first row as text; "NULL" for Null, "none" if there is no row.
     QString ask(const QString &sql) const;
     // All rows; a cell is the number of its type, a colon and its text.
     QList<QStringList> rows(const QString &sql) const;

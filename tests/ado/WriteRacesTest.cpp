@@ -1,6 +1,6 @@
-// Random tables, statements and changes by somebody else between reading and writing, on every engine: a
-// write hits the row that was shown, whole, or it changes nothing and says so, as full copies of the table
-// tell.
+// Random tables, statements and changes by others between reading and writing, on every engine: a write
+// changes exactly the row that was shown, or it changes nothing and reports an error. Full copies of the
+// table are compared.
 #include "OdbcEngines.h"
 #include "TestDatabase.h"
 #include "Throwing.h"
@@ -116,7 +116,7 @@ private:
 
     static QString literal(const QString &value)
     {
-        // In hexadecimal where a backslash would need care.
+        // In hexadecimal if backslashes would have to be escaped.
         return u'\'' + QString(value).replace(u'\'', u"''"_s) + u'\'';
     }
     QString value(const QString &column, const QString &text) const

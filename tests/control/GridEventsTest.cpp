@@ -203,7 +203,7 @@ TEST_F(GridEventsTest, ADoubleClickOnARowNumberMeansTheRow)
 {
     doubleClick(3, 0);
     EXPECT_EQ(doubleClickEvents(), QStringList({u"DataDblClick"_s, u"DataDBLClickOneRow 3"_s}));
-    // Also where the first column isn't in view.
+    // Also if the first column isn't visible.
     table->setColumnHidden(0, true);
     log.clear();
     doubleClick(2, 0);

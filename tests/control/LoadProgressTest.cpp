@@ -1,5 +1,5 @@
-// A load that takes long: the line that tells of it, cancelling, and what the rest of the application may do
-// meanwhile.
+// A long load: its progress line, cancelling, and
+// what the rest of the application may do meanwhile.
 #include "GridFixture.h"
 #include "support/MessageAnswers.h"
 

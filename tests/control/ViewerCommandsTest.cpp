@@ -1,4 +1,4 @@
-// The commands of the full-screen viewer: the statements they lead to, and what they leave behind.
+// The commands of the full-screen viewer: the resulting statements, and the state afterwards.
 #include "ViewerFixture.h"
 
 #include "control/parts/toolbar/GridToolbar.h"

@@ -29,7 +29,7 @@ protected:
         if (IsSkipped() || HasFatalFailure())
             return;
         m_session.emplace(connectionString());
-        // Rows that differ only where a key that was read in part would not see it.
+        // Rows that differ only in the part of the key that an incomplete read would not return.
         m_session->run(u"CREATE TABLE kova_a(k INTEGER NOT NULL, l INTEGER NOT NULL, a VARCHAR(20), b "
                        "VARCHAR(20), PRIMARY KEY (k, l))"_s);
         reset();

@@ -1,5 +1,5 @@
-// The statements of statements.cases in the grid, on every engine that takes them: after each command the
-// rows are those that a loop over the statement's own rows takes, and the way back leads to all of them.
+// The statements of statements.cases in the grid, on every engine that accepts them: after each command the
+// rows must be those of a loop over the statement's own rows, and going back must show all of them again.
 #include "EngineStatements.h"
 
 #include "support/Dialogs.h"
@@ -27,7 +27,7 @@ protected:
         const auto columns = static_cast<int>(all.names.size());
         const auto rows = static_cast<int>(std::min<std::size_t>(all.rows.size(), 9));
         for (int column = 0; column < columns; ++column) {
-            // Every cell on one engine; the others have the same tables and take longer.
+            // Every cell on one engine only; the others have the same tables and are slower.
             const int step = engine.store == JourneyEngine::SqliteFile ? 1 : std::max(rows, 1);
             QSet<QString> seen;
             for (int row = step > 1 ? column % std::max(rows, 1) : 0; row < rows; row += step) {

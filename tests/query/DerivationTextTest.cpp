@@ -216,7 +216,7 @@ TEST_P(OpenText, IsFilteredByTheValueOfAField)
 INSTANTIATE_TEST_SUITE_P(
     , OpenText,
     testing::Values(
-        // A last word is an alias only where the result calls the field so.
+        // A last word is an alias only if the result names the field like this.
         OpenCase{"Interval", Engine::PostgreSQL, u"select D + interval '1' month from T"_s, u"?column?"_s,
                  "SELECT D + interval '1' month FROM T WHERE (D + interval '1' month) = 1"},
         OpenCase{"TypeOfTwoWords", Engine::PostgreSQL, u"select Q::double precision from T"_s, u"q"_s,
@@ -279,7 +279,7 @@ INSTANTIATE_TEST_SUITE_P(
         // What follows the last word must not swallow the condition.
         OpenCase{"NumberSign", Engine::MySQL, u"select A, B from T # all"_s, u"A|B"_s,
                  "SELECT A, B FROM T WHERE B = 1"},
-        // What MySQL runs of a comment: words without effect, and a condition that some versions skip.
+        // Version comments of MySQL: words without effect, and a condition that some versions skip.
         OpenCase{
             "VersionComment", Engine::MySQL,
             u"select /*!40001 sql_no_cache */ /*M!100100 high_priority */ A, B from T where C = 2"_s,

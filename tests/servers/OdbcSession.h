@@ -18,7 +18,7 @@ public:
 
     void run(const QString &statement);
     void run(const QStringList &statements);
-    // The first column of the first row as text; empty when there is no row or no value.
+    // The first column of the first row as text; empty if there is no row or no value.
     QString ask(const QString &statement);
 
 private:

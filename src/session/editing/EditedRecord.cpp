@@ -190,7 +190,7 @@ bool EditedRecord::save()
 
 bool EditedRecord::leaveResult()
 {
-    if (m_session.shared.isWaiting) // for what is done to this very result
+    if (m_session.shared.isWaiting) // for actions on this result itself
         return false;
     const ResultWatch watch(m_session);
     for (;;) {
