@@ -71,7 +71,7 @@ private:
     std::shared_ptr<ADODB::Connection> m_countConnection;
     QString m_prefix;
     QString m_fromText;
-    QList<OfferedField> m_offered; // for a result; empty for a table
+    QList<OfferedField> m_offered; // of a result; empty for a table
     bool m_escapesByBackslash = false;
     bool m_isShared = false;
 };

@@ -166,7 +166,7 @@ public:
     // For each field of the catalogue, whether it is a part field. Of fields with the same name, only the
     // chosen one if it is known, otherwise all.
     QList<bool> PartFields() const;
-    // Marks the part fields. Does nothing if the number differs from that of the catalogue.
+    // Marks them so. Nothing happens when these are not as many as the catalogue has.
     void SetPartFields(const QList<bool> &areParts);
     // How many fields the latest entry shows. Returns false if there is no entry.
     bool GetCurrShowFieldsCount(qint32 &PassCount) const;

@@ -185,8 +185,8 @@ bool colShowSQLSentences::CanName(const clsDataField &field) const
     return shown->names().contains(field.FieldName);
 }
 
-// A name finds only the first field with that name, so the list entries are compared. Empty if the names are
-// unique or the entries can't tell.
+// A name finds the first of the fields that share it; the list entries tell which of them are meant. Nothing
+// where names are enough or entries can't tell.
 QList<bool> colShowSQLSentences::PartOfEqualNames(const QString &statement,
                                                   const QString &partStatement) const
 {

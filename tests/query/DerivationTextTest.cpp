@@ -279,7 +279,7 @@ INSTANTIATE_TEST_SUITE_P(
         // What follows the last word must not swallow the condition.
         OpenCase{"NumberSign", Engine::MySQL, u"select A, B from T # all"_s, u"A|B"_s,
                  "SELECT A, B FROM T WHERE B = 1"},
-        // Version comments of MySQL: words without effect, and a condition that some versions skip.
+        // What MySQL runs of a comment: words without effect, and a condition that some versions skip.
         OpenCase{
             "VersionComment", Engine::MySQL,
             u"select /*!40001 sql_no_cache */ /*M!100100 high_priority */ A, B from T where C = 2"_s,

@@ -56,7 +56,7 @@ protected:
 
 namespace {
 
-// Returns what Access would, using the statement's list.
+// Knows what Access would answer from the statement's list.
 class ListReader final : public FieldReader
 {
 public:
@@ -77,7 +77,7 @@ public:
 
 } // namespace
 
-// TOP selects its rows before a condition, which can nevertheless use fields that were not chosen.
+// TOP takes its rows before a condition, which can name the fields that were not chosen all the same.
 TEST(HistoryDerivationOfTop, AFilterCanNameFieldsThatWereNotChosen)
 {
     ListReader reader;

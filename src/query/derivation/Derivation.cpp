@@ -345,7 +345,7 @@ QString Derivation::outerSort() const
     return terms.join(u',');
 }
 
-// Positions and aliases in a sort refer to list entries, which may change.
+// Positions and aliases in a sort mean entries of the list, which may change.
 QString Derivation::stableSort() const
 {
     QStringList terms;

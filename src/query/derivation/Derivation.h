@@ -16,7 +16,7 @@ struct FilteredResult
 {
     QString prefix;
     QString source;
-    QList<OfferedField> fields; // the fields that a condition can use
+    QList<OfferedField> fields; // those of the result that a condition can name
 };
 
 // How a command changes a statement; see Derivation::whyNot.

@@ -21,9 +21,9 @@ struct ColumnCommand
     void (*run)(Session &session, int col);
     // The derivation from the shown statement that it needs; it can't run if that is refused.
     std::optional<DerivationStep> step = {};
-    // Other conditions for running it. Null if there are none.
+    // What else keeps it from running. Null when nothing does.
     bool (*canRun)(Session &session, int col) = nullptr;
-    // Whether it is already in effect. Null if that does not apply.
+    // Whether it is in force already. Null for what never is.
     bool (*isOn)(Session &session, int col) = nullptr;
 
     struct Registration

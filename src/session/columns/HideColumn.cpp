@@ -5,7 +5,7 @@
 #include "session/commands/fields/ChosenFields.h"
 #include "session/history/SharedHistory.h"
 
-// Shows all shown fields except one.
+// Shows the fields that are shown without one of them.
 
 namespace KOVAVSFDataGridLib {
 

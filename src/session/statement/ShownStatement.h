@@ -64,9 +64,9 @@ public:
 
     // The input for building a condition for it.
     ConditionRequest conditionRequest() const;
-    // The statement with an additional condition; false if none can be derived.
+    // The statement with one more condition; false when none can be derived.
     bool addCondition(const QString &condition, QString &statement) const;
-    // Stores a filter's condition for the dialogs of the process; an empty one clears SQLFilter too.
+    // Keeps a filter's condition for the dialogs of the process; an empty one empties SQLFilter as well.
     void setLastFilter(const QString &condition);
     // Whether the next filter is added to this statement instead of the first one.
     bool isFromResult() const { return m_isFromResult; }

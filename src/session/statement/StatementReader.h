@@ -33,7 +33,7 @@ public:
 
     // Whether the user has cancelled the last reading.
     bool isCancelled() const { return m_isCancelled; }
-    // Tells the user, unless the session's window has another way.
+    // What the user is shown, unless the session's window wants it otherwise.
     void reportCancelled();
     void reportError(const QString &description);
 

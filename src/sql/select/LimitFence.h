@@ -5,10 +5,10 @@
 
 #include <QtCore/QString>
 
-// Some engines apply an outer clause inside a limited subquery and so select from more records than it
-// returns: SQLite sorts before it takes the first records of an unsorted SELECT, and MariaDB applies a
-// condition to each SELECT of a union before it takes the first records of the union. Another limit, one that
-// includes all records, prevents that.
+// Some engines let what stands around a SELECT in brackets choose among more records than it gives: SQLite
+// sorts before it takes the first ones of a SELECT without a sort, and MariaDB looks for a condition in each
+// SELECT that is united before it takes the first records of all of them. A limit that takes all of them
+// keeps an engine from it.
 namespace KOVAVSFDataGridLib {
 
 // Whether that can happen to a SELECT among these tokens,

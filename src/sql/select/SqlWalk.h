@@ -45,8 +45,8 @@ inline bool isIdleListWord(const SqlScanner &statement, qsizetype index)
                      u"SQL_BUFFER_RESULT", u"SQL_CALC_FOUND_ROWS", u"SQL_NO_CACHE"}));
 }
 
-// The index after the start of a version comment of MySQL, including its version number if it has one;
-// otherwise `index`.
+// Behind the beginning of a comment that MySQL runs, on some versions only if it holds a number; else
+// `index`.
 inline qsizetype afterVersionMark(const SqlScanner &statement, qsizetype index)
 {
     if (statement.dialect() != SqlDialect::MySql || !statement.isSymbol(index, u'/') ||
@@ -59,8 +59,8 @@ inline qsizetype afterVersionMark(const SqlScanner &statement, qsizetype index)
     return next < statement.count() && statement.at(next).kind == SqlToken::Kind::Number ? next + 1 : next;
 }
 
-// The index after something between SELECT and the list that doesn't change the rows: a word, or a version
-// comment of MySQL that contains only such words; otherwise `index`.
+// Behind what changes no row between SELECT and the list: a word, or a comment that MySQL runs and in which
+// it finds only such words; else `index`.
 inline qsizetype afterIdleListWord(const SqlScanner &statement, qsizetype index)
 {
     if (isIdleListWord(statement, index))

@@ -49,8 +49,8 @@ bool isInto(const SqlScanner &statement, qsizetype index)
     return statement.isWord(index, u"INTO") && !statement.isSymbol(index - 1, u'.');
 }
 
-// SQL Server needs no separator between statements, not even a blank after a number. Names like these words
-// must be quoted.
+// SQL Server begins another statement without any sign before it, not even a blank behind a number. Only in
+// quotes can these words be names.
 bool beginsStatement(const SqlScanner &statement, qsizetype index)
 {
     static constexpr QStringView words[] = {
