@@ -68,8 +68,8 @@ class SessionWindow : public ColumnView
 {
 public:
     // Shows `count` records starting at `first` (from 1) and makes the first row current. Without a
-    // recordset, only the headings remain. NOLINTNEXTLINE(performance-unnecessary-value-param): a window that
-    // shows them keeps them
+    // recordset, only the headings remain.
+    // NOLINTNEXTLINE(performance-unnecessary-value-param): a window that shows them keeps them
     virtual void showRecords(std::shared_ptr<ADODB::Recordset>, qint64 /*first*/, int /*count*/) {}
     // The values of the same records have changed.
     virtual void refreshRecords() {}

@@ -32,7 +32,7 @@ std::optional<KeywordCut> SplitByKeyword(const QString &text, const QString &key
 // No value if the statement is empty.
 std::optional<SQLSentence> SplitSQLSentence(const QString &statement);
 
-// The three parts separated by exactly one blank, even if empty, so joining is the inverse of splitting.
+// The three parts separated by exactly one blank, even if empty, so nothing of a split statement is lost.
 QString joinSQLSentence(const SQLSentence &sentence);
 
 // The head, then one blank and the part for each other part that isn't empty.

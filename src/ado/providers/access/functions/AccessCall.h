@@ -50,8 +50,8 @@ public:
             Function(call);
     }
 
-    // Registers a function with `count` arguments, -1 for any number. By default it is deterministic: `flags`
-    // are added to that.
+    // Registers a function with `count` arguments, -1 for any number. `flags` are those of SQLite; by default
+    // the function is deterministic.
     template<void (*Function)(AccessCall &)>
     static void offer(sqlite3 *db, const char *name, int count, int flags = SQLITE_DETERMINISTIC)
     {

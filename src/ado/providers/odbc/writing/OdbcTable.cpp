@@ -195,8 +195,8 @@ OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, con
         return table;
     }
     const OdbcTableName name = fullName(*all, *connection, select);
-    // Some drivers return names for the table under a view. Each query is a round trip to the server, so one
-    // that a key has already answered is skipped.
+    // For a view, some drivers report its underlying table. Each query is a round trip to the server, so one
+    // whose answer follows from the key is skipped.
     table.key = primaryKey(connection, name);
     const bool isTable = engine.onlyTablesHaveKeys && !table.key.isEmpty();
     const QString type = isTable ? u"TABLE"_s : tableType(connection, name);
