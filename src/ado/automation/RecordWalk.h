@@ -38,7 +38,7 @@ public:
 
     // Moves to the next record from `start` on that meets the comparison, or to the end in this direction.
     void find(const QString &criteria, qint64 skip, bool isForward, const QVariant &start);
-    // Calls `read` for the current record and those after it, at most `limit`, and moves behind the last one.
+    // Calls `read` for the current record and those after it, at most `limit`, and moves past the last one.
     void readOn(qint64 limit, const QVariant &start, const std::function<void(qint64 record)> &read);
     // Calls `read` for all records, without moving.
     void readAll(const std::function<void(qint64 record)> &read);

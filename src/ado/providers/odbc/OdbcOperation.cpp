@@ -61,7 +61,7 @@ void OdbcOperation::run(std::function<void()> work, const Wait &wait)
             operation->m_error = std::current_exception();
         }
         work = nullptr;             // what nobody else owns is destroyed here
-        operation->m_lease.reset(); // can own the pool, whose sessions must end before the caller goes on
+        operation->m_lease.reset(); // its deleter owns the pool, whose sessions must not end later
         theCurrent = nullptr;
         operation->m_ended.release();
         operation->m_isDone = true;

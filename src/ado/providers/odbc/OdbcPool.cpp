@@ -123,9 +123,9 @@ void OdbcPool::connectFirst()
         learnModes();
 }
 
-// The server, the account or the connection string can set both for the session without the driver's
-// knowledge. Statements are written and checked by the quoting mode. The driver sends UTF-8; a server that
-// decodes it as anything else reads other characters, possibly quotes.
+// The server, the account or the connection string can set the SQL mode and the character set of a session
+// without the driver's knowledge. Statements are written and checked by the mode. The driver sends UTF-8; a
+// server that decodes it as anything else reads other characters, possibly quotes.
 void OdbcPool::learnModes()
 {
     const auto connection = acquire(std::make_shared<std::atomic<bool>>(false));
