@@ -210,7 +210,7 @@ bool frm_FullScreen::eventFilter(QObject *watched, QEvent *event)
             return true;
         }
     } else if (watched == &grid && event->type() == QEvent::ContextMenu) {
-        return true; // the menu key comes as a key as well, and once is enough
+        return true; // the menu key also arrives as a key press; one event is enough
     }
     return QDialog::eventFilter(watched, event);
 }

@@ -36,13 +36,13 @@ using StarSizes = QHash<QString, qsizetype>;
 
 // Derives from one statement. There are three kinds of statements:
 //
-// simple  SELECT list FROM … [WHERE …] [ORDER BY …] with plain names in its list, all of them different, and
-//         with keywords that SqlText.h can find in the text.
-//         Such statements are derived as plain text.
+// simple  SELECT list FROM … [WHERE …] [ORDER BY …] with plain names in its list, all of them
+//         different, and with keywords that SqlText.h can find in the text. Such statements are
+//         derived as plain text.
 // open    the same clauses, but with DISTINCT, aliases, expressions, equal names or sub-selects.
 //         Conditions and sorts name a field by its value, so that the statement stays one over its
-//         tables and its rows can still
-//         be written back.
+//         tables and is not nested in another one. So its rows can
+//         still be written back.
 // closed  all others: a condition on their result must select from them, `SELECT * FROM (…) AS Q`.
 //
 // Statements must be those returned by joinStatementLines. In what is derived from an open or closed
