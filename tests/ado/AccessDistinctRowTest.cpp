@@ -1,5 +1,5 @@
-// DISTINCTROW over written files: each record of the tables that are shown, once, even where others look
-// alike.
+// DISTINCTROW with generated files: each record of the shown tables exactly once, even if records look the
+// same.
 #include "AccessSamples.h"
 #include "Throwing.h"
 
@@ -54,7 +54,7 @@ TEST_P(AccessDistinctRows, AreThoseOfTheTablesShown)
 INSTANTIATE_TEST_SUITE_P(
     , AccessDistinctRows,
     testing::Values(
-        // Two customers look alike, and both are there; each of them once.
+        // Two customers look the same; each of them is returned once.
         DistinctRowCase{"FieldsOfOneTable",
                         u"SELECT DISTINCTROW Cust.Name FROM Cust INNER JOIN Ord ON Cust.ID = Ord.Cust"
                         " ORDER BY Cust.Name"_s,

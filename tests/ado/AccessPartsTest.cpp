@@ -1,4 +1,4 @@
-// How single values, rows and pages are read from bytes, as the format has them.
+// Reading single values, rows and pages from bytes of the file format.
 #include "AccessSamples.h"
 #include "Throwing.h"
 
@@ -26,7 +26,7 @@ QByteArray bytesOf(Number number)
     return bytes;
 }
 
-// Kind and value in one text, so that 1, '1' and 1.0 are told apart.
+// Kind and value as one text, so that 1, '1' and 1.0 are different.
 QByteArray described(const RawValue &value)
 {
     switch (value.kind) {

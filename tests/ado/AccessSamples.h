@@ -20,7 +20,7 @@ QString samplePath(const QString &name, const QTemporaryDir &folder);
 inline constexpr char writtenSample[] = "written.mdb";
 // Writes bytes to a file in the folder and returns its path.
 QString writeFile(const QTemporaryDir &folder, const QByteArray &bytes, const QString &name);
-// All cells, columns parted by | and records by a line break.
+// All cells, with columns separated by | and records by a line break.
 QString cells(const std::shared_ptr<ADODB::Connection> &connection, const QString &sql);
 
 } // namespace AdoTest

@@ -8,8 +8,8 @@
 
 namespace AdoTest {
 
-// Stands between clients and a server on the loopback interface, and ends a connection when its client sends
-// a word that it waits for. Unix only.
+// A proxy between clients and a server on the loopback interface, which drops a connection when its client
+// sends a certain word. Unix only.
 class DroppingProxy
 {
 public:

@@ -15,7 +15,7 @@ using namespace ADODB;
 
 namespace {
 
-// What is added to a connection string, so that server or driver read statements in another way.
+// Additions to a connection string that change how the server or driver reads statements.
 const QStringList &modesOf(const QString &engine)
 {
     static const QStringList none{QString()};
@@ -24,7 +24,7 @@ const QStringList &modesOf(const QString &engine)
         u"UseServerSidePrepare=0;ConnSettings={set standard_conforming_strings=off}"_s,
         u"UseServerSidePrepare=1;ConnSettings={set standard_conforming_strings=off}"_s,
         u"UseServerSidePrepare=0;UseDeclareFetch=0"_s};
-    // Bit 26 of the options lets several statements through.
+    // Bit 26 of the options allows several statements.
     static const QStringList mariaDb{
         QString(),
         u"OPTION=67108864"_s,
@@ -36,7 +36,7 @@ const QStringList &modesOf(const QString &engine)
     return engine == "PostgreSQL"_L1 ? postgreSql : engine == "MariaDB"_L1 ? mariaDb : none;
 }
 
-// Each hides a second statement, in some engine's reading, from somebody who reads it in another way.
+// Each hides a second statement, for some engine, from a reader with other rules.
 const QStringList &attacks()
 {
     static const QString change = u"commit; delete from kova_a; commit"_s;
@@ -175,7 +175,7 @@ TEST_P(Injection, RefusesAStatementAfterACarriageReturnEverywhere)
     EXPECT_EQ(content(), u"2/a/b"_s);
 }
 
-// The statements that everybody writes still work, with backslashes, brackets and comments in them.
+// Common statements still work, with backslashes, brackets and comments in them.
 TEST_P(Injection, LetsHarmlessTextsThrough)
 {
     for (const QString &mode : modesOf(QString::fromLatin1(GetParam().name))) {

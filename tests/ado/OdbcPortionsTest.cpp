@@ -1,5 +1,5 @@
-// Results of more rows than are fetched at once: all rows come, in order, and nothing that happens between
-// two of them does harm.
+// Results with more rows than are fetched at a time: all rows arrive, in order, and nothing that happens
+// between two fetches does any harm.
 #include "OdbcEngines.h"
 #include "Throwing.h"
 

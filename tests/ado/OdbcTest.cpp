@@ -39,7 +39,7 @@ TEST_P(OnOdbc, ReadsValuesAsTheyAre)
     EXPECT_EQ(recordset->Fields().Item(0).Type(), adInteger);
 }
 
-// Lengths around the edges of a block's places, in rows enough for several blocks.
+// Lengths around the limits of a block's places, in enough rows for several blocks.
 TEST_P(OnOdbc, CutsNoTextHoweverLong)
 {
     execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY, t %1)"_s.arg(is("MariaDB") ? u"LONGTEXT"_s

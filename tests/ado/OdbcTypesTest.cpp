@@ -1,4 +1,4 @@
-// The types by which ADO's own bridge to ODBC calls a driver's.
+// The ADO types of a driver's types, as in ADO's own ODBC bridge.
 #include "OdbcEngines.h"
 
 #include "ado/providers/odbc/reading/OdbcTypes.h"
@@ -23,7 +23,7 @@ TEST(OdbcTypes, AreAdosForEachOfOdbcs)
         int type;
         int unsignedType;
     };
-    // In plain numbers, as both libraries' users know them.
+    // As numbers, which users of both libraries know.
     const Case cases[] = {
         {1, 129, 129},    {12, 200, 200},   {-1, 201, 201},   {-8, 130, 130},   {-9, 202, 202},
         {-10, 203, 203},  {2, 131, 131},    {3, 131, 131},    {-7, 11, 11},     {-6, 16, 17},

@@ -205,7 +205,7 @@ TEST_F(EditInDoubt, GivesWayToWhatSomebodyElseWroteSince)
     EXPECT_EQ(table.text, u"theirs"_s);
 }
 
-// Only an attempt whose outcome is not known can have written what is there.
+// Only an attempt with an unknown outcome can have written the existing row.
 TEST_F(EditInDoubt, IsForgottenWithTheEdit)
 {
     saveWithoutAnswer(true);

@@ -13,7 +13,7 @@ using namespace ADODB;
 
 namespace {
 
-// A row as plain as can be, to compare the packed one with.
+// The simplest form of a row, to compare the packed one with.
 using PlainRow = std::vector<QVariant>;
 
 RawValue rawOf(const QVariant &value)

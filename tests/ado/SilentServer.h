@@ -8,7 +8,7 @@
 
 namespace AdoTest {
 
-// Takes connections on the loopback interface and never says a word, as a server that hangs. Unix only.
+// Accepts connections on the loopback interface but never sends anything, like a hanging server. Unix only.
 class SilentServer
 {
 public:

@@ -1,6 +1,6 @@
-// Random statements, simple and nasty, over a small database: a Delete or an Update changes exactly the row
-// that was seen, as a copy of all tables tells that SQLite itself was asked for, or it changes nothing and
-// says so.
+// Random statements, simple and difficult, over a small database: a Delete or an Update changes exactly the
+// row that was shown, or it changes nothing and reports an error. Copies of all tables, read by SQLite
+// itself, are compared.
 
 #include "TestDatabase.h"
 #include "Throwing.h"
@@ -95,7 +95,7 @@ public:
         return made;
     }
 
-    // What tells one row's copy from another's: its rowid, if that is no column, and all columns.
+    // Distinguishes the copies of rows: the rowid, if that is not a column, and all columns.
     static QStringList stored(const Table &table)
     {
         return table.columns.contains(table.key.front()) ? table.columns : table.key + table.columns;

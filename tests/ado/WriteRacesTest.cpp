@@ -27,8 +27,8 @@ struct Place
     std::function<std::shared_ptr<Recordset>(const QString &)> open;
 };
 
-// A kind of table; {text} is a text type, {key} what the engine has besides. Rows are told apart by `tag`,
-// which is no key.
+// A kind of table; {text} is a text type, {key} an additional clause of the engine. Rows are identified by
+// `tag`, which is not a key.
 struct Kind
 {
     const char *engines;
@@ -175,7 +175,7 @@ private:
         switch (what) {
         case ChangeColumn: {
             const QString column = one(QStringList{u"a"_s, u"b"_s, u"d"_s});
-            // Differences that a sort order does not see are differences.
+            // Differences that a sort order ignores must be detected.
             const QString text = row[names.indexOf(column)];
             const QString next = column == "b"_L1              ? u"7"_s
                                  : below(2) && text == u"x"_s  ? u"X"_s

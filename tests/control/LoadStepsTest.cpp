@@ -1,5 +1,5 @@
-// The steps of a load that show afterwards: buttons, views, column widths, Oracle's form of statement, and
-// what failed or repeated loads leave.
+// The effects of a load: buttons, views, column widths, Oracle's form of statement, and the state after
+// failed or repeated loads.
 #include "GridFixture.h"
 #include "ado/Connection.h"
 #include "ado/ConnectionFactory.h"

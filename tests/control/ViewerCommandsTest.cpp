@@ -245,7 +245,7 @@ TEST_F(Viewer, CompressViewSharesTheWidthAmongTheColumns)
     EXPECT_EQ(user.grid().ColWidth(2), qRound((width - 860) / 2.0));
 }
 
-// A statement that can't be opened: nothing that the user sees may change, and the viewer works on.
+// A statement that can't be opened: nothing visible may change, and the viewer still works.
 struct LostTable : Viewer, testing::WithParamInterface<const char *>
 {
 };

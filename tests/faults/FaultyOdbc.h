@@ -4,8 +4,8 @@
 
 namespace KovaTest {
 
-// The calls of ODBC that the data access makes, of which any can be made to fail. The program defines them
-// itself and hands them on to the driver manager.
+// The ODBC calls of the data access layer, any of which can be made to fail. The program defines these
+// functions itself and forwards them to the driver manager.
 namespace FaultyOdbc {
 
 enum class Fault {

@@ -9,7 +9,7 @@
 
 namespace KovaTest {
 
-// An engine, and what is added in front of its connection string so that it reads statements in another way.
+// An engine, and an addition to its connection string that changes how it reads statements.
 struct InjectionMode
 {
     const char *name;
