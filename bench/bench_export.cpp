@@ -124,7 +124,7 @@ int main()
         const QString file = folder.filePath(QStringLiteral("out") + fileEnding(format));
         const double milliseconds =
             measure([&] { exportToFile(file, options, recordset, all, columns, shouldContinue); },
-                    format == ExportFormat::Xlsx ? 1 : timesMeasured); // it is slow
+                    format == ExportFormat::Xlsx ? 1 : timesMeasured); // which takes its time
         QFile written(file);
         if (!written.open(QIODevice::ReadOnly))
             return 1;

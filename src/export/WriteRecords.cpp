@@ -44,9 +44,9 @@ private:
     ADODB::RowReader m_reader;
 };
 
-// This thread converts some records while another thread converts the ones after them. This thread also
-// writes the text that the other one has converted. The other thread does not read during `shouldContinue`,
-// in which the host may change the recordset.
+// Some of the records by this thread, and those that follow them by another one meanwhile. This thread also
+// writes what the other one made before. The other one has nothing to read while `shouldContinue` is asked,
+// which may let the host change the recordset.
 class TwoThreads
 {
 public:
@@ -56,13 +56,13 @@ public:
     {
     }
 
-    // Converts the next records up to `last` and returns how many.
+    // Takes the next records of those up to `last` and answers how many.
     qint64 write(qint64 first, qint64 last)
     {
         const qint64 own = std::min(std::max(m_portion * m_ownShare / 100, least), last - first + 1);
         const qint64 begin = first + own;
         const qint64 end = std::min(begin + m_portion - 1, last);
-        // Its destructor waits for the thread, even after an exception.
+        // Its end waits for the thread, whatever is thrown here.
         auto others =
             std::async(std::launch::async | std::launch::deferred, [&] { return append(begin, end); });
         writeOthers();
@@ -79,7 +79,7 @@ public:
         return own + appended;
     }
 
-    // Writes the other thread's last text.
+    // What the other thread made last.
     void writeOthers()
     {
         m_writer.add(m_othersText);
@@ -92,7 +92,7 @@ private:
     static constexpr qsizetype wanted = qsizetype{1} << 20; // bytes at a time
     static constexpr int shareStep = 2;                     // %
 
-    // Ends early if texts are long, and before a deleted record.
+    // Ends early where texts are long, and before a record that is gone.
     qint64 append(qint64 first, qint64 last)
     {
         m_text.resize(0);
@@ -110,10 +110,10 @@ private:
     Records m_others;
     RecordWriter &m_writer;
     RowTexts &m_texts;
-    QByteArray m_text;       // being filled by the other thread
-    QByteArray m_othersText; // filled by it before, to be written next
+    QByteArray m_text;       // is being made by the other thread
+    QByteArray m_othersText; // was made by it, and follows what has been written
     qint64 m_portion = least;
-    int m_ownShare = 80; // % of the other thread's portion, adjusted until neither waits for the other
+    int m_ownShare = 80; // % of the other thread's portion, moved until neither waits for the other
 };
 
 } // namespace

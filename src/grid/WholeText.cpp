@@ -33,7 +33,7 @@ QString breakable(const QString &text)
     return broken;
 }
 
-// The height of the text in a tool tip, which is about this many characters wide.
+// The height that it takes as a tool tip, which is about this many letters wide.
 int heightOfTip(const QString &text, const QFontMetrics &metrics)
 {
     constexpr int letters = 70;
@@ -45,7 +45,7 @@ int heightOfTip(const QString &text, const QFontMetrics &metrics)
 
 QString textForTip(const QString &text, const QWidget &widget)
 {
-    constexpr int borders = 20; // pixels, for the tool tip and the document in it
+    constexpr int borders = 20; // pixels, of the tip and of the document in it
     const int highest = widget.screen()->availableSize().height() / 3 - borders;
     const QFontMetrics metrics(QToolTip::font());
     if (text.size() <= mostShown && heightOfTip(text, metrics) <= highest)

@@ -55,7 +55,7 @@ protected:
 
     // Keeps the rows with the text of this row in this column.
     static StatementAnswer sameText(const StatementAnswer &all, qsizetype column, const QString &text);
-    // Whether the engine's LIKE is case-sensitive for these tables.
+    // How the engine's LIKE takes letters of these tables.
     Qt::CaseSensitivity letters() const;
     // Whether a condition can name the column alone.
     static bool isOnlyOne(const StatementAnswer &all, qsizetype column);

@@ -23,8 +23,8 @@ char *writeInteger(char *to, qint64 value)
     return std::to_chars(to, to + longestNumber, value).ptr;
 }
 
-// Most numbers have few decimals. If an integer divided by a power of ten equals the number exactly, it has
-// the digits (at most 15) that rounding to 15 digits would produce.
+// Most numbers have a few decimals. An integer through a power of ten that gives exactly this number says it
+// in at most 15 digits, and rounding to 15 digits can say nothing else.
 char *writeDecimal(char *to, double value)
 {
     static constexpr std::array<double, 5> powers{1, 10, 100, 1000, 10000};
@@ -104,7 +104,7 @@ bool isPlainTime(QByteArrayView text)
 
 } // namespace
 
-// False only means that a full check is needed.
+// False only means that it takes a closer look.
 bool isShownAsStored(QByteArrayView text, DataTypeEnum type, bool isAscii)
 {
     switch (type) {

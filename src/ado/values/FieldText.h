@@ -16,7 +16,7 @@ void appendText(QByteArray &utf8, const RawValue &raw, DataTypeEnum type);
 // value, as with texts.
 constexpr qsizetype longestNumber = 32;
 char *writeNumber(char *to, const RawValue &raw, DataTypeEnum type);
-// Whether a text is shown as it is stored. `isAscii`: all its bytes are known to be ASCII.
+// Whether a text is shown as it is stored. `isAscii` says that all its bytes are known to be.
 bool isShownAsStored(QByteArrayView text, DataTypeEnum type, bool isAscii = false);
 
 } // namespace ADODB

@@ -161,7 +161,7 @@ void GridParts::layOutFoot() const
         x += partWidth + gap;
     };
     std::size_t dividers = 0;
-    // A line in the gap to the left of the next part.
+    // A line in the gap to the left of what comes next.
     const auto divide = [&](int at) {
         m_dividers[dividers]->setGeometry(at - gap / 2 - 1, top + gap, 1, partHeight - gap);
         m_dividers[dividers++]->show();

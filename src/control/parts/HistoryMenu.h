@@ -7,8 +7,8 @@ namespace KOVAVSFDataGridLib {
 class GridToolbar;
 class Session;
 
-// The statements that the user can go back and forward to, newest first, in a drop-down menu of the back
-// button. Filled each time it opens.
+// The statements that the user can go back and forward to, the newest first, as a drop-down of the button
+// that goes back. It is filled each time it opens.
 class HistoryMenu final : public QMenu
 {
     Q_OBJECT

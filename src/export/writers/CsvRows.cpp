@@ -10,7 +10,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// What has to be done with a text.
+// What the bytes of a text need.
 struct TextLook
 {
     bool needsQuotes = false;
@@ -28,7 +28,7 @@ constexpr quint64 zeroByte(quint64 bytes)
     return (bytes - inEachByte(1)) & ~bytes & inEachByte(0x80);
 }
 
-// Copies a text and examines it: eight bytes at a time, without branches. Some bytes are read twice.
+// Copies a text and looks at it on the way: eight bytes at a time, without branches. Some are taken twice.
 TextLook copyText(char *to, QByteArrayView text)
 {
     quint64 special = 0;

@@ -15,11 +15,11 @@ public:
     void append(QByteArray &text, const std::vector<ADODB::RawValue> &cells) override;
 
 private:
-    // The maximum size of a record.
+    // The most that a record takes.
     qsizetype roomFor(const std::vector<ADODB::RawValue> &cells) const;
     // Reserves space at the end of the text; the caller must cut off what it doesn't use.
     static char *writableEnd(QByteArray &text, qsizetype room);
-    // Writes a cell and returns its end; null if the cell must be converted to text first.
+    // Writes a cell and answers its end; null where it has to be written by way of its text.
     char *write(char *to, const ADODB::RawValue &cell, ADODB::DataTypeEnum type) const;
     void appendValue(QByteArray &text, QByteArrayView value, bool isText) const;
 

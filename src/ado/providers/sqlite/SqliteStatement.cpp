@@ -44,7 +44,7 @@ private:
     std::function<bool()> m_shouldContinue;
 };
 
-// If SQLite has no memory to convert a value, it returns null, which must not be taken for an empty value.
+// Without memory for another form of a value SQLite gives none at all, which must not look like an empty one.
 QByteArrayView needBytes(sqlite3_stmt *statement, int column, const void *bytes)
 {
     const int size = sqlite3_column_bytes(statement, column);

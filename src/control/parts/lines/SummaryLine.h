@@ -4,8 +4,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The summary of the selected cells, in the line below the grid. Clicking a value, or selecting it with the
-// arrow keys and pressing Enter, copies it.
+// What the selected cells come to, in the line below the grid. Each value can be clicked, or reached by the
+// arrow keys and pressed by Enter, to copy it.
 class SummaryLine final : public QLabel
 {
     Q_OBJECT
