@@ -5,7 +5,7 @@
 
 #include <memory>
 
-// 1,000,000 records of 12 fields: numbers, texts in two scripts, dates, and one that is always Null.
+// 1,000,000 records of 12 fields: numbers, texts in two scripts, dates, and one field that is always Null.
 inline constexpr char millionRecords[] =
     "WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 1000000) "
     "SELECT I, I * 7 AS A, I / 100.0 AS P, '名称' || I AS T, "

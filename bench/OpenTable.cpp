@@ -50,7 +50,7 @@ Measurement readByBareLoop(const BenchTable &table)
         sqlite3_prepare_v2(db, wholeTable, -1, &query, nullptr) != SQLITE_OK)
         stop(sqlite3_errmsg(db));
     qint64 rows = 0;
-    qint64 sum = 0; // keeps the reading from being optimised away
+    qint64 sum = 0; // prevents the compiler from removing the reads
     for (; sqlite3_step(query) == SQLITE_ROW; ++rows) {
         for (int i = 0; i < table.columns; ++i) {
             switch (sqlite3_column_type(query, i)) {

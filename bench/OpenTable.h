@@ -11,7 +11,7 @@ namespace ADODB {
 class Recordset;
 }
 
-// A table in a SQLite file, and the ways to read it whole. Unix only.
+// A table in a SQLite file, and several ways to read all of it. Unix only.
 struct BenchTable
 {
     QByteArray path;
@@ -23,12 +23,12 @@ inline constexpr const char *wholeTable = "SELECT * FROM sales";
 
 struct Measurement
 {
-    double seconds = 0;          // as the clock says
+    double seconds = 0;          // elapsed time
     double processorSeconds = 0; // of all threads
     double peakMegabytes = 0;    // of a child process
 };
 
-// Runs from its construction.
+// Starts on construction.
 class Stopwatch
 {
 public:
@@ -42,17 +42,17 @@ private:
 
 [[noreturn]] void stop(const char *why);
 
-// Makes the file of a table with these SQL commands.
+// Creates a SQLite file with these SQL commands.
 void makeFile(const QByteArray &path, const QByteArray &script);
 
-// SQLite alone: reads every cell and keeps none.
+// SQLite alone: reads every cell and stores none.
 Measurement readByBareLoop(const BenchTable &table);
 void open(ADODB::Recordset &recordset, const BenchTable &table, bool isEditable);
-// As a grid opens it: ready for editing, and with a report that looks at nothing.
+// As a grid opens it: ready for editing, with a progress callback that does nothing.
 Measurement openRecordset(const BenchTable &table);
 
-// Qt's own model with all rows.
+// Reads all rows into Qt's own model.
 void fetch(QSqlQueryModel &model, const BenchTable &table);
 
-// Answers what `work` does in a child process, with that one's memory peak.
+// Returns the result of `work` in a child process, with the memory peak of that process.
 Measurement inChild(Measurement (*work)(const BenchTable &), const BenchTable &table);

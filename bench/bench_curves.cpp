@@ -21,7 +21,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Kinds of columns, over and over again.
+// The kinds of columns, repeated.
 constexpr const char *kinds[][2] = {
     {"INTEGER", "i * 7919"},
     {"VARCHAR(40)", "'text number ' || (i * 31 % 1200)"},
@@ -70,7 +70,7 @@ void measure(const char *curve, const BenchTable &table)
     std::vector<Measurement> bare;
     std::vector<Measurement> ours;
     std::vector<Measurement> model;
-    readByBareLoop(table); // brings the file into the system's cache
+    readByBareLoop(table); // loads the file into the system's cache
     for (int round = 0; round < (cells < manyCells ? 9 : 5); ++round) {
         bare.push_back(inChild(readByBareLoop, table));
         ours.push_back(inChild(openRecordset, table));

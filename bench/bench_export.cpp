@@ -20,7 +20,7 @@
 
 #include <sqlite3.h>
 
-// What it costs to write 1,000,000 x 12 records, beside writing the same bytes once they are there.
+// The cost of exporting 1,000,000 x 12 records, compared with writing the same bytes from memory.
 
 using namespace KOVAVSFDataGridLib;
 
@@ -41,7 +41,7 @@ void writePieces(QIODevice &copy, const QByteArray &bytes)
         copy.write(bytes.sliced(at, std::min(piece, bytes.size() - at)));
 }
 
-// To where the system keeps them before they reach the disk.
+// Only to the system's cache, not to disk.
 void writeAgain(const QString &file, const QByteArray &bytes)
 {
     QFile::remove(file);
@@ -50,7 +50,7 @@ void writeAgain(const QString &file, const QByteArray &bytes)
         writePieces(copy, bytes);
 }
 
-// As an export does it: on the disk, and then in the place of the old file.
+// Like an export: flushed to disk, and then renamed over the old file.
 void writeSafely(const QString &file, const QByteArray &bytes)
 {
     QSaveFile copy(file);
@@ -72,7 +72,7 @@ void readBySqlite()
     sqlite3_close(database);
 }
 
-// A loop over the same records in SQLite alone, which writes what its functions give as it is.
+// A loop over the same records with SQLite alone, which writes the results of its functions unchanged.
 void writeBySqlite(const QString &file)
 {
     sqlite3 *database = nullptr;

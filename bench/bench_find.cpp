@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cstdio>
 
-// What it costs to look for a text in 1,000,000 x 12 cells, beside a plain loop over the cells' texts.
+// The cost of searching 1,000,000 x 12 cells for a text, compared with a plain loop over the cells' texts.
 
 using namespace KOVAVSFDataGridLib;
 

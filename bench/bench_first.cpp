@@ -36,7 +36,7 @@ constexpr int rounds = 5;
     std::exit(1);
 }
 
-// Notes when a table view has painted cells for the first time.
+// Records when a table view first painted cells.
 class FirstPainting : public QObject
 {
 public:
@@ -65,7 +65,7 @@ private:
 
 struct Times
 {
-    double engine = 0; // milliseconds until there was a first record
+    double engine = 0; // milliseconds until the first record
     double painted = 0;
     double returned = 0;
 };

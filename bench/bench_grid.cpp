@@ -1,4 +1,4 @@
-// What the grid costs at the sizes where it could be felt: a full page, and a result of a thousand fields.
+// The cost of the grid at sizes where it could matter: a full page, and a result with a thousand fields.
 #include "ado/Connection.h"
 #include "ado/Recordset.h"
 #include "grid/FlexGrid.h"
@@ -20,7 +20,7 @@ namespace {
 
 constexpr int pageRows = 999999;
 
-// The best of several runs of `work`, in milliseconds; `prepare` runs before each and isn't counted.
+// The best of several runs of `work`, in milliseconds. `prepare` runs before each and isn't measured.
 double measure(const std::function<void()> &prepare, const std::function<void()> &work)
 {
     double best = 1e9;
@@ -39,7 +39,7 @@ void report(const char *what, double milliseconds)
     std::printf("  %-58s %9.2f ms\n", what, milliseconds);
 }
 
-// Kilobytes of this process that are in memory; 0 where the system doesn't say.
+// The resident memory of this process in kilobytes; 0 if the system doesn't report it.
 long residentKilobytes()
 {
     QFile status(u"/proc/self/statm"_s);
@@ -123,7 +123,7 @@ void measureColumns(int count)
         fill();
         paint(*grid);
     };
-    // Every third column hidden, the others each with a width of its own.
+    // Every third column is hidden; the others have different widths.
     const auto layOut = [&] {
         for (int col = 1; col <= count; ++col)
             grid->PutColWidth(col, col % 3 == 0 ? 0 : 15 * (30 + col % 50));

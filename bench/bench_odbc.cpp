@@ -62,7 +62,7 @@ Measured recordset(const QString &connectionString, const QString &sql)
     return {recordset.RecordCount(), megabytesInUse()};
 }
 
-// Numbers as numbers, moments as moments, and all else as texts.
+// Binds numbers as numbers, timestamps as timestamps, and everything else as text.
 SQLSMALLINT boundType(SQLHSTMT statement, SQLUSMALLINT column)
 {
     SQLLEN type = SQL_UNKNOWN_TYPE;
@@ -87,7 +87,7 @@ SQLSMALLINT boundType(SQLHSTMT statement, SQLUSMALLINT column)
     }
 }
 
-// With the one setting that PostgreSQL's driver needs in order not to keep the whole result.
+// With the one setting that keeps PostgreSQL's driver from storing the whole result.
 Measured bareLoop(const QString &connectionString, const QString &sql)
 {
     constexpr std::size_t rows = 1000;
@@ -129,7 +129,7 @@ Measured bareLoop(const QString &connectionString, const QString &sql)
     return {count, kept};
 }
 
-// In a process of its own: "rows seconds peak kept".
+// In a separate process: "rows seconds peak kept".
 void work(const QString &mode, const QString &sql)
 {
     const QString connectionString = qEnvironmentVariable(variable);

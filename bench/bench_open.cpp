@@ -130,7 +130,7 @@ int main()
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir folder;
     const BenchTable table = makeTable(folder.filePath(u"bench.db"_s).toUtf8());
-    inChild(readByBareLoop, table); // brings the file into the system's cache
+    inChild(readByBareLoop, table); // loads the file into the system's cache
 
     std::vector<Measurement> bare;
     std::vector<Measurement> recordset;

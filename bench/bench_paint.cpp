@@ -50,7 +50,7 @@ const std::vector<Shape> shapes{
     std::exit(1);
 }
 
-// Numbers, Latin and Chinese texts, moments and codes in turn; no two rows alike.
+// Numbers, Latin and Chinese texts, timestamps and codes in turn; all rows are different.
 QString table(int columns)
 {
     const QStringList values{
@@ -129,7 +129,7 @@ struct Costs
     Frame selected;
 };
 
-// Rows that have been seen are never scrolled to again, so that nothing kept from an earlier frame helps.
+// Never scrolls back to rows that were shown before, so that caches from earlier frames don't help.
 Costs measure(QTableView &view)
 {
     paintWhatIsDue();
@@ -164,7 +164,7 @@ Costs measure(QTableView &view)
     return costs;
 }
 
-// Of a scroll by one row most is moving the picture, so a cell's share says nothing there: `cells` is 0.
+// Most of a scroll by one row is moving the picture, so the cost per cell is meaningless: `cells` is 0.
 void print(const char *what, const Frame &frame, int cells, const Frame *peer)
 {
     std::printf("    %-16s %8.2f %8.2f", what, frame.median, frame.worst);

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cstdio>
 
-// What the query model costs at the sizes where it could be felt.
+// The cost of the query model at sizes where it could matter.
 
 using namespace KOVAVSFDataGridLib;
 
@@ -69,7 +69,7 @@ private:
     std::vector<SourceField> m_fields;
 };
 
-// What laying out columns asks of the catalogue: width and mark of each column's field, found by its header.
+// The catalogue lookups for arranging columns: width and mark of each column's field, by its heading.
 void LayOutColumns(colDataFields &catalogue, const QStringList &names)
 {
     catalogue.AddFieldsByCol(names);

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// In the order in which a host sets them: ConnectionString empties the statements.
+// In the order in which a host sets them: setting ConnectionString clears the statements.
 constexpr const char *properties[] = {
     "BackColor",        "DataBackColor", "DataFont",       "UseModel",  "ShowModel", "DBType",   "TableType",
     "ConnectionString", "SQLShow",       "SQLPartDisplay", "SQLFilter", "SQLSort",   "PicField", "ErrorHint"};
@@ -25,14 +25,14 @@ DataPreview::DataPreview(const QWidget &designed)
 {
     setObjectName(u"DataPreview"_s);
     setWindowTitle(DesignerTexts::PreviewTitle.arg(designed.objectName()));
-    setModal(true); // from the first moment on, also while the data are loaded
+    setModal(true); // from the start, also while the data is loading
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_grid);
 
     m_grid->setObjectName(designed.objectName());
-    m_grid->PutUserMode(false); // for UseModel, which only a form editor may write
+    m_grid->PutUserMode(false); // for UseModel, which only a form editor may set
     for (const char *property : properties)
         m_grid->setProperty(property, designed.property(property));
     m_grid->PutUserMode(true);
@@ -41,7 +41,7 @@ DataPreview::DataPreview(const QWidget &designed)
 
 void DataPreview::run()
 {
-    show(); // a long load tells its progress
+    show(); // so that a long load can show its progress
     if (m_grid->IsLoadData())
         exec();
     m_grid->ClearObject();

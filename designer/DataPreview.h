@@ -6,7 +6,7 @@ class KOVAVSFDataGrid;
 
 namespace KOVAVSFDataGridLib {
 
-// A window with a grid that runs, made like one that is being designed. Only here is a database touched.
+// A window with a running grid that has the properties of the designed one. Only this window uses a database.
 class DataPreview final : public QDialog
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class DataPreview final : public QDialog
 public:
     explicit DataPreview(const QWidget &designed);
 
-    // Loads the data and shows them until the window is closed. A load that fails has said why.
+    // Loads the data and shows it until the window is closed. If the load fails, the grid shows the reason.
     void run();
 
 private:

@@ -2,7 +2,7 @@
 
 #include <QtCore/QString>
 
-// The texts that a developer meets in Qt Designer, for proof-reading in one place.
+// The texts shown in Qt Designer, collected here for proofreading.
 namespace KOVAVSFDataGridLib::DesignerTexts {
 
 using namespace Qt::StringLiterals;

@@ -39,7 +39,7 @@ QString GridPlugin::includeFile() const
     return u"<KOVAVSFDataGrid>"_s;
 }
 
-// The widget box takes an icon without sizes, as a scalable one is, for none at all.
+// The widget box ignores an icon without fixed sizes, such as a scalable one.
 QIcon GridPlugin::icon() const
 {
     const QIcon scalable(u":/KOVAVSFDataGridLib/designer/KOVAVSFDataGrid.svg"_s);
@@ -49,7 +49,7 @@ QIcon GridPlugin::icon() const
     return icon;
 }
 
-// Statements and connection strings are for no translator.
+// Statements and connection strings must not be translated.
 QString GridPlugin::domXml() const
 {
     return uR"(<ui language="c++" displayname="KOVAVSFDataGrid">

@@ -6,7 +6,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What Qt Designer and QUiLoader ask about the grid.
+// The plugin that provides the grid to Qt Designer and QUiLoader.
 class GridPlugin final : public QObject, public QDesignerCustomWidgetInterface
 {
     Q_OBJECT

@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Through the form's command history, so that the developer can undo it and the property editor follows.
+// Uses the form's command history, so that the change can be undone and the property editor is updated.
 void writeThroughForm(QObject &control, const QString &property, const QVariant &value)
 {
     auto *widget = qobject_cast<QWidget *>(&control);
@@ -33,7 +33,7 @@ void writeThroughForm(QObject &control, const QString &property, const QVariant 
         control.setProperty(property.toLatin1(), value);
 }
 
-// Nothing where the connection doesn't open: the page then offers what the statement itself names.
+// No value if the connection can't be opened: the page then offers the names in the statement itself.
 std::optional<QStringList> readFieldNames(const QObject &control, const QString &statement)
 {
     try {

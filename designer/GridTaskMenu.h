@@ -8,7 +8,7 @@ class QWidget;
 
 namespace KOVAVSFDataGridLib {
 
-// What the context menu of a grid on a form begins with: an entry for each property page, and one that shows
+// The first entries in the context menu of a grid on a form: one for each property page, and one that shows
 // the data.
 class GridTaskMenu final : public QObject, public QDesignerTaskMenuExtension
 {
@@ -16,11 +16,11 @@ class GridTaskMenu final : public QObject, public QDesignerTaskMenuExtension
     Q_INTERFACES(QDesignerTaskMenuExtension)
 
 public:
-    // The form editor destroys the menu along with the grid.
+    // The form editor destroys the menu together with the grid.
     GridTaskMenu(QWidget &grid, QObject *parent);
 
     QList<QAction *> taskActions() const override { return m_actions; }
-    // What a double-click on the grid does: the page for SQLShow.
+    // Runs on a double-click on the grid: the page for SQLShow.
     QAction *preferredEditAction() const override { return m_preferred; }
 
 private:

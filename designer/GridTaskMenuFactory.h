@@ -4,7 +4,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Gives each grid on a form its task menu.
+// Creates the task menu of each grid on a form.
 class GridTaskMenuFactory final : public QExtensionFactory
 {
     Q_OBJECT

@@ -3,14 +3,14 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QString>
 
-// The texts of the host program itself, for proof-reading in one place. They are written in Chinese and
+// The texts of the host program itself, collected here for proofreading. They are written in Chinese and
 // translated in translations/kovagrid_en.ts.
 struct HostTexts
 {
     Q_DECLARE_TR_FUNCTIONS(HostTexts)
 
 public:
-    // %1 is a file or a folder, %2 the system's or the database's own words.
+    // %1 is a file or a folder, %2 the error message of the system or the database.
     static QString CantMakeFolder() { return tr("无法建立文件夹：%1"); }
     static QString CantMakeSample() { return tr("无法建立示例数据库：%1（%2）"); }
     static QString CantPrint() { return tr("无法输出记录。"); }
@@ -18,7 +18,7 @@ public:
     static QString CantListTables() { return tr("无法列出表：%1"); }
     static QString NotADatabase() { return tr("文件“%1”不是 SQLite 或 Access 数据库。"); }
 
-    // The name of the language that the texts are in.
+    // The name of the current language.
     static QString Language() { return tr("zh-CN"); }
 
     // The command line

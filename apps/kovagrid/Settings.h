@@ -4,5 +4,5 @@
 
 class QSettings;
 
-// What this program keeps for its user: recent connections, and where the window and its panes were.
+// The user's settings: recent connections, and the positions of the window and its panes.
 std::unique_ptr<QSettings> userSettings();

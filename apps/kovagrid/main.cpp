@@ -25,7 +25,7 @@ namespace {
 
 enum ExitCode { Done = 0, Failed = 1, BadUsage = 2 };
 
-// On Unix a program without a display can still load, print and take its picture.
+// On Unix, the program can load, print and take a screenshot without a display.
 bool hasDisplay()
 {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
@@ -56,7 +56,7 @@ void pressButtons(const KOVAVSFDataGrid &grid, const QStringList &keys)
         button(grid, key)->trigger();
 }
 
-// The translators belong to the application.
+// The application owns the translators.
 void install(const QString &translation, const QString &folder)
 {
     auto *translator = new QTranslator(QApplication::instance());
@@ -64,7 +64,7 @@ void install(const QString &translation, const QString &folder)
         QApplication::installTranslator(translator);
 }
 
-// The texts are written in Chinese, Qt's in English. Installing the library's own translation makes it the
+// The program's texts are written in Chinese, Qt's in English. Installing the library's translation sets the
 // language of all grids, as their property Language does.
 void useLanguage(const QString &language)
 {
@@ -76,7 +76,7 @@ void useLanguage(const QString &language)
         QLocale::setDefault(QLocale(QLocale::Chinese, QLocale::China));
         install(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     }
-    // Chinese first: a system's default font may draw it in another country's shapes.
+    // A Chinese font first: a system's default font may use the glyphs of another country.
     QFont font = QApplication::font();
     font.setFamilies({u"Noto Sans CJK SC"_s, u"Microsoft YaHei UI"_s, u"PingFang SC"_s, font.family()});
     QApplication::setFont(font);
@@ -111,16 +111,16 @@ int badUsage(const QString &error)
     return BadUsage;
 }
 
-// Loads, does what was asked for and leaves.
+// Loads, does what the options say and exits.
 int runUnattended(HostWindow &window, const Options &options)
 {
     Unattended unattended;
     window.resize(options.size);
-    if (!options.print && !options.screenshot.isEmpty()) // the columns as a user gets them, but not his own
+    if (!options.print && !options.screenshot.isEmpty()) // the layout that users see, but not the stored one
         window.grid()->PutLayoutKey(u"kovagrid --screenshot"_s);
     window.show();
     window.page()->setUpGrid();
-    unattended.forgetMessages(); // whether a text can be loaded shows in a moment
+    unattended.forgetMessages(); // whether a text can be loaded is known only afterwards
     if (!window.page()->load())
         return failed(unattended.messages());
     Q_EMIT window.page()->loaded();
@@ -132,7 +132,7 @@ int runUnattended(HostWindow &window, const Options &options)
                                 .arg(window.grid()->RecordSet()->property("RecordCount").toLongLong())
                                 .arg(table->model()->columnCount())
                                 .arg(window.page()->secondsOfLastLoad(), 0, 'f', 2);
-    // Standard output belongs to the records when they are asked for.
+    // If records are printed, standard output is for them only.
     std::fprintf(options.print ? stderr : stdout, "%s\n", qUtf8Printable(summary));
     if (options.print && !Unattended::print(*table, options.printRows))
         return failed(HostTexts::CantPrint());
@@ -150,7 +150,7 @@ int run(int argc, char **argv)
     if (!isWatched) {
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
             qputenv("QT_QPA_PLATFORM", "offscreen");
-        // What the off-screen platform can't do is no news here.
+        // Suppresses warnings about what the off-screen platform doesn't support.
         QLoggingCategory::setFilterRules(u"default.warning=false"_s);
     }
     QApplication app(argc, argv);
@@ -183,7 +183,7 @@ int run(int argc, char **argv)
         return runUnattended(window, *options);
     window.rememberSettings();
     window.show();
-    // The window is seen before its data, which can take longer.
+    // Shows the window before loading, which can take longer.
     QTimer::singleShot(0, &window, [&] {
         window.page()->loadForm();
         pressButtons(*window.grid(), options->keys);

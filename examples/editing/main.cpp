@@ -27,10 +27,10 @@ int main(int argc, char **argv)
     window.setCentralWidget(grid);
     grid->PutLanguage(QStringLiteral("en"));
     grid->PutConnectionString(QStringLiteral("Provider=SQLite;Data Source=") + arguments.at(1));
-    // All fields of one table with a primary key: the grid knows where a value comes from, and can write it.
+    // All fields of one table with a primary key: so the grid knows where a value is stored and can write it.
     grid->PutSQLShow(QStringLiteral("select * from \"%1\"").arg(table));
 
-    // The reference lists the numbers of the menu's entries.
+    // The reference lists the numbers of the menu entries.
     QToolBar *bar = window.addToolBar(QStringLiteral("Records"));
     const std::pair<int, const char *> commands[] = {
         {24, "Previous"}, {25, "Next"}, {8, "New"}, {9, "Delete"}};
@@ -39,8 +39,8 @@ int main(int argc, char **argv)
         QObject::connect(bar->addAction(QString::fromLatin1(caption)), &QAction::triggered, command,
                          &QAction::trigger);
     }
-    // A record is saved when the user goes to another one or closes the window. If the database refuses it, a
-    // message says why, and the record stays as it was typed.
+    // A record is saved when the user moves to another one or closes the window. If the database refuses it,
+    // a message shows the reason, and the input is kept.
     QObject::connect(grid, &KOVAVSFDataGrid::RecordChanged, &window, [&](qint32, qint32 record) {
         window.statusBar()->showMessage(QStringLiteral("Record %1").arg(record));
     });

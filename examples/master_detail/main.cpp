@@ -10,7 +10,7 @@
 
 namespace {
 
-// A name or a text in an SQL statement: quote marks in it are doubled.
+// A quoted name or string for an SQL statement. Quote marks inside are doubled.
 QString quoted(QString text, QChar mark)
 {
     return mark + text.replace(mark, QString(2, mark)) + mark;
@@ -38,7 +38,7 @@ int main(int argc, char **argv)
     master->PutSQLShow(QStringLiteral("select * from ") + quoted(arguments.at(2), u'"'));
     detail->PutConnectionString(connection);
 
-    // Whoever holds an arrow key down passes many records. The rows of the last one are enough.
+    // Holding an arrow key down passes many records. Only the rows of the last one are loaded.
     QTimer pause;
     pause.setSingleShot(true);
     pause.setInterval(100);

@@ -1,6 +1,6 @@
-// The host asks for the filter in a dialog of its own: `own_filter sample.db 订单 客户名称`.
-// The grid runs the condition, shows it above the records and keeps it in its history, like one of its own
-// dialog.
+// A host with its own filter dialog: `own_filter sample.db 订单
+// 客户名称`. The grid applies the condition, shows it above the
+// records and keeps it in its history, like one of its own dialog.
 #include <KOVAVSFDataGrid>
 
 #include <QtWidgets/QApplication>
@@ -10,8 +10,8 @@
 
 namespace {
 
-// The condition that a field contains a text. In a pattern, % and _ stand for any characters, so they are
-// escaped.
+// A condition that a field contains a text. In a
+// pattern, % and _ are wildcards, so they are escaped.
 QString contains(QString field, QString text)
 {
     field.replace(u'"', QStringLiteral("\"\""));
@@ -39,14 +39,14 @@ int main(int argc, char **argv)
     grid.PutConnectionString(QStringLiteral("Provider=SQLite;Data Source=") + arguments.at(1));
     grid.PutSQLShow(QStringLiteral("select * from \"%1\"").arg(table));
 
-    // The grid asks before it opens its own dialog.
+    // Emitted before the grid opens its own dialog.
     QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid, [&](qint32 &Cancel, const QString &) {
         bool isGiven = false;
         const QString text =
             QInputDialog::getText(&grid, QStringLiteral("Filter"), field + QStringLiteral(" contains:"),
                                   QLineEdit::Normal, {}, &isGiven);
         Cancel = 0;                                                           // not the grid's own dialog
-        grid.PutPassQurryFilter(isGiven ? contains(field, text) : QString()); // an empty one changes nothing
+        grid.PutPassQurryFilter(isGiven ? contains(field, text) : QString()); // an empty one has no effect
     });
     QObject::connect(&grid, &KOVAVSFDataGrid::RecordsetChanged, &grid, [&] {
         if (const QObject *records = grid.RecordSet())

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-// What a Python handler of an event can read and change. Python has no arguments by reference, so an event
+// What a Python handler of an event can read and change. Python has no reference arguments, so an event
 // carries one of these. Copies share their values: each handler has a copy, and may keep it.
 
 struct MouseValues
@@ -40,7 +40,7 @@ private:
     std::shared_ptr<Values> m_values;
 };
 
-// What the events carry: classes of their own, because moc and PyQt know types by a plain name.
+// The arguments of the events: separate classes, because moc and PyQt need plain type names.
 class MouseArguments : public SharedArguments<MouseValues>
 {
     using SharedArguments::SharedArguments;
@@ -61,7 +61,7 @@ class FilterArguments : public SharedArguments<FilterValues>
     using SharedArguments::SharedArguments;
 };
 
-// The same as a Python object, which owns its copy: PyQt hands a class over as it lies on the sender's stack.
+// The same for a Python object, which owns its copy: PyQt passes a reference to the sender's stack.
 struct KeptMouseArguments : MouseArguments
 {
 };

@@ -5,8 +5,8 @@
 
 #include <KOVAVSFDataGrid>
 
-// The control as Python sees it: events with arguments by reference carry an object instead, under the same
-// names.
+// The control for Python. Events with reference arguments
+// carry an object instead, under the same names.
 class PythonGrid : public KOVAVSFDataGrid
 {
     Q_OBJECT
@@ -14,10 +14,10 @@ class PythonGrid : public KOVAVSFDataGrid
 public:
     explicit PythonGrid(QWidget *parent = nullptr);
 
-    // The open result; closed when there is none.
+    // The open result; a closed one if there is none.
     Result result();
 
-    // Public, because the binding passes calls from Python on to them.
+    // Public, because the binding forwards calls from Python to them.
     using KOVAVSFDataGrid::changeEvent;
     using KOVAVSFDataGrid::resizeEvent;
 

@@ -8,7 +8,7 @@ using namespace ADODB;
 
 namespace {
 
-// Calls module.name(…) with arguments as Py_BuildValue takes them in parentheses. A new reference.
+// Calls module.name(…), with arguments in the format of Py_BuildValue. Returns a new reference.
 PyObject *call(const char *module, const char *name, const char *format, ...)
 {
     PyObject *imported = PyImport_ImportModule(module);
@@ -59,7 +59,7 @@ QString textOf(PyObject *object)
     return QString::fromUtf8(bytes, size);
 }
 
-// What str() or isoformat() gives.
+// The result of str() or isoformat().
 QString textBy(PyObject *object, const char *method)
 {
     PyObject *result = PyObject_CallMethod(object, method, nullptr);
@@ -126,7 +126,7 @@ PyObject *pythonValue(const QVariant &value, DataTypeEnum type)
     if (isExact(type)) {
         if (PyObject *number = call("decimal", "Decimal", "(s)", value.toString().toUtf8().constData()))
             return number;
-        PyErr_Clear(); // a cell of SQLite can hold a text there
+        PyErr_Clear(); // a cell of SQLite can contain a text there
     }
     return text(value.toString());
 }
@@ -148,7 +148,7 @@ std::optional<QVariant> fieldValue(PyObject *object)
         return QVariant(textOf(object));
     if (PyBytes_Check(object))
         return QVariant(QByteArray(PyBytes_AsString(object), PyBytes_Size(object)));
-    // A datetime is a date as well, so it comes first.
+    // A datetime is also a date, so it is checked first.
     if (isInstance(object, "datetime", "datetime")) {
         const QDateTime local = QDateTime::fromString(textBy(object, "isoformat").first(19), Qt::ISODate);
         return QVariant(QDateTime(local.date(), local.time(), Qt::UTC));

@@ -1,6 +1,6 @@
 #pragma once
 
-// Python uses `slots` as a member's name, which Qt makes a keyword for those who want it.
+// Python uses `slots` as a member name, but Qt defines it as a keyword.
 #pragma push_macro("slots")
 #undef slots
 #include <Python.h>
@@ -13,21 +13,21 @@
 
 #include <optional>
 
-// Between the values of fields and Python's own. All of it needs the interpreter's lock.
+// Converts between field values and Python values. Everything requires the interpreter's lock.
 
-// A new reference: None, bool, int, float, str, bytes, datetime.date, time or datetime; Decimal for an exact
-// number. What has no form in Python (a date before the year 1) is a str. Null with a Python error when that
-// fails.
+// Returns a new reference: None, bool, int, float, str, bytes, datetime.date, time or datetime, or Decimal
+// for an exact number. A value that Python can't represent (a date before year 1) becomes a str. Null with a
+// Python error on failure.
 PyObject *pythonValue(const QVariant &value, ADODB::DataTypeEnum type);
 
-// The reverse. Nothing, with a Python TypeError, for other objects.
+// The reverse. For other objects, no value and a Python TypeError.
 std::optional<QVariant> fieldValue(PyObject *object);
 
-// Raise the package's exceptions with all that the error says.
+// Raise the package's exceptions with all details of the error.
 void raiseError(const ADODB::Error &error);
 void raiseError(const KOVAVSFDataGridLib::ControlError &error);
 
-// Runs `action`. When it throws, raises the Python exception and returns the neutral value (null, false).
+// Runs `action`. If it throws, raises the Python exception and returns a default value (null, false).
 template<typename Action>
 auto guarded(Action &&action) -> decltype(action())
 {

@@ -6,8 +6,8 @@
 
 #include <memory>
 
-// The control's open result for Python code, which may keep it longer than the result is open: it does not
-// keep the result alive, and afterwards throws 3704 as a closed recordset does.
+// The control's open result for Python code, which may keep this object after the result was closed: it does
+// not keep the result alive, and then throws 3704 like a closed recordset.
 class Result
 {
 public:
@@ -15,12 +15,12 @@ public:
 
     // Whether the result is open.
     bool isOpen() const;
-    // Throws 3704 when it is closed.
+    // Throws 3704 if it is closed.
     std::shared_ptr<ADODB::Recordset> open() const;
 
-    // A list of tuples, one for each record from `first`, 1-based, at most `count`.
+    // A list of tuples, one per record, starting at `first` (1-based), at most `count`.
     PyObject *records(qint64 first, qint64 count) const;
-    // A list of the values of one column in all records.
+    // A list of the values of one column, for all records.
     PyObject *column(int index) const;
 
 private:

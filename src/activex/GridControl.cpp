@@ -84,13 +84,13 @@ STDMETHODIMP_(ULONG) GridControl::Release()
 {
     const LONG left = InterlockedDecrement(&m_references);
     if (left == 0) {
-        // Ending calls out to listeners and containers; they may take and give back references meanwhile.
+        // The shutdown calls listeners and containers, which may add and release references meanwhile.
         m_references = 1;
         const bool isInEvent = m_connectionPoints.events().isTelling();
         m_inPlace.end();
         m_connectionPoints.end();
-        // A widget that is in the middle of a signal of its own cannot go yet, and a script host has no event
-        // loop that would let it go: its file is closed at once.
+        // A widget that is emitting a signal can't be deleted yet, and a script host has no event loop that
+        // would delete it later. So its file is closed at once.
         if (isInEvent) {
             m_grid->Clear();
             m_grid.release()->deleteLater();

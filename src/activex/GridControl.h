@@ -16,19 +16,19 @@ class KOVAVSFDataGrid;
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// The control as COM sees it: one identity over the interfaces that containers and scripts ask for. Each of
-// them is a small class of its own; this one holds the widget and what they share. May be aggregated.
+// The control as a COM object: one identity with all interfaces that containers and scripts ask for. Each
+// interface is a small class of its own; this class has the widget and their shared state. Can be aggregated.
 //
-// Lives on the thread of the first one made in the process, as the widget does.
+// Lives on the thread of the first control in the process, as the widget does.
 class GridControl final : private IUnknown
 {
 public:
-    // With one reference, the caller's, on the interface asked for. `outer` is the aggregating object or
-    // null.
+    // Creates a control with one reference, owned by the caller, to the requested interface. `outer` is the
+    // aggregating object or null.
     static HRESULT create(IUnknown *outer, REFIID iid, void **object);
 
     KOVAVSFDataGrid &grid() { return *m_grid; }
-    // The object that clients know: this one, or the one that aggregates it.
+    // The object that clients see: this one, or the one that aggregates it.
     IUnknown &identity() { return *m_outer; }
 
     OleObject &oleObject() { return m_oleObject; }
@@ -43,14 +43,14 @@ private:
     explicit GridControl(IUnknown *outer);
     ~GridControl();
 
-    // The inner identity: what an aggregating object holds.
+    // The inner IUnknown, which an aggregating object holds.
     STDMETHODIMP QueryInterface(REFIID iid, void **object) override;
     STDMETHODIMP_(ULONG) AddRef() override;
     STDMETHODIMP_(ULONG) Release() override;
 
     ModuleUse m_use;
     LONG m_references = 1;
-    IUnknown *const m_outer; // not counted: it owns this
+    IUnknown *const m_outer; // no reference counted: it owns this object
     std::unique_ptr<KOVAVSFDataGrid> m_grid;
 
     GridDispatch m_dispatch;

@@ -24,7 +24,7 @@ void Adodc::PutRecordset(std::shared_ptr<ADODB::Recordset> recordset)
         m_recordset->AddObserver(this);
     const Notifications::Hold hold(m_notifications);
     m_notifications.send(this, [this] { Q_EMIT RecordsetReplaced(); });
-    // Whoever hears of it first may put another one or close this one.
+    // The first listener may set another recordset or close this one.
     const auto sendWhileOpen = [&](void (Adodc::*signal)(EventReasonEnum), EventReasonEnum reason) {
         m_notifications.send(this, [this, recordset, signal, reason] {
             if (m_recordset == recordset && recordset->State() == adStateOpen)

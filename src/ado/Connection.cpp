@@ -20,7 +20,7 @@ using KOVAVSFDataGridLib::engineNamed;
 
 namespace {
 
-// A connection string can say this in several ways; an argument must replace them all.
+// The keyword has synonyms; an argument must replace them all.
 void replaceKeyword(ADODB::ConnectionString &text, const QString &keyword, const QString &synonym,
                     const QString &value)
 {
@@ -34,7 +34,7 @@ void replaceKeyword(ADODB::ConnectionString &text, const QString &keyword, const
 
 Connection::Connection() = default;
 
-// The session lives on while a recordset needs it to write, as ADO's recordsets keep their connection.
+// The session stays open while a recordset needs it for writing, as in ADO.
 Connection::~Connection() = default;
 
 QString Connection::ConnectionString() const
@@ -83,7 +83,7 @@ QString Connection::EngineName() const
 
 std::vector<FieldInfo> Connection::Describe(const QString &sql) const
 {
-    // A copy, because whoever watches the wait can let the host close this connection.
+    // A copy, because the host may close this connection during the wait.
     const std::shared_ptr<Session> session = this->session();
     Watched watched;
     return session->prepare(sql, Access::ReadOnly, [&] { return watched.shouldContinue(); })->fields();

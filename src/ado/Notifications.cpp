@@ -36,7 +36,7 @@ Notifications::Hold::Hold(Notifications &notifications) : m_queue(notifications.
     ++m_queue->holds;
 }
 
-// A listener may hold and send in its turn; what it causes is sent before what still waits here.
+// A listener may hold and send reports too; those are sent before the reports still waiting here.
 Notifications::Hold::~Hold()
 {
     if (--m_queue->holds > 0)

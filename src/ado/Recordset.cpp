@@ -107,7 +107,7 @@ void Recordset::Open(const QString &source, const std::shared_ptr<Connection> &c
     d->needClosed();
     if (!connection || connection->State() == adStateClosed)
         throw Error(adErrInvalidConnection, Texts::connectionClosed());
-    if (cursorType != adOpenUnspecified) // its result is a snapshot all the same
+    if (cursorType != adOpenUnspecified) // the result is still a snapshot
         needCursorType(cursorType);
     if (lockType != adLockUnspecified)
         needLockType(lockType);

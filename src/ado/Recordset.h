@@ -112,12 +112,12 @@ public:
     // transaction, and shows what the database stored. CancelUpdate discards it. Update and Delete change the
     // record only if all of it is still as shown; otherwise they throw dbErrConcurrency. If Update fails,
     // nothing is saved and the edit stays pending. After dbErrInDoubt the next Update finds out whether the
-    // edit was saved, and saves it only if not; Delete does the same. If that can't be told of a new record,
-    // Update throws dbErrPerhapsSaved until ForgetAttempt or CancelUpdate. If a result can't be written
-    // (read-only, join, view, aggregate, distinct, union), they throw 3251. A new record is counted after it
-    // is saved. A move drops a new record without any value. AddNew on an unsaved new record saves it first;
-    // it throws dbErrCancelled if the record is refused or has no value. If the connection to a server was
-    // lost, the next of these calls opens a new one.
+    // edit was saved, and saves it only if not; Delete does the same. If that can't be determined for a new
+    // record, Update throws dbErrPerhapsSaved until ForgetAttempt or CancelUpdate. If a result can't be
+    // written (read-only, join, view, aggregate, distinct, union), they throw 3251. A new record is counted
+    // after it is saved. A move drops a new record without any value. AddNew on an unsaved new record saves
+    // it first; it throws dbErrCancelled if the record is refused or has no value. If the connection to a
+    // server was lost, the next of these calls opens a new one.
     EditModeEnum EditMode() const;
     // Why no record of the result can be added, changed or deleted, as a sentence for the user. Empty if the
     // result can be written, or if it is closed. Known since Open; the database is not asked.

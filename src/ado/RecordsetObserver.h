@@ -4,14 +4,14 @@
 
 namespace ADODB {
 
-// Called when a recordset changes; see Recordset::AddObserver. An observer must not throw where nothing else
-// is said.
+// Called when a recordset changes; see Recordset::AddObserver. An observer must not throw unless stated
+// otherwise.
 class RecordsetObserver
 {
 public:
-    // The current record is about to be saved or left: what somebody is still typing for it can be written
-    // into its fields now. It may throw Error; the record then stays the current one, and
-    // is not saved.
+    // The current record is about to be saved or left. Text that
+    // the user is still typing can be written to its fields now.
+    // May throw Error; the record is then neither saved nor left.
     virtual void willLeaveRecord() {}
     // The current record moved, or a move stopped at the beginning or end. Opening is reported as adRsnMove.
     virtual void moveComplete(EventReasonEnum reason) = 0;

@@ -115,7 +115,7 @@ void Stream::SaveToFile(const QString &fileName, SaveOptionsEnum options)
     const QString shown = QDir::toNativeSeparators(fileName);
     if (options == adSaveCreateNotExist && QFileInfo::exists(fileName))
         throw Error(adErrWriteFile, Texts::fileExists().arg(shown));
-    // A QSaveFile replaces the old file only when all of the new one is written.
+    // QSaveFile replaces the old file only after the new one was written completely.
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly) || file.write(m_bytes) != m_bytes.size() || !file.commit())
         throw Error(adErrWriteFile, Texts::fileNotWritten().arg(shown, file.errorString()));

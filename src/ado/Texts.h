@@ -2,8 +2,8 @@
 
 #include "language/Text.h"
 
-// Every text that the data access shows to a person, in one place for proof-reading. %1, %2 … are file names,
-// field names, numbers or the database's own words; never a connection string or a password.
+// All texts that the data access layer shows to users, collected here for proofreading. %1, %2 … are file
+// names, field names, numbers or the database's own messages; never a connection string or a password.
 namespace ADODB::Texts {
 
 using KOVAVSFDataGridLib::Text;

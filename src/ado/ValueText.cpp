@@ -13,7 +13,7 @@ namespace {
 
 QString dateText(QDate date)
 {
-    // ISODate is the fast way but knows the years 0 to 9999 only.
+    // ISODate is fast, but supports only the years 0 to 9999.
     const QString text = date.toString(Qt::ISODate);
     return text.isEmpty() ? date.toString(u"yyyy-MM-dd") : text;
 }
@@ -28,7 +28,7 @@ QString timeText(QTime time)
     return text;
 }
 
-// Adding 0 turns the negative zero, which nobody wants to read, into the plain one.
+// Adding 0 turns -0 into 0.
 QString realText(double value, int digits)
 {
     return QString::number(value + 0.0, 'G', digits);
@@ -46,7 +46,7 @@ QString ValueText(const QVariant &value)
         return value.toBool() ? u"True"_s : u"False"_s;
     case QMetaType::Double:
         return realText(value.toDouble(), 15);
-    case QMetaType::Float: // more digits would show the noise of the conversion
+    case QMetaType::Float: // more digits would be artefacts of the conversion
         return realText(value.toDouble(), 7);
     case QMetaType::QDate:
         return dateText(value.toDate());

@@ -7,9 +7,9 @@
 
 namespace ADODB {
 
-// The one text form of a field's value: Null "", text as it is, integers in decimal, floating point with at
-// most 15 significant digits, "True"/"False", yyyy-MM-dd, HH:mm:ss and both with a blank between (a fraction
-// of a second only when there is one), GUID in braces, binary "<n 字节>" ("<n bytes>" in English).
+// The one text form of a field's value: Null "", text unchanged, integers in decimal, floating point with at
+// most 15 significant digits, "True"/"False", yyyy-MM-dd, HH:mm:ss, both with a blank between (and a fraction
+// of a second only if there is one), GUID in braces, binary "<n 字节>" ("<n bytes>" in English).
 KOVA_EXPORT QString ValueText(const QVariant &value);
 
 } // namespace ADODB

@@ -7,26 +7,26 @@
 
 namespace KOVAVSFDataGridLib {
 
-// How the characters of a text file are written.
+// The encoding of a text file.
 enum class TextEncoding { Utf8, Utf8WithMark, Gb18030 };
 
-// Turns UTF-8 into an encoding, piece by piece. A piece ends with a whole character.
+// Converts UTF-8 to an encoding, piece by piece. A piece must not end inside a character.
 class Encoder
 {
 public:
-    // Throws ADODB::Error when this system doesn't have the encoding.
+    // Throws ADODB::Error if the system doesn't support the encoding.
     explicit Encoder(TextEncoding encoding);
 
     static bool isAvailable(TextEncoding encoding);
-    // What a file begins with.
+    // The byte order mark at the start of a file.
     QByteArrayView mark() const;
-    // Throws ADODB::Error when the encoding lacks a character. The answer is valid until the next call or as
-    // long as `utf8` is.
+    // Throws ADODB::Error if the encoding lacks a character. The result is valid until the next call and
+    // while `utf8` is valid.
     QByteArrayView encode(QByteArrayView utf8);
 
 private:
     TextEncoding m_encoding;
-    std::optional<QStringEncoder> m_converter; // unless it is UTF-8
+    std::optional<QStringEncoder> m_converter; // not for UTF-8
     QByteArray m_encoded;
 };
 

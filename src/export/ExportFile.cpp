@@ -15,7 +15,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// Goes to the disk while it is written, so that there is little left to wait for.
+// Starts to flush to disk while it is written, so that the final flush is short.
 class SavedMeanwhile final : public QSaveFile
 {
 public:
@@ -59,7 +59,7 @@ ExportOutcome exportToFile(const QString &file, const ExportOptions &options,
         outcome.losses = lossesOf(*writer);
     } catch (const ADODB::Error &error) {
         throw cantWrite(error.Description());
-    } catch (const std::bad_alloc &) { // one value can be larger than what is left
+    } catch (const std::bad_alloc &) { // a single value can exceed the remaining memory
         throw cantWrite(ADODB::Texts::outOfMemory);
     }
     if (outcome.isWritten && !target.commit())

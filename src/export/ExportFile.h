@@ -7,13 +7,13 @@ namespace KOVAVSFDataGridLib {
 
 struct ExportOutcome
 {
-    bool isWritten = false; // false when it was cancelled
+    bool isWritten = false; // false if it was cancelled
     QString losses;         // see lossesOf()
 };
 
-// Writes the records to a temporary file beside `file` and puts it in that one's place when it is whole. A
-// file that is there already stays as it is when the export is cancelled or fails. Throws ADODB::Error.
-// `shouldContinue` as in WriteRecords.
+// Writes the records to a temporary file beside `file`, and renames it when it is complete. An existing file
+// is not changed if the export is cancelled or fails. Throws ADODB::Error. `shouldContinue` is that of
+// writeRecords().
 ExportOutcome exportToFile(const QString &file, const ExportOptions &options,
                            const ADODB::Recordset &recordset, const RecordRange &range,
                            const ExportColumns &columns, const std::function<bool(qint64)> &shouldContinue);

@@ -14,27 +14,27 @@ namespace KOVAVSFDataGridLib {
 
 enum class ExportFormat { Csv, Xlsx, JsonLines, Html };
 
-// How a file is written.
+// How to write a file.
 struct ExportOptions
 {
     ExportFormat format = ExportFormat::Csv;
     TextEncoding encoding = TextEncoding::Utf8WithMark; // of CSV
-    bool hasHeadings = true;                            // JSON has them anyway
-    bool guardsFormulas = true;                         // of CSV; the others know what a text is
+    bool hasHeadings = true;                            // ignored for JSON, which always has names
+    bool guardsFormulas = true;                         // of CSV; the other formats have text types
 };
 
-// Those that this build can write.
+// The formats that this build supports.
 QList<ExportFormat> availableFormats();
-// The ending of its files, with the point.
+// The file name ending, including the dot.
 QString fileEnding(ExportFormat format);
-// By the file's ending, in any letter case; nothing when it is none of these.
+// By the file's ending (case-insensitive); no value if it is none of these.
 std::optional<ExportFormat> formatOfFile(const QString &file);
-// What to tell a user whose file has no such ending.
+// The message for a file without such an ending.
 QString unknownFormatText(const QString &file);
 
-// `device` is open for writing and must outlive the answer. Throws ADODB::Error when the encoding is missing.
+// `device` must be open for writing and outlive the writer. Throws ADODB::Error if the encoding is missing.
 std::unique_ptr<RecordWriter> newWriter(QIODevice &device, const ExportOptions &options);
-// What could not be written unchanged, to be shown to the user; empty when there is nothing.
+// Tells the user what could not be written unchanged; empty if there is nothing.
 QString lossesOf(const RecordWriter &writer);
 
 } // namespace KOVAVSFDataGridLib

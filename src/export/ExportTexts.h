@@ -2,7 +2,7 @@
 
 #include "language/Text.h"
 
-// What an export tells its user, for proof-reading in one place.
+// The texts of an export for the user, collected here for proofreading.
 namespace KOVAVSFDataGridLib::ExportTexts {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::ExportTexts"};

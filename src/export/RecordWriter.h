@@ -24,7 +24,7 @@ struct ExportColumn
 
 using ExportColumns = std::vector<ExportColumn>;
 
-// Makes texts of records, for one thread.
+// Converts records to text, in one thread.
 class RowTexts
 {
 public:
@@ -32,7 +32,7 @@ public:
     virtual ~RowTexts() = default;
     Q_DISABLE_COPY_MOVE(RowTexts)
 
-    // `cells` are the record's, by field number.
+    // `cells` are those of the record, by field number.
     virtual void append(QByteArray &text, const std::vector<ADODB::RawValue> &cells) = 0;
 };
 
@@ -44,14 +44,14 @@ public:
     virtual ~RecordWriter() = default;
     Q_DISABLE_COPY_MOVE(RecordWriter)
 
-    // These throw ADODB::Error when the result can't be written.
+    // These throw ADODB::Error if the result can't be written.
     virtual void begin(const ExportColumns &columns) = 0;
-    // `cells` are the record's, by field number.
+    // `cells` are those of the record, by field number.
     virtual void row(const std::vector<ADODB::RawValue> &cells) = 0;
     virtual void end() = 0;
 
-    // Where the text of a record says nothing of those before: what makes these texts, to be handed to add()
-    // in the place of row(). After begin(). Null for other formats.
+    // For formats where the text of a record does not depend on earlier ones: creates these texts, which are
+    // then passed to add() instead of calling row(). Call it after begin(). Null for other formats.
     virtual std::unique_ptr<RowTexts> newRowTexts() const { return nullptr; }
     virtual void add(QByteArrayView /*text*/) {}
 };

@@ -109,7 +109,7 @@ void appendWithBlanks(QByteArray &html, QByteArrayView text)
     }
 }
 
-// One value of a text separated by tabs, which may be quoted, from `at` on. Moves `at` to what ends it.
+// The value at `at` in a tab-separated text, which may be quoted. Moves `at` to the separator after it.
 QByteArray nextValue(QByteArrayView text, qsizetype &at)
 {
     QByteArray value;

@@ -8,8 +8,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A table on the clipboard, as text separated by tabs and as HTML. Only the text is kept; the HTML, which is
-// several times as long, is made of it when a program asks for it.
+// A table for the clipboard, as tab-separated text and as HTML. Only the text is stored; the HTML, several
+// times as long, is generated when a program requests it.
 class TableMimeData final : public QMimeData
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A disk that runs full takes a part first, and tells why only when it is given the rest.
+// When the disk becomes full, the first write is partial; only a second one returns the error.
 void writeWhole(QIODevice &device, QByteArrayView bytes)
 {
     while (!bytes.isEmpty()) {
@@ -26,7 +26,7 @@ TextSink::TextSink(QIODevice &device, TextEncoding encoding) : m_device(device),
 void TextSink::flush()
 {
     writeWhole(m_device, m_encoder.encode(m_text));
-    m_text.resize(0); // which keeps the room
+    m_text.resize(0); // keeps the capacity
 }
 
 void TextSink::write(QByteArrayView text)

@@ -6,26 +6,26 @@ class QIODevice;
 
 namespace KOVAVSFDataGridLib {
 
-// Throws ADODB::Error when the device refuses.
+// Throws ADODB::Error if writing to the device fails.
 void writeWhole(QIODevice &device, QByteArrayView bytes);
 
-// Gathers text and writes it to a device in larger pieces.
+// Buffers text and writes it to a device in larger pieces.
 class TextSink
 {
 public:
-    // `device` is open for writing and must outlive this object. Throws as Encoder does.
+    // `device` must be open for writing and outlive this object. Throws the errors of Encoder.
     TextSink(QIODevice &device, TextEncoding encoding);
 
-    // To be appended to, in UTF-8.
+    // The buffer, to which UTF-8 text is appended.
     QByteArray &text() { return m_text; }
-    // Writes what has been gathered when it is enough. Throws ADODB::Error when the device refuses.
+    // Writes the buffer if it is large enough. Throws ADODB::Error if writing to the device fails.
     void flushWhenFull()
     {
         if (m_text.size() >= pieceSize)
             flush();
     }
     void flush();
-    // Writes a larger text, after what has been gathered, without a copy of it.
+    // Writes the buffer and then a larger text, without copying it.
     void write(QByteArrayView text);
 
 private:

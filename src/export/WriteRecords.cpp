@@ -26,7 +26,7 @@ public:
         : m_reader(recordset, fieldsOf(columns))
     {
     }
-    // Null when it is gone.
+    // Null if the record was deleted.
     const std::vector<ADODB::RawValue> *find(qint64 record) { return m_reader.read(record); }
     const std::vector<ADODB::RawValue> &read(qint64 record)
     {

@@ -10,7 +10,7 @@ class Recordset;
 
 namespace KOVAVSFDataGridLib {
 
-// Records from 1; `last` is part of them. Empty when it is less than `first`.
+// Records from 1, including `last`. Empty if `last` is less than `first`.
 struct RecordRange
 {
     qint64 first = 1;
@@ -19,9 +19,9 @@ struct RecordRange
     qint64 count() const { return last - first + 1; }
 };
 
-// Hands the records to the writer, from begin() to end(). `shouldContinue` is called every few records with
-// the number written so far; once it answers false, no more is written and the answer is false. Throws
-// ADODB::Error when the writer does, and when a record is gone.
+// Passes the records to the writer, from begin() to end(). Calls `shouldContinue` every few records with the
+// number written so far; if it returns false, writing stops and the result is false. Throws ADODB::Error if
+// the writer does or if a record was deleted.
 bool writeRecords(const ADODB::Recordset &recordset, const RecordRange &range, const ExportColumns &columns,
                   RecordWriter &writer, const std::function<bool(qint64)> &shouldContinue);
 

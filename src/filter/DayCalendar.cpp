@@ -16,9 +16,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int columns = 4; // of words
+constexpr int columns = 4; // of the buttons for words
 
-// Without an icon theme Qt has green discs for turning the months, whatever the colours around them.
+// Without an icon theme, Qt's arrows for changing the month are green, whatever the palette.
 void usePlainArrows(const QCalendarWidget &calendar)
 {
     if (auto *previous = calendar.findChild<QToolButton *>(u"qt_calendar_prevmonth"_s))
@@ -63,14 +63,14 @@ QToolButton *DayCalendar::newButton(int place)
 void DayCalendar::writeTexts()
 {
     setLocale(QLocale(Language::current().replace(u'-', u'_')));
-    setFirstDayOfWeek(Qt::Monday); // the locale has set its own
+    setFirstDayOfWeek(Qt::Monday); // instead of the locale's
     const QStringList words =
         m_offers == Offers::Today ? QStringList{FilterTexts::Today()} : relativeDayWords();
     for (qsizetype place = 0; place < m_buttons.size(); ++place)
         m_buttons.at(place)->setText(words.at(place));
 }
 
-// A calendar doesn't ask its layout.
+// QCalendarWidget ignores its layout here.
 QSize DayCalendar::minimumSizeHint() const
 {
     const QSize days = QCalendarWidget::minimumSizeHint();

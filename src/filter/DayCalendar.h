@@ -6,8 +6,8 @@ class QToolButton;
 
 namespace KOVAVSFDataGridLib {
 
-// A calendar that opens as a popup at an editor, with buttons below its days: the words for days that move
-// with the calendar, or today alone.
+// A calendar that opens as a popup of an editor, with buttons below its days: for relative days (words), or
+// for today only.
 class DayCalendar final : public QCalendarWidget
 {
     Q_OBJECT
@@ -17,13 +17,13 @@ public:
 
     DayCalendar(Offers offers, QWidget *parent);
 
-    // Below the editor, or above where the screen ends too soon. Begins with `day` if it is valid.
+    // Opens below the editor, or above it if there is no room. Starts with `day` if that is valid.
     void open(const QWidget &editor, QDate day);
     QSize sizeHint() const override { return minimumSizeHint(); }
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    // The calendar is closed then.
+    // Emitted after the calendar was closed.
     void dayPicked(QDate day);
     void wordPicked(const QString &word);
 

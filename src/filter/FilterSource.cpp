@@ -64,7 +64,7 @@ void FilterSource::setResult(const FilteredResult &result)
 Dialect FilterSource::dialect() const
 {
     Dialect dialect = dialectOf(m_database, engineOf(m_connection));
-    // Known before it is opened.
+    // Can be told before the connection is opened.
     dialect.isOdbc = !readsItsOwnSqlOverOdbc(dialect.engine) && leadsToOdbc(m_connectionString);
     dialect.escapesByBackslash = m_escapesByBackslash;
     return dialect;
@@ -80,10 +80,10 @@ const std::shared_ptr<ADODB::Connection> &FilterSource::connection()
     return m_connection;
 }
 
-// Of an engine that nobody here knows, no name tells it.
+// The name of an unknown engine doesn't tell.
 bool FilterSource::askWhetherBackslashEscapes()
 {
-    const auto &open = connection(); // a server out of reach is an error here as well
+    const auto &open = connection(); // if the server can't be reached, that is an error here too
     const EngineMode mode = engineOf(open);
     if (mode.tellsOfBackslashes() || !dialect().isOdbc)
         return mode.escapesByBackslash();
@@ -94,7 +94,7 @@ bool FilterSource::askWhetherBackslashEscapes()
     } catch (const ADODB::Error &error) {
         if (error.is(ADODB::dbErrCancelled))
             throw;
-        return false; // a database that selects from tables only, Oracle say; none of these has such escapes
+        return false; // a database that requires a FROM, such as Oracle; none of these has such escapes
     }
 }
 
@@ -108,7 +108,7 @@ std::vector<FilterField> FilterSource::readFields()
     try {
         infos = connection()->Describe(everything + m_fromText);
     } catch (const ADODB::Error &error) {
-        // A plain name that SQL can't read without brackets or quotes.
+        // A single name that needs brackets or quotes in SQL.
         const QString written = writtenName(dialect(), m_fromText);
         if (written == m_fromText || error.is(ADODB::dbErrCancelled))
             throw;
@@ -148,7 +148,7 @@ FilterField FilterSource::fieldOf(const QString &caption, const QString &written
     return field;
 }
 
-// Fields of equal names keep the order in which the user sees them.
+// Fields with equal names keep their order.
 std::vector<FilterField> FilterSource::readOfferedFields()
 {
     QStringList written;
@@ -162,7 +162,7 @@ std::vector<FilterField> FilterSource::readOfferedFields()
         const OfferedField &field = m_offered.at(static_cast<qsizetype>(i));
         const int times = ++timesUsed[field.name];
         const QString caption = times == 1 ? field.name : u"%1 (%2)"_s.arg(field.name).arg(times);
-        // An open result knows more than a description where values have types of their own.
+        // If values have their own types, an open result knows more than a description.
         const auto type =
             field.adoType != 0 ? static_cast<ADODB::DataTypeEnum>(field.adoType) : infos[i].type;
         fields.push_back(fieldOf(caption, field.written, type, infos[i]));

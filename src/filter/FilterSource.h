@@ -18,44 +18,44 @@ namespace KOVAVSFDataGridLib {
 // Whether a connection string leads to an ODBC driver. A malformed one does not.
 bool leadsToOdbc(const QString &connectionString);
 
-// Where the builder's fields and values come from. Reads nothing before it is asked. The reading functions
+// Provides the fields and values for the builder. Reads nothing until it is asked to. The reading functions
 // throw ADODB::Error.
 class FilterSource
 {
 public:
     static constexpr int mostValues = 200;
-    static constexpr int mostDays = 10000; // which a list of ticks shows by years and months
+    static constexpr int mostDays = 10000; // in a list with check boxes, by years and months
 
     void setDatabase(AllDBType database) { m_database = database; }
-    // One of the two. A connection must be open, and is shared; a string is opened on first use.
+    // Set one of the two. A connection must be open, and is shared; a string is opened on first use.
     void setConnection(std::shared_ptr<ADODB::Connection> connection);
     void setConnectionString(const QString &text);
-    // As it stands behind FROM: a table's name, written as SQL needs it or plain, or several tables joined.
+    // The text after FROM: a table's name, either in its form for SQL or plain, or several joined tables.
     void setTable(const QString &fromText);
 
-    // The rows of a statement's result instead of a table.
+    // Uses the rows of a statement's result instead of a table.
     void setResult(const FilteredResult &result);
 
     bool hasTable() const { return !m_fromText.isEmpty(); }
-    // As conditions can select from it once more. A WITH is left to the statement around them.
+    // In a form that conditions can select from again. A WITH clause is left to the outer statement.
     const QString &fromText() const { return m_fromText; }
-    // How conditions are written. What the database has to be asked for is known once readFields() was
-    // called.
+    // How conditions are written. Complete only after readFields(), because the database must be queried for
+    // parts of it.
     Dialect dialect() const;
 
-    // The table's fields in its order. A name that several tables share is qualified by the table's.
+    // The table's fields in order. A name that several tables have is qualified by the table's name.
     std::vector<FilterField> readFields();
-    // How at most `most` values that the field has are read, in order. Until they are, nothing else may be
-    // asked of this object.
+    // How to read at most `most` values of the field, in order. Until they are read, this object must not be
+    // used for anything else.
     ValueRequest valueRequest(const FilterField &field, int most);
-    // How the values of the field are read for ticks, with their counts. `condition` is what the records meet
-    // already; it may be empty. `search` is a text that the values contain. While they are read, nothing else
-    // may be asked of this object.
+    // How to read the values of the field for a list with check boxes, with their counts. `condition` is met
+    // by the records already; it may be empty. `search` is a text that the values must contain. While they
+    // are read, this object must not be used for anything else.
     ValueRequest tickRequest(const FilterField &field, const QString &condition, const QString &search);
-    // How the records that meet two conditions are counted: in a thread of its own through a connection of
-    // its own, unless the connection is shared. The first condition may be empty.
+    // How to count the records that meet two conditions: in a separate thread through a separate connection,
+    // unless the connection is shared. The first condition may be empty.
     std::optional<CountRequest> countRequest(const QString &current, const QString &condition);
-    // Lets the database look at a condition without running it.
+    // Has the database check a condition without running it.
     void check(const QString &condition);
 
 private:

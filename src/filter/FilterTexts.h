@@ -2,7 +2,7 @@
 
 #include "language/Text.h"
 
-// The texts of the filter builder and its dialog, for proof-reading in one place.
+// The texts of the filter builder and its dialog, collected here for proofreading.
 namespace KOVAVSFDataGridLib::FilterTexts {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::FilterTexts"};
@@ -39,7 +39,7 @@ inline constexpr Text WithNullTip = tr("该字段没有值的记录也显示");
 inline constexpr Text Yes = tr("是");
 inline constexpr Text No = tr("否");
 
-// Days relative to the day on which the filter runs
+// Days relative to the day when the filter is applied
 inline constexpr Text Today = tr("今天");
 inline constexpr Text Yesterday = tr("昨天");
 inline constexpr Text ThisWeek = tr("本周");

@@ -19,7 +19,7 @@ SentenceLabel::SentenceLabel(QWidget *parent) : QLabel(parent)
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setTextInteractionFlags(Qt::TextSelectableByMouse);
     setFocusPolicy(Qt::NoFocus);
-    setText(FilterTexts::And() + u'\n' + FilterTexts::Or()); // in the font that has these signs
+    setText(FilterTexts::And() + u'\n' + FilterTexts::Or()); // measured in the font that has these characters
     setFixedHeight(sizeHint().height());
     clear();
 }

@@ -4,7 +4,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Two lines for a sentence. Of a longer one an ellipsis stands for the rest, and the tool tip has all of it.
+// Two lines for a sentence. A longer one is elided, and the tool tip shows all of it.
 class SentenceLabel final : public QLabel
 {
     Q_OBJECT

@@ -93,7 +93,7 @@ SetFilter::SetFilter(QWidget *parent)
     connect(m_groups, &QCheckBox::toggled, this, &SetFilter::onGroupsToggled);
     connect(m_addBrackets, &QPushButton::clicked, this, [this] {
         m_rows->addBrackets();
-        m_rows->focusFirstPart(); // the button goes
+        m_rows->focusFirstPart(); // the button disappears
     });
     connect(m_sql, &QCheckBox::toggled, this, &SetFilter::showSql);
     connect(m_sql, &QCheckBox::clicked, this, [this](bool on) {
@@ -130,7 +130,7 @@ void SetFilter::layOut()
     rows->addWidget(m_sentence);
     rows->addLayout(conditionRow);
     rows->addWidget(m_notice);
-    // Room for the notice from the beginning, so that nothing jumps when there is one.
+    // The height of the notice is reserved, so that nothing moves when it appears.
     m_notice->setMinimumHeight(fontMetrics().lineSpacing());
     m_scroll->setMinimumWidth(m_rows->minimumSizeHint().width() + 2 * m_scroll->frameWidth() +
                               style()->pixelMetric(QStyle::PM_ScrollBarExtent));
@@ -218,7 +218,7 @@ void SetFilter::addRow()
     m_rows->add()->focusFirstPart();
 }
 
-// Where brackets don't match there are no groups to show.
+// If brackets don't match, there are no groups to show.
 void SetFilter::onGroupsToggled(bool on)
 {
     m_rows->setGrouped(on);
@@ -248,13 +248,13 @@ void SetFilter::onRowsChanged()
 void SetFilter::onConditionEdited()
 {
     setByHand(true);
-    // Typing goes on here, wherever the keyboard was when this began.
+    // The user continues typing here, wherever the focus was.
     m_condition->setFocus();
     m_count->restart();
     show(FilterTexts::ByHand);
 }
 
-// Whoever uses SQL shows it; the others are told by the sentence.
+// Users who know SQL can show it; for others there is the sentence.
 void SetFilter::showSql()
 {
     m_conditionLabel->setVisible(m_sql->isChecked());
@@ -262,7 +262,7 @@ void SetFilter::showSql()
     m_kept->showSql(m_sql->isChecked());
 }
 
-// Where a condition by hand isn't whole yet, the count says that there is none.
+// No value while a condition typed by hand is incomplete.
 std::optional<CountRequest> SetFilter::countRequest()
 {
     const QString condition = joinStatementLines(m_condition->text()).trimmed();
@@ -279,26 +279,26 @@ void SetFilter::backToRows()
     m_rows->focusFirstPart();
 }
 
-// What stands in the rows stays there meanwhile, and shows by its paleness that it does not count.
+// Meanwhile the rows keep their contents but are disabled, because they are not used.
 void SetFilter::setByHand(bool isByHand)
 {
     m_isByHand = isByHand;
     if (isByHand) {
-        m_sentence->say({}); // nobody knows what was typed
+        m_sentence->say({}); // the meaning of the typed text is unknown
         m_count->stop();
     }
     m_backToRows->setVisible(isByHand);
     enableParts();
 }
 
-// Without fields only a condition by hand is left.
+// Without fields, only a condition typed by hand is possible.
 void SetFilter::enableParts()
 {
     m_rows->setEnabled(!m_fields.empty() && !m_isByHand);
     m_add->setEnabled(!m_fields.empty() && !m_isByHand);
     m_groups->setEnabled(!m_fields.empty() && !m_isByHand);
     m_addBrackets->setEnabled(!m_isByHand);
-    const bool isSqlAll = m_fields.empty() || m_isByHand; // what there is to be seen
+    const bool isSqlAll = m_fields.empty() || m_isByHand; // whether only the SQL is visible
     m_sql->setEnabled(!isSqlAll);
     if (isSqlAll)
         m_sql->setChecked(true);
@@ -335,13 +335,13 @@ QString SetFilter::conditionByHand()
         show(FilterTexts::NoCondition);
         return {};
     }
-    // The statement's sort is found by these words, wherever they stand.
+    // These words are used to find the statement's sort, wherever they occur.
     const QString betweenBlanks = u' ' + typed + u' ';
     if (betweenBlanks.contains(" ORDER BY "_L1, Qt::CaseInsensitive)) {
         show(FilterTexts::NoOrderBy);
         return {};
     }
-    // Further conditions are joined by AND, which binds closer.
+    // Further conditions are added with AND, which has precedence.
     static const QRegularExpression looseWord(uR"(\bX?OR\b|\|\|)"_s,
                                               QRegularExpression::CaseInsensitiveOption);
     const QString enclosed = u'(' + typed + u')';
@@ -351,7 +351,7 @@ QString SetFilter::conditionByHand()
     stopReading();
     try {
         const WaitCursor waiting;
-        // Its brackets match by themselves, and nothing stands behind it that is no condition.
+        // Its brackets match, and nothing follows the condition.
         m_source.check(typed);
         m_source.check(enclosed);
         return text;
@@ -366,7 +366,7 @@ void SetFilter::show(const QString &notice)
     m_notice->setText(notice);
     if (notice.isEmpty())
         return;
-    QAccessibleEvent alert(m_notice, QAccessible::Alert); // the keyboard is elsewhere
+    QAccessibleEvent alert(m_notice, QAccessible::Alert); // the focus is elsewhere
     QAccessible::updateAccessibility(&alert);
 }
 

@@ -22,8 +22,8 @@ class KeptConditions;
 class SentenceLabel;
 class ValueEdit;
 
-// Builds a condition for the rows of a table. Prepare it in this order: Initialize, one of SetConnection and
-// SetConnectionString, SetCurrentTable, SetTableName; ConditionText() then answers what was built.
+// Builds a condition for the rows of a table. Call, in this order, Initialize, SetConnection or
+// SetConnectionString, SetCurrentTable and SetTableName. ConditionText() then returns the condition.
 class SetFilter final : public QWidget
 {
     Q_OBJECT
@@ -31,26 +31,26 @@ class SetFilter final : public QWidget
 public:
     explicit SetFilter(QWidget *parent = nullptr);
 
-    // `caption` stands before the table's name.
+    // `caption` is shown before the table's name.
     void Initialize(const QString &caption, AllDBType database);
-    // An open connection, which is shared, or a string that is opened when it is needed.
+    // An open connection, which is shared, or a string that is opened when needed.
     void SetConnection(std::shared_ptr<ADODB::Connection> connection);
     void SetConnectionString(const QString &text);
-    // What the user is shown as filtered.
+    // The name shown to the user for what is filtered.
     void SetCurrentTable(const QString &name);
-    // The text behind FROM whose fields are offered; reads them. When that fails the builder says why, and a
-    // condition can still be typed.
+    // The text after FROM; reads and offers its fields. If that fails, shows the reason; a condition can
+    // still be typed.
     void SetTableName(const QString &fromText);
 
     // The same with the fields of a result.
     void SetResult(const FilteredResult &result);
 
-    // The condition that the filtered records meet already, for what compares them with each other. Before
-    // SetTableName and SetResult.
+    // The condition that the filtered records already meet, for operators that compare records. Call it
+    // before SetTableName and SetResult.
     void SetCurrentCondition(const QString &condition) { m_currentCondition = condition; }
 
-    // What was built or typed, and the same put in. When a field of it isn't there any more, the builder says
-    // so and stays as it is.
+    // What was built or typed, and the reverse. If a field no longer exists, PutState shows the reason and
+    // changes nothing.
     BuiltFilter State() const;
     void PutState(const BuiltFilter &state);
     // As FilterRow has it. The user has not changed anything then, and neither after Begin().
@@ -61,18 +61,18 @@ public:
     // Whether the user has changed anything since the builder was prepared.
     bool IsChanged() const { return State() != m_stateBefore; }
 
-    // Where the filters of the table are kept that the user saves; without it none are.
+    // Where the user's saved filters of the table are stored; without it none are offered.
     void SetShelf(FilterShelf shelf) { m_saved->setShelf(std::move(shelf)); }
 
-    // Whether the user wants to see the condition as SQL. Before SetTableName and SetResult.
+    // Whether the user wants to see the condition as SQL. Call it before SetTableName and SetResult.
     void SetSqlWanted(bool isWanted) { m_isSqlWanted = isWanted; }
     bool IsSqlWanted() const { return m_isSqlWanted; }
 
-    // Says below the condition what is wrong with it, until it is changed.
+    // Shows below the condition what is wrong with it, until it is changed.
     void ShowNotice(const QString &notice) { show(notice); }
 
-    // The condition, ready to be joined to others by AND. Empty when there is none or something is wrong with
-    // it, which is then shown.
+    // The condition, in a form that can be joined to others by AND. Empty if there is none or if it has an
+    // error, which is then shown.
     QString ConditionText();
     // The same without the conditions in force that are kept; may be empty then. Of the last ConditionText().
     const QString &BuiltCondition() const { return m_builtCondition; }
@@ -105,8 +105,8 @@ private:
     void show(const QString &notice);
 
     FilterSource m_source;
-    QHash<QString, OfferedValues> m_knownValues; // by the field as written
-    std::unique_ptr<ValueReading> m_reading;     // that is under way, and what for
+    QHash<QString, OfferedValues> m_knownValues; // by the field's name for SQL
+    std::unique_ptr<ValueReading> m_reading;     // the current one, and its field
     QPointer<ValueEdit> m_readingFor;
     FilterField m_readingOf;
     std::optional<OfferedValues> m_shownValues;

@@ -6,12 +6,12 @@
 
 #include <utility>
 
-// The values that the builder offers for a field.
+// Offers the values of a field in the builder.
 namespace KOVAVSFDataGridLib {
 
 void SetFilter::offerValues(const FilterField &field, ValueEdit &edit, int most)
 {
-    constexpr int patience = 100; // milliseconds before the list says that it is being read
+    constexpr int patience = 100; // milliseconds before the list shows that it is being read
     constexpr int growth = 10;
     stopReading();
     disconnect(&edit, nullptr, this, nullptr);
@@ -51,7 +51,7 @@ void SetFilter::onValuesArrived()
         show(values.note.isEmpty() ? FilterTexts::NoValues : values.note);
     else
         show({});
-    // A list that the user moves in is not filled again with the same.
+    // A list that the user is moving in is not refilled with the same values.
     if (m_readingFor && std::exchange(m_shownValues, values) != values)
         m_readingFor->showValues(values);
 }

@@ -34,7 +34,7 @@ QPixmap arrow(const QColor &colour)
     return picture;
 }
 
-// A small arrow in the text's colour: the styles' own one is missing from some of them.
+// A small arrow in the text's colour, because some styles lack one.
 QIcon arrow(const QPalette &palette)
 {
     QIcon icon;
@@ -43,7 +43,7 @@ QIcon arrow(const QPalette &palette)
     return icon;
 }
 
-// Lines of text, to tell it from the arrow that opens a calendar.
+// Lines of text, to distinguish it from the arrow that opens a calendar.
 QPixmap lines(const QColor &colour)
 {
     QPixmap picture(32, 32);
@@ -104,7 +104,7 @@ ValueEdit::ValueEdit(QWidget *parent)
 
 void ValueEdit::writeTexts()
 {
-    m_offer->setText(m_offerText); // its name
+    m_offer->setText(m_offerText); // its accessible name
     m_offer->setToolTip(m_offerText);
     m_offerValues->setText(FilterTexts::PickValueOfDays);
     m_offerValues->setToolTip(FilterTexts::PickValueOfDays);
@@ -125,11 +125,11 @@ void ValueEdit::setKind(FieldClass fieldClass, bool isList)
 
 void ValueEdit::setCount()
 {
-    setKind(FieldClass::Other, false); // the field's values are no numbers of values
+    setKind(FieldClass::Other, false); // a number of values, whatever the field's type
     setPlaceholderText(FilterTexts::CountHint);
 }
 
-// A cell that was copied from a spreadsheet ends with a line break, which is no part of a value.
+// A cell copied from a spreadsheet ends with a line break that is not part of the value.
 void ValueEdit::dropLineEnd()
 {
     const auto isAfterBreak = [this] {
@@ -145,7 +145,7 @@ int ValueEdit::comfortableWidth() const
     const QString longest = m_fieldClass == FieldClass::Moment ? u"2024-12-30 20:00:00"_s
                             : m_fieldClass == FieldClass::Date ? u"2024-12-30"_s
                                                                : u"0000000000"_s;
-    // What there is beside the text is the same for each.
+    // What is beside the text has the same width for all.
     const QFontMetrics metrics = fontMetrics();
     return minimumSizeHint().width() - metrics.maxWidth() + metrics.horizontalAdvance(longest + u' ');
 }
@@ -234,7 +234,7 @@ void ValueEdit::offerList(const ListedValues &list)
         m_list->setModel(new QStringListModel(entries, m_list));
         setFocus();
         m_list->complete();
-        if (current >= 0) // a list that only grows
+        if (current >= 0) // values are only added
             m_list->popup()->setCurrentIndex(m_list->completionModel()->index(current, 0));
     }
 }
@@ -263,7 +263,7 @@ void ValueEdit::pick(int row)
     if (row < m_listed.size()) {
         take(m_listed.at(row));
     } else if (!m_listed.isEmpty() && m_askForValues) {
-        // Later, because the list is about to close.
+        // Delayed, because the list is about to close.
         QMetaObject::invokeMethod(
             this,
             [this] {
@@ -294,7 +294,7 @@ void ValueEdit::take(const QString &picked)
     Q_EMIT textEdited(text());
 }
 
-// A value that is stored is a day, while a filter can wait until it runs to know which.
+// A value that is stored must be a fixed day; a filter can also contain a relative one.
 void ValueEdit::offerCalendar()
 {
     if (!m_calendar) {
@@ -308,7 +308,7 @@ void ValueEdit::offerCalendar()
 
 void ValueEdit::setDay(QDate day)
 {
-    // A time that stands behind the old day stays.
+    // A time after the old date is kept.
     static const QRegularExpression time(u" +[0-9]{1,2}:[0-9:.]+$"_s);
     const QString kept = m_isList ? QString() : time.match(text()).captured();
     take(day.toString(Qt::ISODate) + kept);

@@ -14,16 +14,16 @@ namespace KOVAVSFDataGridLib {
 
 class DayCalendar;
 
-// The entries of a list from which a value is picked.
+// The entries of a list to choose a value from.
 struct ListedValues
 {
     QStringList values = {};
-    QStringList shown = {}; // what is read in their places; empty where that is the values
-    QString end = {};       // comes after them and is none; may be empty
+    QStringList shown = {}; // the texts to show instead of the values; empty if they are the same
+    QString end = {};       // an entry after the values that is not a value; may be empty
 };
 
-// Takes a typed value and offers, behind a button at its end, Alt+Down and F4, what fits the field: a
-// calendar for days, yes and no, or the values that a field has already.
+// An editor for a value. A button at its end, Alt+Down and F4 offer what fits the field: a calendar for days,
+// yes and no, or the existing values of the field.
 class ValueEdit final : public QLineEdit
 {
     Q_OBJECT
@@ -31,26 +31,26 @@ class ValueEdit final : public QLineEdit
 public:
     explicit ValueEdit(QWidget *parent = nullptr);
 
-    // Called each time a list is opened; an empty answer opens none. Days have a second button for it, and
-    // Shift+F4. Comes before setKind().
+    // Called each time a list is opened; if the result is empty, none opens. For days there is a second
+    // button for it, and Shift+F4. Call it before setKind().
     void setValueReader(std::function<ListedValues()> reader) { m_readValues = std::move(reader); }
-    // The same for values that take a while: what is asked answers by showValues(), at once or later, and by
+    // The same for values that take time: `asker` must call showValues(), immediately or later, and
     // showReading() meanwhile.
     void setValueAsker(std::function<void()> asker) { m_askForValues = std::move(asker); }
     void showReading();
-    // Does nothing once the list was closed.
+    // Does nothing if the list has been closed.
     void showValues(const OfferedValues &values);
-    // `isList` for several values with commas between them: what is picked is then added.
+    // `isList` for several values separated by commas: a chosen value is then appended.
     void setKind(FieldClass fieldClass, bool isList);
     // For a number of values.
     void setCount();
     // Shows that something is wrong with the value.
     void setMarked(bool isMarked);
-    // For a value of its kind and the buttons beside it.
+    // The width for a typical value of its kind and the buttons.
     int comfortableWidth() const;
 
 Q_SIGNALS:
-    // The entry for more values was picked; they are shown by showValues().
+    // The entry for more values was chosen; call showValues() with them.
     void moreWanted();
     void listClosed();
 
@@ -73,9 +73,9 @@ private:
 
     std::function<ListedValues()> m_readValues;
     std::function<void()> m_askForValues;
-    bool m_isAsking = false;    // from the question until the list is closed
-    bool m_isRefilling = false; // the list closes for a moment
-    QStringList m_listed;       // the values in the list; what comes after them is no value
+    bool m_isAsking = false;    // from the request until the list is closed
+    bool m_isRefilling = false; // the list is closed for a moment
+    QStringList m_listed;       // the values in the list, without the entry after them
     FieldClass m_fieldClass = FieldClass::Text;
     bool m_isList = false;
     QAction *m_offer;

@@ -15,7 +15,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// Milliseconds; the others for what the caller's thread does itself.
+// Milliseconds. Those with "Here" are for queries in the caller's thread.
 constexpr int limitOfSample = 2000;
 constexpr int limitHere = 1000;
 constexpr int limitOfSampleHere = 500;
@@ -103,7 +103,7 @@ void ValueReading::read(const std::function<bool()> &shouldContinue)
     } catch (const ADODB::Error &error) {
         if (m_isStopped || !isCancelled(error))
             throw;
-        // The time is over: a sorted list gives nothing before it is whole.
+        // The time limit is exceeded: a sorted list has no values before it is complete.
         const QDeadlineTimer due(m_request.isHere ? limitOfSampleHere : limitOfSample);
         try {
             read = valuesOf(m_request.sample, [&] { return !m_isStopped && !due.hasExpired(); });
@@ -133,7 +133,7 @@ void ValueReading::addFurtherCounts(OfferedValues &read, const std::function<boo
             put(read);
         }
     } catch (const ADODB::Error &) {
-        // That there are more is known without their number.
+        // It is known that there are more, even without their number.
     }
 }
 
@@ -152,9 +152,9 @@ OfferedValues ValueReading::valuesOf(const QString &statement,
     values.Open(statement, m_request.connection);
     const bool hasCounts = values.Fields().Count() > 1;
     OfferedValues offered;
-    QHash<QString, qsizetype> known; // values that differ in the database can read the same
+    QHash<QString, qsizetype> known; // different values in the database can have the same text
     for (qint64 record = 1; record <= values.RecordCount(); ++record) {
-        // No condition is written about bytes, which a column of SQLite can hold whatever its type.
+        // No condition can be written for bytes, which SQLite can store in a column of any type.
         if (values.CellValue(record, 0).typeId() == QMetaType::QByteArray)
             continue;
         const QString text = textOf(values, record);
@@ -172,7 +172,7 @@ OfferedValues ValueReading::valuesOf(const QString &statement,
         if (hasCounts)
             offered.counts.append(count);
     }
-    // Empty texts, and different values that read the same, leave the list shorter than it was read.
+    // Empty texts and different values with the same text make the list shorter than the result.
     offered.hasMore = values.RecordCount() > m_request.most;
     if (offered.values.size() > m_request.most) {
         offered.values.resize(m_request.most);

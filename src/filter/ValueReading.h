@@ -18,55 +18,55 @@ class Recordset;
 
 namespace KOVAVSFDataGridLib {
 
-// Values that a field has, for a list from which one is picked.
+// Values of a field, for a list to choose from.
 struct OfferedValues
 {
     QStringList values;
     bool hasMore = false;
-    qint64 left = -1;  // how many more there are; -1 while nobody knows
-    QString note = {}; // for the user; empty when there is nothing to say
-    // In how many records each value occurs; empty while nobody knows. And how many have no value, or -1.
+    qint64 left = -1;  // how many more there are; -1 if unknown
+    QString note = {}; // for the user; empty if there is none
+    // How many records have each value; empty if unknown. And how many have no value; -1 if unknown.
     QList<qint64> counts = {};
     qint64 withoutValue = -1;
 
     bool operator==(const OfferedValues &) const = default;
 };
 
-// How the values of one field are read.
+// How to read the values of one field.
 struct ValueRequest
 {
-    std::shared_ptr<ADODB::Connection> connection; // used by nobody else while they are read
-    QString values;                                // a statement for one value more than are offered
-    QString count;                                 // one for the number of all values
-    QString sample;                                // one that is quick, for when `values` takes too long
+    std::shared_ptr<ADODB::Connection> connection; // not used by anybody else while they are read
+    QString values;                                // a statement for one value more than is offered
+    QString count;                                 // a statement for the number of all values
+    QString sample;                                // a fast statement, in case `values` takes too long
     int most = 0;                                  // values to offer
     int limit = 5000;                              // milliseconds
-    QString withoutValue = {}; // one for the number of records without a value; may be empty
-    bool areDays = false;      // of moments, the day is the value
-    bool isHere = false;       // the connection is shared: it is used in the caller's thread only
+    QString withoutValue = {}; // a statement for the number of records without a value; may be empty
+    bool areDays = false;      // only the dates of timestamps are offered
+    bool isHere = false;       // the connection is shared: it is used only in the caller's thread
 };
 
-// Reads them in a thread of its own, which ends with this object, or at once where the connection is shared.
-// What takes longer than the limit is stopped; then those of the first records are offered, with a note. At
-// once the limit is a second.
+// Reads the values in a separate thread, which ends with this object, or immediately if the connection is
+// shared. A query that exceeds the time limit is stopped; then the values of the first records are offered,
+// with a note. If read immediately, the limit is a second.
 class ValueReading final : public QObject
 {
     Q_OBJECT
 
 public:
     explicit ValueReading(ValueRequest request);
-    // Stops the reading. A server that does not answer takes a moment.
+    // Stops the reading. If a server does not respond, this takes a moment.
     ~ValueReading() override;
 
-    // Waits that many milliseconds for the first values.
+    // Waits for the first values, at most that many milliseconds.
     bool waitForValues(int milliseconds);
-    // What has come; empty while nothing has.
+    // The values read so far; empty if there are none.
     OfferedValues values() const;
-    // Why nothing can be read; empty unless that is so.
+    // Why the values can't be read; empty if they can.
     QString failure() const;
 
 Q_SIGNALS:
-    // The values have come, or their number, or the reason why they can't be read.
+    // The values were read, or their number, or reading has failed.
     void arrived();
 
 private:

@@ -4,7 +4,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Shows that the user has to wait while it lives.
+// Shows the wait cursor while it exists.
 struct WaitCursor
 {
     WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }

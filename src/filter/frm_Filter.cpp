@@ -63,7 +63,7 @@ frm_Filter::frm_Filter(QWidget *parent)
     rows->setContentsMargins({});
     rows->addWidget(makeBand());
     rows->addLayout(body);
-    // Comfortable for two dates and what stands around them, but never wider than the screen.
+    // Wide enough for two dates and the parts around them, but never wider than the screen.
     const int comfortable = widthOfDigits(*this, 150);
     const int margins = 2 * margin;
     resize(

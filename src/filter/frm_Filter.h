@@ -17,9 +17,9 @@ public:
     explicit frm_Filter(QWidget *parent = nullptr);
 
     SetFilter &SetFilter1() { return *m_builder; }
-    // Shows a picture in the band at the top; a null one leaves what is shown.
+    // Shows a picture in the band at the top. A null one changes nothing.
     void SetPicture(const QIcon &picture);
-    // Empty when the dialog was cancelled.
+    // Empty if the dialog was cancelled.
     const QString &strFilterCondition() const { return m_strFilterCondition; }
 
 protected:

@@ -43,12 +43,12 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
     m_strTableName = fromText;
     if (!fromText.isEmpty()) {
         SetFilterTableName();
-        // Elsewhere than in one name a "." stands between a table and its field.
+        // Except in a single name, a "." separates a table and its field.
         if (namesOwners(request.dbType) && !fromText.contains(u' '))
             SplitFilterTableName();
     }
 
-    // A dialog begins without the conditions of the one before.
+    // A new dialog, without the conditions of the previous one.
     m_dialog = std::make_unique<frm_Filter>(m_parent);
     m_dialog->SetPicture(request.picture);
     m_shelf = request.shelf;

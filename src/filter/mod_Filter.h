@@ -24,21 +24,21 @@ namespace KOVAVSFDataGridLib {
 
 class frm_Filter;
 
-// What a filter dialog is prepared from.
+// The input for a filter dialog.
 struct FilterRequest
 {
     QString connectionString;
     AllDBType dbType = dbAccess;
     StatementSource tableType = FromTable;
     QString sqlShow; // the statement whose table is filtered
-    // For table type 2, where the connection string alone may not lead to the same data; may be null. See
+    // For table type 2, if the connection string alone may not lead to the same data; may be null. See
     // isConnectionNeeded().
     std::shared_ptr<ADODB::Connection> connection;
-    // Where the statement isn't the plain rows of a table: what it is filtered by instead.
+    // What to filter instead if the statement isn't the plain rows of a table.
     std::optional<FilteredResult> result = {};
-    QIcon picture = {};     // of the command that asks; may be null
-    QString condition = {}; // that the filtered records meet already
-    // What to begin with: a field, empty for any, and a value of it.
+    QIcon picture = {};     // of the calling command; may be null
+    QString condition = {}; // already met by the filtered records
+    // The initial content: a field (empty for any) and a value of it.
     QString field = {};
     QString value = {};
     std::vector<ConditionInForce> replaced =
@@ -48,11 +48,11 @@ struct FilterRequest
     bool isSqlWanted = false; // to see the condition as SQL
 };
 
-// Whether only the request's own connection leads to the data. Elsewhere it is left to the control: a
-// connection that nobody else uses can read in the background.
+// Whether only the request's own connection leads to the data. If not, the connection is not passed on: a
+// separate connection can be used for reading in the background.
 bool isConnectionNeeded(const FilterRequest &request);
 
-// Runs the filter dialog and keeps what it left. One object can run any number of dialogs, one after another.
+// Runs the filter dialog and stores its result. One object can run any number of dialogs in succession.
 class mod_Filter
 {
 public:
@@ -60,10 +60,10 @@ public:
     ~mod_Filter();
     Q_DISABLE_COPY_MOVE(mod_Filter)
 
-    // Forgets the last condition and makes the dialog ready.
+    // Clears the last condition and prepares the dialog.
     void PrepareFilterDialog(const FilterRequest &request);
-    // Shows it modally; answers strFilterCondition(). It can be shown again as it was left, with what the
-    // database says against the condition.
+    // Shows it modally and returns strFilterCondition(). It can be shown again with the same contents,
+    // together with the reason why the database rejected the condition.
     QString ShowFilterDialog(const QString &refusal = {});
 
     // The condition without those in force that the user keeps; empty where he kept them alone. And what it
@@ -71,21 +71,21 @@ public:
     QString BuiltCondition() const;
     QString Built() const;
 
-    // Whether the user wanted to see the condition as SQL when the dialog closed.
+    // Whether the condition was shown as SQL when the dialog closed.
     bool IsSqlWanted() const;
 
-    // The condition was used: it becomes the first of the shelf's recent ones.
+    // The condition was used: adds it to the start of the shelf's recent ones.
     void NoteUsed();
 
-    // Empty when the dialog was cancelled.
+    // Empty if the dialog was cancelled.
     const QString &strFilterCondition() const { return m_strFilterCondition; }
 
-    // The current table's name, and what is made of it.
+    // The current table's name, and its parts.
     const QString &strTableName() const { return m_strTableName; }
     void PutStrTableName(const QString &name) { m_strTableName = name; }
-    // Removes the brackets around the name and counts the table as known.
+    // Removes the brackets around the name, and marks the table as known.
     void SetFilterTableName();
-    // Takes owner and table apart where the name has a ".".
+    // Splits a name with a "." into owner and table.
     void SplitFilterTableName();
     const FilterTableName &NameParts() const { return m_nameParts; }
     bool IsTableKnown() const { return m_isTableKnown; }

@@ -13,23 +13,23 @@ class QRadioButton;
 
 namespace KOVAVSFDataGridLib {
 
-// Takes a connection string from the host's developer, built or typed, and on request the statement to show
-// after it.
+// Asks the host's developer for a connection string, which can be built or typed, and optionally for the
+// statement to show.
 class ConnectDialog final : public QDialog
 {
     Q_OBJECT
 
 public:
-    // Lets the developer build a connection in a window above `parent`, beginning with `present`; nothing
-    // when that was cancelled. It closes what it opens.
+    // Lets the developer build a connection in a window above `parent`, starting with `present`. Returns
+    // nothing if the developer cancels. Closes all connections that it opens.
     using Builder = std::function<std::optional<QString>(QWidget *parent, const QString &present)>;
 
-    // Without a builder the string can only be typed.
+    // Without a builder, the string can only be typed.
     explicit ConnectDialog(Builder builder, QWidget *parent = nullptr);
 
     void SetConnectionString(const QString &text);
 
-    // What OK took; nothing when the dialog was cancelled, and no statement when none was asked for.
+    // The result of OK. Nothing if the dialog was cancelled; no statement if none was requested.
     const std::optional<QString> &connectionString() const { return m_connectionString; }
     const std::optional<QString> &sqlShow() const { return m_sqlShow; }
 

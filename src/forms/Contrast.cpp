@@ -11,7 +11,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// Relative luminance as WCAG 2 defines it.
+// The relative luminance defined by WCAG 2.
 double luminance(const QColor &colour)
 {
     const auto linear = [](double v) {
@@ -21,7 +21,7 @@ double luminance(const QColor &colour)
            0.0722 * linear(colour.blueF());
 }
 
-// The palest mixture of text and paper that can be read on windows and in boxes alike.
+// The palest mixture of text and background that is readable on both windows and text boxes.
 QColor hintColour(const QPalette &palette)
 {
     const QColor text = palette.color(QPalette::Active, QPalette::Text);

@@ -6,18 +6,18 @@ class QWidget;
 
 namespace KOVAVSFDataGridLib {
 
-// What the accessibility guidelines ask of texts, and of the parts of a picture that carry its meaning.
+// The minimum contrast that WCAG 2 requires for texts, and for the meaningful parts of a picture.
 constexpr double leastTextContrast = 4.5;
 constexpr double leastPictureContrast = 3.0;
 
-// The contrast ratio of WCAG 2, from 1 to 21.
+// The contrast ratio defined by WCAG 2, from 1 to 21.
 double contrast(const QColor &a, const QColor &b);
 
-// `share` is the part of `top`, from 0 to 1. The result is opaque.
+// `share` is the weight of `top`, from 0 to 1. The result is opaque.
 QColor blended(const QColor &top, const QColor &bottom, double share);
 
-// Gives hints in and below a widget (all that is drawn in the palette's PlaceholderText) a colour that is
-// quieter than texts and still readable, and does so again when the palette changes.
+// Sets the colour of hints (the palette's PlaceholderText) in a widget and its children to one that is paler
+// than text but still readable. Repeats this when the palette changes.
 void makeHintsReadable(QWidget &widget);
 
 } // namespace KOVAVSFDataGridLib

@@ -27,7 +27,7 @@ DialogFieldChooser::DialogFieldChooser(QWidget *parent, Pictures pictures)
 
 DialogFieldChooser::~DialogFieldChooser() = default;
 
-// A window that is modal itself, the full-screen viewer say, would cover a dialog above any other.
+// A modal window (for example the full-screen viewer) would cover a dialog whose parent is another window.
 QWidget *DialogFieldChooser::windowBelow() const
 {
     QWidget *modal = QApplication::activeModalWidget();

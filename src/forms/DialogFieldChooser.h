@@ -9,19 +9,19 @@ class QWidget;
 
 namespace KOVAVSFDataGridLib {
 
-// Asks the user with the two selection dialogs, modally above a window, or above the one that is modal
-// already.
+// Asks the user with the two selection dialogs. They are modal above the given window, or above the current
+// modal window if there is one.
 class DialogFieldChooser final : public FieldChooser
 {
 public:
-    // The pictures of the commands that open the dialogs; a null one leaves a dialog its own.
+    // The pictures of the commands that open the dialogs. If one is null, the dialog keeps its default.
     struct Pictures
     {
         QIcon fields;
         QIcon sort;
     };
 
-    // `parent` is not owned and may go before the chooser does.
+    // `parent` is not owned and may be destroyed before the chooser.
     explicit DialogFieldChooser(QWidget *parent = nullptr, Pictures pictures = {{}, {}});
     ~DialogFieldChooser() override;
 

@@ -10,7 +10,7 @@ class QLineEdit;
 
 namespace KOVAVSFDataGridLib {
 
-// Shows one text, usually a statement, and lets the user change it once editing is allowed.
+// Shows one text, usually a statement, which the user can change if editing is allowed.
 class Dialog_SQLST final : public QDialog
 {
     Q_OBJECT
@@ -18,13 +18,13 @@ class Dialog_SQLST final : public QDialog
 public:
     explicit Dialog_SQLST(QWidget *parent = nullptr);
 
-    // What the text is; stands above it.
+    // A description, shown above the text.
     void SetLabel(const QString &label);
     void SetText(const QString &text);
-    // Whether the user can allow editing, and whether it is allowed to begin with.
+    // Whether the user can allow editing, and whether it is allowed initially.
     void SetEditing(bool canAllow, bool isAllowed);
 
-    // The text that the user accepted with editing allowed; nothing when the dialog was left otherwise.
+    // The text if the user accepted it with editing allowed; otherwise nothing.
     std::optional<QString> result() const { return m_result; }
 
 private:

@@ -88,7 +88,7 @@ ExportDialog::ExportDialog(const Choices &choices, QWidget *parent)
     m_guard->setChecked(true);
     m_guard->setToolTip(FormTexts::ExportGuardHint);
     m_markedRecords->setEnabled(choices.markedRecords > 0);
-    // Who marks several records and exports means these.
+    // A user who marks several records usually wants to export these.
     (choices.markedRecords > 1 ? m_markedRecords : m_allRecords)->setChecked(true);
     m_shownColumns->setChecked(true);
     layOut(choices);
@@ -143,7 +143,7 @@ void ExportDialog::layOut(const Choices &choices)
     rows->addRow(m_headings);
     rows->addRow(m_guard);
     rows->addRow(buttons);
-    ok->setDefault(true); // now that it is the dialog's
+    ok->setDefault(true); // possible only now that the dialog owns it
 }
 
 ExportFormat ExportDialog::format() const
@@ -151,7 +151,7 @@ ExportFormat ExportDialog::format() const
     return static_cast<ExportFormat>(m_format->currentData().toInt());
 }
 
-// The file's ending is that of the format.
+// Changes the file's ending to that of the format.
 void ExportDialog::followFormat()
 {
     QString file = m_file->text();

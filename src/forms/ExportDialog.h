@@ -11,7 +11,7 @@ class QRadioButton;
 
 namespace KOVAVSFDataGridLib {
 
-// Asks what to export and to which file. It writes nothing.
+// Asks what to export and to which file. Does not write anything.
 class ExportDialog final : public QDialog
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
 
     explicit ExportDialog(const Choices &choices, QWidget *parent = nullptr);
 
-    // What was chosen; for an accepted dialog. The file has the format's ending.
+    // The user's choices, if the dialog was accepted. The file has the format's ending.
     QString file() const;
     ExportOptions options() const;
     bool isMarkedOnly() const;
@@ -54,7 +54,7 @@ private:
     QRadioButton *m_allColumns;
     QCheckBox *m_headings;
     QCheckBox *m_guard;
-    QString m_agreed; // the file that may be replaced
+    QString m_agreed; // the file that the user agreed to replace
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QLatin1StringView nameEdit = "fileNameEdit"_L1; // as Qt's own dialog calls it
+constexpr QLatin1StringView nameEdit = "fileNameEdit"_L1; // the name in Qt's own dialog
 
 } // namespace
 
@@ -28,15 +28,15 @@ FileDialog::FileDialog(QWidget *parent, const QString &title, const QString &sta
         if (QFileInfo(url.toLocalFile()).isDir() && !places.contains(url))
             places.append(url);
     }
-    setSidebarUrls(places); // Qt's own begin with one that has an English name
-    // The headings of the details are Qt's, which it lets nobody write.
+    setSidebarUrls(places); // Qt's default list begins with an entry that has an English name
+    // In detail view, the column headings would be Qt's, and they can't be changed.
     setViewMode(List);
 }
 
 QString FileDialog::askToOpen(QWidget *parent, const QString &title, const QString &start,
                               const QString &filters)
 {
-    // On the heap, because the parent owns it as well: either may go first.
+    // On the heap, because the parent owns it too: either may be destroyed first.
     const QPointer<FileDialog> dialog = new FileDialog(parent, title, start, filters);
     dialog->setFileMode(ExistingFile);
     return ask(dialog, nullptr);
@@ -138,7 +138,7 @@ void FileDialog::nameAccept()
     setLabelText(Accept, saves ? FormTexts::Save : FormTexts::OpenFile);
 }
 
-// What Qt would ask and say here in its own words.
+// Replaces the questions and messages that Qt would show here.
 void FileDialog::accept()
 {
     const QFileInfo file(selectedFiles().value(0));

@@ -5,18 +5,18 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Asks for a file. Where the system has no file dialog of its own, the parts of Qt's one, and what it asks
-// about files, are in the language of the interface, whatever translator the host has installed.
+// Asks for a file. If the system has no native file dialog, Qt's dialog is shown, with all its texts and
+// questions in the language of the interface, whatever translator the host has installed.
 class FileDialog final : public QFileDialog
 {
     Q_OBJECT
 
 public:
-    // For a file that is there. `start` is a folder or a file; `filters` are as QFileDialog takes them.
+    // Asks for an existing file. `start` is a folder or a file; `filters` are those of QFileDialog.
     static QString askToOpen(QWidget *parent, const QString &title, const QString &start,
                              const QString &filters);
-    // For one that may be there already; then the user has agreed to replace it. `filter` is the one that is
-    // chosen at first, and in the end; it may be null. All answer an empty name when the user cancels.
+    // Asks for a file to write; if it exists, the user has agreed to replace it. `filter` is the initial
+    // filter and receives the chosen one; it may be null. All return an empty name if the user cancels.
     static QString askToSave(QWidget *parent, const QString &title, const QString &start,
                              const QString &filters, QString *filter = nullptr);
 

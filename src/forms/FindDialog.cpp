@@ -28,7 +28,7 @@ void setTextColour(QLineEdit &edit, QPalette::ColorRole role)
     edit.setPalette(palette);
 }
 
-// Keys that a person presses on the way to something else.
+// Whether the key is more than a modifier or a key that moves the focus.
 bool isTyped(int key)
 {
     switch (key) {
@@ -68,7 +68,7 @@ FindDialog::FindDialog(QWidget *parent)
     m_input->setAccessibleName(FormTexts::FindTitle);
     m_input->setEditable(true);
     m_input->setInsertPolicy(QComboBox::NoInsert);
-    m_input->setCompleter(nullptr); // it would add old words to what is typed
+    m_input->setCompleter(nullptr); // it would complete the input with earlier words
     m_input->setMinimumContentsLength(36);
     m_input->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_fields->setObjectName(u"FieldCombo1"_s);
@@ -98,7 +98,7 @@ FindDialog::FindDialog(QWidget *parent)
     rows->addLayout(buttons);
 
     showHint();
-    // Keys reach the line edit, or the box itself when they are sent to it.
+    // Keys go to the line edit, or to the box itself if they are sent to it.
     m_input->installEventFilter(this);
     m_input->lineEdit()->installEventFilter(this);
     connect(m_input, &QComboBox::editTextChanged, this, &FindDialog::onInputChanged);
@@ -143,7 +143,7 @@ void FindDialog::showHint()
 {
     m_input->setEditText(FormTexts::FindHint);
     m_input->lineEdit()->setCursorPosition(0);
-    // A system's border colour can hardly be read as text; the palette has one for hints.
+    // A system's border colour is hardly readable as text; the palette has a colour for hints.
     setTextColour(*m_input->lineEdit(), QPalette::PlaceholderText);
     m_isHintShown = true;
     m_find->setEnabled(false);
@@ -161,7 +161,7 @@ void FindDialog::removeHint()
     m_fields->setEnabled(true);
 }
 
-// The hint is no text to select or to write into.
+// The hint can't be selected or edited.
 void FindDialog::keepOutOfHint()
 {
     QLineEdit *edit = m_input->lineEdit();
@@ -169,7 +169,7 @@ void FindDialog::keepOutOfHint()
         edit->setCursorPosition(0);
 }
 
-// A paste or a drop changes the text without a key; what it brought stays when the hint goes.
+// A paste or a drop changes the text without a key. Its text must stay when the hint is removed.
 void FindDialog::onInputChanged(const QString &text)
 {
     if (!m_isHintShown)
@@ -189,7 +189,7 @@ bool FindDialog::eventFilter(QObject *watched, QEvent *event)
     return QDialog::eventFilter(watched, event);
 }
 
-// True when the key is dealt with.
+// Returns true if the key was handled.
 bool FindDialog::onKey(int key)
 {
     if (key == Qt::Key_Escape) {

@@ -9,7 +9,7 @@ namespace KOVAVSFDataGridLib {
 
 class colDataFields;
 
-// Asks what to search for, and in which field. The answers are set once Find has succeeded.
+// Asks what to search for, and in which field. The results are set after Find has succeeded.
 class FindDialog final : public QDialog
 {
     Q_OBJECT
@@ -17,21 +17,21 @@ class FindDialog final : public QDialog
 public:
     explicit FindDialog(QWidget *parent = nullptr);
 
-    // Offers all fields together, then each field of the catalogue. False when there is no catalogue or
-    // nothing in it.
+    // Offers all fields together, and each field of the catalogue. Returns false if there is no catalogue or
+    // it is empty.
     bool InitFrm(const colDataFields *colFields);
 
-    // The words that were searched for before, the newest first, which are offered; and, after Find, with
-    // those that were typed.
+    // The words of earlier searches, newest first, which are offered as suggestions. After Find, the list
+    // includes the words just typed.
     void SetEarlierWords(const QStringList &words);
     const QStringList &EarlierWords() const { return m_earlierWords; }
 
-    // The words searched for, "%" between them; empty until Find has succeeded.
+    // The words to search for, separated by "%"; empty until Find has succeeded.
     const QString &strFindText() const { return m_strFindText; }
-    // The field chosen, or the text that means all fields.
+    // The chosen field, or the text for all fields.
     const QString &strFieldName() const { return m_strFieldName; }
     void PutStrFieldName(const QString &name) { m_strFieldName = name; }
-    // Whether one field was chosen.
+    // Whether a single field was chosen.
     bool bIsAppointField() const { return m_bIsAppointField; }
 
 protected:

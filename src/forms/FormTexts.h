@@ -2,7 +2,7 @@
 
 #include "language/Text.h"
 
-// The texts of the dialogs, for proof-reading in one place.
+// The texts of the dialogs, collected here for proofreading.
 namespace KOVAVSFDataGridLib::FormTexts {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::FormTexts"};
@@ -140,7 +140,7 @@ inline constexpr Text ExportButton = tr("导出(&E)");
 inline constexpr Text ExportNoFile = tr("请指定文件。");
 inline constexpr Text ExportReplace = tr("文件“%1”已经存在，要替换它吗？");
 
-// ConnectDialog, which only the host's developer meets
+// ConnectDialog, which only the host's developer sees
 inline const QString ConnectTitle = u"Connection"_s;
 inline const QString ConnectOk = u"OK"_s;
 inline const QString ConnectCancel = u"Cancel"_s;

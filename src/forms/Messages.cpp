@@ -58,7 +58,7 @@ Box *newBox(QWidget *parent, const Message &message)
     box->setText(message.text);
     box->setInformativeText(message.cause);
     if (auto *cause = box->findChild<QLabel *>(u"qt_msgbox_informativelabel"_s))
-        cause->setTextFormat(Qt::PlainText); // the box sets it for the text alone
+        cause->setTextFormat(Qt::PlainText); // QMessageBox sets the format only for the main text
     box->setIcon(message.icon);
     box->setWindowTitle(message.title.isEmpty() ? QApplication::applicationDisplayName() : message.title);
     return box;

@@ -25,7 +25,7 @@ constexpr int pictureSize = 16; // pixels at 96 DPI
 
 SelectionDialog::SelectionDialog(const QString &name, const QString &caption, const QString &bandName,
                                  QWidget *parent)
-    // No close box is shown where the platform can leave it out, since it would do nothing.
+    // Without a close button, if the platform can omit it, because it would do nothing.
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint),
       m_picture(new QLabel(this)),
       m_tableName(new QLineEdit(this)),

@@ -9,16 +9,16 @@ class QVBoxLayout;
 
 namespace KOVAVSFDataGridLib {
 
-// What the dialogs for choosing fields and a sort share: a band with the table's name, OK, Cancel and one
-// result text. Only OK, Cancel and the keys for them end the dialog; closing its window does not.
+// Base of the dialogs for choosing fields and a sort: a band with the table's name, OK, Cancel and one result
+// text. Only OK, Cancel and their keys end the dialog; closing its window does not.
 class SelectionDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    // Shows the title; an empty one leaves what is shown.
+    // Shows the title. An empty one changes nothing.
     void SetTitle(const QString &strTitle);
-    // Shows a picture in front of the title; a null one leaves what is shown.
+    // Shows a picture before the title. A null one changes nothing.
     void SetPicture(const QIcon &picture);
 
     // Empty until OK has succeeded.
@@ -28,11 +28,11 @@ protected:
     // `bandName` is the object name of the band around the table's name.
     SelectionDialog(const QString &name, const QString &caption, const QString &bandName, QWidget *parent);
 
-    // Goes between band and buttons.
+    // The layout between the band and the buttons.
     QVBoxLayout *content() const { return m_content; }
-    // To be called once the content is complete, so that the tab key reaches the buttons last.
+    // Call it after the content is complete, so that the buttons come last in the tab order.
     void addButtons();
-    // Called by OK. Keeps the result; the derived class decides whether to accept().
+    // Called by OK. Sets the result; the derived class decides whether to call accept().
     virtual void acceptChoice() = 0;
     void setResultText(const QString &text) { m_strRetFields = text; }
 

@@ -24,7 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int writtenRole =
-    Qt::UserRole; // what a chosen field adds to the result; empty when only its name says
+    Qt::UserRole; // what a chosen field adds to the result; empty: only its name is known
 
 } // namespace
 
@@ -207,7 +207,7 @@ void frmSelShowFields::countChecks()
     m_list->viewport()->update();
 }
 
-// Enter and Down in the search box lead into the list: Enter there means "found", not "done".
+// Enter and Down in the search box move to the list: Enter there means "found", not "done".
 bool frmSelShowFields::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress) {

@@ -13,8 +13,8 @@ class QTreeWidgetItem;
 
 namespace KOVAVSFDataGridLib {
 
-// Lets the user tick the fields to show. Fill it in this order: SetTitle, AppendListFields,
-// SetListFieldCheck; strRetFields() is then the ticked fields as they stand behind SELECT.
+// Lets the user tick the fields to show. Call, in this order, SetTitle, AppendListFields and
+// SetListFieldCheck. strRetFields() then returns the ticked fields as a SELECT list.
 class frmSelShowFields final : public SelectionDialog
 {
     Q_OBJECT
@@ -22,12 +22,12 @@ class frmSelShowFields final : public SelectionDialog
 public:
     explicit frmSelShowFields(QWidget *parent = nullptr);
 
-    // The fields to choose from, in their order. False, changing nothing, when there is no list.
+    // The fields to choose from, in order. Returns false and changes nothing if there is no list.
     bool AppendListFields(const QStringList *PassAllFields);
     // The same, with the text that a chosen field adds to the result.
     void AppendListFields(const QList<OfferedField> &fields);
-    // Ticks the rows that are named plain, in brackets or in double quotes; ticks none away. False when there
-    // is no list.
+    // Ticks the rows whose names are listed plain, in brackets or in double quotes; does not untick any.
+    // Returns false if there is no list.
     bool SetListFieldCheck(const QStringList *PassPartFields);
 
 private:
@@ -38,9 +38,9 @@ private:
     void acceptChoice() override;
 
     QList<QTreeWidgetItem *> items() const;
-    QTreeWidgetItem *firstListed() const; // null when the search hides all
+    QTreeWidgetItem *firstListed() const; // null if the search hides all rows
     void listOnly(const QString &part);
-    // Gives every listed row the state that `change` makes of its own.
+    // Sets each listed row to the result of `change` for its current state.
     void changeChecks(bool (*change)(bool isChecked));
     void countChecks();
 

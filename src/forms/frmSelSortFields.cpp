@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The heading, unless the name as it is written differs from it by quotes alone or several fields have it.
+// The heading; the written name instead if that is the quoted heading, or if the heading is not unique.
 QString captionOf(const OfferedField &field, const QList<OfferedField> &fields)
 {
     const bool isQuotedName = field.written.size() == field.name.size() + 2 &&

@@ -14,8 +14,8 @@ namespace KOVAVSFDataGridLib {
 
 class SortList;
 
-// Lets the user choose sort fields and their order. Fill it in this order: SetTitle, AppendListFields,
-// AppendListSortFields, AppendSortOrder; strRetFields() is then the sort as it stands behind ORDER BY.
+// Lets the user choose sort fields and their order. Call, in this order, SetTitle, AppendListFields,
+// AppendListSortFields and AppendSortOrder. strRetFields() then returns the ORDER BY list.
 class frmSelSortFields final : public SelectionDialog
 {
     Q_OBJECT
@@ -23,13 +23,13 @@ class frmSelSortFields final : public SelectionDialog
 public:
     explicit frmSelSortFields(QWidget *parent = nullptr);
 
-    // The present sort's terms. False, changing nothing, when there is no list.
+    // The terms of the current sort. Returns false and changes nothing if there is no list.
     bool AppendListSortFields(const QStringList *PassSortFields);
-    // The fields to choose from. False, changing nothing, when there is no list or nothing in it.
+    // The fields to choose from. Returns false and changes nothing if there is no list or it is empty.
     bool AppendListFields(const QStringList *PassAllFields);
-    // The same, under the headings that the user sees; the sort is made of what statements write.
+    // The same, shown by their headings; the sort uses their names in statements.
     bool AppendListFields(const QList<OfferedField> &fields);
-    // The two order words; always True.
+    // The two order words. Always returns true.
     bool AppendSortOrder();
 
 private:
@@ -45,7 +45,7 @@ private:
     void enableButtons();
 
     QHash<QString, QString> m_writtenByCaption;
-    // In the order in which the tab key reaches them.
+    // In tab order.
     QComboBox *m_fields;
     QComboBox *m_order;
     QPushButton *m_add;

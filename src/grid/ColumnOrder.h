@@ -6,8 +6,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The places of `headings`, from the left: those that `order` names as it says, then each other one after the
-// one before it. The first of equal names in one list is the first of them in the other.
+// The positions of `headings` from the left: those in `order` in that order, and every other one after the
+// one before it. Equal names are matched in their order.
 std::vector<int> arrangedColumns(const QStringList &headings, const QStringList &order);
 
 // `order` with the names that only `known` has, each after the one before it there.

@@ -21,7 +21,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr int rowPadding = 120; // twips, above and below a row's text together
+constexpr int rowPadding = 120; // twips, the sum of the space above and below a row's text
 
 } // namespace
 
@@ -34,7 +34,7 @@ FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
     setVerticalHeader(new FlexHeader(Qt::Vertical, *this));
     setMouseTracking(true);
     setEditTriggers(NoEditTriggers);
-    setTabKeyNavigation(false); // Tab goes on to the next control; the arrows walk over the cells
+    setTabKeyNavigation(false); // Tab moves to the next control; the arrow keys move between cells
     setSelectionMode(ContiguousSelection);
     setHorizontalScrollMode(ScrollPerPixel);
     setWordWrap(false);
@@ -44,7 +44,7 @@ FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setHighlightSections(false);
     setItemDelegate(new CellDelegate(this));
-    // A heading is no cell: pressing it makes nothing current and selects nothing.
+    // A heading is not a cell: pressing it neither selects nor makes anything current.
     disconnect(horizontalHeader(), &QHeaderView::sectionPressed, this, nullptr);
     disconnect(horizontalHeader(), &QHeaderView::sectionEntered, this, nullptr);
     applyRowHeight();
@@ -101,7 +101,7 @@ bool FlexGrid::isBlank() const
 void FlexGrid::updateGeometries()
 {
     QTableView::updateGeometries();
-    // The bar counts rows, and its page is the number that fit in.
+    // The scroll bar counts rows; its page step is the number of visible rows.
     QScrollBar &bar = *verticalScrollBar();
     bar.setMaximum(std::min(bar.maximum(), std::max(UsedRows() - 1 - bar.pageStep(), 0)));
 }
@@ -110,10 +110,10 @@ void FlexGrid::scrollContentsBy(int dx, int dy)
 {
     const bool wasFrozen = frozenWidth() > 0;
     QTableView::scrollContentsBy(dx, dy);
-    // What stays was scrolled with the rest.
+    // Frozen columns were scrolled with the rest, so everything must be painted again.
     if (dx != 0 && (wasFrozen || frozenWidth() > 0))
         Refresh();
-    // At the end of its bar a table view shows the last row of all, which here may be an unused one.
+    // At the end of its scroll bar, a table view shows the very last row, which may be unused here.
     if (const int top = verticalScrollBar()->value(); UsedRows() < Rows() && TopRow() != top + 1) {
         verticalHeader()->setOffsetToSectionPosition(top);
         Refresh();
@@ -196,7 +196,7 @@ void FlexGrid::PutBackColor(const QColor &colour)
 
 void FlexGrid::Show(std::unique_ptr<CellSource> source)
 {
-    // The view restores section sizes of its own on a reset; ours are the exact ones.
+    // The view restores its own section sizes on a reset; ours are exact.
     const QScopedValueRollback<bool> applying(m_isApplyingWidths, true);
     m_model->setSource(std::move(source));
     applyLines();
@@ -210,12 +210,12 @@ void FlexGrid::Show(std::unique_ptr<CellSource> source)
 void FlexGrid::ShowMore(std::unique_ptr<CellSource> source)
 {
     m_model->growTo(std::move(source));
-    updateGeometries(); // the view itself would wait for its next events
+    updateGeometries(); // the view itself would wait for its next event
 }
 
 bool FlexGrid::event(QEvent *event)
 {
-    // A window that moved to a screen of another resolution.
+    // The window was moved to a screen with another resolution.
     if (event->type() == QEvent::ScreenChangeInternal) {
         applyRowHeight();
         applyWidths();
@@ -232,7 +232,7 @@ void FlexGrid::changeEvent(QEvent *event)
 
 bool FlexGrid::viewportEvent(QEvent *event)
 {
-    // As the view itself follows the mouse, which it keeps to itself.
+    // Tracks hovering as the view does, which keeps it private.
     if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverMove)
         m_hover = indexAt(static_cast<QHoverEvent *>(event)->position().toPoint());
     else if (event->type() == QEvent::HoverLeave || event->type() == QEvent::Leave)

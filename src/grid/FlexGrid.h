@@ -18,10 +18,10 @@ namespace KOVAVSFDataGridLib {
 class CellPainter;
 class FlexGridModel;
 
-// A table view that speaks the flex-grid vocabulary: rows and columns count from 0 with the headings
-// as row 0 (and, in a VSFlexGrid, column 0), widths are twips.
+// A table view with the terms of a flex grid: rows and columns are numbered from 0, row 0 (and in a
+// VSFlexGrid column 0) contains the headings, and widths are in twips.
 //
-// A row or column outside the grid is an error: reads and writes of it throw std::out_of_range and
+// A row or column outside the grid is an error: reading and writing throw std::out_of_range and
 // change nothing.
 class FlexGrid : public QTableView
 {
@@ -33,56 +33,56 @@ public:
 
     ~FlexGrid() override;
 
-    // Rows and columns, headings included. Writing them empties the grid's cells; at least 1.
+    // The numbers of rows and columns, including headings; at least 1. Writing them clears the grid's cells.
     int Rows() const;
     void PutRows(int rows);
     int Cols() const;
     void PutCols(int cols);
-    // Rows without the empty ones that the source of the cells has at its end.
+    // The number of rows, without empty ones at the end of the cell source.
     int UsedRows() const;
-    // Whether no cell and no heading has a text. Such a grid is drawn as one plain surface, however many rows
-    // and columns it has; so are the rows of one that uses none.
+    // Whether no cell and no heading has a text. Such a grid is painted as one plain area, however many rows
+    // and columns it has, and so are its unused rows.
     bool isBlank() const;
 
-    // The current cell; 0 while a heading (or nothing) is current. Writing does not scroll.
+    // The current cell; 0 if a heading (or nothing) is current. Writing does not scroll.
     int Row() const { return m_row; }
     void PutRow(int row);
     int Col() const { return m_col; }
     void PutCol(int col);
-    // Where the user sees the current cell: Col, or the nearest shown column while that one is hidden.
+    // The column where the user sees the current cell: Col, or the nearest visible column if that is hidden.
     int ShownCol() const;
-    // The far corner of the selection that holds the current cell; Row and Col when one cell is selected.
+    // The opposite corner of the selection that contains the current cell; Row and Col for a single cell.
     int RowSel() const;
     int ColSel() const;
-    // The first row in view, 0 in a grid without data rows. Writing scrolls it to the top.
+    // The first visible row; 0 in a grid without data rows. Writing scrolls it to the top.
     int TopRow() const;
     void PutTopRow(int row);
-    // True when any of the row can be seen. Row 0, the heading, always can.
+    // Whether any part of the row is visible. Row 0, the heading, always is.
     bool RowIsVisible(int row) const;
 
     QString TextMatrix(int row, int col) const;
     void PutTextMatrix(int row, int col, const QString &text);
     // The current cell's text.
     QString Text() const;
-    // The texts of row 0, without the heading of the row headings.
+    // The texts of row 0, without that of the row headings.
     QStringList Headings() const;
 
-    // Twips exactly as last set, whatever the screen's resolution; useDefaultWidth when never set,
-    // 0 for a hidden column.
+    // Exactly the twips last set, whatever the screen's resolution; useDefaultWidth if never set, 0 for a
+    // hidden column.
     int ColWidth(int col) const;
     void PutColWidth(int col, int twips);
-    // What a column's width comes to: like ColWidth, with the default's 960 in place of -1 (the row headings
-    // are as wide as their numbers need by default).
+    // The effective width of a column: ColWidth, with 960 instead of -1 (by default the row headings are as
+    // wide as their numbers).
     int ColWidthInUse(int col) const;
-    // All columns take the default width again.
+    // Resets all columns to the default width.
     void ResetColWidths();
 
-    // A width in twips at which the column's heading and texts can be read: of the rows in view and of some
-    // hundred others. Not above a fair part of the grid's width.
+    // A width in twips at which the column's heading and texts are readable, measured for the visible rows
+    // and some hundred others. At most a certain share of the grid's width.
     int FittingColWidth(int col) const;
 
-    // The headings from the left, hidden ones too. Column numbers are those of the fields wherever a column
-    // is shown.
+    // The headings from left to right, including hidden ones. Column numbers are those of the fields,
+    // wherever a column is shown.
     QStringList ColumnOrder() const;
     // The same with further columns where they would be shown.
     QStringList OrderWith(const QStringList &names) const;
@@ -93,69 +93,69 @@ public:
     // when other cells are shown; so are the places of columns that are not there then.
     void ArrangeColumns(const QStringList &order, int frozen);
 
-    // How a column's texts are shown; TextMatrix and copies keep the texts themselves. Kept by the heading
-    // when other cells are shown.
+    // The display format of a column; TextMatrix and copies use the original texts. Kept by heading when
+    // other cells are shown.
     ADODB::DisplayFormat ColFormat(int col) const;
     void PutColFormat(int col, const ADODB::DisplayFormat &format);
     // The same by the heading, whether its column is there now or not.
     ADODB::DisplayFormat HeadingFormat(const QString &heading) const;
     void PutHeadingFormat(const QString &heading, const ADODB::DisplayFormat &format);
 
-    // Whether cells without a value show a pale NULL, which is no text of theirs.
+    // Whether Null is shown as a pale NULL, which is not part of the cell's text.
     bool ShowsNulls() const;
     void PutShowsNulls(bool on);
 
-    // Marks parts of the texts that are shown; null marks nothing.
+    // Marks parts of the shown texts; null marks nothing.
     void PutTextMarker(TextMarker marker);
-    // Whether a column is too narrow for a cell's text, or only the text's first line is shown.
+    // Whether a cell's text is truncated or only its first line is shown.
     bool IsTextCut(int row, int col) const;
-    // What the headings show beside their texts, by column.
+    // What headings show beside their texts, by column.
     void PutHeadingMarks(const std::vector<HeadingMark> &marks);
-    // Whether a heading offers its column's menu when the mouse is over it.
+    // Whether a heading shows the arrow of its column menu on hover.
     bool HasColumnMenus() const { return m_hasColumnMenus; }
     void PutHasColumnMenus(bool on);
-    // Where the menu of a column belongs, on the screen.
+    // Where to open the menu of a column, in screen coordinates.
     QPoint ColumnMenuPlace(int col) const;
-    // The column at a place in the headings' viewport; 0 when none is.
+    // The column at a position in the headings' viewport; 0 if there is none.
     int ColumnOfHeadingAt(const QPoint &position) const;
 
     bool Redraw() const { return updatesEnabled(); }
     void PutRedraw(bool on) { setUpdatesEnabled(on); }
-    // Empties all cells and headings, keeping the number of rows and columns.
+    // Clears all cells and headings; keeps the number of rows and columns.
     void Clear();
     void Refresh();
     QColor BackColor() const;
     void PutBackColor(const QColor &colour);
 
-    // Runs `act`, in which Qt's own code makes a cell current or deals with an event, and reports what has
-    // come of it only then, as a listener may delete the grid.
+    // Runs `act`, in which Qt's own code handles an event or makes a cell current, and sends the resulting
+    // signals afterwards, because a listener may delete the grid.
     void notifyAfter(const std::function<void()> &act);
 
     QModelIndex indexAt(const QPoint &position) const override;
     QRect visualRect(const QModelIndex &index) const override;
     void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
-    // The pixels at the left in which frozen columns cover the others; 0 while nothing is scrolled below
-    // them.
+    // The width in pixels of the area at the left in which frozen columns cover others; 0 if nothing is
+    // scrolled under them.
     int frozenWidth() const;
 
-    // Shows the cells of `source` (not null) instead of the grid's own. Columns that stay within the
-    // number of columns keep their widths; nothing is current afterwards.
+    // Shows the cells of `source` (not null) instead of the grid's own. Existing columns keep their widths;
+    // no cell is current afterwards.
     void Show(std::unique_ptr<CellSource> source);
-    // Shows the cells of `source` (not null), which are those that are shown and further rows below. Nothing
+    // Shows the cells of `source` (not null), which must be the current ones with more rows below. Nothing
     // else changes.
     void ShowMore(std::unique_ptr<CellSource> source);
 
 Q_SIGNALS:
-    // Another data row became current, by mouse, key or program. Like HeadingClicked it may delete the grid:
-    // when it comes of mouse or key, all else that the event does is done.
+    // Another data row is current, by mouse, key or program. Like HeadingClicked, a listener may delete the
+    // grid: the mouse or key event has been completely processed by then.
     void CurrentRowChanged(int row);
     // A column's heading was clicked.
     void HeadingClicked(int col);
-    // The user gave a column another width.
+    // The user changed a column's width.
     void ColWidthChanged(int col, int twips);
     // The user moved a column, or a program arranged the columns.
     void ColumnsArranged();
-    // The user asked for a column's menu at a place on the screen. Nothing of the event is left to do.
+    // The user opens a column's menu; `place` is in screen coordinates. The event has been processed by then.
     void ColumnMenuWanted(int col, const QPoint &place);
     // The user double-clicked the right edge of a column's heading.
     void FittingWidthWanted(int col);
@@ -202,14 +202,14 @@ private:
     std::vector<int> m_widths; // twips by grid column
     int m_row = 0;
     int m_col = 0;
-    QStringList m_order;       // as last arranged; empty for the order of the fields
-    QStringList m_frozenNames; // the first of them
+    QStringList m_order;       // the last arrangement; empty for the order of the fields
+    QStringList m_frozenNames; // the headings of the frozen columns
     int m_frozenCols = 0;
     bool m_hasColumnMenus = false;
     bool m_isArranging = false;
     bool m_isApplyingWidths = false;
-    bool m_isActing = false;  // in notifyAfter()
-    bool m_hasNewRow = false; // to be reported, as is the next one
+    bool m_isActing = false;  // inside notifyAfter()
+    bool m_hasNewRow = false; // must still be signalled, like the next one
     std::optional<int> m_clickedCol;
 };
 

@@ -11,12 +11,12 @@
 
 #include <algorithm>
 
-// Where the columns are, what their headings show, and how wide they would be best.
+// The order of columns, the marks of their headings, and their fitting widths.
 namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr int sampledRows = 200; // of all, besides those in view
+constexpr int sampledRows = 200; // in total, besides the visible ones
 constexpr int widestShare = 2;   // of the grid's width: a half
 constexpr int leastFittingTwips = 300;
 

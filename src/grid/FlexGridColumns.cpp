@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-// The columns' widths, which are exact in twips, and the view's sections in pixels.
+// The columns' widths, exact in twips, and the view's sections, in pixels.
 namespace KOVAVSFDataGridLib {
 
 int FlexGrid::ColWidth(int col) const
@@ -23,7 +23,7 @@ void FlexGrid::PutColWidth(int col, int twips)
     checkCol(col);
     m_widths[static_cast<std::size_t>(col)] = std::max(twips, useDefaultWidth);
     applyWidth(col);
-    // The view goes where it can be seen, and comes back when the current column is shown again.
+    // Moves the view's current cell to a visible column, and back when the current column is shown again.
     if (currentIndex().isValid() && currentIndex().column() != nearestShownSection(section(m_col)))
         makeCurrent(m_row, m_col);
 }
@@ -71,7 +71,7 @@ void FlexGrid::applyWidth(int col)
     const QScopedValueRollback<bool> applying(m_isApplyingWidths, true);
     const int width = m_widths[static_cast<std::size_t>(col)];
     if (col < m_model->fixedCols()) {
-        // The row headings fit their numbers unless a width was asked for.
+        // By default, the row headings are as wide as their numbers.
         verticalHeader()->setVisible(width != 0);
         if (width > 0)
             verticalHeader()->setFixedWidth(Twips::toPixels(width, *this));
@@ -82,7 +82,7 @@ void FlexGrid::applyWidth(int col)
         setColumnWidth(section(col), Twips::toPixels(ColWidthInUse(col), *this));
 }
 
-// The last one in view, where it takes whatever width is left.
+// The last visible column takes all of the remaining width.
 bool FlexGrid::isStretched(int section) const
 {
     if (!horizontalHeader()->stretchLastSection())

@@ -1,4 +1,4 @@
-// The current cell of a FlexGrid: how it moves by program, mouse and key, and when that is reported.
+// The current cell of a FlexGrid: how it moves by program, mouse and key, and when that is signalled.
 #include "grid/FlexGrid.h"
 #include "grid/cells/FlexGridModel.h"
 
@@ -21,13 +21,13 @@ void FlexGrid::PutCol(int col)
     makeCurrent(m_row, col);
 }
 
-// Headings and hidden columns can be current in the grid's vocabulary but not in the view, whose keys would
-// be dead there. The numbers are kept here; the view stands on the nearest column that can be seen.
+// In the grid's terms, headings and hidden columns can be current, but in the view that would disable its
+// keys. So the numbers are stored here, and the view uses the nearest visible column.
 void FlexGrid::makeCurrent(int row, int col)
 {
     const bool isCell = row > 0 && m_model->columnCount() > 0;
     notifyAfter([&] {
-        setAutoScroll(false); // what is in view is TopRow's affair
+        setAutoScroll(false); // the visible part is changed only by TopRow
         setCurrentIndex(isCell ? m_model->index(row - 1, nearestShownSection(section(col))) : QModelIndex());
         setAutoScroll(true);
         m_row = row;
@@ -70,7 +70,7 @@ void FlexGrid::mousePressEvent(QMouseEvent *event)
 {
     notifyAfter([&] {
         QTableView::mousePressEvent(event);
-        // No change of the view's cell when it stood there for a hidden column that is the current one.
+        // The view's cell does not change if it represents the current column, which is hidden.
         if (const QModelIndex cell = indexAt(event->position().toPoint());
             cell.isValid() && cell == currentIndex())
             m_col = cell.column() + m_model->fixedCols();
@@ -95,7 +95,7 @@ void FlexGrid::keyPressEvent(QKeyEvent *event)
 QModelIndex FlexGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
     const QModelIndex target = QTableView::moveCursor(action, modifiers);
-    const int lastUsed = UsedRows() - 2; // the model does not count the headings
+    const int lastUsed = UsedRows() - 2; // model rows exclude the headings
     if (!target.isValid() || target.row() <= lastUsed)
         return target;
     return lastUsed >= 0 ? target.siblingAtRow(lastUsed) : currentIndex();

@@ -9,13 +9,13 @@
 
 #include <algorithm>
 
-// The frozen columns. They are the first of the view, and lie over the others once these have been scrolled
-// below them.
+// Paints the frozen columns. They are the first columns of the view, and cover those that have been scrolled
+// under them.
 namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr int leastRoom = 40; // pixels that are left to the columns that scroll
+constexpr int leastRoom = 40; // pixels, at least, for the columns that scroll
 
 } // namespace
 
@@ -89,7 +89,7 @@ void FlexGrid::paintFrozenCells(const QStyleOptionViewItem &option, const QRegio
     painter.drawLine(part.topRight(), part.bottomRight());
 }
 
-// As the view paints cells, where a host has a delegate or a style sheet.
+// Paints as the view does, for a host's delegate or style sheet.
 void FlexGrid::paintByDelegate(const QStyleOptionViewItem &option, const QRect &area)
 {
     QPainter painter(viewport());

@@ -19,7 +19,7 @@ constexpr int leastSize = 4; // pixels, so that an edge can be found again
 // column and the next one at the left of its own are told apart.
 constexpr int headingPadding = 2;
 
-// The same event where the header itself has the heading that was hit.
+// The same event at the position where the header itself has the heading.
 QMouseEvent shifted(const QMouseEvent &event, int shift)
 {
     return {event.type(),          event.position() - QPointF(shift, 0),
@@ -33,7 +33,7 @@ QMouseEvent shifted(const QMouseEvent &event, int shift)
 FlexHeader::FlexHeader(Qt::Orientation orientation, FlexGrid &grid)
     : QHeaderView(orientation, &grid), m_grid(grid)
 {
-    // As a table view sets up the headers of its own.
+    // Set up like the headers of a table view.
     setSectionsClickable(true);
 }
 
@@ -49,7 +49,7 @@ void FlexHeader::mousePressEvent(QMouseEvent *event)
         return;
     }
     m_pressShift = shiftAt(event->position().toPoint());
-    // Its place below the others can't be pointed at.
+    // A section covered by others must not react to the mouse.
     if (m_pressShift != 0)
         setSectionsMovable(false);
     QMouseEvent inner = shifted(*event, m_pressShift);
@@ -100,14 +100,14 @@ void FlexHeader::mouseDoubleClickEvent(QMouseEvent *event)
     m_grid.notifyAfter([&] { QHeaderView::mouseDoubleClickEvent(&inner); });
 }
 
-// Qt's own adds what a highlighted section needs for its bold text, and none is highlighted here.
+// Qt adds room for the bold text of highlighted sections, which are not used here.
 QSize FlexHeader::sectionSizeFromContents(int logicalIndex) const
 {
     QStyleOptionHeader option;
     initStyleOption(&option);
     option.section = logicalIndex;
     option.text = model()->headerData(logicalIndex, orientation()).toString();
-    // The row headings keep their width while the first hundreds of records are walked through.
+    // The row headings keep their width for the first hundreds of records.
     if (orientation() == Qt::Vertical && option.text.size() < 3)
         option.text = QStringLiteral("000");
     const QSize size = style()->sizeFromContents(QStyle::CT_HeaderSection, &option, {}, this);
@@ -126,11 +126,11 @@ int FlexHeader::fittingWidth(int logicalIndex) const
     return std::max(width, 2 * arrowWidth());
 }
 
-// A style draws a text that is too long over both ends of its section.
+// A style paints a text that is too long over both ends of its section.
 void FlexHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int logicalIndex) const
 {
     QHeaderView::initStyleOptionForIndex(option, logicalIndex);
-    // Styles write such a section's text bold.
+    // Styles use a bold font for such a section.
     if (orientation() == Qt::Vertical && m_grid.currentIndex().row() == logicalIndex)
         option->state |= QStyle::State_On;
     option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight,
@@ -229,7 +229,7 @@ int FlexHeader::arrowWidth() const
     return std::max(fontMetrics().height(), 12);
 }
 
-// The edges of a heading are for its width.
+// The edges of a heading are for resizing.
 QRect FlexHeader::arrowRect(int logicalIndex) const
 {
     const QRect heading = headingRect(logicalIndex);
@@ -259,7 +259,7 @@ int FlexHeader::shiftAt(const QPoint &position) const
     return isFrozen ? offset() : 0;
 }
 
-// A header takes no drag that begins left of it, where it has the frozen sections.
+// A header ignores a drag that begins to the left of it, where frozen sections are.
 int FlexHeader::frozenEdgeAt(const QPoint &position) const
 {
     const int shift = shiftAt(position);

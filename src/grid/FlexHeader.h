@@ -8,12 +8,12 @@ namespace KOVAVSFDataGridLib {
 
 class FlexGrid;
 
-// The headings of a flex grid. What a press or a click of theirs leads to is reported when the header has
-// finished with the event, because a listener may delete the grid. A heading that is cut ends in an
-// ellipsis and is shown in full by a tool tip; those of an empty grid are one plain surface.
+// The headings of a flex grid. Signals for presses and clicks are sent after the header has processed the
+// event, because a listener may delete the grid. A heading that does not fit is elided and shown in full by
+// a tool tip; the headings of an empty grid are one plain area.
 //
-// A heading shows its column's marks at its right, and an arrow for its column's menu while the mouse is over
-// it. Frozen columns' headings stay where they are.
+// A heading shows its column's marks at its right end, and on hover an arrow for its column's menu. The
+// headings of frozen columns don't scroll.
 class FlexHeader final : public QHeaderView
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ class FlexHeader final : public QHeaderView
 public:
     FlexHeader(Qt::Orientation orientation, FlexGrid &grid);
 
-    // Where a heading is drawn, and which one a place belongs to (-1 for none): frozen ones count.
+    // Where a heading is painted, and the section at a position (-1 if none), including frozen ones.
     QRect headingRect(int logicalIndex) const;
     int headingAt(const QPoint &position) const;
     // The pixels at which a heading's text, the mark of a sort and the arrow of its menu are seen together.
@@ -54,10 +54,10 @@ private:
     FlexGrid &m_grid;
     int m_hovered = -1;
     int m_pressedArrow = -1;
-    int m_resized = -1; // the frozen section whose edge is dragged
+    int m_resized = -1; // the frozen section being resized
     int m_resizeStart = 0;
     int m_resizeSize = 0;
-    int m_pressShift = 0; // from where a frozen heading is seen to where the header has it
+    int m_pressShift = 0; // offset from the visible position of a frozen heading to the header's own
 };
 
 } // namespace KOVAVSFDataGridLib

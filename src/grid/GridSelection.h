@@ -6,17 +6,17 @@ namespace KOVAVSFDataGridLib {
 
 class FlexGrid;
 
-// Some of the columns over some rows in sequence, in the grid's own numbers.
+// Some of the columns in consecutive rows, in the grid's own numbers.
 struct GridSelection
 {
     int firstRow = 1;
-    int lastRow = 0; // included; less than firstRow when nothing is selected
+    int lastRow = 0; // included; less than firstRow if nothing is selected
     std::vector<int> columns;
 };
 
-// The data columns that can be seen, in the order in which they are shown.
+// The visible data columns, in display order.
 std::vector<int> shownColumns(const FlexGrid &grid);
-// What is selected, without hidden columns and unused rows; the current cell when nothing is.
+// The selection, without hidden columns and unused rows; the current cell if nothing is selected.
 GridSelection selectedCells(const FlexGrid &grid);
 
 } // namespace KOVAVSFDataGridLib

@@ -2,18 +2,18 @@
 
 class QWidget;
 
-// Twips are the unit of every width and position in the interface: 1440 to an inch, so 15 to a pixel
-// at 96 dots per inch. This is the only place where they meet pixels.
+// Twips are the unit of all widths and positions in the interface: 1440 per inch, so 15 per pixel at 96 DPI.
+// Only the functions here convert them to pixels.
 namespace KOVAVSFDataGridLib::Twips {
 
 inline constexpr int perInch = 1440;
 
-// Nearest pixel for a width in twips at `dpi` dots per inch (> 0); a width above 0 never vanishes.
+// The nearest pixel width for twips at `dpi` dots per inch (> 0). A width above 0 never becomes 0.
 int toPixels(double twips, int dpi);
 // Twips for a width in pixels, rounded to the nearest whole twip.
 int fromPixels(double pixels, int dpi);
 
-// The same by the logical DPI of the widget that is measured.
+// The same with the logical DPI of the widget.
 int toPixels(double twips, const QWidget &widget);
 int fromPixels(double pixels, const QWidget &widget);
 

@@ -14,11 +14,11 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr qsizetype mostShown = 1000; // characters, as many as can be read in passing
-constexpr qsizetype longestWord = 60; // characters that go on one line; a tip is as wide as its longest word
+constexpr qsizetype mostShown = 1000; // characters, as much as people read in a tool tip
+constexpr qsizetype longestWord = 60; // characters without a break; a tool tip is as wide as its longest word
 constexpr QChar breakHere(0x200B);
 
-// A tip wraps its lines between words. Codes and addresses have none.
+// A tool tip wraps lines between words, but codes and addresses have no spaces.
 QString breakable(const QString &text)
 {
     QString broken;

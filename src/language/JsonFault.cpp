@@ -43,7 +43,7 @@ Text reasonOf(QJsonParseError::ParseError error)
 
 } // namespace
 
-// The parser counts bytes.
+// The parser's offset is in bytes.
 JsonFault jsonFault(const QString &text, const QJsonParseError &error)
 {
     const qsizetype before = QString::fromUtf8(text.toUtf8().left(error.offset)).size();

@@ -6,10 +6,10 @@ struct QJsonParseError;
 
 namespace KOVAVSFDataGridLib {
 
-// Why a text is no JSON, in words: Qt's own are English.
+// Why a text is not valid JSON, for the user: Qt's own messages are English only.
 struct JsonFault
 {
-    QString place;  // the character at which it was noticed, from 1
+    QString place;  // the position of the error in characters, from 1
     QString reason; // without a full stop
 };
 

@@ -17,8 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Null in Chinese, in which the texts are written. It belongs to the application, which may end and start
-// again.
+// Null for Chinese, the language of the source texts. Owned by the application, which may be destroyed and
+// created again.
 QPointer<QTranslator> &translator()
 {
     static QPointer<QTranslator> installed;
@@ -70,7 +70,7 @@ bool use(const QString &name)
         return false;
     if (language == QLocale::English)
         return useEnglish();
-    delete translator(); // which removes it
+    delete translator(); // the destructor removes it
     return true;
 }
 

@@ -2,15 +2,15 @@
 
 #include "language/Text.h"
 
-// Texts that belong to the language as such.
+// Texts about the language itself.
 namespace KOVAVSFDataGridLib::LanguageTexts {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::LanguageTexts"};
 
-// The name of the language that the texts are in; a translation has its own here.
+// The name of the current language. Each translation replaces it with its own.
 inline constexpr Text Name = tr("zh-CN");
 
-// Why a text is no JSON
+// Reasons why a text is not valid JSON
 inline constexpr Text JsonNoBrace = tr("缺少“}”");
 inline constexpr Text JsonNoBracket = tr("缺少“]”");
 inline constexpr Text JsonNoColon = tr("缺少冒号");

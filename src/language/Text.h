@@ -5,9 +5,9 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A text that users read. It is written in Chinese; wherever a QString is needed, it is translated into the
-// language that the application has at that moment. So a text is kept as a Text, and a QString of it only as
-// long as it is shown.
+// A text for users. It is written in Chinese. The conversion to
+// QString translates it into the application's current language. So
+// store a Text, and use a QString of it only for immediate display.
 class Text
 {
 public:
@@ -23,7 +23,7 @@ public:
         return (*this)().arg(std::forward<Arguments>(arguments)...);
     }
 
-    // Whether a word is this text, as it is written or as it is translated.
+    // Whether a word is this text, either the original or its translation.
     bool is(const QString &word) const { return word == QString::fromUtf8(m_source) || word == (*this)(); }
 
     constexpr bool isEmpty() const { return *m_source == '\0'; }
@@ -33,8 +33,8 @@ private:
     const char *m_source = "";
 };
 
-// Makes the texts of one namespace. It is called `tr` there, because lupdate looks for that name and takes
-// the namespace as the context of the translation.
+// Creates the texts of one namespace. It is named `tr` there, because lupdate looks for that name and uses
+// the namespace as the translation context.
 struct TextTable
 {
     const char *context;

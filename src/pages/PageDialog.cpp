@@ -29,7 +29,7 @@ PageDialog::PageDialog(PropertyPage *page, QWidget *parent) : QDialog(parent), m
     apply->setObjectName(u"ApplyButton"_s);
     apply->setEnabled(page->Changed());
 
-    page->layout()->setContentsMargins({}); // the window has margins of its own
+    page->layout()->setContentsMargins({}); // the window has its own margins
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(page, 1);
     layout->addWidget(buttons);

@@ -2,12 +2,12 @@
 
 #include <QtCore/QString>
 
-// The texts of the property pages, for proof-reading in one place. Only the host's developer meets them.
+// The texts of the property pages, collected here for proofreading. Only the host's developer sees them.
 namespace KOVAVSFDataGridLib::PageTexts {
 
 using namespace Qt::StringLiterals;
 
-// What stands above a page's text is the property's name.
+// The label above a page's text is the property's name.
 inline const QString ConnectionString = u"&ConnectionString:"_s;
 inline const QString ConnectionStringHint =
     u"Applying it clears SQLShow, SQLPartDisplay, SQLFilter and SQLSort."_s;

@@ -16,15 +16,15 @@ class KOVA_EXPORT PartDisplayField final : public PropertyPage
     Q_OBJECT
 
 public:
-    // Reads the names of a statement's fields through the connection that the control's properties give;
-    // nothing when they can't be read.
+    // Reads the names of a statement's fields, using the connection in the control's properties. Returns
+    // nothing if they can't be read.
     using FieldReader =
         std::function<std::optional<QStringList>(const QObject &control, const QString &statement)>;
 
     // Shows nothing until a control is selected.
     explicit PartDisplayField(QWidget *parent = nullptr);
 
-    // Without one, a "*" in SQLShow offers no fields. Set it before a control is selected.
+    // Without one, a "*" in SQLShow provides no fields. Set it before a control is selected.
     void SetFieldReader(FieldReader reader) { m_reader = std::move(reader); }
 
     // If the statement has no table, the lists don't change.
@@ -44,7 +44,7 @@ private:
     QPushButton *m_remove;
     QString m_table;
     QString m_words; // before the list
-    QString m_group; // behind the table
+    QString m_group; // after the table
 };
 
 } // namespace KOVAVSFDataGridLib

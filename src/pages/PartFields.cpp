@@ -11,14 +11,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Brackets would make a strange name of an expression or an alias.
+// Brackets around an expression or an alias would turn it into a name.
 QString enclosed(const QString &field)
 {
     return isMoreThanAName(field) ? field : partsInBrackets(field);
 }
 
-// An alias gets its AS, without which it would be taken for a part of the name. After an expression, what
-// looks like an alias can be its last word.
+// Writes an alias with AS, or it would be taken for part of the name. After an expression, an apparent alias
+// can be its last word.
 QString itemText(const SqlScanner &sql, const SelectParts::Item &item)
 {
     const bool hasAlias = item.value.end < item.tokens.end;
@@ -29,12 +29,12 @@ QString itemText(const SqlScanner &sql, const SelectParts::Item &item)
     return textOf(sql, item.value) + u" AS "_s + textOf(sql, TextRange{item.value.end, item.tokens.end});
 }
 
-// What a star stands for, each name once: of two equal ones nobody could tell which is meant.
+// The fields of a star, each name once: two equal names would be ambiguous.
 QStringList starFields(const QString &star, const QString &table, AllDBType database,
                        const StarReader &reader)
 {
     const QStringList names = reader(u"select %1 from %2"_s.arg(star, table)).value_or(QStringList());
-    const QString qualifier = star.chopped(1); // with its dot
+    const QString qualifier = star.chopped(1); // including its dot
     const Dialect dialect = dialectOf(database, {});
     QStringList fields;
     for (const QString &name : names) {
@@ -64,7 +64,7 @@ std::optional<NamedFields> read(const QString &statement, AllDBType database, co
     named.group = textOf(sql, parts.group);
     for (const SelectParts::Item &item : parts.items) {
         if (item.tokens.isEmpty())
-            return std::nullopt; // not to be understood: what was listed before is better than half of it
+            return std::nullopt; // can't be parsed: the previous list is better than half of a new one
         if (item.isStar) {
             if (reader)
                 named.fields += starFields(textOf(sql, item.tokens), named.table, database, reader);

@@ -18,15 +18,15 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// A property that its class declares without a way to write it; any other name can be written.
+// Whether the class declares the property without a setter. Any other name can be written.
 bool isReadOnly(const QObject &object, const QByteArray &name)
 {
     const int index = object.metaObject()->indexOfProperty(name);
     return index >= 0 && !object.metaObject()->property(index).isWritable();
 }
 
-// Lines of text that are never cut off. A layout asks for a minimum without knowing how many lines there will
-// be, and would squeeze the other parts of a small window for them.
+// Lines of text that are never clipped. A layout asks for the minimum size without knowing the number of
+// lines, and would shrink the other parts of a small window for them.
 class Lines final : public QLabel
 {
 public:
@@ -64,10 +64,10 @@ PropertyPage::PropertyPage(const QString &property, const QString &textBox, cons
 
 QSize PropertyPage::sizeHint() const
 {
-    // A wish and not the text box's minimum: a property frame may be narrower, and must not cut it off.
+    // The preferred width, not the box's minimum: a property frame may be narrower and must not clip it.
     constexpr int statementLength = 60; // characters
-    // Nor a wish that a small screen can't meet: a new window gets two thirds of it at most, and the height
-    // that the hint's lines need at the width that it wished for.
+    // Limited by the screen: a new window is at most two thirds of it, and as high as the lines of the hint
+    // need at this preferred width.
     const int widest = screen()->availableGeometry().width() / 2;
     return QWidget::sizeHint().expandedTo({std::min(widthOfDigits(*this, statementLength), widest), 0});
 }
@@ -84,7 +84,7 @@ void PropertyPage::showWhetherWritable()
 {
     const bool isShownOnly = m_control && isReadOnly(*m_control, m_property.toLatin1());
     m_text->setReadOnly(isShownOnly);
-    // No style tells by itself.
+    // No style shows this by itself.
     QPalette colours;
     if (isShownOnly)
         colours.setBrush(QPalette::Base, palette().brush(QPalette::Window));

@@ -16,12 +16,12 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr double pixelsPerInch = 96; // those of ExportColumn::width
+constexpr double pixelsPerInch = 96; // the unit of ExportColumn::width
 constexpr int widthOfUnknown = 80;
 constexpr double largestFont = 9; // points
 constexpr double smallestFont = 5;
-constexpr qsizetype longestText = 400; // more is not seen on any page
-constexpr int portraitPixels = 700;    // A4 between margins of 12 mm
+constexpr qsizetype longestText = 400; // no page can show more
+constexpr int portraitPixels = 700;    // A4 with margins of 12 mm
 const QColor ruleColour(0xb8, 0xb8, 0xb8);
 const QColor headingColour(0xee, 0xee, 0xee);
 
@@ -141,7 +141,7 @@ void PageWriter::drawHeadings()
     m_painter.drawLine(QLineF(0, top, m_lefts.back(), top));
 }
 
-// The rules around the cells of one line: at its sides and below it.
+// The lines around the cells of one row: at the sides and below.
 void PageWriter::drawRules(double top, double bottom)
 {
     m_painter.setPen(QPen(ruleColour, 0));

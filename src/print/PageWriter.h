@@ -12,13 +12,13 @@ class QPagedPaintDevice;
 
 namespace KOVAVSFDataGridLib {
 
-// What is on the pages besides the records.
+// What the pages contain besides the records.
 struct PageOptions
 {
     QString title;
     qint64 records = 0;                              // how many will be written, for the number of pages
-    std::vector<ADODB::DisplayFormat> formats;       // one for each column; none where it is shorter
-    int mostPages = std::numeric_limits<int>::max(); // what comes after them is left out
+    std::vector<ADODB::DisplayFormat> formats;       // one per column; missing ones mean no format
+    int mostPages = std::numeric_limits<int>::max(); // further pages are omitted
 };
 
 // Draws records as a table on the pages of a printer or a PDF file. Each page has the title, the headings and
@@ -35,7 +35,7 @@ public:
     void row(const std::vector<ADODB::RawValue> &cells) override;
     void end() override;
 
-    // How many pages all records need; after begin().
+    // The number of pages for all records. Call it after begin().
     qint64 pageCount() const;
     bool isFull() const { return m_page > m_options.mostPages; }
 
@@ -51,7 +51,7 @@ private:
     const PageOptions m_options;
     ExportColumns m_columns;
     std::vector<bool> m_isNumeric;
-    std::vector<double> m_lefts; // one more than columns
+    std::vector<double> m_lefts; // one more than there are columns
     QFont m_font;
     QFont m_bold;
     QPainter m_painter;
@@ -64,7 +64,7 @@ private:
     QByteArray m_value;
 };
 
-// Whether the columns are so wide together that a page should lie on its side.
+// Whether the columns are so wide that a page should be in landscape orientation.
 bool isForLandscape(const ExportColumns &columns);
 
 } // namespace KOVAVSFDataGridLib

@@ -9,12 +9,12 @@ class QPageLayout;
 
 namespace KOVAVSFDataGridLib {
 
-// Writes records to a PDF file as PageWriter draws them. A file that is there already is replaced by end(),
-// when the new one is complete; until then it stays as it is.
+// Writes records to a PDF file in the layout of PageWriter. An existing file is replaced only in end(), after
+// the new one is complete.
 class PdfWriter final : public RecordWriter
 {
 public:
-    // Throws ADODB::Error when the file can't be opened.
+    // Throws ADODB::Error if the file can't be opened.
     PdfWriter(const QString &file, const QPageLayout &layout, const PageOptions &options);
 
     void begin(const ExportColumns &columns) override;

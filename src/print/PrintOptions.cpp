@@ -46,7 +46,7 @@ QPageLayout PrintOptions::layoutFor(const ExportColumns &columns) const
 PrintOptions printOptionsFrom(const QString &text)
 {
     PrintOptions options;
-    const ADODB::ConnectionString written(text); // of the same form
+    const ADODB::ConnectionString written(text); // the syntax is the same
     for (const ADODB::ConnectionString::Part &part : written.parts())
         readOption(options, part);
     return options;

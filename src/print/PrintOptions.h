@@ -8,18 +8,18 @@
 
 namespace KOVAVSFDataGridLib {
 
-// How a host wants something printed.
+// Printing options set by a host.
 struct PrintOptions
 {
     bool isMarkedOnly = false;
     std::optional<QString> title;
     std::optional<QPageLayout::Orientation> orientation;
 
-    // A4; where no orientation was asked for, it lies on its side for wide columns.
+    // A4. If no orientation is set, landscape for wide columns.
     QPageLayout layoutFor(const ExportColumns &columns) const;
 };
 
-// Reads `Keyword=value;…` (see IKOVAVSFDataGrid::PrintData). Throws ADODB::Error for what it doesn't know.
+// Parses `Keyword=value;…` (see IKOVAVSFDataGrid::PrintData). Throws ADODB::Error for anything unknown.
 PrintOptions printOptionsFrom(const QString &text);
 
 } // namespace KOVAVSFDataGridLib

@@ -37,7 +37,7 @@ Widget *named(Widget *widget, const QString &name)
     return widget;
 }
 
-// Keeps the printer as long as something is written on it.
+// Keeps the printer alive while something is written to it.
 class PrinterWriter final : public RecordWriter
 {
 public:
@@ -75,7 +75,7 @@ PrintPreview::PrintPreview(Choices choices, QWidget *parent)
     m_printer->setPageLayout(PrintOptions().layoutFor(m_choices.columns));
     m_pages = named(new QPrintPreviewWidget(m_printer.get(), this), u"pages"_s);
     if (auto *const view = m_pages->findChild<QAbstractScrollArea *>())
-        view->setAccessibleName(PrintTexts::Title); // it takes the keyboard for the pages
+        view->setAccessibleName(PrintTexts::Title); // it receives the keys for paging
     layOut();
     m_print->setFocus();
     connect(m_pages, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter *on) { drawPages(*on); });
@@ -97,7 +97,7 @@ QWidget *PrintPreview::makeChoices()
     m_records->addItem(PrintTexts::AllRecords.arg(grouped(m_choices.records)), false);
     if (m_choices.markedRecords > 0)
         m_records->addItem(PrintTexts::MarkedRecords.arg(grouped(m_choices.markedRecords)), true);
-    // Who marks several records and prints means these.
+    // A user who marks several records usually wants to print these.
     m_records->setCurrentIndex(m_choices.markedRecords > 1 ? 1 : 0);
     m_orientation->addItem(PrintTexts::Portrait, QPageLayout::Portrait);
     m_orientation->addItem(PrintTexts::Landscape, QPageLayout::Landscape);
@@ -146,7 +146,7 @@ QWidget *PrintPreview::makeButtons()
     auto *pdfButton = named(new QPushButton(PrintTexts::SavePdf), u"cmdPdf"_s);
     auto *closeButton = named(new QPushButton(PrintTexts::Close), u"cmdCancel"_s);
     for (QPushButton *button : {m_print, pdfButton, closeButton})
-        button->setAutoDefault(false); // Enter ends the title
+        button->setAutoDefault(false); // Enter ends the editing of the title
     connect(m_print, &QPushButton::clicked, this, &PrintPreview::print);
     connect(pdfButton, &QPushButton::clicked, this, &PrintPreview::savePdf);
     connect(closeButton, &QPushButton::clicked, this, &QDialog::reject);
@@ -177,7 +177,7 @@ PageOptions PrintPreview::options() const
     return options;
 }
 
-// What fails here fails again, and is shown then, when it is printed.
+// An error here occurs again when printing, and is shown then.
 void PrintPreview::drawPages(QPrinter &printer)
 {
     PageOptions shown = options();

@@ -17,30 +17,30 @@ class QToolButton;
 
 namespace KOVAVSFDataGridLib {
 
-// Shows the first pages, and asks what to print and whether on a printer or to a PDF file. It prints nothing.
+// Shows the first pages, and asks what to print and whether to a printer or to a PDF file. Does not print.
 class PrintPreview final : public QDialog
 {
     Q_OBJECT
 
 public:
-    static constexpr int mostPages = 20; // that are shown
+    static constexpr int mostPages = 20; // the number of pages shown
 
     struct Choices
     {
         QString title;
-        QString file; // the name that a PDF file is offered, without folder and ending
+        QString file; // the suggested name of a PDF file, without folder and ending
         qint64 records = 0;
         qint64 markedRecords = 0;
         ExportColumns columns;
-        std::vector<ADODB::DisplayFormat> formats; // one for each column
-        // Hands records to the writer until `shouldContinue` answers false. Throws ADODB::Error.
+        std::vector<ADODB::DisplayFormat> formats; // one per column
+        // Passes records to the writer until `shouldContinue` returns false. Throws ADODB::Error.
         std::function<void(RecordWriter &, bool isMarkedOnly, const std::function<bool()> &shouldContinue)>
             write;
     };
 
     explicit PrintPreview(Choices choices, QWidget *parent = nullptr);
 
-    // For an accepted dialog: writes what was chosen to where it was chosen; begin() may wait for a printer.
+    // For an accepted dialog: a writer for the chosen destination. begin() may wait for a printer.
     std::unique_ptr<RecordWriter> newWriter() const;
     bool isMarkedOnly() const;
 

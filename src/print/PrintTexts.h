@@ -2,7 +2,7 @@
 
 #include "language/Text.h"
 
-// The texts of printing, for proof-reading in one place.
+// The texts for printing, collected here for proofreading.
 namespace KOVAVSFDataGridLib::PrintTexts {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::PrintTexts"};

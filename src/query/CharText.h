@@ -4,10 +4,10 @@
 
 #include <algorithm>
 
-// Cutting and finding by 1-based character positions; position 0 means "not there".
+// Substrings and searches by 1-based character positions. Position 0 means "not found".
 namespace KOVAVSFDataGridLib::CharText {
 
-// Precondition of both: count >= 0. A count beyond the text's length gives the whole text.
+// Precondition of both: count >= 0. If the count exceeds the text's length, they return the whole text.
 inline QString First(const QString &text, qsizetype count)
 {
     Q_ASSERT(count >= 0);
@@ -20,28 +20,28 @@ inline QString Last(const QString &text, qsizetype count)
     return text.last(std::min(count, text.size()));
 }
 
-// The characters from `position` (>= 1) on; empty behind the end.
+// The characters from `position` (>= 1) on; empty after the end.
 inline QString From(const QString &text, qsizetype position)
 {
     Q_ASSERT(position >= 1);
     return text.mid(position - 1);
 }
 
-// Position of the first `part` at or behind `from`, letter for letter. An empty part is found where the
-// search begins, but nothing is found in an empty text.
+// The position of the first `part` at or after `from`; case-sensitive. An empty part is found at `from`, but
+// nothing is found in an empty text.
 inline qsizetype Find(const QString &text, const QString &part, qsizetype from = 1)
 {
     return text.isEmpty() ? 0 : text.indexOf(part, from - 1) + 1;
 }
 
-// Position of the first `word`, both read in capitals. Characters are capitalised one by one, because the
-// capitals of a whole text can be longer than the text ("ß" becomes "SS") and every later cut would be
-// shifted.
+// The position of the first `word`, ignoring case. Characters are converted to upper case one by one, because
+// the upper case of a whole text can be longer than the text ("ß" becomes "SS"), which would shift all later
+// positions.
 inline qsizetype findUpper(const QString &text, const QString &word)
 {
     const auto isAscii = [](QChar c) { return c.unicode() < 0x80; };
     const auto asciiUpper = [](QChar c) { return c >= u'a' && c <= u'z' ? c.unicode() - 32 : +c.unicode(); };
-    // Qt's table is slow where nearly every letter is plain.
+    // Qt's table is slow, and nearly every character is ASCII.
     const auto sameLetter = [&](QChar a, QChar b) {
         return a == b ||
                (isAscii(a) && isAscii(b) ? asciiUpper(a) == asciiUpper(b) : a.toUpper() == b.toUpper());

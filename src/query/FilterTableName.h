@@ -2,7 +2,7 @@
 
 #include <QtCore/QString>
 
-// How the filter dialog reads the name of its table.
+// How the filter dialog interprets its table name.
 namespace KOVAVSFDataGridLib {
 
 struct FilterTableName
@@ -14,8 +14,8 @@ struct FilterTableName
 // The name without one leading "[" and one trailing "]".
 QString SetFilterTableName(const QString &name);
 
-// Owner and table around the first ".", each without one double quote at either end; both empty without a
-// ".".
+// The owner and the table, before and after the first ".", each without one double quote at either end. Both
+// are empty without a ".".
 FilterTableName SplitFilterTableName(const QString &name);
 
 } // namespace KOVAVSFDataGridLib

@@ -8,8 +8,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Values in the order in which they were added, each under a key of its own. Positions count from 1. Finding
-// by key takes constant time; removing takes time for the values behind the removed one.
+// A list of values in insertion order, each with a unique key. Positions start at 1. Finding by key takes
+// constant time; removing takes time proportional to the number of values after the removed one.
 template<typename T>
 class KeyedList
 {
@@ -17,11 +17,11 @@ public:
     using iterator = typename std::vector<T>::iterator;
     using const_iterator = typename std::vector<T>::const_iterator;
 
-    // Keys that the list makes itself are a running number followed by `keySuffix`.
+    // A generated key is a running number followed by `keySuffix`.
     explicit KeyedList(QString keySuffix) : m_keySuffix(std::move(keySuffix)) {}
 
-    // Adds the value under `key`, or under a made key when that is empty; `key` then holds the key used.
-    // False when the key is taken already; a made key's number is used up even so.
+    // Adds the value under `key`, or under a generated key if that is empty; `key` is set to the key used.
+    // Returns false if the key exists already; the number of a generated key is then still used up.
     bool Append(T value, QString T::*keyMember, QString &key)
     {
         if (key.isEmpty())
@@ -37,14 +37,14 @@ public:
 
     qsizetype Count() const { return static_cast<qsizetype>(m_values.size()); }
 
-    // 0 when there is no such key.
+    // 0 if there is no such key.
     qsizetype PositionOf(const QString &key) const { return m_positions.value(key, 0); }
 
-    // Null when there is no such position. The pointer lasts until the list changes.
+    // Null if there is no such position. The pointer is valid until the list changes.
     const T *Item(qsizetype position) const { return Has(position) ? &m_values[Index(position)] : nullptr; }
     T *Item(qsizetype position) { return Has(position) ? &m_values[Index(position)] : nullptr; }
 
-    // False when there is no such position.
+    // Returns false if there is no such position.
     bool Remove(qsizetype position)
     {
         if (!Has(position))
@@ -57,7 +57,7 @@ public:
         return true;
     }
 
-    // Numbering starts again as well.
+    // Also restarts the numbering.
     void Clear() { *this = KeyedList(m_keySuffix); }
 
     const_iterator begin() const { return m_values.cbegin(); }
@@ -71,7 +71,7 @@ private:
 
     QString m_keySuffix;
     std::vector<T> m_values;
-    std::vector<QString> m_keys; // the key of each value, whatever the value says of itself later
+    std::vector<QString> m_keys; // the key of each value, even if the value's own member changes later
     QHash<QString, qsizetype> m_positions;
     qint32 m_nextNumber = 0;
 };

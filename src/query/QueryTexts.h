@@ -21,7 +21,7 @@ inline constexpr Text UnnamedField = tr("查询结果中有字段未命名，请
 inline constexpr Text NoPartFields = tr("部分字段的语句与当前语句的字段对应不上，不能只显示这些字段。");
 inline constexpr Text TypeNotFiltered = tr("对不起，过滤操作不支持选中内容的数据类型！");
 
-// A condition in words. %1 is the value, where there is one.
+// A condition in words. %1 is the value, if there is one.
 inline constexpr Text QuotedInWords = tr("“%1”");
 inline constexpr Text ContainsInWords = tr("包含%1");
 inline constexpr Text BeginsInWords = tr("开头是%1");

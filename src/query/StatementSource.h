@@ -4,7 +4,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What the statement of a host selects from, as the host says it. Any other number can be stored.
+// What a host's statement selects from, as set by the host. Other numbers can be stored too.
 enum StatementSource : qint32 { FromTable = 0, FromView = 1, FromOwnStatement = 2 };
 
 } // namespace KOVAVSFDataGridLib

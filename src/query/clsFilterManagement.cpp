@@ -125,8 +125,8 @@ bool clsFilterManagement::GetPartShowSelFields(const QString &strAllFields, cons
     }
     QString source = getFromPart(m_history.LineOf(strCurrentSQL));
     if (!readsBrackets(m_dbType)) {
-        // List and source are rewritten apart, so that a lone apostrophe in a
-        // name doesn't pair up with one behind FROM.
+        // The list and the source are converted separately, so that a single apostrophe in a name is not
+        // paired with one after FROM.
         chosen = bracketsToQuotes(chosen);
         source = bracketsToQuotes(source);
     }
@@ -146,7 +146,7 @@ bool clsFilterManagement::GetPartSortSelFields(const QString &strAllFields, cons
     auto all = m_history.DerivationOf(strAllFields);
     if (const clsShowSQLSentence *const latest = m_history.Item(m_history.Count());
         latest && all && (m_history.NamesShownAlone(*all) || all->isDistinct())) {
-        offered = m_history.LineOf(latest->ShowSQL); // no other field can be named
+        offered = m_history.LineOf(latest->ShowSQL); // no other field can be used
         all = m_history.DerivationOf(offered);
     }
     if (all && (!all->isSimple() || all->isJoined()))
@@ -186,7 +186,7 @@ bool clsFilterManagement::GetRequirePartSQL(const QString &strOrgSQL, StatementP
     return true;
 }
 
-// What a statement that is a table of the derived one is filtered by goes as well.
+// Also removes the conditions of a statement that is the derived table of this one.
 std::optional<QString> clsFilterManagement::WithoutConditions(const QString &statement) const
 {
     auto current = m_history.DerivationOf(statement);
@@ -248,7 +248,7 @@ QString clsFilterManagement::FieldListWithCurrentSource(const QString &fieldStat
     const auto end = findUpper(fieldStatement, from);
     if (end < 2)
         return m_memory.originFilter;
-    // Without a FROM of its own the statement shown follows as a whole.
+    // If the shown statement has no FROM, all of it is appended.
     const QString &shown = m_memory.lastUseFilter;
     const auto begin = findUpper(shown, from);
     return First(fieldStatement, end - 1) + Last(shown, shown.size() - begin + 1);

@@ -6,26 +6,26 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What clsFilterManagement::GetRequirePartSQL keeps of a statement.
+// Which parts of a statement clsFilterManagement::GetRequirePartSQL keeps.
 enum StatementParts : qint32 { AllParts = 1, PartsWithoutSort = 2, PartsWithoutCondition = 3 };
 
-// Derives the statement that the control shows. A filter is a whole SELECT statement here. The manager
-// remembers the statements shown, oldest first, and owns the history with its field catalogue. Functions
-// answer True when done and False otherwise, those that answer a text an empty one; none throws.
+// Derives the statement that the control shows. A filter is a whole SELECT statement here. The manager stores
+// the shown statements, oldest first, and owns the history with its field catalogue. Functions return true on
+// success and false otherwise; those that return a text return an empty one on failure. None throws.
 class clsFilterManagement
 {
 public:
-    // What the manager remembers beside its set-up, for whoever wants to look at it.
+    // The manager's state besides its settings, for reading.
     struct Memory
     {
         QString originFilter;      // the first statement
-        QString previousFilter;    // the statement that "back" leads to
+        QString previousFilter;    // the statement that "back" returns to
         QString lastUseFilter;     // the statement shown
         QStringList filterStack;   // every statement shown, oldest first
-        bool isFirstUsed = false;  // whether GetCurrentSQL(0) has delivered AllFields
+        bool isFirstUsed = false;  // whether GetCurrentSQL(0) has returned AllFields
         QString currentStatement;  // the statement that the next one is derived from
         QString currentPartFields; // the user's latest choice of fields, as a statement
-        QString currentSortFields; // the user's latest choice of a sort
+        QString currentSortFields; // the user's latest choice of a sort order
     };
 
     // Neither is owned; both must outlive the manager (see colShowSQLSentences and clsTableFieldManager).
@@ -49,40 +49,40 @@ public:
     qint32 FieldStatus() const { return m_fieldStatus; }
     void SetFieldStatus(qint32 status) { m_fieldStatus = status; }
     const QString &OriginFilter() const { return m_memory.originFilter; }
-    // The statement also becomes the one shown and the one before it.
+    // The statement also becomes the shown one and the previous one.
     void SetOriginFilter(const QString &statement);
     const QString &LastUseFilter() const { return m_memory.lastUseFilter; }
     const Memory &Remembered() const { return m_memory; }
 
-    // The history; it lives as long as the manager.
+    // The history. It lives as long as the manager.
     colShowSQLSentences &SQLManager() { return m_history; }
     const colShowSQLSentences &SQLManager() const { return m_history; }
 
-    // Hands the set-up to the history.
+    // Passes the settings to the history.
     bool SetSQLInitData();
 
-    // Makes the statement shown with one more condition, or a given statement, the one shown.
+    // Shows the current statement with one more condition, or a given statement.
     bool LetNewFilter(const QString &strNewFilter, QString &strCurrentFilter);
     bool LetNewSQLStr(const QString &strNewSQL);
 
-    // One statement back; False when there is none. IsCanPreviewFilter takes the step as well.
+    // Goes back one statement; false if there is none. IsCanPreviewFilter goes back too.
     bool GetPreviewFilter(QString &PassFilter);
     bool IsCanPreviewFilter(QString &PassFilter);
 
-    // The SELECT list of AllFields or ShowFields with the FROM part of the statement shown and all behind it.
+    // The SELECT list of AllFields or ShowFields, followed by the shown statement from FROM on.
     QString GetAllFieldSQL() const { return FieldListWithCurrentSource(m_allFields); }
     QString GetPartFieldSQL() const { return FieldListWithCurrentSource(m_showFields); }
 
-    // Derives a statement and makes it the one shown. Another number than those of
-    // StatementType, and what derives nothing, answers the statement shown. PreviousStatement,
-    // ChosenFieldsStatement and ChosenSortStatement answer an empty text when there is no way back or the
-    // user cancels. GetCurrentSQL20 derives AllFieldsStatement and PartFieldsStatement from the history's
-    // latest entry.
+    // Derives a statement and makes it the shown one. If the number is not one of StatementType, or if
+    // nothing can be derived, returns the shown statement. PreviousStatement, ChosenFieldsStatement and
+    // ChosenSortStatement return an empty text if there is no previous statement or the user cancels.
+    // GetCurrentSQL20 derives AllFieldsStatement and PartFieldsStatement from the latest entry of the
+    // history.
     QString GetCurrentSQL(StatementType SQLType);
     QString GetCurrentSQL20(StatementType SQLType);
 
-    // Let the user choose: a statement with the chosen fields and the FROM part of `strCurrentSQL`, or a sort
-    // list. False when the user cancels.
+    // Let the user choose. They return a statement with the chosen fields and the FROM part of
+    // `strCurrentSQL`, or a sort list. False if the user cancels.
     bool GetPartShowSelFields(const QString &strAllFields, const QString &strPartField,
                               const QString &strCurrentSQL, QString &strRetFields);
     bool GetPartSortSelFields(const QString &strAllFields, const QString &strSortField,
@@ -90,27 +90,27 @@ public:
     bool GetPartShowFields(QString &strRetSelFields);
     bool GetPartSortFields(QString &strRetSelFields);
 
-    // The parts of a statement. Another number than those of StatementParts answers True with an empty text;
-    // an empty statement answers False.
+    // The parts of a statement. If the number is not one of StatementParts, returns true and an empty text.
+    // For an empty statement, returns false.
     bool GetRequirePartSQL(const QString &strOrgSQL, StatementParts lngSelPart, QString &strRetSQL) const;
 
-    // The name of the current statement's field at a position counted from 1; empty when there is none.
+    // The name of the field at a 1-based position in the current statement; empty if there is none.
     QString GetSelFieldRealName(const QString &strConnString, qint32 FieldIndex);
 
     void GotoOrignState();
-    // Forgets all statements and sorts, the set-up's too, and empties the history.
+    // Forgets all statements and sorts, including those of the settings, and empties the history.
     void ClearFilter();
     void ClearCurrMess();
     void ClearCurrStatus() {}
     void ClearObject();
 
 private:
-    // Nothing where plain text work will do.
+    // Empty if the statement can be processed as plain text.
     std::optional<QString> WithoutConditions(const QString &statement) const;
     QString FieldListWithCurrentSource(const QString &fieldStatement) const;
     void MakeCurrent(const QString &statement);
     QString MakeDerivedCurrent(StatementType SQLType, bool isDerivedByHistory);
-    // An empty text when nothing is to be derived; nothing at all when the command ends here.
+    // Returns an empty text if nothing needs to be derived, and nothing if the command ends here.
     std::optional<QString> Derive(StatementType SQLType, bool isDerivedByHistory);
     QString DeriveFromCurrent(StatementType SQLType) const;
     QString DeriveFromHistory(StatementType SQLType) const;

@@ -22,14 +22,14 @@ QStringList namesOf(const std::vector<SourceField> &fields)
     return names;
 }
 
-// Where a list that is "*" alone has it; nothing for any other statement.
+// The position of the * if it is the whole list; empty for any other statement.
 std::optional<qsizetype> positionOfLoneStar(const QString &statement)
 {
     const SqlScanner scanned(statement);
     const bool isAlone = scanned.isWord(0, u"SELECT") && scanned.isSymbol(1, u'*') &&
                          (scanned.count() == 2 || scanned.isWord(2, u"FROM"));
     for (qsizetype i = 2; isAlone && i < scanned.count(); ++i) {
-        // The lists of a union have to stay alike.
+        // All SELECTs of a union must keep equal lists.
         const bool unites = scanned.isWord(i, u"UNION") || scanned.isWord(i, u"EXCEPT") ||
                             scanned.isWord(i, u"INTERSECT") || scanned.isWord(i, u"MINUS");
         if (unites && scanned.at(i).depth == 0)
@@ -188,7 +188,7 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
     const auto fields = m_reader ? m_reader->Read(strPassConnString, strOrgSQL) : std::nullopt;
     if (!fields || fields->empty())
         return false;
-    // What quotes do to a name is known only with the engine.
+    // The effect of quotes depends on the engine, which must be known.
     const EngineMode engine = engineOf(strPassConnString);
     const auto quoted = [&](const QString &name) {
         return engine.isKnown() ? quotedName(dialectOf(m_database, engine), name)
@@ -198,7 +198,7 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
     QStringList longBinaryNames;
     QSet<QString> different;
     for (const SourceField &field : *fields) {
-        // Two tables of a join have it, and a bare name is neither's.
+        // Two tables of a join have a column of this name, so the bare name is ambiguous.
         if (different.contains(field.name.toCaseFolded())) {
             strRetSQL = strOrgSQL;
             return true;
@@ -218,7 +218,7 @@ bool colShowSQLSentences::GetAllFieldNameSQL(const QString &strPassConnString, c
         return joinSQLSentence(made);
     };
     strRetSQL = spelledOut(quoted);
-    // SQLite's driver cuts names off, and what is left would be read as a text.
+    // SQLite's driver truncates names, and the rest would be read as a string.
     const auto inBackQuotes = [](const QString &name) { return enclosed(u'`', name, u'`'); };
     if (readsUnknownNamesAsTexts(engine.engine) &&
         !m_reader->Read(strPassConnString, spelledOut(inBackQuotes)))
@@ -279,7 +279,7 @@ bool colShowSQLSentences::Clear()
 {
     colShowSQLSentences empty(m_reader);
     empty.m_database = m_database;
-    empty.m_derivations = std::move(m_derivations); // they depend on nothing that is emptied
+    empty.m_derivations = std::move(m_derivations); // they don't depend on what is cleared
     *this = std::move(empty);
     return true;
 }
@@ -290,8 +290,8 @@ std::optional<SQLSentence> colShowSQLSentences::SplitLatest() const
     return SplitSQLSentence(latest ? LineOf(latest->ShowSQL) : QString());
 }
 
-// The step is tried on the entry to go back to before anything is removed, so that a lost connection leaves
-// the user where he is.
+// The catalogue of the target entry is read before anything is removed, so that nothing changes if the
+// connection is lost.
 bool colShowSQLSentences::StepBackTo(qsizetype position, QString &PassFilter, QString *PassKey)
 {
     PassFilter.clear();
@@ -325,7 +325,7 @@ bool colShowSQLSentences::BringInStepWith(const clsShowSQLSentence &entry, const
     return true;
 }
 
-// A host's part statement can name by its value what has an alias in the whole.
+// A host's part statement can use an expression for a field that has an alias in the full statement.
 QStringList colShowSQLSentences::NamesInCatalogue(const std::vector<SourceField> &fields) const
 {
     QStringList names = namesOf(fields);
@@ -342,8 +342,8 @@ QStringList colShowSQLSentences::NamesInCatalogue(const std::vector<SourceField>
     return names;
 }
 
-// The names are the database's own, so that each grid column finds its field; an alias is a name like any
-// other.
+// The names are those that the database reports, so that each grid column finds its field. An alias is a name
+// like any other.
 bool colShowSQLSentences::FillCatalogue(const QString &connectionString, const QString &statement)
 {
     const auto fields = m_reader->Read(connectionString, statement);
@@ -369,8 +369,8 @@ bool colShowSQLSentences::FillCatalogue(const QString &connectionString, const Q
     return true;
 }
 
-// The whole names are those that the statement lists, because a condition on T.Name must not become one on
-// Name.
+// Uses the names written in the statement as whole names, because a condition on T.Name must not become one
+// on Name.
 void colShowSQLSentences::WriteCatalogueAsText(const QString &statement)
 {
     const QStringList names = writtenFields(statement);

@@ -11,19 +11,19 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What the history and clsFilterManagement::GetCurrentSQL20 are asked for.
+// Which statement the history and clsFilterManagement::GetCurrentSQL20 return.
 enum StatementType : qint32 {
     FirstStatement = 0,
     AllFieldsStatement = 1,
     PartFieldsStatement = 2,
     PreviousStatement = 3,
     ChosenFieldsStatement = 4, // the user chooses the fields
-    ChosenSortStatement = 5    // the user chooses the sort
+    ChosenSortStatement = 5    // the user chooses the sort order
 };
 
-// The history: the statements that the grid has shown, oldest first, and the field catalogue of the newest
-// one. Functions answer True when done and False otherwise, with the outputs as far as they were set; none
-// throws. Positions count from 1; the latest entry is the one at Count().
+// The history: the statements that the grid has shown, oldest first, and the field catalogue of the latest
+// one. Functions return true on success and false otherwise, with the outputs set as far as possible. None
+// throws. Positions start at 1; the latest entry is at Count().
 class colShowSQLSentences
 {
 public:
@@ -33,12 +33,12 @@ public:
     static QString NoPartField() { return QStringLiteral("NoPartField"); }
     static QString NoSort() { return QStringLiteral("NoSort"); }
 
-    // `reader` isn't owned and must outlive the history; without one, nothing can be read through a
-    // connection.
+    // `reader` isn't owned and must outlive the history. Without a reader, nothing can be read from a
+    // database.
     explicit colShowSQLSentences(FieldReader *reader = nullptr) : m_reader(reader) {}
 
     void SetFieldReader(FieldReader *reader) { m_reader = reader; }
-    // Decides how names that have to be quoted are quoted.
+    // Determines how names are quoted.
     void SetDBType(AllDBType type) { m_database = type; }
 
     const QString &ConnString() const { return m_connString; }
@@ -59,18 +59,18 @@ public:
     colDataFields &DataFields() { return m_catalogue; }
     void SetDataFields(const colDataFields &catalogue) { m_catalogue = catalogue; }
 
-    // A statement that entries show as its host has written it, in several lines and with comments, and the
-    // one line that is run and that others are derived from; see joinStatementLines.
+    // The statement as the host wrote it, with line breaks and comments, which entries show, and the single
+    // line that is run and that others are derived from; see joinStatementLines.
     void SetWritten(const QString &statement, const QString &line);
-    // That line; any other statement as it is.
+    // The single line for the host's statement; any other statement unchanged.
     QString LineOf(const QString &statement) const { return statement == m_written ? m_line : statement; }
 
     bool SetSQLInitData(const QString &strAllFields, const QString &strShowFieds,
                         const QString &strFilterWord, const QString &strOrderWord,
                         const QString &strOriginFilter);
 
-    // Each adds an entry. An empty *PassKey (or none) gets a new key, which it then holds; a given one is
-    // used as it is. False when the key is taken.
+    // Each adds an entry. If *PassKey is empty (or PassKey is null), a key is generated and stored there;
+    // otherwise the given key is used. Returns false if the key exists already.
     bool AddSimpleSQLMess(const QString &strOrgSQL, const QString &strShowSQL, ShownFields lngIsShowAllFields,
                           QString *PassKey = nullptr);
     bool AddSQLMess(const QString &strOrgSQL, const QString &strShowSQL, ShownFields lngIsShowAllFields,
@@ -82,80 +82,80 @@ public:
                        const QString &strAllFields, const QString &strPartFields,
                        const QString &strOrderFields, const QString &strCurrPartFields = {},
                        const QString &strCurrOrderFields = {}, QString *PassKey = nullptr);
-    // Adds what the grid shows now, with the set-up values of the history; the markers above keep the user's
-    // choices of the latest entry. False when the statement is empty.
+    // Adds what the grid shows now, with the history's settings. The markers above keep the user's choices of
+    // the latest entry. Returns false if the statement is empty.
     bool AddCurrentSQL(const QString &strShowSQL, ShownFields lngIsShowAllFields,
                        const QString &strCurrPartFields = {}, const QString &strCurrSortFields = {},
                        QString *PassKey = nullptr);
 
     bool GetLatestSQL(QString &PassFilter, QString *PassKey = nullptr) const;
     bool RemoveLatestSQL();
-    // One step back, and back to the first entry; the first is never removed. When the connection can't be
-    // opened, the answer is False and no entry is removed. A part statement that can't be read does no harm.
+    // Go back one step, or to the first entry, which is never removed. Return false and remove nothing if the
+    // connection can't be opened. A part statement that can't be read is ignored.
     bool GetPreviewSQL(QString &PassFilter, QString *PassKey = nullptr);
     bool GetFirstSQL(QString &PassFilter, QString *PassKey = nullptr);
 
     // Statements derived from the latest entry; they add no entry. `SQLType` is AllFieldsStatement or
-    // PartFieldsStatement; any other number answers True with an empty statement.
+    // PartFieldsStatement; any other number returns true and an empty statement.
     bool GetNextSQLByFilter(const QString &strNewFilter, QString &strCurrentFilter) const;
     bool GetNextSQLBySort(const QString &strNewSort, QString &strCurrentFilter) const;
     bool GetNextShowSQL(StatementType SQLType, QString &PassSQL) const;
 
-    // The statement whose list is "*" alone with the source's fields in its place, in quotes, long binary
-    // fields last. Every other statement comes back as it is.
+    // If the statement's list is only "*", replaces it with the quoted fields of the source, long binary
+    // fields last. Returns any other statement unchanged.
     bool GetAllFieldNameSQL(const QString &strPassConnString, const QString &strOrgSQL,
                             QString &strRetSQL) const;
 
-    // Brings the catalogue in step with the latest entry: fills it when it is empty, marks the part fields
-    // when the entry has some. False when the connection can't be opened or a statement's fields can't be
+    // Updates the catalogue for the latest entry: fills it if it is empty, and marks the part fields if the
+    // entry has any. Returns false if the connection can't be opened or the fields of a statement can't be
     // read.
     bool GetCurrSQLFieldsStatus(const QString &PassConnString = {});
 
-    // How other statements are derived from this one; null when it is empty or its engine isn't known.
-    // Then, and where Derivation::isTextWork says so, statements are derived as plain text.
+    // Derives other statements from this one. Null if it is empty or its engine is unknown; then, and if
+    // Derivation::isTextWork says so, statements are derived as plain text.
     std::shared_ptr<const Derivation> DerivationOf(const QString &statement) const;
-    // The same where plain text work won't do.
+    // The same, but null if this step can be done as plain text.
     std::shared_ptr<const Derivation> DerivationOf(const QString &statement, DerivationStep step) const;
 
-    // Why a command can't derive from the latest entry, for a person to read; empty when it can.
+    // Why this step can't be applied to the latest entry, as a text for the user; empty if it can.
     QString WhyNot(DerivationStep step) const;
 
-    // Why the latest entry can't be shown with the part fields that it has, for a person to read; empty when
-    // it can, or has none.
+    // Why the latest entry can't be shown with its part fields, as a text for the user; empty if it can or
+    // has none.
     QString WhyNoPartFields() const;
 
-    // What a condition writes for a column of a result that was opened with `shownStatement` and has these
-    // fields; `column` counts from 0. Tells columns of equal names apart. Empty when there is no such name.
+    // The name to use in a condition for a column (0-based) of a result that was opened with `shownStatement`
+    // and has these fields. Distinguishes columns with equal names. Empty if there is no such name.
     QString GetColumnRealName(const QString &shownStatement, const QStringList &shownNames,
                               qsizetype column) const;
-    // What the filter dialog offers instead of a table's fields; nothing for simple statements of one table.
+    // What the filter dialog offers instead of a table's fields; empty for a simple statement of one table.
     std::optional<FilteredResult> GetFilteredResult() const;
 
-    // The condition that a statement has already, over the rows of GetFilteredResult() or of its table.
+    // The existing condition of a statement, for the rows of GetFilteredResult() or of its table.
     QString GetConditionOf(const QString &statement) const;
-    // What a condition writes for a field of the catalogue, where that isn't left to whoever builds it.
+    // The name of a catalogue field in conditions; empty if the caller that builds the condition decides.
     QString GetConditionName(const clsDataField &field) const;
 
-    // Whether a condition on the latest entry can name a field of the catalogue.
+    // Whether a condition on the latest entry can use this field of the catalogue.
     bool CanName(const clsDataField &field) const;
 
-    // How the engine reads texts and names; as in the standard while it isn't known.
+    // How the engine reads strings and names; the standard way while the engine is unknown.
     Dialect UsedDialect() const { return dialectOf(m_database, engineOf(m_connString)); }
 
-    // `shown`, which was derived from `all` or from a choice of its fields, with other fields of `all`; for a
-    // statement that hasListAsTable().
+    // `shown`, which was derived from `all` or from some of its fields, with other fields of `all`. Only for
+    // a statement with hasListAsTable().
     QString WithFieldsOfWhole(const Derivation &shown, const Derivation &all, const Derivation &fields) const;
 
-    // Whether conditions and sorts can name only the fields that are shown, and not the others of `all`.
+    // Whether conditions and sorts can use only the shown fields, and not the other fields of `all`.
     bool NamesShownAlone(const Derivation &all) const;
 
-    // Whether the statement's rows depend on the fields in its list.
+    // Whether the fields in the list determine which rows the statement returns.
     bool IsDistinct(const QString &statement) const;
 
-    // The head of a statement with chosen fields, as AddCurrentSQL takes it for the part fields.
+    // The start of a statement with chosen fields, as accepted by AddCurrentSQL for the part fields.
     QString GetFieldsStatement(const QString &statement) const;
 
-    // The statement with this sort, unless it is sorted already or one of both is empty.
+    // The statement with this sort, unless it is already sorted or either text is empty.
     QString Sorted(const QString &statement, const QString &sortList) const;
 
     bool UpdateSelPartFields(const QString &strPassPartFields);
@@ -163,27 +163,27 @@ public:
 
     QString GetSelFieldRealName(const QString &strFieldName) const;
     bool IsSelFieldPartField(const QString &strFieldName) const;
-    // For each field of the catalogue, whether it is a part field: of fields that share a name, the chosen
-    // one alone where that is known, else all of them.
+    // For each field of the catalogue, whether it is a part field. Of fields with the same name, only the
+    // chosen one if it is known, otherwise all.
     QList<bool> PartFields() const;
     // For each field of a statement that was derived from the latest entry's, what a list has for it, where
     // several of the entry's fields share a name. Nothing where names are enough or entries can't tell.
     QStringList EntriesOfEqualNames(const QString &statement) const;
     // Marks them so. Nothing happens when these are not as many as the catalogue has.
     void SetPartFields(const QList<bool> &areParts);
-    // How many fields the latest entry shows; False when there is no entry.
+    // How many fields the latest entry shows. Returns false if there is no entry.
     bool GetCurrShowFieldsCount(qint32 &PassCount) const;
 
     qsizetype Count() const { return m_entries.Count(); }
-    // Null when there is none. The pointer lasts until the history changes.
+    // Null if there is none. The pointer is valid until the history changes.
     clsShowSQLSentence *Item(qsizetype position);
     clsShowSQLSentence *Item(const QString &key) { return Item(m_entries.PositionOf(key)); }
     const clsShowSQLSentence *Item(qsizetype position) const;
     const clsShowSQLSentence *Item(const QString &key) const { return Item(m_entries.PositionOf(key)); }
-    // Nothing happens when there is no such entry.
+    // Does nothing if there is no such entry.
     void Remove(qsizetype position) { m_entries.Remove(position); }
     void Remove(const QString &key) { Remove(m_entries.PositionOf(key)); }
-    // Empties history, catalogue and all texts; keys start again.
+    // Clears the history, the catalogue and all texts, and restarts the keys.
     bool Clear();
 
     const_iterator begin() const { return m_entries.begin(); }
@@ -212,7 +212,7 @@ private:
     AllDBType m_database = dbAccess;
     KeyedList<clsShowSQLSentence> m_entries{QStringLiteral("ForDel")};
     colDataFields m_catalogue;
-    bool m_isPartKnownByPlace = false; // and not by name alone
+    bool m_isPartKnownByPlace = false; // not only by name
     mutable DerivationMemo m_derivations;
     QString m_connString;
     QString m_allFields;

@@ -7,20 +7,20 @@
 
 #include <algorithm>
 
-// Where statements are derived by their clauses instead of as plain text.
+// The functions that derive statements by their clauses instead of as plain text.
 
 namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// A text can hold the words that GetTableOfSQL looks for.
+// GetTableOfSQL can find its keywords inside a string.
 bool isTableFoundAsText(const QString &statement, const Derivation &derivation)
 {
     return GetTableOfSQL(statement) == derivation.source();
 }
 
-// Whether both select from a SELECT, but not from the same one: what the whole table has as its source lacks
-// the conditions that were in an earlier one.
+// Whether both select from subqueries, but from different ones: the subquery of the full statement lacks the
+// conditions that were added to an earlier one.
 bool haveDifferentTables(const Derivation &a, const Derivation &b)
 {
     const QString sourceA = a.source();
@@ -43,7 +43,7 @@ std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QStrin
     const QString line = LineOf(statement);
     EngineMode engine = engineOf(m_connString);
     if (!engine.isKnown()) {
-        // Simple statements don't need to know, so nobody waits for a connection.
+        // A simple statement can do without the engine, which avoids waiting for a connection.
         if (m_derivations.of(line, {}, dialectOf(m_database, engine))->isSimple() ||
             !m_reader->Open(m_connString))
             return {};
@@ -59,7 +59,7 @@ std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QStrin
     return fields ? DerivationOf(line, *fields, m_connString) : byText;
 }
 
-// Each star that the database has to be asked about is a wait, so that it is asked only where no table tells.
+// Each query about a star is a wait, so the database is queried only if the fields' tables can't tell.
 std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QString &statement,
                                                                     const std::vector<SourceField> &fields,
                                                                     const QString &connectionString) const
@@ -89,7 +89,7 @@ std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QStrin
     return derivation && step != DerivationStep::Fields ? WithAllFieldsInside(derivation) : derivation;
 }
 
-// A choice of fields from TOP is made again outside of it, so that a condition or a sort can name the others.
+// Fields chosen from a TOP query are chosen outside it, so that conditions and sorts can use the others.
 std::shared_ptr<const Derivation>
 colShowSQLSentences::WithAllFieldsInside(const std::shared_ptr<const Derivation> &shown) const
 {
@@ -102,7 +102,7 @@ colShowSQLSentences::WithAllFieldsInside(const std::shared_ptr<const Derivation>
     return chosen ? chosen : shown;
 }
 
-// Whether conditions and sorts can name no field but those shown: DISTINCT of other fields has other rows.
+// Whether conditions and sorts can use only the shown fields: DISTINCT with other fields has other rows.
 bool colShowSQLSentences::NamesShownAlone(const Derivation &all) const
 {
     return all.hasListAsTable() && (all.isDistinct() || !all.whyNot(DerivationStep::Condition).isEmpty());
@@ -148,7 +148,7 @@ std::optional<FilteredResult> colShowSQLSentences::GetFilteredResult() const
     if (!all || (all->isSimple() && !all->isJoined() && isTableFoundAsText(latest->AllFields, *all)))
         return std::nullopt;
     const QString &named = NamesShownAlone(*all) ? LineOf(latest->ShowSQL) : latest->AllFields;
-    // Under the names that the result has, not those that the statement writes.
+    // By the names in the result, not those in the statement.
     if (const auto fields = m_reader->Read(m_connString, named))
         all = DerivationOf(named, *fields, m_connString);
     return all->filteredResult();
@@ -170,7 +170,7 @@ QString colShowSQLSentences::GetConditionName(const clsDataField &field) const
     return all && NamesByItself(*all) ? field.FieldWholeName : QString();
 }
 
-// Of several tables, more than one can have a field of that name.
+// With several tables, more than one can have a field of that name.
 bool colShowSQLSentences::NamesByItself(const Derivation &all) const
 {
     return all.isJoined() || !all.isTextWork(DerivationStep::Condition) ||
@@ -303,7 +303,7 @@ QString colShowSQLSentences::WithFieldsOf(const QString &statement, const QStrin
     const auto all = DerivationOf(Latest()->AllFields);
     if (all && all->hasListAsTable())
         return WithFieldsOfWhole(*derivation, *all, *fields);
-    // A host's part statement can name by its value what the user knows by its alias.
+    // A host's part statement can use an expression for a field that the user knows by its alias.
     const bool isOverSame = all && !all->isSimple() && fields != all &&
                             all->source().simplified() == fields->source().simplified() &&
                             derivation->source().simplified() == fields->source().simplified();
@@ -311,13 +311,13 @@ QString colShowSQLSentences::WithFieldsOf(const QString &statement, const QStrin
     QString derived = listed.isEmpty() ? derivation->withFieldsOf(*fields) : derivation->withFields(listed);
     if (!derived.isEmpty() || fieldStatement == Latest()->AllFields)
         return derived;
-    // What is shown may lack a field that the whole has.
+    // The shown statement may lack a field of the full one.
     const auto whole = all ? DerivationOf(derivation->withFieldsOf(*all)) : nullptr;
     return whole ? whole->withFieldsOf(*fields) : QString();
 }
 
-// A choice of fields from TOP is a SELECT of its own, which what was derived from it has as its
-// table. Other fields are in the table of all of them only.
+// A choice of fields from a TOP query is itself a SELECT, and statements derived from it have it as their
+// table. Only the table with all fields has the others.
 QString colShowSQLSentences::WithFieldsOfWhole(const Derivation &shown, const Derivation &all,
                                                const Derivation &fields) const
 {

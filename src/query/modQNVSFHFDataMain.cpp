@@ -13,10 +13,10 @@ using namespace CharText;
 namespace {
 
 constexpr auto invalidArgument = "Invalid procedure call or argument";
-// A statement is taken to begin with SELECT and one blank, so its list begins here.
+// A statement is assumed to begin with SELECT and one blank, so the list begins here.
 constexpr qsizetype listPosition = 8;
 
-// The trimmed statement, or an empty text when it is no SELECT.
+// The trimmed statement; empty if it is not a SELECT.
 QString selectStatement(const QString &statement)
 {
     const QString trimmed = trim(statement);
@@ -48,8 +48,8 @@ std::optional<ParseFailure> ParsedStatements::ParseSQLFieldList(const QString &s
         const QString item = trim(written);
         colSQLFields.append(readsBrackets(database) ? withoutBrackets(item) : item);
     }
-    // The last item differs from the others: elsewhere than on Oracle it keeps its blanks, which also shield
-    // its "[".
+    // The last item is special: except on Oracle it
+    // keeps its blanks, which also protect its "[".
     if (!last.contains(u'*'))
         colSQLFields.append(readsBrackets(database) ? withoutBrackets(last) : trim(last));
     return std::nullopt;

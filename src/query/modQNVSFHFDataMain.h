@@ -15,24 +15,24 @@ struct ParseFailure
     QString description;
 };
 
-// What statements were last parsed into.
+// The result of parsing the last statements.
 struct ParsedStatements
 {
-    // Fills strSQLTable and colSQLFields. A text that is no SELECT leaves both as they are; a "*" after the
-    // last comma adds no name. Other databases than Oracle lose the condition first and the brackets around
-    // each name. On failure (FROM missing, or too early) colSQLFields keeps its names, strSQLTable is already
-    // the new one, and the answer is a message for the developer.
+    // Sets strSQLTable and colSQLFields. A text that is not a SELECT changes neither; a "*" after the last
+    // comma adds no name. Except for Oracle, the condition and the brackets around each name are removed
+    // first. On failure (FROM is missing or too early) colSQLFields is unchanged, strSQLTable is already set,
+    // and a message for developers is returned.
     std::optional<ParseFailure> ParseSQLFieldList(const QString &statement, AllDBType database);
     void ClearSQLFieldList();
 
-    // Fills colSelFields with the names as written; a "*" is a name of its own. Throws std::invalid_argument
-    // when FROM is missing (colSelFields keeps its names) or the list ends in a comma (the names before it
-    // stay).
+    // Sets colSelFields to the names as written; a "*" is a name too. Throws
+    // std::invalid_argument if FROM is missing (colSelFields is unchanged)
+    // or the list ends in a comma (the names before it are kept).
     void ParseSelFieldList(const QString &statement);
 
-    QString strSQLTable;      // the FROM text of the statement last given to ParseSQLFieldList
+    QString strSQLTable;      // the FROM text of the last statement passed to ParseSQLFieldList
     QStringList colSQLFields; // its field names, in statement order
-    QStringList colSelFields; // the field names of the statement last given to ParseSelFieldList
+    QStringList colSelFields; // the field names of the last statement passed to ParseSelFieldList
 };
 
 } // namespace KOVAVSFDataGridLib

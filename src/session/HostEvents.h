@@ -4,8 +4,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What a session reports to the host of its control, and asks of it. This one is a host that listens to
-// nothing.
+// What a session reports to the host of its control and asks it. The default implementation ignores
+// everything.
 class HostEvents
 {
 public:
@@ -13,9 +13,9 @@ public:
     virtual ~HostEvents() = default;
     Q_DISABLE_COPY_MOVE(HostEvents)
 
-    // SQLFilter was written.
+    // SQLFilter was set.
     virtual void filterWritten() {}
-    // QurryFilter: the host may change `cancel` and write PassQurryFilter.
+    // QurryFilter: the host may change `cancel` and set PassQurryFilter.
     virtual void askFilter(qint32 & /*cancel*/, const QString & /*base*/) {}
     // ShowFieldsChange.
     virtual void fieldsChanged(const QString & /*statement*/) {}

@@ -6,7 +6,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What the host asked for, as the properties of its control.
+// What the host wants to load, from the properties of its control.
 struct LoadRequest
 {
     QString connectionString;

@@ -44,18 +44,18 @@ std::unique_ptr<clsFilterManagement> filterManagerForLoad(Session &session)
 
 struct LoadedStatement
 {
-    QString written; // SQLShow as it is, unless it has to be another statement
-    QString line;    // what is run, and what others are derived from
+    QString written; // SQLShow unchanged, unless another statement is needed
+    QString line;    // the line that is run and that others are derived from
 };
 
-// For Oracle the field list is spelled out, so that each field can be named and long binary ones come last.
-// Nothing when it can't be, for the reason that the reader gives.
+// For Oracle, * is replaced by all field names, so that each can be used and long binary ones come last. No
+// value if that fails; the reader has the reason.
 std::optional<LoadedStatement> statementToOpen(Session &session, clsFilterManagement &manager)
 {
     const QString given = manager.AllFields();
     const QString &connectionString = session.texts.connectionString;
     LoadedStatement first{session.texts.sqlShow, manager.GetCurrentSQL20(FirstStatement)};
-    // What is missing is reported when the statement is opened.
+    // Missing properties are reported when the statement is opened.
     if (spellsOutStar(session.shared.dbType) && !connectionString.isEmpty() && !first.line.isEmpty()) {
         QString rewritten;
         if (!manager.SQLManager().GetAllFieldNameSQL(connectionString, first.line, rewritten))
@@ -65,7 +65,7 @@ std::optional<LoadedStatement> statementToOpen(Session &session, clsFilterManage
         manager.SetSQLInitData();
         first.line = rewritten;
     }
-    if (first.line != given) // sorted or spelled out, so that it isn't the host's own any more
+    if (first.line != given) // with a sort or a field list, so no longer the host's own text
         first.written = first.line;
     manager.SQLManager().SetWritten(first.written, first.line);
     return first;
@@ -85,7 +85,7 @@ void showLoaded(Session &session, const ResultSet::Opened &opened, const LoadedS
 
     session.window().enableCommands();
     session.pages().showPage(1);
-    // Widths and places belong to fields: the same ones loaded again keep theirs.
+    // Widths and positions belong to fields: if the same ones are loaded again, they are kept.
     if (session.window().Headings() != fieldsBefore) {
         session.window().ResetColWidths();
         session.window().arrangeColumns({}, 0);
@@ -111,8 +111,8 @@ void showLoaded(Session &session, const ResultSet::Opened &opened, const LoadedS
 
 } // namespace
 
-// Everything is made ready beside what is shown and takes its place only when the statement has been read, so
-// that a failed load leaves grid, history and position as they were.
+// Everything is prepared separately and replaces what is shown only after the statement was read, so that a
+// failed load does not change grid, history and position.
 bool loadResult(Session &session)
 {
     using Outcome = StatementReader::Outcome;
@@ -142,7 +142,7 @@ bool loadResult(Session &session)
         return false;
     case Outcome::Cancelled:
         return false;
-    case Outcome::Overtaken: // by another load, say, which has done all that follows
+    case Outcome::Overtaken: // for example by another load, which has done everything that follows
         return !session.isDetached() && session.result().isOpen();
     case Outcome::Done:
         break;

@@ -4,8 +4,8 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// The whole load, from the host's texts to the first entry of the history. Whether it succeeded and its
-// result is still open: the host can close it as soon as it hears of it.
+// The complete load, from the host's texts to the first entry of the history. Returns whether it succeeded
+// and the result is still open: the host can close it as soon as it is notified.
 bool loadResult(Session &session);
 
 } // namespace KOVAVSFDataGridLib

@@ -19,7 +19,7 @@ namespace KOVAVSFDataGridLib {
 
 class colDataFields;
 
-// What a user can be asked to build a condition from.
+// The input for building a condition.
 struct ConditionRequest
 {
     QString connectionString;
@@ -27,18 +27,18 @@ struct ConditionRequest
     StatementSource tableType = FromTable;
     QString sqlShow;
     std::shared_ptr<ADODB::Connection> connection; // may be null
-    // Where the statement isn't the plain rows of a table: what it is filtered by instead.
+    // What to filter instead if the statement isn't the plain rows of a table.
     std::optional<FilteredResult> result = {};
-    // The condition that the filtered records meet already; may be empty.
+    // The condition that the filtered records already meet; may be empty.
     QString condition = {};
-    // Why the database refused the condition that was built last; empty at first.
+    // Why the database rejected the previous condition; empty at first.
     QString refusal = {};
-    // What whoever is asked keeps until the next time, so that all is there again as it was typed.
+    // Kept by the callee until the next time, so that all input is still there.
     mutable std::shared_ptr<void> memory = {};
-    // What to begin with: a field by its heading, empty for any, and a value of it as text.
+    // The initial field, by its heading (empty for any), and a value of it as text.
     QString field = {};
     QString value = {};
-    // Whose filters are kept for the user; empty for none.
+    // The table whose saved filters are offered; empty for none.
     QString table = {};
     // The conditions that the one asked for replaces; to begin with, all of them.
     std::vector<ConditionInForce> replaced = {};
@@ -49,33 +49,33 @@ struct ConditionRequest
     mutable QString builtCondition = {};
 };
 
-// A column whose records the user chooses by their values.
+// The input for choosing records by the values of a column.
 struct ValuesRequest
 {
-    // The records whose values are offered; `field` is the column's heading, `built` what the choice in force
-    // was built from.
+    // The records whose values are offered. `field` is the column's heading; `built` is what the active
+    // choice was built from.
     ConditionRequest records;
-    QString written; // the field as statements write it
+    QString written; // the field's name for SQL
 };
 
 struct ValuesAnswer
 {
     QString condition = {};    // empty for all records
     QString built = {};        // for the next time
-    bool wantsBuilder = false; // to build a condition of any kind instead
+    bool wantsBuilder = false; // the user wants to build any condition instead
 };
 
-// The words that the user looks for.
+// The words to search for.
 struct FindAnswer
 {
-    QString text; // words separated by "%"; empty when the user cancelled
+    QString text; // words separated by "%"; empty if the user cancelled
     bool isOneField = false;
-    QString field; // where isOneField
+    QString field; // if isOneField
 };
 
-// What becomes of a record that can't be saved when its result is about to go.
+// What to do with a record that can't be saved when its result is about to be closed.
 enum class Unsaved { SaveAgain, Discard, Stay, ShowNewValues };
-// What a user can export.
+// The input for an export dialog.
 struct ExportRequest
 {
     QString name; // of the file, without folder and ending
@@ -85,16 +85,16 @@ struct ExportRequest
     int allColumns = 0;
 };
 
-// What is exported, and where to.
+// What to export, and where to.
 struct ExportAnswer
 {
     QString file;
     ExportOptions options;
     bool isMarkedOnly = false;
-    bool hasAllColumns = false; // hidden ones too
+    bool hasAllColumns = false; // including hidden ones
 };
 
-// What a user can print.
+// The input for a print dialog.
 struct PrintRequest
 {
     QString title;
@@ -102,19 +102,19 @@ struct PrintRequest
     RecordRange all;
     RecordRange marked;
     ExportColumns columns;
-    std::vector<ADODB::DisplayFormat> formats; // one for each column
-    // Hands records to the writer until `shouldContinue` answers false. Throws ADODB::Error.
+    std::vector<ADODB::DisplayFormat> formats; // one per column
+    // Passes records to the writer until `shouldContinue` returns false. Throws ADODB::Error.
     std::function<void(RecordWriter &, bool isMarkedOnly, const std::function<bool()> &shouldContinue)> write;
 };
 
-// What is printed, and what prints it.
+// What to print, and with which writer.
 struct PrintAnswer
 {
     std::unique_ptr<RecordWriter> writer;
     bool isMarkedOnly = false;
 };
 
-// How the texts of a column can be shown.
+// The input for choosing a column's display format.
 struct FormatRequest
 {
     QString column;
@@ -124,8 +124,8 @@ struct FormatRequest
     int decimals = 0;       // with which that is shown at least while nothing else is chosen
 };
 
-// What a session asks and reports to its user. Each function returns when the user is done; meanwhile a host
-// may do anything, even delete what asked. This one is a user who is not there: every question is cancelled.
+// What a session asks and tells its user. Each function returns when the user has finished. Meanwhile a host
+// may do anything, even delete the caller. The default implementation cancels every question.
 class Questions : public FieldChooser
 {
 public:
@@ -141,30 +141,30 @@ public:
     }
     virtual void show(const QString & /*text*/) {}
     virtual void showWithCause(const QString & /*text*/, const QString & /*cause*/) {}
-    // The same about a record that somebody else has changed; true when the user wants to see what it is now.
+    // The same for a record that somebody else has changed; true if the user wants to see the new values.
     // `cause` may be empty.
     virtual bool offerNewValues(const QString & /*text*/, const QString & /*cause*/) { return false; }
     // True for Yes. Enter presses No.
     virtual bool ask(const QString & /*text*/, const QString & /*title*/) { return false; }
-    // `reason` says why the record wasn't saved. ShowNewValues is an answer where somebody else has changed
-    // the record.
+    // `reason` tells why the record wasn't saved. ShowNewValues is a possible answer if somebody else has
+    // changed the record.
     virtual Unsaved askUnsaved(const QString & /*reason*/, bool /*isChangedByOthers*/)
     {
         return Unsaved::Discard;
     }
-    // An empty text when the user cancels.
+    // An empty text if the user cancels.
     virtual QString askCondition(const ConditionRequest &) { return {}; }
-    // The database took the condition that was answered.
+    // The database accepted the condition.
     virtual void noteConditionUsed(const ConditionRequest &) {}
-    // Nothing when the user cancels.
+    // No value if the user cancels.
     virtual std::optional<ValuesAnswer> askValues(const ValuesRequest &) { return {}; }
-    // Nothing when there are no fields to look in.
+    // No value if there are no fields to search.
     virtual std::optional<FindAnswer> askWords(const colDataFields &) { return {}; }
-    // Nothing when the user cancels. A file that is there already may be replaced.
+    // No value if the user cancels. An existing file may be replaced.
     virtual std::optional<ExportAnswer> askExport(const ExportRequest &) { return {}; }
-    // Nothing when the user cancels. A file that is there already may be replaced.
+    // No value if the user cancels. An existing file may be replaced.
     virtual std::optional<PrintAnswer> askPrint(const PrintRequest &) { return {}; }
-    // The format that the user chooses; nothing when he cancels.
+    // The format that the user chooses; no value if the user cancels.
     virtual std::optional<QString> askFormat(const FormatRequest &) { return {}; }
 };
 

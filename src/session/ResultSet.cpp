@@ -16,8 +16,8 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// The same recordset, closed as soon as its last holder releases it. The object itself stays until the
-// event loop runs again, because a host's handler may release a recordset that is just reporting its own
+// A pointer that closes the recordset as soon as its last owner releases it. The object itself is destroyed
+// when the event loop runs again, because a host's handler may release a recordset while that is reporting a
 // move.
 std::shared_ptr<ADODB::Recordset> closedByLastHolder(std::shared_ptr<ADODB::Recordset> recordset)
 {

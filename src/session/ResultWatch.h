@@ -10,17 +10,17 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// Remembers which result a command works on. While a question is open or a statement is being read, the host
-// may put another one in its place, or destroy the control; the command then ends. The session lives at least
+// Remembers the result that a command works on. While a question is open or a statement is being read, the
+// host may replace the result or destroy the control; the command must then end. The session lives at least
 // as long as this object.
 class ResultWatch
 {
 public:
     explicit ResultWatch(Session &session);
 
-    // False when the host meanwhile opened or closed a result or destroyed the control.
+    // False if the host has opened or closed a result or destroyed the control since then.
     bool isUntouched() const;
-    // The result that was there; it lives as long as this object. Null when there was none.
+    // The result at the start, kept alive by this object. Null if there was none.
     const std::shared_ptr<ADODB::Recordset> &recordset() const { return m_recordset; }
 
 private:

@@ -55,7 +55,7 @@ void Session::detach()
     m_notifications = m_ownNotifications.get();
     m_isDetached = true;
     m_history->detach();
-    m_result.borrow({}); // which closes it, unless the host holds it as well
+    m_result.borrow({}); // closes it, unless the host owns it as well
 }
 
 ColumnLayout Session::columns() const
@@ -88,8 +88,8 @@ void Session::run(const QString &key, ChosenBy by)
     });
 }
 
-// False when what was typed can't be taken or saved, which the user has been shown, and when the host,
-// notified of it, has taken away what the command was to work on.
+// False if the typed text does not fit or can't be saved, after a message to the user, or if the host was
+// notified and has removed what the command was to work on.
 bool Session::makeReady(const Command &command)
 {
     const bool hasCommand = m_rules.hasAllCommands || command.isInViewer;
@@ -132,7 +132,7 @@ void Session::perform(const std::function<void()> &command)
     try {
         command();
     } catch (const ADODB::Error &) {
-        // What the user should know has been reported.
+        // The user has already been informed.
     } catch (const std::bad_alloc &) {
         m_questions->show(SessionMessages::OutOfMemory);
     } catch (const std::exception &error) {

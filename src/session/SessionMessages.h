@@ -2,7 +2,7 @@
 
 #include "language/Text.h"
 
-// What a session tells its user, for proof-reading in one place.
+// The messages of a session to its user, collected here for proofreading.
 namespace KOVAVSFDataGridLib::SessionMessages {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::SessionMessages"};

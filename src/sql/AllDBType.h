@@ -4,10 +4,10 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The databases whose SQL differs. Any other number can be stored; it means an unknown database.
+// The database types that a host can declare. Any other number can be stored; it means an unknown database.
 enum AllDBType : qint32 { dbAccess = 1, dbOracle = 2, dbSQLServer = 3 };
 
-// What the type that a host declares decides on its own, whatever the engine turns out to be.
+// What depends only on the declared type, whatever the engine turns out to be.
 
 // Whether it is one of these.
 constexpr bool isDeclared(AllDBType database)
@@ -15,31 +15,31 @@ constexpr bool isDeclared(AllDBType database)
     return database == dbAccess || database == dbOracle || database == dbSQLServer;
 }
 
-// Field lists put each name in brackets, and the quick filter's names have them too.
+// Whether names in field lists and in the quick filter are written in brackets.
 constexpr bool writesBrackets(AllDBType database)
 {
     return database == dbAccess;
 }
 
-// A name in brackets is read; else it is to be written in quotes.
+// Whether names in brackets are understood; otherwise they must be in quotes.
 constexpr bool readsBrackets(AllDBType database)
 {
     return database != dbOracle;
 }
 
-// The quick filter searches the fields whose type is known to be a number, a text or a date.
+// Whether the quick filter searches only fields whose type is known to be a number, a text or a date.
 constexpr bool searchesByType(AllDBType database)
 {
     return database == dbAccess;
 }
 
-// A table's name can begin with its owner's.
+// Whether a table's name can begin with its owner's name.
 constexpr bool namesOwners(AllDBType database)
 {
     return database == dbOracle;
 }
 
-// A load names all fields instead of `*`.
+// Whether a load lists all fields instead of `*`.
 constexpr bool spellsOutStar(AllDBType database)
 {
     return database == dbOracle;

@@ -2,8 +2,8 @@
 
 #include <QtCore/QString>
 
-// The brackets of Access's names in the lists that hosts and dialogs write, where no engine is asked how it
-// quotes. The name inside is as it is: nothing in it is doubled.
+// Brackets around names, as Access uses them, for lists written by hosts and dialogs, where the engine's
+// quoting is not considered. The name inside is unchanged; nothing is doubled.
 namespace KOVAVSFDataGridLib {
 
 // [name]
@@ -13,13 +13,13 @@ QString partsInBrackets(const QString &name);
 
 // Whether it begins or ends with a bracket.
 bool hasBracket(const QString &name);
-// Whether it holds what makes it more than one name, such as an operator, quotes or an alias. Brackets would
-// make a strange name of that, and can't stand around other brackets.
+// Whether it contains anything that makes it more than a name, such as an operator, quotes or an alias. Such
+// a text must not be put in brackets, and brackets can't be nested.
 bool isMoreThanAName(const QString &field);
 
-// Without one "[" at its begin and one "]" at its end, whichever is there.
+// Removes one "[" at the start and one "]" at the end, if present.
 QString withoutBrackets(QString name);
-// Without the brackets around a whole name that needs none to be told from an expression.
+// Removes the brackets around a whole name, unless it would look like an expression without them.
 QString withoutSpareBrackets(const QString &name);
 
 } // namespace KOVAVSFDataGridLib

@@ -11,8 +11,8 @@ bool likesTextsOnly(Engine engine)
     return engine == Engine::PostgreSQL;
 }
 
-// Texts too: a driver reports many types as text that LIKE refuses (JSON, network addresses, enumerations),
-// and casting a real text costs nothing.
+// Also for texts: a driver reports many types as text that LIKE rejects (JSON, network addresses,
+// enumerations), and casting a real text costs nothing.
 QString likeOperand(Engine engine, const QString &field)
 {
     return likesTextsOnly(engine) ? "CAST("_L1 + field + " AS TEXT)"_L1 : field;
@@ -32,7 +32,7 @@ QString likeOperandOfDouble(Engine engine, const QString &field)
                              "CAST(CAST(%1 AS NUMERIC) AS TEXT) END, %2)"_s.arg(field, asText);
 }
 
-// The backslash is LIKE's own escape on these, quite apart from what literals make of it.
+// On these, the backslash is LIKE's default escape, regardless of its meaning in literals.
 QString likePattern(Engine engine, QString text)
 {
     const bool isEscape = engine == Engine::PostgreSQL || engine == Engine::MySQL;
@@ -41,7 +41,7 @@ QString likePattern(Engine engine, QString text)
 
 QString like(const Dialect &dialect, const QString &field, const QString &text, Anchor anchor)
 {
-    // Not a backslash: some databases read that as an escape of the literal itself.
+    // Not a backslash, which is an escape in the literals of some databases.
     constexpr QChar escape = u'!';
     const bool hasBracketSets = dialect.isOdbc && dialect.likelyEngine() == Engine::SqlServer;
     QString pattern;
@@ -50,7 +50,7 @@ QString like(const Dialect &dialect, const QString &field, const QString &text, 
             pattern += escape;
         pattern += c;
     }
-    // Some databases read a backslash in a pattern as an escape unless they are given another one.
+    // Some databases use a backslash as the default escape in a pattern, so another one is given.
     const bool isEscaped = pattern.size() > text.size() || text.contains(u'\\');
     if (anchor != Anchor::Begin)
         pattern.prepend(u'%');

@@ -4,13 +4,13 @@
 
 #include <QtCore/QString>
 
-// How LIKE is written.
+// How to write LIKE conditions.
 namespace KOVAVSFDataGridLib {
 
-// Whether LIKE takes texts only: others are to be cast, and pictures can't be searched at all.
+// Whether LIKE accepts only texts: other types must be cast, and pictures can't be searched.
 bool likesTextsOnly(Engine engine);
 
-// The field as LIKE takes it, whatever its type is.
+// The field in a form that LIKE accepts, whatever its type.
 QString likeOperand(Engine engine, const QString &field);
 
 // The same, with the text that is shown where the engine's cast writes another one: that of a network address
@@ -21,10 +21,10 @@ QString shownOperand(Engine engine, const QString &field);
 // which engines that cast write more.
 QString likeOperandOfDouble(Engine engine, const QString &field);
 
-// The text as a pattern of LIKE without ESCAPE: "%" and "_" are wildcards, a backslash is itself.
+// A pattern for LIKE without ESCAPE: "%" and "_" in the text are wildcards, a backslash is literal.
 QString likePattern(Engine engine, QString text);
 
-// `field` LIKE the text, matched as itself, with anything before or after it.
+// `field` LIKE the literal text, with anything before or after it.
 enum class Anchor { Begin, End, None };
 QString like(const Dialect &dialect, const QString &field, const QString &text, Anchor anchor);
 

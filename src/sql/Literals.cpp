@@ -18,7 +18,7 @@ QString quoted(QString text)
     return u'\'' + text.replace(u'\'', "''"_L1) + u'\'';
 }
 
-// SQL Server would squeeze anything else through its own code page first.
+// SQL Server would first convert any other literal to its own code page.
 bool needsUnicode(const Dialect &dialect, const QString &text)
 {
     const bool isSqlServer = dialect.engine == Engine::SqlServer ||
@@ -48,7 +48,7 @@ QString momentText(const Dialect &dialect, QLatin1StringView kind, const QString
     return dialect.isOdbc ? u'{' + kind + u' ' + quoted(text) + u'}' : quoted(text);
 }
 
-// Oracle reads a plain text by the session's own date format, the others know this one.
+// Oracle reads a plain string by the session's date format; the others know this format.
 QString scriptTime(const Dialect &dialect, QLatin1StringView word, const QString &text)
 {
     return dialect.likelyEngine() == Engine::Oracle ? word + u' ' + quoted(text) : quoted(text);
@@ -66,7 +66,7 @@ qsizetype digitsOf(const QString &number)
     return digits;
 }
 
-// Half of what separates the float that is nearest to the number from the next one.
+// Half the distance between the float nearest to the number and the next float.
 double halfStepOfFloat(double number)
 {
     const float nearest = std::abs(static_cast<float>(number));
@@ -74,13 +74,13 @@ double halfStepOfFloat(double number)
     return (static_cast<double>(next) - static_cast<double>(nearest)) / 2;
 }
 
-// SQLite has no type for dates; through ODBC its driver has.
+// SQLite has no date type, but its ODBC driver has.
 bool keepsDatesAsTexts(const Dialect &dialect)
 {
     return dialect.engine == Engine::SQLite && !dialect.isOdbc;
 }
 
-// `form` makes one text of all those that mean the same; %1 is the field.
+// `form` converts all texts with the same meaning to one; %1 is the field.
 QString inOneForm(const Dialect &dialect, const QString &field, const QString &form)
 {
     return keepsDatesAsTexts(dialect) ? form.arg(field) : field;
@@ -113,7 +113,7 @@ QString textWithoutClauses(const Dialect &dialect, const QString &text)
         const QString literal = textLiteral(dialect, piece);
         if (joined.isEmpty())
             joined = literal;
-        else if (dialect.isOdbc && dialect.engine != Engine::SQLite) // whose driver leaves CONCAT to it
+        else if (dialect.isOdbc && dialect.engine != Engine::SQLite) // its driver passes CONCAT on unchanged
             joined = u"{fn CONCAT(%1, %2)}"_s.arg(joined, literal);
         else
             joined = u"(%1 || %2)"_s.arg(joined, literal);
@@ -173,7 +173,7 @@ QString dayValue(const Dialect &dialect, const QString &field)
     switch (dialect.engine) {
     case Engine::SQLite:
         return u"COALESCE(date(%1), %1)"_s.arg(field);
-    case Engine::Oracle: // whose DATE has a time of day
+    case Engine::Oracle: // its DATE includes a time of day
         return u"TRUNC(%1)"_s.arg(field);
     case Engine::SqlServer:
     case Engine::PostgreSQL:
@@ -189,8 +189,8 @@ QString dayValue(const Dialect &dialect, const QString &field)
 
 QString momentOperand(const Dialect &dialect, const QString &field)
 {
-    // A fraction only where there is one, as literals have it; one of more than three decimals is shown as it
-    // is stored.
+    // A fraction only if there is one, as in literals. One
+    // with more than three decimals is shown as stored.
     return inOneForm(dialect, field,
                      u"COALESCE(CASE WHEN length(rtrim(%1, '0')) < 24 THEN "
                      "REPLACE(strftime('%Y-%m-%d %H:%M:%f', %1), '.000', '') END, %1)"_s);
@@ -209,12 +209,12 @@ QString momentLiteral(const Dialect &dialect, const QDateTime &moment, const QSt
 QString zonedMomentLiteral(const Dialect &dialect, const QDateTime &moment, const QString &finer,
                            const QString &zone)
 {
-    // Not in the standard's words, of which WITH begins something else.
+    // Not in standard syntax: WITH also begins other clauses.
     return dialect.engine == Engine::PostgreSQL ? "TIMESTAMPTZ "_L1 + quoted(dayAndTime(moment, finer) + zone)
                                                 : QString();
 }
 
-// In PostgreSQL it depends on a setting of the session what a backslash means, except in such a text.
+// In PostgreSQL the meaning of a backslash depends on a session setting, except in a string of this kind.
 QString scriptText(Dialect dialect, const QString &text)
 {
     if (dialect.likelyEngine() != Engine::PostgreSQL || !text.contains(u'\\'))

@@ -6,31 +6,31 @@
 #include <QtCore/QDateTime>
 #include <QtCore/QString>
 
-// How values are written in statements.
+// Writes values as SQL literals.
 namespace KOVAVSFDataGridLib {
 
-// The text in apostrophes, such that the engine reads exactly this text.
+// The text as a literal that the engine reads as exactly this text.
 QString textLiteral(const Dialect &dialect, QString text);
 
-// The same, as several literals put together where the text holds words that begin a clause: statements are
-// taken apart at these words wherever they occur.
+// The same, but concatenated from several literals if the text contains words that begin a clause, because
+// statements are split at these words wherever they occur.
 QString textWithoutClauses(const Dialect &dialect, const QString &text);
 
 QString dateLiteral(const Dialect &dialect, QDate date);
-// `finer` are the decimals of the second after the third one, without zeros at their end.
+// `finer`: the decimals of the second after the third one, without trailing zeros.
 QString timeLiteral(const Dialect &dialect, QTime time, const QString &finer = {});
 QString momentLiteral(const Dialect &dialect, const QDateTime &moment, const QString &finer = {});
-// The same by a clock in this zone, an offset such as +08; empty for an engine of which no such literal is
-// known.
+// The same in a time zone, given as an offset such as +08. Empty for an engine without a known literal for
+// that.
 QString zonedMomentLiteral(const Dialect &dialect, const QDateTime &moment, const QString &finer,
                            const QString &zone);
 
-// What a floating column holds: 4 bytes or 8.
+// The size of a floating point column: 4 or 8 bytes.
 enum class FloatSize { Single, Double };
 
-// The bounds of the numbers that are shown as this one: a double with its first 15 digits, a float with the
-// fewest digits that say which float it is, and one of MySQL with 6. Computed numbers rarely are exactly what
-// is shown. Both empty for zero, and for a number with more digits than are ever shown.
+// The range of numbers that are shown as this one. A double is shown with 15 digits, a float with the fewest
+// digits that identify it, or with 6 on MySQL. Computed numbers are rarely exactly what is shown. Both bounds
+// are empty for zero, and for a number with more digits than are ever shown.
 struct NumberRange
 {
     QString from;
@@ -40,29 +40,29 @@ struct NumberRange
 };
 NumberRange rangeShownAs(const QString &number, FloatSize size, Engine engine);
 
-// Whether the text is a number as statements write it.
+// Whether the text is a number in SQL syntax.
 bool isNumberText(const QString &text);
 
-// A field of days or moments as it is compared with DateLiteral or MomentLiteral. SQLite keeps them as texts
-// of several forms, of which those that mean the same are to be equal. A day there can have a time, which is
-// shown with it: by dateOperand only midnight is the day itself, by dayOperand any time of it is neither
-// before nor after it.
+// A date or timestamp field in a form that can be compared with dateLiteral or momentLiteral. SQLite stores
+// them as texts in several formats; texts with the same meaning must be equal. A date there can have a time,
+// which is shown with it: with dateOperand only midnight equals the date, with dayOperand any time on that
+// day is neither less nor greater.
 QString dateOperand(const Dialect &dialect, const QString &field);
 QString dayOperand(const Dialect &dialect, const QString &field);
 QString momentOperand(const Dialect &dialect, const QString &field);
 
-// Whether a field of days can hold moments as well.
+// Whether a date field can contain times too.
 bool daysHaveTimes(const Dialect &dialect);
 
-// A field of money as it is compared with a number: PostgreSQL compares its money with money alone.
+// A money field in a form that can be compared with a number: PostgreSQL compares money only with money.
 QString moneyOperand(Engine engine, const QString &field);
 
-// The day of a field of days or moments as a value of its own; the field itself where no way to write it is
-// known.
+// The date of a date or timestamp field as a value. The
+// field itself if there is no known way to write that.
 QString dayValue(const Dialect &dialect, const QString &field);
 
-// Literals for a script that another program runs: without ODBC's escapes, and for the likely engine where
-// the engine isn't known. `text` is the date or the moment in ISO form.
+// Literals for a script that another program runs: without ODBC escapes, and for the likely engine if the
+// engine is unknown. `text` is the date or timestamp in ISO format.
 QString scriptText(Dialect dialect, const QString &text);
 QString scriptBytes(const Dialect &dialect, const QByteArray &bytes);
 QString scriptBoolean(const Dialect &dialect, bool value);

@@ -23,14 +23,14 @@ bool hasSmall(const QString &name)
     return std::any_of(name.cbegin(), name.cend(), [](QChar c) { return c >= u'a' && c <= u'z'; });
 }
 
-// Elsewhere "#" begins a comment or a date, or is an operator.
+// In other engines, "#" begins a comment or a date, or is an operator.
 bool readsNumberSign(Engine engine)
 {
     return engine == Engine::SqlServer || engine == Engine::Oracle;
 }
 
-// A bare name is read in capitals by Oracle and in small letters by PostgreSQL. Where only the declared type
-// speaks for such an engine, it may be either.
+// Oracle converts a bare name to upper case, PostgreSQL to lower case. If only the declared type suggests
+// such an engine, it may be either.
 bool losesItsCase(const Dialect &dialect, const QString &name)
 {
     if (dialect.engine == Engine::PostgreSQL)
@@ -66,7 +66,7 @@ QString quotedName(const Dialect &dialect, const QString &name)
     switch (dialect.engine) {
     case Engine::MySQL:
         return enclosed(u'`', name, u'`');
-    case Engine::SQLite: // it reads brackets as well, but none inside them
+    case Engine::SQLite: // it also reads brackets, but none inside them
         if (dialect.database != dbOracle && !name.contains(u']'))
             return enclosed(u'[', name, u']');
         return enclosed(u'"', name, u'"');

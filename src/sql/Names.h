@@ -4,45 +4,45 @@
 
 #include <QtCore/QString>
 
-// How names are written in statements and read from them.
+// Writes names in statements and reads them.
 namespace KOVAVSFDataGridLib {
 
-// True for a letter or "_" followed by letters and numbers of any script, "_", "$" and "#".
+// A letter or "_", followed by letters and numbers of any script, "_", "$" and "#".
 bool isPlainName(const QString &name);
 
-// The name of a field or table, as the database reports it, as a statement writes it: bare where the engine
-// then reads this very name, else quoted. A name can need quotes for its characters, because it is a word of
-// the language, or because the engine would change its letters' case.
+// The name of a field or table, as the database reports it, in the form for SQL: bare if the engine then
+// reads the same name, otherwise quoted. A name can need quotes because of its characters, because it is a
+// reserved word, or because the engine would change its case.
 QString writtenName(const Dialect &dialect, const QString &name);
 
-// The name in the engine's quotes, whether it needs them or not. Quotes inside are doubled.
+// The name in the engine's quotes, even if it needs none. Quotes inside are doubled.
 QString quotedName(const Dialect &dialect, const QString &name);
 
-// The same where the host declares Access: a name in brackets, if the engine reads these. For an unknown
-// engine it stays as it is inside them, because such an engine may not read a doubled bracket as one.
+// The same if the host declares Access: in brackets, if the engine understands them. For an unknown engine
+// the name inside is unchanged, because such an engine may not understand doubled brackets.
 QString nameInBrackets(const Dialect &dialect, const QString &name);
 
-// Whether two names, as the database reports them, are one to it.
+// Whether two names reported by the database are the same to it.
 bool isOneName(const Dialect &dialect, const QString &a, const QString &b);
 
-// Whether names are put in brackets: the host declares Access, and the engine reads them too as far as it is
-// known.
+// Whether names are written in brackets: the host declares Access, and the engine, if known, understands
+// them.
 bool takesBrackets(const Dialect &dialect);
 
-// The text between two quote characters, the closing one doubled inside.
+// The text between two quote characters. The closing one is doubled inside the text.
 QString enclosed(QChar opening, QString name, QChar closing);
-// The same with quotes inside left as they are, for an unknown engine, which may not read a doubled one as
-// one.
+// The same without doubling, for an unknown
+// engine, which may not understand doubled quotes.
 QString enclosedAsIs(QChar opening, const QString &name, QChar closing);
 
-// The character that ends a quoted text or name which begins with this one; null for any other character.
+// The character that ends a string or name quoted with `opening`; null for any other character.
 QChar closingQuote(QChar opening);
 
-// The last part of a written name without its quotes: "Name" for dbo.T."Name". Empty when a quoted alias
-// follows it.
+// The last part of a name in a statement, without its quotes: "Name" for dbo.T."Name". Empty if a quoted
+// alias follows.
 QString lastNamePart(const QString &writtenName);
 
-// The text with each [name] outside quotes written "name".
+// The text with each [name] outside quotes replaced by "name".
 QString bracketsToQuotes(const QString &text);
 
 } // namespace KOVAVSFDataGridLib

@@ -8,10 +8,10 @@ using namespace Qt::StringLiterals;
 
 QString isTrue(const Dialect &dialect, const QString &field, bool wanted)
 {
-    // Servers with a real Boolean type compare it with a text, those of bits and numbers convert the text.
+    // Servers with a real Boolean type compare it with a string; those with bits or numbers convert it.
     if (dialect.engine == Engine::PostgreSQL || (dialect.isOdbc && dialect.database != dbAccess))
         return field + (wanted ? " = '1'"_L1 : " = '0'"_L1);
-    // True is 1 here and -1 there.
+    // True is 1 on some engines and -1 on others.
     return field + (wanted ? " <> 0"_L1 : " = 0"_L1);
 }
 
@@ -22,7 +22,7 @@ QString isEmptyText(const Dialect &dialect, const QString &field)
 
 QString isNotEmptyText(const Dialect &dialect, const QString &field)
 {
-    // To Oracle '' is Null, and nothing differs from Null.
+    // In Oracle '' is Null, and no value is unequal to Null.
     return likeOperand(dialect.engine, field) +
            (dialect.database == dbOracle ? " LIKE '_%'"_L1 : " <> ''"_L1);
 }
@@ -50,7 +50,7 @@ RowLimit rowLimit(const Dialect &dialect, int count)
 RowLimit rowLimitWithoutSort(const Dialect &dialect, int count)
 {
     RowLimit limit = rowLimit(dialect, count);
-    // SQL Server takes OFFSET only after a sort.
+    // SQL Server accepts OFFSET only after ORDER BY.
     if (dialect.likelyEngine() == Engine::SqlServer && limit.behindSort.contains("OFFSET"_L1))
         limit.behindSort.prepend(" ORDER BY (SELECT NULL)"_L1);
     return limit;

@@ -4,24 +4,24 @@
 
 #include <QtCore/QString>
 
-// Conditions and clauses for which the engines have words of their own.
+// Conditions and clauses that differ between engines.
 namespace KOVAVSFDataGridLib {
 
-// A Boolean field that has this value.
+// A condition that a Boolean field has this value.
 QString isTrue(const Dialect &dialect, const QString &field, bool wanted);
 
-// A text field that holds no character, or some.
+// A condition that a text field is empty, or that it is not.
 QString isEmptyText(const Dialect &dialect, const QString &field);
 QString isNotEmptyText(const Dialect &dialect, const QString &field);
 
-// A condition that the value of a number field is a number, where the engine keeps texts in it as well, which
-// it takes for larger than any number. Empty where it keeps none.
+// A condition that excludes texts in a number field, for engines that allow them and sort them after all
+// numbers. Empty for other engines.
 QString beforeTexts(const Dialect &dialect, const QString &field);
 
-// Whether WHERE can name a field of the list by its alias.
+// Whether WHERE can use a field's alias from the list.
 bool readsAliasesInConditions(Engine engine);
 
-// The words of a SELECT that is to give its first records only. Each has the blank that keeps it apart.
+// The words that limit a SELECT to its first records. Each includes the blank that separates it.
 struct RowLimit
 {
     QString beforeList;
@@ -31,10 +31,10 @@ RowLimit rowLimit(const Dialect &dialect, int count);
 // The same for a SELECT without a sort.
 RowLimit rowLimitWithoutSort(const Dialect &dialect, int count);
 
-// What follows the closing bracket of a SELECT that is selected from, with the blank before it.
+// What follows the closing bracket of a derived table, including the blank before it.
 QString innerTableAlias(const Dialect &dialect, const QString &name);
 
-// Whether such a SELECT may be sorted where it isn't limited.
+// Whether a derived table may be sorted without being limited.
 bool takesInnerSort(const Dialect &dialect);
 
 } // namespace KOVAVSFDataGridLib

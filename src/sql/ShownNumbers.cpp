@@ -13,7 +13,7 @@ bool isWhole(const QString &number)
     return !number.contains(u'.') && !number.contains(u'e', Qt::CaseInsensitive);
 }
 
-// SQLite compares numbers as they are shown, and PostgreSQL's floats are cast.
+// SQLite compares numbers as shown, and PostgreSQL's floats are cast.
 NumberRange rangeShown(Engine engine, NumberKind kind, const QString &number, bool isComputed)
 {
     const bool isDouble = kind == NumberKind::Double;
@@ -25,7 +25,7 @@ NumberRange rangeShown(Engine engine, NumberKind kind, const QString &number, bo
 
 } // namespace
 
-// Numbers are compared as numbers where LIKE takes none: as texts they may end in more digits than are shown.
+// If LIKE does not accept numbers, they are compared as numbers: as texts they may have more digits.
 QString showsNumber(Engine engine, const QString &field, NumberKind kind, const QString &number,
                     bool isComputed)
 {
@@ -38,7 +38,7 @@ QString showsNumber(Engine engine, const QString &field, NumberKind kind, const 
     case Engine::PostgreSQL:
         if (kind == NumberKind::Currency)
             return u"%1 = %2"_s.arg(moneyOperand(engine, field), number);
-        // Only as a number of the same few digits it is the same number.
+        // It is the same number only if it is cast to the same precision.
         return equals + (kind == NumberKind::Single ? u"CAST(%1 AS REAL)"_s.arg(number) : number);
     case Engine::SQLite:
         if (kind == NumberKind::Currency)
@@ -49,7 +49,7 @@ QString showsNumber(Engine engine, const QString &field, NumberKind kind, const 
     }
 }
 
-// 9 and 9.0 look alike, and SQLite computes either.
+// 9 and 9.0 look the same, and SQLite can compute either.
 QString showsComputedNumber(Engine engine, const QString &field, const QString &number)
 {
     return engine == Engine::SQLite ? u"(%1 = %2 OR %1 like '%2')"_s.arg(field, number) : QString();

@@ -4,19 +4,19 @@
 
 #include <QtCore/QString>
 
-// Conditions that find the number which a cell shows, on an engine that is known.
+// Conditions that find the number shown in a cell, for a known engine.
 namespace KOVAVSFDataGridLib {
 
-// What a field of numbers holds, as far as engines compare it differently.
+// The kinds of number fields that engines compare differently.
 enum class NumberKind { Exact, Currency, Single, Double };
 
-// A computed number or a fraction hardly ever is exactly what is shown, so that all numbers count that are
-// shown so.
+// Computed numbers and fractions are rarely exactly what is shown, so the condition matches all numbers that
+// are shown like this.
 QString showsNumber(Engine engine, const QString &field, NumberKind kind, const QString &number,
                     bool isComputed);
 
-// A computed field of any type that shows this number. Empty for an engine on which a computed field has one
-// type for all its values.
+// The same for a computed field of any type. Empty for an engine on which all values of a computed field have
+// the same type.
 QString showsComputedNumber(Engine engine, const QString &field, const QString &number);
 
 } // namespace KOVAVSFDataGridLib

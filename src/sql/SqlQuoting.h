@@ -2,10 +2,10 @@
 
 namespace KOVAVSFDataGridLib {
 
-// How a MySQL server reads texts and names, which its sql_mode changes.
+// How a MySQL server reads strings and names; depends on its sql_mode.
 struct SqlQuoting
 {
-    bool backslashEscapes = true; // not with NO_BACKSLASH_ESCAPES
+    bool backslashEscapes = true; // false with NO_BACKSLASH_ESCAPES
     bool ansiQuotes = false;      // "…" is a name
     bool brackets = false;        // […] is a name
 

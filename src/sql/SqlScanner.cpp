@@ -8,7 +8,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// Engines take whatever is not ASCII for part of a name.
+// Engines treat every non-ASCII character as part of a name.
 bool isWordPart(QChar c)
 {
     return c.isLetterOrNumber() || c == u'_' || c == u'$' || c.unicode() >= 0x80;
@@ -19,7 +19,7 @@ bool isLineEndOfUnicode(QChar c)
     return c.unicode() == 0x85 || c.unicode() == 0x2028 || c.unicode() == 0x2029;
 }
 
-// A control character that is no plain blank, or what some engine takes for the end of a line.
+// A control character that is not a common blank, or a character that some engine reads as a line end.
 bool isStray(QChar c)
 {
     const bool isPlain = c == u'\t' || c == u'\n' || c == u'\r';
@@ -69,7 +69,7 @@ void SqlScanner::markStray(qsizetype place)
         m_stray = place;
 }
 
-// Looks at what is no text and no quoted name.
+// Checks text outside strings and quoted names.
 void SqlScanner::findStray(qsizetype from, qsizetype end)
 {
     for (qsizetype i = from; i < end && m_stray < 0; ++i) {
@@ -80,7 +80,7 @@ void SqlScanner::findStray(qsizetype from, qsizetype end)
 
 bool SqlScanner::isBlank(QChar c) const
 {
-    // SQL Server alone takes Unicode's blanks for blanks.
+    // Only SQL Server treats Unicode blanks as blanks.
     return c.isSpace() && (c.unicode() < 0x80 || m_dialect == SqlDialect::SqlServer);
 }
 
@@ -96,7 +96,7 @@ void SqlScanner::scan()
         }
         if (const qsizetype behind = skipComment(i); behind > i) {
             findStray(i, behind);
-            // Where the comment ends at a carriage return it is known; elsewhere an engine may think so.
+            // A carriage return that does not end the comment here may end it for an engine.
             const qsizetype lone = m_sql.indexOf(u'\r', i);
             const bool isLine = c != u'/';
             if (isLine && lone >= 0 && lone < behind && lone + 1 < m_sql.size() &&
@@ -135,7 +135,7 @@ void SqlScanner::scan()
         const bool isQuoted = kind == SqlToken::Kind::String || kind == SqlToken::Kind::QuotedName;
         if (!isQuoted)
             findStray(i, end);
-        // PostgreSQL joins them, and reads the second one's backslashes as the first one's.
+        // PostgreSQL joins adjacent strings, and reads backslashes in the second like those in the first.
         if (kind == SqlToken::Kind::String && m_dialect == SqlDialect::PostgreSql && !m_tokens.empty() &&
             m_tokens.back().kind == SqlToken::Kind::String &&
             QStringView(m_sql).sliced(m_tokens.back().start, end - m_tokens.back().start).contains(u'\\'))
@@ -147,7 +147,7 @@ void SqlScanner::scan()
     }
 }
 
-// PostgreSQL's square brackets hold subscripts and lists.
+// PostgreSQL's square brackets contain subscripts and lists.
 bool SqlScanner::opensBracket(QChar c) const
 {
     return c == u'(' || (c == u'[' && m_dialect == SqlDialect::PostgreSql);
@@ -157,7 +157,7 @@ qsizetype SqlScanner::skipComment(qsizetype from) const
 {
     const QStringView rest = QStringView(m_sql).sliced(from);
     const bool mySql = m_dialect == SqlDialect::MySql;
-    // To MySQL two dashes are a comment only with a blank behind them.
+    // In MySQL, two dashes begin a comment only if a blank follows.
     const bool dashes =
         rest.startsWith("--"_L1) &&
         (!mySql || rest.size() == 2 || rest.at(2).unicode() <= 0x20 || rest.at(2).unicode() == 0x7f);
@@ -177,8 +177,8 @@ qsizetype SqlScanner::endOfLineComment(qsizetype from) const
     return m_sql.size();
 }
 
-// MySQL runs what is in a comment with an exclamation mark, unless a number in front asks for a later
-// version. `from` where none begins.
+// MySQL runs the text of a comment that begins with an exclamation mark, unless a number after it requires a
+// later version. Returns `from` if there is none.
 qsizetype SqlScanner::endOfVersionComment(qsizetype from) const
 {
     const QStringView rest = QStringView(m_sql).sliced(from);
@@ -227,7 +227,7 @@ bool SqlScanner::hasBackslashEscapes(qsizetype quote) const
         const QChar c = m_sql.at(quote);
         return m_quoting.backslashEscapes && (c == u'\'' || (c == u'"' && !m_quoting.ansiQuotes));
     }
-    // E'…', the E being a word of its own.
+    // E'…', where the E must be a separate word.
     return m_dialect == SqlDialect::PostgreSql && m_sql.at(quote) == u'\'' && quote > 0 &&
            m_sql.at(quote - 1).toUpper() == u'E' && (quote == 1 || !isWordPart(m_sql.at(quote - 2)));
 }
@@ -251,7 +251,7 @@ qsizetype SqlScanner::endOfQuoted(qsizetype from, QChar close) const
     return m_sql.size();
 }
 
-// $$…$$ or $tag$…$tag$; `from` where none begins.
+// $$…$$ or $tag$…$tag$; returns `from` if there is none.
 qsizetype SqlScanner::endOfDollarQuoted(qsizetype from) const
 {
     if (m_dialect != SqlDialect::PostgreSql || m_sql.at(from) != u'$')

@@ -16,50 +16,50 @@ struct SqlToken
     Kind kind;
     qsizetype start; // in the scanned text
     qsizetype length;
-    // How many parentheses are open around it, and to PostgreSQL square brackets; one itself is outside.
+    // The number of open parentheses (and PostgreSQL's square brackets) around it. A bracket is outside.
     int depth;
 
     qsizetype end() const { return start + length; }
 };
 
-// What a quote or a comment is. Standard is SQLite's reading of it.
+// The syntax of quotes and comments. Standard is SQLite's.
 enum class SqlDialect { Standard, PostgreSql, MySql, SqlServer };
 
 struct Dialect;
 
-// A statement cut into tokens: comments and blanks are left out; quoted names ("a", [a], `a`) and strings are
-// one token each, with their quotes. A quote or comment that is not closed reaches to the end. Knows no
-// grammar.
+// Splits a statement into tokens. Comments and blanks are skipped. Quoted names ("a", [a], `a`) and strings
+// are one token each, including their quotes. An unclosed quote or comment extends to the end. It has no
+// knowledge of grammar.
 class SqlScanner
 {
 public:
     explicit SqlScanner(QString sql, SqlDialect dialect = SqlDialect::Standard,
                         const SqlQuoting &quoting = {});
-    // As the dialect reads it, but for brackets, which MySQL's names have here too: names are written so
-    // until the engine is known.
+    // Uses the dialect's syntax, except that MySQL names can be in brackets here, because names are written
+    // so until the engine is known.
     SqlScanner(QString sql, const Dialect &dialect);
 
     const QString &sql() const { return m_sql; }
-    // Without the semicolon that ends it and the comments after it, in which a driver may see statements.
+    // Without the final semicolon and the comments after it, which a driver may take for statements.
     QString withoutSemicolon() const;
     SqlDialect dialect() const { return m_dialect; }
-    // Where the statement first holds something by which engines, or an engine and its driver, could come to
-    // read it in two ways; -1 when nowhere: a control character or a line end of Unicode's own outside texts
-    // and quoted names, a zero anywhere, a carriage return alone in a comment that ends with the line, a
-    // quote within what MySQL runs or skips depending on its version, and texts one after the other of which
-    // one holds a backslash.
+    // The first position that engines, or an engine and its driver, could read
+    // in different ways; -1 if there is none. These are: a control character or
+    // a Unicode line end outside strings and quoted names, a zero character
+    // anywhere, a lone carriage return in a line comment, a quote inside a MySQL
+    // version comment, and adjacent strings of which one contains a backslash.
     qsizetype strayCharacter() const { return m_stray; }
-    // Whether a comment that ends with its line is at the very end, and would swallow what is added there.
+    // Whether the text ends in a line comment, which would include anything appended.
     bool endsInLineComment() const { return m_endsInLineComment; }
     qsizetype count() const { return static_cast<qsizetype>(m_tokens.size()); }
     const SqlToken &at(qsizetype index) const { return m_tokens[static_cast<std::size_t>(index)]; }
     QStringView text(qsizetype index) const;
 
-    // False for any index outside the statement, so that callers can look ahead freely.
-    bool isWord(qsizetype index, QStringView word) const; // in any letter case
+    // These return false for any index outside the statement, so that callers can look ahead freely.
+    bool isWord(qsizetype index, QStringView word) const; // in any case
     bool isSymbol(qsizetype index, QChar symbol) const;
     bool isName(qsizetype index) const;  // a word or a quoted name
-    QString name(qsizetype index) const; // without its quotes
+    QString name(qsizetype index) const; // without quotes
 
 private:
     void scan();

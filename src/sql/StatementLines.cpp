@@ -11,7 +11,7 @@ bool isBreak(QChar c)
     return c == u'\n' || c == u'\r' || c == u'\t';
 }
 
-// Up to and with the character that closes what the first one opens; all of it where none does.
+// Up to and including the character that closes the first one; the whole text if there is none.
 qsizetype sizeUpTo(QStringView text, QChar closing)
 {
     const auto end = text.indexOf(closing, 1);
@@ -24,9 +24,9 @@ qsizetype sizeOfBlockComment(QStringView text)
     return end < 0 ? text.size() : end + 2;
 }
 
-// Whether only the engine can say what follows: a number sign begins a comment, a date or an operator, two
-// dashes without a blank after them can be two operators, a backslash can keep a quote from closing a text,
-// comments can contain comments, and a dollar sign can begin a text.
+// Whether only the engine can tell what follows: # begins a comment, a date or an operator; -- without a
+// blank after it can be two operators; a backslash can escape a quote; comments can be nested; $ can begin a
+// string.
 bool isReadInSeveralWays(QStringView rest)
 {
     const QChar c = rest.front();
@@ -66,7 +66,7 @@ QString joinStatementLines(const QString &statement)
             i += size;
             quotedEnd = joined.size();
         } else if (QStringView(statement).mid(i).startsWith(u"/*")) {
-            // Kept, because some engines read hints in it; quotes and dashes mean nothing there.
+            // Kept, because some engines read hints in it. Quotes and dashes have no meaning inside.
             const auto size = sizeOfBlockComment(QStringView(statement).sliced(i));
             for (const QChar part : QStringView(statement).mid(i, size))
                 joined += isBreak(part) ? QChar(u' ') : part;

@@ -4,13 +4,13 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The text with each run of line breaks and tabs (and the blanks around them) as one blank, so that the
-// keywords of a statement written over several lines are found. Quoted and bracketed text stays as it is. A
-// "--" comment is dropped up to its line's end: on one line it would swallow the rest of the statement. A
-// block comment stays.
-// So is a ";" at the very end, which would come to stand in the middle of a derived statement.
-// From the first place on that engines read in different ways ("#", "--" without a blank, a backslash before
-// a quote, …), the text stays as it is.
+// Replaces each run of line breaks and tabs (and the blanks around them) with one
+// blank, so that keywords are found in a statement written over several lines. Quoted
+// and bracketed text is not changed. A "--" comment is removed up to the end of its
+// line, because on a single line it would include the rest of the statement. A block
+// comment is kept. A ";" at the very end is removed, because it would be in the middle
+// of a derived statement. From the first position that engines read in different ways
+// ("#", "--" without a blank, a backslash before a quote, …), the text is not changed.
 QString joinStatementLines(const QString &statement);
 
 } // namespace KOVAVSFDataGridLib

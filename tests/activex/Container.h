@@ -17,7 +17,7 @@ struct Event
 };
 
 // A plain ActiveX container: one control in one window. It is its own site, frame, ambient properties and
-// listener.
+// event listener.
 class Container final : public IOleClientSite,
                         public IOleInPlaceSite,
                         public IOleInPlaceFrame,
@@ -26,7 +26,7 @@ class Container final : public IOleClientSite,
                         public IDispatch
 {
 public:
-    // Makes the control by its ProgID and brings it to life in a new window of this client size.
+    // Creates the control by its ProgID and activates it in a new window of this client size.
     Container(int width, int height, bool userMode = true);
     ~Container();
 
@@ -41,15 +41,15 @@ public:
     HWND window() const { return m_window; }
     HWND controlWindow() const;
     HRESULT doVerb(LONG verb);
-    // Gives everything back; true when the control was gone with the last reference.
+    // Releases everything; returns true if the control was destroyed with the last reference.
     bool release();
 
     void setUserMode(bool on);
-    // What a handler of QurryFilter writes to Cancel, and its own condition, which it hands to the control.
+    // What a handler of QurryFilter sets Cancel to, and the condition that it passes to the control.
     void answerQurryFilter(long cancel, const wchar_t *condition);
     // Called for every event, after it was noted.
     void onEvent(std::function<void(DISPID)> handler) { m_handler = std::move(handler); }
-    // Called for every property that has changed, after it was noted.
+    // Called for every property change, after it was recorded.
     void onChange(std::function<void(DISPID)> handler) { m_changeHandler = std::move(handler); }
 
     const std::vector<Event> &events() const { return m_events; }
@@ -60,17 +60,17 @@ public:
     bool isModeless() const { return m_isModeless; }
     ULONG references() const { return m_references; }
 
-    // Input as the user gives it, at a point of the control's window.
+    // User input at a point of the control's window.
     void click(int x, int y);
     void doubleClick(int x, int y);
     void key(WORD virtualKey, const std::vector<WORD> &modifiers = {});
-    // What the user does in the modal dialog that the next input opens. Called from that dialog's own loop,
-    // so it may give input but must not wait for it.
+    // The user's action in the modal dialog that the next input opens. It is called from that dialog's own
+    // event loop, so it may send input but must not wait for it.
     static void whenDialogIsOpen(std::function<void()> action);
     static void press(WORD virtualKey, const std::vector<WORD> &modifiers = {});
-    // Runs the message loop until it has been idle for a while, or until `done`.
+    // Runs the message loop until it has been idle for a while, or until `done` returns true.
     void run(const std::function<bool()> &done = {}, DWORD most = 5000);
-    // The container's window with whatever lies over it, and the dialog in front of it as a whole.
+    // A picture of the container's window with everything over it, and of the dialog in front of it.
     bool saveScreen(const std::wstring &file) const;
 
     // IUnknown

@@ -41,7 +41,7 @@ int windowsOfThisThread()
     return count;
 }
 
-// Whether the control takes a key that the container offers it.
+// Whether the control handles a key that the container offers it.
 bool takes(Container &container, WPARAM virtualKey)
 {
     MSG message{container.controlWindow(), WM_KEYDOWN, virtualKey, 1, 0, {}};

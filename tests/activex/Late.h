@@ -54,7 +54,7 @@ struct Answer
 using Object = Microsoft::WRL::ComPtr<IDispatch>;
 
 Answer invoke(const Object &object, const wchar_t *name, WORD flags, std::vector<Value> arguments = {});
-// A property, or what a method answers. A failure ends in an empty value.
+// A property, or the result of a method. Empty if the call fails.
 Value get(const Object &object, const wchar_t *name, std::vector<Value> arguments = {});
 Answer call(const Object &object, const wchar_t *name, std::vector<Value> arguments = {});
 Answer put(const Object &object, const wchar_t *name, Value value);

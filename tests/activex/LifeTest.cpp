@@ -16,7 +16,7 @@ CLSID controlId()
     return id;
 }
 
-// An object that offers the control's interfaces as its own.
+// An object that aggregates the control.
 class Aggregating final : public IUnknown
 {
 public:

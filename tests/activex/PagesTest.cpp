@@ -45,7 +45,7 @@ bool liesInItsParent(HWND window)
     return IntersectRect(&both, &place, &room) && EqualRect(&both, &place);
 }
 
-// Whether nothing is cut off at the right: what a page shows ends before its last pixel.
+// Whether nothing is clipped at the right: the last column of pixels is empty.
 bool rightEdgeIsFree(HWND window)
 {
     RECT place{};

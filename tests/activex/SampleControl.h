@@ -2,7 +2,7 @@
 
 #include "Late.h"
 
-// A control without a container, as a script makes it: by its ProgID.
+// A control without a container, created by its ProgID as in a script.
 Late::Object newControl();
 // One that has loaded all columns of the sample file, three records.
 Late::Object loadedControl();

@@ -16,6 +16,6 @@ inline constexpr int panelY = 485;
 
 // Shows the three people of the sample file.
 void load(Container &container);
-// Saves what the screen shows of the container in the folder that the environment variable KOVA_PICTURES
-// names; does nothing without one.
+// Saves a screenshot of the container in the folder that the environment variable KOVA_PICTURES names; does
+// nothing if that is not set.
 void picture(const Container &container, const wchar_t *name);

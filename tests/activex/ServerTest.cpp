@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-// The server as a file: its exported functions. These tests need a process in which there was no control yet
-// (packaging/windows/test gives them one), because Qt stays once it is there.
+// The exported functions of the server file. These tests need a process without any control so far
+// (packaging/windows/test starts them so), because Qt is never unloaded.
 
 namespace {
 
@@ -16,7 +16,7 @@ class Server : public testing::Test
 {
 protected:
     Server() : m_module(LoadLibraryExW(L"KOVAVSFDataGridLib.ocx", nullptr, LOAD_WITH_ALTERED_SEARCH_PATH)) {}
-    // However a test ends, the others find the control registered.
+    // However a test ends, the control is registered for the others.
     ~Server() override { call("DllRegisterServer"); }
 
     template<typename... Arguments>
@@ -43,8 +43,8 @@ bool hasProgId(HKEY root)
     return true;
 }
 
-// While this lives, only administrators may write the classes of everybody, as on Windows; Wine lets
-// everybody.
+// While this exists, only administrators can write machine-wide registrations, as on Windows; Wine allows it
+// to everybody.
 class ProtectedClasses
 {
 public:
@@ -74,7 +74,7 @@ private:
     std::vector<char> m_before;
 };
 
-// While this lives, the thread is one of a user who is no administrator.
+// While this exists, the thread runs as a user who is not an administrator.
 class WithoutRights
 {
 public:

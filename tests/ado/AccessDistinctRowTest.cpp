@@ -1,5 +1,5 @@
-// DISTINCTROW over written files: each record of the tables that are shown, once, even where others look
-// alike.
+// DISTINCTROW with generated files: each record of the shown tables exactly once, even if records look the
+// same.
 #include "AccessSamples.h"
 #include "Throwing.h"
 
@@ -30,7 +30,7 @@ struct DistinctRowCase
 {
     const char *name;
     QString statement;
-    QString rows; // columns parted by |, records by blanks; empty where it is refused
+    QString rows; // columns separated by |, records by blanks; empty if it is refused
 };
 
 class AccessDistinctRows : public testing::TestWithParam<DistinctRowCase>
@@ -54,7 +54,7 @@ TEST_P(AccessDistinctRows, AreThoseOfTheTablesShown)
 INSTANTIATE_TEST_SUITE_P(
     , AccessDistinctRows,
     testing::Values(
-        // Two customers look alike, and both are there; each of them once.
+        // Two customers look the same; each of them is returned once.
         DistinctRowCase{"FieldsOfOneTable",
                         u"SELECT DISTINCTROW Cust.Name FROM Cust INNER JOIN Ord ON Cust.ID = Ord.Cust"
                         " ORDER BY Cust.Name"_s,
@@ -82,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(
             "Inside",
             u"SELECT COUNT(*) FROM (SELECT DISTINCTROW c.Name FROM Cust c, Ord o WHERE c.ID = o.Cust) q"_s,
             u"3"_s},
-        // Nothing is left out where all tables are shown, or where there is one.
+        // No rows are omitted if all tables are shown, or if there is only one.
         DistinctRowCase{"OneTable", u"SELECT DISTINCTROW Name FROM Cust ORDER BY ID"_s, u"anna bob anna"_s},
         DistinctRowCase{
             "AllTables",

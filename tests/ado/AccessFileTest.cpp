@@ -1,4 +1,4 @@
-// Which files are opened, and what becomes of those that are no Access files or damaged ones.
+// Which files can be opened, and the errors for files that are not Access files or damaged.
 #include "AccessSamples.h"
 #include "Throwing.h"
 
@@ -36,7 +36,7 @@ void open(const QString &connectionString)
     Connection().Open(connectionString);
 }
 
-// Reads every table and view; whatever is wrong with the file, it is either read or refused with a message.
+// Reads every table and view; a damaged file must either be read or refused with a message.
 void readAll(const QString &path, int &refused)
 {
     try {
@@ -132,7 +132,7 @@ TEST_P(DamagedAccessFileTest, CutOffFilesAreRefused)
         SCOPED_TRACE(size);
         EXPECT_ADO_ERROR(adErrOpeningFile, openAccess(path));
     }
-    // At the end of a page nothing tells at once that more is missing.
+    // At the end of a page it is not immediately evident that the rest is missing.
     int refused = 0;
     for (qsizetype size = 4096; size < whole.size(); size += (whole.size() / 12 / 4096 + 1) * 4096)
         readAll(write(whole.first(size), u"cut.mdb"_s), refused);
@@ -146,7 +146,7 @@ TEST_P(DamagedAccessFileTest, WrongBytesDoNoHarm)
     int refused = 0;
     for (int round = 0; round < rounds; ++round) {
         QByteArray bytes = whole;
-        // Some anywhere, some close together where a page has its numbers.
+        // Some at random positions, some close together where a page has its numbers.
         const qsizetype page = random.bounded(static_cast<int>(bytes.size() / 2048)) * 2048;
         for (int i = 0; i < 20; ++i) {
             bytes[random.bounded(static_cast<int>(bytes.size() - 128)) + 128] =

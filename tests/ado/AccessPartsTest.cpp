@@ -1,4 +1,4 @@
-// How single values, rows and pages are read from bytes, as the format has them.
+// Reading single values, rows and pages from bytes of the file format.
 #include "AccessSamples.h"
 #include "Throwing.h"
 
@@ -26,7 +26,7 @@ QByteArray bytesOf(Number number)
     return bytes;
 }
 
-// Kind and value in one text, so that 1, '1' and 1.0 are told apart.
+// Kind and value as one text, so that 1, '1' and 1.0 are different.
 QByteArray described(const RawValue &value)
 {
     switch (value.kind) {
@@ -225,7 +225,7 @@ TEST(AccessPatternTest, AdoHasPercentAndUnderline)
     EXPECT_TRUE(isLike("50%", "50!%", U'!'));
     EXPECT_FALSE(isLike("500", "50!%", U'!'));
     EXPECT_TRUE(isLike("[a]", "[a]", 0));
-    // Takes no time although each % could stand for anything.
+    // Takes no time, although each % could match anything.
     EXPECT_FALSE(isLike(QByteArray(20000, 'a'), "%a%a%a%a%a%a%a%a%a%a%b", 0));
 }
 

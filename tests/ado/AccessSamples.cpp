@@ -12,7 +12,7 @@ namespace AdoTest {
 
 namespace {
 
-// A table with every type that mdb-export prints as it is, and one whose definition is longer than a page.
+// A table with every type that mdb-export prints unchanged, and one whose definition is longer than a page.
 QByteArray writeSample()
 {
     using enum ADODB::AccessType;

@@ -37,7 +37,7 @@ QString textOf(const Recordset &recordset, qint64 record, int column)
     if (type == adLongVarBinary || type == adVarBinary)
         return QString::fromLatin1(value.toByteArray().toHex().toUpper());
     QString text = recordset.CellText(record, column);
-    // mdb-export counts the text of a GUID among the bytes, and leaves its last dash out.
+    // mdb-export counts the characters of a GUID as bytes, and omits its last dash.
     constexpr qsizetype lastDash = 24;
     return type == adGUID && !text.isEmpty()
                ? QString::fromLatin1(text.remove(lastDash, 1).toLatin1().toHex().toUpper())

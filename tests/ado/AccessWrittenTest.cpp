@@ -1,4 +1,4 @@
-// Files that are made for one test each: what the samples have none of.
+// Files generated for one test each, for what the samples don't contain.
 #include "AccessSamples.h"
 #include "Printing.h"
 #include "Throwing.h"

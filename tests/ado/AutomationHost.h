@@ -22,7 +22,7 @@ inline qint32 number(ADODB::ErrorValueEnum error)
     return ADODB::Error::hresult(error);
 }
 
-// A result as a script has it: an object with names, and the errors that its calls raised.
+// A result as a script sees it: an object with names, and the errors of its calls.
 class AutomationHost : public testing::Test
 {
 protected:
@@ -47,7 +47,7 @@ protected:
         QMetaObject::invokeMethod(object, "Fields", Q_RETURN_ARG(QObject *, found), Q_ARG(QString, field));
         return found ? found->property("Value") : QVariant();
     }
-    // The ids that a walk from the first to the last record meets.
+    // The ids of all records from the first to the last.
     static QString walked(QObject *object)
     {
         QStringList ids;

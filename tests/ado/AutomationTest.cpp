@@ -20,7 +20,7 @@ namespace {
 const QString script = u"CREATE TABLE t(id INTEGER PRIMARY KEY, 名称 TEXT, p BLOB);"
                        "INSERT INTO t VALUES (1, '甲', x'ff00'), (2, NULL, NULL), (3, '丙', NULL);"_s;
 
-// From here on nothing is known of the objects but names, as in a script.
+// From here on only names are used, as in a script.
 QVariant get(QObject *object, const char *name)
 {
     EXPECT_GE(object->metaObject()->indexOfProperty(name), 0) << name;
@@ -267,7 +267,7 @@ TEST(Automation, LivesAsLongAsTheRecordset)
 
 TEST(Automation, TellsNothingOfAnObjectThatItsCallerDeleted)
 {
-    // Stands for any object whose call tells someone, who deletes it, and then fails.
+    // An object whose call notifies somebody who deletes it, and then fails.
     auto *object = new ADODB::StreamObject;
     int told = 0;
     QObject::connect(object, &ADODB::StreamObject::HostError, [&] { ++told; });

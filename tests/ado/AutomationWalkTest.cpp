@@ -108,7 +108,7 @@ TEST_F(AutomationWalk, PositionsAreThoseOfTheVisitedRecords)
     EXPECT_EQ(value(host, u"id"_s), QVariant(4));
     call("MovePrevious");
     EXPECT_TRUE(get("BOF").toBool());
-    // The user's grid stands elsewhere: on a record that is not visited.
+    // The user's grid is on another record, which is not visited.
     put("Sort", u""_s);
     recordset->PutAbsolutePosition(2);
     EXPECT_EQ(get("AbsolutePosition"), QVariant(-1));

@@ -69,7 +69,7 @@ TEST(ConnectionString, WritesWhatItReads)
         EXPECT_EQ(read.value(u"key%1"_s.arg(i)), values[i]);
 }
 
-// What goes by another name may stand between them, and the later one of both is to be seen.
+// Between them there may be a synonym, and the later one of both must be used.
 TEST(ConnectionString, PutsAKeywordWhereItOccursLast)
 {
     EXPECT_EQ(ConnectionString(u"Server=a;Data Source=b;SERVER=c"_s).text(), u"Data Source=b;SERVER=c"_s);

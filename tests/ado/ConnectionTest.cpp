@@ -73,7 +73,7 @@ TEST(Connection, NamesAMissingFileAndMakesNone)
 }
 
 #ifdef Q_OS_UNIX
-// Nobody ever writes to the pipe, so opening it would wait for ever.
+// Nobody ever writes to the pipe, so opening it would block forever.
 TEST(Connection, RefusesPipesAndDevicesAtOnce)
 {
     const TestDatabase database;
@@ -105,7 +105,7 @@ TEST(Connection, RefusesAPipeThatSQLiteWouldReadBesideTheFile)
 
 TEST(Connection, ReadsNothingOfWhatOnlyLooksLikeAFile)
 {
-    Connection connection; // reading this one as root waits for the kernel to say something
+    Connection connection; // as root, reading this file waits for a kernel message
     EXPECT_THROW(connection.Open(u"Provider=SQLite;Data Source=/proc/kmsg"_s), Error);
 }
 #endif

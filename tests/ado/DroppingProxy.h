@@ -8,8 +8,8 @@
 
 namespace AdoTest {
 
-// Stands between clients and a server on the loopback interface, and ends a connection when its client sends
-// a word that it waits for. Unix only.
+// A proxy between clients and a server on the loopback interface, which drops a connection when its client
+// sends a certain word. Unix only.
 class DroppingProxy
 {
 public:
@@ -19,11 +19,11 @@ public:
     Q_DISABLE_COPY_MOVE(DroppingProxy)
 
     int port() const { return m_proxy.port(); }
-    // From now on it waits for these words, in capital letters.
+    // From now on it waits for these words, in upper case.
     void dropAt(const QByteArray &words, When when);
     void dropAtCommit(When when) { dropAt("COMMIT", when); }
     bool hasDropped() const { return m_dropped; }
-    // Whether it lets nobody through either, from the next time it ends a connection on.
+    // Whether it also refuses new connections after it has next dropped one.
     void setStaysAway(bool stays);
 
 private:

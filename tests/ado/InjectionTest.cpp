@@ -15,7 +15,7 @@ using namespace ADODB;
 
 namespace {
 
-// What is added to a connection string, so that server or driver read statements in another way.
+// Additions to a connection string that change how the server or driver reads statements.
 const QStringList &modesOf(const QString &engine)
 {
     static const QStringList none{QString()};
@@ -24,7 +24,7 @@ const QStringList &modesOf(const QString &engine)
         u"UseServerSidePrepare=0;ConnSettings={set standard_conforming_strings=off}"_s,
         u"UseServerSidePrepare=1;ConnSettings={set standard_conforming_strings=off}"_s,
         u"UseServerSidePrepare=0;UseDeclareFetch=0"_s};
-    // Bit 26 of the options lets several statements through.
+    // Bit 26 of the options allows several statements.
     static const QStringList mariaDb{
         QString(),
         u"OPTION=67108864"_s,
@@ -36,7 +36,7 @@ const QStringList &modesOf(const QString &engine)
     return engine == "PostgreSQL"_L1 ? postgreSql : engine == "MariaDB"_L1 ? mariaDb : none;
 }
 
-// Each hides a second statement, in some engine's reading, from somebody who reads it in another way.
+// Each hides a second statement, for some engine, from a reader with other rules.
 const QStringList &attacks()
 {
     static const QString change = u"commit; delete from kova_a; commit"_s;
@@ -129,7 +129,7 @@ protected:
     std::shared_ptr<Connection> connectWith(const QString &mode) const
     {
         auto connection = std::make_shared<Connection>();
-        // What is said first counts.
+        // The first value is used.
         connection->Open(mode.isEmpty() ? connectionString() : mode + u';' + connectionString());
         return connection;
     }
@@ -175,7 +175,7 @@ TEST_P(Injection, RefusesAStatementAfterACarriageReturnEverywhere)
     EXPECT_EQ(content(), u"2/a/b"_s);
 }
 
-// The statements that everybody writes still work, with backslashes, brackets and comments in them.
+// Common statements still work, with backslashes, brackets and comments in them.
 TEST_P(Injection, LetsHarmlessTextsThrough)
 {
     for (const QString &mode : modesOf(QString::fromLatin1(GetParam().name))) {
@@ -185,7 +185,7 @@ TEST_P(Injection, LetsHarmlessTextsThrough)
               u"select id /* a;b */\r\nfrom kova_a;\r\n"_s, u"select id, 'C:\\dir' as path from kova_a"_s,
               u"select id,\r\n'[x]' as a from kova_a -- c\r\n"_s}) {
             if (is("SQLite") && sql.contains(u"a;b"))
-                continue; // its driver takes a semicolon in a comment for the end
+                continue; // its driver ends the comment at a semicolon
             SCOPED_TRACE((mode + u" | "_s + sql).toStdString());
             EXPECT_NO_THROW(EXPECT_EQ(open(sql, connection)->RecordCount(), 2));
         }

@@ -1,4 +1,4 @@
-// Where connections lead while a middle tier stands before the database.
+// The target of connections when there is a middle tier between them and the database.
 #include "TestDatabase.h"
 #include "Throwing.h"
 
@@ -41,12 +41,12 @@ const RewriteCase rewriteCases[] = {
     {{u"tier"_s, {}, {}},
      u"Provider=MSOLEDBSQL;Server=db;Network Address=10.0.0.7"_s,
      u"Provider=MSOLEDBSQL;Server=tier"_s},
-    // Its data source is a name of the client's own, not a server.
+    // The data source is a name on the client, not a server.
     {{u"tier"_s, {}, {}}, u"Provider=MSDAORA;Data Source=orcl"_s, u"Provider=MSDAORA;Data Source=orcl"_s},
     // A file has no server.
     {{u"tier"_s, u"1"_s, {}}, u"Provider=SQLite;Data Source=a.db"_s, u"Provider=SQLite;Data Source=a.db"_s},
     {{}, u"Driver={X};Server=db"_s, u"Driver=X;Server=db"_s},
-    // A whole text, which may leave out who connects.
+    // A complete connection string, which may omit the user.
     {{u"unused"_s, u"1"_s, u"DSN=pool"_s}, u"DSN=prod;UID=me;PWD=secret"_s, u"DSN=pool;UID=me;PWD=secret"_s},
     {{{}, {}, u"DSN=pool;User ID=it;Password=own"_s},
      u"DSN=prod;UID=me;PWD=secret"_s,
@@ -58,7 +58,7 @@ class ThreeTierFactory : public testing::Test
 protected:
     ~ThreeTierFactory() override { ConnectionFactory::setInstance(nullptr); }
 
-    // The first field of the first row behind the connection.
+    // The first field of the first row, read through the connection.
     static QString ask(const std::shared_ptr<Connection> &connection)
     {
         Recordset recordset;

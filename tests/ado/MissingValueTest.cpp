@@ -1,4 +1,4 @@
-// A record that a database refuses because a field has no value: the user reads which one.
+// A database refuses a record because a field has no value: the user is told which one.
 #include "TestDatabase.h"
 #include "Throwing.h"
 

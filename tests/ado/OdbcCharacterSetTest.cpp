@@ -1,4 +1,4 @@
-// What is sent to a server arrives as the characters that it was.
+// Characters sent to a server must arrive unchanged.
 #include "OdbcEngines.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -39,7 +39,7 @@ TEST_P(CharacterSet, IsUnicodeWhateverTheConnectionStringOrTheSessionSays)
     }
 }
 
-// Of all sessions of a login, not of the first alone.
+// In all sessions of a login, not only in the first one.
 TEST_P(CharacterSet, IsUnicodeInTheSessionThatReplacesALostOne)
 {
     const auto connection = std::make_shared<Connection>();

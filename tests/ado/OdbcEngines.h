@@ -11,15 +11,15 @@
 
 namespace AdoTest {
 
-// One database behind ODBC. SQLite's driver needs no server; the others are where the environment says.
+// A database accessed through ODBC. SQLite's driver needs no server; the environment names the others.
 struct OdbcEngineCase
 {
     const char *name;
     const char *variable; // holds the connection string; null for SQLite
     const char *integerKey;
     const char *timestamp;
-    const char *endless;     // a statement that runs for minutes before it gives its row
-    const char *endlessRows; // one that gives row after row for as long
+    const char *endless;     // a statement that runs for minutes before it returns its row
+    const char *endlessRows; // one that returns rows for as long
 };
 
 inline constexpr OdbcEngineCase odbcEngines[] = {
@@ -35,8 +35,8 @@ inline constexpr OdbcEngineCase odbcEngines[] = {
 
 void PrintTo(const OdbcEngineCase &engine, std::ostream *out);
 
-// A test over an engine, skipped where that is not at hand. The tables kova_a and kova_b and the view kova_v
-// are the test's own.
+// A test on an engine, skipped if that is not available. The tables kova_a and kova_b and the view kova_v
+// belong to the test.
 class OnOdbc : public testing::TestWithParam<OdbcEngineCase>
 {
 protected:
@@ -45,8 +45,8 @@ protected:
 
     bool is(const char *name) const { return qstrcmp(GetParam().name, name) == 0; }
     QString connectionString() const { return m_text; }
-    // Both past the code under test, with ODBC's own calls. ask() answers the first value of the first row,
-    // empty when there is none.
+    // These use ODBC directly, not the code under test. ask() returns the first value of the first row, or an
+    // empty text.
     void execute(const QString &sql) const;
     QString ask(const QString &sql) const;
 

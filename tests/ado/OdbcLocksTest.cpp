@@ -30,7 +30,7 @@ protected:
         other.reset();
         OnOdbc::TearDown();
     }
-    // So that nobody can read it either.
+    // Locks it for readers too.
     void holdTable()
     {
         other->run(is("MariaDB") ? QStringList{u"LOCK TABLES kova_a WRITE"_s}

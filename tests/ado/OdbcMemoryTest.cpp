@@ -1,4 +1,4 @@
-// What a large result takes besides the recordset's own copy of it.
+// The memory that a large result needs in addition to the recordset's own copy.
 #include "OdbcEngines.h"
 
 #include <QtCore/QFile>
@@ -15,7 +15,7 @@ namespace {
 constexpr qint64 miB = qint64{1} << 20;
 constexpr int records = 300'000;
 
-// Memory of this process, in miB; 0 where that can't be told. `what` is VmRSS for now, VmHWM for at most.
+// Memory of this process in MiB; 0 if unknown. `what` is VmRSS for the current value, VmHWM for the peak.
 qint64 memory(const char *what)
 {
     QFile file(u"/proc/self/status"_s);
@@ -28,7 +28,7 @@ qint64 memory(const char *what)
     return 0;
 }
 
-// What was freed but is held for later would count as taken.
+// Freed memory that the allocator keeps would be measured too.
 void giveBackFreed()
 {
 #ifdef __GLIBC__

@@ -1,4 +1,4 @@
-// Who gets which session of a server: connections of one login share them, one command at a time.
+// Who gets which server session: connections of one login share them, for one command at a time.
 #include "OdbcEngines.h"
 #include "TestDatabase.h"
 #include "Throwing.h"
@@ -59,7 +59,7 @@ TEST_P(OdbcPools, EndTheirSessionsWithTheLastConnection)
     EXPECT_NE(sessionOf(later), session);
 }
 
-// Of a transaction that has only read, MariaDB does not tell that it is open.
+// MariaDB does not report that a transaction is open if that has only read.
 TEST_P(OdbcPools, LeaveATransactionOpenBetweenTheStatementsOfOneCommandOnly)
 {
     makeTable();
@@ -166,7 +166,7 @@ TEST_P(OdbcPools, SeeThatATableHasOtherColumnsOrAnotherKey)
     recordset->Update();
     EXPECT_EQ(ask(u"SELECT more FROM kova_a WHERE id = 1"_s), u"7"_s);
 
-    // No row but the one that was shown is changed by the key that is none any more.
+    // Only the row that was shown may be changed, even if its key no longer identifies it.
     execute(is("MariaDB") ? u"ALTER TABLE kova_a DROP PRIMARY KEY"_s
                           : u"ALTER TABLE kova_a DROP CONSTRAINT kova_a_pkey"_s);
     execute(u"INSERT INTO kova_a VALUES (1,'other',8)"_s);
@@ -207,7 +207,7 @@ TEST_P(PostgreSqlPlans, AreThoseOfTheWholeResult)
     const QString plain = planOf({}, statement);
     ASSERT_NE(planOf({}, u"DECLARE c CURSOR FOR "_s + statement), plain)
         << "a cursor is planned for its first rows";
-    // What the control's own cursors are opened with.
+    // The options with which the control's own cursors are opened.
     const QString fraction = open(u"SELECT current_setting('cursor_tuple_fraction')"_s)->CellText(1, 0);
     EXPECT_EQ(
         planOf(u"SET LOCAL cursor_tuple_fraction = "_s + fraction, u"DECLARE c CURSOR FOR "_s + statement),

@@ -1,5 +1,5 @@
-// Results of more rows than are fetched at once: all rows come, in order, and nothing that happens between
-// two of them does harm.
+// Results with more rows than are fetched at a time: all rows arrive, in order, and nothing that happens
+// between two fetches does any harm.
 #include "OdbcEngines.h"
 #include "Throwing.h"
 
@@ -47,7 +47,7 @@ TEST_P(OdbcPortions, ComeWhole)
     expectNumbersTo(5002, *open(numbersTo(5002) + u" -- and no more;"_s, connection));
 }
 
-// In the words of PostgreSQL's driver, which connection strings have.
+// By the keyword of PostgreSQL's driver.
 TEST_P(OdbcPortions, HaveTheSizeThatTheConnectionStringSays)
 {
     if (!is("PostgreSQL"))

@@ -148,7 +148,7 @@ TEST_P(OdbcServer, IsClosedOnceTheServerEndedItAndCanBeOpenedAgain)
     EXPECT_EQ(open(u"SELECT 1"_s, connection)->CellText(1, 0), u"1"_s);
 }
 
-// A statement that is prepared anew tells the server to forget what it was; the loss then goes by another
+// Preparing a statement again first deallocates the old one in the server; the loss then has another error
 // number.
 TEST_P(OdbcServer, IsKnownToBeLostByAStatementThatIsPreparedAnew)
 {
@@ -214,7 +214,7 @@ TEST_P(OnPostgreSql, SeesASecondStatementThroughItsOwnQuotes)
     EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s);
 }
 
-// The scanner takes them for part of the text, as servers do unless told otherwise.
+// The scanner treats them as part of the text, as servers do unless configured otherwise.
 TEST_P(OnPostgreSql, ChangesNothingWhereBackslashesEndNoText)
 {
     execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY)"_s);

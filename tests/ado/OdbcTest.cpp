@@ -16,7 +16,7 @@ KOVA_ON_ODBC_ENGINES(OnOdbc);
 
 TEST_P(OnOdbc, ReadsValuesAsTheyAre)
 {
-    // SQLite holds no decimals, and its driver takes no character beyond 65535 within a statement.
+    // SQLite stores no decimals, and its driver accepts no characters above U+FFFF in a statement.
     const QString emoji = is("SQLite") ? u"é"_s : u"😀"_s;
     const QString decimal = is("SQLite") ? u"VARCHAR(60)"_s : u"DECIMAL(38,3)"_s;
     execute(u"CREATE TABLE kova_a(id %1, name VARCHAR(40), price %2, born DATE, seen %3, x REAL)"_s.arg(
@@ -39,7 +39,7 @@ TEST_P(OnOdbc, ReadsValuesAsTheyAre)
     EXPECT_EQ(recordset->Fields().Item(0).Type(), adInteger);
 }
 
-// Lengths around the edges of a block's places, in rows enough for several blocks.
+// Lengths around the limits of a block's places, in enough rows for several blocks.
 TEST_P(OnOdbc, CutsNoTextHoweverLong)
 {
     execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY, t %1)"_s.arg(is("MariaDB") ? u"LONGTEXT"_s

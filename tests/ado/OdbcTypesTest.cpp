@@ -1,4 +1,4 @@
-// The types by which ADO's own bridge to ODBC calls a driver's.
+// The ADO types of a driver's types, as in ADO's own ODBC bridge.
 #include "OdbcEngines.h"
 #include "TestDatabase.h"
 
@@ -24,7 +24,7 @@ TEST(OdbcTypes, AreAdosForEachOfOdbcs)
         int type;
         int unsignedType;
     };
-    // In plain numbers, as both libraries' users know them.
+    // As numbers, which users of both libraries know.
     const Case cases[] = {
         {1, 129, 129},    {12, 200, 200},   {-1, 201, 201},   {-8, 130, 130},   {-9, 202, 202},
         {-10, 203, 203},  {2, 131, 131},    {3, 131, 131},    {-7, 11, 11},     {-6, 16, 17},
@@ -57,7 +57,7 @@ TEST(OdbcTypes, KeepSizesDigitsAndWhatGoesWithThem)
     EXPECT_EQ(fieldOf({SQL_INTEGER, 11, 0, false}).definedSize, 4);
 }
 
-using Column = std::pair<const char *, DataTypeEnum>; // its type in the server's words and in ADO's
+using Column = std::pair<const char *, DataTypeEnum>; // its type in the server's SQL and in ADO
 
 const std::vector<Column> postgreSqlColumns{{"SMALLINT", adSmallInt},
                                             {"INTEGER", adInteger},

@@ -33,7 +33,7 @@ protected:
 
 KOVA_ON_ODBC_ENGINES(WritingOnOdbc);
 
-// Drivers cut it there, some when it is written and others when it is read again.
+// Drivers truncate the text there, some when writing and others when reading.
 TEST_P(WritingOnOdbc, RefusesATextWithU0000)
 {
     const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s);

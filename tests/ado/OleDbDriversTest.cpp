@@ -1,4 +1,4 @@
-// What is said of OLE DB providers' strings that no driver of the system can take.
+// The errors for OLE DB connection strings that no installed driver supports.
 #include "InstalledDrivers.h"
 #include "Throwing.h"
 
@@ -78,7 +78,7 @@ TEST(OleDbDrivers, AreNotGivenWhatNobodyUnderstandsAndItIsNotQuoted)
     }
 }
 
-// A driver manager takes its time for the list.
+// Because a driver manager lists them slowly.
 TEST(OleDbDrivers, AreAskedForOnceAndOnlyWhereOneIsChosen)
 {
     const struct

@@ -1,4 +1,4 @@
-// Connection strings of OLE DB providers in the words of the ODBC drivers that a system has.
+// Connection strings of OLE DB providers, translated to the keywords of the installed ODBC drivers.
 #include "InstalledDrivers.h"
 
 #include "ado/connection/OleDbWords.h"
@@ -63,7 +63,7 @@ TEST(OleDbWords, GoToTheBestDriverOfTheSystem)
         {unusual, given, u"Driver=odbc driver 13 FOR sql server;Server=db"_s},
         {future, given, u"Driver=ODBC Driver 21 for SQL Server;Server=db;Encrypt=No"_s},
         {oldest, given, u"Driver=SQL Native Client;Server=db"_s},
-        // A driver that the string names itself, where it is one for this database.
+        // A driver that the string itself names, if it is one for this database.
         {driver18, given + u";Driver={SQL Server}"_s, u"Driver=SQL Server;Server=db"_s},
         {driver17, given + u";Driver={SQL Server}"_s, u"Driver=ODBC Driver 17 for SQL Server;Server=db"_s},
         {driver18, given + u";Driver={MariaDB Unicode}"_s,
@@ -199,7 +199,7 @@ TEST(OleDbWords, KeepValuesAsTheyAre)
     }
 }
 
-// ADO takes the last of several values for one property, whatever names they go by.
+// ADO uses the last of several values for one property, whatever its keywords.
 TEST(OleDbWords, TakeTheLastOfSeveralValues)
 {
     const QString to17 = u"Driver=ODBC Driver 17 for SQL Server;"_s;

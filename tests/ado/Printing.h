@@ -6,8 +6,8 @@
 
 #include <ostream>
 
-// Lets GoogleTest show what differs. GoogleTest looks for these in the namespace of the type, which is the
-// global one for Qt's classes.
+// Lets GoogleTest print values that differ. GoogleTest looks for these functions in the namespace of the
+// type, which is the global one for Qt's classes.
 inline void PrintTo(const QString &text, std::ostream *out)
 {
     *out << '"' << text.toStdString() << '"';

@@ -1,5 +1,5 @@
-// Changes whose outcome is not known: the answer of the database never came. The next attempt to save them
-// finds out whether they were saved.
+// Changes with an unknown outcome: the database never answered. The next attempt to save them finds out
+// whether they were saved.
 #include "Throwing.h"
 
 #include "ado/rows/RecordEditor.h"
@@ -16,11 +16,11 @@ namespace {
 struct Table
 {
     QString text = u"old"_s;
-    bool isSavedInDoubt = true; // the next update is saved, or not, and then nobody answers
+    bool isSavedInDoubt = true; // whether the next update, which gets no answer, is saved
     bool answers = true;
     bool isDeleted = false;
     int updates = 0; // that were saved
-    int inserts = 0; // likewise
+    int inserts = 0; // see updates
     bool tellsNewRow = true;
 };
 
@@ -205,7 +205,7 @@ TEST_F(EditInDoubt, GivesWayToWhatSomebodyElseWroteSince)
     EXPECT_EQ(table.text, u"theirs"_s);
 }
 
-// Only an attempt whose outcome is not known can have written what is there.
+// Only an attempt with an unknown outcome can have written the existing row.
 TEST_F(EditInDoubt, IsForgottenWithTheEdit)
 {
     saveWithoutAnswer(true);
@@ -241,7 +241,7 @@ TEST_F(NewRecordInDoubt, IsChangedWhereTheUserWroteMoreMeanwhile)
     EXPECT_EQ(table.updates, 1);
 }
 
-// It can be the user's, changed by somebody else, or somebody else's with the key that was undone.
+// It can be the user's record, changed by somebody else, or another record with the key that was rolled back.
 TEST_F(NewRecordInDoubt, IsNotAddedAgainWhereAnotherHasItsKey)
 {
     saveWithoutAnswer(true);

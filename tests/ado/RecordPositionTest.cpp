@@ -72,7 +72,7 @@ TEST(RecordPosition, WalksAsAdoDoes)
         {0, "n", adPosUnknown, true, true, true},
         {0, "p", adPosUnknown, true, true, true},
         {0, "0", adPosUnknown, true, true, true},
-        // a deleted record stays current until a move and lies between its neighbours
+        // a deleted record stays current until a move; its position is between its neighbours
         {3, "nx", adPosUnknown, false, false},
         {3, "nx0", adPosUnknown, false, false},
         {3, "nxn", 2, false, false},

@@ -224,7 +224,7 @@ TEST(Opening, EndsWhenTheProgressReportSaysSo)
     EXPECT_GT(seen, 0);
     EXPECT_EQ(recordset.State(), adStateClosed);
 
-    // A statement that gives no row for long is asked about as well.
+    // The callback is also called for a statement that takes long to return a row.
     reports = 0;
     seen = -1;
     EXPECT_ADO_ERROR(dbErrCancelled, recordset.Open(endless + u" WHERE i < 0"_s, connection));

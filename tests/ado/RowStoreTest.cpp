@@ -13,7 +13,7 @@ using namespace ADODB;
 
 namespace {
 
-// A row as plain as can be, to compare the packed one with.
+// The simplest form of a row, to compare the packed one with.
 using PlainRow = std::vector<QVariant>;
 
 RawValue rawOf(const QVariant &value)
@@ -284,7 +284,7 @@ TEST(RowStore, KeepsItsRowsWhenTheDiskTakesNoMore)
                 appendBigRows(store, model);
         },
         Error);
-    model.pop_back(); // the row that the disk had no room for
+    model.pop_back(); // the row for which the disk was too full
     store.dropBegunRow();
     ASSERT_GT(store.bytesWritten(), smallLimit);
     expectSame(store, model);

@@ -8,7 +8,7 @@
 
 namespace AdoTest {
 
-// Takes connections on the loopback interface and never says a word, as a server that hangs. Unix only.
+// Accepts connections on the loopback interface but never sends anything, like a hanging server. Unix only.
 class SilentServer
 {
 public:
@@ -25,7 +25,7 @@ public:
     ~SilentServer() { close(m_socket); }
     Q_DISABLE_COPY_MOVE(SilentServer)
 
-    // 0 when it could not be opened.
+    // 0 if it could not be opened.
     int port() const { return ntohs(m_address.sin_port); }
 
 private:

@@ -7,7 +7,7 @@
 
 namespace AdoTest {
 
-// For as long as it lives the system's temporary files are made in a folder of its own.
+// While it exists, the system's temporary files are created in a separate folder.
 class TemporaryFolder
 {
 public:

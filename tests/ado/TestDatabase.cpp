@@ -26,7 +26,7 @@ void run(sqlite3 *db, const QByteArray &script)
         << sqlite3_errmsg(db) << " in " << script.constData();
 }
 
-// Until `see` answers false.
+// Until `see` returns false.
 template<typename See>
 void forEachRow(const QString &path, const QString &sql, See &&see)
 {
@@ -106,7 +106,7 @@ std::shared_ptr<ADODB::Recordset> TestDatabase::open(const QString &sql, ADODB::
 {
     auto recordset = std::make_shared<ADODB::Recordset>();
     recordset->Open(sql, connect(), ADODB::adOpenKeyset, lock, ADODB::adCmdText);
-    // The connection is kept by nobody but the recordset, as when a host lets go of it.
+    // Only the recordset keeps the connection alive, as when a host has released it.
     return recordset;
 }
 

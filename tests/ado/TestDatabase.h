@@ -14,7 +14,7 @@ struct sqlite3;
 
 namespace AdoTest {
 
-// A database file of a test's own, filled and looked at with SQLite's own calls, past the code under test.
+// A test's own database file, filled and read by SQLite directly and not by the code under test.
 class TestDatabase
 {
 public:
@@ -25,7 +25,7 @@ public:
     QString filePath(const QString &name) const { return m_folder.filePath(name); }
 
     void execute(const QString &script) const;
-    // The first column of the first row as text; "NULL" for Null, "none" when there is no row.
+    // The first column of the first row as text; "NULL" for Null, "none" if there is no row.
     QString ask(const QString &sql) const;
     // All rows; a cell is the number of its type, a colon and its text.
     QList<QStringList> rows(const QString &sql) const;
@@ -41,7 +41,7 @@ private:
     QString m_path;
 };
 
-// A second program at work on the same file: holds its lock for as long as it lives.
+// A second program that uses the same file: holds its lock while it exists.
 class OtherProgram
 {
 public:
@@ -53,7 +53,7 @@ private:
     sqlite3 *m_db = nullptr;
 };
 
-// All cells as text, columns parted by | and records by a line break.
+// All cells as text, with columns separated by | and records by a line break.
 QString cellTexts(const ADODB::Recordset &recordset);
 
 } // namespace AdoTest

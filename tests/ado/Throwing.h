@@ -8,7 +8,7 @@
 
 namespace AdoTest {
 
-// What `action` throws; a test failure when it throws nothing.
+// The Error that `action` throws; fails the test if it throws nothing.
 template<typename Action>
 ADODB::Error errorOf(Action &&action)
 {

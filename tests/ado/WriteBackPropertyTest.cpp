@@ -1,6 +1,6 @@
-// Random statements, simple and nasty, over a small database: a Delete or an Update changes exactly the row
-// that was seen, as a copy of all tables tells that SQLite itself was asked for, or it changes nothing and
-// says so.
+// Random statements, simple and difficult, over a small database: a Delete or an Update changes exactly the
+// row that was shown, or it changes nothing and reports an error. Copies of all tables, read by SQLite
+// itself, are compared.
 
 #include "TestDatabase.h"
 #include "Throwing.h"
@@ -49,7 +49,7 @@ struct Case
 {
     const Table *table = nullptr;
     QString sql;
-    QString asked;          // the same, with all of the table's row behind the fields
+    QString asked;          // the same, followed by all columns of the table
     QStringList fields;     // the column that each field shows; empty for a computed one
     bool isRefused = false; // rows of this result are none of the table
 };
@@ -95,7 +95,7 @@ public:
         return made;
     }
 
-    // What tells one row's copy from another's: its rowid, if that is no column, and all columns.
+    // Distinguishes the copies of rows: the rowid, if that is not a column, and all columns.
     static QStringList stored(const Table &table)
     {
         return table.columns.contains(table.key.front()) ? table.columns : table.key + table.columns;
@@ -130,7 +130,7 @@ private:
                                           u"{alias}.{column} AS {column}"_s}),
                           alias, made.table->name, column);
         case 4:
-            if (made.isRefused || below(3) > 0) // SQLite takes no two of them that differ in kind
+            if (made.isRefused || below(3) > 0) // SQLite allows no two of them that differ in kind
                 break;
             made.fields += QString();
             made.isRefused = true;
@@ -189,7 +189,7 @@ private:
             decorated(filled(sql, alias, made.table->name, alias + u'.' + made.table->columns.front()));
     }
 
-    // Blanks and comments between the words, which mean nothing.
+    // Adds blanks and comments between the words, which have no meaning.
     QString decorated(const QString &sql)
     {
         QStringList words = sql.split(u' ');
@@ -266,7 +266,7 @@ protected:
         remove(*recordset, made, row);
     }
 
-    // `row` becomes what it is then.
+    // `row` receives its new values.
     void update(Recordset &recordset, const Case &made, int field, QStringList &row)
     {
         auto model = copyOf(m_database);

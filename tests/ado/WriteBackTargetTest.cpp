@@ -1,4 +1,4 @@
-// Which row a written result reaches: the one that was seen, whatever else the statement shows.
+// The row that a write changes must be the one that was shown, whatever else the statement shows.
 
 #include "TestDatabase.h"
 #include "Throwing.h"
@@ -221,7 +221,7 @@ TEST(WriteBackTarget, LeavesGeneratedColumnsToTheDatabase)
     EXPECT_EQ(database.ask(u"SELECT group_concat(a) FROM g"_s), u"2"_s);
 }
 
-// What other programs take for a mark or an end is a character like any other.
+// Characters that are markers or terminators for other programs are stored like any other.
 TEST(WriteBackTarget, StoresTextsWhole)
 {
     const TestDatabase database(script);

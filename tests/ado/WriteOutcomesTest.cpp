@@ -1,4 +1,4 @@
-// What a write tells: saved, not saved and why, or that nobody knows.
+// The outcomes of a write: saved, not saved (with the reason), or unknown.
 #include "OdbcEngines.h"
 #include "TestDatabase.h"
 #include "Throwing.h"

@@ -1,6 +1,6 @@
-// Random tables, statements and changes by somebody else between reading and writing, on every engine: a
-// write hits the row that was shown, whole, or it changes nothing and says so, as full copies of the table
-// tell.
+// Random tables, statements and changes by others between reading and writing, on every engine: a write
+// changes exactly the row that was shown, or it changes nothing and reports an error. Full copies of the
+// table are compared.
 #include "OdbcEngines.h"
 #include "TestDatabase.h"
 #include "Throwing.h"
@@ -27,8 +27,8 @@ struct Place
     std::function<std::shared_ptr<Recordset>(const QString &)> open;
 };
 
-// A kind of table; {text} is a text type, {key} what the engine has besides. Rows are told apart by `tag`,
-// which is no key.
+// A kind of table; {text} is a text type, {key} an additional clause of the engine. Rows are identified by
+// `tag`, which is not a key.
 struct Kind
 {
     const char *engines;
@@ -116,7 +116,7 @@ private:
 
     static QString literal(const QString &value)
     {
-        // In hexadecimal where a backslash would need care.
+        // In hexadecimal if backslashes would have to be escaped.
         return u'\'' + QString(value).replace(u'\'', u"''"_s) + u'\'';
     }
     QString value(const QString &column, const QString &text) const
@@ -175,7 +175,7 @@ private:
         switch (what) {
         case ChangeColumn: {
             const QString column = one(QStringList{u"a"_s, u"b"_s, u"d"_s});
-            // Differences that a sort order does not see are differences.
+            // Differences that a sort order ignores must be detected.
             const QString text = row[names.indexOf(column)];
             const QString next = column == "b"_L1              ? u"7"_s
                                  : below(2) && text == u"x"_s  ? u"X"_s

@@ -23,7 +23,7 @@ struct Outcome
     QStringList lines() const { return output.split(u'\n', Qt::SkipEmptyParts); }
 };
 
-// Without a display, and with settings and sample data in a folder that goes away.
+// Without a display, and with settings and sample data in a temporary folder.
 struct Kovagrid : testing::Test
 {
     Outcome run(const QStringList &arguments)
@@ -272,7 +272,7 @@ TEST_P(BadUsage, IsExplainedAndExitCode2)
 }
 
 #if defined(Q_OS_LINUX) && !defined(__SANITIZE_ADDRESS__)
-// A long value takes its length several times over; with less memory than that the program says so and ends.
+// A long value needs several times its length in memory; if that is missing, the program says so and exits.
 TEST_F(Kovagrid, ReportsAValueThatIsTooLongForTheMemory)
 {
     bool hasFailed = false;

@@ -1,4 +1,4 @@
-// How the widths of the grid's columns and those in the field catalogue are kept in step.
+// The widths of the grid's columns and those in the field catalogue are kept in sync.
 #include "session/layout/ColumnLayout.h"
 #include "control/parts/GridWindow.h"
 #include "control/parts/toolbar/GridToolbar.h"

@@ -1,5 +1,5 @@
-// A host that deletes the control while one of its dialogs is open: the dialog ends as cancelled, and whoever
-// asked touches nothing of the control any more. The asan preset sees what would.
+// A host deletes the control while one of its dialogs is open: the dialog is cancelled, and its caller no
+// longer accesses the control. The asan preset would detect that.
 #include "control/face/KOVAVSFDataGrid.h"
 #include "support/TestDatabase.h"
 

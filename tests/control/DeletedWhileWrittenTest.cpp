@@ -1,5 +1,5 @@
-// A property that is written can write others, and the host is told of each: it may delete the control at any
-// of them. The asan preset sees what would still be touched.
+// Setting a property can set others, and the host is notified of each: it may delete the control in any of
+// these events. The asan preset detects later accesses.
 #include "control/face/KOVAVSFDataGrid.h"
 
 #include <QtCore/QPointer>

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-// Stands for Qt Designer's form: the control asks its ancestors for a class of this name.
+// Simulates Qt Designer's form: the control checks whether an ancestor has this class name.
 class QDesignerFormWindowInterface : public QWidget
 {
     Q_OBJECT

@@ -1,5 +1,5 @@
-// The first records of a long load are seen and can be scrolled before the last one is read, and leave no
-// trace when the load fails.
+// The first records of a long load are visible and can be scrolled before the last one is read, and disappear
+// if the load fails.
 #include "GridFixture.h"
 #include "support/MessageAnswers.h"
 #include "support/OpeningView.h"
@@ -38,8 +38,8 @@ struct FirstRecords : GridFixture
         return u"with recursive N(n) as (select 1 union all select n + 1 from N "
                "where length(hex(zeroblob(2000 + n % 2))) > 0) select %1 from N"_s.arg(fields);
     }
-    // Calls `act` whenever the application's events run, until it answers true; then the load is cancelled,
-    // unless that is what it has done. One that never answers true fails after a minute.
+    // Calls `act` whenever the application's events run, until it returns true; then cancels the load, unless
+    // `act` has done that. Fails if it does not return true within a minute.
     bool loadUntil(const std::function<bool()> &act, const QString &statement = endless())
     {
         bool isDone = false;

@@ -155,7 +155,7 @@ TEST_F(FullScreen, AResultThatTakesLongCanBeCancelled)
     ASSERT_TRUE(grid.IsLoadData());
     int lines = 0;
     visit([&](QDialog &viewer) {
-        QTimer::singleShot(0, &viewer, [&] { // comes when the line shows
+        QTimer::singleShot(0, &viewer, [&] { // runs when the line is shown
             ASSERT_TRUE(viewer.findChild<QProgressBar *>());
             for (QPushButton *button : viewer.findChildren<QPushButton *>()) {
                 if (button->text() == u"取消") {

@@ -1,4 +1,4 @@
-// What the host is told of the user's mouse and keys, and how the recordset follows the grid.
+// The events for the user's mouse and key input, and how the recordset follows the grid.
 #include "GridFixture.h"
 #include "support/MessageAnswers.h"
 
@@ -43,7 +43,7 @@ struct GridEventsTest : GridFixture
         record<&KOVAVSFDataGrid::DataMouseUp>(u"DataMouseUp"_s);
     }
 
-    // Adds each raising of an event to the log, with its whole numbers.
+    // Logs each event with its integer arguments.
     template<auto Event>
     void record(const QString &name)
     {
@@ -203,7 +203,7 @@ TEST_F(GridEventsTest, ADoubleClickOnARowNumberMeansTheRow)
 {
     doubleClick(3, 0);
     EXPECT_EQ(doubleClickEvents(), QStringList({u"DataDblClick"_s, u"DataDBLClickOneRow 3"_s}));
-    // Also where the first column isn't in view.
+    // Also if the first column isn't visible.
     table->setColumnHidden(0, true);
     log.clear();
     doubleClick(2, 0);

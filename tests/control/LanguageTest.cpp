@@ -54,7 +54,7 @@ void expectNoChinese(const QStringList &texts, const std::string &where)
         EXPECT_FALSE(text.contains(chinese)) << where << ": " << qPrintable(text);
 }
 
-// Has words for the host's own texts, and for all that Qt writes itself.
+// Translates the host's own texts, and all texts of Qt itself.
 class HostTranslator : public QTranslator
 {
 public:
@@ -85,7 +85,7 @@ struct Language : GridFixture
     {
         return grid.findChild<QAction *>(u"PopMnuDataAction%1"_s.arg(index));
     }
-    // Windows hear of it in an event of their own.
+    // Windows are notified by an event.
     void speak(const QString &name)
     {
         grid.PutLanguage(name);

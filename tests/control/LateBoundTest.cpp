@@ -1,4 +1,4 @@
-// A host that has only a QWidget and names: everything goes through the meta-object.
+// A host that has only a QWidget and names: everything is called through the meta-object.
 #include <KOVAVSFDataGrid>
 
 #include "support/TestDatabase.h"

@@ -1,5 +1,5 @@
-// A load that takes long: the line that tells of it, cancelling, and what the rest of the application may do
-// meanwhile.
+// A long load: its progress line, cancelling, and
+// what the rest of the application may do meanwhile.
 #include "GridFixture.h"
 #include "support/MessageAnswers.h"
 
@@ -130,7 +130,7 @@ TEST_F(LoadProgressTest, CancellingEndsTheOpenAtOnce)
         sinceCancel.start();
         pressEscape();
     }));
-    // With both messages answered; the rest up to a second is for a machine that is busy with other things.
+    // With both messages answered. The limit of a second allows for a busy machine.
     const auto milliseconds = static_cast<int>(sinceCancel.elapsed());
     RecordProperty("milliseconds", milliseconds);
     EXPECT_LT(milliseconds, 1000);

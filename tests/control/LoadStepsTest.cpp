@@ -1,5 +1,5 @@
-// The steps of a load that show afterwards: buttons, views, column widths, Oracle's form of statement, and
-// what failed or repeated loads leave.
+// The effects of a load: buttons, views, column widths, Oracle's form of statement, and the state after
+// failed or repeated loads.
 #include "GridFixture.h"
 #include "ado/Connection.h"
 #include "ado/ConnectionFactory.h"
@@ -44,7 +44,7 @@ struct LoadSteps : GridFixture
             twips.append(flexGrid().ColWidthInUse(col));
         return twips;
     }
-    // What each of `count` columns gets when they are fitted into the grid.
+    // The width of each of `count` columns when they are fitted into the grid.
     int share(int count) const { return (Twips::fromPixels(table->width(), *table) - 260 - 600) / count; }
     // As the user drags a column's edge.
     void drag(int col, int pixels) { table->horizontalHeader()->resizeSection(col - 1, pixels); }

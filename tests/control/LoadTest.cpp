@@ -175,7 +175,7 @@ TEST_P(FailedLoad, IsToldAndChangesNothing)
     MessageAnswers messages;
     EXPECT_FALSE(load(QString::fromUtf8(GetParam())));
 
-    // A text without FROM has been told when it was set; the load itself tells twice.
+    // A text without FROM was reported when it was set; the load itself shows two more messages.
     ASSERT_GE(messages.shown().size(), 2u);
     const ShownMessage &reason = *(messages.shown().end() - 2);
     EXPECT_TRUE(reason.text.startsWith(u"错误描述为："_s)) << reason.text.toStdString();

@@ -225,7 +225,7 @@ TEST_F(Misuse, SQLShowIsEditedOnceEditingIsAllowed)
     EXPECT_EQ(grid.SQLPartDisplay(), u"select Name from T"_s);
 }
 
-// A host's handler that throws stands for whatever may go wrong inside a method.
+// A host's handler that throws represents any error inside a method.
 struct FailingStep : Misuse, testing::WithParamInterface<QMessageBox::StandardButton>
 {
 };

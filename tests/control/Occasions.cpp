@@ -30,7 +30,7 @@ QPoint cellPoint(const Grid &grid, int row, int col)
     return table.visualRect(table.model()->index(row - 1, col - 1)).center();
 }
 
-// All input goes to the window, which outlives the control.
+// All input is sent to the window, which outlives the control.
 QWindow *windowOf(const Grid &grid)
 {
     return grid.window()->windowHandle();

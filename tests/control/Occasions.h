@@ -7,8 +7,8 @@
 
 namespace KovaTest {
 
-// Brings the event about, as the user or the host does. The event is one of the control's, or of its data
-// control. What `prepare` does comes before the handler is connected.
+// Causes the event, as the user or the host does. It is an event of the control or of its data control.
+// `prepare` runs before the handler is connected.
 struct Occasion
 {
     const char *event;

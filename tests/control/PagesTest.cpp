@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Numbers from 1 without a table behind them.
+// Numbers from 1, without a table.
 QString numbers(int count)
 {
     return u"with recursive N(n) as (select 1 union all select n + 1 from N where n < %1) select n as 编号 from N"_s
@@ -117,7 +117,7 @@ TEST_F(Pages, LocatingARecordFromALaterPageShowsTheFirst)
     EXPECT_EQ(moves.at(0).at(1).toInt(), 499);
 }
 
-// What is typed into the page box, and the page that is shown; 0 where the message comes instead.
+// The text typed into the page box, and the page that is shown; 0 if a message is shown instead.
 struct TypedPage : Pages, testing::WithParamInterface<std::pair<const char *, int>>
 {
 };

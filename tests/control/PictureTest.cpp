@@ -93,7 +93,7 @@ TEST_F(Picture, BelongsToTheNamedFieldAlone)
     show(u"Other"_s);
     click(1, 1);
     EXPECT_EQ(left(), QByteArray(1, '\0'));
-    show(u"photo"_s); // names count letter for letter
+    show(u"photo"_s); // names are case-sensitive
     click(1, 1);
     EXPECT_EQ(left(), "no file");
     show({});
@@ -118,7 +118,7 @@ TEST_F(Picture, IsNotWrittenBeforeALoad)
     EXPECT_EQ(left(), "no file");
 }
 
-// A folder in the file's place can neither be removed nor emptied, whoever runs the test.
+// A folder with the file's name can be neither removed nor emptied, whoever runs the test.
 TEST_F(Picture, ThatCannotBeWrittenIsReportedOnce)
 {
     show(u"Photo"_s);

@@ -1,4 +1,4 @@
-// A host may do in a handler of any event what it may do elsewhere: load again, tear down, even delete the
+// A host may do in a handler of any event what it may do at other times: load again, clear, even delete the
 // control.
 #include "Occasions.h"
 #include "support/MessageAnswers.h"
@@ -70,8 +70,8 @@ private:
     bool m_wasCalled = false;
 };
 
-// Nobody is there to use a menu or a dialog: the first field is chosen where there are any, all else is
-// closed.
+// Closes menus and dialogs, because there is no user: chooses the first field if there are any, and cancels
+// all else.
 class Closer : public QObject
 {
 public:

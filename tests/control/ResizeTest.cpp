@@ -1,4 +1,4 @@
-// Where the parts of the control stand, in twips, at the resolution that the environment asks for.
+// The positions of the control's parts, in twips, at the resolution set in the environment.
 #include <KOVAVSFDataGrid>
 
 #include <QtGui/QHelpEvent>

@@ -28,7 +28,7 @@ namespace {
 
 struct HandBack : LoadedParts
 {
-    // Opens the viewer, lets the user do something in it, and closes it. False when the visit ended before.
+    // Opens the viewer, runs the user's actions in it, and closes it. False if the visit ended before.
     bool visit(const std::function<void(const ViewerUser &)> &doSomething)
     {
         host.filtersWritten = 0;

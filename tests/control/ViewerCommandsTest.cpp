@@ -1,4 +1,4 @@
-// The commands of the full-screen viewer: the statements they lead to, and what they leave behind.
+// The commands of the full-screen viewer: the resulting statements, and the state afterwards.
 #include "ViewerFixture.h"
 
 #include "control/parts/toolbar/GridToolbar.h"
@@ -245,7 +245,7 @@ TEST_F(Viewer, CompressViewSharesTheWidthAmongTheColumns)
     EXPECT_EQ(user.grid().ColWidth(2), qRound((width - 860) / 2.0));
 }
 
-// A statement that can't be opened: nothing that the user sees may change, and the viewer works on.
+// A statement that can't be opened: nothing visible may change, and the viewer still works.
 struct LostTable : Viewer, testing::WithParamInterface<const char *>
 {
 };

@@ -22,14 +22,14 @@ QT_END_NAMESPACE
 
 namespace KovaTest {
 
-// Answers each question with what was prepared, and keeps what it was asked.
+// Answers each question with a prepared answer, and records the questions.
 class PreparedUser final : public KOVAVSFDataGridLib::Questions
 {
 public:
-    std::optional<QString> answer; // to the choice of fields or of a sort
+    std::optional<QString> answer; // for the choice of fields or of a sort
     QStringList fields;
     QStringList chosen;
-    QString condition; // what the filter dialog gives
+    QString condition; // the result of the filter dialog
     QStringList messages;
 
     void show(const QString &text) override { messages.append(text); }
@@ -64,7 +64,7 @@ struct LoadedParts : testing::Test
     KOVAVSFDataGridLib::colShowSQLSentences &history() { return filter.SQLManager(); }
     QString latestStatement() const;
 
-    // The off-screen platform says of each popup menu what it can't do.
+    // The off-screen platform warns about missing features for each popup menu.
     ExpectedWarning offscreen{QStringLiteral("This plugin does not support")};
     TestDatabase database;
     QWidget control;

@@ -1,4 +1,4 @@
-// The full-screen viewer by itself, over a real SQLite database: opening, what it shows and has, closing.
+// The full-screen viewer alone, with a real SQLite database: opening, contents, closing.
 #include "ViewerFixture.h"
 
 #include "ado/Recordset.h"

@@ -18,7 +18,7 @@ class DesignerScript
 public:
     explicit DesignerScript(QDesignerFormEditorInterface &core) : m_core(core) {}
 
-    // Leaves Qt Designer at its end, with exit code 1 when a step could not be done.
+    // Exits Qt Designer at its end, with exit code 1 if a step could not be done.
     void run();
 
 private:

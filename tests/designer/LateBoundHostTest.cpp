@@ -1,4 +1,4 @@
-// The example of a host that knows the grid by names alone, run as it is.
+// Runs the example of a host that uses the grid only by name.
 #include "support/TestDatabase.h"
 
 #include <QtCore/QProcess>

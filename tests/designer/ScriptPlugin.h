@@ -6,7 +6,7 @@
 
 namespace KovaTest {
 
-// A plugin without a widget of any use: Qt Designer initialises it, and that starts the script.
+// A plugin without a useful widget: Qt Designer initializes it, and that starts the script.
 class ScriptPlugin final : public QObject, public QDesignerCustomWidgetInterface
 {
     Q_OBJECT

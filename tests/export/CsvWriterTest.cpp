@@ -45,7 +45,7 @@ Rows rowsOf(const QString &text)
     return rows;
 }
 
-// A value as SQLite reads it: pieces that need quotes or look like something else, and any number.
+// A value as SQLite stores it: pieces that need quotes or look like something else, and any number.
 QString randomValue(std::mt19937 &random)
 {
     static const QStringList pieces{
@@ -133,7 +133,7 @@ TEST(CsvWriter, WritesGb18030AsOtherProgramsReadIt)
     EXPECT_EQ(iconv.readAllStandardOutput(), "列,B\r\n中文é😀,龥\r\n");
 }
 
-// Each value is the text that the grid shows, quoted where it has to be.
+// Each value is the text that the grid shows, quoted if necessary.
 TEST(CsvWriter, WritesTheShownTextsOfAnyValues)
 {
     constexpr int rows = 12000; // enough for two threads

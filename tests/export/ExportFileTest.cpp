@@ -27,7 +27,7 @@ void put(const QString &path, const QByteArray &content)
     file.write(content);
 }
 
-// A disk with room for some bytes. It takes part of what is too much, without an error.
+// A disk with room for some bytes. A write that does not fit is partial, without an error.
 class SmallDisk : public QIODevice
 {
 public:

@@ -17,7 +17,7 @@ namespace {
 
 struct XlsxWriterTest : testing::Test
 {
-    // The lines of read_xlsx.py; none when there is no reader.
+    // The output lines of read_xlsx.py; empty if there is no reader.
     QStringList read(const QString &file, bool sheetsOnly = false)
     {
         QProcess python;

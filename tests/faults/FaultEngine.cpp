@@ -23,7 +23,7 @@ const FaultEngine faultEngines[] = {
      "SELECT string_agg(CAST(pid AS TEXT), ',') FROM pg_stat_activity "
      "WHERE pid <> pg_backend_pid() AND backend_type = 'client backend'",
      "SELECT pg_terminate_backend(%1)"},
-    // Its driver keeps what it has read, so here records come slowly.
+    // Its driver buffers the rows, so records are generated slowly here.
     {"MariaDB", "mariadb", "MariaDB Unicode", "KOVA_TEST_MARIADB", "KOVA_TEST_MARIADB_ORACLE",
      "(SELECT seq AS g FROM seq_1_to_%1) AS n", "MODIFY id VARCHAR(20)", "SELECT sleep(20) AS a FROM dual",
      "SELECT seq AS id, concat('name ', seq, sleep(0.001)) AS endless FROM seq_1_to_2000000000",

@@ -15,11 +15,11 @@ struct FaultEngine
     const char *server;         // to server-control
     const char *driver;         // as the connection strings name it
     const char *variable;       // of the environment, with the connection string
-    const char *oracleVariable; // likewise, of sessions in which names stand in double quotes
-    const char *numbers;        // behind FROM: the numbers g from 1 to %1
-    const char *idToText;       // behind ALTER TABLE: makes the field id a text
-    const char *sleep;          // a statement that runs for 20 seconds before it gives its row
-    const char *endless;        // a statement that gives records for far longer than any test waits
+    const char *oracleVariable; // the same for sessions in which names are in double quotes
+    const char *numbers;        // after FROM: the numbers g from 1 to %1
+    const char *idToText;       // after ALTER TABLE: changes the field id to text
+    const char *sleep;          // a statement that runs for 20 seconds before it returns its row
+    const char *endless;        // a statement that returns records for far longer than any test waits
     const char *countEndless;   // how many other sessions are at work on its records
     const char *others;         // the numbers of all other sessions with commas between, Null without any
     const char *end;            // the session %1

@@ -65,7 +65,7 @@ void FaultFixture::TearDown()
     hands->grid.PutDBType(KOVAVSFDataGrid::dbSQLServer);
     EXPECT_TRUE(load(harmless)) << "the next command works";
     EXPECT_EQ(hands->rows(), 3);
-    // What was waiting for a server cleans up by itself when that answers.
+    // An operation that waits for a server frees its resources when that responds.
     EXPECT_TRUE(QTest::qWaitFor([this] { return openHandles() == handlesBefore; }))
         << "no file or socket is left open: " << openHandles() << " instead of " << handlesBefore;
 }

@@ -24,14 +24,14 @@ protected:
     void TearDown() override;
 
     bool load(const QString &statement = QStringLiteral("SELECT * FROM faults"));
-    // Past the code under test, over a connection of its own.
+    // Uses a separate connection, not the code under test.
     void run(const QString &statement) const;
     QString ask(const QString &statement) const;
-    // The one message that the open routine told, without its beginning; the load tells a second one behind
-    // it. Forgets both.
+    // The message about the failed opening, without its beginning; the load shows a second message after it.
+    // Clears both.
     QString openError();
     QString loadError();
-    // What the user sees is still the load of all records.
+    // Expects that the load of all records is still shown.
     void expectAsLoaded() const;
 
     void stopServer() const { controlServer("stop", engine.server); }
@@ -47,9 +47,9 @@ private:
     int handlesBefore = -1;
 };
 
-// Open files, sockets and pipes of this process; -1 where that can't be told.
+// Open files, sockets and pipes of this process; -1 if unknown.
 int openHandles();
-// Memory in use, in MiB; 0 where that can't be told.
+// Memory in use, in MiB; 0 if unknown.
 qint64 memoryInUse();
 
 } // namespace KovaTest

@@ -28,7 +28,7 @@ bool fails()
     return true;
 }
 
-// SQLite makes room for `real` behind it.
+// SQLite allocates space for `real` after it.
 struct File
 {
     sqlite3_file base;

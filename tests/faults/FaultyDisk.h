@@ -2,7 +2,7 @@
 
 namespace KovaTest {
 
-// The file system as SQLite sees it, of which any call can be made to fail.
+// The file system that SQLite uses; any call to it can be made to fail.
 namespace FaultyDisk {
 
 enum class Fault { Error, Full };

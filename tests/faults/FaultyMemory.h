@@ -4,7 +4,7 @@
 
 namespace KovaTest {
 
-// The memory that SQLite and C++'s `new` take, of which any request can be made to fail.
+// The allocations of SQLite and C++'s `new`; any one of them can be made to fail.
 namespace FaultyMemory {
 
 // Before SQLite is used for the first time.

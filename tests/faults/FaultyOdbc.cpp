@@ -7,8 +7,8 @@
 #include <map>
 #include <mutex>
 
-// Definitions in the program take precedence over those of the driver manager's library, which the next ones
-// in the order of search are.
+// Functions defined in the program take precedence over those of the driver manager's library, which are next
+// in the symbol search order.
 
 namespace {
 
@@ -20,7 +20,7 @@ Fault nextFault = Fault::NotDone;
 bool isLost = false;
 const char *failedCall = nullptr;
 int listsRead = 0;
-std::map<SQLHANDLE, const char *> states; // of the failures that nobody has called over yet
+std::map<SQLHANDLE, const char *> states; // of failed handles that have not been used since
 
 thread_local int depth = 0; // of calls that the driver manager makes itself
 

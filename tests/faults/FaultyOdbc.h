@@ -4,13 +4,13 @@
 
 namespace KovaTest {
 
-// The calls of ODBC that the data access makes, of which any can be made to fail. The program defines them
-// itself and hands them on to the driver manager.
+// The ODBC calls of the data access layer, any of which can be made to fail. The program defines these
+// functions itself and forwards them to the driver manager.
 namespace FaultyOdbc {
 
 enum class Fault {
     NotDone, // the driver does nothing and reports an error
-    Done,    // it does what it was asked for and then reports an error
+    Done,    // the call succeeds, but then reports an error
     Memory,  // it has no memory for it
     Lost     // the connection is gone, for this call and all that follow
 };
@@ -21,7 +21,7 @@ void stopFailing();
 // The name of the call that has failed since failAt(); empty when none has.
 QString failed();
 
-// How often the driver manager was asked to begin a list of its drivers or of its data sources.
+// How often a list of drivers or data sources was started.
 int listsRead();
 
 // What the driver says of a failed call.

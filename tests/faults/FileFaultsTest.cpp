@@ -1,4 +1,4 @@
-// What goes wrong with a database file between two commands.
+// Faults of a database file between two commands.
 #include "FaultFixture.h"
 
 #include "support/AccessWriter.h"
@@ -40,7 +40,7 @@ protected:
         ASSERT_EQ(file.write(bytes), bytes.size());
     }
 
-    // One message with these words, the grid as it was, and all well again once the file is.
+    // Expects one message with these words, an unchanged grid, and that all works after the file is restored.
     void expectOnlyAMessage(const std::function<void()> &fault, const QString &words)
     {
         WindowAnswers dialogs({[](QDialog &dialog) { Hands::sort(dialog, {u"id"_s}, true); },
@@ -66,7 +66,7 @@ protected:
     const QString path = folder.filePath(u"faults.mdb"_s);
     Hands hands{u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + path, KOVAVSFDataGrid::dbAccess};
     QByteArray whole;
-    QByteArray locked; // behind a password
+    QByteArray locked; // encrypted with a password
     int handlesBefore = -1;
 };
 
@@ -86,7 +86,7 @@ TEST_F(AccessFileFaults, PageDamagedThatHoldsRecords)
 {
     constexpr qsizetype pageSize = 4096;
     QByteArray bytes = whole;
-    bytes.replace(5 * pageSize + 12, 2, "\xff\xff"); // the count of its records
+    bytes.replace(5 * pageSize + 12, 2, "\xff\xff"); // the number of its records
     expectOnlyAMessage([&] { write(bytes); }, u"损坏"_s);
 }
 

@@ -1,5 +1,5 @@
-// The first records of a result that takes long, over a server: they are seen while the rest is read, and
-// whatever happens to the server, what was shown before comes back.
+// The first records of a long result from a server are visible while the rest is being read. If the server
+// fails, the previous result is shown again.
 #include "FaultFixture.h"
 
 #include "../support/OpeningView.h"
@@ -14,12 +14,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// MariaDB's driver gives no record before it has all.
+// MariaDB's driver returns no record before it has read all.
 class FirstRecordsOfServer : public FaultFixture
 {
 protected:
-    // Reads more than any test waits for; `act` is called as soon as the user sees the first records and the
-    // line below them, again and again until it answers true.
+    // Reads an endless result; calls `act` when the user sees the first records and the progress line,
+    // repeatedly until it returns true.
     bool loadEndless(const std::function<bool()> &act)
     {
         bool isDone = false;
@@ -28,7 +28,7 @@ protected:
             isDone = isDone || (opening.view() && hands->grid.findChild<QProgressBar *>() && act());
         });
         user.start(0);
-        // A series behind FROM would be made whole before its first record.
+        // A series after FROM would be generated completely before its first record.
         const bool isLoaded = load(u"SELECT id, 'name ' || id AS name FROM "
                                    "(SELECT generate_series(1, 2000000000) AS id) AS endless"_s);
         EXPECT_TRUE(isDone) << "nothing was seen";

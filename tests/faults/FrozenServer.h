@@ -25,8 +25,8 @@ private:
     int m_count = 0;
 };
 
-// A server, or a pooler before one, that is there and answers nothing: its process is stopped, its
-// connections stay. The table kept has the fields id, name and price, and a thousand records.
+// A server, or a connection pooler before it, that accepts connections but does not respond, because its
+// process is stopped. The table kept has the fields id, name and price, and a thousand records.
 class FrozenServer : public FaultFixture
 {
 protected:
@@ -35,16 +35,16 @@ protected:
 
     void freeze() const { controlServer("freeze", engine.server); }
     void thaw() const { controlServer("thaw", engine.server); }
-    // Freezes the server just before a client's first words of that kind reach it. They are not matched
-    // within a longer word.
+    // Freezes the server just before it receives these words from a client for the first time. They match
+    // only whole words.
     LoopbackProxy::Filter freezeOn(const QByteArray &words);
     bool loadKept() { return load(QStringLiteral("SELECT * FROM kept ORDER BY id")); }
     QString stored(const QString &what) const;
     QStringList takeMessages();
     void expectKept() const;
 
-    // Freezes the server and does something that waits for it. As soon as the user sees that he waits, the
-    // window is asked to paint; when it has done so he presses Esc, and this returns after that.
+    // Freezes the server and runs an action that waits for it. When the progress line is visible, requests a
+    // repaint and then presses Esc. Returns after that.
     void cancelWhileFrozen(const std::function<void()> &action);
     // What the user sees of a wait; null where he sees none.
     static QWidget *progressLine();

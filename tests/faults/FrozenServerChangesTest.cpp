@@ -1,5 +1,5 @@
-// Changes to a server, or a pooler before one, that answers nothing: what was not saved is kept and told, and
-// what may have been saved is told as unknown.
+// Changes sent to a server (or a connection pooler) that does not respond: unsaved changes are kept and
+// reported, and an unknown outcome is reported as such.
 #include "FrozenServer.h"
 
 #include <QtCore/QElapsedTimer>
@@ -138,7 +138,7 @@ TEST_P(FrozenServerChanges, LetsTheHostReadButNotChangeMeanwhile)
     expectKept();
 }
 
-// A control that goes while it saves leaves the rest to the thread that waits.
+// If the control is destroyed during a save, the waiting thread finishes it.
 TEST_P(FrozenServerChanges, LetsTheHostDeleteTheControlMeanwhile)
 {
     auto other = std::make_unique<KOVAVSFDataGrid>();
@@ -176,7 +176,7 @@ TEST_P(FrozenServerChanges, ReportsACommitWithoutAnAnswerAsUnknown)
     write(u"name"_s, u"mine"_s);
     leaveWhileCommitFreezes();
     thaw();
-    // It was saved when the server went on, and leaving the record finds that out.
+    // It was saved when the server continued, and leaving the record finds that out.
     hands->grid.PutConnectionString(connection());
     ASSERT_TRUE(loadKept());
     EXPECT_EQ(takeMessages(), QStringList());

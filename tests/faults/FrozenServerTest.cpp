@@ -1,6 +1,6 @@
-// A server, or a pooler before one, that is there and answers nothing. Whatever the user waits for then,
-// windows are painted, Esc ends the wait, what was shown stays, and the next command works once the server
-// answers again.
+// A server (or a connection pooler) that does not respond. Whatever the user is waiting for, windows are
+// painted, Esc ends the wait, the shown result is kept, and the next command works once the server responds
+// again.
 #include "FrozenServer.h"
 
 #include "../support/Dialogs.h"

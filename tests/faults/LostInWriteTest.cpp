@@ -1,5 +1,5 @@
-// A connection that is lost while a user's change is written: he is told what has come of it, nothing is
-// written twice, and what is not saved can be saved through a new connection.
+// A connection is lost while a user's change is being written: he is told the outcome, nothing is written
+// twice, and what was not saved can be saved through a new connection.
 #include "FaultFixture.h"
 
 #include "../ado/DroppingProxy.h"

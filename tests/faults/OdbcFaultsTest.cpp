@@ -1,6 +1,6 @@
-// Each call of ODBC under the data access fails in turn: not done, done but reported as failed, without
-// memory, and with the connection gone from then on. What is read is whole or an error; what is written is
-// there or it is not, as the outcome says.
+// Each ODBC call of the data access layer fails in turn: not done, done but reported as failed, out of
+// memory, or with the connection lost from then on. What is read must be complete or an error; a write must
+// have the reported outcome.
 #include "FaultyOdbc.h"
 
 #include "ado/OdbcEngines.h"
@@ -29,7 +29,7 @@ protected:
         if (IsSkipped() || HasFatalFailure())
             return;
         m_session.emplace(connectionString());
-        // Rows that differ only where a key that was read in part would not see it.
+        // Rows that differ only in the part of the key that an incomplete read would not return.
         m_session->run(u"CREATE TABLE kova_a(k INTEGER NOT NULL, l INTEGER NOT NULL, a VARCHAR(20), b "
                        "VARCHAR(20), PRIMARY KEY (k, l))"_s);
         reset();

@@ -1,5 +1,5 @@
-// The driver manager's lists of drivers and data sources, which it takes longer to read each time: they are
-// read where they are needed and nowhere else.
+// The driver manager takes longer each time it lists the drivers and data sources, so they are listed only
+// when needed.
 #include "FaultyOdbc.h"
 
 #include "ado/OdbcEngines.h"

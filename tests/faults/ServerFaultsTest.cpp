@@ -1,4 +1,4 @@
-// A server that goes away, refuses or takes too long, at every moment of a user's work.
+// A server that fails, refuses or takes too long, at every moment of a user's work.
 #include "FaultFixture.h"
 
 #include <QtCore/QElapsedTimer>

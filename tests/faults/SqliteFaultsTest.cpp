@@ -1,5 +1,5 @@
-// Each request for memory and each call on the disk fails in turn, in the middle of reading and writing. What
-// is read is whole or an error; what is written is there or it is not, as the outcome says.
+// Each memory allocation and each disk access fails in turn during reading and writing. What is read must be
+// complete or an error; a write must have the reported outcome.
 #include "FaultyDisk.h"
 #include "FaultyMemory.h"
 
@@ -79,7 +79,7 @@ protected:
         QFile::remove(path + u"-journal"_s);
         ASSERT_TRUE(QFile::copy(m_template, path));
     }
-    // All that the file holds, as the next program finds it.
+    // All contents of the file, as another program sees them.
     QByteArray dump() const
     {
         sqlite3 *db = nullptr;

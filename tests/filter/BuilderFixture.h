@@ -33,7 +33,7 @@ struct BuilderFixture : testing::Test
     {
         return dialog.findChild<QWidget *>(QLatin1StringView(name)) != nullptr;
     }
-    // Chooses an entry by its text, from the keyboard's point of view: the box then stands on it.
+    // Chooses an entry of a box by its text.
     void choose(const char *name, const QString &entry) const
     {
         const int index = combo(name).findText(entry);
@@ -65,7 +65,7 @@ struct BuilderFixture : testing::Test
                        " (2, '上海', 6, NULL, NULL, 0, NULL), (3, '北京', 7, NULL, NULL, 0, NULL);")};
     QDialog dialog;
     KOVAVSFDataGridLib::SetFilter *builder;
-    // Said by the platform without a display when a list opens.
+    // A warning of the off-screen platform when a list opens.
     ExpectedWarning noRaise{QStringLiteral("does not support raise()")};
     ExpectedWarning noGrab{QStringLiteral("does not support grabbing the keyboard")};
 };

@@ -1,4 +1,4 @@
-// The days that a text names, on days of the calendar where that goes wrong most easily.
+// The days that a text means, on dates where that is error-prone.
 #include "filter/conditions/FilterDays.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// "first/end"; "-" when the text names no days.
+// "first/end"; "-" if the text doesn't mean days.
 std::string days(const QString &typed, const char *today)
 {
     const auto found = readDays(typed, QDate::fromString(QLatin1StringView(today), Qt::ISODate));

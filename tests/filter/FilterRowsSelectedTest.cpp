@@ -246,8 +246,8 @@ TEST_F(Selected, ByMomentFinerThanMilliseconds)
     EXPECT_EQ(found(u"2024-07-01 12:00:00"_s), u"5"_s) << "another zone is shown otherwise";
 }
 
-// A field of days whose values can have a time: it equals the day only where no other time is shown, and is
-// neither before nor after the day at any time of it.
+// A date field whose values can have a time: it equals the day only if no other time is shown, and at any
+// time of the day it is neither less nor greater.
 TEST_F(Selected, ByDayThatCanHaveATime)
 {
     const FilterField field{u"D"_s, u"D"_s, FieldClass::Date};

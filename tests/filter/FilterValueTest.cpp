@@ -9,7 +9,7 @@ namespace {
 
 constexpr Dialect sqlite{dbAccess, false};
 
-// The literal; "-" when the text is no such value.
+// The literal; "-" if the text is not such a value.
 std::string literal(FieldClass fieldClass, const QString &typed)
 {
     const auto value = readFilterValue(sqlite, fieldClass, typed, QDate(2024, 2, 29));

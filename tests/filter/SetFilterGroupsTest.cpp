@@ -31,7 +31,7 @@ struct Groups : BuilderFixture
     QWidget &grip(const char *name) const { return part(dialog, name); }
     void drag(const char *name, const QWidget &to, double height) const
     {
-        QTest::qWait(0); // the layout takes its new lines
+        QTest::qWait(0); // lets the layout update
         QWidget &from = grip(name);
         const QPoint place = to.mapTo(&dialog, QPoint(5, static_cast<int>(to.height() * height)));
         const QPoint target = from.mapFrom(&dialog, place);

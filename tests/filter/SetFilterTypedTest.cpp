@@ -56,7 +56,7 @@ TEST_F(TypedCondition, AConditionTypedByHandStaysOneConditionWhateverIsJoinedToI
         EXPECT_EQ(answer(), c.answer) << qUtf8Printable(c.typed);
         EXPECT_NE(fault("lblNotice"), "");
     }
-    // The words by which the statement's sort is found, be it in a value.
+    // The words by which the statement's sort is found, even inside a value.
     type("txtCondition", u"城市 = '1 Order by 2'"_s);
     EXPECT_EQ(answer(), "");
     EXPECT_EQ(fault("lblNotice"), "条件语句中不能出现“ORDER BY”。");

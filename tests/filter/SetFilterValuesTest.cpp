@@ -97,7 +97,7 @@ TEST_F(PickedValues, TheArrowIsAsPaleAsTheValue)
     EXPECT_NE(arrow("txtValue1", QIcon::Normal), before) << "it follows the colours of the screen";
 }
 
-// Ticks values of a list one after the other with the keyboard, and takes them.
+// Ticks values of a list one after another with the keyboard, and confirms.
 WindowAnswers::Answer tick(const QStringList &values)
 {
     return [values](QDialog &ticks) {

@@ -42,7 +42,7 @@ struct Ticks : testing::Test
             [this](const QString &search) { return source.tickRequest(field, condition, search); }, ticked);
         ASSERT_TRUE(QTest::qWaitFor([&] { return !part<QProgressBar>(dialog, "prgReading").isVisible(); }));
     }
-    // The entries of the list, each with its box and its count: "[x] 北京 2". Those below are indented.
+    // The entries of the list, each with its check box and count: "[x] 北京 2". Children are indented.
     QStringList listed() const
     {
         QStringList lines;

@@ -27,7 +27,7 @@ TEST(FlatCmd, IsFlatUntilItHasTheFocusAndIsPressedLikeAnyButton)
 {
     QWidget window;
     FlatCmd button(u"上移"_s, &window);
-    button.setGeometry(200, 200, 90, 30); // away from where the mouse may stand
+    button.setGeometry(200, 200, 90, 30); // away from the mouse pointer
     window.resize(400, 300);
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));

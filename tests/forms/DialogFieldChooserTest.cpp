@@ -84,7 +84,7 @@ TEST(DialogFieldChooser, ShowsThePictureOfTheCommandThatAsks)
     EXPECT_FALSE(chooser.ChooseSort(u"T"_s, {{u"A"_s, u"A"_s}}, {}));
 }
 
-// What is drawn anew for each dialog stays in Qt's pixmap cache, if only by name.
+// A picture drawn again for each dialog would stay in Qt's pixmap cache, at least by name.
 TEST(DialogFieldChooser, AllDialogsShareThePictureThatNobodyChose)
 {
     std::set<qint64> pictures;

@@ -1,5 +1,5 @@
-// The dialog for files in a host without a translator, where the system has none of its own: its parts and
-// what it asks are in the language of the interface.
+// The file dialog in a host without a translator, on a system without a native dialog: its parts and
+// questions are in the language of the interface.
 #include "forms/FileDialog.h"
 
 #include "language/Language.h"
@@ -38,7 +38,7 @@ protected:
         name(dialog).setFocus();
         name(dialog).selectAll();
         compose(name(dialog), typed);
-        if (QWidget *const offered = QApplication::activePopupWidget()) // the names that begin like this
+        if (QWidget *const offered = QApplication::activePopupWidget()) // the matching names
             QTest::keyClick(offered, Qt::Key_Escape);
     }
     static QAbstractButton *button(QDialog &dialog, const QString &caption)

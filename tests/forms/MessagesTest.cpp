@@ -38,7 +38,7 @@ QStringList captionsOf(const std::function<void()> &show, const std::function<vo
     return captions;
 }
 
-// Has words for all that Qt writes itself.
+// Translates all texts of Qt itself.
 class HostTranslator : public QTranslator
 {
 public:

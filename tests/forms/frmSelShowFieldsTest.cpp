@@ -141,7 +141,7 @@ TEST_F(ShowFields, ClosingTheWindowIsRefused)
     // What both the frame's close box and Alt+F4 arrive as.
     EXPECT_FALSE(dialog.close());
     closeFromTheFrame(dialog);
-    key(dialog, Qt::Key_F4, Qt::AltModifier); // where it arrives as keys
+    key(dialog, Qt::Key_F4, Qt::AltModifier); // if it arrives as a key
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(finished.count(), 0);
     press(dialog, "cmdOK");

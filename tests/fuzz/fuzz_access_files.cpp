@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Refused in words, or read.
+// Either throws an Error or succeeds.
 void attempt(const std::function<void()> &action)
 {
     try {
@@ -57,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     static const QByteArray sound = soundFile();
     static const QTemporaryDir folder(u"/dev/shm/kova-fuzz-XXXXXX"_s);
     QByteArray bytes = sound;
-    // Three bytes of place and one of value each; a place behind the end cuts the file there.
+    // Each change is three bytes of offset and one of value; an offset after the end truncates the file.
     for (std::size_t i = 0; i + 3 < size; i += 4) {
         const qsizetype place = (data[i] << 16 | data[i + 1] << 8 | data[i + 2]) % (sound.size() + 16);
         if (place < bytes.size())

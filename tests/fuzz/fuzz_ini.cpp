@@ -1,4 +1,4 @@
-// INI files: whatever is in one, an entry is read whole or not at all, and nothing behind it changes it.
+// INI files: whatever one contains, an entry is read completely or not at all, whatever follows it.
 #include "FuzzInput.h"
 
 #include "control/settings/Configuration.h"
@@ -15,7 +15,7 @@ namespace {
 
 constexpr qsizetype longest = 254;
 
-// One file for all inputs, in memory where the system has such a folder.
+// One file for all inputs, in memory if the system supports that.
 QString writtenFile(const QByteArray &content)
 {
     static const QTemporaryDir folder(
@@ -31,8 +31,8 @@ QString valueIn(const QByteArray &content)
     return readProfileValue(QStringLiteral("Use3Tier"), QStringLiteral("Server"), writtenFile(content));
 }
 
-// What can be a value as it is: one line without quotes around it, and without byte order marks, which are
-// lost where a text begins.
+// A text that can be a value without changes: one line without quotes around it, and without byte order
+// marks, which are dropped at the start of a text.
 QString asValue(const QString &text)
 {
     QString value = text;

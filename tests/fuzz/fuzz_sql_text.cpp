@@ -45,7 +45,7 @@ void ParseLists(const QString &statement)
     try {
         parsed.ParseSelFieldList(statement);
     } catch (const std::invalid_argument &) {
-        // The declared answer to a list that can't be read.
+        // The documented error for a list that can't be parsed.
     }
     for (const QString &field : writtenFields(statement)) {
         shortFieldName(field);

@@ -55,7 +55,7 @@ sqlite3 *database()
     return db;
 }
 
-// SQLite prepares one statement and says where it ends.
+// SQLite prepares one statement and reports where it ends.
 void checkWithSqlite(const QString &sql)
 {
     const QByteArray text = sql.toUtf8();

@@ -1,4 +1,4 @@
-// Columns that are moved, stay in view and take the width of their texts; what their headings show.
+// Moving and freezing columns, fitting them to their texts, and the marks in their headings.
 #include "grid/ColumnOrder.h"
 #include "grid/FlexGrid.h"
 #include "grid/FlexHeader.h"

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What a tool tip says where the mouse rests, as it is read.
+// The plain text of the tool tip at a position.
 QString tipAt(QWidget &viewport, const QPoint &position)
 {
     QToolTip::hideText();

@@ -1,5 +1,5 @@
-// The filter builder's conditions as each engine understands them: the records that they give are those that
-// a plain loop over the values gives.
+// The filter builder's conditions on each engine: they must return the same records as a plain loop over the
+// values.
 #include "JourneyDatabase.h"
 
 #include "ado/Connection.h"
@@ -26,7 +26,7 @@ struct Values
     std::optional<int> number;
 };
 
-// Letters of one case only: whether case counts is the column's affair.
+// Letters of one case only, because case sensitivity depends on the column.
 std::vector<Values> generatedValues()
 {
     const QStringList pieces{u"'"_s, u"\\"_s, u"%"_s, u"_"_s, u"["_s,   u"]"_s,
@@ -76,7 +76,7 @@ protected:
         fields = source.readFields();
     }
 
-    // The keys of the records that the builder's row gives.
+    // The keys of the records that the builder's row selects.
     QString found(int field, FilterOperator op, const QString &value, const QString &lastValue = {})
     {
         const FilterCondition condition =
@@ -101,7 +101,7 @@ protected:
         return keys.join(u' ');
     }
 
-    // SQLite's ODBC driver takes no emoji in a statement.
+    // SQLite's ODBC driver doesn't support emoji in a statement.
     bool canRead(const QString &wanted) const
     {
         return engine.store != JourneyEngine::SqliteFile || !engine.variable || !wanted.contains(u"🍵");
@@ -189,7 +189,7 @@ TEST_P(BuilderConditions, OnNumbersMeanWhatTheySay)
     EXPECT_EQ(found(number, IsEmpty, {}), expected([](const Values &each) { return !each.number; }));
 }
 
-// A driver can take what is computed for a text.
+// A driver can report a computed value as text.
 TEST_P(BuilderConditions, OnComputedNumbersMeanWhatTheySay)
 {
     table = u"(SELECT id, n - 1 AS less, COUNT(*) AS one\nFROM journey_conditions GROUP BY id, n) Q"_s;

@@ -27,7 +27,7 @@ QStringList EngineStatements::oddNames() const
     QStringList names{u"order"_s,  u"group by"_s, u"no#"_s, u"it's"_s, u"a\"b"_s,
                       u"2023年"_s, u"占比%"_s,    u"A-B"_s, u"a]b"_s};
     if (engine.isFilledBySqlite())
-        names.append(u"where "_s); // MariaDB takes no blank at the end
+        names.append(u"where "_s); // MariaDB doesn't allow a trailing blank
     const QString quote = engine.quoted({}).left(1);
     for (QString &name : names)
         name = engine.quoted(name.replace(quote, quote + quote));
@@ -190,7 +190,7 @@ int EngineStatements::forEachTaken(const std::function<void(const TakenCase &)> 
             ++taken;
             use({all[number], number, statement, *answer});
         } else {
-            leftOut.append(all[number].place); // another engine's words
+            leftOut.append(all[number].place); // syntax of another engine
         }
     }
     return taken;

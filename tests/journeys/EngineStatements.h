@@ -19,7 +19,7 @@ struct StatementAnswer
     std::vector<QStringList> rows;
 };
 
-// A statement that the engine takes.
+// A statement that the engine accepts.
 struct TakenCase
 {
     const Case &c;
@@ -28,7 +28,7 @@ struct TakenCase
     StatementAnswer all;
 };
 
-// A user before the tables of statements.cases, on an engine that may take a statement or not.
+// A user with the tables of statements.cases, on an engine that accepts some of the statements.
 class EngineStatements : public EngineTest
 {
 protected:
@@ -38,13 +38,13 @@ protected:
     // Those of the files, and some for the engine's own quotes.
     std::vector<Case> cases() const;
     QStringList oddNames() const;
-    // Goes over the cases that the engine takes, until a failure that is fatal; answers how many there were.
+    // Calls `use` for the cases that the engine accepts, until a fatal failure; returns their number.
     int forEachTaken(const std::function<void(const TakenCase &)> &use);
     // Runs the commands whose turn it is after this statement. An engine that is tried in one way has all of
     // them. The modes of MariaDB share them, so that together they run each command after each statement: all
     // commands in all modes would take minutes.
     void runShare(const TakenCase &taken, const std::vector<std::function<void()>> &commands) const;
-    // What the engine itself answers; nothing where it doesn't take the statement.
+    // The engine's own result; no value if it rejects the statement.
     std::optional<StatementAnswer> read(const QString &statement) const;
     // At most so many rows.
     static StatementAnswer shownBy(const QTableView &table, int mostRows);
@@ -66,12 +66,12 @@ protected:
     // Whether this item of the popup menu can be chosen; one that can't says why.
     bool canChoose(int item);
     bool canAdd() { return canChoose(8); }
-    // Whether records can be deleted; where they can't, nobody is asked.
+    // Whether records can be deleted; if not, no question is asked.
     bool canDelete() { return canChoose(9); }
     int recordsInTables();
 
     std::shared_ptr<ADODB::Connection> connection;
-    QStringList leftOut; // the places of the cases that the engine doesn't take
+    QStringList leftOut; // the places of the cases that the engine rejects
 };
 
 const std::vector<JourneyEngine> &enginesOfStatements();

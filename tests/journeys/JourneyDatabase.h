@@ -21,7 +21,7 @@ public:
     void run(const QStringList &statements);
     // The first column of the first row, as text.
     QString ask(const QString &statement);
-    // The bytes of the file that the control reads; none where that is a server's affair.
+    // The bytes of the file that the control reads; empty for a server.
     QByteArray fileBytes() const;
     const QString &connectionString() const { return m_connectionString; }
 

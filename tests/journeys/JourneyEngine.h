@@ -16,7 +16,7 @@ struct JourneyEngine
     qint32 dbType;        // AllDBType
     enum Store {
         Server,
-        SqliteFile, // made anew for each journey
+        SqliteFile, // created again for each journey
         AccessFile  // the same, as a copy of a SQLite file; it can only be read
     } store;
     char16_t quote; // around a name in a statement that creates a table

@@ -66,7 +66,7 @@ TEST_F(MiddleTierJourney, ItsServerAndPortStandInForTheDatabases)
     EXPECT_EQ(hands.rows(), 20000);
     EXPECT_EQ(hands.grid.ConnectionString(), dead) << "the host's text stays its own";
 
-    // Every way of asking the database goes the same way.
+    // All kinds of queries use the same route.
     WindowAnswers dialogs({[](QDialog &dialog) { Hands::filter(dialog, u"id <= 10"_s); },
                            [](QDialog &dialog) { Hands::find(dialog, u"name 7"_s); },
                            [](QDialog &dialog) { Hands::sort(dialog, {u"id"_s}, true); }});
@@ -104,8 +104,8 @@ TEST_F(MiddleTierJourney, RefusesAWrongPasswordAsTheDatabaseWould)
         << qUtf8Printable(hands.messages.texts().join(u'|'));
 }
 
-// With transaction pooling each transaction may run in another session of the server: nothing may count on
-// finding what it left there.
+// With transaction pooling, each transaction may run in another session of the server, so nothing may rely on
+// state that it left there.
 TEST_F(MiddleTierJourney, ManyControlsShareAFewSessionsOfTheServer)
 {
     configure(u"Server=127.0.0.1\nPort="_s + portOf(pool));

@@ -1,5 +1,5 @@
-// A record that somebody else changes while a user works on it: he is offered what it is now, and keeps what
-// he wrote.
+// Somebody else changes a record while a user is editing it: he is offered the new values, and his own
+// changes are kept.
 #include "EngineJourney.h"
 
 #include "support/Dialogs.h"

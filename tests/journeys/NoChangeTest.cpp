@@ -23,7 +23,7 @@ protected:
                                database->ask(u"SELECT count(*) FROM journey_orders"_s);
         return counts.toUtf8();
     }
-    // In the place of a condition, each of which would change data if it were run as it stands.
+    // Used instead of a condition; each of them would change data if it were run.
     const QStringList conditions{
         u"1 = 1; DELETE FROM journey_orders"_s,
         u"1 = 1); DELETE FROM journey_orders; SELECT (1"_s,
@@ -86,7 +86,7 @@ TEST_P(NoChange, ByAConditionTypedIntoTheBuilder)
     for (const QString &condition : conditions) {
         WindowAnswers dialogs({[&](QDialog &dialog) {
             Hands::filter(dialog, condition);
-            dialog.close(); // where the builder did not accept it
+            dialog.close(); // if the builder did not accept it
         }});
         hands->click(u"Filter"_s);
         EXPECT_EQ(contents(), before) << qUtf8Printable(condition);

@@ -72,7 +72,7 @@ protected:
         const bool isPostgres = this->isPostgres();
         const QString zoned =
             isPostgres ? u"TIMESTAMP(6) WITH TIME ZONE"_s : QString::fromLatin1(engine.moment);
-        // Moments for days too where a database has no type for days alone.
+        // Dates are timestamps if a database has no date type.
         const QString day = engine.store == JourneyEngine::AccessFile ? u"DATETIME"_s : u"DATE"_s;
         QStringList script{
             u"DROP TABLE IF EXISTS journey_random"_s,
@@ -131,7 +131,7 @@ protected:
         database->run(script);
     }
 
-    // SQLite's ODBC driver takes no emoji in a statement.
+    // SQLite's ODBC driver doesn't support emoji in a statement.
     bool hasEmoji() const { return engine.store != JourneyEngine::SqliteFile || !engine.variable; }
 
     Typed typed(Column column, KOVAVSFDataGridLib::FieldClass fieldClass, Generator &random) const
@@ -170,14 +170,14 @@ protected:
                 keyOf(date.addDays(1))};
     }
 
-    // As the user types it, with quotes where the value holds what separates values.
+    // As typed by the user, with quotes if the value contains a separator.
     static QString filterListItemOf(const QString &value)
     {
         return u'"' + QString(value).replace(u'"', u"\"\""_s) + u'"';
     }
 
     const JourneyEngine &engine = GetParam();
-    const QTimeZone zone{"America/Sao_Paulo"}; // where days began at one o'clock when the clocks were changed
+    const QTimeZone zone{"America/Sao_Paulo"}; // where days began at one o'clock when summer time started
     std::vector<Row> rows;
     std::optional<JourneyDatabase> database;
     std::shared_ptr<ADODB::Connection> connection = std::make_shared<ADODB::Connection>();

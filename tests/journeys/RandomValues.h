@@ -33,8 +33,8 @@ struct Key
 };
 
 using Cell = std::optional<Key>;
-// Loose is a text whose case or whose blanks at the end don't count, and Zoned a moment of a type with a time
-// zone, as far as the engine has these.
+// Loose is a text for which case or trailing blanks are ignored, and Zoned a timestamp with a time zone, if
+// the engine has these.
 enum Column { Text, Number, Day, Moment, YesNo, Loose, Zoned };
 constexpr int columns = 7;
 using Row = std::array<Cell, columns>;
@@ -47,7 +47,7 @@ constexpr bool isText(Column column)
 // How an engine compares the texts of a column.
 struct TextRule
 {
-    bool hasUpperCase = false; // in the order of texts, if case doesn't count
+    bool hasUpperCase = false; // sorted as text, if case is ignored
     bool ignoresCase = false;
     bool ignoresEnd = false; // blanks there
     bool likeIgnoresCase = false;

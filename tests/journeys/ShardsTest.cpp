@@ -1,5 +1,5 @@
-// A table that is spread over several databases: large results, conditions that every database answers by
-// itself, changes of one record, and a database that goes away or stops answering.
+// A table distributed over several databases: large results, conditions evaluated by every database, changes
+// of one record, and a database that is lost or stops responding.
 #include "EngineJourney.h"
 #include "SpreadTable.h"
 

@@ -1,5 +1,5 @@
-// The commands around the statements of statements.cases: what hosts set before a load, conditions of every
-// kind, pages and views. The rows are those that a loop over the statement's own rows takes.
+// Commands on the statements of statements.cases: settings before a load, all kinds of conditions, pages and
+// views. The rows must be those of a loop over the statement's own rows.
 #include "EngineStatements.h"
 
 #include "support/Dialogs.h"
@@ -297,7 +297,7 @@ protected:
     void loadSorted(const QString &statement, const StatementAnswer &all)
     {
         hands->grid.PutSQLShow(statement);
-        hands->messages.clear(); // the list of some can't be taken apart by its words
+        hands->messages.clear(); // some lists can't be split by their words
         hands->grid.PutSQLSort(u"1 DESC"_s);
         ASSERT_TRUE(hands->grid.IsLoadData()) << qUtf8Printable(hands->messages.texts().join(u'|'));
         expectShown(all, "a sorted load");

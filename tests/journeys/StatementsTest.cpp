@@ -1,5 +1,5 @@
-// The statements of statements.cases in the grid, on every engine that takes them: after each command the
-// rows are those that a loop over the statement's own rows takes, and the way back leads to all of them.
+// The statements of statements.cases in the grid, on every engine that accepts them: after each command the
+// rows must be those of a loop over the statement's own rows, and going back must show all of them again.
 #include "EngineStatements.h"
 
 #include "support/Dialogs.h"

@@ -1,4 +1,4 @@
-// How often a control waits for its server. Far away each answer takes as long as the way there and back.
+// How many round trips a control needs. On a remote server, each one takes as long as the network latency.
 #include "EngineJourney.h"
 
 #include "servers/LoopbackProxy.h"
@@ -17,7 +17,7 @@ struct FarServer
     const char *name;
     const char *variable;
     qint32 dbType;
-    // How many trips each takes; what grows fails.
+    // The number of round trips for each; more than that is a failure.
     int load;
     int loadAgain;
     int sort;
@@ -46,7 +46,7 @@ protected:
         ASSERT_TRUE(load());
     }
     bool load() { return hands->load(u"SELECT * FROM far_goods"_s, u"SELECT id,name FROM far_goods"_s); }
-    // How many trips an action takes.
+    // The number of round trips of an action.
     int tripsOf(const char *what, const std::function<void()> &action)
     {
         proxy->forget();

@@ -1,4 +1,4 @@
-// Values at the edge of what engines hold, as they stand in the grid.
+// Values at the limits of what engines support, as the grid shows them.
 #include "EngineJourney.h"
 
 #include "support/Dialogs.h"
@@ -197,7 +197,7 @@ TEST_P(EngineValues, AMomentCanBeTypedAsItIsShown)
     EXPECT_EQ(shown(u"a_moment"_s), other) << "read again";
 }
 
-// PostgreSQL shows the zone of the session behind it. Without one, what is typed is in the session's.
+// PostgreSQL shows the session's time zone after it. A value typed without a zone is in that zone.
 TEST_P(EngineValues, AMomentWithATimeZoneIsTypedInTheSessionsOrItsOwn)
 {
     if (!isPostgres())

@@ -25,7 +25,7 @@ const Types WithValues = Plain + Types{"QVariant", "QByteArray"};
 
 bool isCarried(const QMetaType &type, QByteArray name, const Types &types)
 {
-    // Only events have arguments by reference: an answer of the handler.
+    // Only events have reference arguments, for the handler's answer.
     if (name.endsWith('&'))
         name.chop(1);
     return types.contains(name) || type.flags().testFlag(QMetaType::IsEnumeration);

@@ -1,5 +1,5 @@
-// Which engine it is, and what the host declares, is asked in sql/ and ado/ only: the others ask these how a
-// thing is written or done.
+// Only sql/ and ado/ check which engine it is and what the host declares. The other rooms ask these how
+// something is written or done.
 #include "Rooms.h"
 
 #include <QtCore/QDirIterator>

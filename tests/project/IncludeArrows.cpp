@@ -14,7 +14,7 @@ namespace {
 
 constexpr QLatin1StringView orderedRoom = "src/control/"_L1;
 
-// The folder right below that room which a file is in; empty for a file of another room.
+// The folder directly below that room that contains a file; empty for a file of another room.
 QString orderedFolder(const QString &file)
 {
     return file.startsWith(orderedRoom) ? file.mid(orderedRoom.size()).section(u'/', 0, 0) : QString();
@@ -61,8 +61,8 @@ void IncludeArrows::checkFile(const QString &file)
     }
 }
 
-// Public headers find one another from where they lie, wherever they are installed; everything else is
-// written from src/. A host has its own way to its own files.
+// Public headers include one another by relative paths, wherever they are installed; all other paths are
+// relative to src/. A host has its own convention for its own files.
 QString IncludeArrows::faultOfOwn(const QString &file, const QString &name)
 {
     const QString beside = QDir::cleanPath(QFileInfo(file).path() + u'/' + name);

@@ -8,8 +8,8 @@ namespace KovaTest {
 class IncludeArrows
 {
 public:
-    // Within a room everything may include everything, but the folders of control/ only those that follow
-    // them in `order`. A folder without a place in it is a fault.
+    // Within a room, any file may include any other, but the folders of control/ only those after them in
+    // `order`. A folder that is not listed is an error.
     IncludeArrows(const QString &tree, const Rooms &rooms, const QStringList &order)
         : m_tree(tree), m_rooms(rooms), m_order(order)
     {

@@ -15,7 +15,7 @@ QString contentOf(const QString &path)
     return QString::fromUtf8(file.readAll());
 }
 
-// Hints and captions are there before anything happens; a message ends a sentence, or goes on with a reason.
+// Hints and captions are always visible; a message ends a sentence, or continues with a reason.
 bool isMessage(const QString &name, const QString &text)
 {
     static const QStringList withoutFullStop{u"InsertCancelled"_s, u"AtLeastOneField"_s,

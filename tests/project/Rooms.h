@@ -22,7 +22,7 @@ public:
     QSet<QString> restsOn(const QString &folder) const;
     // Whether it links the finished library, whose public headers it may then include.
     bool isHost(const QString &folder) const;
-    // Whether it links a library itself, and whether it or what it rests on does.
+    // Whether it links a library itself; and whether it or a room that it depends on does.
     bool links(const QString &folder, const QString &library) const;
     bool reaches(const QString &folder, const QString &library) const;
     // From the top of the tree.
@@ -33,7 +33,7 @@ private:
     QSet<QString> m_publicHeaders;
 };
 
-// All of a text file's lines; the running test fails when it can't be read.
+// All lines of a text file; the running test fails if it can't be read.
 QStringList linesOf(const QString &path);
 
 } // namespace KovaTest

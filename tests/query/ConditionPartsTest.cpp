@@ -1,4 +1,4 @@
-// Conditions taken apart and put into words.
+// Splitting conditions and putting them into words.
 #include "query/conditions/ConditionParts.h"
 
 #include <gtest/gtest.h>

@@ -13,7 +13,7 @@ namespace {
 
 const QString kFromT = QStringLiteral("SELECT * FROM T");
 
-// The condition, or "-" when the command ends.
+// The condition, or "-" if the command ends.
 QString like(AllDBType database, const QString &text, const std::vector<TypedField> &fields,
              const QString &statement = kFromT)
 {

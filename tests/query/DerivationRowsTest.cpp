@@ -1,4 +1,4 @@
-// What is derived from any SELECT has the rows, in their order, that a loop over the SELECT's own rows takes.
+// A statement derived from any SELECT returns the rows of a loop over the SELECT's own rows, in their order.
 #include "query/derivation/Derivation.h"
 
 #include "CaseFile.h"

@@ -1,5 +1,5 @@
-// The statements of statements.cases on database servers, as far as those take them: what is derived has the
-// rows that a loop over the statement's own rows takes.
+// The statements of statements.cases that database servers accept: what is derived from them must return the
+// rows of a loop over the statement's own rows.
 #include "query/derivation/Derivation.h"
 
 #include "CaseFile.h"
@@ -27,7 +27,7 @@ struct Server
 {
     const char *variable;
     AllDBType database;
-    int atLeast; // how many of the statements it takes
+    int atLeast; // how many of the statements it accepts
 };
 
 struct Result
@@ -155,7 +155,7 @@ TEST_P(DerivationServers, DerivedStatementsHaveTheRowsOfALoop)
         try {
             all = read(statement);
         } catch (const ADODB::Error &) {
-            continue; // SQLite's own words
+            continue; // syntax of SQLite
         }
         ++taken;
         const Derivation derivation = derivationOf(statement);

@@ -246,7 +246,7 @@ TEST_P(OpenText, IsFilteredByTheValueOfAField)
 INSTANTIATE_TEST_SUITE_P(
     , OpenText,
     testing::Values(
-        // A last word is an alias only where the result calls the field so.
+        // A last word is an alias only if the result names the field like this.
         OpenCase{"Interval", Engine::PostgreSQL, u"select D + interval '1' month from T"_s, u"?column?"_s,
                  "SELECT D + interval '1' month FROM T WHERE (D + interval '1' month) = 1"},
         OpenCase{"TypeOfTwoWords", Engine::PostgreSQL, u"select Q::double precision from T"_s, u"q"_s,

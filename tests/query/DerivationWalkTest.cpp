@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Chooses some of what it is offered.
+// Chooses some of the offered fields.
 class RandomChooser : public FieldChooser
 {
 public:

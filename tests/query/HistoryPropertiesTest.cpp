@@ -20,8 +20,8 @@ struct Entry
     QString key;
 };
 
-// Runs random operations on a history and on the simplest thing that behaves alike: a list of statements and
-// keys.
+// Runs random operations on a history and on the simplest
+// equivalent model: a list of statements and keys.
 class RandomHistory
 {
 public:

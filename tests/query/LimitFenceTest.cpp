@@ -1,4 +1,4 @@
-// Where an engine would choose among more records than a statement with a limit gives; see LimitFence.h.
+// Engines that would select from more records than a limited statement returns; see LimitFence.h.
 #include "query/derivation/Derivation.h"
 
 #include <gtest/gtest.h>

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Whether the answer is the expected one; a null says that nothing is expected of this value.
+// Whether the result is the expected one; null means that any value is accepted.
 bool IsExpected(const QJsonValue &answer, const QJsonValue &expected)
 {
     if (expected.isNull())

@@ -58,7 +58,7 @@ TEST(SqlTextProperties, SplittingAWholeAgainGivesTheSameConditionAndSort)
 {
     StatementMaker make;
     for (int i = 0; i < 20000; ++i) {
-        // A keyword at the very end only becomes one by the blank that joining puts behind it.
+        // A keyword at the very end becomes one only through the blank that joining adds after it.
         const QString statement = make() + u' ';
         const auto sentence = SplitSQLSentence(statement);
         // A sort in front of the condition holds the word WHERE itself, so it can't be told apart again.

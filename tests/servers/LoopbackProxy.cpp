@@ -79,7 +79,7 @@ struct Link
     }
     Q_DISABLE_COPY_MOVE(Link)
 
-    // Passes on what has been under way long enough; false when nobody takes it.
+    // Forwards what has been delayed long enough; false if nobody receives it.
     bool deliver()
     {
         for (std::size_t to : {0U, 1U}) {

@@ -9,14 +9,14 @@
 
 namespace KovaTest {
 
-// Stands between clients and a server on the loopback interface, counts what they say to each other, and can
-// be as slow as a long way. Unix only.
+// A proxy between clients and a server on the loopback interface. Counts their round trips, and can simulate
+// network latency. Unix only.
 class LoopbackProxy
 {
 public:
     enum class From { Client, Server };
-    // Sees all bytes before they are passed on, in a thread of the proxy's. When it answers false, both ends
-    // of that connection go away instead.
+    // Called with all bytes before they are forwarded, in a thread of the proxy. If it returns false, both
+    // ends of that connection are closed.
     using Filter = std::function<bool(From, const QByteArray &)>;
 
     explicit LoopbackProxy(int serverPort, Filter filter = {});
@@ -29,11 +29,11 @@ public:
     // The port that a connection string names.
     static int portOf(const QString &connectionString);
 
-    // How often a client waited for an answer, and how many connections were made, since forget().
+    // The number of waits for an answer and of connections since forget().
     int trips() const { return m_trips; }
     int connections() const { return m_connections; }
     void forget();
-    // How long an answer takes on the way there and back.
+    // The latency of a round trip.
     void setDelay(std::chrono::milliseconds delay) { m_delay = delay; }
 
 private:

@@ -7,8 +7,8 @@
 
 namespace KovaTest {
 
-// A connection of a test's own, past the code under test: it prepares tables and looks what became of them.
-// Every failure fails the test.
+// A test's own connection, independent of the code under test: prepares tables and checks their contents.
+// Every error fails the test.
 class OdbcSession
 {
 public:
@@ -18,7 +18,7 @@ public:
 
     void run(const QString &statement);
     void run(const QStringList &statements);
-    // The first column of the first row as text; empty when there is no row or no value.
+    // The first column of the first row as text; empty if there is no row or no value.
     QString ask(const QString &statement);
 
 private:

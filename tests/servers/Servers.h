@@ -8,11 +8,11 @@ namespace KovaTest {
 // The connection string in an environment variable; empty when that server isn't there.
 QString serverConnection(const char *variable);
 
-// The password in all of them: it may stand in nothing that anybody sees.
+// The password for all of them: it must never be visible anywhere.
 QString markerPassword();
 
 // `what` is start, stop, kill, freeze or thaw, `name` postgresql, pgbouncer or mariadb; see the script
-// server-control. Fails the test when it can't be done.
+// server-control. Fails the test if that fails.
 void controlServer(const char *what, const char *name);
 
 } // namespace KovaTest

@@ -38,8 +38,8 @@ QStringList namesIn(const QString &path, const QString &pattern)
     return wordsIn(textOf(path), pattern);
 }
 
-// The keys of commands in string literals of any kind, but for those that give a constant or a registration
-// its value.
+// The keys of commands in string literals of any kind, except those that initialize a constant or a
+// registration.
 QStringList keysWrittenIn(QString source)
 {
     static const QRegularExpression comment(u"//[^\n]*"_s);
@@ -99,10 +99,10 @@ TEST(Commands, AreThereForEachNamedKey)
     EXPECT_TRUE(ColumnCommand::find(ColumnKeys::FitColumn));
 }
 
-// A key written out where it is used could be that of no command.
+// A key written as a literal might not be that of any command.
 TEST(Commands, AreNamedByConstantsOnly)
 {
-    // These words mean records and columns to export.
+    // Here these words mean records and columns to export.
     const QStringList words{u"All"_s, u"All"_s};
     int files = 0;
     for (const QString &folder : {u"session"_s, u"control"_s, u"activex"_s, u"../apps"_s, u"../designer"_s}) {

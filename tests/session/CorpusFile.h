@@ -7,7 +7,7 @@
 
 namespace KovaTest {
 
-// The texts of a corpus, one a line: \n, \r, \t, \\ and \uXXXX are characters, "#" and a blank begin a
+// The texts of a corpus, one per line: \n, \r, \t, \\ and \uXXXX are characters; "#" and a blank begin a
 // comment.
 inline QStringList readCorpus(const QString &path)
 {

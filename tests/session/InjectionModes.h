@@ -9,7 +9,7 @@
 
 namespace KovaTest {
 
-// An engine, and what is added in front of its connection string so that it reads statements in another way.
+// An engine, and an addition to its connection string that changes how it reads statements.
 struct InjectionMode
 {
     const char *name;
@@ -22,12 +22,12 @@ extern const std::vector<InjectionMode> injectionModes;
 
 std::ostream &operator<<(std::ostream &out, const InjectionMode &mode);
 
-// Every sixth text of the corpus, other ones in each of injectionModes: all of them take many minutes.
-// KOVA_INJECTION=all in the environment chooses all.
+// Every sixth text of the corpus, different ones for each of injectionModes, because all of them take many
+// minutes. KOVA_INJECTION=all in the environment selects all.
 QStringList chosenTexts(const InjectionMode &mode);
 
-// What a statement is made of, whatever texts and names it holds. Texts put together of several pieces, and
-// those that are marked as Unicode, are one text.
+// The structure of a statement, independent of the texts and names in it. Concatenated texts and Unicode
+// texts count as one text.
 QString shapeOf(const KOVAVSFDataGridLib::SqlScanner &sql);
 
 } // namespace KovaTest

@@ -1,6 +1,6 @@
-// Values, names and typed words out of a corpus of attacks, through each way into a statement that a session
-// derives, in each mode of engines and drivers: they give the records that they should give, the tokens of
-// the statement are the same for every text, and a table that no statement names never shows.
+// Values, names and typed words from a corpus of attacks, in every statement that a session derives, in each
+// mode of engines and drivers: they return the right records, the tokens of the statement are the same for
+// every text, and a table that no statement names is never shown.
 #include "InjectionModes.h"
 #include "SessionFixture.h"
 
@@ -148,7 +148,7 @@ protected:
     {
         return dialectOf(static_cast<AllDBType>(engine->dbType), session->result().engine());
     }
-    // The tokens as this mode has them, whatever the session takes it for.
+    // The tokens in this mode, whatever mode the session assumes.
     QString shapeOf(const QString &statement) const
     {
         const SqlDialect reading = engine->isMariaDb()          ? SqlDialect::MySql
@@ -332,7 +332,7 @@ TEST_P(SessionInjection, NamesMeanTheirOwnFieldsAndTables)
         SCOPED_TRACE(name.toStdString());
         const QChar quote(engine->isMariaDb() ? u'`' : u'"');
         const QString quoted = enclosed(quote, name, quote);
-        // What the engine takes for a name.
+        // Names that the engine accepts.
         if (name.endsWith(u' ') || name.toUtf8().size() > 60 || name.contains(u'\r') ||
             (engine->isMariaDb() && (name.contains(u'/') || name.contains(u'\\') || name.contains(u'.'))))
             continue;

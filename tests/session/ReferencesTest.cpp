@@ -1,5 +1,5 @@
-// The values that a field can take because it refers to another table, for keys of each type, on each engine
-// that can be asked for references.
+// The values that a field can have because it references another table, for keys of each type, on each engine
+// that reports references.
 #include "SessionFixture.h"
 
 #include "../journeys/JourneyDatabase.h"

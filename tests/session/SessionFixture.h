@@ -85,7 +85,7 @@ public:
     QStringList messages;
 };
 
-// Writes down what it hears, with the number of rows that are shown then.
+// Records its notifications, with the number of rows shown at the time.
 class PlainHost final : public KOVAVSFDataGridLib::HostEvents
 {
 public:

@@ -80,7 +80,7 @@ TEST_F(Sessions, TheHostsConditionTakesTheDialogsPlace)
 {
     ASSERT_TRUE(load());
     host.cancelFilter = 0;
-    user.condition = u"ID = 1"_s; // which nobody asks for
+    user.condition = u"ID = 1"_s; // not requested by anybody
     session->run(u"Filter"_s);
     EXPECT_EQ(window.rows.size(), 3) << "the host gave no condition";
     EXPECT_EQ(session->texts.sqlFilter, QString());
@@ -253,7 +253,7 @@ TEST_F(Sessions, AskingForRecordsLeavesTheSharedValuesAlone)
     EXPECT_EQ(session->shared.recordPosition, -1);
 }
 
-// A message that nobody expects fails a test, so no command can be called by a key that it doesn't have.
+// An unexpected message fails a test, so no command can be called by a wrong key.
 TEST_F(Sessions, AKeyWithoutACommandFailsTheTestThatUsesIt)
 {
     ASSERT_TRUE(load());

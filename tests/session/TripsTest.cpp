@@ -1,4 +1,4 @@
-// How often a session asks its database: each time is a wait where that is far away.
+// How often a session queries its database: each time is a wait if that is far away.
 #include "SessionFixture.h"
 
 #include "ado/ConnectionString.h"
@@ -51,7 +51,7 @@ private:
     Trips &m_trips;
 };
 
-// SQLite's, and counts.
+// SQLite's provider, with a counter.
 class CountingProvider final : public ADODB::Provider
 {
 public:
@@ -75,7 +75,7 @@ private:
 
 struct CountedTrips : SessionFixture
 {
-    ~CountedTrips() override { session->clear(); } // before its provider goes
+    ~CountedTrips() override { session->clear(); } // before its provider is destroyed
 
     bool load(const QString &statement = u"select * from T"_s, const QString &part = {})
     {

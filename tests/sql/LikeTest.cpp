@@ -53,7 +53,7 @@ TEST(Like, TakesWordsThatBeginAClauseApart)
 
 TEST(Like, MatchesABackslashAsItself)
 {
-    // PostgreSQL's and MariaDB's patterns have it as an escape where no other one is named.
+    // In PostgreSQL and MariaDB it is the default escape if no other one is given.
     expectText(like(oracleServer, u"F"_s, uR"(a\b)"_s, Anchor::Begin), R"(F LIKE 'a\b%' ESCAPE '!')");
     expectText(like(mariaDb, u"F"_s, uR"(a\%)"_s, Anchor::End), R"(F LIKE '%a\\!%' ESCAPE '!')");
 }

@@ -46,7 +46,7 @@ TEST(Predicates, AccessItselfLimitsRowsBeforeTheList)
     constexpr Dialect access{dbAccess, true, false, Engine::Access};
     expectText(rowLimit(access, 5).beforeList, "TOP 5 ");
     expectText(rowLimit(access, 5).behindSort, "");
-    // The reader of its files takes what SQLite takes.
+    // Its files are read through SQLite, so SQLite's syntax is used.
     expectText(rowLimit({dbAccess, false, false, Engine::Access}, 5).behindSort, " LIMIT 5");
 }
 

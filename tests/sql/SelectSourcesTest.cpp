@@ -16,7 +16,7 @@ struct SourcesCase
     SqlDialect reading;
     QString from;
     QString sources; // table=written alias, blanks between; "?" for no table
-    bool isPlain;    // whether * gives the fields of one after the other
+    bool isPlain;    // whether * lists the fields of one source after another
 };
 
 class SelectSources : public testing::TestWithParam<SourcesCase>

@@ -9,10 +9,10 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QTabBar>
 
-// The letters that lead to an entry of a menu or, with Alt, to a part of a window.
+// The access keys of menu entries and, with Alt, of parts of a window.
 namespace KovaTest {
 
-// The captions that share a letter, "A: All Fields / Ascending"; none where each letter means one thing.
+// The captions that share a letter, "A: All Fields / Ascending"; empty if each letter is unique.
 inline QStringList sharedAccessKeys(const QStringList &captions)
 {
     QMap<QString, QStringList> byKey;
@@ -28,7 +28,7 @@ inline QStringList sharedAccessKeys(const QStringList &captions)
     return shared;
 }
 
-// Of the entries that are seen now, the disabled ones too.
+// For the entries that are currently visible, including disabled ones.
 inline QStringList sharedAccessKeys(const QMenu &menu)
 {
     QStringList captions;
@@ -39,7 +39,7 @@ inline QStringList sharedAccessKeys(const QMenu &menu)
     return sharedAccessKeys(captions);
 }
 
-// What a window, its menu bar's entries apart, has for its user now.
+// The captions with access keys in a window, except those inside its menus.
 inline QStringList accessCaptions(const QWidget &window)
 {
     QStringList captions;

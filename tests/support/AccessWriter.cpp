@@ -15,7 +15,7 @@ namespace {
 
 constexpr int pageSize = 4096;
 constexpr int objectsPage = 2;
-constexpr int countAt = 12; // of a data page: how many rows it has
+constexpr int countAt = 12; // of a data page: offset of its row count
 
 template<typename Number>
 QByteArray bytesOf(Number number)
@@ -57,7 +57,7 @@ void rc4(QByteArrayView key, char *bytes, qsizetype size)
     }
 }
 
-// In the row; 0 for what is of variable length.
+// In the row; 0 if the length is variable.
 int fixedSize(AccessType type)
 {
     switch (type) {
@@ -96,7 +96,7 @@ double days(const QString &text)
     return whole < 0 ? whole - time : whole + time;
 }
 
-// A sign and a whole number of 16 bytes in four words, the highest first.
+// A sign and a 16-byte integer in four words, most significant word first.
 QByteArray decimal(const QString &text, int scale)
 {
     const qsizetype point = text.indexOf(u'.');
@@ -135,7 +135,7 @@ int AccessWriter::newPage(const QByteArray &content)
     return static_cast<int>(m_pages.size()) - 1;
 }
 
-// One page for each piece, from the last to the first, each of which says where the next one is.
+// One page per piece, from the last to the first, because each contains the address of the next one.
 quint32 AccessWriter::longValue(const QByteArray &value)
 {
     constexpr qsizetype pieceSize = 4000;
@@ -191,8 +191,8 @@ QByteArray AccessWriter::field(const AccessField &field, const QVariant &value)
     }
 }
 
-// Fixed fields, the others, where those begin (from the last to the first), and a bit for each that is not
-// Null.
+// Fixed fields, the others, the offsets of those (from the last to the first), and a bitmap of the fields
+// that are not Null.
 QByteArray AccessWriter::row(const std::vector<AccessField> &fields, const QVariantList &values)
 {
     QByteArray bytes = bytesOf(static_cast<quint16>(fields.size()));
@@ -227,7 +227,7 @@ QByteArray AccessWriter::row(const std::vector<AccessField> &fields, const QVari
     return bytes + flags;
 }
 
-// Rows fill each page from its end, their places from its beginning.
+// Rows fill each page from its end, their offsets from its start.
 std::vector<int> AccessWriter::dataPages(int definition, const std::vector<QByteArray> &rows)
 {
     constexpr int mostRows = 255;
@@ -250,7 +250,7 @@ std::vector<int> AccessWriter::dataPages(int definition, const std::vector<QByte
     return pages;
 }
 
-// A bit for each page, at once where that is short, else on pages of bits.
+// One bit per page: inline if that is short, else on separate pages.
 quint32 AccessWriter::usageMap(const std::vector<int> &pages)
 {
     constexpr int bitsAtOnce = 512;
@@ -355,7 +355,7 @@ void AccessWriter::addTable(const QString &name, const std::vector<AccessField> 
 
 QByteArray AccessWriter::header() const
 {
-    constexpr qint32 day = 39581; // when the file was made, which also masks its password
+    constexpr qint32 day = 39581; // the creation date of the file, which also masks its password
     QByteArray page(pageSize, '\0');
     put(page, 0, quint32{0x0100});
     page.replace(4, 15, m_version > 1 ? "Standard ACE DB" : "Standard Jet DB");

@@ -9,36 +9,36 @@
 
 namespace KovaTest {
 
-// A column of a table to be written. `size` counts the characters of a Text and the bytes of a Binary.
+// A column of a table to be written. `size` is in characters for Text and in bytes for Binary.
 struct AccessField
 {
     QString name;
     ADODB::AccessType type;
     int size = 0;
-    int precision = 0; // of a Numeric
+    int precision = 0; // for Numeric
     int scale = 0;
     bool isKey = false;
 };
 
-// Makes Access files (in the format of Access 2000) for tests to read, as no library here writes them:
+// Creates Access files (in the format of Access 2000) for tests, because no library here can write them:
 // tables without the indices, relations and forms that Access itself would add.
 class AccessWriter
 {
 public:
     AccessWriter();
 
-    // A value is a number, text or bytes; a Numeric's is its text, a DateTime's the text yyyy-MM-dd HH:mm:ss
-    // and a GUID's its 16 bytes. What is invalid becomes Null.
+    // A value is a number, text or bytes; for Numeric its text, for DateTime the text yyyy-MM-dd HH:mm:ss,
+    // for GUID its 16 bytes. An invalid QVariant becomes Null.
     void addTable(const QString &name, const std::vector<AccessField> &fields,
                   const QList<QVariantList> &records);
-    // What the file lists besides its tables; 5 is the type of a saved query, whose parts stand in a table
-    // MSysQueries.
+    // Adds an object other than a table. Type 5 is a saved
+    // query, whose parts are in a table MSysQueries.
     void addObject(qint32 id, qint16 type, const QString &name) { m_objects.append({id, 0, name, type, 0}); }
     // A password that Access would ask for.
     void setPassword(const QString &password) { m_password = password; }
-    // The Windows number of the language in which texts are sorted.
+    // The Windows language ID that defines the sort order of texts.
     void setLanguage(quint16 language) { m_language = language; }
-    // What turns each page into noise (in a file of the .mdb kind); 0 for none.
+    // Encrypts each page (in a file of the .mdb kind); 0 for no encryption.
     void setKey(quint32 key) { m_key = key; }
     void setVersion(quint8 version) { m_version = version; }
 

@@ -2,7 +2,7 @@
 
 #include <QtGui/QPalette>
 
-// The colours of a dark desktop, as Qt's own style makes them from its system.
+// The colours of a dark desktop, as used by Qt's own style.
 namespace KovaTest {
 
 inline QPalette darkPalette()

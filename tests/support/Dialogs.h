@@ -6,10 +6,10 @@
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QDialog>
 
-// Finding and using a dialog's parts as a person does.
+// Finds and uses the parts of a dialog like a user.
 namespace KovaTest {
 
-// The part of that name; one that isn't there ends the test.
+// The part with that name; fails the test if there is none.
 template<typename T = QWidget>
 T &part(const QWidget &dialog, const char *name)
 {
@@ -24,7 +24,7 @@ inline void press(const QWidget &dialog, const char *name)
     QTest::mouseClick(&part<QAbstractButton>(dialog, name), Qt::LeftButton);
 }
 
-// Shows it and gives it the keyboard.
+// Shows it and sets the focus to it.
 inline void present(QDialog &dialog)
 {
     dialog.show();
@@ -32,14 +32,14 @@ inline void present(QDialog &dialog)
     EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
 }
 
-// Presses a key in whatever part has the keyboard.
+// Presses a key in the part that has the focus.
 inline void key(const QDialog &dialog, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
 {
     ASSERT_NE(dialog.focusWidget(), nullptr);
     QTest::keyClick(dialog.focusWidget(), key, modifiers);
 }
 
-// The names of the parts that the tab key reaches from where the keyboard is, with a blank between them.
+// The names of the parts reached with the tab key from the current focus, separated by blanks.
 inline std::string walkedByTab(const QDialog &dialog, int steps)
 {
     QStringList names;
@@ -50,14 +50,14 @@ inline std::string walkedByTab(const QDialog &dialog, int steps)
     return names.join(QLatin1Char(' ')).toStdString();
 }
 
-// What the frame's close box and Alt+F4 arrive as.
+// The same as the close button of the frame or Alt+F4.
 inline void closeFromTheFrame(const QDialog &dialog)
 {
     QCloseEvent event;
     QCoreApplication::sendEvent(dialog.windowHandle(), &event);
 }
 
-// Text as an input method for Chinese commits it, first shown as letters being composed.
+// Enters text like a Chinese input method: first as letters being composed, then committed.
 inline void compose(QWidget &editor, const QString &text)
 {
     QInputMethodEvent composing(QStringLiteral("pinyin"), {});

@@ -4,7 +4,7 @@
 
 namespace KovaTest {
 
-// While one lives, Qt messages that contain `part` do not fail the test.
+// While one exists, Qt messages that contain `part` do not fail the test.
 class ExpectedWarning
 {
 public:

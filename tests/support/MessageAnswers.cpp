@@ -48,7 +48,7 @@ bool MessageAnswers::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Show) {
         if (const QPointer<QMessageBox> box = qobject_cast<QMessageBox *>(watched)) {
-            // Either may be gone by then.
+            // Either may have been destroyed by then.
             QMetaObject::invokeMethod(
                 this, [this, box] { return box ? answer(*box) : void(); }, Qt::QueuedConnection);
         }

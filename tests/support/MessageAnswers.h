@@ -17,12 +17,12 @@ struct ShownMessage
     QMessageBox::StandardButtons buttons;
     Qt::TextFormat format = Qt::AutoText;
     QString cause;                                               // below the text
-    QMessageBox::StandardButton onEnter = QMessageBox::NoButton; // NoButton when that was left to Qt
-    QStringList captions;                                        // of all its buttons
+    QMessageBox::StandardButton onEnter = QMessageBox::NoButton; // NoButton if Qt decided it
+    QStringList captions;                                        // of all buttons
 };
 
-// While one lives, every message box is answered by a click as soon as it shows: the boxes in order get
-// the given answers, and those behind the last one OK or, where there is none, No.
+// While one exists, every message box is answered by a click as soon as it is shown: the boxes get the given
+// answers in order, and later ones OK or, if there is no such button, No.
 class MessageAnswers : public QObject
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ public:
 
     const std::vector<ShownMessage> &shown() const { return m_shown; }
     QStringList texts() const;
-    // Forgets what was shown and the answers that are left.
+    // Clears the shown messages and the remaining answers.
     void clear();
 
 protected:
@@ -51,7 +51,7 @@ private:
 
     std::vector<QMessageBox::StandardButton> m_answers;
     std::vector<ShownMessage> m_shown;
-    QMap<std::size_t, QString> m_captions; // to be pressed, by the number of the box
+    QMap<std::size_t, QString> m_captions; // the button to press, by the number of the box
 };
 
 } // namespace KovaTest

@@ -6,7 +6,7 @@
 
 namespace KovaTest {
 
-// Looks for the view of the records that have come while a statement is being opened, in any window.
+// Finds, in any window, the view of the first records while a statement is being opened.
 class OpeningView : public QObject
 {
 public:
@@ -14,7 +14,7 @@ public:
 
     // Null while there is none.
     QTableView *view() const { return m_view; }
-    // How often its cells were painted, also when it is gone again.
+    // How often its cells were painted, even if it has been destroyed.
     int paintings() const { return m_paintings; }
 
 protected:

@@ -4,8 +4,8 @@
 
 namespace KovaTest {
 
-// The path of a database file that some tests read; empty where there is none. They are looked for in the
-// folder that KOVA_TEST_DATA names, else in shared/data beside or above the sources.
+// The path of a database file for tests; empty if there is none. Searched in the folder KOVA_TEST_DATA if
+// that is set, else in shared/data beside or above the sources.
 QString sampleFile(const QString &name);
 
 } // namespace KovaTest

@@ -5,12 +5,12 @@
 
 namespace KovaTest {
 
-// A SQLite file of its own in a folder that goes away with it, made by SQLite itself and not by the code
-// under test.
+// A SQLite file in a temporary folder, created by
+// SQLite itself and not by the code under test.
 class TestDatabase
 {
 public:
-    // Runs the script (any number of statements); a failure fails the test.
+    // Runs the script (any number of statements); an error fails the test.
     explicit TestDatabase(const QString &script, const QString &fileName = QStringLiteral("test.db"));
 
     void run(const QString &script);

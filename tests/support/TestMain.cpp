@@ -16,13 +16,13 @@ QStringList &expected()
     return list;
 }
 
-// A warning that nobody announced is a defect of the code under test, so it fails the running test.
+// An unexpected warning is a defect of the code under test, so it fails the running test.
 void onMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     std::fprintf(stderr, "%s\n", qUtf8Printable(text));
     if (type == QtDebugMsg || type == QtInfoMsg)
         return;
-    // What the off-screen platform can't do (limit sizes, raise a menu, grab the keyboard) is no defect.
+    // Missing features of the off-screen platform (limiting sizes, raising, grabbing) are no defect.
     if (text.startsWith(QLatin1StringView("This plugin does not support ")))
         return;
     for (const QString &part : expected()) {
@@ -56,14 +56,14 @@ int main(int argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kova-tests"));
-    // Tests never touch the settings of the person who runs them.
+    // Tests never change the settings of the user who runs them.
     QStandardPaths::setTestModeEnabled(true);
-    const QTemporaryDir settings; // nor those of test programs beside this one
+    const QTemporaryDir settings; // nor those of test programs that run at the same time
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     testing::InitGoogleTest(&argc, argv);
     qInstallMessageHandler(onMessage);
     const int result = RUN_ALL_TESTS();
-    // A box that a control leaves when it ends, about what it could not save, waits for its user.
+    // A message box that a control shows at its end, about unsaved changes, waits for its user.
     QApplication::closeAllWindows();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     qInstallMessageHandler(nullptr);

@@ -53,7 +53,7 @@ bool WindowAnswers::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::Show)
         return QObject::eventFilter(watched, event);
-    const QPointer<WindowAnswers> self(this); // which may end before the answer's turn comes
+    const QPointer<WindowAnswers> self(this); // may be destroyed before the answer's turn
     if (auto *dialog = qobject_cast<QDialog *>(watched); dialog && !qobject_cast<QMessageBox *>(watched))
         QMetaObject::invokeMethod(
             dialog,

@@ -9,9 +9,9 @@ class QDialog;
 
 namespace KovaTest {
 
-// While one lives, each dialog that shows is handed to the next function, which uses and closes it as a
-// person would. A dialog without a function, or one that its function left open, fails the test and is
-// cancelled. Message boxes are not its affair; see MessageAnswers.
+// While one exists, each dialog that is shown is passed to the next function, which uses and closes it like a
+// user. A dialog without a function, or one that its function did not close, fails the test and is cancelled.
+// For message boxes, see MessageAnswers.
 class WindowAnswers : public QObject
 {
     Q_OBJECT
@@ -20,10 +20,10 @@ public:
     using Answer = std::function<void(QDialog &)>;
 
     explicit WindowAnswers(std::deque<Answer> answers = {});
-    // Functions that no dialog came for fail the test.
+    // Fails the test if functions are left for which no dialog was shown.
     ~WindowAnswers() override;
 
-    // The next popup menu that shows gets a click on the item of that object name, or Esc when it is empty.
+    // In the next popup menu, clicks the item with that object name, or presses Esc if it is empty.
     void clickInMenu(const QString &item);
     bool wasMenuShown() const { return m_wasMenuShown; }
 

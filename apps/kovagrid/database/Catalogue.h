@@ -6,13 +6,13 @@
 #include <optional>
 #include <vector>
 
-// What a database has to show.
+// Lists the tables of a database.
 namespace Catalogue {
 
 struct Table
 {
     QString caption;
-    QString name; // as a statement writes it
+    QString name; // its form in SQL
     bool isView = false;
 };
 
@@ -21,7 +21,7 @@ std::vector<Table> read(const QString &connection, qint32 dbType);
 
 QString statementFor(const QString &writtenName);
 
-// The connection string for a file of a database; nothing for any other file.
+// The connection string for a database file; no value for any other file.
 std::optional<QString> connectionForFile(const QString &path);
 
 } // namespace Catalogue

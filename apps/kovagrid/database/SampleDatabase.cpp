@@ -105,7 +105,7 @@ private:
     sqlite3 *m_handle = nullptr;
 };
 
-// An INSERT that is run once for each row of values.
+// An INSERT statement, run once per row.
 class Insert
 {
 public:
@@ -151,7 +151,7 @@ private:
     sqlite3_stmt *m_statement = nullptr;
 };
 
-// The same numbers on every machine, whatever its standard library's distributions do.
+// The same numbers on every machine, whatever its standard library.
 class Dice
 {
 public:
@@ -267,8 +267,8 @@ void create(const QString &fileName)
     database.run("COMMIT");
 }
 
-// In a folder of its own first, so that a start that is broken off leaves no half of a database behind and
-// two starts at once don't write into each other's.
+// Created in a separate folder first, so that an interrupted start leaves no incomplete database, and two
+// processes that start at once don't write to the same file.
 void createInOneStep(const QString &fileName)
 {
     const QTemporaryDir ownFolder(fileName + u".XXXXXX"_s);
@@ -276,9 +276,9 @@ void createInOneStep(const QString &fileName)
         throw std::runtime_error(ownFolder.errorString().toStdString());
     const QString finished = ownFolder.filePath(u"sample.db"_s);
     create(finished);
-    if (isCurrent(fileName)) // another start was faster
+    if (isCurrent(fileName)) // another process was faster
         return;
-    // Takes an older file's place, which QFile would have to remove first.
+    // Replaces an older file; QFile would have to remove it first.
     std::error_code error;
     std::filesystem::rename(finished.toStdU16String(), fileName.toStdU16String(), error);
     if (error && !isCurrent(fileName))

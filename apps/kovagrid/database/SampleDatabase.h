@@ -2,12 +2,12 @@
 
 #include <QtCore/QString>
 
-// The database of a made-up trading company: customers, products with small pictures, and 120,000 orders.
+// The database of a fictitious trading company: customers, products with small pictures, 120,000 orders.
 namespace SampleDatabase {
 
-// The path of the sample database of this user, which is made when it is missing or of an older kind.
-// Several processes may ask at once. Throws std::runtime_error, with a text for the user in UTF-8, when it
-// can't be made.
+// The path of this user's sample database, which is created if it is missing or outdated. Several processes
+// may call this at once. Throws std::runtime_error, with a text for the user in UTF-8, if it can't be
+// created.
 QString path();
 
 QString defaultStatement();

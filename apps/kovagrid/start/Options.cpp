@@ -19,7 +19,7 @@ bool isNumber(const QString &text)
     return ok;
 }
 
-// The number after --print is optional, which the parser can't express.
+// The number after --print is optional, which QCommandLineParser doesn't support.
 QStringList withExplicitPrintRows(const QStringList &arguments)
 {
     QStringList result;

@@ -6,25 +6,25 @@
 
 #include <optional>
 
-// What the command line asks for.
+// The command line options.
 struct Options
 {
-    // Each is empty when it was not given.
+    // Empty if not given.
     QString connection;
     QString sql;
     QString part;
     QString sort;
     QStringList keys; // toolbar buttons to press after the load
     QString screenshot;
-    QSize size{1280, 800}; // of the window in the picture
+    QSize size{1280, 800}; // of the window in the screenshot
     qint32 dbType = 1;     // AllDBType
     qint32 tableType = 0;  // TBLType
     bool print = false;
-    bool isDark = false;          // whatever the system's colours are
-    std::optional<int> printRows; // all of them when not given
+    bool isDark = false;          // dark colours, whatever the system's are
+    std::optional<int> printRows; // all rows if not given
 
-    // Nothing when the arguments (without the program's name) make no sense; `error` then says why.
+    // No value if the arguments (without the program name) are invalid; `error` is then the reason.
     static std::optional<Options> parse(const QStringList &arguments, QString &error);
-    // The language that the arguments ask for, for messages about the others; empty when they don't say.
+    // The language in the arguments, for error messages about the others; empty if there is none.
     static QString language(const QStringList &arguments);
 };

@@ -7,8 +7,8 @@
 
 class QTableView;
 
-// A run that nobody watches: message boxes are closed as soon as they show and their texts kept; other
-// dialogs are cancelled.
+// For a run without a user: message boxes are closed immediately and their texts stored; other dialogs are
+// cancelled.
 class Unattended : public QObject
 {
     Q_OBJECT
@@ -16,12 +16,12 @@ class Unattended : public QObject
 public:
     Unattended();
 
-    // The texts of all message boxes, in order, on one line; empty when there were none.
+    // The texts of all message boxes, in order, on one line; empty if there were none.
     QString messages() const;
     void forgetMessages() { m_messages.clear(); }
 
-    // Writes the shown columns of a grid to standard output as tab-separated text, headings first. False
-    // when that can't be written.
+    // Writes the shown columns of a grid to standard output as tab-separated text with headings. Returns
+    // false if that fails.
     static bool print(const QTableView &grid, std::optional<int> rows);
 
 protected:

@@ -8,8 +8,8 @@ namespace {
 
 constexpr QChar dot(0x2022);
 
-// The end of the value that begins at `from`: in quotes or braces up to the closing one, which is doubled
-// inside, else up to the next semicolon. A value without its closing quote goes on to the end.
+// The end of the value that begins at `from`: after the closing quote or brace, which can be doubled inside,
+// or at the next semicolon. A value without its closing quote extends to the end.
 qsizetype endOfValue(const QString &text, qsizetype from)
 {
     qsizetype at = from;
@@ -31,7 +31,7 @@ qsizetype endOfValue(const QString &text, qsizetype from)
     return end < 0 ? text.size() : end;
 }
 
-// Whether the value is a connection string of its own with a password in it; it is hidden whole then.
+// Whether the value is a connection string with a password; it is then hidden completely.
 bool holdsPassword(const QString &value)
 {
     const QStringList words = value.split(u'=');
@@ -74,7 +74,7 @@ QString ConnectionEdit::masked(const QString &connection)
     return seen;
 }
 
-// What the user typed, pasted or removed lies between what is the same before it and behind the cursor.
+// The edited part is between the unchanged text before it and the text after the cursor.
 void ConnectionEdit::edit(const QString &seen)
 {
     const qsizetype cursor = cursorPosition();
@@ -85,7 +85,7 @@ void ConnectionEdit::edit(const QString &seen)
         ++before;
     m_connection = m_connection.left(before) + seen.mid(before, cursor - before) + m_connection.right(behind);
     const QString hidden = masked(m_connection);
-    // Where dots are involved the line forgets its history of edits, which can't bring passwords back.
+    // If dots are involved, the undo history is cleared, because undo can't restore passwords.
     if (hidden != seen || hidden.contains(dot) || m_seen.contains(dot)) {
         setText(hidden);
         setCursorPosition(static_cast<int>(cursor));

@@ -2,8 +2,8 @@
 
 #include <QtWidgets/QLineEdit>
 
-// A line for a connection string. Passwords in it are seen as dots, also while they are typed, and can't be
-// copied out.
+// A line edit for a connection string. Passwords are shown as dots, even while they are typed, and can't be
+// copied.
 class ConnectionEdit : public QLineEdit
 {
     Q_OBJECT
@@ -11,16 +11,16 @@ class ConnectionEdit : public QLineEdit
 public:
     explicit ConnectionEdit(const QString &connection, QWidget *parent = nullptr);
 
-    // The text with its passwords.
+    // The text including its passwords.
     const QString &connection() const { return m_connection; }
     void setConnection(const QString &connection);
 
-    // The text with a dot in place of each character of its passwords.
+    // The text with each character of its passwords replaced by a dot.
     static QString masked(const QString &connection);
 
 private:
     void edit(const QString &seen);
 
     QString m_connection;
-    QString m_seen; // before the latest edit
+    QString m_seen; // before the last edit
 };

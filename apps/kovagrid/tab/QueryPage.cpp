@@ -65,7 +65,7 @@ QueryPage::QueryPage(const Options &options, QWidget *parent)
 
 QueryPage::~QueryPage()
 {
-    delete m_valuePane; // wherever it is
+    delete m_valuePane; // wherever it is now
 }
 
 QWidget *QueryPage::makeForm()
@@ -160,8 +160,8 @@ qint32 QueryPage::dbType() const
     return m_dbType->currentData().toInt();
 }
 
-// All that a host has to do: say what to show, then load. ConnectionString comes first, since writing it
-// empties the texts of the statement.
+// All that a host must do: set what to show, then load. ConnectionString must be first, because setting it
+// clears the statement properties.
 void QueryPage::setUpGrid()
 {
     m_grid->PutConnectionString(connection());

@@ -12,7 +12,7 @@ class QLineEdit;
 class QToolButton;
 class StatementEdit;
 
-// One tab: what to load above, the grid below.
+// One tab: the form above, the grid below.
 class QueryPage : public QWidget
 {
     Q_OBJECT
@@ -21,31 +21,31 @@ public:
     explicit QueryPage(const Options &options, QWidget *parent = nullptr);
     ~QueryPage() override;
 
-    // Hands what stands in the form to the grid, which tells at once of a statement it can't make out.
+    // Sets the grid's properties from the form. The grid reports immediately if it can't parse the statement.
     void setUpGrid();
-    // Loads it and gives it the keyboard. False when it could not be loaded; the grid has shown the user why.
+    // Loads and sets the focus to the grid. Returns false if it failed; the grid has shown the reason.
     bool load();
-    // Both, as the button does; a connection that opened is kept among the recent ones.
+    // Does both, like the button. If the connection opened, it is added to the recent ones.
     void loadForm();
-    // Puts a statement for a table into the form and loads it.
+    // Fills the form with a statement for a table and loads it.
     void openTable(const QString &name);
-    // Releases the result. False when the user stays with unsaved changes.
+    // Closes the result. Returns false if the user wants to stay with unsaved changes.
     bool closeResult();
 
     KOVAVSFDataGrid *grid() const { return m_grid; }
     StatementEdit *statement() const { return m_sql; }
-    // Shows the value of the current cell. The page deletes it; a window puts it where it has room.
+    // Shows the current cell's value. The page deletes it; the window decides where it is.
     QWidget *valuePane() const { return m_valuePane; }
     QString connection() const;
     void setConnection(const QString &connection);
     qint32 dbType() const;
     double secondsOfLastLoad() const { return m_seconds; }
-    // A few words for the tab.
+    // A short caption for the tab.
     QString caption() const;
 
 Q_SIGNALS:
     void loaded();
-    // The user asks for the pane of the value.
+    // The user wants to see the value pane.
     void valueWanted();
 
 private:

@@ -26,7 +26,7 @@ void RecentConnections::add(const QString &connection)
     try {
         kept = ADODB::ConnectionString(connection).textWithoutPassword();
     } catch (const ADODB::Error &) {
-        return; // nobody can say where its password is
+        return; // it is unknown where its password is
     }
     if (kept.isEmpty())
         return;

@@ -2,8 +2,8 @@
 
 #include <QtWidgets/QPlainTextEdit>
 
-// A box of some lines for a statement. Ctrl+Enter runs it; a name that is dropped goes to where it is
-// dropped.
+// A multi-line editor for a statement. Ctrl+Enter runs
+// it; a name can be dropped anywhere in the text.
 class StatementEdit : public QPlainTextEdit
 {
     Q_OBJECT

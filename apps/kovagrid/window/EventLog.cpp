@@ -45,7 +45,7 @@ void EventLog::hideEvent(QHideEvent *event)
     }
 }
 
-// Every event but DataMouseMove, which would drown the others.
+// All events except DataMouseMove, which is too frequent.
 void EventLog::connectTo(const KOVAVSFDataGrid &grid)
 {
     const auto log = [this](const QString &line) { add(line); };

@@ -5,7 +5,7 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QPlainTextEdit>
 
-// Lists what happened, the newest below.
+// Lists the events, newest last.
 class EventLog : public QPlainTextEdit
 {
     Q_OBJECT
@@ -14,8 +14,8 @@ public:
     explicit EventLog(QWidget *parent = nullptr);
 
     void add(const QString &line);
-    // Adds each event of the grid from now on while this log can be seen. At other times it is not connected:
-    // what a double click does depends on whether somebody listens.
+    // Logs the grid's events while this log is visible. At other times it is not connected, because the
+    // effect of a double click depends on whether the host handles the event.
     void listenTo(const KOVAVSFDataGrid &grid);
 
 protected:

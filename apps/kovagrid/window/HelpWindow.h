@@ -2,5 +2,5 @@
 
 class QWidget;
 
-// Shows all keyboard shortcuts, those of the grid and those of this program.
+// Shows all keyboard shortcuts of the grid and of this program.
 void showShortcuts(QWidget *parent);

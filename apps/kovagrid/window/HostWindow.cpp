@@ -35,7 +35,7 @@ namespace {
 const QString geometryKey = u"geometry"_s;
 const QString stateKey = u"state"_s;
 
-// The files that are dragged; none when something else is.
+// The files being dragged; empty if something else is.
 QStringList filesIn(const QMimeData &data)
 {
     QStringList files;
@@ -125,7 +125,7 @@ void HostWindow::makeMenus()
                     [this] { m_tables->showTablesOf(page()->connection(), page()->dbType(), true); });
     file->addSeparator();
     file->addAction(HostTexts::QuitAction(), QKeySequence::Quit, this, &QWidget::close);
-    QMenu *view = menuBar()->addMenu(HostTexts::ViewMenu()); // brings a closed pane back
+    QMenu *view = menuBar()->addMenu(HostTexts::ViewMenu()); // for showing a closed pane again
     for (QDockWidget *dock : m_docks)
         view->addAction(dock->toggleViewAction());
     view->addSeparator();
@@ -171,7 +171,7 @@ QueryPage *HostWindow::addPage(const Options &options)
     return added;
 }
 
-// On the same database, where there is one.
+// With the current tab's database, if there is one.
 void HostWindow::addEmptyPage()
 {
     Options options;
@@ -191,7 +191,7 @@ void HostWindow::closePage(int index)
     closed->deleteLater();
 }
 
-// The panes follow the tab.
+// Updates the panes for the tab.
 void HostWindow::showPage()
 {
     if (!page() || !isVisible())

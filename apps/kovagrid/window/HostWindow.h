@@ -13,8 +13,8 @@ class QTabWidget;
 class QueryPage;
 class TableList;
 
-// Tabs, each with a statement and its result, and panes for the tables, the record's picture and the raised
-// events around them.
+// Tabs, each with a statement and its result, surrounded by panes for the tables, the record's picture and
+// the raised events.
 class HostWindow : public QMainWindow
 {
     Q_OBJECT
@@ -23,11 +23,11 @@ public:
     explicit HostWindow(const Options &options);
     ~HostWindow() override;
 
-    // From here on the window is its user's: places of its parts and layouts of columns are kept.
+    // From now on, the positions of the window's parts and the column layouts are saved for the user.
     void rememberSettings();
     QueryPage *page() const;
     KOVAVSFDataGrid *grid() const;
-    // Opens a database file in a tab of its own; its first table is shown.
+    // Opens a database file in a new tab and shows its first table.
     void openFile(const QString &path);
 
 protected:
@@ -50,7 +50,7 @@ private:
     TableList *m_tables;
     PicturePane *m_picture;
     EventLog *m_log;
-    QStackedWidget *m_values; // of the tabs
+    QStackedWidget *m_values; // for the tabs
     QList<QDockWidget *> m_docks;
     bool m_remembersSettings = false;
 };

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The grid's result, read by name as every host can; no file is in between.
+// Reads the grid's result by name, as any host can, without a file.
 QPixmap pictureOf(QObject &records)
 {
     if (records.property("RecordCount").toInt() == 0 || records.property("BOF").toBool() ||

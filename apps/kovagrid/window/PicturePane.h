@@ -5,7 +5,7 @@
 
 class KOVAVSFDataGrid;
 
-// The first picture among the fields of the current record, as large as there is room for it.
+// The first picture in the current record, as large as possible.
 class PicturePane : public QLabel
 {
     Q_OBJECT

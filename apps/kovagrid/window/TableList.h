@@ -4,8 +4,8 @@
 
 #include <QtWidgets/QTreeWidget>
 
-// The tables and views of a database. A name can be dragged into a statement; a double click or Enter opens
-// it.
+// The tables and views of a database. A name can be dragged
+// to a statement; a double click or Enter opens it.
 class TableList : public QTreeWidget
 {
     Q_OBJECT
@@ -13,15 +13,15 @@ class TableList : public QTreeWidget
 public:
     explicit TableList(QWidget *parent = nullptr);
 
-    // Reads them again where the connection is another one, or `isForced`. Why they can't be read is shown in
-    // their place.
+    // Reads them again if the connection is another one or with `isForced`. If that fails, the reason is
+    // shown instead.
     void showTablesOf(const QString &connection, qint32 dbType, bool isForced = false);
 
-    // The first table or view as a statement writes it; empty when there is none.
+    // The first table or view in its form for SQL; empty if there is none.
     QString firstName() const;
 
 Q_SIGNALS:
-    // The name as a statement writes it.
+    // The name in its form for SQL.
     void opened(const QString &name);
 
 protected:

@@ -10,7 +10,7 @@
 
 namespace {
 
-// One value on its way to or from the control; frees itself.
+// One value passed to or from the control; frees itself.
 class Value
 {
 public:

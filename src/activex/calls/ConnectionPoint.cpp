@@ -35,7 +35,7 @@ STDMETHODIMP ConnectionPoint::QueryInterface(REFIID iid, void **object)
 {
     if (!object)
         return E_POINTER;
-    // An object of its own, whose life is the container's.
+    // A separate object, whose lifetime is that of the container.
     *object = nullptr;
     if (iid != IID_IUnknown && iid != IID_IConnectionPoint)
         return E_NOINTERFACE;
@@ -70,11 +70,11 @@ STDMETHODIMP ConnectionPoint::Advise(IUnknown *sink, DWORD *cookie)
     const auto ask = [&](REFIID iid) {
         return SUCCEEDED(sink->QueryInterface(iid, reinterpret_cast<void **>(listener.GetAddressOf())));
     };
-    // A listener to events may know them under IDispatch only.
+    // A listener to events may implement them through IDispatch only.
     if (!ask(m_outgoing) && (m_outgoing == IID_IPropertyNotifySink || !ask(IID_IDispatch)))
         return CONNECT_E_CANNOTCONNECT;
     *cookie = ++m_lastCookie;
-    m_sinks[*cookie] = listener; // ComPtr::Attach counts once too often in mingw-w64
+    m_sinks[*cookie] = listener; // ComPtr::Attach adds one reference too many in mingw-w64
     return S_OK;
 }
 

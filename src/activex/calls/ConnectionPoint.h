@@ -9,8 +9,8 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// One outgoing interface of the control and the clients that listen to it. Part of the control: it lives as
-// long, and keeps its container only by the container's own reference.
+// One outgoing interface of the control, with its listeners. Part of the control: it has the same lifetime,
+// and holds its container only through the container's own references.
 class ConnectionPoint final : public IConnectionPoint
 {
 public:
@@ -28,7 +28,7 @@ public:
     STDMETHODIMP EnumConnections(IEnumConnections **connections) override;
 
     REFIID outgoing() const { return m_outgoing; }
-    // Those who listen now; a copy, because a listener may leave while it is notified.
+    // The current listeners. A copy, because a listener may disconnect while it is notified.
     std::vector<Microsoft::WRL::ComPtr<IUnknown>> sinks() const;
     void clear() { m_sinks.clear(); }
 

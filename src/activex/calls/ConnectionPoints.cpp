@@ -51,7 +51,7 @@ STDMETHODIMP ConnectionPoints::FindConnectionPoint(REFIID iid, IConnectionPoint 
     if (!point)
         return E_POINTER;
     *point = nullptr;
-    // Clients that bind late ask for IDispatch and mean the events.
+    // Late-bound clients ask for IDispatch and mean the events.
     if (iid == eventsId || iid == IID_IDispatch)
         *point = &m_events;
     else if (iid == IID_IPropertyNotifySink)

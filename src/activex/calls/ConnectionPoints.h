@@ -10,7 +10,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 class GridControl;
 
-// The control's two outgoing interfaces: its events, and the notification that a property has changed.
+// The control's two outgoing interfaces: its events and the notifications of property changes.
 class ConnectionPoints final : public Part<IConnectionPointContainer>
 {
 public:
@@ -20,7 +20,7 @@ public:
     STDMETHODIMP FindConnectionPoint(REFIID iid, IConnectionPoint **point) override;
 
     EventSource &events() { return *m_source; }
-    // No listener is notified any more.
+    // Stops notifying the listeners.
     void end();
 
 private:

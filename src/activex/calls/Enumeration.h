@@ -7,8 +7,8 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// COM's enumerator over a list that was copied when it was made. `Traits` says how an item is given away:
-// `static Item copy(const Kept &)`.
+// A COM enumerator over a copy of a list. `Traits` defines how an item is copied for the client: `static Item
+// copy(const Kept &)`.
 template<class Interface, class Item, class Kept, class Traits>
 class Enumeration final : public ComObject<Interface>
 {

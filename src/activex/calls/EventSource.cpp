@@ -13,7 +13,7 @@ using Microsoft::WRL::ComPtr;
 
 namespace {
 
-// An argument as a listener receives it: by reference where the signal's own is one.
+// An argument for a listener: by reference if the signal's argument is a reference.
 void putArgument(const QMetaMethod &signal, int index, void *value, VARIANT *argument)
 {
     const QByteArray type = signal.parameterTypeName(index);
@@ -74,7 +74,7 @@ void EventSource::notify(const Event &event, void **arguments)
         ComPtr<IDispatch> listener;
         if (FAILED(sink.QueryInterface(IID_PPV_ARGS(&listener))))
             return;
-        // From right to left, as Invoke wants them.
+        // From right to left, as Invoke requires.
         std::vector<Variant> values(count);
         std::vector<VARIANT> passed(count);
         for (std::size_t i = 0; i < count; ++i) {
@@ -82,7 +82,7 @@ void EventSource::notify(const Event &event, void **arguments)
             passed[count - 1 - i] = *values[i];
         }
         DISPPARAMS parameters{passed.data(), nullptr, static_cast<UINT>(count), 0};
-        // A listener that fails does not concern the control or the other listeners.
+        // An error in a listener must not affect the control or the other listeners.
         listener->Invoke(event.id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr,
                          nullptr, nullptr);
     });
@@ -90,7 +90,7 @@ void EventSource::notify(const Event &event, void **arguments)
 
 void EventSource::notifyAll(ConnectionPoint &point, const std::function<void(IUnknown &)> &notifyOne)
 {
-    // A listener may release the control; the others are notified all the same.
+    // A listener may release the control; the others must still be notified.
     ComPtr<IConnectionPoint> alive(&point);
     const QPointer<EventSource> self(this);
     ++m_telling;

@@ -11,23 +11,23 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 class ConnectionPoint;
 
-// Tells the listeners of a connection point about the signals of an object: each signal that the type library
-// knows as an event becomes one Invoke. Arguments by reference point at the signal's own, so what a listener
-// writes there is what the control goes on with.
+// Forwards the signals of an object to the listeners of a connection point: each signal that is an event in
+// the type library becomes one Invoke. Arguments by reference point to those of the signal, so the control
+// continues with the values that a listener writes.
 class EventSource : public QObject
 {
 public:
     EventSource(const QObject &object, ITypeInfo &events, ConnectionPoint &point);
 
-    // While frozen nothing is reported; freezes nest.
+    // While frozen, no events are sent. Calls can be nested.
     void freeze(bool on);
-    // Calls `notifyOne` for each listener of a connection point of the same control. The control, and this
-    // with it, may be gone when it returns.
+    // Calls `notifyOne` for each listener of a connection point of the same control. The control may have
+    // been destroyed when it returns, and this object with it.
     void notifyAll(ConnectionPoint &point, const std::function<void(IUnknown &)> &notifyOne);
-    // Whether a listener is being notified at the moment.
+    // Whether a listener is currently being notified.
     bool isTelling() const { return m_telling > 0; }
 
-    // Receives every connected signal, so no slot has to be written for any of them.
+    // Receives all connected signals, so no slots need to be written for them.
     int qt_metacall(QMetaObject::Call call, int id, void **arguments) override;
 
 private:

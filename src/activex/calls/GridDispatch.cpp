@@ -51,7 +51,7 @@ STDMETHODIMP GridDispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAM
     const Member *member = m_members.member(id);
     if (!member)
         return DISP_E_MEMBERNOTFOUND;
-    // A member can lead to anything, also to the end of the control.
+    // A call can have any effect, including the destruction of the control.
     const Microsoft::WRL::ComPtr<IUnknown> alive(&m_control.identity());
     if (member->name == u"BackColor")
         return backColor(flags, *parameters, result);

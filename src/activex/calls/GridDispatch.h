@@ -12,8 +12,8 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 class GridControl;
 
-// The dispatch interface, IKOVAVSFDataGrid: its numbers and argument names come from the type library, its
-// behaviour from the widget's meta-object.
+// The dispatch interface, IKOVAVSFDataGrid. Its numbers and argument names are those of the type library; its
+// behaviour is that of the widget's meta-object.
 class GridDispatch final : public Part<IDispatch>
 {
 public:
@@ -28,7 +28,7 @@ public:
     DISPID idOf(const QString &name) const { return m_members.idOf(name); }
 
 private:
-    // The widget's own colour is the one that shows at the moment; automation's can be one of the system's.
+    // The widget's property is the colour shown now; automation's can be a system colour.
     HRESULT backColor(WORD flags, const DISPPARAMS &parameters, VARIANT *result);
 
     HRESULT dataFont(WORD flags, const DISPPARAMS &parameters, VARIANT *result);
@@ -39,7 +39,7 @@ private:
     LiveFont m_dataFont;
 };
 
-// The way of this server's own code to the widget.
+// Gives this server's own code access to the widget.
 class GridHolder final : public Part<ObjectHolder>
 {
 public:

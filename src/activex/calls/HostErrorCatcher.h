@@ -4,9 +4,9 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// Keeps the first error that an object tells its host through the signal HostError while this lives. An
-// object without that signal tells none. Calls can be made inside a call, by the listeners to its events; an
-// error belongs to the innermost of them alone. For the thread of the widgets only.
+// Records the first error that an object reports through its signal HostError while this exists. An object
+// without that signal reports none. Listeners to events can make calls inside a call; an error belongs only
+// to the innermost call. Use it only on the widgets' thread.
 class HostErrorCatcher : public QObject
 {
     Q_OBJECT

@@ -11,7 +11,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 using Microsoft::WRL::ComPtr;
 
-// Hears of every change of one font object. A client can keep that object longer than the control.
+// Receives the changes of one font object. A client can keep that object longer than the control lives.
 class FontListener final : public ComObject<IPropertyNotifySink>
 {
 public:
@@ -21,7 +21,7 @@ public:
 
     STDMETHODIMP OnChanged(DISPID) override
     {
-        // The change can lead a client to give the grid another font.
+        // The change can make a client set another font.
         const ComPtr<IUnknown> alive(static_cast<IPropertyNotifySink *>(this));
         return m_owner ? m_owner->read(&m_font) : S_OK;
     }
@@ -29,7 +29,7 @@ public:
 
 private:
     LiveFont *m_owner;
-    IUnknown &m_font; // not counted: it keeps this
+    IUnknown &m_font; // no reference counted: it owns this object
 };
 
 LiveFont::LiveFont(KOVAVSFDataGrid &grid) : m_grid(grid) {}
@@ -41,7 +41,7 @@ LiveFont::~LiveFont()
 
 HRESULT LiveFont::get(IDispatch **font)
 {
-    // The grid's font can also change without the object.
+    // The grid's font can also be changed without this object.
     if (!m_font || m_grid.DataFont() != m_known) {
         ComPtr<IDispatch> made;
         const HRESULT outcome = fontObject(m_grid.DataFont(), &made);
@@ -55,7 +55,7 @@ HRESULT LiveFont::get(IDispatch **font)
 HRESULT LiveFont::put(IUnknown *font)
 {
     const HRESULT outcome = read(font);
-    // An object that tells nothing of its changes has been read at least.
+    // Even an object without notifications has been read now.
     if (SUCCEEDED(outcome))
         connect(font);
     return outcome;
@@ -86,7 +86,7 @@ HRESULT LiveFont::connect(IUnknown *font)
         return outcome;
     auto *listener = new FontListener(*this, *font);
     m_listener = listener;
-    listener->Release(); // the pointer has a reference of its own
+    listener->Release(); // the pointer holds its own reference
     return m_point->Advise(listener, &m_cookie);
 }
 

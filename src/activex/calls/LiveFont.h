@@ -11,8 +11,8 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 class FontListener;
 
-// The grid's font as the font object that clients hold: `grid.DataFont.Size = 20` changes the grid. A
-// client's own object that it gives to the grid stays connected in the same way.
+// The grid's font as the font object that clients use: `grid.DataFont.Size = 20` changes the grid. A client's
+// own font object, set as the grid's font, stays connected in the same way.
 class LiveFont
 {
 public:
@@ -22,19 +22,19 @@ public:
     LiveFont &operator=(const LiveFont &) = delete;
 
     HRESULT get(IDispatch **font);
-    // Null, or something else than a font, is DISP_E_TYPEMISMATCH.
+    // Returns DISP_E_TYPEMISMATCH for null or anything but a font.
     HRESULT put(IUnknown *font);
 
 private:
     friend class FontListener;
     HRESULT connect(IUnknown *font);
     void disconnect();
-    // Takes over what the object says.
+    // Copies the object's font to the grid.
     HRESULT read(IUnknown *font);
 
     KOVAVSFDataGrid &m_grid;
-    Microsoft::WRL::ComPtr<IDispatch> m_font; // null until a client asks or gives one
-    QFont m_known;                            // what the grid had when the object was last the same
+    Microsoft::WRL::ComPtr<IDispatch> m_font; // null until a client reads or sets it
+    QFont m_known;                            // the grid's font when it was last in sync with the object
     Microsoft::WRL::ComPtr<IConnectionPoint> m_point;
     Microsoft::WRL::ComPtr<FontListener> m_listener;
     DWORD m_cookie = 0;

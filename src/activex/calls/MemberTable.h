@@ -9,30 +9,30 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// What a client can reach under one name: a property, or the methods of that name with their overloads, or
+// What a client can access by one name: a property, or the methods of that name with their overloads, or
 // both.
 struct Member
 {
     QString name;
-    QMetaProperty property; // invalid when there is none
+    QMetaProperty property; // invalid if there is none
     std::vector<QMetaMethod> methods;
 };
 
-// The members of a class by number, and their numbers by name in any letter case. Only what the class itself
-// declares counts, never what it inherits from Qt.
+// The members of a class by number, and their numbers by name (case-insensitive). Contains only what the
+// class itself declares, not what it inherits from Qt.
 class MemberTable
 {
 public:
-    // Numbered from 1 as they are declared. DISPID_VALUE is "Value", "Item" or "Fields", whichever
-    // the class has.
+    // Numbered from 1 in the order of declaration. DISPID_VALUE is "Value", "Item" or "Fields", whichever the
+    // class has.
     explicit MemberTable(const QMetaObject &type);
-    // Numbered as a type library does; what it does not know is left out.
+    // Numbered as in a type library; members that are not in it are omitted.
     MemberTable(const QMetaObject &type, ITypeInfo &numbers);
 
-    // The table of an object that is in no type library; made once for each class.
+    // The table for objects that are in no type library; created once per class.
     static const MemberTable &of(const QMetaObject &type);
 
-    DISPID idOf(const QString &name) const; // DISPID_UNKNOWN when there is no such member
+    DISPID idOf(const QString &name) const; // DISPID_UNKNOWN if there is no such member
     const Member *member(DISPID id) const;
 
 private:

@@ -24,7 +24,7 @@ HRESULT raise(qint32 number, const QString &description, EXCEPINFO *exception)
 {
     if (exception) {
         *exception = {};
-        // Numbers of Visual Basic's kind travel in the facility that is meant for them.
+        // Visual Basic's error numbers use their own facility.
         if (number > 0 && number <= 0xFFFF)
             exception->scode = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, number);
         else
@@ -47,7 +47,7 @@ bool isOmitted(const VARIANT &argument)
     return value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND;
 }
 
-// The arguments from left to right; DISPPARAMS has them from right to left, and those given by name first.
+// The arguments from left to right. In DISPPARAMS they are from right to left, with named ones first.
 HRESULT argumentsIn(const DISPPARAMS &parameters, Arguments &arguments)
 {
     const UINT positional = parameters.cArgs - parameters.cNamedArgs;
@@ -73,7 +73,7 @@ UINT placeOf(const VARIANT *argument, const DISPPARAMS &parameters)
 class MethodCall
 {
 public:
-    // Takes the arguments as this overload wants them. On failure `bad` is the one that does not fit.
+    // Converts the arguments for this overload. On failure, `bad` is the one that does not fit.
     HRESULT prepare(const QMetaMethod &method, const Arguments &arguments, const VARIANT **bad)
     {
         m_method = method;
@@ -131,7 +131,7 @@ bool isNumber(const VARIANT &argument)
     }
 }
 
-// The overload for these arguments: the number of them decides, then whether the first one is a number.
+// Chooses the overload by the number of arguments, then by whether the first one is a number.
 const QMetaMethod *overloadFor(const Member &member, const Arguments &arguments)
 {
     const QMetaMethod *best = nullptr;
@@ -180,7 +180,7 @@ HRESULT getOrCall(QObject &object, const Member &member, const DISPPARAMS &param
     return result ? fromQt(answer, result) : S_OK;
 }
 
-// `records("name") = "Li"`: the value is for the object that the arguments lead to, for its default property.
+// `records("name") = "Li"`: sets the default property of the object that the arguments lead to.
 HRESULT putDefaultProperty(QObject &object, const Member &member, const DISPPARAMS &parameters,
                            EXCEPINFO *exception, UINT *badArgument)
 {

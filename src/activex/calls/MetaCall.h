@@ -8,12 +8,12 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 struct Member;
 
-// Carries out one IDispatch::Invoke on a member of an object, with Invoke's own meaning of the arguments and
-// results. What the object tells through its signal HostError, and every exception, becomes `exception`.
+// Performs IDispatch::Invoke on a member of an object; the arguments and results are those of Invoke. An
+// error reported by the object's signal HostError, or an exception, is returned in `exception`.
 HRESULT metaCall(QObject &object, const Member &member, WORD flags, DISPPARAMS &parameters, VARIANT *result,
                  EXCEPINFO *exception, UINT *badArgument);
 
-// The failure of a call on an object that is gone.
+// The error of a call on a destroyed object.
 HRESULT objectGone(EXCEPINFO *exception);
 
 } // namespace KOVAVSFDataGridLib::ActiveX

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Those that clients hold at present, so that one object always has the same COM identity.
+// Those that clients currently hold, so that one object always has the same COM identity.
 std::unordered_map<const QObject *, ObjectDispatch *> &dispatchObjects()
 {
     static std::unordered_map<const QObject *, ObjectDispatch *> objects;
@@ -37,7 +37,7 @@ struct ItemCopy
 
 using Items = Enumeration<IEnumVARIANT, VARIANT, ComPtr<IDispatch>, ItemCopy>;
 
-// What `For Each` walks over: the items of an object that has ADO's members Count and Item.
+// The items for `For Each`: those of an object with ADO's members Count and Item.
 HRESULT enumerate(QObject &collection, VARIANT *result)
 {
     const MemberTable &members = MemberTable::of(*collection.metaObject());
@@ -71,7 +71,7 @@ IDispatch *ObjectDispatch::of(QObject *object)
     if (!object)
         return nullptr;
     const auto known = dispatchObjects().find(object);
-    // An address can come to a new object while a client still holds the old one's.
+    // A new object can have the address of a destroyed one that a client still holds.
     if (known != dispatchObjects().end() && known->second->m_object) {
         known->second->AddRef();
         return known->second;
@@ -116,7 +116,7 @@ STDMETHODIMP ObjectDispatch::GetIDsOfNames(REFIID, LPOLESTR *names, UINT count, 
     if (!m_object || count == 0)
         return DISP_E_UNKNOWNNAME;
     ids[0] = MemberTable::of(*m_object->metaObject()).idOf(toQString(names[0]));
-    // Arguments have no names here.
+    // Named arguments are not supported.
     return ids[0] == DISPID_UNKNOWN || count > 1 ? DISP_E_UNKNOWNNAME : S_OK;
 }
 

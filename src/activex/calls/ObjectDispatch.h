@@ -9,12 +9,12 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// An object that the control hands out (a recordset, its fields, the data control), for clients that know
-// names only. It does not keep the object: once that is gone, calls fail with RPC_E_DISCONNECTED.
+// The dispatch interface of an object that the control returns (a recordset, its fields, the data control),
+// for late-bound clients. Does not keep the object alive: after its end, calls fail with RPC_E_DISCONNECTED.
 class ObjectDispatch final : public ComObject<IDispatch, ObjectHolder>
 {
 public:
-    // The one of an object, with a reference for the caller. Null for null.
+    // Returns the interface of an object, with a reference for the caller. Null for null.
     static IDispatch *of(QObject *object);
 
     STDMETHODIMP GetTypeInfoCount(UINT *count) override;

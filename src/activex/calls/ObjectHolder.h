@@ -6,11 +6,11 @@ class QObject;
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// How this server's own code finds the QObject behind one of its COM objects: the property pages need it, and
+// Lets this server's own code get the QObject of one of its COM objects: for the property pages, and for
 // arguments that are objects. In the same process only.
 struct ObjectHolder : public IUnknown
 {
-    // Null once the object is gone.
+    // Null after the object was destroyed.
     virtual QObject *STDMETHODCALLTYPE held() = 0;
 };
 

@@ -20,7 +20,7 @@ HRESULT fontObject(const QFont &font, IDispatch **object)
     FONTDESC description{};
     description.cbSizeofstruct = sizeof description;
     description.lpstrName = const_cast<LPOLESTR>(reinterpret_cast<const OLECHAR *>(family.utf16()));
-    // A currency counts ten-thousandths.
+    // A currency is an integer in units of 1/10000.
     description.cySize.int64 = std::llround(QFontInfo(font).pointSizeF() * 10000);
     description.sWeight = static_cast<SHORT>(font.weight());
     description.sCharset = DEFAULT_CHARSET;

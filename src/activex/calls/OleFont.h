@@ -6,10 +6,10 @@ class QFont;
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// A new font object (IFontDisp) for a client.
+// Creates a font object (IFontDisp) for a client.
 HRESULT fontObject(const QFont &font, IDispatch **object);
-// The font that a client's font object describes. Null, or something else than a font, is
-// DISP_E_TYPEMISMATCH.
+// The font of a client's font object. Returns
+// DISP_E_TYPEMISMATCH for null or anything but a font.
 HRESULT fontFromObject(IUnknown *object, QFont *font);
 
 } // namespace KOVAVSFDataGridLib::ActiveX

@@ -20,16 +20,16 @@ using Microsoft::WRL::ComPtr;
 
 namespace {
 
-// Day 0 of automation's dates.
+// Day 0 of automation dates.
 const QDate dayZero(1899, 12, 30);
 constexpr qint64 millisecondsPerDay = 86'400'000;
 
 QDateTime toDateTime(DATE date)
 {
-    // Days before day 0 are negative, the time of day always counts forwards.
+    // Days before day 0 are negative, but the time of day always counts forwards.
     const double days = std::trunc(date);
     const qint64 milliseconds = std::llround(std::abs(date - days) * millisecondsPerDay);
-    // What the clock shows, not the time since midnight: those differ on the days when summer time changes.
+    // The local time, not the time since midnight: they differ on days when summer time begins or ends.
     return QDateTime(dayZero.addDays(static_cast<qint64>(days) + milliseconds / millisecondsPerDay),
                      QTime::fromMSecsSinceStartOfDay(static_cast<int>(milliseconds % millisecondsPerDay)));
 }
@@ -73,7 +73,7 @@ HRESULT putBytes(const QByteArray &bytes, VARIANT *result)
     return S_OK;
 }
 
-// A list, or a list of lists that are equally long: one dimension more, with the outer index first.
+// A list, or a list of lists of equal length, which becomes two-dimensional with the outer index first.
 HRESULT putList(const QVariantList &list, VARIANT *result)
 {
     const bool isTable = !list.isEmpty() && list[0].typeId() == QMetaType::QVariantList;
@@ -122,13 +122,13 @@ HRESULT putInteger(qint64 number, VARIANT *result)
         result->lVal = static_cast<LONG>(number);
         return S_OK;
     }
-    // Scripts cannot compute with VT_I8.
+    // Scripts can't handle VT_I8.
     const HRESULT changed = VarDecFromI8(number, &result->decVal);
     result->vt = VT_DECIMAL;
     return changed;
 }
 
-// The value as one of automation's basic types, whatever it came as.
+// Converts the value to one of automation's basic types.
 HRESULT change(const VARIANT &value, VARTYPE type, Variant &changed)
 {
     return VariantChangeTypeEx(changed.get(), const_cast<VARIANT *>(&value), LOCALE_INVARIANT,
@@ -138,11 +138,11 @@ HRESULT change(const VARIANT &value, VARTYPE type, Variant &changed)
 template<typename T>
 QVariant numberAs(QMetaType wanted, T number)
 {
-    // An enumeration's QVariant holds the enumeration's own type, of the size of its numbers.
+    // A QVariant with the enumeration's own type and the size of its values.
     return QVariant(wanted, &number);
 }
 
-// A text can have characters of number 0 inside.
+// A text can contain NUL characters.
 QString textIn(BSTR text)
 {
     return QString::fromWCharArray(text, static_cast<qsizetype>(SysStringLen(text)));
@@ -195,12 +195,12 @@ QVariant anything(const VARIANT &value, HRESULT *outcome)
     case VT_DATE:
         return toDateTime(value.date);
     case VT_BSTR:
-    case VT_CY: // as text they stay exact
+    case VT_CY: // exact as text
     case VT_DECIMAL:
     case VT_UI8:
         *outcome = change(value, VT_BSTR, changed);
         return SUCCEEDED(*outcome) ? QVariant(textIn(changed->bstrVal)) : QVariant();
-    case VT_ERROR: // an argument that was left out
+    case VT_ERROR: // an omitted argument
         if (value.scode != DISP_E_PARAMNOTFOUND)
             *outcome = DISP_E_TYPEMISMATCH;
         return {};
@@ -253,7 +253,7 @@ HRESULT toQtPlain(const VARIANT &value, QMetaType wanted, QVariant *result)
         *result = changed->llVal;
         return outcome;
     case QMetaType::QColor:
-        // Through 64 bits: system colours have the sign bit of 32 set, and some clients send them unsigned.
+        // Uses 64 bits: system colours have bit 31 set, and some clients pass them as unsigned.
         outcome = toQtPlain(value, QMetaType(QMetaType::LongLong), result);
         if (SUCCEEDED(outcome))
             *result = OleColor(static_cast<quint32>(result->toLongLong())).in(QGuiApplication::palette());
@@ -339,7 +339,7 @@ HRESULT fromQt(const QVariant &value, VARIANT *result)
         const QDateTime moment = value.metaType().id() == QMetaType::QTime
                                      ? QDateTime(dayZero, value.toTime())
                                      : value.toDateTime();
-        // Automation's calendar has no other years.
+        // Automation dates don't support other years.
         if (moment.date().year() < 100 || moment.date().year() > 9999)
             return putText(value.toString(), result);
         putDate(moment, result);

@@ -4,10 +4,10 @@
 
 #include <oaidl.h>
 
-// Between automation's values and Qt's.
+// Converts between automation values and Qt values.
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// A VARIANT that frees what it holds.
+// A VARIANT that frees its contents.
 class Variant
 {
 public:
@@ -24,20 +24,20 @@ private:
     VARIANT m_value;
 };
 
-// The value as a QVariant of the wanted type. Numbers of every width, texts and Booleans change into one
-// another as automation changes them; colours are OLE_COLORs and fonts IFontDisp objects. Answers
-// DISP_E_TYPEMISMATCH or DISP_E_OVERFLOW when it does not fit.
+// Converts a value to a QVariant of the wanted type. Numbers of any size, texts and Booleans are converted to
+// one another by automation's rules; colours are OLE_COLORs and fonts IFontDisp objects. Returns
+// DISP_E_TYPEMISMATCH or DISP_E_OVERFLOW if it does not fit.
 HRESULT toQt(const VARIANT &value, QMetaType wanted, QVariant *result);
 
-// The value for a client, into a VARIANT that holds nothing. Every type here is one that scripts can carry:
-// whole numbers too large for 32 bits travel as VT_DECIMAL. An invalid QVariant is Null.
+// Converts a value for a client, into an empty VARIANT. All types used are supported by scripts: integers too
+// large for 32 bits become VT_DECIMAL. An invalid QVariant becomes Null.
 HRESULT fromQt(const QVariant &value, VARIANT *result);
 
 inline QString toQString(const wchar_t *text)
 {
     return QString::fromWCharArray(text);
 }
-// Null only when memory is out.
+// Null only if out of memory.
 BSTR toBstr(const QString &text);
 
 } // namespace KOVAVSFDataGridLib::ActiveX

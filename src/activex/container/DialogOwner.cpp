@@ -11,7 +11,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 namespace {
 
-// Where the window is, or will be once it is no icon any more.
+// The window's position, or the one after it is restored from an icon.
 RECT placeOf(HWND window)
 {
     WINDOWPLACEMENT placement{};
@@ -35,7 +35,7 @@ void centre(HWND dialog, HWND owner)
     const LONG width = own.right - own.left;
     const LONG height = own.bottom - own.top;
     const RECT &room = monitor.rcWork;
-    // A dialog that is larger than the screen shows its title.
+    // If a dialog is larger than the screen, its title stays visible.
     const LONG x = std::max(room.left, std::min((over.left + over.right - width) / 2, room.right - width));
     const LONG y = std::max(room.top, std::min((over.top + over.bottom - height) / 2, room.bottom - height));
     SetWindowPos(dialog, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -57,13 +57,13 @@ DialogOwner::~DialogOwner()
 bool DialogOwner::nativeEventFilter(const QByteArray &, void *message, qintptr *)
 {
     const auto &received = *static_cast<const MSG *>(message);
-    // Comes after Qt's own choice of the owner, which is none, and before the window is seen.
+    // Qt has then set the owner (to none), and the window is not visible yet.
     if (received.message == WM_SHOWWINDOW && received.wParam != FALSE) {
         if (const QWidget *dialog = dialogOf(received.hwnd))
             take(received.hwnd, !dialog->testAttribute(Qt::WA_Moved));
     } else if (received.message == WM_DESTROY) {
-        // The host destroyed its window, and the system all that it owned. Without an end of the dialog, its
-        // loop would never return.
+        // The host destroyed its window, and with it the system destroyed all windows owned by it. The dialog
+        // must be ended too, or its loop would never return.
         if (auto *dialog = qobject_cast<QDialog *>(dialogOf(received.hwnd)); dialog && dialog->isVisible())
             QTimer::singleShot(0, dialog, &QDialog::reject);
     }
@@ -75,7 +75,7 @@ QWidget *DialogOwner::dialogOf(HWND window) const
     QWidget *found = QWidget::find(reinterpret_cast<WId>(window));
     if (!found || !found->isWindow() || found == &m_widget || !found->parentWidget())
         return nullptr;
-    // One above another dialog belongs to that one, which Qt sees to. Menus and tips are no dialogs.
+    // A dialog above another one is owned by that one, which Qt handles. Menus and tool tips are not dialogs.
     const bool isDialog = found->windowType() == Qt::Dialog || found->windowType() == Qt::Window;
     return isDialog && found->parentWidget()->window() == &m_widget ? found : nullptr;
 }
@@ -96,7 +96,7 @@ void DialogOwner::cancelDialogs()
         auto *dialog = qobject_cast<QDialog *>(widget);
         if (!dialog || !dialog->isVisible())
             continue;
-        // A message box without a button for it refuses to be closed, but not this.
+        // A message box without a Cancel button ignores close(), but not done().
         for (const QWidget *parent = dialog->parentWidget(); parent; parent = parent->parentWidget()) {
             if (parent == &m_widget) {
                 dialog->done(QDialog::Rejected);

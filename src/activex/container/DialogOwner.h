@@ -8,9 +8,9 @@ class QWidget;
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// Makes the host's window the owner of the dialogs that an embedded widget opens, so that they stay in front
-// of it, and places them over it. Qt does neither, because it knows nothing of the host's window. For as long
-// as the widget is embedded.
+// Makes the host's window the owner of the dialogs that an embedded widget opens, and centres them over it,
+// so that they stay in front of it. Qt does neither, because it does not know the host's window. Exists while
+// the widget is embedded.
 class DialogOwner final : public QAbstractNativeEventFilter
 {
 public:
@@ -19,11 +19,11 @@ public:
 
     bool nativeEventFilter(const QByteArray &type, void *message, qintptr *result) override;
 
-    // Ends the dialogs that are open, as if the user had cancelled them: their place is gone.
+    // Ends all open dialogs as if the user had cancelled them, because the host's window goes away.
     void cancelDialogs();
 
 private:
-    QWidget *dialogOf(HWND window) const; // null for a window that is none of the widget's dialogs
+    QWidget *dialogOf(HWND window) const; // null if the window is not one of the widget's dialogs
     void take(HWND dialog, bool place) const;
 
     QWidget &m_widget;

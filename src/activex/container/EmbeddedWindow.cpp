@@ -20,9 +20,9 @@ EmbeddedWindow::EmbeddedWindow(QWidget &widget, std::function<void()> entered,
       m_blocked(std::move(blocked))
 {
     m_widget.setWindowFlags(Qt::FramelessWindowHint);
-    // … and on where the keyboard is.
+    // … and on the keyboard focus.
     m_widget.setAttribute(Qt::WA_ShowWithoutActivating);
-    // The container decides on the size; what insists on more is cut off at the edge.
+    // The container decides on the size; what does not fit is clipped.
     m_widget.setMinimumSize(1, 1);
 }
 
@@ -35,7 +35,7 @@ void EmbeddedWindow::attach(HWND parent, const RECT &position, const RECT &clip)
 {
     renew();
     m_parent.reset(QWindow::fromWinId(reinterpret_cast<WId>(parent)));
-    // A window that is no child yet would become the active one by its change of parent.
+    // A window that is not yet a child would be activated by the change of its parent.
     const auto window = reinterpret_cast<HWND>(m_widget.winId());
     const LONG style = GetWindowLongW(window, GWL_STYLE) & ~static_cast<LONG>(WS_POPUP);
     SetWindowLongW(window, GWL_STYLE, style | WS_CHILD);
@@ -44,7 +44,7 @@ void EmbeddedWindow::attach(HWND parent, const RECT &position, const RECT &clip)
     m_dialogs = std::make_unique<DialogOwner>(m_widget);
     place(position, &clip);
     m_widget.show();
-    place(position, &clip); // showing may have moved it
+    place(position, &clip); // showing it may have moved it
 }
 
 void EmbeddedWindow::renew()
@@ -53,14 +53,14 @@ void EmbeddedWindow::renew()
     if (!window || IsWindow(reinterpret_cast<HWND>(m_widget.winId())))
         return;
     window->destroy();
-    m_widget.setParent(nullptr, m_widget.windowFlags()); // forgets the handle
+    m_widget.setParent(nullptr, m_widget.windowFlags()); // resets the handle
 }
 
 void EmbeddedWindow::detach()
 {
     if (!m_parent)
         return;
-    // Before the host's window can be used again, because the dialogs are in front of it.
+    // Before the host's window is enabled again, because the dialogs are in front of it.
     m_dialogs->cancelDialogs();
     m_dialogs.reset();
     unblock();
@@ -74,7 +74,7 @@ void EmbeddedWindow::place(const RECT &position, const RECT *clip)
 {
     if (!m_parent)
         return;
-    // In the system's own pixels: the container does not know Qt's scaling.
+    // In physical pixels: the container does not know Qt's scaling.
     SetWindowPos(handle(), nullptr, position.left, position.top, position.right - position.left,
                  position.bottom - position.top, SWP_NOZORDER | SWP_NOACTIVATE);
     RECT visible{};
@@ -103,7 +103,7 @@ HWND EmbeddedWindow::handle() const
 
 bool EmbeddedWindow::wants(const MSG &message) const
 {
-    // A character has other numbers than a key, and with Alt down keys are the container's.
+    // Character codes differ from key codes, and keys pressed with Alt belong to the container.
     if (!m_parent || (message.message != WM_KEYDOWN && message.message != WM_KEYUP) ||
         (message.hwnd != handle() && !IsChild(handle(), message.hwnd)))
         return false;
@@ -122,7 +122,7 @@ bool EmbeddedWindow::wants(const MSG &message) const
         return true;
     case VK_RETURN:
     case VK_ESCAPE: {
-        // The grid itself has no use for them; a form has buttons that they press.
+        // The grid itself doesn't use these keys, but a form's buttons do.
         const QWidget *focused = QApplication::focusWidget();
         return focused && focused->objectName() != GridParts::gridName;
     }
@@ -136,7 +136,7 @@ bool EmbeddedWindow::tabStaysInside(bool backwards) const
     const QWidget *focused = QApplication::focusWidget();
     if (!focused)
         return false;
-    // The chain is a ring through the widget itself: past that, the next stop is the container's.
+    // The focus chain is a ring through the widget itself: after that, the next stop is the container's.
     for (const QWidget *next = focused;;) {
         next = backwards ? next->previousInFocusChain() : next->nextInFocusChain();
         if (next == &m_widget || next == focused)
@@ -147,12 +147,12 @@ bool EmbeddedWindow::tabStaysInside(bool backwards) const
     }
 }
 
-// Qt keeps its own windows from the user while a modal dialog is open, and knows nothing of the host's.
+// Qt disables only its own windows while a modal dialog is open; it does not know the host's.
 void EmbeddedWindow::block()
 {
     const HWND top = GetAncestor(handle(), GA_ROOT);
     if (EnableWindow(top, FALSE))
-        return; // a dialog of the host's own is open already
+        return; // the host already has a dialog open
     m_disabled = top;
     m_blocked(true);
 }
@@ -168,7 +168,7 @@ void EmbeddedWindow::unblock()
 bool EmbeddedWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonPress) {
-        // The system gives a child window neither activation nor focus on a click.
+        // The system neither activates a child window on a click nor gives it the focus.
         setKeyboardFocus();
         m_entered();
     } else if (event->type() == QEvent::FocusIn) {

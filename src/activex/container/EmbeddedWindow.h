@@ -13,26 +13,26 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 class DialogOwner;
 
-// A widget as a child of a window that Qt knows nothing about. The container's message loop drives it: Qt's
-// own windows take their messages from whatever loop runs on the thread.
+// A widget as a child of a window that Qt does not know. The container's message loop drives it: Qt's windows
+// receive their messages from any loop that runs on their thread.
 class EmbeddedWindow : public QObject
 {
 public:
-    // `entered` is called when the user clicks into the widget or the keyboard arrives in it; `focused` when
-    // the keyboard arrives (true) and when it leaves (false); `blocked` when a modal dialog of Qt's opens
-    // (true) and when the last one has gone (false).
+    // `entered` is called when the user clicks the widget or it gets the focus; `focused` when it gets the
+    // focus (true) and loses it (false); `blocked` when a modal Qt dialog opens (true) and when the last one
+    // has closed (false).
     EmbeddedWindow(QWidget &widget, std::function<void()> entered, std::function<void(bool)> focused,
                    std::function<void(bool)> blocked);
     ~EmbeddedWindow() override;
 
-    // Positions are pixels of the parent window's client area. An empty clip does not clip.
+    // Positions are in pixels of the parent window's client area. An empty clip means no clipping.
     void attach(HWND parent, const RECT &position, const RECT &clip);
     void detach();
     void place(const RECT &position, const RECT *clip);
     void setKeyboardFocus();
 
     HWND handle() const; // null while detached
-    // Whether a key message is for the widget rather than for the container's dialog keys.
+    // Whether a key message is for the widget and not for the container's dialog keys.
     bool wants(const MSG &message) const;
 
 protected:
@@ -42,7 +42,7 @@ private:
     bool tabStaysInside(bool backwards) const;
     void block();
     void unblock();
-    // Makes a new window where a container destroyed its own without a word, and this one with it.
+    // Creates a new window if a container destroyed its own without notice, and this one with it.
     void renew();
 
     QWidget &m_widget;
@@ -51,7 +51,7 @@ private:
     const std::function<void(bool)> m_blocked;
     std::unique_ptr<QWindow> m_parent;
     std::unique_ptr<DialogOwner> m_dialogs; // while attached
-    HWND m_disabled = nullptr;              // the host's window that a modal dialog keeps from the user
+    HWND m_disabled = nullptr;              // the host's window, disabled by a modal dialog
 };
 
 } // namespace KOVAVSFDataGridLib::ActiveX

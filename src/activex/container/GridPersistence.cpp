@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Between the control's idea of a property bag and the container's.
+// Adapts the container's property bag to the control's.
 class ContainerBag final : public PropertyBag
 {
 public:
@@ -25,7 +25,7 @@ public:
 
     QVariant ReadProperty(const QString &name, const QVariant &byDefault) const override
     {
-        // A form's file can have the number as it stands in a program: &H8000000F&.
+        // A form's file can contain the number as a Visual Basic literal: &H8000000F&.
         for (const VARTYPE wanted : {VT_I4, VT_BSTR}) {
             Variant value;
             value->vt = wanted;
@@ -69,7 +69,7 @@ private:
     HRESULT m_outcome = S_OK;
 };
 
-// The one value of a stream.
+// Contains the single value of a stream.
 class MemoryBag final : public PropertyBag
 {
 public:
@@ -86,7 +86,7 @@ public:
     std::map<QString, QVariant> values;
 };
 
-// A stream holds this number, then the colour, each as four bytes, least significant first.
+// A stream contains this number and then the colour, each as four bytes in little-endian order.
 constexpr quint32 streamVersion = 1;
 constexpr ULONG streamSize = 8;
 

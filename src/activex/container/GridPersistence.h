@@ -10,8 +10,8 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 class GridControl;
 
-// What a container keeps of the control between two runs: the background colour and nothing else. To a
-// stream…
+// What a container saves of the control:
+// only the background colour. To a stream…
 class StreamPersistence final : public Part<IPersistStreamInit>
 {
 public:
@@ -24,12 +24,12 @@ public:
     STDMETHODIMP GetSizeMax(ULARGE_INTEGER *size) override;
     STDMETHODIMP InitNew() override;
 
-    // The background colour as it is kept: as automation's number, so that a colour of the system's stays
-    // one.
+    // The background colour as it is saved: automation's
+    // number, so that a system colour stays one.
     quint32 backColor() const;
-    // Tells nobody.
+    // Does not notify anybody.
     void putBackColor(quint32 number);
-    // Only a property that is kept makes the control dirty.
+    // Only a property that is saved makes the control dirty.
     void propertyChanged(const QString &name);
     void saved() { m_dirty = false; }
 

@@ -8,7 +8,7 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// Containers measure in hundredths of a millimetre.
+// Containers measure in units of 0.01 mm.
 inline constexpr int himetricPerInch = 2540;
 
 inline QSize fromHimetric(const SIZEL &size, const QWidget &widget)

@@ -11,7 +11,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 class GridControl;
 class InPlace;
 
-// The container's side of moving, clipping and ending an active control.
+// Called by the container to move, clip and deactivate an active control.
 class InPlaceObject final : public Part<IOleInPlaceObject>
 {
 public:
@@ -28,7 +28,7 @@ private:
     InPlace &m_inPlace;
 };
 
-// The container's way to hand keys to the control that the user works in.
+// Called by the container to pass keys to the control that has the focus.
 class InPlaceActiveObject final : public Part<IOleInPlaceActiveObject>
 {
 public:
@@ -46,8 +46,8 @@ private:
     InPlace &m_inPlace;
 };
 
-// The control in a window of its container: inactive, active (it has its window) or active with the user
-// interface (the user works in it).
+// The control in a window of its container. It is inactive, active (it has a window) or UI-active (the user
+// works in it).
 class InPlace
 {
 public:
@@ -63,16 +63,16 @@ public:
     HRESULT activate(Depth depth);
     void deactivateUi();
     void deactivate();
-    // For the end of the control: gives everything back without a word to the container.
+    // For the destruction of the control: releases everything without calling the container.
     void end();
-    // S_OK when the key was used here, S_FALSE when it is the container's.
+    // S_OK if the control used the key, S_FALSE if the container should handle it.
     HRESULT translate(MSG &message);
 
 private:
     HRESULT activateUi();
-    // The keyboard came or left.
+    // The control got or lost the keyboard focus.
     void focusMoved(bool here);
-    // The container's modeless windows must rest while a dialog of the control is open.
+    // Disables the container's modeless windows while a dialog of the control is open.
     void dialogOpen(bool on);
 
     GridControl &m_control;

@@ -47,7 +47,7 @@ void OleControl::readAmbients()
     DISPPARAMS none{};
     Variant value;
     QVariant userMode;
-    // A container that does not know the property only ever runs.
+    // A container that does not know the property has no design mode.
     if (FAILED(ambients->Invoke(DISPID_AMBIENT_USERMODE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET,
                                 &none, value.get(), nullptr, nullptr)) ||
         FAILED(toQt(*value, QMetaType(QMetaType::Bool), &userMode)))

@@ -8,8 +8,8 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 class GridControl;
 
-// What a container tells the control about its surroundings. Of the ambient properties only UserMode counts:
-// False while the form is being designed.
+// Receives the container's ambient properties. Only
+// UserMode is used: False while the form is being designed.
 class OleControl final : public Part<IOleControl>
 {
 public:

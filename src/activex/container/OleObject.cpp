@@ -16,7 +16,7 @@ OleObject::OleObject(GridControl &control) : Part(control.identity()), m_control
 STDMETHODIMP OleObject::SetClientSite(IOleClientSite *site)
 {
     if (site != m_site.Get())
-        m_control.inPlace().deactivate(); // its window belongs to the place that it leaves
+        m_control.inPlace().deactivate(); // its window belongs to the old site
     m_site = site;
     if (site)
         m_control.oleControl().readAmbients();
@@ -121,7 +121,7 @@ STDMETHODIMP OleObject::SetExtent(DWORD aspect, SIZEL *size)
         return DV_E_DVASPECT;
     if (!size)
         return E_POINTER;
-    // In place, the container's rectangle decides.
+    // While active in place, the container's rectangle decides.
     if (!m_control.inPlace().isActive())
         m_control.grid().resize(fromHimetric(*size, m_control.grid()));
     m_control.view().viewChanged();
@@ -176,7 +176,7 @@ STDMETHODIMP OleObject::SetColorScheme(LOGPALETTE *)
 
 HRESULT OleObject::showPropertyPages(HWND parent)
 {
-    // A container with pages of its own shows ours among them.
+    // A container with its own property pages shows ours together with them.
     ComPtr<IOleControlSite> controlSite;
     if (m_site && SUCCEEDED(m_site.As(&controlSite)) && SUCCEEDED(controlSite->ShowPropertyFrame()))
         return S_OK;

@@ -9,7 +9,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 class GridControl;
 
-// How a container holds the control: its site, its size, and the verbs that bring it to life.
+// How a container holds the control: its site, its size, and the verbs that activate it.
 class OleObject final : public Part<IOleObject>
 {
 public:
@@ -38,7 +38,7 @@ public:
     STDMETHODIMP GetMiscStatus(DWORD aspect, DWORD *status) override;
     STDMETHODIMP SetColorScheme(LOGPALETTE *palette) override;
 
-    // What the control wants of a container; also registered.
+    // What the control requires of a container; also registered.
     static constexpr DWORD miscStatus = OLEMISC_RECOMPOSEONRESIZE | OLEMISC_ACTIVATEWHENVISIBLE |
                                         OLEMISC_INSIDEOUT | OLEMISC_CANTLINKINSIDE |
                                         OLEMISC_SETCLIENTSITEFIRST;

@@ -106,7 +106,7 @@ STDMETHODIMP OlePropertyPage::SetObjects(ULONG count, IUnknown **objects)
     for (ULONG i = 0; i < count; ++i) {
         ComPtr<ObjectHolder> holder;
         if (!objects || !objects[i] || FAILED(objects[i]->QueryInterface(IID_PPV_ARGS(&holder))))
-            return E_NOINTERFACE; // no control of this server
+            return E_NOINTERFACE; // not a control of this server
         kept.push_back(objects[i]);
         controls += holder->held();
     }

@@ -18,7 +18,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 class OlePropertyPage final : public ComObject<IPropertyPage>
 {
 public:
-    // The function that makes a page of a class; null when it is no page of this server.
+    // The function that creates a page of a class; null if it is not a page of this server.
     static ClassFactory::Create creatorOf(REFCLSID id);
 
     STDMETHODIMP SetPageSite(IPropertyPageSite *site) override;
@@ -41,10 +41,10 @@ private:
 
     // The size at which the page shows everything, in pixels.
     SIZE preferredSize() const;
-    // Never more than the page wishes: a frame may name more room than its window has in the end.
+    // At most the preferred size: a frame may offer more room than its window finally has.
     RECT placeIn(const RECT &room) const;
 
-    // In this order: the window gives the page back before the page goes.
+    // In this order: the window releases the page before the page is destroyed.
     const std::unique_ptr<KOVAVSFDataGridLib::PropertyPage> m_page;
     EmbeddedWindow m_window;
     Microsoft::WRL::ComPtr<IPropertyPageSite> m_site;

@@ -14,7 +14,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 namespace {
 
-// How many dots of the device the rectangle has: a printer's page is often measured in other units.
+// The size of the rectangle in device dots: a printer's page often uses other units.
 SIZE dotsIn(const RECTL &bounds, HDC context)
 {
     std::array<POINT, 2> corners{{{bounds.left, bounds.top}, {bounds.right, bounds.bottom}}};
@@ -22,8 +22,8 @@ SIZE dotsIn(const RECTL &bounds, HDC context)
     return {std::abs(corners[1].x - corners[0].x), std::abs(corners[1].y - corners[0].y)};
 }
 
-// Painted anew for the dots that there are, so that texts and lines are as sharp in print as the device can
-// show them. The memory is limited: at most 6 times the screen's dots in each direction.
+// Paints at the device's resolution, so that texts and lines are sharp in print. To save memory, at most 6
+// times the screen's resolution is used.
 QImage painted(KOVAVSFDataGrid &grid, SIZE dots)
 {
     constexpr qreal most = 6;

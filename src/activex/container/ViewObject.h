@@ -9,7 +9,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 class GridControl;
 
-// Draws the control where it has no window of its own: on a form being designed, in a print.
+// Draws the control when it has no window: on a form being designed, and in print.
 class ViewObject final : public Part<IViewObject2>
 {
 public:
@@ -26,7 +26,7 @@ public:
     STDMETHODIMP GetAdvise(DWORD *aspects, DWORD *flags, IAdviseSink **sink) override;
     STDMETHODIMP GetExtent(DWORD aspect, LONG index, DVTARGETDEVICE *target, LPSIZEL size) override;
 
-    // Tells the container that its picture of the control is out of date.
+    // Tells the container that its picture of the control is outdated.
     void viewChanged();
 
 private:

@@ -23,7 +23,7 @@ try {
     if (!object)
         return E_POINTER;
     *object = nullptr;
-    // Who aggregates must hold the inner identity.
+    // An aggregating object must hold the inner IUnknown.
     if (outer && iid != IID_IUnknown)
         return CLASS_E_NOAGGREGATION;
     const HRESULT started = startQt();

@@ -4,15 +4,15 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// Makes the objects of one class of this server.
+// Creates the objects of one class of this server.
 class ClassFactory final : public ComObject<IClassFactory>
 {
 public:
-    // Makes an object with one reference, the caller's, on the interface asked for.
+    // Creates an object with one reference, owned by the caller, to the requested interface.
     using Create = HRESULT (*)(IUnknown *outer, REFIID iid, void **object);
 
     explicit ClassFactory(Create create) : m_create(create) {}
-    // The function for a class; null when this server has no such class.
+    // The function for a class; null if this server has no such class.
     static Create creatorOf(REFCLSID id);
 
     STDMETHODIMP CreateInstance(IUnknown *outer, REFIID iid, void **object) override;

@@ -8,7 +8,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 class GridControl;
 
-// Where a container learns what the control offers: its class in the type library…
+// Tells a container about the control: its class in the type library…
 class ClassInfo final : public Part<IProvideClassInfo2>
 {
 public:

@@ -6,8 +6,8 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// A COM object of its own that offers these interfaces. It starts with one reference, which belongs to
-// whoever made it with `new`, and deletes itself with the last one.
+// A COM object with these interfaces. It starts with one reference, owned by the caller of `new`, and deletes
+// itself when the last one is released.
 template<class First, class... Others>
 class ComObject : public First, public Others...
 {
@@ -54,7 +54,7 @@ private:
     LONG m_references = 1;
 };
 
-// One interface of a larger COM object, implemented apart from it. It shares that object's identity and life.
+// One interface of a larger COM object, implemented separately. Shares that object's identity and lifetime.
 template<class Interface>
 class Part : public Interface
 {

@@ -2,8 +2,8 @@
 
 #include <guiddef.h>
 
-// The identities of the server. They stand in the type library too, and never change: programs are compiled
-// against them.
+// The GUIDs of the server. The type library contains them too. They never change, because programs are
+// compiled with them.
 namespace KOVAVSFDataGridLib::ActiveX {
 
 inline constexpr GUID libraryId = {
@@ -15,7 +15,7 @@ inline constexpr GUID eventsId = {
 inline constexpr GUID controlId = {
     0xea180686, 0x9290, 0x4d5d, {0xb9, 0xd4, 0x41, 0x8c, 0x9b, 0xa6, 0xc0, 0xad}};
 
-// The property pages, in the order in which they are shown, with the names under which they are made.
+// The property pages in the order in which they are shown, with the names for newPropertyPage().
 struct PageClass
 {
     GUID id;

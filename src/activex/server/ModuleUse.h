@@ -4,7 +4,7 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// Held by every COM object of this server and by LockServer: what keeps the server in use.
+// Keeps the server in use. Held by every COM object of this server and by LockServer.
 class ModuleUse
 {
 public:
@@ -20,7 +20,7 @@ private:
     static inline volatile LONG s_count = 0;
 };
 
-// The handle of this server's own file; set when it is loaded.
+// The handle of this server's module; set when it is loaded.
 inline HINSTANCE moduleInstance = nullptr;
 
 } // namespace KOVAVSFDataGridLib::ActiveX

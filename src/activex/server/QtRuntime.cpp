@@ -19,8 +19,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// COM frees a server when it leaves a thread, whatever the server says. Qt would be left with pointers to
-// types, resources and window procedures that are gone.
+// COM unloads a server when it uninitializes a thread, whatever the server says. Qt would then have dangling
+// pointers to types, resources and window procedures.
 void pinModule()
 {
     HMODULE pinned = nullptr;
@@ -35,7 +35,7 @@ QByteArray hostProgram()
     return QString::fromWCharArray(path.data()).toLocal8Bit();
 }
 
-// The texts of Qt's own dialogs, beside this file, as in every installed copy.
+// Loads the texts of Qt's own dialogs from beside this file, where they are installed.
 void useChinese()
 {
     const QLocale chinese(QLocale::Chinese, QLocale::China);
@@ -54,9 +54,9 @@ HRESULT startQt()
 {
     pinModule();
     if (!QCoreApplication::instance()) {
-        // The platform plugin lies beside this file, wherever the host program is.
+        // The platform plugin is beside this file, wherever the host program is.
         QCoreApplication::addLibraryPath(moduleFolder());
-        // Leaves the host's process alone: its DPI awareness, its way of ending.
+        // Does not affect the host's process: its DPI awareness and the way it ends.
         QCoreApplication::setAttribute(Qt::AA_PluginApplication);
         static QByteArray program = hostProgram();
         static int count = 1;

@@ -14,7 +14,7 @@ namespace {
 HHOOK hook = nullptr;
 bool isEnding = false;
 
-// A dialog that ends can be followed by the next question, so this goes on until no loop of Qt's is left.
+// The end of one dialog can open the next, so this repeats until no event loop of Qt is left.
 void endDialogs(int exitCode)
 {
     if (QThread::currentThread()->loopLevel() == 0) {
@@ -25,7 +25,7 @@ void endDialogs(int exitCode)
     if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
         dialog->done(QDialog::Rejected);
     else if (QWidget *popup = QApplication::activePopupWidget())
-        popup->close(); // a menu has a loop, too
+        popup->close(); // a menu has an event loop too
     QTimer::singleShot(10, qApp, [exitCode] { endDialogs(exitCode); });
 }
 
@@ -33,7 +33,7 @@ LRESULT CALLBACK look(int code, WPARAM removed, LPARAM data)
 {
     if (code == HC_ACTION && removed == PM_REMOVE) {
         const auto &message = *reinterpret_cast<const MSG *>(data);
-        // Without a loop of Qt's it is the host that takes the message.
+        // If no event loop of Qt is running, the host receives the message itself.
         if (message.message == WM_QUIT && !isEnding && QThread::currentThread()->loopLevel() > 0) {
             isEnding = true;
             const int exitCode = static_cast<int>(message.wParam);

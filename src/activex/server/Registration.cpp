@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-// In the import library, but not in the headers of mingw-w64.
+// mingw-w64 has it in the import library, but not in its headers.
 extern "C" {
 HRESULT WINAPI RegisterTypeLibForUser(ITypeLib *library, OLECHAR *path, OLECHAR *helpFolder);
 HRESULT WINAPI UnRegisterTypeLibForUser(REFGUID id, WORD major, WORD minor, LCID locale, SYSKIND kind);
@@ -21,7 +21,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 namespace {
 
 constexpr wchar_t progId[] = L"KOVAVSFDataGridLib.KOVAVSFDataGrid";
-// The component category of everything that can be placed on a form.
+// The component category of all controls that can be placed on a form.
 constexpr GUID controlCategory = {
     0x40fc6ed4, 0x2438, 0x11cf, {0xa3, 0xdb, 0x08, 0x00, 0x36, 0xf1, 0x25, 0x02}};
 constexpr wchar_t controlName[] = L"KOVAVSFDataGrid";
@@ -138,7 +138,7 @@ HRESULT writeEntries(HKEY root)
     return fromError(outcome);
 }
 
-// What is not there is no failure, even where the user must not write.
+// A missing key is not an error, even if the user must not write there.
 LSTATUS removeKey(HKEY root, const std::wstring &key)
 {
     const std::wstring path = L"Software\\Classes\\" + key;
@@ -152,13 +152,13 @@ LSTATUS removeKey(HKEY root, const std::wstring &key)
     return RegDeleteTreeW(root, path.c_str());
 }
 
-// Removes all that can be removed, and returns the first failure.
+// Removes as much as possible, and returns the first error.
 HRESULT unregisterAt(HKEY root, bool forUser)
 {
     std::vector<std::wstring> keys{progId, classKey(controlId)};
     for (const PageClass &page : pageClasses)
         keys.push_back(classKey(page.id));
-    // Removes the interfaces too, which the library declares; what it leaves is removed with the keys.
+    // Also removes the interfaces that the library declares; what remains is removed with the keys.
     if (forUser)
         UnRegisterTypeLibForUser(libraryId, 1, 0, LOCALE_NEUTRAL, systemKind);
     else

@@ -4,15 +4,15 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// Writes what COM must know to find this server: for the whole machine where the user may do that, else for
-// the user alone. Registering again repairs.
+// Registers this server with COM: for the whole machine if the user has the permission, else for the user
+// only. Can be repeated to repair a registration.
 HRESULT registerServer();
-// The same for the user alone, whatever he may do.
+// The same, but always for the user only.
 HRESULT registerServerForUser();
-// Takes both away again; what is not there is no error. Fails when something is left, as it is for a user who
-// must not change what was registered for everybody.
+// Removes both registrations; a missing one is not an error. Fails if something remains, for example if the
+// user must not change the registration for the whole machine.
 HRESULT unregisterServer();
-// Takes only the user's own away.
+// Removes only the user's own registration.
 HRESULT unregisterServerForUser();
 
 } // namespace KOVAVSFDataGridLib::ActiveX

@@ -8,7 +8,7 @@
 #include <new>
 #include <olectl.h>
 
-// The functions by which COM reaches the server; named in KOVAVSFDataGridLib.def.
+// The functions that COM calls; exported in KOVAVSFDataGridLib.def.
 
 using namespace KOVAVSFDataGridLib::ActiveX;
 
@@ -41,8 +41,8 @@ STDAPI DllGetClassObject(REFCLSID id, REFIID iid, void **object)
 
 STDAPI DllCanUnloadNow()
 {
-    // Qt cannot be taken out of a running process again. Once it is there, the server stays, even when no
-    // object is left.
+    // Qt can't be unloaded from a running process. Once it is loaded, the server stays, even without any
+    // object.
     return ModuleUse::count() == 0 && !QCoreApplication::instance() ? S_OK : S_FALSE;
 }
 
@@ -56,7 +56,7 @@ STDAPI DllUnregisterServer()
     return unregisterServer();
 }
 
-// `regsvr32 /n /i:user` registers for the user alone, and with /u takes that away.
+// `regsvr32 /n /i:user` registers for the user only, and with /u removes that.
 STDAPI DllInstall(BOOL install, PCWSTR command)
 {
     const bool forUser = command && std::wcscmp(command, L"user") == 0;

@@ -6,13 +6,13 @@
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
-// The full path of this server's own file.
+// The full path of this server's module.
 std::wstring modulePath();
 
-// The type library, which is a resource of that file.
+// Loads the type library, which is a resource of the module.
 HRESULT loadTypeLibrary(ITypeLib **library);
 
-// One type in it. Null when it cannot be read.
+// One type of the library. Null if it can't be read.
 Microsoft::WRL::ComPtr<ITypeInfo> typeInfo(REFGUID type);
 
 } // namespace KOVAVSFDataGridLib::ActiveX

@@ -14,7 +14,7 @@ class Connection;
 class KOVA_EXPORT ConnectionObject : public QObject
 {
     Q_OBJECT
-    // As the members of Connection with these names.
+    // Like the members of Connection with these names.
     Q_PROPERTY(QString ConnectionString READ connectionString WRITE setConnectionString)
     Q_PROPERTY(qint32 State READ state)
 
@@ -22,7 +22,7 @@ public:
     // `connection` is never null.
     explicit ConnectionObject(std::shared_ptr<Connection> connection, QObject *parent = nullptr);
 
-    // As the members of Connection with these names.
+    // Like the members of Connection with these names.
     Q_INVOKABLE void Open(const QString &connectionString = {}, const QString &user = {},
                           const QString &password = {}, qint32 options = -1);
     Q_INVOKABLE void Close();

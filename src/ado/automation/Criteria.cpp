@@ -16,7 +16,7 @@ namespace ADODB {
 
 using namespace Qt::Literals::StringLiterals;
 
-// Recursive descent over the text; every failure is the same error with the whole text in it.
+// A recursive descent parser. Every syntax error is the same error, with the whole text in it.
 class CriteriaParser
 {
 public:
@@ -32,7 +32,7 @@ public:
     Node one() { return ended(comparison()); }
 
 private:
-    // Parentheses in parentheses need stack.
+    // Limits the recursion for nested parentheses.
     static constexpr int deepest = 100;
 
     [[noreturn]] void fail() const { throw Error(adErrInvalidArgument, m_error.arg(m_text)); }
@@ -52,7 +52,7 @@ private:
             ++m_at;
         return m_text.sliced(begin, m_at - begin);
     }
-    // Passes over the word if it is the next one.
+    // Skips the next word if it is the expected one.
     bool passed(QStringView expected)
     {
         skipBlanks();
@@ -62,7 +62,7 @@ private:
         m_at = begin;
         return false;
     }
-    // The text up to the delimiter, which stands for itself where it is doubled.
+    // The text up to the delimiter. A doubled delimiter means the character itself.
     QString quoted(QChar delimiter)
     {
         QString content;
@@ -198,10 +198,10 @@ private:
 
 namespace {
 
-// Any text stands where * or % is; everything else stands for itself.
+// * and % match any text; all other characters match themselves.
 bool isLike(QStringView text, QStringView pattern)
 {
-    // The last wildcard passed, and where the text after it was tried last.
+    // For backtracking: the last wildcard, and where the text after it was last tried.
     qsizetype at = 0;
     qsizetype in = 0;
     qsizetype wildcard = -1;
@@ -256,10 +256,10 @@ bool Criteria::matches(const Node &node, const Recordset &recordset, qint64 reco
 
 bool Criteria::compares(const Node &node, const QVariant &cell)
 {
-    if (!node.value.isValid()) // only = and <> have Null
+    if (!node.value.isValid()) // only = and <> accept Null
         return cell.isValid() == (node.kind == Kind::NotEqual);
     if (!cell.isValid())
-        return false; // Null meets no comparison
+        return false; // a comparison with Null is false
     if (node.kind == Kind::Like)
         return isLike(ValueText(cell), node.value.toString());
     const int order = compareValues(cell, node.value, node.isNumeric);

@@ -9,19 +9,19 @@ namespace ADODB {
 
 class Recordset;
 
-// A condition on records in the words of ADO's Filter and Find: `name LIKE 'L%' AND (age >= 18 OR age =
-// NULL)`. The operators are = <> < <= > >= and LIKE; AND binds stronger than OR. A name with other characters
-// than letters and digits is put in brackets. A value is a number, a text in '…' with doubled quotes inside,
-// a date in #…#, TRUE, FALSE or NULL. Texts are compared without case. In a pattern, * and % are any text.
+// A condition on records in the syntax of ADO's Filter and Find: `name LIKE 'L%' AND (age >= 18 OR age =
+// NULL)`. The operators are = <> < <= > >= and LIKE; AND has precedence over OR. Names with characters other
+// than letters and digits must be in brackets. A value is a number, a text in '…' with doubled quotes inside,
+// a date in #…#, TRUE, FALSE or NULL. Comparisons are case-insensitive. In a pattern, * and % match any text.
 class Criteria
 {
 public:
-    // Throws 3001 if `text` is no condition, 3265 for an unknown field.
+    // Throws 3001 if `text` is not a condition, and 3265 for an unknown field.
     static Criteria parse(const QString &text, const Recordset &recordset);
-    // The same for one comparison, as Find takes it.
+    // The same for a single comparison, as Find accepts it.
     static Criteria parseComparison(const QString &text, const Recordset &recordset);
 
-    // Whether a record, counted from 1, meets it. Looks at saved values.
+    // Whether a record (numbered from 1) meets the condition. Reads saved values.
     bool matches(const Recordset &recordset, qint64 record) const;
 
 private:

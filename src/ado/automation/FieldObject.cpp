@@ -8,7 +8,7 @@ namespace ADODB {
 
 namespace {
 
-// What the value takes in a buffer of the field's type.
+// The size of the value in a buffer of the field's type.
 qint64 bytesOf(const QVariant &value, DataTypeEnum type)
 {
     if (!value.isValid())

@@ -15,7 +15,7 @@ class Recordset;
 class KOVA_EXPORT FieldObject : public QObject
 {
     Q_OBJECT
-    // As the members of Field with these names.
+    // Like the members of Field with these names.
     Q_PROPERTY(QString Name READ name)
     Q_PROPERTY(qint32 Type READ type)
     Q_PROPERTY(QVariant Value READ value WRITE setValue)

@@ -31,7 +31,7 @@ public:
 
     // Accessor of the property.
     qint32 count();
-    // For RecordsetObject only: the columns that a name, an index or a list of them means. Throws 3265.
+    // For RecordsetObject only: the columns for a name, an index or a list of them. Throws 3265.
     std::vector<int> columns(const QVariant &fields) const;
 
 Q_SIGNALS:
@@ -42,7 +42,7 @@ private:
     FieldObject *itemAt(int index);
 
     Recordset &m_recordset;
-    std::vector<FieldObject *> m_items; // children, by index; null until asked for
+    std::vector<FieldObject *> m_items; // children, by index; null until first used
 };
 
 } // namespace ADODB

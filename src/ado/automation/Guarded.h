@@ -9,9 +9,9 @@
 
 namespace ADODB {
 
-// Nothing may be thrown at a late-bound caller: runs `action` for `object` and turns what it throws into the
-// object's HostError signal and the neutral value of the result. A listener that the action notified can
-// have deleted the object; then nobody is left to tell.
+// Late-bound callers can't handle exceptions. Runs `action` for `object`, and turns an exception into the
+// object's HostError signal and a default-constructed result. A listener called by the action may delete the
+// object; then no signal is emitted.
 template<typename Object, typename Action>
 auto guarded(Object *object, Action &&action) -> decltype(action())
 {
@@ -29,7 +29,7 @@ auto guarded(Object *object, Action &&action) -> decltype(action())
     return decltype(action())();
 }
 
-// The same with a neutral value of the caller's choice.
+// The same with a given result for a failure.
 template<typename Object, typename Result, typename Action>
 Result guardedOr(Object *object, Result neutral, Action &&action)
 {
@@ -37,7 +37,7 @@ Result guardedOr(Object *object, Result neutral, Action &&action)
     return neutral;
 }
 
-// A count or position in the 32 bits that a late-bound host can take.
+// A count or position, limited to the 32 bits that a late-bound host supports.
 inline qint32 narrowed(qint64 number)
 {
     return static_cast<qint32>(qMin<qint64>(number, 0x7fffffff));

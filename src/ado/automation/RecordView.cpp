@@ -75,7 +75,7 @@ void RecordView::sortBy(const std::vector<SortColumn> &columns, std::vector<qint
 {
     if (columns.empty())
         return;
-    // Each value is taken out of the rows once.
+    // Reads each value only once.
     std::vector<QVariant> values;
     values.reserve(records.size() * columns.size());
     for (const qint64 record : records) {

@@ -9,26 +9,26 @@ namespace ADODB {
 
 class Recordset;
 
-// Which records of a recordset are visited, and in which order: ADO's Filter and Sort. Both are determined
-// when they are set. Later, deleted records leave, and new ones join at the end.
+// The records of a recordset that are visited, and their order: ADO's Filter and Sort. Both are evaluated
+// when they are set. Later, deleted records are removed and new ones added at the end.
 //
-// Places are counted from 1.
+// Places are numbered from 1.
 class RecordView
 {
 public:
     explicit RecordView(const Recordset &recordset) : m_recordset(recordset) {}
 
-    // Whether all records are visited in their own order. A record's place is its number then.
+    // Whether all records are visited in their original order. A record's place is then its number.
     bool isWhole() const { return !m_isRestricted; }
     void reset();
-    // The records that meet the criteria, or those of `records`, in the order of `sort` as ADO's property has
-    // it ("name DESC, id"). Empty ones don't restrict. Throws 3001 and 3265, and changes nothing then.
+    // Selects the records that match the criteria, or those of `records`, sorted as in ADO's property ("name
+    // DESC, id"). Empty arguments don't restrict. Throws 3001 and 3265; the view is then unchanged.
     void set(const std::optional<Criteria> &criteria, const std::optional<std::vector<qint64>> &records,
              const QString &sort);
 
     qint64 count();
     qint64 recordAt(qint64 place);
-    // The place of a record; of one that is not visited, the one before it, and then `isThere` is false.
+    // A record's place. If it is not visited, the place before it, and `isThere` is false.
     struct Place
     {
         qint64 number;
@@ -45,7 +45,7 @@ private:
     };
     std::vector<SortColumn> parseSort(const QString &sort) const;
     void sortBy(const std::vector<SortColumn> &columns, std::vector<qint64> &records) const;
-    // Takes over what was deleted and added since.
+    // Applies the deletions and additions since the last call.
     void follow();
     void remove(qint64 record);
 
@@ -53,7 +53,7 @@ private:
     bool m_isRestricted = false;
     bool m_isSorted = false;
     std::vector<qint64> m_records; // by place
-    qint64 m_latestPlace = 0;      // most walks ask for the place that they took a record from
+    qint64 m_latestPlace = 0;      // a cache: most callers ask for the place they just took a record from
     std::size_t m_removalsSeen = 0;
     qint64 m_recordsSeen = 0;
 };

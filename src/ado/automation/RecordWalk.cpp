@@ -72,7 +72,7 @@ void RecordWalk::reset()
     m_sort.clear();
 }
 
-// A view has no place for a record that is not saved.
+// An unsaved record has no place in the view.
 void RecordWalk::leaveRecord()
 {
     const EditModeEnum mode = m_recordset.EditMode();
@@ -97,7 +97,7 @@ RecordView::Place RecordWalk::current()
         return {0, true};
     if (record == adPosEOF)
         return {count() + 1, true};
-    // A deleted record was between its neighbours.
+    // The position of a deleted record is between its neighbours.
     if (record == adPosUnknown)
         return {std::clamp(m_latestPlace - 1, qint64{0}, count()), false};
     return m_view.placeOf(record);
@@ -131,7 +131,7 @@ qint64 RecordWalk::recordOf(const QVariant &bookmark) const
     return m_recordset.RecordOf(static_cast<qint64>(number));
 }
 
-// Where there is a record to read.
+// Throws if there is no record to read.
 qint64 RecordWalk::needPlace(const QVariant &start)
 {
     const RecordView::Place place = placeOf(start);
@@ -172,7 +172,7 @@ void RecordWalk::move(qint64 records, const QVariant &start)
         throw Error(adErrNoCurrentRecord, Texts::noCurrentRecord());
     if (!from.isThere && records == 0)
         return;
-    // Backwards from between two records, the nearest is the one before.
+    // When moving backwards from between two records, the first step leads to the one before.
     const qint64 begin = !from.isThere && records < 0 ? from.number + 1 : from.number;
     moveTo(std::clamp(begin + std::clamp(records, -last - 1, last + 1), qint64{0}, last + 1));
 }
@@ -189,7 +189,7 @@ void RecordWalk::moveTo(qint64 place)
     if (all > 0)
         m_recordset.Move(place < 1 && last > 0 ? -all : all, adBookmarkFirst);
     else if (m_recordset.EditMode() == adEditDelete)
-        m_recordset.Move(1); // leaves the last record of all
+        m_recordset.Move(1); // moves past the last record
 }
 
 void RecordWalk::remove()

@@ -8,7 +8,7 @@
 
 namespace ADODB {
 
-// The moves of a recordset's object, over the records that its Filter and Sort leave, in their order. All
+// The moves of a recordset object among the records selected by its Filter and Sort, in their order. All
 // members throw Error. Those that move save a pending edit first.
 class RecordWalk
 {
@@ -23,24 +23,24 @@ public:
     void reset();
 
     qint64 count() { return m_view.count(); }
-    // Both true where no record is visited.
+    // Both are true if no record is visited.
     bool isBOF();
     bool isEOF();
-    // 1…count() or a PositionEnum; adPosUnknown also for a record that is not visited.
+    // 1…count() or a PositionEnum; adPosUnknown also if the record is not visited.
     qint64 position();
     void moveToPosition(qint64 position);
-    // `start` is a BookmarkEnum, a bookmark, or nothing for the current record.
+    // `start` is a BookmarkEnum, a bookmark, or empty for the current record.
     void move(qint64 records, const QVariant &start = {});
     void moveFirst() { moveTo(1); }
     void moveLast() { moveTo(count()); }
     // Deletes the current record.
     void remove();
 
-    // To the next record from `start` on that meets a comparison, else to the end in this direction.
+    // Moves to the next record from `start` on that meets the comparison, or to the end in this direction.
     void find(const QString &criteria, qint64 skip, bool isForward, const QVariant &start);
-    // Calls `read` for the current record and those after it, `limit` at most, and moves behind the last.
+    // Calls `read` for the current record and those after it, at most `limit`, and moves past the last one.
     void readOn(qint64 limit, const QVariant &start, const std::function<void(qint64 record)> &read);
-    // Calls `read` for all, without a move.
+    // Calls `read` for all records, without moving.
     void readAll(const std::function<void(qint64 record)> &read);
 
     qint64 recordOf(const QVariant &bookmark) const;
@@ -51,7 +51,7 @@ private:
     RecordView::Place current();
     RecordView::Place placeOf(const QVariant &start);
     qint64 needPlace(const QVariant &start);
-    // 0 and count() + 1 are before the first and after the last.
+    // Place 0 is before the first record, count() + 1 after the last.
     void moveTo(qint64 place);
 
     Recordset &m_recordset;

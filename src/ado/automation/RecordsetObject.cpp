@@ -7,7 +7,7 @@
 #include "ado/automation/Guarded.h"
 #include "ado/automation/RecordWalk.h"
 
-// The members that move and change; those that read many records are in RecordsetObjectReading.cpp.
+// The members that move and change. Those that read many records are in RecordsetObjectReading.cpp.
 
 namespace ADODB {
 
@@ -17,7 +17,7 @@ RecordsetObject::RecordsetObject(Recordset &recordset)
       m_walk(std::make_unique<RecordWalk>(recordset))
 {
     connect(m_fields, &FieldsObject::HostError, this, &RecordsetObject::HostError);
-    // Never removed: the recordset owns this object, or the other way round.
+    // Never removed: either the recordset owns this object, or this object owns the recordset.
     recordset.AddObserver(this);
 }
 
@@ -326,7 +326,7 @@ qint32 RecordsetObject::status()
         case adEditNone:
             break;
         }
-        m_recordset.Bookmark(); // throws where there is no record
+        m_recordset.Bookmark(); // throws if there is no record
         return adRecUnmodified;
     });
 }
@@ -351,7 +351,7 @@ void RecordsetObject::setSort(const QString &sort)
     guarded(this, [&] { m_walk->setSort(sort); });
 }
 
-// A double, as automation's own recordsets have it. It is exact for two million deletions.
+// A double, as in automation's own recordsets. It is exact up to two million deletions.
 QVariant RecordsetObject::bookmark()
 {
     return guarded(this, [&] { return QVariant(static_cast<double>(m_recordset.Bookmark())); });

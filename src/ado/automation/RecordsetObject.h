@@ -19,13 +19,13 @@ class ConnectionObject;
 class FieldsObject;
 class Recordset;
 
-// A recordset with ADO's member names, for hosts that have a QObject and use names. It never throws. A call
-// that fails emits HostError and returns the default value of its type. BOF and EOF then return true, so that
-// every loop over the records ends. Errors of its fields are also emitted here.
+// A recordset with ADO's member names, for hosts that have a QObject and call members by name. It never
+// throws. A call that fails emits HostError and returns the default value of its type. BOF and EOF then
+// return true, so that every loop over the records ends. Errors of its fields are also emitted here.
 class KOVA_EXPORT RecordsetObject : public QObject, private RecordsetObserver
 {
     Q_OBJECT
-    // As the members of Recordset with these names; BOF and EOF are isBOF and isEOF there.
+    // Like the members of Recordset with these names; BOF and EOF are isBOF and isEOF there.
     Q_PROPERTY(bool BOF READ isBOF)
     Q_PROPERTY(bool EOF READ isEOF)
     Q_PROPERTY(qint32 RecordCount READ recordCount)
@@ -70,10 +70,10 @@ public:
     // Like Recordset::Open; `connection` is a ConnectionObject.
     Q_INVOKABLE void Open(const QString &source, QObject *connection, qint32 cursorType = -1,
                           qint32 lockType = -1, qint32 options = -1);
-    // Like Recordset::Close, but 3219 while an edit is pending: what a user wrote is not for a host to drop
-    // by the way.
+    // Like Recordset::Close, but throws 3219 while an edit is pending, so that a host can't discard the
+    // user's input by accident.
     Q_INVOKABLE void Close();
-    // As the members of Recordset with these names.
+    // Like the members of Recordset with these names.
     Q_INVOKABLE void Move(qint32 records, qint32 start = 0);
     Q_INVOKABLE void Move(qint32 records, const QVariant &startOrBookmark);
     Q_INVOKABLE void MoveFirst();
@@ -86,7 +86,7 @@ public:
     // once. If that fails, no change is left pending.
     Q_INVOKABLE void AddNew(const QVariant &fields, const QVariant &values);
     Q_INVOKABLE void Update(const QVariant &fields, const QVariant &values);
-    // The same as in Recordset.
+    // Like the members of Recordset with these names.
     Q_INVOKABLE void CancelUpdate();
     Q_INVOKABLE void Delete(qint32 affectRecords = 1);
     Q_INVOKABLE void Resync(qint32 affectRecords = 1, qint32 resyncValues = 2);
@@ -95,13 +95,13 @@ public:
     // at the current record or at a bookmark, after `skipRecords`.
     Q_INVOKABLE void Find(const QString &criteria, const QVariant &skipRecords = {},
                           const QVariant &searchDirection = {}, const QVariant &start = {});
-    // A list of values for each field, of the records from the current one or a bookmark on: all, or as many
-    // as `rows`. `fields` is a name, an index or a list of them; all by default. The record after them
-    // becomes the current one.
+    // Returns one list of values per field, for the records from the current one or a bookmark on: all, or at
+    // most `rows`. `fields` is a name, an index or a list of them; all by default. The record after them
+    // becomes current.
     Q_INVOKABLE QVariant GetRows(const QVariant &rows = {}, const QVariant &start = {},
                                  const QVariant &fields = {});
-    // The same as text. By default a tab is between columns, a carriage return after each record, and nothing
-    // for Null.
+    // The same as text. By default, columns are separated by tabs, records end with a carriage return, and
+    // Null is an empty text.
     Q_INVOKABLE QString GetString(const QVariant &format = {}, const QVariant &rows = {},
                                   const QVariant &columnDelimiter = {}, const QVariant &rowDelimiter = {},
                                   const QVariant &nullText = {});

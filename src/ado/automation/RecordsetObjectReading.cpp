@@ -25,7 +25,7 @@ namespace {
     throw Error(adErrInvalidArgument, Texts::badArgument().arg(value.toString()));
 }
 
-// An argument that can be left out.
+// An optional argument.
 qint64 number(const QVariant &argument, qint64 byDefault)
 {
     if (!argument.isValid())

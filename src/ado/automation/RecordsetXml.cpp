@@ -14,8 +14,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// The type of a field in the schema: the format of its values, and what the database calls it where the
-// format does not say all.
+// The type of a field in the schema: the format of its values, and the database's type if the format does not
+// determine it.
 std::pair<QString, QString> typeOf(DataTypeEnum type)
 {
     switch (type) {
@@ -66,7 +66,7 @@ std::pair<QString, QString> typeOf(DataTypeEnum type)
     }
 }
 
-// Whether it can be an attribute's name without more ado.
+// Whether it can be an attribute name without escaping.
 bool isPlainName(const QString &name)
 {
     const auto isPart = [](QChar c) { return c.isLetterOrNumber() || c == u'_'; };
@@ -80,7 +80,7 @@ QString xmlText(const QVariant &value)
     if (value.typeId() == QMetaType::QDateTime)
         return ValueText(value).replace(u' ', u'T');
     QString text = ValueText(value);
-    // XML has no way to write these.
+    // XML can't represent these characters.
     for (QChar &c : text) {
         if ((c < u' ' && c != u'\t' && c != u'\n' && c != u'\r') || c >= QChar(0xFFFE))
             c = QChar(QChar::ReplacementCharacter);

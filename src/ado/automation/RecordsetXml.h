@@ -8,16 +8,16 @@ namespace ADODB {
 
 class Recordset;
 
-// Writes records in the XML that ADO's Save writes: a schema of the fields, then one element for each record
-// with the values as attributes. Null has no attribute.
+// Writes records in the XML format of ADO's Save: a schema of the fields, then one element per record with
+// the values as attributes. A Null has no attribute.
 class RecordsetXml
 {
 public:
-    // Writes the schema. `device` is open.
+    // Writes the schema. `device` must be open.
     RecordsetXml(QIODevice &device, const Recordset &recordset);
 
     void write(qint64 record);
-    // False if the device failed.
+    // Returns false if writing to the device failed.
     bool end();
 
 private:

@@ -11,7 +11,7 @@ namespace ADODB {
 class KOVA_EXPORT StreamObject : public QObject
 {
     Q_OBJECT
-    // As the members of Stream with these names.
+    // Like the members of Stream with these names.
     Q_PROPERTY(qint32 Type READ type WRITE setType)
     Q_PROPERTY(qint32 State READ state)
     Q_PROPERTY(qint32 Size READ size)
@@ -21,7 +21,7 @@ public:
     // A closed stream.
     explicit StreamObject(QObject *parent = nullptr);
 
-    // As the members of Stream with these names.
+    // Like the members of Stream with these names.
     Q_INVOKABLE void Open();
     Q_INVOKABLE void Close();
     Q_INVOKABLE void Write(const QByteArray &bytes);

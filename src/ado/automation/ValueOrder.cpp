@@ -49,7 +49,7 @@ bool isWhole(const QVariant &value)
            value.typeId() == QMetaType::LongLong;
 }
 
-// A decimal without sign, exponent and the zeros that say nothing; empty when it is written another way.
+// A decimal without sign, exponent and insignificant zeros; empty if it is written in another way.
 struct Digits
 {
     explicit Digits(QStringView text) : isNegative(text.startsWith(u'-'))
@@ -87,7 +87,7 @@ int compareNumbers(const QVariant &left, const QVariant &right)
 {
     if (isWhole(left) && isWhole(right))
         return compared(left.toLongLong(), right.toLongLong());
-    // A double has 15 digits, so all that it can't tell apart is compared digit by digit.
+    // A double has 15 digits, so values that are equal as doubles are compared digit by digit.
     const int order = compared(left.toDouble(), right.toDouble());
     if (order != 0 || left.typeId() != QMetaType::QString || right.typeId() != QMetaType::QString)
         return order;
@@ -104,7 +104,7 @@ int compareTimes(const QVariant &left, const QVariant &right)
         return compared(left.toTime(), right.toTime());
     if (left.typeId() == right.typeId() && left.typeId() == QMetaType::QDate)
         return compared(left.toDate(), right.toDate());
-    // A date is its first moment; both are in the same time zone, whatever it is called.
+    // A date means its first moment. Both are in the same time zone, whatever it is called.
     const auto moment = [](const QVariant &value) {
         return QDateTime(value.toDate(), value.toTime(), Qt::UTC);
     };

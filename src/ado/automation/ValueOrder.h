@@ -4,9 +4,9 @@
 
 namespace ADODB {
 
-// The order of two values of one field: less than 0, 0 or greater than 0. Null comes first; then numbers and
-// Booleans by their value, dates and times by time, texts without case, bytes. Values of different kinds are
-// ordered by kind. With `numeric`, texts that are numbers are numbers: decimals come as texts.
+// Compares two values of one field: less than 0, 0 or greater than 0. Null comes first, then numbers and
+// Booleans by value, dates and times by time, texts (case-insensitive), bytes. Values of different kinds are
+// ordered by kind. With `numeric`, texts that are numbers are compared as such: decimals are texts.
 int compareValues(const QVariant &left, const QVariant &right, bool numeric);
 
 } // namespace ADODB

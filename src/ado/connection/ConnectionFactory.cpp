@@ -36,7 +36,7 @@ std::unique_ptr<ConnectionFactory> &theFactory()
     return factory;
 }
 
-// What a host's factory throws is an error of the connection. Anything but Error is logged as well.
+// An exception of a host's factory becomes a connection error. Anything but Error is also logged.
 template<typename Object>
 std::shared_ptr<Object> fromFactory(std::shared_ptr<Object> (ConnectionFactory::*create)(qint32),
                                     qint32 dbType)

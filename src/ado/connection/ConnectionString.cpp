@@ -18,8 +18,8 @@ bool sameKeyword(const QString &a, const QString &b)
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
-// Reads the text from left to right. It counts the parts, because an error may name a part but not quote it:
-// what looks like a stray part can be the rest of a password with a semicolon in it.
+// Reads the text from left to right and counts the parts, because an error may name a part by number but must
+// not quote it: an invalid part can be the rest of a password that contains a semicolon.
 class Reader
 {
 public:
@@ -99,8 +99,8 @@ QString quoted(const QString &value)
     return u'"' + QString(value).replace(u'"', "\"\""_L1) + u'"';
 }
 
-// A connection string within one. What can't be read as such says nothing about where a password stands in
-// it.
+// A connection string inside a value. If it can't be
+// parsed, it is unknown where it contains a password.
 QString nestedWithoutPassword(const QString &text)
 {
     try {

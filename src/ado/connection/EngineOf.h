@@ -12,10 +12,10 @@ class Connection;
 
 namespace KOVAVSFDataGridLib {
 
-// What an open connection leads to and how that reads statements; Other when it is null or closed.
+// The engine of an open connection, and how it reads statements; Other if the connection is null or closed.
 EngineMode engineOf(const std::shared_ptr<ADODB::Connection> &connection);
 
-// Whether a connection of its own that `connectionString` opens finds the same data as an open one.
+// Whether a new connection with `connectionString` sees the same data as this open one.
 bool isRepeatable(const std::shared_ptr<ADODB::Connection> &connection, const QString &connectionString);
 
 } // namespace KOVAVSFDataGridLib

@@ -13,7 +13,7 @@ namespace ADODB {
 
 namespace {
 
-// Each in the words of all drivers.
+// The keywords of all drivers for this.
 const QStringList &userWords()
 {
     static const QStringList words{u"UID"_s, u"User ID"_s, u"User"_s, u"Username"_s};
@@ -48,7 +48,7 @@ void copyWords(ConnectionString &text, const ConnectionString &from, const QStri
     }
 }
 
-// Also by a data source's name: keywords beside it override what it names.
+// A data source name counts too, because other keywords override its settings.
 bool leadsToServer(const ConnectionString &text)
 {
     return namesAny(text, serverWords()) || namesAny(text, {u"DSN"_s, u"FILEDSN"_s}) ||
@@ -57,7 +57,7 @@ bool leadsToServer(const ConnectionString &text)
 
 ConnectionString throughServer(ConnectionString text, const QString &server, const QString &port)
 {
-    // Where a driver is named, or a provider of servers, this is the server, else a data source.
+    // The keyword means the server if a driver or a server's provider is named, otherwise a data source.
     const bool isServer =
         text.contains(u"Driver"_s) || oleDbKind(text.value(u"Provider"_s)) == OleDbKind::SqlServer;
     if (isServer && text.contains(u"Data Source"_s)) {

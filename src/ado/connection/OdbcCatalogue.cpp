@@ -29,13 +29,13 @@ private:
 using List = SQLRETURN(SQL_API *)(SQLHENV, SQLUSMALLINT, SQLWCHAR *, SQLSMALLINT, SQLSMALLINT *, SQLWCHAR *,
                                   SQLSMALLINT, SQLSMALLINT *);
 
-// Both lists of the driver manager are asked for in the same way: pairs of a name and what it says about it.
+// The driver manager returns both lists in the same form: pairs of a name and its description.
 std::vector<OdbcDataSource> entries(List next)
 {
     const Environment environment;
     std::array<char16_t, 256> name{};
     std::array<char16_t, 4096>
-        about{}; // a driver's own list of attributes can be long; what is cut is not used
+        about{}; // a driver's attribute list can be long; what is truncated is not needed
     const auto ask = [&](SQLUSMALLINT direction) {
         return succeeded(next(environment.get(), direction, reinterpret_cast<SQLWCHAR *>(name.data()),
                               static_cast<SQLSMALLINT>(name.size()), nullptr,

@@ -13,11 +13,11 @@ namespace ADODB {
 
 struct OdbcDataSource
 {
-    QString name;   // as `DSN=` takes it
-    QString driver; // the name or, on Unix, also the path of its driver
+    QString name;   // as used in `DSN=`
+    QString driver; // the driver's name, or on Unix possibly its path
 };
 
-// The names that `Driver=` takes, in alphabetical order.
+// The names for `Driver=`, in alphabetical order.
 KOVA_EXPORT QStringList odbcDrivers();
 // The data sources of this user and of the system, in alphabetical order.
 KOVA_EXPORT std::vector<OdbcDataSource> odbcDataSources();

@@ -54,7 +54,7 @@ constexpr KnownDriver knownDrivers[] = {
     {OleDbKind::Access, OdbcDriver::Words::Access, u"Microsoft Access Driver \\(\\*\\.mdb\\)"},
 };
 
-// The newest of the drivers that a pattern is for.
+// The newest installed driver that matches the pattern.
 std::optional<OdbcDriver> newest(const KnownDriver &known, const QStringList &installed)
 {
     const QRegularExpression pattern(QRegularExpression::anchoredPattern(known.pattern),
@@ -65,7 +65,7 @@ std::optional<OdbcDriver> newest(const KnownDriver &known, const QStringList &in
         if (!match.hasMatch())
             continue;
         int version = match.captured(1).toInt();
-        // Oracle's homes of old were called OraHome81 and OraHome92.
+        // Old Oracle homes were named OraHome81 and OraHome92.
         if (version > 50)
             version /= 10;
         if (!best || version > best->version)

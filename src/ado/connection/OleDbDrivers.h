@@ -5,43 +5,43 @@
 
 #include <optional>
 
-// The OLE DB providers that connection strings name, and the ODBC drivers that reach the same databases.
+// OLE DB providers in connection strings, and the ODBC drivers that reach the same databases.
 namespace ADODB {
 
 class ConnectionString;
 
 enum class OleDbKind { Odbc, SqlServer, Oracle, Access };
 
-// The database that a provider is for, by its name in any letter case, with or without a version
-// (`SQLOLEDB.1`). Nothing for a provider that is not known.
+// The database of a provider, by the provider's name (case-insensitive), with or without a version
+// (`SQLOLEDB.1`). Empty for an unknown provider.
 std::optional<OleDbKind> oleDbKind(const QString &provider);
 
-// Whether a connection string leads to an ODBC driver: by its provider or, when it names none, by a driver or
-// a data source.
+// Whether a connection string is for an ODBC driver: by its provider or, without one, by a driver or a data
+// source.
 bool leadsToOdbc(const ConnectionString &connection);
 
-// The known providers of servers, as a message lists them.
+// The known providers for servers, as listed in messages.
 QStringList oleDbServerProviders();
 
 struct OdbcDriver
 {
-    // Drivers for one database differ in their keywords.
+    // The keyword set. Drivers for the same database use different keywords.
     enum class Words { Microsoft, FreeTds, Oracle, MicrosoftOracle, Access };
 
     QString name; // as installed
     Words words = Words::Microsoft;
-    int version = 0; // as its name says; 0 when it says none
+    int version = 0; // from its name; 0 if there is none
 
-    // Encrypts unless the connection string says no, and knows the word Strict.
+    // Whether it encrypts by default and accepts the value Strict.
     bool encryptsByDefault() const { return words == Words::Microsoft && version >= 18; }
 };
 
-// The best of the installed drivers, nothing when none of them is for this kind of database: for SQL Server
-// the newest "ODBC Driver … for SQL Server", then the native clients, the one that Windows brings, FreeTDS;
-// for Oracle the newest of Oracle's own, then Microsoft's; for Access the one that also reads .accdb.
+// The best installed driver for this kind of database; empty if there is none. For SQL Server: the newest
+// "ODBC Driver … for SQL Server", then the native clients, the driver included in Windows, FreeTDS. For
+// Oracle: the newest of Oracle's own, then Microsoft's. For Access: the one that also reads .accdb.
 std::optional<OdbcDriver> bestDriver(OleDbKind kind, const QStringList &installed);
 
-// What to install where there is none.
+// The driver to install if there is none.
 QString driverToInstall(OleDbKind kind);
 
 } // namespace ADODB

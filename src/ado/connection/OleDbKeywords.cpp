@@ -14,15 +14,15 @@ namespace ADODB {
 
 namespace {
 
-// Keywords are compared without their blanks, because hosts write `User ID` and `UserID`,
-// `Trust Server Certificate` and `TrustServerCertificate`.
+// Keywords are compared without blanks, because hosts write both `User ID` and `UserID`, `Trust Server
+// Certificate` and `TrustServerCertificate`.
 struct Word
 {
     QLatin1StringView ole;
     QLatin1StringView odbc; // empty: no driver knows or needs it
 };
 
-// Of OLE DB and of connection pools; they mean the same, or nothing, with every provider.
+// Keywords of OLE DB and of connection pools. They mean the same, or nothing, for every provider.
 constexpr Word commonWords[] = {
     {"Provider"_L1, {}},
     {"PersistSecurityInfo"_L1, {}},

@@ -6,12 +6,12 @@ namespace ADODB {
 
 class ConnectionString;
 
-// ODBC's word for an OLE DB provider's keyword; empty where ODBC has none or needs none. A keyword that is
-// not known is returned as it is: it may be the driver's own. Keywords that need more than another name keep
-// one that the functions which finish a connection string know.
+// The ODBC keyword for an OLE DB provider's keyword; empty if ODBC has or needs none. An unknown keyword is
+// returned unchanged, because it may be the driver's own. A keyword that needs more than another name is
+// mapped to one that the finish… functions handle.
 QString odbcWord(OleDbKind kind, const QString &keyword);
 
-// A value that is yes or no in any of the ways to write it; nothing when the keyword is not there or empty.
+// The value of a Boolean keyword in any accepted spelling; empty if the keyword is missing or has no value.
 // Throws 3001 for anything else.
 std::optional<bool> booleanValue(const ConnectionString &words, const QString &keyword);
 

@@ -13,7 +13,7 @@ namespace ADODB {
 
 namespace {
 
-// A server as it is written: `tcp:host\instance,port`.
+// A server in the form `tcp:host\instance,port`.
 struct Server
 {
     explicit Server(const QString &text)
@@ -34,11 +34,11 @@ struct Server
     }
 
     QString protocol;
-    QString host; // with its instance
+    QString host; // including its instance
     QString port;
 };
 
-// The network library chose the protocol before a server's name could.
+// Before server names could contain a protocol, the network library selected it.
 QString protocolOf(const QString &library)
 {
     if (library.compare("DBMSSOCN"_L1, Qt::CaseInsensitive) == 0)
@@ -56,7 +56,7 @@ Server serverIn(ConnectionString &words)
     const QString address = extractValue(words, u"Address"_s);
     Server server(address.isEmpty() ? words.value(u"Server"_s) : address);
     if (server.host.isEmpty())
-        server.host = u"(local)"_s; // as the providers do
+        server.host = u"(local)"_s; // the providers' default
     if (const QString port = extractValue(words, u"Port"_s); !port.isEmpty())
         server.port = port;
     const QString protocol = protocolOf(extractValue(words, u"Network"_s));
@@ -71,7 +71,7 @@ void putServer(ConnectionString &words, Server server, const OdbcDriver &driver)
         words.set(u"Server"_s, server.text());
         return;
     }
-    // It knows neither protocols nor names for this machine.
+    // FreeTDS supports neither protocols nor the names for this machine.
     static const QRegularExpression here(u"^(\\.|\\(local\\))(?=\\\\|$)"_s,
                                          QRegularExpression::CaseInsensitiveOption);
     words.set(u"Server"_s, server.host.replace(here, u"localhost"_s));
@@ -90,8 +90,8 @@ void putLogin(ConnectionString &words)
     words.remove(u"PWD"_s);
 }
 
-// Drivers from 18 on encrypt and check the server's certificate unless they are configured not to, which most
-// providers never did: a host that has always connected must connect.
+// Drivers from version 18 on encrypt and check the server's certificate by default, but most providers never
+// did. A host that could always connect must still be able to.
 void putEncryption(ConnectionString &words, const OdbcDriver &driver, const QString &provider)
 {
     const bool isStrict = words.value(u"Encrypt"_s).compare("strict"_L1, Qt::CaseInsensitive) == 0;
@@ -129,7 +129,7 @@ void finishSqlServer(ConnectionString &words, const OdbcDriver &driver, const QS
     for (const QString &keyword :
          {u"TrustServerCertificate"_s, u"MARS_Connection"_s, u"AutoTranslate"_s, u"MultiSubnetFailover"_s})
         putSwitch(words, keyword);
-    // These know no word for it; FreeTDS checks no certificate.
+    // These have no keyword for it. FreeTDS does not check certificates.
     if (driver.words == OdbcDriver::Words::FreeTds)
         words.remove(u"TrustServerCertificate"_s);
     else

@@ -15,7 +15,7 @@ namespace ADODB {
 
 namespace {
 
-// What `words` says already stays.
+// Keywords that are already in `words` are kept.
 void take(ConnectionString &words, OleDbKind kind, const ConnectionString &from)
 {
     ConnectionString translated;
@@ -40,7 +40,7 @@ void take(ConnectionString &words, OleDbKind kind, const ConnectionString &from)
 
 void finishOracle(ConnectionString &words, const OdbcDriver &driver)
 {
-    // The operating system's user logs in under this name, without a password.
+    // An operating system user logs in under this name, without a password.
     if (booleanValue(words, u"Trusted_Connection"_s).value_or(false)) {
         words.set(u"UID"_s, u"/"_s);
         words.remove(u"PWD"_s);
@@ -58,7 +58,7 @@ void finishAccess(ConnectionString &words, const OdbcDriver &driver, int bits)
     if (file.endsWith(".accdb"_L1, Qt::CaseInsensitive) &&
         !driver.name.contains(".accdb"_L1, Qt::CaseInsensitive))
         failWithoutDriver(OleDbKind::Access, {driver.name}, bits);
-    // The driver has one word for the user's password and the file's. A user has one only in a workgroup.
+    // The driver uses one keyword for both passwords: the user's (only with a workgroup file) and the file's.
     const QString password = extractValue(words, u"DatabasePassword"_s);
     if (!password.isEmpty())
         words.set(u"PWD"_s, password);
@@ -71,7 +71,7 @@ void finishAccess(ConnectionString &words, const OdbcDriver &driver, int bits)
     }
 }
 
-// Jet's provider also reads sheets and texts; then the first part names their format and is no
+// Jet's provider also reads spreadsheets and text files. Then the first part is the format and not a
 // `keyword=value`.
 void refuseOtherFiles(const QString &extended)
 {
@@ -82,7 +82,7 @@ void refuseOtherFiles(const QString &extended)
 
 ConnectionString withoutOleDbWords(ConnectionString connection)
 {
-    // OdbcLogin knows these.
+    // OdbcLogin handles these.
     static const QStringList kept{u"Provider"_s, u"Extended Properties"_s, u"Driver"_s, u"Mode"_s};
     const ConnectionString all = connection;
     for (const auto &[keyword, value] : all.parts()) {
@@ -92,7 +92,7 @@ ConnectionString withoutOleDbWords(ConnectionString connection)
     return connection;
 }
 
-// The driver that a string names beside its provider, where it is for the same database, or the best one.
+// The driver named in the string besides the provider, if it is for the same database; else the best one.
 OdbcDriver driverFor(OleDbKind kind, const QString &named, const QStringList &installed, int bits)
 {
     if (installed.contains(named, Qt::CaseInsensitive)) {
@@ -104,7 +104,7 @@ OdbcDriver driverFor(OleDbKind kind, const QString &named, const QStringList &in
     failWithoutDriver(kind, installed, bits);
 }
 
-// Only a data source by name, which says itself what it leads to.
+// Only a data source name, which determines its own target.
 bool isByName(const ConnectionString &words)
 {
     const auto has = [&](std::initializer_list<QLatin1StringView> keywords) {

@@ -9,17 +9,17 @@
 
 namespace ADODB {
 
-// A connection string for an OLE DB provider in the words of the best of the `installed` ODBC drivers, which
-// it then names itself. They are asked for once, and only where a driver must be chosen: the driver manager
-// takes its time. The time limits keep ADO's words. A string that names no such provider comes back as
-// it is; with MSDASQL, which takes ODBC's words anyway, it loses only what is OLE DB's own.
+// Translates a connection string for an OLE DB provider to the keywords of the best of the `installed` ODBC
+// drivers, and names that driver in it. `installed` is called once, and only if a driver must be chosen: the
+// driver manager is slow. Time limits keep ADO's keywords. A string without such a provider is returned
+// unchanged; with MSDASQL, which uses ODBC's keywords anyway, only OLE DB's own keywords are removed.
 //
-// Of several values for one thing the last one holds, whatever name it goes by (`Server` or `Data Source`).
-// `Extended Properties` adds what the string itself does not say. Keywords that are not known go to the
-// driver.
+// If several keywords mean the same (`Server` and `Data Source`), the
+// last value is used. `Extended Properties` adds keywords that the string
+// itself does not have. Unknown keywords are passed to the driver.
 //
-// Throws 3706 when no driver is installed, naming what to install for a program of so many `bits`; 3001 for a
-// value that can't be understood; 3251 for what no driver does. No message contains a value.
+// Throws 3706 if no driver is installed, naming the one to install for a program with this many `bits`; 3001
+// if a value is invalid; 3251 for something that no driver supports. No message contains a value.
 ConnectionString inOdbcWords(const ConnectionString &connection,
                              const std::function<QStringList()> &installed, int bits = QSysInfo::WordSize);
 

@@ -7,8 +7,8 @@
 
 namespace ADODB {
 
-// While it lives, what this thread reads follows at once and belongs together. So a provider may leave a
-// transaction open between two statements, which spares the server two questions. They can be nested.
+// While it exists, the reads of this thread belong to one command. So a provider may leave a transaction open
+// between two statements, which saves two round trips to the server. Can be nested.
 class OneCommand
 {
 public:
@@ -16,9 +16,9 @@ public:
     ~OneCommand();
     Q_DISABLE_COPY_MOVE(OneCommand)
 
-    // The outermost one; null when there is none.
+    // The outermost one; null if there is none.
     static OneCommand *current();
-    // What is left open is ended by this, when the command ends.
+    // Registers a function that ends what was left open, at the end of the command.
     void atEnd(std::function<void()> end);
 
 private:

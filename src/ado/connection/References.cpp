@@ -8,7 +8,7 @@ namespace ADODB {
 
 std::optional<TableColumn> referenceOf(const Connection &connection, const TableColumn &column)
 {
-    // A copy, because whoever watches the wait can let the host close the connection.
+    // A copy, because the host may close the connection during the wait.
     const std::shared_ptr<Session> session = connection.session();
     Watched watched;
     return session->reference(column, [&] { return watched.shouldContinue(); });

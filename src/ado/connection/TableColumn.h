@@ -4,10 +4,10 @@
 
 namespace ADODB {
 
-// A column of a table, by the names that the database keeps.
+// A column of a table, with the names in the database's own form.
 struct TableColumn
 {
-    QString schema; // empty where it isn't known, or is the usual one
+    QString schema; // empty if unknown or the default one
     QString table;
     QString column;
 };

@@ -24,7 +24,7 @@ bool isUntyped(const std::shared_ptr<Connection> &connection, const FieldInfo &f
                      connection);
         return columns.RecordCount() > 0;
     } catch (const Error &) {
-        return false; // a table of another database that is attached
+        return false; // a table in an attached database
     }
 }
 

@@ -8,8 +8,8 @@ namespace ADODB {
 
 class Connection;
 
-// Whether each value of the field is of a type of its own, as SQLite's are in an expression and in a column
-// that is declared without a type. Asks the database about a column.
+// Whether each value of the field has its own type, as in SQLite's expressions and columns without a declared
+// type. Queries the database if the field is a column.
 bool isUntyped(const std::shared_ptr<Connection> &connection, const FieldInfo &field);
 
 } // namespace ADODB

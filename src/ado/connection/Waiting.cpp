@@ -11,7 +11,7 @@ namespace {
 
 thread_local Waiting *innermost = nullptr;
 
-// Used in the main thread only.
+// Main thread only.
 WaitWatcher::Maker &watcherMaker()
 {
     static WaitWatcher::Maker theMaker;

@@ -10,9 +10,9 @@
 
 namespace ADODB {
 
-// For as long as it lives, what waits for a server in this thread, and has nobody of its own to ask, asks
-// here whether to go on: every few milliseconds, from this thread. When the answer is false the wait ends
-// with dbErrCancelled. They can be nested; the innermost is asked.
+// While it exists, a wait for a server in this thread that has no progress callback of its own calls this one
+// every few milliseconds, in this thread. If it returns false, the wait ends with dbErrCancelled. Can be
+// nested; the innermost one is called.
 class KOVA_EXPORT Waiting
 {
 public:
@@ -20,7 +20,7 @@ public:
     ~Waiting();
     Q_DISABLE_COPY_MOVE(Waiting)
 
-    // Whether somebody can end a wait in this thread.
+    // Whether a wait in this thread can be cancelled.
     static bool isWatched();
 
 private:
@@ -30,31 +30,31 @@ private:
     Waiting *m_outer;
 };
 
-// What watches a wait in the application's main thread where no Waiting lives, which keeps the windows
-// painted and lets the user end the wait.
+// Watches a wait in the application's main thread if there is no Waiting. It keeps the windows painted and
+// lets the user cancel the wait.
 class KOVA_EXPORT WaitWatcher
 {
 public:
     virtual ~WaitWatcher();
     virtual bool shouldContinue() = 0;
 
-    // Called when such a wait begins; a null answer leaves it unwatched. The last one that was set is used,
-    // and null uses none.
+    // Called when such a wait begins. If it returns null, the wait is not watched. The maker set last is
+    // used; null means none.
     using Maker = std::function<std::unique_ptr<WaitWatcher>()>;
     static void setMaker(Maker maker);
 };
 
-// One wait of a provider: asks the innermost Waiting, else a watcher of its own.
+// A provider's wait: uses the innermost Waiting, or else a WaitWatcher of its own.
 class Watched
 {
 public:
-    // True where nobody can end it.
+    // True if nothing can cancel the wait.
     bool shouldContinue();
 
 private:
     bool m_isMade = false;
     std::unique_ptr<WaitWatcher> m_watcher;
-    std::optional<Waiting> m_waiting; // for what waits in the host's code meanwhile
+    std::optional<Waiting> m_waiting; // for waits in the host's code meanwhile
 };
 
 } // namespace ADODB

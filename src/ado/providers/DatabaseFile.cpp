@@ -20,13 +20,13 @@ DatabaseFile::DatabaseFile(const QString &name, qint64 headerSize)
         throw Error(adErrOpeningFile, Texts::fileMissing().arg(shown));
     if (info.isDir())
         throw Error(adErrOpeningFile, Texts::fileIsFolder().arg(shown));
-    if (!info.isFile()) // opening a pipe would wait for somebody to write to it
+    if (!info.isFile()) // opening a pipe would block until something writes to it
         throw Error(adErrOpeningFile, Texts::fileIsSpecial().arg(shown));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw Error(adErrOpeningFile, Texts::fileUnreadable().arg(shown, file.errorString()));
     size = file.size();
-    if (size > 0) // reading what only looks like a file can wait for ever
+    if (size > 0) // reading something that only looks like a file can block forever
         header = file.read(headerSize);
 }
 

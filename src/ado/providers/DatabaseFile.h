@@ -5,20 +5,20 @@
 
 namespace ADODB {
 
-// A look at a database file before its engine opens it, because an engine may take a missing file for a new
-// one and any other file for a damaged one of its own. Throws 3002 when there is no such file or it can't be
-// read.
+// Checks a database file before its engine opens it, because an engine
+// may create a missing file or report a foreign file as a damaged one
+// of its own. Throws 3002 if the file does not exist or can't be read.
 struct DatabaseFile
 {
     DatabaseFile(const QString &name, qint64 headerSize);
 
     QString path;  // absolute
-    QString shown; // as a message names it
+    QString shown; // as shown in messages
     qint64 size = 0;
-    QByteArray header; // at most the bytes that were asked for
+    QByteArray header; // at most the requested number of bytes
 };
 
-// Whether a file is an Access database by its ending.
+// Whether the file name has an ending of Access databases.
 bool isAccessFileName(const QString &name);
 
 } // namespace ADODB

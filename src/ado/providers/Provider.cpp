@@ -33,7 +33,7 @@ Statement::~Statement() = default;
 Session::~Session() = default;
 Provider::~Provider() = default;
 
-// In ProviderList.cpp, which CMake writes.
+// Defined in ProviderList.cpp, which CMake generates.
 std::vector<const Provider *> builtInProviders();
 
 namespace {

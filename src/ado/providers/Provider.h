@@ -12,8 +12,8 @@
 #include <optional>
 #include <vector>
 
-// What a database engine has to offer to be reached through Connection and Recordset. Each engine has its own
-// folder beside this file and is listed in CMakeLists.txt there. Everything throws Error.
+// What a database engine must implement to be used by Connection and Recordset. Each engine has its own
+// folder here and is listed in CMakeLists.txt. Every function can throw Error.
 namespace ADODB {
 
 using KOVAVSFDataGridLib::SqlQuoting;
@@ -21,44 +21,44 @@ using KOVAVSFDataGridLib::SqlQuoting;
 class ConnectionString;
 class RowStore;
 
-// A statement that was checked to return rows and to change nothing. It must not outlive its session's close.
+// A statement, checked to return rows and change nothing. Must not be used after its session is closed.
 class Statement
 {
 public:
     virtual ~Statement();
-    // The columns to show. Where a type is only known from the values, it is final once fetch() has returned.
+    // The columns to show. A type that only the values can tell is final once fetch() has returned.
     virtual const std::vector<FieldInfo> &fields() const = 0;
-    // All columns: those of fields(), then hidden ones that serve the writer as key.
+    // All columns: those of fields(), then the hidden ones that the writer uses as a key.
     virtual int columns() const = 0;
-    // Runs the statement and appends all its rows. Asks at least every 20 ms whether to go on, with the
-    // number of rows read so far; throws dbErrCancelled when not. `rows` is without meaning while it asks.
+    // Runs the statement and appends all its rows. Calls `shouldContinue` at least every 20 ms with the
+    // number of rows read; throws dbErrCancelled if it returns false. `rows` is not valid during the call.
     virtual void fetch(RowStore &rows, const std::function<bool(qint64 rowsRead)> &shouldContinue) = 0;
-    // The whole rows that fetch() has read, while it asks: all or nearly all of them. Null when there are
-    // none yet, or the provider can't tell.
+    // For use inside `shouldContinue`: the complete rows that fetch() has read so far, or nearly all of them.
+    // Null if there are none yet, or if the provider does not support it.
     virtual std::shared_ptr<const RowStore> rowsSoFar() const { return nullptr; }
-    // Null when rows can't be written back; whyReadOnly() then says why.
+    // Null if rows can't be written back; whyReadOnly() then returns the reason.
     virtual std::unique_ptr<RowWriter> releaseWriter() = 0;
     virtual QString whyReadOnly() const = 0;
 };
 
 enum class Access { ReadOnly, ReadWrite };
 
-// One open connection. Statements and writers share it, so it lives as long as they do.
+// One open connection. Statements and writers share ownership of it, so it lives as long as they do.
 class Session
 {
 public:
     virtual ~Session();
-    // As its driver names it; see Connection::EngineName.
+    // The name that the driver reports; see Connection::EngineName.
     virtual QString engineName() const { return {}; }
-    // How a MySQL server reads texts and names in this session; nothing to other engines.
+    // How a MySQL server reads texts and names in this session. Other engines don't use it.
     virtual SqlQuoting quoting() const { return {}; }
-    // Refuses what is not one statement that returns rows and changes nothing, before running any of it. With
-    // ReadWrite the statement is prepared for writing back as far as it allows that. Asks whether to go on as
-    // Statement::fetch() does, where it has to wait for a server.
+    // Checks `sql` before running any of it and refuses anything but one statement that returns rows and
+    // changes nothing. With ReadWrite, it also prepares for writing rows back, if the statement allows that.
+    // Calls `shouldContinue` as Statement::fetch() does while it waits for a server.
     virtual std::unique_ptr<Statement> prepare(const QString &sql, Access access,
                                                const std::function<bool()> &shouldContinue) = 0;
-    // The column of another table that this one refers to by a foreign key; nothing where it refers to none,
-    // or the engine can't be asked. Asks whether to go on as prepare() does.
+    // The column of another table that this one refers to by a foreign key; empty if there is none or the
+    // engine can't tell. Calls `shouldContinue` as prepare() does.
     virtual std::optional<TableColumn> reference(const TableColumn & /*column*/,
                                                  const std::function<bool()> & /*shouldContinue*/)
     {
@@ -73,48 +73,48 @@ public:
     }
     // The statement that reads a whole table.
     virtual QString tableStatement(const QString &table) const = 0;
-    // Whether another session that is opened in the same way finds the same data. Not where a database lives
-    // in its connection, nor where nobody knows.
+    // Whether another session opened in the same way sees the same data. False if the database exists only in
+    // its connection, or if this is unknown.
     virtual bool isRepeatable() const { return false; }
-    // Ends the connection; writers that still hold the session throw from then on.
+    // Ends the connection. Writers that still hold the session throw from then on.
     virtual void close() = 0;
-    // False once it is closed or its server went away; nothing more can be done with it then.
+    // False after close() or after the connection to the server was lost; the session is then unusable.
     virtual bool isOpen() const { return true; }
 };
 
-// How the connection builder offers a provider whose databases are files.
+// How the connection builder presents a provider whose databases are files.
 struct FileChoice
 {
     QString caption;         // "SQLite database file"
-    QString filter;          // of the file dialog: "SQLite databases (*.db)"
-    QString passwordKeyword; // in a connection string; empty where files have no password
+    QString filter;          // for the file dialog: "SQLite databases (*.db)"
+    QString passwordKeyword; // in a connection string; empty if files have no password
 };
 
 class Provider
 {
 public:
     virtual ~Provider();
-    // Its name in a connection string, as a message lists it.
+    // The name in a connection string, as messages list it.
     virtual QString name() const = 0;
-    // Whether a connection string is meant for it, by its Provider or, where it names none, by what it does
-    // name.
+    // Whether a connection string is meant for this provider: by its Provider keyword or, without one, by its
+    // other keywords.
     virtual bool claims(const ConnectionString &connection) const = 0;
     virtual std::shared_ptr<Session> open(const ConnectionString &connection) const = 0;
-    // Nothing where a database is not a file that `Data Source` names.
+    // Empty if a database of this provider is not a file named by `Data Source`.
     virtual std::optional<FileChoice> fileChoice() const { return std::nullopt; }
 };
 
-// All of them, in the order in which they are asked.
+// All providers, in the order in which their claims() is called.
 const std::vector<const Provider *> &providers();
 
-// The first provider that claims a connection string; null when none does.
+// The first provider that claims the connection string; null if there is none.
 const Provider *providerOf(const ConnectionString &connection);
 
-// The session for a connection string. Throws 3706 when no provider claims it.
+// Opens a session for the connection string. Throws 3706 if no provider claims it.
 std::shared_ptr<Session> openSession(const ConnectionString &connection);
 
-// Adds a provider for as long as this object lives; it is asked before the others. The provider must outlive
-// it.
+// Registers a provider for the lifetime of this object. It takes precedence over the others. The provider
+// must outlive this object.
 class ProviderRegistration
 {
 public:

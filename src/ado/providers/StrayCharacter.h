@@ -10,9 +10,9 @@ namespace ADODB {
 
 using KOVAVSFDataGridLib::SqlScanner;
 
-// Throws dbErrPermissionDenied when engines could disagree about where a comment or a text of the statement
-// ends: one of them would then run what another takes for a comment. See SqlScanner::strayCharacter().
-// `source` names the engine in the error.
+// Throws dbErrPermissionDenied if engines could disagree about where a comment or a string of the statement
+// ends: one engine would run what another one skips as a comment. See SqlScanner::strayCharacter(). `source`
+// is the engine's name for the error.
 void refuseStrayCharacter(const SqlScanner &statement, const QString &source);
 
 } // namespace ADODB

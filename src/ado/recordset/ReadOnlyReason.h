@@ -4,7 +4,7 @@
 
 namespace ADODB {
 
-// Why the rows of such a statement can't be written back, for a person to read; empty when they can.
+// Why the rows of such a statement can't be written, as a text for the user; empty if they can.
 QString readOnlyReason(KOVAVSFDataGridLib::SimpleSelect::Fault fault);
 
 } // namespace ADODB

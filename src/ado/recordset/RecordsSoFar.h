@@ -6,9 +6,9 @@ namespace ADODB {
 
 class Recordset;
 
-// What a recordset has read so far while it is being opened, as an open recordset of its own that can only be
-// read. It stays as it is, whatever becomes of the other. To be called from the progress report; null when
-// there are no records yet, or the provider can't show them before it has all.
+// The records that a recordset has read so far while it is being opened, as an open, read-only recordset. It
+// does not change afterwards, whatever happens to the other one. Call it from the progress callback. Null if
+// there are no records yet, or if the provider can't show them before it has read all.
 std::shared_ptr<const Recordset> recordsSoFar(const Recordset &opening);
 
 } // namespace ADODB

@@ -18,7 +18,7 @@ QString Recordset::WhyReadOnly() const
     return d->shared && editor ? editor->whyReadOnly() : QString();
 }
 
-// A new record that can't be saved keeps the place that another one would take.
+// If this new record can't be saved, another one can't be added.
 void Recordset::saveBeforeAddNew()
 {
     if (d->edit().isEmpty())

@@ -1,6 +1,6 @@
 #include "ado/recordset/RecordsetPrivate.h"
 
-// The members of Recordset that move the current record or say where it is.
+// The members of Recordset that move the current record or return its position.
 
 namespace ADODB {
 
@@ -28,7 +28,7 @@ bool Recordset::isEOF() const
     return !d->isAdding() && d->position.isEOF();
 }
 
-// Moving away saves. A new record that nobody wrote anything into is nothing to save.
+// Moving saves the record. A new record without any value is not saved.
 void Recordset::leaveRecord()
 {
     d->needIdle();
@@ -89,7 +89,7 @@ void Recordset::PutAbsolutePosition(qint64 position)
     moveTo(position, adRsnMove);
 }
 
-// The upper half says how many records had been deleted when the lower half was the record's number.
+// The lower half is the record's number; the upper half is the number of deletions at that time, plus 1.
 qint64 Recordset::Bookmark() const
 {
     if (d->isAdding())

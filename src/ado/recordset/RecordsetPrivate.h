@@ -22,7 +22,7 @@ namespace ADODB {
 class Session;
 class Statement;
 
-// Runs `action`; what it has no memory for becomes an error of the data access with `text`.
+// Runs `action`. Turns a lack of memory into an Error with `text`.
 template<typename Action>
 auto withinMemory(KOVAVSFDataGridLib::Text text, Action &&action)
 {
@@ -33,22 +33,22 @@ auto withinMemory(KOVAVSFDataGridLib::Text text, Action &&action)
     }
 }
 
-// The rows of a result; a recordset and its clones have the same ones.
+// The rows of a result, shared by a recordset and its clones.
 struct SharedRows
 {
     Snapshot snapshot;
-    // The records that were deleted, each with the number that it had then.
+    // The deleted records, each with its number at the time.
     std::vector<qint64> removals;
 };
 
-// What a recordset keeps and its groups of members share: opening is in Recordset.cpp, moving in
+// The data of a recordset, shared by the files that implement it: opening is in Recordset.cpp, moving in
 // RecordsetMoves.cpp, editing in RecordsetEditing.cpp.
 struct Recordset::Private
 {
     CursorLocationEnum cursorLocation = adUseServer;
     CursorTypeEnum cursorType = adOpenForwardOnly;
-    LockTypeEnum lockType = adLockReadOnly;       // of openings that don't say
-    LockTypeEnum openedLockType = adLockReadOnly; // of the latest opening
+    LockTypeEnum lockType = adLockReadOnly;       // default for Open
+    LockTypeEnum openedLockType = adLockReadOnly; // of the last Open
     qint32 pageSize = 10;
     QString source;
     std::function<bool(qint64)> progress;
@@ -59,7 +59,7 @@ struct Recordset::Private
     RecordPosition position;
     std::optional<RecordEditor> editor;
     std::shared_ptr<SharedRows> shared; // set while open, as is the editor
-    std::size_t removalsSeen = 0;       // of the shared rows; the position knows of these
+    std::size_t removalsSeen = 0;       // how many of the shared rows' removals the position includes
     std::weak_ptr<Connection> connection;
 
     // The row that Resync found, and the record it belongs to.
@@ -69,7 +69,7 @@ struct Recordset::Private
     std::vector<RecordsetObserver *> observers;
     std::unique_ptr<QObject> companion;
 
-    // Only while open; all members go through one of these two.
+    // Only while open. All members access the rows through these two.
     Snapshot &rows()
     {
         if (!shared)
@@ -77,7 +77,7 @@ struct Recordset::Private
         followRemovals();
         return shared->snapshot;
     }
-    // Another recordset with the same rows may have changed their number.
+    // Applies deletions that another recordset with the same rows made.
     void followRemovals()
     {
         for (; removalsSeen < shared->removals.size(); ++removalsSeen)
@@ -87,10 +87,10 @@ struct Recordset::Private
     RecordEditor &edit()
     {
         rows();
-        return *editor; // NOLINT(bugprone-unchecked-optional-access): it is there while the rows are
+        return *editor; // NOLINT(bugprone-unchecked-optional-access): set whenever the rows are
     }
-    // While a change waits for the database, whoever watches the wait can let the host call this recordset.
-    // It can read then, but change nothing.
+    // While a change waits for the database, the host may call this recordset. It can read then, but can't
+    // change anything.
     class Busy
     {
     public:
@@ -122,12 +122,12 @@ struct Recordset::Private
         return position.record();
     }
     bool isAdding() { return edit().mode() == adEditAdd; }
-    // Follows `action`, which answers whether it has taken the current record out of the rows.
+    // Calls `action`, which returns whether it removed the current record, and follows the removal.
     template<typename Action>
     bool removeCurrent(Action &&action)
     {
         std::vector<qint64> &removals = shared->removals;
-        removals.reserve(removals.size() + 1); // so that nothing can fail once the record is gone
+        removals.reserve(removals.size() + 1); // so that nothing can fail after the record is removed
         const qint64 record = currentRecord();
         if (!action(record))
             return false;
@@ -138,7 +138,7 @@ struct Recordset::Private
     }
 
     Snapshot read(Session &session, const QString &statement);
-    // The number must be one of 1…limit; `text` is the message for one that is not.
+    // Throws with `text` unless `number` is in 1…limit.
     void needInRange(qint64 number, qint64 limit, const QString &text) const;
 
     // An observer may remove itself or others when it is called.

@@ -8,7 +8,7 @@ namespace ADODB {
 
 namespace {
 
-// Whether the words hold the name, and not only as a part of another one.
+// Whether the text contains the name as a whole word.
 bool mention(const QString &words, const QString &name)
 {
     const auto isPartOfName = [&](qsizetype place) {
@@ -42,8 +42,8 @@ QString missingField(const QString &words, const std::vector<FieldInfo> &without
         if (isRequired(field))
             required.push_back(field);
     }
-    // A driver can take a required field for one that takes Null. Where the words name another column as
-    // well, the required one is meant.
+    // A driver can report a required field as one that accepts Null. If the text names another column too,
+    // the required one is meant.
     if (!mentioned.empty()) {
         const auto found = std::ranges::find_if(mentioned, isRequired);
         return found == mentioned.end() ? mentioned.front().name : found->name;

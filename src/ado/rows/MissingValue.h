@@ -8,12 +8,12 @@
 
 namespace ADODB {
 
-// The SQLSTATE of a database that refuses a record because a field has no value. Providers give it wherever
-// they know that this is the reason.
+// The SQLSTATE for a record that is refused because a field has no value. Providers set it whenever they know
+// that this is the reason.
 inline const QString nullRefused = QStringLiteral("23502");
 
-// The name of the field that such a refusal is about, of those that have no value; empty when nobody can
-// tell. `words` are the database's own: in any language, but with the column's name.
+// The name of the field in `withoutValue` that such an error is about; empty if it can't be determined.
+// `words` is the database's own message, in any language, but with the column's name.
 QString missingField(const QString &words, const std::vector<FieldInfo> &withoutValue);
 
 } // namespace ADODB

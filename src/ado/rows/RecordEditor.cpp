@@ -18,7 +18,7 @@ namespace ADODB {
 
 namespace {
 
-// Takes what was just saved into the snapshot. When that fails, the record shown is not the one saved.
+// Updates the snapshot after a save. If that fails, the shown record is not the saved one.
 template<typename Action>
 void showSaved(Action &&action)
 {
@@ -37,8 +37,8 @@ bool isZonedMoment(const QVariant &value)
            DateText::isZonedMoment(value.toString().trimmed().toUtf8());
 }
 
-// Whether the field keeps zones, as its values show where no driver tells. Where it doesn't, a database would
-// drop the zone without a word.
+// Whether the field's values show that it stores time zones, for drivers that don't report it. If it doesn't,
+// a database would silently drop the zone.
 bool showsZones(const Snapshot &snapshot, int column)
 {
     constexpr qint64 recordsLookedAt = 1000;
@@ -142,7 +142,7 @@ void RecordEditor::saveNew(Snapshot &snapshot)
             try {
                 insert(snapshot.columns());
             } catch (const Error &error) {
-                // The attempt before this one may have come to its end only now.
+                // The previous attempt may have finished only now.
                 if (!error.is(dbErrIntegrity) || !findSavedNew())
                     throw;
             }
@@ -168,7 +168,7 @@ void RecordEditor::showNew(Snapshot &snapshot)
     cancel();
 }
 
-// Whether the attempt before this one, whose answer never came, has saved the new record.
+// Whether the previous attempt, whose result is unknown, has saved the new record.
 bool RecordEditor::findSavedNew()
 {
     if (!m_sent)
@@ -178,7 +178,7 @@ bool RecordEditor::findSavedNew()
     RowStore now(m_sent->row.columns());
     if (!writer().read(m_sent->row.row(0), now))
         return false;
-    // Somebody else may have changed it, or have got the key that was undone.
+    // Others may have changed the record, or have got the key after a rollback.
     const bool isSame =
         now.rows() == 1 && std::all_of(m_sent->values.begin(), m_sent->values.end(), [&](const auto &value) {
             return RowComparison::isSame(now.cell(0, value.first), m_sent->row.cell(0, value.first));
@@ -189,10 +189,10 @@ bool RecordEditor::findSavedNew()
     return true;
 }
 
-// Makes an attempt with what is pending now. `attempt` gets the row for what is stored.
+// Makes an attempt with the pending values. `attempt` receives a row for what is stored.
 void RecordEditor::send(int columns, const std::function<void(RowStore &)> &attempt)
 {
-    // Made before, so that nothing can fail once it is saved.
+    // Allocated first, so that nothing can fail after the save.
     std::unique_ptr<Sent> sent(new Sent{m_values, RowStore(columns)});
     try {
         attempt(sent->row);
@@ -214,7 +214,7 @@ void RecordEditor::insert(int columns)
     });
 }
 
-// What was written into the record since the attempt that saved it.
+// Saves what was written to the record since the attempt that saved it.
 void RecordEditor::changeSaved()
 {
     if (m_sent->values != m_values)
@@ -252,14 +252,14 @@ void RecordEditor::update(const Snapshot &snapshot, qint64 record)
         send(snapshot.columns(),
              [&](RowStore &stored) { writer().update(snapshot.raw(record), changes(), stored); });
     } catch (const Error &error) {
-        // What has changed the record may be the attempt before this one, whose answer never came.
+        // The change may come from the previous attempt, whose result is unknown.
         if (!m_sent || !error.is(dbErrConcurrency) || !findSaved(snapshot, record))
             throw;
         changeSaved();
     }
 }
 
-// Whether the database has what the attempt before this one was to save, under the key that it was to have.
+// Whether the database has the values of the previous attempt, under the key they were sent with.
 bool RecordEditor::findSaved(const Snapshot &snapshot, qint64 record)
 {
     const bool isRowKnown = m_sent->row.rows() == 1;
@@ -293,7 +293,7 @@ void RecordEditor::remove(Snapshot &snapshot, qint64 record)
     try {
         writer().remove(snapshot.raw(record));
     } catch (const Error &error) {
-        // The attempt before this one, whose answer never came, may have deleted it.
+        // The previous attempt, whose result is unknown, may have deleted it.
         if (error.is(dbErrConcurrency) && findRemoval(snapshot, record))
             return;
         if (error.is(dbErrInDoubt))

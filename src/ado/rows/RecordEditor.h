@@ -17,44 +17,44 @@ class RowWriter;
 class Snapshot;
 struct Change;
 
-// The pending edit of a recordset: the values that were written to fields and not yet to the database.
+// The pending edit of a recordset: values that were written to fields but not yet to the database.
 class RecordEditor
 {
 public:
-    // `writer` is null for a result that can't be written; `whyReadOnly` then says why.
+    // `writer` is null for a read-only result; `whyReadOnly` is then the reason.
     RecordEditor(std::unique_ptr<RowWriter> writer, const QString &whyReadOnly);
     ~RecordEditor();
 
     bool isWritable() const { return m_writer != nullptr; }
     EditModeEnum mode() const { return m_mode; }
-    // Empty for a result that can be written.
+    // Empty if the result can be written.
     QString whyReadOnly() const { return m_writer ? QString() : m_whyReadOnly; }
     bool isEmpty() const { return m_values.empty(); }
-    // The pending value of a column, null when it has none.
+    // The pending value of a column, or null if there is none.
     const QVariant *pending(int column) const;
 
     void beginNew(); // throws 3251
-    // `snapshot` tells the field's name and type. Throws 3251 and 3421 and then begins nothing.
+    // `snapshot` has the field's name and type. Throws 3251 or 3421, and then no edit begins.
     void set(int column, const QVariant &value, const Snapshot &snapshot);
     void cancel();
 
-    // Both end the edit when they succeed and keep it when they throw. After dbErrInDoubt, the next attempt
-    // finds out whether it was saved. Where that can't be told of a new record, saveNew() throws
-    // dbErrPerhapsSaved until that attempt is forgotten.
+    // Both end the edit on success and keep it if they throw. After dbErrInDoubt, the next call finds out
+    // whether the record was saved. If that can't be determined for a new record, saveNew() throws
+    // dbErrPerhapsSaved until forgetAttempt() is called.
     void saveNew(Snapshot &snapshot);
     void saveChanges(Snapshot &snapshot, qint64 record);
     void forgetAttempt() { m_sent.reset(); }
-    // Deletes a record, whatever is pending. After dbErrInDoubt, the next attempt finds out whether it is
+    // Deletes a record, even with a pending edit. After dbErrInDoubt, the next call finds out whether it was
     // deleted.
     void remove(Snapshot &snapshot, qint64 record);
-    // The same three without an attempt: whether the one before, which ended with dbErrInDoubt, has done what
-    // it was to do; it is then shown as by the attempt itself. False where no outcome is open. They throw
-    // what reading throws, and the first one dbErrPerhapsSaved too.
+    // Find out whether the previous attempt, which ended with dbErrInDoubt, has succeeded, without making
+    // another one. If so, they show its result and return true. False if no outcome is unknown. They throw
+    // the errors of reading; findNew() also throws dbErrPerhapsSaved.
     bool findNew(Snapshot &snapshot);
     bool findChanges(Snapshot &snapshot, qint64 record);
     bool findRemoval(Snapshot &snapshot, qint64 record);
-    // The record as the database has it now, the only row of the answer. Throws 3251, and dbErrDeletedRow
-    // when it is gone.
+    // Reads the record again and returns it as the only row. Throws 3251, and dbErrDeletedRow if it was
+    // deleted.
     RowStore readAgain(const Snapshot &snapshot, qint64 record) const;
 
 private:
@@ -64,7 +64,7 @@ private:
     void update(const Snapshot &snapshot, qint64 record);
     bool findSaved(const Snapshot &snapshot, qint64 record);
     bool findSavedNew();
-    // The error, with the name of the field where the database refused one without a value.
+    // Adds the field's name to an error about a missing value.
     Error named(const Error &error, const Snapshot &snapshot) const;
     void insert(int columns);
     void changeSaved();
@@ -79,10 +79,10 @@ private:
 
     struct Sent
     {
-        std::map<int, QVariant> values; // as they were sent
-        RowStore row;                   // as it was to be saved; none where that isn't known
+        std::map<int, QVariant> values; // as sent
+        RowStore row;                   // as it was to be saved; no row if that is unknown
     };
-    // What was saved, or may have been, and isn't shown yet: the new record, or the changed one.
+    // The new or changed record that was saved, or may have been, and isn't shown yet.
     std::unique_ptr<Sent> m_sent;
     qint64 m_removed = 0; // the record that may have been deleted; 0 for none
 };

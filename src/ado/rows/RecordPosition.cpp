@@ -33,7 +33,7 @@ qint64 RecordPosition::absolute() const
 void RecordPosition::move(qint64 records, BookmarkEnum start)
 {
     if (m_count == 0) {
-        // Leaving the deleted last record is still a move; from then on there is nowhere to go.
+        // Leaving the last record, just deleted, is still a valid move. After that there is none.
         if (!m_deleted)
             throw Error(adErrNoCurrentRecord, Texts::noCurrentRecord());
         reset(0);
@@ -52,7 +52,7 @@ void RecordPosition::move(qint64 records, BookmarkEnum start)
             return;
         if ((records > 0 && isEOF()) || (records < 0 && isBOF()))
             throw Error(adErrNoCurrentRecord, Texts::noCurrentRecord());
-        // A deleted record stands between its neighbours.
+        // The position of a deleted record is between its neighbours.
         from = m_deleted && records > 0 ? m_at - 1 : m_at;
         break;
     default:

@@ -4,38 +4,38 @@
 
 namespace ADODB {
 
-// Where a recordset stands in its live sequence of records: before the first, on one, behind the last, or on
-// one that was just deleted.
+// The position of a recordset in its live sequence of records: before the first, on one, after the last, or
+// on one that was just deleted.
 class RecordPosition
 {
 public:
-    // On the first record, or nowhere in an empty set.
+    // Moves to the first record, or nowhere if the set is empty.
     void reset(qint64 count);
 
     qint64 count() const { return m_count; }
     bool isBOF() const { return m_at == 0 && !m_deleted; }
     bool isEOF() const { return (m_at > m_count || m_count == 0) && !m_deleted; }
     bool isDeleted() const { return m_deleted; }
-    // The record stood on, from 1; 0 when there is none.
+    // The current record, from 1; 0 if there is none.
     qint64 record() const;
-    // The same, or a PositionEnum value.
+    // The same, or a value of PositionEnum.
     qint64 absolute() const;
 
-    // Throws 3021 as Recordset::Move says, 3001 for an unknown start.
+    // Throws 3021 as documented for Recordset::Move, and 3001 for an unknown start.
     void move(qint64 records, BookmarkEnum start);
-    // `record` must be one of 1…count.
+    // `record` must be in 1…count.
     void moveTo(qint64 record);
-    // The record stood on leaves the sequence.
+    // Removes the current record from the sequence.
     void removeCurrent();
-    // A record joined the sequence at its end; stands on it.
+    // Appends a record to the sequence and moves to it.
     void append();
-    // The same for changes that were made elsewhere: they never move, and the record stood on can be gone.
+    // For changes made elsewhere. They don't move the position, but can delete the current record.
     void removeElsewhere(qint64 record);
     void appendElsewhere(qint64 records);
 
 private:
     qint64 m_count = 0;
-    // 0 before the first, m_count + 1 behind the last. On a deleted record: the one that followed it.
+    // 0 before the first, m_count + 1 after the last. On a deleted record: the one that followed it.
     qint64 m_at = 0;
     bool m_deleted = false;
 };

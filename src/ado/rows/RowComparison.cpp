@@ -20,7 +20,7 @@ Error concurrency(const QString &description, const QString &source)
 
 bool isSame(const RawValue &a, const RawValue &b)
 {
-    // By its bits, because a number that is none does not equal itself.
+    // Bitwise, because NaN does not equal itself.
     return a.kind == b.kind && a.integer == b.integer && a.bytes == b.bytes &&
            std::bit_cast<quint64>(a.real) == std::bit_cast<quint64>(b.real);
 }

@@ -10,21 +10,21 @@ namespace ADODB {
 
 class Recordset;
 
-// Reads whole records as they are stored, without making a value of each cell: for what goes through many
-// records. It shows saved values, moves nothing and notifies nobody.
+// Reads whole records in their stored form, without converting each cell to a QVariant: for code that reads
+// many records. It reads saved values, does not move the recordset and sends no events.
 class RowReader
 {
 public:
-    // Reads `columns` fields from the one at `first`, counted from 0. `recordset` must outlive this object.
+    // Reads `columns` fields, starting at field `first` (from 0). `recordset` must outlive this object.
     RowReader(const Recordset &recordset, int columns, int first = 0);
 
-    // The cells of a record, from 1, without those before `first`; they are valid until the next call or a
-    // change of the recordset. Null when there is no such record, because it was deleted or the recordset is
+    // The cells of a record (from 1), starting at field `first`. They are valid until the next call or until
+    // the recordset changes. Null if there is no such record, because it was deleted or the recordset is
     // closed.
     const std::vector<RawValue> *read(qint64 record);
 
-    // One cell's text, without what of a long one comes behind the first `length` characters or so. Empty
-    // when there is no such cell.
+    // The text of one cell, cut after about `length`
+    // characters. Empty if there is no such cell.
     static QString beginning(const Recordset &recordset, qint64 record, int column, qsizetype length);
 
     // The decimals that a cell's field has and its value can't have kept, because it is stored as a mere

@@ -21,7 +21,7 @@ T numberAt(const char *at)
 
 RowStore::RowStore(int columns, qint64 memoryLimit) : m_columns(columns), m_memoryLimit(memoryLimit) {}
 
-// The block that the original is filling is a full one here: what comes next begins a block of its own.
+// In the copy, the block that the original is filling is a full one. The copy's next row starts a new block.
 RowStore::RowStore(const RowStore &other)
     : m_columns(other.m_columns),
       m_memoryLimit(other.m_memoryLimit),
@@ -46,18 +46,18 @@ const char *RowStore::Block::start(qint64 storedRow) const
 
 void RowStore::endRow()
 {
-    // A row without any column still takes room for its start.
+    // A row without columns still needs space for its offset.
     if (!m_blockStart || m_end < m_write)
         newBlock(0);
     const auto start = static_cast<quint32>(m_rowStart - m_blockStart);
     std::memcpy(m_end, &start, sizeof start);
     m_rowStart = m_write;
     ++m_stored;
-    // Behind a row that outgrew the usual block nothing more is put, so that starts always fit 32 bits.
+    // A row larger than a normal block is the last in its block, so that offsets always fit 32 bits.
     m_end = m_blocks.back().size > blockSize ? m_write : m_end - startSize;
 }
 
-// The row that is being written moves along, so a row never spans two blocks.
+// Moves the unfinished row to the new block, so a row never spans two blocks.
 void RowStore::newBlock(qsizetype room)
 {
     const qsizetype begun = m_write - m_rowStart;
@@ -70,7 +70,7 @@ void RowStore::newBlock(qsizetype room)
     if (begun > 0)
         std::memcpy(start, m_rowStart, static_cast<std::size_t>(begun));
     if (!m_blocks.empty() && m_blocks.back().firstRow == m_stored) {
-        m_blocks.pop_back(); // it held nothing but this row's beginning
+        m_blocks.pop_back(); // it contained only the start of this row
     } else if (m_blockStart) {
         keepOrSpill(m_blocks.back());
         m_closedBytes += m_rowStart - m_blockStart;
@@ -90,7 +90,7 @@ void RowStore::keepOrSpill(Block &block)
     }
     if (!m_spill)
         m_spill = std::make_shared<SpillFile>();
-    // What memory happened to hold in the gap is nobody's business on a disk.
+    // Clears the gap, so that uninitialized memory is not written to disk.
     char *const starts = block.memory.get() + block.size - (m_stored - block.firstRow) * startSize;
     std::fill(m_rowStart, starts, '\0');
     block.bytes = m_spill->append({block.bytes, block.size});
@@ -199,15 +199,15 @@ void RowStore::remove(qint64 row)
 
 void RowStore::replace(qint64 row, const std::vector<RawValue> &cells)
 {
-    // Packed by a store of its own, so that there is one way of packing.
+    // Packed by a temporary store, so that there is only one implementation of packing.
     RowStore packed(m_columns);
     for (const RawValue &value : cells)
         packed.add(value);
     m_replaced[storedRow(row)] = QByteArray(packed.m_rowStart, packed.m_write - packed.m_rowStart);
 }
 
-// With r removed rows before it, live row n is stored row n + r; m_removed[i] - i, the live row that stands
-// where the i-th removed one stood, never falls, so r is found by halving.
+// Live row n is stored row n + r, where r is the number of removed rows before it. m_removed[i] - i, the live
+// row at the i-th removed one's place, never decreases, so a binary search finds r.
 qint64 RowStore::storedRow(qint64 row) const
 {
     std::size_t low = 0;

@@ -12,24 +12,24 @@
 
 namespace ADODB {
 
-// The rows of a result, packed: each cell is a tag byte and as many bytes as its value needs, rows stand one
-// behind the other in blocks of 4 MiB, and where they start stands at the block's end, backwards. Values are
-// taken out only when they are asked for. Edits lie over the blocks: removed rows are a sorted list, replaced
-// ones a small table.
+// The rows of a result in packed form: each cell is a tag byte and as many bytes as its value needs. Rows are
+// stored one after another in blocks of 4 MiB; their offsets are at the end of the block, in reverse order.
+// Values are unpacked only on demand. Edits are kept apart from the blocks: removed rows in a sorted list,
+// replaced ones in a small table.
 //
-// Blocks that are more than the memory limit move into a spill file when they are full.
+// Full blocks beyond the memory limit are moved to a spill file.
 //
-// A copy has the whole rows of its original and shares their blocks, so it costs next to nothing. Whatever is
-// done to one of the two, the other stays as it is: a copy can be read in one thread while the original grows
-// in another.
+// A copy contains the complete rows of its original and shares their blocks, so it is cheap. Changes to one
+// of the two never affect the other: a copy can be read in one thread while the original grows in another
+// one.
 //
-// Rows and columns are counted from 0; rows in the live sequence.
+// Rows and columns are numbered from 0. Row numbers refer to the live sequence.
 class RowStore
 {
 public:
     static constexpr qint64 defaultMemoryLimit = qint64{512} << 20; // bytes
 
-    // Full blocks take no more than `memoryLimit` bytes of memory.
+    // Full blocks use at most `memoryLimit` bytes of memory.
     explicit RowStore(int columns, qint64 memoryLimit = defaultMemoryLimit);
     RowStore(const RowStore &other);
     RowStore(RowStore &&other) = default;
@@ -37,18 +37,18 @@ public:
     RowStore &operator=(RowStore &&other) = default;
     ~RowStore() = default;
 
-    // Forgets all rows.
+    // Removes all rows.
     void clear() { *this = RowStore(m_columns, m_memoryLimit); }
 
     int columns() const { return m_columns; }
     qint64 rows() const { return m_stored - static_cast<qint64>(m_removed.size()); }
-    // All that was written so far, in bytes; grows with every cell.
+    // The number of bytes written so far; grows with every cell.
     qint64 bytesWritten() const { return m_closedBytes + (m_write - m_blockStart); }
 
     qint64 bytesSpilled() const { return m_spilledBytes; }
 
-    // Appending: one call for each column from left to right, then endRow(). They throw Error when the disk
-    // has no room for what is too much for memory; the row that was begun must be dropped then.
+    // Appends a row: one call per column from left to right, then endRow(). They throw Error if a spill file
+    // can't be written because the disk is full; the unfinished row must then be dropped.
     void addNull() { putTag(Tag::Null, 0); }
     void addInteger(qint64 value);
     void addReal(double value);
@@ -56,19 +56,19 @@ public:
     void addBlob(QByteArrayView bytes) { addBytes(Tag::ShortBlob, Tag::LongBlob, bytes); }
     void add(const RawValue &value);
     void endRow();
-    // Forgets the cells behind the last whole row.
+    // Discards the cells after the last complete row.
     void dropBegunRow() { m_write = m_rowStart; }
 
-    // The bytes of an answer stay valid until this row is replaced or removed, a cell is added, or the store
-    // dies.
+    // The bytes of the result are valid until the row is replaced or removed, a cell is added, or the store
+    // is destroyed.
     RawValue cell(qint64 row, int column) const;
     std::vector<RawValue> row(qint64 row) const;
-    // Columns of a row from `first` on, as many as there are cells. Of each cell only the kind and what
-    // belongs to it are written.
+    // Reads the columns of a row from `first` on into `cells`, which determines how many. Of each cell, only
+    // the kind and the members for that kind are written.
     void read(qint64 row, int first, std::vector<RawValue> &cells) const;
 
     void remove(qint64 row);
-    // Takes the cells of a row with the same number of columns.
+    // Replaces the cells of a row; their number must be that of the columns.
     void replace(qint64 row, const std::vector<RawValue> &cells);
 
 private:
@@ -79,8 +79,8 @@ private:
         Integer32,
         Integer64,
         Real,
-        ShortText, // one byte of length
-        LongText,  // four bytes of length
+        ShortText, // with one byte for the length
+        LongText,  // with four bytes for the length
         ShortBlob,
         LongBlob
     };
@@ -89,19 +89,19 @@ private:
     {
         const char *start(qint64 storedRow) const;
 
-        std::shared_ptr<char[]> memory; // null once the block is spilled
-        const char *bytes = nullptr;    // there or in the spill file
+        std::shared_ptr<char[]> memory; // null after the block was spilled
+        const char *bytes = nullptr;    // in memory or in the spill file
         qsizetype size = 0;
-        qint64 firstRow = 0; // counted with the removed ones
+        qint64 firstRow = 0; // counting removed rows
     };
 
     static Tag tagAt(const char *cell) { return static_cast<Tag>(*cell); }
     static const char *nextCell(const char *cell);
-    // Takes the value out and answers where the next cell is.
+    // Reads a value and returns the address of the next cell.
     static const char *decode(const char *cell, RawValue &value);
 
     void addBytes(Tag shortTag, Tag longTag, QByteArrayView bytes);
-    // Writes the tag and makes room for `size` bytes behind it.
+    // Writes the tag and reserves `size` bytes after it.
     void putTag(Tag tag, qsizetype size)
     {
         if (m_end - m_write < size + 1)
@@ -121,16 +121,16 @@ private:
 
     int m_columns;
     qint64 m_memoryLimit;
-    qint64 m_stored = 0;                // rows written, with the removed ones
-    std::shared_ptr<SpillFile> m_spill; // null until it is needed
+    qint64 m_stored = 0;                // rows written, including removed ones
+    std::shared_ptr<SpillFile> m_spill; // null until needed
     std::vector<Block> m_blocks;
-    qint64 m_memoryBytes = 0;  // of the full blocks
-    qint64 m_spilledBytes = 0; // of the others
+    qint64 m_memoryBytes = 0;  // of full blocks in memory
+    qint64 m_spilledBytes = 0; // of spilled blocks
     qint64 m_closedBytes = 0;
-    char *m_blockStart = nullptr; // of the block that is being filled; null when none is
+    char *m_blockStart = nullptr; // of the block being filled; null if there is none
     char *m_rowStart = nullptr;
     char *m_write = nullptr;
-    char *m_end = nullptr;         // of the room for cells, with the begun row's start already left out
+    char *m_end = nullptr;         // of the space for cells; the unfinished row's offset is already reserved
     std::vector<qint64> m_removed; // stored rows, ascending
     std::unordered_map<qint64, QByteArray> m_replaced;
 };

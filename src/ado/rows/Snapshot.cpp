@@ -9,7 +9,7 @@ namespace ADODB {
 
 namespace {
 
-// As many whole characters as there are in the first bytes.
+// The whole characters in the first `bytes` bytes.
 QByteArrayView firstOf(QByteArrayView utf8, qsizetype bytes)
 {
     const auto goesOn = [&] { return (static_cast<unsigned char>(utf8[bytes]) & 0xc0) == 0x80; };
@@ -40,10 +40,10 @@ QString Snapshot::text(qint64 record, int column) const
 {
     const RawValue raw = m_rows.cell(record - 1, column);
     const DataTypeEnum type = m_fields[static_cast<std::size_t>(column)].type;
-    // The most frequent cell by far, spared the way through a QVariant.
+    // By far the most frequent case, so it avoids a QVariant.
     if (raw.kind == RawValue::Kind::Text && FieldValue::isText(type))
         return textFromUtf8(raw.bytes);
-    // Which says only how many there are; they needn't be copied.
+    // The text contains only their number, so they needn't be copied.
     if (raw.kind == RawValue::Kind::Blob)
         return Texts::bytes.arg(raw.bytes.size());
     return ValueText(FieldValue::fromRaw(raw, type));
@@ -51,7 +51,7 @@ QString Snapshot::text(qint64 record, int column) const
 
 QString Snapshot::beginning(qint64 record, int column, qsizetype length) const
 {
-    constexpr qsizetype mostBytes = 3; // of UTF-8 for one of QString's characters
+    constexpr qsizetype mostBytes = 3; // of UTF-8 per UTF-16 code unit
     const RawValue raw = m_rows.cell(record - 1, column);
     const DataTypeEnum type = m_fields[static_cast<std::size_t>(column)].type;
     const bool isText = raw.kind == RawValue::Kind::Text && (FieldValue::isText(type) || type == adVariant);
@@ -72,7 +72,7 @@ void Snapshot::replace(qint64 record, const RowStore &stored)
 
 void Snapshot::append(const RowStore &stored)
 {
-    m_rows.dropBegunRow(); // what is left of one that the disk had no room for
+    m_rows.dropBegunRow(); // an unfinished row, left when the disk was full
     for (const RawValue &cell : stored.row(0))
         m_rows.add(cell);
     m_rows.endRow();

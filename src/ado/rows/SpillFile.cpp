@@ -14,7 +14,7 @@ namespace ADODB {
 
 namespace {
 
-// Every file costs a handle, of which a process has about a thousand.
+// Limits the number of files: each uses a handle, and a process has only about a thousand.
 constexpr qint64 fileSize = qint64{256} << 20;
 
 [[noreturn]] void refuse(const QTemporaryFile &file)
@@ -28,7 +28,7 @@ SpillFile::SpillFile() = default;
 
 SpillFile::~SpillFile() = default;
 
-// Written first and mapped then: on a full disk a write fails, but touching a mapped page ends the process.
+// Writes first and maps then: on a full disk a write fails, but touching a mapped page kills the process.
 const char *SpillFile::append(QByteArrayView bytes)
 {
     QTemporaryFile &file = fileWithRoom(bytes.size());
@@ -41,7 +41,7 @@ const char *SpillFile::append(QByteArrayView bytes)
     return reinterpret_cast<const char *>(mapped);
 }
 
-// A file gets its size at once, because not every system lets one grow while parts of it are mapped.
+// A file gets its full size at once, because some systems can't extend a file while it is mapped.
 QTemporaryFile &SpillFile::fileWithRoom(qint64 size)
 {
     if (!m_files.empty() && m_used + size <= m_files.back()->size())
@@ -49,7 +49,7 @@ QTemporaryFile &SpillFile::fileWithRoom(qint64 size)
     auto file = std::make_unique<QTemporaryFile>(QDir(QDir::tempPath()).filePath(u"kova-rows-XXXXXX"_s));
     if (!file->open())
         refuse(*file);
-    file->setAutoRemove(!QFile::remove(file->fileName())); // fails where open files keep their names
+    file->setAutoRemove(!QFile::remove(file->fileName())); // fails if open files can't be unlinked
     if (!file->resize(std::max(fileSize, size)))
         refuse(*file);
     m_files.push_back(std::move(file));

@@ -9,8 +9,8 @@ class QTemporaryFile;
 
 namespace ADODB {
 
-// Keeps bytes on disk that are too many for memory, in temporary files that vanish with this object and,
-// where the system allows it, have no name even before, so that a crash leaves nothing behind either.
+// Stores data on disk that does not fit into memory. The temporary files are deleted with this object. Where
+// the system allows it, they are unlinked at once, so that nothing is left even after a crash.
 class SpillFile
 {
 public:
@@ -18,15 +18,15 @@ public:
     ~SpillFile();
     Q_DISABLE_COPY_MOVE(SpillFile)
 
-    // Writes them (at least one) and answers where they can be read from now on, as long as this object
-    // lives. Throws Error when the disk does not take them.
+    // Writes the bytes (at least one) and returns their address, which is valid while this object exists.
+    // Throws Error if the disk is full.
     const char *append(QByteArrayView bytes);
 
 private:
     QTemporaryFile &fileWithRoom(qint64 size);
 
     std::vector<std::unique_ptr<QTemporaryFile>> m_files;
-    qint64 m_used = 0; // of the last file, in bytes
+    qint64 m_used = 0; // bytes used in the last file
 };
 
 } // namespace ADODB

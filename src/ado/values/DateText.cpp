@@ -6,7 +6,7 @@ namespace ADODB::DateText {
 
 namespace {
 
-// The number in `count` digits, -1 when they are not all digits.
+// The number that `count` digits represent; -1 if not all of them are digits.
 int digits(QByteArrayView text, qsizetype from, qsizetype count)
 {
     int number = 0;
@@ -18,7 +18,7 @@ int digits(QByteArrayView text, qsizetype from, qsizetype count)
     return number;
 }
 
-// Milliseconds from the decimals behind the point, -1 when they are no decimals or finer than that.
+// The milliseconds of a decimal fraction; -1 if it is not one or is more precise.
 int milliseconds(QByteArrayView decimals)
 {
     const qsizetype used = std::min<qsizetype>(decimals.size(), 3);
@@ -29,7 +29,7 @@ int milliseconds(QByteArrayView decimals)
     return std::all_of(rest.begin(), rest.end(), [](char c) { return c == '0'; }) ? number : -1;
 }
 
-// Whether the text is `held` characters that a QTime can hold and up to six further decimals.
+// Whether the text is `held` characters that QTime can represent and up to six more decimals.
 bool hasFinerDecimals(QByteArrayView text, qsizetype held)
 {
     constexpr qsizetype further = 6;

@@ -121,7 +121,7 @@ QString DisplayFormat::applied(const QString &text) const
     if (!match.hasMatch())
         return text;
     if (match.capturedLength(4) > 0) {
-        constexpr double largest = 1e15; // up to here a double's digits are all its own
+        constexpr double largest = 1e15; // below this, all integer digits of a double are exact
         const double value = text.toDouble();
         if (decimals < 0 || value > largest || value < -largest)
             return text;

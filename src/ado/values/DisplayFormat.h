@@ -6,22 +6,22 @@
 
 namespace ADODB {
 
-// How a value's text is shown to a user who wants it otherwise. It changes what is seen, never what is
-// copied, compared or written. For the rooms of this library.
+// A display format that the user chose for a column. It affects only what is shown, not what is copied,
+// compared or written. For the rooms of this library.
 struct DisplayFormat
 {
     static constexpr int mostDecimals = 15;
 
     bool hasThousands = false;
-    int decimals = -1; // rounded half away from zero; -1 as many as the text has
+    int decimals = -1; // rounded half away from zero; -1: as many as the text has
     enum class Truth { Word, YesNo, Box };
     Truth truth = Truth::Word; // how a Boolean is shown
     // Where all decimals are shown: zeros behind a number that has fewer. That is the field's, no part of the
     // text.
     int leastDecimals = 0;
 
-    // "0", "0.00", "#,##0", "#,##0.000", "#,##" (any decimals with thousands), "是/否", "☑/☐", and "" for
-    // none; nothing for any other text.
+    // Accepts "0", "0.00", "#,##0", "#,##0.000", "#,##" (any decimals with thousands), "是/否", "☑/☐", and ""
+    // for none. Returns nothing for any other text.
     static std::optional<DisplayFormat> fromText(const QString &text);
     QString toText() const;
 

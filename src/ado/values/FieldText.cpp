@@ -100,13 +100,13 @@ char *writeDecimal(char *to, double value)
     return end;
 }
 
-// Whatever the shortest text that reads back as the number says in at most 15 digits, rounding to 15 digits
-// says as well. Null for the few numbers that need more, and those written with an exponent.
+// If the shortest text that reads back as the number has at most 15 digits, rounding to 15 digits gives the
+// same. Returns null for the few numbers that need more, and for those written with an exponent.
 char *writeShortReal(char *to, double value)
 {
     const double size = std::abs(value);
     if (value == 0) {
-        *to = '0'; // the negative zero too
+        *to = '0'; // also for -0
         return to + 1;
     }
     if (!(size >= 1e-4 && size < 1e15))
@@ -116,7 +116,7 @@ char *writeShortReal(char *to, double value)
     const auto [end, error] = std::to_chars(to, to + longestNumber, value, std::chars_format::fixed);
     if (error != std::errc())
         return nullptr;
-    // Zeros before the first digit are counted too, which at worst takes the long way.
+    // Leading zeros are counted too; at worst, this takes the slow path.
     const auto digits = std::count_if(to, end, [](char c) { return c >= '0' && c <= '9'; });
     return digits > std::numeric_limits<double>::digits10 ? nullptr : end;
 }
@@ -132,7 +132,7 @@ int twoDigits(QByteArrayView text, qsizetype from)
     return (text[from] - '0') * 10 + (text[from + 1] - '0');
 }
 
-// A day that every month has, of a year that needs no second look.
+// A day that exists in every month, in a year that needs no further check.
 bool isPlainDate(QByteArrayView text)
 {
     if (!hasDigits(text, 0, 4) || text[4] != '-' || !hasDigits(text, 5, 2) || text[7] != '-' ||

@@ -7,13 +7,13 @@
 
 namespace ADODB {
 
-// Appends the text of a stored value, as ValueText() gives it, in UTF-8. It makes no QVariant and no QString
-// of what is stored as it is shown, which is nearly everything.
+// Appends the text of a stored value, as returned by ValueText(), in UTF-8. Avoids creating a QVariant and a
+// QString if the text is shown as it is stored, which is almost always the case.
 void appendText(QByteArray &utf8, const RawValue &raw, DataTypeEnum type);
 
-// The same in pieces, for what writes many values into room of its own. A number or Null takes at most
-// `longestNumber` bytes; the answer is the end of what was written, or null where only appendText() can write
-// it, as it can't with texts.
+// The same for callers that write many values into their own buffer. A number or Null needs at most
+// `longestNumber` bytes. Returns the end of what was written, or null if only appendText() can write the
+// value, as with texts.
 constexpr qsizetype longestNumber = 32;
 char *writeNumber(char *to, const RawValue &raw, DataTypeEnum type);
 // Whether a text is shown as it is stored. False only means that it takes a closer look. With `isAscii` all

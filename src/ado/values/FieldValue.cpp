@@ -84,7 +84,7 @@ bool sameWord(QByteArrayView text, QByteArrayView word)
     return qstrnicmp(text.data(), text.size(), word.data(), word.size()) == 0;
 }
 
-// An invalid answer means that the text is no value of this shape.
+// An invalid result means that the text has another form.
 QVariant readText(QByteArrayView text, Shape shape)
 {
     const auto validOrNone = [](const auto &value) { return value.isValid() ? QVariant(value) : QVariant(); };
@@ -121,7 +121,7 @@ QVariant toInteger(const QVariant &value, bool *ok)
     return value.toLongLong(ok);
 }
 
-// Whether a type holds all digits of a decimal, which a double does not.
+// Whether a type keeps all digits of a decimal, which a double does not.
 bool isExact(DataTypeEnum type)
 {
     return type == adNumeric || type == adDecimal || type == adVarNumeric;
@@ -135,7 +135,7 @@ bool hasMoreDigitsThanADouble(const QString &number)
 
 QVariant toReal(const QVariant &value, DataTypeEnum type, bool *ok)
 {
-    // A whole number stays one, so that it keeps all its digits.
+    // A whole number is kept as an integer, so that it keeps all its digits.
     QVariant whole = toInteger(value, ok);
     if (*ok)
         return whole;
@@ -167,7 +167,7 @@ QVariant fromRaw(const RawValue &raw, DataTypeEnum type)
         if (shape == Shape::BigInteger)
             return raw.integer;
     } else if (raw.kind == RawValue::Kind::Real && type == adSingle) {
-        return static_cast<float>(raw.real); // shown with the digits that it has
+        return static_cast<float>(raw.real); // shown with the digits of a float
     } else if (raw.kind == RawValue::Kind::Text) {
         if (QVariant value = readText(raw.bytes, shape); value.isValid())
             return value;

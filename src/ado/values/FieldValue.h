@@ -7,17 +7,17 @@
 
 namespace ADODB {
 
-// Between what a database stores and what a field of a given type shows.
+// Converts between stored values and the values that a field of a given type shows.
 namespace FieldValue {
 
-// The value as Field::Value() gives it; what does not fit the type is given as it is stored.
+// The value as returned by Field::Value(). A value that does not fit the type is returned as it is stored.
 QVariant fromRaw(const RawValue &raw, DataTypeEnum type);
 
-// A value that a user or host gives, as this type holds it. Null stays Null. `ok` is false when it does not
-// fit; the answer is then without meaning.
+// Converts a value from a user or host to this type. Null stays Null. If the value does not fit, `ok` is
+// false and the result is undefined.
 QVariant convert(const QVariant &value, DataTypeEnum type, bool *ok);
 
-// One of Null, qlonglong, double, QString, QByteArray: what a database without types of its own stores.
+// Returns Null, qlonglong, double, QString or QByteArray: the types that an untyped database stores.
 QVariant toStorage(const QVariant &value);
 
 bool isText(DataTypeEnum type);

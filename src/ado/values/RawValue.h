@@ -4,7 +4,7 @@
 
 namespace ADODB {
 
-// One cell as a database stores it. The bytes belong to whoever gave the value.
+// One cell as the database stores it. The bytes are owned by the source of the value.
 struct RawValue
 {
     enum class Kind : quint8 { Null, Integer, Real, Text, Blob };

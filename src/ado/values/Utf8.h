@@ -4,8 +4,8 @@
 
 namespace ADODB {
 
-// The text that these bytes are in UTF-8. QString::fromUtf8 takes U+FEFF at the beginning for a byte order
-// mark and drops it.
+// Converts UTF-8 to a QString. QString::fromUtf8 would treat U+FEFF at the start as a byte order mark and
+// drop it.
 inline QString textFromUtf8(QByteArrayView utf8)
 {
     QString text = QString::fromUtf8(utf8);

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A person waits for the answer, so a server that says nothing is given up sooner than by a load.
+// The user waits for the result, so an unresponsive server is given up sooner than in a load.
 constexpr int secondsToConnect = 10;
 
 QString testConnection(ADODB::Connection &connection, const QString &text)
@@ -39,7 +39,7 @@ QStringList dataSourceNames()
     return names;
 }
 
-// A host's factory may have to reach something first. Null when that failed, which the user has been shown.
+// A host's factory may have to connect to something first. Null if it failed, after a message to the user.
 std::shared_ptr<ADODB::Connection> newConnection(QWidget *parent, qint32 dbType)
 {
     try {

@@ -190,7 +190,7 @@ ConnectionSettings ConnectionBuilder::settings() const
 
 ADODB::ConnectionString ConnectionBuilder::composed(const ConnectionSettings &settings) const
 {
-    // What else the given string says is meant for its own target.
+    // The other keywords of the given string are meant for its own target.
     const bool isSameTarget = ConnectionSettings::read(m_given).target == settings.target;
     return settings.write(isSameTarget ? m_given : ADODB::ConnectionString());
 }
@@ -237,7 +237,7 @@ void ConnectionBuilder::browse()
 void ConnectionBuilder::test()
 {
     m_tested->setText(ConnectionTexts::Testing);
-    m_tested->repaint(); // connecting holds the window up
+    m_tested->repaint(); // the window doesn't repaint while connecting
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const QString failure = m_outside.test(connectionString());
     QApplication::restoreOverrideCursor();

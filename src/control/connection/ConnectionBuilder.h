@@ -16,26 +16,26 @@ class QPushButton;
 
 namespace KOVAVSFDataGridLib {
 
-// Puts a connection string together from what is installed, and tries it.
+// Builds a connection string from what is installed, and tests it.
 class ConnectionBuilder final : public QDialog
 {
     Q_OBJECT
 
 public:
-    // The world outside, which a caller hands in.
+    // What the dialog knows of the system, provided by the caller.
     struct Outside
     {
-        QStringList drivers;     // the ODBC drivers, as `Driver=` takes them
-        QStringList dataSources; // the ODBC data sources, as `DSN=` takes them
-        // Opens and closes a connection; what the database said when that failed, else empty.
+        QStringList drivers;     // the ODBC drivers, as used in `Driver=`
+        QStringList dataSources; // the ODBC data sources, as used in `DSN=`
+        // Opens and closes a connection. Returns the database's error message, or an empty text on success.
         std::function<QString(const QString &connectionString)> test;
     };
 
     explicit ConnectionBuilder(const Outside &outside, QWidget *parent = nullptr);
 
-    // Begins with this string. One that can't be understood begins with nothing.
+    // Starts with this string, or with empty fields if it can't be parsed.
     void SetConnectionString(const QString &text);
-    // What the fields make now, with the password.
+    // The connection string of the fields, including the password.
     QString connectionString() const;
 
 private:

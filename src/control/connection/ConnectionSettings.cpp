@@ -9,7 +9,7 @@ using Kind = ConnectionTarget::Kind;
 
 namespace {
 
-// Each field's keywords; the first is the one that is written.
+// The keywords of each field. The first one is used for writing.
 const QStringList providerKeywords{u"Provider"_s};
 const QStringList fileKeywords{u"Data Source"_s};
 const QStringList dataSourceKeywords{u"DSN"_s};
@@ -42,7 +42,7 @@ ConnectionTarget targetOf(const ADODB::ConnectionString &connection)
 
 } // namespace
 
-// The provider that is asked last takes what no other does.
+// The last provider accepts what no other one does.
 std::vector<const ADODB::Provider *> fileProviders()
 {
     std::vector<const ADODB::Provider *> found = ADODB::providers();
@@ -92,7 +92,7 @@ ADODB::ConnectionString ConnectionSettings::write(const ADODB::ConnectionString 
     };
     const bool isDriver = target.kind == Kind::Driver;
     const bool isDataSource = target.kind == Kind::DataSource;
-    // A file is read by a provider of this system; whatever else goes by ODBC, which needs none named.
+    // A provider of this library reads a file. Everything else uses ODBC, which needs no Provider keyword.
     put(providerKeywords, target.isFile() ? target.name : QString());
     put(fileKeywords, target.isFile() ? file : QString());
     put(dataSourceKeywords, isDataSource ? target.name : QString());

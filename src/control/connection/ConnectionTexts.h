@@ -2,8 +2,8 @@
 
 #include <QtCore/QString>
 
-// The texts of the connection builder, for proof-reading in one place. Only the host's developer meets them:
-// it opens from ConnectDialog and the property pages, whose language it speaks.
+// The texts of the connection builder, collected here for proofreading. Only the host's developer sees them:
+// it opens from ConnectDialog and the property pages, and uses their language.
 namespace KOVAVSFDataGridLib::ConnectionTexts {
 
 using namespace Qt::StringLiterals;

@@ -132,7 +132,7 @@ void ControlWindow::cancelEdit()
         m_singleRecord->editor().close();
 }
 
-// Whether something was written or is being typed that is not saved yet.
+// Whether a change was written to the record or is being typed, and is not saved yet.
 bool ControlWindow::isUnsaved() const
 {
     return m_session->record().hasUnsavedChanges() ||
@@ -146,7 +146,7 @@ void ControlWindow::offerToSave()
     if (save.isHidden() != isOffered)
         return;
     if (save.hasFocus())
-        m_control.setFocus(); // the button goes
+        m_control.setFocus(); // the button disappears
     save.setVisible(isOffered);
     m_parts.layOutFoot();
 }
@@ -191,7 +191,7 @@ void ControlWindow::refreshStatus()
 
 void ControlWindow::enableCommands()
 {
-    m_parts.layOut(m_control.width(), m_control.height()); // columns are fitted even before it is first shown
+    m_parts.layOut(m_control.width(), m_control.height()); // columns can be fitted before it is first shown
     m_grid.setEnabled(true);
     m_toolbar.setEnabled(true);
     m_parts.cmdPgae->setEnabled(true);

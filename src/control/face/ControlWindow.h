@@ -18,9 +18,9 @@ public:
     // Both must outlive this object.
     ControlWindow(QWidget &control, GridParts &parts);
 
-    // Without one no single record is ever shown.
+    // Without a view, single records are never shown.
     void setSingleRecordView(SingleRecordView *view) { m_singleRecord = view; }
-    // Called by the command that shows the result on the whole screen.
+    // `show` is called by the command that shows the result in full screen.
     void setFullScreen(std::function<void()> show) { m_fullScreen = std::move(show); }
 
     void showRecords(std::shared_ptr<ADODB::Recordset> recordset, qint64 first, int count) override;

@@ -6,7 +6,7 @@ namespace KOVAVSFDataGridLib {
 
 bool isInFormEditor(const QWidget &widget)
 {
-    // Asked by class name, so that the library need not link the form editor.
+    // Compares class names, so that the library need not link the form editor.
     for (const QWidget *ancestor = widget.parentWidget(); ancestor; ancestor = ancestor->parentWidget()) {
         if (ancestor->inherits("QDesignerFormWindowInterface"))
             return true;

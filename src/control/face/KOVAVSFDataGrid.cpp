@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Lets those who listen by name read the arguments that come by reference.
+// So that handlers connected by name can receive arguments passed by reference.
 void registerReferenceTypes()
 {
     QMetaType::registerNormalizedTypedef("qint16&", QMetaType::fromType<qint16>());
@@ -30,7 +30,7 @@ KOVAVSFDataGrid::KOVAVSFDataGrid(QWidget *parent) : QWidget(parent), d(std::make
     registerReferenceTypes();
     setMinimumSize(Twips::toPixels(GridParts::minimumWidth, *this),
                    Twips::toPixels(GridParts::minimumHeight, *this));
-    setFocusProxy(d->parts.vsfgDataGrid); // a host that gives the control the keyboard means the data
+    setFocusProxy(d->parts.vsfgDataGrid); // if a host sets the focus to the control, it means the grid
     d->applyBackColor();
     CloseAllAction();
 }
@@ -38,8 +38,8 @@ KOVAVSFDataGrid::KOVAVSFDataGrid(QWidget *parent) : QWidget(parent), d(std::make
 KOVAVSFDataGrid::~KOVAVSFDataGrid()
 {
     d->saveBeforeEnd();
-    // Dialogs that are open just now stand on the stack of whoever asked. They end as cancelled, and must not
-    // be deleted a second time as children of this control.
+    // Dialogs that are open now are on the stack of their callers. They are cancelled, and must not be
+    // deleted again as children of this control.
     const auto dialogs = findChildren<QDialog *>();
     for (QDialog *dialog : dialogs) {
         dialog->setParent(nullptr, dialog->windowFlags());
@@ -79,8 +79,8 @@ void KOVAVSFDataGrid::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     const ADODB::Notifications::Hold hold(
-        d->session->notifications()); // it ends last: a host may delete this
-    // Before the editor is put away; a text that does not fit is lost from view only.
+        d->session->notifications()); // its destructor runs last: a host may delete this
+    // Before the editor is closed. A text that does not fit is only hidden.
     d->singleRecord.editor().commit();
     d->parts.layOut(event->size().width(), event->size().height());
 }

@@ -5,13 +5,13 @@
 
 #include <QtWidgets/QPushButton>
 
-// The properties that change colours, the font, and what can be pressed.
+// The properties for colours, the font and enabled buttons.
 
 using namespace KOVAVSFDataGridLib;
 
 namespace {
 
-// Whether a widget was disabled by itself rather than along with a parent.
+// Whether a widget itself was disabled, and not only a parent.
 bool isExplicitlyEnabled(const QWidget &widget)
 {
     return !widget.testAttribute(Qt::WA_ForceDisabled);
@@ -89,7 +89,7 @@ QColor KOVAVSFDataGrid::DataBackColor() const
 void KOVAVSFDataGrid::PutDataBackColor(const QColor &colour)
 {
     d->parts.vsfgDataGrid->PutBackColor(colour);
-    d->parts.MSFlexGrid1->PutBackColor(colour); // the same data, one record of it
+    d->parts.MSFlexGrid1->PutBackColor(colour); // shows one record of the same data
 }
 
 QFont KOVAVSFDataGrid::DataFont() const

@@ -40,7 +40,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Saves what a move would save, but shows it as well: a new record is one more row.
+// Saves what a move would save, and also shows it: a new record adds a row.
 void saveBeforeMove(Session &session)
 {
     const ADODB::EditModeEnum mode = session.result().recordset()->EditMode();
@@ -60,7 +60,7 @@ void KOVAVSFDataGrid::Refresh()
         Messages::show(this, GridTexts::NothingToLink, GridTexts::NothingToLinkTitle, QMessageBox::Critical);
 }
 
-// The row is one of page 1, whichever page is shown: there it is the record's number as well.
+// The row is one of page 1, whichever page is shown. So it is the record's number too.
 bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
 {
     VSFlexGrid &grid = *d->parts.vsfgDataGrid;
@@ -72,9 +72,9 @@ bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
     if (lRecordRow < 2 || lRecordRow == rows || !session.result().isOpen() ||
         lRecordRow == session.result().recordset()->AbsolutePosition())
         return true;
-    const ResultWatch watch(session); // the control can go while a record is saved
+    const ResultWatch watch(session); // the control can be destroyed while a record is saved
     try {
-        if (d->window.commitEdit()) // a text that doesn't fit stays
+        if (d->window.commitEdit()) // a text that doesn't fit is kept
             return true;
         if (watch.isUntouched())
             saveBeforeMove(session);
@@ -82,14 +82,14 @@ bool KOVAVSFDataGrid::LocateSelRecord(qint32 lRecordRow)
             return true;
         const QSignalBlocker onlyOurOwnEvent(d->parts.Adodc1);
         ADODB::Recordset &recordset = *watch.recordset();
-        recordset.MoveFirst(); // a host may have left it behind the last record, where no page can be shown
+        recordset.MoveFirst(); // a host may have moved it past the last record, where no page can be shown
         if (isOtherPage())
             session.pages().showPage(1);
         recordset.Move(lRecordRow - 1);
         grid.PutRow(lRecordRow);
         grid.PutCol(1);
     } catch (const ADODB::Error &) {
-        return true; // an edit could not be saved, say: its record stays the current one
+        return true; // for example, an edit could not be saved: its record stays current
     }
     if (!grid.RowIsVisible(lRecordRow))
         grid.PutTopRow(lRecordRow);

@@ -78,13 +78,13 @@ KOVAVSFDataGrid::Private::Private(KOVAVSFDataGrid &control)
     connectHost();
 }
 
-// What runs behind a dialog just now ends by itself: its session has nobody to show anything to.
+// A command that waits for a dialog now ends on its own: its session can no longer show anything.
 KOVAVSFDataGrid::Private::~Private()
 {
     session->detach();
 }
 
-// The control's own views follow before the host hears of a move.
+// The control's own views are updated before the host is notified of a move.
 void KOVAVSFDataGrid::Private::connectHost()
 {
     new EndKeys(*parts.vsfgDataGrid, *session, &q);
@@ -113,7 +113,7 @@ void KOVAVSFDataGrid::Private::connectHost()
             [this](ADODB::EventReasonEnum reason) { Q_EMIT q.RecordsetChanged(reason); });
 }
 
-// A host that listens has its own meaning for a double-click.
+// A host that handles the event has its own action for a double-click.
 void KOVAVSFDataGrid::Private::showClickedValue()
 {
     for (const QMetaMethod &event : {QMetaMethod::fromSignal(&KOVAVSFDataGrid::DataDblClick),
@@ -135,8 +135,8 @@ void KOVAVSFDataGrid::Private::writeTexts()
     parts.layOutFoot();
 }
 
-// A user who has just loaded goes on with the data; one who is in another part of the host's form stays
-// there.
+// After loading, the user continues in the grid, unless
+// the focus is in another part of the host's form.
 void KOVAVSFDataGrid::Private::focusGrid() const
 {
     const QWidget *const now = q.window()->focusWidget();

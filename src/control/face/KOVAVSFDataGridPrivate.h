@@ -23,16 +23,16 @@
 #include <memory>
 #include <optional>
 
-// What the public class keeps behind its face: the session, what shows it and what drives it, and the
-// properties that are the control's own.
+// The data of the public class: the session, the objects that show it and run its commands, and the control's
+// own properties.
 class KOVAVSFDataGrid::Private final : public KOVAVSFDataGridLib::HostEvents
 {
 public:
     explicit Private(KOVAVSFDataGrid &control);
     ~Private() override;
 
-    // Stores a property's value and reports that it was written, even when it is the same. False when the
-    // host has deleted the control at that.
+    // Sets a property's value and notifies the host, even if the value is the same. Returns false if the host
+    // has deleted the control in response.
     template<typename Value>
     bool put(Value &property, const Value &value, const char *name)
     {
@@ -43,23 +43,23 @@ public:
 
     bool isUserMode() const;
     void applyBackColor();
-    // Hands the middle-tier switch to the connection factory, which may be another one by now.
+    // Passes the middle-tier switch to the connection factory, which may have been replaced.
     void setThreeTierSwitch() const;
     void focusGrid() const;
-    // Runs the steps one after the other. A failing one is reported with the question whether to continue:
-    // Yes goes on with the next, No ends.
+    // Runs the steps in order. If one fails, asks the user whether to continue: Yes runs the next one, No
+    // ends.
     void runSteps(QStringView title, std::initializer_list<std::function<void()>> steps);
     void showText(QStringView title, const QString &label, const QString &text);
-    // The text that the user accepted with editing allowed; nothing otherwise.
+    // The text if the user accepted it with editing allowed; otherwise nothing.
     std::optional<QString> editText(const QString &label, const QString &text);
-    // For a cell outside the grid a message with the title, and "".
+    // For a cell outside the grid, shows a message with the title and returns "".
     QString cellText(int row, int col, const QString &title);
-    // Where the filters of the loaded table are kept.
+    // Where the filters of the loaded table are stored.
     KOVAVSFDataGridLib::FilterPlace filterPlace() const;
     void emptyGrid();
-    // Writes what depends on the result once more, after a change of the language.
+    // Updates the texts that depend on the result after a change of the language.
     void writeTexts();
-    // Saves what the user wrote into a record before the control goes; what can't be saved he reads later.
+    // Saves the user's changes before the control is destroyed. If that fails, the user reads about it later.
     void saveBeforeEnd();
 
     void filterWritten() override;
@@ -76,14 +76,14 @@ public:
     KOVAVSFDataGridLib::GridParts parts;
     KOVAVSFDataGridLib::ControlWindow window;
     KOVAVSFDataGridLib::DialogQuestions questions;
-    // Outlives this object while one of its commands runs.
+    // Outlives this object if one of its commands is running.
     const std::shared_ptr<KOVAVSFDataGridLib::Session> session;
     KOVAVSFDataGridLib::InputEvents input;
     KOVAVSFDataGridLib::GridEvents events;
     KOVAVSFDataGridLib::SingleRecordView singleRecord;
 
     KOVAVSFDataGridLib::OleColor backColor{KOVAVSFDataGridLib::OleColor::buttonFace};
-    std::optional<bool> userMode; // as the host said
+    std::optional<bool> userMode; // as set by the host
     UseModelChoose useModel = ModelUsing;
     bool errorHint = false;
     QString sqlTemp;

@@ -17,14 +17,14 @@
 #include "sql/StatementLines.h"
 #include "sql/select/SelectParts.h"
 
-// The properties of the interface. Writing most of them notifies the host, which may delete the control.
+// The properties of the interface. Setting most of them notifies the host, which may delete the control.
 
 using namespace KOVAVSFDataGridLib;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// The public enumerations repeat those of the rooms below, which hosts can't include.
+// The public enumerations duplicate the internal ones, which hosts can't include.
 static_assert(int{KOVAVSFDataGrid::dbAccess} == int{dbAccess} &&
               int{KOVAVSFDataGrid::dbOracle} == int{dbOracle} &&
               int{KOVAVSFDataGrid::dbSQLServer} == int{dbSQLServer});
@@ -34,7 +34,7 @@ static_assert(int{KOVAVSFDataGrid::DataTable} == int{FromTable} &&
 static_assert(KOVAVSFDataGrid::ModelAll == static_cast<int>(FieldView::All) &&
               KOVAVSFDataGrid::ModelPart == static_cast<int>(FieldView::Part));
 
-// The field list is looked for by its words alone, which comments and odd blanks can hide.
+// The field list is found only by its keywords, which comments and unusual blanks can hide.
 bool selectsFromTable(const QString &statement)
 {
     const SqlScanner scanned(statement);
@@ -103,8 +103,8 @@ QString KOVAVSFDataGrid::ConnectionString() const
     return d->session->texts.connectionString;
 }
 
-// The texts that belonged to the old connection are emptied one after the other, each with its report: a host
-// that loads in the first one still finds its statement.
+// The texts for the old connection are cleared one after another, each with its own event: a host that loads
+// in the first event still finds its statement.
 void KOVAVSFDataGrid::PutConnectionString(const QString &text)
 {
     SharedValues &shared = d->session->shared; // of the process

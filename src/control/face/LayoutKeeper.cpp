@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int airInColumn = 120;         // twips, so that neighbours are told apart at a glance
-constexpr int millisecondsToSave = 1000; // a dragged edge changes a width many times
+constexpr int airInColumn = 120;         // twips, so that adjacent columns are clearly separated
+constexpr int millisecondsToSave = 1000; // dragging an edge changes a width many times
 
 } // namespace
 
@@ -43,7 +43,7 @@ void LayoutKeeper::setKey(const QString &key)
         restore();
 }
 
-// Of one length, whatever characters the host and the database use.
+// A hash of fixed length, whatever characters the host and the database use.
 QString LayoutKeeper::place() const
 {
     const QByteArray name = (m_key + u'\n' + m_table).toUtf8();
@@ -57,7 +57,7 @@ void LayoutKeeper::restore()
     if (m_key.isEmpty() || !m_session.result().isOpen())
         return;
     m_table = loadedTable(m_session);
-    // What can't be read any more is as good as nothing, and is replaced by the next change.
+    // A layout that can't be read is ignored, and replaced by the next change.
     const auto kept = SavedLayout::fromText(readLayout(place()));
     const auto show = [&kept](LayoutKeeper &keeper) {
         if (const auto *layout = std::get_if<SavedLayout>(&kept))
@@ -69,7 +69,7 @@ void LayoutKeeper::restore()
         m_known = layoutOf(m_session).toText();
 }
 
-// Who keeps layouts wants to read a table the first time, too.
+// A host that stores layouts wants readable columns the first time, too.
 void LayoutKeeper::fitColumns()
 {
     SessionWindow &window = m_session.window();

@@ -8,8 +8,8 @@ namespace KOVAVSFDataGridLib {
 class Session;
 class VSFlexGrid;
 
-// Keeps the layout of the columns for the user, by the host's key and the table: restored when the table is
-// loaded, saved a moment after it was changed and when the result goes. Does nothing while the key is empty.
+// Stores the layout of the columns for the user, by the host's key and the table. It is restored after the
+// table was loaded, and saved soon after a change and before the result closes. Not used if the key is empty.
 class LayoutKeeper : public QObject
 {
     Q_OBJECT
@@ -19,10 +19,10 @@ public:
     LayoutKeeper(Session &session, const VSFlexGrid &grid);
 
     const QString &key() const { return m_key; }
-    // A result that is open takes the layout kept under the key at once.
+    // If a result is open, the layout stored under the key is applied immediately.
     void setKey(const QString &key);
 
-    // To be called when a result was loaded, and before it goes.
+    // Call it after a result was loaded, and save() before it is closed.
     void restore();
     void save();
 
@@ -33,7 +33,7 @@ private:
     Session &m_session;
     QString m_key;
     QString m_table;
-    QString m_known; // the layout as it was restored or saved
+    QString m_known; // the layout when it was last restored or saved
     QTimer m_delay;
 };
 

@@ -11,7 +11,7 @@ namespace KOVAVSFDataGridLib {
 QWidget *newValuePane(KOVAVSFDataGrid &grid, QWidget *parent, std::function<void()> bring)
 {
     auto *pane = new ValuePane(parent);
-    pane->putHasAccessKeys(false); // they may be the host's
+    pane->putHasAccessKeys(false); // the host may use these keys
     if (ValueViewer *const viewer = ValueViewer::of(grid))
         viewer->setPane(*pane, std::move(bring));
     return pane;

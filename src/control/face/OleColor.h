@@ -7,8 +7,8 @@ class QPalette;
 
 namespace KOVAVSFDataGridLib {
 
-// A colour as automation carries it: 0x00BBGGRR, or 0x80000000 plus the index of a system colour, which
-// follows the palette.
+// A colour in automation's form: 0x00BBGGRR, or 0x80000000 plus the index of a system colour, which follows
+// the palette.
 class OleColor
 {
 public:
@@ -19,7 +19,7 @@ public:
     explicit OleColor(const QColor &colour);
 
     constexpr quint32 number() const { return m_number; }
-    // System colours without a counterpart in a palette count as the button face.
+    // System colours that a palette doesn't have are shown as the button-face colour.
     QColor in(const QPalette &palette) const;
 
 private:

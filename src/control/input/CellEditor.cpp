@@ -38,18 +38,18 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int linesShown = 6;
-constexpr qsizetype longestEdited = 10'000'000; // a text box takes a second or more for longer ones
-constexpr qsizetype longestLine = 60;           // of a text that gets several lines without having any
-constexpr qint64 recordsSearched = 20000;       // for the values that a column has already
-constexpr qsizetype mostValues = 200;           // of these in the list
+constexpr qsizetype longestEdited = 10'000'000; // a text box takes a second or more for longer texts
+constexpr qsizetype longestLine = 60;           // longer texts get several lines even without line breaks
+constexpr qint64 recordsSearched = 20000;       // to list the values that a column has
+constexpr qsizetype mostValues = 200;           // in the list
 
 bool isLongText(ADODB::DataTypeEnum type)
 {
     return type == ADODB::adLongVarChar || type == ADODB::adLongVarWChar;
 }
 
-// What the typed text means to the field, read as the filter reads it. Nothing typed means no value, except
-// in a text field.
+// Converts the typed text to a value of the field, by the rules of the filter. An empty text means Null,
+// except in a text field.
 QVariant valueOf(const ADODB::Field &field, const QString &text)
 {
     if (text.isEmpty() && !ADODB::FieldValue::isText(field.Type()))
@@ -62,10 +62,10 @@ QVariant valueOf(const ADODB::Field &field, const QString &text)
 CellEditor::CellEditor(Session &session, GridParts &parts)
     : m_session(session), m_parts(parts), m_lines(*new LinesEdit(parts.MSFlexGrid1->viewport()))
 {
-    // As a part of the list's surface it scrolls along and is cut off at the list's edge.
+    // As a child of the list's viewport, it scrolls with the list and is clipped at its edge.
     m_parts.txtEdit->setParent(m_parts.MSFlexGrid1->viewport());
     m_parts.txtEdit->hide();
-    // A line edit cuts what is longer, and would store it cut.
+    // A line edit truncates longer texts, and the truncated text would be saved.
     m_parts.txtEdit->setMaxLength(std::numeric_limits<int>::max());
     m_parts.txtEdit->setValueReader([this] { return knownValues(); });
     m_parts.txtEdit->installEventFilter(this);
@@ -109,7 +109,7 @@ bool CellEditor::isChanged() const
     return isOpen() && !m_isReadOnly && typedText() != m_before;
 }
 
-// The user sees at once that there is something to be saved, or no longer.
+// Shows the user immediately whether there is something to save.
 void CellEditor::noteTyped()
 {
     if (isChanged() == m_isShownChanged)
@@ -163,7 +163,7 @@ bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
     return true;
 }
 
-// Says so where the value is too long for a text box, which would take the process down with it.
+// Tells the user if the value is too long for a text box, where it would crash the process.
 bool CellEditor::refusesLong(const ADODB::Field &field) const
 {
     const QVariant value = field.Value();
@@ -220,7 +220,7 @@ void CellEditor::breakLine()
     m_lines.insertPlainText(u"\n"_s);
 }
 
-// Several lines go over the rows below, or above where the list ends too soon.
+// Several lines cover the rows below, or those above if the list ends too soon.
 void CellEditor::place()
 {
     const MSFlexGrid &list = *m_parts.MSFlexGrid1;
@@ -240,8 +240,8 @@ QString CellEditor::typedText() const
     return m_hasLines ? m_lines.text() : m_parts.txtEdit->text();
 }
 
-// What the field can refer to, or the texts that the column has already. Who has typed something looks for
-// values that contain it.
+// The values of the referenced table, or else the texts in the column. If something was typed, only values
+// that contain it.
 ListedValues CellEditor::knownValues() const
 {
     const QString typed = typedText();
@@ -264,7 +264,7 @@ ListedValues CellEditor::knownValues() const
     return list;
 }
 
-// In order, and one more than are listed where there are more.
+// In order. If there are more than are listed, one more.
 ListedValues CellEditor::valuesOfColumn(const QString &search) const
 {
     const ADODB::Recordset &recordset = *m_session.result().recordset();
@@ -293,7 +293,7 @@ std::optional<QString> CellEditor::commit(Written what)
     if (!isOpen() || m_isCommitting)
         return {};
     if (!m_session.result().isOpen()) {
-        close(); // the record went away with its result
+        close(); // the record was closed with its result
         return {};
     }
     try {
@@ -306,21 +306,21 @@ std::optional<QString> CellEditor::commit(Written what)
 
 void CellEditor::writeAndClose(Written what)
 {
-    // It ends last, because the host may then delete this.
+    // Destroyed last, because the host may then delete this.
     const ADODB::Notifications::Hold hold(m_session.notifications());
     const QScopedValueRollback<bool> committing(m_isCommitting, true);
     write(what);
     close();
 }
 
-// By a host, or it would have been taken before.
+// By a host; otherwise the text would have been committed before.
 void CellEditor::willLeaveRecord()
 {
     if (isOpen() && !m_isCommitting && m_recordset.lock() == m_session.result().recordset())
         writeAndClose(Written::Typed);
 }
 
-// An unchanged text is not written: it may be shorter than the value (fifteen digits of a number).
+// An unchanged text is not written: it may be less precise than the value (15 digits of a number).
 void CellEditor::write(Written what)
 {
     ADODB::Field &field = m_session.result().recordset()->Fields().Item(m_field);
@@ -349,7 +349,7 @@ void CellEditor::close()
 
 void CellEditor::clear()
 {
-    const auto session = m_session.shared_from_this(); // the host, notified, may destroy the control
+    const auto session = m_session.shared_from_this(); // the host may delete the control when it is notified
     const QPointer<CellEditor> alive(this);
     const std::optional<QString> refused = commit(Written::Null);
     if (!refused)
@@ -369,7 +369,7 @@ bool CellEditor::eventFilter(QObject *watched, QEvent *event)
     const bool isSave = isControl && key.key() == Qt::Key_S;
     if (event->type() == QEvent::ShortcutOverride) {
         if (isNull || isSave)
-            event->accept(); // while something is typed, before the commands that have these keys
+            event->accept(); // while typing, takes precedence over commands with these keys
         return false;
     }
     if (isNull) {

@@ -20,10 +20,10 @@ class LinesEdit;
 class Session;
 struct ListedValues;
 
-// The editor over a value of the single-record list: txtEdit, which offers a calendar, yes and no, or the
-// values that the column has already, or a box of several lines for long texts and those with line breaks.
-// What is taken from it is written into the field of the current record; it reaches the database when the
-// record is saved. When a host saves the record or moves to another one, what is typed is taken first.
+// The editor for a value of the single-record list: txtEdit, which offers a calendar, yes and no, or the
+// values that the column has, or a multi-line box for long texts and texts with line breaks. Committing
+// writes the value to the field of the current record, which is saved to the database later. If a host saves
+// the record or moves to another one, what is being typed is committed first.
 class CellEditor : public QObject, private ADODB::RecordsetObserver
 {
     Q_OBJECT
@@ -34,29 +34,29 @@ public:
     ~CellEditor() override;
 
     // Opens over the list's current row for the field in that column of the main grid (from 1), with its
-    // value, or with a text that the user began with. A field that can't be written is opened for reading,
-    // and says so. False when there is no such field or no record, and when the text is too long to be
-    // edited, which the user has been told.
+    // value or with a text that the user has begun to type. A field that can't be written is opened for
+    // reading, and a message tells why. Returns false if there is no such field or no record, or if the text
+    // is too long to edit, after a message to the user.
     bool begin(int gridCol, const std::optional<QString> &typed = {});
     // Writes Null in place of what is typed; says so where the field takes none.
     void clear();
     // Whether the field in that column can be written.
     bool canWrite(int gridCol) const;
     bool isOpen() const;
-    // Whether something is typed that the field doesn't have yet.
+    // Whether the text was changed and is not yet written to the field.
     bool isChanged() const;
     bool hasFocus() const;
     void setFocus();
-    // The widget that takes the keys while it is open.
+    // The widget that receives the keys while it is open.
     QWidget &widget() const;
-    // Closes it and writes what was typed into the field. A text that doesn't fit stays, and the answer is
-    // why, for the user to read.
+    // Closes it and writes the text to the field. If the text doesn't fit, it stays open, and the reason is
+    // returned, as a text for the user.
     std::optional<QString> commit();
-    // Closes it and forgets what was typed.
+    // Closes it and discards the text.
     void close();
 
 Q_SIGNALS:
-    // The user wants what he wrote into the record to be saved.
+    // The user wants to save the changes to the record.
     void saveWanted();
 
 protected:
@@ -73,7 +73,7 @@ private:
 
     bool refusesLong(const ADODB::Field &field) const;
     void open(const ADODB::Field &field, const QString &text, bool isReadOnly);
-    // Goes on in several lines.
+    // Inserts a line break, and switches to the multi-line box.
     void breakLine();
     void place();
     void noteTyped();
@@ -88,14 +88,14 @@ private:
     Session &m_session;
     GridParts &m_parts;
     LinesEdit &m_lines;
-    std::weak_ptr<ADODB::Recordset> m_recordset; // whose record is edited, while it is open
-    bool m_hasLines = false;                     // whether m_lines is the one in use
+    std::weak_ptr<ADODB::Recordset> m_recordset; // with the record being edited, while it is open
+    bool m_hasLines = false;                     // whether m_lines is used
     bool m_isReadOnly = false;
     bool m_isText = false;
-    bool m_isShownChanged = false; // as the window tells the user
-    QString m_before;              // the text that it opened with
+    bool m_isShownChanged = false; // the state last shown to the user
+    QString m_before;              // the initial text
     int m_field = 0;               // 0-based
-    int m_row = 0;                 // of the list
+    int m_row = 0;                 // in the list
     bool m_isCommitting = false;
 };
 

@@ -16,7 +16,7 @@ CloseGuard::CloseGuard(QWidget &control, Session &session) : m_control(control),
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &CloseGuard::save);
 }
 
-// All of them, because a dock that floats or a dialog goes with the window behind it.
+// All of them, because a floating dock or a dialog is closed with the window behind it.
 void CloseGuard::watchParents()
 {
     for (const QPointer<QWidget> &left : std::as_const(m_parents)) {
@@ -30,11 +30,11 @@ void CloseGuard::watchParents()
         m_parents.append(parent);
         parent->installEventFilter(this);
         if (const auto *dialog = qobject_cast<QDialog *>(parent))
-            connect(dialog, &QDialog::finished, this, &CloseGuard::save); // which can come without a close
+            connect(dialog, &QDialog::finished, this, &CloseGuard::save); // can come without a close event
     }
 }
 
-// Where nobody can stay any more.
+// For events that can't be prevented.
 void CloseGuard::save()
 {
     m_session.record().save();
@@ -42,7 +42,7 @@ void CloseGuard::save()
 
 bool CloseGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    // A control can be put on another window at any time, but is shown on it before the user writes anything.
+    // A control can get another parent at any time, but is shown there before the user can change anything.
     if (watched == &m_control && event->type() == QEvent::Show)
         watchParents();
     if (event->type() != QEvent::Close)

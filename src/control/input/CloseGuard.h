@@ -9,9 +9,9 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// Saves what the user wrote into a record before the control goes out of sight for good: before its window,
-// or what it stands on in it (a dock, a sub window), is closed; when its dialog is finished; when the program
-// ends. What is closed stays when that fails and the user wants to go on with the record.
+// Saves the user's changes before the control disappears for good: before its window, or a part of it that
+// contains the control (a dock, a sub window), is closed; when its dialog is finished; when the program ends.
+// If that fails and the user wants to continue with the record, closing is prevented.
 class CloseGuard final : public QObject
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ private:
 
     QWidget &m_control;
     Session &m_session;
-    QList<QPointer<QWidget>> m_parents; // that the control stands on now
+    QList<QPointer<QWidget>> m_parents; // of the control, from the inside out
 };
 
 } // namespace KOVAVSFDataGridLib

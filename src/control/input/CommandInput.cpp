@@ -51,7 +51,7 @@ CommandInput::CommandInput(QWidget &control, InputEvents &host, Session &session
             [this](const QString &key) { m_commands.run(key); });
     connect(parts.Adodc1, &ADODB::Adodc::MoveComplete, this, &CommandInput::followRecord);
     connect(parts.Adodc1, &ADODB::Adodc::RecordChangeComplete, this, [this](ADODB::EventReasonEnum reason) {
-        // Later, because the host may be in the middle of several changes.
+        // Later, because the host may be about to make more changes.
         if (reason == ADODB::adRsnUpdate || reason == ADODB::adRsnDelete)
             QMetaObject::invokeMethod(this, &CommandInput::followChange, Qt::QueuedConnection);
     });
@@ -70,18 +70,18 @@ void CommandInput::showMenu(const QPoint &position)
 {
     if (!m_session.result().hasRecords() || !m_parts.Toolbar1->isEnabled())
         return;
-    // A row heading does not become current by the right button of itself.
+    // A right-click on a row heading does not make the row current by itself.
     VSFlexGrid &grid = *m_parts.vsfgDataGrid;
     if (!m_session.window().isSingleRecordShown()) {
         const int y = grid.viewport()->mapFromGlobal(position).y();
-        const int row = y < 0 ? 0 : grid.rowAt(y) + 1; // none above the rows, scrolled or not
+        const int row = y < 0 ? 0 : grid.rowAt(y) + 1; // 0 above the rows, even if scrolled
         if (row >= 1 && row != grid.Row() && !survives(grid, &VSFlexGrid::PutRow, row))
             return;
     }
     m_commands.menuFor(true).exec(position);
 }
 
-// The host moved the recordset: the row under the cursor is the record meant.
+// The host moved the recordset: makes the row of its current record current.
 void CommandInput::followRecord()
 {
     if (!m_session.result().isOpen())
@@ -91,8 +91,8 @@ void CommandInput::followRecord()
         m_parts.vsfgDataGrid->PutRow(row);
 }
 
-// The host changed, deleted or added a record: the grid shows as many rows as there are. What the commands
-// themselves change they have shown already.
+// The host changed, deleted or added a record: updates the number of rows. Changes by commands are already
+// shown.
 void CommandInput::followChange()
 {
     if (!m_session.result().isOpen() || m_session.result().recordset()->EditMode() == ADODB::adEditAdd)
@@ -123,8 +123,8 @@ bool CommandInput::isShortcut(const QKeyEvent &event) const
     });
 }
 
-// A key that is a command's shortcut never gets as far as a key press; the host is notified all the same,
-// and may keep it from the command.
+// The shortcut of a command does not arrive as a key press. The host is notified nevertheless, and can
+// suppress the command.
 bool CommandInput::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
@@ -143,7 +143,7 @@ bool CommandInput::eventFilter(QObject *watched, QEvent *event)
     }
     if (event->type() == QEvent::KeyPress && std::exchange(m_isKeyConsumed, false))
         return true;
-    // The menu key comes as a key as well, and once is enough.
+    // The menu key also arrives as a key press; one event is enough.
     if (event->type() == QEvent::ContextMenu)
         return true;
     return QObject::eventFilter(watched, event);

@@ -14,8 +14,8 @@ class GridParts;
 class InputEvents;
 class SingleRecordView;
 
-// Runs the session's commands as the user asks for them in the control, after the host has heard of a key.
-// Keeps the grid's current row and the recordset's current record together when the host moves or changes it.
+// Runs the session's commands for the user's input in the control, after the host was notified of a key.
+// Keeps the grid's current row and the recordset's current record in sync when the host moves or changes it.
 class CommandInput : public QObject
 {
     Q_OBJECT
@@ -24,8 +24,8 @@ public:
     // All must outlive this object.
     CommandInput(QWidget &control, InputEvents &host, Session &session, GridParts &parts, GridEvents &events,
                  SingleRecordView &singleRecord);
-    // Toolbar and menu outlive it until the event loop runs again when the host deletes the control from
-    // inside a command, because the button or the item that runs it is still in Qt's hands.
+    // If the host deletes the control inside a command, toolbar and menu outlive it until the event loop runs
+    // again, because Qt still uses the button or item that runs the command.
     ~CommandInput() override;
 
     PopupMenu &menu() { return m_commands.menu(); }
@@ -45,7 +45,7 @@ private:
     GridParts &m_parts;
     SingleRecordView &m_singleRecord;
     WindowCommands m_commands;
-    bool m_isKeyConsumed = false; // the host kept the last shortcut from its command
+    bool m_isKeyConsumed = false; // the host suppressed the command of the last shortcut
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -4,8 +4,8 @@ class QWidget;
 
 namespace KOVAVSFDataGridLib {
 
-// For a part of a control that is being deleted in the middle of an event which Qt has not done with the part
-// yet: takes it out of the control, and deletes it when the event loop runs again.
+// For a part of a control that is deleted while Qt still processes an event of the part: removes it from the
+// control, and deletes it when the event loop runs again.
 void deleteAfterEvent(QWidget &part);
 
 } // namespace KOVAVSFDataGridLib

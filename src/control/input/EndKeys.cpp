@@ -13,7 +13,7 @@ EndKeys::EndKeys(VSFlexGrid &grid, Session &session, QObject *parent) : QObject(
     grid.installEventFilter(this);
 }
 
-// The commands keep the keys unless the grid takes them for itself.
+// The commands get the keys unless the grid uses them itself.
 bool EndKeys::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride) {

@@ -7,8 +7,8 @@ namespace KOVAVSFDataGridLib {
 class Session;
 class VSFlexGrid;
 
-// While all records are on one page there is no page to go to: Ctrl+Home and Ctrl+End go to the first and the
-// last record instead, as in other tables.
+// If all records are on one page, Ctrl+Home and Ctrl+End don't go to another page but to the first and the
+// last record, as in other tables.
 class EndKeys final : public QObject
 {
     Q_OBJECT

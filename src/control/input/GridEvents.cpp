@@ -32,7 +32,7 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-// What a mouse event carries to the host, in twips from the widget's corner. A handler may change it.
+// The arguments of a mouse event, in twips from the widget's corner. A handler may change them.
 struct GridEvents::MouseArguments
 {
     MouseArguments(const QWidget &source, const QMouseEvent &event, const QWidget &origin)
@@ -156,8 +156,8 @@ bool GridEvents::isOnRecord(Place place) const
     return isData(place) && m_parts.vsfgDataGrid->Row() != 0 && m_session.result().isOpen();
 }
 
-// A picture of another record must not stay. Where the folder doesn't let go of the file, the file is
-// emptied. Answers why even that failed.
+// The picture of another record must not remain. If the file can't be removed, it is emptied. Returns the
+// reason if that fails too.
 QString GridEvents::removePicture()
 {
     QFile file(pictureFile());
@@ -177,7 +177,7 @@ void GridEvents::followGridRow()
     VSFlexGrid &grid = *m_parts.vsfgDataGrid;
     if (grid.Row() == 0 || !m_session.result().isOpen())
         return;
-    const auto session = m_session.shared_from_this(); // saving the record that is left can let the host act
+    const auto session = m_session.shared_from_this(); // saving the previous record can call the host
     const ResultWatch watch(*session);
     const ADODB::Notifications::Hold hold(session->notifications());
     ADODB::Recordset &recordset = *watch.recordset();
@@ -193,7 +193,7 @@ void GridEvents::followGridRow()
     }
 }
 
-// Answers why it failed.
+// Returns the reason if it failed.
 QString GridEvents::writePicture()
 {
     const int index = m_session.pages().pictureField();
@@ -207,13 +207,13 @@ QString GridEvents::writePicture()
         stream.PutType(ADODB::adTypeBinary);
         stream.Open();
         stream.Write(picture.toByteArray());
-        // One that could only be emptied is still there.
+        // If the file could only be emptied, it still exists.
         const bool isThere = QFile::exists(pictureFile());
         stream.SaveToFile(pictureFile(),
                           isThere ? ADODB::adSaveCreateOverWrite : ADODB::adSaveCreateNotExist);
         stream.Close();
     } catch (const ADODB::Error &error) {
-        return error.Description(); // the host finds no file, as for a record without one
+        return error.Description(); // the host finds no file, as for a record without a picture
     }
     return {};
 }
@@ -230,7 +230,7 @@ bool GridEvents::doubleClicked(QWidget &source, QMouseEvent &event)
     const VSFlexGrid &grid = *m_parts.vsfgDataGrid;
     if (!isData(place) || grid.Row() == 0)
         return false;
-    // On a row number all of the row is meant even when its first columns are scrolled away or hidden.
+    // A row number means the whole row, even if its first columns are scrolled out of view or hidden.
     const bool isWholeRow = m_parts.CheckSelAllRow->isChecked() || place == Place::RowNumber ||
                             (grid.Col() == 1 && grid.ColSel() != 1);
     if (!(isWholeRow ? survives(m_host, &InputEvents::DataDBLClickOneRow, grid.Row())
@@ -241,7 +241,7 @@ bool GridEvents::doubleClicked(QWidget &source, QMouseEvent &event)
     return false;
 }
 
-// The second press can come down beside the cell of the first; the grid follows only after the host is
+// The second press can hit another cell than the first. The grid makes it current only after the host was
 // notified.
 void GridEvents::makeCurrent(Place place, const QPoint &position)
 {

@@ -11,8 +11,8 @@ class GridParts;
 class InputEvents;
 class Session;
 
-// Turns what the user does on the grid with mouse and keys into the control's events, moves the recordset
-// along with the grid's current row, and leaves a clicked record's picture in a file for the host.
+// Converts the user's mouse and key input in the grid to the control's events, moves the recordset to the
+// grid's current row, and writes a clicked record's picture to a file for the host.
 class GridEvents : public QObject
 {
     Q_OBJECT
@@ -21,20 +21,20 @@ public:
     // All must outlive this object.
     GridEvents(InputEvents &host, const GridParts &parts, Session &session);
 
-    // Moves the recordset to the record of the grid's current row; the data control tells of the move. A
-    // record that can't be left (its edit can't be saved) stays current, in the grid as well.
+    // Moves the recordset to the record of the grid's current row; the data control reports the move. If the
+    // previous record can't be left (its edit can't be saved), it stays current, in the grid too.
     void followGridRow();
 
-    // Where a clicked record's picture is left: in the folder of the host program.
+    // The file for a clicked record's picture: in the folder of the host program.
     static QString pictureFile();
 
 Q_SIGNALS:
-    // The right button came up on data (or the menu key was pressed) while there are records and the toolbar
-    // is enabled: time for the menu. `position` is on the screen.
+    // The right button was released on data, or the menu key was pressed, while there are records and the
+    // toolbar is enabled. `position` is in screen coordinates.
     void menuWanted(const QPoint &position);
-    // A text that is cut off was double-clicked, after the host has heard of it.
+    // A truncated text was double-clicked. Emitted after the host was notified.
     void valueWanted();
-    // The same as menuWanted on a column's heading.
+    // The same as menuWanted for a column's heading.
     void headingMenuWanted(int col, const QPoint &position);
 
 protected:
@@ -47,8 +47,8 @@ private:
     struct MouseArguments;
     using MouseSignal = void (InputEvents::*)(qint16 &, qint16 &, float &, float &);
 
-    // These are true when the event goes no further: the host took a key for itself, it asked for the menu,
-    // or the host has deleted the control.
+    // These return true if the event must not be processed further: the host handled a key, it asked for the
+    // menu, or it has deleted the control.
     bool report(MouseArguments arguments, MouseSignal raised);
     bool mousePressed(QWidget &source, QMouseEvent &event);
     bool mouseReleased(QWidget &source, QMouseEvent &event);
@@ -71,8 +71,8 @@ private:
     InputEvents &m_host;
     const GridParts &m_parts;
     Session &m_session;
-    bool m_isPictureReported = false; // that the file can't be written is said once
-    bool m_isPressed = false;         // the left button, and no double-click has come of it
+    bool m_isPictureReported = false; // so that a file that can't be written is reported only once
+    bool m_isPressed = false;         // the left button is pressed, not as part of a double-click
 };
 
 } // namespace KOVAVSFDataGridLib

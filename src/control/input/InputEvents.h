@@ -4,9 +4,9 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The events of the control that mouse and keys raise, under the control's names and with its arguments; the
-// control passes them on to its host. A handler may change arguments passed by reference, and may delete the
-// control together with this object.
+// The events of the control for mouse and key input, with the control's names and arguments; the control
+// forwards them to its host. A handler may change arguments passed by reference, and may delete the control
+// together with this object.
 class InputEvents : public QObject
 {
     Q_OBJECT

@@ -6,9 +6,9 @@ class QTableView;
 
 namespace KOVAVSFDataGridLib {
 
-// Whether the key asks for a menu: the menu key, or Shift and F10.
+// Whether the key opens a menu: the menu key, or Shift+F10.
 bool isMenuKey(const QKeyEvent &event);
-// Where such a menu belongs: below the current cell, on the screen.
+// The position for such a menu: below the current cell, in screen coordinates.
 QPoint menuPlace(const QTableView &grid);
 
 } // namespace KOVAVSFDataGridLib

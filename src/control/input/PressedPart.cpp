@@ -31,7 +31,7 @@ bool PressedPart::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::MouseButtonPress) {
         const auto &press = *static_cast<QMouseEvent *>(event);
         auto *part = static_cast<QWidget *>(watched);
-        // A label passes the press on to the panel below it, but it is the label that was hit.
+        // A label passes the press on to the panel below it, but the label itself was pressed.
         QWidget *const hit = part->childAt(press.position().toPoint());
         if (press.button() == Qt::RightButton)
             m_part = hit ? hit : part;

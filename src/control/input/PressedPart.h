@@ -10,14 +10,14 @@ namespace KOVAVSFDataGridLib {
 
 class GridParts;
 
-// The part of the control on which the right button went down. Qt has it in hand until it has offered it the
-// context menu (which on Windows is as late as the release), even when a host deletes the control before.
+// The part of the control that was right-clicked. Qt uses it until it has sent the context menu event (on
+// Windows only after the release), even if a host deletes the control before.
 class PressedPart final : public QObject
 {
     Q_OBJECT
 
 public:
-    // Make it after all others that watch the parts, so that it sees their events first.
+    // Create it after all other event filters of the parts, so that it receives their events first.
     explicit PressedPart(const GridParts &parts);
     // Lets the part outlive the control until the event loop runs again.
     ~PressedPart() override;

@@ -18,7 +18,7 @@ SelectionWatch::SelectionWatch(Session &session, GridParts &parts) : m_session(s
     m_timer.setSingleShot(true);
     const VSFlexGrid &grid = *parts.vsfgDataGrid;
     connect(grid.selectionModel(), &QItemSelectionModel::selectionChanged, this, &SelectionWatch::begin);
-    // A whole row's summary is that of the current column.
+    // If whole rows are selected, the current column is summarized.
     connect(grid.selectionModel(), &QItemSelectionModel::currentColumnChanged, this, &SelectionWatch::begin);
     connect(grid.model(), &QAbstractItemModel::modelReset, this, &SelectionWatch::begin);
     connect(&m_timer, &QTimer::timeout, this, &SelectionWatch::continueSumming);
@@ -35,7 +35,7 @@ void SelectionWatch::continueSumming()
 {
     if (!m_summary && !prepare())
         return clear();
-    // Never kept alive between the steps: its file is to close when its owner closes it.
+    // Not kept alive between the steps, because its file must be closed when its owner closes it.
     const std::shared_ptr<ADODB::Recordset> recordset = m_recordset.lock();
     if (!recordset)
         return clear();
@@ -48,7 +48,7 @@ void SelectionWatch::continueSumming()
     m_summary.reset();
 }
 
-// False when there are not several cells to sum up.
+// Returns false unless several cells are selected.
 bool SelectionWatch::prepare()
 {
     if (!m_session.result().isOpen() || m_session.window().isSingleRecordShown())
@@ -59,7 +59,7 @@ bool SelectionWatch::prepare()
     if (m_rows < 1 || (m_rows == 1 && (isWholeRows || marked.columns.size() < 2)))
         return false;
     m_column.clear();
-    // The sum of different columns says nothing.
+    // A sum over different columns is meaningless.
     if (isWholeRows)
         marked.columns = {m_session.window().currentCol()};
     const ExportColumns columns = exportColumnsOf(m_session, marked.columns);

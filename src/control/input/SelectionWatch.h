@@ -12,8 +12,8 @@ namespace KOVAVSFDataGridLib {
 class GridParts;
 class Session;
 
-// Tells in the line below the grid what the selected cells come to. A large selection is worked out in steps
-// between the events, and given up when another one comes.
+// Shows a summary of the selected cells in the line below the grid. A large selection is processed in steps
+// between events, and abandoned when the selection changes.
 class SelectionWatch : public QObject
 {
     Q_OBJECT
@@ -32,10 +32,10 @@ private:
     Session &m_session;
     GridParts &m_parts;
     QTimer m_timer;
-    std::weak_ptr<ADODB::Recordset> m_recordset; // of the summary
+    std::weak_ptr<ADODB::Recordset> m_recordset; // being summarized
     std::unique_ptr<SelectionSummary> m_summary;
     int m_rows = 0;
-    QString m_column; // the only one that is summed up; empty for all
+    QString m_column; // the only summarized column; empty for all
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -80,7 +80,7 @@ SingleRecordView::SingleRecordView(QWidget &control, InputEvents &host, Session 
     list.viewport()->installEventFilter(this);
     list.horizontalHeader()->viewport()->installEventFilter(this);
     connect(&list, &FlexGrid::CurrentRowChanged, this, [this, &list] {
-        list.setAttribute(Qt::WA_InputMethodEnabled); // so that Chinese can be typed to begin an edit
+        list.setAttribute(Qt::WA_InputMethodEnabled); // so that an edit can begin with an input method
         m_session.record().commitEdit();              // last, because the host may delete the control
     });
     connect(&m_editor, &CellEditor::saveWanted, this, &SingleRecordView::saveWanted);
@@ -88,7 +88,7 @@ SingleRecordView::SingleRecordView(QWidget &control, InputEvents &host, Session 
     connect(&m_heading, &RecordHeading::commandWanted, this, &SingleRecordView::commandWanted);
 }
 
-// What is being typed is taken first.
+// Commits what is being typed first.
 void SingleRecordView::togglePictures()
 {
     bool isTaken = false;
@@ -201,7 +201,7 @@ void SingleRecordView::learnFilledFields()
     m_parts.MSFlexGrid1->viewport()->update();
 }
 
-// Rows with a picture are higher.
+// Rows with a picture are taller.
 void SingleRecordView::showPictures()
 {
     MSFlexGrid &list = *m_parts.MSFlexGrid1;
@@ -295,7 +295,7 @@ bool SingleRecordView::eventFilter(QObject *watched, QEvent *event)
 {
     bool isConsumed = false;
     const auto handle = [&](SingleRecordView &view) { isConsumed = view.handleEvent(watched, event); };
-    return !survives(*this, handle) || isConsumed; // an event for a widget that is no more goes nowhere
+    return !survives(*this, handle) || isConsumed; // an event for a deleted widget must not be processed
 }
 
 bool SingleRecordView::handleEvent(QObject *watched, QEvent *event)
@@ -325,7 +325,7 @@ bool SingleRecordView::handleEvent(QObject *watched, QEvent *event)
             fitNameColumn();
         return false;
     case QEvent::ContextMenu:
-        // The menu key comes as a key, and the right button is reported below: once each.
+        // The menu key arrives as a key, and the right button is reported below: only once each.
         return true;
     case QEvent::MouseButtonRelease:
         if (static_cast<QMouseEvent *>(event)->button() == Qt::RightButton &&
@@ -400,7 +400,7 @@ void SingleRecordView::doubleClicked(const QWidget &source, const QMouseEvent &e
         if (list.horizontalHeader()->logicalIndexAt(position) == valueCol)
             Q_EMIT m_host.DataDBLClickOneRow(gridRow);
     } else if (list.indexAt(position).isValid()) {
-        // Unless the host had an answer of its own, which took the list or the keyboard away.
+        // Unless the host handled the event in its own way and moved away from the list.
         if (survives(m_host, &InputEvents::DataDBLClickOneCell, currentGridCol(), gridRow) &&
             list.isVisible() && list.hasFocus() && m_editor.canWrite(currentGridCol()))
             editCurrent();

@@ -20,9 +20,9 @@ namespace KOVAVSFDataGridLib {
 
 class InputEvents;
 
-// The current record as a list of field names and values in MSFlexGrid1, in place of the grid. Binary fields
-// are left out, unless the user wants to see pictures. The values can be edited where the result can be
-// written.
+// The current record as a list of field names and values in MSFlexGrid1,
+// instead of the grid. Binary fields are omitted, unless the user wants
+// to see pictures. The values can be edited if the result can be written.
 class SingleRecordView : public QObject
 {
     Q_OBJECT
@@ -31,12 +31,12 @@ public:
     // All must outlive this object. The view's double-clicks become events of `control`.
     SingleRecordView(QWidget &control, InputEvents &host, Session &session, GridParts &parts);
 
-    // The list in place of the grid, and the grid in place of the list. The keyboard goes along.
+    // Shows the list instead of the grid, or the grid instead of the list. The focus moves along.
     void show();
     void hide();
-    // Lists the open result's current record; a result without one gives fields without values.
+    // Lists the current record of the open result; if it has no records, the fields without values.
     void FillSingleRecordView();
-    // The main grid's column of the field that is current in the list; 0 when none is.
+    // The main grid's column of the list's current field; 0 if there is none.
     int currentGridCol() const;
     // The main grid's columns of all fields in the list, and of the marked ones.
     std::vector<int> listedColumns() const;
@@ -45,12 +45,12 @@ public:
     CellEditor &editor() { return m_editor; }
 
 Q_SIGNALS:
-    // The right button came up on the list, or its menu key was pressed. `position` is on the screen.
+    // The list was right-clicked, or the menu key was pressed. `position` is in screen coordinates.
     void menuWanted(const QPoint &position);
-    // The user gave up what was written into the record, or wants it saved.
+    // The user wants to discard or save the changes to the record.
     void cancelWanted();
     void saveWanted();
-    // The user asked for the command of that key.
+    // The user wants to run the command with this key.
     void commandWanted(const QString &key);
 
 protected:

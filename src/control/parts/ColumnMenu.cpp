@@ -20,7 +20,7 @@ ColumnMenu::ColumnMenu(QWidget &window, const QWidget &toolbar, VSFlexGrid &grid
     : m_toolbar(toolbar), m_grid(grid), m_session(session), m_run(std::move(run)), m_menu(new QMenu(&window))
 {
     m_menu->setObjectName(u"ColumnMenu"_s);
-    m_menu->setToolTipsVisible(true); // why an item can't be used
+    m_menu->setToolTipsVisible(true); // for the reason why an item is disabled
     auto *open = new QAction(&window);
     Language::keepTranslated(*m_menu, [this, open] {
         m_menu->setAccessibleName(GridTexts::ColumnMenuName);
@@ -52,7 +52,7 @@ void ColumnMenu::popUp(int col, const QPoint &place)
     m_menu->clear();
     makeActions(*m_menu, col);
     m_menu->popup(place);
-    // From the keyboard one goes on with the keyboard.
+    // If the menu was opened by key, its first item is selected.
     m_menu->setActiveAction(m_menu->actions().value(0));
 }
 

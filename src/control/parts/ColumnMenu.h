@@ -15,24 +15,24 @@ class Session;
 class VSFlexGrid;
 struct ColumnCommand;
 
-// The menu of a column: opened by the arrow in its heading, by Ctrl+Alt+Down on one of its cells, and as the
-// end of a menu that is there already.
+// The menu of a column. It is opened by the arrow in the heading or by Ctrl+Alt+Down in a cell, and can be
+// appended to another menu.
 class ColumnMenu : public QObject
 {
     Q_OBJECT
 
 public:
-    // What runs a command on a column.
+    // Runs a command on a column.
     using Runner = std::function<void(const ColumnCommand &command, int col)>;
 
-    // All must outlive this object. `window` gets the shortcut. There is no menu while the toolbar is
+    // All must outlive this object. `window` gets the shortcut. The menu does not open while the toolbar is
     // disabled.
     ColumnMenu(QWidget &window, const QWidget &toolbar, VSFlexGrid &grid, Session &session, Runner run);
 
     // The menu itself, which the window owns.
     QMenu &menu() const { return *m_menu; }
 
-    // Shows the menu at a place on the screen. Nothing for a column that has none.
+    // Shows the menu at a position on the screen. Does nothing for a column without a menu.
     void popUp(int col, const QPoint &place);
     // Adds a menu with a column's entries to the end of another one, until that is closed.
     void addTo(QMenu &menu, int col);

@@ -13,14 +13,14 @@ namespace KOVAVSFDataGridLib {
 class mod_Filter;
 struct FilterRequest;
 
-// Asks and tells with dialogs and message boxes above a window.
+// Asks and informs the user with dialogs and message boxes above a window.
 class DialogQuestions : public Questions
 {
 public:
-    // `parent` is not owned and may go before this object does.
+    // `parent` is not owned and may be destroyed before this object.
     explicit DialogQuestions(QWidget *parent);
 
-    // How the host's key is known under which it keeps what is the user's; empty where it has none.
+    // Returns the host's key for the user's stored settings; empty if there is none.
     void setHostKey(std::function<QString()> hostKey) { m_hostKey = std::move(hostKey); }
 
     std::optional<QString> ChooseVisibleFields(const QString &title, const QList<OfferedField> &allFields,

@@ -70,7 +70,7 @@ GridParts::GridParts(QWidget &control)
     MSFlexGrid1->hide();
     txtEdit->hide();
     cmdSaveRecord->setAutoDefault(false);
-    cmdSaveRecord->setFocusPolicy(Qt::TabFocus); // the mouse leaves the keyboard where it is
+    cmdSaveRecord->setFocusPolicy(Qt::TabFocus); // a mouse click does not move the focus
     cmdSaveRecord->hide();
     txtPage->setAlignment(Qt::AlignRight);
     Language::keepTranslated(control, [this] { writeTexts(); });

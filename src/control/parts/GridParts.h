@@ -28,8 +28,8 @@ class SummaryLine;
 class ValueEdit;
 class VSFlexGrid;
 
-// The parts that the control is put together from, under the names by which hosts and tests find them,
-// and their places on it. The control, as their parent, owns them.
+// The parts of the control, with the names by which hosts and tests find them, and their layout. The control
+// owns them as their parent.
 class GridParts
 {
 public:
@@ -53,18 +53,18 @@ public:
     QPushButton *cmdPgae;
     ElidedLabel *lblFieldCount;
     SummaryLine *lblSummary;
-    QPushButton *cmdSaveRecord; // beside lblStatement while it says that a record is not saved
+    QPushButton *cmdSaveRecord; // beside lblStatement while a record is not saved
     StatementLine *lblStatement;
     QCheckBox *CheckSelAllRow;
     ADODB::Adodc *Adodc1;
 
-    // Places everything on a control of the given size.
+    // Arranges everything in a control of the given size.
     void layOut(int width, int height);
-    // Places the parts below the grid again; needed when the page label's text has changed.
+    // Arranges the parts below the grid again. Call it when the page label's text has changed.
     void layOutFoot() const;
-    // Tells assistive tools which record is current, what is selected and which conditions are in force.
+    // Describes the current record, the selection and the active conditions to assistive tools.
     void describeGrid() const;
-    // The line below the grid, on the control.
+    // The area of the line below the grid, in the control.
     QRect foot() const;
 
 private:

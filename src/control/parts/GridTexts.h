@@ -2,15 +2,15 @@
 
 #include "language/Text.h"
 
-// The texts of the control, for proof-reading in one place. What the user reads is Simplified Chinese;
-// what only the host's developer meets is English.
+// The texts of the control, collected here for proofreading. Texts for users are in Simplified Chinese; texts
+// that only the host's developer sees are in English.
 namespace KOVAVSFDataGridLib::GridTexts {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::GridTexts"};
 
 using namespace Qt::StringLiterals;
 
-// One record.
+// A single record.
 inline constexpr Text FieldNameHeading = tr("字段名称");
 inline constexpr Text FieldValueHeading = tr("字段内容");
 inline constexpr Text ReadOnlyCell =
@@ -31,10 +31,10 @@ inline constexpr Text PictureUnreadable = tr("无法读取文件“%1”：%2");
 inline constexpr Text NoPicture = tr("文件“%1”不是图片，或者太大。");
 inline constexpr Text ValueRefusedPrefix = tr("输入的内容无效：");
 
-// A record that can't be saved when its result is about to go.
+// A record that can't be saved although its result is about to be closed.
 inline constexpr Text UnsavedTitle = tr("记录没有保存");
 
-// A record that somebody else has changed.
+// A record that was changed by somebody else.
 inline constexpr Text ShowNewValues = tr("查看新值(&V)");
 
 // The line below the grid: position, count, statement.
@@ -48,7 +48,7 @@ inline constexpr Text SaveRecordTip = tr("保存这条记录（Ctrl+S）");
 inline constexpr Text BeforeStatement = tr("　");
 inline constexpr Text CopyStatement = tr("复制语句(&C)");
 
-// What the selected cells come to.
+// The summary of the selected cells.
 inline constexpr Text SelectedRows = tr("选定行数");
 inline constexpr Text CountOfCells = tr("计数");
 inline constexpr Text SumOfCells = tr("求和");
@@ -62,14 +62,14 @@ inline constexpr Text ColumnOfSummary = tr("%1：");
 inline constexpr Text SummaryHint = tr("单击数值可以复制");
 inline constexpr Text SummaryCopied = tr("已复制 %1");
 
-// In the middle of a grid that has nothing to show.
+// In the middle of an empty grid.
 inline constexpr Text NothingLoaded = tr("尚未加载数据");
 inline constexpr Text NoRecords = tr("没有记录");
 inline constexpr Text AddFirst = tr("增加第一条记录");
 inline constexpr Text AddFirstHint = tr("没有记录。按 Ctrl++ 增加第一条记录。");
 inline constexpr Text NoRecordsFound = tr("没有符合条件的记录。按“后退”返回上一步的结果。");
 
-// What a screen reader calls the parts that have no caption.
+// Names for screen readers of parts without a caption.
 inline constexpr Text ToolbarName = tr("数据命令");
 inline constexpr Text GridName = tr("数据");
 inline constexpr Text MenuName = tr("数据菜单");
@@ -77,7 +77,7 @@ inline constexpr Text FilteredBy = tr("筛选条件：%1");
 inline constexpr Text BetweenDescriptions = tr("；");
 inline constexpr Text SingleRecordName = tr("当前记录");
 
-// The menus inside the popup menu.
+// The submenus of the popup menu.
 inline constexpr Text CopyAsMenu = tr("复制为(&U)");
 inline constexpr Text CopyAsName = tr("复制为");
 
@@ -89,12 +89,12 @@ inline constexpr Text BetweenMarks = tr("，");
 inline constexpr Text ColumnMenuName = tr("列菜单");
 inline constexpr Text ColumnEntries = tr("列“%1”");
 
-// The conditions in force, above the grid.
+// The active conditions, above the grid.
 inline constexpr Text FilterBarName = tr("筛选条件");
 inline constexpr Text RemoveCondition = tr("移除条件：%1");
 inline constexpr Text MoreConditions = tr("还有 %1 个");
 
-// The bar that looks for a text in what is shown.
+// The bar that searches the shown records.
 inline constexpr Text FindBarName = tr("在表格中查找");
 inline constexpr Text FindTextHint = tr("查找内容");
 inline constexpr Text FindColumnHint = tr("在哪一列查找");

@@ -286,7 +286,7 @@ void GridWindow::showHeadingMarks()
     QStringList words;
     for (const ShownCondition &condition : shownConditions(*m_session)) {
         words.append(condition.words);
-        // What is looked for in many fields filters none of them.
+        // A search over several fields does not filter a single one of them.
         if (condition.fields.size() != 1)
             continue;
         for (int col = 1; col <= headings.size(); ++col) {

@@ -18,7 +18,7 @@ class Session;
 class ValueViewer;
 class VSFlexGrid;
 
-// What the control and its full-screen viewer have in common as windows of a session: a grid and a toolbar.
+// The common base of the control's and the viewer's window of a session: a grid and a toolbar.
 class GridWindow : public SessionWindow
 {
 public:
@@ -66,23 +66,23 @@ public:
     std::unique_ptr<OpeningProgress> beginWriting(const QString &done, qint64 total) override;
     void scrollAsOpened() override;
 
-    // What it shows; not owned. To be set before anything is shown.
+    // The session to show; not owned. Must be set before anything is shown.
     void setSession(Session &session);
-    // The menu whose items follow the commands; not owned.
+    // A menu whose items are updated with the commands; not owned.
     void setMenu(PopupMenu *menu) { m_menu = menu; }
-    // Its list of statements; not owned.
+    // The list of statements; not owned.
     void setHistoryMenu(HistoryMenu *menu) { m_history = menu; }
-    // What looks for texts in it; not owned.
+    // Searches the shown records; not owned.
     void setFinder(ResultFinder *finder) { m_finder = finder; }
 
 protected:
-    // Where on the whole window a line shows progress.
+    // The top-level widget that shows a progress line.
     virtual QWidget &progressWindow() = 0;
     virtual QRect progressPlace() const = 0;
-    // Shows the conditions in force in words.
+    // Shows the active conditions in words.
     virtual void showConditions(const QStringList &words) = 0;
 
-    // Another cell is current, of another view than the grid.
+    // The current cell of another view than the grid has changed.
     void followCurrentCell();
 
     VSFlexGrid &m_grid;
@@ -97,7 +97,7 @@ private:
 
     const std::unique_ptr<LinkPointer> m_links;
     ValueViewer *m_values; // belongs to the grid
-    // By the latest opening, until the result is shown. What shows an opening can outlive this object.
+    // From the latest opening, until its result is shown. The view of an opening can outlive this object.
     const std::shared_ptr<std::optional<QPoint>> m_scrolled = std::make_shared<std::optional<QPoint>>();
 };
 

@@ -56,7 +56,7 @@ void HistoryMenu::fill()
     const int widest = std::min(fontMetrics().horizontalAdvance(u'0') * widestStatement,
                                 m_toolbar.screen()->availableGeometry().width() * 2 / 5);
     for (const HistoryStep &step : historySteps(m_session)) {
-        // What was added last is at the end, so both ends are read.
+        // The latest addition is at the end, so the middle is elided.
         QString text = fontMetrics().elidedText(step.statement.simplified(), Qt::ElideMiddle, widest);
         QAction *const action = addAction(text.replace(u'&', "&&"_L1) + u'\t' + noteText(step));
         action->setToolTip(wholeTextTip(step.statement, m_toolbar));

@@ -17,7 +17,7 @@ public:
     // All must outlive it; the toolbar owns it.
     HistoryMenu(GridToolbar &toolbar, Session &session);
 
-    // Opens below the button, or below the toolbar while the button has no room there.
+    // Opens below the button, or below the toolbar if the button is not visible.
     void open();
 
 private:

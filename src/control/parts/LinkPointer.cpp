@@ -41,7 +41,7 @@ bool LinkPointer::eventFilter(QObject *watched, QEvent *event)
         return watched == m_grid.viewport() && release(*static_cast<QMouseEvent *>(event));
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-        // The event comes before the key counts as a modifier.
+        // The event arrives before the key is set as a modifier.
         if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Control)
             point(m_mouse, event->type() == QEvent::KeyPress ? Qt::ControlModifier : Qt::NoModifier);
         break;

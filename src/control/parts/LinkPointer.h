@@ -13,14 +13,14 @@ namespace KOVAVSFDataGridLib {
 
 class VSFlexGrid;
 
-// While Ctrl is held, the cell under the mouse is a link when its text is an address: it is underlined, and a
-// click opens it rather than select the cell.
+// While Ctrl is held, the cell under the mouse is a link if its text is an address: it is underlined, and a
+// click opens the link instead of selecting the cell.
 class LinkPointer final : public QObject
 {
     Q_OBJECT
 
 public:
-    // The grid must outlive this object: what it reports while it goes would still reach it.
+    // The grid must outlive this object, because its signals would still reach it.
     explicit LinkPointer(VSFlexGrid &grid);
 
 Q_SIGNALS:
@@ -39,7 +39,7 @@ private:
     VSFlexGrid &m_grid;
     QWidget *m_line;
     QPoint m_mouse;
-    QUrl m_pressed; // by a button that is still down
+    QUrl m_pressed; // where the mouse button was pressed, until it is released
 };
 
 } // namespace KOVAVSFDataGridLib

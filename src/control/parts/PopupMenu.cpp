@@ -19,7 +19,7 @@ PopupMenu::PopupMenu(QWidget &window, const Kind &kind, const GridToolbar &toolb
     : QMenu(&window), m_kind(kind), m_toolbar(toolbar), m_session(session)
 {
     setObjectName(kind.name);
-    setToolTipsVisible(true); // why an item can't be used
+    setToolTipsVisible(true); // for the reason why an item is disabled
     const int last = Command::lastMenuIndex(kind.texts);
     for (int index = 1; index <= last; ++index) {
         const Command *const command = Command::findMenuItem(kind.texts, index);
@@ -39,7 +39,7 @@ void PopupMenu::writeTexts()
         if (!command)
             continue;
         const Text caption = (command->*m_kind.texts).caption;
-        // The shortcut of a command with a button stays the button's and is only shown.
+        // If a command has a button, its shortcut belongs to the button and is only shown here.
         const QString shortcut = QKeySequence(command->shortcut).toString(QKeySequence::NativeText);
         action->setText(command->button ? caption() + u'\t' + shortcut : caption());
     }
@@ -65,7 +65,7 @@ QAction *PopupMenu::addItem(const Command &command, QWidget &window)
     return action;
 }
 
-// The menu for the items of a group: one inside this one, made on first use, or this one itself.
+// The menu for a group's items: a submenu, created on first use, or this menu.
 QMenu &PopupMenu::menuOfGroup(MenuGroup group)
 {
     if (group == MenuGroup::None)

@@ -9,15 +9,15 @@ namespace KOVAVSFDataGridLib {
 class GridToolbar;
 class Session;
 
-// The commands on the data under the pointer, each item known by its index from 1 on; an index without a
-// command is a separator. An item that repeats a toolbar button is shown and enabled as that button is; the
-// shortcuts of the others work in the whole window.
+// The commands for the data at the cursor. Each item has an index from 1; an index without a command is a
+// separator. An item that is also a toolbar button has the visibility and state of that button. The shortcuts
+// of all others work in the whole window.
 class PopupMenu final : public QMenu
 {
     Q_OBJECT
 
 public:
-    // The names of a window's menu and of its items, and where a command says what its item is like.
+    // The object names of a window's menu and its items, and the member of Command that describes the item.
     struct Kind
     {
         QString name;
@@ -30,12 +30,12 @@ public:
     // `window` owns it. All must outlive this object.
     PopupMenu(QWidget &window, const Kind &kind, const GridToolbar &toolbar, Session &session);
 
-    // Brings the items in step with the buttons. `hasText` says whether the current cell has one.
+    // Updates the items from the buttons. `hasText`: whether the current cell has a text.
     void refresh(bool hasText = true);
     QAction &item(int index) const { return *m_items.at(static_cast<std::size_t>(index - 1)); }
 
 Q_SIGNALS:
-    // An item was chosen, in the menu or by its shortcut.
+    // An item was chosen in the menu or by its shortcut.
     void chosen(const QString &key);
 
 private:

@@ -89,11 +89,11 @@ void ResultFinder::begin()
     m_wanted = Direction::None;
     m_timer.stop();
     if (!m_bar.isHidden())
-        m_timer.start(0); // several columns may be about to be hidden or shown
+        m_timer.start(0); // several columns may be hidden or shown now
     showMarks();
 }
 
-// False when there is nothing to search.
+// Returns false if there is nothing to search.
 bool ResultFinder::prepare()
 {
     offerColumns();
@@ -124,7 +124,7 @@ void ResultFinder::continueSearch()
 {
     if (!m_search && !prepare())
         return m_bar.showFound(m_bar.text().isEmpty() ? QString() : GridTexts::NothingFound);
-    // Never kept alive between the steps: its file is to close when its owner closes it.
+    // Not kept alive between the steps, because its file must be closed when its owner closes it.
     const std::shared_ptr<ADODB::Recordset> recordset = m_recordset.lock();
     if (!recordset)
         return m_search.reset();
@@ -146,7 +146,7 @@ void ResultFinder::want(Direction direction)
         m_wanted = direction;
 }
 
-// The current cell, or where it would be among the columns that are searched.
+// The current cell, or its position among the searched columns.
 std::optional<CellSearch::Cell> ResultFinder::currentCell() const
 {
     if (m_grid.Row() < 1)

@@ -14,9 +14,9 @@ class FindBar;
 class Session;
 class VSFlexGrid;
 
-// Looks for the find bar's text in the shown cells of the page, marks and counts what it finds, and goes from
-// one to the next. Many cells are looked at in steps between the events; a change of the text or of the
-// records starts over. While the bar is closed, the words of a quick filter are marked.
+// Searches the shown cells of the page for the find bar's text, marks and counts the matches, and moves
+// between them. Many cells are searched in steps between events; a change of the text or of the records
+// restarts the search. While the bar is closed, the words of a quick filter are marked.
 class ResultFinder : public QObject
 {
     Q_OBJECT
@@ -26,9 +26,9 @@ public:
     ResultFinder(Session &session, VSFlexGrid &grid, FindBar &bar);
 
     void open();
-    // The conditions in force may have changed.
+    // The active conditions may have changed.
     void markFilterWords();
-    // The records have other values.
+    // The values of the records have changed.
     void startOver();
 
 private:
@@ -49,10 +49,10 @@ private:
     VSFlexGrid &m_grid;
     FindBar &m_bar;
     QTimer m_timer;
-    std::weak_ptr<ADODB::Recordset> m_recordset; // of the search
+    std::weak_ptr<ADODB::Recordset> m_recordset; // being searched
     std::optional<CellSearch> m_search;
-    std::optional<CellSearch::Cell> m_at; // where the last step led
-    Direction m_wanted = Direction::None; // once all is searched
+    std::optional<CellSearch::Cell> m_at; // the last match moved to
+    Direction m_wanted = Direction::None; // where to go when the search is complete
 };
 
 } // namespace KOVAVSFDataGridLib

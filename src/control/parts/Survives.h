@@ -7,9 +7,9 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Runs what lets the host act: emits a signal, or calls a function that shows a message or saves. False when
-// the host has deleted `object` meanwhile. Then neither it nor another part of its control is there any more,
-// and the caller ends without another word.
+// Runs something that can call the host: emits a signal, or calls a function that shows a message or saves.
+// Returns false if the host has deleted `object` meanwhile. Then neither it nor any other part of its control
+// exists any more, and the caller must return immediately.
 template<typename Object, typename Function, typename... Arguments>
 [[nodiscard]] bool survives(Object &object, Function &&run, Arguments &&...arguments)
 {

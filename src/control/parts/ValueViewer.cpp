@@ -43,7 +43,7 @@ void ValueViewer::setPane(ValuePane &pane, std::function<void()> bring)
     connect(&pane, &ValuePane::shown, this, &ValueViewer::follow);
 }
 
-// It belongs to the window: the grid may be hidden while a single record is shown.
+// Its parent is the window, because the grid may be hidden while a single record is shown.
 ValueDialog *ValueViewer::window() const
 {
     return m_grid.parentWidget()->findChild<ValueDialog *>(QString(), Qt::FindDirectChildrenOnly);
@@ -77,7 +77,7 @@ void ValueViewer::followNow()
     if (value && pane)
         pane->put(shownValue(*value));
     else if (pane)
-        pane->clear(); // a window keeps what it shows
+        pane->clear(); // a window keeps its value
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -17,27 +17,27 @@ class ValueDialog;
 class ValuePane;
 class VSFlexGrid;
 
-// Shows values of a grid whole: in a pane of the host's, or in a window where there is none. While they can
-// be seen, both follow the cell that is current.
+// Shows complete values of a grid: in the host's pane or, if there is none, in a window. While visible, both
+// follow the current cell.
 class ValueViewer final : public QObject
 {
     Q_OBJECT
 
 public:
-    // It belongs to the grid.
+    // Owned by the grid.
     explicit ValueViewer(VSFlexGrid &grid);
     ~ValueViewer() override;
 
-    // That of a control; null where there is none.
+    // The one of a control; null if there is none.
     static ValueViewer *of(const QWidget &control);
 
-    // Where the values come from; must outlive this object.
+    // The source of the values; must outlive this object.
     void setSession(Session &session) { m_session = &session; }
-    // `bring` makes the pane visible. The pane may go at any time.
+    // `bring` makes the pane visible. The pane may be destroyed at any time.
     void setPane(ValuePane &pane, std::function<void()> bring);
 
     void show(const CellValue &value);
-    // Soon, once for all that an event changes.
+    // Delayed, so that all changes of an event cause only one update.
     void follow() { m_later.start(); }
 
 private:

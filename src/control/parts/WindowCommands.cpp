@@ -23,7 +23,7 @@ WindowCommands::WindowCommands(QWidget &window, const PopupMenu::Kind &kind, con
 {
     for (QAction *action : parts.toolbar.actions()) {
         if (!action->shortcut().isEmpty())
-            window.addAction(action); // so that it works wherever in the window the keyboard is
+            window.addAction(action); // so that it works wherever the focus is in the window
     }
     connect(&parts.toolbar, &GridToolbar::buttonClicked, this, [this](const QString &key) { run(key); });
     connect(&m_menu, &PopupMenu::chosen, this, [this](const QString &key) { run(key, ChosenBy::MenuItem); });
@@ -43,7 +43,7 @@ PopupMenu &WindowCommands::menuFor(bool hasText, int col)
 
 void WindowCommands::run(const QString &key, ChosenBy by)
 {
-    if (m_parts.toolbar.isEnabled()) // which a shortcut doesn't know
+    if (m_parts.toolbar.isEnabled()) // a shortcut ignores the toolbar's state
         m_session.run(key, by);
 }
 
@@ -73,7 +73,7 @@ void WindowCommands::removeCondition(int condition)
             [&] { KOVAVSFDataGridLib::removeCondition(m_session, static_cast<std::size_t>(condition)); });
     };
     if (survives(*this, remove))
-        m_parts.grid.setFocus(); // the button that had it is gone
+        m_parts.grid.setFocus(); // the button with the focus is gone
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -15,8 +15,8 @@ class FilterBar;
 class GridToolbar;
 class VSFlexGrid;
 
-// Runs a session's commands as its user asks for them in a window: by toolbar, menu, shortcut, page box, the
-// menu of a column and the line of conditions. Nothing runs while the toolbar is disabled.
+// Runs a session's commands for the user's input in a window: toolbar, menu, shortcut, page box, column menu
+// and the line of conditions. Nothing runs while the toolbar is disabled.
 class WindowCommands : public QObject
 {
     Q_OBJECT
@@ -36,8 +36,8 @@ public:
 
     PopupMenu &menu() { return m_menu; }
     QMenu &columnMenu() const { return m_columnMenu.menu(); }
-    // The menu in step with what is shown; with the entries of a column at its end, if one is given.
-    // `hasText` says whether the current cell has one.
+    // The updated menu; with the entries of a column at its end, if `col` is not 0. `hasText`: whether the
+    // current cell has a text.
     PopupMenu &menuFor(bool hasText, int col = 0);
 
     void run(const QString &key, ChosenBy by = ChosenBy::Button);
@@ -48,7 +48,7 @@ private:
 
     const Parts m_parts;
     Session &m_session;
-    PopupMenu &m_menu; // the window's
+    PopupMenu &m_menu; // owned by the window
     ColumnMenu m_columnMenu;
 };
 

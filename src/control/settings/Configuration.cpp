@@ -37,9 +37,9 @@ QString withoutQuotes(const QString &value)
     return isQuoted ? value.mid(1, value.size() - 2) : value;
 }
 
-// Read line by line, because an INI file of this kind knows no escapes: a backslash in it is a backslash. As
-// everywhere with such files the first entry of a name counts, ";" begins a comment only at a line's begin
-// and quotes around a value aren't part of it.
+// Reads line by line, because this kind of INI file has no escapes: a backslash is a backslash. As usual for
+// such files, the first entry of a name is used, ";" begins a comment only at the start of a line, and quotes
+// around a value are not part of it.
 class IniSection
 {
 public:
@@ -61,7 +61,7 @@ IniSection::IniSection(const QString &filePath, const QString &section)
     QFile file(filePath);
     if (!file.open(QIODevice::ReadOnly))
         return;
-    QTextStream lines(&file); // in UTF-8, or as its byte order mark says
+    QTextStream lines(&file); // UTF-8, unless its byte order mark says otherwise
     bool isInSection = false;
     QString line;
     while (lines.readLineInto(&line)) {
@@ -97,7 +97,7 @@ qint32 readThreeTierSwitch()
     return readThreeTierSettings().isOn ? 1 : 0;
 }
 
-// The tier's entries whole, because a connection string cut off leads elsewhere.
+// Without the length limit, because a truncated connection string would lead elsewhere.
 ThreeTierSettings readThreeTierSettings()
 {
     const IniSection section(threeTierFile(), threeTierSection);

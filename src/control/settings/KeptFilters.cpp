@@ -16,7 +16,7 @@ const QString settingsName = u"KOVAVSFDataGrid"_s;
 const QString sqlKey = u"Filters/ShowSql"_s;
 const QString wordsKey = u"Find/Words"_s;
 
-// The connection string without who logs in, in an order of its own.
+// The connection string without the user's login, in a canonical order.
 QString databaseOf(const QString &connectionString)
 {
     static const QStringList logins{u"user id"_s, u"uid"_s, u"user"_s, u"username"_s};
@@ -31,11 +31,11 @@ QString databaseOf(const QString &connectionString)
         parts.sort();
         return parts.join(u';');
     } catch (const ADODB::Error &) {
-        return {}; // it opens nothing either
+        return {}; // such a string can't be opened
     }
 }
 
-// Of one length, whatever characters the names have.
+// A hash of fixed length, whatever characters the names have.
 QString keyOf(const FilterPlace &place)
 {
     const QString names = place.hostKey + u'\n' + databaseOf(place.connectionString) + u'\n' + place.table;

@@ -30,9 +30,9 @@ bool isOffered(const GridToolbar &toolbar, const QString &key)
     return toolbar.isButtonEnabled(key) && toolbar.isButtonVisible(key);
 }
 
-// The user's stay in the viewer. It ends early when the host destroys the control, or opens or closes a
-// result of it: what the session has lent is another's or gone from then on. The viewer itself is still
-// there, as one of its commands may be what the host heard of.
+// The time that the user spends in the viewer. It ends early if the host destroys the control, or opens or
+// closes a result in it, because the lent result is then no longer valid. The viewer object still exists
+// then, because one of its commands may have caused that.
 class Visit
 {
 public:
@@ -46,7 +46,7 @@ private:
     ResultSet::Opened open(const QString &statement, const ResultSet::Progress &progress);
 
     Session &m_session;
-    bool m_isReplacing = false; // the viewer itself puts another result in its place
+    bool m_isReplacing = false; // the viewer itself is replacing the result
     bool m_isOver = false;
     frm_FullScreen m_viewer;
 };
@@ -63,7 +63,7 @@ Visit::Visit(QWidget &control, Session &session, GridParts &parts, const AskCond
         if (!m_isReplacing)
             end();
     });
-    // Heard of before the control deletes its children, of which the viewer must be none then.
+    // Emitted before the control deletes its children; the viewer must not be one of them then.
     QObject::connect(&control, &QObject::destroyed, &m_viewer, [this] {
         end();
         m_viewer.setParent(nullptr, m_viewer.windowFlags());
@@ -79,7 +79,7 @@ void Visit::end()
     m_viewer.reject();
 }
 
-// The control's own grid goes along at once, because its rows are read from the result that was replaced.
+// The control's own grid is updated immediately, because it reads its rows from the replaced result.
 ResultSet::Opened Visit::open(const QString &statement, const ResultSet::Progress &progress)
 {
     auto opened =
@@ -123,7 +123,7 @@ bool ShowFullScreen(QWidget &control, Session &session, GridParts &parts, const 
         session.window().showAllRecords();
     const GridToolbar &toolbar = *parts.Toolbar1;
     const bool wasAll = toolbar.isButtonPressed(CommandKeys::All);
-    session.columns().SaveColumnWidths(); // the viewer opens with the widths that the user sees
+    session.columns().SaveColumnWidths(); // the viewer starts with the current widths
 
     Visit visit(control, session, parts, askCondition);
     frm_FullScreen &viewer = visit.viewer();

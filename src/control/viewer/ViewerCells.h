@@ -5,11 +5,11 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The viewer's sheet: always as many rows and with an empty column 0, whatever part of it the records fill.
+// The viewer's sheet: always the same number of rows, with an empty column 0, however many records there are.
 class ViewerCells final : public CellSource
 {
 public:
-    static constexpr int sheetRows = SharedValues::recordCap + 1; // with the headings
+    static constexpr int sheetRows = SharedValues::recordCap + 1; // including the headings
 
     // The records from `first` (1-based) on, `count` of them: at most sheetRows - 1.
     ViewerCells(std::shared_ptr<const ADODB::Recordset> recordset, int first, int count)

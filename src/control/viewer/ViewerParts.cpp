@@ -45,7 +45,7 @@ ViewerParts::ViewerParts(QDialog &window)
     txtPage->setAlignment(Qt::AlignRight);
     txtPage->setMaxLength(pageDigits);
     lblPageCount->setTextFormat(Qt::PlainText);
-    // Enter belongs to the page box and must not press a button beside it.
+    // Enter is for the page box and must not press a button beside it.
     cmdPgae->setAutoDefault(false);
     cmdClose->setAutoDefault(false);
 }

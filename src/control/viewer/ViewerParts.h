@@ -17,8 +17,8 @@ class FindBar;
 class GridToolbar;
 class VSFlexGrid;
 
-// The parts of the full-screen viewer under the names by which tests find them, laid out over its whole
-// window, which owns them.
+// The parts of the full-screen viewer, with the names by which tests find them, arranged in its window, which
+// owns them.
 class ViewerParts
 {
 public:
@@ -37,7 +37,7 @@ public:
     QPushButton *cmdPgae;
     QLabel *lblPageCount;
 
-    // The bar below the grid, on the window.
+    // The area of the bar below the grid, in the window.
     QRect foot() const;
 
 private:

@@ -2,8 +2,8 @@
 
 #include "language/Text.h"
 
-// The texts of the full-screen viewer, for proof-reading in one place. What it has in common with the control
-// stands in GridTexts.h.
+// The texts of the full-screen viewer, collected here for proofreading. Texts that it shares with the control
+// are in GridTexts.h.
 namespace KOVAVSFDataGridLib::ViewerTexts {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::ViewerTexts"};

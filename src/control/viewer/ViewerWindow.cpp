@@ -38,7 +38,7 @@ void ViewerWindow::showRecords(std::shared_ptr<ADODB::Recordset> recordset, qint
     m_grid.PutRedraw(false);
     m_grid.Show(std::make_unique<ViewerCells>(std::move(recordset), static_cast<int>(first),
                                               std::min(count, ViewerCells::sheetRows - 1)));
-    m_grid.PutColWidth(0, ColumnLayout::rowHeadingMargin); // it has no texts to be as wide as
+    m_grid.PutColWidth(0, ColumnLayout::rowHeadingMargin); // it has no texts that could determine its width
     m_grid.PutRedraw(true);
 }
 

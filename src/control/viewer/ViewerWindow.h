@@ -21,8 +21,8 @@ public:
     void refreshStatus() override;
     void showConditions(const QStringList &words) override;
 
-    // So that the keyboard always has a cell to start from: the current record's row, else the first, and a
-    // column that is seen.
+    // Makes sure that the keyboard has a cell to start from: in the current record's row or else the first,
+    // and in a visible column.
     void makeShownCellCurrent();
 
 private:

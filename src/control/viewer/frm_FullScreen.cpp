@@ -31,9 +31,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int backIndex = 7; // of the menu's way back to the control
+constexpr int backIndex = 7; // the menu item that returns to the control
 
-// The condition is asked for by the control, which knows the table.
+// The control asks for the condition, because it knows the table.
 class ViewerQuestions final : public DialogQuestions
 {
 public:
@@ -78,7 +78,7 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
     setWindowTitle(ViewerTexts::Title);
     fillScreen();
     connect(m_parts.cmdClose, &QPushButton::clicked, this, &QDialog::accept);
-    // Its items depend on the cell that it was opened on, their shortcuts don't.
+    // Its items depend on the cell where it was opened, but their shortcuts don't.
     connect(m_menu, &QMenu::aboutToHide, this, [this] { m_menu->refresh(); });
     QAction &back = m_menu->item(backIndex);
     back.setSeparator(false);
@@ -93,7 +93,7 @@ frm_FullScreen::frm_FullScreen(ViewerHost host, QWidget *parent)
 
 frm_FullScreen::~frm_FullScreen()
 {
-    m_menu->disconnect(this); // it hides when it is deleted
+    m_menu->disconnect(this); // its destructor hides it
     m_session->detach();
 }
 
@@ -133,12 +133,12 @@ void frm_FullScreen::GetData(const std::shared_ptr<ADODB::Connection> &newConnec
     m_session->texts.sqlSort = SortString;
     m_session->fields().setView(IsAll ? FieldView::All : FieldView::Part);
     try {
-        // A snapshot has nothing to refresh, but a move to where it stands saves an edit that was begun.
+        // A snapshot has nothing to refresh, but moving to the current position saves an edit in progress.
         const bool isOpen = newTable && newTable->State() == ADODB::adStateOpen;
         if (isOpen && newTable->EditMode() != ADODB::adEditNone)
             newTable->Move(0);
     } catch (const ADODB::Error &) {
-        // The edit stays with the control, which tells why it can't be saved when the user goes on with it.
+        // The edit remains in the control, which shows the error when the user continues with it.
     }
     m_session->shown().borrow({newConnectionString, newConnection, newTable}, NewSQL, nCurPageIndex);
     m_session->fields().layOut();
@@ -180,7 +180,7 @@ void frm_FullScreen::showEvent(QShowEvent *event)
 
 void frm_FullScreen::keyPressEvent(QKeyEvent *event)
 {
-    // The key that opened the viewer closes it.
+    // The key that opened the viewer also closes it.
     if (event->key() == Qt::Key_F11)
         accept();
     else
@@ -210,7 +210,7 @@ bool frm_FullScreen::eventFilter(QObject *watched, QEvent *event)
             return true;
         }
     } else if (watched == &grid && event->type() == QEvent::ContextMenu) {
-        return true; // the menu key comes as a key as well, and once is enough
+        return true; // the menu key also arrives as a key press; one event is enough
     }
     return QDialog::eventFilter(watched, event);
 }

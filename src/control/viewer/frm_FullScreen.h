@@ -19,16 +19,16 @@ class StatementTrail;
 class WindowCommands;
 class clsFilterManagement;
 
-// What the viewer asks of the control that opened it.
+// What the viewer needs from the control that opened it.
 struct ViewerHost
 {
-    // Opens a statement in place of the one that is open, both in the control and for the viewer. When that
-    // fails it throws ADODB::Error, and what was open still is.
+    // Opens a statement instead of the open one, both in the control and for the viewer. If that fails,
+    // throws ADODB::Error, and the previous result stays open.
     Session::Opener open;
     AskCondition askCondition;
 };
 
-// Shows a control's result on the whole screen, in a session of its own. It pages through the control's own
+// Shows a control's result in full screen, in a separate session. It pages through the control's own
 // recordset without ever moving it, and derives statements through the control's filter manager; only when
 // the user asks for another statement is a new result opened, through the host. A command that fails leaves
 // everything as it was.
@@ -43,27 +43,27 @@ public:
     ~frm_FullScreen() override;
 
     void PutFilterManager(std::shared_ptr<clsFilterManagement> manager);
-    // What the user's way through that history has left.
+    // The user's trail through that history.
     void PutTrail(std::shared_ptr<StatementTrail> trail);
-    // Takes over what the control shows and shows it. Pages count from 1; `bUpdate` has no meaning. The
-    // viewer opens with the row of the current record if the page has it.
+    // Shows what the control shows. Pages are numbered from 1; `bUpdate` is ignored. The viewer starts in the
+    // row of the current record if the page contains it.
     void GetData(const std::shared_ptr<ADODB::Connection> &newConnection,
                  const std::shared_ptr<ADODB::Recordset> &newTable, qint32 nCurPageIndex,
                  const QString &newConnectionString, const QString &NewSQL, bool bUpdate,
                  const QString &SortString, bool IsAll, bool bCanFilte, bool bCanSort, bool bCanFull);
-    // Releases the filter manager; commands do nothing from then on, and one that is under way ends.
+    // Releases the filter manager. Commands do nothing afterwards, and a running one ends.
     void ClearRefObject();
 
     VSFlexGrid &grid() const { return *m_parts.vsfgShowData; }
 
-    // The page shown, 0 when none is.
+    // The shown page, 0 if there is none.
     qint32 GetPageIndex() const;
     bool IsAll() const;
     const QString &CurrentSQL() const;
-    // Whether the host was asked for another result, and gave it.
+    // Whether the host was asked for another result and provided it.
     bool IsRequeried() const;
 
-    // Shares the grid's width among its columns. Those hidden by the part-field view stay hidden.
+    // Divides the grid's width equally among its columns. Those hidden by the part-field view stay hidden.
     void SeeCompressView();
 
 protected:
@@ -75,7 +75,7 @@ private:
     void fillScreen();
     void popUp(const QPoint &globalPosition, bool isOnCell, int col = 0);
 
-    HostEvents m_noHost; // which hears of everything when the user has come back
+    HostEvents m_noHost; // the host is notified only after the user has come back
     const std::unique_ptr<Questions> m_questions;
     const ViewerParts m_parts;
     ViewerWindow m_window;

@@ -11,7 +11,7 @@ namespace KOVAVSFDataGridLib {
 void beginSaving(const QFileDevice &file, qint64 from, qint64 size)
 {
 #ifdef Q_OS_LINUX
-    // What fails here is found when the file is synchronised.
+    // An error here is reported again when the file is flushed.
     static_cast<void>(sync_file_range(file.handle(), from, size, SYNC_FILE_RANGE_WRITE));
 #else
     Q_UNUSED(file)

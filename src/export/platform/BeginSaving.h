@@ -6,8 +6,8 @@ class QFileDevice;
 
 namespace KOVAVSFDataGridLib {
 
-// Has the system bring these bytes of a file, which were written to it, to the disk, and does not wait for
-// it. Where the system knows no such thing they come there with the others, when the file is synchronised.
+// Makes the system start to write these bytes of a file to disk, without waiting for it. If the system
+// doesn't support that, they are written when the file is flushed.
 void beginSaving(const QFileDevice &file, qint64 from, qint64 size);
 
 } // namespace KOVAVSFDataGridLib

@@ -20,7 +20,7 @@ constexpr quint64 inEachByte(unsigned char byte)
     return ~quint64{0} / 0xff * byte;
 }
 
-// Not 0 when one of the eight bytes is.
+// Not 0 if one of the eight bytes is zero.
 constexpr quint64 zeroByte(quint64 bytes)
 {
     return (bytes - inEachByte(1)) & ~bytes & inEachByte(0x80);
@@ -103,7 +103,7 @@ char *writeQuoted(char *to, QByteArrayView text, bool hasQuotes, bool isGuarded)
     return to;
 }
 
-// The most that a text can take: each quote twice, two around it, and an apostrophe.
+// The maximum length of a text: every quote doubled, two quotes around it, and an apostrophe.
 qsizetype longestText(QByteArrayView text)
 {
     return 2 * text.size() + 3;
@@ -130,7 +130,7 @@ void CsvRows::appendHeadings(QByteArray &text) const
     text += "\r\n";
 }
 
-// Room is made once for a whole record, and what is written needs no further look at it.
+// Allocates once per record, so that writing needs no further checks.
 void CsvRows::append(QByteArray &text, const std::vector<ADODB::RawValue> &cells)
 {
     const qsizetype room = roomFor(cells);

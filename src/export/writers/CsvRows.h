@@ -8,7 +8,7 @@ namespace KOVAVSFDataGridLib {
 class CsvRows final : public RowTexts
 {
 public:
-    // `guardsFormulas` as in CsvWriter.
+    // For `guardsFormulas`, see CsvWriter.
     CsvRows(ExportColumns columns, bool guardsFormulas);
 
     void appendHeadings(QByteArray &text) const;
@@ -25,7 +25,7 @@ private:
 
     // The most that a record takes.
     qsizetype roomFor(const std::vector<ADODB::RawValue> &cells) const;
-    // Makes room behind the text; what isn't used is to be cut off.
+    // Reserves space at the end of the text; the caller must cut off what it doesn't use.
     static char *writableEnd(QByteArray &text, qsizetype room);
     // Writes a cell and answers its end; null where it has to be written by way of its text.
     char *write(char *to, const ADODB::RawValue &cell, const Column &column) const;

@@ -7,8 +7,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Comma-separated values after RFC 4180: lines end with CR LF, and a value with a comma, a quote or a line
-// end is quoted. Null is an empty value.
+// Comma-separated values as in RFC 4180: lines end with CR LF, and values that contain a comma, a quote or a
+// line end are quoted. Null is an empty value.
 class CsvWriter final : public RecordWriter
 {
 public:
@@ -16,11 +16,11 @@ public:
     {
         TextEncoding encoding = TextEncoding::Utf8WithMark;
         bool hasHeadings = true;
-        // An apostrophe before each text that a spreadsheet would take for a formula.
+        // Writes an apostrophe before each text that a spreadsheet would evaluate as a formula.
         bool guardsFormulas = true;
     };
 
-    // `device` is open for writing and must outlive this object.
+    // `device` must be open for writing and outlive this object.
     CsvWriter(QIODevice &device, const Options &options);
 
     void begin(const ExportColumns &columns) override;

@@ -4,7 +4,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Appends a text as it is written in HTML: markup escaped, line ends as <br>.
+// Appends a text as HTML: markup is escaped, and line ends become <br>.
 void appendHtml(QByteArray &html, QByteArrayView utf8);
 
 } // namespace KOVAVSFDataGridLib

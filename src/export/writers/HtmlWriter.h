@@ -5,11 +5,11 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A web page of one table. Numbers are on the right.
+// A web page with one table. Numbers are right-aligned.
 class HtmlWriter final : public RecordWriter
 {
 public:
-    // `device` is open for writing and must outlive this object.
+    // `device` must be open for writing and outlive this object.
     HtmlWriter(QIODevice &device, bool hasHeadings);
 
     void begin(const ExportColumns &columns) override;

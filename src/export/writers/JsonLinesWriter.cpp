@@ -42,7 +42,7 @@ QByteArrayView withoutDigits(QByteArrayView text)
     return text.sliced(end - text.begin());
 }
 
-// A decimal as databases write it, which JSON writes in the same way.
+// Whether a database's decimal text is also a JSON number.
 bool isJsonNumber(QByteArrayView text)
 {
     if (text.startsWith('-'))
@@ -58,7 +58,7 @@ bool isJsonNumber(QByteArrayView text)
 void appendReal(QByteArray &json, double value)
 {
     std::array<char, 32> text;
-    const auto end = std::to_chars(text.begin(), text.end(), value).ptr; // all that is needed to read it back
+    const auto end = std::to_chars(text.begin(), text.end(), value).ptr; // reads back as the same number
     json.append(text.data(), end - text.data());
 }
 

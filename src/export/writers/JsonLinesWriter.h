@@ -5,12 +5,12 @@
 
 namespace KOVAVSFDataGridLib {
 
-// One JSON object a line, its members named by the headings; a heading that occurs twice gets a number.
-// Numbers keep all their digits, binary values are Base64.
+// One JSON object per line, with the headings as member names; a repeated heading gets a number. Numbers keep
+// all their digits, binary values are in Base64.
 class JsonLinesWriter final : public RecordWriter
 {
 public:
-    // `device` is open for writing and must outlive this object.
+    // `device` must be open for writing and outlive this object.
     explicit JsonLinesWriter(QIODevice &device);
 
     void begin(const ExportColumns &columns) override;
@@ -22,7 +22,7 @@ private:
 
     TextSink m_sink;
     ExportColumns m_columns;
-    std::vector<QByteArray> m_names; // with quotes and colon
+    std::vector<QByteArray> m_names; // including quotes and colon
     QByteArray m_value;
 };
 

@@ -6,8 +6,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Values separated by tabs, as spreadsheets paste them: lines end with CR LF, and a value with a tab, a quote
-// at its begin or a line end is quoted. One value alone is written as it is.
+// Tab-separated values in the form that spreadsheets paste: lines end with CR LF, and values that contain a
+// tab or a line end or begin with a quote are quoted. A single value is written unchanged.
 class TabTextWriter final : public RecordWriter
 {
 public:
@@ -19,7 +19,7 @@ public:
 
     // UTF-8.
     const QByteArray &text() const { return m_text; }
-    // Appends a value, and quotes it where it needs that.
+    // Appends a value, quoted if necessary.
     static void appendValue(QByteArray &text, QByteArrayView value);
 
 private:

@@ -22,10 +22,10 @@ namespace {
 
 using Kind = ADODB::RawValue::Kind;
 
-constexpr qsizetype longestText = 32767; // UTF-16 units in a cell
+constexpr qsizetype longestText = 32767; // UTF-16 units per cell
 constexpr int widestColumn = 600;        // pixels; a wider one would fill the screen
 constexpr int mostDecimals = 15;
-constexpr int firstYear = 1900; // of a spreadsheet's calendar; its days before March are one off
+constexpr int firstYear = 1900; // of the calendar in spreadsheets; its days before March are off by one
 constexpr qint64 largestExact = qint64{1} << 53;
 constexpr int exactDigits = 15;
 
@@ -35,7 +35,7 @@ bool isDateType(ADODB::DataTypeEnum type)
            type == ADODB::adDBTimeStamp;
 }
 
-// A decimal whose digits a spreadsheet's numbers hold.
+// A decimal with no more digits than a spreadsheet's numbers have.
 bool isShortDecimal(QByteArrayView text)
 {
     const auto digits = std::count_if(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
@@ -77,7 +77,7 @@ void XlsxWriter::begin(const ExportColumns &columns)
         throw ADODB::Error(ADODB::adErrWriteFile, m_file.errorString());
     lxw_workbook_options options{};
     options.constant_memory = LXW_TRUE;
-    options.use_zip64 = LXW_TRUE; // a sheet's text can be longer than 4 GB
+    options.use_zip64 = LXW_TRUE; // the text of a sheet can exceed 4 GB
     m_book.reset(workbook_new_opt(QFile::encodeName(m_file.fileName()).constData(), &options));
     if (!m_book)
         check(LXW_ERROR_MEMORY_MALLOC_FAILED);
@@ -157,7 +157,7 @@ void XlsxWriter::write(quint16 col, const ADODB::RawValue &cell, const ExportCol
         writeNumber(col, cell, column);
 }
 
-// A number that a spreadsheet can't hold exactly is better a text than another number.
+// A number that a spreadsheet can't represent exactly is written as text.
 void XlsxWriter::writeNumber(quint16 col, const ADODB::RawValue &cell, const ExportColumn &column)
 {
     double number = 0;
@@ -217,7 +217,7 @@ void XlsxWriter::writeText(quint16 col, QByteArrayView utf8)
 void XlsxWriter::end()
 {
     check(workbook_close(m_book.release()));
-    // Opened by its name again, since it was written past this object.
+    // Opened again by name, because it was not written through this object.
     QFile written(m_file.fileName());
     if (!written.open(QIODevice::ReadOnly))
         throw ADODB::Error(ADODB::adErrWriteFile, written.errorString());

@@ -13,14 +13,14 @@ class QIODevice;
 
 namespace KOVAVSFDataGridLib {
 
-// A workbook: numbers, dates and Booleans as such, the headings frozen, the columns as wide as they are
-// shown. What has no room on a sheet goes to further ones. Rows are written to disk as they come, so memory
-// stays the same however many there are.
+// A workbook with real numbers, dates and Booleans, frozen headings and column widths as shown. Records that
+// don't fit on a sheet are written to further sheets. Rows are written to disk immediately, so memory usage
+// does not depend on their number.
 class XlsxWriter final : public RecordWriter
 {
 public:
-    // `device` is open for writing and must outlive this object. Rows and columns of a sheet are limited by
-    // the format; `rowsOfSheet` is there for tests.
+    // `device` must be open for writing and outlive this object. The format limits the rows and columns of a
+    // sheet; `rowsOfSheet` is for tests.
     static constexpr quint32 mostRows = 1048576;
     static constexpr int mostColumns = 16384;
     XlsxWriter(QIODevice &device, bool hasHeadings, quint32 rowsOfSheet = mostRows);
@@ -30,7 +30,7 @@ public:
     void row(const std::vector<ADODB::RawValue> &cells) override;
     void end() override;
 
-    // How many texts were longer than a cell can hold and have been cut.
+    // The number of texts that were too long for a cell and were truncated.
     qint64 cutTexts() const { return m_cutTexts; }
 
 private:
@@ -41,7 +41,7 @@ private:
     void writeText(quint16 col, QByteArrayView utf8);
     lxw_format *numberFormat(int scale);
     lxw_format *format(const char *numberFormat);
-    // Throws for anything but success.
+    // Throws unless `error` means success.
     static void check(int error);
 
     struct CloseBook
@@ -52,11 +52,11 @@ private:
     QIODevice &m_device;
     const bool m_hasHeadings;
     const quint32 m_rowsOfSheet;
-    QTemporaryFile m_file; // which the library writes
+    QTemporaryFile m_file; // written by the library
     std::unique_ptr<lxw_workbook, CloseBook> m_book;
     lxw_worksheet *m_sheet = nullptr;
     int m_sheets = 0;
-    quint32 m_row = 0; // next, from 0
+    quint32 m_row = 0; // the next one, from 0
     ExportColumns m_columns;
     lxw_format *m_heading = nullptr;
     lxw_format *m_date = nullptr;

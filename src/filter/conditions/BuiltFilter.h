@@ -18,7 +18,7 @@ struct BuiltFilter
     bool operator==(const BuiltFilter &) const = default;
 };
 
-// As it is kept in files. What can't be read as a filter gives nothing.
+// The form for files. Reading invalid data returns no value.
 QJsonObject toJson(const BuiltFilter &filter);
 std::optional<BuiltFilter> builtFilterOf(const QJsonValue &json);
 

@@ -4,7 +4,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What a field's values are to somebody who filters by them.
+// The kinds of fields for filtering.
 enum class FieldClass {
     Text,
     Number,
@@ -12,7 +12,7 @@ enum class FieldClass {
     Date,   // a day
     Time,   // a time of day
     Moment, // a day and a time
-    Other   // only there or not there: pictures and the like
+    Other   // only Null or not Null: pictures and the like
 };
 
 FieldClass fieldClassOf(ADODB::DataTypeEnum type);

@@ -62,7 +62,7 @@ QString compare(const QString &field, FilterOperator op, const FilterValue &valu
     }
 }
 
-// Writes one choice, whose field is already written as it is compared.
+// Writes one choice, whose field is already in its form for comparisons.
 class Writer
 {
 public:
@@ -71,7 +71,7 @@ public:
     {
     }
 
-    // As the operator's positive form selects.
+    // The condition for the operator's positive form.
     FilterCondition positive() const
     {
         if (comparesRecords(m_op))
@@ -88,7 +88,7 @@ public:
                 {}};
     }
 
-    // The opposite, among the records that have a value.
+    // The opposite, for records that have a value.
     FilterCondition negative() const
     {
         FilterCondition selected = positive();
@@ -113,7 +113,7 @@ private:
         if (typed.isEmpty())
             return std::nullopt;
         auto value = readFilterValue(m_dialect, field.fieldClass, typed, m_scope.today);
-        // A fraction, or a computed number, is hardly ever exactly what is shown.
+        // Fractions and computed numbers are rarely exactly what is shown.
         const bool isWhole =
             value && !value->literal.contains(u'.') && !value->literal.contains(u'e', Qt::CaseInsensitive);
         if (value && field.floatSize && (!isWhole || field.isComputed))
@@ -121,8 +121,8 @@ private:
         return value;
     }
 
-    // SQLite takes every number for less than any text, so that a number is compared as what each value of an
-    // untyped field is.
+    // In SQLite every number is less than any text. So in an untyped field, a number is compared with each
+    // value in the type of that value.
     QString compared(FilterOperator op, const FilterValue &value, const QString &typed) const
     {
         if (!m_choice.field.isUntyped)
@@ -207,7 +207,7 @@ private:
             return {{},
                     m_choice.value.trimmed().isEmpty() ? FilterTexts::NoValue
                                                        : FilterTexts::NoCount.arg(m_choice.value)};
-        // The first texts of a list are those that begin it, while the first numbers are the largest.
+        // "Top" means the first texts in order, but the largest numbers.
         const bool areTexts = m_choice.field.fieldClass == FieldClass::Text;
         const bool isDescending = (m_op == FilterOperator::Top) != areTexts;
         FilterSql::Records records = *m_scope.records;
@@ -217,7 +217,7 @@ private:
         return {FilterSql::isAmongFirst(m_dialect, field(), records, {*count, isDescending, areTexts}), {}};
     }
 
-    // Where texts are larger than numbers, what is larger than a number is still to be one.
+    // If texts are larger than numbers, a value that is larger than a number must still be a number.
     QString numberLimit() const
     {
         return m_choice.field.fieldClass == FieldClass::Number ? beforeTexts(m_dialect, field()) : QString();
@@ -236,7 +236,7 @@ QString isEmpty(const Dialect &dialect, const FilterField &field, bool wanted)
     return wanted ? isEmptyText(dialect, field.written) : isNotEmptyText(dialect, field.written);
 }
 
-// Whether it looks for values as they are shown, rather than for what comes before or after.
+// Whether it compares with the shown values, and not with what is before or after them.
 bool isByValue(FilterOperator op)
 {
     op = positiveOf(op);
@@ -267,7 +267,7 @@ FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked, c
     if (!choice.leavesOut())
         return writer.positive();
     FilterCondition condition = writer.negative();
-    // Null differs from nothing to a database, but to the user it is not the value that he leaves out.
+    // To a database, Null is not unequal to anything, but to the user it differs from the excluded value.
     if (condition.fault.isEmpty() && choice.includesNull)
         condition.sql = u'(' + condition.sql + " OR "_L1 + asked.field.written + " IS NULL)"_L1;
     return condition;

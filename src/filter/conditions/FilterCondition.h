@@ -15,27 +15,27 @@ namespace KOVAVSFDataGridLib {
 
 struct FilterField
 {
-    QString caption; // as the user reads it
-    QString written; // as it stands in a statement
+    QString caption; // as shown to the user
+    QString written; // its form in SQL
     FieldClass fieldClass = FieldClass::Text;
-    std::optional<FloatSize> floatSize = {}; // of a number that is a float
-    bool isComputed = false;                 // from no column of a table
-    bool isUntyped = false;                  // of SQLite: each value has a type of its own
-    bool isMoney = false;                    // a number that is an amount of money to the database
+    std::optional<FloatSize> floatSize = {}; // for floating point numbers
+    bool isComputed = false;                 // not from a table column
+    bool isUntyped = false;                  // in SQLite: each value has its own type
+    bool isMoney = false;                    // a number with the database's money type
 };
 
-// What one row of the builder says.
+// The contents of one row of the builder.
 struct FilterChoice
 {
     FilterField field;
     FilterOperator op = FilterOperator::Equals;
     QString value = {};
-    QString lastValue = {}; // of "between"
+    QString lastValue = {}; // for "between"
     bool isNegated = false;
-    // Whether records without a value are selected too, where the values named are left out.
+    // Whether records without a value are included if the given values are excluded.
     bool includesNull = true;
 
-    // Whether the values named are left out: by the operator, or by the negation of one that selects them.
+    // Whether the given values are excluded: by the operator, or by negating one that includes them.
     bool leavesOut() const { return isNegative(op) != isNegated; }
     // Whether includesNull has a meaning.
     bool asksForNull() const { return leavesOut() && positiveOf(op) != FilterOperator::IsEmpty; }
@@ -45,22 +45,22 @@ struct FilterChoice
 struct FilterScope
 {
     QDate today = QDate::currentDate();
-    // The records that operators compare with each other. Without them, a condition that needs them is at
-    // fault.
+    // The records that operators compare with each other. Without them, a condition that needs them is an
+    // error.
     std::optional<FilterSql::Records> records = {};
 };
 
-// A condition, or in one line why there is none.
+// A condition, or a one-line reason why there is none.
 struct FilterCondition
 {
     QString sql;
     QString fault;
-    bool isLastValueAtFault = false; // rather than the only or the first one
+    bool isLastValueAtFault = false; // and not the only or first one
 };
 
 FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &choice,
                             const FilterScope &scope = {});
-// Selects exactly the records that the other one doesn't.
+// Selects exactly the records that the other condition doesn't.
 FilterCondition complementOf(const Dialect &dialect, const FilterChoice &choice,
                              const FilterScope &scope = {});
 

@@ -47,7 +47,7 @@ std::optional<DayRange> yearOf(int year)
     return rangeOf({year, 1, 1}, {year + 1, 1, 1});
 }
 
-// The days that a word means. Synonyms and the English words are understood in every language.
+// The days that a word means. Synonyms and the English words are accepted in every language.
 struct RelativeWord
 {
     Text word;
@@ -90,7 +90,7 @@ QString narrow(const QString &typed)
     return typed.normalized(QString::NormalizationForm_KC).trimmed();
 }
 
-// N days up to today, today among them.
+// N days up to and including today.
 std::optional<DayRange> readLastDays(const QString &text, QDate today)
 {
     static const QRegularExpression form(
@@ -158,7 +158,7 @@ std::optional<DayRange> readDays(const QString &typed, QDate today)
 
 bool areRelativeDays(const QString &typed)
 {
-    // Any two days whose years, months and weeks differ tell them apart.
+    // Reads the text for two dates that differ in year, month and week.
     return readDays(typed, {2001, 1, 1}) != readDays(typed, {2003, 6, 11});
 }
 

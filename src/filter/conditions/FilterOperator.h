@@ -29,31 +29,31 @@ enum class FilterOperator {
     NotInList,
     NotBetween,
     Duplicated, // the value occurs in several records
-    Top,        // among the N largest values; of texts, those that come first in their order
-    Bottom      // among the N smallest values; of texts, the last ones
+    Top,        // one of the N largest values; for texts, the first ones in order
+    Bottom      // one of the N smallest values; for texts, the last ones
 };
 
-// Those that make sense for a field's class, the usual ones first.
+// The operators that make sense for a class of fields, the common ones first.
 QList<FilterOperator> operatorsFor(FieldClass fieldClass);
 
-// How many values are to be typed: 0, 1 or 2. A list is one text.
+// The number of values to type: 0, 1 or 2. A list is one text.
 int valueCount(FilterOperator op);
 
-// Whether it compares with all other records, for which they must be known.
+// Whether it compares a record with all others, which must therefore be known.
 bool comparesRecords(FilterOperator op);
 
-// Whether its value is a number of values rather than one of the field's.
+// Whether its value is a number of values instead of a field value.
 bool takesCount(FilterOperator op);
 
-// The operator that selects what this one doesn't, where there is one: it is negative when it leaves out the
-// values that it names.
+// The operator that selects the other records, if there is one. The negative one is the one that excludes the
+// given values.
 bool isNegative(FilterOperator op);
 FilterOperator positiveOf(FilterOperator op);
 
-// As the user reads it.
+// Its name for the user.
 QString captionOf(FilterOperator op);
 
-// A name for files that doesn't change with the texts, and the operator of such a name.
+// A name for files that doesn't depend on the language, and the reverse.
 QString nameOf(FilterOperator op);
 std::optional<FilterOperator> operatorNamed(const QString &name);
 

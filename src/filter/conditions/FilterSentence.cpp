@@ -49,7 +49,7 @@ QString listInWords(const FilterChoice &choice, QDate today)
 QString choiceInWords(const FilterChoice &choice, QDate today)
 {
     const FilterOperator op = choice.op;
-    const bool isText = choice.field.fieldClass == FieldClass::Text; // then values are in quotes
+    const bool isText = choice.field.fieldClass == FieldClass::Text; // if so, values are in quotes
     const QString field = FilterTexts::FieldInSentence.arg(choice.field.caption);
     const auto value = [&](const QString &typed) {
         return wordsOfValue(choice.field.fieldClass, typed, today);
@@ -89,7 +89,7 @@ class Sentence
 public:
     Sentence(const QList<SentenceTerm> &terms, QDate today) : m_terms(terms), m_today(today) {}
 
-    // A group's parts, those that are groups in brackets.
+    // The parts of a group; nested groups are in brackets.
     QString partsOf(const FilterNode &group) const
     {
         QStringList words;

@@ -7,22 +7,22 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A choice of the builder with its place among the others.
+// A choice of the builder and its place in the brackets.
 struct SentenceTerm
 {
     FilterChoice choice;
     int opens = 0;
     int closes = 0;
     bool orNext = false;
-    int negatedOpens = 0; // as in FilterSql::Term
+    int negatedOpens = 0; // see FilterSql::Term
 };
 
-// The choices as one Chinese sentence. Relative days are followed by the days that they mean now. Where
-// “并且” and “或者” meet without brackets, brackets show how databases read them. Empty where brackets don't
+// The choices as one sentence. Relative days are followed by the dates that they currently mean. Where “并且”
+// and “或者” are mixed without brackets, brackets are added that show the precedence. Empty if brackets don't
 // match.
 QString sentenceOf(const QList<SentenceTerm> &terms, QDate today);
 
-// The terms of rows over these fields; a field that isn't there is taken for one of texts.
+// The terms for rows over these fields. A field that doesn't exist is treated as a text field.
 QList<SentenceTerm> termsOf(const FilterState &rows, const std::vector<FilterField> &fields);
 
 } // namespace KOVAVSFDataGridLib

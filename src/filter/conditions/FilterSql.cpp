@@ -13,7 +13,7 @@ QString isNotNull(const QString &field)
     return field + " IS NOT NULL"_L1;
 }
 
-// The words of inner SELECTs follow line breaks, so that text work on a statement finds only the outer ones.
+// A line break before the words of inner SELECTs makes sure that plain text work finds only the outer ones.
 QString fromRecords(const Records &records, const QString &hasValue)
 {
     const QString restricted =
@@ -62,8 +62,8 @@ QString isAmongFirst(const Dialect &dialect, const QString &field, const Records
 {
     const RowLimit limit = rowLimit(dialect, first.count);
     const QString hasValue = first.areTexts ? isNotEmptyText(dialect, field) : isNotNull(field);
-    // A table of its own, because MariaDB limits no SELECT that IN reads directly. Its name says how to put
-    // it in words.
+    // A derived table, because MariaDB doesn't allow LIMIT in a SELECT directly inside IN. Its name tells how
+    // to put it into words.
     return field + " IN (SELECT KovaValue\nFROM (SELECT "_L1 + limit.beforeList + field + " AS KovaValue"_L1 +
            fromRecords(records, hasValue) + "\nORDER BY "_L1 + field +
            (first.isDescending ? " DESC"_L1 : ""_L1) + limit.behindSort +
@@ -89,7 +89,7 @@ QString join(const QList<Term> &terms)
 
 qsizetype unmatchedBracket(const QList<Term> &terms)
 {
-    QList<qsizetype> open; // the terms that opened the brackets not closed yet
+    QList<qsizetype> open; // the terms with brackets that are still open
     for (qsizetype i = 0; i < terms.size(); ++i) {
         open.append(QList<qsizetype>(terms.at(i).opens, i));
         for (int closed = 0; closed < terms.at(i).closes; ++closed) {

@@ -6,7 +6,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What a row of the builder holds, in the words that were typed: relative days stay relative.
+// The contents of a row of the builder, as typed: relative days stay relative.
 struct FilterRowState
 {
     QString field = {}; // by its caption
@@ -18,14 +18,14 @@ struct FilterRowState
     int opens = 0;
     int closes = 0;
     bool orNext = false;
-    int negatedOpens = 0; // as in FilterSql::Term
+    int negatedOpens = 0; // see FilterSql::Term
 
     bool operator==(const FilterRowState &) const = default;
 };
 
 using FilterState = QList<FilterRowState>;
 
-// As it is kept in files. What can't be read as rows gives nothing.
+// The form for files. Reading invalid data returns no value.
 QJsonArray toJson(const FilterState &state);
 std::optional<FilterState> filterStateOf(const QJsonValue &json);
 

@@ -12,14 +12,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString listSeparators = uR"(,，、;；\t\r\n\x{2028}\x{2029})"_s; // as a regular expression has them
+const QString listSeparators = uR"(,，、;；\t\r\n\x{2028}\x{2029})"_s; // in the syntax of regular expressions
 
 QString narrow(const QString &typed)
 {
     return typed.normalized(QString::NormalizationForm_KC).trimmed();
 }
 
-// Written as typed, so that no digit of a long number is lost.
+// Keeps the digits as typed, so that none of a long number is lost.
 std::optional<QString> plainNumber(const QString &typed)
 {
     static const QRegularExpression form(uR"(\A\+?(-?[0-9]+(?:\.[0-9]+)?(?:[eE][-+]?[0-9]+)?)\z)"_s);
@@ -55,15 +55,15 @@ std::optional<FilterValue> readBoolean(const QString &typed)
 
 struct TypedTime
 {
-    QTime time;    // invalid when the text is none
-    QString finer; // decimals after the milliseconds, as a database can have them
+    QTime time;    // invalid if the text is not a time
+    QString finer; // decimals after the milliseconds, which a database can store
 
     bool isMidnight() const { return time == QTime(0, 0) && finer.isEmpty(); }
 };
 
 TypedTime readTime(const QString &text)
 {
-    // No database keeps more than nine decimals of a second.
+    // No database stores more than nine decimals of a second.
     static const QRegularExpression form(
         uR"(\A([0-9]{1,2}):([0-9]{2})(?::([0-9]{2})(?:\.(?=[0-9]{1,9}\z)([0-9]{1,3})([0-9]*?)0*)?)?\z)"_s);
     const auto match = form.match(text);
@@ -87,9 +87,9 @@ double rankOf(const QDateTime &moment)
 
 struct MomentParts
 {
-    QDate day;    // invalid when the text does not begin with one
-    QString time; // what follows it, but for the zone
-    QString zone; // an offset such as +08 or -03:30, where there is one
+    QDate day;    // invalid if the text does not begin with a date
+    QString time; // the rest of the text, without the zone
+    QString zone; // an offset such as +08 or -03:30, if there is one
 };
 
 MomentParts splitMoment(const QString &typed)
@@ -97,7 +97,7 @@ MomentParts splitMoment(const QString &typed)
     static const QRegularExpression form(
         uR"(\A([^ T]*)(?:[ T]+(.*?) ?([Zz]|[-+][0-9]{2}(?::?[0-9]{2}){0,2})?)?\z)"_s);
     const auto match = form.match(narrow(typed).replace(u'−', u'-'));
-    // Relative days and months are no one day, whatever day it is today.
+    // Relative days and months are never a single day.
     const auto days = readDays(match.captured(1), {});
     const bool isDay = days && days->first.addDays(1) == days->end;
     const QString zone = match.captured(3);
@@ -105,7 +105,7 @@ MomentParts splitMoment(const QString &typed)
             zone.compare(u'Z', Qt::CaseInsensitive) == 0 ? u"+00"_s : zone};
 }
 
-// What a clock in such a zone is ahead of UTC.
+// The zone's offset from UTC.
 int secondsOf(const QString &zone)
 {
     const QString digits = zone.sliced(1).remove(u':').leftJustified(6, u'0');
@@ -138,7 +138,7 @@ std::optional<FilterValue> readMoment(const Dialect &dialect, const QString &typ
                        .lastRank = rankOf(moment)};
 }
 
-// A day, or a day with a time and perhaps a zone.
+// A date, possibly with a time and a zone.
 std::optional<QString> plainMoment(const QString &typed, QDate today)
 {
     const auto days = readDays(typed, today);

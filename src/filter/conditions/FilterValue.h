@@ -9,52 +9,52 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A typed value as it stands in a condition.
+// A typed value in the form for a condition.
 struct FilterValue
 {
     QString literal = {};
-    // Only where the text means more than one value, as a month does, or a day where moments are compared:
-    // the literal is then the first of them, and this is the day that follows the last of them.
+    // Set if the text means a range: a month, or a day if timestamps are compared. The literal is then the
+    // start of the range, and this is the day after its end.
     QString nextDay = {};
-    NumberRange shownAlike = {}; // of a float: what is shown like the number
-    bool isTrue = false;         // of a Boolean
-    // For finding which of two values is larger, where that is known: the first and the last one meant.
+    NumberRange shownAlike = {}; // for floating point: the range of numbers that are shown like this one
+    bool isTrue = false;         // for a Boolean
+    // For comparing two values, if that is possible: the first and the last one that the text means.
     std::optional<double> rank = {};
     std::optional<double> lastRank = {};
 };
 
-// Nothing when the text is no value of that class. Digits and signs may be full-width, as Chinese input
-// methods give them. Text is taken as it was typed, with its blanks. Relative days are those seen from
-// `today`.
+// No value if the text is not a value of that class. Digits and signs
+// may be full-width, as typed with Chinese input methods. Texts are used
+// as typed, including blanks. Relative days are relative to `today`.
 std::optional<FilterValue> readFilterValue(const Dialect &dialect, FieldClass fieldClass,
                                            const QString &typed, QDate today);
 
-// The same text as a field takes it: 12 for full-width digits, 2024-03-01 for 2024年3月1日. Nothing when the
-// text is no value of that class, or means more than one, as a month does. Text is taken as it was typed.
+// The text in the form for a field: 12 for full-width digits, 2024-03-01 for 2024年3月1日. No value if it is
+// not a value of that class, or means a range such as a month. Texts are used as typed.
 std::optional<QString> plainValue(FieldClass fieldClass, const QString &typed, QDate today);
 
-// A value in the words that users pick it by, in their language: yes or no for a Boolean. Any other text
-// stays as it is.
+// A value as shown to users who choose it, in their language: yes or no for a Boolean. Any other text is
+// unchanged.
 QString valueInWords(FieldClass fieldClass, const QString &typed);
 
-// A number of values, from 1; nothing when the text is none.
+// A number of values, at least 1; no value if the text is not one.
 std::optional<int> readFilterCount(const QString &typed);
 
-// The day that a text is or begins with; invalid when there is none.
+// The date that a text is or begins with; invalid if there is none.
 QDate dayOf(const QString &typed);
 
-// Whether a text is a moment, and not the first one of its day.
+// Whether a text is a timestamp with a time other than 0:00.
 bool hasTimeOfDay(const QString &typed);
 
-// What to tell somebody who typed no such value.
+// The message for a text that is not such a value.
 QString whyNoFilterValue(FieldClass fieldClass, const QString &typed);
 
-// The values of a list. They are separated by commas, narrow or full-width, by "、" or "；", or, as cells
-// copied from a spreadsheet are, by tabs or line breaks. One in double quotes may hold these itself. Empty
-// values are left out.
+// The values of a list. They are separated by commas (ASCII or full-width), "、" or "；", or by tabs or line
+// breaks as in cells copied from a spreadsheet. A value in double quotes may contain these itself. Empty
+// values are skipped.
 QStringList splitFilterList(const QString &typed);
 
-// A value as it can be typed into a list.
+// A value in the form for such a list.
 QString filterListItem(const QString &value);
 
 } // namespace KOVAVSFDataGridLib

@@ -57,7 +57,7 @@ FilterCondition withoutNamed(const Dialect &dialect, const FilterField &field, c
                        scope);
 }
 
-// A number field that can hold texts: they are compared as such.
+// A number field that can contain texts: the values are compared as texts.
 FilterField fieldOf(const Dialect &dialect, const FilterField &field, const TickedValues &ticked)
 {
     FilterField made = field;
@@ -89,7 +89,7 @@ FilterCondition conditionOf(const Dialect &dialect, const FilterField &tickedFie
     }
     FilterCondition condition = ticked.areLeftOut ? withoutNamed(dialect, field, ticked, scope)
                                                   : namedOf(dialect, field, ticked, scope);
-    // Null is in no list and differs from nothing.
+    // Null is in no list and not unequal to anything.
     if (condition.fault.isEmpty() && ticked.hasNull == true)
         condition.sql = u'(' + condition.sql + " OR "_L1 + empty.sql + u')';
     return condition;

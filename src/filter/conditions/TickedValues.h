@@ -9,13 +9,13 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Which values of a field a user has ticked in a list: those named, or all but those.
+// The values of a field that a user has ticked in a list: the given ones, or all except those.
 struct TickedValues
 {
-    bool areLeftOut = true; // whether the values named are those without a tick
-    // As they can be typed for the field. A day, but also a month (2024-03) or a year (2024年, 2024) of days.
+    bool areLeftOut = true; // whether the given values are those without a tick
+    // In the form for typing. For dates, also a month (2024-03) or a year (2024年, 2024).
     QStringList values = {};
-    // Whether records without a value are ticked; nothing where there are no such records.
+    // Whether records without a value are ticked; no value if there are none.
     std::optional<bool> hasNull = {};
 
     // Whether they select all records, or none.
@@ -25,15 +25,15 @@ struct TickedValues
     bool operator==(const TickedValues &) const = default;
 };
 
-// The records with a ticked value. It is one condition for the reader of a statement: no AND joins its parts.
-// Empty when all records are ticked, and at fault when none is.
+// Selects the records with a ticked value. It is a single condition: its parts are not joined by AND. Empty
+// if all are ticked, and an error if none is.
 FilterCondition conditionOf(const Dialect &dialect, const FilterField &field, const TickedValues &ticked,
                             const FilterScope &scope = {});
 
-// The values as one text that can be typed into a list; see splitFilterList.
+// The values as a text that can be typed as a list; see splitFilterList.
 QString listOf(const TickedValues &ticked);
 
-// As it is kept with a statement. What can't be read gives everything.
+// The form for storing with a statement. Invalid data means everything.
 QJsonObject toJson(const TickedValues &ticked);
 TickedValues tickedValuesOf(const QJsonObject &json);
 

@@ -16,29 +16,29 @@ class Connection;
 
 namespace KOVAVSFDataGridLib {
 
-// How the records that meet a condition are counted.
+// How to count the records that meet a condition.
 struct CountRequest
 {
-    std::shared_ptr<ADODB::Connection> connection; // used by nobody else meanwhile; opened if it is closed
+    std::shared_ptr<ADODB::Connection> connection; // not used by others meanwhile; opened if it is closed
     QString connectionString;
-    QString statement;   // for one number
-    bool isHere = false; // the connection is shared: it is used in the caller's thread only
+    QString statement;   // returns one number
+    bool isHere = false; // the connection is shared: it is used only in the caller's thread
 };
 
-// Counts them in a thread of its own, which ends with this object, or at once where the connection is shared.
-// Who waits for that has to wait no longer than a moment: then it is given up.
+// Counts the records in a separate thread, which ends with this object, or immediately if the connection is
+// shared. In that case the count is abandoned after a moment.
 class CountReading final : public QObject
 {
     Q_OBJECT
 
 public:
     explicit CountReading(CountRequest request);
-    // Stops the counting. A server that does not answer takes a moment.
+    // Stops the counting. If a server does not respond, this takes a moment.
     ~CountReading() override;
 
-    // Waits that many milliseconds for the end.
+    // Waits for the end, at most that many milliseconds.
     bool waitForEnd(int milliseconds);
-    // Nothing before the end, and where they can't be counted: then failure() says why.
+    // No value before the end, or if counting failed: failure() then returns the reason.
     std::optional<qint64> count() const;
     QString failure() const;
 

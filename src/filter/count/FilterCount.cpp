@@ -50,7 +50,7 @@ void FilterCount::stop()
 
 void FilterCount::begin()
 {
-    constexpr int patience = 50; // milliseconds before it says that it counts
+    constexpr int patience = 50; // milliseconds before it shows that it is counting
     try {
         auto request = m_source ? m_source() : std::nullopt;
         if (!request)

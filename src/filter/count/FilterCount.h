@@ -12,8 +12,8 @@ class QToolButton;
 
 namespace KOVAVSFDataGridLib {
 
-// Says how many records meet the condition of a builder. They are counted in the background a moment after
-// the last change, and a button ends a count that takes long.
+// Shows how many records meet the condition of a builder. They are counted in the background shortly after
+// the last change; a button cancels a count that takes long.
 class FilterCount final : public QWidget
 {
     Q_OBJECT
@@ -23,12 +23,12 @@ public:
 
     explicit FilterCount(QWidget *parent = nullptr);
 
-    // How the condition that is there now is counted; nothing where there is none to count. May throw
+    // Returns how to count the current condition; no value if there is nothing to count. May throw
     // ADODB::Error.
     void setSource(std::function<std::optional<CountRequest>()> source) { m_source = std::move(source); }
-    // The condition has changed: what was counted is no longer true.
+    // The condition has changed: the count is no longer valid.
     void restart();
-    // Ends a count that is under way.
+    // Cancels a count in progress.
     void stop();
 
 private:

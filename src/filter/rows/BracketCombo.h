@@ -4,8 +4,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The brackets before or after a condition. The usual ones are offered; others become an entry when they are
-// needed.
+// The brackets before or after a condition. The common
+// ones are offered; others are added when needed.
 class BracketCombo final : public QComboBox
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
 
     BracketCombo(Side side, const QString &name, QWidget *parent);
 
-    // `negated` as in FilterSql::Term.
+    // `negated`: see FilterSql::Term.
     void put(int brackets, int negated = 0);
     int brackets() const { return currentData().toPoint().x(); }
     int negated() const { return currentData().toPoint().y(); }

@@ -31,7 +31,7 @@ void FilterGrip::keyPressEvent(QKeyEvent *event)
         m_isDragging = false;
         Q_EMIT cancelled();
     } else
-        QWidget::keyPressEvent(event); // there is nothing to be pressed
+        QWidget::keyPressEvent(event); // there is nothing to press
 }
 
 void FilterGrip::mousePressEvent(QMouseEvent *event)
@@ -50,7 +50,7 @@ void FilterGrip::mouseReleaseEvent(QMouseEvent *event)
     if (!m_isDragging || event->button() != Qt::LeftButton)
         return;
     m_isDragging = false;
-    // A click that doesn't leave the grip moves nothing.
+    // A drag that stays on the grip moves nothing.
     if (rect().contains(event->position().toPoint()))
         Q_EMIT cancelled();
     else

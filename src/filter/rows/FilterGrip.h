@@ -4,7 +4,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What a line of a tree is taken by to be moved: dragged by the mouse, or by the arrow keys.
+// The handle for moving a line of a tree: by dragging it, or with the arrow keys.
 class FilterGrip final : public QAbstractButton
 {
     Q_OBJECT
@@ -15,9 +15,9 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    // By the keys: one place up (-1) or down (1).
+    // By keys: one line up (-1) or down (1).
     void stepped(int by);
-    // By the mouse; places are on the screen.
+    // By mouse; in screen coordinates.
     void dragged(const QPoint &place);
     void dropped(const QPoint &place);
     void cancelled();

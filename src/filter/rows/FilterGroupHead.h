@@ -11,7 +11,7 @@ namespace KOVAVSFDataGridLib {
 
 class FilterGrip;
 
-// The heading of a group of conditions: how many of them have to be met, and what can be done with the group.
+// The heading of a group of conditions: how many of them must be met, and commands for the group.
 class FilterGroupHead final : public QWidget
 {
     Q_OBJECT
@@ -19,11 +19,11 @@ class FilterGroupHead final : public QWidget
 public:
     explicit FilterGroupHead(QWidget *parent = nullptr);
 
-    // Counted from 1; the first one, on level 0, is the outermost, which can be neither moved nor dissolved.
+    // Numbered from 1. The first one, on level 0, is the outermost, which can't be moved or dissolved.
     void setPlace(int number, int level, FilterNode::Kind kind);
     FilterNode::Kind kind() const;
     FilterGrip &grip() const { return *m_grip; }
-    // The tab key walks through this heading after `previous`; the answer is its last part.
+    // Puts its parts into the tab order after `previous`, and returns the last one.
     QWidget *followInTabOrder(QWidget *previous);
     QWidget *lastPart() const;
 
@@ -39,7 +39,7 @@ private:
     QToolButton *m_dissolve;
 };
 
-// How far the lines of a level are indented.
+// The indentation of lines on a level.
 int indentOf(const QWidget &widget, int level);
 
 } // namespace KOVAVSFDataGridLib

@@ -69,7 +69,7 @@ void FilterRow::offerValues(ValueEdit &edit)
         m_context->offerValues(field(), edit);
 }
 
-// All values but some are those that are not in a list; the tick for Null says whether the list has it.
+// "All except" is written as "not in list"; the check box for Null tells whether the list contains it.
 void FilterRow::pickList()
 {
     const QPointer<FilterRow> alive(this);
@@ -106,7 +106,7 @@ void FilterRow::onFieldChanged()
         }
         m_operator->setCurrentIndex(std::max(0, m_operator->findData(previous)));
     }
-    // Another field has other values.
+    // Another field has different values.
     if (!m_suggested.isEmpty() && m_value->text() == m_suggested)
         m_value->clear();
     m_suggested.clear();
@@ -146,7 +146,7 @@ bool FilterRow::isStarted() const
     return count > 0 && !m_value->text().isEmpty() && (count == 1 || !m_lastValue->text().isEmpty());
 }
 
-// Who leaves a value hears what is wrong with it, but not that a value is still missing.
+// When the user leaves a value, an error in it is shown, but not that it is still empty.
 void FilterRow::onEditingFinished()
 {
     if (isStarted())
@@ -200,7 +200,7 @@ bool FilterRow::setState(const FilterRowState &state)
     m_operator->setCurrentIndex(opIndex);
     m_value->setText(valueInWords(field().fieldClass, state.value));
     m_lastValue->setText(valueInWords(field().fieldClass, state.lastValue));
-    m_value->selectAll(); // what is typed next takes its place
+    m_value->selectAll(); // selected, so that typing replaces it
     m_lastValue->selectAll();
     m_not->setChecked(state.isNegated);
     m_withNull->setChecked(state.includesNull);

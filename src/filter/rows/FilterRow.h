@@ -22,24 +22,24 @@ class FilterGrip;
 class FilterValues;
 class ValueEdit;
 
-// What the rows of a builder are made for.
+// The common input for the rows of a builder.
 struct FilterRowContext
 {
     std::vector<FilterField> fields;
     Dialect dialect;
-    // Shows the values that a field has in a list of the editor; see ValueEdit.
+    // Shows the values of a field in a list of the editor; see ValueEdit.
     std::function<void(const FilterField &, ValueEdit &)> offerValues;
-    // Asks which of a field's values a list names, beginning with those that it names already; nothing when
-    // the user cancels.
+    // Lets the user choose the values of a list, starting with those already in it; no value if the user
+    // cancels.
     std::function<std::optional<TickedValues>(const FilterField &, const TickedValues &)> askTicks = {};
-    // The records that are filtered; without them no operator compares records.
+    // The filtered records; without them, no operator compares records.
     std::optional<FilterSql::Records> records = {};
     std::function<QDate()> today = QDate::currentDate;
 
     FilterScope scope() const { return {today(), records}; }
 };
 
-// One condition: brackets, field, operator, values, and how it goes on with the next one.
+// One condition: brackets, field, operator, values, and how it is joined to the next one.
 class FilterRow final : public QWidget
 {
     Q_OBJECT
@@ -47,20 +47,20 @@ class FilterRow final : public QWidget
 public:
     explicit FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *parent = nullptr);
 
-    // Gives the parts their names; counted from 1.
+    // Sets the object names of the parts; `number` is from 1.
     void setNumber(int number);
-    // Whether a further row follows, and whether the row may be deleted.
+    // Whether another row follows, and whether the row may be deleted.
     void setPlace(bool isLast, bool isOnly);
-    // In a tree the row is indented and can be moved, and the groups around it say how it is joined; without
-    // a level it has brackets and a join of its own.
+    // In a tree, the row is indented and can be moved, and the groups around it determine how it is joined.
+    // Without a level, it has brackets and its own join.
     void setLevel(std::optional<int> level);
     FilterGrip &grip() const { return *m_grip; }
-    // The tab key walks through this row after `previous`; the answer is its last part.
+    // Puts its parts into the tab order after `previous`, and returns the last one.
     QWidget *followInTabOrder(QWidget *previous);
     QWidget *lastPart() const;
 
-    // What the row holds now, and the same put into it. False, and the row stays as it is, when its field or
-    // operator isn't offered.
+    // The contents of the row, and the reverse. Returns false and changes nothing if the field or operator
+    // isn't offered.
     FilterRowState state() const;
     bool setState(const FilterRowState &state);
     FilterChoice choice() const;
@@ -69,12 +69,12 @@ public:
     // Begins with a field, and with a value that the next text typed replaces; without a value the keyboard
     // goes to the operator.
     void suggest(const QString &field, const QString &value);
-    // The row's condition as it stands now, or that of all other records; without touching what is shown.
+    // The row's current condition, or that of all other records. Does not change what is shown.
     FilterCondition condition(bool isComplement = false) const;
-    // The same, and shows what is wrong with it.
+    // The same, but also shows an error.
     FilterCondition checkedCondition();
     void showFault(const QString &fault);
-    // A fault of the brackets is one of all rows together, so a change in any row takes it away.
+    // An error in the brackets concerns all rows, so a change in any row clears it.
     void clearBracketFault();
     // Brackets and join, with an empty condition.
     FilterSql::Term frame() const;
@@ -86,7 +86,7 @@ public:
 Q_SIGNALS:
     void changed();
     void deleteRequested();
-    // The row shall be in a group of its own.
+    // The user wants to put the row into a new group.
     void encloseRequested();
 
 private:
@@ -118,7 +118,7 @@ private:
     QLabel *m_to;
     ValueEdit *m_lastValue;
     QCheckBox *m_withNull;
-    FilterValues *m_values = nullptr; // around these four
+    FilterValues *m_values = nullptr; // contains these four
     BracketCombo *m_closes;
     QComboBox *m_join;
     QToolButton *m_enclose;
@@ -127,8 +127,8 @@ private:
     bool m_isLast = true;
     int m_number = 1;
     QLabel *m_fault;
-    ValueEdit *m_valueAtFault; // what was last found wrong
-    QString m_suggested;       // the value that suggest() put in
+    ValueEdit *m_valueAtFault; // the one with the last error found
+    QString m_suggested;       // the value set by suggest()
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -15,14 +15,14 @@
 
 #include <algorithm>
 
-// The parts of a row of the builder and their places.
+// Creates and arranges the parts of a row of the builder.
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// As many of the letters that a combo box counts as the widest comparison has.
+// The width of the widest comparison, in the characters that a combo box counts.
 int lettersOfOperators(const QWidget &widget)
 {
     const QFontMetrics metrics = widget.fontMetrics();
@@ -66,14 +66,14 @@ void FilterRow::makeParts()
 
 void FilterRow::layOut()
 {
-    // Small enough for a screen of 800 pixels; the dialog is wider where there is room. Widths that do not
-    // depend on a row's contents, so that the rows stand in columns.
+    // Small enough for a screen of 800 pixels; the dialog is wider if there is room. The widths do not depend
+    // on a row's contents, so the rows are aligned.
     m_field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_field->setMinimumWidth(widthOfDigits(*this, 9));
     m_operator->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_operator->setMinimumContentsLength(lettersOfOperators(*this));
     m_operator->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    m_operator->setMinimumWidth(widthOfDigits(*this, 11)); // where the window is narrow
+    m_operator->setMinimumWidth(widthOfDigits(*this, 11)); // for a narrow window
     const std::initializer_list<QWidget *> before = {m_grip, m_opens, m_not, m_field, m_operator};
     const std::initializer_list<QWidget *> after = {m_closes, m_join, m_enclose, m_delete};
     int lineHeight = 0;
@@ -86,7 +86,7 @@ void FilterRow::layOut()
     grid->setContentsMargins({});
     grid->setVerticalSpacing(2);
     int column = 0;
-    // All on the first line of the values, of which there can be several.
+    // All are aligned with the first line of the values, of which there can be several.
     const auto place = [&](QWidget *part) {
         part->setMinimumHeight(lineHeight);
         grid->addWidget(part, 0, column++, Qt::AlignTop);
@@ -144,7 +144,7 @@ void FilterRow::setNumber(int number)
     nameGrip();
 }
 
-// With the row's place, so that screen readers speak a move.
+// Includes the row's position, so that screen readers announce a move.
 void FilterRow::nameGrip()
 {
     m_grip->setAccessibleName(FilterTexts::MoveRow.arg(m_number).arg(m_level.value_or(0)));
@@ -170,7 +170,7 @@ void FilterRow::placeParts()
         part->setVisible(!m_level);
     for (QWidget *part : std::initializer_list<QWidget *>{m_grip, m_enclose})
         part->setVisible(m_level.has_value());
-    // Room for a join also in the last row, so that the rows stand in columns.
+    // The last row reserves room for a join too, so that the rows are aligned.
     QSizePolicy staying = m_join->sizePolicy();
     staying.setRetainSizeWhenHidden(!m_level);
     m_join->setSizePolicy(staying);

@@ -21,7 +21,7 @@ FilterRows::FilterRows(QWidget *parent)
     m_dropMark->setLineWidth(2);
     m_dropMark->hide();
     m_layout->addStretch();
-    m_heads.append(newHead()); // before the rows, as the tab key finds it
+    m_heads.append(newHead()); // before the rows, for the tab order
     start(std::make_shared<FilterRowContext>());
 }
 
@@ -32,7 +32,7 @@ void FilterRows::start(std::shared_ptr<const FilterRowContext> context)
     m_outline.reset();
     const QList<FilterRow *> previous = std::exchange(m_rows, {});
     FilterRow *first = add();
-    // Between what stands before and behind the rows, which a new part alone would come after.
+    // In tab order, between the widgets before and after the rows; new parts would be last.
     if (!previous.isEmpty())
         first->followInTabOrder(previous.constLast()->lastPart());
     qDeleteAll(previous);
@@ -70,14 +70,14 @@ void FilterRows::remove(FilterRow *row)
         m_outline->removeRow(at);
         m_rows.removeAt(at);
     } else {
-        // Brackets that reach beyond the row stay around what is left.
+        // Brackets that include other rows too are kept around the remaining ones.
         const auto tree = treeOf(frames());
         const auto left = tree ? withRows(*tree, [at](qsizetype each) { return each != at; }) : std::nullopt;
         if (left)
             setFrames(flatOf(*left));
         m_rows.removeAt(at);
     }
-    // Its parts must not be found any more, but the click that brought this about is still under way in it.
+    // Its parts must no longer be found, but the click that caused this is still in progress.
     row->hide();
     row->setParent(nullptr);
     row->deleteLater();
@@ -139,7 +139,7 @@ std::optional<QString> FilterRows::setState(const FilterState &state)
             break;
         }
     }
-    // Either those before or those just made go.
+    // Removes either the old or the new rows.
     const qsizetype first = missing ? before : 0;
     const qsizetype count = missing ? m_rows.size() - before : before;
     for (FilterRow *gone : m_rows.mid(first, count)) {
@@ -158,7 +158,7 @@ void FilterRows::suggest(const QString &field, const QString &value)
     m_rows.constFirst()->suggest(field, value);
 }
 
-// Of the rows that have a condition; nothing while brackets don't match.
+// The rows that have a condition; no value if brackets don't match.
 std::optional<FilterNode> FilterRows::completeTree() const
 {
     const auto tree = treeOf(frames());

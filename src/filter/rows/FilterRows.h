@@ -10,8 +10,8 @@ namespace KOVAVSFDataGridLib {
 
 class FilterGroupHead;
 
-// The rows of a builder, one below the other; there is always at least one. They have brackets, or are shown
-// as a tree of groups, which says the same.
+// The rows of a builder, one below another; there is always at least one. They have brackets, or are shown as
+// an equivalent tree of groups.
 class FilterRows final : public QWidget
 {
     Q_OBJECT
@@ -19,17 +19,17 @@ class FilterRows final : public QWidget
 public:
     explicit FilterRows(QWidget *parent = nullptr);
 
-    // Starts again with one row over these fields.
+    // Starts again with a single row for these fields.
     void start(std::shared_ptr<const FilterRowContext> context);
     void startAgain() { start(m_context); }
     FilterRow *add() { return addTo(0); }
     void focusFirstPart();
 
-    // What the rows hold, and the same put into as many rows. When a field or its operator isn't offered, the
-    // field is answered and the rows stay as they are.
+    // The contents of the rows, and the reverse. If a field or its operator isn't offered, PutState returns
+    // the field and changes nothing.
     FilterState state() const;
     std::optional<QString> setState(const FilterState &state);
-    // As FilterRow has it, in the first row.
+    // See FilterRow::suggest; for the first row.
     void suggest(const QString &field, const QString &value);
     // Whether there is only one row, which nothing was typed into.
     bool isBlank() const;
@@ -38,17 +38,17 @@ public:
     // The complete rows as a sentence; empty while their brackets don't match.
     QString sentence() const;
 
-    // Shows the rows as a tree, or with brackets. Where brackets don't match they are marked instead.
+    // Shows the rows as a tree, or with brackets. If brackets don't match, marks them instead.
     void setGrouped(bool on);
     bool isGrouped() const { return m_outline.has_value(); }
-    // Whether “并且” and “或者” meet without brackets, and the brackets that say how they are read.
+    // Whether “并且” and “或者” are mixed without brackets; and adds brackets that show the precedence.
     bool needsBrackets() const;
     void addBrackets();
 
-    // The rows that are complete, joined.
+    // The condition of the complete rows.
     QString preview() const;
-    // All rows joined; empty, with the rows at fault marked and the first of them given the keyboard, when
-    // something is wrong.
+    // The condition of all rows. If there is an error, returns an empty text, marks the rows and moves the
+    // focus to the first one.
     QString checkedText();
 
 Q_SIGNALS:
@@ -61,7 +61,7 @@ private:
     QList<FilterSql::Term> frames() const;
     void setFrames(const QList<FilterPlace> &places);
     std::optional<FilterNode> completeTree() const;
-    // Where isGrouped().
+    // Only if isGrouped().
     FilterOutline &outline() { return *m_outline; }             // NOLINT(bugprone-unchecked-optional-access)
     const FilterOutline &outline() const { return *m_outline; } // NOLINT(bugprone-unchecked-optional-access)
     qsizetype lineOf(const FilterRow *row) const { return outline().lineOf(m_rows.indexOf(row)); }
@@ -70,9 +70,9 @@ private:
     void connectGrip(const FilterGrip &grip, const std::function<qsizetype()> &line);
     struct DropPlace
     {
-        qsizetype before; // a line of the outline
+        qsizetype before; // index of a line of the outline
         int level;
-        int y; // where it is shown
+        int y; // its vertical position
     };
     DropPlace dropPlaceAt(const QPoint &global) const;
     void showDropPlace(const QPoint &global);
@@ -84,9 +84,9 @@ private:
 
     std::shared_ptr<const FilterRowContext> m_context;
     QList<FilterRow *> m_rows;
-    std::optional<FilterOutline> m_outline; // of a tree
+    std::optional<FilterOutline> m_outline; // if shown as a tree
     QList<FilterGroupHead *> m_heads;
-    QList<QWidget *> m_lines; // rows and headings from above
+    QList<QWidget *> m_lines; // rows and headings from top to bottom
     QFrame *m_dropMark;
     QVBoxLayout *m_layout;
 };

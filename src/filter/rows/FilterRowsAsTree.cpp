@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-// The rows of a builder as a tree of groups.
+// Shows the rows of a builder as a tree of groups.
 namespace KOVAVSFDataGridLib {
 
 void FilterRows::setGrouped(bool on)
@@ -63,12 +63,12 @@ void FilterRows::step(qsizetype line, int by)
 {
     const qsizetype now = by < 0 ? outline().moveUp(line) : outline().moveDown(line);
     arrange();
-    // A heading is the one of the group at its place, so that the keyboard has to follow the group.
+    // Headings are reused by position, so the focus must follow the group.
     if (const auto *head = qobject_cast<FilterGroupHead *>(m_lines.at(now)))
         head->grip().setFocus();
 }
 
-// The upper half of a line is the place before it, the lower half the one after it, in it for a group.
+// The upper half of a line means the place before it, the lower half the one after it, or inside a group.
 FilterRows::DropPlace FilterRows::dropPlaceAt(const QPoint &global) const
 {
     const int y = mapFromGlobal(global).y();
@@ -92,7 +92,7 @@ void FilterRows::showDropPlace(const QPoint &global)
     m_dropMark->show();
 }
 
-// As the tree has them, with the brackets that say the same.
+// In the order of the tree, with the equivalent brackets.
 void FilterRows::orderRows()
 {
     QList<FilterRow *> ordered;
@@ -115,7 +115,7 @@ void FilterRows::layOutLines()
         FilterGroupHead *const gone = m_heads.takeLast();
         gone->hide();
         gone->setParent(nullptr);
-        gone->deleteLater(); // a click in it can still be under way
+        gone->deleteLater(); // a click in it can still be in progress
     }
     m_lines.clear();
     int group = 0;

@@ -18,8 +18,8 @@ FilterValues::FilterValues(const Parts &parts, int lineHeight, QWidget *parent)
         part->setParent(this);
         part->show();
     }
-    // A moment with the buttons beside it and the word before it. The same in every row, so that they stand
-    // in columns.
+    // Room for a timestamp, the buttons beside it and the word before it. The same in every row, so that they
+    // are aligned.
     constexpr int digits = 25;
     setMinimumWidth(widthOfDigits(*this, digits) + m_parts.to->sizeHint().width());
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -68,7 +68,7 @@ void FilterValues::arrange()
     setFixedHeight(top + m_lineHeight);
 }
 
-// What grows shares the room that is left.
+// The parts that can grow share the remaining width.
 void FilterValues::placeLine(const std::vector<Place> &line, int top) const
 {
     int left = width();

@@ -11,8 +11,8 @@ namespace KOVAVSFDataGridLib {
 
 class ValueEdit;
 
-// The values of a condition and the tick for records without one: side by side as far as there is room for
-// what is typed into them, else one below the other. The height follows.
+// The values of a condition and the check box for records without one: side by side if there is enough room
+// for typing, else one below another. The height is adjusted.
 class FilterValues final : public QWidget
 {
     Q_OBJECT
@@ -26,10 +26,10 @@ public:
         QCheckBox *withNull;
     };
 
-    // The parts become children; those that are hidden take no room.
+    // The parts become children; hidden ones take no room.
     FilterValues(const Parts &parts, int lineHeight, QWidget *parent);
 
-    // To be called when a part was shown or hidden, or offers something else.
+    // Call it when a part was shown or hidden, or its size hint has changed.
     void arrange();
 
 protected:
@@ -40,7 +40,7 @@ private:
     {
         QWidget *before = nullptr; // a word
         QWidget *part = nullptr;
-        int wanted = 0; // width of both
+        int wanted = 0; // preferred width of both
         bool grows = true;
     };
 

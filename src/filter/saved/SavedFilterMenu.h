@@ -10,20 +10,20 @@ class QMenu;
 
 namespace KOVAVSFDataGridLib {
 
-// Where the saved filters of a table are kept, as a text of SavedFilters. Both are called for each use, as
-// other windows keep filters of the same table.
+// Access to the saved filters of a table, as a text of SavedFilters. Both functions are called for each use,
+// because other windows save filters of the same table.
 struct FilterShelf
 {
     std::function<QString()> read;
     std::function<void(const QString &)> write;
 
     bool isThere() const { return read && write; }
-    // What can't be read any more counts as nothing.
+    // A text that can't be parsed means no filters.
     SavedFilters filters() const;
     void put(const SavedFilters &filters) const { write(filters.toText()); }
 };
 
-// A button with the saved filters of a table, to recall, save, rename and delete them.
+// A button with a menu of a table's saved filters, for applying, saving, renaming and deleting them.
 class SavedFilterMenu final : public QToolButton
 {
     Q_OBJECT
@@ -31,11 +31,11 @@ class SavedFilterMenu final : public QToolButton
 public:
     explicit SavedFilterMenu(QWidget *parent = nullptr);
 
-    // Without a shelf the button hides.
+    // Without a shelf, the button is hidden.
     void setShelf(FilterShelf shelf);
-    // The filter that is there to be saved; nothing while it isn't complete, which the user has been shown.
+    // Returns the filter to save; no value if it isn't complete, after a message to the user.
     void setSource(std::function<std::optional<BuiltFilter>()> source) { m_source = std::move(source); }
-    // How a filter without a name is called.
+    // Returns a description of a filter without a name.
     void setWords(std::function<QString(const BuiltFilter &)> words) { m_words = std::move(words); }
 
 Q_SIGNALS:
@@ -49,8 +49,8 @@ private:
     void save();
     void rename(const QString &name);
     void remove(const QString &name);
-    // Empty when the user cancels, or doesn't want to replace a filter that has the name and isn't called
-    // `own` itself.
+    // Empty if the user cancels, or doesn't want to replace
+    // another filter with that name (other than `own`).
     QString askName(const QString &title, const QString &suggested, const QString &own = {});
 
     FilterShelf m_shelf;

@@ -6,13 +6,13 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The filters that a user keeps for a table, under names, and those that he used last, as a small JSON text:
+// The filters that a user has saved for a table by name, and the last ones used, as a small JSON text:
 //
 //   {"filters":1,
 //    "named":[{"name":"本月的订单","rows":[{"field":"日期","operator":"equals","value":"本月"}]}],
 //    "recent":[{"condition":"金额 > 5"}]}
 //
-// Values are in the words that were typed, so that relative days stay relative.
+// Values are stored as typed, so that relative days stay relative.
 class SavedFilters
 {
 public:
@@ -31,22 +31,22 @@ public:
 
     // In the order of their names.
     const QList<Named> &named() const { return m_named; }
-    // The one used last is the first.
+    // The one used last comes first.
     const QList<BuiltFilter> &recent() const { return m_recent; }
     const BuiltFilter *find(const QString &name) const;
 
-    // A name without blanks around it, as long as it may be. An empty one names nothing.
+    // A trimmed name, cut to the maximum length. Empty if it is not valid.
     static QString nameOf(const QString &typed);
 
-    // Replaces a filter of that name. False, and nothing is changed, when there are too many.
+    // Replaces a filter with that name. If there are too many, returns false and changes nothing.
     bool keep(const QString &name, const BuiltFilter &filter);
-    // Replaces a filter that has the new name.
+    // Replaces any filter with the new name.
     void rename(const QString &name, const QString &newName);
     void remove(const QString &name);
     void noteUsed(const BuiltFilter &filter);
 
     QString toText() const;
-    // The filters of a text, or why it has none, for the user to read.
+    // Parses the filters, or returns the reason why the text is invalid, for the user.
     static std::variant<SavedFilters, QString> fromText(const QString &text);
 
     bool operator==(const SavedFilters &) const = default;

@@ -54,7 +54,7 @@ std::optional<ColumnChoice> askColumnTicks(QWidget *parent, const FilterRequest 
 {
     FilterSource source = sourceOf(request);
     FilterField field;
-    QString fault; // where fields can't be read, the list of values says why
+    QString fault; // if fields can't be read, the list of values shows the reason
     try {
         field = fieldOf(source, request.field, written);
     } catch (const ADODB::Error &error) {

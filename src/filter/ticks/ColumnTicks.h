@@ -6,17 +6,17 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What a user makes of the values of a column.
+// What the user has chosen from the values of a column.
 struct ColumnChoice
 {
-    QString condition = {};    // of what is ticked; empty when that is everything
-    QString built = {};        // for another question; see askColumnTicks
-    bool wantsBuilder = false; // he wants the filter builder instead
+    QString condition = {};    // for the ticked values; empty if everything is ticked
+    QString built = {};        // for a later call; see askColumnTicks
+    bool wantsBuilder = false; // the user wants the filter builder instead
 };
 
 // Lets the user choose records by ticking values of one field. `request.field` is the field's caption and
-// `written` how statements write it. `request.built` is what an earlier choice answered. Nothing when he
-// cancels, or when `parent` goes meanwhile.
+// `written` its form in SQL. `request.built` is the result of an earlier choice. No value if the user
+// cancels, or if `parent` is destroyed meanwhile.
 std::optional<ColumnChoice> askColumnTicks(QWidget *parent, const FilterRequest &request,
                                            const QString &written);
 

@@ -21,7 +21,7 @@ constexpr int entryRole = Qt::UserRole;
 constexpr int valueRole = Qt::UserRole + 1;
 constexpr int countRole = Qt::UserRole + 2;
 
-// One line of the list, which a text of several lines stays readable in.
+// Shortens a text to one readable line.
 QString lineOf(QString text)
 {
     constexpr qsizetype longest = 200;
@@ -37,7 +37,7 @@ void putCount(QTreeWidgetItem &item, qint64 count)
     item.setTextAlignment(countColumn, Qt::AlignRight | Qt::AlignVCenter);
 }
 
-// Adds to what a year or a month has.
+// Adds to the count of a year or a month.
 void addCount(QTreeWidgetItem *item, qint64 count)
 {
     for (; item && count >= 0; item = item->parent())
@@ -101,7 +101,7 @@ void TickList::fill(FieldClass fieldClass, const OfferedValues &values, bool has
     QTreeWidgetItem *const root = invisibleRootItem();
     if (hasNull)
         add(root, Entry::Null, FilterTexts::NullValue, {}, values.withoutValue);
-    // Of pictures and the like only their presence can be ticked.
+    // For pictures and the like, only Null or not Null can be ticked.
     if (fieldClass == FieldClass::Other)
         add(root, Entry::Others, FilterTexts::AnyValue, {}, -1);
     if (areDays)
@@ -172,7 +172,7 @@ bool TickList::isTicked(Entry entry, const QString &value) const
 
 void TickList::onItemChanged(const QTreeWidgetItem *item)
 {
-    // A year's or a month's days follow it by themselves.
+    // The days of a year or a month change with it automatically.
     if (m_isFilling || item->childCount() > 0)
         return;
     const bool isTicked = item->checkState(valueColumn) == Qt::Checked;

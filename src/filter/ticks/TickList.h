@@ -10,7 +10,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Values with a box each and the number of their records; days by years and months. Ticks go to a state.
+// Values with check boxes and record counts; dates by years and months. Ticks are stored in a TickState.
 class TickList final : public QTreeWidget
 {
     Q_OBJECT
@@ -20,10 +20,10 @@ public:
     explicit TickList(TickState &state, QWidget *parent = nullptr);
 
     // Lists the values of a field of that class. `hasNull` adds an entry for the records without a value.
-    // What was listed before stays open and current as far as it is listed again.
+    // Expanded and current entries stay so if they are listed again.
     void list(FieldClass fieldClass, const OfferedValues &values, bool hasNull, bool areOpen);
 
-    // Whether each value that is listed is ticked, or none is.
+    // Whether all listed values are ticked, or none, or some.
     Qt::CheckState stateOfAll() const;
 
 Q_SIGNALS:
@@ -31,7 +31,7 @@ Q_SIGNALS:
 
 private:
     enum class Entry { Value, Null, Others };
-    // Where the user is, in values.
+    // The user's position, by values.
     struct Place
     {
         std::optional<QString> current = {};

@@ -26,7 +26,7 @@ QString yearInChinese(const QString &day)
     return yearOf(day) + u'年';
 }
 
-// How many days of each month and each year there are.
+// The number of days in each month and each year.
 QHash<QString, int> countsOf(const QStringList &days)
 {
     QHash<QString, int> counts;
@@ -37,8 +37,8 @@ QHash<QString, int> countsOf(const QStringList &days)
     return counts;
 }
 
-// A month or a year of which only one day is there is still named by the day. A year is written in the
-// language of the moment, as it can be typed.
+// If a month or a year has only one of the days, it is still represented by the day. A year is written in the
+// current language, as it can be typed.
 QStringList inFewestWords(const QStringList &days, const QStringList &all)
 {
     const QHash<QString, int> counts = countsOf(all);
@@ -85,7 +85,7 @@ void TickState::nameDays(const QStringList &days)
 {
     QStringList stretches;
     for (const QString &day : days) {
-        // A filter may have been saved in another language than the one of the moment.
+        // A filter may have been saved in another language than the current one.
         for (const QString &stretch : {monthOf(day), yearOf(day), yearInChinese(day)}) {
             if (!m_named.contains(stretch))
                 continue;

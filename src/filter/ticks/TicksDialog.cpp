@@ -78,7 +78,7 @@ private:
 
     void choose()
     {
-        m_ticks->stop(); // which uses the connection
+        m_ticks->stop(); // it uses the connection
         const QString fault = m_request.whyNot ? m_request.whyNot(ticked()) : QString();
         if (fault.isEmpty())
             accept();

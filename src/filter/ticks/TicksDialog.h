@@ -7,28 +7,28 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What a user is asked by askTicks.
+// The input for askTicks.
 struct TicksRequest
 {
     QString title;
     FieldClass fieldClass;
     ValueTicks::Requests requests; // see ValueTicks::start
-    TickedValues ticked = {};      // what the list begins with
-    // Whether the user can choose what is ticked; without it, he can choose everything.
+    TickedValues ticked = {};      // the initial ticks
+    // Whether the user can accept these ticks; by default all can be accepted.
     std::function<bool(const TickedValues &)> canChoose = {};
-    // Why it can't be taken once he has chosen it, for him to read; empty when it can.
+    // Why a choice can't be used, as a text for the user; empty if it can.
     std::function<QString(const TickedValues &)> whyNot = {};
-    bool offersBuilder = false; // the filter builder instead
+    bool offersBuilder = false; // offers the filter builder as well
 };
 
 struct TicksAnswer
 {
     TickedValues ticked = {};
-    bool wantsBuilder = false; // then nothing is ticked
+    bool wantsBuilder = false; // if true, nothing is ticked
 };
 
-// Lets the user tick values of one field in a dialog. Nothing when he cancels, or when `parent` goes
-// meanwhile.
+// Lets the user tick values of one field in a dialog. No value if the user cancels, or if `parent` is
+// destroyed meanwhile.
 std::optional<TicksAnswer> askTicks(QWidget *parent, const TicksRequest &request);
 
 } // namespace KOVAVSFDataGridLib

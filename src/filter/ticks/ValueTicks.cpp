@@ -24,14 +24,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A day as a person may look for it too.
+// Other forms of a date that people may search for.
 QString spokenDay(const QString &day)
 {
     const QDate date = QDate::fromString(day, Qt::ISODate);
     return FilterTexts::WholeDay.arg(date.year()).arg(date.month()).arg(date.day());
 }
 
-// Those of the values that contain a text.
+// The values that contain a text.
 OfferedValues found(const OfferedValues &values, const QString &text, bool areDays)
 {
     OfferedValues found;
@@ -45,7 +45,7 @@ OfferedValues found(const OfferedValues &values, const QString &text, bool areDa
     return found;
 }
 
-// As a user reads a Boolean and types it.
+// Replaces Booleans with the words that users read and type.
 void nameBooleans(QStringList &values)
 {
     for (QString &value : values)
@@ -125,7 +125,7 @@ void ValueTicks::layOut()
     rows->addWidget(m_list, 1);
     rows->addWidget(m_note);
     rows->addLayout(reading);
-    // Room for two lines from the beginning, so that nothing jumps when there is more to say.
+    // Two lines are reserved, so that nothing moves when the note gets longer.
     m_note->setMinimumHeight(2 * fontMetrics().lineSpacing());
     m_note->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 }
@@ -171,7 +171,7 @@ void ValueTicks::read()
         return showState();
     }
     connect(m_reading.get(), &ValueReading::arrived, this, &ValueTicks::onValuesArrived);
-    constexpr int patience = 100; // milliseconds before the list says that it is being read
+    constexpr int patience = 100; // milliseconds before the list shows that it is being read
     if (m_reading->waitForValues(patience))
         return onValuesArrived();
     showReading(true);
@@ -190,7 +190,7 @@ void ValueTicks::onValuesArrived()
     m_fault = failure.isEmpty() ? values.note : FilterTexts::ValuesUnreadable.arg(failure);
     OfferedValues &target = isSearch() ? m_found : m_all;
     if (failure.isEmpty() && values == target)
-        return; // what the user goes through is not listed again
+        return; // don't refill a list that the user is working with
     target = values;
     if (!isSearch()) {
         m_isComplete = failure.isEmpty() && values.note.isEmpty() && !values.hasMore;
@@ -201,7 +201,7 @@ void ValueTicks::onValuesArrived()
     Q_EMIT changed();
 }
 
-// A search looks for values to tick, so where everything is ticked it begins with nothing.
+// A search is for values to tick. If everything is ticked, it therefore starts with nothing ticked.
 void ValueTicks::onSearch()
 {
     stop();
@@ -222,7 +222,7 @@ void ValueTicks::onSearch()
     Q_EMIT changed();
 }
 
-// Enter ticks what was found, unless something is ticked already.
+// Enter ticks what was found, unless something is already ticked.
 void ValueTicks::tickFound()
 {
     if (isSearch() && m_state.isNothingTicked() && areAllListed())
@@ -254,7 +254,7 @@ bool ValueTicks::isSearch() const
     return !m_search->text().isEmpty();
 }
 
-// Whether nothing is missing from the list that it should show.
+// Whether the list contains everything that it should.
 bool ValueTicks::areAllListed() const
 {
     return m_isComplete || (m_reading && !m_delay->isActive() && m_progress->isHidden() &&
@@ -281,7 +281,7 @@ void ValueTicks::fill()
 void ValueTicks::showState()
 {
     m_checkAll->setText(isSearch() ? FilterTexts::AllFound : FilterTexts::AllValues);
-    // Ticking what is not all of it would not be what it says.
+    // "All" must not tick only a part of them.
     m_checkAll->setEnabled(isSearch() ? areAllListed() && !listed().values.isEmpty() : true);
     const Qt::CheckState state = m_list->topLevelItemCount() > 0 ? m_list->stateOfAll()
                                  : m_state.isAllTicked()         ? Qt::Checked
@@ -324,13 +324,13 @@ TickedValues ValueTicks::ticked() const
     TickedValues ticked = m_isComplete && m_fieldClass != FieldClass::Other
                               ? m_state.amongAll(m_all.values, areDays())
                               : m_state.asNamed();
-    // Where each record has a value, nothing needs to be said of those without one.
+    // If each record has a value, records without one need not be mentioned.
     if (m_all.withoutValue == 0)
         ticked.hasNull.reset();
     return ticked;
 }
 
-// The list is reached from the search as from a menu's.
+// The arrow keys lead from the search box to the list, as in a menu.
 bool ValueTicks::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isDown = watched == m_search && event->type() == QEvent::KeyPress &&

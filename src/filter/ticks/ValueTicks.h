@@ -19,9 +19,9 @@ namespace KOVAVSFDataGridLib {
 
 class TickList;
 
-// The values of a field with a box each, for the user to tick those whose records he wants. Days are listed
-// by years and months. Values are read in the background, which he can stop. Where there are too many, the
-// first ones are listed and a search reads others; what is ticked stays ticked meanwhile.
+// The values of a field with check boxes, for the user to tick those whose records he wants. Dates are listed
+// by years and months. Values are read in the background, which can be cancelled. If there are too many, the
+// first ones are listed, and a search reads others; ticks are kept meanwhile.
 //
 //     ticks->start(
 //         field.fieldClass,
@@ -33,23 +33,23 @@ class ValueTicks final : public QWidget
     Q_OBJECT
 
 public:
-    // How the values that contain a text are read; all values where it is empty. Throws ADODB::Error.
+    // Returns how to read the values that contain a text; all if it is empty. Throws ADODB::Error.
     using Requests = std::function<ValueRequest(const QString &search)>;
 
     explicit ValueTicks(QWidget *parent = nullptr);
     ~ValueTicks() override;
 
-    // Lists the values of a field of that class and begins with these ticks. What `requests` refers to must
-    // live until the next start(), or as long as this object.
+    // Lists the values of a field of that class, with these initial ticks. What `requests` refers to must
+    // live until the next start() or as long as this object.
     void start(FieldClass fieldClass, Requests requests, const TickedValues &ticked = {});
-    // Ends the reading. What is listed stays.
+    // Stops the reading. The listed values stay.
     void stop();
 
-    // What is chosen now: conditionOf() makes a condition of it, listOf() a list that can be typed.
+    // The current choice. conditionOf() converts it to a condition, listOf() to a list that can be typed.
     TickedValues ticked() const;
 
 Q_SIGNALS:
-    // The ticks have changed, or the values among which they are.
+    // The ticks have changed, or the set of values.
     void changed();
 
 protected:
@@ -78,11 +78,11 @@ private:
     TickState m_state;
     std::unique_ptr<ValueReading> m_reading;
     OfferedValues m_all;
-    OfferedValues m_found;          // by a search of the database
-    bool m_isComplete = false;      // no value is missing from m_all
-    bool m_beganWithSearch = false; // with everything ticked before
+    OfferedValues m_found;          // by a search in the database
+    bool m_isComplete = false;      // m_all contains all values
+    bool m_beganWithSearch = false; // when everything was ticked before
     QString m_fault;
-    QTimer *m_delay; // until a search asks the database
+    QTimer *m_delay; // before a search queries the database
     QLineEdit *m_search;
     QCheckBox *m_checkAll;
     TickList *m_list;

@@ -129,7 +129,7 @@ qsizetype FilterOutline::moveTo(qsizetype line, qsizetype before, int level)
     QList<Line> lines = m_lines;
     lines.remove(line, end - line);
     const qsizetype place = before <= line ? before : before - moved.size();
-    // Neither without a group around it nor between a group and its parts.
+    // Excludes places without a group around them and those between a group and its parts.
     const Line &above = lines.at(place - 1);
     const int highest = above.level + (above.isGroup() ? 1 : 0);
     const int lowest = place < lines.size() ? lines.at(place).level : 1;
@@ -165,7 +165,7 @@ void FilterOutline::dissolve(qsizetype group)
     m_lines.removeAt(group);
 }
 
-// Where the line `tracked` is afterwards.
+// Returns the new index of the line `tracked`.
 qsizetype FilterOutline::dropEmptyGroups(qsizetype tracked)
 {
     for (qsizetype line = m_lines.size() - 1; line > 0; --line) {

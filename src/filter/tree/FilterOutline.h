@@ -4,9 +4,9 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A tree of conditions as lines one below the other, each group followed by its parts one level deeper. The
-// first line is the outermost group, on level 0. Moves that can't be made leave the lines as they are; groups
-// that lose their last part go.
+// A tree of conditions as consecutive lines, each group followed by its parts one level deeper. The first
+// line is the outermost group, on level 0. Moves that are impossible change nothing; groups without parts are
+// removed.
 class FilterOutline
 {
 public:
@@ -16,40 +16,40 @@ public:
     {
         int level = 0;
         FilterNode::Kind kind = FilterNode::Kind::Condition;
-        qsizetype row = -1; // of a condition
+        qsizetype row = -1; // for a condition
 
         bool isGroup() const { return kind != FilterNode::Kind::Condition; }
         bool operator==(const Line &) const = default;
     };
 
-    // One group without any parts.
+    // A single empty group.
     FilterOutline() : m_lines{{0, FilterNode::Kind::All, -1}} {}
     explicit FilterOutline(const FilterNode &tree);
     // All groups have brackets.
     FilterNode tree() const;
 
     const QList<Line> &lines() const { return m_lines; }
-    // The line of a condition.
+    // The index of a condition's line.
     qsizetype lineOf(qsizetype row) const;
-    // The line that follows a line and all of its parts.
+    // The index after a line and all of its parts.
     qsizetype endOf(qsizetype line) const;
 
-    // Numbers the conditions in their order, and answers the numbers that they had.
+    // Renumbers the conditions in order, and returns their old numbers.
     QList<qsizetype> renumber();
 
     void setKind(qsizetype group, FilterNode::Kind kind) { m_lines[group].kind = kind; }
     // Adds a condition as the last part of a group.
     void add(qsizetype group, qsizetype row);
-    // Further rows than those that there are get the numbers after it.
+    // The numbers of the rows after it are decreased.
     void removeRow(qsizetype row);
 
-    // A line with its parts past its neighbour, into a group beside it or out of its own at its begin or end.
-    // The answer is where it is now.
+    // Moves a line with its parts past its neighbour: into an adjacent group, or out of its own at its start
+    // or end. Returns its new index.
     qsizetype moveUp(qsizetype line);
     qsizetype moveDown(qsizetype line);
-    // Before the line `before`, on a level that is possible there.
+    // Moves it before the line `before`, to a level that is possible there.
     qsizetype moveTo(qsizetype line, qsizetype before, int level);
-    // A new group around a line, and a group replaced by its parts. The outermost one stays.
+    // Puts a line into a new group, or replaces a group with its parts. The outermost one stays.
     void enclose(qsizetype line);
     void dissolve(qsizetype group);
 

@@ -10,13 +10,13 @@ namespace {
 using Kind = FilterNode::Kind;
 using FilterSql::Term;
 
-// Reads rows whose brackets match.
+// Converts rows with matching brackets to a tree.
 class TreeReader
 {
 public:
     explicit TreeReader(const QList<Term> &terms) : m_terms(terms) { enterTerm(); }
 
-    // From the next row up to the bracket that closes this level, or to the end.
+    // From the next row to the bracket that closes this level, or to the end.
     FilterNode level(bool isNegated)
     {
         std::vector<FilterNode> alternatives;
@@ -41,7 +41,7 @@ public:
     }
 
 private:
-    // A row, or all that its next bracket encloses.
+    // A row, or everything inside its next bracket.
     FilterNode operand()
     {
         if (m_opened < m_terms.at(m_at).opens) {
@@ -61,8 +61,8 @@ private:
 
     const QList<Term> &m_terms;
     qsizetype m_at = 0;
-    int m_opened = 0; // brackets of the next row that were entered
-    int m_closes = 0; // brackets of the last row that were not left yet
+    int m_opened = 0; // brackets of the next row that were already entered
+    int m_closes = 0; // brackets of the last row that were not yet left
 };
 
 bool isBracketed(const FilterNode &part, Kind around)
@@ -152,7 +152,7 @@ FilterNode pushedDown(const FilterNode &node, bool isNegated)
         return pushed;
     }
     const bool isPartNegated = isNegated != (node.kind == Kind::None);
-    const bool isAll = node.kind == Kind::All; // None is Any of what is negated
+    const bool isAll = node.kind == Kind::All; // None means Any of the complements
     pushed.kind = isAll != isPartNegated ? Kind::All : Kind::Any;
     for (FilterNode &part : pushed.parts)
         part = pushedDown(part, isPartNegated);

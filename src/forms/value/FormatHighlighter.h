@@ -8,7 +8,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Colours the words of a JSON or XML text, in colours that can be read on both themes.
+// Colours the tokens of a JSON or XML text, with colours that are readable in light and dark themes.
 class FormatHighlighter final : public QSyntaxHighlighter
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ private:
         QRegularExpression words;
         QColor colour;
     };
-    QList<Rule> m_rules; // later ones win
+    QList<Rule> m_rules; // later rules take precedence
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int indent = 2;
 
-// Written by the tokens of the text, because a document would sort its names and round its numbers.
+// Works on the tokens of the text, because QJsonDocument would sort the names and round the numbers.
 class JsonIndenter
 {
 public:
@@ -40,7 +40,7 @@ private:
         if (isClosing)
             --m_depth;
         if (m_isAfterOpening != isClosing)
-            breakLine(); // an empty pair stays on its line
+            breakLine(); // an empty pair stays on one line
         m_isAfterOpening = c == u'{' || c == u'[';
         m_depth += m_isAfterOpening ? 1 : 0;
         m_out += c;
@@ -62,7 +62,7 @@ private:
     bool m_isAfterOpening = false;
 };
 
-// Its declaration stays as it is: a writer would leave out the encoding.
+// The declaration is copied: QXmlStreamWriter would drop the encoding.
 std::optional<QString> indentedXml(const QString &text)
 {
     const qsizetype declaration = text.startsWith("<?xml"_L1) ? text.indexOf("?>"_L1) + 2 : 0;

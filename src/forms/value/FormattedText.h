@@ -6,7 +6,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A text with its structure made visible by line breaks and indents. Nothing else in it changes.
+// A text with line breaks and indents that show its structure. Nothing else in it changes.
 struct FormattedText
 {
     enum class Kind { Json, Xml };
@@ -14,9 +14,9 @@ struct FormattedText
     Kind kind;
     QString text;
 
-    // Longer texts are not looked at.
+    // Longer texts are not formatted.
     static constexpr qsizetype longest = 1000000;
-    // Nothing for a text that is no JSON object or array and no XML.
+    // Nothing if the text is neither a JSON object or array nor XML.
     static std::optional<FormattedText> of(const QString &text);
 };
 

@@ -5,7 +5,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Shows bytes in hexadecimal digits and as ASCII, 16 on a line. Only the lines in view are made.
+// Shows bytes in hexadecimal and as ASCII, 16 per line. Only the visible lines are generated.
 class HexPane final : public QAbstractScrollArea
 {
     Q_OBJECT

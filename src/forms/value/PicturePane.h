@@ -5,7 +5,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Shows a picture, made smaller where it has no room.
+// Shows a picture, scaled down if it does not fit.
 class PicturePane final : public QWidget
 {
     Q_OBJECT
@@ -13,9 +13,9 @@ class PicturePane final : public QWidget
 public:
     explicit PicturePane(const QImage &picture, QWidget *parent = nullptr);
 
-    // Null for bytes that are no picture, or one that is too large to be shown.
+    // Null if the bytes are not a picture, or one that is too large to be shown.
     static QImage pictureIn(const QByteArray &bytes);
-    // "PNG"; empty when they are no picture.
+    // "PNG"; empty if they are not a picture.
     static QString formatOf(const QByteArray &bytes);
 
     QSize sizeHint() const override { return m_picture.deviceIndependentSize().toSize(); }

@@ -5,13 +5,13 @@
 
 namespace KOVAVSFDataGridLib {
 
-// One value for a user to look at.
+// One value to show to the user.
 struct ShownValue
 {
     QString field;
-    QString place; // whose value it is, for the user to read
+    QString place; // which cell the value is from, as a text for the user
     bool isNull = false;
-    bool isBinary = false; // then it is `bytes`
+    bool isBinary = false; // if true, the value is `bytes`
     QString text = {};
     QByteArray bytes = {};
 };

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What a text edit lays out in a blink, even as a single line.
+// A length that a text edit lays out instantly, even as a single line.
 constexpr qsizetype lengthOfPiece = 50000;
 
 QPushButton *button(const QString &caption, const QString &name, QWidget *parent)
@@ -60,7 +60,7 @@ TextPane::TextPane(const QString &text, QWidget *parent)
                              widthOfDigits(*m_words, besides));
     m_found->setObjectName(u"lblFoundInValue"_s);
     m_pieceLabel->setObjectName(u"lblPiece"_s);
-    // What was found is seen while the words are typed.
+    // The match is visible while the words are being typed.
     QPalette marked = m_shown->palette();
     marked.setColor(QPalette::Inactive, QPalette::Highlight,
                     marked.color(QPalette::Active, QPalette::Highlight));
@@ -109,7 +109,7 @@ qsizetype TextPane::pieces() const
     return std::max<qsizetype>(1, (m_text.size() + lengthOfPiece - 1) / lengthOfPiece);
 }
 
-// No character is cut in two.
+// Does not split a character.
 qsizetype TextPane::beginOfPiece(qsizetype piece) const
 {
     const qsizetype begin = std::min(piece * lengthOfPiece, m_text.size());
@@ -128,7 +128,7 @@ void TextPane::showPiece(qsizetype piece)
     m_nextPiece->setEnabled(piece + 1 < pieces());
 }
 
-// From the selection on, in all pieces, and once around.
+// Searches from the selection on through all pieces, and wraps around once.
 void TextPane::find(bool isForward)
 {
     const QString words = m_words->text();
@@ -158,7 +158,7 @@ void TextPane::find(bool isForward)
     const auto inPiece = static_cast<int>(at - beginOfPiece(piece));
     QTextCursor marked(m_shown->document());
     marked.setPosition(inPiece);
-    // One that goes on in the next piece is marked as far as this one goes.
+    // A match that continues in the next piece is marked up to the end of this one.
     const int last = m_shown->document()->characterCount() - 1;
     marked.setPosition(std::min(inPiece + static_cast<int>(words.size()), last), QTextCursor::KeepAnchor);
     m_shown->setTextCursor(marked);

@@ -12,7 +12,7 @@ class QPushButton;
 
 namespace KOVAVSFDataGridLib {
 
-// Shows a text of any length with its line breaks, a piece at a time, and looks for words in all of it.
+// Shows a text of any length with its line breaks, a piece at a time. The search covers all of it.
 class TextPane final : public QWidget
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     explicit TextPane(const QString &text, QWidget *parent = nullptr);
 
     void colourAs(FormattedText::Kind kind);
-    // Puts the keyboard into the box of the words to look for.
+    // Moves the focus to the search box.
     void beginFind();
 
 protected:

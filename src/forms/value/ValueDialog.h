@@ -8,7 +8,7 @@ namespace KOVAVSFDataGridLib {
 
 class ValuePane;
 
-// A window that shows one value whole. It is not modal.
+// A window that shows one complete value. It is not modal.
 class ValueDialog final : public QDialog
 {
     Q_OBJECT
@@ -17,11 +17,11 @@ public:
     explicit ValueDialog(QWidget *parent);
 
     void show(const ShownValue &value);
-    // Shows another value in place of the one that is shown; the keyboard stays where it is.
+    // Shows another value instead of the current one; the keyboard focus does not move.
     void replace(const ShownValue &value);
     using QDialog::show;
 
-    // As ValuePane does.
+    // See ValuePane::saveTo.
     bool saveTo(const QString &file, QString &failure) const;
 
 private:

@@ -28,9 +28,9 @@ namespace {
 
 constexpr qsizetype longestTextInBytes = 64 << 20;
 constexpr qsizetype longestHexCopied = 16 << 20;
-constexpr int narrowDigits = 60; // in a pane that is not as wide, the buttons stand below what is said
+constexpr int narrowDigits = 60; // in a narrower pane, the buttons are below the description
 
-// Bytes that are a text, which some tables keep in such fields.
+// Whether the bytes are a text, which some tables store in such fields.
 bool isText(const QByteArray &bytes)
 {
     return !bytes.isEmpty() && bytes.size() <= longestTextInBytes && !bytes.contains('\0') &&
@@ -188,7 +188,7 @@ void ValuePane::addBytes()
     m_format = PicturePane::formatOf(m_value.bytes);
     m_picture = m_format.isEmpty() ? QImage() : PicturePane::pictureIn(m_value.bytes);
     if (m_picture.isNull())
-        m_format.clear(); // it only begins like one
+        m_format.clear(); // only its beginning looks like a picture
     if (!m_picture.isNull())
         m_views->addTab(new PicturePane(m_picture), FormTexts::PictureTab);
     else if (isText(m_value.bytes))

@@ -12,8 +12,8 @@ class QTabWidget;
 
 namespace KOVAVSFDataGridLib {
 
-// Shows one value whole: a text with its line breaks, JSON and XML indented, a picture, or bytes. It keeps a
-// copy of the value, so it depends on nothing.
+// Shows one complete value: a text with its line breaks, indented JSON or XML, a picture, or bytes. It has
+// its own copy of the value.
 class ValuePane final : public QWidget
 {
     Q_OBJECT
@@ -21,24 +21,24 @@ class ValuePane final : public QWidget
 public:
     explicit ValuePane(QWidget *parent = nullptr);
 
-    // In place of the one that is shown; the keyboard stays where it is.
+    // Shows a value instead of the current one; the keyboard focus does not move.
     void put(const ShownValue &value);
-    // Shows none.
+    // Shows no value.
     void clear();
-    // Gives it the keyboard, as setFocus() does.
+    // Sets the focus to it, as setFocus() does.
     void focusValue();
-    // The field whose value it is.
+    // The field that the value is from.
     QString field() const { return m_value.field; }
-    // Beside those that copy and save.
+    // Adds a button beside those that copy and save.
     void addButton(QWidget *button);
-    // False in a window where others have these keys already.
+    // False if other widgets in the window already use these keys.
     void putHasAccessKeys(bool on);
 
-    // Writes the value, a text as UTF-8. False when it can't be written; what was there stays then.
+    // Writes the value, a text as UTF-8. Returns false if that fails, and leaves an existing file unchanged.
     bool saveTo(const QString &file, QString &failure) const;
 
 Q_SIGNALS:
-    // It can be seen from now on; before that, nobody needs to put a value into it.
+    // Emitted when it becomes visible. Before that, it needs no value.
     void shown();
 
 protected:
@@ -58,7 +58,7 @@ private:
 
     ShownValue m_value;
     QImage m_picture;
-    QString m_format; // of a picture or formatted text
+    QString m_format; // of a picture or a formatted text
     QString m_note;
     QTabWidget *m_views;
     QLabel *m_place;

@@ -47,7 +47,7 @@ bool FieldCombo::event(QEvent *event)
     return true;
 }
 
-// A list as narrow as the box would cut the names, too.
+// A list as narrow as the box would truncate the names too.
 void FieldCombo::showPopup()
 {
     const int names = view()->sizeHintForColumn(modelColumn());

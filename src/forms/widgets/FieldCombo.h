@@ -4,9 +4,9 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A choice among field names, of which there can be hundreds. The first letters of a name lead to it as in
-// any choice, and here also when an input method brings them, as it does for Chinese. A name that has no room
-// ends with an ellipsis and is whole in the list and in a tool tip.
+// A choice of field names, of which there can be hundreds. Typing the first letters of a name selects it, as
+// in any choice, but here also with an input method, as for Chinese. A name that does not fit ends with an
+// ellipsis; the list and a tool tip show all of it.
 class FieldCombo final : public QComboBox
 {
     Q_OBJECT

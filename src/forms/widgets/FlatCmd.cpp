@@ -9,11 +9,11 @@ namespace KOVAVSFDataGridLib {
 FlatCmd::FlatCmd(const QString &text, QWidget *parent) : QPushButton(text, parent)
 {
     setAttribute(Qt::WA_Hover);
-    // Never the button that Enter presses from elsewhere: these are helpers beside a dialog's own buttons.
+    // Never the default button: these are auxiliary buttons beside a dialog's own buttons.
     setAutoDefault(false);
 }
 
-// A dialog would press its default button instead, and be done where the user wants to go on.
+// Otherwise the dialog would press its default button and close, although the user wants to continue.
 void FlatCmd::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
@@ -30,7 +30,7 @@ void FlatCmd::paintEvent(QPaintEvent *)
     if (!isEnabled() || !(underMouse() || isDown() || isChecked() || hasFocus())) {
         option.features |= QStyleOptionButton::Flat;
         painter.setRenderHint(QPainter::Antialiasing);
-        // Out of the text's colour, as the palette's shades hardly differ from a dark window.
+        // Based on the text colour, because the palette's shades hardly differ from a dark window.
         constexpr float visibility = 0.25f;
         QColor line = option.palette.color(QPalette::ButtonText);
         line.setAlphaF(visibility);

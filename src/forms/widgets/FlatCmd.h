@@ -4,8 +4,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A push button that is a mere outline until the mouse, the keyboard focus or a press is on it. Enter presses
-// it like the space bar does, and never presses it from elsewhere.
+// A push button that shows only an outline until it is hovered, focused or pressed. Enter presses it like the
+// space bar if it has the focus, and never otherwise.
 class FlatCmd final : public QPushButton
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A plain background in the colour of the window, like that of all other dialogs. It can carry a layout.
+// A plain background in the window's colour, as in all other dialogs. It can have a layout.
 class GradualControl final : public QWidget
 {
     Q_OBJECT

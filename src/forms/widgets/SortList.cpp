@@ -30,7 +30,7 @@ SortList::SortList(QWidget *parent) : QTreeWidget(parent)
 void SortList::append(const SortTerm &term)
 {
     auto *item = new QTreeWidgetItem({term.field, term.orderWord});
-    // Nothing can be dropped on a row, only between rows.
+    // Items can't be dropped on a row, only between rows.
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled |
                    Qt::ItemNeverHasChildren);
     addTopLevelItem(item);
@@ -84,8 +84,8 @@ int SortList::rowBehind(QPoint position) const
     return position.y() < visualRect(at).center().y() ? at.row() : at.row() + 1;
 }
 
-// The view's own way of moving a row by a drag leaves it without selection, and the buttons beside the list
-// without anything to act on. The row moves where it is dropped; nothing is left to do when the drag ends.
+// The view's default drag loses the selection of the moved row, and then the buttons beside the list have
+// nothing to act on. Here the row is moved on the drop, and nothing remains to be done when the drag ends.
 void SortList::startDrag(Qt::DropActions)
 {
     const QRect row = visualItemRect(currentItem());
@@ -103,7 +103,7 @@ void SortList::dropEvent(QDropEvent *event)
     moveRow(from, behind > from ? behind - 1 : behind);
     event->acceptProposedAction();
     QDragLeaveEvent end;
-    dragLeaveEvent(&end); // scrolling by itself stops
+    dragLeaveEvent(&end); // stops automatic scrolling
 }
 
 } // namespace KOVAVSFDataGridLib

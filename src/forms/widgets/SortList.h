@@ -6,7 +6,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The terms of a sort, one a row: field and order word. The user changes their order by dragging.
+// The terms of a sort, one per row: field and order word. The user changes their order by dragging.
 class SortList : public QTreeWidget
 {
     Q_OBJECT
@@ -18,12 +18,12 @@ public:
     bool contains(const QString &field) const;
     QList<SortTerm> terms() const;
 
-    int selectedRow() const; // -1 when there is none
-    // Takes the row out, puts it in again as row `to` and selects it. Nothing happens when one of the two is
-    // no row of the list.
+    int selectedRow() const; // -1 if there is none
+    // Moves a row to position `to` and selects it. Does
+    // nothing if one of the two is not a row of the list.
     void moveRow(int from, int to);
     void removeRow(int row);
-    // Turns ascending into descending and back.
+    // Changes ascending to descending and back.
     static void flipOrder(QTreeWidgetItem *item);
 
 protected:
@@ -31,7 +31,7 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
-    // The row in front of which something dropped there belongs.
+    // The row before which an item dropped there is inserted.
     int rowBehind(QPoint position) const;
 };
 

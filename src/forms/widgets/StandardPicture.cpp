@@ -6,9 +6,9 @@
 
 namespace KOVAVSFDataGridLib {
 
-// QStyle makes a new icon for each call, and an icon caches its pixmaps under names that no other icon has.
-// The cache drops pixmaps but never their names (Qt 6.4), so a name for each dialog would take memory for
-// good.
+// QStyle creates a new icon for each call, and an icon caches its
+// pixmaps under unique names. The cache drops pixmaps but keeps their
+// names forever (Qt 6.4), so every dialog would leak some memory.
 QPixmap standardPicture(const QWidget &widget, QStyle::StandardPixmap picture, int size)
 {
     const double ratio = widget.devicePixelRatioF();

@@ -4,8 +4,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The width in pixels of so many digits in the widget's font. The average character would not do as a
-// measure: in a font with Chinese characters it is twice as wide, and dialogs sized by it outgrow the screen.
+// The width in pixels of `count` digits in the widget's font. The average character width is not suitable: in
+// a font with Chinese characters it is twice as wide, and dialogs would be larger than the screen.
 inline int widthOfDigits(const QWidget &widget, int count)
 {
     return widget.fontMetrics().horizontalAdvance(u'0') * count;

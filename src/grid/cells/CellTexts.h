@@ -2,14 +2,14 @@
 
 #include "language/Text.h"
 
-// The texts of the grids, for proof-reading in one place.
+// The texts of the grids, collected here for proofreading.
 namespace KOVAVSFDataGridLib::CellTexts {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::CellTexts"};
 
-// What a screen reader says of a heading: its text and its marks.
+// The text of a heading for screen readers: its text and its marks.
 inline constexpr Text Spoken = tr("%1，%2");
-// And of a cell without a value.
+// The same for Null.
 inline constexpr Text NoValue = tr("空值");
 
 } // namespace KOVAVSFDataGridLib::CellTexts

@@ -143,7 +143,7 @@ QVariant FlexGridModel::headerData(int section, Qt::Orientation orientation, int
     if (role == Qt::TextAlignmentRole) {
         if (!isColumn)
             return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
-        // Over its texts, or its numbers.
+        // Headings are aligned like the texts or numbers below them.
         const Qt::AlignmentFlag side =
             m_source->isNumeric(section + m_fixedCols) ? Qt::AlignRight : Qt::AlignLeft;
         return QVariant::fromValue(Qt::AlignVCenter | side);

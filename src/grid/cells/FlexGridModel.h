@@ -14,14 +14,14 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The cells below and right of the headings of a CellSource, as a Qt model; the headings are its
-// header data. Always has a source: an empty one of two rows and two columns to begin with.
+// The cells of a CellSource below and to the right of its headings, as a Qt model; the headings are its
+// header data. It always has a source, initially an empty one with two rows and two columns.
 class FlexGridModel final : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    // `fixedCols` (0 or 1) leading columns of the source are headings of the rows.
+    // The first `fixedCols` (0 or 1) columns of the source are row headings.
     explicit FlexGridModel(int fixedCols, QObject *parent = nullptr);
     ~FlexGridModel() override;
 
@@ -29,24 +29,24 @@ public:
     const CellSource &source() const { return *m_source; }
     // Replaces all cells (model reset). `source` must not be null.
     void setSource(std::unique_ptr<CellSource> source);
-    // Takes a source with the same cells and further rows below them, if any (rows inserted). Not null.
+    // Uses a source with the same cells and more rows below, if any (rows inserted). Not null.
     void growTo(std::unique_ptr<CellSource> source);
-    // Writes one cell in grid coordinates, headings included; false when the source can't be written.
+    // Writes one cell in grid coordinates, including headings; false if the source is read-only.
     bool setText(int row, int col, const QString &text);
 
-    // What the headings show beside their texts, by grid column; columns without one have none.
+    // What the headings show beside their texts, by grid column. Missing columns have no marks.
     void setHeadingMarks(std::vector<HeadingMark> marks);
     HeadingMark headingMark(int section) const;
 
-    // How texts are shown, by the headings of their columns; kept when other cells are shown.
+    // Display formats, by the headings of their columns; kept when other cells are shown.
     const QHash<QString, ADODB::DisplayFormat> &formats() const { return m_formats; }
     void setFormats(const QHash<QString, ADODB::DisplayFormat> &formats);
-    // A cell's text as it is shown, in grid coordinates. What no cell has room for may be missing at its end.
+    // A cell's shown text, in grid coordinates. The end of a text too long for any cell may be missing.
     QString shownText(int row, int col) const;
-    // Whether cells without a value say so.
+    // Whether Null is shown as such.
     bool showsNulls() const { return m_showsNulls; }
     void setShowsNulls(bool on) { m_showsNulls = on; }
-    // Whether that is what a cell shows, in grid coordinates.
+    // Whether a cell shows Null, in grid coordinates.
     bool isShownNull(int row, int col) const { return m_showsNulls && m_source->isNull(row, col); }
     // Marks parts of the shown texts; null marks nothing.
     const TextMarker &textMarker() const { return m_marker; }
@@ -67,7 +67,7 @@ private:
     TextMarker m_marker;
     bool m_showsNulls = false;
     QHash<QString, ADODB::DisplayFormat> m_formats;
-    std::vector<ADODB::DisplayFormat> m_formatOfCol; // empty when no column has one
+    std::vector<ADODB::DisplayFormat> m_formatOfCol; // empty if no column has one
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -26,7 +26,7 @@ QString RecordWindow::text(int row, int col) const
     return col <= m_recordset->Fields().Count() ? m_recordset->Fields().Item(col - 1).Name() : QString();
 }
 
-// A cell is painted again and again, and may hold a hundred megabytes.
+// A cell is painted again and again, and its text may have a hundred megabytes.
 QString RecordWindow::beginning(int row, int col, qsizetype length) const
 {
     if (row == 0 || col == 0)
@@ -34,7 +34,7 @@ QString RecordWindow::beginning(int row, int col, qsizetype length) const
     return ADODB::RowReader::beginning(*m_recordset, m_first + row - 1, col - 1, length);
 }
 
-// Cells are painted where nobody can catch anything; one that is too long for the memory says so.
+// Painting code can't catch exceptions; a value that does not fit into memory is shown as such a message.
 QString RecordWindow::cellText(qint64 record, int column) const
 {
     try {

@@ -10,11 +10,11 @@ class Recordset;
 
 namespace KOVAVSFDataGridLib {
 
-// A stretch of a recordset's records as grid cells: field names in row 0, the row number in column 0,
-// and the records `first` ... `first + count - 1` (1-based) below. Nothing is copied and the recordset's
-// current record never moves; a cell's text is made when it is asked for.
+// A range of a recordset's records as grid cells: field names in row 0, row numbers in column 0, and
+// the records `first` ... `first + count - 1` (1-based) below. Nothing is copied, and the recordset's
+// current record is not moved; a cell's text is generated on demand.
 //
-// The window shares ownership of the recordset. When that is closed, all its cells read as empty.
+// The window shares ownership of the recordset. After that is closed, all its cells are empty.
 class RecordWindow final : public CellSource
 {
 public:

@@ -6,7 +6,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Cells that the grid itself keeps. Only cells with a text take room, so an empty grid of any size is cheap.
+// Cells stored in the grid itself. Only cells with a text use memory, so an empty grid of any size is cheap.
 class TextCells : public CellSource
 {
 public:

@@ -30,7 +30,7 @@ QString CellDelegate::nullText()
     return QStringLiteral("NULL");
 }
 
-// Quieter than texts, but with a contrast at which it can still be read.
+// Paler than text, but with enough contrast to be readable.
 QColor CellDelegate::pale(QColor colour)
 {
     constexpr float share = 0.62f;

@@ -4,9 +4,9 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Draws no more of a cell's text than can be seen: the first line, and of that so much that no column is
-// wide enough for more. A view shapes and elides the whole text on every paint, which takes seconds for
-// pages of memo fields. A text that is cut is shown in full by a tool tip.
+// Paints only the visible part of a cell's text: the first line, up to the width of the widest column. A view
+// lays out and elides the whole text on every paint, which takes seconds for pages of memo fields. A
+// truncated text is shown in full by a tool tip.
 class CellDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -14,13 +14,13 @@ class CellDelegate : public QStyledItemDelegate
 public:
     static constexpr int longestText = 400; // characters
 
-    // What is drawn of a text.
+    // The part of a text that is painted.
     static QString shownText(const QString &text);
 
-    // What is drawn where there is no value, and the colour of a text turned into that in which it is drawn.
+    // The text painted for Null, and the colour in which it is painted instead of the text colour.
     static QString nullText();
     static QColor pale(QColor colour);
-    // Makes an option draw it.
+    // Sets up an option for painting Null.
     static void showNull(QStyleOptionViewItem &option);
 
     using QStyledItemDelegate::QStyledItemDelegate;

@@ -15,8 +15,8 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// Styles that draw the text of a special cell like that of a plain one, in the palette's colours. Others have
-// ideas of their own and draw special cells whole.
+// Styles that paint the text of a special cell like that of a plain one, in the palette's colours. Others
+// paint special cells in their own way, so they must paint all of it.
 bool drawsTextPlainly(const QStyle &style)
 {
     const QByteArrayView name = style.metaObject()->className();
@@ -41,8 +41,8 @@ public:
           const QRect &part, int shift);
 
     bool isEmpty() const { return m_columns.empty() || m_lastRow < m_firstRow; }
-    // In this order, each for all rectangles that are dirty before the next: a cell that reaches into several
-    // is painted with the first.
+    // In this order, each for all dirty rectangles before the next: a cell that intersects several is painted
+    // with the first one.
     void paintRows(const QRect &dirty);
     void paintCells(const QRect &dirty);
     void paintLines(const QRect &dirty);
@@ -67,20 +67,20 @@ private:
     QTableView &m_view;
     const FlexGridModel &m_model;
     GlyphTable &m_glyphs;
-    QStyleOptionViewItem m_option; // of the row that is painted
-    QStyleOptionViewItem m_cell;   // of a cell in it that is not plain
+    QStyleOptionViewItem m_option; // for the row being painted
+    QStyleOptionViewItem m_cell;   // for a cell in it that is not plain
     const QPoint m_offset;
     const int m_shift;
     const QModelIndex m_hover;
-    const QModelIndex m_current; // where the frame of the focus is
+    const QModelIndex m_current; // the cell with the focus frame
     QPainter m_painter;
     GlyphBatch m_batch;
     GlyphLine m_line;
-    std::vector<Column> m_columns; // in view, from m_firstColumn
+    std::vector<Column> m_columns; // visible, starting with m_firstColumn
     int m_firstColumn = 0;
     int m_firstRow = 0;
     int m_lastRow = -1;
-    std::vector<bool> m_isPainted; // cells in view, row by row
+    std::vector<bool> m_isPainted; // visible cells, row by row
     QItemSelection m_selection;
     const int m_gridSize;
     const int m_margin;
@@ -146,7 +146,7 @@ CellPainter::Frame::Span CellPainter::Frame::columnsIn(const QRect &dirty) const
     return {std::max(first, 0), last < 0 ? header.count() - 1 : last};
 }
 
-// To where there are cells.
+// Limited to the area that has cells.
 QRect CellPainter::Frame::clipped(QRect dirty) const
 {
     const QHeaderView &columns = *m_view.horizontalHeader();
@@ -230,7 +230,7 @@ void CellPainter::Frame::paintCell(int row, const Column &column, const QString 
             m_view.itemDelegate()->paint(&m_painter, m_cell, m_cell.index);
             return;
         }
-        // The style's item without a text; only with the focus is there more to it than its panel.
+        // The style's item without a text; it is more than a panel only if it has the focus.
         if (isThis(m_current))
             m_view.style()->drawControl(QStyle::CE_ItemViewItem, &m_cell, &m_painter, &m_view);
         else
@@ -246,7 +246,7 @@ void CellPainter::Frame::placeText(const QString &text, const Column &column, bo
     const qreal room = column.width - 2 * m_margin;
     const QString shown = CellDelegate::shownText(text);
     m_glyphs.layOut(shown, room, m_option.direction, m_line);
-    // Where not even the ellipsis has room, nothing can be read.
+    // Not even the ellipsis fits.
     if (m_line.width > column.width)
         return;
     const bool isAtRight = column.isNumeric != (m_option.direction == Qt::RightToLeft);

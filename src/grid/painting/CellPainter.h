@@ -13,9 +13,9 @@ namespace KOVAVSFDataGridLib {
 
 class FlexGridModel;
 
-// Paints the cells of a flex grid as a table view does, but walks each row once, asks the style only about
-// cells that are not plain (selected, current, under the mouse), and draws all texts of a frame together. The
-// texts of all cells of a row are on one line, whichever fonts they need.
+// Paints the cells of a flex grid like a table view, but visits each row once, calls the style only for cells
+// that are not plain (selected, current, hovered), and paints all texts of a frame together. All texts of a
+// row have the same baseline, whatever fonts they use.
 class CellPainter
 {
 public:
@@ -23,15 +23,15 @@ public:
     ~CellPainter();
     Q_DISABLE_COPY_MOVE(CellPainter)
 
-    // Whether nothing in the rectangle is the host's own: no delegate, style sheet, model, hidden row or
-    // span. A table view can draw those, this can't.
+    // Whether nothing in the rectangle is customized by the host: no delegate, style sheet, model, hidden row
+    // or span. A table view can paint those, but this can't.
     bool canPaint(const QRect &dirty) const;
-    // Paints what is dirty. `option` is the view's and has no cell yet; `offset` is the view's while it
+    // Paints the dirty region. `option` is the view's, without a cell; `offset` is the view's offset while it
     // scrolls.
     void paint(const QStyleOptionViewItem &option, const QRegion &dirty, const QPoint &offset,
                const QModelIndex &hover);
-    // The same for a part of the viewport in which the columns are `shift` pixels to the right of where the
-    // view has them.
+    // The same for a part of the viewport in which the columns are `shift` pixels to the right of their
+    // positions in the view.
     void paintShifted(const QStyleOptionViewItem &option, const QRegion &dirty, const QRect &part, int shift,
                       const QModelIndex &hover);
 
@@ -51,7 +51,7 @@ private:
 
     QTableView &m_view;
     const FlexGridModel &m_model;
-    std::unique_ptr<GlyphTable> m_glyphs; // of the font that was painted last
+    std::unique_ptr<GlyphTable> m_glyphs; // for the font that was used last
 };
 
 } // namespace KOVAVSFDataGridLib

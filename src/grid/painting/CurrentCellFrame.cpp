@@ -30,7 +30,7 @@ void paintCurrentCellFrame(const QTableView &view, const QRect &part)
     QPen pen(view.palette().color(QPalette::HighlightedText), frameWidth);
     pen.setJoinStyle(Qt::MiterJoin);
     painter.setPen(pen);
-    // A pen's line is half outside of the rectangle that it draws.
+    // Half of a pen's width is outside the rectangle.
     painter.drawRect(cell.adjusted(frameWidth / 2, frameWidth / 2, -frameWidth / 2, -frameWidth / 2));
 }
 

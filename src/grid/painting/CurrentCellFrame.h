@@ -5,8 +5,8 @@ class QTableView;
 
 namespace KOVAVSFDataGridLib {
 
-// Draws a frame around the current cell where others are selected with it, so that it can be distinguished
-// from them. To be called while the viewport is painted. Nothing outside `part` of it is drawn on.
+// Paints a frame around the current cell if other cells are selected too, so that it can be distinguished.
+// Call it while the viewport is being painted. Only `part` of the viewport is painted on.
 void paintCurrentCellFrame(const QTableView &view, const QRect &part);
 
 } // namespace KOVAVSFDataGridLib

@@ -29,7 +29,7 @@ void GlyphBatch::draw(QPainter &painter)
     m_runs.clear();
 }
 
-// There are a handful: the fonts of a few scripts, plain and selected.
+// There are only a few: the fonts of some scripts, normal and selected.
 GlyphBatch::Run &GlyphBatch::runOf(int font, const QColor &colour)
 {
     for (Run &run : m_runs) {

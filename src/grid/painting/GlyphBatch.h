@@ -9,8 +9,8 @@ class QPainter;
 
 namespace KOVAVSFDataGridLib {
 
-// Collects the lines of a frame and draws them with one call for each font and colour, which costs much less
-// than one call for each text.
+// Collects the text lines of a frame and paints them with one call per font and colour, which is much cheaper
+// than one call per text.
 class GlyphBatch
 {
 public:

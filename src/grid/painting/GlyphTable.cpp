@@ -13,7 +13,7 @@ namespace KOVAVSFDataGridLib {
 namespace {
 
 constexpr char16_t ellipsis = u'…';
-constexpr qreal tolerance = 2; // pixels that neighbours can take off an elided text
+constexpr qreal tolerance = 2; // pixels by which an elided text can become narrower by kerning
 constexpr float notLearned = std::numeric_limits<float>::infinity();
 constexpr float hasOwnGlyphs = std::numeric_limits<float>::quiet_NaN();
 
@@ -22,14 +22,14 @@ constexpr bool isBetween(char16_t c, char16_t first, char16_t last)
     return c >= first && c <= last;
 }
 
-// Characters of square scripts, which are as wide whatever their neighbours are.
+// Ideographs, whose width does not depend on their neighbours.
 constexpr bool isIdeographic(char16_t c)
 {
     return isBetween(c, 0x4E00, 0x9FFF) || isBetween(c, 0x3400, 0x4DBF) || isBetween(c, 0x3000, 0x3029) ||
            isBetween(c, 0xFF01, 0xFF5E);
 }
 
-// Latin, Greek and Cyrillic letters that are one character each, digits, signs, kana.
+// Latin, Greek and Cyrillic letters without combining marks, digits, punctuation, kana.
 constexpr bool isAlphabetic(char16_t c)
 {
     return isBetween(c, 0x20, 0x7E) || isBetween(c, 0xA1, 0xAC) || isBetween(c, 0xAE, 0x24F) ||
@@ -70,7 +70,7 @@ void GlyphTable::layOut(const QString &text, qreal room, Qt::LayoutDirection dir
         shape(text, room, direction, line);
 }
 
-// False when the text needs a layout.
+// Returns false if the text needs a layout.
 bool GlyphTable::addUp(QStringView text, qreal room, GlyphLine &line)
 {
     line.glyphs.clear();
@@ -98,7 +98,7 @@ bool GlyphTable::addUp(QStringView text, qreal room, GlyphLine &line)
     return true;
 }
 
-// As much of the beginning as leaves room for the ellipsis.
+// As much of the beginning as fits before the ellipsis.
 bool GlyphTable::elide(QStringView text, qreal room, GlyphLine &line)
 {
     const Entry dots = entry(QStringView(&ellipsis, 1), 0);
@@ -112,7 +112,7 @@ bool GlyphTable::elide(QStringView text, qreal room, GlyphLine &line)
     for (qsizetype at = 0; at < text.size(); ++at) {
         const char16_t c = text[at].unicode();
         const Entry &found = entry(text, at);
-        // With what its neighbour takes off it, as font metrics measure.
+        // Includes the kerning with its neighbour, as in font metrics.
         qreal next = x + found.advance;
         if (at + 1 < text.size() && entry(text, at + 1).font != shaped)
             next += kerning(c, text[at + 1].unicode());
@@ -142,7 +142,7 @@ void GlyphTable::shape(const QString &text, qreal room, Qt::LayoutDirection dire
         const QFontMetricsF metrics(m_font);
         layout.setText(metrics.elidedText(text, Qt::ElideRight, room));
         laidOut = lineOf(layout, direction);
-        // Joined letters can grow when they come last, so that the metrics leave too many.
+        // Joined letters can become wider at the end, so the metrics may allow too many.
         for (qreal fit = room - 1; fit > 0 && laidOut.naturalTextWidth() > room + tolerance; --fit) {
             layout.setText(metrics.elidedText(text, Qt::ElideRight, fit));
             laidOut = lineOf(layout, direction);
@@ -210,8 +210,8 @@ void GlyphTable::learn(char16_t c)
         entry = {shape.glyphs[0].index, shape.glyphs[0].font, shape.ends[0]};
 }
 
-// All of a text at once: a table of texts has many of them. The signs among them take the font of their
-// script, so an ideograph is put before them.
+// All characters of a text at once, because a table contains many. Punctuation takes the font of its script,
+// so an ideograph precedes it here.
 void GlyphTable::learnIdeographs(QStringView text)
 {
     QString letters(u'中');
@@ -238,7 +238,7 @@ qreal GlyphTable::kerning(char16_t first, char16_t second)
             kept = static_cast<float>(learnKerning(first, second));
         return kept;
     }
-    // No square moves for its neighbour, but a space after one is that of its font.
+    // Ideographs have no kerning, but a space after one is taken from its font.
     if (isIdeographic(second) || (isIdeographic(first) && second != u' '))
         return 0;
     const quint32 row = isIdeographic(first) ? static_cast<quint32>(slot(first).font) : first;

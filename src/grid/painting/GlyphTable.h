@@ -11,8 +11,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// One glyph of a line: which of the table's fonts draws it, and where it is from the line's left end and
-// baseline.
+// One glyph of a line: the index of its font in the table, and its position relative to the line's left end
+// and baseline.
 struct PlacedGlyph
 {
     quint32 index = 0;
@@ -20,27 +20,27 @@ struct PlacedGlyph
     QPointF position;
 };
 
-// A line of text that is ready to be drawn. A caller keeps one and has it filled again for each text.
+// A line of text, ready to be painted. A caller keeps one and reuses it for each text.
 struct GlyphLine
 {
     std::vector<PlacedGlyph> glyphs;
     qreal width = 0; // without spaces at the end
 };
 
-// Lays out single lines in one font, many times faster than a text layout, with the same result: the layout
-// is asked once for each character and each pair of neighbours, and its answers are added up. That holds for
-// scripts where a glyph depends on nothing else. A text with any other character, with a ligature, or in a
-// right-to-left layout is left to the layout whole.
+// Lays out single lines in one font, many times faster than QTextLayout and with the same result: a layout
+// is created only once per character and per pair of neighbours, and the results are added up. This is valid
+// for scripts in which a glyph depends on nothing else. Texts with other characters, with ligatures or in
+// right-to-left direction are laid out as a whole.
 //
-// A line that is wider than its room ends in an ellipsis.
+// A line that does not fit ends with an ellipsis.
 class GlyphTable
 {
 public:
     explicit GlyphTable(const QFont &font);
 
     const QFont &font() const { return m_font; }
-    // From the top of a line to its baseline, and its height, both of the font itself: all lines have the
-    // same baseline, whichever other fonts their characters come from.
+    // The distance from the top of a line to its baseline, and the line's height. Both are those of the main
+    // font, so all lines have the same baseline, whatever fonts their characters use.
     qreal ascent() const { return m_ascent; }
     int height() const { return m_height; }
 
@@ -56,16 +56,16 @@ private:
         qreal advance = 0;
     };
     static constexpr int unknown = -1;
-    static constexpr int shaped = -2; // only a layout knows
+    static constexpr int shaped = -2; // needs a layout
     static constexpr std::size_t pageSize = 256;
-    static constexpr int printable = 95; // of ASCII
+    static constexpr int printable = 95; // in ASCII
     using Page = std::array<Entry, pageSize>;
 
-    // A glyph as a layout placed it, from left to right.
+    // Glyphs as placed by a layout, from left to right.
     struct Shape
     {
         std::vector<PlacedGlyph> glyphs;
-        std::vector<qreal> ends; // of each character
+        std::vector<qreal> ends; // per character
     };
 
     bool addUp(QStringView text, qreal room, GlyphLine &line);
@@ -76,8 +76,8 @@ private:
     const Entry &entry(QStringView text, qsizetype at);
     void learn(char16_t c);
     void learnIdeographs(QStringView text);
-    // How much nearer than its width the second character is to the first; NaN for a pair with glyphs of its
-    // own.
+    // The kerning of a pair, which is added to the first character's advance; NaN if the pair has its own
+    // glyphs.
     qreal kerning(char16_t first, char16_t second);
     qreal learnKerning(char16_t first, char16_t second);
     int fontIndex(const QRawFont &font);
@@ -87,7 +87,7 @@ private:
     int m_height = 0;
     std::vector<QRawFont> m_rawFonts;
     std::array<std::unique_ptr<Page>, 0x10000 / pageSize> m_pages;
-    std::vector<float> m_printablePairs; // kerning of ASCII
+    std::vector<float> m_printablePairs; // kerning in ASCII
     QHash<quint32, float> m_otherPairs;
 };
 

@@ -9,7 +9,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// All marks are sized by the text beside them.
+// The size of all marks depends on the font.
 int unit(const QFontMetrics &metrics)
 {
     return std::max(metrics.ascent() * 2 / 3, 6);
@@ -32,7 +32,7 @@ void paintFunnel(QPainter &painter, const QRectF &box)
     painter.drawPath(funnel);
 }
 
-// A shaft with a head, so that it is taken for no menu's arrow.
+// With a shaft, so that it doesn't look like a menu arrow.
 void paintSortArrow(QPainter &painter, const QRectF &box, bool isDescending)
 {
     const qreal middle = box.center().x();

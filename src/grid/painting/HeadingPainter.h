@@ -9,14 +9,14 @@ class QFontMetrics;
 
 namespace KOVAVSFDataGridLib {
 
-// The pixels that a heading's marks take, with the gap before them; 0 without any.
+// The width in pixels of a heading's marks, including the gap before them; 0 if there are none.
 int headingMarkWidth(const HeadingMark &mark, const QFontMetrics &metrics);
 
-// Draws the marks into `room`, as wide as headingMarkWidth: the sort's arrow and its place, a funnel.
+// Paints the marks into `room`, of width headingMarkWidth: the sort arrow with its number, and a funnel.
 void paintHeadingMark(QPainter &painter, const QRect &room, const HeadingMark &mark, const QPalette &palette,
                       const QFontMetrics &metrics);
 
-// Draws the small arrow by which a column's menu opens.
+// Paints the small arrow that opens a column's menu.
 void paintMenuArrow(QPainter &painter, const QRect &room, const QPalette &palette, bool isPressed);
 
 } // namespace KOVAVSFDataGridLib

@@ -10,7 +10,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// Of both themes: the text on it keeps its contrast.
+// Suitable for light and dark themes: the text on it keeps its contrast.
 QColor markColour(const QPalette &palette)
 {
     constexpr int darkestOfLight = 128;
@@ -26,7 +26,7 @@ void paintTextMarks(QPainter &painter, const QPalette &palette, const PlacedText
     const QFontMetricsF metrics(placed.font);
     marker(placed.text, col, [&](qsizetype start, qsizetype length) {
         QRectF marked = placed.line;
-        // Where letters run to the left, places in the text are not places on the line.
+        // In right-to-left text, positions in the text differ from positions on the line.
         if (!placed.text.isRightToLeft()) {
             const auto widthOf = [&](qsizetype end) {
                 return metrics.horizontalAdvance(placed.text, static_cast<int>(end));
@@ -39,7 +39,7 @@ void paintTextMarks(QPainter &painter, const QPalette &palette, const PlacedText
         marked.adjust(-1, 1, 1, -1);
         if (!placed.isSelected)
             return painter.fillRect(marked, markColour(palette));
-        // On the colour of a selection only a frame can be seen without harm to the text.
+        // On a selection's colour, only a frame is visible without making the text unreadable.
         QColor frame = markColour(palette);
         frame.setAlpha(255);
         painter.setPen(QPen(frame, 2));

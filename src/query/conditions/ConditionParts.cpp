@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Words of a condition that name no field.
+// Words of a condition that are not field names.
 bool isKeyword(const SqlScanner &sql, qsizetype token)
 {
     static constexpr QStringView words[] = {u"AND",  u"OR",   u"NOT",     u"LIKE", u"IS",        u"NULL",
@@ -21,12 +21,12 @@ bool isKeyword(const SqlScanner &sql, qsizetype token)
 
 bool isField(const SqlScanner &sql, qsizetype token)
 {
-    // What follows AS within brackets is a type.
+    // In parentheses, the name after AS is a type.
     return sql.isName(token) && !isFunction(sql, token) && !sql.isSymbol(token + 1, u'.') &&
            !isKeyword(sql, token) && !sql.isWord(token - 1, u"AS");
 }
 
-// The pieces of a pattern that wildcards separate.
+// The parts of a pattern between its wildcards.
 QStringList literalPieces(const QString &pattern, QChar escape)
 {
     QStringList pieces{QString()};
@@ -47,7 +47,7 @@ QStringList literalPieces(const QString &pattern, QChar escape)
 
 std::vector<TextRange> conditionParts(const SqlScanner &statement, TextRange condition)
 {
-    // Both ends of a range are one condition to the user.
+    // For the user, both ends of a range are one condition.
     if (boundsOf(statement, condition))
         return {condition};
     condition = withoutBrackets(statement, condition);

@@ -4,22 +4,22 @@
 
 #include <QtCore/QStringList>
 
-// A condition taken apart, for the user to read.
+// Splits a condition into parts that the user can read.
 namespace KOVAVSFDataGridLib {
 
-// The conditions that AND joins, brackets around them left out; one, where OR joins them. `condition` is
-// without the word WHERE.
+// The conditions joined by AND, without the brackets around them; a single part if OR joins them. `condition`
+// does not include the word WHERE.
 std::vector<TextRange> conditionParts(const SqlScanner &statement, TextRange condition);
 // The same of a condition that stands alone, as texts.
 QStringList textsOfParts(const QString &condition, const Dialect &dialect);
 
-// The fields that a condition names, each once, without tables and quotes.
+// The fields used in a condition, each once, without table names and quotes.
 QStringList fieldsOfCondition(const SqlScanner &statement, TextRange condition);
 
-// The condition in the user's words: "名称 包含“茶”". What has no words of its own stays as it is written.
+// The condition in words: "名称 包含“茶”". A condition that can't be put in words is returned as written.
 QString conditionInWords(const SqlScanner &statement, TextRange condition);
 
-// What the condition's LIKEs look for anywhere in a text, without wildcards.
+// The texts that LIKE conditions search for, without wildcards.
 QStringList textsSought(const SqlScanner &statement, TextRange condition);
 
 } // namespace KOVAVSFDataGridLib

@@ -23,7 +23,7 @@ bool isJoin(const SqlScanner &sql, qsizetype token, QStringView word, int depth)
     return sql.at(token).depth == depth && sql.isWord(token, word);
 }
 
-// An operand, a sign of comparison and a value.
+// An operand, a comparison operator and a value.
 struct Comparison
 {
     TextRange operand;

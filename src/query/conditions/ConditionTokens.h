@@ -7,27 +7,27 @@
 #include <optional>
 #include <vector>
 
-// What taking a condition apart and putting it into words have in common.
+// Functions shared by splitting conditions and putting them into words.
 namespace KOVAVSFDataGridLib {
 
-// The range without the brackets around all of it.
+// The range without brackets that enclose all of it.
 TextRange withoutBrackets(const SqlScanner &sql, TextRange range);
 
-// The pieces between a word on the outermost level. The AND of BETWEEN and the words of CASE join nothing.
+// The pieces between a word on the outermost level, except the AND of BETWEEN and words inside CASE.
 std::vector<TextRange> cutAt(const SqlScanner &sql, TextRange range, QStringView word);
 
-// Whether OR, or what else binds looser than AND, joins its outermost pieces.
+// Whether the outermost pieces are joined by OR or another operator with lower precedence than AND.
 bool isAlternative(const SqlScanner &sql, TextRange range);
 
 bool isFunction(const SqlScanner &sql, qsizetype token);
 
-// A text without its quotes; nothing for what isn't one text alone.
+// The text of a string literal; empty if the range isn't exactly one literal.
 std::optional<QString> textOfLiteral(const SqlScanner &sql, TextRange range);
 
-// The character that follows ESCAPE, whose place is `word`.
+// The character after ESCAPE, which is at `word`.
 QChar escapeOf(const SqlScanner &sql, qsizetype word);
 
-// Two comparisons in brackets that AND joins, which say between which values one operand is.
+// Two comparisons in brackets, joined by AND, that limit one operand to a range.
 struct Bounds
 {
     TextRange operand;

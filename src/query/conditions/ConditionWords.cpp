@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-// How conditions are put into words.
+// Puts conditions into words.
 
 namespace KOVAVSFDataGridLib {
 
@@ -20,7 +20,7 @@ QString quoted(const QString &text)
     return QueryTexts::QuotedInWords.arg(text);
 }
 
-// Whether a field is alone but for what makes it a text or a date.
+// Whether it is only a field, apart from a conversion to text or date.
 bool isFieldAlone(const SqlScanner &sql, TextRange range)
 {
     if (sql.isWord(range.begin, u"COALESCE"))
@@ -64,8 +64,8 @@ QString patternInWords(QString pattern, QChar escape)
     return words.arg(quoted(text));
 }
 
-// What the filter builder writes to compare records with each other: values that occur several times, or the
-// first ones of a sort. Nothing for other lists.
+// For subqueries of the filter builder that compare records: values that occur several times, or the first
+// ones of a sort. Empty for other lists.
 std::optional<QString> recordsInWords(const SqlScanner &sql, TextRange list)
 {
     if (!sql.isWord(list.begin, u"SELECT"))
@@ -76,7 +76,7 @@ std::optional<QString> recordsInWords(const SqlScanner &sql, TextRange list)
     QString count;
     const int depth = sql.at(list.begin).depth;
     for (qsizetype i = list.begin; i < list.end; ++i) {
-        // The records that are compared can have met such a condition themselves, farther inside.
+        // The compared records can have such a condition too, nested deeper.
         if (sql.at(i).depth > depth + 1)
             continue;
         if (sql.isWord(i, u"HAVING"))
@@ -97,7 +97,7 @@ std::optional<QString> recordsInWords(const SqlScanner &sql, TextRange list)
 struct Comparison
 {
     QString operand;
-    QString rest; // operator and value in words; empty when it is no comparison
+    QString rest; // operator and value in words; empty if it is not a comparison
 };
 
 std::optional<QString> likeInWords(const SqlScanner &sql, TextRange value)
@@ -116,8 +116,8 @@ std::optional<QString> likeInWords(const SqlScanner &sql, TextRange value)
     return std::nullopt;
 }
 
-// The number that is meant by a range around it, which holds all that is shown alike; empty when the range is
-// wider than that.
+// The number that a range around it stands for, which includes all numbers shown in the same way. Empty if
+// the range is wider than that.
 QString numberInWords(const SqlScanner &sql, TextRange bounds)
 {
     qsizetype word = bounds.begin;
@@ -125,7 +125,7 @@ QString numberInWords(const SqlScanner &sql, TextRange bounds)
         ++word;
     const double from = textOf(sql, {bounds.begin, word}).toDouble();
     const double to = textOf(sql, {word + 1, bounds.end}).toDouble();
-    constexpr double widest = 1.1e-5; // of a number with 6 digits
+    constexpr double widest = 1.1e-5; // for a number with 6 digits
     if (word >= bounds.end || from == 0 || to == 0 || from > to || to - from > widest * std::abs(to))
         return {};
     const int digits = to - from > 1e-13 * std::abs(to) ? 7 : 15;
@@ -181,7 +181,7 @@ Comparison comparisonOf(const SqlScanner &sql, TextRange range)
 
 QString alternativesInWords(const SqlScanner &sql, const std::vector<TextRange> &pieces)
 {
-    // One text looked for in several fields.
+    // Several fields searched for the same text.
     QStringList operands;
     QString rest;
     for (const TextRange &piece : pieces) {
@@ -202,7 +202,7 @@ QString alternativesInWords(const SqlScanner &sql, const std::vector<TextRange> 
     return words.join(QueryTexts::OrInWords);
 }
 
-// A text, also where an ODBC escape such as {d '2024-01-31'} says what it is.
+// A string, also inside an ODBC escape such as {d '2024-01-31'}.
 QString literalIn(const SqlScanner &sql, TextRange range)
 {
     for (qsizetype i = range.begin; i < range.end; ++i) {
@@ -212,7 +212,7 @@ QString literalIn(const SqlScanner &sql, TextRange range)
     return {};
 }
 
-// A day, a month or a year that is all between two bounds; empty when none is.
+// The day, month or year that the two bounds enclose exactly; empty if there is none.
 QString daysInWords(const SqlScanner &sql, const Bounds &bounds)
 {
     const QDate first = QDate::fromString(literalIn(sql, bounds.lower), Qt::ISODate);
@@ -234,7 +234,7 @@ QString boundsInWords(const SqlScanner &sql, const Bounds &bounds)
     if (const QString days = daysInWords(sql, bounds); !days.isEmpty())
         return operand + u' ' + QueryTexts::EqualsInWords.arg(days);
     const QString lower = operandInWords(sql, bounds.lower);
-    // No text is smaller: the operand is to be a number.
+    // No text sorts before '': the condition means that the operand is a number.
     if (textOfLiteral(sql, bounds.upper) == QString() && !bounds.isUpperIncluded)
         return operand + (bounds.isLowerIncluded ? u" ≥ "_s : u" > "_s) + lower;
     const QString upper = operandInWords(sql, bounds.upper);

@@ -32,8 +32,8 @@ bool isAmong(const std::array<qint32, Count> &types, qint32 adoType)
     return std::binary_search(types.begin(), types.end(), adoType);
 }
 
-// What Access is to write before ".[field]": the FROM text when it is one name, the alias when one follows,
-// else nothing, because the fields of a join can't be distinguished by its text.
+// What Access needs before ".[field]": the FROM text if it is a single name, or the alias after it; otherwise
+// empty, because the text of a join can't tell which table has the field.
 QString tableQualifier(const QString &fromText)
 {
     const SqlScanner from(fromText);
@@ -61,7 +61,7 @@ constexpr qint32 currencyType = 6;
 constexpr qint32 booleanType = 11;
 constexpr qint32 guidType = 72;
 
-// Where the engine isn't known, currency is left out as it always was.
+// With an unknown engine, currency is excluded, as it always was.
 QString classOf(qint32 adoType, const EngineMode &mode)
 {
     return adoType == currencyType && mode.isKnown() ? QStringLiteral("1") : classifyFieldType(adoType);
@@ -75,8 +75,8 @@ struct SearchedField
     qint32 adoType = 0;
 };
 
-// The comparison that finds a whole value where the engine's own text of it isn't the one that is shown: of a
-// number with an exponent, and of a Boolean. Empty where there is no such difference.
+// Finds a whole value if the engine's text of it differs from the shown text: for numbers with an exponent
+// and for Booleans. Empty if there is no such difference.
 QString conditionOfShown(const SearchedField &field, const QString &word, const Dialect &dialect)
 {
     if (!dialect.isKnown())
@@ -96,7 +96,7 @@ QString conditionOfShown(const SearchedField &field, const QString &word, const 
                            : QStringLiteral("%1 BETWEEN %2 AND %3").arg(field.name, range.from, range.to);
 }
 
-// The field as it is written; empty when it can't be searched, nothing when nobody can tell.
+// The field's name for SQL. An empty name if it can't be searched; no value if that is unknown.
 std::optional<QString> nameOfSearched(const TypedField &field, AllDBType database, const QString &qualifier,
                                       const EngineMode &mode)
 {
@@ -145,7 +145,7 @@ std::optional<std::vector<SearchedField>> searchedFields(std::span<const TypedFi
     return searched;
 }
 
-// A number has no letters, and casting every number of a large table to find that out takes long.
+// A number contains no letters, and casting every number of a large table to find none is slow.
 QStringList operandsFor(const std::vector<SearchedField> &fields, const QString &word, Engine engine)
 {
     const bool hasLetter = std::any_of(word.cbegin(), word.cend(), [](QChar c) { return c.isLetter(); });
@@ -159,8 +159,8 @@ QStringList operandsFor(const std::vector<SearchedField> &fields, const QString 
     return likesTextsOnly(engine) && hasLetter && !able.isEmpty() ? able : all;
 }
 
-// Words that begin a clause are taken apart, so that no later derivation takes them for its own; only a known
-// engine says how.
+// Splits words that begin a clause, so that later derivations don't take them for keywords. How that is done
+// is known only for known engines.
 QString literalOf(AllDBType database, const EngineMode &mode, const QString &text)
 {
     const Dialect dialect = dialectOf(database, mode);
@@ -204,7 +204,7 @@ QString numberCondition(const QString &field, qint32 adoType, const QString &cel
     const Engine engine = mode.engine;
     if (adoType != guidType && isNumberText(cellText))
         return showsNumber(engine, field, kindOf(adoType), cellText, isComputed);
-    // A column's declared type doesn't say that each of its values is a number.
+    // The declared type of a column doesn't guarantee that each value is a number.
     return likesTextsOnly(engine) ? field + QStringLiteral(" = ") + literalOf({}, mode, cellText)
                                   : like + literalOf({}, mode, likePattern(engine, cellText));
 }
@@ -300,10 +300,10 @@ bool isLikeAnAddress(const QString &text)
 CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoType,
                            const std::optional<QString> &cellText, const EngineMode &mode, bool isComputed)
 {
-    // Narrower than the quick filter's classes on purpose: equality makes no sense for the types left out.
+    // Deliberately fewer types than in the quick filter: equality makes no sense for the others.
     static constexpr std::array<qint32, 12> numbers{2, 3, 4, 5, 14, 16, 18, 20, 21, 72, 131, 139};
     static constexpr std::array<qint32, 4> texts{129, 130, 200, 202};
-    static constexpr std::array<qint32, 2> paddedTexts{129, 130}; // with blanks up to the field's length
+    static constexpr std::array<qint32, 2> paddedTexts{129, 130}; // padded with blanks to the field's length
     if (realName.isEmpty() || !adoType)
         return {};
     const bool isText = isAmong(texts, *adoType);
@@ -321,7 +321,7 @@ CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoTyp
     if (cellText->contains(u'\''))
         return {{}, QueryTexts::ApostropheInFilter};
     QString text = *cellText;
-    // The operand's cast leaves them out.
+    // The cast of the operand removes the padding.
     if (likesTextsOnly(mode.engine) && isAmong(paddedTexts, *adoType)) {
         while (text.endsWith(u' '))
             text.chop(1);

@@ -4,18 +4,18 @@
 
 #include <optional>
 
-// What the find dialog makes of its two boxes.
+// Converts the input of the find dialog.
 namespace KOVAVSFDataGridLib {
 
-// The typed words with one "%" between them; nothing when only blanks were typed.
+// The typed words, separated by one "%"; no value if only blanks were typed.
 std::optional<QString> prepareFindText(const QString &typed);
 
 struct FindAnswer
 {
     QString strFindText;
     QString strFieldName;
-    bool bIsAppointField = false; // whether one field was chosen
-    bool unloads = false;         // whether the dialog is done
+    bool bIsAppointField = false; // whether a single field was chosen
+    bool unloads = false;         // whether the dialog is finished
 };
 
 FindAnswer pressFind(const QString &typed, const QString &fieldComboText);

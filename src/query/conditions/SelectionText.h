@@ -4,14 +4,14 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-// What the dialogs for choosing fields and a sort write and read.
+// The texts that the dialogs for choosing fields and a sort write and read.
 namespace KOVAVSFDataGridLib {
 
 struct ListedField
 {
     QString name;
     bool isChecked = false;
-    QString written = {}; // as statements write it, where that is known
+    QString written = {}; // its form in statements, if known
 };
 
 struct SortTerm
@@ -20,17 +20,17 @@ struct SortTerm
     QString orderWord; // QueryTexts::Ascending or Descending
 };
 
-// The checked names, comma-separated, as they are written; one of which that isn't known gets brackets when
-// it has a blank or "(", unless it begins or ends with a bracket.
+// The checked names in their form for SQL, separated by commas. A name without a known form gets brackets if
+// it contains a blank or "(", unless it begins or ends with a bracket.
 QString composeFieldList(const QList<ListedField> &rows);
 
-// For each row, whether a part field is the row's name, plain, in brackets or in double quotes.
+// For each row, whether its name is a part field, written plain, in brackets or in double quotes.
 QList<bool> SetListFieldCheck(const QStringList &rowTexts, const QStringList &partFields);
 
-// A term is descending when " DESC" occurs in it, in any case; the field is what stands before.
+// A term is descending if it contains " DESC" in any case; the field is the text before that.
 SortTerm splitSortTerm(const QString &term);
 
-// The terms, comma-separated; ascending ones get no keyword.
+// The terms, separated by commas. Ascending terms have no keyword.
 QString composeSortList(const QList<SortTerm> &terms);
 
 } // namespace KOVAVSFDataGridLib

@@ -2,11 +2,11 @@
 
 #include "sql/select/SelectParts.h"
 
-// Which entries of a SELECT list are the same in every row.
+// Recognizes entries of a SELECT list that have the same value in every row.
 namespace KOVAVSFDataGridLib {
 
-// A word that is part of a text or a value: the type of E'…', N'…' or DATE '…', the U of U&'…', what follows
-// ::.
+// Whether a word belongs to a literal or a cast: the type of E'…', N'…' or DATE '…', the U of U&'…', the type
+// after ::.
 inline bool isWordOfConstant(const SqlScanner &sql, qsizetype word, qsizetype end)
 {
     const auto isText = [&](qsizetype token) {
@@ -19,7 +19,7 @@ inline bool isWordOfConstant(const SqlScanner &sql, qsizetype word, qsizetype en
            sql.isWord(word, u"FALSE") || sql.isWord(word, u"NULL");
 }
 
-// Texts, numbers and what is written of these alone, or a word like CURRENT_DATE.
+// Consists only of strings and numbers, or is a word such as CURRENT_DATE.
 inline bool isConstant(const SqlScanner &sql, const SelectParts::Item &item)
 {
     if (item.isName || item.isStar || item.value.isEmpty())
@@ -30,7 +30,7 @@ inline bool isConstant(const SqlScanner &sql, const SelectParts::Item &item)
         const bool isOther =
             kind == SqlToken::Kind::QuotedName ||
             (kind == SqlToken::Kind::Word && !isOneWord && !isWordOfConstant(sql, i, item.value.end));
-        // A parameter or a variable can be anything.
+        // A parameter or a variable can have any value.
         if (isOther || sql.isSymbol(i, u'?') || sql.isSymbol(i, u'@') || sql.isSymbol(i, u'$'))
             return false;
     }

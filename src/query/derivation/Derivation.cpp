@@ -23,14 +23,14 @@ const QString orderWords = u" ORDER BY "_s;
 
 Derivation::Derivation(const QString &statement, const std::vector<SourceField> &fields,
                        const Dialect &dialect, const StarSizes &sizes)
-    // Which mode MariaDB is in is not known here. Brackets are names in one and an error in all others.
+    // MariaDB's mode is unknown here. Brackets are quotes in one mode and an error in all others.
     : m_sql(statement, dialect), m_parts(SelectParts::of(m_sql)), m_dialect(dialect)
 {
     nameFields(fields, sizes);
     const QStringList aliases = aliasesToTell();
     const bool namesAlias =
         std::ranges::any_of(aliases, [&](const QString &alias) { return sizes.contains(alias); });
-    // A condition leaves the same rows before and after DISTINCT.
+    // A condition has the same effect before and after DISTINCT.
     const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
                         !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
                         !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isVersioned && !m_parts.isClosed &&
@@ -49,7 +49,7 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
     m_kind = isSimple ? Kind::Simple : Kind::Open;
 }
 
-// Whether a condition or a sort would change which records it selects from; see LimitFence.h.
+// Whether a condition or a sort would change which records the source returns; see LimitFence.h.
 bool Derivation::isSourceUnfenced() const
 {
     const Engine engine = m_dialect.engine;
@@ -61,7 +61,7 @@ bool Derivation::isSourceUnfenced() const
 bool Derivation::isFoundAsText() const
 {
     const QString &text = m_sql.sql();
-    // What is added would be within a comment, or after the end.
+    // Anything appended would be part of a comment, or follow the end.
     if (m_sql.endsInLineComment() || m_sql.isSymbol(m_sql.count() - 1, u';'))
         return false;
     const auto isAt = [&](const QString &word, TextRange clause, qsizetype token) {
@@ -152,8 +152,8 @@ QString Derivation::withoutConditions() const
     return text;
 }
 
-// The WHERE of each SELECT that is united, in brackets or not. A table of WITH belongs to what is selected
-// from.
+// The positions for WHERE in each SELECT of a union, in brackets or not. A table defined by WITH belongs to
+// the source.
 std::vector<qsizetype> Derivation::unitedConditions() const
 {
     const auto beginsSelect = [&](qsizetype i) {
@@ -162,7 +162,7 @@ std::vector<qsizetype> Derivation::unitedConditions() const
                isOneOf(m_sql, before, {u"UNION", u"EXCEPT", u"INTERSECT", u"MINUS"});
     };
     std::vector<qsizetype> conditions;
-    int depth = 0; // of the SELECT that is read
+    int depth = 0; // of the SELECT being read
     for (qsizetype i = m_parts.with.end; i < m_sql.count(); ++i) {
         if (m_sql.at(i).depth < depth)
             --depth; // at the closing bracket
@@ -222,8 +222,8 @@ bool Derivation::needsFields() const
                                                      [](const auto &item) { return item.isStar; });
 }
 
-// The text of the tokens with a line break before each FROM, WHERE and ORDER BY at least this deep in
-// brackets.
+// The text of the tokens with a line break before each FROM, WHERE and ORDER BY that is nested at least this
+// deep.
 QString Derivation::withWordsApart(TextRange tokens, int fromDepth) const
 {
     if (tokens.isEmpty())
@@ -292,7 +292,7 @@ QString Derivation::headWith(const QString &list) const
            withWordsApart(m_parts.source, 1);
 }
 
-// Engines call a field without an alias by its text, which therefore stays.
+// Engines name a field without an alias by its text, so the text must not change.
 QString Derivation::listText() const
 {
     const bool isNamed =
@@ -309,7 +309,7 @@ QString Derivation::asTable() const
         --end;
     const TextRange all{m_parts.with.end, end};
     QString inner = withWordsApart(all, 0);
-    // A limit takes its rows in an order, and so does DISTINCT ON. Any other order is for what comes outside.
+    // A limit depends on the order of its rows, and so does DISTINCT ON. Any other sort is applied outside.
     const bool isOrdered =
         !m_parts.order.isEmpty() && !m_parts.isLimited && !m_parts.isTop && !m_parts.isDistinctOn;
     const qsizetype start = m_sql.at(all.begin).start;
@@ -322,7 +322,7 @@ QString Derivation::asTable() const
     inner = inner.trimmed();
     if (needsFence(m_sql, {0, end}, m_dialect.engine))
         inner = fenced(inner, m_dialect.engine);
-    // A comment to the end of its line must not swallow the bracket.
+    // A line comment at the end must not include the bracket.
     return u"(\n"_s + inner + u"\n)"_s + innerTableAlias(m_dialect, u"Q"_s);
 }
 

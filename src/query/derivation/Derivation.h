@@ -8,10 +8,10 @@
 #include <QtCore/QHash>
 #include <QtCore/QStringList>
 
-// Statements derived from any SELECT, such that the rows are right.
+// Derives statements from any SELECT, so that they return the right rows.
 namespace KOVAVSFDataGridLib {
 
-// The rows that a condition is looked for in: SELECT written FROM source, with the prefix in front.
+// The rows that a condition is applied to: SELECT <written> FROM <source>, preceded by `prefix`.
 struct FilteredResult
 {
     QString prefix;
@@ -21,125 +21,125 @@ struct FilteredResult
     QString list = QStringLiteral("*");
 };
 
-// What a command does to a statement; see Derivation::whyNot.
+// How a command changes a statement; see Derivation::whyNot.
 enum class DerivationStep { Condition, Sort, Fields };
 
-// A term of the sort of a statement that has become a table.
+// One sort term of a statement that became a derived table.
 struct OuterTerm
 {
-    int field = -1; // of the table, from 0; -1 when it sorts by none of them
-    QString text;   // empty then, because it can't be written
+    int field = -1; // index in the derived table; -1 if it sorts by none of its fields
+    QString text;   // empty if the term can't be written there
     bool isDescending = false;
 };
 
-// How many fields each star of a list gives, by the star as Derivation::starsToMeasure writes it; 0 for an
-// alias of Derivation::aliasesToTell that is no column.
+// The number of fields of each star in a list, by the star as Derivation::starsToMeasure returns it. 0 for an
+// alias of Derivation::aliasesToTell that is not a column.
 using StarSizes = QHash<QString, qsizetype>;
 
 // Derives from one statement. There are three kinds of statements:
 //
-// simple  SELECT list FROM … [WHERE …] [ORDER BY …] with plain names in its list, all of them different,
-// whose
-//         keywords can be found as SqlText.h does it. Such statements are derived from as plain text.
-// open    the same clauses, but with DISTINCT, aliases, expressions, equal names or sub-selects. Conditions
-// and sorts
-//         name a field by its value, so that the statement stays one over its tables and its rows can still
-//         be written back.
-// closed  all others: a condition on their result needs them as a table, `SELECT * FROM (…) AS Q`.
+// simple  SELECT list FROM … [WHERE …] [ORDER BY …] with plain names in its list, all of them
+//         different, and with keywords that SqlText.h can find in the text. Such statements are
+//         derived as plain text.
+// open    the same clauses, but with DISTINCT, aliases, expressions, equal names or sub-selects.
+//         Conditions and sorts name a field by its value, so that the statement stays one over its
+//         tables and is not nested in another one. So its rows can
+//         still be written back.
+// closed  all others: a condition on their result must select from them, `SELECT * FROM (…) AS Q`.
 //
-// Statements are as joinStatementLines leaves them. In what is derived from an open or closed
+// Statements must be those returned by joinStatementLines. In what is derived from an open or closed
 // statement, the words FROM, WHERE and ORDER BY of inner SELECTs follow a line break, so that SqlText.h finds
 // only the outer ones.
 class Derivation
 {
 public:
-    // `fields` are those of the statement's result, in its order; none when they can't be read. `sizes` are
-    // needed where starsToMeasure() or aliasesToTell() asks for them.
+    // `fields` are those of the statement's result, in order; empty if they can't be read. `sizes` are needed
+    // if starsToMeasure() or aliasesToTell() returns anything.
     Derivation(const QString &statement, const std::vector<SourceField> &fields, const Dialect &dialect,
                const StarSizes &sizes = {});
 
-    // The stars of the list, where only the database can say which of them gives a field; a field is not
-    // known by its table then. The first fields of a statement of one star are that star's.
+    // The stars of the list, if only the database can tell which of them a field comes from; its table is
+    // then unknown. The first fields of a statementOfStar() are those of its star.
     QStringList starsToMeasure() const;
-    // What the condition names and the list has as an alias: the alias is meant unless the sources have a
-    // column of that name, and then what is derived from the statement must keep it.
+    // Names in the condition that are also aliases of the list. The alias is meant unless the sources have a
+    // column of that name; then a derived statement must keep the name.
     QStringList aliasesToTell() const;
-    // The star, or the alias as a column, alone.
+    // A statement that selects only the star, or only the alias as a column.
     QString statementOfStar(const QString &star) const;
 
     bool isSimple() const { return m_kind == Kind::Simple; }
-    // Whether plain text work takes this step rightly: with a simple statement, unless the list changes and
-    // the sort counts its entries.
+    // Whether this step can be done as plain text: for simple statements, unless the list changes and the
+    // sort refers to its positions.
     bool isTextWork(DerivationStep step) const;
 
-    // Whether it has a sort of its own.
+    // Whether it has an ORDER BY.
     bool isSorted() const { return !m_parts.order.isEmpty(); }
-    // Whether only the result's fields tell what kind it is: a star can bring equal names from several
+    // Whether the kind depends on the fields of the result: a star can return equal names from several
     // tables.
     bool needsFields() const;
-    // Whether what is derived from it has it as a table, and the terms of its sort as they are written
-    // outside of that.
+    // Whether statements derived from it select from it as a derived table; and the terms of its sort, for
+    // use outside that table.
     bool isTable() const { return m_kind == Kind::Closed; }
     std::vector<OuterTerm> outerTerms() const;
-    // Whether its list leaves rows out, so that other fields mean other rows.
+    // Whether DISTINCT removes rows, so that other fields mean other rows.
     bool isDistinct() const { return m_parts.isDistinct && !m_parts.isDistinctOn; }
-    // Whether a choice of fields stays a statement of this form, with TOP, say, before its list, and is the
-    // table of what is derived from it, so that no other fields can be named there.
+    // Whether a choice of fields keeps the form of the statement (for example with TOP before its list) and
+    // becomes the table of what is derived from it, so that other fields can't be used there.
     bool hasListAsTable() const { return m_kind == Kind::Closed && keepsListWords(); }
-    // The SELECT in brackets from which it selects; empty when it selects from something else.
+    // The subquery that it selects from; empty if it selects from anything else.
     QString table() const;
-    // For each field of the result, its name.
+    // The name of each field of the result.
     const QStringList &names() const { return m_names; }
     // Whether it selects from more than one table.
     bool isJoined() const { return m_parts.sources.size() > 1; }
 
-    // For each field of the result, what a condition or a sort writes; empty where no name is unmistakable.
+    // For each field of the result, its name in conditions and sorts; empty if no name is unambiguous.
     const QStringList &written() const { return m_written; }
-    // For each field of the result, what a SELECT list writes.
+    // For each field of the result, its form in a SELECT list.
     const QStringList &listed() const { return m_listed; }
 
-    // Why this step isn't possible, for a person to read; empty when it is.
+    // Why this step isn't possible, as a text for the user; empty if it is.
     QString whyNot(DerivationStep step) const;
 
-    // The statement with one more condition, with this sort instead of its own (an empty one removes it),
-    // with these list entries out of listed(), and without conditions, grouping kept. Empty when whyNot() has
-    // a reason.
+    // The statement with one more condition; with this sort instead of its own (an empty one removes it);
+    // with these list entries of listed(); and without conditions, but with its grouping. Empty if whyNot()
+    // returns a reason.
     QString withCondition(const QString &condition) const;
     QString withSort(const QString &sortList) const;
     QString withFields(const QStringList &listEntries) const;
-    // The fields of these names from the statement as a table.
+    // Selects the fields with these names from the statement as a derived table.
     QString asTableWith(const QStringList &names) const;
     QString withoutConditions() const;
 
-    // Whether this statement was derived from `other` as a table, and the same over another table instead,
+    // Whether this statement was derived from `other` as a table; and the same statement over another table,
     // without conditions.
     bool hasAsTable(const Derivation &other) const;
     QString withSource(const Derivation &other) const;
-    // All fields of `other`, which selects the same rows as table(), under the conditions and the sort of
-    // this statement.
+    // All fields of `other`, which selects the same rows as table(), with the conditions and the sort of this
+    // statement.
     QString withTable(const Derivation &other) const;
 
     // The statement with the fields of `fieldStatement`, which selects from the same tables: as they are
-    // listed there, or, where this statement is derived from that one as a whole, by their names. Empty when
-    // that can't be done.
+    // listed there or, if this statement was derived from that one as a whole, by their names. Empty if that
+    // is impossible.
     QString withFieldsOf(const Derivation &fieldStatement) const;
 
-    // What the list of this statement has for the fields of another one, which may lack its aliases. Empty
-    // when it hasn't got one of them.
+    // The list entries of this statement for the fields of another one, which may lack its aliases. Empty if
+    // one of them is missing.
     QStringList listedFor(const Derivation &part) const;
 
-    // What this statement's fields are called in the list of one that was derived from it: as listed(), or,
-    // where that one has this as a table, by their names.
+    // The names of this statement's fields in the list of one derived from it: as in listed() or, if that one
+    // has this as a table, by their names.
     const QStringList &listedIn(const Derivation &derived) const;
 
-    // The fields of this statement as a statement that withFieldsOf() takes: without conditions and sort.
+    // A statement with the fields of this one for withFieldsOf(): without conditions and sort.
     QString fieldsStatement() const;
 
-    // What follows FROM, and what has to stand in front of SELECT, in a statement over the same rows before
-    // any condition: SELECT DISTINCT written() FROM source().
+    // What must follow FROM, and what must precede SELECT, in a statement over the same rows before any
+    // condition: SELECT DISTINCT written() FROM source().
     QString source() const;
     QString prefix() const;
-    // The condition of the statement's own WHERE over source(); empty when there is none.
+    // The condition of the statement's own WHERE, for use over source(); empty if there is none.
     QString condition() const;
     FilteredResult filteredResult() const;
 
@@ -156,8 +156,8 @@ private:
     bool isFoundAsText() const;
     bool hasPlainList() const;
     bool isSourceUnfenced() const;
-    QString equalName() const; // a name that several fields have; empty when there is none
-    // The clauses that the steps work on: those of this statement, or of one that has it as a table.
+    QString equalName() const; // a name that several fields have; empty if there is none
+    // The clauses that the steps change: those of this statement, or of one that has it as a table.
     SQLSentence base() const;
     QString asTable() const;
     QString listText() const;
@@ -184,13 +184,13 @@ private:
     Kind m_kind = Kind::Closed;
     QStringList m_names;
     std::vector<qint32> m_types;
-    QHash<QString, int> m_countOfName; // by the name in one letter case
+    QHash<QString, int> m_countOfName; // by case-folded name
     QStringList m_written;
     QStringList m_listed;
-    std::vector<int> m_itemOfField; // the list entry that gives the field
-    QStringList m_tableOfField; // how a field of a star is told apart from others of its name; can be empty
-    bool m_isPlaced = true;     // whether each field has its entry
-    bool m_isListKnown = true;  // whether the list can have given these fields
+    std::vector<int> m_itemOfField; // the list entry that the field comes from
+    QStringList m_tableOfField;     // distinguishes a star's field from others of its name; can be empty
+    bool m_isPlaced = true;         // whether the entry of each field is known
+    bool m_isListKnown = true;      // whether the list can have these fields
 };
 
 } // namespace KOVAVSFDataGridLib

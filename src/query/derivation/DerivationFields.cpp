@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-// Statements with other fields.
+// The functions that derive statements with other fields.
 
 namespace KOVAVSFDataGridLib {
 
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Letter case and spaces mean nothing except in quotes.
+// Case and spaces matter only in quotes.
 bool isSameValue(const QString &a, const QString &b)
 {
     static constexpr QStringView quotes = u"'\"`[";
@@ -75,13 +75,13 @@ QString Derivation::withFieldsOf(const Derivation &fieldStatement) const
     for (const QString &name : fieldStatement.m_names) {
         const qsizetype at = m_names.indexOf(name);
         const bool isListed = at >= 0 && !m_listed.at(at).isEmpty();
-        // Else it is of the table, though not of the list.
+        // Otherwise it is a field of the table, but not of the list.
         entries.append(isListed ? m_listed.at(at) : writtenName(m_dialect, name));
     }
     return withFields(entries);
 }
 
-// Only a column is found by its name alone, and only where that name can't be another table's.
+// Only a column is found by its name alone, and only if no other table can have that name.
 QStringList Derivation::listedFor(const Derivation &part) const
 {
     const auto isColumn = [](const Derivation &statement, qsizetype field) {
@@ -96,7 +96,7 @@ QStringList Derivation::listedFor(const Derivation &part) const
     for (qsizetype i = 0; i < part.m_names.size(); ++i) {
         const QString &name = part.m_names.at(i);
         if (part.m_listed.at(i).isEmpty() && part.countOf(name) > 1)
-            return {}; // of which table is not known
+            return {}; // its table is unknown
         qsizetype own = fieldFor(part.valueOf(static_cast<int>(i)), name);
         if (own < 0 && countOf(name) == 1) {
             const qsizetype named = m_names.indexOf(name);
@@ -111,7 +111,7 @@ QStringList Derivation::listedFor(const Derivation &part) const
     return entries;
 }
 
-// The field with that value, of several the one with that name.
+// The field with that value; of several, the one with that name.
 qsizetype Derivation::fieldFor(const QString &value, const QString &name) const
 {
     qsizetype found = -1;
@@ -137,8 +137,8 @@ const QStringList &Derivation::listedIn(const Derivation &derived) const
     return m_kind == Kind::Closed && isTableThere ? m_written : m_listed;
 }
 
-// With DISTINCT, a sort can only be by fields of the list. A constant puts no row before another one, and
-// engines refuse it or count the entries of the list with it.
+// With DISTINCT, a sort can use only fields of the list. A constant does not sort, and engines reject it or
+// take it for a position.
 QString Derivation::sortWithin(const QStringList &entries) const
 {
     QStringList terms;

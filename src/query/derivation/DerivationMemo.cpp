@@ -6,8 +6,8 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// What is shown, all fields and the part fields, each without the fields of its result, with them and with
-// the sizes of its stars, and room for what is derived from them.
+// Enough for the shown statement, all fields and the part fields, each without fields, with fields and with
+// star sizes, and for statements derived from them.
 constexpr std::size_t entriesKept = 16;
 
 } // namespace

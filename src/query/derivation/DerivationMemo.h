@@ -7,8 +7,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Keeps the derivations that were asked for last: one user action asks for that of the shown statement many
-// times, and taking a long statement apart takes milliseconds. Copies share what they keep.
+// A cache of the last derivations: one user action needs the one of the shown statement many times, and
+// parsing a long statement takes milliseconds. Copies share the cached objects.
 class DerivationMemo
 {
 public:
@@ -25,7 +25,7 @@ private:
         std::shared_ptr<const Derivation> derivation;
     };
 
-    std::list<Entry> m_entries; // the latest first
+    std::list<Entry> m_entries; // most recently used first
 };
 
 } // namespace KOVAVSFDataGridLib

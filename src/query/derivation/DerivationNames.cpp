@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-// How the fields of a result are named in statements derived from it.
+// Determines the names of a result's fields in derived statements.
 
 namespace KOVAVSFDataGridLib {
 
@@ -31,11 +31,11 @@ bool isOneCall(const SqlScanner &sql, TextRange value)
     return true;
 }
 
-// The value as it can stand beside an operator.
+// The value in a form that can be an operand.
 QString operand(const SqlScanner &sql, const SelectParts::Item &item)
 {
     const QString text = textOf(sql, item.value);
-    // A sort takes a number for a position, and some engines refuse other constants.
+    // In a sort, a number is a position, and some engines reject other constants.
     if (isConstant(sql, item))
         return u"(CASE WHEN 1=1 THEN %1 END)"_s.arg(text);
     // MySQL compares what this finds without the quotes that it is shown with.
@@ -49,8 +49,8 @@ QString operand(const SqlScanner &sql, const SelectParts::Item &item)
 
 } // namespace
 
-// DISTINCT sorts by what its list has, and a constant is written in another way there. It puts no row before
-// another one, so that its terms can be left out.
+// DISTINCT sorts by its list entries, where a constant is written in another way. A constant does not sort,
+// so its terms can be removed.
 QString Derivation::sortableTerms(const QString &sortList) const
 {
     QStringList constants;
@@ -94,7 +94,7 @@ void Derivation::nameFields(const std::vector<SourceField> &fields, const StarSi
     nameOpenFields(all);
 }
 
-// An engine calls a field by its alias. What it doesn't call so is the end of an expression.
+// An engine names a field by its alias. If the names differ, the word is the end of an expression.
 void Derivation::dropUnlikelyAliases(const std::vector<SourceField> &fields)
 {
     for (std::size_t i = 0; i < fields.size(); ++i) {
@@ -120,7 +120,7 @@ void Derivation::nameOpenFields(const std::vector<SourceField> &fields)
         }
         const SelectParts::Item &item = m_parts.items[static_cast<std::size_t>(at)];
         QString written = operand(m_sql, item);
-        // A sort takes a bare name for another field's alias before it looks at the table.
+        // In a sort, a bare name means an alias of the list before it means a column.
         const bool isBareName = item.isName && item.value.end - item.value.begin == 1;
         const QString name = isBareName ? m_sql.name(item.value.begin) : QString();
         const bool isAliasOfOther =
@@ -144,7 +144,7 @@ bool Derivation::hasAllFields() const
     });
 }
 
-// The name of a field that a star gives; empty when it could mean another field as well.
+// The qualified name of a star's field; empty if it could mean another field as well.
 QString Derivation::qualified(const std::vector<SourceField> &fields, std::size_t index) const
 {
     if (!m_isPlaced)
@@ -154,13 +154,13 @@ QString Derivation::qualified(const std::vector<SourceField> &fields, std::size_
     if (const QString &qualifier = m_tableOfField.at(static_cast<qsizetype>(index)); !qualifier.isEmpty())
         return qualifier + u'.' + name;
     const std::vector<SelectParts::Source> &sources = m_parts.sources;
-    // What the result has once, the sources have once, unless it leaves some of their fields out.
+    // A name that is unique in the result is unique in the sources, unless some of their fields are missing.
     if (countOf(field.name) == 1 && (sources.size() <= 1 || hasAllFields()))
         return name;
     const auto isIts = [&](const SelectParts::Source &source) {
         return sources.size() == 1 || isSame(source.table, field.table);
     };
-    // Not if the table is joined to itself, or to what selects from it.
+    // Not if the table is joined to itself, or to a subquery that selects from it.
     const auto isEqual = [&](const SourceField &other) {
         return isSame(other.name, field.name) && isSame(other.table, field.table);
     };
@@ -180,7 +180,7 @@ QStringList Derivation::aliasesToTell() const
             isNamed = isNamed ||
                       (m_sql.isName(i) && isSame(m_sql.name(i), item.alias) && !m_sql.isSymbol(i - 1, u'.') &&
                        !m_sql.isSymbol(i + 1, u'.') && !m_sql.isSymbol(i + 1, u'('));
-        // Not in double quotes, in which SQLite takes what is no column for a text.
+        // Not in double quotes: SQLite takes a quoted name for a string if there is no such column.
         if (isNamed && !item.alias.isEmpty() && readsAliasesInConditions(m_dialect.engine))
             aliases.append(enclosed(u'`', item.alias, u'`'));
     }
@@ -234,7 +234,7 @@ int Derivation::fieldOfTerm(const SelectParts::Item &term) const
     });
     if (byValue >= 0 || !term.isName)
         return byValue;
-    // T.Name and Name are one column where the result has no other of that name.
+    // T.Name and Name are the same column if the result has no other field of that name.
     const QString last = m_sql.name(term.value.end - 1);
     if (countOf(last) != 1)
         return -1;

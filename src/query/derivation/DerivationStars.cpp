@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-// Which entry of the list gives which field of the result.
+// Finds out which list entry each field of the result comes from.
 
 namespace KOVAVSFDataGridLib {
 
@@ -11,13 +11,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A run of fields: those of one source, or the one of an entry that is no star.
+// Consecutive fields: those of one source, or the single one of an entry that is not a star.
 struct Run
 {
     int item;
-    QString source;    // stars of the same one give the same fields; empty for an entry that is no star
-    QString table;     // the source's own name; empty where it has none
-    QString qualifier; // what tells its fields apart; empty for a star of several sources
+    QString source;    // stars with the same source have the same fields; empty if the entry is not a star
+    QString table;     // the source's own name; empty if it has none
+    QString qualifier; // qualifies its fields; empty for a star over several sources
     qsizetype size = 1;
     bool isStar = false;
 };
@@ -74,7 +74,7 @@ bool isOneSource(const std::vector<Run> &runs)
                        [&](const Run &run) { return !run.isStar || run.source == first->source; });
 }
 
-// The stars of one source share what the other entries leave.
+// The stars of one source share the fields that remain for them.
 bool measureOneSource(std::vector<Run> &runs, qsizetype fieldCount)
 {
     const auto stars = std::ranges::count_if(runs, &Run::isStar);
@@ -86,7 +86,7 @@ bool measureOneSource(std::vector<Run> &runs, qsizetype fieldCount)
     return true;
 }
 
-// By the tables that the fields come from. Behind a star, an entry that is none can be of the same table.
+// By the tables of the fields. After a star, an entry that is not a star can have the same table.
 bool measureByTables(std::vector<Run> &runs, const std::vector<SourceField> &fields)
 {
     const auto firstStar = std::ranges::find_if(runs, &Run::isStar);
@@ -135,7 +135,7 @@ bool areAll(const std::vector<Run> &runs, const std::vector<SourceField> &fields
     return count == std::ssize(fields);
 }
 
-// Whether the stars of one source give the same names.
+// Whether all stars of the same source have the same names.
 bool areAlike(const std::vector<Run> &runs, const std::vector<SourceField> &fields)
 {
     std::size_t next = 0;
@@ -187,7 +187,7 @@ void Derivation::placeFields(const std::vector<SourceField> &fields, const StarS
     m_tableOfField.resize(static_cast<qsizetype>(fields.size()));
     if (fields.empty())
         return;
-    // PostgreSQL's (row).*, of as many fields as the row has
+    // PostgreSQL's (row).*, with as many fields as the row has
     const bool hasRowStar = std::ranges::any_of(m_parts.items, [&](const SelectParts::Item &item) {
         return !item.isStar && m_sql.isSymbol(item.value.end - 1, u'*');
     });
@@ -197,7 +197,7 @@ void Derivation::placeFields(const std::vector<SourceField> &fields, const StarS
         const auto stars = std::ranges::count_if(m_parts.items, &SelectParts::Item::isStar);
         const auto least = static_cast<std::size_t>(std::ssize(m_parts.items) - stars);
         m_isListKnown = stars > 0 && least < fields.size() && !hasRowStar;
-        // Before the first star, each entry has one field.
+        // Before the first star, each entry is one field.
         for (std::size_t i = 0; m_isListKnown && !m_parts.items[i].isStar; ++i)
             m_itemOfField[i] = static_cast<int>(i);
         return;
@@ -209,7 +209,7 @@ void Derivation::placeFields(const std::vector<SourceField> &fields, const StarS
             const bool isAll = m_parts.items[static_cast<std::size_t>(run.item)].value.end -
                                    m_parts.items[static_cast<std::size_t>(run.item)].value.begin ==
                                1;
-            // A name that no other field has needs no table.
+            // A unique name needs no table.
             if (run.isStar && !(isAll && countOf(fields[static_cast<std::size_t>(field)].name) == 1))
                 m_tableOfField[field] = run.qualifier;
         }

@@ -14,7 +14,7 @@ const QString fromWord = QStringLiteral(" FROM ");
 const QString whereWord = QStringLiteral(" WHERE ");
 const QString orderWords = QStringLiteral(" ORDER BY ");
 
-// The statement before its sort (with the blank that stands there) and before its condition (without).
+// The statement without its sort (including the blank before that) or without its condition (excluding it).
 QString headWithoutConditions(const QString &statement)
 {
     QString head = statement;
@@ -25,7 +25,7 @@ QString headWithoutConditions(const QString &statement)
     return head;
 }
 
-// AND binds closer, so an OR or the like outside all brackets would take rows in that AND is to keep out.
+// AND has precedence, so an OR or the like outside all brackets would return rows that AND must exclude.
 bool hasOuterOr(const QString &condition, const Dialect &dialect)
 {
     const SqlScanner scanned(condition, dialect);
@@ -77,7 +77,7 @@ void addCondition(SQLSentence &sentence, const QString &added, const Dialect &di
 {
     if (added.isEmpty())
         return;
-    // A comment that ends with its line must not swallow what follows.
+    // A line comment must not include what follows.
     const QString condition = SqlScanner(added, dialect).endsInLineComment() ? added + u'\n' : added;
     const QString where = trim(sentence.where);
     if (where.isEmpty()) {

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// "DISTINCT T.A" lists T.A.
+// "DISTINCT T.A" becomes T.A.
 QString withoutListWords(QString item)
 {
     for (const auto &[word, blanks] :

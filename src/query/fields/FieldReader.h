@@ -13,14 +13,14 @@ namespace KOVAVSFDataGridLib {
 struct SourceField
 {
     QString name;
-    qint32 adoType = 0; // ADO type number; 0 when it isn't known
-    QString table = {}; // the table it comes from, under the table's own name; empty when that isn't known
+    qint32 adoType = 0; // ADO type number; 0 if unknown
+    QString table = {}; // the table it comes from, by the table's own name; empty if unknown
 
     bool operator==(const SourceField &) const = default;
 };
 
-// What the query model needs of a database. The implementation decides whether it keeps connections open and
-// remembers what it has read. Neither function throws; failures are answered, never shown.
+// The query model's access to a database. The implementation decides whether to keep connections open and
+// cache what it has read. Neither function throws; errors are returned and never shown.
 class FieldReader
 {
 public:
@@ -31,14 +31,14 @@ public:
     // Whether a connection with this connection string is open or could be opened now.
     virtual bool Open(const QString &connectionString) = 0;
 
-    // The fields of the statement's result in its order, without fetching a row; nothing when they can't be
-    // read. The cheap way is the statement's no-row form (GetNoRowSQL). A database that refuses that form
-    // (the statement groups, unites or holds a sub-select with a condition) is asked about the statement
-    // itself.
+    // The fields of the statement's result in order, without fetching rows; no
+    // value if they can't be read. The cheap way is to use the statement's no-row
+    // form (GetNoRowSQL). If the database rejects that form (with grouping, a
+    // union or a condition in a sub-select), the statement itself is described.
     virtual std::optional<std::vector<SourceField>> Read(const QString &connectionString,
                                                          const QString &statement) = 0;
 
-    // The engine to which that connection leads, as it reads there; Other when it is not known.
+    // The engine of that connection in its present mode; Other if it is unknown.
     virtual EngineMode engineOf(const QString &) { return {}; }
 };
 

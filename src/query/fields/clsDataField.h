@@ -4,19 +4,19 @@
 
 namespace KOVAVSFDataGridLib {
 
-// One field of a statement, as the catalogue knows it.
+// One field of a statement in the catalogue.
 struct clsDataField
 {
-    QString FieldName = {};      // short name, as shown: no table in front, no brackets
-    QString FieldWholeName = {}; // as it is written in statements, with table or brackets where needed
-    qint32 FieldOrder = 0;       // place among the shown fields
+    QString FieldName = {};      // short name, as shown: without table and brackets
+    QString FieldWholeName = {}; // as used in statements, with table or brackets if needed
+    qint32 FieldOrder = 0;       // position among the shown fields
     qint32 FieldWidth =
-        0; // column width in twips; below 1 no width is known, except that -1 is the default width
-    qint32 IsPartField = 0; // 1 when the field belongs to the chosen part
+        0; // column width in twips; below 1 the width is unknown, except that -1 is the default width
+    qint32 IsPartField = 0; // 1 if the field belongs to the chosen part
     qint32 FieldColour = 0; // colour value
-    qint32 FieldType = 0;   // ADO type number; 0 when nobody knows it
+    qint32 FieldType = 0;   // ADO type number; 0 if unknown
     QString FieldKey = {};  // the field's key in the catalogue
-    qint32 IsHideField = 0; // not 0 when the field is hidden
+    qint32 IsHideField = 0; // not 0 if the field is hidden
 
     void InitFieldData()
     {

@@ -5,7 +5,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Reads the field names of statements and lets the user choose among them.
+// Reads the field names of statements and lets the user choose from them.
 class clsTableFieldManager
 {
 public:
@@ -14,13 +14,13 @@ public:
     QString PartFieldString;
     QString SortFieldString;
 
-    // Neither is owned; both must outlive the manager. Without a reader nothing can be read, without a
+    // Neither is owned; both must outlive the manager. Without a reader nothing can be read; without a
     // chooser every choice is cancelled.
     void SetFieldReader(FieldReader *reader) { m_reader = reader; }
-    // How the next choice writes the fields of its statement, in their order, until InitData(); an empty text
-    // leaves a field out.
+    // Sets the names that the next choice writes for the fields of its statement, in order, until InitData().
+    // An empty text excludes a field.
     void SetWrittenFields(const QStringList &written) { m_written = written; }
-    // Decides, with the reader's engine, how names are written.
+    // Together with the reader's engine, determines how names are written.
     void SetDBType(AllDBType type) { m_database = type; }
     void SetFieldChooser(FieldChooser *chooser) { m_chooser = chooser; }
     FieldChooser *GetFieldChooser() const { return m_chooser; }
@@ -32,17 +32,17 @@ public:
     }
     void ClearObject() { InitData(); }
 
-    // The name of the statement's field at a position counted from 1; empty when there is none.
+    // The name of the field at a 1-based position in the statement; empty if there is none.
     QString GetSelFieldRealName(const QString &strConnString, qint32 FieldIndex, const QString &PassSQL);
 
-    // Let the user choose the visible fields or the sort of a statement, read through ConnString. False, with
-    // an empty output, when the fields can't be read, the statement has no table or the user cancels. A part
-    // statement that is empty or can't be read only means that nothing is chosen yet.
+    // Let the user choose the visible fields or the sort of a statement that is read through ConnString.
+    // Return false and an empty output if the fields can't be read, the statement has no table or the user
+    // cancels. If a part statement is empty or can't be read, nothing is preselected.
     bool GetPartSelFields(const QString &strAllField, const QString &strPartField, QString &strRetSelFields);
     bool GetSortSelFields(const QString &strAllField, const QString &strSortField, QString &strRetSelFields);
 
 private:
-    // Fills the working names; false when they can't be read or there is nobody to ask.
+    // Fills the working names. Returns false if they can't be read or there is no chooser.
     bool IsReadyToChoose(const QString &strAllField);
     QList<OfferedField> Offered() const;
     std::optional<QStringList> ReadNames(const QString &connectionString, const QString &statement);

@@ -9,7 +9,7 @@ namespace {
 
 std::deque<ColumnCommand> &registered()
 {
-    static std::deque<ColumnCommand> commands; // whose addresses stay
+    static std::deque<ColumnCommand> commands; // a deque, because the addresses must not change
     return commands;
 }
 

@@ -7,8 +7,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// One thing that a user can do with a column, from its menu. Like a Command it is a static Registration in a
-// source file. Columns count from 1.
+// A command on a column, from its menu. Like a Command, it is a static Registration in a source file. Columns
+// are numbered from 1.
 struct ColumnCommand
 {
     // Makes its caption.
@@ -19,7 +19,7 @@ struct ColumnCommand
     Text caption;
     Record record = Record::Stays;
     void (*run)(Session &session, int col);
-    // What it derives from the shown statement; where that is refused, it can't run.
+    // The derivation from the shown statement that it needs; it can't run if that is refused.
     std::optional<DerivationStep> step = {};
     // Whether what is shown has anything for it. Null when that is always so.
     bool (*canRun)(Session &session, int col) = nullptr;
@@ -33,9 +33,9 @@ struct ColumnCommand
         explicit Registration(ColumnCommand command);
     };
 
-    // All of them in their order.
+    // All commands, in their order.
     static const std::vector<const ColumnCommand *> &all();
-    // Null when there is no such command.
+    // Null if there is no such command.
     static const ColumnCommand *find(const QString &key);
 };
 

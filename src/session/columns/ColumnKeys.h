@@ -2,7 +2,7 @@
 
 #include <QtCore/QString>
 
-// The keys of the column commands that other code names.
+// The keys of the column commands that other code uses.
 namespace KOVAVSFDataGridLib::ColumnKeys {
 
 using namespace Qt::StringLiterals;

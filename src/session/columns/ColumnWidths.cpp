@@ -4,7 +4,7 @@
 #include "session/columns/ColumnKeys.h"
 #include "session/layout/ShownColumns.h"
 
-// Columns as wide as their texts, and as they were.
+// Fits the widths of columns to their texts, and restores them.
 
 namespace KOVAVSFDataGridLib {
 

@@ -13,8 +13,8 @@
 
 #include <algorithm>
 
-// The records that have certain values in a column: one condition more, or another one in the place of the
-// condition that was made so before.
+// Shows the records with certain values in a column. Adds a condition, or replaces the one made in the same
+// way before.
 
 namespace KOVAVSFDataGridLib {
 
@@ -22,10 +22,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A condition in force that values of a field were chosen for.
+// An active condition that was made by choosing values of a field.
 struct Choice
 {
-    std::size_t place; // among the shown conditions
+    std::size_t place; // index in the shown conditions
     QString built;
 };
 
@@ -43,7 +43,7 @@ std::optional<Choice> choiceInForce(Session &session, const QString &field)
     return std::nullopt;
 }
 
-// Finds the condition in the statement that is shown, so that it is known again.
+// Remembers the condition as it is in the shown statement, to recognize it later.
 void remember(Session &session, const QString &field, const ValuesAnswer &answer)
 {
     for (const ShownCondition &shown : shownConditions(session)) {
@@ -81,7 +81,7 @@ void filterByColumn(Session &session, int col)
     ValuesRequest request{session.shown().conditionRequest(), field};
     request.records.field = heading;
     if (current) {
-        // The values that it leaves out are offered too.
+        // The values that the condition excludes are offered too.
         request.records.condition =
             session.history().GetConditionOf(statementWithout(session, current->place));
         request.records.built = current->built;
@@ -102,7 +102,7 @@ const ColumnCommand::Registration registration({
     .record = Record::IsLeft,
     .run = filterByColumn,
     .step = DerivationStep::Condition,
-    // A filter that leaves no record can still be changed where it was made.
+    // A filter that excludes all records can still be changed here.
     .canRun =
         [](Session &session, int col) {
             return session.result().hasRecords() || choiceInForce(session, writtenColumn(session, col));

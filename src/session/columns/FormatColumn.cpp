@@ -8,7 +8,7 @@
 #include "session/SessionWindow.h"
 #include "session/columns/ColumnCommand.h"
 
-// How a column's texts are shown.
+// Chooses the display format of a column.
 
 namespace KOVAVSFDataGridLib {
 

@@ -2,7 +2,7 @@
 #include "session/SessionWindow.h"
 #include "session/columns/ColumnCommand.h"
 
-// The columns up to one stay in view when the others scroll.
+// Keeps the columns up to this one in view when the others scroll.
 
 namespace KOVAVSFDataGridLib {
 

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Chooses what is shown but for one column.
+// Chooses all shown fields except one column's.
 class AllButOne final : public Questions
 {
 public:

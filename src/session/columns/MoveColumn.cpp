@@ -5,8 +5,8 @@
 
 #include <optional>
 
-// What dragging a heading does, for who has no mouse: a column changes its place with the one that is shown
-// beside it.
+// The same as dragging a heading, but without a mouse:
+// swaps a column with the shown column beside it.
 
 namespace KOVAVSFDataGridLib {
 
@@ -16,7 +16,7 @@ namespace {
 
 enum class Side { Left = -1, Right = 1 };
 
-// The place of the nearest shown column at that side.
+// The position of the nearest shown column on that side.
 std::optional<int> placeBeside(const SessionWindow &window, int col, Side side)
 {
     std::optional<int> nearest;

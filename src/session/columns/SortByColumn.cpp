@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-// The records in the order of a column, or of several one after the other.
+// Sorts the records by a column, or by several in succession.
 
 namespace KOVAVSFDataGridLib {
 

@@ -10,7 +10,7 @@ namespace {
 
 std::deque<Command> &registered()
 {
-    static std::deque<Command> commands; // whose addresses stay
+    static std::deque<Command> commands; // a deque, because the addresses must not change
     return commands;
 }
 

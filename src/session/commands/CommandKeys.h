@@ -2,7 +2,7 @@
 
 #include <QtCore/QString>
 
-// The keys of the commands that other code names. A button's action is found by its key.
+// The keys of the commands that other code uses. A button's action is found by its key.
 namespace KOVAVSFDataGridLib::CommandKeys {
 
 using namespace Qt::StringLiterals;

@@ -36,19 +36,19 @@ bool hasWritableField(const ADODB::Recordset &recordset)
     return false;
 }
 
-// From a server that the user, or a time limit, does not wait for any more.
+// The user or a time limit has ended the wait for the server.
 bool isWithoutAnswer(const ADODB::Error &error)
 {
     return error.SQLState() == "HY008"_L1 || error.SQLState().startsWith("HYT"_L1);
 }
 
-// Throws `inDoubt` where that can't be told now.
+// Throws `inDoubt` if that can't be determined now.
 bool isFound(ADODB::Recordset &recordset, const ADODB::Error &inDoubt)
 {
     try {
         return recordset.FindAttempt();
     } catch (const ADODB::Error &error) {
-        if (error.is(ADODB::dbErrPerhapsSaved)) // which says why
+        if (error.is(ADODB::dbErrPerhapsSaved)) // it contains the reason
             throw;
     }
     throw ADODB::Error(inDoubt);
@@ -83,7 +83,7 @@ void EditedRecord::saveChanges()
         throw ADODB::Error(ADODB::adErrFeatureNotAvailable, SessionMessages::ReadOnlySince);
     change([](ADODB::Recordset &changed) { changed.Update(); }, SessionMessages::SavedAfterLoss,
            SessionMessages::NotSavedAfterLoss);
-    if (!watch.isUntouched()) // the control went while it was saved
+    if (!watch.isUntouched()) // the control was destroyed during the save
         return;
     if (isNew)
         m_session.pages().refillAtRecord(recordset.AbsolutePosition());
@@ -98,8 +98,8 @@ void EditedRecord::remove()
            SessionMessages::NotDeletedAfterLoss);
 }
 
-// Where nobody knows whether the attempt was successful, because the connection was lost in it, the record is
-// read again through a new one, and the user is told what has come of it.
+// If the connection was lost during the attempt, its outcome is unknown. Then the record is read again
+// through a new connection, and the user is informed of the outcome.
 void EditedRecord::change(const std::function<void(ADODB::Recordset &)> &attempt, const QString &isDone,
                           const QString &isNotDone)
 {
@@ -138,7 +138,7 @@ bool EditedRecord::hasUnsavedChanges() const
            (mode == ADODB::adEditAdd && !hasNoValue(*m_session.result().recordset()));
 }
 
-// Why the record could not be saved; nothing when it was, or has nothing to be saved.
+// Why the record could not be saved; no value if it was saved or had no changes.
 std::optional<EditedRecord::Failure> EditedRecord::trySave()
 {
     if (!m_session.result().isOpen())
@@ -158,7 +158,7 @@ std::optional<EditedRecord::Failure> EditedRecord::trySave()
 EditedRecord::Failure EditedRecord::failureOf(const ADODB::Error &error)
 {
     const bool isPerhapsSaved = error.is(ADODB::dbErrPerhapsSaved);
-    if (isPerhapsSaved || error.is(ADODB::dbErrInDoubt)) // which is not to say that it is not saved
+    if (isPerhapsSaved || error.is(ADODB::dbErrInDoubt)) // it may have been saved nevertheless
         return {error.Description(), false, isPerhapsSaved};
     return {SessionMessages::NotSavedPrefix + error.Description(), error.is(ADODB::dbErrConcurrency)};
 }
@@ -190,7 +190,7 @@ bool EditedRecord::save()
 
 bool EditedRecord::leaveResult()
 {
-    if (m_session.shared.isWaiting) // for what is done to this very result
+    if (m_session.shared.isWaiting) // for actions on this result itself
         return false;
     const ResultWatch watch(m_session);
     for (;;) {

@@ -14,47 +14,47 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// The current record of a session's result as far as it is written into: its changes are saved, forgotten, or
-// kept over what another user wrote. Its functions hold the session while the host may do anything.
+// Edits of the current record of a session's result: saves or discards them, or keeps them over what another
+// user has saved. Its functions keep the session alive while the host may do anything.
 class EditedRecord
 {
 public:
     explicit EditedRecord(Session &session);
 
-    // Takes the value that is being typed into the record. False when it doesn't fit, which the user has been
-    // shown, or when the host has put something else in the result's place.
+    // Commits the value being typed to the record. Returns false if it doesn't fit, after a message to the
+    // user, or if the host has replaced the result.
     bool commitEdit();
-    // The same for all that was written into the record and its way into the database, so that it can be
+    // The same for all changes of the record, which are then saved to the database, so that the record can be
     // left.
     bool save();
-    // The same when the result is about to go: a user whose changes can't be saved chooses what becomes of
-    // them. False when he stays.
+    // The same before the result is closed: if the changes can't be saved, the user decides what to do with
+    // them. Returns false if he wants to stay.
     bool leaveResult();
-    // The same for a control that is being destroyed, which can neither ask nor report. Answers why the
-    // changes could not be saved, for the user to read.
+    // The same for a control that is being destroyed, which can't ask or report anything. Returns why the
+    // changes could not be saved, as a text for the user.
     std::optional<QString> saveSilently();
-    // The same for a record that is known to be changed. Throws ADODB::Error when the database or the host
+    // The same for a record that is known to have changes. Throws ADODB::Error if the database or the host
     // refuses.
     void saveChanges();
-    // Deletes the current record. Throws ADODB::Error when the database refuses. Shows nothing.
+    // Deletes the current record. Throws ADODB::Error if the database refuses. Shows nothing.
     void remove();
-    // Forgets what was written into it.
+    // Discards its changes.
     void cancel();
-    // Reads it again and shows what somebody else has written. What the user wrote into it stays and is still
-    // not saved; he is shown where both changed the same field.
+    // Reads the record again and shows what others have changed. The user's own changes are kept, still
+    // unsaved; he is told about fields that both have changed.
     void showNewValues();
 
-    // Whether something was written into it that is not saved yet.
+    // Whether it has changes that are not yet saved.
     bool hasUnsavedChanges() const;
-    // Whether nobody wrote anything into it. There must be a result.
+    // Whether the record has no changes at all. There must be a result.
     bool isEmpty() const;
-    // Whether the host lets records be neither added, changed nor deleted.
+    // Whether the host does not allow records to be added, changed or deleted.
     bool isReadOnly() const { return m_isReadOnly; }
     void setReadOnly(bool on);
-    // Why that can't be done to what is shown now, for the user to read: because the host wants it, or
-    // because the result can't be written. Empty when it can.
+    // Why none of that is possible now, as a text for the user: because of the host, or because the result
+    // can't be written. Empty if it is possible.
     QString whyNotWritten() const;
-    // The same for adding a record alone: rows can be deleted even where none of their fields can be written.
+    // The same for adding records only: rows can be deleted even if none of their fields can be written.
     QString whyNotAdded() const;
     // Whether records can be added to the open result.
     bool canAddRecords() const;
@@ -64,7 +64,7 @@ private:
     {
         QString text; // for the user to read
         bool isChangedByOthers = false;
-        bool isPerhapsSaved = false; // a new record, by an attempt whose outcome nobody knows
+        bool isPerhapsSaved = false; // a new record after an attempt with an unknown outcome
     };
 
     void change(const std::function<void(ADODB::Recordset &)> &attempt, const QString &isDone,

@@ -11,13 +11,13 @@
 
 #include <vector>
 
-// A record that somebody else has changed, read again under what the user wrote into it.
+// Reads a record that somebody else has changed again, and keeps the user's own changes.
 
 namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// A value that is not saved yet, over the one that the user saw when he wrote it.
+// A value that is not yet saved, and the one that the user saw before.
 struct Written
 {
     int field;
@@ -36,7 +36,7 @@ std::vector<Written> writtenValues(ADODB::Recordset &recordset)
     return written;
 }
 
-// What both have changed, a line for each field.
+// The conflicting changes, one line per field.
 QString readAgain(ADODB::Recordset &recordset)
 {
     const std::vector<Written> written = writtenValues(recordset);

@@ -13,7 +13,7 @@ namespace {
 
 using RawKind = ADODB::RawValue::Kind;
 
-constexpr qint64 cellsOfAStep = 300000; // some ten milliseconds
+constexpr qint64 cellsOfAStep = 300000; // takes about ten milliseconds
 
 int fieldsOf(const std::vector<CellSearch::Column> &columns)
 {
@@ -23,7 +23,7 @@ int fieldsOf(const std::vector<CellSearch::Column> &columns)
     return fields;
 }
 
-// Stored texts of these types may be shown in another form.
+// Texts of these types may be shown in another form than they are stored.
 bool isConverted(ADODB::DataTypeEnum type)
 {
     return type == ADODB::adBoolean || type == ADODB::adDBDate || type == ADODB::adDBTime ||

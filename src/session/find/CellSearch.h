@@ -9,9 +9,9 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Looks for a text in the cells of some records, in steps, so that a window stays alive over millions of
-// them. It remembers the records that have a match, and looks into a record again to say which of its cells
-// match. Binary contents are not searched.
+// Searches the cells of some records for a text, in steps, so that a window stays responsive over millions of
+// them. It remembers which records match, and examines a record again to tell which of its cells match.
+// Binary values are not searched.
 class CellSearch
 {
 public:
@@ -20,36 +20,36 @@ public:
         int col;   // of the grid
         int field; // from 0
         ADODB::DataTypeEnum type;
-        ADODB::DisplayFormat format; // a cell matches as it is and as it is shown
+        ADODB::DisplayFormat format; // a cell matches by its text or by its formatted text
     };
-    // A cell, by its record and its column's place among those that are searched, from 0.
+    // A cell: its record, and its column's index among the searched ones (from 0).
     struct Cell
     {
         qint64 record;
         int place;
     };
 
-    // `recordset` must outlive this object. Columns are in the order in which they are shown. Records that go
-    // meanwhile end the work early.
+    // `recordset` must outlive this object. Columns are in display order. If records are deleted meanwhile,
+    // the search ends early.
     CellSearch(const ADODB::Recordset &recordset, const RecordRange &range, std::vector<Column> columns,
                TextMatcher matcher);
 
     const std::vector<Column> &columns() const { return m_columns; }
     const TextMatcher &matcher() const { return m_matcher; }
 
-    // Looks at some more records.
+    // Searches some more records.
     void addNextCells();
     bool isDone() const { return m_next > m_range.last; }
     int percentDone() const;
-    // The cells that match, of the records that have been looked at.
+    // The matching cells in the records searched so far.
     qint64 count() const { return m_count; }
 
-    // The next or previous cell that matches, `from` itself included when it is to be.
+    // The next or previous matching cell; can be `from` itself if `isIncluded`.
     std::optional<Cell> next(const Cell &from, bool isIncluded);
     std::optional<Cell> previous(const Cell &from, bool isIncluded);
     std::optional<Cell> first();
     std::optional<Cell> last();
-    // Which of them it is, from 1.
+    // The number of a matching cell, from 1.
     qint64 numberOf(const Cell &cell);
 
 private:

@@ -29,7 +29,7 @@ TextMatcher::TextMatcher(const QString &text, Case caseOf, Extent extent)
 {
     const bool hasCase = m_case == Qt::CaseInsensitive && text.toLower() != text.toUpper();
     m_isBytewise = !hasCase || isAscii(text);
-    // The exponent, infinity and what is no number have letters.
+    // Exponents, infinity and NaN contain letters.
     static constexpr QStringView ofNumbers = u"0123456789.+-eEinfaINFA";
     m_canMatchNumber = std::ranges::all_of(text, [](QChar c) { return ofNumbers.contains(c); });
     for (std::size_t i = 0; i < m_fold.size(); ++i) {

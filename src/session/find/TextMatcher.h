@@ -8,7 +8,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What is looked for in texts, prepared for millions of them.
+// A search text, prepared for searching millions of texts.
 class TextMatcher
 {
 public:
@@ -22,7 +22,7 @@ public:
     // Whether the text of a number can match.
     bool canMatchNumber() const { return m_canMatchNumber; }
     bool matches(QByteArrayView utf8) const;
-    // Calls `take` with start and length of each place that matches, from left to right.
+    // Calls `take` with the start and length of each match, from left to right.
     void forEachMatch(const QString &text,
                       const std::function<void(qsizetype start, qsizetype length)> &take) const;
 
@@ -33,12 +33,12 @@ private:
     const Qt::CaseSensitivity m_case;
     const bool m_isWhole;
     bool m_canMatchNumber = false;
-    // UTF-8 is compared byte by byte, where that is enough: not for letters beyond ASCII whose case is
-    // ignored.
+    // Whether comparing UTF-8 byte by byte is sufficient:
+    // not for non-ASCII letters if the case is ignored.
     bool m_isBytewise = true;
     QByteArray m_bytes; // folded
     std::array<char, 256> m_fold;
-    std::array<quint8, 256> m_skip; // how far to go on when this is the last byte of a place that differs
+    std::array<quint8, 256> m_skip; // how far to advance if this is the last byte of a place without a match
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -22,8 +22,8 @@ namespace {
 
 using StepBack = bool (colShowSQLSentences::*)(QString &PassFilter, QString *PassKey);
 
-// An entry without a part statement was shown with the part fields chosen before it: a filter of the first
-// statement keeps them. Later choices are none of its own.
+// An entry without a part statement was shown with the part fields chosen before it, because a filter of the
+// first statement keeps them. Later choices don't apply to it.
 void markPartFieldsOf(Session &session, const clsShowSQLSentence &entry)
 {
     QString partStatement;
@@ -32,7 +32,7 @@ void markPartFieldsOf(Session &session, const clsShowSQLSentence &entry)
         session.history().SetPartFields(note->partFields);
 }
 
-// The latest entry's result is open: shows it as the entry does.
+// Shows the open result of the latest entry with the entry's settings.
 void showAsEntry(Session &session, const clsShowSQLSentence *entry)
 {
     if (entry)
@@ -44,7 +44,7 @@ void showAsEntry(Session &session, const clsShowSQLSentence *entry)
         session.window().showAllRecords();
 }
 
-// The entries after `position`, and those that were ahead already.
+// The entries after `position`, followed by those already ahead.
 std::vector<clsShowSQLSentence> entriesAfter(Session &session, qsizetype position)
 {
     const colShowSQLSentences &history = session.history();
@@ -135,7 +135,7 @@ std::vector<HistoryStep> historySteps(Session &session)
 void goBack(Session &session, qsizetype steps)
 {
     const qsizetype count = session.history().Count();
-    // One step back from the first statement shows it once more.
+    // Going back one step from the first statement shows it again.
     if (steps >= 1 && (steps < count || steps == 1))
         goBackTo(session, std::max<qsizetype>(1, count - steps), &colShowSQLSentences::GetPreviewSQL);
 }

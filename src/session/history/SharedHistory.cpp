@@ -49,7 +49,7 @@ bool SharedHistory::canGoBack() const
     return m_manager && m_manager->SQLManager().Count() > 1;
 }
 
-// Another connection string has emptied the history, and no load has come after it.
+// Setting another connection string has cleared the history, and nothing was loaded since.
 QString SharedHistory::whyNone() const
 {
     const bool isEmpty = m_manager && m_manager->SQLManager().Count() == 0;

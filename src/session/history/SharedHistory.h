@@ -11,8 +11,8 @@ namespace KOVAVSFDataGridLib {
 class Session;
 class StatementTrail;
 
-// The history of a session's statements: the filter manager that has it, and what the user's way through it
-// left. Two sessions can work on the same.
+// The history of a session's statements: the filter manager with the statements, and the trail of the user's
+// steps. Two sessions can share it.
 class SharedHistory
 {
 public:
@@ -20,31 +20,31 @@ public:
     ~SharedHistory();
     Q_DISABLE_COPY_MOVE(SharedHistory)
 
-    // Made on first use.
+    // Created on first use.
     const std::shared_ptr<clsFilterManagement> &manager();
-    // For a session that works on another one's history; null makes it one without any, in which no command
-    // does anything.
+    // For a session that works on another one's history.
+    // Null removes it, and commands then do nothing.
     void setManager(std::shared_ptr<clsFilterManagement> manager);
     bool isManager(const std::shared_ptr<clsFilterManagement> &manager) const { return m_manager == manager; }
-    // One without a history, which asks this session's user and reads fields as it does.
+    // A new one without a history, with this session's user for questions and the same field reader.
     std::unique_ptr<clsFilterManagement> newManager() const;
 
     StatementTrail &trail() { return *sharedTrail(); }
     const std::shared_ptr<StatementTrail> &sharedTrail();
     void setTrail(std::shared_ptr<StatementTrail> trail) { m_trail = std::move(trail); }
-    // Notes how many records the statement shows.
+    // Remembers how many records the statement shows.
     void noteShownResult();
 
-    // Whether there is a statement to go back to.
+    // Whether there is a previous statement.
     bool canGoBack() const;
-    // Why no command can work on the history now, for the user to read; empty when they can.
+    // Why no command can use the history now, as a text for the user; empty if they can.
     QString whyNone() const;
-    // The same for a kind of statement that a command would derive.
+    // The same for the kind of statement that a command would derive.
     QString whyNot(DerivationStep step) const;
     // The same for the part fields.
     QString whyNoPartFields() const;
 
-    // The user can't be asked any more.
+    // The user can no longer be asked.
     void detach();
     void clear();
 

@@ -11,8 +11,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What a user's way through the statements leaves beside their history: how many records each has shown, and
-// those that a step back has left, for a step forward.
+// The trail of a user's steps through the statements, in addition to their history: how many records each has
+// shown, and the statements left by going back, for going forward.
 class StatementTrail
 {
 public:
@@ -20,25 +20,25 @@ public:
     {
         qint64 records = 0;
         QDateTime time;         // when it was last shown
-        QList<bool> partFields; // of the catalogue, as they were marked when it was first shown
+        QList<bool> partFields; // of the catalogue, as marked when it was first shown
     };
 
-    // Of the history of this filter manager, and of no other one.
+    // Belongs to the history of this filter manager only.
     explicit StatementTrail(std::weak_ptr<clsFilterManagement> manager) : m_manager(std::move(manager)) {}
     bool isOf(const std::shared_ptr<clsFilterManagement> &manager) const
     {
         return m_manager.lock() == manager;
     }
 
-    // Notes that the latest entry shows so many records, unless it has a note.
+    // Records how many records the latest entry shows, unless that is already known.
     void addNote(const colShowSQLSentences &history, qint64 records);
-    // The same with a new note; the part fields of the former one stay.
+    // The same, but replaces the number; the earlier part fields are kept.
     void replaceNote(const colShowSQLSentences &history, qint64 records);
     std::optional<Note> noteOf(const clsShowSQLSentence &entry) const;
 
-    // The entries ahead of the latest one, the next one first; none once another one was added.
+    // The entries ahead of the latest one, the next one first; empty after another one was added.
     const std::vector<clsShowSQLSentence> &ahead(const colShowSQLSentences &history) const;
-    // The latest entry has these ahead of it.
+    // Sets the entries ahead of the latest one.
     void setAhead(const colShowSQLSentences &history, std::vector<clsShowSQLSentence> entries);
 
 private:
@@ -53,7 +53,7 @@ private:
     const std::weak_ptr<clsFilterManagement> m_manager;
     QHash<QString, Noted> m_notes; // by the entries' keys
     std::vector<clsShowSQLSentence> m_ahead;
-    QString m_key; // of the entry that they are ahead of
+    QString m_key; // of the entry that they follow
     QString m_statement;
 };
 

@@ -120,8 +120,8 @@ bool ColumnLayout::hasColumnsFor(const QStringList &fields) const
 {
     const QStringList shown = m_grid.Headings();
     const QStringList all = fieldsShownBy(FieldView::All);
-    // Fields of one name can't be told apart, even where one of them alone is shown or wanted, so that the
-    // statement is read.
+    // Fields with the same name can't be distinguished, even if only one of them is shown or wanted, so the
+    // statement must be read.
     return std::all_of(fields.cbegin(), fields.cend(), [&](const QString &field) {
         return shown.count(field) == 1 && fields.count(field) == 1 && all.count(field) <= 1;
     });
@@ -136,7 +136,7 @@ std::optional<double> ColumnLayout::shareOfWidth(int gridWidth, qsizetype column
 {
     const int room = gridWidth - scrollBarMargin - rowHeadingMargin;
     if (columns < 1 || room < columns)
-        return std::nullopt; // better too wide than gone
+        return std::nullopt; // too wide is better than invisible
     return static_cast<double>(room) / static_cast<double>(columns);
 }
 

@@ -5,13 +5,13 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The columns of the grid that shows a session, one for each field of the result. Columns count from 1 to
-// Cols() - 1; column 0 holds the row headings. Widths are twips; 0 hides a column.
+// The columns of the grid that shows a session, one per field of the result. Columns are numbered from 1 to
+// Cols() - 1; column 0 contains the row headings. Widths are in twips; 0 hides a column.
 class ColumnView
 {
 public:
-    static constexpr int useDefaultWidth = -1;  // the width of a column that never got one
-    static constexpr int defaultColWidth = 960; // twips; what that comes to
+    static constexpr int useDefaultWidth = -1;  // the width of a column that was never given one
+    static constexpr int defaultColWidth = 960; // twips; the default width
 
     ColumnView() = default;
     virtual ~ColumnView() = default;
@@ -22,12 +22,12 @@ public:
     virtual QStringList Headings() const { return {}; }
     virtual int ColWidth(int /*col*/) const { return useDefaultWidth; }
     virtual void PutColWidth(int /*col*/, int /*twips*/) {}
-    // All columns get the default width.
+    // Resets all columns to the default width.
     virtual void ResetColWidths() {}
-    // The widths of all columns and the row headings together, and the width of the whole grid.
+    // The total width of all columns and the row headings, and the width of the whole grid.
     virtual int widthOfColumns() const { return 0; }
     virtual int width() const { return 0; }
-    // The width at which a column's heading and texts can be read.
+    // The width at which a column's heading and texts are readable.
     virtual int fittingWidth(int /*col*/) const { return defaultColWidth; }
 
     // How the texts of a heading's column, which need not be there now, are shown, as ADODB::DisplayFormat
@@ -35,18 +35,18 @@ public:
     virtual QString columnFormat(const QString & /*heading*/) const { return {}; }
     virtual void putColumnFormat(const QString & /*heading*/, const QString & /*format*/) {}
 
-    // Whether cells without a value say so.
+    // Whether Null is shown as such.
     virtual bool showsNulls() const { return false; }
     virtual void putShowsNulls(bool /*on*/) {}
 
-    // Where a column is shown, from 0 at the left; hidden ones have a place too.
+    // A column's position, from 0 at the left; hidden ones have a position too.
     virtual int placeOf(int col) const { return col - 1; }
-    // The headings from the left, and how many of the first columns stay in view.
+    // The headings from left to right, and how many of the first columns are frozen.
     virtual QStringList columnOrder() const { return Headings(); }
     // The same with further fields where their columns would be shown.
     virtual QStringList orderWith(const QStringList & /*fields*/) const { return Headings(); }
     virtual int frozenColumns() const { return 0; }
-    // Puts columns into this order; those that it does not name stay after the one before them.
+    // Arranges the columns in this order; those not listed stay after the one before them.
     virtual void arrangeColumns(const QStringList & /*order*/, int /*frozen*/) {}
 };
 

@@ -13,15 +13,15 @@ class ColumnView;
 // The widths of the columns 1 to Cols() - 1.
 std::vector<int> widthsOf(const ColumnView &view);
 
-// The widths that columns had before they were fitted, by their headings.
+// The widths of columns before they were fitted, by heading.
 class KeptWidths
 {
 public:
-    // Runs `change`. When a width is another one then, those before are kept.
+    // Runs `change`, and remembers the previous widths if it changed any.
     void fit(const ColumnView &view, const std::function<void()> &change);
-    // Whether a column that is shown had another width.
+    // Whether a visible column had another width.
     bool canRestore(const ColumnView &view) const;
-    // Gives the columns that are shown their widths back. Hidden ones stay hidden.
+    // Restores the widths of the visible columns. Hidden ones stay hidden.
     void restore(ColumnView &view) const;
 
 private:

@@ -2,7 +2,7 @@
 
 #include "language/Text.h"
 
-// Why a saved layout is refused, for proof-reading in one place.
+// The reasons why a saved layout is rejected, collected here for proofreading.
 namespace KOVAVSFDataGridLib::LayoutTexts {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::LayoutTexts"};

@@ -16,7 +16,7 @@
 #include <set>
 #include <utility>
 
-// A layout and the columns that are shown.
+// Applies a layout to the shown columns.
 namespace KOVAVSFDataGridLib {
 
 namespace {
@@ -95,7 +95,7 @@ int takeColumn(QHash<QString, QList<int>> &columns, const QString &heading)
     return found == columns.end() || found->isEmpty() ? 0 : found->takeLast();
 }
 
-// Answers why not; empty when it was done.
+// Returns the reason if it failed; empty on success.
 QString showAllBut(Session &session, const std::set<QString> &hidden)
 {
     if (QString reason = session.sharedHistory().whyNot(DerivationStep::Fields); !reason.isEmpty())

@@ -24,7 +24,7 @@ QString wrong(const QString &what)
     return LayoutTexts::NotALayout.arg(what);
 }
 
-// Nothing for what is no whole number from `least` to `most`.
+// No value unless it is a whole number from `least` to `most`.
 std::optional<int> wholeNumber(const QJsonValue &value, int least, int most)
 {
     const double number = value.toDouble(std::nan(""));

@@ -11,13 +11,13 @@ namespace KOVAVSFDataGridLib {
 class ColumnView;
 class Session;
 
-// How the columns of a result are laid out, as a small JSON text:
+// The layout of a result's columns, as a small JSON text:
 //
 //   {"layout":1,"columns":[{"field":"名称","width":1500},{"field":"单价","hidden":true}],"frozen":1}
 //
-// The columns are in their order from the left; widths are twips (left out for the default), "format" is what
-// ADODB::DisplayFormat writes, "frozen" is how many of the first stay in view, and "nulls" is true where
-// cells without a value say so.
+// The columns are listed from the left. Widths are in twips (omitted for the default), "format" is in the
+// syntax of ADODB::DisplayFormat, "frozen" is the number of frozen columns, and "nulls" is true if Null is
+// shown as such.
 struct SavedLayout
 {
     struct Column
@@ -38,17 +38,17 @@ struct SavedLayout
     bool showsNulls = false;
 
     QString toText() const;
-    // The layout of a text, or why it is none, for the user to read.
+    // Parses a layout, or returns the reason why the text isn't one, for the user.
     static std::variant<SavedLayout, QString> fromText(const QString &text);
 
     bool operator==(const SavedLayout &) const = default;
 };
 
-// The layout of what is shown. Columns that are hidden have the width with which they come back.
+// The layout of what is shown. Hidden columns have the width that they get when shown again.
 SavedLayout layoutOf(Session &session);
 
-// Lays the columns out; those of other fields stay as they are. Hiding and showing columns is a choice of
-// fields and an entry of the history. Answers why nothing was changed; empty when it was.
+// Applies a layout to the columns; other fields are not changed. Hiding and showing columns is a choice of
+// fields and an entry of the history. Returns why nothing was changed; empty on success.
 QString restoreLayout(Session &session, const SavedLayout &layout);
 
 } // namespace KOVAVSFDataGridLib

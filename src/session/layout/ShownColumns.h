@@ -7,24 +7,24 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// Which fields of a session's result are shown, all or the part fields, and how wide.
+// Which fields of a session's result are shown (all or the part fields), and their widths.
 class ShownColumns
 {
 public:
     explicit ShownColumns(Session &session);
 
     FieldView view() const { return m_view; }
-    // What a host writes; nothing changes by it.
+    // Set by a host; has no immediate effect.
     void putView(FieldView view);
-    // Shows that all or the part fields are shown.
+    // Records that all fields or the part fields are shown.
     void setView(FieldView view);
-    // The same for a result that was loaded with these part fields. Without any all fields are shown, as by
-    // "Part".
+    // The same for a result that was loaded with these part fields. If there are none, all fields are shown,
+    // as by "Part".
     void showLoaded(const QString &partFields);
-    // Lays the columns out as the view wants them.
+    // Arranges the columns for the current view.
     void layOut();
 
-    // Shares the grid's width among the columns that are shown; not while a single record is.
+    // Divides the grid's width among the visible columns. Does nothing in the single-record view.
     void compress();
     // The widths before the columns were last fitted.
     KeptWidths &keptWidths() { return m_keptWidths; }
@@ -33,7 +33,7 @@ private:
     Session &m_session;
     KeptWidths m_keptWidths;
     FieldView m_view = FieldView::All;
-    bool m_lacksPartFields = false; // all are shown for that alone; the next load shows part of its fields
+    bool m_lacksPartFields = false; // only therefore all are shown; the next load shows the part fields
 };
 
 } // namespace KOVAVSFDataGridLib

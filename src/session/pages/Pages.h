@@ -11,45 +11,45 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// Where a page button leads.
+// The target of a page button.
 enum class PageStep { First, Previous, Next, Last };
 
-// The pages of a session's result, one of which its window shows, and which record is current. Pages, records
-// and rows count from 1.
+// The pages of a session's result, of which its window shows one, and the current record. Pages, records and
+// rows are numbered from 1.
 class Pages
 {
 public:
-    // `adodc` doesn't hear of what only the window needs; it may be null.
+    // `adodc` is not notified of what only the window needs; it may be null.
     Pages(Session &session, ADODB::Adodc *adodc);
 
-    // The page that is shown; 0 when none can be.
+    // The shown page; 0 if there is none.
     int current() const { return m_page; }
     int recordsOnPage(int page) const;
     // The record of a row of the current page.
     qint64 recordOfRow(qint64 row) const;
-    // The row of a record on the current page; 0 when the page doesn't have it.
+    // The row of a record on the current page; 0 if it is not on the page.
     int rowOfRecord(qint64 record) const;
-    // The field with the picture, from 0; -1 when the result has none.
+    // The index of the field with the picture, from 0; -1 if there is none.
     int pictureField() const { return m_pictureField; }
 
-    // Makes a page the current one, as far as there is one.
+    // Makes a page current, or the nearest existing one.
     void setPage(qint64 page);
-    // Shows the current page. Throws ADODB::Error, and changes nothing, when an edit can't be saved.
+    // Shows the current page. If an edit can't be saved, throws ADODB::Error and changes nothing.
     void fillPage();
-    // Both; false when the page can't be left, which the user has been shown.
+    // Both. Returns false if the previous page can't be left, after a message to the user.
     bool showPage(qint64 page);
-    // The same with the columns as they are laid out.
+    // The same with the current layout of the columns.
     bool turnToPage(qint64 page);
     void stepPage(PageStep step);
-    // Makes the page typed into the page box the one that is shown.
+    // Shows the page that was typed into the page box.
     void goToTypedPage(const QString &text);
-    // Shows the records once more after some were added or removed, and makes a record current (0: none).
+    // Shows the records again after some were added or removed, and makes a record current (0: none).
     void refillAtRecord(qint64 record);
 
-    // Makes the record that is shown current the result's, where a host has walked past the first or the
-    // last.
+    // If a host has moved past the first or the last record, moves back to the record that is shown as
+    // current.
     void returnToShownRecord();
-    // Takes number of records and position into the shared values.
+    // Copies the record count and the position to the shared values.
     void updateRecordPosition();
     void storeRecordCount();
 

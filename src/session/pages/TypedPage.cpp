@@ -30,7 +30,7 @@ std::optional<qint32> roundedNumber(const QString &text)
 std::optional<TypedPage> TypedPage::read(const QString &typed, bool mustBeNumber)
 {
     static const QRegularExpression number(QStringLiteral("\\A[+-]?[0-9]+(\\.[0-9]*)?\\z"));
-    // Chinese input methods type digits of full width.
+    // Chinese input methods produce full-width digits.
     QString text = typed.normalized(QString::NormalizationForm_KC).trimmed();
     if (mustBeNumber && !number.match(text).hasMatch())
         return std::nullopt;

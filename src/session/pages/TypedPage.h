@@ -6,13 +6,13 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A page number as the user typed it, with digits of any width.
+// A page number typed by the user, possibly with full-width digits.
 struct TypedPage
 {
-    qint32 number; // 0 when no number can be made of the text
-    QString text;  // what was typed, shortened from its end until it was a number of 32 bits
+    qint32 number; // 0 if the text can't be converted to a number
+    QString text;  // the typed text, shortened from its end until it fits a 32-bit number
 
-    // Nothing when `mustBeNumber` and the text as typed is not one. A fraction is rounded then.
+    // No value if `mustBeNumber` and the typed text is not a number. Fractions are then rounded.
     static std::optional<TypedPage> read(const QString &typed, bool mustBeNumber);
 };
 

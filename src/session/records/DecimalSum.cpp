@@ -15,7 +15,7 @@ QString shown(double value)
     return QString::number(value + 0.0, 'G', shownDigits);
 }
 
-// With the point before the last `scale` digits.
+// With the decimal point before the last `scale` digits.
 QString decimalText(QString digits, int scale, bool isNegative)
 {
     if (scale > 0) {
@@ -33,7 +33,7 @@ void DecimalSum::add(qint64 value)
         add(static_cast<double>(value));
 }
 
-// Neumaier's sum: small terms beside large ones are not lost.
+// Neumaier summation: small terms beside large ones are not lost.
 void DecimalSum::add(double value)
 {
     m_isExact = false;
@@ -46,7 +46,7 @@ bool DecimalSum::addText(QByteArrayView text)
 {
     Wide value = 0;
     int digits = 0;
-    int scale = -1; // until the point has come
+    int scale = -1; // -1 before the decimal point
     const bool isNegative = text.startsWith('-');
     for (const char c : isNegative ? text.sliced(1) : text) {
         if (c == '.' && scale < 0) {
@@ -66,7 +66,7 @@ bool DecimalSum::addText(QByteArrayView text)
     return true;
 }
 
-// With an exponent, or with more digits than are added exactly.
+// For numbers with an exponent, or with too many digits to be added exactly.
 bool DecimalSum::addAsReal(const QByteArray &text)
 {
     bool isNumber = false;
@@ -128,7 +128,7 @@ QString DecimalSum::text() const
     return decimalText(digitsOf(isNegative ? -m_exact : m_exact), m_scale, isNegative);
 }
 
-// Of an exact sum by long division, so that no digit before the point or of the values' own is lost.
+// An exact sum is divided by long division, which loses no digit of the integer part or of the values.
 QString DecimalSum::average(qint64 count) const
 {
     if (count <= 0)

@@ -7,18 +7,18 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A sum of numbers, exact for integers and decimals for as long as it has at most 36 digits; what a database
-// keeps as floating point is added as such.
+// A sum of numbers. Exact for integers and decimals with at most 36 digits; floating point values are added
+// as floating point.
 class DecimalSum
 {
 public:
     void add(qint64 value);
     void add(double value);
-    // A decimal as databases write it; false, and no change, when it isn't one.
+    // Adds a database's decimal text. If it isn't one, returns false and changes nothing.
     bool addText(QByteArrayView text);
 
     QString text() const;
-    // At least 15 significant digits; of an exact sum, all before the point and those of its decimals.
+    // At least 15 significant digits; for an exact sum, all integer digits and the decimals of the values.
     QString average(qint64 count) const;
     // -1, 0 or 1.
     int sign() const;
@@ -34,7 +34,7 @@ private:
     Wide m_exact = 0; // in units of 10^-m_scale
     int m_scale = 0;
     double m_real = 0;
-    double m_rest = 0; // what m_real's additions have lost
+    double m_rest = 0; // the rounding errors of m_real
     bool m_isExact = true;
 };
 

@@ -35,7 +35,7 @@ ADODB::Error unknown(const QString &keyword, const QString &value)
     return {ADODB::adErrInvalidArgument, ExportTexts::UnknownOption.arg(keyword, value)};
 }
 
-// Which of the words the value is, in any letter case.
+// The index of the word that equals the value, case-insensitive.
 template<std::size_t Count>
 std::size_t choice(const ADODB::ConnectionString::Part &part,
                    const std::array<QLatin1StringView, Count> &words)
@@ -86,7 +86,7 @@ ExportAnswer exportAnswerFrom(const QString &file, const QString &options)
     if (!format)
         throw ADODB::Error(ADODB::adErrInvalidArgument, unknownFormatText(file));
     answer.options.format = *format;
-    const ADODB::ConnectionString written(options); // of the same form
+    const ADODB::ConnectionString written(options); // the syntax is the same
     for (const ADODB::ConnectionString::Part &part : written.parts())
         readOption(answer, part);
     return answer;

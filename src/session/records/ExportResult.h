@@ -6,15 +6,15 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// Writes the open result to a file under the progress line. False when the user cancelled and when it fails,
-// which he has been shown.
+// Writes the open result to a file, showing progress. Returns false if the user cancelled, or if it failed,
+// after a message.
 bool exportResult(Session &session, const ExportAnswer &what);
 
-// The table's name without what no file's name can have.
+// The table's name without characters that are not allowed in file names.
 QString fileNameOf(Session &session);
 
-// What a host asks for by a file and `Keyword=value;…` (see IKOVAVSFDataGrid::ExportData). Throws
-// ADODB::Error when one of them can't be understood.
+// Parses a host's request: a file and `Keyword=value;…` (see IKOVAVSFDataGrid::ExportData). Throws
+// ADODB::Error if one of them is invalid.
 ExportAnswer exportAnswerFrom(const QString &file, const QString &options);
 
 } // namespace KOVAVSFDataGridLib

@@ -26,10 +26,10 @@ constexpr qint64 mostValues = 1000;
 // A table that is referred to.
 struct Referenced
 {
-    QString from;          // as it follows FROM
-    QString key;           // as it is written
-    QString description;   // the same; empty where no field describes a record
-    bool isKeyRead = true; // by people: a GUID is not
+    QString from;          // its form after FROM
+    QString key;           // its form in SQL
+    QString description;   // the same; empty if no field describes a record
+    bool isKeyRead = true; // whether the key means something to people, unlike a GUID
 };
 
 Referenced referenced(ADODB::Connection &connection, const Dialect &dialect,
@@ -66,14 +66,14 @@ QString statementOf(const Dialect &dialect, const Referenced &table, const QStri
            condition + " ORDER BY "_L1 + order + limit.behindSort;
 }
 
-// One line, with what a person knows in front.
+// One line that begins with what people recognize.
 QString shownText(const Referenced &table, const QString &key, const QString &description)
 {
     constexpr qsizetype longest = 60; // characters
     const QString text = description.simplified().left(longest);
     if (text.isEmpty())
         return key;
-    constexpr QChar between(0x3000); // a wide blank
+    constexpr QChar between(0x3000); // a full-width blank
     return table.isKeyRead ? key + between + text : text + between + key;
 }
 

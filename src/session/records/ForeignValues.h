@@ -12,7 +12,7 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// The keys of another table, each with what a person reads beside it.
+// The keys of another table, each with a description for the user.
 struct ForeignValues
 {
     QStringList keys = {};
@@ -20,9 +20,9 @@ struct ForeignValues
     bool hasMore = false;
 };
 
-// The values that a field can take because it refers to the key of another table, in order, with the first
-// text field of that table. `search` is a text that the key or the text contains; all where it is empty.
-// Nothing for a field that refers to none, and on engines that can't be asked.
+// The values that a field can have because it references the key of another table, in order, each with the
+// first text field of that table. `search` is a text that the key or the description contains; empty for all.
+// No value if the field references no table, or if the engine can't tell.
 std::optional<ForeignValues> foreignValues(Session &session, const ADODB::Field &field,
                                            const QString &search);
 

@@ -4,9 +4,9 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What a value's text leads to when it is as a whole the address of a page or of a mailbox (http, https,
-// mailto); invalid for every other text. Nothing else is ever opened: a file or a program in a database is
-// not to be run by a click.
+// The URL if the whole text is a web or mail address (http, https,
+// mailto); invalid for any other text. Nothing else is ever opened:
+// a click must not open a file or run a program named in a database.
 QUrl linkIn(const QString &text);
 
 } // namespace KOVAVSFDataGridLib

@@ -14,13 +14,13 @@ constexpr int twipsOfPixel = 15; // at 96 DPI, in which exports have their width
 // Writing many records of what a session shows. It asks nothing and tells nothing; the host may do anything
 // while the progress line is up.
 
-// The columns of the grid, from 1, as an export writes them.
+// The columns of the grid (from 1) in the form for an export.
 ExportColumns exportColumnsOf(Session &session, const std::vector<int> &columns);
-// The marked rows as records; none when nothing is marked.
+// The marked rows as records; empty if nothing is marked.
 RecordRange markedRecords(Session &session);
 
-// Hands the records to the writer under a progress line that says `done`. False when the user cancelled, when
-// the result was taken away meanwhile, and when a statement is being opened. Throws as WriteRecords does.
+// Passes the records to the writer, showing progress with the text `done`. Returns false if the user
+// cancelled, if the result was closed meanwhile, or if a statement is being opened. Throws like writeRecords.
 bool writeUnderProgress(Session &session, const QString &done, const RecordRange &range,
                         const std::function<bool(const std::function<bool(qint64)> &shouldContinue)> &write);
 

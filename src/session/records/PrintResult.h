@@ -6,11 +6,11 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// What can be printed of the open result: what is shown, as it is shown.
+// What can be printed: the open result as it is shown.
 PrintRequest printRequestOf(Session &session);
 
-// Hands the open result to the answer's writer under the progress line. False when the user cancelled and
-// when it fails, which he has been shown.
+// Passes the open result to the answer's writer, showing progress. Returns false if the user cancelled, or if
+// it failed, after a message.
 bool printResult(Session &session, const PrintRequest &request, const PrintAnswer &what);
 
 } // namespace KOVAVSFDataGridLib

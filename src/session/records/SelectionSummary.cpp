@@ -12,7 +12,7 @@ namespace {
 
 using RawKind = ADODB::RawValue::Kind;
 
-constexpr qint64 cellsOfAStep = 200000; // some ten milliseconds
+constexpr qint64 cellsOfAStep = 200000; // takes about ten milliseconds
 
 int firstFieldOf(const ExportColumns &columns)
 {
@@ -71,7 +71,7 @@ void SelectionSummary::take(const ADODB::RawValue &cell, const Column &column)
     if (cell.kind == RawKind::Null)
         return;
     ++m_count;
-    // What a database without types of its own computes says only by its values what it is.
+    // In an untyped database, only the values tell the type of a computed column.
     const bool isStoredNumber = cell.kind == RawKind::Integer || cell.kind == RawKind::Real;
     if (column.kind == Kind::Date)
         addDate(cell, column);
@@ -100,7 +100,7 @@ void SelectionSummary::addNumber(const ADODB::RawValue &cell, const Column &colu
         put(m_largest, cell, column, number);
 }
 
-// Two numbers can differ in digits that a double has no room for.
+// Two numbers can differ in digits beyond the precision of a double.
 int SelectionSummary::compare(const ADODB::RawValue &cell, double number, const Extreme &extreme)
 {
     if (number != extreme.number)
@@ -117,7 +117,7 @@ int SelectionSummary::compare(const ADODB::RawValue &cell, double number, const 
     return difference.sign();
 }
 
-// Their texts are in the order of time.
+// The order of their texts is the order in time.
 void SelectionSummary::addDate(const ADODB::RawValue &cell, const Column &column)
 {
     if (cell.kind != RawKind::Text)
@@ -136,7 +136,7 @@ void SelectionSummary::put(std::optional<Extreme> &extreme, const ADODB::RawValu
         extreme = Extreme{};
     extreme->value = cell;
     extreme->value.bytes = {};
-    extreme->bytes.resize(0); // which keeps the room
+    extreme->bytes.resize(0); // keeps the capacity
     if (cell.kind == RawKind::Text)
         extreme->bytes.append(cell.bytes);
     extreme->type = column.type;

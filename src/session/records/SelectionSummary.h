@@ -8,36 +8,36 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Count, sum, average, minimum and maximum of some cells, worked out in steps, so that a window stays alive
-// over millions of them. Values are taken as they are stored.
+// Count, sum, average, minimum and maximum of some cells, computed in steps, so that a window stays
+// responsive over millions of them. Uses the stored values.
 class SelectionSummary
 {
 public:
-    // `recordset` must outlive this object. Records that go meanwhile end the work early.
+    // `recordset` must outlive this object. If records are deleted meanwhile, the computation ends early.
     SelectionSummary(const ADODB::Recordset &recordset, const RecordRange &range,
                      const ExportColumns &columns);
 
-    // Looks at some more records.
+    // Processes some more records.
     void addNextCells();
     bool isDone() const { return m_next > m_range.last; }
 
-    // Cells that are not Null.
+    // The number of cells that are not Null.
     qint64 count() const { return m_count; }
     // How many of them are numbers, and how many dates.
     qint64 numbers() const { return m_numbers; }
     qint64 dates() const { return m_dates; }
-    // Of the numbers; as texts, in the form of a value's text.
+    // For the numbers, as texts in the format of ValueText().
     QString sum() const { return m_sum.text(); }
     QString average() const { return m_sum.average(m_numbers); }
     QString minimum() const { return textOf(m_smallest); }
     QString maximum() const { return textOf(m_largest); }
-    // Of the dates and times.
+    // For the dates and times.
     QString earliest() const { return textOf(m_earliest); }
     QString latest() const { return textOf(m_latest); }
 
 private:
     enum class Kind { Other, Number, Date };
-    // A value as it is stored: of most cells nobody ever reads the text.
+    // A stored value: the text of most cells is never needed.
     struct Extreme
     {
         ADODB::RawValue value; // without its bytes

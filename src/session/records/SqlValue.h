@@ -6,8 +6,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A value as a statement for this database writes it: a Null is NULL, bytes are the engine's form of
-// hexadecimal digits, dates are such that tools other than ODBC's read them as well.
+// A value as an SQL literal for this database: NULL for Null, bytes in the engine's hexadecimal form, and
+// dates in a form that programs without ODBC understand too.
 QString sqlValue(const Dialect &dialect, const QVariant &value);
 
 } // namespace KOVAVSFDataGridLib

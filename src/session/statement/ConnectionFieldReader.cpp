@@ -32,7 +32,7 @@ std::vector<SourceField> describe(const ADODB::Connection &connection, const QSt
     return fields;
 }
 
-// What a statement shows when it picks plain columns of one table: the table and the names, `*` for all of
+// The result of a statement that selects plain columns of one table: the table and the names, `*` for all of
 // them. No names for any other statement.
 struct PlainColumns
 {
@@ -63,8 +63,8 @@ bool isClauseWord(const SqlScanner &sql, qsizetype token)
         [&](QStringView word) { return sql.isWord(token, word); });
 }
 
-// A statement as it is remembered. One that was derived differs from the host's in the letter case of these
-// words and the blanks around them. All else stays, because engines call a field by the text of its
+// The key under which a statement is cached. A derived statement differs from the host's in the case of these
+// words and the blanks around them. Everything else is kept, because engines name a field by the text of its
 // expression.
 QString remembered(const QString &statement)
 {
@@ -109,7 +109,7 @@ std::shared_ptr<ADODB::Connection> ConnectionFieldReader::connect(const QString 
     return m_own;
 }
 
-// A user who does not want to wait for the first answer of a command wants none of the next ones.
+// If the user cancelled one reading of a command, he doesn't want to wait for the next ones either.
 std::shared_ptr<ADODB::Connection>
 ConnectionFieldReader::connectUnlessCancelled(const QString &connectionString)
 {
@@ -168,8 +168,8 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
         } catch (const ADODB::Error &error) {
             if (error.is(ADODB::dbErrCancelled))
                 throw;
-            // Grouped or united statements, say, have no such form; the statement itself is only prepared.
-            // It goes over another connection where this one turned out to be lost.
+            // Some statements (with grouping or UNION) have no such form; then the statement itself is
+            // prepared. If this connection turns out to be lost, another one is used.
             fields = describe(*connect(connectionString), statement);
         }
     });
@@ -179,7 +179,7 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
     return fields;
 }
 
-// Each way to the server is a wait, so what other statements have shown is not asked for again.
+// Each query costs a round trip, so what other statements have shown is reused.
 std::optional<std::vector<SourceField>> ConnectionFieldReader::fromKnown(const QString &connectionString,
                                                                          const QString &statement) const
 {

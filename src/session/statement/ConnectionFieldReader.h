@@ -16,9 +16,9 @@ namespace KOVAVSFDataGridLib {
 
 class ResultSet;
 
-// Reads field names and types through the control's own connection where that leads to the same database
-// (a second connection to a far server is a wait, and one to a database in memory another database), else
-// through a connection of its own, kept no longer than needed. What it has read it remembers until forget().
+// Reads field names and types. Uses the control's own connection if that leads to the same database (a second
+// connection to a remote server takes time, and one to a database in memory is another database), otherwise a
+// temporary connection. Results are cached until forget().
 class ConnectionFieldReader final : public FieldReader
 {
 public:
@@ -30,15 +30,15 @@ public:
     std::optional<std::vector<SourceField>> Read(const QString &connectionString,
                                                  const QString &statement) override;
 
-    // Takes the fields of a statement from its open result, so that nobody has to ask the database for them.
+    // Caches the fields of a statement from its open result, so that the database need not be queried.
     void remember(const QString &connectionString, const QString &statement, const ADODB::Fields &fields);
     EngineMode engineOf(const QString &connectionString) override;
 
-    // Why the last reading failed, as a sentence for the user; empty when it did not.
+    // Why the last reading failed, as a sentence for the user; empty if it succeeded.
     const QString &Failure() const { return m_failure; }
 
-    // Lives while a command runs. Once the user has cancelled a reading, the command's other readings fail at
-    // once.
+    // Exists while a command runs. After the user has cancelled one reading, all others of the command fail
+    // immediately.
     class Command
     {
     public:
@@ -50,17 +50,17 @@ public:
         ConnectionFieldReader &m_reader;
     };
 
-    // Whether that is so.
+    // Whether the user has cancelled a reading.
     bool isCancelled() const { return m_isCancelled; }
 
-    // Closes its own connection and forgets all names, since the tables may have changed.
+    // Closes its own connection and clears the cache, because the tables may have changed.
     void forget();
 
 private:
     // Throws ADODB::Error.
     std::shared_ptr<ADODB::Connection> connect(const QString &connectionString);
     std::shared_ptr<ADODB::Connection> connectUnlessCancelled(const QString &connectionString);
-    // Whether the reading succeeded; keeps why not.
+    // Whether the reading succeeded; if not, stores the reason.
     bool attempt(const std::function<void()> &reading);
     std::optional<std::vector<SourceField>> fromKnown(const QString &connectionString,
                                                       const QString &statement) const;

@@ -7,8 +7,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Asking the filter manager for a statement already changes what it remembers: going back removes entries of
-// the history. Unless the statement was then shown, this puts everything back as it was.
+// Asking the filter manager for a statement changes its state: going back removes entries of the history.
+// This restores the previous state unless the statement was then shown.
 class FilterManagerRollback
 {
 public:
@@ -16,12 +16,12 @@ public:
     ~FilterManagerRollback();
     Q_DISABLE_COPY_MOVE(FilterManagerRollback)
 
-    // The session's filter manager. It lives as long as this object, even when the host loads another result
-    // from inside a dialog that the filter manager is showing.
+    // The session's filter manager. This object keeps it alive, even if the host loads another result during
+    // a dialog of the filter manager.
     clsFilterManagement &manager() const { return *m_manager; }
-    // What was asked for is shown; nothing is put back.
+    // The statement is shown; nothing is restored.
     void keepChanges() { m_keepsChanges = true; }
-    // As ResultWatch::isUntouched; False as well when the host meanwhile gave another connection.
+    // Like ResultWatch::isUntouched, but also false if the host has set another connection since.
     bool isResultUntouched() const;
 
 private:

@@ -6,7 +6,7 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// The table of the statement that was loaded, for what is kept for each table.
+// The table of the loaded statement, for settings that are stored per table.
 QString loadedTable(Session &session);
 
 } // namespace KOVAVSFDataGridLib

@@ -46,7 +46,7 @@ QString firstStatement(Session &session)
     return first ? first->ShowSQL : QString();
 }
 
-// The places of those parts that the first statement doesn't have.
+// The indexes of those parts that the first statement doesn't have.
 std::vector<std::size_t> ownParts(Session &session, const Conditions &latest)
 {
     const Conditions first(session, firstStatement(session));

@@ -11,16 +11,16 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// One of the conditions that the user has put on what is shown, each of which must hold.
+// One of the conditions that the user has added; all of them must be met.
 struct ShownCondition
 {
     QString words;      // for the user to read
-    QString text;       // as the statement has it
-    QStringList fields; // that it names, without tables and quotes
-    QStringList sought; // texts that it looks for in them
+    QString text;       // as in the statement
+    QStringList fields; // those it uses, without tables and quotes
+    QStringList sought; // texts that it searches for in them
 };
 
-// Those of the latest statement that the first one of the history doesn't have.
+// The conditions of the latest statement that the first one of the history doesn't have.
 std::vector<ShownCondition> shownConditions(Session &session);
 
 // The same as they were made: parts that were built together are one.
@@ -31,7 +31,7 @@ std::vector<ConditionInForce> conditionsInForce(Session &session);
 QString statementWith(Session &session, std::size_t condition, const QString &replacement);
 QString statementWithout(Session &session, std::size_t condition);
 
-// Saves the current record and shows the latest statement without one of them, as an entry of the history.
+// Saves the current record and shows the latest statement without one of them, as a new entry of the history.
 void removeCondition(Session &session, std::size_t condition);
 
 } // namespace KOVAVSFDataGridLib

@@ -30,7 +30,7 @@ int columnNamed(const QStringList &headings, const QString &written, QStringView
 
 QString writtenColumn(Session &session, int col)
 {
-    // The statement that was opened, not the one that is called shown: "All" and "Part" only hide columns.
+    // Uses the opened statement, not the shown one: "All" and "Part" only hide columns.
     return session.history().GetColumnRealName(session.result().recordset()->Source(),
                                                session.window().Headings(), col - 1);
 }
@@ -65,7 +65,7 @@ std::vector<SortTerm> shownOrder(Session &session)
         int column = 0;
         if (statement.at(item.value.begin).kind == SqlToken::Kind::Number)
             column = value.toInt() <= headings.size() ? value.toInt() : 0;
-        // A name that several columns have is told apart by its table.
+        // If several columns have the name, its table distinguishes them.
         for (int col = 1; col <= headings.size() && column == 0; ++col) {
             if (headings.count(headings.at(col - 1)) > 1 &&
                 writtenColumn(session, col).compare(value, Qt::CaseInsensitive) == 0)

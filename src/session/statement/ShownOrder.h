@@ -8,17 +8,17 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// One term of the sort that the shown records are in.
+// One term of the sort of the shown records.
 struct SortTerm
 {
-    int column = 0; // from 1; 0 when it sorts by no column
-    QString text;   // as a sort of the records has it, with its direction; empty when none can
+    int column = 0; // from 1; 0 if it is not a column
+    QString text;   // in the form for ORDER BY, with its direction; empty if there is none
     bool isDescending = false;
 };
 
-// The sort of the open statement; nothing when it has none.
+// The sort of the open statement; empty if it has none.
 std::vector<SortTerm> shownOrder(Session &session);
-// What a sort or a condition writes for a column; empty when it has no name of its own.
+// A column's name in sorts and conditions; empty if it has no unambiguous name.
 QString writtenColumn(Session &session, int col);
 // Why it has none, for the user to read; empty when it has one.
 QString whyNotWritten(Session &session, int col);

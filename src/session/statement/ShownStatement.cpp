@@ -42,9 +42,9 @@ std::optional<ResultSet::Opened> ShownStatement::readForReload(const QString &st
     const ResultWatch watch(m_session);
     const auto manager = m_session.sharedHistory().manager();
     const QString filterBefore = m_session.texts.sqlFilter;
-    writeFilter(statement); // the host hears of it at once, because it may write another statement
+    writeFilter(statement); // notifies the host immediately, because it may set another statement
     if (!watch.isUntouched() || !m_session.sharedHistory().isManager(manager))
-        return std::nullopt; // it has put another result in this one's place, or closed it
+        return std::nullopt; // the host has replaced or closed the result
     auto opened = m_session.statementReader().read(m_session.texts.sqlFilter, refusal);
     if (!opened && !m_session.isDetached())
         writeFilter(filterBefore);
@@ -63,7 +63,7 @@ void ShownStatement::show(const ResultSet::Opened &opened)
                                      m_session.result().recordset()->Fields());
     m_isRequeried = true;
     m_session.pages().showPage(1);
-    // Widths belong to fields; the layout that follows gives each its own again.
+    // Widths belong to fields; the layout that follows restores them.
     if (m_session.rules().alwaysResetsWidths || m_session.window().Headings() != headingsBefore)
         m_session.window().ResetColWidths();
     m_session.window().refreshSingleRecord();

@@ -23,52 +23,52 @@ struct BuiltCondition
 // A condition that the user made by choosing values of a column.
 struct ChosenValues
 {
-    QString field;     // as statements write it
-    QString condition; // as the statement that is shown has it
+    QString field;     // its form in SQL
+    QString condition; // as in the shown statement
     QString built;     // see ValuesAnswer
 };
 
-// The statement whose records a session shows, and how another one takes its place.
+// The statement that a session shows, and how it is replaced.
 class ShownStatement
 {
 public:
     explicit ShownStatement(Session &session);
 
     const QString &text() const { return m_text; }
-    // Shows nothing by itself.
+    // Does not show the statement.
     void setText(const QString &statement) { m_text = statement; }
-    // Leaves the statement for the dialogs of the process to find.
+    // Stores the statement for the dialogs of the process.
     void remember() const;
-    // Writes SQLFilter.
+    // Sets SQLFilter.
     void writeFilter(const QString &statement);
 
-    // Reads a statement to be shown after keeping column widths, and the statement in SQLFilter.
-    // `isRemembered` as in remember(); else as StatementReader::read.
+    // Saves the column widths and reads a statement that will be shown, using the statement in SQLFilter.
+    // `isRemembered`: see remember(); otherwise like StatementReader::read.
     std::optional<ResultSet::Opened> readForReload(const QString &statement, bool isRemembered,
                                                    QString *refusal = nullptr);
-    // Shows what was read in place of what is shown, from its first page on.
+    // Replaces what is shown with the opened result, from its first page on.
     void show(const ResultSet::Opened &opened);
-    // Both for a statement with one more condition, which becomes the latest entry of the history.
+    // Both for a statement with an added condition, which becomes the latest entry of the history.
     bool reloadFiltered(const QString &statement, bool isRemembered, QString *refusal = nullptr);
-    // Makes the statement the latest entry of the history and lays its columns out as all or part fields.
+    // Makes the statement the latest entry of the history and arranges its columns for all or part fields.
     void addToHistory(const QString &statement,
                       const QString &partFields = colShowSQLSentences::NoPartField(),
                       const QString &orderFields = colShowSQLSentences::NoSort());
-    // Puts a result that was read for it in place of the one that is open and shows its first page. False
-    // when the host, which hears of it at once, has put something else there.
+    // Replaces the open result with one that was read for it and shows its first page. Returns false if the
+    // host, which is notified immediately, has replaced it again.
     bool replaceResult(const ResultSet::Opened &opened);
-    // Takes over a result that another session has opened, without owning it.
+    // Uses a result that another session has opened, without owning it.
     void borrow(const ResultSet::Opened &opened, const QString &statement, int page);
-    // Whether another statement has been opened since then.
+    // Whether another statement has been opened since borrow().
     bool isRequeried() const { return m_isRequeried; }
 
-    // What a user has to know to build a condition for it.
+    // The input for building a condition for it.
     ConditionRequest conditionRequest() const;
     // The statement with one more condition, which chosenValues has no more; false when none can be derived.
     bool addCondition(const QString &condition, QString &statement);
     // Keeps a filter's condition for the dialogs of the process; an empty one empties SQLFilter as well.
     void setLastFilter(const QString &condition);
-    // Whether the next filter is added to this statement and not to the first one.
+    // Whether the next filter is added to this statement instead of the first one.
     bool isFromResult() const { return m_isFromResult; }
     void toggleFromResult();
 

@@ -38,7 +38,7 @@ ResultSet::Opened StatementReader::open(const QString &statement, AllDBType dbTy
     const auto shouldContinue = [&](qint64 rowsRead, const ADODB::Recordset &recordset) {
         if (progress && rowsRead > 0)
             progress->showOpening(recordset);
-        // Asked after a cancel as well, so that windows are painted until the server has answered it.
+        // Called after a cancel too, so that windows are painted until the server has responded.
         const bool isWanted = !progress || progress->shouldContinue(rowsRead);
         m_isCancelled |= !isWanted;
         return !m_session.isDetached() && !m_isCancelled;
@@ -57,7 +57,7 @@ StatementReader::Reading StatementReader::read(const QString &statement, AllDBTy
     QString failure;
     try {
         Reading reading{.opened = open(statement, dbType)};
-        // The opener has replaced a lent result already.
+        // The opener has already replaced a lent result.
         const bool isInPlace = m_session.rules().worksOnLentResult || watch.isUntouched();
         reading.outcome = isInPlace ? Outcome::Done : Outcome::Overtaken;
         return reading;
@@ -81,13 +81,13 @@ std::optional<ResultSet::Opened> StatementReader::read(const QString &statement,
 {
     if (statement.isEmpty())
         return std::nullopt;
-    // What a filter manager was set up for stays right when another control sets another type meanwhile.
+    // The filter manager's type, because another control may have set another shared one meanwhile.
     Reading reading =
         read(m_session.history().LineOf(statement), m_session.filterManager().DBType(), refusal);
     return reading.outcome == Outcome::Done ? std::move(reading.opened) : std::nullopt;
 }
 
-// The user knows what he did.
+// The user knows that he has cancelled, so a note is enough.
 void StatementReader::reportCancelled()
 {
     if (!m_session.isDetached())

@@ -6,7 +6,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Opens a statement beside what a session shows, while the user waits and can cancel.
+// Opens a statement without changing what is shown, while the user waits and can cancel.
 class StatementReader
 {
 public:
@@ -14,7 +14,7 @@ public:
         Done,
         Failed,
         Cancelled, // by the user
-        Overtaken, // something else was put in the result's place meanwhile
+        Overtaken, // the result was replaced meanwhile
     };
     struct Reading
     {
@@ -24,11 +24,11 @@ public:
 
     StatementReader(Session &session, Session::Opener opener);
 
-    // For the database type of the session's history. Nothing when the statement is empty or can't be read,
-    // which the user has been shown, or when something else was put in the result's place meanwhile. If
-    // `refusal` is given, the database's words go there and not to the user.
+    // Uses the database type of the session's history. No value if the statement is empty or can't be read,
+    // after a message to the user, or if the result was replaced meanwhile. If `refusal` is given, the
+    // database's message is stored there instead of being shown.
     std::optional<ResultSet::Opened> read(const QString &statement, QString *refusal = nullptr);
-    // The same for a type of the caller's, with what became of it.
+    // The same for the given type; also returns the outcome.
     Reading read(const QString &statement, AllDBType dbType, QString *refusal = nullptr);
 
     // Whether the user has cancelled the last reading.

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What was read of a SELECT, and of those in brackets within it.
+// What is known about a SELECT, and about those nested in it.
 struct Level
 {
     bool isLimited = false;
@@ -32,7 +32,7 @@ struct Level
     }
 };
 
-// As many records as there are.
+// A limit that includes all records.
 QString limitOfAll(Engine engine)
 {
     return engine == Engine::SQLite ? u"-1"_s : u"18446744073709551615"_s;

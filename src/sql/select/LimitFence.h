@@ -13,14 +13,14 @@
 // keeps an engine from it.
 namespace KOVAVSFDataGridLib {
 
-// Whether that can happen to a SELECT among these tokens, in brackets or not, which has no such limit around
-// it.
+// Whether that can happen to a SELECT among these tokens,
+// nested or not, that has no such limit around it.
 bool needsFence(const SqlScanner &statement, TextRange tokens, Engine engine);
 
-// Whether the first of these tokens opens brackets around a SELECT that has such a limit.
+// Whether these tokens begin with a subquery that has such a limit.
 bool isFenced(const SqlScanner &statement, TextRange source, Engine engine);
 
-// The SELECT, with line breaks around it, as one of the same records that has this limit.
+// The SELECT, with line breaks around it, inside another one that has such a limit.
 QString fenced(const QString &select, Engine engine);
 
 } // namespace KOVAVSFDataGridLib

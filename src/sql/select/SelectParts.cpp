@@ -101,7 +101,7 @@ private:
         return next;
     }
 
-    // What brackets hold stays as a whole.
+    // The contents of brackets are not checked.
     bool hasVersionMark(TextRange range) const
     {
         for (qsizetype i = range.begin; i < range.end; ++i) {
@@ -111,7 +111,7 @@ private:
         return false;
     }
 
-    // A column can be called Top.
+    // A column can be named Top.
     bool isTopAt(qsizetype index) const
     {
         return m_sql.isWord(index, u"TOP") && index + 1 < m_end &&
@@ -194,7 +194,7 @@ private:
 
     SelectParts::Item itemAt(qsizetype first, qsizetype end) const
     {
-        // SQL Server has no comparisons in a list; there a name and "=" give the alias first.
+        // In SQL Server, a list can't contain comparisons; a name followed by "=" is an alias there.
         if (m_sql.dialect() == SqlDialect::SqlServer && m_sql.isName(first) &&
             m_sql.isSymbol(first + 1, u'=') && first + 2 < end) {
             SelectParts::Item item = SelectParts::itemWithoutAlias(m_sql, {first + 2, end});
@@ -204,7 +204,7 @@ private:
             return item;
         }
         qsizetype valueEnd = end;
-        // To PostgreSQL a text after a name is a value of the type so named.
+        // In PostgreSQL, a string after a name is a literal of that type.
         const bool endsInText = end > first && m_sql.at(end - 1).kind == SqlToken::Kind::String &&
                                 m_sql.dialect() != SqlDialect::PostgreSql;
         const bool endsInName = end - first >= 2 && (m_sql.isName(end - 1) || endsInText);
@@ -222,7 +222,7 @@ private:
         return item;
     }
 
-    // Whether a name after this token is an alias rather than part of an expression.
+    // Whether a name after this token is an alias and not part of an expression.
     bool canEndValue(qsizetype index) const
     {
         if (m_sql.isSymbol(index, u')') || m_sql.isSymbol(index, u']') ||
@@ -274,7 +274,7 @@ private:
         m_parts.hasPlainSources = found.arePlain;
     }
 
-    // Whether one of these functions is called outside of inner SELECTs.
+    // Whether one of these functions is called outside nested SELECTs.
     bool hasCall(TextRange range, bool (*isOne)(QStringView)) const
     {
         for (qsizetype i = range.begin; i < range.end; ++i) {
@@ -287,7 +287,7 @@ private:
         return false;
     }
 
-    // FILTER and WITHIN GROUP follow any aggregate, known or the user's own.
+    // FILTER and WITHIN GROUP can follow any aggregate, including user-defined ones.
     bool hasAggregate(TextRange range) const
     {
         for (qsizetype i = range.begin; i < range.end; ++i) {
@@ -314,7 +314,7 @@ private:
 
     const SqlScanner &m_sql;
     qsizetype m_end;
-    bool m_isInGroup = false; // GROUP BY was read, to which HAVING belongs
+    bool m_isInGroup = false; // after GROUP BY, HAVING belongs to it
     SelectParts m_parts;
 };
 

@@ -6,7 +6,7 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Positions [begin, end) of tokens, or of characters in the scanned text.
+// Indexes [begin, end) of tokens, or of characters in the scanned text.
 struct TextRange
 {
     qsizetype begin = 0;
@@ -15,61 +15,61 @@ struct TextRange
     bool isEmpty() const { return begin >= end; }
 };
 
-// The clauses of a SELECT, found by its tokens: what brackets, quotes and comments hold is no clause. Of a
-// compound statement it describes the first SELECT, or none of them where that is in brackets.
+// The clauses of a SELECT, found by its tokens: nothing inside brackets, quotes and comments is a clause. For
+// a compound statement, describes the first SELECT, or none if that is in brackets.
 struct SelectParts
 {
-    // One entry of the select list or of the sort.
+    // One entry of the SELECT list or of ORDER BY.
     struct Item
     {
         TextRange tokens;    // all of it
-        TextRange value;     // without the alias; of a sort term without ASC, DESC and what else follows
-        QString alias;       // without quotes; empty when there is none
-        bool hasAs = false;  // else the alias is only likely: it can be the expression's last word
+        TextRange value;     // without the alias; for a sort term, without ASC, DESC and anything after it
+        QString alias;       // without quotes; empty if there is none
+        bool hasAs = false;  // if false, the alias can be the last word of an expression instead
         bool isStar = false; // * or T.*
-        // A name, or several with dots between them; the last one is the column's.
+        // A name, possibly qualified with dots; the last part is the column's.
         bool isName = false;
     };
-    // One of what FROM selects from, with the name by which the rest of the statement knows it.
+    // One source in FROM, with the name that the rest of the statement uses for it.
     struct Source
     {
-        QString table; // empty for a SELECT in brackets and for a function
-        QString alias; // without quotes; empty for a SELECT that has none
+        QString table; // empty for a subquery and for a function
+        QString alias; // without quotes; empty for a subquery without one
         QString writtenAlias;
     };
 
-    bool isSelect = false; // else nothing below is set
+    bool isSelect = false; // if false, nothing below is set
     TextRange with;        // WITH and its tables
     TextRange listWords;   // DISTINCT, ALL, TOP n
     TextRange list;
-    TextRange source; // between FROM and the next clause; empty without FROM
+    TextRange source; // between FROM and the next clause; empty if there is no FROM
     TextRange where;  // from the word WHERE on
-    TextRange group;  // from GROUP BY or HAVING on, with both
+    TextRange group;  // from GROUP BY or HAVING on, including both
     TextRange order;  // from ORDER BY on
     bool isDistinct = false;
-    bool isDistinctOn = false; // DISTINCT ON (…), whose sort decides which rows it leaves
+    bool isDistinctOn = false; // DISTINCT ON (…); the sort determines which rows it keeps
     bool isTop = false;        // TOP n
     bool isCompound = false;   // UNION and the like
-    bool isGrouped = false;    // GROUP BY, HAVING, or an aggregate function in the list or the sort
+    bool isGrouped = false;    // GROUP BY, HAVING, or an aggregate function in the list or in ORDER BY
     bool isLimited = false;    // LIMIT, OFFSET, FETCH, ROWNUM
     bool hasWindow = false;    // a window function or a WINDOW clause
-    bool hasRows = false;      // a function in the list that gives several rows
-    bool isVersioned = false;  // MySQL runs a part of it, or skips that, by its version
-    bool isClosed = false;     // has what no derived table can hold: FOR, INTO, OPTION and the like
+    bool hasRows = false;      // a set-returning function in the list
+    bool isVersioned = false;  // MySQL runs or skips a part of it, depending on its version
+    bool isClosed = false;     // has something that no derived table can have: FOR, INTO, OPTION and the like
     std::vector<Item> items;
     std::vector<Item> sort;
     std::vector<Source> sources;
-    // Whether `*` gives the fields of one source after the other: each has a name, and no USING or NATURAL
-    // makes one field of two.
+    // Whether `*` lists the fields of one source after another: each source has a name, and no USING or
+    // NATURAL merges two fields into one.
     bool hasPlainSources = true;
-    bool isDerivedTable = false; // the source is one SELECT in brackets with its alias
+    bool isDerivedTable = false; // the only source is a subquery with an alias
 
     static SelectParts of(const SqlScanner &statement);
-    // An entry of the select list that has no alias.
+    // An entry of the SELECT list, taken to have no alias.
     static Item itemWithoutAlias(const SqlScanner &statement, TextRange tokens);
 };
 
-// The text of a range of tokens as it is written.
+// The text of a range of tokens, as written.
 QString textOf(const SqlScanner &statement, TextRange tokens);
 
 // The words among these tokens that a SELECT in brackets can't have. None of them changes a row.

@@ -23,7 +23,7 @@ public:
     }
 
 private:
-    // Answers where the next part begins.
+    // Returns where the next part begins.
     qsizetype readAt(qsizetype index)
     {
         if (m_sql.isSymbol(index, u'('))
@@ -38,7 +38,7 @@ private:
         return index + 1;
     }
 
-    // A SELECT, tables that are joined first, or what belongs to a condition.
+    // A subquery, a nested join, or part of a condition.
     qsizetype readBracket(qsizetype open)
     {
         const qsizetype next = afterBrackets(m_sql, open);
@@ -46,7 +46,7 @@ private:
             return next;
         if (isSubselect(m_sql, open))
             return readAlias({}, next);
-        // Under an alias of all that is joined, the tables have no names.
+        // If the whole join has an alias, its tables have no names outside.
         m_found.arePlain &= !m_sql.isWord(next, u"AS") && !isAlias(next);
         return open + 1;
     }
@@ -90,7 +90,7 @@ private:
                          u"INDEXED", u"NOT", u"STRAIGHT_JOIN", u"OUTER", u"WITH", u"TABLESAMPLE"});
     }
 
-    // Words before a table; {oj …} is ODBC's way to write an outer join.
+    // Words before a table. {oj …} is ODBC's syntax for an outer join.
     bool isNoTable(qsizetype index) const
     {
         return isOneOf(m_sql, index, {u"LATERAL", u"ONLY"}) ||

@@ -4,13 +4,13 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What FROM names, in its order.
+// The sources in FROM, in order.
 struct SelectSources
 {
     std::vector<SelectParts::Source> sources;
     bool arePlain = true; // see SelectParts::hasPlainSources
 
-    // `from` are the tokens between FROM and the next clause.
+    // `from` is the range between FROM and the next clause.
     static SelectSources in(const SqlScanner &statement, TextRange from);
 };
 

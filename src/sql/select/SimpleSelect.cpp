@@ -9,7 +9,7 @@ namespace {
 
 using Fault = SimpleSelect::Fault;
 
-// The words that can follow a table in a SELECT and therefore are no alias.
+// Excludes the words that can follow a table in a SELECT and therefore aren't an alias.
 bool isAlias(const SqlScanner &statement, qsizetype index)
 {
     return statement.isName(index) &&
@@ -19,8 +19,8 @@ bool isAlias(const SqlScanner &statement, qsizetype index)
                      u"CROSS",  u"NATURAL",   u"INDEXED", u"NOT",   u"FETCH", u"OFFSET", u"FOR"});
 }
 
-// Window functions see the other rows of the result, so a row can't be computed again by itself. Those of a
-// subquery see only its own rows.
+// Window functions read other rows of the result, so a single row can't be computed again. Those of a
+// subquery read only its own rows.
 bool hasWindow(const SqlScanner &statement)
 {
     for (qsizetype i = 1; i < statement.count(); ++i) {
@@ -32,7 +32,7 @@ bool hasWindow(const SqlScanner &statement)
     return false;
 }
 
-// The item at [first, end) of the statement: whatever is not surely a column is taken for computed.
+// The item at [first, end) of the statement. Anything that isn't certainly a column is treated as computed.
 SimpleSelect::Item itemAt(const SqlScanner &statement, qsizetype first, qsizetype end)
 {
     qsizetype next = first;
@@ -53,7 +53,7 @@ SimpleSelect::Item itemAt(const SqlScanner &statement, qsizetype first, qsizetyp
 bool changesByItself(const SqlScanner &statement, qsizetype first, qsizetype end)
 {
     for (qsizetype i = first; i < end; ++i) {
-        // SQLite's functions of time mean this moment when nothing else is said.
+        // Without an argument, SQLite's time functions mean the current time.
         const bool isTimeless =
             isOneOf(statement, i, {u"DATE", u"TIME", u"DATETIME", u"JULIANDAY", u"UNIXEPOCH"}) &&
             statement.isSymbol(i + 1, u'(') && statement.isSymbol(i + 2, u')');
@@ -117,11 +117,11 @@ std::vector<SimpleSelect::Item> itemsBefore(const SqlScanner &statement, qsizety
     return items;
 }
 
-// How what surrounds the table folds or combines rows; None when it does neither.
+// How anything around the table aggregates or combines rows; None if nothing does.
 SimpleSelect::Fault folding(const SqlScanner &statement)
 {
     const qsizetype list = beginOfList(statement);
-    // What MySQL runs of a comment can be DISTINCT too.
+    // The part of a comment that MySQL runs can be DISTINCT too.
     if (isDistinctWord(statement, list) || afterVersionMark(statement, list) > list)
         return Fault::Distinct;
     for (qsizetype i = 0; i < statement.count(); ++i) {
@@ -170,7 +170,7 @@ SimpleSelect SimpleSelect::parse(const SqlScanner &statement)
         next += 2;
     }
     if (statement.isSymbol(next, u'(')) {
-        select.fault = Fault::NoTable; // a function that gives rows
+        select.fault = Fault::NoTable; // a function that returns rows
         return select;
     }
     const qsizetype tableStart = statement.at(from + 1).start;

@@ -8,30 +8,30 @@ namespace KOVAVSFDataGridLib {
 
 class SqlScanner;
 
-// What a statement's text says about writing its result back: only a SELECT of single rows of one named table
-// can be, since each of its rows then is one row there. Whether that name is a table is for the database to
-// say.
+// What a statement's text says about writing its result back. That is possible only for a SELECT of single
+// rows from one named table, because then each row of the result is one row of the table. Only the database
+// knows whether the name is a table.
 struct SimpleSelect
 {
-    // One entry of the select list.
+    // One entry of the SELECT list.
     struct Item
     {
         bool all = false; // * or T.*
-        QString column;   // the name of a plain column; empty for anything that is computed
-        // For what is computed: from the time or by chance, so no two readings need to agree.
+        QString column;   // the name of a plain column; empty for a computed entry
+        // For a computed entry: depends on the time or on chance, so it can differ between two reads.
         bool changesByItself = false;
     };
 
-    // Why it is no such SELECT, if it isn't. The rest is set only when it is one.
+    // Why it is not such a SELECT. Everything else is set only if it is one.
     enum class Fault { None, Distinct, Compound, Grouped, NoTable, Join };
     Fault fault = Fault::None;
-    QString schema; // empty unless written
+    QString schema; // empty if not written
     QString table;
-    QString alias;     // as which the statement knows the table; its own name when there is no alias
-    QString tableText; // the table and its alias as they are written, with their quotes
+    QString alias;     // the statement's name for the table; its own name if there is no alias
+    QString tableText; // the table and its alias as written, with quotes
     QString aliasText;
-    qsizetype listEnd = 0;   // where the select list ends in the text
-    qsizetype sourceEnd = 0; // where the table with its alias ends
+    qsizetype listEnd = 0;   // the end of the SELECT list in the text
+    qsizetype sourceEnd = 0; // the end of the table with its alias
     std::vector<Item> items;
 
     static SimpleSelect parse(const SqlScanner &statement);

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <initializer_list>
 
-// What several readers of statements ask of their tokens.
+// Token checks that several parsers of statements use.
 namespace KOVAVSFDataGridLib {
 
 inline bool isOneOf(const SqlScanner &statement, qsizetype index, std::initializer_list<QStringView> words)
@@ -14,7 +14,7 @@ inline bool isOneOf(const SqlScanner &statement, qsizetype index, std::initializ
                        [&](QStringView word) { return statement.isWord(index, word); });
 }
 
-// After the bracket that matches the one at `open`; at most the statement's end.
+// The index after the bracket that matches the one at `open`; at most the statement's end.
 inline qsizetype afterBrackets(const SqlScanner &statement, qsizetype open)
 {
     qsizetype close = open + 1;
@@ -23,19 +23,19 @@ inline qsizetype afterBrackets(const SqlScanner &statement, qsizetype open)
     return std::min(close + 1, statement.count());
 }
 
-// Whether a SELECT in brackets begins here.
+// Whether a subquery in brackets begins here.
 inline bool isSubselect(const SqlScanner &statement, qsizetype open)
 {
     return statement.isSymbol(open, u'(') && isOneOf(statement, open + 1, {u"SELECT", u"WITH", u"VALUES"});
 }
 
-// A word that says that equal rows count as one.
+// Whether the word removes duplicate rows.
 inline bool isDistinctWord(const SqlScanner &statement, qsizetype index)
 {
     return isOneOf(statement, index, {u"DISTINCT", u"DISTINCTROW", u"UNIQUE"});
 }
 
-// A word between SELECT and the list that changes no row.
+// Whether it is a word between SELECT and the list that doesn't change the rows.
 inline bool isIdleListWord(const SqlScanner &statement, qsizetype index)
 {
     return statement.isWord(index, u"ALL") ||
@@ -100,7 +100,7 @@ inline qsizetype afterIdleListWord(const SqlScanner &statement, qsizetype index)
     return isVersionCommentEnd(statement, next) ? next + 2 : index;
 }
 
-// A number, a text or a name.
+// Whether it is a number, a string or a name.
 inline bool isOperand(const SqlScanner &statement, qsizetype index)
 {
     return index >= 0 && index < statement.count() && statement.at(index).kind != SqlToken::Kind::Symbol &&
@@ -109,8 +109,8 @@ inline bool isOperand(const SqlScanner &statement, qsizetype index)
                      u"ELSE", u"END", u"FROM", u"ESCAPE", u"WHERE", u"BY"});
 }
 
-// Whether an operator stands here that binds looser than AND: OR, the || of MySQL, and XOR, EQV and IMP where
-// an engine has them. To any other engine a word between two values is an error.
+// Whether there is an operator with lower precedence than AND: OR, MySQL's ||, and XOR, EQV and IMP if an
+// engine has them. For any other engine, a word between two values is an error.
 inline bool bindsLooserThanAnd(const SqlScanner &statement, qsizetype index)
 {
     if (statement.isWord(index, u"OR"))

@@ -4,10 +4,10 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Functions that combine several rows to one, on any engine. In any letter case.
+// Aggregate functions of any engine. Case-insensitive.
 bool isAggregateFunction(QStringView name);
 
-// PostgreSQL's functions that give several rows for each row that they are listed for.
+// PostgreSQL's set-returning functions, which produce several rows for each row.
 bool isRowFunction(QStringView name);
 
 } // namespace KOVAVSFDataGridLib

@@ -6,8 +6,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Whether the engine takes the bare name, in any letter case, for a word of its language. For Standard and
-// Other: whether any engine does.
+// Whether the bare name, in any case, is a reserved word of the engine. For Standard and Other: of any
+// engine.
 bool isReservedWord(Engine engine, const QString &name);
 
 } // namespace KOVAVSFDataGridLib

@@ -49,8 +49,8 @@ QString spokenName(const QDialog &dialog, const char *name)
     return spokenName(part<QWidget>(dialog, name));
 }
 
-// How many parts of the window can be pressed or take the focus, or are bars and menus. Each has a name, in
-// English without a Chinese letter, and those that take the focus say what they are.
+// The number of parts of the window that can be pressed or focused, or are bars or menus. Checks that each
+// has a name (in English without Chinese characters), and that those that can be focused have a role.
 int expectNames(const QWidget &window, bool isEnglish = false)
 {
     int reached = 0;
@@ -93,7 +93,7 @@ protected:
               "x'424D'), (2,'rice',NULL,'2024-02-29',1,NULL,NULL)"_s))
     {
         grid.setProperty("Language", isEnglish ? u"en"_s : u"zh-CN"_s);
-        QCoreApplication::processEvents(); // each widget hears of it
+        QCoreApplication::processEvents(); // each widget is notified
     }
     ~Spoken() override { grid.setProperty("Language", QString()); }
 

@@ -102,7 +102,7 @@ protected:
     ~Contrast() override { setColours(m_before); }
 
 private:
-    // Windows hear of it by an event.
+    // Windows are notified by an event.
     static void setColours(const QPalette &palette)
     {
         QApplication::setPalette(palette);

@@ -1,4 +1,4 @@
-// What is copied, in the grid, in the list of one record and as SQL.
+// Copying from the grid, from the single-record list and as SQL.
 #include "Shop.h"
 
 #include "support/TestDatabase.h"

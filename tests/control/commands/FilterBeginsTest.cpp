@@ -1,4 +1,4 @@
-// What the filter dialog begins with, and the conditions that compare records with each other.
+// The initial contents of the filter dialog, and the conditions that compare records with each other.
 #include "Shop.h"
 
 #include "support/Dialogs.h"

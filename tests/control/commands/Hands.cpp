@@ -159,7 +159,7 @@ void Hands::sort(QDialog &dialog, const QStringList &fields, bool isDescending)
 void Hands::find(QDialog &dialog, const QString &words, const QString &field)
 {
     auto &input = part<QComboBox>(dialog, "InputCombo1");
-    QTest::keyClicks(input.lineEdit(), u"x"_s); // the hint goes
+    QTest::keyClicks(input.lineEdit(), u"x"_s); // the hint disappears
     input.lineEdit()->clear();
     compose(*input.lineEdit(), words);
     if (!field.isEmpty())

@@ -42,12 +42,12 @@ public:
     int rows() const { return table->model()->rowCount(); }
     // The latest entry of the history, as the line below the grid tells it.
     QString statement() const;
-    // The value beside a field name in the single-record list; Null when the field is not listed.
+    // The value beside a field name in the single-record list; Null if the field is not listed.
     QString listed(const QString &field) const;
-    int listedRow(const QString &field) const; // of the list's model, -1 when there is none
+    int listedRow(const QString &field) const; // in the list's model, -1 if there is none
 
-    // Writes a text in the place of a field's in the single-record list, which is opened if need be; Enter
-    // confirms it. False when the field takes nothing.
+    // Replaces a field's value in the single-record list, which is opened if necessary; Enter confirms it.
+    // False if the field can't be edited.
     bool writeListed(const QString &field, const QString &text, bool isConfirmed = true);
 
     // Answers for the dialogs.

@@ -1,5 +1,5 @@
-// What a host does to the control behind a dialog or from an event, in the middle of a command. The command
-// ends there: an answer meant for one result is never applied to another.
+// Actions of a host while a dialog is open or in an event, in the middle of a command. The command ends: an
+// answer meant for one result is never applied to another.
 #include "Shop.h"
 
 #include "ado/Adodc.h"
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A dialog of the control, and how a person answers it.
+// A dialog of the control, and how a user answers it.
 struct Question
 {
     const char *key;
@@ -29,7 +29,7 @@ public:
     static void sort(QDialog &dialog) { Shop::sort(dialog, {u"ID"_s}, true); }
 
 protected:
-    // Presses the button, lets the host do something while the dialog is open, and answers it.
+    // Presses the button, runs the host's action while the dialog is open, and answers it.
     void ask(const std::function<void()> &host)
     {
         WindowAnswers dialogs({[&](QDialog &dialog) {
@@ -202,7 +202,7 @@ TEST_F(HostMeanwhileDeleting, LoadsAnotherResultWhoseRecordsStay)
     EXPECT_EQ(count(u"订单"_s), u"1"_s);
 }
 
-// The control goes with a command under way.
+// The control is destroyed while a command runs.
 class HostDestroys : public Shop
 {
 protected:

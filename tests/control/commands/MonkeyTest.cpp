@@ -1,4 +1,4 @@
-// Random clicks, keys and answers. KOVA_MONKEY_STEPS and KOVA_MONKEY_SEED choose how many and which.
+// Random clicks, keys and answers. KOVA_MONKEY_STEPS and KOVA_MONKEY_SEED set their number and the seed.
 #include "Shop.h"
 
 #include "support/Dialogs.h"
@@ -149,7 +149,7 @@ protected:
         case 3:
             if (QObject *recordset = grid.RecordSet(); recordset && rows() > 0)
                 QMetaObject::invokeMethod(recordset, "MoveFirst");
-            QCoreApplication::processEvents(); // the grid follows when the host is done
+            QCoreApplication::processEvents(); // the grid is updated after the host's action
             break;
         case 4:
             table->setColumnWidth(pick(table->model()->columnCount()), 20 + pick(20) * 10);
@@ -234,7 +234,7 @@ protected:
     std::unique_ptr<Windows> windows = std::make_unique<Windows>(*this);
 };
 
-// What the process holds, where the system says so.
+// The resources that the process uses, if the system reports them.
 struct Held
 {
     qint64 resident = 0; // KiB, with what the allocator keeps for later
@@ -298,7 +298,7 @@ TEST_F(Monkey, FindsNothingThatBreaksTheControl)
             loadAgain();
         }
         if (i % stepsBetweenLooks == stepsBetweenLooks - 1) {
-            QPixmapCache::clear(); // which comes and goes by megabytes
+            QPixmapCache::clear(); // its size changes by megabytes
             const Held held = heldNow();
             std::printf("monkey: step %d, %lld KiB on the heap, %lld KiB resident, %lld files\n", i + 1,
                         static_cast<long long>(held.heap), static_cast<long long>(held.resident),

@@ -17,8 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What a person does one after the other, each as soon as what it is done to is there: in a dialog, a menu or
-// a menu in it, whose event loops run inside one another.
+// A sequence of user actions, each as soon as its target exists: in a dialog, a menu or a submenu, whose
+// event loops are nested.
 class Steps : public QObject
 {
 public:

@@ -23,7 +23,7 @@ namespace {
 const QString Numbers = u"WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < %1) SELECT I, "
                         "'第' || I || '行' AS 名称, I * 1.5 AS 金额 FROM N"_s;
 
-// Fonts draw some characters with the same glyph as a radical, and readers then give the radical.
+// Fonts use the same glyph for some characters and radicals, and PDF readers then return the radical.
 QString withoutRadicals(QString text)
 {
     for (QChar &c : text) {
@@ -53,7 +53,7 @@ struct PrintTest : Shop
         EXPECT_TRUE(process.waitForFinished(60000)) << qPrintable(program);
         return QString::fromUtf8(process.readAllStandardOutput());
     }
-    // The texts of each page; none when there is no reader.
+    // The texts of each page; empty if there is no reader.
     QStringList pagesOf(const QString &file) const
     {
         QStringList pages =

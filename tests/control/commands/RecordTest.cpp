@@ -1,4 +1,4 @@
-// What changes the records: deleting and adding.
+// Commands that change records: deleting and adding.
 #include "Shop.h"
 
 #include "support/Dialogs.h"

@@ -33,7 +33,7 @@ protected:
     }
     static QString spoken(QTableView &view, int row, int col)
     {
-        // Without a screen reader, Qt doesn't tell what it keeps of a view that the cells are others now.
+        // Without a screen reader, Qt doesn't tell a view's accessible object that the cells have changed.
         QAccessible::deleteAccessibleInterface(
             QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&view)));
         QAccessibleInterface *const whole = QAccessible::queryAccessibleInterface(&view);

@@ -70,7 +70,7 @@ TEST_F(Remembered, CountAndPositionAfterEveryClick)
     EXPECT_EQ(values.recordPosition, 4);
 }
 
-// What has no room in the line under the grid.
+// A statement that does not fit into the line below the grid.
 TEST(StatementLineText, IsCutWithAnEllipsisAndWholeInTheToolTip)
 {
     StatementLine line(nullptr);

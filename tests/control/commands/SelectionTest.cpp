@@ -1,4 +1,4 @@
-// What the selected cells come to, and which of them is the current one.
+// The summary of the selected cells, and which of them is the current one.
 #include "Shop.h"
 
 #include <QtGui/QClipboard>

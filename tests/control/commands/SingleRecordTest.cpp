@@ -13,7 +13,7 @@ namespace {
 class SingleRecord : public Shop
 {
 protected:
-    // Types over a value and takes it with Enter.
+    // Replaces a value by typing and confirms it with Enter.
     void write(const QString &field, const QString &text)
     {
         makeCurrent(field);
@@ -232,7 +232,7 @@ TEST_F(SingleRecord, ChineseCanBeTypedToBegin)
     QCoreApplication::sendEvent(list, &typed);
     ASSERT_TRUE(edit->isVisible());
     EXPECT_EQ(edit->text(), u"碧螺春"_s);
-    click(u"AllRecord"_s); // takes what stands in the box, too
+    click(u"AllRecord"_s); // also commits the text in the box
     EXPECT_EQ(stored(u"名称"_s, 1), u"碧螺春"_s);
 }
 

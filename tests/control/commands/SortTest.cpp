@@ -12,7 +12,7 @@ namespace {
 
 using Sort = Shop;
 
-// Oracle knows no brackets. Its way of quoting is tried on a database that takes it as well.
+// Oracle doesn't support brackets. Its quoting is tested with a database that accepts it too.
 class OracleSort : public Shop
 {
 protected:

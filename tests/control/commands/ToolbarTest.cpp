@@ -306,7 +306,7 @@ TEST_F(Toolbar, SetFieldNameAndSetSortFnAskAsTheButtonsDo)
     ASSERT_TRUE(load());
     WindowAnswers dialogs({[](QDialog &dialog) { tick(dialog, {u"名称"_s}); },
                            [](QDialog &dialog) { sort(dialog, {u"ID"_s}, true); }});
-    grid.PutDisplayEable(false); // the toolbar's state is no matter for a host's call
+    grid.PutDisplayEable(false); // a host's call ignores the toolbar's state
     grid.SetFieldName();
     EXPECT_EQ(columns(), QStringList(u"名称"_s));
     grid.SetSortFN();

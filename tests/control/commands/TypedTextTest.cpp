@@ -1,4 +1,4 @@
-// A value that is still being typed when a host saves the record or goes to another one: it is taken first.
+// A value is still being typed when a host saves the record or moves to another one: it is committed first.
 #include "Shop.h"
 
 #include <QtTest/QTest>

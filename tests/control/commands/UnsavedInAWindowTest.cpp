@@ -1,4 +1,4 @@
-// What the user typed into a record is not lost with what the control stands on, nor with the program.
+// The user's changes to a record are not lost when the parent of the control or the program is closed.
 #include "control/face/KOVAVSFDataGrid.h"
 #include "support/MessageAnswers.h"
 #include "support/TestDatabase.h"

@@ -1,4 +1,4 @@
-// What the user wrote into a record is never dropped, whichever way its result goes.
+// The user's changes to a record are never lost, in whatever way its result is closed.
 #include "Shop.h"
 
 #include "support/Dialogs.h"
@@ -207,7 +207,7 @@ TEST_F(ReadOnlyGrid, OffersNeitherToAddNorToDeleteNorToChange)
     EXPECT_TRUE(menu->actions().at(7)->isEnabled());
 }
 
-// What was written before is kept where it can be seen, and reaches the database only when the host lets it.
+// Earlier changes stay visible, and are saved to the database only when the host allows it.
 TEST_P(Unsaved, AChangeIsKeptButNotSavedOnceTheHostWantsRecordsReadOnly)
 {
     for (const bool isConfirmed : {true, false}) {
@@ -241,7 +241,7 @@ TEST_P(Unsaved, AChangeIsKeptButNotSavedOnceTheHostWantsRecordsReadOnly)
     }
 }
 
-// A result that the database can't take back offers no change, and says why.
+// A result that can't be written offers no change, and shows the reason.
 TEST_F(ReadOnlyGrid, ResultsThatCannotBeWrittenOfferNoChangeBeforeAnybodyIsAsked)
 {
     struct Refused

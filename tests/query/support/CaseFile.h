@@ -16,8 +16,8 @@ QT_END_NAMESPACE
 
 namespace KovaTest {
 
-// A block of "name: value" lines of a case file. In values "·" is a blank, "⏎" a line feed, "→" a tab, so
-// that what counts can be seen; a line that begins with "#" is a remark.
+// A block of "name: value" lines of a case file. In values, "·" is a blank, "⏎" a line feed and "→" a tab, so
+// that they are visible; a line that begins with "#" is a comment.
 struct Case
 {
     QString place; // file and line, for messages
@@ -29,7 +29,7 @@ struct Case
     QStringList List(const QString &name) const;
 };
 
-// All cases of a file in tests/query/data. The test fails when there is none.
+// All cases of a file in tests/query/data. The test fails if there are none.
 std::vector<Case> ReadCases(const QString &fileName);
 // Those of several files.
 std::vector<Case> ReadCases(const QStringList &fileNames);

@@ -7,10 +7,10 @@
 
 namespace KovaTest {
 
-// The answer to one call; throws std::exception when the name or an argument is not what it should be.
+// The result of one call; throws std::exception if the name or an argument is invalid.
 QJsonValue CallFunction(const QString &name, const QJsonArray &arguments);
 
-// The same for a line of JSON; never throws. The answer is one line without its end.
+// The same for a line of JSON; never throws. The result is one line without a line end.
 QByteArray AnswerLine(const QByteArray &line);
 
 } // namespace KovaTest

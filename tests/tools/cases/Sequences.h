@@ -6,7 +6,7 @@
 namespace KovaTest {
 
 // Each runs the operations of {"reader": ..., "ops": [{"op", "args", "dialog"?}...]} on a new object and
-// answers a list with an operation's result and the state after it.
+// returns a list with each operation's result and the state after it.
 QJsonValue RunCatalogue(const Arguments &arguments);
 QJsonValue RunHistory(const Arguments &arguments);
 QJsonValue RunFilterManager(const Arguments &arguments);
@@ -26,7 +26,7 @@ void RemoveItem(Collection &collection, const QJsonValue &positionOrKey)
         collection.Remove(NumberOf(positionOrKey));
 }
 
-// Runs `operation` (taking the operation's object, giving its result) on each and adds `state` to its answer.
+// Runs `operation` (which takes the operation's object and returns its result) on each and adds `state`.
 template<typename Operation, typename State>
 QJsonArray RunOperations(const QJsonObject &sequence, Operation operation, State state)
 {

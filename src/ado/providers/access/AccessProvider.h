@@ -4,9 +4,9 @@
 
 namespace ADODB {
 
-// `Provider=Microsoft.Jet.OLEDB.4.0;Data Source=file.mdb`, the same with `Microsoft.ACE.OLEDB.12.0` (or a
-// later one), or a bare `Data Source=` that ends in .mdb or .accdb, and `Jet OLEDB:Database Password=` for a
-// file that asks for one. What else the string says is not needed to read a file and is passed over.
+// `Provider=Microsoft.Jet.OLEDB.4.0;Data Source=file.mdb`, the same with `Microsoft.ACE.OLEDB.12.0` (or
+// later), or only a `Data Source=` that ends in .mdb or .accdb; `Jet OLEDB:Database Password=` for a file
+// with a password. All other keywords are ignored, because reading a file does not need them.
 class AccessProvider : public Provider
 {
 public:

@@ -18,7 +18,7 @@ using KOVAVSFDataGridLib::SqlScanner;
 
 namespace {
 
-// To say that a query is not there would puzzle whoever sees it in Access.
+// The query exists in Access, so "no such table" would confuse the user.
 void throwIfLeftOut(const SqlScanner &statement, const QStringList &queries)
 {
     for (qsizetype i = 0; i < statement.count(); ++i) {

@@ -7,14 +7,14 @@
 
 namespace ADODB {
 
-// An open Access file. SQLite runs the statements, in memory, over the tables of the file, which is only
-// read.
+// An open Access file. SQLite runs the statements in memory, on virtual tables that read the file. The file
+// is never written.
 class AccessSession : public SqliteSession
 {
 public:
     AccessSession(const QString &path, const QString &password);
 
-    // Understands, beyond SQLite's SQL, what AccessDialect and AccessDistinctRow translate.
+    // Accepts SQLite's SQL and what AccessDialect and AccessDistinctRow translate.
     std::unique_ptr<Statement> prepare(const QString &sql, Access access,
                                        const std::function<bool()> &shouldContinue) override;
 

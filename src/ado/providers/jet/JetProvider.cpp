@@ -21,7 +21,7 @@ bool JetProvider::claims(const ConnectionString &connection) const
 
 std::shared_ptr<Session> JetProvider::open(const ConnectionString &connection) const
 {
-    // The driver has no clear words for a file that is not there.
+    // The driver has no clear message for a missing file.
     if (const QString source = connection.value(u"Data Source"_s); !source.isEmpty())
         DatabaseFile(source, 0);
     return OdbcProvider().open(connection);

@@ -4,8 +4,8 @@
 
 namespace ADODB {
 
-// Access files where Access's own ODBC driver can be had. The same connection strings as AccessProvider's;
-// `Mode=Read`, `Mode=Share Exclusive`, `Jet OLEDB:System database`, user and password reach the driver too.
+// Access files through Access's own ODBC driver, if installed. Accepts AccessProvider's connection strings;
+// `Mode=Read`, `Mode=Share Exclusive`, `Jet OLEDB:System database`, user and password go to the driver too.
 class JetProvider : public Provider
 {
 public:

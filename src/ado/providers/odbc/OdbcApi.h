@@ -1,6 +1,6 @@
 #pragma once
 
-// ODBC's own headers, which on Windows need that system's types first.
+// ODBC's headers. On Windows they need windows.h first.
 #include <QtCore/QString>
 #ifdef Q_OS_WIN
 #include <QtCore/qt_windows.h>
@@ -21,13 +21,13 @@ inline bool succeeded(SQLRETURN code)
     return code == SQL_SUCCESS || code == SQL_SUCCESS_WITH_INFO;
 }
 
-// Attributes carry plain numbers where a pointer is declared.
+// For attributes that are numbers passed in a pointer argument.
 inline SQLPOINTER asPointer(std::uintptr_t number)
 {
     return reinterpret_cast<SQLPOINTER>(number); // NOLINT(performance-no-int-to-ptr): never dereferenced
 }
 
-// ODBC takes its texts as not constant but does not write to them. The text must outlive the call.
+// ODBC declares input texts as non-const but does not write to them. The text must outlive the call.
 inline SQLWCHAR *wide(const QString &text)
 {
     return const_cast<SQLWCHAR *>(reinterpret_cast<const SQLWCHAR *>(text.constData()));

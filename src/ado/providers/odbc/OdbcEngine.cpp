@@ -34,11 +34,11 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
     switch (engine.kind) {
     case Kind::PostgreSql:
         engine.dialect = SqlDialect::PostgreSql;
-        // A server can be configured to read backslashes in texts as escapes; a statement that was scanned
-        // without them could then hold another one.
+        // A server can be configured to read backslashes in strings as escapes. A statement that was checked
+        // without escapes could then hide another one.
         engine.beginReading = u"BEGIN READ ONLY; SET LOCAL standard_conforming_strings = on"_s;
         engine.endReading = u"ROLLBACK"_s;
-        // A cursor is planned for its first tenth otherwise.
+        // Otherwise a cursor is planned for fetching only the first tenth of the rows.
         engine.planForAllRows = u"SET LOCAL cursor_tuple_fraction = 1.0"_s;
         engine.explain = u"EXPLAIN "_s;
         engine.limitLocks = u"SET LOCAL lock_timeout = %1"_s;
@@ -66,7 +66,7 @@ OdbcEngine OdbcEngine::of(const OdbcConnection &connection)
     case Kind::Sqlite:
         engine.beginReading = u"PRAGMA query_only = ON"_s;
         engine.endReading = u"PRAGMA query_only = OFF"_s;
-        engine.newKey = u"SELECT last_insert_rowid()"_s; // its driver sees no rows in RETURNING
+        engine.newKey = u"SELECT last_insert_rowid()"_s; // its driver returns no rows for RETURNING
         engine.looseTypes = true;
         engine.cancelTakesRows = true;
         break;

@@ -11,72 +11,72 @@ using KOVAVSFDataGridLib::SqlQuoting;
 
 class OdbcConnection;
 
-// What one database engine does in its own way.
+// How one database engine differs from the others.
 struct OdbcEngine
 {
     enum class Kind { Other, PostgreSql, MySql, MariaDb, Sqlite, SqlServer, Oracle };
 
     Kind kind = Kind::Other;
-    QString dbmsName; // as the driver gives it
+    QString dbmsName; // as the driver reports it
     SqlDialect dialect = SqlDialect::Standard;
     SqlQuoting quoting;
-    QString quote; // around a name; empty where names can't be quoted
-    // Between these two no statement, nor any function that it calls, can change data. Empty where the engine
-    // itself keeps functions in a query from that (SQL Server, Oracle) or knows no such thing.
+    QString quote; // around a name; empty if names can't be quoted
+    // Between these two, no statement and no function called by one can change data. Empty if functions in a
+    // query can't change data anyway (SQL Server, Oracle), or if the engine has no such mode.
     QString beginReading;
     QString endReading;
-    // Results are fetched in portions, from a cursor in the server that ends with the transaction.
-    // PostgreSQL's driver has cursors of its own, but it crashes when the server goes away while it fetches
-    // more rows from one.
+    // Results are fetched in portions from a server-side cursor, which ends with the transaction.
+    // PostgreSQL's driver has cursors of its own, but crashes if the server goes away while it fetches more
+    // rows from one.
     bool usesPortions = false;
-    int portion = 0; // how many rows; 0 for all
-    // After beginReading: has the engine plan queries for all their rows, as they are read. Not every engine
-    // that goes by the name knows it.
+    int portion = 0; // rows per portion; 0 for all
+    // Run after beginReading: makes the engine plan queries for reading all rows. Not every engine that
+    // reports this name supports it.
     QString planForAllRows;
-    // Before a query that somebody else's lock holds up: the statement that takes what the query needs and
-    // runs nothing. Empty where a query can be stopped while it is prepared.
+    // Run before a query that is blocked by another session's lock: takes the same locks without running the
+    // query. Empty if a query can be cancelled while it is being prepared.
     QString explain;
-    // Has the server itself end a wait for a lock after %1 milliseconds of this transaction, for calls that
-    // the driver can't stop; empty where there are none.
+    // Makes the server give up waiting for a lock after %1 milliseconds in this transaction, for calls that
+    // the driver can't cancel. Empty if there are none.
     QString limitLocks;
-    QString lockRow;   // after a SELECT: keeps the row from others until the transaction ends
-    QString lockTable; // the same, after the table in a SELECT
-    // The column, not shown by *, that the engine changes whenever it changes the row; empty where there is
+    QString lockRow;   // after a SELECT: locks the row until the transaction ends
+    QString lockTable; // the same, after the table name in a SELECT
+    // A column, not included in *, that the engine changes with every change of the row; empty if there is
     // none.
     QString rowVersion;
-    // Tables can be of a kind that knows no transactions.
+    // Some tables may not support transactions.
     bool hasOldTables = false;
-    // INSERT … RETURNING gives the columns of the new row.
+    // Whether INSERT … RETURNING returns the columns of the new row.
     bool returning = false;
-    // Otherwise the statement that gives the key which the database made for the row just inserted here;
-    // empty where there is none.
+    // If not: the statement that returns the key generated for the row just inserted in this connection;
+    // empty if there is none.
     QString newKey;
-    // A new row can be given a key that the database makes otherwise; behind the names of the columns in
-    // INSERT stands `overrideKey` then, which may be empty.
+    // Whether INSERT accepts an explicit value for a generated key. `overrideKey` then follows the column
+    // list; it may be empty.
     bool takesMadeKeys = false;
     QString overrideKey;
-    // A column can hold values of any type, whatever it is declared as.
+    // Whether a column can contain values of any type, whatever its declared type.
     bool looseTypes = false;
-    // A cancel ends what runs in the whole connection, and takes from its own statement the rows that another
-    // thread may still be reading.
+    // Whether a cancel ends whatever runs in the connection, including the rows of its own statement that
+    // another thread may still be reading.
     bool cancelTakesRows = false;
-    // Within a block of rows, the driver gives single values once more and then fetches on where it was. Some
-    // claim that and lose rows instead, so only those count that were tried.
+    // Whether the driver can return single values of a fetched block again and then continue after the block.
+    // Some drivers claim it but lose rows, so this is set only for drivers that were tested.
     bool asksAgain = false;
-    // The catalogue names no key of anything but a table.
+    // Whether the catalogue lists keys only for tables.
     bool onlyTablesHaveKeys = false;
-    // The driver reports a loss that it knows of without asking the server.
+    // Whether the driver reports a known loss without asking the server.
     bool reportsLossAtOnce = true;
-    // The driver turns dates that it can't hold (infinity, before Christ) into others.
+    // Whether the driver replaces dates that it can't represent (infinity, BC) with others.
     bool bendsDates = false;
 
     static OdbcEngine of(const OdbcConnection &connection);
-    // By a name of the engine or of its driver.
+    // By the name of the engine or of its driver.
     static Kind kindNamed(const QString &name);
 
-    // Its databases are on a server, and the same ones for each connection of a login.
+    // Whether its databases are on a server and the same for all connections of a login.
     bool isServer() const { return kind != Kind::Other && kind != Kind::Sqlite; }
-    // `name` in the engine's quotes.
+    // `name`, quoted for this engine.
     QString quoted(const QString &name) const;
 };
 

@@ -27,8 +27,8 @@ Diagnosis diagnose(SQLSMALLINT handleType, SQLHANDLE handle)
     std::array<char16_t, 4096> words{};
     Diagnosis diagnosis;
     SQLSMALLINT length = 0;
-    // The first record tells the cause where a driver gives several, but a driver manager's remark that a
-    // driver does not know some attribute can stand before it.
+    // If a driver returns several records, the first one has the cause. But a warning of the driver manager
+    // about an unsupported attribute can precede it.
     for (SQLSMALLINT record = 1; succeeded(SQLGetDiagRecW(
              handleType, handle, record, reinterpret_cast<SQLWCHAR *>(state.data()), &diagnosis.native,
              reinterpret_cast<SQLWCHAR *>(words.data()), static_cast<SQLSMALLINT>(words.size()), &length));
@@ -41,7 +41,7 @@ Diagnosis diagnose(SQLSMALLINT handleType, SQLHANDLE handle)
     return diagnosis;
 }
 
-// SQLite's driver gives SQLite's own numbers under one general state.
+// SQLite's driver returns SQLite's own error numbers with one general SQLSTATE.
 void refineSqlite(Diagnosis &diagnosis)
 {
     struct Meaning
@@ -62,7 +62,7 @@ void refineSqlite(Diagnosis &diagnosis)
         diagnosis.state = u"42S02"_s;
 }
 
-// The engines have numbers of their own for a field that takes no Null, under more general states.
+// The engines report a Null in a required field by their own numbers, with more general SQLSTATEs.
 void refineNull(Diagnosis &diagnosis)
 {
     static constexpr SQLINTEGER numbers[] = {1048, 1263, 1364, // MariaDB and MySQL
@@ -75,18 +75,18 @@ void refineNull(Diagnosis &diagnosis)
         diagnosis.state = nullRefused;
 }
 
-// The native numbers by which MariaDB, MySQL and their drivers say under a general state that the server went
-// away: killed, gone, lost, and that nobody reads any more what is written.
+// The native error numbers that MariaDB, MySQL and their drivers use, with a general SQLSTATE, for a lost
+// connection: killed, gone, lost, or a failed write.
 bool isLoss(const Diagnosis &diagnosis, const OdbcConnection &connection)
 {
     static constexpr SQLINTEGER numbers[] = {1927, 2006, 2013, 5014};
     if (diagnosis.state.startsWith("57P0"_L1) ||
         std::find(std::begin(numbers), std::end(numbers), diagnosis.native) != std::end(numbers))
         return true;
-    // PostgreSQL's driver gives this state to failures of its own in a connection that still works.
+    // PostgreSQL's driver also uses this SQLSTATE for its own failures while the connection still works.
     if (diagnosis.state.startsWith("08"_L1))
         return connection.isDead().value_or(true);
-    // And a general one to a loss, of which it knows without asking the server.
+    // And it uses a general one for a loss; the driver knows of the loss without asking the server.
     return connection.info(SQL_DRIVER_NAME).contains("psqlodbc"_L1, Qt::CaseInsensitive) &&
            connection.isDead().value_or(false);
 }
@@ -110,7 +110,7 @@ void throwOdbcError(SQLSMALLINT handleType, SQLHANDLE handle, OdbcConnection &co
         throw Error(number, text.contains("%1"_L1) ? text.arg(words) : text, u"ODBC"_s, state,
                     diagnosis.native);
     };
-    // PostgreSQL's driver gives what the server and pools before it say of a login under a general state.
+    // PostgreSQL's driver reports login errors of the server and of connection pools with a general SQLSTATE.
     if (startsWithAny(state, {"28"_L1}) ||
         (work == OdbcWork::Connecting && words.contains("authentication failed"_L1)))
         fail(dbErrAuthFailed, Texts::authenticationFailed());
@@ -132,7 +132,7 @@ void throwOdbcError(SQLSMALLINT handleType, SQLHANDLE handle, OdbcConnection &co
         fail(dbErrPermissionDenied, Texts::readOnlyQuery());
     if (startsWithAny(state, {"42501"_L1}))
         fail(dbErrPermissionDenied, Texts::permissionDenied());
-    constexpr SQLINTEGER mySqlLockWait = 1205; // under a general state
+    constexpr SQLINTEGER mySqlLockWait = 1205; // comes with a general SQLSTATE
     if (startsWithAny(state, {"40"_L1, "55P03"_L1}) || diagnosis.native == mySqlLockWait)
         fail(adErrResourceLocked, Texts::locked());
     if (startsWithAny(state, {"53100"_L1}))

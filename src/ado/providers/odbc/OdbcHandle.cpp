@@ -12,7 +12,7 @@ namespace ADODB {
 
 namespace {
 
-// Names and the like; what is longer is cut.
+// For names and the like; longer texts are truncated.
 constexpr qsizetype textLength = 1024;
 using Text = std::array<char16_t, textLength>;
 
@@ -96,8 +96,8 @@ std::chrono::steady_clock::duration OdbcConnection::idleTime() const
     return std::chrono::steady_clock::now() - m_idleSince;
 }
 
-// Narrow, as all of them are ASCII: a driver of narrow texts then writes into this room itself. It may write
-// nothing for what it does not know, and the driver manager would widen whatever its own room holds.
+// Narrow, as all answers are ASCII: a narrow driver then writes directly into this buffer. It may write
+// nothing for an unknown item, and the driver manager would convert its own uninitialized buffer.
 QString OdbcConnection::info(SQLUSMALLINT what) const
 {
     std::array<char, 1024> buffer{};
@@ -128,7 +128,7 @@ OdbcHandle::OdbcHandle(std::shared_ptr<OdbcConnection> connection) : m_connectio
 
 OdbcHandle::~OdbcHandle()
 {
-    // PostgreSQL's driver forgets to free what it knows of a statement that was only prepared.
+    // PostgreSQL's driver leaks what it knows of a statement that was only prepared.
     SQLFreeStmt(m_statement, SQL_CLOSE);
     SQLFreeHandle(SQL_HANDLE_STMT, m_statement);
 }

@@ -15,8 +15,8 @@ namespace ADODB {
 struct OdbcTable;
 struct OdbcTableFields;
 
-// The environment and connection handles of one connection. Its statements share it, so that a connection
-// that is closed while one of them still reads ends when that one does.
+// The environment and connection handles of one connection. Statements share ownership, so a closed
+// connection ends only when the last statement that reads from it ends.
 class OdbcConnection
 {
 public:
@@ -24,7 +24,7 @@ public:
     ~OdbcConnection();
     Q_DISABLE_COPY_MOVE(OdbcConnection)
 
-    // Throws what the driver says, never any of `secrets`, which are kept for all later errors as well.
+    // Throws the driver's error. It contains none of `secrets`, which are also removed from all later errors.
     void connect(const QString &text, int timeoutInSeconds, const QStringList &secrets);
 
     SQLHDBC handle() const { return m_connection; }
@@ -33,34 +33,34 @@ public:
     SQLUINTEGER number(SQLUSMALLINT what) const;
     SQLUSMALLINT shortNumber(SQLUSMALLINT what) const;
 
-    // Set when the server went away; nothing can be asked of it any more.
+    // Set when the connection to the server was lost; it is then unusable.
     bool isLost() const { return m_lost; }
     void setLost() { m_lost = true; }
-    // What the driver says about that; nothing where it doesn't know.
+    // What the driver knows about that; empty if it doesn't know.
     std::optional<bool> isDead() const;
-    // Whether another command may have it; see OdbcPool.
+    // Whether another command may use it; see OdbcPool.
     bool isFit() const { return m_fit && !m_lost; }
     void setUnfit() { m_fit = false; }
-    // It was idle, and nothing has been done with it since.
+    // It was idle and has not been used since.
     bool isUntried() const { return m_untried; }
     void setTried() { m_untried = false; }
     void setIdle();
     std::chrono::steady_clock::duration idleTime() const;
-    // The statement through which a call on `running` is cancelled: that one, or one of its own. Making the
-    // latter throws what the driver says.
+    // The statement to cancel in order to stop a call on `running`: the same one, or a dedicated one.
+    // Creating a dedicated one can throw the driver's error.
     SQLHSTMT canceller(SQLHSTMT running) const { return m_canceller ? m_canceller : running; }
     void makeCanceller();
-    // Whether the server knows OdbcEngine::planForAllRows; true until it has refused it.
+    // Whether the server supports OdbcEngine::planForAllRows; true until it has rejected it.
     bool plansForAllRows() const { return m_plansForAllRows; }
     void setPlansForAllRows(bool does) { m_plansForAllRows = does; }
-    // What the catalogue said about the tables in this session, by their names in a statement.
+    // What the catalogue said about tables in this session, by their names in a statement.
     QHash<QString, std::shared_ptr<const OdbcTable>> &tables() { return m_tables; }
-    // What statements for all columns of a table have shown, likewise.
+    // The columns of whole tables, as described in this session; same keys.
     QHash<QString, std::shared_ptr<const OdbcTableFields>> &tableFields() { return m_tableFields; }
-    // How many OdbcReading there are.
+    // The number of OdbcReading objects.
     int readings() const { return m_readings; }
     void setReadings(int readings) { m_readings = readings; }
-    // Whether there is none, but the last one was kept for the next.
+    // Whether there is none, but the transaction of the last one was kept for the next.
     bool isReadingKept() const { return m_isReadingKept; }
     void setReadingKept(bool isKept) { m_isReadingKept = isKept; }
 
@@ -83,7 +83,7 @@ private:
     QStringList m_secrets;
 };
 
-// A statement handle of a connection, which it keeps open.
+// A statement handle. It keeps its connection open.
 class OdbcHandle
 {
 public:
@@ -94,17 +94,17 @@ public:
     SQLHSTMT get() const { return m_statement; }
     const std::shared_ptr<OdbcConnection> &connection() const { return m_connection; }
 
-    // Throws the driver's error when a call on this statement did not succeed.
+    // Throws the driver's error if a call on this statement failed.
     void check(SQLRETURN code) const;
     void set(SQLINTEGER attribute, std::uintptr_t value) const;
     void set(SQLINTEGER attribute, void *address) const;
 
     void prepare(const QString &sql) const;
     void execute(const QString &sql) const;
-    // False when there is no further row.
+    // Returns false if there is no further row.
     bool fetch() const;
     int columns() const;
-    QString columnText(int column, SQLUSMALLINT what) const; // empty where the driver does not know it
+    QString columnText(int column, SQLUSMALLINT what) const; // empty if the driver does not know it
     qint64 columnNumber(int column, SQLUSMALLINT what) const;
 
 private:

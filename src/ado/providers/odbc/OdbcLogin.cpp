@@ -28,7 +28,7 @@ bool isOneOf(QStringView word, const Words &words)
                        [&](QStringView candidate) { return sameWord(word, candidate); });
 }
 
-// What ADO itself understands and a driver would not.
+// Keywords that ADO handles itself and that a driver would not understand.
 constexpr QStringView adoOnly[] = {
     u"Provider",
     u"Persist Security Info",
@@ -40,32 +40,32 @@ constexpr QStringView adoOnly[] = {
     u"Extended Properties",
 };
 
-// Of MariaDB's driver, with a number whose bits are options.
+// Of MariaDB's driver: a number whose bits are options.
 constexpr QStringView optionWords[] = {u"Option", u"Options"};
 
-// ADO's names for what ODBC calls otherwise. A data source is a server where a driver is named; see take().
+// ADO's keywords and their ODBC equivalents. `Data Source` is a server if a driver is named; see take().
 constexpr std::pair<QStringView, QStringView> synonyms[] = {
     {u"User ID", u"UID"},       {u"User", u"UID"}, {u"Password", u"PWD"}, {u"Initial Catalog", u"Database"},
     {u"Servername", u"Server"},
 };
 
-// Without one, a server that takes a connection but never answers would hold the user's program up.
+// Without a limit, a server that accepts a connection but never answers would block the program.
 constexpr int adoConnectTimeout = 15;
 
 struct Default
 {
     QStringView keyword;
-    QStringView shortName; // by which the driver knows it too; empty if there is none
+    QStringView shortName; // an alternative name in the driver; empty if there is none
     QStringView value;
 };
 
-// With the first two the driver prepares a statement without a name, which it need not give up; it fetches
-// itself only what is not fetched for it, see OdbcEngine::portion. Without LFConversion it gives other line
-// ends than the database holds. The last leaves out the savepoints that the driver puts around each
-// statement: they cost trips, and between two portions of a result over foreign tables they make it fail.
-// Without them nothing more can be done in a transaction in which something failed, and nothing is.
-// PostgreSQL's usual texts have no length, and VARCHAR may be as long as given here: none of them is a long
-// text, and none is cut.
+// The first two make the driver use an unnamed prepared statement, which it need not deallocate. The driver
+// itself fetches only what is not fetched in portions, see OdbcEngine::portion. LFConversion must be off to
+// keep the line ends of the database. The last one turns off the savepoints that the driver sets around each
+// statement: they cost round trips, and make it fail between two portions of a result over foreign tables.
+// Without them, a transaction can't continue after an error, but none does here. PostgreSQL's text types
+// usually have no length, and VARCHAR may be as long as given here, so no text is treated as a long text and
+// none is truncated.
 constexpr Default postgreSqlDefaults[] = {
     {u"UseDeclareFetch", u"B6", u"1"},       {u"Fetch", u"A7", u"5000"},
     {u"UseServerSidePrepare", u"C8", u"1"},  {u"BoolsAsChar", u"B9", u"0"},
@@ -74,8 +74,8 @@ constexpr Default postgreSqlDefaults[] = {
     {u"LFConversion", u"C5", u"0"},          {u"Protocol", u"A1", u"7.4-0"},
 };
 
-// Without the first the driver keeps a whole result in memory. Without the second it makes a database where
-// there is none.
+// Without the first, the driver keeps the whole result in memory. Without the second, it creates a missing
+// database.
 constexpr Default sqliteDefaults[] = {{u"StepAPI", {}, u"1"}, {u"NoCreat", {}, u"1"}};
 
 int seconds(const ConnectionString &connection, std::initializer_list<QLatin1StringView> keywords,
@@ -88,13 +88,13 @@ int seconds(const ConnectionString &connection, std::initializer_list<QLatin1Str
         const double given = connection.value(keyword).toDouble(&ok);
         if (!ok || !(given >= 0 && given <= 24 * 60 * 60))
             throw Error(adErrInvalidArgument, Texts::badSeconds().arg(keyword));
-        // Half a second must not become none, which means for ever.
+        // Half a second must not become 0, which means no limit.
         return static_cast<int>(given + 0.999);
     }
     return otherwise;
 }
 
-// Drivers know no other quotes than braces, and some do not know those, so they are used only where needed.
+// Drivers support no quotes but braces, and some not even those. So quotes are used only where needed.
 QString quoted(const QString &keyword, const QString &value)
 {
     static constexpr QStringView special = u"[]{}(),;?*=!@\"'";
@@ -111,7 +111,7 @@ OdbcLogin::OdbcLogin(const ConnectionString &connection)
       m_commandTimeout(seconds(connection, {"Command Timeout"_L1, "General Timeout"_L1}, 0))
 {
     take(connection);
-    // A connection string within one, which is how MSDASQL is given what only the driver knows.
+    // A connection string inside another one: how MSDASQL is given keywords for the driver.
     if (connection.contains(u"Extended Properties"_s))
         take(ConnectionString(connection.value(u"Extended Properties"_s)));
     const QString source = connection.value(u"Data Source"_s);
@@ -124,14 +124,14 @@ OdbcLogin::OdbcLogin(const ConnectionString &connection)
 
 void OdbcLogin::adaptToMariaDb()
 {
-    // Its driver overlooks ODBC's own way to say this, and would wait for ever.
+    // MariaDB's driver ignores ODBC's login timeout and would wait forever.
     if (m_connectTimeout > 0)
         put(u"CONN_TIMEOUT"_s, QString::number(m_connectTimeout));
-    // In any other character set the driver writes the nearest sign for one that the set lacks, an apostrophe
-    // for a fullwidth one: a text would end within itself, and what follows in it would run as SQL.
+    // With any other character set, the driver replaces a missing character with a similar one: a fullwidth
+    // apostrophe with an ASCII one. This would end a string early, and the rest of it would run as SQL.
     std::erase_if(m_parts, [](const auto &part) { return sameWord(part.first, u"Charset"); });
     put(u"Charset"_s, u"utf8mb4"_s);
-    // Nobody runs several statements in one text here, and the driver stays locked when one of them fails.
+    // Multiple statements are never used here, and the driver stays blocked if one of them fails.
     constexpr quint32 severalStatements = 1u << 26;
     for (auto &[keyword, value] : m_parts) {
         bool ok = false;
@@ -153,7 +153,7 @@ void OdbcLogin::take(const ConnectionString &connection)
     }
 }
 
-// What was said first stays.
+// The first value of a keyword wins.
 void OdbcLogin::put(const QString &keyword, const QString &value)
 {
     if (!contains(keyword))
@@ -235,7 +235,7 @@ int OdbcLogin::portion() const
     };
     if (number(u"UseDeclareFetch", u"B6") == 0)
         return 0;
-    constexpr int usual = 5000; // of the defaults, for what is no number
+    constexpr int usual = 5000; // the default's, if the text is not a number
     const int rows = number(u"Fetch", u"A7");
     return rows > 0 ? rows : usual;
 }

@@ -11,33 +11,33 @@ namespace ADODB {
 
 class ConnectionString;
 
-// What an ADO connection string asks for, in the words of ODBC.
+// An ADO connection string, translated to ODBC.
 class OdbcLogin
 {
 public:
-    // Throws 3001 for a time limit that is no number.
+    // Throws 3001 if a time limit is not a number.
     explicit OdbcLogin(const ConnectionString &connection);
 
-    // The text for the driver manager. It holds the password.
+    // The connection string for the driver manager. Contains the password.
     QString text() const;
-    QStringList secrets() const; // as they could stand in a driver's message
+    QStringList secrets() const; // in the forms in which a driver's message could contain them
     int connectTimeout() const
     {
         return m_connectTimeout;
     } // seconds, ADO's 15 unless given; 0 for the driver's own
     int commandTimeout() const { return m_commandTimeout; } // seconds, 0 for none
 
-    // The engine of the driver that the text names, as far as it is known before connecting.
+    // The engine of the named driver, as far as it is known before connecting.
     OdbcEngine::Kind likelyEngine() const { return m_likelyEngine; }
-    // Adds what the engine's driver needs in order to fetch a result in portions, to cut nothing and to call
-    // a Boolean one; what the text says itself stays. False when it was all there already.
+    // Adds the engine's defaults: fetching in portions, no truncation, real Booleans. Keywords that are
+    // already in the text are kept. Returns false if nothing was added.
     bool addDefaults(OdbcEngine::Kind engine);
-    // How many rows of a result to fetch at once, as the text says in the words of PostgreSQL's driver once
-    // the defaults are in it; 0 for all.
+    // The rows to fetch at a time, from the keyword of
+    // PostgreSQL's driver (after addDefaults()); 0 for all.
     int portion() const;
     QString dataSource() const { return value(u"DSN"); }
-    // Throws 3706 if the text names a driver that is not installed. The driver manager takes longer and
-    // longer to list the drivers, so this is for explaining why it could not connect.
+    // Throws 3706 if the text names a driver that is not installed. The driver manager lists the drivers
+    // slowly, so use this only to explain a failed connection.
     void checkDriver() const;
     // Throws 3002 if SQLite's driver is to open a missing file, a pipe or a device. On a pipe it waits for ever,
     // and /dev/zero is an endless file to it. A file that only a data source names is not known here.

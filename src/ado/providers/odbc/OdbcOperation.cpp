@@ -20,7 +20,7 @@ namespace ADODB {
 namespace {
 
 constexpr int millisecondsBetweenQuestions = 10;
-// From a stop until the caller is released.
+// The time from a stop until the caller is released.
 constexpr qint64 releaseFromReading = 150;
 constexpr qint64 releaseFromSaving = 3000;
 
@@ -61,8 +61,8 @@ void OdbcOperation::run(std::function<void()> work, const Wait &wait)
         } catch (...) {
             operation->m_error = std::current_exception();
         }
-        work = nullptr;             // what nobody else holds ends here
-        operation->m_lease.reset(); // which keeps the pool, whose sessions would end behind the caller's back
+        work = nullptr;             // what nobody else owns is destroyed here
+        operation->m_lease.reset(); // its deleter owns the pool, whose sessions must not end later
         theCurrent = nullptr;
         operation->m_ended.release();
         operation->m_isDone = true;
@@ -137,7 +137,7 @@ void OdbcOperation::report(const RowStore &rows)
         m_feed->put(rows);
 }
 
-// The one that stops sets its mark and then looks at this one; so at least one of the two sees the other's.
+// The stopping thread sets its flag first and then reads this one, so at least one side sees the other's.
 void OdbcOperation::setSaving(bool isSaving)
 {
     m_saving = isSaving;
@@ -167,7 +167,7 @@ SQLRETURN OdbcOperation::call(const OdbcHandle &statement, int timeout,
         m_running = SQL_NULL_HSTMT;
     }
     if (m_stop != Stop::None) {
-        statement.connection()->setUnfit(); // for the next command, which a late cancel would hit
+        statement.connection()->setUnfit(); // for the next command, which a late cancel could hit
         throwStopped();
     }
     m_due = dueBefore;
@@ -181,7 +181,7 @@ void OdbcOperation::stop(Stop why)
     std::thread([operation = shared_from_this()] { operation->cancelUntilDone(); }).detach();
 }
 
-// A cancel can come before the driver has begun and be lost then.
+// A cancel that arrives before the driver has started is lost, so it is repeated.
 void OdbcOperation::cancelUntilDone()
 {
     int pause = millisecondsBetweenQuestions;

@@ -18,53 +18,53 @@ class OdbcHandle;
 class OdbcRowFeed;
 class RowStore;
 
-// The rules for threads of this provider.
+// The threading rules of this provider.
 //
-// - What can wait for a server is an operation. It runs in a thread of its own and owns all that the driver
-//   reads or writes meanwhile: handles, bound memory, copies of what the caller gave. It refers to nothing of
-//   the caller's.
-// - The caller's thread waits in run(), asks whether to go on, and touches nothing of the operation.
-// - To stop, the server is asked to, again and again with growing pauses, from a third thread: asking waits
-//   for the server as well. An operation that was stopped changes nothing any more: it notices after the
-//   driver's call that is under way.
-// - A caller who does not get an answer in time is released: at once, unless the server may be saving, for
-//   then the answer is worth some seconds. The operation ends by itself when the driver returns, and destroys
+// - Anything that can wait for a server is an operation. It runs in its own thread and owns all data that the
+//   driver reads or writes meanwhile: handles, bound memory, copies of the caller's data. It refers to none
+//   of the caller's.
+// - The caller's thread waits in run(), calls `shouldContinue`, and does not touch the operation's data.
+// - A stop sends cancel requests from a third thread, repeatedly and with growing pauses, because a cancel
+//   waits for the server as well. A stopped operation makes no further changes: it checks for a stop after
+//   each call of the driver.
+// - A caller that gets no answer in time is released: immediately, unless the server may be saving, because
+//   then the answer is worth some seconds. The operation ends on its own when the driver returns, and frees
 //   what it owns in its own thread.
 class OdbcOperation : public std::enable_shared_from_this<OdbcOperation>
 {
 public:
     struct Wait
     {
-        // Asked at least every 20 ms, with the number of rows read so far; after a stop as well, so that it
-        // can go on painting.
+        // Called at least every 20 ms with the number of rows read so far. Also called after a stop, so that
+        // the caller can continue to paint.
         std::function<bool(qint64 rows)> shouldContinue;
-        // Seconds that the whole may take, 0 for ever.
+        // The maximum duration of the whole operation in seconds, 0 for no limit.
         int limit = 0;
-        // Gets the rows that are read, for the caller to look at meanwhile; may be null.
+        // Receives the rows as they are read, so that the caller can look at them meanwhile; may be null.
         std::shared_ptr<OdbcRowFeed> feed = {};
     };
 
-    // Runs `work` as an operation; within one, in its thread. Throws what it throws, dbErrCancelled when
-    // `shouldContinue` answered false, dbErrFailed with HYT00 at a limit, and dbErrInDoubt instead when the
-    // caller was released while the server may have been saving.
+    // Runs `work` as an operation, or directly if called from within one. Throws what `work` throws;
+    // dbErrCancelled if `shouldContinue` returned false; dbErrFailed with HYT00 at the limit; dbErrInDoubt
+    // instead of these if the caller was released while the server may have been saving.
     static void run(std::function<void()> work, const Wait &wait);
 
-    // What run() throws where the caller cancelled.
+    // The error that run() throws if the caller cancelled.
     static Error cancelled();
 
-    // The rest is for the work itself.
+    // The rest is for `work` itself.
 
-    // Of this thread; null outside of any operation.
+    // The operation that runs in this thread, or null.
     static OdbcOperation *current();
-    // A call that can be stopped by `statement`, and may take so many seconds, 0 for ever.
+    // Makes a call that cancelling `statement` can stop. `timeout` is in seconds, 0 for no limit.
     SQLRETURN call(const OdbcHandle &statement, int timeout, const std::function<SQLRETURN()> &call);
-    // Throws when it is to stop.
+    // Throws if the operation was stopped.
     void check() const;
-    // From here on, until it is set to false, the server may be saving. Throws when it is to stop.
+    // From here until it is set to false, the server may be saving. Throws if the operation was stopped.
     void setSaving(bool isSaving);
     void report(const RowStore &rows);
 
-    // The server's session that `owner` uses in this operation.
+    // The server session that `owner` uses during this operation.
     std::shared_ptr<OdbcConnection> lease(const void *owner) const;
     void setLease(const void *owner, const std::shared_ptr<OdbcConnection> &connection);
 
@@ -74,7 +74,7 @@ private:
     void stop(Stop why);
     void cancelUntilDone();
     bool isOverdue() const;
-    // Whether a caller who stopped it that long ago, in milliseconds, is released.
+    // Whether a caller that stopped the operation `sinceStop` milliseconds ago is released.
     bool isReleased(qint64 sinceStop) const;
     [[noreturn]] void throwStopped() const;
 
@@ -82,13 +82,13 @@ private:
     std::atomic<bool> m_saving = false;
     std::atomic<qint64> m_rows = 0;
     std::shared_ptr<OdbcRowFeed> m_feed;
-    std::atomic<qint64> m_due = 0; // milliseconds of the steady clock; 0 for never
+    std::atomic<qint64> m_due = 0; // milliseconds of the steady clock; 0 for none
     std::atomic<int> m_timeout = 0;
-    QSemaphore m_done;                  // wakes the caller, who then looks at m_isDone
-    std::atomic<bool> m_isDone = false; // from then on all that the work has written is the caller's
+    QSemaphore m_done;                  // wakes the caller, which then checks m_isDone
+    std::atomic<bool> m_isDone = false; // from then on, everything that the work wrote belongs to the caller
     QSemaphore m_ended;                 // for the thread that cancels
     std::exception_ptr m_error;
-    QMutex m_mutex; // guards m_running; held while the driver cancels
+    QMutex m_mutex; // guards m_running; locked while the driver cancels
     SQLHSTMT m_running = SQL_NULL_HSTMT;
     const void *m_owner = nullptr;
     std::weak_ptr<OdbcConnection> m_lease;

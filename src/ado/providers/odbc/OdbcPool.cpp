@@ -21,7 +21,7 @@ namespace ADODB {
 namespace {
 
 constexpr std::size_t mostIdle = 1;
-// Firewalls and address translation forget silent connections after five minutes at the earliest.
+// Firewalls and NAT drop idle connections after five minutes at the earliest.
 constexpr auto longestIdle = 4min;
 
 struct Registry
@@ -36,8 +36,8 @@ Registry &registry()
     return theRegistry;
 }
 
-// Of a driver that it can't find, one manager says that there is no such data source, another warns that it
-// can't open a file.
+// If the driver is missing, one driver manager reports that there is no such data source, another one warns
+// that it can't open a file.
 bool isFromManager(const Error &error)
 {
     return error.SQLState().startsWith("IM"_L1) || error.SQLState().startsWith("01"_L1);
@@ -50,7 +50,7 @@ std::unique_ptr<OdbcConnection> connectTo(const OdbcLogin &login)
     try {
         connection->connect(login.text(), login.connectTimeout(), login.secrets());
     } catch (const Error &error) {
-        // The driver manager's own words are of no help to anybody who reads no English.
+        // The driver manager's own text is English only, so it would not help every user.
         if (isFromManager(error))
             login.checkDriver();
         if (error.SQLState() != "IM002"_L1)
@@ -67,7 +67,7 @@ std::unique_ptr<OdbcConnection> connectTo(const OdbcLogin &login)
     return connection;
 }
 
-// Of the row that a statement stands on.
+// Reads from the statement's current row.
 QString textAt(const OdbcHandle &statement, int column)
 {
     OdbcLongValue value;
@@ -110,7 +110,7 @@ void OdbcPool::connectFirst()
 {
     auto connection = connectTo(m_login);
     m_engine = OdbcEngine::of(*connection);
-    // A driver can go by any name, so this one may be known only now.
+    // A driver can have any name, so the engine may be known only now.
     if (m_login.addDefaults(m_engine.kind)) {
         connection.reset();
         connection = connectTo(m_login);
@@ -124,9 +124,9 @@ void OdbcPool::connectFirst()
         learnModes();
 }
 
-// Settings of the server, the account or the connection string can change both in the session, past the
-// driver. Statements are written and checked by the quoting. What the driver sends is UTF-8, and a server
-// that takes it for something else finds other characters in it, also quotes.
+// The server, the account or the connection string can set the SQL mode and the character set of a session
+// without the driver's knowledge. Statements are written and checked by the mode. The driver sends UTF-8; a
+// server that decodes it as anything else reads other characters, possibly quotes.
 void OdbcPool::learnModes()
 {
     const auto connection = acquire(std::make_shared<std::atomic<bool>>(false));
@@ -159,12 +159,12 @@ void OdbcPool::setModes(const std::shared_ptr<OdbcConnection> &connection) const
 
 void OdbcPool::prepareIdle()
 {
-    acquire(std::make_shared<std::atomic<bool>>(false)); // which is idle again at once
+    acquire(std::make_shared<std::atomic<bool>>(false)); // idle again at once
 }
 
 std::unique_ptr<OdbcConnection> OdbcPool::acquireIdle()
 {
-    // What is not taken ends only when the lock is released.
+    // Sessions that are not reused are destroyed after the lock is released.
     std::vector<std::unique_ptr<OdbcConnection>> ended;
     const QMutexLocker lock(&m_mutex);
     while (!m_idle.empty()) {

@@ -12,32 +12,32 @@ namespace ADODB {
 
 class OdbcConnection;
 
-// The server sessions of one login. Whoever needs one takes it for a single command and gives it back by
-// releasing the answer, so that a control does with one session what it does in sequence, and a pool before
-// the server is free between commands. They end with the pool, which all connections of that login share.
+// The server sessions of one login. A user acquires one for a single command and returns it by releasing the
+// pointer. So a control runs its commands one after another in one session, and a pooler in front of the
+// server is free between commands. The sessions end with the pool, which all connections of the login share.
 //
-// A session goes to nobody else when a command was cancelled in it, since the cancel may arrive late; when a
-// change failed in it; when it was lost; or when it was idle for minutes, because something on the way may
-// have forgotten it.
+// A session is not reused if a command was cancelled in it, since the cancel may arrive late; if a change
+// failed in it; if it was lost; or if it was idle for minutes, because something on the network may have
+// dropped it.
 //
-// May be used from any thread.
+// Thread-safe.
 class OdbcPool : public std::enable_shared_from_this<OdbcPool>
 {
 public:
-    // The pool that is in use for this login, else a new one. It has a session that nobody uses when this
-    // returns. Throws what connecting throws. An engine whose databases can live in a session has a pool of
-    // one session for each call.
+    // Returns the existing pool for this login, or a new one. On return it has an idle session. Throws the
+    // errors of connecting. For an engine whose databases can exist only in a session, each call returns a
+    // new pool with one session.
     static std::shared_ptr<OdbcPool> open(OdbcLogin login);
     ~OdbcPool();
     Q_DISABLE_COPY_MOVE(OdbcPool)
 
     const OdbcEngine &engine() const { return m_engine; }
-    // `isLost` becomes true when the session turns out to be lost, unless that happened before anything was
-    // done with it; see OdbcConnection::isUntried().
+    // `isLost` becomes true if the session turns out to be lost, except if that happened before its first
+    // use; see OdbcConnection::isUntried().
     std::shared_ptr<OdbcConnection> acquire(const std::shared_ptr<std::atomic<bool>> &isLost);
-    // Ends a reading that was kept in a session that nobody uses; see OdbcReading::keep.
+    // Ends the read transaction kept in an idle session, if any; see OdbcReading::keep.
     void endKeptReading();
-    // Ends all sessions that nobody uses: one of them was dead, so the others are.
+    // Ends all idle sessions: one of them was dead, so the others are dead too.
     void dropIdle();
 
 private:
@@ -53,10 +53,10 @@ private:
 
     OdbcLogin m_login;
     OdbcEngine m_engine;
-    QString m_newSession; // the statement that a new session begins with; empty for none
+    QString m_newSession; // the statement that a new session runs first; may be empty
     bool m_isShared = false;
     QMutex m_mutex;                                      // guards m_idle
-    std::vector<std::unique_ptr<OdbcConnection>> m_idle; // the latest used at the end
+    std::vector<std::unique_ptr<OdbcConnection>> m_idle; // most recently used last
 };
 
 } // namespace ADODB

@@ -4,10 +4,10 @@
 
 namespace ADODB {
 
-// `Driver={…};Server=…` or `DSN=…`, also with `Provider=MSDASQL` in front; `Data Source=` then is the DSN, or
-// the server where a driver is named. ADO's `User ID`, `Password` and `Initial Catalog` are understood,
-// `Connect Timeout` and `Command Timeout` count seconds. All else goes to the driver as it is. A string for
-// an OLE DB provider of SQL Server or Oracle goes to the best ODBC driver for it, see OleDbWords.h.
+// `Driver={…};Server=…` or `DSN=…`, optionally with `Provider=MSDASQL`. `Data Source=` is then the DSN, or
+// the server if a driver is named. ADO's `User ID`, `Password` and `Initial Catalog` are accepted; `Connect
+// Timeout` and `Command Timeout` are in seconds. All other keywords are passed to the driver unchanged. A
+// string for an OLE DB provider of SQL Server or Oracle uses the best ODBC driver for it, see OleDbWords.h.
 class OdbcProvider : public Provider
 {
 public:

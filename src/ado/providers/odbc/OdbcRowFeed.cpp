@@ -8,7 +8,7 @@ namespace ADODB {
 
 void OdbcRowFeed::put(const RowStore &rows)
 {
-    constexpr std::chrono::milliseconds pause(5); // the caller asks every ten
+    constexpr std::chrono::milliseconds pause(5); // the caller checks every ten
     const auto now = std::chrono::steady_clock::now();
     if (rows.rows() == 0 || (m_latest && now - m_lastPut < pause)) // only this thread writes m_latest
         return;

@@ -9,20 +9,20 @@ namespace ADODB {
 
 class RowStore;
 
-// The rows that an operation has read so far, for the thread that waits for it. Both threads use it.
+// The rows that an operation has read so far, for the thread that waits for it. Used by both threads.
 class OdbcRowFeed
 {
 public:
-    // For the operation: more whole rows have come. Copies that nobody could have looked at yet are skipped,
-    // because some drivers give one row at a time.
+    // Called by the operation when more complete rows were read. Skips copies that nobody could have looked
+    // at yet, because some drivers return one row at a time.
     void put(const RowStore &rows);
-    // Null when none have come.
+    // Null if there are none yet.
     std::shared_ptr<const RowStore> latest() const;
 
 private:
     mutable QMutex m_mutex; // guards m_latest
     std::shared_ptr<const RowStore> m_latest;
-    std::chrono::steady_clock::time_point m_lastPut; // used by the operation alone
+    std::chrono::steady_clock::time_point m_lastPut; // used only by the operation
 };
 
 } // namespace ADODB

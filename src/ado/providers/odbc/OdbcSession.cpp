@@ -20,7 +20,7 @@ namespace ADODB {
 
 namespace {
 
-// Seconds for what nobody can cancel: ADO's.
+// The time limit in seconds of calls that can't be cancelled; ADO's default.
 constexpr int limitOfUnwatched = 30;
 
 } // namespace
@@ -77,7 +77,7 @@ QString OdbcSession::tableStatement(const QString &table) const
 
 void OdbcSession::close()
 {
-    // They end when the lock is released.
+    // Destroyed after the lock is released.
     std::shared_ptr<OdbcConnection> kept;
     std::shared_ptr<OdbcPool> pool;
     const QMutexLocker lock(&m_mutex);

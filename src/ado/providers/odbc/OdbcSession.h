@@ -12,13 +12,13 @@ namespace ADODB {
 class OdbcConnection;
 class OdbcPool;
 
-// An open connection for its users. For each command it takes a session of the server from the pool. When a
-// session was lost, this one is closed for those who want to open another one instead; a writer that holds it
-// still gets a new session of the server, and with it this one is open again.
+// An open connection. It takes a server session from the pool for each command. When a session was lost,
+// isOpen() is false, so that callers can open a new connection. A writer that still holds this object gets a
+// new server session, and then this object is open again.
 class OdbcSession : public Session, public std::enable_shared_from_this<OdbcSession>
 {
 public:
-    // `commandTimeout` is how many seconds a statement may take until it gives its first rows, 0 for ever.
+    // `commandTimeout`: the seconds in which a statement must return its first rows, 0 for no limit.
     OdbcSession(std::shared_ptr<OdbcPool> pool, int commandTimeout);
     ~OdbcSession() override;
     Q_DISABLE_COPY_MOVE(OdbcSession)
@@ -35,26 +35,26 @@ public:
     void close() override;
     bool isOpen() const override;
 
-    // What becomes of a reading that was kept in the server's session; see OdbcReading::keep.
+    // What happens to a read transaction kept in the server session; see OdbcReading::keep.
     enum class KeptReading { End, Use };
 
-    // The server's session of the operation that is under way, for as long as somebody holds it, else another
-    // one. In autocommit mode. Throws 3709 once this is closed.
+    // The server session of the current operation while somebody holds it, else another one. In autocommit
+    // mode. Throws 3709 after close().
     std::shared_ptr<OdbcConnection> connection(KeptReading kept = KeptReading::End);
-    // Begins a command with `first`. Where the server had ended the session while nobody used it, `first` is
-    // run once more in a new one.
+    // Starts a command with `first`. If the server ended the session while it was idle, runs `first` again in
+    // a new session.
     std::shared_ptr<OdbcConnection>
     begin(const std::function<void(const std::shared_ptr<OdbcConnection> &)> &first,
           KeptReading kept = KeptReading::End);
     const OdbcEngine &engine() const { return m_engine; }
     int commandTimeout() const { return m_commandTimeout; }
-    // Null once it is closed.
+    // Null after close().
     std::shared_ptr<OdbcPool> pool() const;
 
 private:
     mutable QMutex m_mutex;                 // guards m_pool and m_kept
-    std::shared_ptr<OdbcPool> m_pool;       // null once it is closed
-    std::shared_ptr<OdbcConnection> m_kept; // of a database that lives in its connection
+    std::shared_ptr<OdbcPool> m_pool;       // null after close()
+    std::shared_ptr<OdbcConnection> m_kept; // of a database that exists only in its connection
     std::shared_ptr<std::atomic<bool>> m_isLost = std::make_shared<std::atomic<bool>>(false);
     OdbcEngine m_engine;
     int m_commandTimeout;

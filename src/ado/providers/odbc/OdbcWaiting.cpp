@@ -20,26 +20,26 @@ bool always(qint64)
     return true;
 }
 
-// Runs what nobody waits for.
+// Runs work whose result nobody waits for.
 void runQuietly(const char *fault, const std::function<void()> &work)
 {
     try {
         work();
     } catch (const Error &) {
-        // Nothing was asked for that could be missed.
+        // Nobody waits for a result, so nothing is lost.
     } catch (const std::exception &error) {
         qWarning("%s: %s", fault, error.what());
     }
 }
 
-// What takes longer than a moment ends by itself.
+// Waits for a short time only; longer work ends on its own.
 void runForAMoment(std::function<void()> work)
 {
-    constexpr int limit = 1; // second
+    constexpr int limit = 1; // seconds
     OdbcOperation::run(std::move(work), {always, limit});
 }
 
-// A row with bytes of its own.
+// A row that owns its bytes.
 class OwnRow
 {
 public:
@@ -74,7 +74,7 @@ OdbcWaitingStatement::OdbcWaitingStatement(std::shared_ptr<OdbcSession> session,
         m_writer = std::make_unique<OdbcWaitingWriter>(std::move(writer));
 }
 
-// One that was only prepared still holds a session of the server.
+// A statement that was prepared but never fetched still holds a server session.
 OdbcWaitingStatement::~OdbcWaitingStatement()
 {
     if (!m_statement)
@@ -99,7 +99,7 @@ void OdbcWaitingStatement::fetch(RowStore &rows, const std::function<bool(qint64
     OdbcOperation::run([statement = std::move(m_statement), own] { statement->fetch(*own); },
                        {shouldContinue, 0, m_feed});
     rows = std::move(*own);
-    // However quick it was, the caller has been asked.
+    // So that the caller is asked at least once, however fast the statement was.
     if (!shouldContinue(rows.rows()))
         throw OdbcOperation::cancelled();
 }
@@ -111,7 +111,7 @@ std::shared_ptr<const RowStore> OdbcWaitingStatement::rowsSoFar() const
 
 OdbcWaitingWriter::OdbcWaitingWriter(std::shared_ptr<OdbcRowWriter> writer) : m_writer(std::move(writer)) {}
 
-// The statements of a change have limits of their own; this one is for what lies between them.
+// The statements of a change have their own time limits; this one covers what is between them.
 void OdbcWaitingWriter::run(std::function<void()> work) const
 {
     Watched watched;
@@ -140,7 +140,7 @@ bool OdbcWaitingWriter::keepsNulCharacters() const
     return m_writer->keepsNulCharacters();
 }
 
-// Where the outcome is in doubt, only COMMIT can still be under way, and the row is complete before it.
+// If the outcome is in doubt, only COMMIT can still be running, and the row was complete before it.
 void OdbcWaitingWriter::write(const std::function<void(OdbcRowWriter &, RowStore &)> &action,
                               RowStore &stored) const
 {

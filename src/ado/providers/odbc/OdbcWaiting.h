@@ -11,8 +11,8 @@ class OdbcRowWriter;
 class OdbcSession;
 class OdbcStatement;
 
-// What a recordset holds of a statement and its writer. Each call is an operation: its caller waits and stays
-// master of its own thread. See OdbcOperation.
+// The statement and writer that a recordset holds. Each call runs as an operation, so that the caller's
+// thread can continue to respond while it waits. See OdbcOperation.
 class OdbcWaitingStatement : public Statement
 {
 public:
@@ -29,7 +29,7 @@ public:
 
 private:
     std::shared_ptr<OdbcSession> m_session;
-    std::shared_ptr<OdbcStatement> m_statement; // until it was fetched
+    std::shared_ptr<OdbcStatement> m_statement; // until it has been fetched
     const std::shared_ptr<OdbcRowFeed> m_feed;
     std::vector<FieldInfo> m_fields;
     int m_columns;
@@ -58,8 +58,8 @@ private:
     void write(const std::function<void(OdbcRowWriter &, RowStore &)> &action, RowStore &stored) const;
 
     std::shared_ptr<OdbcRowWriter> m_writer;
-    // Held while the writer works: what it reads must not be older than what it was saving when its caller
-    // was released.
+    // Locked while the writer works: a read must not return data older than what the writer was saving when
+    // its caller was released.
     std::shared_ptr<QMutex> m_mutex = std::make_shared<QMutex>();
 };
 

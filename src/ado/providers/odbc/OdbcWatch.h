@@ -9,17 +9,17 @@ namespace ADODB {
 class OdbcHandle;
 class RowStore;
 
-// Calls of an operation that can wait for the server and can be stopped by one statement; see OdbcOperation.
+// Makes calls that wait for the server and that cancelling `statement` stops; see OdbcOperation.
 class OdbcWatch
 {
 public:
-    // `statement` must live as long. One call may take `timeout` seconds, 0 for ever.
+    // `statement` must outlive it. `timeout` is the limit per call in seconds, 0 for no limit.
     OdbcWatch(const OdbcHandle &statement, int timeout);
 
-    // Answers what the call answered. Throws dbErrCancelled when the operation was stopped, and dbErrFailed
-    // when it took too long.
+    // Returns the result of the call. Throws dbErrCancelled if the operation was stopped, and dbErrFailed if
+    // the call took too long.
     SQLRETURN run(const std::function<SQLRETURN()> &call) const;
-    // Reports the rows that have been read, and throws as run() does.
+    // Reports the rows read so far, and throws as run() does.
     void ask(const RowStore &rows) const;
 
 private:

@@ -33,7 +33,7 @@ void SqliteCall::bind(const RawValue &value)
             sqlite3_bind_text64(statement, m_bound, value.bytes.data(), size, SQLITE_TRANSIENT, SQLITE_UTF8));
         break;
     case RawValue::Kind::Blob:
-        // A blob without bytes must not become Null, which is what no address means.
+        // An empty blob must not become Null, which a null pointer means.
         check(sqlite3_bind_blob64(statement, m_bound, size > 0 ? value.bytes.data() : "", size,
                                   SQLITE_TRANSIENT));
         break;

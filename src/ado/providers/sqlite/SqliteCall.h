@@ -5,20 +5,20 @@
 
 namespace ADODB {
 
-// A statement of the provider's own with its parameters, which are bound from left to right. What is bound
-// must live until the call has been run.
+// An internal statement of the provider and its parameters, bound from left to right. Bound values must live
+// until the call has run.
 class SqliteCall
 {
 public:
-    // Writes is for what changes the database, which only a transaction of a row writer may do.
+    // Writes: changes the database. Only a row writer's transaction may do that.
     enum Purpose { Reads, Writes };
 
     SqliteCall(const SqliteSession &session, Purpose purpose, const QString &sql);
 
     void bind(const RawValue &value);
-    // One of Null, qlonglong, double, QString, QByteArray.
+    // Accepts Null, qlonglong, double, QString and QByteArray.
     void bind(const QVariant &value);
-    // Runs it up to its next row; false when there is none.
+    // Runs it up to the next row. Returns false if there is none.
     bool step();
     sqlite3_stmt *handle() const { return m_statement.get(); }
 

@@ -35,7 +35,7 @@ void add(QCryptographicHash &hash, sqlite3_value *value)
         return addNumber(hash, std::bit_cast<quint64>(sqlite3_value_double(value)));
     case SQLITE_TEXT:
     case SQLITE_BLOB: {
-        // As it is stored, without turning texts into another encoding.
+        // The stored bytes, without conversion to another encoding.
         const void *const bytes = sqlite3_value_blob(value);
         const int size = sqlite3_value_bytes(value);
         addNumber(hash, static_cast<quint64>(size));

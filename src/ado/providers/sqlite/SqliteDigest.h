@@ -6,8 +6,8 @@ struct sqlite3;
 
 namespace ADODB::SqliteDigest {
 
-// An SQL function of any number of values that tells rows apart: 16 bytes, the same for the same values of
-// the same types. It lets a result carry what a whole row was without carrying the row.
+// The name of an SQL function that hashes any number of values to 16 bytes: equal values of equal types have
+// the same hash. A result can contain this instead of a whole row, to recognize the row later.
 QString name();
 void install(sqlite3 *db);
 

@@ -6,7 +6,7 @@ struct sqlite3;
 
 namespace ADODB {
 
-// Throws the Error for a result code that SQLite has just answered on `db`, with SQLite's own words in it.
+// Throws the Error for a result code that SQLite just returned on `db`, including SQLite's message.
 [[noreturn]] void throwSqliteError(sqlite3 *db, int code);
 
 } // namespace ADODB

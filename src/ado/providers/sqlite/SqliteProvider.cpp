@@ -22,7 +22,7 @@ QString checkedPath(const QString &path)
     const DatabaseFile file(path, header.size());
     if (file.header != header)
         throw Error(adErrOpeningFile, Texts::notADatabase().arg(file.shown));
-    // SQLite opens these by itself, and would wait at a pipe.
+    // SQLite opens these itself, and would block on a pipe.
     for (const QLatin1StringView ending : {"-journal"_L1, "-wal"_L1, "-shm"_L1}) {
         const QFileInfo beside(file.path + ending);
         if (beside.exists() && !beside.isFile())

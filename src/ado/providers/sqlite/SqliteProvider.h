@@ -4,8 +4,8 @@
 
 namespace ADODB {
 
-// `Provider=SQLite;Data Source=file` (also `:memory:`), or a bare `Data Source=` that no other provider's
-// file ending claims. `Connect Timeout=` is how many seconds to wait for a locked file, 2 unless given.
+// `Provider=SQLite;Data Source=file` (or `:memory:`), or only a `Data Source=` whose ending belongs to no
+// other provider. `Connect Timeout=` is the number of seconds to wait for a locked file, 2 by default.
 class SqliteProvider : public Provider
 {
 public:

@@ -19,8 +19,8 @@ namespace ADODB {
 
 namespace {
 
-// With a write-ahead log SQLite goes on in a file that nobody finds any more, and in the log beside the one
-// that has come in its place.
+// If the file was replaced, SQLite with a write-ahead log would continue to use the deleted file, together
+// with the log of the new one.
 void needFileInPlace(sqlite3 *db)
 {
     int hasMoved = 0;
@@ -28,8 +28,8 @@ void needFileInPlace(sqlite3 *db)
         throw Error(dbErrFailed, Texts::fileReplaced(), u"SQLite"_s);
 }
 
-// Undone unless it is committed. What ends it is compiled before it begins, so that this needs no memory
-// then.
+// Rolled back unless it is committed. COMMIT and ROLLBACK are compiled before BEGIN, so that ending the
+// transaction needs no memory.
 class Transaction
 {
 public:
@@ -39,19 +39,19 @@ public:
           m_rollback(session, SqliteCall::Writes, u"ROLLBACK"_s)
     {
         needFileInPlace(session.db());
-        // The lock is taken at once, so a busy database is noticed before anything is changed, and what is
-        // read now stays as it is until the end.
+        // Locks at once. So a busy database is detected before anything is changed, and what is read stays
+        // the same until the end.
         SqliteCall(session, SqliteCall::Writes, u"BEGIN IMMEDIATE"_s).step();
     }
     ~Transaction()
     {
-        // Some failures have already ended it.
+        // Some errors have already ended the transaction.
         if (sqlite3_get_autocommit(sqlite3_db_handle(m_rollback.handle())))
             return;
         try {
             m_rollback.step();
         } catch (const Error &) {
-            // Closing the connection undoes it all the same, as does the next program that opens the file.
+            // Closing the connection rolls it back too, and so does the next program that opens the file.
         } catch (const std::exception &error) {
             qWarning("A transaction could not be rolled back: %s", error.what());
         }
@@ -71,7 +71,7 @@ QString source()
     return u"SQLite"_s;
 }
 
-// A trigger can keep the row from being changed, or a statement on a virtual table can change several.
+// A trigger can prevent the change, and a statement on a virtual table can change several rows.
 void changeOneRow(SqliteCall &call)
 {
     call.step();
@@ -108,7 +108,7 @@ void SqliteRowWriter::bindKey(SqliteCall &call, const std::vector<RawValue> &row
                               const std::vector<Change> &changes) const
 {
     for (const auto &key : m_target.key) {
-        // The last one, because that is the one that counts where two fields show the same column.
+        // The last one, because the last value wins if two fields show the same column.
         const auto change = std::find_if(changes.rbegin(), changes.rend(), [&](const Change &candidate) {
             return nameOf(candidate.column) == key.written;
         });

@@ -24,9 +24,9 @@ private:
     QString keyCondition(const QString &prefix) const;
     void bindKey(SqliteCall &call, const std::vector<RawValue> &row,
                  const std::vector<Change> &changes) const;
-    // All rows that have the key of `row` after these changes; there can only be one.
+    // Reads all rows with the key of `row` after these changes; there can be only one.
     void readRow(const std::vector<RawValue> &row, const std::vector<Change> &changes, RowStore &found) const;
-    // Throws unless the row is there and is what was shown.
+    // Throws unless the row exists and is unchanged since it was shown.
     void needRowAsShown(const std::vector<RawValue> &row) const;
 
     std::shared_ptr<SqliteSession> m_session;

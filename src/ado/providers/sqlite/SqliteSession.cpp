@@ -23,7 +23,7 @@ using KOVAVSFDataGridLib::SqlScanner;
 
 namespace {
 
-// The pragmas that only tell something; all others could change the database or the connection.
+// Pragmas that only return information. All others could change the database or the connection.
 bool isReadingPragma(std::string_view name)
 {
     static constexpr std::string_view names[] = {
@@ -34,14 +34,14 @@ bool isReadingPragma(std::string_view name)
     return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
 
-// Those that tell something as long as they are given no value. FTS and R*Tree tables ask for them.
+// These only return information if they have no argument. FTS and R*Tree tables use them.
 bool isReadingWithoutValue(std::string_view name)
 {
     static constexpr std::string_view names[] = {"data_version", "encoding", "page_count", "page_size"};
     return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
 
-// One thread at a time is this layer's contract, so SQLite's own locking would only cost time.
+// This layer is used by one thread at a time, so SQLite's locking would only cost time.
 constexpr int openFlags = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
 
 SqliteHandle compile(sqlite3 *db, const QByteArray &sql, const char **tail)
@@ -72,7 +72,7 @@ SqliteSession::Writing::~Writing()
         m_session.setQueryOnly(true);
         m_session.m_watch.canWrite = false;
     } catch (const Error &) {
-        // The authorizer goes on refusing what SQLite itself would now let through.
+        // The authorizer still refuses what query_only no longer prevents.
     } catch (const std::exception &error) {
         qWarning("Writing could not be switched off: %s", error.what());
     }
@@ -97,13 +97,13 @@ SqliteSession::SqliteSession(const QString &path, int timeoutInMilliseconds)
             throwSqliteError(m_db, code);
         sqlite3_busy_timeout(m_db, timeoutInMilliseconds);
         sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_FKEY, 1, nullptr);
-        // A file can come from a stranger: its schema may not call what has effects, and nothing writes to
-        // what SQLite keeps for itself. A statement may not name an address to be run either.
+        // The file may come from a stranger: its schema must not call functions with side effects, nothing
+        // may write to SQLite's internal tables, and statements must not pass function pointers.
         sqlite3_db_config(m_db, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
         sqlite3_db_config(m_db, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
         sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_FTS3_TOKENIZER, 0, nullptr);
         SqliteDigest::install(m_db);
-        // The first look into the file: a locked, encrypted or damaged one shows here rather than at the
+        // The first access to the file: a locked, encrypted or damaged file is reported here and not by the
         // first statement.
         stepRow(prepareOwn(u"SELECT 1 FROM sqlite_master LIMIT 1"_s));
         beginWatch();
@@ -135,7 +135,7 @@ void SqliteSession::beginWatch()
     sqlite3_set_authorizer(m_db, allow, &m_watch);
 }
 
-// Asked by SQLite about each thing that a statement would do, while it compiles one.
+// SQLite calls this for each action of a statement while compiling it.
 int SqliteSession::allow(void *data, int action, const char *first, const char *second, const char *,
                          const char *)
 {
@@ -147,16 +147,16 @@ int SqliteSession::allow(void *data, int action, const char *first, const char *
     case SQLITE_READ:
     case SQLITE_RECURSIVE:
         return SQLITE_OK;
-    case SQLITE_FUNCTION: // this one gives out addresses of code
+    case SQLITE_FUNCTION: // it returns and accepts code addresses
         return qstricmp(second, "fts3_tokenizer") == 0 ? SQLITE_DENY : SQLITE_OK;
     case SQLITE_PRAGMA:
         return isReadingPragma(first) || (isReadingWithoutValue(first) && !second) ? SQLITE_OK : SQLITE_DENY;
     case SQLITE_INSERT:
     case SQLITE_UPDATE:
     case SQLITE_DELETE:
-        // FTS and R*Tree tables compile their changes when they are only read, and a function that gives rows
-        // (json_each) declares its columns as a change of the schema. None of that can run. A user's
-        // statement that changes something is refused because it does not only read.
+        // FTS and R*Tree tables compile their changes even if they are only read, and table-valued functions
+        // (json_each) declare their columns as a schema change. None of these can run. A user's statement
+        // that changes something is refused anyway, because it is not read-only.
         return watch.canWrite ? SQLITE_DENY : SQLITE_OK;
     default:
         return SQLITE_DENY;
@@ -186,7 +186,7 @@ std::unique_ptr<Statement> SqliteSession::prepare(const QString &sql, Access acc
 std::optional<TableColumn> SqliteSession::reference(const TableColumn &column, const std::function<bool()> &)
 {
     const auto literal = [](const QString &text) { return KOVAVSFDataGridLib::enclosed(u'\'', text, u'\''); };
-    // A reference without a column is one to the key.
+    // A foreign key without a column refers to the primary key.
     const SqliteHandle keys =
         prepareOwn(uR"(SELECT f."table", COALESCE(f."to", k.name) FROM pragma_foreign_key_list(%1) f
 LEFT JOIN pragma_table_info(f."table") k ON k.pk = f.seq + 1 WHERE f."from" = %2 COLLATE NOCASE)"_s.arg(
@@ -220,7 +220,7 @@ QString SqliteSession::tableStatement(const QString &table) const
 
 void SqliteSession::close()
 {
-    // A statement that is still being read keeps the handle alive until it ends.
+    // A statement that is still in use keeps the handle alive until it is finalized.
     sqlite3_close_v2(m_db);
     m_db = nullptr;
 }

@@ -15,18 +15,18 @@ struct SqliteFinalizer
 };
 using SqliteHandle = std::unique_ptr<sqlite3_stmt, SqliteFinalizer>;
 
-// What differs where SQLite runs the statements for a database of another kind.
+// The differences if SQLite runs the statements for a database of another kind.
 struct SqliteEngine
 {
     // Sets type, size, precision and scale of a field from its column's declared type.
     void (*applyDeclaration)(FieldInfo &, const QString &);
-    QString whyReadOnly; // set where nothing can be written back at all
+    QString whyReadOnly; // set if nothing can be written back at all
 };
 
 // An open SQLite database with foreign keys enforced.
 //
-// Nothing can be written to it, by whatever a statement calls while it runs, except while a Writing lives. An
-// authorizer watches everything that is compiled, also what virtual tables compile while a statement runs.
+// Nothing can write to it, not even a function called by a running statement, except while a Writing exists.
+// An authorizer checks everything that is compiled, including what virtual tables compile at run time.
 class SqliteSession : public Session, public std::enable_shared_from_this<SqliteSession>
 {
 public:
@@ -44,7 +44,7 @@ public:
     bool isRepeatable() const override { return m_isOfFile; }
     void close() override;
 
-    // Lets SQLite write while it lives.
+    // Allows writing while it exists.
     class Writing
     {
     public:
@@ -55,7 +55,7 @@ public:
     private:
         const SqliteSession &m_session;
     };
-    // Lets this provider's own statements through the authorizer while it lives. They can't be nested.
+    // Exempts this provider's own statements from the authorizer while it exists. Can't be nested.
     class Unwatched
     {
     public:
@@ -71,27 +71,27 @@ public:
     };
 
     const SqliteEngine &engine() const { return m_engine; }
-    // Throws 3709 once it is closed.
+    // Throws 3709 after close().
     sqlite3 *db() const;
-    // A user's statement, refused unless it is one query.
+    // Prepares a user's statement. Refuses it unless it is a single query.
     SqliteHandle prepareQuery(const QString &sql) const;
-    // A statement of this provider's own; whatever is in it is meant.
+    // Prepares an internal statement, whatever it does.
     SqliteHandle prepareOwn(const QString &sql) const;
-    // One that holds parts of a user's statement.
+    // Prepares an internal statement that contains parts of a user's statement.
     SqliteHandle prepareReading(const QString &sql) const;
 
 protected:
-    // An empty database in memory, for an engine that adds what it reads.
+    // An empty database in memory, for an engine that adds its own tables.
     explicit SqliteSession(SqliteEngine engine);
-    // From now on only statements that read are let through.
+    // From now on, only statements that read are allowed.
     void beginWatch();
 
 private:
-    // What the authorizer looks at.
+    // The state that the authorizer checks.
     struct Watch
     {
         bool isOn = true;
-        bool canWrite = false; // SQLite's own lock on writing is open, or could not be closed
+        bool canWrite = false; // query_only is off, or could not be turned on again
     };
     static int allow(void *watch, int action, const char *first, const char *second, const char *,
                      const char *);
@@ -106,7 +106,7 @@ private:
 // `name` in double quotes.
 QString quotedName(const QString &name);
 
-// Steps a statement and answers whether it stands on a row.
+// Steps a statement and returns whether there is a row.
 bool stepRow(const SqliteHandle &statement);
 
 } // namespace ADODB

@@ -17,9 +17,9 @@ namespace ADODB {
 
 namespace {
 
-// How often to ask whether to go on. Counted in steps of SQLite's virtual machine for a statement that
-// computes for long without giving a row, and in bytes for rows that carry much; either takes a few
-// milliseconds at most.
+// How often to call `shouldContinue`: by steps of SQLite's virtual machine
+// for statements that compute for a long time without returning a row, and
+// by bytes for large rows. Either takes a few milliseconds at most.
 constexpr int stepsPerQuestion = 20'000;
 constexpr qint64 bytesPerQuestion = qint64{1} << 20;
 
@@ -135,7 +135,7 @@ void SqliteStatement::prepareWriter(const QString &sql)
     m_whyReadOnly = target.whyReadOnly;
     if (!m_whyReadOnly.isEmpty())
         return;
-    // The statement that also gives the hidden columns takes the place of the user's.
+    // The statement with the hidden columns replaces the user's.
     if (target.hasHidden)
         m_statement = m_session->prepareQuery(target.statement);
     for (const int field : target.writable())
@@ -181,8 +181,8 @@ std::shared_ptr<const RowStore> SqliteStatement::rowsSoFar() const
 void appendCurrentRow(sqlite3_stmt *statement, RowStore &rows)
 {
     const int count = rows.columns();
-    // A * gives other columns once another program has altered the table; the hidden key would be one of
-    // them.
+    // After another program has altered the table, * returns other columns, and the hidden key would be in
+    // another position.
     if (sqlite3_data_count(statement) != count)
         throw Error(dbErrConcurrency, Texts::tableAltered(), u"SQLite"_s, u"01001"_s);
     for (int i = 0; i < count; ++i)

@@ -24,14 +24,14 @@ private:
 
     std::shared_ptr<SqliteSession> m_session;
     SqliteHandle m_statement;
-    const RowStore *m_fetched = nullptr; // while rows are fetched
+    const RowStore *m_fetched = nullptr; // while rows are being fetched
     std::vector<FieldInfo> m_fields;
-    std::vector<int> m_untyped; // columns whose type waits for their first value
+    std::vector<int> m_untyped; // columns whose type depends on their first value
     std::unique_ptr<RowWriter> m_writer;
     QString m_whyReadOnly;
 };
 
-// Appends the row that a statement stands on.
+// Appends the statement's current row.
 void appendCurrentRow(sqlite3_stmt *statement, RowStore &rows);
 
 } // namespace ADODB

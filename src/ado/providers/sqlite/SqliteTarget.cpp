@@ -27,8 +27,8 @@ namespace {
 struct TableColumns
 {
     QStringList all;
-    QStringList shown;     // by *
-    QStringList generated; // from others, so they can't be written
+    QStringList shown;     // those of *
+    QStringList generated; // computed from others, so not writable
     QStringList primaryKey;
     QStringList neverNull;
 };
@@ -36,7 +36,7 @@ struct TableColumns
 struct RowId
 {
     QString name;   // empty for a table WITHOUT ROWID
-    QString column; // what the database calls it as the origin of a value; empty when that could be another
+    QString column; // the origin that SQLite reports for a rowid; empty if it could be another column
 };
 
 QString textAt(const SqliteHandle &statement, int column)
@@ -82,7 +82,7 @@ QString originOf(const SqliteHandle &statement, int column)
     return QString::fromUtf8(sqlite3_column_origin_name(statement.get(), column));
 }
 
-// A rowid goes by three names, and a column of the table can hide any of them.
+// The rowid has three names, and a column of the table can hide any of them.
 RowId rowIdOf(const SqliteSession &session, const QString &table, const TableColumns &columns)
 {
     for (const QString &name : {u"rowid"_s, u"_rowid_"_s, u"oid"_s}) {
@@ -90,7 +90,7 @@ RowId rowIdOf(const SqliteSession &session, const QString &table, const TableCol
             continue;
         try {
             const auto reading = session.prepareOwn(u"SELECT %1 FROM %2"_s.arg(name, table));
-            // Whatever name it was asked by, the origin of a rowid that is no column of the table is "rowid".
+            // Whatever name was used, the origin is "rowid", unless the rowid is a column of the table.
             return {name, name == "rowid"_L1 ? originOf(reading, 0) : QString()};
         } catch (const Error &) {
             return {}; // a table WITHOUT ROWID
@@ -99,9 +99,9 @@ RowId rowIdOf(const SqliteSession &session, const QString &table, const TableCol
     return {};
 }
 
-// For each field the column it shows, empty for a computed one. Neither the text nor the database can tell
-// alone: the database also names an origin for a value that a subquery picked from any other row. Nothing at
-// all when they contradict each other.
+// For each field, the column it shows; empty for a computed one. The text and the origins that SQLite reports
+// must agree: SQLite also reports an origin for a value that a subquery took from another row. Nothing if
+// they contradict each other.
 std::optional<QStringList> shownColumns(const SimpleSelect &select, const TableColumns &columns,
                                         const std::vector<FieldInfo> &fields)
 {
@@ -124,13 +124,13 @@ std::optional<QStringList> shownColumns(const SimpleSelect &select, const TableC
     return written;
 }
 
-// Columns that are fetched behind the fields.
+// Columns that are fetched after the user's fields.
 class HiddenColumns
 {
 public:
     explicit HiddenColumns(std::size_t fields) : m_next(static_cast<int>(fields)) {}
 
-    // The number that the column gets in the result.
+    // Returns the column's index in the result.
     int add(const QString &expression)
     {
         m_text += ", "_L1 + expression;
@@ -144,7 +144,7 @@ private:
     QString m_text;
 };
 
-// The columns of a key, fetched where the result does not show them.
+// The columns of a key. Fetches those that the result does not show.
 std::vector<SqliteTarget::KeyColumn> keyOf(const QStringList &names, const QStringList &shown,
                                            const QString &alias, HiddenColumns &hidden)
 {
@@ -158,9 +158,9 @@ std::vector<SqliteTarget::KeyColumn> keyOf(const QStringList &names, const QStri
     return key;
 }
 
-// Another program that compacts the database gives new rowids, so a rowid that is no column of the table does
-// not say which row was seen. Its primary key does where that is never Null, and otherwise all of its values,
-// of which those that are not shown are fetched as a digest.
+// If another program vacuums the database, rows get new rowids. So a rowid that is not a column of the table
+// does not identify the row that was shown. Its primary key does if that is never Null; otherwise all its
+// values do, and those that are not shown are fetched as a digest.
 void hideIdentity(const TableColumns &columns, const QStringList &shown, const QString &alias,
                   HiddenColumns &hidden)
 {
@@ -177,12 +177,12 @@ void hideIdentity(const TableColumns &columns, const QStringList &shown, const Q
             hidden.add(column);
         return;
     }
-    constexpr qsizetype mostArguments = 100; // SQLite takes 127
+    constexpr qsizetype mostArguments = 100; // SQLite's limit is 127
     for (qsizetype i = 0; i < missing.size(); i += mostArguments)
         hidden.add(SqliteDigest::name() + u'(' + missing.mid(i, mostArguments).join(", "_L1) + u')');
 }
 
-// All columns of the result but those that need not be the same in two readings.
+// All columns of the result except those that can differ between two reads.
 std::vector<int> comparedColumns(const SimpleSelect &select, const TableColumns &columns,
                                  const QStringList &shown, int end)
 {
@@ -199,9 +199,9 @@ std::vector<int> comparedColumns(const SimpleSelect &select, const TableColumns 
     return compared;
 }
 
-// An aggregate of this very SELECT gives one row even where there is none. It can stand anywhere in the list,
-// even in a subquery that has no rows of its own, so only the database can tell. EXISTS spares computing that
-// row. A statement that can't be asked this way was not understood and counts as folded.
+// Whether this SELECT is an aggregate, which returns one row even if there is none. The aggregate function
+// can be anywhere in the list, even in a subquery without rows of its own, so only SQLite can tell. EXISTS
+// avoids computing the row. A statement that can't be tested like this is treated as an aggregate.
 bool folds(const SqliteSession &session, const SqliteTarget &target)
 {
     try {

@@ -8,32 +8,32 @@ namespace ADODB {
 
 class SqliteSession;
 
-// Where the rows of a statement can be written back to, and how one of them is found there again.
+// The table that a statement's rows are written to, and how to find one of its rows again.
 struct SqliteTarget
 {
     struct KeyColumn
     {
-        QString name;    // as it stands in a statement
-        QString written; // the column that a change of the key is written to; empty if there is none
-        int column;      // of the result
+        QString name;    // quoted, for use in SQL
+        QString written; // the column that a changed key is written to; empty if there is none
+        int column;      // index in the result
     };
 
-    QString whyReadOnly; // empty when they can be; the rest is set only then
-    QString statement;   // the user's with the hidden columns behind its own
+    QString whyReadOnly; // empty if they can; the rest is set only then
+    QString statement;   // the user's, with the hidden columns added at the end
     bool hasHidden = false;
-    QString table; // as it stands in a statement
+    QString table; // quoted, for use in SQL
     QString alias;
-    QString rowId;     // the name of the rowid; empty for a table without one
-    QString selectRow; // the statement up to where the condition for one row follows
-    // For each field the table's column, as it stands in a statement, that takes its values; empty for a
-    // field that is computed.
+    QString rowId;     // the rowid's name; empty for a table without one
+    QString selectRow; // the SELECT that ends where the condition for one row follows
+    // For each field, the table's column that it is written to, quoted for use in SQL; empty for a computed
+    // field.
     std::vector<QString> columns;
-    // What tells the row from all others.
+    // The columns that identify a row.
     std::vector<KeyColumn> key;
-    // The columns of the result, hidden ones too, that must still be what they were when the row was read.
+    // Columns of the result, including hidden ones, that must be unchanged since the row was read.
     std::vector<int> compared;
 
-    // The fields that take values.
+    // The indexes of the fields that can be written.
     std::vector<int> writable() const;
 
     static SqliteTarget find(const SqliteSession &session, const QString &sql,

@@ -20,8 +20,8 @@ struct Rule
     DataTypeEnum type;
 };
 
-// In this order. Above the line are the names that ADO has a type of its own for; below it are SQLite's rules
-// of affinity, so that any other name gets the type its values are stored in.
+// The first match applies. Above the line are names with an ADO type of their own; below it are SQLite's
+// affinity rules, so that any other name gets the type in which its values are stored.
 constexpr auto whole = Rule::Match::Whole;
 constexpr auto start = Rule::Match::Start;
 constexpr auto part = Rule::Match::Part;

@@ -4,7 +4,7 @@
 #include "ado/ValueText.h"
 #include "ado/values/DisplayFormat.h"
 
-// What may be written into a field, and how a single record shows its value.
+// Which fields can be written, and how the single-record list shows values.
 namespace KOVAVSFDataGridLib {
 
 inline bool isWritable(const ADODB::Field &field)
@@ -12,13 +12,13 @@ inline bool isWritable(const ADODB::Field &field)
     return (field.Attributes() & (ADODB::adFldUpdatable | ADODB::adFldUnknownUpdatable)) != 0;
 }
 
-// Whether it can be written, and takes no Null.
+// Whether it can be written, but not with Null.
 inline bool isRequired(const ADODB::Field &field)
 {
     return isWritable(field) && (field.Attributes() & ADODB::adFldIsNullable) == 0;
 }
 
-// Yes and No, as the filter has them, for a Boolean.
+// Yes and No for a Boolean, as in the filter.
 inline ADODB::DisplayFormat shownFormat(const ADODB::Field &field)
 {
     using ADODB::DisplayFormat;

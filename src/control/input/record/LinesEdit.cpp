@@ -14,8 +14,8 @@ namespace {
 constexpr QChar paragraphEnd(0x2029); // a line break, to a text document
 constexpr qsizetype longestOfWords = 10'000;
 
-// Where in the text each character begins that a document shows of it, and where the last one ends: CR LF is
-// shown as one, anything else as it is.
+// The position in the text of each character that the document shows, and of the end. CR LF is shown as one
+// character, all others unchanged.
 QList<qsizetype> placesOfShown(const QString &text)
 {
     QList<qsizetype> places;
@@ -29,8 +29,8 @@ QList<qsizetype> placesOfShown(const QString &text)
     return places;
 }
 
-// Looking for the words of a line takes the square of its length when it has none: minutes for a picture in
-// base64.
+// Searching for word boundaries takes quadratic time in
+// a line without any: minutes for a picture in Base64.
 QTextOption::WrapMode wrapModeFor(const QString &text)
 {
     qsizetype begin = 0;
@@ -51,7 +51,7 @@ void LinesEdit::setText(const QString &text)
     setWordWrapMode(wrapModeFor(text));
     setPlainText(text);
     m_text = text;
-    m_shown = document()->toRawText(); // the plain text would have blanks in place of those that don't break
+    m_shown = document()->toRawText(); // toPlainText() would replace non-breaking spaces
 }
 
 QString LinesEdit::text() const
@@ -67,7 +67,7 @@ QString LinesEdit::text() const
     const QString lineEnd = m_text.contains("\r\n"_L1) ? u"\r\n"_s : u"\n"_s;
     const auto written = [&lineEnd](QString text) { return text.replace(paragraphEnd, lineEnd); };
     const QList<qsizetype> places = placesOfShown(m_text);
-    if (places.size() != m_shown.size() + 1) // the document shows more or less of it
+    if (places.size() != m_shown.size() + 1) // the document doesn't show the text character by character
         return written(shown);
     return m_text.first(places[head]) + written(shown.sliced(head, shown.size() - head - tail)) +
            m_text.sliced(places[m_shown.size() - tail]);

@@ -4,8 +4,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Edits a text of several lines and gives it back as it was wherever the user did not change it. A text
-// document has one sign for all ends of lines, so it would give back each CR LF, CR and paragraph separator
+// Edits a text of several lines and returns it unchanged wherever the user did not edit it. A text document
+// has only one character for line ends, so by itself it would return each CR LF, CR and paragraph separator
 // as the same one.
 class LinesEdit final : public QPlainTextEdit
 {
@@ -13,12 +13,12 @@ public:
     using QPlainTextEdit::QPlainTextEdit;
 
     void setText(const QString &text);
-    // What is new in it has CR LF for its ends of lines when the text had one, else LF.
+    // New line ends are CR LF if the original text contains one, else LF.
     QString text() const;
 
 private:
-    QString m_text;  // as it was set
-    QString m_shown; // and as the document gave it back then
+    QString m_text;  // the original text
+    QString m_shown; // the document's text at that time
 };
 
 } // namespace KOVAVSFDataGridLib

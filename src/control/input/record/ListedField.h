@@ -6,14 +6,14 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A row of the list of a single record.
+// A row of the single-record list.
 struct ListedField
 {
     int field = 0;           // 0-based
-    bool isRequired = false; // it can be written, and takes no Null
+    bool isRequired = false; // it can be written, but not with Null
     bool isBinary = false;
     ADODB::DisplayFormat format = {}; // of the value
-    QImage picture = {};              // of a binary value that is one
+    QImage picture = {};              // of a binary value that is a picture
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -34,7 +34,7 @@ void PictureFields::replace(int field)
     chooser->setAttribute(Qt::WA_DeleteOnClose);
     chooser->setFileMode(FileDialog::ExistingFile);
     connect(chooser, &QFileDialog::fileSelected, this, [this, field, record, watch](const QString &file) {
-        // Another record is not the one that was meant.
+        // If another record is current now, it must not be changed.
         if (watch->isUntouched() && m_session.result().recordset()->AbsolutePosition() == record)
             readFile(field, file);
     });
@@ -60,7 +60,7 @@ void PictureFields::clear(int field)
 
 void PictureFields::write(int field, const QVariant &value)
 {
-    const auto session = m_session.shared_from_this(); // the host, notified, may destroy the control
+    const auto session = m_session.shared_from_this(); // the host may delete the control when it is notified
     try {
         const ADODB::Notifications::Hold hold(session->notifications());
         ADODB::Field &written = session->result().recordset()->Fields().Item(field);

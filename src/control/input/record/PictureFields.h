@@ -12,7 +12,7 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// The pictures of the current record: replaced from a file, and taken away.
+// Replaces pictures in the current record with files, and removes them.
 class PictureFields : public QObject
 {
     Q_OBJECT
@@ -23,8 +23,8 @@ public:
 
     static bool isBinary(const ADODB::Field &field);
 
-    // Asks for a file and writes its picture into a field (0-based) of the current record, which is then not
-    // saved yet. A file that is no picture changes nothing, which the user is shown.
+    // Asks for a file and writes its picture to a field (0-based) of the current record, which is then not
+    // yet saved. If the file is not a picture, tells the user and changes nothing.
     void replace(int field);
     void clear(int field);
 

@@ -6,12 +6,12 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The names and values of a record's fields, under the headings of both. What is said of a value is asked for
-// each time, because an editor may have changed it.
+// The names and values of a record's fields, with headings. The description of a value for screen readers is
+// requested each time, because an editor may have changed it.
 class RecordCells final : public TextCells
 {
 public:
-    // `spokenValue` gets a row, from 1.
+    // `spokenValue` is called with a row, from 1.
     RecordCells(int fields, std::function<QString(int row)> spokenValue)
         : TextCells(fields + 1, 2), m_spokenValue(std::move(spokenValue))
     {

@@ -38,7 +38,7 @@ void RecordDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
     CellDelegate::paint(painter, option, index);
     if (!field || index.column() != nameColumn || !field->isRequired)
         return;
-    // In the text's own colour where the row is selected, else in red as forms have it.
+    // In the text's colour if the row is selected, otherwise in red.
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const bool isDark = option.palette.color(QPalette::Base).lightness() < 128;
     const QColor red = isDark ? QColor(255, 130, 120) : QColor(176, 20, 20);

@@ -8,15 +8,15 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Draws the list of a single record: names of fields that need a value are marked, pictures are shown, and a
-// field without a value has a pale sign, which an empty text has not.
+// Paints the single-record list: names of required fields have a mark, pictures are shown, and a Null has a
+// pale sign, to distinguish it from an empty text.
 class RecordDelegate final : public CellDelegate
 {
     Q_OBJECT
 
 public:
-    // `fields` belong to the rows and must outlive this object. `isNull` says whether a field (0-based) of
-    // the record has no value now.
+    // `fields` are those of the rows and must outlive this object. `isNull` returns whether a field (0-based)
+    // of the record is Null now.
     RecordDelegate(const std::vector<ListedField> &fields, std::function<bool(int)> isNull, QObject *parent);
 
     static constexpr int linesOfPicture = 8;
@@ -24,7 +24,7 @@ public:
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
-    // Says what the mark of a name means.
+    // Explains the mark of a name in a tool tip.
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                    const QModelIndex &index) override;
 

@@ -38,7 +38,7 @@ QCheckBox *RecordHeading::newPictureBox()
 {
     auto *const box = new QCheckBox(&m_header);
     box->setObjectName(u"chkPictures"_s);
-    box->setFocusPolicy(Qt::NoFocus); // the keyboard has Ctrl+Shift+I
+    box->setFocusPolicy(Qt::NoFocus); // Ctrl+Shift+I does the same
     connect(box, &QCheckBox::clicked, this, &RecordHeading::picturesClicked);
     return box;
 }
@@ -48,7 +48,7 @@ QPushButton *RecordHeading::newStepButton(const QString &key, const QString &arr
     auto *const button = new QPushButton(arrow, &m_header);
     button->setObjectName(u"cmd"_s + key);
     button->setFlat(true);
-    button->setFocusPolicy(Qt::NoFocus); // the keyboard has Alt+PgUp and Alt+PgDown
+    button->setFocusPolicy(Qt::NoFocus); // Alt+PgUp and Alt+PgDown do the same
     connect(button, &QPushButton::clicked, this, [this, key] { Q_EMIT commandWanted(key); });
     return button;
 }
@@ -60,7 +60,7 @@ void RecordHeading::translate()
     m_pictures->setAccessibleDescription(GridTexts::PicturesTip);
     setHint(*m_previous, GridTexts::PreviousRecord);
     setHint(*m_next, GridTexts::NextRecord);
-    place(); // a tick with another text has another width
+    place(); // a check box with another text has another width
 }
 
 bool RecordHeading::hasPictures() const
@@ -85,7 +85,7 @@ void RecordHeading::clickPictures()
 
 void RecordHeading::undoClick()
 {
-    m_pictures->toggle(); // only a click is a signal here
+    m_pictures->toggle(); // only a click emits the signal
 }
 
 bool RecordHeading::eventFilter(QObject *watched, QEvent *event)

@@ -8,8 +8,8 @@ class QPushButton;
 
 namespace KOVAVSFDataGridLib {
 
-// What is in the right end of the heading of a single record's list: a tick for pictures, and buttons for the
-// previous and the next record.
+// The controls at the right end of the single-record list's heading: a check box for pictures, and buttons
+// for the previous and the next record.
 class RecordHeading : public QObject
 {
     Q_OBJECT
@@ -18,18 +18,18 @@ public:
     // The parts belong to `header`, which must outlive this object.
     explicit RecordHeading(QHeaderView &header);
 
-    // Whether the user wants to see pictures; the tick is there only where the record can have some.
+    // Whether the user wants to see pictures. The check box is shown only if the record can have some.
     bool hasPictures() const;
     void offerPictures(bool on);
     bool arePicturesOffered() const;
-    // As the mouse does it.
+    // Does what a mouse click does.
     void clickPictures();
-    // Puts the tick back without a signal.
+    // Resets the check box without a signal.
     void undoClick();
 
 Q_SIGNALS:
     void picturesClicked();
-    // The user asked for the command of that key.
+    // The user wants to run the command with this key.
     void commandWanted(const QString &key);
 
 protected:

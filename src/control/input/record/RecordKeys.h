@@ -2,7 +2,7 @@
 
 #include <QtGui/QKeyEvent>
 
-// What the keys mean in the list of a single record.
+// The meaning of keys in the single-record list.
 namespace KOVAVSFDataGridLib {
 
 inline bool isText(const QKeyEvent &event)

@@ -35,7 +35,7 @@ bool ElidedLabel::event(QEvent *event)
 void ElidedLabel::paintEvent(QPaintEvent *)
 {
     QStylePainter painter(this);
-    // A style pales a text of its own roles when it is disabled, but no other.
+    // A style paints disabled text paler only for its own colour roles.
     painter.drawItemText(rect(), Qt::AlignVCenter | Qt::AlignLeft, palette(), isEnabled(), shownText(),
                          isEnabled() ? foregroundRole() : QPalette::WindowText);
     if (hasFocus()) {

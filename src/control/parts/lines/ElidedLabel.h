@@ -4,8 +4,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// One line of plain text that may get narrower than its text: what has no room is cut with an ellipsis, and
-// the tool tip, unless there is another one, then has the text whole.
+// One line of plain text that is elided if it does not fit. Unless another tool tip is set, the tool tip then
+// shows the whole text.
 class ElidedLabel : public QLabel
 {
     Q_OBJECT

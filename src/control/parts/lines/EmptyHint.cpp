@@ -19,7 +19,7 @@ EmptyHint::EmptyHint(QAbstractScrollArea &view) : QLabel(&view), m_view(view), m
     m_add->setObjectName(QStringLiteral("cmdAddFirst"));
     m_add->setAutoDefault(false);
     connect(m_add, &QPushButton::clicked, this, [this] {
-        m_view.setFocus(); // the button goes
+        m_view.setFocus(); // the button disappears
         Q_EMIT addWanted();
     });
     view.viewport()->installEventFilter(this);
@@ -54,7 +54,7 @@ void EmptyHint::place()
     const QRect area = m_view.viewport()->geometry();
     setGeometry(area);
     setVisible(!text().isEmpty() && height() >= fontMetrics().height());
-    // The button has its place below the text, which stays in the middle.
+    // The button is below the text, which stays centred.
     const QSize size = m_add->sizeHint();
     const int lines = heightForWidth(area.width());
     QRect button({}, size);

@@ -7,8 +7,8 @@ class QPushButton;
 
 namespace KOVAVSFDataGridLib {
 
-// Says in the middle of a view that has nothing to show why that is so, and offers to add the first record of
-// an empty table. The mouse passes through the text.
+// Explains in the middle of an empty view why it is empty, and offers to add the first record to an empty
+// table. Mouse events pass through the text.
 class EmptyHint final : public QLabel
 {
     Q_OBJECT
@@ -18,23 +18,23 @@ public:
 
     // An empty text hides it.
     void showText(const QString &text);
-    // That the result has no records, and what the user can do: step back to one that may have some, or add
-    // the first one.
+    // Says that the result has no records, and what the user can do: go back to the previous statement, or
+    // add the first record.
     void showNoRecords(bool canGoBack, bool canAdd);
 
 Q_SIGNALS:
-    // The user wants to add a record. The view has the keyboard.
+    // The user wants to add a record. The view has the focus.
     void addWanted();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    // It follows the view's inner area from outside, because scrolling takes along what is inside.
+    // A sibling of the view's viewport and not a child, because scrolling moves children.
     void place();
 
     QAbstractScrollArea &m_view;
-    QPushButton *m_add; // beside the text, as it takes the mouse
+    QPushButton *m_add; // a sibling of the text, because it needs mouse events
     bool m_offersToAdd = false;
 };
 

@@ -42,7 +42,7 @@ void FilterBar::show(const QStringList &conditions)
     if (conditions == m_conditions)
         return;
     m_conditions = conditions;
-    // The click that brought this about may still be under way in one of them.
+    // The click that caused this may still be in progress in one of them.
     for (QToolButton *button : std::as_const(m_buttons)) {
         button->hide();
         button->setObjectName(QString());
@@ -91,7 +91,7 @@ void FilterBar::layOut()
         const QString mark = u"  "_s + cross;
         const int markWidth = fontMetrics().horizontalAdvance(mark);
         const int widest = std::max(width() / widestShare - padding - markWidth, padding);
-        // Newlines and the mnemonic's mark are no part of what is read.
+        // Without line breaks and the mnemonic marker, which are not part of the text.
         QString words = fontMetrics().elidedText(m_conditions.at(shown).simplified(), Qt::ElideRight, widest);
         const int needed = fontMetrics().horizontalAdvance(words) + markWidth + padding;
         const bool isLast = shown + 1 == m_buttons.size();
@@ -127,7 +127,7 @@ void FilterBar::changeEvent(QEvent *event)
         layOut();
 }
 
-// The keys that remove things do so here too; the arrows walk over the conditions.
+// The delete keys work here too; the arrow keys move between the conditions.
 void FilterBar::keyPressEvent(QKeyEvent *event)
 {
     const auto at =

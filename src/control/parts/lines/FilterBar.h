@@ -7,8 +7,8 @@ class QToolButton;
 
 namespace KOVAVSFDataGridLib {
 
-// The conditions in force, each in words on a button of its own that removes it. There only while there is
-// one. Those that have no room are in a menu at the end.
+// The active conditions, each in words on a button that removes it. Visible only if there are any. Those that
+// don't fit are in a menu at the end.
 class FilterBar final : public QWidget
 {
     Q_OBJECT
@@ -16,14 +16,14 @@ class FilterBar final : public QWidget
 public:
     explicit FilterBar(QWidget *parent);
 
-    // Shows the conditions; hides itself when there are none.
+    // Shows the conditions; hides itself if there are none.
     void show(const QStringList &conditions);
     const QStringList &conditions() const { return m_conditions; }
 
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    // The user removes a condition; they count from 0.
+    // The user removes a condition, numbered from 0.
     void removeWanted(int condition);
 
 protected:

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int digitsOfText = 20; // as wide as the text box should be at least
+constexpr int digitsOfText = 20; // the minimum width of the text box
 constexpr int digitsOfFound = 30;
 
 QToolButton *button(FindBar &bar, const QString &name)
@@ -88,7 +88,7 @@ void FindBar::writeTexts()
 void FindBar::open()
 {
     if (isHidden()) {
-        // Its icon is looked for in some thousand places of the icon theme, which a start needn't wait for.
+        // Searching thousands of icon theme paths for its icon would delay the start.
         m_text->setClearButtonEnabled(true);
         show();
         Q_EMIT shownOrHidden();
@@ -159,7 +159,7 @@ int FindBar::optionsWidth() const
            m_matchCase->sizeHint().width() + 3 * gap();
 }
 
-// Whether all parts have room on one line.
+// Whether all parts fit on one line.
 bool FindBar::isWide(int width) const
 {
     const int digit = fontMetrics().horizontalAdvance(u'0');

@@ -11,8 +11,8 @@ namespace KOVAVSFDataGridLib {
 
 class ElidedLabel;
 
-// The bar that looks for a text in what is shown: the text, the column, how it is compared, and what was
-// found. Hidden until it is opened. Where it is narrow it has a second line.
+// The bar for searching the shown records: the text, the column, the options, and the result. Hidden until it
+// is opened. If it is narrow, it has a second line.
 class FindBar final : public QWidget
 {
     Q_OBJECT
@@ -20,9 +20,9 @@ class FindBar final : public QWidget
 public:
     explicit FindBar(QWidget *parent);
 
-    // Shows it with the keyboard in its text.
+    // Shows it with the focus in its text box.
     void open();
-    // The columns to choose from; the one with the chosen heading stays chosen.
+    // The columns to choose from. The chosen heading stays selected.
     void setColumns(const QStringList &headings, const QList<int> &columns);
     void showFound(const QString &text);
 
@@ -36,11 +36,11 @@ public:
     int heightForWidth(int width) const override;
 
 Q_SIGNALS:
-    // The text or how it is compared has changed.
+    // The text or an option has changed.
     void changed();
     void nextWanted();
     void previousWanted();
-    // The user has closed it; it is hidden.
+    // The user has closed it; it is hidden now.
     void closed();
     void shownOrHidden();
 

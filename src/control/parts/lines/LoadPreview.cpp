@@ -16,7 +16,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// Milliseconds. What is read sooner than the first of them doesn't flicker; the user should see something a
+// Milliseconds. The first is long enough to avoid flicker in fast loads; the user should see something a
 // tenth of a second after the first record.
 constexpr qint64 patience = 30;
 constexpr qint64 growthInterval = 100;
@@ -33,8 +33,8 @@ std::unique_ptr<RecordWindow> cellsOf(const std::shared_ptr<const ADODB::Records
     return std::make_unique<RecordWindow>(records, 1, static_cast<int>(count));
 }
 
-// As the result will be shown: the same fields keep their places and widths, others share the whole width
-// where they can.
+// With the layout that the result will have: fields that were shown before keep their positions and widths,
+// others share the whole width if possible.
 void layOutColumns(VSFlexGrid &view, const VSFlexGrid &grid)
 {
     if (view.Headings() == grid.Headings()) {
@@ -57,7 +57,7 @@ void showMore(VSFlexGrid &view, const VSFlexGrid &grid,
               const std::shared_ptr<const ADODB::Recordset> &records)
 {
     const bool isEndInView = view.RowIsVisible(view.Rows() - 1);
-    view.setGeometry(grid.geometry()); // the window can have been resized
+    view.setGeometry(grid.geometry()); // the window may have been resized
     view.ShowMore(cellsOf(records));
     if (isEndInView)
         view.repaint();
@@ -101,7 +101,7 @@ void LoadPreview::show(const VSFlexGrid &grid, const std::shared_ptr<const ADODB
     auto *const view = new VSFlexGrid(grid.parentWidget());
     m_view = view;
     view->setObjectName(QStringLiteral("vsfgOpening"));
-    view->setFocusPolicy(Qt::NoFocus); // whoever has the focus shall have it afterwards
+    view->setFocusPolicy(Qt::NoFocus); // the focus must not move
     view->setFont(grid.font());
     view->setPalette(grid.palette());
     view->setStyleSheet(grid.styleSheet());

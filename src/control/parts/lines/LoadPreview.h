@@ -17,20 +17,20 @@ namespace KOVAVSFDataGridLib {
 
 class VSFlexGrid;
 
-// The first records of a result that is still being read, in a grid of its own over the one that shows the
-// result before it. That one stays as it is, so there is nothing to restore when the reading fails, and
-// nobody hears of records that may never be shown.
+// The first records of a result that is still being read, in a separate grid over the one that shows the
+// previous result. That one is not changed, so nothing needs to be restored if reading fails, and nobody is
+// notified of records that may never be shown.
 //
-// It is painted at once, whether or not the application's events are dispatched. A short load shows none.
+// It is painted immediately, even if the application's events are not dispatched. Not shown in a short load.
 class LoadPreview
 {
 public:
-    // `grid` may go before this object does. Nothing is shown while it is hidden.
+    // `grid` may be destroyed before this object. Nothing is shown while it is hidden.
     explicit LoadPreview(VSFlexGrid &grid);
     ~LoadPreview();
     Q_DISABLE_COPY_MOVE(LoadPreview)
 
-    // To be called every few milliseconds once there are records.
+    // Must be called every few milliseconds once there are records.
     void update(const ADODB::Recordset &opening);
     // Null until it is shown.
     QAbstractScrollArea *view() const;

@@ -23,7 +23,7 @@ namespace KOVAVSFDataGridLib {
 namespace {
 
 constexpr qint64 patience = 500;      // milliseconds before the line shows
-constexpr qint64 eventsInterval = 30; // milliseconds between two looks at the events
+constexpr qint64 eventsInterval = 30; // milliseconds between two dispatches of events
 constexpr int barSteps = 1000;
 
 bool isInput(const QEvent &event)
@@ -36,13 +36,13 @@ bool isInput(const QEvent &event)
     case QEvent::Drop:
         return true;
     case QEvent::Close:
-        return event.spontaneous(); // by the user, or by close() of a window that is seen
+        return event.spontaneous(); // by the user, or by close() on a visible window
     default:
         return event.isInputEvent();
     }
 }
 
-// Whether it is the mouse over one part of the window.
+// Whether it is a mouse event for one part of the window.
 bool isFor(const QWidget *part, const QObject &watched, const QEvent &event)
 {
     if (!part || !event.isPointerEvent())
@@ -51,13 +51,13 @@ bool isFor(const QWidget *part, const QObject &watched, const QEvent &event)
         const auto &widget = static_cast<const QWidget &>(watched);
         return &widget == part || part->isAncestorOf(&widget);
     }
-    // On its way to a widget a pointer event comes by the window first.
+    // A pointer event for a widget passes through the window first.
     const auto &points = static_cast<const QPointerEvent &>(event).points();
     return !points.isEmpty() &&
            part->rect().contains(part->mapFromGlobal(points.front().globalPosition()).toPoint());
 }
 
-// Nothing for a key that doesn't scroll.
+// No value for a key that doesn't scroll.
 std::optional<QAbstractSlider::SliderAction> scrollingOf(int key)
 {
     switch (key) {
@@ -128,7 +128,7 @@ bool LoadProgress::shouldContinue(qint64 rowsDone)
     return !m_isCancelled;
 }
 
-// It covers the page box and its neighbours, which are of no use meanwhile.
+// It covers the page box and its neighbours, which can't be used meanwhile.
 void LoadProgress::showLine()
 {
     QApplication::restoreOverrideCursor();
@@ -136,15 +136,15 @@ void LoadProgress::showLine()
     m_line = new QWidget(&m_window);
     m_line->setAutoFillBackground(true);
     m_bar = new QProgressBar;
-    m_bar->setRange(0, m_total > 0 ? barSteps : 0); // without steps it only says that something goes on
+    m_bar->setRange(0, m_total > 0 ? barSteps : 0); // without steps, it only shows that work is in progress
     m_bar->setTextVisible(false);
     m_bar->setMaximumHeight(m_bar->fontMetrics().height() / 2);
-    // Where it gets narrow the number tells more than the bar.
+    // If there is not enough room, the number is more useful than the bar.
     m_bar->setSizePolicy(QSizePolicy::Ignored, m_bar->sizePolicy().verticalPolicy());
     m_count = new QLabel;
     m_count->setTextFormat(Qt::PlainText);
     auto *cancel = new QPushButton(GridTexts::CancelOpening);
-    cancel->setFocusPolicy(Qt::NoFocus); // whoever has the focus shall have it afterwards
+    cancel->setFocusPolicy(Qt::NoFocus); // the focus must not move
     cancel->setToolTip(m_cancelHint);
     connect(cancel, &QPushButton::clicked, this, [this] { m_isCancelled = true; });
 
@@ -160,20 +160,20 @@ void LoadProgress::showLine()
 
 void LoadProgress::updateLine(qint64 rowsDone)
 {
-    // What is being cancelled can still take a while to answer.
+    // After a cancel, the server can still take a while to respond.
     if (m_isCancelled)
         m_count->setText(GridTexts::Cancelling);
     else
         m_count->setText(m_done.contains("%1"_L1) ? m_done.arg(grouped(rowsDone)) : m_done);
     const qint64 value = m_total > 0 ? rowsDone * barSteps / m_total : rowsDone;
     m_bar->setValue(static_cast<int>(std::min<qint64>(value, std::numeric_limits<int>::max())));
-    m_line->setGeometry(m_place()); // the window can have been resized
+    m_line->setGeometry(m_place()); // the window may have been resized
     m_line->layout()->activate();
 }
 
 bool LoadProgress::eventFilter(QObject *watched, QEvent *event)
 {
-    // A dialog that waits for its user would otherwise wait forever, and the load with it.
+    // A dialog that waits for its user would otherwise block forever, and the load with it.
     if (!isInput(*event) || QApplication::activeModalWidget() != m_modalBefore ||
         isFor(m_line, *watched, *event) || isFor(m_view, *watched, *event))
         return false;
@@ -191,7 +191,7 @@ void LoadProgress::takeKey(QKeyEvent &key)
     const auto scrolling = scrollingOf(key.key());
     if (!m_view || !scrolling)
         return;
-    key.accept(); // no shortcut of any command now
+    key.accept(); // not a shortcut of a command now
     const bool isSideways = key.key() == Qt::Key_Left || key.key() == Qt::Key_Right;
     QScrollBar *const bar = isSideways ? m_view->horizontalScrollBar() : m_view->verticalScrollBar();
     if (isPress)

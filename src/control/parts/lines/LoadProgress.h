@@ -16,32 +16,32 @@ class QProgressBar;
 
 namespace KOVAVSFDataGridLib {
 
-// Lives while a statement is opened or records are written, which happens on the GUI thread. At first it
-// shows the wait cursor. After half a second a line over the window's foot says how many records are done and
-// offers to cancel, by its button or Esc.
+// Exists while a statement is being opened or records are written, which happens on the GUI thread. It first
+// shows the wait cursor. After half a second, a line over the window's foot shows the number of records and
+// offers to cancel, with its button or Esc.
 //
-// From then on the application's events are dispatched, so that windows are drawn and timers run, but
-// nothing except the line takes the user's input (a modal dialog that a timer has opened meanwhile does), and
-// a view of what has come, which can be scrolled.
-// Only one can live in a process; the session that makes it sees to that.
+// From then on, the application's events are dispatched, so that windows are painted and timers run. But the
+// user's input is accepted only by the line, by a modal dialog that a timer has opened meanwhile, and by the
+// view of the first records, which can be scrolled.
+// Only one can exist in a process; the session that creates it makes sure of that.
 class LoadProgress final : public QObject, public OpeningProgress
 {
     Q_OBJECT
 
 public:
-    // The line covers `place` on `window`, which is asked for again as the window can be resized. When the
-    // window is deleted in one of the events, the load is cancelled.
+    // The line covers the rectangle `place` of `window`, which is called again because the window can be
+    // resized. If the window is deleted in one of the events, the load is cancelled.
     LoadProgress(QWidget &window, std::function<QRect()> place);
-    // The same for work on `total` records; `done` says how many are, with %1 for the number.
+    // The same for work on `total` records. `done` is the text for the number of records, which replaces %1.
     LoadProgress(QWidget &window, std::function<QRect()> place, QString done, qint64 total);
-    // The same for a wait that has no number to show.
+    // The same for a wait without a number.
     LoadProgress(QWidget &window, std::function<QRect()> place, const QString &text);
     ~LoadProgress() override;
 
-    // May still be called once it has answered false: it then goes on painting.
+    // May still be called after it returned false; it then continues to paint.
     bool shouldContinue(qint64 rowsDone) override;
     bool isWindowGone() const { return m_isWindowGone; }
-    // This one takes the mouse, and wherever the focus is the keys that scroll.
+    // This view receives mouse events and, wherever the focus is, the keys that scroll.
     void setScrolledView(QAbstractScrollArea *view) { m_view = view; }
 
 protected:
@@ -55,7 +55,7 @@ private:
     QWidget &m_window;
     const std::function<QRect()> m_place;
     const QString m_done;
-    const qint64 m_total; // 0 when nobody knows
+    const qint64 m_total; // 0 if unknown
     QString m_cancelHint;
     QPointer<QWidget> m_line; // null during the first half second; a child of the window
     QPointer<QAbstractScrollArea> m_view;

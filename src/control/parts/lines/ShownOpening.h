@@ -5,13 +5,13 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A statement that is being opened, as a window shows it: the line that says how many records have come, and
-// the first of them over the grid.
+// Shows the opening of a statement in a window: a line with the number of records read, and the first of them
+// over the grid.
 class ShownOpening final : public OpeningProgress
 {
 public:
-    // `window` and `place` as LoadProgress takes them. In the end `scrolled` gets the positions of the scroll
-    // bars that the user has moved, if any.
+    // `window` and `place` as for LoadProgress. At the end, `scrolled` is set to the scroll bar positions if
+    // the user has moved them.
     ShownOpening(QWidget &window, std::function<QRect()> place, VSFlexGrid &grid,
                  std::shared_ptr<std::optional<QPoint>> scrolled);
     ~ShownOpening() override;

@@ -4,8 +4,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// One discreet line that tells where the user is and which statement is shown. What has no room is cut; the
-// tool tip has the statement whole, and it can be copied (Ctrl+C, or the line's own menu).
+// One unobtrusive line that shows the position and the current statement. If it does not fit it is elided;
+// the tool tip shows the whole statement, which can also be copied (Ctrl+C, or the line's own menu).
 class StatementLine final : public ElidedLabel
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     QString shownText() const override;
 
 protected:
-    // The control has a command of the same shortcut; the line's own comes first where it has the focus.
+    // The control has a command with the same shortcut; if the line has the focus, its own takes precedence.
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 

@@ -21,7 +21,7 @@ public:
 
     explicit SummaryLine(QWidget *parent);
 
-    // Nothing to show hides the line.
+    // An empty summary hides the line.
     using QWidget::show;
     void show(const QList<Item> &items);
 

@@ -22,7 +22,7 @@ public:
         : m_progress(window, std::move(place), GridTexts::WaitingForDatabase)
     {
     }
-    // The end of the window is no wish to give up a change that is on its way.
+    // Closing the window must not cancel a change that is in progress.
     bool shouldContinue() override { return m_progress.shouldContinue(0) || m_progress.isWindowGone(); }
 
 private:
@@ -69,14 +69,14 @@ QRect footOf(const QWidget &dialog)
 
 std::unique_ptr<ADODB::WaitWatcher> makeWatcher()
 {
-    if (SharedValues::instance().isOpening) // only one line can live in a process
+    if (SharedValues::instance().isOpening) // only one line can exist in a process
         return nullptr;
     if (QWidget *const dialog = QApplication::activeModalWidget(); dialog && dialog->isVisible())
         return std::make_unique<LineWatcher>(*dialog, [dialog] { return footOf(*dialog); });
     const WaitPlace *const best = bestPlace();
     if (!best)
         return nullptr;
-    // The line ends with its window and asks no more then.
+    // The line is destroyed with its window, and does not call this afterwards.
     return std::make_unique<LineWatcher>(best->window(), [best] { return best->place(); });
 }
 

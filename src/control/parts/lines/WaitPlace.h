@@ -7,15 +7,15 @@
 
 namespace KOVAVSFDataGridLib {
 
-// A window that can show a progress line for as long as this lives, whatever waits for a server: a change, a
-// question about the catalogue, a call of the host's. The line is in the dialog that is open, else in the
-// window that the user works in. What opens a statement shows a line of its own.
+// Makes a window available for progress lines while it exists, for all that waits for a server: a change, a
+// catalogue query, a call of the host. The line is shown in the open dialog or else in the window that the
+// user works in. Opening a statement shows its own line.
 //
-// Without any such window that can be seen, waits block the thread, as nobody could cancel them.
+// Without any such visible window, waits block the thread, because nobody could cancel them.
 class WaitPlace
 {
 public:
-    // `window` and `place` as LoadProgress takes them.
+    // `window` and `place` as for LoadProgress.
     WaitPlace(QWidget &window, std::function<QRect()> place);
     ~WaitPlace();
     Q_DISABLE_COPY_MOVE(WaitPlace)

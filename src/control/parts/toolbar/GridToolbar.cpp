@@ -85,7 +85,7 @@ bool GridToolbar::event(QEvent *event)
     return isDone;
 }
 
-// With and without captions the bar has the same height, so that nothing below it moves.
+// The height is the same with and without captions, so that nothing below the bar moves.
 QSize GridToolbar::sizeHint() const
 {
     QSize size = QToolBar::sizeHint();
@@ -97,7 +97,7 @@ QSize GridToolbar::sizeHint() const
 
 int GridToolbar::heightOfCaption() const
 {
-    // As a button measures its text, with the leading.
+    // Including the leading, as buttons measure their texts.
     int height = 0;
     for (const auto &[key, button] : m_buttons) {
         if (button.command->button->isCaptioned)
@@ -211,7 +211,7 @@ void GridToolbar::setButtonMenu(const QString &key, QMenu &menu)
     auto *const shown = button ? qobject_cast<QToolButton *>(widgetForAction(button->action)) : nullptr;
     if (!shown)
         return;
-    // Not of the action, which is the command's alone.
+    // Set on the button, because the action itself runs the command.
     shown->setMenu(&menu);
     shown->setPopupMode(QToolButton::MenuButtonPopup);
     m_menuButton = shown;
@@ -238,7 +238,7 @@ void GridToolbar::setButtonPressed(const QString &key, bool on)
         return;
     pressed->action->setChecked(on);
     for (auto &[each, button] : m_buttons)
-        button.isPressed = button.action->isChecked(); // another one of its group came up
+        button.isPressed = button.action->isChecked(); // another one of its group was released
 }
 
 void GridToolbar::showPressed()
@@ -264,7 +264,7 @@ GridToolbar::Button *GridToolbar::find(const QString &key)
     return const_cast<Button *>(std::as_const(*this).find(key));
 }
 
-// An action that is not visible counts as disabled in Qt, so both are set each time, in this order.
+// Qt treats an invisible action as disabled, so both are set each time, in this order.
 void GridToolbar::apply(const Button &button)
 {
     button.action->setVisible(button.isVisible);

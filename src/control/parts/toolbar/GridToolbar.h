@@ -11,10 +11,10 @@ namespace KOVAVSFDataGridLib {
 
 struct Command;
 
-// The toolbar of the control and of its full-screen viewer: one button per command, known by its key.
+// The toolbar of the control and of its full-screen viewer: one button per command, identified by its key.
 //
-// A button's enabled state is the one it was given by itself; it is not touched by a disabled toolbar
-// or a hidden button. A key that no button has is a mistake: it gives a warning and reads as off.
+// The enabled state of a button is stored separately: disabling the toolbar or hiding the button does not
+// change it. For an unknown key, a warning is logged and the state is off.
 class GridToolbar final : public QToolBar
 {
     Q_OBJECT
@@ -23,28 +23,28 @@ public:
     explicit GridToolbar(QWidget *parent = nullptr);
 
     QStringList keys() const;
-    // Leaves out what the full-screen viewer doesn't have.
+    // Hides the buttons that the full-screen viewer doesn't have.
     void hideButtonsNotInViewer();
     bool isButtonEnabled(const QString &key) const;
     void setButtonEnabled(const QString &key, bool on);
     void setAllButtonsEnabled(bool on);
-    // A button with a reason is disabled, whatever it was given, and shows the reason in its tip.
+    // A button with a reason is disabled, whatever its own state, and shows the reason in its tool tip.
     void setButtonReason(const QString &key, const QString &reason);
     bool isButtonVisible(const QString &key) const;
     void setButtonVisible(const QString &key, bool on);
     // A menu that drops down beside the button; not owned.
     void setButtonMenu(const QString &key, QMenu &menu);
-    // Null while the button has no room on the toolbar.
+    // Null while the button is not visible on the toolbar.
     QWidget *shownButton(const QString &key) const;
     bool isButtonPressed(const QString &key) const;
-    // Shows a checkable button as pressed or not without running its command. A click does not change it:
-    // the command that runs knows what is pressed then.
+    // Shows a checkable button as pressed or not, without running its command. A click does not change it:
+    // the command decides what is pressed afterwards.
     void setButtonPressed(const QString &key, bool on);
 
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    // The user pressed the button (by mouse, keyboard or shortcut) while it was enabled.
+    // The user pressed an enabled button (by mouse, keyboard or shortcut).
     void buttonClicked(const QString &key);
 
 protected:

@@ -6,14 +6,14 @@ class QColor;
 
 namespace KOVAVSFDataGridLib {
 
-// The drawings of the toolbar, each made of lines and of parts with an accent. There are two implementations:
-// with Qt's SVG module the drawings are rendered when they are asked for; without it, pictures that were
-// rendered when this library was built are coloured. CMake takes one of them.
+// The drawings of the toolbar, made of lines and accented parts. There are two implementations: with Qt's SVG
+// module, drawings are rendered on demand; without it, pictures rendered when this library was built are
+// coloured. CMake chooses one.
 
 bool hasIconPicture(const QString &key);
 
-// The drawing in the middle of a transparent picture of this size, as large as fits, in these two opaque
-// colours. Null when there is no such drawing.
+// The drawing in these two opaque colours, centred in a transparent picture of this size and as large as
+// possible. Null if there is no such drawing.
 QImage iconPicture(const QString &key, const QSize &size, const QColor &line, const QColor &accent);
 
 } // namespace KOVAVSFDataGridLib

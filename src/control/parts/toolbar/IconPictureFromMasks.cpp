@@ -16,7 +16,7 @@ QString fileOf(const QString &key, int side)
     return QStringLiteral(":/KOVAVSFDataGridLib/icons/%1-%2.png").arg(key).arg(side);
 }
 
-// In a mask, red says how much of a pixel lines cover and blue how much the accent does.
+// In a mask, red is the coverage of a pixel by lines, and blue by the accent.
 QRgb coloured(QRgb mask, QRgb line, QRgb accent)
 {
     const int lineShare = qRed(mask);

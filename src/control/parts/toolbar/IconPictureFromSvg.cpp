@@ -8,7 +8,7 @@
 namespace KOVAVSFDataGridLib {
 namespace {
 
-// The colours as the drawings write them, chosen so that any viewer shows the files sensibly.
+// The colours in the drawing files, which any viewer can show.
 constexpr QByteArrayView lineInDrawing("currentColor");
 constexpr QByteArrayView accentInDrawing("#2a82da");
 

@@ -18,8 +18,8 @@ struct Colours
     QColor accent;
 };
 
-// The highlight colour is made to lie under text, not to be a thin line itself: where it hardly
-// differs from what it is drawn on, it is drawn towards the text colour until it does.
+// The highlight colour is intended as a background, not for thin lines. If its contrast to the background is
+// too low, it is blended with the text colour until it is sufficient.
 QColor readable(const QColor &accent, const QColor &line, const QColor &paper)
 {
     for (int tenths = 10; tenths > 0; --tenths) {
@@ -43,13 +43,13 @@ Colours coloursFor(QIcon::Mode mode, QIcon::State state)
     const QColor line = blended(text, window, text.alphaF());
     if (mode == QIcon::Disabled)
         return {line, line};
-    // Styles tint what lies under a checked button: light windows get darker there, dark ones lighter.
+    // Styles tint the background of a checked button: darker in light windows, lighter in dark ones.
     const QColor paper = state == QIcon::On ? blended(line, window, 0.12) : window;
     return {line, readable(palette.color(group, QPalette::Highlight), line, paper)};
 }
 
-// One drawing in the palette's colours. Pixmaps are kept in the application's pixmap cache under
-// a name that says everything they depend on, so a new palette simply asks for other names.
+// One drawing in the palette's colours. The application's pixmap cache stores its pixmaps under names that
+// include everything they depend on, so a new palette results in new names.
 class ToolbarIconEngine final : public QIconEngine
 {
 public:
@@ -66,7 +66,7 @@ public:
         painter->drawPixmap(rect.topLeft(), picture);
     }
 
-    // `size` is in device pixels, as Qt asks an engine for it.
+    // `size` is in device pixels, as usual for an icon engine.
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
     {
         if (size.isEmpty())

@@ -15,7 +15,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// Any object of this library will do to find out which file it is in.
+// Any object of this library can be used to find out which file it is in.
 const char anchor = 0;
 
 QString moduleFile()

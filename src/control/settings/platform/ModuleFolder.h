@@ -4,8 +4,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// The folder of the file that this library was loaded from, or of the program when it is linked in. The
-// one place of the library that asks the operating system itself.
+// The folder of the file that this library was loaded from, or of the program if it is statically linked.
+// Only this function of the library calls the operating system directly.
 QString moduleFolder();
 
 } // namespace KOVAVSFDataGridLib

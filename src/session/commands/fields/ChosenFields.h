@@ -5,7 +5,7 @@ namespace KOVAVSFDataGridLib {
 class FieldChooser;
 class Session;
 
-// Shows the fields that `chooser` chooses, the session's user when it is null.
+// Shows the fields chosen by `chooser`, or by the session's user if it is null.
 void showChosenFields(Session &session, FieldChooser *chooser = nullptr);
 
 } // namespace KOVAVSFDataGridLib

@@ -5,7 +5,7 @@
 #include "session/layout/ColumnLayout.h"
 #include "session/layout/ShownColumns.h"
 
-// Shows the part fields alone.
+// Shows only the part fields.
 
 namespace KOVAVSFDataGridLib {
 
@@ -20,7 +20,7 @@ bool hasPartStatement(const colShowSQLSentences &history)
     return latest && latest->GetCurrUsePartFieldSQL(partStatement);
 }
 
-// All that there is.
+// Shows all fields.
 void showAllInstead(Session &session, FilterManagerRollback &rollback)
 {
     const QStringList all = session.columns().fieldsShownBy(FieldView::All);

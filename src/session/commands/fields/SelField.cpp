@@ -14,7 +14,7 @@
 #include "session/statement/ShownStatement.h"
 #include "session/statement/StatementReader.h"
 
-// Lets the user, or another one in his place, choose the part fields and shows them.
+// Lets the user (or another chooser) choose the part fields, and shows them.
 
 namespace KOVAVSFDataGridLib {
 
@@ -32,7 +32,7 @@ QStringList namesOf(Session &session, const QString &statement)
     return names;
 }
 
-// Asks somebody else than the filter manager usually does.
+// Temporarily replaces the filter manager's chooser.
 class ChooserInPlace
 {
 public:
@@ -42,7 +42,7 @@ public:
         if (chooser)
             manager.SetFieldChooser(chooser);
     }
-    // The usual one goes with the session's window.
+    // The usual chooser is destroyed with the session's window.
     ~ChooserInPlace()
     {
         if (!m_isUsual)
@@ -57,7 +57,7 @@ private:
     const bool m_isUsual;
 };
 
-// The statement with the fields that the user chooses; empty when he cancels.
+// The statement with the fields that the user chooses; empty if the user cancels.
 QString askForFields(const FilterManagerRollback &rollback, const clsShowSQLSentence &latest)
 {
     QString partFields;

@@ -8,8 +8,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Shows all or the part fields. As long as each field that is needed has a column only their layout changes;
-// otherwise the statement that has them is opened.
+// Shows all fields or the part fields. If each required field has a column, only the layout changes;
+// otherwise the statement with these fields is opened.
 void showFields(Session &session, const QString &statement, FieldView view, FilterManagerRollback &rollback);
 
 } // namespace KOVAVSFDataGridLib

@@ -6,7 +6,7 @@
 #include "session/history/HistorySteps.h"
 #include "session/history/SharedHistory.h"
 
-// One statement forward, after going back.
+// Goes forward one statement, after going back.
 
 namespace KOVAVSFDataGridLib {
 

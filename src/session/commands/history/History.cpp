@@ -3,7 +3,7 @@
 #include "session/commands/Command.h"
 #include "session/history/SharedHistory.h"
 
-// The list of all statements of the history.
+// Lists all statements of the history.
 
 namespace KOVAVSFDataGridLib {
 

@@ -3,7 +3,7 @@
 #include "session/history/HistorySteps.h"
 #include "session/history/SharedHistory.h"
 
-// Back to the first statement.
+// Goes back to the first statement.
 
 namespace KOVAVSFDataGridLib {
 

@@ -4,7 +4,7 @@
 #include "session/history/HistorySteps.h"
 #include "session/history/SharedHistory.h"
 
-// One statement back.
+// Goes back one statement.
 
 namespace KOVAVSFDataGridLib {
 

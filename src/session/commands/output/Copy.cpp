@@ -1,7 +1,7 @@
 #include "session/commands/Command.h"
 #include "session/commands/output/CopyMarked.h"
 
-// Puts the marked cells on the clipboard.
+// Copies the marked cells to the clipboard.
 
 namespace KOVAVSFDataGridLib {
 

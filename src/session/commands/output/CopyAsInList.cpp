@@ -7,7 +7,7 @@
 
 #include <QtCore/QSet>
 
-// Puts the values of the current column in the marked records on the clipboard, as a list for IN.
+// Copies the values of the current column in the marked records to the clipboard, as a list for IN.
 
 namespace KOVAVSFDataGridLib {
 
@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Each value once, and no Null, which IN never finds.
+// Each value once, without Null, which IN never matches.
 void copyAsInList(Session &session)
 {
     const std::shared_ptr<ADODB::Recordset> recordset = session.result().recordset();

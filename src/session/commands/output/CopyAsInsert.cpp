@@ -9,7 +9,7 @@
 #include "session/statement/ShownStatement.h"
 #include "sql/Names.h"
 
-// Puts the marked records on the clipboard as statements that insert them.
+// Copies the marked records to the clipboard as INSERT statements.
 
 namespace KOVAVSFDataGridLib {
 
@@ -17,13 +17,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The name of a column in its table, where the database says so.
+// The name of a column in its table, if the database reports it.
 QString nameInTable(const ADODB::Field &field)
 {
     return field.BaseColumnName().isEmpty() ? field.Name() : field.BaseColumnName();
 }
 
-// The one table that all columns come from, else what the statement reads.
+// The table of all columns if there is only one, otherwise what the statement selects from.
 QString tableOf(Session &session, const ExportColumns &columns)
 {
     const ADODB::Fields &fields = session.result().recordset()->Fields();

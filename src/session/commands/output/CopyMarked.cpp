@@ -33,7 +33,7 @@ void copyCells(Session &session, bool hasHeadings)
         std::make_unique<TableMimeData>(writer.text(), std::move(types), hasHeadings));
 }
 
-// As the list has it: a line for each field, its name beside its value. The headings are the names.
+// As in the list: one line per field with name and value. The headings are the names.
 void copyFields(Session &session, bool hasHeadings)
 {
     const MarkedFields marked = session.window().markedFields();

@@ -4,7 +4,7 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// Puts the marked cells on the clipboard, of a single record its marked fields.
+// Copies the marked cells to the clipboard, or the marked fields of a single record.
 void copyMarked(Session &session, bool hasHeadings);
 
 } // namespace KOVAVSFDataGridLib

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-// Asks what is to be written and where to, and writes it.
+// Asks what to export and where to, and exports it.
 
 namespace KOVAVSFDataGridLib {
 

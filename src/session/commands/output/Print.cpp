@@ -4,7 +4,7 @@
 #include "session/commands/Command.h"
 #include "session/records/PrintResult.h"
 
-// Asks how the shown columns are to be printed, and prints them or writes a PDF file.
+// Asks how to print the shown columns, and prints them or writes a PDF file.
 
 namespace KOVAVSFDataGridLib {
 

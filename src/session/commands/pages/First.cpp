@@ -2,7 +2,7 @@
 #include "session/commands/Command.h"
 #include "session/pages/Pages.h"
 
-// The first page of the result.
+// Shows the first page of the result.
 
 namespace KOVAVSFDataGridLib {
 

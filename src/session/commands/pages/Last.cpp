@@ -2,7 +2,7 @@
 #include "session/commands/Command.h"
 #include "session/pages/Pages.h"
 
-// The last page of the result.
+// Shows the last page of the result.
 
 namespace KOVAVSFDataGridLib {
 

@@ -2,7 +2,7 @@
 #include "session/commands/Command.h"
 #include "session/pages/Pages.h"
 
-// The page after the current one.
+// Shows the page after the current one.
 
 namespace KOVAVSFDataGridLib {
 

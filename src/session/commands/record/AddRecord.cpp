@@ -37,7 +37,7 @@ void addRecord(Session &session)
     } catch (const ADODB::Error &error) {
         if (!watch.isUntouched())
             return;
-        // Nothing is written into the record, which the user sees, or it could not be saved.
+        // The record has no values, as the user can see, so it could not be saved.
         if (error.is(ADODB::dbErrCancelled))
             session.questions().show(SessionMessages::InsertCancelled);
         else if (recordset.EditMode() == ADODB::adEditAdd)

@@ -3,7 +3,7 @@
 #include "session/commands/Command.h"
 #include "session/commands/CommandKeys.h"
 
-// Shows many records again after a single one.
+// Leaves the single-record view.
 
 namespace KOVAVSFDataGridLib {
 

@@ -25,7 +25,7 @@ struct CopiedValue
     QVariant value;
 };
 
-// The current record's values that another record can have as well.
+// The current record's values that may occur again in another record.
 std::vector<CopiedValue> valuesToCopy(const ADODB::Recordset &recordset)
 {
     constexpr qint32 ownAttributes = ADODB::adFldKeyColumn | ADODB::adFldRowID | ADODB::adFldRowVersion;

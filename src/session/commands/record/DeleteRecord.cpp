@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Only the current record is deleted, however many rows are marked: the question then says which one it is.
+// Only the current record is deleted, even if several rows are marked, so the question names it.
 QString question(Session &session)
 {
     const SessionWindow &window = session.window();
@@ -37,8 +37,8 @@ QString question(Session &session)
                recordset.CellText(session.pages().recordOfRow(window.Row()), field));
 }
 
-// The answer is meant for the record that was current when the question came up, and for no other that the
-// host has made current meanwhile.
+// The answer applies to the record that was current when the question was asked, and not to one that the host
+// has made current since.
 bool askToDelete(Session &session, const ResultWatch &watch)
 {
     const qint64 position = watch.recordset()->AbsolutePosition();
@@ -56,12 +56,12 @@ void deleteCurrentRecord(Session &session, const ResultWatch &watch)
     }
     const qint64 position = recordset.AbsolutePosition();
     session.record().remove();
-    if (!watch.isUntouched()) // the control went while it was deleted
+    if (!watch.isUntouched()) // the control was destroyed during the deletion
         return;
-    session.window().cancelEdit(); // only now: a record that stays keeps what is being typed into it
+    session.window().cancelEdit(); // only now: if the record was not deleted, the text being typed is kept
     const qint64 next = std::min(position, recordset.RecordCount());
     if (next < 1)
-        recordset.MoveFirst(); // off the deleted record: nothing is left
+        recordset.MoveFirst(); // leaves the deleted record: none is left
     session.pages().refillAtRecord(next);
     if (next >= 1)
         recordset.PutAbsolutePosition(next);
@@ -81,10 +81,10 @@ void deleteRecord(Session &session)
     try {
         deleteCurrentRecord(session, watch);
     } catch (const ADODB::Error &error) {
-        // Not every refusal is a constraint: the file may be read-only, the record changed by somebody else.
+        // Not every error is a constraint: the file may be read-only, or the record changed by somebody else.
         if (!watch.isUntouched())
             return;
-        if (error.is(ADODB::dbErrInDoubt)) // which is not to say that it is not deleted
+        if (error.is(ADODB::dbErrInDoubt)) // it may have been deleted nevertheless
             session.questions().show(error.Description());
         else if (!error.is(ADODB::dbErrConcurrency))
             session.questions().showWithCause(SessionMessages::DeleteRefused, error.Description());

@@ -2,7 +2,7 @@
 #include "session/commands/CommandKeys.h"
 #include "session/commands/record/StepRecord.h"
 
-// The record after the current one.
+// Moves to the next record.
 
 namespace KOVAVSFDataGridLib {
 

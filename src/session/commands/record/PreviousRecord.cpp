@@ -2,7 +2,7 @@
 #include "session/commands/CommandKeys.h"
 #include "session/commands/record/StepRecord.h"
 
-// The record before the current one.
+// Moves to the previous record.
 
 namespace KOVAVSFDataGridLib {
 

@@ -4,7 +4,7 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// Makes the record `by` records after the current one current, on the page beside where the page ends.
+// Moves by `by` records, to an adjacent page if necessary.
 void stepRecord(Session &session, int by);
 
 } // namespace KOVAVSFDataGridLib

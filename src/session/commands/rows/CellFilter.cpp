@@ -12,7 +12,7 @@
 #include "session/statement/FilterManagerRollback.h"
 #include "session/statement/ShownStatement.h"
 
-// Keeps the records whose field equals the current cell.
+// Shows the records whose field equals the current cell.
 
 namespace KOVAVSFDataGridLib {
 
@@ -30,7 +30,7 @@ CellCondition conditionOfCell(Session &session, int row, int col)
     if (!recordset.IsNull(record, col - 1))
         text = recordset.CellText(record, col - 1);
     const ADODB::Field &field = recordset.Fields().Item(col - 1);
-    // The statement that was opened, not the one that is called shown: "All" and "Part" only hide columns.
+    // Uses the opened statement, not the shown one: "All" and "Part" only hide columns.
     const QStringList headings = session.window().Headings();
     const QString name = session.history().GetColumnRealName(recordset.Source(), headings, col - 1);
     const QString heading = headings.value(col - 1);
@@ -38,7 +38,7 @@ CellCondition conditionOfCell(Session &session, int row, int col)
         const bool isOneOfSeveral = headings.count(heading) > 1;
         return {{}, (isOneOfSeveral ? QueryTexts::EqualNames : QueryTexts::UnknownTable).arg(heading)};
     }
-    // SQLite keeps bytes in a column of any type.
+    // SQLite can store bytes in a column of any type.
     if (recordset.CellValue(record, col - 1).typeId() == QMetaType::QByteArray)
         return {{}, QueryTexts::TypeNotFiltered};
     return buildCellFilter(name, field.Type(), text, session.result().engine(),

@@ -14,8 +14,8 @@
 #include "session/statement/ShownConditions.h"
 #include "session/statement/ShownStatement.h"
 
-// Asks the host for a condition by its event QurryFilter, and the user by the filter dialog unless the host
-// took over.
+// Asks the host for a condition with the event QurryFilter, and then the user with the filter dialog unless
+// the host has handled it.
 
 namespace KOVAVSFDataGridLib {
 
@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The value under the cursor, where it can be typed into one line.
+// The current cell's value, if it can be typed as a single line.
 QString currentValue(Session &session, int row, int col)
 {
     const ADODB::Recordset &recordset = *session.result().recordset();
@@ -57,8 +57,8 @@ std::vector<ConditionInForce> replacedConditions(Session &session)
     return conditionsInForce(session);
 }
 
-// Shows the records that meet a condition. What the database says against it goes to `refusal` where one is
-// given, else to the user.
+// Shows the records that meet a condition. If the database rejects it, its message is stored in `refusal` if
+// that is given, and otherwise shown to the user.
 bool filterBy(Session &session, FilterManagerRollback &rollback, const QString &condition, QString *refusal)
 {
     session.shown().setLastFilter(condition);
@@ -91,8 +91,8 @@ void askUser(Session &session, FilterManagerRollback &rollback, const QString &f
     } while (!request.refusal.isEmpty() && rollback.isResultUntouched());
 }
 
-// Asks the host, and the user unless the host takes over. Neither when there is no statement to filter, or
-// when the host puts another result in its place.
+// Asks the host, and then the user unless the host has handled it. Does neither if there is no statement to
+// filter, and stops if the host replaces the result.
 void askHost(Session &session, FilterManagerRollback &rollback, const QString &field)
 {
     std::vector<ConditionInForce> replaced =

@@ -6,7 +6,7 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// Filters by a condition that the host gives or the user builds; the dialog begins with `field`.
+// Filters by a condition of the host or one that the user builds; the dialog starts with `field`.
 void filterByDialog(Session &session, const QString &field = {});
 
 } // namespace KOVAVSFDataGridLib

@@ -3,7 +3,7 @@
 #include "session/commands/CommandKeys.h"
 #include "session/statement/ShownStatement.h"
 
-// Whether "Filter" filters what is shown rather than the first statement.
+// Toggles whether "Filter" filters the shown statement or the first one.
 
 namespace KOVAVSFDataGridLib {
 

@@ -8,7 +8,7 @@
 #include "session/statement/FilterManagerRollback.h"
 #include "session/statement/ShownStatement.h"
 
-// Asks for words and looks for them in all fields, or in one.
+// Asks for words and searches all fields, or one, for them.
 
 namespace KOVAVSFDataGridLib {
 
@@ -16,8 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The type that the result gives, else the one that the catalogue read from the source: the result may have
-// been opened with fewer fields.
+// The type from the result, or else the one that the catalogue read from the source: the result may have been
+// opened with fewer fields.
 std::optional<qint32> typeOf(const clsDataField &field, const ADODB::Fields &fields)
 {
     const int index = fields.IndexOf(field.FieldName);
@@ -37,7 +37,7 @@ std::vector<TypedField> searchedFields(const FindAnswer &answer, const colShowSQ
     return searched;
 }
 
-// Nothing when the words can't be searched for, or not any more.
+// No value if the words can't be searched for.
 std::optional<QString> askUser(Session &session, const FilterManagerRollback &rollback, const QString &latest)
 {
     const colShowSQLSentences &history = rollback.manager().SQLManager();
@@ -54,7 +54,7 @@ std::optional<QString> askUser(Session &session, const FilterManagerRollback &ro
     if (BuildLikeCondition(answer->text, fields, history.LineOf(latest), rollback.manager().DBType(),
                            condition, session.result().engine()))
         return condition;
-    if (answer->isOneField) // the records that stay don't say why
+    if (answer->isOneField) // the remaining records don't show the reason
         session.questions().show(QueryTexts::TypeNotFiltered);
     return {};
 }

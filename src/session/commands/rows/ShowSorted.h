@@ -6,8 +6,8 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// Opens a statement that was sorted by `sort` and records it as the latest of the history. False when it
-// can't be read, which the user has been shown.
+// Opens a statement that was sorted by `sort` and makes it the latest of the history. Returns false if it
+// can't be read, after a message to the user.
 bool showSorted(Session &session, const QString &statement, const QString &sort);
 
 } // namespace KOVAVSFDataGridLib

@@ -8,7 +8,7 @@
 #include "session/statement/ShowStatement.h"
 #include "session/statement/ShownStatement.h"
 
-// Lets the user choose a sort and shows the records in it.
+// Lets the user choose a sort and applies it.
 
 namespace KOVAVSFDataGridLib {
 

@@ -7,7 +7,7 @@
 #include "session/statement/ShowStatement.h"
 #include "session/statement/ShownStatement.h"
 
-// The latest statement without its condition.
+// Shows the latest statement without its condition.
 
 namespace KOVAVSFDataGridLib {
 

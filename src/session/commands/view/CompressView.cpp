@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A second time it brings back the widths that the columns had before.
+// The second time, it restores the previous widths.
 void compressOrRestore(Session &session)
 {
     const std::vector<int> before = widthsOf(session.window());

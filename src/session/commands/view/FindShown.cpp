@@ -2,7 +2,7 @@
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
 
-// Opens the bar that looks for a text in what is shown.
+// Opens the find bar.
 
 namespace KOVAVSFDataGridLib {
 

@@ -6,7 +6,7 @@
 #include "session/pages/Pages.h"
 #include "session/records/LinkText.h"
 
-// Opens the page or writes to the mailbox whose address is the current cell's text.
+// Opens the web or mail address in the current cell.
 
 namespace KOVAVSFDataGridLib {
 

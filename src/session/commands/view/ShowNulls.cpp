@@ -2,7 +2,7 @@
 #include "session/SessionWindow.h"
 #include "session/commands/Command.h"
 
-// Tells cells without a value from empty texts.
+// Toggles whether Nulls are distinguished from empty texts.
 
 namespace KOVAVSFDataGridLib {
 

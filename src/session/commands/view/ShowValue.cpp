@@ -9,7 +9,7 @@
 #include "session/commands/CommandKeys.h"
 #include "session/pages/Pages.h"
 
-// Shows the current cell's value in a window of its own.
+// Shows the current cell's value in a separate window.
 
 namespace KOVAVSFDataGridLib {
 
@@ -34,14 +34,14 @@ std::optional<CellValue> currentValue(Session &session)
     if (session.window().Row() < 1 || col < 1 || col > recordset.Fields().Count())
         return std::nullopt;
     const ADODB::Field &field = recordset.Fields().Item(col - 1);
-    // In the list of a single record what was written into it and is not saved yet is shown as well.
+    // In the single-record list, this includes changes that are not yet saved.
     const QVariant value =
         session.window().isSingleRecordShown() ? field.Value() : recordset.CellValue(record, col - 1);
     CellValue shown;
     shown.field = field.Name();
     shown.place = SessionMessages::PlaceOfValue.arg(field.Name(), grouped(session.window().Row()));
     shown.isNull = !value.isValid();
-    // A database without types of its own has binary values in other fields as well.
+    // An untyped database can have binary values in other fields too.
     shown.isBinary = isBinary(field.Type()) || value.typeId() == QMetaType::QByteArray;
     if (shown.isBinary)
         shown.bytes = value.toByteArray();

@@ -8,7 +8,7 @@ namespace KOVAVSFDataGridLib {
 
 class Session;
 
-// The value of the current cell; nothing where there is none.
+// The value of the current cell; no value if there is none.
 std::optional<CellValue> currentValue(Session &session);
 
 } // namespace KOVAVSFDataGridLib

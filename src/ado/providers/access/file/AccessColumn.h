@@ -6,7 +6,7 @@
 
 namespace ADODB {
 
-// The types of columns by the numbers that the file has for them.
+// Column types, with their numbers in the file.
 enum class AccessType : int {
     YesNo = 0x01,
     Byte = 0x02,
@@ -22,7 +22,7 @@ enum class AccessType : int {
     Memo = 0x0c,
     Guid = 0x0f,
     Numeric = 0x10,
-    Complex = 0x12, // an attachment or several values; the cell holds the number of its rows elsewhere
+    Complex = 0x12, // an attachment or multiple values; the cell has the number under which they are stored
     LargeNumber = 0x13
 };
 
@@ -31,26 +31,26 @@ struct AccessColumn
     QString name;
     AccessType type = AccessType::Text;
     int size = 0;         // in bytes; 0 for Memo and OLE objects
-    int declaredSize = 0; // the same, but of a text in characters
+    int declaredSize = 0; // the same, but in characters for texts
     int precision = 0;
     int scale = 0;
     bool isAutoNumber = false;
     bool isKey = false;
 
-    // Where a row keeps its value.
-    int number = 0; // its bit among those that tell what is Null
+    // Where a row stores its value.
+    int number = 0; // the column's bit in the Null bitmap
     bool isFixed = false;
-    int fixedOffset = 0;    // behind the number of columns that a row starts with
-    int variableNumber = 0; // among those of variable length
+    int fixedOffset = 0;    // relative to the end of the column count at the start of a row
+    int variableNumber = 0; // index among the columns of variable length
 };
 
 struct AccessTable
 {
     QString name;
     std::vector<AccessColumn> columns;
-    qint64 rows = 0; // as the file says; an estimate
+    qint64 rows = 0; // as stored in the file; an estimate
     quint32 definitionPage = 0;
-    std::vector<quint32> pages; // of its rows, in the order in which they are read
+    std::vector<quint32> pages; // those with its rows, in reading order
     bool hasVariableColumns = false;
 };
 

@@ -11,22 +11,22 @@ namespace {
 using AccessBytes::number;
 using AccessBytes::part;
 
-// Where a definition has its numbers: first its own, then those within each of its parts.
+// Offsets of the numbers in a definition: first those of the definition, then those within its parts.
 struct Layout
 {
     int rows;
     int variableColumns;
     int columns;
-    int indices;     // as users see them; two of them can share a real one
+    int indices;     // as users see them; two can share a real index
     int realIndices; // as they are stored
     int usageMap;
-    int end; // of the fixed part, which one count for each real index follows
+    int end; // of the fixed part; one count for each real index follows
     int realIndexCountSize;
 
     int columnSize;
     int columnNumber;
     int columnVariableNumber;
-    int columnPrecision; // and one byte further the scale
+    int columnPrecision; // the scale is in the next byte
     int columnFlags;
     int columnOffset;
     int columnLength;
@@ -41,10 +41,10 @@ constexpr Layout jet3{12, 23, 25, 27, 31, 35, 43, 8, 18, 1, 3, 9, 13, 14, 16, 39
 constexpr Layout jet4{16, 43, 45, 47, 51, 55, 63, 12, 25, 5, 7, 11, 15, 21, 23, 52, 4, 28, 8, 23};
 
 constexpr int mostColumns = 255;
-constexpr int mostIndices = 1000; // more than Access makes, yet bounded
-constexpr int keyColumns = 10;    // that an index can have
+constexpr int mostIndices = 1000; // more than Access creates, but a limit
+constexpr int keyColumns = 10;    // in one index, at most
 
-// A definition goes on from page to page. Its first 8 bytes on each tell which page comes next.
+// A definition can span several pages. The first 8 bytes of each contain the number of the next.
 QByteArray bytesOf(const AccessFile &file, quint32 page)
 {
     constexpr quint8 definitionPage = 2;
@@ -70,7 +70,7 @@ int count(QByteArrayView definition, int at, int most)
     return static_cast<int>(value);
 }
 
-// In a row; 0 where the column's own length counts.
+// In a row. 0 if the column's own length applies.
 int fixedSize(AccessType type)
 {
     switch (type) {
@@ -89,7 +89,7 @@ int fixedSize(AccessType type)
         return 8;
     case AccessType::Guid:
         return 16;
-    case AccessType::Numeric: // whatever length it claims
+    case AccessType::Numeric: // whatever length the column declares
         return 17;
     default:
         return 0;
@@ -151,7 +151,7 @@ private:
         column.declaredSize = isWide ? column.size / 2 : column.size;
         column.precision = number<quint8>(bytes, m_layout.columnPrecision);
         column.scale = number<quint8>(bytes, m_layout.columnPrecision + 1);
-        // In older files both marks mean something else for columns of other types.
+        // In older files, both flags mean something else for columns of other types.
         const auto flags = number<quint8>(bytes, m_layout.columnFlags);
         column.isAutoNumber = (column.type == AccessType::LongInteger && flags & countsUp) ||
                               (column.type == AccessType::Guid && flags & makesGuids);
@@ -162,7 +162,7 @@ private:
         return column;
     }
 
-    // The real indices come first, then those that users see, one of which is the key.
+    // The real indices come first, then the logical ones that users see. One of those is the primary key.
     void readKey(int realIndices)
     {
         constexpr quint8 primaryKey = 1;
@@ -191,7 +191,7 @@ private:
         }
     }
 
-    // The map is a bit for each page, either at once or as a list of pages that hold the bits.
+    // The map has one bit per page. It is stored inline or as a list of pages that contain the bits.
     void readPages()
     {
         const AccessAddress address(number<quint32>(m_definition, m_layout.usageMap));
@@ -224,7 +224,7 @@ private:
     const AccessFile &m_file;
     const Layout &m_layout;
     const QByteArray m_definition;
-    qsizetype m_indices = 0; // where they begin
+    qsizetype m_indices = 0; // where they start
     AccessTable m_table;
 };
 

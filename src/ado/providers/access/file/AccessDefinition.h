@@ -8,11 +8,11 @@ namespace ADODB {
 
 class AccessFile;
 
-// The definition of a table: its columns, its key and the pages of its rows. It is read from the file's own
-// bytes, because libmdb trusts the counts and places that a damaged definition gives.
+// The definition of a table: its columns, its key and the pages with its rows. It is parsed here and not by
+// libmdb, which trusts the counts and offsets in a damaged definition.
 namespace AccessDefinition {
 
-// The definition begins on `page`. The answer has no name. Throws the error of a damaged file.
+// `page` is the first page of the definition. The result has no name. Throws if the file is damaged.
 AccessTable read(const AccessFile &file, quint32 page);
 
 } // namespace AccessDefinition

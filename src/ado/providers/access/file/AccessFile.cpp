@@ -20,7 +20,7 @@ namespace ADODB {
 
 namespace {
 
-constexpr quint32 objectsPage = 2; // the table of all objects, itself among them
+constexpr quint32 objectsPage = 2; // the table of all objects, including itself
 constexpr int jet3PageSize = 2048;
 constexpr int jet4PageSize = 4096;
 constexpr quint8 newestVersion = MDB_VER_ACCDB_2019;
@@ -30,8 +30,8 @@ struct Freer
     void operator()(MdbHandle *handle) const { mdb_close(handle); }
 };
 
-// libmdb takes a file of another kind for a damaged one of its own, and looks at pages that a cut off file
-// doesn't have, so the file is looked at first.
+// libmdb reports a file of another kind as damaged, and reads pages that a truncated file doesn't have. So
+// the file is checked first.
 DatabaseFile checked(const QString &path, const QString &password)
 {
     DatabaseFile file(path, AccessHeader::size);
@@ -49,7 +49,7 @@ DatabaseFile checked(const QString &path, const QString &password)
     return file;
 }
 
-// What Jet 4 writes in one byte where a text has only Latin letters; a zero byte switches between that and
+// Decodes Jet 4's compressed text: one byte per Latin character. A zero byte switches between this form and
 // UTF-16.
 QString uncompressed(QByteArrayView bytes)
 {

@@ -18,7 +18,7 @@ constexpr qsizetype passwordAt = 0x42;
 constexpr qsizetype dateAt = 0x72;
 constexpr quint8 firstAccdb = 2;
 
-// RC4 with the one key that Access has for all its files: it hides, but protects nothing.
+// RC4 with a fixed key that Access uses for all its files. It hides the bytes, but protects nothing.
 void unmask(QByteArray &bytes, qsizetype from)
 {
     constexpr std::array<quint8, 4> key{0xc7, 0xda, 0x39, 0x6b};
@@ -69,7 +69,7 @@ QString AccessHeader::password() const
         const QByteArray text = m_bytes.sliced(passwordAt, length);
         return QString::fromLatin1(text.left(text.indexOf('\0')));
     }
-    // Masked once more, by the day on which the file was made.
+    // Masked a second time, with the file's creation date.
     constexpr qsizetype units = 20;
     const auto day = static_cast<quint32>(static_cast<qint64>(AccessBytes::number<double>(m_bytes, dateAt)));
     QString text;

@@ -5,23 +5,23 @@
 
 namespace ADODB {
 
-// What the first page of an Access file says about the file.
+// The first page of an Access file, which describes the file.
 class AccessHeader
 {
 public:
     static constexpr qint64 size = 0x98;
 
-    // The first size bytes of the file; fewer are no Access file.
+    // The first `size` bytes of the file. With fewer bytes, isAccess() is false.
     explicit AccessHeader(QByteArray bytes);
 
     bool isAccess() const;
-    // 0 is Access 97, 1 Access 2000 to 2003, 2 and above .accdb; meaningless unless isAccess().
+    // 0 is Access 97, 1 is Access 2000 to 2003, 2 and above is .accdb. Undefined unless isAccess().
     quint8 version() const;
-    // Whether it is an .accdb whose pages only a password can read.
+    // Whether it is an .accdb whose pages are encrypted with a password.
     bool isEncrypted() const;
-    // What Access asks for before it opens the file; empty when it asks for nothing.
+    // The database password; empty if there is none.
     QString password() const;
-    // The Windows number of the language in whose order texts are sorted.
+    // The Windows language ID (LCID) that defines the sort order of texts.
     quint16 language() const;
 
 private:

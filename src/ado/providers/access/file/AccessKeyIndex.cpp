@@ -24,7 +24,7 @@ AccessKeyIndex::AccessKeyIndex(AccessReader &reader, int column)
     while (reader.next()) {
         const RawValue value = reader.value(column);
         if (value.kind == RawValue::Kind::Null)
-            continue; // equal to nothing
+            continue; // Null is equal to nothing
         if (const auto hash = hashOf(value, family))
             m_entries.push_back({*hash, reader.position()});
         else

@@ -26,13 +26,13 @@ AccessPage::Row AccessPage::row(int row) const
     constexpr quint16 deleted = 0x8000;
     if (row >= rows())
         AccessBytes::throwDamaged("a record is missing");
-    // Rows fill the page from its end, so the one before ends this one.
+    // Rows fill the page from its end, so this row ends where the previous one starts.
     const int entry = rowCountOffset + 2 + row * 2;
     const auto place = AccessBytes::number<quint16>(bytes(), entry);
     const int start = place & offsetBits;
     const int end = row == 0 ? size : AccessBytes::number<quint16>(bytes(), entry - 2) & offsetBits;
     const bool isDeleted = (place & deleted) != 0;
-    // Nobody keeps the places of deleted rows in order, but one that another row points to is still in use.
+    // The offsets of deleted rows may be stale, but one that another row points to is still in use.
     const bool isInside = start <= end && end <= size;
     return {isDeleted && !isInside ? QByteArrayView() : AccessBytes::part(bytes(), start, end - start),
             isDeleted, (place & elsewhere) != 0};

@@ -7,7 +7,7 @@
 
 namespace ADODB {
 
-// Numbers as Access files hold them. Throws the error of a damaged file when they would lie outside.
+// Reads little-endian numbers. Throws the error for a damaged file if an offset is out of range.
 namespace AccessBytes {
 
 [[noreturn]] void throwDamaged(const char *what);
@@ -27,21 +27,21 @@ Number number(QByteArrayView bytes, qsizetype at)
 
 } // namespace AccessBytes
 
-// A copy of one page of the file. Rows are counted from 0.
+// A copy of one page of the file. Row numbers start at 0.
 class AccessPage
 {
 public:
     static constexpr int largestSize = 4096;
-    static constexpr int mostRows = 256; // the number of a row is one byte where a row is pointed to
+    static constexpr int mostRows = 256; // a pointer to a row stores the row number in one byte
 
     struct Row
     {
         QByteArrayView bytes;
         bool isDeleted;
-        bool isElsewhere; // the bytes say where: see AccessAddress
+        bool isElsewhere; // the bytes are the AccessAddress of the row
     };
 
-    quint32 number = 0; // in the file, whose page 0 is its head and has no rows
+    quint32 number = 0; // in the file; page 0 is the file header and has no rows
     int size = 0;
     int rowCountOffset = 0;
     std::array<char, largestSize> buffer{};
@@ -51,7 +51,7 @@ public:
     Row row(int row) const;
 };
 
-// Where a row is: the page and the number of the row there.
+// The address of a row: its page, and its number on that page.
 struct AccessAddress
 {
     quint32 page;

@@ -13,7 +13,7 @@ void AccessReader::rewind()
     m_rows = 0;
 }
 
-// Pages that are set aside for the table without having been used yet are none.
+// A page that is reserved for the table but not yet used is not a data page.
 bool AccessReader::isDataPage() const
 {
     constexpr quint8 dataPage = 1;

@@ -6,24 +6,24 @@
 
 namespace ADODB {
 
-// Reads the rows of one table, one at a time; of a row only the fields that are asked for. The file and the
-// table must outlive it. Throws Error.
+// Reads the rows of one table one at a time, and of each row only the requested fields. The file and the
+// table must outlive it. All members can throw Error.
 class AccessReader
 {
 public:
     AccessReader(const AccessFile &file, const AccessTable &table);
 
     const AccessTable &table() const { return m_table; }
-    // Back before the first row.
+    // Moves before the first row.
     void rewind();
-    // False behind the last row.
+    // Moves to the next row. Returns false after the last one.
     bool next();
 
-    // A number that identifies the current row as long as the file is open, and the way back to it.
+    // Identifies the current row while the file is open. Pass it to seek() to return to the row.
     qint64 position() const;
     void seek(qint64 position);
 
-    // The bytes stay valid until the next value or row is asked for.
+    // The bytes are valid until the next call of value() or next().
     RawValue value(int column);
 
 private:
@@ -34,9 +34,9 @@ private:
     const AccessTable &m_table;
     std::size_t m_nextPage = 0;
     int m_nextRow = 0;
-    int m_rows = 0; // of the page
+    int m_rows = 0; // on the current page
     std::shared_ptr<const AccessPage> m_page;
-    std::shared_ptr<const AccessPage> m_elsewhere; // holds the row when it did not fit into its page any more
+    std::shared_ptr<const AccessPage> m_elsewhere; // contains the row if it was moved to another page
     AccessRow m_row;
     QByteArray m_bytes;
 };

@@ -33,12 +33,12 @@ std::optional<QByteArrayView> AccessRow::field(const AccessColumn &column) const
     return AccessBytes::part(m_bytes, start, variableStart(column.variableNumber + 1) - start);
 }
 
-// The starts stand behind the values, from the last to the first, the end of the last value before them all.
+// The offsets follow the values in reverse order; the first one is the end of the last value.
 int AccessRow::variableStart(int variable) const
 {
     if (!m_isJet3)
         return number<quint16>(m_bytes, m_flags - 4 - qsizetype{2} * variable);
-    // One byte each in Jet 3, so a longer row also lists the columns at which another 256 is to be added.
+    // In Jet 3 an offset is one byte, so a longer row also lists the columns where 256 must be added.
     const qsizetype last = m_flags - 2;
     qsizetype jumps = (m_bytes.size() - 1) / 256;
     qsizetype starts = last - jumps;

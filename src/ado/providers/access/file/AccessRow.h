@@ -7,18 +7,18 @@
 
 namespace ADODB {
 
-// Finds the fields in the bytes of one row. The bytes must outlive it. Throws the error of a damaged file
-// when they can't be a row.
+// Finds the fields in the bytes of one row. The bytes must outlive it. Throws the error for a damaged file if
+// the bytes can't be a row.
 class AccessRow
 {
 public:
     AccessRow() = default;
-    // `hasVariableColumns` is the table's. Rows of Jet 3 (Access 97) have shorter numbers.
+    // `hasVariableColumns` is a property of the table. Rows of Jet 3 (Access 97) use smaller numbers.
     AccessRow(QByteArrayView bytes, bool hasVariableColumns, bool isJet3);
 
-    // Nothing for Null and for a column that is younger than the row.
+    // Empty for Null, and for a column that was added after the row was written.
     std::optional<QByteArrayView> field(const AccessColumn &column) const;
-    // The value of a Yes/No column, which takes no room in a row.
+    // The value of a Yes/No column. It is stored in the bitmap, not in a field.
     bool flag(const AccessColumn &column) const;
 
 private:
@@ -26,7 +26,7 @@ private:
 
     QByteArrayView m_bytes;
     bool m_isJet3 = false;
-    qsizetype m_flags = 0; // where the bits begin that tell what is not Null
+    qsizetype m_flags = 0; // offset of the bitmap of columns that are not Null
     int m_variableColumns = 0;
 };
 

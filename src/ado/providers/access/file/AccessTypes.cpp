@@ -12,14 +12,14 @@ namespace ADODB::AccessTypes {
 
 namespace {
 
-// What the declared type also says, because SQLite keeps no place for it.
+// Encoded in the declared type, because SQLite has no other place for it.
 constexpr QLatin1StringView keyWord("KEYPART");
 constexpr QLatin1StringView autoNumberWord("AUTONUMBER");
 
 struct Type
 {
     AccessType access;
-    QLatin1StringView name; // SQLite reads from it how to compare: as a number, a TEXT or a BLOB
+    QLatin1StringView name; // tells SQLite how to compare: as a number, TEXT or BLOB
     DataTypeEnum ado;
     qint32 bytes;
     qint32 precision;
@@ -43,7 +43,7 @@ constexpr Type types[] = {
     {AccessType::Complex, "COMPLEX"_L1, adInteger, 4, 10},
     {AccessType::LargeNumber, "LARGENUMBER"_L1, adBigInt, 8, 19},
 };
-// A type that is younger than this table is shown as the bytes it has.
+// A type that is newer than this table is shown as raw bytes.
 constexpr Type unknown{AccessType::Binary, "BINARY BLOB"_L1, adVarBinary, 0, 0};
 
 const Type &typeOf(AccessType type)
@@ -53,7 +53,7 @@ const Type &typeOf(AccessType type)
     return found == std::end(types) ? unknown : *found;
 }
 
-// The longest one that fits, because LONG also begins another name.
+// Chooses the longest match, because LONG is also the beginning of another name.
 const Type &typeOf(const QString &declaration)
 {
     const Type *longest = &unknown;

@@ -24,7 +24,7 @@ RawValue fromText(QByteArray text, QByteArray &storage)
     return RawValue::fromText(storage);
 }
 
-// `digits` is a whole number of at least one digit without sign.
+// `digits` has at least one digit and no sign.
 RawValue fromDecimal(QByteArray digits, int scale, bool isNegative, QByteArray &storage)
 {
     constexpr qsizetype digitsOfDouble = 15;
@@ -57,7 +57,7 @@ RawValue currency(QByteArrayView field, QByteArray &storage)
     return fromDecimal(QByteArray::number(magnitude), scale, units < 0, storage);
 }
 
-// A sign and 128 bits in four words, the highest first.
+// A sign and 128 bits in four words, most significant word first.
 RawValue numeric(QByteArrayView field, int scale, QByteArray &storage)
 {
     constexpr int words = 4;
@@ -78,7 +78,7 @@ RawValue numeric(QByteArrayView field, int scale, QByteArray &storage)
     return fromDecimal(digits.isEmpty() ? "0" : digits, scale, isNegative, storage);
 }
 
-// The double that reads as the single does, so that 0.05 is 0.05 and not 0.0500000007450581.
+// The double with the same shortest decimal text: 0.05 stays 0.05 and not 0.0500000007450581.
 double widened(float value)
 {
     std::array<char, 32> text{};
@@ -114,10 +114,10 @@ RawValue fromFlag(bool flag)
 
 QByteArray dateText(double days)
 {
-    constexpr double limit = 3'700'000; // further than the year 9999
+    constexpr double limit = 3'700'000; // after the year 9999
     if (!(std::abs(days) < limit))
         return {};
-    // The time of day counts forward, before 1899 too.
+    // The time of day counts forward, also before 1899.
     const double whole = std::trunc(days);
     const auto milliseconds = std::llround(std::abs(days - whole) * dayInMilliseconds);
     const QDateTime moment =
@@ -181,7 +181,7 @@ RawValue fromField(QByteArrayView field, const AccessColumn &column, const Acces
     case AccessType::OleObject:
         storage = file.longValue(field);
         return RawValue::fromBlob(storage);
-    case AccessType::YesNo: // takes no room in a row
+    case AccessType::YesNo: // not stored as a field
     case AccessType::Binary:
         break;
     }

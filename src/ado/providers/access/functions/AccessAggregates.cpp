@@ -8,7 +8,7 @@ namespace ADODB::AccessAggregates {
 
 namespace {
 
-// SQLite gives the place, filled with zeros, and null when it has none; it outlives the group's rows only.
+// Zero-filled memory from SQLite, or null if there is none. It lives while the group is computed.
 template<typename State>
 State *stateOf(sqlite3_context *context)
 {
@@ -43,7 +43,7 @@ void answerKept(sqlite3_context *context)
     sqlite3_value_free(kept->value);
 }
 
-// By Welford's method, which loses no digits to large means.
+// Welford's method, which stays accurate for a large mean.
 struct Spread
 {
     qint64 count;
@@ -62,7 +62,7 @@ void spread(sqlite3_context *context, int, sqlite3_value **values)
     state->squares += difference * (value - state->mean);
 }
 
-// Of a sample the count is one less.
+// For a sample, the divisor is the count minus one.
 template<bool IsSample, bool IsRoot>
 void answerSpread(sqlite3_context *context)
 {

@@ -2,7 +2,7 @@
 
 struct sqlite3;
 
-// What summarizes records: First, Last, Var, VarP, StDev, StDevP.
+// Aggregate functions: First, Last, Var, VarP, StDev, StDevP.
 namespace ADODB::AccessAggregates {
 
 void install(sqlite3 *db);

@@ -10,8 +10,8 @@
 
 namespace ADODB {
 
-// One call of a function that this provider offers to statements. Arguments are counted from 0. A call
-// without an answer gives Null.
+// One call of a function that this provider adds to SQL. Arguments are numbered from 0. A call that sets no
+// result returns Null.
 class AccessCall
 {
 public:
@@ -22,9 +22,9 @@ public:
 
     int count() const { return m_count; }
     bool isNull(int index) const { return sqlite3_value_type(m_values[index]) == SQLITE_NULL; }
-    // As a field with that value shows it.
+    // The text that a field with this value shows.
     QString text(int index) const;
-    // A date counts as its days since 1899-12-30, as Access computes with it.
+    // A date is converted to days since 1899-12-30, as Access does.
     double number(int index) const;
     bool isDate(int index) const;
     bool hasNull() const;
@@ -37,12 +37,12 @@ public:
     void answer(qint64 value) { sqlite3_result_int64(m_context, value); }
     void answer(double value) { sqlite3_result_double(m_context, value); }
     void answer(const QString &value);
-    // The date with that number of days; Null where it is outside the years 1 to 9999.
+    // Returns the date for that number of days, or Null outside the years 1 to 9999.
     void answerDate(double days);
     void answerArgument(int index) { sqlite3_result_value(m_context, m_values[index]); }
     void fail(const char *words) { sqlite3_result_error(m_context, words, -1); }
 
-    // A function that gives Null as soon as one argument is Null.
+    // Wraps a function that returns Null if any argument is Null.
     template<void (*Function)(AccessCall &)>
     static void strict(AccessCall &call)
     {
@@ -50,8 +50,8 @@ public:
             Function(call);
     }
 
-    // `count` arguments, -1 for any number. `flags` are added to those of a function that always gives the
-    // same answer for the same arguments.
+    // Registers a function with `count` arguments, -1 for any number. `flags` are those of SQLite; by default
+    // the function is deterministic.
     template<void (*Function)(AccessCall &)>
     static void offer(sqlite3 *db, const char *name, int count, int flags = SQLITE_DETERMINISTIC)
     {
@@ -76,7 +76,7 @@ private:
     sqlite3_value **m_values;
 };
 
-// A value as SQLite passes it; the bytes are SQLite's.
+// A value as SQLite passes it. SQLite owns the bytes.
 RawValue rawValue(sqlite3_value *value);
 void setResult(sqlite3_context *context, const RawValue &value);
 

@@ -26,7 +26,7 @@ QDateTime momentOf(const AccessCall &call, int index)
                             : DateText::moment(AccessDateLiteral::text(QString::fromUtf8(text)).toUtf8());
 }
 
-// Nothing, and so Null, for what is no date.
+// Sets no result, so the function returns Null, if the moment is not valid.
 void answerMoment(AccessCall &call, const QDateTime &moment)
 {
     if (moment.isValid())
@@ -51,7 +51,7 @@ void today(AccessCall &call)
 
 void dateSerial(AccessCall &call)
 {
-    // Months and days outside their range count on into the next ones.
+    // Months and days outside their range carry over into the next or previous ones.
     const QDate first(static_cast<int>(call.integer(0)), 1, 1);
     const QDate day = first.addMonths(static_cast<int>(call.integer(1) - 1)).addDays(call.integer(2) - 1);
     answerMoment(call, QDateTime(day, QTime(0, 0), Qt::UTC));
@@ -124,7 +124,7 @@ int partOf(const QDateTime &moment, Interval interval)
         return date.day();
     case Interval::Weekday:
         return weekday(date);
-    case Interval::Week: // the one with January 1 is the first
+    case Interval::Week: // week 1 contains January 1
         return (date.dayOfYear() + weekday(QDate(date.year(), 1, 1)) - 2) / 7 + 1;
     case Interval::Hour:
         return moment.time().hour();
@@ -186,11 +186,11 @@ QDateTime later(const QDateTime &moment, Interval interval, qint64 count)
     return {};
 }
 
-// How many borders between two intervals lie between the moments; of weeks counted by days, whole weeks.
+// The number of interval boundaries between the moments; for Weekday, the number of whole weeks.
 qint64 between(const QDateTime &first, const QDateTime &last, Interval interval)
 {
     const auto months = [](QDate date) { return qint64{date.year()} * 12 + date.month() - 1; };
-    const auto sundays = [](QDate date) { return date.toJulianDay() + 1; }; // whole weeks of it
+    const auto sundays = [](QDate date) { return date.toJulianDay() + 1; }; // divided by 7: Sundays so far
     const auto seconds = [&](qint64 size) {
         return last.toSecsSinceEpoch() / size - first.toSecsSinceEpoch() / size;
     };
@@ -259,7 +259,7 @@ void format(AccessCall &call)
 
 void install(sqlite3 *db)
 {
-    constexpr int changing = 0; // from one call to the next
+    constexpr int changing = 0; // not deterministic
     AccessCall::offer<now>(db, "Now", 0, changing);
     AccessCall::offer<today>(db, "Date", 0, changing);
     AccessCall::offer<clock>(db, "Time", 0, changing);

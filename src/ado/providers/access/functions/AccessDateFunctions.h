@@ -2,7 +2,7 @@
 
 struct sqlite3;
 
-// Functions of dates: Now, Date, Time, Year … Second, Weekday, DatePart, DateAdd, DateDiff, DateSerial,
+// Date functions: Now, Date, Time, Year … Second, Weekday, DatePart, DateAdd, DateDiff, DateSerial,
 // TimeSerial, DateValue, TimeValue, CDate, IsDate, Format.
 namespace ADODB::AccessDateFunctions {
 

@@ -103,7 +103,7 @@ QString number(double value, const QString &given)
         text.chop(1);
     if (text.endsWith(u'.'))
         text.chop(1);
-    // Zeros in front of the point are the digits that are shown anyway.
+    // Zeros before the decimal point set the minimum number of digits.
     const qsizetype whole = digits.left(point < 0 ? digits.size() : point).count(u'0');
     const qsizetype shownWhole = text.indexOf(u'.') < 0 ? text.size() : text.indexOf(u'.');
     if (!digits.contains(u',') && value >= 0 && shownWhole < whole)

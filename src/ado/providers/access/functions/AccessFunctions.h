@@ -2,7 +2,7 @@
 
 struct sqlite3;
 
-// The functions that Access has and SQLite does not have or means otherwise.
+// Access functions that SQLite lacks or defines differently.
 namespace ADODB::AccessFunctions {
 
 void install(sqlite3 *db);

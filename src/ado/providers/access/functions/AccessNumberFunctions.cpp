@@ -13,9 +13,9 @@ namespace ADODB::AccessNumberFunctions {
 
 namespace {
 
-constexpr qint64 yes = -1; // as Access has it
+constexpr qint64 yes = -1; // True in Access
 
-// Of a date it is the day.
+// For a date, truncates the time.
 template<double (*Whole)(double)>
 void whole(AccessCall &call)
 {
@@ -46,7 +46,7 @@ void root(AccessCall &call)
     call.answer(std::sqrt(call.real(0)));
 }
 
-// Halves go to the even neighbour, as Access rounds.
+// Rounds half to even, as Access does.
 void round(AccessCall &call)
 {
     constexpr double mostDigits = 15;
@@ -132,7 +132,7 @@ void choose(AccessCall &call)
         call.answerArgument(static_cast<int>(index));
 }
 
-// Nothing, and so Null, where a text is no number.
+// Returns Null if a text is not a number.
 template<bool (*Compute)(qint64, qint64, qint64 *), double (*ComputeReal)(double, double)>
 void computeNumbers(AccessCall &call)
 {
@@ -163,7 +163,7 @@ double subtractReals(double a, double b)
     return a - b;
 }
 
-// Currencies and Decimals of more digits than a double keeps are texts here.
+// A Currency or Decimal with more digits than a double can hold is a text here.
 bool isLongNumber(const AccessCall &call, int index)
 {
     constexpr qsizetype digitsOfDouble = 15;

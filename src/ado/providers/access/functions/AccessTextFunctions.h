@@ -2,8 +2,8 @@
 
 struct sqlite3;
 
-// Functions of texts: Len, Mid, Left, Right, UCase, LCase, InStr, InStrRev, StrComp, StrConv, StrReverse,
-// Space, String, Asc, Chr, CStr, and what `&` becomes.
+// Text functions: Len, Mid, Left, Right, UCase, LCase, InStr, InStrRev, StrComp, StrConv, StrReverse, Space,
+// String, Asc, Chr, CStr, and the implementation of `&`.
 namespace ADODB::AccessTextFunctions {
 
 void install(sqlite3 *db);

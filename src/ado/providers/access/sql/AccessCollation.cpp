@@ -39,7 +39,7 @@ void release(void *order)
     const std::unique_ptr<AccessOrder> owner(static_cast<AccessOrder *>(order));
 }
 
-// Both operators have their pattern before the text.
+// SQLite passes the pattern before the text, for both operators.
 void like(AccessCall &call)
 {
     const int escape = 2;
@@ -86,7 +86,7 @@ void install(sqlite3 *db, quint16 language)
 {
     auto order = std::make_unique<AccessOrder>(language);
     if (sqlite3_create_collation_v2(db, textName, SQLITE_UTF8, order.get(), orderTexts, release) == SQLITE_OK)
-        static_cast<void>(order.release()); // the database's by now
+        static_cast<void>(order.release()); // now owned by the database
     sqlite3_create_collation_v2(db, dateName, SQLITE_UTF8, nullptr, orderDates, nullptr);
     AccessCall::offer<like>(db, "like", 2);
     AccessCall::offer<like>(db, "like", 3);

@@ -5,21 +5,21 @@
 
 struct sqlite3;
 
-// How Access compares texts: letter case does not count, in any script.
+// How Access compares texts: case-insensitively, in any script.
 namespace ADODB::AccessCollation {
 
 inline constexpr char textName[] = "ACCESS_TEXT";
 inline constexpr char dateName[] = "ACCESS_DATE";
 
-// Negative, zero or positive; by code points, unlike AccessOrder, where texts are not equal.
+// Negative, zero or positive. Unequal texts are ordered by code point, unlike in AccessOrder.
 int compareTexts(QByteArrayView a, QByteArrayView b);
-// The same for dates as AccessValue writes them; one without a time is that day at 0:00.
+// The same for dates in the format of AccessValue. A date without a time means 0:00.
 int compareDates(QByteArrayView a, QByteArrayView b);
-// A date as it is compared.
+// The part of a date that is compared.
 QByteArrayView comparedDate(QByteArrayView date);
 
-// Offers both orders, by their names, LIKE, and GLOB as the LIKE of Access's own patterns. Texts
-// are sorted as in that language; see AccessOrder.
+// Registers both collations, LIKE, and GLOB, which matches Access's own LIKE patterns. Texts are sorted by
+// the rules of `language`; see AccessOrder.
 void install(sqlite3 *db, quint16 language);
 
 } // namespace ADODB::AccessCollation

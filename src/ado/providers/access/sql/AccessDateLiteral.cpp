@@ -31,7 +31,7 @@ QString text(QStringView literal)
     const bool hasTime = !at(7).isEmpty();
     if (!match.hasMatch() || literal.trimmed().isEmpty())
         return {};
-    QDate date(1899, 12, 30); // a time alone
+    QDate date(1899, 12, 30); // for a time alone
     if (!at(1).isEmpty())
         date = QDate(at(1).toInt(), at(2).toInt(), at(3).toInt());
     else if (!at(4).isEmpty()) {

@@ -2,11 +2,11 @@
 
 #include <QtCore/QString>
 
-// Dates as Access's SQL writes them between two #, and as its users type them.
+// Date literals of Access's SQL (between two #), and dates as its users type them.
 namespace ADODB::AccessDateLiteral {
 
-// The date as AccessValue writes dates; empty when it is none. Month before day, as everywhere in Access's
-// SQL, unless the year comes first; a time alone is that of the day from which dates are counted.
+// The date in the format of AccessValue; empty if it is not a date. The month precedes the day, as always in
+// Access's SQL, unless the year comes first. A time alone gets the date 1899-12-30.
 QString text(QStringView literal);
 
 } // namespace ADODB::AccessDateLiteral

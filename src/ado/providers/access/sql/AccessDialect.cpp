@@ -18,7 +18,7 @@ namespace {
 
 struct Edit
 {
-    // What comes first where several stand at the same place.
+    // The order of edits at the same position.
     enum Rank { CloseSum, Close, Open, OpenSum, Replace };
 
     Rank rank;
@@ -34,15 +34,15 @@ struct Words
 };
 constexpr std::array constants{Words{u"TRUE", "-1"_L1}, Words{u"YES", "-1"_L1}, Words{u"FALSE", "0"_L1},
                                Words{u"NO", "0"_L1}};
-// What are words of SQLite's grammar are functions only in quotes.
+// Keywords of SQLite's grammar are function names only if quoted.
 constexpr std::array functions{Words{u"LEFT", "\"Left\""_L1}, Words{u"RIGHT", "\"Right\""_L1},
                                Words{u"ISNULL", "\"IsNull\""_L1}};
-// They give texts, which are compared as those of fields are.
+// These return texts, which are compared as text fields are.
 constexpr std::array<QStringView, 13> textFunctions{u"LEFT",   u"RIGHT",   u"MID",    u"UCASE", u"LCASE",
                                                     u"TRIM",   u"LTRIM",   u"RTRIM",  u"CSTR",  u"CHR",
                                                     u"FORMAT", u"REPLACE", u"STRCONV"};
 
-// The words between which expressions stand.
+// The words that delimit expressions.
 constexpr std::array<QStringView, 44> clauseWords{
     u"SELECT", u"DISTINCT", u"DISTINCTROW", u"ALL",      u"FROM",   u"WHERE",   u"GROUP", u"BY",
     u"HAVING", u"ORDER",    u"ASC",         u"DESC",     u"UNION",  u"EXCEPT",  u"LIMIT", u"OFFSET",
@@ -109,7 +109,7 @@ private:
         m_edits.push_back({rank, at, 0, text});
     }
 
-    // Answers the last token of the date.
+    // Returns the last token of the date.
     qsizetype replaceDate(qsizetype open)
     {
         qsizetype close = open + 1;
@@ -136,7 +136,7 @@ private:
         else if (isMember || m_statement.isSymbol(i + 1, u'.'))
             return;
         else if (const Words *constant = find(constants, m_statement, i);
-                 constant && !isCall && !m_statement.isWord(i - 1, u"AS")) // else it is an alias
+                 constant && !isCall && !m_statement.isWord(i - 1, u"AS")) // else an alias
             replace(i, constant->sqlite);
         else if (m_statement.isWord(i, u"ALIKE"))
             replace(i, u"LIKE"_s);
@@ -177,7 +177,7 @@ private:
                (m_statement.at(index).kind != SqlToken::Kind::Symbol || m_statement.isSymbol(index, u')') ||
                 m_isInDate[static_cast<std::size_t>(index)]);
     }
-    // A name that follows its expression without AS.
+    // Whether a name follows its expression without AS.
     bool isAlias(qsizetype index) const
     {
         return m_statement.isName(index) && endsOperand(index - 1) && !endsExpression(index - 1) &&
@@ -195,7 +195,7 @@ private:
                 u",;=<>"_s.contains(m_statement.text(index)));
     }
 
-    // Operands and the operators between them, from the first operand to the last.
+    // A sequence of operands and the operators between them.
     struct Run
     {
         qsizetype first = -1;
@@ -208,21 +208,21 @@ private:
                 first = token;
             last = token;
         }
-        // What stands before a word like NOT is left to SQLite.
+        // Operators before a word such as NOT are left to SQLite.
         void dropLastWithoutOperand()
         {
             if (!joints.empty() && joints.back() == last)
                 joints.pop_back();
         }
     };
-    // In one pair of parentheses, or of CASE and END. A sum is an operand of &.
+    // The state within one pair of parentheses, or of CASE and END. A sum is an operand of &.
     struct Level
     {
         Run text;
         Run sum;
     };
 
-    // In SQLite && does not bind as loosely, and Null would make the whole text Null, so it becomes a call.
+    // SQLite's || binds more tightly than &, and a Null makes its result Null. So & becomes a call.
     void finishText(Run &run)
     {
         run.dropLastWithoutOperand();
@@ -235,11 +235,11 @@ private:
         run = {};
     }
 
-    // SQLite knows neither sums of dates nor of texts, and gives a number for them.
+    // SQLite can't add dates or texts; it would convert them to numbers.
     void finishSum(Run &run)
     {
         run.dropLastWithoutOperand();
-        // The last operator's is the outermost call.
+        // The last operator becomes the outermost call.
         for (auto joint = run.joints.rbegin(); joint != run.joints.rend(); ++joint)
             insert(Edit::OpenSum, m_statement.at(run.first).start,
                    m_statement.isSymbol(*joint, u'+') ? u"access_add("_s : u"access_subtract("_s);
@@ -268,7 +268,7 @@ private:
 
     void replaceOperators()
     {
-        std::vector<Level> levels; // one for each open parenthesis and CASE
+        std::vector<Level> levels; // one per open parenthesis and CASE
         int cases = 0;
         for (qsizetype i = 0; i < m_statement.count(); ++i) {
             const bool isCase = m_statement.isWord(i, u"CASE");
@@ -328,7 +328,7 @@ private:
         }
         for (qsizetype i = top; i < top + (isPercent ? 3 : 2); ++i)
             replace(i, {});
-        // What selects from these records may sort them; SQLite would sort before it takes the first ones.
+        // An enclosing SELECT may sort these records; SQLite would sort before it takes the first ones.
         const qsizetype select = isSelectModifier(m_statement, top - 1) ? top - 2 : top - 1;
         const bool isTable = m_statement.isSymbol(select - 1, u'(') && !hasOrder(top, end, depth);
         insert(Edit::Open, m_statement.at(end - 1).end(),
@@ -362,7 +362,7 @@ private:
 
     SqlScanner m_statement;
     Patterns m_patterns;
-    std::vector<bool> m_isInDate; // by token; the first one of a date is not
+    std::vector<bool> m_isInDate; // per token; false for the first token of a date
     std::vector<Edit> m_edits;
 };
 

@@ -2,14 +2,14 @@
 
 #include <QtCore/QString>
 
-// The SQL of Access, where it differs from SQLite's.
+// Translates Access's SQL where it differs from SQLite's.
 namespace ADODB::AccessDialect {
 
-// Whose patterns stand behind LIKE: those of ADO (% and _) or those of Access's own windows (* and ?).
+// Which wildcards LIKE uses: ADO's (% and _) or those of Access's own user interface (* and ?).
 enum class Patterns { Ado, Access };
 
-// The statement with `#1/31/2020#`, `a & b`, `a + b`, `a - b`, `a / b`, TOP n [PERCENT], True,
-// False, Mod, ALIKE, `T!A` and functions of texts as SQLite writes them; all else is left as it is.
+// Replaces `#1/31/2020#`, `a & b`, `a + b`, `a - b`, `a / b`, TOP n [PERCENT], True, False, Mod, ALIKE, `T!A`
+// and text functions with their equivalents in SQLite. All else is unchanged.
 QString toSqlite(const QString &sql, Patterns patterns = Patterns::Ado);
 
 } // namespace ADODB::AccessDialect

@@ -27,7 +27,7 @@ bool isSame(const QString &a, const QString &b)
     throw Error(dbErrFailed, Texts::accessDistinctRow());
 }
 
-// One SELECT, from its first token on.
+// One SELECT, starting at its first token.
 class Select
 {
 public:
@@ -36,7 +36,7 @@ public:
     {
     }
 
-    // What groups its rows by the records that it shows; empty where each row is one of them.
+    // The GROUP BY list that makes the shown records distinct; empty if each row is one of them already.
     QString grouping() const
     {
         if (m_parts.sources.size() < 2)
@@ -49,7 +49,7 @@ public:
         }
         if (shown.size() == m_parts.sources.size())
             return {};
-        // Which of several records a sort by another table means, nobody can say.
+        // With a sort by another table, it is undefined which of several records is meant.
         std::set<std::size_t> sorting = shown;
         for (const SelectParts::Item &term : m_parts.sort)
             addSources(term.value, sorting);
@@ -64,7 +64,7 @@ public:
         return u" GROUP BY "_s + records.join(u", "_s) + u' ';
     }
 
-    // Where the grouping belongs.
+    // Where GROUP BY must be inserted.
     qsizetype placeOfGrouping() const
     {
         return m_parts.order.isEmpty() ? m_sql.at(m_sql.count() - 1).end()
@@ -80,7 +80,7 @@ private:
         return found == m_tables.end() ? nullptr : &*found;
     }
 
-    // Adds those whose fields the tokens name. What a SELECT in them names, it doesn't show.
+    // Adds the tables whose fields the tokens name. A nested SELECT shows none of them, so it is skipped.
     void addSources(TextRange tokens, std::set<std::size_t> &sources) const
     {
         for (qsizetype i = tokens.begin; i < tokens.end; ++i) {
@@ -103,7 +103,7 @@ private:
         return static_cast<std::size_t>(found - m_parts.sources.begin());
     }
 
-    // A word that no table has is one of the language, or an alias in a sort.
+    // A word that is not a field of any table is a keyword, or an alias in ORDER BY.
     void addSourceOfField(qsizetype token, std::set<std::size_t> &sources) const
     {
         const QString name = m_sql.name(token);
@@ -124,7 +124,7 @@ private:
     const std::vector<AccessTable> &m_tables;
 };
 
-// The last one first, so that what is inside another is done before it.
+// The last one, so that nested ones are processed before those around them.
 qsizetype lastDistinctRow(const SqlScanner &sql)
 {
     qsizetype i = sql.count() - 1;

@@ -6,11 +6,11 @@
 
 #include <vector>
 
-// DISTINCTROW of Access: each record once, of those tables of a join that the list takes fields from.
+// Access's DISTINCTROW: each record once, of the joined tables that the SELECT list takes fields from.
 namespace ADODB::AccessDistinctRow {
 
-// The statement without DISTINCTROW. Where it matters, the rows are grouped by the records instead: with
-// several tables, of which some give no field. Throws dbErrFailed where that can't be said.
+// The statement without DISTINCTROW. If several tables are joined and some of them show no field, the rows
+// are grouped by record instead. Throws dbErrFailed if that can't be expressed.
 QString asGrouping(QString sql, const std::vector<AccessTable> &tables);
 
 } // namespace ADODB::AccessDistinctRow

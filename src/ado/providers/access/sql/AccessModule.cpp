@@ -33,8 +33,8 @@ struct Table : sqlite3_vtab
 
     File file;
     const AccessTable &table;
-    // By column. The first question about a column is answered by reading the table once, which is cheaper
-    // than an index; who asks again is likely to ask for every row of another table.
+    // By column. The first lookup in a column scans the table, which is cheaper than building an index. A
+    // second lookup probably means one for every row of another table, so it builds the index.
     std::map<int, std::unique_ptr<AccessKeyIndex>> indices;
 };
 
@@ -44,7 +44,7 @@ struct Cursor : sqlite3_vtab_cursor
 
     AccessReader reader;
     bool isAtEnd = true;
-    bool isLookup = false; // reads `found` rather than the whole table
+    bool isLookup = false; // reads `found` instead of the whole table
     std::vector<qint64> found;
     std::size_t nextFound = 0;
 };
@@ -59,7 +59,7 @@ Cursor &cursorOf(sqlite3_vtab_cursor *cursor)
     return *static_cast<Cursor *>(cursor);
 }
 
-// No exception may cross SQLite, so each becomes a result code with the words of the error.
+// Exceptions must not pass through SQLite, so they become a result code with the error's text.
 template<typename Action>
 int guarded(sqlite3_vtab *table, Action &&action)
 {
@@ -83,7 +83,7 @@ QByteArray declaration(const AccessTable &table)
     return (u"CREATE TABLE t("_s + columns.join(u',') + u')').toUtf8();
 }
 
-// The argument behind the module, the database and the name is the table's index in the file.
+// The argument after module, database and table name is the table's index in the file.
 int connect(sqlite3 *db, void *context, int, const char *const *arguments, sqlite3_vtab **answer, char **)
 {
     try {
@@ -99,7 +99,7 @@ int connect(sqlite3 *db, void *context, int, const char *const *arguments, sqlit
     }
 }
 
-// A function of its own, because a module that creates as it connects would also be a table by itself.
+// A separate function: if it were the same as xConnect, the module would also be an eponymous table.
 int create(sqlite3 *db, void *context, int count, const char *const *arguments, sqlite3_vtab **answer,
            char **message)
 {
@@ -112,14 +112,14 @@ int disconnect(sqlite3_vtab *table)
     return SQLITE_OK;
 }
 
-// Whether rows that are equal in this order have equal hashes.
+// Whether values that are equal by this collation have equal hashes.
 bool isHashed(std::string_view collation)
 {
     return collation == AccessCollation::textName || collation == AccessCollation::dateName ||
            collation == "BINARY" || collation == "NOCASE";
 }
 
-// One equality at most, as column + 1 in idxNum; which one is the database's to choose by the costs.
+// Uses at most one equality, passed as column + 1 in idxNum. SQLite chooses which, by cost.
 int bestIndex(sqlite3_vtab *base, sqlite3_index_info *info)
 {
     constexpr double lookupCost = 10;
@@ -173,7 +173,7 @@ void lookUp(Cursor &cursor, int column, const RawValue &value)
     const auto family = AccessTypes::familyOf(table.table.columns[static_cast<std::size_t>(column)].type);
     const auto hash = AccessKeyIndex::hashOf(value, family);
     if (!hash)
-        return; // SQLite converts the value and compares every row
+        return; // SQLite converts the value and compares every row itself
     const auto [index, isNew] = table.indices.try_emplace(column);
     if (isNew)
         return;
@@ -191,7 +191,7 @@ int filter(sqlite3_vtab_cursor *base, int column, const char *, int, sqlite3_val
         cursor.isLookup = false;
         if (column > 0) {
             const RawValue value = rawValue(arguments[0]);
-            if (value.kind == RawValue::Kind::Null) { // equal to nothing
+            if (value.kind == RawValue::Kind::Null) { // Null is equal to nothing
                 cursor.isAtEnd = true;
                 return;
             }
@@ -261,18 +261,18 @@ void AccessModule::install(sqlite3 *db, const std::shared_ptr<const AccessFile> 
 {
     const std::vector<AccessTable> &tables = file->tables();
     auto context = std::make_unique<File>(file);
-    // Takes the context over even where it fails.
+    // SQLite takes ownership of the context even if it fails.
     const int code = sqlite3_create_module_v2(db, moduleName, &module, context.release(), release);
     if (code != SQLITE_OK)
         throwSqliteError(db, code);
-    run(db, u"BEGIN"_s); // one transaction instead of one for each table
+    run(db, u"BEGIN"_s); // one transaction, not one per table
     for (std::size_t i = 0; i < tables.size(); ++i) {
         try {
             run(db,
                 u"CREATE VIRTUAL TABLE %1 USING access_table(%2)"_s.arg(quotedName(tables[i].name)).arg(i));
         } catch (const Error &) {
-            // A name that is SQLite's own, or damage that made two names the same: the others are still
-            // there.
+            // The name is reserved by SQLite, or damage made two names equal. The other tables can still be
+            // used.
         }
     }
     run(db, u"COMMIT"_s);

@@ -8,12 +8,12 @@ namespace ADODB {
 
 class AccessFile;
 
-// Lets SQLite read the tables of an Access file as virtual tables of its own, under their names. A
-// table whose name SQLite does not take is left out. What can't be read while a statement runs ends that
-// statement as a damaged file. Throws Error.
+// Makes the tables of an Access file available to SQLite as virtual tables with the same names. A table whose
+// name SQLite does not accept is omitted. A read error while a statement runs ends it with the error for a
+// damaged file. Throws Error.
 namespace AccessModule {
 
-// The database keeps the file open until it is closed and its last statement has ended.
+// The file stays open until the database is closed and its last statement is finalized.
 void install(sqlite3 *db, const std::shared_ptr<const AccessFile> &file);
 
 } // namespace AccessModule

@@ -27,8 +27,8 @@ QLocale localeOf(quint16 language)
     }
 }
 
-// The letters whose order is the same in bytes as in all these languages, whatever follows them: capital
-// ones made small, 0 for any other.
+// Returns the lower-case form of a letter whose byte order equals its sort order in all these languages,
+// whatever follows it; 0 for any other character.
 char plain(char c)
 {
     if (c >= 'A' && c <= 'Z')
@@ -51,8 +51,8 @@ bool isChinese(const QString &text, qsizetype at)
            QChar::Script_Han;
 }
 
-// Chinese stands behind all other letters, which some collators turn round: negative, zero or positive by
-// the first letter that differs.
+// Chinese sorts after all other scripts; some collators reverse this. Negative, zero or positive by the first
+// character that differs.
 int compareScripts(const QString &a, const QString &b)
 {
     const auto difference = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
@@ -77,7 +77,7 @@ int AccessOrder::compare(QByteArrayView a, QByteArrayView b) const
         ++i;
     if (i < shorter && plain(a[i]) != '\0' && plain(b[i]) != '\0')
         return plain(a[i]) - plain(b[i]);
-    // Texts that only a dictionary treats as equal are distinguished by their code points.
+    // Texts that are equal only to the collator are ordered by code point.
     const int byCodePoints = AccessCollation::compareTexts(a, b);
     if (i == shorter || byCodePoints == 0)
         return byCodePoints;

@@ -5,15 +5,15 @@
 
 namespace ADODB {
 
-// The order in which a file's texts are sorted: that of the language the file was made for, Chinese by its
-// pronunciation, with letters that bear marks beside those that don't. Letter case does not count.
+// The sort order of a file's texts, by the language of the file: Chinese by pronunciation, accented letters
+// next to their base letters. Case-insensitive.
 class AccessOrder
 {
 public:
-    // The Windows number of a language. Those whose letters stand in the general order have no name here.
+    // The Windows language ID. Languages that use the general sort order have no name here.
     explicit AccessOrder(quint16 language);
 
-    // Negative, zero or positive; zero only where AccessCollation::compareTexts() says so. UTF-8.
+    // Negative, zero or positive; zero only if AccessCollation::compareTexts() returns zero. UTF-8.
     int compare(QByteArrayView a, QByteArrayView b) const;
 
 private:

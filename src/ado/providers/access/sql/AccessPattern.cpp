@@ -9,7 +9,7 @@ namespace ADODB {
 
 namespace {
 
-// Letter by letter, so that a letter stays one where they are counted.
+// Folds each code point separately, so that the number of characters does not change.
 QList<uint> folded(QByteArrayView utf8)
 {
     QList<uint> letters = QString::fromUtf8(utf8).toUcs4();
@@ -64,7 +64,7 @@ AccessPattern AccessPattern::ofAccess(QByteArrayView pattern)
                 part.set.push_back({letters[from], letters[isRange ? from + 2 : from]});
                 from += isRange ? 2 : 0;
             }
-            if (!part.set.empty()) // [] is no letter at all
+            if (!part.set.empty()) // [] matches the empty text
                 result.m_parts.push_back(std::move(part));
             i = close;
         } else if (letters[i] == U'*') {
@@ -80,8 +80,8 @@ AccessPattern AccessPattern::ofAccess(QByteArrayView pattern)
     return result;
 }
 
-// Goes back to the last AnyText only, which is enough: what an earlier one could take instead, the last one
-// can too.
+// Backtracks to the last AnyText only. That is enough: whatever an earlier one could match, the last one can
+// match too.
 bool AccessPattern::matches(QByteArrayView utf8) const
 {
     const QList<uint> text = folded(utf8);

@@ -7,15 +7,15 @@
 
 namespace ADODB {
 
-// A pattern behind LIKE. Letter case does not count, in any script.
+// A pattern of LIKE. Case-insensitive in any script.
 class AccessPattern
 {
 public:
-    // As statements write it through ADO: % is any text, _ any one letter. An `escape` before one of the two
-    // takes its meaning away, 0 is none. UTF-8.
+    // ADO's syntax: % matches any text, _ any one character. After `escape`, they match themselves; 0 means
+    // no escape character. UTF-8.
     static AccessPattern ofAdo(QByteArrayView pattern, char32_t escape);
-    // As Access itself writes it, and so its saved queries: * is any text, ? any one letter, # a digit,
-    // [a-c] and [!a-c] one letter of those and one of the others.
+    // Access's own syntax, also used by its saved queries: * matches any text, ? any one character, # a
+    // digit, [a-c] one of these characters, [!a-c] one that is not.
     static AccessPattern ofAccess(QByteArrayView pattern);
 
     bool matches(QByteArrayView text) const;

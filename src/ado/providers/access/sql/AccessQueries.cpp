@@ -18,9 +18,9 @@ namespace {
 
 std::map<qint64, AccessQuery> read(const AccessFile &file)
 {
-    std::map<qint64, AccessQuery> queries; // by the number of the object
+    std::map<qint64, AccessQuery> queries; // by object number
     for (const AccessObject &object : file.objects()) {
-        // ~ begins the names of those that Access keeps for forms and reports.
+        // Names that begin with ~ are internal queries of forms and reports.
         if (object.type == AccessObject::Query && !object.name.startsWith(u'~'))
             queries[object.id].name = object.name;
     }
@@ -49,7 +49,7 @@ void run(const SqliteSession &session, const QString &sql)
     stepRow(session.prepareOwn(sql));
 }
 
-// A view is compiled only when it is used, so that one can be defined before those it reads.
+// SQLite compiles a view only when it is used, so views can be defined in any order.
 bool define(const SqliteSession &session, const AccessQuery &query, const std::vector<AccessTable> &tables)
 {
     const QString select = query.select();
@@ -83,7 +83,7 @@ QStringList AccessQueries::install(const SqliteSession &session, const AccessFil
     try {
         queries = read(file);
     } catch (const Error &) {
-        return {}; // the tables are there all the same
+        return {}; // the tables can still be used
     }
     QStringList views;
     QStringList leftOut;

@@ -7,11 +7,11 @@ namespace ADODB {
 class AccessFile;
 class SqliteSession;
 
-// The select and union queries that are saved in an Access file, offered as views.
+// The SELECT and UNION queries saved in an Access file, as views.
 namespace AccessQueries {
 
-// Leaves out what can't run here: action and crosstab queries, and those that ask for parameters or use
-// functions of the file's own. Answers their names.
+// Omits queries that can't run here: action and crosstab queries, and those with parameters or with functions
+// defined in the file. Returns the names of the omitted ones.
 QStringList install(const SqliteSession &session, const AccessFile &file);
 
 } // namespace AccessQueries

@@ -18,20 +18,20 @@ namespace {
 enum Kind : qint64 { SelectKind = 1, UnionKind = 9 };
 enum Option : qint64 {
     AllFields = 0x01,
-    Distinct = 0x02, // of a union: each record once
+    Distinct = 0x02, // of a UNION: without duplicates
     DistinctRow = 0x08,
     Top = 0x10,
     TopPercent = 0x20
 };
 enum Join : qint64 { InnerJoin = 1, LeftJoin = 2, RightJoin = 3 };
 
-// A name by which the other parts call the table.
+// The name that the other parts use for the table.
 QString aliasOf(const AccessQuery::Row &table)
 {
     return table.name2.isEmpty() ? table.name1 : table.name2;
 }
 
-// Only the parts of one attribute, in their order.
+// The parts with one attribute, in their order.
 std::vector<AccessQuery::Row> partsOf(const AccessQuery &query, AccessQuery::Attribute attribute)
 {
     std::vector<AccessQuery::Row> parts;
@@ -55,8 +55,8 @@ QString clause(QLatin1StringView words, const QStringList &parts)
     return parts.isEmpty() ? QString() : u' ' + words + u' ' + parts.join(u", "_s);
 }
 
-// The tables that every record needs stand first, joined by conditions; each of the others follows as an
-// outer join of one that is already there.
+// Builds the FROM clause: the inner-joined tables come first, then each outer-joined table, after the one it
+// is joined to.
 class Source
 {
 public:
@@ -126,8 +126,8 @@ private:
             placed.insert(alias);
         }
         m_from = needed.join(u", "_s);
-        // A condition on an added table would throw away the records that have none of it, before or after
-        // the outer join as it was nested.
+        // A condition on an outer-joined table would drop the records without a match, either before or after
+        // the join, depending on how Access nested it.
         m_isUnderstood = m_isUnderstood && (m_outer.empty() || m_conditions.isEmpty());
         while (!m_outer.empty()) {
             const auto next = std::find_if(m_outer.begin(), m_outer.end(),

@@ -7,10 +7,10 @@
 
 namespace ADODB {
 
-// A query as the file keeps it: one row for each of its parts.
+// A query as stored in the file: one row per part.
 struct AccessQuery
 {
-    // What the number in a row's Attribute means.
+    // Values of the column Attribute.
     enum Attribute : qint64 {
         KindRow = 1,
         ParameterRow = 2,
@@ -31,14 +31,14 @@ struct AccessQuery
         QString expression;
         QString name1;
         QString name2;
-        QByteArray order; // among the rows with the same attribute
+        QByteArray order; // sorts the rows with the same attribute
     };
 
     QString name;
     std::vector<Row> rows;
 
-    // The query as a statement of Access's SQL, names in brackets; empty when it is no query that only gives
-    // records, asks for parameters, or joins its tables in a way that this does not follow.
+    // The query in Access's SQL, with names in brackets. Empty if it is not a query that only returns
+    // records, if it has parameters, or if its joins are not supported.
     QString select() const;
 };
 

@@ -17,8 +17,8 @@ namespace {
 
 constexpr SQLLEN blockBytes = SQLLEN{1} << 20;
 constexpr SQLLEN mostRows = 1000;
-// What a value may be long to have a place of its own: most are, and larger places would make blocks of fewer
-// rows for everybody.
+// The longest value that gets a full-size place in the block. Most values fit, and larger places would mean
+// fewer rows per block.
 constexpr qint64 mostUnits = 256;
 constexpr qint64 mostDigits = 64;
 
@@ -41,7 +41,7 @@ SQLLEN widthOf(const OdbcColumn &column)
     if (layout.cType == SQL_C_CHAR)
         return mostDigits + layout.terminator;
     const qint64 units = column.size > 0 ? std::min(column.size, mostUnits) : mostUnits;
-    // Even, because lengths and wide characters stand in arrays of their own.
+    // Always even for wide text, because the next value in the array must be aligned.
     return layout.cType == SQL_C_WCHAR ? (units + 1) * layout.terminator : units;
 }
 
@@ -74,7 +74,7 @@ OdbcBlockReader::OdbcBlockReader(const OdbcHandle &statement, const std::vector<
     }
 }
 
-// The statement must not write into what is gone.
+// Unbinds the columns, so that the statement does not write into freed memory.
 OdbcBlockReader::~OdbcBlockReader()
 {
     SQLFreeStmt(m_statement.get(), SQL_CLOSE);
@@ -96,7 +96,7 @@ bool OdbcBlockReader::fetch(const OdbcWatch &watch)
     if (code == SQL_NO_DATA)
         return false;
     m_statement.check(code);
-    // Succeeded with remarks, which can be values that came cut or rows that could not be read.
+    // Success with warnings: truncated values, or rows that could not be read.
     if (code == SQL_SUCCESS_WITH_INFO &&
         std::find(m_states.begin(), m_states.begin() + static_cast<std::ptrdiff_t>(m_fetched),
                   SQL_ROW_ERROR) != m_states.begin() + static_cast<std::ptrdiff_t>(m_fetched))
@@ -133,7 +133,7 @@ bool OdbcBlockReader::appendLong(RowStore &rows, std::size_t row, int column)
     SQLLEN length = 0;
     m_statement.check(m_long.read(m_statement, column, form, length));
     if (length == SQL_NULL_DATA)
-        return false; // it was none a moment ago
+        return false; // it was not Null a moment ago
     m_value.append(rows, form, m_long.data(), length);
     return true;
 }

@@ -5,8 +5,8 @@
 
 namespace ADODB {
 
-// Reads blocks of rows into arrays. A value that is longer than its place in there is asked for once more by
-// itself, where the driver can do that.
+// Reads blocks of rows into arrays. A value that is too long for its place is read again individually, if the
+// driver supports that.
 class OdbcBlockReader : public OdbcReader
 {
 public:
@@ -14,7 +14,7 @@ public:
     ~OdbcBlockReader() override;
     Q_DISABLE_COPY_MOVE(OdbcBlockReader)
 
-    // Whether no value should outgrow its place, by what the columns say.
+    // Whether every value should fit in its place, judging by the column descriptions.
     static bool haveRoom(const std::vector<OdbcColumn> &columns);
 
     bool fetch(const OdbcWatch &watch) override;
@@ -24,8 +24,8 @@ private:
     struct Bound
     {
         OdbcTypes::Form form;
-        SQLLEN width;    // bytes of one place
-        SQLLEN capacity; // those that a value can fill
+        SQLLEN width;    // bytes per place
+        SQLLEN capacity; // those of them that a value can use
         std::vector<char> values;
         std::vector<SQLLEN> lengths;
     };

@@ -12,7 +12,7 @@ namespace ADODB {
 
 class OdbcConnection;
 
-// The full name of a table. Empty parts are not asked for.
+// The full name of a table. Empty parts match anything.
 struct OdbcTableName
 {
     QString catalog;
@@ -20,7 +20,7 @@ struct OdbcTableName
     QString table;
 };
 
-// Calls a function of the catalogue with the text and the length of each part of the name.
+// Calls a catalogue function with the text and the length of each part of the name.
 template<typename Function>
 SQLRETURN askFor(const OdbcTableName &name, const Function &function)
 {
@@ -30,13 +30,13 @@ SQLRETURN askFor(const OdbcTableName &name, const Function &function)
                     text(name.table), length(name.table));
 }
 
-// Asks the catalogue and calls `see` with each row's values in the wanted columns, which count from 1 and go
-// up. What the driver does not answer, it does not know.
+// Runs a catalogue query and calls `see` for each row with the values of the given columns, numbered from 1
+// in ascending order. A function that the driver does not support returns no rows.
 void forEachAnswer(const std::shared_ptr<OdbcConnection> &connection,
                    const std::function<SQLRETURN(SQLHSTMT)> &ask, const std::vector<int> &wanted,
                    const std::function<void(const QStringList &)> &see);
 
-// As the database keeps a name that is written without quotes.
+// The form in which the database stores a name that is written without quotes.
 QString storedName(const QString &name, bool quoted, SQLUSMALLINT identifierCase);
 
 } // namespace ADODB

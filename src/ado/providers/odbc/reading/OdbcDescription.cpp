@@ -10,8 +10,8 @@ namespace ADODB {
 
 namespace {
 
-// One of a driver's answers about a column. The name is always asked for, because there are drivers that fail
-// when it is not.
+// What the driver says about one column. The name is
+// always requested, because some drivers fail otherwise.
 struct Answer
 {
     std::array<char16_t, 512> name{};

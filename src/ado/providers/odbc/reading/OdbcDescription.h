@@ -9,7 +9,7 @@ namespace ADODB {
 
 class OdbcHandle;
 
-// What a prepared statement says about its columns.
+// The columns of a prepared statement.
 std::vector<FieldInfo> describeColumns(const OdbcHandle &statement);
 OdbcTypes::Declared declaredType(const OdbcHandle &statement, int column);
 

@@ -11,12 +11,12 @@ SQLRETURN OdbcLongValue::read(const OdbcHandle &statement, int column, OdbcTypes
     const OdbcLayout layout = OdbcLayout::of(form);
     std::size_t have = 0;
     for (;;) {
-        SQLLEN left = 0; // what the driver had before it gave this piece, or SQL_NO_TOTAL
+        SQLLEN left = 0; // the length that remained before this piece, or SQL_NO_TOTAL
         const std::size_t room = m_bytes.size() - have;
         const SQLRETURN code =
             SQLGetData(statement.get(), static_cast<SQLUSMALLINT>(column + 1), layout.cType,
                        m_bytes.data() + have, static_cast<SQLLEN>(room), &left);
-        if (code == SQL_NO_DATA) { // all of it had been given
+        if (code == SQL_NO_DATA) { // the value was already complete
             length = static_cast<SQLLEN>(have);
             return SQL_SUCCESS;
         }
@@ -30,7 +30,7 @@ SQLRETURN OdbcLongValue::read(const OdbcHandle &statement, int column, OdbcTypes
             length = layout.size > 0 ? layout.size : static_cast<SQLLEN>(have) + left;
             return SQL_SUCCESS;
         }
-        // A piece of wide text never ends within a character.
+        // A piece of wide text never ends in the middle of a code unit.
         have += terminator > 0 ? (room - terminator) / terminator * terminator : room;
         const std::size_t known = left == SQL_NO_TOTAL ? 0 : static_cast<std::size_t>(left) - room;
         m_bytes.resize(std::max(m_bytes.size() * 2, m_bytes.size() + known + 2 * terminator));

@@ -8,11 +8,11 @@ namespace ADODB {
 
 class OdbcHandle;
 
-// Reads single values of the row that a statement stands on, in as many pieces as they need.
+// Reads single values of a statement's current row, in as many pieces as necessary.
 class OdbcLongValue
 {
 public:
-    // Answers the length in bytes or SQL_NULL_DATA; the value then is data(). Columns count from 0.
+    // Returns the length in bytes or SQL_NULL_DATA; data() is then the value. Columns are numbered from 0.
     SQLRETURN read(const OdbcHandle &statement, int column, OdbcTypes::Form form, SQLLEN &length);
     const char *data() const { return m_bytes.data(); }
 

@@ -29,7 +29,7 @@ bool isDay(const FieldInfo &field)
     return field.type == adDBDate || field.type == adDBTimeStamp;
 }
 
-// The size of a number or a date says how many bytes it takes, not how long it is as a text.
+// For a number or a date, the size in bytes does not tell how long it is as text.
 OdbcColumn columnOf(const FieldInfo &field, bool loose)
 {
     constexpr qint64 longestAsText = 60;
@@ -38,7 +38,7 @@ OdbcColumn columnOf(const FieldInfo &field, bool loose)
     return {form, isSized ? field.definedSize : longestAsText};
 }
 
-// False when the rows have to be read again, value by value.
+// Returns false if the rows must be read again, value by value.
 bool appendAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch)
 {
     while (reader.fetch(watch)) {
@@ -55,7 +55,7 @@ OdbcQuery::OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const Od
                      const QString &sql, int timeout)
     : m_connection(connection), m_engine(engine), m_statement(std::make_unique<OdbcHandle>(connection))
 {
-    // A comment behind the semicolon is another statement to some drivers.
+    // Some drivers take a comment after the semicolon as another statement.
     m_text = SqlScanner(sql, m_engine.dialect, m_engine.quoting).withoutSemicolon();
     prepare(timeout);
     m_fields = describeColumns(*m_statement);
@@ -69,7 +69,7 @@ OdbcQuery::OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const Od
 
 OdbcQuery::~OdbcQuery() = default;
 
-// Also asks for the columns: there are drivers that prepare only when they have to.
+// Also requests the columns, because some drivers prepare a statement only when they have to.
 void OdbcQuery::prepare(int timeout)
 {
     m_statement->check(OdbcWatch(*m_statement, timeout).run([this] {
@@ -87,8 +87,8 @@ int OdbcQuery::parameters() const
     return count;
 }
 
-// The server's own texts hold what the driver can't, and what it would silently make another date of. The
-// order of the rows stays, because nothing around the statement asks for another.
+// Has the server return such dates as text, because the driver would silently replace those that it can't
+// represent. The order of the rows is kept, as the outer statement has no ORDER BY.
 void OdbcQuery::askForDatesAsText()
 {
     QStringList names;
@@ -123,7 +123,7 @@ void OdbcQuery::read(RowStore &rows, int timeout)
     }
     if (!done) {
         rows.clear();
-        // SQLite's driver would go on where it was.
+        // SQLite's driver would otherwise continue where it stopped.
         m_statement->prepare(m_text);
         OdbcValueReader reader(*m_statement, m_columns);
         readAll(reader, rows, watch);
@@ -135,13 +135,13 @@ bool OdbcQuery::readAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &wat
 {
     SQLHSTMT const statement = m_statement->get();
     const SQLRETURN code = watch.run([statement] { return SQLExecute(statement); });
-    if (code == SQL_NO_DATA) // a change that found no row and so returns none
+    if (code == SQL_NO_DATA) // a change that matched no row and therefore returned none
         return true;
     m_statement->check(code);
     return appendAll(reader, rows, watch);
 }
 
-// The first portion comes with the answer that the cursor is there.
+// The first portion arrives with the confirmation that the cursor is open.
 bool OdbcQuery::readPortions(RowStore &rows, int timeout) const
 {
     static std::atomic<quint64> cursors = 0;

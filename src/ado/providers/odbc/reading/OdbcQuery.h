@@ -11,26 +11,26 @@ class OdbcConnection;
 class OdbcHandle;
 struct OdbcEngine;
 
-// A prepared statement that gives rows, read so that every value comes whole and as the server means it.
+// A prepared statement that returns rows. Every value is read completely and as the server means it.
 class OdbcQuery
 {
 public:
-    // `timeout` is how many seconds a call may take, 0 for ever.
+    // `timeout` is the limit per call in seconds, 0 for no limit.
     OdbcQuery(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine, const QString &sql,
               int timeout);
     ~OdbcQuery();
     Q_DISABLE_COPY_MOVE(OdbcQuery)
 
-    // What the driver says about the columns of the text that was given. None when it gives no rows.
+    // The columns of the given statement, as the driver describes them. Empty if it returns no rows.
     const std::vector<FieldInfo> &fields() const { return m_fields; }
     const std::vector<OdbcTypes::Declared> &types() const { return m_types; }
     int parameters() const;
     // For binding parameters.
     const OdbcHandle &handle() const { return *m_statement; }
 
-    // Runs it and appends all rows. See OdbcWatch for the errors.
+    // Runs the statement and appends all rows. For the errors, see OdbcWatch.
     void read(RowStore &rows, int timeout);
-    // The same for many rows. A cursor in the server ends with the OdbcReading around it.
+    // The same for large results. A server-side cursor ends with the OdbcReading around it.
     void readResult(RowStore &rows, int timeout);
 
 private:
@@ -41,7 +41,7 @@ private:
 
     std::shared_ptr<OdbcConnection> m_connection;
     const OdbcEngine &m_engine;
-    QString m_text; // as it is prepared
+    QString m_text; // as it was prepared
     std::unique_ptr<OdbcHandle> m_statement;
     std::vector<FieldInfo> m_fields;
     std::vector<OdbcTypes::Declared> m_types;

@@ -9,22 +9,22 @@ namespace ADODB {
 class OdbcHandle;
 class OdbcWatch;
 
-// One column as it is to be read.
+// How to read one column.
 struct OdbcColumn
 {
     OdbcTypes::Form form = OdbcTypes::Form::Text;
-    qint64 size = 0; // characters or bytes; 0 where that has no limit or none is known
+    qint64 size = 0; // characters or bytes; 0 if unlimited or unknown
 };
 
-// Takes the rows of an executed statement over, some at a time. The statement must live as long.
+// Reads the rows of an executed statement, some at a time. The statement must outlive it.
 class OdbcReader
 {
 public:
     virtual ~OdbcReader();
-    // Waits for the server. False when there is no further row.
+    // Waits for the server. Returns false if there is no further row.
     virtual bool fetch(const OdbcWatch &watch) = 0;
-    // Appends the rows that fetch() got. False when a value came cut and can't be had whole any more; the
-    // rows are without meaning then.
+    // Appends the rows that fetch() read. Returns false if a value was truncated and can't be read again;
+    // `rows` is then invalid.
     virtual bool append(RowStore &rows) = 0;
 };
 

@@ -40,7 +40,7 @@ void end(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &en
     try {
         OdbcHandle(connection).execute(engine.endReading);
     } catch (const Error &) {
-        // Only a connection that is gone fails here, and the next statement tells that.
+        // This fails only if the connection is gone, and the next statement reports that.
         connection->setLost();
     }
 }

@@ -9,26 +9,26 @@ namespace ADODB {
 class OdbcConnection;
 struct OdbcEngine;
 
-// For as long as it lives, nothing that runs on a connection can change data, as far as the engine knows how
-// to keep it from that. They can be nested.
+// While it exists, nothing that runs on the connection can change data, as far as the engine can prevent it.
+// Can be nested.
 class OdbcReading
 {
 public:
-    // Whether the server is to fail after a moment, rather than wait, where somebody else's lock is in the
-    // way; only engines that can't be stopped in each such wait.
+    // Whether the server fails after a moment instead of waiting for somebody else's lock. Only for engines
+    // whose waits can't all be cancelled.
     enum class Locks { Wait, FailSoon };
     OdbcReading(std::shared_ptr<OdbcConnection> connection, const OdbcEngine &engine,
                 Locks locks = Locks::Wait);
     ~OdbcReading();
     Q_DISABLE_COPY_MOVE(OdbcReading)
 
-    // Has the connection go on reading only when this ends, for the next OdbcReading with FailSoon, which
-    // then needs not ask the server. Everybody else must call endKept() before.
+    // Keeps the read transaction open after this object's end. The next OdbcReading with FailSoon then
+    // continues it without a round trip. All other users of the connection must call endKept() first.
     void keep() { m_isKept = true; }
     static void endKept(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine);
 
-    // Lets a connection on which a statement failed read on, and wait for locks: until then an engine may
-    // refuse all others. False when something else reads on it as well, which this would end.
+    // After an error, an engine may reject all further statements in the transaction. This starts a new one
+    // that waits for locks. Returns false if another OdbcReading uses the connection, as that would end too.
     static bool renew(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine);
 
 private:

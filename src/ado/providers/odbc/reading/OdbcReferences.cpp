@@ -11,7 +11,7 @@ namespace {
 std::optional<TableColumn> referenceIn(const std::shared_ptr<OdbcConnection> &connection,
                                        const OdbcEngine &engine, const TableColumn &column)
 {
-    // What these call a schema is a catalogue to ODBC.
+    // What these engines call a schema is a catalogue in ODBC.
     const bool hasCatalogues =
         engine.kind == OdbcEngine::Kind::MySql || engine.kind == OdbcEngine::Kind::MariaDb;
     const OdbcTableName name{.catalog = hasCatalogues ? column.schema : QString(),
@@ -41,7 +41,7 @@ std::optional<TableColumn> odbcReference(const std::shared_ptr<OdbcConnection> &
 {
     if (auto found = referenceIn(connection, engine, column))
         return found;
-    // A name from a statement, where the driver doesn't tell which column a value comes from.
+    // The name is from the statement if the driver doesn't report which column a value comes from.
     const SQLUSMALLINT identifierCase = connection->shortNumber(SQL_IDENTIFIER_CASE);
     const TableColumn stored{storedName(column.schema, false, identifierCase),
                              storedName(column.table, false, identifierCase), column.column};

@@ -10,8 +10,8 @@ namespace ADODB {
 class OdbcConnection;
 struct OdbcEngine;
 
-// See Session::reference. Asks ODBC's own catalogue, so it is the same for all engines; nothing where the
-// driver has no such answer.
+// See Session::reference. Uses ODBC's own catalogue functions, so it is the same for all engines. Empty if
+// the driver does not support them.
 std::optional<TableColumn> odbcReference(const std::shared_ptr<OdbcConnection> &connection,
                                          const OdbcEngine &engine, const TableColumn &column);
 

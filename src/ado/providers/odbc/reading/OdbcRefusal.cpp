@@ -27,15 +27,15 @@ bool isOneOf(const SqlScanner &statement, qsizetype index, std::initializer_list
                        [&](QStringView word) { return statement.isWord(index, word); });
 }
 
-// Not MERGE JOIN, a way of joining.
+// Excludes MERGE JOIN, which is a join method.
 bool isMerge(const SqlScanner &statement, qsizetype index)
 {
     return statement.isWord(index, u"MERGE") && statement.isName(index + 1) &&
            !isOneOf(statement, index + 1, {u"JOIN", u"UNION"});
 }
 
-// DELETE FROM … as the main statement behind a WITH list or within one. Words that follow anything but a
-// parenthesis can be names.
+// Finds DELETE FROM … as the main statement after a WITH list or within one. A word that does not follow a
+// parenthesis can be a name.
 bool isChange(const SqlScanner &statement, qsizetype index)
 {
     return (isMerge(statement, index) || isOneOf(statement, index, {u"INSERT", u"UPDATE", u"DELETE"})) &&
@@ -43,7 +43,7 @@ bool isChange(const SqlScanner &statement, qsizetype index)
            statement.isName(index + 1);
 }
 
-// SELECT … INTO makes a table, or a file on the server. Written behind a dot INTO is a column's name.
+// SELECT … INTO creates a table, or a file on the server. After a dot, INTO is a column name.
 bool isInto(const SqlScanner &statement, qsizetype index)
 {
     return statement.isWord(index, u"INTO") && !statement.isSymbol(index - 1, u'.');
@@ -74,8 +74,8 @@ bool beginsStatement(const SqlScanner &statement, qsizetype index)
            });
 }
 
-// EXPLAIN ("analyze") …: PostgreSQL takes its options in quotes as well, and so written that only it can tell
-// which they are. In parentheses can also be the query itself.
+// EXPLAIN ("analyze") …: PostgreSQL also accepts quoted options, and only PostgreSQL can decode all ways of
+// quoting. The query itself can be in parentheses too.
 bool hasQuotedOption(const SqlScanner &statement, qsizetype explain)
 {
     if (!statement.isWord(explain, u"EXPLAIN") || !statement.isSymbol(explain + 1, u'(') ||
@@ -106,7 +106,7 @@ bool reads(const SqlScanner &statement, qsizetype first)
     return true;
 }
 
-// Behind the parentheses that it begins with.
+// The first word after any opening parentheses.
 qsizetype firstWord(const SqlScanner &statement)
 {
     qsizetype first = 0;

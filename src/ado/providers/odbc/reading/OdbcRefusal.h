@@ -8,13 +8,13 @@ namespace ADODB {
 
 using KOVAVSFDataGridLib::SqlScanner;
 
-// Throws unless the text is one statement that reads: drivers run whatever they are given, several statements
-// too, and not all of them can tell before they have. It looks at words only, so it lets wrong statements
-// pass but, of those an engine takes, none that changes data by itself; it can't see what a function does.
+// Throws unless the text is a single statement that reads. Drivers run anything they are given, even several
+// statements, and some can't classify it before. Only words are checked: invalid statements may pass, but no
+// statement that an engine accepts and that changes data itself. Effects of functions are not seen.
 void refuseUnlessQuery(const SqlScanner &statement);
 
-// Whether it is a query in the narrower sense, which can be explained, and not SHOW or EXPLAIN itself. For
-// what was not refused.
+// Whether it is a query proper, which can be explained, and not SHOW or EXPLAIN itself. Only for statements
+// that refuseUnlessQuery() accepted.
 bool isExplainable(const SqlScanner &statement);
 
 } // namespace ADODB

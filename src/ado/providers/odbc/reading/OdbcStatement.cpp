@@ -22,8 +22,8 @@ using KOVAVSFDataGridLib::SimpleSelect;
 
 namespace {
 
-// Waits for the tables of a statement in a call that can be stopped, where preparing the statement can't be.
-// From then on they are this transaction's.
+// Waits for the statement's tables in a call that can be cancelled, if preparing the statement can't be. The
+// transaction holds their locks from then on.
 void waitForTables(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
                    const SqlScanner &statement, int timeout)
 {
@@ -33,12 +33,12 @@ void waitForTables(const std::shared_ptr<OdbcConnection> &connection, const Odbc
     handle.prepare(engine.explain + statement.withoutSemicolon());
     SQLSMALLINT parameters = 0;
     handle.check(SQLNumParams(handle.get(), &parameters));
-    if (parameters > 0) // which nobody gives; reported later
+    if (parameters > 0) // never given; reported later
         return;
     handle.check(OdbcWatch(handle, timeout).run([&handle] { return SQLExecute(handle.get()); }));
 }
 
-// The server gave up a wait for somebody else's lock.
+// Whether the server gave up waiting for somebody else's lock.
 bool isLockTimeout(const Error &error)
 {
     return error.SQLState() == "55P03"_L1;
@@ -72,8 +72,8 @@ OdbcStatement::~OdbcStatement()
     release();
 }
 
-// What waits for a lock can't be stopped at every step, so at first it doesn't. Where that fails, the locks
-// are waited for at a step that can be.
+// Not every wait for a lock can be cancelled, so the first attempt does not wait. If it fails, this waits in
+// a call that can be cancelled.
 bool OdbcStatement::waitForLocks(const Error &error, const QString &sql, int timeout)
 {
     const OdbcEngine &engine = m_session->engine();
@@ -113,8 +113,8 @@ void OdbcStatement::rememberTable(const SqlScanner &scanner)
         m_connection->tableFields()[select.tableText] = OdbcTableFields::of(m_query->handle(), m_fields);
 }
 
-// Where the table is known already, the statement with the hidden key is prepared at once. Empty when it is
-// not, or turns out to be another one.
+// If the table is already known, prepares the statement with the hidden key at once. Returns an empty text if
+// it is not known or has changed.
 QString OdbcStatement::prepareLikely(const SqlScanner &scanner, int timeout)
 {
     std::size_t shown = 0;
@@ -141,7 +141,7 @@ void OdbcStatement::prepareWriter(const SqlScanner &scanner, const QString &prep
 {
     OdbcTarget target = OdbcTarget::find(m_connection, m_session->engine(), scanner, m_fields);
     m_whyReadOnly = target.whyReadOnly;
-    // The statement that also gives the hidden key takes the place of the user's.
+    // The statement with the hidden key columns replaces the user's.
     const QString statement = m_whyReadOnly.isEmpty() ? target.statement : QString();
     if (statement != prepared)
         m_query = std::make_unique<OdbcQuery>(m_connection, m_session->engine(),
@@ -178,7 +178,7 @@ std::unique_ptr<OdbcRowWriter> OdbcStatement::releaseWriter()
     return std::move(m_writer);
 }
 
-// A transaction that may have been begun anew waits for locks.
+// A transaction that may have been restarted waits for locks.
 void OdbcStatement::release(bool isKept)
 {
     m_query.reset();

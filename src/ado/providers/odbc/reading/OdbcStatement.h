@@ -17,7 +17,7 @@ class Error;
 class OdbcQuery;
 class OdbcRowWriter;
 
-// A statement while it lives on a server. All of it may wait for the server.
+// A statement on a server. All its functions can wait for the server.
 class OdbcStatement
 {
 public:
@@ -28,23 +28,23 @@ public:
     const std::vector<FieldInfo> &fields() const { return m_fields; }
     int columns() const { return m_columns; }
     void fetch(RowStore &rows);
-    // Ends what the server holds. `isKept`: leaves the transaction to the next statement, if it can; see
-    // OdbcReading::keep.
+    // Frees the server's resources. If `isKept`, leaves the transaction open for the next statement, if
+    // possible; see OdbcReading::keep.
     void release(bool isKept = false);
     std::unique_ptr<OdbcRowWriter> releaseWriter();
     QString whyReadOnly() const { return m_whyReadOnly; }
 
 private:
     void prepare(const SqlScanner &scanner, Access access, int timeout);
-    // What the query that was just prepared says about all columns of a table.
+    // Remembers the columns of a table that the query just prepared has all columns of.
     void rememberTable(const SqlScanner &scanner);
     QString prepareLikely(const SqlScanner &scanner, int timeout);
-    // `prepared` is the statement that m_query is for, empty when that is the user's.
+    // `prepared` is the statement of m_query, or empty if that is the user's.
     void prepareWriter(const SqlScanner &scanner, const QString &prepared, int timeout);
     bool waitForLocks(const Error &error, const QString &sql, int timeout);
 
     std::shared_ptr<OdbcSession> m_session;
-    // Until all has been read; the session can be closed meanwhile.
+    // Until everything is read; the session can be closed meanwhile.
     std::shared_ptr<OdbcConnection> m_connection;
     std::optional<OdbcReading> m_reading;
     std::unique_ptr<OdbcQuery> m_query;

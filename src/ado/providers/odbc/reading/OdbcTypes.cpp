@@ -14,8 +14,8 @@ struct Rule
     int sqlType;
     DataTypeEnum type;
     DataTypeEnum unsignedType;
-    qint32 bytes;     // 0 when the size is the declared one
-    qint32 precision; // 0 likewise
+    qint32 bytes;     // 0 if the size is the declared one
+    qint32 precision; // see above
 };
 
 // The numbers below are SQL Server's own types.
@@ -61,7 +61,7 @@ constexpr Rule rules[] = {
 
 constexpr Rule money{SQL_FLOAT, adCurrency, adCurrency, 8, 19};
 
-// Intervals and whatever else a driver has can be read as text.
+// Intervals and any other types of a driver are read as text.
 constexpr Rule asText{0, adVarChar, adVarChar, 0, 0};
 
 const Rule &ruleOf(int sqlType)
@@ -87,7 +87,7 @@ bool isZonedType(int sqlType, const QString &name)
 void apply(FieldInfo &field, const Declared &declared)
 {
     const Rule &rule = declared.isMoney ? money : ruleOf(declared.sqlType);
-    // A driver calls texts unsigned as well, which means nothing there.
+    // Some drivers report texts as unsigned too, where it means nothing.
     field.type = declared.isUnsigned ? rule.unsignedType : rule.type;
     const auto size =
         static_cast<qint32>(std::clamp<qint64>(declared.size, 0, std::numeric_limits<qint32>::max()));
@@ -122,7 +122,7 @@ Form formOf(DataTypeEnum type, bool loose)
         return loose ? Form::Approximate : Form::Real;
     case adBoolean:
         return loose ? Form::Whole : Form::Boolean;
-    case adNumeric: // of which a binary form would not hold all
+    case adNumeric: // binary forms could lose digits
     case adDBDate:
     case adDBTime:
     case adDBTimeStamp:

@@ -9,34 +9,34 @@ namespace ADODB::OdbcTypes {
 struct Declared
 {
     int sqlType = 0;
-    qint64 size = 0; // characters, bytes or digits; 0 where it has no limit or none is known
+    qint64 size = 0; // characters, bytes or digits; 0 if unlimited or unknown
     int scale = 0;
     bool isUnsigned = false;
-    bool isZoned = false; // moments with a time zone
-    bool isMoney = false; // the driver passes off money as a float
+    bool isZoned = false; // timestamps with a time zone
+    bool isMoney = false; // the driver reports money as a float
 };
 
-// Whether a column of this type, as the driver calls it, keeps the time zone of a moment.
+// Whether a column of this type (by the driver's name for it) stores a timestamp with its time zone.
 bool isZonedType(int sqlType, const QString &name);
 
-// Sets type, size, precision, scale and what goes with the type among the attributes.
+// Sets type, size, precision, scale and the attributes that depend on the type.
 void apply(FieldInfo &field, const Declared &declared);
 
-// How a column's values are asked for.
+// In which form the values of a column are requested.
 enum class Form {
     Integer,
     Unsigned, // can be too large for an integer, and then becomes text
     Real,
     Boolean,
-    Digits, // the text of a number or a date, which is plain ASCII
+    Digits, // the text of a number or a date, ASCII only
     Guid,
-    Whole,       // text that becomes an integer where it is one
-    Approximate, // likewise a floating point number
+    Whole,       // text; becomes an integer if it is one
+    Approximate, // text; becomes a floating point number if it is one
     Text,
     Bytes
 };
 
-// With `loose` a column can hold values of any type, which may not be forced into its own.
+// With `loose`, a column can contain values of any type, which must not be converted to its declared type.
 Form formOf(DataTypeEnum type, bool loose);
 
 } // namespace ADODB::OdbcTypes

@@ -18,7 +18,7 @@ T numberAt(const char *at)
     return value;
 }
 
-// Only a text that says nothing but the number becomes one.
+// A text becomes a number only if it contains nothing else.
 void appendWhole(RowStore &rows, QByteArrayView text)
 {
     qint64 number = 0;

@@ -9,17 +9,17 @@
 
 namespace ADODB {
 
-// How values of a form come from a driver.
+// How a driver returns values of a form.
 struct OdbcLayout
 {
     SQLSMALLINT cType;
-    SQLLEN size;       // of a value in bytes; 0 when values have no fixed size
-    SQLLEN terminator; // bytes of the zero that a driver puts behind a text
+    SQLLEN size;       // of a value in bytes; 0 if the size varies
+    SQLLEN terminator; // bytes of the terminating zero of a text
 
     static OdbcLayout of(OdbcTypes::Form form);
 };
 
-// Takes values as a driver gives them over into rows.
+// Converts values from a driver and appends them to rows.
 class OdbcValue
 {
 public:

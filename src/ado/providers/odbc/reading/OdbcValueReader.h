@@ -5,7 +5,7 @@
 
 namespace ADODB {
 
-// Reads value by value from left to right, which every driver can do whatever the values are.
+// Reads value by value from left to right, which every driver supports for all values.
 class OdbcValueReader : public OdbcReader
 {
 public:
@@ -22,7 +22,7 @@ private:
     std::vector<OdbcColumn> m_columns;
     OdbcLongValue m_long;
     OdbcValue m_value;
-    RowStore m_part; // read by the thread that waits for the server
+    RowStore m_part; // filled by the thread that waits for the server
 };
 
 } // namespace ADODB

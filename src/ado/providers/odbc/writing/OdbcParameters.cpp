@@ -42,7 +42,7 @@ void OdbcParameters::bind(const RawValue &value, const OdbcTypes::Declared &type
         address = parameter.bytes.data();
         break;
     }
-    // Of a moment that it binds as one, a driver drops the zone.
+    // A driver drops the time zone of a value that is bound as a timestamp.
     const bool isZoned = type.sqlType == SQL_TYPE_TIMESTAMP && value.kind == RawValue::Kind::Text &&
                          DateText::isZonedMoment(value.bytes);
     const int sqlType = isZoned ? SQL_VARCHAR : type.sqlType;

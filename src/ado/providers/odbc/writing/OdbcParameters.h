@@ -13,13 +13,13 @@ namespace ADODB {
 
 class OdbcHandle;
 
-// The values for the parameters of one statement, from left to right. Must live until it has been run.
+// The parameter values of one statement, bound from left to right. Must live until the statement has run.
 class OdbcParameters
 {
 public:
     explicit OdbcParameters(const OdbcHandle &statement) : m_statement(statement) {}
 
-    // `type` is that of the column which the value is for or compared with. The bytes are copied.
+    // `type` is the type of the column that the value is written to or compared with. Copies the bytes.
     void bind(const RawValue &value, const OdbcTypes::Declared &type);
 
 private:
@@ -36,7 +36,7 @@ private:
     std::vector<std::unique_ptr<Parameter>> m_parameters;
 };
 
-// One of Null, qlonglong, double, QString, QByteArray. `utf8` keeps what the answer refers to.
+// Accepts Null, qlonglong, double, QString and QByteArray. `utf8` owns the bytes of the result.
 RawValue rawValue(const QVariant &value, QByteArray &utf8);
 
 } // namespace ADODB

@@ -28,13 +28,13 @@ QString source()
     return u"ODBC"_s;
 }
 
-// The database made other values of those that it was given, and nothing else says which row they are in.
+// The database changed the given values, and nothing else tells which row they are in.
 Error changedRowLost()
 {
     return Error(dbErrFailed, Texts::changedRowLost(), source());
 }
 
-// Keeps the values that a key is put together of.
+// Stores the values that make up a key.
 class KeyValues
 {
 public:
@@ -101,7 +101,7 @@ void OdbcRowWriter::bindChanges(OdbcParameters &parameters, const std::vector<Ch
     }
 }
 
-// Nobody can stop a change, so it has a limit of its own where the connection has none: ADO's.
+// A change can't be cancelled, so it gets ADO's time limit if the connection has none.
 int OdbcRowWriter::timeout() const
 {
     constexpr int adoCommandTimeout = 30;
@@ -109,8 +109,8 @@ int OdbcRowWriter::timeout() const
     return limit > 0 ? limit : adoCommandTimeout;
 }
 
-// Where the driver can't stop a call that waits. A second later than what can be stopped, which tells the
-// limit in its own words.
+// For engines whose driver can't cancel a waiting call. One second more than the limit of calls that can be
+// cancelled, so that those report the limit in their own words.
 QString OdbcRowWriter::limitOfLocks() const
 {
     const QString &limit = m_session->engine().limitLocks;
@@ -137,7 +137,7 @@ qint64 OdbcRowWriter::change(const OdbcHandle &statement) const
             return 0;
         statement.check(code);
     } catch (const Error &error) {
-        // An answer of the server says that nothing was changed, silence does not.
+        // If the server answered with an error, nothing was changed. Without an answer, that is unknown.
         const bool isSilence = statement.connection()->isLost() || error.SQLState().startsWith("HYT"_L1);
         if (m_target.hasTransactions || !isSilence)
             throw;
@@ -289,7 +289,7 @@ void OdbcRowWriter::insertRow(const std::vector<Change> &changes, const QString 
     else
         insertAndFindKey(insertion, changes, key);
     onceWritten([&] {
-        // A trigger or a rule can have put the row elsewhere.
+        // A trigger or a rule can have moved the row.
         RowComparison::needOneChange(key.rows(), source());
         readRows(key.row(0), Lock::None, stored);
         if (stored.rows() == 0)
@@ -317,7 +317,7 @@ void OdbcRowWriter::update(const std::vector<RawValue> &row, const std::vector<C
     transaction.commit();
 }
 
-// The key as the database made it of the values, so that the row is found under it.
+// Returns the key as the database stored it, so that the row can be found by it.
 void OdbcRowWriter::updateAndReturn(const QString &sql, const std::vector<Change> &changes, const Key &before,
                                     RowStore &stored) const
 {
@@ -345,7 +345,7 @@ void OdbcRowWriter::updateAndFind(const QString &sql, const std::vector<Change> 
             after[i] = kept.keep(i, change->value);
     }
     const qint64 changed = changeRow(sql, changes, row, before);
-    // MariaDB and MySQL do not count a row that already is what it would become, by rounding for example.
+    // MariaDB and MySQL do not count a row that already has the new values, for example after rounding.
     const bool isSame = changed == 0 && m_session->engine().dialect == SqlDialect::MySql;
     if (!isSame)
         RowComparison::needOneChange(changed, source());
@@ -375,8 +375,8 @@ void OdbcRowWriter::remove(const std::vector<RawValue> &row)
     transaction.commit();
 }
 
-// MariaDB's engine for tables that are spread over other servers deletes a row and counts none. The row was
-// there alone in this transaction.
+// MariaDB's engine for tables distributed over other servers deletes a row but counts none. The row existed
+// earlier in this transaction, so it is checked again.
 bool OdbcRowWriter::isGoneUncounted(const Key &key, int columns) const
 {
     if (m_session->engine().dialect != SqlDialect::MySql || !m_target.hasTransactions)

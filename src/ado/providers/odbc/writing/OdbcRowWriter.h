@@ -13,16 +13,16 @@ class OdbcSession;
 class OdbcRowWriter : public RowWriter
 {
 public:
-    // `types` are those of all columns, hidden ones too.
+    // `types` are those of all columns, including hidden ones.
     OdbcRowWriter(std::shared_ptr<OdbcSession> session, OdbcTarget target,
                   std::vector<OdbcTypes::Declared> types);
 
     bool isWritable(int column) const override;
     bool keepsZones(int column) const override;
-    // Drivers take it for the end of a text: when they write it, or when they give it back.
+    // Drivers treat it as the end of the text, either when writing or when reading.
     bool keepsNulCharacters() const override { return false; }
     bool hasTransactions() const { return m_target.hasTransactions; }
-    // Seconds to wait for a row that somebody else is changing.
+    // The seconds to wait for a row that somebody else is changing.
     int timeout() const;
     void insert(const std::vector<Change> &changes, RowStore &stored) override;
     void insertAgain(const std::vector<Change> &changes, const std::vector<RawValue> &before,
@@ -40,36 +40,36 @@ private:
     void bind(OdbcParameters &parameters, int column, const RawValue &value) const;
     void bindKey(OdbcParameters &parameters, const Key &key) const;
     void bindChanges(OdbcParameters &parameters, const std::vector<Change> &changes) const;
-    // What tells the server the same at the beginning of a transaction; empty where that is not needed.
+    // Sets the same limit in the server at the start of a transaction; empty if not needed.
     QString limitOfLocks() const;
     Key keyOf(const std::vector<RawValue> &row) const;
-    // How many rows the statement changed.
+    // Runs the statement and returns how many rows it changed.
     qint64 change(const OdbcHandle &statement) const;
-    // All rows with that key.
+    // Reads all rows with that key.
     enum class Lock { None, Row };
     void readRows(const Key &key, Lock lock, RowStore &rows) const;
-    // Throws unless the row is there and is what was shown; locks it where the engine can.
+    // Throws unless the row exists and is unchanged since it was shown. Locks it if the engine can.
     void needRowAsShown(const std::vector<RawValue> &row, const Key &key, RowStore &found) const;
-    // By which a statement that changes the row finds it, and its parameters.
+    // The condition by which a statement that changes the row finds it, and its parameters.
     QString condition(const Key &key) const;
     void bindCondition(OdbcParameters &parameters, const std::vector<RawValue> &row, const Key &key) const;
-    // Runs a statement with a condition on `row` that changes it.
+    // Runs a statement that changes `row`, with a condition on it.
     qint64 changeRow(const QString &sql, const std::vector<Change> &changes, const std::vector<RawValue> &row,
                      const Key &key) const;
-    // Whether a row that was there, and that a deletion did not count, is gone.
+    // Whether a row that existed is gone, although the DELETE did not count it.
     bool isGoneUncounted(const Key &key, int columns) const;
-    // Both run the statement with a condition on the row and read the row again: under the key that the
-    // database answers, or under the one that the changes make of it.
+    // Both run the statement with a condition on the row and read the row again: by the key that the database
+    // returns, or by the one that results from the changes.
     void updateAndReturn(const QString &sql, const std::vector<Change> &changes, const Key &before,
                          RowStore &stored) const;
     void updateAndFind(const QString &sql, const std::vector<Change> &changes,
                        const std::vector<RawValue> &row, const RowStore &found, RowStore &stored) const;
-    // What fails after a table without transactions was changed says nothing about the change.
+    // A failure after a write to a table without transactions does not mean that the write failed.
     template<typename Action>
     void onceWritten(Action &&action) const;
-    // `override` has the engine take a key that it makes itself otherwise.
+    // `override` makes the engine accept a value for a key that it would otherwise generate.
     void insertRow(const std::vector<Change> &changes, const QString &override, RowStore &stored);
-    // Both run the statement and give the new row's key, as the database answers it or as it was given.
+    // Both run the statement and return the new row's key, as returned by the database or as it was given.
     void insertAndReturnKey(const QString &insertion, const std::vector<Change> &changes,
                             RowStore &key) const;
     void insertAndFindKey(const QString &insertion, const std::vector<Change> &changes, RowStore &key) const;

@@ -31,7 +31,7 @@ OdbcTableName fullName(const OdbcTableFields &all, const OdbcConnection &connect
     return name;
 }
 
-// For the functions that look for patterns.
+// For functions whose arguments are search patterns.
 OdbcTableName asPattern(OdbcTableName name, const OdbcConnection &connection)
 {
     const QString escape = connection.info(SQL_SEARCH_PATTERN_ESCAPE);
@@ -42,7 +42,7 @@ OdbcTableName asPattern(OdbcTableName name, const OdbcConnection &connection)
     return name;
 }
 
-// Empty when it is no table.
+// Empty if it is not a table.
 QString tableType(const std::shared_ptr<OdbcConnection> &connection, const OdbcTableName &name)
 {
     QString type;
@@ -61,7 +61,7 @@ QString tableType(const std::shared_ptr<OdbcConnection> &connection, const OdbcT
     return type;
 }
 
-// Asks MariaDB or MySQL. What is not listed has none.
+// For MariaDB and MySQL. A table that is not listed is not transactional.
 bool isTransactional(const std::shared_ptr<OdbcConnection> &connection, const OdbcTableName &name)
 {
     const OdbcHandle statement(connection);
@@ -91,7 +91,7 @@ QStringList primaryKey(const std::shared_ptr<OdbcConnection> &connection, const 
     return key;
 }
 
-// The columns of the first unique index that covers every row, which one with a Null or with a condition does
+// The columns of the first unique index that covers every row. An index with Nulls or with a condition does
 // not.
 QStringList uniqueIndex(const std::shared_ptr<OdbcConnection> &connection, const OdbcTableName &name,
                         const QStringList &neverNull)
@@ -112,7 +112,7 @@ QStringList uniqueIndex(const std::shared_ptr<OdbcConnection> &connection, const
         },
         {6, 9, 13},
         [&](const QStringList &row) {
-            if (row.at(0).isEmpty()) // about the table itself
+            if (row.at(0).isEmpty()) // a row about the table itself
                 return;
             if (indexes.empty() || indexes.back().name != row.at(0))
                 indexes.push_back({row.at(0), {}});
@@ -142,8 +142,8 @@ QStringList neverNull(const std::shared_ptr<OdbcConnection> &connection, const O
     return columns;
 }
 
-// Without fields for what can be read but not as a whole: MariaDB's DUAL, or a table of which this user may
-// see only some columns.
+// Without fields if the table can't be read as a whole: MariaDB's DUAL, or a table of which the user may see
+// only some columns.
 std::shared_ptr<const OdbcTableFields> allFields(const std::shared_ptr<OdbcConnection> &connection,
                                                  const OdbcEngine &engine, const SimpleSelect &select)
 {
@@ -195,8 +195,8 @@ OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, con
         return table;
     }
     const OdbcTableName name = fullName(*all, *connection, select);
-    // Some drivers name what is behind a view.
-    // Each question is a way to the server and back, so one that a key has answered is not asked.
+    // For a view, some drivers report its underlying table. Each query is a round trip to the server, so one
+    // whose answer follows from the key is skipped.
     table.key = primaryKey(connection, name);
     const bool isTable = engine.onlyTablesHaveKeys && !table.key.isEmpty();
     const QString type = isTable ? u"TABLE"_s : tableType(connection, name);

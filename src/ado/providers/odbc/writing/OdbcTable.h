@@ -20,33 +20,33 @@ class OdbcConnection;
 class OdbcHandle;
 struct OdbcEngine;
 
-// All columns of a table, as a statement for them was described, and the table's full name. Each way to the
-// server is a wait, so what one statement has shown is not asked for again by the next one.
+// The full name of a table, and all its columns as a statement for them described them. It is cached because
+// each query to the server costs a round trip.
 struct OdbcTableFields
 {
-    std::vector<FieldInfo> fields; // empty for what can't be read as a whole
+    std::vector<FieldInfo> fields; // empty if the table can't be read as a whole
     QString catalog;
     QString schema;
     std::chrono::steady_clock::time_point seen;
 
     static std::shared_ptr<const OdbcTableFields> of(const OdbcHandle &described,
                                                      const std::vector<FieldInfo> &fields);
-    // What the session has seen a moment ago; null when it hasn't. Somebody may alter the table later.
+    // From the session's cache, if it is recent; otherwise null. Others may alter the table later.
     static std::shared_ptr<const OdbcTableFields> seenLately(OdbcConnection &connection,
                                                              const SimpleSelect &select);
 };
 
-// What the database's catalogue says about the table of a statement.
+// The catalogue's data for the table of a statement.
 struct OdbcTable
 {
-    QString whyReadOnly; // what it is instead of a table; the rest is set only where this is empty
+    QString whyReadOnly; // what it is if it is not a table; the rest is set only if this is empty
     QStringList columns;
-    QStringList comparable; // those of them that can be compared with an equals sign
-    // What tells a row from all others: the primary key, else a unique index without Nulls. Empty if there is
-    // none.
+    QStringList comparable; // those columns that can be compared with =
+    // The columns that identify a row: the primary key, or else a unique index without Nulls. Empty if there
+    // is neither.
     QStringList key;
-    bool givesOrigins = false; // the driver tells which columns a statement's values come from
-    bool isOrdinary = false;   // a table of the engine's own, kept where it keeps tables
+    bool givesOrigins = false; // whether the driver tells which columns a statement's values come from
+    bool isOrdinary = false;   // an ordinary table, not for example a foreign one
     bool hasTransactions = true;
 
     static OdbcTable find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,

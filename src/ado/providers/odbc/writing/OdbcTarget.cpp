@@ -19,7 +19,7 @@ using KOVAVSFDataGridLib::SimpleSelect;
 
 namespace {
 
-// A column by the name that somebody wrote; empty when there is none.
+// Finds a column by its name in a statement; empty if there is none.
 QString columnNamed(const OdbcTable &table, const QString &name)
 {
     if (table.columns.contains(name))
@@ -30,9 +30,9 @@ QString columnNamed(const OdbcTable &table, const QString &name)
     return found == table.columns.end() ? QString() : *found;
 }
 
-// For each field the column it shows, empty for a computed one. The driver has to agree where it knows: what
-// looks like a column's name can be a string to the database, or a value that a subquery picked. Nothing at
-// all when the list can't be counted.
+// For each field, the column it shows; empty for a computed one. If the driver reports origins, they must
+// agree: what looks like a column name can be a string to the database, or a value that a subquery selected.
+// An empty list if the items can't be counted.
 QStringList shownColumns(const SimpleSelect &select, const OdbcTable &table,
                          const std::vector<FieldInfo> &fields)
 {
@@ -49,7 +49,7 @@ QStringList shownColumns(const SimpleSelect &select, const OdbcTable &table,
     return shown;
 }
 
-// Whether a table still has the columns that it had, as far as a result tells.
+// Whether the table still has the same columns, as far as a result can tell.
 bool agrees(const OdbcTable &table, const SimpleSelect &select, const std::vector<FieldInfo> &fields)
 {
     std::size_t field = 0;
@@ -66,7 +66,7 @@ bool agrees(const OdbcTable &table, const SimpleSelect &select, const std::vecto
     return field == fields.size();
 }
 
-// Null when rows can't be written.
+// Null if its rows can't be written.
 std::shared_ptr<const OdbcTable> writableTable(const std::shared_ptr<OdbcConnection> &connection,
                                                const OdbcEngine &engine, const SimpleSelect &select)
 {
@@ -74,8 +74,8 @@ std::shared_ptr<const OdbcTable> writableTable(const std::shared_ptr<OdbcConnect
     return table.whyReadOnly.isEmpty() ? std::make_shared<const OdbcTable>(table) : nullptr;
 }
 
-// Asks the catalogue once in a session, and again where the table was changed. What can't be written is asked
-// for each time, because it may become a table.
+// Queries the catalogue once per session, and again if the table was altered. A table that can't be written
+// is queried every time, because that can change.
 OdbcTable tableOf(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
                   const SimpleSelect &select, const std::vector<FieldInfo> &fields)
 {
@@ -88,7 +88,7 @@ OdbcTable tableOf(const std::shared_ptr<OdbcConnection> &connection, const OdbcE
     return *known;
 }
 
-// An aggregate gives one row even where there is none. The database alone can tell whether there is one.
+// Whether it is an aggregate, which returns one row even if there is none. Only the database can tell.
 bool folds(const std::shared_ptr<OdbcConnection> &connection, const QString &head)
 {
     const OdbcHandle probe(connection);
@@ -96,8 +96,8 @@ bool folds(const std::shared_ptr<OdbcConnection> &connection, const QString &hea
     return probe.fetch();
 }
 
-// All columns of the result but those that need not be the same in two readings. What is computed from a row
-// whose version is known to be the same needs no look either.
+// All columns of the result except those that can differ between two reads. Computed columns are not compared
+// either if the row has a version and it is unchanged.
 std::vector<int> comparedColumns(const SimpleSelect &select, const OdbcTable &table, const QStringList &shown,
                                  int end, bool hasVersion)
 {
@@ -114,8 +114,8 @@ std::vector<int> comparedColumns(const SimpleSelect &select, const OdbcTable &ta
     return compared;
 }
 
-// To MariaDB and MySQL, the only ones with tables that need it, texts are equal when they sort alike, so they
-// are compared as bytes.
+// MariaDB and MySQL are the only engines with tables that need this. They treat texts as equal that sort
+// alike, so the texts are compared as bytes.
 QString witness(const QString &name, const FieldInfo &field)
 {
     return FieldValue::isText(field.type)
@@ -189,11 +189,11 @@ std::size_t OdbcTarget::findRow(const OdbcEngine &engine, const SqlScanner &scan
     isRealKey = !from.key.isEmpty();
     QString hidden;
     int count = static_cast<int>(fields.size());
-    // The number of a column in the result, in which it is hidden where it is not shown.
+    // The column's number in the result. Adds it as a hidden column if it is not shown.
     const auto locate = [&](const QString &name) {
         if (const qsizetype place = shown.indexOf(name); place >= 0)
             return static_cast<int>(place);
-        // Under another name, because the statement's sort can mean a field of the column's name.
+        // Under an alias, because the statement's ORDER BY can use a field with the column's name.
         hidden += u", %1.%2 AS kova_%3"_s.arg(alias, engine.quoted(name), QString::number(count));
         return count++;
     };

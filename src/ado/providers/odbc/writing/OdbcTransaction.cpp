@@ -20,8 +20,8 @@ SQLRETURN setAutocommit(const OdbcConnection &connection, std::uintptr_t mode)
     return SQLSetConnectAttrW(connection.handle(), SQL_ATTR_AUTOCOMMIT, asPointer(mode), SQL_IS_UINTEGER);
 }
 
-// What is committed is not touched by this. Autocommit would commit what could not be undone, so that
-// connection is given up.
+// Does not affect what was committed. If the rollback fails, turning autocommit on would commit the changes,
+// so the connection is not reused.
 void undo(OdbcConnection &connection)
 {
     if (!connection.isLost() && succeeded(SQLEndTran(SQL_HANDLE_DBC, connection.handle(), SQL_ROLLBACK)) &&
@@ -30,9 +30,9 @@ void undo(OdbcConnection &connection)
     connection.setLost();
 }
 
-// Whether an error of COMMIT is the server's answer that it has undone everything: a constraint that is
-// checked last, a deadlock, a lack of room. All else leaves it open what became of the changes; 40003 says
-// just that.
+// Whether an error of COMMIT means that the server has rolled back:
+// a deferred constraint, a deadlock, a lack of space. After all
+// other errors, the outcome is unknown; 40003 says exactly that.
 bool isRefusal(const QString &state)
 {
     static constexpr QLatin1StringView classes[] = {"22"_L1, "23"_L1, "25"_L1, "27"_L1, "40"_L1,

@@ -9,17 +9,17 @@ namespace ADODB {
 class OdbcConnection;
 class OdbcSession;
 
-// A command of a session that changes data; undone unless it is committed.
+// A command that changes data. It is rolled back unless it is committed.
 class OdbcTransaction
 {
 public:
-    // Runs the statement `first`, if there is one.
+    // Runs the statement `first`, unless it is empty.
     OdbcTransaction(OdbcSession &session, const QString &first);
     ~OdbcTransaction();
     Q_DISABLE_COPY_MOVE(OdbcTransaction)
 
-    // Throws what the server says when it refuses, and has then undone everything; dbErrInDoubt when there is
-    // no such answer.
+    // Throws the server's error if the server refused and rolled back; throws dbErrInDoubt if there is no
+    // such answer.
     void commit();
 
 private:
