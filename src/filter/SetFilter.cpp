@@ -87,7 +87,7 @@ SetFilter::SetFilter(QWidget *parent)
     connect(m_saved, &SavedFilterMenu::recalled, this, &SetFilter::recall);
     connect(m_rows, &FilterRows::changed, this, &SetFilter::onRowsChanged);
     connect(m_kept, &KeptConditions::changed, this, &SetFilter::onKeptChanged);
-    // A new row, or what is said below one, has its place only once the area has grown.
+    // A new row, or the message below one, can be scrolled to only after the area has grown.
     connect(m_scroll->verticalScrollBar(), &QScrollBar::rangeChanged, this, &SetFilter::showFocusedPart);
     connect(m_add, &QPushButton::clicked, this, &SetFilter::addRow);
     connect(m_groups, &QCheckBox::toggled, this, &SetFilter::onGroupsToggled);

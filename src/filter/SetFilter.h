@@ -98,7 +98,7 @@ private:
     QString sentence() const;
     void askFor(const QString &field);
     void onKeptChanged();
-    // Values that were read once are shown again without asking the database.
+    // Values that were read before are shown without querying the database.
     void offerValues(const FilterField &field, ValueEdit &edit, int most);
     void onValuesArrived();
     void stopReading();

@@ -12,7 +12,7 @@
 
 #include <algorithm>
 
-// What the builder holds, put in and taken out.
+// Saves and restores the contents of the builder.
 namespace KOVAVSFDataGridLib {
 
 BuiltFilter SetFilter::State() const
@@ -45,7 +45,7 @@ void SetFilter::PutState(const BuiltFilter &state)
     for (const QString &kept : state.kept)
         m_kept->add(kept);
     m_kept->followInTabOrder(m_saved);
-    // What is typed next takes its place.
+    // Selected, so that typing replaces it.
     m_condition->selectAll();
     m_stateBefore = State();
 }

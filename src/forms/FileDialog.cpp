@@ -90,7 +90,7 @@ void FileDialog::start()
         return;
     m_isStarted = true;
     nameParts();
-    // Qt writes its own word where a folder is chosen, and whenever there is another text.
+    // Qt sets its own text when a folder is selected and whenever the text changes.
     connect(findChild<QLineEdit *>(nameEdit), &QLineEdit::textChanged, this, &FileDialog::nameAccept);
     connect(this, &QFileDialog::currentChanged, this, &FileDialog::nameAccept);
     connect(this, &QFileDialog::directoryEntered, this, &FileDialog::nameAccept, Qt::QueuedConnection);

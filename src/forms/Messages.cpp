@@ -67,7 +67,7 @@ Box *newBox(QWidget *parent, const Message &message)
 int show(QWidget *parent, const Message &message, QMessageBox::StandardButtons buttons,
          QMessageBox::StandardButton onEscape)
 {
-    // On the heap, because the parent owns it as well: either may go first.
+    // On the heap, because the parent owns it too: either may be destroyed first.
     const QPointer<Box> box = newBox(parent, message);
     box->setStandardButtons(buttons);
     box->nameButtons();

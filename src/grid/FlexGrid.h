@@ -86,7 +86,7 @@ public:
     QStringList ColumnOrder() const;
     // The same with further columns where they would be shown.
     QStringList OrderWith(const QStringList &names) const;
-    // How many of the first columns stay in view when the others scroll.
+    // How many of the first columns are frozen: they don't scroll.
     int FrozenCols() const { return m_frozenCols; }
     // Puts columns into this order; those that it does not name stay after the one before them. An empty
     // order is that of the fields. The first `frozen` columns stay in view. Both are kept, by the headings,

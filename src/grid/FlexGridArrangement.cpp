@@ -60,7 +60,7 @@ void FlexGrid::keepOrder()
     m_frozenNames = frozen > 0 ? m_order.first(m_order.indexOf(shown.at(frozen - 1)) + 1) : QStringList();
 }
 
-// Cells without headings come and go between two results.
+// Between two results there may be cells without headings.
 void FlexGrid::applyArrangement()
 {
     const QStringList headings = Headings();

@@ -14,7 +14,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr int leastSize = 4; // pixels, so that an edge can be found again
+constexpr int leastSize = 4; // pixels, so that the edge can still be grabbed
 // Pixels at both sides of a column's heading, besides the style's own, so that a name at the right of its
 // column and the next one at the left of its own are told apart.
 constexpr int headingPadding = 2;

@@ -95,7 +95,7 @@ void PageWriter::measure()
     m_lefts.assign(1, 0);
     for (const double width : widths)
         m_lefts.push_back(m_lefts.back() + width * m_device.logicalDpiX() / pixelsPerInch * share);
-    // The title, a gap, the headings, the rows, and the number of the page.
+    // The title, a gap, the headings, the rows and the page number.
     const QFontMetricsF title(m_bold, &m_device);
     m_firstRow = title.height() * 1.8 + m_lineHeight;
     const double below = m_device.height() - m_firstRow - m_lineHeight * 1.2;

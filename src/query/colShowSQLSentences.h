@@ -169,7 +169,7 @@ public:
     // For each field of a statement that was derived from the latest entry's, what a list has for it, where
     // several of the entry's fields share a name. Nothing where names are enough or entries can't tell.
     QStringList EntriesOfEqualNames(const QString &statement) const;
-    // Marks them so. Nothing happens when these are not as many as the catalogue has.
+    // Marks the part fields. Does nothing if the number differs from that of the catalogue.
     void SetPartFields(const QList<bool> &areParts);
     // How many fields the latest entry shows. Returns false if there is no entry.
     bool GetCurrShowFieldsCount(qint32 &PassCount) const;

@@ -199,8 +199,8 @@ QStringList colShowSQLSentences::EntriesOfEqualNames(const QString &statement) c
     return derived ? all->listedFor(*derived) : QStringList();
 }
 
-// A name finds the first of the fields that share it; the list entries tell which of them are meant. Nothing
-// where names are enough or entries can't tell.
+// A name finds only the first field with that name, so the list entries are compared. Empty if the names are
+// unique or the entries can't tell.
 QList<bool> colShowSQLSentences::PartOfEqualNames(const QString &statement,
                                                   const QString &partStatement) const
 {

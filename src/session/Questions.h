@@ -118,8 +118,8 @@ struct PrintAnswer
 struct FormatRequest
 {
     QString column;
-    bool isBoolean = false; // else it holds numbers
-    QString format;         // as ADODB::DisplayFormat writes it
+    bool isBoolean = false; // otherwise it contains numbers
+    QString format;         // in the syntax of ADODB::DisplayFormat
     QString sample = {};    // one of its texts
     int decimals = 0;       // with which that is shown at least while nothing else is chosen
 };

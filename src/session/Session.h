@@ -97,8 +97,8 @@ public:
     // Why a command can't run now, as a text for the user; empty if it can.
     QString whyNot(const Command &command);
     QString whyNot(const ColumnCommand &command, int col);
-    // Runs the command of a key, whether or not its button is enabled; one that can't run ends silently. One
-    // chosen from the menu needs an open result and shows many records again where its item says so.
+    // Runs the command with this key, even if its button is disabled; ends silently if it can't run. From the
+    // menu, it needs an open result, and leaves the single-record view first if its item says so.
     void run(const QString &key, ChosenBy by = ChosenBy::Button);
     // Runs a column command on a column (from 1); ends silently if it can't run.
     void runOnColumn(const ColumnCommand &command, int col);

@@ -17,8 +17,8 @@ QString likeOperand(Engine engine, const QString &field);
 // has its mask in PostgreSQL.
 QString shownOperand(Engine engine, const QString &field);
 
-// The same for a field of 8-byte floating numbers: LIKE is to see the digits that are shown, 15 at most, of
-// which engines that cast write more.
+// The same for an 8-byte floating point field: LIKE must see the digits that are shown, at most 15, but
+// engines that cast write more.
 QString likeOperandOfDouble(Engine engine, const QString &field);
 
 // A pattern for LIKE without ESCAPE: "%" and "_" in the text are wildcards, a backslash is literal.

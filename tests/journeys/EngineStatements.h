@@ -56,7 +56,7 @@ protected:
     // Keeps the rows with the text of this row in this column. SQLite's ODBC driver writes an expression's
     // equal numbers as 9 and as 9.0.
     StatementAnswer sameText(const StatementAnswer &all, qsizetype column, const QString &text) const;
-    // How the engine's LIKE takes letters of these tables.
+    // Whether the engine's LIKE is case-sensitive for these tables.
     Qt::CaseSensitivity letters() const;
     // Whether a condition can name the column alone.
     static bool isOnlyOne(const StatementAnswer &all, qsizetype column);

@@ -27,7 +27,7 @@ protected:
         const auto columns = static_cast<int>(all.names.size());
         const auto rows = static_cast<int>(std::min<std::size_t>(all.rows.size(), 9));
         for (int column = 0; column < columns; ++column) {
-            // Every cell on one engine; the others have the same tables and take longer.
+            // Every cell on one engine only; the others have the same tables and are slower.
             const bool isFast = engine.store == JourneyEngine::SqliteFile && !engine.variable;
             const int step = isFast ? 1 : std::max(rows, 1);
             QSet<QString> seen;

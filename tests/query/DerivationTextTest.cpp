@@ -328,7 +328,7 @@ INSTANTIATE_TEST_SUITE_P(
         OpenCase{"NoListWord", Engine::PostgreSQL, u"select sql_no_cache, count(*) as n from T group by 1"_s,
                  u"sql_no_cache|n"_s,
                  "SELECT * FROM ( select sql_no_cache, count(*) as n from T group by 1 ) AS Q WHERE n = 1"},
-        // What MySQL runs of a comment: words without effect, and a condition that some versions skip.
+        // Version comments of MySQL: words without effect, and a condition that some versions skip.
         OpenCase{
             "VersionComment", Engine::MySQL,
             u"select /*!40001 sql_no_cache */ /*M!100100 high_priority */ A, B from T where C = 2"_s,

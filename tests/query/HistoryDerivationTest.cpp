@@ -102,7 +102,7 @@ TEST(HistorySort, OfTheHostIsByTheFieldThatTheWholeListMeans)
     EXPECT_EQ(part.simplified(), u"SELECT e.id FROM E e join D d on d.id = e.dept ORDER BY e.name desc"_s);
 }
 
-// TOP takes its rows before a condition, which can name the fields that were not chosen all the same.
+// TOP selects its rows before a condition, which can nevertheless use fields that were not chosen.
 TEST(HistoryDerivationOfTop, AFilterCanNameFieldsThatWereNotChosen)
 {
     ListReader reader;

@@ -71,7 +71,7 @@ public:
     {
         return {};
     }
-    // The statement that reads a whole table.
+    // The statement that reads the whole table.
     virtual QString tableStatement(const QString &table) const = 0;
     // Whether another session opened in the same way sees the same data. False if the database exists only in
     // its connection, or if this is unknown.

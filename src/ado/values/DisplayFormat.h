@@ -29,7 +29,7 @@ struct DisplayFormat
     {
         return !hasThousands && decimals < 0 && truth == Truth::Word && leastDecimals == 0;
     }
-    // A text that the format is not made for stays as it is.
+    // A text that the format does not apply to is returned unchanged.
     QString applied(const QString &text) const;
 
     bool operator==(const DisplayFormat &) const = default;

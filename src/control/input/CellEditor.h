@@ -81,7 +81,7 @@ private:
     ListedValues knownValues() const;
     ListedValues valuesOfColumn(const QString &search) const;
     std::optional<QString> commit(Written what);
-    // The same; throws ADODB::Error where the text doesn't fit.
+    // The same for a text. Throws ADODB::Error if it doesn't fit.
     void writeAndClose(Written what);
     void write(Written what);
 

@@ -78,7 +78,7 @@ private:
     GridParts &m_parts;
     PictureFields m_pictureFields;
     RecordHeading m_heading;
-    std::vector<ListedField> m_fields; // of the rows below the heading
+    std::vector<ListedField> m_fields; // for the rows below the heading
     // Those that need no value from the user, once the database was asked about this result.
     std::set<int> m_filledFields;
     std::weak_ptr<ADODB::Recordset> m_learnedOf;

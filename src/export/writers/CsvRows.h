@@ -23,11 +23,11 @@ private:
         bool isText; // see isTextType()
     };
 
-    // The most that a record takes.
+    // The maximum size of a record.
     qsizetype roomFor(const std::vector<ADODB::RawValue> &cells) const;
     // Reserves space at the end of the text; the caller must cut off what it doesn't use.
     static char *writableEnd(QByteArray &text, qsizetype room);
-    // Writes a cell and answers its end; null where it has to be written by way of its text.
+    // Writes a cell and returns its end; null if the cell must be converted to text first.
     char *write(char *to, const ADODB::RawValue &cell, const Column &column) const;
     void appendValue(QByteArray &text, QByteArrayView value, bool isText) const;
 

@@ -4,8 +4,8 @@
 
 namespace KOVAVSFDataGridLib {
 
-// Whether a spreadsheet that opens the text as a cell of a CSV file would take it for a formula: it begins
-// with "=", "+", "-", "@", one of their wide forms, a tab or a line end. Plain numbers are not formulas.
+// Whether a spreadsheet would evaluate the text in a cell of a CSV file as a formula: it begins with "=",
+// "+", "-", "@", one of their full-width forms, a tab or a line end. Plain numbers are not formulas.
 bool isFormula(QByteArrayView utf8);
 // The same, without a call for what begins like most texts.
 inline bool looksLikeFormula(QByteArrayView utf8)

@@ -12,7 +12,7 @@ namespace KOVAVSFDataGridLib {
 struct BuiltFilter
 {
     FilterState rows = {};
-    QString condition = {}; // then there are no rows
+    QString condition = {}; // if not empty, there are no rows
     QStringList kept = {};  // each as statements have it
 
     bool operator==(const BuiltFilter &) const = default;

@@ -66,8 +66,8 @@ public:
     FilterChoice choice() const;
     // Whether values are missing and none is begun.
     bool isBlank() const;
-    // Begins with a field, and with a value that the next text typed replaces; without a value the keyboard
-    // goes to the operator.
+    // Starts with a field and a value, which typing replaces. Without a value, the focus moves to the
+    // operator.
     void suggest(const QString &field, const QString &value);
     // The row's current condition, or that of all other records. Does not change what is shown.
     FilterCondition condition(bool isComplement = false) const;

@@ -35,7 +35,7 @@ public:
     bool isBlank() const;
     // Whether OR joins the complete rows.
     bool isAlternative() const;
-    // The complete rows as a sentence; empty while their brackets don't match.
+    // The complete rows as a sentence; empty if their brackets don't match.
     QString sentence() const;
 
     // Shows the rows as a tree, or with brackets. If brackets don't match, marks them instead.

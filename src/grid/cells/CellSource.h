@@ -36,7 +36,7 @@ public:
     // are shown as they are.
     virtual int decimalsOfColumn(int /*col*/) const { return 0; }
     virtual int decimals(int /*row*/, int /*col*/) const { return 0; }
-    // False when the source can't be written.
+    // Returns false if the source is read-only.
     virtual bool setText(int row, int col, const QString &text) = 0;
 };
 

@@ -16,7 +16,7 @@ struct FilteredResult
 {
     QString prefix;
     QString source;
-    QList<OfferedField> fields; // those of the result that a condition can name
+    QList<OfferedField> fields; // the fields that a condition can use
     // Of a SELECT of these rows, where a condition can name an alias in it; else "*".
     QString list = QStringLiteral("*");
 };

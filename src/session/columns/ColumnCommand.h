@@ -25,7 +25,7 @@ struct ColumnCommand
     bool (*canRun)(Session &session, int col) = nullptr;
     // Why it can't run on this column, for the user to read; empty when it can. Null when it always can.
     QString (*whyNot)(Session &session, int col) = nullptr;
-    // Whether it is in force already. Null for what never is.
+    // Whether it is already in effect. Null if that does not apply.
     bool (*isOn)(Session &session, int col) = nullptr;
 
     struct Registration

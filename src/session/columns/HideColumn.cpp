@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-// Shows the fields that are shown without one of them.
+// Shows all shown fields except one.
 
 namespace KOVAVSFDataGridLib {
 

@@ -57,8 +57,8 @@ void ColumnLayout::keepWidth(const QString &field, int width)
         fields.Update(key, [width](clsDataField &kept) { kept.FieldWidth = width; });
 }
 
-// For each heading, whether it is of a part field: by its place where all fields are shown, because several
-// can have its name.
+// For each heading, whether it is a part field: by position if all fields are shown, because several can have
+// the same name.
 QList<bool> ColumnLayout::partColumns(const QStringList &headings) const
 {
     if (headings == fieldsShownBy(FieldView::All))

@@ -42,7 +42,7 @@ public:
     void SaveColumnWidths(HiddenWidths hidden = HiddenWidths::Unsaved);
     // Keeps the width with which a field's column comes back.
     void keepWidth(const QString &field, int width);
-    // Hides what is no part field. While no column belongs to one, all of them are shown.
+    // Hides all columns but the part fields. If no column is a part field, all are shown.
     void ShowPartFieldColumns(PartWidths widths);
     // Shows all fields, with their saved widths. A column without a field keeps its width, unless it is
     // hidden, because nothing else could show it again.

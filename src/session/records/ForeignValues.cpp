@@ -23,7 +23,7 @@ namespace {
 
 constexpr qint64 mostValues = 1000;
 
-// A table that is referred to.
+// A referenced table.
 struct Referenced
 {
     QString from;          // its form after FROM

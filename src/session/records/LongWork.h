@@ -11,8 +11,8 @@ class Session;
 
 constexpr int twipsOfPixel = 15; // at 96 DPI, in which exports have their widths
 
-// Writing many records of what a session shows. It asks nothing and tells nothing; the host may do anything
-// while the progress line is up.
+// Writing many records of a session's result. Asks and reports nothing. The host may do anything while the
+// progress line is shown.
 
 // The columns of the grid (from 1) in the form for an export.
 ExportColumns exportColumnsOf(Session &session, const std::vector<int> &columns);

@@ -26,8 +26,8 @@ std::vector<ShownCondition> shownConditions(Session &session);
 // The same as they were made: parts that were built together are one.
 std::vector<ConditionInForce> conditionsInForce(Session &session);
 
-// The latest statement with another condition in the place of one of them, or without it; empty when there is
-// no such condition.
+// The latest statement with one of them replaced, or removed if `replacement` is empty. Empty if there is no
+// such condition.
 QString statementWith(Session &session, std::size_t condition, const QString &replacement);
 QString statementWithout(Session &session, std::size_t condition);
 

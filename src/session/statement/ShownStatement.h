@@ -66,7 +66,7 @@ public:
     ConditionRequest conditionRequest() const;
     // The statement with one more condition, which chosenValues has no more; false when none can be derived.
     bool addCondition(const QString &condition, QString &statement);
-    // Keeps a filter's condition for the dialogs of the process; an empty one empties SQLFilter as well.
+    // Stores a filter's condition for the dialogs of the process; an empty one clears SQLFilter too.
     void setLastFilter(const QString &condition);
     // Whether the next filter is added to this statement instead of the first one.
     bool isFromResult() const { return m_isFromResult; }

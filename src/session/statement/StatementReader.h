@@ -35,7 +35,7 @@ public:
     bool isCancelled() const { return m_isCancelled; }
     // Whether the database has refused the last statement itself, and is there to answer others.
     bool isRefused() const { return m_isRefused; }
-    // What the user is shown, unless the session's window wants it otherwise.
+    // Tells the user, unless the session's window has another way.
     void reportCancelled();
     void reportError(const QString &description);
 

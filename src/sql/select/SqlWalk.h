@@ -54,8 +54,8 @@ inline bool isFirstListWord(const SqlScanner &statement, qsizetype index)
                     u"SQL_CALC_FOUND_ROWS"});
 }
 
-// Behind the beginning of a comment that MySQL runs, on some versions only if it holds a number; else
-// `index`.
+// The index after the start of a version comment of MySQL, including its version number if it has one;
+// otherwise `index`.
 inline qsizetype afterVersionMark(const SqlScanner &statement, qsizetype index)
 {
     if (statement.dialect() != SqlDialect::MySql || !statement.isSymbol(index, u'/') ||
@@ -86,8 +86,8 @@ inline bool isInVersionComment(const SqlScanner &statement, qsizetype index)
     return false;
 }
 
-// Behind what changes no row between SELECT and the list: a word, or a comment that MySQL runs and in which
-// it finds only such words; else `index`.
+// The index after something between SELECT and the list that doesn't change the rows: a word, or a version
+// comment of MySQL that contains only such words; otherwise `index`.
 inline qsizetype afterIdleListWord(const SqlScanner &statement, qsizetype index)
 {
     if (isIdleListWord(statement, index))

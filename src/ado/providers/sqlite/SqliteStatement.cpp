@@ -44,7 +44,7 @@ private:
     std::function<bool()> m_shouldContinue;
 };
 
-// Without memory for another form of a value SQLite gives none at all, which must not look like an empty one.
+// If SQLite has no memory to convert a value, it returns null, which must not be taken for an empty value.
 QByteArrayView needBytes(sqlite3_stmt *statement, const void *bytes, int size, bool isWanted)
 {
     if (!bytes && isWanted)

@@ -137,7 +137,7 @@ void GridToolbar::narrowMenuButton()
     m_menuButton->setMaximumWidth(m_menuButton->sizeHint().width() - surplus);
 }
 
-// What a window has no command for isn't offered, nor a separator with no button after the one before it.
+// Hides buttons for commands that the window doesn't have, and separators with no buttons between them.
 void GridToolbar::hideButtonsNotInViewer()
 {
     for (const auto &[key, button] : m_buttons) {

@@ -71,7 +71,7 @@ bool filterBy(Session &session, FilterManagerRollback &rollback, const QString &
     return true;
 }
 
-// Asks until the database takes the condition or the user cancels.
+// Asks until the database accepts the condition or the user cancels.
 void askUser(Session &session, FilterManagerRollback &rollback, const QString &field,
              std::vector<ConditionInForce> replaced)
 {

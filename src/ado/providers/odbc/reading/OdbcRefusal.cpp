@@ -56,8 +56,8 @@ bool isSharedLock(const SqlScanner &statement, qsizetype index)
            statement.isWord(index + 2, u"SHARE") && statement.isWord(index + 3, u"MODE");
 }
 
-// SQL Server begins another statement without any sign before it, not even a blank behind a number. Only in
-// quotes can these words be names.
+// SQL Server needs no separator between statements, not even a blank after a number. Names like these words
+// must be quoted.
 bool beginsStatement(const SqlScanner &statement, qsizetype index)
 {
     static constexpr QStringView words[] = {
