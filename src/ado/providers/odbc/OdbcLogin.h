@@ -39,8 +39,8 @@ public:
     // Throws 3706 if the text names a driver that is not installed. The driver manager lists the drivers
     // slowly, so use this only to explain a failed connection.
     void checkDriver() const;
-    // Throws 3002 if SQLite's driver is to open a missing file, a pipe or a device. On a pipe it waits for ever,
-    // and /dev/zero is an endless file to it. A file that only a data source names is not known here.
+    // Throws 3002 if SQLite's driver is to open a missing file, a pipe or a device. On a pipe it waits for
+    // ever, and /dev/zero is an endless file to it. A file that only a data source names is not known here.
     void checkFile() const;
 
 private:
