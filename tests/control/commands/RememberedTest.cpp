@@ -75,7 +75,7 @@ TEST(StatementLineText, IsCutWithAnEllipsisAndWholeInTheToolTip)
 {
     StatementLine line(nullptr);
     const QString statement = u"SELECT * FROM 商品\nWHERE 名称 LIKE '%<b>%' ORDER BY ID"_s;
-    line.show(u"第 3 条，共 12 条"_s, statement);
+    line.show({u"第 3 条，共 12 条"_s}, statement);
     EXPECT_EQ(line.text(), u"第 3 条，共 12 条　SELECT * FROM 商品 WHERE 名称 LIKE '%<b>%' ORDER BY ID"_s);
     EXPECT_TRUE(line.toolTip().contains(u"商品\nWHERE"_s)) << "as it was written";
     EXPECT_TRUE(line.toolTip().contains(u"'%&lt;b&gt;%'"_s)) << "and not as a picture of it";
@@ -89,10 +89,10 @@ TEST(StatementLineText, IsCutWithAnEllipsisAndWholeInTheToolTip)
 
     StatementLine short_(nullptr);
     short_.resize(line.size());
-    short_.show(u"第 3 条，共 12 条"_s, statement.left(3));
+    short_.show({u"第 3 条，共 12 条"_s}, statement.left(3));
     EXPECT_EQ(short_.grab().toImage().copy(0, 0, 20, 10), shownCut.copy(0, 0, 20, 10)) << "it begins alike";
 
-    line.show(u"第 0 条，共 0 条"_s, {});
+    line.show({u"第 0 条，共 0 条"_s}, {});
     EXPECT_EQ(line.text(), QString());
     EXPECT_EQ(line.toolTip(), QString());
 }
@@ -100,6 +100,6 @@ TEST(StatementLineText, IsCutWithAnEllipsisAndWholeInTheToolTip)
 TEST(StatementLineText, GivesWayToItsNeighboursDownToNothing)
 {
     StatementLine line(nullptr);
-    line.show(u"第 1 条，共 1 条"_s, QString(500, u'x'));
+    line.show({u"第 1 条，共 1 条"_s}, QString(500, u'x'));
     EXPECT_EQ(line.minimumSizeHint().width(), 0);
 }
