@@ -6,10 +6,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString fromInformationSchema(const QString &schema, const QString &where)
+QString fromInformationSchema(const QString &schema, const QString &where,
+                              const QString &tables = u"information_schema.tables"_s)
 {
     return u"select %1 as s, table_name as n, case when table_type like '%VIEW' then 'view' else 'table' end "
-           "as v from information_schema.tables where %2 order by 1, 2"_s.arg(schema, where);
+           "as v from %3 where %2 order by 1, 2"_s.arg(schema, where, tables);
 }
 
 } // namespace
@@ -24,8 +25,12 @@ QString statementOfTables(Engine engine)
     case Engine::Oracle:
         return u"select '' s, TABLE_NAME n, 'table' v from USER_TABLES "
                "union all select '', VIEW_NAME, 'view' from USER_VIEWS order by 2"_s;
-    case Engine::PostgreSQL:
-        return fromInformationSchema(unless.arg("current_schema()"_L1), usersOwn);
+    case Engine::PostgreSQL: // whose information schema has no materialized views
+        return fromInformationSchema(
+            unless.arg("current_schema()"_L1), usersOwn,
+            u"(select table_schema, table_name, table_type from information_schema.tables union all "
+            "select schemaname, matviewname, 'VIEW' from pg_matviews where has_table_privilege("
+            "quote_ident(schemaname) || '.' || quote_ident(matviewname), 'SELECT')) as t"_s);
     case Engine::SqlServer:
         return fromInformationSchema(unless.arg("schema_name()"_L1), usersOwn);
     case Engine::MySQL:

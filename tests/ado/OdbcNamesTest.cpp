@@ -2,6 +2,8 @@
 #include "OdbcEngines.h"
 #include "TestDatabase.h"
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 using namespace ADODB;
 using AdoTest::cellTexts;
@@ -61,6 +63,18 @@ TEST_P(OdbcNames, OfTablesAndViewsAreListedAndOpened)
         found += table.name + (table.isView ? u" view"_s : QString());
     }
     EXPECT_EQ(found, (QStringList{u"kova_a"_s, u"kova_v view"_s}));
+}
+
+TEST_P(OdbcNames, OfMaterializedViewsAreListed)
+{
+    if (!is("PostgreSQL"))
+        GTEST_SKIP() << "only it has them";
+    execute(u"DROP MATERIALIZED VIEW IF EXISTS kova_m"_s);
+    execute(u"CREATE MATERIALIZED VIEW kova_m AS SELECT 1 AS a"_s);
+    const auto tables = connect()->Tables();
+    const auto found = std::ranges::find(tables, u"kova_m"_s, &Connection::Table::name);
+    EXPECT_TRUE(found != tables.end() && found->isView && found->schema.isEmpty());
+    execute(u"DROP MATERIALIZED VIEW kova_m"_s);
 }
 
 // A schema that is not the usual one is part of the name.

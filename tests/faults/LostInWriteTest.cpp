@@ -43,6 +43,8 @@ protected:
     {
         if (!hands->isSingleRecordShown())
             hands->click(u"SingleRecord"_s);
+        // The list asks now which fields the database fills, in a transaction of its own that ends before.
+        QCoreApplication::processEvents();
         hands->list->setCurrentIndex(hands->list->model()->index(hands->listedRow(u"name"_s), 1));
         hands->list->setFocus();
         QTest::keyClick(hands->list, Qt::Key_F2);

@@ -22,6 +22,8 @@ JourneyDatabase::JourneyDatabase(const JourneyEngine &engine)
     if (engine.store == JourneyEngine::AccessFile) {
         m_accessPath = m_file->path() + u".mdb"_s;
         m_connectionString = u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + m_accessPath;
+    } else if (engine.fileConnection) {
+        m_connectionString = QString::fromLatin1(engine.fileConnection).arg(m_file->path());
     } else if (engine.variable) {
         m_connectionString += u";Database=%1;FKSupport=1"_s.arg(m_file->path());
     } else {

@@ -30,6 +30,8 @@ struct JourneyEngine
     const char *yes;    // what a user types for a Boolean that is true
     // Over which other databases its tables are spread, by their key id.
     enum Spread { Nowhere, ForeignTables, Spider } spread = Nowhere;
+    // The connection string of a SqliteFile, with %1 for the path. Null: the variable's, or Provider=SQLite.
+    const char *fileConnection = nullptr;
 
     bool isThere() const;
     bool isWritable() const { return store != AccessFile; }

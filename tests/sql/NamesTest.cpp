@@ -102,6 +102,7 @@ TEST(Names, AreWrittenAsTheEngineWantsItWhateverTheDeclaredType)
 TEST(Names, AreReservedByTheirEngineAlone)
 {
     EXPECT_TRUE(isReservedWord(Engine::MySQL, u"Rank"_s));
+    EXPECT_TRUE(isReservedWord(Engine::MySQL, u"rownum"_s)) << "its number of the row in ORACLE mode";
     EXPECT_FALSE(isReservedWord(Engine::SQLite, u"Rank"_s));
     EXPECT_TRUE(isReservedWord(Engine::Oracle, u"LEVEL"_s));
     EXPECT_FALSE(isReservedWord(Engine::PostgreSQL, u"LEVEL"_s));
