@@ -21,6 +21,13 @@ QString beforeTexts(const Dialect &dialect, const QString &field);
 // Whether WHERE can use a field's alias from the list.
 bool readsAliasesInConditions(Engine engine);
 
+// Whether an expression in ORDER BY can use one, which is then meant unless there is a column of that name. A
+// term that is only an alias is taken by every engine.
+bool readsAliasesInSortExpressions(Engine engine);
+
+// Whether a term of an alias and its collation means the alias, even if there is a column of that name.
+bool readsAliasesBeforeCollations(Engine engine);
+
 // The words that limit a SELECT to its first records. Each includes the blank that separates it.
 struct RowLimit
 {

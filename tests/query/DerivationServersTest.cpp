@@ -109,7 +109,21 @@ protected:
         StarSizes sizes;
         for (const QString &star : derivation.starsToMeasure())
             sizes.insert(star, std::ssize(fieldsOf(derivation.statementOfStar(star))));
+        for (const QString &alias : derivation.aliasesToTell()) {
+            if (!isReadable(derivation.statementOfStar(alias)))
+                sizes.insert(alias, 0);
+        }
         return sizes.isEmpty() ? derivation : Derivation(statement, fieldsOf(statement), dialect, sizes);
+    }
+
+    bool isReadable(const QString &statement) const
+    {
+        try {
+            connection->Describe(statement);
+            return true;
+        } catch (const ADODB::Error &) {
+            return false;
+        }
     }
 
     std::vector<SourceField> fieldsOf(const QString &statement) const

@@ -185,40 +185,6 @@ TEST(DerivationText, ChosenFieldsAreFoundAgainByValueAndName)
     EXPECT_EQ(text.listedFor(other), QStringList()) << "not that text";
 }
 
-TEST(DerivationText, ASortByAConstantIsLeftOutWhereTheListIsWrittenAgain)
-{
-    for (const QString &word : {u"distinct"_s, u"top 3"_s}) {
-        const Derivation sorted = derive(
-            Engine::SqlServer, u"select %1 'x' as K, 7 as N, Qty from Ord order by 1, N desc, 3"_s.arg(word),
-            {u"K"_s, u"N"_s, u"Qty"_s});
-        EXPECT_EQ(sorted.withFields(sorted.listed()).simplified(),
-                  u"SELECT %1 'x' as K,7 as N,Qty FROM Ord ORDER BY Qty"_s.arg(word));
-    }
-}
-
-TEST(DerivationText, ASortKeepsItsMeaningWithoutTheFieldsThatItNames)
-{
-    const auto chosen = [](const QString &statement, const QStringList &names) {
-        const Derivation derivation = derive(Engine::PostgreSQL, statement, names);
-        return derivation.withFields({derivation.listed().first()}).simplified();
-    };
-    const QStringList two{u"id"_s, u"name"_s};
-    // Of two tables, both of which have the name.
-    EXPECT_EQ(chosen(u"select a.id, b.name from A a join B b on a.id = b.id order by name desc, id"_s, two),
-              u"SELECT a.id FROM A a join B b on a.id = b.id ORDER BY b.name desc,a.id"_s);
-    EXPECT_EQ(chosen(u"select a.id as n, b.name from A a, B b where a.id = b.id order by name, n"_s,
-                     {u"n"_s, u"name"_s}),
-              u"SELECT a.id as n FROM A a, B b where a.id = b.id ORDER BY b.name,a.id"_s);
-    // As an engine calls an expression.
-    EXPECT_EQ(chosen(u"select id, upper(name) from A order by upper, id"_s, {u"id"_s, u"upper"_s}),
-              u"SELECT id FROM A ORDER BY upper(name),id"_s);
-    // The tables' own names are enough.
-    EXPECT_EQ(chosen(u"select a.id, a.name from A a order by name, other"_s, two),
-              u"SELECT a.id from A a order by name, other"_s);
-    EXPECT_EQ(chosen(u"select id, name from A join B using (id) order by name"_s, two),
-              u"SELECT id from A join B using (id) order by name"_s);
-}
-
 namespace {
 
 struct OpenCase

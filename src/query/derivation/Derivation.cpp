@@ -28,8 +28,14 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
 {
     nameFields(fields, sizes);
     const QStringList aliases = aliasesToTell();
-    const bool namesAlias =
-        std::ranges::any_of(aliases, [&](const QString &alias) { return sizes.contains(alias); });
+    for (const SelectParts::Item &item : m_parts.items) {
+        if (aliases.contains(asColumn(item.alias)) && sizes.contains(asColumn(item.alias)))
+            m_usedAliases.append(item.alias);
+    }
+    const bool namesAlias = readsAliasesInConditions(m_dialect.engine) &&
+                            std::ranges::any_of(m_usedAliases, [&](const QString &alias) {
+                                return usesName(m_parts.where, alias);
+                            });
     // A condition has the same effect before and after DISTINCT.
     const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
                         !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
@@ -331,7 +337,7 @@ std::vector<OuterTerm> Derivation::outerTerms() const
     std::vector<OuterTerm> terms;
     for (const SelectParts::Item &term : m_parts.sort) {
         const int field = fieldOfTerm(term);
-        const QString direction = textOf(m_sql, {term.value.end, term.tokens.end});
+        const QString direction = textOf(m_sql, term.rest);
         const QString name = field < 0 ? QString() : writtenName(m_dialect, m_names.at(field));
         terms.push_back({field, name.isEmpty() || direction.isEmpty() ? name : name + u' ' + direction,
                          direction.startsWith("DESC"_L1, Qt::CaseInsensitive)});
@@ -366,24 +372,6 @@ bool Derivation::meansEntry(const SelectParts::Item &term) const
         return false;
     const SelectParts::Item &item = m_parts.items[static_cast<std::size_t>(at)];
     return !item.alias.isEmpty() || !(item.isStar || item.isName);
-}
-
-// The value of the entries that it means, which may go.
-QString Derivation::stableSort() const
-{
-    QStringList terms;
-    bool isChanged = false;
-    for (const SelectParts::Item &term : m_parts.sort) {
-        const int field = meansEntry(term) ? fieldOfTerm(term) : -1;
-        const bool isMoved = field >= 0 && !m_written.at(field).isEmpty();
-        const QString direction = textOf(m_sql, {term.value.end, term.tokens.end});
-        terms.append(!isMoved ? textOf(m_sql, term.tokens)
-                              : m_written.at(field) + (direction.isEmpty() ? QString() : u' ' + direction));
-        isChanged = isChanged || isMoved;
-    }
-    if (m_parts.order.isEmpty())
-        return {};
-    return isChanged ? orderWords + terms.join(u',') : u' ' + withWordsApart(m_parts.order, 1);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -8,6 +8,8 @@
 #include <QtCore/QHash>
 #include <QtCore/QStringList>
 
+#include <map>
+
 // Derives statements from any SELECT, so that they return the right rows.
 namespace KOVAVSFDataGridLib {
 
@@ -61,8 +63,8 @@ public:
     // The stars of the list, if only the database can tell which of them a field comes from; its table is
     // then unknown. The first fields of a statementOfStar() are those of its star.
     QStringList starsToMeasure() const;
-    // Names in the condition that are also aliases of the list. The alias is meant unless the sources have a
-    // column of that name; then a derived statement must keep the name.
+    // Names in the condition and in expressions of the sort that are also aliases of the list. The alias is
+    // meant unless the sources have a column of that name; then a derived statement must keep the name.
     QStringList aliasesToTell() const;
     // A statement that selects only the star, or only the alias as a column.
     QString statementOfStar(const QString &star) const;
@@ -166,6 +168,14 @@ private:
     // one of the sources.
     bool meansEntry(const SelectParts::Item &term) const;
     QString stableSort() const;
+    QString stableTerm(const SelectParts::Item &term) const;
+    // The fields whose aliases an expression uses, by its tokens.
+    std::map<qsizetype, int> aliasesIn(const SelectParts::Item &term) const;
+    // Whether a column can have this name there: it is neither qualified nor that of a function.
+    bool usesName(qsizetype token, const QString &name) const;
+    bool usesName(TextRange range, const QString &name) const;
+    bool sortsByExpressionOf(const QString &alias) const;
+    static QString asColumn(const QString &alias);
     int fieldOfTerm(const SelectParts::Item &term) const;
     QString sortableTerms(const QString &sortList) const;
     qsizetype fieldFor(const QString &value, const QString &name) const;
@@ -185,6 +195,7 @@ private:
     QStringList m_names;
     std::vector<qint32> m_types;
     QHash<QString, int> m_countOfName; // by case-folded name
+    QStringList m_usedAliases;         // those of aliasesToTell() that are meant
     QStringList m_written;
     QStringList m_listed;
     std::vector<int> m_itemOfField; // the list entry that the field comes from

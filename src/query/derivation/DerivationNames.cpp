@@ -2,7 +2,6 @@
 
 #include "query/derivation/ConstantItem.h"
 #include "sql/Names.h"
-#include "sql/Predicates.h"
 
 #include <algorithm>
 
@@ -169,22 +168,6 @@ QString Derivation::qualified(const std::vector<SourceField> &fields, std::size_
         (sources.size() > 1 && std::ranges::count_if(fields, isEqual) > 1))
         return {};
     return source->writtenAlias.isEmpty() ? name : source->writtenAlias + u'.' + name;
-}
-
-QStringList Derivation::aliasesToTell() const
-{
-    QStringList aliases;
-    for (const SelectParts::Item &item : m_parts.items) {
-        bool isNamed = false;
-        for (qsizetype i = m_parts.where.begin; i < m_parts.where.end; ++i)
-            isNamed = isNamed ||
-                      (m_sql.isName(i) && isSame(m_sql.name(i), item.alias) && !m_sql.isSymbol(i - 1, u'.') &&
-                       !m_sql.isSymbol(i + 1, u'.') && !m_sql.isSymbol(i + 1, u'('));
-        // Not in double quotes: SQLite takes a quoted name for a string if there is no such column.
-        if (isNamed && !item.alias.isEmpty() && readsAliasesInConditions(m_dialect.engine))
-            aliases.append(enclosed(u'`', item.alias, u'`'));
-    }
-    return aliases;
 }
 
 QString Derivation::equalName() const

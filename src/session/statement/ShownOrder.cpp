@@ -77,7 +77,7 @@ std::vector<SortTerm> shownOrder(Session &session)
             if (writtenColumn(session, col).compare(value, Qt::CaseInsensitive) == 0)
                 column = col;
         }
-        const QString direction = textOf(statement, {item.value.end, item.tokens.end});
+        const QString direction = textOf(statement, item.rest);
         terms.push_back(
             {column, textOf(statement, item.tokens), direction.startsWith("DESC"_L1, Qt::CaseInsensitive)});
     }

@@ -252,12 +252,21 @@ private:
             valueEnd -= 2;
         if (valueEnd - first > 1 && isOneOf(m_sql, valueEnd - 1, {u"ASC", u"DESC"}))
             --valueEnd;
-        SelectParts::Item item{{first, end}, {first, valueEnd}, {}, false, false, false};
-        qsizetype next = first;
+        // Engines ignore brackets around a name, and around a position.
+        TextRange inner{first, valueEnd};
+        while (m_sql.isSymbol(inner.begin, u'(') && m_sql.isSymbol(inner.end - 1, u')'))
+            inner = {inner.begin + 1, inner.end - 1};
+        qsizetype next = inner.begin;
         while (m_sql.isName(next) && m_sql.isSymbol(next + 1, u'.'))
             next += 2;
-        item.isName = next + 1 == valueEnd && m_sql.isName(next);
-        return item;
+        const bool isName = next + 1 == inner.end && m_sql.isName(next);
+        const bool isPosition =
+            inner.begin + 1 == inner.end && m_sql.at(inner.begin).kind == SqlToken::Kind::Number;
+        return {.tokens = {first, end},
+                .value = isName || isPosition ? inner : TextRange{first, valueEnd},
+                .alias = {},
+                .isName = isName,
+                .rest = {valueEnd, end}};
     }
 
     void readSources()

@@ -22,13 +22,15 @@ struct SelectParts
     // One entry of the SELECT list or of ORDER BY.
     struct Item
     {
-        TextRange tokens;    // all of it
-        TextRange value;     // without the alias; for a sort term, without ASC, DESC and anything after it
+        TextRange tokens; // all of it
+        // Without the alias; for a sort term, without the rest of it and without brackets around a name.
+        TextRange value;
         QString alias;       // without quotes; empty if there is none
         bool hasAs = false;  // if false, the alias can be the last word of an expression instead
         bool isStar = false; // * or T.*
         // A name, possibly qualified with dots; the last part is the column's.
         bool isName = false;
+        TextRange rest = {}; // for a sort term: ASC, DESC and anything after it
     };
     // One source in FROM, with the name that the rest of the statement uses for it.
     struct Source

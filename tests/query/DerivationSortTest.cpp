@@ -1,0 +1,100 @@
+// What a sort becomes in statements derived from its own.
+#include "query/derivation/Derivation.h"
+
+#include <gtest/gtest.h>
+
+using namespace KOVAVSFDataGridLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Derivation derive(const EngineMode &engine, const QString &statement, const QStringList &names)
+{
+    std::vector<SourceField> fields;
+    for (const QString &name : names)
+        fields.push_back({name, 202});
+    return Derivation(statement, fields, dialectOf(dbSQLServer, engine));
+}
+
+} // namespace
+
+TEST(DerivationSort, ASortByAConstantIsLeftOutWhereTheListIsWrittenAgain)
+{
+    for (const QString &word : {u"distinct"_s, u"top 3"_s}) {
+        const Derivation sorted = derive(
+            Engine::SqlServer, u"select %1 'x' as K, 7 as N, Qty from Ord order by 1, N desc, 3"_s.arg(word),
+            {u"K"_s, u"N"_s, u"Qty"_s});
+        EXPECT_EQ(sorted.withFields(sorted.listed()).simplified(),
+                  u"SELECT %1 'x' as K,7 as N,Qty FROM Ord ORDER BY Qty"_s.arg(word));
+    }
+}
+
+TEST(DerivationSort, ASortKeepsItsMeaningWithoutTheFieldsThatItNames)
+{
+    const auto chosen = [](const QString &statement, const QStringList &names) {
+        const Derivation derivation = derive(Engine::PostgreSQL, statement, names);
+        return derivation.withFields({derivation.listed().first()}).simplified();
+    };
+    const QStringList two{u"id"_s, u"name"_s};
+    // Of two tables, both of which have the name.
+    EXPECT_EQ(chosen(u"select a.id, b.name from A a join B b on a.id = b.id order by name desc, id"_s, two),
+              u"SELECT a.id FROM A a join B b on a.id = b.id ORDER BY b.name desc,a.id"_s);
+    EXPECT_EQ(chosen(u"select a.id as n, b.name from A a, B b where a.id = b.id order by name, n"_s,
+                     {u"n"_s, u"name"_s}),
+              u"SELECT a.id as n FROM A a, B b where a.id = b.id ORDER BY b.name,a.id"_s);
+    // As an engine calls an expression.
+    EXPECT_EQ(chosen(u"select id, upper(name) from A order by upper, id"_s, {u"id"_s, u"upper"_s}),
+              u"SELECT id FROM A ORDER BY upper(name),id"_s);
+    // The tables' own names are enough.
+    EXPECT_EQ(chosen(u"select a.id, a.name from A a order by name, other"_s, two),
+              u"SELECT a.id from A a order by name, other"_s);
+    EXPECT_EQ(chosen(u"select id, name from A join B using (id) order by name"_s, two),
+              u"SELECT id from A join B using (id) order by name"_s);
+    EXPECT_EQ(chosen(u"select a, b as n, c from T order by (n) desc, (3)"_s, {u"a"_s, u"n"_s, u"c"_s}),
+              u"SELECT a FROM T ORDER BY b desc,c"_s);
+}
+
+// An expression can be sorted by only as long as DISTINCT has all its entries.
+TEST(DerivationSort, OfDistinctGoesWithTheEntriesThatItUses)
+{
+    const QString statement = u"select distinct A*2 as n, B as b, C from T order by -n, abs(n - b), b"_s;
+    const std::vector<SourceField> fields{{u"n"_s, 3}, {u"b"_s, 3}, {u"C"_s, 3}};
+    const Derivation derivation(statement, fields, dialectOf(dbSQLServer, Engine::MySQL), {{u"`n`"_s, 0}});
+    EXPECT_EQ(derivation.withFields(derivation.listed().first(2)).simplified(),
+              u"SELECT distinct A*2 as n,B as b FROM T ORDER BY -n,abs(n - b),B"_s);
+    EXPECT_EQ(derivation.withFields(derivation.listed().last(2)).simplified(),
+              u"SELECT distinct B as b,C FROM T ORDER BY B"_s);
+    EXPECT_EQ(derivation.withCondition(u"B = 1"_s).simplified(),
+              u"SELECT distinct A*2 as n, B as b, C FROM T WHERE B = 1 ORDER BY -n,abs(n - b),B"_s);
+}
+
+// Expressions of the sort use aliases on some engines, where a column of that name comes first.
+TEST(DerivationSort, ASortKeepsItsMeaningWithoutTheAliasesInItsExpressions)
+{
+    const QString statement =
+        u"select A + 1 as no, upper(B) as n, C as b, D from T order by -no, "
+        "coalesce(N, b, T.no, no(`n`)) desc, n collate x, (select n from U), \"n\"||''"_s;
+    const auto chosen = [&](Engine engine, const QStringList &aliases) {
+        const Dialect dialect = dialectOf(dbSQLServer, engine);
+        const std::vector<SourceField> fields{{u"no"_s, 3}, {u"n"_s, 202}, {u"b"_s, 202}, {u"D"_s, 202}};
+        QHash<QString, qsizetype> sizes;
+        for (const QString &alias : aliases)
+            sizes.insert(alias, 0);
+        const Derivation derivation(statement, fields, dialect, sizes);
+        EXPECT_EQ(derivation.aliasesToTell(), engine == Engine::PostgreSQL
+                                                  ? QStringList()
+                                                  : QStringList({u"`no`"_s, u"`n`"_s, u"`b`"_s}));
+        return derivation.withFields({derivation.listed().last()}).simplified();
+    };
+    EXPECT_EQ(chosen(Engine::SQLite, {u"`no`"_s, u"`n`"_s}),
+              u"SELECT D FROM T ORDER BY -(A + 1),coalesce(upper(B), b, T.no, no(upper(B))) desc,"
+              "upper(B) collate x,(select n from U),upper(B)||''"_s);
+    EXPECT_EQ(chosen(Engine::MySQL, {u"`no`"_s}),
+              u"SELECT D FROM T ORDER BY -(A + 1),coalesce(N, b, T.no, no(`n`)) desc,"
+              "n collate x,(select n from U),\"n\"||''"_s);
+    EXPECT_EQ(chosen(Engine::SQLite, {}), u"SELECT D FROM T ORDER BY -no,coalesce(N, b, T.no, no(`n`)) desc,"
+                                          "upper(B) collate x,(select n from U),\"n\"||''"_s);
+    EXPECT_EQ(chosen(Engine::PostgreSQL, {}),
+              u"SELECT D FROM T order by -no, coalesce(N, b, T.no, no(`n`)) desc, n collate x, "
+              "(select n from U), \"n\"||''"_s);
+}
