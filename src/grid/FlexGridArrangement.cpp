@@ -7,6 +7,7 @@
 #include "grid/painting/CellDelegate.h"
 
 #include <QtCore/QScopedValueRollback>
+#include <QtCore/QtMath>
 #include <QtWidgets/QStyle>
 
 #include <algorithm>
@@ -90,11 +91,12 @@ int FlexGrid::FittingColWidth(int col) const
 {
     checkCol(col);
     const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + 1;
-    const QFontMetrics metrics = fontMetrics();
+    // Not the rounded widths: a text is cut if a fraction of a pixel is missing.
+    const QFontMetricsF metrics(font(), this);
     int width = 0;
     const auto measure = [&](int row) {
         const QString text = CellDelegate::shownText(m_model->shownText(row, col));
-        width = std::max(width, metrics.horizontalAdvance(text) + margin);
+        width = std::max(width, qCeil(metrics.horizontalAdvance(text)) + margin);
     };
     const int rows = UsedRows() - 1;
     const int first = std::max(TopRow(), 1);

@@ -3,7 +3,6 @@
 #include <QtCore/QPoint>
 #include <QtCore/QRect>
 #include <QtGui/QScreen>
-#include <QtGui/QTextDocument>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QToolTip>
@@ -11,6 +10,8 @@
 #include <algorithm>
 
 namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -36,7 +37,7 @@ QString breakable(const QString &text)
 
 QString asTip(const QString &text)
 {
-    return Qt::convertFromPlainText(breakable(text), Qt::WhiteSpaceNormal);
+    return u"<p style='white-space:pre-wrap'>"_s + breakable(text).toHtmlEscaped() + u"</p>"_s;
 }
 
 // Made as Qt makes its tool tips.

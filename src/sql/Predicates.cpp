@@ -22,6 +22,9 @@ QString isEmptyText(const Dialect &dialect, const QString &field)
 
 QString isNotEmptyText(const Dialect &dialect, const QString &field)
 {
+    // To MariaDB the comparison is Null where '' can't be a value of the type: a uuid, an inet6.
+    if (dialect.engine == Engine::MySQL && dialect.database != dbOracle)
+        return u"COALESCE(%1 <> '', %1 IS NOT NULL)"_s.arg(field);
     // In Oracle '' is Null, and no value is unequal to Null.
     return likeOperand(dialect.engine, field) +
            (dialect.database == dbOracle ? " LIKE '_%'"_L1 : " <> ''"_L1);

@@ -5,10 +5,12 @@
 #include "grid/cells/TextCells.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtGui/QHelpEvent>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyledItemDelegate>
+#include <QtWidgets/QToolTip>
 #include <gtest/gtest.h>
 
 using namespace KOVAVSFDataGridLib;
@@ -213,6 +215,26 @@ TEST_F(Columns, AFittingWidthHoldsHeadingAndTexts)
     grid.PutTextMatrix(7, 2, QString(500, u'长'));
     EXPECT_LE(grid.FittingColWidth(2), grid.viewport()->width() / 2 * 15);
     EXPECT_THROW(grid.FittingColWidth(7), std::out_of_range);
+}
+
+// Widths in whole pixels are too narrow for some texts. Only a text that is cut has a tool tip.
+TEST_F(Columns, ATextIsNeverCutAtItsFittingWidth)
+{
+    for (int number = 0; number < 300; ++number) {
+        const QString text = QString::number(number * 27961.37, 'f', 2);
+        grid.PutTextMatrix(1, 2, text);
+        grid.PutColWidth(2, grid.FittingColWidth(2));
+        QToolTip::hideText();
+        const QPoint middle = grid.visualRect(grid.model()->index(0, 1)).center();
+        QHelpEvent rest(QEvent::ToolTip, middle, grid.viewport()->mapToGlobal(middle));
+        QCoreApplication::sendEvent(grid.viewport(), &rest);
+        EXPECT_EQ(QToolTip::text(), QString()) << text.toStdString();
+    }
+    grid.PutColWidth(2, grid.FittingColWidth(2) - 150);
+    const QPoint middle = grid.visualRect(grid.model()->index(0, 1)).center();
+    QHelpEvent rest(QEvent::ToolTip, middle, grid.viewport()->mapToGlobal(middle));
+    QCoreApplication::sendEvent(grid.viewport(), &rest);
+    EXPECT_NE(QToolTip::text(), QString());
 }
 
 TEST_F(Columns, ADoubleClickOnAHeadingsEdgeAsksForTheFittingWidth)

@@ -24,6 +24,12 @@ TEST(Predicates, WhatIsReportedAsTextIsComparedAsTextOnPostgreSql)
     expectText(isNotEmptyText(postgres, u"F"_s), "CAST(F AS TEXT) LIKE '_%'");
 }
 
+TEST(Predicates, AValueThatNoEmptyTextComparesWithIsNotEmptyOnMariaDb)
+{
+    expectText(isNotEmptyText({dbSQLServer, true, false, Engine::MySQL}, u"F"_s),
+               "COALESCE(F <> '', F IS NOT NULL)");
+}
+
 TEST(Predicates, ABooleanIsComparedWithWhatTheEngineTakes)
 {
     expectText(isTrue({dbAccess, true, false, Engine::PostgreSQL}, u"F"_s, true), "F = '1'");

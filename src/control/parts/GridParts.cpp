@@ -186,8 +186,11 @@ void GridParts::layOutFoot() const
     const int leastOfSummary = isSummed ? lblSummary->widthFor(0) + 2 * gap : 0;
     const int labelWidth =
         std::clamp(room - saveRoom - placeRoom - leastOfSummary, 0, lblFieldCount->sizeHint().width());
+    const bool hasLabel = labelWidth > 0;
     place(lblFieldCount, labelWidth);
-    int rest = std::max(0, room - labelWidth - gap);
+    if (!hasLabel)
+        x -= gap;
+    int rest = std::max(0, room - labelWidth - (hasLabel ? gap : 0));
     // A part behind a divider.
     const auto placeNext = [&](QWidget *part, int partWidth) {
         divide(x);
@@ -206,8 +209,12 @@ void GridParts::layOutFoot() const
         placeNext(lblSummary,
                   std::clamp(leavesPlace ? most - besides : most, 0, lblSummary->sizeHint().width()));
     }
-    if (saveWidth > 0)
+    if (saveWidth > 0 && (hasLabel || isSummed)) {
         placeNext(cmdSaveRecord, saveWidth);
+    } else if (saveWidth > 0) {
+        place(cmdSaveRecord, saveWidth);
+        rest = std::max(0, rest - saveWidth - gap);
+    }
     if (saveWidth > 0 || rest <= gap)
         place(lblStatement, rest);
     else

@@ -83,6 +83,8 @@ public:
     // use outside that table.
     bool isTable() const { return m_kind == Kind::Closed; }
     std::vector<OuterTerm> outerTerms() const;
+    // The terms of its own sort, so written that they mean the same where the list lacks a field.
+    QStringList sortTerms() const;
     // Whether DISTINCT removes rows, so that other fields mean other rows.
     bool isDistinct() const { return m_parts.isDistinct && !m_parts.isDistinctOn; }
     // Whether a choice of fields keeps the form of the statement (for example with TOP before its list) and

@@ -94,17 +94,22 @@ QString Derivation::stableTerm(const SelectParts::Item &term) const
     return text;
 }
 
+QStringList Derivation::sortTerms() const
+{
+    QStringList terms;
+    for (const SelectParts::Item &term : m_parts.sort)
+        terms.append(stableTerm(term));
+    return terms;
+}
+
 QString Derivation::stableSort() const
 {
     if (m_parts.order.isEmpty())
         return {};
-    QStringList terms;
-    bool isChanged = false;
-    for (const SelectParts::Item &term : m_parts.sort) {
-        terms.append(stableTerm(term));
-        isChanged = isChanged || terms.last() != withWordsApart(term.tokens, 1);
-    }
-    return isChanged ? u" ORDER BY "_s + terms.join(u',') : u' ' + withWordsApart(m_parts.order, 1);
+    const QStringList terms = sortTerms();
+    const bool isAsWritten = std::ranges::equal(
+        terms, m_parts.sort, {}, {}, [this](const auto &term) { return withWordsApart(term.tokens, 1); });
+    return isAsWritten ? u' ' + withWordsApart(m_parts.order, 1) : u" ORDER BY "_s + terms.join(u',');
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -48,8 +48,8 @@ std::vector<SortTerm> shownOrder(Session &session)
 {
     if (!session.result().isOpen() || session.sharedHistory().isManager(nullptr))
         return {};
-    if (const auto derivation = session.history().DerivationOf(session.result().recordset()->Source());
-        derivation && derivation->isTable()) {
+    const auto derivation = session.history().DerivationOf(session.result().recordset()->Source());
+    if (derivation && derivation->isTable()) {
         std::vector<SortTerm> terms;
         for (const OuterTerm &term : derivation->outerTerms())
             terms.push_back({term.field + 1, term.text, term.isDescending});
@@ -59,6 +59,8 @@ std::vector<SortTerm> shownOrder(Session &session)
     const SqlScanner statement(session.result().recordset()->Source(), dialect);
     const SelectParts parts = SelectParts::of(statement);
     const QStringList headings = session.window().Headings();
+    // The shown statement may lack fields that the opened one sorts by.
+    const QStringList stable = derivation ? derivation->sortTerms() : QStringList();
     std::vector<SortTerm> terms;
     for (const SelectParts::Item &item : parts.sort) {
         const QString value = textOf(statement, item.value);
@@ -78,8 +80,9 @@ std::vector<SortTerm> shownOrder(Session &session)
                 column = col;
         }
         const QString direction = textOf(statement, item.rest);
-        terms.push_back(
-            {column, textOf(statement, item.tokens), direction.startsWith("DESC"_L1, Qt::CaseInsensitive)});
+        const auto index = static_cast<qsizetype>(terms.size());
+        terms.push_back({column, index < stable.size() ? stable.at(index) : textOf(statement, item.tokens),
+                         direction.startsWith("DESC"_L1, Qt::CaseInsensitive)});
     }
     return terms;
 }

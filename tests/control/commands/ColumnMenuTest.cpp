@@ -50,6 +50,18 @@ TEST_F(ColumnMenu, ShowsTheSortThatTheStatementCameWith)
     EXPECT_EQ(spoken(u"品名"_s), u"品名，第 1 排序字段，升序"_s);
 }
 
+// A term that means an entry of the list keeps its meaning where the chosen fields lack the entry.
+TEST_F(ColumnMenu, AddsToASortByFieldsThatAreNotChosen)
+{
+    ASSERT_TRUE(load(u"SELECT ID AS 编号,名称,城市 FROM 商品 ORDER BY 编号 DESC, 2"_s, {}));
+    choose(u"编号"_s, u"HideColumn"_s);
+    choose(u"城市"_s, u"AddToSort"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY ID DESC,名称,城市"_s)) << qUtf8Printable(statement());
+    choose(u"城市"_s, u"RemoveFromSort"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY ID DESC,名称"_s)) << qUtf8Printable(statement());
+    EXPECT_TRUE(messages.shown().empty()) << qUtf8Printable(messages.texts().join(u'|'));
+}
+
 TEST_F(ColumnMenu, GroupedRowsAreSortedAsWell)
 {
     ASSERT_TRUE(load(u"SELECT 城市,COUNT(*) AS 数量 FROM 商品 GROUP BY 城市"_s, {}));
