@@ -42,8 +42,10 @@ void SetFilter::PutState(const BuiltFilter &state)
         m_rows->startAgain();
         m_rows->focusFirstPart();
     }
-    for (const QString &kept : state.kept)
-        m_kept->add(kept);
+    for (const QString &kept : state.kept) {
+        if (!m_kept->add(kept))
+            show(FilterTexts::UnmatchedBracket);
+    }
     m_kept->followInTabOrder(m_saved);
     // Selected, so that typing replaces it.
     m_condition->selectAll();
@@ -149,8 +151,10 @@ void SetFilter::recall(const BuiltFilter &filter)
     if (IsChanged() &&
         !Messages::ask(this, FilterTexts::GiveUp, FilterTexts::Title, QMessageBox::Question, QMessageBox::No))
         return;
-    if (alive)
-        PutState(filter);
+    if (!alive)
+        return;
+    m_kept->clearTicks(); // the recalled filter takes the place of all that was there
+    PutState(filter);
 }
 
 } // namespace KOVAVSFDataGridLib

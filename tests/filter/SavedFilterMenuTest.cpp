@@ -79,6 +79,21 @@ TEST_F(SavedMenu, AFilterIsSavedAndRecalledByItsName)
     EXPECT_FALSE(builder->IsChanged());
 }
 
+// Conditions that another saved filter keeps are not joined to it.
+TEST_F(SavedMenu, ARecalledFilterTakesThePlaceOfAllConditions)
+{
+    kept = uR"({"filters":1,"named":[{"name":"甲","kept":["编号 < 50 OR 编号 > 60"]},)"
+           R"({"name":"乙","condition":"编号 = 3"},{"name":"坏","kept":["编号 < 5) OR (1=1"]}]})"_s;
+    choose(u"甲"_s);
+    EXPECT_EQ(builder->State().kept, QStringList(u"编号 < 50 OR 编号 > 60"_s));
+    choose(u"乙"_s);
+    EXPECT_EQ(builder->State().kept, QStringList());
+    EXPECT_EQ(answer(), "编号 = 3");
+    choose(u"坏"_s);
+    EXPECT_EQ(builder->State().kept, QStringList()) << "it would end within the others' brackets";
+    EXPECT_EQ(part<QLabel>(dialog, "lblNotice").text(), u"括号不配对。"_s);
+}
+
 TEST_F(SavedMenu, WhatIsTypedStaysUnlessTheUserGivesItUp)
 {
     fillRow(1, u"编号"_s, u"等于"_s, u"1"_s);

@@ -179,3 +179,21 @@ TEST(TextsSought, AreWhatLikeFindsAnywhere)
         EXPECT_EQ(textsSought(scanned, {0, scanned.count()}), texts) << qPrintable(condition);
     }
 }
+
+TEST(ComparableText, FoldsBlanksOutsideOfTextsOnly)
+{
+    const Dialect dialect{dbAccess, false, false, Engine::SQLite};
+    const auto comparable = [&](const QString &condition) { return comparableText(condition, dialect); };
+    EXPECT_EQ(comparable(u"a = 'x  y'"_s), comparable(u"a  = /* z */\n'x  y'"_s));
+    EXPECT_NE(comparable(u"a = 'x  y'"_s), comparable(u"a = 'x y'"_s));
+    EXPECT_NE(comparable(u"[a  b] = 1"_s), comparable(u"[a b] = 1"_s));
+}
+
+TEST(ClosedBrackets, AreThoseWithACounterpartOnTheRightSide)
+{
+    const Dialect dialect{dbAccess, false, false, Engine::SQLite};
+    for (const QString &condition : {u"a = 1"_s, u"(a = 1) OR (b = ')')"_s, u"f(a) = 1"_s})
+        EXPECT_TRUE(hasClosedBrackets(condition, dialect)) << condition.toStdString();
+    for (const QString &condition : {u"a = 1) OR (1 = 1"_s, u"(a = 1"_s, u"a = 1)"_s, u"a = 1 -- )"_s})
+        EXPECT_FALSE(hasClosedBrackets(condition, dialect)) << condition.toStdString();
+}

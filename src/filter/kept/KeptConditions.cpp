@@ -19,8 +19,10 @@ KeptConditions::KeptConditions(QWidget *parent) : QWidget(parent), m_layout(new 
     hide();
 }
 
-void KeptConditions::add(const QString &condition)
+bool KeptConditions::add(const QString &condition)
 {
+    if (!hasClosedBrackets(condition, m_dialect))
+        return false;
     for (const QString &part : textsOfParts(condition, m_dialect)) {
         const auto same = std::ranges::find(m_lines, part, &KeptLine::condition);
         if (same != m_lines.end()) {
@@ -39,6 +41,13 @@ void KeptConditions::add(const QString &condition)
     }
     setVisible(!m_lines.isEmpty());
     Q_EMIT changed();
+    return true;
+}
+
+void KeptConditions::clearTicks()
+{
+    for (KeptLine *line : std::as_const(m_lines))
+        line->setChecked(false);
 }
 
 void KeptConditions::removeAll()
@@ -86,7 +95,8 @@ QStringList KeptConditions::wordsOf(const QStringList &conditions) const
     QStringList words;
     for (const QString &condition : conditions) {
         const QString text = inWords(condition);
-        words.append(isLoose(condition) ? FilterTexts::BracketsInSentence.arg(text) : text);
+        const bool isNegated = SqlScanner(condition, m_dialect).isWord(0, u"NOT");
+        words.append(isNegated || isLoose(condition) ? FilterTexts::BracketsInSentence.arg(text) : text);
     }
     return words;
 }

@@ -21,8 +21,10 @@ public:
 
     // How conditions are read that are added from now on.
     void setDialect(const Dialect &dialect) { m_dialect = dialect; }
-    // One line for each part of a condition, ticked. What is there already is ticked again.
-    void add(const QString &condition);
+    // One line for each part of a condition, ticked. What is there already is ticked again. Returns false and
+    // adds nothing if the brackets of the condition don't match: it would change what it is joined to.
+    [[nodiscard]] bool add(const QString &condition);
+    void clearTicks();
     void removeAll();
 
     // Those with a tick, as statements have them.

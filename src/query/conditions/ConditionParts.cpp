@@ -75,6 +75,24 @@ QStringList textsOfParts(const QString &condition, const Dialect &dialect)
     return texts;
 }
 
+QString comparableText(const QString &condition, const Dialect &dialect)
+{
+    const SqlScanner sql(condition, dialect);
+    QString text;
+    for (qsizetype i = 0; i < sql.count(); ++i)
+        text += (i > 0 ? u" "_s : QString()) + sql.text(i);
+    return text;
+}
+
+bool hasClosedBrackets(const QString &condition, const Dialect &dialect)
+{
+    const SqlScanner sql(condition, dialect);
+    int open = 0;
+    for (qsizetype i = 0; i < sql.count() && open >= 0; ++i)
+        open += sql.isSymbol(i, u'(') ? 1 : sql.isSymbol(i, u')') ? -1 : 0;
+    return open == 0 && !sql.endsInLineComment();
+}
+
 QStringList fieldsOfCondition(const SqlScanner &statement, TextRange condition)
 {
     QStringList fields;

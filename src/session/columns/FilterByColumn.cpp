@@ -1,4 +1,5 @@
 #include "query/clsFilterManagement.h"
+#include "query/conditions/ConditionParts.h"
 #include "session/Questions.h"
 #include "session/ResultWatch.h"
 #include "session/Session.h"
@@ -46,8 +47,12 @@ std::optional<Choice> choiceInForce(Session &session, const QString &field)
 // Remembers the condition as it is in the shown statement, to recognize it later.
 void remember(Session &session, const QString &field, const ValuesAnswer &answer)
 {
+    const Dialect dialect = dialectOf(session.filterManager().DBType(), session.result().engine());
+    QStringList parts = textsOfParts(answer.condition, dialect);
+    for (QString &part : parts)
+        part = comparableText(part, dialect);
     for (const ShownCondition &shown : shownConditions(session)) {
-        if (answer.condition.simplified().contains(shown.text.simplified()))
+        if (parts.contains(comparableText(shown.text, dialect)))
             session.shown().chosenValues.push_back({field, shown.text, answer.built});
     }
 }

@@ -26,7 +26,8 @@ class Conditions
 {
 public:
     Conditions(Session &session, const QString &statement)
-        : sql(statement, dialectOf(session.filterManager().DBType(), session.result().engine())),
+        : dialect(dialectOf(session.filterManager().DBType(), session.result().engine())),
+          sql(statement, dialect),
           where(SelectParts::of(sql).where)
     {
         if (!where.isEmpty())
@@ -34,7 +35,9 @@ public:
     }
 
     QString textOfPart(std::size_t part) const { return textOf(sql, parts[part]); }
+    QString comparable(std::size_t part) const { return comparableText(textOfPart(part), dialect); }
 
+    Dialect dialect;
     SqlScanner sql;
     TextRange where;
     std::vector<TextRange> parts;
@@ -52,24 +55,26 @@ std::vector<std::size_t> ownParts(Session &session, const Conditions &latest)
     const Conditions first(session, firstStatement(session));
     QStringList given;
     for (std::size_t i = 0; i < first.parts.size(); ++i)
-        given.append(first.textOfPart(i).simplified());
+        given.append(first.comparable(i));
     std::vector<std::size_t> own;
     for (std::size_t i = 0; i < latest.parts.size(); ++i) {
-        if (!given.removeOne(latest.textOfPart(i).simplified()))
+        if (!given.removeOne(latest.comparable(i)))
             own.push_back(i);
     }
     return own;
 }
 
 // Takes the parts of a condition out of those that are left; nothing when one isn't there.
-std::optional<std::vector<std::size_t>>
-takeParts(std::vector<std::size_t> &left, const std::vector<ShownCondition> &shown, const QStringList &parts)
+std::optional<std::vector<std::size_t>> takeParts(std::vector<std::size_t> &left,
+                                                  const std::vector<ShownCondition> &shown,
+                                                  const QStringList &parts, const Dialect &dialect)
 {
     std::vector<std::size_t> rest = left;
     std::vector<std::size_t> taken;
     for (const QString &part : parts) {
+        const QString wanted = comparableText(part, dialect);
         const auto found = std::ranges::find_if(
-            rest, [&](std::size_t at) { return shown[at].text.simplified() == part.simplified(); });
+            rest, [&](std::size_t at) { return comparableText(shown[at].text, dialect) == wanted; });
         if (found == rest.end())
             return std::nullopt;
         taken.push_back(*found);
@@ -107,8 +112,9 @@ std::vector<ConditionInForce> conditionsInForce(Session &session)
     std::map<std::size_t, ConditionInForce> byPlace; // by the place of the first part
     const Dialect dialect = dialectOf(session.filterManager().DBType(), session.result().engine());
     for (const BuiltCondition &built : session.shown().builtConditions | std::views::reverse) {
-        const auto taken =
-            left.empty() ? std::nullopt : takeParts(left, shown, textsOfParts(built.condition, dialect));
+        const auto taken = left.empty()
+                               ? std::nullopt
+                               : takeParts(left, shown, textsOfParts(built.condition, dialect), dialect);
         if (taken && !taken->empty())
             byPlace.emplace(std::ranges::min(*taken), ConditionInForce{built.condition, built.built});
     }

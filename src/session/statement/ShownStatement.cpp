@@ -3,6 +3,7 @@
 #include "ado/Notifications.h"
 #include "ado/Recordset.h"
 #include "query/SharedValues.h"
+#include "query/conditions/ConditionParts.h"
 #include "session/HostEvents.h"
 #include "session/Questions.h"
 #include "session/ResultWatch.h"
@@ -90,9 +91,11 @@ bool ShownStatement::reloadFiltered(const QString &statement, bool isRemembered,
 bool ShownStatement::addCondition(const QString &condition, QString &statement)
 {
     // What is added now was not chosen by values, even where that was written in the same way.
-    const QString added = condition.simplified();
-    std::erase_if(chosenValues,
-                  [&](const ChosenValues &values) { return values.condition.simplified() == added; });
+    const Dialect dialect = dialectOf(m_session.filterManager().DBType(), m_session.result().engine());
+    const QString added = comparableText(condition, dialect);
+    std::erase_if(chosenValues, [&](const ChosenValues &values) {
+        return comparableText(values.condition, dialect) == added;
+    });
     if (!m_session.rules().narrowsShown)
         return m_session.history().GetNextSQLByFilter(condition, statement);
     if (m_session.filterManager().LastUseFilter() != m_text)
