@@ -1,5 +1,6 @@
 // Splitting conditions and putting them into words.
 #include "query/conditions/ConditionParts.h"
+#include "sql/Engine.h"
 
 #include <gtest/gtest.h>
 

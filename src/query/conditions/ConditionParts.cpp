@@ -79,8 +79,10 @@ QString comparableText(const QString &condition, const Dialect &dialect)
 {
     const SqlScanner sql(condition, dialect);
     QString text;
-    for (qsizetype i = 0; i < sql.count(); ++i)
-        text += (i > 0 ? u" "_s : QString()) + sql.text(i);
+    for (qsizetype i = 0; i < sql.count(); ++i) {
+        text += sql.text(i);
+        text += u' ';
+    }
     return text;
 }
 

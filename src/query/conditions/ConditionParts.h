@@ -12,7 +12,7 @@ namespace KOVAVSFDataGridLib {
 std::vector<TextRange> conditionParts(const SqlScanner &statement, TextRange condition);
 // The same of a condition that stands alone, as texts.
 QStringList textsOfParts(const QString &condition, const Dialect &dialect);
-// The text with one blank between its tokens, to compare conditions: blanks and comments outside strings and
+// The text with one blank after each token, to compare conditions: blanks and comments outside strings and
 // names have no meaning.
 QString comparableText(const QString &condition, const Dialect &dialect);
 // Whether every bracket has its counterpart within the condition.
