@@ -31,25 +31,27 @@ void SetFilter::PutState(const BuiltFilter &state)
     } else if (!state.rows.isEmpty()) {
         if (m_isByHand)
             setByHand(false);
-        const auto missing = m_rows->setState(state.rows);
-        if (missing)
+        if (const auto missing = m_rows->setState(state.rows)) {
             show(FilterTexts::FieldMissing.arg(*missing));
-        else
-            m_rows->focusFirstPart();
+            return; // and all is as it was
+        }
+        m_rows->focusFirstPart();
     } else if (!state.kept.isEmpty()) {
         if (m_isByHand)
             setByHand(false);
         m_rows->startAgain();
         m_rows->focusFirstPart();
     }
-    for (const QString &kept : state.kept) {
-        if (!m_kept->add(kept))
-            show(FilterTexts::UnmatchedBracket);
-    }
+    m_kept->clearTicks();
+    bool isWhole = true;
+    for (const QString &kept : state.kept)
+        isWhole = m_kept->add(kept) && isWhole;
     m_kept->followInTabOrder(m_saved);
     // Selected, so that typing replaces it.
     m_condition->selectAll();
     m_stateBefore = State();
+    if (!isWhole)
+        show(FilterTexts::UnmatchedBracket);
 }
 
 void SetFilter::Begin(const std::vector<ConditionInForce> &conditions, const QString &field)
@@ -151,10 +153,8 @@ void SetFilter::recall(const BuiltFilter &filter)
     if (IsChanged() &&
         !Messages::ask(this, FilterTexts::GiveUp, FilterTexts::Title, QMessageBox::Question, QMessageBox::No))
         return;
-    if (!alive)
-        return;
-    m_kept->clearTicks(); // the recalled filter takes the place of all that was there
-    PutState(filter);
+    if (alive)
+        PutState(filter);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -82,16 +82,21 @@ TEST_F(SavedMenu, AFilterIsSavedAndRecalledByItsName)
 // Conditions that another saved filter keeps are not joined to it.
 TEST_F(SavedMenu, ARecalledFilterTakesThePlaceOfAllConditions)
 {
-    kept = uR"({"filters":1,"named":[{"name":"甲","kept":["编号 < 50 OR 编号 > 60"]},)"
-           R"({"name":"乙","condition":"编号 = 3"},{"name":"坏","kept":["编号 < 5) OR (1=1"]}]})"_s;
+    kept =
+        uR"({"filters":1,"named":[{"name":"甲","kept":["编号 < 50 OR 编号 > 60"]},)"
+        R"({"name":"乙","condition":"编号 = 3"},{"name":"坏","kept":["编号 < 5) OR (1=1","编号 > 2 -- x"]},)"
+        R"({"name":"旧","rows":[{"field":"没有","operator":"equals","value":"1"}],"kept":["编号 > 9"]}]})"_s;
     choose(u"甲"_s);
     EXPECT_EQ(builder->State().kept, QStringList(u"编号 < 50 OR 编号 > 60"_s));
     choose(u"乙"_s);
     EXPECT_EQ(builder->State().kept, QStringList());
     EXPECT_EQ(answer(), "编号 = 3");
     choose(u"坏"_s);
-    EXPECT_EQ(builder->State().kept, QStringList()) << "it would end within the others' brackets";
+    EXPECT_EQ(builder->State().kept, QStringList(u"编号 > 2"_s)) << "the other ends within others' brackets";
     EXPECT_EQ(part<QLabel>(dialog, "lblNotice").text(), u"括号不配对。"_s);
+    choose(u"旧"_s);
+    EXPECT_EQ(builder->State().kept, QStringList(u"编号 > 2"_s)) << "what can't be recalled changes nothing";
+    EXPECT_TRUE(part<QLabel>(dialog, "lblNotice").text().contains(u"没有"_s));
 }
 
 TEST_F(SavedMenu, WhatIsTypedStaysUnlessTheUserGivesItUp)

@@ -193,8 +193,8 @@ TEST(ComparableText, FoldsBlanksOutsideOfTextsOnly)
 TEST(ClosedBrackets, AreThoseWithACounterpartOnTheRightSide)
 {
     const Dialect dialect{dbAccess, false, false, Engine::SQLite};
-    for (const QString &condition : {u"a = 1"_s, u"(a = 1) OR (b = ')')"_s, u"f(a) = 1"_s})
+    for (const QString &condition : {u"a = 1"_s, u"(a = 1) OR (b = ')')"_s, u"f(a) = 1"_s, u"a = 1 -- )"_s})
         EXPECT_TRUE(hasClosedBrackets(condition, dialect)) << condition.toStdString();
-    for (const QString &condition : {u"a = 1) OR (1 = 1"_s, u"(a = 1"_s, u"a = 1)"_s, u"a = 1 -- )"_s})
+    for (const QString &condition : {u"a = 1) OR (1 = 1"_s, u"(a = 1"_s, u"a = 1)"_s})
         EXPECT_FALSE(hasClosedBrackets(condition, dialect)) << condition.toStdString();
 }

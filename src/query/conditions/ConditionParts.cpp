@@ -92,7 +92,7 @@ bool hasClosedBrackets(const QString &condition, const Dialect &dialect)
     int open = 0;
     for (qsizetype i = 0; i < sql.count() && open >= 0; ++i)
         open += sql.isSymbol(i, u'(') ? 1 : sql.isSymbol(i, u')') ? -1 : 0;
-    return open == 0 && !sql.endsInLineComment();
+    return open == 0;
 }
 
 QStringList fieldsOfCondition(const SqlScanner &statement, TextRange condition)
