@@ -45,11 +45,6 @@ bool readsAliasesInSortExpressions(Engine engine)
     return engine == Engine::SQLite || engine == Engine::MySQL;
 }
 
-bool readsAliasesBeforeCollations(Engine engine)
-{
-    return engine == Engine::SQLite;
-}
-
 RowLimit rowLimit(const Dialect &dialect, int count)
 {
     const Engine engine = dialect.engine;

@@ -25,9 +25,6 @@ bool readsAliasesInConditions(Engine engine);
 // term that is only an alias is taken by every engine.
 bool readsAliasesInSortExpressions(Engine engine);
 
-// Whether a term of an alias and its collation means the alias, even if there is a column of that name.
-bool readsAliasesBeforeCollations(Engine engine);
-
 // The words that limit a SELECT to its first records. Each includes the blank that separates it.
 struct RowLimit
 {

@@ -73,7 +73,7 @@ TEST(DerivationSort, ASortKeepsItsMeaningWithoutTheAliasesInItsExpressions)
 {
     const QString statement =
         u"select A + 1 as no, upper(B) as n, C as b, D from T order by -no, "
-        "coalesce(N, b, T.no, no(`n`)) desc, n collate x, (select n from U), \"n\"||''"_s;
+        "coalesce(N, b, T.no, no(`n`)) desc, n collate x, (select m from U), \"n\"||''"_s;
     const auto chosen = [&](Engine engine, const QStringList &aliases) {
         const Dialect dialect = dialectOf(dbSQLServer, engine);
         const std::vector<SourceField> fields{{u"no"_s, 3}, {u"n"_s, 202}, {u"b"_s, 202}, {u"D"_s, 202}};
@@ -88,13 +88,72 @@ TEST(DerivationSort, ASortKeepsItsMeaningWithoutTheAliasesInItsExpressions)
     };
     EXPECT_EQ(chosen(Engine::SQLite, {u"`no`"_s, u"`n`"_s}),
               u"SELECT D FROM T ORDER BY -(A + 1),coalesce(upper(B), b, T.no, no(upper(B))) desc,"
-              "upper(B) collate x,(select n from U),upper(B)||''"_s);
+              "upper(B) collate x,(select m from U),upper(B)||''"_s);
     EXPECT_EQ(chosen(Engine::MySQL, {u"`no`"_s}),
               u"SELECT D FROM T ORDER BY -(A + 1),coalesce(N, b, T.no, no(`n`)) desc,"
-              "n collate x,(select n from U),\"n\"||''"_s);
+              "n collate x,(select m from U),\"n\"||''"_s);
     EXPECT_EQ(chosen(Engine::SQLite, {}), u"SELECT D FROM T ORDER BY -no,coalesce(N, b, T.no, no(`n`)) desc,"
-                                          "upper(B) collate x,(select n from U),\"n\"||''"_s);
+                                          "upper(B) collate x,(select m from U),\"n\"||''"_s);
     EXPECT_EQ(chosen(Engine::PostgreSQL, {}),
               u"SELECT D FROM T order by -no, coalesce(N, b, T.no, no(`n`)) desc, n collate x, "
-              "(select n from U), \"n\"||''"_s);
+              "(select m from U), \"n\"||''"_s);
+}
+
+// What stands around a position or a name, and behind it, leaves it what it is, but not on every engine.
+TEST(DerivationSort, PositionsAndNamesMeanWhatTheEngineTakesThemFor)
+{
+    const auto chosen = [](Engine engine, const QString &sort) {
+        const std::vector<SourceField> fields{{u"a"_s, 3}, {u"n"_s, 202}};
+        const Derivation derivation(u"select a, b as n from T order by "_s + sort, fields,
+                                    dialectOf(dbSQLServer, engine));
+        return derivation.withFields({u"a"_s}).simplified().section(u" order by "_s, 1, -1,
+                                                                    QString::SectionCaseInsensitiveSeps);
+    };
+    const Engine sqlite = Engine::SQLite;
+    EXPECT_EQ(chosen(sqlite, u"2 collate nocase desc, 1"_s), u"b collate nocase desc,a"_s);
+    EXPECT_EQ(chosen(sqlite, u"(2 collate x) collate nocase desc nulls last"_s),
+              u"b collate x collate nocase desc nulls last"_s);
+    EXPECT_EQ(chosen(sqlite, u"(n) COLLATE nocase, (+2) desc, +n"_s), u"b COLLATE nocase,b desc,+n"_s);
+    EXPECT_EQ(chosen(sqlite, u"a collate nocase, 2 + 0, +a"_s), u"a collate nocase, 2 + 0, +a"_s);
+    const Engine mySql = Engine::MySQL;
+    EXPECT_EQ(chosen(mySql, u"+2 desc, +(n), 1"_s), u"b desc,b,a"_s);
+    EXPECT_EQ(chosen(mySql, u"2 collate utf8mb4_bin"_s), u"2 collate utf8mb4_bin"_s);
+    const Engine postgres = Engine::PostgreSQL;
+    EXPECT_EQ(chosen(postgres, u"2 using > nulls last, n using operator(pg_catalog.<), (1) nulls first"_s),
+              u"b using > nulls last,b using operator(pg_catalog.<),a nulls first"_s);
+    EXPECT_EQ(chosen(postgres, u"+2, a collate \"C\" using >"_s), u"+2, a collate \"C\" using >"_s);
+}
+
+TEST(DerivationSort, OfWhatBecomesATableKeepsCollationsAndOperators)
+{
+    const auto sorted = [](Engine engine, const QString &sort) {
+        const std::vector<SourceField> fields{{u"a"_s, 3}, {u"n"_s, 202}};
+        const Derivation derivation(u"select a, b as n from T group by a, b order by "_s + sort, fields,
+                                    dialectOf(dbSQLServer, engine));
+        return derivation.outerTerms();
+    };
+    const std::vector<OuterTerm> terms = sorted(Engine::SQLite, u"2 collate nocase desc, (a)"_s);
+    ASSERT_EQ(terms.size(), 2U);
+    EXPECT_EQ(terms[0].text, u"n collate nocase desc"_s);
+    EXPECT_TRUE(terms[0].isDescending);
+    EXPECT_EQ(terms[1].text, u"a"_s);
+    EXPECT_FALSE(terms[1].isDescending);
+    const OuterTerm used = sorted(Engine::PostgreSQL, u"n using >"_s).front();
+    EXPECT_EQ(used.text, u"n using >"_s);
+    EXPECT_TRUE(used.isDescending);
+}
+
+// The tables of a sub-select have columns of their own, so only the whole statement can say what is meant.
+TEST(DerivationSort, ByASubselectOfAnAliasKeepsTheStatementWhole)
+{
+    const QString statement =
+        u"select ID, Dept as abt from Emp order by (select Name from Dept where ID = abt), ID"_s;
+    const auto isTable = [&](Engine engine, const QHash<QString, qsizetype> &sizes) {
+        return Derivation(statement, {{u"ID"_s, 3}, {u"abt"_s, 3}}, dialectOf(dbSQLServer, engine), sizes)
+            .isTable();
+    };
+    EXPECT_TRUE(isTable(Engine::SQLite, {{u"`abt`"_s, 0}}));
+    EXPECT_TRUE(isTable(Engine::MySQL, {{u"`abt`"_s, 0}}));
+    EXPECT_FALSE(isTable(Engine::SQLite, {})); // a column has that name
+    EXPECT_FALSE(isTable(Engine::PostgreSQL, {}));
 }

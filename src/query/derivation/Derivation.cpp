@@ -32,10 +32,10 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
         if (aliases.contains(asColumn(item.alias)) && sizes.contains(asColumn(item.alias)))
             m_usedAliases.append(item.alias);
     }
-    const bool namesAlias = readsAliasesInConditions(m_dialect.engine) &&
-                            std::ranges::any_of(m_usedAliases, [&](const QString &alias) {
-                                return usesName(m_parts.where, alias);
-                            });
+    const bool namesAlias = std::ranges::any_of(m_usedAliases, [&](const QString &alias) {
+        return (readsAliasesInConditions(m_dialect.engine) && usesName(m_parts.where, alias)) ||
+               sortsBySubselectOf(alias);
+    });
     // A condition has the same effect before and after DISTINCT.
     const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
                         !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
@@ -337,10 +337,8 @@ std::vector<OuterTerm> Derivation::outerTerms() const
     std::vector<OuterTerm> terms;
     for (const SelectParts::Item &term : m_parts.sort) {
         const int field = fieldOfTerm(term);
-        const QString direction = textOf(m_sql, term.rest);
         const QString name = field < 0 ? QString() : writtenName(m_dialect, m_names.at(field));
-        terms.push_back({field, name.isEmpty() || direction.isEmpty() ? name : name + u' ' + direction,
-                         direction.startsWith("DESC"_L1, Qt::CaseInsensitive)});
+        terms.push_back({field, name.isEmpty() ? name : sortedAs(term, name), term.isDescending});
     }
     return terms;
 }

@@ -171,12 +171,15 @@ private:
     bool meansEntry(const SelectParts::Item &term) const;
     QString stableSort() const;
     QString stableTerm(const SelectParts::Item &term) const;
+    // The value, sorted as this term is.
+    static QString sortedAs(const SelectParts::Item &term, const QString &value);
     // The fields whose aliases an expression uses, by its tokens.
     std::map<qsizetype, int> aliasesIn(const SelectParts::Item &term) const;
     // Whether a column can have this name there: it is neither qualified nor that of a function.
     bool usesName(qsizetype token, const QString &name) const;
     bool usesName(TextRange range, const QString &name) const;
     bool sortsByExpressionOf(const QString &alias) const;
+    bool sortsBySubselectOf(const QString &alias) const;
     static QString asColumn(const QString &alias);
     int fieldOfTerm(const SelectParts::Item &term) const;
     QString sortableTerms(const QString &sortList) const;

@@ -42,6 +42,18 @@ bool Derivation::sortsByExpressionOf(const QString &alias) const
     });
 }
 
+// Whether the alias is in a sub-select, where only the engine can tell it from the columns of other tables.
+bool Derivation::sortsBySubselectOf(const QString &alias) const
+{
+    if (!readsAliasesInSortExpressions(m_dialect.engine))
+        return false;
+    for (qsizetype i = m_parts.order.begin; i < m_parts.order.end; ++i) {
+        if (isSubselect(m_sql, i) && usesName({i, afterBrackets(m_sql, i)}, alias))
+            return true;
+    }
+    return false;
+}
+
 QStringList Derivation::aliasesToTell() const
 {
     const Engine engine = m_dialect.engine;
@@ -58,20 +70,13 @@ QStringList Derivation::aliasesToTell() const
 
 std::map<qsizetype, int> Derivation::aliasesIn(const SelectParts::Item &term) const
 {
-    const Engine engine = m_dialect.engine;
     std::map<qsizetype, int> found;
     for (qsizetype i = term.value.begin; i < term.value.end && !term.isName; ++i) {
-        if (isSubselect(m_sql, i)) {
-            i = afterBrackets(m_sql, i) - 1; // where its own tables come before an alias
-            continue;
-        }
-        const bool comesFirst =
-            readsAliasesBeforeCollations(engine) && i == term.value.begin && m_sql.isWord(i + 1, u"COLLATE");
         for (std::size_t field = 0; field < m_itemOfField.size(); ++field) {
             if (m_itemOfField[field] < 0)
                 continue;
             const QString &alias = m_parts.items[static_cast<std::size_t>(m_itemOfField[field])].alias;
-            if (!alias.isEmpty() && usesName(i, alias) && (comesFirst || m_usedAliases.contains(alias)))
+            if (!alias.isEmpty() && usesName(i, alias) && m_usedAliases.contains(alias))
                 found.emplace(i, static_cast<int>(field));
         }
     }
@@ -84,7 +89,7 @@ QString Derivation::stableTerm(const SelectParts::Item &term) const
 {
     const int field = meansEntry(term) ? fieldOfTerm(term) : -1;
     if (field >= 0 && !m_written.at(field).isEmpty())
-        return m_written.at(field) + (term.rest.isEmpty() ? QString() : u' ' + textOf(m_sql, term.rest));
+        return sortedAs(term, m_written.at(field));
     QString text = withWordsApart(term.tokens, 1);
     if (isDistinct())
         return text;
@@ -92,6 +97,11 @@ QString Derivation::stableTerm(const SelectParts::Item &term) const
         text.replace(m_sql.at(token).start - m_sql.at(term.tokens.begin).start, m_sql.at(token).length,
                      m_written.at(named));
     return text;
+}
+
+QString Derivation::sortedAs(const SelectParts::Item &term, const QString &value)
+{
+    return term.rest.isEmpty() ? value : value + u' ' + term.rest;
 }
 
 QStringList Derivation::sortTerms() const

@@ -147,7 +147,6 @@ QString Derivation::sortWithin(const QStringList &entries) const
         const int item = field < 0 ? -1 : m_itemOfField[static_cast<std::size_t>(field)];
         if (item >= 0 && isConstant(m_sql, m_parts.items[static_cast<std::size_t>(item)]))
             continue;
-        const QString direction = textOf(m_sql, term.rest);
         const auto named = aliasesIn(term);
         const bool isOfEntries = !named.empty() && std::ranges::all_of(named, [&](const auto &alias) {
             return entries.contains(m_listed.at(alias.second));
@@ -155,7 +154,7 @@ QString Derivation::sortWithin(const QStringList &entries) const
         if (field < 0 && (!isDistinct() || isOfEntries))
             terms.append(textOf(m_sql, term.tokens));
         else if (field >= 0 && (!isDistinct() || entries.contains(m_listed.at(field))))
-            terms.append(valueOf(field) + (direction.isEmpty() ? QString() : u' ' + direction));
+            terms.append(sortedAs(term, valueOf(field)));
     }
     return terms.isEmpty() ? QString() : u" ORDER BY "_s + terms.join(u',');
 }

@@ -79,10 +79,9 @@ std::vector<SortTerm> shownOrder(Session &session)
             if (writtenColumn(session, col).compare(value, Qt::CaseInsensitive) == 0)
                 column = col;
         }
-        const QString direction = textOf(statement, item.rest);
         const auto index = static_cast<qsizetype>(terms.size());
         terms.push_back({column, index < stable.size() ? stable.at(index) : textOf(statement, item.tokens),
-                         direction.startsWith("DESC"_L1, Qt::CaseInsensitive)});
+                         item.isDescending});
     }
     return terms;
 }

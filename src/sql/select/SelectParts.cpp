@@ -1,6 +1,7 @@
 #include "sql/select/SelectParts.h"
 
 #include "sql/select/SelectSources.h"
+#include "sql/select/SortTerms.h"
 #include "sql/select/SqlWalk.h"
 #include "sql/words/KnownFunctions.h"
 
@@ -185,7 +186,7 @@ private:
         qsizetype first = range.begin;
         for (qsizetype i = range.begin; i <= range.end; ++i) {
             if (i == range.end || (m_sql.isSymbol(i, u',') && m_sql.at(i).depth == 0)) {
-                items.push_back(isSort ? sortTermAt(first, i) : itemAt(first, i));
+                items.push_back(isSort ? sortTermIn(m_sql, {first, i}) : itemAt(first, i));
                 first = i + 1;
             }
         }
@@ -243,30 +244,6 @@ private:
             return m_sql.name(index);
         const QStringView quoted = m_sql.text(index);
         return quoted.sliced(1, std::max<qsizetype>(0, quoted.size() - 2)).toString();
-    }
-
-    SelectParts::Item sortTermAt(qsizetype first, qsizetype end) const
-    {
-        qsizetype valueEnd = end;
-        if (valueEnd - first > 2 && m_sql.isWord(valueEnd - 2, u"NULLS"))
-            valueEnd -= 2;
-        if (valueEnd - first > 1 && isOneOf(m_sql, valueEnd - 1, {u"ASC", u"DESC"}))
-            --valueEnd;
-        // Engines ignore brackets around a name, and around a position.
-        TextRange inner{first, valueEnd};
-        while (m_sql.isSymbol(inner.begin, u'(') && m_sql.isSymbol(inner.end - 1, u')'))
-            inner = {inner.begin + 1, inner.end - 1};
-        qsizetype next = inner.begin;
-        while (m_sql.isName(next) && m_sql.isSymbol(next + 1, u'.'))
-            next += 2;
-        const bool isName = next + 1 == inner.end && m_sql.isName(next);
-        const bool isPosition =
-            inner.begin + 1 == inner.end && m_sql.at(inner.begin).kind == SqlToken::Kind::Number;
-        return {.tokens = {first, end},
-                .value = isName || isPosition ? inner : TextRange{first, valueEnd},
-                .alias = {},
-                .isName = isName,
-                .rest = {valueEnd, end}};
     }
 
     void readSources()

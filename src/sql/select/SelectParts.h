@@ -23,14 +23,18 @@ struct SelectParts
     struct Item
     {
         TextRange tokens; // all of it
-        // Without the alias; for a sort term, without the rest of it and without brackets around a name.
+        // Without the alias; for a sort term, without the rest of it. Of a name or a position in a sort,
+        // without the brackets and signs around it that engines ignore.
         TextRange value;
         QString alias;       // without quotes; empty if there is none
         bool hasAs = false;  // if false, the alias can be the last word of an expression instead
         bool isStar = false; // * or T.*
         // A name, possibly qualified with dots; the last part is the column's.
         bool isName = false;
-        TextRange rest = {}; // for a sort term: ASC, DESC and anything after it
+        // For a sort term, what another value needs behind it to be sorted in the same way: DESC, for
+        // example.
+        QString rest = {};
+        bool isDescending = false;
     };
     // One source in FROM, with the name that the rest of the statement uses for it.
     struct Source
