@@ -210,6 +210,32 @@ TEST_P(WritesOnMariaDb, WriteTablesWithoutTransactionsByTheirKey)
     EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"2"_s);
 }
 
+// What the server had saved when its connection was killed stays saved there.
+TEST_P(WritesOnMariaDb, FindARecordWithoutTransactionsByTheKeyThatWasTyped)
+{
+    for (const bool isSaved : {true, false}) {
+        makeTable(u" ENGINE=MyISAM"_s);
+        const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s);
+        execute(u"CREATE TRIGGER kova_t %1 INSERT ON kova_a FOR EACH ROW KILL CONNECTION_ID()"_s.arg(
+            isSaved ? u"AFTER"_s : u"BEFORE"_s));
+        recordset->AddNew();
+        put(*recordset, u"id"_s, 7);
+        put(*recordset, u"name"_s, u"mine"_s);
+        put(*recordset, u"price"_s, u"1.5"_s); // stored as 1.50
+        EXPECT_ADO_ERROR(dbErrInDoubt, recordset->Update());
+        execute(u"DROP TRIGGER kova_t"_s);
+        EXPECT_EQ(recordset->FindAttempt(), isSaved);
+        if (!isSaved)
+            recordset->Update();
+        EXPECT_EQ(recordset->EditMode(), adEditNone);
+        EXPECT_EQ(recordset->CellText(3, 3), u"1.50"_s);
+        EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"3"_s);
+        EXPECT_EQ(ask(u"SELECT name FROM kova_a WHERE id = 7"_s), u"mine"_s);
+        recordset->Close();
+        execute(u"DROP TABLE kova_a"_s);
+    }
+}
+
 // Two rows that a trigger makes of what was written are not what was asked for.
 class WritesOnPostgreSql : public WriteOutcomes
 {

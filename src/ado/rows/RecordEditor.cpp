@@ -138,12 +138,12 @@ Error RecordEditor::named(const Error &error, const Snapshot &snapshot) const
 void RecordEditor::saveNew(Snapshot &snapshot)
 {
     try {
-        if (!findSavedNew()) {
+        if (!findSavedNew(snapshot)) {
             try {
                 insert(snapshot.columns());
             } catch (const Error &error) {
                 // The previous attempt may have finished only now.
-                if (!error.is(dbErrIntegrity) || !findSavedNew())
+                if (!error.is(dbErrIntegrity) || !findSavedNew(snapshot))
                     throw;
             }
         }
@@ -156,7 +156,7 @@ void RecordEditor::saveNew(Snapshot &snapshot)
 
 bool RecordEditor::findNew(Snapshot &snapshot)
 {
-    if (!m_sent || m_sent->values != m_values || !findSavedNew())
+    if (!m_sent || m_sent->values != m_values || !findSavedNew(snapshot))
         return false;
     showNew(snapshot);
     return true;
@@ -169,7 +169,7 @@ void RecordEditor::showNew(Snapshot &snapshot)
 }
 
 // Whether the previous attempt, whose result is unknown, has saved the new record.
-bool RecordEditor::findSavedNew()
+bool RecordEditor::findSavedNew(const Snapshot &snapshot)
 {
     if (!m_sent)
         return false;
@@ -178,10 +178,12 @@ bool RecordEditor::findSavedNew()
     RowStore now(m_sent->row.columns());
     if (!writer().read(m_sent->row.row(0), now))
         return false;
+    const Snapshot found(snapshot.fields(), now);
     // Others may have changed the record, or have got the key after a rollback.
     const bool isSame =
         now.rows() == 1 && std::all_of(m_sent->values.begin(), m_sent->values.end(), [&](const auto &value) {
-            return RowComparison::isSame(now.cell(0, value.first), m_sent->row.cell(0, value.first));
+            return RowComparison::isSame(now.cell(0, value.first), m_sent->row.cell(0, value.first)) ||
+                   found.value(1, value.first) == value.second;
         });
     if (!isSame)
         throw Error(dbErrPerhapsSaved, Texts::newKeyTaken());

@@ -63,7 +63,7 @@ private:
     void send(int columns, const std::function<void(RowStore &)> &attempt);
     void update(const Snapshot &snapshot, qint64 record);
     bool findSaved(const Snapshot &snapshot, qint64 record);
-    bool findSavedNew();
+    bool findSavedNew(const Snapshot &snapshot);
     // Adds the field's name to an error about a missing value.
     Error named(const Error &error, const Snapshot &snapshot) const;
     void insert(int columns);

@@ -35,7 +35,8 @@ struct Change
 //   returns the current row.
 // - It throws dbErrInDoubt: the connection was lost while the database was saving, so the outcome is unknown.
 //   Only reading the row again can tell. insert() and update() then leave in `stored` the row as the database
-//   was to save it, or no row if that is unknown.
+//   was to save it, or no row if that is unknown. Of a new row in a table without transactions, it is known
+//   only if its key was given; the other values are then in the form in which they were sent.
 class RowWriter
 {
 public:

@@ -155,18 +155,33 @@ void OdbcWaitingWriter::write(const std::function<void(OdbcRowWriter &, RowStore
     stored = std::move(*own);
 }
 
+// Without transactions, the INSERT itself may still be running. All that is known of the row then is what the
+// user has given.
+void OdbcWaitingWriter::writeNew(const std::function<void(OdbcRowWriter &, RowStore &)> &action,
+                                 const std::vector<Change> &changes, RowStore &stored) const
+{
+    try {
+        write(action, stored);
+    } catch (const Error &error) {
+        if (error.is(dbErrInDoubt) && !m_writer->hasTransactions())
+            m_writer->appendSent(changes, stored);
+        throw;
+    }
+}
+
 void OdbcWaitingWriter::insert(const std::vector<Change> &changes, RowStore &stored)
 {
-    write([changes](OdbcRowWriter &writer, RowStore &row) { writer.insert(changes, row); }, stored);
+    writeNew([changes](OdbcRowWriter &writer, RowStore &row) { writer.insert(changes, row); }, changes,
+             stored);
 }
 
 void OdbcWaitingWriter::insertAgain(const std::vector<Change> &changes, const std::vector<RawValue> &before,
                                     RowStore &stored)
 {
     const auto sent = std::make_shared<OwnRow>(before);
-    write([sent, changes](OdbcRowWriter &writer,
-                          RowStore &row) { writer.insertAgain(changes, sent->values(), row); },
-          stored);
+    writeNew([sent, changes](OdbcRowWriter &writer,
+                             RowStore &row) { writer.insertAgain(changes, sent->values(), row); },
+             changes, stored);
 }
 
 void OdbcWaitingWriter::update(const std::vector<RawValue> &row, const std::vector<Change> &changes,

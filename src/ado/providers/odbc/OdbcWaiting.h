@@ -56,6 +56,8 @@ public:
 private:
     void run(std::function<void()> work) const;
     void write(const std::function<void(OdbcRowWriter &, RowStore &)> &action, RowStore &stored) const;
+    void writeNew(const std::function<void(OdbcRowWriter &, RowStore &)> &action,
+                  const std::vector<Change> &changes, RowStore &stored) const;
 
     std::shared_ptr<OdbcRowWriter> m_writer;
     // Locked while the writer works: a read must not return data older than what the writer was saving when

@@ -254,6 +254,19 @@ void OdbcRowWriter::insert(const std::vector<Change> &changes, RowStore &stored)
     insertRow(changes, {}, stored);
 }
 
+void OdbcRowWriter::appendSent(const std::vector<Change> &changes, RowStore &sent) const
+{
+    const auto isGiven = [&](const OdbcTarget::KeyColumn &key) { return changeOf(changes, key.column); };
+    if (!m_target.isRealKey || !std::ranges::all_of(m_target.key, isGiven))
+        return;
+    for (int column = 0; column < sent.columns(); ++column) {
+        QByteArray bytes;
+        const Change *const change = changeOf(changes, column);
+        sent.add(change ? rawValue(change->value, bytes) : RawValue());
+    }
+    sent.endRow();
+}
+
 void OdbcRowWriter::insertAgain(const std::vector<Change> &changes, const std::vector<RawValue> &before,
                                 RowStore &stored)
 {

@@ -31,6 +31,8 @@ public:
                 RowStore &stored) override;
     void remove(const std::vector<RawValue> &row) override;
     bool read(const std::vector<RawValue> &row, RowStore &now) override;
+    // Appends the row that insert() was to save as far as `changes` say, if they contain its key.
+    void appendSent(const std::vector<Change> &changes, RowStore &sent) const;
 
 private:
     using Key = std::vector<RawValue>; // in the order of the target's key columns
