@@ -118,7 +118,7 @@ def test_a_load_says_what_happened(grid):
     assert reasons[-1] == (ADODB.EventReasonEnum.adRsnRequery,)
 
 
-def test_a_late_bound_host_hears_of_errors(grid):
+def test_a_late_bound_host_is_notified_of_errors(grid):
     errors = heard(grid.HostError)
     grid.setProperty('UseModel', 1)
     assert errors == [(382, "Property can't be set at run time")]

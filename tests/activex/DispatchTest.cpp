@@ -55,7 +55,7 @@ TEST(Dispatch, WalksTheRecordsetByNames)
     EXPECT_EQ(rows, 3);
 }
 
-TEST(Dispatch, TellsAFailureOfTheRecordsetWithItsNumber)
+TEST(Dispatch, ReportsAFailureOfTheRecordsetWithItsNumber)
 {
     const Object control = loadedControl();
     const Object records = get(control, L"RecordSet").object();

@@ -18,7 +18,7 @@ std::vector<double> numbersOf(const Container &container, DISPID id)
     return {};
 }
 
-TEST(Events, TellsTheEventsOfTheMouse)
+TEST(Events, ReportsTheEventsOfTheMouse)
 {
     Container container(800, 500);
     load(container);
@@ -44,7 +44,7 @@ TEST(Events, TellsTheEventsOfTheMouse)
     EXPECT_EQ(container.countOf(14) + container.countOf(15), 1);
 }
 
-TEST(Events, TellsAClickOnAHeading)
+TEST(Events, ReportsAClickOnAHeading)
 {
     Container container(800, 500);
     load(container);
@@ -54,7 +54,7 @@ TEST(Events, TellsAClickOnAHeading)
     EXPECT_GT(numbersOf(container, 5).at(0), 0);
 }
 
-TEST(Events, TellsWhenTheResultAndTheRecordChange)
+TEST(Events, ReportsWhenTheResultAndTheRecordChange)
 {
     Container container(800, 500);
     container.forget();
@@ -67,7 +67,7 @@ TEST(Events, TellsWhenTheResultAndTheRecordChange)
     EXPECT_EQ(numbersOf(container, 12).at(1), 2);
 }
 
-TEST(Events, TellsAMouseButtonThatComesUpBesideTheGrid)
+TEST(Events, ReportsAMouseButtonThatIsReleasedBesideTheGrid)
 {
     Container container(800, 500);
     load(container);
@@ -103,7 +103,7 @@ TEST(Events, AHandlerCancelsTheFilter)
     EXPECT_EQ(get(get(container.control(), L"RecordSet").object(), L"RecordCount").number(), 3);
 }
 
-TEST(Events, AHandlerMayLetGoOfTheControl)
+TEST(Events, AHandlerMayReleaseTheControl)
 {
     Container container(800, 500);
     load(container);
@@ -116,7 +116,7 @@ TEST(Events, AHandlerMayLetGoOfTheControl)
     EXPECT_EQ(container.references(), 1u);
 }
 
-TEST(Events, FrozenEventsAreNotTold)
+TEST(Events, FrozenEventsAreNotReported)
 {
     Container container(800, 500);
     load(container);
@@ -129,14 +129,14 @@ TEST(Events, FrozenEventsAreNotTold)
     EXPECT_FALSE(container.events().empty());
 }
 
-TEST(Events, TellsWhichPropertyHasChanged)
+TEST(Events, ReportsWhichPropertyHasChanged)
 {
     Container container(400, 300);
     put(container.control(), L"SQLFilter", L"x");
     EXPECT_EQ(container.changedProperties(), std::vector<DISPID>{16});
 }
 
-TEST(Events, LocatingARecordTellsItsReason)
+TEST(Events, LocatingARecordReportsItsReason)
 {
     Container container(800, 500);
     load(container);
@@ -160,7 +160,7 @@ TEST(Events, AnErrorInsideAHandlerIsTheHandlersOwn)
     EXPECT_TRUE(located.value.isTrue());
 }
 
-TEST(Events, AListenerToPropertiesMayLetGoOfTheControl)
+TEST(Events, AListenerToPropertiesMayReleaseTheControl)
 {
     Container container(400, 300);
     container.onChange([&](DISPID) { container.release(); });

@@ -196,7 +196,7 @@ TEST(AccessPageTest, RowsFillThePageFromItsEnd)
     EXPECT_ADO_ERROR(adErrReadFile, page.row(0));
 }
 
-TEST(AccessCollationTest, LetterCaseCountsInNoScript)
+TEST(AccessCollationTest, LetterCaseIsIgnoredInEveryScript)
 {
     using namespace AccessCollation;
     EXPECT_EQ(compareTexts("Straße", "STRAßE"), 0);
@@ -261,7 +261,7 @@ TEST(AccessFormatTest, DatesAndNumbers)
     EXPECT_EQ(AccessFormat::number(7, u"No 000"_s), u"No 007"_s);
 }
 
-TEST(AccessTypesTest, ADeclarationSaysAllThatTheFieldTells)
+TEST(AccessTypesTest, ADeclarationContainsAllThatTheFieldReports)
 {
     AccessColumn column;
     column.type = AccessType::Numeric;
@@ -303,7 +303,7 @@ TEST(AccessTypesTest, ADeclarationSaysAllThatTheFieldTells)
     }
 }
 
-TEST(AccessQueryTest, OuterJoinsStandBehindTheTablesTheyKeep)
+TEST(AccessQueryTest, OuterJoinsFollowTheTablesTheyKeep)
 {
     using Row = AccessQuery::Row;
     AccessQuery query;

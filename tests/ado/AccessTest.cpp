@@ -132,7 +132,7 @@ TEST_F(AccessTest, FunctionsOfAccessWork)
     EXPECT_EQ(ask(u"SELECT Len(Now()) , Date() <= Now(), Year(Date()) >= 2024"_s), u"19|1|1"_s);
 }
 
-TEST_F(AccessTest, DatesAreReckonedWith)
+TEST_F(AccessTest, DatesCanBeCalculatedWith)
 {
     EXPECT_EQ(ask(u"SELECT #1/31/2020# + 1, #1/31/2020 18:00# - 1.5, #3/1/2020# - #2/1/2020#"_s),
               u"2020-02-01 00:00:00|2020-01-30 06:00:00|29"_s);
@@ -156,7 +156,7 @@ TEST_F(AccessTest, DatesAreReckonedWith)
               u"2|1900-01-01 00:00:00|1899-12-30 01:30:05|1899-12-30 07:08:09|-1|0|0"_s);
 }
 
-TEST_F(AccessTest, NumbersAreReckonedWithAsAccessDoes)
+TEST_F(AccessTest, NumbersAreCalculatedAsInAccess)
 {
     EXPECT_EQ(ask(u"SELECT 7 / 2, 6 / 3 / 4, 1 + 2 - 4, 9223372036854775807 + 1, 1 + NULL"_s),
               u"3.5|0.5|-1|9.22337203685478E+18|"_s);

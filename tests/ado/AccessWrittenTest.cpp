@@ -75,7 +75,7 @@ TEST_F(AccessWrittenTest, ATableOfMoreThan512PagesIsReadWhole)
               u"%1|%2|100"_s.arg(count).arg(qint64{count} * (count - 1) / 2));
 }
 
-TEST_F(AccessWrittenTest, APasswordIsAskedForAndNotTold)
+TEST_F(AccessWrittenTest, APasswordIsRequiredAndNotShown)
 {
     addNames({u"x"_s});
     writer.setPassword(u"s3cret密码"_s);

@@ -34,7 +34,7 @@ protected:
     QString log; // m for moves, r for a record's changes, s for the set's, each with its reason
 };
 
-TEST_F(AdodcTest, TellsOfMovesWithTheirReasons)
+TEST_F(AdodcTest, ReportsMovesWithTheirReasons)
 {
     const auto recordset = database.open(u"SELECT * FROM t"_s);
     adodc.PutRecordset(recordset);
@@ -54,7 +54,7 @@ TEST_F(AdodcTest, TellsOfMovesWithTheirReasons)
     EXPECT_EQ(take(), QString()) << "a move that failed is no move";
 }
 
-TEST_F(AdodcTest, TellsOfChanges)
+TEST_F(AdodcTest, ReportsChanges)
 {
     const auto recordset = database.open(u"SELECT * FROM t"_s);
     adodc.PutRecordset(recordset);
@@ -77,7 +77,7 @@ TEST_F(AdodcTest, TellsOfChanges)
     EXPECT_EQ(take(), u"s7 m10"_s);
 }
 
-TEST_F(AdodcTest, KeepsQuietWhenBlocked)
+TEST_F(AdodcTest, ReportsNothingWhenBlocked)
 {
     const auto recordset = database.open(u"SELECT * FROM t"_s);
     adodc.PutRecordset(recordset);
@@ -95,7 +95,7 @@ TEST_F(AdodcTest, KeepsQuietWhenBlocked)
     EXPECT_EQ(take(), QString()) << "reading cells is no move";
 }
 
-TEST_F(AdodcTest, LetsGoOfARecordsetItIsNoLongerGiven)
+TEST_F(AdodcTest, ReleasesARecordsetThatIsReplaced)
 {
     const auto first = database.open(u"SELECT * FROM t"_s);
     adodc.PutRecordset(first);
@@ -113,7 +113,7 @@ TEST_F(AdodcTest, LetsGoOfARecordsetItIsNoLongerGiven)
     survivor->MoveNext();
 }
 
-TEST_F(AdodcTest, MayBeTakenOffWhileItIsTold)
+TEST_F(AdodcTest, CanBeRemovedDuringANotification)
 {
     const auto recordset = database.open(u"SELECT * FROM t"_s);
     auto first = std::make_unique<Adodc>();

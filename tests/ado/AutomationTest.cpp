@@ -115,7 +115,7 @@ TEST(Automation, DoesNotCloseOverAPendingEdit)
     EXPECT_EQ(recordset->State(), ADODB::adStateClosed);
 }
 
-TEST(Automation, TellsWhatSomebodyElseWrote)
+TEST(Automation, ReportsWhatSomebodyElseWrote)
 {
     const TestDatabase database(script);
     const auto recordset = database.open(u"SELECT * FROM t ORDER BY id"_s);
@@ -265,7 +265,7 @@ TEST(Automation, LivesAsLongAsTheRecordset)
     EXPECT_TRUE(id.isNull());
 }
 
-TEST(Automation, TellsNothingOfAnObjectThatItsCallerDeleted)
+TEST(Automation, ReportsNothingAboutAnObjectThatItsCallerDeleted)
 {
     // An object whose call notifies somebody who deletes it, and then fails.
     auto *object = new ADODB::StreamObject;

@@ -82,7 +82,7 @@ TEST(ConnectionString, LeavesOutEveryPassword)
     EXPECT_EQ(text.textWithoutPassword(), u"Data Source=a.mdb;User ID=me"_s);
 }
 
-TEST(ConnectionString, LeavesOutPasswordsThatStandDeeper)
+TEST(ConnectionString, LeavesOutNestedPasswords)
 {
     const ConnectionString text(
         u"Provider=MSDASQL;Extended Properties=\"DSN=shop;UID=me;PWD=marker;TlsKeyPwd=marker\""_s);

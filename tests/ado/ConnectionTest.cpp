@@ -155,7 +155,7 @@ TEST(Connection, SaysThatAFileIsLocked)
     EXPECT_EQ(database.fileBytes(), before);
 }
 
-TEST(Connection, WaitsAsLongAsItIsTold)
+TEST(Connection, RefusesATimeLimitThatIsNoNumberOfSeconds)
 {
     const TestDatabase database;
     Connection connection;

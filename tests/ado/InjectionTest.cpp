@@ -176,7 +176,7 @@ TEST_P(Injection, RefusesAStatementAfterACarriageReturnEverywhere)
 }
 
 // Common statements still work, with backslashes, brackets and comments in them.
-TEST_P(Injection, LetsHarmlessTextsThrough)
+TEST_P(Injection, AcceptsHarmlessTexts)
 {
     for (const QString &mode : modesOf(QString::fromLatin1(GetParam().name))) {
         const auto connection = connectWith(mode);

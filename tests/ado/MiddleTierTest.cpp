@@ -73,7 +73,7 @@ protected:
 
 } // namespace
 
-TEST(MiddleTier, StandsInForTheServer)
+TEST(MiddleTier, ReplacesTheServer)
 {
     for (const RewriteCase &c : rewriteCases) {
         EXPECT_EQ(c.tier.rewritten(ConnectionString(c.database)).text(), c.rewritten)
@@ -81,7 +81,7 @@ TEST(MiddleTier, StandsInForTheServer)
     }
 }
 
-TEST(MiddleTier, TellsThatItsTextIsMalformedButNotWhatItSays)
+TEST(MiddleTier, ReportsAMalformedTextWithoutQuotingIt)
 {
     const Error error = AdoTest::errorOf([] {
         MiddleTier{{}, {}, u"DSN=pool;PWD='marker"_s}.rewritten(ConnectionString(u"DSN=prod"_s));

@@ -69,7 +69,7 @@ class OdbcServer : public OnServer
 
 KOVA_ON_ODBC_SERVERS(OdbcServer);
 
-TEST_P(OdbcServer, TellsNoPasswordWhenItRefusesOne)
+TEST_P(OdbcServer, ShowsNoPasswordWhenALoginFails)
 {
     Connection connection;
     const Error error = errorOf([&] { connection.Open(connectionString(), {}, marker); });
@@ -80,7 +80,7 @@ TEST_P(OdbcServer, TellsNoPasswordWhenItRefusesOne)
     EXPECT_FALSE(connection.ConnectionString().contains(u"PWD", Qt::CaseInsensitive));
 }
 
-TEST_P(OdbcServer, TellsNoPasswordThatStandsInAStatement)
+TEST_P(OdbcServer, ShowsNoPasswordFromAStatement)
 {
     const ADODB::ConnectionString text(connectionString());
     const QString password = text.value(u"PWD"_s) + text.value(u"Password"_s);
@@ -91,7 +91,7 @@ TEST_P(OdbcServer, TellsNoPasswordThatStandsInAStatement)
 }
 
 #ifdef Q_OS_UNIX
-TEST_P(OdbcServer, WaitsForAConnectionAsLongAsItIsTold)
+TEST_P(OdbcServer, WaitsForAConnectionUntilTheTimeLimit)
 {
     const AdoTest::SilentServer silent;
     ASSERT_GT(silent.port(), 0);
@@ -150,7 +150,7 @@ TEST_P(OdbcServer, IsClosedOnceTheServerEndedItAndCanBeOpenedAgain)
 
 // Preparing a statement again first deallocates the old one in the server; the loss then has another error
 // number.
-TEST_P(OdbcServer, IsKnownToBeLostByAStatementThatIsPreparedAnew)
+TEST_P(OdbcServer, IsKnownToBeLostWhenAStatementIsPreparedAgain)
 {
     const auto connection = std::make_shared<OdbcConnection>();
     connection->connect(connectionString(), 15, {});
@@ -167,7 +167,7 @@ TEST_P(OdbcServer, IsKnownToBeLostByAStatementThatIsPreparedAnew)
     EXPECT_TRUE(connection->isLost());
 }
 
-TEST_P(OdbcServer, LetsNoFunctionInAQueryChangeData)
+TEST_P(OdbcServer, KeepsFunctionsInAQueryFromChangingData)
 {
     execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY)"_s);
     execute(u"DROP FUNCTION IF EXISTS kova_change"_s);

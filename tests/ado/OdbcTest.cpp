@@ -132,7 +132,7 @@ TEST_P(OnOdbc, RefusesWhateverIsNotOneQueryBeforeItRuns)
     EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a WHERE id IN (1, 2)"_s), u"2"_s);
 }
 
-TEST_P(OnOdbc, TellsTheStateAndTheNumberThatTheDriverGives)
+TEST_P(OnOdbc, ReportsTheDriversStateAndNumber)
 {
     const Error error = errorOf([this] { open(u"SELECT * FROM kova_missing"_s); });
     EXPECT_EQ(error.Source(), u"ODBC"_s);
@@ -141,7 +141,7 @@ TEST_P(OnOdbc, TellsTheStateAndTheNumberThatTheDriverGives)
     EXPECT_TRUE(error.Description().contains(u"kova_missing")) << error.what();
 }
 
-TEST_P(OnOdbc, AcceptsOneQueryWithWhatMayStandAroundIt)
+TEST_P(OnOdbc, AcceptsOneQueryWithWhatMaySurroundIt)
 {
     execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY, update_into INTEGER)"_s);
     execute(u"INSERT INTO kova_a VALUES (1, 1), (2, 2)"_s);

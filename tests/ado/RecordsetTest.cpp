@@ -98,7 +98,7 @@ TEST(Recordset, PagesCountLiveRecords)
     EXPECT_EQ(recordset->CellText(11, 0), u"14"_s);
 }
 
-TEST(Recordset, OfNoRecordsStandsAtBothEnds)
+TEST(Recordset, WithoutRecordsIsAtBothEnds)
 {
     const TestDatabase database(numbers);
     const auto recordset = database.open(u"SELECT * FROM n WHERE i < 0"_s);

@@ -81,7 +81,7 @@ TEST(Opening, RefusesWhateverIsNotOneQueryBeforeItRuns)
     EXPECT_EQ(database.fileBytes(), before);
 }
 
-TEST(Opening, AcceptsOneQueryWithWhatMayStandAroundIt)
+TEST(Opening, AcceptsOneQueryWithWhatMaySurroundIt)
 {
     const TestDatabase database(script);
     for (const char *sql :
@@ -121,7 +121,7 @@ TEST(Opening, KeepsWhatAStatementCallsFromWriting)
 }
 
 // SQLite's full-text search can be told where in memory its functions are.
-TEST(Opening, LetsNoStatementNameCodeToRun)
+TEST(Opening, RefusesStatementsThatNameCodeToRun)
 {
     const TestDatabase database;
     for (const char *sql : {"SELECT fts3_tokenizer('simple', x'4141414141414141') AS a",
@@ -159,7 +159,7 @@ TEST(Opening, ReadsAndWritesTablesForSearchingTextsAndPlaces)
 }
 
 // A schema from a stranger can hold anything.
-TEST(Opening, LetsASchemaCallOnlyWhatHasNoEffect)
+TEST(Opening, ASchemaCanCallOnlyFunctionsWithoutEffects)
 {
     const TestDatabase database(u"CREATE TABLE t(a); INSERT INTO t VALUES (1);"
                                 "CREATE VIEW v AS SELECT kova_digest(a) FROM t;"
@@ -168,7 +168,7 @@ TEST(Opening, LetsASchemaCallOnlyWhatHasNoEffect)
     EXPECT_THROW(database.open(u"SELECT * FROM w"_s), Error);
 }
 
-TEST(Opening, TellsWhatIsWrongInTheDatabasesOwnWords)
+TEST(Opening, ReportsErrorsInTheDatabasesOwnWords)
 {
     const TestDatabase database(script);
     const Error error = AdoTest::errorOf([&] { database.open(u"selec"_s); });

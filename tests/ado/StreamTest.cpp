@@ -38,7 +38,7 @@ TEST(Stream, SavesAPictureToANewFile)
     EXPECT_EQ(stream.Position(), 0);
 }
 
-TEST(Stream, ReplacesAFileOnlyWhenTold)
+TEST(Stream, ReplacesAFileOnlyOnRequest)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"a"_s);

@@ -144,7 +144,7 @@ TEST_P(WriteOutcomes, FollowARowWhoseComputedFieldsChangeByThemselves)
     EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"1"_s);
 }
 
-TEST_P(WriteOutcomes, SaveWhereAnotherRowIsLockedAndTellWhenTheirOwnIs)
+TEST_P(WriteOutcomes, SaveWhereAnotherRowIsLockedAndReportWhenTheirOwnIs)
 {
     if (is("SQLite"))
         GTEST_SKIP() << "it locks the whole file";

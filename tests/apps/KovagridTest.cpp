@@ -87,7 +87,7 @@ TEST_F(Kovagrid, PrintsAsManyRowsAsAskedFor)
     EXPECT_EQ(runOnOrders({u"--sql"_s, u"select ID from orders"_s, u"--print=0"_s}).output, u"ID\n"_s);
 }
 
-TEST_F(Kovagrid, WithoutADisplayItTellsWhatItLoaded)
+TEST_F(Kovagrid, WithoutADisplayItPrintsWhatItLoaded)
 {
     const Outcome outcome = runOnOrders({u"--sql"_s, u"select * from orders"_s});
     EXPECT_EQ(outcome.exitCode, 0) << outcome.errors.toStdString();
@@ -134,7 +134,7 @@ TEST_F(Kovagrid, MakesItsSampleDatabaseOnceForSeveralFirstStarts)
               QStringList{u"sample.db"_s});
 }
 
-TEST_F(Kovagrid, MakesASampleDatabaseOfAnOlderKindAnew)
+TEST_F(Kovagrid, ReplacesASampleDatabaseOfAnOlderKind)
 {
     ASSERT_TRUE(QDir(home.path()).mkdir(u"kovagrid"_s));
     ASSERT_TRUE(QFile::copy(database.path(), home.filePath(u"kovagrid/sample.db"_s)));
@@ -171,7 +171,7 @@ TEST_F(Kovagrid, SavesAPictureOfItsWindow)
     EXPECT_EQ(failed.errors, u"无法保存窗口截图：/nowhere/x.png\n"_s);
 }
 
-TEST_F(Kovagrid, PressesButtonsOneBehindTheOther)
+TEST_F(Kovagrid, PressesButtonsOneAfterTheOther)
 {
     const QStringList toPrint{u"--sql"_s, u"select * from orders"_s, u"--part"_s, u"select ID from orders"_s,
                               u"--print=1"_s};

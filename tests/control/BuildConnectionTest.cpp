@@ -72,7 +72,7 @@ TEST_F(BuildConnection, OnlyOraclesConnectionComesFromTheFactory)
     grid.PutDBType(KOVAVSFDataGrid::dbAccess);
 }
 
-TEST_F(BuildConnection, AFactoryThatFailsIsToldAndLeavesTheString)
+TEST_F(BuildConnection, AFactoryThatFailsIsReportedAndLeavesTheString)
 {
     class FailingFactory final : public NotingFactory
     {
@@ -140,7 +140,7 @@ TEST_F(BuildConnection, OffersTheDriversOfThisMachine)
     grid.GetConnection();
 }
 
-TEST_F(BuildConnection, AFailedTestTellsWhyAndCancelKeepsTheOldString)
+TEST_F(BuildConnection, AFailedTestSaysWhyAndCancelKeepsTheOldString)
 {
     grid.PutConnectionString(u"Provider=SQLite;Data Source=old.db"_s);
     WindowAnswers windows(

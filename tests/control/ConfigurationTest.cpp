@@ -107,7 +107,7 @@ TEST_F(ThreeTierFile, MissingMeansOff)
     EXPECT_EQ(readProfileValue(u"Use3Tier"_s, u"MERIX"_s, path), u"Return Err"_s);
 }
 
-TEST_F(ThreeTierFile, ValuesAreReadAsTheyStand)
+TEST_F(ThreeTierFile, ValuesAreReadUnchanged)
 {
     write("[Paths]\nFolder=C:\\new\\table; all %20, 中文 = \"x\"\nEmpty=\nLong=" + QByteArray(400, 'x') +
           "\n");
@@ -156,7 +156,7 @@ TEST_F(ThreeTierFile, LoadsGoThroughTheMiddleTierItNames)
     grid.PutDBType(KOVAVSFDataGrid::dbAccess);
 }
 
-TEST_F(ThreeTierFile, TheFactoryIsToldWhenAControlIsMade)
+TEST_F(ThreeTierFile, TheFactoryIsNotifiedWhenAControlIsMade)
 {
     write("[Use3Tier]\nMERIX=YES\n");
     ADODB::ConnectionFactory::setInstance(nullptr);

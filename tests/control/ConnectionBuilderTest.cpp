@@ -143,7 +143,7 @@ TEST_F(Builder, KeepsATargetThatIsNotInstalled)
     EXPECT_EQ(dialog.connectionString(), u"DSN=elsewhere;UID=me"_s);
 }
 
-TEST_F(Builder, BeginsAnewWhereTheStringMakesNoSense)
+TEST_F(Builder, StartsEmptyWhereTheStringMakesNoSense)
 {
     begin(u"no keyword"_s);
     EXPECT_EQ(targets().currentText(), u"SQLite database file"_s);
@@ -184,7 +184,7 @@ TEST_F(Builder, TheTestTriesTheStringWithItsPassword)
     EXPECT_TRUE(dialog.isVisible());
 }
 
-TEST_F(Builder, TheTestTellsTheDatabasesOwnWords)
+TEST_F(Builder, TheTestShowsTheDatabasesOwnWords)
 {
     begin(u"DSN=shop"_s);
     failure = u"FATAL: no such <b>role</b>"_s;

@@ -102,7 +102,7 @@ TEST_P(ReadStatement, NamesItsFieldsOrNothing)
     EXPECT_EQ(database.ask(u"select count(*) from T"_s), u"1"_s);
 }
 
-TEST_F(Reader, TellsTheTypes)
+TEST_F(Reader, ReportsTheTypes)
 {
     const auto fields = reader.Read(here, u"select * from T"_s);
     ASSERT_TRUE(fields);
@@ -143,7 +143,7 @@ TEST_F(Reader, OpensAConnectionOfItsOwnOnceTheControlHasClosedIts)
     EXPECT_EQ(connections, 2);
 }
 
-TEST_F(Reader, ReadsAStatementOnceUntilItIsToldToForget)
+TEST_F(Reader, ReadsAStatementOnceUntilItIsReset)
 {
     EXPECT_EQ(names(here, u"select * from T"_s).size(), 3);
     database.run(u"ALTER TABLE T ADD COLUMN D"_s);

@@ -15,7 +15,7 @@ ConnectionSettings settingsOf(const QString &text)
 
 } // namespace
 
-TEST(ConnectionSettings, TellTheTargetOfAString)
+TEST(ConnectionSettings, FindTheTargetOfAString)
 {
     const auto is = [](const QString &text, Kind kind, const QString &name = {}) {
         EXPECT_EQ(settingsOf(text).target, (ConnectionTarget{kind, name})) << qPrintable(text);

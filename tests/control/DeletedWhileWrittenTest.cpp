@@ -20,7 +20,7 @@ class DeletedWhileWritten : public testing::TestWithParam<Writing>
 {
 };
 
-TEST_P(DeletedWhileWritten, TellsNothingMore)
+TEST_P(DeletedWhileWritten, ReportsNothingMore)
 {
     const Writing &writing = GetParam();
     for (qsizetype last = 1; last <= writing.told.size(); ++last) {

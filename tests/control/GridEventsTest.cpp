@@ -76,7 +76,7 @@ struct GridEventsTest : GridFixture
 
 } // namespace
 
-TEST_F(GridEventsTest, AClickMovesTheRecordsetAndTellsTheHostBeforeTheButtonIsUp)
+TEST_F(GridEventsTest, AClickMovesTheRecordsetAndNotifiesTheHostBeforeTheButtonIsUp)
 {
     click(3, 2);
     EXPECT_EQ(grid.CurrPosition(), 3);
@@ -85,7 +85,7 @@ TEST_F(GridEventsTest, AClickMovesTheRecordsetAndTellsTheHostBeforeTheButtonIsUp
                                 u"DataMouseUp 1 0"_s}));
 }
 
-TEST_F(GridEventsTest, AClickOnTheCurrentRowIsToldButMovesNothing)
+TEST_F(GridEventsTest, AClickOnTheCurrentRowIsReportedButMovesNothing)
 {
     click(1, 2);
     EXPECT_EQ(grid.CurrPosition(), 1);
@@ -102,7 +102,7 @@ TEST_F(GridEventsTest, AClickOnTheCurrentRowBringsBackARecordsetThatTheHostHasMo
     }
 }
 
-TEST_F(GridEventsTest, AClickBehindTheLastRecordIsToldButMovesNothing)
+TEST_F(GridEventsTest, AClickAfterTheLastRecordIsReportedButMovesNothing)
 {
     grid.RecordSet()->setProperty("AbsolutePosition", 4);
     QMetaObject::invokeMethod(grid.RecordSet(), "Delete");
@@ -157,7 +157,7 @@ TEST_F(GridEventsTest, AClickBelowTheLastRowIsNoDataClick)
     EXPECT_EQ(log, QStringList({u"DataMouseDown 1 0"_s, u"DataMouseUp 1 0"_s}));
 }
 
-TEST_F(GridEventsTest, BeforeAnyLoadNothingIsTold)
+TEST_F(GridEventsTest, BeforeAnyLoadNothingIsReported)
 {
     grid.Clear();
     log.clear();
@@ -169,7 +169,7 @@ TEST_F(GridEventsTest, BeforeAnyLoadNothingIsTold)
     EXPECT_EQ(grid.CurrPosition(), 0);
 }
 
-TEST_F(GridEventsTest, ADoubleClickOnACellIsToldInTwoSteps)
+TEST_F(GridEventsTest, ADoubleClickOnACellIsReportedInTwoSteps)
 {
     doubleClick(2, 3);
     EXPECT_EQ(doubleClickEvents(), QStringList({u"DataDblClick"_s, u"DataDBLClickOneCell 3 2"_s}));
@@ -352,7 +352,7 @@ INSTANTIATE_TEST_SUITE_P(
                     KeyCase{Qt::Key_Exclam, Qt::ShiftModifier, 49, 1},
                     KeyCase{Qt::Key_Semicolon, {}, 186, 0}));
 
-TEST_P(KeyDown, IsToldByItsVirtualKeyNumber)
+TEST_P(KeyDown, IsReportedByItsVirtualKeyNumber)
 {
     record<&KOVAVSFDataGrid::DataKeyDown>(u"DataKeyDown"_s);
     QTest::keyClick(table, GetParam().key, GetParam().modifiers);
@@ -361,7 +361,7 @@ TEST_P(KeyDown, IsToldByItsVirtualKeyNumber)
     EXPECT_EQ(keys.last(), u"DataKeyDown %1 %2"_s.arg(GetParam().code).arg(GetParam().shift));
 }
 
-TEST_F(GridEventsTest, AKeyWithoutANumberIsNotTold)
+TEST_F(GridEventsTest, AKeyWithoutANumberIsNotReported)
 {
     record<&KOVAVSFDataGrid::DataKeyDown>(u"DataKeyDown"_s);
     QTest::keyClick(table, Qt::Key_MediaPlay);

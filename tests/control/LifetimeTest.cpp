@@ -54,7 +54,7 @@ TEST_F(Lifetime, TheResultIsClosedWithTheControl)
     EXPECT_TRUE(!recordset || recordset->property("State") == ADODB::adStateClosed);
 }
 
-TEST_F(Lifetime, TheResultIsClosedWithAControlThatIsDeletedWhileItIsTold)
+TEST_F(Lifetime, TheResultIsClosedWithAControlThatIsDeletedDuringItsNotification)
 {
     QObject::connect(grid.get(), &KOVAVSFDataGrid::RecordsetChanged, grid.get(), [this] { grid.reset(); });
     EXPECT_FALSE(grid->IsLoadData());

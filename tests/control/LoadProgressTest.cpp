@@ -69,7 +69,7 @@ struct LoadProgressTest : GridFixture
 
 } // namespace
 
-TEST_F(LoadProgressTest, TheLineTellsHowManyRecordsHaveBeenRead)
+TEST_F(LoadProgressTest, TheLineShowsHowManyRecordsHaveBeenRead)
 {
     int value = 0;
     QString text;
@@ -225,7 +225,7 @@ TEST_F(LoadProgressTest, DeletingTheControlEndsTheLoadSilently)
     EXPECT_TRUE(load(u"select A from (select 1 as A)"_s)) << "another control can load again";
 }
 
-TEST_F(LoadProgressTest, ALongLoadThatIsLetGoOnSucceeds)
+TEST_F(LoadProgressTest, ALongLoadThatIsNotCancelledSucceeds)
 {
     bool isSeen = false;
     QTimer::singleShot(0, &grid, [&] { isSeen = line(); });

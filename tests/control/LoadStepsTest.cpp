@@ -164,7 +164,7 @@ TEST_F(LoadSteps, SpellOutTheFieldsForOracleWithLongBinaryOnesLast)
     EXPECT_EQ(grid.RecordSource(), u"select A from T"_s) << "nothing to spell out";
 }
 
-TEST_F(LoadSteps, TellWhyWhenOraclesFieldsCantBeRead)
+TEST_F(LoadSteps, ReportWhyOraclesFieldsCantBeRead)
 {
     ASSERT_TRUE(load(u"select * from T"_s));
     grid.PutDBType(KOVAVSFDataGrid::dbOracle);
@@ -178,7 +178,7 @@ TEST_F(LoadSteps, TellWhyWhenOraclesFieldsCantBeRead)
     EXPECT_EQ(table->model()->rowCount(), 3);
 }
 
-TEST_F(LoadSteps, TellWhyWhenOraclesDatabaseCantBeReached)
+TEST_F(LoadSteps, ReportWhyOraclesDatabaseCantBeReached)
 {
     for (const QString &nowhere : {u"Provider=SQLite;Data Source=/nowhere/none.db"_s, QString()}) {
         grid.PutConnectionString(nowhere);
@@ -244,7 +244,7 @@ TEST_F(LoadSteps, KeepThePageWhileAnEditCantBeSaved)
     QMetaObject::invokeMethod(grid.RecordSet(), "CancelUpdate");
 }
 
-TEST_F(LoadSteps, LocateARecordFromBehindTheLastOneOnALaterPage)
+TEST_F(LoadSteps, LocateARecordFromAfterTheLastOneOnALaterPage)
 {
     ASSERT_TRUE(load(u"with recursive N(n) as (select 1 union all select n + 1 from N where n < 1000000) "
                      "select n from N"_s));
@@ -258,7 +258,7 @@ TEST_F(LoadSteps, LocateARecordFromBehindTheLastOneOnALaterPage)
     EXPECT_EQ(grid.CurrPosition(), 7);
 }
 
-TEST_F(LoadSteps, TellOfAStatementWithoutFromWhenItIsSet)
+TEST_F(LoadSteps, ReportAStatementWithoutFromWhenItIsSet)
 {
     MessageAnswers messages;
     grid.PutSQLShow(u"select A"_s);

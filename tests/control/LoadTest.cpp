@@ -83,7 +83,7 @@ TEST_F(Load, MakesTheFirstRowAndItsRecordCurrent)
     EXPECT_EQ(grid.RecordSource(), u"select * from T"_s);
 }
 
-TEST_F(Load, TellsThePage)
+TEST_F(Load, ShowsThePage)
 {
     EXPECT_EQ(part<QLabel>("lblFieldCount")->text(), u"第页共页  只显示999999条以内的记录"_s);
     ASSERT_TRUE(load(u"select * from T"_s));
@@ -139,7 +139,7 @@ TEST_F(Load, TheHostGivesTheKeyboardToTheData)
     EXPECT_EQ(grid.window()->focusWidget(), table);
 }
 
-TEST_F(Load, TellsTheHostThatTheRecordsetWasReplaced)
+TEST_F(Load, NotifiesTheHostThatTheRecordsetWasReplaced)
 {
     QSignalSpy replaced(&grid, &KOVAVSFDataGrid::RecordsetChanged);
     ASSERT_TRUE(load(u"select * from T"_s));
@@ -164,7 +164,7 @@ INSTANTIATE_TEST_SUITE_P(Statements, FailedLoad,
                                          "pragma user_version = 7",
                                          "insert into T values (9,'x',1,'2000-01-01') returning ID"));
 
-TEST_P(FailedLoad, IsToldAndChangesNothing)
+TEST_P(FailedLoad, IsReportedAndChangesNothing)
 {
     ASSERT_TRUE(load(u"select * from T"_s));
     grid.SetGridRow(2);
@@ -193,7 +193,7 @@ TEST_P(FailedLoad, IsToldAndChangesNothing)
     EXPECT_EQ(file.readAll(), before) << "the database file changed";
 }
 
-TEST_F(Load, AMissingFileIsToldByNameAndNotCreated)
+TEST_F(Load, AMissingFileIsReportedByNameAndNotCreated)
 {
     const QString missing = database.path() + u".missing"_s;
     grid.PutConnectionString(u"Provider=SQLite;Data Source="_s + missing);
@@ -204,7 +204,7 @@ TEST_F(Load, AMissingFileIsToldByNameAndNotCreated)
     EXPECT_FALSE(QFile::exists(missing));
 }
 
-TEST_F(Load, APasswordStandsInNoMessage)
+TEST_F(Load, NoMessageContainsAPassword)
 {
     grid.PutConnectionString(u"Provider=NoSuchProvider;Data Source=x;Password=geheim42;PWD=geheim42"_s);
     MessageAnswers messages;
@@ -230,7 +230,7 @@ TEST_F(Load, ClearClosesAndEmptiesAndAllowsAnotherLoad)
     EXPECT_EQ(grid.RecordSet(), nullptr);
 }
 
-TEST_F(Load, ClearObjectLetsGoOfTheFileAndAllowsAnotherLoad)
+TEST_F(Load, ClearObjectReleasesTheFileAndAllowsAnotherLoad)
 {
     ASSERT_TRUE(load(u"select * from T"_s));
     grid.ClearObject();

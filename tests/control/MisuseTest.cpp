@@ -70,27 +70,27 @@ void clickIn(QDialog &dialog, const QString &name)
 
 } // namespace
 
-TEST_F(Misuse, AWrongColumnIsTold)
+TEST_F(Misuse, AWrongColumnIsReported)
 {
     grid.SetGridCol(3);
     expectOne(u"Wrong Col Number!"_s, u"Set Grid Col"_s);
     EXPECT_EQ(grid.GetGridCol(), 1);
 }
 
-TEST_F(Misuse, AWrongRowIsTold)
+TEST_F(Misuse, AWrongRowIsReported)
 {
     grid.SetGridRow(-1);
     expectOne(u"Wrong Row Number!"_s, u"Set Grid Row"_s);
     EXPECT_EQ(grid.GetGridRow(), 1);
 }
 
-TEST_F(Misuse, AWrongCellIsToldAndGivesTheEmptyText)
+TEST_F(Misuse, AWrongCellIsReportedAndGivesTheEmptyText)
 {
     EXPECT_EQ(grid.CellText(201, 1), QString());
     expectOne(u"The value of row or col is out of range!"_s, u"Get CellText"_s);
 }
 
-TEST_F(Misuse, AWrongCellByLongIndexIsToldUnderItsOwnTitle)
+TEST_F(Misuse, AWrongCellByLongIndexIsReportedUnderItsOwnTitle)
 {
     EXPECT_EQ(grid.CellTextL(1, 100000), QString());
     expectOne(u"The value of row or col is out of range!"_s, u"Get CellTextL"_s);
@@ -108,7 +108,7 @@ TEST_F(Misuse, RowsAndColumnsPassToTheGrid)
     EXPECT_TRUE(messages.shown().empty());
 }
 
-TEST_F(Misuse, LocatingARowMovesGridAndRecordAndTells)
+TEST_F(Misuse, LocatingARowMovesGridAndRecordAndIsReported)
 {
     QSignalSpy moves(&grid, &KOVAVSFDataGrid::RecordChanged);
     EXPECT_TRUE(grid.LocateSelRecord(120));
@@ -232,7 +232,7 @@ struct FailingStep : Misuse, testing::WithParamInterface<QMessageBox::StandardBu
 
 INSTANTIATE_TEST_SUITE_P(Answers, FailingStep, testing::Values(QMessageBox::Yes, QMessageBox::No));
 
-TEST_P(FailingStep, IsToldWithItsNumberAndTheQuestionWhetherToContinue)
+TEST_P(FailingStep, IsReportedWithItsNumberAndTheQuestionWhetherToContinue)
 {
     QObject::connect(&grid, &KOVAVSFDataGrid::PropertyChanged, &grid,
                      [] { throw ADODB::Error(ADODB::adErrNoCurrentRecord, u"no record"_s); });

@@ -94,7 +94,7 @@ TEST_F(Pages, TheLabelIsSeenWhole)
     EXPECT_GE(shown->width(), shown->sizeHint().width());
 }
 
-TEST_F(Pages, APageBehindTheLastBecomesTheLast)
+TEST_F(Pages, APageAfterTheLastBecomesTheLast)
 {
     ASSERT_TRUE(load(numbers(1000000)));
     goTo(u"7"_s);

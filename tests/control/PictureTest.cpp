@@ -79,7 +79,7 @@ TEST_F(Picture, OfARecordWithoutOneIsNoFile)
     EXPECT_EQ(clicks.count(), 1);
 }
 
-TEST_F(Picture, IsThereBeforeTheHostIsTold)
+TEST_F(Picture, IsThereBeforeTheHostIsNotified)
 {
     show(u"Photo"_s);
     QByteArray seen;

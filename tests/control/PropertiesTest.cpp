@@ -237,7 +237,7 @@ TEST_F(Properties, UseModelIsRefusedWhileTheHostRuns)
     }
 }
 
-TEST_F(Properties, UseModelTellsALateBoundHostBySignal)
+TEST_F(Properties, UseModelNotifiesALateBoundHostBySignal)
 {
     QSignalSpy errors(&grid, &KOVAVSFDataGrid::HostError);
     EXPECT_EQ(grid.property("UseModel").toInt(), 0);

@@ -65,7 +65,7 @@ TEST_F(Resize, TheGridFillsThePanelBetweenToolbarAndFoot)
     }
 }
 
-TEST_F(Resize, ThePageControlsStandBelowTheGridSideBySide)
+TEST_F(Resize, ThePageControlsAreBelowTheGridSideBySide)
 {
     grid.resize(pixels(12000), pixels(6000));
     const QRect table = placeOf(u"vsfgDataGrid"_s);
@@ -116,7 +116,7 @@ TEST_F(Resize, APageLabelWithoutRoomIsWholeInItsToolTip)
     EXPECT_EQ(pointAt(), label->text());
 }
 
-TEST_F(Resize, WhatAnEmptyGridTellsStaysInsideIt)
+TEST_F(Resize, TheTextOfAnEmptyGridStaysInsideIt)
 {
     const auto *hint = grid.findChild<QLabel *>(u"lblEmpty"_s);
     const auto *table = grid.findChild<QTableView *>(u"vsfgDataGrid"_s);

@@ -127,7 +127,7 @@ TEST_F(HandBack, ThePageGoesAlong)
     EXPECT_EQ(row(1), u"1"_s);
 }
 
-TEST_F(HandBack, AnotherResultIsTakenOver)
+TEST_F(HandBack, ADifferentResultIsShownInTheControl)
 {
     load(u"select * from T"_s);
     QSignalSpy replaced(parts.Adodc1, &ADODB::Adodc::RecordsetChangeComplete);
@@ -147,7 +147,7 @@ TEST_F(HandBack, AnotherResultIsTakenOver)
     EXPECT_EQ(position(), 1);
 }
 
-TEST_F(HandBack, AnEmptyResultIsTakenOverToo)
+TEST_F(HandBack, ADifferentEmptyResultIsShownToo)
 {
     load(u"select * from T"_s);
     condition = u"ID > 99"_s;
@@ -218,7 +218,7 @@ TEST_F(HandBack, WhatTheControlDoesNotOfferTheViewerDoesNotEither)
     });
 }
 
-TEST_F(HandBack, TheSelectionDialogsStandAboveTheViewer)
+TEST_F(HandBack, TheSelectionDialogsAreAboveTheViewer)
 {
     load(u"select * from T"_s);
     DialogFieldChooser dialogs(&control);
@@ -252,7 +252,7 @@ TEST_F(HandBack, AHostThatReloadsMeanwhileEndsTheVisit)
     EXPECT_EQ(history().Count(), 1);
 }
 
-TEST_F(HandBack, AHostThatReloadsBehindTheFilterDialogEndsTheVisit)
+TEST_F(HandBack, AHostThatReloadsDuringTheFilterDialogEndsTheVisit)
 {
     load(u"select * from T"_s);
     askCondition = [this] {

@@ -52,7 +52,7 @@ TEST_F(Viewer, TheMenuFollowsTheButtonsAndTheCell)
     EXPECT_TRUE(user.menuItem(7)->isEnabled());
 }
 
-TEST_F(Viewer, TheMenuTellsTheShortcutsOfItsButtons)
+TEST_F(Viewer, TheMenuShowsTheShortcutsOfItsButtons)
 {
     EXPECT_TRUE(user.menuItem(1)->text().endsWith(u"\tCtrl+1"_s)) << qPrintable(user.menuItem(1)->text());
     EXPECT_TRUE(user.menuItem(5)->text().endsWith(u"\tCtrl+0"_s));
@@ -102,7 +102,7 @@ TEST_F(Viewer, TheCellFiltersShortcutWorksAsInTheControl)
     EXPECT_TRUE(latestStatement().contains(u"Name like 'Anna'"_s)) << qPrintable(latestStatement());
 }
 
-TEST_F(Viewer, TheMenusCellFilterTellsWhatItCantFilterBy)
+TEST_F(Viewer, TheMenusCellFilterReportsWhatItCantFilterBy)
 {
     load(u"select * from T"_s);
     show();

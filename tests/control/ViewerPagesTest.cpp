@@ -113,7 +113,7 @@ TEST_F(PagedViewer, EnterInThePageBoxGoesThere)
     EXPECT_TRUE(viewer.isVisible()) << "Enter presses no other button";
 }
 
-TEST_F(PagedViewer, ANumberBelowOneIsToldAndMovesNothing)
+TEST_F(PagedViewer, ANumberBelowOneIsReportedAndMovesNothing)
 {
     show(2);
     for (const QString &typed : {u"0"_s, u"-1"_s, u"-99999999999999"_s}) {

@@ -120,7 +120,7 @@ TEST_F(Viewer, AnEmptyResultShowsTheHeadingsAlone)
     EXPECT_EQ(user.label(), u"第0页共0页"_s);
 }
 
-TEST_F(Viewer, AnEmptyResultIsToldWithTheWayBack)
+TEST_F(Viewer, AnEmptyResultShowsTheWayBack)
 {
     load(u"select * from T"_s);
     show();

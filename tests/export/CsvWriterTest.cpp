@@ -100,7 +100,7 @@ TEST(CsvWriter, WritesWhatAnotherReaderReads)
                     {{}, u"9007199254740993"_s, u"0"_s, u"2024-02-29"_s, u"True"_s, {}}}));
 }
 
-TEST(CsvWriter, GuardsFormulasUnlessToldNotTo)
+TEST(CsvWriter, GuardsFormulasUnlessThisIsTurnedOff)
 {
     ExportRecords records;
     records.open(u"SELECT '=1+1' AS \"=H\", '-5' AS N, '+1-2' AS P, -5 AS M, '@a,\"b\"' AS Q"_s);

@@ -38,7 +38,7 @@ TEST(JsonLinesWriter, WritesObjectsThatAnotherReaderReads)
     EXPECT_TRUE(objects[2][u"R"].isNull()) << "JSON has no infinity";
 }
 
-TEST(JsonLinesWriter, TellsColumnsOfOneNameApart)
+TEST(JsonLinesWriter, DistinguishesColumnsOfTheSameName)
 {
     ExportRecords records;
     records.open(u"SELECT 1 AS A, 2 AS A_2, 3 AS A, 4 AS A"_s);

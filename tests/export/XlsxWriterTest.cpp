@@ -61,7 +61,7 @@ TEST_F(XlsxWriterTest, IsReadWithItsTypesByAnotherProgram)
     EXPECT_EQ(lines.size(), 1 + 8 + 8 + 6) << "Nulls are empty cells";
 }
 
-TEST_F(XlsxWriterTest, GoesOnOnFurtherSheets)
+TEST_F(XlsxWriterTest, ContinuesOnFurtherSheets)
 {
     records.open(u"WITH N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 25) SELECT I FROM N"_s);
     QFile file(records.path(u"t.xlsx"_s));

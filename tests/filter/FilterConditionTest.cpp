@@ -167,7 +167,7 @@ TEST(FilterCondition, ADayInAMomentFieldMeansTheWholeDay)
     EXPECT_EQ(sql(moment, Equals, day, {}, oracleServer), "(F >= {d '2024-01-05'} AND F < {d '2024-01-06'})");
 }
 
-TEST(FilterCondition, YesAndNoAreToldByNumberOrOnServersByText)
+TEST(FilterCondition, YesAndNoAreWrittenAsNumbersOrOnServersAsTexts)
 {
     EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"是"_s), "F <> 0");
     EXPECT_EQ(sql(FieldClass::Boolean, NotEquals, u"是"_s), "(F = 0 OR F IS NULL)");
@@ -176,7 +176,7 @@ TEST(FilterCondition, YesAndNoAreToldByNumberOrOnServersByText)
     EXPECT_EQ(sql(FieldClass::Boolean, Equals, u"是"_s, {}, {dbAccess, true}), "F <> 0");
 }
 
-TEST(FilterCondition, FaultsAreSaidInsteadOfACondition)
+TEST(FilterCondition, FaultsAreReportedInsteadOfACondition)
 {
     EXPECT_EQ(sql(FieldClass::Text, Equals), "fault: 请输入值。");
     EXPECT_EQ(sql(FieldClass::Text, Contains), "fault: 请输入值。");

@@ -62,7 +62,7 @@ TEST_F(Source, FindsATableThatIsNamedWithoutItsBrackets)
     EXPECT_EQ(written(u"订单 明细"_s).at(2), u"[单价(元)]"_s);
 }
 
-TEST_F(Source, TellsFieldsOfSeveralTablesApart)
+TEST_F(Source, DistinguishesFieldsOfSeveralTables)
 {
     EXPECT_EQ(written(u"A, B"_s), (QStringList{u"A.ID"_s, u"X"_s, u"B.ID"_s, u"Y"_s}));
     EXPECT_EQ(written(u"A inner join B on A.ID = B.ID"_s).size(), 4);
@@ -176,7 +176,7 @@ TEST_F(Source, UsesAConnectionThatItIsGiven)
     EXPECT_EQ(connection->State(), ADODB::adStateOpen);
 }
 
-TEST_F(Source, LetsTheDatabaseLookAtACondition)
+TEST_F(Source, AsksTheDatabaseToCheckACondition)
 {
     source.setTable(u"A"_s);
     EXPECT_NO_THROW(source.check(u"ID > 5 OR X LIKE 'a%'"_s));

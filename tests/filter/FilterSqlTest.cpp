@@ -18,7 +18,7 @@ void expectText(const QString &text, const char *expected)
 
 } // namespace
 
-TEST(FilterSql, TermsAreJoinedAsTheyStand)
+TEST(FilterSql, TermsAreJoinedUnchanged)
 {
     expectText(join({}), "");
     expectText(join({{u"a"_s}}), "a");

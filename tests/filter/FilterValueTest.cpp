@@ -82,7 +82,7 @@ TEST(FilterValue, YesAndNoAreReadInSeveralWords)
     EXPECT_EQ(literal(FieldClass::Boolean, u"maybe"_s), "-");
 }
 
-TEST(FilterValue, WhatIsMissingOrWrongIsSaidInOneLine)
+TEST(FilterValue, WhatIsMissingOrWrongIsReportedInOneLine)
 {
     EXPECT_EQ(whyNoFilterValue(FieldClass::Number, u" "_s), u"请输入值。"_s);
     EXPECT_EQ(whyNoFilterValue(FieldClass::Number, u"abc"_s), u"“abc”不是数字。"_s);

@@ -157,7 +157,7 @@ TEST_F(Builder, ACountThatTakesLongSaysSoAndCanBeStopped)
     EXPECT_NE(answer(), "");
 }
 
-TEST_F(Builder, ACountThatTheDatabaseRefusesIsSaidWithItsReason)
+TEST_F(Builder, ACountThatTheDatabaseRefusesIsReportedWithItsReason)
 {
     fillRow(1, u"编号"_s, u"大于"_s, u"1"_s);
     database.run(u"DROP TABLE 订单"_s);
@@ -271,7 +271,7 @@ TEST_F(Builder, ARowAddedAndDeletedAtOnceLeavesNothingBehind)
     EXPECT_FALSE(exists("cmbField1"));
 }
 
-TEST_F(Builder, AMissingValueIsSaidOnlyOnceTheConditionIsWanted)
+TEST_F(Builder, AMissingValueIsReportedOnlyOnceTheConditionIsNeeded)
 {
     text("txtValue1").setFocus();
     key(dialog, Qt::Key_Tab);

@@ -11,7 +11,7 @@ using TypedCondition = BuilderFixture;
 
 } // namespace
 
-TEST_F(TypedCondition, AConditionTypedByHandCountsUntilTheRowsAreWantedBack)
+TEST_F(TypedCondition, AConditionTypedByHandAppliesUntilTheRowsAreRestored)
 {
     fillRow(1, u"编号"_s, u"等于"_s, u"1"_s);
     type("txtCondition", u"编号 = 1 or 金额 > 5"_s);

@@ -147,7 +147,7 @@ TEST_F(PickedValues, YesAndNoAreOffered)
     EXPECT_EQ(answer(), "已付款 <> 0");
 }
 
-TEST_F(PickedValues, ADayIsPickedFromACalendarAndKeepsTheTimeBehindIt)
+TEST_F(PickedValues, ADayIsPickedFromACalendarAndKeepsTheTimeAfterIt)
 {
     choose("cmbField1", u"发货时间"_s);
     type("txtValue1", u"2024-01-05 08:30"_s);
@@ -241,7 +241,7 @@ TEST_F(PickedValues, NumbersAndDaysHaveAListAsWell)
     EXPECT_EQ(text("txtValue1").text(), u"2024-01-05"_s);
 }
 
-TEST_F(PickedValues, MoreThanTwoHundredAreLeftToALastEntryThatTellsTheirNumber)
+TEST_F(PickedValues, MoreThanTwoHundredAreLeftToALastEntryThatShowsTheirNumber)
 {
     database.run(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 2345)"
                  " INSERT INTO 订单 (编号, 城市) SELECT i, printf('城%05d', i) FROM n"_s);
@@ -311,7 +311,7 @@ TEST(ValueReading, EndsAtItsLimitWithTheValuesOfSomeRecordsAndANote)
     }
 }
 
-TEST(ValueReading, TellsWhyNothingCanBeRead)
+TEST(ValueReading, ReportsWhyNothingCanBeRead)
 {
     const TestDatabase database(u"CREATE TABLE T (V TEXT)"_s);
     auto connection = std::make_shared<ADODB::Connection>();

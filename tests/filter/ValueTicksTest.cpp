@@ -223,7 +223,7 @@ TEST_F(Ticks, WhatIsOpenStaysOpenWhenAllAreTicked)
     EXPECT_EQ(year()->checkState(0), Qt::Unchecked);
 }
 
-TEST_F(Ticks, OnlyTheRecordsThatMeetTheConditionCount)
+TEST_F(Ticks, OnlyTheRecordsThatMeetTheConditionAreCounted)
 {
     condition = u"编号 < 3 OR 编号 = 4"_s;
     start(u"城市"_s);
@@ -272,7 +272,7 @@ TEST_F(Ticks, DaysAreFoundAsTheyAreWrittenAndSpoken)
     EXPECT_EQ(selected(), u"1 2"_s) << "what the search hides gets no tick";
 }
 
-TEST_F(Ticks, MoreThanTwoHundredValuesAreToldAndFoundByASearch)
+TEST_F(Ticks, MoreThanTwoHundredValuesAreReportedAndFoundByASearch)
 {
     database.run(u"WITH RECURSIVE n(i) AS (SELECT 100 UNION ALL SELECT i + 1 FROM n WHERE i < 1344)"
                  " INSERT INTO 订单 (编号, 城市) SELECT i, printf('城%05d', i) FROM n"_s);

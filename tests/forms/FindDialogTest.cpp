@@ -85,7 +85,7 @@ TEST_F(Find, TheFirstKeyTakesTheHintsPlace)
     EXPECT_EQ(inputColour(), dialog.palette().color(QPalette::ButtonText));
 }
 
-TEST_F(Find, KeysSentToTheBoxItselfCountAsWell)
+TEST_F(Find, KeysSentToTheBoxItselfAreHandledToo)
 {
     QTest::keyClick(&input(), Qt::Key_A);
     EXPECT_EQ(input().currentText(), u"a"_s);
@@ -173,7 +173,7 @@ TEST_F(Find, MnemonicsAndTheTabKeyReachEveryPart)
     EXPECT_EQ(dialog.strFindText(), u"a"_s);
 }
 
-TEST_F(Find, TellsItsPartsByName)
+TEST_F(Find, ItsPartsHaveNames)
 {
     EXPECT_FALSE(input().accessibleName().isEmpty());
     EXPECT_FALSE(field().accessibleName().isEmpty());

@@ -68,7 +68,7 @@ TEST(Messages, AQuestionHasChineseButtons)
               QStringList({u"保存(&S)"_s, u"取消"_s, u"放弃(&D)"_s}));
 }
 
-TEST(Messages, AnOfferStandsBesideOk)
+TEST(Messages, AnOfferIsBesideOk)
 {
     EXPECT_EQ(captionsOf([] { Messages::offer(nullptr, u"记录已修改"_s, {}, u"查看新值(&V)"_s); }),
               QStringList({u"查看新值(&V)"_s, u"确定"_s}));

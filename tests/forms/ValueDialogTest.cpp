@@ -161,7 +161,7 @@ TEST_F(ValueWindow, ShowsJsonIndentedAndKeepsTheTextItself)
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"{\"a\":[1,2]}"_s);
 }
 
-TEST_F(ValueWindow, TellsNullFromAnEmptyText)
+TEST_F(ValueWindow, DistinguishesNullFromAnEmptyText)
 {
     ShownValue null = textValue({});
     null.isNull = true;
@@ -188,7 +188,7 @@ TEST_F(ValueWindow, FindsForwardsAndBackwardsAndAround)
     EXPECT_TRUE(dialog.isVisible()) << "Enter closes nothing";
 }
 
-TEST_F(ValueWindow, FindsBehindLinesThatEndAsInWindows)
+TEST_F(ValueWindow, FindsAfterLinesThatEndAsInWindows)
 {
     show(textValue(u"one\r\ntwo\r\nthree, tea\r\n"_s));
     findIn(u"TEA"_s);

@@ -234,7 +234,7 @@ TEST_F(ShowFields, AClickOnTheBoxTicks)
     EXPECT_EQ(checked(), QStringList{u"B"_s});
 }
 
-TEST_F(ShowFields, CanBeResizedAndTellsItsPartsByName)
+TEST_F(ShowFields, CanBeResizedAndItsPartsHaveNames)
 {
     fill({u"A"_s});
     EXPECT_GT(dialog.maximumHeight(), dialog.height() * 2);

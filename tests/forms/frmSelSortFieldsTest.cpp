@@ -329,7 +329,7 @@ TEST_F(SortFields, EnterOnAButtonPressesThatButton)
     EXPECT_EQ(rows(), QStringList{u"A 升序"_s});
 }
 
-TEST_F(SortFields, TellsItsPartsByName)
+TEST_F(SortFields, ItsPartsHaveNames)
 {
     fill({u"A"_s});
     EXPECT_FALSE(list().accessibleName().isEmpty());

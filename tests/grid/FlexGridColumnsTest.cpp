@@ -51,7 +51,7 @@ TEST_F(Grid, AHiddenCurrentColumnLeavesKeysAndScrollingAlive)
     EXPECT_EQ(grid.TopRow(), 60);
 }
 
-TEST_F(Grid, DraggingAColumnEdgeTellsTheNewWidth)
+TEST_F(Grid, DraggingAColumnEdgeReportsTheNewWidth)
 {
     QSignalSpy changed(&grid, &FlexGrid::ColWidthChanged);
     QHeaderView *header = grid.horizontalHeader();

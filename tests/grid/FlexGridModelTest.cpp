@@ -44,7 +44,7 @@ TEST_P(Model, HeadingsAreHeaderDataAndTheRestCells)
     EXPECT_FALSE(model.headerData(-1, Qt::Vertical).isValid());
 }
 
-TEST_P(Model, TellsOfEachKindOfWrite)
+TEST_P(Model, ReportsEachKindOfWrite)
 {
     QSignalSpy cells(&model, &QAbstractItemModel::dataChanged);
     QSignalSpy headings(&model, &QAbstractItemModel::headerDataChanged);

@@ -54,7 +54,7 @@ TEST_F(Window, ShowsAStretchOfRecordsUnderTheFieldNames)
     EXPECT_EQ(window.text(5, 3), u"2.5"_s);
 }
 
-TEST_F(Window, ANullIsEmptyAndNumbersStandRight)
+TEST_F(Window, ANullIsEmptyAndNumbersAreRightAligned)
 {
     const RecordWindow window(recordset, 1, 20);
     EXPECT_EQ(window.text(3, 2), QString());

@@ -57,7 +57,7 @@ protected:
 
 } // namespace
 
-TEST_F(MiddleTierJourney, ItsServerAndPortStandInForTheDatabases)
+TEST_F(MiddleTierJourney, ItsServerAndPortReplaceTheDatabases)
 {
     configure(u"Server=127.0.0.1\nPort="_s + portOf(pool));
     Hands hands(dead, KOVAVSFDataGrid::dbOracle);
@@ -80,7 +80,7 @@ TEST_F(MiddleTierJourney, ItsServerAndPortStandInForTheDatabases)
     EXPECT_EQ(hands.texts(u"id"_s).first(), u"20000"_s);
 }
 
-TEST_F(MiddleTierJourney, ItsWholeConnectionTextStandsInForTheDatabases)
+TEST_F(MiddleTierJourney, ItsWholeConnectionTextReplacesTheDatabases)
 {
     // Who connects is the host's to say.
     configure(u"Connection="_s + QString(pool).remove(QRegularExpression(u"UID=[^;]*;PWD=[^;]*"_s)));

@@ -104,7 +104,7 @@ TEST_P(EachPage, ApplyChangesWritesTheText)
     EXPECT_FALSE(page->Changed());
 }
 
-TEST_P(EachPage, SelectionChangedShowsThePropertyAnew)
+TEST_P(EachPage, SelectionChangedShowsThePropertyAgain)
 {
     type(text(), u"lost"_s);
     control.setProperty(GetParam().property, u"other"_s);
@@ -113,7 +113,7 @@ TEST_P(EachPage, SelectionChangedShowsThePropertyAnew)
     EXPECT_FALSE(page->Changed());
 }
 
-TEST_P(EachPage, TheFirstOfSeveralControlsCounts)
+TEST_P(EachPage, TheFirstOfSeveralControlsIsUsed)
 {
     SomeControl first;
     first.setProperty(GetParam().property, u"first"_s);

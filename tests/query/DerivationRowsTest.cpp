@@ -86,7 +86,7 @@ Rows projected(const Rows &rows, const QList<int> &columns, bool distinct)
 
 } // namespace
 
-TEST_F(DerivationRows, AStatementsKindIsTold)
+TEST_F(DerivationRows, AStatementsKindIsReported)
 {
     int count = 0;
     for (const Case &c : ReadCases(u"statements.cases"_s)) {

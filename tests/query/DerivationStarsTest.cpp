@@ -24,7 +24,7 @@ class Stars : public testing::TestWithParam<StarCase>
 
 } // namespace
 
-TEST(DerivationStars, FieldsOfEqualNamesAreToldApartByTheirTable)
+TEST(DerivationStars, FieldsOfEqualNamesAreDistinguishedByTheirTable)
 {
     const Derivation joined(u"select * from Ord o join Cust on o.C = Cust.ID"_s,
                             {{u"ID"_s, 3, u"Ord"_s}, {u"C"_s, 3, u"Ord"_s}, {u"ID"_s, 3, u"Cust"_s}},

@@ -20,7 +20,7 @@ QString quickFilter(Engine engine, AllDBType database, const QString &words)
 
 } // namespace
 
-TEST(QuickFilterOnEngines, CastsWhereLikeStandsBehindTextsOnlyAndLeavesPicturesOut)
+TEST(QuickFilterOnEngines, CastsWhereLikeFollowsTextsOnlyAndLeavesPicturesOut)
 {
     EXPECT_EQ(quickFilter(Engine::PostgreSQL, dbOracle, u"1"_s),
               u" (CAST(name AS TEXT) LIKE '%1%' OR CAST(price AS TEXT) LIKE '%1%' "

@@ -7,7 +7,7 @@
 using namespace KOVAVSFDataGridLib;
 using namespace Qt::StringLiterals;
 
-TEST(FieldNames, ShortNameStandsBehindTheFirstPoint)
+TEST(FieldNames, ShortNameFollowsTheFirstPoint)
 {
     EXPECT_EQ(shortFieldName(u"T.[Order Date]"_s), u"Order Date"_s);
     EXPECT_EQ(shortFieldName(u"[Name]"_s), u"Name"_s);

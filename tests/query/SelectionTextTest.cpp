@@ -79,7 +79,7 @@ TEST(FilterTable, LosesItsOuterBrackets)
     EXPECT_EQ(SetFilterTableName(u"T"_s), u"T"_s);
 }
 
-TEST(FilterTable, OwnerStandsBeforeTheFirstPoint)
+TEST(FilterTable, OwnerPrecedesTheFirstPoint)
 {
     const FilterTableName name = SplitFilterTableName(u"\"S\".\"T.U\""_s);
     EXPECT_EQ(name.owner, u"S"_s);

@@ -71,7 +71,7 @@ TEST_F(StatementLists, SelectWithoutFromIsAnInvalidArgument)
     EXPECT_EQ(parsed.colSelFields, QStringList{u"Before"_s});
 }
 
-TEST_F(StatementLists, ListThatEndsInACommaIsAnInvalidArgumentBehindItsNames)
+TEST_F(StatementLists, ListThatEndsInACommaIsAnInvalidArgumentAfterItsNames)
 {
     EXPECT_THROW(parsed.ParseSelFieldList(u"select a,b, from T"_s), std::invalid_argument);
     EXPECT_EQ(parsed.colSelFields, (QStringList{u"a"_s, u"b"_s}));

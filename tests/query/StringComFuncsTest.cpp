@@ -14,7 +14,7 @@ TEST(StringComFuncs, SplitsByPrefixAndSuffix)
     EXPECT_EQ(pieces, (QStringList{u"old"_s, u"a<"_s, u"b>c<"_s, u"d>e"_s}));
 }
 
-TEST(StringComFuncs, PrefixCountsOnlyWhenASuffixFollows)
+TEST(StringComFuncs, PrefixIsUsedOnlyWhenASuffixFollows)
 {
     QStringList pieces;
     EXPECT_TRUE(clsStringComFuncs().QNComSplitString1(u">a<b"_s, pieces, u"<"_s, u">"_s, true));
@@ -48,7 +48,7 @@ TEST(StringComFuncs, PrefixSplitNeedsThreeTexts)
     EXPECT_TRUE(pieces.isEmpty());
 }
 
-TEST(StringComFuncs, SplitsBySeparatorBehindWhatIsThere)
+TEST(StringComFuncs, SplitsBySeparatorAfterWhatIsThere)
 {
     QStringList pieces{u"old"_s};
     EXPECT_TRUE(clsStringComFuncs().QNComSplitString2(u"a,b,,c"_s, pieces, u","_s));

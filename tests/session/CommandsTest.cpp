@@ -165,7 +165,7 @@ TEST(Commands, HaveALineInTheDocument)
     }
 }
 
-TEST(Commands, StandAtPlacesOfTheirOwn)
+TEST(Commands, HavePlacesOfTheirOwn)
 {
     QSet<int> places;
     QSet<int> items;

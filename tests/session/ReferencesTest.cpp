@@ -199,7 +199,7 @@ TEST_P(References, ColumnsThatTheDatabaseFillsAreKnown)
     drop();
 }
 
-TEST(ReferencesOfUntoldTables, AreReadOffTheStatement)
+TEST(ReferencesOfUnnamedTables, AreReadOffTheStatement)
 {
     const Untold provider;
     const ADODB::ProviderRegistration registration(provider);

@@ -65,7 +65,7 @@ TEST_F(Sessions, CommandsDeriveStatementsAndStepBack)
     EXPECT_TRUE(user.messages.isEmpty());
 }
 
-TEST_F(Sessions, ChosenFieldsHideTheOthersAndTheHostHearsOfThem)
+TEST_F(Sessions, ChosenFieldsHideTheOthersAndTheHostIsNotified)
 {
     ASSERT_TRUE(load());
     user.fields = u"Name"_s;
@@ -140,7 +140,7 @@ TEST_F(Sessions, ASessionOutlivesItsWindowWhileACommandRuns)
     EXPECT_TRUE(user.messages.isEmpty());
 }
 
-TEST_F(Sessions, TheHostHearsOfAnotherResultWhenItIsWholeOnly)
+TEST_F(Sessions, TheHostIsNotifiedOfAResultOnlyWhenItIsComplete)
 {
     ASSERT_TRUE(load());
     user.sort = u"ID DESC"_s;
@@ -166,7 +166,7 @@ TEST_F(Sessions, TheFieldsOfTheOpenResultAreNotReadAgain)
     EXPECT_EQ(fields->size(), 3u);
 }
 
-TEST_F(Sessions, AnotherLoadByTheHostThatHearsOfSqlFilterEndsTheCommand)
+TEST_F(Sessions, ALoadByTheHostDuringSqlFilterEndsTheCommand)
 {
     for (const QString &key : {u"Filter"_s, u"ToOrigin"_s}) {
         ASSERT_TRUE(load());
@@ -179,7 +179,7 @@ TEST_F(Sessions, AnotherLoadByTheHostThatHearsOfSqlFilterEndsTheCommand)
     EXPECT_TRUE(user.messages.isEmpty());
 }
 
-TEST_F(Sessions, AResultThatTheHostClosesWhenItHearsOfSqlFilterStaysClosed)
+TEST_F(Sessions, AResultThatTheHostClosesDuringSqlFilterStaysClosed)
 {
     ASSERT_TRUE(load());
     user.condition = u"ID = 1"_s;

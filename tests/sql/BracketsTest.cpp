@@ -5,7 +5,7 @@
 using namespace KOVAVSFDataGridLib;
 using namespace Qt::StringLiterals;
 
-TEST(Brackets, StandAroundANameAsItIs)
+TEST(Brackets, AreAddedAroundTheUnchangedName)
 {
     EXPECT_EQ(inBrackets(u"Unit Price"_s), u"[Unit Price]"_s);
     EXPECT_EQ(inBrackets(u"a]b"_s), u"[a]b]"_s);

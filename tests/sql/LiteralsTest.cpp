@@ -27,7 +27,7 @@ TEST(Literals, ApostrophesInTextAreDoubled)
     expectText(textWithoutClauses(sqliteFile, u"北京"_s), "'北京'");
 }
 
-TEST(Literals, OnlySqlServerNeedsToBeToldOfUnicode)
+TEST(Literals, OnlySqlServerMarksUnicodeTexts)
 {
     expectText(textWithoutClauses(sqlServer, u"北京"_s), "N'北京'");
     expectText(textWithoutClauses(sqlServer, u"Beijing"_s), "'Beijing'");

@@ -85,7 +85,7 @@ TEST(SimpleSelect, SaysWhyARowCantBeFoundAgain)
         EXPECT_EQ(parse(c.sql).fault, c.fault) << c.sql.toStdString();
 }
 
-TEST(SimpleSelect, TellsPlainColumnsFromWhatIsComputed)
+TEST(SimpleSelect, DistinguishesPlainColumnsFromComputedOnes)
 {
     const SimpleSelect select = parse(
         u"select all *, k.*, main.t.*, a, k.b, main.t.[c d], \"e\"\"f\" as g, h 'i', j AS \"l\", `m` n,"

@@ -152,7 +152,7 @@ TEST_F(ExportTest, TheHostExportsByName)
     EXPECT_EQ(content(u"a.jsonl"_s), "{\"ID\":1}\n{\"ID\":2}\n{\"ID\":3}\n");
 }
 
-TEST_F(ExportTest, TheHostIsToldWhatIsWrong)
+TEST_F(ExportTest, TheHostGetsTheError)
 {
     EXPECT_FALSE(exportData(u"a.csv"_s));
     EXPECT_EQ(takeTexts(), QStringList{u"没有打开的结果，无法导出。"_s});

@@ -74,7 +74,7 @@ TEST_F(Filters, AnAliasCanBeTypedWhereTheDatabaseTakesIt)
     EXPECT_EQ(messages.texts(), QStringList());
 }
 
-TEST_F(Filters, WhoGivesARefusedConditionUpKeepsWhatIsShown)
+TEST_F(Filters, GivingUpARefusedConditionKeepsWhatIsShown)
 {
     ASSERT_TRUE(load());
     WindowAnswers dialogs({[&](QDialog &dialog) { filter(dialog, u"abs(-9223372036854775808) = ID"_s); },
@@ -85,7 +85,7 @@ TEST_F(Filters, WhoGivesARefusedConditionUpKeepsWhatIsShown)
     EXPECT_TRUE(messages.shown().empty());
 }
 
-TEST_F(Filters, WhoFindsNothingIsToldTheWayBack)
+TEST_F(Filters, AFilterThatFindsNothingShowsTheWayBack)
 {
     ASSERT_TRUE(load());
     const WindowAnswers dialogs({[](QDialog &dialog) { filter(dialog, u"ID > 100"_s); }});
@@ -151,7 +151,7 @@ TEST_F(Filters, AHostsBlankConditionReloadsNothing)
     EXPECT_EQ(rows(), records);
 }
 
-TEST_F(Filters, AHostsWrongConditionIsToldAndLosesNothing)
+TEST_F(Filters, AHostsWrongConditionIsReportedAndLosesNothing)
 {
     ASSERT_TRUE(load());
     WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"茶"_s); }});
@@ -316,7 +316,7 @@ TEST_F(Filters, ANullCellKeepsTheNulls)
     EXPECT_TRUE(messages.shown().empty());
 }
 
-TEST_F(Filters, AnApostropheInTheCellIsTold)
+TEST_F(Filters, AnApostropheInTheCellIsReported)
 {
     ASSERT_TRUE(load());
     choose(14, 10, 2);
@@ -325,7 +325,7 @@ TEST_F(Filters, AnApostropheInTheCellIsTold)
     EXPECT_EQ(grid.SQLFilter(), QString());
 }
 
-TEST_F(Filters, ACellOfAnotherTypeIsTold)
+TEST_F(Filters, ACellOfAnotherTypeIsReported)
 {
     ASSERT_TRUE(load());
     const QString refusal = u"对不起，过滤操作不支持选中内容的数据类型！"_s;

@@ -128,7 +128,7 @@ TEST_F(FindShown, CountsWhatItFindsAndGoesFromOneToTheNext)
     EXPECT_TRUE(sought->isVisible());
 }
 
-TEST_F(FindShown, TheHostHearsOfEachRecordItGoesTo)
+TEST_F(FindShown, TheHostIsNotifiedOfEachRecordItGoesTo)
 {
     ASSERT_TRUE(load());
     clickCell(1, 1);

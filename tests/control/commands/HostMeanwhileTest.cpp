@@ -115,7 +115,7 @@ TEST_P(HostMeanwhile, ClearsTheControl)
     EXPECT_EQ(rows(), records);
 }
 
-TEST_P(HostMeanwhile, LetsGoOfEverything)
+TEST_P(HostMeanwhile, ReleasesEverything)
 {
     ASSERT_TRUE(load());
     ask([this] { grid.ClearObject(); });
@@ -139,7 +139,7 @@ TEST_P(InTheViewer, LoadsAnotherResult)
     expectOrders();
 }
 
-TEST_P(InTheViewer, LetsGoOfEverything)
+TEST_P(InTheViewer, ReleasesEverything)
 {
     ASSERT_TRUE(load());
     askInViewer([this] { grid.ClearObject(); });
@@ -227,7 +227,7 @@ TEST_F(HostDestroys, TheControlWhenItIsAskedForAFilter)
     EXPECT_FALSE(other);
 }
 
-TEST_F(HostDestroys, TheControlWhenItIsToldOfOtherFields)
+TEST_F(HostDestroys, TheControlWhenItIsNotifiedOfOtherFields)
 {
     QObject::connect(other, &KOVAVSFDataGrid::ShowFieldsChange, other, [this] { delete other; });
     WindowAnswers dialogs({[](QDialog &dialog) { tick(dialog, {u"ID"_s}); }});

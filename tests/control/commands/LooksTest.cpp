@@ -49,7 +49,7 @@ TEST_F(Looks, TheLineBelowTheGridGroupsDigitsAroundItsFixedTexts)
     EXPECT_TRUE(pageLabel->text().endsWith(u"只显示999999条以内的记录"_s));
 }
 
-TEST_F(Looks, DividersStandBetweenThePartsOfTheLineBelow)
+TEST_F(Looks, DividersSeparateThePartsOfTheLineBelow)
 {
     ASSERT_TRUE(load());
     grid.resize(1200, 500);

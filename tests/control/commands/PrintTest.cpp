@@ -186,7 +186,7 @@ TEST_F(PrintTest, ThePreviewCancelledPrintsNothing)
     EXPECT_EQ(takeTexts(), QStringList());
 }
 
-TEST_F(PrintTest, TheHostIsToldWhatIsWrong)
+TEST_F(PrintTest, TheHostGetsTheError)
 {
     EXPECT_FALSE(printData(u"a.pdf"_s));
     EXPECT_EQ(takeTexts(), QStringList{u"没有打开的结果，无法打印。"_s});

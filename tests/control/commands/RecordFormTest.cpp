@@ -125,7 +125,7 @@ TEST_F(RecordForm, FieldsThatTheDatabaseFillsAreNotMarked)
     EXPECT_TRUE(QTest::qWaitFor([this] { return isMarked(u"代码"_s); }));
 }
 
-TEST_F(RecordForm, AFieldWithoutAValueIsToldFromAnEmptyText)
+TEST_F(RecordForm, AFieldWithoutAValueIsDistinguishedFromAnEmptyText)
 {
     database.run(u"UPDATE 商品 SET 名称 = '' WHERE ID = 9"_s);
     ASSERT_TRUE(load());

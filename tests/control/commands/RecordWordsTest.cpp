@@ -123,7 +123,7 @@ TEST_P(RecordWords, TheFilterBeginsWithTheSameWords)
     EXPECT_EQ(texts(u"停用"_s), QStringList({u"True"_s, u"True"_s}));
 }
 
-TEST_P(RecordWords, NullIsSpokenApartFromAnEmptyText)
+TEST_P(RecordWords, NullIsReadAloudDifferentlyFromAnEmptyText)
 {
     database.run(u"UPDATE 商品 SET 城市 = '' WHERE ID = 8"_s);
     ASSERT_TRUE(load());

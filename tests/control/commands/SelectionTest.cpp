@@ -67,7 +67,7 @@ TEST_F(SelectionTest, SumsUpNumbersCountsTextsAndOrdersDates)
     EXPECT_EQ(shownSummary(), QString());
 }
 
-TEST_F(SelectionTest, TellsNumbersApartThatADoubleTakesForOne)
+TEST_F(SelectionTest, DistinguishesNumbersThatAreEqualAsDoubles)
 {
     ASSERT_TRUE(load(u"SELECT 9007199254740992 + (ID = 1) AS A FROM 商品 WHERE ID < 3 ORDER BY ID"_s, {}));
     mark(1, 1, 2, 1);

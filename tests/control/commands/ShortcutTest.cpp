@@ -23,7 +23,7 @@ TEST_F(Shortcuts, ADisabledToolbarRunsNothingByShortcut)
     EXPECT_EQ(columns(), AllColumns);
 }
 
-TEST_F(Shortcuts, ShortcutsRunTheirCommandsAndTheHostHearsOfTheKey)
+TEST_F(Shortcuts, ShortcutsRunTheirCommandsAndTheHostGetsTheKey)
 {
     ASSERT_TRUE(load());
     table->setFocus();

@@ -161,7 +161,7 @@ TEST_F(SingleRecord, SelFieldLeavesIt)
     EXPECT_EQ(columns(), QStringList(u"ID"_s));
 }
 
-TEST_F(SingleRecord, ADoubleClickTellsTheFieldsColumnAndTheGridsRow)
+TEST_F(SingleRecord, ADoubleClickReportsTheFieldsColumnAndTheGridsRow)
 {
     ASSERT_TRUE(load(u"SELECT ID,图片,名称 FROM 商品"_s));
     clickCell(4, 1);
@@ -294,7 +294,7 @@ TEST_F(SingleRecord, EscInTheListGivesUpTheWholeRecord)
     EXPECT_EQ(stored(u"名称"_s, 1), u"龙井茶"_s);
 }
 
-TEST_F(SingleRecord, AValueThatDoesNotFitIsToldAndStays)
+TEST_F(SingleRecord, AValueThatDoesNotFitIsReportedAndStays)
 {
     ASSERT_TRUE(load());
     click(u"SingleRecord"_s);

@@ -253,7 +253,7 @@ TEST_F(Toolbar, AnEmptyResultLeavesMostCommandsIdle)
     EXPECT_EQ(rows(), records);
 }
 
-TEST_F(Toolbar, AFailedStepIsToldAndLosesNothing)
+TEST_F(Toolbar, AFailedStepIsReportedAndLosesNothing)
 {
     ASSERT_TRUE(load());
     WindowAnswers dialogs({[](QDialog &dialog) { find(dialog, u"茶"_s); }});

@@ -53,7 +53,7 @@ TEST_F(WrittenStatement, IsWhatTheHostIsAskedToFilter)
     EXPECT_EQ(texts(u"ID"_s), QStringList({u"3"_s, u"4"_s, u"9"_s}));
 }
 
-TEST_F(WrittenStatement, LetsEveryCommandDeriveFromIt)
+TEST_F(WrittenStatement, AllowsEveryCommandToDeriveFromIt)
 {
     ASSERT_TRUE(load(written(), part()));
     const QStringList all{u"ID"_s, u"名称"_s, u"城市"_s};
