@@ -9,6 +9,7 @@
 #include "activex/container/ViewObject.h"
 #include "activex/server/ClassInfo.h"
 #include "activex/server/ModuleUse.h"
+#include "activex/server/QtHome.h"
 
 #include <memory>
 
@@ -19,7 +20,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 // The control as a COM object: one identity with all interfaces that containers and scripts ask for. Each
 // interface is a small class of its own; this class has the widget and their shared state. Can be aggregated.
 //
-// Lives on the thread of the first control in the process, as the widget does.
+// Lives on Qt's thread (see QtHome), as the widget does.
 class GridControl final : private IUnknown
 {
 public:
@@ -49,6 +50,7 @@ private:
     STDMETHODIMP_(ULONG) Release() override;
 
     ModuleUse m_use;
+    QtUse m_qtUse;
     LONG m_references = 1;
     IUnknown *const m_outer; // no reference counted: it owns this object
     std::unique_ptr<KOVAVSFDataGrid> m_grid;
