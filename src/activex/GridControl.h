@@ -2,10 +2,13 @@
 
 #include "activex/calls/ConnectionPoints.h"
 #include "activex/calls/GridDispatch.h"
+#include "activex/container/DataObject.h"
 #include "activex/container/GridPersistence.h"
 #include "activex/container/InPlace.h"
 #include "activex/container/OleControl.h"
 #include "activex/container/OleObject.h"
+#include "activex/container/QuickStart.h"
+#include "activex/container/StoragePersistence.h"
 #include "activex/container/ViewObject.h"
 #include "activex/server/ClassInfo.h"
 #include "activex/server/ModuleUse.h"
@@ -39,6 +42,7 @@ public:
     ConnectionPoints &connectionPoints() { return m_connectionPoints; }
     const GridDispatch &dispatch() const { return m_dispatch; }
     StreamPersistence &persistence() { return m_stream; }
+    DataObject &data() { return m_data; }
 
 private:
     explicit GridControl(IUnknown *outer);
@@ -66,6 +70,11 @@ private:
     ClassInfo m_classInfo;
     PropertyPageList m_pages;
     GridHolder m_holder;
+    StoragePersistence m_storage;
+    QuickStart m_quickStart;
+    DataObject m_data;
+    Running m_running;
+    PropertyTexts m_propertyTexts;
 };
 
 } // namespace KOVAVSFDataGridLib::ActiveX

@@ -3,6 +3,7 @@
 #include "Late.h"
 
 #include <functional>
+#include <map>
 #include <ocidl.h>
 #include <oleidl.h>
 #include <string>
@@ -45,6 +46,8 @@ public:
     bool release();
 
     void setUserMode(bool on);
+    // Another ambient property than UserMode; the control is told.
+    void setAmbient(DISPID id, const Late::Value &value);
     // What a handler of QurryFilter sets Cancel to, and the condition that it passes to the control.
     void answerQurryFilter(long cancel, const wchar_t *condition);
     // Called for every event, after it was noted.
@@ -137,6 +140,7 @@ private:
     ULONG m_references = 1;
     HWND m_window = nullptr;
     bool m_userMode;
+    std::map<DISPID, Late::Value> m_ambients;
     bool m_hasUi = false;
     bool m_isModeless = true;
     long m_cancel = 1;
