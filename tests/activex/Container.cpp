@@ -366,8 +366,7 @@ STDMETHODIMP Container::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS *parame
     }
     if (id < 0) {
         const auto known = m_ambients.find(id);
-        return known == m_ambients.end() ? DISP_E_MEMBERNOTFOUND
-                                         : VariantCopy(result, known->second.get());
+        return known == m_ambients.end() ? DISP_E_MEMBERNOTFOUND : VariantCopy(result, known->second.get());
     }
 
     Event event{id, {}, {}};
