@@ -330,6 +330,12 @@ STDMETHODIMP Container::SetActiveObject(IOleInPlaceActiveObject *active, LPCOLES
     return S_OK;
 }
 
+STDMETHODIMP Container::TranslateAccelerator(MSG *message, DWORD modifiers)
+{
+    m_passedKey = {message->wParam, modifiers};
+    return S_FALSE;
+}
+
 STDMETHODIMP Container::EnableModeless(BOOL enable)
 {
     m_isModeless = enable != FALSE;
