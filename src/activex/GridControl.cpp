@@ -27,7 +27,12 @@ GridControl::GridControl(IUnknown *outer)
       m_bag(*this),
       m_classInfo(*this),
       m_pages(*this),
-      m_holder(*this)
+      m_holder(*this),
+      m_storage(*this),
+      m_quickStart(*this),
+      m_data(*this),
+      m_running(*this),
+      m_propertyTexts(*this)
 {
 }
 
@@ -54,12 +59,22 @@ STDMETHODIMP GridControl::QueryInterface(REFIID iid, void **object)
         part = &m_inPlace.object();
     else if (iid == IID_IOleInPlaceActiveObject)
         part = &m_inPlace.activeObject();
-    else if (iid == IID_IViewObject || iid == IID_IViewObject2)
+    else if (iid == IID_IViewObject || iid == IID_IViewObject2 || iid == IID_IViewObjectEx)
         part = &m_view;
     else if (iid == IID_IPersist || iid == IID_IPersistStreamInit)
         part = &m_stream;
     else if (iid == IID_IPersistPropertyBag)
         part = &m_bag;
+    else if (iid == IID_IPersistStorage)
+        part = &m_storage;
+    else if (iid == IID_IQuickActivate)
+        part = &m_quickStart;
+    else if (iid == IID_IDataObject)
+        part = &m_data;
+    else if (iid == IID_IRunnableObject)
+        part = &m_running;
+    else if (iid == IID_IPerPropertyBrowsing)
+        part = &m_propertyTexts;
     else if (iid == IID_IConnectionPointContainer)
         part = &m_connectionPoints;
     else if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2)

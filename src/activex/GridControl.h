@@ -2,13 +2,17 @@
 
 #include "activex/calls/ConnectionPoints.h"
 #include "activex/calls/GridDispatch.h"
+#include "activex/container/DataObject.h"
 #include "activex/container/GridPersistence.h"
 #include "activex/container/InPlace.h"
 #include "activex/container/OleControl.h"
 #include "activex/container/OleObject.h"
+#include "activex/container/QuickStart.h"
+#include "activex/container/StoragePersistence.h"
 #include "activex/container/ViewObject.h"
 #include "activex/server/ClassInfo.h"
 #include "activex/server/ModuleUse.h"
+#include "activex/server/QtHome.h"
 
 #include <memory>
 
@@ -19,7 +23,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 // The control as a COM object: one identity with all interfaces that containers and scripts ask for. Each
 // interface is a small class of its own; this class has the widget and their shared state. Can be aggregated.
 //
-// Lives on the thread of the first control in the process, as the widget does.
+// Lives on Qt's thread (see QtHome), as the widget does.
 class GridControl final : private IUnknown
 {
 public:
@@ -38,6 +42,7 @@ public:
     ConnectionPoints &connectionPoints() { return m_connectionPoints; }
     const GridDispatch &dispatch() const { return m_dispatch; }
     StreamPersistence &persistence() { return m_stream; }
+    DataObject &data() { return m_data; }
 
 private:
     explicit GridControl(IUnknown *outer);
@@ -49,6 +54,7 @@ private:
     STDMETHODIMP_(ULONG) Release() override;
 
     ModuleUse m_use;
+    QtUse m_qtUse;
     LONG m_references = 1;
     IUnknown *const m_outer; // no reference counted: it owns this object
     std::unique_ptr<KOVAVSFDataGrid> m_grid;
@@ -64,6 +70,11 @@ private:
     ClassInfo m_classInfo;
     PropertyPageList m_pages;
     GridHolder m_holder;
+    StoragePersistence m_storage;
+    QuickStart m_quickStart;
+    DataObject m_data;
+    Running m_running;
+    PropertyTexts m_propertyTexts;
 };
 
 } // namespace KOVAVSFDataGridLib::ActiveX

@@ -121,6 +121,12 @@ void Container::setUserMode(bool on)
     as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE);
 }
 
+void Container::setAmbient(DISPID id, const Late::Value &value)
+{
+    m_ambients[id] = value;
+    as<IOleControl>()->OnAmbientPropertyChange(id);
+}
+
 int Container::countOf(DISPID id) const
 {
     int count = 0;
@@ -324,6 +330,12 @@ STDMETHODIMP Container::SetActiveObject(IOleInPlaceActiveObject *active, LPCOLES
     return S_OK;
 }
 
+STDMETHODIMP Container::TranslateAccelerator(MSG *message, DWORD modifiers)
+{
+    m_passedKey = {message->wParam, modifiers};
+    return S_FALSE;
+}
+
 STDMETHODIMP Container::EnableModeless(BOOL enable)
 {
     m_isModeless = enable != FALSE;
@@ -358,8 +370,10 @@ STDMETHODIMP Container::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS *parame
         result->boolVal = m_userMode ? VARIANT_TRUE : VARIANT_FALSE;
         return S_OK;
     }
-    if (id < 0)
-        return DISP_E_MEMBERNOTFOUND;
+    if (id < 0) {
+        const auto known = m_ambients.find(id);
+        return known == m_ambients.end() ? DISP_E_MEMBERNOTFOUND : VariantCopy(result, known->second.get());
+    }
 
     Event event{id, {}, {}};
     for (UINT i = parameters->cArgs; i-- > 0;) {

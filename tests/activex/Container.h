@@ -3,9 +3,11 @@
 #include "Late.h"
 
 #include <functional>
+#include <map>
 #include <ocidl.h>
 #include <oleidl.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 // One event as it arrived, with the numbers of its arguments before the handler changed any.
@@ -45,6 +47,8 @@ public:
     bool release();
 
     void setUserMode(bool on);
+    // Another ambient property than UserMode; the control is told.
+    void setAmbient(DISPID id, const Late::Value &value);
     // What a handler of QurryFilter sets Cancel to, and the condition that it passes to the control.
     void answerQurryFilter(long cancel, const wchar_t *condition);
     // Called for every event, after it was noted.
@@ -57,6 +61,8 @@ public:
     void forget() { m_events.clear(); }
     const std::vector<DISPID> &changedProperties() const { return m_changed; }
     bool hasUi() const { return m_hasUi; }
+    // The latest key that the control passed on to its site, with its modifiers.
+    std::pair<WPARAM, DWORD> passedKey() const { return m_passedKey; }
     bool isModeless() const { return m_isModeless; }
     ULONG references() const { return m_references; }
 
@@ -115,7 +121,7 @@ public:
     STDMETHODIMP LockInPlaceActive(BOOL) override { return S_OK; }
     STDMETHODIMP GetExtendedControl(IDispatch **control) override;
     STDMETHODIMP TransformCoords(POINTL *, POINTF *, DWORD) override { return E_NOTIMPL; }
-    STDMETHODIMP TranslateAccelerator(MSG *, DWORD) override { return S_FALSE; }
+    STDMETHODIMP TranslateAccelerator(MSG *message, DWORD modifiers) override;
     STDMETHODIMP OnFocus(BOOL) override { return S_OK; }
     STDMETHODIMP ShowPropertyFrame() override { return E_NOTIMPL; }
     // IPropertyNotifySink
@@ -137,7 +143,9 @@ private:
     ULONG m_references = 1;
     HWND m_window = nullptr;
     bool m_userMode;
+    std::map<DISPID, Late::Value> m_ambients;
     bool m_hasUi = false;
+    std::pair<WPARAM, DWORD> m_passedKey{};
     bool m_isModeless = true;
     long m_cancel = 1;
     std::wstring m_condition;

@@ -187,6 +187,7 @@ TEST(ContainerTest, TakesTheKeysOfTheGridFromTheContainersDialogKeys)
     EXPECT_TRUE(takes(container, VK_DOWN));
     EXPECT_EQ(get(container.control(), L"GetGridRowL").number(), before + 1);
     EXPECT_FALSE(takes(container, VK_F5));
+    EXPECT_EQ(container.passedKey(), (std::pair<WPARAM, DWORD>(VK_F5, 0)));
     ASSERT_EQ(container.as<IOleInPlaceObject>()->UIDeactivate(), S_OK);
     EXPECT_FALSE(container.hasUi());
     EXPECT_FALSE(takes(container, VK_DOWN));

@@ -1,8 +1,10 @@
-#include "Late.h"
+#include "Scene.h"
 
+#include <atomic>
 #include <gtest/gtest.h>
 #include <objbase.h>
 #include <olectl.h>
+#include <string>
 #include <thread>
 
 using Microsoft::WRL::ComPtr;
@@ -76,6 +78,83 @@ TEST(Life, ControlsOfAnotherThreadAreRefused)
         CoUninitialize();
     }).join();
     EXPECT_EQ(elsewhere, RPC_E_WRONG_THREAD);
+}
+
+// Processes messages until `done`.
+void processMessages(const std::atomic<bool> &done)
+{
+    while (!done) {
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
+        MSG message{};
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+    }
+}
+
+// A form on this thread, with a dialog over it: it needs all that Qt does for its main thread.
+void useAForm()
+{
+    Container container(800, 500);
+    load(container);
+    container.click(rowX, rowY);
+    HWND owner = nullptr;
+    Container::whenDialogIsOpen([&] {
+        owner = GetWindow(GetForegroundWindow(), GW_OWNER);
+        Container::press(VK_ESCAPE);
+    });
+    container.key('L', {VK_CONTROL});
+    container.run([&] { return owner && IsWindowEnabled(container.window()); });
+    EXPECT_EQ(owner, container.window());
+    EXPECT_GT(Late::get(container.control(), L"GetGridRowL").number(), 0);
+}
+
+TEST(Life, OneThreadAfterTheOtherCanHaveForms)
+{
+    useAForm();
+    for (int i = 0; i < 2; ++i) {
+        std::atomic<bool> done = false;
+        std::thread worker([&] {
+            CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+            useAForm();
+            CoUninitialize();
+            done = true;
+        });
+        processMessages(done);
+        worker.join(); // the thread has ended, without a word to Qt
+        useAForm();
+    }
+}
+
+TEST(Life, AClientOfTheMultithreadedApartmentLeavesQtToForms)
+{
+    std::atomic<bool> isReleased = false;
+    std::atomic<bool> isFormDone = false;
+    HRESULT made = E_FAIL;
+    std::wstring text;
+    std::thread client([&] {
+        CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+        {
+            Late::Object control; // on a thread that COM has made for it
+            made = CoCreateInstance(controlId(), nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&control));
+            if (control) {
+                Late::put(control, L"STR_SQLTEMP", L"x");
+                text = Late::get(control, L"STR_SQLTEMP").text();
+            }
+        }
+        isReleased = true;
+        while (!isFormDone)
+            Sleep(10);
+        CoUninitialize();
+    });
+    processMessages(isReleased);
+    useAForm();
+    isFormDone = true;
+    client.join();
+    EXPECT_EQ(made, S_OK);
+    EXPECT_EQ(text, L"x");
+    useAForm();
 }
 
 TEST(Life, AConnectionPointKeepsItsControl)

@@ -1,6 +1,6 @@
 #include "activex/container/DialogOwner.h"
 
-#include <QtCore/QCoreApplication>
+#include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
@@ -45,13 +45,8 @@ void centre(HWND dialog, HWND owner)
 
 DialogOwner::DialogOwner(QWidget &widget) : m_widget(widget)
 {
-    QCoreApplication::instance()->installNativeEventFilter(this);
-}
-
-DialogOwner::~DialogOwner()
-{
-    if (QCoreApplication::instance())
-        QCoreApplication::instance()->removeNativeEventFilter(this);
+    // QCoreApplication's own function refuses filters in a host that is not Qt's.
+    QAbstractEventDispatcher::instance()->installNativeEventFilter(this);
 }
 
 bool DialogOwner::nativeEventFilter(const QByteArray &, void *message, qintptr *)

@@ -15,7 +15,6 @@ class DialogOwner final : public QAbstractNativeEventFilter
 {
 public:
     explicit DialogOwner(QWidget &widget);
-    ~DialogOwner() override;
 
     bool nativeEventFilter(const QByteArray &type, void *message, qintptr *result) override;
 

@@ -45,6 +45,7 @@ void EmbeddedWindow::attach(HWND parent, const RECT &position, const RECT &clip)
     place(position, &clip);
     m_widget.show();
     place(position, &clip); // showing it may have moved it
+    EnableWindow(handle(), m_isResponsive);
 }
 
 void EmbeddedWindow::renew()
@@ -94,6 +95,13 @@ void EmbeddedWindow::setKeyboardFocus()
     const HWND focused = GetFocus();
     if (focused != handle() && !IsChild(handle(), focused))
         SetFocus(handle());
+}
+
+void EmbeddedWindow::setResponsive(bool on)
+{
+    m_isResponsive = on;
+    if (m_parent)
+        EnableWindow(handle(), on);
 }
 
 HWND EmbeddedWindow::handle() const

@@ -30,6 +30,8 @@ public:
     void detach();
     void place(const RECT &position, const RECT *clip);
     void setKeyboardFocus();
+    // Whether the user can work in it.
+    void setResponsive(bool on);
 
     HWND handle() const; // null while detached
     // Whether a key message is for the widget and not for the container's dialog keys.
@@ -51,7 +53,8 @@ private:
     const std::function<void(bool)> m_blocked;
     std::unique_ptr<QWindow> m_parent;
     std::unique_ptr<DialogOwner> m_dialogs; // while attached
-    HWND m_disabled = nullptr;              // the host's window, disabled by a modal dialog
+    bool m_isResponsive = true;
+    HWND m_disabled = nullptr; // the host's window, disabled by a modal dialog
 };
 
 } // namespace KOVAVSFDataGridLib::ActiveX

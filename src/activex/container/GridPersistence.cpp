@@ -150,6 +150,7 @@ STDMETHODIMP StreamPersistence::GetSizeMax(ULARGE_INTEGER *size)
 STDMETHODIMP StreamPersistence::InitNew()
 {
     m_control.grid().InitProperties();
+    m_control.oleControl().readBackColor();
     m_dirty = false;
     return S_OK;
 }

@@ -5,12 +5,24 @@
 #include <KOVAVSFDataGrid>
 
 #include <ocidl.h>
+#include <utility>
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
 using Microsoft::WRL::ComPtr;
 
 namespace {
+
+DWORD pressedModifiers()
+{
+    constexpr std::pair<int, DWORD> keys[] = {{VK_SHIFT, 1}, {VK_CONTROL, 2}, {VK_MENU, 4}}; // KEYMOD_…
+    DWORD pressed = 0;
+    for (const auto &[key, bit] : keys) {
+        if (GetKeyState(key) < 0)
+            pressed |= bit;
+    }
+    return pressed;
+}
 
 HRESULT returnHandle(const EmbeddedWindow &window, HWND *handle)
 {
@@ -209,8 +221,14 @@ void InPlace::dialogOpen(bool on)
 
 HRESULT InPlace::translate(MSG &message)
 {
-    if (!m_hasUi || !m_window.wants(message))
+    if (!m_hasUi)
         return S_FALSE;
+    if (!m_window.wants(message)) {
+        // Some containers move the focus only when the control has passed the key on to its site.
+        ComPtr<IOleControlSite> site;
+        return SUCCEEDED(m_site.As(&site)) ? site->TranslateAccelerator(&message, pressedModifiers())
+                                           : S_FALSE;
+    }
     TranslateMessage(&message);
     DispatchMessageW(&message);
     return S_OK;

@@ -65,7 +65,7 @@ public:
     void deactivate();
     // For the destruction of the control: releases everything without calling the container.
     void end();
-    // S_OK if the control used the key, S_FALSE if the container should handle it.
+    // S_OK if the control or its site used the key, S_FALSE if the container should handle it.
     HRESULT translate(MSG &message);
 
 private:

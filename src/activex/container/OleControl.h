@@ -8,8 +8,8 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 class GridControl;
 
-// Receives the container's ambient properties. Only
-// UserMode is used: False while the form is being designed.
+// Receives the container's ambient properties: UserMode (False while the form is being designed), UIDead, the
+// form's font, text colour and direction, and its language.
 class OleControl final : public Part<IOleControl>
 {
 public:
@@ -20,7 +20,10 @@ public:
     STDMETHODIMP OnAmbientPropertyChange(DISPID id) override;
     STDMETHODIMP FreezeEvents(BOOL freeze) override;
 
-    void readAmbients();
+    // Takes over one of the ambient properties, or all for DISPID_UNKNOWN.
+    void readAmbients(DISPID id = DISPID_UNKNOWN);
+    // A new control has the form's background colour.
+    void readBackColor();
 
 private:
     GridControl &m_control;

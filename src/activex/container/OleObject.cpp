@@ -72,8 +72,9 @@ STDMETHODIMP OleObject::GetClipboardData(DWORD, IDataObject **data)
 STDMETHODIMP OleObject::DoVerb(LONG verb, LPMSG, IOleClientSite *, LONG, HWND parent, LPCRECT)
 {
     switch (verb) {
-    case OLEIVERB_PRIMARY:
+    case editVerb:
     case OLEIVERB_SHOW:
+    case OLEIVERB_OPEN: // it has no window of its own
     case OLEIVERB_UIACTIVATE:
         return m_control.inPlace().activate(InPlace::WithUi);
     case OLEIVERB_INPLACEACTIVATE:
@@ -81,6 +82,9 @@ STDMETHODIMP OleObject::DoVerb(LONG verb, LPMSG, IOleClientSite *, LONG, HWND pa
     case OLEIVERB_HIDE:
         m_control.inPlace().deactivate();
         return S_OK;
+    case OLEIVERB_DISCARDUNDOSTATE:
+        return S_OK; // it keeps none
+    case propertiesVerb:
     case OLEIVERB_PROPERTIES:
         return showPropertyPages(parent);
     default:
@@ -193,6 +197,36 @@ HRESULT OleObject::showPropertyPages(HWND parent)
                                      LOCALE_USER_DEFAULT, 0, nullptr);
     CoTaskMemFree(pages.pElems);
     return outcome;
+}
+
+Running::Running(GridControl &control) : Part(control.identity()) {}
+
+STDMETHODIMP Running::GetRunningClass(CLSID *id)
+{
+    if (!id)
+        return E_POINTER;
+    *id = controlId;
+    return S_OK;
+}
+
+STDMETHODIMP Running::Run(IBindCtx *)
+{
+    return S_OK;
+}
+
+STDMETHODIMP_(WINBOOL) Running::IsRunning()
+{
+    return TRUE;
+}
+
+STDMETHODIMP Running::LockRunning(WINBOOL, WINBOOL)
+{
+    return S_OK;
+}
+
+STDMETHODIMP Running::SetContainedObject(WINBOOL)
+{
+    return S_OK;
 }
 
 } // namespace KOVAVSFDataGridLib::ActiveX

@@ -43,6 +43,10 @@ public:
                                         OLEMISC_INSIDEOUT | OLEMISC_CANTLINKINSIDE |
                                         OLEMISC_SETCLIENTSITEFIRST;
 
+    // The verbs that the registry lists.
+    static constexpr LONG editVerb = OLEIVERB_PRIMARY;
+    static constexpr LONG propertiesVerb = 1;
+
     IOleClientSite *site() const { return m_site.Get(); }
 
 private:
@@ -51,6 +55,19 @@ private:
     GridControl &m_control;
     Microsoft::WRL::ComPtr<IOleClientSite> m_site;
     Microsoft::WRL::ComPtr<IOleAdviseHolder> m_advises;
+};
+
+// The control runs from its creation on; containers of documents ask.
+class Running final : public Part<IRunnableObject>
+{
+public:
+    explicit Running(GridControl &control);
+
+    STDMETHODIMP GetRunningClass(CLSID *id) override;
+    STDMETHODIMP Run(IBindCtx *context) override;
+    STDMETHODIMP_(WINBOOL) IsRunning() override;
+    STDMETHODIMP LockRunning(WINBOOL lock, WINBOOL lastUnlockCloses) override;
+    STDMETHODIMP SetContainedObject(WINBOOL contained) override;
 };
 
 } // namespace KOVAVSFDataGridLib::ActiveX

@@ -2,6 +2,7 @@
 
 #include "activex/container/EmbeddedWindow.h"
 #include "activex/server/ClassFactory.h"
+#include "activex/server/QtHome.h"
 
 #include <memory>
 #include <ocidl.h>
@@ -44,6 +45,7 @@ private:
     // At most the preferred size: a frame may offer more room than its window finally has.
     RECT placeIn(const RECT &room) const;
 
+    const QtUse m_qtUse;
     // In this order: the window releases the page before the page is destroyed.
     const std::unique_ptr<KOVAVSFDataGridLib::PropertyPage> m_page;
     EmbeddedWindow m_window;

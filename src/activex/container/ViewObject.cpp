@@ -22,8 +22,7 @@ SIZE dotsIn(const RECTL &bounds, HDC context)
     return {std::abs(corners[1].x - corners[0].x), std::abs(corners[1].y - corners[0].y)};
 }
 
-// Paints at the device's resolution, so that texts and lines are sharp in print. To save memory, at most 6
-// times the screen's resolution is used.
+// Paints at the device's resolution, so that texts and lines are sharp in print.
 QImage painted(KOVAVSFDataGrid &grid, SIZE dots)
 {
     constexpr qreal most = 6;
@@ -48,8 +47,12 @@ STDMETHODIMP ViewObject::Draw(DWORD aspect, LONG, void *, DVTARGETDEVICE *, HDC,
         return DV_E_DVASPECT;
     if (!context || !bounds)
         return E_INVALIDARG;
-    const QImage picture = painted(m_control.grid(), dotsIn(*bounds, context));
+    return draw(context, *bounds, dotsIn(*bounds, context));
+}
 
+HRESULT ViewObject::draw(HDC context, const RECTL &bounds, SIZE dots)
+{
+    const QImage picture = painted(m_control.grid(), dots);
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = picture.width();
@@ -58,8 +61,8 @@ STDMETHODIMP ViewObject::Draw(DWORD aspect, LONG, void *, DVTARGETDEVICE *, HDC,
     info.bmiHeader.biBitCount = 32;
     info.bmiHeader.biCompression = BI_RGB;
     SetStretchBltMode(context, HALFTONE);
-    const int lines = StretchDIBits(context, bounds->left, bounds->top, bounds->right - bounds->left,
-                                    bounds->bottom - bounds->top, 0, 0, picture.width(), picture.height(),
+    const int lines = StretchDIBits(context, bounds.left, bounds.top, bounds.right - bounds.left,
+                                    bounds.bottom - bounds.top, 0, 0, picture.width(), picture.height(),
                                     picture.constBits(), &info, DIB_RGB_COLORS, SRCCOPY);
     return lines > 0 || picture.isNull() ? S_OK : E_FAIL;
 }
@@ -105,8 +108,56 @@ STDMETHODIMP ViewObject::GetExtent(DWORD aspect, LONG, DVTARGETDEVICE *, LPSIZEL
     return m_control.oleObject().GetExtent(aspect, size);
 }
 
+STDMETHODIMP ViewObject::GetRect(DWORD aspect, LPRECTL rectangle)
+{
+    if (!rectangle)
+        return E_POINTER;
+    if (aspect != DVASPECT_CONTENT && aspect != DVASPECT_OPAQUE)
+        return DV_E_DVASPECT;
+    SIZEL size{};
+    const HRESULT outcome = GetExtent(DVASPECT_CONTENT, -1, nullptr, &size);
+    *rectangle = {0, 0, size.cx, size.cy};
+    return outcome;
+}
+
+STDMETHODIMP ViewObject::GetViewStatus(DWORD *status)
+{
+    if (!status)
+        return E_POINTER;
+    *status = viewStatus;
+    return S_OK;
+}
+
+STDMETHODIMP ViewObject::QueryHitPoint(DWORD aspect, LPCRECT bounds, POINT point, LONG, DWORD *hit)
+{
+    if (!bounds || !hit)
+        return E_POINTER;
+    if (aspect != DVASPECT_CONTENT)
+        return DV_E_DVASPECT;
+    *hit = PtInRect(bounds, point) ? HITRESULT_HIT : HITRESULT_OUTSIDE;
+    return S_OK;
+}
+
+STDMETHODIMP ViewObject::QueryHitRect(DWORD aspect, LPCRECT bounds, LPCRECT rectangle, LONG, DWORD *hit)
+{
+    if (!bounds || !rectangle || !hit)
+        return E_POINTER;
+    if (aspect != DVASPECT_CONTENT)
+        return DV_E_DVASPECT;
+    RECT common{};
+    *hit = IntersectRect(&common, bounds, rectangle) ? HITRESULT_HIT : HITRESULT_OUTSIDE;
+    return S_OK;
+}
+
+// A grid looks right at any size.
+STDMETHODIMP ViewObject::GetNaturalExtent(DWORD, LONG, DVTARGETDEVICE *, HDC, DVEXTENTINFO *, LPSIZEL)
+{
+    return E_NOTIMPL;
+}
+
 void ViewObject::viewChanged()
 {
+    m_control.data().dataChanged();
     if (!m_sink)
         return;
     const Microsoft::WRL::ComPtr<IAdviseSink> sink = m_sink;

@@ -2,7 +2,7 @@
 
 #include "activex/server/ComObject.h"
 
-#include <oleidl.h>
+#include <ocidl.h>
 #include <wrl/client.h>
 
 namespace KOVAVSFDataGridLib::ActiveX {
@@ -10,7 +10,7 @@ namespace KOVAVSFDataGridLib::ActiveX {
 class GridControl;
 
 // Draws the control when it has no window: on a form being designed, and in print.
-class ViewObject final : public Part<IViewObject2>
+class ViewObject final : public Part<IViewObjectEx>
 {
 public:
     explicit ViewObject(GridControl &control);
@@ -25,6 +25,22 @@ public:
     STDMETHODIMP SetAdvise(DWORD aspects, DWORD flags, IAdviseSink *sink) override;
     STDMETHODIMP GetAdvise(DWORD *aspects, DWORD *flags, IAdviseSink **sink) override;
     STDMETHODIMP GetExtent(DWORD aspect, LONG index, DVTARGETDEVICE *target, LPSIZEL size) override;
+
+    STDMETHODIMP GetRect(DWORD aspect, LPRECTL rectangle) override;
+    STDMETHODIMP GetViewStatus(DWORD *status) override;
+    STDMETHODIMP QueryHitPoint(DWORD aspect, LPCRECT bounds, POINT point, LONG closeHint,
+                               DWORD *hit) override;
+    STDMETHODIMP QueryHitRect(DWORD aspect, LPCRECT bounds, LPCRECT rectangle, LONG closeHint,
+                              DWORD *hit) override;
+    STDMETHODIMP GetNaturalExtent(DWORD aspect, LONG index, DVTARGETDEVICE *target, HDC targetContext,
+                                  DVEXTENTINFO *info, LPSIZEL size) override;
+
+    // It covers all that is behind it.
+    static constexpr DWORD viewStatus = VIEWSTATUS_OPAQUE;
+
+    // Draws with about so many dots, whatever the context has. To save memory, at most 6 times the screen's
+    // resolution is used.
+    HRESULT draw(HDC context, const RECTL &bounds, SIZE dots);
 
     // Tells the container that its picture of the control is outdated.
     void viewChanged();

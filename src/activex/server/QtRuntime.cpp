@@ -1,17 +1,19 @@
 #include "activex/server/QtRuntime.h"
 
 #include "activex/server/ModuleUse.h"
+#include "activex/server/QtHome.h"
 #include "activex/server/QuitKeeper.h"
 #include "control/settings/platform/ModuleFolder.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
-#include <QtCore/QThread>
 #include <QtCore/QTranslator>
 #include <QtGui/QFont>
 #include <QtWidgets/QApplication>
 
 #include <array>
+#include <atomic>
+#include <mutex>
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
@@ -48,27 +50,43 @@ void useChinese()
     QApplication::setFont(font);
 }
 
+void makeApplication()
+{
+    // The platform plugin is beside this file, wherever the host program is.
+    QCoreApplication::addLibraryPath(moduleFolder());
+    // Does not affect the host's process: its DPI awareness and the way it ends.
+    QCoreApplication::setAttribute(Qt::AA_PluginApplication);
+    static QByteArray program = hostProgram();
+    static int count = 1;
+    static std::array<char *, 2> arguments{program.data(), nullptr};
+    new QApplication(count, arguments.data()); // QtHome deletes it
+    QApplication::setQuitOnLastWindowClosed(false);
+    useChinese();
+    keepQuitMessages();
+}
+
+std::atomic<bool> wasStarted = false;
+
 } // namespace
 
 HRESULT startQt()
 {
+    // Recursive, because Qt's start can process messages.
+    static std::recursive_mutex starting;
+    const std::scoped_lock oneAtATime(starting);
     pinModule();
-    if (!QCoreApplication::instance()) {
-        // The platform plugin is beside this file, wherever the host program is.
-        QCoreApplication::addLibraryPath(moduleFolder());
-        // Does not affect the host's process: its DPI awareness and the way it ends.
-        QCoreApplication::setAttribute(Qt::AA_PluginApplication);
-        static QByteArray program = hostProgram();
-        static int count = 1;
-        static std::array<char *, 2> arguments{program.data(), nullptr};
-        new QApplication(count, arguments.data()); // lives as long as the process
-        QApplication::setQuitOnLastWindowClosed(false);
-        useChinese();
-        keepQuitMessages();
-    }
-    if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
-        return E_UNEXPECTED; // the host uses Qt, but without windows
-    return QThread::currentThread() == QCoreApplication::instance()->thread() ? S_OK : RPC_E_WRONG_THREAD;
+    if (!QtHome::claim())
+        return RPC_E_WRONG_THREAD;
+    wasStarted = true;
+    if (!QCoreApplication::instance())
+        QtHome::settle(makeApplication);
+    // A host may use Qt without windows.
+    return qobject_cast<QApplication *>(QCoreApplication::instance()) ? S_OK : E_UNEXPECTED;
+}
+
+bool wasQtStarted()
+{
+    return wasStarted;
 }
 
 } // namespace KOVAVSFDataGridLib::ActiveX

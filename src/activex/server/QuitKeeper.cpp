@@ -5,6 +5,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
 
+#include <utility>
 #include <windows.h>
 
 namespace KOVAVSFDataGridLib::ActiveX {
@@ -49,6 +50,12 @@ void keepQuitMessages()
 {
     if (!hook)
         hook = SetWindowsHookExW(WH_GETMESSAGE, look, nullptr, GetCurrentThreadId());
+}
+
+void forgetQuitMessages()
+{
+    UnhookWindowsHookEx(std::exchange(hook, nullptr));
+    isEnding = false;
 }
 
 } // namespace KOVAVSFDataGridLib::ActiveX

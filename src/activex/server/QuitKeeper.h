@@ -6,7 +6,8 @@ namespace KOVAVSFDataGridLib::ActiveX {
 // WM_QUIT from the queue and ignore it, because the application is not Qt's. Instead, the dialogs are
 // cancelled and the message is posted again for the host's own loop.
 //
-// Call it once, on the widgets' thread.
+// Both are called on the widgets' thread; the second before Qt ends.
 void keepQuitMessages();
+void forgetQuitMessages();
 
 } // namespace KOVAVSFDataGridLib::ActiveX

@@ -74,6 +74,8 @@ std::vector<Entry> entries()
                               {key + L"\\Implemented Categories\\" + text(controlCategory), {}, {}},
                               {key + L"\\MiscStatus", {}, L"0"},
                               {key + L"\\MiscStatus\\1", {}, std::to_wstring(OleObject::miscStatus)},
+                              {key + L"\\Verb\\0", {}, L"&Edit,0,2"}, // with MF_… and OLEVERBATTRIB_…
+                              {key + L"\\Verb\\1", {}, L"&Properties,0,2"},
                               {key + L"\\ToolboxBitmap32", {}, modulePath() + L",1"},
                               {progId, {}, controlName},
                               {std::wstring(progId) + L"\\CLSID", {}, text(controlId)}});

@@ -1,8 +1,7 @@
 #include "activex/server/ClassFactory.h"
 #include "activex/server/ModuleUse.h"
+#include "activex/server/QtRuntime.h"
 #include "activex/server/Registration.h"
-
-#include <QtCore/QCoreApplication>
 
 #include <cwchar>
 #include <new>
@@ -41,9 +40,9 @@ STDAPI DllGetClassObject(REFCLSID id, REFIID iid, void **object)
 
 STDAPI DllCanUnloadNow()
 {
-    // Qt can't be unloaded from a running process. Once it is loaded, the server stays, even without any
+    // Qt can't be unloaded from a running process. Once it was started, the server stays, even without any
     // object.
-    return ModuleUse::count() == 0 && !QCoreApplication::instance() ? S_OK : S_FALSE;
+    return ModuleUse::count() == 0 && !wasQtStarted() ? S_OK : S_FALSE;
 }
 
 STDAPI DllRegisterServer()

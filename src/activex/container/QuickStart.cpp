@@ -1,0 +1,56 @@
+#include "activex/container/QuickStart.h"
+
+#include "activex/GridControl.h"
+#include "activex/server/Guids.h"
+
+namespace KOVAVSFDataGridLib::ActiveX {
+
+namespace {
+
+HRESULT advise(IConnectionPointContainer &points, REFIID iid, IUnknown *sink, DWORD *cookie)
+{
+    *cookie = 0;
+    if (!sink)
+        return S_OK;
+    Microsoft::WRL::ComPtr<IConnectionPoint> point;
+    const HRESULT found = points.FindConnectionPoint(iid, &point);
+    return FAILED(found) ? found : point->Advise(sink, cookie);
+}
+
+} // namespace
+
+QuickStart::QuickStart(GridControl &control) : Part(control.identity()), m_control(control) {}
+
+STDMETHODIMP QuickStart::QuickActivate(QACONTAINER *container, QACONTROL *control)
+{
+    if (!container || !control)
+        return E_POINTER;
+    if (container->cbSize < sizeof *container || control->cbSize < sizeof *control)
+        return E_INVALIDARG;
+    // The ambient properties come with the site; containers fill in only some of those in the structure.
+    HRESULT outcome = m_control.oleObject().SetClientSite(container->pClientSite);
+    if (SUCCEEDED(outcome))
+        outcome = m_control.view().SetAdvise(DVASPECT_CONTENT, 0, container->pAdviseSink);
+    if (SUCCEEDED(outcome))
+        outcome = advise(m_control.connectionPoints(), IID_IPropertyNotifySink,
+                         container->pPropertyNotifySink, &control->dwPropNotifyCookie);
+    if (SUCCEEDED(outcome))
+        outcome =
+            advise(m_control.connectionPoints(), eventsId, container->pUnkEventSink, &control->dwEventCookie);
+    control->dwMiscStatus = OleObject::miscStatus;
+    control->dwViewStatus = ViewObject::viewStatus;
+    control->dwPointerActivationPolicy = 0; // it has a window whenever it is active
+    return outcome;
+}
+
+STDMETHODIMP QuickStart::SetContentExtent(LPSIZEL size)
+{
+    return m_control.oleObject().SetExtent(DVASPECT_CONTENT, size);
+}
+
+STDMETHODIMP QuickStart::GetContentExtent(LPSIZEL size)
+{
+    return m_control.oleObject().GetExtent(DVASPECT_CONTENT, size);
+}
+
+} // namespace KOVAVSFDataGridLib::ActiveX
