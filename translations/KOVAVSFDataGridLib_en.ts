@@ -2728,6 +2728,10 @@
         <source>是按顺序排在最后的 %1 个之一</source>
         <translation>is one of the last %1 in order</translation>
     </message>
+    <message>
+        <source>不满足（%1）</source>
+        <translation>not (%1)</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::SessionMessages</name>

@@ -36,6 +36,7 @@ inline constexpr Text AnyFieldInWords = tr("%1 个字段之一 %2");
 inline constexpr Text AndInWords = tr("，并且 ");
 inline constexpr Text OrInWords = tr("，或者 ");
 inline constexpr Text NotInWords = tr("不满足 %1");
+inline constexpr Text NoneInWords = tr("不满足（%1）");
 inline constexpr Text RepeatedInWords = tr("的值有重复");
 inline constexpr Text LargestInWords = tr("是最大的 %1 个之一");
 inline constexpr Text SmallestInWords = tr("是最小的 %1 个之一");

@@ -3,7 +3,6 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "ado/ValueText.h"
-#include "ado/connection/Waiting.h"
 #include "control/input/InputEvents.h"
 #include "control/input/MenuKey.h"
 #include "control/input/record/FieldRules.h"
@@ -23,11 +22,9 @@
 #include "session/Session.h"
 #include "session/commands/CommandKeys.h"
 #include "session/editing/EditedRecord.h"
-#include "session/records/FilledFields.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
-#include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QHeaderView>
@@ -63,6 +60,7 @@ SingleRecordView::SingleRecordView(QWidget &control, InputEvents &host, Session 
       m_parts(parts),
       m_pictureFields(session, control),
       m_heading(*parts.MSFlexGrid1->horizontalHeader()),
+      m_required(session),
       m_editor(session, parts)
 {
     MSFlexGrid &list = *parts.MSFlexGrid1;
@@ -83,6 +81,7 @@ SingleRecordView::SingleRecordView(QWidget &control, InputEvents &host, Session 
         list.setAttribute(Qt::WA_InputMethodEnabled); // so that an edit can begin with an input method
         m_session.record().commitEdit();              // last, because the host may delete the control
     });
+    connect(&m_required, &RequiredFields::learned, this, &SingleRecordView::markRequired);
     connect(&m_editor, &CellEditor::saveWanted, this, &SingleRecordView::saveWanted);
     connect(&m_heading, &RecordHeading::picturesClicked, this, &SingleRecordView::togglePictures);
     connect(&m_heading, &RecordHeading::commandWanted, this, &SingleRecordView::commandWanted);
@@ -156,48 +155,25 @@ void SingleRecordView::listFields()
 {
     m_fields.clear();
     bool hasBinary = false;
-    const auto recordset = m_session.result().recordset();
-    m_listedOf = recordset;
-    const bool isLearned = recordset && m_learnedOf.lock() == recordset;
+    m_required.learn();
     const int fields = m_session.result().isOpen() ? m_session.result().recordset()->Fields().Count() : 0;
     for (int i = 0; i < fields; ++i) {
         const ADODB::Field &field = m_session.result().recordset()->Fields().Item(i);
         ListedField listed{.field = i, .isBinary = PictureFields::isBinary(field)};
         listed.format = shownFormat(field);
-        listed.isRequired =
-            isLearned && !m_session.record().isReadOnly() && isRequired(field) && !m_filledFields.contains(i);
+        listed.isRequired = m_required.has(i);
         hasBinary |= listed.isBinary;
         if (!isListed(field) && !m_heading.hasPictures())
             continue;
         m_fields.push_back(std::move(listed));
     }
     m_heading.offerPictures(hasBinary);
-    if (!isLearned)
-        QTimer::singleShot(0, this, &SingleRecordView::learnFilledFields);
 }
 
-// Marks what is required. The database is asked once for a result, when the record is there to be seen.
-void SingleRecordView::learnFilledFields()
+void SingleRecordView::markRequired()
 {
-    const auto recordset = m_session.result().recordset();
-    // Not while something else waits for the database; the next record asks again.
-    if (!m_session.result().isOpen() || m_listedOf.lock() != recordset || m_learnedOf.lock() == recordset ||
-        m_session.record().isReadOnly() || ADODB::Waiting::isWatched())
-        return;
-    const QPointer<SingleRecordView> alive(this);
-    std::set<int> filled;
-    bool isAnyRequired = false;
-    for (int i = 0; i < recordset->Fields().Count(); ++i)
-        isAnyRequired |= isRequired(recordset->Fields().Item(i));
-    if (isAnyRequired)
-        filled = filledFields(m_session);
-    if (!alive || m_session.result().recordset() != recordset || m_listedOf.lock() != recordset)
-        return;
-    m_filledFields = std::move(filled);
-    m_learnedOf = recordset;
     for (ListedField &listed : m_fields)
-        listed.isRequired =
-            isRequired(recordset->Fields().Item(listed.field)) && !m_filledFields.contains(listed.field);
+        listed.isRequired = m_required.has(listed.field);
     m_parts.MSFlexGrid1->viewport()->update();
 }
 

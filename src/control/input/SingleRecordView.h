@@ -4,12 +4,12 @@
 #include "control/input/record/ListedField.h"
 #include "control/input/record/PictureFields.h"
 #include "control/input/record/RecordHeading.h"
+#include "control/input/record/RequiredFields.h"
 #include "session/SessionWindow.h"
 
 #include <QtCore/QObject>
 
 #include <memory>
-#include <set>
 #include <vector>
 
 class QKeyEvent;
@@ -64,7 +64,7 @@ private:
     void clearCurrent();
     bool isPictureCurrent() const;
     void listFields();
-    void learnFilledFields();
+    void markRequired();
     void showPictures();
     void fitNameColumn();
     void togglePictures();
@@ -79,10 +79,7 @@ private:
     PictureFields m_pictureFields;
     RecordHeading m_heading;
     std::vector<ListedField> m_fields; // for the rows below the heading
-    // Those that need no value from the user, once the database was asked about this result.
-    std::set<int> m_filledFields;
-    std::weak_ptr<ADODB::Recordset> m_learnedOf;
-    std::weak_ptr<ADODB::Recordset> m_listedOf; // whose fields m_fields has
+    RequiredFields m_required;
     CellEditor m_editor;
 };
 

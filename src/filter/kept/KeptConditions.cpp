@@ -67,24 +67,17 @@ QStringList KeptConditions::kept() const
     return conditions;
 }
 
-// What binds looser than AND must not take in what is joined to it.
-bool KeptConditions::isLoose(const QString &condition) const
-{
-    const SqlScanner sql(condition, m_dialect);
-    return sql.count() > 0 && isAlternative(sql, {0, sql.count()});
-}
-
 QString KeptConditions::inWords(const QString &condition) const
 {
     const SqlScanner sql(condition, m_dialect);
-    return conditionInWords(sql, {0, sql.count()}).simplified();
+    return conditionInWords(sql, {0, sql.count()});
 }
 
 QString KeptConditions::joinedWith(const QString &condition) const
 {
     QStringList parts;
     for (const QString &each : kept())
-        parts.append(isLoose(each) ? u'(' + each + u')' : each);
+        parts.append(isLooseCondition(each, m_dialect) ? u'(' + each + u')' : each);
     if (!condition.isEmpty())
         parts.append(condition);
     return parts.join(" AND "_L1);
@@ -95,8 +88,8 @@ QStringList KeptConditions::wordsOf(const QStringList &conditions) const
     QStringList words;
     for (const QString &condition : conditions) {
         const QString text = inWords(condition);
-        const bool isNegated = SqlScanner(condition, m_dialect).isWord(0, u"NOT");
-        words.append(isNegated || isLoose(condition) ? FilterTexts::BracketsInSentence.arg(text) : text);
+        words.append(isLooseCondition(condition, m_dialect) ? FilterTexts::BracketsInSentence.arg(text)
+                                                            : text);
     }
     return words;
 }

@@ -45,7 +45,6 @@ Q_SIGNALS:
     void changed();
 
 private:
-    bool isLoose(const QString &condition) const;
     QString inWords(const QString &condition) const;
 
     Dialect m_dialect;

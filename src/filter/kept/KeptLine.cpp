@@ -6,7 +6,11 @@
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QStyle>
 
+#include <algorithm>
+
 namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
 
 KeptLine::KeptLine(const QString &condition, const QString &words, QWidget *parent)
     : QCheckBox(parent), m_condition(condition), m_words(words)
@@ -18,6 +22,7 @@ KeptLine::KeptLine(const QString &condition, const QString &words, QWidget *pare
     setAccessibleDescription(FilterTexts::KeepConditionTip);
     QString tip = words.left(mostInTip) + u'\n' + condition.left(mostInTip);
     tip += u'\n' + FilterTexts::KeepConditionTip();
+    tip.replace("  "_L1, u" \u00a0"_s); // as they are
     setToolTip(Qt::convertFromPlainText(tip, Qt::WhiteSpaceNormal));
     write();
 }
@@ -50,7 +55,9 @@ void KeptLine::write()
 {
     const int room = width() - style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this) -
                      style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, this);
-    const QString whole = FilterTexts::KeepCondition.arg((m_isSql ? m_condition : m_words).simplified());
+    QString whole = FilterTexts::KeepCondition.arg(m_isSql ? m_condition : m_words);
+    std::ranges::replace_if(
+        whole, [](QChar c) { return c == u'\n' || c == u'\r' || c == u'\t'; }, u' ');
     QString text = fontMetrics().elidedText(whole, Qt::ElideRight, room);
     setText(text.replace(u'&', QLatin1String("&&"))); // no mnemonic
 }

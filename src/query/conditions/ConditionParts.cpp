@@ -86,6 +86,12 @@ QString comparableText(const QString &condition, const Dialect &dialect)
     return text;
 }
 
+bool isLooseCondition(const QString &condition, const Dialect &dialect)
+{
+    const SqlScanner sql(condition, dialect);
+    return sql.count() > 0 && isAlternative(sql, {0, sql.count()});
+}
+
 bool hasClosedBrackets(const QString &condition, const Dialect &dialect)
 {
     const SqlScanner sql(condition, dialect);

@@ -15,6 +15,8 @@ QStringList textsOfParts(const QString &condition, const Dialect &dialect);
 // The text with one blank after each token, to compare conditions: blanks and comments outside strings and
 // names have no meaning.
 QString comparableText(const QString &condition, const Dialect &dialect);
+// Whether the condition binds looser than AND, which must not take in what is joined to it.
+bool isLooseCondition(const QString &condition, const Dialect &dialect);
 // Whether every bracket has its counterpart within the condition.
 bool hasClosedBrackets(const QString &condition, const Dialect &dialect);
 

@@ -116,6 +116,17 @@ QChar escapeOf(const SqlScanner &sql, qsizetype word)
     return textOfLiteral(sql, {word + 1, word + 2}).value_or(QString(u' ')).front();
 }
 
+QString lineOf(const SqlScanner &sql, TextRange range)
+{
+    QString line;
+    for (qsizetype i = range.begin; i < range.end; ++i) {
+        if (i > range.begin && sql.at(i).start > sql.at(i - 1).end())
+            line += u' ';
+        line += sql.text(i);
+    }
+    return line;
+}
+
 std::optional<Bounds> boundsOf(const SqlScanner &sql, TextRange condition)
 {
     const TextRange inner = withoutBrackets(sql, condition);

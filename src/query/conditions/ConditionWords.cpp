@@ -42,7 +42,7 @@ QString operandInWords(const SqlScanner &sql, TextRange range)
     if (const auto text = textOfLiteral(sql, range))
         return quoted(*text);
     const QStringList fields = fieldsOfCondition(sql, range);
-    return fields.size() == 1 && isFieldAlone(sql, range) ? fields.front() : textOf(sql, range).simplified();
+    return fields.size() == 1 && isFieldAlone(sql, range) ? fields.front() : lineOf(sql, range);
 }
 
 QString patternInWords(QString pattern, QChar escape)
@@ -157,8 +157,8 @@ Comparison comparisonOf(const SqlScanner &sql, TextRange range)
         }
         if (sql.isWord(i, u"IN") && !sql.isWord(i - 1, u"NOT")) {
             const TextRange list = withoutBrackets(sql, behind);
-            return {operand, recordsInWords(sql, list).value_or(
-                                 QueryTexts::InListInWords.arg(textOf(sql, list).simplified()))};
+            return {operand,
+                    recordsInWords(sql, list).value_or(QueryTexts::InListInWords.arg(lineOf(sql, list)))};
         }
         static constexpr QStringView signs = u"=<>!";
         const auto isSign = [&](qsizetype token) {
@@ -244,6 +244,13 @@ QString boundsInWords(const SqlScanner &sql, const Bounds &bounds)
            operand + (bounds.isUpperIncluded ? u" ≤ "_s : u" < "_s) + upper;
 }
 
+// Of several conditions, all are meant and not only the first one.
+QString negationInWords(const QString &words)
+{
+    const bool areSeveral = words.contains(QueryTexts::AndInWords) || words.contains(QueryTexts::OrInWords);
+    return (areSeveral ? QueryTexts::NoneInWords : QueryTexts::NotInWords).arg(words);
+}
+
 } // namespace
 
 QString conditionInWords(const SqlScanner &statement, TextRange condition)
@@ -256,7 +263,7 @@ QString conditionInWords(const SqlScanner &statement, TextRange condition)
     if (const auto pieces = cutAt(statement, condition, u"OR"); pieces.size() > 1)
         return alternativesInWords(statement, pieces);
     if (isAlternative(statement, condition))
-        return textOf(statement, condition).simplified();
+        return lineOf(statement, condition);
     if (const auto pieces = cutAt(statement, condition, u"AND"); pieces.size() > 1) {
         QStringList words;
         for (const TextRange &piece : pieces) {
@@ -267,10 +274,10 @@ QString conditionInWords(const SqlScanner &statement, TextRange condition)
         return words.join(QueryTexts::AndInWords);
     }
     if (statement.isWord(condition.begin, u"NOT") && condition.end - condition.begin > 1)
-        return QueryTexts::NotInWords.arg(conditionInWords(statement, {condition.begin + 1, condition.end}));
+        return negationInWords(conditionInWords(statement, {condition.begin + 1, condition.end}));
     const Comparison comparison = comparisonOf(statement, condition);
     if (comparison.rest.isEmpty())
-        return textOf(statement, condition).simplified();
+        return lineOf(statement, condition);
     return comparison.operand + u' ' + comparison.rest;
 }
 
