@@ -1,6 +1,7 @@
 #include "control/parts/ColumnMenu.h"
 
 #include "control/parts/GridTexts.h"
+#include "forms/widgets/TickBoxes.h"
 #include "grid/FlexGrid.h"
 #include "language/Language.h"
 #include "session/Session.h"
@@ -9,7 +10,6 @@
 #include "session/columns/ColumnKeys.h"
 
 #include <QtGui/QAction>
-#include <QtWidgets/QMenu>
 
 namespace KOVAVSFDataGridLib {
 
@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 ColumnMenu::ColumnMenu(QWidget &window, const QWidget &toolbar, VSFlexGrid &grid, Session &session,
                        Runner run)
-    : m_toolbar(toolbar), m_grid(grid), m_session(session), m_run(std::move(run)), m_menu(new QMenu(&window))
+    : m_toolbar(toolbar), m_grid(grid), m_session(session), m_run(std::move(run)), m_menu(new Menu(&window))
 {
     m_menu->setObjectName(u"ColumnMenu"_s);
     m_menu->setToolTipsVisible(true); // for the reason why an item is disabled
@@ -63,7 +63,8 @@ void ColumnMenu::addTo(QMenu &menu, int col)
     if (heading.size() > longestHeading)
         heading = heading.first(longestHeading) + u'…';
     QAction *const separator = menu.addSeparator();
-    QMenu *const entries = menu.addMenu(GridTexts::ColumnEntries.arg(heading.replace(u'&', "&&"_L1)));
+    auto *const entries = new Menu(GridTexts::ColumnEntries.arg(heading.replace(u'&', "&&"_L1)), &menu);
+    menu.addMenu(entries);
     entries->setObjectName(u"PopMnuColumn"_s);
     entries->setAccessibleName(GridTexts::ColumnMenuName);
     entries->setToolTipsVisible(true);

@@ -1,6 +1,7 @@
 #include "filter/ticks/TickList.h"
 
 #include "filter/FilterTexts.h"
+#include "forms/widgets/TickBoxes.h"
 #include "language/GroupedNumber.h"
 
 #include <QtCore/QDate>
@@ -48,6 +49,7 @@ void addCount(QTreeWidgetItem *item, qint64 count)
 
 TickList::TickList(TickState &state, QWidget *parent) : QTreeWidget(parent), m_state(state)
 {
+    setItemDelegate(new TickDelegate(this));
     setColumnCount(2);
     setHeaderLabels({FilterTexts::ValueList, FilterTexts::CountOfRecords});
     headerItem()->setTextAlignment(countColumn, Qt::AlignRight | Qt::AlignVCenter);

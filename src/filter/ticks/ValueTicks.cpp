@@ -3,12 +3,12 @@
 #include "ado/Error.h"
 #include "filter/FilterTexts.h"
 #include "filter/ticks/TickList.h"
+#include "forms/widgets/TickBoxes.h"
 #include "language/GroupedNumber.h"
 
 #include <QtCore/QDate>
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -58,7 +58,7 @@ ValueTicks::ValueTicks(QWidget *parent)
     : QWidget(parent),
       m_delay(new QTimer(this)),
       m_search(new QLineEdit(this)),
-      m_checkAll(new QCheckBox(this)),
+      m_checkAll(new CheckBox(this)),
       m_list(new TickList(m_state, this)),
       m_note(new QLabel(this)),
       m_progress(new QProgressBar(this)),
