@@ -163,7 +163,7 @@ void SingleRecordView::listFields()
     for (int i = 0; i < fields; ++i) {
         const ADODB::Field &field = m_session.result().recordset()->Fields().Item(i);
         ListedField listed{.field = i, .isBinary = PictureFields::isBinary(field)};
-        listed.format = shownFormat(field);
+        listed.format = shownFormat(*recordset, i);
         listed.isRequired =
             isLearned && !m_session.record().isReadOnly() && isRequired(field) && !m_filledFields.contains(i);
         hasBinary |= listed.isBinary;

@@ -1,6 +1,7 @@
 #include "filter/ticks/ValueTicks.h"
 
 #include "ado/Error.h"
+#include "ado/values/DisplayFormat.h"
 #include "filter/FilterTexts.h"
 #include "filter/ticks/TickList.h"
 #include "forms/widgets/TickBoxes.h"
@@ -31,13 +32,16 @@ QString spokenDay(const QString &day)
     return FilterTexts::WholeDay.arg(date.year()).arg(date.month()).arg(date.day());
 }
 
-// The values that contain a text.
+// The values that contain a text, or are shown with it.
 OfferedValues found(const OfferedValues &values, const QString &text, bool areDays)
 {
     OfferedValues found;
+    found.decimals = values.decimals;
+    const ADODB::DisplayFormat format{.leastDecimals = values.decimals};
     for (qsizetype i = 0; i < values.values.size(); ++i) {
         const QString &value = values.values.at(i);
-        if (!value.contains(text, Qt::CaseInsensitive) && !(areDays && spokenDay(value).contains(text)))
+        if (!value.contains(text, Qt::CaseInsensitive) && !format.applied(value).contains(text) &&
+            !(areDays && spokenDay(value).contains(text)))
             continue;
         found.values.append(value);
         found.counts.append(values.counts.value(i, -1));
