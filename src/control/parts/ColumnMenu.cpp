@@ -10,10 +10,27 @@
 #include "session/columns/ColumnKeys.h"
 
 #include <QtGui/QAction>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
 
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Without records there is no cell that a view could scroll to.
+void showHeading(VSFlexGrid &grid, int col)
+{
+    if (grid.currentIndex().isValid())
+        return grid.scrollTo(grid.currentIndex());
+    const QHeaderView &header = *grid.horizontalHeader();
+    const int left = header.sectionViewportPosition(col - 1);
+    if (left < 0 || left + header.sectionSize(col - 1) > header.viewport()->width())
+        grid.horizontalScrollBar()->setValue(grid.horizontalScrollBar()->value() + left);
+}
+
+} // namespace
 
 ColumnMenu::ColumnMenu(QWidget &window, const QWidget &toolbar, VSFlexGrid &grid, Session &session,
                        Runner run)
@@ -38,10 +55,10 @@ ColumnMenu::ColumnMenu(QWidget &window, const QWidget &toolbar, VSFlexGrid &grid
 
 void ColumnMenu::openAtCurrentColumn()
 {
-    if (m_session.window().isSingleRecordShown() || m_grid.Row() < 1 || m_grid.Cols() < 2)
+    if (m_session.window().isSingleRecordShown() || m_grid.Cols() < 2)
         return;
     const int col = m_grid.ShownCol();
-    m_grid.scrollTo(m_grid.currentIndex());
+    showHeading(m_grid, col);
     popUp(col, m_grid.ColumnMenuPlace(col));
 }
 
