@@ -4,6 +4,7 @@
 #include "ado/Texts.h"
 #include "export/ExportTexts.h"
 #include "export/platform/BeginSaving.h"
+#include "export/platform/ReplacedFile.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QSaveFile>
@@ -62,6 +63,7 @@ ExportOutcome exportToFile(const QString &file, const ExportOptions &options,
     } catch (const std::bad_alloc &) { // a single value can exceed the remaining memory
         throw cantWrite(ADODB::Texts::outOfMemory);
     }
+    const ReplacedFile replaced(file);
     if (outcome.isWritten && !target.commit())
         throw cantWrite(target.errorString());
     return outcome;

@@ -19,7 +19,8 @@ namespace {
 // number's format with the day's number in their calendar.
 constexpr char head[] = "<html><head><meta charset=\"utf-8\"><style>.t{mso-number-format:\"\\@\"}"
                         ".d{mso-number-format:\"yyyy\\-mm\\-dd\"}.h{mso-number-format:\"hh\\:mm\\:ss\"}"
-                        ".m{mso-number-format:\"yyyy\\-mm\\-dd\\ hh\\:mm\\:ss\"}</style></head>"
+                        ".m{mso-number-format:\"yyyy\\-mm\\-dd\\ hh\\:mm\\:ss\"}"
+                        "br{mso-data-placement:same-cell}pre{display:inline;font:inherit}</style></head>"
                         "<body><table>";
 constexpr char numberCell[] = "<td>";
 constexpr char textCell[] = "<td class=\"t\" sdnum=\"1033;0;@\">"; // stays as it is
@@ -87,26 +88,36 @@ QByteArray beginOfCell(QByteArrayView text, ADODB::DataTypeEnum type)
     }
 }
 
-// HTML makes one blank of several and none of those at a line's ends, unless they are of another kind; in
-// this span they become usual ones again.
+// HTML makes one blank of several and none of those at a line's ends.
+bool isLostBlank(QByteArrayView text, qsizetype at)
+{
+    const auto isEnd = [](char c) { return c == ' ' || c == '\n' || c == '\r'; };
+    return text[at] == ' ' &&
+           (at == 0 || at + 1 == text.size() || isEnd(text[at - 1]) || isEnd(text[at + 1]));
+}
+
+// Blanks of another kind would stay too, but who pastes them would have another text. One family of programs
+// keeps the blanks of such a block, the other those of such spans.
 void appendWithBlanks(QByteArray &html, QByteArrayView text)
 {
-    const auto isLost = [&](qsizetype at) {
-        const auto isEnd = [](char c) { return c == ' ' || c == '\n' || c == '\r'; };
-        return text[at] == ' ' &&
-               (at == 0 || at + 1 == text.size() || isEnd(text[at - 1]) || isEnd(text[at + 1]));
-    };
+    bool isChanged = text.contains('\t');
+    for (qsizetype at = 0; at < text.size() && !isChanged; ++at)
+        isChanged = isLostBlank(text, at);
+    if (!isChanged)
+        return appendHtml(html, text);
+    html += "<pre>";
     for (qsizetype at = 0; at < text.size();) {
         const qsizetype begin = at;
-        const bool areBlanks = isLost(at);
-        while (at < text.size() && isLost(at) == areBlanks)
+        const bool areBlanks = isLostBlank(text, at);
+        while (at < text.size() && isLostBlank(text, at) == areBlanks)
             ++at;
         if (areBlanks)
-            html +=
-                "<span style=\"mso-spacerun:yes\">" + QByteArray("&nbsp;").repeated(at - begin) + "</span>";
-        else
-            appendHtml(html, text.sliced(begin, at - begin));
+            html += "<span style=\"mso-spacerun:yes\">";
+        appendHtml(html, text.sliced(begin, at - begin));
+        if (areBlanks)
+            html += "</span>";
     }
+    html += "</pre>";
 }
 
 // The value at `at` in a tab-separated text, which may be quoted. Moves `at` to the separator after it.

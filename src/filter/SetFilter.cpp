@@ -9,12 +9,12 @@
 #include "filter/rows/FilterRows.h"
 #include "filter/ticks/TicksDialog.h"
 #include "forms/widgets/FlatCmd.h"
+#include "forms/widgets/TickBoxes.h"
 #include "sql/StatementLines.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QAccessible>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -35,11 +35,11 @@ SetFilter::SetFilter(QWidget *parent)
       m_kept(new KeptConditions(m_scroll)),
       m_rows(new FilterRows(m_scroll)),
       m_add(new FlatCmd(FilterTexts::AddRow, this)),
-      m_groups(new QCheckBox(FilterTexts::ShowGroups, this)),
+      m_groups(new CheckBox(FilterTexts::ShowGroups, this)),
       m_addBrackets(new FlatCmd(FilterTexts::AddBrackets, this)),
       m_sentence(new SentenceLabel(this)),
       m_count(new FilterCount(this)),
-      m_sql(new QCheckBox(FilterTexts::ShowSql, this)),
+      m_sql(new CheckBox(FilterTexts::ShowSql, this)),
       m_conditionLabel(new QLabel(FilterTexts::Condition, this)),
       m_condition(new QLineEdit(this)),
       m_backToRows(new FlatCmd(FilterTexts::BackToRows, this)),

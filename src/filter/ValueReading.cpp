@@ -4,6 +4,7 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 #include "ado/connection/Waiting.h"
+#include "ado/rows/RowReader.h"
 #include "filter/FilterTexts.h"
 
 #include <QtCore/QDeadlineTimer>
@@ -167,6 +168,7 @@ OfferedValues ValueReading::valuesOf(const QString &statement,
                 offered.counts[*place] += count;
             continue;
         }
+        offered.decimals = std::max(offered.decimals, ADODB::RowReader::lostDecimals(values, record, 0));
         known.insert(text, offered.values.size());
         offered.values.append(text);
         if (hasCounts)

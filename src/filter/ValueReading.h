@@ -28,6 +28,7 @@ struct OfferedValues
     // How many records have each value; empty if unknown. And how many have no value; -1 if unknown.
     QList<qint64> counts = {};
     qint64 withoutValue = -1;
+    int decimals = 0; // with which numbers are shown at least
 
     bool operator==(const OfferedValues &) const = default;
 };

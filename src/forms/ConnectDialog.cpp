@@ -3,13 +3,12 @@
 #include "forms/Contrast.h"
 #include "forms/FormTexts.h"
 #include "forms/widgets/TextWidth.h"
+#include "forms/widgets/TickBoxes.h"
 
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QRadioButton>
 #include <QtWidgets/QVBoxLayout>
 
 #include <utility>
@@ -21,10 +20,10 @@ using namespace Qt::StringLiterals;
 ConnectDialog::ConnectDialog(Builder builder, QWidget *parent)
     : QDialog(parent),
       m_builder(std::move(builder)),
-      m_link(new QRadioButton(FormTexts::BuildConnection, this)),
-      m_type(new QRadioButton(FormTexts::TypeConnection, this)),
+      m_link(new RadioButton(FormTexts::BuildConnection, this)),
+      m_type(new RadioButton(FormTexts::TypeConnection, this)),
       m_text(new QLineEdit(this)),
-      m_askSqlShow(new QCheckBox(FormTexts::AskSqlShowToo, this)),
+      m_askSqlShow(new CheckBox(FormTexts::AskSqlShowToo, this)),
       m_build(new QPushButton(FormTexts::LinkButton, this)),
       m_prompt(new QLabel(FormTexts::InputConnectionString, this)),
       m_hint(new QLabel(FormTexts::ConnectionStringHint, this))

@@ -60,6 +60,13 @@ protected:
     }
 };
 
+// The contrast of the lines that Qt's own style draws around square and round boxes, where a palette has that
+// Window, to what is beside them.
+double visibilityOfBoxes(const QColor &window, const QColor &beside)
+{
+    return std::min(contrast(window.darker(140).lighter(110), beside), contrast(window.darker(150), beside));
+}
+
 } // namespace
 
 double contrast(const QColor &a, const QColor &b)
@@ -81,6 +88,28 @@ void makeHintsReadable(QWidget &widget)
 {
     applyHintColour(widget);
     widget.installEventFilter(new HintColour(&widget));
+}
+
+void makeBoxVisible(QPalette &palette)
+{
+    // Boxes are on windows and in lists, and are filled like lists. Round lines are smoothed, which costs a
+    // part of their contrast.
+    constexpr double wanted = leastPictureContrast * 1.5;
+    const QColor window = palette.color(QPalette::Window);
+    const auto visibility = [&](const QColor &candidate) {
+        return std::min(visibilityOfBoxes(candidate, window),
+                        visibilityOfBoxes(candidate, palette.color(QPalette::Base)));
+    };
+    QColor best = window;
+    // The palest that will do. Where even the text's colour doesn't, its opposite does.
+    for (const QColor end : {palette.color(QPalette::WindowText), QColor(Qt::black), QColor(Qt::white)}) {
+        for (int percent = 0; percent <= 100 && visibility(best) < wanted; percent += 4) {
+            if (const QColor mixed = blended(end, window, percent / 100.0);
+                visibility(mixed) > visibility(best))
+                best = mixed;
+        }
+    }
+    palette.setColor(QPalette::Window, best);
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -2,6 +2,7 @@
 
 #include <QtGui/QColor>
 
+class QPalette;
 class QWidget;
 
 namespace KOVAVSFDataGridLib {
@@ -19,5 +20,10 @@ QColor blended(const QColor &top, const QColor &bottom, double share);
 // Sets the colour of hints (the palette's PlaceholderText) in a widget and its children to one that is paler
 // than text but still readable. Repeats this when the palette changes.
 void makeHintsReadable(QWidget &widget);
+
+// Changes a palette, with which only a box for a tick is drawn, so that the box can be seen without one.
+// Styles that use the palette only darken its Window for the line around the box, which is hardly seen on
+// light windows and not at all on dark ones.
+void makeBoxVisible(QPalette &palette);
 
 } // namespace KOVAVSFDataGridLib

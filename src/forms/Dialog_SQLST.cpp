@@ -3,8 +3,8 @@
 #include "forms/Contrast.h"
 #include "forms/FormTexts.h"
 #include "forms/widgets/TextWidth.h"
+#include "forms/widgets/TickBoxes.h"
 
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -19,7 +19,7 @@ Dialog_SQLST::Dialog_SQLST(QWidget *parent)
     : QDialog(parent),
       m_label(new QLabel(this)),
       m_text(new QLineEdit(this)),
-      m_allowEdit(new QCheckBox(FormTexts::AllowEditing, this))
+      m_allowEdit(new CheckBox(FormTexts::AllowEditing, this))
 {
     makeHintsReadable(*this);
     setObjectName(u"Dialog_SQLST"_s);

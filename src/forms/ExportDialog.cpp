@@ -5,13 +5,13 @@
 #include "forms/FormTexts.h"
 #include "forms/Messages.h"
 #include "forms/widgets/TextWidth.h"
+#include "forms/widgets/TickBoxes.h"
 #include "language/GroupedNumber.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
 #include <QtCore/QStandardPaths>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFormLayout>
@@ -20,7 +20,6 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QRadioButton>
 
 namespace KOVAVSFDataGridLib {
 
@@ -66,17 +65,17 @@ ExportDialog::ExportDialog(const Choices &choices, QWidget *parent)
       m_file(named(new QLineEdit, u"txtFile"_s)),
       m_format(named(new QComboBox, u"cmbFormat"_s)),
       m_encoding(named(new QComboBox, u"cmbEncoding"_s)),
-      m_allRecords(named(new QRadioButton(FormTexts::ExportAllRecords.arg(grouped(choices.records))),
+      m_allRecords(named(new RadioButton(FormTexts::ExportAllRecords.arg(grouped(choices.records))),
                          u"optAllRecords"_s)),
       m_markedRecords(
-          named(new QRadioButton(FormTexts::ExportMarkedRecords.arg(grouped(choices.markedRecords))),
+          named(new RadioButton(FormTexts::ExportMarkedRecords.arg(grouped(choices.markedRecords))),
                 u"optMarkedRecords"_s)),
-      m_shownColumns(named(new QRadioButton(FormTexts::ExportShownColumns.arg(choices.shownColumns)),
+      m_shownColumns(named(new RadioButton(FormTexts::ExportShownColumns.arg(choices.shownColumns)),
                            u"optShownColumns"_s)),
       m_allColumns(
-          named(new QRadioButton(FormTexts::ExportAllColumns.arg(choices.allColumns)), u"optAllColumns"_s)),
-      m_headings(named(new QCheckBox(FormTexts::ExportHeadings), u"chkHeadings"_s)),
-      m_guard(named(new QCheckBox(FormTexts::ExportGuard), u"chkGuard"_s))
+          named(new RadioButton(FormTexts::ExportAllColumns.arg(choices.allColumns)), u"optAllColumns"_s)),
+      m_headings(named(new CheckBox(FormTexts::ExportHeadings), u"chkHeadings"_s)),
+      m_guard(named(new CheckBox(FormTexts::ExportGuard), u"chkGuard"_s))
 {
     makeHintsReadable(*this);
     setObjectName(u"ExportDialog"_s);

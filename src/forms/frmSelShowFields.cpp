@@ -5,6 +5,7 @@
 #include "forms/widgets/FlatCmd.h"
 #include "forms/widgets/GradualControl.h"
 #include "forms/widgets/TextWidth.h"
+#include "forms/widgets/TickBoxes.h"
 #include "query/conditions/SelectionText.h"
 
 #include <QtCore/QSignalBlocker>
@@ -74,6 +75,7 @@ QWidget *frmSelShowFields::makeList()
     layout->setContentsMargins({});
     layout->addWidget(m_list);
 
+    m_list->setItemDelegate(new TickDelegate(m_list));
     m_list->setObjectName(u"lvSelField"_s);
     m_list->setAccessibleName(FormTexts::FieldNameColumn);
     m_list->setHeaderLabel(FormTexts::FieldNameColumn);

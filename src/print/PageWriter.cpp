@@ -31,9 +31,10 @@ double widthOf(const ExportColumn &column)
 }
 
 // Letters on paper are not fitted to pixels, which makes some of them wider than on a screen.
+constexpr double widerOnPaper = 1.1;
+
 double missingWidth(const ExportColumn &column)
 {
-    constexpr double widerOnPaper = 1.1;
     return std::max(0.0, column.fittingWidth * widerOnPaper - widthOf(column));
 }
 
@@ -43,6 +44,42 @@ double sumOf(const ExportColumns &columns, double (*of)(const ExportColumn &))
     for (const ExportColumn &column : columns)
         sum += of(column);
     return sum;
+}
+
+// Cut, a number or a date says something else; of a text, the beginning is worth reading.
+bool mustBeWhole(const ExportColumn &column)
+{
+    return ADODB::isNumericType(column.type) || !ADODB::isTextType(column.type);
+}
+
+// Gives columns that must be whole what they lack, as far as others have it: first what these do not need
+// themselves, then what they need. `scale` is the size of the letters.
+void giveToWhole(std::vector<double> &widths, const ExportColumns &columns, double scale)
+{
+    constexpr double leastOfText = 40;
+    const auto needOf = [&](std::size_t i) {
+        return columns[i].fittingWidth > 0 ? columns[i].fittingWidth * widerOnPaper * scale : widths[i];
+    };
+    const auto lackOf = [&](std::size_t i) {
+        return mustBeWhole(columns[i]) ? std::max(0.0, needOf(i) - widths[i]) : 0;
+    };
+    const auto spareOf = [&](std::size_t i, bool isNeeded) {
+        const bool canGiveMore = isNeeded && !mustBeWhole(columns[i]);
+        return std::max(0.0, widths[i] - (canGiveMore ? leastOfText * scale : needOf(i)));
+    };
+    for (const bool isNeeded : {false, true}) {
+        double lack = 0;
+        double spare = 0;
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            lack += lackOf(i);
+            spare += spareOf(i, isNeeded);
+        }
+        const double moved = std::min(lack, spare);
+        if (moved <= 0)
+            continue;
+        for (std::size_t i = 0; i < widths.size(); ++i)
+            widths[i] += lackOf(i) * moved / lack - spareOf(i, isNeeded) * moved / spare;
+    }
 }
 
 // As in the grid; where the page has room left, columns that are too narrow for their texts get it.
@@ -83,10 +120,13 @@ void PageWriter::begin(const ExportColumns &columns)
 void PageWriter::measure()
 {
     const double page = m_device.width() * pixelsPerInch / m_device.logicalDpiX();
-    const std::vector<double> widths = widthsOn(page, m_columns);
+    std::vector<double> widths = widthsOn(page, m_columns);
     const double wanted = std::accumulate(widths.begin(), widths.end(), 0.0);
     const double share = wanted > 0 ? std::min(1.0, page / wanted) : 1.0;
     m_font.setPointSizeF(std::max(smallestFont, largestFont * share));
+    for (double &width : widths)
+        width *= share;
+    giveToWhole(widths, m_columns, m_font.pointSizeF() / largestFont);
     m_bold = m_font;
     m_bold.setBold(true);
     const QFontMetricsF metrics(m_font, &m_device);
@@ -94,7 +134,7 @@ void PageWriter::measure()
     m_padding = metrics.height() * 0.25;
     m_lefts.assign(1, 0);
     for (const double width : widths)
-        m_lefts.push_back(m_lefts.back() + width * m_device.logicalDpiX() / pixelsPerInch * share);
+        m_lefts.push_back(m_lefts.back() + width * m_device.logicalDpiX() / pixelsPerInch);
     // The title, a gap, the headings, the rows and the page number.
     const QFontMetricsF title(m_bold, &m_device);
     m_firstRow = title.height() * 1.8 + m_lineHeight;

@@ -69,6 +69,9 @@ TEST(DisplayFormat, TheFieldsDecimalsAreTheLeastAndHideNoDigit)
              {u"1.2.3"_s, u"1.2.3"_s, u"1.2.3"_s},
          }) {
         EXPECT_EQ(DisplayFormat{.leastDecimals = 2}.applied(text), shown) << text.toStdString();
+        QByteArray utf8 = text.toUtf8();
+        DisplayFormat{.leastDecimals = 2}.pad(utf8);
+        EXPECT_EQ(utf8, shown.toUtf8()) << text.toStdString();
         const DisplayFormat grouped{.hasThousands = true, .leastDecimals = 2};
         EXPECT_EQ(grouped.applied(text), thousands) << text.toStdString();
     }

@@ -4,6 +4,7 @@
 #include "ado/Recordset.h"
 #include "control/parts/toolbar/GridToolbar.h"
 #include "grid/FlexGrid.h"
+#include "grid/cells/FlexGridModel.h"
 #include "query/SharedValues.h"
 #include "session/commands/Command.h"
 #include "session/history/SharedHistory.h"
@@ -33,6 +34,19 @@ TEST_F(Viewer, ShowsTheControlsResultOnTheWholeScreen)
     EXPECT_EQ(user.label(), u"第1页共1页"_s);
     EXPECT_EQ(user.box(), u"1"_s);
     EXPECT_EQ(openings, 0) << "what is open is shown";
+}
+
+TEST_F(Viewer, ShowsTheDecimalsOfTheFields)
+{
+    database.run(u"CREATE TABLE 价 (甲 DECIMAL(12,2)); INSERT INTO 价 VALUES (0.2), (NULL)"_s);
+    load(u"SELECT * FROM 价"_s);
+    show();
+    const auto &shown = *viewer.findChild<VSFlexGrid *>(u"vsfgShowData"_s);
+    const auto &cells = *qobject_cast<const FlexGridModel *>(shown.model());
+    EXPECT_EQ(cells.shownText(1, 1), u"0.20"_s);
+    EXPECT_EQ(cells.shownText(2, 1), QString());
+    EXPECT_EQ(cells.shownText(3, 1), QString()) << "no record";
+    EXPECT_EQ(shown.TextMatrix(1, 1), u"0.2"_s);
 }
 
 TEST_F(Viewer, HasItsPartsUnderTheirNamesAndKinds)

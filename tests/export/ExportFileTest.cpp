@@ -7,7 +7,9 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QIODevice>
+#include <QtCore/QThreadPool>
 
 #include <algorithm>
 
@@ -98,6 +100,25 @@ TEST(ExportFile, LeavesAGoodFileAloneWhenItIsCancelledOrFails)
     }
     EXPECT_EQ(QDir(records.folder.path()).entryList(QDir::Files).size(), availableFormats().size())
         << "nothing half is left lying about";
+}
+
+// Nothing keeps the disk full with a file that nobody sees any more.
+TEST(ExportFile, GivesBackThePlaceOfTheFileThatItReplaces)
+{
+    ExportRecords records;
+    records.open(QLatin1StringView(series));
+    const QString file = records.path(u"a.csv"_s);
+    put(file, "old");
+    QFile old(file);
+    ASSERT_TRUE(old.open(QIODevice::ReadOnly));
+    exportToFile(file, {}, *records.recordset, records.all(), records.columns(), [](qint64) { return true; });
+    EXPECT_EQ(old.readAll(), "old") << "it is another file";
+    old.close();
+    EXPECT_TRUE(contentOf(file).contains("1000"));
+    QThreadPool::globalInstance()->waitForDone();
+    for (const QFileInfo &open : QDir(u"/proc/self/fd"_s).entryInfoList(QDir::System | QDir::Files))
+        EXPECT_FALSE(open.symLinkTarget().startsWith(records.folder.path()))
+            << qPrintable(open.symLinkTarget());
 }
 
 TEST(ExportFile, SaysWhichFileCantBeWritten)

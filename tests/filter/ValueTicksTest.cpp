@@ -157,6 +157,23 @@ TEST_F(Ticks, OfNumbersAndBooleans)
     EXPECT_EQ(selected(), u"1 5"_s);
 }
 
+// SQLite keeps no zeros of a decimal; the condition is on the value.
+TEST_F(Ticks, ShowNumbersWithTheDecimalsOfTheirField)
+{
+    database.run(u"CREATE TABLE 价 (单价 DECIMAL(8,2)); INSERT INTO 价 VALUES (0.2), (0.25), (3), (0.2)"_s);
+    start(u"单价"_s, {}, u"价"_s);
+    ASSERT_TRUE(becomes({u"[x] 0.20 2"_s, u"[x] 0.25 1"_s, u"[x] 3.00 1"_s}))
+        << listed().join(u'|').toStdString();
+    search(u"0.20"_s);
+    EXPECT_EQ(listed(), QStringList(u"[ ] 0.20 2"_s));
+    press(u"0.20"_s);
+    const QString where = QString::fromStdString(sql());
+    EXPECT_FALSE(where.contains(u"0.20"_s)) << sql();
+    EXPECT_EQ(database.ask(u"SELECT COUNT(*) || ' ' || MAX(单价) FROM 价 WHERE "_s + where), u"2 0.2"_s);
+    search(u"3"_s);
+    EXPECT_EQ(listed(), QStringList(u"[ ] 3.00 1"_s));
+}
+
 TEST_F(Ticks, OfPicturesWhetherThereIsOne)
 {
     start(u"图"_s);

@@ -1,14 +1,95 @@
 #include "forms/frmSelSortFields.h"
 #include "forms/widgets/FlatCmd.h"
 #include "forms/widgets/GradualControl.h"
+#include "forms/widgets/TickBoxes.h"
+#include "support/DarkPalette.h"
 
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QTreeWidget>
 #include <gtest/gtest.h>
 
 using namespace KOVAVSFDataGridLib;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QPalette paletteOf(const QColor &window, const QColor &base)
+{
+    QPalette palette(window); // with a text colour that suits it
+    palette.setColor(QPalette::Base, base);
+    return palette;
+}
+
+// The strongest contrast between a part of a picture and what is left of that part.
+double visibilityOf(const QImage &picture, const QRect &part)
+{
+    const QColor paper = picture.pixelColor(part.left() - 1, part.center().y());
+    double most = 1;
+    for (int x = part.left(); x <= part.right(); ++x) {
+        for (int y = part.top(); y <= part.bottom(); ++y)
+            most = std::max(most, contrast(picture.pixelColor(x, y), paper));
+    }
+    return most;
+}
+
+struct Boxes : testing::TestWithParam<QPalette>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Palettes, Boxes,
+                         testing::Values(QPalette(QColor(239, 239, 239)), KovaTest::darkPalette(),
+                                         paletteOf(Qt::white, Qt::white), paletteOf(Qt::black, Qt::black),
+                                         paletteOf({128, 128, 128}, Qt::white),
+                                         paletteOf({110, 110, 110}, {90, 90, 90}),
+                                         paletteOf({0, 0, 96}, {0, 0, 60}),
+                                         paletteOf({255, 236, 200}, {255, 250, 240})));
+
+} // namespace
+
+TEST_P(Boxes, CanBeSeenWithoutATick)
+{
+    QWidget window;
+    window.setPalette(GetParam());
+    window.resize(300, 200);
+    CheckBox check(u"x"_s, &window);
+    check.move(10, 10);
+    RadioButton radio(u"x"_s, &window);
+    radio.move(10, 50);
+    QTreeWidget list(&window);
+    list.setItemDelegate(new TickDelegate(&list));
+    list.setGeometry(10, 90, 200, 100);
+    list.setHeaderHidden(true);
+    list.setRootIsDecorated(false);
+    (new QTreeWidgetItem(&list, {u"x"_s}))->setCheckState(0, Qt::Unchecked);
+    Menu menu(&window);
+    menu.addAction(u"x"_s)->setCheckable(true);
+    const QImage picture = window.grab().toImage();
+
+    QStyleOptionButton button;
+    button.initFrom(&check);
+    EXPECT_GE(visibilityOf(picture, check.style()
+                                        ->subElementRect(QStyle::SE_CheckBoxIndicator, &button, &check)
+                                        .translated(check.pos())),
+              leastPictureContrast);
+    button.initFrom(&radio);
+    EXPECT_GE(visibilityOf(picture, radio.style()
+                                        ->subElementRect(QStyle::SE_RadioButtonIndicator, &button, &radio)
+                                        .translated(radio.pos())),
+              leastPictureContrast);
+    QStyleOptionViewItem item;
+    item.initFrom(&list);
+    item.rect = list.visualItemRect(list.topLevelItem(0));
+    item.features = QStyleOptionViewItem::HasCheckIndicator;
+    EXPECT_GE(visibilityOf(list.viewport()->grab().toImage(),
+                           list.style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &item, &list)),
+              leastPictureContrast);
+    const QRect entry = menu.actionGeometry(menu.actions().front());
+    EXPECT_GE(visibilityOf(menu.grab().toImage(),
+                           {entry.left() + 2, entry.top() + 2, entry.height() - 4, entry.height() - 4}),
+              leastPictureContrast);
+}
 
 TEST(GradualControl, IsAsPlainAsTheWindow)
 {

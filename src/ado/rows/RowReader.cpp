@@ -39,7 +39,7 @@ int RowReader::lostDecimals(const Recordset &recordset, qint64 record, int colum
         return 0;
     std::vector<RawValue> cell(1);
     shared->snapshot.read(record, column, cell);
-    return cell.front().isNumber() ? scale : 0;
+    return cell.front().isNumber() || cell.front().kind == RawValue::Kind::Null ? scale : 0;
 }
 
 } // namespace ADODB

@@ -27,8 +27,8 @@ public:
     // characters. Empty if there is no such cell.
     static QString beginning(const Recordset &recordset, qint64 record, int column, qsizetype length);
 
-    // The decimals that a cell's field has and its value can't have kept, because it is stored as a mere
-    // number; 0 where it is a text, which has them, or the field says nothing of them.
+    // The decimals that a cell's field has and its value can't keep, because it is stored as a mere number or
+    // will be; 0 where it is a text, which has them, or the field says nothing of them.
     static int lostDecimals(const Recordset &recordset, qint64 record, int column);
 
 private:

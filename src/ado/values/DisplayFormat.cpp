@@ -38,23 +38,34 @@ void round(QString &whole, QString &fraction, int decimals)
     fraction = digits.last(decimals);
 }
 
-// What most cells of a grid go through, so it is read once.
-QString padded(const QString &text, int decimals)
+// What a number lacks to have that many decimals; nothing for a text that is none, or has them.
+struct Lack
+{
+    bool isPoint = false;
+    qsizetype zeros = 0;
+};
+
+// Most cells of a grid go through this, so they are read once.
+template<typename Character>
+Lack lackOf(const Character *text, qsizetype size, int decimals)
 {
     qsizetype point = -1;
-    for (qsizetype i = text.startsWith(u'-') ? 1 : 0; i < text.size(); ++i) {
-        const QChar c = text.at(i);
-        if (c == u'.' && point < 0)
+    for (qsizetype i = size > 0 && text[0] == '-' ? 1 : 0; i < size; ++i) {
+        if (text[i] == '.' && point < 0)
             point = i;
-        else if (c < u'0' || c > u'9')
-            return text;
+        else if (text[i] < '0' || text[i] > '9')
+            return {};
     }
-    if (text.isEmpty() || !text.back().isDigit())
-        return text;
-    const qsizetype missing = decimals - (point < 0 ? 0 : text.size() - point - 1);
-    if (missing <= 0)
-        return text;
-    return text + (point < 0 ? u"."_s : QString()) + QString(missing, u'0');
+    if (size == 0 || text[size - 1] < '0')
+        return {};
+    const qsizetype missing = decimals - (point < 0 ? 0 : size - point - 1);
+    return missing > 0 ? Lack{point < 0, missing} : Lack();
+}
+
+QString padded(const QString &text, int decimals)
+{
+    const Lack lack = lackOf(text.utf16(), text.size(), decimals);
+    return lack.zeros == 0 ? text : text + (lack.isPoint ? u"."_s : QString()) + QString(lack.zeros, u'0');
 }
 
 QString withThousands(const QString &whole)
@@ -137,6 +148,14 @@ QString DisplayFormat::applied(const QString &text) const
     const bool isNothing = std::ranges::all_of(whole, isZero) && std::ranges::all_of(fraction, isZero);
     return (isNothing ? QString() : match.captured(1)) + (hasThousands ? withThousands(whole) : whole) +
            (fraction.isEmpty() ? QString() : u'.' + fraction);
+}
+
+void DisplayFormat::pad(QByteArray &text) const
+{
+    const Lack lack = lackOf(text.constData(), text.size(), leastDecimals);
+    if (lack.isPoint)
+        text.append('.');
+    text.append(lack.zeros, '0');
 }
 
 } // namespace ADODB

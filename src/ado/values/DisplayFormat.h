@@ -32,6 +32,9 @@ struct DisplayFormat
     // A text that the format does not apply to is returned unchanged.
     QString applied(const QString &text) const;
 
+    // The same for a format that has only `leastDecimals`, in place and in UTF-8, for code that reads many.
+    void pad(QByteArray &text) const;
+
     bool operator==(const DisplayFormat &) const = default;
 };
 

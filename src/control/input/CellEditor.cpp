@@ -139,10 +139,11 @@ bool CellEditor::begin(int gridCol, const std::optional<QString> &typed)
     if (gridCol < 1 || !m_session.result().isOpen() || !m_session.record().commitEdit())
         return false;
     try {
-        const ADODB::Field &field = m_session.result().recordset()->Fields().Item(gridCol - 1);
+        const ADODB::Recordset &recordset = *m_session.result().recordset();
+        const ADODB::Field &field = recordset.Fields().Item(gridCol - 1);
         if (refusesLong(field))
             return false;
-        m_before = shownText(field);
+        m_before = shownText(recordset, gridCol - 1);
         m_isReadOnly = !canWrite(gridCol);
         m_field = gridCol - 1;
         m_row = m_parts.MSFlexGrid1->Row();
@@ -271,7 +272,9 @@ ListedValues CellEditor::valuesOfColumn(const QString &search) const
     const qint64 last = std::min(recordset.RecordCount(), recordsSearched);
     QSet<QString> found;
     for (qint64 record = 1; record <= last && found.size() <= mostValues; ++record) {
-        const QString text = recordset.CellText(record, m_field);
+        const ADODB::DisplayFormat format{.leastDecimals =
+                                              ADODB::RowReader::lostDecimals(recordset, record, m_field)};
+        const QString text = format.applied(recordset.CellText(record, m_field));
         if (!text.isEmpty() && !text.contains(u'\n') && text.contains(search, Qt::CaseInsensitive))
             found.insert(text);
     }
@@ -320,12 +323,16 @@ void CellEditor::willLeaveRecord()
         writeAndClose(Written::Typed);
 }
 
-// An unchanged text is not written: it may be less precise than the value (15 digits of a number).
+// An unchanged text is not written: it may be less precise than the value (15 digits of a number). The
+// value's own text is the same, if it is shown in another form.
 void CellEditor::write(Written what)
 {
-    ADODB::Field &field = m_session.result().recordset()->Fields().Item(m_field);
+    ADODB::Recordset &recordset = *m_session.result().recordset();
+    ADODB::Field &field = recordset.Fields().Item(m_field);
     const QString text = typedText();
-    const bool isUnchanged = what == Written::Null ? !field.Value().isValid() : text == shownText(field);
+    const bool isUnchanged = what == Written::Null ? !field.Value().isValid()
+                                                   : text == shownText(recordset, m_field) ||
+                                                         text == ADODB::ValueText(field.Value());
     if (m_isReadOnly || isUnchanged)
         return;
     const QVariant value = what == Written::Null ? QVariant() : valueOf(field, text);

@@ -1,6 +1,7 @@
 #include "control/input/SelectionWatch.h"
 
 #include "ado/Recordset.h"
+#include "ado/values/DisplayFormat.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
 #include "control/parts/lines/SummaryLine.h"
@@ -81,10 +82,14 @@ void SelectionWatch::showSummary()
     const QString of = m_column.isEmpty() ? QString() : GridTexts::ColumnOfSummary.arg(m_column);
     items.append({of + GridTexts::CountOfCells, QString::number(m_summary->count())});
     if (m_summary->numbers() > 0) {
-        items.append({GridTexts::SumOfCells, m_summary->sum()});
-        items.append({GridTexts::AverageOfCells, m_summary->average()});
-        items.append({GridTexts::SmallestCell, m_summary->minimum()});
-        items.append({GridTexts::LargestCell, m_summary->maximum()});
+        const ADODB::DisplayFormat format{.leastDecimals = m_summary->decimals()};
+        const auto add = [&](const QString &caption, const QString &value) {
+            items.append({caption, value, format.applied(value)});
+        };
+        add(GridTexts::SumOfCells, m_summary->sum());
+        add(GridTexts::AverageOfCells, m_summary->average());
+        add(GridTexts::SmallestCell, m_summary->minimum());
+        add(GridTexts::LargestCell, m_summary->maximum());
     } else if (m_summary->dates() > 0) {
         items.append({GridTexts::EarliestCell, m_summary->earliest()});
         items.append({GridTexts::LatestCell, m_summary->latest()});

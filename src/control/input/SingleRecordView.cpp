@@ -160,7 +160,7 @@ void SingleRecordView::listFields()
     for (int i = 0; i < fields; ++i) {
         const ADODB::Field &field = m_session.result().recordset()->Fields().Item(i);
         ListedField listed{.field = i, .isBinary = PictureFields::isBinary(field)};
-        listed.format = shownFormat(field);
+        listed.format = shownFormat(*m_session.result().recordset(), i);
         listed.isRequired = m_required.has(i);
         hasBinary |= listed.isBinary;
         if (!isListed(field) && !m_heading.hasPictures())

@@ -1,6 +1,7 @@
 #include "control/parts/ColumnMenu.h"
 
 #include "control/parts/GridTexts.h"
+#include "forms/widgets/TickBoxes.h"
 #include "grid/FlexGrid.h"
 #include "language/Language.h"
 #include "session/Session.h"
@@ -9,15 +10,31 @@
 #include "session/columns/ColumnKeys.h"
 
 #include <QtGui/QAction>
-#include <QtWidgets/QMenu>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
 
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Without records there is no cell that a view could scroll to.
+void showHeading(VSFlexGrid &grid, int col)
+{
+    if (grid.currentIndex().isValid())
+        return grid.scrollTo(grid.currentIndex());
+    const QHeaderView &header = *grid.horizontalHeader();
+    const int left = header.sectionViewportPosition(col - 1);
+    if (left < 0 || left + header.sectionSize(col - 1) > header.viewport()->width())
+        grid.horizontalScrollBar()->setValue(grid.horizontalScrollBar()->value() + left);
+}
+
+} // namespace
+
 ColumnMenu::ColumnMenu(QWidget &window, const QWidget &toolbar, VSFlexGrid &grid, Session &session,
                        Runner run)
-    : m_toolbar(toolbar), m_grid(grid), m_session(session), m_run(std::move(run)), m_menu(new QMenu(&window))
+    : m_toolbar(toolbar), m_grid(grid), m_session(session), m_run(std::move(run)), m_menu(new Menu(&window))
 {
     m_menu->setObjectName(u"ColumnMenu"_s);
     m_menu->setToolTipsVisible(true); // for the reason why an item is disabled
@@ -38,10 +55,10 @@ ColumnMenu::ColumnMenu(QWidget &window, const QWidget &toolbar, VSFlexGrid &grid
 
 void ColumnMenu::openAtCurrentColumn()
 {
-    if (m_session.window().isSingleRecordShown() || m_grid.Row() < 1 || m_grid.Cols() < 2)
+    if (m_session.window().isSingleRecordShown() || m_grid.Cols() < 2)
         return;
     const int col = m_grid.ShownCol();
-    m_grid.scrollTo(m_grid.currentIndex());
+    showHeading(m_grid, col);
     popUp(col, m_grid.ColumnMenuPlace(col));
 }
 
@@ -63,7 +80,8 @@ void ColumnMenu::addTo(QMenu &menu, int col)
     if (heading.size() > longestHeading)
         heading = heading.first(longestHeading) + u'…';
     QAction *const separator = menu.addSeparator();
-    QMenu *const entries = menu.addMenu(GridTexts::ColumnEntries.arg(heading.replace(u'&', "&&"_L1)));
+    auto *const entries = new Menu(GridTexts::ColumnEntries.arg(heading.replace(u'&', "&&"_L1)), &menu);
+    menu.addMenu(entries);
     entries->setObjectName(u"PopMnuColumn"_s);
     entries->setAccessibleName(GridTexts::ColumnMenuName);
     entries->setToolTipsVisible(true);

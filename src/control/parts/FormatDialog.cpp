@@ -2,13 +2,12 @@
 
 #include "forms/Contrast.h"
 #include "forms/FormTexts.h"
+#include "forms/widgets/TickBoxes.h"
 
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QVBoxLayout>
 
@@ -61,7 +60,7 @@ void FormatDialog::addTruths(QVBoxLayout &rows, ADODB::DisplayFormat::Truth give
 {
     using Truth = ADODB::DisplayFormat::Truth;
     const auto add = [&](const QString &caption, const QString &name, Truth truth) {
-        auto *choice = named(new QRadioButton(caption), name);
+        auto *choice = named(new RadioButton(caption), name);
         choice->setChecked(given == truth);
         connect(choice, &QRadioButton::toggled, this, &FormatDialog::showSample);
         rows.addWidget(choice);
@@ -74,7 +73,7 @@ void FormatDialog::addTruths(QVBoxLayout &rows, ADODB::DisplayFormat::Truth give
 
 void FormatDialog::addNumbers(QVBoxLayout &rows, const ADODB::DisplayFormat &given)
 {
-    m_thousands = named(new QCheckBox(FormTexts::Thousands), u"chkThousands"_s);
+    m_thousands = named(new CheckBox(FormTexts::Thousands), u"chkThousands"_s);
     m_thousands->setChecked(given.hasThousands);
     m_decimals = named(new QSpinBox, u"spnDecimals"_s);
     m_decimals->setRange(-1, ADODB::DisplayFormat::mostDecimals);

@@ -11,11 +11,11 @@
 #include "control/parts/toolbar/GridToolbar.h"
 #include "filter/ValueEdit.h"
 #include "forms/Contrast.h"
+#include "forms/widgets/TickBoxes.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
 #include "language/Language.h"
 
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -56,7 +56,7 @@ GridParts::GridParts(QWidget &control)
       lblSummary(new SummaryLine(picMainBack)),
       cmdSaveRecord(named(new QPushButton(picMainBack), u"cmdSaveRecord"_s)),
       lblStatement(new StatementLine(picMainBack)),
-      CheckSelAllRow(named(new QCheckBox(picMainBack), u"CheckSelAllRow"_s)),
+      CheckSelAllRow(named(new CheckBox(picMainBack), u"CheckSelAllRow"_s)),
       Adodc1(named(new ADODB::Adodc(&control), u"Adodc1"_s))
 {
     picMainBack->setAutoFillBackground(true);

@@ -33,7 +33,7 @@ QString noteText(const HistoryStep &step)
 } // namespace
 
 HistoryMenu::HistoryMenu(GridToolbar &toolbar, Session &session)
-    : QMenu(&toolbar), m_toolbar(toolbar), m_session(session)
+    : Menu(&toolbar), m_toolbar(toolbar), m_session(session)
 {
     setObjectName(u"HistoryMenu"_s);
     Language::keepTranslated(*this, [this] { setAccessibleName(GridTexts::HistoryName); });

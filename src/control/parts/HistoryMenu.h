@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtWidgets/QMenu>
+#include "forms/widgets/TickBoxes.h"
 
 namespace KOVAVSFDataGridLib {
 
@@ -9,7 +9,7 @@ class Session;
 
 // The statements that the user can go back and forward to, the newest first, as a drop-down of the button
 // that goes back, and one step forward at its end. It is filled each time it opens.
-class HistoryMenu final : public QMenu
+class HistoryMenu final : public Menu
 {
     Q_OBJECT
 

@@ -16,7 +16,7 @@ const PopupMenu::Kind PopupMenu::ofControl{u"PopMnuData"_s, u"PopMnuDataAction%1
 const PopupMenu::Kind PopupMenu::ofViewer{u"PopMnu"_s, u"PopMnuAction%1"_s, &Command::viewerMenu};
 
 PopupMenu::PopupMenu(QWidget &window, const Kind &kind, const GridToolbar &toolbar, Session &session)
-    : QMenu(&window), m_kind(kind), m_toolbar(toolbar), m_session(session)
+    : Menu(&window), m_kind(kind), m_toolbar(toolbar), m_session(session)
 {
     setObjectName(kind.name);
     setToolTipsVisible(true); // for the reason why an item is disabled

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "forms/widgets/TickBoxes.h"
 #include "session/commands/Command.h"
-
-#include <QtWidgets/QMenu>
 
 namespace KOVAVSFDataGridLib {
 
@@ -12,7 +11,7 @@ class Session;
 // The commands for the data at the cursor. Each item has an index from 1; an index without a command is a
 // separator. An item that is also a toolbar button has the visibility and state of that button. The shortcuts
 // of all others work in the whole window.
-class PopupMenu final : public QMenu
+class PopupMenu final : public Menu
 {
     Q_OBJECT
 

@@ -24,6 +24,15 @@ public:
     {
         return col > 0 && row < usedRows() ? m_records.text(row, col) : QString();
     }
+    QString beginning(int row, int col, qsizetype length) const override
+    {
+        return col > 0 && row < usedRows() ? m_records.beginning(row, col, length) : QString();
+    }
+    int decimalsOfColumn(int col) const override { return m_records.decimalsOfColumn(col); }
+    int decimals(int row, int col) const override
+    {
+        return row < usedRows() ? m_records.decimals(row, col) : 0;
+    }
     bool isNull(int row, int col) const override
     {
         return col > 0 && row < usedRows() && m_records.isNull(row, col);

@@ -13,7 +13,7 @@ namespace KOVAVSFDataGridLib {
 using namespace Qt::StringLiterals;
 
 KeptLine::KeptLine(const QString &condition, const QString &words, QWidget *parent)
-    : QCheckBox(parent), m_condition(condition), m_words(words)
+    : CheckBox(parent), m_condition(condition), m_words(words)
 {
     constexpr qsizetype mostInTip = 1000; // characters
     setChecked(true);
@@ -35,18 +35,18 @@ void KeptLine::showSql(bool isSql)
 
 QSize KeptLine::minimumSizeHint() const
 {
-    return {fontMetrics().height() * 4, QCheckBox::minimumSizeHint().height()};
+    return {fontMetrics().height() * 4, CheckBox::minimumSizeHint().height()};
 }
 
 void KeptLine::resizeEvent(QResizeEvent *event)
 {
-    QCheckBox::resizeEvent(event);
+    CheckBox::resizeEvent(event);
     write();
 }
 
 void KeptLine::changeEvent(QEvent *event)
 {
-    QCheckBox::changeEvent(event);
+    CheckBox::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         write();
 }

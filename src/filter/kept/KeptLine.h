@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QtWidgets/QCheckBox>
+#include "forms/widgets/TickBoxes.h"
 
 namespace KOVAVSFDataGridLib {
 
 // A tick for one condition, which is shown in words or as SQL, in one line.
-class KeptLine final : public QCheckBox
+class KeptLine final : public CheckBox
 {
     Q_OBJECT
 

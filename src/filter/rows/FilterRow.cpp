@@ -7,10 +7,10 @@
 #include "filter/rows/FilterGrip.h"
 #include "filter/rows/FilterValues.h"
 #include "forms/widgets/FieldCombo.h"
+#include "forms/widgets/TickBoxes.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
@@ -24,13 +24,13 @@ FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *p
       m_context(std::move(context)),
       m_grip(new FilterGrip(this)),
       m_opens(makeBrackets(BracketCombo::Side::Before)),
-      m_not(new QCheckBox(FilterTexts::Not, this)),
+      m_not(new CheckBox(FilterTexts::Not, this)),
       m_field(new FieldCombo(this)),
       m_operator(new QComboBox(this)),
       m_value(makeValue()),
       m_to(new QLabel(FilterTexts::To, this)),
       m_lastValue(makeValue()),
-      m_withNull(new QCheckBox(FilterTexts::WithNull, this)),
+      m_withNull(new CheckBox(FilterTexts::WithNull, this)),
       m_closes(makeBrackets(BracketCombo::Side::After)),
       m_join(new QComboBox(this)),
       m_enclose(new QToolButton(this)),

@@ -1,6 +1,8 @@
 #include "filter/ticks/TickList.h"
 
+#include "ado/values/DisplayFormat.h"
 #include "filter/FilterTexts.h"
+#include "forms/widgets/TickBoxes.h"
 #include "language/GroupedNumber.h"
 
 #include <QtCore/QDate>
@@ -48,6 +50,7 @@ void addCount(QTreeWidgetItem *item, qint64 count)
 
 TickList::TickList(TickState &state, QWidget *parent) : QTreeWidget(parent), m_state(state)
 {
+    setItemDelegate(new TickDelegate(this));
     setColumnCount(2);
     setHeaderLabels({FilterTexts::ValueList, FilterTexts::CountOfRecords});
     headerItem()->setTextAlignment(countColumn, Qt::AlignRight | Qt::AlignVCenter);
@@ -106,8 +109,11 @@ void TickList::fill(FieldClass fieldClass, const OfferedValues &values, bool has
         add(root, Entry::Others, FilterTexts::AnyValue, {}, -1);
     if (areDays)
         return addDays(values, areOpen);
-    for (qsizetype i = 0; i < values.values.size(); ++i)
-        add(root, Entry::Value, lineOf(values.values.at(i)), values.values.at(i), values.counts.value(i, -1));
+    const ADODB::DisplayFormat format{.leastDecimals = values.decimals};
+    for (qsizetype i = 0; i < values.values.size(); ++i) {
+        const QString &value = values.values.at(i);
+        add(root, Entry::Value, lineOf(format.applied(value)), value, values.counts.value(i, -1));
+    }
 }
 
 void TickList::addDays(const OfferedValues &days, bool areOpen)

@@ -1,14 +1,15 @@
 #include "filter/ticks/ValueTicks.h"
 
 #include "ado/Error.h"
+#include "ado/values/DisplayFormat.h"
 #include "filter/FilterTexts.h"
 #include "filter/ticks/TickList.h"
+#include "forms/widgets/TickBoxes.h"
 #include "language/GroupedNumber.h"
 
 #include <QtCore/QDate>
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -31,13 +32,16 @@ QString spokenDay(const QString &day)
     return FilterTexts::WholeDay.arg(date.year()).arg(date.month()).arg(date.day());
 }
 
-// The values that contain a text.
+// The values that contain a text, or are shown with it.
 OfferedValues found(const OfferedValues &values, const QString &text, bool areDays)
 {
     OfferedValues found;
+    found.decimals = values.decimals;
+    const ADODB::DisplayFormat format{.leastDecimals = values.decimals};
     for (qsizetype i = 0; i < values.values.size(); ++i) {
         const QString &value = values.values.at(i);
-        if (!value.contains(text, Qt::CaseInsensitive) && !(areDays && spokenDay(value).contains(text)))
+        if (!value.contains(text, Qt::CaseInsensitive) && !format.applied(value).contains(text) &&
+            !(areDays && spokenDay(value).contains(text)))
             continue;
         found.values.append(value);
         found.counts.append(values.counts.value(i, -1));
@@ -58,7 +62,7 @@ ValueTicks::ValueTicks(QWidget *parent)
     : QWidget(parent),
       m_delay(new QTimer(this)),
       m_search(new QLineEdit(this)),
-      m_checkAll(new QCheckBox(this)),
+      m_checkAll(new CheckBox(this)),
       m_list(new TickList(m_state, this)),
       m_note(new QLabel(this)),
       m_progress(new QProgressBar(this)),

@@ -83,6 +83,11 @@ bool CellSearch::isMatch(const ADODB::RawValue &cell, const Column &column)
     ADODB::appendText(m_text, cell, column.type);
     if (m_matcher.matches(m_text))
         return true;
+    if (isPlain && format.leastDecimals > 0) {
+        const qsizetype length = m_text.size();
+        format.pad(m_text);
+        return m_text.size() > length && m_matcher.matches(m_text);
+    }
     return !format.isNone() && m_matcher.matches(format.applied(ADODB::textFromUtf8(m_text)).toUtf8());
 }
 

@@ -47,7 +47,8 @@ SelectionSummary::SelectionSummary(const ADODB::Recordset &recordset, const Reco
                           : ADODB::isNumericType(column.type) ? Kind::Number
                           : column.type == ADODB::adVariant   ? Kind::Number
                                                               : Kind::Other;
-        m_columns.push_back({column.field - m_firstField, column.type, kind});
+        m_columns.push_back(
+            {column.field - m_firstField, column.type, kind, ADODB::decimalsOf(column.type, column.scale)});
     }
 }
 
@@ -94,6 +95,8 @@ void SelectionSummary::addNumber(const ADODB::RawValue &cell, const Column &colu
         return;
     }
     ++m_numbers;
+    if (cell.isNumber())
+        m_decimals = std::max(m_decimals, column.decimals);
     if (!m_smallest || compare(cell, number, *m_smallest) < 0)
         put(m_smallest, cell, column, number);
     if (!m_largest || compare(cell, number, *m_largest) > 0)

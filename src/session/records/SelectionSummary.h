@@ -31,6 +31,8 @@ public:
     QString average() const { return m_sum.average(m_numbers); }
     QString minimum() const { return textOf(m_smallest); }
     QString maximum() const { return textOf(m_largest); }
+    // The decimals with which the grid shows all of these numbers at least.
+    int decimals() const { return m_decimals; }
     // For the dates and times.
     QString earliest() const { return textOf(m_earliest); }
     QString latest() const { return textOf(m_latest); }
@@ -50,6 +52,7 @@ private:
         int field;
         ADODB::DataTypeEnum type;
         Kind kind;
+        int decimals;
     };
 
     void take(const ADODB::RawValue &cell, const Column &column);
@@ -68,6 +71,7 @@ private:
     qint64 m_count = 0;
     qint64 m_numbers = 0;
     qint64 m_dates = 0;
+    int m_decimals = 0;
     DecimalSum m_sum;
     std::optional<Extreme> m_smallest;
     std::optional<Extreme> m_largest;

@@ -206,6 +206,27 @@ TEST_F(ColumnMenu, OpensByKeysAndGoesOnByKeys)
     EXPECT_TRUE(statement().endsWith(u"ORDER BY 城市 DESC"_s)) << qUtf8Printable(statement());
 }
 
+TEST_F(ColumnMenu, OpensByKeyWithoutRecordsToo)
+{
+    ASSERT_TRUE(load(u"SELECT * FROM 商品 WHERE ID < 0"_s, {}));
+    ASSERT_EQ(table->model()->rowCount(), 0);
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_Down, Qt::ControlModifier | Qt::AltModifier);
+    ASSERT_TRUE(menu()->isVisible());
+    EXPECT_EQ(menu()->pos().x(), header()->viewport()->mapToGlobal(QPoint(0, 0)).x());
+    QTest::keyClick(menu(), Qt::Key_Escape);
+    // A current column that is out of view.
+    ASSERT_TRUE(load());
+    clickCell(1, static_cast<int>(AllColumns.size()));
+    for (int section = 0; section < table->model()->columnCount(); ++section)
+        table->setColumnWidth(section, 400);
+    ASSERT_TRUE(load(u"SELECT * FROM 商品 WHERE ID < 0"_s, {}));
+    QTest::keyClick(table, Qt::Key_Down, Qt::ControlModifier | Qt::AltModifier);
+    ASSERT_TRUE(menu()->isVisible());
+    EXPECT_TRUE(QRect(table->mapToGlobal(QPoint(0, 0)), table->size()).contains(menu()->pos()));
+    QTest::keyClick(menu(), Qt::Key_Escape);
+}
+
 TEST_F(ColumnMenu, IsTheEndOfThePopupOnAHeading)
 {
     ASSERT_TRUE(load());

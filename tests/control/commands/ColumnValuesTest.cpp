@@ -118,7 +118,7 @@ TEST_F(ColumnValues, NumbersAndBooleans)
 {
     ASSERT_TRUE(load());
     WindowAnswers dialogs({[](QDialog &dialog) {
-                               tick(dialog, u"49.5"_s);
+                               tick(dialog, u"49.50"_s);
                                press(dialog, "cmdOK");
                            },
                            [](QDialog &dialog) {

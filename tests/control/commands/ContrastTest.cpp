@@ -6,6 +6,10 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QRadioButton>
+#include <QtWidgets/QStyleOptionButton>
 #include <QtWidgets/QToolButton>
 
 #include <cmath>
@@ -91,6 +95,31 @@ int expectTextsReadable(const QWidget &window)
     return texts;
 }
 
+// The line around a box for a tick, and how many boxes there are.
+int expectBoxesSeen(const QWidget &window)
+{
+    int boxes = 0;
+    for (QAbstractButton *button : window.findChildren<QAbstractButton *>()) {
+        const bool isRadio = qobject_cast<QRadioButton *>(button);
+        if ((!isRadio && !qobject_cast<QCheckBox *>(button)) || !button->isVisible() || !button->isEnabled())
+            continue;
+        QStyleOptionButton option;
+        option.initFrom(button);
+        const QRect box = button->style()->subElementRect(
+            isRadio ? QStyle::SE_RadioButtonIndicator : QStyle::SE_CheckBoxIndicator, &option, button);
+        const QImage picture = button->grab(box).toImage();
+        double seen = 1;
+        // Only its left edge: what is in it is no line.
+        for (int x = 0; x < 3; ++x)
+            seen = std::max(seen, contrast(picture.pixelColor(x, picture.height() / 2),
+                                           button->palette().color(QPalette::Window)));
+        EXPECT_GE(seen, leastPictureContrast)
+            << qUtf8Printable(window.objectName() + u'/' + button->objectName());
+        ++boxes;
+    }
+    return boxes;
+}
+
 class Contrast : public Shop, public testing::WithParamInterface<bool>
 {
 protected:
@@ -126,8 +155,10 @@ TEST_P(Contrast, TextsOfTheControlAreReadable)
 TEST_P(Contrast, DialogsAreReadableAndFitASmallScreen)
 {
     ASSERT_TRUE(load());
-    const auto look = [](QDialog &dialog) {
+    int boxes = 0;
+    const auto look = [&boxes](QDialog &dialog) {
         EXPECT_GT(expectTextsReadable(dialog), 2) << qPrintable(dialog.objectName());
+        boxes += expectBoxesSeen(dialog);
         EXPECT_LE(dialog.width(), 800) << qPrintable(dialog.objectName());
         EXPECT_LE(dialog.height(), 560) << qPrintable(dialog.objectName());
         cancel(dialog);
@@ -141,6 +172,35 @@ TEST_P(Contrast, DialogsAreReadableAndFitASmallScreen)
         table->setFocus();
         QTest::keyClick(table, key, Qt::ControlModifier);
     }
+    EXPECT_GT(boxes, 5);
+}
+
+TEST_P(Contrast, BoxesWithoutATickAreSeen)
+{
+    ASSERT_TRUE(load());
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_G, Qt::ControlModifier);
+    EXPECT_GE(expectBoxesSeen(grid), 2);
+
+    // The style doesn't say where the box of an entry is: it is before the text.
+    auto *menu = grid.findChild<QMenu *>(u"PopMnuData"_s);
+    menu->popup({});
+    const QImage picture = menu->grab().toImage();
+    int entries = 0;
+    for (QAction *entry : menu->actions()) {
+        if (!entry->isCheckable() || entry->isChecked() || !entry->isEnabled() || !entry->isVisible())
+            continue;
+        const QRect place = menu->actionGeometry(entry);
+        const int y = place.center().y();
+        const QColor paper = picture.pixelColor(place.right() - 2, y);
+        double seen = 1;
+        for (int x = place.left(); x < place.left() + place.height(); ++x)
+            seen = std::max(seen, contrast(picture.pixelColor(x, y), paper));
+        EXPECT_GE(seen, leastPictureContrast) << qUtf8Printable(entry->text());
+        ++entries;
+    }
+    menu->close();
+    EXPECT_GE(entries, 1);
 }
 
 TEST_P(Contrast, PicturesOfTheToolbarStandOut)

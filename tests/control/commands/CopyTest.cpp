@@ -7,6 +7,9 @@
 #include <QtCore/QTimer>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
+#include <QtGui/QTextTable>
 #include <QtTest/QTest>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QMenu>
@@ -106,7 +109,8 @@ TEST_F(CopyTest, TextsKeepTabsQuotesLineEndsAndMarkup)
     QTest::keyClick(table, Qt::Key_A, Qt::ControlModifier);
     pressCopy(table);
     EXPECT_EQ(copied(), u"\"a\tb\"\t\"c\n\"\"d\"\"\"\t\"\"\"e\"\t<b>&\t\r\n"_s);
-    for (const QString &cell : {u"a\tb"_s, u"c<br>&quot;d&quot;"_s, u"&quot;e"_s, u"&lt;b&gt;&amp;"_s})
+    for (const QString &cell :
+         {u"<pre>a\tb</pre>"_s, u"c<br>&quot;d&quot;"_s, u"&quot;e"_s, u"&lt;b&gt;&amp;"_s})
         EXPECT_TRUE(html().contains(u'>' + cell + u"</td>"_s)) << qUtf8Printable(html());
 }
 
@@ -122,16 +126,15 @@ TEST_F(CopyTest, ASpreadsheetLosesNothingOfWhatIsPasted)
     QTest::keyClick(table, Qt::Key_A, Qt::ControlModifier);
     pressCopy(table);
     const QString text = u"<td class=\"t\" sdnum=\"1033;0;@\">"_s;
-    const QString blank = u"&nbsp;"_s;
-    const auto blanks = [&](int count) {
-        return u"<span style=\"mso-spacerun:yes\">"_s + blank.repeated(count) + u"</span>"_s;
+    const auto blanks = [](int count) {
+        return u"<span style=\"mso-spacerun:yes\">"_s + QString(count, u' ') + u"</span>"_s;
     };
     const QStringList cells{
         text + u"12345678901234567</td>"_s,
         u"<td>1234.5</td>"_s,
         u"<td class=\"d\" sdval=\"45352\" sdnum=\"1033;0;YYYY-MM-DD\">2024-03-01</td>"_s,
         u"<td class=\"m\" sdval=\"45352.75\" sdnum=\"1033;0;YYYY-MM-DD HH:MM:SS\">2024-03-01 18:00:00</td>"_s,
-        text + blanks(2) + u'a' + blanks(2) + u'b' + blanks(1) + u"</td>"_s,
+        text + u"<pre>"_s + blanks(2) + u'a' + blanks(2) + u'b' + blanks(1) + u"</pre></td>"_s,
         u"<td>-123456789012345</td>"_s,
         text + u"=1+1</td>"_s,
         text + u"1899-01-01</td>"_s,
@@ -140,6 +143,33 @@ TEST_F(CopyTest, ASpreadsheetLosesNothingOfWhatIsPasted)
     };
     for (const QString &cell : cells)
         EXPECT_TRUE(html().contains(cell)) << qUtf8Printable(cell) << '\n' << qUtf8Printable(html());
+}
+
+// As another program reads it.
+TEST_F(CopyTest, BlanksStayTheCharactersThatTheyAre)
+{
+    const QStringList values{u"  空格 "_s, u"a  b"_s,    u" "_s,          u"a\tb"_s,
+                             u"a b"_s,     u"\u00a0c"_s, u" <b> & \" "_s, u"x \n  y"_s};
+    database.run(u"CREATE TABLE 空格 (ID INTEGER PRIMARY KEY, 文 TEXT)"_s);
+    for (const QString &value : values)
+        database.run(u"INSERT INTO 空格 (文) VALUES ('%1')"_s.arg(value));
+    ASSERT_TRUE(load(u"SELECT 文 FROM 空格 ORDER BY ID"_s, {}));
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_A, Qt::ControlModifier);
+    pressCopy(table);
+    QTextDocument reader;
+    reader.setHtml(html());
+    const auto *const read = qobject_cast<QTextTable *>(reader.rootFrame()->childFrames().value(0));
+    ASSERT_TRUE(read);
+    ASSERT_EQ(read->rows(), values.size());
+    for (int row = 0; row < read->rows(); ++row) {
+        const QTextTableCell cell = read->cellAt(row, 0);
+        QTextCursor all = cell.firstCursorPosition();
+        all.setPosition(cell.lastCursorPosition().position(), QTextCursor::KeepAnchor);
+        QString text = all.selectedText(); // its line breaks are separators
+        text.replace(QChar::LineSeparator, u'\n').replace(QChar::ParagraphSeparator, u'\n');
+        EXPECT_EQ(text, values.at(row)) << qUtf8Printable(html());
+    }
 }
 
 TEST_F(CopyTest, TheListOfOneRecordIsCopiedAsItIsMarked)

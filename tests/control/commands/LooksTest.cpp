@@ -168,6 +168,38 @@ TEST_F(Looks, NumbersAreShownWithTheDecimalsOfTheirField)
     }
 }
 
+TEST_F(Looks, ASingleRecordShowsThoseDecimalsAndKeepsTheValueWhenNothingIsTyped)
+{
+    database.run(u"CREATE TABLE 价 (ID INTEGER PRIMARY KEY, 甲 DECIMAL(12,2), 乙 TEXT);"
+                 "INSERT INTO 价 VALUES (1, 0.1 + 0.2, '')"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 价"_s, {}));
+    click(u"SingleRecord"_s);
+    EXPECT_EQ(listed(u"甲"_s), u"0.3"_s);
+    // Ends the edit of one field with Enter, and saves another.
+    const auto type = [this](const QString &field, const QString &text) {
+        makeCurrent(field);
+        QTest::keyClick(list, Qt::Key_F2);
+        if (field == u"甲"_s) {
+            EXPECT_EQ(edit->text(), u"0.30"_s);
+        }
+        if (!text.isEmpty())
+            edit->setText(text);
+        QTest::keyClick(edit, Qt::Key_Return);
+    };
+    const auto stored = [&](const QString &text) {
+        type(u"甲"_s, text);
+        type(u"乙"_s, u"saved as "_s + text);
+        QTest::keyClick(list, Qt::Key_S, Qt::ControlModifier);
+        return database.ask(u"SELECT (甲 = 0.1 + 0.2) || 乙 FROM 价"_s);
+    };
+    EXPECT_EQ(stored({}), u"1saved as "_s) << "nothing was typed";
+    EXPECT_EQ(stored(u"0.3"_s), u"1saved as 0.3"_s) << "the value's own text";
+    EXPECT_EQ(stored(u"0.4"_s), u"0saved as 0.4"_s);
+    makeCurrent(u"甲"_s);
+    EXPECT_EQ(list->currentIndex().siblingAtColumn(1).data(Qt::AccessibleTextRole).toString(), u"0.40"_s);
+    EXPECT_EQ(database.ask(u"SELECT 甲 = 0.4 FROM 价"_s), u"1"_s);
+}
+
 TEST_F(Looks, RowHeadingsHaveRoomForThreeDigits)
 {
     ASSERT_TRUE(load(u"SELECT 1 AS A"_s, {}));

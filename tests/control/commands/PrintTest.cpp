@@ -128,6 +128,34 @@ TEST_F(PrintTest, ColumnsAreAsWideAsTheirTextsWhereThePageHasRoom)
     EXPECT_TRUE(page.contains(u"1234567.125"_s)) << qPrintable(page.left(200));
 }
 
+// A cut number is another number; a text gives it room.
+TEST_F(PrintTest, NumbersAndDatesAreWholeBesideWideTexts)
+{
+    KOVA_NEEDS_READER;
+    database.run(
+        u"CREATE TABLE 宽 (金额 DECIMAL(12,2), 备注 TEXT, 日期 DATE, 说明 TEXT, 数 DOUBLE);"
+        "INSERT INTO 宽 VALUES (12345678.25, replace(printf('%300s', ''), ' ', 'long '), '2024-03-01',"
+        " 'short', 98765.4321)"_s);
+    const auto expectWhole = [this](const QString &statement, const QList<int> &widths) {
+        ASSERT_TRUE(load(statement, {}));
+        for (int section = 0; section < widths.size(); ++section)
+            table->horizontalHeader()->resizeSection(section, widths.at(section));
+        for (const QString &orientation : {u"Portrait"_s, u"Landscape"_s}) {
+            ASSERT_TRUE(printData(u"a.pdf"_s, u"Orientation="_s + orientation));
+            const QString page = pagesOf(u"a.pdf"_s).value(0);
+            for (const QString &whole : {u"12345678.25"_s, u"2024-03-01"_s, u"98765.4321"_s, u"long"_s})
+                EXPECT_TRUE(page.contains(whole)) << qPrintable(whole + u'\n' + page.left(600));
+        }
+    };
+    expectWhole(u"SELECT * FROM 宽"_s, {40, 1200, 40, 60, 40});
+    expectWhole(u"SELECT * FROM 宽"_s, {30, 4000, 30, 60, 30});
+    // Letters get no smaller than can be read.
+    QString texts;
+    for (int i = 0; i < 12; ++i)
+        texts += u", '长文字长文字长文字' AS 列%1"_s.arg(i);
+    expectWhole(u"SELECT *"_s + texts + u" FROM 宽"_s, {60, 900, 60, 60, 60});
+}
+
 TEST_F(PrintTest, HiddenColumnsAreLeftOutAndOnlyMarkedRecordsPrintedOnRequest)
 {
     KOVA_NEEDS_READER;

@@ -46,6 +46,21 @@ TEST_F(SelectionTest, OneCellHasNoSummary)
     EXPECT_EQ(shownSummary(), QString());
 }
 
+// SQLite keeps no zeros of a decimal. A click copies the value.
+TEST_F(SelectionTest, ShowsTheDecimalsOfTheFields)
+{
+    database.run(u"CREATE TABLE 价 (甲 DECIMAL(12,2), 乙 DOUBLE);"
+                 "INSERT INTO 价 VALUES (0.2, 0.5), (3, 1), (NULL, NULL)"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 价"_s, {}));
+    mark(1, 1, 3, 1);
+    EXPECT_EQ(shownSummary(), u"选定行数 3，计数 2，求和 3.20，平均 1.60，最小 0.20，最大 3.00"_s);
+    EXPECT_TRUE(summary->text().contains(u">3.00<"_s)) << qPrintable(summary->text());
+    Q_EMIT summary->linkActivated(u"5"_s);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"3"_s);
+    mark(1, 2, 2, 2);
+    EXPECT_EQ(shownSummary(), u"选定行数 2，计数 2，求和 1.5，平均 0.75，最小 0.5，最大 1"_s);
+}
+
 TEST_F(SelectionTest, SumsUpNumbersCountsTextsAndOrdersDates)
 {
     ASSERT_TRUE(load(numbers, {}));

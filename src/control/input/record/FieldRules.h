@@ -1,7 +1,8 @@
 #pragma once
 
-#include "ado/Field.h"
+#include "ado/Recordset.h"
 #include "ado/ValueText.h"
+#include "ado/rows/RowReader.h"
 #include "ado/values/DisplayFormat.h"
 
 // Which fields can be written, and how the single-record list shows values.
@@ -18,17 +19,19 @@ inline bool isRequired(const ADODB::Field &field)
     return isWritable(field) && (field.Attributes() & ADODB::adFldIsNullable) == 0;
 }
 
-// Yes and No for a Boolean, as in the filter.
-inline ADODB::DisplayFormat shownFormat(const ADODB::Field &field)
+// Yes and No for a Boolean, as in the filter; the decimals of the field for a number, as in the grid. `field`
+// is from 0, of the current record.
+inline ADODB::DisplayFormat shownFormat(const ADODB::Recordset &recordset, int field)
 {
     using ADODB::DisplayFormat;
-    return field.Type() == ADODB::adBoolean ? DisplayFormat{.truth = DisplayFormat::Truth::YesNo}
-                                            : DisplayFormat();
+    if (recordset.Fields().Item(field).Type() == ADODB::adBoolean)
+        return {.truth = DisplayFormat::Truth::YesNo};
+    return {.leastDecimals = ADODB::RowReader::lostDecimals(recordset, recordset.AbsolutePosition(), field)};
 }
 
-inline QString shownText(const ADODB::Field &field)
+inline QString shownText(const ADODB::Recordset &recordset, int field)
 {
-    return shownFormat(field).applied(ADODB::ValueText(field.Value()));
+    return shownFormat(recordset, field).applied(ADODB::ValueText(recordset.Fields().Item(field).Value()));
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -1,11 +1,11 @@
 #include "control/input/record/RecordHeading.h"
 
 #include "control/parts/GridTexts.h"
+#include "forms/widgets/TickBoxes.h"
 #include "language/Language.h"
 #include "session/commands/CommandKeys.h"
 
 #include <QtCore/QEvent>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QPushButton>
 
@@ -36,7 +36,7 @@ RecordHeading::RecordHeading(QHeaderView &header)
 
 QCheckBox *RecordHeading::newPictureBox()
 {
-    auto *const box = new QCheckBox(&m_header);
+    auto *const box = new CheckBox(&m_header);
     box->setObjectName(u"chkPictures"_s);
     box->setFocusPolicy(Qt::NoFocus); // Ctrl+Shift+I does the same
     connect(box, &QCheckBox::clicked, this, &RecordHeading::picturesClicked);

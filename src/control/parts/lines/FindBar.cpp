@@ -2,11 +2,11 @@
 
 #include "control/parts/GridTexts.h"
 #include "control/parts/lines/ElidedLabel.h"
+#include "forms/widgets/TickBoxes.h"
 #include "language/Language.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QToolButton>
@@ -46,8 +46,8 @@ FindBar::FindBar(QWidget *parent)
       m_next(button(*this, u"cmdFindNext"_s)),
       m_found(new ElidedLabel(this)),
       m_column(new QComboBox(this)),
-      m_wholeCell(new QCheckBox(this)),
-      m_matchCase(new QCheckBox(this)),
+      m_wholeCell(new CheckBox(this)),
+      m_matchCase(new CheckBox(this)),
       m_close(button(*this, u"cmdFindClose"_s))
 {
     setObjectName(u"FindBar"_s);

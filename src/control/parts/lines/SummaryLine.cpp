@@ -65,7 +65,7 @@ void SummaryLine::show(const QList<Item> &items)
     m_items = items;
     QStringList spoken;
     for (const Item &item : items)
-        spoken.append(item.caption + u' ' + item.value);
+        spoken.append(item.caption + u' ' + item.text());
     setAccessibleName(spoken.join(GridTexts::BetweenSummaries));
     fit();
     setVisible(!items.isEmpty());
@@ -92,7 +92,7 @@ void SummaryLine::fit()
     setText(html(values));
     QStringList lines;
     for (qsizetype i = values; i < m_items.size(); ++i)
-        lines.append(m_items.at(i).caption + u' ' + m_items.at(i).value);
+        lines.append(m_items.at(i).caption + u' ' + m_items.at(i).text());
     lines.append(GridTexts::SummaryHint);
     setToolTip(lines.join(u'\n'));
 }
@@ -103,7 +103,7 @@ QString SummaryLine::html(qsizetype values) const
     QStringList shown;
     for (qsizetype i = 0; i < values; ++i)
         shown.append(m_items.at(i).caption.toHtmlEscaped() + u"&nbsp;"_s +
-                     linkTo(QString::number(i), m_items.at(i).value, colour));
+                     linkTo(QString::number(i), m_items.at(i).text(), colour));
     if (values < m_items.size())
         shown.append(linkTo(moreLink, u"…"_s, colour));
     return u"<span style=\"white-space:nowrap\">"_s + shown.join(u"&nbsp;&nbsp;"_s) + u"</span>"_s;
@@ -123,7 +123,7 @@ void SummaryLine::openMenu()
     menu->setObjectName(u"SummaryMenu"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const Item &item : std::as_const(m_items)) {
-        QString text = item.caption + u'\t' + item.value;
+        QString text = item.caption + u'\t' + item.text();
         const QAction *const action = menu->addAction(text.replace(u'&', "&&"_L1));
         connect(action, &QAction::triggered, this, [this, value = item.value] { copy(value); });
     }

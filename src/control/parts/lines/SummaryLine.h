@@ -16,7 +16,10 @@ public:
     struct Item
     {
         QString caption;
-        QString value;
+        QString value;      // what a click copies
+        QString shown = {}; // what is seen instead of it; empty if it is the same
+
+        const QString &text() const { return shown.isEmpty() ? value : shown; }
     };
 
     explicit SummaryLine(QWidget *parent);

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "forms/Contrast.h"
+
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QRadioButton>
+#include <QtWidgets/QStyleOption>
+#include <QtWidgets/QStyledItemDelegate>
+
+// All that has a box for a tick, with a box that can be seen in any palette.
+namespace KOVAVSFDataGridLib {
+
+class CheckBox : public QCheckBox
+{
+public:
+    using QCheckBox::QCheckBox;
+
+protected:
+    void initStyleOption(QStyleOptionButton *option) const override
+    {
+        QCheckBox::initStyleOption(option);
+        makeBoxVisible(option->palette);
+    }
+};
+
+class RadioButton : public QRadioButton
+{
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    void initStyleOption(QStyleOptionButton *option) const override
+    {
+        QRadioButton::initStyleOption(option);
+        makeBoxVisible(option->palette);
+    }
+};
+
+class Menu : public QMenu
+{
+public:
+    using QMenu::QMenu;
+
+protected:
+    void initStyleOption(QStyleOptionMenuItem *option, const QAction *action) const override
+    {
+        QMenu::initStyleOption(option, action);
+        if (option->checkType != QStyleOptionMenuItem::NotCheckable)
+            makeBoxVisible(option->palette);
+    }
+};
+
+// For the entries of a list.
+class TickDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (option->features.testFlag(QStyleOptionViewItem::HasCheckIndicator))
+            makeBoxVisible(option->palette);
+    }
+};
+
+} // namespace KOVAVSFDataGridLib
