@@ -200,6 +200,8 @@ void SetFilter::readFields()
                             .ticked = named});
         return answer ? std::optional(answer->ticked) : std::nullopt;
     };
+    context->textInForce = [this](const QString &condition) { return m_inForce.value(condition); };
+    m_inForce.clear();
     m_kept->removeAll();
     m_kept->setDialect(context->dialect);
     m_rows->start(std::move(context));
@@ -308,7 +310,7 @@ void SetFilter::enableParts()
 QString SetFilter::ConditionText()
 {
     const std::optional<QString> built = builtText();
-    m_builtCondition = built.value_or(QString());
+    m_builtCondition = built && !m_isByHand ? m_rows->builtPreview() : built.value_or(QString());
     return built ? m_kept->joinedWith(*built) : QString();
 }
 

@@ -52,11 +52,14 @@ public:
     // What was built or typed, and the reverse. If a field no longer exists, PutState shows the reason and
     // changes nothing.
     BuiltFilter State() const;
+    // The same without rows that are a condition in force as somebody else has made it.
+    BuiltFilter BuiltState() const;
     void PutState(const BuiltFilter &state);
     // As FilterRow has it. The user has not changed anything then, and neither after Begin().
     void Suggest(const QString &field, const QString &value);
-    // Begins with conditions in force: as rows where they were made from such or from ticked values, else as
-    // lines that are kept unless the user unticks them. A field that isn't empty is asked for besides.
+    // Begins with conditions in force: as rows where there are rows for them, which leave them as they are
+    // until the user changes them; else as lines that are kept unless the user unticks them. A field that
+    // isn't empty is asked for besides.
     void Begin(const std::vector<ConditionInForce> &conditions, const QString &field);
     // Whether the user has changed anything since the builder was prepared.
     bool IsChanged() const { return State() != m_stateBefore; }
@@ -97,6 +100,7 @@ private:
     QString conditionByHand();
     QString sentence() const;
     void askFor(const QString &field);
+    void noteInForce(const ConditionInForce &condition, const FilterState &rows, const FilterScope &scope);
     void onKeptChanged();
     // Values that were read before are shown without querying the database.
     void offerValues(const FilterField &field, ValueEdit &edit, int most);
@@ -113,6 +117,7 @@ private:
     QString m_caption;
     QString m_currentCondition;
     QString m_builtCondition;
+    QHash<QString, QString> m_inForce; // as they are, by the conditions that their rows would have
     BuiltFilter m_stateBefore;
     std::vector<FilterField> m_fields;
     QLabel *m_table;

@@ -6,6 +6,7 @@
 #include "filter/kept/KeptConditions.h"
 #include "filter/rows/FilterRows.h"
 #include "forms/Messages.h"
+#include "query/conditions/ConditionParts.h"
 
 #include <QtCore/QJsonDocument>
 #include <QtWidgets/QLineEdit>
@@ -14,6 +15,24 @@
 
 // Saves and restores the contents of the builder.
 namespace KOVAVSFDataGridLib {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The text of a condition that was typed; empty for others.
+QString typedTextOf(const ConditionInForce &condition)
+{
+    const auto built = builtFilterOf(QJsonDocument::fromJson(condition.built.toUtf8()).object());
+    return condition.field.isEmpty() && built ? built->condition : QString();
+}
+
+bool isTyped(const ConditionInForce &condition)
+{
+    return !typedTextOf(condition).isEmpty();
+}
+
+} // namespace
 
 BuiltFilter SetFilter::State() const
 {
@@ -54,34 +73,57 @@ void SetFilter::PutState(const BuiltFilter &state)
         show(FilterTexts::UnmatchedBracket);
 }
 
+BuiltFilter SetFilter::BuiltState() const
+{
+    BuiltFilter state = State();
+    if (!state.rows.isEmpty())
+        state.rows = m_rows->builtState();
+    return state;
+}
+
 void SetFilter::Begin(const std::vector<ConditionInForce> &conditions, const QString &field)
 {
-    const Dialect dialect = m_source.dialect();
     FilterScope scope;
     if (m_source.hasTable())
         scope.records = {m_source.fromText(), m_currentCondition};
+    // One that was typed can be edited where nothing else takes its place.
+    const auto typed = std::ranges::find_if(conditions, isTyped);
+    const bool canBeTyped = typed != conditions.end() && field.isEmpty();
     BuiltFilter state;
     for (const ConditionInForce &each : conditions) {
-        const auto rows = rowsOf(each, dialect, m_fields, scope);
+        const bool isLine = canBeTyped && each.built.isEmpty();
+        const auto rows = isLine ? std::nullopt : rowsOf(each, m_source.dialect(), m_fields, scope);
         auto joined = rows ? joinedRows(state.rows, *rows) : std::nullopt;
-        if (joined)
+        if (joined) {
+            noteInForce(each, *rows, scope);
             state.rows = *std::move(joined);
-        else
+        } else {
             state.kept.append(each.text);
-    }
-    // One that was typed can be edited where nothing else takes its place.
-    for (const ConditionInForce &each : conditions) {
-        const auto typed = builtFilterOf(QJsonDocument::fromJson(each.built.toUtf8()).object());
-        if (each.field.isEmpty() && typed && !typed->condition.isEmpty() && state.rows.isEmpty() &&
-            field.isEmpty()) {
-            state.kept.removeOne(each.text);
-            state.condition = typed->condition;
-            break;
         }
+    }
+    if (canBeTyped && state.rows.isEmpty()) {
+        state.kept.removeOne(typed->text);
+        state.condition = typedTextOf(*typed);
     }
     PutState(state);
     if (!field.isEmpty())
         askFor(field);
+}
+
+// A row that somebody else's condition became is written as that one while it selects the same records. Of
+// two that select the same, a heading's is written, which finds it there again.
+void SetFilter::noteInForce(const ConditionInForce &condition, const FilterState &rows,
+                            const FilterScope &scope)
+{
+    const bool isHeadings = !condition.field.isEmpty();
+    if (!isHeadings && !condition.built.isEmpty())
+        return; // it was built
+    const Dialect dialect = m_source.dialect();
+    const FilterChoice choice = termsOf(rows, m_fields).constFirst().choice;
+    const QString written = conditionOf(dialect, choice, scope).sql;
+    if (isHeadings || !m_inForce.contains(written))
+        m_inForce.insert(written, isLooseCondition(condition.text, dialect) ? u'(' + condition.text + u')'
+                                                                            : condition.text);
 }
 
 void SetFilter::askFor(const QString &field)

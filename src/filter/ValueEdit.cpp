@@ -4,7 +4,6 @@
 #include "filter/FilterTexts.h"
 #include "filter/conditions/FilterValue.h"
 #include "language/GroupedNumber.h"
-#include "language/Language.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QScopedValueRollback>
@@ -99,7 +98,6 @@ ValueEdit::ValueEdit(QWidget *parent)
     connect(m_offer, &QAction::triggered, this, &ValueEdit::offer);
     connect(this, &QLineEdit::textEdited, this, &ValueEdit::dropLineEnd);
     setKind(FieldClass::Text, false);
-    Language::keepTranslated(*this, [this] { writeTexts(); });
 }
 
 void ValueEdit::writeTexts()

@@ -44,6 +44,8 @@ public:
     void setKind(FieldClass fieldClass, bool isList);
     // For a number of values.
     void setCount();
+    // Writes its texts in the current language.
+    void writeTexts();
     // Shows that something is wrong with the value.
     void setMarked(bool isMarked);
     // The width for a typical value of its kind and the buttons.
@@ -61,7 +63,6 @@ protected:
 
 private:
     void offer();
-    void writeTexts();
     void dropLineEnd();
     void offerValues();
     void offerList(const ListedValues &list);

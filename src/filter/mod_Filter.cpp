@@ -82,7 +82,7 @@ QString mod_Filter::Built() const
     if (!m_dialog || m_strFilterCondition.isEmpty())
         return {};
     return QString::fromUtf8(
-        QJsonDocument(toJson(m_dialog->SetFilter1().State())).toJson(QJsonDocument::Compact));
+        QJsonDocument(toJson(m_dialog->SetFilter1().BuiltState())).toJson(QJsonDocument::Compact));
 }
 
 bool mod_Filter::IsSqlWanted() const

@@ -88,10 +88,51 @@ TEST(RestoredRows, AreThoseThatWereBuilt)
                  {.field = u"城市"_s, .value = u"大连"_s}}};
     EXPECT_EQ(rowsOfBuilt(built, u"(数量 < 5 OR 城市 = '大连')"_s), built.rows);
     EXPECT_FALSE(rowsOfBuilt({.condition = u"数量 < 5"_s}, u"数量 < 5"_s));
-    EXPECT_FALSE(rowsOf({u"数量 < 5"_s}, sqlite, fields, {})) << "nobody built it";
     BuiltFilter elsewhere = built;
     elsewhere.rows.last().field = u"价格"_s;
     EXPECT_FALSE(rowsOfBuilt(elsewhere, u"(数量 < 5 OR 价格 = '大连')"_s));
+}
+
+TEST(RestoredRows, AreRecognizedWhereOneSelectsTheSame)
+{
+    const auto recognized = [](const QString &condition, Engine engine = Engine::SQLite) {
+        const auto rows = rowsOf({condition}, {.database = dbAccess, .engine = engine}, fields, {});
+        if (!rows)
+            return QString();
+        const FilterRowState &row = rows->constFirst();
+        return row.field + u' ' + nameOf(row.op) + u' ' + row.value +
+               (row.lastValue.isEmpty() ? QString() : u' ' + row.lastValue);
+    };
+    // What a cell's value asks for, on each engine in its own way.
+    EXPECT_EQ(recognized(u"城市 like '大连'"_s), u"城市 equals 大连"_s);
+    EXPECT_EQ(recognized(u"数量 like 3"_s), u"数量 equals 3"_s);
+    EXPECT_EQ(recognized(u"数量 like 3.0"_s), u"数量 equals 3"_s);
+    EXPECT_EQ(recognized(u"CAST(城市 AS TEXT) like 'Tea'"_s, Engine::PostgreSQL), u"城市 equals Tea"_s);
+    EXPECT_EQ(recognized(u"数量 = 3"_s, Engine::PostgreSQL), u"数量 equals 3"_s);
+    EXPECT_EQ(recognized(u"数量 = CAST(-2.5 AS REAL)"_s, Engine::PostgreSQL), u"数量 equals -2.5"_s);
+    EXPECT_EQ(recognized(u"数量 IS NULL"_s), u"数量 isEmpty "_s);
+    // What a host and words in a single field ask for.
+    EXPECT_EQ(recognized(u"数量 >= -5"_s), u"数量 atLeast -5"_s);
+    EXPECT_EQ(recognized(u"数量 > 5"_s, Engine::MySQL), u"数量 greater 5"_s);
+    EXPECT_EQ(recognized(u"(数量 > 5 AND 数量 < '')"_s), u"数量 greater 5"_s);
+    EXPECT_EQ(recognized(u"t.[城市] LIKE '%茶%'"_s), u"城市 contains 茶"_s);
+    EXPECT_EQ(recognized(u"\"数量\" = 3"_s, Engine::PostgreSQL), u"数量 equals 3"_s);
+    EXPECT_EQ(recognized(u"数量 <> 5"_s), u"数量 notEquals 5"_s);
+    EXPECT_EQ(recognized(u"城市 in ('a, b','大连')"_s), u"城市 inList \"a, b\", 大连"_s);
+    EXPECT_EQ(recognized(u"((数量 >= 1 AND 数量 <= 5))"_s), u"数量 between 1 5"_s);
+    EXPECT_EQ(recognized(u"城市 LIKE '%O''N%'"_s), u"城市 contains O'N"_s);
+    // LIKE isn't equality with a wildcard, where letters of both cases are alike, or with blanks at the end.
+    for (const QString &condition : {u"城市 like 'a_'"_s, u"城市 like 'Tea'"_s, u"城市 like '茶 '"_s,
+                                     u"城市 like ''"_s, u"数量 like '一些'"_s, u"城市 NOT LIKE '茶'"_s})
+        EXPECT_EQ(recognized(condition), QString()) << condition.toStdString();
+    EXPECT_EQ(recognized(u"城市 like '茶%'"_s), u"城市 beginsWith 茶"_s);
+    // No row means exactly this.
+    for (const QString &condition :
+         {u"城市 IS NULL"_s, u"数量 = 3 OR 数量 = 4"_s, u"数量 = 3 + 1"_s, u"数量 = ID"_s, u"数量 - 1 = 3"_s,
+          u"upper(城市) = '茶'"_s, u"城市(1) = 3"_s, u"NOT 数量 = 3"_s, u"数量"_s, u""_s,
+          u"数量 = 3 AND 城市 = '茶'"_s, u"数量 BETWEEN 3 AND 4"_s})
+        EXPECT_EQ(recognized(condition), QString()) << condition.toStdString();
+    EXPECT_EQ(recognized(u"数量 = 3"_s, Engine::Other), QString()) << "who knows how it reads that";
 }
 
 TEST(RestoredRows, CompareOnlyTheRecordsThatTheyDid)

@@ -68,6 +68,7 @@ CellEditor::CellEditor(Session &session, GridParts &parts)
     // A line edit truncates longer texts, and the truncated text would be saved.
     m_parts.txtEdit->setMaxLength(std::numeric_limits<int>::max());
     m_parts.txtEdit->setValueReader([this] { return knownValues(); });
+    Language::keepTranslated(*m_parts.txtEdit, [this] { m_parts.txtEdit->writeTexts(); });
     m_parts.txtEdit->installEventFilter(this);
     connect(m_parts.txtEdit, &QLineEdit::textChanged, this, &CellEditor::noteTyped);
     m_lines.setObjectName(u"txtLines"_s);

@@ -2,6 +2,7 @@
 
 #include "filter/conditions/BuiltFilter.h"
 #include "filter/conditions/FilterSentence.h"
+#include "filter/conditions/RecognizedRow.h"
 #include "filter/tree/FilterTree.h"
 #include "query/conditions/ConditionParts.h"
 
@@ -63,6 +64,26 @@ FilterChoice choiceOf(const FilterField &field, const TickedValues &ticked)
     return choice;
 }
 
+QStringList comparableParts(const QString &condition, const Dialect &dialect)
+{
+    QStringList parts = textsOfParts(condition, dialect);
+    for (QString &part : parts)
+        part = comparableText(part, dialect);
+    return parts;
+}
+
+// The field whose ticked values were written as this condition. Who wrote it may write the field's name in
+// another way than statements do.
+std::optional<FilterField> fieldOfTicks(const ConditionInForce &condition, const TickedValues &ticked,
+                                        const Dialect &dialect, const std::vector<FilterField> &fields)
+{
+    const QStringList wanted = comparableParts(condition.text, dialect);
+    const auto found = std::ranges::find_if(fields, [&](const FilterField &field) {
+        return comparableParts(conditionOf(dialect, field, ticked).sql, dialect) == wanted;
+    });
+    return found == fields.end() ? std::nullopt : std::optional(*found);
+}
+
 std::optional<FilterState> rowsOfTicks(const FilterField &field, const TickedValues &ticked,
                                        const Dialect &dialect, const FilterScope &scope)
 {
@@ -117,9 +138,13 @@ std::optional<FilterState> rowsOf(const ConditionInForce &condition, const Diale
 {
     const QJsonObject json = QJsonDocument::fromJson(condition.built.toUtf8()).object();
     if (!condition.field.isEmpty()) {
-        const auto field = std::ranges::find(fields, condition.field, &FilterField::written);
-        return field == fields.end() ? std::nullopt
-                                     : rowsOfTicks(*field, tickedValuesOf(json), dialect, scope);
+        const TickedValues ticked = tickedValuesOf(json);
+        const auto field = fieldOfTicks(condition, ticked, dialect, fields);
+        return field ? rowsOfTicks(*field, ticked, dialect, scope) : std::nullopt;
+    }
+    if (condition.built.isEmpty()) {
+        const auto row = rowRecognizedIn(condition.text, dialect, fields);
+        return row ? std::optional(FilterState{*row}) : std::nullopt;
     }
     const auto built = builtFilterOf(json);
     if (!built || built->rows.isEmpty() ||
@@ -127,8 +152,8 @@ std::optional<FilterState> rowsOf(const ConditionInForce &condition, const Diale
         return std::nullopt;
     const bool comparesRecords =
         std::ranges::any_of(built->rows, KOVAVSFDataGridLib::comparesRecords, &FilterRowState::op);
-    if (comparesRecords &&
-        conditionOf(built->rows, dialect, fields, scope).simplified() != condition.text.simplified())
+    if (comparesRecords && comparableText(conditionOf(built->rows, dialect, fields, scope), dialect) !=
+                               comparableText(condition.text, dialect))
         return std::nullopt;
     return built->rows;
 }

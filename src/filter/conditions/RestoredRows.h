@@ -10,9 +10,9 @@
 // Conditions in force as rows of the builder.
 namespace KOVAVSFDataGridLib {
 
-// The rows that a condition was built from, or those that select the same records as the ticked values that
-// it was made from; nothing where there are none. Rows that compare records are there only where the records
-// of `scope` are those that they were built for.
+// The rows that a condition was built from, or one that selects the same records as the ticked values or the
+// text that it was made from; nothing where there are none. Rows that compare records are there only where
+// the records of `scope` are those that they were built for.
 std::optional<FilterState> rowsOf(const ConditionInForce &condition, const Dialect &dialect,
                                   const std::vector<FilterField> &fields, const FilterScope &scope);
 

@@ -155,8 +155,18 @@ void FilterRow::onEditingFinished()
 
 FilterCondition FilterRow::condition(bool isComplement) const
 {
-    return isComplement ? complementOf(m_context->dialect, choice(), m_context->scope())
-                        : conditionOf(m_context->dialect, choice(), m_context->scope());
+    if (isComplement)
+        return complementOf(m_context->dialect, choice(), m_context->scope());
+    if (const QString text = textInForce(); !text.isEmpty())
+        return {text, {}};
+    return conditionOf(m_context->dialect, choice(), m_context->scope());
+}
+
+QString FilterRow::textInForce() const
+{
+    return m_context->textInForce
+               ? m_context->textInForce(conditionOf(m_context->dialect, choice(), m_context->scope()).sql)
+               : QString();
 }
 
 bool FilterRow::isBlank() const

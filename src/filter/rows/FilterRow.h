@@ -35,6 +35,9 @@ struct FilterRowContext
     // The filtered records; without them, no operator compares records.
     std::optional<FilterSql::Records> records = {};
     std::function<QDate()> today = QDate::currentDate;
+    // The condition in force that selects the same records as this condition of a row; empty if there is
+    // none. The row is written like that one then.
+    std::function<QString(const QString &)> textInForce = {};
 
     FilterScope scope() const { return {today(), records}; }
 };
@@ -71,6 +74,8 @@ public:
     void suggest(const QString &field, const QString &value);
     // The row's current condition, or that of all other records. Does not change what is shown.
     FilterCondition condition(bool isComplement = false) const;
+    // Whether it is a condition in force that somebody else has made, as that is.
+    bool isInForce() const { return !textInForce().isEmpty(); }
     // The same, but also shows an error.
     FilterCondition checkedCondition();
     void showFault(const QString &fault);
@@ -106,6 +111,7 @@ private:
     void onEditingFinished();
     FilterField field() const;
     FilterOperator op() const;
+    QString textInForce() const;
     bool isStarted() const;
 
     std::shared_ptr<const FilterRowContext> m_context;

@@ -202,7 +202,37 @@ void FilterRows::addBrackets()
 
 QString FilterRows::preview() const
 {
-    const auto tree = completeTree();
+    return written(completeTree());
+}
+
+std::optional<FilterNode> FilterRows::builtTree() const
+{
+    auto tree = completeTree();
+    if (!tree || (tree->kind != FilterNode::Kind::All && tree->parts.size() > 1))
+        return tree;
+    std::erase_if(tree->parts, [this](const FilterNode &part) {
+        return !part.isGroup() && !part.isComplement && m_rows.at(part.row)->isInForce();
+    });
+    return tree->parts.empty() ? std::nullopt : tree;
+}
+
+FilterState FilterRows::builtState() const
+{
+    const auto tree = builtTree();
+    FilterState state;
+    for (const FilterPlace &place : tree ? flatOf(*tree) : QList<FilterPlace>()) {
+        FilterRowState row = m_rows.at(place.row)->state();
+        row.opens = place.term.opens;
+        row.closes = place.term.closes;
+        row.orNext = place.term.orNext;
+        row.negatedOpens = place.term.negatedOpens;
+        state.append(row);
+    }
+    return state;
+}
+
+QString FilterRows::written(const std::optional<FilterNode> &tree) const
+{
     QList<FilterSql::Term> terms;
     for (const FilterPlace &place : tree ? flatOf(withoutNone(*tree)) : QList<FilterPlace>()) {
         terms.append(place.term);

@@ -47,6 +47,9 @@ public:
 
     // The condition of the complete rows.
     QString preview() const;
+    // The same, and the contents, without rows that are a condition in force to which AND joins the others.
+    QString builtPreview() const { return written(builtTree()); }
+    FilterState builtState() const;
     // The condition of all rows. If there is an error, returns an empty text, marks the rows and moves the
     // focus to the first one.
     QString checkedText();
@@ -61,6 +64,8 @@ private:
     QList<FilterSql::Term> frames() const;
     void setFrames(const QList<FilterPlace> &places);
     std::optional<FilterNode> completeTree() const;
+    std::optional<FilterNode> builtTree() const;
+    QString written(const std::optional<FilterNode> &tree) const;
     // Only if isGrouped().
     FilterOutline &outline() { return *m_outline; }             // NOLINT(bugprone-unchecked-optional-access)
     const FilterOutline &outline() const { return *m_outline; } // NOLINT(bugprone-unchecked-optional-access)

@@ -88,13 +88,16 @@ bool ShownStatement::reloadFiltered(const QString &statement, bool isRemembered,
     return true;
 }
 
-bool ShownStatement::addCondition(const QString &condition, QString &statement)
+bool ShownStatement::addCondition(const QString &condition, QString &statement,
+                                  const std::optional<QString> &made)
 {
-    // What is added now was not chosen by values, even where that was written in the same way.
+    // What is made now was not chosen by values, even where that was written in the same way.
     const Dialect dialect = dialectOf(m_session.filterManager().DBType(), m_session.result().engine());
-    const QString added = comparableText(condition, dialect);
+    QStringList parts = textsOfParts(made.value_or(condition), dialect);
+    for (QString &part : parts)
+        part = comparableText(part, dialect);
     std::erase_if(chosenValues, [&](const ChosenValues &values) {
-        return comparableText(values.condition, dialect) == added;
+        return parts.contains(comparableText(values.condition, dialect));
     });
     if (!m_session.rules().narrowsShown)
         return m_session.history().GetNextSQLByFilter(condition, statement);

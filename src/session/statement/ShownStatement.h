@@ -64,8 +64,10 @@ public:
 
     // The input for building a condition for it.
     ConditionRequest conditionRequest() const;
-    // The statement with one more condition, which chosenValues has no more; false when none can be derived.
-    bool addCondition(const QString &condition, QString &statement);
+    // The statement with one more condition; false when none can be derived. What of it is `made` now, all of
+    // it by default, is no more in chosenValues.
+    bool addCondition(const QString &condition, QString &statement,
+                      const std::optional<QString> &made = std::nullopt);
     // Stores a filter's condition for the dialogs of the process; an empty one clears SQLFilter too.
     void setLastFilter(const QString &condition);
     // Whether the next filter is added to this statement instead of the first one.

@@ -3,6 +3,8 @@
 
 #include "support/Dialogs.h"
 
+#include <QtGui/QAction>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QToolButton>
 
@@ -49,6 +51,28 @@ TEST_F(FilterBegins, WithTheCurrentCellWhichTypingReplaces)
     table->setCurrentIndex(table->model()->index(4, 3));
     click(u"Filter"_s);
     EXPECT_EQ(texts(u"ID"_s), QStringList({u"1"_s, u"11"_s}));
+}
+
+TEST_F(FilterBegins, AnOpenDialogKeepsItsLanguage)
+{
+    ASSERT_TRUE(load());
+    WindowAnswers dialogs({[this](QDialog &dialog) {
+        const auto texts = [&] {
+            return part<QPushButton>(dialog, "cmd_Filter").text() + part<QCheckBox>(dialog, "chkSql").text() +
+                   part<QLineEdit>(dialog, "txtValue1").findChild<QAction *>(u"actOffer"_s)->text();
+        };
+        const QString before = texts();
+        grid.PutLanguage(u"en"_s);
+        QCoreApplication::processEvents(); // the widgets are told
+        EXPECT_EQ(texts(), before);
+        cancel(dialog);
+    }});
+    click(u"Filter"_s);
+    EXPECT_TRUE(grid.findChild<QLineEdit *>(u"txtEdit"_s)
+                    ->findChild<QAction *>(u"actOffer"_s)
+                    ->text()
+                    .contains(u"list"_s));
+    grid.PutLanguage({});
 }
 
 TEST_F(FilterBegins, WithoutTheCellsValueInAnotherField)

@@ -57,14 +57,15 @@ std::vector<ConditionInForce> replacedConditions(Session &session)
     return conditionsInForce(session);
 }
 
-// Shows the records that meet a condition. If the database rejects it, its message is stored in `refusal` if
-// that is given, and otherwise shown to the user.
-bool filterBy(Session &session, FilterManagerRollback &rollback, const QString &condition, QString *refusal)
+// Shows the records that meet a condition, of which `made` is new. If the database rejects it, its message is
+// stored in `refusal` if that is given, and otherwise shown to the user.
+bool filterBy(Session &session, FilterManagerRollback &rollback, const QString &condition,
+              const QString &made, QString *refusal)
 {
     session.shown().setLastFilter(condition);
     QString statement;
     const QString added = session.rules().trimsCondition ? condition.trimmed() : condition;
-    if (added.trimmed().isEmpty() || !session.shown().addCondition(added, statement) ||
+    if (added.trimmed().isEmpty() || !session.shown().addCondition(added, statement, made) ||
         !session.shown().reloadFiltered(statement, true, refusal))
         return false;
     rollback.keepChanges();
@@ -83,7 +84,7 @@ void askUser(Session &session, FilterManagerRollback &rollback, const QString &f
         if (!rollback.isResultUntouched())
             return;
         request.refusal.clear();
-        if (filterBy(session, rollback, condition, &request.refusal)) {
+        if (filterBy(session, rollback, condition, request.builtCondition, &request.refusal)) {
             if (!request.builtCondition.isEmpty())
                 session.shown().builtConditions.push_back({request.builtCondition, request.built});
             session.questions().noteConditionUsed(request);
@@ -111,7 +112,7 @@ void askHost(Session &session, FilterManagerRollback &rollback, const QString &f
     if (cancel == leftToTheDialog)
         askUser(session, rollback, field, std::move(replaced));
     else
-        filterBy(session, rollback, session.texts.passQurryFilter, nullptr);
+        filterBy(session, rollback, session.texts.passQurryFilter, session.texts.passQurryFilter, nullptr);
 }
 
 } // namespace
