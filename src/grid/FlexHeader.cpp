@@ -37,6 +37,15 @@ FlexHeader::FlexHeader(Qt::Orientation orientation, FlexGrid &grid)
     setSectionsClickable(true);
 }
 
+void FlexHeader::setSelectionModel(QItemSelectionModel *selectionModel)
+{
+    if (!selectionModel || selectionModel->parent() == this) // the header's own, in which nothing is selected
+        return QHeaderView::setSelectionModel(selectionModel);
+    disconnect(m_current);
+    m_current =
+        connect(selectionModel, &QItemSelectionModel::currentChanged, this, &FlexHeader::currentChanged);
+}
+
 void FlexHeader::mousePressEvent(QMouseEvent *event)
 {
     m_pressedArrow = event->button() == Qt::LeftButton ? arrowAt(event->position().toPoint()) : -1;

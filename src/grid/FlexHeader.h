@@ -26,6 +26,9 @@ public:
     int headingAt(const QPoint &position) const;
     // The pixels at which a heading's text, the mark of a sort and the arrow of its menu are seen together.
     int fittingWidth(int logicalIndex) const;
+    // Follows only the current cell of the grid's. Qt would ask for each heading at each painting whether all
+    // of its cells are selected, and to find out visit every row.
+    void setSelectionModel(QItemSelectionModel *selectionModel) override;
 
 protected:
     QSize sectionSizeFromContents(int logicalIndex) const override;
@@ -52,6 +55,7 @@ private:
     int frozenEdgeAt(const QPoint &position) const;
 
     FlexGrid &m_grid;
+    QMetaObject::Connection m_current;
     int m_hovered = -1;
     int m_pressedArrow = -1;
     int m_resized = -1; // the frozen section being resized

@@ -233,7 +233,7 @@ TEST(Recordset, TakesATableWithManyColumns)
     EXPECT_EQ(recordset->Fields().Item(u"C1599"_s).Value(), QVariant(1599));
 }
 
-// More than a memory limit of none, which leaves one block of 4 MiB.
+// More than a memory limit of none, which leaves one block.
 struct BigResult : testing::Test
 {
     static constexpr int count = 200'000;

@@ -292,7 +292,7 @@ TEST(RowStore, KeepsItsRowsWhenTheDiskTakesNoMore)
 
 TEST(RowStore, ACopyKeepsItsRowsWhileTheOriginalGrows)
 {
-    // A row of 100 bytes; blocks have 4 MiB, and all but the first are spilled.
+    // A row of 100 bytes; blocks have up to 4 MiB, and most are spilled.
     constexpr qint64 rowsOfABlock = (qint64{4} << 20) / 106;
     RowStore store(1, qint64{4} << 20);
     const auto add = [&store](qint64 count) {

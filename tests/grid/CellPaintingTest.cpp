@@ -184,6 +184,19 @@ TEST_F(Painting, ScrollingByOneRowPaintsOneRow)
     EXPECT_TRUE(columns.painted.isEmpty());
 }
 
+TEST_F(Painting, ANewCurrentRowPaintsTheHeadingsOfBoth)
+{
+    grid.setCurrentIndex(grid.model()->index(1, 0));
+    QCoreApplication::processEvents();
+    PaintWatch headings(*grid.verticalHeader()->viewport());
+    const QImage before = grid.verticalHeader()->grab().toImage();
+    grid.setCurrentIndex(grid.model()->index(3, 0));
+    QCoreApplication::processEvents();
+    for (const int row : {1, 3})
+        EXPECT_TRUE(headings.painted.contains(QPoint(1, grid.rowViewportPosition(row) + 1))) << row;
+    EXPECT_NE(grid.verticalHeader()->grab().toImage(), before);
+}
+
 TEST_F(Painting, WhatIsPaintedInPiecesIsTheWhole)
 {
     show({u"Latin text"_s, u"中文和 Latin"_s, u"a text that is too long for its column"_s});

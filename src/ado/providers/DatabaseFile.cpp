@@ -23,7 +23,7 @@ DatabaseFile::DatabaseFile(const QString &name, qint64 headerSize)
     if (!info.isFile()) // opening a pipe would block until something writes to it
         throw Error(adErrOpeningFile, Texts::fileIsSpecial().arg(shown));
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) // only a few bytes are needed
         throw Error(adErrOpeningFile, Texts::fileUnreadable().arg(shown, file.errorString()));
     size = file.size();
     if (size > 0) // reading something that only looks like a file can block forever

@@ -6,6 +6,7 @@ namespace ADODB {
 
 namespace {
 
+constexpr qsizetype firstBlockSize = qsizetype{64} << 10;
 constexpr qsizetype blockSize = qsizetype{4} << 20;
 constexpr qsizetype startSize = sizeof(quint32);
 
@@ -61,8 +62,9 @@ void RowStore::endRow()
 void RowStore::newBlock(qsizetype room)
 {
     const qsizetype begun = m_write - m_rowStart;
+    const qsizetype usual = m_blocks.empty() ? firstBlockSize : std::min(2 * m_blocks.back().size, blockSize);
     Block block;
-    block.size = std::max(blockSize, begun + std::max(begun, room) + startSize);
+    block.size = std::max(usual, begun + std::max(begun, room) + startSize);
     block.memory = std::make_shared_for_overwrite<char[]>(static_cast<std::size_t>(block.size));
     block.bytes = block.memory.get();
     block.firstRow = m_stored;

@@ -13,9 +13,10 @@
 namespace ADODB {
 
 // The rows of a result in packed form: each cell is a tag byte and as many bytes as its value needs. Rows are
-// stored one after another in blocks of 4 MiB; their offsets are at the end of the block, in reverse order.
-// Values are unpacked only on demand. Edits are kept apart from the blocks: removed rows in a sorted list,
-// replaced ones in a small table.
+// stored one after another in blocks; their offsets are at the end of the block, in reverse order. A small
+// result needs little memory: the first block has 64 KiB, and each has twice as many as the one before, up to
+// 4 MiB. Values are unpacked only on demand. Edits are kept apart from the blocks: removed rows in a sorted
+// list, replaced ones in a small table.
 //
 // Full blocks beyond the memory limit are moved to a spill file.
 //

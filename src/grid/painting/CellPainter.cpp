@@ -2,6 +2,7 @@
 
 #include "grid/cells/FlexGridModel.h"
 #include "grid/painting/CellDelegate.h"
+#include "grid/painting/DelegatesAndSpans.h"
 #include "grid/painting/GlyphBatch.h"
 
 #include <QtGui/QPainter>
@@ -60,9 +61,12 @@ private:
     QRect clipped(QRect dirty) const;
     void enterRow(int visualRow);
     void paintRow(int visualRow, Span columns);
+    void paintSelection(int row, std::size_t begin, Span columns);
     void paintCell(int row, const Column &column, const QString &text, bool isNull);
     void placeText(const QString &text, const Column &column, bool isSelected, bool isNull);
     bool isSelected(int row, int section) const;
+    // Drawn alone: the current cell, and the one under the mouse.
+    bool isSpecial(int row, int section) const;
 
     QTableView &m_view;
     const FlexGridModel &m_model;
@@ -199,6 +203,8 @@ void CellPainter::Frame::paintRow(int visualRow, Span columns)
     enterRow(visualRow);
     const int row = m_view.verticalHeader()->logicalIndex(visualRow);
     const std::size_t begin = static_cast<std::size_t>(visualRow - m_firstRow) * m_columns.size();
+    if (m_isPlainStyle && !m_selection.isEmpty())
+        paintSelection(row, begin, columns);
     for (int visual = columns.first; visual <= columns.last; ++visual) {
         const auto place = static_cast<std::size_t>(visual - m_firstColumn);
         const Column &column = m_columns[place];
@@ -212,13 +218,41 @@ void CellPainter::Frame::paintRow(int visualRow, Span columns)
     }
 }
 
+// Selected cells side by side get one panel. The lines between them are drawn over it.
+void CellPainter::Frame::paintSelection(int row, std::size_t begin, Span columns)
+{
+    QRect panel;
+    const auto paintPanel = [&] {
+        if (panel.isEmpty())
+            return;
+        m_cell.rect = panel;
+        m_cell.features = m_option.features;
+        m_cell.state.setFlag(QStyle::State_Selected, true);
+        m_cell.state.setFlag(QStyle::State_MouseOver, false);
+        m_cell.state.setFlag(QStyle::State_HasFocus, false);
+        m_view.style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &m_cell, &m_painter, &m_view);
+        panel = QRect();
+    };
+    for (int visual = columns.first; visual <= columns.last; ++visual) {
+        const auto place = static_cast<std::size_t>(visual - m_firstColumn);
+        const Column &column = m_columns[place];
+        if (column.width <= 0)
+            continue;
+        if (m_isPainted[begin + place] || !isSelected(row, column.section) || isSpecial(row, column.section))
+            paintPanel();
+        else
+            panel |= QRect(column.left, m_option.rect.top(), column.width, m_option.rect.height());
+    }
+    paintPanel();
+}
+
 void CellPainter::Frame::paintCell(int row, const Column &column, const QString &text, bool isNull)
 {
     const auto isThis = [&](const QModelIndex &index) {
         return index.row() == row && index.column() == column.section;
     };
     const bool selected = isSelected(row, column.section);
-    if (selected || isThis(m_hover) || isThis(m_current)) {
+    if (isSpecial(row, column.section) || (selected && !m_isPlainStyle)) {
         m_cell.rect = QRect(column.left, m_option.rect.top(), column.width, m_option.rect.height());
         m_cell.features = m_option.features;
         m_cell.state.setFlag(QStyle::State_Selected, selected);
@@ -261,6 +295,12 @@ void CellPainter::Frame::placeText(const QString &text, const Column &column, bo
     const QPalette::ColorRole role = isSelected ? QPalette::HighlightedText : QPalette::Text;
     const QColor colour = m_option.palette.color(colourGroup(m_option), role);
     m_batch.add(m_line, {left, top + m_glyphs.ascent()}, isNull ? CellDelegate::pale(colour) : colour);
+}
+
+bool CellPainter::Frame::isSpecial(int row, int section) const
+{
+    return (m_hover.row() == row && m_hover.column() == section) ||
+           (m_current.row() == row && m_current.column() == section);
 }
 
 bool CellPainter::Frame::isSelected(int row, int section) const
@@ -307,33 +347,7 @@ bool CellPainter::canPaint(const QRect &dirty) const
 {
     return m_view.model() == &m_model && m_view.selectionModel() && !m_view.rootIndex().isValid() &&
            !m_view.verticalHeader()->sectionsHidden() && !m_view.style()->inherits("QStyleSheetStyle") &&
-           qobject_cast<const CellDelegate *>(m_view.itemDelegate()) && !hasDelegateOrSpan(dirty);
-}
-
-bool CellPainter::hasDelegateOrSpan(const QRect &dirty) const
-{
-    const QHeaderView &rows = *m_view.verticalHeader();
-    const QHeaderView &columns = *m_view.horizontalHeader();
-    const int top = rows.logicalIndexAt(dirty.top());
-    const int bottom = rows.logicalIndexAt(dirty.bottom());
-    const int firstColumn = columns.visualIndexAt(m_view.isRightToLeft() ? dirty.right() : dirty.left());
-    const int lastColumn = columns.visualIndexAt(m_view.isRightToLeft() ? dirty.left() : dirty.right());
-    const int rowEnd = bottom < 0 ? rows.count() : bottom + 1;
-    const int columnEnd = lastColumn < 0 ? columns.count() : lastColumn + 1;
-    for (int row = std::max(top, 0); row < rowEnd; ++row) {
-        if (m_view.itemDelegateForRow(row))
-            return true;
-    }
-    for (int visual = std::max(firstColumn, 0); visual < columnEnd; ++visual) {
-        const int column = columns.logicalIndex(visual);
-        if (m_view.itemDelegateForColumn(column))
-            return true;
-        for (int row = std::max(top, 0); row < rowEnd; ++row) {
-            if (m_view.rowSpan(row, column) != 1 || m_view.columnSpan(row, column) != 1)
-                return true;
-        }
-    }
-    return false;
+           qobject_cast<const CellDelegate *>(m_view.itemDelegate()) && !hasDelegateOrSpan(m_view, dirty);
 }
 
 void CellPainter::paint(const QStyleOptionViewItem &option, const QRegion &dirty, const QPoint &offset,

@@ -47,7 +47,6 @@ private:
 
     void paint(Frame &frame, const QRegion &dirty);
     void prepareGlyphs(const QFont &font);
-    bool hasDelegateOrSpan(const QRect &dirty) const;
 
     QTableView &m_view;
     const FlexGridModel &m_model;

@@ -20,6 +20,8 @@ struct SimpleSelect
         QString column;   // the name of a plain column; empty for a computed entry
         // For a computed entry: depends on the time or on chance, so it can differ between two reads.
         bool changesByItself = false;
+
+        bool isComputed() const { return !all && column.isEmpty(); }
     };
 
     // Why it is not such a SELECT. Everything else is set only if it is one.

@@ -103,9 +103,9 @@ SqliteSession::SqliteSession(const QString &path, int timeoutInMilliseconds)
         sqlite3_db_config(m_db, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
         sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_FTS3_TOKENIZER, 0, nullptr);
         SqliteDigest::install(m_db);
-        // The first access to the file: a locked, encrypted or damaged file is reported here and not by the
-        // first statement.
-        stepRow(prepareOwn(u"SELECT 1 FROM sqlite_master LIMIT 1"_s));
+        // The first access to the file, whose tables are read for it: a locked, encrypted or damaged file is
+        // reported here and not by the first statement.
+        prepareOwn(u"SELECT 1 FROM sqlite_master"_s);
         beginWatch();
     } catch (...) {
         close();

@@ -201,9 +201,12 @@ std::vector<int> comparedColumns(const SimpleSelect &select, const TableColumns 
 
 // Whether this SELECT is an aggregate, which returns one row even if there is none. The aggregate function
 // can be anywhere in the list, even in a subquery without rows of its own, so only SQLite can tell. EXISTS
-// avoids computing the row. A statement that can't be tested like this is treated as an aggregate.
-bool folds(const SqliteSession &session, const SqliteTarget &target)
+// avoids computing the row. A statement that can't be tested like this is treated as an aggregate. A list
+// of columns alone needs no test.
+bool folds(const SqliteSession &session, const SqliteTarget &target, const SimpleSelect &select)
 {
+    if (std::ranges::none_of(select.items, &SimpleSelect::Item::isComputed))
+        return false;
     try {
         const auto probe = session.prepareQuery(u"SELECT EXISTS(%1 0)"_s.arg(target.selectRow));
         return !stepRow(probe) || sqlite3_column_int(probe.get(), 0) != 0;
@@ -256,7 +259,9 @@ SqliteTarget SqliteTarget::find(const SqliteSession &session, const QString &sql
         target.key = keyOf(columns.primaryKey, *shown, target.alias, hidden);
     } else {
         const QString written = rowId.column.isEmpty() ? QString() : quotedName(rowId.column);
-        target.key = {{rowId.name, written, hidden.add(target.alias + u'.' + rowId.name)}};
+        const qsizetype place = written.isEmpty() ? -1 : shown->indexOf(rowId.column);
+        target.key = {{rowId.name, written,
+                       place >= 0 ? static_cast<int>(place) : hidden.add(target.alias + u'.' + rowId.name)}};
         if (!columns.all.contains(rowId.column))
             hideIdentity(columns, *shown, target.alias, hidden);
     }
@@ -269,7 +274,7 @@ SqliteTarget SqliteTarget::find(const SqliteSession &session, const QString &sql
     target.selectRow = head + " WHERE "_L1;
     if (target.key.empty())
         target.whyReadOnly = Texts::readOnlyNoTable();
-    else if (folds(session, target))
+    else if (folds(session, target, select))
         target.whyReadOnly = Texts::readOnlyGrouped();
     return target;
 }
