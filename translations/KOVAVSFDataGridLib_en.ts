@@ -436,8 +436,8 @@
         <translation>The grid shows this recordset, so it cannot be queried again. Use IsLoadData of the grid.</translation>
     </message>
     <message>
-        <source>记录集只能保存为 XML（格式 1）。</source>
-        <translation>A recordset can be saved only as XML (format 1).</translation>
+        <source>记录集只能保存为 XML（格式 1）或 CSV（格式 2）。</source>
+        <translation>A recordset can be saved only as XML (format 1) or CSV (format 2).</translation>
     </message>
     <message>
         <source>只支持格式 2（文本）。</source>
@@ -478,6 +478,14 @@
     <message>
         <source>字段“%1”不能为空。</source>
         <translation>The field &quot;%1&quot; cannot be empty.</translation>
+    </message>
+    <message>
+        <source>记录逐条保存，不能成批更新。</source>
+        <translation>Records are saved one by one, not in batches.</translation>
+    </message>
+    <message>
+        <source>一条语句只有一个结果。</source>
+        <translation>A statement has only one result.</translation>
     </message>
 </context>
 <context>

@@ -162,8 +162,9 @@ Q_ENUM_NS(GetRowsOptionEnum)
 
 // The format of Save.
 enum PersistFormatEnum : qint32 {
-    adPersistADTG = 0, // a binary format; refused
-    adPersistXML = 1   // XML
+    adPersistADTG = 0,            // a binary format; refused
+    adPersistXML = 1,             // XML
+    adPersistProviderSpecific = 2 // CSV
 };
 Q_ENUM_NS(PersistFormatEnum)
 

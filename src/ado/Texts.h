@@ -111,7 +111,9 @@ inline constexpr Text badSort = tr("排序“%1”有误，应为“字段 ASC�
 inline constexpr Text badFieldList = tr("字段名与值的个数必须相同。");
 inline constexpr Text filterGroup = tr("只能按条件或书签筛选，不能按批量更新的状态筛选。");
 inline constexpr Text noRequery = tr("表格正在显示这个记录集，不能重新查询，请使用表格的 IsLoadData。");
-inline constexpr Text onlyXml = tr("记录集只能保存为 XML（格式 1）。");
+inline constexpr Text noBatch = tr("记录逐条保存，不能成批更新。");
+inline constexpr Text oneResult = tr("一条语句只有一个结果。");
+inline constexpr Text onlyXmlOrCsv = tr("记录集只能保存为 XML（格式 1）或 CSV（格式 2）。");
 inline constexpr Text onlyClipString = tr("只支持格式 2（文本）。");
 
 // Writing back

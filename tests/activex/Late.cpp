@@ -111,6 +111,14 @@ long Value::number() const
                : -999999;
 }
 
+double Value::real() const
+{
+    Value changed;
+    return SUCCEEDED(VariantChangeType(&changed.m_value, const_cast<VARIANT *>(&m_value), 0, VT_R8))
+               ? changed.m_value.dblVal
+               : -999999;
+}
+
 Object Value::object() const
 {
     return m_value.vt == VT_DISPATCH ? Object(m_value.pdispVal) : Object();

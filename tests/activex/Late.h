@@ -34,7 +34,7 @@ public:
     std::wstring text() const; // as automation shows it
     long number() const;
     bool isTrue() const { return m_value.vt == VT_BOOL && m_value.boolVal == VARIANT_TRUE; }
-    double real() const { return m_value.dblVal; }
+    double real() const;
     Microsoft::WRL::ComPtr<IDispatch> object() const;
     VARIANT *get() { return &m_value; }
     const VARIANT &variant() const { return m_value; }

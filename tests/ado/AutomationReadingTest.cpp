@@ -94,8 +94,10 @@ TEST_F(AutomationReading, SaysWhatItSupportsAndItsStatus)
     EXPECT_EQ(lastError(), 0);
     get("Status");
     EXPECT_EQ(lastError(), number(ADODB::adErrNoCurrentRecord));
-    call("Requery");
-    EXPECT_EQ(lastError(), number(ADODB::adErrFeatureNotAvailable));
+    for (const char *refused : {"Requery", "UpdateBatch", "CancelBatch", "NextRecordset"}) {
+        call(refused);
+        EXPECT_EQ(lastError(), number(ADODB::adErrFeatureNotAvailable)) << refused;
+    }
 
     const auto readOnly = database.open(u"SELECT * FROM t"_s, ADODB::adLockReadOnly);
     EXPECT_FALSE(ask<bool>(automation(readOnly), "Supports", Q_ARG(qint32, ADODB::adUpdate)));
@@ -159,6 +161,26 @@ TEST_F(AutomationReading, SavesTheVisitedRecordsAsXml)
     EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
     EXPECT_EQ(rows, (QStringList{u"1|Li|2001-02-03|0aff with age"_s, u"2|O'Brien||"_s}));
     EXPECT_EQ(types.join(u' '), u"int string int date bin.hex"_s);
+}
+
+TEST_F(AutomationReading, SavesTheVisitedRecordsAsCsv)
+{
+    database.execute(u"INSERT INTO t VALUES (5, 'a \"b\", c', NULL, NULL, NULL), (6, '', 1, NULL, NULL),"
+                     "(7, '两\n行', 2, NULL, NULL);"_s);
+    const auto opened = database.open(u"SELECT id, name, age AS \"a,ge\", p FROM t"_s);
+    auto *object = automation(opened);
+    object->setProperty("Filter", u"id < 3 OR id > 4"_s);
+    const QString path = database.filePath(u"saved.csv"_s);
+    object->Save(path, ADODB::adPersistProviderSpecific);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll().toStdString(), "\xEF\xBB\xBF"
+                                            "id,name,\"a,ge\",p\r\n"
+                                            "1,Li,20,0aff\r\n"
+                                            "2,O'Brien,,\r\n"
+                                            "5,\"a \"\"b\"\", c\",,\r\n"
+                                            "6,\"\",1,\r\n"
+                                            "7,\"两\n行\",2,\r\n");
 }
 
 } // namespace

@@ -7,14 +7,14 @@ namespace KOVAVSFDataGridLib::ActiveX {
 
 namespace {
 
-HRESULT advise(IConnectionPointContainer &points, REFIID iid, IUnknown *sink, DWORD *cookie)
+// Returns the connection's number; 0 if there is none.
+DWORD advise(IConnectionPointContainer &points, REFIID iid, IUnknown *sink)
 {
-    *cookie = 0;
-    if (!sink)
-        return S_OK;
     Microsoft::WRL::ComPtr<IConnectionPoint> point;
-    const HRESULT found = points.FindConnectionPoint(iid, &point);
-    return FAILED(found) ? found : point->Advise(sink, cookie);
+    DWORD cookie = 0;
+    const bool isConnected =
+        sink && SUCCEEDED(points.FindConnectionPoint(iid, &point)) && SUCCEEDED(point->Advise(sink, &cookie));
+    return isConnected ? cookie : 0;
 }
 
 } // namespace
@@ -31,12 +31,9 @@ STDMETHODIMP QuickStart::QuickActivate(QACONTAINER *container, QACONTROL *contro
     HRESULT outcome = m_control.oleObject().SetClientSite(container->pClientSite);
     if (SUCCEEDED(outcome))
         outcome = m_control.view().SetAdvise(DVASPECT_CONTENT, 0, container->pAdviseSink);
-    if (SUCCEEDED(outcome))
-        outcome = advise(m_control.connectionPoints(), IID_IPropertyNotifySink,
-                         container->pPropertyNotifySink, &control->dwPropNotifyCookie);
-    if (SUCCEEDED(outcome))
-        outcome =
-            advise(m_control.connectionPoints(), eventsId, container->pUnkEventSink, &control->dwEventCookie);
+    IConnectionPointContainer &points = m_control.connectionPoints();
+    control->dwPropNotifyCookie = advise(points, IID_IPropertyNotifySink, container->pPropertyNotifySink);
+    control->dwEventCookie = advise(points, eventsId, container->pUnkEventSink);
     control->dwMiscStatus = OleObject::miscStatus;
     control->dwViewStatus = ViewObject::viewStatus;
     control->dwPointerActivationPolicy = 0; // it has a window whenever it is active

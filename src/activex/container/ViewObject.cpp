@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <cstring>
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
@@ -36,6 +37,50 @@ QImage painted(KOVAVSFDataGrid &grid, SIZE dots)
     return picture;
 }
 
+BITMAPINFO formatOf(const QImage &picture, WORD bits)
+{
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = picture.width();
+    info.bmiHeader.biHeight = picture.height(); // bottom row first
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = bits;
+    info.bmiHeader.biCompression = BI_RGB;
+    return info;
+}
+
+bool drawDirectly(HDC context, const RECTL &bounds, const QImage &picture)
+{
+    BITMAPINFO info = formatOf(picture, 32);
+    info.bmiHeader.biHeight *= -1; // top row first
+    SetStretchBltMode(context, HALFTONE);
+    return StretchDIBits(context, bounds.left, bounds.top, bounds.right - bounds.left,
+                         bounds.bottom - bounds.top, 0, 0, picture.width(), picture.height(),
+                         picture.constBits(), &info, DIB_RGB_COLORS, SRCCOPY) > 0;
+}
+
+// Metafiles of the old kind know bitmaps of 24 bits, and Wine plays only those that come from a bitmap.
+bool drawInMetafile(HDC context, const RECTL &bounds, const QImage &picture)
+{
+    const QImage flipped = picture.convertToFormat(QImage::Format_BGR888).mirrored();
+    const BITMAPINFO info = formatOf(flipped, 24);
+    void *bits = nullptr;
+    const HDC memory = CreateCompatibleDC(nullptr);
+    const HBITMAP bitmap = CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    bool isDrawn = false;
+    if (bitmap) {
+        std::memcpy(bits, flipped.constBits(), static_cast<std::size_t>(flipped.sizeInBytes()));
+        const HGDIOBJ before = SelectObject(memory, bitmap);
+        isDrawn =
+            StretchBlt(context, bounds.left, bounds.top, bounds.right - bounds.left,
+                       bounds.bottom - bounds.top, memory, 0, 0, flipped.width(), flipped.height(), SRCCOPY);
+        SelectObject(memory, before);
+        DeleteObject(bitmap);
+    }
+    DeleteDC(memory);
+    return isDrawn;
+}
+
 } // namespace
 
 ViewObject::ViewObject(GridControl &control) : Part(control.identity()), m_control(control) {}
@@ -53,18 +98,9 @@ STDMETHODIMP ViewObject::Draw(DWORD aspect, LONG, void *, DVTARGETDEVICE *, HDC,
 HRESULT ViewObject::draw(HDC context, const RECTL &bounds, SIZE dots)
 {
     const QImage picture = painted(m_control.grid(), dots);
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = picture.width();
-    info.bmiHeader.biHeight = -picture.height(); // top row first
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-    SetStretchBltMode(context, HALFTONE);
-    const int lines = StretchDIBits(context, bounds.left, bounds.top, bounds.right - bounds.left,
-                                    bounds.bottom - bounds.top, 0, 0, picture.width(), picture.height(),
-                                    picture.constBits(), &info, DIB_RGB_COLORS, SRCCOPY);
-    return lines > 0 || picture.isNull() ? S_OK : E_FAIL;
+    const bool isDrawn = GetObjectType(context) == OBJ_METADC ? drawInMetafile(context, bounds, picture)
+                                                              : drawDirectly(context, bounds, picture);
+    return isDrawn || picture.isNull() ? S_OK : E_FAIL;
 }
 
 STDMETHODIMP ViewObject::GetColorSet(DWORD, LONG, void *, DVTARGETDEVICE *, HDC, LOGPALETTE **colours)

@@ -8,20 +8,27 @@
 #include <QtWidgets/QApplication>
 
 #include <atomic>
+#include <mutex>
 #include <objbase.h>
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
 namespace {
 
-constexpr UINT leave = WM_APP;
 constexpr UINT secondsToLeave = 5;
 
 bool endApplication();
 
+// Unlike a number of one's own, it means nothing to a window that has got the handle of one that is gone.
+UINT leaveMessage()
+{
+    static const UINT number = RegisterWindowMessageW(L"KovaQtHome.Leave");
+    return number;
+}
+
 LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM wide, LPARAM data)
 {
-    return message == leave ? endApplication() : DefWindowProcW(window, message, wide, data);
+    return message == leaveMessage() ? endApplication() : DefWindowProcW(window, message, wide, data);
 }
 
 // A window of this thread, which other threads can send a message to.
@@ -72,17 +79,20 @@ private:
 
 std::atomic<HWND> messageWindow = nullptr; // null while there is no application
 Spy *spy = nullptr;                        // of the application's thread, which alone uses it
+std::mutex ending;
 
 // On the application's thread. Returns whether it has ended.
 bool endApplication()
 {
+    const std::scoped_lock lock(ending);
     if (!messageWindow || QtUse::count() > 0 || QThread::currentThread()->loopLevel() > 0)
         return false;
     DestroyWindow(messageWindow.exchange(nullptr));
     spy->revoke();
     spy->Release();
     forgetQuitMessages();
-    // A widget that was deleted in its own event is left; the application destroys it.
+    // A widget that the host has released in the widget's own event is left.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     delete QCoreApplication::instance();
     return true;
 }
@@ -102,12 +112,18 @@ void QtHome::settle(void (*make)())
 
 bool QtHome::claim()
 {
-    const QCoreApplication *application = QCoreApplication::instance();
-    if (!application || application->thread() == QThread::currentThread())
-        return true;
+    HWND window = nullptr;
+    {
+        const std::scoped_lock lock(ending);
+        const QCoreApplication *application = QCoreApplication::instance();
+        if (!application || application->thread() == QThread::currentThread())
+            return true;
+        window = messageWindow;
+    }
+    // The host may have made the application itself; then there is no window.
     DWORD_PTR hasLeft = FALSE;
-    return messageWindow && QtUse::count() == 0 &&
-           SendMessageTimeoutW(messageWindow, leave, 0, 0, SMTO_ABORTIFHUNG, secondsToLeave * 1000,
+    return window && QtUse::count() == 0 &&
+           SendMessageTimeoutW(window, leaveMessage(), 0, 0, SMTO_ABORTIFHUNG, secondsToLeave * 1000,
                                &hasLeft) &&
            hasLeft;
 }

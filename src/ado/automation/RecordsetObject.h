@@ -112,10 +112,16 @@ public:
     Q_INVOKABLE qint32 CompareBookmarks(const QVariant &first, const QVariant &second);
     // Whether all of these CursorOptionEnum bits are possible.
     Q_INVOKABLE bool Supports(qint32 cursorOptions);
-    // Writes the visited records to a new file, as XML.
+    // Writes the visited records to a new file, as XML or, with adPersistProviderSpecific, as CSV: in UTF-8,
+    // with the names of the fields, and binary values in hexadecimal.
     Q_INVOKABLE void Save(const QString &fileName, qint32 persistFormat = adPersistXML);
     // Not possible, because the grid shows the records: 3251.
     Q_INVOKABLE void Requery(qint32 options = -1);
+    // Not possible, because each record is saved for itself: 3251.
+    Q_INVOKABLE void UpdateBatch(qint32 affectRecords = 3);
+    Q_INVOKABLE void CancelBatch(qint32 affectRecords = 3);
+    // Not possible, because a statement has one result: 3251.
+    Q_INVOKABLE QObject *NextRecordset();
 
     // Accessors of the properties.
     bool isBOF();

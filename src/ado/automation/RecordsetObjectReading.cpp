@@ -4,6 +4,7 @@
 #include "ado/automation/FieldsObject.h"
 #include "ado/automation/Guarded.h"
 #include "ado/automation/RecordWalk.h"
+#include "ado/automation/RecordsetCsv.h"
 #include "ado/automation/RecordsetObject.h"
 #include "ado/automation/RecordsetXml.h"
 
@@ -133,8 +134,8 @@ bool RecordsetObject::Supports(qint32 cursorOptions)
 void RecordsetObject::Save(const QString &fileName, qint32 persistFormat)
 {
     guarded(this, [&] {
-        if (persistFormat != adPersistXML)
-            throw Error(adErrFeatureNotAvailable, Texts::onlyXml());
+        if (persistFormat != adPersistXML && persistFormat != adPersistProviderSpecific)
+            throw Error(adErrFeatureNotAvailable, Texts::onlyXmlOrCsv());
         if (QFile::exists(fileName))
             throw Error(adErrWriteFile, Texts::fileExists().arg(fileName));
         QSaveFile file(fileName);
@@ -143,15 +144,36 @@ void RecordsetObject::Save(const QString &fileName, qint32 persistFormat)
                 throw Error(adErrWriteFile, Texts::fileNotWritten().arg(fileName, file.errorString()));
         };
         need(file.open(QIODevice::WriteOnly));
-        RecordsetXml xml(file, m_recordset);
-        m_walk->readAll([&](qint64 record) { xml.write(record); });
-        need(xml.end() && file.commit());
+        const auto write = [&](auto &&writer) {
+            m_walk->readAll([&](qint64 record) { writer.write(record); });
+            need(writer.end() && file.commit());
+        };
+        if (persistFormat == adPersistXML)
+            write(RecordsetXml(file, m_recordset));
+        else
+            write(RecordsetCsv(file, m_recordset));
     });
 }
 
 void RecordsetObject::Requery(qint32)
 {
     guarded(this, [] { throw Error(adErrFeatureNotAvailable, Texts::noRequery()); });
+}
+
+void RecordsetObject::UpdateBatch(qint32)
+{
+    guarded(this, [] { throw Error(adErrFeatureNotAvailable, Texts::noBatch()); });
+}
+
+void RecordsetObject::CancelBatch(qint32)
+{
+    guarded(this, [] { throw Error(adErrFeatureNotAvailable, Texts::noBatch()); });
+}
+
+QObject *RecordsetObject::NextRecordset()
+{
+    guarded(this, [] { throw Error(adErrFeatureNotAvailable, Texts::oneResult()); });
+    return nullptr;
 }
 
 } // namespace ADODB
