@@ -1,5 +1,6 @@
 #include "HostTexts.h"
 #include "database/SampleDatabase.h"
+#include "start/BoxStyle.h"
 #include "start/Options.h"
 #include "start/Unattended.h"
 #include "tab/QueryPage.h"
@@ -171,6 +172,7 @@ int run(int argc, char **argv)
         return badUsage(error);
     if (options->isDark)
         useDarkColours();
+    BoxStyle::use();
     if (options->connection.isEmpty())
         useSampleDatabase(*options);
 

@@ -1,6 +1,7 @@
 // The window of kovagrid, used with mouse and keys.
 #include "window/HostWindow.h"
 
+#include "start/BoxStyle.h"
 #include "tab/QueryPage.h"
 #include "tab/RecentConnections.h"
 #include "tab/StatementEdit.h"
@@ -23,6 +24,7 @@
 #include <QtGui/QScreen>
 #include <QtTest/QTest>
 #include <QtWidgets/QDockWidget>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QTabWidget>
@@ -31,6 +33,8 @@
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeWidget>
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
@@ -384,4 +388,25 @@ TEST_F(HostWindowTest, F1ShowsTheShortcuts)
     EXPECT_TRUE(text.contains(u"Ctrl+Enter"_s)) << qPrintable(text);
     EXPECT_TRUE(text.contains(u"Ctrl+Shift+C"_s)) << "those of the grid";
     QTest::keyClick(help, Qt::Key_Escape);
+}
+
+TEST(BoxStyle, ABoxInAMenuIsSeenWithoutATick)
+{
+    const auto luminance = [](const QColor &grey) { return std::pow(grey.greenF(), 2.2) + 0.05; };
+    for (const QColor &window : {QColor(50, 50, 50), QColor(239, 239, 239)}) {
+        BoxStyle style(u"Fusion"_s);
+        QMenu menu;
+        menu.setStyle(&style);
+        menu.setPalette(QPalette(window));
+        menu.addAction(u"x"_s)->setCheckable(true);
+        const QImage picture = menu.grab().toImage();
+        const QRect entry = menu.actionGeometry(menu.actions().front());
+        const double paper = luminance(picture.pixelColor(entry.right() - 3, entry.center().y()));
+        double contrast = 1;
+        for (int x = entry.left(); x < entry.left() + entry.height(); ++x) {
+            const double ink = luminance(picture.pixelColor(x, entry.center().y()));
+            contrast = std::max({contrast, ink / paper, paper / ink});
+        }
+        EXPECT_GE(contrast, 3) << qPrintable(window.name());
+    }
 }

@@ -105,6 +105,9 @@ TEST(ExportFile, LeavesAGoodFileAloneWhenItIsCancelledOrFails)
 // Nothing keeps the disk full with a file that nobody sees any more.
 TEST(ExportFile, GivesBackThePlaceOfTheFileThatItReplaces)
 {
+    const QDir handles(u"/proc/self/fd"_s);
+    if (!handles.exists())
+        GTEST_SKIP() << "this system doesn't say which files a process keeps";
     ExportRecords records;
     records.open(QLatin1StringView(series));
     const QString file = records.path(u"a.csv"_s);
@@ -116,7 +119,7 @@ TEST(ExportFile, GivesBackThePlaceOfTheFileThatItReplaces)
     old.close();
     EXPECT_TRUE(contentOf(file).contains("1000"));
     QThreadPool::globalInstance()->waitForDone();
-    for (const QFileInfo &open : QDir(u"/proc/self/fd"_s).entryInfoList(QDir::System | QDir::Files))
+    for (const QFileInfo &open : handles.entryInfoList(QDir::System | QDir::Files))
         EXPECT_FALSE(open.symLinkTarget().startsWith(records.folder.path()))
             << qPrintable(open.symLinkTarget());
 }

@@ -164,7 +164,7 @@ private:
         chooseInColumnMenu(8, u"SortDescending"_s);
         chooseInColumnMenu(1, u"AddToSort"_s);
         trigger(u"PopMnuDataAction27"_s);
-        part<QLineEdit>(m_grid, u"txtFindShown"_s).setText(u"茶"_s);
+        part<QLineEdit>(m_grid, u"txtFindShown"_s).setText(u"百货"_s);
         QTest::qWait(100);
         QTest::mouseMove(table().horizontalHeader()->viewport(),
                          QPoint(table().horizontalHeader()->sectionViewportPosition(8) + 20, 8));

@@ -46,3 +46,5 @@ T &part(const QWidget &window, const QString &name)
 
 // Pictures of the control in use with a database: its bars, menus, and the windows that it opens.
 void takeGrid(Photographer &photographer, const QString &connectionString);
+// The host program with several tabs and a value in its pane. `database` is a file.
+void takeHost(Photographer &photographer, const QString &database);

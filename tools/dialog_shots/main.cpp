@@ -134,9 +134,11 @@ void takePrint(Photographer &photographer)
     choices.records = 60;
     choices.markedRecords = 1;
     int field = 0;
-    for (const QString &heading :
-         {u"订单编号"_s, u"下单日期"_s, u"客户名称"_s, u"产品名称"_s, u"数量"_s, u"金额"_s})
-        choices.columns.push_back({field++, heading, ADODB::adVarWChar, 0, field == 3 ? 180 : 90});
+    for (const auto &[heading, type] :
+         {std::pair{u"订单编号"_s, ADODB::adInteger}, std::pair{u"下单日期"_s, ADODB::adDBDate},
+          std::pair{u"客户名称"_s, ADODB::adVarWChar}, std::pair{u"产品名称"_s, ADODB::adVarWChar},
+          std::pair{u"数量"_s, ADODB::adInteger}, std::pair{u"金额"_s, ADODB::adDouble}})
+        choices.columns.push_back({field++, heading, type, 0, field == 3 ? 180 : 90});
     choices.write = [&](RecordWriter &writer, bool, const std::function<bool()> &) {
         writer.begin(choices.columns);
         for (qint64 record = 0; record < choices.records; ++record) {
@@ -283,7 +285,9 @@ int main(int argc, char **argv)
     const QTemporaryDir folder;
     const QString connectionString = makeDatabase(folder.path());
     takeFilter(photographer, connectionString);
-    if (options.contains(u"grid"_s))
+    if (options.contains(u"grid"_s)) {
         takeGrid(photographer, connectionString);
+        takeHost(photographer, QDir(folder.path()).filePath(u"shop.db"_s));
+    }
     return photographer.isDone() ? 0 : 1;
 }
