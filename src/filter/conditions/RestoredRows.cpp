@@ -100,10 +100,11 @@ std::optional<FilterState> rowsOfTicks(const FilterField &field, const TickedVal
             return std::nullopt;
         choice.includesNull = ticked.areLeftOut && ticked.hasNull == true;
     }
+    // Where it has no meaning yet, Null is included as in a new row, for when the user changes the operator.
     return FilterState{{.field = field.caption,
                         .op = choice.op,
                         .value = choice.value,
-                        .includesNull = choice.includesNull}};
+                        .includesNull = choice.includesNull || !choice.asksForNull()}};
 }
 
 // Whether AND, joined to the rows, would reach only some of them.

@@ -266,6 +266,20 @@ TEST_F(FilterKeeps, WhatIsNotTouchedStaysTheHeadings)
     EXPECT_EQ(conditions(), QStringList(u"ID < 99"_s)) << "and not one more";
 }
 
+TEST_F(FilterKeeps, WhatAHeadingMakesLaterIsTheHeadings)
+{
+    ASSERT_TRUE(load());
+    filterWith([](QDialog &dialog) {
+        fill(dialog, 1, u"城市"_s, u"等于"_s, u"大连"_s);
+        ok(dialog);
+    });
+    click(u"ToOrigin"_s);
+    tickAlone(u"城市"_s, {u"大连"_s});
+    filterWith(ok);
+    tickAlone(u"城市"_s, {u"杭州"_s});
+    EXPECT_EQ(conditions(), QStringList(u"城市 = “杭州”"_s));
+}
+
 TEST_F(FilterKeeps, AColumnWhoseNameEndsAnothersKeepsItsOwnCondition)
 {
     database.run(u"CREATE TABLE 库存 (ID INTEGER PRIMARY KEY, 数量 INTEGER, 库存数量 INTEGER);"
