@@ -1,5 +1,5 @@
 // Conditions in force as rows of the builder: the rows select the same records on a real database.
-#include "filter/conditions/RestoredRows.h"
+#include "filter/restored/RestoredRows.h"
 
 #include "filter/conditions/BuiltFilter.h"
 #include "filter/conditions/FilterSentence.h"

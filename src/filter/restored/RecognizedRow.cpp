@@ -1,4 +1,4 @@
-#include "filter/conditions/RecognizedRow.h"
+#include "filter/restored/RecognizedRow.h"
 
 #include "filter/conditions/FilterValue.h"
 #include "query/conditions/ConditionTokens.h"

@@ -1,8 +1,8 @@
-#include "filter/conditions/RestoredRows.h"
+#include "filter/restored/RestoredRows.h"
 
 #include "filter/conditions/BuiltFilter.h"
 #include "filter/conditions/FilterSentence.h"
-#include "filter/conditions/RecognizedRow.h"
+#include "filter/restored/RecognizedRow.h"
 #include "filter/tree/FilterTree.h"
 #include "query/conditions/ConditionParts.h"
 
