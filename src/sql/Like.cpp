@@ -2,6 +2,8 @@
 
 #include "sql/Literals.h"
 
+#include <algorithm>
+
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
@@ -37,6 +39,17 @@ QString likePattern(Engine engine, QString text)
 {
     const bool isEscape = engine == Engine::PostgreSQL || engine == Engine::MySQL;
     return isEscape ? text.replace(u'\\', "\\\\"_L1) : text;
+}
+
+// SQLite doesn't distinguish a from A. An engine that ignores blanks at the end in comparisons doesn't in
+// LIKE.
+bool likesOnlyEqualTexts(Engine engine, const QString &pattern)
+{
+    const auto isPlain = [engine](QChar c) {
+        const bool isLetter = (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+        return c != u'%' && c != u'_' && c != u'\\' && !(isLetter && engine == Engine::SQLite);
+    };
+    return !pattern.isEmpty() && !pattern.endsWith(u' ') && std::ranges::all_of(pattern, isPlain);
 }
 
 QString like(const Dialect &dialect, const QString &field, const QString &text, Anchor anchor)

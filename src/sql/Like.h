@@ -24,6 +24,9 @@ QString likeOperandOfDouble(Engine engine, const QString &field);
 // A pattern for LIKE without ESCAPE: "%" and "_" in the text are wildcards, a backslash is literal.
 QString likePattern(Engine engine, QString text);
 
+// Whether a text that is LIKE this pattern is equal to it.
+bool likesOnlyEqualTexts(Engine engine, const QString &pattern);
+
 // `field` LIKE the literal text, with anything before or after it.
 enum class Anchor { Begin, End, None };
 QString like(const Dialect &dialect, const QString &field, const QString &text, Anchor anchor);

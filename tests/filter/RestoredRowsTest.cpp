@@ -1,5 +1,5 @@
 // Conditions in force as rows of the builder: the rows select the same records on a real database.
-#include "filter/conditions/RestoredRows.h"
+#include "filter/restored/RestoredRows.h"
 
 #include "filter/conditions/BuiltFilter.h"
 #include "filter/conditions/FilterSentence.h"
@@ -70,6 +70,7 @@ TEST(RestoredRows, SelectWhatTheTicksSelect)
                         continue;
                     ASSERT_EQ(rows->size(), 1);
                     const auto terms = termsOf(*rows, fields);
+                    EXPECT_TRUE(terms.front().choice.asksForNull() || rows->front().includesNull);
                     EXPECT_EQ(selected(conditionOf(sqlite, terms.front().choice).sql),
                               selected(conditionOf(sqlite, fields[at], ticked).sql))
                         << textOf(toJson(ticked)).toStdString();

@@ -110,6 +110,15 @@ std::vector<ConditionInForce> conditionsInForce(Session &session)
     std::vector<std::size_t> left(shown.size());
     std::iota(left.begin(), left.end(), std::size_t{0});
     std::map<std::size_t, ConditionInForce> byPlace; // by the place of the first part
+    // What was chosen by values is that still, because what is built afterwards is removed from it.
+    std::erase_if(left, [&](std::size_t place) {
+        const auto chosen =
+            std::ranges::find(session.shown().chosenValues, shown[place].text, &ChosenValues::condition);
+        if (chosen == session.shown().chosenValues.end())
+            return false;
+        byPlace.emplace(place, ConditionInForce{shown[place].text, chosen->built, chosen->field});
+        return true;
+    });
     const Dialect dialect = dialectOf(session.filterManager().DBType(), session.result().engine());
     for (const BuiltCondition &built : session.shown().builtConditions | std::views::reverse) {
         const auto taken = left.empty()
@@ -118,15 +127,8 @@ std::vector<ConditionInForce> conditionsInForce(Session &session)
         if (taken && !taken->empty())
             byPlace.emplace(std::ranges::min(*taken), ConditionInForce{built.condition, built.built});
     }
-    for (const std::size_t place : left) {
-        const auto chosen =
-            std::ranges::find_if(session.shown().chosenValues, [&](const ChosenValues &values) {
-                return values.condition == shown[place].text;
-            });
-        byPlace.emplace(place, chosen == session.shown().chosenValues.end()
-                                   ? ConditionInForce{shown[place].text}
-                                   : ConditionInForce{shown[place].text, chosen->built, chosen->field});
-    }
+    for (const std::size_t place : left)
+        byPlace.emplace(place, ConditionInForce{shown[place].text});
     std::vector<ConditionInForce> ordered;
     for (const auto &[place, condition] : byPlace)
         ordered.push_back(condition);

@@ -1,145 +1,16 @@
 // The conditions in force when the filter dialog opens: none is lost unless the user drops it.
-#include "ColumnValuesFixture.h"
-
-#include <QtWidgets/QComboBox>
+#include "FilterInForceFixture.h"
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class FilterKeeps : public ColumnValues
+class FilterKeeps : public FilterInForce
 {
-protected:
-    static void fill(QDialog &dialog, int row, const QString &field, const QString &op, const QString &value)
-    {
-        const QByteArray number = QByteArray::number(row);
-        if (!dialog.findChild<QComboBox *>(u"cmbField"_s + QString::number(row)))
-            press(dialog, "cmdAddRow");
-        part<QComboBox>(dialog, ("cmbField" + number).constData()).setCurrentText(field);
-        part<QComboBox>(dialog, ("cmbOperator" + number).constData()).setCurrentText(op);
-        auto &edit = part<QLineEdit>(dialog, ("txtValue" + number).constData());
-        edit.clear();
-        compose(edit, value);
-    }
-    static QString row(QDialog &dialog, int number)
-    {
-        const QByteArray text = QByteArray::number(number);
-        const auto *field = dialog.findChild<QComboBox *>(u"cmbField"_s + QString::number(number));
-        if (!field)
-            return {};
-        return field->currentText() + u' ' +
-               part<QComboBox>(dialog, ("cmbOperator" + text).constData()).currentText() + u' ' +
-               part<QLineEdit>(dialog, ("txtValue" + text).constData()).text();
-    }
-    static QStringList keptLines(const QDialog &dialog)
-    {
-        QStringList lines;
-        for (int number = 1;; ++number) {
-            const auto *line = dialog.findChild<QCheckBox *>(u"chkKept%1"_s.arg(number));
-            if (!line)
-                return lines;
-            lines.append((line->isChecked() ? u"x "_s : u"  "_s) + line->text());
-        }
-    }
-    static QString sentence(const QDialog &dialog) { return part<QLabel>(dialog, "lblSentence").text(); }
-    static QString counted(const QDialog &dialog)
-    {
-        const auto &label = part<QLabel>(dialog, "lblCount");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return label.text().startsWith(u"约 "_s); }))
-            << label.text().toStdString();
-        return label.text();
-    }
-    static void ok(QDialog &dialog)
-    {
-        press(dialog, "cmd_Filter");
-        EXPECT_FALSE(dialog.isVisible()) << part<QLabel>(dialog, "lblNotice").text().toStdString();
-    }
-    void filterWith(const std::function<void(QDialog &)> &use)
-    {
-        WindowAnswers dialogs({use});
-        click(u"Filter"_s);
-    }
-    void findWords(const QString &words, const QString &field = {})
-    {
-        WindowAnswers dialogs({[&](QDialog &dialog) { find(dialog, words, field); }});
-        click(u"QuickFilter"_s);
-    }
-    void tickAlone(const QString &column, const QStringList &values)
-    {
-        WindowAnswers dialogs({[&](QDialog &dialog) {
-            tickAll(dialog, false);
-            for (const QString &value : values)
-                tick(dialog, value);
-            press(dialog, "cmdOK");
-        }});
-        open(column);
-    }
-    QStringList ids() const { return texts(u"ID"_s); }
 };
 
 } // namespace
-
-TEST_F(FilterKeeps, TickedValuesAreARowAgain)
-{
-    ASSERT_TRUE(load());
-    tickAlone(u"城市"_s, {u"大连"_s, u"杭州"_s});
-    ASSERT_EQ(ids(), QStringList({u"1"_s, u"5"_s, u"8"_s, u"11"_s}));
-    const QString shown = statement();
-    filterWith([](QDialog &dialog) {
-        EXPECT_EQ(row(dialog, 1), u"城市 在列表中 大连, 杭州"_s);
-        EXPECT_EQ(keptLines(dialog), QStringList());
-        EXPECT_EQ(counted(dialog), u"约 4 条"_s);
-        ok(dialog);
-    });
-    EXPECT_EQ(statement(), shown);
-    filterWith([](QDialog &dialog) {
-        fill(dialog, 2, u"ID"_s, u"小于"_s, u"8"_s);
-        ok(dialog);
-    });
-    EXPECT_EQ(ids(), QStringList({u"1"_s, u"5"_s}));
-    EXPECT_EQ(conditions().size(), 2);
-}
-
-TEST_F(FilterKeeps, AHeadingsPartStaysWhenTheBuildersRowIsChanged)
-{
-    ASSERT_TRUE(load());
-    filterWith([](QDialog &dialog) {
-        fill(dialog, 1, u"ID"_s, u"小于"_s, u"9"_s);
-        ok(dialog);
-    });
-    tickAlone(u"城市"_s, {u"大连"_s});
-    ASSERT_EQ(ids(), QStringList({u"5"_s, u"8"_s}));
-    filterWith([](QDialog &dialog) {
-        EXPECT_EQ(row(dialog, 1), u"ID 小于 9"_s);
-        EXPECT_EQ(row(dialog, 2), u"城市 等于 大连"_s);
-        fill(dialog, 1, u"ID"_s, u"小于"_s, u"6"_s);
-        ok(dialog);
-    });
-    EXPECT_EQ(ids(), QStringList(u"5"_s));
-    EXPECT_EQ(conditions(), QStringList({u"ID < 6"_s, u"城市 = “大连”"_s}));
-    click(u"ToPreview"_s);
-    EXPECT_EQ(rows(), records) << "the dialog filters from the origin, whose entry comes before";
-}
-
-TEST_F(FilterKeeps, AlternativesOfTheBuilderStayTogether)
-{
-    ASSERT_TRUE(load());
-    filterWith([](QDialog &dialog) {
-        fill(dialog, 1, u"ID"_s, u"小于"_s, u"3"_s);
-        fill(dialog, 2, u"ID"_s, u"大于"_s, u"10"_s);
-        part<QComboBox>(dialog, "cmbJoin1").setCurrentIndex(1);
-        ok(dialog);
-    });
-    tickAlone(u"城市"_s, {u"杭州"_s});
-    ASSERT_EQ(ids(), QStringList({u"1"_s, u"11"_s}));
-    filterWith([](QDialog &dialog) {
-        EXPECT_EQ(row(dialog, 3), u"城市 等于 杭州"_s);
-        EXPECT_EQ(sentence(dialog), u"（【ID】小于 3，或者【ID】大于 10），并且【城市】等于“杭州”。"_s);
-        ok(dialog);
-    });
-    EXPECT_EQ(ids(), QStringList({u"1"_s, u"11"_s}));
-}
 
 TEST_F(FilterKeeps, WhatHasNoRowIsALineThatIsKept)
 {
@@ -169,101 +40,6 @@ TEST_F(FilterKeeps, WhatHasNoRowIsALineThatIsKept)
     EXPECT_EQ(ids(), QStringList({u"3"_s, u"12"_s}));
     EXPECT_EQ(conditions(), QStringList(u"城市 = “厦门”"_s));
     EXPECT_EQ(grid.SQLFilter(), u"SELECT * FROM 商品  WHERE 城市 = '厦门' "_s);
-}
-
-TEST_F(FilterKeeps, ACellsConditionIsARowAndStaysAsItIsUntilTheRowIsChanged)
-{
-    ASSERT_TRUE(load());
-    table->setCurrentIndex(table->model()->index(4, grid.GetBindFieldIndex(u"城市"_s) - 1));
-    choose(14, 5, grid.GetBindFieldIndex(u"城市"_s));
-    ASSERT_EQ(ids(), QStringList({u"5"_s, u"8"_s}));
-    const QString made = grid.SQLFilter();
-    ASSERT_TRUE(made.contains(u"城市 like '大连'"_s)) << made.toStdString();
-    filterWith([](QDialog &dialog) {
-        EXPECT_EQ(keptLines(dialog), QStringList());
-        EXPECT_EQ(row(dialog, 1), u"城市 等于 大连"_s);
-        EXPECT_EQ(sentence(dialog), u"【城市】等于“大连”。"_s);
-        ok(dialog);
-    });
-    EXPECT_EQ(grid.SQLFilter(), made);
-    filterWith([](QDialog &dialog) {
-        fill(dialog, 1, u"城市"_s, u"等于"_s, u"杭州"_s);
-        EXPECT_EQ(part<QLineEdit>(dialog, "txtCondition").text(), u"城市 = '杭州'"_s);
-        fill(dialog, 1, u"城市"_s, u"等于"_s, u"大连"_s);
-        fill(dialog, 2, u"ID"_s, u"小于"_s, u"8"_s);
-        ok(dialog);
-    });
-    EXPECT_EQ(ids(), QStringList(u"5"_s));
-    EXPECT_TRUE(grid.SQLFilter().contains(u"城市 like '大连' AND ID < 8"_s))
-        << grid.SQLFilter().toStdString();
-    filterWith([](QDialog &dialog) {
-        EXPECT_EQ(row(dialog, 1), u"城市 等于 大连"_s);
-        EXPECT_EQ(row(dialog, 2), u"ID 小于 8"_s);
-        fill(dialog, 1, u"城市"_s, u"等于"_s, u"杭州"_s);
-        ok(dialog);
-    });
-    EXPECT_EQ(ids(), QStringList(u"1"_s));
-    EXPECT_TRUE(grid.SQLFilter().contains(u"城市 = '杭州' AND ID < 8"_s)) << grid.SQLFilter().toStdString();
-}
-
-TEST_F(FilterKeeps, WhatTheHostAndOneFieldsWordsAskForAreRows)
-{
-    ASSERT_TRUE(load());
-    const auto hosts =
-        QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid, [&](qint32 &cancel, const QString &) {
-            grid.PutPassQurryFilter(u"ID > 2 and 城市 in ('大连', '厦门')"_s);
-            cancel = 0;
-        });
-    click(u"Filter"_s);
-    QObject::disconnect(hosts);
-    findWords(u"茶"_s, u"名称"_s);
-    ASSERT_EQ(conditions().size(), 3);
-    const QStringList found = ids();
-    const QString made = grid.SQLFilter();
-    filterWith([](QDialog &dialog) {
-        EXPECT_EQ(row(dialog, 1), u"ID 大于 2"_s);
-        EXPECT_EQ(row(dialog, 2), u"城市 在列表中 大连, 厦门"_s);
-        EXPECT_EQ(row(dialog, 3), u"名称 包含 茶"_s);
-        EXPECT_EQ(keptLines(dialog), QStringList());
-        ok(dialog);
-    });
-    EXPECT_EQ(ids(), found);
-    filterWith([](QDialog &dialog) {
-        part<QComboBox>(dialog, "cmbJoin2").setCurrentIndex(1);
-        part<QComboBox>(dialog, "cmbJoin1").setCurrentIndex(1);
-        ok(dialog);
-    });
-    EXPECT_EQ(database.ask(u"SELECT count(*) FROM 商品 WHERE ID > 2 OR 城市 IN ('大连', '厦门') OR 名称 LIKE "
-                           "'%茶%'"_s),
-              QString::number(rows()));
-}
-
-TEST_F(FilterKeeps, WhatIsNotTouchedStaysTheHeadings)
-{
-    ASSERT_TRUE(load());
-    const auto tickNull = [this] {
-        WindowAnswers dialogs({[](QDialog &dialog) {
-            waitFor(dialog, u"x 大连"_s);
-            tick(dialog, u"（空值）"_s);
-            press(dialog, "cmdOK");
-        }});
-        open(u"城市"_s);
-    };
-    tickNull();
-    const QStringList before = conditions();
-    ASSERT_EQ(before.size(), 1);
-    filterWith([](QDialog &dialog) {
-        EXPECT_EQ(keptLines(dialog), QStringList());
-        ok(dialog);
-    });
-    EXPECT_EQ(conditions(), before);
-    filterWith([](QDialog &dialog) {
-        fill(dialog, 2, u"ID"_s, u"小于"_s, u"99"_s);
-        ok(dialog);
-    });
-    ASSERT_EQ(conditions().size(), 2);
-    tickNull();
-    EXPECT_EQ(conditions(), QStringList(u"ID < 99"_s)) << "and not one more";
 }
 
 TEST_F(FilterKeeps, AColumnWhoseNameEndsAnothersKeepsItsOwnCondition)
@@ -361,24 +137,6 @@ TEST_F(FilterKeeps, ATypedConditionIsJoinedToWhatIsKept)
         EXPECT_EQ(counted(dialog), u"约 2 条"_s);
         cancel(dialog);
     });
-}
-
-TEST_F(FilterKeeps, APartThatIsLeftOfSeveralRowsIsARowAgain)
-{
-    ASSERT_TRUE(load());
-    filterWith([](QDialog &dialog) {
-        fill(dialog, 1, u"ID"_s, u"小于"_s, u"9"_s);
-        fill(dialog, 2, u"城市"_s, u"等于"_s, u"大连"_s);
-        ok(dialog);
-    });
-    QTest::mouseClick(grid.findChild<QToolButton *>(u"Condition1"_s), Qt::LeftButton);
-    ASSERT_EQ(conditions(), QStringList(u"城市 = “大连”"_s));
-    filterWith([](QDialog &dialog) {
-        EXPECT_EQ(row(dialog, 1), u"城市 等于 大连"_s);
-        fill(dialog, 2, u"ID"_s, u"大于"_s, u"5"_s);
-        ok(dialog);
-    });
-    EXPECT_EQ(ids(), QStringList(u"8"_s));
 }
 
 TEST_F(FilterKeeps, RowsThatCompareOtherRecordsThanTheyDidAreALine)

@@ -1,4 +1,4 @@
-#include "filter/conditions/RecognizedRow.h"
+#include "filter/restored/RecognizedRow.h"
 
 #include "filter/conditions/FilterValue.h"
 #include "query/conditions/ConditionTokens.h"
@@ -174,16 +174,11 @@ std::optional<FilterChoice> writtenChoice(const SqlScanner &sql, TextRange condi
     return std::nullopt;
 }
 
-// Whether the field is equal to a text exactly where it is LIKE it. SQLite doesn't distinguish a from A then,
-// and compares numbers among the values of an untyped field with texts.
+// Whether the field is equal to a text exactly where it is LIKE it: an untyped one has numbers as well.
 bool isLikeEqual(const FilterField &field, const QString &text, Engine engine)
 {
-    const auto isPlain = [&](QChar c) {
-        const bool isLetter = (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
-        return c != u'%' && c != u'_' && c != u'\\' && !(isLetter && engine == Engine::SQLite);
-    };
-    const bool hasTypedValues = engine != Engine::SQLite || (!field.isUntyped && !field.isComputed);
-    return hasTypedValues && !text.isEmpty() && !text.endsWith(u' ') && std::ranges::all_of(text, isPlain);
+    const bool hasTypedValues = !hasUntypedFields(engine) || (!field.isUntyped && !field.isComputed);
+    return hasTypedValues && likesOnlyEqualTexts(engine, text);
 }
 
 // A number as the condition of a cell compares it: 3.0 is 3, and a cast makes it as precise as the field.

@@ -1,8 +1,8 @@
-#include "filter/conditions/RestoredRows.h"
+#include "filter/restored/RestoredRows.h"
 
 #include "filter/conditions/BuiltFilter.h"
 #include "filter/conditions/FilterSentence.h"
-#include "filter/conditions/RecognizedRow.h"
+#include "filter/restored/RecognizedRow.h"
 #include "filter/tree/FilterTree.h"
 #include "query/conditions/ConditionParts.h"
 
@@ -100,10 +100,11 @@ std::optional<FilterState> rowsOfTicks(const FilterField &field, const TickedVal
             return std::nullopt;
         choice.includesNull = ticked.areLeftOut && ticked.hasNull == true;
     }
+    // Where it has no meaning yet, Null is included as in a new row, for when the user changes the operator.
     return FilterState{{.field = field.caption,
                         .op = choice.op,
                         .value = choice.value,
-                        .includesNull = choice.includesNull}};
+                        .includesNull = choice.includesNull || !choice.asksForNull()}};
 }
 
 // Whether AND, joined to the rows, would reach only some of them.
