@@ -68,6 +68,9 @@ function(kova_precompile target kind)
     set_target_properties(${carrier} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
     target_link_libraries(${carrier} PRIVATE ${libraries})
     target_precompile_headers(${carrier} PRIVATE ${kova_headers_${kind}})
+    if(kind STREQUAL tests)
+      kova_quick_compile(${carrier}) # with the same options as what uses it
+    endif()
   endif()
   target_precompile_headers(${target} REUSE_FROM ${carrier})
 endfunction()
@@ -142,18 +145,33 @@ function(kova_program name)
   target_link_libraries(${name} PRIVATE ${rooms} ${PROGRAM_LINKS})
 endfunction()
 
-# kova_test(<name> SOURCES <files> ROOMS <rooms> LINKS <libraries> [RUN_BY <command>] [COST <seconds>] [MOC])
+# kova_quick_compile(<target> [<files>]): compiles the sources of tests quickly; there are as many as of the library.
+# With KOVA_UNITY_TESTS, eight at a time, because most of the time goes into templates that all of them use. The given
+# files are compiled alone, because they define names that others define too. A developer's build does not optimize
+# them: what takes time in a test is the library, which is optimized.
+function(kova_quick_compile target)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ${KOVA_UNITY_TESTS} UNITY_BUILD_BATCH_SIZE 8)
+  set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+  target_compile_options(${target} PRIVATE
+    "$<$<CONFIG:RelWithDebInfo>:SHELL:-O0 -U_FORTIFY_SOURCE>" # which only works when optimizing
+    # GCC takes a source among others for a header, where an unnamed namespace would be a mistake.
+    $<$<AND:$<BOOL:${KOVA_UNITY_TESTS}>,$<CXX_COMPILER_ID:GNU>>:-Wno-subobject-linkage>)
+endfunction()
+
+# kova_test(<name> SOURCES <files> ROOMS <rooms> LINKS <libraries> [RUN_BY <command>] [COST <seconds>] [MOC]
+#           [ALONE <files>])
 #
 # One test program, one ctest entry, one process. ROOMS and those they rest on are compiled in directly, so that a room's
 # inner classes can be tested although the library hides them; tests of the control link the library. RUN_BY
 # is put before the program, to start what it needs. COST: of a test of more than half a minute; ctest starts the longest
 # first, so that none runs alone at the end. MOC: some of the sources have Q_OBJECT; for all others, scanning
-# them and compiling the empty outcome would cost more than a test.
+# them and compiling the empty outcome would cost more than a test. ALONE: sources with names that others define too.
 function(kova_test name)
-  cmake_parse_arguments(TEST "MOC" "TIMEOUT;COST" "SOURCES;ROOMS;LINKS;LABELS;RUN_BY" ${ARGN})
+  cmake_parse_arguments(TEST "MOC" "TIMEOUT;COST" "SOURCES;ROOMS;LINKS;LABELS;RUN_BY;ALONE" ${ARGN})
   kova_program(${name} SOURCES ${TEST_SOURCES} ROOMS ${TEST_ROOMS} LINKS ${TEST_LINKS} kova_test_main)
   set_target_properties(${name} PROPERTIES AUTOMOC ${TEST_MOC})
   kova_precompile(${name} tests)
+  kova_quick_compile(${name} ${TEST_ALONE})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/src)
   if(NOT TEST_TIMEOUT)
     set(TEST_TIMEOUT 300)
@@ -194,6 +212,7 @@ function(kova_test_part name)
   kova_compile_settings(${name})
   set_target_properties(${name} PROPERTIES AUTOMOC OFF)
   kova_precompile(${name} tests)
+  kova_quick_compile(${name})
   target_include_directories(${name} PRIVATE
     ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include ${PROJECT_BINARY_DIR}/include)
   target_link_libraries(${name} PRIVATE kova_test_main ${PART_LINKS})
