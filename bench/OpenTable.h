@@ -17,9 +17,11 @@ struct BenchTable
     QByteArray path;
     qint64 rows = 0;
     int columns = 0;
+    bool showsKey = false; // a column is the number of the row
 };
 
 inline constexpr const char *wholeTable = "SELECT * FROM sales";
+inline constexpr const char *withKey = "SELECT *, rowid FROM sales";
 
 struct Measurement
 {
@@ -47,6 +49,8 @@ void makeFile(const QByteArray &path, const QByteArray &script);
 
 // SQLite alone: reads every cell and stores none.
 Measurement readByBareLoop(const BenchTable &table);
+// The same, with the number of each row, which a recordset needs for writing it back.
+Measurement readWithKey(const BenchTable &table);
 void open(ADODB::Recordset &recordset, const BenchTable &table, bool isEditable);
 // As a grid opens it: ready for editing, with a progress callback that does nothing.
 Measurement openRecordset(const BenchTable &table);

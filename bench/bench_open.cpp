@@ -42,7 +42,7 @@ BenchTable makeTable(const QByteArray &path)
                        " i % 3 = 0, date('2015-01-01', '+' || (i % 3650) || ' days'),"
                        " CASE WHEN i % 5 THEN datetime('2015-01-01', '+' || (i % 5000000) || ' minutes') END,"
                        " printf('C-%010d', i), CASE WHEN i % 4 THEN 'note for row ' || i END FROM n;");
-    return {path, rowCount, columnCount};
+    return {path, rowCount, columnCount, true};
 }
 
 void showAndPaint(QTableView &view)
