@@ -2728,6 +2728,10 @@
         <source>是按顺序排在最后的 %1 个之一</source>
         <translation>is one of the last %1 in order</translation>
     </message>
+    <message>
+        <source>数据库不能按字段“%1”的数据类型排序，也不能列出它的值。</source>
+        <translation>The database can neither sort by the data type of the field &quot;%1&quot; nor list its values.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::SessionMessages</name>
