@@ -2740,6 +2740,10 @@
         <source>不满足（%1）</source>
         <translation>not (%1)</translation>
     </message>
+    <message>
+        <source>数据库不能按字段“%1”的数据类型排序，也不能列出它的值。</source>
+        <translation>The database can neither sort by the data type of the field &quot;%1&quot; nor list its values.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::SessionMessages</name>

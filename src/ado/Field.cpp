@@ -51,6 +51,11 @@ QString Field::BaseColumnName() const
     return info().baseColumn;
 }
 
+bool Field::HasKnownOrder() const
+{
+    return info().hasKnownOrder;
+}
+
 QVariant Field::Value() const
 {
     return m_owner->currentValue(m_index);

@@ -34,6 +34,9 @@ public:
     // The table and the column that the values come from; both empty for an expression.
     QString BaseTableName() const;
     QString BaseColumnName() const;
+    // Whether records can certainly be sorted by it. If not, only the database knows whether its type has an
+    // order: PostgreSQL's json has none, an enumeration has one, and the driver calls both unknown.
+    bool HasKnownOrder() const;
     // The 0-based column number.
     int Index() const { return m_index; }
 

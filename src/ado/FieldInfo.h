@@ -19,6 +19,7 @@ struct FieldInfo
     // can come from any row, so a field with these is not always writable.
     QString baseTable;
     QString baseColumn;
+    bool hasKnownOrder = true; // see Field::HasKnownOrder
 };
 
 } // namespace ADODB

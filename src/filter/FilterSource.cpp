@@ -143,9 +143,24 @@ FilterField FilterSource::fieldOf(const QString &caption, const QString &written
     if (type == ADODB::adDouble || type == ADODB::adSingle)
         field.floatSize = type == ADODB::adDouble ? FloatSize::Double : FloatSize::Single;
     field.isMoney = type == ADODB::adCurrency;
+    field.hasOrder = info.hasKnownOrder || hasOrder(written);
     field.isComputed = info.baseColumn.isEmpty();
     field.isUntyped = field.fieldClass == FieldClass::Text && ADODB::isUntyped(connection(), info);
     return field;
+}
+
+// Of a type that the driver can't name, only the database knows it.
+bool FilterSource::hasOrder(const QString &written)
+{
+    try {
+        connection()->Describe(m_prefix +
+                               u"SELECT %1 FROM %2 WHERE 1=0 ORDER BY %1"_s.arg(written, m_fromText));
+        return true;
+    } catch (const ADODB::Error &error) {
+        if (error.is(ADODB::dbErrCancelled))
+            throw;
+        return !error.is(ADODB::dbErrInCommand);
+    }
 }
 
 // Fields with equal names keep their order.

@@ -60,6 +60,7 @@ public:
 
 private:
     const std::shared_ptr<ADODB::Connection> &connection();
+    bool hasOrder(const QString &written);
     std::vector<FilterField> readOfferedFields();
     FilterField fieldOf(const QString &caption, const QString &written, ADODB::DataTypeEnum type,
                         const ADODB::FieldInfo &info);

@@ -103,19 +103,21 @@ ValueEdit::ValueEdit(QWidget *parent)
 void ValueEdit::writeTexts()
 {
     m_offer->setText(m_offerText); // its accessible name
-    m_offer->setToolTip(m_offerText);
+    m_offer->setToolTip(m_whyNoValues.isEmpty() ? m_offerText : m_whyNoValues);
     m_offerValues->setText(FilterTexts::PickValueOfDays);
     m_offerValues->setToolTip(FilterTexts::PickValueOfDays);
 }
 
-void ValueEdit::setKind(FieldClass fieldClass, bool isList)
+void ValueEdit::setKind(FieldClass fieldClass, bool isList, const QString &whyNoValues)
 {
+    m_whyNoValues = whyNoValues;
     m_fieldClass = fieldClass;
     m_isList = isList;
     setPlaceholderText(isList ? FilterTexts::ListHint : hintFor(fieldClass));
     const bool hasValues = (m_askForValues || m_readValues) && fieldClass != FieldClass::Other;
     m_offer->setVisible(hasDays(fieldClass) || fieldClass == FieldClass::Text ||
                         fieldClass == FieldClass::Boolean || hasValues);
+    m_offer->setEnabled(whyNoValues.isEmpty());
     m_offerValues->setVisible(hasValues && hasDays(fieldClass));
     m_offerText = hasDays(fieldClass) ? FilterTexts::PickDate : FilterTexts::PickValue;
     writeTexts();
@@ -178,7 +180,7 @@ void ValueEdit::keyPressEvent(QKeyEvent *event)
     const bool isShifted = event->modifiers().testFlag(Qt::ShiftModifier);
     if (event->key() == Qt::Key_F4 && isShifted && m_offerValues->isVisible())
         offerValues();
-    else if ((isAltDown || event->key() == Qt::Key_F4) && m_offer->isVisible())
+    else if ((isAltDown || event->key() == Qt::Key_F4) && m_offer->isVisible() && m_offer->isEnabled())
         offer();
     else
         QLineEdit::keyPressEvent(event);

@@ -40,8 +40,9 @@ public:
     void showReading();
     // Does nothing if the list has been closed.
     void showValues(const OfferedValues &values);
-    // `isList` for several values separated by commas: a chosen value is then appended.
-    void setKind(FieldClass fieldClass, bool isList);
+    // `isList` for several values separated by commas: a chosen value is then appended. `whyNoValues` for the
+    // user, if the existing values can't be listed.
+    void setKind(FieldClass fieldClass, bool isList, const QString &whyNoValues = {});
     // For a number of values.
     void setCount();
     // Writes its texts in the current language.
@@ -81,6 +82,7 @@ private:
     bool m_isList = false;
     QAction *m_offer;
     Text m_offerText;
+    QString m_whyNoValues;
     QAction *m_offerValues;
     QCompleter *m_list = nullptr;
     DayCalendar *m_calendar = nullptr;

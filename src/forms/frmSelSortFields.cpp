@@ -148,10 +148,13 @@ bool frmSelSortFields::AppendListFields(const QList<OfferedField> &fields)
 {
     QStringList captions;
     QHash<QString, QString> writtenByCaption;
+    m_whyNotSorted.clear();
     for (const OfferedField &field : fields) {
         const QString caption = captionOf(field, fields);
         captions.append(caption);
         writtenByCaption.insert(caption, field.written);
+        if (!field.whyNotSorted.isEmpty())
+            m_whyNotSorted.insert(caption, field.whyNotSorted);
     }
     if (!AppendListFields(&captions))
         return false;
@@ -193,9 +196,12 @@ void frmSelSortFields::enableButtons()
 {
     const int row = m_sort->selectedRow();
     const bool isListed = m_sort->contains(m_fields->currentText());
-    m_add->setEnabled(m_fields->count() > 0 && m_order->count() > 0 && !isListed);
-    m_add->setToolTip(isListed ? FormTexts::AlreadyInSort : QString());
-    m_hint->setText(m_sort->topLevelItemCount() == 0 ? FormTexts::NoSortHint : FormTexts::SortListHint);
+    const QString whyNot = m_whyNotSorted.value(m_fields->currentText());
+    m_add->setEnabled(m_fields->count() > 0 && m_order->count() > 0 && !isListed && whyNot.isEmpty());
+    m_add->setToolTip(isListed ? FormTexts::AlreadyInSort : whyNot);
+    m_hint->setText(!whyNot.isEmpty()                  ? whyNot
+                    : m_sort->topLevelItemCount() == 0 ? FormTexts::NoSortHint
+                                                       : FormTexts::SortListHint);
     m_delete->setEnabled(row >= 0);
     m_up->setEnabled(row > 0);
     m_down->setEnabled(row >= 0 && row < m_sort->topLevelItemCount() - 1);

@@ -45,6 +45,7 @@ private:
     void enableButtons();
 
     QHash<QString, QString> m_writtenByCaption;
+    QHash<QString, QString> m_whyNotSorted; // by caption; those that can be sorted by are not in it
     // In tab order.
     QComboBox *m_fields;
     QComboBox *m_order;

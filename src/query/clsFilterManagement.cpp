@@ -151,6 +151,7 @@ bool clsFilterManagement::GetPartSortSelFields(const QString &strAllFields, cons
     }
     if (all && (!all->isSimple() || all->isJoined()))
         m_tableFields.SetWrittenFields(all->written());
+    m_tableFields.SetWhyNotSorted(m_history.WhyNotSorted(offered));
     return m_tableFields.GetSortSelFields(offered, strSortField, strRetFields);
 }
 

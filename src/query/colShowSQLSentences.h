@@ -119,6 +119,12 @@ public:
 
     // Why this step can't be applied to the latest entry, as a text for the user; empty if it can.
     QString WhyNot(DerivationStep step) const;
+    // Why the records of a statement can't be sorted by a field of its result (from 0), nor its values be
+    // listed, as a text for the user; empty if nothing is known against it. The database is asked once about
+    // types that its driver can't name.
+    QString WhyNotSorted(const QString &statement, qsizetype column) const;
+    // For all of its fields.
+    QStringList WhyNotSorted(const QString &statement) const;
 
     // Why the latest entry can't be shown with its part fields, as a text for the user; empty if it can or
     // has none.
@@ -190,6 +196,7 @@ public:
     const_iterator end() const { return m_entries.end(); }
 
 private:
+    QString WhyNotSorted(const QString &statement, const SourceField &field, qsizetype column) const;
     std::shared_ptr<const Derivation> DerivationOf(const QString &statement,
                                                    const std::vector<SourceField> &fields,
                                                    const QString &connectionString) const;

@@ -74,7 +74,7 @@ std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QStrin
         sizes.insert(star, std::ssize(*given));
     }
     for (const QString &alias : derivation->aliasesToTell()) {
-        if (!m_reader->Read(connectionString, derivation->statementOfStar(alias)))
+        if (!m_reader->Accepts(connectionString, derivation->statementOfStar(alias)))
             sizes.insert(alias, 0);
     }
     return sizes.isEmpty() ? derivation : m_derivations.of(statement, fields, dialect, sizes);
@@ -113,6 +113,33 @@ QString colShowSQLSentences::WhyNot(DerivationStep step) const
     const clsShowSQLSentence *const latest = Latest();
     const auto derivation = latest ? DerivationOf(latest->ShowSQL, step) : nullptr;
     return derivation ? derivation->whyNot(step) : QString();
+}
+
+QString colShowSQLSentences::WhyNotSorted(const QString &statement, const SourceField &field,
+                                          qsizetype column) const
+{
+    const auto derivation = field.hasKnownOrder ? nullptr : DerivationOf(statement);
+    const QString question = derivation ? derivation->statementOfOrder(column) : QString();
+    return question.isEmpty() || m_reader->Accepts(m_connString, question)
+               ? QString()
+               : QueryTexts::TypeNotSorted.arg(field.name);
+}
+
+QString colShowSQLSentences::WhyNotSorted(const QString &statement, qsizetype column) const
+{
+    const auto fields = m_reader ? m_reader->Read(m_connString, LineOf(statement)) : std::nullopt;
+    if (!fields || column < 0 || column >= std::ssize(*fields))
+        return {};
+    return WhyNotSorted(statement, (*fields)[static_cast<std::size_t>(column)], column);
+}
+
+QStringList colShowSQLSentences::WhyNotSorted(const QString &statement) const
+{
+    const auto fields = m_reader ? m_reader->Read(m_connString, LineOf(statement)) : std::nullopt;
+    QStringList reasons;
+    for (const SourceField &field : fields.value_or(std::vector<SourceField>()))
+        reasons.append(WhyNotSorted(statement, field, reasons.size()));
+    return reasons;
 }
 
 QString colShowSQLSentences::WhyNoPartFields() const

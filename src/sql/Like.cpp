@@ -34,6 +34,14 @@ QString likeOperandOfDouble(Engine engine, const QString &field)
                              "CAST(CAST(%1 AS NUMERIC) AS TEXT) END, %2)"_s.arg(field, asText);
 }
 
+// A floating point number has no zeros at its end. Money is not cast to it without a step between.
+QString likeOperandOfMoney(Engine engine, const QString &field)
+{
+    const QString number = moneyOperand(engine, field);
+    return likeOperand(engine,
+                       likesTextsOnly(engine) ? u"CAST(%1 AS DOUBLE PRECISION)"_s.arg(number) : number);
+}
+
 // On these, the backslash is LIKE's default escape, regardless of its meaning in literals.
 QString likePattern(Engine engine, QString text)
 {

@@ -21,6 +21,9 @@ QString shownOperand(Engine engine, const QString &field);
 // engines that cast write more.
 QString likeOperandOfDouble(Engine engine, const QString &field);
 
+// The same for the database's money type, of which no zeros are shown at the end.
+QString likeOperandOfMoney(Engine engine, const QString &field);
+
 // A pattern for LIKE without ESCAPE: "%" and "_" in the text are wildcards, a backslash is literal.
 QString likePattern(Engine engine, QString text);
 

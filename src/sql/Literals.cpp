@@ -201,6 +201,19 @@ QString timeLiteral(const Dialect &dialect, QTime time, const QString &finer)
     return momentText(dialect, "t"_L1, timeText(time, finer));
 }
 
+QString numberWordLiteral(const Dialect &dialect, const QString &text)
+{
+    static const QRegularExpression words(uR"(\A(nan|[-+]?inf(inity)?)\z)"_s,
+                                          QRegularExpression::CaseInsensitiveOption);
+    return dialect.engine == Engine::PostgreSQL && words.match(text).hasMatch() ? quoted(text) : QString();
+}
+
+QString durationLiteral(const Dialect &dialect, const QString &text)
+{
+    static const QRegularExpression form(uR"(\A-?[0-9]{1,3}:[0-5][0-9](:[0-5][0-9](\.[0-9]{1,6})?)?\z)"_s);
+    return dialect.engine == Engine::MySQL && form.match(text).hasMatch() ? quoted(text) : QString();
+}
+
 QString momentLiteral(const Dialect &dialect, const QDateTime &moment, const QString &finer)
 {
     return momentText(dialect, "ts"_L1, dayAndTime(moment, finer));

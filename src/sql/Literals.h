@@ -16,6 +16,12 @@ QString textLiteral(const Dialect &dialect, QString text);
 // statements are split at these words wherever they occur.
 QString textWithoutClauses(const Dialect &dialect, const QString &text);
 
+// What is no decimal number and a number all the same to the engine: NaN and the infinities in PostgreSQL.
+// Empty for any other text.
+QString numberWordLiteral(const Dialect &dialect, const QString &text);
+// A negative time, or one of more than a day, as MySQL's type has them. Empty for any other text.
+QString durationLiteral(const Dialect &dialect, const QString &text);
+
 QString dateLiteral(const Dialect &dialect, QDate date);
 // `finer`: the decimals of the second after the third one, without trailing zeros.
 QString timeLiteral(const Dialect &dialect, QTime time, const QString &finer = {});

@@ -289,6 +289,12 @@ TEST(FilterOperators, FitTheFieldsClass)
     EXPECT_FALSE(operatorsFor(FieldClass::Number).contains(Contains));
     EXPECT_EQ(operatorsFor(FieldClass::Other), (QList<FilterOperator>{IsEmpty, IsNotEmpty}));
     EXPECT_EQ(operatorsFor(FieldClass::Text).size(), 21);
+    FilterField field{u"j"_s, u"j"_s};
+    EXPECT_EQ(operatorsFor(field), operatorsFor(FieldClass::Text));
+    field.hasOrder = false;
+    EXPECT_EQ(operatorsFor(field).size(), 18);
+    for (const FilterOperator op : {Duplicated, Top, Bottom})
+        EXPECT_FALSE(operatorsFor(field).contains(op));
     // Two values have many records each.
     EXPECT_EQ(operatorsFor(FieldClass::Boolean),
               (QList<FilterOperator>{Equals, NotEquals, IsEmpty, IsNotEmpty}));

@@ -39,6 +39,25 @@ TEST(FilterValue, OtherTextsAreNoNumbers)
         EXPECT_EQ(literal(FieldClass::Number, typed), "-") << qUtf8Printable(typed);
 }
 
+// The values of a column are offered as the engine writes them, so they must be taken.
+TEST(FilterValue, AnEnginesOwnNumbersAndTimesAreTaken)
+{
+    const auto literal = [](Engine engine, FieldClass fieldClass, const QString &typed) {
+        const auto value = readFilterValue(dialectOf(dbSQLServer, engine), fieldClass, typed, {});
+        return value ? value->literal : u"none"_s;
+    };
+    const Engine postgres = Engine::PostgreSQL;
+    EXPECT_EQ(literal(postgres, FieldClass::Number, u"NaN"_s), u"'NaN'"_s);
+    EXPECT_EQ(literal(postgres, FieldClass::Number, u"-Infinity"_s), u"'-Infinity'"_s);
+    EXPECT_EQ(literal(postgres, FieldClass::Number, u"NaN 1"_s), u"none"_s);
+    EXPECT_EQ(literal(Engine::SQLite, FieldClass::Number, u"NaN"_s), u"none"_s);
+    const Engine mySql = Engine::MySQL;
+    EXPECT_EQ(literal(mySql, FieldClass::Time, u"-100:00:00"_s), u"'-100:00:00'"_s);
+    EXPECT_EQ(literal(mySql, FieldClass::Time, u"838:59:59.5"_s), u"'838:59:59.5'"_s);
+    EXPECT_EQ(literal(mySql, FieldClass::Time, u"-0:75:00"_s), u"none"_s);
+    EXPECT_EQ(literal(postgres, FieldClass::Time, u"25:00"_s), u"none"_s);
+}
+
 TEST(FilterValue, DaysAreReadInTheUsualForms)
 {
     for (const QString &typed : {u"2024-01-05"_s, u"2024-1-5"_s, u"2024/1/5"_s, u"2024.01.05"_s,

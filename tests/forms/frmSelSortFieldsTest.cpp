@@ -167,6 +167,24 @@ TEST_F(SortFields, AFieldThatIsInTheSortAlreadyIsNotAddedAgain)
     EXPECT_TRUE(isEnabled("cmdAddField"));
 }
 
+TEST_F(SortFields, AFieldWithoutAnOrderIsNotAddedAndTheReasonIsShown)
+{
+    EXPECT_TRUE(dialog.AppendListFields(
+        {OfferedField{u"ID"_s, u"ID"_s},
+         OfferedField{.name = u"文档"_s, .written = u"doc"_s, .whyNotSorted = u"它没有顺序"_s}}));
+    EXPECT_TRUE(dialog.AppendSortOrder());
+    present(dialog);
+    const QString hint = part<QLabel>(dialog, "lblHint").text();
+    EXPECT_TRUE(isEnabled("cmdAddField"));
+    combo("cmbFields").setCurrentIndex(1);
+    EXPECT_FALSE(isEnabled("cmdAddField"));
+    EXPECT_EQ(part(dialog, "cmdAddField").toolTip(), u"它没有顺序"_s);
+    EXPECT_EQ(part<QLabel>(dialog, "lblHint").text(), u"它没有顺序"_s);
+    combo("cmbFields").setCurrentIndex(0);
+    EXPECT_TRUE(isEnabled("cmdAddField"));
+    EXPECT_EQ(part<QLabel>(dialog, "lblHint").text(), hint);
+}
+
 TEST_F(SortFields, DeletesTheSelectedRowOnly)
 {
     fill({u"A"_s}, {u"A"_s, u"B"_s, u"C"_s});

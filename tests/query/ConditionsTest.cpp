@@ -199,7 +199,7 @@ TEST(CellFilterText, MoneyIsComparedAsANumber)
     QString condition;
     EXPECT_TRUE(BuildLikeAllCondition(u"1234"_s, field, u"SELECT m FROM T"_s, dbOracle, condition,
                                       Engine::PostgreSQL));
-    EXPECT_EQ(condition, u" (CAST(CAST(m AS NUMERIC) AS TEXT) LIKE '%1234%' ) "_s);
+    EXPECT_EQ(condition, u" (CAST(CAST(CAST(m AS NUMERIC) AS DOUBLE PRECISION) AS TEXT) LIKE '%1234%' ) "_s);
 }
 
 TEST(CellFilterText, TextsAreComparedInQuotesAndLetterForLetter)

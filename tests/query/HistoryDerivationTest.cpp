@@ -102,6 +102,33 @@ TEST(HistorySort, OfTheHostIsByTheFieldThatTheWholeListMeans)
     EXPECT_EQ(part.simplified(), u"SELECT e.id FROM E e join D d on d.id = e.dept ORDER BY e.name desc"_s);
 }
 
+// The database is asked about a type that its driver can't name, and about no other.
+TEST(HistorySort, FieldsWithoutAnOrderAreOfferedWithTheReason)
+{
+    MemoryReader reader;
+    reader.mode = Engine::PostgreSQL;
+    const QString all = u"select id, doc as d, mood from T"_s;
+    reader.fieldsByStatement = {
+        {all, {{u"id"_s, 3}, {u"d"_s, 202, {}, false}, {u"mood"_s, 202, {}, false}}},
+        {u"SELECT * FROM (\nSELECT mood\nFROM T\nORDER BY mood\n) AS Q"_s, {{u"mood"_s, 202}}}};
+    MemoryChooser chooser;
+    clsFilterManagement manager{&reader, &chooser};
+    manager.SetDBType(dbOracle);
+    manager.SetDBConnString(u"server"_s);
+    manager.SetAllFields(all);
+    manager.SetOriginFilter(all);
+    manager.SetSQLInitData();
+    const QString reason = QueryTexts::TypeNotSorted.arg(u"d"_s);
+    EXPECT_EQ(manager.SQLManager().WhyNotSorted(all, 0), QString());
+    EXPECT_EQ(manager.SQLManager().WhyNotSorted(all, 1), reason);
+    EXPECT_EQ(manager.SQLManager().WhyNotSorted(all, 2), QString());
+    EXPECT_EQ(manager.SQLManager().WhyNotSorted(all, 3), QString());
+    QString chosen;
+    manager.GetPartSortSelFields(all, {}, chosen);
+    EXPECT_EQ(chooser.allFields, QStringList({u"id"_s, u"d"_s, u"mood"_s}));
+    EXPECT_EQ(chooser.whyNotSorted, QStringList({{}, reason, {}}));
+}
+
 // TOP selects its rows before a condition, which can nevertheless use fields that were not chosen.
 TEST(HistoryDerivationOfTop, AFilterCanNameFieldsThatWereNotChosen)
 {

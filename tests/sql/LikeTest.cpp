@@ -66,6 +66,13 @@ TEST(Like, SeesTheDigitsOfADoubleThatAreShown)
               "CAST(F AS TEXT))"_s);
 }
 
+TEST(Like, SeesMoneyWithoutTheZerosThatAreNotShown)
+{
+    EXPECT_EQ(likeOperandOfMoney(Engine::SqlServer, u"F"_s), u"F"_s);
+    EXPECT_EQ(likeOperandOfMoney(Engine::PostgreSQL, u"F"_s),
+              u"CAST(CAST(CAST(F AS NUMERIC) AS DOUBLE PRECISION) AS TEXT)"_s);
+}
+
 TEST(Like, CastsWhatIsReportedAsTextOnPostgreSql)
 {
     const Dialect postgres = dialectOf(dbOracle, Engine::PostgreSQL);

@@ -246,6 +246,14 @@ bool isByValue(FilterOperator op)
 
 } // namespace
 
+QList<FilterOperator> operatorsFor(const FilterField &field)
+{
+    QList<FilterOperator> operators = operatorsFor(field.fieldClass);
+    if (!field.hasOrder)
+        operators.removeIf(comparesRecords);
+    return operators;
+}
+
 FilterCondition conditionOf(const Dialect &dialect, const FilterChoice &asked, const FilterScope &scope)
 {
     if (asked.field.written.isEmpty())

@@ -22,7 +22,11 @@ struct FilterField
     bool isComputed = false;                 // not from a table column
     bool isUntyped = false;                  // in SQLite: each value has its own type
     bool isMoney = false;                    // a number with the database's money type
+    bool hasOrder = true;                    // its values can be sorted, counted and listed
 };
+
+// The operators that make sense for a field, the common ones first.
+QList<FilterOperator> operatorsFor(const FilterField &field);
 
 // The contents of one row of the builder.
 struct FilterChoice

@@ -27,11 +27,13 @@ std::optional<QString> plainNumber(const QString &typed)
     return match.hasMatch() ? std::optional(match.captured(1)) : std::nullopt;
 }
 
-std::optional<FilterValue> readNumber(const QString &typed)
+std::optional<FilterValue> readNumber(const Dialect &dialect, const QString &typed)
 {
     const auto number = plainNumber(typed);
-    if (!number)
-        return std::nullopt;
+    if (!number) {
+        const QString literal = numberWordLiteral(dialect, narrow(typed));
+        return literal.isEmpty() ? std::nullopt : std::optional(FilterValue{.literal = literal});
+    }
     const double rank = number->toDouble();
     return FilterValue{.literal = *number, .rank = rank, .lastRank = rank};
 }
@@ -170,8 +172,10 @@ std::optional<FilterValue> readDate(const Dialect &dialect, const QString &typed
 std::optional<FilterValue> readTimeOfDay(const Dialect &dialect, const QString &typed)
 {
     const auto [time, finer] = readTime(narrow(typed));
-    if (!time.isValid())
-        return std::nullopt;
+    if (!time.isValid()) {
+        const QString literal = durationLiteral(dialect, narrow(typed).replace(u'−', u'-'));
+        return literal.isEmpty() ? std::nullopt : std::optional(FilterValue{.literal = literal});
+    }
     return FilterValue{.literal = timeLiteral(dialect, time, finer),
                        .rank = static_cast<double>(time.msecsSinceStartOfDay()),
                        .lastRank = static_cast<double>(time.msecsSinceStartOfDay())};
@@ -186,7 +190,7 @@ std::optional<FilterValue> readFilterValue(const Dialect &dialect, FieldClass fi
     case FieldClass::Text:
         return FilterValue{.literal = textWithoutClauses(dialect, typed)};
     case FieldClass::Number:
-        return readNumber(typed);
+        return readNumber(dialect, typed);
     case FieldClass::Boolean:
         return readBoolean(typed);
     case FieldClass::Date:

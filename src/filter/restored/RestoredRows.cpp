@@ -25,7 +25,7 @@ QList<FilterSql::Term> framesOf(const FilterState &rows)
 bool isOffered(const FilterRowState &row, const std::vector<FilterField> &fields)
 {
     const auto field = std::ranges::find(fields, row.field, &FilterField::caption);
-    return field != fields.end() && operatorsFor(field->fieldClass).contains(row.op);
+    return field != fields.end() && operatorsFor(*field).contains(row.op);
 }
 
 // As the rows would be written now.

@@ -8,6 +8,7 @@
 #include "filter/rows/FilterValues.h"
 #include "forms/widgets/FieldCombo.h"
 #include "forms/widgets/TickBoxes.h"
+#include "query/QueryTexts.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
@@ -100,7 +101,7 @@ void FilterRow::onFieldChanged()
     {
         const QSignalBlocker quiet(m_operator);
         m_operator->clear();
-        for (const FilterOperator offered : operatorsFor(field().fieldClass)) {
+        for (const FilterOperator offered : operatorsFor(field())) {
             if (m_context->records || !comparesRecords(offered))
                 m_operator->addItem(captionOf(offered), static_cast<int>(offered));
         }
@@ -116,14 +117,15 @@ void FilterRow::onFieldChanged()
 void FilterRow::onOperatorChanged()
 {
     const int count = valueCount(op());
+    const QString whyNoValues = field().hasOrder ? QString() : QueryTexts::TypeNotSorted.arg(field().caption);
     m_value->setVisible(count >= 1);
     m_to->setVisible(count == 2);
     m_lastValue->setVisible(count == 2);
     if (takesCount(op()))
         m_value->setCount();
     else
-        m_value->setKind(field().fieldClass, positiveOf(op()) == FilterOperator::InList);
-    m_lastValue->setKind(field().fieldClass, false);
+        m_value->setKind(field().fieldClass, positiveOf(op()) == FilterOperator::InList, whyNoValues);
+    m_lastValue->setKind(field().fieldClass, false, whyNoValues);
     onNegated();
 }
 

@@ -136,11 +136,12 @@ std::optional<std::vector<SearchedField>> searchedFields(std::span<const TypedFi
         if (name->isEmpty())
             continue;
         const QString kind = field.adoType ? classOf(*field.adoType, mode) : QString();
-        const bool isDouble = field.adoType == doubleType;
-        const QString value = field.adoType == currencyType ? moneyOperand(mode.engine, *name) : *name;
-        searched.push_back(
-            {isDouble ? likeOperandOfDouble(mode.engine, value) : likeOperand(mode.engine, value),
-             (kind != u"1" && kind != u"3") || field.adoType == guidType, *name, field.adoType.value_or(0)});
+        const auto operand = field.adoType == doubleType     ? likeOperandOfDouble
+                             : field.adoType == currencyType ? likeOperandOfMoney
+                                                             : likeOperand;
+        searched.push_back({operand(mode.engine, *name),
+                            (kind != u"1" && kind != u"3") || field.adoType == guidType, *name,
+                            field.adoType.value_or(0)});
     }
     return searched;
 }

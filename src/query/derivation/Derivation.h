@@ -68,6 +68,8 @@ public:
     QStringList aliasesToTell() const;
     // A statement that selects only the star, or only the alias as a column.
     QString statementOfStar(const QString &star) const;
+    // A statement that the database accepts if it can sort by this field; empty if the field has no name.
+    QString statementOfOrder(qsizetype field) const;
 
     bool isSimple() const { return m_kind == Kind::Simple; }
     // Whether this step can be done as plain text: for simple statements, unless the list changes and the

@@ -99,6 +99,15 @@ QString Derivation::stableTerm(const SelectParts::Item &term) const
     return text;
 }
 
+QString Derivation::statementOfOrder(qsizetype field) const
+{
+    const QString value = m_written.value(field);
+    if (value.isEmpty())
+        return {};
+    return prefix() + u"SELECT * FROM (\nSELECT %1\nFROM %2\nORDER BY %1\n)"_s.arg(value, source()) +
+           innerTableAlias(m_dialect, u"Q"_s);
+}
+
 QString Derivation::sortedAs(const SelectParts::Item &term, const QString &value)
 {
     return term.rest.isEmpty() ? value : value + u' ' + term.rest;

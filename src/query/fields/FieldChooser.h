@@ -10,9 +10,10 @@ namespace KOVAVSFDataGridLib {
 
 struct OfferedField
 {
-    QString name;       // as shown to the user
-    QString written;    // as used in statements
-    qint32 adoType = 0; // 0 if unknown
+    QString name;              // as shown to the user
+    QString written;           // as used in statements
+    qint32 adoType = 0;        // 0 if unknown
+    QString whyNotSorted = {}; // for the user; empty if a sort can have it
 };
 
 // Lets the user choose. Each function returns when the user has finished. No value or an empty text means

@@ -13,8 +13,9 @@ namespace KOVAVSFDataGridLib {
 struct SourceField
 {
     QString name;
-    qint32 adoType = 0; // ADO type number; 0 if unknown
-    QString table = {}; // the table it comes from, by the table's own name; empty if unknown
+    qint32 adoType = 0;        // ADO type number; 0 if unknown
+    QString table = {};        // the table it comes from, by the table's own name; empty if unknown
+    bool hasKnownOrder = true; // if false, only the database knows whether it can be sorted by
 
     bool operator==(const SourceField &) const = default;
 };
@@ -37,6 +38,12 @@ public:
     // union or a condition in a sub-select), the statement itself is described.
     virtual std::optional<std::vector<SourceField>> Read(const QString &connectionString,
                                                          const QString &statement) = 0;
+
+    // Whether the database accepts the statement's no-row form.
+    virtual bool Accepts(const QString &connectionString, const QString &statement)
+    {
+        return Read(connectionString, statement).has_value();
+    }
 
     // The engine of that connection in its present mode; Other if it is unknown.
     virtual EngineMode engineOf(const QString &) { return {}; }

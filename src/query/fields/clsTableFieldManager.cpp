@@ -49,14 +49,12 @@ QList<OfferedField> clsTableFieldManager::Offered() const
 {
     const Dialect dialect = dialectOf(m_database, m_reader->engineOf(ConnString));
     QList<OfferedField> fields;
-    if (m_written.size() != m_fieldNames.size()) {
-        for (const QString &name : m_fieldNames)
-            fields.append({name, writtenName(dialect, name)});
-        return fields;
-    }
+    const bool areWritten = m_written.size() == m_fieldNames.size();
     for (qsizetype i = 0; i < m_fieldNames.size(); ++i) {
-        if (!m_written.at(i).isEmpty())
-            fields.append({m_fieldNames.at(i), m_written.at(i)});
+        const QString &name = m_fieldNames.at(i);
+        const QString written = areWritten ? m_written.at(i) : writtenName(dialect, name);
+        if (!written.isEmpty())
+            fields.append({.name = name, .written = written, .whyNotSorted = m_whyNotSorted.value(i)});
     }
     return fields;
 }

@@ -20,6 +20,8 @@ public:
     // Sets the names that the next choice writes for the fields of its statement, in order, until InitData().
     // An empty text excludes a field.
     void SetWrittenFields(const QStringList &written) { m_written = written; }
+    // Why they can't be sorted by, in the same order and until then; empty texts for those that can.
+    void SetWhyNotSorted(const QStringList &reasons) { m_whyNotSorted = reasons; }
     // Together with the reader's engine, determines how names are written.
     void SetDBType(AllDBType type) { m_database = type; }
     void SetFieldChooser(FieldChooser *chooser) { m_chooser = chooser; }
@@ -29,6 +31,7 @@ public:
     {
         m_fieldNames.clear();
         m_written.clear();
+        m_whyNotSorted.clear();
     }
     void ClearObject() { InitData(); }
 
@@ -52,6 +55,7 @@ private:
     AllDBType m_database = dbAccess;
     QStringList m_fieldNames;
     QStringList m_written;
+    QStringList m_whyNotSorted;
 };
 
 } // namespace KOVAVSFDataGridLib

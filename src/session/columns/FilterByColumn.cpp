@@ -112,7 +112,7 @@ const ColumnCommand::Registration registration({
         [](Session &session, int col) {
             return session.result().hasRecords() || choiceInForce(session, writtenColumn(session, col));
         },
-    .whyNot = whyNotWritten,
+    .whyNot = whyNotSorted, // the list of values is in their order
 });
 
 } // namespace

@@ -28,19 +28,16 @@ const SortTerm *termOf(const std::vector<SortTerm> &order, int col)
     return found == order.end() ? nullptr : &*found;
 }
 
-bool isSortedBy(Session &session, int col)
-{
-    const std::vector<SortTerm> order = shownOrder(session);
-    return termOf(order, col);
-}
-
 template<bool isWanted>
-QString whyNotSorted(Session &session, int col)
+QString whyNotChanged(Session &session, int col)
 {
-    const QString reason = whyNotWritten(session, col);
-    if (!reason.isEmpty() || isSortedBy(session, col) == isWanted)
+    const QString reason = whyNotSorted(session, col);
+    if (!reason.isEmpty())
         return reason;
-    return isWanted ? SessionMessages::NotSorted : SessionMessages::AlreadySorted;
+    const std::vector<SortTerm> order = shownOrder(session);
+    if (static_cast<bool>(termOf(order, col)) != isWanted)
+        return isWanted ? SessionMessages::NotSorted : SessionMessages::AlreadySorted;
+    return {};
 }
 
 void sortBy(Session &session, const QStringList &terms)
@@ -83,7 +80,7 @@ const ColumnCommand::Registration ascending({
     .run = sortByOne<false>,
     .step = DerivationStep::Sort,
     .canRun = canSort,
-    .whyNot = whyNotWritten,
+    .whyNot = whyNotSorted,
     .isOn = isSortedFirst<false>,
 });
 
@@ -95,7 +92,7 @@ const ColumnCommand::Registration descending({
     .run = sortByOne<true>,
     .step = DerivationStep::Sort,
     .canRun = canSort,
-    .whyNot = whyNotWritten,
+    .whyNot = whyNotSorted,
     .isOn = isSortedFirst<true>,
 });
 
@@ -110,7 +107,7 @@ const ColumnCommand::Registration add({
         },
     .step = DerivationStep::Sort,
     .canRun = canSort,
-    .whyNot = whyNotSorted<false>,
+    .whyNot = whyNotChanged<false>,
 });
 
 const ColumnCommand::Registration remove({
@@ -121,7 +118,7 @@ const ColumnCommand::Registration remove({
     .run = [](Session &session, int col) { sortBy(session, textsOf(shownOrder(session), col)); },
     .step = DerivationStep::Sort,
     .canRun = canSort,
-    .whyNot = whyNotSorted<true>,
+    .whyNot = whyNotChanged<true>,
 });
 
 } // namespace

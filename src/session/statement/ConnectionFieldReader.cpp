@@ -28,7 +28,7 @@ std::vector<SourceField> describe(const ADODB::Connection &connection, const QSt
 {
     std::vector<SourceField> fields;
     for (const ADODB::FieldInfo &info : connection.Describe(statement))
-        fields.push_back({info.name, info.type, info.baseTable});
+        fields.push_back({info.name, info.type, info.baseTable, info.hasKnownOrder});
     return fields;
 }
 
@@ -120,12 +120,14 @@ ConnectionFieldReader::connectUnlessCancelled(const QString &connectionString)
 
 bool ConnectionFieldReader::attempt(const std::function<void()> &reading)
 {
+    m_isRefused = false;
     try {
         reading();
         return true;
     } catch (const ADODB::Error &error) {
         m_failure = error.Description();
         m_isCancelled = m_commands > 0 && error.is(ADODB::dbErrCancelled);
+        m_isRefused = error.is(ADODB::dbErrInCommand);
     } catch (const std::exception &error) {
         qWarning("Fields could not be read: %s", error.what());
         m_failure = QString::fromUtf8(error.what());
@@ -179,6 +181,20 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
     return fields;
 }
 
+bool ConnectionFieldReader::Accepts(const QString &connectionString, const QString &statement)
+{
+    const std::pair key(connectionString, statement);
+    if (const auto known = m_accepted.constFind(key); known != m_accepted.constEnd())
+        return *known;
+    const bool isAccepted =
+        attempt([&] { connectUnlessCancelled(connectionString)->Describe(GetNoRowSQL(statement)); });
+    if (isAccepted || m_isRefused) {
+        m_accepted.insert(key, isAccepted);
+        m_failure.clear(); // a refusal is an answer too
+    }
+    return isAccepted;
+}
+
 // Each query costs a round trip, so what other statements have shown is reused.
 std::optional<std::vector<SourceField>> ConnectionFieldReader::fromKnown(const QString &connectionString,
                                                                          const QString &statement) const
@@ -208,7 +224,7 @@ void ConnectionFieldReader::remember(const QString &connectionString, const QStr
     std::vector<SourceField> known;
     for (int i = 0; i < fields.Count(); ++i) {
         const ADODB::Field &field = fields.Item(i);
-        known.push_back({field.Name(), field.Type(), field.BaseTableName()});
+        known.push_back({field.Name(), field.Type(), field.BaseTableName(), field.HasKnownOrder()});
     }
     m_known.insert({connectionString, remembered(statement)}, known);
 }
@@ -224,6 +240,7 @@ void ConnectionFieldReader::forget()
 {
     closeOwn();
     m_known.clear();
+    m_accepted.clear();
     m_failure.clear();
 }
 

@@ -30,6 +30,8 @@ public:
     std::optional<std::vector<SourceField>> Read(const QString &connectionString,
                                                  const QString &statement) override;
 
+    bool Accepts(const QString &connectionString, const QString &statement) override;
+
     // Caches the fields of a statement from its open result, so that the database need not be queried.
     void remember(const QString &connectionString, const QString &statement, const ADODB::Fields &fields);
     EngineMode engineOf(const QString &connectionString) override;
@@ -70,10 +72,12 @@ private:
     std::shared_ptr<ADODB::Connection> m_own;
     QString m_ownText;
     QString m_failure;
+    bool m_isRefused = false; // the last reading failed because of the statement itself
     int m_commands = 0;
     bool m_isCancelled = false;
     QHash<std::pair<QString, QString>, std::vector<SourceField>>
         m_known; // by connection string and statement
+    QHash<std::pair<QString, QString>, bool> m_accepted;
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -44,6 +44,13 @@ QString whyNotWritten(Session &session, int col)
     return (headings.count(heading) > 1 ? QueryTexts::EqualNames : QueryTexts::UnknownTable).arg(heading);
 }
 
+QString whyNotSorted(Session &session, int col)
+{
+    const QString reason = whyNotWritten(session, col);
+    return reason.isEmpty() ? session.history().WhyNotSorted(session.result().recordset()->Source(), col - 1)
+                            : reason;
+}
+
 std::vector<SortTerm> shownOrder(Session &session)
 {
     if (!session.result().isOpen() || session.sharedHistory().isManager(nullptr))

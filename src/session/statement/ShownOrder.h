@@ -22,5 +22,7 @@ std::vector<SortTerm> shownOrder(Session &session);
 QString writtenColumn(Session &session, int col);
 // Why it has none, for the user to read; empty when it has one.
 QString whyNotWritten(Session &session, int col);
+// Why it can't be in a sort, for the user to read; empty when it can.
+QString whyNotSorted(Session &session, int col);
 
 } // namespace KOVAVSFDataGridLib

@@ -40,6 +40,7 @@ public:
     QStringList allFields;
     QStringList written; // the same fields, as statements write them
     QStringList present;
+    QStringList whyNotSorted;
 
     std::optional<QString> ChooseVisibleFields(const QString &shownTitle, const Fields &shownFields,
                                                const QStringList &partFields) override
@@ -59,9 +60,11 @@ private:
         title = shownTitle;
         allFields.clear();
         written.clear();
+        whyNotSorted.clear();
         for (const auto &field : shownFields) {
             allFields.append(field.name);
             written.append(field.written);
+            whyNotSorted.append(field.whyNotSorted);
         }
         present = shownChoice;
         return choice;

@@ -38,6 +38,7 @@ FieldInfo describe(const OdbcHandle &statement, int column)
     field.baseColumn =
         field.baseTable.isEmpty() ? QString() : statement.columnText(column, SQL_DESC_BASE_COLUMN_NAME);
     field.attributes = answer.nullable == SQL_NO_NULLS ? 0 : adFldIsNullable | adFldMayBeNull;
+    field.hasKnownOrder = OdbcTypes::hasKnownOrder(statement.columnText(column, SQL_DESC_TYPE_NAME));
     OdbcTypes::apply(field, declaredType(statement, column));
     return field;
 }

@@ -84,6 +84,12 @@ bool isZonedType(int sqlType, const QString &name)
            name.endsWith("with time zone"_L1, Qt::CaseInsensitive);
 }
 
+// PostgreSQL's driver calls all types unknown that it has no word for, whether they have an order or not.
+bool hasKnownOrder(const QString &name)
+{
+    return name != "unknown"_L1 && name != "xml"_L1 && name != "xid"_L1;
+}
+
 void apply(FieldInfo &field, const Declared &declared)
 {
     const Rule &rule = declared.isMoney ? money : ruleOf(declared.sqlType);

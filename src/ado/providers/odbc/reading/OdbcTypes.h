@@ -19,6 +19,9 @@ struct Declared
 // Whether a column of this type (by the driver's name for it) stores a timestamp with its time zone.
 bool isZonedType(int sqlType, const QString &name);
 
+// Whether records can be sorted by a column of this type; see Field::HasKnownOrder.
+bool hasKnownOrder(const QString &name);
+
 // Sets type, size, precision, scale and the attributes that depend on the type.
 void apply(FieldInfo &field, const Declared &declared);
 
