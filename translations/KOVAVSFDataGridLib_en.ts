@@ -2907,6 +2907,10 @@ Save it again anyway?</translation>
         <source>只有数字列和是否列可以设置格式。</source>
         <translation>Only columns of numbers and of yes and no have a format.</translation>
     </message>
+    <message>
+        <source>记录按结果中没有的内容排序，与其他列一起排序就会失去它。请选“升序”或“降序”，只按此列排序。</source>
+        <translation>The records are sorted by something that is not in the result. A sort with other columns would lose it. Choose &quot;Sort Ascending&quot; or &quot;Sort Descending&quot; to sort by this column alone.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::ViewerTexts</name>

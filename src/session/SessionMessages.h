@@ -32,6 +32,8 @@ inline constexpr Text OpeningCancelled = tr("已取消读取，仍显示原来�
 inline constexpr Text PlaceOfValue = tr("%1（第 %2 行）");
 inline constexpr Text AlreadySorted = tr("记录已经按此列排序。");
 inline constexpr Text NotSorted = tr("记录没有按此列排序。");
+inline constexpr Text SortedByOther =
+    tr("记录按结果中没有的内容排序，与其他列一起排序就会失去它。请选“升序”或“降序”，只按此列排序。");
 inline constexpr Text LastColumn = tr("至少要显示一列。");
 inline constexpr Text NoColumnBeside = tr("这一侧没有其他列。");
 inline constexpr Text NoFormat = tr("只有数字列和是否列可以设置格式。");

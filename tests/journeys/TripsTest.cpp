@@ -5,10 +5,15 @@
 #include "servers/Servers.h"
 #include "support/Dialogs.h"
 
+#include <QtTest/QTest>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QMenu>
+
+#include <string_view>
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -57,6 +62,16 @@ protected:
         return proxy->trips();
     }
 
+    QMenu *openMenu(int col)
+    {
+        hands->clickCell(1, col);
+        hands->table->setFocus();
+        QTest::keyClick(hands->table, Qt::Key_Down, Qt::ControlModifier | Qt::AltModifier);
+        auto *menu = hands->grid.findChild<QMenu *>(u"ColumnMenu"_s);
+        EXPECT_TRUE(menu && menu->isVisible());
+        return menu;
+    }
+
     const FarServer &server = GetParam();
     bool isLoading = false;
     std::optional<LoopbackProxy> proxy;
@@ -91,6 +106,72 @@ TEST_P(Trips, OfSortingFilteringAndGoingBack)
     EXPECT_EQ(hands->texts(u"id"_s), QStringList(u"1"_s));
     EXPECT_LE(tripsOf("back", [&] { hands->click(u"ToPreview"_s); }), server.sort);
     EXPECT_EQ(hands->texts(u"id"_s), QStringList({u"3"_s, u"2"_s, u"1"_s}));
+}
+
+TEST_P(Trips, OfTheMenuOfAColumn)
+{
+    for (int col = 1; col <= 3; ++col) {
+        EXPECT_EQ(tripsOf("menu of a column", [&] { openMenu(col)->close(); }), 0);
+    }
+}
+
+// Only the database knows whether a type that its driver can't name has an order. It is asked once.
+TEST_P(Trips, OfTheMenuOfAColumnWithoutAnOrder)
+{
+    if (server.variable == "KOVA_TEST_MARIADB"sv)
+        GTEST_SKIP() << "sorts by all types";
+    OdbcSession session(serverConnection(server.variable));
+    session.run(
+        {u"DROP TABLE IF EXISTS far_shapes"_s,
+         u"CREATE TABLE far_shapes (id INTEGER PRIMARY KEY, doc json, place point, bits bit(2), page xml)"_s,
+         u"INSERT INTO far_shapes VALUES (1,'{\"a\": 1}','(1,2)','01','<a/>'),(2,'[]','(0,1)','00','<b/>')"_s});
+    ASSERT_TRUE(hands->load(u"SELECT id, doc AS d, place, bits, page FROM far_shapes WHERE id > 0"_s, {}));
+    const QStringList reasons{{},
+                              u"数据库不能按字段“d”的数据类型排序，也不能列出它的值。"_s,
+                              u"数据库不能按字段“place”的数据类型排序，也不能列出它的值。"_s,
+                              {},
+                              u"数据库不能按字段“page”的数据类型排序，也不能列出它的值。"_s};
+    for (int col = 1; col <= 5; ++col) {
+        const QString &reason = reasons.at(col - 1);
+        const auto look = [&] {
+            QMenu *menu = openMenu(col);
+            for (const char *key : {"SortAscending", "SortDescending", "AddToSort", "FilterByColumn"}) {
+                const auto *entry = menu->findChild<QAction *>(u"ColumnMenu"_s + QLatin1StringView(key));
+                ASSERT_TRUE(entry) << key;
+                EXPECT_EQ(entry->isEnabled(), reason.isEmpty()) << key << col;
+                if (!reason.isEmpty()) {
+                    EXPECT_EQ(entry->toolTip(), reason) << key;
+                }
+            }
+            menu->close();
+        };
+        EXPECT_LE(tripsOf("first menu", look), col == 1 ? 0 : server.sort) << col;
+        EXPECT_EQ(tripsOf("second menu", look), 0) << col;
+    }
+    // The dialogs say so too, before anything is typed or clicked.
+    WindowAnswers dialogs({[&](QDialog &dialog) {
+                               part<QComboBox>(dialog, "cmbFields").setCurrentText(u"d"_s);
+                               EXPECT_FALSE(part(dialog, "cmdAddField").isEnabled());
+                               EXPECT_EQ(part(dialog, "cmdAddField").toolTip(), reasons.at(1));
+                               Hands::sort(dialog, {u"bits"_s}, true);
+                           },
+                           [&](QDialog &dialog) {
+                               part<QComboBox>(dialog, "cmbField1").setCurrentText(u"d"_s);
+                               const auto &operators = part<QComboBox>(dialog, "cmbOperator1");
+                               EXPECT_EQ(operators.findText(u"前 N 个"_s), -1);
+                               EXPECT_EQ(operators.findText(u"重复的值"_s), -1);
+                               auto *offer =
+                                   part<QLineEdit>(dialog, "txtValue1").findChild<QAction *>(u"actOffer"_s);
+                               ASSERT_TRUE(offer);
+                               EXPECT_FALSE(offer->isEnabled());
+                               EXPECT_EQ(offer->toolTip(), reasons.at(1));
+                               buildFilter(dialog, u"d"_s, u"包含"_s, u"a"_s);
+                           }});
+    hands->click(u"Sort"_s);
+    EXPECT_EQ(hands->texts(u"id"_s), QStringList({u"1"_s, u"2"_s}));
+    hands->click(u"Filter"_s);
+    EXPECT_EQ(hands->texts(u"id"_s), QStringList(u"1"_s));
+    EXPECT_TRUE(hands->messages.shown().empty()) << qUtf8Printable(hands->messages.texts().join(u'|'));
 }
 
 TEST_P(Trips, OfTheFilterDialog)

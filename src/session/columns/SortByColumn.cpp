@@ -37,7 +37,10 @@ QString whyNotChanged(Session &session, int col)
     const std::vector<SortTerm> order = shownOrder(session);
     if (static_cast<bool>(termOf(order, col)) != isWanted)
         return isWanted ? SessionMessages::NotSorted : SessionMessages::AlreadySorted;
-    return {};
+    // What is left would be another order.
+    const bool isWritten =
+        std::ranges::none_of(order, [](const SortTerm &term) { return term.text.isEmpty(); });
+    return isWritten ? QString() : SessionMessages::SortedByOther;
 }
 
 void sortBy(Session &session, const QStringList &terms)
@@ -66,7 +69,7 @@ QStringList textsOf(const std::vector<SortTerm> &order, int leftOut = 0)
 {
     QStringList texts;
     for (const SortTerm &term : order) {
-        if (!term.text.isEmpty() && (leftOut == 0 || term.column != leftOut))
+        if (leftOut == 0 || term.column != leftOut)
             texts.append(term.text);
     }
     return texts;

@@ -51,6 +51,18 @@ QString whyNotSorted(Session &session, int col)
                             : reason;
 }
 
+namespace {
+
+// Whether it has its order from within its table, by something that its result lacks.
+bool isSortedInside(const Derivation &derivation, const Dialect &dialect)
+{
+    const QString table = derivation.isSorted() ? QString() : derivation.table();
+    return !table.isEmpty() && std::ranges::any_of(Derivation(table, {}, dialect).outerTerms(),
+                                                   [](const OuterTerm &term) { return term.text.isEmpty(); });
+}
+
+} // namespace
+
 std::vector<SortTerm> shownOrder(Session &session)
 {
     if (!session.result().isOpen() || session.sharedHistory().isManager(nullptr))
@@ -63,6 +75,8 @@ std::vector<SortTerm> shownOrder(Session &session)
         return terms;
     }
     const Dialect dialect = dialectOf(session.filterManager().DBType(), session.result().engine());
+    if (derivation && isSortedInside(*derivation, dialect))
+        return {SortTerm()};
     const SqlScanner statement(session.result().recordset()->Source(), dialect);
     const SelectParts parts = SelectParts::of(statement);
     const QStringList headings = session.window().Headings();

@@ -7,6 +7,7 @@
 #include <QtWidgets/QComboBox>
 
 #include <algorithm>
+#include <functional>
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
@@ -62,6 +63,20 @@ TEST_F(ColumnMenu, AddsToASortByFieldsThatAreNotChosen)
     EXPECT_TRUE(messages.shown().empty()) << qUtf8Printable(messages.texts().join(u'|'));
 }
 
+TEST_F(ColumnMenu, AddsToASortByAPositionWithACollation)
+{
+    ASSERT_TRUE(load(u"SELECT ID,名称,城市 FROM 商品 ORDER BY 2 COLLATE NOCASE DESC, 1"_s, {}));
+    EXPECT_EQ(spoken(u"名称"_s), u"名称，第 1 排序字段，降序"_s);
+    choose(u"名称"_s, u"HideColumn"_s);
+    choose(u"城市"_s, u"AddToSort"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY 名称 COLLATE NOCASE DESC,ID,城市"_s))
+        << qUtf8Printable(statement());
+    choose(u"ID"_s, u"RemoveFromSort"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY 名称 COLLATE NOCASE DESC,城市"_s))
+        << qUtf8Printable(statement());
+    EXPECT_TRUE(messages.shown().empty()) << qUtf8Printable(messages.texts().join(u'|'));
+}
+
 TEST_F(ColumnMenu, GroupedRowsAreSortedAsWell)
 {
     ASSERT_TRUE(load(u"SELECT 城市,COUNT(*) AS 数量 FROM 商品 GROUP BY 城市"_s, {}));
@@ -78,13 +93,28 @@ TEST_F(ColumnMenu, AddsToASortOfWhatHasBecomeATable)
     EXPECT_EQ(spoken(u"COUNT(*)"_s), u"COUNT(*)，第 1 排序字段，降序"_s);
     EXPECT_EQ(spoken(u"城市"_s), u"城市，第 2 排序字段，升序"_s);
 
-    // The rows were taken by a field that is not shown, which no sort of them can name.
+    // The rows were taken by a field that is not shown, which no sort of them can name. So what is left of
+    // the sort would be another one.
     ASSERT_TRUE(load(u"SELECT ID,城市 FROM 商品 ORDER BY [Unit Price] DESC, 城市 LIMIT 5"_s, {}));
     const QStringList taken = texts(u"ID"_s);
-    choose(u"ID"_s, u"AddToSort"_s);
-    EXPECT_EQ(spoken(u"ID"_s), u"ID，第 2 排序字段，升序"_s);
-    QStringList sorted = texts(u"ID"_s);
-    EXPECT_TRUE(std::ranges::is_permutation(sorted, taken));
+    const std::pair<QString, QString> refused[] = {{u"ID"_s, u"AddToSort"_s},
+                                                   {u"城市"_s, u"RemoveFromSort"_s}};
+    for (const auto &[column, key] : refused) {
+        open(column);
+        EXPECT_FALSE(entry(key)->isEnabled());
+        EXPECT_TRUE(entry(key)->toolTip().startsWith(u"记录按结果中没有的内容排序"_s));
+        menu()->close();
+    }
+    // Nor do the records that a filter leaves of them have a name for it.
+    Shop::choose(14, 1, 2);
+    open(u"ID"_s);
+    EXPECT_FALSE(entry(u"AddToSort"_s)->isEnabled());
+    menu()->close();
+    click(u"ToPreview"_s);
+    choose(u"ID"_s, u"SortDescending"_s);
+    QStringList sorted = taken;
+    std::ranges::sort(sorted, std::greater<>(), [](const QString &id) { return id.toInt(); });
+    EXPECT_EQ(texts(u"ID"_s), sorted);
     EXPECT_TRUE(messages.shown().empty()) << qUtf8Printable(messages.texts().join(u'|'));
 }
 
