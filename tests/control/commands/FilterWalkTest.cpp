@@ -1,5 +1,6 @@
-// Random walks of a user who filters by cells, headings, the host's conditions and the builder, and changes rows that
-// the builder began with: the records are always those that a plain loop finds. KOVA_FILTER_STEPS asks for more steps.
+// Random walks of a user who filters by cells, headings, the host's conditions and the builder, and changes
+// rows that the builder began with: the records are always those that a plain loop finds. KOVA_FILTER_STEPS
+// asks for more steps.
 #include "ColumnValuesFixture.h"
 
 #include <QtWidgets/QComboBox>
