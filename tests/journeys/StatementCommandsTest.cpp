@@ -85,6 +85,15 @@ protected:
         }
     }
 
+    // As a user types it: a value with a quotation mark in quotation marks.
+    static QString listOf(const QString &text, const QString &other)
+    {
+        const auto typed = [](QString value) {
+            return value.contains(u'"') ? u'"' + value.replace(u'"', u"\"\""_s) + u'"' : value;
+        };
+        return typed(text) + u',' + typed(other);
+    }
+
     static std::vector<BuiltCase> casesOfTexts(const QString &text, const QString &other,
                                                Qt::CaseSensitivity letters)
     {
@@ -97,8 +106,8 @@ protected:
             {u"开头是"_s, begin, {}, [=](const QString &cell) { return cell.startsWith(begin, letters); }},
             {u"结尾是"_s, end, {}, [=](const QString &cell) { return cell.endsWith(end, letters); }},
             {u"不包含"_s, end, {}, [=](const QString &cell) { return !cell.contains(end, letters); }},
-            {u"在列表中"_s, text + u',' + other, {}, isEither},
-            {u"不在列表中"_s, text + u',' + other, {}, std::not_fn(isEither)},
+            {u"在列表中"_s, listOf(text, other), {}, isEither},
+            {u"不在列表中"_s, listOf(text, other), {}, std::not_fn(isEither)},
             {u"为空"_s, {}, {}, [](const QString &cell) { return cell.isEmpty(); }},
             {u"不为空"_s, {}, {}, [](const QString &cell) { return !cell.isEmpty(); }}};
     }
@@ -125,8 +134,8 @@ protected:
                 {u"小于或等于"_s, text, {}, compares(std::less_equal<>())},
                 {u"介于"_s, first, last, isBetween},
                 {u"不介于"_s, first, last, std::not_fn(isBetween)},
-                {u"在列表中"_s, text + u',' + other, {}, isEither},
-                {u"不在列表中"_s, text + u',' + other, {}, std::not_fn(isEither)},
+                {u"在列表中"_s, listOf(text, other), {}, isEither},
+                {u"不在列表中"_s, listOf(text, other), {}, std::not_fn(isEither)},
                 {u"为空"_s, {}, {}, [](const QString &cell) { return cell.isEmpty(); }},
                 {u"不为空"_s, {}, {}, [](const QString &cell) { return !cell.isEmpty(); }}};
     }
