@@ -46,7 +46,7 @@ set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "${library_package} (= ${PROJECT_VERSION}-1
 set(CPACK_DEBIAN_DEV_DESCRIPTION "${what_it_is}
 .
 This package holds the headers, what CMake and pkg-config need, the
-documents for developers and the examples.")
+documents for developers, the reference as pages and the examples.")
 
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_NAME kovavsfdatagrid-designer)
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_SECTION devel)
@@ -100,6 +100,9 @@ set(dev_dir ${doc_dir}/${CPACK_DEBIAN_DEV_PACKAGE_NAME})
 install(FILES ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${dev_dir} COMPONENT dev)
 install(FILES ${pages} DESTINATION ${dev_dir}/docs COMPONENT dev)
 install(DIRECTORY ${docs}/images DESTINATION ${dev_dir}/docs COMPONENT dev)
+if(TARGET docs) # the preset builds it
+  install(DIRECTORY ${KOVA_REFERENCE_DIR} DESTINATION ${dev_dir} COMPONENT dev)
+endif()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${dev_dir} COMPONENT dev)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/python/examples DESTINATION ${dev_dir}/python COMPONENT dev)
 if(python IN_LIST CPACK_COMPONENTS_ALL)

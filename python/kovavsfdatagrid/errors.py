@@ -8,7 +8,7 @@ class Error(Exception):
         super().__init__(Description)
         #: 0x800A0000 plus a number of ADODB.ErrorValueEnum, or a number of ADODB.ProviderErrorEnum, as a signed number.
         self.Number = Number
-        #: For the user, in Simplified Chinese.
+        #: For the user, in the language of the application (KOVAVSFDataGrid.Language).
         self.Description = Description
         #: The database's name; empty for an error of the data access itself.
         self.Source = Source
