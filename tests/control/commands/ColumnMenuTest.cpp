@@ -215,7 +215,7 @@ TEST_F(ColumnMenu, SaysWhyAnEntryIsGrey)
         return tip;
     };
     EXPECT_EQ(why(u"城市"_s, u"RemoveFromSort"_s), u"记录没有按此列排序。"_s);
-    EXPECT_EQ(why(u"城市"_s, u"FormatColumn"_s), u"只有数字列和是否列可以设置格式。"_s);
+    EXPECT_EQ(why(u"城市"_s, u"FormatColumn"_s), u"只有数字列和“是/否”列可以设置格式。"_s);
     EXPECT_EQ(why(u"ID"_s, u"MoveLeft"_s), u"这一侧没有其他列。"_s);
     EXPECT_EQ(why(u"ID"_s, u"MoveRight"_s), u"it is not"_s);
     choose(u"城市"_s, u"AddToSort"_s);
