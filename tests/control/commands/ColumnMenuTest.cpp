@@ -85,7 +85,7 @@ TEST_F(ColumnMenu, GroupedRowsAreSortedAsWell)
     EXPECT_EQ(texts(u"数量"_s).first(), u"2"_s);
 }
 
-TEST_F(ColumnMenu, AddsToASortOfWhatHasBecomeATable)
+TEST_F(ColumnMenu, AddsToADerivedTablesSortOnlyIfItCanKeepIt)
 {
     ASSERT_TRUE(load(u"SELECT 城市,COUNT(*) FROM 商品 GROUP BY 城市 ORDER BY COUNT(*) DESC"_s, {}));
     EXPECT_EQ(spoken(u"COUNT(*)"_s), u"COUNT(*)，第 1 排序字段，降序"_s);
