@@ -449,10 +449,10 @@
     </message>
     <message>
         <source>上次保存这条新记录时连接中断，其主键未知，无法核对是否已经保存。再次保存可能会重复。</source>
-        <translation>The connection to the database was lost when this new record was saved last. Its primary key is not known, so it cannot be checked whether the record was saved. Saving it again may save it twice.</translation>
+        <translation>The connection to the database was lost when this new record was saved last. Its primary key is unknown, so the program cannot check whether the record was saved. Saving it again may save it twice.</translation>
     </message>
     <message>
-        <source>上次保存这条新记录时连接中断，现在主键相同的记录与它不同，不知是否同一条。再次保存可能会重复。</source>
+        <source>上次保存这条新记录时连接中断，现在主键相同的记录与它不同，无法确定是不是同一条记录。再次保存可能会重复。</source>
         <translation>The connection to the database was lost when this new record was saved last. The record that now has its primary key is different: either this record was saved and then changed, or it is another record. Saving it again may save it twice.</translation>
     </message>
     <message>
@@ -1532,7 +1532,7 @@
     </message>
     <message>
         <source>已有名为“%1”的筛选，替换它吗？</source>
-        <translation>There is a filter called &quot;%1&quot; already. Replace it?</translation>
+        <translation>A filter named &quot;%1&quot; already exists. Replace it?</translation>
     </message>
     <message>
         <source>确实要删除筛选“%1”吗？</source>
@@ -1568,7 +1568,7 @@
     </message>
     <message>
         <source>记录太多，短时间内数不完。</source>
-        <translation>There are too many records to count them in a moment.</translation>
+        <translation>There are too many records to count quickly.</translation>
     </message>
     <message>
         <source>%1是%2之一</source>
@@ -2726,7 +2726,7 @@
     </message>
     <message>
         <source>部分字段的语句与当前语句的字段对应不上，不能只显示这些字段。</source>
-        <translation>The statement of the part fields does not match the fields of the shown statement, so they can&apos;t be shown alone.</translation>
+        <translation>The part statement does not match the fields of the current statement.</translation>
     </message>
     <message>
         <source>是按顺序排在最前的 %1 个之一</source>
@@ -2889,7 +2889,7 @@ Save it again anyway?</translation>
     </message>
     <message>
         <source>记录已经按此列排序。</source>
-        <translation>The records are sorted by this column already.</translation>
+        <translation>The records are already sorted by this column.</translation>
     </message>
     <message>
         <source>记录没有按此列排序。</source>
@@ -2904,8 +2904,8 @@ Save it again anyway?</translation>
         <translation>There is no other column on this side.</translation>
     </message>
     <message>
-        <source>只有数字列和是否列可以设置格式。</source>
-        <translation>Only columns of numbers and of yes and no have a format.</translation>
+        <source>只有数字列和“是/否”列可以设置格式。</source>
+        <translation>Only number and yes/no columns can be formatted.</translation>
     </message>
     <message>
         <source>记录按结果中没有的内容排序，与其他列一起排序就会失去它。请选“升序”或“降序”，只按此列排序。</source>

@@ -1,4 +1,4 @@
-"""From a CSV file into the grid, where the user filters and edits, and back into pandas."""
+"""Loads a CSV file into the grid, and reads it back into pandas after the user has filtered or edited it."""
 import sqlite3
 import sys
 import tempfile
@@ -23,5 +23,5 @@ with tempfile.NamedTemporaryFile(suffix='.db') as file:
     if not grid.IsLoadData():
         sys.exit(1)  # the grid has shown the user the reason
     app.exec()
-    print(grid.to_dataframe().describe())  # what the user left in the grid
+    print(grid.to_dataframe().describe())  # as the user has filtered or edited it
     grid.ClearObject()

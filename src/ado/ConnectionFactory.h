@@ -34,7 +34,7 @@ public:
     // else.
     static std::shared_ptr<Connection> connectionFor(qint32 dbType);
     static std::shared_ptr<Recordset> recordsetFor(qint32 dbType);
-    // The same for a connection that a user builds: the factory's for Oracle alone.
+    // Like connectionFor(), for a connection that a user builds: uses the factory for Oracle only.
     static std::shared_ptr<Connection> connectionToBuild(qint32 dbType);
 
     // The factory of this process. The built-in one is created on first use.

@@ -34,8 +34,8 @@ Q_ENUM_NS(CursorLocationEnum)
 enum CursorTypeEnum : qint32 {
     adOpenUnspecified = -1, // unspecified: uses the property CursorType
     adOpenForwardOnly = 0,  // forwards only
-    adOpenKeyset = 1,       // rows fixed, values live
-    adOpenDynamic = 2,      // all live
+    adOpenKeyset = 1,       // fixed set of rows, current values
+    adOpenDynamic = 2,      // fully dynamic
     adOpenStatic = 3        // a snapshot
 };
 Q_ENUM_NS(CursorTypeEnum)
@@ -302,7 +302,7 @@ enum ProviderErrorEnum : qint32 {
     dbErrNoTable = -2147217865,           // 80040E37: no such table or view
     dbErrConcurrency = -2147217864,       // 80040E38: the row is no longer the one shown
     dbErrInDoubt = -2147168234,           // 8004D016: connection lost during a save; the outcome is unknown
-    dbErrPerhapsSaved = -2147168016,      // 8004D0F0: after dbErrInDoubt: the outcome can't be found out
+    dbErrPerhapsSaved = -2147168016,      // 8004D0F0: the outcome of dbErrInDoubt can't be found out
     dbErrAuthFailed = -2147217843,        // 80040E4D: wrong user name or password
     dbErrCancelled = -2147217842,         // 80040E4E: the user or the program stopped it
     dbErrMultipleStatements = -2147217841 // 80040E4F: more than one statement

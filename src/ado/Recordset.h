@@ -108,21 +108,20 @@ public:
     qint64 AbsolutePage() const;
     void PutAbsolutePage(qint64 page);
 
-    // Writing a field's Value or calling AddNew begins an edit. Update writes it to the database in a
-    // transaction, and shows what the database stored. CancelUpdate discards it. Update and Delete change the
-    // record only if all of it is still as shown; otherwise they throw dbErrConcurrency. If Update fails,
-    // nothing is saved and the edit stays pending. After dbErrInDoubt the next Update finds out whether the
-    // edit was saved, and saves it only if not; Delete does the same. If that can't be determined for a new
-    // record, Update throws dbErrPerhapsSaved until ForgetAttempt or CancelUpdate. If a result can't be
-    // written (read-only, join, view, aggregate, distinct, union), they throw 3251. A new record is counted
-    // after it is saved. A move drops a new record without any value. AddNew on an unsaved new record saves
-    // it first; it throws dbErrCancelled if the record is refused or has no value. If the connection to a
-    // server was lost, the next of these calls opens a new one.
+    // Whether the current record is being edited. Writing a field's Value or calling AddNew begins an edit.
     EditModeEnum EditMode() const;
     // Why no record of the result can be added, changed or deleted, as a sentence for the user. Empty if the
     // result can be written, or if it is closed. Known since Open; the database is not asked.
     QString WhyReadOnly() const;
+    // Begins a new record, which is counted after it is saved. A move drops it if it has no value. AddNew on
+    // an unsaved new record saves it first; it throws dbErrCancelled if that is refused or has no value.
     void AddNew();
+    // Writes the edit in a transaction and shows what the database stored; CancelUpdate discards it. Throws
+    // dbErrConcurrency if any of the record is no longer as shown. After a failure nothing is saved and the
+    // edit stays pending; after dbErrInDoubt the next call finds out whether it was saved, and saves it only
+    // if not. If that can't be found out for a new record: dbErrPerhapsSaved until ForgetAttempt or
+    // CancelUpdate. AddNew, Update and Delete throw 3251 if the result can't be written (read-only, join,
+    // view, aggregate, distinct, union). If the connection was lost, the next of them opens a new one.
     void Update();
     void CancelUpdate();
     // After dbErrInDoubt from Update or Delete: reads the record again. If the database has the change, it is
@@ -136,8 +135,9 @@ public:
     // wrote. Only adAffectCurrent is supported. Throws 3251 for a result that can't be written, and
     // dbErrDeletedRow if the record was deleted.
     void Resync(AffectEnum affect = adAffectCurrent, ResyncEnum what = adResyncAllValues);
-    // Only adAffectCurrent is supported. The deleted record stays current until a move; reading it throws
-    // dbErrDeletedRow.
+    // Only adAffectCurrent is supported. Throws dbErrConcurrency if any of the record is no longer as shown.
+    // The deleted record stays current until a move; reading it throws dbErrDeletedRow. After dbErrInDoubt
+    // the next call finds out whether the record was deleted, and deletes it only if not.
     void Delete(AffectEnum affect = adAffectCurrent);
 
     // Random access for views: `record` is 1…RecordCount, `column` is 0-based. They neither move nor notify.

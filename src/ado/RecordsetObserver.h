@@ -9,8 +9,8 @@ namespace ADODB {
 class RecordsetObserver
 {
 public:
-    // The current record is about to be saved or left. Text that
-    // the user is still typing can be written to its fields now.
+    // The current record is about to be saved or left.
+    // Text that the user is still typing can be written to its fields now.
     // May throw Error; the record is then neither saved nor left.
     virtual void willLeaveRecord() {}
     // The current record moved, or a move stopped at the beginning or end. Opening is reported as adRsnMove.

@@ -43,8 +43,8 @@ struct ConditionRequest
     // The conditions that the one asked for replaces; to begin with, all of them.
     std::vector<ConditionInForce> replaced = {};
     // Of a choice of values: what the one in force was made from, as whoever is asked wrote it.
-    // Of a condition that is answered: what was built anew in it, and what from. The rest of it are some of
-    // `replaced`, which the user keeps.
+    // Of a condition that is answered: the part that was newly built, and what it was built from. The rest of
+    // it are those of `replaced` that the user keeps.
     mutable QString built = {};
     mutable QString builtCondition = {};
 };

@@ -36,7 +36,7 @@ inline constexpr Text SortedByOther =
     tr("记录按结果中没有的内容排序，与其他列一起排序就会失去它。请选“升序”或“降序”，只按此列排序。");
 inline constexpr Text LastColumn = tr("至少要显示一列。");
 inline constexpr Text NoColumnBeside = tr("这一侧没有其他列。");
-inline constexpr Text NoFormat = tr("只有数字列和是否列可以设置格式。");
+inline constexpr Text NoFormat = tr("只有数字列和“是/否”列可以设置格式。");
 inline constexpr Text NothingAhead = tr("没有可以前进到的结果。");
 inline constexpr Text InsertCancelled = tr("再次插入空行操作已被取消");
 inline constexpr Text CopyRefused = tr("无法复制记录：");

@@ -95,7 +95,7 @@ INSTANTIATE_TEST_SUITE_P(
         SwitchCase{"[Use3Tier]\nMERIX=YES, really\n", 0}, SwitchCase{"[Use3Tier]\n;MERIX=YES\n", 0},
         SwitchCase{"", 0}));
 
-TEST_P(ThreeTierSwitch, IsOnForYesUnderItsSectionAndKeyAlone)
+TEST_P(ThreeTierSwitch, IsOnOnlyForYesInItsSectionAndKey)
 {
     write(GetParam().text);
     EXPECT_EQ(readThreeTierSwitch(), GetParam().isOn);

@@ -150,7 +150,7 @@ TEST_F(Builder, StartsEmptyWhereTheStringMakesNoSense)
     EXPECT_TRUE(field("txtFile").text().isEmpty());
 }
 
-TEST_F(Builder, AFileHasToBeNamedFirst)
+TEST_F(Builder, OkAndTestNeedAFileName)
 {
     begin();
     EXPECT_FALSE(part(dialog, "OKButton").isEnabled());

@@ -64,7 +64,7 @@ struct GridMenu : testing::Test
 
 } // namespace
 
-TEST_F(GridMenu, ComesWithTheRightButtonOnDataBeforeTheHostIsTold)
+TEST_F(GridMenu, OpensOnARightClickOnDataBeforeTheHostGetsTheEvent)
 {
     fill(u"select ID from T"_s);
     click(Qt::RightButton, rowPlace(2));

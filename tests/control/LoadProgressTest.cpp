@@ -161,7 +161,7 @@ TEST_F(LoadProgressTest, NothingElseTakesInput)
     EXPECT_EQ(clicks.count(), 1);
 }
 
-TEST_F(LoadProgressTest, ASecondLoadAnswersFalseAtOnce)
+TEST_F(LoadProgressTest, ASecondLoadReturnsFalseAtOnce)
 {
     KOVAVSFDataGrid second;
     second.PutConnectionString(database.connectionString());

@@ -138,7 +138,7 @@ TEST_F(LoadSteps, FitByTheSizeOfAControlThatIsYetToBeShown)
     EXPECT_EQ(view->ColWidth(1), (Twips::fromPixels(view->width(), *view) - 860) / 4);
 }
 
-TEST_F(LoadSteps, SurviveFieldsOfOneNameAndOfNone)
+TEST_F(LoadSteps, ShowFieldsWithEqualOrEmptyNames)
 {
     MessageAnswers messages;
     ASSERT_TRUE(load(u"select A, ID as A, B as \"\" from T"_s));

@@ -232,7 +232,7 @@ struct FailingStep : Misuse, testing::WithParamInterface<QMessageBox::StandardBu
 
 INSTANTIATE_TEST_SUITE_P(Answers, FailingStep, testing::Values(QMessageBox::Yes, QMessageBox::No));
 
-TEST_P(FailingStep, IsReportedWithItsNumberAndTheQuestionWhetherToContinue)
+TEST_P(FailingStep, ShowsItsErrorNumberAndAsksWhetherToContinue)
 {
     QObject::connect(&grid, &KOVAVSFDataGrid::PropertyChanged, &grid,
                      [] { throw ADODB::Error(ADODB::adErrNoCurrentRecord, u"no record"_s); });

@@ -61,7 +61,7 @@ TEST_F(Picture, IsWrittenByteForByte)
     EXPECT_EQ(left(), QByteArray::fromHex("00ff0a0d00"));
 }
 
-TEST_F(Picture, TakesTheOldOnesPlace)
+TEST_F(Picture, ReplacesTheOldFile)
 {
     show(u"Photo"_s);
     leaveAnOldOne();
@@ -69,7 +69,7 @@ TEST_F(Picture, TakesTheOldOnesPlace)
     EXPECT_EQ(left(), Bitmap);
 }
 
-TEST_F(Picture, OfARecordWithoutOneIsNoFile)
+TEST_F(Picture, IsRemovedForARecordWithoutAPicture)
 {
     show(u"Photo"_s);
     leaveAnOldOne();

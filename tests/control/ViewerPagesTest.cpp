@@ -32,7 +32,7 @@ TEST_F(Viewer, OnAOnePageResultNextAndLastDoNothing)
     }
 }
 
-TEST_F(PagedViewer, APageShowsFromItsFirstRecordToTheEndOfAll)
+TEST_F(PagedViewer, APageShowsAllRecordsFromItsFirstOn)
 {
     show(2);
     EXPECT_EQ(user.label(), u"第2页共3页"_s);
@@ -41,7 +41,7 @@ TEST_F(PagedViewer, APageShowsFromItsFirstRecordToTheEndOfAll)
     EXPECT_EQ(user.row(3), u"5  50 2005-05-05"_s);
 }
 
-TEST_F(PagedViewer, TheGridKeepsAMillionRowsAndAnEmptyFirstColumnWhateverItShows)
+TEST_F(PagedViewer, EveryPageHasAMillionRowsAndAnEmptyFirstColumn)
 {
     show(3);
     const VSFlexGrid &grid = user.grid();

@@ -109,7 +109,7 @@ TEST_F(Viewer, StoresCountAndPositionForAll)
     EXPECT_EQ(SharedValues::instance().recordPosition, 3);
 }
 
-TEST_F(Viewer, AClosedRecordsetIsPageNoughtOfNought)
+TEST_F(Viewer, ShowsPageZeroOfZeroForAClosedRecordset)
 {
     load(u"select * from T"_s);
     result.recordset()->Close();

@@ -35,7 +35,7 @@ public:
     STDMETHODIMP GetNaturalExtent(DWORD aspect, LONG index, DVTARGETDEVICE *target, HDC targetContext,
                                   DVEXTENTINFO *info, LPSIZEL size) override;
 
-    // It covers all that is behind it.
+    // It is opaque.
     static constexpr DWORD viewStatus = VIEWSTATUS_OPAQUE;
 
     // Draws with about so many dots, whatever the context has. To save memory, at most 6 times the screen's

@@ -16,8 +16,8 @@ struct DisplayFormat
     int decimals = -1; // rounded half away from zero; -1: as many as the text has
     enum class Truth { Word, YesNo, Box };
     Truth truth = Truth::Word; // how a Boolean is shown
-    // Where all decimals are shown: zeros behind a number that has fewer. That is the field's, no part of the
-    // text.
+    // If all decimals are shown: a number with fewer decimals is filled up with zeros to this many. It comes
+    // from the field and is not part of the text.
     int leastDecimals = 0;
 
     // Accepts "0", "0.00", "#,##0", "#,##0.000", "#,##" (any decimals with thousands), "是/否", "☑/☐", and ""

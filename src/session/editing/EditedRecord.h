@@ -41,7 +41,7 @@ public:
     // Discards its changes.
     void cancel();
     // Reads the record again and shows what others have changed. The user's own changes are kept, still
-    // unsaved; he is told about fields that both have changed.
+    // unsaved; a message lists the fields that both have changed.
     void showNewValues();
 
     // Whether it has changes that are not yet saved.

@@ -31,7 +31,7 @@ struct SelectParts
         bool isStar = false; // * or T.*
         // A name, possibly qualified with dots; the last part is the column's.
         bool isName = false;
-        // For a sort term, what another value needs behind it to be sorted in the same way: DESC, for
+        // For a sort term, what must follow another value so that it is sorted in the same way: DESC, for
         // example.
         QString rest = {};
         bool isDescending = false;

@@ -85,7 +85,7 @@ TEST_F(ColumnMenu, GroupedRowsAreSortedAsWell)
     EXPECT_EQ(texts(u"数量"_s).first(), u"2"_s);
 }
 
-TEST_F(ColumnMenu, AddsToASortOfWhatHasBecomeATable)
+TEST_F(ColumnMenu, AddsToADerivedTablesSortOnlyIfItCanKeepIt)
 {
     ASSERT_TRUE(load(u"SELECT 城市,COUNT(*) FROM 商品 GROUP BY 城市 ORDER BY COUNT(*) DESC"_s, {}));
     EXPECT_EQ(spoken(u"COUNT(*)"_s), u"COUNT(*)，第 1 排序字段，降序"_s);
@@ -215,7 +215,7 @@ TEST_F(ColumnMenu, SaysWhyAnEntryIsGrey)
         return tip;
     };
     EXPECT_EQ(why(u"城市"_s, u"RemoveFromSort"_s), u"记录没有按此列排序。"_s);
-    EXPECT_EQ(why(u"城市"_s, u"FormatColumn"_s), u"只有数字列和是否列可以设置格式。"_s);
+    EXPECT_EQ(why(u"城市"_s, u"FormatColumn"_s), u"只有数字列和“是/否”列可以设置格式。"_s);
     EXPECT_EQ(why(u"ID"_s, u"MoveLeft"_s), u"这一侧没有其他列。"_s);
     EXPECT_EQ(why(u"ID"_s, u"MoveRight"_s), u"it is not"_s);
     choose(u"城市"_s, u"AddToSort"_s);

@@ -42,7 +42,7 @@ TEST_F(FilterKeeps, WhatHasNoRowIsALineThatIsKept)
     EXPECT_EQ(grid.SQLFilter(), u"SELECT * FROM 商品  WHERE 城市 = '厦门' "_s);
 }
 
-TEST_F(FilterKeeps, AColumnWhoseNameEndsAnothersKeepsItsOwnCondition)
+TEST_F(FilterKeeps, ColumnsWithTheSameNameEndingKeepTheirOwnConditions)
 {
     database.run(u"CREATE TABLE 库存 (ID INTEGER PRIMARY KEY, 数量 INTEGER, 库存数量 INTEGER);"
                  "INSERT INTO 库存 VALUES (1,3,3),(2,3,7),(3,7,3),(4,5,3),(5,7,9),"
@@ -141,7 +141,7 @@ TEST_F(FilterKeeps, ATypedConditionIsJoinedToWhatIsKept)
     });
 }
 
-TEST_F(FilterKeeps, RowsThatCompareOtherRecordsThanTheyDidAreALine)
+TEST_F(FilterKeeps, ATopNOverOtherRecordsIsAKeptLine)
 {
     ASSERT_TRUE(load());
     tickAlone(u"城市"_s, {u"大连"_s, u"杭州"_s});

@@ -34,7 +34,7 @@ TEST_F(FilterRowsAgain, TickedValuesAreARowAgain)
     EXPECT_EQ(conditions().size(), 2);
 }
 
-TEST_F(FilterRowsAgain, AHeadingsPartStaysWhenTheBuildersRowIsChanged)
+TEST_F(FilterRowsAgain, ChangingADialogRowKeepsTheColumnMenusCondition)
 {
     ASSERT_TRUE(load());
     filterWith([](QDialog &dialog) {
@@ -141,7 +141,7 @@ TEST_F(FilterRowsAgain, WhatTheHostAndOneFieldsWordsAskForAreRows)
               QString::number(rows()));
 }
 
-TEST_F(FilterRowsAgain, WhatIsNotTouchedStaysTheHeadings)
+TEST_F(FilterRowsAgain, AnUnchangedConditionStillBelongsToTheColumnMenu)
 {
     ASSERT_TRUE(load());
     const auto tickNull = [this] {
@@ -169,7 +169,7 @@ TEST_F(FilterRowsAgain, WhatIsNotTouchedStaysTheHeadings)
     EXPECT_EQ(conditions(), QStringList(u"ID < 99"_s)) << "and not one more";
 }
 
-TEST_F(FilterRowsAgain, WhatAHeadingMakesLaterIsTheHeadings)
+TEST_F(FilterRowsAgain, ALaterColumnMenuConditionBelongsToTheColumnMenu)
 {
     ASSERT_TRUE(load());
     filterWith([](QDialog &dialog) {

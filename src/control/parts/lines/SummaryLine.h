@@ -5,9 +5,9 @@
 
 namespace KOVAVSFDataGridLib {
 
-// What the selected cells come to, in the line below the grid. Each value can be clicked, or reached by the
-// Tab key and pressed by Enter, to copy it. Values are never cut: those without room are in a menu behind
-// "…".
+// The totals of the selected cells, in the line below the grid. To copy a value, click it, or reach it with
+// the Tab key and press Enter. Values are never cut: if they don't fit, the menu of "…" lists all of
+// them.
 class SummaryLine final : public QLabel
 {
     Q_OBJECT
