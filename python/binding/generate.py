@@ -20,14 +20,18 @@ CHANGEABLE = {
 HINTS = {'void': 'None', 'bool': 'bool', 'qint16': 'int', 'qint32': 'int', 'float': 'float', 'QString': 'str',
          'QColor': 'QColor', 'QFont': 'QFont', 'QObject *': 'QObject'}
 
+ERRORS = ('Everything runs on the GUI thread. Errors are shown in message boxes. Only UseModel raises an exception, '
+          'ControlError, and the members of RecordSet raise Error.')
+
 
 def plain(cpp):
     """A type as it is passed by value: `const QString &` is QString."""
     return cpp.removeprefix('const ').removesuffix('&').strip()
 
 
-def wrapped(text, indent):
-    return textwrap.fill(text, 112, initial_indent=indent, subsequent_indent=indent)
+def wrapped(text, indent=''):
+    return '\n\n'.join(textwrap.fill(paragraph, 112, initial_indent=indent, subsequent_indent=indent)
+                       for paragraph in text.split('\n\n'))
 
 
 def docstring(text, indent):
@@ -38,6 +42,10 @@ def hint_docstring(text, indent):
     return f'{indent}"""{wrapped(text, indent).strip()}"""\n'
 
 
+def class_doc(control, indent):
+    return wrapped(f'{control.doc}\n\n{ERRORS}', indent)
+
+
 def event_arguments(event):
     """The C++ arguments of the signal that Python sees."""
     text = ', '.join(f'{cpp} {name}'.replace('& ', '&') for cpp, name in event.arguments)
@@ -46,6 +54,12 @@ def event_arguments(event):
     if any(cpp.endswith('&') and not cpp.startswith('const ') for cpp, _ in event.arguments):
         sys.exit(f'generate.py: add an entry to CHANGEABLE for the event {event.name}({text})')
     return text
+
+
+def accepted_by(member, control):
+    """The type hint of what a property can be set to."""
+    is_enumeration = member.type in {enumeration.name for enumeration in control.enumerations}
+    return f'{member.type} | int' if is_enumeration else HINTS[member.type]
 
 
 def sip_enumeration(enumeration, indent):
@@ -79,12 +93,12 @@ def properties_text(template, control, ado):
     lines = []
     for member in control.properties:
         if member.name != 'RecordSet':
-            setter = f'PythonGrid._Put{member.name}' if member.writable else 'None'
-            lines.append(f'PythonGrid.{member.name} = property(\n    PythonGrid._{member.name}, {setter},\n'
-                         f'    doc={member.doc!r})\n')
+            accepted = accepted_by(member, control) if member.writable else ''
+            lines.append(f'_add({member.name!r}, {accepted!r}, {wrapped(member.doc)!r})\n')
     # Nor does SIP give enumerations a docstring.
-    lines += [f'PythonGrid.{enumeration.name}.__doc__ = {enumeration.doc!r}\n' for enumeration in control.enumerations]
-    lines += [f'ADODB.{enumeration.name}.__doc__ = {enumeration.doc!r}\n' for enumeration in ado]
+    lines += [f'PythonGrid.{enumeration.name}.__doc__ = {wrapped(enumeration.doc)!r}\n'
+              for enumeration in control.enumerations]
+    lines += [f'ADODB.{enumeration.name}.__doc__ = {wrapped(enumeration.doc)!r}\n' for enumeration in ado]
     return template.replace('@PROPERTIES@', ''.join(lines))
 
 
@@ -101,7 +115,7 @@ def sip_text(template, control, ado):
               for event in control.events]
     values = ''.join(sip_enumeration(enumeration, '') for enumeration in ado)
     scoped = 'namespace ADODB {\n%TypeHeaderCode\n#include <KOVAVSFDataGridLib/ado/Enums.h>\n%End\n' + values + '};\n'
-    return (template.replace('@DOC@', control.doc).replace('@MEMBERS@', '\n'.join(filter(None, lines)))
+    return (template.replace('@DOC@', class_doc(control, '')).replace('@MEMBERS@', '\n'.join(filter(None, lines)))
             .replace('@ADO@', scoped))
 
 
@@ -121,8 +135,8 @@ def hint_text(template, control, ado):
         lines.append(f'    @property\n    def {member.name}(self) -> {hint}:\n'
                      + hint_docstring(member.doc, '        '))
         if member.writable:
-            accepted = hint if hint not in {e.name for e in control.enumerations} else f'{hint} | int'
-            lines.append(f'    @{member.name}.setter\n    def {member.name}(self, value: {accepted}) -> None: ...\n')
+            lines.append(f'    @{member.name}.setter\n'
+                         f'    def {member.name}(self, value: {accepted_by(member, control)}) -> None: ...\n')
     for method in control.methods:
         arguments = ''.join(f', {name}: {hints[plain(cpp)]}' for cpp, name in method.arguments)
         lines.append(f'    def {method.name}(self{arguments}) -> {hints[method.type]}:\n'
@@ -131,7 +145,7 @@ def hint_text(template, control, ado):
         lines.append(f'    {event.name}: ClassVar[pyqtSignal]  # ({event_arguments(event)})\n')
         lines.append(hint_docstring(event.doc, '    '))
     values = ''.join(hint_enumeration(enumeration, '    ') for enumeration in ado)
-    return (template.replace('@DOC@', control.doc).replace('@MEMBERS@', '\n'.join(lines))
+    return (template.replace('@DOC@', class_doc(control, '    ').strip()).replace('@MEMBERS@', '\n'.join(lines))
             .replace('@ADO@', 'class ADODB:\n' + values))
 
 

@@ -20,6 +20,21 @@ class Enumeration:
     doc: str
 
 
+def _in_python(text):
+    """A text of the headers in Python's words."""
+    for cpp, python in (('; see Error.h', ''), ('an ADODB::Adodc', 'a QObject'), ('KOVAVSFDataGridLib::', ''),
+                        ('throws', 'raises')):
+        text = text.replace(cpp, python)
+    text = re.sub(r'::(\w+)(?:\(\))?', r'.\1', text)
+    return re.sub(r'\b(true|false|null)\b', lambda word: 'None' if word[0] == 'null' else word[0].capitalize(), text)
+
+
+def _doc(lines):
+    """The text of a comment's lines; an empty one ends a paragraph."""
+    words = (line.strip().removeprefix('//').strip() for line in lines)
+    return _in_python(re.sub(r'\s*\n\s*', '\n\n', ' '.join(line or '\n' for line in words)).strip())
+
+
 def _blocks(text):
     """Yields each declaration with the comment that applies to it. A comment applies up to the next blank line."""
     comment, declaration, fresh = [], '', True
@@ -28,7 +43,7 @@ def _blocks(text):
         if line.startswith('//') and not declaration:
             if not fresh:
                 comment, fresh = [], True
-            comment.append(line[2:].strip())
+            comment.append(line)
         elif not line:
             comment, fresh = [], True
         elif not declaration and re.fullmatch(r'\w+:?', line):
@@ -36,7 +51,7 @@ def _blocks(text):
         else:
             declaration += ' ' + re.sub(r'\s*//.*', '', line)
             if declaration.endswith((';', '{', '}', ')')) and declaration.count('(') == declaration.count(')'):
-                yield declaration.strip(), ' '.join(comment)
+                yield declaration.strip(), _doc(comment)
                 declaration, fresh = '', False
 
 
@@ -47,9 +62,9 @@ def _arguments(text):
 def enumerations(text):
     found = []
     for match in re.finditer(r'((?:^ *//.*\n)*)^ *enum (\w+) : qint32 \{\n([^}]*)\};', text, re.M):
-        doc = ' '.join(line.strip()[2:].strip() for line in match[1].splitlines())
         values = re.findall(r'(\w+) = (-?\w+),?(?: *// *(.*))?', match[3])
-        found.append(Enumeration(match[2], [(name, int(number, 0), note) for name, number, note in values], doc))
+        values = [(name, int(number, 0), _in_python(note)) for name, number, note in values]
+        found.append(Enumeration(match[2], values, _doc(match[1].splitlines())))
     return found
 
 
@@ -66,8 +81,9 @@ class Control:
             if match:
                 docs[match[2]] = doc
                 functions[match[2]] = Member(match[2], match[1].strip(), _arguments(match[3]), doc)
-        self.doc = re.search(r'((?:^//.*\n)+)class KOVA_EXPORT KOVAVSFDataGrid', control, re.M)[1]
-        self.doc = ' '.join(line[2:].strip() for line in self.doc.splitlines())
+        comment = re.search(r'((?:^//.*\n)+)class KOVA_EXPORT KOVAVSFDataGrid', control, re.M)[1]
+        # What follows the first paragraph is about C++.
+        self.doc = _doc(comment.splitlines()).partition('\n\n')[0]
         self.properties = []
         for declaration, doc in _blocks(control):
             match = re.match(r'Q_PROPERTY\((.+?)(\w+) READ \w+( WRITE \w+)?', declaration)

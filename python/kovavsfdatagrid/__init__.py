@@ -11,6 +11,8 @@
 Properties, methods and events have the names of the reference. Events with arguments that a handler may change carry an
 object with these arguments.
 """
+# mypy: disable-error-code="import"
+# That is for pandas, which is optional.
 from __future__ import annotations
 
 from typing import TYPE_CHECKING

@@ -4,7 +4,7 @@ from __future__ import annotations
 from collections.abc import Iterator, Sequence
 from typing import Any, overload
 
-from ._kovavsfdatagrid import ADODB
+from ._kovavsfdatagrid import ADODB, Result
 
 _RECORDS_AT_ONCE = 1000
 
@@ -43,7 +43,7 @@ class Record(Sequence[Any]):
 class Field:
     """One column, and in Value its cell in the current record."""
 
-    def __init__(self, result: Any, index: int):
+    def __init__(self, result: Result, index: int):
         self._result = result
         self._index = index
 
@@ -110,7 +110,7 @@ class Field:
 class Fields(Sequence[Field]):
     """The columns: by position, by name in any letter case, or in a loop."""
 
-    def __init__(self, result: Any):
+    def __init__(self, result: Result):
         self._result = result
 
     def __len__(self) -> int:
@@ -151,7 +151,7 @@ class Recordset(Sequence[Record]):
     is also the grid's: MoveNext moves the grid.
     """
 
-    def __init__(self, result: Any):
+    def __init__(self, result: Result):
         self._result = result
 
     def __len__(self) -> int:

@@ -8,8 +8,10 @@ from pathlib import Path
 
 import kovavsfdatagrid
 import pytest
-from kovavsfdatagrid import KOVAVSFDataGrid
+from kovavsfdatagrid import ADODB, KOVAVSFDataGrid
+from kovavsfdatagrid._kovavsfdatagrid import Result
 from PyQt6 import uic
+from PyQt6.QtCore import pyqtSignal
 from PyQt6.QtWidgets import QWidget
 
 TOP = Path(__file__).parents[2]
@@ -58,6 +60,25 @@ def test_every_member_is_documented(name):
     assert getattr(KOVAVSFDataGrid, name).__doc__
 
 
+def test_docstrings_are_in_words_of_python_and_wrapped():
+    members = {name: getattr(KOVAVSFDataGrid, name) for name in real_members()}
+    # PyQt gives all events one docstring, about signals.
+    texts = {name: member.__doc__ for name, member in members.items() if not isinstance(member, pyqtSignal)}
+    texts['KOVAVSFDataGrid'] = KOVAVSFDataGrid.__doc__
+    texts |= {name: value.__doc__ for name, value in vars(ADODB).items() if name.endswith('Enum')}
+    foreign = re.compile(r'::|C\+\+|\b(true|false|null|throws?)\b')
+    assert {name: text for name, text in texts.items() if foreign.search(text)} == {}
+    assert {name for name, text in texts.items() if max(map(len, text.splitlines())) > 120} == set()
+    assert len(KOVAVSFDataGrid.__doc__.split('\n\n')) == 2
+
+
+@pytest.mark.parametrize('name, value, accepted', [('SQLShow', 1, 'str, not int'), ('ReadOnly', 'x', 'bool, not str'),
+                                                   ('DBType', 'x', 'AllDBType | int, not str')])
+def test_a_value_of_the_wrong_type_is_reported_with_the_property(name, value, accepted):
+    with pytest.raises(TypeError, match=f'^{re.escape(f"{name} must be {accepted}")}$'):
+        setattr(KOVAVSFDataGrid(), name, value)
+
+
 def test_a_form_is_loaded():
     form = uic.loadUi(str(TOP / 'tests/designer/form.ui'), QWidget())
     assert type(form.grid) is KOVAVSFDataGrid
@@ -99,6 +120,21 @@ def names(grid: KOVAVSFDataGrid) -> list[str]:
     outcome = subprocess.run(command + [host], capture_output=True, text=True,
                              env=os.environ | {'MYPYPATH': str(package)})
     assert outcome.stdout.startswith('Success'), outcome.stdout
+
+
+def test_the_package_itself_passes_a_type_checker(tmp_path):
+    pytest.importorskip('mypy')
+    package = Path(kovavsfdatagrid.__file__).parent
+    outcome = subprocess.run([sys.executable, '-m', 'mypy', '--strict', '--follow-imports=silent',
+                              '--cache-dir', tmp_path / 'cache', '-p', package.name],
+                             capture_output=True, text=True, env=os.environ | {'MYPYPATH': str(package.parent)})
+    assert outcome.stdout.startswith('Success'), outcome.stdout
+
+
+def test_the_type_hints_of_the_result_name_what_there_is():
+    hinted = next(node for node in HINTS.body if isinstance(node, ast.ClassDef) and node.name == 'Result')
+    names = {node.name for node in hinted.body if isinstance(node, ast.FunctionDef)}
+    assert names == {name for name in vars(Result) if not name.startswith('_')}
 
 
 @pytest.mark.parametrize('example', sorted((TOP / 'python/examples').glob('*.py')), ids=lambda path: path.name)

@@ -265,10 +265,11 @@ int main(int argc, char **argv)
     const QStringList options = QApplication::arguments().mid(2);
     if (options.contains(u"dark"_s))
         QApplication::setPalette(KovaTest::darkPalette());
+    // Beside the library's own: kovagrid's texts are written in Chinese, Qt's in English.
+    const bool english = options.contains(u"en"_s) && Language::use(u"en"_s);
     QTranslator texts;
-    if (options.contains(u"en"_s))
-        Language::use(u"en"_s);
-    else if (texts.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (english ? texts.load(u"kovagrid_en"_s, u":/KOVAVSFDataGridLib/translations"_s)
+                : texts.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&texts);
     QFont font = QApplication::font();
     font.setFamilies({u"Noto Sans CJK SC"_s, font.family()}); // as kovagrid chooses it
