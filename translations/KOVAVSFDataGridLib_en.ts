@@ -452,7 +452,7 @@
         <translation>The connection to the database was lost when this new record was saved last. Its primary key is unknown, so the program cannot check whether the record was saved. Saving it again may save it twice.</translation>
     </message>
     <message>
-        <source>上次保存这条新记录时连接中断，现在主键相同的记录与它不同，无法确定是不是同一条记录。再次保存可能会重复。</source>
+        <source>上次保存这条新记录时连接中断，现在主键相同的记录与它不同，无法确定是否同一条。再次保存可能会重复。</source>
         <translation>The connection to the database was lost when this new record was saved last. The record that now has its primary key is different: either this record was saved and then changed, or it is another record. Saving it again may save it twice.</translation>
     </message>
     <message>

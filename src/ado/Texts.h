@@ -145,7 +145,7 @@ inline constexpr Text inDoubt =
 inline constexpr Text newKeyUnknown =
     tr("上次保存这条新记录时连接中断，其主键未知，无法核对是否已经保存。再次保存可能会重复。");
 inline constexpr Text newKeyTaken =
-    tr("上次保存这条新记录时连接中断，现在主键相同的记录与它不同，无法确定是不是同一条记录。再次保存可能会重复。");
+    tr("上次保存这条新记录时连接中断，现在主键相同的记录与它不同，无法确定是否同一条。再次保存可能会重复。");
 inline constexpr Text fileReplaced = tr("数据库文件已被移动、删除或替换，没有保存任何更改，请重新打开。");
 inline constexpr Text closedWhileEdited = tr("当前记录有尚未保存的修改，不能关闭记录集。");
 inline constexpr Text savedUnseen = tr("更改可能已经保存，但无法再读取该记录。重试时会先核对。（%1）");
