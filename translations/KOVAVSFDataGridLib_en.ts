@@ -1152,7 +1152,7 @@
     </message>
     <message>
         <source>例如 2024-01-31、2024-03 或“本月”</source>
-        <translation>For example 2024-01-31, 2024-03 or &quot;this month&quot;</translation>
+        <translation>2024-01-31, 2024-03 or &quot;today&quot;</translation>
     </message>
     <message>
         <source>例如 08:30</source>
@@ -1160,7 +1160,7 @@
     </message>
     <message>
         <source>例如 2024-01-31、2024-01-31 08:30 或“本月”</source>
-        <translation>For example 2024-01-31, 2024-01-31 08:30 or &quot;this month&quot;</translation>
+        <translation>2024-01-31, 2024-01-31 08:30 or &quot;today&quot;</translation>
     </message>
     <message>
         <source>“是”或“否”</source>

@@ -80,6 +80,14 @@ QString hintFor(FieldClass fieldClass)
     }
 }
 
+// The same for a box without room for it; it fits into comfortableWidth(). Empty if there is none.
+QString shortHintFor(FieldClass fieldClass)
+{
+    return fieldClass == FieldClass::Date     ? u"2024-01-31"_s
+           : fieldClass == FieldClass::Moment ? u"2024-01-31 08:30"_s
+                                              : QString();
+}
+
 bool hasDays(FieldClass fieldClass)
 {
     return fieldClass == FieldClass::Date || fieldClass == FieldClass::Moment;
@@ -113,7 +121,7 @@ void ValueEdit::setKind(FieldClass fieldClass, bool isList, const QString &whyNo
     m_whyNoValues = whyNoValues;
     m_fieldClass = fieldClass;
     m_isList = isList;
-    setPlaceholderText(isList ? FilterTexts::ListHint : hintFor(fieldClass));
+    m_hint = isList ? QString(FilterTexts::ListHint) : hintFor(fieldClass);
     const bool hasValues = (m_askForValues || m_readValues) && fieldClass != FieldClass::Other;
     m_offer->setVisible(hasDays(fieldClass) || fieldClass == FieldClass::Text ||
                         fieldClass == FieldClass::Boolean || hasValues);
@@ -121,12 +129,21 @@ void ValueEdit::setKind(FieldClass fieldClass, bool isList, const QString &whyNo
     m_offerValues->setVisible(hasValues && hasDays(fieldClass));
     m_offerText = hasDays(fieldClass) ? FilterTexts::PickDate : FilterTexts::PickValue;
     writeTexts();
+    showHint();
 }
 
 void ValueEdit::setCount()
 {
     setKind(FieldClass::Other, false); // a number of values, whatever the field's type
-    setPlaceholderText(FilterTexts::CountHint);
+    m_hint = FilterTexts::CountHint;
+    showHint();
+}
+
+void ValueEdit::showHint()
+{
+    const QString shorter = m_isList ? QString() : shortHintFor(m_fieldClass);
+    const bool hasRoom = widthFor(m_hint) <= width();
+    setPlaceholderText(hasRoom || shorter.isEmpty() ? m_hint : shorter);
 }
 
 // A cell copied from a spreadsheet ends with a line break that is not part of the value.
@@ -145,9 +162,20 @@ int ValueEdit::comfortableWidth() const
     const QString longest = m_fieldClass == FieldClass::Moment ? u"2024-12-30 20:00:00"_s
                             : m_fieldClass == FieldClass::Date ? u"2024-12-30"_s
                                                                : u"0000000000"_s;
-    // What is beside the text has the same width for all.
+    return widthFor(longest + u' ');
+}
+
+// What is beside the text has the same width for all.
+int ValueEdit::widthFor(const QString &text) const
+{
     const QFontMetrics metrics = fontMetrics();
-    return minimumSizeHint().width() - metrics.maxWidth() + metrics.horizontalAdvance(longest + u' ');
+    return minimumSizeHint().width() - metrics.maxWidth() + metrics.horizontalAdvance(text);
+}
+
+void ValueEdit::resizeEvent(QResizeEvent *event)
+{
+    QLineEdit::resizeEvent(event);
+    showHint();
 }
 
 void ValueEdit::setMarked(bool isMarked)

@@ -60,9 +60,12 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    int widthFor(const QString &text) const;
+    void showHint();
     void offer();
     void dropLineEnd();
     void offerValues();
@@ -82,6 +85,7 @@ private:
     bool m_isList = false;
     QAction *m_offer;
     Text m_offerText;
+    QString m_hint; // in the language in which the dialog opened
     QString m_whyNoValues;
     QAction *m_offerValues;
     QCompleter *m_list = nullptr;

@@ -197,6 +197,18 @@ TEST_F(Builder, AFieldIsFoundByTheBeginningOfItsNameInChineseToo)
     EXPECT_EQ(part<QLineEdit>(dialog, "txtValue1").placeholderText(), u"例如 2024-01-31、2024-03 或“本月”"_s);
 }
 
+TEST_F(Builder, AHintWithoutRoomIsShorter)
+{
+    choose("cmbField1", u"下单日期"_s);
+    choose("cmbOperator1", u"介于"_s);
+    for (const char *name : {"txtValue1", "txtValue1b"}) {
+        dialog.resize(dialog.minimumSizeHint());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return text(name).placeholderText() == u"2024-01-31"_s; }));
+        dialog.resize(3 * dialog.width(), dialog.height());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return text(name).placeholderText().contains(u"本月"); }));
+    }
+}
+
 TEST_F(Builder, BetweenTakesTwoValues)
 {
     choose("cmbOperator1", u"介于"_s);
