@@ -49,8 +49,8 @@ public:
     // before SetTableName and SetResult.
     void SetCurrentCondition(const QString &condition) { m_currentCondition = condition; }
 
-    // What was built or typed, and the reverse. If a field no longer exists, PutState shows the reason and
-    // changes nothing.
+    // What was built or typed, and the reverse. If a field no longer exists or brackets don't match, PutState
+    // shows the reason and changes nothing.
     BuiltFilter State() const;
     // The same without rows that are a condition in force as somebody else has made it.
     BuiltFilter BuiltState() const;

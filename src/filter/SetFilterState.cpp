@@ -44,33 +44,30 @@ BuiltFilter SetFilter::State() const
 
 void SetFilter::PutState(const BuiltFilter &state)
 {
+    // If anything is wrong, all stays as it was.
+    const auto canKeep = [this](const QString &condition) { return m_kept->canAdd(condition); };
+    if (!std::ranges::all_of(state.kept, canKeep) || !hasMatchedBrackets(state.rows))
+        return show(FilterTexts::UnmatchedBracket);
     if (!state.condition.isEmpty()) {
         m_condition->setText(state.condition);
         onConditionEdited();
-    } else if (!state.rows.isEmpty()) {
+    } else if (!state.rows.isEmpty() || !state.kept.isEmpty()) {
+        if (state.rows.isEmpty())
+            m_rows->startAgain();
+        else if (const auto missing = m_rows->setState(state.rows))
+            return show(FilterTexts::FieldMissing.arg(*missing));
         if (m_isByHand)
-            setByHand(false);
-        if (const auto missing = m_rows->setState(state.rows)) {
-            show(FilterTexts::FieldMissing.arg(*missing));
-            return; // and all is as it was
-        }
-        m_rows->focusFirstPart();
-    } else if (!state.kept.isEmpty()) {
-        if (m_isByHand)
-            setByHand(false);
-        m_rows->startAgain();
-        m_rows->focusFirstPart();
+            backToRows();
+        else
+            m_rows->focusFirstPart();
     }
     m_kept->clearTicks();
-    bool isWhole = true;
     for (const QString &kept : state.kept)
-        isWhole = m_kept->add(kept) && isWhole;
+        m_kept->add(kept);
     m_kept->followInTabOrder(m_saved);
     // Selected, so that typing replaces it.
     m_condition->selectAll();
     m_stateBefore = State();
-    if (!isWhole)
-        show(FilterTexts::UnmatchedBracket);
 }
 
 BuiltFilter SetFilter::BuiltState() const
@@ -90,6 +87,7 @@ void SetFilter::Begin(const std::vector<ConditionInForce> &conditions, const QSt
     const auto typed = std::ranges::find_if(conditions, isTyped);
     const bool canBeTyped = typed != conditions.end() && field.isEmpty();
     BuiltFilter state;
+    bool isWhole = true;
     for (const ConditionInForce &each : conditions) {
         const bool isLine = canBeTyped && each.built.isEmpty();
         const auto rows = isLine ? std::nullopt : rowsOf(each, m_source.dialect(), m_fields, scope);
@@ -97,8 +95,10 @@ void SetFilter::Begin(const std::vector<ConditionInForce> &conditions, const QSt
         if (joined) {
             noteInForce(each, *rows, scope);
             state.rows = *std::move(joined);
-        } else {
+        } else if (m_kept->canAdd(each.text)) {
             state.kept.append(each.text);
+        } else {
+            isWhole = false;
         }
     }
     if (canBeTyped && state.rows.isEmpty()) {
@@ -108,6 +108,8 @@ void SetFilter::Begin(const std::vector<ConditionInForce> &conditions, const QSt
     PutState(state);
     if (!field.isEmpty())
         askFor(field);
+    if (!isWhole)
+        show(FilterTexts::UnmatchedBracket);
 }
 
 // A row that somebody else's condition became is written as that one while it selects the same records. Of

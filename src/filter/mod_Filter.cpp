@@ -49,6 +49,7 @@ void mod_Filter::PrepareFilterDialog(const FilterRequest &request)
     }
 
     // A new dialog, without the conditions of the previous one.
+    m_language.emplace();
     m_dialog = std::make_unique<frm_Filter>(m_parent);
     m_dialog->SetPicture(request.picture);
     m_shelf = request.shelf;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "filter/saved/SavedFilterMenu.h"
+#include "language/Language.h"
 #include "query/FilterTableName.h"
 #include "query/StatementSource.h"
 #include "query/conditions/ConditionInForce.h"
@@ -52,7 +53,8 @@ struct FilterRequest
 // separate connection can be used for reading in the background.
 bool isConnectionNeeded(const FilterRequest &request);
 
-// Runs the filter dialog and stores its result. One object can run any number of dialogs in succession.
+// Runs the filter dialog and stores its result. One object can run any number of dialogs in succession. The
+// language is held from the first one on, while the object exists.
 class mod_Filter
 {
 public:
@@ -92,6 +94,7 @@ public:
 
 private:
     QPointer<QWidget> m_parent;
+    std::optional<Language::Hold> m_language; // of the dialog
     std::unique_ptr<frm_Filter> m_dialog;
     FilterShelf m_shelf;
     QString m_strFilterCondition;

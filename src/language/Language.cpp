@@ -9,6 +9,7 @@
 #include <QtCore/QTranslator>
 
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace KOVAVSFDataGridLib::Language {
@@ -25,6 +26,18 @@ QPointer<QTranslator> &translator()
     return installed;
 }
 
+struct Held
+{
+    int holds = 0;
+    std::optional<QLocale::Language> chosen = {}; // meanwhile
+};
+
+Held &held()
+{
+    static Held held;
+    return held;
+}
+
 bool useEnglish()
 {
     if (translator())
@@ -35,6 +48,14 @@ bool useEnglish()
     english->setParent(QCoreApplication::instance());
     translator() = english.release();
     return QCoreApplication::installTranslator(translator());
+}
+
+bool switchTo(QLocale::Language language)
+{
+    if (language == QLocale::English)
+        return useEnglish();
+    delete translator(); // the destructor removes it
+    return true;
 }
 
 class Translated final : public QObject
@@ -68,10 +89,30 @@ bool use(const QString &name)
     const QLocale::Language language = name.isEmpty() ? QLocale::Chinese : QLocale(name).language();
     if (!QCoreApplication::instance() || (language != QLocale::Chinese && language != QLocale::English))
         return false;
-    if (language == QLocale::English)
-        return useEnglish();
-    delete translator(); // the destructor removes it
+    if (held().holds == 0)
+        return switchTo(language);
+    held().chosen = language;
     return true;
+}
+
+QString chosen()
+{
+    const auto meanwhile = held().chosen;
+    return !meanwhile ? current() : *meanwhile == QLocale::English ? u"en"_s : u"zh-CN"_s;
+}
+
+Hold::Hold()
+{
+    ++held().holds;
+}
+
+Hold::~Hold()
+{
+    if (--held().holds > 0)
+        return;
+    const auto language = std::exchange(held().chosen, std::nullopt);
+    if (language && QCoreApplication::instance())
+        switchTo(*language);
 }
 
 void keepTranslated(QObject &widget, std::function<void()> write)

@@ -96,8 +96,10 @@ TEST(RestoredRows, AreThoseThatWereBuilt)
 
 TEST(RestoredRows, AreRecognizedWhereOneSelectsTheSame)
 {
-    const auto recognized = [](const QString &condition, Engine engine = Engine::SQLite) {
-        const auto rows = rowsOf({condition}, {.database = dbAccess, .engine = engine}, fields, {});
+    const auto recognized = [](const QString &condition, Engine engine = Engine::SQLite,
+                               const QString &source = u"t"_s) {
+        const auto rows = rowsOf({condition}, {.database = dbAccess, .engine = engine}, fields,
+                                 {.records = FilterSql::Records{source, {}}});
         if (!rows)
             return QString();
         const FilterRowState &row = rows->constFirst();
@@ -134,6 +136,21 @@ TEST(RestoredRows, AreRecognizedWhereOneSelectsTheSame)
           u"数量 = 3 AND 城市 = '茶'"_s, u"数量 BETWEEN 3 AND 4"_s})
         EXPECT_EQ(recognized(condition), QString()) << condition.toStdString();
     EXPECT_EQ(recognized(u"数量 = 3"_s, Engine::Other), QString()) << "who knows how it reads that";
+    // A table before the name is certainly the field's only where there is no other.
+    for (const QString &source : {u"t"_s, u"main.[T]"_s, u"表 t"_s, u"表 AS t"_s}) {
+        EXPECT_EQ(recognized(u"t.数量 IS NULL"_s, Engine::SQLite, source), u"数量 isEmpty "_s)
+            << source.toStdString();
+        EXPECT_EQ(recognized(u"k.数量 IS NULL"_s, Engine::SQLite, source), QString()) << source.toStdString();
+    }
+    EXPECT_EQ(recognized(u"main.t.数量 = 3"_s), u"数量 equals 3"_s);
+    EXPECT_EQ(recognized(u"t.k.数量 = 3"_s), QString());
+    for (const QString &source : {u"t LEFT JOIN k USING (数量)"_s, u"t NATURAL JOIN k"_s, u"t, k"_s,
+                                  u"(SELECT * FROM t) AS t"_s, u""_s})
+        for (const QString &table : {u"t"_s, u"k"_s})
+            EXPECT_EQ(recognized(table + u".数量 IS NULL"_s, Engine::SQLite, source), QString())
+                << source.toStdString();
+    EXPECT_EQ(recognized(u"数量 IS NULL"_s, Engine::SQLite, u"t LEFT JOIN k USING (数量)"_s),
+              u"数量 isEmpty "_s);
 }
 
 TEST(RestoredRows, CompareOnlyTheRecordsThatTheyDid)

@@ -179,6 +179,7 @@ TEST_F(Groups, TheKeyboardReachesEveryPartInTheOrderInWhichItIsSeen)
     for (const auto *widget : dialog.findChildren<QWidget *>()) {
         if (widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0) {
             const auto *button = qobject_cast<const QAbstractButton *>(widget);
+            EXPECT_FALSE(widget->accessibleName().contains(u'%')) << qPrintable(widget->accessibleName());
             EXPECT_TRUE(!widget->accessibleName().isEmpty() || (button && !button->text().isEmpty()))
                 << qUtf8Printable(widget->objectName());
         }

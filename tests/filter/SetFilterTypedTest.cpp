@@ -35,6 +35,46 @@ TEST_F(TypedCondition, AWrongConditionTypedByHandIsExplainedByTheDatabase)
     EXPECT_EQ(fault("lblNotice"), "请输入条件。");
 }
 
+TEST_F(TypedCondition, StaysWhereWhatIsPutInPlaceOfItIsWrong)
+{
+    fillRow(1, u"编号"_s, u"等于"_s, u"1"_s);
+    type("txtCondition", u"编号 < 7"_s);
+    const BuiltFilter before = builder->State();
+    const FilterState rows{{.field = u"金额"_s, .value = u"5"_s}};
+    const QString noFields = u"这里没有该筛选用到的字段“没有”，或者不能这样比较它。"_s;
+    const QString brackets = u"括号不配对。"_s;
+    FilterState open = rows;
+    open.first().opens = 1;
+    const std::vector<std::pair<BuiltFilter, QString>> wrong{
+        {{.rows = {{.field = u"没有"_s, .value = u"5"_s}}}, noFields},
+        {{.rows = rows + FilterState{{.field = u"没有"_s}}, .kept = {u"编号 < 9"_s}}, noFields},
+        {{.kept = {u"编号 < 5) OR (1=1"_s}}, brackets},
+        {{.rows = rows, .kept = {u"编号 < 9"_s, u"编号 < 5) OR (1=1"_s}}, brackets},
+        {{.condition = u"编号 > 3"_s, .kept = {u"(编号 < 5"_s}}, brackets},
+        {{.rows = open}, brackets}};
+    const auto expectUnchanged = [&](const BuiltFilter &expected) {
+        for (const auto &[filter, reason] : wrong) {
+            builder->PutState(filter);
+            EXPECT_EQ(fault("lblNotice"), reason.toStdString());
+            EXPECT_EQ(builder->State(), expected);
+            EXPECT_FALSE(exists("chkKept1"));
+            EXPECT_EQ(text("txtValue1").text(), u"1"_s);
+        }
+    };
+    expectUnchanged(before);
+    EXPECT_FALSE(text("txtValue1").isEnabled());
+    EXPECT_EQ(answer(), "编号 < 7");
+    press(dialog, "cmdBackToRows");
+    expectUnchanged(builder->State());
+    EXPECT_EQ(answer(), "编号 = 1");
+    // One that is right takes the place of all.
+    type("txtCondition", u"编号 < 7"_s);
+    builder->PutState({.rows = rows, .kept = {u"编号 < 9"_s}});
+    EXPECT_TRUE(text("txtValue1").isEnabled());
+    EXPECT_EQ(answer(), "编号 < 9 AND 金额 = 5");
+    EXPECT_EQ(fault("lblNotice"), "");
+}
+
 TEST_F(TypedCondition, AConditionTypedByHandStaysOneConditionWhateverIsJoinedToIt)
 {
     const struct

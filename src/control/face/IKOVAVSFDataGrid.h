@@ -259,9 +259,9 @@ public:
     virtual bool RestoreFilters(const QString &strFilters) = 0;
 
     // The language of the texts that users read: "zh-CN" (the default) or "en". There is one for all controls
-    // of an application. All controls change when their next events are processed; dialogs that are open keep
-    // their language. Forms such as "en_GB" are also accepted, and an empty text is the default. A language
-    // without a translation changes nothing. Messages to developers are always in English.
+    // of an application. All change when their next events are processed, or when an open filter dialog is
+    // closed; other open dialogs keep theirs. Forms such as "en_GB" are also accepted, an empty text is the
+    // default, and one without a translation changes nothing. Messages to developers are always in English.
     virtual QString Language() const = 0;
     virtual void PutLanguage(const QString &strName) = 0;
 };

@@ -298,7 +298,7 @@ void KOVAVSFDataGrid::PutLayoutKey(const QString &strKey)
 
 QString KOVAVSFDataGrid::Language() const
 {
-    return KOVAVSFDataGridLib::Language::current();
+    return KOVAVSFDataGridLib::Language::chosen();
 }
 
 void KOVAVSFDataGrid::PutLanguage(const QString &strName)

@@ -19,10 +19,13 @@ KeptConditions::KeptConditions(QWidget *parent) : QWidget(parent), m_layout(new 
     hide();
 }
 
-bool KeptConditions::add(const QString &condition)
+bool KeptConditions::canAdd(const QString &condition) const
 {
-    if (!hasClosedBrackets(condition, m_dialect))
-        return false;
+    return hasClosedBrackets(condition, m_dialect);
+}
+
+void KeptConditions::add(const QString &condition)
+{
     for (const QString &part : textsOfParts(condition, m_dialect)) {
         const auto same = std::ranges::find(m_lines, part, &KeptLine::condition);
         if (same != m_lines.end()) {
@@ -41,7 +44,6 @@ bool KeptConditions::add(const QString &condition)
     }
     setVisible(!m_lines.isEmpty());
     Q_EMIT changed();
-    return true;
 }
 
 void KeptConditions::clearTicks()

@@ -21,9 +21,10 @@ public:
 
     // How conditions are read that are added from now on.
     void setDialect(const Dialect &dialect) { m_dialect = dialect; }
-    // One line for each part of a condition, ticked. What is there already is ticked again. Returns false and
-    // adds nothing if the brackets of the condition don't match: it would change what it is joined to.
-    [[nodiscard]] bool add(const QString &condition);
+    // Whether the brackets of a condition match, so that it doesn't change what it is joined to.
+    bool canAdd(const QString &condition) const;
+    // One line for each part of such a condition, ticked. What is there already is ticked again.
+    void add(const QString &condition);
     void clearTicks();
     void removeAll();
 

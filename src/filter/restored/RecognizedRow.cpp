@@ -14,11 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Keywords and plain names mean the same in any case.
-bool isSameToken(const SqlScanner &a, qsizetype tokenOfA, const SqlScanner &b, qsizetype tokenOfB)
+// Keywords and plain names mean the same in any case, but for the tables of MySQL.
+bool isSameToken(const SqlScanner &a, qsizetype tokenOfA, const SqlScanner &b, qsizetype tokenOfB,
+                 const Dialect &dialect)
 {
     const SqlToken::Kind kind = a.at(tokenOfA).kind;
-    const auto sensitivity = kind == SqlToken::Kind::Word ? Qt::CaseInsensitive : Qt::CaseSensitive;
+    const bool tellsCase = dialect.engine == Engine::MySQL && a.isSymbol(tokenOfA + 1, u'.');
+    const auto sensitivity =
+        kind == SqlToken::Kind::Word && !tellsCase ? Qt::CaseInsensitive : Qt::CaseSensitive;
     return kind == b.at(tokenOfB).kind && a.text(tokenOfA).compare(b.text(tokenOfB), sensitivity) == 0;
 }
 
@@ -34,8 +37,27 @@ bool isSameName(const SqlScanner &a, qsizetype tokenOfA, const SqlScanner &b, qs
            name.toLower() == name.toUpper();
 }
 
-// The condition with the field's name as rows write it: others may quote it, or name its table before it.
-QString withNameOf(const FilterField &field, const QString &condition, const Dialect &dialect)
+// What names the only table of a statement in its condition: its alias, or its name without its schema. Empty
+// if there are several tables or other sources: the same name before a field can then be another field.
+QString onlyTable(const QString &fromText, const Dialect &dialect)
+{
+    const SqlScanner sql(fromText, dialect);
+    if (!sql.isName(0))
+        return {};
+    qsizetype last = 0;
+    while (sql.isSymbol(last + 1, u'.') && sql.isName(last + 2))
+        last += 2;
+    if (sql.isWord(last + 1, u"AS"))
+        ++last;
+    if (sql.isName(last + 1))
+        ++last;
+    return last + 1 == sql.count() ? sql.name(last) : QString();
+}
+
+// The condition with the field's name as rows write it: others may quote it, or name the only table before
+// it.
+QString withNameOf(const FilterField &field, const QString &condition, const Dialect &dialect,
+                   const QString &table)
 {
     const SqlScanner written(field.written, dialect);
     if (written.count() != 1)
@@ -46,11 +68,14 @@ QString withNameOf(const FilterField &field, const QString &condition, const Dia
         qsizetype last = i;
         while (sql.isName(last) && sql.isSymbol(last + 1, u'.') && sql.isName(last + 2))
             last += 2;
-        if (isSameName(sql, last, written, 0, dialect)) {
+        const bool isOfTable =
+            last == i || (!table.isEmpty() && isOneName(dialect, sql.name(last - 2), table));
+        if (isOfTable && isSameName(sql, last, written, 0, dialect)) {
             text += field.written;
             i = last;
         } else {
-            text += sql.text(i);
+            text += sql.sql().sliced(sql.at(i).start, sql.at(last).end() - sql.at(i).start);
+            i = last;
         }
         if (i + 1 < sql.count() && sql.at(i + 1).start > sql.at(i).end())
             text += u' ';
@@ -66,7 +91,7 @@ bool isText(const SqlScanner &sql, TextRange range, const QString &text, const D
     if (range.isEmpty() || whole.end - whole.begin != range.end - range.begin)
         return false;
     for (qsizetype i = 0; i < whole.end - whole.begin; ++i) {
-        if (!isSameToken(sql, range.begin + i, other, whole.begin + i))
+        if (!isSameToken(sql, range.begin + i, other, whole.begin + i, dialect))
             return false;
     }
     return true;
@@ -226,12 +251,13 @@ std::optional<FilterChoice> equalChoice(const SqlScanner &sql, TextRange conditi
 } // namespace
 
 std::optional<FilterRowState> rowRecognizedIn(const QString &condition, const Dialect &dialect,
-                                              const std::vector<FilterField> &fields)
+                                              const std::vector<FilterField> &fields, const QString &fromText)
 {
     if (!dialect.isKnown())
         return std::nullopt;
+    const QString table = onlyTable(fromText, dialect);
     for (const FilterField &field : fields) {
-        const SqlScanner sql(withNameOf(field, condition, dialect), dialect);
+        const SqlScanner sql(withNameOf(field, condition, dialect, table), dialect);
         if (sql.count() == 0 || !sql.sql().contains(field.written, Qt::CaseInsensitive))
             continue;
         const TextRange whole = withoutBrackets(sql, {0, sql.count()});

@@ -144,7 +144,8 @@ std::optional<FilterState> rowsOf(const ConditionInForce &condition, const Diale
         return field ? rowsOfTicks(*field, ticked, dialect, scope) : std::nullopt;
     }
     if (condition.built.isEmpty()) {
-        const auto row = rowRecognizedIn(condition.text, dialect, fields);
+        const auto row = rowRecognizedIn(condition.text, dialect, fields,
+                                         scope.records ? scope.records->source : QString());
         return row ? std::optional(FilterState{*row}) : std::nullopt;
     }
     const auto built = builtFilterOf(json);
@@ -169,6 +170,11 @@ std::optional<FilterState> joinedRows(const FilterState &first, const FilterStat
         return std::nullopt;
     joined->last().orNext = false;
     return *joined + *added;
+}
+
+bool hasMatchedBrackets(const FilterState &rows)
+{
+    return FilterSql::unmatchedBracket(framesOf(rows)) < 0;
 }
 
 } // namespace KOVAVSFDataGridLib

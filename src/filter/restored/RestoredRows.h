@@ -20,4 +20,7 @@ std::optional<FilterState> rowsOf(const ConditionInForce &condition, const Diale
 // more brackets.
 std::optional<FilterState> joinedRows(const FilterState &first, const FilterState &second);
 
+// Whether every bracket of the rows has its counterpart.
+bool hasMatchedBrackets(const FilterState &rows);
+
 } // namespace KOVAVSFDataGridLib

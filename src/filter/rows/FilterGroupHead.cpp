@@ -52,8 +52,8 @@ void FilterGroupHead::setPlace(int number, int level, FilterNode::Kind kind)
     m_kind->setObjectName(u"cmbGroup"_s + suffix);
     m_add->setObjectName(u"cmdAddToGroup"_s + suffix);
     m_dissolve->setObjectName(u"cmdDissolve"_s + suffix);
-    const auto name = [number](QWidget &part, const Text &said) {
-        part.setAccessibleName(FilterTexts::PartOfGroup.arg(said(), number));
+    const auto name = [&suffix](QWidget &part, const Text &said) {
+        part.setAccessibleName(FilterTexts::PartOfGroup.arg(said(), suffix));
     };
     name(*m_kind, FilterTexts::GroupKind);
     name(*m_add, FilterTexts::AddToGroupTip);

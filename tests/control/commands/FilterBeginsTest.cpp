@@ -63,11 +63,21 @@ TEST_F(FilterBegins, AnOpenDialogKeepsItsLanguage)
         };
         const QString before = texts();
         grid.PutLanguage(u"en"_s);
-        QCoreApplication::processEvents(); // the widgets are told
+        QCoreApplication::processEvents(); // in which widgets would be told
         EXPECT_EQ(texts(), before);
+        EXPECT_EQ(grid.Language(), u"en"_s);
+        // What is written from now on too.
+        choose(dialog, u"ID"_s, u"大于"_s);
+        type(dialog, u"3"_s);
+        EXPECT_EQ(part<QLabel>(dialog, "lblSentence").text(), u"【ID】大于 3。"_s);
+        KovaTest::press(dialog, "cmdAddRow");
+        EXPECT_EQ(part<QComboBox>(dialog, "cmbOperator2").currentText(), u"等于"_s);
+        EXPECT_EQ(part<QCheckBox>(dialog, "chkNot2").text(), u"非"_s);
+        EXPECT_EQ(part<QLineEdit>(dialog, "txtValue2").placeholderText(), u"数字"_s);
         cancel(dialog);
     }});
     click(u"Filter"_s);
+    QCoreApplication::processEvents(); // the widgets are told
     EXPECT_TRUE(grid.findChild<QLineEdit *>(u"txtEdit"_s)
                     ->findChild<QAction *>(u"actOffer"_s)
                     ->text()

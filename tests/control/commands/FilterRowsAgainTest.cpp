@@ -74,6 +74,38 @@ TEST_F(FilterRowsAgain, AlternativesOfTheBuilderStayTogether)
     EXPECT_EQ(ids(), QStringList({u"1"_s, u"11"_s}));
 }
 
+TEST_F(FilterRowsAgain, AConditionOnAnotherTablesFieldOfTheSameNameIsALine)
+{
+    ASSERT_TRUE(
+        load(u"SELECT ID, 城市 FROM 商品 LEFT JOIN (SELECT ID FROM 商品 WHERE ID > 2) AS 后 USING (ID)"_s));
+    QString condition;
+    QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid, [&](qint32 &cancel, const QString &) {
+        if (condition.isEmpty())
+            return;
+        grid.PutPassQurryFilter(condition);
+        cancel = 0;
+    });
+    const auto filterOfHost = [&](const QString &text) {
+        condition = text;
+        click(u"Filter"_s);
+        condition.clear();
+    };
+    filterOfHost(u"后.ID IS NULL"_s);
+    ASSERT_EQ(ids(), QStringList({u"1"_s, u"2"_s}));
+    filterWith([](QDialog &dialog) {
+        EXPECT_EQ(keptLines(dialog).size(), 1);
+        fill(dialog, 1, u"ID"_s, u"大于"_s, u"1"_s);
+        ok(dialog);
+    });
+    EXPECT_EQ(ids(), QStringList(u"2"_s));
+    click(u"ToOrigin"_s);
+    filterOfHost(u"ID > 5"_s);
+    filterWith([](QDialog &dialog) {
+        EXPECT_EQ(row(dialog, 1), u"ID 大于 5"_s) << "the field that is shown";
+        cancel(dialog);
+    });
+}
+
 TEST_F(FilterRowsAgain, ACellsConditionIsARowAndStaysAsItIsUntilTheRowIsChanged)
 {
     ASSERT_TRUE(load());
