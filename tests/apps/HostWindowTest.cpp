@@ -24,6 +24,7 @@
 #include <QtGui/QScreen>
 #include <QtTest/QTest>
 #include <QtWidgets/QDockWidget>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QPlainTextEdit>
@@ -342,6 +343,32 @@ TEST_F(HostWindowTest, F3ShowsTheValueInAPaneBesideTheGrid)
     EXPECT_TRUE(QTest::qWaitFor([&] { return shown().isEmpty(); }));
     press(Qt::Key_W, Qt::ControlModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == u"乙"_s; })) << shown().toStdString();
+}
+
+TEST_F(HostWindowTest, EscapeAndF3LeaveTheValuePaneForTheGrid)
+{
+    const QDockWidget &pane = dock(u"valuePane"_s);
+    table().setCurrentIndex(table().model()->index(0, 1));
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_F3}) {
+        table().setFocus();
+        press(Qt::Key_F3);
+        QTest::qWait(10); // the pane also follows the cell
+        ASSERT_TRUE(pane.isAncestorOf(window->focusWidget()));
+        press(key);
+        EXPECT_EQ(window->focusWidget(), &table());
+        EXPECT_TRUE(pane.isVisible());
+        const int row = table().currentIndex().row();
+        press(row == 0 ? Qt::Key_Down : Qt::Key_Up);
+        EXPECT_NE(table().currentIndex().row(), row) << "the grid's keys work at once";
+    }
+    // Also from the pane's search box.
+    press(Qt::Key_F3);
+    QTest::qWait(10);
+    auto *words = pane.findChild<QLineEdit *>(u"txtFindInValue"_s);
+    ASSERT_TRUE(words);
+    words->setFocus();
+    press(Qt::Key_Escape);
+    EXPECT_EQ(window->focusWidget(), &table());
 }
 
 TEST_F(HostWindowTest, ADoubleClickOnATextThatIsCutShowsItUnlessEventsAreListed)
