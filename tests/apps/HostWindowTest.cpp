@@ -414,6 +414,8 @@ TEST_F(HostWindowTest, F1ShowsTheShortcuts)
     const QString text = help->findChild<QTextBrowser *>()->toPlainText();
     EXPECT_TRUE(text.contains(u"Ctrl+Enter"_s)) << qPrintable(text);
     EXPECT_TRUE(text.contains(u"Ctrl+Shift+C"_s)) << "those of the grid";
+    for (const QString &word : {u"DisplayEable"_s, u"KeyCode"_s, u"SelField"_s})
+        EXPECT_FALSE(text.contains(word)) << "nothing for developers: " << qPrintable(word);
     QTest::keyClick(help, Qt::Key_Escape);
 }
 
