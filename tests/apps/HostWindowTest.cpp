@@ -24,6 +24,7 @@
 #include <QtGui/QScreen>
 #include <QtTest/QTest>
 #include <QtWidgets/QDockWidget>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QPlainTextEdit>
@@ -344,6 +345,32 @@ TEST_F(HostWindowTest, F3ShowsTheValueInAPaneBesideTheGrid)
     EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == u"乙"_s; })) << shown().toStdString();
 }
 
+TEST_F(HostWindowTest, EscapeAndF3LeaveTheValuePaneForTheGrid)
+{
+    const QDockWidget &pane = dock(u"valuePane"_s);
+    table().setCurrentIndex(table().model()->index(0, 1));
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_F3}) {
+        table().setFocus();
+        press(Qt::Key_F3);
+        QTest::qWait(10); // the pane also follows the cell
+        ASSERT_TRUE(pane.isAncestorOf(window->focusWidget()));
+        press(key);
+        EXPECT_EQ(window->focusWidget(), &table());
+        EXPECT_TRUE(pane.isVisible());
+        const int row = table().currentIndex().row();
+        press(row == 0 ? Qt::Key_Down : Qt::Key_Up);
+        EXPECT_NE(table().currentIndex().row(), row) << "the grid's keys work at once";
+    }
+    // Also from the pane's search box.
+    press(Qt::Key_F3);
+    QTest::qWait(10);
+    auto *words = pane.findChild<QLineEdit *>(u"txtFindInValue"_s);
+    ASSERT_TRUE(words);
+    words->setFocus();
+    press(Qt::Key_Escape);
+    EXPECT_EQ(window->focusWidget(), &table());
+}
+
 TEST_F(HostWindowTest, ADoubleClickOnATextThatIsCutShowsItUnlessEventsAreListed)
 {
     const QPoint place = table().visualRect(table().model()->index(0, 1)).center();
@@ -387,6 +414,8 @@ TEST_F(HostWindowTest, F1ShowsTheShortcuts)
     const QString text = help->findChild<QTextBrowser *>()->toPlainText();
     EXPECT_TRUE(text.contains(u"Ctrl+Enter"_s)) << qPrintable(text);
     EXPECT_TRUE(text.contains(u"Ctrl+Shift+C"_s)) << "those of the grid";
+    for (const QString &word : {u"DisplayEable"_s, u"KeyCode"_s, u"SelField"_s})
+        EXPECT_FALSE(text.contains(word)) << "nothing for developers: " << qPrintable(word);
     QTest::keyClick(help, Qt::Key_Escape);
 }
 

@@ -69,6 +69,52 @@ TEST(DecimalSum, LosesNoSmallTermsBesideLargeOnes)
     EXPECT_EQ(tenths.average(10), QStringLiteral("0.1"));
 }
 
+TEST(DecimalSum, AddsTheDecimalsThatDoublesStandFor)
+{
+    struct Doubles
+    {
+        std::vector<double> terms;
+        int scale;
+        const char *sum;
+    };
+    for (const Doubles &one : std::vector<Doubles>{
+             {{9999999999999.99, 9999999999999.99, 9999999999999.99}, 2, "29999999999999.97"},
+             {{9999999999999.99, 0.01, 0.01}, 2, "10000000000000.01"},
+             {{99999999999.1234, 99999999999.1234, 99999999999.0001}, 4, "299999999997.2469"},
+             {{99999999999999.97, -0.01}, 2, "99999999999999.96"},
+             {{999999999999999.9, 999999999999999.9}, 2, "1999999999999999.8"},
+             {{9007199254740992, 0.5, 1}, 2, "9007199254740993.50"},
+             {{-12.5, 2.5}, 2, "-10.00"},
+             {{0.1 + 0.2, 1.1 + 2.2}, 2, "3.60"}, // the last bit is arithmetic's
+             {{0.1 + 0.2, 0.125}, 2, "0.425"},    // more decimals than the field has
+             {{1.0 / 3, 0.5}, 2, "0.833333333333333"},
+             {{1e-7, -0.5}, 2, "-0.4999999"},
+             {{0.1 + 0.2, 2}, 0, "2.3"},
+             {{1e20, 1}, 0, "100000000000000000001"},
+             {{0.0, -0.0}, 2, "0.00"},
+         }) {
+        DecimalSum sum;
+        for (const double term : one.terms)
+            sum.addDecimal(term, one.scale);
+        EXPECT_EQ(sum.text().toStdString(), one.sum);
+        EXPECT_TRUE(sum.isExact());
+    }
+}
+
+TEST(DecimalSum, KnowsThatItIsNotExact)
+{
+    for (const double tooLarge : {1e300, -1e40, 1e-300}) {
+        DecimalSum sum;
+        sum.addDecimal(1, 2);
+        sum.addDecimal(tooLarge, 2);
+        EXPECT_FALSE(sum.isExact()) << tooLarge;
+        EXPECT_EQ(sum.text(), QString::number(1 + tooLarge, 'G', 15));
+    }
+    DecimalSum sum;
+    sum.add(0.5);
+    EXPECT_FALSE(sum.isExact());
+}
+
 TEST(DecimalSum, TheAverageOfDecimalsKeepsTheirDigits)
 {
     struct Average

@@ -82,14 +82,17 @@ void SelectionWatch::showSummary()
     const QString of = m_column.isEmpty() ? QString() : GridTexts::ColumnOfSummary.arg(m_column);
     items.append({of + GridTexts::CountOfCells, QString::number(m_summary->count())});
     if (m_summary->numbers() > 0) {
-        const ADODB::DisplayFormat format{.leastDecimals = m_summary->decimals()};
-        const auto add = [&](const QString &caption, const QString &value) {
+        const ADODB::DisplayFormat asInCells{.leastDecimals = m_summary->decimals()};
+        // Zeros behind a rounded sum would look like exact decimals.
+        const ADODB::DisplayFormat asComputed = m_summary->isSumExact() ? asInCells : ADODB::DisplayFormat{};
+        const auto add = [&](const QString &caption, const QString &value,
+                             const ADODB::DisplayFormat &format) {
             items.append({caption, value, format.applied(value)});
         };
-        add(GridTexts::SumOfCells, m_summary->sum());
-        add(GridTexts::AverageOfCells, m_summary->average());
-        add(GridTexts::SmallestCell, m_summary->minimum());
-        add(GridTexts::LargestCell, m_summary->maximum());
+        add(GridTexts::SumOfCells, m_summary->sum(), asComputed);
+        add(GridTexts::AverageOfCells, m_summary->average(), asComputed);
+        add(GridTexts::SmallestCell, m_summary->minimum(), asInCells);
+        add(GridTexts::LargestCell, m_summary->maximum(), asInCells);
     } else if (m_summary->dates() > 0) {
         items.append({GridTexts::EarliestCell, m_summary->earliest()});
         items.append({GridTexts::LatestCell, m_summary->latest()});

@@ -9,7 +9,9 @@
 #include "session/columns/ColumnCommand.h"
 #include "session/columns/ColumnKeys.h"
 
+#include <QtCore/QItemSelectionModel>
 #include <QtGui/QAction>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 
@@ -48,6 +50,12 @@ ColumnMenu::ColumnMenu(QWidget &window, const QWidget &toolbar, VSFlexGrid &grid
     open->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     window.addAction(open);
     connect(open, &QAction::triggered, this, &ColumnMenu::openAtCurrentColumn);
+    grid.installEventFilter(this);
+    connect(grid.selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex &current) {
+                if (current.isValid())
+                    m_lastHeading = m_grid.model()->headerData(current.column(), Qt::Horizontal).toString();
+            });
     connect(&grid, &FlexGrid::ColumnMenuWanted, this, &ColumnMenu::popUp);
     if (const ColumnCommand *const fit = ColumnCommand::find(ColumnKeys::FitColumn))
         connect(&grid, &FlexGrid::FittingWidthWanted, this, [this, fit](int col) { m_run(*fit, col); });
@@ -57,9 +65,45 @@ void ColumnMenu::openAtCurrentColumn()
 {
     if (m_session.window().isSingleRecordShown() || m_grid.Cols() < 2)
         return;
-    const int col = m_grid.ShownCol();
+    const int col = currentCol();
     showHeading(m_grid, col);
     popUp(col, m_grid.ColumnMenuPlace(col));
+}
+
+// A result without records has no current cell, and its grid begins without a current column.
+int ColumnMenu::currentCol() const
+{
+    if (m_grid.Col() > 0)
+        return m_grid.ShownCol();
+    const int col = static_cast<int>(m_grid.Headings().indexOf(m_lastHeading)) + 1;
+    return col > 0 && !m_grid.isColumnHidden(col - 1) ? col : m_grid.ShownCol();
+}
+
+void ColumnMenu::moveWithoutRecords(bool isForward)
+{
+    const QHeaderView &header = *m_grid.horizontalHeader();
+    const int step = isForward ? 1 : -1;
+    for (int visual = header.visualIndex(currentCol() - 1) + step; visual >= 0 && visual < header.count();
+         visual += step) {
+        const int section = header.logicalIndex(visual);
+        if (header.isSectionHidden(section))
+            continue;
+        m_grid.PutCol(section + 1);
+        m_lastHeading = m_grid.Headings().value(section);
+        return showHeading(m_grid, section + 1);
+    }
+}
+
+bool ColumnMenu::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress && m_session.result().isOpen() && m_grid.UsedRows() < 2 &&
+        m_grid.Cols() > 1) {
+        const auto &press = static_cast<const QKeyEvent &>(*event);
+        const bool isForward = press.key() == Qt::Key_Right;
+        if ((isForward || press.key() == Qt::Key_Left) && (press.modifiers() & ~Qt::KeypadModifier) == 0)
+            moveWithoutRecords(isForward);
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void ColumnMenu::popUp(int col, const QPoint &place)

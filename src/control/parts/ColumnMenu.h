@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QObject>
+#include <QtCore/QString>
 
 #include <functional>
 
@@ -16,7 +17,8 @@ class VSFlexGrid;
 struct ColumnCommand;
 
 // The menu of a column. It is opened by the arrow in the heading or by Ctrl+Alt+Down in a cell, and can be
-// appended to another menu.
+// appended to another menu. Without records, it belongs to the column that was current last; Left and Right
+// go to another one.
 class ColumnMenu : public QObject
 {
     Q_OBJECT
@@ -37,8 +39,12 @@ public:
     // Adds a menu with a column's entries to the end of another one, until that is closed.
     void addTo(QMenu &menu, int col);
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void openAtCurrentColumn();
+    int currentCol() const;
+    void moveWithoutRecords(bool isForward);
     void makeActions(QMenu &menu, int col);
 
     const QWidget &m_toolbar;
@@ -46,6 +52,7 @@ private:
     Session &m_session;
     const Runner m_run;
     QMenu *m_menu;
+    QString m_lastHeading; // of the cell that was current last
 };
 
 } // namespace KOVAVSFDataGridLib

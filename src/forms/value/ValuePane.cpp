@@ -91,7 +91,8 @@ ValuePane::ValuePane(QWidget *parent)
 
 void ValuePane::put(const ShownValue &value)
 {
-    clear();
+    const bool hasFocus = m_views->isAncestorOf(window()->focusWidget());
+    clear(); // deletes what may have the focus
     m_value = value;
     m_place->setText(value.place);
     if (value.isBinary)
@@ -102,6 +103,8 @@ void ValuePane::put(const ShownValue &value)
     m_summary->setText(summary());
     setUsable(true);
     dropAccessKeys();
+    if (hasFocus)
+        focusValue();
 }
 
 void ValuePane::putHasAccessKeys(bool on)

@@ -89,15 +89,30 @@ void FlexGridModel::findFormats()
         m_formatOfCol = std::move(found);
 }
 
-QString FlexGridModel::shownText(int row, int col) const
+ADODB::DisplayFormat FlexGridModel::formatOf(int row, int col) const
 {
     const auto place = static_cast<std::size_t>(col);
-    if (row == 0 || place >= m_formatOfCol.size() || m_formatOfCol[place].isNone())
-        return m_source->beginning(row, col, CellDelegate::longestText + 1);
+    if (row == 0 || place >= m_formatOfCol.size())
+        return {};
     ADODB::DisplayFormat format = m_formatOfCol[place];
     if (format.leastDecimals > 0)
         format.leastDecimals = m_source->decimals(row, col);
-    return format.applied(m_source->text(row, col));
+    return format;
+}
+
+QString FlexGridModel::shownText(int row, int col) const
+{
+    const ADODB::DisplayFormat format = formatOf(row, col);
+    return format.isNone() ? m_source->beginning(row, col, CellDelegate::longestText + 1)
+                           : format.applied(m_source->text(row, col));
+}
+
+// What is said is what is shown.
+QString FlexGridModel::spokenText(int row, int col) const
+{
+    const ADODB::DisplayFormat format = formatOf(row, col);
+    return format.isNone() || m_source->isNull(row, col) ? m_source->spoken(row, col)
+                                                         : format.applied(m_source->text(row, col));
 }
 
 int FlexGridModel::rowCount(const QModelIndex &parent) const
@@ -118,7 +133,7 @@ QVariant FlexGridModel::data(const QModelIndex &index, int role) const
     if (role == Qt::DisplayRole)
         return m_source->text(index.row() + 1, col);
     if (role == Qt::AccessibleTextRole)
-        return m_source->spoken(index.row() + 1, col);
+        return spokenText(index.row() + 1, col);
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(Qt::AlignVCenter |
                                    (m_source->isNumeric(col) ? Qt::AlignRight : Qt::AlignLeft));

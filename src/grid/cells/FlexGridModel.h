@@ -60,6 +60,8 @@ public:
 
 private:
     void findFormats();
+    ADODB::DisplayFormat formatOf(int row, int col) const;
+    QString spokenText(int row, int col) const;
 
     const int m_fixedCols;
     std::unique_ptr<CellSource> m_source;

@@ -1,7 +1,10 @@
 #include "session/records/DecimalSum.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
+#include <limits>
 
 namespace KOVAVSFDataGridLib {
 
@@ -9,6 +12,23 @@ namespace {
 
 constexpr int mostDigits = 36; // 10^36 times a hundred still fits 127 bits
 constexpr int shownDigits = 15;
+constexpr double mostUnits = 1e15; // up to it, every integer has at most `shownDigits` digits
+
+__extension__ using Wide = __int128;
+
+constexpr Wide limit = [] {
+    Wide power = 1;
+    for (int i = 0; i < mostDigits; ++i)
+        power *= 10;
+    return power;
+}();
+
+constexpr auto powersOfTen = [] {
+    std::array<double, shownDigits + 1> powers{1};
+    for (std::size_t i = 1; i < powers.size(); ++i)
+        powers[i] = powers[i - 1] * 10;
+    return powers;
+}();
 
 QString shown(double value)
 {
@@ -40,6 +60,68 @@ void DecimalSum::add(double value)
     const double sum = m_real + value;
     m_rest += std::abs(m_real) >= std::abs(value) ? (m_real - sum) + value : (value - sum) + m_real;
     m_real = sum;
+}
+
+void DecimalSum::addDecimal(double value, int scale)
+{
+    constexpr int usualDecimals = 4;
+    if (!addUnits(value, scale, scale) && !(scale < usualDecimals && addUnits(value, usualDecimals, scale)) &&
+        !addDigits(value, scale))
+        add(value);
+}
+
+// The usual case: the number is meant as a multiple of 10^-decimals. Below 10^15 units, this is what it gives
+// with 15 digits, though arithmetic may have changed its last bit; above, only its nearest double is meant.
+bool DecimalSum::addUnits(double value, int decimals, int scale)
+{
+    constexpr double exactIntegers = 1LL << std::numeric_limits<double>::digits;
+    const double power = powersOfTen[static_cast<std::size_t>(decimals)];
+    const double scaled = value * power;
+    if (!(std::abs(scaled) < exactIntegers))
+        return false;
+    auto units = static_cast<qint64>(scaled + std::copysign(0.5, scaled));
+    const auto rounded = static_cast<double>(units);
+    const bool isMeant =
+        std::abs(scaled) < mostUnits
+            ? std::abs(scaled - rounded) <= std::abs(scaled) * std::numeric_limits<double>::epsilon()
+            : rounded / power == value;
+    if (!isMeant)
+        return false;
+    for (; decimals > scale && units % 10 == 0; --decimals)
+        units /= 10;
+    return addExactly(units, decimals);
+}
+
+bool DecimalSum::addDigits(double value, int scale)
+{
+    std::array<char, 32> text;
+    char *const begin = text.data();
+    char *const last = begin + text.size();
+    const bool needsAll = std::abs(value) * powersOfTen[static_cast<std::size_t>(scale)] >= mostUnits;
+    const char *const end =
+        needsAll ? std::to_chars(begin, last, value, std::chars_format::scientific).ptr
+                 : std::to_chars(begin, last, value, std::chars_format::scientific, shownDigits - 1).ptr;
+    const char *const exponent = std::find(static_cast<const char *>(begin), end, 'e');
+    qint64 digits = 0; // at most 17
+    int power = 0;
+    std::from_chars(exponent + (exponent[1] == '+' ? 2 : 1), end, power);
+    int decimals = -power;
+    bool isAfterPoint = false;
+    for (const char *at = begin; at != exponent; ++at) {
+        if (*at >= '0' && *at <= '9') {
+            digits = digits * 10 + (*at - '0');
+            decimals += isAfterPoint ? 1 : 0;
+        }
+        isAfterPoint = isAfterPoint || *at == '.';
+    }
+    for (; decimals > scale && digits % 10 == 0; --decimals)
+        digits /= 10;
+    if (decimals < -mostDigits)
+        return false;
+    Wide units = digits;
+    for (; decimals < 0 && units < limit; ++decimals)
+        units *= 10;
+    return decimals >= 0 && addExactly(value < 0 ? -units : units, decimals);
 }
 
 bool DecimalSum::addText(QByteArrayView text)
@@ -79,12 +161,6 @@ bool DecimalSum::addAsReal(const QByteArray &text)
 
 bool DecimalSum::addExactly(Wide value, int scale)
 {
-    static constexpr Wide limit = [] {
-        Wide power = 1;
-        for (int i = 0; i < mostDigits; ++i)
-            power *= 10;
-        return power;
-    }();
     Wide sum = m_exact;
     for (int i = scale; i < m_scale; ++i) {
         if (value >= limit / 10 || value <= -limit / 10)

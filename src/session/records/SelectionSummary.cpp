@@ -32,6 +32,13 @@ bool isDateType(ADODB::DataTypeEnum type)
            type == ADODB::adDBTimeStamp;
 }
 
+// Some databases store these as doubles nevertheless.
+bool isDecimalType(ADODB::DataTypeEnum type)
+{
+    return type == ADODB::adNumeric || type == ADODB::adDecimal || type == ADODB::adVarNumeric ||
+           type == ADODB::adCurrency;
+}
+
 } // namespace
 
 SelectionSummary::SelectionSummary(const ADODB::Recordset &recordset, const RecordRange &range,
@@ -47,8 +54,8 @@ SelectionSummary::SelectionSummary(const ADODB::Recordset &recordset, const Reco
                           : ADODB::isNumericType(column.type) ? Kind::Number
                           : column.type == ADODB::adVariant   ? Kind::Number
                                                               : Kind::Other;
-        m_columns.push_back(
-            {column.field - m_firstField, column.type, kind, ADODB::decimalsOf(column.type, column.scale)});
+        m_columns.push_back({column.field - m_firstField, column.type, kind,
+                             ADODB::decimalsOf(column.type, column.scale), isDecimalType(column.type)});
     }
 }
 
@@ -87,7 +94,10 @@ void SelectionSummary::addNumber(const ADODB::RawValue &cell, const Column &colu
         m_sum.add(cell.integer);
         number = static_cast<double>(cell.integer);
     } else if (cell.kind == RawKind::Real && std::isfinite(cell.real)) {
-        m_sum.add(cell.real);
+        if (column.isDecimal)
+            m_sum.addDecimal(cell.real, column.decimals);
+        else
+            m_sum.add(cell.real);
         number = cell.real;
     } else if (cell.kind == RawKind::Text && m_sum.addText(cell.bytes)) {
         number = cell.bytes.toByteArray().toDouble();

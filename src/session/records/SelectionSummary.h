@@ -28,6 +28,8 @@ public:
     qint64 dates() const { return m_dates; }
     // For the numbers, as texts in the format of ValueText().
     QString sum() const { return m_sum.text(); }
+    // Whether the sum is exact; otherwise it is rounded to 15 digits.
+    bool isSumExact() const { return m_sum.isExact(); }
     QString average() const { return m_sum.average(m_numbers); }
     QString minimum() const { return textOf(m_smallest); }
     QString maximum() const { return textOf(m_largest); }
@@ -53,6 +55,7 @@ private:
         ADODB::DataTypeEnum type;
         Kind kind;
         int decimals;
+        bool isDecimal;
     };
 
     void take(const ADODB::RawValue &cell, const Column &column);

@@ -129,3 +129,34 @@ TEST_F(ColumnMenuLayout, MovesTheColumnByKeysPastTheOnesThatAreHidden)
     EXPECT_TRUE(entry(u"MoveRight"_s)->isEnabled());
     menu()->close();
 }
+
+TEST_F(ColumnMenuLayout, WithoutRecordsTheKeyOpensTheMenuOfTheCurrentColumn)
+{
+    const auto columnOfMenu = [this] {
+        for (int section = 0; section < header()->count(); ++section)
+            table->setColumnWidth(section, 60); // the screen has room for each menu below its heading
+        table->setFocus();
+        QTest::keyClick(table, Qt::Key_Down, Qt::ControlModifier | Qt::AltModifier);
+        EXPECT_TRUE(menu()->isVisible());
+        const int section = header()->logicalIndexAt(header()->viewport()->mapFromGlobal(menu()->pos()).x());
+        QTest::keyClick(menu(), Qt::Key_Escape);
+        return section < 0 ? QString() : table->model()->headerData(section, Qt::Horizontal).toString();
+    };
+    grid.move(0, 0);
+    grid.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&grid));
+    ASSERT_TRUE(load(u"SELECT ID, 名称, 城市 FROM 商品"_s, {}));
+    clickCell(1, 2);
+    EXPECT_EQ(columnOfMenu(), u"名称"_s);
+    ASSERT_TRUE(load(u"SELECT ID, 名称, 城市 FROM 商品 WHERE 1 = 0"_s, {}));
+    EXPECT_EQ(columnOfMenu(), u"名称"_s) << "the one that was current";
+    QTest::keyClick(table, Qt::Key_Right);
+    EXPECT_EQ(columnOfMenu(), u"城市"_s);
+    QTest::keyClick(table, Qt::Key_Right);
+    EXPECT_EQ(columnOfMenu(), u"城市"_s) << "the last one";
+    QTest::keyClick(table, Qt::Key_Left);
+    EXPECT_EQ(columnOfMenu(), u"名称"_s);
+    QTest::keyClick(table, Qt::Key_Left);
+    QTest::keyClick(table, Qt::Key_Left);
+    EXPECT_EQ(columnOfMenu(), u"ID"_s);
+}

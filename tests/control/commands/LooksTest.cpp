@@ -136,6 +136,14 @@ TEST_F(Looks, NumbersAreShownWithTheDecimalsOfTheirField)
     ASSERT_TRUE(load(u"SELECT * FROM 价"_s, {}));
     EXPECT_EQ(texts(u"甲"_s), (QStringList{u"0.2"_s, u"10"_s, QString()}));
     EXPECT_EQ(grid.CellTextL(1, 1), u"0.2"_s);
+    const auto spoken = [this](int row, int col) {
+        return table->model()->index(row, col).data(Qt::AccessibleTextRole).toString();
+    };
+    EXPECT_EQ(spoken(0, 0), u"0.20"_s) << "a screen reader says what is shown";
+    EXPECT_EQ(spoken(1, 0), u"10.00"_s);
+    EXPECT_EQ(spoken(2, 0), u"空值"_s);
+    EXPECT_EQ(spoken(0, 1), u"0.2"_s);
+    EXPECT_EQ(spoken(0, 2), u"面议"_s);
     const auto cell = [this](int row, int col) {
         table->clearSelection();
         return table->viewport()->grab(table->visualRect(table->model()->index(row, col))).toImage();

@@ -61,6 +61,25 @@ TEST_F(SelectionTest, ShowsTheDecimalsOfTheFields)
     EXPECT_EQ(shownSummary(), u"选定行数 2，计数 2，求和 1.5，平均 0.75，最小 0.5，最大 1"_s);
 }
 
+// SQLite stores them as doubles, which have 15 digits.
+TEST_F(SelectionTest, TotalsOfDecimalsAreExactBeyondFifteenDigits)
+{
+    database.run(u"CREATE TABLE 价 (甲 DECIMAL(20,2), 乙 DECIMAL(15,2), 丙 DECIMAL(20,2), 丁 DOUBLE);"
+                 "INSERT INTO 价 VALUES (9999999999999.99, 9999999999999.99, 9007199254740993, 1e300),"
+                 "(9999999999999.99, 0.01, 0.5, 1), (9999999999999.99, 0.01, 1, 1)"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 价"_s, {}));
+    mark(1, 1, 3, 1);
+    EXPECT_TRUE(
+        shownSummary().startsWith(u"选定行数 3，计数 3，求和 29999999999999.97，平均 9999999999999.99，"_s))
+        << qPrintable(shownSummary());
+    mark(1, 2, 3, 2);
+    EXPECT_TRUE(shownSummary().contains(u"求和 10000000000000.01，"_s)) << qPrintable(shownSummary());
+    mark(1, 3, 3, 3);
+    EXPECT_TRUE(shownSummary().contains(u"求和 9007199254740994.50，"_s)) << qPrintable(shownSummary());
+    mark(1, 3, 3, 4);
+    EXPECT_TRUE(shownSummary().contains(u"求和 1E+300，"_s)) << "no zeros behind it: it is rounded";
+}
+
 TEST_F(SelectionTest, SumsUpNumbersCountsTextsAndOrdersDates)
 {
     ASSERT_TRUE(load(numbers, {}));
