@@ -26,10 +26,10 @@ struct FilteredResult
 // How a command changes a statement; see Derivation::whyNot.
 enum class DerivationStep { Condition, Sort, Fields };
 
-// One sort term of a statement that became a derived table.
+// One sort term of a statement, for use over its result: as a derived table, for example.
 struct OuterTerm
 {
-    int field = -1; // index in the derived table; -1 if it sorts by none of its fields
+    int field = -1; // index in the result; -1 if it sorts by none of its fields
     QString text;   // empty if the term can't be written there
     bool isDescending = false;
 };
@@ -81,8 +81,8 @@ public:
     // Whether the kind depends on the fields of the result: a star can return equal names from several
     // tables.
     bool needsFields() const;
-    // Whether statements derived from it select from it as a derived table; and the terms of its sort, for
-    // use outside that table.
+    // Whether statements derived from it select from it as a derived table; and the terms of any statement's
+    // sort, for use outside such a table.
     bool isTable() const { return m_kind == Kind::Closed; }
     std::vector<OuterTerm> outerTerms() const;
     // The terms of its own sort, so written that they mean the same where the list lacks a field.
@@ -184,6 +184,8 @@ private:
     bool sortsBySubselectOf(const QString &alias) const;
     static QString asColumn(const QString &alias);
     int fieldOfTerm(const SelectParts::Item &term) const;
+    bool isColumn(std::size_t field, const SelectParts::Item &name) const;
+    bool mergesOuterColumns() const;
     QString sortableTerms(const QString &sortList) const;
     qsizetype fieldFor(const QString &value, const QString &name) const;
     QString sortWithin(const QStringList &entries) const;

@@ -2,6 +2,7 @@
 
 #include "query/derivation/ConstantItem.h"
 #include "sql/Names.h"
+#include "sql/select/SqlWalk.h"
 
 #include <algorithm>
 
@@ -217,14 +218,56 @@ int Derivation::fieldOfTerm(const SelectParts::Item &term) const
     });
     if (byValue >= 0 || !term.isName)
         return byValue;
-    // T.Name and Name are the same column if the result has no other field of that name.
-    const QString last = m_sql.name(term.value.end - 1);
-    if (countOf(last) != 1)
-        return -1;
-    return fieldWhere([&](std::size_t i, const SelectParts::Item *item) {
-        return isSame(m_names.at(static_cast<qsizetype>(i)), last) &&
-               (!item || item->isStar || (item->isName && item->alias.isEmpty()));
-    });
+    if (count == 1)
+        return -1; // a column that the list lacks
+    for (std::size_t i = 0; i < m_itemOfField.size(); ++i) {
+        if (isColumn(i, term))
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+// Whether a join merges columns that can differ: one table's name then finds other values than the result's.
+bool Derivation::mergesOuterColumns() const
+{
+    if (m_parts.hasPlainSources || !isJoined())
+        return false;
+    for (qsizetype i = m_parts.source.begin; i < m_parts.source.end; ++i) {
+        if (isOneOf(m_sql, i, {u"LEFT", u"RIGHT", u"FULL"}))
+            return true;
+    }
+    return false;
+}
+
+// Whether the field is the column that this qualified name finds. Its name in the result means nothing: it
+// can be an alias, and another table can have a column of that name.
+bool Derivation::isColumn(std::size_t field, const SelectParts::Item &name) const
+{
+    const auto namesIn = [&](TextRange range) {
+        QStringList names;
+        for (qsizetype i = range.begin; i < range.end; i += 2)
+            names.append(m_sql.name(i));
+        return names;
+    };
+    const auto at = static_cast<qsizetype>(field);
+    const int index = m_itemOfField[field];
+    const SelectParts::Item *item = index < 0 ? nullptr : &m_parts.items[static_cast<std::size_t>(index)];
+    if (item && !item->isStar && !item->isName)
+        return false;
+    const bool isOfStar = !item || item->isStar;
+    QStringList own =
+        item ? namesIn({item->value.begin, item->value.end - (isOfStar ? 1 : 0)}) : QStringList();
+    if (isOfStar && own.isEmpty() && !m_tableOfField.at(at).isEmpty())
+        own.append(lastNamePart(m_tableOfField.at(at)));
+    if (isOfStar)
+        own.append(m_names.at(at));
+    // Without a table, it is the only one of that name in all of them.
+    if (own.size() == 1 &&
+        (mergesOuterColumns() || (isOfStar && (countOf(own.first()) > 1 || (isJoined() && !hasAllFields())))))
+        return false;
+    const QStringList wanted = namesIn(name.value);
+    const qsizetype shared = std::min(own.size(), wanted.size());
+    return std::ranges::equal(own.last(shared), wanted.last(shared), isSame);
 }
 
 } // namespace KOVAVSFDataGridLib
