@@ -6,7 +6,6 @@
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/history/SharedHistory.h"
-#include "sql/Names.h"
 #include "sql/select/SelectParts.h"
 
 #include <algorithm>
@@ -14,19 +13,6 @@
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-int columnNamed(const QStringList &headings, const QString &written, QStringView name)
-{
-    const auto found = std::ranges::find_if(headings, [&](const QString &heading) {
-        return heading.compare(written, Qt::CaseInsensitive) == 0 ||
-               heading.compare(name, Qt::CaseInsensitive) == 0;
-    });
-    return found == headings.end() ? 0 : static_cast<int>(found - headings.begin()) + 1;
-}
-
-} // namespace
 
 QString writtenColumn(Session &session, int col)
 {
@@ -61,6 +47,20 @@ bool isSortedInside(const Derivation &derivation, const Dialect &dialect)
                                                    [](const OuterTerm &term) { return term.text.isEmpty(); });
 }
 
+// The terms of the sort with the columns that they mean. Without a wait for the database, a derivation does
+// not know what a star lists.
+std::vector<OuterTerm> termsOver(const QStringList &headings,
+                                 const std::shared_ptr<const Derivation> &derivation,
+                                 const QString &statement, const Dialect &dialect)
+{
+    if (derivation && derivation->names().size() == headings.size())
+        return derivation->outerTerms();
+    std::vector<SourceField> fields;
+    for (const QString &heading : headings)
+        fields.push_back({heading, 0});
+    return Derivation(statement, fields, dialect).outerTerms();
+}
+
 } // namespace
 
 std::vector<SortTerm> shownOrder(Session &session)
@@ -80,24 +80,14 @@ std::vector<SortTerm> shownOrder(Session &session)
     const SqlScanner statement(session.result().recordset()->Source(), dialect);
     const SelectParts parts = SelectParts::of(statement);
     const QStringList headings = session.window().Headings();
+    const std::vector<OuterTerm> found = termsOver(headings, derivation, statement.sql(), dialect);
     // The shown statement may lack fields that the opened one sorts by.
     const QStringList stable = derivation ? derivation->sortTerms() : QStringList();
     std::vector<SortTerm> terms;
     for (const SelectParts::Item &item : parts.sort) {
-        const QString value = textOf(statement, item.value);
-        int column = 0;
-        if (statement.at(item.value.begin).kind == SqlToken::Kind::Number)
-            column = value.toInt() <= headings.size() ? value.toInt() : 0;
-        // If several columns have the name, its table distinguishes them.
+        int column = found.at(terms.size()).field + 1;
         for (int col = 1; col <= headings.size() && column == 0; ++col) {
-            if (headings.count(headings.at(col - 1)) > 1 &&
-                writtenColumn(session, col).compare(value, Qt::CaseInsensitive) == 0)
-                column = col;
-        }
-        if (column == 0 && item.isName)
-            column = columnNamed(headings, value, lastNamePart(value));
-        for (int col = 1; col <= headings.size() && column == 0; ++col) {
-            if (writtenColumn(session, col).compare(value, Qt::CaseInsensitive) == 0)
+            if (writtenColumn(session, col).compare(textOf(statement, item.value), Qt::CaseInsensitive) == 0)
                 column = col;
         }
         const auto index = static_cast<qsizetype>(terms.size());
