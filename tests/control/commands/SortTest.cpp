@@ -1,4 +1,5 @@
 // The sort dialog's way from names to a statement and back, as each database quotes them.
+#include "ColumnMenuFixture.h"
 #include "Shop.h"
 
 #include "support/Dialogs.h"
@@ -104,4 +105,33 @@ TEST_F(Sort, ComputedFieldsAreOfferedUnderTheirHeadings)
     click(u"Sort"_s);
     EXPECT_EQ(texts(u"编号"_s).first(), u"1"_s) << "an emptied list removes the sort";
     EXPECT_FALSE(statement().contains(u"ORDER BY"));
+}
+
+// Of two tables with equal names, a sort by the one is none by the other.
+TEST_F(ColumnMenu, TellsASortByAnotherTablesColumnApart)
+{
+    const QString list = u"SELECT A.ID,A.名称 FROM 商品 A JOIN 商品 B ON B.ID=8-A.ID "_s;
+    ASSERT_TRUE(load(list + u"ORDER BY B.ID DESC, A.名称"_s, {}));
+    EXPECT_EQ(spoken(u"ID"_s), u"ID"_s);
+    open(u"ID"_s);
+    EXPECT_FALSE(entry(u"RemoveFromSort"_s)->isEnabled());
+    menu()->close();
+    choose(u"名称"_s, u"RemoveFromSort"_s);
+    choose(u"ID"_s, u"AddToSort"_s);
+    EXPECT_TRUE(statement().endsWith(u"ORDER BY B.ID DESC,A.ID"_s)) << qUtf8Printable(statement());
+    for (const QString &tail :
+         {u"GROUP BY A.ID,A.名称,B.ID ORDER BY B.ID DESC"_s, u"ORDER BY B.ID DESC LIMIT 4"_s}) {
+        ASSERT_TRUE(load(list + tail, {}));
+        EXPECT_EQ(spoken(u"ID"_s), u"ID"_s);
+        const QStringList ids = texts(u"ID"_s);
+        open(u"名称"_s);
+        EXPECT_FALSE(entry(u"AddToSort"_s)->isEnabled());
+        menu()->close();
+        choose(u"名称"_s, u"HideColumn"_s);
+        EXPECT_EQ(texts(u"ID"_s), ids);
+    }
+    ASSERT_TRUE(load(u"SELECT ID AS 编号,名称 AS ID FROM 商品 A ORDER BY A.ID DESC"_s, {}));
+    EXPECT_EQ(spoken(u"ID"_s), u"ID"_s);
+    EXPECT_EQ(spoken(u"编号"_s), u"编号，第 1 排序字段，降序"_s);
+    EXPECT_TRUE(messages.shown().empty()) << qUtf8Printable(messages.texts().join(u'|'));
 }
