@@ -110,8 +110,8 @@ TEST_F(Sort, ComputedFieldsAreOfferedUnderTheirHeadings)
 // Of two tables with equal names, a sort by the one is none by the other.
 TEST_F(ColumnMenu, TellsASortByAnotherTablesColumnApart)
 {
-    const QString list = u"SELECT A.ID,A.名称 FROM 商品 A JOIN 商品 B ON B.ID=8-A.ID "_s;
-    ASSERT_TRUE(load(list + u"ORDER BY B.ID DESC, A.名称"_s, {}));
+    const QString select = u"SELECT A.ID,A.名称 FROM 商品 A JOIN 商品 B ON B.ID=8-A.ID "_s;
+    ASSERT_TRUE(load(select + u"ORDER BY B.ID DESC, A.名称"_s, {}));
     EXPECT_EQ(spoken(u"ID"_s), u"ID"_s);
     open(u"ID"_s);
     EXPECT_FALSE(entry(u"RemoveFromSort"_s)->isEnabled());
@@ -121,7 +121,7 @@ TEST_F(ColumnMenu, TellsASortByAnotherTablesColumnApart)
     EXPECT_TRUE(statement().endsWith(u"ORDER BY B.ID DESC,A.ID"_s)) << qUtf8Printable(statement());
     for (const QString &tail :
          {u"GROUP BY A.ID,A.名称,B.ID ORDER BY B.ID DESC"_s, u"ORDER BY B.ID DESC LIMIT 4"_s}) {
-        ASSERT_TRUE(load(list + tail, {}));
+        ASSERT_TRUE(load(select + tail, {}));
         EXPECT_EQ(spoken(u"ID"_s), u"ID"_s);
         const QStringList ids = texts(u"ID"_s);
         open(u"名称"_s);
