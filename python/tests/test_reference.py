@@ -19,12 +19,12 @@ def names():
     return (DOCUMENTS / 'reference.md').read_text('utf-8').partition('## Names of parts and commands')[2]
 
 
-@pytest.fixture(params=['shortcuts.md', 'shortcuts.zh-CN.md'])
-def commands(request):
-    """The keys and the numbers in the last column of the table of commands, each once."""
-    rows = re.findall(r'^\| [^|]+ \| [^|]+ \|([^|]*)\|$', (DOCUMENTS / request.param).read_text('utf-8'), re.M)
-    cells = ' '.join(rows)
-    return set(re.findall(r'`(\w+)`', cells)), {int(number) for number in re.findall(r'\d+', cells)}
+@pytest.fixture
+def commands(names):
+    """The keys of the buttons and the numbers of the popup menu's entries in the table of commands."""
+    rows = re.findall(r'^\|([^|]*)\|([^|]*)\| [^|]+ \|$', names, re.M)
+    keys = re.findall(r'`(\w+)`', ' '.join(key for key, number in rows))
+    return set(keys), {int(number) for key, number in rows if number.strip().isdigit()}
 
 
 @pytest.fixture
