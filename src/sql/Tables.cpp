@@ -48,4 +48,9 @@ bool isTableOfSystem(Engine engine, const QString &name)
     return engine == Engine::SQLite && name.startsWith("sqlite_"_L1, Qt::CaseInsensitive);
 }
 
+bool canTablesDifferInCase(Engine engine)
+{
+    return engine == Engine::MySQL;
+}
+
 } // namespace KOVAVSFDataGridLib

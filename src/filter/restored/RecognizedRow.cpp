@@ -5,6 +5,7 @@
 #include "sql/Like.h"
 #include "sql/Names.h"
 #include "sql/Predicates.h"
+#include "sql/Tables.h"
 
 #include <algorithm>
 
@@ -14,12 +15,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Keywords and plain names mean the same in any case, but for the tables of MySQL.
+// Keywords and plain names mean the same in any case, but for the tables of some engines.
 bool isSameToken(const SqlScanner &a, qsizetype tokenOfA, const SqlScanner &b, qsizetype tokenOfB,
                  const Dialect &dialect)
 {
     const SqlToken::Kind kind = a.at(tokenOfA).kind;
-    const bool tellsCase = dialect.engine == Engine::MySQL && a.isSymbol(tokenOfA + 1, u'.');
+    const bool tellsCase = canTablesDifferInCase(dialect.engine) && a.isSymbol(tokenOfA + 1, u'.');
     const auto sensitivity =
         kind == SqlToken::Kind::Word && !tellsCase ? Qt::CaseInsensitive : Qt::CaseSensitive;
     return kind == b.at(tokenOfB).kind && a.text(tokenOfA).compare(b.text(tokenOfB), sensitivity) == 0;
