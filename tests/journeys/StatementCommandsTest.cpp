@@ -192,7 +192,8 @@ protected:
                     return dialog.reject();
                 const auto builtCases = *number ? casesOfNumbers(texts.first(), texts.last())
                                                 : casesOfTexts(texts.first(), texts.last(), letters());
-                built = builtCases.at(static_cast<std::size_t>(turn++) % builtCases.size());
+                std::size_t &turn = *number ? numberTurn : textTurn;
+                built = builtCases.at(turn++ % builtCases.size());
                 ++used[built.op];
                 fill(dialog, 1, all.names.at(column), built);
                 press(dialog, "cmd_Filter");
@@ -328,7 +329,9 @@ protected:
         hands->grid.PutSQLSort({});
     }
 
-    int turn = 0;
+    // Numbers and texts take turns of their own, so that each operator is used whatever their order.
+    std::size_t numberTurn = 0;
+    std::size_t textTurn = 0;
     std::map<QString, int> used; // operators
 };
 
