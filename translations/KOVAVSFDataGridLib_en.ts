@@ -2744,6 +2744,10 @@
         <source>数据库不能按字段“%1”的数据类型排序，也不能列出它的值。</source>
         <translation>The database can neither sort by the data type of the field &quot;%1&quot; nor list its values.</translation>
     </message>
+    <message>
+        <source>该语句按结果中没有的内容排序，筛选或选择字段后数据库不能保持这个顺序。请先在语句的字段中写出排序的内容。</source>
+        <translation>This statement is sorted by something that its result lacks, and the database can&apos;t keep that order after a filter or a choice of fields. List what it is sorted by among its fields first.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::SessionMessages</name>

@@ -69,9 +69,10 @@ QString innerTableAlias(const Dialect &dialect, const QString &name)
     return (dialect.likelyEngine() == Engine::Oracle ? " "_L1 : " AS "_L1) + name;
 }
 
-bool takesInnerSort(const Dialect &dialect)
+bool keepsInnerSort(const Dialect &dialect)
 {
-    return dialect.likelyEngine() != Engine::SqlServer;
+    const Engine engine = dialect.likelyEngine();
+    return engine != Engine::SqlServer && engine != Engine::MySQL;
 }
 
 } // namespace KOVAVSFDataGridLib

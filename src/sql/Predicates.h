@@ -38,7 +38,8 @@ RowLimit rowLimitWithoutSort(const Dialect &dialect, int count);
 // What follows the closing bracket of a derived table, including the blank before it.
 QString innerTableAlias(const Dialect &dialect, const QString &name);
 
-// Whether a derived table may be sorted without being limited.
-bool takesInnerSort(const Dialect &dialect);
+// Whether a statement has the order of the derived table that it selects from. SQL Server refuses such an
+// order, and MySQL loses it where a field is long or the table is large.
+bool keepsInnerSort(const Dialect &dialect);
 
 } // namespace KOVAVSFDataGridLib

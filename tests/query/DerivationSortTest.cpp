@@ -157,3 +157,90 @@ TEST(DerivationSort, ByASubselectOfAnAliasKeepsTheStatementWhole)
     EXPECT_FALSE(isTable(Engine::SQLite, {})); // a column has that name
     EXPECT_FALSE(isTable(Engine::PostgreSQL, {}));
 }
+
+// SQL Server refuses an order within a table, and MySQL loses it.
+TEST(DerivationSort, ByWhatTheResultLacksIsByAFieldOfTheTableWhereItsOrderWouldBeLost)
+{
+    const QString grouped =
+        u"select dept, count(*) as n from emp group by dept order by max(salary) desc, dept"_s;
+    const QStringList names{u"dept"_s, u"n"_s};
+    EXPECT_EQ(derive(Engine::PostgreSQL, grouped, names).withCondition(u"n > 0"_s).simplified(),
+              u"SELECT * FROM ( %1 ) AS Q WHERE n > 0"_s.arg(grouped));
+    const QString table =
+        u"FROM ( select dept, count(*) as n, max(salary) AS SortKey1 from emp group by dept ) AS Q"_s;
+    for (const Engine engine : {Engine::MySQL, Engine::SqlServer}) {
+        const Derivation origin = derive(engine, grouped, names);
+        const QString filtered = origin.withCondition(u"n > 0"_s);
+        EXPECT_EQ(filtered.simplified(),
+                  u"SELECT dept,n %1 WHERE n > 0 ORDER BY SortKey1 desc,dept"_s.arg(table));
+        const QString chosen = derive(engine, filtered, names).withFields({u"n"_s});
+        EXPECT_EQ(chosen.simplified(), u"SELECT n %1 WHERE n > 0 ORDER BY SortKey1 desc,dept"_s.arg(table));
+        EXPECT_EQ(derive(engine, chosen, {u"n"_s}).withFieldsOf(origin).simplified(), filtered.simplified());
+        EXPECT_EQ(origin.withSort(u"n"_s).simplified(), u"SELECT dept,n %1 ORDER BY n"_s.arg(table));
+        EXPECT_TRUE(derive(engine, filtered, names).hasAsTable(origin));
+    }
+}
+
+TEST(DerivationSort, ALimitKeepsItsOwnSortBesideTheFieldsForTheOuterOne)
+{
+    EXPECT_EQ(derive(Engine::SqlServer,
+                     u"select top 3 e.name from emp e join dept d on d.id = e.dept order by d.name desc"_s,
+                     {u"name"_s})
+                  .withCondition(u"name > ''"_s)
+                  .simplified(),
+              u"SELECT name FROM ( select top 3 e.name, d.name AS SortKey1 from emp e join dept d on d.id = "
+              "e.dept order by d.name desc ) AS Q WHERE name > '' ORDER BY SortKey1 desc"_s);
+    // A list can't use its own aliases; the name for the sort must be another.
+    const QString statement = u"select salary as s, id as SortKey1 from emp e order by s + e.s, "
+                              "(select name from dept where id = s) desc limit 5"_s;
+    const Derivation limited(statement, {{u"s"_s, 3}, {u"SortKey1"_s, 3}},
+                             dialectOf(dbSQLServer, Engine::MySQL), {{u"`s`"_s, 0}});
+    EXPECT_EQ(limited.withCondition(u"s > 1"_s).simplified(),
+              u"SELECT s,SortKey1 FROM ( select salary as s, id as SortKey1, (salary) + e.s AS SortKey1_, "
+              "(select name from dept where id = s) AS SortKey2 from emp e order by s + e.s, (select name "
+              "from dept where id = s) desc limit 5 ) AS Q WHERE s > 1 ORDER BY SortKey1_,SortKey2 desc"_s);
+}
+
+TEST(DerivationSort, OfAUnionUsesTheFieldsOfItsResultAlone)
+{
+    EXPECT_EQ(
+        derive(Engine::MySQL, u"select id from a union select id from b order by -id desc"_s, {u"id"_s})
+            .withCondition(u"id > 1"_s)
+            .simplified(),
+        u"SELECT * FROM ( select id from a union select id from b ) AS Q WHERE id > 1 ORDER BY -id desc"_s);
+}
+
+TEST(DerivationSort, ThatWouldBeLostIsAReasonNotToChooseSomeOfTheRecords)
+{
+    const QString statement = u"select distinct a, count(*) over () as n from t order by b"_s;
+    const Derivation derivation = derive(Engine::MySQL, statement, {u"a"_s, u"n"_s});
+    EXPECT_NE(derivation.whyNot(DerivationStep::Condition), QString());
+    EXPECT_NE(derivation.whyNot(DerivationStep::Fields), QString());
+    EXPECT_EQ(derivation.whyNot(DerivationStep::Sort), QString());
+    EXPECT_EQ(derivation.withCondition(u"n > 1"_s), QString());
+    const Derivation kept = derive(Engine::SQLite, statement, {u"a"_s, u"n"_s});
+    EXPECT_EQ(kept.whyNot(DerivationStep::Condition), QString());
+}
+
+// Another sort would drop it without a word.
+TEST(DerivationSort, InsideATableIsFoundBehindTheLimitOfAllRecords)
+{
+    const auto filtered = [](Engine engine, const QString &from) {
+        const QString statement =
+            u"select A, count(*) as N from %1 group by A, C order by max(B), A"_s.arg(from);
+        const QString once = derive(engine, statement, {u"A"_s, u"N"_s}).withCondition(u"N > 0"_s);
+        return derive(engine, once, {u"A"_s, u"N"_s});
+    };
+    EXPECT_TRUE(filtered(Engine::SQLite, u"T"_s).isSortedInside());
+    EXPECT_TRUE(filtered(Engine::SQLite, u"(select * from T limit 5) as V"_s).isSortedInside());
+    EXPECT_TRUE(filtered(Engine::PostgreSQL, u"(select * from T limit 5) as V"_s).isSortedInside());
+    EXPECT_FALSE(filtered(Engine::MySQL, u"T"_s).isSortedInside()) << "its sort is outside";
+    EXPECT_TRUE(filtered(Engine::MySQL, u"T"_s).isSorted());
+    const auto isSortedInside = [](const QString &statement) {
+        return derive(Engine::SQLite, statement, {u"A"_s}).isSortedInside();
+    };
+    EXPECT_TRUE(isSortedInside(u"select A from (select A from T order by B limit 5) V"_s));
+    EXPECT_FALSE(isSortedInside(u"select A from (select A from T order by A limit 5) V"_s));
+    EXPECT_FALSE(isSortedInside(u"select A from (select A from T order by B limit 5) V order by A"_s));
+    EXPECT_FALSE(isSortedInside(u"select A from (select A from T order by B limit 5) V group by A"_s));
+}

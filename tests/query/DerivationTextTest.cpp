@@ -83,10 +83,10 @@ TEST(DerivationText, WithGoesToTheFront)
 
 TEST(DerivationText, SqlServerHasNoSortInATable)
 {
-    // A sort by what the result doesn't hold can't go outside.
     expectText(derive(Engine::SqlServer, u"select A from T group by A order by max(B)"_s, {u"A"_s})
                    .withCondition(u"A = 1"_s),
-               "SELECT * FROM ( select A from T group by A ) AS Q WHERE A = 1");
+               "SELECT A FROM ( select A, max(B) AS SortKey1 from T group by A ) AS Q WHERE A = 1 "
+               "ORDER BY SortKey1");
 }
 
 TEST(DerivationText, TopAndDistinctStayInFrontOfChosenFields)
@@ -261,7 +261,8 @@ INSTANTIATE_TEST_SUITE_P(
                  "SELECT A, Twice = Q * 2 FROM T WHERE (Q * 2) = 1"},
         OpenCase{"Ties", Engine::SqlServer, u"select top (5) with ties A, B from T order by C desc"_s,
                  u"A|B"_s,
-                 "SELECT * FROM ( select top (5) with ties A, B from T order by C desc ) AS Q WHERE B = 1"},
+                 "SELECT A,B FROM ( select top (5) with ties A, B, C AS SortKey1 from T order by C desc ) AS Q "
+                 "WHERE B = 1 ORDER BY SortKey1 desc"},
         OpenCase{"FirstRows", Engine::Oracle, u"select A, B from T order by A fetch first 3 rows with ties"_s,
                  u"A|B"_s,
                  "SELECT * FROM ( select A, B from T order by A fetch first 3 rows with ties ) Q WHERE B = 1 "

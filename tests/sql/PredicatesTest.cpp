@@ -74,9 +74,11 @@ TEST(Predicates, OracleTakesNoWordBeforeTheAliasOfAnInnerTable)
     EXPECT_EQ(innerTableAlias({dbOracle, true, false, Engine::PostgreSQL}, u"Q"_s), u" AS Q"_s);
 }
 
-TEST(Predicates, OnlySqlServerRefusesAnInnerTablesSort)
+TEST(Predicates, SqlServerAndMySqlKeepNoOrderWithinATable)
 {
-    EXPECT_FALSE(takesInnerSort({dbAccess, true, false, Engine::SqlServer}));
-    EXPECT_FALSE(takesInnerSort({dbSQLServer}));
-    EXPECT_TRUE(takesInnerSort({dbSQLServer, true, false, Engine::MySQL}));
+    EXPECT_FALSE(keepsInnerSort({dbAccess, true, false, Engine::SqlServer}));
+    EXPECT_FALSE(keepsInnerSort({dbSQLServer}));
+    EXPECT_FALSE(keepsInnerSort({dbSQLServer, true, false, Engine::MySQL}));
+    EXPECT_TRUE(keepsInnerSort({dbSQLServer, true, false, Engine::PostgreSQL}));
+    EXPECT_TRUE(keepsInnerSort({dbSQLServer, false, false, Engine::SQLite}));
 }

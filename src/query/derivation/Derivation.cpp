@@ -109,6 +109,8 @@ QString Derivation::whyNot(DerivationStep step) const
         return QueryTexts::UnnamedField;
     if (isWhole && !equalName().isEmpty())
         return QueryTexts::EqualNames.arg(equalName());
+    if (isWhole && step != DerivationStep::Sort && losesSort())
+        return QueryTexts::SortNotKept;
     const QStringList &usable = step == DerivationStep::Fields ? m_listed : m_written;
     if (!isWhole && !usable.isEmpty() && std::ranges::all_of(usable, &QString::isEmpty))
         return equalName().isEmpty() ? QueryTexts::UnknownTable.arg(m_names.first())
@@ -159,7 +161,7 @@ QString Derivation::withoutConditions() const
 }
 
 // The positions for WHERE in each SELECT of a union, in brackets or not. A table defined by WITH belongs to
-// the source.
+// the source. Without the conditions of what is taken away, fewer records would be left, not more.
 std::vector<qsizetype> Derivation::unitedConditions() const
 {
     const auto beginsSelect = [&](qsizetype i) {
@@ -168,13 +170,20 @@ std::vector<qsizetype> Derivation::unitedConditions() const
                isOneOf(m_sql, before, {u"UNION", u"EXCEPT", u"INTERSECT", u"MINUS"});
     };
     std::vector<qsizetype> conditions;
-    int depth = 0; // of the SELECT being read
+    int depth = 0;      // of the SELECT being read
+    int takenFrom = -1; // the depth of the SELECT that this one is taken from; -1 if it is taken from none
     for (qsizetype i = m_parts.with.end; i < m_sql.count(); ++i) {
         if (m_sql.at(i).depth < depth)
             --depth; // at the closing bracket
         else if (m_sql.at(i).depth == depth && m_sql.isSymbol(i, u'(') && beginsSelect(i))
             ++depth;
-        else if (m_sql.at(i).depth == depth && m_sql.isWord(i, u"WHERE") && !m_sql.isSymbol(i - 1, u'.'))
+        if (depth < takenFrom || (depth == takenFrom && m_sql.isWord(i, u"UNION")))
+            takenFrom = -1;
+        if (m_sql.at(i).depth != depth || m_sql.isSymbol(i - 1, u'.'))
+            continue;
+        if (takenFrom < 0 && isOneOf(m_sql, i, {u"EXCEPT", u"MINUS"}))
+            takenFrom = depth;
+        else if (takenFrom < 0 && m_sql.isWord(i, u"WHERE"))
             conditions.push_back(i);
     }
     return conditions;
@@ -201,8 +210,8 @@ QString Derivation::table() const
 QString Derivation::withTable(const Derivation &other) const
 {
     const SQLSentence sentence = base();
-    return joinSQLSentence(
-        {prefix() + u"SELECT * FROM "_s + other.asTable(), sentence.where, sentence.order});
+    return joinSQLSentence({prefix() + u"SELECT %1 FROM "_s.arg(other.tableList()) + other.asTable(),
+                            sentence.where, sentence.order});
 }
 
 QString Derivation::withSource(const Derivation &other) const
@@ -288,7 +297,9 @@ SQLSentence Derivation::base() const
         break;
     }
     const QString sort = outerSort();
-    return {prefix() + u"SELECT * FROM "_s + asTable(), {}, sort.isEmpty() ? QString() : orderWords + sort};
+    return {prefix() + u"SELECT "_s + tableList() + u" FROM "_s + asTable(),
+            {},
+            sort.isEmpty() ? QString() : orderWords + sort};
 }
 
 QString Derivation::headWith(const QString &list) const
@@ -306,52 +317,6 @@ QString Derivation::listText() const
             return item.isStar || item.isName || !item.alias.isEmpty();
         });
     return isNamed ? withWordsApart(m_parts.list, 1) : textOf(m_sql, m_parts.list);
-}
-
-QString Derivation::asTable() const
-{
-    qsizetype end = m_sql.count();
-    while (m_sql.isSymbol(end - 1, u';'))
-        --end;
-    const TextRange all{m_parts.with.end, end};
-    QString inner = withWordsApart(all, 0);
-    // A limit depends on the order of its rows, and so does DISTINCT ON. Any other sort is applied outside.
-    const bool isOrdered =
-        !m_parts.order.isEmpty() && !m_parts.isLimited && !m_parts.isTop && !m_parts.isDistinctOn;
-    const qsizetype start = m_sql.at(all.begin).start;
-    if (isOrdered && (!outerSort().isEmpty() || !takesInnerSort(m_dialect))) {
-        const qsizetype from = m_sql.at(m_parts.order.begin).start - start;
-        inner.remove(from, m_sql.at(m_parts.order.end - 1).end() - start - from);
-    }
-    for (const qsizetype word : firstListWords(m_sql, all) | std::views::reverse)
-        inner.remove(m_sql.at(word).start - start, m_sql.at(word).length);
-    inner = inner.trimmed();
-    if (needsFence(m_sql, {0, end}, m_dialect.engine))
-        inner = fenced(inner, m_dialect.engine);
-    // A line comment at the end must not include the bracket.
-    return u"(\n"_s + inner + u"\n)"_s + innerTableAlias(m_dialect, u"Q"_s);
-}
-
-std::vector<OuterTerm> Derivation::outerTerms() const
-{
-    std::vector<OuterTerm> terms;
-    for (const SelectParts::Item &term : m_parts.sort) {
-        const int field = fieldOfTerm(term);
-        const QString name = field < 0 ? QString() : writtenName(m_dialect, m_names.at(field));
-        terms.push_back({field, name.isEmpty() ? name : sortedAs(term, name), term.isDescending});
-    }
-    return terms;
-}
-
-QString Derivation::outerSort() const
-{
-    QStringList terms;
-    for (const OuterTerm &term : outerTerms()) {
-        if (term.text.isEmpty())
-            return {};
-        terms.append(term.text);
-    }
-    return terms.join(u',');
 }
 
 // Such a term means another field, or none, where the list lacks the entry.

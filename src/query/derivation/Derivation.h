@@ -85,6 +85,8 @@ public:
     // sort, for use outside such a table.
     bool isTable() const { return m_kind == Kind::Closed; }
     std::vector<OuterTerm> outerTerms() const;
+    // Whether it has no sort but its table's, by something that its own result lacks.
+    bool isSortedInside() const;
     // The terms of its own sort, so written that they mean the same where the list lacks a field.
     QStringList sortTerms() const;
     // Whether DISTINCT removes rows, so that other fields mean other rows.
@@ -166,8 +168,13 @@ private:
     // The clauses that the steps change: those of this statement, or of one that has it as a table.
     SQLSentence base() const;
     QString asTable() const;
+    QString tableList() const;
     QString listText() const;
     QString outerSort() const;
+    bool losesSort() const;
+    QString sortKey(std::size_t term) const;
+    QString sortKeys() const;
+    QString keyValue(const SelectParts::Item &term) const;
     // Whether a term of the sort is found by the list: a position, an alias, or a name that isn't enough for
     // one of the sources.
     bool meansEntry(const SelectParts::Item &term) const;

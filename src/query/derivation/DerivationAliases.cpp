@@ -57,11 +57,14 @@ bool Derivation::sortsBySubselectOf(const QString &alias) const
 QStringList Derivation::aliasesToTell() const
 {
     const Engine engine = m_dialect.engine;
+    // Otherwise the sort stays as it is written.
+    const bool isWrittenAgain =
+        !m_parts.isCompound && ((!m_parts.isGrouped && !m_parts.isLimited) || !keepsInnerSort(m_dialect));
     QStringList aliases;
     for (const SelectParts::Item &item : m_parts.items) {
-        const bool isUsed = (readsAliasesInConditions(engine) && usesName(m_parts.where, item.alias)) ||
-                            (readsAliasesInSortExpressions(engine) && !m_parts.isGrouped &&
-                             !m_parts.isCompound && !m_parts.isLimited && sortsByExpressionOf(item.alias));
+        const bool isUsed =
+            (readsAliasesInConditions(engine) && usesName(m_parts.where, item.alias)) ||
+            (readsAliasesInSortExpressions(engine) && isWrittenAgain && sortsByExpressionOf(item.alias));
         if (isUsed && !item.alias.isEmpty() && !aliases.contains(asColumn(item.alias)))
             aliases.append(asColumn(item.alias));
     }

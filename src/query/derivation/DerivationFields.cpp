@@ -65,7 +65,9 @@ QString Derivation::withFieldsOf(const Derivation &fieldStatement) const
     };
     const bool hasWords = keepsListWords() && fieldStatement.keepsListWords();
     if (!hasWords && m_kind != Kind::Closed && sameText(source(), fieldStatement.source()))
-        return withList(fieldStatement.m_kind == Kind::Closed ? u"*"_s : fieldStatement.listText(), {});
+        return withList(fieldStatement.m_kind == Kind::Closed ? fieldStatement.tableList()
+                                                              : fieldStatement.listText(),
+                        {});
     if (hasWords &&
         sameText(textOf(m_sql, m_parts.source), textOf(fieldStatement.m_sql, fieldStatement.m_parts.source)))
         return withList(fieldStatement.listText(), splitList(fieldStatement.listText(), m_dialect));

@@ -8,8 +8,6 @@
 #include "session/history/SharedHistory.h"
 #include "sql/select/SelectParts.h"
 
-#include <algorithm>
-
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
@@ -39,14 +37,6 @@ QString whyNotSorted(Session &session, int col)
 
 namespace {
 
-// Whether it has its order from within its table, by something that its result lacks.
-bool isSortedInside(const Derivation &derivation, const Dialect &dialect)
-{
-    const QString table = derivation.isSorted() ? QString() : derivation.table();
-    return !table.isEmpty() && std::ranges::any_of(Derivation(table, {}, dialect).outerTerms(),
-                                                   [](const OuterTerm &term) { return term.text.isEmpty(); });
-}
-
 // The terms of the sort with the columns that they mean. Without a wait for the database, a derivation does
 // not know what a star lists.
 std::vector<OuterTerm> termsOver(const QStringList &headings,
@@ -75,7 +65,7 @@ std::vector<SortTerm> shownOrder(Session &session)
         return terms;
     }
     const Dialect dialect = dialectOf(session.filterManager().DBType(), session.result().engine());
-    if (derivation && isSortedInside(*derivation, dialect))
+    if (derivation && derivation->isSortedInside())
         return {SortTerm()};
     const SqlScanner statement(session.result().recordset()->Source(), dialect);
     const SelectParts parts = SelectParts::of(statement);
