@@ -41,6 +41,14 @@ bool losesItsCase(const Dialect &dialect, const QString &name)
     return folds && hasCapital(name) && hasSmall(name);
 }
 
+// Where there is no Access, SQLite is the engine that reads its files, in Access's SQL.
+bool isReserved(const Dialect &dialect, const QString &name)
+{
+    const Engine engine = dialect.likelyEngine();
+    const bool canBeAccess = engine == Engine::SQLite && dialect.database == dbAccess;
+    return isReservedWord(engine, name) || (canBeAccess && isWordOfAccess(name));
+}
+
 } // namespace
 
 bool isPlainName(const QString &name)
@@ -57,7 +65,7 @@ QString writtenName(const Dialect &dialect, const QString &name)
 {
     const Engine engine = dialect.likelyEngine();
     const bool isBare = isPlainName(name) && (!name.contains(u'#') || readsNumberSign(engine)) &&
-                        !losesItsCase(dialect, name) && !isReservedWord(engine, name);
+                        !losesItsCase(dialect, name) && !isReserved(dialect, name);
     return isBare ? name : quotedName(dialect, name);
 }
 

@@ -99,6 +99,21 @@ TEST(Names, AreWrittenAsTheEngineWantsItWhateverTheDeclaredType)
     expectWritten(dbOracle, Engine::MySQL, u"unit price"_s, "`unit price`");
 }
 
+// Bare, they would be constants and operators. SQLite reads Access's files where there is no Access.
+TEST(Names, ThatAccessReadsAsSomethingElseAreInBrackets)
+{
+    for (const QString &name : {u"No"_s, u"YES"_s, u"off"_s, u"True"_s, u"Mod"_s, u"Like"_s, u"ALike"_s,
+                                u"Top"_s, u"DistinctRow"_s, u"On"_s}) {
+        const std::string written = qPrintable(u'[' + name + u']');
+        expectWritten(dbAccess, Engine::SQLite, name, written.c_str());
+        expectWritten(dbAccess, Engine::Access, name, written.c_str());
+        expectWritten(dbSQLServer, Engine::Access, name, written.c_str());
+    }
+    expectWritten(dbSQLServer, Engine::SQLite, u"No"_s, "No");
+    expectWritten(dbAccess, Engine::MySQL, u"Yes"_s, "Yes");
+    expectWritten(dbSQLServer, Engine::Standard, u"No"_s, "No");
+}
+
 TEST(Names, AreReservedByTheirEngineAlone)
 {
     EXPECT_TRUE(isReservedWord(Engine::MySQL, u"Rank"_s));

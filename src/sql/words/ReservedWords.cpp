@@ -28,6 +28,8 @@ constexpr QLatin1StringView access(
     "INTEGER LOGICAL LONG LONGBINARY LONGTEXT MEMO MOD MONEY NUMERIC OLEOBJECT OPTION OWNERACCESS PARAMETERS "
     "PERCENT PIVOT PROCEDURE REAL SHORT SINGLE SMALLINT TABLEID TIMESTAMP TOP TRANSFORM VARBINARY VARCHAR XOR "
     "YESNO");
+// Access reads these as constants, operators and words of a SELECT. Elsewhere they are common names.
+constexpr QLatin1StringView accessAlone("ALIKE DISTINCTROW FILTER GLOB MOD NO OFF OVER TOP XOR YES");
 constexpr QLatin1StringView sqlServer(
     "ADD AUTHORIZATION BACKUP BEGIN BREAK BROWSE BULK CASCADE CHECKPOINT CLOSE CLUSTERED COALESCE COLLATE COMMIT "
     "COMPUTE CONTAINS CONTAINSTABLE CONTINUE CONVERT CURRENT CURRENT_USER CURSOR DATABASE DBCC DEALLOCATE "
@@ -86,7 +88,7 @@ const Words &wordsOf(Engine engine)
 {
     static const QHash<Engine, Words> words{
         {Engine::SQLite, wordsOf({everywhere, sqlite})},
-        {Engine::Access, wordsOf({everywhere, access})},
+        {Engine::Access, wordsOf({everywhere, access, accessAlone})},
         {Engine::SqlServer, wordsOf({everywhere, sqlServer})},
         {Engine::Oracle, wordsOf({everywhere, oracle})},
         {Engine::PostgreSQL, wordsOf({everywhere, postgreSql})},
@@ -102,6 +104,12 @@ const Words &wordsOf(Engine engine)
 bool isReservedWord(Engine engine, const QString &name)
 {
     return wordsOf(engine).contains(name.toUpper());
+}
+
+bool isWordOfAccess(const QString &name)
+{
+    static const Words words = wordsOf({accessAlone});
+    return words.contains(name.toUpper());
 }
 
 } // namespace KOVAVSFDataGridLib

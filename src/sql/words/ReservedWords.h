@@ -10,4 +10,7 @@ namespace KOVAVSFDataGridLib {
 // engine.
 bool isReservedWord(Engine engine, const QString &name);
 
+// Whether Access reads the bare name as something that SQLite does not know, such as the constant No.
+bool isWordOfAccess(const QString &name);
+
 } // namespace KOVAVSFDataGridLib
