@@ -107,6 +107,26 @@ TEST_F(Sort, ComputedFieldsAreOfferedUnderTheirHeadings)
     EXPECT_FALSE(statement().contains(u"ORDER BY"));
 }
 
+// The dialog lists what was chosen in it, so its empty list says nothing about the host's own sort.
+TEST_F(Sort, AnEmptyListThatNobodyEmptiedLeavesTheHostsSort)
+{
+    ASSERT_TRUE(load(u"SELECT ID, 名称 FROM 商品 ORDER BY ID DESC"_s, {}));
+    const QString sorted = statement();
+    WindowAnswers dialogs(
+        {[](QDialog &dialog) {
+             EXPECT_EQ(part<QAbstractItemView>(dialog, "lvSortFields").model()->rowCount(), 0);
+             press(dialog, "cmdOK");
+         },
+         [](QDialog &dialog) { sort(dialog, {u"ID"_s}); }, [](QDialog &dialog) { sort(dialog, {}); }});
+    click(u"Sort"_s);
+    EXPECT_EQ(statement(), sorted);
+    EXPECT_EQ(texts(u"ID"_s).first(), u"12"_s);
+    click(u"Sort"_s);
+    EXPECT_EQ(texts(u"ID"_s).first(), u"1"_s);
+    click(u"Sort"_s);
+    EXPECT_FALSE(statement().contains(u"ORDER BY"_s)) << "an emptied list removes the sort";
+}
+
 // Of two tables with equal names, a sort by the one is none by the other.
 TEST_F(ColumnMenu, TellsASortByAnotherTablesColumnApart)
 {
@@ -133,5 +153,23 @@ TEST_F(ColumnMenu, TellsASortByAnotherTablesColumnApart)
     ASSERT_TRUE(load(u"SELECT ID AS 编号,名称 AS ID FROM 商品 A ORDER BY A.ID DESC"_s, {}));
     EXPECT_EQ(spoken(u"ID"_s), u"ID"_s);
     EXPECT_EQ(spoken(u"编号"_s), u"编号，第 1 排序字段，降序"_s);
+    EXPECT_TRUE(messages.shown().empty()) << qUtf8Printable(messages.texts().join(u'|'));
+}
+
+// SQLite would sort what is limited within before it takes the first ones, so a limit of all is around it.
+TEST_F(ColumnMenu, KeepsASortThatIsBehindTheLimitOfAllRecords)
+{
+    ASSERT_TRUE(load(
+        u"SELECT ID, 名称 FROM (SELECT * FROM 商品 LIMIT 9) AS A GROUP BY ID,名称 ORDER BY max(-A.ID)+0"_s,
+        {}));
+    const QStringList ids = texts(u"ID"_s);
+    ASSERT_EQ(ids.first(), u"9"_s);
+    choose(u"名称"_s, u"HideColumn"_s);
+    EXPECT_TRUE(statement().contains(u"LIMIT -1"_s)) << qUtf8Printable(statement());
+    EXPECT_EQ(texts(u"ID"_s), ids);
+    open(u"ID"_s);
+    EXPECT_FALSE(entry(u"AddToSort"_s)->isEnabled());
+    EXPECT_FALSE(entry(u"AddToSort"_s)->toolTip().isEmpty());
+    menu()->close();
     EXPECT_TRUE(messages.shown().empty()) << qUtf8Printable(messages.texts().join(u'|'));
 }
