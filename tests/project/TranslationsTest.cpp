@@ -218,13 +218,13 @@ TEST_P(Translations, HaveAFormForOneWhereTheyCount)
 TEST(ChineseTexts, AreInTheTables)
 {
     static const QStringList others{
-        u"src/ado/values/DisplayFormat.cpp"_s,          // the name of a format in saved layouts
-        u"src/export/writers/FormulaGuard.cpp"_s,       // characters that a spreadsheet evaluates
-        u"src/filter/conditions/FilterDays.cpp"_s,      // words that are accepted in every language
-        u"src/filter/conditions/FilterValue.cpp"_s,     // words and separators, also for every language
-        u"src/filter/ticks/TickState.cpp"_s,            // a year in filters that were saved in Chinese
-        u"src/grid/painting/GlyphTable.cpp"_s,          // a sample of the script
-        u"apps/kovagrid/database/SampleDatabase.cpp"_s, // the sample company
+        u"src/ado/values/DisplayFormat.cpp"_s,       // the name of a format in saved layouts
+        u"src/export/writers/FormulaGuard.cpp"_s,    // characters that a spreadsheet evaluates
+        u"src/filter/conditions/FilterDays.cpp"_s,   // words that are accepted in every language
+        u"src/filter/conditions/FilterValue.cpp"_s,  // words and separators, also for every language
+        u"src/filter/ticks/TickState.cpp"_s,         // a year in filters that were saved in Chinese
+        u"src/grid/painting/GlyphTable.cpp"_s,       // a sample of the script
+        u"apps/kovagrid/database/SampleWords.cpp"_s, // the sample company
     };
     static const QRegularExpression call(
         u"\\b(?:tr|counted|translate)\\((?:\"[\\w:]+\",)?(?:\\s*\"(?:[^\"\\\\]|\\\\.)*\")+\\s*\\)"_s);
