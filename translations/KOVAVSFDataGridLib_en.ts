@@ -243,9 +243,12 @@
         <source>否</source>
         <translation>No</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>&lt;%1 字节&gt;</source>
-        <translation>&lt;%1 bytes&gt;</translation>
+        <translation>
+            <numerusform>&lt;%1 byte&gt;</numerusform>
+            <numerusform>&lt;%1 bytes&gt;</numerusform>
+        </translation>
     </message>
     <message>
         <source>、</source>
@@ -855,9 +858,12 @@
         <source>无法生成 XLSX：%1</source>
         <translation>Cannot create the XLSX file: %1</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>有 %1 个内容超过 XLSX 单元格的上限（32767 个字符），只写入了前面的部分。</source>
-        <translation>%1 values are longer than an XLSX cell can hold (32767 characters). Only their beginnings were written.</translation>
+        <translation>
+            <numerusform>%1 value is longer than an XLSX cell can hold (32767 characters). Only its beginning was written.</numerusform>
+            <numerusform>%1 values are longer than an XLSX cell can hold (32767 characters). Only their beginnings were written.</numerusform>
+        </translation>
     </message>
     <message>
         <source>无法识别导出选项“%1=%2”。</source>
@@ -1109,14 +1115,6 @@
     <message>
         <source>%1%2 %3 和 %4 之间</source>
         <translation>%1 %2 %3 and %4</translation>
-    </message>
-    <message>
-        <source>%1是最大的 %2 个之一</source>
-        <translation>%1 is one of the %2 largest</translation>
-    </message>
-    <message>
-        <source>%1是最小的 %2 个之一</source>
-        <translation>%1 is one of the %2 smallest</translation>
     </message>
     <message>
         <source>%1的值有重复</source>
@@ -1379,10 +1377,6 @@
         <translation>Reading was stopped. You can type text to search for.</translation>
     </message>
     <message>
-        <source>已选 %1 个值，共 %2 个</source>
-        <translation>%1 of %2 values chosen</translation>
-    </message>
-    <message>
         <source>只列出前 %1 个值，其余的请用搜索查找</source>
         <translation>Only the first %1 values are listed; search for others</translation>
     </message>
@@ -1418,9 +1412,12 @@
         <source>符合条件的记录数</source>
         <translation>Number of records that meet the condition</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>约 %1 条</source>
-        <translation>about %1 records</translation>
+        <translation>
+            <numerusform>about %1 record</numerusform>
+            <numerusform>about %1 records</numerusform>
+        </translation>
     </message>
     <message>
         <source>正在计数…</source>
@@ -1583,14 +1580,6 @@
         <translation>%1 %2 %3 and %4</translation>
     </message>
     <message>
-        <source>%1是按顺序排在最前的 %2 个之一</source>
-        <translation>%1 is one of the first %2 in order</translation>
-    </message>
-    <message>
-        <source>%1是按顺序排在最后的 %2 个之一</source>
-        <translation>%1 is one of the last %2 in order</translation>
-    </message>
-    <message>
         <source>%1（条件 %2）</source>
         <translation>%1 (condition %2)</translation>
     </message>
@@ -1617,6 +1606,41 @@
     <message>
         <source>已经生效的条件。去掉勾选，筛选后就不再起作用。</source>
         <translation>A condition that is in force. Clear the tick to drop it when you filter.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%2是最大的 %1 个之一</source>
+        <translation>
+            <numerusform>%2 is the largest</numerusform>
+            <numerusform>%2 is one of the %1 largest</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%2是最小的 %1 个之一</source>
+        <translation>
+            <numerusform>%2 is the smallest</numerusform>
+            <numerusform>%2 is one of the %1 smallest</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%2是按顺序排在最前的 %1 个之一</source>
+        <translation>
+            <numerusform>%2 is the first in order</numerusform>
+            <numerusform>%2 is one of the first %1 in order</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%2是按顺序排在最后的 %1 个之一</source>
+        <translation>
+            <numerusform>%2 is the last in order</numerusform>
+            <numerusform>%2 is one of the last %1 in order</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>已选 %2 个值，共 %1 个</source>
+        <translation>
+            <numerusform>%2 of %1 value chosen</numerusform>
+            <numerusform>%2 of %1 values chosen</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1813,13 +1837,19 @@
         <source>空值（NULL）</source>
         <translation>No value (NULL)</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 个字符</source>
-        <translation>%1 characters</translation>
+        <translation>
+            <numerusform>%1 character</numerusform>
+            <numerusform>%1 characters</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 字节</source>
-        <translation>%1 bytes</translation>
+        <translation>
+            <numerusform>%1 byte</numerusform>
+            <numerusform>%1 bytes</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 × %2 像素</source>
@@ -2300,9 +2330,12 @@
         <source>历史</source>
         <translation>History</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 条  %2</source>
-        <translation>%1 records  %2</translation>
+        <translation>
+            <numerusform>%1 record  %2</numerusform>
+            <numerusform>%1 records  %2</numerusform>
+        </translation>
     </message>
     <message>
         <source>（没有历史记录）</source>
@@ -2340,9 +2373,12 @@
         <source>整行选择(&amp;R)</source>
         <translation>Select Whole &amp;Rows</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>已读取 %1 条记录</source>
-        <translation>%1 records read</translation>
+        <translation>
+            <numerusform>%1 record read</numerusform>
+            <numerusform>%1 records read</numerusform>
+        </translation>
     </message>
     <message>
         <source>正在等待数据库…</source>
@@ -2704,13 +2740,19 @@
         <source>的值有重复</source>
         <translation>has repeated values</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>是最大的 %1 个之一</source>
-        <translation>is one of the %1 largest</translation>
+        <translation>
+            <numerusform>is the largest</numerusform>
+            <numerusform>is one of the %1 largest</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>是最小的 %1 个之一</source>
-        <translation>is one of the %1 smallest</translation>
+        <translation>
+            <numerusform>is the smallest</numerusform>
+            <numerusform>is one of the %1 smallest</numerusform>
+        </translation>
     </message>
     <message>
         <source>（%1）</source>
@@ -2728,13 +2770,19 @@
         <source>部分字段的语句与当前语句的字段对应不上，不能只显示这些字段。</source>
         <translation>The part statement does not match the fields of the current statement.</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>是按顺序排在最前的 %1 个之一</source>
-        <translation>is one of the first %1 in order</translation>
+        <translation>
+            <numerusform>is the first in order</numerusform>
+            <numerusform>is one of the first %1 in order</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>是按顺序排在最后的 %1 个之一</source>
-        <translation>is one of the last %1 in order</translation>
+        <translation>
+            <numerusform>is the last in order</numerusform>
+            <numerusform>is one of the last %1 in order</numerusform>
+        </translation>
     </message>
     <message>
         <source>不满足（%1）</source>
@@ -2813,17 +2861,26 @@
         <source>记录只读，不能增加、修改或删除。</source>
         <translation>The records are read-only. They cannot be added, changed or deleted.</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>已复制 %1 条记录</source>
-        <translation>%1 records copied</translation>
+        <translation>
+            <numerusform>%1 record copied</numerusform>
+            <numerusform>%1 records copied</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>已导出 %1 条记录</source>
-        <translation>%1 records exported</translation>
+        <translation>
+            <numerusform>%1 record exported</numerusform>
+            <numerusform>%1 records exported</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>已打印 %1 条记录</source>
-        <translation>%1 records printed</translation>
+        <translation>
+            <numerusform>%1 record printed</numerusform>
+            <numerusform>%1 records printed</numerusform>
+        </translation>
     </message>
     <message>
         <source>确实要删除该记录?</source>

@@ -36,13 +36,14 @@ bool hasDisplay()
 #endif
 }
 
-void useSampleDatabase(Options &options)
+void useSampleDatabase(Options &options, const QString &language)
 {
-    options.connection = u"Provider=SQLite;Data Source="_s + SampleDatabase::path();
+    const SampleDatabase::Sample sample = SampleDatabase::inLanguage(language);
+    options.connection = u"Provider=SQLite;Data Source="_s + sample.path;
     if (options.sql.isEmpty()) {
-        options.sql = SampleDatabase::defaultStatement();
+        options.sql = sample.statement;
         if (options.part.isEmpty())
-            options.part = SampleDatabase::defaultPartStatement();
+            options.part = sample.partStatement;
     }
 }
 
@@ -160,7 +161,8 @@ int run(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(KOVAGRID_VERSION));
     QApplication::setDesktopFileName(u"kovagrid"_s);
     QApplication::setWindowIcon(QIcon(u":/kovagrid.svg"_s));
-    useLanguage(Options::language(QApplication::arguments().mid(1)));
+    const QString language = Options::language(QApplication::arguments().mid(1));
+    useLanguage(language);
 
     if (QApplication::arguments().contains(u"--help"_s)) {
         std::puts(qUtf8Printable(HostTexts::Usage()));
@@ -174,7 +176,7 @@ int run(int argc, char **argv)
         useDarkColours();
     BoxStyle::use();
     if (options->connection.isEmpty())
-        useSampleDatabase(*options);
+        useSampleDatabase(*options, language);
 
     HostWindow window(*options);
     for (const QString &key : std::as_const(options->keys)) {

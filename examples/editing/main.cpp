@@ -1,6 +1,6 @@
-// A form for entering records: `editing sample.db 客户`. The grid shows one record at a time, as a list of
-// fields. The buttons are the host's; each runs a command of the grid, which also has it in its menu and on a
-// key.
+// A form for entering records: `editing sample-en.db customers`. The grid shows one record at a time, as a
+// list of fields. The buttons are the host's; each runs a command of the grid, which also has it in its menu
+// and on a key.
 #include <KOVAVSFDataGrid>
 
 #include <QtGui/QAction>

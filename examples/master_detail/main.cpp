@@ -1,5 +1,5 @@
 // Two grids. The lower one shows the rows that belong to the current record of the upper one:
-// `master_detail sample.db 客户 订单 客户名称`, where both tables have the field 客户名称.
+// `master_detail sample-en.db customers orders customer`, where both tables have the field customer.
 #include <KOVAVSFDataGrid>
 
 #include <QtCore/QTimer>

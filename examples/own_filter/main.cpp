@@ -1,6 +1,5 @@
-// A host with its own filter dialog: `own_filter sample.db 订单
-// 客户名称`. The grid applies the condition, shows it above the
-// records and keeps it in its history, like one of its own dialog.
+// A host with its own filter dialog: `own_filter sample-en.db orders customer`. The grid applies the
+// condition, shows it above the records and keeps it in its history, like one of its own dialog.
 #include <KOVAVSFDataGrid>
 
 #include <QtWidgets/QApplication>

@@ -1,14 +1,17 @@
 #pragma once
 
+#include "language/CountedText.h"
 #include "language/Text.h"
 
 // All texts that the data access layer shows to users, collected here for proofreading. %1, %2 … are file
 // names, field names, numbers or the database's own messages; never a connection string or a password.
 namespace ADODB::Texts {
 
+using KOVAVSFDataGridLib::CountedText;
 using KOVAVSFDataGridLib::Text;
 
 inline constexpr KOVAVSFDataGridLib::TextTable tr{"ADODB::Texts"};
+inline constexpr KOVAVSFDataGridLib::CountedTextTable counted{tr.context};
 
 // Connections
 inline constexpr Text connectionOpen = tr("连接已经打开，请先关闭。");
@@ -88,7 +91,7 @@ inline constexpr Text databaseFailed = tr("数据库操作失败：%1");
 // Values
 inline constexpr Text yes = tr("是");
 inline constexpr Text no = tr("否");
-inline constexpr Text bytes = tr("<%1 字节>");
+inline constexpr CountedText bytes = counted("<%1 字节>");
 inline constexpr Text betweenNames = tr("、");
 
 // Records and fields

@@ -58,8 +58,10 @@ QString ValueText(const QVariant &value)
     }
     case QMetaType::QUuid:
         return value.toUuid().toString();
-    case QMetaType::QByteArray:
-        return Texts::bytes.arg(value.toByteArray().size());
+    case QMetaType::QByteArray: {
+        const qsizetype size = value.toByteArray().size();
+        return Texts::bytes.arg(size, QString::number(size));
+    }
     default:
         return value.toString();
     }

@@ -6,7 +6,6 @@
 #include "export/writers/JsonLinesWriter.h"
 #ifdef KOVA_WITH_XLSX
 #include "export/writers/XlsxWriter.h"
-#include "language/GroupedNumber.h"
 #endif
 
 #include <QtCore/QFileInfo>
@@ -84,7 +83,7 @@ QString lossesOf(const RecordWriter &writer)
 #ifdef KOVA_WITH_XLSX
     const auto *const book = dynamic_cast<const XlsxWriter *>(&writer);
     if (book && book->cutTexts() > 0)
-        return ExportTexts::CutTexts.arg(grouped(book->cutTexts()));
+        return ExportTexts::CutTexts(book->cutTexts());
 #else
     Q_UNUSED(writer)
 #endif

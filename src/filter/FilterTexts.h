@@ -1,11 +1,13 @@
 #pragma once
 
+#include "language/CountedText.h"
 #include "language/Text.h"
 
 // The texts of the filter builder and its dialog, collected here for proofreading.
 namespace KOVAVSFDataGridLib::FilterTexts {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::FilterTexts"};
+inline constexpr CountedTextTable counted{tr.context};
 
 using namespace Qt::StringLiterals;
 
@@ -66,10 +68,10 @@ inline constexpr Text BetweenInSentence = tr("%1%2 %3 和 %4 之间");
 inline constexpr Text TextInListInSentence = tr("%1是%2之一");
 inline constexpr Text TextNotInListInSentence = tr("%1不是%2之一");
 inline constexpr Text TextBetweenInSentence = tr("%1%2%3和%4之间");
-inline constexpr Text TopInSentence = tr("%1是最大的 %2 个之一");
-inline constexpr Text BottomInSentence = tr("%1是最小的 %2 个之一");
-inline constexpr Text FirstTextInSentence = tr("%1是按顺序排在最前的 %2 个之一");
-inline constexpr Text LastTextInSentence = tr("%1是按顺序排在最后的 %2 个之一");
+inline constexpr CountedText TopInSentence = counted("%2是最大的 %1 个之一");
+inline constexpr CountedText BottomInSentence = counted("%2是最小的 %1 个之一");
+inline constexpr CountedText FirstTextInSentence = counted("%2是按顺序排在最前的 %1 个之一");
+inline constexpr CountedText LastTextInSentence = counted("%2是按顺序排在最后的 %1 个之一");
 inline constexpr Text DuplicatedInSentence = tr("%1的值有重复");
 inline constexpr Text NotInSentence = tr("并非（%1）");
 inline constexpr Text WithNullInSentence = tr("（也包括空值）");
@@ -142,7 +144,7 @@ inline constexpr Text WholeDay = tr("%1年%2月%3日");
 inline constexpr Text ReadingTicks = tr("正在读取该字段的值…");
 inline constexpr Text StopReading = tr("停止(&T)");
 inline constexpr Text ReadingStopped = tr("已停止读取。可以输入文字搜索。");
-inline constexpr Text TicksOf = tr("已选 %1 个值，共 %2 个");
+inline constexpr CountedText TicksOf = counted("已选 %2 个值，共 %1 个");
 inline constexpr Text TooManyValues = tr("只列出前 %1 个值，其余的请用搜索查找");
 inline constexpr Text TooManyValuesOf = tr("共 %2 个值，只列出前 %1 个，其余的请用搜索查找");
 inline constexpr Text NothingFound = tr("没有包含“%1”的值");
@@ -155,7 +157,7 @@ inline constexpr Text PickValues = tr("选择“%1”的值");
 
 // How many records meet the condition
 inline constexpr Text CountName = tr("符合条件的记录数");
-inline constexpr Text AboutRecords = tr("约 %1 条");
+inline constexpr CountedText AboutRecords = counted("约 %1 条");
 inline constexpr Text Counting = tr("正在计数…");
 inline constexpr Text StopCounting = tr("停止计数");
 inline constexpr Text NotCounted = tr("无法计数");

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "language/CountedText.h"
 #include "language/Text.h"
 
 // The texts of the dialogs, collected here for proofreading.
 namespace KOVAVSFDataGridLib::FormTexts {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::FormTexts"};
+inline constexpr CountedTextTable counted{tr.context};
 
 using namespace Qt::StringLiterals;
 
@@ -89,8 +91,8 @@ inline constexpr Text PieceOf = tr("第 %1 段，共 %2 段");
 inline constexpr Text PreviousPiece = tr("上一段(&P)");
 inline constexpr Text NextPiece = tr("下一段(&N)");
 inline constexpr Text NullValue = tr("空值（NULL）");
-inline constexpr Text CharactersOfValue = tr("%1 个字符");
-inline constexpr Text BytesOfValue = tr("%1 字节");
+inline constexpr CountedText CharactersOfValue = counted("%1 个字符");
+inline constexpr CountedText BytesOfValue = counted("%1 字节");
 inline constexpr Text SizeOfPicture = tr("%1 × %2 像素");
 inline constexpr Text BetweenFacts = tr("，");
 inline constexpr Text TooLongToFormat = tr("超过 %1 个字符，不显示结构");

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "language/CountedText.h"
 #include "language/Text.h"
 
 // The texts of this room that users see.
 namespace KOVAVSFDataGridLib::QueryTexts {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::QueryTexts"};
+inline constexpr CountedTextTable counted{tr.context};
 
 using namespace Qt::StringLiterals;
 
@@ -41,10 +43,10 @@ inline constexpr Text OrInWords = tr("，或者 ");
 inline constexpr Text NotInWords = tr("不满足 %1");
 inline constexpr Text NoneInWords = tr("不满足（%1）");
 inline constexpr Text RepeatedInWords = tr("的值有重复");
-inline constexpr Text LargestInWords = tr("是最大的 %1 个之一");
-inline constexpr Text SmallestInWords = tr("是最小的 %1 个之一");
-inline constexpr Text FirstTextsInWords = tr("是按顺序排在最前的 %1 个之一");
-inline constexpr Text LastTextsInWords = tr("是按顺序排在最后的 %1 个之一");
+inline constexpr CountedText LargestInWords = counted("是最大的 %1 个之一");
+inline constexpr CountedText SmallestInWords = counted("是最小的 %1 个之一");
+inline constexpr CountedText FirstTextsInWords = counted("是按顺序排在最前的 %1 个之一");
+inline constexpr CountedText LastTextsInWords = counted("是按顺序排在最后的 %1 个之一");
 inline constexpr Text BracketsInWords = tr("（%1）");
 
 } // namespace KOVAVSFDataGridLib::QueryTexts

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "language/CountedText.h"
 #include "language/Text.h"
 
 // The messages of a session to its user, collected here for proofreading.
 namespace KOVAVSFDataGridLib::SessionMessages {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::SessionMessages"};
+inline constexpr CountedTextTable counted{tr.context};
 
 inline constexpr Text NoLink = tr("当前单元格不是链接（http、https 或 mailto）。");
 inline constexpr Text OpenErrorPrefix = tr("错误描述为：");
@@ -43,9 +45,9 @@ inline constexpr Text CopyRefused = tr("无法复制记录：");
 inline constexpr Text ReadOnlySince = tr("记录已设为只读，不能再保存。修改的内容仍在，按 Esc 放弃。");
 inline constexpr Text ReadOnly = tr("记录只读，不能增加、修改或删除。");
 inline constexpr Text NothingToAdd = tr("查询结果中没有可以修改的字段，不能增加记录。");
-inline constexpr Text RecordsCopied = tr("已复制 %1 条记录");
-inline constexpr Text RecordsExported = tr("已导出 %1 条记录");
-inline constexpr Text RecordsPrinted = tr("已打印 %1 条记录");
+inline constexpr CountedText RecordsCopied = counted("已复制 %1 条记录");
+inline constexpr CountedText RecordsExported = counted("已导出 %1 条记录");
+inline constexpr CountedText RecordsPrinted = counted("已打印 %1 条记录");
 inline constexpr Text AskDelete = tr("确实要删除该记录?");
 inline constexpr Text RecordMeant = tr("\n第 %1 行：%2 = %3");
 inline constexpr Text AskDeleteTitle = tr("删除记录");

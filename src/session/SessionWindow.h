@@ -19,6 +19,8 @@ class Recordset;
 
 namespace KOVAVSFDataGridLib {
 
+class CountedText;
+
 // The progress display while a statement is being opened or records are being written.
 class OpeningProgress
 {
@@ -132,9 +134,9 @@ public:
     virtual std::unique_ptr<OpeningProgress> beginOpening() { return nullptr; }
     // Restores the scroll position that the user chose while the records were being read.
     virtual void scrollAsOpened() {}
-    // Shows that `total` records are being written; `done` is the text, with %1 for the number. Only one of
+    // Shows that `total` records are being written; `done` is the text for the number written. Only one of
     // these and beginOpening can exist in a process. Null shows nothing.
-    virtual std::unique_ptr<OpeningProgress> beginWriting(const QString & /*done*/, qint64 /*total*/)
+    virtual std::unique_ptr<OpeningProgress> beginWriting(const CountedText & /*done*/, qint64 /*total*/)
     {
         return nullptr;
     }

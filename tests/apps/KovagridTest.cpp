@@ -117,6 +117,32 @@ TEST_F(Kovagrid, MakesItsSampleDatabaseOnce)
     EXPECT_TRUE(all.output.startsWith(u"Loaded 120000 records, "_s)) << all.output.toStdString();
 }
 
+TEST_F(Kovagrid, HasASampleDatabaseInEnglishWithTheSameRecords)
+{
+    const Outcome shown = run({u"--lang"_s, u"en"_s, u"--print"_s, u"3"_s});
+    ASSERT_EQ(shown.exitCode, 0) << shown.errors.toStdString();
+    EXPECT_EQ(shown.lines().size(), 4);
+    EXPECT_TRUE(shown.lines().constFirst().contains(u"ship city"_s)) << "a name with a space";
+    EXPECT_TRUE(shown.lines().constFirst().contains(u"price ($)"_s)) << "a name with parentheses";
+    static const QRegularExpression chinese(u"[\\x{2e80}-\\x{9fff}\\x{ff00}-\\x{ffef}]"_s);
+    for (const QString &table : {u"customers"_s, u"products"_s, u"orders"_s}) {
+        const Outcome all =
+            run({u"--lang"_s, u"en"_s, u"--sql"_s, u"select * from %1 limit 500"_s.arg(table), u"--print"_s});
+        EXPECT_GT(all.lines().size(), 20) << all.errors.toStdString();
+        EXPECT_FALSE(all.output.contains(chinese)) << all.output.toStdString();
+    }
+    // The numbers are those of the Chinese one, and the orders fit the customers and the products.
+    const QString sums = u"select count(*) as n, cast(sum(%1) as int) as a, sum(%2) as q from %3"_s;
+    const Outcome english =
+        run({u"--lang"_s, u"en"_s, u"--sql"_s,
+             sums.arg(u"amount"_s, u"quantity"_s,
+                      u"orders join customers using (customer) join products using (product)"_s),
+             u"--print"_s});
+    const Outcome inChinese = run({u"--sql"_s, sums.arg(u"金额"_s, u"数量"_s, u"订单"_s), u"--print"_s});
+    EXPECT_TRUE(english.lines().value(1).startsWith(u"120000\t"_s)) << english.output.toStdString();
+    EXPECT_EQ(english.output, inChinese.output);
+}
+
 TEST_F(Kovagrid, MakesItsSampleDatabaseOnceForSeveralFirstStarts)
 {
     std::array<QProcess, 4> processes;

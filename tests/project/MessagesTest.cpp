@@ -32,7 +32,7 @@ bool isMessage(const QString &name, const QString &text)
 QMap<QString, QString> textsIn(const QString &file)
 {
     static const QRegularExpression entry(u"(?:Text|QString) (\\w+)(?: =|\\(\\)\\s*\\{\\s*return)\\s*"
-                                          u"(?:u|tr\\()\"((?:[^\"\\\\]|\\\\.)*)\""_s);
+                                          u"(?:u|(?:tr|counted)\\()\"((?:[^\"\\\\]|\\\\.)*)\""_s);
     QMap<QString, QString> texts;
     QRegularExpressionMatchIterator matches = entry.globalMatch(contentOf(file));
     while (matches.hasNext()) {

@@ -40,10 +40,10 @@ QString withoutComments(QString source)
     return source.replace(token, u"\\1"_s);
 }
 
-// The texts of all calls tr("…"), as the compiler reads them.
+// The texts of all calls tr("…") and counted("…"), as the compiler reads them.
 QStringList translatableTexts(const QString &source)
 {
-    static const QRegularExpression call(u"\\btr\\(((?:\\s*\"(?:[^\"\\\\]|\\\\.)*\")+)\\s*\\)"_s);
+    static const QRegularExpression call(u"\\b(?:tr|counted)\\(((?:\\s*\"(?:[^\"\\\\]|\\\\.)*\")+)\\s*\\)"_s);
     static const QRegularExpression literal(u"\"((?:[^\"\\\\]|\\\\.)*)\""_s);
     QStringList texts;
     for (const QRegularExpressionMatch &found : call.globalMatch(source)) {
@@ -58,9 +58,22 @@ QStringList translatableTexts(const QString &source)
 
 struct Translation
 {
-    QString text;
+    QStringList forms; // for one and for many, or only one
     bool isFinished = false;
+
+    bool isCounted() const { return forms.size() > 1; }
 };
+
+// The forms of a counted text, which are on lines of their own.
+QStringList nonEmptyLines(const QString &text)
+{
+    QStringList lines;
+    for (const QString &line : text.split(u'\n', Qt::SkipEmptyParts)) {
+        if (!line.trimmed().isEmpty())
+            lines.append(line.trimmed());
+    }
+    return lines;
+}
 
 // By the text; a text that several rooms have can have a translation for each.
 QMultiMap<QString, Translation> translationsIn(const QString &file)
@@ -68,14 +81,18 @@ QMultiMap<QString, Translation> translationsIn(const QString &file)
     QMultiMap<QString, Translation> translations;
     QXmlStreamReader xml(contentOf(top + file));
     QString source;
+    bool isCounted = false;
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
-        if (xml.name() == "source"_L1) {
+        if (xml.name() == "message"_L1) {
+            isCounted = xml.attributes().hasAttribute(u"numerus"_s);
+        } else if (xml.name() == "source"_L1) {
             source = xml.readElementText();
         } else if (xml.name() == "translation"_L1) {
             const bool isFinished = !xml.attributes().hasAttribute(u"type"_s);
-            translations.insert(source, {xml.readElementText(), isFinished});
+            const QString text = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+            translations.insert(source, {isCounted ? nonEmptyLines(text) : QStringList(text), isFinished});
         }
     }
     EXPECT_FALSE(xml.hasError()) << qPrintable(xml.errorString());
@@ -141,12 +158,59 @@ TEST_P(Translations, AreFinishedAndSayTheSame)
 {
     for (const auto &[source, translation] : translations.asKeyValueRange()) {
         const std::string text = source.toStdString();
-        EXPECT_TRUE(translation.isFinished && !translation.text.isEmpty()) << text;
-        EXPECT_FALSE(translation.text.contains(chinese)) << text;
-        EXPECT_EQ(argumentsOf(translation.text), argumentsOf(source)) << text;
-        EXPECT_EQ(hasAccessKey(translation.text), hasAccessKey(source)) << text;
-        EXPECT_EQ(endsWithColon(translation.text), endsWithColon(source)) << text;
-        EXPECT_EQ(translation.text.contains(u'…'), source.contains(u'…')) << text;
+        EXPECT_TRUE(translation.isFinished) << text;
+        for (const QString &form : translation.forms) {
+            EXPECT_FALSE(form.isEmpty()) << text;
+            EXPECT_FALSE(form.contains(chinese)) << text;
+            EXPECT_EQ(hasAccessKey(form), hasAccessKey(source)) << text;
+            EXPECT_EQ(endsWithColon(form), endsWithColon(source)) << text;
+            EXPECT_EQ(form.contains(u'…'), source.contains(u'…')) << text;
+            // "The largest" says the number one without a digit.
+            QStringList arguments = argumentsOf(source);
+            if (translation.isCounted() && form == translation.forms.first() && !form.contains(u"%1"_s))
+                arguments.removeOne(u"%1"_s);
+            EXPECT_EQ(argumentsOf(form), arguments) << text;
+        }
+    }
+}
+
+// Chinese has one form for all numbers, English two: "1 record", "2 records".
+TEST_P(Translations, HaveAFormForOneWhereTheyCount)
+{
+    // A number before one of Chinese's words for counting; after 第 it is the number of one thing.
+    static const QRegularExpression counts(
+        u"(?<!第 )%\\d ?(?:条|个|处|项|行|列|页|位|天|秒|次|字节|字符|像素)"_s);
+    static const QStringList neverOne{
+        u"没有安装连接字符串所需的 ODBC 驱动程序。请安装%1（%2 位版本，与本程序相同）。已安装的有：%3。"_s,
+        u"无法唯一确定要修改的记录（有 %1 条相同的记录），没有保存任何更改。"_s,
+        u"XLSX 最多有 %1 列，而结果有 %2 列。"_s,
+        u"最近 %1 天"_s,
+        u"只列出前 %1 个值，其余的请用搜索查找"_s,
+        u"共 %2 个值，只列出前 %1 个，其余的请用搜索查找"_s,
+        u"超过 %1 个字符，不显示结构"_s,
+        u"此内容超过 %1 个字符，不能在这里修改，请按 F3 查看。"_s,
+        u"%1 个字段之一 %2"_s,
+    };
+    static const QStringList sameForOne{
+        u"时限为 %1 秒"_s,       u"%1 秒内没有读完已有的值，请直接输入。"_s,
+        u"%1 × %2 像素"_s,       u"%1 秒内没有读完已有的值，只列出前面一部分记录中的值。"_s,
+        u"还有 %1 个"_s,         u"更多…（还有 %1 个）"_s,
+        u"全部 %1 条"_s,         u"全部 %1 条(&A)"_s,
+        u"选定的 %1 条"_s,       u"选定的 %1 条(&S)"_s,
+        u"显示的 %1 个(&W)"_s,   u"全部 %1 个(&L)"_s,
+        u"按字段（%1 位）"_s,    u"第 %1 条，共 %2 条"_s,
+        u"新记录，共 %1 条"_s,   u"已选 %1 个，共 %2 个"_s,
+        u"共 %1 处"_s,           u"第 %1 处，共 %2 处"_s,
+        u"第 %1 页，共 %2 页"_s, u"第 %1 页，共 %2 页（预览前 %3 页）"_s,
+    };
+    for (const auto &[source, translation] : translations.asKeyValueRange()) {
+        const bool isPlain = neverOne.contains(source) || sameForOne.contains(source);
+        EXPECT_EQ(translation.isCounted(), counts.match(source).hasMatch() && !isPlain)
+            << qPrintable(source) << ": write counted(\"…\"), or name it here";
+        if (translation.isCounted()) {
+            EXPECT_EQ(translation.forms.size(), 2) << qPrintable(source);
+            EXPECT_NE(translation.forms.first(), translation.forms.last()) << qPrintable(source);
+        }
     }
 }
 
@@ -154,16 +218,16 @@ TEST_P(Translations, AreFinishedAndSayTheSame)
 TEST(ChineseTexts, AreInTheTables)
 {
     static const QStringList others{
-        u"src/ado/values/DisplayFormat.cpp"_s,          // the name of a format in saved layouts
-        u"src/export/writers/FormulaGuard.cpp"_s,       // characters that a spreadsheet evaluates
-        u"src/filter/conditions/FilterDays.cpp"_s,      // words that are accepted in every language
-        u"src/filter/conditions/FilterValue.cpp"_s,     // words and separators, also for every language
-        u"src/filter/ticks/TickState.cpp"_s,            // a year in filters that were saved in Chinese
-        u"src/grid/painting/GlyphTable.cpp"_s,          // a sample of the script
-        u"apps/kovagrid/database/SampleDatabase.cpp"_s, // the sample company
+        u"src/ado/values/DisplayFormat.cpp"_s,       // the name of a format in saved layouts
+        u"src/export/writers/FormulaGuard.cpp"_s,    // characters that a spreadsheet evaluates
+        u"src/filter/conditions/FilterDays.cpp"_s,   // words that are accepted in every language
+        u"src/filter/conditions/FilterValue.cpp"_s,  // words and separators, also for every language
+        u"src/filter/ticks/TickState.cpp"_s,         // a year in filters that were saved in Chinese
+        u"src/grid/painting/GlyphTable.cpp"_s,       // a sample of the script
+        u"apps/kovagrid/database/SampleWords.cpp"_s, // the sample company
     };
     static const QRegularExpression call(
-        u"\\b(?:tr|translate)\\((?:\"[\\w:]+\",)?(?:\\s*\"(?:[^\"\\\\]|\\\\.)*\")+\\s*\\)"_s);
+        u"\\b(?:tr|counted|translate)\\((?:\"[\\w:]+\",)?(?:\\s*\"(?:[^\"\\\\]|\\\\.)*\")+\\s*\\)"_s);
     QStringList needless = others;
     for (const QString &path :
          sourcesIn({u"src"_s, u"apps"_s, u"designer"_s, u"python"_s, u"include"_s, u"examples"_s})) {

@@ -1,4 +1,5 @@
 #include "Photographer.h"
+#include "Sample.h"
 
 #include "control/face/KOVAVSFDataGrid.h"
 #include "window/HelpWindow.h"
@@ -28,7 +29,7 @@ public:
     {
         m_grid.PutDBType(1);
         m_grid.PutConnectionString(connectionString);
-        m_grid.PutSQLShow(u"select * from 订单"_s);
+        m_grid.PutSQLShow(sample(u"select * from 订单"_s));
         m_grid.PutLayoutKey(u"pictures"_s);
         m_grid.resize(m_grid.screen()->availableSize());
         m_grid.show();
@@ -164,7 +165,7 @@ private:
         chooseInColumnMenu(8, u"SortDescending"_s);
         chooseInColumnMenu(1, u"AddToSort"_s);
         trigger(u"PopMnuDataAction27"_s);
-        part<QLineEdit>(m_grid, u"txtFindShown"_s).setText(u"百货"_s);
+        part<QLineEdit>(m_grid, u"txtFindShown"_s).setText(sample(u"百货"_s));
         QTest::qWait(100);
         QTest::mouseMove(table().horizontalHeader()->viewport(),
                          QPoint(table().horizontalHeader()->sectionViewportPosition(8) + 20, 8));
@@ -218,12 +219,12 @@ private:
 
     void takeNothingFound()
     {
-        m_grid.PutSQLShow(u"select * from 订单 where 1 = 0"_s);
+        m_grid.PutSQLShow(sample(u"select * from 订单 where 1 = 0"_s));
         m_grid.IsLoadData();
         QTest::qWait(20);
         take(&m_grid, u"grid-empty"_s);
         takeDuring(u"QMessageBox"_s, [&] {
-            m_grid.PutSQLShow(u"select * from 没有这个表"_s);
+            m_grid.PutSQLShow(sample(u"select * from 没有这个表"_s));
             m_grid.IsLoadData();
         });
     }

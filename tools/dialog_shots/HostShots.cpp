@@ -1,4 +1,5 @@
 #include "Photographer.h"
+#include "Sample.h"
 
 #include "control/face/KOVAVSFDataGrid.h"
 #include "start/Options.h"
@@ -16,7 +17,7 @@ void takeHost(Photographer &photographer, const QString &database)
 {
     Options options;
     options.connection = u"Provider=SQLite;Data Source="_s + database;
-    options.sql = u"select 订单编号, 客户名称, 数量, 备注 from 订单 order by 订单编号"_s;
+    options.sql = sample(u"select 订单编号, 客户名称, 数量, 备注 from 订单 order by 订单编号"_s);
     HostWindow window(options);
     window.resize(window.screen()->availableSize());
     window.show();

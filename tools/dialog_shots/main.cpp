@@ -2,6 +2,7 @@
 // control in use with its menus and windows as well, and saves them as PNG files in the folder, at the scale
 // of QT_SCALE_FACTOR. Works without a display (QT_QPA_PLATFORM=offscreen).
 #include "Photographer.h"
+#include "Sample.h"
 
 #include "control/connection/ConnectionBuilder.h"
 #include "control/parts/FormatDialog.h"
@@ -39,6 +40,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace KOVAVSFDataGridLib;
@@ -46,9 +48,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QStringList Fields{u"订单编号"_s, u"下单日期"_s,  u"客户编号"_s, u"客户名称"_s, u"产品编号"_s,
-                         u"产品名称"_s, u"数量"_s,      u"单价(元)"_s, u"金额"_s,     u"已付款"_s,
-                         u"发货时间"_s, u"送货 城市"_s, u"备注"_s};
+QStringList fields()
+{
+    QStringList names{u"订单编号"_s, u"下单日期"_s,  u"客户编号"_s, u"客户名称"_s, u"产品编号"_s,
+                      u"产品名称"_s, u"数量"_s,      u"单价(元)"_s, u"金额"_s,     u"已付款"_s,
+                      u"发货时间"_s, u"送货 城市"_s, u"备注"_s};
+    std::ranges::transform(names, names.begin(), sample);
+    return names;
+}
 
 QString makeDatabase(const QString &folder)
 {
@@ -71,33 +78,36 @@ QString makeDatabase(const QString &folder)
         " CASE I WHEN 1 THEN '{\"客户\":\"长沙新宇百货公司\",\"明细\":[{\"产品\":\"龙井茶\",\"数量\":12}]}'"
         " WHEN 3 THEN '货到付款' END, CASE I WHEN 2 THEN randomblob(300) END FROM N, 城 WHERE C = I % 6 "
         "ORDER BY I";
-    sqlite3_exec(db, script, nullptr, nullptr, nullptr);
+    sqlite3_exec(db, sample(QString::fromUtf8(script)).toUtf8().constData(), nullptr, nullptr, nullptr);
     QImage picture(160, 120, QImage::Format_RGB32);
     picture.fill(QColor(60, 130, 190));
     QByteArray bytes;
     QBuffer buffer(&bytes);
     picture.save(&buffer, "PNG");
-    sqlite3_exec(db, ("UPDATE 订单 SET 照片 = x'" + bytes.toHex() + "' WHERE 订单编号 = 3").constData(),
-                 nullptr, nullptr, nullptr);
+    const QString update = sample(u"UPDATE 订单 SET 照片 = x'%1' WHERE 订单编号 = 3"_s);
+    sqlite3_exec(db, update.arg(QString::fromLatin1(bytes.toHex())).toUtf8().constData(), nullptr, nullptr,
+                 nullptr);
     sqlite3_close(db);
     return u"Provider=SQLite;Data Source="_s + path;
 }
 
 void takeSelections(Photographer &photographer)
 {
-    const QStringList shown{u"订单编号"_s, u"下单日期"_s, u"客户名称"_s, u"[单价(元)]"_s, u"金额"_s};
+    const QStringList shown{sample(u"订单编号"_s), sample(u"下单日期"_s), sample(u"客户名称"_s),
+                            sample(u"[单价(元)]"_s), sample(u"金额"_s)};
     frmSelShowFields show;
     show.SetPicture(toolbarIcon(u"SelField"_s));
-    show.SetTitle(u"订单"_s);
-    show.AppendListFields(&Fields);
+    show.SetTitle(sample(u"订单"_s));
+    const QStringList names = fields();
+    show.AppendListFields(&names);
     show.SetListFieldCheck(&shown);
     photographer.take(show, u"frmSelShowFields"_s);
 
-    const QStringList terms{u"下单日期 DESC"_s, u"客户名称"_s, u"金额 DESC"_s};
+    const QStringList terms{sample(u"下单日期 DESC"_s), sample(u"客户名称"_s), sample(u"金额 DESC"_s)};
     frmSelSortFields sort;
     sort.SetPicture(toolbarIcon(u"Sort"_s));
-    sort.SetTitle(u"订单"_s);
-    sort.AppendListFields(&Fields);
+    sort.SetTitle(sample(u"订单"_s));
+    sort.AppendListFields(&names);
     sort.AppendListSortFields(&terms);
     sort.AppendSortOrder();
     auto &list = part<QTreeWidget>(sort, u"lvSortFields"_s);
@@ -107,43 +117,45 @@ void takeSelections(Photographer &photographer)
 
 void takeFind(Photographer &photographer)
 {
-    colDataFields fields;
-    fields.AddFieldsByCol(Fields);
+    colDataFields columns;
+    columns.AddFieldsByCol(fields());
     FindDialog find;
-    find.InitFrm(&fields);
+    find.InitFrm(&columns);
     photographer.take(find, u"FindDialog"_s);
-    part<QComboBox>(find, u"InputCombo1"_s).setEditText(u"北京 龙井茶"_s);
+    part<QComboBox>(find, u"InputCombo1"_s).setEditText(sample(u"北京 龙井茶"_s));
     photographer.take(find, u"FindDialog-typed"_s);
 }
 
 void takeExport(Photographer &photographer)
 {
-    ExportDialog exporting({u"订单"_s, 120000, 25, 6, 11});
+    ExportDialog exporting({sample(u"订单"_s), 120000, 25, 6, 11});
     part<QLineEdit>(exporting, u"txtFile"_s)
-        .setText(u"/home/user/文档/订单.csv"_s); // not the one of who runs this
+        .setText(sample(u"/home/user/文档/订单.csv"_s)); // not the one of who runs this
     photographer.take(exporting, u"ExportDialog"_s);
 }
 
 // A made-up table in place of a result.
 void takePrint(Photographer &photographer)
 {
-    const QList<QByteArray> rows{"1|2024-01-05|杭州茶叶有限公司|龙井茶|12|1536",
-                                 "2|2024-02-29|昆明食品行|普洱茶|4|944"};
+    const QStringList rows{sample(u"1|2024-01-05|杭州茶叶有限公司|龙井茶|12|1536"_s),
+                           sample(u"2|2024-02-29|昆明食品行|普洱茶|4|944"_s)};
     PrintPreview::Choices choices;
-    choices.title = u"订单"_s;
+    choices.title = sample(u"订单"_s);
     choices.records = 60;
     choices.markedRecords = 1;
     int field = 0;
     for (const auto &[heading, type] :
-         {std::pair{u"订单编号"_s, ADODB::adInteger}, std::pair{u"下单日期"_s, ADODB::adDBDate},
-          std::pair{u"客户名称"_s, ADODB::adVarWChar}, std::pair{u"产品名称"_s, ADODB::adVarWChar},
-          std::pair{u"数量"_s, ADODB::adInteger}, std::pair{u"金额"_s, ADODB::adDouble}})
+         {std::pair{sample(u"订单编号"_s), ADODB::adInteger},
+          std::pair{sample(u"下单日期"_s), ADODB::adDBDate},
+          std::pair{sample(u"客户名称"_s), ADODB::adVarWChar},
+          std::pair{sample(u"产品名称"_s), ADODB::adVarWChar}, std::pair{sample(u"数量"_s), ADODB::adInteger},
+          std::pair{sample(u"金额"_s), ADODB::adDouble}})
         choices.columns.push_back({field++, heading, type, 0, field == 3 ? 180 : 90});
     choices.write = [&](RecordWriter &writer, bool, const std::function<bool()> &) {
         writer.begin(choices.columns);
         for (qint64 record = 0; record < choices.records; ++record) {
             std::vector<ADODB::RawValue> cells;
-            const QList<QByteArray> values = rows[record % rows.size()].split('|');
+            const QList<QByteArray> values = rows[record % rows.size()].toUtf8().split('|');
             for (const QByteArray &value : values)
                 cells.push_back(ADODB::RawValue::fromText(value));
             writer.row(cells);
@@ -162,7 +174,7 @@ void takeTexts(Photographer &photographer)
 
     Dialog_SQLST statement;
     statement.SetLabel(u"SQLShow"_s);
-    statement.SetText(u"select 订单编号, 客户名称, 金额 from 订单 where 金额 > 100"_s);
+    statement.SetText(sample(u"select 订单编号, 客户名称, 金额 from 订单 where 金额 > 100"_s));
     statement.SetEditing(true, true);
     photographer.take(statement, u"Dialog_SQLST"_s);
 }
@@ -170,10 +182,10 @@ void takeTexts(Photographer &photographer)
 void takeBuilder(Photographer &photographer)
 {
     ConnectionBuilder builder(
-        {{u"MariaDB Unicode"_s, u"PostgreSQL Unicode"_s}, {u"网上商店"_s}, [](const QString &) {
+        {{u"MariaDB Unicode"_s, u"PostgreSQL Unicode"_s}, {sample(u"网上商店"_s)}, [](const QString &) {
              return u"FATAL: password authentication failed for user \"kova\""_s;
          }});
-    builder.SetConnectionString(u"Provider=SQLite;Data Source=/srv/数据/shop.db"_s);
+    builder.SetConnectionString(sample(u"Provider=SQLite;Data Source=/srv/数据/shop.db"_s));
     photographer.take(builder, u"ConnectionBuilder-file"_s);
     builder.SetConnectionString(
         u"Driver=PostgreSQL Unicode;Server=db.example.com;Port=5432;Database=shop;UID=kova;PWD=secret"_s);
@@ -187,9 +199,9 @@ void takePages(Photographer &photographer)
     QObject control;
     control.setProperty("DBType", 1);
     control.setProperty("ConnectionString", u"Provider=SQLite;Data Source=shop.db"_s);
-    control.setProperty("SQLShow", u"select 订单编号, 客户名称, [送货 城市], 金额 from 订单"_s);
-    control.setProperty("RecordSource", u"select 订单编号, 客户名称, [送货 城市], 金额 from 订单"_s);
-    control.setProperty("SQLPartDisplay", u"select [订单编号],[金额] from 订单"_s);
+    control.setProperty("SQLShow", sample(u"select 订单编号, 客户名称, [送货 城市], 金额 from 订单"_s));
+    control.setProperty("RecordSource", sample(u"select 订单编号, 客户名称, [送货 城市], 金额 from 订单"_s));
+    control.setProperty("SQLPartDisplay", sample(u"select [订单编号],[金额] from 订单"_s));
     for (const QString &name : propertyPageNames()) {
         PropertyPage *page = newPropertyPage(name);
         PageDialog dialog(page);
@@ -210,9 +222,9 @@ void fillRow(const QWidget &dialog, int number, const QString &field, const QStr
 
 void takeFormats(Photographer &photographer)
 {
-    FormatDialog number(u"金额"_s, false, u"#,##0.00"_s, u"12345.6"_s, 2, nullptr);
+    FormatDialog number(sample(u"金额"_s), false, u"#,##0.00"_s, u"12345.6"_s, 2, nullptr);
     photographer.take(number, u"FormatDialog"_s);
-    FormatDialog boolean(u"已付款"_s, true, {}, u"True"_s, 0, nullptr);
+    FormatDialog boolean(sample(u"已付款"_s), true, {}, u"True"_s, 0, nullptr);
     photographer.take(boolean, u"FormatDialog-boolean"_s);
 }
 
@@ -223,32 +235,32 @@ void takeFilter(Photographer &photographer, const QString &connectionString)
     SetFilter &builder = filter.SetFilter1();
     builder.Initialize(FilterTexts::TableCaption, dbAccess);
     builder.SetConnectionString(connectionString);
-    builder.SetCurrentTable(u"订单"_s);
-    builder.SetTableName(u"订单"_s);
+    builder.SetCurrentTable(sample(u"订单"_s));
+    builder.SetTableName(sample(u"订单"_s));
     photographer.take(filter, u"frm_Filter-empty"_s);
 
     auto &add = part<QAbstractButton>(filter, u"cmdAddRow"_s);
     for (int further = 0; further < 3; ++further)
         add.click();
-    fillRow(filter, 1, u"下单日期"_s, captionOf(FilterOperator::Between), u"2024-01-01"_s);
+    fillRow(filter, 1, sample(u"下单日期"_s), captionOf(FilterOperator::Between), u"2024-01-01"_s);
     part<QLineEdit>(filter, u"txtValue1b"_s).setText(u"2024-03-31"_s);
-    fillRow(filter, 2, u"送货 城市"_s, captionOf(FilterOperator::InList), u"北京, 上海"_s);
+    fillRow(filter, 2, sample(u"送货 城市"_s), captionOf(FilterOperator::InList), sample(u"北京, 上海"_s));
     part<QComboBox>(filter, u"cmbOpen2"_s).setCurrentIndex(1);
     part<QComboBox>(filter, u"cmbJoin2"_s).setCurrentIndex(1);
-    fillRow(filter, 3, u"备注"_s, captionOf(FilterOperator::Contains), u"100%"_s);
+    fillRow(filter, 3, sample(u"备注"_s), captionOf(FilterOperator::Contains), u"100%"_s);
     part<QComboBox>(filter, u"cmbClose3"_s).setCurrentIndex(1);
-    fillRow(filter, 4, u"金额"_s, captionOf(FilterOperator::Greater), u"100"_s);
+    fillRow(filter, 4, sample(u"金额"_s), captionOf(FilterOperator::Greater), u"100"_s);
     photographer.take(filter, u"frm_Filter"_s);
     part<QAbstractButton>(filter, u"chkGroups"_s).click();
     photographer.take(filter, u"frm_Filter-groups"_s);
     part<QAbstractButton>(filter, u"chkGroups"_s).click();
 
-    fillRow(filter, 4, u"金额"_s, captionOf(FilterOperator::Greater), u"一百"_s);
+    fillRow(filter, 4, sample(u"金额"_s), captionOf(FilterOperator::Greater), sample(u"一百"_s));
     builder.ConditionText();
     photographer.take(filter, u"frm_Filter-fault"_s);
-    fillRow(filter, 4, u"金额"_s, captionOf(FilterOperator::Greater), u"100"_s);
+    fillRow(filter, 4, sample(u"金额"_s), captionOf(FilterOperator::Greater), u"100"_s);
     auto &condition = part<QLineEdit>(filter, u"txtCondition"_s);
-    condition.setText(u"金额 > 100 AND 已付款 = 0"_s);
+    condition.setText(sample(u"金额 > 100 AND 已付款 = 0"_s));
     Q_EMIT condition.textEdited(condition.text());
     photographer.take(filter, u"frm_Filter-by-hand"_s);
 }

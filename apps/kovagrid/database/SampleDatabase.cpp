@@ -1,6 +1,7 @@
 #include "database/SampleDatabase.h"
 
 #include "HostTexts.h"
+#include "database/SampleWords.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QDate>
@@ -13,7 +14,6 @@
 
 #include <sqlite3.h>
 
-#include <array>
 #include <filesystem>
 #include <random>
 #include <stdexcept>
@@ -27,58 +27,11 @@ constexpr int version = 4; // raise it when the tables change, so that old files
 constexpr int customerCount = 240;
 constexpr int orderCount = 120000;
 
-QByteArray schema()
+QByteArray fileContent(const QString &name)
 {
-    QFile file(u":/sample.sql"_s);
+    QFile file(name);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
-
-struct Product
-{
-    QString name;
-    QString category;
-    int cents;
-};
-
-const std::array cities{u"北京"_s, u"上海"_s, u"广州"_s, u"深圳"_s, u"杭州"_s, u"南京"_s,
-                        u"成都"_s, u"武汉"_s, u"西安"_s, u"青岛"_s, u"厦门"_s, u"长沙"_s,
-                        u"天津"_s, u"苏州"_s, u"昆明"_s, u"大连"_s};
-const std::array companies{u"恒昌"_s, u"万通"_s, u"金桥"_s, u"华信"_s, u"明达"_s,
-                           u"宏远"_s, u"瑞丰"_s, u"天成"_s, u"永利"_s, u"新宇"_s,
-                           u"东方"_s, u"海纳"_s, u"佳和"_s, u"同仁"_s, u"博雅"_s};
-const std::array trades{u"贸易有限公司"_s, u"百货公司"_s, u"食品商行"_s, u"超市"_s};
-const std::array surnames{u"王"_s, u"李"_s, u"张"_s, u"刘"_s, u"陈"_s,
-                          u"杨"_s, u"赵"_s, u"黄"_s, u"周"_s, u"吴"_s};
-const std::array givenNames{u"伟"_s,   u"芳"_s, u"秀英"_s, u"敏"_s,  u"静"_s,
-                            u"建国"_s, u"丽"_s, u"强"_s,   u"晓明"_s};
-const std::array notes{u"请在上午送货"_s,   u"需开增值税发票"_s, u"老客户，包装加固"_s,
-                       u"到货前电话联系"_s, u"货到付款"_s,       u"与上一单合并发货"_s};
-const std::array products{
-    Product{u"龙井茶 250克"_s, u"茶叶"_s, 12800},
-    Product{u"铁观音 500克"_s, u"茶叶"_s, 16800},
-    Product{u"普洱茶饼"_s, u"茶叶"_s, 23600},
-    Product{u"茉莉花茶"_s, u"茶叶"_s, 4950},
-    Product{u"东北大米 10千克"_s, u"粮油"_s, 7990},
-    Product{u"花生油 5升"_s, u"粮油"_s, 11890},
-    Product{u"手工挂面"_s, u"粮油"_s, 1250},
-    Product{u"黑木耳"_s, u"干货"_s, 3880},
-    Product{u"香菇"_s, u"干货"_s, 4520},
-    Product{u"红枣 1千克"_s, u"干货"_s, 3600},
-    Product{u"核桃仁"_s, u"干货"_s, 6800},
-    Product{u"陈醋"_s, u"调味"_s, 1580},
-    Product{u"豆瓣酱"_s, u"调味"_s, 1360},
-    Product{u"生抽酱油"_s, u"调味"_s, 990},
-    Product{u"青花瓷碗（六只）"_s, u"瓷器"_s, 19800},
-    Product{u"紫砂壶"_s, u"瓷器"_s, 58000},
-    Product{u"白瓷茶具"_s, u"瓷器"_s, 32600},
-    Product{u"真丝围巾"_s, u"丝绸"_s, 26900},
-    Product{u"丝绸被面"_s, u"丝绸"_s, 45900},
-    Product{u"折扇"_s, u"工艺"_s, 8800},
-    Product{u"剪纸画框"_s, u"工艺"_s, 5600},
-    Product{u"毛笔套装"_s, u"文具"_s, 7200},
-    Product{u"宣纸 100张"_s, u"文具"_s, 9600},
-    Product{u"端砚"_s, u"文具"_s, 88000},
-};
 
 class Database
 {
@@ -109,8 +62,10 @@ private:
 class Insert
 {
 public:
-    Insert(Database &database, const QByteArray &sql) : m_database(database)
+    Insert(Database &database, const QString &table, int columns) : m_database(database)
     {
+        const QByteArray sql =
+            "INSERT INTO " + table.toUtf8() + " VALUES (?" + QByteArray(",?").repeated(columns - 1) + ")";
         if (sqlite3_prepare_v2(database.handle(), sql.constData(), -1, &m_statement, nullptr) != SQLITE_OK)
             database.fail();
     }
@@ -159,7 +114,7 @@ public:
     template<typename Container>
     const auto &oneOf(const Container &items)
     {
-        return items[static_cast<std::size_t>(below(static_cast<int>(items.size())))];
+        return items.at(below(static_cast<int>(items.size())));
     }
 
 private:
@@ -186,18 +141,19 @@ QByteArray pictureOf(int number)
     return bytes;
 }
 
-std::vector<QString> fillCustomers(Database &database, Dice &dice)
+std::vector<QString> fillCustomers(Database &database, Dice &dice, const SampleWords &words)
 {
     std::vector<QString> names;
-    Insert insert(database, "INSERT INTO 客户 VALUES (?,?,?,?,?,?,?)");
+    Insert insert(database, words.customers, 7);
     for (int i = 0; i < customerCount; ++i) {
-        const auto at = [i](const auto &items, int step) {
-            return items[static_cast<std::size_t>(i / step) % items.size()];
-        };
-        const QString city = at(cities, 1);
-        const QString name = city + at(companies, static_cast<int>(cities.size())) + dice.oneOf(trades);
-        const QString contact =
-            dice.below(8) == 0 ? QString() : dice.oneOf(surnames) + dice.oneOf(givenNames);
+        const QString &city = words.cities.at(i % words.cities.size());
+        const QString &company = words.companies.at(i / words.cities.size() % words.companies.size());
+        const QString name = words.customerName.arg(city, company, dice.oneOf(words.trades));
+        QString contact;
+        if (dice.below(8) != 0) {
+            const QString &givenName = dice.oneOf(words.givenNames);
+            contact = words.contactName.arg(dice.oneOf(words.surnames), givenName);
+        }
         const QString phone =
             u"1%1%2"_s.arg(30 + dice.below(60)).arg(dice.below(100000000), 8, 10, QLatin1Char('0'));
         insert.row(i + 1, name, contact, city, phone, 5000.0 * (1 + dice.below(40)),
@@ -207,25 +163,25 @@ std::vector<QString> fillCustomers(Database &database, Dice &dice)
     return names;
 }
 
-void fillProducts(Database &database, Dice &dice)
+void fillProducts(Database &database, Dice &dice, const SampleWords &words)
 {
-    Insert insert(database, "INSERT INTO 产品 VALUES (?,?,?,?,?,?,?)");
+    Insert insert(database, words.products, 7);
     int number = 0;
-    for (const Product &product : products) {
+    for (const SampleWords::Product &product : words.assortment) {
         ++number;
         insert.row(number, product.name, product.category, product.cents / 100.0, dice.below(900),
                    dice.below(9) == 0 ? 1 : 0, pictureOf(number));
     }
 }
 
-void fillOrders(Database &database, Dice &dice, const std::vector<QString> &customers)
+void fillOrders(Database &database, Dice &dice, const SampleWords &words,
+                const std::vector<QString> &customers)
 {
-    Insert insert(database, "INSERT INTO 订单 VALUES (?,?,?,?,?,?,?,?,?,?,?)");
+    Insert insert(database, words.orders, 11);
     const QDate first(2021, 1, 4);
     for (int i = 0; i < orderCount; ++i) {
         const int customer = dice.below(customerCount);
-        const int number = dice.below(static_cast<int>(products.size()));
-        const Product &product = products[static_cast<std::size_t>(number)];
+        const SampleWords::Product &product = dice.oneOf(words.assortment);
         const int quantity = 1 + dice.below(60);
         const QDate day = first.addDays(static_cast<qint64>(i) * 1800 / orderCount);
         const bool isShipped = dice.below(12) != 0;
@@ -236,8 +192,8 @@ void fillOrders(Database &database, Dice &dice, const std::vector<QString> &cust
                                     : QString();
         insert.row(i + 1, day.toString(Qt::ISODate), customers[static_cast<std::size_t>(customer)],
                    product.name, quantity, product.cents / 100.0, quantity * product.cents / 100.0,
-                   dice.below(4) == 0 ? 0 : 1, shipped, dice.oneOf(cities),
-                   dice.below(6) == 0 ? dice.oneOf(notes) : QString());
+                   dice.below(4) == 0 ? 0 : 1, shipped, dice.oneOf(words.cities),
+                   dice.below(6) == 0 ? dice.oneOf(words.notes) : QString());
     }
 }
 
@@ -254,28 +210,28 @@ bool isCurrent(const QString &fileName)
     return isCurrent;
 }
 
-void create(const QString &fileName)
+void create(const QString &fileName, const SampleWords &words)
 {
     Database database(fileName);
     database.run("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA foreign_keys = ON; BEGIN");
-    database.run(schema());
+    database.run(fileContent(words.schema));
     Dice dice;
-    const std::vector<QString> customers = fillCustomers(database, dice);
-    fillProducts(database, dice);
-    fillOrders(database, dice, customers);
+    const std::vector<QString> customers = fillCustomers(database, dice, words);
+    fillProducts(database, dice, words);
+    fillOrders(database, dice, words, customers);
     database.run("PRAGMA user_version = " + QByteArray::number(version));
     database.run("COMMIT");
 }
 
 // Created in a separate folder first, so that an interrupted start leaves no incomplete database, and two
 // processes that start at once don't write to the same file.
-void createInOneStep(const QString &fileName)
+void createInOneStep(const QString &fileName, const SampleWords &words)
 {
     const QTemporaryDir ownFolder(fileName + u".XXXXXX"_s);
     if (!ownFolder.isValid())
         throw std::runtime_error(ownFolder.errorString().toStdString());
     const QString finished = ownFolder.filePath(u"sample.db"_s);
-    create(finished);
+    create(finished, words);
     if (isCurrent(fileName)) // another process was faster
         return;
     // Replaces an older file; QFile would have to remove it first.
@@ -292,27 +248,18 @@ std::runtime_error failure(const QString &text)
 
 } // namespace
 
-QString SampleDatabase::path()
+SampleDatabase::Sample SampleDatabase::inLanguage(const QString &language)
 {
+    const SampleWords &words = SampleWords::inLanguage(language);
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     if (!QDir().mkpath(folder))
         throw failure(HostTexts::CantMakeFolder().arg(folder));
-    QString fileName = folder + u"/sample.db"_s;
+    const QString fileName = folder + u'/' + words.fileName;
     try {
         if (!isCurrent(fileName))
-            createInOneStep(fileName);
+            createInOneStep(fileName, words);
     } catch (const std::runtime_error &error) {
         throw failure(HostTexts::CantMakeSample().arg(fileName, QString::fromUtf8(error.what())));
     }
-    return fileName;
-}
-
-QString SampleDatabase::defaultStatement()
-{
-    return u"select * from 订单"_s;
-}
-
-QString SampleDatabase::defaultPartStatement()
-{
-    return u"select 订单编号,下单日期,客户名称,产品名称,数量,金额 from 订单"_s;
+    return {fileName, words.statement, words.partStatement};
 }

@@ -5,12 +5,16 @@
 // The database of a fictitious trading company: customers, products with small pictures, 120,000 orders.
 namespace SampleDatabase {
 
-// The path of this user's sample database, which is created if it is missing or outdated. Several processes
-// may call this at once. Throws std::runtime_error, with a text for the user in UTF-8, if it can't be
-// created.
-QString path();
+struct Sample
+{
+    QString path;
+    QString statement;     // its orders
+    QString partStatement; // and the fields of them that are shown first
+};
 
-QString defaultStatement();
-QString defaultPartStatement();
+// This user's sample database with names and values in a language ("en", otherwise Chinese). It is created if
+// it is missing or outdated; several processes may call this at once. Throws std::runtime_error, with a text
+// for the user in UTF-8, if it can't be created.
+Sample inLanguage(const QString &language);
 
 } // namespace SampleDatabase

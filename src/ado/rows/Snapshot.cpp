@@ -45,7 +45,7 @@ QString Snapshot::text(qint64 record, int column) const
         return textFromUtf8(raw.bytes);
     // The text contains only their number, so they needn't be copied.
     if (raw.kind == RawValue::Kind::Blob)
-        return Texts::bytes.arg(raw.bytes.size());
+        return Texts::bytes.arg(raw.bytes.size(), QString::number(raw.bytes.size()));
     return ValueText(FieldValue::fromRaw(raw, type));
 }
 

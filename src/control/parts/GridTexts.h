@@ -1,5 +1,6 @@
 #pragma once
 
+#include "language/CountedText.h"
 #include "language/Text.h"
 
 // The texts of the control, collected here for proofreading. Texts for users are in Simplified Chinese; texts
@@ -7,6 +8,7 @@
 namespace KOVAVSFDataGridLib::GridTexts {
 
 inline constexpr TextTable tr{"KOVAVSFDataGridLib::GridTexts"};
+inline constexpr CountedTextTable counted{tr.context};
 
 using namespace Qt::StringLiterals;
 
@@ -113,7 +115,7 @@ inline constexpr Text FindRunning = tr("正在查找… %1%");
 
 // The statements to go back and forward to.
 inline constexpr Text HistoryName = tr("历史");
-inline constexpr Text HistoryNote = tr("%1 条  %2");
+inline constexpr CountedText HistoryNote = counted("%1 条  %2");
 inline constexpr Text NoHistory = tr("（没有历史记录）");
 
 // Page box and label.
@@ -127,7 +129,7 @@ inline constexpr Text PageCapSuffix = tr("条以内的记录");
 inline constexpr Text SelectWholeRows = tr("整行选择(&R)");
 
 // Loading.
-inline constexpr Text RecordsRead = tr("已读取 %1 条记录");
+inline constexpr CountedText RecordsRead = counted("已读取 %1 条记录");
 inline constexpr Text WaitingForDatabase = tr("正在等待数据库…");
 inline constexpr Text Cancelling = tr("正在取消…");
 inline constexpr Text CancelOpening = tr("取消");

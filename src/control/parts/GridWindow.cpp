@@ -253,7 +253,7 @@ std::unique_ptr<OpeningProgress> GridWindow::beginOpening()
         progressWindow(), [this] { return progressPlace(); }, m_grid, m_scrolled);
 }
 
-std::unique_ptr<OpeningProgress> GridWindow::beginWriting(const QString &done, qint64 total)
+std::unique_ptr<OpeningProgress> GridWindow::beginWriting(const CountedText &done, qint64 total)
 {
     return std::make_unique<LoadProgress>(
         progressWindow(), [this] { return progressPlace(); }, done, total);

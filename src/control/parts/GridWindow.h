@@ -63,7 +63,7 @@ public:
     void showValue(const CellValue &value) override;
     void openLink(const QUrl &link) override;
     std::unique_ptr<OpeningProgress> beginOpening() override;
-    std::unique_ptr<OpeningProgress> beginWriting(const QString &done, qint64 total) override;
+    std::unique_ptr<OpeningProgress> beginWriting(const CountedText &done, qint64 total) override;
     void scrollAsOpened() override;
 
     // The session to show; not owned. Must be set before anything is shown.

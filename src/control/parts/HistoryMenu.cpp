@@ -25,7 +25,7 @@ constexpr int widestStatement = 48; // digits
 
 QString noteText(const HistoryStep &step)
 {
-    return step.note ? GridTexts::HistoryNote.arg(grouped(step.note->records),
+    return step.note ? GridTexts::HistoryNote.arg(step.note->records, grouped(step.note->records),
                                                   step.note->time.toString(u"HH:mm:ss"_s))
                      : QString();
 }

@@ -57,10 +57,11 @@ QString choiceInWords(const FilterChoice &choice, QDate today)
     QString words;
     if (takesCount(op)) {
         const bool isTop = op == FilterOperator::Top;
-        const Text form = choice.field.fieldClass == FieldClass::Text
-                              ? (isTop ? FilterTexts::FirstTextInSentence : FilterTexts::LastTextInSentence)
-                              : (isTop ? FilterTexts::TopInSentence : FilterTexts::BottomInSentence);
-        words = form.arg(field, choice.value.trimmed());
+        const CountedText &form =
+            isText ? (isTop ? FilterTexts::FirstTextInSentence : FilterTexts::LastTextInSentence)
+                   : (isTop ? FilterTexts::TopInSentence : FilterTexts::BottomInSentence);
+        const QString count = choice.value.trimmed();
+        words = form.arg(count.toLongLong(), count, field);
     } else if (op == FilterOperator::Duplicated) {
         words = FilterTexts::DuplicatedInSentence.arg(field);
     } else if (positiveOf(op) == FilterOperator::InList) {

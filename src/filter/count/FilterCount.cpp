@@ -2,7 +2,6 @@
 
 #include "ado/Error.h"
 #include "filter/FilterTexts.h"
-#include "language/GroupedNumber.h"
 
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -75,7 +74,7 @@ void FilterCount::onEnded()
     const auto count = m_reading->count();
     const QString failure = m_reading->failure();
     m_reading.reset();
-    show(count ? FilterTexts::AboutRecords.arg(grouped(*count)) : FilterTexts::NotCounted);
+    show(count ? FilterTexts::AboutRecords(*count) : FilterTexts::NotCounted);
     m_text->setToolTip(failure);
 }
 

@@ -314,7 +314,8 @@ QString ValueTicks::stateInWords() const
     // Records without a value have a box as well.
     const int nulls = listsNull() ? 1 : 0;
     const int tickedNulls = nulls == 1 && m_state.isNullTicked() ? 1 : 0;
-    return FilterTexts::TicksOf.arg(grouped(ticked + tickedNulls), grouped(values.values.size() + nulls));
+    const qint64 all = values.values.size() + nulls;
+    return FilterTexts::TicksOf.arg(all, grouped(all), grouped(ticked + tickedNulls));
 }
 
 void ValueTicks::showReading(bool isReading)

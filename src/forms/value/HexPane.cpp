@@ -43,6 +43,17 @@ QString HexPane::line(const QByteArray &bytes, qsizetype number)
         .arg(ascii);
 }
 
+int HexPane::widthOfLine() const
+{
+    return charactersOfLine * fontMetrics().horizontalAdvance(u'0') + 2 * margin;
+}
+
+QSize HexPane::sizeHint() const
+{
+    const int around = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    return {widthOfLine() + around, QAbstractScrollArea::sizeHint().height()};
+}
+
 void HexPane::resizeEvent(QResizeEvent *)
 {
     const int inView = std::max(1, viewport()->height() / fontMetrics().height());
@@ -50,10 +61,9 @@ void HexPane::resizeEvent(QResizeEvent *)
     constexpr qsizetype mostLines = std::numeric_limits<int>::max();
     verticalScrollBar()->setPageStep(inView);
     verticalScrollBar()->setRange(0, static_cast<int>(std::clamp<qsizetype>(lines - inView, 0, mostLines)));
-    const int width = charactersOfLine * fontMetrics().horizontalAdvance(u'0') + 2 * margin;
     horizontalScrollBar()->setPageStep(viewport()->width());
     horizontalScrollBar()->setSingleStep(fontMetrics().horizontalAdvance(u'0'));
-    horizontalScrollBar()->setRange(0, std::max(0, width - viewport()->width()));
+    horizontalScrollBar()->setRange(0, std::max(0, widthOfLine() - viewport()->width()));
 }
 
 void HexPane::scrollContentsBy(int, int)

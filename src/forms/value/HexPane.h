@@ -14,6 +14,7 @@ public:
     explicit HexPane(const QByteArray &bytes, QWidget *parent = nullptr);
 
     static QString line(const QByteArray &bytes, qsizetype number);
+    QSize sizeHint() const override; // as wide as a line
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -21,6 +22,8 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
+    int widthOfLine() const;
+
     const QByteArray m_bytes;
 };
 

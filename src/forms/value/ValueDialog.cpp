@@ -7,6 +7,8 @@
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QPushButton>
 
+#include <algorithm>
+
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
@@ -30,6 +32,8 @@ ValueDialog::ValueDialog(QWidget *parent) : QDialog(parent), m_pane(new ValuePan
 void ValueDialog::show(const ShownValue &value)
 {
     replace(value);
+    // Bytes are wider than texts, and pictures can be.
+    resize(std::clamp(sizeHint().width(), width(), std::max(width(), widthOfDigits(*this, 100))), height());
     QDialog::show();
     raise();
     activateWindow();

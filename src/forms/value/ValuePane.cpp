@@ -203,8 +203,8 @@ QString ValuePane::summary() const
 {
     if (m_value.isNull)
         return FormTexts::NullValue;
-    QStringList parts{m_value.isBinary ? FormTexts::BytesOfValue.arg(grouped(m_value.bytes.size()))
-                                       : FormTexts::CharactersOfValue.arg(grouped(m_value.text.size()))};
+    QStringList parts{m_value.isBinary ? FormTexts::BytesOfValue(m_value.bytes.size())
+                                       : FormTexts::CharactersOfValue(m_value.text.size())};
     if (!m_picture.isNull())
         parts.append(FormTexts::SizeOfPicture.arg(m_picture.width()).arg(m_picture.height()));
     if (!m_format.isEmpty())

@@ -90,8 +90,10 @@ std::optional<QString> recordsInWords(const SqlScanner &sql, TextRange list)
     if (!isFirstOfSort)
         return std::nullopt;
     if (areTexts)
-        return (isDescending ? QueryTexts::LastTextsInWords : QueryTexts::FirstTextsInWords).arg(count);
-    return (isDescending ? QueryTexts::LargestInWords : QueryTexts::SmallestInWords).arg(count);
+        return (isDescending ? QueryTexts::LastTextsInWords : QueryTexts::FirstTextsInWords)
+            .arg(count.toLongLong(), count);
+    return (isDescending ? QueryTexts::LargestInWords : QueryTexts::SmallestInWords)
+        .arg(count.toLongLong(), count);
 }
 
 struct Comparison

@@ -38,7 +38,7 @@ RecordRange markedRecords(Session &session)
             std::min(last, session.result().recordset()->RecordCount())};
 }
 
-bool writeUnderProgress(Session &session, const QString &done, const RecordRange &range,
+bool writeUnderProgress(Session &session, const CountedText &done, const RecordRange &range,
                         const std::function<bool(const std::function<bool(qint64)> &shouldContinue)> &write)
 {
     if (session.shared.isOpening)

@@ -7,6 +7,7 @@
 
 namespace KOVAVSFDataGridLib {
 
+class CountedText;
 class Session;
 
 constexpr int twipsOfPixel = 15; // at 96 DPI, in which exports have their widths
@@ -21,7 +22,7 @@ RecordRange markedRecords(Session &session);
 
 // Passes the records to the writer, showing progress with the text `done`. Returns false if the user
 // cancelled, if the result was closed meanwhile, or if a statement is being opened. Throws like writeRecords.
-bool writeUnderProgress(Session &session, const QString &done, const RecordRange &range,
+bool writeUnderProgress(Session &session, const CountedText &done, const RecordRange &range,
                         const std::function<bool(const std::function<bool(qint64)> &shouldContinue)> &write);
 
 } // namespace KOVAVSFDataGridLib

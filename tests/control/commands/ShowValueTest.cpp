@@ -9,6 +9,7 @@
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTabWidget>
 
 using namespace KovaTest;
@@ -92,6 +93,18 @@ TEST_F(ShowValue, ShowsBytesAndNull)
     clickCell(3, 5);
     press(table);
     EXPECT_EQ(window()->findChild<QLabel *>(u"lblSummary"_s)->text(), u"空值（NULL）"_s);
+}
+
+TEST_F(ShowValue, TheWindowIsAsWideAsALineOfBytes)
+{
+    ASSERT_TRUE(load(u"SELECT zeroblob(2000) AS V"_s, {}));
+    clickCell(1, 1);
+    press(table);
+    ASSERT_TRUE(window());
+    const auto *bytes = window()->findChild<QAbstractScrollArea *>(u"HexPane"_s);
+    ASSERT_TRUE(bytes);
+    EXPECT_GT(bytes->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(bytes->horizontalScrollBar()->maximum(), 0) << window()->width();
 }
 
 TEST_F(ShowValue, ShowsWhatIsWrittenIntoASingleRecord)

@@ -1,7 +1,6 @@
 #include "control/parts/lines/LoadProgress.h"
 
 #include "control/parts/GridTexts.h"
-#include "language/GroupedNumber.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
@@ -83,23 +82,29 @@ std::optional<QAbstractSlider::SliderAction> scrollingOf(int key)
 } // namespace
 
 LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place)
-    : LoadProgress(window, std::move(place), GridTexts::RecordsRead, 0)
+    : LoadProgress(window, std::move(place), GridTexts::RecordsRead, 0, GridTexts::CancelOpeningHint)
 {
-    m_cancelHint = GridTexts::CancelOpeningHint;
+}
+
+LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place, const CountedText &done,
+                           qint64 total)
+    : LoadProgress(window, std::move(place), done, total, GridTexts::CancelWritingHint)
+{
 }
 
 LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place, const QString &text)
-    : LoadProgress(window, std::move(place), text, 0)
+    : LoadProgress(
+          window, std::move(place), [text](qint64) { return text; }, 0, GridTexts::CancelWaitingHint)
 {
-    m_cancelHint = GridTexts::CancelWaitingHint;
 }
 
-LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place, QString done, qint64 total)
+LoadProgress::LoadProgress(QWidget &window, std::function<QRect()> place, Words words, qint64 total,
+                           QString cancelHint)
     : m_window(window),
       m_place(std::move(place)),
-      m_done(std::move(done)),
+      m_words(std::move(words)),
       m_total(total),
-      m_cancelHint(GridTexts::CancelWritingHint),
+      m_cancelHint(std::move(cancelHint)),
       m_modalBefore(QApplication::activeModalWidget())
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
@@ -164,7 +169,7 @@ void LoadProgress::updateLine(qint64 rowsDone)
     if (m_isCancelled)
         m_count->setText(GridTexts::Cancelling);
     else
-        m_count->setText(m_done.contains("%1"_L1) ? m_done.arg(grouped(rowsDone)) : m_done);
+        m_count->setText(m_words(rowsDone));
     const qint64 value = m_total > 0 ? rowsDone * barSteps / m_total : rowsDone;
     m_bar->setValue(static_cast<int>(std::min<qint64>(value, std::numeric_limits<int>::max())));
     m_line->setGeometry(m_place()); // the window may have been resized

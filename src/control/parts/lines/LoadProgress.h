@@ -1,5 +1,6 @@
 #pragma once
 
+#include "language/CountedText.h"
 #include "session/SessionWindow.h"
 
 #include <QtCore/QElapsedTimer>
@@ -32,8 +33,8 @@ public:
     // The line covers the rectangle `place` of `window`, which is called again because the window can be
     // resized. If the window is deleted in one of the events, the load is cancelled.
     LoadProgress(QWidget &window, std::function<QRect()> place);
-    // The same for work on `total` records. `done` is the text for the number of records, which replaces %1.
-    LoadProgress(QWidget &window, std::function<QRect()> place, QString done, qint64 total);
+    // The same for work on `total` records. `done` is the text for the number of records done.
+    LoadProgress(QWidget &window, std::function<QRect()> place, const CountedText &done, qint64 total);
     // The same for a wait without a number.
     LoadProgress(QWidget &window, std::function<QRect()> place, const QString &text);
     ~LoadProgress() override;
@@ -48,15 +49,19 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    using Words = std::function<QString(qint64 rowsDone)>;
+
+    LoadProgress(QWidget &window, std::function<QRect()> place, Words words, qint64 total,
+                 QString cancelHint);
     void showLine();
     void updateLine(qint64 rowsDone);
     void takeKey(QKeyEvent &key);
 
     QWidget &m_window;
     const std::function<QRect()> m_place;
-    const QString m_done;
+    const Words m_words;
     const qint64 m_total; // 0 if unknown
-    QString m_cancelHint;
+    const QString m_cancelHint;
     QPointer<QWidget> m_line; // null during the first half second; a child of the window
     QPointer<QAbstractScrollArea> m_view;
     QLabel *m_count = nullptr;
