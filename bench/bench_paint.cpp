@@ -26,6 +26,10 @@
 #include <functional>
 #include <vector>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 using namespace KOVAVSFDataGridLib;
 using namespace Qt::StringLiterals;
 
@@ -220,6 +224,15 @@ Costs measurePeer(const Shape &shape, QSqlDatabase &database, const QTableView &
     return measure(peer);
 }
 
+// The C library sorts the memory that the peer has freed when somebody next wants a large block, which would
+// be the grid's first frame.
+void sortFreedMemory()
+{
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+}
+
 void measureShape(const Shape &shape, QSqlDatabase &database, const Options &options)
 {
     const QString statement = u"SELECT * FROM T%1"_s.arg(shape.columns);
@@ -232,6 +245,7 @@ void measureShape(const Shape &shape, QSqlDatabase &database, const Options &opt
     grid.show();
 
     const Costs peerCosts = options.withPeer ? measurePeer(shape, database, grid) : Costs();
+    sortFreedMemory();
     const Costs gridCosts = measure(grid);
     std::printf("\n%d columns of %d pixels at %d x %d, scale %.0f %%: %d cells in view\n", shape.columns,
                 grid.columnWidth(0), shape.size.width(), shape.size.height(), grid.devicePixelRatioF() * 100,

@@ -11,8 +11,10 @@
 #include <QtCore/QEvent>
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyle>
 
 #include <algorithm>
 #include <stdexcept>
@@ -22,6 +24,27 @@ namespace KOVAVSFDataGridLib {
 namespace {
 
 constexpr int rowPadding = 120; // twips, the sum of the space above and below a row's text
+
+const QBrush &backgroundOf(const QWidget &viewport)
+{
+    return viewport.palette().brush(viewport.backgroundRole());
+}
+
+// Takes the background from Qt, which would fill all of the viewport before any row is painted; unless it is
+// a style sheet's or a pattern.
+void takeBackground(QWidget &viewport)
+{
+    const bool isPlain = backgroundOf(viewport).style() == Qt::SolidPattern;
+    viewport.setAttribute(Qt::WA_NoSystemBackground,
+                          isPlain && !viewport.style()->inherits("QStyleSheetStyle"));
+}
+
+// Empty if Qt has painted it.
+QBrush backgroundToPaint(const QWidget &viewport)
+{
+    const bool isOurs = viewport.testAttribute(Qt::WA_NoSystemBackground) && viewport.autoFillBackground();
+    return isOurs ? backgroundOf(viewport) : QBrush();
+}
 
 } // namespace
 
@@ -47,6 +70,7 @@ FlexGrid::FlexGrid(int fixedCols, QWidget *parent)
     // A heading is not a cell: pressing it neither selects nor makes anything current.
     disconnect(horizontalHeader(), &QHeaderView::sectionPressed, this, nullptr);
     disconnect(horizontalHeader(), &QHeaderView::sectionEntered, this, nullptr);
+    takeBackground(*viewport());
     applyRowHeight();
     setModel(m_model);
     applyLines();
@@ -237,6 +261,8 @@ bool FlexGrid::viewportEvent(QEvent *event)
         m_hover = indexAt(static_cast<QHoverEvent *>(event)->position().toPoint());
     else if (event->type() == QEvent::HoverLeave || event->type() == QEvent::Leave)
         m_hover = QModelIndex();
+    else if (event->type() == QEvent::StyleChange || event->type() == QEvent::PaletteChange)
+        takeBackground(*viewport());
     return QTableView::viewportEvent(event);
 }
 
@@ -246,11 +272,14 @@ void FlexGrid::paintEvent(QPaintEvent *event)
     const QRegion dirty = event->region().translated(offset);
     QStyleOptionViewItem option;
     initViewItemOption(&option);
-    if (state() == DraggingState || !m_painter->canPaint(dirty.boundingRect()))
-        QTableView::paintEvent(event);
-    else
+    const QBrush paper = backgroundToPaint(*viewport());
+    if (state() != DraggingState && m_painter->canPaint(dirty.boundingRect())) {
         m_painter->paint(option, dirty.subtracted(QRect(0, 0, frozenWidth(), viewport()->height())), offset,
-                         m_hover);
+                         m_hover, paper);
+    } else {
+        QPainter(viewport()).fillRect(event->rect(), paper); // the event's region limits it
+        QTableView::paintEvent(event);
+    }
     if (frozenWidth() > 0)
         paintFrozenCells(option, event->region());
     QRect part = viewport()->rect();

@@ -76,10 +76,6 @@ void FlexGrid::paintFrozenCells(const QStyleOptionViewItem &option, const QRegio
     if (!dirty.intersects(part))
         return;
     const QRect shown = part.translated(-horizontalHeader()->offset(), 0);
-    {
-        QPainter painter(viewport());
-        painter.fillRect(part, palette().brush(QPalette::Base));
-    }
     if (m_painter->canPaint(shown))
         m_painter->paintShifted(option, dirty, part, horizontalHeader()->offset(), m_hover);
     else
@@ -93,6 +89,7 @@ void FlexGrid::paintFrozenCells(const QStyleOptionViewItem &option, const QRegio
 void FlexGrid::paintByDelegate(const QStyleOptionViewItem &option, const QRect &area)
 {
     QPainter painter(viewport());
+    painter.fillRect(area, palette().brush(QPalette::Base));
     painter.setClipRect(area);
     const int firstRow = std::max(rowAt(area.top()), 0);
     const int lastRow = rowAt(area.bottom());

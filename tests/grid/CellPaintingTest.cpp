@@ -268,6 +268,60 @@ TEST_F(Painting, AStyleSheetIsObeyed)
     EXPECT_EQ(picture().pixelColor(cell(2, 1).topLeft() + QPoint(2, 2)), QColor(Qt::red));
 }
 
+TEST_F(Painting, ATextThatIsHigherThanItsRowIsNotCutByTheNext)
+{
+    grid.Show(std::make_unique<TextCells>(9, 2));
+    grid.verticalHeader()->setMinimumSectionSize(1);
+    grid.verticalHeader()->setDefaultSectionSize(6);
+    const QImage empty = picture();
+    for (int row = 1; row < 8; ++row) {
+        grid.PutTextMatrix(row, 1, u"|"_s);
+        const QRect next = cell(row + 1, 1);
+        ASSERT_EQ(next.height(), 5);
+        EXPECT_NE(picture().copy(next), empty.copy(next)) << row;
+        grid.PutTextMatrix(row, 1, {});
+    }
+}
+
+TEST_F(Painting, WhatIsBelowTheRowsIsAsInATableView)
+{
+    const auto pixel = [](QTableView &view) {
+        const QRect below = view.viewport()->geometry();
+        return view.grab().toImage().pixelColor(below.bottomRight() - QPoint(5, 5));
+    };
+    const auto changeBase = [](QTableView &view, const QBrush &brush) {
+        QPalette palette = view.palette();
+        palette.setBrush(QPalette::Base, brush);
+        view.setPalette(palette);
+    };
+    QPixmap red(8, 8);
+    red.fill(Qt::red);
+    const std::vector<std::function<void(QTableView &)>> changes{
+        [](QTableView &) {},
+        [](QTableView &view) { view.setPalette(dark()); },
+        [&](QTableView &view) { changeBase(view, red); },
+        [&](QTableView &view) { changeBase(view, QColor(0, 200, 0, 100)); },
+        [&](QTableView &view) { changeBase(view, Qt::NoBrush); },
+        [&](QTableView &view) { changeBase(view, Qt::blue); },
+        [](QTableView &view) { view.viewport()->setAutoFillBackground(false); },
+        [](QTableView &view) { view.viewport()->setAutoFillBackground(true); },
+        [](QTableView &view) { view.setStyleSheet(u"QTableView { background: #123456; }"_s); },
+        [](QTableView &view) { view.setStyleSheet({}); },
+        [](QTableView &view) { view.viewport()->setStyleSheet(u"background: #654321;"_s); },
+        [](QTableView &view) { view.viewport()->setStyleSheet({}); },
+        [](QTableView &view) { view.setEnabled(false); },
+    };
+    grid.Show(std::make_unique<TextCells>(4, 2));
+    QTableView plain;
+    plain.resize(grid.size());
+    plain.show();
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        changes[i](grid);
+        changes[i](plain);
+        EXPECT_EQ(pixel(grid), pixel(plain)) << "change " << i;
+    }
+}
+
 TEST_F(Painting, ASpanIsDrawnAcrossItsCells)
 {
     const QImage before = picture();

@@ -24,6 +24,14 @@ bool drawsTextPlainly(const QStyle &style)
     return name == "QFusionStyle" || name == "QWindowsStyle";
 }
 
+void fill(QPainter &painter, const QRegion &region, const QBrush &brush)
+{
+    if (brush.style() == Qt::NoBrush)
+        return;
+    for (const QRect &area : region)
+        painter.fillRect(area, brush);
+}
+
 QPalette::ColorGroup colourGroup(const QStyleOption &option)
 {
     if (!(option.state & QStyle::State_Enabled))
@@ -41,13 +49,7 @@ public:
           const QStyleOptionViewItem &option, const QPoint &offset, const QModelIndex &hover,
           const QRect &part, int shift);
 
-    bool isEmpty() const { return m_columns.empty() || m_lastRow < m_firstRow; }
-    // In this order, each for all dirty rectangles before the next: a cell that intersects several is painted
-    // with the first one.
-    void paintRows(const QRect &dirty);
-    void paintCells(const QRect &dirty);
-    void paintLines(const QRect &dirty);
-    void paintTexts() { m_batch.draw(m_painter); }
+    void paint(const QRegion &dirty, const QBrush &paper);
 
 private:
     struct Span
@@ -56,6 +58,12 @@ private:
         int last;
     };
 
+    // From the beginning of a row to the end of the same or a later one, at least as high as a text.
+    QRect strip(int firstVisualRow, int &lastVisualRow) const;
+    void paintStrip(const QRegion &dirty, const QBrush &paper);
+    void paintRows(const QRect &dirty);
+    void paintCells(const QRect &dirty);
+    void paintLines(const QRect &dirty);
     Span rowsIn(const QRect &dirty) const;
     Span columnsIn(const QRect &dirty) const;
     QRect clipped(QRect dirty) const;
@@ -78,7 +86,8 @@ private:
     const QModelIndex m_hover;
     const QModelIndex m_current; // the cell with the focus frame
     QPainter m_painter;
-    GlyphBatch m_batch;
+    GlyphBatch m_texts;       // of the strip being painted
+    GlyphBatch m_textsBefore; // of the one before
     GlyphLine m_line;
     std::vector<Column> m_columns; // visible, starting with m_firstColumn
     int m_firstColumn = 0;
@@ -104,7 +113,6 @@ CellPainter::Frame::Frame(QTableView &view, const FlexGridModel &model, GlyphTab
       m_hover(hover),
       m_current(view.hasFocus() || view.viewport()->hasFocus() ? view.currentIndex() : QModelIndex()),
       m_painter(view.viewport()),
-      m_batch(glyphs),
       m_selection(view.selectionModel()->selection()),
       m_gridSize(view.showGrid() ? 1 : 0),
       m_margin(view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, &view) + 1),
@@ -128,8 +136,50 @@ CellPainter::Frame::Frame(QTableView &view, const FlexGridModel &model, GlyphTab
         const bool isNumeric = model.source().isNumeric(section + model.fixedCols());
         m_columns.push_back({section, left, header.sectionSize(section) - m_gridSize, isNumeric});
     }
-    if (!isEmpty())
+    if (!m_columns.empty() && m_lastRow >= m_firstRow)
         m_isPainted.resize(m_columns.size() * static_cast<std::size_t>(m_lastRow - m_firstRow + 1));
+}
+
+// Strip by strip, because a text is blended with the pixels below it: they are still in the processor's cache
+// then. A text that is higher than its row also covers the next one.
+void CellPainter::Frame::paint(const QRegion &dirty, const QBrush &paper)
+{
+    const bool hasCells = !m_columns.empty() && m_lastRow >= m_firstRow;
+    QRegion rest = dirty;
+    for (int row = m_firstRow; hasCells && row <= m_lastRow; ++row) {
+        const QRect area = strip(row, row);
+        paintStrip(dirty & area, paper);
+        rest -= area;
+        m_textsBefore.draw(m_painter, m_glyphs);
+        std::swap(m_texts, m_textsBefore);
+    }
+    fill(m_painter, rest, paper);
+    m_textsBefore.draw(m_painter, m_glyphs);
+}
+
+QRect CellPainter::Frame::strip(int firstVisualRow, int &lastVisualRow) const
+{
+    const auto rowAt = [this](int visualRow) { return m_view.verticalHeader()->logicalIndex(visualRow); };
+    const auto end = [&](int visualRow) {
+        return m_view.rowViewportPosition(rowAt(visualRow)) + m_view.rowHeight(rowAt(visualRow));
+    };
+    const int top = m_view.rowViewportPosition(rowAt(firstVisualRow));
+    lastVisualRow = firstVisualRow;
+    while (lastVisualRow < m_lastRow && end(lastVisualRow) - top < m_glyphs.height())
+        ++lastVisualRow;
+    return {0, top + m_offset.y(), m_view.viewport()->width(), end(lastVisualRow) - top};
+}
+
+// Each step for all rectangles before the next: a cell that intersects several is painted with the first one.
+void CellPainter::Frame::paintStrip(const QRegion &dirty, const QBrush &paper)
+{
+    fill(m_painter, dirty, paper);
+    for (const QRect &area : dirty)
+        paintRows(area);
+    for (const QRect &area : dirty)
+        paintCells(area);
+    for (const QRect &area : dirty)
+        paintLines(area);
 }
 
 CellPainter::Frame::Span CellPainter::Frame::rowsIn(const QRect &dirty) const
@@ -294,7 +344,7 @@ void CellPainter::Frame::placeText(const QString &text, const Column &column, bo
     }
     const QPalette::ColorRole role = isSelected ? QPalette::HighlightedText : QPalette::Text;
     const QColor colour = m_option.palette.color(colourGroup(m_option), role);
-    m_batch.add(m_line, {left, top + m_glyphs.ascent()}, isNull ? CellDelegate::pale(colour) : colour);
+    m_texts.add(m_line, {left, top + m_glyphs.ascent()}, isNull ? CellDelegate::pale(colour) : colour);
 }
 
 bool CellPainter::Frame::isSpecial(int row, int section) const
@@ -318,24 +368,26 @@ void CellPainter::Frame::paintLines(const QRect &dirty)
         return;
     const int hint = m_view.style()->styleHint(QStyle::SH_Table_GridLineColor, &m_option, &m_view);
     const QColor colour = QColor::fromRgba(static_cast<QRgb>(hint));
-    const auto paintLine = [&](const QRect &line) {
+    const auto paintLine = [&](const QRect &line, int start) {
         if (m_view.gridStyle() == Qt::SolidLine)
             return m_painter.fillRect(line, colour);
-        m_painter.setPen(QPen(colour, m_gridSize, m_view.gridStyle()));
+        QPen pen(colour, m_gridSize, m_view.gridStyle());
+        pen.setDashOffset(start); // so that the dashes of neighbouring areas go on
+        m_painter.setPen(pen);
         m_painter.drawLine(line.topLeft(), line.bottomRight());
     };
     const Span rows = rowsIn(area);
     for (int visual = rows.first; visual <= rows.last; ++visual) {
         const int row = m_view.verticalHeader()->logicalIndex(visual);
         const int y = m_view.rowViewportPosition(row) + m_offset.y() + m_view.rowHeight(row) - m_gridSize;
-        paintLine({area.left(), y, area.width(), m_gridSize});
+        paintLine({area.left(), y, area.width(), m_gridSize}, area.left());
     }
     const Span columns = columnsIn(area);
     for (int visual = columns.first; visual <= columns.last; ++visual) {
         const Column &column = m_columns[static_cast<std::size_t>(visual - m_firstColumn)];
         const int x = m_view.isRightToLeft() ? column.left - m_gridSize : column.left + column.width;
         if (column.width > 0)
-            paintLine({x, area.top(), m_gridSize, area.height()});
+            paintLine({x, area.top(), m_gridSize, area.height()}, area.top());
     }
 }
 
@@ -351,38 +403,25 @@ bool CellPainter::canPaint(const QRect &dirty) const
 }
 
 void CellPainter::paint(const QStyleOptionViewItem &option, const QRegion &dirty, const QPoint &offset,
-                        const QModelIndex &hover)
+                        const QModelIndex &hover, const QBrush &paper)
 {
     prepareGlyphs(option.font);
-    Frame frame(m_view, m_model, *m_glyphs, option, offset, hover, m_view.viewport()->rect(), 0);
-    paint(frame, dirty);
+    Frame(m_view, m_model, *m_glyphs, option, offset, hover, m_view.viewport()->rect(), 0)
+        .paint(dirty, paper);
 }
 
 void CellPainter::paintShifted(const QStyleOptionViewItem &option, const QRegion &dirty, const QRect &part,
                                int shift, const QModelIndex &hover)
 {
     prepareGlyphs(option.font);
-    Frame frame(m_view, m_model, *m_glyphs, option, {}, hover, part, shift);
-    paint(frame, dirty & part);
+    Frame(m_view, m_model, *m_glyphs, option, {}, hover, part, shift)
+        .paint(dirty & part, m_view.palette().brush(QPalette::Base));
 }
 
 void CellPainter::prepareGlyphs(const QFont &font)
 {
     if (!m_glyphs || m_glyphs->font() != font)
         m_glyphs = std::make_unique<GlyphTable>(font);
-}
-
-void CellPainter::paint(Frame &frame, const QRegion &dirty)
-{
-    if (frame.isEmpty())
-        return;
-    for (const QRect &area : dirty)
-        frame.paintRows(area);
-    for (const QRect &area : dirty)
-        frame.paintCells(area);
-    for (const QRect &area : dirty)
-        frame.paintLines(area);
-    frame.paintTexts();
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -11,22 +11,24 @@ void GlyphBatch::add(const GlyphLine &line, const QPointF &origin, const QColor 
     for (const PlacedGlyph &glyph : line.glyphs) {
         if (!run || run->font != glyph.font)
             run = &runOf(glyph.font, colour);
-        run->indexes.append(glyph.index);
-        run->positions.append(origin + glyph.position);
+        run->indexes.push_back(glyph.index);
+        run->positions.push_back(origin + glyph.position);
     }
 }
 
-void GlyphBatch::draw(QPainter &painter)
+void GlyphBatch::draw(QPainter &painter, const GlyphTable &table)
 {
-    for (const Run &run : m_runs) {
+    for (Run &run : m_runs) {
+        if (run.indexes.empty())
+            continue;
         QGlyphRun glyphs;
-        glyphs.setRawFont(m_table.rawFonts()[static_cast<std::size_t>(run.font)]);
-        glyphs.setGlyphIndexes(run.indexes);
-        glyphs.setPositions(run.positions);
+        glyphs.setRawFont(table.rawFonts()[static_cast<std::size_t>(run.font)]);
+        glyphs.setRawData(run.indexes.data(), run.positions.data(), static_cast<int>(run.indexes.size()));
         painter.setPen(run.colour);
         painter.drawGlyphRun({}, glyphs);
+        run.indexes.clear();
+        run.positions.clear();
     }
-    m_runs.clear();
 }
 
 // There are only a few: the fonts of some scripts, normal and selected.

@@ -60,6 +60,24 @@ protected:
         WindowAnswers dialogs({use});
         click(QStringLiteral("Filter"));
     }
+    void filterByRow(int number, const QString &field, const QString &op, const QString &value)
+    {
+        filterWith([&](QDialog &dialog) {
+            fill(dialog, number, field, op, value);
+            ok(dialog);
+        });
+    }
+    // A host that filters by a condition of its own instead of the dialog.
+    void filterOfHost(const QString &condition)
+    {
+        const auto host = QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid,
+                                           [&](qint32 &cancel, const QString &) {
+                                               grid.PutPassQurryFilter(condition);
+                                               cancel = 0;
+                                           });
+        click(QStringLiteral("Filter"));
+        QObject::disconnect(host);
+    }
     void findWords(const QString &words, const QString &field = {})
     {
         WindowAnswers dialogs({[&](QDialog &dialog) { find(dialog, words, field); }});

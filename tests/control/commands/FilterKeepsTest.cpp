@@ -103,16 +103,8 @@ TEST_F(FilterKeeps, EscapeAsksOnceALineIsUnticked)
 TEST_F(FilterKeeps, TheHostsConditionIsKeptInItsBrackets)
 {
     ASSERT_TRUE(load());
-    bool isHosts = true;
-    QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid, [&](qint32 &cancel, const QString &) {
-        if (!isHosts)
-            return;
-        grid.PutPassQurryFilter(u"城市 = '杭州' OR 城市 = '厦门'"_s);
-        cancel = 0;
-    });
-    click(u"Filter"_s);
+    filterOfHost(u"城市 = '杭州' OR 城市 = '厦门'"_s);
     ASSERT_EQ(rows(), 4);
-    isHosts = false;
     filterWith([](QDialog &dialog) {
         EXPECT_EQ(keptLines(dialog), QStringList(u"x 保留：城市 = “杭州”，或者 城市 = “厦门”"_s));
         fill(dialog, 1, u"ID"_s, u"小于"_s, u"11"_s);
@@ -146,10 +138,7 @@ TEST_F(FilterKeeps, ATopNOverOtherRecordsIsAKeptLine)
     ASSERT_TRUE(load());
     tickAlone(u"城市"_s, {u"大连"_s, u"杭州"_s});
     click(u"FromResult"_s);
-    filterWith([](QDialog &dialog) {
-        fill(dialog, 1, u"Unit Price"_s, u"前 N 个"_s, u"1"_s);
-        ok(dialog);
-    });
+    filterByRow(1, u"Unit Price"_s, u"前 N 个"_s, u"1"_s);
     ASSERT_EQ(ids(), QStringList(u"1"_s)) << "among four";
     click(u"FromResult"_s);
     filterWith([](QDialog &dialog) {

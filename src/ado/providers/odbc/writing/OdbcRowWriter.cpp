@@ -56,7 +56,7 @@ const Change *changeOf(const std::vector<Change> &changes, int column)
 
 OdbcRowWriter::OdbcRowWriter(std::shared_ptr<OdbcSession> session, OdbcTarget target,
                              std::vector<OdbcTypes::Declared> types)
-    : m_session(std::move(session)), m_target(std::move(target)), m_types(std::move(types))
+    : m_session(session), m_row(std::move(session), std::move(target), std::move(types))
 {
 }
 
@@ -67,46 +67,15 @@ bool OdbcRowWriter::isWritable(int column) const
 
 bool OdbcRowWriter::keepsZones(int column) const
 {
-    return m_types[static_cast<std::size_t>(column)].isZoned;
-}
-
-QString OdbcRowWriter::keyCondition(const QString &prefix, const Key &key) const
-{
-    QStringList terms;
-    for (std::size_t i = 0; i < key.size(); ++i) {
-        const bool isNull = key[i].kind == RawValue::Kind::Null;
-        terms += prefix + m_target.key[i].name + (isNull ? " IS NULL"_L1 : " = ?"_L1);
-    }
-    return terms.join(" AND "_L1);
-}
-
-void OdbcRowWriter::bind(OdbcParameters &parameters, int column, const RawValue &value) const
-{
-    parameters.bind(value, m_types[static_cast<std::size_t>(column)]);
-}
-
-void OdbcRowWriter::bindKey(OdbcParameters &parameters, const Key &key) const
-{
-    for (std::size_t i = 0; i < key.size(); ++i) {
-        if (key[i].kind != RawValue::Kind::Null)
-            bind(parameters, m_target.key[i].column, key[i]);
-    }
+    return m_row.type(column).isZoned;
 }
 
 void OdbcRowWriter::bindChanges(OdbcParameters &parameters, const std::vector<Change> &changes) const
 {
     for (const Change &change : changes) {
         QByteArray bytes;
-        bind(parameters, change.column, rawValue(change.value, bytes));
+        m_row.bind(parameters, change.column, rawValue(change.value, bytes));
     }
-}
-
-// A change can't be cancelled, so it gets ADO's time limit if the connection has none.
-int OdbcRowWriter::timeout() const
-{
-    constexpr int adoCommandTimeout = 30;
-    const int limit = m_session->commandTimeout();
-    return limit > 0 ? limit : adoCommandTimeout;
 }
 
 // For engines whose driver can't cancel a waiting call. One second more than the limit of calls that can be
@@ -117,17 +86,9 @@ QString OdbcRowWriter::limitOfLocks() const
     return limit.isEmpty() ? QString() : limit.arg((timeout() + 1) * 1000);
 }
 
-OdbcRowWriter::Key OdbcRowWriter::keyOf(const std::vector<RawValue> &row) const
-{
-    Key key;
-    for (const OdbcTarget::KeyColumn &column : m_target.key)
-        key.push_back(row[static_cast<std::size_t>(column.column)]);
-    return key;
-}
-
 qint64 OdbcRowWriter::change(const OdbcHandle &statement) const
 {
-    OdbcOperation *const operation = m_target.hasTransactions ? nullptr : OdbcOperation::current();
+    OdbcOperation *const operation = target().hasTransactions ? nullptr : OdbcOperation::current();
     if (operation)
         operation->setSaving(true);
     try {
@@ -139,7 +100,7 @@ qint64 OdbcRowWriter::change(const OdbcHandle &statement) const
     } catch (const Error &error) {
         // If the server answered with an error, nothing was changed. Without an answer, that is unknown.
         const bool isSilence = statement.connection()->isLost() || error.SQLState().startsWith("HYT"_L1);
-        if (m_target.hasTransactions || !isSilence)
+        if (target().hasTransactions || !isSilence)
             throw;
         throw Error(dbErrInDoubt, Texts::inDoubt().arg(error.Description()), source(), error.SQLState(),
                     error.NativeError());
@@ -149,47 +110,14 @@ qint64 OdbcRowWriter::change(const OdbcHandle &statement) const
     return changed;
 }
 
-void OdbcRowWriter::readRows(const Key &key, Lock lock, RowStore &rows) const
-{
-    const OdbcEngine &engine = m_session->engine();
-    const QString end = lock == Lock::Row ? engine.lockRow : QString();
-    OdbcQuery reading(m_session->connection(), engine,
-                      m_target.selectRow + keyCondition(m_target.alias + u'.', key) + end, timeout());
-    OdbcParameters parameters(reading.handle());
-    bindKey(parameters, key);
-    reading.read(rows, timeout());
-}
-
-void OdbcRowWriter::needRowAsShown(const std::vector<RawValue> &row, const Key &key, RowStore &found) const
-{
-    readRows(key, Lock::Row, found);
-    RowComparison::needRowAsShown(found, row, m_target.compared, source());
-}
-
-QString OdbcRowWriter::condition(const Key &key) const
-{
-    QString text = " WHERE "_L1 + keyCondition({}, key);
-    for (const OdbcTarget::KeyColumn &witness : m_target.witnesses)
-        text += " AND "_L1 + witness.name;
-    return m_target.hasTransactions ? text : text + " LIMIT 1"_L1;
-}
-
-void OdbcRowWriter::bindCondition(OdbcParameters &parameters, const std::vector<RawValue> &row,
-                                  const Key &key) const
-{
-    bindKey(parameters, key);
-    for (const OdbcTarget::KeyColumn &witness : m_target.witnesses)
-        bind(parameters, witness.column, row[static_cast<std::size_t>(witness.column)]);
-}
-
 qint64 OdbcRowWriter::changeRow(const QString &sql, const std::vector<Change> &changes,
                                 const std::vector<RawValue> &row, const Key &key) const
 {
     const OdbcHandle statement(m_session->connection());
-    statement.prepare(sql + condition(key));
+    statement.prepare(sql + m_row.condition(key));
     OdbcParameters parameters(statement);
     bindChanges(parameters, changes);
-    bindCondition(parameters, row, key);
+    m_row.bindCondition(parameters, row, key);
     return change(statement);
 }
 
@@ -199,7 +127,7 @@ void OdbcRowWriter::onceWritten(Action &&action) const
     try {
         action();
     } catch (const Error &error) {
-        if (m_target.hasTransactions || error.is(dbErrInDoubt))
+        if (target().hasTransactions || error.is(dbErrInDoubt))
             throw;
         throw Error(dbErrInDoubt, Texts::savedUnseen().arg(error.Description()), source(), error.SQLState(),
                     error.NativeError());
@@ -209,7 +137,7 @@ void OdbcRowWriter::onceWritten(Action &&action) const
 QString OdbcRowWriter::returningKey() const
 {
     QStringList names;
-    for (const OdbcTarget::KeyColumn &column : m_target.key)
+    for (const OdbcTarget::KeyColumn &column : target().key)
         names += column.name;
     return " RETURNING "_L1 + names.join(", "_L1);
 }
@@ -228,9 +156,9 @@ void OdbcRowWriter::insertAndFindKey(const QString &insertion, const std::vector
 {
     const OdbcEngine &engine = m_session->engine();
     const auto given = [&](const OdbcTarget::KeyColumn &column) { return changeOf(changes, column.column); };
-    const auto missing = std::find_if_not(m_target.key.begin(), m_target.key.end(), given);
-    const bool isMade = m_target.isRealKey && m_target.key.size() == 1 && !engine.newKey.isEmpty();
-    if (missing != m_target.key.end() && !isMade)
+    const auto missing = std::find_if_not(target().key.begin(), target().key.end(), given);
+    const bool isMade = target().isRealKey && target().key.size() == 1 && !engine.newKey.isEmpty();
+    if (missing != target().key.end() && !isMade)
         throw Error(adErrFeatureNotAvailable, Texts::newRowWithoutKey().arg(missing->name));
 
     const OdbcHandle statement(m_session->connection());
@@ -238,11 +166,11 @@ void OdbcRowWriter::insertAndFindKey(const QString &insertion, const std::vector
     OdbcParameters parameters(statement);
     bindChanges(parameters, changes);
     RowComparison::needOneChange(change(statement), source());
-    if (missing != m_target.key.end()) {
+    if (missing != target().key.end()) {
         OdbcQuery(m_session->connection(), engine, engine.newKey, timeout()).read(key, timeout());
         return;
     }
-    for (const OdbcTarget::KeyColumn &column : m_target.key) {
+    for (const OdbcTarget::KeyColumn &column : target().key) {
         QByteArray bytes;
         key.add(rawValue(given(column)->value, bytes));
     }
@@ -257,7 +185,7 @@ void OdbcRowWriter::insert(const std::vector<Change> &changes, RowStore &stored)
 void OdbcRowWriter::appendSent(const std::vector<Change> &changes, RowStore &sent) const
 {
     const auto isGiven = [&](const OdbcTarget::KeyColumn &key) { return changeOf(changes, key.column); };
-    if (!m_target.isRealKey || !std::ranges::all_of(m_target.key, isGiven))
+    if (!target().isRealKey || !std::ranges::all_of(target().key, isGiven))
         return;
     for (int column = 0; column < sent.columns(); ++column) {
         QByteArray bytes;
@@ -271,9 +199,9 @@ void OdbcRowWriter::insertAgain(const std::vector<Change> &changes, const std::v
                                 RowStore &stored)
 {
     std::vector<Change> all = changes;
-    for (const OdbcTarget::KeyColumn &key : m_target.key) {
+    for (const OdbcTarget::KeyColumn &key : target().key) {
         const RawValue &made = before[static_cast<std::size_t>(key.column)];
-        if (m_target.isRealKey && m_session->engine().takesMadeKeys && !changeOf(changes, key.column))
+        if (target().isRealKey && m_session->engine().takesMadeKeys && !changeOf(changes, key.column))
             all.push_back({key.column, FieldValue::toStorage(FieldValue::fromRaw(made, adVariant))});
     }
     insertRow(all, m_session->engine().overrideKey, stored);
@@ -286,17 +214,17 @@ void OdbcRowWriter::insertRow(const std::vector<Change> &changes, const QString 
     QStringList names;
     QStringList places;
     for (const Change &change : changes) {
-        const auto key = std::ranges::find(m_target.key, change.column, &OdbcTarget::KeyColumn::column);
-        names += key == m_target.key.end() ? nameOf(change.column) : key->name;
+        const auto key = std::ranges::find(target().key, change.column, &OdbcTarget::KeyColumn::column);
+        names += key == target().key.end() ? nameOf(change.column) : key->name;
         places += u"?"_s;
     }
     const QString values =
         changes.empty() && engine.dialect != SqlDialect::MySql
             ? u"DEFAULT VALUES"_s
             : u"(%1)%2 VALUES (%3)"_s.arg(names.join(", "_L1), override, places.join(", "_L1));
-    const QString insertion = "INSERT INTO "_L1 + m_target.table + u' ' + values;
+    const QString insertion = "INSERT INTO "_L1 + target().table + u' ' + values;
 
-    RowStore key(static_cast<int>(m_target.key.size()));
+    RowStore key(static_cast<int>(target().key.size()));
     if (engine.returning)
         insertAndReturnKey(insertion, changes, key);
     else
@@ -304,7 +232,7 @@ void OdbcRowWriter::insertRow(const std::vector<Change> &changes, const QString 
     onceWritten([&] {
         // A trigger or a rule can have moved the row.
         RowComparison::needOneChange(key.rows(), source());
-        readRows(key.row(0), Lock::None, stored);
+        m_row.readRows(key.row(0), Lock::None, stored);
         if (stored.rows() == 0)
             throw changedRowLost();
         RowComparison::needOneRow(stored.rows(), source());
@@ -316,13 +244,13 @@ void OdbcRowWriter::update(const std::vector<RawValue> &row, const std::vector<C
                            RowStore &stored)
 {
     OdbcTransaction transaction(*m_session, limitOfLocks());
-    const Key before = keyOf(row);
+    const Key before = m_row.keyOf(row);
     RowStore found(stored.columns());
-    needRowAsShown(row, before, found);
+    m_row.needRowAsShown(row, before, found);
     QStringList assignments;
     for (const Change &change : changes)
         assignments += nameOf(change.column) + " = ?"_L1;
-    const QString sql = "UPDATE "_L1 + m_target.table + " SET "_L1 + assignments.join(", "_L1);
+    const QString sql = "UPDATE "_L1 + target().table + " SET "_L1 + assignments.join(", "_L1);
     if (m_session->engine().returning)
         updateAndReturn(sql, changes, before, stored);
     else
@@ -335,14 +263,14 @@ void OdbcRowWriter::updateAndReturn(const QString &sql, const std::vector<Change
                                     RowStore &stored) const
 {
     OdbcQuery returning(m_session->connection(), m_session->engine(),
-                        sql + condition(before) + returningKey(), timeout());
+                        sql + m_row.condition(before) + returningKey(), timeout());
     OdbcParameters parameters(returning.handle());
     bindChanges(parameters, changes);
-    bindKey(parameters, before);
-    RowStore after(static_cast<int>(m_target.key.size()));
+    m_row.bindKey(parameters, before);
+    RowStore after(static_cast<int>(target().key.size()));
     returning.read(after, timeout());
     RowComparison::needOneChange(after.rows(), source());
-    readRows(after.row(0), Lock::None, stored);
+    m_row.readRows(after.row(0), Lock::None, stored);
     RowComparison::needOneRow(stored.rows(), source());
 }
 
@@ -350,11 +278,11 @@ void OdbcRowWriter::updateAndFind(const QString &sql, const std::vector<Change> 
                                   const std::vector<RawValue> &row, const RowStore &found,
                                   RowStore &stored) const
 {
-    const Key before = keyOf(row);
+    const Key before = m_row.keyOf(row);
     Key after = before;
     KeyValues kept(after.size());
     for (std::size_t i = 0; i < after.size(); ++i) {
-        if (const Change *change = changeOf(changes, m_target.key[i].column))
+        if (const Change *change = changeOf(changes, target().key[i].column))
             after[i] = kept.keep(i, change->value);
     }
     const qint64 changed = changeRow(sql, changes, row, before);
@@ -363,9 +291,9 @@ void OdbcRowWriter::updateAndFind(const QString &sql, const std::vector<Change> 
     if (!isSame)
         RowComparison::needOneChange(changed, source());
     const auto readBack = [&] {
-        readRows(isSame ? before : after, Lock::None, stored);
+        m_row.readRows(isSame ? before : after, Lock::None, stored);
         if (isSame)
-            RowComparison::needRowAsShown(stored, found.row(0), m_target.compared, source());
+            RowComparison::needRowAsShown(stored, found.row(0), target().compared, source());
         else if (stored.rows() == 0)
             throw changedRowLost();
         RowComparison::needOneRow(stored.rows(), source());
@@ -379,10 +307,10 @@ void OdbcRowWriter::updateAndFind(const QString &sql, const std::vector<Change> 
 void OdbcRowWriter::remove(const std::vector<RawValue> &row)
 {
     OdbcTransaction transaction(*m_session, limitOfLocks());
-    const Key key = keyOf(row);
+    const Key key = m_row.keyOf(row);
     RowStore found(static_cast<int>(row.size()));
-    needRowAsShown(row, key, found);
-    const qint64 removed = changeRow("DELETE FROM "_L1 + m_target.table, {}, row, key);
+    m_row.needRowAsShown(row, key, found);
+    const qint64 removed = changeRow("DELETE FROM "_L1 + target().table, {}, row, key);
     if (removed != 0 || !isGoneUncounted(key, found.columns()))
         RowComparison::needOneChange(removed, source());
     transaction.commit();
@@ -392,16 +320,17 @@ void OdbcRowWriter::remove(const std::vector<RawValue> &row)
 // earlier in this transaction, so it is checked again.
 bool OdbcRowWriter::isGoneUncounted(const Key &key, int columns) const
 {
-    if (m_session->engine().dialect != SqlDialect::MySql || !m_target.hasTransactions)
+    if (m_session->engine().dialect != SqlDialect::MySql || !target().hasTransactions)
         return false;
     RowStore rows(columns);
-    readRows(key, Lock::None, rows);
+    m_row.readRows(key, Lock::None, rows);
     return rows.rows() == 0;
 }
 
 bool OdbcRowWriter::read(const std::vector<RawValue> &row, RowStore &now)
 {
-    m_session->begin([&](const std::shared_ptr<OdbcConnection> &) { readRows(keyOf(row), Lock::None, now); });
+    m_session->begin(
+        [&](const std::shared_ptr<OdbcConnection> &) { m_row.readRows(m_row.keyOf(row), Lock::None, now); });
     return now.rows() > 0;
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "ado/providers/Provider.h"
-#include "ado/providers/odbc/reading/OdbcTypes.h"
-#include "ado/providers/odbc/writing/OdbcTarget.h"
+#include "ado/providers/odbc/writing/OdbcRowFinder.h"
 
 namespace ADODB {
 
@@ -21,9 +20,9 @@ public:
     bool keepsZones(int column) const override;
     // Drivers treat it as the end of the text, either when writing or when reading.
     bool keepsNulCharacters() const override { return false; }
-    bool hasTransactions() const { return m_target.hasTransactions; }
+    bool hasTransactions() const { return target().hasTransactions; }
     // The seconds to wait for a row that somebody else is changing.
-    int timeout() const;
+    int timeout() const { return m_row.timeout(); }
     void insert(const std::vector<Change> &changes, RowStore &stored) override;
     void insertAgain(const std::vector<Change> &changes, const std::vector<RawValue> &before,
                      RowStore &stored) override;
@@ -35,26 +34,16 @@ public:
     void appendSent(const std::vector<Change> &changes, RowStore &sent) const;
 
 private:
-    using Key = std::vector<RawValue>; // in the order of the target's key columns
+    using Key = OdbcRowFinder::Key;
+    using Lock = OdbcRowFinder::Lock;
 
-    const QString &nameOf(int column) const { return m_target.columns[static_cast<std::size_t>(column)]; }
-    QString keyCondition(const QString &prefix, const Key &key) const;
-    void bind(OdbcParameters &parameters, int column, const RawValue &value) const;
-    void bindKey(OdbcParameters &parameters, const Key &key) const;
+    const OdbcTarget &target() const { return m_row.target(); }
+    const QString &nameOf(int column) const { return target().columns[static_cast<std::size_t>(column)]; }
     void bindChanges(OdbcParameters &parameters, const std::vector<Change> &changes) const;
     // Sets the same limit in the server at the start of a transaction; empty if not needed.
     QString limitOfLocks() const;
-    Key keyOf(const std::vector<RawValue> &row) const;
     // Runs the statement and returns how many rows it changed.
     qint64 change(const OdbcHandle &statement) const;
-    // Reads all rows with that key.
-    enum class Lock { None, Row };
-    void readRows(const Key &key, Lock lock, RowStore &rows) const;
-    // Throws unless the row exists and is unchanged since it was shown. Locks it if the engine can.
-    void needRowAsShown(const std::vector<RawValue> &row, const Key &key, RowStore &found) const;
-    // The condition by which a statement that changes the row finds it, and its parameters.
-    QString condition(const Key &key) const;
-    void bindCondition(OdbcParameters &parameters, const std::vector<RawValue> &row, const Key &key) const;
     // Runs a statement that changes `row`, with a condition on it.
     qint64 changeRow(const QString &sql, const std::vector<Change> &changes, const std::vector<RawValue> &row,
                      const Key &key) const;
@@ -78,8 +67,7 @@ private:
     QString returningKey() const;
 
     std::shared_ptr<OdbcSession> m_session;
-    OdbcTarget m_target;
-    std::vector<OdbcTypes::Declared> m_types;
+    OdbcRowFinder m_row;
 };
 
 } // namespace ADODB
