@@ -13,6 +13,8 @@
 #include "sql/Literals.h"
 #include "sql/StatementLines.h"
 
+#include <QtCore/QRegularExpression>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -225,24 +227,27 @@ TEST_P(DerivationServers, ASortByWhatTheResultLacksIsKept)
         u"select p.ID, p.Words %1 order by c.Name desc, abs(p.ID - 20), p.ID limit 30"_s,
         u"select p.ID, p.Words, count(*) over () as N from Page p order by "
         "(select c.Name from Cust c where c.ID = p.Cust) desc, p.ID"_s,
+        u"select extract(year from date '2024-05-01'), p.ID, count(*) over () as N %1 order by c.Name, p.ID"_s,
         u"with P as (select * from Page) select p.ID, p.Words, count(*) over () as N from P p join Cust c on "
         "c.ID = p.Cust order by c.City, -p.ID"_s};
     for (const QString &pattern : statements) {
         const QString statement = pattern.contains(u"%1"_s) ? pattern.arg(join) : pattern;
         SCOPED_TRACE(qPrintable(statement));
         Result expected = mustRead(statement);
-        std::erase_if(expected.rows, [](const QStringList &row) { return row.at(0) == u"V7"_s; });
+        const auto key =
+            expected.names.indexOf(QRegularExpression(u"^id$"_s, QRegularExpression::CaseInsensitiveOption));
+        std::erase_if(expected.rows, [&](const QStringList &row) { return row.at(key) == u"V7"_s; });
         const Derivation origin = derivationOf(statement);
-        const QString id = origin.written().at(0);
+        const QString id = origin.written().at(key);
         const QString filtered = origin.withCondition(id + u" <> 7"_s);
         const Result actual = mustRead(filtered);
         EXPECT_EQ(actual.names, expected.names) << qPrintable(filtered);
         EXPECT_TRUE(actual.rows == expected.rows) << qPrintable(filtered);
-        const QString chosen = derivationOf(filtered).withFields({derivationOf(filtered).listed().at(0)});
+        const QString chosen = derivationOf(filtered).withFields({derivationOf(filtered).listed().at(key)});
         const Result ids = mustRead(chosen);
         ASSERT_EQ(ids.rows.size(), expected.rows.size());
         for (std::size_t row = 0; row < ids.rows.size(); ++row)
-            EXPECT_EQ(ids.rows[row], expected.rows[row].first(1)) << qPrintable(chosen);
+            EXPECT_EQ(ids.rows[row], QStringList{expected.rows[row].at(key)}) << qPrintable(chosen);
     }
 }
 

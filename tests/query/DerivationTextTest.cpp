@@ -89,6 +89,24 @@ TEST(DerivationText, SqlServerHasNoSortInATable)
                "ORDER BY SortKey1");
 }
 
+// Engines call a field without an alias by its text.
+TEST(DerivationText, AFieldKeepsItsNameInATable)
+{
+    const QString year = u"extract(year from D)"_s;
+    expectText(
+        derive(Engine::MySQL, u"select %1, count(*) from T group by 1 order by max(D)"_s.arg(year),
+               {year, u"count(*)"_s})
+            .withCondition(u"1 = 1"_s),
+        "SELECT `extract(year from D)`,`count(*)` FROM ( select extract(year from D) AS `extract(year "
+        "from D)`, count(*), max(D) AS SortKey1 from T group by 1 ) AS Q WHERE 1 = 1 ORDER BY SortKey1");
+    expectText(
+        derive(Engine::SQLite, u"select A, (select B from U) from T group by A"_s,
+               {u"A"_s, u"(select B from U)"_s})
+            .withCondition(u"A = 1"_s),
+        "SELECT * FROM ( select A, (select B from U) AS [(select B from U)] from T group by A ) AS Q WHERE "
+        "A = 1");
+}
+
 TEST(DerivationText, TopAndDistinctStayInFrontOfChosenFields)
 {
     for (const auto &[words, engine] :
@@ -259,10 +277,10 @@ INSTANTIATE_TEST_SUITE_P(
                  "SELECT * FROM ( (select A from T) union (select B from U) ) AS Q WHERE A = 1 ORDER BY A"},
         OpenCase{"AliasFirst", Engine::SqlServer, u"select A, Twice = Q * 2 from T"_s, u"A|Twice"_s,
                  "SELECT A, Twice = Q * 2 FROM T WHERE (Q * 2) = 1"},
-        OpenCase{"Ties", Engine::SqlServer, u"select top (5) with ties A, B from T order by C desc"_s,
-                 u"A|B"_s,
-                 "SELECT A,B FROM ( select top (5) with ties A, B, C AS SortKey1 from T order by C desc ) AS Q "
-                 "WHERE B = 1 ORDER BY SortKey1 desc"},
+        OpenCase{
+            "Ties", Engine::SqlServer, u"select top (5) with ties A, B from T order by C desc"_s, u"A|B"_s,
+            "SELECT A,B FROM ( select top (5) with ties A, B, C AS SortKey1 from T order by C desc ) AS Q "
+            "WHERE B = 1 ORDER BY SortKey1 desc"},
         OpenCase{"FirstRows", Engine::Oracle, u"select A, B from T order by A fetch first 3 rows with ties"_s,
                  u"A|B"_s,
                  "SELECT * FROM ( select A, B from T order by A fetch first 3 rows with ties ) Q WHERE B = 1 "

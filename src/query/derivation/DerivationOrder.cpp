@@ -45,8 +45,19 @@ QString Derivation::asTable() const
         edits.push_back({m_sql.at(word).start, m_sql.at(word).length, {}});
     if (const QString keys = sortKeys(); !keys.isEmpty())
         edits.push_back({m_sql.at(m_parts.list.end - 1).end(), 0, keys});
+    // An engine calls a field without an alias by its text, which the line breaks change.
+    for (std::size_t i = 0; i < m_itemOfField.size(); ++i) {
+        if (m_itemOfField[i] < 0)
+            continue;
+        const SelectParts::Item &item = m_parts.items[static_cast<std::size_t>(m_itemOfField[i])];
+        const QString &name = m_names.at(static_cast<qsizetype>(i));
+        if (item.alias.isEmpty() && !item.isStar && !name.isEmpty() &&
+            withWordsApart(item.tokens, 0) != textOf(m_sql, item.tokens))
+            edits.push_back(
+                {m_sql.at(item.tokens.end - 1).end(), 0, u" AS "_s + writtenName(m_dialect, name)});
+    }
     // From the back, so that the places in front stay the same.
-    std::ranges::sort(edits, std::ranges::greater(), &Edit::from);
+    std::ranges::stable_sort(edits, std::ranges::greater(), &Edit::from);
     QString inner = withWordsApart(all, 0);
     for (const Edit &edit : edits)
         inner.replace(edit.from - m_sql.at(all.begin).start, edit.length, edit.text);
