@@ -7,10 +7,10 @@
 #include "ado/ValueText.h"
 #include "ado/values/FieldValue.h"
 #include "control/input/record/FieldRules.h"
+#include "control/input/record/KnownValues.h"
 #include "control/input/record/LinesEdit.h"
 #include "control/parts/GridParts.h"
 #include "control/parts/GridTexts.h"
-#include "filter/FilterTexts.h"
 #include "filter/ValueEdit.h"
 #include "filter/conditions/FilterValue.h"
 #include "grid/FlexGrid.h"
@@ -20,11 +20,9 @@
 #include "session/Session.h"
 #include "session/SessionWindow.h"
 #include "session/editing/EditedRecord.h"
-#include "session/records/ForeignValues.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QScopedValueRollback>
-#include <QtCore/QSet>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QToolTip>
 
@@ -40,8 +38,6 @@ namespace {
 constexpr int linesShown = 6;
 constexpr qsizetype longestEdited = 10'000'000; // a text box takes a second or more for longer texts
 constexpr qsizetype longestLine = 60;           // longer texts get several lines even without line breaks
-constexpr qint64 recordsSearched = 20000;       // to list the values that a column has
-constexpr qsizetype mostValues = 200;           // in the list
 
 bool isLongText(ADODB::DataTypeEnum type)
 {
@@ -67,7 +63,10 @@ CellEditor::CellEditor(Session &session, GridParts &parts)
     m_parts.txtEdit->hide();
     // A line edit truncates longer texts, and the truncated text would be saved.
     m_parts.txtEdit->setMaxLength(std::numeric_limits<int>::max());
-    m_parts.txtEdit->setValueReader([this] { return knownValues(); });
+    m_parts.txtEdit->setValueReader([this] {
+        const QString typed = typedText();
+        return knownValues(m_session, m_field, typed == m_before ? QString() : typed);
+    });
     Language::keepTranslated(*m_parts.txtEdit, [this] { m_parts.txtEdit->writeTexts(); });
     m_parts.txtEdit->installEventFilter(this);
     connect(m_parts.txtEdit, &QLineEdit::textChanged, this, &CellEditor::noteTyped);
@@ -240,51 +239,6 @@ void CellEditor::place()
 QString CellEditor::typedText() const
 {
     return m_hasLines ? m_lines.text() : m_parts.txtEdit->text();
-}
-
-// The values of the referenced table, or else the texts in the column. If something was typed, only values
-// that contain it.
-ListedValues CellEditor::knownValues() const
-{
-    const QString typed = typedText();
-    const QString search = typed == m_before ? QString() : typed;
-    const ADODB::Field &field = m_session.result().recordset()->Fields().Item(m_field);
-    ListedValues list;
-    bool hasMore = false;
-    if (auto foreign = foreignValues(m_session, field, search)) {
-        list = {.values = foreign->keys, .shown = foreign->shown};
-        hasMore = foreign->hasMore;
-    } else {
-        list = valuesOfColumn(search);
-        hasMore = list.values.size() > mostValues;
-        list.values = list.values.first(std::min(list.values.size(), mostValues));
-    }
-    if (hasMore)
-        list.end = GridTexts::MoreValuesByTyping;
-    else if (list.values.isEmpty())
-        list.end = search.isEmpty() ? FilterTexts::NoValues() : FilterTexts::NothingFound.arg(search);
-    return list;
-}
-
-// In order. If there are more than are listed, one more.
-ListedValues CellEditor::valuesOfColumn(const QString &search) const
-{
-    const ADODB::Recordset &recordset = *m_session.result().recordset();
-    const qint64 last = std::min(recordset.RecordCount(), recordsSearched);
-    QSet<QString> found;
-    for (qint64 record = 1; record <= last && found.size() <= mostValues; ++record) {
-        const ADODB::DisplayFormat format{.leastDecimals =
-                                              ADODB::RowReader::lostDecimals(recordset, record, m_field)};
-        const QString text = format.applied(recordset.CellText(record, m_field));
-        if (!text.isEmpty() && !text.contains(u'\n') && text.contains(search, Qt::CaseInsensitive))
-            found.insert(text);
-    }
-    QStringList values = found.values();
-    if (fieldClassOf(recordset.Fields().Item(m_field).Type()) == FieldClass::Number)
-        std::ranges::sort(values, {}, [](const QString &number) { return number.toDouble(); });
-    else
-        values.sort();
-    return {.values = values};
 }
 
 std::optional<QString> CellEditor::commit()

@@ -18,7 +18,6 @@ namespace KOVAVSFDataGridLib {
 class GridParts;
 class LinesEdit;
 class Session;
-struct ListedValues;
 
 // The editor for a value of the single-record list: txtEdit, which offers a calendar, yes and no, or the
 // values that the column has, or a multi-line box for long texts and texts with line breaks. Committing
@@ -78,8 +77,6 @@ private:
     void place();
     void noteTyped();
     QString typedText() const;
-    ListedValues knownValues() const;
-    ListedValues valuesOfColumn(const QString &search) const;
     std::optional<QString> commit(Written what);
     // The same for a text. Throws ADODB::Error if it doesn't fit.
     void writeAndClose(Written what);

@@ -11,31 +11,22 @@
 // All that has a box for a tick, with a box that can be seen in any palette.
 namespace KOVAVSFDataGridLib {
 
-class CheckBox : public QCheckBox
+template<typename Button>
+class TickButton : public Button
 {
 public:
-    using QCheckBox::QCheckBox;
+    using Button::Button;
 
 protected:
     void initStyleOption(QStyleOptionButton *option) const override
     {
-        QCheckBox::initStyleOption(option);
+        Button::initStyleOption(option);
         makeBoxVisible(option->palette);
     }
 };
 
-class RadioButton : public QRadioButton
-{
-public:
-    using QRadioButton::QRadioButton;
-
-protected:
-    void initStyleOption(QStyleOptionButton *option) const override
-    {
-        QRadioButton::initStyleOption(option);
-        makeBoxVisible(option->palette);
-    }
-};
+using CheckBox = TickButton<QCheckBox>;
+using RadioButton = TickButton<QRadioButton>;
 
 class Menu : public QMenu
 {

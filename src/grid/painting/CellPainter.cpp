@@ -2,6 +2,7 @@
 
 #include "grid/cells/FlexGridModel.h"
 #include "grid/painting/CellDelegate.h"
+#include "grid/painting/CellSpans.h"
 #include "grid/painting/DelegatesAndSpans.h"
 #include "grid/painting/GlyphBatch.h"
 
@@ -52,21 +53,12 @@ public:
     void paint(const QRegion &dirty, const QBrush &paper);
 
 private:
-    struct Span
-    {
-        int first;
-        int last;
-    };
+    using Span = CellSpans::Span;
 
-    // From the beginning of a row to the end of the same or a later one, at least as high as a text.
-    QRect strip(int firstVisualRow, int &lastVisualRow) const;
     void paintStrip(const QRegion &dirty, const QBrush &paper);
     void paintRows(const QRect &dirty);
     void paintCells(const QRect &dirty);
     void paintLines(const QRect &dirty);
-    Span rowsIn(const QRect &dirty) const;
-    Span columnsIn(const QRect &dirty) const;
-    QRect clipped(QRect dirty) const;
     void enterRow(int visualRow);
     void paintRow(int visualRow, Span columns);
     void paintSelection(int row, std::size_t begin, Span columns);
@@ -82,7 +74,7 @@ private:
     QStyleOptionViewItem m_option; // for the row being painted
     QStyleOptionViewItem m_cell;   // for a cell in it that is not plain
     const QPoint m_offset;
-    const int m_shift;
+    const CellSpans m_spans;
     const QModelIndex m_hover;
     const QModelIndex m_current; // the cell with the focus frame
     QPainter m_painter;
@@ -109,7 +101,7 @@ CellPainter::Frame::Frame(QTableView &view, const FlexGridModel &model, GlyphTab
       m_option(option),
       m_cell(option),
       m_offset(offset),
-      m_shift(shift),
+      m_spans(view, shift),
       m_hover(hover),
       m_current(view.hasFocus() || view.viewport()->hasFocus() ? view.currentIndex() : QModelIndex()),
       m_painter(view.viewport()),
@@ -123,8 +115,8 @@ CellPainter::Frame::Frame(QTableView &view, const FlexGridModel &model, GlyphTab
     const QRect all = part.translated(offset);
     if (shift != 0)
         m_painter.setClipRect(part);
-    const Span rows = rowsIn(all);
-    const Span columns = columnsIn(all);
+    const Span rows = m_spans.rowsIn(all);
+    const Span columns = m_spans.columnsIn(all);
     m_firstRow = rows.first;
     m_lastRow = rows.last;
     m_firstColumn = columns.first;
@@ -146,8 +138,10 @@ void CellPainter::Frame::paint(const QRegion &dirty, const QBrush &paper)
 {
     const bool hasCells = !m_columns.empty() && m_lastRow >= m_firstRow;
     QRegion rest = dirty;
-    for (int row = m_firstRow; hasCells && row <= m_lastRow; ++row) {
-        const QRect area = strip(row, row);
+    for (int row = m_firstRow; hasCells && row <= m_lastRow;) {
+        const Span strip = m_spans.strip({row, m_lastRow}, m_glyphs.height());
+        const QRect area = m_spans.rectOf(strip).translated(0, m_offset.y());
+        row = strip.last + 1;
         paintStrip(dirty & area, paper);
         rest -= area;
         m_textsBefore.draw(m_painter, m_glyphs);
@@ -155,19 +149,6 @@ void CellPainter::Frame::paint(const QRegion &dirty, const QBrush &paper)
     }
     fill(m_painter, rest, paper);
     m_textsBefore.draw(m_painter, m_glyphs);
-}
-
-QRect CellPainter::Frame::strip(int firstVisualRow, int &lastVisualRow) const
-{
-    const auto rowAt = [this](int visualRow) { return m_view.verticalHeader()->logicalIndex(visualRow); };
-    const auto end = [&](int visualRow) {
-        return m_view.rowViewportPosition(rowAt(visualRow)) + m_view.rowHeight(rowAt(visualRow));
-    };
-    const int top = m_view.rowViewportPosition(rowAt(firstVisualRow));
-    lastVisualRow = firstVisualRow;
-    while (lastVisualRow < m_lastRow && end(lastVisualRow) - top < m_glyphs.height())
-        ++lastVisualRow;
-    return {0, top + m_offset.y(), m_view.viewport()->width(), end(lastVisualRow) - top};
 }
 
 // Each step for all rectangles before the next: a cell that intersects several is painted with the first one.
@@ -182,38 +163,6 @@ void CellPainter::Frame::paintStrip(const QRegion &dirty, const QBrush &paper)
         paintLines(area);
 }
 
-CellPainter::Frame::Span CellPainter::Frame::rowsIn(const QRect &dirty) const
-{
-    const QHeaderView &header = *m_view.verticalHeader();
-    const int first = header.visualIndexAt(dirty.top());
-    const int last = header.visualIndexAt(dirty.bottom());
-    return {first, first < 0 ? -2 : last < 0 ? header.count() - 1 : last};
-}
-
-CellPainter::Frame::Span CellPainter::Frame::columnsIn(const QRect &dirty) const
-{
-    const QHeaderView &header = *m_view.horizontalHeader();
-    int first = header.visualIndexAt(dirty.left() - m_shift);
-    int last = header.visualIndexAt(dirty.right() - m_shift);
-    if (m_view.isRightToLeft())
-        std::swap(first, last);
-    return {std::max(first, 0), last < 0 ? header.count() - 1 : last};
-}
-
-// Limited to the area that has cells.
-QRect CellPainter::Frame::clipped(QRect dirty) const
-{
-    const QHeaderView &columns = *m_view.horizontalHeader();
-    const QHeaderView &rows = *m_view.verticalHeader();
-    const int width = columns.length() - columns.offset();
-    dirty.setBottom(std::min(dirty.bottom(), rows.length() - rows.offset() - 1));
-    if (m_view.isRightToLeft())
-        dirty.setLeft(std::max(dirty.left(), m_view.viewport()->width() - width));
-    else
-        dirty.setRight(std::min(dirty.right(), width + m_shift - 1));
-    return dirty;
-}
-
 void CellPainter::Frame::enterRow(int visualRow)
 {
     const int row = m_view.verticalHeader()->logicalIndex(visualRow);
@@ -225,10 +174,10 @@ void CellPainter::Frame::enterRow(int visualRow)
 
 void CellPainter::Frame::paintRows(const QRect &dirty)
 {
-    const QRect area = clipped(dirty);
+    const QRect area = m_spans.clipped(dirty);
     if (!area.isValid())
         return;
-    const Span rows = rowsIn(area);
+    const Span rows = m_spans.rowsIn(area);
     for (int visualRow = rows.first; visualRow <= rows.last; ++visualRow) {
         enterRow(visualRow);
         m_option.rect.setLeft(area.left());
@@ -239,11 +188,11 @@ void CellPainter::Frame::paintRows(const QRect &dirty)
 
 void CellPainter::Frame::paintCells(const QRect &dirty)
 {
-    const QRect area = clipped(dirty);
+    const QRect area = m_spans.clipped(dirty);
     if (!area.isValid())
         return;
-    const Span rows = rowsIn(area);
-    const Span columns = columnsIn(area);
+    const Span rows = m_spans.rowsIn(area);
+    const Span columns = m_spans.columnsIn(area);
     for (int visualRow = rows.first; visualRow <= rows.last; ++visualRow)
         paintRow(visualRow, columns);
 }
@@ -363,7 +312,7 @@ bool CellPainter::Frame::isSelected(int row, int section) const
 
 void CellPainter::Frame::paintLines(const QRect &dirty)
 {
-    const QRect area = clipped(dirty);
+    const QRect area = m_spans.clipped(dirty);
     if (!m_view.showGrid() || !area.isValid())
         return;
     const int hint = m_view.style()->styleHint(QStyle::SH_Table_GridLineColor, &m_option, &m_view);
@@ -376,13 +325,13 @@ void CellPainter::Frame::paintLines(const QRect &dirty)
         m_painter.setPen(pen);
         m_painter.drawLine(line.topLeft(), line.bottomRight());
     };
-    const Span rows = rowsIn(area);
+    const Span rows = m_spans.rowsIn(area);
     for (int visual = rows.first; visual <= rows.last; ++visual) {
         const int row = m_view.verticalHeader()->logicalIndex(visual);
         const int y = m_view.rowViewportPosition(row) + m_offset.y() + m_view.rowHeight(row) - m_gridSize;
         paintLine({area.left(), y, area.width(), m_gridSize}, area.left());
     }
-    const Span columns = columnsIn(area);
+    const Span columns = m_spans.columnsIn(area);
     for (int visual = columns.first; visual <= columns.last; ++visual) {
         const Column &column = m_columns[static_cast<std::size_t>(visual - m_firstColumn)];
         const int x = m_view.isRightToLeft() ? column.left - m_gridSize : column.left + column.width;

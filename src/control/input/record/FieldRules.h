@@ -20,13 +20,19 @@ inline bool isRequired(const ADODB::Field &field)
 }
 
 // Yes and No for a Boolean, as in the filter; the decimals of the field for a number, as in the grid. `field`
-// is from 0, of the current record.
-inline ADODB::DisplayFormat shownFormat(const ADODB::Recordset &recordset, int field)
+// is from 0.
+inline ADODB::DisplayFormat shownFormat(const ADODB::Recordset &recordset, qint64 record, int field)
 {
     using ADODB::DisplayFormat;
     if (recordset.Fields().Item(field).Type() == ADODB::adBoolean)
         return {.truth = DisplayFormat::Truth::YesNo};
-    return {.leastDecimals = ADODB::RowReader::lostDecimals(recordset, recordset.AbsolutePosition(), field)};
+    return {.leastDecimals = ADODB::RowReader::lostDecimals(recordset, record, field)};
+}
+
+// Of the current record.
+inline ADODB::DisplayFormat shownFormat(const ADODB::Recordset &recordset, int field)
+{
+    return shownFormat(recordset, recordset.AbsolutePosition(), field);
 }
 
 inline QString shownText(const ADODB::Recordset &recordset, int field)
