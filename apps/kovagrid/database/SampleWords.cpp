@@ -4,7 +4,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const SampleWords chinese{
+const SampleWords chineseWords{
     .fileName = u"sample.db"_s,
     .schema = u":/sample.sql"_s,
     .customers = u"客户"_s,
@@ -52,7 +52,7 @@ const SampleWords chinese{
         },
 };
 
-const SampleWords english{
+const SampleWords englishWords{
     .fileName = u"sample-en.db"_s,
     .schema = u":/sample-en.sql"_s,
     .customers = u"customers"_s,
@@ -109,5 +109,5 @@ const SampleWords english{
 
 const SampleWords &SampleWords::inLanguage(const QString &language)
 {
-    return language == u"en" ? english : chinese;
+    return language == u"en" ? englishWords : chineseWords;
 }
