@@ -97,7 +97,11 @@ endforeach()
 install(DIRECTORY ${docs}/images/users DESTINATION ${user_dir}/images COMPONENT runtime)
 file(GLOB pages CONFIGURE_DEPENDS ${docs}/*.md)
 set(dev_dir ${doc_dir}/${CPACK_DEBIAN_DEV_PACKAGE_NAME})
+# The release notes under the name that documents link to, and under the one that Debian looks for.
 install(FILES ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${dev_dir} COMPONENT dev)
+set(changelog ${PROJECT_BINARY_DIR}/packages/dev/changelog)
+configure_file(${PROJECT_SOURCE_DIR}/CHANGELOG.md ${changelog} COPYONLY)
+kova_install_compressed(${changelog} ${dev_dir} dev)
 install(FILES ${pages} DESTINATION ${dev_dir}/docs COMPONENT dev)
 install(DIRECTORY ${docs}/images DESTINATION ${dev_dir}/docs COMPONENT dev)
 if(TARGET docs) # the preset builds it

@@ -159,15 +159,17 @@ function(kova_quick_compile target)
 endfunction()
 
 # kova_test(<name> SOURCES <files> ROOMS <rooms> LINKS <libraries> [RUN_BY <command>] [COST <seconds>] [MOC]
-#           [ALONE <files>])
+#           [ALONE <files>] [SPLIT <part>=<tests>...])
 #
 # One test program, one ctest entry, one process. ROOMS and those they rest on are compiled in directly, so that a room's
 # inner classes can be tested although the library hides them; tests of the control link the library. RUN_BY
 # is put before the program, to start what it needs. COST: of a test of more than half a minute; ctest starts the longest
 # first, so that none runs alone at the end. MOC: some of the sources have Q_OBJECT; for all others, scanning
 # them and compiling the empty outcome would cost more than a test. ALONE: sources with names that others define too.
+# SPLIT: a long program has an entry <name>_<part> for each part, with the tests that this pattern of GoogleTest names, so
+# that the parts run side by side; the entry <name> runs all other tests.
 function(kova_test name)
-  cmake_parse_arguments(TEST "MOC" "TIMEOUT;COST" "SOURCES;ROOMS;LINKS;LABELS;RUN_BY;ALONE" ${ARGN})
+  cmake_parse_arguments(TEST "MOC" "TIMEOUT;COST" "SOURCES;ROOMS;LINKS;LABELS;RUN_BY;ALONE;SPLIT" ${ARGN})
   kova_program(${name} SOURCES ${TEST_SOURCES} ROOMS ${TEST_ROOMS} LINKS ${TEST_LINKS} kova_test_main)
   set_target_properties(${name} PROPERTIES AUTOMOC ${TEST_MOC})
   kova_precompile(${name} tests)
@@ -179,12 +181,25 @@ function(kova_test name)
   if(KOVA_SANITIZE)
     math(EXPR TEST_TIMEOUT "4 * ${TEST_TIMEOUT}") # which makes everything slower
   endif()
-  add_test(NAME ${name} COMMAND ${TEST_RUN_BY} $<TARGET_FILE:${name}>)
-  set_tests_properties(${name} PROPERTIES TIMEOUT ${TEST_TIMEOUT} LABELS "${TEST_LABELS}"
+  set(entries ${name})
+  set(others "")
+  foreach(part IN LISTS TEST_SPLIT)
+    string(REGEX MATCH "^([a-z_]+)=(.+)$" matches ${part})
+    set(entry ${name}_${CMAKE_MATCH_1})
+    add_test(NAME ${entry} COMMAND ${TEST_RUN_BY} $<TARGET_FILE:${name}> --gtest_filter=${CMAKE_MATCH_2})
+    list(APPEND entries ${entry})
+    list(APPEND others ${CMAKE_MATCH_2})
+  endforeach()
+  if(others)
+    list(JOIN others ":" others)
+    set(others --gtest_filter=-${others})
+  endif()
+  add_test(NAME ${name} COMMAND ${TEST_RUN_BY} $<TARGET_FILE:${name}> ${others})
+  set_tests_properties(${entries} PROPERTIES TIMEOUT ${TEST_TIMEOUT} LABELS "${TEST_LABELS}"
     ENVIRONMENT "LC_ALL=C.UTF-8"
     SKIP_REGULAR_EXPRESSION "ALL TESTS SKIPPED")
   if(TEST_COST)
-    set_tests_properties(${name} PROPERTIES COST ${TEST_COST})
+    set_tests_properties(${entries} PROPERTIES COST ${TEST_COST})
   endif()
 endfunction()
 

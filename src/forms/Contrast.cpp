@@ -5,6 +5,7 @@
 #include <QtWidgets/QWidget>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace KOVAVSFDataGridLib {
@@ -96,19 +97,25 @@ void makeBoxVisible(QPalette &palette)
     // part of their contrast.
     constexpr double wanted = leastPictureContrast * 1.5;
     const QColor window = palette.color(QPalette::Window);
+    const QColor base = palette.color(QPalette::Base);
+    const QColor text = palette.color(QPalette::WindowText);
+    // Every box of every repaint asks, nearly always for the same colours.
+    static std::array<QColor, 4> last; // these three, and what was found for them
+    if (last[0] == window && last[1] == base && last[2] == text)
+        return palette.setColor(QPalette::Window, last[3]);
     const auto visibility = [&](const QColor &candidate) {
-        return std::min(visibilityOfBoxes(candidate, window),
-                        visibilityOfBoxes(candidate, palette.color(QPalette::Base)));
+        return std::min(visibilityOfBoxes(candidate, window), visibilityOfBoxes(candidate, base));
     };
     QColor best = window;
     // The palest that will do. Where even the text's colour doesn't, its opposite does.
-    for (const QColor end : {palette.color(QPalette::WindowText), QColor(Qt::black), QColor(Qt::white)}) {
+    for (const QColor end : {text, QColor(Qt::black), QColor(Qt::white)}) {
         for (int percent = 0; percent <= 100 && visibility(best) < wanted; percent += 4) {
             if (const QColor mixed = blended(end, window, percent / 100.0);
                 visibility(mixed) > visibility(best))
                 best = mixed;
         }
     }
+    last = {window, base, text, best};
     palette.setColor(QPalette::Window, best);
 }
 

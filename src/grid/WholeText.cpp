@@ -72,6 +72,11 @@ QString wholeTextTip(const QString &text, const QWidget &widget)
     return asTip(text.first(fits) + u'…');
 }
 
+QString uncutTextTip(const QString &text)
+{
+    return text.isEmpty() ? QString() : asTip(text);
+}
+
 void showWholeText(const QString &text, const QPoint &place, QWidget &widget, const QRect &area)
 {
     QToolTip::showText(place, wholeTextTip(text, widget), &widget, area);

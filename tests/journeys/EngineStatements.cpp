@@ -39,31 +39,39 @@ void EngineStatements::createTables()
     const QStringList odd = oddNames();
     const QStringList types{u"INTEGER PRIMARY KEY"_s, u"VARCHAR(20)"_s, u"INTEGER"_s};
     QStringList columns;
-    QStringList rows{u"(1,'anna',5"_s, u"(2,'bob',NULL"_s, u"(3,'zoe',2"_s};
-    for (qsizetype i = 0; i < odd.size(); ++i) {
+    for (qsizetype i = 0; i < odd.size(); ++i)
         columns.append(odd.at(i) + u' ' + types.value(i, u"VARCHAR(20)"_s));
-        for (qsizetype row = 0; i >= types.size() && row < rows.size(); ++row)
-            rows[row] += row == 1 ? u",NULL"_s : u",'text %1'"_s.arg(i * (row + 1));
-    }
     const QString collation =
         engine.isMariaDb() ? u" CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin"_s : QString();
     database->run(
         {u"DROP VIEW IF EXISTS AllCust"_s, u"DROP TABLE IF EXISTS Item"_s, u"DROP TABLE IF EXISTS Ord"_s,
          u"DROP TABLE IF EXISTS Cust"_s, u"DROP TABLE IF EXISTS 客户"_s, u"DROP TABLE IF EXISTS Odd"_s,
          u"CREATE TABLE Odd("_s + columns.join(u',') + u')' + collation,
-         u"INSERT INTO Odd VALUES "_s + rows.join("),"_L1) + u')',
          u"CREATE TABLE Cust(ID INTEGER PRIMARY KEY, Name VARCHAR(40), City VARCHAR(40))"_s + collation,
-         u"INSERT INTO Cust VALUES (1,'anna','B'),(2,'bob','A'),(3,'cid','B'),(4,'b order by c','A')"_s,
          u"CREATE VIEW AllCust AS SELECT ID, Name, City FROM Cust"_s,
          u"CREATE TABLE Ord(ID INTEGER PRIMARY KEY, Name VARCHAR(40), Qty INTEGER, Price DECIMAL(8,2), "
          "Cust INTEGER)"_s +
              collation,
+         u"CREATE TABLE Item(Ord INTEGER, Item VARCHAR(40), N INTEGER)"_s + collation,
+         u"CREATE TABLE 客户(名称 VARCHAR(20), 城市 VARCHAR(20))"_s + collation});
+    fillTables();
+}
+
+void EngineStatements::fillTables()
+{
+    QStringList rows{u"(1,'anna',5"_s, u"(2,'bob',NULL"_s, u"(3,'zoe',2"_s};
+    for (qsizetype field = 3; field < oddNames().size(); ++field) {
+        for (qsizetype row = 0; row < rows.size(); ++row)
+            rows[row] += row == 1 ? u",NULL"_s : u",'text %1'"_s.arg(field * (row + 1));
+    }
+    database->run(
+        {u"DELETE FROM Odd"_s, u"DELETE FROM Cust"_s, u"DELETE FROM Ord"_s, u"DELETE FROM Item"_s,
+         u"DELETE FROM 客户"_s, u"INSERT INTO Odd VALUES "_s + rows.join("),"_L1) + u')',
+         u"INSERT INTO Cust VALUES (1,'anna','B'),(2,'bob','A'),(3,'cid','B'),(4,'b order by c','A')"_s,
          u"INSERT INTO Ord VALUES (1,'bob',5,1.5,1),(2,'anna',2,2.25,2),(3,'zoe',1,9,1),"
          "(4,'a order by b',3,4,3),(5,'x where y',2,0.5,2),(6,' FROM x',NULL,3,1),(7,'anna',4,2.25,3),"
          "(8,NULL,1,8,4)"_s,
-         u"CREATE TABLE Item(Ord INTEGER, Item VARCHAR(40), N INTEGER)"_s + collation,
          u"INSERT INTO Item VALUES (1,'tea',3),(1,'cup',0),(2,'tea',1),(3,'pot',2),(7,'jug',5),(7,'tea',4)"_s,
-         u"CREATE TABLE 客户(名称 VARCHAR(20), 城市 VARCHAR(20))"_s + collation,
          u"INSERT INTO 客户 VALUES ('甲','北京'),('乙','上海'),('丙',''),('丁','北京')"_s});
 }
 

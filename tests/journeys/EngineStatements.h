@@ -34,6 +34,8 @@ class EngineStatements : public EngineTest
 protected:
     void SetUp() override;
     void createTables();
+    // With their first records. After a change this is enough, and cheaper than to create the tables again.
+    void fillTables();
 
     // Those of the files, and some for the engine's own quotes.
     std::vector<Case> cases() const;

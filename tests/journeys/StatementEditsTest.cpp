@@ -79,7 +79,7 @@ TEST_P(EngineStatementEdits, AValueIsChangedInOneRecordAndShown)
             EXPECT_EQ(countOf(QString::fromLatin1(NewText)), 1) << qUtf8Printable(hands->statement());
             EXPECT_EQ(hands->texts(field).first(), QString::fromLatin1(NewText));
             ++changed;
-            createTables();
+            fillTables();
             break;
         }
         hands->messages.clear();
@@ -128,7 +128,7 @@ TEST_P(EngineStatementEdits, ARecordIsAddedAndShownOrRefused)
             EXPECT_TRUE(last.contains(QString::fromLatin1(isText ? NewText : NewNumber)))
                 << qUtf8Printable(last.join(u'|'));
             ++added;
-            createTables();
+            fillTables();
         } else if (hands->isSingleRecordShown()) {
             giveUp();
         }

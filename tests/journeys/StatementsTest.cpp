@@ -281,7 +281,7 @@ TEST_P(StatementsOnEngines, RecordsCanBeDeletedFromWhatIsFilteredAndSorted)
         EXPECT_EQ(hands->rows(), static_cast<int>(kept.rows.size()) - 1);
         EXPECT_EQ(recordsInTables(), before - 1) << qUtf8Printable(hands->statement());
         ++deleted;
-        createTables();
+        fillTables();
     });
     std::printf("%s: records of %d statements deleted\n", engine.name, deleted);
     EXPECT_GE(deleted, engine.isWritable() ? 10 : 0);

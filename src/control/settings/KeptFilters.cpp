@@ -62,7 +62,8 @@ bool readSqlWanted()
 
 void saveSqlWanted(bool isWanted)
 {
-    QSettings(settingsName, settingsName).setValue(sqlKey, isWanted);
+    if (readSqlWanted() != isWanted) // which seldom changes; the file is written each time
+        QSettings(settingsName, settingsName).setValue(sqlKey, isWanted);
 }
 
 QStringList readSearchedWords()

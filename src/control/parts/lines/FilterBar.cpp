@@ -5,6 +5,7 @@
 #include "language/Language.h"
 
 #include <QtGui/QAction>
+#include <QtGui/QHelpEvent>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QToolButton>
@@ -61,8 +62,9 @@ QToolButton *FilterBar::makeButton(int condition)
     button->setObjectName(u"Condition%1"_s.arg(condition + 1));
     button->setFocusPolicy(Qt::StrongFocus);
     const QString words = GridTexts::RemoveCondition.arg(m_conditions.at(condition));
-    button->setToolTip(wholeTextTip(words, *this));
+    button->setToolTip(uncutTextTip(words));
     button->setAccessibleName(words);
+    button->installEventFilter(this);
     connect(button, &QToolButton::clicked, this, [this, condition] { Q_EMIT removeWanted(condition); });
     return button;
 }
@@ -125,6 +127,15 @@ void FilterBar::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         layOut();
+}
+
+bool FilterBar::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::eventFilter(watched, event);
+    auto &button = *static_cast<QToolButton *>(watched);
+    showWholeText(button.accessibleName(), static_cast<QHelpEvent *>(event)->globalPos(), button, {});
+    return true;
 }
 
 // The delete keys work here too; the arrow keys move between the conditions.

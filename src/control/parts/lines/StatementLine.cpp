@@ -7,6 +7,7 @@
 #include <QtGui/QAction>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QHelpEvent>
 #include <QtGui/QKeyEvent>
 
 #include <algorithm>
@@ -33,7 +34,7 @@ void StatementLine::show(const QStringList &places, const QString &statement)
 {
     // The place changes with every record.
     if (statement != m_statement)
-        setToolTip(wholeTextTip(statement, *this));
+        setToolTip(uncutTextTip(statement));
     m_statement = statement;
     m_places = statement.isEmpty() ? QStringList() : places;
     setText(statement.isEmpty() ? QString() : place() + GridTexts::BeforeStatement + statement.simplified());
@@ -65,6 +66,10 @@ bool StatementLine::event(QEvent *event)
     if (event->type() == QEvent::ShortcutOverride &&
         static_cast<QKeyEvent *>(event)->matches(QKeySequence::Copy)) {
         event->accept();
+        return true;
+    }
+    if (event->type() == QEvent::ToolTip && !m_statement.isEmpty()) {
+        showWholeText(m_statement, static_cast<QHelpEvent *>(event)->globalPos(), *this, {});
         return true;
     }
     return ElidedLabel::event(event);
