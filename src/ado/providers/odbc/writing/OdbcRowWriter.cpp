@@ -8,6 +8,7 @@
 #include "ado/providers/odbc/OdbcWatch.h"
 #include "ado/providers/odbc/reading/OdbcQuery.h"
 #include "ado/providers/odbc/writing/OdbcParameters.h"
+#include "ado/providers/odbc/writing/OdbcTable.h"
 #include "ado/providers/odbc/writing/OdbcTransaction.h"
 #include "ado/rows/RowComparison.h"
 #include "ado/rows/RowStore.h"
@@ -160,6 +161,15 @@ void OdbcRowWriter::readRows(const Key &key, Lock lock, RowStore &rows) const
     reading.read(rows, timeout());
 }
 
+void OdbcRowWriter::needTransactions() const
+{
+    const OdbcEngine &engine = m_session->engine();
+    if (engine.hasOldTables && m_target.hasTransactions &&
+        !OdbcTable::isTransactional(m_session->connection(), engine, m_target.fullName, m_target.table,
+                                    timeout()))
+        throw Error(dbErrConcurrency, Texts::tableAltered(), source(), u"01001"_s);
+}
+
 void OdbcRowWriter::needRowAsShown(const std::vector<RawValue> &row, const Key &key, RowStore &found) const
 {
     readRows(key, Lock::Row, found);
@@ -283,6 +293,7 @@ void OdbcRowWriter::insertRow(const std::vector<Change> &changes, const QString 
 {
     const OdbcEngine &engine = m_session->engine();
     OdbcTransaction transaction(*m_session, limitOfLocks());
+    needTransactions();
     QStringList names;
     QStringList places;
     for (const Change &change : changes) {
@@ -316,6 +327,7 @@ void OdbcRowWriter::update(const std::vector<RawValue> &row, const std::vector<C
                            RowStore &stored)
 {
     OdbcTransaction transaction(*m_session, limitOfLocks());
+    needTransactions();
     const Key before = keyOf(row);
     RowStore found(stored.columns());
     needRowAsShown(row, before, found);
@@ -379,6 +391,7 @@ void OdbcRowWriter::updateAndFind(const QString &sql, const std::vector<Change> 
 void OdbcRowWriter::remove(const std::vector<RawValue> &row)
 {
     OdbcTransaction transaction(*m_session, limitOfLocks());
+    needTransactions();
     const Key key = keyOf(row);
     RowStore found(static_cast<int>(row.size()));
     needRowAsShown(row, key, found);

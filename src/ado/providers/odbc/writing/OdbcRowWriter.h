@@ -50,6 +50,9 @@ private:
     // Reads all rows with that key.
     enum class Lock { None, Row };
     void readRows(const Key &key, Lock lock, RowStore &rows) const;
+    // Throws if somebody has made the table one whose changes can't be undone, and keeps it as it is until
+    // the transaction ends.
+    void needTransactions() const;
     // Throws unless the row exists and is unchanged since it was shown. Locks it if the engine can.
     void needRowAsShown(const std::vector<RawValue> &row, const Key &key, RowStore &found) const;
     // The condition by which a statement that changes the row finds it, and its parameters.
