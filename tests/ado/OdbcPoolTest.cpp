@@ -180,6 +180,32 @@ TEST_P(OdbcPools, SeeThatATableHasOtherColumnsOrAnotherKey)
     EXPECT_EQ(ask(u"SELECT name FROM kova_a WHERE more = 8"_s), u"other"_s);
 }
 
+TEST_P(OdbcPools, SeeThatTheKeyThatIsNotShownHasAnotherName)
+{
+    makeTable();
+    const auto connection = connect();
+    EXPECT_EQ(open(u"SELECT name FROM kova_a"_s, connection)->RecordCount(), 2);
+    execute(u"ALTER TABLE kova_a RENAME COLUMN id TO number"_s);
+    const auto recordset = open(u"SELECT name FROM kova_a ORDER BY name"_s, connection);
+    recordset->Fields().Item(0).PutValue(u"mine"_s);
+    recordset->Update();
+    EXPECT_EQ(ask(u"SELECT name FROM kova_a WHERE number = 1"_s), u"mine"_s);
+}
+
+TEST_P(OdbcPools, SeeThatATableIsAViewNow)
+{
+    makeTable();
+    execute(u"ALTER TABLE kova_a RENAME TO kova_v"_s);
+    const auto connection = connect();
+    EXPECT_EQ(open(u"SELECT * FROM kova_v"_s, connection)->RecordCount(), 2);
+    execute(u"ALTER TABLE kova_v RENAME TO kova_a"_s);
+    execute(u"CREATE VIEW kova_v AS SELECT * FROM kova_a"_s);
+    const auto recordset = open(u"SELECT * FROM kova_v ORDER BY id"_s, connection);
+    EXPECT_EQ(recordset->RecordCount(), 2);
+    EXPECT_THROW(recordset->Delete(), Error);
+    EXPECT_EQ(ask(u"SELECT count(*) FROM kova_a"_s), u"2"_s);
+}
+
 class PostgreSqlPlans : public AdoTest::OnOdbc
 {
 protected:

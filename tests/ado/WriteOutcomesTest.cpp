@@ -189,6 +189,36 @@ TEST_P(WritesOnMariaDb, LeaveTablesWithoutTransactionsAndKeyAlone)
     }
 }
 
+// "Nothing was saved" would not be true of it.
+TEST_P(WritesOnMariaDb, SeeThatATableHasNoTransactionsAnyMore)
+{
+    const QString all = u"SELECT * FROM kova_b ORDER BY a"_s;
+    execute(u"CREATE TABLE kova_b(a INTEGER, b VARCHAR(10)) ENGINE=InnoDB"_s);
+    execute(u"INSERT INTO kova_b VALUES (1, 'x'), (2, 'x')"_s);
+    const auto connection = connect();
+    auto recordset = open(all, connection);
+    execute(u"ALTER TABLE kova_b ENGINE=MyISAM"_s);
+    put(*recordset, u"a"_s, 2);
+    const Error error = errorOf([&] { recordset->Update(); });
+    EXPECT_TRUE(error.is(dbErrConcurrency)) << error.what();
+    EXPECT_TRUE(error.Description().contains(u"表的结构已被其他程序更改"_s)) << error.what();
+    recordset->CancelUpdate();
+    EXPECT_ADO_ERROR(dbErrConcurrency, recordset->Delete());
+    recordset->AddNew();
+    put(*recordset, u"a"_s, 3);
+    EXPECT_ADO_ERROR(dbErrConcurrency, recordset->Update());
+    recordset->CancelUpdate();
+    EXPECT_EQ(ask(u"SELECT group_concat(a ORDER BY a) FROM kova_b"_s), u"1,2"_s);
+
+    recordset = open(all, connection);
+    EXPECT_ADO_ERROR(adErrFeatureNotAvailable, put(*recordset, u"a"_s, 2));
+    execute(u"ALTER TABLE kova_b ENGINE=InnoDB"_s);
+    recordset = open(all, connection);
+    put(*recordset, u"a"_s, 3);
+    recordset->Update();
+    EXPECT_EQ(ask(u"SELECT group_concat(a ORDER BY a) FROM kova_b"_s), u"2,3"_s);
+}
+
 TEST_P(WritesOnMariaDb, WriteTablesWithoutTransactionsByTheirKey)
 {
     makeTable(u" ENGINE=MyISAM"_s);

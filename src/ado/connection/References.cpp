@@ -8,7 +8,7 @@ namespace ADODB {
 
 std::optional<TableColumn> referenceOf(const Connection &connection, const TableColumn &column)
 {
-    // A copy, because the host may close the connection during the wait.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the host may close it during the wait.
     const std::shared_ptr<Session> session = connection.session();
     Watched watched;
     return session->reference(column, [&] { return watched.shouldContinue(); });

@@ -8,7 +8,7 @@ namespace ADODB {
 
 QStringList filledColumns(const Connection &connection, const TableColumn &table)
 {
-    // A copy, because whoever watches the wait can let the host close the connection.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the host may close it during the wait.
     const std::shared_ptr<Session> session = connection.session();
     Watched watched;
     return session->filledColumns(table, [&] { return watched.shouldContinue(); });

@@ -25,7 +25,7 @@ constexpr Wide limit = [] {
 
 constexpr auto powersOfTen = [] {
     std::array<double, shownDigits + 1> powers{1};
-    for (std::size_t i = 1; i < powers.size(); ++i)
+    for (std::size_t i = 1; i <= shownDigits; ++i)
         powers[i] = powers[i - 1] * 10;
     return powers;
 }();

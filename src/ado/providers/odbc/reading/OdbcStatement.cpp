@@ -134,6 +134,7 @@ QString OdbcStatement::prepareLikely(const SqlScanner &scanner, int timeout)
             !OdbcReading::renew(m_connection, m_session->engine()))
             throw;
     }
+    OdbcTarget::forget(m_connection, scanner);
     return {};
 }
 

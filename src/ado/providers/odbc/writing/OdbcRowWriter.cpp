@@ -8,6 +8,7 @@
 #include "ado/providers/odbc/OdbcWatch.h"
 #include "ado/providers/odbc/reading/OdbcQuery.h"
 #include "ado/providers/odbc/writing/OdbcParameters.h"
+#include "ado/providers/odbc/writing/OdbcTable.h"
 #include "ado/providers/odbc/writing/OdbcTransaction.h"
 #include "ado/rows/RowComparison.h"
 #include "ado/rows/RowStore.h"
@@ -108,6 +109,15 @@ qint64 OdbcRowWriter::change(const OdbcHandle &statement) const
     SQLLEN changed = 0;
     statement.check(SQLRowCount(statement.get(), &changed));
     return changed;
+}
+
+void OdbcRowWriter::needTransactions() const
+{
+    const OdbcEngine &engine = m_session->engine();
+    if (engine.hasOldTables && hasTransactions() &&
+        !OdbcTable::isTransactional(m_session->connection(), engine, target().fullName, target().table,
+                                    timeout()))
+        throw Error(dbErrConcurrency, Texts::tableAltered(), source(), u"01001"_s);
 }
 
 qint64 OdbcRowWriter::changeRow(const QString &sql, const std::vector<Change> &changes,
@@ -211,6 +221,7 @@ void OdbcRowWriter::insertRow(const std::vector<Change> &changes, const QString 
 {
     const OdbcEngine &engine = m_session->engine();
     OdbcTransaction transaction(*m_session, limitOfLocks());
+    needTransactions();
     QStringList names;
     QStringList places;
     for (const Change &change : changes) {
@@ -244,6 +255,7 @@ void OdbcRowWriter::update(const std::vector<RawValue> &row, const std::vector<C
                            RowStore &stored)
 {
     OdbcTransaction transaction(*m_session, limitOfLocks());
+    needTransactions();
     const Key before = m_row.keyOf(row);
     RowStore found(stored.columns());
     m_row.needRowAsShown(row, before, found);
@@ -307,6 +319,7 @@ void OdbcRowWriter::updateAndFind(const QString &sql, const std::vector<Change> 
 void OdbcRowWriter::remove(const std::vector<RawValue> &row)
 {
     OdbcTransaction transaction(*m_session, limitOfLocks());
+    needTransactions();
     const Key key = m_row.keyOf(row);
     RowStore found(static_cast<int>(row.size()));
     m_row.needRowAsShown(row, key, found);

@@ -44,6 +44,9 @@ private:
     QString limitOfLocks() const;
     // Runs the statement and returns how many rows it changed.
     qint64 change(const OdbcHandle &statement) const;
+    // Throws if somebody has made the table one whose changes can't be undone, and keeps it as it is until
+    // the transaction ends.
+    void needTransactions() const;
     // Runs a statement that changes `row`, with a condition on it.
     qint64 changeRow(const QString &sql, const std::vector<Change> &changes, const std::vector<RawValue> &row,
                      const Key &key) const;

@@ -4,10 +4,11 @@
 #include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcEngine.h"
 #include "ado/providers/odbc/OdbcHandle.h"
-#include "ado/providers/odbc/reading/OdbcCatalogueAnswers.h"
 #include "ado/providers/odbc/reading/OdbcDescription.h"
+#include "ado/providers/odbc/reading/OdbcQuery.h"
 #include "ado/providers/odbc/reading/OdbcReading.h"
 #include "ado/providers/odbc/writing/OdbcParameters.h"
+#include "ado/rows/RowStore.h"
 #include "sql/select/SimpleSelect.h"
 
 #include <algorithm>
@@ -18,8 +19,8 @@ namespace ADODB {
 
 namespace {
 
-OdbcTableName fullName(const OdbcTableFields &all, const OdbcConnection &connection,
-                       const SimpleSelect &select)
+OdbcTableName fullNameOf(const OdbcTableFields &all, const OdbcConnection &connection,
+                         const SimpleSelect &select)
 {
     OdbcTableName name{all.catalog, all.schema, all.fields.front().baseTable};
     if (name.table.isEmpty()) {
@@ -59,24 +60,6 @@ QString tableType(const std::shared_ptr<OdbcConnection> &connection, const OdbcT
                 type = row.at(1);
         });
     return type;
-}
-
-// For MariaDB and MySQL. A table that is not listed is not transactional.
-bool isTransactional(const std::shared_ptr<OdbcConnection> &connection, const OdbcTableName &name)
-{
-    const OdbcHandle statement(connection);
-    statement.prepare("SELECT 1 FROM information_schema.TABLES t JOIN information_schema.ENGINES e "
-                      "ON e.ENGINE = t.ENGINE WHERE e.TRANSACTIONS = 'YES' AND t.TABLE_NAME = ? "
-                      "AND t.TABLE_SCHEMA = "_L1 +
-                      (name.catalog.isEmpty() ? u"DATABASE()"_s : u"?"_s));
-    const QByteArray table = name.table.toUtf8();
-    const QByteArray catalog = name.catalog.toUtf8();
-    OdbcParameters parameters(statement);
-    parameters.bind(RawValue::fromText(table), {SQL_WVARCHAR});
-    if (!catalog.isEmpty())
-        parameters.bind(RawValue::fromText(catalog), {SQL_WVARCHAR});
-    statement.check(SQLExecute(statement.get()));
-    return statement.fetch();
 }
 
 QStringList primaryKey(const std::shared_ptr<OdbcConnection> &connection, const OdbcTableName &name)
@@ -184,6 +167,27 @@ std::shared_ptr<const OdbcTableFields> OdbcTableFields::seenLately(OdbcConnectio
     return seen && std::chrono::steady_clock::now() - seen->seen < moment ? seen : nullptr;
 }
 
+bool OdbcTable::isTransactional(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
+                                const OdbcTableName &name, const QString &held, int timeout)
+{
+    QString sql = "SELECT 1 FROM information_schema.TABLES t JOIN information_schema.ENGINES e "
+                  "ON e.ENGINE = t.ENGINE WHERE e.TRANSACTIONS = 'YES' AND t.TABLE_NAME = ? "
+                  "AND t.TABLE_SCHEMA = "_L1 +
+                  (name.catalog.isEmpty() ? u"DATABASE()"_s : u"?"_s);
+    if (!held.isEmpty())
+        sql += " AND NOT EXISTS (SELECT 1 FROM "_L1 + held + " WHERE 1 = 0)"_L1;
+    OdbcQuery query(connection, engine, sql, timeout);
+    const QByteArray table = name.table.toUtf8();
+    const QByteArray catalog = name.catalog.toUtf8();
+    OdbcParameters parameters(query.handle());
+    parameters.bind(RawValue::fromText(table), {SQL_WVARCHAR});
+    if (!catalog.isEmpty())
+        parameters.bind(RawValue::fromText(catalog), {SQL_WVARCHAR});
+    RowStore found(1);
+    query.read(found, timeout);
+    return found.rows() > 0;
+}
+
 OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
                           const SimpleSelect &select)
 {
@@ -194,9 +198,10 @@ OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, con
         table.whyReadOnly = Texts::readOnlyNoTable();
         return table;
     }
-    const OdbcTableName name = fullName(*all, *connection, select);
+    const OdbcTableName name = fullNameOf(*all, *connection, select);
     // For a view, some drivers report its underlying table. Each query is a round trip to the server, so one
     // whose answer follows from the key is skipped.
+    table.fullName = name;
     table.key = primaryKey(connection, name);
     const bool isTable = engine.onlyTablesHaveKeys && !table.key.isEmpty();
     const QString type = isTable ? u"TABLE"_s : tableType(connection, name);
@@ -211,10 +216,12 @@ OdbcTable OdbcTable::find(const std::shared_ptr<OdbcConnection> &connection, con
             table.comparable += field.name;
     }
     table.isOrdinary = type.compare("TABLE"_L1, Qt::CaseInsensitive) == 0;
-    table.hasTransactions = !engine.hasOldTables || isTransactional(connection, name);
+    table.hasTransactions = !engine.hasOldTables || isTransactional(connection, engine, name, {}, 0);
     table.givesOrigins = !fields.front().baseColumn.isEmpty();
     if (table.key.isEmpty())
         table.key = uniqueIndex(connection, name, neverNull(connection, name));
+    if (table.key.isEmpty() && !table.hasTransactions)
+        table.whyReadOnly = Texts::readOnlyNoTransaction().arg(select.table);
     return table;
 }
 

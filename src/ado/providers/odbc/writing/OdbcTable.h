@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ado/FieldInfo.h"
+#include "ado/providers/odbc/reading/OdbcCatalogueAnswers.h"
 
 #include <QtCore/QStringList>
 
@@ -39,7 +40,8 @@ struct OdbcTableFields
 // The catalogue's data for the table of a statement.
 struct OdbcTable
 {
-    QString whyReadOnly; // what it is if it is not a table; the rest is set only if this is empty
+    QString whyReadOnly; // for every statement that reads it; the rest may be missing then
+    OdbcTableName fullName;
     QStringList columns;
     QStringList comparable; // those columns that can be compared with =
     // The columns that identify a row: the primary key, or else a unique index without Nulls. Empty if there
@@ -51,6 +53,10 @@ struct OdbcTable
 
     static OdbcTable find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
                           const SimpleSelect &select);
+    // For MariaDB and MySQL: whether changes of the table can be undone; false if the server lists no such
+    // table. If `held` is its name in a statement, nobody can alter it until the transaction ends.
+    static bool isTransactional(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
+                                const OdbcTableName &name, const QString &held, int timeout);
 };
 
 } // namespace ADODB

@@ -126,6 +126,13 @@ QString witness(const QString &name, const FieldInfo &field)
 
 } // namespace
 
+void OdbcTarget::forget(const std::shared_ptr<OdbcConnection> &connection, const SqlScanner &statement)
+{
+    const QString table = SimpleSelect::parse(statement).tableText;
+    connection->tables().remove(table);
+    connection->tableFields().remove(table);
+}
+
 OdbcTarget OdbcTarget::find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
                             const SqlScanner &statement, const std::vector<FieldInfo> &fields)
 {
@@ -136,8 +143,6 @@ OdbcTarget OdbcTarget::find(const std::shared_ptr<OdbcConnection> &connection, c
         return target;
     const OdbcTable table = tableOf(connection, engine, select, fields);
     target.whyReadOnly = table.whyReadOnly;
-    if (target.whyReadOnly.isEmpty() && table.key.isEmpty() && !table.hasTransactions)
-        target.whyReadOnly = Texts::readOnlyNoTransaction().arg(select.table);
     if (!target.whyReadOnly.isEmpty())
         return target;
     const QStringList shown = shownColumns(select, table, fields);
@@ -182,6 +187,7 @@ std::size_t OdbcTarget::findRow(const OdbcEngine &engine, const SqlScanner &scan
 {
     const QString &sql = scanner.sql();
     table = select.tableText;
+    fullName = from.fullName;
     alias = select.aliasText;
     hasTransactions = from.hasTransactions;
     for (const QString &name : shown)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ado/FieldInfo.h"
+#include "ado/providers/odbc/reading/OdbcCatalogueAnswers.h"
 
 #include <memory>
 #include <vector>
@@ -30,6 +31,7 @@ struct OdbcTarget
     QString whyReadOnly; // empty if they can; the rest is set only then
     QString statement;   // the user's, with the hidden columns added at the end; empty if there are none
     QString table;       // quoted, for use in SQL
+    OdbcTableName fullName;
     QString alias;
     QString selectRow; // the SELECT that ends where the condition for one row follows
     // For each field, the table's column that it is written to, quoted for use in SQL; empty for a computed
@@ -52,6 +54,9 @@ struct OdbcTarget
     static QString likelyStatement(const std::shared_ptr<OdbcConnection> &connection,
                                    const OdbcEngine &engine, const SqlScanner &statement, std::size_t &shown,
                                    std::size_t &all);
+    // Lets the next find() ask the catalogue again, because what the session knows about the table is no
+    // longer true.
+    static void forget(const std::shared_ptr<OdbcConnection> &connection, const SqlScanner &statement);
     static OdbcTarget find(const std::shared_ptr<OdbcConnection> &connection, const OdbcEngine &engine,
                            const SqlScanner &statement, const std::vector<FieldInfo> &fields);
 
