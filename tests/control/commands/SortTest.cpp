@@ -107,26 +107,6 @@ TEST_F(Sort, ComputedFieldsAreOfferedUnderTheirHeadings)
     EXPECT_FALSE(statement().contains(u"ORDER BY"));
 }
 
-// The dialog lists what was chosen in it, so its empty list says nothing about the host's own sort.
-TEST_F(Sort, AnEmptyListThatNobodyEmptiedLeavesTheHostsSort)
-{
-    ASSERT_TRUE(load(u"SELECT ID, 名称 FROM 商品 ORDER BY ID DESC"_s, {}));
-    const QString sorted = statement();
-    WindowAnswers dialogs(
-        {[](QDialog &dialog) {
-             EXPECT_EQ(part<QAbstractItemView>(dialog, "lvSortFields").model()->rowCount(), 0);
-             press(dialog, "cmdOK");
-         },
-         [](QDialog &dialog) { sort(dialog, {u"ID"_s}); }, [](QDialog &dialog) { sort(dialog, {}); }});
-    click(u"Sort"_s);
-    EXPECT_EQ(statement(), sorted);
-    EXPECT_EQ(texts(u"ID"_s).first(), u"12"_s);
-    click(u"Sort"_s);
-    EXPECT_EQ(texts(u"ID"_s).first(), u"1"_s);
-    click(u"Sort"_s);
-    EXPECT_FALSE(statement().contains(u"ORDER BY"_s)) << "an emptied list removes the sort";
-}
-
 // Of two tables with equal names, a sort by the one is none by the other.
 TEST_F(ColumnMenu, TellsASortByAnotherTablesColumnApart)
 {

@@ -41,12 +41,8 @@ void sortByDialog(Session &session)
 
     QString newSort;
     QString statement;
-    if (!manager.GetPartSortSelFields(allFields, currentSort, newSort) || !rollback.isResultUntouched())
-        return;
-    // The dialog doesn't list the order of the host's own statement, so nobody took it out of the list.
-    if (currentSort.isEmpty() && newSort.isEmpty())
-        return;
-    if (!history.GetNextSQLBySort(newSort, statement))
+    if (!manager.GetPartSortSelFields(allFields, currentSort, newSort) || !rollback.isResultUntouched() ||
+        !history.GetNextSQLBySort(newSort, statement))
         return;
     if (showSorted(session, statement, newSort))
         rollback.keepChanges();
