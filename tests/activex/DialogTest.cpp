@@ -53,6 +53,7 @@ TEST(DialogTest, TheHostsWindowOwnsADialogAndStaysBehindIt)
         BringWindowToTop(container.window());
         for (HWND next = seen.dialog; next; next = GetWindow(next, GW_HWNDNEXT))
             isBehind = isBehind || next == container.window();
+        SetForegroundWindow(seen.dialog); // as a click does; the form had become the active window
         Container::press(VK_ESCAPE);
     });
     container.key('L', {VK_CONTROL});
