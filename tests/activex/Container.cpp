@@ -270,6 +270,10 @@ void Container::run(const std::function<bool()> &done, DWORD most)
             return;
         MSG message{};
         while (isInTime() && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            if (message.message == WM_QUIT) { // is for the loop around this one
+                PostQuitMessage(static_cast<int>(message.wParam));
+                return;
+            }
             const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
             if (isKey && m_active && m_active->TranslateAccelerator(&message) == S_OK)
                 continue;
