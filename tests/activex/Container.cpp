@@ -1,8 +1,11 @@
 #include "Container.h"
 
 #include <cstdio>
+#include <iterator>
 #include <olectl.h>
 #include <stdexcept>
+#include <string_view>
+#include <thread>
 #include <utility>
 
 using Microsoft::WRL::ComPtr;
@@ -10,6 +13,7 @@ using Microsoft::WRL::ComPtr;
 namespace {
 
 constexpr wchar_t progId[] = L"KOVAVSFDataGridLib.KOVAVSFDataGrid";
+constexpr wchar_t windowClassName[] = L"KovaContainer";
 constexpr DISPID qurryFilter = 11;
 
 void check(HRESULT outcome, const char *what)
@@ -29,7 +33,7 @@ HWND newWindow(int width, int height)
         description.hInstance = GetModuleHandleW(nullptr);
         description.hCursor = LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
         description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-        description.lpszClassName = L"KovaContainer";
+        description.lpszClassName = windowClassName;
         return RegisterClassW(&description);
     }();
     RECT frame{0, 0, width, height};
@@ -45,10 +49,57 @@ HWND newWindow(int width, int height)
 
 std::function<void()> pendingAction; // what the next dialog waits for
 
-void CALLBACK runPendingAction(HWND, UINT, UINT_PTR timer, DWORD)
+// The window of this thread in front, unless it is a container's.
+HWND openDialog(DWORD thread)
 {
-    KillTimer(nullptr, timer);
-    std::exchange(pendingAction, nullptr)();
+    const HWND front = GetForegroundWindow();
+    wchar_t name[64]{};
+    if (!front || GetWindowThreadProcessId(front, nullptr) != thread ||
+        !GetClassNameW(front, name, static_cast<int>(std::size(name))))
+        return nullptr;
+    return std::wstring_view(name) == windowClassName ? nullptr : front;
+}
+
+// On a thread of its own, because the system delivers timers only when there are no other messages, and on a
+// busy machine there always are while a button is animated.
+void watchForDialog(const std::stop_token &stop, DWORD thread, HWND receiver)
+{
+    HWND seen = nullptr;
+    while (!stop.stop_requested()) {
+        Sleep(500);
+        // When it is in front for the second time, it has been drawn.
+        const HWND before = std::exchange(seen, openDialog(thread));
+        if (seen && seen == before) {
+            PostMessageW(receiver, WM_APP, 0, 0);
+            return;
+        }
+    }
+}
+
+std::jthread watcher;
+
+LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM wide, LPARAM data)
+{
+    if (message != WM_APP)
+        return DefWindowProcW(window, message, wide, data);
+    DestroyWindow(window);
+    if (pendingAction)
+        std::exchange(pendingAction, nullptr)();
+    return 0;
+}
+
+// A window of this thread for messages to it.
+HWND newReceiver()
+{
+    static const ATOM windowClass = [] {
+        WNDCLASSW description{};
+        description.lpfnWndProc = onMessage;
+        description.hInstance = GetModuleHandleW(nullptr);
+        description.lpszClassName = L"KovaAction";
+        return RegisterClassW(&description);
+    }();
+    return CreateWindowW(MAKEINTATOM(windowClass), nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                         GetModuleHandleW(nullptr), nullptr);
 }
 
 } // namespace
@@ -78,6 +129,8 @@ Container::Container(int width, int height, bool userMode) : m_userMode(userMode
 
 Container::~Container()
 {
+    watcher = {}; // of a dialog that did not open
+    pendingAction = nullptr;
     release();
 }
 
@@ -196,9 +249,8 @@ void Container::key(WORD virtualKey, const std::vector<WORD> &modifiers)
 
 void Container::whenDialogIsOpen(std::function<void()> action)
 {
-    constexpr UINT longEnough = 1000; // milliseconds
     pendingAction = std::move(action);
-    SetTimer(nullptr, 0, longEnough, runPendingAction);
+    watcher = std::jthread(watchForDialog, GetCurrentThreadId(), newReceiver());
 }
 
 void Container::answerQurryFilter(long cancel, const wchar_t *condition)
@@ -218,6 +270,10 @@ void Container::run(const std::function<bool()> &done, DWORD most)
             return;
         MSG message{};
         while (isInTime() && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            if (message.message == WM_QUIT) { // is for the loop around this one
+                PostQuitMessage(static_cast<int>(message.wParam));
+                return;
+            }
             const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
             if (isKey && m_active && m_active->TranslateAccelerator(&message) == S_OK)
                 continue;

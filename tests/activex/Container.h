@@ -75,7 +75,7 @@ public:
     static void whenDialogIsOpen(std::function<void()> action);
     static void press(WORD virtualKey, const std::vector<WORD> &modifiers = {});
     // Runs the message loop until it has been idle for a while, or until `done` returns true.
-    void run(const std::function<bool()> &done = {}, DWORD most = 5000);
+    void run(const std::function<bool()> &done = {}, DWORD most = 20000);
     // A picture of the container's window with everything over it, and of the dialog in front of it.
     bool saveScreen(const std::wstring &file) const;
 

@@ -1,5 +1,6 @@
 #include "Scene.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <ocidl.h>
 #include <oleidl.h>
@@ -14,27 +15,16 @@ struct Seen
     bool wasOpen = false;
     HWND dialog = nullptr;
     HWND owner = nullptr;
-    RECT place{};
 };
 
-// Looks at the next dialog and closes it with Esc.
-void lookAndCancel(Seen &seen)
+bool overlap(HWND one, HWND other)
 {
-    Container::whenDialogIsOpen([&seen] {
-        seen.wasOpen = true;
-        seen.dialog = GetForegroundWindow();
-        seen.owner = GetWindow(seen.dialog, GW_OWNER);
-        GetWindowRect(seen.dialog, &seen.place);
-        Container::press(VK_ESCAPE);
-    });
-}
-
-bool overlaps(const RECT &one, HWND window)
-{
-    RECT other{};
+    RECT first{};
+    RECT second{};
     RECT both{};
-    GetWindowRect(window, &other);
-    return IntersectRect(&both, &one, &other);
+    GetWindowRect(one, &first);
+    GetWindowRect(other, &second);
+    return IntersectRect(&both, &first, &second);
 }
 
 } // namespace
@@ -53,6 +43,7 @@ TEST(DialogTest, TheHostsWindowOwnsADialogAndStaysBehindIt)
         BringWindowToTop(container.window());
         for (HWND next = seen.dialog; next; next = GetWindow(next, GW_HWNDNEXT))
             isBehind = isBehind || next == container.window();
+        SetForegroundWindow(seen.dialog); // as a click does; the form had become the active window
         Container::press(VK_ESCAPE);
     });
     container.key('L', {VK_CONTROL});
@@ -70,13 +61,19 @@ TEST(DialogTest, ABoxOfALoadBeforeAnyMessageIsOverTheForm)
     SetWindowPos(container.window(), nullptr, 600, 420, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     put(container.control(), L"ErrorHint", true);
     put(container.control(), L"ConnectionString", L"Provider=SQLite;Data Source=Z:\\nowhere.db");
-    put(container.control(), L"SQLShow", L"select 1");
-    Seen seen;
-    lookAndCancel(seen);
+    put(container.control(), L"SQLShow", L"select id from people");
+    int boxes = 0;
+    const std::function<void()> lookAndCancel = [&] {
+        ++boxes;
+        const HWND box = GetForegroundWindow();
+        EXPECT_EQ(GetWindow(box, GW_OWNER), container.window());
+        EXPECT_TRUE(overlap(box, container.window()));
+        Container::whenDialogIsOpen(lookAndCancel); // there is one more, with the load's outcome
+        Container::press(VK_ESCAPE);
+    };
+    Container::whenDialogIsOpen(lookAndCancel);
     EXPECT_FALSE(get(container.control(), L"IsLoadData").isTrue());
-    ASSERT_TRUE(seen.wasOpen);
-    EXPECT_EQ(seen.owner, container.window());
-    EXPECT_TRUE(overlaps(seen.place, container.window()));
+    EXPECT_GE(boxes, 2);
 }
 
 TEST(DialogTest, TheEndOfTheProcessReachesTheHostThroughADialog)

@@ -1,3 +1,4 @@
+#include "SampleControl.h"
 #include "SampleFile.h"
 #include "Scene.h"
 
@@ -14,13 +15,6 @@ using namespace Late;
 using Microsoft::WRL::ComPtr;
 
 namespace {
-
-CLSID controlId()
-{
-    CLSID id{};
-    EXPECT_EQ(CLSIDFromProgID(L"KOVAVSFDataGridLib.KOVAVSFDataGrid", &id), S_OK);
-    return id;
-}
 
 DISPID idOf(const Object &object, const wchar_t *name)
 {
@@ -66,13 +60,19 @@ FORMATETC metafile(CLIPFORMAT format, DWORD tymed)
     return {format, nullptr, DVASPECT_CONTENT, -1, tymed};
 }
 
-TEST(Embedding, KeepsTheBackgroundColourInAStorage)
+// In a file that goes away with it.
+ComPtr<IStorage> newStorage()
 {
     ComPtr<IStorage> storage;
-    ASSERT_EQ(StgCreateDocfile(nullptr,
-                               STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE | STGM_DELETEONRELEASE, 0,
-                               &storage),
-              S_OK);
+    StgCreateDocfile(nullptr, STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE | STGM_DELETEONRELEASE, 0,
+                     &storage);
+    return storage;
+}
+
+TEST(Embedding, KeepsTheBackgroundColourInAStorage)
+{
+    const ComPtr<IStorage> storage = newStorage();
+    ASSERT_TRUE(storage);
     {
         Container saved(400, 300);
         put(saved.control(), L"BackColor", 0x00112233);
@@ -90,11 +90,8 @@ TEST(Embedding, KeepsTheBackgroundColourInAStorage)
 
 TEST(Embedding, AStorageWithoutTheControlIsRefused)
 {
-    ComPtr<IStorage> storage;
-    ASSERT_EQ(StgCreateDocfile(nullptr,
-                               STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE | STGM_DELETEONRELEASE, 0,
-                               &storage),
-              S_OK);
+    const ComPtr<IStorage> storage = newStorage();
+    ASSERT_TRUE(storage);
     Container container(400, 300);
     EXPECT_TRUE(FAILED(container.as<IPersistStorage>()->Load(storage.Get())));
 }
@@ -170,8 +167,8 @@ TEST(Embedding, ListsTheFormatsThatItHas)
 TEST(Embedding, ConnectsInOneCall)
 {
     Container container(400, 300);
-    Object second;
-    ASSERT_EQ(CoCreateInstance(controlId(), nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&second)), S_OK);
+    const Object second = newControl();
+    ASSERT_TRUE(second);
     ComPtr<IQuickActivate> quick;
     ASSERT_EQ(second.As(&quick), S_OK);
     QACONTAINER from{};

@@ -1,3 +1,4 @@
+#include "SampleControl.h"
 #include "Scene.h"
 
 #include <atomic>
@@ -10,13 +11,6 @@
 using Microsoft::WRL::ComPtr;
 
 namespace {
-
-CLSID controlId()
-{
-    CLSID id{};
-    EXPECT_EQ(CLSIDFromProgID(L"KOVAVSFDataGridLib.KOVAVSFDataGrid", &id), S_OK);
-    return id;
-}
 
 // An object that aggregates the control.
 class Aggregating final : public IUnknown
@@ -66,8 +60,8 @@ TEST(Life, AnAggregatingObjectMustAskForTheInnerIdentity)
 
 TEST(Life, ControlsOfAnotherThreadAreRefused)
 {
-    ComPtr<IUnknown> first;
-    ASSERT_EQ(CoCreateInstance(controlId(), nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&first)), S_OK);
+    const Late::Object first = newControl();
+    ASSERT_TRUE(first);
     HRESULT elsewhere = S_OK;
     std::thread([&] {
         CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
@@ -160,7 +154,7 @@ TEST(Life, AClientOfTheMultithreadedApartmentLeavesQtToForms)
 TEST(Life, AConnectionPointKeepsItsControl)
 {
     ComPtr<IConnectionPointContainer> container;
-    ASSERT_EQ(CoCreateInstance(controlId(), nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&container)), S_OK);
+    ASSERT_EQ(newControl().As(&container), S_OK);
     ComPtr<IConnectionPoint> point;
     ASSERT_EQ(container->FindConnectionPoint(IID_IPropertyNotifySink, &point), S_OK);
     EXPECT_NE(container.Reset(), 0u);

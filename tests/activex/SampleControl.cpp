@@ -7,12 +7,17 @@
 
 using namespace Late;
 
-Object newControl()
+CLSID controlId()
 {
     CLSID id{};
-    Object control;
     EXPECT_EQ(CLSIDFromProgID(L"KOVAVSFDataGridLib.KOVAVSFDataGrid", &id), S_OK);
-    EXPECT_EQ(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&control)), S_OK);
+    return id;
+}
+
+Object newControl()
+{
+    Object control;
+    EXPECT_EQ(CoCreateInstance(controlId(), nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&control)), S_OK);
     return control;
 }
 

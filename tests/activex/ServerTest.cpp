@@ -100,7 +100,7 @@ public:
 
 TEST_F(Server, CanBeUnloadedOnlyWhileNothingIsInUse)
 {
-    if (GetModuleHandleW(L"qwindows.dll"))
+    if (GetModuleHandleW(L"qwindowsKova.dll"))
         GTEST_SKIP() << "Qt runs in this process already";
     CLSID id{};
     ASSERT_EQ(CLSIDFromProgID(progId, &id), S_OK);

@@ -129,33 +129,23 @@ STDMETHODIMP DataObject::EnumFormatEtc(DWORD direction, IEnumFORMATETC **enumera
 STDMETHODIMP DataObject::DAdvise(FORMATETC *format, DWORD flags, IAdviseSink *sink, DWORD *connection)
 {
     const HRESULT possible = QueryGetData(format);
-    if (possible != S_OK)
-        return possible;
-    if (!m_advises) {
-        const HRESULT created = CreateDataAdviseHolder(&m_advises);
-        if (FAILED(created))
-            return created;
-    }
-    return m_advises->Advise(this, format, flags, sink, connection);
+    return possible == S_OK ? m_advises.advise(this, format, flags, sink, connection) : possible;
 }
 
 STDMETHODIMP DataObject::DUnadvise(DWORD connection)
 {
-    return m_advises ? m_advises->Unadvise(connection) : OLE_E_NOCONNECTION;
+    return m_advises.unadvise(connection);
 }
 
 STDMETHODIMP DataObject::EnumDAdvise(IEnumSTATDATA **advises)
 {
-    if (!advises)
-        return E_POINTER;
-    *advises = nullptr;
-    return m_advises ? m_advises->EnumAdvise(advises) : S_OK;
+    return m_advises.enumerate(advises);
 }
 
 void DataObject::dataChanged()
 {
-    if (m_advises)
-        m_advises->SendOnDataChange(this, 0, 0);
+    if (IDataAdviseHolder *advises = m_advises.get())
+        advises->SendOnDataChange(this, 0, 0);
 }
 
 } // namespace KOVAVSFDataGridLib::ActiveX

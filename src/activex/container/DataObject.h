@@ -1,9 +1,9 @@
 #pragma once
 
+#include "activex/container/AdviseHolder.h"
 #include "activex/server/ComObject.h"
 
 #include <objidl.h>
-#include <wrl/client.h>
 
 namespace KOVAVSFDataGridLib::ActiveX {
 
@@ -31,7 +31,7 @@ public:
 
 private:
     GridControl &m_control;
-    Microsoft::WRL::ComPtr<IDataAdviseHolder> m_advises;
+    AdviseHolder<IDataAdviseHolder> m_advises{CreateDataAdviseHolder};
 };
 
 } // namespace KOVAVSFDataGridLib::ActiveX

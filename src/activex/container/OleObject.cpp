@@ -40,8 +40,8 @@ STDMETHODIMP OleObject::Close(DWORD saveOption)
     m_control.inPlace().deactivate();
     if (m_site && saveOption != OLECLOSE_NOSAVE && m_control.persistence().IsDirty() == S_OK)
         m_site->SaveObject();
-    if (m_advises)
-        m_advises->SendOnClose();
+    if (IOleAdviseHolder *advises = m_advises.get())
+        advises->SendOnClose();
     return S_OK;
 }
 
@@ -144,25 +144,17 @@ STDMETHODIMP OleObject::GetExtent(DWORD aspect, SIZEL *size)
 
 STDMETHODIMP OleObject::Advise(IAdviseSink *sink, DWORD *connection)
 {
-    if (!m_advises) {
-        const HRESULT created = CreateOleAdviseHolder(&m_advises);
-        if (FAILED(created))
-            return created;
-    }
-    return m_advises->Advise(sink, connection);
+    return m_advises.advise(sink, connection);
 }
 
 STDMETHODIMP OleObject::Unadvise(DWORD connection)
 {
-    return m_advises ? m_advises->Unadvise(connection) : OLE_E_NOCONNECTION;
+    return m_advises.unadvise(connection);
 }
 
 STDMETHODIMP OleObject::EnumAdvise(IEnumSTATDATA **advises)
 {
-    if (!advises)
-        return E_POINTER;
-    *advises = nullptr;
-    return m_advises ? m_advises->EnumAdvise(advises) : S_OK;
+    return m_advises.enumerate(advises);
 }
 
 STDMETHODIMP OleObject::GetMiscStatus(DWORD, DWORD *status)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "activex/container/AdviseHolder.h"
 #include "activex/server/ComObject.h"
 
 #include <oleidl.h>
@@ -54,7 +55,7 @@ private:
 
     GridControl &m_control;
     Microsoft::WRL::ComPtr<IOleClientSite> m_site;
-    Microsoft::WRL::ComPtr<IOleAdviseHolder> m_advises;
+    AdviseHolder<IOleAdviseHolder> m_advises{CreateOleAdviseHolder};
 };
 
 // The control runs from its creation on; containers of documents ask.

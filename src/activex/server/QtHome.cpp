@@ -65,8 +65,10 @@ public:
     STDMETHODIMP PreUninitialize(DWORD) override { return S_OK; }
     STDMETHODIMP PostUninitialize(DWORD left) override
     {
-        // The host is done with COM; only Qt keeps it here.
-        if (!m_isMaking && left == m_ofQt)
+        // The host is done with COM; only Qt keeps it here, and for a thread whose window has had the focus,
+        // the system's input methods do. If the one more is the host's, the next control makes a new
+        // application.
+        if (!m_isMaking && left <= m_ofQt + 1)
             endApplication();
         return S_OK;
     }
