@@ -96,7 +96,7 @@ TEST_F(FirstRecords, ArePaintedOverTheGridBeforeAnyEventRuns)
         EXPECT_GT(opening.paintings(), 0) << "painted only with the events of the application";
         EXPECT_EQ(cell(0, 0), u"1"_s);
         EXPECT_EQ(cell(0, 1), u"name 1"_s);
-        EXPECT_GT(opening.view()->model()->rowCount(), 1000);
+        EXPECT_GT(opening.view()->model()->rowCount(), table->model()->rowCount());
         EXPECT_EQ(opening.view()->geometry(), table->geometry());
         EXPECT_EQ(opening.view()->parentWidget(), table->parentWidget());
         EXPECT_EQ(table->model()->rowCount(), 3) << "the host's grid is another one";
@@ -129,6 +129,8 @@ TEST_F(FirstRecords, BecomeMoreAndCanBeScrolled)
 {
     int rowsAtFirst = 0;
     EXPECT_FALSE(loadUntil([&] {
+        if (!opening.view()) // on a busy machine, the progress is there first
+            return false;
         const int rows = opening.view()->model()->rowCount();
         if (rowsAtFirst == 0) {
             rowsAtFirst = rows;
