@@ -20,9 +20,9 @@ EmbeddedWindow::EmbeddedWindow(QWidget &widget, std::function<void()> entered,
       m_blocked(std::move(blocked))
 {
     m_widget.setWindowFlags(Qt::FramelessWindowHint);
-    // … and on the keyboard focus.
+    // The container decides on the keyboard focus …
     m_widget.setAttribute(Qt::WA_ShowWithoutActivating);
-    // The container decides on the size; what does not fit is clipped.
+    // … and on the size; what does not fit is clipped.
     m_widget.setMinimumSize(1, 1);
 }
 

@@ -26,6 +26,8 @@
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QWindow>
 #include <QtWidgets/QCheckBox>
 
 #include <stdexcept>
@@ -139,6 +141,11 @@ void KOVAVSFDataGrid::Private::writeTexts()
 // the focus is in another part of the host's form.
 void KOVAVSFDataGrid::Private::focusGrid() const
 {
+    // The focus of a form that is not Qt's is only known when it is here. Asking for it would take it from
+    // the form.
+    const QWindow *const around = q.window()->windowHandle();
+    if (around && around->parent() && around != QGuiApplication::focusWindow())
+        return;
     const QWidget *const now = q.window()->focusWidget();
     if (!now || now == &q || q.isAncestorOf(now))
         parts.vsfgDataGrid->setFocus();
