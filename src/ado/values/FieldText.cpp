@@ -84,6 +84,7 @@ char *writeDecimal(char *to, double value)
     const double scaled = std::abs(value) * power;
     if (!(scaled < limit))
         return nullptr;
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): the next line refuses a wrong one
     const auto whole = static_cast<qint64>(scaled + 0.5);
     if (static_cast<double>(whole) / power != std::abs(value))
         return nullptr;
