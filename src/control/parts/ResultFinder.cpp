@@ -120,6 +120,8 @@ bool ResultFinder::prepare()
     return true;
 }
 
+// NOLINTBEGIN(bugprone-unchecked-optional-access): none of these is called before prepare() made the search
+
 void ResultFinder::continueSearch()
 {
     if (!m_search && !prepare())
@@ -211,6 +213,8 @@ void ResultFinder::showFound(const QString &wrapped)
             GridTexts::FoundPlace.arg(grouped(m_search->numberOf(*m_at)), grouped(m_search->count())) +
             wrapped);
 }
+
+// NOLINTEND(bugprone-unchecked-optional-access)
 
 void ResultFinder::showMarks()
 {
