@@ -120,6 +120,25 @@ TEST(DerivationText, TopAndDistinctStayInFrontOfChosenFields)
     }
 }
 
+// Sorted by other fields, the first records would be others.
+TEST(DerivationText, TopOfDistinctRecordsIsTakenBeforeFieldsOfItsSortAreLeftOut)
+{
+    const Derivation places =
+        derive(Engine::Access,
+               u"select distinct top 5 Country, City as Town, 1 as N from T order by Country, 3, City"_s,
+               {u"Country"_s, u"Town"_s, u"N"_s}, dbAccess);
+    const QString town = places.listed().at(1);
+    const QString towns = places.withFields({town});
+    expectText(towns,
+               "SELECT Town FROM ( select distinct top 5 Country, City as Town, 1 as N from T order by "
+               "Country, 3, City ) AS Q ORDER BY Country,N,Town");
+    expectText(derive(Engine::Access, towns, {u"Town"_s}, dbAccess).withFieldsOf(places),
+               "SELECT * FROM ( select distinct top 5 Country, City as Town, 1 as N from T order "
+               "by Country, 3, City ) AS Q ORDER BY Country,N,Town");
+    expectText(places.withFields({places.listed().at(0), town}),
+               "SELECT distinct top 5 Country,City as Town FROM T ORDER BY Country,City");
+}
+
 TEST(DerivationText, NamesThatNeedQuotesKeepThem)
 {
     expectText(derive(Engine::MySQL, u"select Name `a b`, count(*) from T group by Name"_s,

@@ -195,7 +195,12 @@ private:
     bool mergesOuterColumns() const;
     QString sortableTerms(const QString &sortList) const;
     qsizetype fieldFor(const QString &value, const QString &name) const;
+    bool sortsByConstant(const SelectParts::Item &term) const;
+    bool canSortWithin(const SelectParts::Item &term, const QStringList &entries) const;
     QString sortWithin(const QStringList &entries) const;
+    // Whether a DISTINCT TOP with these entries alone would take other records, as its sort lacks a field.
+    bool losesTop(const QStringList &entries) const;
+    QStringList namesOf(const QStringList &entries) const;
     QString valueOf(int field) const;
     bool keepsListWords() const;
     std::vector<qsizetype> unitedConditions() const;

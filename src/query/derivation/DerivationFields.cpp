@@ -44,6 +44,8 @@ QString Derivation::withList(const QString &list, const QStringList &entries) co
 {
     if (isTextWork(DerivationStep::Fields))
         return u"SELECT "_s + list + getFromPart(m_sql.sql());
+    if (keepsListWords() && losesTop(entries))
+        return asTableWith(namesOf(entries));
     SQLSentence sentence = base();
     if (isSimple())
         sentence.order = stableSort();
@@ -139,26 +141,56 @@ const QStringList &Derivation::listedIn(const Derivation &derived) const
     return m_kind == Kind::Closed && isTableThere ? m_written : m_listed;
 }
 
-// With DISTINCT, a sort can use only fields of the list. A constant does not sort, and engines reject it or
-// take it for a position.
+// A constant does not sort, and engines reject it or take it for a position.
+bool Derivation::sortsByConstant(const SelectParts::Item &term) const
+{
+    const int field = fieldOfTerm(term);
+    const int item = field < 0 ? -1 : m_itemOfField[static_cast<std::size_t>(field)];
+    return item >= 0 && isConstant(m_sql, m_parts.items[static_cast<std::size_t>(item)]);
+}
+
+// With DISTINCT, a sort can use only fields of the list.
+bool Derivation::canSortWithin(const SelectParts::Item &term, const QStringList &entries) const
+{
+    if (!isDistinct())
+        return true;
+    if (const int field = fieldOfTerm(term); field >= 0)
+        return entries.contains(m_listed.at(field));
+    const auto named = aliasesIn(term);
+    return !named.empty() && std::ranges::all_of(named, [&](const auto &alias) {
+        return entries.contains(m_listed.at(alias.second));
+    });
+}
+
 QString Derivation::sortWithin(const QStringList &entries) const
 {
     QStringList terms;
     for (const SelectParts::Item &term : m_parts.sort) {
-        const int field = fieldOfTerm(term);
-        const int item = field < 0 ? -1 : m_itemOfField[static_cast<std::size_t>(field)];
-        if (item >= 0 && isConstant(m_sql, m_parts.items[static_cast<std::size_t>(item)]))
+        if (sortsByConstant(term) || !canSortWithin(term, entries))
             continue;
-        const auto named = aliasesIn(term);
-        const bool isOfEntries = !named.empty() && std::ranges::all_of(named, [&](const auto &alias) {
-            return entries.contains(m_listed.at(alias.second));
-        });
-        if (field < 0 && (!isDistinct() || isOfEntries))
-            terms.append(textOf(m_sql, term.tokens));
-        else if (field >= 0 && (!isDistinct() || entries.contains(m_listed.at(field))))
-            terms.append(sortedAs(term, valueOf(field)));
+        const int field = fieldOfTerm(term);
+        terms.append(field < 0 ? textOf(m_sql, term.tokens) : sortedAs(term, valueOf(field)));
     }
     return terms.isEmpty() ? QString() : u" ORDER BY "_s + terms.join(u',');
+}
+
+// TOP takes its records by the whole sort.
+bool Derivation::losesTop(const QStringList &entries) const
+{
+    const auto isLost = [&](const SelectParts::Item &term) {
+        return !sortsByConstant(term) && !canSortWithin(term, entries);
+    };
+    const auto isListed = [&](const QString &entry) { return m_listed.contains(entry); };
+    return m_parts.isTop && !entries.isEmpty() && std::ranges::all_of(entries, isListed) &&
+           std::ranges::any_of(m_parts.sort, isLost);
+}
+
+QStringList Derivation::namesOf(const QStringList &entries) const
+{
+    QStringList names;
+    for (const QString &entry : entries)
+        names.append(m_names.at(m_listed.indexOf(entry)));
+    return names;
 }
 
 QString Derivation::valueOf(int field) const

@@ -46,6 +46,7 @@ public:
             hasVersionMark({0, m_parts.listWords.begin}) || hasVersionMark({m_parts.listWords.end, m_end});
         m_parts.isGrouped |= hasAggregate(m_parts.list) || hasAggregate(m_parts.order);
         m_parts.hasWindow |= hasOver(m_parts.list) || hasOver(m_parts.order);
+        m_parts.isLimited |= assignsVariable(m_parts.list);
         m_parts.hasRows = m_sql.dialect() == SqlDialect::PostgreSql && hasCall(m_parts.list, isRowFunction);
         return m_parts;
     }
@@ -285,6 +286,16 @@ private:
                 return true;
         }
         return hasCall(range, isAggregateFunction);
+    }
+
+    // MySQL's user variables number the records in the order in which they are read.
+    bool assignsVariable(TextRange range) const
+    {
+        for (qsizetype i = range.begin; i + 1 < range.end; ++i) {
+            if (m_sql.isSymbol(i, u':') && m_sql.isSymbol(i + 1, u'='))
+                return m_sql.dialect() == SqlDialect::MySql;
+        }
+        return false;
     }
 
     bool hasOver(TextRange range) const

@@ -57,7 +57,7 @@ struct SelectParts
     bool isTop = false;        // TOP n
     bool isCompound = false;   // UNION and the like
     bool isGrouped = false;    // GROUP BY, HAVING, or an aggregate function in the list or in ORDER BY
-    bool isLimited = false;    // LIMIT, OFFSET, FETCH, ROWNUM
+    bool isLimited = false;    // LIMIT, OFFSET, FETCH, ROWNUM, and a variable that is assigned in each row
     bool hasWindow = false;    // a window function or a WINDOW clause
     bool hasRows = false;      // a set-returning function in the list
     bool isVersioned = false;  // MySQL runs or skips a part of it, depending on its version
