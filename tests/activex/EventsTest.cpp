@@ -22,7 +22,10 @@ TEST(Events, ReportsTheEventsOfTheMouse)
 {
     Container container(800, 500);
     load(container);
-    SetCursorPos(0, 0); // the test before may have left it where this one clicks
+    // The test before may have left it where this one clicks.
+    POINT beside{rowX + 30, rowY};
+    ClientToScreen(container.controlWindow(), &beside);
+    SetCursorPos(beside.x, beside.y);
     container.run();
     container.forget();
     container.click(rowX, rowY);
