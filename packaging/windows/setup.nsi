@@ -43,8 +43,8 @@ LangString NeedAdministrator ${LANG_SIMPCHINESE} "要为所有用户安装，请
 LangString NeedAdministrator ${LANG_ENGLISH} "To install for all users, run the setup as administrator."
 LangString NotRegistered ${LANG_SIMPCHINESE} "无法注册控件（代码 $0），没有安装任何内容。"
 LangString NotRegistered ${LANG_ENGLISH} "The control could not be registered (code $0). Nothing was installed."
-LangString NotUnregistered ${LANG_SIMPCHINESE} "无法取消控件的注册（代码 $0），没有删除任何内容。"
-LangString NotUnregistered ${LANG_ENGLISH} "The control could not be unregistered (code $0). Nothing was removed."
+LangString NotUnregistered ${LANG_SIMPCHINESE} "无法取消控件的注册（代码 $0），没有删除任何内容。请再次运行安装程序进行修复，然后重试。"
+LangString NotUnregistered ${LANG_ENGLISH} "The control could not be unregistered (code $0). Nothing was removed. Run the setup program again to repair it, then try again."
 LangString InUse ${LANG_SIMPCHINESE} "有程序正在使用控件。请关闭使用它的程序，然后重试。"
 LangString InUse ${LANG_ENGLISH} "A program is using the control. Close the programs that use it, then try again."
 
@@ -70,6 +70,21 @@ Function ${prefix}ChooseScope
     ${EndIf}
   ${Else}
     SetShellVarContext current
+  ${EndIf}
+FunctionEnd
+
+; Stops if a program uses the control in $0, as long as nothing was changed. All its programs load this file, and a
+; file that is loaded can't be opened to write to it.
+Function ${prefix}StopIfInUse
+  ${If} ${FileExists} "$0\Qt6CoreKova.dll"
+    ClearErrors
+    FileOpen $1 "$0\Qt6CoreKova.dll" a
+    ${If} ${Errors}
+      MessageBox MB_OK|MB_ICONSTOP "$(InUse)" /SD IDOK
+      SetErrorLevel 2
+      Abort
+    ${EndIf}
+    FileClose $1
   ${EndIf}
 FunctionEnd
 
@@ -102,15 +117,25 @@ Function .onInit
 FunctionEnd
 
 Section
+  SetOverwrite try
   ; Removes an older version as its own setup would, so that no file of it is left.
   ReadRegStr $0 SHCTX "${UNINSTALL_KEY}" InstallLocation
   ${If} $0 != ""
   ${AndIf} ${FileExists} "$0\uninstall.exe"
+    Call StopIfInUse
     StrCpy $2 ""
     ${If} $ForAll == 1
       StrCpy $2 "/ALLUSERS"
     ${EndIf}
     ExecWait '"$0\uninstall.exe" /S $2 _?=$0' $1
+    ${If} $1 <> 0
+      ; If a file of it is damaged, it can't unregister itself. All its files are here.
+      StrCpy $3 $INSTDIR
+      StrCpy $INSTDIR $0
+      !insertmacro InstallFiles
+      StrCpy $INSTDIR $3
+      ExecWait '"$0\uninstall.exe" /S $2 _?=$0' $1
+    ${EndIf}
     ${If} $1 <> 0
       MessageBox MB_OK|MB_ICONSTOP "$(InUse)" /SD IDOK
       SetErrorLevel 2
@@ -120,7 +145,6 @@ Section
     RMDir "$0"
   ${EndIf}
 
-  SetOverwrite try
   ClearErrors
   !insertmacro InstallFiles
   ${If} ${Errors}
@@ -160,6 +184,8 @@ Function un.onInit
 FunctionEnd
 
 Section Uninstall
+  StrCpy $0 $INSTDIR
+  Call un.StopIfInUse
   StrCpy $1 "/u"
   Call un.Register
   ${If} $0 <> 0
