@@ -1,6 +1,6 @@
 #pragma once
 
-#include "activex/container/AdviseHolder.h"
+#include "activex/calls/AdviseHolder.h"
 #include "activex/server/ComObject.h"
 
 #include <objidl.h>
