@@ -8,8 +8,10 @@ if(DOXYGEN_FOUND)
   list(TRANSFORM inputs REPLACE "(.+)" "\"\\1\"" OUTPUT_VARIABLE quoted)
   list(JOIN quoted " " KOVA_REFERENCE_INPUT)
   configure_file(${PROJECT_SOURCE_DIR}/docs/Doxyfile.in ${PROJECT_BINARY_DIR}/docs/Doxyfile @ONLY)
-  file(MAKE_DIRECTORY ${KOVA_REFERENCE_DIR})
+  # Pages of what is gone don't stay.
   add_custom_target(docs
+    COMMAND ${CMAKE_COMMAND} -E rm -rf ${KOVA_REFERENCE_DIR}
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${KOVA_REFERENCE_DIR}
     COMMAND Doxygen::doxygen ${PROJECT_BINARY_DIR}/docs/Doxyfile
     COMMENT "The reference in ${KOVA_REFERENCE_DIR}/index.html"
     VERBATIM)

@@ -21,7 +21,18 @@ class Error(Exception):
 class ControlError(Exception):
     """UseModel can be read (393) and written (382) at design time only."""
 
-    def __init__(self, number: int, description: str):
-        super().__init__(description)
-        self.number = number
-        self.description = description
+    def __init__(self, Number: int, Description: str):
+        super().__init__(Description)
+        self.Number = Number
+        #: For the program's developer, in English.
+        self.Description = Description
+
+    @property
+    def number(self) -> int:
+        """An older name of Number."""
+        return self.Number
+
+    @property
+    def description(self) -> str:
+        """An older name of Description."""
+        return self.Description

@@ -73,11 +73,12 @@ def test_the_form_editors_property_raises_at_run_time():
     grid = KOVAVSFDataGrid()
     with pytest.raises(ControlError) as read:
         grid.UseModel
-    assert read.value.number == 393
+    assert read.value.Number == 393
     with pytest.raises(ControlError) as written:
         grid.UseModel = KOVAVSFDataGrid.UseModelChoose.ModelDefine
-    assert written.value.number == 382
-    assert str(written.value) == "Property can't be set at run time"
+    assert written.value.Number == 382
+    assert written.value.Description == str(written.value) == "Property can't be set at run time"
+    assert (written.value.number, written.value.description) == (written.value.Number, written.value.Description)
 
 
 def test_the_form_editors_property_works_at_design_time():
