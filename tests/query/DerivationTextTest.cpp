@@ -137,6 +137,19 @@ TEST(DerivationText, TopOfDistinctRecordsIsTakenBeforeFieldsOfItsSortAreLeftOut)
                "by Country, 3, City ) AS Q ORDER BY Country,N,Town");
     expectText(places.withFields({places.listed().at(0), town}),
                "SELECT distinct top 5 Country,City as Town FROM T ORDER BY Country,City");
+    const Derivation part =
+        derive(Engine::Access, u"select distinct top 5 T.city as Town from T"_s, {u"Town"_s}, dbAccess);
+    expectText(
+        places.withFieldsOf(part),
+        "SELECT Town FROM ( select distinct top 5 Country, City as Town, 1 as N from T order by Country, "
+        "3, City ) AS Q ORDER BY Country,N,Town");
+    EXPECT_EQ(derive(Engine::Access, u"select distinct top 5 A.City, B.City from A, B order by A.City"_s,
+                     {u"City"_s, u"City"_s}, dbAccess)
+                  .whyNot(DerivationStep::Fields),
+              QueryTexts::EqualNames.arg(u"City"_s));
+    EXPECT_EQ(derive(Engine::SqlServer, u"select distinct top 5 A, B + 1 from T order by A"_s, {u"A"_s, {}})
+                  .whyNot(DerivationStep::Fields),
+              QueryTexts::UnnamedField);
 }
 
 TEST(DerivationText, NamesThatNeedQuotesKeepThem)

@@ -104,7 +104,8 @@ QString Derivation::whyNot(DerivationStep step) const
 {
     if (!m_parts.isSelect || m_parts.isClosed)
         return QueryTexts::NotDerived;
-    const bool isWhole = m_kind == Kind::Closed && !(step == DerivationStep::Fields && keepsListWords());
+    const bool hasListOfItsOwn = step == DerivationStep::Fields && keepsListWords() && !canLoseTop();
+    const bool isWhole = m_kind == Kind::Closed && !hasListOfItsOwn;
     if (isWhole && m_names.contains(QString()))
         return QueryTexts::UnnamedField;
     if (isWhole && !equalName().isEmpty())

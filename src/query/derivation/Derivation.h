@@ -198,6 +198,8 @@ private:
     bool sortsByConstant(const SelectParts::Item &term) const;
     bool canSortWithin(const SelectParts::Item &term, const QStringList &entries) const;
     QString sortWithin(const QStringList &entries) const;
+    bool canLoseTop() const;
+    bool areListed(const QStringList &entries) const;
     // Whether a DISTINCT TOP with these entries alone would take other records, as its sort lacks a field.
     bool losesTop(const QStringList &entries) const;
     QStringList namesOf(const QStringList &entries) const;

@@ -70,9 +70,12 @@ QString Derivation::withFieldsOf(const Derivation &fieldStatement) const
         return withList(fieldStatement.m_kind == Kind::Closed ? fieldStatement.tableList()
                                                               : fieldStatement.listText(),
                         {});
-    if (hasWords &&
-        sameText(textOf(m_sql, m_parts.source), textOf(fieldStatement.m_sql, fieldStatement.m_parts.source)))
-        return withList(fieldStatement.listText(), splitList(fieldStatement.listText(), m_dialect));
+    if (hasWords && sameText(textOf(m_sql, m_parts.source),
+                             textOf(fieldStatement.m_sql, fieldStatement.m_parts.source))) {
+        const QStringList entries = splitList(fieldStatement.listText(), m_dialect);
+        return canLoseTop() && !areListed(entries) ? withFields(listedFor(fieldStatement))
+                                                   : withList(fieldStatement.listText(), entries);
+    }
     if (!m_parts.isDerivedTable)
         return withFields(listedFor(fieldStatement));
     QStringList entries;
@@ -175,13 +178,22 @@ QString Derivation::sortWithin(const QStringList &entries) const
 }
 
 // TOP takes its records by the whole sort.
+bool Derivation::canLoseTop() const
+{
+    return m_parts.isTop && isDistinct() && !m_parts.sort.empty();
+}
+
+bool Derivation::areListed(const QStringList &entries) const
+{
+    return std::ranges::all_of(entries, [&](const QString &entry) { return m_listed.contains(entry); });
+}
+
 bool Derivation::losesTop(const QStringList &entries) const
 {
     const auto isLost = [&](const SelectParts::Item &term) {
         return !sortsByConstant(term) && !canSortWithin(term, entries);
     };
-    const auto isListed = [&](const QString &entry) { return m_listed.contains(entry); };
-    return m_parts.isTop && !entries.isEmpty() && std::ranges::all_of(entries, isListed) &&
+    return canLoseTop() && !entries.isEmpty() && areListed(entries) &&
            std::ranges::any_of(m_parts.sort, isLost);
 }
 

@@ -46,7 +46,8 @@ public:
             hasVersionMark({0, m_parts.listWords.begin}) || hasVersionMark({m_parts.listWords.end, m_end});
         m_parts.isGrouped |= hasAggregate(m_parts.list) || hasAggregate(m_parts.order);
         m_parts.hasWindow |= hasOver(m_parts.list) || hasOver(m_parts.order);
-        m_parts.isLimited |= assignsVariable(m_parts.list);
+        m_parts.isLimited |= assigns(m_parts.list) || assigns(m_parts.where) || assigns(m_parts.order) ||
+                             assigns(m_parts.source);
         m_parts.hasRows = m_sql.dialect() == SqlDialect::PostgreSql && hasCall(m_parts.list, isRowFunction);
         return m_parts;
     }
@@ -288,11 +289,14 @@ private:
         return hasCall(range, isAggregateFunction);
     }
 
-    // MySQL's user variables number the records in the order in which they are read.
-    bool assignsVariable(TextRange range) const
+    // MySQL's user variables number the records in the order in which they are read. A subquery in FROM only
+    // sets their first value.
+    bool assigns(TextRange range) const
     {
         for (qsizetype i = range.begin; i + 1 < range.end; ++i) {
-            if (m_sql.isSymbol(i, u':') && m_sql.isSymbol(i + 1, u'='))
+            if (range.begin == m_parts.source.begin && isSubselect(m_sql, i))
+                i = afterBrackets(m_sql, i) - 1;
+            else if (m_sql.isSymbol(i, u':') && m_sql.isSymbol(i + 1, u'='))
                 return m_sql.dialect() == SqlDialect::MySql;
         }
         return false;
