@@ -1,11 +1,10 @@
 #include "Container.h"
 
+#include "DialogWatch.h"
+
 #include <cstdio>
-#include <iterator>
 #include <olectl.h>
 #include <stdexcept>
-#include <string_view>
-#include <thread>
 #include <utility>
 
 using Microsoft::WRL::ComPtr;
@@ -47,61 +46,6 @@ HWND newWindow(int width, int height)
     return window;
 }
 
-std::function<void()> pendingAction; // what the next dialog waits for
-
-// The window of this thread in front, unless it is a container's.
-HWND openDialog(DWORD thread)
-{
-    const HWND front = GetForegroundWindow();
-    wchar_t name[64]{};
-    if (!front || GetWindowThreadProcessId(front, nullptr) != thread ||
-        !GetClassNameW(front, name, static_cast<int>(std::size(name))))
-        return nullptr;
-    return std::wstring_view(name) == windowClassName ? nullptr : front;
-}
-
-// On a thread of its own, because the system delivers timers only when there are no other messages, and on a
-// busy machine there always are while a button is animated.
-void watchForDialog(const std::stop_token &stop, DWORD thread, HWND receiver)
-{
-    HWND seen = nullptr;
-    while (!stop.stop_requested()) {
-        Sleep(500);
-        // When it is in front for the second time, it has been drawn.
-        const HWND before = std::exchange(seen, openDialog(thread));
-        if (seen && seen == before) {
-            PostMessageW(receiver, WM_APP, 0, 0);
-            return;
-        }
-    }
-}
-
-std::jthread watcher;
-
-LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM wide, LPARAM data)
-{
-    if (message != WM_APP)
-        return DefWindowProcW(window, message, wide, data);
-    DestroyWindow(window);
-    if (pendingAction)
-        std::exchange(pendingAction, nullptr)();
-    return 0;
-}
-
-// A window of this thread for messages to it.
-HWND newReceiver()
-{
-    static const ATOM windowClass = [] {
-        WNDCLASSW description{};
-        description.lpfnWndProc = onMessage;
-        description.hInstance = GetModuleHandleW(nullptr);
-        description.lpszClassName = L"KovaAction";
-        return RegisterClassW(&description);
-    }();
-    return CreateWindowW(MAKEINTATOM(windowClass), nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
-                         GetModuleHandleW(nullptr), nullptr);
-}
-
 } // namespace
 
 Container::Container(int width, int height, bool userMode) : m_userMode(userMode)
@@ -129,8 +73,7 @@ Container::Container(int width, int height, bool userMode) : m_userMode(userMode
 
 Container::~Container()
 {
-    watcher = {}; // of a dialog that did not open
-    pendingAction = nullptr;
+    DialogWatch::cancel();
     release();
 }
 
@@ -249,8 +192,7 @@ void Container::key(WORD virtualKey, const std::vector<WORD> &modifiers)
 
 void Container::whenDialogIsOpen(std::function<void()> action)
 {
-    pendingAction = std::move(action);
-    watcher = std::jthread(watchForDialog, GetCurrentThreadId(), newReceiver());
+    DialogWatch::whenOpen(windowClassName, std::move(action));
 }
 
 void Container::answerQurryFilter(long cancel, const wchar_t *condition)
