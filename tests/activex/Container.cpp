@@ -97,6 +97,20 @@ bool Container::release()
     return gone;
 }
 
+void Container::closeForm()
+{
+    DestroyWindow(std::exchange(m_window, nullptr));
+    run();
+}
+
+HRESULT Container::openForm(int width, int height)
+{
+    m_window = newWindow(width, height);
+    const HRESULT outcome = doVerb(OLEIVERB_INPLACEACTIVATE);
+    run();
+    return outcome;
+}
+
 HWND Container::controlWindow() const
 {
     HWND window = nullptr;
@@ -223,43 +237,6 @@ void Container::run(const std::function<bool()> &done, DWORD most)
             DispatchMessageW(&message);
         }
     }
-}
-
-bool Container::saveScreen(const std::wstring &file) const
-{
-    RECT frame{};
-    GetWindowRect(m_window, &frame);
-    RECT front{};
-    GetWindowRect(GetForegroundWindow(), &front);
-    UnionRect(&frame, &frame, &front);
-    const int width = frame.right - frame.left;
-    const int height = frame.bottom - frame.top;
-    const HDC screen = GetDC(nullptr);
-    const HDC memory = CreateCompatibleDC(screen);
-    BITMAPINFO info{};
-    info.bmiHeader = {sizeof info.bmiHeader, width, height, 1, 24, BI_RGB, 0, 0, 0, 0, 0};
-    void *bits = nullptr;
-    const HBITMAP bitmap = CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    const HGDIOBJ before = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, width, height, screen, frame.left, frame.top, SRCCOPY);
-    GdiFlush();
-    const DWORD size = static_cast<DWORD>((width * 3 + 3) / 4 * 4 * height);
-    BITMAPFILEHEADER header{};
-    header.bfType = 0x4D42;
-    header.bfOffBits = sizeof header + sizeof info.bmiHeader;
-    header.bfSize = header.bfOffBits + size;
-    bool written = false;
-    if (FILE *out = _wfopen(file.c_str(), L"wb")) {
-        written = std::fwrite(&header, sizeof header, 1, out) == 1 &&
-                  std::fwrite(&info.bmiHeader, sizeof info.bmiHeader, 1, out) == 1 &&
-                  std::fwrite(bits, size, 1, out) == 1;
-        std::fclose(out);
-    }
-    SelectObject(memory, before);
-    DeleteObject(bitmap);
-    DeleteDC(memory);
-    ReleaseDC(nullptr, screen);
-    return written;
 }
 
 STDMETHODIMP Container::QueryInterface(REFIID iid, void **object)

@@ -43,6 +43,10 @@ public:
     HWND window() const { return m_window; }
     HWND controlWindow() const;
     HRESULT doVerb(LONG verb);
+    // Destroys the form's window while the control lives on, without a word to the control.
+    void closeForm();
+    // Activates the control in a new window.
+    HRESULT openForm(int width, int height);
     // Releases everything; returns true if the control was destroyed with the last reference.
     bool release();
 
@@ -76,8 +80,6 @@ public:
     static void press(WORD virtualKey, const std::vector<WORD> &modifiers = {});
     // Runs the message loop until it has been idle for a while, or until `done` returns true.
     void run(const std::function<bool()> &done = {}, DWORD most = 20000);
-    // A picture of the container's window with everything over it, and of the dialog in front of it.
-    bool saveScreen(const std::wstring &file) const;
 
     // IUnknown
     STDMETHODIMP QueryInterface(REFIID iid, void **object) override;

@@ -216,6 +216,55 @@ TEST(ContainerTest, AChangedPropertyChangesTheView)
     container.as<IViewObject2>()->SetAdvise(DVASPECT_CONTENT, 0, nullptr);
 }
 
+// The control in a form that was opened after its first one: seen, clicked, and in front of its dialog.
+void tryReopened(Container &container)
+{
+    const HWND window = container.controlWindow();
+    EXPECT_TRUE(IsWindowVisible(window));
+    EXPECT_EQ(GetParent(window), container.window());
+    RECT inner{};
+    RECT outer{};
+    GetClientRect(window, &inner);
+    GetClientRect(container.window(), &outer);
+    EXPECT_TRUE(EqualRect(&inner, &outer));
+    container.forget();
+    container.click(rowX, rowY);
+    EXPECT_EQ(container.countOf(6), 1); // DataClick
+    const double row = get(container.control(), L"GetGridRowL").number();
+    container.key(VK_DOWN);
+    EXPECT_EQ(get(container.control(), L"GetGridRowL").number(), row + 1);
+    HWND owner = nullptr;
+    Container::whenDialogIsOpen([&] {
+        owner = GetWindow(GetForegroundWindow(), GW_OWNER);
+        Container::press(VK_ESCAPE);
+    });
+    container.key('L', {VK_CONTROL});
+    container.run([&] { return owner && IsWindowEnabled(container.window()); });
+    EXPECT_EQ(owner, container.window());
+}
+
+TEST(ContainerTest, MovesToAnotherFormAfterItsOwnIsGone)
+{
+    Container container(800, 500);
+    load(container);
+    container.closeForm();
+    EXPECT_EQ(container.controlWindow(), nullptr);
+    ASSERT_EQ(container.as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    ASSERT_EQ(container.openForm(700, 400), S_OK);
+    tryReopened(container);
+}
+
+TEST(ContainerTest, MovesToAnotherFormThatIsTheFirstToTellIt)
+{
+    Container container(800, 500);
+    load(container);
+    for (int width : {700, 600}) {
+        container.closeForm();
+        ASSERT_EQ(container.openForm(width, 400), S_OK);
+        tryReopened(container);
+    }
+}
+
 TEST(ContainerTest, LeavesNoWindowsBehind)
 {
     const auto useOne = [] {

@@ -1,7 +1,9 @@
 #include "SampleControl.h"
 #include "Scene.h"
 
+#include <array>
 #include <atomic>
+#include <functional>
 #include <gtest/gtest.h>
 #include <objbase.h>
 #include <olectl.h>
@@ -74,10 +76,10 @@ TEST(Life, ControlsOfAnotherThreadAreRefused)
     EXPECT_EQ(elsewhere, RPC_E_WRONG_THREAD);
 }
 
-// Processes messages until `done`.
-void processMessages(const std::atomic<bool> &done)
+// Processes messages until `done` returns true.
+void processMessages(const std::function<bool()> &done)
 {
-    while (!done) {
+    while (!done()) {
         MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
         MSG message{};
         while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
@@ -115,7 +117,7 @@ TEST(Life, OneThreadAfterTheOtherCanHaveForms)
             CoUninitialize();
             done = true;
         });
-        processMessages(done);
+        processMessages([&] { return done.load(); });
         worker.join(); // the thread has ended, without a word to Qt
         useAForm();
     }
@@ -142,13 +144,65 @@ TEST(Life, AClientOfTheMultithreadedApartmentLeavesQtToForms)
             Sleep(10);
         CoUninitialize();
     });
-    processMessages(isReleased);
+    processMessages([&] { return isReleased.load(); });
     useAForm();
     isFormDone = true;
     client.join();
     EXPECT_EQ(made, S_OK);
     EXPECT_EQ(text, L"x");
     useAForm();
+}
+
+// Runs one test in a process of its own. Returns how that process ended; STILL_ACTIVE if it did not within a
+// minute.
+DWORD exitCodeOf(const wchar_t *test)
+{
+    std::array<wchar_t, MAX_PATH> program{};
+    GetModuleFileNameW(nullptr, program.data(), MAX_PATH);
+    std::wstring command =
+        std::wstring(L"activex_test --gtest_also_run_disabled_tests --gtest_filter=") + test;
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION process{};
+    if (!CreateProcessW(program.data(), command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                        &process))
+        return GetLastError();
+    CloseHandle(process.hThread);
+    const DWORD begin = GetTickCount();
+    DWORD code = STILL_ACTIVE;
+    processMessages([&] {
+        return !GetExitCodeProcess(process.hProcess, &code) || code != STILL_ACTIVE ||
+               GetTickCount() - begin > 60'000;
+    });
+    TerminateProcess(process.hProcess, 1);
+    CloseHandle(process.hProcess);
+    return code;
+}
+
+TEST(Life, DISABLED_AThreadWithAFormEnds)
+{
+    std::thread([] {
+        CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+        useAForm();
+        CoUninitialize();
+    }).join();
+}
+
+TEST(Life, AProcessEndsAfterAThreadWithAFormHasEnded)
+{
+    EXPECT_EQ(exitCodeOf(L"Life.DISABLED_AThreadWithAFormEnds"), 0u);
+}
+
+TEST(Life, DISABLED_TheHostEndsAtOnce)
+{
+    Container container(800, 500);
+    load(container);
+    ExitProcess(testing::Test::HasFailure() ? 1 : 0);
+}
+
+TEST(Life, AProcessEndsWhileAFormIsOpen)
+{
+    EXPECT_EQ(exitCodeOf(L"Life.DISABLED_TheHostEndsAtOnce"), 0u);
 }
 
 TEST(Life, AConnectionPointKeepsItsControl)

@@ -90,11 +90,10 @@ void EmbeddedWindow::place(const RECT &position, const RECT *clip)
 
 void EmbeddedWindow::setKeyboardFocus()
 {
-    if (!m_parent)
-        return;
+    const HWND window = handle();
     const HWND focused = GetFocus();
-    if (focused != handle() && !IsChild(handle(), focused))
-        SetFocus(handle());
+    if (window && focused != window && !IsChild(window, focused))
+        SetFocus(window);
 }
 
 void EmbeddedWindow::setResponsive(bool on)
@@ -106,7 +105,8 @@ void EmbeddedWindow::setResponsive(bool on)
 
 HWND EmbeddedWindow::handle() const
 {
-    return m_parent ? reinterpret_cast<HWND>(m_widget.winId()) : nullptr;
+    const HWND window = m_parent ? reinterpret_cast<HWND>(m_widget.winId()) : nullptr;
+    return IsWindow(window) ? window : nullptr; // it is destroyed together with the host's window
 }
 
 bool EmbeddedWindow::wants(const MSG &message) const
@@ -159,7 +159,7 @@ bool EmbeddedWindow::tabStaysInside(bool backwards) const
 void EmbeddedWindow::block()
 {
     const HWND top = GetAncestor(handle(), GA_ROOT);
-    if (EnableWindow(top, FALSE))
+    if (!top || EnableWindow(top, FALSE))
         return; // the host already has a dialog open
     m_disabled = top;
     m_blocked(true);

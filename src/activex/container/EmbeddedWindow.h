@@ -33,7 +33,7 @@ public:
     // Whether the user can work in it.
     void setResponsive(bool on);
 
-    HWND handle() const; // null while detached
+    HWND handle() const; // null while detached, and after the end of the host's window
     // Whether a key message is for the widget and not for the container's dialog keys.
     bool wants(const MSG &message) const;
 

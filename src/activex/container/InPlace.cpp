@@ -129,6 +129,8 @@ HRESULT InPlace::activate(Depth depth)
     IOleClientSite *client = m_control.oleObject().site();
     if (!client)
         return E_UNEXPECTED;
+    if (m_site && !m_window.handle())
+        deactivate(); // the host has destroyed its window, and this one with it
     if (!m_site) {
         ComPtr<IOleInPlaceSite> site;
         HRESULT outcome = client->QueryInterface(IID_PPV_ARGS(&site));
