@@ -117,6 +117,7 @@ function(kova_room name)
   else()
     kova_precompile(${target} core)
   endif()
+  kova_unite(${target} 8)
 endfunction()
 
 # kova_rooms_below(<variable> <room>...): the object libraries of these rooms and of all rooms they rest on.
@@ -142,20 +143,29 @@ function(kova_program name)
   kova_rooms_below(rooms ${PROGRAM_ROOMS})
   add_executable(${name} ${PROGRAM_SOURCES})
   kova_compile_settings(${name})
+  kova_unite(${name} 8)
   target_link_libraries(${name} PRIVATE ${rooms} ${PROGRAM_LINKS})
 endfunction()
 
+# kova_unite(<target> <number>): with KOVA_QUICK_BUILD, so many sources are compiled at a time, because most of the time goes
+# into headers and templates that all of them use.
+function(kova_unite target number)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ${KOVA_QUICK_BUILD} UNITY_BUILD_BATCH_SIZE ${number})
+  # GCC takes a source among others for a header, where an unnamed namespace would be a mistake.
+  target_compile_options(${target} PRIVATE
+    $<$<AND:$<BOOL:${KOVA_QUICK_BUILD}>,$<CXX_COMPILER_ID:GNU>>:-Wno-subobject-linkage>)
+endfunction()
+
 # kova_quick_compile(<target> [<files>]): compiles the sources of tests quickly; there are as many as of the library.
-# With KOVA_UNITY_TESTS, eight at a time, because most of the time goes into templates that all of them use. The given
-# files are compiled alone, because they define names that others define too. A developer's build does not optimize
-# them: what takes time in a test is the library, which is optimized.
+# The given files are compiled alone, because they define names that others define too. A developer's build does not
+# optimize tests: what takes time in a test is the library, which is optimized. GCC clears up its memory only when it has
+# used a gigabyte, because looking for what is not needed takes longer than a test.
 function(kova_quick_compile target)
-  set_target_properties(${target} PROPERTIES UNITY_BUILD ${KOVA_UNITY_TESTS} UNITY_BUILD_BATCH_SIZE 8)
+  kova_unite(${target} 16)
   set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
   target_compile_options(${target} PRIVATE
     "$<$<CONFIG:RelWithDebInfo>:SHELL:-O0 -U_FORTIFY_SOURCE>" # which only works when optimizing
-    # GCC takes a source among others for a header, where an unnamed namespace would be a mistake.
-    $<$<AND:$<BOOL:${KOVA_UNITY_TESTS}>,$<CXX_COMPILER_ID:GNU>>:-Wno-subobject-linkage>)
+    $<$<CXX_COMPILER_ID:GNU>:--param=ggc-min-heapsize=1000000>)
 endfunction()
 
 # kova_test(<name> SOURCES <files> ROOMS <rooms> LINKS <libraries> [RUN_BY <command>] [COST <seconds>] [MOC]

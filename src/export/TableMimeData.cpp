@@ -88,28 +88,28 @@ QByteArray beginOfCell(QByteArrayView text, ADODB::DataTypeEnum type)
     }
 }
 
-// HTML makes one blank of several and none of those at a line's ends.
-bool isLostBlank(QByteArrayView text, qsizetype at)
+// HTML makes one space of several and none of those at a line's ends.
+bool isLostSpace(QByteArrayView text, qsizetype at)
 {
     const auto isEnd = [](char c) { return c == ' ' || c == '\n' || c == '\r'; };
     return text[at] == ' ' &&
            (at == 0 || at + 1 == text.size() || isEnd(text[at - 1]) || isEnd(text[at + 1]));
 }
 
-// Blanks of another kind would stay too, but who pastes them would have another text. One family of programs
-// keeps the blanks of such a block, the other those of such spans.
-void appendWithBlanks(QByteArray &html, QByteArrayView text)
+// Spaces of another kind would stay too, but who pastes them would have another text. One family of programs
+// keeps the spaces of such a block, the other those of such spans.
+void appendWithSpaces(QByteArray &html, QByteArrayView text)
 {
     bool isChanged = text.contains('\t');
     for (qsizetype at = 0; at < text.size() && !isChanged; ++at)
-        isChanged = isLostBlank(text, at);
+        isChanged = isLostSpace(text, at);
     if (!isChanged)
         return appendHtml(html, text);
     html += "<pre>";
     for (qsizetype at = 0; at < text.size();) {
         const qsizetype begin = at;
-        const bool areBlanks = isLostBlank(text, at);
-        while (at < text.size() && isLostBlank(text, at) == areBlanks)
+        const bool areBlanks = isLostSpace(text, at);
+        while (at < text.size() && isLostSpace(text, at) == areBlanks)
             ++at;
         if (areBlanks)
             html += "<span style=\"mso-spacerun:yes\">";
@@ -180,7 +180,7 @@ QByteArray TableMimeData::html() const
                 at += m_text.mid(at, 1) == "\t" ? 1 : 0;
             }
             html += isHeading ? QByteArray("<th>") : beginOfCell(value, type);
-            appendWithBlanks(html, value);
+            appendWithSpaces(html, value);
             html += isHeading ? "</th>" : "</td>";
         }
         html += "</tr>";

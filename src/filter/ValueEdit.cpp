@@ -88,11 +88,6 @@ QString shortHintFor(FieldClass fieldClass)
                                               : QString();
 }
 
-bool hasDays(FieldClass fieldClass)
-{
-    return fieldClass == FieldClass::Date || fieldClass == FieldClass::Moment;
-}
-
 } // namespace
 
 ValueEdit::ValueEdit(QWidget *parent)

@@ -4,6 +4,7 @@
 #include "forms/FileDialog.h"
 #include "forms/FormTexts.h"
 #include "forms/Messages.h"
+#include "forms/widgets/Named.h"
 #include "forms/widgets/TextWidth.h"
 #include "forms/widgets/TickBoxes.h"
 #include "language/GroupedNumber.h"
@@ -40,13 +41,6 @@ QString captionOf(ExportFormat format)
         return FormTexts::FormatHtml;
     }
     Q_UNREACHABLE();
-}
-
-template<typename Widget>
-Widget *named(Widget *widget, const QString &name)
-{
-    widget->setObjectName(name);
-    return widget;
 }
 
 QGroupBox *groupOf(const QString &title, QRadioButton *first, QRadioButton *second)

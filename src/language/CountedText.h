@@ -18,7 +18,7 @@ public:
     template<typename... Others>
     QString arg(qint64 count, const QString &number, const Others &...others) const
     {
-        const QString form = formFor(count);
+        QString form = formFor(count);
         if (form.contains(QLatin1String("%1")))
             return form.arg(number, others...);
         if constexpr (sizeof...(others) > 0)

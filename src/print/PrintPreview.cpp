@@ -4,6 +4,7 @@
 #include "forms/Contrast.h"
 #include "forms/FileDialog.h"
 #include "forms/Messages.h"
+#include "forms/widgets/Named.h"
 #include "language/GroupedNumber.h"
 #include "print/PdfWriter.h"
 #include "print/PrintOptions.h"
@@ -29,13 +30,6 @@ namespace KOVAVSFDataGridLib {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-template<typename Widget>
-Widget *named(Widget *widget, const QString &name)
-{
-    widget->setObjectName(name);
-    return widget;
-}
 
 // Keeps the printer alive while something is written to it.
 class PrinterWriter final : public RecordWriter

@@ -2,6 +2,7 @@
 
 #include "forms/Contrast.h"
 #include "forms/FormTexts.h"
+#include "forms/widgets/Named.h"
 #include "forms/widgets/TickBoxes.h"
 
 #include <QtWidgets/QDialogButtonBox>
@@ -14,17 +15,6 @@
 namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-template<typename Widget>
-Widget *named(Widget *widget, const QString &name)
-{
-    widget->setObjectName(name);
-    return widget;
-}
-
-} // namespace
 
 FormatDialog::FormatDialog(const QString &column, bool isBoolean, const QString &format,
                            const QString &sample, int decimals, QWidget *parent)

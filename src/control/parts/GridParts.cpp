@@ -11,6 +11,7 @@
 #include "control/parts/toolbar/GridToolbar.h"
 #include "filter/ValueEdit.h"
 #include "forms/Contrast.h"
+#include "forms/widgets/Named.h"
 #include "forms/widgets/TickBoxes.h"
 #include "grid/FlexGrid.h"
 #include "grid/Twips.h"
@@ -31,13 +32,6 @@ namespace {
 constexpr int gridLeft = 7;         // twips
 constexpr int gridWidthMargin = 67; // twips
 constexpr int footGap = 90;         // twips, between the parts of the foot
-
-template<typename Widget>
-Widget *named(Widget *widget, const QString &name)
-{
-    widget->setObjectName(name);
-    return widget;
-}
 
 } // namespace
 

@@ -10,7 +10,7 @@ inline constexpr TextTable tr{"KOVAVSFDataGridLib::ViewerTexts"};
 
 inline constexpr Text Title = tr("全屏显示");
 inline constexpr Text Data = tr("查询结果");
-inline constexpr Text PageSuffix = tr("页");
+inline constexpr Text PageOfPages = tr("第%1页共%2页");
 inline constexpr Text GoToPageHint = tr("转到输入的页");
 inline constexpr Text Close = tr("返回(&X)");
 inline constexpr Text CloseHint = tr("退出全屏（Esc 或 F11）");

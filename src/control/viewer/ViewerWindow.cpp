@@ -1,7 +1,6 @@
 #include "control/viewer/ViewerWindow.h"
 
 #include "ado/Recordset.h"
-#include "control/parts/GridTexts.h"
 #include "control/parts/lines/EmptyHint.h"
 #include "control/parts/lines/FilterBar.h"
 #include "control/viewer/ViewerCells.h"
@@ -46,8 +45,7 @@ void ViewerWindow::showPageNumber(int page, qint64 pageCount)
 {
     const QString shown = QString::number(page);
     m_parts.txtPage->setText(shown);
-    m_parts.lblPageCount->setText(GridTexts::PagePrefix + shown + GridTexts::PageCountPrefix +
-                                  QString::number(pageCount) + ViewerTexts::PageSuffix);
+    m_parts.lblPageCount->setText(ViewerTexts::PageOfPages.arg(shown, QString::number(pageCount)));
 }
 
 void ViewerWindow::showTypedPage(const QString &text)

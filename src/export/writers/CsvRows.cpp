@@ -26,7 +26,7 @@ constexpr quint64 zeroByte(quint64 bytes)
     return (bytes - inEachByte(1)) & ~bytes & inEachByte(0x80);
 }
 
-// Not 0 when one of the eight bytes is at most a comma, but no blank: as the four are that need quotes, and
+// Not 0 when one of the eight bytes is at most a comma, but no space: as the four are that need quotes, and
 // few others.
 constexpr quint64 suspiciousByte(quint64 bytes)
 {

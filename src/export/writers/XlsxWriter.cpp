@@ -22,7 +22,7 @@ namespace {
 
 using Kind = ADODB::RawValue::Kind;
 
-constexpr qsizetype longestText = 32767; // UTF-16 units per cell
+constexpr qsizetype longestCell = 32767; // UTF-16 units per cell
 constexpr int widestColumn = 600;        // pixels; a wider one would fill the screen
 constexpr int mostDecimals = 15;
 constexpr int firstYear = 1900; // of the calendar in spreadsheets; its days before March are off by one
@@ -202,11 +202,11 @@ bool XlsxWriter::writeMoment(quint16 col, const ADODB::RawValue &cell, const Exp
 void XlsxWriter::writeText(quint16 col, QByteArrayView utf8)
 {
     QByteArray text = utf8.toByteArray();
-    if (text.size() > longestText) {
+    if (text.size() > longestCell) {
         QString wide = ADODB::textFromUtf8(text);
-        if (wide.size() > longestText) {
-            const bool splitsPair = wide.at(longestText - 1).isHighSurrogate();
-            wide.truncate(longestText - (splitsPair ? 1 : 0));
+        if (wide.size() > longestCell) {
+            const bool splitsPair = wide.at(longestCell - 1).isHighSurrogate();
+            wide.truncate(longestCell - (splitsPair ? 1 : 0));
             text = wide.toUtf8();
             ++m_cutTexts;
         }

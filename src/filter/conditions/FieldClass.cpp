@@ -33,4 +33,9 @@ FieldClass fieldClassOf(ADODB::DataTypeEnum type)
     }
 }
 
+bool hasDays(FieldClass fieldClass)
+{
+    return fieldClass == FieldClass::Date || fieldClass == FieldClass::Moment;
+}
+
 } // namespace KOVAVSFDataGridLib

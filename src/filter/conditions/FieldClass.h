@@ -17,4 +17,7 @@ enum class FieldClass {
 
 FieldClass fieldClassOf(ADODB::DataTypeEnum type);
 
+// Whether values have a day, with or without a time.
+bool hasDays(FieldClass fieldClass);
+
 } // namespace KOVAVSFDataGridLib

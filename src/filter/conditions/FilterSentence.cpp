@@ -13,11 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool hasDays(FieldClass fieldClass)
-{
-    return fieldClass == FieldClass::Date || fieldClass == FieldClass::Moment;
-}
-
 QString quoted(const QString &text)
 {
     return FilterTexts::QuotedInSentence.arg(text);
@@ -27,7 +22,7 @@ QString wordsOfValue(FieldClass fieldClass, const QString &typed, QDate today)
 {
     if (fieldClass == FieldClass::Text)
         return quoted(typed);
-    const QString text = valueInWords(fieldClass, typed.trimmed());
+    QString text = valueInWords(fieldClass, typed.trimmed());
     const auto days = hasDays(fieldClass) ? readDays(text, today) : std::nullopt;
     if (!days || days->first.toString(Qt::ISODate) == text)
         return text;

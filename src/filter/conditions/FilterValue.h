@@ -25,7 +25,7 @@ struct FilterValue
 
 // No value if the text is not a value of that class. Digits and signs
 // may be full-width, as typed with Chinese input methods. Texts are used
-// as typed, including blanks. Relative days are relative to `today`.
+// as typed, including spaces. Relative days are relative to `today`.
 std::optional<FilterValue> readFilterValue(const Dialect &dialect, FieldClass fieldClass,
                                            const QString &typed, QDate today);
 

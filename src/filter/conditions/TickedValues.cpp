@@ -19,8 +19,7 @@ const QString nullKey = u"null"_s;
 
 bool isList(const FilterField &field, const QStringList &values)
 {
-    const bool hasDays = field.fieldClass == FieldClass::Date || field.fieldClass == FieldClass::Moment;
-    return values.size() > 1 || hasDays;
+    return values.size() > 1 || hasDays(field.fieldClass);
 }
 
 // The records with one of the values.

@@ -12,8 +12,7 @@ namespace {
 
 QString valueOf(const Dialect &dialect, const FilterField &field)
 {
-    const bool hasDays = field.fieldClass == FieldClass::Moment || field.fieldClass == FieldClass::Date;
-    return hasDays ? dayValue(dialect, field.written) : field.written;
+    return hasDays(field.fieldClass) ? dayValue(dialect, field.written) : field.written;
 }
 
 } // namespace

@@ -51,10 +51,9 @@ QString conditionOf(const FilterState &rows, const Dialect &dialect, const std::
 FilterChoice choiceOf(const FilterField &field, const TickedValues &ticked)
 {
     FilterChoice choice{.field = field, .includesNull = false};
-    const bool hasDays = field.fieldClass == FieldClass::Date || field.fieldClass == FieldClass::Moment;
     if (ticked.values.isEmpty()) {
         choice.op = ticked.areLeftOut ? FilterOperator::IsNotEmpty : FilterOperator::IsEmpty;
-    } else if (ticked.values.size() > 1 || hasDays) {
+    } else if (ticked.values.size() > 1 || hasDays(field.fieldClass)) {
         choice.op = ticked.areLeftOut ? FilterOperator::NotInList : FilterOperator::InList;
         choice.value = listOf(ticked);
     } else {

@@ -31,7 +31,7 @@ void FilterGrip::keyPressEvent(QKeyEvent *event)
         m_isDragging = false;
         Q_EMIT cancelled();
     } else
-        QWidget::keyPressEvent(event); // there is nothing to press
+        event->ignore(); // unlike a button: there is nothing to press
 }
 
 void FilterGrip::mousePressEvent(QMouseEvent *event)

@@ -22,7 +22,6 @@ using namespace Qt::StringLiterals;
 
 FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *parent)
     : QWidget(parent),
-      m_context(std::move(context)),
       m_grip(new FilterGrip(this)),
       m_opens(makeBrackets(BracketCombo::Side::Before)),
       m_not(new CheckBox(FilterTexts::Not, this)),
@@ -48,6 +47,17 @@ FilterRow::FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *p
     connect(m_join, &QComboBox::currentIndexChanged, this, &FilterRow::changed);
     connect(m_enclose, &QToolButton::clicked, this, &FilterRow::encloseRequested);
     connect(m_delete, &QToolButton::clicked, this, &FilterRow::deleteRequested);
+    setContext(std::move(context));
+}
+
+void FilterRow::setContext(std::shared_ptr<const FilterRowContext> context)
+{
+    m_context = std::move(context);
+    {
+        const QSignalBlocker quiet(m_field);
+        for (const FilterField &field : m_context->fields)
+            m_field->addItem(field.caption);
+    }
     onFieldChanged();
 }
 

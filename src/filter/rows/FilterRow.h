@@ -49,6 +49,8 @@ class FilterRow final : public QWidget
 
 public:
     explicit FilterRow(std::shared_ptr<const FilterRowContext> context, QWidget *parent = nullptr);
+    // Offers other fields, in a row that has had none.
+    void setContext(std::shared_ptr<const FilterRowContext> context);
 
     // Sets the object names of the parts; `number` is from 1.
     void setNumber(int number);

@@ -36,8 +36,6 @@ int lettersOfOperators(const QWidget &widget)
 
 void FilterRow::makeParts()
 {
-    for (const FilterField &field : m_context->fields)
-        m_field->addItem(field.caption);
     m_not->setToolTip(FilterTexts::NotTip);
     m_not->setAccessibleDescription(FilterTexts::NotTip);
     m_withNull->setToolTip(FilterTexts::WithNullTip);

@@ -27,7 +27,11 @@ FilterRows::FilterRows(QWidget *parent)
 
 void FilterRows::start(std::shared_ptr<const FilterRowContext> context)
 {
+    const bool hadFields = m_context && !m_context->fields.empty();
     m_context = std::move(context);
+    // A row is not built twice for a dialog that opens.
+    if (m_rows.size() == 1 && !hadFields)
+        return m_rows.constFirst()->setContext(m_context);
     const bool wasGrouped = isGrouped();
     m_outline.reset();
     const QList<FilterRow *> previous = std::exchange(m_rows, {});

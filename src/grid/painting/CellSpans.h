@@ -6,7 +6,7 @@ class QTableView;
 
 namespace KOVAVSFDataGridLib {
 
-// Which rows and columns of a view are in a rectangle of its viewport. They are told by their visual indexes.
+// Which rows and columns of a view are in a rectangle of its viewport. Both are given as visual indexes.
 class CellSpans
 {
 public:

@@ -52,7 +52,7 @@ int StatementLine::smallestWidth() const
 
 QString StatementLine::shownText() const
 {
-    const QString all = ElidedLabel::shownText();
+    QString all = ElidedLabel::shownText();
     if (m_places.isEmpty() || all.startsWith(place()))
         return all;
     const auto fitting = std::ranges::find_if(

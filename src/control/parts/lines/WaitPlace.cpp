@@ -22,8 +22,8 @@ public:
         : m_progress(window, std::move(place), GridTexts::WaitingForDatabase)
     {
     }
-    // Closing the window must not cancel a change that is in progress.
-    bool shouldContinue() override { return m_progress.shouldContinue(0) || m_progress.isWindowGone(); }
+    bool shouldContinue() override { return m_progress.shouldContinue(0); }
+    bool isWindowGone() const override { return m_progress.isWindowGone(); }
 
 private:
     SharedValues &m_shared = SharedValues::instance();

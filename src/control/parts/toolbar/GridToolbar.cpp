@@ -126,7 +126,7 @@ void GridToolbar::showCaptions()
     }
 }
 
-// The arrow stands at the caption that it belongs to: a tool button keeps two blanks and a margin free behind
+// The arrow stands at the caption that it belongs to: a tool button keeps two spaces and a margin free after
 // its text, which would move the arrow to the next button.
 void GridToolbar::narrowMenuButton()
 {
