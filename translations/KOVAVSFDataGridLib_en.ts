@@ -1106,11 +1106,11 @@
     </message>
     <message>
         <source>%1是 %2 之一</source>
-        <translation>%1 is one of %2</translation>
+        <translation>%1 is one of (%2)</translation>
     </message>
     <message>
         <source>%1不是 %2 之一</source>
-        <translation>%1 is not one of %2</translation>
+        <translation>%1 is not one of (%2)</translation>
     </message>
     <message>
         <source>%1%2 %3 和 %4 之间</source>
@@ -1569,11 +1569,11 @@
     </message>
     <message>
         <source>%1是%2之一</source>
-        <translation>%1 is one of %2</translation>
+        <translation>%1 is one of (%2)</translation>
     </message>
     <message>
         <source>%1不是%2之一</source>
-        <translation>%1 is not one of %2</translation>
+        <translation>%1 is not one of (%2)</translation>
     </message>
     <message>
         <source>%1%2%3和%4之间</source>
@@ -2796,6 +2796,14 @@
         <source>该语句按结果中没有的内容排序，筛选或选择字段后数据库不能保持这个顺序。请先在语句的字段中写出排序的内容。</source>
         <translation>This statement is sorted by something that its result lacks, and the database can&apos;t keep that order after a filter or a choice of fields. List what it is sorted by among its fields first.</translation>
     </message>
+    <message>
+        <source>查询结果中有名为“%1”的字段，数据库在子查询中会把它当作逻辑值。请先在语句中用 AS 给它另一个名称。</source>
+        <translation>The result has a field called &quot;%1&quot;. In a subquery, the database takes that for a truth value. Give the field another name with AS in the statement first.</translation>
+    </message>
+    <message>
+        <source>从当前语句得不到全部字段，请先返回上一步。</source>
+        <translation>The current statement cannot be shown with all fields. Go back a step first.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::SessionMessages</name>
@@ -2984,8 +2992,8 @@ Save it again anyway?</translation>
         <translation>Query result</translation>
     </message>
     <message>
-        <source>页</source>
-        <translation> pages</translation>
+        <source>第%1页共%2页</source>
+        <translation>Page %1 of %2</translation>
     </message>
     <message>
         <source>转到输入的页</source>

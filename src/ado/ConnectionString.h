@@ -9,7 +9,7 @@
 namespace ADODB {
 
 // A parsed connection string: `Keyword=value;…`. Keywords are case-insensitive. A value may be quoted with
-// '…' or "…" (double the quote inside) or {…} (double the } inside); otherwise blanks around it are ignored.
+// '…' or "…" (double the quote inside) or {…} (double the } inside); otherwise spaces around it are ignored.
 // If a keyword occurs twice, the last value is used, as in ADO. (An ODBC driver manager uses the first.)
 class KOVA_EXPORT ConnectionString
 {

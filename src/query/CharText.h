@@ -50,7 +50,7 @@ inline qsizetype findUpper(const QString &text, const QString &word)
     return found == text.cend() ? 0 : found - text.cbegin() + 1;
 }
 
-// The text without the blanks (U+0020, nothing else) at both ends.
+// The text without the spaces (U+0020, nothing else) at both ends.
 inline QString trim(const QString &text)
 {
     const auto isBlank = [](QChar c) { return c == u' '; };

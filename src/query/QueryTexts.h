@@ -20,9 +20,12 @@ inline constexpr Text EqualNames = tr("查询结果中有多个名为“%1”的
 inline constexpr Text UnknownTable =
     tr("无法确定字段“%1”属于哪个表，请先在语句中写出各字段的名称，不用“*”。");
 inline constexpr Text UnnamedField = tr("查询结果中有字段未命名，请先在语句中用 AS 为它命名。");
+inline constexpr Text RenamedField =
+    tr("查询结果中有名为“%1”的字段，数据库在子查询中会把它当作逻辑值。请先在语句中用 AS 给它另一个名称。");
 inline constexpr Text SortNotKept = tr("该语句按结果中没有的内容排序，筛选或选择字段后数据库不能保持这个顺序"
                                        "。请先在语句的字段中写出排序的内容。");
 inline constexpr Text TypeNotSorted = tr("数据库不能按字段“%1”的数据类型排序，也不能列出它的值。");
+inline constexpr Text NoAllFields = tr("从当前语句得不到全部字段，请先返回上一步。");
 inline constexpr Text NoPartFields = tr("部分字段的语句与当前语句的字段对应不上，不能只显示这些字段。");
 inline constexpr Text TypeNotFiltered = tr("对不起，过滤操作不支持选中内容的数据类型！");
 

@@ -1,12 +1,42 @@
 #include "query/clsFilterManagement.h"
 
 #include "query/CharText.h"
+#include "query/conditions/SelectionText.h"
 #include "sql/AllDBType.h"
 #include "sql/Names.h"
+
+#include <algorithm>
 
 namespace KOVAVSFDataGridLib {
 
 using namespace CharText;
+
+namespace {
+
+// The sort list without the terms by fields of `all` that are not among `shown`.
+QString withoutFields(const QString &sortList, const QStringList &all, const QStringList &shown,
+                      const Dialect &dialect)
+{
+    QStringList terms = splitList(sortList, dialect);
+    terms.removeIf([&](const QString &term) {
+        const QString field = splitSortTerm(term).field;
+        return all.contains(field) && !shown.contains(field);
+    });
+    return terms.join(u',');
+}
+
+// Those of the fields that the sort list has.
+QList<OfferedField> sortedBy(QList<OfferedField> fields, const QString &sortList, const Dialect &dialect)
+{
+    const QStringList terms = splitList(sortList, dialect);
+    fields.removeIf([&](const OfferedField &field) {
+        return std::ranges::none_of(
+            terms, [&](const QString &term) { return splitSortTerm(term).field == field.written; });
+    });
+    return fields;
+}
+
+} // namespace
 
 clsFilterManagement::clsFilterManagement(FieldReader *reader, FieldChooser *chooser)
 {
@@ -119,7 +149,8 @@ bool clsFilterManagement::GetPartShowSelFields(const QString &strAllFields, cons
     if (!m_tableFields.GetPartSelFields(strAllFields, strPartField, chosen))
         return false;
     if (!isText) {
-        strRetFields = current->withFields(splitList(chosen, m_history.UsedDialect()));
+        strRetFields =
+            m_history.WithLastSort(current->withFields(splitList(chosen, m_history.UsedDialect())));
         m_memory.currentStatement = strRetFields;
         return !strRetFields.isEmpty();
     }
@@ -143,16 +174,22 @@ bool clsFilterManagement::GetPartSortSelFields(const QString &strAllFields, cons
     m_tableFields.AllFieldString = strAllFields;
     m_tableFields.SortFieldString = strSortField;
     QString offered = strAllFields;
+    QString sort = strSortField;
     auto all = m_history.DerivationOf(strAllFields);
+    if (all)
+        m_tableFields.SetFurtherFields(sortedBy(all->sortKeyFields(), sort, m_history.UsedDialect()));
     if (const clsShowSQLSentence *const latest = m_history.Item(m_history.Count());
         latest && all && (m_history.NamesShownAlone(*all) || all->isDistinct())) {
         offered = m_history.LineOf(latest->ShowSQL); // no other field can be used
+        // Where the table has the fields of a DISTINCT, it can also be sorted by those that are not shown.
+        if (const auto shown = m_history.DerivationWithFields(offered); shown && shown->isDistinct())
+            sort = withoutFields(sort, all->written(), shown->written(), m_history.UsedDialect());
         all = m_history.DerivationOf(offered);
     }
     if (all && (!all->isSimple() || all->isJoined()))
         m_tableFields.SetWrittenFields(all->written());
     m_tableFields.SetWhyNotSorted(m_history.WhyNotSorted(offered));
-    return m_tableFields.GetSortSelFields(offered, strSortField, strRetFields);
+    return m_tableFields.GetSortSelFields(offered, sort, strRetFields);
 }
 
 bool clsFilterManagement::GetPartShowFields(QString &strRetSelFields)
@@ -198,6 +235,8 @@ std::optional<QString> clsFilterManagement::WithoutConditions(const QString &sta
     if (bare && all->hasListAsTable() && !current->table().isEmpty() && !current->hasListAsTable() &&
         !current->hasAsTable(*all))
         current = m_history.DerivationOf(m_history.WithFieldsOfWhole(*current, *all, *all));
+    if (current && bare && !current->aliasesAsTable().isEmpty())
+        current = m_history.DerivationOf(current->aliasesAsTable());
     if (!current)
         return std::nullopt;
     if (!bare || !current->hasAsTable(*all))

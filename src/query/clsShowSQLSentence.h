@@ -24,6 +24,8 @@ public:
     QString OrgSQL;          // the filter that the entry was created with
     QString ShowSQL;         // the statement that the grid runs
     QString NewSQL;          // a composed statement
+    // The statement that was sorted last. A later choice of fields may lack terms of its sort.
+    QString SortedSQL;
 
     void InitData() { *this = {}; }
 

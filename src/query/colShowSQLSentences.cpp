@@ -85,6 +85,7 @@ bool colShowSQLSentences::AddAllSQLMess(const QString &strSQLFields, const QStri
     entry.UpdateSQLCompoment(strSQLFields, strSQLWhere, strSQLOrder);
     entry.OrgSQL = strOrgSQL;
     entry.ShowSQL = strShowSQL;
+    entry.SortedSQL = strShowSQL;
     entry.IsShowAllFields = lngIsShowAllFields;
     entry.AllFields = strAllFields;
     entry.PartFields = strPartFields;
@@ -110,10 +111,17 @@ bool colShowSQLSentences::AddCurrentSQL(const QString &strShowSQL, ShownFields l
     if (partFields == NoPartField())
         partFields = latest ? latest->CurrPartFields : QString();
     QString sortFields = strCurrSortFields;
-    if (sortFields == NoSort())
+    QString sortedStatement = strShowSQL;
+    if (sortFields == NoSort()) {
         sortFields = latest ? latest->CurrOrderFields : QString();
-    return AddSQLMess(m_originFilter, strShowSQL, lngIsShowAllFields, m_allFields, m_showFieds, m_orderWord,
-                      partFields, sortFields, PassKey);
+        if (latest)
+            sortedStatement = latest->SortedSQL;
+    }
+    if (!AddSQLMess(m_originFilter, strShowSQL, lngIsShowAllFields, m_allFields, m_showFieds, m_orderWord,
+                    partFields, sortFields, PassKey))
+        return false;
+    Item(Count())->SortedSQL = sortedStatement;
+    return true;
 }
 
 bool colShowSQLSentences::GetLatestSQL(QString &PassFilter, QString *PassKey) const
@@ -321,7 +329,7 @@ bool colShowSQLSentences::BringInStepWith(const clsShowSQLSentence &entry, const
     if (!partFields || !m_catalogue.SetPartFieldStatusByCol(NamesInCatalogue(*partFields)))
         return false;
     m_isPartKnownByPlace = false;
-    SetPartFields(PartOfEqualNames(entry.AllFields, partStatement));
+    SetPartFields(PartByPlace(entry.AllFields, partStatement));
     return true;
 }
 

@@ -116,6 +116,9 @@ public:
     std::shared_ptr<const Derivation> DerivationOf(const QString &statement) const;
     // The same, but null if this step can be done as plain text.
     std::shared_ptr<const Derivation> DerivationOf(const QString &statement, DerivationStep step) const;
+    // The same as the first, and knows the fields of a star even if the statement can be derived without
+    // them.
+    std::shared_ptr<const Derivation> DerivationWithFields(const QString &statement) const;
 
     // Why this step can't be applied to the latest entry, as a text for the user; empty if it can.
     QString WhyNot(DerivationStep step) const;
@@ -125,6 +128,10 @@ public:
     QString WhyNotSorted(const QString &statement, qsizetype column) const;
     // For all of its fields.
     QStringList WhyNotSorted(const QString &statement) const;
+
+    // Why the latest entry can't be shown with all fields, nor with others of them, as a text for the user;
+    // empty if it can.
+    QString WhyNoAllFields() const;
 
     // Why the latest entry can't be shown with its part fields, as a text for the user; empty if it can or
     // has none.
@@ -152,11 +159,16 @@ public:
     // a statement with hasListAsTable().
     QString WithFieldsOfWhole(const Derivation &shown, const Derivation &all, const Derivation &fields) const;
 
+    // A statement derived from the latest entry with other fields: sorted by all terms of the last sort that
+    // these fields allow, not only by those that the latest entry could keep.
+    QString WithLastSort(const QString &statement) const;
+
     // Whether conditions and sorts can use only the shown fields, and not the other fields of `all`.
     bool NamesShownAlone(const Derivation &all) const;
 
-    // Whether the fields in the list determine which rows the statement returns.
-    bool IsDistinct(const QString &statement) const;
+    // Whether the shown fields are all that can be used of a statement, so that it must be opened even where
+    // a result with more fields is open: with DISTINCT, other fields mean other rows.
+    bool IsShownAlone(const QString &statement) const;
 
     // The start of a statement with chosen fields, as accepted by AddCurrentSQL for the part fields.
     QString GetFieldsStatement(const QString &statement) const;
@@ -196,7 +208,8 @@ public:
     const_iterator end() const { return m_entries.end(); }
 
 private:
-    QString WhyNotSorted(const QString &statement, const SourceField &field, qsizetype column) const;
+    QString WhyNotSorted(const QString &statement, const std::vector<SourceField> &fields,
+                         qsizetype column) const;
     std::shared_ptr<const Derivation> DerivationOf(const QString &statement,
                                                    const std::vector<SourceField> &fields,
                                                    const QString &connectionString) const;
@@ -209,7 +222,8 @@ private:
     bool CanShowFieldsOf(const QString &partStatement) const;
     bool StepBackTo(qsizetype position, QString &PassFilter, QString *PassKey);
     bool BringInStepWith(const clsShowSQLSentence &entry, const QString &connectionString);
-    QList<bool> PartOfEqualNames(const QString &statement, const QString &partStatement) const;
+    QList<bool> PartByPlace(const QString &statement, const QString &partStatement) const;
+    bool HasPartFields(const QString &statement, const QString &partStatement) const;
     bool FillCatalogue(const QString &connectionString, const QString &statement);
     QStringList NamesInCatalogue(const std::vector<SourceField> &fields) const;
     void WriteCatalogueAsText(const QString &statement);

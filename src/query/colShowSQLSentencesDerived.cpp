@@ -3,8 +3,6 @@
 #include "query/QueryTexts.h"
 #include "query/conditions/Conditions.h"
 
-#include <QtCore/QSet>
-
 #include <algorithm>
 
 // The functions that derive statements by their clauses instead of as plain text.
@@ -17,16 +15,6 @@ namespace {
 bool isTableFoundAsText(const QString &statement, const Derivation &derivation)
 {
     return GetTableOfSQL(statement) == derivation.source();
-}
-
-// Whether both select from subqueries, but from different ones: the subquery of the full statement lacks the
-// conditions that were added to an earlier one.
-bool haveDifferentTables(const Derivation &a, const Derivation &b)
-{
-    const QString sourceA = a.source();
-    const QString sourceB = b.source();
-    return sourceA.startsWith(u'(') && sourceB.startsWith(u'(') &&
-           sourceA.simplified().compare(sourceB.simplified(), Qt::CaseInsensitive) != 0;
 }
 
 } // namespace
@@ -57,6 +45,13 @@ std::shared_ptr<const Derivation> colShowSQLSentences::DerivationOf(const QStrin
         return byText;
     const auto fields = m_reader->Read(m_connString, line);
     return fields ? DerivationOf(line, *fields, m_connString) : byText;
+}
+
+std::shared_ptr<const Derivation> colShowSQLSentences::DerivationWithFields(const QString &statement) const
+{
+    auto derivation = DerivationOf(statement);
+    const auto fields = derivation ? m_reader->Read(m_connString, LineOf(statement)) : std::nullopt;
+    return fields ? DerivationOf(LineOf(statement), *fields, m_connString) : derivation;
 }
 
 // Each query about a star is a wait, so the database is queried only if the fields' tables can't tell.
@@ -112,14 +107,19 @@ QString colShowSQLSentences::WhyNot(DerivationStep step) const
 {
     const clsShowSQLSentence *const latest = Latest();
     const auto derivation = latest ? DerivationOf(latest->ShowSQL, step) : nullptr;
-    return derivation ? derivation->whyNot(step) : QString();
+    const QString reason = derivation ? derivation->whyNot(step) : QString();
+    return reason.isEmpty() && step == DerivationStep::Fields ? WhyNoAllFields() : reason;
 }
 
-QString colShowSQLSentences::WhyNotSorted(const QString &statement, const SourceField &field,
+// What is derived by its text alone does not know the fields of a star.
+QString colShowSQLSentences::WhyNotSorted(const QString &statement, const std::vector<SourceField> &fields,
                                           qsizetype column) const
 {
-    const auto derivation = field.hasKnownOrder ? nullptr : DerivationOf(statement);
-    const QString question = derivation ? derivation->statementOfOrder(column) : QString();
+    const SourceField &field = fields[static_cast<std::size_t>(column)];
+    if (field.hasKnownOrder || !engineOf(m_connString).isKnown())
+        return {};
+    const auto derivation = DerivationOf(LineOf(statement), fields, m_connString);
+    const QString question = derivation->statementOfOrder(column);
     return question.isEmpty() || m_reader->Accepts(m_connString, question)
                ? QString()
                : QueryTexts::TypeNotSorted.arg(field.name);
@@ -130,27 +130,16 @@ QString colShowSQLSentences::WhyNotSorted(const QString &statement, qsizetype co
     const auto fields = m_reader ? m_reader->Read(m_connString, LineOf(statement)) : std::nullopt;
     if (!fields || column < 0 || column >= std::ssize(*fields))
         return {};
-    return WhyNotSorted(statement, (*fields)[static_cast<std::size_t>(column)], column);
+    return WhyNotSorted(statement, *fields, column);
 }
 
 QStringList colShowSQLSentences::WhyNotSorted(const QString &statement) const
 {
     const auto fields = m_reader ? m_reader->Read(m_connString, LineOf(statement)) : std::nullopt;
     QStringList reasons;
-    for (const SourceField &field : fields.value_or(std::vector<SourceField>()))
-        reasons.append(WhyNotSorted(statement, field, reasons.size()));
+    while (fields && reasons.size() < std::ssize(*fields))
+        reasons.append(WhyNotSorted(statement, *fields, reasons.size()));
     return reasons;
-}
-
-QString colShowSQLSentences::WhyNoPartFields() const
-{
-    const clsShowSQLSentence *const latest = Latest();
-    QString partStatement;
-    if (!latest || !latest->GetCurrUsePartFieldSQL(partStatement) ||
-        !WithFieldsOf(latest->ShowSQL, partStatement).isEmpty())
-        return {};
-    const QString reason = WhyNot(DerivationStep::Fields);
-    return reason.isEmpty() ? QueryTexts::NoPartFields : reason;
 }
 
 QString colShowSQLSentences::GetColumnRealName(const QString &shownStatement, const QStringList &shownNames,
@@ -171,14 +160,12 @@ QString colShowSQLSentences::GetColumnRealName(const QString &shownStatement, co
 std::optional<FilteredResult> colShowSQLSentences::GetFilteredResult() const
 {
     const clsShowSQLSentence *const latest = Latest();
-    auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
+    const auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
     if (!all || (all->isSimple() && !all->isJoined() && isTableFoundAsText(latest->AllFields, *all)))
         return std::nullopt;
-    const QString &named = NamesShownAlone(*all) ? LineOf(latest->ShowSQL) : latest->AllFields;
     // By the names in the result, not those in the statement.
-    if (const auto fields = m_reader->Read(m_connString, named))
-        all = DerivationOf(named, *fields, m_connString);
-    return all->filteredResult();
+    return DerivationWithFields(NamesShownAlone(*all) ? latest->ShowSQL : latest->AllFields)
+        ->filteredResult();
 }
 
 QString colShowSQLSentences::GetConditionOf(const QString &statement) const
@@ -214,149 +201,6 @@ bool colShowSQLSentences::CanName(const clsDataField &field) const
         return !field.FieldWholeName.isEmpty() || !NamesByItself(*all);
     const auto shown = DerivationOf(latest->ShowSQL);
     return shown->names().contains(field.FieldName);
-}
-
-QStringList colShowSQLSentences::EntriesOfEqualNames(const QString &statement) const
-{
-    const clsShowSQLSentence *const latest = Latest();
-    const auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
-    if (!all || QSet<QString>(all->names().cbegin(), all->names().cend()).size() == all->names().size())
-        return {};
-    const auto derived = DerivationOf(statement);
-    return derived ? all->listedFor(*derived) : QStringList();
-}
-
-// A name finds only the first field with that name, so the list entries are compared. Empty if the names are
-// unique or the entries can't tell.
-QList<bool> colShowSQLSentences::PartOfEqualNames(const QString &statement,
-                                                  const QString &partStatement) const
-{
-    const auto all = DerivationOf(statement);
-    if (!all || QSet<QString>(all->names().cbegin(), all->names().cend()).size() == all->names().size())
-        return {};
-    const auto part = DerivationOf(partStatement);
-    const QStringList listed = part ? all->listedFor(*part) : QStringList();
-    QList<bool> areParts;
-    for (qsizetype i = 0; i < all->listed().size() && !listed.isEmpty(); ++i)
-        areParts.append(listed.contains(all->listed().at(i)));
-    return areParts;
-}
-
-QList<bool> colShowSQLSentences::PartFields() const
-{
-    QList<bool> areParts;
-    for (const clsDataField &field : m_catalogue)
-        areParts.append(m_isPartKnownByPlace ? field.IsPartField != 0
-                                             : m_catalogue.IsSelFieldPartField(field.FieldName));
-    return areParts;
-}
-
-void colShowSQLSentences::SetPartFields(const QList<bool> &areParts)
-{
-    if (areParts.size() != m_catalogue.Count())
-        return;
-    m_isPartKnownByPlace = true;
-    for (qsizetype i = 0; i < areParts.size(); ++i)
-        m_catalogue.Update(m_catalogue.Item(i + 1)->FieldKey,
-                           [&](clsDataField &field) { field.IsPartField = areParts.at(i) ? 1 : 0; });
-}
-
-bool colShowSQLSentences::IsDistinct(const QString &statement) const
-{
-    const auto derivation = DerivationOf(statement);
-    return derivation && derivation->isDistinct();
-}
-
-QString colShowSQLSentences::GetFieldsStatement(const QString &statement) const
-{
-    if (const auto derivation = DerivationOf(statement, DerivationStep::Fields))
-        return derivation->fieldsStatement();
-    const auto sentence = SplitSQLSentence(statement);
-    return sentence ? sentence->fields : QString();
-}
-
-bool colShowSQLSentences::GetNextShowSQL(StatementType SQLType, QString &PassSQL) const
-{
-    PassSQL.clear();
-    const clsShowSQLSentence *const latest = Latest();
-    if (!latest)
-        return false;
-    if (SQLType != AllFieldsStatement && SQLType != PartFieldsStatement)
-        return true;
-    QString fieldStatement = latest->AllFields;
-    const bool isPart = SQLType == PartFieldsStatement;
-    if (isPart && latest->GetCurrUsePartFieldSQL(fieldStatement) && !CanShowFieldsOf(fieldStatement))
-        fieldStatement = latest->AllFields;
-    QString shown = latest->ShowSQL;
-    const auto all = isPart && !m_orderWord.isEmpty() ? DerivationOf(latest->AllFields) : nullptr;
-    // Of several tables, only the whole list may tell what the sort means.
-    if (all && all->isJoined()) {
-        if (const auto derivation = DerivationOf(shown); derivation && !derivation->isSorted())
-            shown = Sorted(WithFieldsOf(shown, latest->AllFields), m_orderWord);
-    }
-    const QString statement = WithFieldsOf(shown, fieldStatement);
-    if (statement.isEmpty())
-        return false;
-    PassSQL = Sorted(statement, m_orderWord);
-    return true;
-}
-
-// Not what a host has written so that neither the database nor the catalogue knows its fields.
-bool colShowSQLSentences::CanShowFieldsOf(const QString &partStatement) const
-{
-    const auto part = engineOf(m_connString).isKnown() ? DerivationOf(partStatement) : nullptr;
-    return !part ||
-           std::ranges::all_of(part->names(), [&](const QString &name) { return m_catalogue.Find(name); }) ||
-           m_reader->Read(m_connString, partStatement);
-}
-
-QString colShowSQLSentences::Sorted(const QString &statement, const QString &sortList) const
-{
-    const auto derivation = sortList.isEmpty() ? nullptr : DerivationOf(statement, DerivationStep::Sort);
-    if (!derivation)
-        return AppendOrderWord(statement, sortList);
-    return DerivationOf(statement)->isSorted() ? statement : derivation->withSort(sortList);
-}
-
-QString colShowSQLSentences::WithFieldsOf(const QString &statement, const QString &fieldStatement) const
-{
-    const auto derivation = DerivationOf(statement);
-    const auto fields = DerivationOf(fieldStatement);
-    const bool isText = !derivation || !fields ||
-                        (derivation->isTextWork(DerivationStep::Fields) && fields->isSimple() &&
-                         !haveDifferentTables(*derivation, *fields));
-    if (isText)
-        return ReplaceSQLFieldPart(LineOf(statement), fieldStatement);
-    const auto all = DerivationOf(Latest()->AllFields);
-    if (all && all->hasListAsTable())
-        return WithFieldsOfWhole(*derivation, *all, *fields);
-    // A host's part statement can use an expression for a field that the user knows by its alias.
-    const bool isOverSame = all && !all->isSimple() && fields != all &&
-                            all->source().simplified() == fields->source().simplified() &&
-                            derivation->source().simplified() == fields->source().simplified();
-    const QStringList listed = isOverSame ? all->listedFor(*fields) : QStringList();
-    QString derived = listed.isEmpty() ? derivation->withFieldsOf(*fields) : derivation->withFields(listed);
-    if (!derived.isEmpty() || fieldStatement == Latest()->AllFields)
-        return derived;
-    // The shown statement may lack a field of the full one.
-    const auto whole = all ? DerivationOf(derivation->withFieldsOf(*all)) : nullptr;
-    return whole ? whole->withFieldsOf(*fields) : QString();
-}
-
-// A choice of fields from a TOP query is itself a SELECT, and statements derived from it have it as their
-// table. Only the table with all fields has the others.
-QString colShowSQLSentences::WithFieldsOfWhole(const Derivation &shown, const Derivation &all,
-                                               const Derivation &fields) const
-{
-    const QString table = shown.table();
-    if (table.isEmpty() || shown.hasListAsTable())
-        return shown.withFieldsOf(fields);
-    if (shown.hasAsTable(all))
-        return shown.withFieldsOf(fields);
-    const auto chosen = DerivationOf(table);
-    const auto whole = chosen ? DerivationOf(WithFieldsOfWhole(*chosen, all, all)) : nullptr;
-    const auto moved = whole ? DerivationOf(shown.withTable(*whole)) : nullptr;
-    return moved ? moved->withFieldsOf(fields) : QString();
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -13,7 +13,7 @@ using namespace CharText;
 namespace {
 
 constexpr auto invalidArgument = "Invalid procedure call or argument";
-// A statement is assumed to begin with SELECT and one blank, so the list begins here.
+// A statement is assumed to begin with SELECT and one space, so the list begins here.
 constexpr qsizetype listPosition = 8;
 
 // The trimmed statement; empty if it is not a SELECT.
@@ -49,7 +49,7 @@ std::optional<ParseFailure> ParsedStatements::ParseSQLFieldList(const QString &s
         colSQLFields.append(readsBrackets(database) ? withoutBrackets(item) : item);
     }
     // The last item is special: except on Oracle it
-    // keeps its blanks, which also protect its "[".
+    // keeps its spaces, which also protect its "[".
     if (!last.contains(u'*'))
         colSQLFields.append(readsBrackets(database) ? withoutBrackets(last) : trim(last));
     return std::nullopt;

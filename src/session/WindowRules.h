@@ -14,7 +14,7 @@ struct WindowRules
     bool writesFilter;
     // The host is asked for a condition first, and the user only if the host leaves it to him.
     bool asksHostForCondition;
-    // Blanks around a condition are removed.
+    // Spaces around a condition are removed.
     bool trimsCondition;
     // The last statement and condition are stored for the dialogs of the process.
     bool remembersForDialogs;

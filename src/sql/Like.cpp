@@ -49,7 +49,7 @@ QString likePattern(Engine engine, QString text)
     return isEscape ? text.replace(u'\\', "\\\\"_L1) : text;
 }
 
-// SQLite doesn't distinguish a from A. An engine that ignores blanks at the end in comparisons doesn't in
+// SQLite doesn't distinguish a from A. An engine that ignores spaces at the end in comparisons doesn't in
 // LIKE.
 bool likesOnlyEqualTexts(Engine engine, const QString &pattern)
 {

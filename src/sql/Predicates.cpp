@@ -75,4 +75,12 @@ bool keepsInnerSort(const Dialect &dialect)
     return engine != Engine::SqlServer && engine != Engine::MySQL;
 }
 
+bool keepsNameInTable(const Dialect &dialect, const QString &name)
+{
+    const Engine engine = dialect.likelyEngine();
+    const bool isValue = name.compare("true"_L1, Qt::CaseInsensitive) == 0 ||
+                         name.compare("false"_L1, Qt::CaseInsensitive) == 0;
+    return !isValue || (engine != Engine::SQLite && engine != Engine::Access);
+}
+
 } // namespace KOVAVSFDataGridLib

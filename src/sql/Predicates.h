@@ -25,7 +25,7 @@ bool readsAliasesInConditions(Engine engine);
 // term that is only an alias is taken by every engine.
 bool readsAliasesInSortExpressions(Engine engine);
 
-// The words that limit a SELECT to its first records. Each includes the blank that separates it.
+// The words that limit a SELECT to its first records. Each includes the space that separates it.
 struct RowLimit
 {
     QString beforeList;
@@ -35,11 +35,15 @@ RowLimit rowLimit(const Dialect &dialect, int count);
 // The same for a SELECT without a sort.
 RowLimit rowLimitWithoutSort(const Dialect &dialect, int count);
 
-// What follows the closing bracket of a derived table, including the blank before it.
+// What follows the closing bracket of a derived table, including the space before it.
 QString innerTableAlias(const Dialect &dialect, const QString &name);
 
 // Whether a statement has the order of the derived table that it selects from. SQL Server refuses such an
 // order, and MySQL loses it where a field is long or the table is large.
 bool keepsInnerSort(const Dialect &dialect);
+
+// Whether a field of a derived table has the name that its list gives it. SQLite, which also reads Access
+// files, takes TRUE and FALSE for values and names the field by its place.
+bool keepsNameInTable(const Dialect &dialect, const QString &name);
 
 } // namespace KOVAVSFDataGridLib

@@ -19,7 +19,7 @@ bool isLineEndOfUnicode(QChar c)
     return c.unicode() == 0x85 || c.unicode() == 0x2028 || c.unicode() == 0x2029;
 }
 
-// A control character that is not a common blank, or a character that some engine reads as a line end.
+// A control character that is not common whitespace, or a character that some engine reads as a line end.
 bool isStray(QChar c)
 {
     const bool isPlain = c == u'\t' || c == u'\n' || c == u'\r';
@@ -80,7 +80,7 @@ void SqlScanner::findStray(qsizetype from, qsizetype end)
 
 bool SqlScanner::isBlank(QChar c) const
 {
-    // Only SQL Server treats Unicode blanks as blanks.
+    // Only SQL Server treats Unicode spaces as whitespace.
     return c.isSpace() && (c.unicode() < 0x80 || m_dialect == SqlDialect::SqlServer);
 }
 
@@ -157,7 +157,7 @@ qsizetype SqlScanner::skipComment(qsizetype from) const
 {
     const QStringView rest = QStringView(m_sql).sliced(from);
     const bool mySql = m_dialect == SqlDialect::MySql;
-    // In MySQL, two dashes begin a comment only if a blank follows.
+    // In MySQL, two dashes begin a comment only if a space follows.
     const bool dashes =
         rest.startsWith("--"_L1) &&
         (!mySql || rest.size() == 2 || rest.at(2).unicode() <= 0x20 || rest.at(2).unicode() == 0x7f);

@@ -27,9 +27,9 @@ enum class SqlDialect { Standard, PostgreSql, MySql, SqlServer };
 
 struct Dialect;
 
-// Splits a statement into tokens. Comments and blanks are skipped. Quoted names ("a", [a], `a`) and strings
-// are one token each, including their quotes. An unclosed quote or comment extends to the end. It has no
-// knowledge of grammar.
+// Splits a statement into tokens. Comments and whitespace are skipped. Quoted names ("a", [a], `a`) and
+// strings are one token each, including their quotes. An unclosed quote or comment extends to the end. It has
+// no knowledge of grammar.
 class SqlScanner
 {
 public:

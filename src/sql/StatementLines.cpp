@@ -25,7 +25,7 @@ qsizetype sizeOfBlockComment(QStringView text)
 }
 
 // Whether only the engine can tell what follows: # begins a comment, a date or an operator; -- without a
-// blank after it can be two operators; a backslash can escape a quote; comments can be nested; $ can begin a
+// space after it can be two operators; a backslash can escape a quote; comments can be nested; $ can begin a
 // string.
 bool isReadInSeveralWays(QStringView rest)
 {

@@ -41,9 +41,8 @@ void OnOdbc::TearDown()
 
 void OnOdbc::dropTables() const
 {
-    execute(u"DROP VIEW IF EXISTS kova_v"_s);
-    execute(u"DROP TABLE IF EXISTS kova_b"_s);
-    execute(u"DROP TABLE IF EXISTS kova_a"_s);
+    KovaTest::OdbcSession(m_text).run({u"DROP VIEW IF EXISTS kova_v"_s, u"DROP TABLE IF EXISTS kova_b"_s,
+                                       u"DROP TABLE IF EXISTS kova_a"_s});
 }
 
 void OnOdbc::execute(const QString &sql) const

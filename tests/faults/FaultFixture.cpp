@@ -39,9 +39,10 @@ void FaultFixture::SetUp()
 {
     if (connection().isEmpty())
         GTEST_SKIP() << engine.variable << " is not set";
-    run(u"DROP TABLE IF EXISTS faults"_s);
-    run(u"CREATE TABLE faults AS SELECT g AS id, concat('name ', g) AS name FROM "_s +
-        engine.numbersTo(1000));
+    OdbcSession(connection())
+        .run({u"DROP TABLE IF EXISTS faults"_s,
+              u"CREATE TABLE faults AS SELECT g AS id, concat('name ', g) AS name FROM "_s +
+                  engine.numbersTo(1000)});
     hands.emplace(connection(), KOVAVSFDataGrid::dbSQLServer);
     ASSERT_TRUE(load(harmless)); // what libraries open once and for all is open now
     handlesBefore = openHandles();

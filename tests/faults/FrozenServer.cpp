@@ -49,9 +49,10 @@ void FrozenServer::SetUp()
     FaultFixture::SetUp();
     if (IsSkipped())
         return;
-    run(u"DROP TABLE IF EXISTS kept"_s);
-    run(u"CREATE TABLE kept (id INTEGER PRIMARY KEY, name VARCHAR(20), price DECIMAL(8,2))"_s);
-    run(u"INSERT INTO kept SELECT g, concat('name ', g), g FROM "_s + engine.numbersTo(1000));
+    OdbcSession(connection())
+        .run({u"DROP TABLE IF EXISTS kept"_s,
+              u"CREATE TABLE kept (id INTEGER PRIMARY KEY, name VARCHAR(20), price DECIMAL(8,2))"_s,
+              u"INSERT INTO kept SELECT g, concat('name ', g), g FROM "_s + engine.numbersTo(1000)});
 }
 
 void FrozenServer::TearDown()

@@ -6,6 +6,7 @@
 #include "../support/Dialogs.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QTimer>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QComboBox>
@@ -101,6 +102,33 @@ TEST_P(FrozenServerReading, LetsTheUserCancelAQuestionAboutTheCatalogue)
     thaw();
     EXPECT_TRUE(loadKept());
     expectKept();
+}
+
+// By the first question to the server, with which a load of the kind of an Oracle begins.
+TEST_P(FrozenServerReading, LetsTheHostDeleteTheControlDuringALoad)
+{
+    auto other = std::make_unique<KOVAVSFDataGrid>();
+    other->resize(900, 500);
+    other->show();
+    other->PutConnectionString(connection());
+    other->PutDBType(KOVAVSFDataGrid::dbOracle);
+    other->PutSQLShow(u"SELECT * FROM kept ORDER BY id"_s);
+    ASSERT_TRUE(other->IsLoadData());
+    other->PutSQLShow(u"SELECT id, name FROM kept ORDER BY id"_s);
+    freeze();
+    QTimer host;
+    QObject::connect(&host, &QTimer::timeout, &host, [&] {
+        if (progressLine())
+            other.reset();
+    });
+    host.start(5);
+    QElapsedTimer sinceBegin;
+    sinceBegin.start();
+    EXPECT_FALSE(other->IsLoadData());
+    EXPECT_EQ(other, nullptr);
+    EXPECT_LT(sinceBegin.elapsed(), 20'000) << "the driver's own limit is 45 s";
+    thaw();
+    takeMessages();
 }
 
 TEST_P(FrozenServerReading, LetsTheUserCancelTheFieldsOfTheFilterDialog)

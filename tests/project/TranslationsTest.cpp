@@ -202,6 +202,7 @@ TEST_P(Translations, HaveAFormForOneWhereTheyCount)
         u"新记录，共 %1 条"_s,   u"已选 %1 个，共 %2 个"_s,
         u"共 %1 处"_s,           u"第 %1 处，共 %2 处"_s,
         u"第 %1 页，共 %2 页"_s, u"第 %1 页，共 %2 页（预览前 %3 页）"_s,
+        u"第%1页共%2页"_s,
     };
     for (const auto &[source, translation] : translations.asKeyValueRange()) {
         const bool isPlain = neverOne.contains(source) || sameForOne.contains(source);

@@ -120,6 +120,32 @@ TEST(DerivationText, TopAndDistinctStayInFrontOfChosenFields)
     }
 }
 
+// A derived table is read once; anything else in FROM may count for each record.
+TEST(DerivationText, AnAssignmentOutsideADerivedTableKeepsTheStatementWhole)
+{
+    const auto isTable = [](const QString &source) {
+        return derive(Engine::MySQL, u"select o.A from "_s + source, {u"A"_s}).isTable();
+    };
+    for (const QString &source : {
+             u"T o, (select @n := 0) v"_s,
+             u"((select @n := 0)) v, T o"_s,
+             u"T o join (select @n := 0) v on (1, 2) = (1, o.A)"_s,
+             u"(T o join U on greatest(o.A, 1) > 0, (select @n := 0) v)"_s,
+             u"T o straight_join (select 1 union select @n := 0) v"_s,
+         })
+        EXPECT_FALSE(isTable(source)) << qPrintable(source);
+    for (const QString &source : {
+             u"T o join U on (select @n := @n + 1) < 5"_s,
+             u"T o join U on ((select @n := @n + 1) < 5)"_s,
+             u"T o join U on greatest(1, (select @n := @n + 1)) < 5"_s,
+             u"T o join U on o.A in (select A from (select @n := @n + 1 as A) v)"_s,
+             u"(T o left join U on not exists (select @n := @n + 1)), (select @n := 0) v"_s,
+             u"T o, lateral (select @n := @n + 1 as B) v"_s,
+             u"T o, json_table(@n := o.A, '$' columns (B int path '$')) v"_s,
+         })
+        EXPECT_TRUE(isTable(source)) << qPrintable(source);
+}
+
 // Sorted by other fields, the first records would be others.
 TEST(DerivationText, TopOfDistinctRecordsIsTakenBeforeFieldsOfItsSortAreLeftOut)
 {
@@ -135,8 +161,10 @@ TEST(DerivationText, TopOfDistinctRecordsIsTakenBeforeFieldsOfItsSortAreLeftOut)
     expectText(derive(Engine::Access, towns, {u"Town"_s}, dbAccess).withFieldsOf(places),
                "SELECT * FROM ( select distinct top 5 Country, City as Town, 1 as N from T order "
                "by Country, 3, City ) AS Q ORDER BY Country,N,Town");
-    expectText(places.withFields({places.listed().at(0), town}),
-               "SELECT distinct top 5 Country,City as Town FROM T ORDER BY Country,City");
+    const QString both = places.withFields({places.listed().at(0), town});
+    expectText(both, "SELECT distinct top 5 Country,City as Town FROM T ORDER BY Country,City");
+    expectText(derive(Engine::Access, both, {u"Country"_s, u"Town"_s}, dbAccess).withFieldsOf(places),
+               "SELECT distinct top 5 Country, City as Town, 1 as N FROM T ORDER BY Country,City");
     const Derivation part =
         derive(Engine::Access, u"select distinct top 5 T.city as Town from T"_s, {u"Town"_s}, dbAccess);
     expectText(
@@ -177,6 +205,23 @@ TEST(DerivationText, WhatCannotBeDoneSaysWhyBeforeAnythingIsTyped)
         derive(Engine::SQLite, u"select A, A from T union select 1, 2"_s, {u"A"_s, u"A"_s});
     EXPECT_EQ(united.withCondition(u"A = 1"_s) + united.withSort(u"A"_s) + united.withFields({u"A"_s}),
               QString());
+}
+
+// SQLite takes such a name for a value and gives the field of a table another one.
+TEST(DerivationText, AFieldThatATableWouldRenameSaysWhyBeforeAnythingIsTyped)
+{
+    const auto whyNot = [](Engine engine, const QString &statement, DerivationStep step) {
+        return derive(engine, statement, {u"A"_s, u"fAlse"_s}).whyNot(step);
+    };
+    const QString grouped = u"select A, max(B) as \"fAlse\" from T group by A"_s;
+    for (const auto step : {DerivationStep::Condition, DerivationStep::Sort, DerivationStep::Fields}) {
+        for (const Engine engine : {Engine::SQLite, Engine::Access})
+            EXPECT_EQ(whyNot(engine, grouped, step), QueryTexts::RenamedField.arg(u"fAlse"_s));
+        for (const Engine engine : {Engine::PostgreSQL, Engine::MySQL, Engine::SqlServer, Engine::Oracle})
+            EXPECT_EQ(whyNot(engine, grouped, step), QString());
+        EXPECT_EQ(whyNot(Engine::SQLite, u"select A, B as \"fAlse\" from T where A > 1"_s, step), QString());
+        EXPECT_EQ(whyNot(Engine::SQLite, u"select distinct A, [false] from T"_s, step), QString());
+    }
 }
 
 TEST(DerivationText, TheWholeTableHasNoConditionInAnyUnitedSelect)

@@ -1,178 +1,11 @@
 // The history and the filter manager over statements that plain text work can't derive from.
-#include "query/clsFilterManagement.h"
+#include "HistoryDerivation.h"
 
-#include "MemorySource.h"
-#include "SampleDatabase.h"
 #include "query/QueryTexts.h"
-
-#include <gtest/gtest.h>
 
 using namespace KOVAVSFDataGridLib;
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-class HistoryDerivation : public testing::Test
-{
-protected:
-    void load(const QString &statement, const QString &part = {}, const QString &sort = {})
-    {
-        manager.SetDBType(dbAccess);
-        manager.SetDBConnString(u"memory"_s);
-        manager.SetAllFields(statement);
-        manager.SetShowFields(part);
-        manager.SetOrderFields(sort);
-        manager.SetOriginFilter(statement);
-        manager.SetSQLInitData();
-        first = manager.GetCurrentSQL20(FirstStatement);
-        show(first);
-    }
-    void show(const QString &statement, const QString &part = colShowSQLSentences::NoPartField())
-    {
-        history.AddCurrentSQL(statement, AllFieldsShown, part, colShowSQLSentences::NoSort());
-        history.GetCurrSQLFieldsStatus();
-    }
-    QStringList firstColumn(const QString &statement) const
-    {
-        const Rows rows = database->read(statement);
-        EXPECT_EQ(rows.error, QString()) << qPrintable(statement);
-        QStringList values;
-        for (const Row &row : rows.rows)
-            values.append(row.first());
-        return values;
-    }
-
-    std::unique_ptr<SqliteRows> database = sampleDatabase();
-    SqliteReader reader{*database};
-    MemoryChooser chooser;
-    clsFilterManagement manager{&reader, &chooser};
-    colShowSQLSentences &history = manager.SQLManager();
-    QString first;
-    QString next;
-};
-
-} // namespace
-
-namespace {
-
-// Knows what an engine would answer from the statement's list.
-class ListReader final : public FieldReader
-{
-public:
-    explicit ListReader(Engine engine = Engine::Access) : m_engine(engine) {}
-    bool Open(const QString &) override { return true; }
-    EngineMode engineOf(const QString &) override { return m_engine; }
-    std::optional<std::vector<SourceField>> Read(const QString &, const QString &statement) override
-    {
-        const SqlScanner sql(statement);
-        const SelectParts parts = SelectParts::of(sql);
-        if (!parts.items.empty() && parts.items.front().isStar)
-            return Read({}, Derivation(statement, {}, dialectOf(dbAccess, Engine::Access)).table());
-        std::vector<SourceField> fields;
-        for (const SelectParts::Item &item : parts.items)
-            fields.push_back({sql.name(item.tokens.end - 1), 202});
-        return fields;
-    }
-
-private:
-    Engine m_engine;
-};
-
-} // namespace
-
-TEST(HistorySort, OfTheHostIsByTheFieldThatTheWholeListMeans)
-{
-    ListReader reader(Engine::PostgreSQL);
-    MemoryChooser chooser;
-    clsFilterManagement manager{&reader, &chooser};
-    manager.SetDBType(dbOracle);
-    manager.SetDBConnString(u"server"_s);
-    const QString all = u"select e.id, e.name, d.city from E e join D d on d.id = e.dept"_s;
-    manager.SetAllFields(all);
-    manager.SetShowFields(u"select e.id from E e join D d on d.id = e.dept"_s);
-    manager.SetOrderFields(u"name desc"_s);
-    manager.SetOriginFilter(all);
-    manager.SetSQLInitData();
-    colShowSQLSentences &history = manager.SQLManager();
-    history.AddCurrentSQL(all, AllFieldsShown);
-    history.GetCurrSQLFieldsStatus();
-    QString part;
-    EXPECT_TRUE(history.GetNextShowSQL(PartFieldsStatement, part));
-    EXPECT_EQ(part.simplified(), u"SELECT e.id FROM E e join D d on d.id = e.dept ORDER BY e.name desc"_s);
-}
-
-// The database is asked about a type that its driver can't name, and about no other.
-TEST(HistorySort, FieldsWithoutAnOrderAreOfferedWithTheReason)
-{
-    MemoryReader reader;
-    reader.mode = Engine::PostgreSQL;
-    const QString all = u"select id, doc as d, mood from T"_s;
-    reader.fieldsByStatement = {
-        {all, {{u"id"_s, 3}, {u"d"_s, 202, {}, false}, {u"mood"_s, 202, {}, false}}},
-        {u"SELECT * FROM (\nSELECT mood\nFROM T\nORDER BY mood\n) AS Q"_s, {{u"mood"_s, 202}}}};
-    MemoryChooser chooser;
-    clsFilterManagement manager{&reader, &chooser};
-    manager.SetDBType(dbOracle);
-    manager.SetDBConnString(u"server"_s);
-    manager.SetAllFields(all);
-    manager.SetOriginFilter(all);
-    manager.SetSQLInitData();
-    const QString reason = QueryTexts::TypeNotSorted.arg(u"d"_s);
-    EXPECT_EQ(manager.SQLManager().WhyNotSorted(all, 0), QString());
-    EXPECT_EQ(manager.SQLManager().WhyNotSorted(all, 1), reason);
-    EXPECT_EQ(manager.SQLManager().WhyNotSorted(all, 2), QString());
-    EXPECT_EQ(manager.SQLManager().WhyNotSorted(all, 3), QString());
-    QString chosen;
-    manager.GetPartSortSelFields(all, {}, chosen);
-    EXPECT_EQ(chooser.allFields, QStringList({u"id"_s, u"d"_s, u"mood"_s}));
-    EXPECT_EQ(chooser.whyNotSorted, QStringList({{}, reason, {}}));
-}
-
-// TOP selects its rows before a condition, which can nevertheless use fields that were not chosen.
-TEST(HistoryDerivationOfTop, AFilterCanNameFieldsThatWereNotChosen)
-{
-    ListReader reader;
-    MemoryChooser chooser;
-    clsFilterManagement manager(&reader, &chooser);
-    colShowSQLSentences &history = manager.SQLManager();
-    const QString all = u"select top 5 A, B from T order by B"_s;
-    manager.SetDBType(dbAccess);
-    manager.SetDBConnString(u"memory"_s);
-    manager.SetAllFields(all);
-    manager.SetOriginFilter(all);
-    manager.SetSQLInitData();
-    history.AddCurrentSQL(all, AllFieldsShown);
-    history.GetCurrSQLFieldsStatus();
-
-    QString chosen;
-    chooser.choice = u"B"_s;
-    ASSERT_TRUE(manager.GetPartShowSelFields(all, {}, all, chosen));
-    EXPECT_EQ(chosen.simplified(), u"SELECT top 5 B FROM T ORDER BY B"_s);
-    history.AddCurrentSQL(chosen, PartFieldsShown, history.GetFieldsStatement(chosen));
-    EXPECT_TRUE(history.CanName(*history.DataFields().Item(1)));
-    EXPECT_EQ(history.GetColumnRealName(chosen, {u"B"_s}, 0), u"B"_s);
-
-    QString filtered;
-    ASSERT_TRUE(history.GetNextSQLBySort(u"A DESC"_s, filtered));
-    EXPECT_EQ(filtered.simplified(),
-              u"SELECT B FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q ORDER BY A DESC"_s);
-    ASSERT_TRUE(history.GetNextSQLByFilter(u"A = 1"_s, filtered));
-    EXPECT_EQ(filtered.simplified(),
-              u"SELECT B FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE A = 1 ORDER BY B"_s);
-    history.AddCurrentSQL(filtered, PartFieldsShown);
-    QString next;
-    ASSERT_TRUE(history.GetNextShowSQL(AllFieldsStatement, next));
-    EXPECT_EQ(next.simplified(),
-              u"SELECT * FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE A = 1 ORDER BY B"_s);
-    chooser.choice = u"A"_s;
-    ASSERT_TRUE(manager.GetPartShowSelFields(all, chosen, filtered, chosen));
-    EXPECT_EQ(chosen.simplified(),
-              u"SELECT A FROM ( SELECT top 5 A, B FROM T ORDER BY B ) AS Q WHERE A = 1 ORDER BY B"_s);
-    EXPECT_EQ(chooser.allFields, (QStringList{u"A"_s, u"B"_s}));
-    ASSERT_TRUE(manager.GetRequirePartSQL(filtered, PartsWithoutCondition, next));
-    EXPECT_EQ(next.simplified(), u"SELECT B FROM ( select top 5 A, B from T order by B ) AS Q ORDER BY B"_s);
-}
 
 TEST_F(HistoryDerivation, ASimpleStatementStaysLetterForLetter)
 {
@@ -220,6 +53,112 @@ TEST_F(HistoryDerivation, AnEmptiedSortListRemovesTheSort)
     EXPECT_FALSE(manager.GetPartSortSelFields(first, {}, sort)) << "cancelled";
 }
 
+// With DISTINCT, a sort can have only fields that are shown.
+TEST_F(HistoryDerivation, ASortThatAChoiceOfFieldsLosesIsThereAgainWithTheFields)
+{
+    load(u"select distinct Cust, Name from Ord where Qty > 0 order by Cust desc, Name"_s);
+    const auto choose = [&](const QString &fields) {
+        chooser.choice = fields;
+        QString chosen;
+        EXPECT_TRUE(manager.GetPartShowSelFields(first, {}, history.Item(history.Count())->ShowSQL, chosen));
+        show(chosen, history.GetFieldsStatement(chosen));
+        return chosen.simplified();
+    };
+    const auto sortBy = [&](const QString &sort) {
+        EXPECT_TRUE(history.GetNextSQLBySort(sort, next));
+        history.AddCurrentSQL(next, AllFieldsShown, colShowSQLSentences::NoPartField(), sort);
+    };
+    const auto all = [&] {
+        EXPECT_TRUE(history.GetNextShowSQL(AllFieldsStatement, next));
+        show(next);
+        return next.simplified();
+    };
+    EXPECT_EQ(choose(u"Name"_s), u"SELECT distinct Name FROM Ord where Qty > 0 ORDER BY Name"_s);
+    EXPECT_TRUE(history.GetNextSQLByFilter(u"Name > 'b'"_s, next));
+    show(next);
+    const QString sorted =
+        u"SELECT distinct Cust, Name FROM Ord where Qty > 0 AND Name > 'b' ORDER BY Cust desc,Name"_s;
+    EXPECT_EQ(all(), sorted);
+    EXPECT_EQ(choose(u"Cust"_s),
+              u"SELECT distinct Cust FROM Ord where Qty > 0 AND Name > 'b' ORDER BY Cust desc"_s);
+    EXPECT_EQ(choose(u"Cust,Name"_s),
+              u"SELECT distinct Cust,Name FROM Ord where Qty > 0 AND Name > 'b' ORDER BY Cust desc,Name"_s);
+    // What the user has sorted by since then is all there is.
+    choose(u"Cust"_s);
+    sortBy(u"Cust"_s);
+    EXPECT_TRUE(all().endsWith(u"Name > 'b' ORDER BY Cust"_s)) << qPrintable(next);
+    sortBy(u"Name DESC,Cust"_s);
+    choose(u"Cust"_s);
+    QString offered;
+    manager.GetPartSortSelFields(first, u"Name DESC,Cust"_s, offered);
+    EXPECT_EQ(chooser.present, QStringList(u"Cust"_s)) << "of the fields that are shown";
+    EXPECT_TRUE(all().endsWith(u"ORDER BY Name DESC,Cust"_s)) << qPrintable(next);
+    choose(u"Cust"_s);
+    sortBy({});
+    EXPECT_TRUE(all().endsWith(u"Name > 'b'"_s)) << qPrintable(next);
+    // A step back has the sort that was left by it.
+    EXPECT_TRUE(history.GetPreviewSQL(next));
+    EXPECT_TRUE(history.GetPreviewSQL(next));
+    EXPECT_TRUE(all().endsWith(u"ORDER BY Name DESC,Cust"_s)) << qPrintable(next);
+}
+
+TEST_F(HistoryDerivation, AllFieldsOfADistinctKeepTheSortThatTheUserChose)
+{
+    const auto sortAndShowAll = [&] {
+        EXPECT_TRUE(history.GetNextSQLBySort(u"Name DESC"_s, next));
+        history.AddCurrentSQL(next, AllFieldsShown, colShowSQLSentences::NoPartField(), u"Name DESC"_s);
+        EXPECT_TRUE(history.GetNextShowSQL(AllFieldsStatement, next));
+        EXPECT_TRUE(next.contains(u"ORDER BY "_s) && next.endsWith(u"Name DESC"_s)) << qPrintable(next);
+    };
+    for (const QString &list : {u"Ord.*"_s, u"*"_s, u"Cust, Name"_s}) {
+        manager.ClearObject();
+        load(u"select distinct "_s + list + u" from Ord"_s);
+        sortAndShowAll();
+    }
+    show(u"SELECT distinct Name FROM Ord"_s, u"SELECT distinct Name FROM Ord"_s);
+    sortAndShowAll();
+}
+
+TEST_F(HistoryDerivation, AnAliasDoesNotTakeTheSortOfAColumnOfItsName)
+{
+    load(u"select distinct Cust as Qty, Qty as Cust from Ord order by 1, 2"_s);
+    show(first + u' ');
+    EXPECT_TRUE(history.GetNextShowSQL(AllFieldsStatement, next));
+    EXPECT_EQ(firstColumn(next), firstColumn(first)) << qPrintable(next);
+}
+
+TEST_F(HistoryDerivation, TheSortOfADistinctThatIsATableIsListed)
+{
+    for (const QString &all : {u"select distinct Cust, count(*) as N from Ord group by Cust, Qty"_s,
+                               u"select distinct Cust, Name from Ord limit 9"_s}) {
+        manager.ClearObject();
+        load(all);
+        EXPECT_TRUE(history.GetNextSQLBySort(u"Cust DESC"_s, next));
+        history.AddCurrentSQL(next, AllFieldsShown, colShowSQLSentences::NoPartField(), u"Cust DESC"_s);
+        QString sort;
+        chooser.choice = u"Cust DESC"_s;
+        EXPECT_TRUE(manager.GetPartSortSelFields(first, u"Cust DESC"_s, sort));
+        EXPECT_EQ(chooser.present, QStringList(u"Cust DESC"_s)) << qPrintable(all);
+    }
+}
+
+TEST_F(HistoryDerivation, TheWholeTableKeepsTheAliases)
+{
+    load(u"select ID as No, Name as Who from Ord where No > 2"_s);
+    QString whole;
+    EXPECT_TRUE(manager.GetRequirePartSQL(first, PartsWithoutCondition, whole));
+    show(whole);
+    chooser.choice = u"[No]"_s;
+    QString chosen;
+    EXPECT_TRUE(manager.GetPartShowSelFields(first, {}, whole, chosen));
+    EXPECT_EQ(chooser.written, (QStringList{u"[No]"_s, u"Who"_s}));
+    EXPECT_EQ(database->read(chosen).names, QStringList(u"No"_s)) << qPrintable(chosen);
+    show(chosen);
+    EXPECT_EQ(history.WhyNoAllFields(), QString());
+    EXPECT_TRUE(history.GetNextShowSQL(AllFieldsStatement, next));
+    EXPECT_EQ(database->read(next).names, (QStringList{u"No"_s, u"Who"_s})) << qPrintable(next);
+}
+
 TEST_F(HistoryDerivation, TheWholeTableKeepsTheGrouping)
 {
     load(u"select Cust, count(*) as N from Ord where Qty > 1 group by Cust order by Cust"_s);
@@ -246,35 +185,6 @@ TEST_F(HistoryDerivation, TheWholeTableOfWhatIsGroupedOverASelectKeepsItsSort)
     show(next);
     EXPECT_TRUE(manager.GetRequirePartSQL(next, PartsWithoutCondition, whole));
     EXPECT_EQ(firstColumn(whole), all) << qPrintable(whole);
-}
-
-TEST_F(HistoryDerivation, AHostsPartStatementIsFoundByItsNames)
-{
-    load(u"select o.ID as No, c.Name, o.Qty from Ord o join Cust c on c.ID = o.Cust where o.Qty > 1"_s,
-         u"select Qty, Name from Cust, Ord"_s);
-    EXPECT_TRUE(history.GetNextShowSQL(PartFieldsStatement, next));
-    EXPECT_EQ(database->read(next).names, (QStringList{u"Qty"_s, u"Name"_s})) << qPrintable(next);
-    EXPECT_EQ(firstColumn(next).size(), firstColumn(first).size());
-}
-
-TEST_F(HistoryDerivation, AHostsPartStatementMayLackAnAlias)
-{
-    load(u"select ID as k, Name as n, Qty * 2 as d from Ord"_s, u"select Name, Qty * 2 from Ord"_s);
-    EXPECT_TRUE(history.GetNextShowSQL(PartFieldsStatement, next));
-    EXPECT_EQ(database->read(next).names, (QStringList{u"n"_s, u"d"_s})) << qPrintable(next);
-    EXPECT_TRUE(history.GetCurrSQLFieldsStatus());
-    EXPECT_TRUE(history.IsSelFieldPartField(u"n"_s));
-    EXPECT_FALSE(history.IsSelFieldPartField(u"k"_s));
-}
-
-// The part statement needs not be the whole one to the letter.
-TEST_F(HistoryDerivation, APartStatementOfStarsHasTheFieldsOfBothTables)
-{
-    const QString stars = u"select * from Ord o join Cust c on o.Cust = c.ID"_s;
-    load(stars + u" where o.Qty > 1 order by 1 desc"_s, stars);
-    EXPECT_TRUE(history.GetNextShowSQL(PartFieldsStatement, next));
-    EXPECT_EQ(database->read(next).text(), database->read(first).text()) << qPrintable(next);
-    EXPECT_EQ(database->read(next).error, QString());
 }
 
 TEST_F(HistoryDerivation, TheJoinOfATableWithItselfCanBeUsed)
@@ -320,6 +230,25 @@ TEST_F(HistoryDerivation, ACommandThatCannotRunSaysWhy)
     EXPECT_FALSE(manager.LetNewFilter(u"ID = 1"_s, next));
     load(u"select ID from Ord"_s);
     EXPECT_EQ(history.WhyNot(DerivationStep::Sort), QString());
+}
+
+// SQLite names such a field of a derived table by its place.
+TEST_F(HistoryDerivation, ANameThatIsAValueIsRefusedInADerivedTableAlone)
+{
+    constexpr DerivationStep steps[] = {DerivationStep::Condition, DerivationStep::Sort,
+                                        DerivationStep::Fields};
+    load(u"select Cust as \"True\", count(*) as N from Ord group by Cust"_s);
+    const Rows renamed = database->read(u"select * from (%1)"_s.arg(first));
+    EXPECT_NE(renamed.names, (QStringList{u"True"_s, u"N"_s}));
+    for (const DerivationStep step : steps)
+        EXPECT_EQ(history.WhyNot(step), QueryTexts::RenamedField.arg(u"True"_s));
+    load(u"select Cust as \"True\", Name as \"false\" from Ord where Qty > 1"_s);
+    for (const DerivationStep step : steps)
+        EXPECT_EQ(history.WhyNot(step), QString());
+    EXPECT_TRUE(history.GetNextSQLByFilter(u"Cust = 2"_s, next));
+    const Rows filtered = database->read(next);
+    EXPECT_EQ(filtered.names, (QStringList{u"True"_s, u"false"_s})) << qPrintable(next);
+    EXPECT_EQ(filtered.rows.size(), 2);
 }
 
 TEST_F(HistoryDerivation, PartFieldsThatTheStatementHasNotAreRefusedWithTheReason)

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // A word that is part of another one comes after it.
-const std::array words{
+const std::array translations{
     std::pair{u"订单编号"_s, u"order_id"_s},
     std::pair{u"下单日期"_s, u"ordered"_s},
     std::pair{u"客户编号"_s, u"customer_id"_s},
@@ -61,7 +61,7 @@ QString sample(QString text)
 {
     if (KOVAVSFDataGridLib::Language::current() != "en"_L1)
         return text;
-    for (const auto &[chinese, english] : words)
+    for (const auto &[chinese, english] : translations)
         text.replace(chinese, english);
     return text;
 }

@@ -14,7 +14,7 @@ namespace ADODB {
 
 namespace {
 
-// Keywords are compared without blanks, because hosts write both `User ID` and `UserID`, `Trust Server
+// Keywords are compared without spaces, because hosts write both `User ID` and `UserID`, `Trust Server
 // Certificate` and `TrustServerCertificate`.
 struct Word
 {

@@ -54,7 +54,10 @@ bool Watched::shouldContinue()
         m_isMade = true;
         m_watcher = watcherMaker()();
         if (m_watcher)
-            m_waiting.emplace([this] { return m_watcher->shouldContinue(); });
+            m_waiting.emplace([this] {
+                const bool isWanted = m_watcher->shouldContinue();
+                return m_watcher->isWindowGone() ? m_purpose == For::Changing : isWanted;
+            });
     }
     return !innermost || innermost->m_shouldContinue();
 }

@@ -36,7 +36,10 @@ class KOVA_EXPORT WaitWatcher
 {
 public:
     virtual ~WaitWatcher();
+    // False when the user has cancelled.
     virtual bool shouldContinue() = 0;
+    // Whether the window that waits has been destroyed meanwhile, so that nobody can cancel any more.
+    virtual bool isWindowGone() const = 0;
 
     // Called when such a wait begins. If it returns null, the wait is not watched. The maker set last is
     // used; null means none.
@@ -48,10 +51,15 @@ public:
 class Watched
 {
 public:
+    // When the window that waits is destroyed, reading is cancelled, but a change is completed.
+    enum class For { Reading, Changing };
+    explicit Watched(For purpose = For::Reading) : m_purpose(purpose) {}
+
     // True if nothing can cancel the wait.
     bool shouldContinue();
 
 private:
+    const For m_purpose;
     bool m_isMade = false;
     std::unique_ptr<WaitWatcher> m_watcher;
     std::optional<Waiting> m_waiting; // for waits in the host's code meanwhile

@@ -12,7 +12,7 @@ namespace ADODB::DateText {
 QDate date(QByteArrayView text);
 // HH:mm, HH:mm:ss or HH:mm:ss.f with as many decimals as QTime supports (further ones must be 0)
 QTime time(QByteArrayView text);
-// A date, or a date and a time separated by a blank or a T. No time zone; the result is in UTC.
+// A date, or a date and a time separated by a space or a T. No time zone; the result is in UTC.
 QDateTime moment(QByteArrayView text);
 
 // Whether it is such a text except that it has
@@ -21,7 +21,7 @@ bool isFinerTime(QByteArrayView text);
 bool isFinerMoment(QByteArrayView text);
 
 // Whether it is a timestamp followed by a time zone: an offset such as +08 or -03:30, or Z, with an optional
-// blank before it.
+// space before it.
 bool isZonedMoment(QByteArrayView text);
 
 } // namespace ADODB::DateText

@@ -34,7 +34,7 @@ static_assert(int{KOVAVSFDataGrid::DataTable} == int{FromTable} &&
 static_assert(KOVAVSFDataGrid::ModelAll == static_cast<int>(FieldView::All) &&
               KOVAVSFDataGrid::ModelPart == static_cast<int>(FieldView::Part));
 
-// The field list is found only by its keywords, which comments and unusual blanks can hide.
+// The field list is found only by its keywords, which comments and unusual whitespace can hide.
 bool selectsFromTable(const QString &statement)
 {
     const SqlScanner scanned(statement);

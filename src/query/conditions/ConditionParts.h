@@ -12,8 +12,8 @@ namespace KOVAVSFDataGridLib {
 std::vector<TextRange> conditionParts(const SqlScanner &statement, TextRange condition);
 // The same of a condition that stands alone, as texts.
 QStringList textsOfParts(const QString &condition, const Dialect &dialect);
-// The text with one blank after each token, to compare conditions: blanks and comments outside strings and
-// names have no meaning.
+// The text with one space after each token, to compare conditions: whitespace and comments outside strings
+// and names have no meaning.
 QString comparableText(const QString &condition, const Dialect &dialect);
 // Whether the condition binds looser than AND, which must not take in what is joined to it.
 bool isLooseCondition(const QString &condition, const Dialect &dialect);

@@ -24,14 +24,14 @@ bool isJoin(const SqlScanner &sql, qsizetype token, QStringView word, int depth)
 }
 
 // An operand, a comparison operator and a value.
-struct Comparison
+struct BoundComparison
 {
     TextRange operand;
     QString sign;
     TextRange value;
 };
 
-Comparison comparisonIn(const SqlScanner &sql, TextRange range)
+BoundComparison comparisonIn(const SqlScanner &sql, TextRange range)
 {
     range = withoutBrackets(sql, range);
     static constexpr QStringView signs = u"=<>";
@@ -135,8 +135,8 @@ std::optional<Bounds> boundsOf(const SqlScanner &sql, TextRange condition)
     const std::vector<TextRange> pieces = cutAt(sql, inner, u"AND");
     if (pieces.size() != 2)
         return std::nullopt;
-    const Comparison lower = comparisonIn(sql, pieces.front());
-    const Comparison upper = comparisonIn(sql, pieces.back());
+    const BoundComparison lower = comparisonIn(sql, pieces.front());
+    const BoundComparison upper = comparisonIn(sql, pieces.back());
     const bool areBounds = (lower.sign == ">"_L1 || lower.sign == ">="_L1) &&
                            (upper.sign == "<"_L1 || upper.sign == "<="_L1) &&
                            textOf(sql, lower.operand) == textOf(sql, upper.operand);

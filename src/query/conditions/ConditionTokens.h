@@ -27,7 +27,7 @@ std::optional<QString> textOfLiteral(const SqlScanner &sql, TextRange range);
 // The character after ESCAPE, which is at `word`.
 QChar escapeOf(const SqlScanner &sql, qsizetype word);
 
-// The tokens as written, on one line: what is between two of them becomes a blank.
+// The tokens as written, on one line: what is between two of them becomes a space.
 QString lineOf(const SqlScanner &sql, TextRange range);
 
 // Two comparisons in brackets, joined by AND, that limit one operand to a range.

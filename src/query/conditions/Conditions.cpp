@@ -304,7 +304,7 @@ CellFilter buildCellFilter(const QString &realName, std::optional<qint32> adoTyp
     // Deliberately fewer types than in the quick filter: equality makes no sense for the others.
     static constexpr std::array<qint32, 12> numbers{2, 3, 4, 5, 14, 16, 18, 20, 21, 72, 131, 139};
     static constexpr std::array<qint32, 4> texts{129, 130, 200, 202};
-    static constexpr std::array<qint32, 2> paddedTexts{129, 130}; // padded with blanks to the field's length
+    static constexpr std::array<qint32, 2> paddedTexts{129, 130}; // padded with spaces to the field's length
     if (realName.isEmpty() || !adoType)
         return {};
     const bool isText = isAmong(texts, *adoType);

@@ -7,7 +7,7 @@
 // Converts the input of the find dialog.
 namespace KOVAVSFDataGridLib {
 
-// The typed words, separated by one "%"; no value if only blanks were typed.
+// The typed words, separated by one "%"; no value if only spaces were typed.
 std::optional<QString> prepareFindText(const QString &typed);
 
 struct FindAnswer

@@ -21,7 +21,7 @@ struct SortTerm
 };
 
 // The checked names in their form for SQL, separated by commas. A name without a known form gets brackets if
-// it contains a blank or "(", unless it begins or ends with a bracket.
+// it contains a space or "(", unless it begins or ends with a bracket.
 QString composeFieldList(const QList<ListedField> &rows);
 
 // For each row, whether its name is a part field, written plain, in brackets or in double quotes.

@@ -37,12 +37,13 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
                sortsBySubselectOf(alias);
     });
     // A condition has the same effect before and after DISTINCT.
-    const bool isOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
-                        !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped && !m_parts.isLimited &&
-                        !m_parts.hasWindow && !m_parts.hasRows && !m_parts.isVersioned && !m_parts.isClosed &&
-                        m_isListKnown && !isSourceUnfenced() && !namesAlias;
-    if (!isOpen) {
+    const bool canBeOpen = m_parts.isSelect && !m_parts.source.isEmpty() && !m_parts.isDistinctOn &&
+                           !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped &&
+                           !m_parts.isLimited && !m_parts.hasWindow && !m_parts.hasRows &&
+                           !m_parts.isVersioned && !m_parts.isClosed && m_isListKnown && !isSourceUnfenced();
+    if (!canBeOpen || namesAlias) {
         m_kind = Kind::Closed;
+        m_isClosedByAliases = canBeOpen;
         m_written.clear();
         for (const QString &name : std::as_const(m_names))
             m_written.append(writtenName(m_dialect, name));
@@ -108,6 +109,10 @@ QString Derivation::whyNot(DerivationStep step) const
     const bool isWhole = m_kind == Kind::Closed && !hasListOfItsOwn;
     if (isWhole && m_names.contains(QString()))
         return QueryTexts::UnnamedField;
+    const auto renamed = std::ranges::find_if_not(
+        m_names, [&](const QString &name) { return keepsNameInTable(m_dialect, name); });
+    if (isWhole && renamed != m_names.end())
+        return QueryTexts::RenamedField.arg(*renamed);
     if (isWhole && !equalName().isEmpty())
         return QueryTexts::EqualNames.arg(equalName());
     if (isWhole && step != DerivationStep::Sort && losesSort())
@@ -136,6 +141,12 @@ QString Derivation::withSort(const QString &sortList) const
     const QString terms = sortableTerms(sortList);
     sentence.order = terms.isEmpty() ? QString() : orderWords + terms;
     return joinSQLSentence(sentence);
+}
+
+QString Derivation::aliasesAsTable() const
+{
+    const SQLSentence sentence = base();
+    return m_isClosedByAliases ? ComposeSQL(sentence.fields, {}, sentence.order) : QString();
 }
 
 QString Derivation::withoutConditions() const

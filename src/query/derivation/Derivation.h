@@ -89,6 +89,8 @@ public:
     bool isSortedInside() const;
     // The terms of its own sort, so written that they mean the same where the list lacks a field.
     QStringList sortTerms() const;
+    // What its sort uses beside the fields of its result, with the names that statements derived from it use.
+    QList<OfferedField> sortKeyFields() const;
     // Whether DISTINCT removes rows, so that other fields mean other rows.
     bool isDistinct() const { return m_parts.isDistinct && !m_parts.isDistinctOn; }
     // Whether a choice of fields keeps the form of the statement (for example with TOP before its list) and
@@ -117,7 +119,14 @@ public:
     QString withFields(const QStringList &listEntries) const;
     // Selects the fields with these names from the statement as a derived table.
     QString asTableWith(const QStringList &names) const;
+    // If conditions or the sort use aliases: a SELECT of this statement as a table. Without them it would not
+    // need to be one, but its fields would have other names then. Else empty.
+    QString aliasesAsTable() const;
+
     QString withoutConditions() const;
+    // The statement with as many terms of the sort of `other`, from which its fields were chosen, as a
+    // DISTINCT of its fields can have. Any other statement unchanged: its sort does not depend on its list.
+    QString withSortOf(const Derivation &other) const;
 
     // Whether this statement was derived from `other` as a table; and the same statement over another table,
     // without conditions.
@@ -137,7 +146,8 @@ public:
     QStringList listedFor(const Derivation &part) const;
 
     // The names of this statement's fields in the list of one derived from it: as in listed() or, if that one
-    // has this as a table, by their names.
+    // has this as a table, by their names. If this one is a table only for its conditions, and the derived
+    // one lacks them, the entries of the list.
     const QStringList &listedIn(const Derivation &derived) const;
 
     // A statement with the fields of this one for withFieldsOf(): without conditions and sort.
@@ -204,6 +214,7 @@ private:
     bool losesTop(const QStringList &entries) const;
     QStringList namesOf(const QStringList &entries) const;
     QString valueOf(int field) const;
+    QString sortValueOf(int field) const;
     bool keepsListWords() const;
     std::vector<qsizetype> unitedConditions() const;
     bool endsCondition(qsizetype token, int depth) const;
@@ -221,10 +232,11 @@ private:
     QStringList m_usedAliases;         // those of aliasesToTell() that are meant
     QStringList m_written;
     QStringList m_listed;
-    std::vector<int> m_itemOfField; // the list entry that the field comes from
-    QStringList m_tableOfField;     // distinguishes a star's field from others of its name; can be empty
-    bool m_isPlaced = true;         // whether the entry of each field is known
-    bool m_isListKnown = true;      // whether the list can have these fields
+    bool m_isClosedByAliases = false; // only because its conditions or its sort use them
+    std::vector<int> m_itemOfField;   // the list entry that the field comes from
+    QStringList m_tableOfField;       // distinguishes a star's field from others of its name; can be empty
+    bool m_isPlaced = true;           // whether the entry of each field is known
+    bool m_isListKnown = true;        // whether the list can have these fields
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -72,9 +72,18 @@ QString Derivation::withFieldsOf(const Derivation &fieldStatement) const
                         {});
     if (hasWords && sameText(textOf(m_sql, m_parts.source),
                              textOf(fieldStatement.m_sql, fieldStatement.m_parts.source))) {
-        const QStringList entries = splitList(fieldStatement.listText(), m_dialect);
-        return canLoseTop() && !areListed(entries) ? withFields(listedFor(fieldStatement))
-                                                   : withList(fieldStatement.listText(), entries);
+        const bool isSameList = sameText(listText(), fieldStatement.listText());
+        const QStringList entries = isSameList ? m_listed : splitList(fieldStatement.listText(), m_dialect);
+        // The statement that these fields were chosen from
+        if (fieldStatement.areListed(m_listed))
+            return withList(fieldStatement.listText(), entries);
+        // An alias of the other statement can be the name of another field of this one.
+        const bool hasStar = std::ranges::any_of(fieldStatement.m_parts.items, &SelectParts::Item::isStar);
+        const QStringList listed =
+            areListed(entries) || (hasStar && !canLoseTop()) ? QStringList() : listedFor(fieldStatement);
+        return listed.isEmpty() && (areListed(entries) || !canLoseTop())
+                   ? withList(fieldStatement.listText(), entries)
+                   : withFields(listed);
     }
     if (!m_parts.isDerivedTable)
         return withFields(listedFor(fieldStatement));
@@ -152,17 +161,17 @@ bool Derivation::sortsByConstant(const SelectParts::Item &term) const
     return item >= 0 && isConstant(m_sql, m_parts.items[static_cast<std::size_t>(item)]);
 }
 
-// With DISTINCT, a sort can use only fields of the list.
+// With DISTINCT, a sort can use only fields of the list. Some engines allow others, as long as no field goes.
 bool Derivation::canSortWithin(const SelectParts::Item &term, const QStringList &entries) const
 {
-    if (!isDistinct())
+    const auto isEntry = [&](const QString &listed) { return entries.contains(listed); };
+    if (!isDistinct() || std::ranges::all_of(m_listed, isEntry))
         return true;
     if (const int field = fieldOfTerm(term); field >= 0)
-        return entries.contains(m_listed.at(field));
+        return isEntry(m_listed.at(field));
     const auto named = aliasesIn(term);
-    return !named.empty() && std::ranges::all_of(named, [&](const auto &alias) {
-        return entries.contains(m_listed.at(alias.second));
-    });
+    return !named.empty() &&
+           std::ranges::all_of(named, [&](const auto &alias) { return isEntry(m_listed.at(alias.second)); });
 }
 
 QString Derivation::sortWithin(const QStringList &entries) const
@@ -172,9 +181,28 @@ QString Derivation::sortWithin(const QStringList &entries) const
         if (sortsByConstant(term) || !canSortWithin(term, entries))
             continue;
         const int field = fieldOfTerm(term);
-        terms.append(field < 0 ? textOf(m_sql, term.tokens) : sortedAs(term, valueOf(field)));
+        terms.append(field < 0 ? textOf(m_sql, term.tokens) : sortedAs(term, sortValueOf(field)));
     }
     return terms.isEmpty() ? QString() : u" ORDER BY "_s + terms.join(u',');
+}
+
+// A name that is also the alias of another field means that one in a sort, unless it is qualified.
+QString Derivation::sortValueOf(int field) const
+{
+    const int item = m_itemOfField[static_cast<std::size_t>(field)];
+    const bool isName = item >= 0 && m_parts.items[static_cast<std::size_t>(item)].isName;
+    const QString &written = m_written.at(field);
+    return m_kind == Kind::Open && isName && !written.isEmpty() ? written : valueOf(field);
+}
+
+QString Derivation::withSortOf(const Derivation &other) const
+{
+    const bool isSortedByList =
+        keepsListWords() && isDistinct() && !m_parts.isTop && other.keepsListWords() && other.isDistinct();
+    const QString sort = isSortedByList ? other.sortWithin(m_listed) : QString();
+    if (!isSortedByList || sort == sortWithin(m_listed))
+        return m_sql.sql();
+    return joinSQLSentence({headWith(listText()), withWordsApart(m_parts.where, 1), sort});
 }
 
 // TOP takes its records by the whole sort.

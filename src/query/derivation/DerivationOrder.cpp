@@ -131,6 +131,17 @@ QString Derivation::sortKeys() const
     return keys;
 }
 
+QList<OfferedField> Derivation::sortKeyFields() const
+{
+    QList<OfferedField> fields;
+    for (std::size_t i = 0; i < m_parts.sort.size() && !m_parts.isCompound; ++i) {
+        const SelectParts::Item &term = m_parts.sort[i];
+        if (const QString name = fieldOfTerm(term) < 0 ? sortKey(i) : QString(); !name.isEmpty())
+            fields.append({.name = textOf(m_sql, term.value).simplified(), .written = name});
+    }
+    return fields;
+}
+
 // A list can't use its own aliases, except in a sub-select.
 QString Derivation::keyValue(const SelectParts::Item &term) const
 {

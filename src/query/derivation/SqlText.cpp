@@ -14,7 +14,7 @@ const QString fromWord = QStringLiteral(" FROM ");
 const QString whereWord = QStringLiteral(" WHERE ");
 const QString orderWords = QStringLiteral(" ORDER BY ");
 
-// The statement without its sort (including the blank before that) or without its condition (excluding it).
+// The statement without its sort (including the space before that) or without its condition (excluding it).
 QString headWithoutConditions(const QString &statement)
 {
     QString head = statement;

@@ -8,9 +8,9 @@
 #include <optional>
 
 // Splits and joins SELECT statements as plain text. A keyword is
-// recognized, in any case, only with exactly one blank on each
+// recognized, in any case, only with exactly one space on each
 // side, and only its first occurrence from the left. The pieces
-// keep their case and blanks, because they are joined again.
+// keep their case and spaces, because they are joined again.
 namespace KOVAVSFDataGridLib {
 
 struct KeywordCut
@@ -21,8 +21,8 @@ struct KeywordCut
 
 struct SQLSentence
 {
-    QString fields; // SELECT list and FROM part, including the blank before the next keyword
-    QString where;  // from the word WHERE on, including the blank before ORDER BY
+    QString fields; // SELECT list and FROM part, including the space before the next keyword
+    QString where;  // from the word WHERE on, including the space before ORDER BY
     QString order;  // from the words ORDER BY on
 };
 
@@ -32,13 +32,13 @@ std::optional<KeywordCut> SplitByKeyword(const QString &text, const QString &key
 // No value if the statement is empty.
 std::optional<SQLSentence> SplitSQLSentence(const QString &statement);
 
-// The three parts separated by exactly one blank, even if empty, so nothing of a split statement is lost.
+// The three parts separated by exactly one space, even if empty, so nothing of a split statement is lost.
 QString joinSQLSentence(const SQLSentence &sentence);
 
-// The head, then one blank and the part for each other part that isn't empty.
+// The head, then one space and the part for each other part that isn't empty.
 QString ComposeSQL(const QString &head, const QString &where, const QString &order);
 
-// Adds a condition: the first one with WHERE (and a blank before it), the
+// Adds a condition: the first one with WHERE (and a space before it), the
 // others with AND. Either side gets brackets if it has an OR outside all
 // brackets. An empty condition changes nothing; one that ends in a comment
 // is followed by a line break. `dialect` determines how strings are written.
@@ -60,7 +60,7 @@ QString GetNoRowSQL(const QString &statement);
 // The text after " from ", without the condition and the sort. Without FROM, the whole head.
 QString GetSQLTableName(const QString &statement);
 
-// From the blank before FROM to the end; empty without FROM.
+// From the space before FROM to the end; empty without FROM.
 QString getFromPart(const QString &statement);
 
 // The entries of a SELECT list or a sort, split at commas outside brackets, quotes and comments, and trimmed.

@@ -13,10 +13,10 @@ namespace {
 // "DISTINCT T.A" becomes T.A.
 QString withoutListWords(QString item)
 {
-    for (const auto &[word, blanks] :
+    for (const auto &[word, spaces] :
          {std::pair(u"DISTINCT "_s, 1), std::pair(u"ALL "_s, 1), std::pair(u"TOP "_s, 2)}) {
         if (findUpper(item, word) == 1)
-            item = trim(item.section(u' ', blanks, -1, QString::SectionSkipEmpty));
+            item = trim(item.section(u' ', spaces, -1, QString::SectionSkipEmpty));
     }
     return item;
 }

@@ -56,7 +56,7 @@ QList<OfferedField> clsTableFieldManager::Offered() const
         if (!written.isEmpty())
             fields.append({.name = name, .written = written, .whyNotSorted = m_whyNotSorted.value(i)});
     }
-    return fields;
+    return fields + m_further;
 }
 
 std::optional<QStringList> clsTableFieldManager::ReadNames(const QString &connectionString,

@@ -20,6 +20,8 @@ public:
     // Sets the names that the next choice writes for the fields of its statement, in order, until InitData().
     // An empty text excludes a field.
     void SetWrittenFields(const QStringList &written) { m_written = written; }
+    // What the next choice offers after them, until then.
+    void SetFurtherFields(const QList<OfferedField> &fields) { m_further = fields; }
     // Why they can't be sorted by, in the same order and until then; empty texts for those that can.
     void SetWhyNotSorted(const QStringList &reasons) { m_whyNotSorted = reasons; }
     // Together with the reader's engine, determines how names are written.
@@ -32,6 +34,7 @@ public:
         m_fieldNames.clear();
         m_written.clear();
         m_whyNotSorted.clear();
+        m_further.clear();
     }
     void ClearObject() { InitData(); }
 
@@ -56,6 +59,7 @@ private:
     QStringList m_fieldNames;
     QStringList m_written;
     QStringList m_whyNotSorted;
+    QList<OfferedField> m_further;
 };
 
 } // namespace KOVAVSFDataGridLib

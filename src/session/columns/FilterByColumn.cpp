@@ -100,7 +100,7 @@ void filterByColumn(Session &session, int col)
         show(session, field, current, *answer);
 }
 
-const ColumnCommand::Registration registration({
+const ColumnCommand::Registration filterByColumnCommand({
     .key = u"FilterByColumn"_s,
     .place = 200,
     .caption = ColumnCommand::tr("按此列筛选(&F)…"),

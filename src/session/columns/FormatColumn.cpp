@@ -46,7 +46,7 @@ void chooseFormat(Session &session, int col)
         session.window().putColumnFormat(heading, *format);
 }
 
-const ColumnCommand::Registration registration({
+const ColumnCommand::Registration formatColumnCommand({
     .key = u"FormatColumn"_s,
     .place = 500,
     .caption = ColumnCommand::tr("格式(&O)…"),

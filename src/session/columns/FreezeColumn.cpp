@@ -15,7 +15,7 @@ bool isLastFrozen(Session &session, int col)
     return session.window().frozenColumns() == session.window().placeOf(col) + 1;
 }
 
-const ColumnCommand::Registration registration({
+const ColumnCommand::Registration freezeColumnCommand({
     .key = u"FreezeColumns"_s,
     .place = 401,
     .caption = ColumnCommand::tr("冻结到此列(&Z)"),

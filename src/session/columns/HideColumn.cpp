@@ -65,7 +65,7 @@ QString whyNotHidden(Session &session, int col)
     return count > 1 && entriesOfColumns(session).isEmpty() ? QueryTexts::EqualNames.arg(heading) : QString();
 }
 
-const ColumnCommand::Registration registration({
+const ColumnCommand::Registration hideColumnCommand({
     .key = u"HideColumn"_s,
     .place = 400,
     .caption = ColumnCommand::tr("隐藏此列(&H)"),

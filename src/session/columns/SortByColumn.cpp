@@ -31,7 +31,7 @@ const SortTerm *termOf(const std::vector<SortTerm> &order, int col)
 template<bool isWanted>
 QString whyNotChanged(Session &session, int col)
 {
-    const QString reason = whyNotSorted(session, col);
+    QString reason = whyNotSorted(session, col);
     if (!reason.isEmpty())
         return reason;
     const std::vector<SortTerm> order = shownOrder(session);

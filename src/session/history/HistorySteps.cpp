@@ -107,9 +107,12 @@ void goBackTo(Session &session, qsizetype position, StepBack stepBack)
 bool addAgain(colShowSQLSentences &history, const clsShowSQLSentence &entry)
 {
     QString key = entry.SQLKey;
-    return history.AddAllSQLMess(entry.SQLFields, entry.SQLWhere, entry.SQLOrder, entry.OrgSQL, entry.ShowSQL,
-                                 entry.IsShowAllFields, entry.AllFields, entry.PartFields, entry.OrderFields,
-                                 entry.CurrPartFields, entry.CurrOrderFields, &key);
+    if (!history.AddAllSQLMess(entry.SQLFields, entry.SQLWhere, entry.SQLOrder, entry.OrgSQL, entry.ShowSQL,
+                               entry.IsShowAllFields, entry.AllFields, entry.PartFields, entry.OrderFields,
+                               entry.CurrPartFields, entry.CurrOrderFields, &key))
+        return false;
+    history.Item(key)->SortedSQL = entry.SortedSQL;
+    return true;
 }
 
 } // namespace

@@ -64,9 +64,17 @@ QString SharedHistory::whyNot(DerivationStep step) const
     return m_manager->SQLManager().WhyNot(step);
 }
 
-QString SharedHistory::whyNoPartFields() const
+QString SharedHistory::whyNoAllFields() const
 {
     const QString none = whyNone();
+    if (!none.isEmpty() || !m_manager || !m_session.result().isOpen())
+        return none;
+    return m_manager->SQLManager().WhyNoAllFields();
+}
+
+QString SharedHistory::whyNoPartFields() const
+{
+    QString none = whyNone();
     if (!none.isEmpty() || !m_manager || !m_session.result().isOpen())
         return none;
     return m_manager->SQLManager().WhyNoPartFields();

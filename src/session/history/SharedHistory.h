@@ -41,7 +41,8 @@ public:
     QString whyNone() const;
     // The same for the kind of statement that a command would derive.
     QString whyNot(DerivationStep step) const;
-    // The same for the part fields.
+    // The same for all fields, and for the part fields.
+    QString whyNoAllFields() const;
     QString whyNoPartFields() const;
 
     // The user can no longer be asked.

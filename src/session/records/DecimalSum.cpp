@@ -16,7 +16,7 @@ constexpr double mostUnits = 1e15; // up to it, every integer has at most `shown
 
 __extension__ using Wide = __int128;
 
-constexpr Wide limit = [] {
+constexpr Wide tooWide = [] {
     Wide power = 1;
     for (int i = 0; i < mostDigits; ++i)
         power *= 10;
@@ -119,7 +119,7 @@ bool DecimalSum::addDigits(double value, int scale)
     if (decimals < -mostDigits)
         return false;
     Wide units = digits;
-    for (; decimals < 0 && units < limit; ++decimals)
+    for (; decimals < 0 && units < tooWide; ++decimals)
         units *= 10;
     return decimals >= 0 && addExactly(value < 0 ? -units : units, decimals);
 }
@@ -163,17 +163,17 @@ bool DecimalSum::addExactly(Wide value, int scale)
 {
     Wide sum = m_exact;
     for (int i = scale; i < m_scale; ++i) {
-        if (value >= limit / 10 || value <= -limit / 10)
+        if (value >= tooWide / 10 || value <= -tooWide / 10)
             return false;
         value *= 10;
     }
     for (int i = m_scale; i < scale; ++i) {
-        if (sum >= limit / 10 || sum <= -limit / 10)
+        if (sum >= tooWide / 10 || sum <= -tooWide / 10)
             return false;
         sum *= 10;
     }
     sum += value;
-    if (sum >= limit || sum <= -limit)
+    if (sum >= tooWide || sum <= -tooWide)
         return false;
     m_exact = sum;
     m_scale = std::max(m_scale, scale);

@@ -73,7 +73,7 @@ QString shownText(const Referenced &table, const QString &key, const QString &de
     const QString text = description.simplified().left(longest);
     if (text.isEmpty())
         return key;
-    constexpr QChar between(0x3000); // a full-width blank
+    constexpr QChar between(0x3000); // a full-width space
     return table.isKeyRead ? key + between + text : text + between + key;
 }
 

@@ -64,8 +64,8 @@ bool isClauseWord(const SqlScanner &sql, qsizetype token)
 }
 
 // The key under which a statement is cached. A derived statement differs from the host's in the case of these
-// words and the blanks around them. Everything else is kept, because engines name a field by the text of its
-// expression.
+// words and the whitespace around them. Everything else is kept, because engines name a field by the text of
+// its expression.
 QString remembered(const QString &statement)
 {
     const SqlScanner sql(statement);

@@ -130,6 +130,7 @@ std::vector<ConditionInForce> conditionsInForce(Session &session)
     for (const std::size_t place : left)
         byPlace.emplace(place, ConditionInForce{shown[place].text});
     std::vector<ConditionInForce> ordered;
+    ordered.reserve(byPlace.size());
     for (const auto &[place, condition] : byPlace)
         ordered.push_back(condition);
     return ordered;

@@ -260,6 +260,7 @@ private:
         SelectSources found = SelectSources::in(m_sql, m_parts.source);
         m_parts.sources = std::move(found.sources);
         m_parts.hasPlainSources = found.arePlain;
+        m_derivedTables = std::move(found.derivedTables);
     }
 
     // Whether one of these functions is called outside nested SELECTs.
@@ -289,13 +290,14 @@ private:
         return hasCall(range, isAggregateFunction);
     }
 
-    // MySQL's user variables number the records in the order in which they are read. A subquery in FROM only
-    // sets their first value.
+    // MySQL's user variables number the records in the order in which they are read. A derived table is read
+    // before: it only sets their first value, or numbers its own records.
     bool assigns(TextRange range) const
     {
         for (qsizetype i = range.begin; i + 1 < range.end; ++i) {
-            if (range.begin == m_parts.source.begin && isSubselect(m_sql, i))
-                i = afterBrackets(m_sql, i) - 1;
+            const auto table = std::ranges::find(m_derivedTables, i, &TextRange::begin);
+            if (table != m_derivedTables.end())
+                i = table->end - 1;
             else if (m_sql.isSymbol(i, u':') && m_sql.isSymbol(i + 1, u'='))
                 return m_sql.dialect() == SqlDialect::MySql;
         }
@@ -315,7 +317,8 @@ private:
 
     const SqlScanner &m_sql;
     qsizetype m_end;
-    bool m_isInGroup = false; // after GROUP BY, HAVING belongs to it
+    bool m_isInGroup = false;               // after GROUP BY, HAVING belongs to it
+    std::vector<TextRange> m_derivedTables; // of the source
     SelectParts m_parts;
 };
 

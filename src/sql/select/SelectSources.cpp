@@ -6,10 +6,10 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-class Reader
+class SourcesReader
 {
 public:
-    Reader(const SqlScanner &statement, TextRange from) : m_sql(statement), m_from(from) {}
+    SourcesReader(const SqlScanner &statement, TextRange from) : m_sql(statement), m_from(from) {}
 
     SelectSources sources()
     {
@@ -44,8 +44,11 @@ private:
         const qsizetype next = afterBrackets(m_sql, open);
         if (!m_expectsTable)
             return next;
-        if (isSubselect(m_sql, open))
+        if (isSubselect(m_sql, open)) {
+            if (!m_sql.isWord(open - 1, u"LATERAL"))
+                m_found.derivedTables.push_back({open, next});
             return readAlias({}, next);
+        }
         // If the whole join has an alias, its tables have no names outside.
         m_found.arePlain &= !m_sql.isWord(next, u"AS") && !isAlias(next);
         return open + 1;
@@ -107,7 +110,7 @@ private:
 
 SelectSources SelectSources::in(const SqlScanner &statement, TextRange from)
 {
-    return Reader(statement, from).sources();
+    return SourcesReader(statement, from).sources();
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -34,7 +34,7 @@ bool isDescending(const SqlScanner &sql, TextRange direction)
 }
 
 // Takes away what leaves a name or a position what it is: brackets and, depending on the engine, a sign or a
-// collation. Returns the collations, with a blank behind each.
+// collation. Returns the collations, with a space after each.
 QString takeIgnored(const SqlScanner &sql, TextRange &term)
 {
     const bool isStandard = sql.dialect() == SqlDialect::Standard;

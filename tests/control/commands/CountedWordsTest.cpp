@@ -33,13 +33,7 @@ struct CountedWords : Shop
     QString conditionOf(const QString &condition)
     {
         EXPECT_TRUE(load());
-        const auto host = QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid,
-                                           [&](qint32 &cancel, const QString &) {
-                                               grid.PutPassQurryFilter(condition);
-                                               cancel = 0;
-                                           });
-        click(u"Filter"_s);
-        QObject::disconnect(host);
+        answerFilter(condition);
         const auto *shown = grid.findChild<QToolButton *>(u"Condition1"_s);
         return shown ? shown->text().section(u"  "_s, 0, 0) : QString();
     }
@@ -99,23 +93,30 @@ TEST_F(CountedWords, OfTheValueWindow)
     EXPECT_EQ(sizeOf(u"zeroblob(2000)"_s), u"2,000 bytes"_s);
 }
 
+TEST_F(CountedWords, OfPagesInFullScreen)
+{
+    ASSERT_TRUE(load());
+    const auto pagesInFullScreen = [&] {
+        QString shown;
+        WindowAnswers viewer({[&](QDialog &dialog) {
+            shown = dialog.findChild<QLabel *>(u"lblPageCount"_s)->text();
+            dialog.reject();
+        }});
+        grid.activateWindow(); // nobody else does off-screen, after the viewer was closed
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&grid));
+        table->setFocus();
+        QTest::keyClick(table, Qt::Key_F11);
+        return shown;
+    };
+    EXPECT_EQ(pagesInFullScreen(), u"Page 1 of 1"_s);
+    speak(u"zh-CN"_s);
+    EXPECT_EQ(pagesInFullScreen(), u"第1页共1页"_s);
+}
+
 TEST_F(CountedWords, OfTheListOfStatements)
 {
     ASSERT_TRUE(load(u"SELECT * FROM 商品 WHERE ID = 1"_s));
-    auto *const menu = grid.findChild<QMenu *>(u"HistoryMenu"_s);
-    ASSERT_TRUE(menu);
-    QStringList entries;
-    QObject::connect(menu, &QMenu::aboutToShow, menu, [&] {
-        for (const QAction *action : menu->actions()) {
-            if (action->data().isValid())
-                entries.append(action->text());
-        }
-    });
-    WindowAnswers closed;
-    closed.clickInMenu({}); // Esc
-    table->setFocus();
-    QTest::keyClick(table, Qt::Key_H, Qt::ControlModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !entries.isEmpty(); }));
+    const QStringList entries = historyEntries();
     ASSERT_FALSE(entries.isEmpty());
     EXPECT_TRUE(entries.front().contains(u"\t1 record  "_s)) << qPrintable(entries.front());
 }

@@ -191,13 +191,7 @@ protected:
         const bool isOfCities = below(2) > 0;
         const QString condition = isOfCities ? u"城市 <> '大连' and ID > %1"_s.arg(least)
                                              : u"ID > %1 AND 数量 < 7 -- all"_s.arg(least);
-        const auto host = QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid,
-                                           [&](qint32 &cancel, const QString &) {
-                                               grid.PutPassQurryFilter(condition);
-                                               cancel = 0;
-                                           });
-        click(u"Filter"_s);
-        QObject::disconnect(host);
+        answerFilter(condition);
         const Part other{[isOfCities](const Record &each, int) {
             return isOfCities ? each.city && each.city != u"大连"_s : each.count && *each.count < 7;
         }};

@@ -53,21 +53,7 @@ TEST_F(GroupedNumbers, AreInTheLines)
 TEST_F(GroupedNumbers, AreInTheListOfStatements)
 {
     ASSERT_TRUE(load(many, {}));
-    auto *const menu = grid.findChild<QMenu *>(u"HistoryMenu"_s);
-    ASSERT_TRUE(menu);
-    QStringList entries;
-    const auto watch = QObject::connect(menu, &QMenu::aboutToShow, menu, [&] {
-        for (const QAction *action : menu->actions()) {
-            if (action->data().isValid())
-                entries.append(action->text());
-        }
-    });
-    WindowAnswers closed;
-    closed.clickInMenu({}); // Esc
-    table->setFocus();
-    QTest::keyClick(table, Qt::Key_H, Qt::ControlModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !entries.isEmpty(); }));
-    QObject::disconnect(watch);
+    const QStringList entries = historyEntries();
     ASSERT_EQ(entries.size(), 1);
     EXPECT_TRUE(entries.front().contains(u"\t1,234 条  "_s)) << qPrintable(entries.front());
 }

@@ -2,8 +2,10 @@
 
 #include "support/Dialogs.h"
 
+#include <QtTest/QTest>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QMenu>
 
 using namespace Qt::StringLiterals;
 
@@ -174,6 +176,38 @@ void Hands::filter(QDialog &dialog, const QString &condition)
     text.clear();
     compose(text, condition);
     press(dialog, "cmd_Filter");
+}
+
+QStringList Hands::historyEntries()
+{
+    auto *const menu = grid.findChild<QMenu *>(u"HistoryMenu"_s);
+    if (!menu)
+        return {};
+    QStringList entries;
+    const auto watch = QObject::connect(menu, &QMenu::aboutToShow, menu, [&] {
+        for (const QAction *action : menu->actions()) {
+            if (action->data().isValid())
+                entries.append(action->text());
+        }
+    });
+    WindowAnswers closed;
+    closed.clickInMenu({}); // Esc
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_H, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !entries.isEmpty(); }));
+    QObject::disconnect(watch);
+    return entries;
+}
+
+void Hands::answerFilter(const QString &condition)
+{
+    const auto host =
+        QObject::connect(&grid, &KOVAVSFDataGrid::QurryFilter, &grid, [&](qint32 &cancel, const QString &) {
+            grid.PutPassQurryFilter(condition);
+            cancel = 0;
+        });
+    click(u"Filter"_s);
+    QObject::disconnect(host);
 }
 
 void Hands::cancel(QDialog &dialog)

@@ -31,6 +31,11 @@ public:
     void choose(int item, int row, int col = 1);
     void clickCell(int row, int col, Qt::MouseButton button = Qt::LeftButton);
 
+    // What Ctrl+H lists: the statements of the history, newest first.
+    QStringList historyEntries();
+    // A click on Filter that a handler of the host's answers with its own condition.
+    void answerFilter(const QString &condition);
+
     QAction *button(const QString &key) const;
     bool isPressed(const QString &key) const { return button(key)->isChecked(); }
     bool isSingleRecordShown() const { return list->isVisible(); }

@@ -298,10 +298,13 @@ TEST_F(StatementWalk, ShowsTheRowsOfAModelAfterEveryStep)
         const Case &c = cases.at(static_cast<std::size_t>(done / stepsOnEach) % cases.size());
         SCOPED_TRACE(c.place.toStdString());
         begin(c);
+        QStringList taken;
         for (int i = 0; i < stepsOnEach && !HasFailure(); ++i) {
             const char *what = step();
+            taken.append(QLatin1StringView(what) + u": "_s + statement());
             compare();
-            ASSERT_FALSE(HasFailure()) << "after step " << done + i << ", " << what;
+            ASSERT_FALSE(HasFailure()) << "after step " << done + i << ":\n"
+                                       << qUtf8Printable(taken.join(u'\n'));
         }
         ASSERT_FALSE(HasFailure());
     }

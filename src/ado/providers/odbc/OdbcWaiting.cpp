@@ -114,7 +114,7 @@ OdbcWaitingWriter::OdbcWaitingWriter(std::shared_ptr<OdbcRowWriter> writer) : m_
 // The statements of a change have their own time limits; this one covers what is between them.
 void OdbcWaitingWriter::run(std::function<void()> work) const
 {
-    Watched watched;
+    Watched watched(Watched::For::Changing);
     OdbcOperation::run(
         [mutex = m_mutex, work = std::move(work)] {
             const QMutexLocker lock(mutex.get());

@@ -18,7 +18,7 @@ void showAllFields(Session &session)
     showFields(session, rollback.manager().GetCurrentSQL20(AllFieldsStatement), FieldView::All, rollback);
 }
 
-const Command::Registration registration({
+const Command::Registration allCommand({
     .key = CommandKeys::All,
     .shortcut = u"Ctrl+1"_s,
     .button = {{100, Command::tr("全部字段"), Command::tr("显示全部字段"), true}},
@@ -28,7 +28,7 @@ const Command::Registration registration({
     .needs = Needs::Records,
     .record = Record::IsListedAgain,
     .run = showAllFields,
-    .whyNot = [](Session &session) { return session.sharedHistory().whyNone(); },
+    .whyNot = [](Session &session) { return session.sharedHistory().whyNoAllFields(); },
 });
 
 } // namespace

@@ -48,7 +48,7 @@ void showPartFields(Session &session)
         showFields(session, statement, FieldView::Part, rollback);
 }
 
-const Command::Registration registration({
+const Command::Registration partCommand({
     .key = CommandKeys::Part,
     .shortcut = u"Ctrl+2"_s,
     .button = {{101, Command::tr("部分字段"), Command::tr("只显示选定的部分字段"), true}},

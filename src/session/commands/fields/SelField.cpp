@@ -91,7 +91,7 @@ void showChosenFields(Session &session, FieldChooser *chooser)
     const QString chosenFields = history.GetFieldsStatement(statement);
     session.columns().SaveColumnWidths();
     std::optional<ResultSet::Opened> opened;
-    if (session.rules().alwaysOpensFields || history.IsDistinct(statement) ||
+    if (session.rules().alwaysOpensFields || history.IsShownAlone(statement) ||
         !session.columns().hasColumnsFor(namesOf(session, chosenFields))) {
         opened = session.statementReader().read(statement);
         if (!opened)
@@ -112,7 +112,7 @@ void showChosenFields(Session &session, FieldChooser *chooser)
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration selFieldCommand({
     .key = CommandKeys::SelField,
     .shortcut = u"Ctrl+L"_s,
     .button = {{102, Command::tr("选择字段"), Command::tr("选择要显示的字段")}},

@@ -17,7 +17,7 @@ void showFields(Session &session, const QString &statement, FieldView view, Filt
     const QStringList fields = session.columns().fieldsShownBy(view);
     const bool isAlwaysOpened = view == FieldView::All && session.rules().alwaysOpensFields;
     const bool needsOpening =
-        !statement.isEmpty() && (isAlwaysOpened || session.history().IsDistinct(statement) ||
+        !statement.isEmpty() && (isAlwaysOpened || session.history().IsShownAlone(statement) ||
                                  !session.columns().hasColumnsFor(fields));
     std::optional<ResultSet::Opened> opened;
     if (needsOpening) {

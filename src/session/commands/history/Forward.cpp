@@ -24,7 +24,7 @@ QString whyNotForward(Session &session)
     return isAtEnd ? SessionMessages::NothingAhead : QString();
 }
 
-const Command::Registration registration({
+const Command::Registration forwardCommand({
     .key = CommandKeys::Forward,
     .shortcut = u"Alt+Right"_s,
     .menu = {30, Command::tr("前进(&W)")},

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration historyCommand({
     .key = u"History"_s,
     .shortcut = u"Ctrl+H"_s,
     .menu = {31, Command::tr("历史(&Z)…")},

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration toOriginCommand({
     .key = u"ToOrigin"_s,
     .shortcut = u"Alt+Home"_s,
     .button = {{.place = 501,

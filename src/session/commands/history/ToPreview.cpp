@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration toPreviewCommand({
     .key = CommandKeys::ToPreview,
     .shortcut = u"Alt+Left"_s,
     .button = {{.place = 500,

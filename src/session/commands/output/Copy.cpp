@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration copyCommand({
     .key = u"Copy"_s,
     .shortcut = u"Ctrl+C"_s,
     .menu = {17, Command::tr("复制(&Y)")},

@@ -37,7 +37,7 @@ void copyAsInList(Session &session)
         putTextOnClipboard(session, u'(' + values.join(", "_L1) + u')');
 }
 
-const Command::Registration registration({
+const Command::Registration copyAsInListCommand({
     .key = u"CopyAsInList"_s,
     .shortcut = u"Ctrl+Alt+L"_s,
     .menu = {20, Command::tr("IN 列表(&L)"), false, MenuGroup::CopyAs},

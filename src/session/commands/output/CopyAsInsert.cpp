@@ -65,7 +65,7 @@ void copyAsInsert(Session &session)
         putTextOnClipboard(session, text);
 }
 
-const Command::Registration registration({
+const Command::Registration copyAsInsertCommand({
     .key = u"CopyAsInsert"_s,
     .shortcut = u"Ctrl+Alt+C"_s,
     .menu = {19, Command::tr("INSERT 语句(&I)"), false, MenuGroup::CopyAs},

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration copyWithHeadingsCommand({
     .key = u"CopyWithHeadings"_s,
     .shortcut = u"Ctrl+Shift+C"_s,
     .menu = {18, Command::tr("复制（含标题）(&H)")},

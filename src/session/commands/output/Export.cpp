@@ -31,7 +31,7 @@ void exportRecords(Session &session)
         exportResult(session, *answer);
 }
 
-const Command::Registration registration({
+const Command::Registration exportCommand({
     .key = u"Export"_s,
     .shortcut = u"Ctrl+S"_s,
     .menu = {21, Command::tr("导出(&E)…")},

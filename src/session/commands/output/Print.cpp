@@ -27,7 +27,7 @@ void print(Session &session)
         printResult(session, request, *answer);
 }
 
-const Command::Registration registration({
+const Command::Registration printCommand({
     .key = u"Print"_s,
     .shortcut = u"Ctrl+P"_s,
     .menu = {22, Command::tr("打印(&I)…")},

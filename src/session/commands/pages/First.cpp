@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration firstCommand({
     .key = u"First"_s,
     .shortcut = u"Ctrl+Home"_s,
     .button = {{400, Command::tr("首页"), Command::tr("第一页")}},

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration lastCommand({
     .key = u"Last"_s,
     .shortcut = u"Ctrl+End"_s,
     .button = {{403, Command::tr("末页"), Command::tr("最后一页")}},

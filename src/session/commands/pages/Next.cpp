@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration nextCommand({
     .key = u"Next"_s,
     .shortcut = u"Ctrl+PgDown"_s,
     .button = {{402, Command::tr("下页"), Command::tr("下一页")}},

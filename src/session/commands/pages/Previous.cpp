@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration previousCommand({
     .key = u"Previous"_s,
     .shortcut = u"Ctrl+PgUp"_s,
     .button = {{401, Command::tr("上页"), Command::tr("上一页")}},

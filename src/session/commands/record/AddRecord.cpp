@@ -45,7 +45,7 @@ void addRecord(Session &session)
     }
 }
 
-const Command::Registration registration({
+const Command::Registration addRecordCommand({
     .key = CommandKeys::AddRecord,
     .shortcut = u"Ctrl++"_s,
     .menu = {8, Command::tr("增加记录(&N)")},

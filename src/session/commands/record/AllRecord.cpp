@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration allRecordCommand({
     .key = CommandKeys::AllRecord,
     .shortcut = u"Ctrl+4"_s,
     .button = {{201, Command::tr("全部记录"), Command::tr("返回全部记录")}},

@@ -64,7 +64,7 @@ void copyRecord(Session &session)
     }
 }
 
-const Command::Registration registration({
+const Command::Registration copyRecordCommand({
     .key = u"CopyRecord"_s,
     .shortcut = u"Ctrl+Shift+D"_s,
     .menu = {36, Command::tr("复制为新记录(&Q)")},

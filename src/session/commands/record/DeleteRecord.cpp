@@ -84,7 +84,8 @@ void deleteRecord(Session &session)
         // Not every error is a constraint: the file may be read-only, or the record changed by somebody else.
         if (!watch.isUntouched())
             return;
-        if (error.is(ADODB::dbErrInDoubt)) // it may have been deleted nevertheless
+        // No refusal: it may have been deleted nevertheless, or the user no longer wants it.
+        if (error.is(ADODB::dbErrInDoubt) || error.is(ADODB::dbErrCancelled))
             session.questions().show(error.Description());
         else if (!error.is(ADODB::dbErrConcurrency))
             session.questions().showWithCause(SessionMessages::DeleteRefused, error.Description());
@@ -94,7 +95,7 @@ void deleteRecord(Session &session)
     }
 }
 
-const Command::Registration registration({
+const Command::Registration deleteRecordCommand({
     .key = u"DeleteRecord"_s,
     .shortcut = u"Ctrl+-"_s,
     .menu = {9, Command::tr("删除记录(&D)")},

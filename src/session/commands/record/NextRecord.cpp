@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration nextRecordCommand({
     .key = CommandKeys::NextRecord,
     .shortcut = u"Alt+PgDown"_s,
     .menu = {25, Command::tr("下一条记录(&J)")},

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration previousRecordCommand({
     .key = CommandKeys::PreviousRecord,
     .shortcut = u"Alt+PgUp"_s,
     .menu = {24, Command::tr("上一条记录(&K)")},

@@ -18,7 +18,7 @@ void showSingleRecord(Session &session)
         session.window().showSingleRecord();
 }
 
-const Command::Registration registration({
+const Command::Registration singleRecordCommand({
     .key = CommandKeys::SingleRecord,
     .shortcut = u"Ctrl+3"_s,
     .button = {{200, Command::tr("单条记录"), Command::tr("以列表方式查看当前记录")}},

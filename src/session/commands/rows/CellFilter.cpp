@@ -61,7 +61,7 @@ void filterBySelectedCell(Session &session)
         rollback.keepChanges();
 }
 
-const Command::Registration registration({
+const Command::Registration cellFilterCommand({
     .key = CommandKeys::CellFilter,
     .shortcut = u"Ctrl+Shift+L"_s,
     .menu = {14, Command::tr("按选定内容筛选(&C)")},

@@ -128,7 +128,7 @@ void filterByDialog(Session &session, const QString &field)
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration filterCommand({
     .key = CommandKeys::Filter,
     .shortcut = u"Ctrl+Shift+F"_s,
     .button = {{.place = 300,

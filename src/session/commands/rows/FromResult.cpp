@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration fromResultCommand({
     .key = CommandKeys::FromResult,
     .shortcut = u"Ctrl+R"_s,
     .button = {{.place = 302,

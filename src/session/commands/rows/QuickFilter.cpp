@@ -75,7 +75,7 @@ void quickFilter(Session &session)
         rollback.keepChanges();
 }
 
-const Command::Registration registration({
+const Command::Registration quickFilterCommand({
     .key = u"QuickFilter"_s,
     .shortcut = u"Ctrl+F"_s,
     .button = {{.place = 301,

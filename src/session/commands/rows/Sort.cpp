@@ -48,7 +48,7 @@ void sortByDialog(Session &session)
         rollback.keepChanges();
 }
 
-const Command::Registration registration({
+const Command::Registration sortCommand({
     .key = CommandKeys::Sort,
     .shortcut = u"Ctrl+Shift+O"_s,
     .button = {{303, Command::tr("排序"), Command::tr("选择排序字段")}},

@@ -30,7 +30,7 @@ void showFullTable(Session &session)
     });
 }
 
-const Command::Registration registration({
+const Command::Registration toFullTableCommand({
     .key = CommandKeys::ToFullTable,
     .shortcut = u"Ctrl+0"_s,
     .button = {{.place = 502,

@@ -20,7 +20,7 @@ void compressOrRestore(Session &session)
         session.fields().keptWidths().restore(session.window());
 }
 
-const Command::Registration registration({
+const Command::Registration compressViewCommand({
     .key = u"CompressView"_s,
     .shortcut = u"Ctrl+M"_s,
     .button = {{600, Command::tr("压缩显示"),

@@ -17,7 +17,7 @@ void findShown(Session &session)
     session.window().showFind();
 }
 
-const Command::Registration registration({
+const Command::Registration findShownCommand({
     .key = u"FindShown"_s,
     .shortcut = u"Ctrl+G"_s,
     .otherShortcut = u"F7"_s,

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration fullScreenCommand({
     .key = u"FullScreen"_s,
     .shortcut = u"F11"_s,
     .button = {{601, Command::tr("全屏"), Command::tr("全屏显示")}},

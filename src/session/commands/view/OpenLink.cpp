@@ -23,7 +23,7 @@ QUrl currentLink(Session &session)
     return linkIn(session.result().recordset()->CellText(session.pages().recordOfRow(row), col - 1));
 }
 
-const Command::Registration registration({
+const Command::Registration openLinkCommand({
     .key = u"OpenLink"_s,
     .shortcut = u"Ctrl+F3"_s,
     .menu = {32, Command::tr("打开链接(&L)")},

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Command::Registration registration({
+const Command::Registration showNullsCommand({
     .key = u"ShowNulls"_s,
     .shortcut = u"Ctrl+Alt+N"_s,
     .menu = {33, Command::tr("标出空值(&B)")},

@@ -58,7 +58,7 @@ void showValue(Session &session)
         session.window().showValue(*value);
 }
 
-const Command::Registration registration({
+const Command::Registration showValueCommand({
     .key = CommandKeys::ShowValue,
     .shortcut = u"F3"_s,
     .menu = {28, Command::tr("查看内容(&V)…")},

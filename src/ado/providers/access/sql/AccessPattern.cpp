@@ -10,7 +10,7 @@ namespace ADODB {
 namespace {
 
 // Folds each code point separately, so that the number of characters does not change.
-QList<uint> folded(QByteArrayView utf8)
+QList<uint> lettersOf(QByteArrayView utf8)
 {
     QList<uint> letters = QString::fromUtf8(utf8).toUcs4();
     for (uint &letter : letters)
@@ -53,7 +53,7 @@ AccessPattern AccessPattern::ofAdo(QByteArrayView pattern, char32_t escape)
 AccessPattern AccessPattern::ofAccess(QByteArrayView pattern)
 {
     AccessPattern result;
-    const QList<uint> letters = folded(pattern);
+    const QList<uint> letters = lettersOf(pattern);
     for (qsizetype i = 0; i < letters.size(); ++i) {
         const qsizetype close = letters[i] == U'[' ? letters.indexOf(U']', i + 1) : -1;
         if (close > i) {
@@ -84,7 +84,7 @@ AccessPattern AccessPattern::ofAccess(QByteArrayView pattern)
 // match too.
 bool AccessPattern::matches(QByteArrayView utf8) const
 {
-    const QList<uint> text = folded(utf8);
+    const QList<uint> text = lettersOf(utf8);
     const auto end = m_parts.end();
     auto next = m_parts.begin();
     auto retry = end;

@@ -56,7 +56,7 @@ bool isSharedLock(const SqlScanner &statement, qsizetype index)
            statement.isWord(index + 2, u"SHARE") && statement.isWord(index + 3, u"MODE");
 }
 
-// SQL Server needs no separator between statements, not even a blank after a number. Names like these words
+// SQL Server needs no separator between statements, not even a space after a number. Names like these words
 // must be quoted.
 bool beginsStatement(const SqlScanner &statement, qsizetype index)
 {
