@@ -44,11 +44,14 @@ protected:
 
 private:
     const QString harmless = QStringLiteral("SELECT 1 AS one FROM ") + engine.numbersTo(3);
-    int handlesBefore = -1;
+    QStringList filesBefore;
 };
 
-// Open files, sockets and pipes of this process; -1 if unknown.
-int openHandles();
+// Open files, sockets and pipes of this process; none if unknown.
+QStringList openFiles();
+// Waits until as many files are open as then, or fewer: an earlier test's thread may still be ending a
+// connection.
+bool becomesAsFew(const QStringList &before);
 // Memory in use, in MiB; 0 if unknown.
 qint64 memoryInUse();
 
