@@ -117,7 +117,7 @@ function(kova_room name)
   else()
     kova_precompile(${target} core)
   endif()
-  kova_unite(${target} 8)
+  kova_unite(${target} 16)
 endfunction()
 
 # kova_rooms_below(<variable> <room>...): the object libraries of these rooms and of all rooms they rest on.
@@ -143,7 +143,7 @@ function(kova_program name)
   kova_rooms_below(rooms ${PROGRAM_ROOMS})
   add_executable(${name} ${PROGRAM_SOURCES})
   kova_compile_settings(${name})
-  kova_unite(${name} 8)
+  kova_unite(${name} 16)
   target_link_libraries(${name} PRIVATE ${rooms} ${PROGRAM_LINKS})
 endfunction()
 
@@ -161,7 +161,7 @@ endfunction()
 # optimize tests: what takes time in a test is the library, which is optimized. GCC clears up its memory only when it has
 # used a gigabyte, because looking for what is not needed takes longer than a test.
 function(kova_quick_compile target)
-  kova_unite(${target} 16)
+  kova_unite(${target} 40)
   set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
   target_compile_options(${target} PRIVATE
     "$<$<CONFIG:RelWithDebInfo>:SHELL:-O0 -U_FORTIFY_SOURCE>" # which only works when optimizing

@@ -16,6 +16,7 @@ void EngineStatements::SetUp()
     EngineTest::SetUp();
     if (IsSkipped())
         return;
+    hands->grid.resize(1400, 320); // painted after each of thousands of commands
     createTables();
     connection = std::make_shared<ADODB::Connection>();
     connection->Open(database->connectionString());

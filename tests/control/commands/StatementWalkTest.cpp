@@ -41,7 +41,10 @@ struct WalkedDatabase
 class StatementWalk : public testing::Test, protected WalkedDatabase, protected Hands
 {
 protected:
-    StatementWalk() : Hands(database.connectionString(), KOVAVSFDataGrid::dbAccess) {}
+    StatementWalk() : Hands(database.connectionString(), KOVAVSFDataGrid::dbAccess)
+    {
+        grid.resize(1400, 320); // painted after each of 10,000 steps
+    }
 
     std::size_t pick(std::size_t count)
     {
