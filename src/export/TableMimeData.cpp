@@ -3,6 +3,7 @@
 #include "ado/values/DateText.h"
 #include "ado/values/NumericTypes.h"
 #include "ado/values/Utf8.h"
+#include "export/Spreadsheet.h"
 #include "export/writers/HtmlText.h"
 
 #include <QtCore/QDateTime>
@@ -17,15 +18,15 @@ namespace {
 
 // Each of the two families of office programs has its own words for what a cell holds: classes, and a
 // number's format with the day's number in their calendar.
-constexpr char head[] = "<html><head><meta charset=\"utf-8\"><style>.t{mso-number-format:\"\\@\"}"
-                        ".d{mso-number-format:\"yyyy\\-mm\\-dd\"}.h{mso-number-format:\"hh\\:mm\\:ss\"}"
-                        ".m{mso-number-format:\"yyyy\\-mm\\-dd\\ hh\\:mm\\:ss\"}"
-                        "br{mso-data-placement:same-cell}pre{display:inline;font:inherit}</style></head>"
-                        "<body><table>";
+constexpr char clipboardHead[] =
+    "<html><head><meta charset=\"utf-8\"><style>.t{mso-number-format:\"\\@\"}"
+    ".d{mso-number-format:\"yyyy\\-mm\\-dd\"}.h{mso-number-format:\"hh\\:mm\\:ss\"}"
+    ".m{mso-number-format:\"yyyy\\-mm\\-dd\\ hh\\:mm\\:ss\"}"
+    "br{mso-data-placement:same-cell}pre{display:inline;font:inherit}</style></head>"
+    "<body><table>";
 constexpr char numberCell[] = "<td>";
 constexpr char textCell[] = "<td class=\"t\" sdnum=\"1033;0;@\">"; // stays as it is
 
-constexpr int exactDigits = 15;   // of a spreadsheet's numbers
 const QDate firstDay(1900, 3, 1); // from which on all spreadsheets count the same days
 const QDate dayNought(1899, 12, 30);
 constexpr double secondsOfDay = 86400;
@@ -166,7 +167,7 @@ QVariant TableMimeData::retrieveData(const QString &mimeType, QMetaType type) co
 QByteArray TableMimeData::html() const
 {
     const bool isOneValue = !m_text.endsWith("\r\n");
-    QByteArray html = head;
+    QByteArray html = clipboardHead;
     bool isHeading = m_hasHeadings;
     for (qsizetype at = 0; at < m_text.size();) {
         html += "<tr>";

@@ -8,7 +8,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr char head[] =
+constexpr char pageHead[] =
     "<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<style>\n"
     "table { border-collapse: collapse; font-family: sans-serif; font-size: 10pt; }\n"
     "th, td { border: 1px solid #b0b0b0; padding: 2px 6px; text-align: left; vertical-align: top;"
@@ -29,7 +29,7 @@ void HtmlWriter::begin(const ExportColumns &columns)
     for (const ExportColumn &column : m_columns)
         m_isNumeric.push_back(ADODB::isNumericType(column.type));
     QByteArray &html = m_sink.text();
-    html += head;
+    html += pageHead;
     if (m_hasHeadings) {
         html += "<thead>\n<tr>";
         for (std::size_t i = 0; i < m_columns.size(); ++i) {

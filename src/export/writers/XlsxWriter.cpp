@@ -6,6 +6,7 @@
 #include "ado/values/NumericTypes.h"
 #include "ado/values/Utf8.h"
 #include "export/ExportTexts.h"
+#include "export/Spreadsheet.h"
 #include "export/TextSink.h"
 
 #include <QtCore/QDateTime>
@@ -27,7 +28,6 @@ constexpr int widestColumn = 600;        // pixels; a wider one would fill the s
 constexpr int mostDecimals = 15;
 constexpr int firstYear = 1900; // of the calendar in spreadsheets; its days before March are off by one
 constexpr qint64 largestExact = qint64{1} << 53;
-constexpr int exactDigits = 15;
 
 bool isDateType(ADODB::DataTypeEnum type)
 {
