@@ -208,17 +208,19 @@ int EngineStatements::forEachTaken(const std::function<void(const TakenCase &)> 
 void EngineStatements::runShare(const TakenCase &taken,
                                 const std::vector<std::function<void()>> &commands) const
 {
-    std::size_t modes = 0;
+    std::size_t shares = 0;
     std::size_t own = 0;
     for (const JourneyEngine &other : enginesOfStatements()) {
         if (QLatin1StringView(other.name) == QLatin1StringView(engine.name))
-            own = modes;
+            own = shares;
         if (engine.isMariaDb() && other.isMariaDb() && other.isThere())
-            ++modes;
+            ++shares;
     }
-    modes = std::max<std::size_t>(modes, 1);
+    if (engine.isFilledBySqlite() && engine.variable)
+        shares = 2;
+    shares = std::max<std::size_t>(shares, 1);
     for (std::size_t i = 0; i < commands.size(); ++i) {
-        if ((taken.number + i) % modes == own)
+        if ((taken.number + i) % shares == own)
             commands[i]();
     }
 }
