@@ -7,7 +7,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-std::deque<ColumnCommand> &registered()
+std::deque<ColumnCommand> &registeredColumnCommands()
 {
     static std::deque<ColumnCommand> commands; // a deque, because the addresses must not change
     return commands;
@@ -18,14 +18,14 @@ std::deque<ColumnCommand> &registered()
 ColumnCommand::Registration::Registration(ColumnCommand command)
 {
     Q_ASSERT_X(!find(command.key), "ColumnCommand", "two commands have the same key");
-    registered().push_back(std::move(command));
+    registeredColumnCommands().push_back(std::move(command));
 }
 
 const std::vector<const ColumnCommand *> &ColumnCommand::all()
 {
     static const std::vector<const ColumnCommand *> sorted = [] {
         std::vector<const ColumnCommand *> commands;
-        for (const ColumnCommand &command : registered())
+        for (const ColumnCommand &command : registeredColumnCommands())
             commands.push_back(&command);
         std::ranges::sort(commands, {}, &ColumnCommand::place);
         return commands;
@@ -35,8 +35,8 @@ const std::vector<const ColumnCommand *> &ColumnCommand::all()
 
 const ColumnCommand *ColumnCommand::find(const QString &key)
 {
-    const auto found = std::ranges::find(registered(), key, &ColumnCommand::key);
-    return found == registered().end() ? nullptr : &*found;
+    const auto found = std::ranges::find(registeredColumnCommands(), key, &ColumnCommand::key);
+    return found == registeredColumnCommands().end() ? nullptr : &*found;
 }
 
 } // namespace KOVAVSFDataGridLib

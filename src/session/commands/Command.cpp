@@ -8,7 +8,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-std::deque<Command> &registered()
+std::deque<Command> &registeredCommands()
 {
     static std::deque<Command> commands; // a deque, because the addresses must not change
     return commands;
@@ -22,15 +22,15 @@ int placeOf(const Command &command)
 template<typename Predicate>
 const Command *findIf(Predicate predicate)
 {
-    const auto found = std::ranges::find_if(registered(), predicate);
-    return found == registered().end() ? nullptr : &*found;
+    const auto found = std::ranges::find_if(registeredCommands(), predicate);
+    return found == registeredCommands().end() ? nullptr : &*found;
 }
 
 } // namespace
 
 Command::Registration::Registration(Command command)
 {
-    registered().push_back(std::move(command));
+    registeredCommands().push_back(std::move(command));
 }
 
 const Command *Command::find(const QString &key)
@@ -47,7 +47,7 @@ const Command *Command::findMenuItem(MenuItemTexts Command::*menu, int index)
 int Command::lastMenuIndex(MenuItemTexts Command::*menu)
 {
     int last = 0;
-    for (const Command &command : registered())
+    for (const Command &command : registeredCommands())
         last = std::max(last, (command.*menu).index);
     return last;
 }
@@ -56,7 +56,7 @@ const std::vector<const Command *> &Command::all()
 {
     static const std::vector<const Command *> sorted = [] {
         std::vector<const Command *> commands;
-        for (const Command &command : registered())
+        for (const Command &command : registeredCommands())
             commands.push_back(&command);
         std::ranges::stable_sort(commands, {}, [](const Command *command) { return placeOf(*command); });
         return commands;
