@@ -12,9 +12,11 @@
 #include <QtWidgets/QComboBox>
 
 #include <memory>
+#include <string_view>
 
 using namespace KovaTest;
 using namespace Qt::StringLiterals;
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -63,12 +65,13 @@ protected:
         other->PutSQLShow(statement);
         return other;
     }
-    // Loads; deletes the control when the user sees that it waits.
-    static void deleteWhenItWaits(std::unique_ptr<KOVAVSFDataGrid> &other)
+    // Loads; deletes the control when the user sees that it waits, and it is time.
+    static void deleteWhenItWaits(
+        std::unique_ptr<KOVAVSFDataGrid> &other, const std::function<bool()> &isTime = [] { return true; })
     {
         QTimer host;
         QObject::connect(&host, &QTimer::timeout, &host, [&] {
-            if (progressLine())
+            if (progressLine() && isTime())
                 other.reset();
         });
         host.start(5);
@@ -153,6 +156,23 @@ TEST_P(FrozenServerReading, LetsTheHostDeleteTheControlWhileItConnects)
     // The same login, whose first connection has no owner any more.
     EXPECT_TRUE(loadKept());
     expectKept();
+}
+
+// A long load asks for it in another session, which nobody waits for.
+TEST_P(FrozenServerReading, LetsTheHostDeleteTheControlDuringAnEstimate)
+{
+    const bool isMariaDb = engine.server == "mariadb"sv;
+    LoopbackProxy proxy(LoopbackProxy::portOf(connection()), freezeOn(isMariaDb ? "TABLE_ROWS" : "EXPLAIN"));
+    auto other =
+        controlOf(proxy.in(connection()),
+                  isMariaDb ? u"SELECT * FROM seq_1_to_20000000"_s
+                            : u"SELECT id FROM (SELECT generate_series(1, 2000000000) AS id) AS e"_s);
+    deleteWhenItWaits(other, [this] { return isFrozen.load(); });
+    EXPECT_TRUE(isFrozen);
+    thaw();
+    EXPECT_TRUE(loadKept());
+    expectKept();
+    EXPECT_EQ(takeMessages(), QStringList());
 }
 
 TEST_P(FrozenServerReading, LetsTheUserCancelTheFieldsOfTheFilterDialog)
