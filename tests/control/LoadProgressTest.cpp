@@ -151,6 +151,18 @@ TEST_F(LoadProgressTest, InANarrowLineTheNumberTakesTheBarsPlace)
     }));
 }
 
+TEST_F(LoadProgressTest, InANarrowLineTheButtonStaysBesideAnEstimate)
+{
+    grid.resize(grid.minimumSize());
+    loadUntil(2'987'654'321, [&](qint64, const QString &text) {
+        if (!text.contains(u"预计"_s))
+            return false;
+        EXPECT_GE(cancelButton()->width(), cancelButton()->fontMetrics().horizontalAdvance(u"取消"_s));
+        EXPECT_LE(cancelButton()->geometry().right(), grid.width());
+        return true;
+    });
+}
+
 TEST_F(LoadProgressTest, TheButtonCancelsAndEverythingStays)
 {
     EXPECT_FALSE(loadForever([this] { QTest::mouseClick(cancelButton(), Qt::LeftButton); }));
