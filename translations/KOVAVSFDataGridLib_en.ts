@@ -2380,6 +2380,13 @@
             <numerusform>%1 records read</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>已读取 %1 条记录，预计共约 %2 条</source>
+        <translation>
+            <numerusform>%1 record read, about %2 expected</numerusform>
+            <numerusform>%1 records read, about %2 expected</numerusform>
+        </translation>
+    </message>
     <message>
         <source>正在等待数据库…</source>
         <translation>Waiting for the database…</translation>

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace ADODB {
 
@@ -163,6 +164,7 @@ private:
     friend class RowReader;
     friend class RecordView;
     friend std::shared_ptr<const Recordset> recordsSoFar(const Recordset &opening);
+    friend std::optional<qint64> estimatedRecords(const Recordset &opening);
     const FieldInfo &fieldInfo(int column) const;
     QVariant currentValue(int column) const;
     void putCurrentValue(int column, const QVariant &value);

@@ -16,10 +16,8 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-// Milliseconds. Those with "Here" are for queries in the caller's thread.
-constexpr int limitOfSample = 2000;
-constexpr int limitHere = 1000;
-constexpr int limitOfSampleHere = 500;
+constexpr int limitHere = 1000;  // milliseconds, for queries in the caller's thread
+constexpr int partForSample = 5; // this part of the limit is kept for the sample
 constexpr int millisecondsOfSecond = 1000;
 
 bool isCancelled(const ADODB::Error &error)
@@ -75,10 +73,14 @@ void ValueReading::put(OfferedValues values)
 
 void ValueReading::run()
 {
-    const QDeadlineTimer due(m_limit);
+    const QDeadlineTimer beforeSample(m_limit - m_limit / partForSample);
+    const QDeadlineTimer end(m_limit);
+    const auto before = [this](const QDeadlineTimer &due) {
+        return [this, &due] { return !m_isStopped && !due.hasExpired(); };
+    };
     QString failure;
     try {
-        read([&] { return !m_isStopped && !due.hasExpired(); });
+        read(before(beforeSample), before(end));
         return;
     } catch (const ADODB::Error &error) {
         failure = error.Description();
@@ -96,18 +98,18 @@ void ValueReading::run()
     QMetaObject::invokeMethod(this, &ValueReading::arrived, Qt::QueuedConnection);
 }
 
-void ValueReading::read(const std::function<bool()> &shouldContinue)
+void ValueReading::read(const std::function<bool()> &shouldReadAll,
+                        const std::function<bool()> &shouldContinue)
 {
     OfferedValues read;
     try {
-        read = valuesOf(m_request.values, shouldContinue);
+        read = valuesOf(m_request.values, shouldReadAll);
     } catch (const ADODB::Error &error) {
         if (m_isStopped || !isCancelled(error))
             throw;
-        // The time limit is exceeded: a sorted list has no values before it is complete.
-        const QDeadlineTimer due(m_request.isHere ? limitOfSampleHere : limitOfSample);
+        // It takes too long: a sorted list has no values before it is complete.
         try {
-            read = valuesOf(m_request.sample, [&] { return !m_isStopped && !due.hasExpired(); });
+            read = valuesOf(m_request.sample, shouldContinue);
         } catch (const ADODB::Error &late) {
             if (m_isStopped || !isCancelled(late))
                 throw;

@@ -41,15 +41,15 @@ struct ValueRequest
     QString count;                                 // a statement for the number of all values
     QString sample;                                // a fast statement, in case `values` takes too long
     int most = 0;                                  // values to offer
-    int limit = 5000;                              // milliseconds
+    int limit = 5000;                              // milliseconds for everything together
     QString withoutValue = {}; // a statement for the number of records without a value; may be empty
     bool areDays = false;      // only the dates of timestamps are offered
     bool isHere = false;       // the connection is shared: it is used only in the caller's thread
 };
 
 // Reads the values in a separate thread, which ends with this object, or immediately if the connection is
-// shared. A query that exceeds the time limit is stopped; then the values of the first records are offered,
-// with a note. If read immediately, the limit is a second.
+// shared. A query that takes too long is stopped; within the rest of the time limit, the values of the first
+// records are read and offered, with a note. If read immediately, the limit is a second.
 class ValueReading final : public QObject
 {
     Q_OBJECT
@@ -72,7 +72,7 @@ Q_SIGNALS:
 
 private:
     void run();
-    void read(const std::function<bool()> &shouldContinue);
+    void read(const std::function<bool()> &shouldReadAll, const std::function<bool()> &shouldContinue);
     void addFurtherCounts(OfferedValues &read, const std::function<bool()> &shouldContinue);
     OfferedValues valuesOf(const QString &statement, const std::function<bool()> &shouldContinue) const;
     qint64 numberOf(const QString &statement, const std::function<bool()> &shouldContinue) const;

@@ -31,6 +31,8 @@ public:
     // Call it before that while a recordset is being opened that has some records: the user can look at them
     // until this object is destroyed. See ADODB::recordsSoFar().
     virtual void showOpening(const ADODB::Recordset &) {}
+    // About how many records there will be. May be called at any time.
+    virtual void expect(qint64 /*records*/) {}
 };
 
 // The cells that the user has marked: some of the columns in consecutive rows, both from 1.

@@ -3,8 +3,10 @@
 #include "GridFixture.h"
 #include "support/MessageAnswers.h"
 
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QLocale>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTimer>
 #include <QtGui/QWindow>
 #include <QtTest/QSignalSpy>
@@ -41,6 +43,29 @@ struct LoadProgressTest : GridFixture
                 pressEscape();
         });
         return load(endlessStatement());
+    }
+    // Loads a table that has no end until its line says so much, and returns what it has said. For SQLite,
+    // the table has `estimated` records.
+    QStringList loadUntil(qint64 estimated,
+                          const std::function<bool(qint64 read, const QString &text)> &isEnough)
+    {
+        database.run(u"CREATE VIEW Endless AS "_s + endlessStatement());
+        database.run(u"ANALYZE; INSERT INTO sqlite_stat1 VALUES ('Endless', NULL, '%1')"_s.arg(estimated));
+        QStringList said;
+        const QDeadlineTimer due(60'000);
+        QTimer user;
+        QObject::connect(&user, &QTimer::timeout, &user, [&] {
+            const auto *bar = grid.findChild<QProgressBar *>();
+            if (!bar)
+                return;
+            said.append(bar->parentWidget()->findChild<QLabel *>()->text());
+            if (due.hasExpired() || isEnough(bar->value(), said.constLast()))
+                pressEscape();
+        });
+        user.start(0);
+        EXPECT_FALSE(load(u"select * from Endless"_s));
+        EXPECT_FALSE(due.hasExpired());
+        return said;
     }
     static QString endlessStatement()
     {
@@ -92,6 +117,29 @@ TEST_F(LoadProgressTest, TheLineShowsHowManyRecordsHaveBeenRead)
     EXPECT_FALSE(hasWaitCursor) << "the pointer shall invite to press the button";
 }
 
+TEST_F(LoadProgressTest, TheLineTellsAboutHowManyRecordsThereWillBe)
+{
+    const QStringList said =
+        loadUntil(2'987'654'321, [](qint64, const QString &text) { return text.contains(u"预计"_s); });
+    static const QRegularExpression expected(u"^已读取 [\\d,]+ 条记录，预计共约 3,000,000,000 条$"_s);
+    EXPECT_TRUE(expected.match(said.value(said.size() - 1)).hasMatch()) << qUtf8Printable(said.join(u'|'));
+    expectCancelled();
+}
+
+TEST_F(LoadProgressTest, TheLineKeepsSilentAboutAMillionRecords)
+{
+    const QStringList said =
+        loadUntil(1'000'000, [](qint64 read, const QString &) { return read > 500'000; });
+    EXPECT_EQ(said.filter(u"预计"_s), QStringList());
+}
+
+TEST_F(LoadProgressTest, AnEstimateThatIsExceededGoesAway)
+{
+    const QStringList said =
+        loadUntil(1'100'000, [](qint64 read, const QString &) { return read > 1'200'000; });
+    EXPECT_FALSE(said.value(said.size() - 1).contains(u"预计"_s)) << qUtf8Printable(said.join(u'|'));
+}
+
 TEST_F(LoadProgressTest, InANarrowLineTheNumberTakesTheBarsPlace)
 {
     grid.resize(grid.minimumSize());
@@ -101,6 +149,18 @@ TEST_F(LoadProgressTest, InANarrowLineTheNumberTakesTheBarsPlace)
         EXPECT_GT(number->width(), 3 * bar->width());
         EXPECT_GE(cancelButton()->width(), cancelButton()->fontMetrics().horizontalAdvance(u"取消"_s));
     }));
+}
+
+TEST_F(LoadProgressTest, InANarrowLineTheButtonStaysBesideAnEstimate)
+{
+    grid.resize(grid.minimumSize());
+    loadUntil(2'987'654'321, [&](qint64, const QString &text) {
+        if (!text.contains(u"预计"_s))
+            return false;
+        EXPECT_GE(cancelButton()->width(), cancelButton()->fontMetrics().horizontalAdvance(u"取消"_s));
+        EXPECT_LE(cancelButton()->geometry().right(), grid.width());
+        return true;
+    });
 }
 
 TEST_F(LoadProgressTest, TheButtonCancelsAndEverythingStays)

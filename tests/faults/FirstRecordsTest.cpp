@@ -6,6 +6,7 @@
 
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QScrollBar>
 
@@ -76,6 +77,19 @@ TEST_P(FirstRecordsOfServer, AreSeenAndScrolledWhileTheRestIsRead)
         return true;
     }));
     EXPECT_TRUE(hands->messages.texts().isEmpty()) << "the user knows what he did";
+    expectNothingLeft();
+}
+
+TEST_P(FirstRecordsOfServer, AreCountedBesideTheEstimateOfTheServer)
+{
+    ASSERT_TRUE(load());
+    EXPECT_FALSE(loadEndless([this] {
+        const auto *line = hands->grid.findChild<QProgressBar *>()->parentWidget();
+        if (!line->findChild<QLabel *>()->text().endsWith(u" 条记录，预计共约 2,000,000,000 条"_s))
+            return false;
+        cancel();
+        return true;
+    }));
     expectNothingLeft();
 }
 

@@ -97,6 +97,30 @@ TEST(SimpleSelect, DistinguishesPlainColumnsFromComputedOnes)
     EXPECT_EQ(items.join(u'|'), u"*|*|*|a|b|c d|e\"f|h|j|m|||||||||||||"_s);
 }
 
+TEST(SimpleSelect, SaysWhetherEveryRowOfTheTableIsInTheResult)
+{
+    for (const QString &sql :
+         {u"select * from t"_s, u"select all t.*, a b from main.t order by (select c from u limit 1), 2;"_s,
+          u"select a from t as limits -- where x"_s, u"select a from t indexed by i order by \"limit\""_s})
+        EXPECT_TRUE(parse(sql).isWhole) << sql.toStdString();
+    for (const QString &sql :
+         {u"select * from t where a"_s, u"select * from t limit 3"_s,
+          u"select * from t order by a limit 3, 4"_s, u"select * from t order by a fetch first 3 rows only"_s,
+          u"select * from t order by a offset 3"_s, u"select max(a) from t"_s, u"select distinct a from t"_s,
+          u"select a from t union select 1"_s, u"select a from t group by a"_s, u"select t.a from t, u"_s,
+          u"select a from t for update"_s, u"select * from f(1)"_s,
+          u"with t as (select 1) select * from t"_s})
+        EXPECT_FALSE(parse(sql).isWhole) << sql.toStdString();
+    const auto isWholeInMySql = [](const QString &sql) {
+        return SimpleSelect::parse(SqlScanner(sql, SqlDialect::MySql)).isWhole;
+    };
+    EXPECT_TRUE(isWholeInMySql(u"select sql_no_cache * from t"_s));
+    for (const QString &sql :
+         {u"select * from t /*! where a */"_s, u"select * from t order by a /*! limit 3 */"_s,
+          u"select * from t partition (p)"_s})
+        EXPECT_FALSE(isWholeInMySql(sql)) << sql.toStdString();
+}
+
 TEST(SimpleSelect, ReadsCommentsThatMySqlRuns)
 {
     const auto faultOf = [](const QString &sql) {

@@ -36,6 +36,10 @@ public:
     // For use inside `shouldContinue`: the complete rows that fetch() has read so far, or nearly all of them.
     // Null if there are none yet, or if the provider does not support it.
     virtual std::shared_ptr<const RowStore> rowsSoFar() const { return nullptr; }
+    // For use inside `shouldContinue`: about how many rows fetch() will read, if the engine knows it without
+    // reading them. Takes no time: the provider asks the engine only when fetch() takes long, and there is no
+    // value until it has answered.
+    virtual std::optional<qint64> estimatedRows() const { return std::nullopt; }
     // Null if rows can't be written back; whyReadOnly() then returns the reason.
     virtual std::unique_ptr<RowWriter> releaseWriter() = 0;
     virtual QString whyReadOnly() const = 0;

@@ -10,6 +10,12 @@ std::shared_ptr<const Recordset> recordsSoFar(const Recordset &opening)
     return opening.soFar();
 }
 
+std::optional<qint64> estimatedRecords(const Recordset &opening)
+{
+    const Statement *const statement = opening.d->fetching;
+    return statement ? statement->estimatedRows() : std::nullopt;
+}
+
 std::shared_ptr<const Recordset> Recordset::soFar() const
 {
     const Statement *const statement = d->fetching;

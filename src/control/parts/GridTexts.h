@@ -130,6 +130,7 @@ inline constexpr Text SelectWholeRows = tr("整行选择(&R)");
 
 // Loading.
 inline constexpr CountedText RecordsRead = counted("已读取 %1 条记录");
+inline constexpr CountedText RecordsReadOfAbout = counted("已读取 %1 条记录，预计共约 %2 条");
 inline constexpr Text WaitingForDatabase = tr("正在等待数据库…");
 inline constexpr Text Cancelling = tr("正在取消…");
 inline constexpr Text CancelOpening = tr("取消");

@@ -1,6 +1,7 @@
 #include "session/statement/StatementReader.h"
 
 #include "ado/Error.h"
+#include "ado/recordset/RecordsSoFar.h"
 #include "query/SharedValues.h"
 #include "query/clsFilterManagement.h"
 #include "session/Questions.h"
@@ -38,6 +39,8 @@ ResultSet::Opened StatementReader::open(const QString &statement, AllDBType dbTy
     const auto shouldContinue = [&](qint64 rowsRead, const ADODB::Recordset &recordset) {
         if (progress && rowsRead > 0)
             progress->showOpening(recordset);
+        if (const auto expected = ADODB::estimatedRecords(recordset); progress && expected)
+            progress->expect(*expected);
         // Called after a cancel too, so that windows are painted until the server has responded.
         const bool isWanted = !progress || progress->shouldContinue(rowsRead);
         m_isCancelled |= !isWanted;

@@ -143,6 +143,19 @@ qsizetype indexOfFrom(const SqlScanner &statement)
     return i;
 }
 
+// Whether what begins at `next`, behind the table, is nothing or a sort. A computed entry can be an
+// aggregate.
+bool isWholeTable(const SqlScanner &statement, const std::vector<SimpleSelect::Item> &items, qsizetype next)
+{
+    if (std::ranges::any_of(items, &SimpleSelect::Item::isComputed))
+        return false;
+    for (qsizetype i = next; i < statement.count(); ++i) {
+        if (statement.at(i).depth == 0 && isOneOf(statement, i, {u"WHERE", u"LIMIT", u"OFFSET", u"FETCH"}))
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 SimpleSelect SimpleSelect::parse(const SqlScanner &statement)
@@ -193,6 +206,7 @@ SimpleSelect SimpleSelect::parse(const SqlScanner &statement)
     if (!ends && !isOneOf(statement, next, {u"WHERE", u"ORDER", u"LIMIT"}))
         select.fault = Fault::Join;
     select.items = itemsBefore(statement, from);
+    select.isWhole = select.fault == Fault::None && isWholeTable(statement, select.items, next);
     return select;
 }
 

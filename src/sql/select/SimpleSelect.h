@@ -35,6 +35,8 @@ struct SimpleSelect
     qsizetype listEnd = 0;   // the end of the SELECT list in the text
     qsizetype sourceEnd = 0; // the end of the table with its alias
     std::vector<Item> items;
+    // Certainly every row of the table is a row of the result: no condition, no limit, no aggregate.
+    bool isWhole = false;
 
     static SimpleSelect parse(const SqlScanner &statement);
 };

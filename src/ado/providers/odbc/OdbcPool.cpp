@@ -184,6 +184,18 @@ std::shared_ptr<OdbcConnection> OdbcPool::acquire(const std::shared_ptr<std::ato
 {
     if (std::unique_ptr<OdbcConnection> connection = acquireIdle())
         return lend(std::move(connection), isLost);
+    return lendNew(isLost);
+}
+
+std::shared_ptr<OdbcConnection> OdbcPool::connectApart()
+{
+    auto connection = lendNew(std::make_shared<std::atomic<bool>>(false));
+    connection->setUnfit();
+    return connection;
+}
+
+std::shared_ptr<OdbcConnection> OdbcPool::lendNew(const std::shared_ptr<std::atomic<bool>> &isLost)
+{
     auto connection = lend(connectTo(m_login), isLost);
     setModes(connection);
     return connection;

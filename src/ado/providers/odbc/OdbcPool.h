@@ -35,6 +35,8 @@ public:
     // `isLost` becomes true if the session turns out to be lost, except if that happened before its first
     // use; see OdbcConnection::isUntried().
     std::shared_ptr<OdbcConnection> acquire(const std::shared_ptr<std::atomic<bool>> &isLost);
+    // A new session, which ends with its user and is never shared.
+    std::shared_ptr<OdbcConnection> connectApart();
     // Ends the read transaction kept in an idle session, if any; see OdbcReading::keep.
     void endKeptReading();
     // Ends all idle sessions: one of them was dead, so the others are dead too.
@@ -49,6 +51,7 @@ private:
     std::unique_ptr<OdbcConnection> acquireIdle();
     std::shared_ptr<OdbcConnection> lend(std::unique_ptr<OdbcConnection> connection,
                                          const std::shared_ptr<std::atomic<bool>> &isLost);
+    std::shared_ptr<OdbcConnection> lendNew(const std::shared_ptr<std::atomic<bool>> &isLost);
     void returnConnection(std::unique_ptr<OdbcConnection> connection);
 
     OdbcLogin m_login;

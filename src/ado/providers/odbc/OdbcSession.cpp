@@ -40,7 +40,7 @@ std::unique_ptr<Statement> OdbcSession::prepare(const QString &sql, Access acces
     OdbcOperation::run([session = shared_from_this(), sql, access,
                         made] { *made = std::make_shared<OdbcStatement>(session, sql, access); },
                        {[&](qint64) { return shouldContinue(); }, limit});
-    return std::make_unique<OdbcWaitingStatement>(shared_from_this(), std::move(*made));
+    return std::make_unique<OdbcWaitingStatement>(shared_from_this(), std::move(*made), sql);
 }
 
 std::optional<TableColumn> OdbcSession::reference(const TableColumn &column,

@@ -7,9 +7,12 @@
 #include "ado/providers/odbc/OdbcPool.h"
 #include "ado/providers/odbc/OdbcRowFeed.h"
 #include "ado/providers/odbc/OdbcSession.h"
+#include "ado/providers/odbc/reading/OdbcEstimate.h"
 #include "ado/providers/odbc/reading/OdbcStatement.h"
 #include "ado/providers/odbc/writing/OdbcRowWriter.h"
 #include "ado/rows/RowStore.h"
+
+#include <QtCore/QScopeGuard>
 
 namespace ADODB {
 
@@ -62,9 +65,10 @@ private:
 } // namespace
 
 OdbcWaitingStatement::OdbcWaitingStatement(std::shared_ptr<OdbcSession> session,
-                                           std::shared_ptr<OdbcStatement> statement)
+                                           std::shared_ptr<OdbcStatement> statement, QString text)
     : m_session(std::move(session)),
       m_statement(std::move(statement)),
+      m_text(std::move(text)),
       m_feed(std::make_shared<OdbcRowFeed>()),
       m_fields(m_statement->fields()),
       m_columns(m_statement->columns()),
@@ -96,6 +100,8 @@ OdbcWaitingStatement::~OdbcWaitingStatement()
 void OdbcWaitingStatement::fetch(RowStore &rows, const std::function<bool(qint64)> &shouldContinue)
 {
     const auto own = std::make_shared<RowStore>(std::move(rows));
+    m_estimate = std::make_unique<OdbcEstimate>(m_session->pool(), m_text);
+    const auto estimated = qScopeGuard([this] { m_estimate.reset(); });
     OdbcOperation::run([statement = std::move(m_statement), own] { statement->fetch(*own); },
                        {shouldContinue, 0, m_feed});
     rows = std::move(*own);
@@ -107,6 +113,11 @@ void OdbcWaitingStatement::fetch(RowStore &rows, const std::function<bool(qint64
 std::shared_ptr<const RowStore> OdbcWaitingStatement::rowsSoFar() const
 {
     return m_feed->latest();
+}
+
+std::optional<qint64> OdbcWaitingStatement::estimatedRows() const
+{
+    return m_estimate ? m_estimate->rows() : std::nullopt;
 }
 
 OdbcWaitingWriter::OdbcWaitingWriter(std::shared_ptr<OdbcRowWriter> writer) : m_writer(std::move(writer)) {}

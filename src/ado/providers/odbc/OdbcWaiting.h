@@ -6,6 +6,7 @@
 
 namespace ADODB {
 
+class OdbcEstimate;
 class OdbcRowFeed;
 class OdbcRowWriter;
 class OdbcSession;
@@ -16,7 +17,9 @@ class OdbcStatement;
 class OdbcWaitingStatement : public Statement
 {
 public:
-    OdbcWaitingStatement(std::shared_ptr<OdbcSession> session, std::shared_ptr<OdbcStatement> statement);
+    // `text` is what the statement was made of.
+    OdbcWaitingStatement(std::shared_ptr<OdbcSession> session, std::shared_ptr<OdbcStatement> statement,
+                         QString text);
     ~OdbcWaitingStatement() override;
     Q_DISABLE_COPY_MOVE(OdbcWaitingStatement)
 
@@ -25,12 +28,15 @@ public:
     void fetch(RowStore &rows, const std::function<bool(qint64)> &shouldContinue) override;
     std::unique_ptr<RowWriter> releaseWriter() override { return std::move(m_writer); }
     std::shared_ptr<const RowStore> rowsSoFar() const override;
+    std::optional<qint64> estimatedRows() const override;
     QString whyReadOnly() const override { return m_whyReadOnly; }
 
 private:
     std::shared_ptr<OdbcSession> m_session;
     std::shared_ptr<OdbcStatement> m_statement; // until it has been fetched
+    const QString m_text;
     const std::shared_ptr<OdbcRowFeed> m_feed;
+    std::unique_ptr<OdbcEstimate> m_estimate; // while it is fetched
     std::vector<FieldInfo> m_fields;
     int m_columns;
     std::unique_ptr<RowWriter> m_writer;

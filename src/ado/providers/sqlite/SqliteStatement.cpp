@@ -2,10 +2,13 @@
 
 #include "ado/Error.h"
 #include "ado/Texts.h"
+#include "ado/providers/sqlite/SqliteCall.h"
 #include "ado/providers/sqlite/SqliteError.h"
 #include "ado/providers/sqlite/SqliteRowWriter.h"
 #include "ado/providers/sqlite/SqliteTypes.h"
 #include "ado/rows/RowStore.h"
+#include "sql/SqlScanner.h"
+#include "sql/select/SimpleSelect.h"
 
 #include <QtCore/QScopedValueRollback>
 
@@ -14,6 +17,9 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace ADODB {
+
+using KOVAVSFDataGridLib::SimpleSelect;
+using KOVAVSFDataGridLib::SqlScanner;
 
 namespace {
 
@@ -81,10 +87,15 @@ QString utf8(const char *text)
     return QString::fromUtf8(text);
 }
 
+bool isMainSchema(const QString &schema)
+{
+    return schema.isEmpty() || schema.compare("main"_L1, Qt::CaseInsensitive) == 0;
+}
+
 } // namespace
 
 SqliteStatement::SqliteStatement(std::shared_ptr<SqliteSession> session, const QString &sql, Access access)
-    : m_session(std::move(session)), m_statement(m_session->prepareQuery(sql))
+    : m_session(std::move(session)), m_text(sql), m_statement(m_session->prepareQuery(sql))
 {
     describe();
     m_whyReadOnly = access == Access::ReadWrite ? m_session->engine().whyReadOnly : Texts::openedReadOnly();
@@ -160,17 +171,39 @@ void SqliteStatement::fetch(RowStore &rows, const std::function<bool(qint64)> &s
     sqlite3 *const db = sqlite3_db_handle(m_statement.get());
     const ProgressWatch watch(db, [&] { return shouldContinue(rows.rows()); });
     qint64 nextQuestion = 0;
+    qint64 questions = 0;
     while (stepRow(m_statement)) {
         if (!m_untyped.empty())
             learnTypes();
         appendCurrentRow(m_statement.get(), rows);
         if (rows.bytesWritten() >= nextQuestion) {
+            // Here, because a progress handler must not run statements. A small result isn't worth it.
+            if (++questions == 2)
+                estimate();
             nextQuestion = rows.bytesWritten() + bytesPerQuestion;
             if (!shouldContinue(rows.rows()))
                 throw Error(dbErrCancelled, Texts::cancelled());
         }
     }
     sqlite3_reset(m_statement.get());
+}
+
+// The statistics know only whole tables. The table that has them exists since somebody ran ANALYZE.
+void SqliteStatement::estimate()
+{
+    const SimpleSelect select = SimpleSelect::parse(SqlScanner(m_text));
+    if (!select.isWhole || !isMainSchema(select.schema))
+        return;
+    try {
+        SqliteCall statistics(*m_session, SqliteCall::Reads,
+                              u"SELECT MAX(CAST(stat AS INTEGER)) FROM main.sqlite_stat1 "
+                              "WHERE tbl = ? COLLATE NOCASE"_s);
+        statistics.bind(select.table);
+        if (statistics.step() && sqlite3_column_type(statistics.handle(), 0) == SQLITE_INTEGER)
+            m_estimate = sqlite3_column_int64(statistics.handle(), 0);
+    } catch (const Error &) {
+        // The load doesn't depend on it.
+    }
 }
 
 std::shared_ptr<const RowStore> SqliteStatement::rowsSoFar() const

@@ -1,6 +1,7 @@
 #include "control/parts/lines/LoadProgress.h"
 
 #include "control/parts/GridTexts.h"
+#include "language/GroupedNumber.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
@@ -24,6 +25,17 @@ namespace {
 constexpr qint64 patience = 500;      // milliseconds before the line shows
 constexpr qint64 eventsInterval = 30; // milliseconds between two dispatches of events
 constexpr int barSteps = 1000;
+// So many records are worth a warning.
+constexpr qint64 manyRecords = 1'000'000;
+
+// With two significant digits: an estimate knows no more.
+qint64 roughly(qint64 number)
+{
+    qint64 unit = 1;
+    while (number / unit >= 100)
+        unit *= 10;
+    return (number + unit / 2) / unit * unit;
+}
 
 bool isInput(const QEvent &event)
 {
@@ -133,6 +145,11 @@ bool LoadProgress::shouldContinue(qint64 rowsDone)
     return !m_isCancelled;
 }
 
+void LoadProgress::expect(qint64 records)
+{
+    m_expected = records > manyRecords ? roughly(records) : 0;
+}
+
 // It covers the page box and its neighbours, which can't be used meanwhile.
 void LoadProgress::showLine()
 {
@@ -168,6 +185,8 @@ void LoadProgress::updateLine(qint64 rowsDone)
     // After a cancel, the server can still take a while to respond.
     if (m_isCancelled)
         m_count->setText(GridTexts::Cancelling);
+    else if (m_expected > rowsDone)
+        m_count->setText(GridTexts::RecordsReadOfAbout.arg(rowsDone, grouped(rowsDone), grouped(m_expected)));
     else
         m_count->setText(m_words(rowsDone));
     const qint64 value = m_total > 0 ? rowsDone * barSteps / m_total : rowsDone;

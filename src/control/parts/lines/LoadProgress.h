@@ -41,6 +41,8 @@ public:
 
     // May still be called after it returned false; it then continues to paint.
     bool shouldContinue(qint64 rowsDone) override;
+    // The line tells a large estimate beside the number of records read, which it must exceed.
+    void expect(qint64 records) override;
     bool isWindowGone() const { return m_isWindowGone; }
     // This view receives mouse events and, wherever the focus is, the keys that scroll.
     void setScrolledView(QAbstractScrollArea *view) { m_view = view; }
@@ -60,7 +62,8 @@ private:
     QWidget &m_window;
     const std::function<QRect()> m_place;
     const Words m_words;
-    const qint64 m_total; // 0 if unknown
+    const qint64 m_total;  // 0 if unknown
+    qint64 m_expected = 0; // 0 if unknown or not worth telling
     const QString m_cancelHint;
     QPointer<QWidget> m_line; // null during the first half second; a child of the window
     QPointer<QAbstractScrollArea> m_view;

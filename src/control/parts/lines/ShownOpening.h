@@ -18,6 +18,7 @@ public:
 
     bool shouldContinue(qint64 rowsDone) override;
     void showOpening(const ADODB::Recordset &opening) override;
+    void expect(qint64 records) override { m_line.expect(records); }
 
 private:
     LoadProgress m_line;
