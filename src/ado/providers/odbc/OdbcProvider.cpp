@@ -6,9 +6,9 @@
 #include "ado/connection/OleDbWords.h"
 #include "ado/connection/Waiting.h"
 #include "ado/providers/odbc/OdbcLogin.h"
-#include "ado/providers/odbc/OdbcOperation.h"
 #include "ado/providers/odbc/OdbcPool.h"
 #include "ado/providers/odbc/OdbcSession.h"
+#include "ado/providers/odbc/waiting/OdbcOperation.h"
 
 using namespace Qt::Literals::StringLiterals;
 

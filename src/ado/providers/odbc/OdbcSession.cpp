@@ -4,12 +4,12 @@
 #include "ado/Texts.h"
 #include "ado/connection/Waiting.h"
 #include "ado/providers/odbc/OdbcHandle.h"
-#include "ado/providers/odbc/OdbcOperation.h"
 #include "ado/providers/odbc/OdbcPool.h"
-#include "ado/providers/odbc/OdbcWaiting.h"
 #include "ado/providers/odbc/reading/OdbcReading.h"
 #include "ado/providers/odbc/reading/OdbcReferences.h"
 #include "ado/providers/odbc/reading/OdbcStatement.h"
+#include "ado/providers/odbc/waiting/OdbcOperation.h"
+#include "ado/providers/odbc/waiting/OdbcWaiting.h"
 #include "ado/providers/odbc/writing/OdbcFilledColumns.h"
 
 #include <algorithm>

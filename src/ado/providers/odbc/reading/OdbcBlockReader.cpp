@@ -3,7 +3,7 @@
 #include "ado/Error.h"
 #include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcHandle.h"
-#include "ado/providers/odbc/OdbcWatch.h"
+#include "ado/providers/odbc/waiting/OdbcWatch.h"
 
 #include <algorithm>
 

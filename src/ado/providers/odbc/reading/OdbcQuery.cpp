@@ -2,11 +2,11 @@
 
 #include "ado/providers/odbc/OdbcEngine.h"
 #include "ado/providers/odbc/OdbcHandle.h"
-#include "ado/providers/odbc/OdbcWatch.h"
 #include "ado/providers/odbc/reading/OdbcBlockReader.h"
 #include "ado/providers/odbc/reading/OdbcDescription.h"
 #include "ado/providers/odbc/reading/OdbcRefusal.h"
 #include "ado/providers/odbc/reading/OdbcValueReader.h"
+#include "ado/providers/odbc/waiting/OdbcWatch.h"
 #include "ado/rows/RowStore.h"
 #include "ado/values/FieldValue.h"
 #include "sql/SqlScanner.h"

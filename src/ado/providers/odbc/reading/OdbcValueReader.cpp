@@ -1,7 +1,7 @@
 #include "ado/providers/odbc/reading/OdbcValueReader.h"
 
 #include "ado/providers/odbc/OdbcHandle.h"
-#include "ado/providers/odbc/OdbcWatch.h"
+#include "ado/providers/odbc/waiting/OdbcWatch.h"
 
 namespace ADODB {
 

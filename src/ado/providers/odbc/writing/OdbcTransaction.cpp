@@ -4,8 +4,8 @@
 #include "ado/Texts.h"
 #include "ado/providers/odbc/OdbcError.h"
 #include "ado/providers/odbc/OdbcHandle.h"
-#include "ado/providers/odbc/OdbcOperation.h"
 #include "ado/providers/odbc/OdbcSession.h"
+#include "ado/providers/odbc/waiting/OdbcOperation.h"
 
 #include <algorithm>
 

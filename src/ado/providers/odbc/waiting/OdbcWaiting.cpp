@@ -1,14 +1,14 @@
-#include "ado/providers/odbc/OdbcWaiting.h"
+#include "ado/providers/odbc/waiting/OdbcWaiting.h"
 
 #include "ado/Error.h"
 #include "ado/connection/OneCommand.h"
 #include "ado/connection/Waiting.h"
-#include "ado/providers/odbc/OdbcOperation.h"
 #include "ado/providers/odbc/OdbcPool.h"
 #include "ado/providers/odbc/OdbcRowFeed.h"
 #include "ado/providers/odbc/OdbcSession.h"
-#include "ado/providers/odbc/reading/OdbcEstimate.h"
 #include "ado/providers/odbc/reading/OdbcStatement.h"
+#include "ado/providers/odbc/waiting/OdbcEstimate.h"
+#include "ado/providers/odbc/waiting/OdbcOperation.h"
 #include "ado/providers/odbc/writing/OdbcRowWriter.h"
 #include "ado/rows/RowStore.h"
 

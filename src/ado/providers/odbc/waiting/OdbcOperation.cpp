@@ -1,4 +1,4 @@
-#include "ado/providers/odbc/OdbcOperation.h"
+#include "ado/providers/odbc/waiting/OdbcOperation.h"
 
 #include "ado/Error.h"
 #include "ado/Texts.h"

@@ -1,7 +1,7 @@
-#include "ado/providers/odbc/OdbcWatch.h"
+#include "ado/providers/odbc/waiting/OdbcWatch.h"
 
 #include "ado/providers/odbc/OdbcHandle.h"
-#include "ado/providers/odbc/OdbcOperation.h"
+#include "ado/providers/odbc/waiting/OdbcOperation.h"
 
 namespace ADODB {
 
