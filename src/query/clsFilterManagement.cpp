@@ -139,7 +139,7 @@ bool clsFilterManagement::GetPartShowSelFields(const QString &strAllFields, cons
     auto current = m_history.DerivationOf(strCurrentSQL);
     const auto all = m_history.DerivationOf(strAllFields);
     if (current && all && all->hasListAsTable())
-        current = m_history.DerivationOf(m_history.WithFieldsOfWhole(*current, *all, *all));
+        current = m_history.DerivationOf(m_history.WithAllFieldsOf(*current, *all));
     const bool isText =
         !current || !all ||
         (current->isTextWork(DerivationStep::Fields) && all->isTextWork(DerivationStep::Fields));
@@ -234,7 +234,7 @@ std::optional<QString> clsFilterManagement::WithoutConditions(const QString &sta
     const auto bare = m_history.DerivationOf(all->withoutConditions());
     if (bare && all->hasListAsTable() && !current->table().isEmpty() && !current->hasListAsTable() &&
         !current->hasAsTable(*all))
-        current = m_history.DerivationOf(m_history.WithFieldsOfWhole(*current, *all, *all));
+        current = m_history.DerivationOf(m_history.WithAllFieldsOf(*current, *all));
     if (current && bare && !current->aliasesAsTable().isEmpty())
         current = m_history.DerivationOf(current->aliasesAsTable());
     if (!current)

@@ -115,8 +115,16 @@ TEST_F(HistoryDerivation, AllFieldsOfADistinctKeepTheSortThatTheUserChose)
         load(u"select distinct "_s + list + u" from Ord"_s);
         sortAndShowAll();
     }
-    show(u"SELECT distinct Name FROM Ord"_s, u"SELECT distinct Name FROM Ord"_s);
-    sortAndShowAll();
+    for (const QString &list : {u"Ord.*"_s, u"*"_s, u"o.*"_s}) {
+        manager.ClearObject();
+        const QString source = list.startsWith(u'o') ? u" from Ord o"_s : u" from Ord"_s;
+        load(u"select distinct "_s + list + source);
+        chooser.choice = list.startsWith(u'*') ? u"Name"_s : list.section(u'.', 0, 0) + u".Name"_s;
+        QString chosen;
+        EXPECT_TRUE(manager.GetPartShowSelFields(first, {}, first, chosen));
+        show(chosen, history.GetFieldsStatement(chosen));
+        sortAndShowAll();
+    }
 }
 
 TEST_F(HistoryDerivation, AnAliasDoesNotTakeTheSortOfAColumnOfItsName)
