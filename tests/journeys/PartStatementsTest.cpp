@@ -20,7 +20,7 @@ protected:
         StatementWalker walker(*hands, random, letters());
         for (const Case &one : ReadCases(u"part_statements.cases"_s)) {
             SCOPED_TRACE(one.place.toStdString());
-            const auto answer = read(one[u"statement"_s]);
+            const auto answer = read(StatementWalker::loadedBy(one));
             if (!answer || HasFailure()) // syntax of another engine
                 continue;
             ++taken;

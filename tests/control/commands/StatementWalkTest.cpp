@@ -30,7 +30,7 @@ protected:
     // False for a statement that only Access takes.
     bool begin(StatementWalker &walker, const Case &one) const
     {
-        const QString statement = one[u"statement"_s];
+        const QString statement = StatementWalker::loadedBy(one);
         QStringList names;
         std::optional<StatementWalker::Rows> rows;
         try {

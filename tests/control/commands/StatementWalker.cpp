@@ -34,6 +34,11 @@ QStringList at(const QStringList &row, const QList<qsizetype> &fields)
 
 } // namespace
 
+QString StatementWalker::loadedBy(const Case &one)
+{
+    return one[u"statement"_s] + (one.Has(u"sort"_s) ? u" order by "_s + one[u"sort"_s] : QString());
+}
+
 void StatementWalker::begin(const Case &one, const QStringList &names, const Rows &rows,
                             const std::optional<Rows> &whole)
 {
@@ -46,14 +51,17 @@ void StatementWalker::begin(const Case &one, const QStringList &names, const Row
     m_hasPartStatement = one.Has(u"part"_s);
     m_isDistinct = isDistinct && m_hasPartStatement;
     m_hasFieldChoice = isAlone && (!isDistinct || (m_isDistinct && !statement.contains(u" top "_s)));
-    m_isOrdered = m_hasPartStatement && statement.contains(u"order by"_s);
+    m_isOrdered = m_hasPartStatement && loadedBy(one).contains(u"order by"_s);
     m_lacksPart = m_hasPartStatement && !one.Has(u"shows"_s);
     Shown first;
     first.rows = rows;
     for (const QString &place : one.List(u"shows"_s))
         first.part.append(place.toInt() - 1);
+    // The load of a DISTINCT hides columns without opening another statement.
+    first.isAll = first.part.isEmpty() || m_isDistinct || pick(2) == 0;
     m_shown = {first};
-    m_hands.grid.PutShowModel(KOVAVSFDataGrid::ModelAll); // whatever the walk before left
+    m_hands.grid.PutShowModel(first.isAll ? KOVAVSFDataGrid::ModelAll : KOVAVSFDataGrid::ModelPart);
+    m_hands.grid.PutSQLSort(one[u"sort"_s]);
     ASSERT_TRUE(m_hands.load(statement, one[u"part"_s]))
         << qUtf8Printable(m_hands.messages.texts().join(u'|'));
     compare();

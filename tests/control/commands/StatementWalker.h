@@ -22,8 +22,10 @@ public:
     {
     }
 
-    // Loads the statement of the case, with its part statement if it has one. The database answers the
-    // statement with these fields and rows. `whole`: the rows without its conditions; no value if unknown.
+    // The statement of the case with the host's sort, if it has one.
+    static QString loadedBy(const Case &one);
+    // Loads the case with its part statement, if it has one. The database answers loadedBy() with these
+    // fields and rows. `whole`: the rows without its conditions; no value if unknown.
     void begin(const Case &one, const QStringList &names, const Rows &rows, const std::optional<Rows> &whole);
     enum class Step { CellFilter, WordFilter, Sort, Fields, All, Part, Whole, Origin, Back };
 
