@@ -127,6 +127,19 @@ TEST_F(HistoryDerivation, AllFieldsOfADistinctKeepTheSortThatTheUserChose)
     }
 }
 
+TEST_F(HistoryDerivation, FieldsOfADistinctKeepTheSortByAnExpression)
+{
+    load(u"select distinct Qty * 2 as Twice, Name from Ord where Qty > 0"_s);
+    const QString written = history.GetColumnRealName(first, {u"Twice"_s, u"Name"_s}, 0);
+    EXPECT_TRUE(history.GetNextSQLBySort(written + u" DESC"_s, next));
+    history.AddCurrentSQL(next, AllFieldsShown, colShowSQLSentences::NoPartField(), written + u" DESC"_s);
+    chooser.choice = u"Qty * 2 as Twice"_s;
+    QString chosen;
+    EXPECT_TRUE(manager.GetPartShowSelFields(first, {}, next, chosen));
+    EXPECT_EQ(firstColumn(chosen), (QStringList{u"10"_s, u"8"_s, u"6"_s, u"4"_s, u"2"_s}))
+        << qPrintable(chosen);
+}
+
 TEST_F(HistoryDerivation, AnAliasDoesNotTakeTheSortOfAColumnOfItsName)
 {
     load(u"select distinct Cust as Qty, Qty as Cust from Ord order by 1, 2"_s);

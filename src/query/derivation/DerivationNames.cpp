@@ -213,8 +213,12 @@ int Derivation::fieldOfTerm(const SelectParts::Item &term) const
         return tokens;
     };
     const QStringList wanted = tokensOf(term.value);
-    const int byValue = fieldWhere([&](std::size_t, const SelectParts::Item *item) {
-        return item && !item->isStar && tokensOf(item->value) == wanted;
+    // The value as the list has it, or as conditions and sorts write it.
+    const QString written = m_kind == Kind::Open ? textOf(m_sql, term.value) : QString();
+    const int byValue = fieldWhere([&](std::size_t i, const SelectParts::Item *item) {
+        return item && !item->isStar &&
+               (tokensOf(item->value) == wanted ||
+                (!written.isEmpty() && m_written.at(static_cast<qsizetype>(i)) == written));
     });
     if (byValue >= 0 || !term.isName)
         return byValue;
