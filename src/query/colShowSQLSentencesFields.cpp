@@ -203,7 +203,8 @@ QString colShowSQLSentences::WithFieldsOf(const QString &statement, const QStrin
     const auto fields = DerivationOf(fieldStatement);
     const auto all = DerivationOf(Latest()->AllFields);
     // Another source would lack the joined tables, what a subquery selects, and the conditions in it.
-    const bool canHaveOtherSource = !all || (all->isSimple() && derivation && !isOverSubquery(*derivation));
+    const bool canHaveOtherSource =
+        !all || (all->isSimple() && !all->isJoined() && derivation && !isOverSubquery(*derivation));
     const bool isText = !derivation || !fields ||
                         (derivation->isTextWork(DerivationStep::Fields) && fields->isSimple() &&
                          (canHaveOtherSource || derivation->isOverSame(*fields)));
