@@ -182,8 +182,11 @@ bool clsFilterManagement::GetPartSortSelFields(const QString &strAllFields, cons
         latest && all && (m_history.NamesShownAlone(*all) || all->isDistinct())) {
         offered = m_history.LineOf(latest->ShowSQL); // no other field can be used
         // Where the table has the fields of a DISTINCT, it can also be sorted by those that are not shown.
-        if (const auto shown = m_history.DerivationWithFields(offered); shown && shown->isDistinct())
-            sort = withoutFields(sort, all->written(), shown->written(), m_history.UsedDialect());
+        if (const auto shown = m_history.DerivationWithFields(offered); shown && shown->isDistinct()) {
+            // The host's sort can name them by their aliases.
+            sort = withoutFields(sort, all->written() + all->names(), shown->written() + shown->names(),
+                                 m_history.UsedDialect());
+        }
         all = m_history.DerivationOf(offered);
     }
     if (all && (!all->isSimple() || all->isJoined()))

@@ -127,6 +127,18 @@ TEST_F(HistoryDerivation, AllFieldsOfADistinctKeepTheSortThatTheUserChose)
     }
 }
 
+TEST_F(HistoryDerivation, TheHostsSortOfADistinctIsOfferedAsFarAsItIsShown)
+{
+    load(u"select distinct Cust as No, Qty as Pieces from Ord"_s, u"select Cust from Ord"_s,
+         u"No desc, Pieces"_s);
+    EXPECT_TRUE(history.GetNextShowSQL(PartFieldsStatement, next));
+    show(next);
+    QString sort;
+    chooser.choice = u"Cust"_s;
+    manager.GetPartSortSelFields(first, u"No desc, Pieces"_s, sort);
+    EXPECT_EQ(chooser.present, QStringList(u"No desc"_s)) << qPrintable(next);
+}
+
 TEST_F(HistoryDerivation, FieldsOfADistinctKeepTheSortByAnExpression)
 {
     load(u"select distinct Qty * 2 as Twice, Name from Ord where Qty > 0"_s);
