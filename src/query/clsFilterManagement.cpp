@@ -139,7 +139,7 @@ bool clsFilterManagement::GetPartShowSelFields(const QString &strAllFields, cons
     auto current = m_history.DerivationOf(strCurrentSQL);
     const auto all = m_history.DerivationOf(strAllFields);
     if (current && all && all->hasListAsTable())
-        current = m_history.DerivationOf(m_history.WithFieldsOfWhole(*current, *all, *all));
+        current = m_history.DerivationOf(m_history.WithAllFieldsOf(*current, *all));
     const bool isText =
         !current || !all ||
         (current->isTextWork(DerivationStep::Fields) && all->isTextWork(DerivationStep::Fields));
@@ -182,8 +182,11 @@ bool clsFilterManagement::GetPartSortSelFields(const QString &strAllFields, cons
         latest && all && (m_history.NamesShownAlone(*all) || all->isDistinct())) {
         offered = m_history.LineOf(latest->ShowSQL); // no other field can be used
         // Where the table has the fields of a DISTINCT, it can also be sorted by those that are not shown.
-        if (const auto shown = m_history.DerivationWithFields(offered); shown && shown->isDistinct())
-            sort = withoutFields(sort, all->written(), shown->written(), m_history.UsedDialect());
+        if (const auto shown = m_history.DerivationWithFields(offered); shown && shown->isDistinct()) {
+            // The host's sort can name them by their aliases.
+            sort = withoutFields(sort, all->written() + all->names(), shown->written() + shown->names(),
+                                 m_history.UsedDialect());
+        }
         all = m_history.DerivationOf(offered);
     }
     if (all && (!all->isSimple() || all->isJoined()))
@@ -234,7 +237,7 @@ std::optional<QString> clsFilterManagement::WithoutConditions(const QString &sta
     const auto bare = m_history.DerivationOf(all->withoutConditions());
     if (bare && all->hasListAsTable() && !current->table().isEmpty() && !current->hasListAsTable() &&
         !current->hasAsTable(*all))
-        current = m_history.DerivationOf(m_history.WithFieldsOfWhole(*current, *all, *all));
+        current = m_history.DerivationOf(m_history.WithAllFieldsOf(*current, *all));
     if (current && bare && !current->aliasesAsTable().isEmpty())
         current = m_history.DerivationOf(current->aliasesAsTable());
     if (!current)

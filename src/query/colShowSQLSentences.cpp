@@ -325,29 +325,11 @@ bool colShowSQLSentences::BringInStepWith(const clsShowSQLSentence &entry, const
     QString partStatement;
     if (!entry.GetCurrUsePartFieldSQL(partStatement))
         return true;
+    m_isPartKnownByPlace = !ArePartsNamed(entry.AllFields, partStatement);
+    if (m_isPartKnownByPlace)
+        return MarkPlaces(entry.AllFields, partStatement);
     const auto partFields = m_reader->Read(connectionString, partStatement);
-    if (!partFields || !m_catalogue.SetPartFieldStatusByCol(NamesInCatalogue(*partFields)))
-        return false;
-    m_isPartKnownByPlace = false;
-    SetPartFields(PartByPlace(entry.AllFields, partStatement));
-    return true;
-}
-
-// A host's part statement can use an expression for a field that has an alias in the full statement.
-QStringList colShowSQLSentences::NamesInCatalogue(const std::vector<SourceField> &fields) const
-{
-    QStringList names = namesOf(fields);
-    for (QString &name : names) {
-        if (m_catalogue.Find(name))
-            continue;
-        const auto isIt = [&](const clsDataField &field) {
-            return lastNamePart(field.FieldWholeName).compare(name, Qt::CaseInsensitive) == 0;
-        };
-        const auto found = std::find_if(m_catalogue.begin(), m_catalogue.end(), isIt);
-        if (found != m_catalogue.end())
-            name = (*found).FieldName;
-    }
-    return names;
+    return partFields && m_catalogue.SetPartFieldStatusByCol(namesOf(*partFields));
 }
 
 // The names are those that the database reports, so that each grid column finds its field. An alias is a name

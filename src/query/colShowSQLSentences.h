@@ -155,9 +155,8 @@ public:
     // How the engine reads strings and names; the standard way while the engine is unknown.
     Dialect UsedDialect() const { return dialectOf(m_database, engineOf(m_connString)); }
 
-    // `shown`, which was derived from `all` or from some of its fields, with other fields of `all`. Only for
-    // a statement with hasListAsTable().
-    QString WithFieldsOfWhole(const Derivation &shown, const Derivation &all, const Derivation &fields) const;
+    // `shown`, which was derived from `all` or from some of its fields, with all of them.
+    QString WithAllFieldsOf(const Derivation &shown, const Derivation &all) const;
 
     // A statement derived from the latest entry with other fields: sorted by all terms of the last sort that
     // these fields allow, not only by those that the latest entry could keep.
@@ -219,13 +218,14 @@ private:
     const clsShowSQLSentence *Latest() const { return Item(Count()); }
     std::optional<SQLSentence> SplitLatest() const;
     QString WithFieldsOf(const QString &statement, const QString &fieldStatement) const;
+    QString WithPlaces(const std::shared_ptr<const Derivation> &shown, const QList<qsizetype> &places) const;
     bool CanShowFieldsOf(const QString &partStatement) const;
     bool StepBackTo(qsizetype position, QString &PassFilter, QString *PassKey);
     bool BringInStepWith(const clsShowSQLSentence &entry, const QString &connectionString);
-    QList<bool> PartByPlace(const QString &statement, const QString &partStatement) const;
-    bool HasPartFields(const QString &statement, const QString &partStatement) const;
+    std::optional<QList<qsizetype>> PlacesOf(const QString &all, const QString &partStatement) const;
+    bool ArePartsNamed(const QString &all, const QString &partStatement) const;
+    bool MarkPlaces(const QString &all, const QString &partStatement);
     bool FillCatalogue(const QString &connectionString, const QString &statement);
-    QStringList NamesInCatalogue(const std::vector<SourceField> &fields) const;
     void WriteCatalogueAsText(const QString &statement);
     EngineMode engineOf(const QString &connectionString) const;
 

@@ -199,8 +199,7 @@ bool colShowSQLSentences::CanName(const clsDataField &field) const
         return true;
     if (!NamesShownAlone(*all))
         return !field.FieldWholeName.isEmpty() || !NamesByItself(*all);
-    const auto shown = DerivationOf(latest->ShowSQL);
-    return shown->names().contains(field.FieldName);
+    return DerivationWithFields(latest->ShowSQL)->names().contains(field.FieldName);
 }
 
 } // namespace KOVAVSFDataGridLib

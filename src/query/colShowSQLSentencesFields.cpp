@@ -18,15 +18,17 @@ bool isOverSubquery(const Derivation &statement)
     return statement.source().startsWith(u'(');
 }
 
-bool isOverSame(const Derivation &a, const Derivation &b)
-{
-    return a.source().simplified().compare(b.source().simplified(), Qt::CaseInsensitive) == 0;
-}
-
 bool haveEqualNames(const Derivation &statement)
 {
     const QStringList &names = statement.names();
     return QSet<QString>(names.cbegin(), names.cend()).size() < names.size();
+}
+
+bool areInOrder(const QList<qsizetype> &places, qsizetype count)
+{
+    qsizetype next = 0;
+    return places.size() == count &&
+           std::ranges::all_of(places, [&](qsizetype place) { return place == next++; });
 }
 
 } // namespace
@@ -58,8 +60,6 @@ QString colShowSQLSentences::WhyNoPartFields() const
         return reason;
     if (!latest || !latest->GetCurrUsePartFieldSQL(partStatement))
         return {};
-    if (!HasPartFields(latest->AllFields, partStatement))
-        return QueryTexts::NoPartFields;
     if (!WithFieldsOf(latest->ShowSQL, partStatement).isEmpty())
         return {};
     const QString reason = WhyNot(DerivationStep::Fields);
@@ -76,31 +76,38 @@ QStringList colShowSQLSentences::EntriesOfEqualNames(const QString &statement) c
     return derived ? all->listedFor(*derived) : QStringList();
 }
 
-// A name finds only the first field with that name, and a host's part statement can call a field by the name
-// of another one or by a new one, so the list entries are compared. Empty if names are enough or the entries
-// can't tell.
-QList<bool> colShowSQLSentences::PartByPlace(const QString &statement, const QString &partStatement) const
+// A choice of fields is the same whoever makes it: by their places among all fields. Their names tell less: a
+// host's part statement can call a field by the name of another one or by a new one.
+std::optional<QList<qsizetype>> colShowSQLSentences::PlacesOf(const QString &all,
+                                                              const QString &partStatement) const
 {
-    const auto part = DerivationOf(partStatement);
-    const auto all = part ? DerivationWithFields(statement) : nullptr;
-    if (!all || (part->isSimple() && !haveEqualNames(*all)))
+    const auto whole = DerivationWithFields(all);
+    const auto part = whole ? DerivationWithFields(partStatement) : nullptr;
+    if (!part)
         return {};
-    const QStringList listed = all->listedFor(*part);
-    QList<bool> areParts;
-    for (qsizetype i = 0; i < all->listed().size() && !listed.isEmpty(); ++i)
-        areParts.append(listed.contains(all->listed().at(i)));
-    return areParts;
+    return whole->placesOf(*part, m_reader->Read(m_connString, partStatement).has_value());
 }
 
-// Whether the catalogue has each field of a part statement that computes or renames fields.
-bool colShowSQLSentences::HasPartFields(const QString &statement, const QString &partStatement) const
+// Whether the names of the fields are enough. In a join, another table can have a field of that name.
+bool colShowSQLSentences::ArePartsNamed(const QString &all, const QString &partStatement) const
 {
-    const auto part = DerivationOf(partStatement);
-    if (!part || part->isSimple() || !PartByPlace(statement, partStatement).isEmpty())
-        return true;
-    const auto fields = m_reader->Read(m_connString, partStatement);
-    return !fields || std::ranges::all_of(NamesInCatalogue(*fields),
-                                          [&](const QString &name) { return m_catalogue.Find(name); });
+    const auto whole = DerivationOf(all);
+    const auto part = whole ? DerivationOf(partStatement) : nullptr;
+    return !part || (whole->isSimple() && part->isSimple() && !whole->isJoined() && !haveEqualNames(*whole));
+}
+
+// A part statement with a field that the result lacks has none.
+bool colShowSQLSentences::MarkPlaces(const QString &all, const QString &partStatement)
+{
+    const auto places = PlacesOf(all, partStatement);
+    const QStringList names = DerivationWithFields(all)->names();
+    QList<bool> areParts;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        if (!names.at(i).isEmpty()) // the catalogue lacks it
+            areParts.append(places && places->contains(i));
+    }
+    SetPartFields(areParts);
+    return places.has_value();
 }
 
 QList<bool> colShowSQLSentences::PartFields() const
@@ -154,16 +161,15 @@ bool colShowSQLSentences::GetNextShowSQL(StatementType SQLType, QString &PassSQL
         fieldStatement = latest->AllFields;
     QString shown = latest->ShowSQL;
     const auto all = isPart && !m_orderWord.isEmpty() ? DerivationOf(latest->AllFields) : nullptr;
-    // Of several tables, only the whole list may tell what the sort means.
-    if (all && all->isJoined()) {
+    // With several tables or aliases, only the whole list tells what the sort means.
+    const bool isSortedWhole = all && (all->isJoined() || !all->isSimple());
+    if (isSortedWhole) {
         if (const auto derivation = DerivationOf(shown); derivation && !derivation->isSorted())
             shown = Sorted(WithFieldsOf(shown, latest->AllFields), m_orderWord);
     }
     const QString statement = WithLastSort(WithFieldsOf(shown, fieldStatement));
-    if (statement.isEmpty())
-        return false;
-    PassSQL = Sorted(statement, m_orderWord);
-    return true;
+    PassSQL = isSortedWhole ? statement : Sorted(statement, m_orderWord);
+    return !statement.isEmpty();
 }
 
 QString colShowSQLSentences::WithLastSort(const QString &statement) const
@@ -197,46 +203,48 @@ QString colShowSQLSentences::WithFieldsOf(const QString &statement, const QStrin
     const auto fields = DerivationOf(fieldStatement);
     const auto all = DerivationOf(Latest()->AllFields);
     // Another source would lack the joined tables, what a subquery selects, and the conditions in it.
-    const bool canHaveOtherSource = !all || (all->isSimple() && derivation && !isOverSubquery(*derivation));
+    const bool canHaveOtherSource =
+        !all || (all->isSimple() && !all->isJoined() && derivation && !isOverSubquery(*derivation));
     const bool isText = !derivation || !fields ||
                         (derivation->isTextWork(DerivationStep::Fields) && fields->isSimple() &&
-                         (canHaveOtherSource || isOverSame(*derivation, *fields)));
+                         (canHaveOtherSource || derivation->isOverSame(*fields)));
+    const bool isAll = all && fields == all;
+    const bool isNamed = isAll || (ArePartsNamed(Latest()->AllFields, fieldStatement) &&
+                                   (isText || derivation->isOverSame(*fields)));
+    const auto places = isNamed ? std::nullopt : PlacesOf(Latest()->AllFields, fieldStatement);
+    if (!isNamed && !places)
+        return {};
     if (isText)
         return ReplaceSQLFieldPart(LineOf(statement), fieldStatement);
-    if (all && all->hasListAsTable())
-        return WithFieldsOfWhole(*derivation, *all, *fields);
-    // A host's part statement can use an expression for a field that the user knows by its alias, or the
-    // other way round.
-    const bool isFoundByValue = all && fields != all && !(all->isSimple() && fields->isSimple()) &&
-                                isOverSame(*all, *derivation) &&
-                                (isOverSubquery(*derivation) || isOverSame(*derivation, *fields));
-    const QStringList listed =
-        isFoundByValue ? DerivationWithFields(Latest()->AllFields)->listedFor(*fields) : QStringList();
-    QString derived = listed.isEmpty() ? derivation->withFieldsOf(*fields) : derivation->withFields(listed);
-    if (!derived.isEmpty() || fieldStatement == Latest()->AllFields)
-        return derived;
-    // The shown statement may lack a field of the full one.
-    const auto whole = all ? DerivationOf(derivation->withFieldsOf(*all)) : nullptr;
-    return whole ? whole->withFieldsOf(*fields) : QString();
+    if (isAll || (places && areInOrder(*places, all->names().size())))
+        return WithAllFieldsOf(*derivation, *all);
+    return places ? WithPlaces(derivation, *places) : derivation->withFieldsOf(*fields);
+}
+
+QString colShowSQLSentences::WithPlaces(const std::shared_ptr<const Derivation> &shown,
+                                        const QList<qsizetype> &places) const
+{
+    const auto all = DerivationWithFields(Latest()->AllFields);
+    const auto whole = all->hasListAsTable() ? DerivationOf(WithAllFieldsOf(*shown, *all)) : shown;
+    if (!whole)
+        return {};
+    QStringList entries;
+    for (const qsizetype place : places)
+        entries.append(all->listedIn(*whole).at(place));
+    return entries.contains(QString()) ? QString() : whole->withFields(entries);
 }
 
 // A choice of fields from a TOP query is itself a SELECT, and statements derived from it have it as their
 // table. Only the table with all fields has the others.
-QString colShowSQLSentences::WithFieldsOfWhole(const Derivation &shown, const Derivation &all,
-                                               const Derivation &fields) const
+QString colShowSQLSentences::WithAllFieldsOf(const Derivation &shown, const Derivation &all) const
 {
     const QString table = shown.table();
-    if (table.isEmpty() || shown.hasListAsTable()) {
-        const QString derived = shown.withFieldsOf(fields);
-        const auto whole = derived.isEmpty() ? DerivationOf(shown.withFieldsOf(all)) : nullptr;
-        return whole ? whole->withFieldsOf(fields) : derived;
-    }
-    if (shown.hasAsTable(all))
-        return shown.withFieldsOf(fields);
+    if (!all.hasListAsTable() || table.isEmpty() || shown.hasListAsTable() || shown.hasAsTable(all))
+        return shown.withFieldsOf(all);
     const auto chosen = DerivationOf(table);
-    const auto whole = chosen ? DerivationOf(WithFieldsOfWhole(*chosen, all, all)) : nullptr;
+    const auto whole = chosen ? DerivationOf(WithAllFieldsOf(*chosen, all)) : nullptr;
     const auto moved = whole ? DerivationOf(shown.withTable(*whole)) : nullptr;
-    return moved ? moved->withFieldsOf(fields) : QString();
+    return moved ? moved->withFieldsOf(all) : QString();
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -26,7 +26,7 @@ void EngineStatements::SetUp()
 QStringList EngineStatements::oddNames() const
 {
     QStringList names{u"order"_s,  u"group by"_s, u"no#"_s, u"it's"_s, u"a\"b"_s,
-                      u"2023年"_s, u"占比%"_s,    u"A-B"_s, u"a]b"_s};
+                      u"2023年"_s, u"占比%"_s,    u"A-B"_s, u"a]b"_s,  u"No"_s};
     if (engine.isFilledBySqlite())
         names.append(u"where "_s); // MariaDB doesn't allow a trailing blank
     const QString quote = engine.quoted({}).left(1);

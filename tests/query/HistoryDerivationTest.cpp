@@ -115,8 +115,41 @@ TEST_F(HistoryDerivation, AllFieldsOfADistinctKeepTheSortThatTheUserChose)
         load(u"select distinct "_s + list + u" from Ord"_s);
         sortAndShowAll();
     }
-    show(u"SELECT distinct Name FROM Ord"_s, u"SELECT distinct Name FROM Ord"_s);
-    sortAndShowAll();
+    for (const QString &list : {u"Ord.*"_s, u"*"_s, u"o.*"_s}) {
+        manager.ClearObject();
+        const QString source = list.startsWith(u'o') ? u" from Ord o"_s : u" from Ord"_s;
+        load(u"select distinct "_s + list + source);
+        chooser.choice = list.startsWith(u'*') ? u"Name"_s : list.section(u'.', 0, 0) + u".Name"_s;
+        QString chosen;
+        EXPECT_TRUE(manager.GetPartShowSelFields(first, {}, first, chosen));
+        show(chosen, history.GetFieldsStatement(chosen));
+        sortAndShowAll();
+    }
+}
+
+TEST_F(HistoryDerivation, TheHostsSortOfADistinctIsOfferedAsFarAsItIsShown)
+{
+    load(u"select distinct Cust as No, Qty as Pieces from Ord"_s, u"select Cust from Ord"_s,
+         u"No desc, Pieces"_s);
+    EXPECT_TRUE(history.GetNextShowSQL(PartFieldsStatement, next));
+    show(next);
+    QString sort;
+    chooser.choice = u"Cust"_s;
+    manager.GetPartSortSelFields(first, u"No desc, Pieces"_s, sort);
+    EXPECT_EQ(chooser.present, QStringList(u"No desc"_s)) << qPrintable(next);
+}
+
+TEST_F(HistoryDerivation, FieldsOfADistinctKeepTheSortByAnExpression)
+{
+    load(u"select distinct Qty * 2 as Twice, Name from Ord where Qty > 0"_s);
+    const QString written = history.GetColumnRealName(first, {u"Twice"_s, u"Name"_s}, 0);
+    EXPECT_TRUE(history.GetNextSQLBySort(written + u" DESC"_s, next));
+    history.AddCurrentSQL(next, AllFieldsShown, colShowSQLSentences::NoPartField(), written + u" DESC"_s);
+    chooser.choice = u"Qty * 2 as Twice"_s;
+    QString chosen;
+    EXPECT_TRUE(manager.GetPartShowSelFields(first, {}, next, chosen));
+    EXPECT_EQ(firstColumn(chosen), (QStringList{u"10"_s, u"8"_s, u"6"_s, u"4"_s, u"2"_s}))
+        << qPrintable(chosen);
 }
 
 TEST_F(HistoryDerivation, AnAliasDoesNotTakeTheSortOfAColumnOfItsName)

@@ -158,6 +158,30 @@ TEST(HistoryDerivationOfTop, AFilterCanNameFieldsThatWereNotChosen)
     EXPECT_EQ(next.simplified(), u"SELECT B FROM ( select top 5 A, B from T order by B ) AS Q ORDER BY B"_s);
 }
 
+// Other fields would be other records.
+TEST(HistoryDerivationOfTop, AFilterOfDistinctRecordsCanNameThoseThatAreShown)
+{
+    ListReader reader;
+    clsFilterManagement manager(&reader);
+    const QString all = u"select distinct top 5 A, B from T order by A"_s;
+    manager.SetDBType(dbAccess);
+    manager.SetDBConnString(u"memory"_s);
+    manager.SetAllFields(all);
+    manager.SetOriginFilter(all);
+    manager.SetSQLInitData();
+    colShowSQLSentences &history = manager.SQLManager();
+    history.AddCurrentSQL(all, AllFieldsShown);
+    history.GetCurrSQLFieldsStatus();
+    const clsDataField a = *history.DataFields().Item(1);
+    EXPECT_TRUE(history.CanName(a));
+    QString next;
+    EXPECT_TRUE(history.GetNextSQLByFilter(u"A = 1"_s, next));
+    history.AddCurrentSQL(next, AllFieldsShown);
+    EXPECT_TRUE(history.CanName(a)) << qPrintable(next);
+    history.AddCurrentSQL(u"SELECT B FROM ("_s + all + u") AS Q"_s, PartFieldsShown);
+    EXPECT_FALSE(history.CanName(a));
+}
+
 TEST(HistoryDerivationOfTop, AHostsPartStatementMayRenameFields)
 {
     ListReader reader;

@@ -41,6 +41,7 @@ Derivation::Derivation(const QString &statement, const std::vector<SourceField> 
                            !m_parts.isTop && !m_parts.isCompound && !m_parts.isGrouped &&
                            !m_parts.isLimited && !m_parts.hasWindow && !m_parts.hasRows &&
                            !m_parts.isVersioned && !m_parts.isClosed && m_isListKnown && !isSourceUnfenced();
+    m_isListUsed = namesAlias;
     if (!canBeOpen || namesAlias) {
         m_kind = Kind::Closed;
         m_isClosedByAliases = canBeOpen;
@@ -91,7 +92,7 @@ bool Derivation::keepsListWords() const
 {
     return (m_parts.isDistinct || m_parts.isTop) && !m_parts.source.isEmpty() && !m_parts.isCompound &&
            !m_parts.isGrouped && !m_parts.isLimited && !m_parts.hasWindow && !m_parts.hasRows &&
-           !m_parts.isVersioned && !m_parts.isClosed && m_isListKnown;
+           !m_parts.isVersioned && !m_parts.isClosed && m_isListKnown && !m_isListUsed;
 }
 
 bool Derivation::isTextWork(DerivationStep step) const
@@ -309,7 +310,8 @@ SQLSentence Derivation::base() const
         break;
     }
     const QString sort = outerSort();
-    return {prefix() + u"SELECT "_s + tableList() + u" FROM "_s + asTable(),
+    return {prefix() + u"SELECT "_s + (isDistinctTable() ? u"DISTINCT "_s : QString()) + tableList() +
+                u" FROM "_s + asTable(),
             {},
             sort.isEmpty() ? QString() : orderWords + sort};
 }

@@ -9,6 +9,7 @@
 #include <QtCore/QStringList>
 
 #include <map>
+#include <optional>
 
 // Derives statements from any SELECT, so that they return the right rows.
 namespace KOVAVSFDataGridLib {
@@ -100,6 +101,8 @@ public:
     QString table() const;
     // The name of each field of the result.
     const QStringList &names() const { return m_names; }
+    // Whether `other` selects from the same tables, in the same words.
+    bool isOverSame(const Derivation &other) const;
     // Whether it selects from more than one table.
     bool isJoined() const { return m_parts.sources.size() > 1; }
 
@@ -141,8 +144,12 @@ public:
     // is impossible.
     QString withFieldsOf(const Derivation &fieldStatement) const;
 
-    // The list entries of this statement for the fields of another one, which may lack its aliases. Empty if
-    // one of them is missing.
+    // For each field of another statement, its place (from 0) among those of this one: the same column or
+    // expression, whatever either of them calls it. A name means a field of this result only if it can't be
+    // the name of a column: `part` selects from other tables or from a subquery, or the database rejects it.
+    // No value if a field is missing or not the only one.
+    std::optional<QList<qsizetype>> placesOf(const Derivation &part, bool isAccepted = true) const;
+    // The list entries of this statement for the fields of another one. Empty if one of them is missing.
     QStringList listedFor(const Derivation &part) const;
 
     // The names of this statement's fields in the list of one derived from it: as in listed() or, if that one
@@ -204,10 +211,18 @@ private:
     bool isColumn(std::size_t field, const SelectParts::Item &name) const;
     bool mergesOuterColumns() const;
     QString sortableTerms(const QString &sortList) const;
-    qsizetype fieldFor(const QString &value, const QString &name) const;
+    QStringList namesIn(TextRange range) const;
+    QStringList columnOf(qsizetype field) const;
+    QList<qsizetype> placesOfValue(const QString &value) const;
+    QList<qsizetype> placesOfColumn(const QStringList &column) const;
+    qsizetype oneOf(const QList<qsizetype> &places, const QString &name, const QList<qsizetype> &taken) const;
+    qsizetype placeOfName(const QString &name) const;
+    bool hasTablesOf(const Derivation &other) const;
     bool sortsByConstant(const SelectParts::Item &term) const;
     bool canSortWithin(const SelectParts::Item &term, const QStringList &entries) const;
     QString sortWithin(const QStringList &entries) const;
+    bool isDistinctTable() const;
+    Derivation distinctTable() const;
     bool canLoseTop() const;
     bool areListed(const QStringList &entries) const;
     // Whether a DISTINCT TOP with these entries alone would take other records, as its sort lacks a field.
@@ -232,7 +247,8 @@ private:
     QStringList m_usedAliases;         // those of aliasesToTell() that are meant
     QStringList m_written;
     QStringList m_listed;
-    bool m_isClosedByAliases = false; // only because its conditions or its sort use them
+    bool m_isListUsed = false;        // by its conditions or a sub-select in its sort: they use its aliases
+    bool m_isClosedByAliases = false; // only because of that
     std::vector<int> m_itemOfField;   // the list entry that the field comes from
     QStringList m_tableOfField;       // distinguishes a star's field from others of its name; can be empty
     bool m_isPlaced = true;           // whether the entry of each field is known

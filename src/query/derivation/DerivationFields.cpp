@@ -11,18 +11,6 @@ namespace KOVAVSFDataGridLib {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// Case and spaces matter only in quotes.
-bool isSameValue(const QString &a, const QString &b)
-{
-    static constexpr QStringView quotes = u"'\"`[";
-    const bool isQuoted = std::ranges::any_of(a, [](QChar letter) { return quotes.contains(letter); });
-    return isQuoted ? a == b : a.simplified().compare(b.simplified(), Qt::CaseInsensitive) == 0;
-}
-
-} // namespace
-
 QString Derivation::withFields(const QStringList &listEntries) const
 {
     if (listEntries.isEmpty() || !whyNot(DerivationStep::Fields).isEmpty())
@@ -44,6 +32,8 @@ QString Derivation::withList(const QString &list, const QStringList &entries) co
 {
     if (isTextWork(DerivationStep::Fields))
         return u"SELECT "_s + list + getFromPart(m_sql.sql());
+    if (isDistinctTable())
+        return distinctTable().withList(list, entries);
     if (keepsListWords() && losesTop(entries))
         return asTableWith(namesOf(entries));
     SQLSentence sentence = base();
@@ -66,78 +56,33 @@ QString Derivation::withFieldsOf(const Derivation &fieldStatement) const
         return a.simplified().compare(b.simplified(), Qt::CaseInsensitive) == 0;
     };
     const bool hasWords = keepsListWords() && fieldStatement.keepsListWords();
+    const QStringList entries = fieldStatement.m_listed.contains(QString())
+                                    ? splitList(fieldStatement.listText(), m_dialect)
+                                    : fieldStatement.m_listed;
     if (!hasWords && m_kind != Kind::Closed && sameText(source(), fieldStatement.source()))
         return withList(fieldStatement.m_kind == Kind::Closed ? fieldStatement.tableList()
                                                               : fieldStatement.listText(),
-                        {});
-    if (hasWords && sameText(textOf(m_sql, m_parts.source),
-                             textOf(fieldStatement.m_sql, fieldStatement.m_parts.source))) {
-        const bool isSameList = sameText(listText(), fieldStatement.listText());
-        const QStringList entries = isSameList ? m_listed : splitList(fieldStatement.listText(), m_dialect);
+                        entries);
+    if (hasWords && isOverSame(fieldStatement)) {
         // The statement that these fields were chosen from
         if (fieldStatement.areListed(m_listed))
             return withList(fieldStatement.listText(), entries);
         // An alias of the other statement can be the name of another field of this one.
-        const bool hasStar = std::ranges::any_of(fieldStatement.m_parts.items, &SelectParts::Item::isStar);
-        const QStringList listed =
-            areListed(entries) || (hasStar && !canLoseTop()) ? QStringList() : listedFor(fieldStatement);
+        const QStringList listed = areListed(entries) ? QStringList() : listedFor(fieldStatement);
         return listed.isEmpty() && (areListed(entries) || !canLoseTop())
                    ? withList(fieldStatement.listText(), entries)
                    : withFields(listed);
     }
     if (!m_parts.isDerivedTable)
         return withFields(listedFor(fieldStatement));
-    QStringList entries;
+    QStringList named;
     for (const QString &name : fieldStatement.m_names) {
         const qsizetype at = m_names.indexOf(name);
         const bool isListed = at >= 0 && !m_listed.at(at).isEmpty();
         // Otherwise it is a field of the table, but not of the list.
-        entries.append(isListed ? m_listed.at(at) : writtenName(m_dialect, name));
+        named.append(isListed ? m_listed.at(at) : writtenName(m_dialect, name));
     }
-    return withFields(entries);
-}
-
-// Only a column is found by its name alone, and only if no other table can have that name.
-QStringList Derivation::listedFor(const Derivation &part) const
-{
-    const auto isColumn = [](const Derivation &statement, qsizetype field) {
-        const int item = statement.m_itemOfField[static_cast<std::size_t>(field)];
-        return item < 0 || statement.m_parts.items[static_cast<std::size_t>(item)].isStar ||
-               statement.m_parts.items[static_cast<std::size_t>(item)].isName;
-    };
-    const auto isBare = [](const Derivation &statement, qsizetype field) {
-        return !statement.valueOf(static_cast<int>(field)).contains(u'.');
-    };
-    QStringList entries;
-    for (qsizetype i = 0; i < part.m_names.size(); ++i) {
-        const QString &name = part.m_names.at(i);
-        if (part.m_listed.at(i).isEmpty() && part.countOf(name) > 1)
-            return {}; // its table is unknown
-        qsizetype own = fieldFor(part.valueOf(static_cast<int>(i)), name);
-        if (own < 0 && countOf(name) == 1) {
-            const qsizetype named = m_names.indexOf(name);
-            if (named >= 0 && isColumn(*this, named) && isColumn(part, i) &&
-                (!isJoined() || isBare(*this, named) || isBare(part, i)))
-                own = named;
-        }
-        if (own < 0 || m_listed.at(own).isEmpty())
-            return {};
-        entries.append(m_listed.at(own));
-    }
-    return entries;
-}
-
-// The field with that value; of several, the one with that name.
-qsizetype Derivation::fieldFor(const QString &value, const QString &name) const
-{
-    qsizetype found = -1;
-    for (qsizetype own = m_names.size() - 1; own >= 0; --own) {
-        if (!isSameValue(valueOf(static_cast<int>(own)), value) && !isSameValue(m_listed.at(own), value))
-            continue;
-        if (found < 0 || m_names.at(own) == name || m_names.at(found) != name)
-            found = own;
-    }
-    return found;
+    return withFields(named);
 }
 
 QString Derivation::fieldsStatement() const
@@ -197,12 +142,28 @@ QString Derivation::sortValueOf(int field) const
 
 QString Derivation::withSortOf(const Derivation &other) const
 {
+    if (other.isDistinctTable())
+        return withSortOf(other.distinctTable());
     const bool isSortedByList =
         keepsListWords() && isDistinct() && !m_parts.isTop && other.keepsListWords() && other.isDistinct();
     const QString sort = isSortedByList ? other.sortWithin(m_listed) : QString();
     if (!isSortedByList || sort == sortWithin(m_listed))
         return m_sql.sql();
     return joinSQLSentence({headWith(listText()), withWordsApart(m_parts.where, 1), sort});
+}
+
+// Where its list can't change, fewer fields are those of the whole statement, and fewer records.
+bool Derivation::isDistinctTable() const
+{
+    return m_isListUsed && isDistinct() && !m_parts.isTop;
+}
+
+Derivation Derivation::distinctTable() const
+{
+    std::vector<SourceField> fields;
+    for (const QString &name : m_names)
+        fields.push_back({name, m_types[fields.size()]});
+    return {joinSQLSentence(base()), fields, m_dialect};
 }
 
 // TOP takes its records by the whole sort.

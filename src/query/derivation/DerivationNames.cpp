@@ -213,8 +213,12 @@ int Derivation::fieldOfTerm(const SelectParts::Item &term) const
         return tokens;
     };
     const QStringList wanted = tokensOf(term.value);
-    const int byValue = fieldWhere([&](std::size_t, const SelectParts::Item *item) {
-        return item && !item->isStar && tokensOf(item->value) == wanted;
+    // The value as the list has it, or as conditions and sorts write it.
+    const QString written = m_kind == Kind::Open ? textOf(m_sql, term.value) : QString();
+    const int byValue = fieldWhere([&](std::size_t i, const SelectParts::Item *item) {
+        return item && !item->isStar &&
+               (tokensOf(item->value) == wanted ||
+                (!written.isEmpty() && m_written.at(static_cast<qsizetype>(i)) == written));
     });
     if (byValue >= 0 || !term.isName)
         return byValue;
@@ -239,28 +243,39 @@ bool Derivation::mergesOuterColumns() const
     return false;
 }
 
+QStringList Derivation::namesIn(TextRange range) const
+{
+    QStringList names;
+    for (qsizetype i = range.begin; i < range.end; i += 2)
+        names.append(m_sql.name(i));
+    return names;
+}
+
+// The name of the column that the field shows, after those of its table; empty if it shows none, or if it is
+// unknown which.
+QStringList Derivation::columnOf(qsizetype field) const
+{
+    const int index = m_itemOfField[static_cast<std::size_t>(field)];
+    const SelectParts::Item *const item =
+        index < 0 ? nullptr : &m_parts.items[static_cast<std::size_t>(index)];
+    if (item && !item->isStar)
+        return item->isName ? namesIn(item->value) : QStringList();
+    const QString &name = m_names.at(field);
+    const QString &table = m_tableOfField.at(field);
+    if (table.isEmpty())
+        return countOf(name) == 1 ? QStringList(name) : QStringList();
+    return {lastNamePart(table), name};
+}
+
 // Whether the field is the column that this qualified name finds. Its name in the result means nothing: it
 // can be an alias, and another table can have a column of that name.
 bool Derivation::isColumn(std::size_t field, const SelectParts::Item &name) const
 {
-    const auto namesIn = [&](TextRange range) {
-        QStringList names;
-        for (qsizetype i = range.begin; i < range.end; i += 2)
-            names.append(m_sql.name(i));
-        return names;
-    };
-    const auto at = static_cast<qsizetype>(field);
-    const int index = m_itemOfField[field];
-    const SelectParts::Item *item = index < 0 ? nullptr : &m_parts.items[static_cast<std::size_t>(index)];
-    if (item && !item->isStar && !item->isName)
+    const QStringList own = columnOf(static_cast<qsizetype>(field));
+    if (own.isEmpty())
         return false;
-    const bool isOfStar = !item || item->isStar;
-    QStringList own =
-        item ? namesIn({item->value.begin, item->value.end - (isOfStar ? 1 : 0)}) : QStringList();
-    if (isOfStar && own.isEmpty() && !m_tableOfField.at(at).isEmpty())
-        own.append(lastNamePart(m_tableOfField.at(at)));
-    if (isOfStar)
-        own.append(m_names.at(at));
+    const int index = m_itemOfField[field];
+    const bool isOfStar = index < 0 || m_parts.items[static_cast<std::size_t>(index)].isStar;
     // Without a table, it is the only one of that name in all of them.
     if (own.size() == 1 &&
         (mergesOuterColumns() || (isOfStar && (countOf(own.first()) > 1 || (isJoined() && !hasAllFields())))))
