@@ -207,6 +207,7 @@ public:
     const_iterator end() const { return m_entries.end(); }
 
 private:
+    QString WithSort(const QString &statement, const QString &sortList) const;
     QString WhyNotSorted(const QString &statement, const std::vector<SourceField> &fields,
                          qsizetype column) const;
     std::shared_ptr<const Derivation> DerivationOf(const QString &statement,

@@ -159,17 +159,8 @@ bool colShowSQLSentences::GetNextShowSQL(StatementType SQLType, QString &PassSQL
     const bool isPart = SQLType == PartFieldsStatement;
     if (isPart && latest->GetCurrUsePartFieldSQL(fieldStatement) && !CanShowFieldsOf(fieldStatement))
         fieldStatement = latest->AllFields;
-    QString shown = latest->ShowSQL;
-    const auto all = isPart && !m_orderWord.isEmpty() ? DerivationOf(latest->AllFields) : nullptr;
-    // With several tables or aliases, only the whole list tells what the sort means.
-    const bool isSortedWhole = all && (all->isJoined() || !all->isSimple());
-    if (isSortedWhole) {
-        if (const auto derivation = DerivationOf(shown); derivation && !derivation->isSorted())
-            shown = Sorted(WithFieldsOf(shown, latest->AllFields), m_orderWord);
-    }
-    const QString statement = WithLastSort(WithFieldsOf(shown, fieldStatement));
-    PassSQL = isSortedWhole ? statement : Sorted(statement, m_orderWord);
-    return !statement.isEmpty();
+    PassSQL = Sorted(WithLastSort(WithFieldsOf(latest->ShowSQL, fieldStatement)), m_orderWord);
+    return !PassSQL.isEmpty();
 }
 
 QString colShowSQLSentences::WithLastSort(const QString &statement) const
@@ -191,10 +182,24 @@ bool colShowSQLSentences::CanShowFieldsOf(const QString &partStatement) const
 
 QString colShowSQLSentences::Sorted(const QString &statement, const QString &sortList) const
 {
+    const clsShowSQLSentence *const latest = Latest();
+    const auto shown = sortList.isEmpty() ? nullptr : DerivationOf(statement);
+    if (shown && shown->isSorted())
+        return statement;
+    // With several tables or aliases, only the whole list tells what the sort means.
+    const auto all = shown && latest ? DerivationOf(latest->AllFields) : nullptr;
+    if (all && (all->isJoined() || !all->isSimple()) && all->names() != shown->names()) {
+        const QString whole = WithSort(WithFieldsOf(statement, latest->AllFields), sortList);
+        if (const QString sorted = WithFieldsOf(whole, statement); !sorted.isEmpty())
+            return sorted;
+    }
+    return WithSort(statement, sortList);
+}
+
+QString colShowSQLSentences::WithSort(const QString &statement, const QString &sortList) const
+{
     const auto derivation = sortList.isEmpty() ? nullptr : DerivationOf(statement, DerivationStep::Sort);
-    if (!derivation)
-        return AppendOrderWord(statement, sortList);
-    return DerivationOf(statement)->isSorted() ? statement : derivation->withSort(sortList);
+    return derivation ? derivation->withSort(sortList) : AppendOrderWord(statement, sortList);
 }
 
 QString colShowSQLSentences::WithFieldsOf(const QString &statement, const QString &fieldStatement) const

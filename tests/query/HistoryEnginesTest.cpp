@@ -58,6 +58,29 @@ TEST(HistorySort, OfTheHostIsByTheFieldThatTheWholeListMeans)
     EXPECT_EQ(part.simplified(), u"SELECT e.id FROM E e join D d on d.id = e.dept ORDER BY e.name desc"_s);
 }
 
+// After the user has removed the sort, the host's applies again, although it names fields that the part
+// lacks.
+TEST(HistorySort, OfTheHostComesBackForPartFieldsOfADistinct)
+{
+    ListReader reader;
+    MemoryChooser chooser;
+    clsFilterManagement manager{&reader, &chooser};
+    manager.SetDBType(dbAccess);
+    manager.SetDBConnString(u"file"_s);
+    const QString all = u"select distinct Name, Cust as N1, Qty as Town, Qty * 2 as City from Ord"_s;
+    manager.SetAllFields(all);
+    manager.SetShowFields(u"select Cust as N1 from Ord"_s);
+    manager.SetOrderFields(u"N1 desc, Town desc, Name desc, City desc"_s);
+    manager.SetOriginFilter(all);
+    manager.SetSQLInitData();
+    colShowSQLSentences &history = manager.SQLManager();
+    history.AddCurrentSQL(u"SELECT distinct Cust as N1 FROM Ord WHERE Cust like 2"_s, PartFieldsShown);
+    history.GetCurrSQLFieldsStatus();
+    history.UpdateSelSortFields({});
+    EXPECT_EQ(manager.GetCurrentSQL20(PartFieldsStatement).simplified(),
+              u"SELECT distinct Cust as N1 FROM Ord WHERE Cust like 2 ORDER BY Cust desc"_s);
+}
+
 // The database is asked about a type that its driver can't name, and about no other.
 TEST(HistorySort, FieldsWithoutAnOrderAreOfferedWithTheReason)
 {
