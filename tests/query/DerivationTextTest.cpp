@@ -162,9 +162,9 @@ TEST(DerivationText, TopOfDistinctRecordsIsTakenBeforeFieldsOfItsSortAreLeftOut)
                "SELECT * FROM ( select distinct top 5 Country, City as Town, 1 as N from T order "
                "by Country, 3, City ) AS Q ORDER BY Country,N,Town");
     const QString both = places.withFields({places.listed().at(0), town});
-    expectText(both, "SELECT distinct top 5 Country,City as Town FROM T ORDER BY Country,City");
+    expectText(both, "SELECT distinct top 5 Country,City as Town FROM T ORDER BY Country,T.City");
     expectText(derive(Engine::Access, both, {u"Country"_s, u"Town"_s}, dbAccess).withFieldsOf(places),
-               "SELECT distinct top 5 Country, City as Town, 1 as N FROM T ORDER BY Country,City");
+               "SELECT distinct top 5 Country, City as Town, 1 as N FROM T ORDER BY Country,T.City");
     const Derivation part =
         derive(Engine::Access, u"select distinct top 5 T.city as Town from T"_s, {u"Town"_s}, dbAccess);
     expectText(

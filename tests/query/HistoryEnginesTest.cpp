@@ -78,7 +78,7 @@ TEST(HistorySort, OfTheHostComesBackForPartFieldsOfADistinct)
     history.GetCurrSQLFieldsStatus();
     history.UpdateSelSortFields({});
     EXPECT_EQ(manager.GetCurrentSQL20(PartFieldsStatement).simplified(),
-              u"SELECT distinct Cust as N1 FROM Ord WHERE Cust like 2 ORDER BY Cust desc"_s);
+              u"SELECT distinct Cust as N1 FROM Ord WHERE Cust like 2 ORDER BY Ord.Cust desc"_s);
 }
 
 // The database is asked about a type that its driver can't name, and about no other.

@@ -1,6 +1,7 @@
 #include "query/derivation/Derivation.h"
 
 #include "query/derivation/ConstantItem.h"
+#include "query/derivation/SameName.h"
 #include "sql/Names.h"
 
 #include <algorithm>
@@ -131,13 +132,22 @@ QString Derivation::sortWithin(const QStringList &entries) const
     return terms.isEmpty() ? QString() : u" ORDER BY "_s + terms.join(u',');
 }
 
-// A name that is also the alias of another field means that one in a sort, unless it is qualified.
+// A bare name that is also the alias of another field means that one in a sort. The other list can have such
+// an alias, so the column of a field with an alias is qualified.
 QString Derivation::sortValueOf(int field) const
 {
-    const int item = m_itemOfField[static_cast<std::size_t>(field)];
-    const bool isName = item >= 0 && m_parts.items[static_cast<std::size_t>(item)].isName;
+    const int at = m_itemOfField[static_cast<std::size_t>(field)];
+    const SelectParts::Item *const item = at < 0 ? nullptr : &m_parts.items[static_cast<std::size_t>(at)];
+    if (!item || !item->isName)
+        return valueOf(field);
     const QString &written = m_written.at(field);
-    return m_kind == Kind::Open && isName && !written.isEmpty() ? written : valueOf(field);
+    const QString value = m_kind == Kind::Open && !written.isEmpty() ? written : valueOf(field);
+    const bool isBare = item->value.end - item->value.begin == 1 && !value.contains(u'.');
+    const bool isOfOneTable = m_parts.sources.size() == 1 && !m_parts.sources.front().writtenAlias.isEmpty();
+    return isBare && isOfOneTable && !item->alias.isEmpty() &&
+                   !isSameName(item->alias, m_sql.name(item->value.begin))
+               ? m_parts.sources.front().writtenAlias + u'.' + value
+               : value;
 }
 
 QString Derivation::withSortOf(const Derivation &other) const

@@ -1,6 +1,7 @@
 #include "query/derivation/Derivation.h"
 
 #include "query/derivation/ConstantItem.h"
+#include "query/derivation/SameName.h"
 #include "sql/Names.h"
 #include "sql/select/SqlWalk.h"
 
@@ -13,11 +14,6 @@ namespace KOVAVSFDataGridLib {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-bool isSame(const QString &a, const QString &b)
-{
-    return a.compare(b, Qt::CaseInsensitive) == 0;
-}
 
 bool isOneCall(const SqlScanner &sql, TextRange value)
 {
@@ -101,7 +97,7 @@ void Derivation::dropUnlikelyAliases(const std::vector<SourceField> &fields)
         if (m_itemOfField[i] < 0)
             continue;
         SelectParts::Item &item = m_parts.items[static_cast<std::size_t>(m_itemOfField[i])];
-        if (!item.hasAs && !item.alias.isEmpty() && !isSame(item.alias, fields[i].name))
+        if (!item.hasAs && !item.alias.isEmpty() && !isSameName(item.alias, fields[i].name))
             item = SelectParts::itemWithoutAlias(m_sql, item.tokens);
     }
 }
@@ -124,7 +120,7 @@ void Derivation::nameOpenFields(const std::vector<SourceField> &fields)
         const bool isBareName = item.isName && item.value.end - item.value.begin == 1;
         const QString name = isBareName ? m_sql.name(item.value.begin) : QString();
         const bool isAliasOfOther =
-            isBareName && countOfAlias.value(name.toCaseFolded()) > (isSame(item.alias, name) ? 1 : 0);
+            isBareName && countOfAlias.value(name.toCaseFolded()) > (isSameName(item.alias, name) ? 1 : 0);
         if (isAliasOfOther && m_parts.sources.size() == 1 && !m_parts.sources.front().writtenAlias.isEmpty())
             written = m_parts.sources.front().writtenAlias + u'.' + written;
         m_written.append(written);
@@ -158,11 +154,11 @@ QString Derivation::qualified(const std::vector<SourceField> &fields, std::size_
     if (countOf(field.name) == 1 && (sources.size() <= 1 || hasAllFields()))
         return name;
     const auto isIts = [&](const SelectParts::Source &source) {
-        return sources.size() == 1 || isSame(source.table, field.table);
+        return sources.size() == 1 || isSameName(source.table, field.table);
     };
     // Not if the table is joined to itself, or to a subquery that selects from it.
     const auto isEqual = [&](const SourceField &other) {
-        return isSame(other.name, field.name) && isSame(other.table, field.table);
+        return isSameName(other.name, field.name) && isSameName(other.table, field.table);
     };
     const auto source = std::ranges::find_if(sources, isIts);
     if (source == sources.end() || std::ranges::count_if(sources, isIts) > 1 ||
@@ -195,14 +191,15 @@ int Derivation::fieldOfTerm(const SelectParts::Item &term) const
     };
     if (term.isName && count == 1) {
         const QString name = m_sql.name(term.value.begin);
-        const int byAlias = fieldWhere(
-            [&](std::size_t, const SelectParts::Item *item) { return item && isSame(item->alias, name); });
+        const int byAlias = fieldWhere([&](std::size_t, const SelectParts::Item *item) {
+            return item && isSameName(item->alias, name);
+        });
         if (byAlias >= 0)
             return byAlias;
         if (countOf(name) == 1)
             return fieldWhere([&](std::size_t i, const SelectParts::Item *item) {
-                return isSame(m_names.at(static_cast<qsizetype>(i)), name) &&
-                       (!item || item->alias.isEmpty() || isSame(item->alias, name));
+                return isSameName(m_names.at(static_cast<qsizetype>(i)), name) &&
+                       (!item || item->alias.isEmpty() || isSameName(item->alias, name));
             });
     }
     const auto tokensOf = [&](TextRange range) {
@@ -282,7 +279,7 @@ bool Derivation::isColumn(std::size_t field, const SelectParts::Item &name) cons
         return false;
     const QStringList wanted = namesIn(name.value);
     const qsizetype shared = std::min(own.size(), wanted.size());
-    return std::ranges::equal(own.last(shared), wanted.last(shared), isSame);
+    return std::ranges::equal(own.last(shared), wanted.last(shared), isSameName);
 }
 
 } // namespace KOVAVSFDataGridLib

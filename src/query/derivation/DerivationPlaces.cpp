@@ -1,5 +1,7 @@
 #include "query/derivation/Derivation.h"
 
+#include "query/derivation/SameName.h"
+
 #include <algorithm>
 
 // Finds the fields of another statement among those of this one: a host's part statement can call a field by
@@ -9,17 +11,12 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-bool isAlike(const QString &a, const QString &b)
-{
-    return a.compare(b, Qt::CaseInsensitive) == 0;
-}
-
 // Case and spaces matter only in quotes.
 bool isSameValue(const QString &a, const QString &b)
 {
     static constexpr QStringView quotes = u"'\"`[";
     const bool isQuoted = std::ranges::any_of(a, [](QChar letter) { return quotes.contains(letter); });
-    return isQuoted ? a == b : isAlike(a.simplified(), b.simplified());
+    return isQuoted ? a == b : isSameName(a.simplified(), b.simplified());
 }
 
 } // namespace
@@ -38,7 +35,7 @@ std::optional<QList<qsizetype>> Derivation::placesOf(const Derivation &part, boo
     const bool hasNamesOfResult = !isAccepted || !(isOverSame(part) || hasTablesOf(part));
     QList<qsizetype> places;
     // The same list has the same fields, even if it is unknown whose they are.
-    if (isOverSame(part) && isAlike(listText(), part.listText()) && part.m_names == m_names) {
+    if (isOverSame(part) && isSameName(listText(), part.listText()) && part.m_names == m_names) {
         for (qsizetype i = 0; i < m_names.size(); ++i)
             places.append(i);
     }
@@ -76,7 +73,7 @@ QList<qsizetype> Derivation::placesOfColumn(const QStringList &column) const
 {
     const auto isColumn = [this](const QStringList &a, const QStringList &b) {
         const qsizetype shared = std::min({a.size(), b.size(), isJoined() ? a.size() : 1});
-        return shared > 0 && std::ranges::equal(a.last(shared), b.last(shared), isAlike);
+        return shared > 0 && std::ranges::equal(a.last(shared), b.last(shared), isSameName);
     };
     QList<qsizetype> found;
     for (qsizetype own = 0; own < m_names.size(); ++own) {
@@ -107,8 +104,8 @@ qsizetype Derivation::placeOfName(const QString &name) const
 
 bool Derivation::isOverSame(const Derivation &other) const
 {
-    return isAlike(textOf(m_sql, m_parts.source).simplified(),
-                   textOf(other.m_sql, other.m_parts.source).simplified());
+    return isSameName(textOf(m_sql, m_parts.source).simplified(),
+                      textOf(other.m_sql, other.m_parts.source).simplified());
 }
 
 bool Derivation::hasTablesOf(const Derivation &other) const
@@ -116,7 +113,7 @@ bool Derivation::hasTablesOf(const Derivation &other) const
     return std::ranges::all_of(other.m_parts.sources, [&](const SelectParts::Source &source) {
         return !source.table.isEmpty() &&
                std::ranges::any_of(m_parts.sources, [&](const SelectParts::Source &own) {
-                   return isAlike(own.table, source.table);
+                   return isSameName(own.table, source.table);
                });
     });
 }
