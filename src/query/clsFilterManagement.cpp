@@ -145,6 +145,7 @@ bool clsFilterManagement::GetPartShowSelFields(const QString &strAllFields, cons
         (current->isTextWork(DerivationStep::Fields) && all->isTextWork(DerivationStep::Fields));
     if (!isText || (all && all->isJoined()))
         m_tableFields.SetWrittenFields(all->listedIn(*current));
+    m_tableFields.SetPartNames(m_history.PartNames(strAllFields, strPartField));
     QString chosen;
     if (!m_tableFields.GetPartSelFields(strAllFields, strPartField, chosen))
         return false;

@@ -169,6 +169,10 @@ public:
     // a result with more fields is open: with DISTINCT, other fields mean other rows.
     bool IsShownAlone(const QString &statement) const;
 
+    // The names in the result of `all` of the fields that a part statement means; none if it lacks one. No
+    // value if they are those of the part statement.
+    std::optional<QStringList> PartNames(const QString &all, const QString &partStatement) const;
+
     // The start of a statement with chosen fields, as accepted by AddCurrentSQL for the part fields.
     QString GetFieldsStatement(const QString &statement) const;
 

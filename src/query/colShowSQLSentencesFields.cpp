@@ -96,6 +96,17 @@ bool colShowSQLSentences::ArePartsNamed(const QString &all, const QString &partS
     return !part || (whole->isSimple() && part->isSimple() && !whole->isJoined() && !haveEqualNames(*whole));
 }
 
+std::optional<QStringList> colShowSQLSentences::PartNames(const QString &all,
+                                                          const QString &partStatement) const
+{
+    if (ArePartsNamed(all, partStatement))
+        return {};
+    QStringList names;
+    for (const qsizetype place : PlacesOf(all, partStatement).value_or(QList<qsizetype>()))
+        names.append(DerivationWithFields(all)->names().at(place));
+    return names;
+}
+
 // A part statement with a field that the result lacks has none.
 bool colShowSQLSentences::MarkPlaces(const QString &all, const QString &partStatement)
 {

@@ -57,13 +57,16 @@ std::optional<LoadedStatement> statementToOpen(Session &session, clsFilterManage
     LoadedStatement first{session.texts.sqlShow, manager.GetCurrentSQL20(FirstStatement)};
     // Missing properties are reported when the statement is opened.
     if (spellsOutStar(session.shared.dbType) && !connectionString.isEmpty() && !first.line.isEmpty()) {
+        // A table written for the sort has a * that is not the host's.
+        const bool isTable = !first.line.startsWith(given);
         QString rewritten;
-        if (!manager.SQLManager().GetAllFieldNameSQL(connectionString, first.line, rewritten))
+        if (!manager.SQLManager().GetAllFieldNameSQL(connectionString, isTable ? given : first.line,
+                                                     rewritten))
             return {};
         manager.SetAllFields(rewritten);
         manager.SetOriginFilter(rewritten);
         manager.SetSQLInitData();
-        first.line = rewritten;
+        first.line = isTable ? manager.SQLManager().Sorted(rewritten, manager.OrderFields()) : rewritten;
     }
     if (first.line != given) // with a sort or a field list, so no longer the host's own text
         first.written = first.line;

@@ -7,6 +7,8 @@
 #include <QtCore/QSet>
 
 #include <algorithm>
+#include <tuple>
+#include <vector>
 
 using namespace KOVAVSFDataGridLib;
 using namespace KovaTest;
@@ -241,4 +243,24 @@ TEST_F(HistoryDerivation, FieldsOfADistinctWithAliasesInItsConditionAreDistinctT
     EXPECT_EQ(firstColumn(choose(u"K"_s)), (QStringList{u"1"_s, u"2"_s, u"3"_s}));
     EXPECT_TRUE(history.GetNextShowSQL(AllFieldsStatement, next));
     EXPECT_EQ(database->read(next).text(), database->read(first).text()) << "in its order again";
+}
+
+// What Some Fields shows is what the dialog preselects, so that OK alone changes nothing.
+TEST_F(HistoryDerivation, TheFieldsThatAPartStatementMeansArePreselected)
+{
+    const std::vector<std::tuple<QString, QString, QStringList>> cases{
+        {u"select ID, Name, City from Cust"_s, u"select City as Name from Cust"_s, {u"City"_s}},
+        {u"select ID, Name as City, City as Name from Cust"_s,
+         u"select Name, ID from Cust"_s,
+         {u"City"_s, u"ID"_s}},
+        {u"select Cust, count(*) as N from Ord group by Cust"_s,
+         u"select count(*) as Cust from Ord group by Cust"_s,
+         {u"N"_s}},
+        {u"select ID, Name from Cust"_s, u"select ID from Cust"_s, {u"ID"_s}}};
+    for (const auto &[all, part, preselected] : cases) {
+        manager.ClearObject();
+        load(all, part);
+        manager.GetPartShowSelFields(all, part, all, next);
+        EXPECT_EQ(chooser.present, preselected) << qPrintable(part);
+    }
 }

@@ -18,7 +18,8 @@ bool clsTableFieldManager::GetPartSelFields(const QString &strAllField, const QS
     strRetSelFields.clear();
     if (!IsReadyToChoose(strAllField))
         return false;
-    const QStringList partFields = ReadNames(ConnString, strPartField).value_or(QStringList());
+    const QStringList partFields =
+        m_partNames ? *m_partNames : ReadNames(ConnString, strPartField).value_or(QStringList());
     strRetSelFields = m_chooser->ChooseVisibleFields(GetSQLTableName(strAllField), Offered(), partFields)
                           .value_or(QString());
     return !strRetSelFields.isEmpty();

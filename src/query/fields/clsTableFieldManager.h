@@ -3,6 +3,8 @@
 #include "query/fields/FieldChooser.h"
 #include "query/fields/FieldReader.h"
 
+#include <optional>
+
 namespace KOVAVSFDataGridLib {
 
 // Reads the field names of statements and lets the user choose from them.
@@ -24,6 +26,9 @@ public:
     void SetFurtherFields(const QList<OfferedField> &fields) { m_further = fields; }
     // Why they can't be sorted by, in the same order and until then; empty texts for those that can.
     void SetWhyNotSorted(const QStringList &reasons) { m_whyNotSorted = reasons; }
+    // Which fields the next choice preselects, until then, instead of those with the names of its part
+    // statement.
+    void SetPartNames(const std::optional<QStringList> &names) { m_partNames = names; }
     // Together with the reader's engine, determines how names are written.
     void SetDBType(AllDBType type) { m_database = type; }
     void SetFieldChooser(FieldChooser *chooser) { m_chooser = chooser; }
@@ -35,6 +40,7 @@ public:
         m_written.clear();
         m_whyNotSorted.clear();
         m_further.clear();
+        m_partNames.reset();
     }
     void ClearObject() { InitData(); }
 
@@ -60,6 +66,7 @@ private:
     QStringList m_written;
     QStringList m_whyNotSorted;
     QList<OfferedField> m_further;
+    std::optional<QStringList> m_partNames;
 };
 
 } // namespace KOVAVSFDataGridLib
