@@ -99,7 +99,8 @@ qsizetype Derivation::oneOf(const QList<qsizetype> &places, const QString &name,
 
 qsizetype Derivation::placeOfName(const QString &name) const
 {
-    return countOf(name) == 1 ? m_names.indexOf(name) : -1;
+    const auto is = [&](const QString &own) { return isSameName(own, name); };
+    return countOf(name) == 1 ? std::ranges::find_if(m_names, is) - m_names.begin() : -1;
 }
 
 bool Derivation::isOverSame(const Derivation &other) const
