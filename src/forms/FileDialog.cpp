@@ -52,12 +52,12 @@ QString FileDialog::askToSave(QWidget *parent, const QString &title, const QStri
     return ask(dialog, filter);
 }
 
-QString FileDialog::ask(QPointer<FileDialog> dialog, QString *filter)
+QString FileDialog::ask(const QPointer<FileDialog> &dialog, QString *filter)
 {
     const bool isChosen = dialog->exec() == Accepted;
     if (!dialog)
         return {};
-    const QString file = isChosen ? dialog->selectedFiles().value(0) : QString();
+    QString file = isChosen ? dialog->selectedFiles().value(0) : QString();
     if (isChosen && filter)
         *filter = dialog->selectedNameFilter();
     delete dialog;

@@ -28,7 +28,7 @@ protected:
     void accept() override;
 
 private:
-    static QString ask(QPointer<FileDialog> dialog, QString *filter);
+    static QString ask(const QPointer<FileDialog> &dialog, QString *filter);
 
     bool isQtsOwn() const;
     void start();

@@ -41,7 +41,7 @@ QString colShowSQLSentences::WhyNoAllFields() const
     const auto all = latest ? DerivationOf(latest->AllFields) : nullptr;
     const auto shown = all ? DerivationOf(latest->ShowSQL) : nullptr;
     if (shown && all->hasListAsTable() && !shown->hasListAsTable() && !shown->table().isEmpty()) {
-        if (const QString reason = all->whyNot(DerivationStep::Condition); !reason.isEmpty())
+        if (QString reason = all->whyNot(DerivationStep::Condition); !reason.isEmpty())
             return reason;
     }
     if (!shown || shown->isTextWork(DerivationStep::Fields))
@@ -56,7 +56,7 @@ QString colShowSQLSentences::WhyNoPartFields() const
 {
     const clsShowSQLSentence *const latest = Latest();
     QString partStatement;
-    if (const QString reason = WhyNoAllFields(); !reason.isEmpty())
+    if (QString reason = WhyNoAllFields(); !reason.isEmpty())
         return reason;
     if (!latest || !latest->GetCurrUsePartFieldSQL(partStatement))
         return {};

@@ -7,9 +7,11 @@
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTimer>
+#include <QtGui/QHelpEvent>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QToolTip>
 
 #include <memory>
 #include <string_view>
@@ -23,6 +25,16 @@ namespace {
 class FrozenServerReading : public FrozenServer
 {
 protected:
+    // Of a field's name in the single-record list.
+    QString toolTipOf(const QString &field) const
+    {
+        QWidget *const viewport = hands->list->viewport();
+        const QModelIndex name = hands->list->model()->index(hands->listedRow(field), 0);
+        const QPoint position = hands->list->visualRect(name).center();
+        QHelpEvent help(QEvent::ToolTip, position, viewport->mapToGlobal(position));
+        QCoreApplication::sendEvent(viewport, &help);
+        return QToolTip::text();
+    }
     void cancelAListOfValues()
     {
         WindowAnswers dialogs({[&](QDialog &dialog) {
@@ -207,6 +219,30 @@ TEST_P(FrozenServerReading, LetsTheUserCancelTheCheckOfACondition)
 }
 
 // They are read in a thread of their own, so the dialog does not even wait.
+// The line of such a wait would cover the buttons of the question, and keep clicks from them.
+TEST_P(FrozenServerReading, IsNotAskedForTheFieldsOfARecordDuringAQuestion)
+{
+    ASSERT_TRUE(loadKept());
+    freeze();
+    hands->click(u"SingleRecord"_s); // asks the server a little later
+    bool hasWaited = false;
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, &user, [&] {
+        QWidget *const line = progressLine();
+        hasWaited |= line != nullptr;
+        if (QWidget *const window = line ? line->window() : QApplication::activeModalWidget();
+            hasWaited && window)
+            QTest::keyClick(window, Qt::Key_Escape);
+    });
+    user.start(10);
+    hands->grid.findChild<QAction *>(u"PopMnuDataAction9"_s)->trigger();
+    EXPECT_FALSE(hasWaited);
+    EXPECT_EQ(takeMessages().size(), 1) << "the question, which was answered";
+    thaw();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return toolTipOf(u"id"_s) == u"id：不能为空"_s; }))
+        << "asked afterwards";
+}
+
 TEST_P(FrozenServerReading, LetsTheUserCancelAListOfValues)
 {
     ASSERT_TRUE(loadKept());

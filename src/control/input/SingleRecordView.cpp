@@ -60,7 +60,7 @@ SingleRecordView::SingleRecordView(QWidget &control, InputEvents &host, Session 
       m_parts(parts),
       m_pictureFields(session, control),
       m_heading(*parts.MSFlexGrid1->horizontalHeader()),
-      m_required(session),
+      m_required(session, *parts.MSFlexGrid1),
       m_editor(session, parts)
 {
     MSFlexGrid &list = *parts.MSFlexGrid1;

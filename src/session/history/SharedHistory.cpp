@@ -66,7 +66,7 @@ QString SharedHistory::whyNot(DerivationStep step) const
 
 QString SharedHistory::whyNoAllFields() const
 {
-    const QString none = whyNone();
+    QString none = whyNone();
     if (!none.isEmpty() || !m_manager || !m_session.result().isOpen())
         return none;
     return m_manager->SQLManager().WhyNoAllFields();

@@ -9,8 +9,23 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
 
 namespace KOVAVSFDataGridLib {
+
+namespace {
+
+constexpr int afterDialog = 250; // milliseconds
+
+// Whether the user can't use it, because a dialog of another window is open.
+bool isBehindDialog(const QWidget &widget)
+{
+    const QWidget *const dialog = QApplication::activeModalWidget();
+    return dialog && dialog != widget.window();
+}
+
+} // namespace
 
 void RequiredFields::learn()
 {
@@ -34,6 +49,11 @@ void RequiredFields::askDatabase()
     if (!m_session.result().isOpen() || m_askedOf.lock() != recordset || m_learnedOf.lock() == recordset ||
         m_session.record().isReadOnly() || ADODB::Waiting::isWatched())
         return;
+    // The line of a wait would cover the buttons of a question, and keep clicks from them.
+    if (isBehindDialog(m_place)) {
+        QTimer::singleShot(afterDialog, this, &RequiredFields::askDatabase);
+        return;
+    }
     const QPointer<RequiredFields> alive(this);
     std::set<int> filled;
     bool isAnyRequired = false;

@@ -5,6 +5,8 @@
 #include <memory>
 #include <set>
 
+class QWidget;
+
 namespace ADODB {
 class Recordset;
 }
@@ -20,7 +22,8 @@ class RequiredFields final : public QObject
     Q_OBJECT
 
 public:
-    explicit RequiredFields(Session &session) : m_session(session) {}
+    // `place` is where they are shown.
+    RequiredFields(Session &session, const QWidget &place) : m_session(session), m_place(place) {}
 
     // Asks about the result that is open now, a little later, unless that was done.
     void learn();
@@ -34,6 +37,7 @@ private:
     void askDatabase();
 
     Session &m_session;
+    const QWidget &m_place;
     std::weak_ptr<ADODB::Recordset> m_askedOf;
     std::weak_ptr<ADODB::Recordset> m_learnedOf;
     std::set<int> m_filled; // those that get a value without the user
