@@ -197,8 +197,10 @@ QString colShowSQLSentences::Sorted(const QString &statement, const QString &sor
     const auto shown = sortList.isEmpty() ? nullptr : DerivationOf(statement);
     if (shown && shown->isSorted())
         return statement;
-    // With several tables or aliases, only the whole list tells what the sort means.
     const auto all = shown && latest ? DerivationOf(latest->AllFields) : nullptr;
+    if (all && all->isSorted() && shown->hasAsTable(*all))
+        return statement; // in the order of that table
+    // With several tables or aliases, only the whole list tells what the sort means.
     if (all && (all->isJoined() || !all->isSimple()) && all->names() != shown->names()) {
         const QString whole = WithSort(WithFieldsOf(statement, latest->AllFields), sortList);
         if (const QString sorted = WithFieldsOf(whole, statement); !sorted.isEmpty())

@@ -264,3 +264,12 @@ TEST_F(HistoryDerivation, TheFieldsThatAPartStatementMeansArePreselected)
         EXPECT_EQ(chooser.present, preselected) << qPrintable(part);
     }
 }
+
+TEST_F(HistoryDerivation, TheHostsSortIsNotAddedToAStatementWithItsOwn)
+{
+    load(u"select Name as A, City as B from Cust order by ID limit 5"_s, u"select Name as X from Cust"_s,
+         u"B"_s);
+    const QStringList names = firstColumn(first);
+    EXPECT_EQ(firstColumn(manager.GetCurrentSQL20(PartFieldsStatement)), names);
+    EXPECT_GT(names.size(), 3);
+}
