@@ -39,6 +39,7 @@ void FaultFixture::SetUp()
 {
     if (connection().isEmpty())
         GTEST_SKIP() << engine.variable << " is not set";
+    startServer(); // PgBouncer was once found ended after a test that had frozen it
     OdbcSession(connection())
         .run({u"DROP TABLE IF EXISTS faults"_s,
               u"CREATE TABLE faults AS SELECT g AS id, concat('name ', g) AS name FROM "_s +
