@@ -35,6 +35,19 @@ private:
     Engine m_engine;
 };
 
+// What a load sets.
+void setUp(clsFilterManagement &manager, AllDBType type, const QString &all, const QString &part = {},
+           const QString &sort = {})
+{
+    manager.SetDBType(type);
+    manager.SetDBConnString(u"server"_s);
+    manager.SetAllFields(all);
+    manager.SetShowFields(part);
+    manager.SetOrderFields(sort);
+    manager.SetOriginFilter(all);
+    manager.SetSQLInitData();
+}
+
 } // namespace
 
 TEST(HistorySort, OfTheHostIsByTheFieldThatTheWholeListMeans)
@@ -42,14 +55,8 @@ TEST(HistorySort, OfTheHostIsByTheFieldThatTheWholeListMeans)
     ListReader reader(Engine::PostgreSQL);
     MemoryChooser chooser;
     clsFilterManagement manager{&reader, &chooser};
-    manager.SetDBType(dbOracle);
-    manager.SetDBConnString(u"server"_s);
     const QString all = u"select e.id, e.name, d.city from E e join D d on d.id = e.dept"_s;
-    manager.SetAllFields(all);
-    manager.SetShowFields(u"select e.id from E e join D d on d.id = e.dept"_s);
-    manager.SetOrderFields(u"name desc"_s);
-    manager.SetOriginFilter(all);
-    manager.SetSQLInitData();
+    setUp(manager, dbOracle, all, u"select e.id from E e join D d on d.id = e.dept"_s, u"name desc"_s);
     colShowSQLSentences &history = manager.SQLManager();
     history.AddCurrentSQL(all, AllFieldsShown);
     history.GetCurrSQLFieldsStatus();
@@ -65,14 +72,9 @@ TEST(HistorySort, OfTheHostComesBackForPartFieldsOfADistinct)
     ListReader reader;
     MemoryChooser chooser;
     clsFilterManagement manager{&reader, &chooser};
-    manager.SetDBType(dbAccess);
-    manager.SetDBConnString(u"file"_s);
     const QString all = u"select distinct Name, Cust as N1, Qty as Town, Qty * 2 as City from Ord"_s;
-    manager.SetAllFields(all);
-    manager.SetShowFields(u"select Cust as N1 from Ord"_s);
-    manager.SetOrderFields(u"N1 desc, Town desc, Name desc, City desc"_s);
-    manager.SetOriginFilter(all);
-    manager.SetSQLInitData();
+    setUp(manager, dbAccess, all, u"select Cust as N1 from Ord"_s,
+          u"N1 desc, Town desc, Name desc, City desc"_s);
     colShowSQLSentences &history = manager.SQLManager();
     history.AddCurrentSQL(u"SELECT distinct Cust as N1 FROM Ord WHERE Cust like 2"_s, PartFieldsShown);
     history.GetCurrSQLFieldsStatus();
@@ -92,11 +94,7 @@ TEST(HistorySort, FieldsWithoutAnOrderAreOfferedWithTheReason)
         {u"SELECT * FROM (\nSELECT mood\nFROM T\nORDER BY mood\n) AS Q"_s, {{u"mood"_s, 202}}}};
     MemoryChooser chooser;
     clsFilterManagement manager{&reader, &chooser};
-    manager.SetDBType(dbOracle);
-    manager.SetDBConnString(u"server"_s);
-    manager.SetAllFields(all);
-    manager.SetOriginFilter(all);
-    manager.SetSQLInitData();
+    setUp(manager, dbOracle, all);
     const QString reason = QueryTexts::TypeNotSorted.arg(u"d"_s);
     EXPECT_EQ(manager.SQLManager().WhyNotSorted(all, 0), QString());
     EXPECT_EQ(manager.SQLManager().WhyNotSorted(all, 1), reason);
@@ -119,12 +117,8 @@ TEST(HistorySort, ByWhatTheResultLacksIsOfferedAsItIsWritten)
     ListReader reader(Engine::MySQL);
     MemoryChooser chooser;
     clsFilterManagement manager{&reader, &chooser};
-    manager.SetDBType(dbSQLServer);
-    manager.SetDBConnString(u"server"_s);
     const QString all = u"select A, B from T group by A, B order by max( C ) desc, A"_s;
-    manager.SetAllFields(all);
-    manager.SetOriginFilter(all);
-    manager.SetSQLInitData();
+    setUp(manager, dbSQLServer, all);
     manager.SQLManager().AddCurrentSQL(all, AllFieldsShown);
     QString chosen;
     manager.GetPartSortSelFields(all, u"B"_s, chosen);
@@ -144,11 +138,7 @@ TEST(HistoryDerivationOfTop, AFilterCanNameFieldsThatWereNotChosen)
     clsFilterManagement manager(&reader, &chooser);
     colShowSQLSentences &history = manager.SQLManager();
     const QString all = u"select top 5 A, B from T order by B"_s;
-    manager.SetDBType(dbAccess);
-    manager.SetDBConnString(u"memory"_s);
-    manager.SetAllFields(all);
-    manager.SetOriginFilter(all);
-    manager.SetSQLInitData();
+    setUp(manager, dbAccess, all);
     history.AddCurrentSQL(all, AllFieldsShown);
     history.GetCurrSQLFieldsStatus();
 
@@ -187,11 +177,7 @@ TEST(HistoryDerivationOfTop, AFilterOfDistinctRecordsCanNameThoseThatAreShown)
     ListReader reader;
     clsFilterManagement manager(&reader);
     const QString all = u"select distinct top 5 A, B from T order by A"_s;
-    manager.SetDBType(dbAccess);
-    manager.SetDBConnString(u"memory"_s);
-    manager.SetAllFields(all);
-    manager.SetOriginFilter(all);
-    manager.SetSQLInitData();
+    setUp(manager, dbAccess, all);
     colShowSQLSentences &history = manager.SQLManager();
     history.AddCurrentSQL(all, AllFieldsShown);
     history.GetCurrSQLFieldsStatus();
@@ -232,11 +218,7 @@ TEST(HistoryDerivationOfTop, WhatCannotBeATableIsRefusedAlsoToAChoiceThatCan)
     clsFilterManagement manager(&reader);
     colShowSQLSentences &history = manager.SQLManager();
     const QString all = u"select top 5 A, B as [True] from T order by A"_s;
-    manager.SetDBType(dbAccess);
-    manager.SetDBConnString(u"memory"_s);
-    manager.SetAllFields(all);
-    manager.SetOriginFilter(all);
-    manager.SetSQLInitData();
+    setUp(manager, dbAccess, all);
     const QString reason = QueryTexts::RenamedField.arg(u"True"_s);
     history.AddCurrentSQL(all, AllFieldsShown);
     for (const auto step : {DerivationStep::Condition, DerivationStep::Sort})

@@ -1,5 +1,7 @@
 #include "query/derivation/Derivation.h"
 
+#include "query/derivation/SameName.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -22,11 +24,6 @@ struct Run
     bool isStar = false;
 };
 
-bool isSameSource(const QString &a, const QString &b)
-{
-    return a.compare(b, Qt::CaseInsensitive) == 0;
-}
-
 Run runOf(int item, const SelectParts::Source &source, const QString &qualifier)
 {
     const QString &name = source.table.isEmpty() ? qualifier : source.table;
@@ -36,7 +33,7 @@ Run runOf(int item, const SelectParts::Source &source, const QString &qualifier)
 SelectParts::Source sourceNamed(const SelectParts &parts, const QString &name)
 {
     const auto found = std::ranges::find_if(
-        parts.sources, [&](const SelectParts::Source &source) { return isSameSource(source.alias, name); });
+        parts.sources, [&](const SelectParts::Source &source) { return isSameName(source.alias, name); });
     return found == parts.sources.end() ? SelectParts::Source() : *found;
 }
 
@@ -101,7 +98,7 @@ bool measureByTables(std::vector<Run> &runs, const std::vector<SourceField> &fie
             std::ranges::count_if(runs, [&](const Run &other) { return other.source == run.source; });
         const auto count =
             std::count_if(fields.begin() + static_cast<std::ptrdiff_t>(before), fields.end(),
-                          [&](const SourceField &field) { return isSameSource(field.table, run.table); });
+                          [&](const SourceField &field) { return isSameName(field.table, run.table); });
         if (count == 0 || count % alike != 0)
             return false;
         run.size = count / alike;
@@ -109,7 +106,7 @@ bool measureByTables(std::vector<Run> &runs, const std::vector<SourceField> &fie
     std::size_t next = before;
     for (auto run = firstStar; run != runs.end(); ++run) {
         for (qsizetype i = 0; i < run->size; ++i, ++next) {
-            if (next >= fields.size() || !isSameSource(fields[next].table, run->table))
+            if (next >= fields.size() || !isSameName(fields[next].table, run->table))
                 return false;
         }
     }
