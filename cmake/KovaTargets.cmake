@@ -150,7 +150,7 @@ endfunction()
 # kova_unite(<target> <number>): with KOVA_QUICK_BUILD, so many sources are compiled at a time, because most of the time goes
 # into headers and templates that all of them use.
 function(kova_unite target number)
-  set_target_properties(${target} PROPERTIES UNITY_BUILD ${KOVA_QUICK_BUILD} UNITY_BUILD_BATCH_SIZE ${number})
+  set_target_properties(${target} PROPERTIES UNITY_BUILD "${KOVA_QUICK_BUILD}" UNITY_BUILD_BATCH_SIZE ${number})
   # GCC takes a source among others for a header, where an unnamed namespace would be a mistake.
   target_compile_options(${target} PRIVATE
     $<$<AND:$<BOOL:${KOVA_QUICK_BUILD}>,$<CXX_COMPILER_ID:GNU>>:-Wno-subobject-linkage>)

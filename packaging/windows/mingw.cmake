@@ -15,13 +15,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# The compiler's runtime is part of each file: a host may have loaded other versions of its DLLs. With 32 bits,
-# exceptions find their way through other DLLs only if all of them share one libgcc.
-if(KOVA_WINDOWS_ARCH STREQUAL x86_64)
-  set(runtime -static)
-else()
-  set(runtime -static-libstdc++)
-endif()
+# The compiler's runtime is part of each file: a host may have loaded other versions of its DLLs.
 foreach(kind EXE MODULE SHARED)
-  set(CMAKE_${kind}_LINKER_FLAGS_INIT ${runtime})
+  set(CMAKE_${kind}_LINKER_FLAGS_INIT -static)
 endforeach()

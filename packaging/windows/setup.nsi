@@ -76,9 +76,9 @@ FunctionEnd
 ; Stops if a program uses the control in $0, as long as nothing was changed. All its programs load this file, and a
 ; file that is loaded can't be opened to write to it.
 Function ${prefix}StopIfInUse
-  ${If} ${FileExists} "$0\Qt6CoreKova.dll"
+  ${If} ${FileExists} "$0\KOVAVSFDataGridLib.ocx"
     ClearErrors
-    FileOpen $1 "$0\Qt6CoreKova.dll" a
+    FileOpen $1 "$0\KOVAVSFDataGridLib.ocx" a
     ${If} ${Errors}
       MessageBox MB_OK|MB_ICONSTOP "$(InUse)" /SD IDOK
       SetErrorLevel 2
