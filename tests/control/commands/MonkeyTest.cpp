@@ -242,6 +242,15 @@ protected:
         EXPECT_TRUE(load());
     }
 
+    // With the records of the beginning: memory for records that became more could hide a leak.
+    void startAfresh()
+    {
+        loadAgain();
+        database.run(u"DELETE FROM 商品"_s);
+        database.run(u"INSERT INTO 商品 SELECT * FROM as_it_was"_s);
+        loadAgain();
+    }
+
     const int steps = numberFrom("KOVA_MONKEY_STEPS", defaultSteps);
     const int cacheLimit = QPixmapCache::cacheLimit();
     std::mt19937 random;
@@ -296,6 +305,7 @@ TEST_F(Monkey, FindsNothingThatBreaksTheControl)
     database.run(
         u"WITH RECURSIVE n(i) AS (SELECT 100 UNION ALL SELECT i+1 FROM n WHERE i < 300)"
         " INSERT INTO 商品(ID,名称,城市) SELECT i, '茶' || i, CASE WHEN i % 5 THEN '大连' END FROM n"_s);
+    database.run(u"CREATE TABLE as_it_was AS SELECT * FROM 商品"_s);
     ASSERT_TRUE(load());
     constexpr int stepsBetweenLooks = 4'000;
     std::optional<Held> first;
@@ -304,7 +314,7 @@ TEST_F(Monkey, FindsNothingThatBreaksTheControl)
         checkInvariants();
         ASSERT_FALSE(HasFailure()) << "after step " << i << ", a " << what;
         if (i % 150 == 149) { // conditions grow too long to be worth while
-            loadAgain();
+            startAfresh();
         }
         if (i % stepsBetweenLooks == stepsBetweenLooks - 1) {
             const Held held = heldNow();
@@ -314,8 +324,8 @@ TEST_F(Monkey, FindsNothingThatBreaksTheControl)
             std::fflush(stdout);
             if (!first)
                 first = held;
-            constexpr qint64 ofRecordsAndDialogs = 16'384; // which come and go, and records become more
-            EXPECT_LT(held.heap, first->heap + ofRecordsAndDialogs);
+            constexpr qint64 ofDialogs = 16'384; // which come and go
+            EXPECT_LT(held.heap, first->heap + ofDialogs);
             EXPECT_LT(held.resident, 2 * first->resident);
             EXPECT_LE(held.files, first->files + 5);
         }
