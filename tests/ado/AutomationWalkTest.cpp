@@ -24,6 +24,11 @@ TEST_F(AutomationWalk, FilterLeavesTheRecordsThatMeetACondition)
         {u"name LIKE 'w%G'", u"4"},
         {u"[born on] > #2000-01-01#", u"1 4"},
         {u"[born on] = '1999-12-31'", u"3"},
+        {u"[born on] > #1/1/2000#", u"1 4"},
+        {u"[born on] = #12/31/1999#", u"3"},
+        {u"[born on] = '12/31/1999'", u"3"},
+        {u"[born on] < #12/31/1999 12:30 PM#", u"3"},
+        {u"[born on] >= #12/31/1999 12:30 AM#", u"1 4"},
         {u"id > 1 AND (name LIKE 'l*' OR age = 31)", u"3 4"},
         {u"id = 1 OR id = 2 AND age = 5", u"1"},
         {u"id > 10", u""},
@@ -49,7 +54,8 @@ TEST_F(AutomationWalk, AWrongFilterIsRefusedAndChangesNothing)
 {
     put("Filter", u"age > 10"_s);
     for (const char16_t *wrong : {u"age", u"age = ", u"age ! 3", u"(age = 3", u"age = 3 AND", u"age = 3 4",
-                                  u"name = 'Li", u"age LIKE NULL", u"age > NULL", u"[age = 3"}) {
+                                  u"name = 'Li", u"[born on] > #31/12/1999#", u"[born on] > 'soon'",
+                                  u"[born on] < #1/1/2000 13:00 PM#", u"age LIKE NULL", u"age > NULL", u"[age = 3"}) {
         put("Filter", QString::fromUtf16(wrong));
         EXPECT_EQ(lastError(), number(ADODB::adErrInvalidArgument))
             << QString::fromUtf16(wrong).toStdString();

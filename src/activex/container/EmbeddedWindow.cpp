@@ -35,6 +35,7 @@ void EmbeddedWindow::attach(HWND parent, const RECT &position, const RECT &clip)
 {
     renew();
     m_parent.reset(QWindow::fromWinId(reinterpret_cast<WId>(parent)));
+    m_parent->installEventFilter(this);
     // A window that is not yet a child would be activated by the change of its parent.
     const auto window = reinterpret_cast<HWND>(m_widget.winId());
     const LONG style = GetWindowLongW(window, GWL_STYLE) & ~static_cast<LONG>(WS_POPUP);
@@ -173,9 +174,25 @@ void EmbeddedWindow::unblock()
     m_blocked(false);
 }
 
+// Qt tells changes of the application to windows without a parent only.
+void EmbeddedWindow::passOn(QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::LanguageChange:
+    case QEvent::ApplicationFontChange:
+    case QEvent::ApplicationPaletteChange:
+        QCoreApplication::sendEvent(m_widget.windowHandle(), &event);
+        break;
+    default:
+        break;
+    }
+}
+
 bool EmbeddedWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::MouseButtonPress) {
+    if (watched == m_parent.get()) {
+        passOn(*event);
+    } else if (event->type() == QEvent::MouseButtonPress) {
         // The system neither activates a child window on a click nor gives it the focus.
         setKeyboardFocus();
         m_entered();

@@ -44,6 +44,7 @@ private:
     bool tabStaysInside(bool backwards) const;
     void block();
     void unblock();
+    void passOn(QEvent &event);
     // Creates a new window if a container destroyed its own without notice, and this one with it.
     void renew();
 

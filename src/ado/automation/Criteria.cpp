@@ -8,6 +8,8 @@
 #include "ado/values/FieldValue.h"
 #include "ado/values/NumericTypes.h"
 
+#include <QtCore/QRegularExpression>
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -15,6 +17,34 @@
 namespace ADODB {
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Month, day and year between slashes, as ADO's documents write dates, in the form in which databases store
+// them. Any other text is returned as it is.
+QString isoDate(const QString &text)
+{
+    static const QRegularExpression american(
+        u"^(\\d{1,2})/(\\d{1,2})/(\\d{4})(?:\\s+(\\d{1,2}):(\\d\\d)(?::(\\d\\d))?(?:\\s*([AP])M)?)?$"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = american.match(text);
+    if (!match.hasMatch())
+        return text;
+    const auto part = [&](int number) { return match.captured(number).toInt(); };
+    const QString date =
+        u"%1-%2-%3"_s.arg(match.captured(3)).arg(part(1), 2, 10, u'0').arg(part(2), 2, 10, u'0');
+    if (match.captured(4).isEmpty())
+        return date;
+    int hour = part(4);
+    if (const QString half = match.captured(7).toUpper(); !half.isEmpty()) {
+        if (hour < 1 || hour > 12)
+            return text; // no hour of half a day
+        hour = hour % 12 + (half == u"P" ? 12 : 0);
+    }
+    return u"%1 %2:%3:%4"_s.arg(date).arg(hour, 2, 10, u'0').arg(part(5), 2, 10, u'0').arg(part(6), 2, 10, u'0');
+}
+
+} // namespace
 
 // A recursive descent parser. Every syntax error is the same error, with the whole text in it.
 class CriteriaParser
@@ -172,8 +202,11 @@ private:
     {
         skipBlanks();
         QString text;
-        if (next() == u'\'' || next() == u'#') {
-            text = quoted(next());
+        const bool isDate = next() == u'#';
+        if (isDate) {
+            text = quoted(u'#');
+        } else if (next() == u'\'') {
+            text = quoted(u'\'');
         } else {
             while (m_at < m_text.size() && !m_text[m_at].isSpace() && m_text[m_at] != u')')
                 text += m_text[m_at++];
@@ -184,9 +217,21 @@ private:
         }
         if (node.kind == Kind::Like)
             return text;
+        const DataTypeEnum type = m_recordset.Fields().Item(node.column).Type();
+        const bool isTimeField = type == adDBDate || type == adDBTimeStamp || type == adDBTime;
+        if (isDate || isTimeField)
+            text = isoDate(text.trimmed());
         bool fits = false;
-        QVariant value = FieldValue::convert(text, m_recordset.Fields().Item(node.column).Type(), &fits);
-        return fits ? value : QVariant(text);
+        QVariant value = FieldValue::convert(text, type, &fits);
+        if (fits)
+            return value;
+        if (!isDate && !isTimeField)
+            return text;
+        // A moment, compared with a field of days or with texts; nothing else can be compared with times.
+        value = FieldValue::convert(text, adDBTimeStamp, &fits);
+        if (!fits)
+            fail();
+        return isTimeField ? value : QVariant(text);
     }
 
     const QString &m_text;
