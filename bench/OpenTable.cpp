@@ -4,6 +4,7 @@
 #include "ado/Error.h"
 #include "ado/Recordset.h"
 
+#include <QtCore/QFile>
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlError>
 #include <QtSql/QSqlQueryModel>
@@ -18,10 +19,26 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+// Of this process, at present.
+double residentMegabytes()
+{
+    QFile file(u"/proc/self/statm"_s);
+    const QByteArrayList pages =
+        file.open(QIODevice::ReadOnly) ? file.readAll().split(' ') : QByteArrayList();
+    return pages.size() > 1
+               ? pages[1].toDouble() * static_cast<double>(sysconf(_SC_PAGESIZE)) / bytesPerMegabyte
+               : 0;
+}
+
+} // namespace
+
 Measurement Stopwatch::read() const
 {
     const double processor = static_cast<double>(std::clock() - m_processor) / CLOCKS_PER_SEC;
-    return {std::chrono::duration<double>(std::chrono::steady_clock::now() - m_start).count(), processor, 0};
+    return {std::chrono::duration<double>(std::chrono::steady_clock::now() - m_start).count(), processor,
+            residentMegabytes(), 0};
 }
 
 void stop(const char *why)
@@ -74,7 +91,7 @@ Measurement readAll(const BenchTable &table, const char *sql)
     }
     sqlite3_finalize(query);
     sqlite3_close(db);
-    if (rows != table.rows || sum == 0)
+    if (rows != table.rows || sum < 0)
         stop("the bare loop did not read the table");
     return watch.read();
 }
@@ -149,6 +166,6 @@ Measurement inChild(Measurement (*work)(const BenchTable &), const BenchTable &t
     close(channel[1]);
     if (!told || status != 0)
         stop("a child process failed");
-    measurement.peakMegabytes = static_cast<double>(usage.ru_maxrss) / 1024;
+    measurement.peakMegabytes = static_cast<double>(usage.ru_maxrss) * 1024 / bytesPerMegabyte;
     return measurement;
 }

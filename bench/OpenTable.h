@@ -23,10 +23,13 @@ struct BenchTable
 inline constexpr const char *wholeTable = "SELECT * FROM sales";
 inline constexpr const char *withKey = "SELECT *, rowid FROM sales";
 
+inline constexpr double bytesPerMegabyte = 1'000'000;
+
 struct Measurement
 {
     double seconds = 0;          // elapsed time
     double processorSeconds = 0; // of all threads
+    double megabytes = 0;        // of the process, with what was read
     double peakMegabytes = 0;    // of a child process
 };
 

@@ -328,3 +328,29 @@ TEST(Recordset, ShowsWhatHasBeenReadWhileItIsOpened)
 }
 
 } // namespace
+
+#if defined(__x86_64__) && defined(__GNUC__)
+// Their upper halves, which slow other instructions down as long as they are in use.
+TEST(Recordset, ReadsOnWithEmptyVectorRegistersWhateverTheCallbackLeftInThem)
+{
+    if (!__builtin_cpu_supports("avx"))
+        GTEST_SKIP() << "a processor without AVX has no upper halves";
+    Recordset recordset;
+    int calls = 0;
+    std::array<quint64, 2> found{};
+    recordset.SetProgress([&](qint64) {
+        if (++calls == 5)
+            __asm__ volatile("vextractf128 $1, %%ymm15, %0" : "=m"(found));
+        __asm__ volatile("vpcmpeqd %%xmm15, %%xmm15, %%xmm15\n\t"
+                         "vinsertf128 $1, %%xmm15, %%ymm15, %%ymm15" ::
+                             : "xmm15");
+        return calls < 5;
+    });
+    EXPECT_ADO_ERROR(dbErrCancelled,
+                     recordset.Open(u"WITH RECURSIVE s(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM s)"
+                                    "SELECT i / 7.0 FROM s"_s,
+                                    TestDatabase(numbers).connect()));
+    EXPECT_EQ(calls, 5);
+    EXPECT_EQ(found, (std::array<quint64, 2>{}));
+}
+#endif

@@ -8,6 +8,7 @@
 
 #include <limits>
 #include <random>
+#include <utility>
 
 using namespace ADODB;
 
@@ -153,14 +154,19 @@ TEST(RowStore, StaysEqualToAPlainTableUnderRandomEdits)
 TEST(RowStore, KeepsTheLimitsOfEveryWidth)
 {
     std::vector<PlainRow> model{PlainRow()};
-    for (int bits : {7, 8, 15, 16, 31, 32, 62}) {
+    for (int bits : {5, 6, 7, 8, 15, 16, 23, 24, 31, 32, 47, 48, 62}) {
         const qint64 edge = qint64{1} << bits;
         for (const qint64 value : {edge - 1, edge, -edge, -edge - 1})
             model[0].push_back(qlonglong{value});
     }
     model[0].push_back(qlonglong{std::numeric_limits<qint64>::max()});
     model[0].push_back(qlonglong{std::numeric_limits<qint64>::min()});
-    for (qsizetype size : {0, 1, 254, 255, 256, 65535, 65536})
+    // All short lengths, and those around the limits of the length itself.
+    for (qsizetype size = 0; size < 300; ++size)
+        model[0].push_back(QByteArray("T") + QByteArray(size, 'x'));
+    for (qsizetype size = 0; size < 300; ++size)
+        model[0].push_back(QByteArray("B") + QByteArray(size, 'x'));
+    for (qsizetype size : {65535, 65536})
         model[0].push_back(QByteArray("T") + QByteArray(size, 'x'));
     RowStore store(static_cast<int>(model[0].size()));
     append(store, model[0]);
@@ -181,13 +187,36 @@ TEST(RowStore, MovesARowThatOutgrowsItsBlock)
     EXPECT_GT(store.bytesWritten(), 3 * 10'000'000);
 }
 
-TEST(RowStore, CountsTheBytesItHolds)
+qint64 bytesOf(const RawValue &value)
 {
-    RowStore store(2);
-    store.addInteger(1);
-    store.addNull();
+    RowStore store(1);
+    store.add(value);
     store.endRow();
-    EXPECT_EQ(store.bytesWritten(), 3);
+    return store.bytesWritten();
+}
+
+TEST(RowStore, NeedsAByteForAValueAndThoseOfTheValueItself)
+{
+    EXPECT_EQ(bytesOf({}), 1);
+    EXPECT_EQ(bytesOf(RawValue::fromText("")), 1);
+    EXPECT_EQ(bytesOf(RawValue::fromText("A code of twelve")), 1 + 16);
+    EXPECT_EQ(bytesOf(RawValue::fromText(QByteArray(143, 'x'))), 1 + 143);
+    EXPECT_EQ(bytesOf(RawValue::fromText(QByteArray(144, 'x'))), 5 + 144) << "a long one has its length, too";
+    EXPECT_EQ(bytesOf(RawValue::fromBlob(QByteArray(16, 'x'))), 1 + 16);
+    EXPECT_EQ(bytesOf(RawValue::fromReal(0.5)), 1 + 8);
+    // Integers: the value, and how many bytes it has.
+    const std::pair<qint64, qint64> integers[] = {{0, 0},
+                                                  {63, 0},
+                                                  {64, 1},
+                                                  {-1, 1},
+                                                  {30'000, 2},
+                                                  {8'000'000, 3},
+                                                  {-8'000'000, 3},
+                                                  {2'000'000'000, 4},
+                                                  {1'700'000'000'000, 6},
+                                                  {std::numeric_limits<qint64>::min(), 8}};
+    for (const auto &[value, bytes] : integers)
+        EXPECT_EQ(bytesOf(RawValue::fromInteger(value)), 1 + bytes) << value;
 }
 
 TEST(RowStore, TakesRowsWithoutColumns)

@@ -126,6 +126,21 @@ TEST_F(LoadProgressTest, TheLineTellsAboutHowManyRecordsThereWillBe)
     expectCancelled();
 }
 
+TEST_F(LoadProgressTest, TheBarShowsWhichPartOfThemIsRead)
+{
+    int percent = -1;
+    const QStringList said = loadUntil(4'000'000, [&](qint64, const QString &text) {
+        const auto *bar = grid.findChild<QProgressBar *>();
+        if (!text.contains(u"预计"_s) || bar->maximum() == 0)
+            return false;
+        percent = 100 * bar->value() / bar->maximum();
+        return true;
+    });
+    static const QRegularExpression count(u"^已读取 ([\\d,]+) 条"_s);
+    const QString read = count.match(said.value(said.size() - 1)).captured(1).remove(u',');
+    EXPECT_EQ(percent, read.toInt() / 40'000) << qPrintable(read);
+}
+
 TEST_F(LoadProgressTest, TheLineKeepsSilentAboutAMillionRecords)
 {
     const QStringList said =

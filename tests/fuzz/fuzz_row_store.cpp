@@ -68,7 +68,7 @@ Cell cellFrom(Input &input)
     case RawValue::Kind::Text:
     case RawValue::Kind::Blob: {
         // Short, around the limits of the short form, and large enough to fill blocks.
-        static constexpr qsizetype sizes[] = {0, 1, 7, 254, 255, 256, 4000, 1 << 20, 5 << 20};
+        static constexpr qsizetype sizes[] = {0, 1, 31, 32, 143, 144, 4000, 1 << 20, 5 << 20};
         const qsizetype size = sizes[input.byte() % std::size(sizes)];
         cell.bytes = QByteArray(size, static_cast<char>(input.byte()));
         break;

@@ -1,6 +1,7 @@
 #include "ado/rows/RowStore.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ADODB {
 
@@ -19,6 +20,24 @@ T numberAt(const char *at)
 }
 
 } // namespace
+
+// The bytes that follow each tag; a long text or blob has its own number.
+constexpr std::array<quint8, 256> RowStore::sizeAfterTag = [] {
+    std::array<quint8, 256> sizes{};
+    for (const auto &[tag, size] : {std::pair{Integer8, 1},
+                                    {Integer16, 2},
+                                    {Integer24, 3},
+                                    {Integer32, 4},
+                                    {Integer48, 6},
+                                    {Integer64, 8},
+                                    {Real, 8}})
+        sizes[tag] = static_cast<quint8>(size);
+    for (std::size_t tag = ShortBlob; tag < ShortText; ++tag)
+        sizes[tag] = static_cast<quint8>(tag - ShortBlob);
+    for (std::size_t tag = ShortText; tag < sizes.size(); ++tag)
+        sizes[tag] = static_cast<quint8>(tag - ShortText);
+    return sizes;
+}();
 
 RowStore::RowStore(int columns, qint64 memoryLimit) : m_columns(columns), m_memoryLimit(memoryLimit) {}
 
@@ -102,68 +121,60 @@ void RowStore::keepOrSpill(Block &block)
 
 const char *RowStore::nextCell(const char *cell)
 {
-    switch (tagAt(cell)) {
-    case Tag::Null:
-        return cell + 1;
-    case Tag::Integer8:
-        return cell + 2;
-    case Tag::Integer16:
-        return cell + 3;
-    case Tag::Integer32:
-        return cell + 5;
-    case Tag::Integer64:
-    case Tag::Real:
-        return cell + 9;
-    case Tag::ShortText:
-    case Tag::ShortBlob:
-        return cell + 2 + numberAt<quint8>(cell + 1);
-    case Tag::LongText:
-    case Tag::LongBlob:
+    const int tag = tagAt(cell);
+    if (tag == LongText || tag == LongBlob)
         return cell + 5 + numberAt<quint32>(cell + 1);
-    }
-    Q_UNREACHABLE();
+    return cell + 1 + sizeAfterTag[static_cast<std::size_t>(tag)];
 }
 
 const char *RowStore::decode(const char *cell, RawValue &value)
 {
     using Kind = RawValue::Kind;
-    const auto putInteger = [&](qint64 integer, std::size_t size) {
+    const char *const at = cell + 1;
+    const auto putInteger = [&](qint64 integer, int size) {
         value.kind = Kind::Integer;
         value.integer = integer;
-        return cell + 1 + size;
+        return at + size;
     };
-    const auto putBytes = [&](Kind kind, auto size) {
-        const char *const start = cell + 1 + sizeof size;
+    const auto putBytes = [&](Kind kind, const char *start, qsizetype size) {
         value.kind = kind;
-        value.bytes = QByteArrayView(start, static_cast<qsizetype>(size));
+        value.bytes = QByteArrayView(start, size);
         return start + size;
     };
-    switch (tagAt(cell)) {
-    case Tag::Null:
+    const int tag = tagAt(cell);
+    if (tag >= ShortText)
+        return putBytes(Kind::Text, at, tag - ShortText);
+    if (tag >= ShortBlob)
+        return putBytes(Kind::Blob, at, tag - ShortBlob);
+    if (tag >= SmallInteger)
+        return putInteger(tag - SmallInteger, 0);
+    switch (static_cast<Tag>(tag)) {
+    case Null:
         value.kind = Kind::Null;
-        return cell + 1;
-    case Tag::Integer8:
-        return putInteger(numberAt<qint8>(cell + 1), sizeof(qint8));
-    case Tag::Integer16:
-        return putInteger(numberAt<qint16>(cell + 1), sizeof(qint16));
-    case Tag::Integer32:
-        return putInteger(numberAt<qint32>(cell + 1), sizeof(qint32));
-    case Tag::Integer64:
-        return putInteger(numberAt<qint64>(cell + 1), sizeof(qint64));
-    case Tag::Real:
+        return at;
+    case Integer8:
+        return putInteger(numberAt<qint8>(at), 1);
+    case Integer16:
+        return putInteger(numberAt<qint16>(at), 2);
+    case Integer24:
+        return putInteger(numberAt<quint16>(at) + numberAt<qint8>(at + 2) * (qint64{1} << 16), 3);
+    case Integer32:
+        return putInteger(numberAt<qint32>(at), 4);
+    case Integer48:
+        return putInteger(numberAt<quint32>(at) + numberAt<qint16>(at + 4) * (qint64{1} << 32), 6);
+    case Integer64:
+        return putInteger(numberAt<qint64>(at), 8);
+    case Real:
         value.kind = Kind::Real;
-        value.real = numberAt<double>(cell + 1);
-        return cell + 1 + sizeof value.real;
-    case Tag::ShortText:
-        return putBytes(Kind::Text, numberAt<quint8>(cell + 1));
-    case Tag::LongText:
-        return putBytes(Kind::Text, numberAt<quint32>(cell + 1));
-    case Tag::ShortBlob:
-        return putBytes(Kind::Blob, numberAt<quint8>(cell + 1));
-    case Tag::LongBlob:
-        return putBytes(Kind::Blob, numberAt<quint32>(cell + 1));
+        value.real = numberAt<double>(at);
+        return at + sizeof value.real;
+    case LongText:
+        return putBytes(Kind::Text, at + 4, numberAt<quint32>(at));
+    case LongBlob:
+        return putBytes(Kind::Blob, at + 4, numberAt<quint32>(at));
+    default:
+        Q_UNREACHABLE();
     }
-    Q_UNREACHABLE();
 }
 
 RawValue RowStore::cell(qint64 row, int column) const

@@ -5,6 +5,7 @@
 
 #include <QtCore/QByteArray>
 
+#include <array>
 #include <cstring>
 #include <memory>
 #include <unordered_map>
@@ -12,11 +13,12 @@
 
 namespace ADODB {
 
-// The rows of a result in packed form: each cell is a tag byte and as many bytes as its value needs. Rows are
-// stored one after another in blocks; their offsets are at the end of the block, in reverse order. A small
-// result needs little memory: the first block has 64 KiB, and each has twice as many as the one before, up to
-// 4 MiB. Values are unpacked only on demand. Edits are kept apart from the blocks: removed rows in a sorted
-// list, replaced ones in a small table.
+// The rows of a result in packed form: each cell is a tag byte and as many bytes as its value needs. The tag
+// includes the length of a short text, and a small number whole. Rows are stored one after another in blocks;
+// their offsets are at the end of the block, in reverse order. A small result needs little memory: the first
+// block has 64 KiB, and each has twice as many as the one before, up to 4 MiB. Values are unpacked only on
+// demand. Edits are kept apart from the blocks: removed rows in a sorted list, replaced ones in a small
+// table.
 //
 // Full blocks beyond the memory limit are moved to a spill file.
 //
@@ -50,11 +52,11 @@ public:
 
     // Appends a row: one call per column from left to right, then endRow(). They throw Error if a spill file
     // can't be written because the disk is full; the unfinished row must then be dropped.
-    void addNull() { putTag(Tag::Null, 0); }
+    void addNull() { putTag(Null, 0); }
     void addInteger(qint64 value);
     void addReal(double value);
-    void addText(QByteArrayView utf8) { addBytes(Tag::ShortText, Tag::LongText, utf8); }
-    void addBlob(QByteArrayView bytes) { addBytes(Tag::ShortBlob, Tag::LongBlob, bytes); }
+    void addText(QByteArrayView utf8) { addBytes(ShortText, shortTexts, LongText, utf8); }
+    void addBlob(QByteArrayView bytes) { addBytes(ShortBlob, shortBlobs, LongBlob, bytes); }
     void add(const RawValue &value);
     void endRow();
     // Discards the cells after the last complete row.
@@ -73,18 +75,26 @@ public:
     void replace(qint64 row, const std::vector<RawValue> &cells);
 
 private:
-    enum class Tag : char {
+    // The last three are each the first of many: the value of a small integer, or the length of a short blob
+    // or text, is added to them.
+    enum Tag : quint8 {
         Null,
         Integer8,
         Integer16,
+        Integer24,
         Integer32,
+        Integer48,
         Integer64,
         Real,
-        ShortText, // with one byte for the length
-        LongText,  // with four bytes for the length
-        ShortBlob,
-        LongBlob
+        LongText, // with four bytes for the length
+        LongBlob,
+        SmallInteger = 16,
+        ShortBlob = 80,
+        ShortText = 112
     };
+    static constexpr quint64 smallIntegers = ShortBlob - SmallInteger;
+    static constexpr qsizetype shortBlobs = ShortText - ShortBlob;
+    static constexpr qsizetype shortTexts = 256 - ShortText;
 
     struct Block
     {
@@ -96,14 +106,15 @@ private:
         qint64 firstRow = 0; // counting removed rows
     };
 
-    static Tag tagAt(const char *cell) { return static_cast<Tag>(*cell); }
+    static int tagAt(const char *cell) { return static_cast<quint8>(*cell); }
+    static const std::array<quint8, 256> sizeAfterTag;
     static const char *nextCell(const char *cell);
     // Reads a value and returns the address of the next cell.
     static const char *decode(const char *cell, RawValue &value);
 
-    void addBytes(Tag shortTag, Tag longTag, QByteArrayView bytes);
+    void addBytes(Tag shortTag, qsizetype shortLengths, Tag longTag, QByteArrayView bytes);
     // Writes the tag and reserves `size` bytes after it.
-    void putTag(Tag tag, qsizetype size)
+    void putTag(int tag, qsizetype size)
     {
         if (m_end - m_write < size + 1)
             newBlock(size + 1);
@@ -138,32 +149,42 @@ private:
 
 inline void RowStore::addInteger(qint64 value)
 {
-    if (value == static_cast<qint8>(value)) {
-        putTag(Tag::Integer8, 1);
+    const auto fits = [value](int bits) { return value == (value << (64 - bits)) >> (64 - bits); };
+    if (static_cast<quint64>(value) < smallIntegers) {
+        putTag(SmallInteger + static_cast<int>(value), 0);
+    } else if (fits(8)) {
+        putTag(Integer8, 1);
         putNumber(static_cast<qint8>(value));
-    } else if (value == static_cast<qint16>(value)) {
-        putTag(Tag::Integer16, 2);
+    } else if (fits(16)) {
+        putTag(Integer16, 2);
         putNumber(static_cast<qint16>(value));
-    } else if (value == static_cast<qint32>(value)) {
-        putTag(Tag::Integer32, 4);
+    } else if (fits(24)) {
+        putTag(Integer24, 3);
+        putNumber(static_cast<quint16>(value));
+        putNumber(static_cast<qint8>(value >> 16));
+    } else if (fits(32)) {
+        putTag(Integer32, 4);
         putNumber(static_cast<qint32>(value));
+    } else if (fits(48)) {
+        putTag(Integer48, 6);
+        putNumber(static_cast<quint32>(value));
+        putNumber(static_cast<qint16>(value >> 32));
     } else {
-        putTag(Tag::Integer64, 8);
+        putTag(Integer64, 8);
         putNumber(value);
     }
 }
 
 inline void RowStore::addReal(double value)
 {
-    putTag(Tag::Real, 8);
+    putTag(Real, 8);
     putNumber(value);
 }
 
-inline void RowStore::addBytes(Tag shortTag, Tag longTag, QByteArrayView bytes)
+inline void RowStore::addBytes(Tag shortTag, qsizetype shortLengths, Tag longTag, QByteArrayView bytes)
 {
-    if (bytes.size() <= 0xff) {
-        putTag(shortTag, 1 + bytes.size());
-        putNumber(static_cast<quint8>(bytes.size()));
+    if (bytes.size() < shortLengths) {
+        putTag(shortTag + static_cast<int>(bytes.size()), bytes.size());
     } else {
         putTag(longTag, 4 + bytes.size());
         putNumber(static_cast<quint32>(bytes.size()));

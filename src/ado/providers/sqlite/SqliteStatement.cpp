@@ -7,6 +7,7 @@
 #include "ado/providers/sqlite/SqliteRowWriter.h"
 #include "ado/providers/sqlite/SqliteTypes.h"
 #include "ado/rows/RowStore.h"
+#include "ado/rows/VectorRegisters.h"
 #include "sql/SqlScanner.h"
 #include "sql/select/SimpleSelect.h"
 
@@ -169,7 +170,12 @@ void SqliteStatement::fetch(RowStore &rows, const std::function<bool(qint64)> &s
 {
     const QScopedValueRollback<const RowStore *> fetching(m_fetched, &rows);
     sqlite3 *const db = sqlite3_db_handle(m_statement.get());
-    const ProgressWatch watch(db, [&] { return shouldContinue(rows.rows()); });
+    const auto mayContinue = [&] {
+        const bool isWanted = shouldContinue(rows.rows());
+        emptyUpperRegisters();
+        return isWanted;
+    };
+    const ProgressWatch watch(db, mayContinue);
     qint64 nextQuestion = 0;
     qint64 questions = 0;
     while (stepRow(m_statement)) {
@@ -181,7 +187,7 @@ void SqliteStatement::fetch(RowStore &rows, const std::function<bool(qint64)> &s
             if (++questions == 2)
                 estimate();
             nextQuestion = rows.bytesWritten() + bytesPerQuestion;
-            if (!shouldContinue(rows.rows()))
+            if (!mayContinue())
                 throw Error(dbErrCancelled, Texts::cancelled());
         }
     }

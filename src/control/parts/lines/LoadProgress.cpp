@@ -25,6 +25,7 @@ namespace {
 constexpr qint64 patience = 500;      // milliseconds before the line shows
 constexpr qint64 eventsInterval = 30; // milliseconds between two dispatches of events
 constexpr int barSteps = 1000;
+constexpr int mostExpected = barSteps * 99 / 100;
 // So many records are worth a warning.
 constexpr qint64 manyRecords = 1'000'000;
 
@@ -158,7 +159,6 @@ void LoadProgress::showLine()
     m_line = new QWidget(&m_window);
     m_line->setAutoFillBackground(true);
     m_bar = new QProgressBar;
-    m_bar->setRange(0, m_total > 0 ? barSteps : 0); // without steps, it only shows that work is in progress
     m_bar->setTextVisible(false);
     m_bar->setMaximumHeight(m_bar->fontMetrics().height() / 2);
     // If there is not enough room, the number is more useful than the bar.
@@ -189,10 +189,21 @@ void LoadProgress::updateLine(qint64 rowsDone)
         m_count->setText(GridTexts::RecordsReadOfAbout.arg(rowsDone, grouped(rowsDone), grouped(m_expected)));
     else
         m_count->setText(m_words(rowsDone));
-    const qint64 value = m_total > 0 ? rowsDone * barSteps / m_total : rowsDone;
-    m_bar->setValue(static_cast<int>(std::min<qint64>(value, std::numeric_limits<int>::max())));
+    updateBar(rowsDone);
     m_line->setGeometry(m_place()); // the window may have been resized
     m_line->layout()->activate();
+}
+
+// Without a total, the bar only shows that work is in progress. An expected one is not exact and never makes
+// it full.
+void LoadProgress::updateBar(qint64 rowsDone)
+{
+    const bool isExpected = m_expected > rowsDone;
+    const qint64 total = isExpected ? m_expected : m_total;
+    const qint64 part = total > 0 ? rowsDone * barSteps / total : rowsDone;
+    const qint64 most = isExpected ? mostExpected : std::numeric_limits<int>::max();
+    m_bar->setRange(0, total > 0 ? barSteps : 0);
+    m_bar->setValue(static_cast<int>(std::min(part, most)));
 }
 
 bool LoadProgress::eventFilter(QObject *watched, QEvent *event)

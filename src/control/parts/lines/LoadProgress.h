@@ -41,7 +41,8 @@ public:
 
     // May still be called after it returned false; it then continues to paint.
     bool shouldContinue(qint64 rowsDone) override;
-    // The line tells a large estimate beside the number of records read, which it must exceed.
+    // The line tells a large estimate beside the number of records read, which it must exceed, and its bar
+    // shows the part that is read.
     void expect(qint64 records) override;
     bool isWindowGone() const { return m_isWindowGone; }
     // This view receives mouse events and, wherever the focus is, the keys that scroll.
@@ -57,6 +58,7 @@ private:
                  QString cancelHint);
     void showLine();
     void updateLine(qint64 rowsDone);
+    void updateBar(qint64 rowsDone);
     void takeKey(QKeyEvent &key);
 
     QWidget &m_window;
