@@ -60,10 +60,29 @@ Function ${prefix}ChooseScope
   ${GetOptions} $0 "/ALLUSERS" $1
   ${IfNot} ${Errors}
     StrCpy $ForAll 1
+  ${EndIf}
+!if "${prefix}" == "un."
+  ; Somebody may start it without the switch.
+  ReadRegStr $1 HKLM "${UNINSTALL_KEY}" InstallLocation
+  ${If} $1 == $INSTDIR
+    StrCpy $ForAll 1
+  ${EndIf}
+!endif
+  ${If} $ForAll == 1
     SetShellVarContext all
     UserInfo::GetAccountType
     Pop $0
     ${If} $0 != "Admin"
+!if "${prefix}" == "un."
+      ; Windows' list of programs starts it with the user's own rights.
+      ${IfNot} ${Silent}
+        ClearErrors
+        ExecShell "runas" '"$INSTDIR\uninstall.exe"' "/ALLUSERS"
+        ${IfNot} ${Errors}
+          Quit
+        ${EndIf}
+      ${EndIf}
+!endif
       MessageBox MB_OK|MB_ICONSTOP "$(NeedAdministrator)" /SD IDOK
       SetErrorLevel 2
       Quit
