@@ -17,7 +17,7 @@ void EngineStatements::SetUp()
     if (IsSkipped())
         return;
     hands->grid.resize(1400, 320);
-    // Painting after each of thousands of commands would take a quarter of the time, and is the same on every engine.
+    // Painting after each of thousands of commands takes a third of the time; it is the same on every engine.
     const bool isPainted = engine.isFilledBySqlite() && !engine.variable;
     hands->grid.setUpdatesEnabled(isPainted);
     createTables();
