@@ -117,7 +117,7 @@ function(kova_room name)
   else()
     kova_precompile(${target} core)
   endif()
-  kova_unite(${target} 16)
+  kova_unite(${target} 32)
 endfunction()
 
 # kova_rooms_below(<variable> <room>...): the object libraries of these rooms and of all rooms they rest on.
