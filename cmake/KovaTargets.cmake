@@ -117,7 +117,7 @@ function(kova_room name)
   else()
     kova_precompile(${target} core)
   endif()
-  kova_unite(${target} 16)
+  kova_unite(${target} 32)
 endfunction()
 
 # kova_rooms_below(<variable> <room>...): the object libraries of these rooms and of all rooms they rest on.
@@ -173,7 +173,7 @@ endfunction()
 #
 # One test program, one ctest entry, one process. ROOMS and those they rest on are compiled in directly, so that a room's
 # inner classes can be tested although the library hides them; tests of the control link the library. RUN_BY
-# is put before the program, to start what it needs. COST: of a test of more than half a minute; ctest starts the longest
+# is put before the program, to start what it needs. COST: of a test of more than ten seconds; ctest starts the longest
 # first, so that none runs alone at the end. MOC: some of the sources have Q_OBJECT; for all others, scanning
 # them and compiling the empty outcome would cost more than a test. ALONE: sources with names that others define too.
 # SPLIT: a long program has an entry <name>_<part> for each part, with the tests that this pattern of GoogleTest names, so

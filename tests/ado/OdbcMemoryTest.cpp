@@ -13,7 +13,7 @@ using namespace ADODB;
 namespace {
 
 constexpr qint64 miB = qint64{1} << 20;
-constexpr int records = 300'000;
+constexpr int manyRecords = 300'000;
 
 // Memory of this process in MiB; 0 if unknown. `what` is VmRSS for the current value, VmHWM for the peak.
 qint64 memory(const char *what)
@@ -62,7 +62,7 @@ protected:
                                       " WHERE i < %1) SELECT i FROM n"_s;
         execute(u"CREATE TABLE kova_a(id INTEGER PRIMARY KEY, t VARCHAR(200))"_s);
         execute(u"INSERT INTO kova_a SELECT i, '%1' FROM (%2) AS numbers"_s.arg(QString(150, u't'),
-                                                                                numbers.arg(records)));
+                                                                                numbers.arg(manyRecords)));
     }
 };
 
@@ -76,7 +76,7 @@ TEST_P(OdbcMemory, IsNotTakenByTheDriverForAWholeResult)
     Recordset recordset;
     recordset.PutMemoryLimit(4 * miB); // the rest goes to the disk
     recordset.Open(u"SELECT * FROM kova_a"_s, connect());
-    EXPECT_EQ(recordset.RecordCount(), records);
+    EXPECT_EQ(recordset.RecordCount(), manyRecords);
     giveBackFreed();
     // The texts alone are 43 miB, and more as drivers keep them. MariaDB's keeps them until they are read.
     EXPECT_LT(memory(is("MariaDB") ? "VmRSS" : "VmHWM"), before + 30);

@@ -11,16 +11,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Case
+struct WordsCase
 {
     const QStringList &installed;
     QString given;
     QString translated;
 };
 
-void expectTranslated(std::initializer_list<Case> cases)
+void expectTranslated(std::initializer_list<WordsCase> cases)
 {
-    for (const Case &c : cases) {
+    for (const WordsCase &c : cases) {
         EXPECT_EQ(inOdbcWords(ConnectionString(c.given), are(c.installed)).text(), c.translated)
             << qUtf8Printable(c.given);
     }

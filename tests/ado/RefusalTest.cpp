@@ -10,9 +10,9 @@ using AdoTest::TestDatabase;
 
 namespace {
 
-const QString script = u"CREATE TABLE orders(id INTEGER PRIMARY KEY, item TEXT);"
-                       "INSERT INTO orders VALUES (1, 'a'), (2, 'b');"
-                       "CREATE VIEW v AS SELECT * FROM orders;"_s;
+const QString refusalScript = u"CREATE TABLE orders(id INTEGER PRIMARY KEY, item TEXT);"
+                              "INSERT INTO orders VALUES (1, 'a'), (2, 'b');"
+                              "CREATE VIEW v AS SELECT * FROM orders;"_s;
 
 struct Refused
 {
@@ -63,7 +63,7 @@ TEST(Opening, RefusesWhateverIsNotOneQueryBeforeItRuns)
         {"select 1 as a /* \f */", dbErrPermissionDenied},
         {"select\v1", dbErrPermissionDenied},
     };
-    const TestDatabase database(script);
+    const TestDatabase database(refusalScript);
     const QByteArray before = database.fileBytes();
     const auto connection = database.connect();
     for (const Refused &c : cases) {
@@ -83,7 +83,7 @@ TEST(Opening, RefusesWhateverIsNotOneQueryBeforeItRuns)
 
 TEST(Opening, AcceptsOneQueryWithWhatMaySurroundIt)
 {
-    const TestDatabase database(script);
+    const TestDatabase database(refusalScript);
     for (const char *sql :
          {"select * from orders", "select * from orders;", "select * from orders ; -- done\n /* really */ ",
           "/* first */ select * from orders", "with x as (select * from orders) select * from x",
@@ -170,7 +170,7 @@ TEST(Opening, ASchemaCanCallOnlyFunctionsWithoutEffects)
 
 TEST(Opening, ReportsErrorsInTheDatabasesOwnWords)
 {
-    const TestDatabase database(script);
+    const TestDatabase database(refusalScript);
     const Error error = AdoTest::errorOf([&] { database.open(u"selec"_s); });
     EXPECT_TRUE(error.Description().contains(u"near \"selec\": syntax error")) << error.what();
     EXPECT_EQ(error.Number(), static_cast<qint32>(0x80040E14));
@@ -185,7 +185,7 @@ TEST(Opening, ReportsErrorsInTheDatabasesOwnWords)
 
 TEST(Opening, SaysThatTheDatabaseIsLocked)
 {
-    const TestDatabase database(script);
+    const TestDatabase database(refusalScript);
     const auto connection = database.connect();
     const OtherProgram other(database, "BEGIN EXCLUSIVE");
     Recordset recordset;
@@ -195,7 +195,7 @@ TEST(Opening, SaysThatTheDatabaseIsLocked)
 
 TEST(Opening, NeedsAnOpenConnectionAndAClosedRecordset)
 {
-    const TestDatabase database(script);
+    const TestDatabase database(refusalScript);
     Recordset recordset;
     EXPECT_ADO_ERROR(adErrInvalidConnection, recordset.Open(u"SELECT 1"_s, nullptr));
     EXPECT_ADO_ERROR(adErrInvalidConnection, recordset.Open(u"SELECT 1"_s, std::make_shared<Connection>()));
@@ -207,7 +207,7 @@ TEST(Opening, NeedsAnOpenConnectionAndAClosedRecordset)
 
 TEST(Opening, EndsWhenTheProgressReportSaysSo)
 {
-    const TestDatabase database(script);
+    const TestDatabase database(refusalScript);
     const auto connection = database.connect();
     const QString endless =
         u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT i FROM n"_s;
@@ -239,7 +239,7 @@ TEST(Opening, EndsWhenTheProgressReportSaysSo)
 
 TEST(Opening, OutlivesAConnectionThatIsClosedMeanwhile)
 {
-    const TestDatabase database(script);
+    const TestDatabase database(refusalScript);
     const auto connection = database.connect();
     Recordset recordset;
     recordset.SetProgress([&](qint64) {

@@ -11,7 +11,7 @@ using namespace ADODB;
 
 namespace {
 
-struct Case
+struct TypeCase
 {
     QString declaration;
     DataTypeEnum type;
@@ -22,7 +22,7 @@ struct Case
 
 TEST(SqliteTypes, GivesEachDeclaredTypeItsAdoNumber)
 {
-    const std::vector<Case> cases{
+    const std::vector<TypeCase> cases{
         {u"TEXT"_s, adVarWChar, 0},
         {u"VARCHAR(20)"_s, adVarWChar, 20},
         {u"nvarchar ( 30 )"_s, adVarWChar, 30},
@@ -52,7 +52,7 @@ TEST(SqliteTypes, GivesEachDeclaredTypeItsAdoNumber)
         {u"NUMERIC( 7 )"_s, adNumeric, -1, 7, 0},
         {u"MONEY"_s, adNumeric},
     };
-    for (const Case &c : cases) {
+    for (const TypeCase &c : cases) {
         FieldInfo field;
         SqliteTypes::applyDeclaration(field, c.declaration);
         EXPECT_EQ(field.type, c.type) << c.declaration.toStdString();

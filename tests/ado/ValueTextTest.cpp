@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct Case
+struct TextCase
 {
     QVariant value;
     QString text;
@@ -20,7 +20,7 @@ struct Case
 
 TEST(ValueText, GivesTheOneTextOfEachKindOfValue)
 {
-    const std::vector<Case> cases{
+    const std::vector<TextCase> cases{
         {QVariant(), QString()},
         {QVariant::fromValue(nullptr), QString()},
         {u"  as it is\n "_s, u"  as it is\n "_s},
@@ -45,7 +45,7 @@ TEST(ValueText, GivesTheOneTextOfEachKindOfValue)
         {QByteArray(), u"<0 字节>"_s},
         {QByteArray(300, 'x'), u"<300 字节>"_s},
     };
-    for (const Case &c : cases)
+    for (const TextCase &c : cases)
         EXPECT_EQ(ADODB::ValueText(c.value), c.text);
 }
 

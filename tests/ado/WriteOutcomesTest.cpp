@@ -12,7 +12,7 @@ using AdoTest::errorOf;
 
 namespace {
 
-void put(Recordset &recordset, const QString &field, const QVariant &value)
+void putValue(Recordset &recordset, const QString &field, const QVariant &value)
 {
     recordset.Fields().Item(field).PutValue(value);
 }
@@ -41,7 +41,7 @@ TEST_P(WriteOutcomes, GiveWhatSomebodyElseWrote)
     makeTable();
     const auto recordset = open(u"SELECT id, name, note FROM kova_a ORDER BY id"_s);
     execute(u"UPDATE kova_a SET note = 'theirs' WHERE id = 1"_s);
-    put(*recordset, u"name"_s, u"mine"_s);
+    putValue(*recordset, u"name"_s, u"mine"_s);
     const Error error = errorOf([&] { recordset->Update(); });
     EXPECT_TRUE(error.is(dbErrConcurrency)) << error.what();
     EXPECT_TRUE(error.Description().contains(u"已被其他用户修改，")) << error.what();
@@ -59,7 +59,7 @@ TEST_P(WriteOutcomes, GiveWhatSomebodyElseWrote)
     recordset->Resync();
     EXPECT_EQ(recordset->EditMode(), adEditNone);
     EXPECT_EQ(recordset->CellText(1, 2), u"theirs"_s);
-    put(*recordset, u"name"_s, u"mine"_s);
+    putValue(*recordset, u"name"_s, u"mine"_s);
     recordset->Update();
     EXPECT_EQ(content(), u"mine"_s);
 
@@ -74,7 +74,7 @@ TEST_P(WriteOutcomes, CompareLongValuesToTheirEnd)
     execute(u"UPDATE kova_a SET note = '%1'"_s.arg(QString(70'000, u'n')));
     const auto recordset = open(u"SELECT id, name, note FROM kova_a ORDER BY id"_s);
     execute(u"UPDATE kova_a SET note = '%1x' WHERE id = 1"_s.arg(QString(69'999, u'n')));
-    put(*recordset, u"name"_s, u"mine"_s);
+    putValue(*recordset, u"name"_s, u"mine"_s);
     EXPECT_ADO_ERROR(dbErrConcurrency, recordset->Update());
     recordset->CancelUpdate();
     EXPECT_ADO_ERROR(dbErrConcurrency, recordset->Delete());
@@ -90,10 +90,10 @@ TEST_P(WriteOutcomes, TakeAValueThatTheDatabaseRoundsToTheStoredOne)
         GTEST_SKIP() << "it stores what it is given";
     makeTable();
     const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s);
-    put(*recordset, u"price"_s, u"1.504"_s);
+    putValue(*recordset, u"price"_s, u"1.504"_s);
     recordset->Update();
     EXPECT_EQ(recordset->CellText(1, 3), u"1.50"_s);
-    put(*recordset, u"price"_s, u"1.516"_s);
+    putValue(*recordset, u"price"_s, u"1.516"_s);
     recordset->Update();
     EXPECT_EQ(content(u"price"_s), u"1.52"_s);
 }
@@ -105,7 +105,7 @@ TEST_P(WriteOutcomes, SaveOrRefuseARoundedValueWithoutAKey)
     execute(u"CREATE TABLE kova_b(name VARCHAR(10), price DECIMAL(8,2))"_s);
     execute(u"INSERT INTO kova_b VALUES ('a', 1.5), ('b', 2.5)"_s);
     const auto recordset = open(u"SELECT * FROM kova_b ORDER BY name"_s);
-    put(*recordset, u"price"_s, u"1.516"_s);
+    putValue(*recordset, u"price"_s, u"1.516"_s);
     if (is("PostgreSQL")) {
         recordset->Update();
         EXPECT_EQ(recordset->CellText(1, 1), u"1.52"_s);
@@ -114,7 +114,7 @@ TEST_P(WriteOutcomes, SaveOrRefuseARoundedValueWithoutAKey)
         EXPECT_TRUE(error.Description().contains(u"与填写的不同")) << error.what();
         EXPECT_EQ(ask(u"SELECT price FROM kova_b WHERE name = 'a'"_s), u"1.50"_s);
         recordset->CancelUpdate();
-        put(*recordset, u"price"_s, u"1.504"_s); // which changes nothing
+        putValue(*recordset, u"price"_s, u"1.504"_s); // which changes nothing
         recordset->Update();
         EXPECT_EQ(recordset->CellText(1, 1), u"1.50"_s);
     }
@@ -125,7 +125,7 @@ TEST_P(WriteOutcomes, SaveNothingThatMakesTwoRowsOfATableWithoutKeyEqual)
     execute(u"CREATE TABLE kova_b(a INTEGER, b VARCHAR(10))"_s);
     execute(u"INSERT INTO kova_b VALUES (1, 'x'), (2, 'x')"_s);
     const auto recordset = open(u"SELECT a, b FROM kova_b ORDER BY a"_s);
-    put(*recordset, u"a"_s, 2);
+    putValue(*recordset, u"a"_s, 2);
     EXPECT_ADO_ERROR(dbErrConcurrency, recordset->Update());
     EXPECT_EQ(ask(u"SELECT sum(a) FROM kova_b"_s), u"3"_s);
 }
@@ -137,7 +137,7 @@ TEST_P(WriteOutcomes, FollowARowWhoseComputedFieldsChangeByThemselves)
         open((is("MariaDB") ? u"SELECT name, rand() AS r, uuid() AS u FROM kova_a ORDER BY id"_s
                             : u"SELECT name, random() AS r, current_timestamp AS u FROM kova_a "
                               "ORDER BY id"_s));
-    put(*recordset, u"name"_s, u"mine"_s);
+    putValue(*recordset, u"name"_s, u"mine"_s);
     recordset->Update();
     EXPECT_EQ(content(), u"mine"_s);
     recordset->Delete();
@@ -154,7 +154,7 @@ TEST_P(WriteOutcomes, SaveWhereAnotherRowIsLockedAndReportWhenTheirOwnIs)
     const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s, connection);
     KovaTest::OdbcSession other(connectionString());
     other.run({u"BEGIN"_s, u"UPDATE kova_a SET name = 'theirs' WHERE id = 1"_s});
-    put(*recordset, u"name"_s, u"mine"_s);
+    putValue(*recordset, u"name"_s, u"mine"_s);
     EXPECT_THROW(recordset->Update(), Error);
     EXPECT_EQ(content(), u"one"_s);
     recordset->CancelUpdate();
@@ -181,7 +181,7 @@ TEST_P(WritesOnMariaDb, LeaveTablesWithoutTransactionsAndKeyAlone)
             const Error error = errorOf([&] { recordset->Delete(); });
             EXPECT_TRUE(error.is(adErrFeatureNotAvailable)) << error.what();
             EXPECT_TRUE(error.Description().contains(u"“kova_b”既没有主键，又不支持事务")) << error.what();
-            EXPECT_ADO_ERROR(adErrFeatureNotAvailable, put(*recordset, u"a"_s, 2));
+            EXPECT_ADO_ERROR(adErrFeatureNotAvailable, putValue(*recordset, u"a"_s, 2));
             EXPECT_ADO_ERROR(adErrFeatureNotAvailable, recordset->AddNew());
         }
         EXPECT_EQ(ask(u"SELECT count(*) FROM kova_b WHERE a = 1"_s), u"3"_s);
@@ -198,23 +198,23 @@ TEST_P(WritesOnMariaDb, SeeThatATableHasNoTransactionsAnyMore)
     const auto connection = connect();
     auto recordset = open(all, connection);
     execute(u"ALTER TABLE kova_b ENGINE=MyISAM"_s);
-    put(*recordset, u"a"_s, 2);
+    putValue(*recordset, u"a"_s, 2);
     const Error error = errorOf([&] { recordset->Update(); });
     EXPECT_TRUE(error.is(dbErrConcurrency)) << error.what();
     EXPECT_TRUE(error.Description().contains(u"表的结构已被其他程序更改"_s)) << error.what();
     recordset->CancelUpdate();
     EXPECT_ADO_ERROR(dbErrConcurrency, recordset->Delete());
     recordset->AddNew();
-    put(*recordset, u"a"_s, 3);
+    putValue(*recordset, u"a"_s, 3);
     EXPECT_ADO_ERROR(dbErrConcurrency, recordset->Update());
     recordset->CancelUpdate();
     EXPECT_EQ(ask(u"SELECT group_concat(a ORDER BY a) FROM kova_b"_s), u"1,2"_s);
 
     recordset = open(all, connection);
-    EXPECT_ADO_ERROR(adErrFeatureNotAvailable, put(*recordset, u"a"_s, 2));
+    EXPECT_ADO_ERROR(adErrFeatureNotAvailable, putValue(*recordset, u"a"_s, 2));
     execute(u"ALTER TABLE kova_b ENGINE=InnoDB"_s);
     recordset = open(all, connection);
-    put(*recordset, u"a"_s, 3);
+    putValue(*recordset, u"a"_s, 3);
     recordset->Update();
     EXPECT_EQ(ask(u"SELECT group_concat(a ORDER BY a) FROM kova_b"_s), u"2,3"_s);
 }
@@ -223,17 +223,17 @@ TEST_P(WritesOnMariaDb, WriteTablesWithoutTransactionsByTheirKey)
 {
     makeTable(u" ENGINE=MyISAM"_s);
     const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s);
-    put(*recordset, u"name"_s, u"mine\\"_s);
+    putValue(*recordset, u"name"_s, u"mine\\"_s);
     recordset->Update();
     EXPECT_EQ(content(), u"mine\\"_s);
-    put(*recordset, u"price"_s, u"1.504"_s);
+    putValue(*recordset, u"price"_s, u"1.504"_s);
     recordset->Update();
     EXPECT_EQ(recordset->CellText(1, 3), u"1.50"_s);
     recordset->AddNew();
-    put(*recordset, u"name"_s, u"three"_s);
+    putValue(*recordset, u"name"_s, u"three"_s);
     recordset->Update();
     EXPECT_EQ(recordset->CellText(3, 1), u"three"_s);
-    put(*recordset, u"id"_s, 1); // there is one already
+    putValue(*recordset, u"id"_s, 1); // there is one already
     EXPECT_ADO_ERROR(dbErrIntegrity, recordset->Update());
     recordset->CancelUpdate();
     recordset->Delete();
@@ -249,9 +249,9 @@ TEST_P(WritesOnMariaDb, FindARecordWithoutTransactionsByTheKeyThatWasTyped)
         execute(u"CREATE TRIGGER kova_t %1 INSERT ON kova_a FOR EACH ROW KILL CONNECTION_ID()"_s.arg(
             isSaved ? u"AFTER"_s : u"BEFORE"_s));
         recordset->AddNew();
-        put(*recordset, u"id"_s, 7);
-        put(*recordset, u"name"_s, u"mine"_s);
-        put(*recordset, u"price"_s, u"1.5"_s); // stored as 1.50
+        putValue(*recordset, u"id"_s, 7);
+        putValue(*recordset, u"name"_s, u"mine"_s);
+        putValue(*recordset, u"price"_s, u"1.5"_s); // stored as 1.50
         EXPECT_ADO_ERROR(dbErrInDoubt, recordset->Update());
         execute(u"DROP TRIGGER kova_t"_s);
         EXPECT_EQ(recordset->FindAttempt(), isSaved);
@@ -281,7 +281,7 @@ TEST_P(WritesOnPostgreSql, SayThatATriggerKeptTheRow)
     execute(
         u"CREATE TRIGGER keep BEFORE UPDATE OR DELETE ON kova_a FOR EACH ROW EXECUTE FUNCTION kova_keep()"_s);
     const auto recordset = open(u"SELECT * FROM kova_a ORDER BY id"_s);
-    put(*recordset, u"name"_s, u"mine"_s);
+    putValue(*recordset, u"name"_s, u"mine"_s);
     const Error error = errorOf([&] { recordset->Update(); });
     EXPECT_TRUE(error.Description().contains(u"触发器")) << error.what();
     recordset->CancelUpdate();

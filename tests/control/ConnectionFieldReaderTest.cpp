@@ -73,13 +73,13 @@ struct Reader : testing::Test
     ConnectionFieldReader reader{result};
 };
 
-struct Statement
+struct StatementToRead
 {
     const char *text;
     QStringList names;
 };
 
-struct ReadStatement : Reader, testing::WithParamInterface<Statement>
+struct ReadStatement : Reader, testing::WithParamInterface<StatementToRead>
 {
 };
 
@@ -87,14 +87,15 @@ struct ReadStatement : Reader, testing::WithParamInterface<Statement>
 
 INSTANTIATE_TEST_SUITE_P(
     Statements, ReadStatement,
-    testing::Values(Statement{"select * from T", {u"A"_s, u"B"_s, u"C"_s}},
-                    Statement{"select A from T where B = 1 order by A", {u"A"_s}},
-                    Statement{"select A, count(*) as N from T group by A", {u"A"_s, u"N"_s}},
-                    Statement{"select A from T group by A having count(*) > 1", {u"A"_s}},
-                    Statement{"select A from T union select B from T", {u"A"_s}},
-                    Statement{"select X from (select A as X from T where B = 1) S", {u"X"_s}},
-                    Statement{"select A from T limit 1", {u"A"_s}}, Statement{"select Nothing from T", {}},
-                    Statement{"delete from T", {}}, Statement{"", {}}));
+    testing::Values(StatementToRead{"select * from T", {u"A"_s, u"B"_s, u"C"_s}},
+                    StatementToRead{"select A from T where B = 1 order by A", {u"A"_s}},
+                    StatementToRead{"select A, count(*) as N from T group by A", {u"A"_s, u"N"_s}},
+                    StatementToRead{"select A from T group by A having count(*) > 1", {u"A"_s}},
+                    StatementToRead{"select A from T union select B from T", {u"A"_s}},
+                    StatementToRead{"select X from (select A as X from T where B = 1) S", {u"X"_s}},
+                    StatementToRead{"select A from T limit 1", {u"A"_s}},
+                    StatementToRead{"select Nothing from T", {}}, StatementToRead{"delete from T", {}},
+                    StatementToRead{"", {}}));
 
 TEST_P(ReadStatement, NamesItsFieldsOrNothing)
 {

@@ -19,7 +19,7 @@ int callsLeft = 0;          // to the one that fails; 0 when none does
 Fault nextFault = Fault::NotDone;
 bool isLost = false;
 const char *failedCall = nullptr;
-int listsRead = 0;
+int readLists = 0;
 std::map<SQLHANDLE, const char *> states; // of failed handles that have not been used since
 
 thread_local int depth = 0; // of calls that the driver manager makes itself
@@ -112,7 +112,7 @@ QString failed()
 int listsRead()
 {
     const std::lock_guard lock(mutex);
-    return ::listsRead;
+    return ::readLists;
 }
 
 } // namespace KovaTest::FaultyOdbc
@@ -208,7 +208,7 @@ SQLRETURN SQL_API SQLDisconnect(SQLHDBC h)
         static auto *const next = real<decltype(name)>(#name);                                               \
         if (direction == SQL_FETCH_FIRST) {                                                                  \
             const std::lock_guard lock(mutex);                                                               \
-            ++listsRead;                                                                                     \
+            ++readLists;                                                                                     \
         }                                                                                                    \
         return next(h, direction, a, ar, al, b, br, bl);                                                     \
     }

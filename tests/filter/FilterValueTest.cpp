@@ -7,12 +7,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr Dialect sqlite{dbAccess, false};
+constexpr Dialect sqliteDialect{dbAccess, false};
 
 // The literal; "-" if the text is not such a value.
 std::string literal(FieldClass fieldClass, const QString &typed)
 {
-    const auto value = readFilterValue(sqlite, fieldClass, typed, QDate(2024, 2, 29));
+    const auto value = readFilterValue(sqliteDialect, fieldClass, typed, QDate(2024, 2, 29));
     return value ? value->literal.toStdString() : "-";
 }
 
@@ -80,7 +80,7 @@ TEST(FilterValue, TimesAndMomentsAreRead)
 
 TEST(FilterValue, ADayInAMomentFieldKnowsWhereItEnds)
 {
-    const auto value = readFilterValue(sqlite, FieldClass::Moment, u"2023-12-31"_s, {});
+    const auto value = readFilterValue(sqliteDialect, FieldClass::Moment, u"2023-12-31"_s, {});
     ASSERT_TRUE(value);
     EXPECT_EQ(value->nextDay, u"'2024-01-01'"_s);
 }
@@ -94,9 +94,10 @@ TEST(FilterValue, TextIsTakenAsTyped)
 TEST(FilterValue, YesAndNoAreReadInSeveralWords)
 {
     for (const QString &typed : {u"是"_s, u"True"_s, u"1"_s, u"-1"_s, u"１"_s})
-        EXPECT_TRUE(readFilterValue(sqlite, FieldClass::Boolean, typed, {})->isTrue) << qUtf8Printable(typed);
+        EXPECT_TRUE(readFilterValue(sqliteDialect, FieldClass::Boolean, typed, {})->isTrue)
+            << qUtf8Printable(typed);
     for (const QString &typed : {u"否"_s, u"FALSE"_s, u"0"_s})
-        EXPECT_FALSE(readFilterValue(sqlite, FieldClass::Boolean, typed, {})->isTrue)
+        EXPECT_FALSE(readFilterValue(sqliteDialect, FieldClass::Boolean, typed, {})->isTrue)
             << qUtf8Printable(typed);
     EXPECT_EQ(literal(FieldClass::Boolean, u"maybe"_s), "-");
 }
@@ -129,15 +130,15 @@ TEST(FilterValue, ListsPastedFromAChineseTextOrASpreadsheetAreSplit)
 TEST(FilterValue, AMonthOrAWordForDaysIsWhereItsDaysBeginAndEnd)
 {
     const QDate leapDay(2024, 2, 29);
-    const auto month = readFilterValue(sqlite, FieldClass::Date, u"２月"_s, leapDay);
+    const auto month = readFilterValue(sqliteDialect, FieldClass::Date, u"２月"_s, leapDay);
     ASSERT_TRUE(month);
     EXPECT_EQ(month->literal, u"'2024-02-01'"_s);
     EXPECT_EQ(month->nextDay, u"'2024-03-01'"_s);
-    const auto today = readFilterValue(sqlite, FieldClass::Date, u"今天"_s, leapDay);
+    const auto today = readFilterValue(sqliteDialect, FieldClass::Date, u"今天"_s, leapDay);
     ASSERT_TRUE(today);
     EXPECT_EQ(today->literal, u"'2024-02-29'"_s);
     EXPECT_EQ(today->nextDay, QString()) << "a day is compared as it is";
-    const auto moments = readFilterValue(sqlite, FieldClass::Moment, u"最近 2 天"_s, leapDay);
+    const auto moments = readFilterValue(sqliteDialect, FieldClass::Moment, u"最近 2 天"_s, leapDay);
     ASSERT_TRUE(moments);
     EXPECT_EQ(moments->literal, u"'2024-02-28'"_s);
     EXPECT_EQ(moments->nextDay, u"'2024-03-01'"_s);

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr Dialect sqlite{.database = dbAccess, .engine = Engine::SQLite};
+constexpr Dialect fileDialect{.database = dbAccess, .engine = Engine::SQLite};
 
 const std::vector<FilterField> fields{{u"城市"_s, u"城市"_s, FieldClass::Text},
                                       {u"数量"_s, u"数量"_s, FieldClass::Number},
@@ -28,14 +28,14 @@ QString textOf(const QJsonObject &json)
 
 std::optional<FilterState> rowsOfTicks(const FilterField &field, const TickedValues &ticked)
 {
-    return rowsOf({conditionOf(sqlite, field, ticked).sql, textOf(toJson(ticked)), field.written}, sqlite,
-                  fields, {});
+    return rowsOf({conditionOf(fileDialect, field, ticked).sql, textOf(toJson(ticked)), field.written},
+                  fileDialect, fields, {});
 }
 
 std::optional<FilterState> rowsOfBuilt(const BuiltFilter &built, const QString &condition,
                                        const FilterScope &scope = {})
 {
-    return rowsOf({condition, textOf(toJson(built))}, sqlite, fields, scope);
+    return rowsOf({condition, textOf(toJson(built))}, fileDialect, fields, scope);
 }
 
 } // namespace
@@ -71,8 +71,8 @@ TEST(RestoredRows, SelectWhatTheTicksSelect)
                     ASSERT_EQ(rows->size(), 1);
                     const auto terms = termsOf(*rows, fields);
                     EXPECT_TRUE(terms.front().choice.asksForNull() || rows->front().includesNull);
-                    EXPECT_EQ(selected(conditionOf(sqlite, terms.front().choice).sql),
-                              selected(conditionOf(sqlite, fields[at], ticked).sql))
+                    EXPECT_EQ(selected(conditionOf(fileDialect, terms.front().choice).sql),
+                              selected(conditionOf(fileDialect, fields[at], ticked).sql))
                         << textOf(toJson(ticked)).toStdString();
                 }
             }

@@ -11,16 +11,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr Dialect sqlite{dbAccess, false};
-constexpr Dialect oracleServer{dbOracle, true};
+constexpr Dialect localFile{dbAccess, false};
+constexpr Dialect oracle{dbOracle, true};
 
-std::string sql(FieldClass fieldClass, const TickedValues &ticked, const Dialect &dialect = sqlite)
+std::string sql(FieldClass fieldClass, const TickedValues &ticked, const Dialect &dialect = localFile)
 {
     const FilterCondition found = conditionOf(dialect, {u"F"_s, u"F"_s, fieldClass}, ticked);
     return found.fault.isEmpty() ? found.sql.toStdString() : "fault: " + found.fault.toStdString();
 }
 
-struct Case
+struct TickedCase
 {
     FieldClass fieldClass;
     TickedValues ticked;
@@ -58,7 +58,7 @@ public:
 TEST(TickedValues, AreOneCondition)
 {
     using enum FieldClass;
-    const Case cases[] = {
+    const TickedCase cases[] = {
         {Text, {true, {}, true}, ""},
         {Text, {true, {}, {}}, ""},
         {Text, {false, {}, false}, "fault: 请至少选择一个值。"},
@@ -86,9 +86,9 @@ TEST(TickedValues, AreOneCondition)
         {Other, {true, {}, false}, "F IS NOT NULL"},
         {Other, {false, {}, true}, "F IS NULL"},
     };
-    for (const Case &c : cases)
+    for (const TickedCase &c : cases)
         EXPECT_EQ(sql(c.fieldClass, c.ticked), c.condition);
-    EXPECT_EQ(sql(Moment, {false, {u"2024-01-05"_s}, {}}, oracleServer),
+    EXPECT_EQ(sql(Moment, {false, {u"2024-01-05"_s}, {}}, oracle),
               "(F >= {d '2024-01-05'} AND F < {d '2024-01-06'})");
 }
 
@@ -187,12 +187,12 @@ TEST(TickState, FindsTheDaysOfAMonthAgain)
 TEST(ValueStatements, CountTheRecordsOfEachValue)
 {
     const FilterField city{u"C"_s, u"C"_s, FieldClass::Text};
-    const ValueStatements all(sqlite, city, {u"T"_s, {}});
+    const ValueStatements all(localFile, city, {u"T"_s, {}});
     EXPECT_EQ(all.counted(3),
               u"SELECT C AS kova_value, COUNT(*) AS kova_count FROM T WHERE C <> '' GROUP BY C "
               "ORDER BY C LIMIT 3"_s);
     EXPECT_EQ(all.countOfEmpty(), u"SELECT COUNT(*) FROM T WHERE (C IS NULL OR C = '')"_s);
-    const ValueStatements some(sqlite, city, {u"T"_s, u"A = 1 OR B = 2"_s}, u"50%"_s);
+    const ValueStatements some(localFile, city, {u"T"_s, u"A = 1 OR B = 2"_s}, u"50%"_s);
     EXPECT_EQ(some.countOfValues(),
               u"SELECT COUNT(DISTINCT C) FROM T WHERE (A = 1 OR B = 2) AND C <> '' AND C "
               "LIKE '%50!%%' ESCAPE '!'"_s);

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Case
+struct PartsCase
 {
     const char *name;
     QString condition;
@@ -17,16 +17,16 @@ struct Case
     QStringList fields = {}; // of the first part
 };
 
-void PrintTo(const Case &test, std::ostream *out)
+void PrintTo(const PartsCase &test, std::ostream *out)
 {
     *out << test.name;
 }
 
-struct ConditionWords : testing::TestWithParam<Case>
+struct ConditionWords : testing::TestWithParam<PartsCase>
 {
 };
 
-const Case cases[] = {
+const PartsCase cases[] = {
     {"Number", u"ID > 3"_s, {u"ID > 3"_s}, {u"ID"_s}},
     {"Two", u"ID >= 3 AND 城市 = '大连'"_s, {u"ID ≥ 3"_s, u"城市 = “大连”"_s}, {u"ID"_s}},
     {"OnlyNumbers", u"(ID >= 3 AND ID < '') AND (价格 > 5 AND 价格 < '')"_s, {u"ID ≥ 3"_s, u"价格 > 5"_s}},

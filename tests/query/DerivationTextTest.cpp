@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Derivation derive(const EngineMode &engine, const QString &statement, const QStringList &names,
-                  AllDBType database = dbSQLServer)
+Derivation derivationOf(const EngineMode &engine, const QString &statement, const QStringList &names,
+                        AllDBType database = dbSQLServer)
 {
     std::vector<SourceField> fields;
     for (const QString &name : names)
@@ -29,25 +29,26 @@ void expectText(const QString &text, const char *expected)
 
 TEST(DerivationText, OracleTakesNoAsBeforeATablesAlias)
 {
-    expectText(derive(Engine::Oracle, u"select A from T group by A order by A"_s, {u"A"_s})
+    expectText(derivationOf(Engine::Oracle, u"select A from T group by A order by A"_s, {u"A"_s})
                    .withCondition(u"A = 1"_s),
                "SELECT * FROM ( select A from T group by A ) Q WHERE A = 1 ORDER BY A");
 }
 
 TEST(DerivationText, ALimitKeepsItsSortInsideAndHasItOutsideAsWell)
 {
-    expectText(derive(Engine::SqlServer, u"select top 5 A, B from T order by B desc"_s, {u"A"_s, u"B"_s})
-                   .withCondition(u"A = 1"_s),
-               "SELECT * FROM ( select top 5 A, B from T order by B desc ) AS Q WHERE A = 1 ORDER BY B desc");
     expectText(
-        derive(Engine::Oracle, u"select A from T where rownum <= 5"_s, {u"A"_s}).withCondition(u"A = 1"_s),
-        "SELECT * FROM ( select A from T where rownum <= 5 ) Q WHERE A = 1");
+        derivationOf(Engine::SqlServer, u"select top 5 A, B from T order by B desc"_s, {u"A"_s, u"B"_s})
+            .withCondition(u"A = 1"_s),
+        "SELECT * FROM ( select top 5 A, B from T order by B desc ) AS Q WHERE A = 1 ORDER BY B desc");
+    expectText(derivationOf(Engine::Oracle, u"select A from T where rownum <= 5"_s, {u"A"_s})
+                   .withCondition(u"A = 1"_s),
+               "SELECT * FROM ( select A from T where rownum <= 5 ) Q WHERE A = 1");
 }
 
 TEST(DerivationText, WhatBindsLooserThanAndHasBracketsAsOrHas)
 {
     const auto filtered = [](Engine engine, const QString &condition, const QString &added) {
-        return derive(engine, u"select A from T where "_s + condition, {u"A"_s}).withCondition(added);
+        return derivationOf(engine, u"select A from T where "_s + condition, {u"A"_s}).withCondition(added);
     };
     expectText(filtered(Engine::MySQL, u"A = 1 || B = 2"_s, u"C = 3 xor not D"_s),
                "select A from T where (A = 1 || B = 2) AND (C = 3 xor not D)");
@@ -60,7 +61,7 @@ TEST(DerivationText, WhatBindsLooserThanAndHasBracketsAsOrHas)
 TEST(DerivationText, ACommentAtTheEndOfAConditionDoesNotSwallowTheSort)
 {
     const auto filtered = [](const QString &statement, const QString &condition) {
-        const QString text = derive(Engine::PostgreSQL, statement, {u"A"_s}).withCondition(condition);
+        const QString text = derivationOf(Engine::PostgreSQL, statement, {u"A"_s}).withCondition(condition);
         return text.split(u' ', Qt::SkipEmptyParts).join(u' '); // the line breaks stay
     };
     EXPECT_EQ(filtered(u"select A from T order by A desc"_s, u"A = 1 -- x"_s),
@@ -72,9 +73,9 @@ TEST(DerivationText, ACommentAtTheEndOfAConditionDoesNotSwallowTheSort)
 
 TEST(DerivationText, WithGoesToTheFront)
 {
-    expectText(derive(Engine::SqlServer,
-                      u"with c as (select A from T) select A, count(*) as N from c group by A"_s,
-                      {u"A"_s, u"N"_s})
+    expectText(derivationOf(Engine::SqlServer,
+                            u"with c as (select A from T) select A, count(*) as N from c group by A"_s,
+                            {u"A"_s, u"N"_s})
                    .withSort(u"N"_s),
                "with c as (select A from T) SELECT * FROM ( select A, count(*) as N from c group by A ) AS Q "
                "ORDER BY "
@@ -83,7 +84,7 @@ TEST(DerivationText, WithGoesToTheFront)
 
 TEST(DerivationText, SqlServerHasNoSortInATable)
 {
-    expectText(derive(Engine::SqlServer, u"select A from T group by A order by max(B)"_s, {u"A"_s})
+    expectText(derivationOf(Engine::SqlServer, u"select A from T group by A order by max(B)"_s, {u"A"_s})
                    .withCondition(u"A = 1"_s),
                "SELECT A FROM ( select A, max(B) AS SortKey1 from T group by A ) AS Q WHERE A = 1 "
                "ORDER BY SortKey1");
@@ -94,14 +95,14 @@ TEST(DerivationText, AFieldKeepsItsNameInATable)
 {
     const QString year = u"extract(year from D)"_s;
     expectText(
-        derive(Engine::MySQL, u"select %1, count(*) from T group by 1 order by max(D)"_s.arg(year),
-               {year, u"count(*)"_s})
+        derivationOf(Engine::MySQL, u"select %1, count(*) from T group by 1 order by max(D)"_s.arg(year),
+                     {year, u"count(*)"_s})
             .withCondition(u"1 = 1"_s),
         "SELECT `extract(year from D)`,`count(*)` FROM ( select extract(year from D) AS `extract(year "
         "from D)`, count(*), max(D) AS SortKey1 from T group by 1 ) AS Q WHERE 1 = 1 ORDER BY SortKey1");
     expectText(
-        derive(Engine::SQLite, u"select A, (select B from U) from T group by A"_s,
-               {u"A"_s, u"(select B from U)"_s})
+        derivationOf(Engine::SQLite, u"select A, (select B from U) from T group by A"_s,
+                     {u"A"_s, u"(select B from U)"_s})
             .withCondition(u"A = 1"_s),
         "SELECT * FROM ( select A, (select B from U) AS [(select B from U)] from T group by A ) AS Q WHERE "
         "A = 1");
@@ -114,7 +115,7 @@ TEST(DerivationText, TopAndDistinctStayInFrontOfChosenFields)
           std::pair(u"top (5) with ties"_s, Engine::SqlServer), std::pair(u"distinct"_s, Engine::MySQL),
           std::pair(u"DISTINCTROW"_s, Engine::Access)}) {
         const Derivation derivation =
-            derive(engine, u"select "_s + words + u" A, B as C from T where A > 1"_s, {u"A"_s, u"C"_s});
+            derivationOf(engine, u"select "_s + words + u" A, B as C from T where A > 1"_s, {u"A"_s, u"C"_s});
         expectText(derivation.withFields({derivation.listed().at(1)}),
                    qPrintable(u"SELECT "_s + words + u" B as C FROM T where A > 1"_s));
     }
@@ -124,7 +125,7 @@ TEST(DerivationText, TopAndDistinctStayInFrontOfChosenFields)
 TEST(DerivationText, AnAssignmentOutsideADerivedTableKeepsTheStatementWhole)
 {
     const auto isTable = [](const QString &source) {
-        return derive(Engine::MySQL, u"select o.A from "_s + source, {u"A"_s}).isTable();
+        return derivationOf(Engine::MySQL, u"select o.A from "_s + source, {u"A"_s}).isTable();
     };
     for (const QString &source : {
              u"T o, (select @n := 0) v"_s,
@@ -149,51 +150,53 @@ TEST(DerivationText, AnAssignmentOutsideADerivedTableKeepsTheStatementWhole)
 // Sorted by other fields, the first records would be others.
 TEST(DerivationText, TopOfDistinctRecordsIsTakenBeforeFieldsOfItsSortAreLeftOut)
 {
-    const Derivation places =
-        derive(Engine::Access,
-               u"select distinct top 5 Country, City as Town, 1 as N from T order by Country, 3, City"_s,
-               {u"Country"_s, u"Town"_s, u"N"_s}, dbAccess);
+    const Derivation places = derivationOf(
+        Engine::Access,
+        u"select distinct top 5 Country, City as Town, 1 as N from T order by Country, 3, City"_s,
+        {u"Country"_s, u"Town"_s, u"N"_s}, dbAccess);
     const QString town = places.listed().at(1);
     const QString towns = places.withFields({town});
     expectText(towns,
                "SELECT Town FROM ( select distinct top 5 Country, City as Town, 1 as N from T order by "
                "Country, 3, City ) AS Q ORDER BY Country,N,Town");
-    expectText(derive(Engine::Access, towns, {u"Town"_s}, dbAccess).withFieldsOf(places),
+    expectText(derivationOf(Engine::Access, towns, {u"Town"_s}, dbAccess).withFieldsOf(places),
                "SELECT * FROM ( select distinct top 5 Country, City as Town, 1 as N from T order "
                "by Country, 3, City ) AS Q ORDER BY Country,N,Town");
     const QString both = places.withFields({places.listed().at(0), town});
     expectText(both, "SELECT distinct top 5 Country,City as Town FROM T ORDER BY Country,T.City");
-    expectText(derive(Engine::Access, both, {u"Country"_s, u"Town"_s}, dbAccess).withFieldsOf(places),
+    expectText(derivationOf(Engine::Access, both, {u"Country"_s, u"Town"_s}, dbAccess).withFieldsOf(places),
                "SELECT distinct top 5 Country, City as Town, 1 as N FROM T ORDER BY Country,T.City");
     const Derivation part =
-        derive(Engine::Access, u"select distinct top 5 T.city as Town from T"_s, {u"Town"_s}, dbAccess);
+        derivationOf(Engine::Access, u"select distinct top 5 T.city as Town from T"_s, {u"Town"_s}, dbAccess);
     expectText(
         places.withFieldsOf(part),
         "SELECT Town FROM ( select distinct top 5 Country, City as Town, 1 as N from T order by Country, "
         "3, City ) AS Q ORDER BY Country,N,Town");
-    EXPECT_EQ(derive(Engine::Access, u"select distinct top 5 A.City, B.City from A, B order by A.City"_s,
-                     {u"City"_s, u"City"_s}, dbAccess)
+    EXPECT_EQ(derivationOf(Engine::Access,
+                           u"select distinct top 5 A.City, B.City from A, B order by A.City"_s,
+                           {u"City"_s, u"City"_s}, dbAccess)
                   .whyNot(DerivationStep::Fields),
               QueryTexts::EqualNames.arg(u"City"_s));
-    EXPECT_EQ(derive(Engine::SqlServer, u"select distinct top 5 A, B + 1 from T order by A"_s, {u"A"_s, {}})
-                  .whyNot(DerivationStep::Fields),
-              QueryTexts::UnnamedField);
+    EXPECT_EQ(
+        derivationOf(Engine::SqlServer, u"select distinct top 5 A, B + 1 from T order by A"_s, {u"A"_s, {}})
+            .whyNot(DerivationStep::Fields),
+        QueryTexts::UnnamedField);
 }
 
 TEST(DerivationText, NamesThatNeedQuotesKeepThem)
 {
-    expectText(derive(Engine::MySQL, u"select Name `a b`, count(*) from T group by Name"_s,
-                      {u"a b"_s, u"count(*)"_s})
+    expectText(derivationOf(Engine::MySQL, u"select Name `a b`, count(*) from T group by Name"_s,
+                            {u"a b"_s, u"count(*)"_s})
                    .withSort(u"`a b`"_s),
                "SELECT * FROM ( select Name `a b`, count(*) from T group by Name ) AS Q ORDER BY `a b`");
-    EXPECT_EQ(derive(Engine::PostgreSQL, u"select count(*) as \"N\" from t"_s, {u"N"_s}).written(),
+    EXPECT_EQ(derivationOf(Engine::PostgreSQL, u"select count(*) as \"N\" from t"_s, {u"N"_s}).written(),
               QStringList(u"\"N\""_s));
 }
 
 TEST(DerivationText, WhatCannotBeDoneSaysWhyBeforeAnythingIsTyped)
 {
     const auto whyNot = [](const QString &statement, const QStringList &names) {
-        return derive(Engine::PostgreSQL, statement, names).whyNot(DerivationStep::Condition);
+        return derivationOf(Engine::PostgreSQL, statement, names).whyNot(DerivationStep::Condition);
     };
     EXPECT_EQ(whyNot(u"select A, A from T union select B, B from U"_s, {u"A"_s, u"a"_s}),
               QueryTexts::EqualNames.arg(u"A"_s));
@@ -202,7 +205,7 @@ TEST(DerivationText, WhatCannotBeDoneSaysWhyBeforeAnythingIsTyped)
     EXPECT_EQ(whyNot(u"select A from T for update"_s, {u"A"_s}), QueryTexts::NotDerived);
     EXPECT_EQ(whyNot(u"select A, A from T"_s, {u"A"_s, u"A"_s}), QString()) << "named by their values";
     const Derivation united =
-        derive(Engine::SQLite, u"select A, A from T union select 1, 2"_s, {u"A"_s, u"A"_s});
+        derivationOf(Engine::SQLite, u"select A, A from T union select 1, 2"_s, {u"A"_s, u"A"_s});
     EXPECT_EQ(united.withCondition(u"A = 1"_s) + united.withSort(u"A"_s) + united.withFields({u"A"_s}),
               QString());
 }
@@ -211,7 +214,7 @@ TEST(DerivationText, WhatCannotBeDoneSaysWhyBeforeAnythingIsTyped)
 TEST(DerivationText, AFieldThatATableWouldRenameSaysWhyBeforeAnythingIsTyped)
 {
     const auto whyNot = [](Engine engine, const QString &statement, DerivationStep step) {
-        return derive(engine, statement, {u"A"_s, u"fAlse"_s}).whyNot(step);
+        return derivationOf(engine, statement, {u"A"_s, u"fAlse"_s}).whyNot(step);
     };
     const QString grouped = u"select A, max(B) as \"fAlse\" from T group by A"_s;
     for (const auto step : {DerivationStep::Condition, DerivationStep::Sort, DerivationStep::Fields}) {
@@ -227,7 +230,7 @@ TEST(DerivationText, AFieldThatATableWouldRenameSaysWhyBeforeAnythingIsTyped)
 TEST(DerivationText, TheWholeTableHasNoConditionInAnyUnitedSelect)
 {
     const auto whole = [](const QString &statement) {
-        return derive(Engine::PostgreSQL, statement, {u"a"_s}).withoutConditions();
+        return derivationOf(Engine::PostgreSQL, statement, {u"a"_s}).withoutConditions();
     };
     expectText(whole(u"(select a from T where b = 1) union all (select a from U where c in (select d from V "
                      "where e = 2) order by a limit 3)"_s),
@@ -238,7 +241,7 @@ TEST(DerivationText, TheWholeTableHasNoConditionInAnyUnitedSelect)
     expectText(whole(u"with W as (select a from T where b = 1) (select a from W where a > 1);"_s),
                "with W as (select a from T where b = 1) (select a from W );");
     const auto wholeOfMySql = [](const QString &statement) {
-        return derive(Engine::MySQL, statement, {u"a"_s}).withoutConditions();
+        return derivationOf(Engine::MySQL, statement, {u"a"_s}).withoutConditions();
     };
     expectText(wholeOfMySql(u"select a from T /*!50000 where b = 1 */ group by a"_s),
                "select a from T /*!50000 */ group by a");
@@ -252,11 +255,11 @@ TEST(DerivationText, ReadsTextsAsTheModeOfTheSessionDoes)
 {
     const QString statement = uR"(select F from T where F = 'C:\' group by F order by F)"_s;
     const EngineMode plain{Engine::MySQL, {.backslashEscapes = false}};
-    expectText(derive(plain, statement, {u"F"_s}).withCondition(u"F > 1"_s),
+    expectText(derivationOf(plain, statement, {u"F"_s}).withCondition(u"F > 1"_s),
                R"(SELECT * FROM ( select F from T where F = 'C:\' group by F ) AS Q WHERE F > 1 ORDER BY F)");
     const EngineMode ansi{Engine::MySQL, {.ansiQuotes = true}};
     const QString quoted = uR"(select distinct "a\" from T order by 1)"_s;
-    expectText(derive(ansi, quoted, {uR"(a\)"_s}).withCondition(u"1"_s),
+    expectText(derivationOf(ansi, quoted, {uR"(a\)"_s}).withCondition(u"1"_s),
                R"(SELECT distinct "a\" FROM T WHERE 1 ORDER BY "a\")");
 }
 
@@ -271,12 +274,13 @@ TEST(DerivationText, ChosenFieldsAreFoundAgainByValueAndName)
     EXPECT_EQ(stars.listedFor(bothIds), (QStringList{u"o.ID"_s, u"c.ID"_s}));
 
     const QStringList twice{u"n"_s, u"m"_s};
-    const Derivation aliases = derive(Engine::SQLite, u"select Name as n, Name as m from Ord"_s, twice);
-    const Derivation second = derive(Engine::SQLite, u"select Name as m from Ord"_s, {u"m"_s});
+    const Derivation aliases = derivationOf(Engine::SQLite, u"select Name as n, Name as m from Ord"_s, twice);
+    const Derivation second = derivationOf(Engine::SQLite, u"select Name as m from Ord"_s, {u"m"_s});
     EXPECT_EQ(aliases.listedFor(second), QStringList(u"Name as m"_s));
 
-    const Derivation text = derive(Engine::SQLite, u"select 'A' as x, ID from Ord"_s, {u"x"_s, u"ID"_s});
-    const Derivation other = derive(Engine::SQLite, u"select 'a' as x from Ord"_s, {u"x"_s});
+    const Derivation text =
+        derivationOf(Engine::SQLite, u"select 'A' as x, ID from Ord"_s, {u"x"_s, u"ID"_s});
+    const Derivation other = derivationOf(Engine::SQLite, u"select 'a' as x from Ord"_s, {u"x"_s});
     EXPECT_EQ(text.listedFor(other), QStringList()) << "not that text";
 }
 
@@ -300,7 +304,7 @@ class OpenText : public testing::TestWithParam<OpenCase>
 TEST_P(OpenText, IsFilteredByTheValueOfAField)
 {
     const OpenCase &c = GetParam();
-    const Derivation derivation = derive(c.engine, c.statement, c.fields.split(u'|'));
+    const Derivation derivation = derivationOf(c.engine, c.statement, c.fields.split(u'|'));
     expectText(derivation.withCondition(derivation.written().last() + u" = 1"_s), c.filtered);
 }
 
@@ -419,7 +423,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(DerivationText, AConditionMayNameAnAliasWhereTheEngineTakesIt)
 {
     const auto list = [](Engine engine, const QString &statement) {
-        return derive(engine, statement, {u"b"_s, u"n"_s}).filteredResult().list;
+        return derivationOf(engine, statement, {u"b"_s, u"n"_s}).filteredResult().list;
     };
     EXPECT_EQ(list(Engine::SQLite, u"select A as b, upper(C) n from T where C > 1"_s),
               u"A as b, upper(C) n"_s);
@@ -430,7 +434,7 @@ TEST(DerivationText, AConditionMayNameAnAliasWhereTheEngineTakesIt)
 
 TEST(DerivationText, AChoiceOfFieldsKeepsTheSortOfDistinctOn)
 {
-    const Derivation derivation = derive(
+    const Derivation derivation = derivationOf(
         Engine::PostgreSQL, u"select distinct on (c) c, a from T order by c, b desc"_s, {u"c"_s, u"a"_s});
     expectText(derivation.withFields({u"a"_s}), "SELECT distinct on (c) a FROM T ORDER BY c,b desc");
 }

@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kAll = QStringLiteral("select T.Name,[Order Date],\"Age\",x*2 as Twice from T");
-const QString kPart = QStringLiteral("select [Order Date] from T");
+const QString kAllFields = QStringLiteral("select T.Name,[Order Date],\"Age\",x*2 as Twice from T");
+const QString kPartFields = QStringLiteral("select [Order Date] from T");
 
 class History : public testing::Test
 {
@@ -25,10 +25,11 @@ protected:
     History()
     {
         reader.fieldsByStatement.insert(
-            kAll, {{u"Name"_s, 202}, {u"Order Date"_s, 7}, {u"Age"_s, 3}, {u"Twice"_s, 5}, {u"A-B"_s, 0}});
-        reader.fieldsByStatement.insert(kPart, {{u"Order Date"_s, 7}});
+            kAllFields,
+            {{u"Name"_s, 202}, {u"Order Date"_s, 7}, {u"Age"_s, 3}, {u"Twice"_s, 5}, {u"A-B"_s, 0}});
+        reader.fieldsByStatement.insert(kPartFields, {{u"Order Date"_s, 7}});
         history.SetConnString(u"DSN=a"_s);
-        history.SetSQLInitData(kAll, kPart, u"F"_s, u"Name"_s, u"first filter"_s);
+        history.SetSQLInitData(kAllFields, kPartFields, u"F"_s, u"Name"_s, u"first filter"_s);
     }
 
     void Push(const QString &text)
@@ -49,8 +50,8 @@ protected:
 
 TEST_F(History, KeepsItsSetUp)
 {
-    EXPECT_EQ(history.AllFields(), kAll);
-    EXPECT_EQ(history.ShowFieds(), kPart);
+    EXPECT_EQ(history.AllFields(), kAllFields);
+    EXPECT_EQ(history.ShowFieds(), kPartFields);
     EXPECT_EQ(history.FilterWord(), u"F"_s);
     EXPECT_EQ(history.OrderWord(), u"Name"_s);
     EXPECT_EQ(history.OriginFilter(), u"first filter"_s);
@@ -93,8 +94,8 @@ TEST_F(History, CurrentStatementInheritsTheSetUp)
     ASSERT_TRUE(history.AddCurrentSQL(u"show"_s, AllFieldsShown, u"cp"_s, u"cs"_s));
     const clsShowSQLSentence *const entry = history.Item(1);
     EXPECT_EQ(entry->OrgSQL, u"first filter"_s);
-    EXPECT_EQ(entry->AllFields, kAll);
-    EXPECT_EQ(entry->PartFields, kPart);
+    EXPECT_EQ(entry->AllFields, kAllFields);
+    EXPECT_EQ(entry->PartFields, kPartFields);
     EXPECT_EQ(entry->OrderFields, u"Name"_s);
     EXPECT_EQ(entry->CurrPartFields, u"cp"_s);
     EXPECT_EQ(entry->CurrOrderFields, u"cs"_s);
@@ -194,9 +195,9 @@ TEST_F(History, ShowsAllOrPartFieldsOfTheLatest)
 {
     Push(u"select * from T where A=1"_s);
     EXPECT_TRUE(history.GetNextShowSQL(AllFieldsStatement, statement));
-    EXPECT_EQ(statement, kAll + u" where A=1  ORDER BY Name"_s);
+    EXPECT_EQ(statement, kAllFields + u" where A=1  ORDER BY Name"_s);
     EXPECT_TRUE(history.GetNextShowSQL(PartFieldsStatement, statement));
-    EXPECT_EQ(statement, kPart + u" where A=1  ORDER BY Name"_s);
+    EXPECT_EQ(statement, kPartFields + u" where A=1  ORDER BY Name"_s);
     for (const auto other : {StatementType{-1}, FirstStatement, PreviousStatement, ChosenFieldsStatement}) {
         statement = u"old"_s;
         EXPECT_TRUE(history.GetNextShowSQL(other, statement));
@@ -242,8 +243,8 @@ TEST_F(History, StarStaysWhereItsFieldsAreNotCalledWhatTheDriverSays)
 
 TEST_F(History, StatementWithoutStarIsNotExpanded)
 {
-    EXPECT_TRUE(history.GetAllFieldNameSQL(u"DSN=a"_s, kPart, statement));
-    EXPECT_EQ(statement, kPart);
+    EXPECT_TRUE(history.GetAllFieldNameSQL(u"DSN=a"_s, kPartFields, statement));
+    EXPECT_EQ(statement, kPartFields);
     EXPECT_EQ(reader.reads, 0);
 }
 
@@ -331,7 +332,7 @@ TEST_F(History, ClearForgetsEverythingButItsReader)
     EXPECT_EQ(history.Count() + history.DataFields().Count(), 0);
     EXPECT_EQ(history.ConnString() + history.AllFields() + history.OrderWord(), QString());
     history.SetConnString(u"DSN=a"_s);
-    history.SetAllFields(kAll);
+    history.SetAllFields(kAllFields);
     ASSERT_TRUE(history.AddCurrentSQL(u"a"_s, AllFieldsShown, {}, {}, &key));
     EXPECT_EQ(key, u"0ForDel"_s);
     EXPECT_TRUE(history.GetCurrSQLFieldsStatus());

@@ -8,7 +8,7 @@ using KOVAVSFDataGridLib::DecimalSum;
 
 namespace {
 
-struct Case
+struct SumCase
 {
     std::vector<const char *> terms;
     const char *sum;
@@ -18,7 +18,7 @@ struct Case
 
 TEST(DecimalSum, IsExactForDecimals)
 {
-    const std::vector<Case> cases{
+    const std::vector<SumCase> cases{
         {{}, "0"},
         {{"0.1", "0.2"}, "0.3"},
         {{"12.50", "-2.5"}, "10.00"},
@@ -29,7 +29,7 @@ TEST(DecimalSum, IsExactForDecimals)
         {{".5", "5."}, "5.5"},
         {{"1e3", "1"}, "1001"},
     };
-    for (const Case &one : cases) {
+    for (const SumCase &one : cases) {
         DecimalSum sum;
         for (const char *term : one.terms)
             EXPECT_TRUE(sum.addText(term)) << term;

@@ -24,12 +24,12 @@ bool isNumber(const QVariant &value)
     }
 }
 
-[[noreturn]] void badArgument(const QVariant &value)
+} // namespace
+
+void badArgument(const QVariant &value)
 {
     throw Error(adErrInvalidArgument, Texts::badArgument().arg(value.toString()));
 }
-
-} // namespace
 
 void RecordWalk::setFilter(const QVariant &filter)
 {

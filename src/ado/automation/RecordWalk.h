@@ -61,4 +61,7 @@ private:
     qint64 m_latestPlace = 0;
 };
 
+// Throws that the value is not one that the argument can have.
+[[noreturn]] void badArgument(const QVariant &value);
+
 } // namespace ADODB

@@ -21,11 +21,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-[[noreturn]] void badArgument(const QVariant &value)
-{
-    throw Error(adErrInvalidArgument, Texts::badArgument().arg(value.toString()));
-}
-
 // An optional argument.
 qint64 number(const QVariant &argument, qint64 byDefault)
 {

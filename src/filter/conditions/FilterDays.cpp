@@ -85,11 +85,6 @@ const std::vector<RelativeWord> &relativeWords()
     return words;
 }
 
-QString narrow(const QString &typed)
-{
-    return typed.normalized(QString::NormalizationForm_KC).trimmed();
-}
-
 // N days up to and including today.
 std::optional<DayRange> readLastDays(const QString &text, QDate today)
 {
@@ -143,6 +138,11 @@ std::optional<DayRange> readDay(const QString &text)
 }
 
 } // namespace
+
+QString narrow(const QString &typed)
+{
+    return typed.normalized(QString::NormalizationForm_KC).trimmed();
+}
 
 std::optional<DayRange> readDays(const QString &typed, QDate today)
 {

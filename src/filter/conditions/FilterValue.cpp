@@ -14,11 +14,6 @@ namespace {
 
 const QString listSeparators = uR"(,，、;；\t\r\n\x{2028}\x{2029})"_s; // in the syntax of regular expressions
 
-QString narrow(const QString &typed)
-{
-    return typed.normalized(QString::NormalizationForm_KC).trimmed();
-}
-
 // Keeps the digits as typed, so that none of a long number is lost.
 std::optional<QString> plainNumber(const QString &typed)
 {

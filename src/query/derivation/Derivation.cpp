@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString orderWords = u" ORDER BY "_s;
+const QString orderBy = u" ORDER BY "_s;
 
 } // namespace
 
@@ -78,7 +78,7 @@ bool Derivation::isFoundAsText() const
     };
     return isAt(u" FROM "_s, m_parts.source, m_parts.source.begin - 1) &&
            isAt(u" WHERE "_s, m_parts.where, m_parts.where.begin) &&
-           isAt(orderWords, m_parts.order, m_parts.order.begin);
+           isAt(orderBy, m_parts.order, m_parts.order.begin);
 }
 
 bool Derivation::hasPlainList() const
@@ -140,7 +140,7 @@ QString Derivation::withSort(const QString &sortList) const
         return {};
     SQLSentence sentence = base();
     const QString terms = sortableTerms(sortList);
-    sentence.order = terms.isEmpty() ? QString() : orderWords + terms;
+    sentence.order = terms.isEmpty() ? QString() : orderBy + terms;
     return joinSQLSentence(sentence);
 }
 
@@ -313,7 +313,7 @@ SQLSentence Derivation::base() const
     return {prefix() + u"SELECT "_s + (isDistinctTable() ? u"DISTINCT "_s : QString()) + tableList() +
                 u" FROM "_s + asTable(),
             {},
-            sort.isEmpty() ? QString() : orderWords + sort};
+            sort.isEmpty() ? QString() : orderBy + sort};
 }
 
 QString Derivation::headWith(const QString &list) const

@@ -12,7 +12,7 @@ namespace {
 
 using RawKind = ADODB::RawValue::Kind;
 
-constexpr qint64 cellsOfAStep = 200000; // takes about ten milliseconds
+constexpr qint64 cellsOfASum = 200000; // takes about ten milliseconds
 
 int firstFieldOf(const ExportColumns &columns)
 {
@@ -61,7 +61,7 @@ SelectionSummary::SelectionSummary(const ADODB::Recordset &recordset, const Reco
 
 void SelectionSummary::addNextCells()
 {
-    const auto rows = std::max<qint64>(1, cellsOfAStep / std::max<qint64>(1, std::ssize(m_columns)));
+    const auto rows = std::max<qint64>(1, cellsOfASum / std::max<qint64>(1, std::ssize(m_columns)));
     const qint64 end = std::min(m_range.last, m_next + rows - 1);
     for (; m_next <= end; ++m_next) {
         const std::vector<ADODB::RawValue> *const cells = m_reader.read(m_next);

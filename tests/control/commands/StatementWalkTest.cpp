@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int defaultSteps = 10000;
+constexpr int defaultWalkSteps = 10000;
 
 struct WalkedDatabase
 {
@@ -70,7 +70,7 @@ protected:
     }
 };
 
-int numberFrom(const char *variable, int otherwise)
+int walkNumber(const char *variable, int otherwise)
 {
     bool isNumber = false;
     const int number = qEnvironmentVariableIntValue(variable, &isNumber);
@@ -81,8 +81,8 @@ int numberFrom(const char *variable, int otherwise)
 
 TEST_F(StatementWalk, ShowsTheRowsOfAModelAfterEveryStep)
 {
-    const int steps = numberFrom("KOVA_WALK_STEPS", defaultSteps);
-    const auto seed = static_cast<unsigned>(numberFrom("KOVA_MONKEY_SEED", 20240229));
+    const int steps = walkNumber("KOVA_WALK_STEPS", defaultWalkSteps);
+    const auto seed = static_cast<unsigned>(walkNumber("KOVA_MONKEY_SEED", 20240229));
     std::printf("walk: %d steps from seed %u\n", steps, seed);
     std::mt19937 random(seed);
     StatementWalker walker(*this, random);

@@ -12,31 +12,31 @@ namespace {
 
 using CatalogueOperation = std::function<QJsonValue(colDataFields &, const Arguments &)>;
 
-QJsonValue Added(bool isDone, const QString &key)
+QJsonValue KeyAdded(bool isDone, const QString &key)
 {
     return QJsonObject{{u"ok"_s, isDone}, {u"PassKey"_s, key}};
 }
 
-QJsonValue AddAll(colDataFields &fields, const Arguments &a)
+QJsonValue AddAllFields(colDataFields &fields, const Arguments &a)
 {
     QString key = a.OptionalText(6);
     const bool isDone = fields.AddAllFieldMess(a.Text(0), a.Number(1), a.Number(2), a.Number(3), a.Number(4),
                                                a.Number(5), &key);
-    return Added(isDone, key);
+    return KeyAdded(isDone, key);
 }
 
-QJsonValue AddSimple(colDataFields &fields, const Arguments &a)
+QJsonValue AddSimpleField(colDataFields &fields, const Arguments &a)
 {
     QString key = a.OptionalText(4);
     const bool isDone = fields.AddSimpleFieldMess(a.Text(0), a.Number(1), a.Number(2), a.Number(3), &key);
-    return Added(isDone, key);
+    return KeyAdded(isDone, key);
 }
 
 QJsonValue AddName(colDataFields &fields, const Arguments &a)
 {
     QString key = a.OptionalText(2);
     const bool isDone = fields.AddFieldNameMess(a.Text(0), a.OptionalText(1), &key);
-    return Added(isDone, key);
+    return KeyAdded(isDone, key);
 }
 
 QJsonValue SelFieldKey(colDataFields &fields, const Arguments &a)
@@ -46,7 +46,7 @@ QJsonValue SelFieldKey(colDataFields &fields, const Arguments &a)
     return QJsonObject{{u"ok"_s, isDone}, {u"strRetKey"_s, key}};
 }
 
-QJsonValue ShowFieldsCount(colDataFields &fields, const Arguments &)
+QJsonValue FieldsShown(colDataFields &fields, const Arguments &)
 {
     qint32 count = 0;
     fields.GetCurrShowFieldsCount(count);
@@ -59,13 +59,13 @@ QJsonValue RemoveField(colDataFields &fields, const Arguments &a)
     return {};
 }
 
-const QHash<QString, CatalogueOperation> &Operations()
+const QHash<QString, CatalogueOperation> &CatalogueOperations()
 {
     using F = colDataFields;
     using A = Arguments;
     static const QHash<QString, CatalogueOperation> operations{
-        {u"AddAllFieldMess"_s, AddAll},
-        {u"AddSimpleFieldMess"_s, AddSimple},
+        {u"AddAllFieldMess"_s, AddAllFields},
+        {u"AddSimpleFieldMess"_s, AddSimpleField},
         {u"AddFieldNameMess"_s, AddName},
         {u"AddFieldsByCol"_s, [](F &f, const A &a) { return f.AddFieldsByCol(a.Texts(0)); }},
         {u"AppendFieldRealNameByCol"_s,
@@ -75,7 +75,7 @@ const QHash<QString, CatalogueOperation> &Operations()
         {u"GetSelFieldKey"_s, SelFieldKey},
         {u"GetSelFieldRealName"_s, [](F &f, const A &a) { return f.GetSelFieldRealName(a.Text(0)); }},
         {u"IsSelFieldPartField"_s, [](F &f, const A &a) { return f.IsSelFieldPartField(a.Text(0)); }},
-        {u"GetCurrShowFieldsCount"_s, ShowFieldsCount},
+        {u"GetCurrShowFieldsCount"_s, FieldsShown},
         {u"Clear"_s, [](F &f, const A &) { return f.Clear(); }},
         {u"Count"_s, [](F &f, const A &) { return f.Count(); }},
         {u"Remove"_s, RemoveField},
@@ -108,7 +108,7 @@ QJsonValue RunCatalogue(const Arguments &arguments)
     return RunOperations(
         ObjectOf(arguments.At(0)),
         [&](const QJsonObject &step) {
-            const auto operation = Operations().value(textOf(step.value(u"op")));
+            const auto operation = CatalogueOperations().value(textOf(step.value(u"op")));
             if (!operation)
                 throw std::invalid_argument("unknown operation");
             return operation(catalogue, Arguments(ListOf(step.value(u"args"))));

@@ -67,7 +67,7 @@ QJsonValue RequirePart(M &m, const A &a)
     return Chosen(isDone, u"strRetSQL"_s, statement);
 }
 
-QJsonValue Let(M &m, const A &a)
+QJsonValue LetProperty(M &m, const A &a)
 {
     static const QHash<QString, void (M::*)(const QString &)> textSetters{
         {u"AllFields"_s, &M::SetAllFields},
@@ -89,10 +89,10 @@ QJsonValue Let(M &m, const A &a)
     return {};
 }
 
-const QHash<QString, ManagerOperation> &Operations()
+const QHash<QString, ManagerOperation> &ManagerOperations()
 {
     static const QHash<QString, ManagerOperation> operations{
-        {u"Let"_s, Let},
+        {u"Let"_s, LetProperty},
         {u"SetSQLInitData"_s, [](M &m, const A &) { return m.SetSQLInitData(); }},
         {u"LetNewFilter"_s, NewFilter},
         {u"LetNewSQLStr"_s, [](M &m, const A &a) { return m.LetNewSQLStr(a.Text(0)); }},
@@ -144,7 +144,7 @@ QJsonValue RunManagerOperation(M &manager, const QString &name, const Arguments 
     const QString historyPrefix = u"SQLManager."_s;
     if (name.startsWith(historyPrefix))
         return RunHistoryOperation(manager.SQLManager(), name.mid(historyPrefix.size()), arguments);
-    const auto operation = Operations().value(name);
+    const auto operation = ManagerOperations().value(name);
     if (!operation)
         throw std::invalid_argument("unknown operation");
     return operation(manager, arguments);

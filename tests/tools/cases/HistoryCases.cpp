@@ -16,7 +16,7 @@ using HistoryOperation = std::function<QJsonValue(H &, const A &)>;
 using NextStatement = bool (H::*)(const QString &, QString &) const;
 using StepBack = bool (H::*)(QString &, QString *);
 
-QJsonValue Added(bool isDone, const QString &key)
+QJsonValue EntryAdded(bool isDone, const QString &key)
 {
     return QJsonObject{{u"ok"_s, isDone}, {u"PassKey"_s, key}};
 }
@@ -30,7 +30,7 @@ QJsonValue AddSimple(H &h, const A &a)
 {
     QString key = a.OptionalText(3);
     const bool isDone = h.AddSimpleSQLMess(a.Text(0), a.Text(1), static_cast<ShownFields>(a.Number(2)), &key);
-    return Added(isDone, key);
+    return EntryAdded(isDone, key);
 }
 
 QJsonValue AddSQL(H &h, const A &a)
@@ -38,7 +38,7 @@ QJsonValue AddSQL(H &h, const A &a)
     QString key = a.OptionalText(8);
     const bool isDone = h.AddSQLMess(a.Text(0), a.Text(1), static_cast<ShownFields>(a.Number(2)), a.Text(3),
                                      a.Text(4), a.Text(5), a.OptionalText(6), a.OptionalText(7), &key);
-    return Added(isDone, key);
+    return EntryAdded(isDone, key);
 }
 
 QJsonValue AddAll(H &h, const A &a)
@@ -47,7 +47,7 @@ QJsonValue AddAll(H &h, const A &a)
     const bool isDone = h.AddAllSQLMess(a.Text(0), a.Text(1), a.Text(2), a.Text(3), a.Text(4),
                                         static_cast<ShownFields>(a.Number(5)), a.Text(6), a.Text(7),
                                         a.Text(8), a.OptionalText(9), a.OptionalText(10), &key);
-    return Added(isDone, key);
+    return EntryAdded(isDone, key);
 }
 
 QJsonValue AddCurrent(H &h, const A &a)
@@ -55,7 +55,7 @@ QJsonValue AddCurrent(H &h, const A &a)
     QString key = a.OptionalText(4);
     const bool isDone = h.AddCurrentSQL(a.Text(0), static_cast<ShownFields>(a.Number(1)), a.OptionalText(2),
                                         a.OptionalText(3), &key);
-    return Added(isDone, key);
+    return EntryAdded(isDone, key);
 }
 
 QJsonValue Latest(H &h, const A &)
@@ -132,7 +132,7 @@ QJsonValue RemoveEntry(H &h, const A &a)
     return {};
 }
 
-const QHash<QString, HistoryOperation> &Operations()
+const QHash<QString, HistoryOperation> &HistoryOperations()
 {
     static const QHash<QString, HistoryOperation> operations{
         {u"SetSQLInitData"_s, Init},
@@ -183,7 +183,7 @@ QJsonObject StateOf(const H &history)
 
 QJsonValue RunHistoryOperation(H &history, const QString &name, const Arguments &arguments)
 {
-    const auto operation = Operations().value(name);
+    const auto operation = HistoryOperations().value(name);
     if (!operation)
         throw std::invalid_argument("unknown operation");
     return operation(history, arguments);

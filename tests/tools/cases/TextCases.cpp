@@ -18,6 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using A = Arguments;
+
 AllDBType DatabaseOf(const Arguments &arguments)
 {
     return static_cast<AllDBType>(arguments.Number(0));
@@ -269,7 +271,6 @@ QJsonValue SplitFilterTableNameCase(const Arguments &arguments)
 
 QHash<QString, TextCase> MakeTextCases()
 {
-    using A = Arguments;
     return {
         {u"ParseSQLFieldList"_s, ParseSQLFieldListCase},
         {u"ParseSelFieldList"_s, ParseSelFieldListCase},

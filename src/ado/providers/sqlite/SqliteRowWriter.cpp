@@ -66,7 +66,7 @@ private:
     SqliteCall m_rollback;
 };
 
-QString sqliteSource()
+QString sqliteName()
 {
     return u"SQLite"_s;
 }
@@ -75,7 +75,7 @@ QString sqliteSource()
 void changeOneRow(SqliteCall &call)
 {
     call.step();
-    RowComparison::needOneChange(sqlite3_changes(sqlite3_db_handle(call.handle())), sqliteSource());
+    RowComparison::needOneChange(sqlite3_changes(sqlite3_db_handle(call.handle())), sqliteName());
 }
 
 } // namespace
@@ -133,7 +133,7 @@ void SqliteRowWriter::needRowAsShown(const std::vector<RawValue> &row) const
 {
     RowStore found(static_cast<int>(row.size()));
     readRow(row, {}, found);
-    RowComparison::needRowAsShown(found, row, m_target.compared, sqliteSource());
+    RowComparison::needRowAsShown(found, row, m_target.compared, sqliteName());
 }
 
 void SqliteRowWriter::insert(const std::vector<Change> &changes, RowStore &stored)
@@ -161,7 +161,7 @@ void SqliteRowWriter::insert(const std::vector<Change> &changes, RowStore &store
         while (reading.step())
             appendCurrentRow(reading.handle(), stored);
     }
-    RowComparison::needOneRow(stored.rows(), sqliteSource());
+    RowComparison::needOneRow(stored.rows(), sqliteName());
     transaction.commit();
 }
 
@@ -181,7 +181,7 @@ void SqliteRowWriter::update(const std::vector<RawValue> &row, const std::vector
     bindKey(writing, row, {});
     changeOneRow(writing);
     readRow(row, changes, stored);
-    RowComparison::needOneRow(stored.rows(), sqliteSource());
+    RowComparison::needOneRow(stored.rows(), sqliteName());
     transaction.commit();
 }
 

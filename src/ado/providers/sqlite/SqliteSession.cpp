@@ -53,7 +53,7 @@ SqliteHandle compile(sqlite3 *db, const QByteArray &sql, const char **tail)
     return SqliteHandle(statement);
 }
 
-Error refusal(ProviderErrorEnum number, const QString &description)
+Error sqliteRefusal(ProviderErrorEnum number, const QString &description)
 {
     return Error(number, description, u"SQLite"_s, u"42000"_s);
 }
@@ -239,16 +239,16 @@ SqliteHandle SqliteSession::prepareQuery(const QString &sql) const
     const char *tail = nullptr;
     SqliteHandle statement = compile(db(), text, &tail);
     if (!statement)
-        throw refusal(dbErrInCommand, Texts::emptyStatement());
+        throw sqliteRefusal(dbErrInCommand, Texts::emptyStatement());
     const QByteArray rest = text.sliced(tail - text.constData());
     if (SqlScanner(QString::fromUtf8(rest)).count() > 0)
-        throw refusal(dbErrMultipleStatements, Texts::secondStatement());
+        throw sqliteRefusal(dbErrMultipleStatements, Texts::secondStatement());
     if (!sqlite3_stmt_readonly(statement.get()) || sqlite3_column_count(statement.get()) == 0)
-        throw refusal(dbErrPermissionDenied, Texts::notAQuery());
+        throw sqliteRefusal(dbErrPermissionDenied, Texts::notAQuery());
     if (sqlite3_bind_parameter_count(statement.get()) > 0) {
         const char *name = sqlite3_bind_parameter_name(statement.get(), 1);
-        throw refusal(dbErrInCommand,
-                      Texts::parameterInStatement().arg(name ? QString::fromUtf8(name) : u"?"_s));
+        throw sqliteRefusal(dbErrInCommand,
+                            Texts::parameterInStatement().arg(name ? QString::fromUtf8(name) : u"?"_s));
     }
     return statement;
 }

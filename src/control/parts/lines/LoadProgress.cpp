@@ -22,7 +22,7 @@ namespace KOVAVSFDataGridLib {
 
 namespace {
 
-constexpr qint64 patience = 500;      // milliseconds before the line shows
+constexpr qint64 hiddenAtFirst = 500; // milliseconds before the line shows
 constexpr qint64 eventsInterval = 30; // milliseconds between two dispatches of events
 constexpr int barSteps = 1000;
 constexpr int mostExpected = barSteps * 99 / 100;
@@ -134,7 +134,7 @@ LoadProgress::~LoadProgress()
 
 bool LoadProgress::shouldContinue(qint64 rowsDone)
 {
-    if (!m_isLineShown && m_sinceBegin.hasExpired(patience))
+    if (!m_isLineShown && m_sinceBegin.hasExpired(hiddenAtFirst))
         showLine();
     if (!m_line || !m_sinceEvents.hasExpired(eventsInterval))
         return !m_isCancelled;
