@@ -88,8 +88,8 @@
         <translation>Connect Timeout in the connection string must be a number of seconds, 0 or more.</translation>
     </message>
     <message>
-        <source>没有安装名为“%1”的 ODBC 驱动程序，已安装的有：%2。</source>
-        <translation>No ODBC driver named &quot;%1&quot; is installed. Installed are: %2.</translation>
+        <source>没有安装名为“%1”的 ODBC 驱动程序（%2 位版本，与本程序相同），已安装的有：%3。</source>
+        <translation>No ODBC driver named &quot;%1&quot; is installed (the %2-bit version, like this program). Installed are: %3.</translation>
     </message>
     <message>
         <source>没有安装连接字符串所需的 ODBC 驱动程序。请安装%1（%2 位版本，与本程序相同）。已安装的有：%3。</source>

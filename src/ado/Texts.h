@@ -41,7 +41,8 @@ inline constexpr Text accessPassword = tr("该 Access 数据库的密码不正�
 inline constexpr Text badTimeout = tr("连接字符串中的 Connect Timeout 必须是不小于 0 的秒数。");
 
 // Database servers
-inline constexpr Text noDriver = tr("没有安装名为“%1”的 ODBC 驱动程序，已安装的有：%2。");
+inline constexpr Text noDriver =
+    tr("没有安装名为“%1”的 ODBC 驱动程序（%2 位版本，与本程序相同），已安装的有：%3。");
 inline constexpr Text noOleDbDriver =
     tr("没有安装连接字符串所需的 ODBC 驱动程序。请安装%1（%2 位版本，与本程序相同）。已安装的有：%3。");
 inline constexpr Text sqlServerDriver = tr("“ODBC Driver 18 for SQL Server”");

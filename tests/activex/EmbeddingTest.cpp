@@ -1,3 +1,4 @@
+#include "Canvas.h"
 #include "SampleControl.h"
 #include "SampleFile.h"
 #include "Scene.h"
@@ -23,37 +24,6 @@ DISPID idOf(const Object &object, const wchar_t *name)
     EXPECT_EQ(object->GetIDsOfNames(IID_NULL, &writable, 1, LOCALE_USER_DEFAULT, &id), S_OK);
     return id;
 }
-
-// A black picture of the screen's kind to draw on.
-class Canvas
-{
-public:
-    Canvas(int width, int height)
-    {
-        const HDC screen = GetDC(nullptr);
-        m_context = CreateCompatibleDC(screen);
-        m_bitmap = CreateCompatibleBitmap(screen, width, height);
-        m_before = SelectObject(m_context, m_bitmap);
-        PatBlt(m_context, 0, 0, width, height, BLACKNESS);
-        ReleaseDC(nullptr, screen);
-    }
-    ~Canvas()
-    {
-        SelectObject(m_context, m_before);
-        DeleteObject(m_bitmap);
-        DeleteDC(m_context);
-    }
-    Canvas(const Canvas &) = delete;
-    Canvas &operator=(const Canvas &) = delete;
-
-    HDC context() const { return m_context; }
-    COLORREF at(int x, int y) const { return GetPixel(m_context, x, y); }
-
-private:
-    HDC m_context;
-    HBITMAP m_bitmap;
-    HGDIOBJ m_before;
-};
 
 FORMATETC metafile(CLIPFORMAT format, DWORD tymed)
 {
@@ -350,6 +320,27 @@ TEST(Embedding, FollowsTheFormsLanguage)
     EXPECT_EQ(get(container.control(), L"Language").text(), L"en");
     container.setAmbient(DISPID_AMBIENT_LOCALEID, 0x0804);
     EXPECT_EQ(get(container.control(), L"Language").text(), L"zh-CN");
+}
+
+TEST(Embedding, ShowsItsTextsInAnotherLanguageAtOnce)
+{
+    constexpr int width = 800;
+    constexpr int height = 500;
+    Container container(width, height);
+    load(container);
+    const std::vector<COLORREF> chinese = Canvas(width, height).drawn(container);
+    put(container.control(), L"Language", L"en");
+    container.run();
+    const std::vector<COLORREF> changed = Canvas(width, height).drawn(container);
+    {
+        Container english(width, height);
+        load(english);
+        EXPECT_TRUE(changed == Canvas(width, height).drawn(english));
+    }
+    put(container.control(), L"Language", L"zh-CN");
+    container.run();
+    EXPECT_TRUE(chinese == Canvas(width, height).drawn(container));
+    EXPECT_FALSE(chinese == changed);
 }
 
 TEST(Embedding, WhileTheFormIsDeadSoIsTheControl)

@@ -31,8 +31,9 @@ QString isoDate(const QString &text)
     if (!match.hasMatch())
         return text;
     const auto part = [&](int number) { return match.captured(number).toInt(); };
-    const QString date =
-        u"%1-%2-%3"_s.arg(match.captured(3)).arg(part(1), 2, 10, QLatin1Char('0')).arg(part(2), 2, 10, QLatin1Char('0'));
+    const QString date = u"%1-%2-%3"_s.arg(match.captured(3))
+                             .arg(part(1), 2, 10, QLatin1Char('0'))
+                             .arg(part(2), 2, 10, QLatin1Char('0'));
     if (match.captured(4).isEmpty())
         return date;
     int hour = part(4);
@@ -41,7 +42,10 @@ QString isoDate(const QString &text)
             return text; // no hour of half a day
         hour = hour % 12 + (half == u"P" ? 12 : 0);
     }
-    return u"%1 %2:%3:%4"_s.arg(date).arg(hour, 2, 10, QLatin1Char('0')).arg(part(5), 2, 10, QLatin1Char('0')).arg(part(6), 2, 10, QLatin1Char('0'));
+    return u"%1 %2:%3:%4"_s.arg(date)
+        .arg(hour, 2, 10, QLatin1Char('0'))
+        .arg(part(5), 2, 10, QLatin1Char('0'))
+        .arg(part(6), 2, 10, QLatin1Char('0'));
 }
 
 } // namespace

@@ -12,7 +12,8 @@ class Recordset;
 // A condition on records in the syntax of ADO's Filter and Find: `name LIKE 'L%' AND (age >= 18 OR age =
 // NULL)`. The operators are = <> < <= > >= and LIKE; AND has precedence over OR. Names with characters other
 // than letters and digits must be in brackets. A value is a number, a text in '…' with doubled quotes inside,
-// a date in #…#, TRUE, FALSE or NULL. A date is written as year-month-day or as month/day/year, with a time if need be. Comparisons are case-insensitive. In a pattern, * and % match any text.
+// a date in #…#, TRUE, FALSE or NULL. A date is written as year-month-day or as month/day/year, with a time
+// if need be. Comparisons are case-insensitive. In a pattern, * and % match any text.
 class Criteria
 {
 public:

@@ -199,9 +199,9 @@ void OdbcLogin::checkDriver() const
     const QStringList installed = odbcDrivers();
     if (!installed.contains(driver, Qt::CaseInsensitive)) {
         throw Error(adErrProviderNotFound,
-                    Texts::noDriver().arg(driver, installed.isEmpty()
-                                                      ? Texts::noneInstalled()
-                                                      : installed.join(Texts::betweenNames())));
+                    Texts::noDriver().arg(driver, QString::number(QT_POINTER_SIZE * 8),
+                                          installed.isEmpty() ? Texts::noneInstalled()
+                                                              : installed.join(Texts::betweenNames())));
     }
 }
 
