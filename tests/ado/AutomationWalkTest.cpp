@@ -53,9 +53,10 @@ TEST_F(AutomationWalk, FilterLeavesTheRecordsThatMeetACondition)
 TEST_F(AutomationWalk, AWrongFilterIsRefusedAndChangesNothing)
 {
     put("Filter", u"age > 10"_s);
-    for (const char16_t *wrong : {u"age", u"age = ", u"age ! 3", u"(age = 3", u"age = 3 AND", u"age = 3 4",
-                                  u"name = 'Li", u"[born on] > #31/12/1999#", u"[born on] > 'soon'",
-                                  u"[born on] < #1/1/2000 13:00 PM#", u"age LIKE NULL", u"age > NULL", u"[age = 3"}) {
+    for (const char16_t *wrong :
+         {u"age", u"age = ", u"age ! 3", u"(age = 3", u"age = 3 AND", u"age = 3 4", u"name = 'Li",
+          u"[born on] > #31/12/1999#", u"[born on] > 'soon'", u"[born on] < #1/1/2000 13:00 PM#",
+          u"age LIKE NULL", u"age > NULL", u"[age = 3"}) {
         put("Filter", QString::fromUtf16(wrong));
         EXPECT_EQ(lastError(), number(ADODB::adErrInvalidArgument))
             << QString::fromUtf16(wrong).toStdString();
