@@ -181,6 +181,7 @@ TEST_P(Translations, HaveAFormForOneWhereTheyCount)
     static const QRegularExpression counts(
         u"(?<!第 )%\\d ?(?:条|个|处|项|行|列|页|位|天|秒|次|字节|字符|像素)"_s);
     static const QStringList neverOne{
+        u"没有安装名为“%1”的 ODBC 驱动程序（%2 位版本，与本程序相同），已安装的有：%3。"_s,
         u"没有安装连接字符串所需的 ODBC 驱动程序。请安装%1（%2 位版本，与本程序相同）。已安装的有：%3。"_s,
         u"无法唯一确定要修改的记录（有 %1 条相同的记录），没有保存任何更改。"_s,
         u"XLSX 最多有 %1 列，而结果有 %2 列。"_s,
