@@ -53,8 +53,8 @@ TEST_P(OdbcNames, OfTablesAndViewsAreListedAndOpened)
     execute(u"CREATE VIEW kova_v AS SELECT * FROM kova_a"_s);
     QStringList found;
     for (const Connection::Table &table : connection->Tables()) {
-        if (!table.name.startsWith(u"kova_"_s))
-            continue;
+        if (table.name != "kova_a"_L1 && table.name != "kova_v"_L1)
+            continue; // another program's that uses the database meanwhile
         EXPECT_EQ(table.schema, QString());
         const auto records = open(u"SELECT %1 FROM %2"_s.arg(connection->WrittenName(u"Order"_s),
                                                              connection->WrittenName(table.name)),
