@@ -490,6 +490,10 @@
         <source>一条语句只有一个结果。</source>
         <translation>A statement has only one result.</translation>
     </message>
+    <message>
+        <source>条件“%1”有误，#…# 中的日期只能与日期或时间字段比较。</source>
+        <translation>The condition &quot;%1&quot; is wrong. A date in #…# can only be compared with a date or time field.</translation>
+    </message>
 </context>
 <context>
     <name>KOVAVSFDataGridLib::CellTexts</name>

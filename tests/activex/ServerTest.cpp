@@ -12,6 +12,40 @@ namespace {
 
 constexpr wchar_t progId[] = L"KOVAVSFDataGridLib.KOVAVSFDataGrid";
 
+// The own value of a key below Software\Classes. No key has an empty one here.
+std::wstring registered(HKEY root, const std::wstring &key)
+{
+    std::array<wchar_t, MAX_PATH> value{};
+    DWORD size = sizeof value;
+    RegGetValueW(root, (L"Software\\Classes\\" + key).c_str(), nullptr, RRF_RT_REG_SZ, nullptr, value.data(),
+                 &size);
+    return value.data();
+}
+
+void put(HKEY root, const std::wstring &key, const std::wstring &value, REGSAM view = 0)
+{
+    HKEY opened = nullptr;
+    ASSERT_EQ(RegCreateKeyExW(root, (L"Software\\Classes\\" + key).c_str(), 0, nullptr, 0, KEY_WRITE | view,
+                              nullptr, &opened, nullptr),
+              ERROR_SUCCESS);
+    EXPECT_EQ(RegSetValueExW(opened, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE *>(value.c_str()),
+                             static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t))),
+              ERROR_SUCCESS);
+    RegCloseKey(opened);
+}
+
+bool hasProgId(HKEY root)
+{
+    return !registered(root, std::wstring(progId) + L"\\CLSID").empty();
+}
+
+std::wstring pathOf(HMODULE module)
+{
+    std::array<wchar_t, MAX_PATH> path{};
+    GetModuleFileNameW(module, path.data(), static_cast<DWORD>(path.size()));
+    return path.data();
+}
+
 class Server : public testing::Test
 {
 protected:
@@ -28,20 +62,23 @@ protected:
     }
     HMODULE module() const { return m_module; }
     HRESULT canUnload() const { return call("DllCanUnloadNow"); }
+    // Registers for everybody and for the user. The keys are those that name the server's file.
+    void registerTwice()
+    {
+        ASSERT_EQ(call("DllRegisterServer"), S_OK);
+        ASSERT_EQ(call("DllInstall", BOOL{TRUE}, L"user"), S_OK);
+        const std::wstring control =
+            L"CLSID\\" + registered(HKEY_LOCAL_MACHINE, std::wstring(progId) + L"\\CLSID");
+        serverKey = control + L"\\InprocServer32";
+        libraryKey = L"TypeLib\\" + registered(HKEY_LOCAL_MACHINE, control + L"\\TypeLib") +
+                     (sizeof(void *) == 8 ? L"\\1.0\\0\\win64" : L"\\1.0\\0\\win32");
+    }
+    std::wstring serverKey;
+    std::wstring libraryKey;
 
 private:
     HMODULE m_module;
 };
-
-bool hasProgId(HKEY root)
-{
-    HKEY key = nullptr;
-    const std::wstring name = std::wstring(L"Software\\Classes\\") + progId + L"\\CLSID";
-    if (RegOpenKeyExW(root, name.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS)
-        return false;
-    RegCloseKey(key);
-    return true;
-}
 
 // While this exists, only administrators can write machine-wide registrations, as on Windows; Wine allows it
 // to everybody.
@@ -147,6 +184,63 @@ TEST_F(Server, IsRegisteredForTheUserAloneWithoutRights)
     EXPECT_FALSE(hasProgId(HKEY_LOCAL_MACHINE));
     ASSERT_EQ(call("DllUnregisterServer"), S_OK);
     EXPECT_FALSE(hasProgId(HKEY_CURRENT_USER));
+}
+
+TEST_F(Server, UnregisteringLeavesWhatAnotherInstallationHasRegistered)
+{
+    const std::wstring another = pathOf(nullptr); // any other file
+    for (const HKEY others : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
+        const HKEY own = others == HKEY_LOCAL_MACHINE ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
+        registerTwice();
+        put(others, serverKey, another);
+        ASSERT_EQ(call("DllUnregisterServer"), S_OK);
+        EXPECT_TRUE(hasProgId(others));
+        EXPECT_EQ(registered(others, serverKey), another);
+        EXPECT_FALSE(hasProgId(own));
+        EXPECT_EQ(registered(own, serverKey), L"");
+        EXPECT_EQ(registered(HKEY_LOCAL_MACHINE, libraryKey), L"") << "it names this server's file";
+    }
+    registerTwice();
+    put(HKEY_LOCAL_MACHINE, libraryKey, another);
+    ASSERT_EQ(call("DllUnregisterServer"), S_OK);
+    EXPECT_FALSE(hasProgId(HKEY_LOCAL_MACHINE));
+    EXPECT_EQ(registered(HKEY_LOCAL_MACHINE, libraryKey), another);
+}
+
+TEST_F(Server, UnregisteringRemovesWhatNamesAFileThatIsGoneOrTheServersInCapitals)
+{
+    std::wstring capitals = pathOf(module());
+    CharUpperW(capitals.data());
+    ASSERT_NE(capitals, pathOf(module()));
+    for (const std::wstring &path : {pathOf(nullptr) + L".gone", capitals}) {
+        registerTwice();
+        for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE})
+            put(root, serverKey, path);
+        put(HKEY_LOCAL_MACHINE, libraryKey, path);
+        ASSERT_EQ(call("DllUnregisterServer"), S_OK);
+        for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
+            EXPECT_FALSE(hasProgId(root));
+            EXPECT_EQ(registered(root, serverKey), L"");
+        }
+        EXPECT_EQ(registered(HKEY_LOCAL_MACHINE, libraryKey), L"");
+    }
+}
+
+TEST_F(Server, TheNameStaysWithTheServerFor32Bits)
+{
+    if (sizeof(void *) == 4)
+        GTEST_SKIP() << "A 32-bit Windows has no other servers";
+    registerTwice();
+    put(HKEY_LOCAL_MACHINE, serverKey, pathOf(nullptr), KEY_WOW64_32KEY);
+    EXPECT_EQ(call("DllUnregisterServer"), S_OK);
+    EXPECT_TRUE(hasProgId(HKEY_LOCAL_MACHINE));
+    EXPECT_EQ(registered(HKEY_LOCAL_MACHINE, serverKey), L"");
+
+    put(HKEY_LOCAL_MACHINE, serverKey, pathOf(nullptr) + L".gone", KEY_WOW64_32KEY);
+    EXPECT_EQ(call("DllUnregisterServer"), S_OK);
+    EXPECT_FALSE(hasProgId(HKEY_LOCAL_MACHINE));
+    // The server for 32 bits removes its class by itself.
+    RegDeleteKeyExW(HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + serverKey).c_str(), KEY_WOW64_32KEY, 0);
 }
 
 } // namespace

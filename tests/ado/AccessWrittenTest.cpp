@@ -3,6 +3,7 @@
 #include "Printing.h"
 #include "Throwing.h"
 
+#include "ado/automation/RecordsetObject.h"
 #include "support/AccessWriter.h"
 
 #include <QtCore/QFile>
@@ -182,4 +183,19 @@ TEST_F(AccessWrittenTest, TablesOfTheSameNameOrOneOfSqlitesOwnDoNotHideTheOthers
         writer.addTable(name, {{u"a"_s, AccessType::Byte}, {u"A"_s, AccessType::Byte}}, {{1, 2}});
     open();
     EXPECT_EQ(sorted(), u"x"_s);
+}
+
+TEST_F(AccessWrittenTest, AFilterByNameComparesWithDatesInAnyWay)
+{
+    writer.addTable(u"T"_s, {{u"due"_s, AccessType::DateTime}},
+                    {{u"1999-12-31 08:00:00"_s}, {u"2000-01-01 00:00:00"_s}, {u"2000-02-01 00:00:00"_s}});
+    open();
+    const auto recordset = query(connection, u"SELECT * FROM T"_s);
+    RecordsetObject *const records = automation(recordset);
+    for (const QString &date : {u"#1/1/2000#"_s, u"#2000-01-01#"_s, u"'1/1/2000'"_s, u"'2000-01-01'"_s,
+                                u"#2000-01-01 00:00:00#"_s}) {
+        records->setProperty("Filter", u"due >= "_s + date);
+        EXPECT_EQ(records->property("RecordCount"), QVariant(2)) << date.toStdString();
+        records->setProperty("Filter", 0);
+    }
 }

@@ -56,7 +56,8 @@ TEST_F(AutomationWalk, AWrongFilterIsRefusedAndChangesNothing)
     for (const char16_t *wrong :
          {u"age", u"age = ", u"age ! 3", u"(age = 3", u"age = 3 AND", u"age = 3 4", u"name = 'Li",
           u"[born on] > #31/12/1999#", u"[born on] > 'soon'", u"[born on] < #1/1/2000 13:00 PM#",
-          u"age LIKE NULL", u"age > NULL", u"[age = 3"}) {
+          u"age LIKE NULL", u"age > NULL", u"[age = 3", u"age > #2000-01-01#", u"age = #20#",
+          u"name = #2000-01-01#", u"name < #Li#", u"name LIKE #L*#"}) {
         put("Filter", QString::fromUtf16(wrong));
         EXPECT_EQ(lastError(), number(ADODB::adErrInvalidArgument))
             << QString::fromUtf16(wrong).toStdString();

@@ -6,6 +6,7 @@
 #include "activex/server/TypeLibrary.h"
 
 #include <array>
+#include <filesystem>
 #include <olectl.h>
 #include <string>
 #include <vector>
@@ -140,10 +141,15 @@ HRESULT writeEntries(HKEY root)
     return fromError(outcome);
 }
 
+std::wstring classesKey(const std::wstring &key)
+{
+    return L"Software\\Classes\\" + key;
+}
+
 // A missing key is not an error, even if the user must not write there.
 LSTATUS removeKey(HKEY root, const std::wstring &key)
 {
-    const std::wstring path = L"Software\\Classes\\" + key;
+    const std::wstring path = classesKey(key);
     HKEY found = nullptr;
     const LSTATUS opened = RegOpenKeyExW(root, path.c_str(), 0, KEY_READ, &found);
     if (opened == ERROR_FILE_NOT_FOUND)
@@ -154,18 +160,55 @@ LSTATUS removeKey(HKEY root, const std::wstring &key)
     return RegDeleteTreeW(root, path.c_str());
 }
 
+// Whether the key's own value names the file of another installation. `view` is 0 or one of RRF_SUBKEY_….
+bool isOthers(HKEY root, const std::wstring &key, DWORD view = 0)
+{
+    std::array<wchar_t, 32768> path{};
+    DWORD size = sizeof path;
+    if (RegGetValueW(root, key.c_str(), nullptr, RRF_RT_REG_SZ | view, nullptr, path.data(), &size) !=
+        ERROR_SUCCESS)
+        return false;
+    // A file that can't be looked at is not gone.
+    const std::filesystem::path named(path.data());
+    std::error_code error;
+    return std::filesystem::status(named, error).type() != std::filesystem::file_type::not_found &&
+           !std::filesystem::equivalent(named, modulePath(), error);
+}
+
+bool isOthersClass(HKEY root, REFGUID id, DWORD view = 0)
+{
+    return isOthers(root, classesKey(classKey(id) + L"\\InprocServer32"), view);
+}
+
 // Removes as much as possible, and returns the first error.
 HRESULT unregisterAt(HKEY root, bool forUser)
 {
-    std::vector<std::wstring> keys{progId, classKey(controlId)};
+    std::vector<std::wstring> keys;
+    // Servers for 32 and 64 bits have the name in common, but not the classes.
+    if (!isOthersClass(root, controlId, RRF_SUBKEY_WOW6432KEY) &&
+        !isOthersClass(root, controlId, RRF_SUBKEY_WOW6464KEY))
+        keys.push_back(progId);
+    std::vector<GUID> classes{controlId};
     for (const PageClass &page : pageClasses)
-        keys.push_back(classKey(page.id));
-    // Also removes the interfaces that the library declares; what remains is removed with the keys.
-    if (forUser)
-        UnRegisterTypeLibForUser(libraryId, 1, 0, LOCALE_NEUTRAL, systemKind);
-    else
-        UnRegisterTypeLib(libraryId, 1, 0, LOCALE_NEUTRAL, systemKind);
-    keys.push_back(L"TypeLib\\" + text(libraryId) + L"\\1.0\\0\\" + systemName);
+        classes.push_back(page.id);
+    for (const GUID &id : classes) {
+        if (!isOthersClass(root, id))
+            keys.push_back(classKey(id));
+    }
+
+    const std::wstring library = L"TypeLib\\" + text(libraryId) + L"\\1.0\\0\\" + systemName;
+    // For a user, where programs see his own library first: Wine has no place for a library of one user, and
+    // registers it for everybody.
+    const bool staysLibrary =
+        forUser ? isOthers(HKEY_CLASSES_ROOT, library) : isOthers(root, classesKey(library));
+    if (!staysLibrary) {
+        // Also removes the interfaces that the library declares; what remains is removed with the keys.
+        if (forUser)
+            UnRegisterTypeLibForUser(libraryId, 1, 0, LOCALE_NEUTRAL, systemKind);
+        else
+            UnRegisterTypeLib(libraryId, 1, 0, LOCALE_NEUTRAL, systemKind);
+        keys.push_back(library);
+    }
 
     LSTATUS outcome = ERROR_SUCCESS;
     for (const std::wstring &key : keys) {

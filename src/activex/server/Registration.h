@@ -9,10 +9,12 @@ namespace KOVAVSFDataGridLib::ActiveX {
 HRESULT registerServer();
 // The same, but always for the user only.
 HRESULT registerServerForUser();
-// Removes both registrations; a missing one is not an error. Fails if something remains, for example if the
-// user must not change the registration for the whole machine.
+// Removes what is registered for the whole machine and for the user, if it names this server's file or a file
+// that is gone. What another installation has registered stays. A missing registration is not an error. Fails
+// if something remains that should be removed, for example if the user must not change the registration for
+// the whole machine.
 HRESULT unregisterServer();
-// Removes only the user's own registration.
+// The same, but only for the user's own registration.
 HRESULT unregisterServerForUser();
 
 } // namespace KOVAVSFDataGridLib::ActiveX

@@ -50,7 +50,7 @@ QString isoDate(const QString &text)
 
 } // namespace
 
-// A recursive descent parser. Every syntax error is the same error, with the whole text in it.
+// A recursive descent parser. Every syntax error is the same error. The whole text is in every message.
 class CriteriaParser
 {
 public:
@@ -219,23 +219,26 @@ private:
             if (text.isEmpty())
                 fail();
         }
+        const DataTypeEnum type = m_recordset.Fields().Item(node.column).Type();
+        const bool isTimeField =
+            type == adDate || type == adDBDate || type == adDBTimeStamp || type == adDBTime;
+        if (isDate && !isTimeField)
+            throw Error(adErrInvalidArgument, Texts::dateCriteria().arg(m_text));
         if (node.kind == Kind::Like)
             return text;
-        const DataTypeEnum type = m_recordset.Fields().Item(node.column).Type();
-        const bool isTimeField = type == adDBDate || type == adDBTimeStamp || type == adDBTime;
-        if (isDate || isTimeField)
+        if (isTimeField)
             text = isoDate(text.trimmed());
         bool fits = false;
         QVariant value = FieldValue::convert(text, type, &fits);
         if (fits)
             return value;
-        if (!isDate && !isTimeField)
+        if (!isTimeField)
             return text;
-        // A moment, compared with a field of days or with texts; nothing else can be compared with times.
+        // A moment, compared with a field of days; nothing else can be compared with times.
         value = FieldValue::convert(text, adDBTimeStamp, &fits);
         if (!fits)
             fail();
-        return isTimeField ? value : QVariant(text);
+        return value;
     }
 
     const QString &m_text;

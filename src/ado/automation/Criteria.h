@@ -13,11 +13,12 @@ class Recordset;
 // NULL)`. The operators are = <> < <= > >= and LIKE; AND has precedence over OR. Names with characters other
 // than letters and digits must be in brackets. A value is a number, a text in '…' with doubled quotes inside,
 // a date in #…#, TRUE, FALSE or NULL. A date is written as year-month-day or as month/day/year, with a time
-// if need be. Comparisons are case-insensitive. In a pattern, * and % match any text.
+// if need be; in #…#, it can only be compared with a field of dates or times. Comparisons are
+// case-insensitive. In a pattern, * and % match any text.
 class Criteria
 {
 public:
-    // Throws 3001 if `text` is not a condition, and 3265 for an unknown field.
+    // Throws 3001 if `text` is not a condition on these fields, and 3265 for an unknown field.
     static Criteria parse(const QString &text, const Recordset &recordset);
     // The same for a single comparison, as Find accepts it.
     static Criteria parseComparison(const QString &text, const Recordset &recordset);
