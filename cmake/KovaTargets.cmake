@@ -148,24 +148,23 @@ function(kova_program name)
 endfunction()
 
 # kova_unite(<target> <number>): with KOVA_QUICK_BUILD, so many sources are compiled at a time, because most of the time goes
-# into headers and templates that all of them use.
+# into headers and templates that all of them use. GCC clears up its memory only when it has used a gigabyte, because
+# looking for what is not needed takes longer than it saves.
 function(kova_unite target number)
   set_target_properties(${target} PROPERTIES UNITY_BUILD "${KOVA_QUICK_BUILD}" UNITY_BUILD_BATCH_SIZE ${number})
   # GCC takes a source among others for a header, where an unnamed namespace would be a mistake.
   target_compile_options(${target} PRIVATE
-    $<$<AND:$<BOOL:${KOVA_QUICK_BUILD}>,$<CXX_COMPILER_ID:GNU>>:-Wno-subobject-linkage>)
+    "$<$<AND:$<BOOL:${KOVA_QUICK_BUILD}>,$<CXX_COMPILER_ID:GNU>>:-Wno-subobject-linkage;--param=ggc-min-heapsize=1000000>")
 endfunction()
 
 # kova_quick_compile(<target> [<files>]): compiles the sources of tests quickly; there are as many as of the library.
 # The given files are compiled alone, because they define names that others define too. A developer's build does not
-# optimize tests: what takes time in a test is the library, which is optimized. GCC clears up its memory only when it has
-# used a gigabyte, because looking for what is not needed takes longer than a test.
+# optimize tests: what takes time in a test is the library, which is optimized.
 function(kova_quick_compile target)
   kova_unite(${target} 40)
   set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
   target_compile_options(${target} PRIVATE
-    "$<$<CONFIG:RelWithDebInfo>:SHELL:-O0 -U_FORTIFY_SOURCE>" # which only works when optimizing
-    $<$<CXX_COMPILER_ID:GNU>:--param=ggc-min-heapsize=1000000>)
+    "$<$<CONFIG:RelWithDebInfo>:SHELL:-O0 -U_FORTIFY_SOURCE>") # which only works when optimizing
 endfunction()
 
 # kova_test(<name> SOURCES <files> ROOMS <rooms> LINKS <libraries> [RUN_BY <command>] [COST <seconds>] [MOC]

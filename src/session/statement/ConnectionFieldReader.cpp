@@ -66,7 +66,7 @@ bool isClauseWord(const SqlScanner &sql, qsizetype token)
 // The key under which a statement is cached. A derived statement differs from the host's in the case of these
 // words and the whitespace around them. Everything else is kept, because engines name a field by the text of
 // its expression.
-QString remembered(const QString &statement)
+QString makeKey(const QString &statement)
 {
     const SqlScanner sql(statement);
     QString text;
@@ -155,7 +155,7 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
                                                                     const QString &statement)
 {
     m_failure.clear();
-    const std::pair key(connectionString, remembered(statement));
+    const std::pair key(connectionString, keyOf(statement));
     if (const auto known = m_known.constFind(key); known != m_known.constEnd())
         return *known;
     if (auto derived = fromKnown(connectionString, statement)) {
@@ -179,6 +179,15 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
         return {};
     m_known.insert(key, fields);
     return fields;
+}
+
+// The same statements are read again after every command, to find out which commands can run.
+QString ConnectionFieldReader::keyOf(const QString &statement)
+{
+    QString &key = m_keys[statement];
+    if (key.isEmpty())
+        key = makeKey(statement);
+    return key;
 }
 
 bool ConnectionFieldReader::Accepts(const QString &connectionString, const QString &statement)
@@ -226,7 +235,7 @@ void ConnectionFieldReader::remember(const QString &connectionString, const QStr
         const ADODB::Field &field = fields.Item(i);
         known.push_back({field.Name(), field.Type(), field.BaseTableName(), field.HasKnownOrder()});
     }
-    m_known.insert({connectionString, remembered(statement)}, known);
+    m_known.insert({connectionString, keyOf(statement)}, known);
 }
 
 EngineMode ConnectionFieldReader::engineOf(const QString &connectionString)
@@ -240,6 +249,7 @@ void ConnectionFieldReader::forget()
 {
     closeOwn();
     m_known.clear();
+    m_keys.clear();
     m_accepted.clear();
     m_failure.clear();
 }

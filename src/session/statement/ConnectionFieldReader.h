@@ -66,6 +66,7 @@ private:
     bool attempt(const std::function<void()> &reading);
     std::optional<std::vector<SourceField>> fromKnown(const QString &connectionString,
                                                       const QString &statement) const;
+    QString keyOf(const QString &statement);
     void closeOwn();
 
     const ResultSet &m_result;
@@ -76,7 +77,8 @@ private:
     int m_commands = 0;
     bool m_isCancelled = false;
     QHash<std::pair<QString, QString>, std::vector<SourceField>>
-        m_known; // by connection string and statement
+        m_known;                    // by connection string and key of the statement
+    QHash<QString, QString> m_keys; // by statement
     QHash<std::pair<QString, QString>, bool> m_accepted;
 };
 
