@@ -8,6 +8,7 @@
 #include <QtCore/QLocale>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTimer>
+#include <QtGui/QShortcut>
 #include <QtGui/QWindow>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QLabel>
@@ -195,6 +196,27 @@ TEST_F(LoadProgressTest, EscapeCancelsWhereverTheFocusIs)
     QLineEdit elsewhere(u"text"_s);
     elsewhere.show();
     EXPECT_FALSE(loadForever([&] { QTest::keyClick(&elsewhere, Qt::Key_Escape); }));
+    expectCancelled();
+}
+
+TEST_F(LoadProgressTest, EscapeCancelsAlsoWhereItIsAShortcut)
+{
+    QLineEdit elsewhere;
+    QShortcut shortcut(Qt::Key_Escape, &elsewhere);
+    QSignalSpy activations(&shortcut, &QShortcut::activated);
+    elsewhere.show();
+    elsewhere.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&elsewhere));
+    bool isIgnored = false;
+    QTimer::singleShot(0, &grid, [&] { QTest::keyClick(&elsewhere, Qt::Key_Escape); });
+    QTimer::singleShot(3000, &grid, [&] {
+        isIgnored = line();
+        shortcut.setEnabled(false);
+        pressEscape();
+    });
+    EXPECT_FALSE(load(endlessStatement()));
+    EXPECT_FALSE(isIgnored);
+    EXPECT_EQ(activations.count(), 0);
     expectCancelled();
 }
 

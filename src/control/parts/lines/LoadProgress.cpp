@@ -23,6 +23,7 @@ namespace KOVAVSFDataGridLib {
 namespace {
 
 constexpr qint64 hiddenAtFirst = 500; // milliseconds before the line shows
+constexpr qint64 keyInterval = 10;    // milliseconds between two looks at the keyboard before
 constexpr qint64 eventsInterval = 30; // milliseconds between two dispatches of events
 constexpr int barSteps = 1000;
 constexpr int mostExpected = barSteps * 99 / 100;
@@ -134,14 +135,16 @@ LoadProgress::~LoadProgress()
 
 bool LoadProgress::shouldContinue(qint64 rowsDone)
 {
-    if (!m_isLineShown && m_sinceBegin.hasExpired(hiddenAtFirst))
-        showLine();
-    if (!m_line || !m_sinceEvents.hasExpired(eventsInterval))
+    if (!m_sinceEvents.hasExpired(m_isLineShown ? eventsInterval : keyInterval))
         return !m_isCancelled;
-    updateLine(rowsDone);
-    QCoreApplication::processEvents();
-    m_isWindowGone = m_line.isNull();
-    m_isCancelled |= m_isWindowGone;
+    if (!m_isLineShown && (m_sinceBegin.hasExpired(hiddenAtFirst) || m_escapeKey.isPressed()))
+        showLine();
+    if (m_line) {
+        updateLine(rowsDone);
+        QCoreApplication::processEvents();
+        m_isWindowGone = m_line.isNull();
+        m_isCancelled |= m_isWindowGone;
+    }
     m_sinceEvents.start();
     return !m_isCancelled;
 }
@@ -221,8 +224,10 @@ bool LoadProgress::eventFilter(QObject *watched, QEvent *event)
 void LoadProgress::takeKey(QKeyEvent &key)
 {
     const bool isPress = key.type() == QEvent::KeyPress;
-    if (isPress && key.key() == Qt::Key_Escape)
-        m_isCancelled = true;
+    if (key.key() == Qt::Key_Escape) {
+        key.accept(); // not a shortcut of the host
+        m_isCancelled |= isPress;
+    }
     const auto scrolling = scrollingOf(key.key());
     if (!m_view || !scrolling)
         return;

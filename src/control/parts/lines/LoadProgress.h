@@ -1,5 +1,6 @@
 #pragma once
 
+#include "control/parts/lines/platform/EscapeKey.h"
 #include "language/CountedText.h"
 #include "session/SessionWindow.h"
 
@@ -18,12 +19,14 @@ class QProgressBar;
 namespace KOVAVSFDataGridLib {
 
 // Exists while a statement is being opened or records are written, which happens on the GUI thread. It first
-// shows the wait cursor. After half a second, a line over the window's foot shows the number of records and
-// offers to cancel, with its button or Esc.
+// shows the wait cursor. After half a second, or as soon as the user presses Esc, a line over the window's
+// foot shows the number of records and offers to cancel, with its button or Esc.
 //
-// From then on, the application's events are dispatched, so that windows are painted and timers run. But the
-// user's input is accepted only by the line, by a modal dialog that a timer has opened meanwhile, and by the
-// view of the first records, which can be scrolled.
+// Until then no event is dispatched: what a host does in events can't come in the middle of short work, and
+// what the user types meanwhile is dealt with afterwards. From then on, the application's events are
+// dispatched, so that windows are painted and timers run. But the user's input is accepted only by the line,
+// by a modal dialog that a timer has opened meanwhile, and by the view of the first records, which can be
+// scrolled.
 // Only one can exist in a process; the session that creates it makes sure of that.
 class LoadProgress final : public QObject, public OpeningProgress
 {
@@ -67,7 +70,8 @@ private:
     const qint64 m_total;  // 0 if unknown
     qint64 m_expected = 0; // 0 if unknown or not worth telling
     const QString m_cancelHint;
-    QPointer<QWidget> m_line; // null during the first half second; a child of the window
+    EscapeKey m_escapeKey;
+    QPointer<QWidget> m_line; // null until it shows; a child of the window
     QPointer<QAbstractScrollArea> m_view;
     QLabel *m_count = nullptr;
     QProgressBar *m_bar = nullptr;
