@@ -70,10 +70,19 @@ bool PlainUser::ask(const QString &, const QString &)
     return says;
 }
 
-QString PlainUser::askCondition(const ConditionRequest &)
+QString PlainUser::askCondition(const ConditionRequest &request)
 {
     std::exchange(meanwhile, [] {})();
+    if (!built.isEmpty()) {
+        request.built = built;
+        request.builtCondition = condition;
+    }
     return condition;
+}
+
+std::optional<ValuesAnswer> PlainUser::askValues(const ValuesRequest &)
+{
+    return values;
 }
 
 std::optional<FindAnswer> PlainUser::askWords(const colDataFields &)

@@ -73,12 +73,16 @@ public:
     void showWithCause(const QString &text, const QString &) override { messages.append(text); }
     bool ask(const QString &, const QString &) override;
     QString askCondition(const KOVAVSFDataGridLib::ConditionRequest &) override;
+    std::optional<KOVAVSFDataGridLib::ValuesAnswer>
+    askValues(const KOVAVSFDataGridLib::ValuesRequest &) override;
     std::optional<KOVAVSFDataGridLib::FindAnswer>
     askWords(const KOVAVSFDataGridLib::colDataFields &) override;
 
     std::optional<QString> fields;
     std::optional<QString> sort;
     QString condition;
+    QString built; // what the condition was built from; empty if it was written
+    std::optional<KOVAVSFDataGridLib::ValuesAnswer> values;
     QString words;
     bool says = true;
     std::function<void()> meanwhile = [] {};

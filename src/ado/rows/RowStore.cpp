@@ -34,7 +34,7 @@ constexpr std::array<quint8, 256> RowStore::sizeAfterTag = [] {
         sizes[tag] = static_cast<quint8>(size);
     for (std::size_t tag = ShortBlob; tag < ShortText; ++tag)
         sizes[tag] = static_cast<quint8>(tag - ShortBlob);
-    for (std::size_t tag = ShortText; tag < sizes.size(); ++tag)
+    for (std::size_t tag = ShortText; tag != sizes.size(); ++tag)
         sizes[tag] = static_cast<quint8>(tag - ShortText);
     return sizes;
 }();

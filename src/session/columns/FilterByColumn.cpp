@@ -35,10 +35,10 @@ std::optional<Choice> choiceInForce(Session &session, const QString &field)
     const std::vector<ShownCondition> shown = shownConditions(session);
     for (std::size_t place = 0; place < shown.size(); ++place) {
         const auto chosen =
-            std::ranges::find_if(session.shown().chosenValues, [&](const ChosenValues &values) {
+            std::ranges::find_if(session.shown().chosenValues(), [&](const ChosenValues &values) {
                 return values.field == field && values.condition == shown[place].text;
             });
-        if (chosen != session.shown().chosenValues.end())
+        if (chosen != session.shown().chosenValues().end())
             return Choice{place, chosen->built};
     }
     return std::nullopt;
@@ -53,7 +53,7 @@ void remember(Session &session, const QString &field, const ValuesAnswer &answer
         part = comparableText(part, dialect);
     for (const ShownCondition &shown : shownConditions(session)) {
         if (parts.contains(comparableText(shown.text, dialect)))
-            session.shown().chosenValues.push_back({field, shown.text, answer.built});
+            session.shown().noteChosen({field, shown.text, answer.built});
     }
 }
 

@@ -113,14 +113,14 @@ std::vector<ConditionInForce> conditionsInForce(Session &session)
     // What was chosen by values is that still, because what is built afterwards is removed from it.
     std::erase_if(left, [&](std::size_t place) {
         const auto chosen =
-            std::ranges::find(session.shown().chosenValues, shown[place].text, &ChosenValues::condition);
-        if (chosen == session.shown().chosenValues.end())
+            std::ranges::find(session.shown().chosenValues(), shown[place].text, &ChosenValues::condition);
+        if (chosen == session.shown().chosenValues().end())
             return false;
         byPlace.emplace(place, ConditionInForce{shown[place].text, chosen->built, chosen->field});
         return true;
     });
     const Dialect dialect = dialectOf(session.filterManager().DBType(), session.result().engine());
-    for (const BuiltCondition &built : session.shown().builtConditions | std::views::reverse) {
+    for (const BuiltCondition &built : session.shown().builtConditions() | std::views::reverse) {
         const auto taken = left.empty()
                                ? std::nullopt
                                : takeParts(left, shown, textsOfParts(built.condition, dialect), dialect);

@@ -20,6 +20,8 @@
 #include "session/statement/StatementReader.h"
 #include "sql/StatementLines.h"
 
+#include <utility>
+
 namespace KOVAVSFDataGridLib {
 
 ShownStatement::ShownStatement(Session &session) : m_session(session) {}
@@ -96,7 +98,7 @@ bool ShownStatement::addCondition(const QString &condition, QString &statement,
     QStringList parts = textsOfParts(made.value_or(condition), dialect);
     for (QString &part : parts)
         part = comparableText(part, dialect);
-    std::erase_if(chosenValues, [&](const ChosenValues &values) {
+    std::erase_if(m_chosenValues, [&](const ChosenValues &values) {
         return parts.contains(comparableText(values.condition, dialect));
     });
     if (!m_session.rules().narrowsShown)
@@ -104,6 +106,28 @@ bool ShownStatement::addCondition(const QString &condition, QString &statement,
     if (m_session.filterManager().LastUseFilter() != m_text)
         m_session.filterManager().LetNewSQLStr(m_text);
     return m_session.filterManager().LetNewFilter(condition, statement);
+}
+
+void ShownStatement::noteBuilt(BuiltCondition condition)
+{
+    std::erase_if(m_builtConditions, [&](const BuiltCondition &earlier) {
+        return earlier.condition == condition.condition;
+    });
+    m_builtConditions.push_back(std::move(condition));
+}
+
+void ShownStatement::noteChosen(ChosenValues values)
+{
+    std::erase_if(m_chosenValues, [&](const ChosenValues &earlier) {
+        return earlier.field == values.field && earlier.condition == values.condition;
+    });
+    m_chosenValues.push_back(std::move(values));
+}
+
+void ShownStatement::forgetConditions()
+{
+    m_builtConditions.clear();
+    m_chosenValues.clear();
 }
 
 void ShownStatement::addToHistory(const QString &statement, const QString &partFields,

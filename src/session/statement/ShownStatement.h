@@ -65,7 +65,7 @@ public:
     // The input for building a condition for it.
     ConditionRequest conditionRequest() const;
     // The statement with one more condition; false when none can be derived. What of it is `made` now, all of
-    // it by default, is no more in chosenValues.
+    // it by default, is no more in chosenValues().
     bool addCondition(const QString &condition, QString &statement,
                       const std::optional<QString> &made = std::nullopt);
     // Stores a filter's condition for the dialogs of the process; an empty one clears SQLFilter too.
@@ -74,11 +74,17 @@ public:
     bool isFromResult() const { return m_isFromResult; }
     void toggleFromResult();
 
-    // Of all statements so far, the latest last.
-    std::vector<BuiltCondition> builtConditions;
-    std::vector<ChosenValues> chosenValues;
+    // Of the statements since the load, the latest last; each condition is there once.
+    const std::vector<BuiltCondition> &builtConditions() const { return m_builtConditions; }
+    const std::vector<ChosenValues> &chosenValues() const { return m_chosenValues; }
+    void noteBuilt(BuiltCondition condition);
+    void noteChosen(ChosenValues values);
+    // For a load, which begins a history without conditions.
+    void forgetConditions();
 
 private:
+    std::vector<BuiltCondition> m_builtConditions;
+    std::vector<ChosenValues> m_chosenValues;
     Session &m_session;
     QString m_text;
     bool m_isFromResult = false;

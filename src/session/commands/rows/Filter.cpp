@@ -86,7 +86,7 @@ void askUser(Session &session, FilterManagerRollback &rollback, const QString &f
         request.refusal.clear();
         if (filterBy(session, rollback, condition, request.builtCondition, &request.refusal)) {
             if (!request.builtCondition.isEmpty())
-                session.shown().builtConditions.push_back({request.builtCondition, request.built});
+                session.shown().noteBuilt({request.builtCondition, request.built});
             session.questions().noteConditionUsed(request);
         }
     } while (!request.refusal.isEmpty() && rollback.isResultUntouched());
