@@ -110,9 +110,8 @@ bool ShownStatement::addCondition(const QString &condition, QString &statement,
 
 void ShownStatement::noteBuilt(BuiltCondition condition)
 {
-    std::erase_if(m_builtConditions, [&](const BuiltCondition &earlier) {
-        return earlier.condition == condition.condition;
-    });
+    std::erase_if(m_builtConditions,
+                  [&](const BuiltCondition &earlier) { return earlier.condition == condition.condition; });
     m_builtConditions.push_back(std::move(condition));
 }
 
