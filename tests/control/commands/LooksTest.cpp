@@ -87,6 +87,28 @@ TEST_F(Looks, SimilarButtonsHaveCaptionsWhereThereIsRoom)
     EXPECT_EQ(styleOf(u"Filter"_s), Qt::ToolButtonTextBesideIcon);
 }
 
+TEST_F(Looks, CaptionsFollowTheLanguage)
+{
+    ASSERT_TRUE(load());
+    const QWidget *const last = toolbar->widgetForAction(button(u"FullScreen"_s));
+    for (int width = 1200; width > 500; width -= 7) {
+        grid.resize(width, 500);
+        for (const QString &language : {u"en"_s, u"zh-CN"_s}) {
+            grid.PutLanguage(language);
+            QCoreApplication::processEvents();
+            const Qt::ToolButtonStyle style = styleOf(u"Filter"_s);
+            const std::string where = std::to_string(width) + " pixels, " + qUtf8Printable(language);
+            EXPECT_TRUE(style == Qt::ToolButtonIconOnly || last->geometry().right() <= toolbar->width())
+                << "captions must not push buttons out at " << where;
+            grid.resize(width - 300, 500);
+            grid.resize(width, 500);
+            EXPECT_FALSE(style == Qt::ToolButtonIconOnly && styleOf(u"Filter"_s) != style)
+                << "there was room for captions at " << where;
+        }
+    }
+    grid.PutLanguage({});
+}
+
 TEST_F(Looks, NoToolTipIsHigherThanAThirdOfTheScreen)
 {
     QString statement = u"SELECT ID"_s;

@@ -65,6 +65,8 @@ void GridToolbar::writeTexts()
         button.action->setText(button.command->button->caption);
         apply(button);
     }
+    showCaptions(); // while none is shown, a new one changes no size, and no layout is requested
+    narrowMenuButton();
 }
 
 void GridToolbar::resizeEvent(QResizeEvent *event)
