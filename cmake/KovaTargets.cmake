@@ -23,6 +23,11 @@ function(kova_compile_settings target)
     -Wimplicit-fallthrough -Wextra-semi -Wundef
     $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op -Wduplicated-branches> ${useless_casts}
     $<$<BOOL:${KOVA_WARNINGS_AS_ERRORS}>:-Werror>)
+  # 32-bit compilers calculate with more digits than a double keeps, in some places. Sums and comparisons must not
+  # depend on that. Every Windows that Qt supports needs a processor with SSE2 too.
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR STREQUAL i686)
+    target_compile_options(${target} PRIVATE -msse2 -mfpmath=sse)
+  endif()
   # A fault in memory ends the program rather than running what somebody put there. Sanitizers look closer. Without
   # -fcf-protection: it does nothing in a process whose C library lacks it, as Debian's does.
   if(CMAKE_SYSTEM_NAME STREQUAL Linux AND NOT KOVA_SANITIZE AND NOT KOVA_COVERAGE)

@@ -491,8 +491,8 @@
         <translation>A statement has only one result.</translation>
     </message>
     <message>
-        <source>条件“%1”有误，#…# 中的日期只能与日期或时间字段比较。</source>
-        <translation>The condition &quot;%1&quot; is wrong. A date in #…# can only be compared with a date or time field.</translation>
+        <source>条件“%1”有误，#…# 中的日期或时间只能用 = &lt;&gt; &lt; &lt;= &gt; &gt;= 与日期或时间字段比较。</source>
+        <translation>The condition &quot;%1&quot; is wrong. A date or time in #…# can only be compared with a date or time field, by = &lt;&gt; &lt; &lt;= &gt; &gt;=.</translation>
     </message>
 </context>
 <context>

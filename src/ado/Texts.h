@@ -111,7 +111,8 @@ inline constexpr Text notAConnection = tr("打开记录集需要一个连接对�
 inline constexpr Text badBookmark = tr("该书签不属于这个记录集。");
 inline constexpr Text badCriteria = tr("条件“%1”有误，应为“字段 运算符 值”，并可用 AND、OR 和括号连接。");
 inline constexpr Text badFindCriteria = tr("查找条件“%1”有误，只能是一个“字段 运算符 值”。");
-inline constexpr Text dateCriteria = tr("条件“%1”有误，#…# 中的日期只能与日期或时间字段比较。");
+inline constexpr Text dateCriteria =
+    tr("条件“%1”有误，#…# 中的日期或时间只能用 = <> < <= > >= 与日期或时间字段比较。");
 inline constexpr Text badSort = tr("排序“%1”有误，应为“字段 ASC”或“字段 DESC”，以逗号分隔。");
 inline constexpr Text badFieldList = tr("字段名与值的个数必须相同。");
 inline constexpr Text filterGroup = tr("只能按条件或书签筛选，不能按批量更新的状态筛选。");

@@ -123,6 +123,28 @@ TEST(Dispatch, AValueReachesAFieldThroughDefaultMembers)
     call(records, L"CancelUpdate");
 }
 
+TEST(Dispatch, ArgumentsOfAnObjectGoOnToItsDefaultMember)
+{
+    const Object control = loadedControl();
+    call(get(control, L"RecordSet").object(), L"MoveFirst");
+    // As in `grid.RecordSet("name")`.
+    const auto field = [&control] { return get(control, L"RecordSet", {L"name"}).object(); };
+    ASSERT_TRUE(field());
+    EXPECT_EQ(get(field(), L"Value").text(), L"张三");
+    EXPECT_EQ(invoke(control, L"RecordSet", DISPATCH_PROPERTYPUT, {L"name", L"Wang"}).outcome, S_OK);
+    EXPECT_EQ(get(field(), L"Value").text(), L"Wang");
+    for (const Answer &missing : {invoke(control, L"RecordSet", DISPATCH_PROPERTYGET, {L"nothing"}),
+                                  invoke(control, L"RecordSet", DISPATCH_PROPERTYPUT, {L"nothing", L"x"})}) {
+        EXPECT_EQ(missing.outcome, DISP_E_EXCEPTION);
+        EXPECT_EQ(static_cast<unsigned long>(missing.errorCode), 0x800A0CC1ul); // 3265
+    }
+    const Object records = get(control, L"RecordSet").object();
+    EXPECT_EQ(invoke(records, L"EOF", DISPATCH_PROPERTYGET, {1}).outcome, DISP_E_BADPARAMCOUNT)
+        << "no object";
+    EXPECT_EQ(invoke(records, L"Fields", DISPATCH_PROPERTYGET, {1, 2}).outcome, DISP_E_BADPARAMCOUNT);
+    call(records, L"CancelUpdate");
+}
+
 TEST(Dispatch, TheFieldsCanBeEnumerated)
 {
     const Object control = loadedControl();

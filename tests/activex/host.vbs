@@ -27,6 +27,8 @@ WScript.Echo "Fields: " & text
 records.MoveFirst
 records("name") = "Wang"
 WScript.Echo "Written: " & records("name")
+grid.RecordSet("name") = "Zhao"
+WScript.Echo "In one go: " & grid.RecordSet("id") & ", " & grid.RecordSet.Fields("name")
 records.CancelUpdate
 On Error Resume Next
 text = grid.UseModel

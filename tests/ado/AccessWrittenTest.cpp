@@ -199,3 +199,16 @@ TEST_F(AccessWrittenTest, AFilterByNameComparesWithDatesInAnyWay)
         records->setProperty("Filter", 0);
     }
 }
+
+TEST_F(AccessWrittenTest, AFilterByNameComparesWithTimesAlone)
+{
+    writer.addTable(u"T"_s, {{u"due"_s, AccessType::DateTime}},
+                    {{u"1899-12-30 08:00:00"_s}, {u"1899-12-30 12:00:00"_s}, {u"2000-02-01 12:00:00"_s}});
+    open();
+    const auto recordset = query(connection, u"SELECT * FROM T"_s);
+    RecordsetObject *const records = automation(recordset);
+    records->setProperty("Filter", u"due = #12:00 PM#"_s);
+    EXPECT_EQ(records->property("RecordCount"), QVariant(1));
+    records->setProperty("Filter", u"due >= ##"_s);
+    EXPECT_EQ(records->property("Filter"), QVariant(u"due = #12:00 PM#"_s)) << "it is refused";
+}

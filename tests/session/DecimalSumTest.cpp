@@ -27,6 +27,12 @@ TEST(DecimalSum, IsExactForDecimals)
         {{"999999999999999999999999999999999999", "-1"}, "999999999999999999999999999999999998"},
         {{"1", "0.000000000000000000000000000001"}, "1.000000000000000000000000000001"},
         {{".5", "5."}, "5.5"},
+        {{"999999999999999999", "1"}, "1000000000000000000"}, // over the middle of the digits and back
+        {{"1000000000000000000", "-1"}, "999999999999999999"},
+        {{"-999999999999999999", "-1"}, "-1000000000000000000"},
+        {{"-1000000000000000000", "1"}, "-999999999999999999"},
+        {{"1000000000000000005", "-2000000000000000000"}, "-999999999999999995"},
+        {{"-1000000000000000000.5", "1000000000000000000.6"}, "0.1"},
         {{"1e3", "1"}, "1001"},
     };
     for (const SumCase &one : cases) {
@@ -113,6 +119,14 @@ TEST(DecimalSum, KnowsThatItIsNotExact)
     DecimalSum sum;
     sum.add(0.5);
     EXPECT_FALSE(sum.isExact());
+    const QByteArray nines(36, '9');
+    for (const char *sign : {"", "-"}) {
+        DecimalSum wide;
+        EXPECT_TRUE(wide.addText(sign + nines));
+        EXPECT_TRUE(wide.isExact());
+        EXPECT_TRUE(wide.addText(QByteArray(sign) + '1'));
+        EXPECT_FALSE(wide.isExact()) << sign;
+    }
 }
 
 TEST(DecimalSum, TheAverageOfDecimalsKeepsTheirDigits)

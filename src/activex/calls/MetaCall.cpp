@@ -147,8 +147,13 @@ const QMetaMethod *overloadFor(const Member &member, const Arguments &arguments)
     return best;
 }
 
+// Calls the default member of the object that `member` returns for the arguments `leading`: with `rest`,
+// which may be a value to assign.
+HRESULT callDefaultMember(QObject &object, const Member &member, const DISPPARAMS &leading, WORD flags,
+                          const DISPPARAMS &rest, VARIANT *result, EXCEPINFO *exception, UINT *badArgument);
+
 HRESULT getOrCall(QObject &object, const Member &member, const DISPPARAMS &parameters, VARIANT *result,
-                  UINT *badArgument)
+                  EXCEPINFO *exception, UINT *badArgument)
 {
     Arguments arguments;
     const HRESULT ordered = argumentsIn(parameters, arguments);
@@ -160,6 +165,10 @@ HRESULT getOrCall(QObject &object, const Member &member, const DISPPARAMS &param
         answer = member.property.read(&object);
     } else {
         const QMetaMethod *method = overloadFor(member, arguments);
+        if (!method && member.property.metaType().flags() & QMetaType::PointerToQObject) {
+            constexpr WORD read = DISPATCH_METHOD | DISPATCH_PROPERTYGET; // as scripts write both in one way
+            return callDefaultMember(object, member, {}, read, parameters, result, exception, badArgument);
+        }
         if (!method)
             return DISP_E_BADPARAMCOUNT;
         MethodCall call;
@@ -180,21 +189,18 @@ HRESULT getOrCall(QObject &object, const Member &member, const DISPPARAMS &param
     return result ? fromQt(answer, result) : S_OK;
 }
 
-// `records("name") = "Li"`: sets the default property of the object that the arguments lead to.
-HRESULT putDefaultProperty(QObject &object, const Member &member, const DISPPARAMS &parameters,
-                           EXCEPINFO *exception, UINT *badArgument)
+HRESULT callDefaultMember(QObject &object, const Member &member, const DISPPARAMS &leading, WORD flags,
+                          const DISPPARAMS &rest, VARIANT *result, EXCEPINFO *exception, UINT *badArgument)
 {
-    const DISPPARAMS arguments{parameters.rgvarg + 1, nullptr, parameters.cArgs - 1, 0};
     Variant target;
-    const HRESULT found = getOrCall(object, member, arguments, target.get(), badArgument);
+    const HRESULT found = getOrCall(object, member, leading, target.get(), exception, badArgument);
     if (FAILED(found))
         return found;
     if (target->vt != VT_DISPATCH || !target->pdispVal)
         return DISP_E_MEMBERNOTFOUND;
-    DISPID named = DISPID_PROPERTYPUT;
-    DISPPARAMS value{parameters.rgvarg, &named, 1, 1};
-    return target->pdispVal->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &value,
-                                    nullptr, exception, badArgument);
+    DISPPARAMS arguments = rest; // Invoke takes no const ones
+    return target->pdispVal->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, flags, &arguments, result,
+                                    exception, badArgument);
 }
 
 HRESULT put(QObject &object, const Member &member, const DISPPARAMS &parameters, EXCEPINFO *exception,
@@ -202,8 +208,13 @@ HRESULT put(QObject &object, const Member &member, const DISPPARAMS &parameters,
 {
     if (parameters.cArgs == 0 || parameters.cNamedArgs > 1)
         return DISP_E_BADPARAMCOUNT;
-    if (parameters.cArgs > 1)
-        return putDefaultProperty(object, member, parameters, exception, badArgument);
+    if (parameters.cArgs > 1) { // `records("name") = "Li"`
+        DISPID named = DISPID_PROPERTYPUT;
+        const DISPPARAMS leading{parameters.rgvarg + 1, nullptr, parameters.cArgs - 1, 0};
+        const DISPPARAMS value{parameters.rgvarg, &named, 1, 1};
+        return callDefaultMember(object, member, leading, DISPATCH_PROPERTYPUT, value, nullptr, exception,
+                                 badArgument);
+    }
     if (!member.property.isWritable())
         return DISP_E_MEMBERNOTFOUND;
     QVariant value;
@@ -225,7 +236,7 @@ try {
     HostErrorCatcher errors(object);
     const HRESULT outcome = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)
                                 ? put(object, member, parameters, exception, badArgument)
-                                : getOrCall(object, member, parameters, result, badArgument);
+                                : getOrCall(object, member, parameters, result, exception, badArgument);
     if (errors.number() != 0) {
         if (SUCCEEDED(outcome) && result)
             VariantClear(result);

@@ -20,32 +20,33 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Month, day and year between slashes, as ADO's documents write dates, in the form in which databases store
-// them. Any other text is returned as it is.
-QString isoDate(const QString &text)
+// A date as ADO's documents write it (month/day/year), a time (12:30 PM), or both, in the form in which
+// databases store them. Any other text is returned as it is. `dayOfTimes` is that of a time alone.
+QString isoMoment(const QString &text, const QString &dayOfTimes)
 {
-    static const QRegularExpression american(
-        u"^(\\d{1,2})/(\\d{1,2})/(\\d{4})(?:\\s+(\\d{1,2}):(\\d\\d)(?::(\\d\\d))?(?:\\s*([AP])M)?)?$"_s,
+    static const QRegularExpression written(
+        u"^(?:(?:(\\d{1,2})/(\\d{1,2})/(\\d{4})|(\\d{4}-\\d\\d-\\d\\d))(?:$|[\\sT]\\s*))?"
+        "(?:(\\d{1,2}):(\\d\\d)(?::(\\d\\d(?:\\.\\d+)?))?(?:\\s*([AP])M)?)?$"_s,
         QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = american.match(text);
-    if (!match.hasMatch())
+    const QRegularExpressionMatch match = written.match(text);
+    if (!match.hasMatch() || text.isEmpty())
         return text;
+    const auto twoDigits = [](int number) { return u"%1"_s.arg(number, 2, 10, QLatin1Char('0')); };
     const auto part = [&](int number) { return match.captured(number).toInt(); };
-    const QString date = u"%1-%2-%3"_s.arg(match.captured(3))
-                             .arg(part(1), 2, 10, QLatin1Char('0'))
-                             .arg(part(2), 2, 10, QLatin1Char('0'));
-    if (match.captured(4).isEmpty())
+    QString date = match.hasCaptured(4) ? match.captured(4) : dayOfTimes;
+    if (match.hasCaptured(3))
+        date = u"%1-%2-%3"_s.arg(match.captured(3), twoDigits(part(1)), twoDigits(part(2)));
+    if (!match.hasCaptured(5))
         return date;
-    int hour = part(4);
-    if (const QString half = match.captured(7).toUpper(); !half.isEmpty()) {
+    int hour = part(5);
+    if (const QString half = match.captured(8).toUpper(); !half.isEmpty()) {
         if (hour < 1 || hour > 12)
             return text; // no hour of half a day
         hour = hour % 12 + (half == u"P" ? 12 : 0);
     }
-    return u"%1 %2:%3:%4"_s.arg(date)
-        .arg(hour, 2, 10, QLatin1Char('0'))
-        .arg(part(5), 2, 10, QLatin1Char('0'))
-        .arg(part(6), 2, 10, QLatin1Char('0'));
+    const QString seconds = match.hasCaptured(7) ? match.captured(7) : u"00"_s;
+    const QString time = u"%1:%2:%3"_s.arg(twoDigits(hour), match.captured(6), seconds);
+    return date.isEmpty() ? time : date + u' ' + time;
 }
 
 } // namespace
@@ -222,20 +223,21 @@ private:
         const DataTypeEnum type = m_recordset.Fields().Item(node.column).Type();
         const bool isTimeField =
             type == adDate || type == adDBDate || type == adDBTimeStamp || type == adDBTime;
-        if (isDate && !isTimeField)
+        if (isDate && (!isTimeField || node.kind == Kind::Like))
             throw Error(adErrInvalidArgument, Texts::dateCriteria().arg(m_text));
         if (node.kind == Kind::Like)
             return text;
-        if (isTimeField)
-            text = isoDate(text.trimmed());
+        if (isTimeField) // an automation date without a day is on its day 0
+            text = isoMoment(text.trimmed(), type == adDate ? u"1899-12-30"_s : QString());
         bool fits = false;
         QVariant value = FieldValue::convert(text, type, &fits);
         if (fits)
             return value;
         if (!isTimeField)
             return text;
-        // A moment, compared with a field of days; nothing else can be compared with times.
-        value = FieldValue::convert(text, adDBTimeStamp, &fits);
+        // A field of days can be compared with a moment, too.
+        if (type == adDBDate)
+            value = FieldValue::convert(text, adDBTimeStamp, &fits);
         if (!fits)
             fail();
         return value;

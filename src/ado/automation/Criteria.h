@@ -12,9 +12,10 @@ class Recordset;
 // A condition on records in the syntax of ADO's Filter and Find: `name LIKE 'L%' AND (age >= 18 OR age =
 // NULL)`. The operators are = <> < <= > >= and LIKE; AND has precedence over OR. Names with characters other
 // than letters and digits must be in brackets. A value is a number, a text in '…' with doubled quotes inside,
-// a date in #…#, TRUE, FALSE or NULL. A date is written as year-month-day or as month/day/year, with a time
-// if need be; in #…#, it can only be compared with a field of dates or times. Comparisons are
-// case-insensitive. In a pattern, * and % match any text.
+// a date or time in #…#, TRUE, FALSE or NULL. A date is written as year-month-day or as month/day/year, a
+// time as hour:minute with seconds and AM or PM if need be; a time alone is for fields of times. In #…#, they
+// can only be compared with a field of dates or times, and not by LIKE. Comparisons are case-insensitive. In
+// a pattern, * and % match any text.
 class Criteria
 {
 public:

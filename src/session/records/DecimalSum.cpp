@@ -8,20 +8,12 @@
 
 namespace KOVAVSFDataGridLib {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr int mostDigits = 36; // 10^36 times a hundred still fits 127 bits
 constexpr int shownDigits = 15;
 constexpr double mostUnits = 1e15; // up to it, every integer has at most `shownDigits` digits
-
-__extension__ using Wide = __int128;
-
-constexpr Wide tooWide = [] {
-    Wide power = 1;
-    for (int i = 0; i < mostDigits; ++i)
-        power *= 10;
-    return power;
-}();
 
 constexpr auto powersOfTen = [] {
     std::array<double, shownDigits + 1> powers{1};
@@ -116,32 +108,33 @@ bool DecimalSum::addDigits(double value, int scale)
     }
     for (; decimals > scale && digits % 10 == 0; --decimals)
         digits /= 10;
-    if (decimals < -mostDigits)
-        return false;
-    Wide units = digits;
-    for (; decimals < 0 && units < tooWide; ++decimals)
-        units *= 10;
-    return decimals >= 0 && addExactly(value < 0 ? -units : units, decimals);
+    WideInteger units = value < 0 ? -digits : digits;
+    for (; decimals < 0; ++decimals) {
+        if (!units.appendZero())
+            return false;
+    }
+    return addExactly(units, decimals);
 }
 
 bool DecimalSum::addText(QByteArrayView text)
 {
-    Wide value = 0;
+    WideInteger value;
     int digits = 0;
     int scale = -1; // -1 before the decimal point
     const bool isNegative = text.startsWith('-');
     for (const char c : isNegative ? text.sliced(1) : text) {
         if (c == '.' && scale < 0) {
             scale = 0;
-        } else if (c >= '0' && c <= '9' && digits < mostDigits) {
-            value = value * 10 + (c - '0');
+        } else if (c >= '0' && c <= '9' && digits < WideInteger::mostDigits) {
+            value.appendZero();
+            value.add(c - '0');
             digits += digits > 0 || c != '0' ? 1 : 0;
             scale += scale >= 0 ? 1 : 0;
         } else {
             return addAsReal(text.toByteArray());
         }
     }
-    if (text.isEmpty() || (digits == 0 && value == 0 && !text.contains('0')))
+    if (text.isEmpty() || (digits == 0 && !text.contains('0')))
         return false;
     if (!addExactly(isNegative ? -value : value, std::max(scale, 0)))
         add(text.toByteArray().toDouble());
@@ -159,21 +152,18 @@ bool DecimalSum::addAsReal(const QByteArray &text)
     return isNumber;
 }
 
-bool DecimalSum::addExactly(Wide value, int scale)
+bool DecimalSum::addExactly(WideInteger value, int scale)
 {
-    Wide sum = m_exact;
+    WideInteger sum = m_exact;
     for (int i = scale; i < m_scale; ++i) {
-        if (value >= tooWide / 10 || value <= -tooWide / 10)
+        if (!value.appendZero())
             return false;
-        value *= 10;
     }
     for (int i = m_scale; i < scale; ++i) {
-        if (sum >= tooWide / 10 || sum <= -tooWide / 10)
+        if (!sum.appendZero())
             return false;
-        sum *= 10;
     }
-    sum += value;
-    if (sum >= tooWide || sum <= -tooWide)
+    if (!sum.add(value))
         return false;
     m_exact = sum;
     m_scale = std::max(m_scale, scale);
@@ -182,26 +172,15 @@ bool DecimalSum::addExactly(Wide value, int scale)
 
 double DecimalSum::approximate() const
 {
-    const auto exact = static_cast<long double>(m_exact) / std::pow(10.0L, m_scale);
+    const auto exact = m_exact.approximate() / std::pow(10.0L, m_scale);
     return static_cast<double>(exact + m_real + m_rest);
-}
-
-QString DecimalSum::digitsOf(Wide value)
-{
-    QString digits;
-    do {
-        digits.prepend(QChar(u'0' + static_cast<char16_t>(value % 10)));
-        value /= 10;
-    } while (value > 0);
-    return digits;
 }
 
 QString DecimalSum::text() const
 {
     if (!m_isExact)
         return shown(approximate());
-    const bool isNegative = m_exact < 0;
-    return decimalText(digitsOf(isNegative ? -m_exact : m_exact), m_scale, isNegative);
+    return decimalText(m_exact.digits(), m_scale, m_exact.sign() < 0);
 }
 
 // An exact sum is divided by long division, which loses no digit of the integer part or of the values.
@@ -211,27 +190,34 @@ QString DecimalSum::average(qint64 count) const
         return {};
     if (!m_isExact)
         return shown(approximate() / static_cast<double>(count));
-    const bool isNegative = m_exact < 0;
-    const Wide size = isNegative ? -m_exact : m_exact;
-    Wide quotient = size / count;
-    Wide rest = size % count;
+    WideInteger quotient;
+    qint64 rest = 0;
+    const auto divide = [&](int digit) {
+        rest = rest * 10 + digit;
+        quotient.appendZero();
+        quotient.add(rest / count);
+        rest %= count;
+    };
+    for (const QChar digit : m_exact.digits())
+        divide(digit.digitValue());
     int scale = m_scale;
-    for (; rest > 0 && (quotient == 0 || digitsOf(quotient).size() < shownDigits); ++scale) {
-        quotient = quotient * 10 + rest * 10 / count;
-        rest = rest * 10 % count;
-    }
-    if (rest * 2 >= count)
-        ++quotient;
-    for (; scale > 0 && quotient % 10 == 0; --scale)
-        quotient /= 10;
-    return decimalText(digitsOf(quotient), scale, isNegative && quotient > 0);
+    for (; rest > 0 && (quotient.sign() == 0 || quotient.digits().size() < shownDigits); ++scale)
+        divide(0);
+    if (rest >= count - rest)
+        quotient.add(1);
+    if (quotient.sign() == 0)
+        return u"0"_s;
+    QString digits = quotient.digits();
+    for (; scale > 0 && digits.endsWith(u'0'); --scale)
+        digits.chop(1);
+    return decimalText(digits, scale, m_exact.sign() < 0);
 }
 
 int DecimalSum::sign() const
 {
     if (!m_isExact)
         return approximate() < 0 ? -1 : approximate() > 0 ? 1 : 0;
-    return m_exact < 0 ? -1 : m_exact > 0 ? 1 : 0;
+    return m_exact.sign();
 }
 
 } // namespace KOVAVSFDataGridLib

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "session/records/WideInteger.h"
+
 #include <QtCore/QByteArrayView>
 #include <QtCore/QString>
 
@@ -23,22 +25,20 @@ public:
     // False if the sum is only right to about 15 digits.
     bool isExact() const { return m_isExact; }
     QString text() const;
-    // At least 15 significant digits; for an exact sum, all integer digits and the decimals of the values.
+    // Of up to 10^17 numbers. At least 15 significant digits; for an exact sum, all integer digits and the
+    // decimals of the values.
     QString average(qint64 count) const;
     // -1, 0 or 1.
     int sign() const;
 
 private:
-    __extension__ using Wide = __int128;
-
-    static QString digitsOf(Wide value);
-    bool addExactly(Wide value, int scale);
+    bool addExactly(WideInteger value, int scale);
     bool addUnits(double value, int decimals, int scale);
     bool addDigits(double value, int scale);
     bool addAsReal(const QByteArray &text);
     double approximate() const;
 
-    Wide m_exact = 0; // in units of 10^-m_scale
+    WideInteger m_exact; // in units of 10^-m_scale
     int m_scale = 0;
     double m_real = 0;
     double m_rest = 0; // the rounding errors of m_real
