@@ -1,5 +1,7 @@
 #include "ado/rows/RowStore.h"
 
+#include "ado/rows/platform/MapPages.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -9,6 +11,10 @@ namespace {
 
 constexpr qsizetype firstBlockSize = qsizetype{64} << 10;
 constexpr qsizetype blockSize = qsizetype{4} << 20;
+// Blocks of this size are new memory from the system; smaller ones often reuse memory that has its pages.
+constexpr qsizetype newMemorySize = qsizetype{1} << 20;
+// Small enough to be still in the processor's cache when the rows are written.
+constexpr qsizetype mappedAtOnce = qsizetype{64} << 10;
 constexpr qsizetype startSize = sizeof(quint32);
 
 template<typename T>
@@ -75,6 +81,15 @@ void RowStore::endRow()
     ++m_stored;
     // A row larger than a normal block is the last in its block, so that offsets always fit 32 bits.
     m_end = m_blocks.back().size > blockSize ? m_write : m_end - startSize;
+    if (m_write >= m_mapped)
+        mapNextPages();
+}
+
+void RowStore::mapNextPages()
+{
+    char *const end = m_blockStart + m_blocks.back().size;
+    m_mapped = m_write + std::min<qsizetype>(mappedAtOnce, end - m_write);
+    mapPages(m_write, m_mapped);
 }
 
 // Moves the unfinished row to the new block, so a row never spans two blocks.
@@ -101,6 +116,7 @@ void RowStore::newBlock(qsizetype room)
     m_blockStart = start;
     m_rowStart = start;
     m_write = start + begun;
+    m_mapped = usual >= newMemorySize ? start : start + m_blocks.back().size;
 }
 
 void RowStore::keepOrSpill(Block &block)

@@ -127,6 +127,7 @@ private:
         m_write += sizeof value;
     }
     void newBlock(qsizetype room);
+    void mapNextPages();
     void keepOrSpill(Block &block);
     qint64 storedRow(qint64 row) const;
     const char *rowStart(qint64 row) const;
@@ -143,6 +144,7 @@ private:
     char *m_rowStart = nullptr;
     char *m_write = nullptr;
     char *m_end = nullptr;         // of the space for cells; the unfinished row's offset is already reserved
+    char *m_mapped = nullptr;      // up to here the block's pages were mapped ahead
     std::vector<qint64> m_removed; // stored rows, ascending
     std::unordered_map<qint64, QByteArray> m_replaced;
 };
