@@ -62,7 +62,14 @@ void clsFilterManagement::SetOriginFilter(const QString &statement)
     m_memory.originFilter = statement;
     m_memory.previousFilter = statement;
     m_memory.lastUseFilter = statement;
+    Push(statement);
+}
+
+void clsFilterManagement::Push(const QString &statement)
+{
     m_memory.filterStack.append(statement);
+    if (m_memory.filterStack.size() > StatementsKept)
+        m_memory.filterStack.removeAt(1);
 }
 
 bool clsFilterManagement::SetSQLInitData()
@@ -302,7 +309,7 @@ void clsFilterManagement::MakeCurrent(const QString &statement)
 {
     m_memory.lastUseFilter = statement;
     m_memory.previousFilter = m_memory.filterStack.isEmpty() ? QString() : m_memory.filterStack.last();
-    m_memory.filterStack.append(statement);
+    Push(statement);
 }
 
 QString clsFilterManagement::MakeDerivedCurrent(StatementType SQLType, bool isDerivedByHistory)

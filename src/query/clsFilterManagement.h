@@ -15,13 +15,16 @@ enum StatementParts : qint32 { AllParts = 1, PartsWithoutSort = 2, PartsWithoutC
 class clsFilterManagement
 {
 public:
+    // How many statements can be gone back to, the first one among them.
+    static constexpr qsizetype StatementsKept = 1000;
+
     // The manager's state besides its settings, for reading.
     struct Memory
     {
         QString originFilter;      // the first statement
         QString previousFilter;    // the statement that "back" returns to
         QString lastUseFilter;     // the statement shown
-        QStringList filterStack;   // every statement shown, oldest first
+        QStringList filterStack;   // the first statement shown and the last ones, oldest first
         bool isFirstUsed = false;  // whether GetCurrentSQL(0) has returned AllFields
         QString currentStatement;  // the statement that the next one is derived from
         QString currentPartFields; // the user's latest choice of fields, as a statement
@@ -108,6 +111,7 @@ private:
     // Empty if the statement can be processed as plain text.
     std::optional<QString> WithoutConditions(const QString &statement) const;
     QString FieldListWithCurrentSource(const QString &fieldStatement) const;
+    void Push(const QString &statement);
     void MakeCurrent(const QString &statement);
     QString MakeDerivedCurrent(StatementType SQLType, bool isDerivedByHistory);
     // Returns an empty text if nothing needs to be derived, and nothing if the command ends here.

@@ -83,7 +83,6 @@ void showLoaded(Session &session, const ResultSet::Opened &opened, const LoadedS
     session.sharedHistory().setManager(std::move(manager));
     session.texts.recordSource = statement.written;
     session.shown().setText(statement.line);
-    session.shown().forgetConditions();
     session.fieldReader().remember(session.texts.connectionString, statement.line,
                                    session.result().recordset()->Fields());
 

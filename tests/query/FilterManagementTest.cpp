@@ -97,6 +97,16 @@ TEST_F(FilterManagement, NothingShownTakesNoCondition)
     EXPECT_EQ(empty.Remembered().previousFilter, QString());
 }
 
+TEST_F(FilterManagement, TheFirstStatementAndTheLastOnesCanBeGoneBackTo)
+{
+    for (int i = 1; i <= clsFilterManagement::StatementsKept; ++i)
+        manager.LetNewSQLStr(QString::number(i));
+    ASSERT_EQ(Stack().size(), clsFilterManagement::StatementsKept);
+    EXPECT_EQ(Stack().at(0), kAll);
+    EXPECT_EQ(Stack().at(1), u"2"_s);
+    EXPECT_EQ(Stack().last(), QString::number(clsFilterManagement::StatementsKept));
+}
+
 TEST_F(FilterManagement, StepsBackThroughTheStatements)
 {
     for (const QString &statement : {u"b"_s, u"c"_s, u"d"_s})

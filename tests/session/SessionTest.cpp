@@ -44,51 +44,6 @@ TEST_F(Sessions, AFailedLoadLeavesWhatWasShown)
     EXPECT_EQ(session->shown().text(), u"select * from T"_s);
 }
 
-TEST_F(Sessions, AConditionThatIsBuiltAgainIsKeptOnce)
-{
-    ASSERT_TRUE(load());
-    user.condition = u"Price < 3"_s;
-    for (const QString &built : {u"Price, less, 3"_s, u"Price, below, 3"_s}) {
-        user.built = built;
-        session->run(u"Filter"_s);
-        ASSERT_EQ(window.rows.size(), 2);
-        ASSERT_EQ(conditionsInForce(*session).size(), 1U);
-        EXPECT_EQ(conditionsInForce(*session).front().built, built);
-        session->run(u"ToOrigin"_s);
-    }
-    EXPECT_EQ(session->shown().builtConditions().size(), 1U);
-}
-
-TEST_F(Sessions, ValuesThatAreChosenAgainAreKeptOnce)
-{
-    ASSERT_TRUE(load());
-    const ColumnCommand &byValues = *ColumnCommand::find(u"FilterByColumn"_s);
-    for (const QString &name : {u"Rice"_s, u"Salt"_s, u"Rice"_s, u"Salt"_s}) {
-        user.values = ValuesAnswer{.condition = u"Name IN ('%1')"_s.arg(name), .built = name};
-        session->runOnColumn(byValues, 2);
-        ASSERT_EQ(window.rows.size(), 1);
-        ASSERT_EQ(conditionsInForce(*session).size(), 1U);
-        EXPECT_EQ(conditionsInForce(*session).front().built, name);
-    }
-    EXPECT_EQ(session->shown().chosenValues().size(), 2U);
-}
-
-TEST_F(Sessions, ALoadForgetsTheConditionsBeforeIt)
-{
-    ASSERT_TRUE(load());
-    user.built = u"Price, less, 3"_s;
-    user.condition = u"Price < 3"_s;
-    session->run(u"Filter"_s);
-    user.values = ValuesAnswer{.condition = u"Name IN ('Rice')"_s, .built = u"ticked"_s};
-    session->runOnColumn(*ColumnCommand::find(u"FilterByColumn"_s), 2);
-    ASSERT_EQ(conditionsInForce(*session).size(), 2U);
-    EXPECT_FALSE(load(u"select * from Nowhere"_s));
-    EXPECT_EQ(conditionsInForce(*session).front().built, user.built); // still shown
-    ASSERT_TRUE(load());
-    EXPECT_TRUE(session->shown().builtConditions().empty());
-    EXPECT_TRUE(session->shown().chosenValues().empty());
-}
-
 TEST_F(Sessions, CommandsDeriveStatementsAndStepBack)
 {
     ASSERT_TRUE(load());

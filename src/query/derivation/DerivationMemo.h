@@ -1,9 +1,11 @@
 #pragma once
 
+#include "query/RecentlyUsed.h"
 #include "query/derivation/Derivation.h"
 
-#include <list>
 #include <memory>
+#include <tuple>
+#include <vector>
 
 namespace KOVAVSFDataGridLib {
 
@@ -16,16 +18,11 @@ public:
                                          const Dialect &dialect, const StarSizes &sizes = {});
 
 private:
-    struct Entry
-    {
-        QString statement;
-        std::vector<SourceField> fields;
-        Dialect dialect;
-        StarSizes sizes;
-        std::shared_ptr<const Derivation> derivation;
-    };
+    using Key = std::tuple<QString, std::vector<SourceField>, Dialect, StarSizes>;
 
-    std::list<Entry> m_entries; // most recently used first
+    // Enough for the shown statement, all fields and the part fields, each without fields, with fields and
+    // with star sizes, and for statements derived from them.
+    RecentlyUsed<Key, std::shared_ptr<const Derivation>> m_derivations{16};
 };
 
 } // namespace KOVAVSFDataGridLib

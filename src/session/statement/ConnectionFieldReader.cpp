@@ -156,7 +156,7 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
 {
     m_failure.clear();
     const std::pair key(connectionString, keyOf(statement));
-    if (const auto known = m_known.constFind(key); known != m_known.constEnd())
+    if (const auto *const known = m_known.find(key))
         return *known;
     if (auto derived = fromKnown(connectionString, statement)) {
         m_known.insert(key, *derived);
@@ -184,16 +184,14 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::Read(const QStrin
 // The same statements are read again after every command, to find out which commands can run.
 QString ConnectionFieldReader::keyOf(const QString &statement)
 {
-    QString &key = m_keys[statement];
-    if (key.isEmpty())
-        key = makeKey(statement);
-    return key;
+    const QString *const key = m_keys.find(statement);
+    return key ? *key : m_keys.insert(statement, makeKey(statement));
 }
 
 bool ConnectionFieldReader::Accepts(const QString &connectionString, const QString &statement)
 {
     const std::pair key(connectionString, statement);
-    if (const auto known = m_accepted.constFind(key); known != m_accepted.constEnd())
+    if (const bool *const known = m_accepted.find(key))
         return *known;
     const bool isAccepted =
         attempt([&] { connectUnlessCancelled(connectionString)->Describe(GetNoRowSQL(statement)); });
@@ -211,14 +209,14 @@ std::optional<std::vector<SourceField>> ConnectionFieldReader::fromKnown(const Q
     const PlainColumns wanted = plainColumns(statement);
     if (wanted.names.isEmpty() || wanted.names.contains(u"*"_s))
         return {};
-    for (auto known = m_known.begin(); known != m_known.end(); ++known) {
-        const PlainColumns shown = plainColumns(known.key().second);
-        if (known.key().first != connectionString || shown.names.isEmpty() || shown.table != wanted.table)
+    for (const auto &[key, known] : m_known) {
+        const PlainColumns shown = plainColumns(key.second);
+        if (key.first != connectionString || shown.names.isEmpty() || shown.table != wanted.table)
             continue;
         std::vector<SourceField> fields;
         for (const QString &name : wanted.names) {
-            const auto field = std::ranges::find(known.value(), name, &SourceField::name);
-            if (field != known.value().end())
+            const auto field = std::ranges::find(known, name, &SourceField::name);
+            if (field != known.end())
                 fields.push_back(*field);
         }
         if (fields.size() == static_cast<std::size_t>(wanted.names.size()))

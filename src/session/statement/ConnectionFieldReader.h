@@ -1,8 +1,7 @@
 #pragma once
 
+#include "query/RecentlyUsed.h"
 #include "query/fields/FieldReader.h"
-
-#include <QtCore/QHash>
 
 #include <functional>
 #include <memory>
@@ -18,7 +17,7 @@ class ResultSet;
 
 // Reads field names and types. Uses the control's own connection if that leads to the same database (a second
 // connection to a remote server takes time, and one to a database in memory is another database), otherwise a
-// temporary connection. Results are cached until forget().
+// temporary connection. The results for the last used statements are cached until forget().
 class ConnectionFieldReader final : public FieldReader
 {
 public:
@@ -58,6 +57,11 @@ public:
     // Closes its own connection and clears the cache, because the tables may have changed.
     void forget();
 
+    // More than the statements that commands derive from the one shown and from those shown shortly before.
+    static constexpr std::size_t StatementsKept = 100;
+    // Of how many statements the cache has the fields.
+    std::size_t countKnown() const { return m_known.size(); }
+
 private:
     // Throws ADODB::Error.
     std::shared_ptr<ADODB::Connection> connect(const QString &connectionString);
@@ -76,10 +80,10 @@ private:
     bool m_isRefused = false; // the last reading failed because of the statement itself
     int m_commands = 0;
     bool m_isCancelled = false;
-    QHash<std::pair<QString, QString>, std::vector<SourceField>>
-        m_known;                    // by connection string and key of the statement
-    QHash<QString, QString> m_keys; // by statement
-    QHash<std::pair<QString, QString>, bool> m_accepted;
+    RecentlyUsed<std::pair<QString, QString>, std::vector<SourceField>> m_known{
+        StatementsKept};                                   // by connection string and key of the statement
+    RecentlyUsed<QString, QString> m_keys{StatementsKept}; // by statement
+    RecentlyUsed<std::pair<QString, QString>, bool> m_accepted{StatementsKept};
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -12,6 +12,7 @@
 #include "session/SessionWindow.h"
 #include "session/WindowRules.h"
 #include "session/commands/CommandKeys.h"
+#include "session/history/HistorySteps.h"
 #include "session/history/SharedHistory.h"
 #include "session/layout/ShownColumns.h"
 #include "session/pages/Pages.h"
@@ -20,9 +21,30 @@
 #include "session/statement/StatementReader.h"
 #include "sql/StatementLines.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace KOVAVSFDataGridLib {
+
+namespace {
+
+template<typename Condition>
+void forgetOldest(std::vector<Condition> &conditions, Session &session)
+{
+    if (conditions.size() <= ShownStatement::ConditionsKept)
+        return;
+    const std::vector<HistoryStep> steps = historySteps(session);
+    std::size_t surplus = conditions.size() - ShownStatement::ConditionsKept;
+    std::erase_if(conditions, [&](const Condition &made) {
+        const bool isForgotten = surplus > 0 && std::ranges::none_of(steps, [&](const HistoryStep &step) {
+                                     return step.statement.contains(made.condition);
+                                 });
+        surplus -= isForgotten ? 1 : 0;
+        return isForgotten;
+    });
+}
+
+} // namespace
 
 ShownStatement::ShownStatement(Session &session) : m_session(session) {}
 
@@ -113,6 +135,7 @@ void ShownStatement::noteBuilt(BuiltCondition condition)
     std::erase_if(m_builtConditions,
                   [&](const BuiltCondition &earlier) { return earlier.condition == condition.condition; });
     m_builtConditions.push_back(std::move(condition));
+    forgetOldest(m_builtConditions, m_session);
 }
 
 void ShownStatement::noteChosen(ChosenValues values)
@@ -121,12 +144,7 @@ void ShownStatement::noteChosen(ChosenValues values)
         return earlier.field == values.field && earlier.condition == values.condition;
     });
     m_chosenValues.push_back(std::move(values));
-}
-
-void ShownStatement::forgetConditions()
-{
-    m_builtConditions.clear();
-    m_chosenValues.clear();
+    forgetOldest(m_chosenValues, m_session);
 }
 
 void ShownStatement::addToHistory(const QString &statement, const QString &partFields,
@@ -134,6 +152,8 @@ void ShownStatement::addToHistory(const QString &statement, const QString &partF
 {
     m_session.columns().RecordShowSQL(statement, m_session.fields().view(), false, partFields, orderFields,
                                       m_session.texts.connectionString);
+    while (m_session.history().Count() > StatementsKept)
+        m_session.history().Remove(2);
 }
 
 bool ShownStatement::replaceResult(const ResultSet::Opened &opened)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "query/colShowSQLSentences.h"
+#include "query/clsFilterManagement.h"
 #include "session/ResultSet.h"
 
 #include <QtCore/QString>
@@ -50,6 +50,8 @@ public:
     void show(const ResultSet::Opened &opened);
     // Both for a statement with an added condition, which becomes the latest entry of the history.
     bool reloadFiltered(const QString &statement, bool isRemembered, QString *refusal = nullptr);
+    // The history keeps its first entry and the last ones; so many altogether.
+    static constexpr qsizetype StatementsKept = clsFilterManagement::StatementsKept;
     // Makes the statement the latest entry of the history and arranges its columns for all or part fields.
     void addToHistory(const QString &statement,
                       const QString &partFields = colShowSQLSentences::NoPartField(),
@@ -74,13 +76,14 @@ public:
     bool isFromResult() const { return m_isFromResult; }
     void toggleFromResult();
 
-    // Of the statements since the load, the latest last; each condition is there once.
+    // What the user's conditions were made from, the latest last; each condition is there once. These are the
+    // last ConditionsKept, also from before a load, because a condition can be typed again. Older ones are
+    // kept if a statement that the user can go to has them.
+    static constexpr std::size_t ConditionsKept = 1000;
     const std::vector<BuiltCondition> &builtConditions() const { return m_builtConditions; }
     const std::vector<ChosenValues> &chosenValues() const { return m_chosenValues; }
     void noteBuilt(BuiltCondition condition);
     void noteChosen(ChosenValues values);
-    // For a load, which begins a history without conditions.
-    void forgetConditions();
 
 private:
     std::vector<BuiltCondition> m_builtConditions;
