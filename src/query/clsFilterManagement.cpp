@@ -68,7 +68,7 @@ void clsFilterManagement::SetOriginFilter(const QString &statement)
 void clsFilterManagement::Push(const QString &statement)
 {
     m_memory.filterStack.append(statement);
-    if (m_memory.filterStack.size() > StatementsKept)
+    if (m_memory.filterStack.size() > statementsKept)
         m_memory.filterStack.removeAt(1);
 }
 

@@ -16,7 +16,7 @@ class clsFilterManagement
 {
 public:
     // How many statements can be gone back to, the first one among them.
-    static constexpr qsizetype StatementsKept = 1000;
+    static constexpr qsizetype statementsKept = 1000;
 
     // The manager's state besides its settings, for reading.
     struct Memory

@@ -99,12 +99,12 @@ TEST_F(FilterManagement, NothingShownTakesNoCondition)
 
 TEST_F(FilterManagement, TheFirstStatementAndTheLastOnesCanBeGoneBackTo)
 {
-    for (int i = 1; i <= clsFilterManagement::StatementsKept; ++i)
+    for (int i = 1; i <= clsFilterManagement::statementsKept; ++i)
         manager.LetNewSQLStr(QString::number(i));
-    ASSERT_EQ(Stack().size(), clsFilterManagement::StatementsKept);
+    ASSERT_EQ(Stack().size(), clsFilterManagement::statementsKept);
     EXPECT_EQ(Stack().at(0), kAll);
     EXPECT_EQ(Stack().at(1), u"2"_s);
-    EXPECT_EQ(Stack().last(), QString::number(clsFilterManagement::StatementsKept));
+    EXPECT_EQ(Stack().last(), QString::number(clsFilterManagement::statementsKept));
 }
 
 TEST_F(FilterManagement, StepsBackThroughTheStatements)

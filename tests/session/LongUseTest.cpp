@@ -96,8 +96,8 @@ TEST_F(LongUse, TheLastConditionsAreKeptAndThoseThatTheUserCanGoBackTo)
     choose(u"Rice"_s);
     removeCondition(*session, 0); // no more in the latest statement
     ASSERT_EQ(session->history().Count(), 4);
-    buildMany(ShownStatement::ConditionsKept + 5, u"ToPreview"_s);
-    EXPECT_EQ(session->shown().builtConditions().size(), ShownStatement::ConditionsKept);
+    buildMany(ShownStatement::conditionsKept + 5, u"ToPreview"_s);
+    EXPECT_EQ(session->shown().builtConditions().size(), ShownStatement::conditionsKept);
     EXPECT_EQ(builtInForce(), QStringList(u"Rice"_s));
     session->run(u"ToPreview"_s);
     EXPECT_EQ(builtInForce(), QStringList({u"Price, less, 3"_s, u"Rice"_s}));
@@ -111,31 +111,31 @@ TEST_F(LongUse, TheLastConditionsAreKeptAndThoseThatTheUserCanGoBackTo)
     type(u"ID > 1"_s); // from the first statement: nothing is ahead any more
     session->shown().noteBuilt({u"ID < 2"_s, u"another"_s});
     EXPECT_NE(session->shown().builtConditions().front().condition, u"Price < 3"_s);
-    EXPECT_EQ(session->shown().builtConditions().size(), ShownStatement::ConditionsKept);
+    EXPECT_EQ(session->shown().builtConditions().size(), ShownStatement::conditionsKept);
 }
 
 TEST_F(LongUse, TheFieldsOfTheLastStatementsAreKept)
 {
     ASSERT_TRUE(load());
-    buildMany(ConnectionFieldReader::StatementsKept + 5, u"ToOrigin"_s);
-    EXPECT_EQ(session->fieldReader().countKnown(), ConnectionFieldReader::StatementsKept);
+    buildMany(ConnectionFieldReader::statementsKept + 5, u"ToOrigin"_s);
+    EXPECT_EQ(session->fieldReader().countKnown(), ConnectionFieldReader::statementsKept);
 }
 
 TEST_F(LongUse, TheHistoryKeepsItsFirstStatementAndTheLastOnes)
 {
     ASSERT_TRUE(load());
-    for (qsizetype i = 0; i < ShownStatement::StatementsKept + 5; ++i) {
+    for (qsizetype i = 0; i < ShownStatement::statementsKept + 5; ++i) {
         user.sort = i % 2 == 0 ? u"Name"_s : u"Price"_s;
         session->run(u"Sort"_s);
     }
-    ASSERT_EQ(session->history().Count(), ShownStatement::StatementsKept);
+    ASSERT_EQ(session->history().Count(), ShownStatement::statementsKept);
     EXPECT_EQ(session->history().Item(1)->ShowSQL, u"select * from T"_s);
     const QString shown = statement();
     session->run(u"ToPreview"_s);
     session->run(u"ToPreview"_s);
     EXPECT_EQ(statement(), shown);
     goForward(*session, 2);
-    EXPECT_EQ(session->history().Count(), ShownStatement::StatementsKept);
+    EXPECT_EQ(session->history().Count(), ShownStatement::statementsKept);
     session->run(u"ToOrigin"_s);
     EXPECT_EQ(window.rows.front(), u"1 Tea 3.5"_s);
     EXPECT_TRUE(user.messages.isEmpty());

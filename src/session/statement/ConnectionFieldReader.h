@@ -58,7 +58,7 @@ public:
     void forget();
 
     // More than the statements that commands derive from the one shown and from those shown shortly before.
-    static constexpr std::size_t StatementsKept = 100;
+    static constexpr std::size_t statementsKept = 100;
     // Of how many statements the cache has the fields.
     std::size_t countKnown() const { return m_known.size(); }
 
@@ -81,9 +81,9 @@ private:
     int m_commands = 0;
     bool m_isCancelled = false;
     RecentlyUsed<std::pair<QString, QString>, std::vector<SourceField>> m_known{
-        StatementsKept};                                   // by connection string and key of the statement
-    RecentlyUsed<QString, QString> m_keys{StatementsKept}; // by statement
-    RecentlyUsed<std::pair<QString, QString>, bool> m_accepted{StatementsKept};
+        statementsKept};                                   // by connection string and key of the statement
+    RecentlyUsed<QString, QString> m_keys{statementsKept}; // by statement
+    RecentlyUsed<std::pair<QString, QString>, bool> m_accepted{statementsKept};
 };
 
 } // namespace KOVAVSFDataGridLib

@@ -31,10 +31,10 @@ namespace {
 template<typename Condition>
 void forgetOldest(std::vector<Condition> &conditions, Session &session)
 {
-    if (conditions.size() <= ShownStatement::ConditionsKept)
+    if (conditions.size() <= ShownStatement::conditionsKept)
         return;
     const std::vector<HistoryStep> steps = historySteps(session);
-    std::size_t surplus = conditions.size() - ShownStatement::ConditionsKept;
+    std::size_t surplus = conditions.size() - ShownStatement::conditionsKept;
     std::erase_if(conditions, [&](const Condition &made) {
         const bool isForgotten = surplus > 0 && std::ranges::none_of(steps, [&](const HistoryStep &step) {
                                      return step.statement.contains(made.condition);
@@ -152,7 +152,7 @@ void ShownStatement::addToHistory(const QString &statement, const QString &partF
 {
     m_session.columns().RecordShowSQL(statement, m_session.fields().view(), false, partFields, orderFields,
                                       m_session.texts.connectionString);
-    while (m_session.history().Count() > StatementsKept)
+    while (m_session.history().Count() > statementsKept)
         m_session.history().Remove(2);
 }
 

@@ -51,7 +51,7 @@ public:
     // Both for a statement with an added condition, which becomes the latest entry of the history.
     bool reloadFiltered(const QString &statement, bool isRemembered, QString *refusal = nullptr);
     // The history keeps its first entry and the last ones; so many altogether.
-    static constexpr qsizetype StatementsKept = clsFilterManagement::StatementsKept;
+    static constexpr qsizetype statementsKept = clsFilterManagement::statementsKept;
     // Makes the statement the latest entry of the history and arranges its columns for all or part fields.
     void addToHistory(const QString &statement,
                       const QString &partFields = colShowSQLSentences::NoPartField(),
@@ -77,9 +77,9 @@ public:
     void toggleFromResult();
 
     // What the user's conditions were made from, the latest last; each condition is there once. These are the
-    // last ConditionsKept, also from before a load, because a condition can be typed again. Older ones are
+    // last conditionsKept, also from before a load, because a condition can be typed again. Older ones are
     // kept if a statement that the user can go to has them.
-    static constexpr std::size_t ConditionsKept = 1000;
+    static constexpr std::size_t conditionsKept = 1000;
     const std::vector<BuiltCondition> &builtConditions() const { return m_builtConditions; }
     const std::vector<ChosenValues> &chosenValues() const { return m_chosenValues; }
     void noteBuilt(BuiltCondition condition);
