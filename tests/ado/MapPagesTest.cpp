@@ -1,5 +1,5 @@
-#include "ado/rows/RowStore.h"
 #include "ado/rows/platform/MapPages.h"
+#include "ado/rows/RowStore.h"
 
 #include <QtCore/QByteArray>
 

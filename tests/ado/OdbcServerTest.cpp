@@ -3,6 +3,7 @@
 #include "Throwing.h"
 
 #include "ado/ConnectionString.h"
+#include "ado/automation/Criteria.h"
 #include "ado/connection/OdbcCatalogue.h"
 #include "ado/providers/odbc/OdbcHandle.h"
 
@@ -199,6 +200,32 @@ TEST_P(OnPostgreSql, ShowsDatesThatTheDriverCannotHoldAsTheServerWritesThem)
               u"infinity|0044-03-15 BC|0044-03-15 10:00:00 BC|24:00:00|10000-01-01 00:00:00|"
               "-infinity|2024-02-29 01:02:03.123456|2024-02-29"_s);
     EXPECT_EQ(recordset->CellValue(1, 7), QVariant(QDate(2024, 2, 29)));
+}
+
+// The server's own comparison is the model for the conditions of a recordset.
+TEST_P(OnPostgreSql, TimesAreComparedByTheRecordsetAsByTheServer)
+{
+    const QString moments =
+        u"(VALUES (1, 'infinity'::timestamp), (2, '-infinity'), (3, '0044-03-15 10:00:00 BC'), (4, "
+        u"'12000-01-01'),"
+        " (5, '2024-02-29 01:02:03.123456'), (6, '2024-02-29 01:02:03.123'), (7, '2024-02-29'), (8, NULL)) AS v(id, ts)"_s;
+    const auto shown = open(u"SELECT id, ts FROM "_s + moments + u" ORDER BY id"_s);
+    for (const QString &moment :
+         {u"infinity"_s, u"-infinity"_s, u"0044-03-15 10:00:00 BC"_s, u"12000-01-01"_s, u"2024-02-29"_s,
+          u"2024-02-29 01:02:03.123456"_s, u"2024-02-29 01:02:03.1"_s}) {
+        for (const QString &comparator : {u"="_s, u"<>"_s, u"<"_s, u"<="_s, u">"_s, u">="_s}) {
+            const QString condition = u"ts %1 '%2'"_s.arg(comparator, moment);
+            const auto criteria = Criteria::parse(condition, *shown);
+            QStringList met;
+            for (qint64 record = 1; record <= shown->RecordCount(); ++record) {
+                if (criteria.matches(*shown, record))
+                    met += shown->CellText(record, 0);
+            }
+            const auto expected = ask(u"SELECT coalesce(string_agg(id::text, ' ' ORDER BY id), '') FROM "_s +
+                                      moments + u" WHERE "_s + condition);
+            EXPECT_EQ(met.join(u' '), expected) << condition.toStdString();
+        }
+    }
 }
 
 TEST_P(OnPostgreSql, SeesASecondStatementThroughItsOwnQuotes)

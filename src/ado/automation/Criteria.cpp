@@ -4,9 +4,7 @@
 #include "ado/Recordset.h"
 #include "ado/Texts.h"
 #include "ado/ValueText.h"
-#include "ado/automation/ValueOrder.h"
 #include "ado/values/FieldValue.h"
-#include "ado/values/NumericTypes.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -156,9 +154,11 @@ private:
     {
         Node node;
         node.column = field();
-        node.isNumeric = isNumericType(m_recordset.Fields().Item(node.column).Type());
+        node.as = comparedAs(m_recordset.Fields().Item(node.column).Type());
         node.kind = comparator();
         node.value = value(node);
+        if (node.as == ComparedAs::Times && node.kind != Kind::Like && node.value.isValid())
+            node.instant = instant(node);
         const bool isOrder = node.kind != Kind::Equal && node.kind != Kind::NotEqual;
         if (isOrder && !node.value.isValid())
             fail();
@@ -221,26 +221,25 @@ private:
                 fail();
         }
         const DataTypeEnum type = m_recordset.Fields().Item(node.column).Type();
-        const bool isTimeField =
-            type == adDate || type == adDBDate || type == adDBTimeStamp || type == adDBTime;
+        const bool isTimeField = node.as == ComparedAs::Times;
         if (isDate && (!isTimeField || node.kind == Kind::Like))
             throw Error(adErrInvalidArgument, Texts::dateCriteria().arg(m_text));
-        if (node.kind == Kind::Like)
+        if (node.kind == Kind::Like || isTimeField)
             return text;
-        if (isTimeField) // an automation date without a day is on its day 0
-            text = isoMoment(text.trimmed(), type == adDate ? u"1899-12-30"_s : QString());
         bool fits = false;
-        QVariant value = FieldValue::convert(text, type, &fits);
-        if (fits)
-            return value;
-        if (!isTimeField)
-            return text;
-        // A field of days can be compared with a moment, too.
-        if (type == adDBDate)
-            value = FieldValue::convert(text, adDBTimeStamp, &fits);
-        if (!fits)
+        const QVariant value = FieldValue::convert(text, type, &fits);
+        return fits ? value : text;
+    }
+
+    Instant instant(const Node &node)
+    {
+        const DataTypeEnum type = m_recordset.Fields().Item(node.column).Type();
+        // An automation date without a day is on its day 0.
+        const QString dayOfTimes = type == adDate ? u"1899-12-30"_s : QString();
+        const auto instant = Instant::ofText(isoMoment(node.value.toString().trimmed(), dayOfTimes).toUtf8());
+        if (!instant || instant->hasDay != (type != adDBTime))
             fail();
-        return value;
+        return *instant;
     }
 
     const QString &m_text;
@@ -316,20 +315,27 @@ bool Criteria::compares(const Node &node, const QVariant &cell)
         return false; // a comparison with Null is false
     if (node.kind == Kind::Like)
         return isLike(ValueText(cell), node.value.toString());
-    const int order = compareValues(cell, node.value, node.isNumeric);
+    std::optional<int> order;
+    if (!node.instant)
+        order = compareValues(cell, node.value, node.as);
+    else if (const auto instant =
+                 Instant::of(cell)) // without a time zone in the condition, what is shown counts
+        order = (node.instant->offset ? *instant : instant->local()).compare(*node.instant);
+    if (!order)
+        return node.kind == Kind::NotEqual; // no date, so it has no order
     switch (node.kind) {
     case Kind::Equal:
-        return order == 0;
+        return *order == 0;
     case Kind::NotEqual:
-        return order != 0;
+        return *order != 0;
     case Kind::Less:
-        return order < 0;
+        return *order < 0;
     case Kind::LessOrEqual:
-        return order <= 0;
+        return *order <= 0;
     case Kind::Greater:
-        return order > 0;
+        return *order > 0;
     case Kind::GreaterOrEqual:
-        return order >= 0;
+        return *order >= 0;
     default:
         Q_UNREACHABLE();
     }

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "ado/automation/ValueOrder.h"
+#include "ado/values/Instant.h"
+
 #include <QtCore/QVariant>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace ADODB {
@@ -34,8 +38,9 @@ private:
         Kind kind = Kind::Equal;
         std::vector<Node> parts; // of And and Or
         int column = 0;
-        bool isNumeric = false; // the column's values are numbers
-        QVariant value;         // invalid: Null
+        ComparedAs as = ComparedAs::Stored;
+        QVariant value;                 // invalid: Null
+        std::optional<Instant> instant; // the value of a field of dates or times
     };
     friend class CriteriaParser;
     static bool matches(const Node &node, const Recordset &recordset, qint64 record);

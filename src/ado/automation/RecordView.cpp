@@ -4,7 +4,6 @@
 #include "ado/Recordset.h"
 #include "ado/Texts.h"
 #include "ado/automation/ValueOrder.h"
-#include "ado/values/NumericTypes.h"
 
 #include <algorithm>
 #include <numeric>
@@ -51,7 +50,7 @@ std::vector<RecordView::SortColumn> RecordView::parseSort(const QString &sort) c
         return columns;
     for (const QString &part : sort.split(u',')) {
         QString name = part.trimmed();
-        SortColumn column{0, false, false};
+        SortColumn column{0, false, ComparedAs::Stored};
         for (const auto &[word, isDescending] : {std::pair{u" ASC", false}, std::pair{u" DESC", true}}) {
             if (name.endsWith(QStringView(word), Qt::CaseInsensitive)) {
                 name = name.chopped(QStringView(word).size()).trimmed();
@@ -65,7 +64,7 @@ std::vector<RecordView::SortColumn> RecordView::parseSort(const QString &sort) c
             throw Error(adErrInvalidArgument, Texts::badSort().arg(sort));
         const Field &field = m_recordset.Fields().Item(name);
         column.column = field.Index();
-        column.isNumeric = isNumericType(field.Type());
+        column.as = comparedAs(field.Type());
         columns.push_back(column);
     }
     return columns;
@@ -87,7 +86,7 @@ void RecordView::sortBy(const std::vector<SortColumn> &columns, std::vector<qint
     std::stable_sort(order.begin(), order.end(), [&](std::size_t left, std::size_t right) {
         for (std::size_t i = 0; i < columns.size(); ++i) {
             const int compared = compareValues(values[left * columns.size() + i],
-                                               values[right * columns.size() + i], columns[i].isNumeric);
+                                               values[right * columns.size() + i], columns[i].as);
             if (compared != 0)
                 return columns[i].isDescending ? compared > 0 : compared < 0;
         }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ado/automation/Criteria.h"
+#include "ado/automation/ValueOrder.h"
 
 #include <optional>
 #include <vector>
@@ -41,7 +42,7 @@ private:
     {
         int column;
         bool isDescending;
-        bool isNumeric;
+        ComparedAs as;
     };
     std::vector<SortColumn> parseSort(const QString &sort) const;
     void sortBy(const std::vector<SortColumn> &columns, std::vector<qint64> &records) const;

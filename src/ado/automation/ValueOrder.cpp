@@ -1,6 +1,7 @@
 #include "ado/automation/ValueOrder.h"
 
-#include <QtCore/QDateTime>
+#include "ado/values/Instant.h"
+#include "ado/values/NumericTypes.h"
 
 #include <algorithm>
 
@@ -10,13 +11,15 @@ namespace {
 
 enum class Kind { Null, Number, Time, Text, Bytes };
 
-Kind kindOf(const QVariant &value, bool numeric)
+Kind kindOf(const QVariant &value, ComparedAs as)
 {
-    if (numeric && value.typeId() == QMetaType::QString) {
+    if (as == ComparedAs::Numbers && value.typeId() == QMetaType::QString) {
         bool isNumber = false;
         value.toDouble(&isNumber);
         return isNumber ? Kind::Number : Kind::Text;
     }
+    if (as == ComparedAs::Times && value.typeId() == QMetaType::QString)
+        return Instant::of(value) ? Kind::Time : Kind::Text;
     switch (value.typeId()) {
     case QMetaType::UnknownType:
         return Kind::Null;
@@ -100,24 +103,30 @@ int compareNumbers(const QVariant &left, const QVariant &right)
 
 int compareTimes(const QVariant &left, const QVariant &right)
 {
-    if (left.typeId() == QMetaType::QTime || right.typeId() == QMetaType::QTime)
-        return compared(left.toTime(), right.toTime());
-    if (left.typeId() == right.typeId() && left.typeId() == QMetaType::QDate)
-        return compared(left.toDate(), right.toDate());
-    // A date means its first moment. Both are in the same time zone, whatever it is called.
-    const auto moment = [](const QVariant &value) {
-        return QDateTime(value.toDate(), value.toTime(), Qt::UTC);
-    };
-    return compared(moment(left), moment(right));
+    return Instant::of(left)->compare(*Instant::of(right));
 }
 
 } // namespace
 
-int compareValues(const QVariant &left, const QVariant &right, bool numeric)
+ComparedAs comparedAs(DataTypeEnum type)
 {
-    const Kind kind = kindOf(left, numeric);
-    if (kind != kindOf(right, numeric))
-        return compared(kind, kindOf(right, numeric));
+    switch (type) {
+    case adDate:
+    case adDBDate:
+    case adDBTime:
+    case adDBTimeStamp:
+        return ComparedAs::Times;
+    default:
+        return isNumericType(type) ? ComparedAs::Numbers : ComparedAs::Stored;
+    }
+}
+
+int compareValues(const QVariant &left, const QVariant &right, ComparedAs as)
+{
+    const Kind kind = kindOf(left, as);
+    const Kind rightKind = kindOf(right, as);
+    if (kind != rightKind)
+        return compared(kind, rightKind);
     switch (kind) {
     case Kind::Null:
         return 0;

@@ -130,16 +130,20 @@ int SelectionSummary::compare(const ADODB::RawValue &cell, double number, const 
     return difference.sign();
 }
 
-// The order of their texts is the order in time.
 void SelectionSummary::addDate(const ADODB::RawValue &cell, const Column &column)
 {
-    if (cell.kind != RawKind::Text)
+    const auto instant = cell.kind == RawKind::Text ? ADODB::Instant::ofText(cell.bytes) : std::nullopt;
+    if (!instant)
         return;
     ++m_dates;
-    if (!m_earliest || cell.bytes < m_earliest->bytes)
+    if (!m_earliest || instant->compare(m_earliest->instant) < 0) {
         put(m_earliest, cell, column);
-    if (!m_latest || cell.bytes > m_latest->bytes)
+        m_earliest->instant = *instant;
+    }
+    if (!m_latest || instant->compare(m_latest->instant) > 0) {
         put(m_latest, cell, column);
+        m_latest->instant = *instant;
+    }
 }
 
 void SelectionSummary::put(std::optional<Extreme> &extreme, const ADODB::RawValue &cell, const Column &column,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ado/rows/RowReader.h"
+#include "ado/values/Instant.h"
 #include "export/WriteRecords.h"
 #include "session/records/DecimalSum.h"
 
@@ -48,6 +49,7 @@ private:
         QByteArray bytes;
         ADODB::DataTypeEnum type = ADODB::adEmpty;
         double number = 0;
+        ADODB::Instant instant;
     };
     struct Column
     {

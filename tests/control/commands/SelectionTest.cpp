@@ -101,6 +101,17 @@ TEST_F(SelectionTest, SumsUpNumbersCountsTextsAndOrdersDates)
     EXPECT_EQ(shownSummary(), QString());
 }
 
+TEST_F(SelectionTest, OrdersDatesByTimeNotAsTexts)
+{
+    database.run(u"CREATE TABLE 时刻 (甲 TIMESTAMP);"
+                 "INSERT INTO 时刻 VALUES ('2024-10-27 02:15:00+01'), ('2024-10-27 02:30:00+02'),"
+                 "('2024-10-27 02:20:00+02'), ('later'), (NULL)"_s);
+    ASSERT_TRUE(load(u"SELECT * FROM 时刻"_s, {}));
+    mark(1, 1, 5, 1);
+    EXPECT_EQ(shownSummary(),
+              u"选定行数 5，计数 4，最早 2024-10-27 02:20:00+02，最晚 2024-10-27 02:15:00+01"_s);
+}
+
 TEST_F(SelectionTest, DistinguishesNumbersThatAreEqualAsDoubles)
 {
     ASSERT_TRUE(load(u"SELECT 9007199254740992 + (ID = 1) AS A FROM 商品 WHERE ID < 3 ORDER BY ID"_s, {}));

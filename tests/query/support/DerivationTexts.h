@@ -8,9 +8,9 @@
 namespace KovaTest {
 
 // Of a result with text fields of these names.
-inline KOVAVSFDataGridLib::Derivation derivationOf(
-    const KOVAVSFDataGridLib::EngineMode &engine, const QString &statement, const QStringList &names,
-    KOVAVSFDataGridLib::AllDBType database = KOVAVSFDataGridLib::dbSQLServer)
+inline KOVAVSFDataGridLib::Derivation
+derivationOf(const KOVAVSFDataGridLib::EngineMode &engine, const QString &statement, const QStringList &names,
+             KOVAVSFDataGridLib::AllDBType database = KOVAVSFDataGridLib::dbSQLServer)
 {
     std::vector<KOVAVSFDataGridLib::SourceField> fields;
     for (const QString &name : names)
