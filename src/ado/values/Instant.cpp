@@ -48,15 +48,15 @@ public:
         return true;
     }
 
-    // A number of `least` to `most` digits.
-    std::optional<int> number(qsizetype least, qsizetype most)
+    // A number of `least` to `most` digits; -1 if there is none.
+    int number(qsizetype least, qsizetype most)
     {
         qsizetype count = 0;
         int value = 0;
         while (count < most && count < m_rest.size() && m_rest[count] >= '0' && m_rest[count] <= '9')
             value = value * 10 + (m_rest[count++] - '0');
         if (count < least)
-            return {};
+            return -1;
         m_rest = m_rest.sliced(count);
         return value;
     }
@@ -65,10 +65,11 @@ public:
     std::optional<QDate> date(bool isBeforeChrist)
     {
         const QByteArrayView begin = m_rest;
-        const auto year = number(4, 6);
-        const auto month = year && passed("-") ? number(2, 2) : std::nullopt;
-        const auto day = month && passed("-") ? number(2, 2) : std::nullopt;
-        const QDate date = day ? QDate(isBeforeChrist ? -*year : *year, *month, *day) : QDate();
+        const int year = number(4, 6);
+        const int month = passed("-") ? number(2, 2) : -1;
+        const int day = passed("-") ? number(2, 2) : -1;
+        const bool isRead = year > 0 && month > 0 && day > 0;
+        const QDate date = isRead ? QDate(isBeforeChrist ? -year : year, month, day) : QDate();
         if (date.isValid())
             return date;
         m_rest = begin;
@@ -79,20 +80,19 @@ public:
     bool clock(Instant &instant)
     {
         const bool isNegative = !instant.hasDay && passed("-");
-        const auto hours = number(2, instant.hasDay ? 2 : 3);
-        const auto minutes = hours && passed(":") ? number(2, 2) : std::nullopt;
-        if (!minutes || *minutes > 59 || (instant.hasDay && *hours > 23))
+        const int hours = number(2, instant.hasDay ? 2 : 3);
+        const int minutes = passed(":") ? number(2, 2) : -1;
+        if (hours < 0 || minutes < 0 || minutes > 59 || (instant.hasDay && hours > 23))
             return false;
         int seconds = 0;
         if (passed(":")) {
-            const auto read = number(2, 2);
-            if (!read || *read > 59)
+            seconds = number(2, 2);
+            if (seconds < 0 || seconds > 59)
                 return false;
-            seconds = *read;
             if (passed(".") && !fraction(instant))
                 return false;
         }
-        const qint64 all = (*hours * 60 + *minutes) * 60 + seconds;
+        const qint64 all = (hours * 60 + minutes) * 60 + seconds;
         instant.seconds += isNegative ? -all : all;
         if (isNegative && instant.nanoseconds > 0) {
             --instant.seconds;
@@ -112,18 +112,18 @@ public:
         const bool isWest = passed("-");
         if (!isWest && !passed("+"))
             return false;
-        const auto hours = number(2, 2);
-        if (!hours)
+        const int hours = number(2, 2);
+        if (hours < 0)
             return false;
-        int offset = *hours * 60 * 60;
+        int offset = hours * 60 * 60;
         for (const int unit : {60, 1}) {
             if (isAtEnd())
                 break;
             passed(":");
-            const auto part = number(2, 2);
-            if (!part)
+            const int part = number(2, 2);
+            if (part < 0)
                 return false;
-            offset += *part * unit;
+            offset += part * unit;
         }
         instant.offset = isWest ? -offset : offset;
         return true;
@@ -133,10 +133,9 @@ private:
     bool fraction(Instant &instant)
     {
         const qsizetype before = m_rest.size();
-        const auto read = number(1, 9);
-        if (!read)
+        instant.nanoseconds = number(1, 9);
+        if (instant.nanoseconds < 0)
             return false;
-        instant.nanoseconds = *read;
         for (qsizetype digits = before - m_rest.size(); digits < 9; ++digits)
             instant.nanoseconds *= 10;
         return true;
