@@ -93,15 +93,6 @@ TEST(FilterDays, AreReadFromMonthsAndYears)
             << qUtf8Printable(QString::fromUtf16(each.typed));
 }
 
-TEST(FilterDays, OnlyThoseThatMoveWithTheCalendarAreRelative)
-{
-    for (const QString &word : relativeDayWords())
-        EXPECT_TRUE(areRelativeDays(word)) << qUtf8Printable(word);
-    EXPECT_TRUE(areRelativeDays(u"3月"_s));
-    for (const QString &typed : {u"2024-03"_s, u"2024年"_s, u"2024-03-01"_s, u"x"_s, u""_s})
-        EXPECT_FALSE(areRelativeDays(typed)) << qUtf8Printable(typed);
-}
-
 // On each day of nine years: what must hold of days relative to it.
 TEST(FilterDays, TodayIsInThePresentAndNotInThePast)
 {

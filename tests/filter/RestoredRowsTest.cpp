@@ -94,6 +94,32 @@ TEST(RestoredRows, AreThoseThatWereBuilt)
     EXPECT_FALSE(rowsOfBuilt(elsewhere, u"(数量 < 5 OR 价格 = '大连')"_s));
 }
 
+// A condition can be typed again for another table whose field of this name has another type: rows would
+// write it in another way, and find other records.
+TEST(RestoredRows, AreNotThoseOfAFieldOfAnotherType)
+{
+    const BuiltFilter built{
+        .rows = {{.field = u"数量"_s, .op = FilterOperator::InList, .value = u"5, 10"_s}}};
+    const auto restored = [&](FieldClass fieldClass) {
+        return rowsOf({u"数量 IN (5, 10)"_s, textOf(toJson(built))}, fileDialect,
+                      {{u"数量"_s, u"数量"_s, fieldClass}}, {});
+    };
+    EXPECT_EQ(restored(FieldClass::Number), built.rows);
+    EXPECT_FALSE(restored(FieldClass::Text));
+    EXPECT_FALSE(restored(FieldClass::Boolean));
+}
+
+TEST(RestoredRows, OfDaysThatMoveWithTheCalendarAreThereTheDayAfter)
+{
+    const BuiltFilter built{.rows = {{.field = u"日期"_s, .op = FilterOperator::AtLeast, .value = u"昨天"_s},
+                                     {.field = u"数量"_s, .op = FilterOperator::Less, .value = u"5"_s}}};
+    QStringList written;
+    for (const SentenceTerm &term : termsOf(built.rows, fields))
+        written.append(conditionOf(fileDialect, term.choice, {.today = QDate(2024, 2, 29)}).sql);
+    EXPECT_EQ(rowsOfBuilt(built, written.join(u" AND "_s), {.today = QDate(2024, 2, 29)}), built.rows);
+    EXPECT_EQ(rowsOfBuilt(built, written.join(u" AND "_s), {.today = QDate(2024, 3, 1)}), built.rows);
+}
+
 TEST(RestoredRows, AreRecognizedWhereOneSelectsTheSame)
 {
     const auto recognized = [](const QString &condition, Engine engine = Engine::SQLite,

@@ -156,12 +156,6 @@ std::optional<DayRange> readDays(const QString &typed, QDate today)
     return readRelative(text, today);
 }
 
-bool areRelativeDays(const QString &typed)
-{
-    // Reads the text for two dates that differ in year, month and week.
-    return readDays(typed, {2001, 1, 1}) != readDays(typed, {2003, 6, 11});
-}
-
 QStringList relativeDayWords()
 {
     QStringList words;

@@ -24,9 +24,6 @@ QString narrow(const QString &typed);
 // full-width. No value for any other text.
 std::optional<DayRange> readDays(const QString &typed, QDate today);
 
-// Whether the meaning depends on the current date.
-bool areRelativeDays(const QString &typed);
-
 // The words for relative days that the user can choose from.
 QStringList relativeDayWords();
 

@@ -47,6 +47,20 @@ QString conditionOf(const FilterState &rows, const Dialect &dialect, const std::
     return FilterSql::join(terms);
 }
 
+// Whether the rows would be written as this text, now or on another day if they name one such as yesterday.
+// They would not if they were built for other records, or for a field of another type.
+bool areWrittenAs(const FilterState &rows, const QString &text, const Dialect &dialect,
+                  const std::vector<FilterField> &fields, FilterScope scope)
+{
+    const auto written = [&] { return comparableText(conditionOf(rows, dialect, fields, scope), dialect); };
+    if (written() == comparableText(text, dialect))
+        return true;
+    scope.today = QDate(2001, 1, 1);
+    const QString before = written();
+    scope.today = QDate(2003, 6, 11); // in another week, month and year
+    return written() != before;
+}
+
 // The field with what is ticked but for Null, as the builder would have it typed.
 FilterChoice choiceOf(const FilterField &field, const TickedValues &ticked)
 {
@@ -151,10 +165,7 @@ std::optional<FilterState> rowsOf(const ConditionInForce &condition, const Diale
     if (!built || built->rows.isEmpty() ||
         !std::ranges::all_of(built->rows, [&](const FilterRowState &row) { return isOffered(row, fields); }))
         return std::nullopt;
-    const bool comparesRecords =
-        std::ranges::any_of(built->rows, KOVAVSFDataGridLib::comparesRecords, &FilterRowState::op);
-    if (comparesRecords && comparableText(conditionOf(built->rows, dialect, fields, scope), dialect) !=
-                               comparableText(condition.text, dialect))
+    if (!areWrittenAs(built->rows, condition.text, dialect, fields, scope))
         return std::nullopt;
     return built->rows;
 }
