@@ -2,7 +2,9 @@
 #include "BuilderFixture.h"
 
 #include "ado/Connection.h"
+#include "filter/rows/FilterRows.h"
 
+#include <QtTest/QSignalSpy>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QCompleter>
 
@@ -84,6 +86,19 @@ TEST_F(Builder, AConditionIsPutInAgainAsItWasTyped)
     builder->PutState({.rows = {{.field = u"没有"_s}}});
     EXPECT_EQ(shown(), before);
     EXPECT_EQ(fault("lblNotice"), "这里没有该筛选用到的字段“没有”，或者不能这样比较它。");
+}
+
+// The condition is written once for all rows; for each of hundreds of rows, the dialog would take half a minute.
+TEST_F(Builder, ManyConditionsArePutInAsOneChange)
+{
+    BuiltFilter many;
+    for (int i = 0; i < 60; ++i)
+        many.rows.append({.field = u"金额"_s, .op = FilterOperator::NotEquals, .value = QString::number(i)});
+    const QSignalSpy changes(dialog.findChild<FilterRows *>(), &FilterRows::changed);
+    builder->PutState(many);
+    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(builder->State(), many);
+    EXPECT_EQ(text("txtValue60").text(), u"59"_s);
 }
 
 TEST_F(Builder, SaysHowManyRecordsMeetTheConditionAMomentAfterIt)

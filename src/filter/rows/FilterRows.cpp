@@ -45,6 +45,15 @@ void FilterRows::start(std::shared_ptr<const FilterRowContext> context)
 
 FilterRow *FilterRows::addTo(qsizetype group)
 {
+    FilterRow *const row = append();
+    if (m_outline)
+        m_outline->add(group, m_rows.size() - 1);
+    arrange();
+    return row;
+}
+
+FilterRow *FilterRows::append()
+{
     auto *row = new FilterRow(m_context, this);
     connect(row, &FilterRow::changed, this, &FilterRows::onRowChanged);
     connect(row, &FilterRow::deleteRequested, this, [this, row] { remove(row); });
@@ -56,9 +65,6 @@ FilterRow *FilterRows::addTo(qsizetype group)
     if (!m_rows.isEmpty())
         row->followInTabOrder(m_rows.constLast()->lastPart());
     m_rows.append(row);
-    if (m_outline)
-        m_outline->add(group, m_rows.size() - 1);
-    arrange();
     return row;
 }
 
@@ -137,12 +143,15 @@ std::optional<QString> FilterRows::setState(const FilterState &state)
     const auto outline = std::exchange(m_outline, std::nullopt);
     const qsizetype before = m_rows.size();
     std::optional<QString> missing;
+    // The rows are arranged together below: for each one, the time would grow with the square of their number.
+    QSignalBlocker oneChange(this);
     for (const FilterRowState &each : state) {
-        if (!add()->setState(each)) {
+        if (!append()->setState(each)) {
             missing = each.field;
             break;
         }
     }
+    oneChange.unblock();
     // Removes either the old or the new rows.
     const qsizetype first = missing ? before : 0;
     const qsizetype count = missing ? m_rows.size() - before : before;

@@ -59,6 +59,7 @@ Q_SIGNALS:
 
 private:
     FilterRow *addTo(qsizetype group);
+    FilterRow *append(); // without arranging the rows
     void remove(FilterRow *row);
     FilterGroupHead *newHead();
     QList<FilterSql::Term> frames() const;
