@@ -88,7 +88,8 @@ TEST_F(Builder, AConditionIsPutInAgainAsItWasTyped)
     EXPECT_EQ(fault("lblNotice"), "这里没有该筛选用到的字段“没有”，或者不能这样比较它。");
 }
 
-// The condition is written once for all rows; for each of hundreds of rows, the dialog would take half a minute.
+// The condition is written once for all rows; for each of hundreds of rows, the dialog would take half a
+// minute.
 TEST_F(Builder, ManyConditionsArePutInAsOneChange)
 {
     BuiltFilter many;

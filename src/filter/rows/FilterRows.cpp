@@ -143,7 +143,8 @@ std::optional<QString> FilterRows::setState(const FilterState &state)
     const auto outline = std::exchange(m_outline, std::nullopt);
     const qsizetype before = m_rows.size();
     std::optional<QString> missing;
-    // The rows are arranged together below: for each one, the time would grow with the square of their number.
+    // The rows are arranged together below: for each one, the time would grow with the square of their
+    // number.
     QSignalBlocker oneChange(this);
     for (const FilterRowState &each : state) {
         if (!append()->setState(each)) {
