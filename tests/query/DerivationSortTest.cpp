@@ -77,7 +77,7 @@ TEST(DerivationSort, ASortKeepsItsMeaningWithoutTheAliasesInItsExpressions)
     const auto chosen = [&](Engine engine, const QStringList &aliases) {
         const Dialect dialect = dialectOf(dbSQLServer, engine);
         const std::vector<SourceField> fields{{u"no"_s, 3}, {u"n"_s, 202}, {u"b"_s, 202}, {u"D"_s, 202}};
-        QHash<QString, qsizetype> sizes;
+        StarSizes sizes;
         for (const QString &alias : aliases)
             sizes.insert(alias, 0);
         const Derivation derivation(statement, fields, dialect, sizes);
@@ -148,7 +148,7 @@ TEST(DerivationSort, ByASubselectOfAnAliasKeepsTheStatementWhole)
 {
     const QString statement =
         u"select ID, Dept as abt from Emp order by (select Name from Dept where ID = abt), ID"_s;
-    const auto isTable = [&](Engine engine, const QHash<QString, qsizetype> &sizes) {
+    const auto isTable = [&](Engine engine, const StarSizes &sizes) {
         return Derivation(statement, {{u"ID"_s, 3}, {u"abt"_s, 3}}, dialectOf(dbSQLServer, engine), sizes)
             .isTable();
     };

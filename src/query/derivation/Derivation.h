@@ -6,6 +6,7 @@
 #include "sql/select/SelectParts.h"
 
 #include <QtCore/QHash>
+#include <QtCore/QMap>
 #include <QtCore/QStringList>
 
 #include <map>
@@ -37,7 +38,7 @@ struct OuterTerm
 
 // The number of fields of each star in a list, by the star as Derivation::starsToMeasure returns it. 0 for an
 // alias of Derivation::aliasesToTell that is not a column.
-using StarSizes = QHash<QString, qsizetype>;
+using StarSizes = QMap<QString, qsizetype>;
 
 // Derives from one statement. There are three kinds of statements:
 //
