@@ -192,6 +192,9 @@ void SqliteStatement::fetch(RowStore &rows, const std::function<bool(qint64)> &s
         }
     }
     sqlite3_reset(m_statement.get());
+    // SQLite keeps the last 2 MB of pages, and a long result begins elsewhere when it is read again.
+    if (questions > 1)
+        sqlite3_db_release_memory(db);
 }
 
 // The statistics know only whole tables. The table that has them exists since somebody ran ANALYZE.
