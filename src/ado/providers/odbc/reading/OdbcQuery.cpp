@@ -8,6 +8,7 @@
 #include "ado/providers/odbc/reading/OdbcValueReader.h"
 #include "ado/providers/odbc/waiting/OdbcWatch.h"
 #include "ado/rows/RowStore.h"
+#include "ado/rows/VectorRegisters.h"
 #include "ado/values/FieldValue.h"
 #include "sql/SqlScanner.h"
 
@@ -41,12 +42,14 @@ OdbcColumn columnOf(const FieldInfo &field, bool loose)
 // Returns false if the rows must be read again, value by value.
 bool appendAll(OdbcReader &reader, RowStore &rows, const OdbcWatch &watch)
 {
-    while (reader.fetch(watch)) {
+    for (;;) {
+        emptyUpperRegisters(); // a thread begins with what is in the registers of the one that starts it
+        if (!reader.fetch(watch))
+            return true;
         if (!reader.append(rows))
             return false;
         watch.ask(rows);
     }
-    return true;
 }
 
 } // namespace
