@@ -3,6 +3,7 @@
 
 #include "ado/ValueText.h"
 #include "ado/values/FieldValue.h"
+#include "ado/values/Instant.h"
 
 #include <cstring>
 
@@ -44,6 +45,16 @@ void checkStored(const QVariant &given, DataTypeEnum type)
         Require(ValueText(shown) == ValueText(value));
 }
 
+// What is a time to the fields is one for comparisons, and the same.
+void checkInstant(QByteArrayView bytes)
+{
+    const auto instant = Instant::ofText(bytes);
+    Require(!instant || instant->compare(*instant) == 0);
+    const QVariant moment = FieldValue::fromRaw(RawValue::fromText(bytes), adDBTimeStamp);
+    if (moment.typeId() == QMetaType::QDateTime)
+        Require(instant && instant->compare(*Instant::of(moment)) == 0);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
@@ -56,6 +67,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         return 0;
     const DataTypeEnum type = types[data[0] % std::size(types)];
     const QByteArrayView bytes(reinterpret_cast<const char *>(data) + 1, static_cast<qsizetype>(size - 1));
+    checkInstant(bytes);
     qint64 integer = 0;
     double real = 0;
     if (bytes.size() >= 8) {

@@ -138,6 +138,8 @@ private:
             return false;
         for (qsizetype digits = before - m_rest.size(); digits < 9; ++digits)
             instant.nanoseconds *= 10;
+        while (number(1, 1) >= 0) // finer ones are left out
+            ;
         return true;
     }
 
